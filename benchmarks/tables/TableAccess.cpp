@@ -1,0 +1,106 @@
+#include "TableAccess.h"
+
+#include <cstring>
+#include <ogrsf_frmts.h>
+#include <stdexcept>
+
+namespace vlt::benchmarks {
+
+namespace {
+
+GDALDatasetUniquePtr open(const TableSource &source)
+{
+    CPLStringList drivers;
+    for (const std::string &driver : source.drivers)
+        drivers.AddString(driver.c_str());
+    CPLStringList options;
+    for (const std::string &option : source.options)
+        options.AddString(option.c_str());
+
+    const CPLErrorHandlerPusher quiet(CPLQuietErrorHandler); // the message goes into the error
+    CPLErrorReset();
+    GDALDatasetUniquePtr dataset(GDALDataset::Open(
+        source.connection.c_str(), GDAL_OF_VECTOR | GDAL_OF_READONLY | GDAL_OF_VERBOSE_ERROR,
+        drivers.empty() ? nullptr : drivers.List(), options.empty() ? nullptr : options.List(),
+        nullptr));
+    if (!dataset)
+        throw std::runtime_error(source.connection + ": " + CPLGetLastErrorMsg() +
+                                 " (GDAL_DRIVER_PATH is " +
+                                 CPLGetConfigOption("GDAL_DRIVER_PATH", "not set") + ")");
+    if (dataset->GetLayerCount() < 1)
+        throw std::runtime_error(source.connection + ": no layer");
+    return dataset;
+}
+
+double textSum(const char *text)
+{
+    const std::size_t length = std::strlen(text);
+    if (length == 0)
+        return 0;
+    return static_cast<double>(length) + static_cast<unsigned char>(text[0]) +
+           static_cast<unsigned char>(text[length - 1]);
+}
+
+double fieldSum(const OGRFeature &feature, int field, OGRFieldType type)
+{
+    switch (type) {
+    case OFTInteger:
+        return feature.GetFieldAsInteger(field);
+    case OFTInteger64:
+        return static_cast<double>(feature.GetFieldAsInteger64(field));
+    case OFTReal:
+        return feature.GetFieldAsDouble(field);
+    default:
+        return textSum(feature.GetFieldAsString(field));
+    }
+}
+
+} // namespace
+
+Measurement openAndCount(const TableSource &source)
+{
+    const Stopwatch watch;
+    const GDALDatasetUniquePtr dataset = open(source);
+    OGRLayer *layer = dataset->GetLayer(0);
+    const OGRFeatureDefn *definition = layer->GetLayerDefn();
+    Measurement result;
+    result.fields = definition->GetFieldCount();
+    for (int field = 0; field < result.fields; ++field)
+        result.checksum +=
+            static_cast<double>(std::strlen(definition->GetFieldDefn(field)->GetNameRef()));
+    result.rows = layer->GetFeatureCount(TRUE);
+    result.milliseconds = watch.milliseconds();
+    return result;
+}
+
+Measurement readEverything(const TableSource &source)
+{
+    const Stopwatch watch;
+    const GDALDatasetUniquePtr dataset = open(source);
+    OGRLayer *layer = dataset->GetLayer(0);
+    const OGRFeatureDefn *definition = layer->GetLayerDefn();
+    std::vector<OGRFieldType> types;
+    for (int field = 0; field < definition->GetFieldCount(); ++field)
+        types.push_back(definition->GetFieldDefn(field)->GetType());
+
+    Measurement result;
+    result.fields = static_cast<int>(types.size());
+    while (const OGRFeatureUniquePtr feature{layer->GetNextFeature()}) {
+        ++result.rows;
+        for (int field = 0; field < result.fields; ++field) {
+            if (feature->IsFieldSetAndNotNull(field))
+                result.checksum +=
+                    fieldSum(*feature, field, types[static_cast<std::size_t>(field)]);
+        }
+    }
+    result.milliseconds = watch.milliseconds();
+    return result;
+}
+
+Measurement openAgain(const TableSource &source)
+{
+    openAndCount(source);
+    return openAndCount(source);
+}
+
+} // namespace vlt::benchmarks

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <cstddef>
+
+namespace vlt::tables
+{
+
+/// A stream of bytes read from front to back.
+class ByteSource
+{
+public:
+    virtual ~ByteSource() = default;
+
+    /// Reads up to `size` bytes into `to`; 0 means the end. Throws RefusedFile where the input is damaged.
+    virtual size_t read(char *to, size_t size) = 0;
+};
+
+} // namespace vlt::tables

@@ -1,0 +1,202 @@
+#include "bytes/ChunkedInput.h"
+
+#include "bytes/Refusal.h"
+
+#include <algorithm>
+#include <condition_variable>
+#include <cstring>
+#include <deque>
+#include <exception>
+#include <mutex>
+#include <thread>
+
+namespace vlt::tables
+{
+
+namespace
+{
+
+constexpr size_t ChunkSize = size_t{256} << 10;
+constexpr size_t Headroom = size_t{32} << 10;     ///< room before a chunk for the tail of the one before
+constexpr size_t FirstChunkSize = size_t{64} << 10; ///< what a look at the header needs
+constexpr size_t BuffersAhead = 3;
+constexpr size_t LongestRow = size_t{256} << 20;
+
+} // namespace
+
+struct ChunkedInput::Buffer
+{
+    std::unique_ptr<char[]> bytes = std::make_unique_for_overwrite<char[]>(Headroom + ChunkSize);
+    size_t size = 0;
+    bool last = false;
+
+    char *data() { return bytes.get() + Headroom; }
+};
+
+/// Fills buffers from the source, the first ones in the caller's thread, later ones ahead of it.
+class ChunkedInput::Fetcher
+{
+public:
+    explicit Fetcher(std::unique_ptr<ByteSource> source) : m_source(std::move(source)) {}
+
+    ~Fetcher()
+    {
+        {
+            const std::lock_guard lock(m_mutex);
+            m_stop = true;
+        }
+        m_roomFreed.notify_all();
+        if (m_thread.joinable())
+            m_thread.join();
+    }
+
+    /// The next buffer; null at the end. `spare` is given back for reuse.
+    std::unique_ptr<Buffer> next(std::unique_ptr<Buffer> spare)
+    {
+        if (m_finished)
+            return nullptr;
+        std::unique_ptr<Buffer> buffer;
+        if (m_synchronous > 0)
+        {
+            buffer = spare ? std::move(spare) : std::make_unique<Buffer>();
+            fill(*buffer, m_synchronous == 2 ? FirstChunkSize : ChunkSize);
+            --m_synchronous;
+        }
+        else
+        {
+            if (!m_thread.joinable())
+                m_thread = std::thread([this] { run(); });
+            buffer = wait(std::move(spare));
+        }
+        m_finished = buffer->last;
+        if (buffer->size == 0)
+            return nullptr;
+        return buffer;
+    }
+
+private:
+    void fill(Buffer &buffer, size_t size)
+    {
+        buffer.size = 0;
+        while (buffer.size < size)
+        {
+            const size_t got = m_source->read(buffer.data() + buffer.size, size - buffer.size);
+            if (got == 0)
+                break;
+            buffer.size += got;
+        }
+        buffer.last = buffer.size < size;
+    }
+
+    std::unique_ptr<Buffer> wait(std::unique_ptr<Buffer> spare)
+    {
+        std::unique_lock lock(m_mutex);
+        if (spare)
+            m_spares.push_back(std::move(spare));
+        m_roomFreed.notify_one();
+        m_filled.wait(lock, [this] { return !m_ready.empty() || m_failure; });
+        if (m_ready.empty())
+            std::rethrow_exception(m_failure);
+        std::unique_ptr<Buffer> buffer = std::move(m_ready.front());
+        m_ready.pop_front();
+        m_roomFreed.notify_one();
+        return buffer;
+    }
+
+    void run()
+    {
+        try
+        {
+            bool last = false;
+            while (!last)
+            {
+                std::unique_ptr<Buffer> buffer;
+                {
+                    std::unique_lock lock(m_mutex);
+                    m_roomFreed.wait(lock, [this] { return m_stop || m_ready.size() < BuffersAhead; });
+                    if (m_stop)
+                        return;
+                    if (!m_spares.empty())
+                    {
+                        buffer = std::move(m_spares.back());
+                        m_spares.pop_back();
+                    }
+                }
+                if (!buffer)
+                    buffer = std::make_unique<Buffer>();
+                fill(*buffer, ChunkSize);
+                last = buffer->last;
+                {
+                    const std::lock_guard lock(m_mutex);
+                    m_ready.push_back(std::move(buffer));
+                }
+                m_filled.notify_one();
+            }
+        }
+        catch (...)
+        {
+            const std::lock_guard lock(m_mutex);
+            m_failure = std::current_exception();
+            m_filled.notify_one();
+        }
+    }
+
+    std::unique_ptr<ByteSource> m_source;
+    int m_synchronous = 2; ///< buffers still to be filled in the caller's thread
+    bool m_finished = false;
+    std::thread m_thread;
+    std::mutex m_mutex;
+    std::condition_variable m_filled;
+    std::condition_variable m_roomFreed;
+    std::deque<std::unique_ptr<Buffer>> m_ready;
+    std::vector<std::unique_ptr<Buffer>> m_spares;
+    std::exception_ptr m_failure;
+    bool m_stop = false;
+};
+
+ChunkedInput::ChunkedInput(std::unique_ptr<ByteSource> source) : m_fetcher(std::make_unique<Fetcher>(std::move(source)))
+{
+    static const char nothing[1] = {0};
+    m_begin = m_end = nothing;
+}
+
+ChunkedInput::~ChunkedInput() = default;
+
+bool ChunkedInput::more(const char *keepFrom)
+{
+    std::unique_ptr<Buffer> next = m_fetcher->next(std::move(m_spare));
+    if (!next)
+        return false;
+    takeOver(std::move(next), keepFrom);
+    return true;
+}
+
+void ChunkedInput::takeOver(std::unique_ptr<Buffer> next, const char *keepFrom)
+{
+    const size_t tail = static_cast<size_t>(m_end - keepFrom);
+    if (tail > LongestRow)
+        throw RefusedFile(Refusal::Malformed, "a single row is longer than 256 MiB");
+    if (tail <= Headroom)
+    {
+        char *start = next->data() - tail;
+        if (tail > 0)
+            std::memcpy(start, keepFrom, tail);
+        m_begin = start;
+        m_end = next->data() + next->size;
+        std::vector<char>().swap(m_spill);
+    }
+    else
+    {
+        if (m_spill.empty())
+            m_spill.assign(keepFrom, m_end);
+        else
+            m_spill.erase(m_spill.begin(), m_spill.begin() + (keepFrom - m_spill.data()));
+        m_spill.insert(m_spill.end(), next->data(), next->data() + next->size);
+        m_begin = m_spill.data();
+        m_end = m_spill.data() + m_spill.size();
+    }
+    m_spare = std::move(m_current); // its bytes were copied: free for the next chunk but one
+    m_current = std::move(next);
+}
+
+} // namespace vlt::tables

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "bytes/ByteSource.h"
+
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+struct inflate_state;
+
+namespace vlt::tables
+{
+
+/// Inflates a raw deflate stream and checks it against the CRC that the archive's directory gives.
+///
+/// Nothing is allocated by announced sizes; the stream ends where the deflate data ends.
+class InflateSource : public ByteSource
+{
+public:
+    InflateSource(std::unique_ptr<ByteSource> compressed, uint32_t expectedCrc);
+    ~InflateSource() override;
+
+    size_t read(char *to, size_t size) override;
+
+private:
+    std::unique_ptr<ByteSource> m_compressed;
+    std::unique_ptr<inflate_state> m_state;
+    std::vector<char> m_input;
+    uint32_t m_expectedCrc;
+    uint32_t m_crc = 0;
+    bool m_inputEnded = false;
+};
+
+} // namespace vlt::tables

@@ -1,0 +1,79 @@
+#pragma once
+
+#include "bytes/ByteSource.h"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace vlt::tables
+{
+
+/// What tells one state of a file from another.
+struct FileIdentity
+{
+    uint64_t device = 0;
+    uint64_t inode = 0;
+    int64_t size = 0;
+    int64_t modifiedNs = 0;
+    int64_t changedNs = 0;
+
+    bool operator==(const FileIdentity &) const = default;
+};
+
+/// A local file opened for reading at any offset. Safe to share between threads.
+///
+/// Files are read, not mapped: a table that shrinks while it is read gives an error instead of a crash.
+class InputFile
+{
+public:
+    /// Throws RefusedFile (CannotRead) with the system's reason.
+    static std::shared_ptr<const InputFile> open(const std::string &path);
+    /// Identity of the file at `path`; throws as open() does.
+    static FileIdentity identify(const std::string &path);
+
+    ~InputFile();
+    InputFile(const InputFile &) = delete;
+    InputFile &operator=(const InputFile &) = delete;
+
+    uint64_t size() const { return static_cast<uint64_t>(m_identity.size); }
+    const FileIdentity &identity() const { return m_identity; }
+
+    /// Reads up to `size` bytes at `offset`; fewer only at the end of the file.
+    size_t readAt(uint64_t offset, char *to, size_t size) const;
+    /// Reads exactly `size` bytes; throws RefusedFile (Malformed) where the file ends before.
+    void readExactly(uint64_t offset, char *to, size_t size) const;
+    /// The first bytes of the file, at most `size`.
+    std::string head(size_t size) const;
+
+private:
+    InputFile(int descriptor, const FileIdentity &identity) : m_descriptor(descriptor), m_identity(identity) {}
+
+    int m_descriptor;
+    FileIdentity m_identity;
+};
+
+/// One stretch of a file.
+struct Extent
+{
+    uint64_t offset = 0;
+    uint64_t size = 0;
+};
+
+/// The bytes of stretches of a file, one after another.
+class FileSource : public ByteSource
+{
+public:
+    FileSource(std::shared_ptr<const InputFile> file, std::vector<Extent> extents);
+
+    size_t read(char *to, size_t size) override;
+
+private:
+    std::shared_ptr<const InputFile> m_file;
+    std::vector<Extent> m_extents;
+    size_t m_current = 0;
+    uint64_t m_done = 0; ///< bytes of the current extent that were read
+};
+
+} // namespace vlt::tables

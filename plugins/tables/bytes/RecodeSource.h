@@ -1,0 +1,41 @@
+#pragma once
+
+#include "bytes/ByteSource.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace vlt::tables
+{
+
+/// Turns a stream of any encoding into UTF-8. A leading byte order mark is dropped; a sequence that the encoding
+/// does not know becomes U+FFFD.
+class RecodeSource : public ByteSource
+{
+public:
+    /// Throws RefusedFile (NotSupportedFormat) for an encoding that the system does not know.
+    RecodeSource(std::unique_ptr<ByteSource> source, const std::string &encoding);
+    ~RecodeSource() override;
+
+    size_t read(char *to, size_t size) override;
+
+private:
+    void fillInput();
+
+    std::unique_ptr<ByteSource> m_source;
+    void *m_converter;
+    std::vector<char> m_input;
+    size_t m_inputBegin = 0;
+    size_t m_inputEnd = 0;
+    size_t m_unit = 1; ///< bytes to step over after a sequence that means nothing
+    bool m_inputEnded = false;
+};
+
+/// Name of the encoding that a byte order mark at the start of `head` tells, else empty; `markSize` is its length.
+std::string encodingOfMark(const std::string &head, size_t &markSize);
+
+/// One text in UTF-8.
+std::string recoded(const std::string &text, const std::string &encoding);
+
+} // namespace vlt::tables

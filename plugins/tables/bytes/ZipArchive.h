@@ -1,0 +1,47 @@
+#pragma once
+
+#include "bytes/ByteSource.h"
+#include "bytes/InputFile.h"
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <string>
+
+namespace vlt::tables
+{
+
+/// Reads the members of a ZIP archive (also ZIP64). Only the central directory is trusted.
+///
+/// Source of the format: PKWARE APPNOTE 6.3.
+class ZipArchive
+{
+public:
+    /// Throws RefusedFile (Malformed) where there is no usable central directory.
+    explicit ZipArchive(std::shared_ptr<const InputFile> file);
+
+    bool contains(const std::string &name) const { return find(name) != nullptr; }
+    /// The bytes of a member, stored or deflated. Throws RefusedFile: Malformed when it is missing or damaged,
+    /// Encrypted, NotSupportedFormat for another compression method.
+    std::unique_ptr<ByteSource> open(const std::string &name) const;
+    /// A whole member as text, at most `limit` bytes (Malformed beyond).
+    std::string readAll(const std::string &name, size_t limit) const;
+
+private:
+    struct Member
+    {
+        uint64_t headerOffset = 0;
+        uint64_t compressedSize = 0;
+        uint32_t crc = 0;
+        uint16_t method = 0;
+        uint16_t flags = 0;
+    };
+
+    void readDirectory(uint64_t offset, uint64_t size);
+    const Member *find(const std::string &name) const;
+
+    std::shared_ptr<const InputFile> m_file;
+    std::map<std::string, Member> m_members; ///< by lower-case name: part names compare so in office packages
+};
+
+} // namespace vlt::tables

@@ -1,0 +1,40 @@
+#include "cells/Cell.h"
+
+#include "cells/Numbers.h"
+
+namespace vlt::tables
+{
+
+namespace
+{
+
+constexpr std::string_view Blanks(" \t\r\n\v\f\0", 7);
+constexpr std::string_view NoBreakSpace = "\xC2\xA0";
+
+} // namespace
+
+std::string_view trimmed(std::string_view text)
+{
+    for (;;)
+    {
+        const size_t first = text.find_first_not_of(Blanks);
+        if (first == std::string_view::npos)
+            return {};
+        text = text.substr(first, text.find_last_not_of(Blanks) - first + 1);
+        if (text.starts_with(NoBreakSpace))
+            text.remove_prefix(NoBreakSpace.size());
+        else if (text.ends_with(NoBreakSpace))
+            text.remove_suffix(NoBreakSpace.size());
+        else
+            return text;
+    }
+}
+
+std::string cellText(const Cell &cell)
+{
+    if (cell.kind == Cell::Kind::Number && cell.text.empty())
+        return numberText(cell.number);
+    return std::string(cell.text);
+}
+
+} // namespace vlt::tables

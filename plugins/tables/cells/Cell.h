@@ -1,0 +1,66 @@
+#pragma once
+
+#include <cstdint>
+#include <deque>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace vlt::tables
+{
+
+/// One cell of a table that holds something. Views point into the row's own memory or the workbook's strings and
+/// live until the next row is read.
+struct Cell
+{
+    enum class Kind : uint8_t
+    {
+        Text,
+        Number,  ///< `text` is its decimal form, or empty when only `number` is known
+        Boolean, ///< text TRUE or FALSE
+        Date,    ///< text in ISO 8601 form
+        Error,   ///< text such as #N/A
+    };
+
+    int column = 0; ///< from 0
+    Kind kind = Kind::Text;
+    std::string_view text;
+    double number = 0; ///< meaningful for Number with an empty text
+};
+
+/// The non-empty cells of one row, by ascending column.
+struct Row
+{
+    int64_t number = 0; ///< row of the file as a spreadsheet counts it, from 1
+    std::vector<Cell> cells;
+
+    /// Keeps a text that lies nowhere else for the life of this row.
+    std::string_view keep(std::string text)
+    {
+        m_kept.push_back(std::move(text));
+        return m_kept.back();
+    }
+
+    void clear()
+    {
+        cells.clear();
+        if (!m_kept.empty())
+            m_kept.clear();
+    }
+
+private:
+    std::deque<std::string> m_kept;
+};
+
+/// White space at either end of `text` taken off (spaces, tabs, line ends, no-break spaces).
+std::string_view trimmed(std::string_view text);
+
+/// Text of a cell, a number in its shortest decimal form of at most 15 significant digits.
+std::string cellText(const Cell &cell);
+
+/// Most columns that a table may have: the width of an XLSX sheet.
+constexpr int MostColumns = 16384;
+/// Most columns of a text table, which has no such width.
+constexpr int MostTextColumns = 65536;
+
+} // namespace vlt::tables

@@ -1,0 +1,48 @@
+#include "cells/OpenWorkbook.h"
+
+#include "bytes/CompoundFile.h"
+#include "bytes/Refusal.h"
+#include "cells/text/TextWorkbook.h"
+#include "cells/xls/XlsWorkbook.h"
+#include "cells/xlsx/XlsxWorkbook.h"
+#include "cells/xml/SpreadsheetMlWorkbook.h"
+
+namespace vlt::tables
+{
+
+namespace
+{
+
+constexpr size_t HeadSize = 512;
+
+/// Whether an ASCII text of any character width starts with "<" behind marks and white space.
+bool startsWithTag(const std::string &head)
+{
+    for (const char c : head)
+        if (static_cast<unsigned char>(c) < 0x80 && c != '\0' && c != ' ' && c != '\t' && c != '\r' && c != '\n')
+            return c == '<';
+    return false;
+}
+
+} // namespace
+
+std::unique_ptr<Workbook> openWorkbook(std::shared_ptr<const InputFile> file, const std::string &name,
+                                       const TextHints &hints)
+{
+    const std::string head = file->head(HeadSize);
+    if (head.empty())
+        throw RefusedFile(Refusal::Empty, "the file is empty");
+    if (head.starts_with("PK\x03\x04"))
+        return openXlsx(std::move(file));
+    if (head.starts_with(CompoundFile::Signature))
+        return openXls(std::move(file), true);
+    if (head.size() > 4 && head[0] == '\x09' && (head[1] == '\x08' || head[1] == '\x04' || head[1] == '\x02' || head[1] == '\0') && head[3] == '\0')
+        return openXls(std::move(file), false);
+    if (startsWithTag(head))
+        return openSpreadsheetMl(std::move(file));
+    if (head.starts_with("%PDF-"))
+        throw RefusedFile(Refusal::NotSupportedFormat, "this is a PDF document, not a table");
+    return openText(std::move(file), name, hints);
+}
+
+} // namespace vlt::tables

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "bytes/InputFile.h"
+#include "cells/RowReader.h"
+#include "cells/text/TextFormat.h"
+
+namespace vlt::tables
+{
+
+/// Opens a delimited text as a workbook of one sheet called `name`. Throws RefusedFile.
+std::unique_ptr<Workbook> openText(std::shared_ptr<const InputFile> file, const std::string &name, const TextHints &hints);
+
+} // namespace vlt::tables

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "bytes/InputFile.h"
+#include "cells/StringPool.h"
+#include "cells/xls/XlsRecords.h"
+
+#include <string>
+#include <vector>
+
+namespace vlt::tables
+{
+
+/// The shared string table of a workbook, read as far as it is asked for.
+class XlsStrings
+{
+public:
+    XlsStrings(std::shared_ptr<const InputFile> file, std::vector<Extent> stream)
+        : m_file(std::move(file)), m_stream(std::move(stream))
+    {
+    }
+
+    /// Where the table's record starts in the stream.
+    void setPosition(uint64_t position) { m_position = position; }
+
+    /// The text with that number; empty when there is none. Stays valid for the life of this object.
+    std::string_view at(uint32_t index);
+
+private:
+    bool start();
+    bool readString();
+    bool bytes(void *to, size_t size);
+    bool skip(size_t size);
+    bool readCharacters(size_t count, bool wide);
+
+    std::shared_ptr<const InputFile> m_file;
+    std::vector<Extent> m_stream;
+    uint64_t m_position = 0;
+    std::unique_ptr<XlsRecords> m_records;
+    std::string_view m_rest; ///< of the current record
+    std::string m_text;
+    StringPool m_texts;
+    bool m_ended = false;
+};
+
+/// What the rows of an XLS workbook refer to.
+struct XlsContext
+{
+    std::shared_ptr<XlsStrings> strings;
+    std::vector<bool> dateStyles; ///< by XF number
+    bool datesFrom1904 = false;
+    bool isBiff8 = true;
+    std::string codePage = "CP1252"; ///< of 8-bit texts before BIFF8
+};
+
+/// The part of a stream that starts at `position`.
+std::vector<Extent> extentsFrom(const std::vector<Extent> &stream, uint64_t position);
+
+/// Text of a string with a 16-bit length at `data` (8-bit length with `shortLength`); empty when it is cut.
+std::string xlsText(std::string_view data, const XlsContext &context, bool shortLength = false);
+
+/// Appends UTF-16 (wide) or Latin-1 characters to a UTF-8 text. `surrogate` carries the first half of a pair over.
+void appendXlsCharacters(std::string &to, std::string_view bytes, bool wide, uint32_t &surrogate);
+
+} // namespace vlt::tables

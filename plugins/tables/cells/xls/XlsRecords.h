@@ -1,0 +1,87 @@
+#pragma once
+
+#include "bytes/ChunkedInput.h"
+
+#include <cstdint>
+#include <string_view>
+
+namespace vlt::tables
+{
+
+/// The records of a BIFF stream, one after another. Source of the format: [MS-XLS].
+class XlsRecords
+{
+public:
+    explicit XlsRecords(std::unique_ptr<ByteSource> stream) : m_input(std::move(stream)), m_at(m_input.begin()) {}
+
+    /// Goes to the next record; false at the end of the stream. Data of the one before are lost.
+    bool next()
+    {
+        if (!ensure(HeaderSize))
+            return false;
+        m_type = static_cast<uint16_t>(byte(0) | byte(1) << 8);
+        const size_t size = byte(2) | byte(3) << 8;
+        if (!ensure(HeaderSize + size))
+            return false;
+        m_data = {m_at + HeaderSize, size};
+        m_at += HeaderSize + size;
+        m_position += HeaderSize + size;
+        return true;
+    }
+    /// The type of the record that would come next; 0 at the end. Data of the current one are lost.
+    uint16_t peek() { return ensure(HeaderSize) ? static_cast<uint16_t>(byte(0) | byte(1) << 8) : 0; }
+
+    uint16_t type() const { return m_type; }
+    std::string_view data() const { return m_data; }
+    /// Where the next record starts, counted from the start of the stream that was given.
+    uint64_t position() const { return m_position; }
+
+private:
+    static constexpr size_t HeaderSize = 4;
+
+    unsigned byte(size_t at) const { return static_cast<unsigned char>(m_at[at]); }
+
+    bool ensure(size_t size)
+    {
+        while (static_cast<size_t>(m_input.end() - m_at) < size)
+        {
+            const bool more = m_input.more(m_at);
+            if (!more)
+                return false;
+            m_at = m_input.begin();
+        }
+        return true;
+    }
+
+    ChunkedInput m_input;
+    const char *m_at;
+    uint64_t m_position = 0;
+    uint16_t m_type = 0;
+    std::string_view m_data;
+};
+
+/// Record types that matter here.
+enum XlsRecordType : uint16_t
+{
+    XlsFormula = 0x0006,
+    XlsEof = 0x000A,
+    XlsDateMode = 0x0022,
+    XlsFilePass = 0x002F,
+    XlsContinue = 0x003C,
+    XlsCodePage = 0x0042,
+    XlsBoundSheet = 0x0085,
+    XlsMulRk = 0x00BD,
+    XlsRString = 0x00D6,
+    XlsXf = 0x00E0,
+    XlsSst = 0x00FC,
+    XlsLabelSst = 0x00FD,
+    XlsNumber = 0x0203,
+    XlsLabel = 0x0204,
+    XlsBoolErr = 0x0205,
+    XlsString = 0x0207,
+    XlsRk = 0x027E,
+    XlsFormat = 0x041E,
+    XlsBof = 0x0809,
+};
+
+} // namespace vlt::tables

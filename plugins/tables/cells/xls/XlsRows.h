@@ -1,0 +1,56 @@
+#pragma once
+
+#include "cells/RowReader.h"
+#include "cells/xls/XlsContext.h"
+
+#include <memory>
+
+namespace vlt::tables
+{
+
+/// Rows of one worksheet stream. Cells are expected row by row, as every writer puts them.
+class XlsRows : public RowReader
+{
+public:
+    XlsRows(std::unique_ptr<ByteSource> sheet, std::shared_ptr<const XlsContext> context);
+
+    bool advance() override;
+    int64_t rowNumber() const override { return m_row + 1; }
+    bool hasContent(int lastColumn) override;
+    uint64_t fingerprint() override;
+    void cells(Row &row) override;
+    void leaveOutTexts(const std::vector<char> *columns) override { m_leftOut = columns; }
+
+private:
+    struct RawCell
+    {
+        uint16_t column;
+        uint16_t style;
+        enum class Kind : uint8_t { Number, SharedText, OwnText, Boolean, Error } kind;
+        uint32_t index; ///< of the shared or own text; the boolean or error code
+        double number;
+    };
+
+    bool readRecord();
+    void readMulRk(std::string_view data);
+    void readFormula(std::string_view data);
+    void readBoolErr(std::string_view data);
+    void add(std::string_view data, RawCell::Kind kind, double number, uint32_t index);
+    void addText(std::string_view data, std::string text);
+    std::vector<RawCell> &cellsOf(int row);
+
+    XlsRecords m_records;
+    std::shared_ptr<const XlsContext> m_context;
+    const std::vector<char> *m_leftOut = nullptr;
+
+    bool leavesOut(size_t column) const { return m_leftOut && column < m_leftOut->size() && (*m_leftOut)[column]; }
+    int m_row = -1;
+    std::vector<RawCell> m_cells;
+    std::vector<std::string> m_texts; ///< own texts of this row
+    int m_nextRow = -1;               ///< row of the cells in m_nextCells
+    std::vector<RawCell> m_nextCells; ///< the record that showed that the row is over
+    std::vector<std::string> m_nextTexts;
+    bool m_ended = false;
+};
+
+} // namespace vlt::tables

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "bytes/InputFile.h"
+#include "cells/RowReader.h"
+
+namespace vlt::tables
+{
+
+/// Opens a BIFF8 or BIFF5 workbook, in a compound file or bare. Throws RefusedFile.
+std::unique_ptr<Workbook> openXls(std::shared_ptr<const InputFile> file, bool compound);
+
+} // namespace vlt::tables

@@ -1,0 +1,345 @@
+#include "cells/xlsx/XlsxRows.h"
+
+#include "cells/ByteScan.h"
+#include "cells/Numbers.h"
+#include "cells/OfficeDates.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cstring>
+
+namespace vlt::tables
+{
+
+namespace
+{
+
+constexpr XmlRowFramer::Names SheetNames = {"sheetData", "row", "r"};
+
+bool isBlank(char c)
+{
+    return c == ' ' || c == '\t' || c == '\n' || c == '\r';
+}
+
+uint64_t wholeNumber(std::string_view text)
+{
+    uint64_t value = 0;
+    for (const char c : text)
+    {
+        const auto digit = static_cast<unsigned>(c - '0');
+        if (digit > 9)
+            break;
+        value = value * 10 + digit;
+    }
+    return value;
+}
+
+/// Column of a cell reference such as AB12, from 0; -1 when it is none.
+int columnOf(std::string_view reference)
+{
+    int column = 0;
+    for (const char c : reference)
+    {
+        const auto letter = static_cast<unsigned>((c & ~0x20) - 'A');
+        if (letter >= 26 || column > MostColumns)
+            break;
+        column = column * 26 + static_cast<int>(letter) + 1;
+    }
+    return column - 1;
+}
+
+char typeOf(std::string_view text)
+{
+    if (text == "str")
+        return 't';
+    return text.empty() ? 'n' : text[0]; // s, n, b, e, d, inlineStr
+}
+
+/// Local name of the tag that starts at `p` (behind "<" or "</"); prefixes are skipped.
+const char *localName(const char *p, const char *end)
+{
+    const char *name = p;
+    while (p < end && *p != '>' && *p != '/' && !isBlank(*p))
+        if (*p++ == ':')
+            name = p;
+    return name;
+}
+
+/// Reads the attributes of a c element; returns the place behind its ">", or null. `empty` tells "/>".
+const char *readCellAttributes(const char *p, const char *end, XlsxRawCell &cell, bool &empty)
+{
+    empty = false;
+    for (;;)
+    {
+        while (p < end && isBlank(*p))
+            ++p;
+        if (p >= end)
+            return nullptr;
+        if (*p == '>')
+            return p + 1;
+        if (*p == '/')
+        {
+            empty = true;
+            return p + 1 < end ? p + 2 : nullptr;
+        }
+        const char *name = p;
+        while (p < end && *p != '=')
+            ++p;
+        const char *value = p + 2;
+        if (value >= end)
+            return nullptr;
+        const char quote = p[1];
+        p = value;
+        while (p < end && *p != quote)
+            ++p;
+        const std::string_view text(value, static_cast<size_t>(p - value));
+        ++p;
+        if (*name == 'r' && name[1] == '=')
+        {
+            if (const int column = columnOf(text); column >= 0)
+                cell.column = column;
+        }
+        else if (*name == 's' && name[1] == '=')
+            cell.style = static_cast<int>(wholeNumber(text));
+        else if (*name == 't' && name[1] == '=')
+            cell.type = typeOf(text);
+    }
+}
+
+const char *skipTo(const char *p, const char *end, char wanted)
+{
+    while (p < end && *p != wanted)
+        ++p;
+    return p;
+}
+
+/// Reads the children of a c element up to its closing tag; returns the place behind it.
+const char *readCellContent(const char *p, const char *end, XlsxRawCell &cell)
+{
+    for (;;)
+    {
+        p = skipTo(p, end, '<');
+        if (p >= end)
+            return end;
+        const bool closing = p + 1 < end && p[1] == '/';
+        const char *name = localName(p + (closing ? 2 : 1), end);
+        const char *nameEnd = name;
+        while (nameEnd < end && *nameEnd != '>' && *nameEnd != '/' && !isBlank(*nameEnd))
+            ++nameEnd;
+        const std::string_view local(name, static_cast<size_t>(nameEnd - name));
+        const char *close = skipTo(nameEnd, end, '>');
+        if (closing && local == "c")
+            return std::min(close + 1, end);
+        p = std::min(close + 1, end);
+        if (closing || close >= end || close[-1] == '/')
+            continue;
+        if (local == "v")
+        {
+            XmlTag tag; // comments and the like may stand before the value
+            const char *stop = skipTo(p, end, '<');
+            while (stop == p && nextTag(p, end, tag) && tag.kind == XmlTag::Kind::Other)
+            {
+                p = tag.end;
+                stop = skipTo(p, end, '<');
+            }
+            cell.value = {p, static_cast<size_t>(stop - p)};
+            p = stop;
+        }
+        else if (local == "is")
+        {
+            const char *stop = p;
+            for (;;)
+            {
+                stop = findText(stop, end, "is>");
+                if (stop == end || stop[-1] == '/' || stop[-1] == ':')
+                    break;
+                ++stop;
+            }
+            const char *open = stop;
+            while (open > p && *open != '<')
+                --open;
+            cell.value = {p, static_cast<size_t>(open - p)};
+            p = stop;
+        }
+    }
+}
+
+} // namespace
+
+bool nextXlsxCell(const char *&at, const char *end, int column, XlsxRawCell &cell)
+{
+    for (;;)
+    {
+        const char *p = skipTo(at, end, '<');
+        if (p >= end)
+        {
+            at = end;
+            return false;
+        }
+        ++p;
+        const char *name = *p == 'c' ? p : localName(p, end);
+        if (name + 1 >= end || *name != 'c' || !(isBlank(name[1]) || name[1] == '>' || name[1] == '/') || *p == '/')
+        {
+            at = p;
+            continue;
+        }
+        cell = {};
+        cell.column = column + 1;
+        bool empty = false;
+        p = readCellAttributes(name + 1, end, cell, empty);
+        if (!p)
+        {
+            at = end;
+            return false;
+        }
+        column = cell.column;
+        if (!empty)
+        {
+            constexpr std::string_view Value = "<v>";
+            constexpr std::string_view Closing = "</v></c>";
+            const char *stop = nullptr;
+            if (end - p > 11 && std::memcmp(p, Value.data(), Value.size()) == 0)
+            {
+                p += Value.size();
+                stop = skipTo(p, end, '<');
+            }
+            if (stop && static_cast<size_t>(end - stop) >= Closing.size() &&
+                std::memcmp(stop, Closing.data(), Closing.size()) == 0)
+            {
+                cell.value = {p, static_cast<size_t>(stop - p)};
+                p = stop + Closing.size();
+            }
+            else
+                p = readCellContent(stop ? p - Value.size() : p, end, cell);
+        }
+        at = p;
+        if (!cell.value.empty() && cell.column < MostColumns)
+            return true;
+    }
+}
+
+XlsxRows::XlsxRows(std::unique_ptr<ByteSource> sheet, std::shared_ptr<const XlsxContext> context)
+    : m_framer(std::move(sheet), SheetNames, false, 1, 0), m_context(std::move(context))
+{
+}
+
+bool XlsxRows::hasContent(int lastColumn)
+{
+    // A shared string that is empty is told from others without reading them all: a row of nothing but empty texts
+    // refers to one and the same string, every other row shows a second value soon.
+    const std::string_view inside = m_framer.inside();
+    const char *at = inside.data();
+    const char *end = at + inside.size();
+    XlsxRawCell cell;
+    int column = -1;
+    std::string_view suspect;
+    while (nextXlsxCell(at, end, column, cell))
+    {
+        column = cell.column;
+        if (column > lastColumn)
+            continue;
+        if (cell.type == 's')
+        {
+            if (suspect.empty())
+                suspect = cell.value;
+            else if (suspect != cell.value)
+                return true;
+        }
+        else if (cell.type == 'i')
+        {
+            if (!trimmed(richText(cell.value)).empty())
+                return true;
+        }
+        else if (!trimmed(cell.value).empty())
+            return true;
+    }
+    return !suspect.empty() && !trimmed(m_context->strings->at(wholeNumber(suspect))).empty();
+}
+
+uint64_t XlsxRows::fingerprint()
+{
+    const std::string_view inside = m_framer.inside();
+    const char *at = inside.data();
+    XlsxRawCell cell;
+    return nextXlsxCell(at, at + inside.size(), -1, cell) ? fingerprintOf(cell.value) : 0;
+}
+
+void XlsxRows::collectSharedStrings(std::vector<uint64_t> &numbers) const
+{
+    const std::string_view inside = m_framer.inside();
+    const char *at = inside.data();
+    XlsxRawCell cell;
+    int column = -1;
+    while (nextXlsxCell(at, inside.data() + inside.size(), column, cell))
+    {
+        column = cell.column;
+        if (cell.type == 's')
+            numbers.push_back(wholeNumber(cell.value));
+    }
+}
+
+bool XlsxRows::convert(const XlsxRawCell &raw, Cell &cell, Row &row) const
+{
+    cell = {raw.column, Cell::Kind::Text, raw.value, 0};
+    switch (raw.type)
+    {
+    case 's':
+        if (leavesOut(static_cast<size_t>(raw.column)))
+            return false;
+        cell.text = m_context->strings->at(wholeNumber(raw.value));
+        break;
+    case 'i':
+        cell.text = row.keep(richText(raw.value));
+        break;
+    case 't':
+        if (raw.value.find_first_of("&\r_") != std::string_view::npos)
+            cell.text = row.keep(richText("<t>" + std::string(raw.value) + "</t>"));
+        break;
+    case 'b':
+        cell.kind = Cell::Kind::Boolean;
+        cell.text = raw.value == "0" ? "FALSE" : "TRUE";
+        break;
+    case 'e':
+        cell.kind = Cell::Kind::Error;
+        break;
+    case 'd':
+        cell.kind = Cell::Kind::Date;
+        break;
+    default:
+        cell.kind = Cell::Kind::Number;
+        if (static_cast<size_t>(raw.style) < m_context->dateStyles.size() &&
+            m_context->dateStyles[static_cast<size_t>(raw.style)])
+            if (const auto serial = parseNumber(raw.value))
+                if (std::string date = isoDate(*serial, m_context->datesFrom1904); !date.empty())
+                {
+                    cell.kind = Cell::Kind::Date;
+                    cell.text = row.keep(std::move(date));
+                }
+        return true;
+    }
+    return !trimmed(cell.text).empty();
+}
+
+void XlsxRows::cells(Row &row)
+{
+    row.clear();
+    row.number = rowNumber();
+    const std::string_view inside = m_framer.inside();
+    const char *at = inside.data();
+    const char *end = at + inside.size();
+    XlsxRawCell raw;
+    Cell cell;
+    int column = -1;
+    bool sorted = true;
+    while (nextXlsxCell(at, end, column, raw))
+    {
+        sorted = sorted && raw.column > column;
+        column = raw.column;
+        if (convert(raw, cell, row))
+            row.cells.push_back(cell);
+    }
+    if (!sorted)
+        std::stable_sort(row.cells.begin(), row.cells.end(), [](const Cell &a, const Cell &b) { return a.column < b.column; });
+}
+
+} // namespace vlt::tables

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "cells/RowReader.h"
+#include "cells/xlsx/SharedStrings.h"
+#include "cells/xml/XmlRowFramer.h"
+
+namespace vlt::tables
+{
+
+/// What the cells of an XLSX workbook refer to.
+struct XlsxContext
+{
+    std::shared_ptr<SharedStrings> strings;
+    std::vector<bool> dateStyles; ///< by cell style number
+    bool datesFrom1904 = false;
+};
+
+/// One c element of a sheet, before its text is looked up.
+struct XlsxRawCell
+{
+    int column = 0;
+    char type = 'n'; ///< n number, s shared string, t formula text, i inline string, b boolean, e error, d date
+    int style = 0;
+    std::string_view value; ///< text of v, or the markup inside is
+};
+
+/// Reads the next c element in [at, end) that has a value. `column` is that of the cell before (-1 at first).
+/// False when there is none.
+bool nextXlsxCell(const char *&at, const char *end, int column, XlsxRawCell &cell);
+
+/// Rows of one sheet part.
+class XlsxRows : public RowReader
+{
+public:
+    XlsxRows(std::unique_ptr<ByteSource> sheet, std::shared_ptr<const XlsxContext> context);
+
+    bool advance() override { return m_framer.advance(); }
+    int64_t rowNumber() const override { return m_framer.rowNumber(); }
+    bool hasContent(int lastColumn) override;
+    uint64_t fingerprint() override;
+    void cells(Row &row) override;
+    void leaveOutTexts(const std::vector<char> *columns) override { m_leftOut = columns; }
+
+    /// Appends the numbers of the shared strings that this row uses.
+    void collectSharedStrings(std::vector<uint64_t> &numbers) const;
+
+private:
+    bool convert(const XlsxRawCell &raw, Cell &cell, Row &row) const;
+
+    XmlRowFramer m_framer;
+    std::shared_ptr<const XlsxContext> m_context;
+    const std::vector<char> *m_leftOut = nullptr;
+
+    bool leavesOut(size_t column) const { return m_leftOut && column < m_leftOut->size() && (*m_leftOut)[column]; }
+};
+
+} // namespace vlt::tables

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "bytes/InputFile.h"
+#include "cells/RowReader.h"
+
+namespace vlt::tables
+{
+
+/// Opens an Office Open XML workbook (ECMA-376, transitional or strict), with or without macros.
+/// Throws RefusedFile.
+std::unique_ptr<Workbook> openXlsx(std::shared_ptr<const InputFile> file);
+
+} // namespace vlt::tables

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "cells/RowReader.h"
+#include "cells/xml/XmlRowFramer.h"
+
+namespace vlt::tables
+{
+
+/// Rows of one worksheet of a SpreadsheetML 2003 file.
+class SpreadsheetMlRows : public RowReader
+{
+public:
+    /// The stream starts at `streamOffset`: before the worksheet's Table, or with `insideTable` at a row, which is
+    /// then number `firstRow`.
+    SpreadsheetMlRows(std::unique_ptr<ByteSource> stream, bool insideTable, int64_t firstRow, uint64_t streamOffset);
+
+    bool advance() override { return m_framer.advance(); }
+    int64_t rowNumber() const override { return m_framer.rowNumber(); }
+    bool hasContent(int lastColumn) override;
+    uint64_t fingerprint() override;
+    void cells(Row &row) override;
+    uint64_t position() const override { return m_framer.position(); }
+
+private:
+    XmlRowFramer m_framer;
+};
+
+} // namespace vlt::tables

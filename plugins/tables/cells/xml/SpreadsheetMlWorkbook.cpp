@@ -1,0 +1,182 @@
+#include "cells/xml/SpreadsheetMlWorkbook.h"
+
+#include "bytes/ChunkedInput.h"
+#include "bytes/RecodeSource.h"
+#include "bytes/Refusal.h"
+#include "cells/ByteScan.h"
+#include "cells/xml/SpreadsheetMlRows.h"
+
+#include <algorithm>
+
+namespace vlt::tables
+{
+
+namespace
+{
+
+constexpr size_t HeadSize = 4096;
+constexpr char WebPage[] = "this is a web page, not a workbook: save it as .xlsx or .csv";
+constexpr std::string_view Namespace = "urn:schemas-microsoft-com:office:spreadsheet";
+
+/// The file's bytes as UTF-8 from a place on. Places count decoded bytes.
+struct XmlFile
+{
+    std::shared_ptr<const InputFile> file;
+    size_t markSize = 0;
+    std::string encoding; ///< empty for UTF-8
+
+    bool canJump() const { return encoding.empty(); }
+
+    std::unique_ptr<ByteSource> from(uint64_t offset) const
+    {
+        const uint64_t start = markSize + (canJump() ? offset : 0);
+        auto bytes = std::make_unique<FileSource>(file, std::vector<Extent>{{start, file->size() - start}});
+        if (canJump())
+            return bytes;
+        auto decoded = std::make_unique<RecodeSource>(std::move(bytes), encoding);
+        std::vector<char> skipped(size_t{64} << 10);
+        while (offset > 0)
+        {
+            const size_t got = decoded->read(skipped.data(), static_cast<size_t>(std::min<uint64_t>(offset, skipped.size())));
+            if (got == 0)
+                break;
+            offset -= got;
+        }
+        return decoded;
+    }
+};
+
+class SpreadsheetMlSheet : public Sheet
+{
+public:
+    SpreadsheetMlSheet(XmlFile file, uint64_t offset, std::string name, bool hidden)
+        : m_file(std::move(file)), m_offset(offset), m_name(std::move(name)), m_hidden(hidden)
+    {
+    }
+
+    const std::string &name() const override { return m_name; }
+    bool hidden() const override { return m_hidden; }
+    std::string description() const override { return "SpreadsheetML"; }
+    std::unique_ptr<RowReader> rows() const override
+    {
+        return std::make_unique<SpreadsheetMlRows>(m_file.from(m_offset), false, 1, m_offset);
+    }
+    std::unique_ptr<RowReader> rowsFrom(uint64_t position, int64_t rowNumber) const override
+    {
+        if (!m_file.canJump())
+            return nullptr;
+        return std::make_unique<SpreadsheetMlRows>(m_file.from(position), true, rowNumber, position);
+    }
+
+private:
+    XmlFile m_file;
+    uint64_t m_offset; ///< behind the Worksheet tag
+    std::string m_name;
+    bool m_hidden;
+};
+
+/// Finds the worksheets one after another: the first is usually the only one that anybody asks for.
+class SpreadsheetMlWorkbook : public Workbook
+{
+public:
+    explicit SpreadsheetMlWorkbook(XmlFile file) : m_file(std::move(file)) {}
+
+    std::shared_ptr<Sheet> nextSheet() override
+    {
+        ChunkedInput input(m_file.from(m_offset));
+        const char *at = input.begin();
+        uint64_t windowOffset = m_offset;
+        for (;;)
+        {
+            XmlTag tag;
+            const char *found = findText(at, input.end(), "Worksheet");
+            const char *open = found;
+            while (found != input.end() && open > input.begin() && *open != '<')
+                --open;
+            if (found != input.end() && nextTag(open, input.end(), tag) && tag.begin == open)
+            {
+                at = tag.end;
+                if (!tag.opens("Worksheet"))
+                    continue;
+                m_offset = windowOffset + static_cast<uint64_t>(tag.end - input.begin());
+                const auto name = attribute(tag.attributes, "Name");
+                if (tag.kind == XmlTag::Kind::Open)
+                    return std::make_shared<SpreadsheetMlSheet>(m_file, m_offset, name ? decodeXml(*name) : "Sheet",
+                                                                false);
+                continue;
+            }
+            const size_t window = static_cast<size_t>(input.end() - input.begin());
+            const char *keep = found != input.end() ? open : input.end() - std::min(window, HeadSize);
+            windowOffset += static_cast<uint64_t>(keep - input.begin());
+            if (!input.more(keep))
+                return nullptr;
+            at = input.begin();
+        }
+    }
+
+private:
+    XmlFile m_file;
+    uint64_t m_offset = 0;
+};
+
+/// Encoding that the XML declaration names; empty when it names none.
+std::string declaredEncoding(std::string_view head)
+{
+    if (!head.starts_with("<?xml"))
+        return {};
+    const std::string_view declaration = head.substr(0, head.find("?>"));
+    const auto encoding = attribute(declaration.substr(5), "encoding");
+    return encoding ? std::string(*encoding) : std::string();
+}
+
+std::string uppercase(std::string text)
+{
+    std::transform(text.begin(), text.end(), text.begin(),
+                   [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 32) : c; });
+    return text;
+}
+
+} // namespace
+
+std::unique_ptr<Workbook> openSpreadsheetMl(std::shared_ptr<const InputFile> file)
+{
+    XmlFile xml = {file, 0, {}};
+    const std::string head = file->head(HeadSize);
+    std::string encoding = encodingOfMark(head, xml.markSize);
+    if (encoding.empty() && head.starts_with(std::string_view("<\0", 2)))
+        encoding = "UTF-16LE";
+    else if (encoding.empty() && head.starts_with(std::string_view("\0<", 2)))
+        encoding = "UTF-16BE";
+    else if (encoding.empty())
+        encoding = uppercase(declaredEncoding(head));
+    // SpreadsheetML written under Windows says ISO-8859-1 and means its superset.
+    if (encoding == "ISO-8859-1")
+        encoding = "CP1252";
+    if (encoding != "UTF-8" && encoding != "US-ASCII" && encoding != "ASCII")
+        xml.encoding = encoding;
+    std::string start(HeadSize, '\0');
+    const std::unique_ptr<ByteSource> source = xml.from(0);
+    size_t size = 0;
+    while (const size_t got = size < start.size() ? source->read(start.data() + size, start.size() - size) : 0)
+        size += got;
+    start.resize(size);
+    if (uppercase(start.substr(0, 256)).find("<!DOCTYPE HTML") != std::string::npos)
+        throw RefusedFile(Refusal::NotSupportedFormat, WebPage);
+    XmlCursor cursor(start);
+    XmlTag tag;
+    while (cursor.next(tag))
+    {
+        if (tag.kind != XmlTag::Kind::Open && tag.kind != XmlTag::Kind::Empty)
+            continue;
+        if (tag.name == "Workbook" && tag.attributes.find(Namespace) != std::string_view::npos)
+            return std::make_unique<SpreadsheetMlWorkbook>(std::move(xml));
+        const std::string name = uppercase(std::string(tag.name));
+        if (name == "HTML" || name == "TABLE" || name == "HEAD" || name == "BODY" || name == "META")
+            throw RefusedFile(Refusal::NotSupportedFormat, WebPage);
+        throw RefusedFile(Refusal::NotSupportedFormat, "this XML file is not a SpreadsheetML 2003 workbook: its root element is <" +
+                                                           std::string(tag.name) + ">");
+    }
+    throw RefusedFile(Refusal::Malformed, "the XML file has no root element");
+}
+
+} // namespace vlt::tables

@@ -1,0 +1,210 @@
+#include "cells/xml/XmlScan.h"
+
+#include "bytes/Refusal.h"
+#include "cells/ByteScan.h"
+
+#include <charconv>
+#include <cstdint>
+#include <cstring>
+
+namespace vlt::tables
+{
+
+namespace
+{
+
+constexpr uint32_t LastCodePoint = 0x10FFFF;
+
+bool isBlank(char c)
+{
+    return c == ' ' || c == '\t' || c == '\n' || c == '\r';
+}
+
+void appendUtf8(std::string &to, uint32_t code)
+{
+    if (code < 0x80)
+        to += static_cast<char>(code);
+    else if (code < 0x800)
+    {
+        to += static_cast<char>(0xC0 | code >> 6);
+        to += static_cast<char>(0x80 | (code & 0x3F));
+    }
+    else if (code < 0x10000)
+    {
+        to += static_cast<char>(0xE0 | code >> 12);
+        to += static_cast<char>(0x80 | (code >> 6 & 0x3F));
+        to += static_cast<char>(0x80 | (code & 0x3F));
+    }
+    else
+    {
+        to += static_cast<char>(0xF0 | code >> 18);
+        to += static_cast<char>(0x80 | (code >> 12 & 0x3F));
+        to += static_cast<char>(0x80 | (code >> 6 & 0x3F));
+        to += static_cast<char>(0x80 | (code & 0x3F));
+    }
+}
+
+/// Appends what &name; stands for; false when the name is not known.
+bool appendEntity(std::string &to, std::string_view name)
+{
+    static constexpr struct
+    {
+        std::string_view name;
+        char character;
+    } Known[] = {{"amp", '&'}, {"lt", '<'}, {"gt", '>'}, {"quot", '"'}, {"apos", '\''}};
+    for (const auto &entity : Known)
+        if (entity.name == name)
+        {
+            to += entity.character;
+            return true;
+        }
+    if (name.size() < 2 || name[0] != '#')
+        return false;
+    const bool hex = name[1] == 'x' || name[1] == 'X';
+    const char *digits = name.data() + (hex ? 2 : 1);
+    const char *end = name.data() + name.size();
+    uint32_t code = 0;
+    const auto [stop, error] = std::from_chars(digits, end, code, hex ? 16 : 10);
+    if (error != std::errc() || stop != end || code == 0 || code > LastCodePoint)
+        return false;
+    appendUtf8(to, code);
+    return true;
+}
+
+/// Reads a piece that starts with "<!" or "<?"; false when it is incomplete.
+bool readSpecial(const char *end, XmlTag &tag)
+{
+    const std::string_view rest(tag.begin, static_cast<size_t>(end - tag.begin));
+    std::string_view closing = ">";
+    if (rest.starts_with("<!--"))
+        closing = "-->";
+    else if (rest.starts_with("<![CDATA["))
+        closing = "]]>";
+    else if (rest.starts_with("<?"))
+        closing = "?>";
+    else if (rest.starts_with("<!DOCTYPE"))
+        throw RefusedFile(Refusal::DocumentType,
+                          "the XML file declares a document type, which tables do not need and attacks do");
+    const size_t stop = rest.find(closing, 2);
+    if (stop == std::string_view::npos || (rest.size() < 9 && rest.starts_with("<!")))
+        return false;
+    tag.kind = rest.starts_with("<![CDATA[") ? XmlTag::Kind::CharacterData : XmlTag::Kind::Other;
+    if (tag.kind == XmlTag::Kind::CharacterData)
+        tag.attributes = rest.substr(9, stop - 9);
+    tag.end = tag.begin + stop + closing.size();
+    return true;
+}
+
+} // namespace
+
+bool nextTag(const char *at, const char *end, XmlTag &tag)
+{
+    const void *found = at < end ? std::memchr(at, '<', static_cast<size_t>(end - at)) : nullptr;
+    tag.begin = found ? static_cast<const char *>(found) : end;
+    const char *p = tag.begin + 1;
+    if (!found || p >= end)
+        return false;
+    tag.prefix = tag.name = tag.attributes = {};
+    if (*p == '!' || *p == '?')
+        return readSpecial(end, tag);
+    tag.kind = XmlTag::Kind::Open;
+    if (*p == '/')
+    {
+        tag.kind = XmlTag::Kind::Close;
+        ++p;
+    }
+    const char *name = p;
+    const char *local = p;
+    while (p < end && !isBlank(*p) && *p != '>' && *p != '/')
+    {
+        if (*p == ':')
+            local = p + 1;
+        ++p;
+    }
+    tag.prefix = {name, static_cast<size_t>(local - name)};
+    tag.name = {local, static_cast<size_t>(p - local)};
+    const char *attributes = p;
+    char quote = 0;
+    for (; p < end && (quote || *p != '>'); ++p)
+        if (quote ? *p == quote : (*p == '"' || *p == '\''))
+            quote = quote ? '\0' : *p;
+    if (p >= end)
+        return false;
+    tag.attributes = {attributes, static_cast<size_t>(p - attributes)};
+    if (tag.kind == XmlTag::Kind::Open && p[-1] == '/')
+    {
+        tag.kind = XmlTag::Kind::Empty;
+        if (!tag.attributes.empty())
+            tag.attributes.remove_suffix(1);
+    }
+    tag.end = p + 1;
+    return true;
+}
+
+std::optional<std::string_view> attribute(std::string_view attributes, std::string_view localName)
+{
+    const char *p = attributes.data();
+    const char *end = p + attributes.size();
+    for (;;)
+    {
+        while (p < end && isBlank(*p))
+            ++p;
+        const char *local = p;
+        while (p < end && *p != '=')
+        {
+            if (*p == ':')
+                local = p + 1;
+            ++p;
+        }
+        std::string_view name(local, static_cast<size_t>(p - local));
+        while (!name.empty() && isBlank(name.back()))
+            name.remove_suffix(1);
+        while (p < end && *p != '"' && *p != '\'')
+            ++p;
+        if (p >= end)
+            return std::nullopt;
+        const char *value = p + 1;
+        const void *close = std::memchr(value, *p, static_cast<size_t>(end - value));
+        if (!close)
+            return std::nullopt;
+        p = static_cast<const char *>(close);
+        if (name == localName)
+            return std::string_view(value, static_cast<size_t>(p - value));
+        ++p;
+    }
+}
+
+bool needsDecoding(std::string_view text)
+{
+    return text.find_first_of("&\r") != std::string_view::npos;
+}
+
+std::string decodeXml(std::string_view text)
+{
+    std::string result;
+    result.reserve(text.size());
+    for (size_t at = 0; at < text.size(); ++at)
+    {
+        const size_t semicolon = text[at] == '&' ? text.find(';', at) : std::string_view::npos;
+        if (semicolon != std::string_view::npos && appendEntity(result, text.substr(at + 1, semicolon - at - 1)))
+            at = semicolon;
+        else if (text[at] == '\r')
+        {
+            if (at + 1 == text.size() || text[at + 1] != '\n')
+                result += '\n';
+        }
+        else
+            result += text[at];
+    }
+    return result;
+}
+
+bool XmlCursor::next(XmlTag &tag)
+{
+    if (!nextTag(m_at, m_end, tag))
+        return false;
+    m_at = tag.end;
+    return true;
+}
+
+} // namespace vlt::tables

@@ -1,0 +1,133 @@
+#include "bytes/Refusal.h"
+#include "connection/ConnectionString.h"
+#include "ogr/SiteLayer.h"
+
+#include <cpl_error.h>
+#include <gdal_priv.h>
+
+#include <memory>
+
+namespace vlt::tables
+{
+
+namespace
+{
+
+constexpr char Prefix[] = "site:";
+
+class SiteDataset final : public GDALDataset
+{
+public:
+    explicit SiteDataset(std::unique_ptr<SiteLayer> layer) : m_layer(std::move(layer)) {}
+
+    int GetLayerCount() override { return 1; }
+    OGRLayer *GetLayer(int index) override { return index == 0 ? m_layer.get() : nullptr; }
+
+private:
+    std::unique_ptr<SiteLayer> m_layer;
+};
+
+TableOptions optionsOf(const GDALOpenInfo &info)
+{
+    const auto text = [&info](const char *name)
+    {
+        const char *value = CSLFetchNameValue(info.papszOpenOptions, name);
+        return std::string(value ? value : "");
+    };
+    TableOptions options;
+    options.sheet = text("SHEET");
+    options.encoding = text("ENCODING");
+    options.textOnly = EQUAL(text("TYPES").c_str(), "TEXT");
+    const std::string delimiter = text("DELIMITER");
+    if (EQUAL(delimiter.c_str(), "COMMA"))
+        options.delimiter = ',';
+    else if (EQUAL(delimiter.c_str(), "SEMICOLON"))
+        options.delimiter = ';';
+    else if (EQUAL(delimiter.c_str(), "TAB"))
+        options.delimiter = '\t';
+    else if (EQUAL(delimiter.c_str(), "BAR"))
+        options.delimiter = '|';
+    return options;
+}
+
+int identify(GDALOpenInfo *info)
+{
+    return STARTS_WITH_CI(info->pszFilename, Prefix) && (info->nOpenFlags & GDAL_OF_VECTOR) != 0;
+}
+
+/// Names that GDAL's other file systems would fetch or unpack are refused: tables are local files.
+void refuseRemote(const std::string &path)
+{
+    if (path.empty())
+        throw RefusedFile(Refusal::CannotRead, "no file is named");
+    if (path.starts_with("/vsi") || path.find("://") != std::string::npos)
+        throw RefusedFile(Refusal::CannotRead, "tables are read from local files only");
+}
+
+GDALDataset *open(GDALOpenInfo *info)
+{
+    if (!identify(info))
+        return nullptr;
+    const auto connection = connection::parse(info->pszFilename);
+    if (info->eAccess == GA_Update)
+    {
+        CPLError(CE_Failure, CPLE_NotSupported, "%s: tables of sites are not written", info->pszFilename);
+        return nullptr;
+    }
+    try
+    {
+        refuseRemote(connection->path);
+        auto layer = std::make_unique<SiteLayer>(SiteTable::open(connection->path, optionsOf(*info)),
+                                                 connection->option("s_srs"), connection->option("t_srs"));
+        auto dataset = std::make_unique<SiteDataset>(std::move(layer));
+        dataset->SetDescription(info->pszFilename);
+        return dataset.release();
+    }
+    catch (const RefusedFile &refused)
+    {
+        CPLError(CE_Failure, CPLE_OpenFailed, "%s: %s", connection->path.c_str(), refused.what());
+    }
+    catch (const std::bad_alloc &)
+    {
+        CPLError(CE_Failure, CPLE_OutOfMemory, "%s: out of memory", connection->path.c_str());
+    }
+    return nullptr;
+}
+
+constexpr char OpenOptions[] =
+    "<OpenOptionList>"
+    "<Option name='SHEET' type='string' description='Sheet of a workbook to read; by default the one whose header "
+    "names sites'/>"
+    "<Option name='ENCODING' type='string' description='Encoding of a text file, such as CP1250; by default found from "
+    "its bytes'/>"
+    "<Option name='DELIMITER' type='string-select' description='What separates the columns of a text file' "
+    "default='AUTO'>"
+    "<Value>AUTO</Value><Value>COMMA</Value><Value>SEMICOLON</Value><Value>TAB</Value><Value>BAR</Value></Option>"
+    "<Option name='TYPES' type='string-select' description='Whether columns of numbers become numeric fields' "
+    "default='AUTO'><Value>AUTO</Value><Value>TEXT</Value></Option>"
+    "</OpenOptionList>";
+
+} // namespace
+
+} // namespace vlt::tables
+
+extern "C" CPL_DLL void RegisterOGRVltTables();
+
+// NOLINTNEXTLINE(readability-identifier-naming): the loader derives this name from the file's
+void RegisterOGRVltTables()
+{
+    constexpr char Name[] = "VltTables";
+    if (!GDAL_CHECK_VERSION(Name) || GDALGetDriverByName(Name))
+        return;
+    auto *driver = new GDALDriver();
+    driver->SetDescription(Name);
+    driver->SetMetadataItem(GDAL_DMD_LONGNAME, "Tables of telecom sites (CSV, XLSX, XLS, SpreadsheetML 2003)");
+    driver->SetMetadataItem(GDAL_DCAP_VECTOR, "YES");
+    driver->SetMetadataItem(GDAL_DCAP_OPEN, "YES");
+    driver->SetMetadataItem(GDAL_DMD_CONNECTION_PREFIX, vlt::tables::Prefix);
+    driver->SetMetadataItem(GDAL_DMD_OPENOPTIONLIST, vlt::tables::OpenOptions);
+    driver->SetMetadataItem(GDAL_DMD_SUPPORTED_SQL_DIALECTS, "OGRSQL SQLITE");
+    driver->pfnIdentify = vlt::tables::identify;
+    driver->pfnOpen = vlt::tables::open;
+    GetGDALDriverManager()->RegisterDriver(driver);
+}

@@ -1,0 +1,393 @@
+#include "ogr/SiteLayer.h"
+
+#include "bytes/Refusal.h"
+
+#include <cpl_conv.h>
+#include <cpl_error.h>
+#include <cpl_string.h>
+
+#include <cmath>
+#include <cstring>
+
+namespace vlt::tables
+{
+
+namespace
+{
+
+constexpr size_t MostWarnings = 50;
+constexpr size_t MostProblemsListed = 1000;
+constexpr char ProblemsDomain[] = "problems";
+
+void release(OGRSpatialReference *srs)
+{
+    srs->Release();
+}
+
+/// A system from a code, a WKT or whatever the library understands; bare digits are EPSG codes.
+OGRSpatialReference *makeSrs(const std::string &text)
+{
+    auto *srs = new OGRSpatialReference();
+    srs->SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
+    const bool digits = text.find_first_not_of("0123456789") == std::string::npos;
+    // Only texts: a coordinate system is never fetched nor read from a file.
+    const OGRErr error = digits ? srs->importFromEPSG(atoi(text.c_str()))
+                                : srs->SetFromUserInput(text.c_str(), OGRSpatialReference::SET_FROM_USER_INPUT_LIMITATIONS);
+    if (error == OGRERR_NONE)
+        return srs;
+    srs->Release();
+    throw RefusedFile(Refusal::BadOption, "the coordinate system \"" + text + "\" is not known");
+}
+
+OGRFieldType ogrType(FieldType type)
+{
+    switch (type)
+    {
+    case FieldType::Integer:
+        return OFTInteger;
+    case FieldType::Integer64:
+        return OFTInteger64;
+    case FieldType::Real:
+        return OFTReal;
+    case FieldType::Text:
+        break;
+    }
+    return OFTString;
+}
+
+const char *unitName(CoordinateUnit unit)
+{
+    return unit == CoordinateUnit::Meters ? "METERS" : unit == CoordinateUnit::Dms ? "DMS" : "DEGREES";
+}
+
+} // namespace
+
+std::string describe(const RowProblem &problem)
+{
+    std::string text;
+    if (problem.row > 0)
+        text = "row " + std::to_string(problem.row) + (problem.column.empty() ? ": " : ", ");
+    if (!problem.column.empty())
+        text += "column \"" + problem.column + "\": ";
+    return text + problem.text;
+}
+
+SiteLayer::SiteLayer(std::shared_ptr<SiteTable> table, const std::string &sourceSrs, const std::string &targetSrs)
+    : m_table(std::move(table))
+    , m_definition(new OGRFeatureDefn(m_table->facts().table.sheet.c_str()))
+    , m_fileSrs(nullptr, release)
+    , m_cells(m_table->facts().table)
+    , m_placer(m_table->facts().table, m_table->facts().layout)
+    , m_ignored(m_table->facts().table.fields.size())
+{
+    m_definition->Reference();
+    try
+    {
+        defineFields();
+        setSystems(sourceSrs, targetSrs);
+    }
+    catch (...)
+    {
+        m_definition->Release();
+        throw;
+    }
+    SetDescription(m_definition->GetName());
+    const SiteLayout &layout = m_table->facts().layout;
+    OGRLayer::SetMetadataItem("format", layout.format.c_str());
+    OGRLayer::SetMetadataItem("unit", unitName(layout.unit));
+    OGRLayer::SetMetadataItem("epsg", layout.epsg.c_str());
+}
+
+SiteLayer::~SiteLayer()
+{
+    m_definition->Release();
+}
+
+void SiteLayer::defineFields()
+{
+    for (const Field &field : m_table->facts().table.fields)
+    {
+        OGRFieldDefn definition(field.name.c_str(), ogrType(field.type));
+        m_definition->AddFieldDefn(&definition);
+    }
+    m_definition->SetGeomType(m_table->facts().layout.hasCoordinates() ? wkbPoint : wkbNone);
+}
+
+void SiteLayer::setSystems(const std::string &sourceSrs, const std::string &targetSrs)
+{
+    const SiteLayout &layout = m_table->facts().layout;
+    std::string source = !sourceSrs.empty() ? sourceSrs : layout.epsg;
+    if (source.empty() && layout.unit != CoordinateUnit::Meters)
+        source = "4326";
+    std::unique_ptr<OGRSpatialReference, void (*)(OGRSpatialReference *)> target(nullptr, release);
+    if (!source.empty())
+        m_fileSrs.reset(makeSrs(source));
+    if (!targetSrs.empty())
+        target.reset(makeSrs(targetSrs));
+    if (target && m_fileSrs && !target->IsSame(m_fileSrs.get()))
+    {
+        m_transformation.reset(OGRCreateCoordinateTransformation(m_fileSrs.get(), target.get()));
+        if (!m_transformation)
+            throw RefusedFile(Refusal::BadOption, "there is no way from the coordinate system \"" + source + "\" to \"" + targetSrs + "\"");
+    }
+    // Where the file's system is not known its numbers are taken as the target's, which is said among the problems.
+    m_targetUnreachable = target && !m_fileSrs;
+    if (m_definition->GetGeomFieldCount() > 0)
+        m_definition->GetGeomFieldDefn(0)->SetSpatialRef(target ? target.get() : m_fileSrs.get());
+}
+
+/// Turns a damaged file met while reading into the library's error.
+template <typename Action> auto SiteLayer::guarded(Action action) -> decltype(action())
+{
+    try
+    {
+        return action();
+    }
+    catch (const RefusedFile &refused)
+    {
+        CPLError(CE_Failure, CPLE_FileIO, "%s: %s", GetDescription(), refused.what());
+    }
+    catch (const std::bad_alloc &)
+    {
+        CPLError(CE_Failure, CPLE_OutOfMemory, "%s: out of memory", GetDescription());
+    }
+    m_failed = true;
+    return {};
+}
+
+void SiteLayer::ResetReading()
+{
+    m_rows.reset();
+    m_failed = false;
+}
+
+OGRErr SiteLayer::SetIgnoredFields(const char **names)
+{
+    const OGRErr error = OGRLayer::SetIgnoredFields(names);
+    for (int field = 0; field < m_definition->GetFieldCount(); ++field)
+        m_ignored[static_cast<size_t>(field)] = m_definition->GetFieldDefn(field)->IsIgnored() ? 1 : 0;
+    return error;
+}
+
+void SiteLayer::warn(std::vector<RowProblem> &problems)
+{
+    for (const RowProblem &problem : problems)
+        if (problem.row > m_warnedUpTo && ++m_warnings <= MostWarnings)
+            CPLError(CE_Warning, CPLE_AppDefined, "%s, %s", GetDescription(), describe(problem).c_str());
+    if (m_warnings > MostWarnings && m_warnings - problems.size() <= MostWarnings)
+        CPLError(CE_Warning, CPLE_AppDefined,
+                 "%s: further problems are listed in the layer's metadata domain \"problems\"", GetDescription());
+    problems.clear();
+}
+
+void SiteLayer::setFields(OGRFeature &feature)
+{
+    const std::vector<Field> &fields = m_table->facts().table.fields;
+    const std::vector<const Cell *> &cells = m_cells.cells();
+    for (size_t i = 0; i < fields.size(); ++i)
+    {
+        const Cell *cell = cells[i];
+        if (!cell || m_ignored[i])
+            continue;
+        const int index = static_cast<int>(i);
+        if (fields[i].type != FieldType::Text)
+        {
+            if (m_cells.isNull(i))
+                continue;
+            const double number = m_cells.number(i);
+            if (fields[i].type == FieldType::Real)
+                feature.SetFieldSameTypeUnsafe(index, number);
+            else if (fields[i].type == FieldType::Integer)
+                feature.SetFieldSameTypeUnsafe(index, static_cast<int>(std::llround(number)));
+            else
+                feature.SetFieldSameTypeUnsafe(index, static_cast<GIntBig>(std::llround(number)));
+            continue;
+        }
+        const std::string own = cell->text.empty() ? cellText(*cell) : std::string();
+        const std::string_view text = own.empty() ? cell->text : std::string_view(own);
+        auto *copy = static_cast<char *>(CPLMalloc(text.size() + 1));
+        std::memcpy(copy, text.data(), text.size());
+        copy[text.size()] = '\0';
+        feature.SetFieldSameTypeUnsafe(index, copy);
+    }
+}
+
+bool SiteLayer::placeFeature(OGRFeature &feature)
+{
+    std::vector<RowProblem> problems;
+    const int64_t row = m_rows->rowNumber();
+    m_cells.take(m_rows->cells(), problems);
+    Position position = m_placer.place(row, m_cells.cells(), problems);
+    if (position.found && m_transformation &&
+        (!m_transformation->Transform(1, &position.x, &position.y) || !std::isfinite(position.x) || !std::isfinite(position.y)))
+    {
+        position.found = false;
+        problems.push_back({row, {}, true, "the position lies outside the area of the target coordinate system"});
+    }
+    if (position.found && m_definition->GetGeomFieldCount() > 0 && !m_definition->IsGeometryIgnored())
+    {
+        auto *point = new OGRPoint(position.x, position.y);
+        point->assignSpatialReference(m_definition->GetGeomFieldDefn(0)->GetSpatialRef());
+        feature.SetGeometryDirectly(point);
+    }
+    if (!problems.empty())
+        warn(problems);
+    m_warnedUpTo = std::max(m_warnedUpTo, row);
+    return position.found;
+}
+
+OGRFeature *SiteLayer::readFeature()
+{
+    if (!m_rows)
+        m_rows = m_table->rows();
+    if (!m_rows->advance())
+        return nullptr;
+    auto feature = std::make_unique<OGRFeature>(m_definition);
+    feature->SetFID(m_rows->rowNumber());
+    placeFeature(*feature);
+    setFields(*feature);
+    return feature.release();
+}
+
+OGRFeature *SiteLayer::GetNextFeature()
+{
+    while (!m_failed)
+    {
+        std::unique_ptr<OGRFeature> feature(guarded([this] { return readFeature(); }));
+        if (!feature)
+            break;
+        ++m_nFeaturesRead;
+        if ((!m_poFilterGeom || FilterGeometry(feature->GetGeometryRef())) &&
+            (!m_poAttrQuery || m_poAttrQuery->Evaluate(feature.get())))
+            return feature.release();
+    }
+    return nullptr;
+}
+
+OGRErr SiteLayer::SetNextByIndex(GIntBig index)
+{
+    if (m_poFilterGeom || m_poAttrQuery)
+        return OGRLayer::SetNextByIndex(index);
+    ResetReading();
+    if (index < 0 || static_cast<uint64_t>(index) >= m_table->facts().table.rowCount)
+    {
+        m_failed = true;
+        return OGRERR_FAILURE;
+    }
+    const bool there = guarded(
+        [&]
+        {
+            m_rows = m_table->rows();
+            GIntBig at = 0;
+            while (at < index && m_rows->advance())
+                ++at;
+            return at == index;
+        });
+    return there ? OGRERR_NONE : OGRERR_FAILURE;
+}
+
+OGRFeature *SiteLayer::GetFeature(GIntBig fid)
+{
+    if (fid <= 0)
+        return nullptr;
+    // A walk of its own: reading one after another goes on where it was.
+    std::unique_ptr<DataRows> walk = guarded([this] { return m_table->rows(); });
+    m_rows.swap(walk);
+    OGRFeature *feature = guarded(
+        [&]() -> OGRFeature *
+        {
+            if (!m_rows || !m_rows->seek(fid) || m_rows->rowNumber() != fid)
+                return nullptr;
+            auto found = std::make_unique<OGRFeature>(m_definition);
+            found->SetFID(fid);
+            placeFeature(*found);
+            setFields(*found);
+            return found.release();
+        });
+    m_rows.swap(walk);
+    return feature;
+}
+
+GIntBig SiteLayer::GetFeatureCount(int force)
+{
+    if (m_poFilterGeom || m_poAttrQuery)
+        return OGRLayer::GetFeatureCount(force);
+    return static_cast<GIntBig>(m_table->facts().table.rowCount);
+}
+
+OGRErr SiteLayer::GetExtent(OGREnvelope *extent, int force)
+{
+    if (!m_extent.IsInit())
+    {
+        if (!force)
+            return OGRERR_FAILURE;
+        std::unique_ptr<DataRows> walk = guarded([this] { return m_table->rows(); });
+        if (!walk)
+            return OGRERR_FAILURE;
+        m_rows.swap(walk);
+        guarded(
+            [&]
+            {
+                OGRFeature feature(m_definition);
+                while (m_rows->advance())
+                    if (feature.SetGeometryDirectly(nullptr); placeFeature(feature))
+                        if (const OGRGeometry *point = feature.GetGeometryRef())
+                            m_extent.Merge(point->toPoint()->getX(), point->toPoint()->getY());
+                return true;
+            });
+        m_rows.swap(walk);
+    }
+    *extent = m_extent;
+    return m_extent.IsInit() ? OGRERR_NONE : OGRERR_FAILURE;
+}
+
+int SiteLayer::TestCapability(const char *capability)
+{
+    if (EQUAL(capability, OLCFastFeatureCount))
+        return !m_poFilterGeom && !m_poAttrQuery;
+    if (EQUAL(capability, OLCRandomRead))
+        return !m_table->facts().table.marks.empty();
+    if (EQUAL(capability, OLCFastGetExtent))
+        return m_extent.IsInit();
+    return EQUAL(capability, OLCStringsAsUTF8) || EQUAL(capability, OLCIgnoreFields);
+}
+
+char **SiteLayer::problemsMetadata()
+{
+    if (m_problemsKnown)
+        return m_problems.List();
+    m_problemsKnown = true;
+    std::vector<RowProblem> problems;
+    if (m_targetUnreachable)
+        problems.push_back({0, {}, false, "the coordinate system of the file is not known: its coordinates are taken as they are"});
+    size_t count = problems.size();
+    count += guarded([&] { return m_table->findProblems(MostProblemsListed, problems); });
+    m_problems.SetNameValue("COUNT", std::to_string(count).c_str());
+    for (size_t i = 0; i < problems.size(); ++i)
+    {
+        const RowProblem &problem = problems[i];
+        const std::string row = problem.row > 0 ? std::to_string(problem.row) : std::string();
+        const std::string value = row + '|' + problem.column + '|' + (problem.isError ? "Error" : "Warning") + '|' + problem.text;
+        m_problems.SetNameValue(("PROBLEM_" + std::to_string(i + 1)).c_str(), value.c_str());
+    }
+    return m_problems.List();
+}
+
+char **SiteLayer::GetMetadata(const char *domain)
+{
+    return domain && EQUAL(domain, ProblemsDomain) ? problemsMetadata() : OGRLayer::GetMetadata(domain);
+}
+
+const char *SiteLayer::GetMetadataItem(const char *name, const char *domain)
+{
+    if (domain && EQUAL(domain, ProblemsDomain))
+        return CSLFetchNameValue(problemsMetadata(), name);
+    return OGRLayer::GetMetadataItem(name, domain);
+}
+
+char **SiteLayer::GetMetadataDomainList()
+{
+    return BuildMetadataDomainList(OGRLayer::GetMetadataDomainList(), TRUE, ProblemsDomain, nullptr);
+}
+
+} // namespace vlt::tables

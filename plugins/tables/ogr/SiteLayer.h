@@ -1,0 +1,70 @@
+#pragma once
+
+#include "ogr/SiteTable.h"
+
+#include <ogr_spatialref.h>
+#include <ogrsf_frmts.h>
+
+#include <memory>
+#include <set>
+
+namespace vlt::tables
+{
+
+/// The layer of sites: one point feature per row of the table, its FID the number of the row in the file.
+class SiteLayer final : public OGRLayer
+{
+public:
+    /// Systems as the caller gave them, empty where he gave none. Throws RefusedFile (BadOption).
+    SiteLayer(std::shared_ptr<SiteTable> table, const std::string &sourceSrs, const std::string &targetSrs);
+    ~SiteLayer() override;
+
+    OGRFeatureDefn *GetLayerDefn() override { return m_definition; }
+    void ResetReading() override;
+    OGRFeature *GetNextFeature() override;
+    OGRErr SetNextByIndex(GIntBig index) override;
+    OGRFeature *GetFeature(GIntBig fid) override;
+    GIntBig GetFeatureCount(int force) override;
+    OGRErr GetExtent(OGREnvelope *extent, int force) override;
+    OGRErr GetExtent(int geometryField, OGREnvelope *extent, int force) override
+    {
+        return OGRLayer::GetExtent(geometryField, extent, force);
+    }
+    int TestCapability(const char *capability) override;
+    OGRErr SetIgnoredFields(const char **names) override;
+
+    char **GetMetadata(const char *domain) override;
+    const char *GetMetadataItem(const char *name, const char *domain) override;
+    char **GetMetadataDomainList() override;
+
+private:
+    void setSystems(const std::string &sourceSrs, const std::string &targetSrs);
+    void defineFields();
+    OGRFeature *readFeature();
+    void setFields(OGRFeature &feature);
+    bool placeFeature(OGRFeature &feature);
+    void warn(std::vector<RowProblem> &problems);
+    char **problemsMetadata();
+    template <typename Action> auto guarded(Action action) -> decltype(action());
+
+    std::shared_ptr<SiteTable> m_table;
+    OGRFeatureDefn *m_definition;
+    std::unique_ptr<OGRSpatialReference, void (*)(OGRSpatialReference *)> m_fileSrs;
+    std::unique_ptr<OGRCoordinateTransformation> m_transformation;
+    bool m_targetUnreachable = false; ///< a target system was asked for, but that of the file is not known
+    FieldCells m_cells;
+    SitePlacer m_placer;
+    std::vector<char> m_ignored; ///< by field
+    std::unique_ptr<DataRows> m_rows;
+    bool m_failed = false;
+    int64_t m_warnedUpTo = 0;
+    size_t m_warnings = 0;
+    CPLStringList m_problems;
+    bool m_problemsKnown = false;
+    OGREnvelope m_extent;
+};
+
+/// Forms the text of a problem as it is shown: row and column first.
+std::string describe(const RowProblem &problem);
+
+} // namespace vlt::tables

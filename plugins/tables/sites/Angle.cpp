@@ -1,0 +1,163 @@
+#include "sites/Angle.h"
+
+#include "cells/Cell.h"
+#include "cells/Numbers.h"
+
+#include <array>
+#include <cmath>
+#include <optional>
+#include <string>
+
+namespace vlt::tables
+{
+
+namespace
+{
+
+constexpr double MinutesPerDegree = 60;
+constexpr double SecondsPerDegree = 3600;
+
+bool isNumberByte(char c)
+{
+    return (c >= '0' && c <= '9') || c == '.' || c == ',';
+}
+
+bool isLetter(char c)
+{
+    return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
+}
+
+std::optional<double> number(std::string_view text)
+{
+    const NumberShape shape = numberShape(text);
+    if (text.empty() || text.find_first_not_of("0123456789.,") != std::string_view::npos)
+        return std::nullopt;
+    return parseNumber(text, shape.usesComma ? DecimalMark::Comma : DecimalMark::Point);
+}
+
+Angle fault(const char *why)
+{
+    return {0, 0, why};
+}
+
+/// Sign of a hemisphere letter: 0 none, 2 no hemisphere, 3 ambiguous, 4 of the other axis.
+int hemisphereSign(char letter, Axis axis)
+{
+    switch (letter & ~0x20)
+    {
+    case 'N':
+        return axis == Axis::Y ? 1 : 4;
+    case 'S':
+        return axis == Axis::Y ? -1 : 4;
+    case 'E':
+        return axis == Axis::X ? 1 : 4;
+    case 'W':
+        return axis == Axis::X ? -1 : 4;
+    case 'O':
+        return 3;
+    default:
+        return 2;
+    }
+}
+
+const char *signFault(int sign)
+{
+    return sign == 3   ? "the letter O may mean west (Ouest, Oeste) or east (Ost): use W or E"
+           : sign == 4 ? "the hemisphere letter belongs to the other coordinate"
+                       : "it has a letter that is no hemisphere";
+}
+
+struct Parts
+{
+    std::array<std::string_view, 3> texts;
+    int count = 0;
+};
+
+Angle assemble(const Parts &parts, bool negative, int sign)
+{
+    std::array<double, 3> values = {};
+    for (int i = 0; i < parts.count; ++i)
+    {
+        const std::string_view text = parts.texts[static_cast<size_t>(i)];
+        const std::optional<double> value = number(text);
+        if (!value)
+            return fault("it is not a number");
+        if (i + 1 < parts.count && *value != std::floor(*value))
+            return fault("only the last of degrees, minutes and seconds may have a fraction");
+        if (i > 0 && *value >= MinutesPerDegree)
+            return fault("minutes and seconds must lie below 60");
+        values[static_cast<size_t>(i)] = *value;
+    }
+    if (negative && sign != 0)
+        return fault("it has both a minus sign and a hemisphere letter");
+    const double degrees = values[0] + values[1] / MinutesPerDegree + values[2] / SecondsPerDegree;
+    return {negative || sign < 0 ? -degrees : degrees, parts.count, nullptr};
+}
+
+} // namespace
+
+Angle readAngle(std::string_view text, Axis axis)
+{
+    text = trimmed(text);
+    if (text.empty())
+        return fault("it is empty");
+    Parts parts;
+    int sign = 0;
+    bool negative = false;
+    for (size_t at = 0; at < text.size();)
+    {
+        const char c = text[at];
+        if (isNumberByte(c))
+        {
+            const size_t begin = at;
+            while (at < text.size() && isNumberByte(text[at]))
+                ++at;
+            if (parts.count == 3)
+                return fault("it has more than degrees, minutes and seconds");
+            parts.texts[static_cast<size_t>(parts.count++)] = text.substr(begin, at - begin);
+            continue;
+        }
+        if (c == '-' || c == '+')
+        {
+            if (parts.count > 0 || negative)
+                return fault("it is not an angle");
+            negative = c == '-';
+        }
+        else if (isLetter(c))
+        {
+            const bool unitLetter = parts.count > 0 && ((c | 0x20) == 'd' || (c | 0x20) == 'm' || (parts.count == 3 && c == 's'));
+            if (!unitLetter)
+            {
+                const int letter = hemisphereSign(c, axis);
+                if (letter > 1)
+                    return fault(signFault(letter));
+                if (sign != 0)
+                    return fault("it has two hemisphere letters");
+                sign = letter;
+            }
+        }
+        else if (!(c & 0x80) && std::string_view(" \t'\":*").find(c) == std::string_view::npos)
+            return fault("it is not an angle");
+        ++at; // degree signs, primes and typographic quotes are several bytes above ASCII
+    }
+    return parts.count == 0 ? fault("it is not an angle") : assemble(parts, negative, sign);
+}
+
+Angle joinAngle(std::string_view degrees, std::string_view minutes, std::string_view seconds,
+                std::string_view hemisphere, Axis axis)
+{
+    if (degrees.empty())
+        return fault("it is empty");
+    const bool negative = degrees.starts_with('-');
+    if (negative)
+        degrees.remove_prefix(1);
+    Parts parts = {{degrees, minutes.empty() ? "0" : minutes, seconds.empty() ? "0" : seconds}, 3};
+    int sign = 0;
+    if (!hemisphere.empty())
+        sign = hemisphereSign(hemisphere[0], axis);
+    if (sign > 1)
+        return fault(signFault(sign));
+    return assemble(parts, negative, sign);
+}
+
+} // namespace vlt::tables

@@ -1,0 +1,62 @@
+#include "sites/CoordinatePair.h"
+
+#include "cells/Cell.h"
+#include "sites/Angle.h"
+#include "table/HeaderWords.h"
+
+#include <cmath>
+
+namespace vlt::tables
+{
+
+namespace
+{
+
+constexpr double MostLongitude = 180;
+constexpr double MostLatitude = 90;
+
+CoordinatePair checked(const Angle &x, const Angle &y)
+{
+    if (x.fault || y.fault)
+        return {0, 0, false, x.fault ? x.fault : y.fault};
+    if (std::abs(x.degrees) > MostLongitude || std::abs(y.degrees) > MostLatitude)
+        return {0, 0, false, "it lies outside the globe"};
+    return {x.degrees, y.degrees, x.parts > 1 || y.parts > 1, nullptr};
+}
+
+} // namespace
+
+CoordinatePair readCoordinatePair(std::string_view text)
+{
+    text = trimmed(text);
+    bool longitudeFirst = false;
+    char separator = text.find(';') != std::string_view::npos ? ';' : ',';
+    const bool isPoint = text.size() > 6 && lowerCase(text.substr(0, 5)) == "point";
+    if (isPoint)
+    {
+        const size_t open = text.find('(');
+        const size_t close = text.rfind(')');
+        if (open == std::string_view::npos || close == std::string_view::npos || close < open)
+            return {0, 0, false, "it is not a position"};
+        text = trimmed(text.substr(open + 1, close - open - 1));
+        separator = ' ';
+        longitudeFirst = true;
+    }
+    const size_t cut = text.find(separator);
+    if (cut == std::string_view::npos || cut == 0)
+        return {0, 0, false, "it is not a position"};
+    const std::string_view first = text.substr(0, cut);
+    const std::string_view second = text.substr(cut + 1);
+    // "48,85" alone is a number with a decimal comma: a position shows a point, a degree or a letter somewhere.
+    if (separator == ',' && (second.find(',') != std::string_view::npos ||
+                             text.find_first_of(".NSEWnsew\xC2") == std::string_view::npos))
+        return {0, 0, false, "it is not a position"};
+    if (longitudeFirst)
+        return checked(readAngle(first, Axis::X), readAngle(second, Axis::Y));
+    const Angle latitude = readAngle(first, Axis::Y);
+    if (latitude.fault && !readAngle(first, Axis::X).fault)
+        return checked(readAngle(first, Axis::X), readAngle(second, Axis::Y));
+    return checked(readAngle(second, Axis::X), latitude);
+}
+
+} // namespace vlt::tables

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <string_view>
+
+namespace vlt::tables
+{
+
+/// Both coordinates of a position, in degrees.
+struct CoordinatePair
+{
+    double x = 0;
+    double y = 0;
+    bool inParts = false;        ///< written in degrees, minutes and seconds
+    const char *fault = nullptr; ///< why there is none, in words
+};
+
+/// Reads a cell that holds a whole position: "48.85,2.35" or "48,85;2,35" (latitude first),
+/// 49°11'23.10"N,16°32'13.38"E, POINT(2.27 48.85) (longitude first).
+CoordinatePair readCoordinatePair(std::string_view text);
+
+} // namespace vlt::tables

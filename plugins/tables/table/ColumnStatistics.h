@@ -1,0 +1,51 @@
+#pragma once
+
+#include "cells/Cell.h"
+#include "cells/Numbers.h"
+
+#include <string>
+#include <vector>
+
+namespace vlt::tables
+{
+
+/// How the values of a column are kept.
+enum class FieldType
+{
+    Text,
+    Integer,   ///< 32 bits
+    Integer64,
+    Real,
+};
+
+/// What the sampled cells of a column are.
+class ColumnStatistics
+{
+public:
+    void add(const Cell &cell);
+
+    /// The type that every sampled cell fits. `allRows` tells that no row was left out; otherwise whole numbers
+    /// become Real, so that a fraction further down is not cut off.
+    FieldType type(bool allRows) const;
+    /// Whether a text was met that is no number: further ones change nothing.
+    bool isText() const { return m_texts > 0; }
+    DecimalMark mark() const { return m_commas > 0 ? DecimalMark::Comma : DecimalMark::Point; }
+    size_t filled() const { return m_filled; }
+    /// Some of the texts of the column, as many as decide a question about it.
+    const std::vector<std::string> &samples() const { return m_samples; }
+
+private:
+    size_t m_filled = 0;
+    size_t m_texts = 0;
+    size_t m_numbers = 0;
+    size_t m_fractions = 0;
+    size_t m_commas = 0;
+    size_t m_points = 0;
+    bool m_beyond32 = false;
+    std::vector<std::string> m_samples;
+};
+
+/// Whether a text says that there is no value: NA, N/A, -, --, null, nan, #N/A.
+bool isMissingWord(std::string_view text);
+
+} // namespace vlt::tables

@@ -1,0 +1,236 @@
+#include "table/Table.h"
+
+#include "bytes/Refusal.h"
+
+#include <algorithm>
+#include <set>
+
+namespace vlt::tables
+{
+
+namespace
+{
+
+constexpr uint64_t RowsSampledFirst = 1000;
+constexpr uint64_t SampleEvery = 64; ///< of the rows behind the first ones
+constexpr uint64_t RowsPerMark = 4096;
+constexpr size_t MostSheetsLookedAt = 64;
+constexpr double FullShare = 0.9; ///< a column behind the header counts when this share of the rows fills it
+
+struct Candidate
+{
+    std::shared_ptr<Sheet> sheet;
+    Header header;
+};
+
+bool isConvincing(const Header &header)
+{
+    return header.siteWords >= 2 && header.names.size() >= 2 && header.hasRowsBelow;
+}
+
+/// Visible sheets before hidden ones, then the one with more words of sites, then the earlier.
+bool isBetter(const Candidate &candidate, const Candidate &best)
+{
+    const auto rank = [](const Candidate &c)
+    { return std::make_tuple(!c.sheet->hidden(), c.header.hasRowsBelow, c.header.siteWords >= 2 ? c.header.siteWords : 0); };
+    return rank(candidate) > rank(best);
+}
+
+Candidate chooseSheet(Workbook &workbook, const TableHints &hints)
+{
+    Candidate best;
+    bool anySheet = false;
+    size_t widest = 0;
+    for (size_t seen = 0; seen < MostSheetsLookedAt; ++seen)
+    {
+        const std::shared_ptr<Sheet> sheet = workbook.nextSheet();
+        if (!sheet)
+            break;
+        if (!hints.sheet.empty() && sheet->name() != hints.sheet)
+            continue;
+        anySheet = true;
+        std::optional<Header> header = findHeader(*sheet, widest);
+        if (!header)
+            continue;
+        Candidate candidate = {sheet, std::move(*header)};
+        if (!best.sheet || isBetter(candidate, best))
+            best = std::move(candidate);
+        if (isConvincing(best.header) && !best.sheet->hidden())
+            break;
+    }
+    if (best.sheet)
+        return best;
+    if (!hints.sheet.empty() && !anySheet)
+        throw RefusedFile(Refusal::BadOption, "there is no sheet called \"" + hints.sheet + "\"");
+    if (widest == 0)
+        throw RefusedFile(Refusal::Empty, "there is no cell with a value in the file");
+    if (widest == 1)
+        throw RefusedFile(Refusal::OneColumn, "the file has only one column");
+    throw RefusedFile(Refusal::NoHeader, "no header was found: none of the first rows names its columns");
+}
+
+/// Statistics of the columns, and how many rows were looked at for them.
+struct Sample
+{
+    std::vector<ColumnStatistics> columns;
+    size_t rows = 0;
+
+    void add(const Row &row)
+    {
+        ++rows;
+        if (!row.cells.empty() && static_cast<size_t>(row.cells.back().column) >= columns.size())
+            columns.resize(static_cast<size_t>(row.cells.back().column) + 1);
+        for (const Cell &cell : row.cells)
+            columns[static_cast<size_t>(cell.column)].add(cell);
+    }
+
+    /// The columns that are text whatever else is in them.
+    std::vector<char> textColumns() const
+    {
+        std::vector<char> text(columns.size());
+        std::transform(columns.begin(), columns.end(), text.begin(), [](const ColumnStatistics &column) { return column.isText(); });
+        return text;
+    }
+};
+
+std::string uniqueName(std::string name, std::set<std::string> &taken)
+{
+    for (int number = 2; !taken.insert(name).second; ++number)
+        name = name.substr(0, name.rfind('_') != std::string::npos && number > 2 ? name.rfind('_') : name.size()) + '_' +
+               std::to_string(number);
+    return name;
+}
+
+void makeFields(TableProfile &profile, const Sample &sample, const TableHints &hints)
+{
+    std::set<std::string> taken;
+    const int lastNamed = profile.header.names.rbegin()->first;
+    const int width = std::max(lastNamed + 1, static_cast<int>(sample.columns.size()));
+    for (int column = 0; column < width; ++column)
+    {
+        const auto named = profile.header.names.find(column);
+        const bool hasSample = static_cast<size_t>(column) < sample.columns.size();
+        const ColumnStatistics statistics = hasSample ? sample.columns[static_cast<size_t>(column)] : ColumnStatistics();
+        const bool within = column < lastNamed && statistics.filled() > 0;
+        const bool common = static_cast<double>(statistics.filled()) >= FullShare * static_cast<double>(sample.rows) && statistics.filled() > 1;
+        if (named == profile.header.names.end() && !within && !common)
+            continue;
+        Field field;
+        field.name = uniqueName(named != profile.header.names.end() ? named->second : "Column " + std::to_string(column + 1), taken);
+        field.column = column;
+        field.mark = statistics.mark();
+        field.type = hints.textOnly ? FieldType::Text : statistics.type(profile.allRowsSampled);
+        field.samples = statistics.samples();
+        profile.fields.push_back(std::move(field));
+    }
+    profile.lastColumn = profile.fields.back().column;
+}
+
+/// Looks at all rows: counts them, marks places, takes samples.
+void scan(const Sheet &sheet, const std::shared_ptr<TableProfile> &profile, Sample &sample)
+{
+    profile->rowCount = 0;
+    profile->allRowsSampled = true;
+    profile->marks.clear();
+    DataRows rows(sheet, profile);
+    std::vector<char> textColumns;
+    while (rows.advance())
+    {
+        if (profile->rowCount == RowsSampledFirst)
+        {
+            textColumns = sample.textColumns();
+            rows.leaveOutTexts(&textColumns);
+        }
+        if (profile->rowCount % RowsPerMark == 0 && rows.position() > 0)
+            profile->marks.push_back({rows.rowNumber(), rows.position()});
+        if (profile->rowCount < RowsSampledFirst || profile->rowCount % SampleEvery == 0)
+            sample.add(rows.cells());
+        else
+            profile->allRowsSampled = false;
+        ++profile->rowCount;
+    }
+}
+
+} // namespace
+
+Table readTable(Workbook &workbook, const TableHints &hints)
+{
+    Candidate chosen = chooseSheet(workbook, hints);
+    auto profile = std::make_shared<TableProfile>();
+    profile->sheet = chosen.sheet->name();
+    for (bool settled = false; !settled;)
+    {
+        profile->header = chosen.header;
+        profile->lastColumn = chosen.header.names.rbegin()->first;
+        Sample sample;
+        scan(*chosen.sheet, profile, sample);
+        settled = chosen.sheet->settleEncoding();
+        if (!settled)
+            {
+            size_t widest = 0;
+            chosen.header = findHeader(*chosen.sheet, widest).value_or(chosen.header);
+        }
+        else if (profile->rowCount == 0)
+            throw RefusedFile(Refusal::Empty, "there is a header in row " + std::to_string(profile->header.row) +
+                                                  ", but no row below it");
+        else
+            makeFields(*profile, sample, hints);
+    }
+    if (profile->fields.size() < 2)
+        throw RefusedFile(Refusal::OneColumn, "the table has only one column");
+    profile->description = chosen.sheet->description();
+    return {chosen.sheet, profile};
+}
+
+std::shared_ptr<Sheet> findSheet(Workbook &workbook, const std::string &name)
+{
+    while (std::shared_ptr<Sheet> sheet = workbook.nextSheet())
+        if (sheet->name() == name)
+            return sheet;
+    throw RefusedFile(Refusal::Malformed, "the file has changed while it was read");
+}
+
+DataRows::DataRows(const Sheet &sheet, std::shared_ptr<const TableProfile> profile)
+    : m_sheet(&sheet), m_profile(std::move(profile)), m_rows(sheet.rows())
+{
+}
+
+bool DataRows::isData()
+{
+    m_parsed = false;
+    if (m_rows->rowNumber() <= m_profile->header.row || !m_rows->hasContent(m_profile->lastColumn))
+        return false;
+    return m_rows->fingerprint() != m_profile->header.fingerprint || !repeatsHeader(cells(), m_profile->header);
+}
+
+bool DataRows::advance()
+{
+    while (m_rows->advance())
+        if (isData())
+            return true;
+    return false;
+}
+
+bool DataRows::seek(int64_t row)
+{
+    const std::vector<RowMark> &marks = m_profile->marks;
+    const auto behind = std::upper_bound(marks.begin(), marks.end(), row, [](int64_t r, const RowMark &mark) { return r < mark.row; });
+    std::unique_ptr<RowReader> there;
+    if (behind != marks.begin())
+        there = m_sheet->rowsFrom(std::prev(behind)->position, std::prev(behind)->row);
+    m_rows = there ? std::move(there) : m_sheet->rows();
+    while (advance())
+        if (rowNumber() >= row)
+            return true;
+    return false;
+}
+
+const Row &DataRows::cells()
+{
+    if (!m_parsed)
+        m_rows->cells(m_row);
+    m_parsed = true;
+    return m_row;
+}
+
+} // namespace vlt::tables

@@ -1,0 +1,92 @@
+#pragma once
+
+#include "cells/RowReader.h"
+#include "table/ColumnStatistics.h"
+#include "table/Header.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace vlt::tables
+{
+
+/// One column of a table.
+struct Field
+{
+    std::string name; ///< as in the header; made unique by a number where it is there twice
+    int column = 0;   ///< from 0
+    FieldType type = FieldType::Text;
+    DecimalMark mark = DecimalMark::Point;
+    std::vector<std::string> samples; ///< texts of some of its cells
+};
+
+/// Where a row starts, to go there without reading those before.
+struct RowMark
+{
+    int64_t row = 0; ///< number in the file
+    uint64_t position = 0;
+};
+
+/// What is known about a table without its rows being kept: what an open needs, small enough to remember.
+struct TableProfile
+{
+    std::string sheet;
+    std::string description; ///< kind of file, encoding, delimiter
+    Header header;
+    std::vector<Field> fields;
+    int lastColumn = 0; ///< the last column that is a field
+    uint64_t rowCount = 0;
+    bool allRowsSampled = true;
+    std::vector<RowMark> marks; ///< every few thousand rows, ascending
+};
+
+/// What the user says about the table; empty members are found out.
+struct TableHints
+{
+    std::string sheet;
+    bool textOnly = false; ///< keep every column as text
+};
+
+/// A table: the sheet of a workbook that holds one, and what is known about it.
+struct Table
+{
+    std::shared_ptr<Sheet> sheet;
+    std::shared_ptr<const TableProfile> profile;
+};
+
+/// Finds the sheet whose header is the most convincing and looks at all its rows once.
+/// Throws RefusedFile (NoHeader, OneColumn, Empty, BadOption).
+Table readTable(Workbook &workbook, const TableHints &hints);
+
+/// The sheet that a profile is about, in a workbook that was opened again.
+std::shared_ptr<Sheet> findSheet(Workbook &workbook, const std::string &name);
+
+/// The rows of a table that hold data: below the header, not empty, not the header once more.
+class DataRows
+{
+public:
+    DataRows(const Sheet &sheet, std::shared_ptr<const TableProfile> profile);
+
+    /// Goes to the next row of data; false after the last.
+    bool advance();
+    /// Goes to the row with that number, or to the next one behind it; false when there is none.
+    bool seek(int64_t row);
+    int64_t rowNumber() const { return m_rows->rowNumber(); }
+    uint64_t position() const { return m_rows->position(); }
+    /// See RowReader::leaveOutTexts().
+    void leaveOutTexts(const std::vector<char> *columns) { m_rows->leaveOutTexts(columns); }
+    /// The cells of the row; views live until the next row.
+    const Row &cells();
+
+private:
+    bool isData();
+
+    const Sheet *m_sheet;
+    std::shared_ptr<const TableProfile> m_profile;
+    std::unique_ptr<RowReader> m_rows;
+    Row m_row;
+    bool m_parsed = false;
+};
+
+} // namespace vlt::tables

@@ -1,0 +1,60 @@
+#include "batch/InfoCommand.h"
+
+#include "batch/Console.h"
+#include "batch/Help.h"
+#include "batch/InfoReport.h"
+#include "batch/StartUp.h"
+
+#include <QFileInfo>
+
+namespace vlt::batch {
+
+namespace {
+
+const QString Examples =
+    QStringLiteral("\nExamples:\n"
+                   "  vltlayers info sites.xlsx\n"
+                   "  vltlayers info --project city.gvw --json \"my sites.csv\"\n");
+
+ExitStatus report(const QString &table, const GlobalOptions &options,
+                  const Surroundings &surroundings)
+{
+    InfoReport info;
+    info.file = sites::readSiteFileInfo(QFileInfo(table).absoluteFilePath(), surroundings.project);
+    if (info.file.error)
+        return refuse({info.file.error->key, info.file.error->text, table}, info.file.errorDetail);
+
+    const QString connection = QStringLiteral("site:") + info.file.filePath;
+    info.columns = sites::recogniseSiteColumns(connection, QString());
+    const Result<geodata::LayerProblems> problems = geodata::readProblems(connection);
+    if (!problems)
+        return refuse({problems.error().key, problems.error().text, table});
+    info.problems = problems.value();
+    if (!printOut(options.json ? reportJson(info) : reportText(info)))
+        return refuse({QString(), QStringLiteral("the output cannot be written"), {}});
+    return ExitStatus::Done;
+}
+
+} // namespace
+
+ExitStatus runInfo(const QStringList &arguments)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral(
+        "Tells what a site table holds: format, unit, coordinate systems, recognised columns, and "
+        "the rows that cannot be used."));
+    parser.addPositionalArgument(QStringLiteral("TABLE"),
+                                 QStringLiteral("Site table (.xls .xlsx .xml .csv)."),
+                                 QStringLiteral("info TABLE"));
+    addGlobalOptions(parser);
+    const Result<GlobalOptions> options = parseArguments(parser, arguments, 1);
+    if (const auto answered = answerHelp(parser, options, Examples))
+        return *answered;
+
+    const Result<Surroundings> surroundings = startUp(options.value());
+    if (!surroundings)
+        return refuse(surroundings.error());
+    return report(parser.positionalArguments().constFirst(), options.value(), surroundings.value());
+}
+
+} // namespace vlt::batch

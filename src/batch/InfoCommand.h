@@ -1,0 +1,10 @@
+#pragma once
+
+#include "batch/CommandLine.h"
+
+namespace vlt::batch {
+
+/// "vltlayers info TABLE": what a site table holds and what of it cannot be used.
+ExitStatus runInfo(const QStringList &arguments);
+
+} // namespace vlt::batch

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "geodata/LayerProblems.h"
+#include "sites/SiteColumnSet.h"
+#include "sites/SiteFileInfo.h"
+
+namespace vlt::batch {
+
+/// What "vltlayers info" tells of a table.
+struct InfoReport
+{
+    sites::SiteFileInfo file;
+    sites::SiteColumnSet columns;
+    geodata::LayerProblems problems;
+};
+
+/// For people: labelled lines in the chosen language.
+QString reportText(const InfoReport &report);
+
+/// For programs: one JSON object, with a line feed at its end.
+QString reportJson(const InfoReport &report);
+
+} // namespace vlt::batch

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "platform/Result.h"
+#include "sites/SiteRepresentation.h"
+
+#include <QCommandLineParser>
+
+namespace vlt::batch {
+
+/// Makes the parser know one option for each value of the site representation.
+void addSiteOptions(QCommandLineParser &parser);
+
+/// The representation that the options describe; what is not given has its first-run value.
+///
+/// Pylon types are named by type, colour sets by description, both also by their number in the
+/// catalogue, from 1.
+///
+/// @par Errors   no key; which option has which wrong value.
+Result<sites::SiteRepresentation> readSiteOptions(const QCommandLineParser &parser,
+                                                  const sites::SiteCatalogues &catalogues);
+
+/// Checks the numbers apart from the catalogues, which are known only after start-up.
+Result<sites::SiteRepresentation> readSiteNumbers(const QCommandLineParser &parser);
+
+} // namespace vlt::batch

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "batch/CommandLine.h"
+#include "sites/ProjectContext.h"
+
+namespace vlt::batch {
+
+/// What a command works in.
+struct Surroundings
+{
+    QString installDir; ///< absolute
+    QString language;   ///< language code
+    sites::ProjectContext project;
+};
+
+/// Settles install directory and language, loads the messages, sets the geodata library up and
+/// reads the project.
+///
+/// @par Errors   MESS_OUV_PRJ_IMP for a project that cannot be read; an install directory that is
+/// not there.
+Result<Surroundings> startUp(const GlobalOptions &options);
+
+} // namespace vlt::batch

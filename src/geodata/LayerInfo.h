@@ -1,0 +1,32 @@
+#pragma once
+
+#include "platform/Result.h"
+
+#include <QMap>
+#include <QStringList>
+
+namespace vlt::geodata {
+
+/// What a layer says of itself, without its features.
+struct LayerInfo
+{
+    bool present = false; ///< whether the dataset has a layer of the asked index
+    QString layerName;
+    qint64 featureCount = 0;
+    QStringList fields;              ///< in the layer's order, decoded from UTF-8 or else Latin-1
+    QMap<QString, QString> metadata; ///< default domain; keys in lower case
+};
+
+/// Opens a table connection and reads the layer of index `layerIndex` (from 0). A dataset without
+/// that layer gives a value whose `present` is false.
+///
+/// @par Errors   no key; the text is the driver's reason.
+Result<LayerInfo> readLayerInfo(const QString &connection, int layerIndex);
+
+/// The names of the layer's fields only: cheaper, because nothing is counted. Empty for a missing
+/// layer.
+///
+/// @par Errors   as above.
+Result<QStringList> readFieldNames(const QString &connection, int layerIndex);
+
+} // namespace vlt::geodata

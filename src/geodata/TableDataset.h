@@ -1,0 +1,18 @@
+#pragma once
+
+#include "geodata/ErrorCollector.h"
+#include "platform/Result.h"
+
+#include <gdal_priv.h>
+#include <ogrsf_frmts.h>
+
+namespace vlt::geodata {
+
+/// Opens a table connection ("site:..." or "link:...") for reading. Other names are refused before
+/// any driver sees them, so that no text out of a user's file reaches a driver that would open a
+/// network connection.
+///
+/// @par Errors   no key; the text is the driver's reason.
+Result<GDALDatasetUniquePtr> openTable(const QString &connection, const ErrorCollector &errors);
+
+} // namespace vlt::geodata

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QString>
+
+/// A language of the user interface.
+struct VltLanguage
+{
+    /// Two- or three-letter code ("fr"), as pages and file names use it.
+    QString text = QStringLiteral("en");
+    bool rightToLeft = false;
+
+    /// The language called `name`: its English name, its own name or its code, with or without a
+    /// country ("FRENCH", "français", "fr", "fr_FR"), in any case. English where no language is
+    /// called so.
+    static VltLanguage named(const QString &name);
+};

@@ -1,0 +1,82 @@
+#include "platform/AtomicFile.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QRandomGenerator>
+#include <QScopeGuard>
+
+#include <cerrno>
+#include <filesystem>
+#include <optional>
+#include <system_error>
+
+#ifdef Q_OS_UNIX
+#include <unistd.h>
+#endif
+
+namespace vlt::platform {
+
+namespace {
+
+constexpr QFile::Permissions UserMode = QFile::ReadOwner | QFile::WriteOwner;
+constexpr QFile::Permissions EveryonesMode =
+    UserMode | QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther;
+
+// Independent of the target's name, so that a name of full length still has room beside it.
+QString temporaryNameBeside(const QFileInfo &target)
+{
+    const quint64 random = QRandomGenerator::system()->generate64();
+    return target.absoluteDir().filePath(
+        QStringLiteral(".vlt-%1.tmp").arg(random, 16, 16, QLatin1Char('0')));
+}
+
+std::optional<QString> flushToDisk(QFile &file)
+{
+    if (!file.flush())
+        return file.errorString();
+#ifdef Q_OS_UNIX
+    // EINVAL: a file system that has no notion of flushing
+    if (::fsync(file.handle()) != 0 && errno != EINVAL)
+        return QString::fromStdString(std::generic_category().message(errno));
+#endif
+    return std::nullopt;
+}
+
+} // namespace
+
+Result<Done> writeWhole(const QString &path, const QByteArray &bytes, Access access)
+{
+    const auto failed = [&path](const QString &reason) { return Error{{}, reason, path}; };
+    const QFileInfo target(path);
+    if (path.isEmpty())
+        return failed(QStringLiteral("No file name"));
+    if (!target.isSymbolicLink() && target.exists() && !target.isFile())
+        return failed(QStringLiteral("Not a regular file"));
+
+    QFile file(temporaryNameBeside(target));
+    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered,
+                   access == Access::UserOnly ? UserMode : EveryonesMode))
+        return failed(file.errorString());
+    auto litter = qScopeGuard([&file] { file.remove(); });
+
+    if (access == Access::Shared && target.isFile() && !target.isSymbolicLink() &&
+        !file.setPermissions(target.permissions()))
+        return failed(file.errorString());
+    if (file.write(bytes) != bytes.size())
+        return failed(file.errorString());
+    if (const std::optional<QString> reason = flushToDisk(file))
+        return failed(*reason);
+    file.close();
+    if (file.error() != QFileDevice::NoError)
+        return failed(file.errorString());
+
+    std::error_code reason;
+    std::filesystem::rename(file.filesystemFileName(), target.filesystemAbsoluteFilePath(), reason);
+    if (reason)
+        return failed(QString::fromStdString(reason.message()));
+    litter.dismiss();
+    return Done{};
+}
+
+} // namespace vlt::platform

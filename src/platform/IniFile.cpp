@@ -1,0 +1,46 @@
+#include "platform/IniFile.h"
+
+#include "platform/TextDecoding.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <iniparser/iniparser.h>
+
+#include <memory>
+
+namespace vlt::platform {
+
+namespace {
+
+struct DictionaryRelease
+{
+    void operator()(dictionary *entries) const { iniparser_freedict(entries); }
+};
+
+} // namespace
+
+Result<IniFile> IniFile::open(const QString &path)
+{
+    if (!QFileInfo(path).isFile())
+        return Error{{}, QStringLiteral("No such file"), path};
+    const std::unique_ptr<dictionary, DictionaryRelease> entries(
+        iniparser_load(QFile::encodeName(path).constData()));
+    if (!entries)
+        return Error{{}, QStringLiteral("Not a readable ini file"), path};
+
+    IniFile file;
+    for (ssize_t i = 0; i < entries->size; ++i) {
+        if (entries->key[i] != nullptr && entries->val[i] != nullptr)
+            file.m_values.insert(decodeText(entries->key[i]).toCaseFolded(),
+                                 decodeText(entries->val[i]));
+    }
+    return file;
+}
+
+QString IniFile::value(const QString &section, const QString &key) const
+{
+    return m_values.value((section + QLatin1Char(':') + key).toCaseFolded());
+}
+
+} // namespace vlt::platform

@@ -1,0 +1,46 @@
+#include "platform/Paths.h"
+
+#include <QDir>
+
+namespace vlt::platform {
+
+namespace {
+
+constexpr qsizetype MaxTempDirectoryLength = 259;
+
+} // namespace
+
+PathStyle nativePathStyle()
+{
+#ifdef Q_OS_WIN
+    return PathStyle::Windows;
+#else
+    return PathStyle::Posix;
+#endif
+}
+
+QChar separator(PathStyle style)
+{
+    return style == PathStyle::Windows ? u'\\' : u'/';
+}
+
+QChar listSeparator(PathStyle style)
+{
+    return style == PathStyle::Windows ? u';' : u':';
+}
+
+QString withSeparators(QString path, PathStyle style)
+{
+    return path.replace(QLatin1Char('/'), separator(style));
+}
+
+QString systemTempDirectory()
+{
+    const QString directory = QDir::tempPath() + QLatin1Char('/');
+    // Qt answers with the root where there is no such directory
+    if (directory.size() > MaxTempDirectoryLength || QDir(directory).isRoot())
+        return QStringLiteral(".");
+    return withSeparators(directory, nativePathStyle());
+}
+
+} // namespace vlt::platform

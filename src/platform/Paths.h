@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QChar>
+#include <QString>
+
+namespace vlt::platform {
+
+/// How paths and lists of paths are written.
+enum class PathStyle {
+    Windows, ///< "a\b", lists with ";"
+    Posix    ///< "a/b", lists with ":"
+};
+
+/// The style of the system that the program runs on.
+PathStyle nativePathStyle();
+
+/// Between two directories of a path.
+QChar separator(PathStyle style);
+
+/// Between two paths of a list such as PATH.
+QChar listSeparator(PathStyle style);
+
+/// The path with each "/" written as the style has it.
+QString withSeparators(QString path, PathStyle style);
+
+/// The system's directory for temporary files, ending with a separator; "." where there is no such
+/// directory or its text, separator included, is longer than 259 characters.
+QString systemTempDirectory();
+
+} // namespace vlt::platform

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "sites/ProjectContext.h"
+#include "sites/SiteRepresentation.h"
+
+namespace vlt::sites {
+
+/// What a pylon query is about, besides the look of the pylons.
+struct PylonQuery
+{
+    QString kind;      ///< "site" or "link"
+    QString sourceSrs; ///< system of the table; may be empty
+    QString targetSrs; ///< system of the project; may be empty
+    QString dataFile;  ///< path of the table
+    QString extra;     ///< further parameters of links, without a comma at the end; empty for sites
+};
+
+/// The query that a layer carries: at the same time the table connection from which the sites are
+/// read. The paths in it are relative to the project's directory. Empty where no pylon type or no
+/// colour set is chosen.
+QString buildPylonQuery(const PylonQuery &query, const SiteRepresentation &representation,
+                        const SiteCatalogues &catalogues, const ProjectContext &project);
+
+/// The name under which the scene library loads one demonstration site. Empty as above.
+QString buildPreviewPylonUrl(const SiteRepresentation &representation,
+                             const SiteCatalogues &catalogues, const QString &installDir);
+
+} // namespace vlt::sites

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QImage>
+#include <QList>
+#include <QString>
+
+namespace vlt::sites {
+
+/// Where the pylons' catalogues, templates and colours lie below the install directory.
+inline const QString PylonFolder = QStringLiteral("addons/telecom/pylons");
+
+/// One kind of mast of the pylon catalogue.
+struct PylonType
+{
+    QString type;        ///< as queries name it
+    QString description; ///< in the language asked for; empty where the catalogue has none
+    QImage icon;         ///< reserved, empty
+};
+
+/// The pylon catalogue "addons/telecom/pylons/list.xml" in document order; empty where it cannot be
+/// read.
+///
+/// @param language  language code ("fr", "en")
+QList<PylonType> loadPylonTypes(const QString &installDir, const QString &language);
+
+} // namespace vlt::sites

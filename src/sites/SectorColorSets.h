@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QColor>
+#include <QImage>
+#include <QList>
+#include <QString>
+
+namespace vlt::sites {
+
+/// Colours that the sectors of a site take in turn.
+struct SectorColorSet
+{
+    QList<QColor> colors;
+    QString description; ///< in the language asked for; empty where the catalogue has none
+    QImage swatch;       ///< picture of the colours, see swatchImage()
+};
+
+/// The colour catalogue "addons/telecom/pylons/colors/sectors.xml" in document order; empty where
+/// it cannot be read. A component that is missing or no number reads as 0 (alpha: 255 when
+/// missing); others are clamped to 0..255.
+///
+/// @param language  language code ("fr", "en")
+QList<SectorColorSet> loadSectorColorSets(const QString &installDir, const QString &language);
+
+/// A colour of the set as "rrggbbaa", lower-case hexadecimal.
+///
+/// @param index         from 0; wraps around past the end of the set
+/// @param transparency  0 (as in the catalogue) .. 100 (invisible)
+/// @return              empty for an empty set
+QString colorText(const SectorColorSet &set, int index, int transparency);
+
+/// All colours of the set as colorText(), joined by single spaces.
+QString colorSetText(const SectorColorSet &set, int transparency);
+
+/// The colours as squares on white, each with a grey frame: 29 pixels a colour plus 5 wide, 34
+/// high.
+QImage swatchImage(const QList<QColor> &colors);
+
+} // namespace vlt::sites

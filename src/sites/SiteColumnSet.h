@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace vlt::sites {
+
+/// The columns of a site table that the information page shows. A text is empty and a list is short
+/// or empty where no column was recognised; the lists are in field order and independent of each
+/// other.
+struct SiteColumnSet
+{
+    QString name;
+    QString x;
+    QString y;
+    QString terrainHeight;
+    QStringList sectorIds;
+    QStringList heights;
+    QStringList azimuths;
+    QStringList tilts;
+
+    bool operator==(const SiteColumnSet &) const = default;
+};
+
+/// Recognises columns by their whole name, without regard to case. Of the single columns the first
+/// match is kept; a field may fill several members.
+SiteColumnSet recogniseSiteColumns(const QStringList &fieldNames);
+
+/// The same for the fields of a table connection: layer 0, or layer 1 (the link ends) of a "link:"
+/// connection.
+///
+/// @param connection        "site:" or "link:", options and path, as the layer file carries it
+/// @param projectDirectory  what a relative path in it is relative to; empty: the working directory
+/// @return                  an empty set where the table cannot be opened
+SiteColumnSet recogniseSiteColumns(const QString &connection, const QString &projectDirectory);
+
+/// The connection with the path at its end made absolute, for an open in this process.
+QString resolvedConnection(const QString &connection, const QString &projectDirectory);
+
+} // namespace vlt::sites

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "platform/Result.h"
+#include "sites/SiteColumnSet.h"
+
+namespace vlt::sites {
+
+/// The HTML page that shows a site: the installation's template for the language ("fr", English
+/// otherwise) with the table's recognised columns as field references, a column name in square
+/// brackets.
+///
+/// @param connection        table connection; where it cannot be opened no column is recognised
+/// @param projectDirectory  what a relative path in the connection is relative to
+/// @par Errors   MESS_MISSING_CONF_FILE with the template's path.
+Result<QString> buildSiteInfoHtml(const QString &connection, const QString &language,
+                                  const QString &installDir, const QString &projectDirectory);
+
+/// The template with the columns filled in.
+QString fillSiteInfoPage(const QString &pageTemplate, const QString &language,
+                         const SiteColumnSet &columns);
+
+/// Reads a file of the installation whole.
+///
+/// @par Errors   MESS_MISSING_CONF_FILE with the path.
+Result<QString> readConfigurationFile(const QString &path);
+
+} // namespace vlt::sites

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "platform/AtomicFile.h"
+#include "platform/Result.h"
+#include "sites/PylonQuery.h"
+#include "sites/SiteFileInfo.h"
+
+#include <optional>
+
+namespace vlt::sites {
+
+/// Everything that a site layer is made of.
+struct SiteLayerInput
+{
+    SiteFileInfo file;
+    QString sourceSrs; ///< as chosen, may be empty
+    QString targetSrs; ///< as chosen, may be empty
+    SiteRepresentation representation;
+    SiteCatalogues catalogues;
+    ProjectContext project;
+    QString installDir;
+    QString language; ///< language code
+};
+
+/// A finished layer.
+struct SiteLayer
+{
+    QString text;
+    /// MESS_MISSING_CONF_FILE where the information page's template is missing: the layer has no
+    /// page then.
+    std::optional<Error> warning;
+};
+
+/// The query of the layer, buildPylonQuery() for a site table.
+QString siteQuery(const SiteLayerInput &input);
+
+/// The text of the layer file, out of the installation's "template_sites.lay".
+///
+/// @par Errors   MESS_MISSING_CONF_FILE with the template's path.
+Result<SiteLayer> makeSiteLayer(const SiteLayerInput &input);
+
+/// Writes a layer text in UTF-8: afterwards the file is the old one or the whole new one.
+///
+/// @param reason  where not null, takes the system's reason of a failure
+/// @par Errors    MESS_CANT_CREATE_LAYER with the path.
+Result<Done> writeSiteLayer(const QString &path, const QString &text, platform::Access access,
+                            QString *reason = nullptr);
+
+} // namespace vlt::sites

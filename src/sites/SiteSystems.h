@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QString>
+
+namespace vlt::sites {
+
+/// What is known about coordinate systems when a site file is opened; each may be empty.
+struct KnownSystems
+{
+    QString unit;        ///< of the file: "METERS", "DMS", else decimal degrees
+    QString fileEpsg;    ///< code that the file declares; "0" stands for none as well
+    QString projectEpsg; ///< reference projection of the target project
+    QString terrainEpsg; ///< code of the project's terrain
+};
+
+/// Systems to offer; an empty one leaves the user's choice as it is.
+struct SiteSystems
+{
+    QString source;
+    QString target;
+};
+
+/// Source: the file's own code, else WGS 84 for degrees, else the terrain's. Target: the project's,
+/// else the terrain's, else WGS 84 for degrees, else the file's own.
+SiteSystems chooseSystems(const KnownSystems &known);
+
+} // namespace vlt::sites

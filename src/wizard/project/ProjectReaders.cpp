@@ -1,0 +1,131 @@
+#include "wizard/project/ProjectReaders.h"
+
+#include "platform/TextDecoding.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <array>
+
+namespace vlt::project {
+
+namespace {
+
+constexpr QLatin1String TerrainSection("DEM Layers");
+constexpr QLatin1String TerrainFiles("Files :");
+constexpr QLatin1String Projection("Reference Projection :");
+constexpr QLatin1String VectorLayer("Vector layer");
+constexpr QLatin1String LayerFile("File :");
+constexpr QLatin1String LayerName("Layer name :");
+
+Result<QString> readProject(const QString &path)
+{
+    if (path.isEmpty())
+        return Error{
+            QStringLiteral("MESS_ERR_NOM_FICHIER"), QStringLiteral("Invalid file name"), {}};
+
+    QFile file(path);
+    // only regular files: reading a pipe or a device might never end
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
+        return Error{QStringLiteral("MESS_OUV_PRJ_IMP"), QStringLiteral("Cannot open project"),
+                     path};
+    return platform::decodeText(file.readAll());
+}
+
+QString restOfLine(const QString &text, qsizetype from)
+{
+    const qsizetype end = text.indexOf(QLatin1Char('\n'), from);
+    return text.mid(from, end < 0 ? -1 : end - from).trimmed();
+}
+
+QString absoluteBesideProject(const QString &file, const QString &projectPath)
+{
+    return file.isEmpty() ? file : QFileInfo(projectPath).absoluteDir().absoluteFilePath(file);
+}
+
+/// Position after the label of the first terrain file, or -1.
+qsizetype afterTerrainLabel(const QString &text)
+{
+    const qsizetype section = text.indexOf(TerrainSection);
+    const qsizetype label = section < 0 ? -1 : text.indexOf(TerrainFiles, section);
+    return label < 0 ? -1 : label + TerrainFiles.size();
+}
+
+/// Position after the first `label`, in any case, that stands after a line feed at or after `from`
+/// with nothing but white space between; or -1.
+qsizetype afterLineLabel(const QString &text, QLatin1String label, qsizetype from)
+{
+    for (qsizetype at = text.indexOf(label, from, Qt::CaseInsensitive); at >= 0;
+         at = text.indexOf(label, at + 1, Qt::CaseInsensitive)) {
+        for (qsizetype before = at - 1; before >= from && text.at(before).isSpace(); --before) {
+            if (text.at(before) == QLatin1Char('\n'))
+                return at + label.size();
+        }
+    }
+    return -1;
+}
+
+bool looksLikeBuildings(const QString &layerName)
+{
+    static const std::array words = {QStringLiteral("build"), QStringLiteral("bldg"),
+                                     QStringLiteral("bat"), QStringLiteral("b\u00E2t")};
+    return std::any_of(words.begin(), words.end(), [&layerName](const QString &word) {
+        return layerName.contains(word, Qt::CaseInsensitive);
+    });
+}
+
+QString firstBuildingFile(const QString &text)
+{
+    qsizetype from = std::max<qsizetype>(afterTerrainLabel(text), 0);
+    while (true) {
+        const qsizetype layer = text.indexOf(VectorLayer, from);
+        const qsizetype fileAt = layer < 0 ? -1 : afterLineLabel(text, LayerFile, layer);
+        if (fileAt < 0) // a layer without a file label would be found again for ever
+            return {};
+        QString file = restOfLine(text, fileAt);
+        const qsizetype nameAt = afterLineLabel(text, LayerName, fileAt);
+        if (nameAt < 0) // nor can a later layer have a name
+            return {};
+        if (!file.isEmpty() && looksLikeBuildings(restOfLine(text, nameAt)))
+            return file;
+        from = nameAt;
+    }
+}
+
+} // namespace
+
+Result<QString> terrainFile(const QString &projectPath)
+{
+    const Result<QString> text = readProject(projectPath);
+    if (!text)
+        return text.error();
+    const qsizetype from = afterTerrainLabel(text.value());
+    return absoluteBesideProject(from < 0 ? QString() : restOfLine(text.value(), from),
+                                 projectPath);
+}
+
+Result<QString> buildingVectorFile(const QString &projectPath)
+{
+    const Result<QString> text = readProject(projectPath);
+    if (!text)
+        return text.error();
+    return absoluteBesideProject(firstBuildingFile(text.value()), projectPath);
+}
+
+QString referenceProjection(const QString &projectPath)
+{
+    const Result<QString> project = readProject(projectPath);
+    if (!project)
+        return {};
+    const QString &text = project.value();
+    const qsizetype section = text.indexOf(TerrainSection);
+    const qsizetype label = section < 0 ? -1 : text.indexOf(Projection, section);
+    if (label < 0)
+        return {};
+    // the value also ends where the label is repeated on the same line
+    return restOfLine(text, label + Projection.size()).section(Projection, 0, 0).trimmed();
+}
+
+} // namespace vlt::project

@@ -1,0 +1,155 @@
+#include "language/VltLanguageManager.h"
+#include "language/VltTranslator.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QByteArray message(const char *key, const char *translation)
+{
+    return QByteArray("<message id=\"") + key + "\"><source>English</source>" + translation +
+           "</message>";
+}
+
+void putDictionary(const QDir &dir, const QString &name, const QByteArray &messages)
+{
+    QFile file(dir.filePath(name));
+    QVERIFY(dir.mkpath(u"."_s) && file.open(QIODevice::WriteOnly));
+    file.write("<?xml version=\"1.0\" encoding=\"utf-8\"?>\n<!DOCTYPE TS>\n<TS version=\"2.1\" "
+               "language=\"fr\">"
+               "<context><name/>" +
+               messages + "</context></TS>");
+}
+
+} // namespace
+
+class TestLanguage : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void knowsALanguageByNameOrCode_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("code");
+        QTest::addColumn<bool>("reversed");
+
+        QTest::newRow("English name, capitals") << u"FRENCH"_s << u"fr"_s << false;
+        QTest::newRow("English name") << u"French"_s << u"fr"_s << false;
+        QTest::newRow("code") << u"fr"_s << u"fr"_s << false;
+        QTest::newRow("code with a country") << u"FR_be"_s << u"fr"_s << false;
+        QTest::newRow("own name") << u"Français"_s << u"fr"_s << false;
+        QTest::newRow("the process's own language") << u"Deutsch"_s << u"de"_s << false;
+        QTest::newRow("written from the right") << u"Arabic"_s << u"ar"_s << true;
+        QTest::newRow("unknown") << u"no such language"_s << u"en"_s << false;
+        QTest::newRow("none") << QString() << u"en"_s << false;
+        QTest::newRow("C locale") << u"C"_s << u"en"_s << false;
+    }
+
+    void knowsALanguageByNameOrCode()
+    {
+        QFETCH(QString, name);
+        VltLanguageManager &manager = VltLanguageManager::getInstance();
+
+        manager.defaultSetup(QString(), name, QString());
+
+        QTEST(manager.getCurrentLanguage().text, "code");
+        QTEST(manager.currentLanguageNeedsReversedLayout(), "reversed");
+    }
+
+    void takesTheTextsOfTheChosenLanguage()
+    {
+        const QTemporaryDir root;
+        const QDir messages(root.filePath(u"MESSAGES"_s));
+        const QDir addOn(root.filePath(u"addon"_s));
+        putDictionary(
+            messages, u"base_fr.ts"_s,
+            message("K_BASE", "<translation>de base &amp; &lt;b&gt;</translation>") +
+                message("K_BOTH", "<translation>de base</translation>") +
+                message("K_DRAFT", "<translation type=\"unfinished\">brouillon</translation>") +
+                message("K_EMPTY", "<translation type=\"unfinished\"></translation>") +
+                message("K_GONE", "<translation type=\"vanished\">parti</translation>") +
+                message("K_OLD", "<translation type=\"obsolete\">vieux</translation>") +
+                message("", "<translation>sans clef</translation>"));
+        putDictionary(messages, u"base_en.ts"_s,
+                      message("K_BASE", "<translation>basic</translation>"));
+        putDictionary(addOn, u"telecom_fr.ts"_s,
+                      message("K_BOTH", "<translation>du module</translation>"));
+        putDictionary(QDir(addOn.filePath(u"deeper"_s)), u"x_fr.ts"_s,
+                      message("K_DEEP", "<translation>profond</translation>"));
+        VltLanguageManager &manager = VltLanguageManager::getInstance();
+
+        manager.defaultSetup(messages.path(), u"FRENCH"_s, QString());
+        manager.findAndSetupAddOnsMessages(addOn.path(), QString());
+
+        QCOMPARE(dico_label("K_BASE", "d"), u"de base & <b>"_s);
+        QCOMPARE(dico_label("K_BOTH", "d"), u"du module"_s);
+        QCOMPARE(dico_label("K_DRAFT", "d"), u"brouillon"_s);
+        for (const char *key : {"K_EMPTY", "K_GONE", "K_OLD", "K_DEEP", "K_UNKNOWN", ""})
+            QCOMPARE(dico_label(key, "défaut"), u"défaut"_s);
+        QVERIFY(manager.skippedDictionaries().isEmpty());
+
+        manager.defaultSetup(messages.path(), u"en"_s, QString());
+        QCOMPARE(dico_label("K_BASE", "d"), u"basic"_s);
+        QCOMPARE(dico_label("K_DRAFT", "d"), u"d"_s); // nothing of the former language stays
+    }
+
+    void passesOverBrokenDictionaries_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::newRow("empty") << QByteArray();
+        QTest::newRow("cut short")
+            << QByteArray("<TS><context>") + message("K_BAD", "<translation>x</translation>");
+        QTest::newRow("other document") << QByteArray("<html><message/></html>");
+        QTest::newRow("not UTF-8") << "<TS><context>" +
+                                          message("K_BAD", "<translation>\xE9</translation>") +
+                                          "</context></TS>";
+        QTest::newRow("second root") << "<TS><context>" +
+                                            message("K_BAD", "<translation>x</translation>") +
+                                            "</context></TS><TS/>";
+    }
+
+    void passesOverBrokenDictionaries()
+    {
+        QFETCH(QByteArray, content);
+        const QTemporaryDir dir;
+        QFile bad(dir.filePath(u"bad_fr.ts"_s));
+        QVERIFY(bad.open(QIODevice::WriteOnly) && bad.write(content) == content.size());
+        bad.close();
+        putDictionary(QDir(dir.path()), u"good_fr.ts"_s,
+                      message("K_GOOD", "<translation>bon</translation>"));
+        VltLanguageManager &manager = VltLanguageManager::getInstance();
+
+        manager.defaultSetup(dir.path(), u"fr"_s, QString());
+
+        QCOMPARE(dico_label("K_GOOD", "d"), u"bon"_s);
+        QCOMPARE(dico_label("K_BAD", "d"), u"d"_s);
+        QCOMPARE(manager.skippedDictionaries().size(), 1);
+        QCOMPARE(manager.skippedDictionaries().first().path, bad.fileName());
+        QVERIFY(!manager.skippedDictionaries().first().text.isEmpty());
+    }
+
+    void answersQtsLookupsByKey()
+    {
+        const QTemporaryDir dir;
+        putDictionary(QDir(dir.path()), u"a_fr.ts"_s,
+                      message("K_PREVIEW", "<translation>Aperçu</translation>"));
+        VltLanguageManager::getInstance().defaultSetup(dir.path(), u"fr"_s, QString());
+        VltTranslator translator;
+        QVERIFY(QCoreApplication::installTranslator(&translator));
+
+        QCOMPARE(QCoreApplication::translate("Page", "Preview", "K_PREVIEW"), u"Aperçu"_s);
+        QCOMPARE(QCoreApplication::translate("Page", "Other", "K_OTHER"), u"Other"_s);
+        QCOMPARE(QCoreApplication::translate("QPlatformTheme", "&Yes"), u"&Yes"_s);
+        QVERIFY(translator.translate("Page", "Other", "K_OTHER", -1).isNull());
+    }
+};
+
+QTEST_GUILESS_MAIN(TestLanguage)
+#include "tst_Language.moc"

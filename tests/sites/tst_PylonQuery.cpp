@@ -1,0 +1,141 @@
+#include "sites/PylonQuery.h"
+
+#include <QTest>
+
+using namespace vlt::sites;
+
+namespace {
+
+SiteCatalogues catalogues()
+{
+    const SectorColorSet twoColors{{QColor(255, 0, 0), QColor(0, 255, 0)}, {}, {}};
+    return {{{QStringLiteral("T"), {}, {}}}, {twoColors}};
+}
+
+const QString FirstRun =
+    QStringLiteral("data_folder=addons/telecom/pylons,pylon_type=T,pylon_width=2.5,"
+                   "sector_colors=ff0000ff 00ff00ff,sector_properties=200 20 2,"
+                   "transmitter_scale=100,lods=10000 1000,");
+
+} // namespace
+
+class tst_PylonQuery : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void writesSystemsAndPaths_data()
+    {
+        QTest::addColumn<QString>("sourceSrs");
+        QTest::addColumn<QString>("targetSrs");
+        QTest::addColumn<QString>("project");
+        QTest::addColumn<QString>("table");
+        QTest::addColumn<QString>("expected");
+
+        const auto row = [](const char *name, const char *source, const char *target,
+                            const char *project, const char *table, const QString &expected) {
+            QTest::newRow(name) << QString::fromUtf8(source) << QString::fromUtf8(target)
+                                << QString::fromUtf8(project) << QString::fromUtf8(table)
+                                << expected;
+        };
+        row("beside the project", "4326", "2154", "/p/a.gvw", "/p/sites.csv",
+            QStringLiteral("site:s_srs=4326,t_srs=2154,") + FirstRun + QStringLiteral("sites.csv"));
+        row("no system", "", "", "/p/a.gvw", "/p/data/sites.csv",
+            QStringLiteral("site:") + FirstRun + QStringLiteral("data/sites.csv"));
+        row("target only, table elsewhere", "", "2154", "/p/a.gvw", "/q/sites.csv",
+            QStringLiteral("site:t_srs=2154,") + FirstRun + QStringLiteral("../q/sites.csv"));
+        row("source only, no project", "4326", "", "", "/q/sites.csv",
+            QStringLiteral("site:s_srs=4326,") + FirstRun + QStringLiteral("/q/sites.csv"));
+        row("percent, comma and accent in the path", "", "", "/p/a.gvw", "/p/50 %1,é.csv",
+            QStringLiteral("site:") + FirstRun + QStringLiteral("50 %1,\u00e9.csv"));
+        row("a slot in a value is taken by the next value", "%3", "", "/p/a.gvw", "/p/s.csv",
+            (QStringLiteral("site:s_srs=addons/telecom/pylons,") + FirstRun +
+             QStringLiteral("s.csv")));
+    }
+
+    void writesSystemsAndPaths()
+    {
+        QFETCH(QString, sourceSrs);
+        QFETCH(QString, targetSrs);
+        QFETCH(QString, project);
+        QFETCH(QString, table);
+        QFETCH(QString, expected);
+
+        const QString query =
+            buildPylonQuery({QStringLiteral("site"), sourceSrs, targetSrs, table, {}},
+                            SiteRepresentation(), catalogues(), {project, {}});
+
+        QCOMPARE(query, expected);
+    }
+
+    void writesNumbersInTheirShortestForm()
+    {
+        SiteRepresentation look;
+        look.pylonWidth = 3.0;
+        look.sectorRadius = 199.9;
+        look.sectorHeight = 1e8;
+        look.sectorSpacing = 0.1234567;
+        look.transparency = 50;
+
+        const QString query =
+            buildPylonQuery({QStringLiteral("site"), {}, {}, QStringLiteral("/p/s.csv"), {}}, look,
+                            catalogues(), {QStringLiteral("/p/a.gvw"), {}});
+
+        QCOMPARE(query, QStringLiteral("site:data_folder=addons/telecom/pylons,pylon_type=T,"
+                                       "pylon_width=3,sector_colors=ff00007f 00ff007f,"
+                                       "sector_properties=199 1e+08 0.123457,"
+                                       "transmitter_scale=100,lods=10000 1000,s.csv"));
+    }
+
+    void givesLinksTheirExtraTextAndTheTerrain()
+    {
+        const ProjectContext project{QStringLiteral("/p/a.gvw"), QStringLiteral("/p/dem/t.tif")};
+        const auto query = [&](const char *kind) {
+            return buildPylonQuery({QString::fromLatin1(kind),
+                                    {},
+                                    {},
+                                    QStringLiteral("/p/s.csv"),
+                                    QStringLiteral("link_width=2")},
+                                   SiteRepresentation(), catalogues(), project);
+        };
+
+        QVERIFY(query("link").endsWith(
+            QStringLiteral("200 20 2,link_width=2,transmitter_scale=100,lods=10000 1000,"
+                           "dem_file=dem/t.tif,s.csv")));
+        QVERIFY(query("site").endsWith(QStringLiteral("lods=10000 1000,s.csv")));
+    }
+
+    void repeatsColorsInThePreview()
+    {
+        const QString url =
+            buildPreviewPylonUrl(SiteRepresentation(), catalogues(), QStringLiteral("/opt/vlt"));
+
+        QCOMPARE(url,
+                 QStringLiteral(
+                     "inline://parametric/query?object=pylon&data_folder=/opt/vlt/addons/telecom/"
+                     "pylons&pylon_type=T&pylon=0 0 0 25 2.5 200 20 2"
+                     "&transmitter=23 0 0 0 0 ff0000ff&transmitter=23 120 0 0 0 00ff00ff"
+                     "&transmitter=23 240 -5 0 0 ff0000ff&transmitter=20 20 0 0 0 00ff00ff"
+                     "&transmitter=20 140 +5 0 0 ff0000ff&transmitter=20 260 0 0 0 00ff00ff"
+                     "&transmitter_scale=100&lod=10000 1000.inlinepylonurl"));
+    }
+
+    void isEmptyWithoutAChosenEntry()
+    {
+        for (const int index : {-1, 1}) {
+            SiteRepresentation noPylon;
+            noPylon.pylonType = index;
+            SiteRepresentation noColors;
+            noColors.colorSet = index;
+            for (const SiteRepresentation &look : {noPylon, noColors}) {
+                QVERIFY(buildPylonQuery({QStringLiteral("site"), {}, {}, {}, {}}, look,
+                                        catalogues(), {})
+                            .isEmpty());
+                QVERIFY(buildPreviewPylonUrl(look, catalogues(), QStringLiteral("/")).isEmpty());
+            }
+        }
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_PylonQuery)
+#include "tst_PylonQuery.moc"

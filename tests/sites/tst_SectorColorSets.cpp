@@ -1,0 +1,112 @@
+#include "sites/SiteRepresentation.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace vlt::sites;
+
+namespace {
+
+void writeCatalogue(const QString &installDir, const QString &name, const QByteArray &content)
+{
+    const QString path = installDir + QStringLiteral("/addons/telecom/pylons/") + name;
+    QVERIFY(QDir().mkpath(path.section(QLatin1Char('/'), 0, -2)));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(content);
+}
+
+} // namespace
+
+class tst_SectorColorSets : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void writesColorTexts_data()
+    {
+        QTest::addColumn<QColor>("color");
+        QTest::addColumn<int>("transparency");
+        QTest::addColumn<QString>("expected");
+
+        QTest::newRow("opaque") << QColor(1, 171, 255) << 0 << QStringLiteral("01abffff");
+        QTest::newRow("transparent") << QColor(1, 171, 255) << 100 << QStringLiteral("01abff00");
+        QTest::newRow("128 * 50 / 100 = 64")
+            << QColor(0, 0, 0, 128) << 50 << QStringLiteral("00000040");
+        QTest::newRow("255 * 99 / 100 = 252.45")
+            << QColor(0, 0, 0) << 1 << QStringLiteral("000000fc");
+        QTest::newRow("255 * 1 / 100 = 2.55")
+            << QColor(0, 0, 0) << 99 << QStringLiteral("00000002");
+    }
+
+    void writesColorTexts()
+    {
+        QFETCH(QColor, color);
+        QFETCH(int, transparency);
+        QFETCH(QString, expected);
+
+        const SectorColorSet set{{color, color}, {}, {}};
+
+        QCOMPARE(colorText(set, 3, transparency), expected);
+        QCOMPARE(colorSetText(set, transparency), expected + QLatin1Char(' ') + expected);
+    }
+
+    void readsTheCatalogues()
+    {
+        const QTemporaryDir dir;
+        writeCatalogue(dir.path(), QStringLiteral("list.xml"),
+                       "<pylons><group><pylon type='a b' description_fr='M\xc3\xa2t'/></group>"
+                       "<pylon type='c' description_en='Mast'/></pylons>");
+        writeCatalogue(dir.path(), QStringLiteral("colors/sectors.xml"),
+                       "<sectors><colorset description_fr='Deux'>\n  <list>\n"
+                       "    <c r='1' g='2' b='3'/>\n    <d r='300' g='-4' b='x' a='128'/>\n"
+                       "  </list>\n  <list><c r='9'/></list></colorset><colorset/></sectors>");
+
+        const SiteCatalogues read = loadSiteCatalogues(dir.path(), QStringLiteral("fr"));
+
+        QCOMPARE(read.pylonTypes.size(), 2);
+        QCOMPARE(read.pylonTypes.at(0).type, QStringLiteral("a b"));
+        QCOMPARE(read.pylonTypes.at(0).description, QStringLiteral("M\u00e2t"));
+        QCOMPARE(read.pylonTypes.at(1).description, QString());
+        QCOMPARE(read.colorSets.size(), 2);
+        QCOMPARE(read.colorSets.at(0).description, QStringLiteral("Deux"));
+        const QList<QColor> expected = {QColor(1, 2, 3), QColor(255, 0, 0, 128)};
+        QCOMPARE(read.colorSets.at(0).colors, expected);
+        QVERIFY(colorSetText(read.colorSets.at(1), 0).isEmpty());
+    }
+
+    void givesNothingForABrokenCatalogue()
+    {
+        const QTemporaryDir dir;
+        QVERIFY(loadPylonTypes(dir.path(), QStringLiteral("en")).isEmpty());
+        writeCatalogue(dir.path(), QStringLiteral("list.xml"), "<pylons><pylon type='a'/>");
+        writeCatalogue(dir.path(), QStringLiteral("colors/sectors.xml"), "no document");
+
+        const SiteCatalogues read = loadSiteCatalogues(dir.path(), QStringLiteral("en"));
+
+        QVERIFY(read.pylonTypes.isEmpty());
+        QVERIFY(read.colorSets.isEmpty());
+    }
+
+    void drawsTheSwatch()
+    {
+        const QImage image = swatchImage({QColor(255, 0, 0), QColor(0, 0, 255)});
+
+        QCOMPARE(image.size(), QSize(63, 34)); // 2 * 29 + 5
+        const QColor white(255, 255, 255);
+        const QColor grey(128, 128, 128);
+        QCOMPARE(image.pixelColor(4, 10), white);
+        QCOMPARE(image.pixelColor(5, 5), grey);
+        QCOMPARE(image.pixelColor(6, 10), grey);
+        QCOMPARE(image.pixelColor(7, 7), QColor(255, 0, 0));
+        QCOMPARE(image.pixelColor(26, 26), QColor(255, 0, 0));
+        QCOMPARE(image.pixelColor(28, 28), grey);
+        QCOMPARE(image.pixelColor(29, 28), white);
+        QCOMPARE(image.pixelColor(36, 7), QColor(0, 0, 255));
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_SectorColorSets)
+#include "tst_SectorColorSets.moc"

@@ -1,0 +1,100 @@
+#include "sites/SiteInfoPage.h"
+#include "sites/SiteLayer.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace vlt::sites;
+
+namespace {
+
+const QString AllPlaceholders = QStringLiteral(
+    "__NAME__ __LON__ __LAT__ __TERRAINHGHT__|__SECTORID__|__HEIGHT__|__AZIMUTH__|__TILT__ "
+    "__NAME__ __name__");
+
+void writeFile(const QString &path, const QByteArray &content)
+{
+    QVERIFY(QDir().mkpath(path.section(QLatin1Char('/'), 0, -2)));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(content);
+}
+
+} // namespace
+
+class tst_SiteInfoPage : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void fillsThePage_data()
+    {
+        SiteColumnSet full;
+        full.name = QStringLiteral("Site");
+        full.x = QStringLiteral("X");
+        full.y = QStringLiteral("Y");
+        full.terrainHeight = QStringLiteral("H0");
+        full.sectorIds = {QStringLiteral("S1")};
+        full.heights = {QStringLiteral("H1")};
+        full.azimuths = {QStringLiteral("A2"), QStringLiteral("A1")};
+        full.tilts = {QStringLiteral("T1")};
+        QTest::addColumn<SiteColumnSet>("columns");
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<QString>("expected");
+
+        QTest::newRow("fr") << full << QStringLiteral("fr")
+                            << QStringLiteral(
+                                   "[Site] [X] [Y] Hauteur du Terrain: [H0]<br><br>|"
+                                   "<tr><td>Secteur ID</td><td>[S1]</td></tr>|"
+                                   "<tr><td>Hauteur</td><td>[H1]</td></tr>|"
+                                   "<tr><td>Azimuth</td><td>[A2]</td><td>[A1]</td></tr>|"
+                                   "<tr><td>Inclinaison</td><td>[T1]</td></tr> [Site] __name__");
+        QTest::newRow("another language")
+            << full << QStringLiteral("de")
+            << QStringLiteral("[Site] [X] [Y] Terrain Height: [H0]<br><br>|"
+                              "<tr><td>Sector ID</td><td>[S1]</td></tr>|"
+                              "<tr><td>Height</td><td>[H1]</td></tr>|"
+                              "<tr><td>Azimuth</td><td>[A2]</td><td>[A1]</td></tr>|"
+                              "<tr><td>Tilt</td><td>[T1]</td></tr> [Site] __name__");
+        QTest::newRow("nothing recognised")
+            << SiteColumnSet() << QStringLiteral("en")
+            << QStringLiteral("__NAME__ __LON__ __LAT__ |||| __NAME__ __name__");
+    }
+
+    void fillsThePage()
+    {
+        QFETCH(SiteColumnSet, columns);
+        QFETCH(QString, language);
+
+        QTEST(fillSiteInfoPage(AllPlaceholders, language, columns), "expected");
+    }
+
+    void fillsTheLayerInOrderAndNamesMissingTemplates()
+    {
+        const QTemporaryDir dir;
+        const QString pylons = dir.path() + QStringLiteral("/addons/telecom/pylons/");
+        SiteLayerInput input;
+        input.installDir = dir.path();
+        input.language = QStringLiteral("de");
+        input.file.layerName = QStringLiteral("__SITE_FIELD__");
+        input.file.nameField = QStringLiteral("NAME");
+
+        QCOMPARE(makeSiteLayer(input).error().path, pylons + QStringLiteral("template_sites.lay"));
+
+        writeFile(pylons + QStringLiteral("template_sites.lay"),
+                  "__TITLE__\n__SITE_URL__\n__LAYER__\n__SITE_FIELD__\n__Desc__\n__DESC__");
+        const SiteLayer withoutPage = makeSiteLayer(input).value();
+        QCOMPARE(withoutPage.warning->path, pylons + QStringLiteral("sites_infos_en.html"));
+        QCOMPARE(withoutPage.text, QStringLiteral("Sites\n\nNAME\nNAME\n\n__DESC__"));
+
+        writeFile(pylons + QStringLiteral("sites_infos_en.html"), "<p>\n\xe9 __HEIGHT__\n</p>");
+        const SiteLayer whole = makeSiteLayer(input).value();
+        QVERIFY(!whole.warning);
+        QCOMPARE(whole.text, QStringLiteral("Sites\n\nNAME\nNAME\n<p>\u00e9 </p>\n__DESC__"));
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_SiteInfoPage)
+#include "tst_SiteInfoPage.moc"
