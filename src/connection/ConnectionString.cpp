@@ -5,17 +5,17 @@
 #include <filesystem>
 #include <set>
 
-namespace vlt::connection
-{
+namespace vlt::connection {
 
-namespace
-{
+namespace {
 
 /// The keys in the order in which queries carry them; those of links stand between.
 constexpr std::array<std::string_view, 17> KnownKeys = {
-    "s_srs",      "t_srs",       "data_folder",  "pylon_type",  "pylon_width",    "sector_colors", "sector_properties",
-    "link_style", "link_width",  "link_color",   "fresnel_zone", "fresnel_share", "fresnel_color", "k_factor",
-    "transmitter_scale", "lods", "dem_file"};
+    "s_srs",         "t_srs",         "data_folder",       "pylon_type",
+    "pylon_width",   "sector_colors", "sector_properties", "link_style",
+    "link_width",    "link_color",    "fresnel_zone",      "fresnel_share",
+    "fresnel_color", "k_factor",      "transmitter_scale", "lods",
+    "dem_file"};
 
 bool exists(const std::string &path, const std::string &baseDirectory)
 {
@@ -25,7 +25,8 @@ bool exists(const std::string &path, const std::string &baseDirectory)
     return std::filesystem::exists(std::filesystem::path(baseDirectory) / path, error);
 }
 
-/// The known key that `text` starts with, "=" included in what must follow; empty when there is none.
+/// The known key that `text` starts with, "=" included in what must follow; empty when there is
+/// none.
 std::string_view keyAt(std::string_view text)
 {
     for (const std::string_view key : KnownKeys)
@@ -34,14 +35,14 @@ std::string_view keyAt(std::string_view text)
     return {};
 }
 
-/// Where the value that starts `text` may end: at commas outside brackets and quotation marks, as WKT has them.
+/// Where the value that starts `text` may end: at commas outside brackets and quotation marks, as
+/// WKT has them.
 std::vector<size_t> valueEnds(std::string_view text)
 {
     std::vector<size_t> ends;
     int depth = 0;
     bool quoted = false;
-    for (size_t at = 0; at < text.size(); ++at)
-    {
+    for (size_t at = 0; at < text.size(); ++at) {
         const char c = text[at];
         if (c == '"')
             quoted = !quoted;
@@ -87,24 +88,24 @@ std::optional<ConnectionString> parse(std::string_view text, const std::string &
     ConnectionString connection;
     for (const std::string_view kind : {"site", "link"})
         if (text.size() >= PrefixSize && text[PrefixSize - 1] == ':' &&
-            std::equal(kind.begin(), kind.end(), text.begin(), [](char a, char b) { return a == (b | 0x20); }))
+            std::equal(kind.begin(), kind.end(), text.begin(),
+                       [](char a, char b) { return a == (b | 0x20); }))
             connection.kind = kind;
     if (connection.kind.empty())
         return std::nullopt;
     std::string_view rest = text.substr(PrefixSize);
     std::set<std::string_view> seen;
     // A file may be called "lods=1.csv": what names a file as it stands is a path.
-    while (!exists(std::string(rest), baseDirectory))
-    {
+    while (!exists(std::string(rest), baseDirectory)) {
         const std::string_view key = keyAt(rest);
         if (key.empty() || !seen.insert(key).second)
             break;
         rest.remove_prefix(key.size() + 1);
         // Behind "lods" only "dem_file" may follow: every comma there belongs to the path.
         size_t end = std::string_view::npos;
-        for (size_t comma = rest.find(','); comma != std::string_view::npos && end == std::string_view::npos && key != "dem_file";
-             comma = rest.find(',', comma + 1))
-        {
+        for (size_t comma = rest.find(',');
+             comma != std::string_view::npos && end == std::string_view::npos && key != "dem_file";
+             comma = rest.find(',', comma + 1)) {
             const std::string_view next = keyAt(rest.substr(comma + 1));
             if (next.empty() || seen.count(next) != 0)
                 continue;
@@ -132,9 +133,11 @@ std::string compose(const ConnectionString &connection)
 std::string resolved(std::string_view text, const std::string &baseDirectory)
 {
     std::optional<ConnectionString> connection = parse(text, baseDirectory);
-    if (!connection || connection->path.empty() || connection->path.front() == '/' || baseDirectory.empty())
+    if (!connection || connection->path.empty() || connection->path.front() == '/' ||
+        baseDirectory.empty())
         return std::string(text);
-    connection->path = (std::filesystem::path(baseDirectory) / connection->path).lexically_normal().string();
+    connection->path =
+        (std::filesystem::path(baseDirectory) / connection->path).lexically_normal().string();
     return compose(*connection);
 }
 

@@ -6,14 +6,15 @@
 #include <utility>
 #include <vector>
 
-namespace vlt::connection
-{
+namespace vlt::connection {
 
-/// A pylon query taken apart: "site:key=value,key=value,path". It is at the same time the connection string from
-/// which the table driver reads, and the only such text that this system knows.
+/// A pylon query taken apart: "site:key=value,key=value,path". It is at the same time the
+/// connection string from which the table driver reads, and the only such text that this system
+/// knows.
 ///
-/// Nothing in it is escaped. A value reaches up to the next known key, so that commas inside a coordinate system's
-/// WKT stay; the path is what follows the last known option, with all its commas, "=" and "%".
+/// Nothing in it is escaped. A value reaches up to the next known key, so that commas inside a
+/// coordinate system's WKT stay; the path is what follows the last known option, with all its
+/// commas, "=" and "%".
 struct ConnectionString
 {
     std::string kind; ///< "site" or "link"
@@ -24,15 +25,16 @@ struct ConnectionString
     std::string option(std::string_view key) const;
 };
 
-/// Takes a connection string apart; nothing when it starts with neither "site:" nor "link:" (in any case of
-/// letters). `baseDirectory` is where relative paths start; where commas leave a doubt, the split whose path exists
-/// there is taken.
+/// Takes a connection string apart; nothing when it starts with neither "site:" nor "link:" (in any
+/// case of letters). `baseDirectory` is where relative paths start; where commas leave a doubt, the
+/// split whose path exists there is taken.
 std::optional<ConnectionString> parse(std::string_view text, const std::string &baseDirectory = {});
 
 /// Puts the parts together again.
 std::string compose(const ConnectionString &connection);
 
-/// The same connection with a relative path made absolute against `baseDirectory`; unchanged when it is none.
+/// The same connection with a relative path made absolute against `baseDirectory`; unchanged when
+/// it is none.
 std::string resolved(std::string_view text, const std::string &baseDirectory);
 
 } // namespace vlt::connection

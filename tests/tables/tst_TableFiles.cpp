@@ -7,18 +7,18 @@
 
 using namespace vlt::tables;
 
-namespace
-{
+namespace {
 
-const std::map<Refusal, QString> ReasonWords = {{Refusal::CannotRead, QStringLiteral("cannot-read")},
-                                                {Refusal::Empty, QStringLiteral("empty")},
-                                                {Refusal::NotATable, QStringLiteral("not-a-table")},
-                                                {Refusal::NotSupportedFormat, QStringLiteral("not-supported-format")},
-                                                {Refusal::Encrypted, QStringLiteral("encrypted")},
-                                                {Refusal::DocumentType, QStringLiteral("doctype")},
-                                                {Refusal::Malformed, QStringLiteral("malformed")},
-                                                {Refusal::OneColumn, QStringLiteral("one-column")},
-                                                {Refusal::NoHeader, QStringLiteral("no-header")}};
+const std::map<Refusal, QString> ReasonWords = {
+    {Refusal::CannotRead, QStringLiteral("cannot-read")},
+    {Refusal::Empty, QStringLiteral("empty")},
+    {Refusal::NotATable, QStringLiteral("not-a-table")},
+    {Refusal::NotSupportedFormat, QStringLiteral("not-supported-format")},
+    {Refusal::Encrypted, QStringLiteral("encrypted")},
+    {Refusal::DocumentType, QStringLiteral("doctype")},
+    {Refusal::Malformed, QStringLiteral("malformed")},
+    {Refusal::OneColumn, QStringLiteral("one-column")},
+    {Refusal::NoHeader, QStringLiteral("no-header")}};
 
 QString fromUtf8(const std::string &text)
 {
@@ -40,8 +40,7 @@ struct Outcome
 Outcome openTable(const QString &path)
 {
     Outcome outcome;
-    try
-    {
+    try {
         const auto table = SiteTable::open(QFile::encodeName(path).toStdString(), {});
         const TableProfile &profile = table->facts().table;
         outcome.verdict = QStringLiteral("open");
@@ -54,16 +53,13 @@ Outcome openTable(const QString &path)
         outcome.header = names.join(QLatin1Char('|'));
         outcome.rowsRead = 0;
         const auto rows = table->rows();
-        while (rows->advance())
-        {
+        while (rows->advance()) {
             const Row &row = rows->cells();
             outcome.lastId = row.cells.empty() ? QString() : fromUtf8(cellText(row.cells.front()));
             if (outcome.rowsRead++ == 0)
                 outcome.firstId = outcome.lastId;
         }
-    }
-    catch (const RefusedFile &refused)
-    {
+    } catch (const RefusedFile &refused) {
         outcome.verdict = ReasonWords.at(refused.reason());
         if (qEnvironmentVariableIsSet("VLT_SHOW_REASONS"))
             qInfo("%s: %s", qPrintable(path), refused.what());
@@ -80,23 +76,29 @@ void readManifest(const QString &path, const QStringList &folders)
     QTest::addColumn<qint64>("columns");
     QFile file(path);
     QVERIFY2(file.open(QIODevice::ReadOnly), qPrintable(path));
-    const QStringList lines = QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    const QStringList lines =
+        QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
     const QStringList names = lines.first().split(QLatin1Char('\t'));
-    for (const QString &line : lines.mid(1))
-    {
+    for (const QString &line : lines.mid(1)) {
         const QStringList cells = line.split(QLatin1Char('\t'));
-        const auto cell = [&](const char *name) { return cells.value(names.indexOf(QLatin1String(name))); };
+        const auto cell = [&](const char *name) {
+            return cells.value(names.indexOf(QLatin1String(name)));
+        };
         QString found;
         for (const QString &folder : folders)
-            if (const QString candidate = folder + QLatin1Char('/') + cell("path"); found.isEmpty() && QFile::exists(candidate))
+            if (const QString candidate = folder + QLatin1Char('/') + cell("path");
+                found.isEmpty() && QFile::exists(candidate))
                 found = candidate;
-        if (found.isEmpty()) // a file that may not be passed on: only there where VLT_MORE_TABLES says
+        if (found.isEmpty()) // a file that may not be passed on: only there where VLT_MORE_TABLES
+                             // says
             continue;
         const bool opens = (cell("verdict") + cell("kind")) == QLatin1String("open");
-        const QString others = QRegularExpression(QStringLiteral("or=([\\w,-]+)")).match(cell("note")).captured(1);
+        const QString others =
+            QRegularExpression(QStringLiteral("or=([\\w,-]+)")).match(cell("note")).captured(1);
         QTest::newRow(qPrintable(cell("path")))
-            << found << (opens ? QStringLiteral("open") : cell("reason")) << cell("header").replace(QLatin1String("\\n"), QLatin1String(" "))
-            << cell("first_id") << cell("last_id") << others << (opens ? cell("rows").toLongLong() : -1)
+            << found << (opens ? QStringLiteral("open") : cell("reason"))
+            << cell("header").replace(QLatin1String("\\n"), QLatin1String(" ")) << cell("first_id")
+            << cell("last_id") << others << (opens ? cell("rows").toLongLong() : -1)
             << (opens ? cell("columns").toLongLong() : -1);
     }
 }
@@ -125,7 +127,8 @@ void compare()
 
 } // namespace
 
-/// Real tables of many programs against what independent readers found in them, and small legal files that hurt.
+/// Real tables of many programs against what independent readers found in them, and small legal
+/// files that hurt.
 class TableFiles : public QObject
 {
     Q_OBJECT
@@ -135,14 +138,17 @@ private Q_SLOTS:
     {
         QVERIFY(m_folder.isValid());
         QProcess maker;
-        maker.start(QStringLiteral("/usr/bin/python3"), {qEnvironmentVariable("VLT_HURTFUL"), m_folder.path()});
-        QVERIFY2(maker.waitForFinished(120000) && maker.exitCode() == 0, maker.readAllStandardError().constData());
+        maker.start(QStringLiteral("/usr/bin/python3"),
+                    {qEnvironmentVariable("VLT_HURTFUL"), m_folder.path()});
+        QVERIFY2(maker.waitForFinished(120000) && maker.exitCode() == 0,
+                 maker.readAllStandardError().constData());
     }
 
     void readsRealTables_data()
     {
         readManifest(qEnvironmentVariable("VLT_MANIFEST"),
-                     {qEnvironmentVariable("VLT_CORPUS"), qEnvironmentVariable("VLT_MORE_TABLES", QStringLiteral("/nonexistent"))});
+                     {qEnvironmentVariable("VLT_CORPUS"),
+                      qEnvironmentVariable("VLT_MORE_TABLES", QStringLiteral("/nonexistent"))});
     }
     void readsRealTables() { compare(); }
 

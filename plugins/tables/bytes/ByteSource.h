@@ -2,8 +2,7 @@
 
 #include <cstddef>
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
 /// A stream of bytes read from front to back.
 class ByteSource
@@ -11,7 +10,8 @@ class ByteSource
 public:
     virtual ~ByteSource() = default;
 
-    /// Reads up to `size` bytes into `to`; 0 means the end. Throws RefusedFile where the input is damaged.
+    /// Reads up to `size` bytes into `to`; 0 means the end. Throws RefusedFile where the input is
+    /// damaged.
     virtual size_t read(char *to, size_t size) = 0;
 };
 

@@ -3,6 +3,7 @@
 #include "bytes/Refusal.h"
 
 #include <algorithm>
+#include <atomic>
 #include <condition_variable>
 #include <cstring>
 #include <deque>
@@ -10,17 +11,27 @@
 #include <mutex>
 #include <thread>
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
-namespace
-{
+namespace {
 
 constexpr size_t ChunkSize = size_t{256} << 10;
-constexpr size_t Headroom = size_t{32} << 10;     ///< room before a chunk for the tail of the one before
+constexpr size_t Headroom = size_t{32}
+                            << 10; ///< room before a chunk for the tail of the one before
 constexpr size_t FirstChunkSize = size_t{64} << 10; ///< what a look at the header needs
 constexpr size_t BuffersAhead = 3;
+constexpr int SpinTurns = 2000;
 constexpr size_t LongestRow = size_t{256} << 20;
+
+/// Lets the other thread of the core go on for a moment.
+void relax()
+{
+#if defined(__x86_64__)
+    __builtin_ia32_pause();
+#else
+    std::this_thread::yield();
+#endif
+}
 
 } // namespace
 
@@ -56,14 +67,11 @@ public:
         if (m_finished)
             return nullptr;
         std::unique_ptr<Buffer> buffer;
-        if (m_synchronous > 0)
-        {
+        if (m_synchronous > 0) {
             buffer = spare ? std::move(spare) : std::make_unique<Buffer>();
             fill(*buffer, m_synchronous == 2 ? FirstChunkSize : ChunkSize);
             --m_synchronous;
-        }
-        else
-        {
+        } else {
             if (!m_thread.joinable())
                 m_thread = std::thread([this] { run(); });
             buffer = wait(std::move(spare));
@@ -78,8 +86,7 @@ private:
     void fill(Buffer &buffer, size_t size)
     {
         buffer.size = 0;
-        while (buffer.size < size)
-        {
+        while (buffer.size < size) {
             const size_t got = m_source->read(buffer.data() + buffer.size, size - buffer.size);
             if (got == 0)
                 break;
@@ -90,34 +97,42 @@ private:
 
     std::unique_ptr<Buffer> wait(std::unique_ptr<Buffer> spare)
     {
-        std::unique_lock lock(m_mutex);
-        if (spare)
+        if (spare) {
+            const std::lock_guard lock(m_mutex);
             m_spares.push_back(std::move(spare));
-        m_roomFreed.notify_one();
+        }
+        // A chunk takes less time than waking a sleeping thread.
+        for (int turn = 0; turn < SpinTurns && m_readyCount.load(std::memory_order_acquire) == 0;
+             ++turn)
+            relax();
+        std::unique_lock lock(m_mutex);
         m_filled.wait(lock, [this] { return !m_ready.empty() || m_failure; });
         if (m_ready.empty())
             std::rethrow_exception(m_failure);
         std::unique_ptr<Buffer> buffer = std::move(m_ready.front());
         m_ready.pop_front();
+        --m_readyCount;
         m_roomFreed.notify_one();
         return buffer;
     }
 
     void run()
     {
-        try
-        {
+        try {
             bool last = false;
-            while (!last)
-            {
+            while (!last) {
                 std::unique_ptr<Buffer> buffer;
+                for (int turn = 0; turn < SpinTurns &&
+                                   m_readyCount.load(std::memory_order_acquire) >= BuffersAhead;
+                     ++turn)
+                    relax();
                 {
                     std::unique_lock lock(m_mutex);
-                    m_roomFreed.wait(lock, [this] { return m_stop || m_ready.size() < BuffersAhead; });
+                    m_roomFreed.wait(lock,
+                                     [this] { return m_stop || m_ready.size() < BuffersAhead; });
                     if (m_stop)
                         return;
-                    if (!m_spares.empty())
-                    {
+                    if (!m_spares.empty()) {
                         buffer = std::move(m_spares.back());
                         m_spares.pop_back();
                     }
@@ -129,12 +144,11 @@ private:
                 {
                     const std::lock_guard lock(m_mutex);
                     m_ready.push_back(std::move(buffer));
+                    ++m_readyCount;
                 }
                 m_filled.notify_one();
             }
-        }
-        catch (...)
-        {
+        } catch (...) {
             const std::lock_guard lock(m_mutex);
             m_failure = std::current_exception();
             m_filled.notify_one();
@@ -149,12 +163,14 @@ private:
     std::condition_variable m_filled;
     std::condition_variable m_roomFreed;
     std::deque<std::unique_ptr<Buffer>> m_ready;
+    std::atomic<size_t> m_readyCount = 0; ///< size of m_ready, readable without the lock
     std::vector<std::unique_ptr<Buffer>> m_spares;
     std::exception_ptr m_failure;
     bool m_stop = false;
 };
 
-ChunkedInput::ChunkedInput(std::unique_ptr<ByteSource> source) : m_fetcher(std::make_unique<Fetcher>(std::move(source)))
+ChunkedInput::ChunkedInput(std::unique_ptr<ByteSource> source)
+    : m_fetcher(std::make_unique<Fetcher>(std::move(source)))
 {
     static const char nothing[1] = {0};
     m_begin = m_end = nothing;
@@ -176,17 +192,14 @@ void ChunkedInput::takeOver(std::unique_ptr<Buffer> next, const char *keepFrom)
     const size_t tail = static_cast<size_t>(m_end - keepFrom);
     if (tail > LongestRow)
         throw RefusedFile(Refusal::Malformed, "a single row is longer than 256 MiB");
-    if (tail <= Headroom)
-    {
+    if (tail <= Headroom) {
         char *start = next->data() - tail;
         if (tail > 0)
             std::memcpy(start, keepFrom, tail);
         m_begin = start;
         m_end = next->data() + next->size;
         std::vector<char>().swap(m_spill);
-    }
-    else
-    {
+    } else {
         if (m_spill.empty())
             m_spill.assign(keepFrom, m_end);
         else

@@ -6,13 +6,12 @@
 #include <string>
 #include <vector>
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
 /// A window over a byte stream that slides forward: whole records lie in it side by side.
 ///
-/// A second thread fetches (reads, inflates, recodes) the next chunk while the caller works on this one; it starts
-/// only when the stream is longer than one chunk.
+/// A second thread fetches (reads, inflates, recodes) the next chunk while the caller works on this
+/// one; it starts only when the stream is longer than one chunk.
 class ChunkedInput
 {
 public:
@@ -24,9 +23,10 @@ public:
     const char *begin() const { return m_begin; }
     const char *end() const { return m_end; }
 
-    /// Drops what lies before `keepFrom` and appends the next chunk behind end(). Pointers into the window move:
-    /// keepFrom is then begin(). False at the end of the stream, with the window as it was.
-    /// Throws RefusedFile where the stream is damaged or a record outgrows the limit of one row.
+    /// Drops what lies before `keepFrom` and appends the next chunk behind end(). Pointers into the
+    /// window move: keepFrom is then begin(). False at the end of the stream, with the window as it
+    /// was. Throws RefusedFile where the stream is damaged or a record outgrows the limit of one
+    /// row.
     bool more(const char *keepFrom);
 
 private:
@@ -38,7 +38,8 @@ private:
     std::unique_ptr<Fetcher> m_fetcher;
     std::unique_ptr<Buffer> m_current;
     std::unique_ptr<Buffer> m_spare;
-    std::vector<char> m_spill; ///< holds the window while a record is longer than a chunk's headroom
+    std::vector<char>
+        m_spill; ///< holds the window while a record is longer than a chunk's headroom
     const char *m_begin = nullptr;
     const char *m_end = nullptr;
 };

@@ -5,11 +5,9 @@
 
 #include <algorithm>
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
-namespace
-{
+namespace {
 
 constexpr size_t HeaderSize = 512;
 constexpr size_t EntrySize = 128;
@@ -36,8 +34,7 @@ CompoundFile::CompoundFile(std::shared_ptr<const InputFile> file) : m_file(std::
         refuse();
     m_miniCutoff = u32(header + 56);
     readAllocationTable(header);
-    for (const uint32_t sector : chain(m_table, u32(header + 60)))
-    {
+    for (const uint32_t sector : chain(m_table, u32(header + 60))) {
         std::vector<char> bytes(size_t{1} << m_sectorShift);
         m_file->readExactly(sectorOffset(sector), bytes.data(), bytes.size());
         for (size_t at = 0; at < bytes.size(); at += 4)
@@ -55,8 +52,7 @@ void CompoundFile::readAllocationTable(const char *header)
         tableSectors.push_back(u32(header + 76 + 4 * i));
     std::vector<char> bytes(sectorSize);
     uint32_t next = u32(header + 68);
-    for (size_t guard = 0; next < LastRegularSector; ++guard)
-    {
+    for (size_t guard = 0; next < LastRegularSector; ++guard) {
         if (guard > mostSectors)
             refuse();
         m_file->readExactly(sectorOffset(next), bytes.data(), sectorSize);
@@ -64,8 +60,7 @@ void CompoundFile::readAllocationTable(const char *header)
             tableSectors.push_back(u32(bytes.data() + at));
         next = u32(bytes.data() + sectorSize - 4);
     }
-    for (const uint32_t sector : tableSectors)
-    {
+    for (const uint32_t sector : tableSectors) {
         if (sector >= LastRegularSector)
             continue;
         const size_t got = m_file->readAt(sectorOffset(sector), bytes.data(), sectorSize);
@@ -79,8 +74,7 @@ void CompoundFile::readAllocationTable(const char *header)
 std::vector<uint32_t> CompoundFile::chain(const std::vector<uint32_t> &table, uint32_t first) const
 {
     std::vector<uint32_t> sectors;
-    for (uint32_t sector = first; sector < LastRegularSector; sector = table[sector])
-    {
+    for (uint32_t sector = first; sector < LastRegularSector; sector = table[sector]) {
         if (sector >= table.size() || sectors.size() > table.size()) // a circle or a cut file
             refuse();
         sectors.push_back(sector);
@@ -92,11 +86,9 @@ void CompoundFile::readDirectory(uint32_t firstSector)
 {
     std::vector<char> bytes(size_t{1} << m_sectorShift);
     size_t count = 0;
-    for (const uint32_t sector : chain(m_table, firstSector))
-    {
+    for (const uint32_t sector : chain(m_table, firstSector)) {
         m_file->readExactly(sectorOffset(sector), bytes.data(), bytes.size());
-        for (size_t at = 0; at < bytes.size() && ++count < MostEntries; at += EntrySize)
-        {
+        for (size_t at = 0; at < bytes.size() && ++count < MostEntries; at += EntrySize) {
             const char *entry = bytes.data() + at;
             const size_t nameSize = std::min<size_t>(u16(entry + 64), 64);
             std::string name; // the names that matter are ASCII in UTF-16
@@ -116,8 +108,7 @@ std::vector<Extent> CompoundFile::bigExtents(uint32_t first, uint64_t size) cons
 {
     std::vector<Extent> extents;
     const uint64_t sectorSize = uint64_t{1} << m_sectorShift;
-    for (const uint32_t sector : chain(m_table, first))
-    {
+    for (const uint32_t sector : chain(m_table, first)) {
         const uint64_t part = std::min(sectorSize, size);
         if (part == 0)
             break;
@@ -143,8 +134,7 @@ std::vector<Extent> CompoundFile::extents(const std::string &name) const
         return bigExtents(found->second.firstSector, size);
     const std::vector<Extent> container = bigExtents(m_root.firstSector, m_root.size);
     std::vector<Extent> extents;
-    for (const uint32_t sector : chain(m_miniTable, found->second.firstSector))
-    {
+    for (const uint32_t sector : chain(m_miniTable, found->second.firstSector)) {
         uint64_t offset = uint64_t{sector} << MiniShift;
         const uint64_t part = std::min(uint64_t{1} << MiniShift, size);
         size_t at = 0;

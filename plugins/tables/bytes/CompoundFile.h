@@ -8,8 +8,7 @@
 #include <string>
 #include <vector>
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
 /// The streams of an OLE 2 compound file. Source of the format: [MS-CFB].
 class CompoundFile
@@ -21,7 +20,8 @@ public:
     explicit CompoundFile(std::shared_ptr<const InputFile> file);
 
     bool contains(const std::string &name) const { return m_entries.count(name) != 0; }
-    /// Where the bytes of a stream lie in the file, in order. Throws RefusedFile when it is missing or damaged.
+    /// Where the bytes of a stream lie in the file, in order. Throws RefusedFile when it is missing
+    /// or damaged.
     std::vector<Extent> extents(const std::string &name) const;
 
 private:

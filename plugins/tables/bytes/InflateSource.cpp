@@ -5,11 +5,9 @@
 #include <isa-l/crc.h>
 #include <isa-l/igzip_lib.h>
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
-namespace
-{
+namespace {
 
 constexpr size_t InputSize = size_t{64} << 10;
 
@@ -30,10 +28,8 @@ size_t InflateSource::read(char *to, size_t size)
 {
     m_state->next_out = reinterpret_cast<uint8_t *>(to);
     m_state->avail_out = static_cast<uint32_t>(size);
-    while (m_state->avail_out == size && m_state->block_state != ISAL_BLOCK_FINISH)
-    {
-        if (m_state->avail_in == 0 && !m_inputEnded)
-        {
+    while (m_state->avail_out == size && m_state->block_state != ISAL_BLOCK_FINISH) {
+        if (m_state->avail_in == 0 && !m_inputEnded) {
             const size_t got = m_compressed->read(m_input.data(), m_input.size());
             m_inputEnded = got == 0;
             m_state->next_in = reinterpret_cast<uint8_t *>(m_input.data());
@@ -41,15 +37,18 @@ size_t InflateSource::read(char *to, size_t size)
         }
         const uint32_t inputBefore = m_state->avail_in;
         if (isal_inflate(m_state.get()) < 0)
-            throw RefusedFile(Refusal::Malformed, "the compressed data of the workbook are damaged");
+            throw RefusedFile(Refusal::Malformed,
+                              "the compressed data of the workbook are damaged");
         const bool stuck = m_inputEnded && inputBefore == 0 && m_state->avail_out == size;
         if (stuck && m_state->block_state != ISAL_BLOCK_FINISH)
-            throw RefusedFile(Refusal::Malformed, "the compressed data of the workbook are cut short");
+            throw RefusedFile(Refusal::Malformed,
+                              "the compressed data of the workbook are cut short");
     }
     const size_t got = size - m_state->avail_out;
     m_crc = crc32_gzip_refl(m_crc, reinterpret_cast<const uint8_t *>(to), got);
     if (got == 0 && m_crc != m_expectedCrc)
-        throw RefusedFile(Refusal::Malformed, "the compressed data of the workbook fail their check sum");
+        throw RefusedFile(Refusal::Malformed,
+                          "the compressed data of the workbook fail their check sum");
     return got;
 }
 

@@ -8,8 +8,7 @@
 
 struct inflate_state;
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
 /// Inflates a raw deflate stream and checks it against the CRC that the archive's directory gives.
 ///

@@ -10,11 +10,9 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
-namespace
-{
+namespace {
 
 constexpr int64_t NanosecondsPerSecond = 1'000'000'000;
 
@@ -29,15 +27,17 @@ FileIdentity identityOf(const struct stat &status)
         throw RefusedFile(Refusal::CannotRead, "this is a folder, not a file");
     if (!S_ISREG(status.st_mode)) // a pipe or a device could block or never end
         throw RefusedFile(Refusal::CannotRead, "this is not a regular file");
-    return {static_cast<uint64_t>(status.st_dev), static_cast<uint64_t>(status.st_ino), status.st_size,
-            nanoseconds(status.st_mtim), nanoseconds(status.st_ctim)};
+    return {static_cast<uint64_t>(status.st_dev), static_cast<uint64_t>(status.st_ino),
+            status.st_size, nanoseconds(status.st_mtim), nanoseconds(status.st_ctim)};
 }
 
 [[noreturn]] void refuseBySystem()
 {
     const int code = errno;
     throw RefusedFile(Refusal::CannotRead,
-                      code == ENOENT ? "the file does not exist" : std::string("the file cannot be read: ") + std::strerror(code));
+                      code == ENOENT
+                          ? "the file does not exist"
+                          : std::string("the file cannot be read: ") + std::strerror(code));
 }
 
 } // namespace
@@ -58,14 +58,11 @@ std::shared_ptr<const InputFile> InputFile::open(const std::string &path)
         refuseBySystem();
     struct stat status = {};
     FileIdentity identity;
-    try
-    {
+    try {
         if (fstat(descriptor, &status) != 0)
             refuseBySystem();
         identity = identityOf(status);
-    }
-    catch (...)
-    {
+    } catch (...) {
         close(descriptor);
         throw;
     }
@@ -80,9 +77,9 @@ InputFile::~InputFile()
 size_t InputFile::readAt(uint64_t offset, char *to, size_t size) const
 {
     size_t done = 0;
-    while (done < size)
-    {
-        const ssize_t got = pread(m_descriptor, to + done, size - done, static_cast<off_t>(offset + done));
+    while (done < size) {
+        const ssize_t got =
+            pread(m_descriptor, to + done, size - done, static_cast<off_t>(offset + done));
         if (got < 0 && errno == EINTR)
             continue;
         if (got < 0)
@@ -108,24 +105,23 @@ std::string InputFile::head(size_t size) const
 }
 
 FileSource::FileSource(std::shared_ptr<const InputFile> file, std::vector<Extent> extents)
-    : m_file(std::move(file)), m_extents(std::move(extents))
-{
-}
+    : m_file(std::move(file))
+    , m_extents(std::move(extents))
+{}
 
 size_t FileSource::read(char *to, size_t size)
 {
     size_t done = 0;
-    while (done < size && m_current < m_extents.size())
-    {
+    while (done < size && m_current < m_extents.size()) {
         const Extent &extent = m_extents[m_current];
-        const size_t wanted = static_cast<size_t>(std::min<uint64_t>(size - done, extent.size - m_done));
+        const size_t wanted =
+            static_cast<size_t>(std::min<uint64_t>(size - done, extent.size - m_done));
         const size_t got = m_file->readAt(extent.offset + m_done, to + done, wanted);
         done += got;
         m_done += got;
         if (got < wanted) // what a compound file announces but does not hold
             m_current = m_extents.size();
-        else if (m_done == extent.size)
-        {
+        else if (m_done == extent.size) {
             ++m_current;
             m_done = 0;
         }

@@ -7,8 +7,7 @@
 #include <string>
 #include <vector>
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
 /// What tells one state of a file from another.
 struct FileIdentity
@@ -24,7 +23,8 @@ struct FileIdentity
 
 /// A local file opened for reading at any offset. Safe to share between threads.
 ///
-/// Files are read, not mapped: a table that shrinks while it is read gives an error instead of a crash.
+/// Files are read, not mapped: a table that shrinks while it is read gives an error instead of a
+/// crash.
 class InputFile
 {
 public:
@@ -48,7 +48,10 @@ public:
     std::string head(size_t size) const;
 
 private:
-    InputFile(int descriptor, const FileIdentity &identity) : m_descriptor(descriptor), m_identity(identity) {}
+    InputFile(int descriptor, const FileIdentity &identity)
+        : m_descriptor(descriptor)
+        , m_identity(identity)
+    {}
 
     int m_descriptor;
     FileIdentity m_identity;

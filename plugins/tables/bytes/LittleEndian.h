@@ -4,13 +4,14 @@
 #include <cstdint>
 #include <cstring>
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
 /// Unaligned little-endian numbers, as office formats and ZIP store them.
-template <typename T> T littleEndian(const char *at)
+template<typename T>
+T littleEndian(const char *at)
 {
-    static_assert(std::endian::native == std::endian::little, "byte swapping is needed on this machine");
+    static_assert(std::endian::native == std::endian::little,
+                  "byte swapping is needed on this machine");
     T value;
     std::memcpy(&value, at, sizeof value);
     return value;

@@ -8,15 +8,14 @@
 
 #include <iconv.h>
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
-namespace
-{
+namespace {
 
 constexpr size_t InputSize = size_t{64} << 10;
 constexpr char Replacement[] = "\xEF\xBF\xBD";
-constexpr size_t LongestMeaningful = 8; ///< bytes of the longest sequence that stands for one character
+constexpr size_t LongestMeaningful =
+    8; ///< bytes of the longest sequence that stands for one character
 
 class MemorySource : public ByteSource
 {
@@ -38,14 +37,17 @@ private:
 } // namespace
 
 RecodeSource::RecodeSource(std::unique_ptr<ByteSource> source, const std::string &encoding)
-    : m_source(std::move(source)), m_converter(iconv_open("UTF-8", encoding.c_str())), m_input(InputSize)
+    : m_source(std::move(source))
+    , m_converter(iconv_open("UTF-8", encoding.c_str()))
+    , m_input(InputSize)
 {
     if (encoding.starts_with("UTF-16"))
         m_unit = 2;
     else if (encoding.starts_with("UTF-32"))
         m_unit = 4;
     if (m_converter == reinterpret_cast<iconv_t>(-1))
-        throw RefusedFile(Refusal::NotSupportedFormat, "the encoding \"" + encoding + "\" is not known");
+        throw RefusedFile(Refusal::NotSupportedFormat,
+                          "the encoding \"" + encoding + "\" is not known");
 }
 
 RecodeSource::~RecodeSource()
@@ -67,8 +69,7 @@ size_t RecodeSource::read(char *to, size_t size)
 {
     char *out = to;
     size_t room = size;
-    while (room == size)
-    {
+    while (room == size) {
         if (!m_inputEnded && m_inputEnd - m_inputBegin < LongestMeaningful)
             fillInput();
         if (m_inputBegin == m_inputEnd)
@@ -82,15 +83,13 @@ size_t RecodeSource::read(char *to, size_t size)
         const bool unknown = result == static_cast<size_t>(-1) && errno == EILSEQ;
         if (cutShort && m_inputEnded)
             m_inputBegin = m_inputEnd; // half a character at the end of the file
-        else if (unknown && room >= sizeof Replacement)
-        {
+        else if (unknown && room >= sizeof Replacement) {
             std::memcpy(out, Replacement, sizeof Replacement - 1);
             out += sizeof Replacement - 1;
             room -= sizeof Replacement - 1;
             m_inputBegin = std::min(m_inputBegin + m_unit, m_inputEnd);
             iconv(m_converter, nullptr, nullptr, nullptr, nullptr);
-        }
-        else if (cutShort)
+        } else if (cutShort)
             fillInput();
         else if (room == size && left == leftBefore)
             break; // the caller's room is smaller than one character
@@ -105,11 +104,13 @@ std::string encodingOfMark(const std::string &head, size_t &markSize)
         const char *mark;
         size_t size;
         const char *encoding;
-    } Marks[] = {{"\xEF\xBB\xBF", 3, "UTF-8"},     {"\xFF\xFE\0\0", 4, "UTF-32LE"}, {"\0\0\xFE\xFF", 4, "UTF-32BE"},
-                 {"\xFF\xFE", 2, "UTF-16LE"}, {"\xFE\xFF", 2, "UTF-16BE"}};
+    } Marks[] = {{"\xEF\xBB\xBF", 3, "UTF-8"},
+                 {"\xFF\xFE\0\0", 4, "UTF-32LE"},
+                 {"\0\0\xFE\xFF", 4, "UTF-32BE"},
+                 {"\xFF\xFE", 2, "UTF-16LE"},
+                 {"\xFE\xFF", 2, "UTF-16BE"}};
     for (const auto &mark : Marks)
-        if (head.compare(0, mark.size, std::string(mark.mark, mark.size)) == 0)
-        {
+        if (head.compare(0, mark.size, std::string(mark.mark, mark.size)) == 0) {
             markSize = mark.size;
             return mark.encoding;
         }

@@ -6,11 +6,10 @@
 #include <string>
 #include <vector>
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
-/// Turns a stream of any encoding into UTF-8. A leading byte order mark is dropped; a sequence that the encoding
-/// does not know becomes U+FFFD.
+/// Turns a stream of any encoding into UTF-8. A leading byte order mark is dropped; a sequence that
+/// the encoding does not know becomes U+FFFD.
 class RecodeSource : public ByteSource
 {
 public:
@@ -32,7 +31,8 @@ private:
     bool m_inputEnded = false;
 };
 
-/// Name of the encoding that a byte order mark at the start of `head` tells, else empty; `markSize` is its length.
+/// Name of the encoding that a byte order mark at the start of `head` tells, else empty; `markSize`
+/// is its length.
 std::string encodingOfMark(const std::string &head, size_t &markSize);
 
 /// One text in UTF-8.

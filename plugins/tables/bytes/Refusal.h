@@ -3,12 +3,10 @@
 #include <stdexcept>
 #include <string>
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
 /// Why a file is not read as a table of sites.
-enum class Refusal
-{
+enum class Refusal {
     CannotRead,         ///< missing, a directory, no permission, input error
     Empty,              ///< nothing in it, or a header without rows
     NotATable,          ///< neither text nor a workbook
@@ -21,11 +19,15 @@ enum class Refusal
     BadOption,          ///< an option of the connection string or an open option cannot be used
 };
 
-/// Thrown inside the reader, caught where the file was opened; the text names the reason for the user.
+/// Thrown inside the reader, caught where the file was opened; the text names the reason for the
+/// user.
 class RefusedFile : public std::runtime_error
 {
 public:
-    RefusedFile(Refusal reason, const std::string &text) : std::runtime_error(text), m_reason(reason) {}
+    RefusedFile(Refusal reason, const std::string &text)
+        : std::runtime_error(text)
+        , m_reason(reason)
+    {}
 
     Refusal reason() const { return m_reason; }
 

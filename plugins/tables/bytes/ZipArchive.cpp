@@ -7,11 +7,9 @@
 #include <algorithm>
 #include <vector>
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
-namespace
-{
+namespace {
 
 constexpr uint32_t EndSignature = 0x06054b50;
 constexpr uint32_t End64Signature = 0x06064b50;
@@ -46,19 +44,18 @@ std::string lowered(std::string text)
 ZipArchive::ZipArchive(std::shared_ptr<const InputFile> file) : m_file(std::move(file))
 {
     const uint64_t fileSize = m_file->size();
-    const size_t tailSize = static_cast<size_t>(std::min<uint64_t>(fileSize, EndSize + LongestComment));
+    const size_t tailSize =
+        static_cast<size_t>(std::min<uint64_t>(fileSize, EndSize + LongestComment));
     std::string tail(tailSize, '\0');
     m_file->readExactly(fileSize - tailSize, tail.data(), tailSize);
-    for (size_t at = tailSize < EndSize ? 0 : tailSize - EndSize + 1; at-- > 0;)
-    {
+    for (size_t at = tailSize < EndSize ? 0 : tailSize - EndSize + 1; at-- > 0;) {
         const char *end = tail.data() + at;
         if (u32(end) != EndSignature)
             continue;
         uint64_t size = u32(end + 12);
         uint64_t offset = u32(end + 16);
         const uint64_t endOffset = fileSize - tailSize + at;
-        if (endOffset >= LocatorSize && (offset == Marker32 || size == Marker32))
-        {
+        if (endOffset >= LocatorSize && (offset == Marker32 || size == Marker32)) {
             char locator[LocatorSize];
             m_file->readExactly(endOffset - LocatorSize, locator, LocatorSize);
             char end64[End64Size];
@@ -86,8 +83,7 @@ void ZipArchive::readDirectory(uint64_t offset, uint64_t size)
     m_file->readExactly(offset, bytes.data(), bytes.size());
     const char *at = bytes.data();
     const char *end = at + bytes.size();
-    while (static_cast<size_t>(end - at) >= MemberSize && u32(at) == MemberSignature)
-    {
+    while (static_cast<size_t>(end - at) >= MemberSize && u32(at) == MemberSignature) {
         const size_t nameSize = u16(at + 28);
         const size_t extraSize = u16(at + 30);
         const size_t whole = MemberSize + nameSize + extraSize + u16(at + 32);
@@ -96,16 +92,14 @@ void ZipArchive::readDirectory(uint64_t offset, uint64_t size)
         Member member = {u32(at + 42), u32(at + 20), u32(at + 16), u16(at + 10), u16(at + 8)};
         uint64_t inflatedSize = u32(at + 24);
         const char *extra = at + MemberSize + nameSize;
-        for (const char *extraEnd = extra + extraSize; extraEnd - extra >= 4;)
-        {
+        for (const char *extraEnd = extra + extraSize; extraEnd - extra >= 4;) {
             const char *value = extra + 4;
             const char *valueEnd = value + u16(extra + 2);
             if (valueEnd > extraEnd)
                 break;
             if (u16(extra) == Zip64Field)
                 for (uint64_t *wide : {&inflatedSize, &member.compressedSize, &member.headerOffset})
-                    if (*wide == Marker32 && valueEnd - value >= 8)
-                    {
+                    if (*wide == Marker32 && valueEnd - value >= 8) {
                         *wide = u64(value);
                         value += 8;
                     }
@@ -136,11 +130,13 @@ std::unique_ptr<ByteSource> ZipArchive::open(const std::string &name) const
     const uint64_t data = member->headerOffset + LocalSize + u16(local + 26) + u16(local + 28);
     if (data > m_file->size() || member->compressedSize > m_file->size() - data)
         refuse("the workbook is cut short");
-    auto bytes = std::make_unique<FileSource>(m_file, std::vector<Extent>{{data, member->compressedSize}});
+    auto bytes =
+        std::make_unique<FileSource>(m_file, std::vector<Extent>{{data, member->compressedSize}});
     if (member->method == 0)
         return bytes;
     if (member->method != 8)
-        throw RefusedFile(Refusal::NotSupportedFormat, "the workbook is packed by an unusual compression method");
+        throw RefusedFile(Refusal::NotSupportedFormat,
+                          "the workbook is packed by an unusual compression method");
     return std::make_unique<InflateSource>(std::move(bytes), member->crc);
 }
 
@@ -149,8 +145,7 @@ std::string ZipArchive::readAll(const std::string &name, size_t limit) const
     const std::unique_ptr<ByteSource> source = open(name);
     std::string text;
     constexpr size_t Step = size_t{64} << 10;
-    for (;;)
-    {
+    for (;;) {
         const size_t before = text.size();
         if (before > limit)
             refuse("a part of the workbook is unreasonably large");

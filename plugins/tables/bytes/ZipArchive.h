@@ -8,8 +8,7 @@
 #include <memory>
 #include <string>
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
 /// Reads the members of a ZIP archive (also ZIP64). Only the central directory is trusted.
 ///
@@ -21,8 +20,8 @@ public:
     explicit ZipArchive(std::shared_ptr<const InputFile> file);
 
     bool contains(const std::string &name) const { return find(name) != nullptr; }
-    /// The bytes of a member, stored or deflated. Throws RefusedFile: Malformed when it is missing or damaged,
-    /// Encrypted, NotSupportedFormat for another compression method.
+    /// The bytes of a member, stored or deflated. Throws RefusedFile: Malformed when it is missing
+    /// or damaged, Encrypted, NotSupportedFormat for another compression method.
     std::unique_ptr<ByteSource> open(const std::string &name) const;
     /// A whole member as text, at most `limit` bytes (Malformed beyond).
     std::string readAll(const std::string &name, size_t limit) const;
@@ -41,7 +40,8 @@ private:
     const Member *find(const std::string &name) const;
 
     std::shared_ptr<const InputFile> m_file;
-    std::map<std::string, Member> m_members; ///< by lower-case name: part names compare so in office packages
+    std::map<std::string, Member>
+        m_members; ///< by lower-case name: part names compare so in office packages
 };
 
 } // namespace vlt::tables

@@ -8,16 +8,13 @@
 #include <immintrin.h>
 #endif
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
-namespace
-{
+namespace {
 
 const char *findPairPlain(const char *begin, const char *end, char first, char second)
 {
-    while (end - begin >= 2)
-    {
+    while (end - begin >= 2) {
         const void *found = std::memchr(begin, first, static_cast<size_t>(end - begin - 1));
         if (!found)
             break;
@@ -36,39 +33,16 @@ const char *findAnyOfPlain(const char *begin, const char *end, char a, char b, c
     return begin;
 }
 
-bool hasHighBytesPlain(const char *begin, const char *end)
-{
-    uint64_t bits = 0;
-    for (; end - begin >= 8; begin += 8)
-    {
-        uint64_t word;
-        std::memcpy(&word, begin, sizeof word);
-        bits |= word;
-    }
-    for (; begin < end; ++begin)
-        bits |= static_cast<unsigned char>(*begin) & 0x80U;
-    return (bits & 0x8080808080808080U) != 0;
-}
-
 #if defined(__x86_64__)
 
-__attribute__((target("avx2"))) bool hasHighBytesAvx2(const char *begin, const char *end)
-{
-    __m256i bits = _mm256_setzero_si256();
-    constexpr int Width = 32;
-    for (; end - begin >= Width; begin += Width)
-        bits = _mm256_or_si256(bits, _mm256_loadu_si256(reinterpret_cast<const __m256i *>(begin)));
-    return _mm256_movemask_epi8(bits) != 0 || hasHighBytesPlain(begin, end);
-}
-
-__attribute__((target("avx2,bmi"))) const char *findAnyOfAvx2(const char *begin, const char *end, char a, char b, char c)
+__attribute__((target("avx2,bmi"))) const char *findAnyOfAvx2(const char *begin, const char *end,
+                                                              char a, char b, char c)
 {
     const __m256i wantA = _mm256_set1_epi8(a);
     const __m256i wantB = _mm256_set1_epi8(b);
     const __m256i wantC = _mm256_set1_epi8(c);
     constexpr int Width = 32;
-    for (; end - begin >= Width; begin += Width)
-    {
+    for (; end - begin >= Width; begin += Width) {
         const __m256i bytes = _mm256_loadu_si256(reinterpret_cast<const __m256i *>(begin));
         const __m256i found = _mm256_or_si256(
             _mm256_cmpeq_epi8(bytes, wantA),
@@ -79,40 +53,41 @@ __attribute__((target("avx2,bmi"))) const char *findAnyOfAvx2(const char *begin,
     return findAnyOfPlain(begin, end, a, b, c);
 }
 
-__attribute__((target("avx2,bmi"))) const char *findPairAvx2(const char *begin, const char *end, char first,
-                                                             char second)
+__attribute__((target("avx2,bmi"))) const char *findPairAvx2(const char *begin, const char *end,
+                                                             char first, char second)
 {
     const __m256i a = _mm256_set1_epi8(first);
     const __m256i b = _mm256_set1_epi8(second);
     constexpr int Width = 32;
-    for (; end - begin > 2 * Width; begin += 2 * Width)
-    {
+    for (; end - begin > 2 * Width; begin += 2 * Width) {
         const auto at = [begin](int offset) __attribute__((target("avx2")))
-        { return _mm256_loadu_si256(reinterpret_cast<const __m256i *>(begin + offset)); };
-        const __m256i low = _mm256_and_si256(_mm256_cmpeq_epi8(at(0), a), _mm256_cmpeq_epi8(at(1), b));
-        const __m256i high = _mm256_and_si256(_mm256_cmpeq_epi8(at(Width), a), _mm256_cmpeq_epi8(at(Width + 1), b));
+        {
+            return _mm256_loadu_si256(reinterpret_cast<const __m256i *>(begin + offset));
+        };
+        const __m256i low =
+            _mm256_and_si256(_mm256_cmpeq_epi8(at(0), a), _mm256_cmpeq_epi8(at(1), b));
+        const __m256i high =
+            _mm256_and_si256(_mm256_cmpeq_epi8(at(Width), a), _mm256_cmpeq_epi8(at(Width + 1), b));
         const __m256i either = _mm256_or_si256(low, high);
         if (_mm256_testz_si256(either, either))
             continue;
-        const uint64_t mask = static_cast<uint32_t>(_mm256_movemask_epi8(low)) |
-                              static_cast<uint64_t>(static_cast<uint32_t>(_mm256_movemask_epi8(high))) << Width;
+        const uint64_t mask =
+            static_cast<uint32_t>(_mm256_movemask_epi8(low)) |
+            static_cast<uint64_t>(static_cast<uint32_t>(_mm256_movemask_epi8(high))) << Width;
         return begin + std::countr_zero(mask);
     }
     return findPairPlain(begin, end, first, second);
 }
 
 using PairFinder = const char *(*)(const char *, const char *, char, char);
-using ByteTest = bool (*)(const char *, const char *);
 using AnyFinder = const char *(*)(const char *, const char *, char, char, char);
 
 const PairFinder BestPairFinder = __builtin_cpu_supports("avx2") ? findPairAvx2 : findPairPlain;
-const ByteTest BestHighTest = __builtin_cpu_supports("avx2") ? hasHighBytesAvx2 : hasHighBytesPlain;
 const AnyFinder BestAnyFinder = __builtin_cpu_supports("avx2") ? findAnyOfAvx2 : findAnyOfPlain;
 
 #else
 
 constexpr auto BestPairFinder = findPairPlain;
-constexpr auto BestHighTest = hasHighBytesPlain;
 constexpr auto BestAnyFinder = findAnyOfPlain;
 
 #endif
@@ -129,15 +104,9 @@ const char *findAnyOf(const char *begin, const char *end, char a, char b, char c
     return BestAnyFinder(begin, end, a, b, c);
 }
 
-bool hasHighBytes(const char *begin, const char *end)
-{
-    return BestHighTest(begin, end);
-}
-
 const char *findText(const char *begin, const char *end, std::string_view text)
 {
-    for (;;)
-    {
+    for (;;) {
         begin = findPair(begin, end, text[0], text[1]);
         if (begin == end || static_cast<size_t>(end - begin) < text.size())
             return end;

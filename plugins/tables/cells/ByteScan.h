@@ -2,8 +2,7 @@
 
 #include <string_view>
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
 /// First place in [begin, end - 1) where `first` is followed by `second`; `end` when there is none.
 /// Uses the widest registers of the machine it runs on.
@@ -11,9 +10,6 @@ const char *findPair(const char *begin, const char *end, char first, char second
 
 /// First place in [begin, end) that holds one of three bytes; `end` when there is none.
 const char *findAnyOf(const char *begin, const char *end, char a, char b, char c);
-
-/// Whether a byte in [begin, end) lies above ASCII.
-bool hasHighBytes(const char *begin, const char *end);
 
 /// First place of `text` (two bytes at least) in [begin, end); `end` when there is none.
 const char *findText(const char *begin, const char *end, std::string_view text);

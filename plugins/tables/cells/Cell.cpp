@@ -2,21 +2,18 @@
 
 #include "cells/Numbers.h"
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
-namespace
-{
+namespace {
 
 constexpr std::string_view Blanks(" \t\r\n\v\f\0", 7);
 constexpr std::string_view NoBreakSpace = "\xC2\xA0";
 
 } // namespace
 
-std::string_view trimmed(std::string_view text)
+std::string_view trimmedSlowly(std::string_view text)
 {
-    for (;;)
-    {
+    for (;;) {
         const size_t first = text.find_first_not_of(Blanks);
         if (first == std::string_view::npos)
             return {};

@@ -6,15 +6,13 @@
 #include <string_view>
 #include <vector>
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
-/// One cell of a table that holds something. Views point into the row's own memory or the workbook's strings and
-/// live until the next row is read.
+/// One cell of a table that holds something. Views point into the row's own memory or the
+/// workbook's strings and live until the next row is read.
 struct Cell
 {
-    enum class Kind : uint8_t
-    {
+    enum class Kind : uint8_t {
         Text,
         Number,  ///< `text` is its decimal form, or empty when only `number` is known
         Boolean, ///< text TRUE or FALSE
@@ -53,7 +51,13 @@ private:
 };
 
 /// White space at either end of `text` taken off (spaces, tabs, line ends, no-break spaces).
-std::string_view trimmed(std::string_view text);
+std::string_view trimmedSlowly(std::string_view text);
+inline std::string_view trimmed(std::string_view text)
+{
+    const auto isPlain = [](char c) { return c > ' ' && c < '\x7F'; };
+    return !text.empty() && isPlain(text.front()) && isPlain(text.back()) ? text
+                                                                          : trimmedSlowly(text);
+}
 
 /// Text of a cell, a number in its shortest decimal form of at most 15 significant digits.
 std::string cellText(const Cell &cell);

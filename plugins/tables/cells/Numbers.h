@@ -4,28 +4,28 @@
 #include <string>
 #include <string_view>
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
 /// How a table writes fractions.
-enum class DecimalMark : char
-{
+enum class DecimalMark : char {
     Point = '.',
     Comma = ',',
 };
 
-/// A decimal number that fills the whole text: sign, digits, at most one decimal mark, exponent. No white space, no
-/// digit grouping, neither infinity nor NaN, whatever the process locale. Correctly rounded.
+/// A decimal number that fills the whole text: sign, digits, at most one decimal mark, exponent. No
+/// white space, no digit grouping, neither infinity nor NaN, whatever the process locale. Correctly
+/// rounded.
 std::optional<double> parseNumber(std::string_view text, DecimalMark mark = DecimalMark::Point);
 
 /// What a text is when it stands for a number.
 struct NumberShape
 {
     bool isNumber = false;
-    bool isWhole = false;       ///< neither decimal mark nor exponent
-    bool usesComma = false;     ///< a comma is the decimal mark
-    bool usesPoint = false;     ///< a point is the decimal mark
-    bool isIdentifier = false;  ///< digits that a number would lose: leading zeros, over 15 digits, a phone number
+    bool isWhole = false;   ///< neither decimal mark nor exponent
+    bool usesComma = false; ///< a comma is the decimal mark
+    bool usesPoint = false; ///< a point is the decimal mark
+    bool isIdentifier =
+        false; ///< digits that a number would lose: leading zeros, over 15 digits, a phone number
 };
 
 /// Tells what a trimmed text looks like; either decimal mark is accepted.

@@ -5,11 +5,9 @@
 #include <cmath>
 #include <cstdio>
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
-namespace
-{
+namespace {
 
 constexpr double LastDay = 2958465; ///< 9999-12-31
 constexpr int FictitiousLeapDay = 60;
@@ -21,8 +19,7 @@ constexpr int64_t SecondsPerDay = 86400;
 bool isDateFormat(std::string_view format)
 {
     bool quoted = false;
-    for (size_t at = 0; at < format.size(); ++at)
-    {
+    for (size_t at = 0; at < format.size(); ++at) {
         const char c = format[at];
         if (c == '"')
             quoted = !quoted;
@@ -30,19 +27,18 @@ bool isDateFormat(std::string_view format)
             continue;
         else if (c == '\\' || c == '_' || c == '*')
             ++at;
-        else if (c == '[')
-        {
+        else if (c == '[') {
             const size_t close = format.find(']', at);
             if (close == std::string_view::npos)
                 return false;
             const char inside = at + 1 < close ? format[at + 1] : '\0';
             const bool elapsed = (inside == 'h' || inside == 'm' || inside == 's') &&
-                                 format.substr(at + 1, close - at - 1).find_first_not_of(inside) == std::string_view::npos;
+                                 format.substr(at + 1, close - at - 1).find_first_not_of(inside) ==
+                                     std::string_view::npos;
             if (elapsed)
                 return true;
             at = close;
-        }
-        else if (c == ';')
+        } else if (c == ';')
             return false; // the first section is that of positive numbers
         else if (std::string_view("ymdhsYMDHS").find(c) != std::string_view::npos)
             return true;
@@ -54,7 +50,8 @@ bool isDateFormat(std::string_view format)
 
 bool isDateFormatId(int id)
 {
-    return (id >= 14 && id <= 22) || (id >= 27 && id <= 36) || (id >= 45 && id <= 47) || (id >= 50 && id <= 58);
+    return (id >= 14 && id <= 22) || (id >= 27 && id <= 36) || (id >= 45 && id <= 47) ||
+           (id >= 50 && id <= 58);
 }
 
 std::string isoDate(double serial, bool from1904)
@@ -65,21 +62,20 @@ std::string isoDate(double serial, bool from1904)
         return {};
     int64_t day = static_cast<int64_t>(std::floor(serial));
     int64_t seconds = std::llround((serial - static_cast<double>(day)) * SecondsPerDay);
-    if (seconds == SecondsPerDay)
-    {
+    if (seconds == SecondsPerDay) {
         ++day;
         seconds = 0;
     }
     std::array<char, 32> text;
-    const auto time = [&](const char *format, auto... before)
-    {
+    const auto time = [&](const char *format, auto... before) {
         std::snprintf(text.data(), text.size(), format, before..., static_cast<int>(seconds / 3600),
                       static_cast<int>(seconds / 60 % 60), static_cast<int>(seconds % 60));
         return std::string(text.data());
     };
     if (day == 0)
         return time("%02d:%02d:%02d");
-    const std::chrono::sys_days origin = std::chrono::year(1899) / std::chrono::December / (day < FictitiousLeapDay ? 31 : 30);
+    const std::chrono::sys_days origin =
+        std::chrono::year(1899) / std::chrono::December / (day < FictitiousLeapDay ? 31 : 30);
     const std::chrono::year_month_day date(origin + std::chrono::days(day));
     const int year = static_cast<int>(date.year());
     const unsigned month = static_cast<unsigned>(date.month());

@@ -7,11 +7,9 @@
 #include "cells/xlsx/XlsxWorkbook.h"
 #include "cells/xml/SpreadsheetMlWorkbook.h"
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
-namespace
-{
+namespace {
 
 constexpr size_t HeadSize = 512;
 
@@ -19,15 +17,16 @@ constexpr size_t HeadSize = 512;
 bool startsWithTag(const std::string &head)
 {
     for (const char c : head)
-        if (static_cast<unsigned char>(c) < 0x80 && c != '\0' && c != ' ' && c != '\t' && c != '\r' && c != '\n')
+        if (static_cast<unsigned char>(c) < 0x80 && c != '\0' && c != ' ' && c != '\t' &&
+            c != '\r' && c != '\n')
             return c == '<';
     return false;
 }
 
 } // namespace
 
-std::unique_ptr<Workbook> openWorkbook(std::shared_ptr<const InputFile> file, const std::string &name,
-                                       const TextHints &hints)
+std::unique_ptr<Workbook> openWorkbook(std::shared_ptr<const InputFile> file,
+                                       const std::string &name, const TextHints &hints)
 {
     const std::string head = file->head(HeadSize);
     if (head.empty())
@@ -36,7 +35,9 @@ std::unique_ptr<Workbook> openWorkbook(std::shared_ptr<const InputFile> file, co
         return openXlsx(std::move(file));
     if (head.starts_with(CompoundFile::Signature))
         return openXls(std::move(file), true);
-    if (head.size() > 4 && head[0] == '\x09' && (head[1] == '\x08' || head[1] == '\x04' || head[1] == '\x02' || head[1] == '\0') && head[3] == '\0')
+    if (head.size() > 4 && head[0] == '\x09' &&
+        (head[1] == '\x08' || head[1] == '\x04' || head[1] == '\x02' || head[1] == '\0') &&
+        head[3] == '\0')
         return openXls(std::move(file), false);
     if (startsWithTag(head))
         return openSpreadsheetMl(std::move(file));

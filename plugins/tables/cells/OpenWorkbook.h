@@ -4,12 +4,11 @@
 #include "cells/RowReader.h"
 #include "cells/text/TextFormat.h"
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
-/// Opens a file of tables; what is in it decides how, not what it is called. `name` is that of the only sheet of a
-/// text. Throws RefusedFile.
-std::unique_ptr<Workbook> openWorkbook(std::shared_ptr<const InputFile> file, const std::string &name,
-                                       const TextHints &hints);
+/// Opens a file of tables; what is in it decides how, not what it is called. `name` is that of the
+/// only sheet of a text. Throws RefusedFile.
+std::unique_ptr<Workbook> openWorkbook(std::shared_ptr<const InputFile> file,
+                                       const std::string &name, const TextHints &hints);
 
 } // namespace vlt::tables

@@ -7,8 +7,7 @@
 #include <string_view>
 #include <vector>
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
 /// Many texts in few blocks of memory; the texts never move.
 class StringPool
@@ -24,16 +23,15 @@ public:
 
     void add(std::string_view text)
     {
-        if (m_blocks.empty() || m_used + text.size() > m_capacity)
-        {
+        if (m_blocks.empty() || m_used + text.size() > m_capacity) {
             m_capacity = std::max(BlockSize, text.size());
             m_blocks.push_back(std::make_unique_for_overwrite<char[]>(m_capacity));
             m_used = 0;
         }
         if (!text.empty())
             std::memcpy(m_blocks.back().get() + m_used, text.data(), text.size());
-        m_places.push_back({static_cast<uint32_t>(m_blocks.size() - 1), static_cast<uint32_t>(m_used),
-                            static_cast<uint32_t>(text.size())});
+        m_places.push_back({static_cast<uint32_t>(m_blocks.size() - 1),
+                            static_cast<uint32_t>(m_used), static_cast<uint32_t>(text.size())});
         m_used += text.size();
     }
 

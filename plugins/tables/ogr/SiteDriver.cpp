@@ -7,11 +7,9 @@
 
 #include <memory>
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
-namespace
-{
+namespace {
 
 constexpr char Prefix[] = "site:";
 
@@ -29,8 +27,7 @@ private:
 
 TableOptions optionsOf(const GDALOpenInfo &info)
 {
-    const auto text = [&info](const char *name)
-    {
+    const auto text = [&info](const char *name) {
         const char *value = CSLFetchNameValue(info.papszOpenOptions, name);
         return std::string(value ? value : "");
     };
@@ -69,43 +66,43 @@ GDALDataset *open(GDALOpenInfo *info)
     if (!identify(info))
         return nullptr;
     const auto connection = connection::parse(info->pszFilename);
-    if (info->eAccess == GA_Update)
-    {
-        CPLError(CE_Failure, CPLE_NotSupported, "%s: tables of sites are not written", info->pszFilename);
+    if (info->eAccess == GA_Update) {
+        CPLError(CE_Failure, CPLE_NotSupported, "%s: tables of sites are not written",
+                 info->pszFilename);
         return nullptr;
     }
-    try
-    {
+    try {
         refuseRemote(connection->path);
-        auto layer = std::make_unique<SiteLayer>(SiteTable::open(connection->path, optionsOf(*info)),
-                                                 connection->option("s_srs"), connection->option("t_srs"));
+        auto layer =
+            std::make_unique<SiteLayer>(SiteTable::open(connection->path, optionsOf(*info)),
+                                        connection->option("s_srs"), connection->option("t_srs"));
         auto dataset = std::make_unique<SiteDataset>(std::move(layer));
         dataset->SetDescription(info->pszFilename);
         return dataset.release();
-    }
-    catch (const RefusedFile &refused)
-    {
+    } catch (const RefusedFile &refused) {
         CPLError(CE_Failure, CPLE_OpenFailed, "%s: %s", connection->path.c_str(), refused.what());
-    }
-    catch (const std::bad_alloc &)
-    {
+    } catch (const std::bad_alloc &) {
         CPLError(CE_Failure, CPLE_OutOfMemory, "%s: out of memory", connection->path.c_str());
     }
     return nullptr;
 }
 
-constexpr char OpenOptions[] =
-    "<OpenOptionList>"
-    "<Option name='SHEET' type='string' description='Sheet of a workbook to read; by default the one whose header "
-    "names sites'/>"
-    "<Option name='ENCODING' type='string' description='Encoding of a text file, such as CP1250; by default found from "
-    "its bytes'/>"
-    "<Option name='DELIMITER' type='string-select' description='What separates the columns of a text file' "
-    "default='AUTO'>"
-    "<Value>AUTO</Value><Value>COMMA</Value><Value>SEMICOLON</Value><Value>TAB</Value><Value>BAR</Value></Option>"
-    "<Option name='TYPES' type='string-select' description='Whether columns of numbers become numeric fields' "
-    "default='AUTO'><Value>AUTO</Value><Value>TEXT</Value></Option>"
-    "</OpenOptionList>";
+constexpr char OpenOptions[] = "<OpenOptionList>"
+                               "<Option name='SHEET' type='string' description='Sheet of a "
+                               "workbook to read; by default the one whose header "
+                               "names sites'/>"
+                               "<Option name='ENCODING' type='string' description='Encoding of a "
+                               "text file, such as CP1250; by default found from "
+                               "its bytes'/>"
+                               "<Option name='DELIMITER' type='string-select' description='What "
+                               "separates the columns of a text file' "
+                               "default='AUTO'>"
+                               "<Value>AUTO</Value><Value>COMMA</Value><Value>SEMICOLON</"
+                               "Value><Value>TAB</Value><Value>BAR</Value></Option>"
+                               "<Option name='TYPES' type='string-select' description='Whether "
+                               "columns of numbers become numeric fields' "
+                               "default='AUTO'><Value>AUTO</Value><Value>TEXT</Value></Option>"
+                               "</OpenOptionList>";
 
 } // namespace
 
@@ -121,7 +118,8 @@ void RegisterOGRVltTables()
         return;
     auto *driver = new GDALDriver();
     driver->SetDescription(Name);
-    driver->SetMetadataItem(GDAL_DMD_LONGNAME, "Tables of telecom sites (CSV, XLSX, XLS, SpreadsheetML 2003)");
+    driver->SetMetadataItem(GDAL_DMD_LONGNAME,
+                            "Tables of telecom sites (CSV, XLSX, XLS, SpreadsheetML 2003)");
     driver->SetMetadataItem(GDAL_DCAP_VECTOR, "YES");
     driver->SetMetadataItem(GDAL_DCAP_OPEN, "YES");
     driver->SetMetadataItem(GDAL_DMD_CONNECTION_PREFIX, vlt::tables::Prefix);

@@ -9,11 +9,9 @@
 #include <cmath>
 #include <cstring>
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
-namespace
-{
+namespace {
 
 constexpr size_t MostWarnings = 50;
 constexpr size_t MostProblemsListed = 1000;
@@ -29,10 +27,18 @@ OGRSpatialReference *makeSrs(const std::string &text)
 {
     auto *srs = new OGRSpatialReference();
     srs->SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
+    // The system of most tables needs no look into the database, which costs more than a table's
+    // header.
+    if (text == "4326" || text == "EPSG:4326") {
+        srs->importFromWkt(SRS_WKT_WGS84_LAT_LONG);
+        return srs;
+    }
     const bool digits = text.find_first_not_of("0123456789") == std::string::npos;
     // Only texts: a coordinate system is never fetched nor read from a file.
-    const OGRErr error = digits ? srs->importFromEPSG(atoi(text.c_str()))
-                                : srs->SetFromUserInput(text.c_str(), OGRSpatialReference::SET_FROM_USER_INPUT_LIMITATIONS);
+    const OGRErr error =
+        digits ? srs->importFromEPSG(atoi(text.c_str()))
+               : srs->SetFromUserInput(text.c_str(),
+                                       OGRSpatialReference::SET_FROM_USER_INPUT_LIMITATIONS_get());
     if (error == OGRERR_NONE)
         return srs;
     srs->Release();
@@ -41,8 +47,7 @@ OGRSpatialReference *makeSrs(const std::string &text)
 
 OGRFieldType ogrType(FieldType type)
 {
-    switch (type)
-    {
+    switch (type) {
     case FieldType::Integer:
         return OFTInteger;
     case FieldType::Integer64:
@@ -57,7 +62,9 @@ OGRFieldType ogrType(FieldType type)
 
 const char *unitName(CoordinateUnit unit)
 {
-    return unit == CoordinateUnit::Meters ? "METERS" : unit == CoordinateUnit::Dms ? "DMS" : "DEGREES";
+    return unit == CoordinateUnit::Meters ? "METERS"
+           : unit == CoordinateUnit::Dms  ? "DMS"
+                                          : "DEGREES";
 }
 
 } // namespace
@@ -72,7 +79,8 @@ std::string describe(const RowProblem &problem)
     return text + problem.text;
 }
 
-SiteLayer::SiteLayer(std::shared_ptr<SiteTable> table, const std::string &sourceSrs, const std::string &targetSrs)
+SiteLayer::SiteLayer(std::shared_ptr<SiteTable> table, const std::string &sourceSrs,
+                     const std::string &targetSrs)
     : m_table(std::move(table))
     , m_definition(new OGRFeatureDefn(m_table->facts().table.sheet.c_str()))
     , m_fileSrs(nullptr, release)
@@ -81,13 +89,10 @@ SiteLayer::SiteLayer(std::shared_ptr<SiteTable> table, const std::string &source
     , m_ignored(m_table->facts().table.fields.size())
 {
     m_definition->Reference();
-    try
-    {
+    try {
         defineFields();
         setSystems(sourceSrs, targetSrs);
-    }
-    catch (...)
-    {
+    } catch (...) {
         m_definition->Release();
         throw;
     }
@@ -105,8 +110,7 @@ SiteLayer::~SiteLayer()
 
 void SiteLayer::defineFields()
 {
-    for (const Field &field : m_table->facts().table.fields)
-    {
+    for (const Field &field : m_table->facts().table.fields) {
         OGRFieldDefn definition(field.name.c_str(), ogrType(field.type));
         m_definition->AddFieldDefn(&definition);
     }
@@ -124,31 +128,28 @@ void SiteLayer::setSystems(const std::string &sourceSrs, const std::string &targ
         m_fileSrs.reset(makeSrs(source));
     if (!targetSrs.empty())
         target.reset(makeSrs(targetSrs));
-    if (target && m_fileSrs && !target->IsSame(m_fileSrs.get()))
-    {
+    if (target && m_fileSrs && !target->IsSame(m_fileSrs.get())) {
         m_transformation.reset(OGRCreateCoordinateTransformation(m_fileSrs.get(), target.get()));
         if (!m_transformation)
-            throw RefusedFile(Refusal::BadOption, "there is no way from the coordinate system \"" + source + "\" to \"" + targetSrs + "\"");
+            throw RefusedFile(Refusal::BadOption, "there is no way from the coordinate system \"" +
+                                                      source + "\" to \"" + targetSrs + "\"");
     }
-    // Where the file's system is not known its numbers are taken as the target's, which is said among the problems.
+    // Where the file's system is not known its numbers are taken as the target's, which is said
+    // among the problems.
     m_targetUnreachable = target && !m_fileSrs;
     if (m_definition->GetGeomFieldCount() > 0)
         m_definition->GetGeomFieldDefn(0)->SetSpatialRef(target ? target.get() : m_fileSrs.get());
 }
 
 /// Turns a damaged file met while reading into the library's error.
-template <typename Action> auto SiteLayer::guarded(Action action) -> decltype(action())
+template<typename Action>
+auto SiteLayer::guarded(Action action) -> decltype(action())
 {
-    try
-    {
+    try {
         return action();
-    }
-    catch (const RefusedFile &refused)
-    {
+    } catch (const RefusedFile &refused) {
         CPLError(CE_Failure, CPLE_FileIO, "%s: %s", GetDescription(), refused.what());
-    }
-    catch (const std::bad_alloc &)
-    {
+    } catch (const std::bad_alloc &) {
         CPLError(CE_Failure, CPLE_OutOfMemory, "%s: out of memory", GetDescription());
     }
     m_failed = true;
@@ -165,7 +166,8 @@ OGRErr SiteLayer::SetIgnoredFields(const char **names)
 {
     const OGRErr error = OGRLayer::SetIgnoredFields(names);
     for (int field = 0; field < m_definition->GetFieldCount(); ++field)
-        m_ignored[static_cast<size_t>(field)] = m_definition->GetFieldDefn(field)->IsIgnored() ? 1 : 0;
+        m_ignored[static_cast<size_t>(field)] =
+            m_definition->GetFieldDefn(field)->IsIgnored() ? 1 : 0;
     return error;
 }
 
@@ -173,10 +175,12 @@ void SiteLayer::warn(std::vector<RowProblem> &problems)
 {
     for (const RowProblem &problem : problems)
         if (problem.row > m_warnedUpTo && ++m_warnings <= MostWarnings)
-            CPLError(CE_Warning, CPLE_AppDefined, "%s, %s", GetDescription(), describe(problem).c_str());
+            CPLError(CE_Warning, CPLE_AppDefined, "%s, %s", GetDescription(),
+                     describe(problem).c_str());
     if (m_warnings > MostWarnings && m_warnings - problems.size() <= MostWarnings)
         CPLError(CE_Warning, CPLE_AppDefined,
-                 "%s: further problems are listed in the layer's metadata domain \"problems\"", GetDescription());
+                 "%s: further problems are listed in the layer's metadata domain \"problems\"",
+                 GetDescription());
     problems.clear();
 }
 
@@ -184,14 +188,12 @@ void SiteLayer::setFields(OGRFeature &feature)
 {
     const std::vector<Field> &fields = m_table->facts().table.fields;
     const std::vector<const Cell *> &cells = m_cells.cells();
-    for (size_t i = 0; i < fields.size(); ++i)
-    {
+    for (size_t i = 0; i < fields.size(); ++i) {
         const Cell *cell = cells[i];
         if (!cell || m_ignored[i])
             continue;
         const int index = static_cast<int>(i);
-        if (fields[i].type != FieldType::Text)
-        {
+        if (fields[i].type != FieldType::Text) {
             if (m_cells.isNull(i))
                 continue;
             const double number = m_cells.number(i);
@@ -219,13 +221,14 @@ bool SiteLayer::placeFeature(OGRFeature &feature)
     m_cells.take(m_rows->cells(), problems);
     Position position = m_placer.place(row, m_cells.cells(), problems);
     if (position.found && m_transformation &&
-        (!m_transformation->Transform(1, &position.x, &position.y) || !std::isfinite(position.x) || !std::isfinite(position.y)))
-    {
+        (!m_transformation->Transform(1, &position.x, &position.y) || !std::isfinite(position.x) ||
+         !std::isfinite(position.y))) {
         position.found = false;
-        problems.push_back({row, {}, true, "the position lies outside the area of the target coordinate system"});
+        problems.push_back(
+            {row, {}, true, "the position lies outside the area of the target coordinate system"});
     }
-    if (position.found && m_definition->GetGeomFieldCount() > 0 && !m_definition->IsGeometryIgnored())
-    {
+    if (position.found && m_definition->GetGeomFieldCount() > 0 &&
+        !m_definition->IsGeometryIgnored()) {
         auto *point = new OGRPoint(position.x, position.y);
         point->assignSpatialReference(m_definition->GetGeomFieldDefn(0)->GetSpatialRef());
         feature.SetGeometryDirectly(point);
@@ -251,8 +254,7 @@ OGRFeature *SiteLayer::readFeature()
 
 OGRFeature *SiteLayer::GetNextFeature()
 {
-    while (!m_failed)
-    {
+    while (!m_failed) {
         std::unique_ptr<OGRFeature> feature(guarded([this] { return readFeature(); }));
         if (!feature)
             break;
@@ -269,20 +271,17 @@ OGRErr SiteLayer::SetNextByIndex(GIntBig index)
     if (m_poFilterGeom || m_poAttrQuery)
         return OGRLayer::SetNextByIndex(index);
     ResetReading();
-    if (index < 0 || static_cast<uint64_t>(index) >= m_table->facts().table.rowCount)
-    {
+    if (index < 0 || static_cast<uint64_t>(index) >= m_table->facts().table.rowCount) {
         m_failed = true;
         return OGRERR_FAILURE;
     }
-    const bool there = guarded(
-        [&]
-        {
-            m_rows = m_table->rows();
-            GIntBig at = 0;
-            while (at < index && m_rows->advance())
-                ++at;
-            return at == index;
-        });
+    const bool there = guarded([&] {
+        m_rows = m_table->rows();
+        GIntBig at = 0;
+        while (at < index && m_rows->advance())
+            ++at;
+        return at == index;
+    });
     return there ? OGRERR_NONE : OGRERR_FAILURE;
 }
 
@@ -293,17 +292,15 @@ OGRFeature *SiteLayer::GetFeature(GIntBig fid)
     // A walk of its own: reading one after another goes on where it was.
     std::unique_ptr<DataRows> walk = guarded([this] { return m_table->rows(); });
     m_rows.swap(walk);
-    OGRFeature *feature = guarded(
-        [&]() -> OGRFeature *
-        {
-            if (!m_rows || !m_rows->seek(fid) || m_rows->rowNumber() != fid)
-                return nullptr;
-            auto found = std::make_unique<OGRFeature>(m_definition);
-            found->SetFID(fid);
-            placeFeature(*found);
-            setFields(*found);
-            return found.release();
-        });
+    OGRFeature *feature = guarded([&]() -> OGRFeature * {
+        if (!m_rows || !m_rows->seek(fid) || m_rows->rowNumber() != fid)
+            return nullptr;
+        auto found = std::make_unique<OGRFeature>(m_definition);
+        found->SetFID(fid);
+        placeFeature(*found);
+        setFields(*found);
+        return found.release();
+    });
     m_rows.swap(walk);
     return feature;
 }
@@ -317,24 +314,21 @@ GIntBig SiteLayer::GetFeatureCount(int force)
 
 OGRErr SiteLayer::GetExtent(OGREnvelope *extent, int force)
 {
-    if (!m_extent.IsInit())
-    {
+    if (!m_extent.IsInit()) {
         if (!force)
             return OGRERR_FAILURE;
         std::unique_ptr<DataRows> walk = guarded([this] { return m_table->rows(); });
         if (!walk)
             return OGRERR_FAILURE;
         m_rows.swap(walk);
-        guarded(
-            [&]
-            {
-                OGRFeature feature(m_definition);
-                while (m_rows->advance())
-                    if (feature.SetGeometryDirectly(nullptr); placeFeature(feature))
-                        if (const OGRGeometry *point = feature.GetGeometryRef())
-                            m_extent.Merge(point->toPoint()->getX(), point->toPoint()->getY());
-                return true;
-            });
+        guarded([&] {
+            OGRFeature feature(m_definition);
+            while (m_rows->advance())
+                if (feature.SetGeometryDirectly(nullptr); placeFeature(feature))
+                    if (const OGRGeometry *point = feature.GetGeometryRef())
+                        m_extent.Merge(point->toPoint()->getX(), point->toPoint()->getY());
+            return true;
+        });
         m_rows.swap(walk);
     }
     *extent = m_extent;
@@ -359,15 +353,19 @@ char **SiteLayer::problemsMetadata()
     m_problemsKnown = true;
     std::vector<RowProblem> problems;
     if (m_targetUnreachable)
-        problems.push_back({0, {}, false, "the coordinate system of the file is not known: its coordinates are taken as they are"});
+        problems.push_back({0,
+                            {},
+                            false,
+                            "the coordinate system of the file is not known: its coordinates are "
+                            "taken as they are"});
     size_t count = problems.size();
     count += guarded([&] { return m_table->findProblems(MostProblemsListed, problems); });
     m_problems.SetNameValue("COUNT", std::to_string(count).c_str());
-    for (size_t i = 0; i < problems.size(); ++i)
-    {
+    for (size_t i = 0; i < problems.size(); ++i) {
         const RowProblem &problem = problems[i];
         const std::string row = problem.row > 0 ? std::to_string(problem.row) : std::string();
-        const std::string value = row + '|' + problem.column + '|' + (problem.isError ? "Error" : "Warning") + '|' + problem.text;
+        const std::string value = row + '|' + problem.column + '|' +
+                                  (problem.isError ? "Error" : "Warning") + '|' + problem.text;
         m_problems.SetNameValue(("PROBLEM_" + std::to_string(i + 1)).c_str(), value.c_str());
     }
     return m_problems.List();
@@ -375,7 +373,8 @@ char **SiteLayer::problemsMetadata()
 
 char **SiteLayer::GetMetadata(const char *domain)
 {
-    return domain && EQUAL(domain, ProblemsDomain) ? problemsMetadata() : OGRLayer::GetMetadata(domain);
+    return domain && EQUAL(domain, ProblemsDomain) ? problemsMetadata()
+                                                   : OGRLayer::GetMetadata(domain);
 }
 
 const char *SiteLayer::GetMetadataItem(const char *name, const char *domain)
@@ -387,7 +386,8 @@ const char *SiteLayer::GetMetadataItem(const char *name, const char *domain)
 
 char **SiteLayer::GetMetadataDomainList()
 {
-    return BuildMetadataDomainList(OGRLayer::GetMetadataDomainList(), TRUE, ProblemsDomain, nullptr);
+    return BuildMetadataDomainList(OGRLayer::GetMetadataDomainList(), TRUE, ProblemsDomain,
+                                   nullptr);
 }
 
 } // namespace vlt::tables

@@ -8,15 +8,16 @@
 #include <memory>
 #include <set>
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
-/// The layer of sites: one point feature per row of the table, its FID the number of the row in the file.
+/// The layer of sites: one point feature per row of the table, its FID the number of the row in the
+/// file.
 class SiteLayer final : public OGRLayer
 {
 public:
     /// Systems as the caller gave them, empty where he gave none. Throws RefusedFile (BadOption).
-    SiteLayer(std::shared_ptr<SiteTable> table, const std::string &sourceSrs, const std::string &targetSrs);
+    SiteLayer(std::shared_ptr<SiteTable> table, const std::string &sourceSrs,
+              const std::string &targetSrs);
     ~SiteLayer() override;
 
     OGRFeatureDefn *GetLayerDefn() override { return m_definition; }
@@ -45,13 +46,15 @@ private:
     bool placeFeature(OGRFeature &feature);
     void warn(std::vector<RowProblem> &problems);
     char **problemsMetadata();
-    template <typename Action> auto guarded(Action action) -> decltype(action());
+    template<typename Action>
+    auto guarded(Action action) -> decltype(action());
 
     std::shared_ptr<SiteTable> m_table;
     OGRFeatureDefn *m_definition;
     std::unique_ptr<OGRSpatialReference, void (*)(OGRSpatialReference *)> m_fileSrs;
     std::unique_ptr<OGRCoordinateTransformation> m_transformation;
-    bool m_targetUnreachable = false; ///< a target system was asked for, but that of the file is not known
+    bool m_targetUnreachable =
+        false; ///< a target system was asked for, but that of the file is not known
     FieldCells m_cells;
     SitePlacer m_placer;
     std::vector<char> m_ignored; ///< by field

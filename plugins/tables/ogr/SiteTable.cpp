@@ -6,11 +6,9 @@
 #include <list>
 #include <mutex>
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
-namespace
-{
+namespace {
 
 constexpr size_t TablesRemembered = 16;
 constexpr uint64_t RowsPerProgress = 4096;
@@ -27,13 +25,12 @@ struct Remembered
 class Memory
 {
 public:
-    std::shared_ptr<const SiteTableFacts> find(const std::string &path, const FileIdentity &identity,
-                                               const TableOptions &options)
+    std::shared_ptr<const SiteTableFacts>
+    find(const std::string &path, const FileIdentity &identity, const TableOptions &options)
     {
         const std::lock_guard lock(m_mutex);
         for (auto entry = m_entries.begin(); entry != m_entries.end(); ++entry)
-            if (entry->path == path && entry->identity == identity && entry->options == options)
-            {
+            if (entry->path == path && entry->identity == identity && entry->options == options) {
                 m_entries.splice(m_entries.begin(), m_entries, entry);
                 return entry->facts;
             }
@@ -43,7 +40,9 @@ public:
     void add(Remembered entry)
     {
         const std::lock_guard lock(m_mutex);
-        m_entries.remove_if([&](const Remembered &old) { return old.path == entry.path && old.options == entry.options; });
+        m_entries.remove_if([&](const Remembered &old) {
+            return old.path == entry.path && old.options == entry.options;
+        });
         m_entries.push_front(std::move(entry));
         if (m_entries.size() > TablesRemembered)
             m_entries.pop_back();
@@ -79,7 +78,8 @@ std::shared_ptr<SiteTable> SiteTable::open(const std::string &path, const TableO
         return table;
     const std::unique_ptr<Workbook> workbook = table->openFile();
     const Table read = readTable(*workbook, {options.sheet, options.textOnly});
-    auto facts = std::make_shared<SiteTableFacts>(SiteTableFacts{*read.profile, recogniseSiteLayout(*read.profile)});
+    auto facts = std::make_shared<SiteTableFacts>(
+        SiteTableFacts{*read.profile, recogniseSiteLayout(*read.profile)});
     for (Field &field : facts->table.fields) // they have told what they had to
         field.samples = {};
     table->m_sheet = read.sheet;
@@ -95,11 +95,11 @@ std::unique_ptr<Workbook> SiteTable::openFile() const
 
 std::unique_ptr<DataRows> SiteTable::rows()
 {
-    if (!m_sheet)
-    {
+    if (!m_sheet) {
         const std::unique_ptr<Workbook> workbook = openFile();
         m_sheet = findSheet(*workbook, m_facts->table.sheet);
-        if (m_sheet->description() != m_facts->table.description) // an encoding that only the whole file told
+        if (m_sheet->description() !=
+            m_facts->table.description) // an encoding that only the whole file told
         {
             const std::unique_ptr<RowReader> rows = m_sheet->rows();
             while (rows->advance())
@@ -110,14 +110,15 @@ std::unique_ptr<DataRows> SiteTable::rows()
     if (!m_stringsPrepared)
         m_sheet->prepareStrings(m_facts->table.rowCount);
     m_stringsPrepared = true;
-    return std::make_unique<DataRows>(*m_sheet, std::shared_ptr<const TableProfile>(m_facts, &m_facts->table));
+    return std::make_unique<DataRows>(
+        *m_sheet, std::shared_ptr<const TableProfile>(m_facts, &m_facts->table));
 }
 
-size_t SiteTable::findProblems(size_t most, std::vector<RowProblem> &problems, const std::function<bool(double)> &progress)
+size_t SiteTable::findProblems(size_t most, std::vector<RowProblem> &problems,
+                               const std::function<bool(double)> &progress)
 {
     size_t count = 0;
-    const auto keep = [&](std::vector<RowProblem> &found)
-    {
+    const auto keep = [&](std::vector<RowProblem> &found) {
         count += found.size();
         for (RowProblem &problem : found)
             if (problems.size() < most)
@@ -131,8 +132,7 @@ size_t SiteTable::findProblems(size_t most, std::vector<RowProblem> &problems, c
     const std::unique_ptr<DataRows> walk = rows();
     FieldCells cells(m_facts->table);
     const SitePlacer placer(m_facts->table, m_facts->layout);
-    for (uint64_t row = 0; walk->advance(); ++row)
-    {
+    for (uint64_t row = 0; walk->advance(); ++row) {
         cells.take(walk->cells(), found);
         placer.place(walk->rowNumber(), cells.cells(), found);
         if (!found.empty())
@@ -158,13 +158,14 @@ FieldCells::FieldCells(const TableProfile &table)
 void FieldCells::take(const Row &row, std::vector<RowProblem> &problems)
 {
     std::fill(m_cells.begin(), m_cells.end(), nullptr);
-    for (const Cell &cell : row.cells)
-    {
-        if (cell.column > m_table->lastColumn)
-        {
-            problems.push_back({row.number, {}, false,
-                                "the row goes on behind the last column: \"" + cellText(cell) + "\" in column " +
-                                    std::to_string(cell.column + 1) + " has no header"});
+    for (const Cell &cell : row.cells) {
+        if (cell.column > m_table->lastColumn) {
+            problems.push_back({row.number,
+                                {},
+                                false,
+                                "the row goes on behind the last column: \"" + cellText(cell) +
+                                    "\" in column " + std::to_string(cell.column + 1) +
+                                    " has no header"});
             break;
         }
         const int field = m_fieldOfColumn[static_cast<size_t>(cell.column)];
@@ -181,14 +182,15 @@ void FieldCells::take(const Row &row, std::vector<RowProblem> &problems)
             m_numbers[at] = cell.number;
         else if (const auto number = parseNumber(text, of.mark))
             m_numbers[at] = *number;
-        else if (const auto plain = of.mark == DecimalMark::Comma ? parseNumber(text) : std::nullopt)
+        else if (const auto plain =
+                     of.mark == DecimalMark::Comma ? parseNumber(text) : std::nullopt)
             m_numbers[at] = *plain;
-        else
-        {
+        else {
             m_null[at] = 1;
             if (cell.kind != Cell::Kind::Error && !isMissingWord(text))
-                problems.push_back({row.number, of.name, false, "the value \"" + std::string(text) +
-                                                                    "\" is lost: the column holds numbers"});
+                problems.push_back(
+                    {row.number, of.name, false,
+                     "the value \"" + std::string(text) + "\" is lost: the column holds numbers"});
         }
     }
 }

@@ -10,8 +10,7 @@
 #include <string>
 #include <vector>
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
 /// What the caller says about a table file; empty members are found out.
 struct TableOptions
@@ -24,7 +23,8 @@ struct TableOptions
     bool operator==(const TableOptions &) const = default;
 };
 
-/// What is known about a table of sites. Never changes once made, so that datasets and threads share it.
+/// What is known about a table of sites. Never changes once made, so that datasets and threads
+/// share it.
 struct SiteTableFacts
 {
     TableProfile table;
@@ -35,24 +35,26 @@ struct SiteTableFacts
 class SiteTable
 {
 public:
-    /// Opens a table; an unchanged file that was open before is known already and is not read again.
-    /// Throws RefusedFile.
+    /// Opens a table; an unchanged file that was open before is known already and is not read
+    /// again. Throws RefusedFile.
     static std::shared_ptr<SiteTable> open(const std::string &path, const TableOptions &options);
 
     const SiteTableFacts &facts() const { return *m_facts; }
     /// A new walk over the rows.
     std::unique_ptr<DataRows> rows();
 
-    /// All rows that cannot be read in full, errors and lost values, at most `most` of them in `problems`; returns
-    /// how many there are. `progress` is asked now and then (share done, 0 .. 1) and stops the search with false.
+    /// All rows that cannot be read in full, errors and lost values, at most `most` of them in
+    /// `problems`; returns how many there are. `progress` is asked now and then (share done, 0 ..
+    /// 1) and stops the search with false.
     size_t findProblems(size_t most, std::vector<RowProblem> &problems,
                         const std::function<bool(double)> &progress = {});
 
 private:
     SiteTable(std::shared_ptr<const InputFile> file, std::string name, TableOptions options)
-        : m_file(std::move(file)), m_name(std::move(name)), m_options(std::move(options))
-    {
-    }
+        : m_file(std::move(file))
+        , m_name(std::move(name))
+        , m_options(std::move(options))
+    {}
     std::unique_ptr<Workbook> openFile() const;
 
     std::shared_ptr<const InputFile> m_file;
@@ -69,8 +71,8 @@ class FieldCells
 public:
     explicit FieldCells(const TableProfile &table);
 
-    /// Takes the cells of a row; values that do not fit the type of their column are null and get a problem, as do
-    /// cells behind the last column. Views live as long as the row.
+    /// Takes the cells of a row; values that do not fit the type of their column are null and get a
+    /// problem, as do cells behind the last column. Views live as long as the row.
     void take(const Row &row, std::vector<RowProblem> &problems);
     /// The cell of each field, null where it is empty.
     const std::vector<const Cell *> &cells() const { return m_cells; }

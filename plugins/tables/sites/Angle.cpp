@@ -8,11 +8,9 @@
 #include <optional>
 #include <string>
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
-namespace
-{
+namespace {
 
 constexpr double MinutesPerDegree = 60;
 constexpr double SecondsPerDegree = 3600;
@@ -43,8 +41,7 @@ Angle fault(const char *why)
 /// Sign of a hemisphere letter: 0 none, 2 no hemisphere, 3 ambiguous, 4 of the other axis.
 int hemisphereSign(char letter, Axis axis)
 {
-    switch (letter & ~0x20)
-    {
+    switch (letter & ~0x20) {
     case 'N':
         return axis == Axis::Y ? 1 : 4;
     case 'S':
@@ -76,8 +73,7 @@ struct Parts
 Angle assemble(const Parts &parts, bool negative, int sign)
 {
     std::array<double, 3> values = {};
-    for (int i = 0; i < parts.count; ++i)
-    {
+    for (int i = 0; i < parts.count; ++i) {
         const std::string_view text = parts.texts[static_cast<size_t>(i)];
         const std::optional<double> value = number(text);
         if (!value)
@@ -104,11 +100,9 @@ Angle readAngle(std::string_view text, Axis axis)
     Parts parts;
     int sign = 0;
     bool negative = false;
-    for (size_t at = 0; at < text.size();)
-    {
+    for (size_t at = 0; at < text.size();) {
         const char c = text[at];
-        if (isNumberByte(c))
-        {
+        if (isNumberByte(c)) {
             const size_t begin = at;
             while (at < text.size() && isNumberByte(text[at]))
                 ++at;
@@ -117,17 +111,14 @@ Angle readAngle(std::string_view text, Axis axis)
             parts.texts[static_cast<size_t>(parts.count++)] = text.substr(begin, at - begin);
             continue;
         }
-        if (c == '-' || c == '+')
-        {
+        if (c == '-' || c == '+') {
             if (parts.count > 0 || negative)
                 return fault("it is not an angle");
             negative = c == '-';
-        }
-        else if (isLetter(c))
-        {
-            const bool unitLetter = parts.count > 0 && ((c | 0x20) == 'd' || (c | 0x20) == 'm' || (parts.count == 3 && c == 's'));
-            if (!unitLetter)
-            {
+        } else if (isLetter(c)) {
+            const bool unitLetter = parts.count > 0 && ((c | 0x20) == 'd' || (c | 0x20) == 'm' ||
+                                                        (parts.count == 3 && c == 's'));
+            if (!unitLetter) {
                 const int letter = hemisphereSign(c, axis);
                 if (letter > 1)
                     return fault(signFault(letter));
@@ -135,8 +126,7 @@ Angle readAngle(std::string_view text, Axis axis)
                     return fault("it has two hemisphere letters");
                 sign = letter;
             }
-        }
-        else if (!(c & 0x80) && std::string_view(" \t'\":*").find(c) == std::string_view::npos)
+        } else if (!(c & 0x80) && std::string_view(" \t'\":*").find(c) == std::string_view::npos)
             return fault("it is not an angle");
         ++at; // degree signs, primes and typographic quotes are several bytes above ASCII
     }

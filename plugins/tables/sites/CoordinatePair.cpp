@@ -6,11 +6,9 @@
 
 #include <cmath>
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
-namespace
-{
+namespace {
 
 constexpr double MostLongitude = 180;
 constexpr double MostLatitude = 90;
@@ -32,8 +30,7 @@ CoordinatePair readCoordinatePair(std::string_view text)
     bool longitudeFirst = false;
     char separator = text.find(';') != std::string_view::npos ? ';' : ',';
     const bool isPoint = text.size() > 6 && lowerCase(text.substr(0, 5)) == "point";
-    if (isPoint)
-    {
+    if (isPoint) {
         const size_t open = text.find('(');
         const size_t close = text.rfind(')');
         if (open == std::string_view::npos || close == std::string_view::npos || close < open)
@@ -47,7 +44,8 @@ CoordinatePair readCoordinatePair(std::string_view text)
         return {0, 0, false, "it is not a position"};
     const std::string_view first = text.substr(0, cut);
     const std::string_view second = text.substr(cut + 1);
-    // "48,85" alone is a number with a decimal comma: a position shows a point, a degree or a letter somewhere.
+    // "48,85" alone is a number with a decimal comma: a position shows a point, a degree or a
+    // letter somewhere.
     if (separator == ',' && (second.find(',') != std::string_view::npos ||
                              text.find_first_of(".NSEWnsew\xC2") == std::string_view::npos))
         return {0, 0, false, "it is not a position"};

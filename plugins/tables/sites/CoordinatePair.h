@@ -2,8 +2,7 @@
 
 #include <string_view>
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
 /// Both coordinates of a position, in degrees.
 struct CoordinatePair

@@ -7,11 +7,9 @@
 #include <algorithm>
 #include <cmath>
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
-namespace
-{
+namespace {
 
 using Words = std::vector<std::string>;
 
@@ -24,14 +22,17 @@ bool isOneOf(const std::string &word, std::initializer_list<const char *> words)
 
 bool isXWord(const std::string &word)
 {
-    return isOneOf(word, {"x", "lon", "long", "lng", "longitude", "longitud", "longitudine", "easting", "abscisse",
-                          "laenge", "l\xC3\xA4nge", "rechtswert", "d\xC5\x82"});
+    return isOneOf(word,
+                   {"x", "lon", "long", "lng", "longitude", "longitud", "longitudine", "easting",
+                    "abscisse", "laenge", "l\xC3\xA4nge", "rechtswert", "d\xC5\x82"});
 }
 
 bool isYWord(const std::string &word)
 {
-    return isOneOf(word, {"y", "lat", "latitude", "latitud", "latitudine", "northing", "ordonn\xC3\xA9" "e", "breite",
-                          "hochwert", "sz"});
+    return isOneOf(word, {"y", "lat", "latitude", "latitud", "latitudine", "northing",
+                          "ordonn\xC3\xA9"
+                          "e",
+                          "breite", "hochwert", "sz"});
 }
 
 /// What a column name says about coordinates.
@@ -41,8 +42,8 @@ struct Role
 
     Part part = Part::None;
     Axis axis = Axis::X;
-    int strength = 0;  ///< the plainer the name, the stronger
-    std::string rest;  ///< its other words, the same for both coordinates of one position
+    int strength = 0; ///< the plainer the name, the stronger
+    std::string rest; ///< its other words, the same for both coordinates of one position
 };
 
 Role::Part partOf(const std::string &word)
@@ -68,15 +69,12 @@ Role roleOf(const std::string &name)
             return {};
     Role::Part part = Role::Part::Whole;
     bool axisFound = false;
-    for (const std::string &word : words)
-    {
+    for (const std::string &word : words) {
         const bool x = isXWord(word);
-        if (!axisFound && (x || isYWord(word)))
-        {
+        if (!axisFound && (x || isYWord(word))) {
             axisFound = true;
             role.axis = x ? Axis::X : Axis::Y;
-        }
-        else if (const Role::Part found = partOf(word); found != Role::Part::None)
+        } else if (const Role::Part found = partOf(word); found != Role::Part::None)
             part = part == Role::Part::Whole ? found : part;
         else
             role.rest += word + ' ';
@@ -101,12 +99,11 @@ int strongest(const std::vector<Role> &roles, Axis axis, const std::string *rest
 {
     int best = -1;
     int bestScore = 0;
-    for (size_t i = 0; i < roles.size(); ++i)
-    {
-        const bool usable = roles[i].part == Role::Part::Whole || roles[i].part == Role::Part::Degrees;
+    for (size_t i = 0; i < roles.size(); ++i) {
+        const bool usable =
+            roles[i].part == Role::Part::Whole || roles[i].part == Role::Part::Degrees;
         const int score = 2 * roles[i].strength + (rest && roles[i].rest == *rest ? 5 : 0);
-        if (usable && roles[i].axis == axis && score > bestScore)
-        {
+        if (usable && roles[i].axis == axis && score > bestScore) {
             best = static_cast<int>(i);
             bestScore = score;
         }
@@ -121,8 +118,7 @@ CoordinateFields coordinateFields(const std::vector<Role> &roles, int value)
     if (value < 0)
         return fields;
     const Role &degrees = roles[static_cast<size_t>(value)];
-    for (size_t i = 0; i < roles.size() && degrees.part == Role::Part::Degrees; ++i)
-    {
+    for (size_t i = 0; i < roles.size() && degrees.part == Role::Part::Degrees; ++i) {
         if (roles[i].axis != degrees.axis)
             continue;
         int *slot = roles[i].part == Role::Part::Minutes      ? &fields.minutes
@@ -138,8 +134,7 @@ CoordinateFields coordinateFields(const std::vector<Role> &roles, int value)
 /// A field whose cells hold both coordinates, for tables without columns for each.
 int findPair(const std::vector<Field> &fields)
 {
-    for (size_t i = 0; i < fields.size(); ++i)
-    {
+    for (size_t i = 0; i < fields.size(); ++i) {
         size_t good = 0;
         for (const std::string &text : fields[i].samples)
             good += readCoordinatePair(text).fault ? 0 : 1;
@@ -152,8 +147,9 @@ int findPair(const std::vector<Field> &fields)
 bool saysMeters(const std::string &name)
 {
     const Words words = wordsOf(name);
-    return std::any_of(words.begin(), words.end(),
-                       [](const std::string &word) { return isOneOf(word, {"easting", "northing", "m", "meters", "metres"}); });
+    return std::any_of(words.begin(), words.end(), [](const std::string &word) {
+        return isOneOf(word, {"easting", "northing", "m", "meters", "metres"});
+    });
 }
 
 CoordinateUnit unitOfSamples(const Field &field, Axis axis)
@@ -161,18 +157,15 @@ CoordinateUnit unitOfSamples(const Field &field, Axis axis)
     size_t inParts = 0;
     size_t large = 0;
     size_t readable = 0;
-    for (const std::string &text : field.samples)
-    {
+    for (const std::string &text : field.samples) {
         const std::string_view value = trimmed(text);
         const NumberShape shape = numberShape(value);
-        if (shape.isNumber)
-        {
+        if (shape.isNumber) {
             ++readable;
-            const auto number = parseNumber(value, shape.usesComma ? DecimalMark::Comma : DecimalMark::Point);
+            const auto number =
+                parseNumber(value, shape.usesComma ? DecimalMark::Comma : DecimalMark::Point);
             large += number && std::abs(*number) > LargestDegrees ? 1 : 0;
-        }
-        else if (const Angle angle = readAngle(value, axis); !angle.fault)
-        {
+        } else if (const Angle angle = readAngle(value, axis); !angle.fault) {
             ++readable;
             inParts += angle.parts > 1 ? 1 : 0;
         }
@@ -184,11 +177,11 @@ CoordinateUnit unitOfSamples(const Field &field, Axis axis)
 
 CoordinateUnit findUnit(const SiteLayout &layout, const std::vector<Field> &fields)
 {
-    if (layout.pair >= 0)
-    {
+    if (layout.pair >= 0) {
         const std::vector<std::string> &samples = fields[static_cast<size_t>(layout.pair)].samples;
-        const bool dms = std::any_of(samples.begin(), samples.end(),
-                                     [](const std::string &text) { return readCoordinatePair(text).inParts; });
+        const bool dms = std::any_of(samples.begin(), samples.end(), [](const std::string &text) {
+            return readCoordinatePair(text).inParts;
+        });
         return dms ? CoordinateUnit::Dms : CoordinateUnit::Degrees;
     }
     if (!layout.hasCoordinates())
@@ -202,7 +195,8 @@ CoordinateUnit findUnit(const SiteLayout &layout, const std::vector<Field> &fiel
     if (ofX == CoordinateUnit::Dms || ofY == CoordinateUnit::Dms)
         return CoordinateUnit::Dms;
     // An easting near the false origin may look like degrees; the other axis then does not.
-    if (ofX == CoordinateUnit::Meters || ofY == CoordinateUnit::Meters || (saysMeters(x.name) && saysMeters(y.name)))
+    if (ofX == CoordinateUnit::Meters || ofY == CoordinateUnit::Meters ||
+        (saysMeters(x.name) && saysMeters(y.name)))
         return CoordinateUnit::Meters;
     return CoordinateUnit::Degrees;
 }
@@ -211,8 +205,7 @@ CoordinateUnit findUnit(const SiteLayout &layout, const std::vector<Field> &fiel
 std::string epsgIn(const std::string &text)
 {
     const std::string lower = lowerCase(text);
-    for (size_t at = lower.find("epsg"); at != std::string::npos; at = lower.find("epsg", at + 1))
-    {
+    for (size_t at = lower.find("epsg"); at != std::string::npos; at = lower.find("epsg", at + 1)) {
         size_t digit = lower.find_first_not_of(" :=#/", at + 4);
         std::string code;
         while (digit < lower.size() && lower[digit] >= '0' && lower[digit] <= '9')
@@ -231,19 +224,21 @@ std::string findEpsg(const TableProfile &table, const SiteLayout &layout)
     for (const Field &field : table.fields)
         if (std::string code = epsgIn(field.name); !code.empty())
             return code;
-    for (const Field &field : table.fields)
-    {
+    for (const Field &field : table.fields) {
         const std::string name = lowerCase(field.name);
         if ((name != "epsg" && name != "srid" && name != "epsg code") || field.samples.empty())
             continue;
-        const bool constant = std::all_of(field.samples.begin(), field.samples.end(),
-                                          [&](const std::string &text) { return text == field.samples.front(); });
+        const bool constant =
+            std::all_of(field.samples.begin(), field.samples.end(),
+                        [&](const std::string &text) { return text == field.samples.front(); });
         if (constant)
-            return epsgIn("epsg:" + field.samples.front()).empty() ? epsgIn(field.samples.front())
-                                                                   : epsgIn("epsg:" + field.samples.front());
+            return epsgIn("epsg:" + field.samples.front()).empty()
+                       ? epsgIn(field.samples.front())
+                       : epsgIn("epsg:" + field.samples.front());
     }
     if (layout.unit != CoordinateUnit::Meters && layout.x.found() &&
-        lowerCase(table.fields[static_cast<size_t>(layout.x.value)].name).find("wgs84") != std::string::npos)
+        lowerCase(table.fields[static_cast<size_t>(layout.x.value)].name).find("wgs84") !=
+            std::string::npos)
         return "4326";
     return {};
 }
@@ -255,10 +250,10 @@ std::string recogniseFormat(const std::vector<Field> &fields)
     bool asset = false;
     bool atoll = false;
     bool mentum = false;
-    for (const Field &field : fields)
-    {
+    for (const Field &field : fields) {
         const Words words = wordsOf(field.name);
-        if (words.size() < 3 || words[0] != "transmitter" || words[1].find_first_not_of("0123456789") != std::string::npos)
+        if (words.size() < 3 || words[0] != "transmitter" ||
+            words[1].find_first_not_of("0123456789") != std::string::npos)
             continue;
         std::string rest = words[2];
         for (size_t i = 3; i < words.size(); ++i)
@@ -276,12 +271,10 @@ SiteLayout recogniseSiteLayout(const TableProfile &table)
     const std::vector<Role> roles = rolesOf(table.fields);
     const int x = strongest(roles, Axis::X, nullptr);
     const int y = strongest(roles, Axis::Y, x >= 0 ? &roles[static_cast<size_t>(x)].rest : nullptr);
-    if (x >= 0 && y >= 0)
-    {
+    if (x >= 0 && y >= 0) {
         layout.x = coordinateFields(roles, x);
         layout.y = coordinateFields(roles, y);
-    }
-    else
+    } else
         layout.pair = findPair(table.fields);
     layout.format = recogniseFormat(table.fields);
     layout.unit = findUnit(layout, table.fields);

@@ -5,12 +5,10 @@
 #include <array>
 #include <string>
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
 /// How the coordinates of a table are written.
-enum class CoordinateUnit
-{
+enum class CoordinateUnit {
     Degrees, ///< decimal degrees
     Dms,     ///< degrees, minutes, seconds
     Meters,  ///< a projected system
@@ -19,7 +17,7 @@ enum class CoordinateUnit
 /// Where a coordinate of a site stands: field numbers, -1 where there is none.
 struct CoordinateFields
 {
-    int value = -1;                             ///< the only field, or degrees where there are parts
+    int value = -1; ///< the only field, or degrees where there are parts
     int minutes = -1;
     int seconds = -1;
     int hemisphere = -1;
@@ -33,10 +31,10 @@ struct SiteLayout
 {
     CoordinateFields x;
     CoordinateFields y;
-    int pair = -1;                ///< field that holds both coordinates
+    int pair = -1; ///< field that holds both coordinates
     CoordinateUnit unit = CoordinateUnit::Degrees;
-    std::string format;           ///< asset, atoll, mentum or generic: the planning tool that wrote the table
-    std::string epsg;             ///< code that the file declares; empty when it declares none
+    std::string format; ///< asset, atoll, mentum or generic: the planning tool that wrote the table
+    std::string epsg;   ///< code that the file declares; empty when it declares none
 
     bool hasCoordinates() const { return pair >= 0 || (x.found() && y.found()); }
 };

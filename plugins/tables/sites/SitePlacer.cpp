@@ -5,11 +5,9 @@
 
 #include <cmath>
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
-namespace
-{
+namespace {
 
 constexpr double MostLongitude = 180;
 constexpr double MostLatitude = 90;
@@ -23,40 +21,43 @@ std::string textOf(const std::vector<const Cell *> &cells, int field)
 
 } // namespace
 
-RowProblem SitePlacer::problem(int64_t row, int field, const std::string &value, const char *why) const
+RowProblem SitePlacer::problem(int64_t row, int field, const std::string &value,
+                               const char *why) const
 {
     const Field &of = m_table->fields[static_cast<size_t>(field)];
     std::string quoted = value;
-    if (quoted.size() > LongestQuotation)
-    {
+    if (quoted.size() > LongestQuotation) {
         size_t cut = LongestQuotation;
         while (cut > 0 && (quoted[cut] & 0xC0) == 0x80) // not inside a character
             --cut;
         quoted = quoted.substr(0, cut) + "...";
     }
-    return {row, of.name, true, value.empty() ? "the coordinate is empty" : "the coordinate \"" + quoted + "\" cannot be read: " + why};
+    return {row, of.name, true,
+            value.empty() ? "the coordinate is empty"
+                          : "the coordinate \"" + quoted + "\" cannot be read: " + why};
 }
 
 bool SitePlacer::readAxis(int64_t row, const CoordinateFields &fields, Axis axis,
-                          const std::vector<const Cell *> &cells, double &value, std::vector<RowProblem> &problems) const
+                          const std::vector<const Cell *> &cells, double &value,
+                          std::vector<RowProblem> &problems) const
 {
     const Cell *cell = cells[static_cast<size_t>(fields.value)];
-    if (cell && !fields.inParts() && (cell->kind == Cell::Kind::Number || cell->kind == Cell::Kind::Text))
-    {
+    if (cell && !fields.inParts() &&
+        (cell->kind == Cell::Kind::Number || cell->kind == Cell::Kind::Text)) {
         std::optional<double> number = cell->number;
         if (!cell->text.empty())
-            number = parseNumber(trimmed(cell->text), m_table->fields[static_cast<size_t>(fields.value)].mark);
-        if (number)
-        {
+            number = parseNumber(trimmed(cell->text),
+                                 m_table->fields[static_cast<size_t>(fields.value)].mark);
+        if (number) {
             value = *number;
             return true;
         }
     }
-    if (!fields.inParts() && cell && m_layout->unit == CoordinateUnit::Meters)
-    {
+    if (!fields.inParts() && cell && m_layout->unit == CoordinateUnit::Meters) {
         const std::string text = textOf(cells, fields.value);
         const NumberShape shape = numberShape(text);
-        const auto number = shape.isNumber ? parseNumber(text, shape.usesComma ? DecimalMark::Comma : DecimalMark::Point)
+        const auto number = shape.isNumber ? parseNumber(text, shape.usesComma ? DecimalMark::Comma
+                                                                               : DecimalMark::Point)
                                            : std::nullopt;
         if (number)
             value = *number;
@@ -77,22 +78,20 @@ bool SitePlacer::readAxis(int64_t row, const CoordinateFields &fields, Axis axis
     return angle.fault == nullptr;
 }
 
-Position SitePlacer::place(int64_t row, const std::vector<const Cell *> &cells, std::vector<RowProblem> &problems) const
+Position SitePlacer::place(int64_t row, const std::vector<const Cell *> &cells,
+                           std::vector<RowProblem> &problems) const
 {
     Position position;
     if (!m_layout->hasCoordinates())
         return position;
-    if (m_layout->pair >= 0)
-    {
+    if (m_layout->pair >= 0) {
         const std::string text = textOf(cells, m_layout->pair);
         const CoordinatePair pair = readCoordinatePair(text);
         if (pair.fault)
             problems.push_back(problem(row, m_layout->pair, text, pair.fault));
         else
             position = {true, pair.x, pair.y};
-    }
-    else
-    {
+    } else {
         const bool x = readAxis(row, m_layout->x, Axis::X, cells, position.x, problems);
         const bool y = x && readAxis(row, m_layout->y, Axis::Y, cells, position.y, problems);
         position.found = x && y;
@@ -109,13 +108,11 @@ Position SitePlacer::place(int64_t row, const std::vector<const Cell *> &cells, 
         why = "0, 0 stands for an unknown position";
     else if (m_layout->unit != CoordinateUnit::Meters && std::abs(position.x) > MostLongitude)
         why = "a longitude lies between -180 and 180";
-    else if (m_layout->unit != CoordinateUnit::Meters && std::abs(position.y) > MostLatitude)
-    {
+    else if (m_layout->unit != CoordinateUnit::Meters && std::abs(position.y) > MostLatitude) {
         why = "a latitude lies between -90 and 90";
         field = yField;
     }
-    if (why)
-    {
+    if (why) {
         problems.push_back(problem(row, field, textOf(cells, field), why));
         position = {};
     }

@@ -7,11 +7,9 @@
 #include <cmath>
 #include <limits>
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
-namespace
-{
+namespace {
 
 constexpr size_t SamplesKept = 200;
 constexpr double LargestExactWhole = 1e15;
@@ -22,7 +20,8 @@ constexpr double Largest32 = std::numeric_limits<int32_t>::max();
 bool isMissingWord(std::string_view text)
 {
     static constexpr std::array Words = {"na", "n/a", "-", "--", "null", "nan", "#n/a", "none"};
-    return text.size() <= 4 && std::find(Words.begin(), Words.end(), lowerCase(text)) != Words.end();
+    return text.size() <= 4 &&
+           std::find(Words.begin(), Words.end(), lowerCase(text)) != Words.end();
 }
 
 void ColumnStatistics::add(const Cell &cell)
@@ -31,10 +30,10 @@ void ColumnStatistics::add(const Cell &cell)
     const std::string_view text = trimmed(cell.text);
     if (m_samples.size() < SamplesKept)
         m_samples.push_back(cell.text.empty() ? cellText(cell) : std::string(text));
-    if (cell.kind == Cell::Kind::Number && text.empty())
-    {
+    if (cell.kind == Cell::Kind::Number && text.empty()) {
         ++m_numbers;
-        const bool whole = std::floor(cell.number) == cell.number && std::abs(cell.number) < LargestExactWhole;
+        const bool whole =
+            std::floor(cell.number) == cell.number && std::abs(cell.number) < LargestExactWhole;
         m_fractions += whole ? 0 : 1;
         m_beyond32 = m_beyond32 || std::abs(cell.number) > Largest32;
         return;
@@ -44,13 +43,13 @@ void ColumnStatistics::add(const Cell &cell)
     NumberShape shape;
     if (cell.kind == Cell::Kind::Number || cell.kind == Cell::Kind::Text)
         shape = numberShape(text);
-    if (cell.kind == Cell::Kind::Number && !shape.isNumber) // 1E5 is a number where the cell says so
+    if (cell.kind == Cell::Kind::Number &&
+        !shape.isNumber) // 1E5 is a number where the cell says so
     {
         shape.isNumber = parseNumber(text).has_value();
         shape.usesPoint = true;
     }
-    if (!shape.isNumber || shape.isIdentifier)
-    {
+    if (!shape.isNumber || shape.isIdentifier) {
         m_texts += isMissingWord(text) ? 0 : 1;
         return;
     }

@@ -6,14 +6,12 @@
 #include <string>
 #include <vector>
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
 /// How the values of a column are kept.
-enum class FieldType
-{
+enum class FieldType {
     Text,
-    Integer,   ///< 32 bits
+    Integer, ///< 32 bits
     Integer64,
     Real,
 };
@@ -24,8 +22,8 @@ class ColumnStatistics
 public:
     void add(const Cell &cell);
 
-    /// The type that every sampled cell fits. `allRows` tells that no row was left out; otherwise whole numbers
-    /// become Real, so that a fraction further down is not cut off.
+    /// The type that every sampled cell fits. `allRows` tells that no row was left out; otherwise
+    /// whole numbers become Real, so that a fraction further down is not cut off.
     FieldType type(bool allRows) const;
     /// Whether a text was met that is no number: further ones change nothing.
     bool isText() const { return m_texts > 0; }

@@ -6,11 +6,9 @@
 #include <algorithm>
 #include <set>
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
-namespace
-{
+namespace {
 
 constexpr int RowsLookedAt = 50;
 constexpr int FewestSiteWords = 2;
@@ -44,8 +42,7 @@ std::optional<Header> findHeader(const Sheet &sheet, size_t &widest)
     std::vector<std::string> titles;
     const std::unique_ptr<RowReader> rows = sheet.rows();
     Row row;
-    for (int seen = 0; seen < RowsLookedAt && rows->advance();)
-    {
+    for (int seen = 0; seen < RowsLookedAt && rows->advance();) {
         if (!rows->hasContent(MostColumns))
             continue;
         ++seen;
@@ -56,8 +53,7 @@ std::optional<Header> findHeader(const Sheet &sheet, size_t &widest)
         header.titles = titles;
         int values = 0;
         std::set<std::string> siteNames;
-        for (const Cell &cell : row.cells)
-        {
+        for (const Cell &cell : row.cells) {
             header.names.emplace(cell.column, nameOf(cell));
             values += isValue(cell) ? 1 : 0;
             if (!isValue(cell) && isSiteWord(cell.text))
@@ -71,9 +67,9 @@ std::optional<Header> findHeader(const Sheet &sheet, size_t &widest)
             best->hasRowsBelow = true;
         if (firstWide)
             firstWide->hasRowsBelow = true;
-        const bool wordy = header.siteWords >= FewestSiteWords && values * NumbersPerHeader <= static_cast<int>(row.cells.size());
-        if (!firstWide && row.cells.size() >= 2)
-        {
+        const bool wordy = header.siteWords >= FewestSiteWords &&
+                           values * NumbersPerHeader <= static_cast<int>(row.cells.size());
+        if (!firstWide && row.cells.size() >= 2) {
             firstWide = header;
             firstWideIsText = values == 0;
         }
@@ -88,12 +84,10 @@ std::optional<Header> findHeader(const Sheet &sheet, size_t &widest)
 bool repeatsHeader(const Row &row, const Header &header)
 {
     return row.cells.size() == header.names.size() &&
-           std::all_of(row.cells.begin(), row.cells.end(),
-                       [&header](const Cell &cell)
-                       {
-                           const auto name = header.names.find(cell.column);
-                           return name != header.names.end() && name->second == nameOf(cell);
-                       });
+           std::all_of(row.cells.begin(), row.cells.end(), [&header](const Cell &cell) {
+               const auto name = header.names.find(cell.column);
+               return name != header.names.end() && name->second == nameOf(cell);
+           });
 }
 
 } // namespace vlt::tables

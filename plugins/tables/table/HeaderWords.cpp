@@ -3,11 +3,9 @@
 #include <algorithm>
 #include <array>
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
-namespace
-{
+namespace {
 
 bool isUpper(char c)
 {
@@ -21,11 +19,13 @@ bool isWordByte(char c)
 
 /// Column names in English, French, German, Spanish and Italian tables.
 constexpr std::array SiteWords = {
-    "site",     "sites",      "name",      "nom",     "id",       "x",        "y",           "lon",     "long",
-    "lng",      "longitude",  "longitud",  "lat",     "latitude", "latitud",  "latitudine",  "breite",  "laenge",
-    "azimuth",  "azimut",     "azimutes",  "height",  "hauteur",  "altura",   "hoehe",       "tilt",    "downtilt",
-    "inclinaison", "transmitter", "sector", "secteur", "antenna", "antenne",  "antena",      "easting", "northing",
-    "cellname", "coordinates", "longitudine", "site_id", "gps"};
+    "site",     "sites",       "name",        "nom",         "id",          "x",
+    "y",        "lon",         "long",        "lng",         "longitude",   "longitud",
+    "lat",      "latitude",    "latitud",     "latitudine",  "breite",      "laenge",
+    "azimuth",  "azimut",      "azimutes",    "height",      "hauteur",     "altura",
+    "hoehe",    "tilt",        "downtilt",    "inclinaison", "transmitter", "sector",
+    "secteur",  "antenna",     "antenne",     "antena",      "easting",     "northing",
+    "cellname", "coordinates", "longitudine", "site_id",     "gps"};
 
 } // namespace
 
@@ -42,11 +42,9 @@ std::vector<std::string> wordsOf(std::string_view name)
     std::vector<std::string> words;
     std::string word;
     char before = ' ';
-    for (const char c : name)
-    {
+    for (const char c : name) {
         const bool boundary = isUpper(c) && !isUpper(before) && isWordByte(before);
-        if ((!isWordByte(c) || boundary) && !word.empty())
-        {
+        if ((!isWordByte(c) || boundary) && !word.empty()) {
             words.push_back(lowerCase(word));
             word.clear();
         }
@@ -62,8 +60,9 @@ std::vector<std::string> wordsOf(std::string_view name)
 bool isSiteWord(std::string_view name)
 {
     const std::vector<std::string> words = wordsOf(name);
-    return std::any_of(words.begin(), words.end(), [](const std::string &word)
-                       { return std::find(SiteWords.begin(), SiteWords.end(), word) != SiteWords.end(); });
+    return std::any_of(words.begin(), words.end(), [](const std::string &word) {
+        return std::find(SiteWords.begin(), SiteWords.end(), word) != SiteWords.end();
+    });
 }
 
 } // namespace vlt::tables

@@ -5,17 +5,16 @@
 #include <algorithm>
 #include <set>
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
-namespace
-{
+namespace {
 
 constexpr uint64_t RowsSampledFirst = 1000;
-constexpr uint64_t SampleEvery = 64; ///< of the rows behind the first ones
+constexpr uint64_t SampleEvery = 128; ///< of the rows behind the first ones
 constexpr uint64_t RowsPerMark = 4096;
 constexpr size_t MostSheetsLookedAt = 64;
-constexpr double FullShare = 0.9; ///< a column behind the header counts when this share of the rows fills it
+constexpr double FullShare =
+    0.9; ///< a column behind the header counts when this share of the rows fills it
 
 struct Candidate
 {
@@ -31,8 +30,10 @@ bool isConvincing(const Header &header)
 /// Visible sheets before hidden ones, then the one with more words of sites, then the earlier.
 bool isBetter(const Candidate &candidate, const Candidate &best)
 {
-    const auto rank = [](const Candidate &c)
-    { return std::make_tuple(!c.sheet->hidden(), c.header.hasRowsBelow, c.header.siteWords >= 2 ? c.header.siteWords : 0); };
+    const auto rank = [](const Candidate &c) {
+        return std::make_tuple(!c.sheet->hidden(), c.header.hasRowsBelow,
+                               c.header.siteWords >= 2 ? c.header.siteWords : 0);
+    };
     return rank(candidate) > rank(best);
 }
 
@@ -41,8 +42,7 @@ Candidate chooseSheet(Workbook &workbook, const TableHints &hints)
     Candidate best;
     bool anySheet = false;
     size_t widest = 0;
-    for (size_t seen = 0; seen < MostSheetsLookedAt; ++seen)
-    {
+    for (size_t seen = 0; seen < MostSheetsLookedAt; ++seen) {
         const std::shared_ptr<Sheet> sheet = workbook.nextSheet();
         if (!sheet)
             break;
@@ -66,7 +66,8 @@ Candidate chooseSheet(Workbook &workbook, const TableHints &hints)
         throw RefusedFile(Refusal::Empty, "there is no cell with a value in the file");
     if (widest == 1)
         throw RefusedFile(Refusal::OneColumn, "the file has only one column");
-    throw RefusedFile(Refusal::NoHeader, "no header was found: none of the first rows names its columns");
+    throw RefusedFile(Refusal::NoHeader,
+                      "no header was found: none of the first rows names its columns");
 }
 
 /// Statistics of the columns, and how many rows were looked at for them.
@@ -88,7 +89,8 @@ struct Sample
     std::vector<char> textColumns() const
     {
         std::vector<char> text(columns.size());
-        std::transform(columns.begin(), columns.end(), text.begin(), [](const ColumnStatistics &column) { return column.isText(); });
+        std::transform(columns.begin(), columns.end(), text.begin(),
+                       [](const ColumnStatistics &column) { return column.isText(); });
         return text;
     }
 };
@@ -96,8 +98,9 @@ struct Sample
 std::string uniqueName(std::string name, std::set<std::string> &taken)
 {
     for (int number = 2; !taken.insert(name).second; ++number)
-        name = name.substr(0, name.rfind('_') != std::string::npos && number > 2 ? name.rfind('_') : name.size()) + '_' +
-               std::to_string(number);
+        name = name.substr(0, name.rfind('_') != std::string::npos && number > 2 ? name.rfind('_')
+                                                                                 : name.size()) +
+               '_' + std::to_string(number);
     return name;
 }
 
@@ -106,17 +109,22 @@ void makeFields(TableProfile &profile, const Sample &sample, const TableHints &h
     std::set<std::string> taken;
     const int lastNamed = profile.header.names.rbegin()->first;
     const int width = std::max(lastNamed + 1, static_cast<int>(sample.columns.size()));
-    for (int column = 0; column < width; ++column)
-    {
+    for (int column = 0; column < width; ++column) {
         const auto named = profile.header.names.find(column);
         const bool hasSample = static_cast<size_t>(column) < sample.columns.size();
-        const ColumnStatistics statistics = hasSample ? sample.columns[static_cast<size_t>(column)] : ColumnStatistics();
+        const ColumnStatistics statistics =
+            hasSample ? sample.columns[static_cast<size_t>(column)] : ColumnStatistics();
         const bool within = column < lastNamed && statistics.filled() > 0;
-        const bool common = static_cast<double>(statistics.filled()) >= FullShare * static_cast<double>(sample.rows) && statistics.filled() > 1;
+        const bool common = static_cast<double>(statistics.filled()) >=
+                                FullShare * static_cast<double>(sample.rows) &&
+                            statistics.filled() > 1;
         if (named == profile.header.names.end() && !within && !common)
             continue;
         Field field;
-        field.name = uniqueName(named != profile.header.names.end() ? named->second : "Column " + std::to_string(column + 1), taken);
+        field.name =
+            uniqueName(named != profile.header.names.end() ? named->second
+                                                           : "Column " + std::to_string(column + 1),
+                       taken);
         field.column = column;
         field.mark = statistics.mark();
         field.type = hints.textOnly ? FieldType::Text : statistics.type(profile.allRowsSampled);
@@ -134,10 +142,8 @@ void scan(const Sheet &sheet, const std::shared_ptr<TableProfile> &profile, Samp
     profile->marks.clear();
     DataRows rows(sheet, profile);
     std::vector<char> textColumns;
-    while (rows.advance())
-    {
-        if (profile->rowCount == RowsSampledFirst)
-        {
+    while (rows.advance()) {
+        if (profile->rowCount == RowsSampledFirst) {
             textColumns = sample.textColumns();
             rows.leaveOutTexts(&textColumns);
         }
@@ -158,20 +164,18 @@ Table readTable(Workbook &workbook, const TableHints &hints)
     Candidate chosen = chooseSheet(workbook, hints);
     auto profile = std::make_shared<TableProfile>();
     profile->sheet = chosen.sheet->name();
-    for (bool settled = false; !settled;)
-    {
+    for (bool settled = false; !settled;) {
         profile->header = chosen.header;
         profile->lastColumn = chosen.header.names.rbegin()->first;
         Sample sample;
         scan(*chosen.sheet, profile, sample);
         settled = chosen.sheet->settleEncoding();
-        if (!settled)
-            {
+        if (!settled) {
             size_t widest = 0;
             chosen.header = findHeader(*chosen.sheet, widest).value_or(chosen.header);
-        }
-        else if (profile->rowCount == 0)
-            throw RefusedFile(Refusal::Empty, "there is a header in row " + std::to_string(profile->header.row) +
+        } else if (profile->rowCount == 0)
+            throw RefusedFile(Refusal::Empty, "there is a header in row " +
+                                                  std::to_string(profile->header.row) +
                                                   ", but no row below it");
         else
             makeFields(*profile, sample, hints);
@@ -191,16 +195,18 @@ std::shared_ptr<Sheet> findSheet(Workbook &workbook, const std::string &name)
 }
 
 DataRows::DataRows(const Sheet &sheet, std::shared_ptr<const TableProfile> profile)
-    : m_sheet(&sheet), m_profile(std::move(profile)), m_rows(sheet.rows())
-{
-}
+    : m_sheet(&sheet)
+    , m_profile(std::move(profile))
+    , m_rows(sheet.rows())
+{}
 
 bool DataRows::isData()
 {
     m_parsed = false;
     if (m_rows->rowNumber() <= m_profile->header.row || !m_rows->hasContent(m_profile->lastColumn))
         return false;
-    return m_rows->fingerprint() != m_profile->header.fingerprint || !repeatsHeader(cells(), m_profile->header);
+    return m_rows->fingerprint() != m_profile->header.fingerprint ||
+           !repeatsHeader(cells(), m_profile->header);
 }
 
 bool DataRows::advance()
@@ -214,7 +220,9 @@ bool DataRows::advance()
 bool DataRows::seek(int64_t row)
 {
     const std::vector<RowMark> &marks = m_profile->marks;
-    const auto behind = std::upper_bound(marks.begin(), marks.end(), row, [](int64_t r, const RowMark &mark) { return r < mark.row; });
+    const auto behind =
+        std::upper_bound(marks.begin(), marks.end(), row,
+                         [](int64_t r, const RowMark &mark) { return r < mark.row; });
     std::unique_ptr<RowReader> there;
     if (behind != marks.begin())
         there = m_sheet->rowsFrom(std::prev(behind)->position, std::prev(behind)->row);

@@ -8,8 +8,7 @@
 #include <string>
 #include <vector>
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
 /// One column of a table.
 struct Field
@@ -28,7 +27,8 @@ struct RowMark
     uint64_t position = 0;
 };
 
-/// What is known about a table without its rows being kept: what an open needs, small enough to remember.
+/// What is known about a table without its rows being kept: what an open needs, small enough to
+/// remember.
 struct TableProfile
 {
     std::string sheet;

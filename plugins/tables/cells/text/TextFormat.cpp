@@ -2,33 +2,34 @@
 
 #include "bytes/RecodeSource.h"
 #include "bytes/Refusal.h"
-#include "cells/ByteScan.h"
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 #include <map>
 #include <vector>
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
-namespace
-{
+namespace {
 
 constexpr size_t SampleLines = 200;
-constexpr std::string_view Delimiters = ";\t|,"; ///< the earlier wins between equals: commas are decimal marks, too
-constexpr size_t ControlShare = 200;             ///< one control character in so many is still a text
+constexpr std::string_view Delimiters =
+    ";\t|,"; ///< the earlier wins between equals: commas are decimal marks, too
+constexpr size_t ControlShare = 200; ///< one control character in so many is still a text
 
 /// Whether the bytes are UTF-8 as far as they go; a character cut at the end counts as good.
 bool isUtf8(std::string_view text)
 {
-    constexpr size_t Block = 64;
-    for (size_t at = 0; at < text.size();)
-    {
-        if (at + Block <= text.size() && !hasHighBytes(text.data() + at, text.data() + at + Block))
-        {
-            at += Block;
-            continue;
+    constexpr size_t Block = 4 * sizeof(uint64_t);
+    for (size_t at = 0; at < text.size();) {
+        uint64_t words[4];
+        if (at + Block <= text.size()) {
+            std::memcpy(words, text.data() + at, Block);
+            if (((words[0] | words[1] | words[2] | words[3]) & 0x8080808080808080U) == 0) {
+                at += Block;
+                continue;
+            }
         }
         const auto lead = static_cast<unsigned char>(text[at]);
         const size_t length = lead < 0x80                    ? 1
@@ -46,8 +47,8 @@ bool isUtf8(std::string_view text)
     return true;
 }
 
-/// Encoding of a text without a byte order mark whose characters are two or four bytes wide: mostly zeros in a
-/// regular pattern. Empty for other texts.
+/// Encoding of a text without a byte order mark whose characters are two or four bytes wide: mostly
+/// zeros in a regular pattern. Empty for other texts.
 std::string wideEncoding(std::string_view text)
 {
     size_t zeros[4] = {};
@@ -75,17 +76,16 @@ std::vector<size_t> fieldCounts(std::string_view text, char delimiter, bool isWh
     bool quoted = false;
     bool fieldStart = true;
     bool lineStart = true;
-    bool closed = false; ///< the character before closed a quoted field, or was the first of a doubled mark
-    for (const char c : text)
-    {
+    bool closed =
+        false; ///< the character before closed a quoted field, or was the first of a doubled mark
+    for (const char c : text) {
         const bool reopens = closed && c == '"';
         closed = quoted && c == '"';
         if (quoted)
             quoted = c != '"';
         else if (c == '"' && (fieldStart || reopens))
             quoted = true;
-        else if (c == '\n' || c == '\r')
-        {
+        else if (c == '\n' || c == '\r') {
             if (!lineStart)
                 counts.push_back(fields);
             fields = 1;
@@ -103,8 +103,8 @@ std::vector<size_t> fieldCounts(std::string_view text, char delimiter, bool isWh
     return counts;
 }
 
-/// How well a delimiter explains the lines: the share of lines with the most common number of fields (more than
-/// one), weighted gently by that number.
+/// How well a delimiter explains the lines: the share of lines with the most common number of
+/// fields (more than one), weighted gently by that number.
 double score(const std::vector<size_t> &counts)
 {
     std::map<size_t, size_t> lines;
@@ -113,19 +113,20 @@ double score(const std::vector<size_t> &counts)
     size_t best = 0;
     size_t bestLines = 0;
     for (const auto &[fields, number] : lines)
-        if (fields > 1 && number >= bestLines)
-        {
+        if (fields > 1 && number >= bestLines) {
             best = fields;
             bestLines = number;
         }
     if (best < 2)
         return 0;
     // In prose few lines have a comma; in a table every line below the titles has delimiters.
-    const auto first = std::find_if(counts.begin(), counts.end(), [](size_t count) { return count > 1; });
+    const auto first =
+        std::find_if(counts.begin(), counts.end(), [](size_t count) { return count > 1; });
     const auto cut = std::count_if(first, counts.end(), [](size_t count) { return count > 1; });
     if (cut * 10 < (counts.end() - first) * 7)
         return 0;
-    return static_cast<double>(bestLines) / static_cast<double>(counts.size()) * (1 + 0.1 * std::log2(static_cast<double>(best)));
+    return static_cast<double>(bestLines) / static_cast<double>(counts.size()) *
+           (1 + 0.1 * std::log2(static_cast<double>(best)));
 }
 
 char findDelimiter(std::string_view text, bool isWhole)
@@ -133,60 +134,50 @@ char findDelimiter(std::string_view text, bool isWhole)
     char best = 0;
     double bestScore = 0;
     for (const char delimiter : Delimiters)
-        if (const double value = score(fieldCounts(text, delimiter, isWhole)); value > bestScore + 1e-9)
-        {
+        if (const double value = score(fieldCounts(text, delimiter, isWhole));
+            value > bestScore + 1e-9) {
             best = delimiter;
             bestScore = value;
         }
     if (best == 0)
-        throw RefusedFile(Refusal::OneColumn,
-                          "no delimiter was found: neither semicolons nor tabs, bars or commas make columns of it");
+        throw RefusedFile(Refusal::OneColumn, "no delimiter was found: neither semicolons nor "
+                                              "tabs, bars or commas make columns of it");
     return best;
 }
 
 void refuseOtherKinds(std::string_view text)
 {
-    const std::string_view start = text.substr(std::min(text.find_first_not_of(" \t\r\n"), text.size()));
+    const std::string_view start =
+        text.substr(std::min(text.find_first_not_of(" \t\r\n"), text.size()));
     if (start.empty())
         throw RefusedFile(Refusal::Empty, "there is nothing but white space in the file");
-    const std::string_view inner = start.substr(1, 64).substr(std::min(start.substr(1, 64).find_first_not_of(" \t\r\n"), start.substr(1, 64).size()));
-    if ((start[0] == '{' || start[0] == '[') && (inner.starts_with('{') || inner.starts_with('[') || inner.starts_with('"')))
+    const std::string_view inner = start.substr(1, 64).substr(
+        std::min(start.substr(1, 64).find_first_not_of(" \t\r\n"), start.substr(1, 64).size()));
+    if ((start[0] == '{' || start[0] == '[') &&
+        (inner.starts_with('{') || inner.starts_with('[') || inner.starts_with('"')))
         throw RefusedFile(Refusal::NotSupportedFormat, "this looks like JSON, not like a table");
     if (start.starts_with("ID;P"))
-        throw RefusedFile(Refusal::NotSupportedFormat, "this is a SYLK file: save it as .xlsx or .csv");
+        throw RefusedFile(Refusal::NotSupportedFormat,
+                          "this is a SYLK file: save it as .xlsx or .csv");
     size_t controls = 0; // zeros do no harm in a cell, and loggers pad with them
     for (const char c : text)
-        controls += static_cast<unsigned char>(c) < 0x20 && std::string_view("\n\r\t\f\0", 5).find(c) == std::string_view::npos ? 1 : 0;
+        controls += static_cast<unsigned char>(c) < 0x20 &&
+                            std::string_view("\n\r\t\f\0", 5).find(c) == std::string_view::npos
+                        ? 1
+                        : 0;
     if (controls * ControlShare > text.size())
         throw RefusedFile(Refusal::NotATable, "this is neither a text nor a workbook");
 }
 
 } // namespace
 
-bool isWholeFileUtf8(const InputFile &file, uint64_t start)
+bool isUtf8Piece(std::string_view piece)
 {
-    std::vector<char> bytes(size_t{1} << 18);
-    size_t kept = 0;
-    for (uint64_t at = start;;)
-    {
-        const size_t got = file.readAt(at, bytes.data() + kept, bytes.size() - kept);
-        const std::string_view text(bytes.data(), kept + got);
-        if (got == 0)
-            return true;
-        const bool ascii = !hasHighBytes(text.data(), text.data() + text.size());
-        if (!ascii && !isUtf8(text))
-            return false;
-        // a character may be cut at the end: its first bytes are looked at again
-        kept = 0;
-        for (size_t back = 1; !ascii && back <= 3 && back <= text.size(); ++back)
-            if (static_cast<unsigned char>(text[text.size() - back]) >= 0xC0)
-            {
-                kept = back;
-                break;
-            }
-        std::copy(text.end() - static_cast<std::ptrdiff_t>(kept), text.end(), bytes.begin());
-        at += got;
-    }
+    for (int skipped = 0;
+         skipped < 3 && !piece.empty() && (static_cast<unsigned char>(piece[0]) & 0xC0) == 0x80;
+         ++skipped)
+        piece.remove_prefix(1);
+    return isUtf8(piece);
 }
 
 TextFormat findTextFormat(const InputFile &file, const TextHints &hints)
@@ -209,8 +200,8 @@ TextFormat findTextFormat(const InputFile &file, const TextHints &hints)
         text = recoded(text, encoding);
     format.encoding = encoding;
     refuseOtherKinds(text);
-    if ((text.starts_with("sep=") || text.starts_with("SEP=")) && text.size() > 5 && (text[5] == '\r' || text[5] == '\n'))
-    {
+    if ((text.starts_with("sep=") || text.starts_with("SEP=")) && text.size() > 5 &&
+        (text[5] == '\r' || text[5] == '\n')) {
         format.delimiter = text[4];
         format.firstRow = 2;
         if (format.encoding.empty()) // in wider encodings the line is read as a title row
@@ -219,7 +210,8 @@ TextFormat findTextFormat(const InputFile &file, const TextHints &hints)
             format.firstRow = 1;
         return format;
     }
-    format.delimiter = hints.delimiter ? hints.delimiter : findDelimiter(text, head.size() < TextSampleSize);
+    format.delimiter =
+        hints.delimiter ? hints.delimiter : findDelimiter(text, head.size() < TextSampleSize);
     return format;
 }
 

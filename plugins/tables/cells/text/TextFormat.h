@@ -4,9 +4,9 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
 /// Bytes at the start of a file from which its format is guessed.
 constexpr size_t TextSampleSize = size_t{64} << 10;
@@ -16,8 +16,8 @@ struct TextFormat
 {
     std::string encoding; ///< empty: UTF-8 or plain ASCII
     char delimiter = ',';
-    uint64_t start = 0;    ///< bytes before the first row: a byte order mark
-    int64_t firstRow = 1;  ///< number of the first row: 2 behind a line "sep=;"
+    uint64_t start = 0;   ///< bytes before the first row: a byte order mark
+    int64_t firstRow = 1; ///< number of the first row: 2 behind a line "sep=;"
 };
 
 /// What the user says about the file; empty members are found out.
@@ -27,12 +27,12 @@ struct TextHints
     char delimiter = 0;
 };
 
-/// Finds encoding and delimiter from the first part of a file. The delimiter is the one that cuts the most lines into
-/// the same number of fields, so that commas in addresses or decimals do not mislead it.
-/// Throws RefusedFile (NotATable, OneColumn, NotSupportedFormat).
+/// Finds encoding and delimiter from the first part of a file. The delimiter is the one that cuts
+/// the most lines into the same number of fields, so that commas in addresses or decimals do not
+/// mislead it. Throws RefusedFile (NotATable, OneColumn, NotSupportedFormat).
 TextFormat findTextFormat(const InputFile &file, const TextHints &hints);
 
-/// Whether everything from `start` on is UTF-8. The first part of a large file may be plain ASCII and tell nothing.
-bool isWholeFileUtf8(const InputFile &file, uint64_t start);
+/// Whether a piece out of a text is UTF-8; characters may be cut at either end.
+bool isUtf8Piece(std::string_view piece);
 
 } // namespace vlt::tables

@@ -2,36 +2,37 @@
 
 #include "cells/ByteScan.h"
 
+#include <algorithm>
 #include <cstring>
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
-namespace
-{
+namespace {
 
 /// A quoted field this long was never meant to be one.
 constexpr std::ptrdiff_t LongestQuoted = std::ptrdiff_t{8} << 20;
 
 const char *find(const char *begin, const char *end, char wanted)
 {
-    const void *found = begin < end ? std::memchr(begin, wanted, static_cast<size_t>(end - begin)) : nullptr;
+    const void *found =
+        begin < end ? std::memchr(begin, wanted, static_cast<size_t>(end - begin)) : nullptr;
     return found ? static_cast<const char *>(found) : end;
 }
 
 /// Whether the field is anything but blanks.
 bool isFilled(std::string_view field)
 {
-    return !field.empty() && (static_cast<unsigned char>(field[0]) - 0x21U < 0x5EU || !trimmed(field).empty());
+    return !field.empty() &&
+           (static_cast<unsigned char>(field[0]) - 0x21U < 0x5EU || !trimmed(field).empty());
 }
 
 } // namespace
 
-TextRows::TextRows(std::unique_ptr<ByteSource> stream, char delimiter, int64_t firstRow, uint64_t position,
-                   std::atomic<bool> *highBytes)
+TextRows::TextRows(std::unique_ptr<ByteSource> stream, char delimiter, int64_t firstRow,
+                   uint64_t position, std::atomic<bool> *notUtf8)
     : m_input(std::move(stream))
     , m_delimiter(delimiter)
-    , m_highBytes(highBytes)
+    , m_notUtf8(notUtf8)
     , m_windowPosition(position)
     , m_number(firstRow - 1)
 {
@@ -43,17 +44,17 @@ bool TextRows::more()
 {
     const size_t kept = static_cast<size_t>(m_input.end() - m_row);
     const uint64_t dropped = static_cast<uint64_t>(m_row - m_input.begin());
-    if (m_atEnd || !m_input.more(m_row))
-    {
+    if (m_atEnd || !m_input.more(m_row)) {
         m_atEnd = true;
         return false;
     }
     m_windowPosition += dropped;
     m_row = m_input.begin();
+    const std::string_view added(m_row + kept, static_cast<size_t>(m_input.end() - m_row) - kept);
     // What the encoding was guessed from is known to fit.
     const bool guessedFrom = m_windowPosition + kept < TextSampleSize;
-    if (!guessedFrom && !m_highBytes->load(std::memory_order_relaxed) && hasHighBytes(m_row + kept, m_input.end()))
-        m_highBytes->store(true, std::memory_order_relaxed);
+    if (!guessedFrom && !m_notUtf8->load(std::memory_order_relaxed) && !isUtf8Piece(added))
+        m_notUtf8->store(true, std::memory_order_relaxed);
     return true;
 }
 
@@ -66,17 +67,15 @@ bool TextRows::advance()
     return findRowEnd();
 }
 
-/// The place of the mark that closes the quoted field starting at `field`, or null when none does. The window may
-/// grow and move; `field` is then m_row plus its old distance.
+/// The place of the mark that closes the quoted field starting at `field`, or null when none does.
+/// The window may grow and move; `field` is then m_row plus its old distance.
 const char *TextRows::closingQuote(const char *field)
 {
     const std::ptrdiff_t start = field - m_row;
     std::ptrdiff_t at = start + 1;
-    for (;;)
-    {
+    for (;;) {
         const char *mark = find(m_row + at, m_input.end(), '"');
-        if (mark == m_input.end() || mark + 1 == m_input.end())
-        {
+        if (mark == m_input.end() || mark + 1 == m_input.end()) {
             at = mark - m_row;
             if (at - start > LongestQuoted || !more())
                 return mark == m_input.end() ? nullptr : mark;
@@ -91,21 +90,18 @@ const char *TextRows::closingQuote(const char *field)
 bool TextRows::findRowEnd()
 {
     std::ptrdiff_t at = 0;
-    for (;;)
-    {
+    for (;;) {
         const char *found = findAnyOf(m_row + at, m_input.end(), '\n', '\r', '"');
         at = found - m_row;
         const bool returnAtEdge = found + 1 == m_input.end() && *found == '\r';
-        if (found == m_input.end() || returnAtEdge)
-        {
+        if (found == m_input.end() || returnAtEdge) {
             if (more())
                 continue;
             m_rowEnd = m_row + at;
             m_next = m_input.end();
             return true;
         }
-        if (*found != '"')
-        {
+        if (*found != '"') {
             m_rowEnd = found;
             m_next = found + (*found == '\r' && found[1] == '\n' ? 2 : 1);
             return true;
@@ -116,28 +112,24 @@ bool TextRows::findRowEnd()
     }
 }
 
-/// Reads the field at `at`; returns where it ends: at a delimiter or the row's end. Without a row to keep the text,
-/// doubled quotes stay doubled.
+/// Reads the field at `at`; returns where it ends: at a delimiter or the row's end. Without a row
+/// to keep the text, doubled quotes stay doubled.
 const char *TextRows::readField(const char *at, std::string_view &text, Row *row) const
 {
-    if (at < m_rowEnd && *at == '"')
-    {
+    if (at < m_rowEnd && *at == '"') {
         bool doubled = false;
         const char *mark = at;
-        while ((mark = find(mark + 1, m_rowEnd, '"')) != m_rowEnd && mark + 1 < m_rowEnd && mark[1] == '"')
-        {
+        while ((mark = find(mark + 1, m_rowEnd, '"')) != m_rowEnd && mark + 1 < m_rowEnd &&
+               mark[1] == '"') {
             doubled = true;
             ++mark;
         }
-        if (mark != m_rowEnd)
-        {
+        if (mark != m_rowEnd) {
             const char *end = find(mark + 1, m_rowEnd, m_delimiter);
             text = {at + 1, static_cast<size_t>(mark - at - 1)};
-            if (row && (doubled || end != mark + 1))
-            {
+            if (row && (doubled || end != mark + 1)) {
                 std::string whole;
-                for (size_t i = 0; i < text.size(); ++i)
-                {
+                for (size_t i = 0; i < text.size(); ++i) {
                     whole += text[i];
                     i += text[i] == '"' ? 1 : 0;
                 }
@@ -156,10 +148,12 @@ const char *TextRows::readField(const char *at, std::string_view &text, Row *row
 
 bool TextRows::hasContent(int lastColumn)
 {
+    // Nearly every row starts with a letter or a digit.
+    if (m_row<m_rowEnd && * m_row != m_delimiter && * m_row> '"' && *m_row < '\x7F')
+        return true;
     std::string_view text;
     const char *at = m_row;
-    for (int column = 0; column <= lastColumn; ++column)
-    {
+    for (int column = 0; column <= lastColumn; ++column) {
         at = readField(at, text, nullptr);
         if (isFilled(text))
             return true;
@@ -171,9 +165,10 @@ bool TextRows::hasContent(int lastColumn)
 
 uint64_t TextRows::fingerprint()
 {
-    std::string_view text;
-    readField(m_row, text, nullptr);
-    return fingerprintOf(text);
+    uint64_t start = 0;
+    std::memcpy(&start, m_row,
+                std::min<size_t>(sizeof start, static_cast<size_t>(m_rowEnd - m_row)));
+    return start;
 }
 
 void TextRows::cells(Row &row)
@@ -182,8 +177,7 @@ void TextRows::cells(Row &row)
     row.number = m_number;
     std::string_view text;
     const char *at = m_row;
-    for (int column = 0; column < MostTextColumns; ++column)
-    {
+    for (int column = 0; column < MostTextColumns; ++column) {
         at = readField(at, text, &row);
         if (isFilled(text))
             row.cells.push_back({column, Cell::Kind::Text, text, 0});

@@ -6,28 +6,30 @@
 
 #include <atomic>
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
 /// Rows of a delimited text (RFC 4180, read leniently).
 ///
-/// A quotation mark opens a quoted field only at the start of a field, so that inches and seconds of arc stand as
-/// they are. One that is never closed is an ordinary character. Lines end in LF, CR LF or CR; blank lines count as
-/// rows in the numbering.
+/// A quotation mark opens a quoted field only at the start of a field, so that inches and seconds
+/// of arc stand as they are. One that is never closed is an ordinary character. Lines end in LF, CR
+/// LF or CR; blank lines count as rows in the numbering.
 class TextRows : public RowReader
 {
 public:
-    /// The stream starts at a row, which is number `firstRow`, `position` bytes into the file. `highBytes` is set
-    /// when a byte above ASCII is met.
-    TextRows(std::unique_ptr<ByteSource> stream, char delimiter, int64_t firstRow, uint64_t position,
-             std::atomic<bool> *highBytes);
+    /// The stream starts at a row, which is number `firstRow`, `position` bytes into the file.
+    /// `notUtf8` is set when a byte is met that is not UTF-8.
+    TextRows(std::unique_ptr<ByteSource> stream, char delimiter, int64_t firstRow,
+             uint64_t position, std::atomic<bool> *notUtf8);
 
     bool advance() override;
     int64_t rowNumber() const override { return m_number; }
     bool hasContent(int lastColumn) override;
     uint64_t fingerprint() override;
     void cells(Row &row) override;
-    uint64_t position() const override { return m_windowPosition + static_cast<uint64_t>(m_row - m_input.begin()); }
+    uint64_t position() const override
+    {
+        return m_windowPosition + static_cast<uint64_t>(m_row - m_input.begin());
+    }
 
 private:
     bool more();
@@ -37,7 +39,7 @@ private:
 
     ChunkedInput m_input;
     char m_delimiter;
-    std::atomic<bool> *m_highBytes;
+    std::atomic<bool> *m_notUtf8;
     uint64_t m_windowPosition;
     int64_t m_number;
     const char *m_row = nullptr;    ///< the current row

@@ -3,29 +3,35 @@
 #include "bytes/RecodeSource.h"
 #include "cells/text/TextRows.h"
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
-namespace
-{
+namespace {
 
 class TextSheet : public Sheet
 {
 public:
-    TextSheet(std::shared_ptr<const InputFile> file, std::string name, const TextFormat &format, bool guessed)
-        : m_file(std::move(file)), m_name(std::move(name)), m_format(format), m_guessed(guessed)
-    {
-    }
+    TextSheet(std::shared_ptr<const InputFile> file, std::string name, const TextFormat &format,
+              bool guessed)
+        : m_file(std::move(file))
+        , m_name(std::move(name))
+        , m_format(format)
+        , m_guessed(guessed)
+    {}
 
     const std::string &name() const override { return m_name; }
 
     std::string description() const override
     {
-        const std::string delimiter = m_format.delimiter == '\t' ? "tabs" : std::string("\"") + m_format.delimiter + '"';
-        return "text, " + (m_format.encoding.empty() ? "UTF-8" : m_format.encoding) + ", columns separated by " + delimiter;
+        const std::string delimiter =
+            m_format.delimiter == '\t' ? "tabs" : std::string("\"") + m_format.delimiter + '"';
+        return "text, " + (m_format.encoding.empty() ? "UTF-8" : m_format.encoding) +
+               ", columns separated by " + delimiter;
     }
 
-    std::unique_ptr<RowReader> rows() const override { return rowsAt(m_format.start, m_format.firstRow); }
+    std::unique_ptr<RowReader> rows() const override
+    {
+        return rowsAt(m_format.start, m_format.firstRow);
+    }
 
     std::unique_ptr<RowReader> rowsFrom(uint64_t position, int64_t rowNumber) const override
     {
@@ -34,11 +40,9 @@ public:
 
     bool settleEncoding() override
     {
-        if (!m_guessed || !m_format.encoding.empty() || !m_highBytes)
+        if (!m_guessed || !m_format.encoding.empty() || !m_notUtf8)
             return true;
         m_guessed = false;
-        if (isWholeFileUtf8(*m_file, m_format.start))
-            return true;
         m_format.encoding = "CP1252";
         return false;
     }
@@ -46,18 +50,19 @@ public:
 private:
     std::unique_ptr<RowReader> rowsAt(uint64_t position, int64_t number) const
     {
-        std::unique_ptr<ByteSource> source =
-            std::make_unique<FileSource>(m_file, std::vector<Extent>{{position, m_file->size() - position}});
+        std::unique_ptr<ByteSource> source = std::make_unique<FileSource>(
+            m_file, std::vector<Extent>{{position, m_file->size() - position}});
         if (!m_format.encoding.empty())
             source = std::make_unique<RecodeSource>(std::move(source), m_format.encoding);
-        return std::make_unique<TextRows>(std::move(source), m_format.delimiter, number, position, &m_highBytes);
+        return std::make_unique<TextRows>(std::move(source), m_format.delimiter, number, position,
+                                          &m_notUtf8);
     }
 
     std::shared_ptr<const InputFile> m_file;
     std::string m_name;
     TextFormat m_format;
     bool m_guessed; ///< nobody said what the encoding is
-    mutable std::atomic<bool> m_highBytes = false;
+    mutable std::atomic<bool> m_notUtf8 = false;
 };
 
 class TextWorkbook : public Workbook
@@ -73,7 +78,8 @@ private:
 
 } // namespace
 
-std::unique_ptr<Workbook> openText(std::shared_ptr<const InputFile> file, const std::string &name, const TextHints &hints)
+std::unique_ptr<Workbook> openText(std::shared_ptr<const InputFile> file, const std::string &name,
+                                   const TextHints &hints)
 {
     const TextFormat format = findTextFormat(*file, hints);
     return std::make_unique<TextWorkbook>(

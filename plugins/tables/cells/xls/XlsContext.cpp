@@ -3,11 +3,9 @@
 #include "bytes/LittleEndian.h"
 #include "bytes/RecodeSource.h"
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
-namespace
-{
+namespace {
 
 constexpr unsigned WideFlag = 0x01;
 constexpr unsigned ExtendedFlag = 0x04;
@@ -20,34 +18,34 @@ void appendUtf8(std::string &to, uint32_t code)
     else if (code < 0x800)
         to.append({static_cast<char>(0xC0 | code >> 6), static_cast<char>(0x80 | (code & 0x3F))});
     else if (code < 0x10000)
-        to.append({static_cast<char>(0xE0 | code >> 12), static_cast<char>(0x80 | (code >> 6 & 0x3F)),
+        to.append({static_cast<char>(0xE0 | code >> 12),
+                   static_cast<char>(0x80 | (code >> 6 & 0x3F)),
                    static_cast<char>(0x80 | (code & 0x3F))});
     else
-        to.append({static_cast<char>(0xF0 | code >> 18), static_cast<char>(0x80 | (code >> 12 & 0x3F)),
-                   static_cast<char>(0x80 | (code >> 6 & 0x3F)), static_cast<char>(0x80 | (code & 0x3F))});
+        to.append({static_cast<char>(0xF0 | code >> 18),
+                   static_cast<char>(0x80 | (code >> 12 & 0x3F)),
+                   static_cast<char>(0x80 | (code >> 6 & 0x3F)),
+                   static_cast<char>(0x80 | (code & 0x3F))});
 }
 
 } // namespace
 
 void appendXlsCharacters(std::string &to, std::string_view bytes, bool wide, uint32_t &surrogate)
 {
-    if (!wide)
-    {
+    if (!wide) {
         for (const char c : bytes)
             appendUtf8(to, static_cast<unsigned char>(c));
         return;
     }
-    for (size_t at = 0; at + 2 <= bytes.size(); at += 2)
-    {
+    for (size_t at = 0; at + 2 <= bytes.size(); at += 2) {
         const uint32_t unit = u16(bytes.data() + at);
         if (unit >= 0xD800 && unit < 0xDC00)
             surrogate = unit;
-        else if (unit >= 0xDC00 && unit < 0xE000)
-        {
-            appendUtf8(to, surrogate ? 0x10000 + ((surrogate - 0xD800) << 10) + (unit - 0xDC00) : 0xFFFD);
+        else if (unit >= 0xDC00 && unit < 0xE000) {
+            appendUtf8(to, surrogate ? 0x10000 + ((surrogate - 0xD800) << 10) + (unit - 0xDC00)
+                                     : 0xFFFD);
             surrogate = 0;
-        }
-        else
+        } else
             appendUtf8(to, unit);
     }
 }
@@ -73,8 +71,7 @@ std::string xlsText(std::string_view data, const XlsContext &context, bool short
 std::vector<Extent> extentsFrom(const std::vector<Extent> &stream, uint64_t position)
 {
     std::vector<Extent> rest;
-    for (Extent extent : stream)
-    {
+    for (Extent extent : stream) {
         const uint64_t skipped = std::min(position, extent.size);
         position -= skipped;
         if (skipped < extent.size)
@@ -88,8 +85,8 @@ bool XlsStrings::start()
     constexpr size_t CountsSize = 8;
     if (m_position == 0)
         return false;
-    m_records =
-        std::make_unique<XlsRecords>(std::make_unique<FileSource>(m_file, extentsFrom(m_stream, m_position)));
+    m_records = std::make_unique<XlsRecords>(
+        std::make_unique<FileSource>(m_file, extentsFrom(m_stream, m_position)));
     if (!m_records->next() || m_records->type() != XlsSst || m_records->data().size() < CountsSize)
         return false;
     m_rest = m_records->data().substr(CountsSize);
@@ -100,18 +97,15 @@ bool XlsStrings::start()
 bool XlsStrings::bytes(void *to, size_t size)
 {
     auto *out = static_cast<char *>(to);
-    while (size > 0)
-    {
-        if (m_rest.empty())
-        {
+    while (size > 0) {
+        if (m_rest.empty()) {
             if (m_records->peek() != XlsContinue || !m_records->next())
                 return false;
             m_rest = m_records->data();
             continue;
         }
         const size_t part = std::min(size, m_rest.size());
-        if (out)
-        {
+        if (out) {
             std::memcpy(out, m_rest.data(), part);
             out += part;
         }
@@ -130,10 +124,8 @@ bool XlsStrings::skip(size_t size)
 bool XlsStrings::readCharacters(size_t count, bool wide)
 {
     uint32_t surrogate = 0;
-    while (count > 0)
-    {
-        if (m_rest.empty())
-        {
+    while (count > 0) {
+        if (m_rest.empty()) {
             if (m_records->peek() != XlsContinue || !m_records->next() || m_records->data().empty())
                 return false;
             m_rest = m_records->data();
@@ -161,14 +153,12 @@ bool XlsStrings::readString()
     char number[4] = {};
     size_t runs = 0;
     size_t extension = 0;
-    if (flags & RichFlag)
-    {
+    if (flags & RichFlag) {
         if (!bytes(number, 2))
             return false;
         runs = u16(number);
     }
-    if (flags & ExtendedFlag)
-    {
+    if (flags & ExtendedFlag) {
         if (!bytes(number, 4))
             return false;
         extension = u32(number);

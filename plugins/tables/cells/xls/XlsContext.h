@@ -7,22 +7,22 @@
 #include <string>
 #include <vector>
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
 /// The shared string table of a workbook, read as far as it is asked for.
 class XlsStrings
 {
 public:
     XlsStrings(std::shared_ptr<const InputFile> file, std::vector<Extent> stream)
-        : m_file(std::move(file)), m_stream(std::move(stream))
-    {
-    }
+        : m_file(std::move(file))
+        , m_stream(std::move(stream))
+    {}
 
     /// Where the table's record starts in the stream.
     void setPosition(uint64_t position) { m_position = position; }
 
-    /// The text with that number; empty when there is none. Stays valid for the life of this object.
+    /// The text with that number; empty when there is none. Stays valid for the life of this
+    /// object.
     std::string_view at(uint32_t index);
 
 private:
@@ -55,10 +55,12 @@ struct XlsContext
 /// The part of a stream that starts at `position`.
 std::vector<Extent> extentsFrom(const std::vector<Extent> &stream, uint64_t position);
 
-/// Text of a string with a 16-bit length at `data` (8-bit length with `shortLength`); empty when it is cut.
+/// Text of a string with a 16-bit length at `data` (8-bit length with `shortLength`); empty when it
+/// is cut.
 std::string xlsText(std::string_view data, const XlsContext &context, bool shortLength = false);
 
-/// Appends UTF-16 (wide) or Latin-1 characters to a UTF-8 text. `surrogate` carries the first half of a pair over.
+/// Appends UTF-16 (wide) or Latin-1 characters to a UTF-8 text. `surrogate` carries the first half
+/// of a pair over.
 void appendXlsCharacters(std::string &to, std::string_view bytes, bool wide, uint32_t &surrogate);
 
 } // namespace vlt::tables

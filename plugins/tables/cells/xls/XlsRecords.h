@@ -5,14 +5,16 @@
 #include <cstdint>
 #include <string_view>
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
 /// The records of a BIFF stream, one after another. Source of the format: [MS-XLS].
 class XlsRecords
 {
 public:
-    explicit XlsRecords(std::unique_ptr<ByteSource> stream) : m_input(std::move(stream)), m_at(m_input.begin()) {}
+    explicit XlsRecords(std::unique_ptr<ByteSource> stream)
+        : m_input(std::move(stream))
+        , m_at(m_input.begin())
+    {}
 
     /// Goes to the next record; false at the end of the stream. Data of the one before are lost.
     bool next()
@@ -29,7 +31,10 @@ public:
         return true;
     }
     /// The type of the record that would come next; 0 at the end. Data of the current one are lost.
-    uint16_t peek() { return ensure(HeaderSize) ? static_cast<uint16_t>(byte(0) | byte(1) << 8) : 0; }
+    uint16_t peek()
+    {
+        return ensure(HeaderSize) ? static_cast<uint16_t>(byte(0) | byte(1) << 8) : 0;
+    }
 
     uint16_t type() const { return m_type; }
     std::string_view data() const { return m_data; }
@@ -43,8 +48,7 @@ private:
 
     bool ensure(size_t size)
     {
-        while (static_cast<size_t>(m_input.end() - m_at) < size)
-        {
+        while (static_cast<size_t>(m_input.end() - m_at) < size) {
             const bool more = m_input.more(m_at);
             if (!more)
                 return false;
@@ -61,8 +65,7 @@ private:
 };
 
 /// Record types that matter here.
-enum XlsRecordType : uint16_t
-{
+enum XlsRecordType : uint16_t {
     XlsFormula = 0x0006,
     XlsEof = 0x000A,
     XlsDateMode = 0x0022,

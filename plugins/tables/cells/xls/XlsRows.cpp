@@ -6,11 +6,9 @@
 
 #include <algorithm>
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
-namespace
-{
+namespace {
 
 constexpr size_t CellHead = 6; ///< row, column, style
 
@@ -19,8 +17,7 @@ double rkNumber(uint32_t rk)
     double value;
     if (rk & 2)
         value = static_cast<double>(static_cast<int32_t>(rk) >> 2);
-    else
-    {
+    else {
         const uint64_t bits = uint64_t{rk & 0xFFFFFFFC} << 32;
         std::memcpy(&value, &bits, sizeof value);
     }
@@ -29,8 +26,7 @@ double rkNumber(uint32_t rk)
 
 const char *errorText(uint32_t code)
 {
-    switch (code)
-    {
+    switch (code) {
     case 0x00:
         return "#NULL!";
     case 0x07:
@@ -51,13 +47,16 @@ const char *errorText(uint32_t code)
 } // namespace
 
 XlsRows::XlsRows(std::unique_ptr<ByteSource> sheet, std::shared_ptr<const XlsContext> context)
-    : m_records(std::move(sheet)), m_context(std::move(context))
+    : m_records(std::move(sheet))
+    , m_context(std::move(context))
 {
     if (m_records.next() && m_records.type() != XlsBof)
-        throw RefusedFile(Refusal::Malformed, "the workbook is damaged: a sheet is not where it should be");
+        throw RefusedFile(Refusal::Malformed,
+                          "the workbook is damaged: a sheet is not where it should be");
 }
 
-/// Cells of a row that is being read: the current one, or the next one when a cell of it ends the current.
+/// Cells of a row that is being read: the current one, or the next one when a cell of it ends the
+/// current.
 std::vector<XlsRows::RawCell> &XlsRows::cellsOf(int row)
 {
     if (m_row < 0 || (m_cells.empty() && m_nextRow < 0))
@@ -71,7 +70,8 @@ std::vector<XlsRows::RawCell> &XlsRows::cellsOf(int row)
 void XlsRows::add(std::string_view data, RawCell::Kind kind, double number, uint32_t index)
 {
     if (data.size() >= CellHead)
-        cellsOf(u16(data.data())).push_back({u16(data.data() + 2), u16(data.data() + 4), kind, index, number});
+        cellsOf(u16(data.data()))
+            .push_back({u16(data.data() + 2), u16(data.data() + 4), kind, index, number});
 }
 
 void XlsRows::addText(std::string_view data, std::string text)
@@ -92,7 +92,8 @@ void XlsRows::readMulRk(std::string_view data)
     std::vector<RawCell> &cells = cellsOf(u16(data.data()));
     uint16_t column = u16(data.data() + 2);
     for (size_t at = 4; at + 6 + 2 <= data.size(); at += 6)
-        cells.push_back({column++, u16(data.data() + at), RawCell::Kind::Number, 0, rkNumber(u32(data.data() + at + 2))});
+        cells.push_back({column++, u16(data.data() + at), RawCell::Kind::Number, 0,
+                         rkNumber(u32(data.data() + at + 2))});
 }
 
 void XlsRows::readBoolErr(std::string_view data)
@@ -125,8 +126,7 @@ bool XlsRows::readRecord()
     if (!m_records.next())
         throw RefusedFile(Refusal::Malformed, "the workbook is cut short");
     const std::string_view data = m_records.data();
-    switch (m_records.type())
-    {
+    switch (m_records.type()) {
     case XlsNumber:
         if (data.size() >= CellHead + 8)
             add(data, RawCell::Kind::Number, littleEndian<double>(data.data() + CellHead), 0);
@@ -154,7 +154,8 @@ bool XlsRows::readRecord()
         readFormula(data);
         break;
     case XlsString:
-        if (std::vector<std::string> &texts = m_nextRow >= 0 ? m_nextTexts : m_texts; !texts.empty())
+        if (std::vector<std::string> &texts = m_nextRow >= 0 ? m_nextTexts : m_texts;
+            !texts.empty())
             texts.back() = xlsText(data, *m_context);
         break;
     case XlsBof: // of a chart inside the sheet
@@ -175,8 +176,7 @@ bool XlsRows::advance()
     m_cells.clear();
     m_texts.clear();
     m_row = m_nextRow;
-    if (m_nextRow >= 0)
-    {
+    if (m_nextRow >= 0) {
         m_cells.swap(m_nextCells);
         m_texts.swap(m_nextTexts);
         m_nextRow = -1;
@@ -191,16 +191,14 @@ bool XlsRows::advance()
 bool XlsRows::hasContent(int lastColumn)
 {
     const RawCell *suspect = nullptr;
-    for (const RawCell &cell : m_cells)
-    {
+    for (const RawCell &cell : m_cells) {
         if (cell.column > lastColumn)
             continue;
-        if (cell.kind == RawCell::Kind::OwnText)
-        {
+        if (cell.kind == RawCell::Kind::OwnText) {
             if (!trimmed(m_texts[cell.index]).empty())
                 return true;
-        }
-        else if (cell.kind != RawCell::Kind::SharedText || (suspect && suspect->index != cell.index))
+        } else if (cell.kind != RawCell::Kind::SharedText ||
+                   (suspect && suspect->index != cell.index))
             return true;
         else
             suspect = &cell;
@@ -219,17 +217,15 @@ void XlsRows::cells(Row &row)
 {
     row.clear();
     row.number = rowNumber();
-    for (const RawCell &raw : m_cells)
-    {
+    for (const RawCell &raw : m_cells) {
         Cell cell = {raw.column, Cell::Kind::Text, {}, 0};
-        switch (raw.kind)
-        {
+        switch (raw.kind) {
         case RawCell::Kind::Number:
             cell.kind = Cell::Kind::Number;
             cell.number = raw.number;
             if (raw.style < m_context->dateStyles.size() && m_context->dateStyles[raw.style])
-                if (std::string date = isoDate(raw.number, m_context->datesFrom1904); !date.empty())
-                {
+                if (std::string date = isoDate(raw.number, m_context->datesFrom1904);
+                    !date.empty()) {
                     cell.kind = Cell::Kind::Date;
                     cell.text = row.keep(std::move(date));
                 }
@@ -254,7 +250,8 @@ void XlsRows::cells(Row &row)
         if (cell.kind == Cell::Kind::Number || !trimmed(cell.text).empty())
             row.cells.push_back(cell);
     }
-    if (!std::is_sorted(row.cells.begin(), row.cells.end(), [](const Cell &a, const Cell &b) { return a.column < b.column; }))
+    if (!std::is_sorted(row.cells.begin(), row.cells.end(),
+                        [](const Cell &a, const Cell &b) { return a.column < b.column; }))
         std::stable_sort(row.cells.begin(), row.cells.end(),
                          [](const Cell &a, const Cell &b) { return a.column < b.column; });
 }

@@ -5,8 +5,7 @@
 
 #include <memory>
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
 /// Rows of one worksheet stream. Cells are expected row by row, as every writer puts them.
 class XlsRows : public RowReader
@@ -43,7 +42,10 @@ private:
     std::shared_ptr<const XlsContext> m_context;
     const std::vector<char> *m_leftOut = nullptr;
 
-    bool leavesOut(size_t column) const { return m_leftOut && column < m_leftOut->size() && (*m_leftOut)[column]; }
+    bool leavesOut(size_t column) const
+    {
+        return m_leftOut && column < m_leftOut->size() && (*m_leftOut)[column];
+    }
     int m_row = -1;
     std::vector<RawCell> m_cells;
     std::vector<std::string> m_texts; ///< own texts of this row

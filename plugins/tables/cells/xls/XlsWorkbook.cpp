@@ -9,11 +9,9 @@
 
 #include <map>
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
-namespace
-{
+namespace {
 
 constexpr uint16_t Biff8 = 0x0600;
 constexpr uint16_t Biff5 = 0x0500;
@@ -22,15 +20,14 @@ constexpr char Worksheet = 0;
 class XlsSheet : public Sheet
 {
 public:
-    XlsSheet(std::shared_ptr<const InputFile> file, std::vector<Extent> stream, std::string name, bool hidden,
-             std::shared_ptr<const XlsContext> context)
+    XlsSheet(std::shared_ptr<const InputFile> file, std::vector<Extent> stream, std::string name,
+             bool hidden, std::shared_ptr<const XlsContext> context)
         : m_file(std::move(file))
         , m_stream(std::move(stream))
         , m_name(std::move(name))
         , m_hidden(hidden)
         , m_context(std::move(context))
-    {
-    }
+    {}
 
     const std::string &name() const override { return m_name; }
     bool hidden() const override { return m_hidden; }
@@ -51,8 +48,7 @@ private:
 /// iconv's name of a Windows code page number.
 std::string codePageName(uint16_t number)
 {
-    switch (number)
-    {
+    switch (number) {
     case 1200:
         return "UTF-16LE";
     case 10000:
@@ -71,25 +67,26 @@ class XlsWorkbook : public Workbook
 {
 public:
     XlsWorkbook(std::shared_ptr<const InputFile> file, std::vector<Extent> stream)
-        : m_file(std::move(file)), m_stream(std::move(stream)), m_context(std::make_shared<XlsContext>())
+        : m_file(std::move(file))
+        , m_stream(std::move(stream))
+        , m_context(std::make_shared<XlsContext>())
     {
         m_context->strings = std::make_shared<XlsStrings>(m_file, m_stream);
         readGlobals();
-        for (size_t style = 0; style < m_styleFormats.size(); ++style)
-        {
+        for (size_t style = 0; style < m_styleFormats.size(); ++style) {
             const auto own = m_formats.find(m_styleFormats[style]);
-            m_context->dateStyles.push_back(own != m_formats.end() ? own->second : isDateFormatId(m_styleFormats[style]));
+            m_context->dateStyles.push_back(
+                own != m_formats.end() ? own->second : isDateFormatId(m_styleFormats[style]));
         }
     }
 
     std::shared_ptr<Sheet> nextSheet() override
     {
-        while (m_next < m_sheets.size())
-        {
+        while (m_next < m_sheets.size()) {
             const SheetEntry &entry = m_sheets[m_next++];
             if (entry.isWorksheet)
-                return std::make_shared<XlsSheet>(m_file, extentsFrom(m_stream, entry.position), entry.name,
-                                                  entry.hidden, m_context);
+                return std::make_shared<XlsSheet>(m_file, extentsFrom(m_stream, entry.position),
+                                                  entry.name, entry.hidden, m_context);
         }
         return nullptr;
     }
@@ -107,14 +104,15 @@ private:
     {
         XlsRecords records(std::make_unique<FileSource>(m_file, m_stream));
         if (!records.next() || records.type() != XlsBof || records.data().size() < 4)
-            throw RefusedFile(Refusal::NotSupportedFormat, "this workbook is older than Excel 5: save it as .xlsx");
+            throw RefusedFile(Refusal::NotSupportedFormat,
+                              "this workbook is older than Excel 5: save it as .xlsx");
         const uint16_t version = u16(records.data().data());
         if (version != Biff8 && version != Biff5)
-            throw RefusedFile(Refusal::NotSupportedFormat, "this workbook is older than Excel 5: save it as .xlsx");
+            throw RefusedFile(Refusal::NotSupportedFormat,
+                              "this workbook is older than Excel 5: save it as .xlsx");
         m_context->isBiff8 = version == Biff8;
         uint64_t start = records.position();
-        while (records.next() && records.type() != XlsEof)
-        {
+        while (records.next() && records.type() != XlsEof) {
             readGlobal(records.type(), records.data(), start);
             start = records.position();
         }
@@ -133,10 +131,11 @@ private:
         else if (type == XlsXf && data.size() >= 4)
             m_styleFormats.push_back(u16(data.data() + 2));
         else if (type == XlsFormat && data.size() > 3)
-            m_formats[u16(data.data())] = isDateFormat(xlsText(data.substr(2), *m_context, !m_context->isBiff8));
+            m_formats[u16(data.data())] =
+                isDateFormat(xlsText(data.substr(2), *m_context, !m_context->isBiff8));
         else if (type == XlsBoundSheet && data.size() > 7)
-            m_sheets.push_back({u32(data.data()), xlsText(data.substr(6), *m_context, true), data[5] == Worksheet,
-                                (data[4] & 3) != 0});
+            m_sheets.push_back({u32(data.data()), xlsText(data.substr(6), *m_context, true),
+                                data[5] == Worksheet, (data[4] & 3) != 0});
     }
 
     std::shared_ptr<const InputFile> m_file;
@@ -156,14 +155,16 @@ std::vector<Extent> workbookStream(const std::shared_ptr<const InputFile> &file)
     for (const char *name : {"Workbook", "Book", "WORKBOOK", "BOOK"})
         if (compound.contains(name))
             return compound.extents(name);
-    throw RefusedFile(Refusal::NotSupportedFormat, "this is an office document, but not a workbook (.xls)");
+    throw RefusedFile(Refusal::NotSupportedFormat,
+                      "this is an office document, but not a workbook (.xls)");
 }
 
 } // namespace
 
 std::unique_ptr<Workbook> openXls(std::shared_ptr<const InputFile> file, bool compound)
 {
-    std::vector<Extent> stream = compound ? workbookStream(file) : std::vector<Extent>{{0, file->size()}};
+    std::vector<Extent> stream =
+        compound ? workbookStream(file) : std::vector<Extent>{{0, file->size()}};
     return std::make_unique<XlsWorkbook>(std::move(file), std::move(stream));
 }
 

@@ -3,8 +3,7 @@
 #include "bytes/InputFile.h"
 #include "cells/RowReader.h"
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
 /// Opens a BIFF8 or BIFF5 workbook, in a compound file or bare. Throws RefusedFile.
 std::unique_ptr<Workbook> openXls(std::shared_ptr<const InputFile> file, bool compound);

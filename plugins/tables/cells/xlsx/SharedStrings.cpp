@@ -8,19 +8,16 @@
 #include <algorithm>
 #include <charconv>
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
-namespace
-{
+namespace {
 
 constexpr size_t EscapeSize = 7; ///< _xHHHH_
 
 /// Replaces _xHHHH_ by the control character it stands for.
 void replaceEscapes(std::string &text)
 {
-    for (size_t at = text.find("_x"); at != std::string::npos; at = text.find("_x", at + 1))
-    {
+    for (size_t at = text.find("_x"); at != std::string::npos; at = text.find("_x", at + 1)) {
         unsigned code = 0;
         if (at + EscapeSize > text.size() || text[at + EscapeSize - 1] != '_')
             continue;
@@ -41,22 +38,18 @@ std::string richText(std::string_view markup)
     XmlTag tag;
     int phonetic = 0;
     const char *open = nullptr;
-    while (cursor.next(tag))
-    {
+    while (cursor.next(tag)) {
         if (tag.opens("rPh") && tag.kind == XmlTag::Kind::Open)
             ++phonetic;
         else if (tag.closes("rPh"))
             --phonetic;
         else if (tag.name == "t" && tag.kind == XmlTag::Kind::Open)
             open = tag.end;
-        else if (tag.kind == XmlTag::Kind::CharacterData && open && phonetic == 0)
-        {
+        else if (tag.kind == XmlTag::Kind::CharacterData && open && phonetic == 0) {
             text += decodeXml({open, static_cast<size_t>(tag.begin - open)});
             text += tag.attributes;
             open = tag.end;
-        }
-        else if (tag.closes("t") && open)
-        {
+        } else if (tag.closes("t") && open) {
             if (phonetic == 0)
                 text += decodeXml({open, static_cast<size_t>(tag.begin - open)});
             open = nullptr;
@@ -70,16 +63,17 @@ std::string richText(std::string_view markup)
 class SharedStrings::Stream
 {
 public:
-    explicit Stream(std::unique_ptr<ByteSource> source) : m_input(std::move(source)), m_at(m_input.begin()) {}
+    explicit Stream(std::unique_ptr<ByteSource> source)
+        : m_input(std::move(source))
+        , m_at(m_input.begin())
+    {}
 
     /// The markup inside the next si element; false at the end.
     bool next(std::string_view &inside)
     {
         XmlTag tag;
-        for (;;)
-        {
-            while (!nextTag(m_at, m_input.end(), tag))
-            {
+        for (;;) {
+            while (!nextTag(m_at, m_input.end(), tag)) {
                 const bool more = m_input.more(tag.begin);
                 m_at = more ? m_input.begin() : m_input.end();
                 if (!more)
@@ -89,8 +83,7 @@ public:
             if (tag.opens("si"))
                 break;
         }
-        if (tag.kind == XmlTag::Kind::Empty)
-        {
+        if (tag.kind == XmlTag::Kind::Empty) {
             inside = {};
             return true;
         }
@@ -104,18 +97,17 @@ private:
             m_closing = "/" + std::string(tag.prefix) + "si>";
         const char *begin = tag.end;
         const char *from = begin;
-        for (;;)
-        {
+        for (;;) {
             const char *found = findText(from, m_input.end(), m_closing);
-            if (found != m_input.end())
-            {
+            if (found != m_input.end()) {
                 inside = {begin, static_cast<size_t>(found - 1 - begin)};
                 m_at = found + m_closing.size();
                 return true;
             }
             const size_t seen = static_cast<size_t>(m_input.end() - begin);
             if (!m_input.more(begin))
-                throw RefusedFile(Refusal::Malformed, "the workbook is damaged: its texts are cut short");
+                throw RefusedFile(Refusal::Malformed,
+                                  "the workbook is damaged: its texts are cut short");
             begin = m_input.begin();
             from = begin + (seen > m_closing.size() ? seen - m_closing.size() : 0);
         }
@@ -127,9 +119,9 @@ private:
 };
 
 SharedStrings::SharedStrings(std::shared_ptr<const ZipArchive> archive, std::string member)
-    : m_archive(std::move(archive)), m_member(std::move(member))
-{
-}
+    : m_archive(std::move(archive))
+    , m_member(std::move(member))
+{}
 
 SharedStrings::~SharedStrings() = default;
 
@@ -144,27 +136,22 @@ void SharedStrings::keepOnly(std::vector<uint64_t> wanted)
 
 void SharedStrings::readUpTo(uint64_t index)
 {
-    if (!m_stream && !m_ended)
-    {
+    if (!m_stream && !m_ended) {
         if (m_member.empty())
             m_ended = true;
         else
             m_stream = std::make_unique<Stream>(m_archive->open(m_member));
     }
     std::string_view inside;
-    while (!m_ended && m_count <= index)
-    {
-        if (!m_stream->next(inside))
-        {
+    while (!m_ended && m_count <= index) {
+        if (!m_stream->next(inside)) {
             m_ended = true;
             m_stream.reset();
             break;
         }
         const uint64_t number = m_count++;
-        if (!m_wanted.empty())
-        {
-            if (m_texts.size() == m_wanted.size())
-            {
+        if (!m_wanted.empty()) {
+            if (m_texts.size() == m_wanted.size()) {
                 m_ended = true; // what follows is not wanted
                 m_stream.reset();
                 break;
@@ -176,8 +163,10 @@ void SharedStrings::readUpTo(uint64_t index)
         constexpr std::string_view Open = "<t>";
         constexpr std::string_view Close = "</t>";
         const bool plain = inside.starts_with(Open) && inside.ends_with(Close);
-        const std::string_view text = plain ? inside.substr(Open.size(), inside.size() - Open.size() - Close.size()) : inside;
-        if (plain && text.find_first_of("<&\r") == std::string_view::npos && text.find("_x") == std::string_view::npos)
+        const std::string_view text =
+            plain ? inside.substr(Open.size(), inside.size() - Open.size() - Close.size()) : inside;
+        if (plain && text.find_first_of("<&\r") == std::string_view::npos &&
+            text.find("_x") == std::string_view::npos)
             m_texts.add(text);
         else
             m_texts.add(richText(inside));
@@ -187,8 +176,7 @@ void SharedStrings::readUpTo(uint64_t index)
 std::string_view SharedStrings::at(uint64_t index)
 {
     size_t place = static_cast<size_t>(index);
-    if (!m_wanted.empty())
-    {
+    if (!m_wanted.empty()) {
         const auto found = std::lower_bound(m_wanted.begin(), m_wanted.end(), index);
         if (found == m_wanted.end() || *found != index)
             return {};

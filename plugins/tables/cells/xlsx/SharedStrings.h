@@ -9,10 +9,10 @@
 #include <string_view>
 #include <vector>
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
-/// The texts that the sheets of an XLSX workbook refer to by number, read as far as they are asked for.
+/// The texts that the sheets of an XLSX workbook refer to by number, read as far as they are asked
+/// for.
 class SharedStrings
 {
 public:
@@ -20,10 +20,12 @@ public:
     SharedStrings(std::shared_ptr<const ZipArchive> archive, std::string member);
     ~SharedStrings();
 
-    /// The text with that number; empty when there is none. Views stay valid for the life of this object.
+    /// The text with that number; empty when there is none. Views stay valid for the life of this
+    /// object.
     std::string_view at(uint64_t index);
 
-    /// Keeps only the texts with these numbers (sorted): for sheets that use few of many. Forgets what was read.
+    /// Keeps only the texts with these numbers (sorted): for sheets that use few of many. Forgets
+    /// what was read.
     void keepOnly(std::vector<uint64_t> wanted);
 
 private:
@@ -34,14 +36,14 @@ private:
     std::shared_ptr<const ZipArchive> m_archive;
     std::string m_member;
     std::unique_ptr<Stream> m_stream;
-    StringPool m_texts;              ///< by number, or by position in m_wanted
-    std::vector<uint64_t> m_wanted;  ///< empty: all
-    uint64_t m_count = 0;            ///< texts that were read
+    StringPool m_texts;             ///< by number, or by position in m_wanted
+    std::vector<uint64_t> m_wanted; ///< empty: all
+    uint64_t m_count = 0;           ///< texts that were read
     bool m_ended = false;
 };
 
-/// Text of a rich-text element (shared string or inline string): its runs joined, phonetic hints left out, _xHHHH_
-/// escapes replaced. Source: ECMA-376, 18.4.8 and 22.9.2.19.
+/// Text of a rich-text element (shared string or inline string): its runs joined, phonetic hints
+/// left out, _xHHHH_ escapes replaced. Source: ECMA-376, 18.4.8 and 22.9.2.19.
 std::string richText(std::string_view markup);
 
 } // namespace vlt::tables

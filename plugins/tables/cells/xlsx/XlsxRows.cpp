@@ -8,11 +8,9 @@
 #include <charconv>
 #include <cstring>
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
-namespace
-{
+namespace {
 
 constexpr XmlRowFramer::Names SheetNames = {"sheetData", "row", "r"};
 
@@ -24,8 +22,7 @@ bool isBlank(char c)
 uint64_t wholeNumber(std::string_view text)
 {
     uint64_t value = 0;
-    for (const char c : text)
-    {
+    for (const char c : text) {
         const auto digit = static_cast<unsigned>(c - '0');
         if (digit > 9)
             break;
@@ -38,8 +35,7 @@ uint64_t wholeNumber(std::string_view text)
 int columnOf(std::string_view reference)
 {
     int column = 0;
-    for (const char c : reference)
-    {
+    for (const char c : reference) {
         const auto letter = static_cast<unsigned>((c & ~0x20) - 'A');
         if (letter >= 26 || column > MostColumns)
             break;
@@ -65,20 +61,19 @@ const char *localName(const char *p, const char *end)
     return name;
 }
 
-/// Reads the attributes of a c element; returns the place behind its ">", or null. `empty` tells "/>".
+/// Reads the attributes of a c element; returns the place behind its ">", or null. `empty` tells
+/// "/>".
 const char *readCellAttributes(const char *p, const char *end, XlsxRawCell &cell, bool &empty)
 {
     empty = false;
-    for (;;)
-    {
+    for (;;) {
         while (p < end && isBlank(*p))
             ++p;
         if (p >= end)
             return nullptr;
         if (*p == '>')
             return p + 1;
-        if (*p == '/')
-        {
+        if (*p == '/') {
             empty = true;
             return p + 1 < end ? p + 2 : nullptr;
         }
@@ -94,12 +89,10 @@ const char *readCellAttributes(const char *p, const char *end, XlsxRawCell &cell
             ++p;
         const std::string_view text(value, static_cast<size_t>(p - value));
         ++p;
-        if (*name == 'r' && name[1] == '=')
-        {
+        if (*name == 'r' && name[1] == '=') {
             if (const int column = columnOf(text); column >= 0)
                 cell.column = column;
-        }
-        else if (*name == 's' && name[1] == '=')
+        } else if (*name == 's' && name[1] == '=')
             cell.style = static_cast<int>(wholeNumber(text));
         else if (*name == 't' && name[1] == '=')
             cell.type = typeOf(text);
@@ -116,8 +109,7 @@ const char *skipTo(const char *p, const char *end, char wanted)
 /// Reads the children of a c element up to its closing tag; returns the place behind it.
 const char *readCellContent(const char *p, const char *end, XlsxRawCell &cell)
 {
-    for (;;)
-    {
+    for (;;) {
         p = skipTo(p, end, '<');
         if (p >= end)
             return end;
@@ -133,23 +125,18 @@ const char *readCellContent(const char *p, const char *end, XlsxRawCell &cell)
         p = std::min(close + 1, end);
         if (closing || close >= end || close[-1] == '/')
             continue;
-        if (local == "v")
-        {
+        if (local == "v") {
             XmlTag tag; // comments and the like may stand before the value
             const char *stop = skipTo(p, end, '<');
-            while (stop == p && nextTag(p, end, tag) && tag.kind == XmlTag::Kind::Other)
-            {
+            while (stop == p && nextTag(p, end, tag) && tag.kind == XmlTag::Kind::Other) {
                 p = tag.end;
                 stop = skipTo(p, end, '<');
             }
             cell.value = {p, static_cast<size_t>(stop - p)};
             p = stop;
-        }
-        else if (local == "is")
-        {
+        } else if (local == "is") {
             const char *stop = p;
-            for (;;)
-            {
+            for (;;) {
                 stop = findText(stop, end, "is>");
                 if (stop == end || stop[-1] == '/' || stop[-1] == ':')
                     break;
@@ -168,18 +155,16 @@ const char *readCellContent(const char *p, const char *end, XlsxRawCell &cell)
 
 bool nextXlsxCell(const char *&at, const char *end, int column, XlsxRawCell &cell)
 {
-    for (;;)
-    {
+    for (;;) {
         const char *p = skipTo(at, end, '<');
-        if (p >= end)
-        {
+        if (p >= end) {
             at = end;
             return false;
         }
         ++p;
         const char *name = *p == 'c' ? p : localName(p, end);
-        if (name + 1 >= end || *name != 'c' || !(isBlank(name[1]) || name[1] == '>' || name[1] == '/') || *p == '/')
-        {
+        if (name + 1 >= end || *name != 'c' ||
+            !(isBlank(name[1]) || name[1] == '>' || name[1] == '/') || *p == '/') {
             at = p;
             continue;
         }
@@ -187,29 +172,24 @@ bool nextXlsxCell(const char *&at, const char *end, int column, XlsxRawCell &cel
         cell.column = column + 1;
         bool empty = false;
         p = readCellAttributes(name + 1, end, cell, empty);
-        if (!p)
-        {
+        if (!p) {
             at = end;
             return false;
         }
         column = cell.column;
-        if (!empty)
-        {
+        if (!empty) {
             constexpr std::string_view Value = "<v>";
             constexpr std::string_view Closing = "</v></c>";
             const char *stop = nullptr;
-            if (end - p > 11 && std::memcmp(p, Value.data(), Value.size()) == 0)
-            {
+            if (end - p > 11 && std::memcmp(p, Value.data(), Value.size()) == 0) {
                 p += Value.size();
                 stop = skipTo(p, end, '<');
             }
             if (stop && static_cast<size_t>(end - stop) >= Closing.size() &&
-                std::memcmp(stop, Closing.data(), Closing.size()) == 0)
-            {
+                std::memcmp(stop, Closing.data(), Closing.size()) == 0) {
                 cell.value = {p, static_cast<size_t>(stop - p)};
                 p = stop + Closing.size();
-            }
-            else
+            } else
                 p = readCellContent(stop ? p - Value.size() : p, end, cell);
         }
         at = p;
@@ -219,38 +199,33 @@ bool nextXlsxCell(const char *&at, const char *end, int column, XlsxRawCell &cel
 }
 
 XlsxRows::XlsxRows(std::unique_ptr<ByteSource> sheet, std::shared_ptr<const XlsxContext> context)
-    : m_framer(std::move(sheet), SheetNames, false, 1, 0), m_context(std::move(context))
-{
-}
+    : m_framer(std::move(sheet), SheetNames, false, 1, 0)
+    , m_context(std::move(context))
+{}
 
 bool XlsxRows::hasContent(int lastColumn)
 {
-    // A shared string that is empty is told from others without reading them all: a row of nothing but empty texts
-    // refers to one and the same string, every other row shows a second value soon.
+    // A shared string that is empty is told from others without reading them all: a row of nothing
+    // but empty texts refers to one and the same string, every other row shows a second value soon.
     const std::string_view inside = m_framer.inside();
     const char *at = inside.data();
     const char *end = at + inside.size();
     XlsxRawCell cell;
     int column = -1;
     std::string_view suspect;
-    while (nextXlsxCell(at, end, column, cell))
-    {
+    while (nextXlsxCell(at, end, column, cell)) {
         column = cell.column;
         if (column > lastColumn)
             continue;
-        if (cell.type == 's')
-        {
+        if (cell.type == 's') {
             if (suspect.empty())
                 suspect = cell.value;
             else if (suspect != cell.value)
                 return true;
-        }
-        else if (cell.type == 'i')
-        {
+        } else if (cell.type == 'i') {
             if (!trimmed(richText(cell.value)).empty())
                 return true;
-        }
-        else if (!trimmed(cell.value).empty())
+        } else if (!trimmed(cell.value).empty())
             return true;
     }
     return !suspect.empty() && !trimmed(m_context->strings->at(wholeNumber(suspect))).empty();
@@ -270,8 +245,7 @@ void XlsxRows::collectSharedStrings(std::vector<uint64_t> &numbers) const
     const char *at = inside.data();
     XlsxRawCell cell;
     int column = -1;
-    while (nextXlsxCell(at, inside.data() + inside.size(), column, cell))
-    {
+    while (nextXlsxCell(at, inside.data() + inside.size(), column, cell)) {
         column = cell.column;
         if (cell.type == 's')
             numbers.push_back(wholeNumber(cell.value));
@@ -281,8 +255,7 @@ void XlsxRows::collectSharedStrings(std::vector<uint64_t> &numbers) const
 bool XlsxRows::convert(const XlsxRawCell &raw, Cell &cell, Row &row) const
 {
     cell = {raw.column, Cell::Kind::Text, raw.value, 0};
-    switch (raw.type)
-    {
+    switch (raw.type) {
     case 's':
         if (leavesOut(static_cast<size_t>(raw.column)))
             return false;
@@ -310,8 +283,7 @@ bool XlsxRows::convert(const XlsxRawCell &raw, Cell &cell, Row &row) const
         if (static_cast<size_t>(raw.style) < m_context->dateStyles.size() &&
             m_context->dateStyles[static_cast<size_t>(raw.style)])
             if (const auto serial = parseNumber(raw.value))
-                if (std::string date = isoDate(*serial, m_context->datesFrom1904); !date.empty())
-                {
+                if (std::string date = isoDate(*serial, m_context->datesFrom1904); !date.empty()) {
                     cell.kind = Cell::Kind::Date;
                     cell.text = row.keep(std::move(date));
                 }
@@ -331,15 +303,15 @@ void XlsxRows::cells(Row &row)
     Cell cell;
     int column = -1;
     bool sorted = true;
-    while (nextXlsxCell(at, end, column, raw))
-    {
+    while (nextXlsxCell(at, end, column, raw)) {
         sorted = sorted && raw.column > column;
         column = raw.column;
         if (convert(raw, cell, row))
             row.cells.push_back(cell);
     }
     if (!sorted)
-        std::stable_sort(row.cells.begin(), row.cells.end(), [](const Cell &a, const Cell &b) { return a.column < b.column; });
+        std::stable_sort(row.cells.begin(), row.cells.end(),
+                         [](const Cell &a, const Cell &b) { return a.column < b.column; });
 }
 
 } // namespace vlt::tables

@@ -4,8 +4,7 @@
 #include "cells/xlsx/SharedStrings.h"
 #include "cells/xml/XmlRowFramer.h"
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
 /// What the cells of an XLSX workbook refer to.
 struct XlsxContext
@@ -19,13 +18,14 @@ struct XlsxContext
 struct XlsxRawCell
 {
     int column = 0;
-    char type = 'n'; ///< n number, s shared string, t formula text, i inline string, b boolean, e error, d date
+    char type = 'n'; ///< n number, s shared string, t formula text, i inline string, b boolean, e
+                     ///< error, d date
     int style = 0;
     std::string_view value; ///< text of v, or the markup inside is
 };
 
-/// Reads the next c element in [at, end) that has a value. `column` is that of the cell before (-1 at first).
-/// False when there is none.
+/// Reads the next c element in [at, end) that has a value. `column` is that of the cell before (-1
+/// at first). False when there is none.
 bool nextXlsxCell(const char *&at, const char *end, int column, XlsxRawCell &cell);
 
 /// Rows of one sheet part.
@@ -51,7 +51,10 @@ private:
     std::shared_ptr<const XlsxContext> m_context;
     const std::vector<char> *m_leftOut = nullptr;
 
-    bool leavesOut(size_t column) const { return m_leftOut && column < m_leftOut->size() && (*m_leftOut)[column]; }
+    bool leavesOut(size_t column) const
+    {
+        return m_leftOut && column < m_leftOut->size() && (*m_leftOut)[column];
+    }
 };
 
 } // namespace vlt::tables

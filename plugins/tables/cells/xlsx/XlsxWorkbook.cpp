@@ -10,14 +10,13 @@
 #include <charconv>
 #include <map>
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
-namespace
-{
+namespace {
 
-constexpr size_t LargestPart = size_t{64} << 20; ///< of the small parts: workbook, relations, styles
-constexpr uint64_t FewStrings = 4096;            ///< a sheet that uses fewer is searched for them first
+constexpr size_t LargestPart = size_t{64}
+                               << 20; ///< of the small parts: workbook, relations, styles
+constexpr uint64_t FewStrings = 4096; ///< a sheet that uses fewer is searched for them first
 
 /// How the parts of a package refer to each other.
 struct Relation
@@ -35,10 +34,10 @@ std::string directoryOf(const std::string &part)
 /// Part name of a relation's target as seen from `part`; "." and ".." resolved.
 std::string resolved(const std::string &part, const std::string &target)
 {
-    const std::string whole = target.starts_with('/') ? target.substr(1) : directoryOf(part) + target;
+    const std::string whole =
+        target.starts_with('/') ? target.substr(1) : directoryOf(part) + target;
     std::vector<std::string> steps;
-    for (size_t at = 0; at <= whole.size();)
-    {
+    for (size_t at = 0; at <= whole.size();) {
         const size_t slash = std::min(whole.find('/', at), whole.size());
         const std::string step = whole.substr(at, slash - at);
         if (step == ".." && !steps.empty())
@@ -63,8 +62,7 @@ std::map<std::string, Relation> readRelations(const ZipArchive &archive, const s
     const std::string text = archive.readAll(name, LargestPart);
     XmlCursor cursor(text);
     XmlTag tag;
-    while (cursor.next(tag))
-    {
+    while (cursor.next(tag)) {
         const auto id = tag.opens("Relationship") ? attribute(tag.attributes, "Id") : std::nullopt;
         const auto type = attribute(tag.attributes, "Type");
         const auto target = attribute(tag.attributes, "Target");
@@ -91,17 +89,14 @@ std::vector<bool> readDateStyles(const std::string &text)
     XmlCursor cursor(text);
     XmlTag tag;
     bool inCellFormats = false;
-    while (cursor.next(tag))
-    {
-        if (tag.opens("numFmt"))
-        {
+    while (cursor.next(tag)) {
+        if (tag.opens("numFmt")) {
             const auto code = attribute(tag.attributes, "formatCode");
-            ownFormats[number(attribute(tag.attributes, "numFmtId"))] = code && isDateFormat(decodeXml(*code));
-        }
-        else if (tag.name == "cellXfs")
+            ownFormats[number(attribute(tag.attributes, "numFmtId"))] =
+                code && isDateFormat(decodeXml(*code));
+        } else if (tag.name == "cellXfs")
             inCellFormats = tag.kind == XmlTag::Kind::Open;
-        else if (inCellFormats && tag.opens("xf"))
-        {
+        else if (inCellFormats && tag.opens("xf")) {
             const int id = number(attribute(tag.attributes, "numFmtId"));
             const auto own = ownFormats.find(id);
             styles.push_back(own != ownFormats.end() ? own->second : isDateFormatId(id));
@@ -113,15 +108,14 @@ std::vector<bool> readDateStyles(const std::string &text)
 class XlsxSheet : public Sheet
 {
 public:
-    XlsxSheet(std::shared_ptr<const ZipArchive> archive, std::string part, std::string name, bool hidden,
-              std::shared_ptr<const XlsxContext> context)
+    XlsxSheet(std::shared_ptr<const ZipArchive> archive, std::string part, std::string name,
+              bool hidden, std::shared_ptr<const XlsxContext> context)
         : m_archive(std::move(archive))
         , m_part(std::move(part))
         , m_name(std::move(name))
         , m_hidden(hidden)
         , m_context(std::move(context))
-    {
-    }
+    {}
 
     const std::string &name() const override { return m_name; }
     bool hidden() const override { return m_hidden; }
@@ -131,7 +125,8 @@ public:
         return std::make_unique<XlsxRows>(openPart(), m_context);
     }
 
-    /// A small sheet may come with a huge list of texts, of which it uses few: only those are then kept.
+    /// A small sheet may come with a huge list of texts, of which it uses few: only those are then
+    /// kept.
     void prepareStrings(uint64_t rowCount) const override
     {
         if (rowCount > FewStrings)
@@ -177,12 +172,12 @@ public:
         const std::map<std::string, Relation> relations = readRelations(*m_archive, main);
         auto context = std::make_shared<XlsxContext>();
         std::string strings;
-        for (const auto &[id, relation] : relations)
-        {
+        for (const auto &[id, relation] : relations) {
             if (relation.type == "sharedStrings")
                 strings = relation.target;
             else if (relation.type == "styles" && m_archive->contains(relation.target))
-                context->dateStyles = readDateStyles(m_archive->readAll(relation.target, LargestPart));
+                context->dateStyles =
+                    readDateStyles(m_archive->readAll(relation.target, LargestPart));
         }
         if (!strings.empty() && !m_archive->contains(strings))
             strings.clear();
@@ -199,8 +194,7 @@ private:
     std::string mainPart() const
     {
         for (const auto &[id, relation] : readRelations(*m_archive, ""))
-            if (relation.type == "officeDocument")
-            {
+            if (relation.type == "officeDocument") {
                 if (!relation.target.ends_with(".xml")) // .xlsb keeps binary parts
                     throw RefusedFile(Refusal::NotSupportedFormat,
                                       "this is a binary workbook (.xlsb): save it as .xlsx");
@@ -211,8 +205,10 @@ private:
         if (m_archive->contains("xl/workbook.xml"))
             return "xl/workbook.xml";
         if (m_archive->contains("mimetype") && m_archive->contains("content.xml"))
-            throw RefusedFile(Refusal::NotSupportedFormat, "this is an OpenDocument file: save it as .xlsx or .csv");
-        throw RefusedFile(Refusal::NotSupportedFormat, "this is an archive, but not a workbook (.xlsx)");
+            throw RefusedFile(Refusal::NotSupportedFormat,
+                              "this is an OpenDocument file: save it as .xlsx or .csv");
+        throw RefusedFile(Refusal::NotSupportedFormat,
+                          "this is an archive, but not a workbook (.xlsx)");
     }
 
     void readSheets(const std::string &workbook, const std::map<std::string, Relation> &relations,
@@ -220,10 +216,8 @@ private:
     {
         XmlCursor cursor(workbook);
         XmlTag tag;
-        while (cursor.next(tag))
-        {
-            if (tag.opens("workbookPr"))
-            {
+        while (cursor.next(tag)) {
+            if (tag.opens("workbookPr")) {
                 const auto from1904 = attribute(tag.attributes, "date1904");
                 context->datesFrom1904 = from1904 && (*from1904 == "1" || *from1904 == "true");
             }

@@ -3,8 +3,7 @@
 #include "bytes/InputFile.h"
 #include "cells/RowReader.h"
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
 /// Opens an Office Open XML workbook (ECMA-376, transitional or strict), with or without macros.
 /// Throws RefusedFile.

@@ -5,11 +5,9 @@
 #include <algorithm>
 #include <cstring>
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
-namespace
-{
+namespace {
 
 constexpr XmlRowFramer::Names TableNames = {"Table", "Row", "Index"};
 constexpr std::string_view MidnightSuffix = "T00:00:00.000";
@@ -27,8 +25,7 @@ int wholeNumber(std::optional<std::string_view> text, int otherwise)
     if (!text || text->empty())
         return otherwise;
     int value = 0;
-    for (const char c : *text)
-    {
+    for (const char c : *text) {
         if (c < '0' || c > '9' || value > MostColumns)
             return otherwise;
         value = value * 10 + (c - '0');
@@ -43,8 +40,7 @@ std::string dataText(std::string_view markup)
     const char *at = markup.data();
     const char *end = at + markup.size();
     XmlTag tag;
-    while (nextTag(at, end, tag))
-    {
+    while (nextTag(at, end, tag)) {
         text += decodeXml({at, static_cast<size_t>(tag.begin - at)});
         if (tag.kind == XmlTag::Kind::CharacterData)
             text += tag.attributes;
@@ -61,8 +57,7 @@ public:
 
     bool next(RawCell &cell)
     {
-        for (;;)
-        {
+        for (;;) {
             if (readPlain(cell))
                 return true;
             XmlTag tag;
@@ -81,8 +76,7 @@ private:
     void beginCell(std::string_view attributes)
     {
         m_column = m_nextColumn;
-        if (attributes.empty())
-        {
+        if (attributes.empty()) {
             ++m_nextColumn;
             return;
         }
@@ -111,7 +105,8 @@ private:
         p = text;
         while (p < m_end && *p != '<')
             ++p;
-        if (static_cast<size_t>(m_end - p) < Close.size() || std::memcmp(p, Close.data(), Close.size()) != 0)
+        if (static_cast<size_t>(m_end - p) < Close.size() ||
+            std::memcmp(p, Close.data(), Close.size()) != 0)
             return false;
         m_at = p + Close.size();
         m_column = m_nextColumn++;
@@ -119,28 +114,27 @@ private:
         return m_column < MostColumns;
     }
 
-    /// Looks for the Data child of an open Cell; comments have Data of their own. True with one that is not empty.
+    /// Looks for the Data child of an open Cell; comments have Data of their own. True with one
+    /// that is not empty.
     bool findData(RawCell &cell)
     {
         XmlTag tag;
         bool found = false;
         const char *inside = nullptr;
         int comment = 0;
-        while (nextTag(m_at, m_end, tag))
-        {
+        while (nextTag(m_at, m_end, tag)) {
             m_at = tag.end;
             if (tag.closes("Cell"))
                 break;
             if (tag.name == "Comment")
-                comment += tag.kind == XmlTag::Kind::Open ? 1 : tag.kind == XmlTag::Kind::Close ? -1 : 0;
-            else if (comment == 0 && tag.name == "Data" && tag.kind == XmlTag::Kind::Open)
-            {
+                comment += tag.kind == XmlTag::Kind::Open    ? 1
+                           : tag.kind == XmlTag::Kind::Close ? -1
+                                                             : 0;
+            else if (comment == 0 && tag.name == "Data" && tag.kind == XmlTag::Kind::Open) {
                 const auto type = attribute(tag.attributes, "Type");
                 cell.type = type && !type->empty() ? type->front() : 'S';
                 inside = tag.end;
-            }
-            else if (comment == 0 && tag.closes("Data") && inside)
-            {
+            } else if (comment == 0 && tag.closes("Data") && inside) {
                 cell.markup = {inside, static_cast<size_t>(tag.begin - inside)};
                 found = true;
                 inside = nullptr;
@@ -168,11 +162,10 @@ bool isBlankMarkup(std::string_view markup)
 
 } // namespace
 
-SpreadsheetMlRows::SpreadsheetMlRows(std::unique_ptr<ByteSource> stream, bool insideTable, int64_t firstRow,
-                                     uint64_t streamOffset)
+SpreadsheetMlRows::SpreadsheetMlRows(std::unique_ptr<ByteSource> stream, bool insideTable,
+                                     int64_t firstRow, uint64_t streamOffset)
     : m_framer(std::move(stream), TableNames, insideTable, firstRow, streamOffset)
-{
-}
+{}
 
 bool SpreadsheetMlRows::hasContent(int lastColumn)
 {
@@ -198,25 +191,24 @@ void SpreadsheetMlRows::cells(Row &row)
     CellCursor cursor(m_framer.inside());
     RawCell raw;
     bool sorted = true;
-    while (cursor.next(raw))
-    {
+    while (cursor.next(raw)) {
         Cell cell = {raw.column, Cell::Kind::Text, raw.markup, 0};
         if (!isPlain(raw.markup))
             cell.text = row.keep(dataText(raw.markup));
         const std::string_view text = trimmed(cell.text);
         if (text.empty())
             continue;
-        switch (raw.type)
-        {
+        switch (raw.type) {
         case 'N':
             cell.kind = Cell::Kind::Number;
             cell.text = text;
             break;
         case 'D':
             cell.kind = Cell::Kind::Date;
-            cell.text = text.ends_with(MidnightSuffix) ? text.substr(0, text.size() - MidnightSuffix.size())
-                        : text.ends_with(".000")       ? text.substr(0, text.size() - 4)
-                                                       : text;
+            cell.text = text.ends_with(MidnightSuffix)
+                            ? text.substr(0, text.size() - MidnightSuffix.size())
+                        : text.ends_with(".000") ? text.substr(0, text.size() - 4)
+                                                 : text;
             break;
         case 'B':
             cell.kind = Cell::Kind::Boolean;

@@ -3,16 +3,16 @@
 #include "cells/RowReader.h"
 #include "cells/xml/XmlRowFramer.h"
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
 /// Rows of one worksheet of a SpreadsheetML 2003 file.
 class SpreadsheetMlRows : public RowReader
 {
 public:
-    /// The stream starts at `streamOffset`: before the worksheet's Table, or with `insideTable` at a row, which is
-    /// then number `firstRow`.
-    SpreadsheetMlRows(std::unique_ptr<ByteSource> stream, bool insideTable, int64_t firstRow, uint64_t streamOffset);
+    /// The stream starts at `streamOffset`: before the worksheet's Table, or with `insideTable` at
+    /// a row, which is then number `firstRow`.
+    SpreadsheetMlRows(std::unique_ptr<ByteSource> stream, bool insideTable, int64_t firstRow,
+                      uint64_t streamOffset);
 
     bool advance() override { return m_framer.advance(); }
     int64_t rowNumber() const override { return m_framer.rowNumber(); }

@@ -8,11 +8,9 @@
 
 #include <algorithm>
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
-namespace
-{
+namespace {
 
 constexpr size_t HeadSize = 4096;
 constexpr char WebPage[] = "this is a web page, not a workbook: save it as .xlsx or .csv";
@@ -30,14 +28,15 @@ struct XmlFile
     std::unique_ptr<ByteSource> from(uint64_t offset) const
     {
         const uint64_t start = markSize + (canJump() ? offset : 0);
-        auto bytes = std::make_unique<FileSource>(file, std::vector<Extent>{{start, file->size() - start}});
+        auto bytes =
+            std::make_unique<FileSource>(file, std::vector<Extent>{{start, file->size() - start}});
         if (canJump())
             return bytes;
         auto decoded = std::make_unique<RecodeSource>(std::move(bytes), encoding);
         std::vector<char> skipped(size_t{64} << 10);
-        while (offset > 0)
-        {
-            const size_t got = decoded->read(skipped.data(), static_cast<size_t>(std::min<uint64_t>(offset, skipped.size())));
+        while (offset > 0) {
+            const size_t got = decoded->read(
+                skipped.data(), static_cast<size_t>(std::min<uint64_t>(offset, skipped.size())));
             if (got == 0)
                 break;
             offset -= got;
@@ -50,9 +49,11 @@ class SpreadsheetMlSheet : public Sheet
 {
 public:
     SpreadsheetMlSheet(XmlFile file, uint64_t offset, std::string name, bool hidden)
-        : m_file(std::move(file)), m_offset(offset), m_name(std::move(name)), m_hidden(hidden)
-    {
-    }
+        : m_file(std::move(file))
+        , m_offset(offset)
+        , m_name(std::move(name))
+        , m_hidden(hidden)
+    {}
 
     const std::string &name() const override { return m_name; }
     bool hidden() const override { return m_hidden; }
@@ -65,7 +66,8 @@ public:
     {
         if (!m_file.canJump())
             return nullptr;
-        return std::make_unique<SpreadsheetMlRows>(m_file.from(position), true, rowNumber, position);
+        return std::make_unique<SpreadsheetMlRows>(m_file.from(position), true, rowNumber,
+                                                   position);
     }
 
 private:
@@ -86,27 +88,26 @@ public:
         ChunkedInput input(m_file.from(m_offset));
         const char *at = input.begin();
         uint64_t windowOffset = m_offset;
-        for (;;)
-        {
+        for (;;) {
             XmlTag tag;
             const char *found = findText(at, input.end(), "Worksheet");
             const char *open = found;
             while (found != input.end() && open > input.begin() && *open != '<')
                 --open;
-            if (found != input.end() && nextTag(open, input.end(), tag) && tag.begin == open)
-            {
+            if (found != input.end() && nextTag(open, input.end(), tag) && tag.begin == open) {
                 at = tag.end;
                 if (!tag.opens("Worksheet"))
                     continue;
                 m_offset = windowOffset + static_cast<uint64_t>(tag.end - input.begin());
                 const auto name = attribute(tag.attributes, "Name");
                 if (tag.kind == XmlTag::Kind::Open)
-                    return std::make_shared<SpreadsheetMlSheet>(m_file, m_offset, name ? decodeXml(*name) : "Sheet",
-                                                                false);
+                    return std::make_shared<SpreadsheetMlSheet>(
+                        m_file, m_offset, name ? decodeXml(*name) : "Sheet", false);
                 continue;
             }
             const size_t window = static_cast<size_t>(input.end() - input.begin());
-            const char *keep = found != input.end() ? open : input.end() - std::min(window, HeadSize);
+            const char *keep =
+                found != input.end() ? open : input.end() - std::min(window, HeadSize);
             windowOffset += static_cast<uint64_t>(keep - input.begin());
             if (!input.more(keep))
                 return nullptr;
@@ -157,15 +158,15 @@ std::unique_ptr<Workbook> openSpreadsheetMl(std::shared_ptr<const InputFile> fil
     std::string start(HeadSize, '\0');
     const std::unique_ptr<ByteSource> source = xml.from(0);
     size_t size = 0;
-    while (const size_t got = size < start.size() ? source->read(start.data() + size, start.size() - size) : 0)
+    while (const size_t got =
+               size < start.size() ? source->read(start.data() + size, start.size() - size) : 0)
         size += got;
     start.resize(size);
     if (uppercase(start.substr(0, 256)).find("<!DOCTYPE HTML") != std::string::npos)
         throw RefusedFile(Refusal::NotSupportedFormat, WebPage);
     XmlCursor cursor(start);
     XmlTag tag;
-    while (cursor.next(tag))
-    {
+    while (cursor.next(tag)) {
         if (tag.kind != XmlTag::Kind::Open && tag.kind != XmlTag::Kind::Empty)
             continue;
         if (tag.name == "Workbook" && tag.attributes.find(Namespace) != std::string_view::npos)
@@ -173,8 +174,10 @@ std::unique_ptr<Workbook> openSpreadsheetMl(std::shared_ptr<const InputFile> fil
         const std::string name = uppercase(std::string(tag.name));
         if (name == "HTML" || name == "TABLE" || name == "HEAD" || name == "BODY" || name == "META")
             throw RefusedFile(Refusal::NotSupportedFormat, WebPage);
-        throw RefusedFile(Refusal::NotSupportedFormat, "this XML file is not a SpreadsheetML 2003 workbook: its root element is <" +
-                                                           std::string(tag.name) + ">");
+        throw RefusedFile(
+            Refusal::NotSupportedFormat,
+            "this XML file is not a SpreadsheetML 2003 workbook: its root element is <" +
+                std::string(tag.name) + ">");
     }
     throw RefusedFile(Refusal::Malformed, "the XML file has no root element");
 }

@@ -3,10 +3,10 @@
 #include "bytes/InputFile.h"
 #include "cells/RowReader.h"
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
-/// Opens a SpreadsheetML 2003 file in any encoding. Throws RefusedFile, also for XML of another kind.
+/// Opens a SpreadsheetML 2003 file in any encoding. Throws RefusedFile, also for XML of another
+/// kind.
 std::unique_ptr<Workbook> openSpreadsheetMl(std::shared_ptr<const InputFile> file);
 
 } // namespace vlt::tables

@@ -5,24 +5,21 @@
 
 #include <charconv>
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
-XmlRowFramer::XmlRowFramer(std::unique_ptr<ByteSource> source, const Names &names, bool insideContainer,
-                           int64_t firstRow, uint64_t streamOffset)
+XmlRowFramer::XmlRowFramer(std::unique_ptr<ByteSource> source, const Names &names,
+                           bool insideContainer, int64_t firstRow, uint64_t streamOffset)
     : m_input(std::move(source))
     , m_names(names)
     , m_windowOffset(streamOffset)
     , m_at(m_input.begin())
     , m_nextRow(firstRow)
     , m_entered(insideContainer)
-{
-}
+{}
 
 bool XmlRowFramer::readTag(XmlTag &tag)
 {
-    while (!nextTag(m_at, m_input.end(), tag))
-    {
+    while (!nextTag(m_at, m_input.end(), tag)) {
         m_windowOffset += static_cast<uint64_t>(tag.begin - m_input.begin());
         const bool more = m_input.more(tag.begin);
         m_at = more ? m_input.begin() : m_input.end();
@@ -37,8 +34,7 @@ bool XmlRowFramer::enterContainer()
 {
     XmlTag tag;
     while (readTag(tag))
-        if (tag.opens(m_names.container))
-        {
+        if (tag.opens(m_names.container)) {
             m_entered = true;
             return tag.kind == XmlTag::Kind::Open;
         }
@@ -47,16 +43,13 @@ bool XmlRowFramer::enterContainer()
 
 bool XmlRowFramer::advance()
 {
-    if (m_done || (!m_entered && !enterContainer()))
-    {
+    if (m_done || (!m_entered && !enterContainer())) {
         m_done = true;
         return false;
     }
     XmlTag tag;
-    while (readTag(tag))
-    {
-        if (tag.closes(m_names.container))
-        {
+    while (readTag(tag)) {
+        if (tag.closes(m_names.container)) {
             m_done = true;
             return false;
         }
@@ -77,8 +70,7 @@ bool XmlRowFramer::advance()
 
 void XmlRowFramer::findRowEnd(const XmlTag &tag)
 {
-    if (m_closing.empty() || m_prefix != tag.prefix)
-    {
+    if (m_closing.empty() || m_prefix != tag.prefix) {
         m_prefix = tag.prefix;
         m_closing = "</" + m_prefix + std::string(m_names.row);
     }
@@ -86,15 +78,14 @@ void XmlRowFramer::findRowEnd(const XmlTag &tag)
     const char *row = tag.begin;
     const size_t openingSize = static_cast<size_t>(tag.end - tag.begin);
     const char *from = tag.end;
-    for (;;)
-    {
+    for (;;) {
         // "/r" is rarer than "</", which every cell has
         const char *found = findText(from, m_input.end(), std::string_view(m_closing).substr(1));
         const char *after = found + m_closing.size() - 1;
-        if (found != m_input.end() && after < m_input.end())
-        {
+        if (found != m_input.end() && after < m_input.end()) {
             from = after;
-            if (found[-1] != '<' || (*after != '>' && *after != ' ' && *after != '\n' && *after != '\r' && *after != '\t'))
+            if (found[-1] != '<' || (*after != '>' && *after != ' ' && *after != '\n' &&
+                                     *after != '\r' && *after != '\t'))
                 continue; // </rowBreaks>
             m_inside = row + openingSize;
             m_rowEnd = found - 1;
@@ -104,7 +95,8 @@ void XmlRowFramer::findRowEnd(const XmlTag &tag)
         const size_t seen = static_cast<size_t>(m_input.end() - row);
         m_windowOffset += static_cast<uint64_t>(row - m_input.begin());
         if (!m_input.more(row))
-            throw RefusedFile(Refusal::Malformed, "the file is cut short in row " + std::to_string(m_rowNumber));
+            throw RefusedFile(Refusal::Malformed,
+                              "the file is cut short in row " + std::to_string(m_rowNumber));
         row = m_input.begin();
         const size_t overlap = m_closing.size();
         from = row + std::max(openingSize, seen > overlap ? seen - overlap : 0);

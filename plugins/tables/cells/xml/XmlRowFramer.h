@@ -7,8 +7,7 @@
 #include <string>
 #include <string_view>
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
 /// Finds the row elements of a sheet in a stream of XML without looking into them.
 class XmlRowFramer
@@ -22,10 +21,10 @@ public:
         std::string_view number;
     };
 
-    /// With `insideContainer` the stream starts among the rows, the first of which is number `firstRow` unless it
-    /// says otherwise; otherwise it starts somewhere before the container.
-    XmlRowFramer(std::unique_ptr<ByteSource> source, const Names &names, bool insideContainer, int64_t firstRow,
-                 uint64_t streamOffset);
+    /// With `insideContainer` the stream starts among the rows, the first of which is number
+    /// `firstRow` unless it says otherwise; otherwise it starts somewhere before the container.
+    XmlRowFramer(std::unique_ptr<ByteSource> source, const Names &names, bool insideContainer,
+                 int64_t firstRow, uint64_t streamOffset);
 
     /// Goes to the next row element that is not empty.
     bool advance();

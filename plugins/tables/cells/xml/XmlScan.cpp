@@ -7,11 +7,9 @@
 #include <cstdint>
 #include <cstring>
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
-namespace
-{
+namespace {
 
 constexpr uint32_t LastCodePoint = 0x10FFFF;
 
@@ -24,19 +22,14 @@ void appendUtf8(std::string &to, uint32_t code)
 {
     if (code < 0x80)
         to += static_cast<char>(code);
-    else if (code < 0x800)
-    {
+    else if (code < 0x800) {
         to += static_cast<char>(0xC0 | code >> 6);
         to += static_cast<char>(0x80 | (code & 0x3F));
-    }
-    else if (code < 0x10000)
-    {
+    } else if (code < 0x10000) {
         to += static_cast<char>(0xE0 | code >> 12);
         to += static_cast<char>(0x80 | (code >> 6 & 0x3F));
         to += static_cast<char>(0x80 | (code & 0x3F));
-    }
-    else
-    {
+    } else {
         to += static_cast<char>(0xF0 | code >> 18);
         to += static_cast<char>(0x80 | (code >> 12 & 0x3F));
         to += static_cast<char>(0x80 | (code >> 6 & 0x3F));
@@ -53,8 +46,7 @@ bool appendEntity(std::string &to, std::string_view name)
         char character;
     } Known[] = {{"amp", '&'}, {"lt", '<'}, {"gt", '>'}, {"quot", '"'}, {"apos", '\''}};
     for (const auto &entity : Known)
-        if (entity.name == name)
-        {
+        if (entity.name == name) {
             to += entity.character;
             return true;
         }
@@ -83,8 +75,9 @@ bool readSpecial(const char *end, XmlTag &tag)
     else if (rest.starts_with("<?"))
         closing = "?>";
     else if (rest.starts_with("<!DOCTYPE"))
-        throw RefusedFile(Refusal::DocumentType,
-                          "the XML file declares a document type, which tables do not need and attacks do");
+        throw RefusedFile(
+            Refusal::DocumentType,
+            "the XML file declares a document type, which tables do not need and attacks do");
     const size_t stop = rest.find(closing, 2);
     if (stop == std::string_view::npos || (rest.size() < 9 && rest.starts_with("<!")))
         return false;
@@ -108,15 +101,13 @@ bool nextTag(const char *at, const char *end, XmlTag &tag)
     if (*p == '!' || *p == '?')
         return readSpecial(end, tag);
     tag.kind = XmlTag::Kind::Open;
-    if (*p == '/')
-    {
+    if (*p == '/') {
         tag.kind = XmlTag::Kind::Close;
         ++p;
     }
     const char *name = p;
     const char *local = p;
-    while (p < end && !isBlank(*p) && *p != '>' && *p != '/')
-    {
+    while (p < end && !isBlank(*p) && *p != '>' && *p != '/') {
         if (*p == ':')
             local = p + 1;
         ++p;
@@ -131,8 +122,7 @@ bool nextTag(const char *at, const char *end, XmlTag &tag)
     if (p >= end)
         return false;
     tag.attributes = {attributes, static_cast<size_t>(p - attributes)};
-    if (tag.kind == XmlTag::Kind::Open && p[-1] == '/')
-    {
+    if (tag.kind == XmlTag::Kind::Open && p[-1] == '/') {
         tag.kind = XmlTag::Kind::Empty;
         if (!tag.attributes.empty())
             tag.attributes.remove_suffix(1);
@@ -145,13 +135,11 @@ std::optional<std::string_view> attribute(std::string_view attributes, std::stri
 {
     const char *p = attributes.data();
     const char *end = p + attributes.size();
-    for (;;)
-    {
+    for (;;) {
         while (p < end && isBlank(*p))
             ++p;
         const char *local = p;
-        while (p < end && *p != '=')
-        {
+        while (p < end && *p != '=') {
             if (*p == ':')
                 local = p + 1;
             ++p;
@@ -183,17 +171,15 @@ std::string decodeXml(std::string_view text)
 {
     std::string result;
     result.reserve(text.size());
-    for (size_t at = 0; at < text.size(); ++at)
-    {
+    for (size_t at = 0; at < text.size(); ++at) {
         const size_t semicolon = text[at] == '&' ? text.find(';', at) : std::string_view::npos;
-        if (semicolon != std::string_view::npos && appendEntity(result, text.substr(at + 1, semicolon - at - 1)))
+        if (semicolon != std::string_view::npos &&
+            appendEntity(result, text.substr(at + 1, semicolon - at - 1)))
             at = semicolon;
-        else if (text[at] == '\r')
-        {
+        else if (text[at] == '\r') {
             if (at + 1 == text.size() || text[at + 1] != '\n')
                 result += '\n';
-        }
-        else
+        } else
             result += text[at];
     }
     return result;

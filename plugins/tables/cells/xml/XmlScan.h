@@ -4,14 +4,12 @@
 #include <string>
 #include <string_view>
 
-namespace vlt::tables
-{
+namespace vlt::tables {
 
 /// One piece of markup. Names are local names: office files differ in their prefixes.
 struct XmlTag
 {
-    enum class Kind
-    {
+    enum class Kind {
         Open,
         Empty,
         Close,
@@ -30,12 +28,15 @@ struct XmlTag
     {
         return (kind == Kind::Open || kind == Kind::Empty) && name == localName;
     }
-    bool closes(std::string_view localName) const { return kind == Kind::Close && name == localName; }
+    bool closes(std::string_view localName) const
+    {
+        return kind == Kind::Close && name == localName;
+    }
 };
 
-/// Reads the next piece of markup at or after `at`. False when none is complete before `end`; tag.begin is then
-/// where the incomplete one starts, or `end`. Throws RefusedFile (DocumentType) at a document type declaration:
-/// entities are never defined, let alone fetched.
+/// Reads the next piece of markup at or after `at`. False when none is complete before `end`;
+/// tag.begin is then where the incomplete one starts, or `end`. Throws RefusedFile (DocumentType)
+/// at a document type declaration: entities are never defined, let alone fetched.
 bool nextTag(const char *at, const char *end, XmlTag &tag);
 
 /// Value of an attribute by its local name, entities undecoded; nothing when it is not there.
@@ -43,14 +44,16 @@ std::optional<std::string_view> attribute(std::string_view attributes, std::stri
 
 /// Whether a text holds something that decodeXml() would change.
 bool needsDecoding(std::string_view text);
-/// A text with the predefined entities and character references replaced, line ends normalised to LF.
+/// A text with the predefined entities and character references replaced, line ends normalised to
+/// LF.
 std::string decodeXml(std::string_view text);
 
 /// Walks over the tags of a whole document part in memory.
 class XmlCursor
 {
 public:
-    explicit XmlCursor(std::string_view text) : m_at(text.data()), m_end(text.data() + text.size()) {}
+    explicit XmlCursor(std::string_view text) : m_at(text.data()), m_end(text.data() + text.size())
+    {}
 
     bool next(XmlTag &tag);
 

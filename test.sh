@@ -1,0 +1,28 @@
+#!/bin/bash
+# Builds everything and runs every test.
+set -euo pipefail
+cd "$(dirname "$0")"
+source tools/prepare.sh
+
+usage="usage: ./test.sh [--sanitize | --tidy]
+Installs what is missing, builds and runs all tests. A second run takes seconds.
+  --sanitize  the same with the address and undefined behaviour sanitizers
+  --tidy      clang-tidy over every source instead of the tests"
+
+preset=dev
+case ${1:-} in
+    "") ;;
+    --sanitize) preset=asan ;;
+    --tidy) preset=tidy ;;
+    --help | -h) echo "$usage"; exit 0 ;;
+    *) echo "$usage" >&2; exit 2 ;;
+esac
+
+packages=("${buildPackages[@]}" "${testPackages[@]}")
+[[ $preset == tidy ]] && packages+=(clang-14 clang-tidy-14)
+prepare "${packages[@]}"
+
+echo "Configuring and building (preset $preset) ..."
+cmake --preset "$preset" >/dev/null
+cmake --build --preset "$preset"
+[[ $preset == tidy ]] || ctest --preset "$preset"

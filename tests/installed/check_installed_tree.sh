@@ -1,0 +1,36 @@
+#!/bin/bash
+# Installs the build, moves the tree to a folder with an awkward name, leaves the project's directory and works there:
+# layers of the same table in four formats, GDAL's own programs with the driver.
+set -euo pipefail
+cmake=$1
+build=$2
+
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+fail() { echo "FAILED: $*" >&2; exit 1; }
+
+"$cmake" --install "$build" --prefix "$work/first" >/dev/null
+tree="$work/moved, 100% d'été"
+mv "$work/first" "$tree"
+for part in vltlayers driver/ogr_VltTables.so addons/telecom/pylons/list.xml addons/telecom/MESSAGES/telecom_fr.ts \
+    MESSAGES/veltaro_en.ts VltSrsUtils.ini setup_env.ini examples/lorient/city.gvw share/man/man1/vltlayers.1; do
+    [[ -f $tree/$part ]] || fail "$part is not installed"
+done
+
+cd /
+samples=$tree/examples/lorient
+for kind in csv xlsx xls xml; do
+    "$tree/vltlayers" site "$samples/sites.$kind" --project "$samples/city.gvw" -o "$work/$kind.lay" --quiet ||
+        fail "no layer of sites.$kind"
+    # Spreadsheets call the layer by the sheet, texts by the file; nothing else may differ.
+    sed -E "s/sites\.$kind/sites.TABLE/; s#<layer><!\[CDATA\[[^]]*#<layer><![CDATA[NAME#" "$work/$kind.lay" >"$work/$kind.same"
+    cmp "$work/csv.same" "$work/$kind.same" || fail "the layer of sites.$kind differs"
+done
+grep -qF 'transmitter_scale=100,lods=10000 1000,sites.csv' "$work/csv.lay" || fail "the query does not end in the table"
+grep -qF '[Site ID]' "$work/csv.lay" || fail "the information page lacks the table's columns"
+
+export GDAL_DRIVER_PATH=$tree/driver
+ogrinfo -al -so "site:$samples/sites.csv" | grep -q 'Feature Count: 45' || fail "ogrinfo does not count 45 sites"
+ogr2ogr -f GPKG "$work/out.gpkg" "site:$samples/sites_asset.xlsx" || fail "ogr2ogr"
+ogrinfo -al -so "$work/out.gpkg" | grep -q 'Feature Count: 45' || fail "the GeoPackage lacks sites"
+echo "the installed tree works"
