@@ -83,7 +83,7 @@ function(vlt_add_test file)
   endif()
   add_test(NAME ${name} COMMAND ${name})
   set_tests_properties(${name} PROPERTIES TIMEOUT ${T_TIMEOUT} ENVIRONMENT
-    "QT_QPA_PLATFORM=offscreen;LC_ALL=de_DE.UTF-8;LOCPATH=${PROJECT_BINARY_DIR}/locale;XDG_CONFIG_HOME=${PROJECT_BINARY_DIR}/settings/${name};XDG_CONFIG_DIRS=${PROJECT_BINARY_DIR}/settings;${T_ENV}")
+    "QT_QPA_PLATFORM=offscreen;LC_ALL=de_DE.UTF-8;LOCPATH=${PROJECT_BINARY_DIR}/locale;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0;XDG_CONFIG_HOME=${PROJECT_BINARY_DIR}/settings/${name};XDG_CONFIG_DIRS=${PROJECT_BINARY_DIR}/settings;${T_ENV}")
 endfunction()
 
 function(vlt_collect_links target seen_var)
