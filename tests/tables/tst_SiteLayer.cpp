@@ -1,0 +1,204 @@
+#include <cpl_error.h>
+#include <cpl_string.h>
+#include <gdal_priv.h>
+#include <ogrsf_frmts.h>
+
+#include <QtTest>
+
+#include <cmath>
+
+namespace {
+
+/// Warnings that the library gave while this lives.
+class Warnings
+{
+public:
+    Warnings() { CPLPushErrorHandlerEx(take, this); }
+    ~Warnings() { CPLPopErrorHandler(); }
+    QStringList texts;
+
+private:
+    static void CPL_STDCALL take(CPLErr, CPLErrorNum, const char *text)
+    {
+        static_cast<Warnings *>(CPLGetErrorHandlerUserData())->texts += QString::fromUtf8(text);
+    }
+};
+
+constexpr char Table[] = "Site ID;Longitude;Latitude;Height (m);Phone;Note\n"
+                         "007;-3,25;47,5;30;+33612345678;a\n"
+                         ";;;;;\n"
+                         "008;x;47,75;32,5;;\n"
+                         "009;-3,5;48;NA;;\"b\nc\"\n";
+
+} // namespace
+
+/// The driver as any GDAL program sees it.
+class SiteLayer : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        GDALAllRegister();
+        QVERIFY(GDALGetDriverByName("VltTables"));
+        QVERIFY(m_folder.isValid());
+        write("t.csv", Table);
+    }
+
+    void givesFieldsTypesAndMetadata()
+    {
+        const auto dataset = open("t.csv");
+        OGRLayer *layer = dataset->GetLayer(0);
+        QCOMPARE(layer->GetName(), "t");
+        QStringList fields;
+        for (int i = 0; i < layer->GetLayerDefn()->GetFieldCount(); ++i) {
+            const OGRFieldDefn *field = layer->GetLayerDefn()->GetFieldDefn(i);
+            fields += QString::fromUtf8(field->GetNameRef()) + QLatin1Char(':') +
+                      QString::fromUtf8(OGRFieldDefn::GetFieldTypeName(field->GetType()));
+        }
+
+        QCOMPARE(fields.join(QLatin1Char('|')),
+                 QStringLiteral("Site ID:String|Longitude:String|Latitude:Real|Height "
+                                "(m):Real|Phone:String|Note:String"));
+        QCOMPARE(layer->GetFeatureCount(), 3);
+        QCOMPARE(layer->GetMetadataItem("unit"), "DEGREES");
+        QCOMPARE(layer->GetMetadataItem("format"), "generic");
+        QCOMPARE(layer->GetMetadataItem("epsg"), "");
+        QCOMPARE(layer->GetMetadataItem("missing"), nullptr);
+    }
+
+    void keepsRowsThatCannotBePlacedAndNamesThemOnce()
+    {
+        const Warnings warnings;
+        const auto dataset = open("t.csv");
+        OGRLayer *layer = dataset->GetLayer(0);
+        QList<qint64> ids;
+        int placed = 0;
+        for (int pass = 0; pass < 2; ++pass) {
+            layer->ResetReading();
+            while (OGRFeatureUniquePtr feature{layer->GetNextFeature()}) {
+                ids += feature->GetFID();
+                placed += feature->GetGeometryRef() ? 1 : 0;
+            }
+        }
+
+        QCOMPARE(ids, (QList<qint64>{2, 4, 5, 2, 4, 5})); // rows of the file, blank ones counted
+        QCOMPARE(placed, 4);
+        QCOMPARE(warnings.texts.size(), 1);
+        QVERIFY(warnings.texts.first().contains(QStringLiteral("row 4, column \"Longitude\"")));
+        QCOMPARE(layer->GetMetadataItem("COUNT", "problems"), "1");
+        QVERIFY(QString::fromUtf8(layer->GetMetadataItem("PROBLEM_1", "problems"))
+                    .startsWith(QStringLiteral("4|Longitude|Error|")));
+    }
+
+    void readsAtRandomWithoutDisturbingTheWalk()
+    {
+        const Warnings warnings;
+        const auto dataset = open("t.csv");
+        OGRLayer *layer = dataset->GetLayer(0);
+        OGRFeatureUniquePtr first{layer->GetNextFeature()};
+        OGRFeatureUniquePtr last{layer->GetFeature(5)};
+        OGRFeatureUniquePtr blank{layer->GetFeature(3)};
+        OGRFeatureUniquePtr second{layer->GetNextFeature()};
+
+        QCOMPARE(first->GetFieldAsString("Site ID"), "007");
+        QCOMPARE(last->GetFieldAsString("Note"), "b\nc");
+        QVERIFY(!last->IsFieldSet(3)); // NA
+        QVERIFY(!blank);
+        QCOMPARE(second->GetFID(), 4);
+        QCOMPARE(layer->SetNextByIndex(2), OGRERR_NONE);
+        OGRFeatureUniquePtr third{layer->GetNextFeature()};
+        QCOMPARE(third->GetFID(), 5);
+        QVERIFY(layer->SetNextByIndex(3) != OGRERR_NONE);
+    }
+
+    void filtersAndGivesExtents()
+    {
+        const Warnings warnings;
+        const auto dataset = open("t.csv");
+        OGRLayer *layer = dataset->GetLayer(0);
+        OGREnvelope extent;
+
+        QCOMPARE(layer->GetExtent(&extent), OGRERR_NONE);
+        QCOMPARE(extent.MinX, -3.5);
+        QCOMPARE(extent.MaxY, 48.0);
+        layer->SetSpatialFilterRect(-3.3, 47, -3, 48);
+        QCOMPARE(layer->GetFeatureCount(), 1);
+        layer->SetSpatialFilter(nullptr);
+        layer->SetAttributeFilter("\"Height (m)\" > 31");
+        QCOMPARE(layer->GetFeatureCount(), 1);
+        OGRFeatureUniquePtr feature{layer->GetNextFeature()};
+        QCOMPARE(feature->GetFieldAsString("Site ID"), "008");
+    }
+
+    void transformsToTheTargetSystem()
+    {
+        const Warnings warnings;
+        const auto dataset = open("s_srs=EPSG:4326,t_srs=2154,data_folder=x,lods=1 2,", "t.csv");
+        QVERIFY(dataset);
+        OGRFeatureUniquePtr feature{dataset->GetLayer(0)->GetNextFeature()};
+        const OGRPoint *point = feature->GetGeometryRef()->toPoint();
+
+        // cs2cs EPSG:4326 EPSG:2154 of 47.5 N 3.25 W
+        QVERIFY2(std::abs(point->getX() - 229971.607) < 0.05,
+                 qPrintable(QString::number(point->getX(), 'f', 3)));
+        QVERIFY2(std::abs(point->getY() - 6729682.117) < 0.05,
+                 qPrintable(QString::number(point->getY(), 'f', 3)));
+        QVERIFY(!open("t_srs=nonsense,", "t.csv"));
+    }
+
+    void seesThatAFileHasChanged()
+    {
+        write("c.csv", "Site ID,X,Y\n1,2.5,48\n");
+        QCOMPARE(open("c.csv")->GetLayer(0)->GetFeatureCount(), 1);
+        write("c.csv", "Site ID,X,Y\n1,2.5,48\n2,3,4\n");
+
+        QCOMPARE(open("c.csv")->GetLayer(0)->GetFeatureCount(), 2);
+    }
+
+    void refusesWhatIsNotALocalTable_data()
+    {
+        QTest::addColumn<QByteArray>("name");
+        for (const char *name :
+             {"site:", "site:/vsicurl/http://127.0.0.1/a.csv", "site:http://127.0.0.1/a.csv",
+              "site:/vsimem/a.csv", "site:/nonexistent/a.csv", "site:/dev/zero"})
+            QTest::newRow(name) << QByteArray(name);
+    }
+    void refusesWhatIsNotALocalTable()
+    {
+        QFETCH(QByteArray, name);
+        const Warnings warnings;
+
+        QVERIFY(!GDALDataset::Open(name.constData(), GDAL_OF_VECTOR));
+        QVERIFY(!warnings.texts.isEmpty());
+    }
+
+    void refusesToWrite()
+    {
+        const Warnings warnings;
+        const QByteArray name =
+            "site:" + QFile::encodeName(m_folder.filePath(QStringLiteral("t.csv")));
+
+        QVERIFY(!GDALDataset::Open(name.constData(), GDAL_OF_VECTOR | GDAL_OF_UPDATE));
+    }
+
+private:
+    void write(const char *name, const char *text)
+    {
+        QFile file(m_folder.filePath(QLatin1String(name)));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(text) > 0);
+    }
+    GDALDatasetUniquePtr open(const char *options, const char *name) const
+    {
+        const QByteArray connection = QByteArray("site:") + options +
+                                      QFile::encodeName(m_folder.filePath(QLatin1String(name)));
+        return GDALDatasetUniquePtr(GDALDataset::Open(connection.constData(), GDAL_OF_VECTOR));
+    }
+    GDALDatasetUniquePtr open(const char *name) const { return open("", name); }
+
+    QTemporaryDir m_folder;
+};
+
+QTEST_GUILESS_MAIN(SiteLayer)
+#include "tst_SiteLayer.moc"
