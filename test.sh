@@ -24,5 +24,9 @@ prepare "${packages[@]}"
 
 echo "Configuring and building (preset $preset) ..."
 cmake --preset "$preset" >/dev/null
-cmake --build --preset "$preset"
-[[ $preset == tidy ]] || ctest --preset "$preset"
+if [[ $preset == tidy ]]; then
+    cmake --build --preset tidy -- -k 0 # every finding, not only the first
+else
+    cmake --build --preset "$preset"
+    ctest --preset "$preset"
+fi

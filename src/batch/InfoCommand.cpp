@@ -30,6 +30,10 @@ ExitStatus report(const QString &table, const GlobalOptions &options,
     if (!problems)
         return refuse({problems.error().key, problems.error().text, table});
     info.problems = problems.value();
+    if (const auto nameless = sites::missingNameField(info.file)) {
+        info.problems.listed.prepend(*nameless);
+        ++info.problems.count;
+    }
     if (!printOut(options.json ? reportJson(info) : reportText(info)))
         return refuse({QString(), QStringLiteral("the output cannot be written"), {}});
     return ExitStatus::Done;
@@ -41,8 +45,8 @@ ExitStatus runInfo(const QStringList &arguments)
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral(
-        "Tells what a site table holds: format, unit, coordinate systems, recognised columns, and "
-        "the rows that cannot be used."));
+        "Tells what a site table holds: format, unit, coordinate systems, recognised "
+        "columns,\nand the rows that cannot be used."));
     parser.addPositionalArgument(QStringLiteral("TABLE"),
                                  QStringLiteral("Site table (.xls .xlsx .xml .csv)."),
                                  QStringLiteral("info TABLE"));

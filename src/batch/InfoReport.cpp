@@ -11,64 +11,73 @@ namespace vlt::batch {
 
 namespace {
 
-using Line = std::pair<QString, QString>;
+constexpr qsizetype LineWidth = 80;
 
-QString listText(const QStringList &columns)
+/// A label and what belongs to it.
+struct Line
 {
-    return columns.join(QStringLiteral("; "));
+    QString label;
+    QStringList values;
+};
+
+/// The values one after another, in further lines below the first where they are many.
+QString wrapped(const QStringList &values, qsizetype indent)
+{
+    QString text;
+    qsizetype column = indent;
+    for (const QString &value : values) {
+        if (!text.isEmpty()) {
+            const bool fits = column + value.size() + 3 <= LineWidth;
+            text += fits ? QStringLiteral("; ") : QStringLiteral(";\n") + QString(indent, u' ');
+            column = fits ? column + 2 : indent;
+        }
+        text += oneLine(value);
+        column += value.size();
+    }
+    return text;
 }
 
 QString aligned(const QList<Line> &lines)
 {
     qsizetype width = 0;
     for (const Line &line : lines)
-        width = qMax(width, line.first.size());
+        width = qMax(width, line.label.size());
     QString text;
     for (const Line &line : lines) {
-        const QString value = line.second.isEmpty() ? QStringLiteral("-") : oneLine(line.second);
-        text += line.first.leftJustified(width) + QStringLiteral(" : ") + value + QLatin1Char('\n');
+        const QString values = wrapped(line.values, width + 3);
+        text += line.label.leftJustified(width) + QStringLiteral(" : ") +
+                (values.isEmpty() ? QStringLiteral("-") : values) + QLatin1Char('\n');
     }
     return text;
 }
 
 QList<Line> fileLines(const sites::SiteFileInfo &file)
 {
-    return {{dico_label("MESS_CLI_FILE", "File"), file.filePath},
-            {dico_label("MESS_CLI_FORMAT", "Format"), file.format},
-            {dico_label("MESS_CLI_UNIT", "Unit"), file.unit},
-            {dico_label("MESS_CLI_EPSG", "EPSG code"), file.epsg},
-            {dico_label("MESS_CLI_SITE_COUNT", "Number of sites"), QString::number(file.rowCount)},
-            {dico_label("MESS_CLI_LAYER", "Layer"), file.layerName},
-            {dico_label("MESS_CLI_NAME_FIELD", "Column that names a site"), file.nameField},
-            {dico_label("MESS_SRS_SITE_FILE", "Cartographic system of the site file"),
-             file.systems.source},
-            {dico_label("MESS_SRS_PROJECT", "Cartographic system of the target project"),
-             file.systems.target}};
+    return {
+        {dico_label("MESS_CLI_FILE", "File"), {file.filePath}},
+        {dico_label("MESS_CLI_FORMAT", "Format"), {file.format}},
+        {dico_label("MESS_CLI_UNIT", "Unit"), {file.unit}},
+        {dico_label("MESS_CLI_EPSG", "EPSG code"), {file.epsg}},
+        {dico_label("MESS_CLI_SITE_COUNT", "Number of sites"), {QString::number(file.rowCount)}},
+        {dico_label("MESS_CLI_LAYER", "Layer"), {file.layerName}},
+        {dico_label("MESS_CLI_NAME_FIELD", "Column that names a site"), {file.nameField}},
+        {dico_label("MESS_SRS_SITE_FILE", "Cartographic system of the site file"),
+         {file.systems.source}},
+        {dico_label("MESS_SRS_PROJECT", "Cartographic system of the target project"),
+         {file.systems.target}}};
 }
 
 QList<Line> columnLines(const sites::SiteColumnSet &columns)
 {
-    return {{dico_label("MESS_CLI_COLUMN_NAME", "Name column"), columns.name},
-            {dico_label("MESS_CLI_COLUMN_X", "X column"), columns.x},
-            {dico_label("MESS_CLI_COLUMN_Y", "Y column"), columns.y},
-            {dico_label("MESS_CLI_COLUMN_TERRAIN", "Terrain height column"), columns.terrainHeight},
-            {dico_label("MESS_CLI_COLUMN_SECTORS", "Sector columns"), listText(columns.sectorIds)},
-            {dico_label("MESS_CLI_COLUMN_HEIGHTS", "Height columns"), listText(columns.heights)},
-            {dico_label("MESS_CLI_COLUMN_AZIMUTHS", "Azimuth columns"), listText(columns.azimuths)},
-            {dico_label("MESS_CLI_COLUMN_TILTS", "Tilt columns"), listText(columns.tilts)}};
-}
-
-QString problemLine(const Problem &problem)
-{
-    QStringList place;
-    if (problem.row > 0)
-        place << dico_label("MESS_CLI_ROW", "row") + QLatin1Char(' ') +
-                     QString::number(problem.row);
-    if (!problem.column.isEmpty())
-        place << dico_label("MESS_CLI_COLUMN", "column") + QLatin1Char(' ') + problem.column;
-    const QString where =
-        place.isEmpty() ? QString() : place.join(QStringLiteral(", ")) + QStringLiteral(": ");
-    return QStringLiteral("  ") + oneLine(where + problem.text) + QLatin1Char('\n');
+    return {
+        {dico_label("MESS_CLI_COLUMN_NAME", "Name column"), {columns.name}},
+        {dico_label("MESS_CLI_COLUMN_X", "X column"), {columns.x}},
+        {dico_label("MESS_CLI_COLUMN_Y", "Y column"), {columns.y}},
+        {dico_label("MESS_CLI_COLUMN_TERRAIN", "Terrain height column"), {columns.terrainHeight}},
+        {dico_label("MESS_CLI_COLUMN_SECTORS", "Sector columns"), columns.sectorIds},
+        {dico_label("MESS_CLI_COLUMN_HEIGHTS", "Height columns"), columns.heights},
+        {dico_label("MESS_CLI_COLUMN_AZIMUTHS", "Azimuth columns"), columns.azimuths},
+        {dico_label("MESS_CLI_COLUMN_TILTS", "Tilt columns"), columns.tilts}};
 }
 
 QString problemsText(const geodata::LayerProblems &problems)
@@ -76,7 +85,7 @@ QString problemsText(const geodata::LayerProblems &problems)
     QString text = dico_label("MESS_CLI_PROBLEMS", "Problems") + QStringLiteral(" : ") +
                    QString::number(problems.count) + QLatin1Char('\n');
     for (const Problem &problem : problems.listed)
-        text += problemLine(problem);
+        text += QStringLiteral("  ") + problemText(problem) + QLatin1Char('\n');
     if (problems.count > problems.listed.size())
         text += QStringLiteral("  ...\n");
     return text;
@@ -111,6 +120,19 @@ QJsonObject columnsJson(const sites::SiteColumnSet &columns)
 }
 
 } // namespace
+
+QString problemText(const Problem &problem)
+{
+    QStringList place;
+    if (problem.row > 0)
+        place << dico_label("MESS_CLI_ROW", "row") + QLatin1Char(' ') +
+                     QString::number(problem.row);
+    if (!problem.column.isEmpty())
+        place << dico_label("MESS_CLI_COLUMN", "column") + QLatin1Char(' ') + problem.column;
+    const QString where =
+        place.isEmpty() ? QString() : place.join(QStringLiteral(", ")) + QStringLiteral(": ");
+    return oneLine(where + problem.text);
+}
 
 QString reportText(const InfoReport &report)
 {

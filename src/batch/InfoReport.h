@@ -14,6 +14,9 @@ struct InfoReport
     geodata::LayerProblems problems;
 };
 
+/// One problem in one line, row and column first.
+QString problemText(const Problem &problem);
+
 /// For people: labelled lines in the chosen language.
 QString reportText(const InfoReport &report);
 

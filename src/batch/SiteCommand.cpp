@@ -2,6 +2,7 @@
 
 #include "batch/Console.h"
 #include "batch/Help.h"
+#include "batch/InfoReport.h"
 #include "batch/ProgressLine.h"
 #include "batch/SiteOptions.h"
 #include "batch/StartUp.h"
@@ -65,6 +66,14 @@ QString realPath(const QString &path)
     return canonical.isEmpty() ? QFileInfo(path).absoluteFilePath() : canonical;
 }
 
+/// Name of the catalogue, below the pylons' folder, that has nothing to choose from.
+QString emptyCatalogue(const sites::SiteCatalogues &catalogues)
+{
+    if (catalogues.pylonTypes.isEmpty())
+        return QStringLiteral("/list.xml");
+    return catalogues.colorSets.isEmpty() ? QStringLiteral("/colors/sectors.xml") : QString();
+}
+
 bool isInput(const QString &output, const QString &table, const sites::ProjectContext &project)
 {
     for (const QString &input : {table, project.projectPath, project.terrainFile}) {
@@ -110,6 +119,8 @@ bool tell(const QString &output, const Outcome &outcome, const sites::SiteLayerI
         if (outcome.unplacedRows > 0)
             printError(dico_label("MESS_CLI_UNPLACED", "rows that could not be placed") +
                        QStringLiteral(": %1").arg(outcome.unplacedRows));
+        if (const auto nameless = sites::missingNameField(input.file))
+            printError(problemText(*nameless));
         if (input.sourceSrs.isEmpty() && input.targetSrs.isEmpty())
             printError(dico_label("MESS_CLI_NO_SRS", "no coordinate system is known: give "
                                                      "--source-srs and --target-srs"));
@@ -160,10 +171,10 @@ ExitStatus runParsed(const QCommandLineParser &parser, const GlobalOptions &opti
     const QString output = parser.value(QStringLiteral("output"));
     sites::SiteLayerInput input;
     input.catalogues = sites::loadSiteCatalogues(surroundings.installDir, surroundings.language);
-    if (input.catalogues.pylonTypes.isEmpty() || input.catalogues.colorSets.isEmpty())
+    if (const QString missing = emptyCatalogue(input.catalogues); !missing.isEmpty())
         return refuse({QStringLiteral("MESS_MISSING_CONF_FILE"),
                        QStringLiteral("A configuration file is missing"),
-                       surroundings.installDir + QLatin1Char('/') + sites::PylonFolder});
+                       surroundings.installDir + QLatin1Char('/') + sites::PylonFolder + missing});
     const auto representation = readSiteOptions(parser, input.catalogues);
     if (!representation)
         return refuseUsage(representation.error().text);

@@ -25,23 +25,24 @@ struct NumberOption
 const std::vector<NumberOption> &numberOptions()
 {
     static const std::vector<NumberOption> options = {
-        {QStringLiteral("sector-height"), QStringLiteral("Sector height"),
+        {QStringLiteral("sector-height"), QStringLiteral("Sector height in metres"),
          &SiteRepresentation::sectorHeight, sites::SectorHeightLimits},
-        {QStringLiteral("sector-radius"), QStringLiteral("Sector radius"),
+        {QStringLiteral("sector-radius"), QStringLiteral("Sector radius in metres"),
          &SiteRepresentation::sectorRadius, sites::SectorRadiusLimits},
-        {QStringLiteral("sector-spacing"), QStringLiteral("Vertical spacing between sectors"),
+        {QStringLiteral("sector-spacing"),
+         QStringLiteral("Vertical spacing between sectors in metres"),
          &SiteRepresentation::sectorSpacing, sites::SectorSpacingLimits},
         {QStringLiteral("transparency"), QStringLiteral("Transparency of the sectors in per cent"),
          &SiteRepresentation::transparency, sites::TransparencyLimits},
         {QStringLiteral("symbolic-distance"),
-         QStringLiteral("Apparition distance of the symbolic representation"),
+         QStringLiteral("Apparition distance of the symbolic representation in metres"),
          &SiteRepresentation::symbolicDistance, sites::DistanceLimits},
-        {QStringLiteral("pylon-width"), QStringLiteral("Width of the pylons"),
+        {QStringLiteral("pylon-width"), QStringLiteral("Width of the pylons in metres"),
          &SiteRepresentation::pylonWidth, sites::PylonWidthLimits},
         {QStringLiteral("antenna-size"), QStringLiteral("Antennas size in per cent"),
          &SiteRepresentation::antennaSize, sites::AntennaSizeLimits},
         {QStringLiteral("realistic-distance"),
-         QStringLiteral("Apparition distance of the precise representation"),
+         QStringLiteral("Apparition distance of the precise representation in metres"),
          &SiteRepresentation::realisticDistance, sites::DistanceLimits},
     };
     return options;
@@ -106,7 +107,7 @@ Error notInCatalogue(const QString &option, const QString &value, const QList<T>
         names << QStringLiteral("%1 = ").arg(i + 1) + entries.at(i).*called;
     return Error{QString(),
                  QStringLiteral("--%1: no \"").arg(option) + value + QStringLiteral("\" (") +
-                     names.join(QStringLiteral(", ")) + QLatin1Char(')'),
+                     names.join(QStringLiteral("; ")) + QLatin1Char(')'),
                  {}};
 }
 

@@ -126,7 +126,7 @@ std::string compose(const ConnectionString &connection)
 {
     std::string text = connection.kind + ':';
     for (const auto &[key, value] : connection.options)
-        text += key + '=' + value + ',';
+        text.append(key).append("=").append(value).append(",");
     return text + connection.path;
 }
 

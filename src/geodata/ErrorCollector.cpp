@@ -25,7 +25,7 @@ void CPL_STDCALL ErrorCollector::collect(CPLErr severity, CPLErrorNum /*number*/
                                          const char *message)
 {
     auto *self = static_cast<ErrorCollector *>(CPLGetErrorHandlerUserData());
-    if (severity >= CE_Failure && self->m_failure.isEmpty())
+    if (severity >= CE_Failure)
         self->m_failure = platform::decodeText(QByteArray(message)).trimmed();
 }
 

@@ -16,7 +16,8 @@ public:
     ErrorCollector(const ErrorCollector &) = delete;
     ErrorCollector &operator=(const ErrorCollector &) = delete;
 
-    /// The first failure reported, or `otherwise` when the library gave no reason.
+    /// The last failure reported, the one that knows what was being done, or `otherwise` when the
+    /// library gave no reason.
     QString failure(const QString &otherwise) const;
 
 private:

@@ -12,6 +12,17 @@ bool isTableConnection(const QString &connection)
            connection.startsWith(QLatin1String("link:"), Qt::CaseInsensitive);
 }
 
+/// The reason without the table's path at its start: who shows it names the file himself.
+QString withoutPath(const QString &reason, const QString &connection)
+{
+    const QLatin1String mark(": ");
+    for (qsizetype at = reason.indexOf(mark); at > 0; at = reason.indexOf(mark, at + 1)) {
+        if (connection.endsWith(reason.left(at)))
+            return reason.mid(at + mark.size());
+    }
+    return reason;
+}
+
 } // namespace
 
 Result<GDALDatasetUniquePtr> openTable(const QString &connection, const ErrorCollector &errors)
@@ -23,7 +34,10 @@ Result<GDALDatasetUniquePtr> openTable(const QString &connection, const ErrorCol
     GDALDatasetUniquePtr dataset(
         GDALDataset::Open(QFile::encodeName(connection).constData(), GDAL_OF_VECTOR));
     if (!dataset)
-        return Error{QString(), errors.failure(QStringLiteral("no driver for it was found")), {}};
+        return Error{
+            QString(),
+            withoutPath(errors.failure(QStringLiteral("no driver for it was found")), connection),
+            {}};
     return dataset;
 }
 

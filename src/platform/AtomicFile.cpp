@@ -53,6 +53,10 @@ Result<Done> writeWhole(const QString &path, const QByteArray &bytes, Access acc
         return failed(QStringLiteral("No file name"));
     if (!target.isSymbolicLink() && target.exists() && !target.isFile())
         return failed(QStringLiteral("Not a regular file"));
+    // a rename would go over it without asking
+    if (access == Access::Shared && target.isFile() && !target.isSymbolicLink() &&
+        !target.isWritable())
+        return failed(QStringLiteral("The file is write-protected"));
 
     QFile file(temporaryNameBeside(target));
     if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered,

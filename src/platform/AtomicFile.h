@@ -19,9 +19,9 @@ enum class Access {
 /// rename. A symbolic link at `path` is replaced, not followed. After a failure the old file is
 /// untouched and nothing is left behind.
 ///
-/// @par Errors  a target that exists and is no regular file (directory, device, pipe); a directory
-///              that is missing or cannot be written; a full device. The text is the system's
-///              reason, the path is `path`.
+/// @par Errors  a target that exists and is no regular file (directory, device, pipe), or is
+///              write-protected (not for Access::UserOnly); a directory that is missing or cannot
+///              be written; a full device. The text is the system's reason, the path is `path`.
 Result<Done> writeWhole(const QString &path, const QByteArray &bytes, Access access);
 
 } // namespace vlt::platform

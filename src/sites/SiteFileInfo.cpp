@@ -53,6 +53,17 @@ QString siteNameField(const QString &format)
     return QStringLiteral("Site ID");
 }
 
+std::optional<Problem> missingNameField(const SiteFileInfo &info)
+{
+    if (!info.valid || info.hasNameField)
+        return std::nullopt;
+    Problem problem;
+    problem.column = info.nameField;
+    problem.text = dico_label("MESS_CLI_NO_NAME_FIELD", "the table has no such column: its sites "
+                                                        "have no name in the layer");
+    return problem;
+}
+
 QString describeSiteFile(const QString &format, const QString &unit)
 {
     return text::replacePlaceholders(
@@ -96,6 +107,8 @@ SiteFileInfo readSiteFileInfo(const QString &path, const ProjectContext &project
     info.description = describeSiteFile(info.format, info.unit);
     info.systems = chooseSystems(knownSystems(info, project));
     info.nameField = siteNameField(info.format);
+    // as the geodata library looks fields up
+    info.hasNameField = layer.fields.contains(info.nameField, Qt::CaseInsensitive);
     info.valid = true;
     return info;
 }

@@ -168,6 +168,33 @@ private Q_SLOTS:
         QCOMPARE(quiet.errors, QByteArray());
     }
 
+    void warnsOfSitesWithoutAName_data()
+    {
+        QTest::addColumn<QByteArray>("column");
+        QTest::addColumn<bool>("warns");
+
+        QTest::newRow("other column") << QByteArray("Name") << true;
+        QTest::newRow("other letters") << QByteArray("SITE ID") << false;
+    }
+
+    void warnsOfSitesWithoutAName()
+    {
+        QFETCH(QByteArray, column);
+        QFETCH(bool, warns);
+        writeFile(path("s.csv"), column + ",Longitude,Latitude\nA,1.5,45\n");
+        const QByteArray warning = "column Site ID: the table has no such column";
+
+        const Run info = start({QStringLiteral("info"), QStringLiteral("../s.csv")});
+        const Run site = start({QStringLiteral("site"), QStringLiteral("../s.csv"),
+                                QStringLiteral("-o"), QStringLiteral("o.lay")});
+
+        QCOMPARE(info.output.contains("Problems : 1\n  " + warning), warns);
+        QCOMPARE(info.output.contains("Problems : 0\n"), !warns);
+        QCOMPARE(site.status, 0);
+        QCOMPARE(site.errors.startsWith("vltlayers: " + warning), warns);
+        QCOMPARE(site.errors.isEmpty(), !warns);
+    }
+
     void refusesAndLeavesTheOldLayer_data()
     {
         QTest::addColumn<QString>("arguments");
@@ -178,7 +205,8 @@ private Q_SLOTS:
             QTest::newRow(arguments)
                 << QString::fromLatin1(arguments) << status << QString::fromUtf8(message);
         };
-        row("site ../missing.csv -o old.lay", 1, "../missing.csv: This file can't be open");
+        row("site ../missing.csv -o old.lay", 1,
+            "../missing.csv: This file can't be open as a site file (the file does not exist)");
         row("site ../missing.csv -o old.lay --language fr", 1, "missing.csv: Fichier illisible");
         row("site ../unplaced.csv -o old.lay", 1, "../unplaced.csv: ");
         row("site ../header.csv -o old.lay", 1, "../header.csv: ");
@@ -188,7 +216,10 @@ private Q_SLOTS:
         row("site ../s.csv -o ../c.gvw --project ../c.gvw", 1, "one of the input files");
         row("site ../s.csv -o old.lay --project ../no.gvw", 1, "../no.gvw: Cannot open project");
         row("site ../s.csv -o old.lay --install ../no", 1, "no such install directory");
-        row("site ../s.csv -o old.lay --source-srs no-such-system", 1, "../s.csv: ");
+        row("site ../s.csv -o old.lay --source-srs no-such-system", 1,
+            "../s.csv: the coordinate system \"no-such-system\" is not known");
+        row("site ../s.csv -o old.lay --target-srs 999999", 1,
+            "../s.csv: the coordinate system \"999999\" is not known");
         row("site ../s.csv -o nowhere/o.lay", 1, "nowhere/o.lay: Can't create the layer file");
         row("info ../missing.csv", 1, "../missing.csv: This file can't be open");
         row("site ../s.csv", 2, "-o OUT.lay");

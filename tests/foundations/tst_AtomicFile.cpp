@@ -6,6 +6,7 @@
 #include <QTest>
 
 #include <csignal>
+#include <sys/prctl.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -56,6 +57,27 @@ public:
 
 private:
     rlimit m_before = {};
+};
+
+/// Root may write everywhere; while this lives the process is somebody else.
+class OrdinaryUser
+{
+public:
+    OrdinaryUser()
+    {
+        constexpr uid_t nobody = 65534;
+        m_switched = ::geteuid() == 0 && ::setresuid(nobody, nobody, 0) == 0;
+    }
+    ~OrdinaryUser()
+    {
+        if (m_switched && ::setresuid(0, 0, 0) != 0)
+            qFatal("root's rights did not come back");
+        ::prctl(PR_SET_DUMPABLE, 1); // lost with the switch; leak checkers need it
+    }
+    Q_DISABLE_COPY_MOVE(OrdinaryUser)
+
+private:
+    bool m_switched = false;
 };
 
 } // namespace
@@ -136,6 +158,26 @@ private Q_SLOTS:
         QVERIFY(!written.ok());
         QVERIFY(!written.error().text.isEmpty());
         QCOMPARE(written.error().path, path);
+        QCOMPARE(contentOf(path), QByteArray("old"));
+        QCOMPARE(namesIn(dir.path()), QStringList{u"layer"_s});
+    }
+
+    void leavesAWriteProtectedFile()
+    {
+        const QTemporaryDir dir;
+        const QString path = dir.filePath(u"layer"_s);
+        put(path, "old");
+        ::chmod(QFile::encodeName(path).constData(), 0444);
+        ::chmod(QFile::encodeName(dir.path()).constData(), 0777);
+        vlt::Result<vlt::Done> written = vlt::Done{};
+        {
+            const OrdinaryUser user;
+            written = writeWhole(path, "new", Access::Shared);
+        }
+
+        QVERIFY(!written.ok());
+        QVERIFY2(written.error().text.contains(u"write-protected"_s),
+                 qPrintable(written.error().text));
         QCOMPARE(contentOf(path), QByteArray("old"));
         QCOMPARE(namesIn(dir.path()), QStringList{u"layer"_s});
     }

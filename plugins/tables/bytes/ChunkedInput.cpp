@@ -8,7 +8,9 @@
 #include <cstring>
 #include <deque>
 #include <exception>
+#include <limits>
 #include <mutex>
+#include <system_error>
 #include <thread>
 
 namespace vlt::tables {
@@ -72,8 +74,8 @@ public:
             fill(*buffer, m_synchronous == 2 ? FirstChunkSize : ChunkSize);
             --m_synchronous;
         } else {
-            if (!m_thread.joinable())
-                m_thread = std::thread([this] { run(); });
+            if (!m_thread.joinable() && !startThread())
+                return next(std::move(spare));
             buffer = wait(std::move(spare));
         }
         m_finished = buffer->last;
@@ -83,6 +85,17 @@ public:
     }
 
 private:
+    /// Where the system gives no thread the caller's goes on fetching.
+    bool startThread()
+    {
+        try {
+            m_thread = std::thread([this] { run(); });
+        } catch (const std::system_error &) {
+            m_synchronous = std::numeric_limits<int>::max();
+        }
+        return m_thread.joinable();
+    }
+
     void fill(Buffer &buffer, size_t size)
     {
         buffer.size = 0;

@@ -14,6 +14,7 @@ constexpr size_t EntrySize = 128;
 constexpr uint32_t LastRegularSector = 0xFFFFFFFA;
 constexpr size_t HeaderTableSectors = 109;
 constexpr int MiniShift = 6;
+constexpr uint64_t LargestMiniStream = 4096; ///< the only cutoff that [MS-CFB] allows
 constexpr char RootType = 5;
 constexpr char StreamType = 2;
 constexpr size_t MostEntries = 65536;
@@ -32,7 +33,7 @@ CompoundFile::CompoundFile(std::shared_ptr<const InputFile> file) : m_file(std::
     m_sectorShift = u16(header + 30);
     if (m_sectorShift != 9 && m_sectorShift != 12)
         refuse();
-    m_miniCutoff = u32(header + 56);
+    m_miniCutoff = std::min<uint64_t>(u32(header + 56), LargestMiniStream);
     readAllocationTable(header);
     for (const uint32_t sector : chain(m_table, u32(header + 60))) {
         std::vector<char> bytes(size_t{1} << m_sectorShift);
@@ -137,6 +138,8 @@ std::vector<Extent> CompoundFile::extents(const std::string &name) const
     for (const uint32_t sector : chain(m_miniTable, found->second.firstSector)) {
         uint64_t offset = uint64_t{sector} << MiniShift;
         const uint64_t part = std::min(uint64_t{1} << MiniShift, size);
+        if (part == 0)
+            break;
         size_t at = 0;
         while (at < container.size() && offset >= container[at].size)
             offset -= container[at++].size;

@@ -45,6 +45,7 @@ RecodeSource::RecodeSource(std::unique_ptr<ByteSource> source, const std::string
         m_unit = 2;
     else if (encoding.starts_with("UTF-32"))
         m_unit = 4;
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): how iconv_open() says that it failed
     if (m_converter == reinterpret_cast<iconv_t>(-1))
         throw RefusedFile(Refusal::NotSupportedFormat,
                           "the encoding \"" + encoding + "\" is not known");
@@ -65,7 +66,24 @@ void RecodeSource::fillInput()
     m_inputEnd += got;
 }
 
+/// A room as small as the end of a chunk may be shorter than the next character, which is then
+/// handed out in pieces: 0 would mean the end.
 size_t RecodeSource::read(char *to, size_t size)
+{
+    if (m_edgeBegin == m_edgeEnd && size >= m_edge.size())
+        return convert(to, size);
+    if (m_edgeBegin == m_edgeEnd) {
+        m_edgeBegin = 0;
+        m_edgeEnd = convert(m_edge.data(), m_edge.size());
+    }
+    const size_t got = std::min(size, m_edgeEnd - m_edgeBegin);
+    std::memcpy(to, m_edge.data() + m_edgeBegin, got);
+    m_edgeBegin += got;
+    return got;
+}
+
+/// Fills a room that holds any character; 0 at the end.
+size_t RecodeSource::convert(char *to, size_t size)
 {
     char *out = to;
     size_t room = size;

@@ -2,6 +2,7 @@
 
 #include "bytes/ByteSource.h"
 
+#include <array>
 #include <memory>
 #include <string>
 #include <vector>
@@ -21,12 +22,16 @@ public:
 
 private:
     void fillInput();
+    size_t convert(char *to, size_t size);
 
     std::unique_ptr<ByteSource> m_source;
     void *m_converter;
     std::vector<char> m_input;
     size_t m_inputBegin = 0;
     size_t m_inputEnd = 0;
+    std::array<char, 16> m_edge = {}; ///< characters that the caller had no room for as a whole
+    size_t m_edgeBegin = 0;
+    size_t m_edgeEnd = 0;
     size_t m_unit = 1; ///< bytes to step over after a sequence that means nothing
     bool m_inputEnded = false;
 };

@@ -1,6 +1,7 @@
 #include "cells/ByteScan.h"
 
 #include <bit>
+#include <cstddef>
 #include <cstdint>
 #include <cstring>
 
@@ -41,7 +42,7 @@ __attribute__((target("avx2,bmi"))) const char *findAnyOfAvx2(const char *begin,
     const __m256i wantA = _mm256_set1_epi8(a);
     const __m256i wantB = _mm256_set1_epi8(b);
     const __m256i wantC = _mm256_set1_epi8(c);
-    constexpr int Width = 32;
+    constexpr std::ptrdiff_t Width = 32;
     for (; end - begin >= Width; begin += Width) {
         const __m256i bytes = _mm256_loadu_si256(reinterpret_cast<const __m256i *>(begin));
         const __m256i found = _mm256_or_si256(
@@ -58,9 +59,9 @@ __attribute__((target("avx2,bmi"))) const char *findPairAvx2(const char *begin, 
 {
     const __m256i a = _mm256_set1_epi8(first);
     const __m256i b = _mm256_set1_epi8(second);
-    constexpr int Width = 32;
+    constexpr std::ptrdiff_t Width = 32;
     for (; end - begin > 2 * Width; begin += 2 * Width) {
-        const auto at = [begin](int offset) __attribute__((target("avx2")))
+        const auto at = [begin](std::ptrdiff_t offset) __attribute__((target("avx2")))
         {
             return _mm256_loadu_si256(reinterpret_cast<const __m256i *>(begin + offset));
         };

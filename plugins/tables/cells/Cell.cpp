@@ -27,10 +27,18 @@ std::string_view trimmedSlowly(std::string_view text)
     }
 }
 
+bool isOverlong(const Cell &cell)
+{
+    return cell.kind == Cell::Kind::Number && cell.text.size() > 16;
+}
+
 std::string cellText(const Cell &cell)
 {
     if (cell.kind == Cell::Kind::Number && cell.text.empty())
         return numberText(cell.number);
+    if (isOverlong(cell))
+        if (const auto number = parseNumber(trimmed(cell.text)))
+            return numberText(*number);
     return std::string(cell.text);
 }
 

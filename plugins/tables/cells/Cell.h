@@ -59,6 +59,9 @@ inline std::string_view trimmed(std::string_view text)
                                                                           : trimmedSlowly(text);
 }
 
+/// Whether a number is written with all the digits of its binary form, 0.10000000000000001 for 0.1.
+bool isOverlong(const Cell &cell);
+
 /// Text of a cell, a number in its shortest decimal form of at most 15 significant digits.
 std::string cellText(const Cell &cell);
 

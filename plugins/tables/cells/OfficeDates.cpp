@@ -38,12 +38,10 @@ bool isDateFormat(std::string_view format)
             if (elapsed)
                 return true;
             at = close;
-        } else if (c == ';')
+        } else if (c == ';' || format.substr(at).starts_with("General"))
             return false; // the first section is that of positive numbers
         else if (std::string_view("ymdhsYMDHS").find(c) != std::string_view::npos)
             return true;
-        else if (format.substr(at).starts_with("General"))
-            return false;
     }
     return false;
 }

@@ -40,7 +40,7 @@ std::unique_ptr<Workbook> openWorkbook(std::shared_ptr<const InputFile> file,
         head[3] == '\0')
         return openXls(std::move(file), false);
     if (startsWithTag(head))
-        return openSpreadsheetMl(std::move(file));
+        return openSpreadsheetMl(file);
     if (head.starts_with("%PDF-"))
         throw RefusedFile(Refusal::NotSupportedFormat, "this is a PDF document, not a table");
     return openText(std::move(file), name, hints);

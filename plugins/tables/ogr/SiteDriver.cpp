@@ -49,7 +49,7 @@ TableOptions optionsOf(const GDALOpenInfo &info)
 
 int identify(GDALOpenInfo *info)
 {
-    return STARTS_WITH_CI(info->pszFilename, Prefix) && (info->nOpenFlags & GDAL_OF_VECTOR) != 0;
+    return STARTS_WITH_CI(info->pszFilename, Prefix);
 }
 
 /// Names that GDAL's other file systems would fetch or unpack are refused: tables are local files.
@@ -108,9 +108,9 @@ constexpr char OpenOptions[] = "<OpenOptionList>"
 
 } // namespace vlt::tables
 
+// NOLINTNEXTLINE(readability-identifier-naming): the loader derives this name from the file's
 extern "C" CPL_DLL void RegisterOGRVltTables();
 
-// NOLINTNEXTLINE(readability-identifier-naming): the loader derives this name from the file's
 void RegisterOGRVltTables()
 {
     constexpr char Name[] = "VltTables";

@@ -100,7 +100,7 @@ SiteLayer::SiteLayer(std::shared_ptr<SiteTable> table, const std::string &source
     const SiteLayout &layout = m_table->facts().layout;
     OGRLayer::SetMetadataItem("format", layout.format.c_str());
     OGRLayer::SetMetadataItem("unit", unitName(layout.unit));
-    OGRLayer::SetMetadataItem("epsg", layout.epsg.c_str());
+    OGRLayer::SetMetadataItem("epsg", m_unknownEpsg ? "" : layout.epsg.c_str());
 }
 
 SiteLayer::~SiteLayer()
@@ -120,7 +120,13 @@ void SiteLayer::defineFields()
 void SiteLayer::setSystems(const std::string &sourceSrs, const std::string &targetSrs)
 {
     const SiteLayout &layout = m_table->facts().layout;
-    std::string source = !sourceSrs.empty() ? sourceSrs : layout.epsg;
+    std::string source = sourceSrs;
+    if (source.empty() && !layout.epsg.empty()) {
+        const CPLErrorHandlerPusher quiet(CPLQuietErrorHandler);
+        m_unknownEpsg =
+            OGRSpatialReference().importFromEPSG(atoi(layout.epsg.c_str())) != OGRERR_NONE;
+        source = m_unknownEpsg ? std::string() : layout.epsg;
+    }
     if (source.empty() && layout.unit != CoordinateUnit::Meters)
         source = "4326";
     std::unique_ptr<OGRSpatialReference, void (*)(OGRSpatialReference *)> target(nullptr, release);
@@ -162,25 +168,30 @@ void SiteLayer::ResetReading()
     m_failed = false;
 }
 
-OGRErr SiteLayer::SetIgnoredFields(const char **names)
+/// Fields may be ignored at any time before a walk.
+void SiteLayer::noteIgnoredFields()
 {
-    const OGRErr error = OGRLayer::SetIgnoredFields(names);
     for (int field = 0; field < m_definition->GetFieldCount(); ++field)
         m_ignored[static_cast<size_t>(field)] =
             m_definition->GetFieldDefn(field)->IsIgnored() ? 1 : 0;
-    return error;
 }
 
 void SiteLayer::warn(std::vector<RowProblem> &problems)
 {
-    for (const RowProblem &problem : problems)
-        if (problem.row > m_warnedUpTo && ++m_warnings <= MostWarnings)
+    const bool isNew = !m_problemsOmitted && m_warnedRows.insert(problems.front().row).second;
+    for (const RowProblem &problem : problems) {
+        if (!isNew || m_problemsOmitted)
+            break;
+        m_problemsOmitted = ++m_warnings > MostWarnings;
+        if (!m_problemsOmitted) {
             CPLError(CE_Warning, CPLE_AppDefined, "%s, %s", GetDescription(),
                      describe(problem).c_str());
-    if (m_warnings > MostWarnings && m_warnings - problems.size() <= MostWarnings)
+            continue;
+        }
         CPLError(CE_Warning, CPLE_AppDefined,
                  "%s: further problems are listed in the layer's metadata domain \"problems\"",
                  GetDescription());
+    }
     problems.clear();
 }
 
@@ -205,7 +216,8 @@ void SiteLayer::setFields(OGRFeature &feature)
                 feature.SetFieldSameTypeUnsafe(index, static_cast<GIntBig>(std::llround(number)));
             continue;
         }
-        const std::string own = cell->text.empty() ? cellText(*cell) : std::string();
+        const std::string own =
+            cell->text.empty() || isOverlong(*cell) ? cellText(*cell) : std::string();
         const std::string_view text = own.empty() ? cell->text : std::string_view(own);
         auto *copy = static_cast<char *>(CPLMalloc(text.size() + 1));
         std::memcpy(copy, text.data(), text.size());
@@ -214,35 +226,48 @@ void SiteLayer::setFields(OGRFeature &feature)
     }
 }
 
-bool SiteLayer::placeFeature(OGRFeature &feature)
+Position SiteLayer::placeRow()
 {
     std::vector<RowProblem> problems;
     const int64_t row = m_rows->rowNumber();
     m_cells.take(m_rows->cells(), problems);
     Position position = m_placer.place(row, m_cells.cells(), problems);
-    if (position.found && m_transformation &&
-        (!m_transformation->Transform(1, &position.x, &position.y) || !std::isfinite(position.x) ||
-         !std::isfinite(position.y))) {
-        position.found = false;
-        problems.push_back(
-            {row, {}, true, "the position lies outside the area of the target coordinate system"});
-    }
+    transform(row, position, problems);
+    if (!problems.empty())
+        warn(problems);
+    return position;
+}
+
+void SiteLayer::transform(int64_t row, Position &position, std::vector<RowProblem> &problems)
+{
+    if (!position.found || !m_transformation)
+        return;
+    const CPLErrorHandlerPusher quiet(CPLQuietErrorHandler); // it becomes a problem of the row
+    if (m_transformation->Transform(1, &position.x, &position.y) && std::isfinite(position.x) &&
+        std::isfinite(position.y))
+        return;
+    position.found = false;
+    problems.push_back(
+        {row, {}, true, "the position lies outside the area of the target coordinate system"});
+}
+
+void SiteLayer::placeFeature(OGRFeature &feature)
+{
+    const Position position = placeRow();
     if (position.found && m_definition->GetGeomFieldCount() > 0 &&
-        !m_definition->IsGeometryIgnored()) {
+        (m_poFilterGeom || !m_definition->IsGeometryIgnored())) {
         auto *point = new OGRPoint(position.x, position.y);
         point->assignSpatialReference(m_definition->GetGeomFieldDefn(0)->GetSpatialRef());
         feature.SetGeometryDirectly(point);
     }
-    if (!problems.empty())
-        warn(problems);
-    m_warnedUpTo = std::max(m_warnedUpTo, row);
-    return position.found;
 }
 
 OGRFeature *SiteLayer::readFeature()
 {
-    if (!m_rows)
+    if (!m_rows) {
+        noteIgnoredFields();
         m_rows = m_table->rows();
+    }
     if (!m_rows->advance())
         return nullptr;
     auto feature = std::make_unique<OGRFeature>(m_definition);
@@ -260,8 +285,11 @@ OGRFeature *SiteLayer::GetNextFeature()
             break;
         ++m_nFeaturesRead;
         if ((!m_poFilterGeom || FilterGeometry(feature->GetGeometryRef())) &&
-            (!m_poAttrQuery || m_poAttrQuery->Evaluate(feature.get())))
+            (!m_poAttrQuery || m_poAttrQuery->Evaluate(feature.get()))) {
+            if (m_definition->IsGeometryIgnored()) // it was there for the filter
+                feature->SetGeometryDirectly(nullptr);
             return feature.release();
+        }
     }
     return nullptr;
 }
@@ -289,6 +317,7 @@ OGRFeature *SiteLayer::GetFeature(GIntBig fid)
 {
     if (fid <= 0)
         return nullptr;
+    noteIgnoredFields();
     // A walk of its own: reading one after another goes on where it was.
     std::unique_ptr<DataRows> walk = guarded([this] { return m_table->rows(); });
     m_rows.swap(walk);
@@ -321,15 +350,17 @@ OGRErr SiteLayer::GetExtent(OGREnvelope *extent, int force)
         if (!walk)
             return OGRERR_FAILURE;
         m_rows.swap(walk);
-        guarded([&] {
-            OGRFeature feature(m_definition);
+        OGREnvelope found;
+        const bool whole = guarded([&] {
             while (m_rows->advance())
-                if (feature.SetGeometryDirectly(nullptr); placeFeature(feature))
-                    if (const OGRGeometry *point = feature.GetGeometryRef())
-                        m_extent.Merge(point->toPoint()->getX(), point->toPoint()->getY());
+                if (const Position position = placeRow(); position.found)
+                    found.Merge(position.x, position.y);
             return true;
         });
         m_rows.swap(walk);
+        if (!whole)
+            return OGRERR_FAILURE;
+        m_extent = found;
     }
     *extent = m_extent;
     return m_extent.IsInit() ? OGRERR_NONE : OGRERR_FAILURE;
@@ -352,6 +383,12 @@ char **SiteLayer::problemsMetadata()
         return m_problems.List();
     m_problemsKnown = true;
     std::vector<RowProblem> problems;
+    if (m_unknownEpsg)
+        problems.push_back({0,
+                            {},
+                            false,
+                            "the file declares the coordinate system EPSG:" +
+                                m_table->facts().layout.epsg + ", which is not known"});
     if (m_targetUnreachable)
         problems.push_back({0,
                             {},
@@ -359,7 +396,13 @@ char **SiteLayer::problemsMetadata()
                             "the coordinate system of the file is not known: its coordinates are "
                             "taken as they are"});
     size_t count = problems.size();
-    count += guarded([&] { return m_table->findProblems(MostProblemsListed, problems); });
+    count += guarded([&] {
+        return m_table->findProblems(
+            MostProblemsListed, problems, {},
+            [this](int64_t row, Position &position, std::vector<RowProblem> &found) {
+                transform(row, position, found);
+            });
+    });
     m_problems.SetNameValue("COUNT", std::to_string(count).c_str());
     for (size_t i = 0; i < problems.size(); ++i) {
         const RowProblem &problem = problems[i];
@@ -386,7 +429,7 @@ const char *SiteLayer::GetMetadataItem(const char *name, const char *domain)
 
 char **SiteLayer::GetMetadataDomainList()
 {
-    return BuildMetadataDomainList(OGRLayer::GetMetadataDomainList(), TRUE, ProblemsDomain,
+    return BuildMetadataDomainList(OGRLayer::GetMetadataDomainList(), FALSE, ProblemsDomain,
                                    nullptr);
 }
 

@@ -32,7 +32,6 @@ public:
         return OGRLayer::GetExtent(geometryField, extent, force);
     }
     int TestCapability(const char *capability) override;
-    OGRErr SetIgnoredFields(const char **names) override;
 
     char **GetMetadata(const char *domain) override;
     const char *GetMetadataItem(const char *name, const char *domain) override;
@@ -41,9 +40,12 @@ public:
 private:
     void setSystems(const std::string &sourceSrs, const std::string &targetSrs);
     void defineFields();
+    void noteIgnoredFields();
     OGRFeature *readFeature();
     void setFields(OGRFeature &feature);
-    bool placeFeature(OGRFeature &feature);
+    Position placeRow();
+    void transform(int64_t row, Position &position, std::vector<RowProblem> &problems);
+    void placeFeature(OGRFeature &feature);
     void warn(std::vector<RowProblem> &problems);
     char **problemsMetadata();
     template<typename Action>
@@ -53,6 +55,7 @@ private:
     OGRFeatureDefn *m_definition;
     std::unique_ptr<OGRSpatialReference, void (*)(OGRSpatialReference *)> m_fileSrs;
     std::unique_ptr<OGRCoordinateTransformation> m_transformation;
+    bool m_unknownEpsg = false; ///< the file declares a system that nobody knows
     bool m_targetUnreachable =
         false; ///< a target system was asked for, but that of the file is not known
     FieldCells m_cells;
@@ -60,8 +63,9 @@ private:
     std::vector<char> m_ignored; ///< by field
     std::unique_ptr<DataRows> m_rows;
     bool m_failed = false;
-    int64_t m_warnedUpTo = 0;
+    std::set<int64_t> m_warnedRows; ///< a row is read more than once, but warned of once
     size_t m_warnings = 0;
+    bool m_problemsOmitted = false; ///< there were more than are said as warnings
     CPLStringList m_problems;
     bool m_problemsKnown = false;
     OGREnvelope m_extent;

@@ -114,8 +114,9 @@ std::unique_ptr<DataRows> SiteTable::rows()
         *m_sheet, std::shared_ptr<const TableProfile>(m_facts, &m_facts->table));
 }
 
-size_t SiteTable::findProblems(size_t most, std::vector<RowProblem> &problems,
-                               const std::function<bool(double)> &progress)
+size_t SiteTable::findProblems(
+    size_t most, std::vector<RowProblem> &problems, const std::function<bool(double)> &progress,
+    const std::function<void(int64_t, Position &, std::vector<RowProblem> &)> &further)
 {
     size_t count = 0;
     const auto keep = [&](std::vector<RowProblem> &found) {
@@ -134,7 +135,9 @@ size_t SiteTable::findProblems(size_t most, std::vector<RowProblem> &problems,
     const SitePlacer placer(m_facts->table, m_facts->layout);
     for (uint64_t row = 0; walk->advance(); ++row) {
         cells.take(walk->cells(), found);
-        placer.place(walk->rowNumber(), cells.cells(), found);
+        Position position = placer.place(walk->rowNumber(), cells.cells(), found);
+        if (further)
+            further(walk->rowNumber(), position, found);
         if (!found.empty())
             keep(found);
         if (progress && row % RowsPerProgress == 0 &&

@@ -3,6 +3,7 @@
 #include "cells/Cell.h"
 #include "cells/Numbers.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <optional>
@@ -64,6 +65,42 @@ const char *signFault(int sign)
                        : "it has a letter that is no hemisphere";
 }
 
+/// A sign above ASCII that a text starts with.
+struct Mark
+{
+    std::string_view bytes;
+    char meaning; ///< '-' a minus sign, ' ' one that only separates
+};
+
+/// Degree signs, primes, quotation marks and dashes; null for any other character.
+const Mark *markAt(std::string_view text)
+{
+    static constexpr std::array<Mark, 18> Marks = {{
+        {"\xC2\xB0", ' '},     // degree sign
+        {"\xC2\xBA", ' '},     // masculine ordinal, typed for it
+        {"\xCB\x9A", ' '},     // ring above, typed for it
+        {"\xC2\xB4", ' '},     // acute accent
+        {"\xC2\xA0", ' '},     // no-break space
+        {"\xE2\x80\xAF", ' '}, // narrow no-break space
+        {"\xE2\x80\x89", ' '}, // thin space
+        {"\xE2\x80\x98", ' '}, // single quotation marks
+        {"\xE2\x80\x99", ' '},
+        {"\xE2\x80\x9C", ' '}, // double quotation marks
+        {"\xE2\x80\x9D", ' '},
+        {"\xE2\x80\xB2", ' '}, // prime, double prime
+        {"\xE2\x80\xB3", ' '},
+        {"\xCA\xB9", ' '}, // modifier primes
+        {"\xCA\xBA", ' '},
+        {"\xE2\x88\x92", '-'}, // minus sign
+        {"\xE2\x80\x93", '-'}, // en dash, hyphen
+        {"\xE2\x80\x90", '-'},
+    }};
+    const auto found = std::find_if(Marks.begin(), Marks.end(), [text](const Mark &mark) {
+        return text.starts_with(mark.bytes);
+    });
+    return found == Marks.end() ? nullptr : &*found;
+}
+
 struct Parts
 {
     std::array<std::string_view, 3> texts;
@@ -97,11 +134,15 @@ Angle readAngle(std::string_view text, Axis axis)
     text = trimmed(text);
     if (text.empty())
         return fault("it is empty");
+    if (text.find_first_of("0123456789") == std::string_view::npos)
+        return fault("it holds no number");
     Parts parts;
     int sign = 0;
     bool negative = false;
+    bool unitLetters = false; ///< as in 48d51m24s: an s behind them is no hemisphere
     for (size_t at = 0; at < text.size();) {
-        const char c = text[at];
+        const Mark *mark = markAt(text.substr(at));
+        const char c = mark ? mark->meaning : text[at];
         if (isNumberByte(c)) {
             const size_t begin = at;
             while (at < text.size() && isNumberByte(text[at]))
@@ -117,7 +158,8 @@ Angle readAngle(std::string_view text, Axis axis)
             negative = c == '-';
         } else if (isLetter(c)) {
             const bool unitLetter = parts.count > 0 && ((c | 0x20) == 'd' || (c | 0x20) == 'm' ||
-                                                        (parts.count == 3 && c == 's'));
+                                                        (unitLetters && c == 's'));
+            unitLetters = unitLetters || unitLetter;
             if (!unitLetter) {
                 const int letter = hemisphereSign(c, axis);
                 if (letter > 1)
@@ -126,9 +168,9 @@ Angle readAngle(std::string_view text, Axis axis)
                     return fault("it has two hemisphere letters");
                 sign = letter;
             }
-        } else if (!(c & 0x80) && std::string_view(" \t'\":*").find(c) == std::string_view::npos)
+        } else if (std::string_view(" \t'\":*").find(c) == std::string_view::npos)
             return fault("it is not an angle");
-        ++at; // degree signs, primes and typographic quotes are several bytes above ASCII
+        at += mark ? mark->bytes.size() : 1;
     }
     return parts.count == 0 ? fault("it is not an angle") : assemble(parts, negative, sign);
 }
@@ -141,7 +183,10 @@ Angle joinAngle(std::string_view degrees, std::string_view minutes, std::string_
     const bool negative = degrees.starts_with('-');
     if (negative)
         degrees.remove_prefix(1);
-    Parts parts = {{degrees, minutes.empty() ? "0" : minutes, seconds.empty() ? "0" : seconds}, 3};
+    Parts parts = {{degrees, minutes.empty() ? "0" : minutes, seconds},
+                   !seconds.empty()   ? 3
+                   : !minutes.empty() ? 2
+                                      : 1};
     int sign = 0;
     if (!hemisphere.empty())
         sign = hemisphereSign(hemisphere[0], axis);

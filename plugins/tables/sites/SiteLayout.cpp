@@ -22,16 +22,13 @@ bool isOneOf(const std::string &word, std::initializer_list<const char *> words)
 
 bool isXWord(const std::string &word)
 {
-    return isOneOf(word,
-                   {"x", "lon", "long", "lng", "longitude", "longitud", "longitudine", "easting",
-                    "abscisse", "laenge", "l\xC3\xA4nge", "rechtswert", "d\xC5\x82"});
+    return isOneOf(word, {"x", "lon", "long", "lng", "longitude", "longitud", "longitudine",
+                          "easting", "abscisse", "laenge", "länge", "rechtswert", "dł"});
 }
 
 bool isYWord(const std::string &word)
 {
-    return isOneOf(word, {"y", "lat", "latitude", "latitud", "latitudine", "northing",
-                          "ordonn\xC3\xA9"
-                          "e",
+    return isOneOf(word, {"y", "lat", "latitude", "latitud", "latitudine", "northing", "ordonnée",
                           "breite", "hochwert", "sz"});
 }
 
@@ -79,6 +76,12 @@ Role roleOf(const std::string &name)
         else
             role.rest += word + ' ';
     }
+    if (words == Words{"ns"} || words == Words{"n", "s"} || words == Words{"ew"} ||
+        words == Words{"e", "w"}) {
+        axisFound = true;
+        role.axis = words[0][0] == 'n' ? Axis::Y : Axis::X;
+        part = Role::Part::Hemisphere;
+    }
     if (!axisFound)
         return {};
     role.part = part;
@@ -89,6 +92,7 @@ Role roleOf(const std::string &name)
 std::vector<Role> rolesOf(const std::vector<Field> &fields)
 {
     std::vector<Role> roles;
+    roles.reserve(fields.size());
     for (const Field &field : fields)
         roles.push_back(roleOf(field.name));
     return roles;
@@ -111,15 +115,30 @@ int strongest(const std::vector<Role> &roles, Axis axis, const std::string *rest
     return best;
 }
 
-CoordinateFields coordinateFields(const std::vector<Role> &roles, int value)
+/// Whether the cells hold hemispheres of an axis: letters or words that start with them.
+bool holdsHemispheres(const Field &field, Axis axis)
+{
+    const std::string_view letters = axis == Axis::X ? "EWew" : "NSns";
+    return !field.samples.empty() &&
+           std::all_of(field.samples.begin(), field.samples.end(), [&](const std::string &text) {
+               return !text.empty() && letters.find(text[0]) != std::string_view::npos;
+           });
+}
+
+CoordinateFields coordinateFields(const std::vector<Role> &roles, const std::vector<Field> &table,
+                                  int value)
 {
     CoordinateFields fields;
     fields.value = value;
     if (value < 0)
         return fields;
     const Role &degrees = roles[static_cast<size_t>(value)];
-    for (size_t i = 0; i < roles.size() && degrees.part == Role::Part::Degrees; ++i) {
+    const bool inParts = degrees.part == Role::Part::Degrees;
+    for (size_t i = 0; i < roles.size(); ++i) {
         if (roles[i].axis != degrees.axis)
+            continue;
+        if (!inParts &&
+            (roles[i].part != Role::Part::Hemisphere || !holdsHemispheres(table[i], degrees.axis)))
             continue;
         int *slot = roles[i].part == Role::Part::Minutes      ? &fields.minutes
                     : roles[i].part == Role::Part::Seconds    ? &fields.seconds
@@ -272,8 +291,8 @@ SiteLayout recogniseSiteLayout(const TableProfile &table)
     const int x = strongest(roles, Axis::X, nullptr);
     const int y = strongest(roles, Axis::Y, x >= 0 ? &roles[static_cast<size_t>(x)].rest : nullptr);
     if (x >= 0 && y >= 0) {
-        layout.x = coordinateFields(roles, x);
-        layout.y = coordinateFields(roles, y);
+        layout.x = coordinateFields(roles, table.fields, x);
+        layout.y = coordinateFields(roles, table.fields, y);
     } else
         layout.pair = findPair(table.fields);
     layout.format = recogniseFormat(table.fields);

@@ -19,6 +19,17 @@ std::string textOf(const std::vector<const Cell *> &cells, int field)
     return cell ? std::string(trimmed(cellText(*cell))) : std::string();
 }
 
+/// A coordinate with the hemisphere from a column of its own; one with a sign has its own already,
+/// which must not contradict.
+std::string withHemisphere(std::string text, const std::string &hemisphere)
+{
+    const bool hasLetter = text.find_first_of("NSEWnsew") != std::string::npos;
+    const bool southOrWest = std::string_view("SWsw").find(hemisphere[0]) != std::string_view::npos;
+    if (!hasLetter && !text.empty() && !(text[0] == '-' && southOrWest))
+        text += std::string(" ") + hemisphere[0];
+    return text;
+}
+
 } // namespace
 
 RowProblem SitePlacer::problem(int64_t row, int field, const std::string &value,
@@ -42,7 +53,11 @@ bool SitePlacer::readAxis(int64_t row, const CoordinateFields &fields, Axis axis
                           std::vector<RowProblem> &problems) const
 {
     const Cell *cell = cells[static_cast<size_t>(fields.value)];
-    if (cell && !fields.inParts() &&
+    const std::string hemisphere =
+        fields.hemisphere >= 0 && m_layout->unit != CoordinateUnit::Meters
+            ? textOf(cells, fields.hemisphere)
+            : std::string();
+    if (cell && !fields.inParts() && hemisphere.empty() &&
         (cell->kind == Cell::Kind::Number || cell->kind == Cell::Kind::Text)) {
         std::optional<double> number = cell->number;
         if (!cell->text.empty())
@@ -69,9 +84,9 @@ bool SitePlacer::readAxis(int64_t row, const CoordinateFields &fields, Axis axis
     Angle angle;
     if (fields.inParts())
         angle = joinAngle(text, textOf(cells, fields.minutes), textOf(cells, fields.seconds),
-                          textOf(cells, fields.hemisphere), axis);
+                          hemisphere, axis);
     else
-        angle = readAngle(text, axis);
+        angle = readAngle(hemisphere.empty() ? text : withHemisphere(text, hemisphere), axis);
     if (angle.fault)
         problems.push_back(problem(row, fields.value, text, angle.fault));
     value = angle.degrees;

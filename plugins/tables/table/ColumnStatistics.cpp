@@ -29,7 +29,8 @@ void ColumnStatistics::add(const Cell &cell)
     ++m_filled;
     const std::string_view text = trimmed(cell.text);
     if (m_samples.size() < SamplesKept)
-        m_samples.push_back(cell.text.empty() ? cellText(cell) : std::string(text));
+        m_samples.push_back(cell.text.empty() || isOverlong(cell) ? cellText(cell)
+                                                                  : std::string(text));
     if (cell.kind == Cell::Kind::Number && text.empty()) {
         ++m_numbers;
         const bool whole =

@@ -3,14 +3,14 @@
 #include "bytes/Refusal.h"
 
 #include <algorithm>
-#include <set>
+#include <map>
 
 namespace vlt::tables {
 
 namespace {
 
 constexpr uint64_t RowsSampledFirst = 1000;
-constexpr uint64_t SampleEvery = 128; ///< of the rows behind the first ones
+constexpr uint64_t SampleEvery = 256; ///< of the rows behind the first ones
 constexpr uint64_t RowsPerMark = 4096;
 constexpr size_t MostSheetsLookedAt = 64;
 constexpr double FullShare =
@@ -95,18 +95,22 @@ struct Sample
     }
 };
 
-std::string uniqueName(std::string name, std::set<std::string> &taken)
+/// `taken` holds the names given so far with the number that the next one like it is tried with.
+std::string uniqueName(const std::string &name, std::map<std::string, int> &taken)
 {
-    for (int number = 2; !taken.insert(name).second; ++number)
-        name = name.substr(0, name.rfind('_') != std::string::npos && number > 2 ? name.rfind('_')
-                                                                                 : name.size()) +
-               '_' + std::to_string(number);
-    return name;
+    const auto [first, isNew] = taken.emplace(name, 2);
+    if (isNew)
+        return name;
+    for (;;) {
+        std::string numbered = name + '_' + std::to_string(first->second++);
+        if (taken.emplace(numbered, 2).second)
+            return numbered;
+    }
 }
 
 void makeFields(TableProfile &profile, const Sample &sample, const TableHints &hints)
 {
-    std::set<std::string> taken;
+    std::map<std::string, int> taken;
     const int lastNamed = profile.header.names.rbegin()->first;
     const int width = std::max(lastNamed + 1, static_cast<int>(sample.columns.size()));
     for (int column = 0; column < width; ++column) {
@@ -203,10 +207,16 @@ DataRows::DataRows(const Sheet &sheet, std::shared_ptr<const TableProfile> profi
 bool DataRows::isData()
 {
     m_parsed = false;
-    if (m_rows->rowNumber() <= m_profile->header.row || !m_rows->hasContent(m_profile->lastColumn))
+    // Not the last field's column: fields without a name join only after the rows were counted.
+    const int lastNamed = m_profile->header.names.rbegin()->first;
+    if (m_rows->rowNumber() <= m_profile->header.row || !m_rows->hasContent(lastNamed))
         return false;
-    return m_rows->fingerprint() != m_profile->header.fingerprint ||
-           !repeatsHeader(cells(), m_profile->header);
+    if (m_rows->fingerprint() != m_profile->header.fingerprint)
+        return true;
+    m_rows->leaveOutTexts(nullptr); // names are texts, too
+    const bool repeated = repeatsHeader(cells(), m_profile->header);
+    m_rows->leaveOutTexts(m_leftOut);
+    return !repeated;
 }
 
 bool DataRows::advance()

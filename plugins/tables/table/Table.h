@@ -75,7 +75,11 @@ public:
     int64_t rowNumber() const { return m_rows->rowNumber(); }
     uint64_t position() const { return m_rows->position(); }
     /// See RowReader::leaveOutTexts().
-    void leaveOutTexts(const std::vector<char> *columns) { m_rows->leaveOutTexts(columns); }
+    void leaveOutTexts(const std::vector<char> *columns)
+    {
+        m_leftOut = columns;
+        m_rows->leaveOutTexts(columns);
+    }
     /// The cells of the row; views live until the next row.
     const Row &cells();
 
@@ -85,6 +89,7 @@ private:
     const Sheet *m_sheet;
     std::shared_ptr<const TableProfile> m_profile;
     std::unique_ptr<RowReader> m_rows;
+    const std::vector<char> *m_leftOut = nullptr;
     Row m_row;
     bool m_parsed = false;
 };

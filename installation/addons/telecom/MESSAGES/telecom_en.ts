@@ -153,6 +153,11 @@ Coordinates are _C_ and are specified in _U_</translation>
         <extracomment>Followed by a colon and a number.</extracomment>
         <translation>rows that could not be placed</translation>
     </message>
+    <message id="MESS_CLI_NO_NAME_FIELD">
+        <source>the table has no such column: its sites have no name in the layer</source>
+        <extracomment>Follows the name of the column.</extracomment>
+        <translation>the table has no such column: its sites have no name in the layer</translation>
+    </message>
     <message id="MESS_CLI_NO_SRS">
         <source>no coordinate system is known: give --source-srs and --target-srs</source>
         <extracomment>Keep the two options.</extracomment>

@@ -153,6 +153,11 @@ Les coordonnées sont _C_ et exprimées en _U_</translation>
         <extracomment>Followed by a colon and a number.</extracomment>
         <translation>lignes qui ne peuvent pas être placées</translation>
     </message>
+    <message id="MESS_CLI_NO_NAME_FIELD">
+        <source>the table has no such column: its sites have no name in the layer</source>
+        <extracomment>Follows the name of the column.</extracomment>
+        <translation>la table n'a pas cette colonne&#xa0;: ses sites n'ont pas de nom dans la couche</translation>
+    </message>
     <message id="MESS_CLI_NO_SRS">
         <source>no coordinate system is known: give --source-srs and --target-srs</source>
         <extracomment>Keep the two options.</extracomment>

@@ -194,7 +194,9 @@ TextFormat findTextFormat(const InputFile &file, const TextHints &hints)
         encoding = wideEncoding(text);
     if (encoding == "UTF-8")
         encoding.clear();
-    if (encoding.empty() && hints.encoding.empty() && !isUtf8(text))
+    // A character cut at the end of the sample goes on behind it, but not at the end of the file.
+    const std::string cutShort = head.size() < TextSampleSize ? text + '\n' : text;
+    if (encoding.empty() && hints.encoding.empty() && !isUtf8(cutShort))
         encoding = "CP1252";
     if (!encoding.empty())
         text = recoded(text, encoding);
@@ -205,7 +207,7 @@ TextFormat findTextFormat(const InputFile &file, const TextHints &hints)
         format.delimiter = text[4];
         format.firstRow = 2;
         if (format.encoding.empty()) // in wider encodings the line is read as a title row
-            format.start += text.starts_with("sep=") && text.substr(5, 2) == "\r\n" ? 7 : 6;
+            format.start += text.substr(5, 2) == "\r\n" ? 7 : 6;
         else
             format.firstRow = 1;
         return format;

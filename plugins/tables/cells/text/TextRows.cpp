@@ -29,10 +29,9 @@ bool isFilled(std::string_view field)
 } // namespace
 
 TextRows::TextRows(std::unique_ptr<ByteSource> stream, char delimiter, int64_t firstRow,
-                   uint64_t position, std::atomic<bool> *notUtf8)
+                   uint64_t position)
     : m_input(std::move(stream))
     , m_delimiter(delimiter)
-    , m_notUtf8(notUtf8)
     , m_windowPosition(position)
     , m_number(firstRow - 1)
 {
@@ -42,7 +41,6 @@ TextRows::TextRows(std::unique_ptr<ByteSource> stream, char delimiter, int64_t f
 /// Appends to the window, keeping the current row.
 bool TextRows::more()
 {
-    const size_t kept = static_cast<size_t>(m_input.end() - m_row);
     const uint64_t dropped = static_cast<uint64_t>(m_row - m_input.begin());
     if (m_atEnd || !m_input.more(m_row)) {
         m_atEnd = true;
@@ -50,11 +48,6 @@ bool TextRows::more()
     }
     m_windowPosition += dropped;
     m_row = m_input.begin();
-    const std::string_view added(m_row + kept, static_cast<size_t>(m_input.end() - m_row) - kept);
-    // What the encoding was guessed from is known to fit.
-    const bool guessedFrom = m_windowPosition + kept < TextSampleSize;
-    if (!guessedFrom && !m_notUtf8->load(std::memory_order_relaxed) && !isUtf8Piece(added))
-        m_notUtf8->store(true, std::memory_order_relaxed);
     return true;
 }
 

@@ -4,8 +4,6 @@
 #include "cells/RowReader.h"
 #include "cells/text/TextFormat.h"
 
-#include <atomic>
-
 namespace vlt::tables {
 
 /// Rows of a delimited text (RFC 4180, read leniently).
@@ -17,9 +15,8 @@ class TextRows : public RowReader
 {
 public:
     /// The stream starts at a row, which is number `firstRow`, `position` bytes into the file.
-    /// `notUtf8` is set when a byte is met that is not UTF-8.
     TextRows(std::unique_ptr<ByteSource> stream, char delimiter, int64_t firstRow,
-             uint64_t position, std::atomic<bool> *notUtf8);
+             uint64_t position);
 
     bool advance() override;
     int64_t rowNumber() const override { return m_number; }
@@ -39,7 +36,6 @@ private:
 
     ChunkedInput m_input;
     char m_delimiter;
-    std::atomic<bool> *m_notUtf8;
     uint64_t m_windowPosition;
     int64_t m_number;
     const char *m_row = nullptr;    ///< the current row

@@ -3,9 +3,44 @@
 #include "bytes/RecodeSource.h"
 #include "cells/text/TextRows.h"
 
+#include <algorithm>
+#include <atomic>
+
 namespace vlt::tables {
 
 namespace {
+
+/// Passes bytes on and notices when they are not UTF-8; works where the bytes are fetched.
+class WatchedSource : public ByteSource
+{
+public:
+    WatchedSource(std::unique_ptr<ByteSource> source, std::atomic<bool> &notUtf8)
+        : m_source(std::move(source))
+        , m_notUtf8(notUtf8)
+    {}
+
+    size_t read(char *to, size_t size) override
+    {
+        const size_t got = m_source->read(to, size);
+        if (!m_notUtf8.load(std::memory_order_relaxed) && !goesOnAsUtf8({to, got}))
+            m_notUtf8.store(true, std::memory_order_relaxed);
+        return got;
+    }
+
+private:
+    /// A character may be cut between two pieces, but then the second has to complete it.
+    bool goesOnAsUtf8(std::string_view piece)
+    {
+        const std::string seam = m_tail + (piece.empty() ? "\n" : std::string(piece.substr(0, 3)));
+        const std::string_view end = piece.size() < 3 ? std::string_view(seam) : piece;
+        m_tail = end.substr(end.size() - std::min<size_t>(end.size(), 3));
+        return isUtf8Piece(piece) && isUtf8Piece(seam);
+    }
+
+    std::string m_tail; ///< the last bytes of the piece before
+    std::unique_ptr<ByteSource> m_source;
+    std::atomic<bool> &m_notUtf8;
+};
 
 class TextSheet : public Sheet
 {
@@ -52,10 +87,11 @@ private:
     {
         std::unique_ptr<ByteSource> source = std::make_unique<FileSource>(
             m_file, std::vector<Extent>{{position, m_file->size() - position}});
-        if (!m_format.encoding.empty())
+        if (m_format.encoding.empty() && m_guessed)
+            source = std::make_unique<WatchedSource>(std::move(source), m_notUtf8);
+        else if (!m_format.encoding.empty())
             source = std::make_unique<RecodeSource>(std::move(source), m_format.encoding);
-        return std::make_unique<TextRows>(std::move(source), m_format.delimiter, number, position,
-                                          &m_notUtf8);
+        return std::make_unique<TextRows>(std::move(source), m_format.delimiter, number, position);
     }
 
     std::shared_ptr<const InputFile> m_file;

@@ -73,10 +73,11 @@ public:
     {
         m_context->strings = std::make_shared<XlsStrings>(m_file, m_stream);
         readGlobals();
-        for (size_t style = 0; style < m_styleFormats.size(); ++style) {
-            const auto own = m_formats.find(m_styleFormats[style]);
-            m_context->dateStyles.push_back(
-                own != m_formats.end() ? own->second : isDateFormatId(m_styleFormats[style]));
+        m_context->dateStyles.reserve(m_styleFormats.size());
+        for (const int format : m_styleFormats) {
+            const auto own = m_formats.find(format);
+            m_context->dateStyles.push_back(own != m_formats.end() ? own->second
+                                                                   : isDateFormatId(format));
         }
     }
 

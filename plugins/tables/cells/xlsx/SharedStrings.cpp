@@ -17,7 +17,12 @@ constexpr size_t EscapeSize = 7; ///< _xHHHH_
 /// Replaces _xHHHH_ by the control character it stands for.
 void replaceEscapes(std::string &text)
 {
-    for (size_t at = text.find("_x"); at != std::string::npos; at = text.find("_x", at + 1)) {
+    size_t at = text.find("_x");
+    if (at == std::string::npos)
+        return;
+    std::string plain;
+    size_t done = 0;
+    for (; at != std::string::npos; at = text.find("_x", std::max(at + 1, done))) {
         unsigned code = 0;
         if (at + EscapeSize > text.size() || text[at + EscapeSize - 1] != '_')
             continue;
@@ -25,8 +30,11 @@ void replaceEscapes(std::string &text)
         const auto [end, error] = std::from_chars(digits, digits + 4, code, 16);
         if (error != std::errc() || end != digits + 4 || code >= 0x80)
             continue;
-        text.replace(at, EscapeSize, 1, static_cast<char>(code));
+        plain.append(text, done, at - done);
+        plain += static_cast<char>(code);
+        done = at + EscapeSize;
     }
+    text = plain.append(text, done);
 }
 
 } // namespace
@@ -74,6 +82,7 @@ public:
         XmlTag tag;
         for (;;) {
             while (!nextTag(m_at, m_input.end(), tag)) {
+                refuseEndlessMarkup(tag.begin, m_input.end());
                 const bool more = m_input.more(tag.begin);
                 m_at = more ? m_input.begin() : m_input.end();
                 if (!more)

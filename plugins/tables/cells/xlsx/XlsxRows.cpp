@@ -12,7 +12,7 @@ namespace vlt::tables {
 
 namespace {
 
-constexpr XmlRowFramer::Names SheetNames = {"sheetData", "row", "r"};
+constexpr XmlRowFramer::Names SheetNames = {"worksheet", "sheetData", "row", "r"};
 
 bool isBlank(char c)
 {

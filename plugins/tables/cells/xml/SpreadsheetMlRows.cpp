@@ -9,7 +9,7 @@ namespace vlt::tables {
 
 namespace {
 
-constexpr XmlRowFramer::Names TableNames = {"Table", "Row", "Index"};
+constexpr XmlRowFramer::Names TableNames = {"Worksheet", "Table", "Row", "Index"};
 constexpr std::string_view MidnightSuffix = "T00:00:00.000";
 
 /// A Cell element that holds a Data element.

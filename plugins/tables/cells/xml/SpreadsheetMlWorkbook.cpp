@@ -7,12 +7,14 @@
 #include "cells/xml/SpreadsheetMlRows.h"
 
 #include <algorithm>
+#include <cstring>
 
 namespace vlt::tables {
 
 namespace {
 
 constexpr size_t HeadSize = 4096;
+constexpr std::ptrdiff_t LongestTagName = 256;
 constexpr char WebPage[] = "this is a web page, not a workbook: save it as .xlsx or .csv";
 constexpr std::string_view Namespace = "urn:schemas-microsoft-com:office:spreadsheet";
 
@@ -77,6 +79,20 @@ private:
     bool m_hidden;
 };
 
+/// Where the tag starts whose name ends in the word at `name`; null when the word is not part of a
+/// tag's name. Looks back to `from` at most.
+const char *tagStart(const char *from, const char *name)
+{
+    const char *limit = name - from > LongestTagName ? name - LongestTagName : from;
+    for (const char *at = name; at-- > limit;) {
+        if (*at == '<')
+            return at;
+        if (std::strchr(" \t\r\n\"'=>&;", *at))
+            return nullptr;
+    }
+    return nullptr;
+}
+
 /// Finds the worksheets one after another: the first is usually the only one that anybody asks for.
 class SpreadsheetMlWorkbook : public Workbook
 {
@@ -91,10 +107,12 @@ public:
         for (;;) {
             XmlTag tag;
             const char *found = findText(at, input.end(), "Worksheet");
-            const char *open = found;
-            while (found != input.end() && open > input.begin() && *open != '<')
-                --open;
-            if (found != input.end() && nextTag(open, input.end(), tag) && tag.begin == open) {
+            const char *open = found == input.end() ? found : tagStart(at, found);
+            if (found != input.end() && !open) { // the word stands in a text
+                at = found + 1;
+                continue;
+            }
+            if (found != input.end() && nextTag(open, input.end(), tag)) {
                 at = tag.end;
                 if (!tag.opens("Worksheet"))
                     continue;
@@ -105,9 +123,11 @@ public:
                         m_file, m_offset, name ? decodeXml(*name) : "Sheet", false);
                 continue;
             }
-            const size_t window = static_cast<size_t>(input.end() - input.begin());
-            const char *keep =
-                found != input.end() ? open : input.end() - std::min(window, HeadSize);
+            const std::ptrdiff_t window = input.end() - input.begin();
+            const char *keep = found != input.end()
+                                   ? open
+                                   : input.end() - std::min<std::ptrdiff_t>(window, LongestTagName);
+            refuseEndlessMarkup(open, input.end());
             windowOffset += static_cast<uint64_t>(keep - input.begin());
             if (!input.more(keep))
                 return nullptr;
@@ -139,7 +159,7 @@ std::string uppercase(std::string text)
 
 } // namespace
 
-std::unique_ptr<Workbook> openSpreadsheetMl(std::shared_ptr<const InputFile> file)
+std::unique_ptr<Workbook> openSpreadsheetMl(const std::shared_ptr<const InputFile> &file)
 {
     XmlFile xml = {file, 0, {}};
     const std::string head = file->head(HeadSize);

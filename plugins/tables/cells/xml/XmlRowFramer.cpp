@@ -4,8 +4,15 @@
 #include "cells/ByteScan.h"
 
 #include <charconv>
+#include <limits>
 
 namespace vlt::tables {
+
+namespace {
+
+constexpr int64_t LastRowNumber = std::numeric_limits<int32_t>::max();
+
+} // namespace
 
 XmlRowFramer::XmlRowFramer(std::unique_ptr<ByteSource> source, const Names &names,
                            bool insideContainer, int64_t firstRow, uint64_t streamOffset)
@@ -20,6 +27,7 @@ XmlRowFramer::XmlRowFramer(std::unique_ptr<ByteSource> source, const Names &name
 bool XmlRowFramer::readTag(XmlTag &tag)
 {
     while (!nextTag(m_at, m_input.end(), tag)) {
+        refuseEndlessMarkup(tag.begin, m_input.end());
         m_windowOffset += static_cast<uint64_t>(tag.begin - m_input.begin());
         const bool more = m_input.more(tag.begin);
         m_at = more ? m_input.begin() : m_input.end();
@@ -33,11 +41,14 @@ bool XmlRowFramer::readTag(XmlTag &tag)
 bool XmlRowFramer::enterContainer()
 {
     XmlTag tag;
-    while (readTag(tag))
+    while (readTag(tag)) {
+        if (tag.closes(m_names.sheet)) // the rows further on are those of another sheet
+            return false;
         if (tag.opens(m_names.container)) {
             m_entered = true;
             return tag.kind == XmlTag::Kind::Open;
         }
+    }
     return false;
 }
 
@@ -56,8 +67,13 @@ bool XmlRowFramer::advance()
         if (!tag.opens(m_names.row))
             continue;
         int64_t number = m_nextRow;
-        if (const auto text = attribute(tag.attributes, m_names.number))
-            std::from_chars(text->data(), text->data() + text->size(), number);
+        if (const auto text = attribute(tag.attributes, m_names.number)) {
+            int64_t said = 0;
+            std::from_chars(text->data(), text->data() + text->size(), said);
+            // Rows ascend: a number that goes back would name two sites alike.
+            if (said >= m_nextRow && said <= LastRowNumber)
+                number = said;
+        }
         m_rowNumber = number;
         m_nextRow = number + 1;
         if (tag.kind == XmlTag::Kind::Empty)

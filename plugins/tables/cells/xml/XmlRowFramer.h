@@ -16,6 +16,7 @@ public:
     /// What the elements are called (local names) and which attribute gives a row's number.
     struct Names
     {
+        std::string_view sheet;     ///< holds the container, if there is one
         std::string_view container; ///< holds the rows
         std::string_view row;
         std::string_view number;

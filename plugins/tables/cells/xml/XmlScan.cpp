@@ -12,6 +12,7 @@ namespace vlt::tables {
 namespace {
 
 constexpr uint32_t LastCodePoint = 0x10FFFF;
+constexpr size_t LongestEntity = 16; ///< "&#x0010FFFF;" and some more zeros
 
 bool isBlank(char c)
 {
@@ -131,6 +132,12 @@ bool nextTag(const char *at, const char *end, XmlTag &tag)
     return true;
 }
 
+void refuseEndlessMarkup(const char *begin, const char *end)
+{
+    if (static_cast<size_t>(end - begin) > LongestMarkup)
+        throw RefusedFile(Refusal::Malformed, "a tag or comment in the XML is unreasonably long");
+}
+
 std::optional<std::string_view> attribute(std::string_view attributes, std::string_view localName)
 {
     const char *p = attributes.data();
@@ -172,10 +179,11 @@ std::string decodeXml(std::string_view text)
     std::string result;
     result.reserve(text.size());
     for (size_t at = 0; at < text.size(); ++at) {
-        const size_t semicolon = text[at] == '&' ? text.find(';', at) : std::string_view::npos;
-        if (semicolon != std::string_view::npos &&
-            appendEntity(result, text.substr(at + 1, semicolon - at - 1)))
-            at = semicolon;
+        const size_t length =
+            text[at] == '&' ? text.substr(at, LongestEntity).find(';') : std::string_view::npos;
+        if (length != std::string_view::npos &&
+            appendEntity(result, text.substr(at + 1, length - 1)))
+            at += length;
         else if (text[at] == '\r') {
             if (at + 1 == text.size() || text[at + 1] != '\n')
                 result += '\n';

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -38,6 +39,12 @@ struct XmlTag
 /// tag.begin is then where the incomplete one starts, or `end`. Throws RefusedFile (DocumentType)
 /// at a document type declaration: entities are never defined, let alone fetched.
 bool nextTag(const char *at, const char *end, XmlTag &tag);
+
+/// Longest piece of markup in a stream: an incomplete one is looked through again with each chunk.
+constexpr size_t LongestMarkup = size_t{4} << 20;
+
+/// Throws RefusedFile (Malformed) where an incomplete piece is already longer than that.
+void refuseEndlessMarkup(const char *begin, const char *end);
 
 /// Value of an attribute by its local name, entities undecoded; nothing when it is not there.
 std::optional<std::string_view> attribute(std::string_view attributes, std::string_view localName);
