@@ -132,6 +132,105 @@ private Q_SLOTS:
         QCOMPARE(feature->GetFieldAsString("Site ID"), "008");
     }
 
+    void countsWhatItReads_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<int>("rows");
+        const QByteArray header = "Site ID;X;Y;Name\n";
+        QByteArray latin1 = header;
+        for (int i = 0; i < 9000; ++i)
+            latin1 += QByteArray::number(i) + ";2.5;48;\xE9\xE8\xE9\xE8\xE9 Kergu\xE9len\n";
+        for (int shift = 0; shift < 3; ++shift) // characters fall on the edges of chunks
+            QTest::addRow("Latin-1, shifted by %d", shift)
+                << QByteArray(latin1).prepend("A;").replace(0, 2, QByteArray(shift, 'T') + "\n")
+                << 9000;
+        QByteArray repeated = header;
+        for (int i = 0; i < 3000; ++i)
+            repeated += QByteArray::number(i) + ";2.5;48;n\n" + (i == 2000 ? header : QByteArray());
+        QTest::newRow("the header once more far below") << repeated << 3000;
+        QTest::newRow("a row with nothing but an unnamed column")
+            << QByteArray("Site ID;X;Y;\n1;2;3;a\n2;3;4;b\n;;;c\n") << 2;
+        const QByteArray ml =
+            "<?xml version=\"1.0\"?><Workbook "
+            "xmlns=\"urn:schemas-microsoft-com:office:spreadsheet\" "
+            "xmlns:ss=\"urn:schemas-microsoft-com:office:spreadsheet\"><Title>My Worksheet</Title>"
+            "<Worksheet ss:Name=\"Cover\"/><Worksheet ss:Name=\"S\"><Table>";
+        const auto row = [](const QByteArray &attributes, const QByteArray &id) {
+            return "<Row " + attributes + "><Cell><Data ss:Type=\"String\">" + id +
+                   "</Data></Cell><Cell><Data ss:Type=\"String\">X</Data></Cell><Cell><Data "
+                   "ss:Type=\"String\">Y"
+                   "</Data></Cell></Row>";
+        };
+        QTest::newRow("a worksheet without a table, numbers out of order")
+            << ml + row("", "Site ID") + row("ss:Index=\"9\"", "a") + row("ss:Index=\"3\"", "b") +
+                   "</Table></Worksheet></Workbook>"
+            << 2;
+        QTest::newRow("30,000 equal names and 3 MB of ampersands")
+            << QByteArray("Site;X;").append(QByteArray("n;").repeated(30000)) + "\na;1;2;" +
+                   QByteArray(3000000, '&') + "\n"
+            << 1;
+    }
+    void countsWhatItReads()
+    {
+        QFETCH(QByteArray, text);
+        QFETCH(int, rows);
+        const Warnings warnings;
+        write("n.csv", text);
+        const auto dataset = open("n.csv");
+        QVERIFY(dataset);
+        OGRLayer *layer = dataset->GetLayer(0);
+        int read = 0;
+        qint64 last = 0;
+        while (OGRFeatureUniquePtr feature{layer->GetNextFeature()}) {
+            QVERIFY(feature->GetFID() > last);
+            last = feature->GetFID();
+            ++read;
+        }
+
+        QCOMPARE(layer->GetFeatureCount(), rows);
+        QCOMPARE(read, rows);
+    }
+
+    void placesSites_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<QString>("position");
+        QTest::newRow("minus sign U+2212")
+            << QByteArray("ID;Lon;Lat\n1;−3.37;47\n") << QStringLiteral("-3.37 47");
+        QTest::newRow("hemispheres beside degrees")
+            << QByteArray("ID;Lat;Lat Direction;Lon;Lon Direction\n1;12.5;S;77.25;W\n")
+            << QStringLiteral("-77.25 -12.5");
+        QTest::newRow("hemisphere against a sign")
+            << QByteArray("ID;Lat;Lat Direction;Lon;Lon Direction\n1;-12.5;N;77.25;W\n")
+            << QString();
+        QTest::newRow("lower-case south")
+            << QByteArray("ID;Lat;Lon\n1;33 51 0.0 s;18 30 0 e\n") << QStringLiteral("18.5 -33.85");
+        QTest::newRow("degrees and decimal minutes")
+            << QByteArray("ID;Lat Deg;Lat Min;Lon Deg;Lon Min\n1;47;30.0;-3;15.0\n")
+            << QStringLiteral("-3.25 47.5");
+        QTest::newRow("null island") << QByteArray("ID;Lat;Lon\n1;0;0\n") << QString();
+        QTest::newRow("unknown system in a title")
+            << QByteArray("EPSG:999999\nID;Lat;Lon\n1;47;-3\n") << QStringLiteral("-3 47");
+    }
+    void placesSites()
+    {
+        QFETCH(QByteArray, text);
+        QFETCH(QString, position);
+        const Warnings warnings;
+        write("p.csv", text);
+        const auto dataset = open("p.csv");
+        QVERIFY(dataset);
+        OGRFeatureUniquePtr feature{dataset->GetLayer(0)->GetNextFeature()};
+        const OGRGeometry *geometry = feature->GetGeometryRef();
+
+        QCOMPARE(geometry != nullptr, !position.isEmpty());
+        if (geometry)
+            QCOMPARE(QStringLiteral("%1 %2")
+                         .arg(geometry->toPoint()->getX())
+                         .arg(geometry->toPoint()->getY()),
+                     position);
+    }
+
     void transformsToTheTargetSystem()
     {
         const Warnings warnings;
@@ -184,7 +283,7 @@ private Q_SLOTS:
     }
 
 private:
-    void write(const char *name, const char *text)
+    void write(const char *name, const QByteArray &text)
     {
         QFile file(m_folder.filePath(QLatin1String(name)));
         QVERIFY(file.open(QIODevice::WriteOnly) && file.write(text) > 0);
