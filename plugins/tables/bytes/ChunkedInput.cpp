@@ -13,6 +13,10 @@
 #include <system_error>
 #include <thread>
 
+#if defined(__linux__)
+#include <sched.h>
+#endif
+
 namespace vlt::tables {
 
 namespace {
@@ -25,13 +29,36 @@ constexpr size_t BuffersAhead = 3;
 constexpr int SpinTurns = 2000;
 constexpr size_t LongestRow = size_t{256} << 20;
 
-/// Lets the other thread of the core go on for a moment.
 void relax()
 {
 #if defined(__x86_64__)
     __builtin_ia32_pause();
 #else
     std::this_thread::yield();
+#endif
+}
+
+/// Moves the new thread off the core of the one that started it, where the scheduler would leave it
+/// for as long as a whole table takes; from then on it may run anywhere again.
+void leaveCore([[maybe_unused]] int core)
+{
+#if defined(__linux__)
+    cpu_set_t all;
+    if (core < 0 || sched_getaffinity(0, sizeof all, &all) != 0)
+        return;
+    cpu_set_t others = all;
+    CPU_CLR(core, &others);
+    if (CPU_COUNT(&others) > 0 && sched_setaffinity(0, sizeof others, &others) == 0)
+        sched_setaffinity(0, sizeof all, &all);
+#endif
+}
+
+int currentCore()
+{
+#if defined(__linux__)
+    return sched_getcpu();
+#else
+    return -1;
 #endif
 }
 
@@ -89,7 +116,10 @@ private:
     bool startThread()
     {
         try {
-            m_thread = std::thread([this] { run(); });
+            m_thread = std::thread([this, core = currentCore()] {
+                leaveCore(core);
+                run();
+            });
         } catch (const std::system_error &) {
             m_synchronous = std::numeric_limits<int>::max();
         }

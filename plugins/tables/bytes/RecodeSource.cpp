@@ -12,6 +12,7 @@ namespace vlt::tables {
 
 namespace {
 
+constexpr size_t EdgeSize = 16; ///< room for any character
 constexpr size_t InputSize = size_t{64} << 10;
 constexpr char Replacement[] = "\xEF\xBF\xBD";
 constexpr size_t LongestMeaningful =
@@ -70,14 +71,14 @@ void RecodeSource::fillInput()
 /// handed out in pieces: 0 would mean the end.
 size_t RecodeSource::read(char *to, size_t size)
 {
-    if (m_edgeBegin == m_edgeEnd && size >= m_edge.size())
+    if (m_edgeBegin == m_edge.size() && size >= EdgeSize)
         return convert(to, size);
-    if (m_edgeBegin == m_edgeEnd) {
+    if (m_edgeBegin == m_edge.size()) {
         m_edgeBegin = 0;
-        m_edgeEnd = convert(m_edge.data(), m_edge.size());
+        m_edge.resize(EdgeSize);
+        m_edge.resize(convert(m_edge.data(), EdgeSize));
     }
-    const size_t got = std::min(size, m_edgeEnd - m_edgeBegin);
-    std::memcpy(to, m_edge.data() + m_edgeBegin, got);
+    const size_t got = m_edge.copy(to, size, m_edgeBegin);
     m_edgeBegin += got;
     return got;
 }

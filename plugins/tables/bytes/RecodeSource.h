@@ -2,7 +2,6 @@
 
 #include "bytes/ByteSource.h"
 
-#include <array>
 #include <memory>
 #include <string>
 #include <vector>
@@ -29,9 +28,8 @@ private:
     std::vector<char> m_input;
     size_t m_inputBegin = 0;
     size_t m_inputEnd = 0;
-    std::array<char, 16> m_edge = {}; ///< characters that the caller had no room for as a whole
+    std::string m_edge; ///< characters that the caller had no room for as a whole
     size_t m_edgeBegin = 0;
-    size_t m_edgeEnd = 0;
     size_t m_unit = 1; ///< bytes to step over after a sequence that means nothing
     bool m_inputEnded = false;
 };

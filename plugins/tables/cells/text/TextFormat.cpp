@@ -4,6 +4,7 @@
 #include "bytes/Refusal.h"
 
 #include <algorithm>
+#include <bit>
 #include <cmath>
 #include <cstring>
 #include <map>
@@ -18,22 +19,33 @@ constexpr std::string_view Delimiters =
     ";\t|,"; ///< the earlier wins between equals: commas are decimal marks, too
 constexpr size_t ControlShare = 200; ///< one control character in so many is still a text
 
+/// The first byte above ASCII at or behind `at`; the size of the text when there is none.
+size_t skipAscii(std::string_view text, size_t at)
+{
+    constexpr uint64_t HighBits = 0x8080808080808080U;
+    constexpr size_t Word = sizeof(uint64_t);
+    uint64_t words[4];
+    for (; at + sizeof words <= text.size(); at += sizeof words) {
+        std::memcpy(words, text.data() + at, sizeof words);
+        if (((words[0] | words[1] | words[2] | words[3]) & HighBits) != 0)
+            break;
+    }
+    for (; at + Word <= text.size(); at += Word) {
+        std::memcpy(words, text.data() + at, Word);
+        if (const uint64_t high = words[0] & HighBits)
+            return at + static_cast<size_t>(std::countr_zero(high)) / 8;
+    }
+    while (at < text.size() && (text[at] & 0x80) == 0)
+        ++at;
+    return at;
+}
+
 /// Whether the bytes are UTF-8 as far as they go; a character cut at the end counts as good.
 bool isUtf8(std::string_view text)
 {
-    constexpr size_t Block = 4 * sizeof(uint64_t);
-    for (size_t at = 0; at < text.size();) {
-        uint64_t words[4];
-        if (at + Block <= text.size()) {
-            std::memcpy(words, text.data() + at, Block);
-            if (((words[0] | words[1] | words[2] | words[3]) & 0x8080808080808080U) == 0) {
-                at += Block;
-                continue;
-            }
-        }
+    for (size_t at = skipAscii(text, 0); at < text.size(); at = skipAscii(text, at)) {
         const auto lead = static_cast<unsigned char>(text[at]);
-        const size_t length = lead < 0x80                    ? 1
-                              : lead >= 0xC2 && lead <= 0xDF ? 2
+        const size_t length = lead >= 0xC2 && lead <= 0xDF   ? 2
                               : lead >= 0xE0 && lead <= 0xEF ? 3
                               : lead >= 0xF0 && lead <= 0xF4 ? 4
                                                              : 0;
@@ -42,7 +54,7 @@ bool isUtf8(std::string_view text)
         for (size_t next = 1; next < length && at + next < text.size(); ++next)
             if ((static_cast<unsigned char>(text[at + next]) & 0xC0) != 0x80)
                 return false;
-        at += length;
+        at = std::min(at + length, text.size());
     }
     return true;
 }
