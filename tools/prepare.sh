@@ -19,7 +19,7 @@ prepare() {
             command -v sudo >/dev/null || { echo "root or sudo rights are needed to install: ${missing[*]}" >&2; exit 1; }
             asRoot=(sudo)
         fi
-        "${asRoot[@]}" apt-get update -qq
+        "${asRoot[@]}" apt-get update -qq || echo "some package lists could not be read; going on" >&2
         "${asRoot[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" \
             >/dev/null
     fi

@@ -157,16 +157,22 @@ char findDelimiter(std::string_view text, bool isWhole)
     return best;
 }
 
+bool looksLikeJson(std::string_view text)
+{
+    if (text[0] != '{' && text[0] != '[')
+        return false;
+    const size_t inner = text.find_first_not_of(" \t\r\n", 1);
+    return inner != std::string_view::npos &&
+           std::string_view("{[\"").find(text[inner]) != std::string_view::npos;
+}
+
 void refuseOtherKinds(std::string_view text)
 {
     const std::string_view start =
         text.substr(std::min(text.find_first_not_of(" \t\r\n"), text.size()));
     if (start.empty())
         throw RefusedFile(Refusal::Empty, "there is nothing but white space in the file");
-    const std::string_view inner = start.substr(1, 64).substr(
-        std::min(start.substr(1, 64).find_first_not_of(" \t\r\n"), start.substr(1, 64).size()));
-    if ((start[0] == '{' || start[0] == '[') &&
-        (inner.starts_with('{') || inner.starts_with('[') || inner.starts_with('"')))
+    if (looksLikeJson(start))
         throw RefusedFile(Refusal::NotSupportedFormat, "this looks like JSON, not like a table");
     if (start.starts_with("ID;P"))
         throw RefusedFile(Refusal::NotSupportedFormat,
