@@ -22,9 +22,10 @@ namespace vlt::tables {
 namespace {
 
 constexpr size_t ChunkSize = size_t{256} << 10;
-constexpr size_t Headroom = size_t{32}
-                            << 10; ///< room before a chunk for the tail of the one before
-constexpr size_t FirstChunkSize = size_t{64} << 10; ///< what a look at the header needs
+/// Room before a chunk for the tail of the one before.
+constexpr size_t Headroom = size_t{32} << 10;
+/// What a look at the header needs.
+constexpr size_t FirstChunkSize = size_t{64} << 10;
 constexpr size_t BuffersAhead = 3;
 constexpr int SpinTurns = 2000;
 constexpr size_t LongestRow = size_t{256} << 20;

@@ -38,8 +38,8 @@ private:
     std::unique_ptr<Fetcher> m_fetcher;
     std::unique_ptr<Buffer> m_current;
     std::unique_ptr<Buffer> m_spare;
-    std::vector<char>
-        m_spill; ///< holds the window while a record is longer than a chunk's headroom
+    /// Holds the window while a record is longer than a chunk's headroom.
+    std::vector<char> m_spill;
     const char *m_begin = nullptr;
     const char *m_end = nullptr;
 };

@@ -50,8 +50,10 @@ private:
     std::deque<std::string> m_kept;
 };
 
-/// White space at either end of `text` taken off (spaces, tabs, line ends, no-break spaces).
+/// What trimmed() does, without its short cut.
 std::string_view trimmedSlowly(std::string_view text);
+
+/// White space at either end of `text` taken off (spaces, tabs, line ends, no-break spaces, zeros).
 inline std::string_view trimmed(std::string_view text)
 {
     const auto isPlain = [](char c) { return c > ' ' && c < '\x7F'; };

@@ -60,8 +60,8 @@ public:
     virtual bool settleEncoding() { return true; }
     /// Called once before the rows are read with their cells; `rowCount` is how many there are.
     virtual void prepareStrings(uint64_t rowCount) const { static_cast<void>(rowCount); }
-    /// Kind of file and, where it was guessed, encoding and delimiter; for messages.
-    virtual std::string description() const = 0;
+    /// The encoding that was found in a text; empty for UTF-8 and for other formats.
+    virtual std::string encoding() const { return {}; }
 };
 
 /// A file of tables.

@@ -169,11 +169,12 @@ void SiteLayer::ResetReading()
 }
 
 /// Fields may be ignored at any time before a walk.
-void SiteLayer::noteIgnoredFields()
+std::unique_ptr<DataRows> SiteLayer::startWalk()
 {
     for (int field = 0; field < m_definition->GetFieldCount(); ++field)
         m_ignored[static_cast<size_t>(field)] =
             m_definition->GetFieldDefn(field)->IsIgnored() ? 1 : 0;
+    return m_table->rows();
 }
 
 void SiteLayer::warn(std::vector<RowProblem> &problems)
@@ -264,10 +265,8 @@ void SiteLayer::placeFeature(OGRFeature &feature)
 
 OGRFeature *SiteLayer::readFeature()
 {
-    if (!m_rows) {
-        noteIgnoredFields();
-        m_rows = m_table->rows();
-    }
+    if (!m_rows)
+        m_rows = startWalk();
     if (!m_rows->advance())
         return nullptr;
     auto feature = std::make_unique<OGRFeature>(m_definition);
@@ -304,7 +303,7 @@ OGRErr SiteLayer::SetNextByIndex(GIntBig index)
         return OGRERR_FAILURE;
     }
     const bool there = guarded([&] {
-        m_rows = m_table->rows();
+        m_rows = startWalk();
         GIntBig at = 0;
         while (at < index && m_rows->advance())
             ++at;
@@ -317,9 +316,8 @@ OGRFeature *SiteLayer::GetFeature(GIntBig fid)
 {
     if (fid <= 0)
         return nullptr;
-    noteIgnoredFields();
     // A walk of its own: reading one after another goes on where it was.
-    std::unique_ptr<DataRows> walk = guarded([this] { return m_table->rows(); });
+    std::unique_ptr<DataRows> walk = guarded([this] { return startWalk(); });
     m_rows.swap(walk);
     OGRFeature *feature = guarded([&]() -> OGRFeature * {
         if (!m_rows || !m_rows->seek(fid) || m_rows->rowNumber() != fid)
@@ -346,7 +344,7 @@ OGRErr SiteLayer::GetExtent(OGREnvelope *extent, int force)
     if (!m_extent.IsInit()) {
         if (!force)
             return OGRERR_FAILURE;
-        std::unique_ptr<DataRows> walk = guarded([this] { return m_table->rows(); });
+        std::unique_ptr<DataRows> walk = guarded([this] { return startWalk(); });
         if (!walk)
             return OGRERR_FAILURE;
         m_rows.swap(walk);
@@ -398,7 +396,7 @@ char **SiteLayer::problemsMetadata()
     size_t count = problems.size();
     count += guarded([&] {
         return m_table->findProblems(
-            MostProblemsListed, problems, {},
+            MostProblemsListed, problems,
             [this](int64_t row, Position &position, std::vector<RowProblem> &found) {
                 transform(row, position, found);
             });

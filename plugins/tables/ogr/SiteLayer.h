@@ -40,7 +40,7 @@ public:
 private:
     void setSystems(const std::string &sourceSrs, const std::string &targetSrs);
     void defineFields();
-    void noteIgnoredFields();
+    std::unique_ptr<DataRows> startWalk();
     OGRFeature *readFeature();
     void setFields(OGRFeature &feature);
     Position placeRow();

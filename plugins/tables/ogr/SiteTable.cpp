@@ -11,7 +11,6 @@ namespace vlt::tables {
 namespace {
 
 constexpr size_t TablesRemembered = 16;
-constexpr uint64_t RowsPerProgress = 4096;
 
 struct Remembered
 {
@@ -90,7 +89,11 @@ std::shared_ptr<SiteTable> SiteTable::open(const std::string &path, const TableO
 
 std::unique_ptr<Workbook> SiteTable::openFile() const
 {
-    return openWorkbook(m_file, m_name, {m_options.encoding, m_options.delimiter});
+    // An encoding that only the whole file told is not looked for again.
+    const bool known = m_options.encoding.empty() && m_facts;
+    return openWorkbook(
+        m_file, m_name,
+        {known ? m_facts->table.encoding : m_options.encoding, m_options.delimiter});
 }
 
 std::unique_ptr<DataRows> SiteTable::rows()
@@ -98,14 +101,6 @@ std::unique_ptr<DataRows> SiteTable::rows()
     if (!m_sheet) {
         const std::unique_ptr<Workbook> workbook = openFile();
         m_sheet = findSheet(*workbook, m_facts->table.sheet);
-        if (m_sheet->description() !=
-            m_facts->table.description) // an encoding that only the whole file told
-        {
-            const std::unique_ptr<RowReader> rows = m_sheet->rows();
-            while (rows->advance())
-                continue;
-            m_sheet->settleEncoding();
-        }
     }
     if (!m_stringsPrepared)
         m_sheet->prepareStrings(m_facts->table.rowCount);
@@ -115,7 +110,7 @@ std::unique_ptr<DataRows> SiteTable::rows()
 }
 
 size_t SiteTable::findProblems(
-    size_t most, std::vector<RowProblem> &problems, const std::function<bool(double)> &progress,
+    size_t most, std::vector<RowProblem> &problems,
     const std::function<void(int64_t, Position &, std::vector<RowProblem> &)> &further)
 {
     size_t count = 0;
@@ -133,16 +128,13 @@ size_t SiteTable::findProblems(
     const std::unique_ptr<DataRows> walk = rows();
     FieldCells cells(m_facts->table);
     const SitePlacer placer(m_facts->table, m_facts->layout);
-    for (uint64_t row = 0; walk->advance(); ++row) {
+    while (walk->advance()) {
         cells.take(walk->cells(), found);
         Position position = placer.place(walk->rowNumber(), cells.cells(), found);
         if (further)
             further(walk->rowNumber(), position, found);
         if (!found.empty())
             keep(found);
-        if (progress && row % RowsPerProgress == 0 &&
-            !progress(static_cast<double>(row) / static_cast<double>(m_facts->table.rowCount)))
-            break;
     }
     return count;
 }

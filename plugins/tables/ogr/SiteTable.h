@@ -44,12 +44,10 @@ public:
     std::unique_ptr<DataRows> rows();
 
     /// All rows that cannot be read in full, errors and lost values, at most `most` of them in
-    /// `problems`; returns how many there are. `progress` is asked now and then (share done, 0 ..
-    /// 1) and stops the search with false; `further` looks at each position in its turn.
+    /// `problems`; returns how many there are. `further` looks at each position in its turn.
     size_t findProblems(
         size_t most, std::vector<RowProblem> &problems,
-        const std::function<bool(double)> &progress = {},
-        const std::function<void(int64_t, Position &, std::vector<RowProblem> &)> &further = {});
+        const std::function<void(int64_t, Position &, std::vector<RowProblem> &)> &further);
 
 private:
     SiteTable(std::shared_ptr<const InputFile> file, std::string name, TableOptions options)

@@ -186,7 +186,7 @@ Table readTable(Workbook &workbook, const TableHints &hints)
     }
     if (profile->fields.size() < 2)
         throw RefusedFile(Refusal::OneColumn, "the table has only one column");
-    profile->description = chosen.sheet->description();
+    profile->encoding = chosen.sheet->encoding();
     return {chosen.sheet, profile};
 }
 

@@ -32,7 +32,7 @@ struct RowMark
 struct TableProfile
 {
     std::string sheet;
-    std::string description; ///< kind of file, encoding, delimiter
+    std::string encoding; ///< of a text that is not UTF-8, else empty
     Header header;
     std::vector<Field> fields;
     int lastColumn = 0; ///< the last column that is a field

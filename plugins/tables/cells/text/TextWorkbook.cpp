@@ -55,13 +55,7 @@ public:
 
     const std::string &name() const override { return m_name; }
 
-    std::string description() const override
-    {
-        const std::string delimiter =
-            m_format.delimiter == '\t' ? "tabs" : std::string("\"") + m_format.delimiter + '"';
-        return "text, " + (m_format.encoding.empty() ? "UTF-8" : m_format.encoding) +
-               ", columns separated by " + delimiter;
-    }
+    std::string encoding() const override { return m_format.encoding; }
 
     std::unique_ptr<RowReader> rows() const override
     {

@@ -2,6 +2,7 @@
 
 #include "bytes/LittleEndian.h"
 #include "bytes/RecodeSource.h"
+#include "cells/Utf8.h"
 
 namespace vlt::tables {
 
@@ -10,23 +11,6 @@ namespace {
 constexpr unsigned WideFlag = 0x01;
 constexpr unsigned ExtendedFlag = 0x04;
 constexpr unsigned RichFlag = 0x08;
-
-void appendUtf8(std::string &to, uint32_t code)
-{
-    if (code < 0x80)
-        to += static_cast<char>(code);
-    else if (code < 0x800)
-        to.append({static_cast<char>(0xC0 | code >> 6), static_cast<char>(0x80 | (code & 0x3F))});
-    else if (code < 0x10000)
-        to.append({static_cast<char>(0xE0 | code >> 12),
-                   static_cast<char>(0x80 | (code >> 6 & 0x3F)),
-                   static_cast<char>(0x80 | (code & 0x3F))});
-    else
-        to.append({static_cast<char>(0xF0 | code >> 18),
-                   static_cast<char>(0x80 | (code >> 12 & 0x3F)),
-                   static_cast<char>(0x80 | (code >> 6 & 0x3F)),
-                   static_cast<char>(0x80 | (code & 0x3F))});
-}
 
 } // namespace
 

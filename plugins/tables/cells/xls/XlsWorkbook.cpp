@@ -31,7 +31,6 @@ public:
 
     const std::string &name() const override { return m_name; }
     bool hidden() const override { return m_hidden; }
-    std::string description() const override { return m_context->isBiff8 ? "XLS" : "XLS (BIFF5)"; }
     std::unique_ptr<RowReader> rows() const override
     {
         return std::make_unique<XlsRows>(std::make_unique<FileSource>(m_file, m_stream), m_context);

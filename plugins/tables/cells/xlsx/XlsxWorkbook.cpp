@@ -119,7 +119,6 @@ public:
 
     const std::string &name() const override { return m_name; }
     bool hidden() const override { return m_hidden; }
-    std::string description() const override { return "XLSX"; }
     std::unique_ptr<RowReader> rows() const override
     {
         return std::make_unique<XlsxRows>(openPart(), m_context);

@@ -50,16 +50,13 @@ struct XmlFile
 class SpreadsheetMlSheet : public Sheet
 {
 public:
-    SpreadsheetMlSheet(XmlFile file, uint64_t offset, std::string name, bool hidden)
+    SpreadsheetMlSheet(XmlFile file, uint64_t offset, std::string name)
         : m_file(std::move(file))
         , m_offset(offset)
         , m_name(std::move(name))
-        , m_hidden(hidden)
     {}
 
     const std::string &name() const override { return m_name; }
-    bool hidden() const override { return m_hidden; }
-    std::string description() const override { return "SpreadsheetML"; }
     std::unique_ptr<RowReader> rows() const override
     {
         return std::make_unique<SpreadsheetMlRows>(m_file.from(m_offset), false, 1, m_offset);
@@ -76,7 +73,6 @@ private:
     XmlFile m_file;
     uint64_t m_offset; ///< behind the Worksheet tag
     std::string m_name;
-    bool m_hidden;
 };
 
 /// Where the tag starts whose name ends in the word at `name`; null when the word is not part of a
@@ -119,8 +115,8 @@ public:
                 m_offset = windowOffset + static_cast<uint64_t>(tag.end - input.begin());
                 const auto name = attribute(tag.attributes, "Name");
                 if (tag.kind == XmlTag::Kind::Open)
-                    return std::make_shared<SpreadsheetMlSheet>(
-                        m_file, m_offset, name ? decodeXml(*name) : "Sheet", false);
+                    return std::make_shared<SpreadsheetMlSheet>(m_file, m_offset,
+                                                                name ? decodeXml(*name) : "Sheet");
                 continue;
             }
             const std::ptrdiff_t window = input.end() - input.begin();

@@ -2,6 +2,7 @@
 
 #include "bytes/Refusal.h"
 #include "cells/ByteScan.h"
+#include "cells/Utf8.h"
 
 #include <charconv>
 #include <cstdint>
@@ -17,25 +18,6 @@ constexpr size_t LongestEntity = 16; ///< "&#x0010FFFF;" and some more zeros
 bool isBlank(char c)
 {
     return c == ' ' || c == '\t' || c == '\n' || c == '\r';
-}
-
-void appendUtf8(std::string &to, uint32_t code)
-{
-    if (code < 0x80)
-        to += static_cast<char>(code);
-    else if (code < 0x800) {
-        to += static_cast<char>(0xC0 | code >> 6);
-        to += static_cast<char>(0x80 | (code & 0x3F));
-    } else if (code < 0x10000) {
-        to += static_cast<char>(0xE0 | code >> 12);
-        to += static_cast<char>(0x80 | (code >> 6 & 0x3F));
-        to += static_cast<char>(0x80 | (code & 0x3F));
-    } else {
-        to += static_cast<char>(0xF0 | code >> 18);
-        to += static_cast<char>(0x80 | (code >> 12 & 0x3F));
-        to += static_cast<char>(0x80 | (code >> 6 & 0x3F));
-        to += static_cast<char>(0x80 | (code & 0x3F));
-    }
 }
 
 /// Appends what &name; stands for; false when the name is not known.
