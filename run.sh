@@ -1,22 +1,29 @@
 #!/bin/bash
-# Builds the programs, lays the installation tree and makes layers of the sample project.
+# Builds the programs, lays the installation tree and opens the wizard on the sample project.
 set -euo pipefail
 cd "$(dirname "$0")"
 source tools/prepare.sh
 
+usage="usage: ./run.sh [--layers]
+Installs what is missing, builds, lays the installation tree in build/install and opens the wizard on the sample
+project. With --layers, or where there is no display, it makes the sample project's site layers with vltlayers instead.
+A second run takes seconds."
+
+onlyLayers=
 case ${1:-} in
     "") ;;
-    *) echo "usage: ./run.sh
-Installs what is missing, builds, lays the installation tree in build/install and makes the sample project's site
-layers with vltlayers. A second run takes seconds."; [[ $1 == --help || $1 == -h ]] && exit 0 || exit 2 ;;
+    --layers) onlyLayers=yes ;;
+    -h | --help) echo "$usage"; exit 0 ;;
+    *) echo "$usage" >&2; exit 2 ;;
 esac
+[[ -n ${DISPLAY:-}${WAYLAND_DISPLAY:-} ]] || onlyLayers=yes
 
 install=$PWD/build/install
-layers=$PWD/build/layers
+samples=$install/examples/lorient
 log=$PWD/build/run.log
 
 prepare "${buildPackages[@]}"
-mkdir -p build "$layers"
+mkdir -p build
 echo "Building (log: $log) ..."
 { cmake --preset release && cmake --build --preset release && cmake --install build/release --prefix "$install"; } \
     >"$log" 2>&1 || { tail -n 30 "$log" >&2; exit 1; }
@@ -26,12 +33,25 @@ mkdir -p build/xdg/VELTARO
 printf '[General]\nINSTALL_DIR=%s\n' "$install" >build/xdg/VELTARO/Veltaro.conf
 export XDG_CONFIG_DIRS=$PWD/build/xdg:${XDG_CONFIG_DIRS:-/etc/xdg}
 
-samples=$install/examples/lorient
-"$install/vltlayers" info "$samples/sites.csv" --project "$samples/city.gvw"
-echo
-for table in sites.csv sites_asset.xlsx sites_atoll.csv sites_mentum.xls; do
-    "$install/vltlayers" site "$samples/$table" --project "$samples/city.gvw" -o "$layers/${table%.*}.lay" --quiet
-    echo "Layer made: $layers/${table%.*}.lay"
-done
-echo
-echo "Installation tree: $install    Try: $install/vltlayers --help"
+makeLayers() {
+    local layers=$PWD/build/layers table
+    mkdir -p "$layers"
+    "$install/vltlayers" info "$samples/sites.csv" --project "$samples/city.gvw"
+    echo
+    for table in sites.csv sites_asset.xlsx sites_atoll.csv sites_mentum.xls; do
+        "$install/vltlayers" site "$samples/$table" --project "$samples/city.gvw" -o "$layers/${table%.*}.lay" --quiet
+        echo "Layer made: $layers/${table%.*}.lay"
+    done
+    echo
+    echo "Installation tree: $install    Try: $install/vltlayers --help"
+}
+
+openWizard() {
+    echo "Opening the wizard. Try:"
+    echo "  1. Add site file, then Next: the sample project is chosen already."
+    echo "  2. Choose a table of $samples, such as sites.csv; the icon at the lower right becomes the layer."
+    echo "  3. Drag the icon onto a folder of your file manager, or copy it with Ctrl+C. Quit ends the program."
+    VLT_CURRENT_PROJECT=$samples/city.gvw "$install/VltTelecomLayers"
+}
+
+if [[ $onlyLayers ]]; then makeLayers; else openWizard; fi

@@ -4,7 +4,8 @@
 #       PLAIN  shared with the plug-ins: no Qt at all
 #   vlt_add_plugin(name ...)                 loadable module <name>.so: no Qt at all
 #   vlt_add_program(name [LOGIC] ...)        executable
-#   vlt_add_test(file.cpp LIBS ...)          one test program per tst_*.cpp, named after its file
+#   vlt_add_test(file.cpp [GUI] LIBS ...)    one test program per tst_*.cpp, named after its file
+#       GUI    on an X server of its own, as large as a small laptop's screen
 # vlt_check_architecture() walks the finished link graph and stops the configure step on a breach.
 
 function(vlt_apply_defaults target)
@@ -70,7 +71,7 @@ endfunction()
 
 # Tests run under a German locale (decimal comma) and with settings in a private directory.
 function(vlt_add_test file)
-  cmake_parse_arguments(T "" "TIMEOUT" "LIBS;ENV;DEPENDS" ${ARGN})
+  cmake_parse_arguments(T "GUI" "TIMEOUT" "LIBS;ENV;DEPENDS" ${ARGN})
   cmake_path(GET file STEM name)
   if(NOT T_TIMEOUT)
     set(T_TIMEOUT 120)
@@ -81,9 +82,15 @@ function(vlt_add_test file)
   if(T_DEPENDS)
     add_dependencies(${name} ${T_DEPENDS})
   endif()
-  add_test(NAME ${name} COMMAND ${name})
+  set(platform offscreen)
+  if(T_GUI AND VLT_XVFB_RUN)
+    set(platform xcb)
+    add_test(NAME ${name} COMMAND ${VLT_XVFB_RUN} -a -s "-screen 0 1366x768x24 +extension GLX" $<TARGET_FILE:${name}>)
+  else()
+    add_test(NAME ${name} COMMAND ${name})
+  endif()
   set_tests_properties(${name} PROPERTIES TIMEOUT ${T_TIMEOUT} ENVIRONMENT
-    "QT_QPA_PLATFORM=offscreen;LC_ALL=de_DE.UTF-8;LOCPATH=${PROJECT_BINARY_DIR}/locale;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0;XDG_CONFIG_HOME=${PROJECT_BINARY_DIR}/settings/${name};XDG_CONFIG_DIRS=${PROJECT_BINARY_DIR}/settings;${T_ENV}")
+    "QT_QPA_PLATFORM=${platform};LC_ALL=de_DE.UTF-8;LOCPATH=${PROJECT_BINARY_DIR}/locale;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0;XDG_CONFIG_HOME=${PROJECT_BINARY_DIR}/settings/${name};XDG_CONFIG_DIRS=${PROJECT_BINARY_DIR}/settings;${T_ENV}")
 endfunction()
 
 function(vlt_collect_links target seen_var)

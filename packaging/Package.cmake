@@ -1,4 +1,5 @@
-# cpack -G DEB in the build folder makes a Debian package: the installation tree under /opt, the command on the PATH.
+# cpack -G DEB in the build folder makes a Debian package: the installation tree under /opt, the commands, man pages,
+# desktop entry and icons linked to where the system looks for them (postinst).
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME vlttelecomlayers)
 set(CPACK_PACKAGE_CONTACT "VltTelecomLayers developers <developers@vlttelecomlayers.example>")

@@ -1,6 +1,7 @@
 #include "batch/Console.h"
 
 #include "language/VltLanguageManager.h"
+#include "sites/TableTexts.h"
 
 #include <cstdio>
 
@@ -27,13 +28,13 @@ ExitStatus refuse(const Error &error, const QString &detail)
 
 QString explain(const Error &error, const QString &detail)
 {
-    QString text = error.key.isEmpty() ? error.text
+    QString text = error.key.isEmpty() ? sites::tableText(error.text)
                                        : dico_label(error.key.toUtf8().constData(),
                                                     error.text.toUtf8().constData());
     if (!error.path.isEmpty())
         text = error.path + QStringLiteral(": ") + text;
     if (!detail.isEmpty())
-        text += QStringLiteral(" (") + detail + QLatin1Char(')');
+        text += QStringLiteral(" (") + sites::tableText(detail) + QLatin1Char(')');
     return oneLine(text);
 }
 

@@ -4,6 +4,7 @@
 #include "batch/Help.h"
 #include "batch/InfoReport.h"
 #include "batch/StartUp.h"
+#include "geodata/LayerProblems.h"
 
 #include <QFileInfo>
 
@@ -26,10 +27,10 @@ ExitStatus report(const QString &table, const GlobalOptions &options,
 
     const QString connection = QStringLiteral("site:") + info.file.filePath;
     info.columns = sites::recogniseSiteColumns(connection, QString());
-    const Result<geodata::LayerProblems> problems = geodata::readProblems(connection);
-    if (!problems)
-        return refuse({problems.error().key, problems.error().text, table});
-    info.problems = problems.value();
+    const Result<geodata::SiteCheck> check = geodata::readSiteCheck(connection, {});
+    if (!check)
+        return refuse({check.error().key, check.error().text, table});
+    info.problems = check.value().problems;
     if (const auto nameless = sites::missingNameField(info.file)) {
         info.problems.listed.prepend(*nameless);
         ++info.problems.count;

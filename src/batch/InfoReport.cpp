@@ -2,6 +2,8 @@
 
 #include "batch/Console.h"
 #include "language/VltLanguageManager.h"
+#include "sites/ColumnDescription.h"
+#include "sites/TableTexts.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -69,15 +71,10 @@ QList<Line> fileLines(const sites::SiteFileInfo &file)
 
 QList<Line> columnLines(const sites::SiteColumnSet &columns)
 {
-    return {
-        {dico_label("MESS_CLI_COLUMN_NAME", "Name column"), {columns.name}},
-        {dico_label("MESS_CLI_COLUMN_X", "X column"), {columns.x}},
-        {dico_label("MESS_CLI_COLUMN_Y", "Y column"), {columns.y}},
-        {dico_label("MESS_CLI_COLUMN_TERRAIN", "Terrain height column"), {columns.terrainHeight}},
-        {dico_label("MESS_CLI_COLUMN_SECTORS", "Sector columns"), columns.sectorIds},
-        {dico_label("MESS_CLI_COLUMN_HEIGHTS", "Height columns"), columns.heights},
-        {dico_label("MESS_CLI_COLUMN_AZIMUTHS", "Azimuth columns"), columns.azimuths},
-        {dico_label("MESS_CLI_COLUMN_TILTS", "Tilt columns"), columns.tilts}};
+    QList<Line> lines;
+    for (const sites::ColumnDescription &entry : sites::describeColumns(columns))
+        lines.append({entry.meaning, entry.columns});
+    return lines;
 }
 
 QString problemsText(const geodata::LayerProblems &problems)
@@ -102,7 +99,7 @@ QJsonArray problemsJson(const geodata::LayerProblems &problems)
                         {QStringLiteral("column"), problem.column},
                         {QStringLiteral("severity"),
                          isError ? QStringLiteral("error") : QStringLiteral("warning")},
-                        {QStringLiteral("text"), problem.text}});
+                        {QStringLiteral("text"), sites::tableText(problem.text)}});
     }
     return array;
 }
@@ -131,7 +128,7 @@ QString problemText(const Problem &problem)
         place << dico_label("MESS_CLI_COLUMN", "column") + QLatin1Char(' ') + problem.column;
     const QString where =
         place.isEmpty() ? QString() : place.join(QStringLiteral(", ")) + QStringLiteral(": ");
-    return oneLine(where + problem.text);
+    return oneLine(where + sites::tableText(problem.text));
 }
 
 QString reportText(const InfoReport &report)

@@ -6,7 +6,6 @@
 #include "batch/ProgressLine.h"
 #include "batch/SiteOptions.h"
 #include "batch/StartUp.h"
-#include "geodata/LayerPlacement.h"
 #include "geodata/LayerProblems.h"
 #include "language/VltLanguageManager.h"
 #include "sites/SiteColumnSet.h"
@@ -98,18 +97,16 @@ Result<Outcome> placeSites(const QString &query, const sites::ProjectContext &pr
 {
     const QString connection = sites::resolvedConnection(query, project.directory());
     ProgressLine line(dico_label("MESS_CLI_READING", "Reading the sites"), !quiet);
-    const Result<geodata::LayerPlacement> placement =
-        geodata::readLayerPlacement(connection, 0, [&line](double share) {
+    const Result<geodata::SiteCheck> check =
+        geodata::readSiteCheck(connection, [&line](double share) {
             line.show(share);
             return true;
         });
-    if (!placement)
-        return placement.error();
-    const Result<geodata::LayerProblems> problems = geodata::readProblems(connection);
-    if (!problems)
-        return problems.error();
-    const qint64 without = placement.value().features - placement.value().placed;
-    return Outcome{placement.value().placed, qMax(without, refusedRows(problems.value()))};
+    if (!check)
+        return check.error();
+    const geodata::LayerPlacement &placement = check.value().placement;
+    const qint64 without = placement.features - placement.placed;
+    return Outcome{placement.placed, qMax(without, refusedRows(check.value().problems))};
 }
 
 bool tell(const QString &output, const Outcome &outcome, const sites::SiteLayerInput &input,
@@ -190,12 +187,11 @@ ExitStatus runParsed(const QCommandLineParser &parser, const GlobalOptions &opti
     input.project = surroundings.project;
     input.installDir = surroundings.installDir;
     input.language = surroundings.language;
-    input.sourceSrs = parser.isSet(QStringLiteral("source-srs"))
-                          ? parser.value(QStringLiteral("source-srs"))
-                          : input.file.systems.source;
-    input.targetSrs = parser.isSet(QStringLiteral("target-srs"))
-                          ? parser.value(QStringLiteral("target-srs"))
-                          : input.file.systems.target;
+    const auto system = [&parser](const QString &option, const QString &otherwise) {
+        return sites::epsgText(parser.isSet(option) ? parser.value(option) : otherwise);
+    };
+    input.sourceSrs = system(QStringLiteral("source-srs"), input.file.systems.source);
+    input.targetSrs = system(QStringLiteral("target-srs"), input.file.systems.target);
     return makeLayer(input, table, output, options);
 }
 

@@ -2,30 +2,14 @@
 
 #include "app/Environment.h"
 #include "app/GeodataLibrary.h"
+#include "app/LoadMessages.h"
 #include "language/VltLanguageManager.h"
-#include "language/VltTranslator.h"
 #include "wizard/project/ProjectReaders.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
 
 namespace vlt::batch {
-
-namespace {
-
-void loadMessages(const QString &installDir, const app::StartupSettings &settings,
-                  const QString &language)
-{
-    VltLanguageManager &manager = VltLanguageManager::getInstance();
-    manager.defaultSetup(installDir + platform::separator(platform::nativePathStyle()) +
-                             settings.messagesDir,
-                         language, QString());
-    manager.findAndSetupAddOnsMessages(installDir + QStringLiteral("/addons/telecom/MESSAGES"),
-                                       QString());
-    QCoreApplication::installTranslator(new VltTranslator(QCoreApplication::instance()));
-}
-
-} // namespace
 
 Result<Surroundings> startUp(const GlobalOptions &options)
 {
@@ -36,8 +20,8 @@ Result<Surroundings> startUp(const GlobalOptions &options)
     surroundings.installDir = QFileInfo(chosen).absoluteFilePath();
     if (!options.installDir.isEmpty())
         qputenv("VLT_BIN_HOME", QFile::encodeName(surroundings.installDir));
-    loadMessages(surroundings.installDir, settings,
-                 options.language.isEmpty() ? settings.language : options.language);
+    app::loadMessages(surroundings.installDir, settings.messagesDir,
+                      options.language.isEmpty() ? settings.language : options.language);
     surroundings.language = VltLanguageManager::getInstance().getCurrentLanguage().text;
     if (!QFileInfo(surroundings.installDir).isDir())
         return Error{QString(), QStringLiteral("no such install directory"),

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Result.h"
+#include <QtGlobal>
 
 #include <functional>
 
@@ -15,11 +15,5 @@ struct LayerPlacement
     qint64 features = 0;
     qint64 placed = 0; ///< features with a geometry that is not empty
 };
-
-/// Walks through the layer of index `layerIndex` and counts. `progress` may be empty.
-///
-/// @par Errors   no key; the text is the driver's reason, or "cancelled".
-Result<LayerPlacement> readLayerPlacement(const QString &connection, int layerIndex,
-                                          const Progress &progress);
 
 } // namespace vlt::geodata

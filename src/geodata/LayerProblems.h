@@ -1,5 +1,6 @@
 #pragma once
 
+#include "geodata/LayerPlacement.h"
 #include "platform/Result.h"
 
 #include <QList>
@@ -14,13 +15,26 @@ struct LayerProblems
         listed; ///< the first of them: a driver may stop listing when there are very many
 };
 
-/// Reads the "problems" metadata domain of layer 0: an item COUNT and items PROBLEM_1, PROBLEM_2
-/// ... of the form row|column|severity|text. A layer without the domain has no problems.
-///
-/// @par Errors   no key; the text is the driver's reason.
-Result<LayerProblems> readProblems(const QString &connection);
+/// What all rows of a site table tell.
+struct SiteCheck
+{
+    LayerProblems problems;
+    LayerPlacement placement;
+};
 
-/// One item of the domain. Row and column may be empty; the text may hold further bars.
+/// Reads layer 0 of a table connection once, from its first row to its last: how many features have
+/// a place, and its "problems" metadata domain, an item COUNT and items PROBLEM_1, PROBLEM_2 ... in
+/// this order, of the form row|column|severity|text. A layer without the domain has no problems, a
+/// dataset without layers gives an empty value.
+///
+/// @param progress  may be empty; asked some fifty times in a second. Opening a table that was not
+///                  open before, and the texts of a large XLSX file, take their time without a
+///                  question.
+/// @par Errors   no key; the text is the driver's reason, or "cancelled" where `progress` answered
+///               false.
+Result<SiteCheck> readSiteCheck(const QString &connection, const Progress &progress);
+
+/// One item of the problems domain. Row and column may be empty; the text may hold further bars.
 Problem parseProblem(const QString &item);
 
 } // namespace vlt::geodata

@@ -1,5 +1,7 @@
 #include "geodata/TableDataset.h"
 
+#include "tabletexts/TextPatterns.h"
+
 #include <QFile>
 
 namespace vlt::geodata {
@@ -33,11 +35,11 @@ Result<GDALDatasetUniquePtr> openTable(const QString &connection, const ErrorCol
     // The path at the end has the file system's encoding; the options before it are ASCII.
     GDALDatasetUniquePtr dataset(
         GDALDataset::Open(QFile::encodeName(connection).constData(), GDAL_OF_VECTOR));
-    if (!dataset)
-        return Error{
-            QString(),
-            withoutPath(errors.failure(QStringLiteral("no driver for it was found")), connection),
-            {}};
+    if (!dataset) {
+        const QString noReader =
+            QString::fromStdString(tabletexts::formatted("MESS_TAB_NO_READER"));
+        return Error{QString(), withoutPath(errors.failure(noReader), connection), {}};
+    }
     return dataset;
 }
 

@@ -3,6 +3,7 @@
 #include "geodata/LayerInfo.h"
 #include "geodata/TerrainReferenceCode.h"
 #include "language/VltLanguageManager.h"
+#include "sites/TableTexts.h"
 #include "text/Templates.h"
 #include "wizard/project/ProjectReaders.h"
 
@@ -82,11 +83,15 @@ SiteFileInfo readSiteFileInfo(const QString &path, const ProjectContext &project
 
     const Result<geodata::LayerInfo> opened =
         geodata::readLayerInfo(QStringLiteral("site:") + path, 0);
+    const Error isEmpty{
+        QStringLiteral("MESS_ERR_EMPTY_SITE"), QStringLiteral("This site file is empty"), {}};
     if (!opened) {
-        info.error = Error{QStringLiteral("MESS_ERR_OPEN_SITE"),
-                           QStringLiteral("This file can't be open as a site file"),
-                           {}};
         info.errorDetail = opened.error().text;
+        info.error = isEmptyTable(info.errorDetail)
+                         ? isEmpty
+                         : Error{QStringLiteral("MESS_ERR_OPEN_SITE"),
+                                 QStringLiteral("This file can't be open as a site file"),
+                                 {}};
         return info;
     }
 
@@ -94,8 +99,7 @@ SiteFileInfo readSiteFileInfo(const QString &path, const ProjectContext &project
     info.filePath = path;
     const geodata::LayerInfo &layer = opened.value();
     if (!layer.present || layer.featureCount == 0) {
-        info.error = Error{
-            QStringLiteral("MESS_ERR_EMPTY_SITE"), QStringLiteral("This site file is empty"), {}};
+        info.error = isEmpty;
         return info;
     }
 

@@ -131,7 +131,7 @@ private Q_SLOTS:
         QCOMPARE(run.errors, QByteArray());
         const QByteArray layer = readFile(path("elsewhere/o.lay"));
         QCOMPARE(element(layer, "source"),
-                 "site:s_srs=EPSG:4326,t_srs=32631,data_folder=addons/telecom/pylons,"
+                 "site:s_srs=4326,t_srs=32631,data_folder=addons/telecom/pylons,"
                  "pylon_type=lattice_panel,pylon_width=10,sector_colors=ff000040 00ff0040 "
                  "0000ff40,sector_properties=150 30.5 0,transmitter_scale=0,lods=5000 1," +
                      path("s.csv").toUtf8());
@@ -140,6 +140,69 @@ private Q_SLOTS:
         const QJsonObject told = QJsonDocument::fromJson(run.output).object();
         QCOMPARE(told.value(QStringLiteral("sites")).toInt(), 2);
         QCOMPARE(told.value(QStringLiteral("layer")).toString(), path("elsewhere/o.lay"));
+    }
+
+    void writesSystemsAsTheWizardDoes_data()
+    {
+        QTest::addColumn<QString>("given");
+        QTest::addColumn<QByteArray>("carried");
+        QTest::newRow("any case, blanks") << QStringLiteral(" epsg:32631 ") << QByteArray("32631");
+        QTest::newRow("bare number") << QStringLiteral("32631") << QByteArray("32631");
+        QTest::newRow("another authority")
+            << QStringLiteral("ESRI:102100") << QByteArray("ESRI:102100");
+    }
+
+    void writesSystemsAsTheWizardDoes()
+    {
+        QFETCH(QString, given);
+        QFETCH(QByteArray, carried);
+        writeFile(path("s.csv"), Table);
+
+        const Run run = start({QStringLiteral("site"), QStringLiteral("../s.csv"),
+                               QStringLiteral("-oo.lay"), QStringLiteral("--source-srs"),
+                               QStringLiteral("EPSG:4326"), QStringLiteral("--target-srs"), given});
+
+        QCOMPARE(run.errors, QByteArray());
+        const QByteArray source = element(readFile(path("elsewhere/o.lay")), "source");
+        QVERIFY2(source.startsWith("site:s_srs=4326,t_srs=" + carried + ",data_folder="),
+                 source.constData());
+    }
+
+    void speaksFrenchOfTables_data()
+    {
+        QTest::addColumn<QString>("table");
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("a problem of a row")
+            << QStringLiteral("Site ID,Longitude,Latitude\nA,\"100%2 \"\"E\"\" %1\",45\nB,3,45\n")
+            << QStringList{QStringLiteral("info")}
+            << QStringLiteral("la coordonnée «\u00a0100%2 \"E\" %1\u00a0» ne peut "
+                              "pas être lue\u00a0: ce n'est pas un angle");
+        QTest::newRow("why a file is refused")
+            << QStringLiteral("{\"a\": [1, 2]}") << QStringList{QStringLiteral("info")}
+            << QStringLiteral("Fichier illisible (cela ressemble à du JSON, pas à une table)");
+        QTest::newRow("a system")
+            << QStringLiteral("Site ID,Longitude,Latitude\nA,2,45\n")
+            << QStringList{QStringLiteral("site"), QStringLiteral("-oo.lay"),
+                           QStringLiteral("--source-srs"), QStringLiteral("a: \"1\"")}
+            << QStringLiteral(
+                   "s.csv: le système de coordonnées «\u00a0a: \"1\"\u00a0» est inconnu");
+    }
+
+    void speaksFrenchOfTables()
+    {
+        QFETCH(QString, table);
+        QFETCH(QStringList, arguments);
+        QFETCH(QString, text);
+        QVERIFY(QFile::link(QStringLiteral(VLT_TABLE_TEXTS),
+                            path("install dir/MESSAGES/tables_fr.ts")));
+        writeFile(path("s.csv"), table.toUtf8());
+
+        const Run run = start(arguments << QStringLiteral("../s.csv")
+                                        << QStringLiteral("--language") << QStringLiteral("fr"));
+
+        const QByteArray told = run.output + run.errors;
+        QVERIFY2(told.contains(text.toUtf8()), told.constData());
     }
 
     void tellsWhichRowsCannotBePlaced()

@@ -42,7 +42,7 @@ private Q_SLOTS:
 
         const Angle angle = readAngle(text.toStdString(), isX ? Axis::X : Axis::Y);
 
-        QVERIFY2(!angle.fault, angle.fault);
+        QVERIFY2(!angle.fault, angle.fault ? angle.fault->text().key : "");
         QVERIFY(std::abs(angle.degrees - degrees) < 1e-6);
     }
 
@@ -58,7 +58,7 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, text);
 
-        QVERIFY(readAngle(text.toStdString(), Axis::Y).fault != nullptr);
+        QVERIFY(readAngle(text.toStdString(), Axis::Y).fault);
     }
 
     void readsPairs_data()
@@ -89,7 +89,7 @@ private Q_SLOTS:
 
         const CoordinatePair pair = readCoordinatePair(text.toStdString());
 
-        QCOMPARE(pair.fault == nullptr, good);
+        QCOMPARE(!pair.fault, good);
         QVERIFY(std::abs(pair.x - x) < 1e-9 && std::abs(pair.y - y) < 1e-9);
     }
 

@@ -24,6 +24,15 @@ private:
     }
 };
 
+QStringList problemsOf(OGRLayer &layer)
+{
+    QStringList items;
+    char **list = layer.GetMetadata("problems");
+    for (char **item = list; item && *item; ++item)
+        items += QString::fromUtf8(*item);
+    return items;
+}
+
 constexpr char Table[] = "Site ID;Longitude;Latitude;Height (m);Phone;Note\n"
                          "007;-3,25;47,5;30;+33612345678;a\n"
                          ";;;;;\n"
@@ -90,6 +99,68 @@ private Q_SLOTS:
         QCOMPARE(layer->GetMetadataItem("COUNT", "problems"), "1");
         QVERIFY(QString::fromUtf8(layer->GetMetadataItem("PROBLEM_1", "problems"))
                     .startsWith(QStringLiteral("4|Longitude|Error|")));
+    }
+
+    void keepsTheProblemsOfAWholeWalk_data()
+    {
+        QTest::addColumn<QByteArray>("filter");
+        QTest::addColumn<bool>("ignoresFields");
+        QTest::addColumn<int>("firstRow");
+        QTest::addColumn<int>("rows"); // -1: to the end
+        QTest::addColumn<bool>("keeps");
+        QTest::newRow("whole") << QByteArray() << false << 0 << -1 << true;
+        QTest::newRow("without fields") << QByteArray() << true << 0 << -1 << true;
+        QTest::newRow("filtered") << QByteArray("Height = 3") << false << 0 << -1 << true;
+        QTest::newRow("the first rows") << QByteArray() << false << 0 << 1400 << false;
+        QTest::newRow("the last rows") << QByteArray() << false << 1300 << -1 << false;
+    }
+    /// What was met on the way is there even when the file is gone; otherwise it is looked for.
+    void keepsTheProblemsOfAWholeWalk()
+    {
+        QFETCH(QByteArray, filter);
+        QFETCH(bool, ignoresFields);
+        QFETCH(int, firstRow);
+        QFETCH(int, rows);
+        QFETCH(bool, keeps);
+        const Warnings warnings;
+        // Types come from the first 1000 rows, so that "n/k" in row 1202 of the file is lost.
+        QByteArray text = "EPSG:999999\nSite ID;Lon;Lat;Height\n";
+        for (int i = 1; i <= 1500; ++i)
+            text += QByteArray::number(i) + (i == 1400 ? ";east;47;" : ";2.5;47;") +
+                    (i == 1200   ? "n/k\n"
+                     : i == 1401 ? "3;more\n"
+                                 : "3\n");
+        write("w.csv", text);
+        const QStringList expected = {
+            QStringLiteral("COUNT=5"),
+            QStringLiteral("PROBLEM_1=||Warning|the file declares the coordinate system "
+                           "EPSG:999999, which is not known"),
+            QStringLiteral("PROBLEM_2=1202|Height|Warning|the value \"n/k\" is lost: the column "
+                           "holds numbers"),
+            QStringLiteral("PROBLEM_3=1402|Lon|Warning|the value \"east\" is lost: the column "
+                           "holds numbers"),
+            QStringLiteral("PROBLEM_4=1402|Lon|Error|the coordinate \"east\" cannot be read: it "
+                           "holds no number"),
+            QStringLiteral("PROBLEM_5=1403||Warning|the row goes on behind the last column: "
+                           "\"more\" in column 5 has no header")};
+        const auto walked = open("w.csv");
+        OGRLayer *layer = walked->GetLayer(0);
+        const char *ignored[] = {"Site ID", "Lon", "Lat", "Height", nullptr};
+        if (ignoresFields)
+            layer->SetIgnoredFields(ignored);
+        if (!filter.isEmpty())
+            layer->SetAttributeFilter(filter.constData());
+        if (firstRow > 0)
+            QCOMPARE(layer->SetNextByIndex(firstRow), OGRERR_NONE);
+
+        int read = 0;
+        while (read != rows && OGRFeatureUniquePtr(layer->GetNextFeature()))
+            ++read;
+
+        QVERIFY(rows < 0 || read == rows);
+        if (keeps)
+            write("w.csv", "Site ID;Lon;Lat;Height\n");
+        QCOMPARE(problemsOf(*layer), expected);
     }
 
     void readsAtRandomWithoutDisturbingTheWalk()

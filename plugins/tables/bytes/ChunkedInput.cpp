@@ -235,7 +235,7 @@ void ChunkedInput::takeOver(std::unique_ptr<Buffer> next, const char *keepFrom)
 {
     const size_t tail = static_cast<size_t>(m_end - keepFrom);
     if (tail > LongestRow)
-        throw RefusedFile(Refusal::Malformed, "a single row is longer than 256 MiB");
+        throw RefusedFile(Refusal::Malformed, "MESS_TAB_LONG_ROW");
     if (tail <= Headroom) {
         char *start = next->data() - tail;
         if (tail > 0)

@@ -21,7 +21,7 @@ constexpr size_t MostEntries = 65536;
 
 [[noreturn]] void refuse()
 {
-    throw RefusedFile(Refusal::Malformed, "the workbook is damaged or cut short");
+    throw RefusedFile(Refusal::Malformed, "MESS_TAB_WORKBOOK_DAMAGED");
 }
 
 } // namespace

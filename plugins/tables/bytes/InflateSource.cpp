@@ -37,18 +37,15 @@ size_t InflateSource::read(char *to, size_t size)
         }
         const uint32_t inputBefore = m_state->avail_in;
         if (isal_inflate(m_state.get()) < 0)
-            throw RefusedFile(Refusal::Malformed,
-                              "the compressed data of the workbook are damaged");
+            throw RefusedFile(Refusal::Malformed, "MESS_TAB_DATA_DAMAGED");
         const bool stuck = m_inputEnded && inputBefore == 0 && m_state->avail_out == size;
         if (stuck && m_state->block_state != ISAL_BLOCK_FINISH)
-            throw RefusedFile(Refusal::Malformed,
-                              "the compressed data of the workbook are cut short");
+            throw RefusedFile(Refusal::Malformed, "MESS_TAB_DATA_CUT");
     }
     const size_t got = size - m_state->avail_out;
     m_crc = crc32_gzip_refl(m_crc, reinterpret_cast<const uint8_t *>(to), got);
     if (got == 0 && m_crc != m_expectedCrc)
-        throw RefusedFile(Refusal::Malformed,
-                          "the compressed data of the workbook fail their check sum");
+        throw RefusedFile(Refusal::Malformed, "MESS_TAB_CHECK_SUM");
     return got;
 }
 

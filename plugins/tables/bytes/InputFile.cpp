@@ -24,9 +24,9 @@ int64_t nanoseconds(const timespec &time)
 FileIdentity identityOf(const struct stat &status)
 {
     if (S_ISDIR(status.st_mode))
-        throw RefusedFile(Refusal::CannotRead, "this is a folder, not a file");
+        throw RefusedFile(Refusal::CannotRead, "MESS_TAB_FOLDER");
     if (!S_ISREG(status.st_mode)) // a pipe or a device could block or never end
-        throw RefusedFile(Refusal::CannotRead, "this is not a regular file");
+        throw RefusedFile(Refusal::CannotRead, "MESS_TAB_DEVICE");
     return {static_cast<uint64_t>(status.st_dev), static_cast<uint64_t>(status.st_ino),
             status.st_size, nanoseconds(status.st_mtim), nanoseconds(status.st_ctim)};
 }
@@ -34,10 +34,11 @@ FileIdentity identityOf(const struct stat &status)
 [[noreturn]] void refuseBySystem()
 {
     const int code = errno;
-    throw RefusedFile(Refusal::CannotRead,
-                      code == ENOENT
-                          ? "the file does not exist"
-                          : std::string("the file cannot be read: ") + std::strerror(code));
+    if (code == ENOENT)
+        throw RefusedFile(Refusal::CannotRead, "MESS_TAB_NO_FILE");
+    if (code == EACCES) // of the system's reasons the one that users meet
+        throw RefusedFile(Refusal::CannotRead, "MESS_TAB_NO_PERMISSION");
+    throw RefusedFile(Refusal::CannotRead, "MESS_TAB_UNREADABLE", {std::strerror(code)});
 }
 
 } // namespace
@@ -94,7 +95,7 @@ size_t InputFile::readAt(uint64_t offset, char *to, size_t size) const
 void InputFile::readExactly(uint64_t offset, char *to, size_t size) const
 {
     if (readAt(offset, to, size) != size)
-        throw RefusedFile(Refusal::Malformed, "the file is cut short");
+        throw RefusedFile(Refusal::Malformed, "MESS_TAB_FILE_CUT");
 }
 
 std::string InputFile::head(size_t size) const

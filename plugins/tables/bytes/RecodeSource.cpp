@@ -48,8 +48,7 @@ RecodeSource::RecodeSource(std::unique_ptr<ByteSource> source, const std::string
         m_unit = 4;
     // NOLINTNEXTLINE(performance-no-int-to-ptr): how iconv_open() says that it failed
     if (m_converter == reinterpret_cast<iconv_t>(-1))
-        throw RefusedFile(Refusal::NotSupportedFormat,
-                          "the encoding \"" + encoding + "\" is not known");
+        throw RefusedFile(Refusal::NotSupportedFormat, "MESS_TAB_ENCODING", {encoding});
 }
 
 RecodeSource::~RecodeSource()

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "tabletexts/TextPatterns.h"
+
 #include <stdexcept>
 #include <string>
 
@@ -19,13 +21,15 @@ enum class Refusal {
     BadOption,          ///< an option of the connection string or an open option cannot be used
 };
 
+using tabletexts::TextId;
+
 /// Thrown inside the reader, caught where the file was opened; the text names the reason for the
 /// user.
 class RefusedFile : public std::runtime_error
 {
 public:
-    RefusedFile(Refusal reason, const std::string &text)
-        : std::runtime_error(text)
+    RefusedFile(Refusal reason, TextId text, std::initializer_list<std::string_view> values = {})
+        : std::runtime_error(tabletexts::formatted(text, values))
         , m_reason(reason)
     {}
 

@@ -27,7 +27,7 @@ constexpr uint16_t EncryptedFlag = 1;
 constexpr uint32_t Marker32 = 0xffffffff;
 constexpr uint16_t Zip64Field = 1;
 
-[[noreturn]] void refuse(const char *text)
+[[noreturn]] void refuse(TextId text)
 {
     throw RefusedFile(Refusal::Malformed, text);
 }
@@ -60,10 +60,10 @@ ZipArchive::ZipArchive(std::shared_ptr<const InputFile> file) : m_file(std::move
             m_file->readExactly(endOffset - LocatorSize, locator, LocatorSize);
             char end64[End64Size];
             if (u32(locator) != Locator64Signature || u64(locator + 8) > fileSize)
-                refuse("the directory of the workbook is damaged");
+                refuse("MESS_TAB_DIRECTORY_DAMAGED");
             m_file->readExactly(u64(locator + 8), end64, End64Size);
             if (u32(end64) != End64Signature)
-                refuse("the directory of the workbook is damaged");
+                refuse("MESS_TAB_DIRECTORY_DAMAGED");
             size = u64(end64 + 40);
             offset = u64(end64 + 48);
         }
@@ -72,13 +72,13 @@ ZipArchive::ZipArchive(std::shared_ptr<const InputFile> file) : m_file(std::move
         readDirectory(offset, size);
         return;
     }
-    refuse("the workbook is cut short: its directory is missing");
+    refuse("MESS_TAB_NO_DIRECTORY");
 }
 
 void ZipArchive::readDirectory(uint64_t offset, uint64_t size)
 {
     if (size > LargestDirectory)
-        refuse("the directory of the workbook is damaged");
+        refuse("MESS_TAB_DIRECTORY_DAMAGED");
     std::vector<char> bytes(static_cast<size_t>(size));
     m_file->readExactly(offset, bytes.data(), bytes.size());
     const char *at = bytes.data();
@@ -88,7 +88,7 @@ void ZipArchive::readDirectory(uint64_t offset, uint64_t size)
         const size_t extraSize = u16(at + 30);
         const size_t whole = MemberSize + nameSize + extraSize + u16(at + 32);
         if (static_cast<size_t>(end - at) < whole)
-            refuse("the directory of the workbook is damaged");
+            refuse("MESS_TAB_DIRECTORY_DAMAGED");
         Member member = {u32(at + 42), u32(at + 20), u32(at + 16), u16(at + 10), u16(at + 8)};
         uint64_t inflatedSize = u32(at + 24);
         const char *extra = at + MemberSize + nameSize;
@@ -120,23 +120,22 @@ std::unique_ptr<ByteSource> ZipArchive::open(const std::string &name) const
 {
     const Member *member = find(name);
     if (!member)
-        throw RefusedFile(Refusal::Malformed, "the workbook lacks its part " + name);
+        throw RefusedFile(Refusal::Malformed, "MESS_TAB_NO_PART", {name});
     if (member->flags & EncryptedFlag)
-        throw RefusedFile(Refusal::Encrypted, "the workbook is protected by a password");
+        throw RefusedFile(Refusal::Encrypted, "MESS_TAB_PASSWORD");
     char local[LocalSize];
     m_file->readExactly(member->headerOffset, local, LocalSize);
     if (u32(local) != LocalSignature)
-        refuse("the workbook is damaged: a part is not where the directory says");
+        refuse("MESS_TAB_PART_MISPLACED");
     const uint64_t data = member->headerOffset + LocalSize + u16(local + 26) + u16(local + 28);
     if (data > m_file->size() || member->compressedSize > m_file->size() - data)
-        refuse("the workbook is cut short");
+        refuse("MESS_TAB_WORKBOOK_CUT");
     auto bytes =
         std::make_unique<FileSource>(m_file, std::vector<Extent>{{data, member->compressedSize}});
     if (member->method == 0)
         return bytes;
     if (member->method != 8)
-        throw RefusedFile(Refusal::NotSupportedFormat,
-                          "the workbook is packed by an unusual compression method");
+        throw RefusedFile(Refusal::NotSupportedFormat, "MESS_TAB_COMPRESSION");
     return std::make_unique<InflateSource>(std::move(bytes), member->crc);
 }
 
@@ -148,7 +147,7 @@ std::string ZipArchive::readAll(const std::string &name, size_t limit) const
     for (;;) {
         const size_t before = text.size();
         if (before > limit)
-            refuse("a part of the workbook is unreasonably large");
+            refuse("MESS_TAB_PART_TOO_LARGE");
         text.resize(before + Step);
         const size_t got = source->read(text.data() + before, Step);
         text.resize(before + got);

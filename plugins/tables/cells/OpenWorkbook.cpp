@@ -30,7 +30,7 @@ std::unique_ptr<Workbook> openWorkbook(std::shared_ptr<const InputFile> file,
 {
     const std::string head = file->head(HeadSize);
     if (head.empty())
-        throw RefusedFile(Refusal::Empty, "the file is empty");
+        throw RefusedFile(Refusal::Empty, "MESS_TAB_EMPTY_FILE");
     if (head.starts_with("PK\x03\x04"))
         return openXlsx(std::move(file));
     if (head.starts_with(CompoundFile::Signature))
@@ -42,7 +42,7 @@ std::unique_ptr<Workbook> openWorkbook(std::shared_ptr<const InputFile> file,
     if (startsWithTag(head))
         return openSpreadsheetMl(file);
     if (head.starts_with("%PDF-"))
-        throw RefusedFile(Refusal::NotSupportedFormat, "this is a PDF document, not a table");
+        throw RefusedFile(Refusal::NotSupportedFormat, "MESS_TAB_PDF");
     return openText(std::move(file), name, hints);
 }
 

@@ -56,9 +56,9 @@ int identify(GDALOpenInfo *info)
 void refuseRemote(const std::string &path)
 {
     if (path.empty())
-        throw RefusedFile(Refusal::CannotRead, "no file is named");
+        throw RefusedFile(Refusal::CannotRead, "MESS_TAB_NO_FILE_NAME");
     if (path.starts_with("/vsi") || path.find("://") != std::string::npos)
-        throw RefusedFile(Refusal::CannotRead, "tables are read from local files only");
+        throw RefusedFile(Refusal::CannotRead, "MESS_TAB_NOT_LOCAL");
 }
 
 GDALDataset *open(GDALOpenInfo *info)
@@ -67,8 +67,8 @@ GDALDataset *open(GDALOpenInfo *info)
         return nullptr;
     const auto connection = connection::parse(info->pszFilename);
     if (info->eAccess == GA_Update) {
-        CPLError(CE_Failure, CPLE_NotSupported, "%s: tables of sites are not written",
-                 info->pszFilename);
+        CPLError(CE_Failure, CPLE_NotSupported, "%s: %s", info->pszFilename,
+                 tabletexts::formatted("MESS_TAB_READ_ONLY").c_str());
         return nullptr;
     }
     try {
@@ -82,7 +82,8 @@ GDALDataset *open(GDALOpenInfo *info)
     } catch (const RefusedFile &refused) {
         CPLError(CE_Failure, CPLE_OpenFailed, "%s: %s", connection->path.c_str(), refused.what());
     } catch (const std::bad_alloc &) {
-        CPLError(CE_Failure, CPLE_OutOfMemory, "%s: out of memory", connection->path.c_str());
+        CPLError(CE_Failure, CPLE_OutOfMemory, "%s: %s", connection->path.c_str(),
+                 tabletexts::formatted("MESS_TAB_OUT_OF_MEMORY").c_str());
     }
     return nullptr;
 }

@@ -1,6 +1,7 @@
 #include "ogr/SiteLayer.h"
 
 #include "bytes/Refusal.h"
+#include "tabletexts/TextPatterns.h"
 
 #include <cpl_conv.h>
 #include <cpl_error.h>
@@ -13,8 +14,9 @@ namespace vlt::tables {
 
 namespace {
 
+using tabletexts::formatted;
+
 constexpr size_t MostWarnings = 50;
-constexpr size_t MostProblemsListed = 1000;
 constexpr char ProblemsDomain[] = "problems";
 
 void release(OGRSpatialReference *srs)
@@ -42,7 +44,7 @@ OGRSpatialReference *makeSrs(const std::string &text)
     if (error == OGRERR_NONE)
         return srs;
     srs->Release();
-    throw RefusedFile(Refusal::BadOption, "the coordinate system \"" + text + "\" is not known");
+    throw RefusedFile(Refusal::BadOption, "MESS_TAB_UNKNOWN_SRS", {text});
 }
 
 OGRFieldType ogrType(FieldType type)
@@ -137,8 +139,7 @@ void SiteLayer::setSystems(const std::string &sourceSrs, const std::string &targ
     if (target && m_fileSrs && !target->IsSame(m_fileSrs.get())) {
         m_transformation.reset(OGRCreateCoordinateTransformation(m_fileSrs.get(), target.get()));
         if (!m_transformation)
-            throw RefusedFile(Refusal::BadOption, "there is no way from the coordinate system \"" +
-                                                      source + "\" to \"" + targetSrs + "\"");
+            throw RefusedFile(Refusal::BadOption, "MESS_TAB_NO_WAY", {source, targetSrs});
     }
     // Where the file's system is not known its numbers are taken as the target's, which is said
     // among the problems.
@@ -156,7 +157,8 @@ auto SiteLayer::guarded(Action action) -> decltype(action())
     } catch (const RefusedFile &refused) {
         CPLError(CE_Failure, CPLE_FileIO, "%s: %s", GetDescription(), refused.what());
     } catch (const std::bad_alloc &) {
-        CPLError(CE_Failure, CPLE_OutOfMemory, "%s: out of memory", GetDescription());
+        CPLError(CE_Failure, CPLE_OutOfMemory, "%s: %s", GetDescription(),
+                 formatted("MESS_TAB_OUT_OF_MEMORY").c_str());
     }
     m_failed = true;
     return {};
@@ -165,6 +167,7 @@ auto SiteLayer::guarded(Action action) -> decltype(action())
 void SiteLayer::ResetReading()
 {
     m_rows.reset();
+    m_walked.reset();
     m_failed = false;
 }
 
@@ -177,8 +180,10 @@ std::unique_ptr<DataRows> SiteLayer::startWalk()
     return m_table->rows();
 }
 
-void SiteLayer::warn(std::vector<RowProblem> &problems)
+void SiteLayer::warn(const std::vector<RowProblem> &problems)
 {
+    if (problems.empty())
+        return;
     const bool isNew = !m_problemsOmitted && m_warnedRows.insert(problems.front().row).second;
     for (const RowProblem &problem : problems) {
         if (!isNew || m_problemsOmitted)
@@ -189,11 +194,9 @@ void SiteLayer::warn(std::vector<RowProblem> &problems)
                      describe(problem).c_str());
             continue;
         }
-        CPLError(CE_Warning, CPLE_AppDefined,
-                 "%s: further problems are listed in the layer's metadata domain \"problems\"",
-                 GetDescription());
+        CPLError(CE_Warning, CPLE_AppDefined, "%s: %s", GetDescription(),
+                 formatted("MESS_TAB_FURTHER_PROBLEMS").c_str());
     }
-    problems.clear();
 }
 
 void SiteLayer::setFields(OGRFeature &feature)
@@ -227,15 +230,12 @@ void SiteLayer::setFields(OGRFeature &feature)
     }
 }
 
-Position SiteLayer::placeRow()
+Position SiteLayer::placeRow(std::vector<RowProblem> &problems)
 {
-    std::vector<RowProblem> problems;
     const int64_t row = m_rows->rowNumber();
     m_cells.take(m_rows->cells(), problems);
     Position position = m_placer.place(row, m_cells.cells(), problems);
     transform(row, position, problems);
-    if (!problems.empty())
-        warn(problems);
     return position;
 }
 
@@ -248,13 +248,13 @@ void SiteLayer::transform(int64_t row, Position &position, std::vector<RowProble
         std::isfinite(position.y))
         return;
     position.found = false;
-    problems.push_back(
-        {row, {}, true, "the position lies outside the area of the target coordinate system"});
+    problems.push_back({row, {}, true, formatted("MESS_TAB_OUTSIDE_TARGET")});
 }
 
-void SiteLayer::placeFeature(OGRFeature &feature)
+void SiteLayer::placeFeature(OGRFeature &feature, std::vector<RowProblem> &problems)
 {
-    const Position position = placeRow();
+    const Position position = placeRow(problems);
+    warn(problems);
     if (position.found && m_definition->GetGeomFieldCount() > 0 &&
         (m_poFilterGeom || !m_definition->IsGeometryIgnored())) {
         auto *point = new OGRPoint(position.x, position.y);
@@ -265,13 +265,23 @@ void SiteLayer::placeFeature(OGRFeature &feature)
 
 OGRFeature *SiteLayer::readFeature()
 {
-    if (!m_rows)
+    if (!m_rows) {
         m_rows = startWalk();
-    if (!m_rows->advance())
+        if (!m_problems)
+            m_walked = fileProblems();
+    }
+    if (!m_rows->advance()) {
+        if (m_walked)
+            m_problems = std::move(m_walked);
+        m_walked.reset();
         return nullptr;
+    }
+    std::vector<RowProblem> problems;
     auto feature = std::make_unique<OGRFeature>(m_definition);
     feature->SetFID(m_rows->rowNumber());
-    placeFeature(*feature);
+    placeFeature(*feature, problems);
+    if (m_walked)
+        m_walked->add(std::move(problems));
     setFields(*feature);
     return feature.release();
 }
@@ -322,9 +332,10 @@ OGRFeature *SiteLayer::GetFeature(GIntBig fid)
     OGRFeature *feature = guarded([&]() -> OGRFeature * {
         if (!m_rows || !m_rows->seek(fid) || m_rows->rowNumber() != fid)
             return nullptr;
+        std::vector<RowProblem> problems;
         auto found = std::make_unique<OGRFeature>(m_definition);
         found->SetFID(fid);
-        placeFeature(*found);
+        placeFeature(*found, problems);
         setFields(*found);
         return found.release();
     });
@@ -339,26 +350,39 @@ GIntBig SiteLayer::GetFeatureCount(int force)
     return static_cast<GIntBig>(m_table->facts().table.rowCount);
 }
 
+/// Goes through all rows, apart from the walk that may be going on. False where the file turns out
+/// to be damaged; what was found until then is there.
+bool SiteLayer::survey(bool warns, OGREnvelope &extent, ProblemList &found)
+{
+    std::unique_ptr<DataRows> walk = guarded([this] { return startWalk(); });
+    if (!walk)
+        return false;
+    m_rows.swap(walk);
+    const bool whole = guarded([&] {
+        std::vector<RowProblem> problems;
+        while (m_rows->advance()) {
+            if (const Position position = placeRow(problems); position.found)
+                extent.Merge(position.x, position.y);
+            if (warns)
+                warn(problems);
+            found.add(std::move(problems));
+            problems.clear();
+        }
+        return true;
+    });
+    m_rows.swap(walk);
+    return whole;
+}
+
 OGRErr SiteLayer::GetExtent(OGREnvelope *extent, int force)
 {
     if (!m_extent.IsInit()) {
-        if (!force)
-            return OGRERR_FAILURE;
-        std::unique_ptr<DataRows> walk = guarded([this] { return startWalk(); });
-        if (!walk)
-            return OGRERR_FAILURE;
-        m_rows.swap(walk);
         OGREnvelope found;
-        const bool whole = guarded([&] {
-            while (m_rows->advance())
-                if (const Position position = placeRow(); position.found)
-                    found.Merge(position.x, position.y);
-            return true;
-        });
-        m_rows.swap(walk);
-        if (!whole)
+        ProblemList problems = fileProblems();
+        if (!force || !survey(true, found, problems))
             return OGRERR_FAILURE;
         m_extent = found;
+        m_problems = std::move(problems);
     }
     *extent = m_extent;
     return m_extent.IsInit() ? OGRERR_NONE : OGRERR_FAILURE;
@@ -375,41 +399,41 @@ int SiteLayer::TestCapability(const char *capability)
     return EQUAL(capability, OLCStringsAsUTF8) || EQUAL(capability, OLCIgnoreFields);
 }
 
+/// What is wrong with the table as a whole.
+ProblemList SiteLayer::fileProblems() const
+{
+    const SiteLayout &layout = m_table->facts().layout;
+    ProblemList problems;
+    if (m_unknownEpsg)
+        problems.add({0, {}, false, formatted("MESS_TAB_UNKNOWN_EPSG", {layout.epsg})});
+    if (m_targetUnreachable)
+        problems.add({0, {}, false, formatted("MESS_TAB_NO_SOURCE_SRS")});
+    if (!layout.hasCoordinates())
+        problems.add({0, {}, true, formatted("MESS_TAB_NO_COORDINATES")});
+    return problems;
+}
+
+/// A walk that went through all rows has found the problems; otherwise they are looked for.
 char **SiteLayer::problemsMetadata()
 {
-    if (m_problemsKnown)
-        return m_problems.List();
-    m_problemsKnown = true;
-    std::vector<RowProblem> problems;
-    if (m_unknownEpsg)
-        problems.push_back({0,
-                            {},
-                            false,
-                            "the file declares the coordinate system EPSG:" +
-                                m_table->facts().layout.epsg + ", which is not known"});
-    if (m_targetUnreachable)
-        problems.push_back({0,
-                            {},
-                            false,
-                            "the coordinate system of the file is not known: its coordinates are "
-                            "taken as they are"});
-    size_t count = problems.size();
-    count += guarded([&] {
-        return m_table->findProblems(
-            MostProblemsListed, problems,
-            [this](int64_t row, Position &position, std::vector<RowProblem> &found) {
-                transform(row, position, found);
-            });
-    });
-    m_problems.SetNameValue("COUNT", std::to_string(count).c_str());
-    for (size_t i = 0; i < problems.size(); ++i) {
-        const RowProblem &problem = problems[i];
-        const std::string row = problem.row > 0 ? std::to_string(problem.row) : std::string();
-        const std::string value = row + '|' + problem.column + '|' +
-                                  (problem.isError ? "Error" : "Warning") + '|' + problem.text;
-        m_problems.SetNameValue(("PROBLEM_" + std::to_string(i + 1)).c_str(), value.c_str());
+    if (m_problemsItems.Count() > 0)
+        return m_problemsItems.List();
+    if (!m_problems) {
+        OGREnvelope extent;
+        ProblemList found = fileProblems();
+        survey(false, extent, found);
+        m_problems = std::move(found);
     }
-    return m_problems.List();
+    m_problemsItems.SetNameValue("COUNT", std::to_string(m_problems->count()).c_str());
+    size_t number = 0;
+    for (const RowProblem &problem : m_problems->kept()) {
+        const std::string row = problem.row > 0 ? std::to_string(problem.row) : std::string();
+        const std::string value = "PROBLEM_" + std::to_string(++number) + '=' + row + '|' +
+                                  problem.column + '|' + (problem.isError ? "Error" : "Warning") +
+                                  '|' + problem.text;
+        m_problemsItems.AddString(value.c_str());
+    }
+    return m_problemsItems.List();
 }
 
 char **SiteLayer::GetMetadata(const char *domain)

@@ -1,11 +1,13 @@
 #pragma once
 
+#include "ogr/ProblemList.h"
 #include "ogr/SiteTable.h"
 
 #include <ogr_spatialref.h>
 #include <ogrsf_frmts.h>
 
 #include <memory>
+#include <optional>
 #include <set>
 
 namespace vlt::tables {
@@ -43,10 +45,12 @@ private:
     std::unique_ptr<DataRows> startWalk();
     OGRFeature *readFeature();
     void setFields(OGRFeature &feature);
-    Position placeRow();
+    Position placeRow(std::vector<RowProblem> &problems);
     void transform(int64_t row, Position &position, std::vector<RowProblem> &problems);
-    void placeFeature(OGRFeature &feature);
-    void warn(std::vector<RowProblem> &problems);
+    void placeFeature(OGRFeature &feature, std::vector<RowProblem> &problems);
+    void warn(const std::vector<RowProblem> &problems);
+    bool survey(bool warns, OGREnvelope &extent, ProblemList &found);
+    ProblemList fileProblems() const;
     char **problemsMetadata();
     template<typename Action>
     auto guarded(Action action) -> decltype(action());
@@ -65,9 +69,10 @@ private:
     bool m_failed = false;
     std::set<int64_t> m_warnedRows; ///< a row is read more than once, but warned of once
     size_t m_warnings = 0;
-    bool m_problemsOmitted = false; ///< there were more than are said as warnings
-    CPLStringList m_problems;
-    bool m_problemsKnown = false;
+    bool m_problemsOmitted = false;      ///< there were more than are said as warnings
+    std::optional<ProblemList> m_walked; ///< what the walk that is going on has met since the start
+    std::optional<ProblemList> m_problems; ///< of all rows, once they are known
+    CPLStringList m_problemsItems;         ///< the same as metadata
     OGREnvelope m_extent;
 };
 

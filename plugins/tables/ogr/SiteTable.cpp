@@ -1,6 +1,7 @@
 #include "ogr/SiteTable.h"
 
 #include "cells/OpenWorkbook.h"
+#include "tabletexts/TextPatterns.h"
 
 #include <cmath>
 #include <list>
@@ -109,36 +110,6 @@ std::unique_ptr<DataRows> SiteTable::rows()
         *m_sheet, std::shared_ptr<const TableProfile>(m_facts, &m_facts->table));
 }
 
-size_t SiteTable::findProblems(
-    size_t most, std::vector<RowProblem> &problems,
-    const std::function<void(int64_t, Position &, std::vector<RowProblem> &)> &further)
-{
-    size_t count = 0;
-    const auto keep = [&](std::vector<RowProblem> &found) {
-        count += found.size();
-        for (RowProblem &problem : found)
-            if (problems.size() < most)
-                problems.push_back(std::move(problem));
-        found.clear();
-    };
-    std::vector<RowProblem> found;
-    if (!m_facts->layout.hasCoordinates())
-        found.push_back({0, {}, true, "no columns with coordinates were recognised"});
-    keep(found);
-    const std::unique_ptr<DataRows> walk = rows();
-    FieldCells cells(m_facts->table);
-    const SitePlacer placer(m_facts->table, m_facts->layout);
-    while (walk->advance()) {
-        cells.take(walk->cells(), found);
-        Position position = placer.place(walk->rowNumber(), cells.cells(), found);
-        if (further)
-            further(walk->rowNumber(), position, found);
-        if (!found.empty())
-            keep(found);
-    }
-    return count;
-}
-
 FieldCells::FieldCells(const TableProfile &table)
     : m_table(&table)
     , m_fieldOfColumn(static_cast<size_t>(table.lastColumn) + 1, -1)
@@ -155,12 +126,12 @@ void FieldCells::take(const Row &row, std::vector<RowProblem> &problems)
     std::fill(m_cells.begin(), m_cells.end(), nullptr);
     for (const Cell &cell : row.cells) {
         if (cell.column > m_table->lastColumn) {
-            problems.push_back({row.number,
-                                {},
-                                false,
-                                "the row goes on behind the last column: \"" + cellText(cell) +
-                                    "\" in column " + std::to_string(cell.column + 1) +
-                                    " has no header"});
+            problems.push_back(
+                {row.number,
+                 {},
+                 false,
+                 tabletexts::formatted("MESS_TAB_BEHIND_LAST",
+                                       {cellText(cell), std::to_string(cell.column + 1)})});
             break;
         }
         const int field = m_fieldOfColumn[static_cast<size_t>(cell.column)];
@@ -183,9 +154,8 @@ void FieldCells::take(const Row &row, std::vector<RowProblem> &problems)
         else {
             m_null[at] = 1;
             if (cell.kind != Cell::Kind::Error && !isMissingWord(text))
-                problems.push_back(
-                    {row.number, of.name, false,
-                     "the value \"" + std::string(text) + "\" is lost: the column holds numbers"});
+                problems.push_back({row.number, of.name, false,
+                                    tabletexts::formatted("MESS_TAB_LOST_VALUE", {text})});
         }
     }
 }

@@ -5,7 +5,6 @@
 #include "sites/SitePlacer.h"
 #include "table/Table.h"
 
-#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -42,12 +41,6 @@ public:
     const SiteTableFacts &facts() const { return *m_facts; }
     /// A new walk over the rows.
     std::unique_ptr<DataRows> rows();
-
-    /// All rows that cannot be read in full, errors and lost values, at most `most` of them in
-    /// `problems`; returns how many there are. `further` looks at each position in its turn.
-    size_t findProblems(
-        size_t most, std::vector<RowProblem> &problems,
-        const std::function<void(int64_t, Position &, std::vector<RowProblem> &)> &further);
 
 private:
     SiteTable(std::shared_ptr<const InputFile> file, std::string name, TableOptions options)

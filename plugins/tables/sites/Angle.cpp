@@ -13,6 +13,8 @@ namespace vlt::tables {
 
 namespace {
 
+using tabletexts::TextId;
+
 constexpr double MinutesPerDegree = 60;
 constexpr double SecondsPerDegree = 3600;
 
@@ -34,7 +36,7 @@ std::optional<double> number(std::string_view text)
     return parseNumber(text, shape.usesComma ? DecimalMark::Comma : DecimalMark::Point);
 }
 
-Angle fault(const char *why)
+Angle fault(TextId why)
 {
     return {0, 0, why};
 }
@@ -58,11 +60,11 @@ int hemisphereSign(char letter, Axis axis)
     }
 }
 
-const char *signFault(int sign)
+TextId signFault(int sign)
 {
-    return sign == 3   ? "the letter O may mean west (Ouest, Oeste) or east (Ost): use W or E"
-           : sign == 4 ? "the hemisphere letter belongs to the other coordinate"
-                       : "it has a letter that is no hemisphere";
+    return sign == 3   ? TextId("MESS_TAB_LETTER_O")
+           : sign == 4 ? TextId("MESS_TAB_OTHER_AXIS")
+                       : TextId("MESS_TAB_NO_HEMISPHERE");
 }
 
 /// A sign above ASCII that a text starts with.
@@ -114,17 +116,17 @@ Angle assemble(const Parts &parts, bool negative, int sign)
         const std::string_view text = parts.texts[static_cast<size_t>(i)];
         const std::optional<double> value = number(text);
         if (!value)
-            return fault("it is not a number");
+            return fault("MESS_TAB_NOT_A_NUMBER");
         if (i + 1 < parts.count && *value != std::floor(*value))
-            return fault("only the last of degrees, minutes and seconds may have a fraction");
+            return fault("MESS_TAB_FRACTION");
         if (i > 0 && *value >= MinutesPerDegree)
-            return fault("minutes and seconds must lie below 60");
+            return fault("MESS_TAB_BELOW_60");
         values[static_cast<size_t>(i)] = *value;
     }
     if (negative && sign != 0)
-        return fault("it has both a minus sign and a hemisphere letter");
+        return fault("MESS_TAB_SIGN_AND_LETTER");
     const double degrees = values[0] + values[1] / MinutesPerDegree + values[2] / SecondsPerDegree;
-    return {negative || sign < 0 ? -degrees : degrees, parts.count, nullptr};
+    return {negative || sign < 0 ? -degrees : degrees, parts.count, std::nullopt};
 }
 
 } // namespace
@@ -133,9 +135,9 @@ Angle readAngle(std::string_view text, Axis axis)
 {
     text = trimmed(text);
     if (text.empty())
-        return fault("it is empty");
+        return fault("MESS_TAB_PART_EMPTY");
     if (text.find_first_of("0123456789") == std::string_view::npos)
-        return fault("it holds no number");
+        return fault("MESS_TAB_WITHOUT_NUMBER");
     Parts parts;
     int sign = 0;
     bool negative = false;
@@ -148,13 +150,13 @@ Angle readAngle(std::string_view text, Axis axis)
             while (at < text.size() && isNumberByte(text[at]))
                 ++at;
             if (parts.count == 3)
-                return fault("it has more than degrees, minutes and seconds");
+                return fault("MESS_TAB_MANY_PARTS");
             parts.texts[static_cast<size_t>(parts.count++)] = text.substr(begin, at - begin);
             continue;
         }
         if (c == '-' || c == '+') {
             if (parts.count > 0 || negative)
-                return fault("it is not an angle");
+                return fault("MESS_TAB_NOT_AN_ANGLE");
             negative = c == '-';
         } else if (isLetter(c)) {
             const bool unitLetter = parts.count > 0 && ((c | 0x20) == 'd' || (c | 0x20) == 'm' ||
@@ -165,21 +167,21 @@ Angle readAngle(std::string_view text, Axis axis)
                 if (letter > 1)
                     return fault(signFault(letter));
                 if (sign != 0)
-                    return fault("it has two hemisphere letters");
+                    return fault("MESS_TAB_TWO_LETTERS");
                 sign = letter;
             }
         } else if (std::string_view(" \t'\":*").find(c) == std::string_view::npos)
-            return fault("it is not an angle");
+            return fault("MESS_TAB_NOT_AN_ANGLE");
         at += mark ? mark->bytes.size() : 1;
     }
-    return parts.count == 0 ? fault("it is not an angle") : assemble(parts, negative, sign);
+    return parts.count == 0 ? fault("MESS_TAB_NOT_AN_ANGLE") : assemble(parts, negative, sign);
 }
 
 Angle joinAngle(std::string_view degrees, std::string_view minutes, std::string_view seconds,
                 std::string_view hemisphere, Axis axis)
 {
     if (degrees.empty())
-        return fault("it is empty");
+        return fault("MESS_TAB_PART_EMPTY");
     const bool negative = degrees.starts_with('-');
     if (negative)
         degrees.remove_prefix(1);

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "tabletexts/TextTable.h"
+
+#include <optional>
 #include <string_view>
 
 namespace vlt::tables {
@@ -9,8 +12,8 @@ struct CoordinatePair
 {
     double x = 0;
     double y = 0;
-    bool inParts = false;        ///< written in degrees, minutes and seconds
-    const char *fault = nullptr; ///< why there is none, in words
+    bool inParts = false;                    ///< written in degrees, minutes and seconds
+    std::optional<tabletexts::TextId> fault; ///< why there is none
 };
 
 /// Reads a cell that holds a whole position: "48.85,2.35" or "48,85;2,35" (latitude first),

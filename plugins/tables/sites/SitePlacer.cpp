@@ -2,12 +2,15 @@
 
 #include "sites/Angle.h"
 #include "sites/CoordinatePair.h"
+#include "tabletexts/TextPatterns.h"
 
 #include <cmath>
 
 namespace vlt::tables {
 
 namespace {
+
+using tabletexts::TextId;
 
 constexpr double MostLongitude = 180;
 constexpr double MostLatitude = 90;
@@ -32,8 +35,7 @@ std::string withHemisphere(std::string text, const std::string &hemisphere)
 
 } // namespace
 
-RowProblem SitePlacer::problem(int64_t row, int field, const std::string &value,
-                               const char *why) const
+RowProblem SitePlacer::problem(int64_t row, int field, const std::string &value, TextId why) const
 {
     const Field &of = m_table->fields[static_cast<size_t>(field)];
     std::string quoted = value;
@@ -44,8 +46,8 @@ RowProblem SitePlacer::problem(int64_t row, int field, const std::string &value,
         quoted = quoted.substr(0, cut) + "...";
     }
     return {row, of.name, true,
-            value.empty() ? "the coordinate is empty"
-                          : "the coordinate \"" + quoted + "\" cannot be read: " + why};
+            value.empty() ? tabletexts::formatted("MESS_TAB_NO_COORDINATE")
+                          : tabletexts::formatted(why, {quoted})};
 }
 
 bool SitePlacer::readAxis(int64_t row, const CoordinateFields &fields, Axis axis,
@@ -77,7 +79,7 @@ bool SitePlacer::readAxis(int64_t row, const CoordinateFields &fields, Axis axis
         if (number)
             value = *number;
         else
-            problems.push_back(problem(row, fields.value, text, "it is not a number"));
+            problems.push_back(problem(row, fields.value, text, "MESS_TAB_NOT_A_NUMBER"));
         return number.has_value();
     }
     const std::string text = textOf(cells, fields.value);
@@ -88,9 +90,9 @@ bool SitePlacer::readAxis(int64_t row, const CoordinateFields &fields, Axis axis
     else
         angle = readAngle(hemisphere.empty() ? text : withHemisphere(text, hemisphere), axis);
     if (angle.fault)
-        problems.push_back(problem(row, fields.value, text, angle.fault));
+        problems.push_back(problem(row, fields.value, text, *angle.fault));
     value = angle.degrees;
-    return angle.fault == nullptr;
+    return !angle.fault;
 }
 
 Position SitePlacer::place(int64_t row, const std::vector<const Cell *> &cells,
@@ -103,7 +105,7 @@ Position SitePlacer::place(int64_t row, const std::vector<const Cell *> &cells,
         const std::string text = textOf(cells, m_layout->pair);
         const CoordinatePair pair = readCoordinatePair(text);
         if (pair.fault)
-            problems.push_back(problem(row, m_layout->pair, text, pair.fault));
+            problems.push_back(problem(row, m_layout->pair, text, *pair.fault));
         else
             position = {true, pair.x, pair.y};
     } else {
@@ -115,20 +117,20 @@ Position SitePlacer::place(int64_t row, const std::vector<const Cell *> &cells,
         return position;
     const int xField = m_layout->pair >= 0 ? m_layout->pair : m_layout->x.value;
     const int yField = m_layout->pair >= 0 ? m_layout->pair : m_layout->y.value;
-    const char *why = nullptr;
+    std::optional<TextId> why;
     int field = xField;
     if (!std::isfinite(position.x) || !std::isfinite(position.y))
-        why = "it is not finite";
+        why = TextId("MESS_TAB_NOT_FINITE");
     else if (position.x == 0 && position.y == 0)
-        why = "0, 0 stands for an unknown position";
+        why = TextId("MESS_TAB_ZERO_ZERO");
     else if (m_layout->unit != CoordinateUnit::Meters && std::abs(position.x) > MostLongitude)
-        why = "a longitude lies between -180 and 180";
+        why = TextId("MESS_TAB_LONGITUDE");
     else if (m_layout->unit != CoordinateUnit::Meters && std::abs(position.y) > MostLatitude) {
-        why = "a latitude lies between -90 and 90";
+        why = TextId("MESS_TAB_LATITUDE");
         field = yField;
     }
     if (why) {
-        problems.push_back(problem(row, field, textOf(cells, field), why));
+        problems.push_back(problem(row, field, textOf(cells, field), *why));
         position = {};
     }
     return position;

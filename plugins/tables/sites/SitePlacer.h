@@ -15,7 +15,7 @@ struct RowProblem
     int64_t row = 0;     ///< number in the file; 0 for the table as a whole
     std::string column;  ///< name of the field; empty for the row as a whole
     bool isError = true; ///< the site has no position; otherwise only a value is lost
-    std::string text;
+    std::string text;    ///< English, of the table of texts
 };
 
 /// A position in the file's coordinate system.
@@ -45,7 +45,8 @@ private:
     bool readAxis(int64_t row, const CoordinateFields &fields, Axis axis,
                   const std::vector<const Cell *> &cells, double &value,
                   std::vector<RowProblem> &problems) const;
-    RowProblem problem(int64_t row, int field, const std::string &value, const char *why) const;
+    RowProblem problem(int64_t row, int field, const std::string &value,
+                       tabletexts::TextId why) const;
 
     const TableProfile *m_table;
     const SiteLayout *m_layout;

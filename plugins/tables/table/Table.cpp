@@ -61,13 +61,12 @@ Candidate chooseSheet(Workbook &workbook, const TableHints &hints)
     if (best.sheet)
         return best;
     if (!hints.sheet.empty() && !anySheet)
-        throw RefusedFile(Refusal::BadOption, "there is no sheet called \"" + hints.sheet + "\"");
+        throw RefusedFile(Refusal::BadOption, "MESS_TAB_NO_SHEET", {hints.sheet});
     if (widest == 0)
-        throw RefusedFile(Refusal::Empty, "there is no cell with a value in the file");
+        throw RefusedFile(Refusal::Empty, "MESS_TAB_NO_VALUE");
     if (widest == 1)
-        throw RefusedFile(Refusal::OneColumn, "the file has only one column");
-    throw RefusedFile(Refusal::NoHeader,
-                      "no header was found: none of the first rows names its columns");
+        throw RefusedFile(Refusal::OneColumn, "MESS_TAB_FILE_OF_ONE_COLUMN");
+    throw RefusedFile(Refusal::NoHeader, "MESS_TAB_NO_HEADER");
 }
 
 /// Statistics of the columns, and how many rows were looked at for them.
@@ -178,14 +177,13 @@ Table readTable(Workbook &workbook, const TableHints &hints)
             size_t widest = 0;
             chosen.header = findHeader(*chosen.sheet, widest).value_or(chosen.header);
         } else if (profile->rowCount == 0)
-            throw RefusedFile(Refusal::Empty, "there is a header in row " +
-                                                  std::to_string(profile->header.row) +
-                                                  ", but no row below it");
+            throw RefusedFile(Refusal::Empty, "MESS_TAB_NO_ROW",
+                              {std::to_string(profile->header.row)});
         else
             makeFields(*profile, sample, hints);
     }
     if (profile->fields.size() < 2)
-        throw RefusedFile(Refusal::OneColumn, "the table has only one column");
+        throw RefusedFile(Refusal::OneColumn, "MESS_TAB_TABLE_OF_ONE_COLUMN");
     profile->encoding = chosen.sheet->encoding();
     return {chosen.sheet, profile};
 }
@@ -195,7 +193,7 @@ std::shared_ptr<Sheet> findSheet(Workbook &workbook, const std::string &name)
     while (std::shared_ptr<Sheet> sheet = workbook.nextSheet())
         if (sheet->name() == name)
             return sheet;
-    throw RefusedFile(Refusal::Malformed, "the file has changed while it was read");
+    throw RefusedFile(Refusal::Malformed, "MESS_TAB_FILE_CHANGED");
 }
 
 DataRows::DataRows(const Sheet &sheet, std::shared_ptr<const TableProfile> profile)

@@ -173,4 +173,312 @@ Coordinates are _C_ and are specified in _U_</translation>
         <translation>the output is one of the input files</translation>
     </message>
 </context>
+<context>
+    <name>Site panels</name>
+    <message id="MESS_SRS_LINK_FILE">
+        <source>Cartographic system of the link file</source>
+        <translation>Cartographic system of the link file</translation>
+    </message>
+    <message id="MESS_READ_SRS_FROM_DS">
+        <source>Read system from a datasource...</source>
+        <translation>Read system from a datasource...</translation>
+    </message>
+    <message id="MESS_TIP_READ_SRS">
+        <source>Take the target system from a raster or vector file</source>
+        <translation>Take the target system from a raster or vector file</translation>
+    </message>
+    <message id="MESS_SELECT_DS">
+        <source>Select a geodataset (raster or vector)</source>
+        <translation>Select a geodataset (raster or vector)</translation>
+    </message>
+    <message id="MESS_ALL_FILES">
+        <source>All files</source>
+        <translation>All files</translation>
+    </message>
+    <message id="MESS_ATTENTION">
+        <source>Warning</source>
+        <translation>Warning</translation>
+    </message>
+    <message id="MESS_ERR_NO_SRS_DSR">
+        <source>This raster dataset doesn't contain any valid coordinate system information</source>
+        <translation>This raster dataset doesn't contain any valid coordinate system information</translation>
+    </message>
+    <message id="MESS_ERR_NO_SRS_DSV">
+        <source>This vector dataset doesn't contain any valid coordinate system information</source>
+        <translation>This vector dataset doesn't contain any valid coordinate system information</translation>
+    </message>
+    <message id="MESS_SYMBOLIC_REPR">
+        <source>Symbolic representation</source>
+        <translation>Symbolic representation</translation>
+    </message>
+    <message id="MESS_PRECISE_REPR">
+        <source>Precise representation</source>
+        <translation>Precise representation</translation>
+    </message>
+    <message id="MESS_SECTOR_HEIGHT">
+        <source>Sector height</source>
+        <translation>Sector height</translation>
+    </message>
+    <message id="MESS_TIP_SECTOR_HEIGHT">
+        <source>Height of a sector wedge</source>
+        <translation>Height of a sector wedge</translation>
+    </message>
+    <message id="MESS_SECTOR_RADIUS">
+        <source>Sector radius</source>
+        <translation>Sector radius</translation>
+    </message>
+    <message id="MESS_TIP_SECTOR_RADIUS">
+        <source>Radius of a sector wedge; the layer holds its whole part</source>
+        <translation>Radius of a sector wedge; the layer holds its whole part</translation>
+    </message>
+    <message id="MESS_SECTOR_SPACE">
+        <source>Vertical spacing between sectors</source>
+        <translation>Vertical spacing between sectors</translation>
+    </message>
+    <message id="MESS_TIP_SECTOR_SPACE">
+        <source>Distance in height between two sectors of a site</source>
+        <translation>Distance in height between two sectors of a site</translation>
+    </message>
+    <message id="MESS_SECTOR_COLORS">
+        <source>Sector colors</source>
+        <translation>Sector colors</translation>
+    </message>
+    <message id="MESS_TIP_SECTOR_COLORS">
+        <source>Colors that the sectors of a site take in turn</source>
+        <translation>Colors that the sectors of a site take in turn</translation>
+    </message>
+    <message id="MESS_OPAQUE">
+        <source>Opaque</source>
+        <translation>Opaque</translation>
+    </message>
+    <message id="MESS_TRANSPARENT">
+        <source>Transparent</source>
+        <translation>Transparent</translation>
+    </message>
+    <message id="MESS_TRANSPARENCY">
+        <source>Transparency of the sectors</source>
+        <translation>Transparency of the sectors</translation>
+    </message>
+    <message id="MESS_TIP_TRANSPARENCY">
+        <source>Transparency of the sectors in per cent</source>
+        <translation>Transparency of the sectors in per cent</translation>
+    </message>
+    <message id="MESS_APP_DISTANCE">
+        <source>Apparition distance</source>
+        <translation>Apparition distance</translation>
+    </message>
+    <message id="MESS_TIP_SYMBOLIC_DISTANCE">
+        <source>Distance from which the sectors are drawn</source>
+        <translation>Distance from which the sectors are drawn</translation>
+    </message>
+    <message id="MESS_PYLON_TYPE">
+        <source>Type of pylons</source>
+        <translation>Type of pylons</translation>
+    </message>
+    <message id="MESS_TIP_PYLON_TYPE">
+        <source>Mast that carries the antennas of every site</source>
+        <translation>Mast that carries the antennas of every site</translation>
+    </message>
+    <message id="MESS_PYLON_WIDTH">
+        <source>Width of the pylons</source>
+        <translation>Width of the pylons</translation>
+    </message>
+    <message id="MESS_TIP_PYLON_WIDTH">
+        <source>Width of the mast at its foot</source>
+        <translation>Width of the mast at its foot</translation>
+    </message>
+    <message id="MESS_ANTENNAS_SIZE">
+        <source>Antennas size</source>
+        <translation>Antennas size</translation>
+    </message>
+    <message id="MESS_TIP_ANTENNAS_SIZE">
+        <source>Size of the antennas; 100 % is their real size</source>
+        <translation>Size of the antennas; 100 % is their real size</translation>
+    </message>
+    <message id="MESS_TIP_REALISTIC_DISTANCE">
+        <source>Distance from which masts and antennas are drawn</source>
+        <translation>Distance from which masts and antennas are drawn</translation>
+    </message>
+</context>
+<context>
+    <name>Add-site page</name>
+    <message id="MESS_SITE_LAYER_TITLE">
+        <source>Site layer</source>
+        <translation>Site layer</translation>
+    </message>
+    <message id="MESS_SITE_FILE">
+        <source>Site file</source>
+        <translation>Site file</translation>
+    </message>
+    <message id="MESS_SITE_FILE2">
+        <source>Sites file to display</source>
+        <translation>Sites file to display</translation>
+    </message>
+    <message id="MESS_TIP_SITE_FILE">
+        <source>Path of the table; press Enter after typing one, or drop a file on the page</source>
+        <translation>Path of the table; press Enter after typing one, or drop a file on the page</translation>
+    </message>
+    <message id="MESS_SITE_FILE_KINDS">
+        <source>.xls, .xlsx, .xml or .csv table</source>
+        <translation>.xls, .xlsx, .xml or .csv table</translation>
+    </message>
+    <message id="MESS_BROWSE">
+        <source>Browse...</source>
+        <translation>Browse...</translation>
+    </message>
+    <message id="MESS_SELECT_SITE_FILE">
+        <source>Select the site file to use</source>
+        <translation>Select the site file to use</translation>
+    </message>
+    <message id="MESS_SITE_FILES">
+        <source>Site files</source>
+        <translation>Site files</translation>
+    </message>
+    <message id="MESS_READING_SITES">
+        <source>Reading the site file...</source>
+        <translation>Reading the site file...</translation>
+    </message>
+    <message id="MESS_NO_SITE_DEFINED">
+        <source>No sites file defined.
+Select the sites file to display.</source>
+        <translation>No sites file defined.
+Select the sites file to display.</translation>
+    </message>
+    <message id="MESS_COORDINATE_SYSTEMS">
+        <source>Coordinate systems</source>
+        <translation>Coordinate systems</translation>
+    </message>
+    <message id="MESS_PREVIEW">
+        <source>Preview</source>
+        <translation>Preview</translation>
+    </message>
+    <message id="MESS_PREVIEW_PLANNED">
+        <source>The pylon will be shown here in 3D. This version does not draw it yet; the layer is complete without it.</source>
+        <translation>The pylon will be shown here in 3D. This version does not draw it yet; the layer is complete without it.</translation>
+    </message>
+    <message id="MESS_TIP_SYMBOLIC">
+        <source>Look at the symbolic representation, from afar</source>
+        <translation>Look at the symbolic representation, from afar</translation>
+    </message>
+    <message id="MESS_TIP_PRECISE">
+        <source>Look at the precise representation, from near</source>
+        <translation>Look at the precise representation, from near</translation>
+    </message>
+    <message id="MESS_DRAG_ICON">
+        <source>Drag this icon into
+Veltaro Builder
+to add the site layer
+</source>
+        <translation>Drag this icon into
+Veltaro Builder
+to add the site layer
+</translation>
+    </message>
+    <message id="MESS_DRAG_NAME">
+        <source>Site layer to drag into the builder</source>
+        <translation>Site layer to drag into the builder</translation>
+    </message>
+    <message id="MESS_TIP_DRAG">
+        <source>Drag the layer file into the builder; Ctrl+C copies it, Ctrl+S saves it under another name</source>
+        <translation>Drag the layer file into the builder; Ctrl+C copies it, Ctrl+S saves it under another name</translation>
+    </message>
+</context>
+<context>
+    <name>Recognised columns and problems</name>
+    <message id="MESS_CANCEL">
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message id="MESS_TIP_DETAILS">
+        <source>Show the recognised columns and the rows with problems</source>
+        <translation>Show the recognised columns and the rows with problems</translation>
+    </message>
+    <message id="MESS_CHECKING_ROWS">
+        <source>Checking the rows: %p%</source>
+        <translation>Checking the rows: %p%</translation>
+    </message>
+    <message id="MESS_CHECK_PROGRESS">
+        <source>Progress of the check</source>
+        <translation>Progress of the check</translation>
+    </message>
+    <message id="MESS_TIP_STOP_CHECK">
+        <source>Stop checking the rows</source>
+        <translation>Stop checking the rows</translation>
+    </message>
+    <message id="MESS_MEANING">
+        <source>Meaning</source>
+        <translation>Meaning</translation>
+    </message>
+    <message id="MESS_TABLE_COLUMNS">
+        <source>Columns of the table</source>
+        <translation>Columns of the table</translation>
+    </message>
+    <message id="MESS_ROW">
+        <source>Row</source>
+        <translation>Row</translation>
+    </message>
+    <message id="MESS_COLUMN">
+        <source>Column</source>
+        <translation>Column</translation>
+    </message>
+    <message id="MESS_PROBLEM">
+        <source>Problem</source>
+        <translation>Problem</translation>
+    </message>
+    <message id="MESS_COLUMNS">
+        <source>Columns</source>
+        <translation>Columns</translation>
+    </message>
+    <message id="MESS_PROBLEMS">
+        <source>Problems</source>
+        <translation>Problems</translation>
+    </message>
+    <message id="MESS_NO_COLUMN">
+        <source>none</source>
+        <translation>none</translation>
+    </message>
+    <message id="MESS_MORE_PROBLEMS">
+        <source>%1 further problems are not listed</source>
+        <translation>%1 further problems are not listed</translation>
+    </message>
+    <message id="MESS_RECOGNISED_COLUMNS">
+        <source>Recognised columns: %1</source>
+        <translation>Recognised columns: %1</translation>
+    </message>
+    <message id="MESS_ROWS_NOT_CHECKED">
+        <source>the rows were not checked</source>
+        <translation>the rows were not checked</translation>
+    </message>
+    <message id="MESS_SITES_PLACED">
+        <source>sites placed: %1 of %2</source>
+        <translation>sites placed: %1 of %2</translation>
+    </message>
+    <message id="MESS_PROBLEM_COUNT">
+        <source>problems: %1</source>
+        <translation>problems: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Layer icon</name>
+    <message id="MESS_COPY_LAYER">
+        <source>&amp;Copy the layer file</source>
+        <translation>&amp;Copy the layer file</translation>
+    </message>
+    <message id="MESS_SAVE_LAYER_AS">
+        <source>&amp;Save the layer file as...</source>
+        <translation>&amp;Save the layer file as...</translation>
+    </message>
+    <message id="MESS_SAVE_LAYER_TITLE">
+        <source>Save the layer file as</source>
+        <translation>Save the layer file as</translation>
+    </message>
+    <message id="MESS_LAYER_FILE_NAME">
+        <source>layer</source>
+        <translation>layer</translation>
+    </message>
+    <message id="MESS_LAYER_FILES">
+        <source>Layer files</source>
+        <translation>Layer files</translation>
+    </message>
+</context>
 </TS>

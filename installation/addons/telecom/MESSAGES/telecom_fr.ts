@@ -173,4 +173,312 @@ Les coordonnées sont _C_ et exprimées en _U_</translation>
         <translation>le fichier à écrire est l'un des fichiers lus</translation>
     </message>
 </context>
+<context>
+    <name>Site panels</name>
+    <message id="MESS_SRS_LINK_FILE">
+        <source>Cartographic system of the link file</source>
+        <translation>Système cartographique du fichier de liaisons</translation>
+    </message>
+    <message id="MESS_READ_SRS_FROM_DS">
+        <source>Read system from a datasource...</source>
+        <translation>Lire le système dans un jeu de données...</translation>
+    </message>
+    <message id="MESS_TIP_READ_SRS">
+        <source>Take the target system from a raster or vector file</source>
+        <translation>Reprendre le système cible d'un fichier raster ou vecteur</translation>
+    </message>
+    <message id="MESS_SELECT_DS">
+        <source>Select a geodataset (raster or vector)</source>
+        <translation>Choisir un jeu de données géographiques (raster ou vecteur)</translation>
+    </message>
+    <message id="MESS_ALL_FILES">
+        <source>All files</source>
+        <translation>Tous les fichiers</translation>
+    </message>
+    <message id="MESS_ATTENTION">
+        <source>Warning</source>
+        <translation>Attention</translation>
+    </message>
+    <message id="MESS_ERR_NO_SRS_DSR">
+        <source>This raster dataset doesn't contain any valid coordinate system information</source>
+        <translation>Ce jeu de données raster ne contient aucun système de coordonnées valide</translation>
+    </message>
+    <message id="MESS_ERR_NO_SRS_DSV">
+        <source>This vector dataset doesn't contain any valid coordinate system information</source>
+        <translation>Ce jeu de données vecteur ne contient aucun système de coordonnées valide</translation>
+    </message>
+    <message id="MESS_SYMBOLIC_REPR">
+        <source>Symbolic representation</source>
+        <translation>Représentation symbolique</translation>
+    </message>
+    <message id="MESS_PRECISE_REPR">
+        <source>Precise representation</source>
+        <translation>Représentation précise</translation>
+    </message>
+    <message id="MESS_SECTOR_HEIGHT">
+        <source>Sector height</source>
+        <translation>Hauteur des secteurs</translation>
+    </message>
+    <message id="MESS_TIP_SECTOR_HEIGHT">
+        <source>Height of a sector wedge</source>
+        <translation>Hauteur du dessin d'un secteur</translation>
+    </message>
+    <message id="MESS_SECTOR_RADIUS">
+        <source>Sector radius</source>
+        <translation>Rayon des secteurs</translation>
+    </message>
+    <message id="MESS_TIP_SECTOR_RADIUS">
+        <source>Radius of a sector wedge; the layer holds its whole part</source>
+        <translation>Rayon du dessin d'un secteur&#xa0;; la couche en retient la partie entière</translation>
+    </message>
+    <message id="MESS_SECTOR_SPACE">
+        <source>Vertical spacing between sectors</source>
+        <translation>Espacement vertical des secteurs</translation>
+    </message>
+    <message id="MESS_TIP_SECTOR_SPACE">
+        <source>Distance in height between two sectors of a site</source>
+        <translation>Distance en hauteur entre deux secteurs d'un site</translation>
+    </message>
+    <message id="MESS_SECTOR_COLORS">
+        <source>Sector colors</source>
+        <translation>Couleurs des secteurs</translation>
+    </message>
+    <message id="MESS_TIP_SECTOR_COLORS">
+        <source>Colors that the sectors of a site take in turn</source>
+        <translation>Couleurs que les secteurs d'un site prennent tour à tour</translation>
+    </message>
+    <message id="MESS_OPAQUE">
+        <source>Opaque</source>
+        <translation>Opaque</translation>
+    </message>
+    <message id="MESS_TRANSPARENT">
+        <source>Transparent</source>
+        <translation>Transparent</translation>
+    </message>
+    <message id="MESS_TRANSPARENCY">
+        <source>Transparency of the sectors</source>
+        <translation>Transparence des secteurs</translation>
+    </message>
+    <message id="MESS_TIP_TRANSPARENCY">
+        <source>Transparency of the sectors in per cent</source>
+        <translation>Transparence des secteurs en pour cent</translation>
+    </message>
+    <message id="MESS_APP_DISTANCE">
+        <source>Apparition distance</source>
+        <translation>Distance d'apparition</translation>
+    </message>
+    <message id="MESS_TIP_SYMBOLIC_DISTANCE">
+        <source>Distance from which the sectors are drawn</source>
+        <translation>Distance à partir de laquelle les secteurs sont dessinés</translation>
+    </message>
+    <message id="MESS_PYLON_TYPE">
+        <source>Type of pylons</source>
+        <translation>Type de pylônes</translation>
+    </message>
+    <message id="MESS_TIP_PYLON_TYPE">
+        <source>Mast that carries the antennas of every site</source>
+        <translation>Mât qui porte les antennes de chaque site</translation>
+    </message>
+    <message id="MESS_PYLON_WIDTH">
+        <source>Width of the pylons</source>
+        <translation>Largeur des pylônes</translation>
+    </message>
+    <message id="MESS_TIP_PYLON_WIDTH">
+        <source>Width of the mast at its foot</source>
+        <translation>Largeur du mât à sa base</translation>
+    </message>
+    <message id="MESS_ANTENNAS_SIZE">
+        <source>Antennas size</source>
+        <translation>Taille des antennes</translation>
+    </message>
+    <message id="MESS_TIP_ANTENNAS_SIZE">
+        <source>Size of the antennas; 100 % is their real size</source>
+        <translation>Taille des antennes&#xa0;; 100&#xa0;% correspond à leur taille réelle</translation>
+    </message>
+    <message id="MESS_TIP_REALISTIC_DISTANCE">
+        <source>Distance from which masts and antennas are drawn</source>
+        <translation>Distance à partir de laquelle mâts et antennes sont dessinés</translation>
+    </message>
+</context>
+<context>
+    <name>Add-site page</name>
+    <message id="MESS_SITE_LAYER_TITLE">
+        <source>Site layer</source>
+        <translation>Couche de sites</translation>
+    </message>
+    <message id="MESS_SITE_FILE">
+        <source>Site file</source>
+        <translation>Fichier de sites</translation>
+    </message>
+    <message id="MESS_SITE_FILE2">
+        <source>Sites file to display</source>
+        <translation>Fichier de sites à afficher</translation>
+    </message>
+    <message id="MESS_TIP_SITE_FILE">
+        <source>Path of the table; press Enter after typing one, or drop a file on the page</source>
+        <translation>Chemin du tableau&#xa0;; validez par Entrée après la saisie, ou déposez un fichier sur la page</translation>
+    </message>
+    <message id="MESS_SITE_FILE_KINDS">
+        <source>.xls, .xlsx, .xml or .csv table</source>
+        <translation>tableau .xls, .xlsx, .xml ou .csv</translation>
+    </message>
+    <message id="MESS_BROWSE">
+        <source>Browse...</source>
+        <translation>Parcourir...</translation>
+    </message>
+    <message id="MESS_SELECT_SITE_FILE">
+        <source>Select the site file to use</source>
+        <translation>Choisir le fichier de sites à utiliser</translation>
+    </message>
+    <message id="MESS_SITE_FILES">
+        <source>Site files</source>
+        <translation>Fichiers de sites</translation>
+    </message>
+    <message id="MESS_READING_SITES">
+        <source>Reading the site file...</source>
+        <translation>Lecture du fichier de sites...</translation>
+    </message>
+    <message id="MESS_NO_SITE_DEFINED">
+        <source>No sites file defined.
+Select the sites file to display.</source>
+        <translation>Aucun fichier de sites défini.
+Choisissez le fichier de sites à afficher.</translation>
+    </message>
+    <message id="MESS_COORDINATE_SYSTEMS">
+        <source>Coordinate systems</source>
+        <translation>Systèmes de coordonnées</translation>
+    </message>
+    <message id="MESS_PREVIEW">
+        <source>Preview</source>
+        <translation>Aperçu</translation>
+    </message>
+    <message id="MESS_PREVIEW_PLANNED">
+        <source>The pylon will be shown here in 3D. This version does not draw it yet; the layer is complete without it.</source>
+        <translation>Le pylône sera montré ici en 3D. Cette version ne le dessine pas encore&#xa0;; la couche est complète sans lui.</translation>
+    </message>
+    <message id="MESS_TIP_SYMBOLIC">
+        <source>Look at the symbolic representation, from afar</source>
+        <translation>Voir la représentation symbolique, de loin</translation>
+    </message>
+    <message id="MESS_TIP_PRECISE">
+        <source>Look at the precise representation, from near</source>
+        <translation>Voir la représentation précise, de près</translation>
+    </message>
+    <message id="MESS_DRAG_ICON">
+        <source>Drag this icon into
+Veltaro Builder
+to add the site layer
+</source>
+        <translation>Faites glisser cette icône
+dans Veltaro Builder
+pour ajouter la couche de sites
+</translation>
+    </message>
+    <message id="MESS_DRAG_NAME">
+        <source>Site layer to drag into the builder</source>
+        <translation>Couche de sites à faire glisser dans Veltaro Builder</translation>
+    </message>
+    <message id="MESS_TIP_DRAG">
+        <source>Drag the layer file into the builder; Ctrl+C copies it, Ctrl+S saves it under another name</source>
+        <translation>Faites glisser le fichier de couche dans Veltaro Builder&#xa0;; Ctrl+C le copie, Ctrl+S l'enregistre sous un autre nom</translation>
+    </message>
+</context>
+<context>
+    <name>Recognised columns and problems</name>
+    <message id="MESS_CANCEL">
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message id="MESS_TIP_DETAILS">
+        <source>Show the recognised columns and the rows with problems</source>
+        <translation>Montrer les colonnes reconnues et les lignes qui posent problème</translation>
+    </message>
+    <message id="MESS_CHECKING_ROWS">
+        <source>Checking the rows: %p%</source>
+        <translation>Vérification des lignes&#xa0;: %p&#xa0;%</translation>
+    </message>
+    <message id="MESS_CHECK_PROGRESS">
+        <source>Progress of the check</source>
+        <translation>Avancement de la vérification</translation>
+    </message>
+    <message id="MESS_TIP_STOP_CHECK">
+        <source>Stop checking the rows</source>
+        <translation>Arrêter la vérification des lignes</translation>
+    </message>
+    <message id="MESS_MEANING">
+        <source>Meaning</source>
+        <translation>Signification</translation>
+    </message>
+    <message id="MESS_TABLE_COLUMNS">
+        <source>Columns of the table</source>
+        <translation>Colonnes du tableau</translation>
+    </message>
+    <message id="MESS_ROW">
+        <source>Row</source>
+        <translation>Ligne</translation>
+    </message>
+    <message id="MESS_COLUMN">
+        <source>Column</source>
+        <translation>Colonne</translation>
+    </message>
+    <message id="MESS_PROBLEM">
+        <source>Problem</source>
+        <translation>Problème</translation>
+    </message>
+    <message id="MESS_COLUMNS">
+        <source>Columns</source>
+        <translation>Colonnes</translation>
+    </message>
+    <message id="MESS_PROBLEMS">
+        <source>Problems</source>
+        <translation>Problèmes</translation>
+    </message>
+    <message id="MESS_NO_COLUMN">
+        <source>none</source>
+        <translation>aucune</translation>
+    </message>
+    <message id="MESS_MORE_PROBLEMS">
+        <source>%1 further problems are not listed</source>
+        <translation>%1 autres problèmes ne sont pas listés</translation>
+    </message>
+    <message id="MESS_RECOGNISED_COLUMNS">
+        <source>Recognised columns: %1</source>
+        <translation>Colonnes reconnues&#xa0;: %1</translation>
+    </message>
+    <message id="MESS_ROWS_NOT_CHECKED">
+        <source>the rows were not checked</source>
+        <translation>les lignes n'ont pas été vérifiées</translation>
+    </message>
+    <message id="MESS_SITES_PLACED">
+        <source>sites placed: %1 of %2</source>
+        <translation>sites placés&#xa0;: %1 sur %2</translation>
+    </message>
+    <message id="MESS_PROBLEM_COUNT">
+        <source>problems: %1</source>
+        <translation>problèmes&#xa0;: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Layer icon</name>
+    <message id="MESS_COPY_LAYER">
+        <source>&amp;Copy the layer file</source>
+        <translation>&amp;Copier le fichier de couche</translation>
+    </message>
+    <message id="MESS_SAVE_LAYER_AS">
+        <source>&amp;Save the layer file as...</source>
+        <translation>&amp;Enregistrer le fichier de couche sous...</translation>
+    </message>
+    <message id="MESS_SAVE_LAYER_TITLE">
+        <source>Save the layer file as</source>
+        <translation>Enregistrer le fichier de couche sous</translation>
+    </message>
+    <message id="MESS_LAYER_FILE_NAME">
+        <source>layer</source>
+        <translation>couche</translation>
+    </message>
+    <message id="MESS_LAYER_FILES">
+        <source>Layer files</source>
+        <translation>Fichiers de couche</translation>
+    </message>
+</context>
 </TS>

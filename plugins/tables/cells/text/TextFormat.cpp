@@ -152,8 +152,7 @@ char findDelimiter(std::string_view text, bool isWhole)
             bestScore = value;
         }
     if (best == 0)
-        throw RefusedFile(Refusal::OneColumn, "no delimiter was found: neither semicolons nor "
-                                              "tabs, bars or commas make columns of it");
+        throw RefusedFile(Refusal::OneColumn, "MESS_TAB_NO_DELIMITER");
     return best;
 }
 
@@ -171,12 +170,11 @@ void refuseOtherKinds(std::string_view text)
     const std::string_view start =
         text.substr(std::min(text.find_first_not_of(" \t\r\n"), text.size()));
     if (start.empty())
-        throw RefusedFile(Refusal::Empty, "there is nothing but white space in the file");
+        throw RefusedFile(Refusal::Empty, "MESS_TAB_BLANK_FILE");
     if (looksLikeJson(start))
-        throw RefusedFile(Refusal::NotSupportedFormat, "this looks like JSON, not like a table");
+        throw RefusedFile(Refusal::NotSupportedFormat, "MESS_TAB_JSON");
     if (start.starts_with("ID;P"))
-        throw RefusedFile(Refusal::NotSupportedFormat,
-                          "this is a SYLK file: save it as .xlsx or .csv");
+        throw RefusedFile(Refusal::NotSupportedFormat, "MESS_TAB_SYLK");
     size_t controls = 0; // zeros do no harm in a cell, and loggers pad with them
     for (const char c : text)
         controls += static_cast<unsigned char>(c) < 0x20 &&
@@ -184,7 +182,7 @@ void refuseOtherKinds(std::string_view text)
                         ? 1
                         : 0;
     if (controls * ControlShare > text.size())
-        throw RefusedFile(Refusal::NotATable, "this is neither a text nor a workbook");
+        throw RefusedFile(Refusal::NotATable, "MESS_TAB_BINARY_FILE");
 }
 
 } // namespace

@@ -51,8 +51,7 @@ XlsRows::XlsRows(std::unique_ptr<ByteSource> sheet, std::shared_ptr<const XlsCon
     , m_context(std::move(context))
 {
     if (m_records.next() && m_records.type() != XlsBof)
-        throw RefusedFile(Refusal::Malformed,
-                          "the workbook is damaged: a sheet is not where it should be");
+        throw RefusedFile(Refusal::Malformed, "MESS_TAB_SHEET_MISPLACED");
 }
 
 /// Cells of a row that is being read: the current one, or the next one when a cell of it ends the
@@ -124,7 +123,7 @@ void XlsRows::readFormula(std::string_view data)
 bool XlsRows::readRecord()
 {
     if (!m_records.next())
-        throw RefusedFile(Refusal::Malformed, "the workbook is cut short");
+        throw RefusedFile(Refusal::Malformed, "MESS_TAB_WORKBOOK_CUT");
     const std::string_view data = m_records.data();
     switch (m_records.type()) {
     case XlsNumber:

@@ -104,12 +104,10 @@ private:
     {
         XlsRecords records(std::make_unique<FileSource>(m_file, m_stream));
         if (!records.next() || records.type() != XlsBof || records.data().size() < 4)
-            throw RefusedFile(Refusal::NotSupportedFormat,
-                              "this workbook is older than Excel 5: save it as .xlsx");
+            throw RefusedFile(Refusal::NotSupportedFormat, "MESS_TAB_OLD_WORKBOOK");
         const uint16_t version = u16(records.data().data());
         if (version != Biff8 && version != Biff5)
-            throw RefusedFile(Refusal::NotSupportedFormat,
-                              "this workbook is older than Excel 5: save it as .xlsx");
+            throw RefusedFile(Refusal::NotSupportedFormat, "MESS_TAB_OLD_WORKBOOK");
         m_context->isBiff8 = version == Biff8;
         uint64_t start = records.position();
         while (records.next() && records.type() != XlsEof) {
@@ -121,7 +119,7 @@ private:
     void readGlobal(uint16_t type, std::string_view data, uint64_t start)
     {
         if (type == XlsFilePass)
-            throw RefusedFile(Refusal::Encrypted, "the workbook is protected by a password");
+            throw RefusedFile(Refusal::Encrypted, "MESS_TAB_PASSWORD");
         if (type == XlsSst)
             m_context->strings->setPosition(start);
         else if (type == XlsCodePage && data.size() >= 2)
@@ -151,12 +149,11 @@ std::vector<Extent> workbookStream(const std::shared_ptr<const InputFile> &file)
 {
     const CompoundFile compound(file);
     if (compound.contains("EncryptedPackage"))
-        throw RefusedFile(Refusal::Encrypted, "the workbook is protected by a password");
+        throw RefusedFile(Refusal::Encrypted, "MESS_TAB_PASSWORD");
     for (const char *name : {"Workbook", "Book", "WORKBOOK", "BOOK"})
         if (compound.contains(name))
             return compound.extents(name);
-    throw RefusedFile(Refusal::NotSupportedFormat,
-                      "this is an office document, but not a workbook (.xls)");
+    throw RefusedFile(Refusal::NotSupportedFormat, "MESS_TAB_OFFICE_DOCUMENT");
 }
 
 } // namespace

@@ -115,8 +115,7 @@ private:
             }
             const size_t seen = static_cast<size_t>(m_input.end() - begin);
             if (!m_input.more(begin))
-                throw RefusedFile(Refusal::Malformed,
-                                  "the workbook is damaged: its texts are cut short");
+                throw RefusedFile(Refusal::Malformed, "MESS_TAB_TEXTS_CUT");
             begin = m_input.begin();
             from = begin + (seen > m_closing.size() ? seen - m_closing.size() : 0);
         }

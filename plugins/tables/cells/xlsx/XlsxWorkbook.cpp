@@ -195,8 +195,7 @@ private:
         for (const auto &[id, relation] : readRelations(*m_archive, ""))
             if (relation.type == "officeDocument") {
                 if (!relation.target.ends_with(".xml")) // .xlsb keeps binary parts
-                    throw RefusedFile(Refusal::NotSupportedFormat,
-                                      "this is a binary workbook (.xlsb): save it as .xlsx");
+                    throw RefusedFile(Refusal::NotSupportedFormat, "MESS_TAB_XLSB");
                 if (relation.target.starts_with("word/") || relation.target.starts_with("ppt/"))
                     break;
                 return relation.target;
@@ -204,10 +203,8 @@ private:
         if (m_archive->contains("xl/workbook.xml"))
             return "xl/workbook.xml";
         if (m_archive->contains("mimetype") && m_archive->contains("content.xml"))
-            throw RefusedFile(Refusal::NotSupportedFormat,
-                              "this is an OpenDocument file: save it as .xlsx or .csv");
-        throw RefusedFile(Refusal::NotSupportedFormat,
-                          "this is an archive, but not a workbook (.xlsx)");
+            throw RefusedFile(Refusal::NotSupportedFormat, "MESS_TAB_OPEN_DOCUMENT");
+        throw RefusedFile(Refusal::NotSupportedFormat, "MESS_TAB_ARCHIVE");
     }
 
     void readSheets(const std::string &workbook, const std::map<std::string, Relation> &relations,

@@ -15,7 +15,6 @@ namespace {
 
 constexpr size_t HeadSize = 4096;
 constexpr std::ptrdiff_t LongestTagName = 256;
-constexpr char WebPage[] = "this is a web page, not a workbook: save it as .xlsx or .csv";
 constexpr std::string_view Namespace = "urn:schemas-microsoft-com:office:spreadsheet";
 
 /// The file's bytes as UTF-8 from a place on. Places count decoded bytes.
@@ -179,7 +178,7 @@ std::unique_ptr<Workbook> openSpreadsheetMl(const std::shared_ptr<const InputFil
         size += got;
     start.resize(size);
     if (uppercase(start.substr(0, 256)).find("<!DOCTYPE HTML") != std::string::npos)
-        throw RefusedFile(Refusal::NotSupportedFormat, WebPage);
+        throw RefusedFile(Refusal::NotSupportedFormat, "MESS_TAB_WEB_PAGE");
     XmlCursor cursor(start);
     XmlTag tag;
     while (cursor.next(tag)) {
@@ -189,13 +188,10 @@ std::unique_ptr<Workbook> openSpreadsheetMl(const std::shared_ptr<const InputFil
             return std::make_unique<SpreadsheetMlWorkbook>(std::move(xml));
         const std::string name = uppercase(std::string(tag.name));
         if (name == "HTML" || name == "TABLE" || name == "HEAD" || name == "BODY" || name == "META")
-            throw RefusedFile(Refusal::NotSupportedFormat, WebPage);
-        throw RefusedFile(
-            Refusal::NotSupportedFormat,
-            "this XML file is not a SpreadsheetML 2003 workbook: its root element is <" +
-                std::string(tag.name) + ">");
+            throw RefusedFile(Refusal::NotSupportedFormat, "MESS_TAB_WEB_PAGE");
+        throw RefusedFile(Refusal::NotSupportedFormat, "MESS_TAB_OTHER_XML", {tag.name});
     }
-    throw RefusedFile(Refusal::Malformed, "the XML file has no root element");
+    throw RefusedFile(Refusal::Malformed, "MESS_TAB_NO_ROOT_ELEMENT");
 }
 
 } // namespace vlt::tables

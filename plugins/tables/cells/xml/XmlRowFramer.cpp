@@ -81,7 +81,7 @@ bool XmlRowFramer::advance()
         findRowEnd(tag);
         return true;
     }
-    throw RefusedFile(Refusal::Malformed, "the file is cut short: the sheet does not end");
+    throw RefusedFile(Refusal::Malformed, "MESS_TAB_SHEET_CUT");
 }
 
 void XmlRowFramer::findRowEnd(const XmlTag &tag)
@@ -111,8 +111,8 @@ void XmlRowFramer::findRowEnd(const XmlTag &tag)
         const size_t seen = static_cast<size_t>(m_input.end() - row);
         m_windowOffset += static_cast<uint64_t>(row - m_input.begin());
         if (!m_input.more(row))
-            throw RefusedFile(Refusal::Malformed,
-                              "the file is cut short in row " + std::to_string(m_rowNumber));
+            throw RefusedFile(Refusal::Malformed, "MESS_TAB_FILE_CUT_IN_ROW",
+                              {std::to_string(m_rowNumber)});
         row = m_input.begin();
         const size_t overlap = m_closing.size();
         from = row + std::max(openingSize, seen > overlap ? seen - overlap : 0);

@@ -58,9 +58,7 @@ bool readSpecial(const char *end, XmlTag &tag)
     else if (rest.starts_with("<?"))
         closing = "?>";
     else if (rest.starts_with("<!DOCTYPE"))
-        throw RefusedFile(
-            Refusal::DocumentType,
-            "the XML file declares a document type, which tables do not need and attacks do");
+        throw RefusedFile(Refusal::DocumentType, "MESS_TAB_DOCUMENT_TYPE");
     const size_t stop = rest.find(closing, 2);
     if (stop == std::string_view::npos || (rest.size() < 9 && rest.starts_with("<!")))
         return false;
@@ -117,7 +115,7 @@ bool nextTag(const char *at, const char *end, XmlTag &tag)
 void refuseEndlessMarkup(const char *begin, const char *end)
 {
     if (static_cast<size_t>(end - begin) > LongestMarkup)
-        throw RefusedFile(Refusal::Malformed, "a tag or comment in the XML is unreasonably long");
+        throw RefusedFile(Refusal::Malformed, "MESS_TAB_LONG_TAG");
 }
 
 std::optional<std::string_view> attribute(std::string_view attributes, std::string_view localName)

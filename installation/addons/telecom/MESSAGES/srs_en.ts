@@ -1,0 +1,228 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en_US" sourcelanguage="en">
+<context>
+    <name>Coordinate system field</name>
+    <message id="MESS_AUTRE...">
+        <source>Other...</source>
+        <translation>Other...</translation>
+    </message>
+    <message id="MESS_NDEF">
+        <source>Undefined</source>
+        <translation>Undefined</translation>
+    </message>
+    <message id="MESS_RESET_SRS">
+        <source>Back to the initial coordinate system</source>
+        <translation>Back to the initial coordinate system</translation>
+    </message>
+</context>
+<context>
+    <name>Choice of a coordinate system</name>
+    <message id="MESS_PROJ_ALIAS_EXIST">
+        <source> this alias is already exists. Please enter another alias</source>
+        <translation> this alias is already exists. Please enter another alias</translation>
+    </message>
+    <message id="MESS_SRS_CHOOSE">
+        <source>Choose a coordinate system</source>
+        <translation>Choose a coordinate system</translation>
+    </message>
+    <message id="MESS_SRS_TAB_SEARCH">
+        <source>&amp;Search</source>
+        <translation>&amp;Search</translation>
+    </message>
+    <message id="MESS_SRS_TAB_DEFAULT">
+        <source>De&amp;fault</source>
+        <translation>De&amp;fault</translation>
+    </message>
+    <message id="MESS_SRS_TAB_LAST_USED">
+        <source>&amp;Last used</source>
+        <translation>&amp;Last used</translation>
+    </message>
+    <message id="MESS_SRS_TAB_USER">
+        <source>&amp;User-defined</source>
+        <translation>&amp;User-defined</translation>
+    </message>
+    <message id="MESS_SRS_SEARCH_FOR">
+        <source>Sea&amp;rch for:</source>
+        <translation>Sea&amp;rch for:</translation>
+    </message>
+    <message id="MESS_SRS_SEARCH_TIP">
+        <source>Words of the name, of the code or of the area of use, in any order</source>
+        <translation>Words of the name, of the code or of the area of use, in any order</translation>
+    </message>
+    <message id="MESS_SRS_SEARCH_HINT">
+        <source>Lambert 93, EPSG:2154, France...</source>
+        <translation>Lambert 93, EPSG:2154, France...</translation>
+    </message>
+    <message id="MESS_SRS_KIND">
+        <source>&amp;Kind:</source>
+        <translation>&amp;Kind:</translation>
+    </message>
+    <message id="MESS_SRS_ALL_KINDS">
+        <source>All kinds</source>
+        <translation>All kinds</translation>
+    </message>
+    <message id="MESS_SRS_DEPRECATED">
+        <source>Deprecated &amp;too</source>
+        <translation>Deprecated &amp;too</translation>
+    </message>
+    <message id="MESS_SRS_DEPRECATED_TIP">
+        <source>Also list the systems that have been withdrawn; a code typed in full finds them always</source>
+        <translation>Also list the systems that have been withdrawn; a code typed in full finds them always</translation>
+    </message>
+    <message id="MESS_SRS_RESULTS">
+        <source>Systems found</source>
+        <extracomment>Read out by screen readers, as the other names of tables.</extracomment>
+        <translation>Systems found</translation>
+    </message>
+    <message id="MESS_SRS_DEFAULTS">
+        <source>Default systems</source>
+        <translation>Default systems</translation>
+    </message>
+    <message id="MESS_SRS_LAST">
+        <source>Last used systems</source>
+        <translation>Last used systems</translation>
+    </message>
+    <message id="MESS_SRS_USERS">
+        <source>User-defined systems</source>
+        <translation>User-defined systems</translation>
+    </message>
+    <message id="MESS_SRS_LOADING">
+        <source>Reading the list of coordinate systems...</source>
+        <translation>Reading the list of coordinate systems...</translation>
+    </message>
+    <message id="MESS_SRS_NO_LIST">
+        <source>The list of coordinate systems cannot be read</source>
+        <translation>The list of coordinate systems cannot be read</translation>
+    </message>
+    <message id="MESS_SRS_FOUND">
+        <source>Systems found: %1</source>
+        <translation>Systems found: %1</translation>
+    </message>
+    <message id="MESS_SRS_NONE_FOUND">
+        <source>No system matches</source>
+        <translation>No system matches</translation>
+    </message>
+    <message id="MESS_SRS_COLUMN_NAME">
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message id="MESS_SRS_COLUMN_CODE">
+        <source>Code</source>
+        <translation>Code</translation>
+    </message>
+    <message id="MESS_SRS_COLUMN_KIND">
+        <source>Kind</source>
+        <translation>Kind</translation>
+    </message>
+    <message id="MESS_SRS_COLUMN_AREA">
+        <source>Area of use</source>
+        <translation>Area of use</translation>
+    </message>
+    <message id="MESS_SRS_COLUMN_ALIAS">
+        <source>Alias</source>
+        <translation>Alias</translation>
+    </message>
+    <message id="MESS_SRS_COLUMN_DEFINITION">
+        <source>Definition</source>
+        <translation>Definition</translation>
+    </message>
+    <message id="MESS_SRS_KIND_PROJECTED">
+        <source>Projected</source>
+        <translation>Projected</translation>
+    </message>
+    <message id="MESS_SRS_KIND_GEOGRAPHIC_2D">
+        <source>Geographic 2D</source>
+        <translation>Geographic 2D</translation>
+    </message>
+    <message id="MESS_SRS_KIND_GEOGRAPHIC_3D">
+        <source>Geographic 3D</source>
+        <translation>Geographic 3D</translation>
+    </message>
+    <message id="MESS_SRS_KIND_GEOCENTRIC">
+        <source>Geocentric</source>
+        <translation>Geocentric</translation>
+    </message>
+    <message id="MESS_SRS_KIND_COMPOUND">
+        <source>Compound</source>
+        <translation>Compound</translation>
+    </message>
+    <message id="MESS_SRS_KIND_OTHER">
+        <source>Other</source>
+        <translation>Other</translation>
+    </message>
+    <message id="MESS_SRS_DETAILS">
+        <source>Selected system</source>
+        <translation>Selected system</translation>
+    </message>
+    <message id="MESS_SRS_DETAIL_NAME">
+        <source>Name:</source>
+        <translation>Name:</translation>
+    </message>
+    <message id="MESS_SRS_DETAIL_CODE">
+        <source>Code:</source>
+        <translation>Code:</translation>
+    </message>
+    <message id="MESS_SRS_DETAIL_KIND">
+        <source>Kind:</source>
+        <translation>Kind:</translation>
+    </message>
+    <message id="MESS_SRS_DETAIL_AREA">
+        <source>Area of use:</source>
+        <translation>Area of use:</translation>
+    </message>
+    <message id="MESS_SRS_DETAIL_EXTENT">
+        <source>Extent:</source>
+        <translation>Extent:</translation>
+    </message>
+    <message id="MESS_SRS_EXTENT">
+        <source>longitude %1° to %2°, latitude %3° to %4°</source>
+        <extracomment>%1 west, %2 east, %3 south, %4 north.</extracomment>
+        <translation>longitude %1° to %2°, latitude %3° to %4°</translation>
+    </message>
+    <message id="MESS_SRS_COPY">
+        <source>&amp;Copy code</source>
+        <translation>&amp;Copy code</translation>
+    </message>
+    <message id="MESS_SRS_ADD">
+        <source>&amp;Add...</source>
+        <translation>&amp;Add...</translation>
+    </message>
+    <message id="MESS_SRS_EDIT">
+        <source>&amp;Edit...</source>
+        <translation>&amp;Edit...</translation>
+    </message>
+    <message id="MESS_SRS_REMOVE">
+        <source>Re&amp;move</source>
+        <translation>Re&amp;move</translation>
+    </message>
+    <message id="MESS_SRS_ASK_REMOVE">
+        <source>Remove %1 from the user-defined coordinate systems?</source>
+        <translation>Remove %1 from the user-defined coordinate systems?</translation>
+    </message>
+    <message id="MESS_SRS_ALIAS_TITLE">
+        <source>User-defined coordinate system</source>
+        <translation>User-defined coordinate system</translation>
+    </message>
+    <message id="MESS_SRS_ALIAS">
+        <source>&amp;Alias:</source>
+        <translation>&amp;Alias:</translation>
+    </message>
+    <message id="MESS_SRS_ALIAS_TIP">
+        <source>The name under which the system is listed from now on</source>
+        <translation>The name under which the system is listed from now on</translation>
+    </message>
+    <message id="MESS_SRS_DEFINITION">
+        <source>&amp;Definition:</source>
+        <translation>&amp;Definition:</translation>
+    </message>
+    <message id="MESS_SRS_DEFINITION_TIP">
+        <source>A code such as EPSG:2154, a PROJ text or WKT</source>
+        <translation>A code such as EPSG:2154, a PROJ text or WKT</translation>
+    </message>
+    <message id="MESS_SRS_NOT_DEFINED">
+        <source>This is not yet a definition of a coordinate system</source>
+        <translation>This is not yet a definition of a coordinate system</translation>
+    </message>
+</context>
+</TS>

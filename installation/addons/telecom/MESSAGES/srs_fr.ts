@@ -1,0 +1,228 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr_FR" sourcelanguage="en">
+<context>
+    <name>Coordinate system field</name>
+    <message id="MESS_AUTRE...">
+        <source>Other...</source>
+        <translation>Autre...</translation>
+    </message>
+    <message id="MESS_NDEF">
+        <source>Undefined</source>
+        <translation>Non défini</translation>
+    </message>
+    <message id="MESS_RESET_SRS">
+        <source>Back to the initial coordinate system</source>
+        <translation>Revenir au système de coordonnées initial</translation>
+    </message>
+</context>
+<context>
+    <name>Choice of a coordinate system</name>
+    <message id="MESS_PROJ_ALIAS_EXIST">
+        <source> this alias is already exists. Please enter another alias</source>
+        <translation>Cet alias existe déjà. Veuillez en saisir un autre</translation>
+    </message>
+    <message id="MESS_SRS_CHOOSE">
+        <source>Choose a coordinate system</source>
+        <translation>Choisir un système de coordonnées</translation>
+    </message>
+    <message id="MESS_SRS_TAB_SEARCH">
+        <source>&amp;Search</source>
+        <translation>&amp;Recherche</translation>
+    </message>
+    <message id="MESS_SRS_TAB_DEFAULT">
+        <source>De&amp;fault</source>
+        <translation>Par dé&amp;faut</translation>
+    </message>
+    <message id="MESS_SRS_TAB_LAST_USED">
+        <source>&amp;Last used</source>
+        <translation>&amp;Derniers utilisés</translation>
+    </message>
+    <message id="MESS_SRS_TAB_USER">
+        <source>&amp;User-defined</source>
+        <translation>Définis par l'&amp;utilisateur</translation>
+    </message>
+    <message id="MESS_SRS_SEARCH_FOR">
+        <source>Sea&amp;rch for:</source>
+        <translation>Rec&amp;hercher&#xa0;:</translation>
+    </message>
+    <message id="MESS_SRS_SEARCH_TIP">
+        <source>Words of the name, of the code or of the area of use, in any order</source>
+        <translation>Mots du nom, du code ou de la zone d'emploi, dans n'importe quel ordre</translation>
+    </message>
+    <message id="MESS_SRS_SEARCH_HINT">
+        <source>Lambert 93, EPSG:2154, France...</source>
+        <translation>Lambert 93, EPSG:2154, France...</translation>
+    </message>
+    <message id="MESS_SRS_KIND">
+        <source>&amp;Kind:</source>
+        <translation>&amp;Type&#xa0;:</translation>
+    </message>
+    <message id="MESS_SRS_ALL_KINDS">
+        <source>All kinds</source>
+        <translation>Tous</translation>
+    </message>
+    <message id="MESS_SRS_DEPRECATED">
+        <source>Deprecated &amp;too</source>
+        <translation>&amp;Obsolètes aussi</translation>
+    </message>
+    <message id="MESS_SRS_DEPRECATED_TIP">
+        <source>Also list the systems that have been withdrawn; a code typed in full finds them always</source>
+        <translation>Lister aussi les systèmes retirés&#xa0;; un code saisi en entier les trouve toujours</translation>
+    </message>
+    <message id="MESS_SRS_RESULTS">
+        <source>Systems found</source>
+        <extracomment>Read out by screen readers, as the other names of tables.</extracomment>
+        <translation>Systèmes trouvés</translation>
+    </message>
+    <message id="MESS_SRS_DEFAULTS">
+        <source>Default systems</source>
+        <translation>Systèmes par défaut</translation>
+    </message>
+    <message id="MESS_SRS_LAST">
+        <source>Last used systems</source>
+        <translation>Derniers systèmes utilisés</translation>
+    </message>
+    <message id="MESS_SRS_USERS">
+        <source>User-defined systems</source>
+        <translation>Systèmes définis par l'utilisateur</translation>
+    </message>
+    <message id="MESS_SRS_LOADING">
+        <source>Reading the list of coordinate systems...</source>
+        <translation>Lecture de la liste des systèmes de coordonnées...</translation>
+    </message>
+    <message id="MESS_SRS_NO_LIST">
+        <source>The list of coordinate systems cannot be read</source>
+        <translation>La liste des systèmes de coordonnées est illisible</translation>
+    </message>
+    <message id="MESS_SRS_FOUND">
+        <source>Systems found: %1</source>
+        <translation>Systèmes trouvés&#xa0;: %1</translation>
+    </message>
+    <message id="MESS_SRS_NONE_FOUND">
+        <source>No system matches</source>
+        <translation>Aucun système ne correspond</translation>
+    </message>
+    <message id="MESS_SRS_COLUMN_NAME">
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message id="MESS_SRS_COLUMN_CODE">
+        <source>Code</source>
+        <translation>Code</translation>
+    </message>
+    <message id="MESS_SRS_COLUMN_KIND">
+        <source>Kind</source>
+        <translation>Type</translation>
+    </message>
+    <message id="MESS_SRS_COLUMN_AREA">
+        <source>Area of use</source>
+        <translation>Zone d'emploi</translation>
+    </message>
+    <message id="MESS_SRS_COLUMN_ALIAS">
+        <source>Alias</source>
+        <translation>Alias</translation>
+    </message>
+    <message id="MESS_SRS_COLUMN_DEFINITION">
+        <source>Definition</source>
+        <translation>Définition</translation>
+    </message>
+    <message id="MESS_SRS_KIND_PROJECTED">
+        <source>Projected</source>
+        <translation>Projeté</translation>
+    </message>
+    <message id="MESS_SRS_KIND_GEOGRAPHIC_2D">
+        <source>Geographic 2D</source>
+        <translation>Géographique 2D</translation>
+    </message>
+    <message id="MESS_SRS_KIND_GEOGRAPHIC_3D">
+        <source>Geographic 3D</source>
+        <translation>Géographique 3D</translation>
+    </message>
+    <message id="MESS_SRS_KIND_GEOCENTRIC">
+        <source>Geocentric</source>
+        <translation>Géocentrique</translation>
+    </message>
+    <message id="MESS_SRS_KIND_COMPOUND">
+        <source>Compound</source>
+        <translation>Composé</translation>
+    </message>
+    <message id="MESS_SRS_KIND_OTHER">
+        <source>Other</source>
+        <translation>Autre</translation>
+    </message>
+    <message id="MESS_SRS_DETAILS">
+        <source>Selected system</source>
+        <translation>Système sélectionné</translation>
+    </message>
+    <message id="MESS_SRS_DETAIL_NAME">
+        <source>Name:</source>
+        <translation>Nom&#xa0;:</translation>
+    </message>
+    <message id="MESS_SRS_DETAIL_CODE">
+        <source>Code:</source>
+        <translation>Code&#xa0;:</translation>
+    </message>
+    <message id="MESS_SRS_DETAIL_KIND">
+        <source>Kind:</source>
+        <translation>Type&#xa0;:</translation>
+    </message>
+    <message id="MESS_SRS_DETAIL_AREA">
+        <source>Area of use:</source>
+        <translation>Zone d'emploi&#xa0;:</translation>
+    </message>
+    <message id="MESS_SRS_DETAIL_EXTENT">
+        <source>Extent:</source>
+        <translation>Étendue&#xa0;:</translation>
+    </message>
+    <message id="MESS_SRS_EXTENT">
+        <source>longitude %1° to %2°, latitude %3° to %4°</source>
+        <extracomment>%1 west, %2 east, %3 south, %4 north.</extracomment>
+        <translation>longitude de %1° à %2°, latitude de %3° à %4°</translation>
+    </message>
+    <message id="MESS_SRS_COPY">
+        <source>&amp;Copy code</source>
+        <translation>&amp;Copier le code</translation>
+    </message>
+    <message id="MESS_SRS_ADD">
+        <source>&amp;Add...</source>
+        <translation>&amp;Ajouter...</translation>
+    </message>
+    <message id="MESS_SRS_EDIT">
+        <source>&amp;Edit...</source>
+        <translation>&amp;Modifier...</translation>
+    </message>
+    <message id="MESS_SRS_REMOVE">
+        <source>Re&amp;move</source>
+        <translation>&amp;Supprimer</translation>
+    </message>
+    <message id="MESS_SRS_ASK_REMOVE">
+        <source>Remove %1 from the user-defined coordinate systems?</source>
+        <translation>Supprimer %1 des systèmes de coordonnées définis par l'utilisateur&#xa0;?</translation>
+    </message>
+    <message id="MESS_SRS_ALIAS_TITLE">
+        <source>User-defined coordinate system</source>
+        <translation>Système de coordonnées défini par l'utilisateur</translation>
+    </message>
+    <message id="MESS_SRS_ALIAS">
+        <source>&amp;Alias:</source>
+        <translation>&amp;Alias&#xa0;:</translation>
+    </message>
+    <message id="MESS_SRS_ALIAS_TIP">
+        <source>The name under which the system is listed from now on</source>
+        <translation>Le nom sous lequel le système figurera désormais dans les listes</translation>
+    </message>
+    <message id="MESS_SRS_DEFINITION">
+        <source>&amp;Definition:</source>
+        <translation>&amp;Définition&#xa0;:</translation>
+    </message>
+    <message id="MESS_SRS_DEFINITION_TIP">
+        <source>A code such as EPSG:2154, a PROJ text or WKT</source>
+        <translation>Un code comme EPSG:2154, un texte PROJ ou WKT</translation>
+    </message>
+    <message id="MESS_SRS_NOT_DEFINED">
+        <source>This is not yet a definition of a coordinate system</source>
+        <translation>Ceci n'est pas encore une définition de système de coordonnées</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,331 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en_US" sourcelanguage="en">
+<context>
+    <name>Site tables</name>
+    <message id="MESS_TAB_NO_FILE_NAME">
+        <source>no file is named</source>
+        <translation>no file is named</translation>
+    </message>
+    <message id="MESS_TAB_NOT_LOCAL">
+        <source>tables are read from local files only</source>
+        <translation>tables are read from local files only</translation>
+    </message>
+    <message id="MESS_TAB_READ_ONLY">
+        <source>tables of sites are not written</source>
+        <translation>tables of sites are not written</translation>
+    </message>
+    <message id="MESS_TAB_NO_READER">
+        <source>no driver for it was found</source>
+        <translation>no driver for it was found</translation>
+    </message>
+    <message id="MESS_TAB_OUT_OF_MEMORY">
+        <source>out of memory</source>
+        <translation>out of memory</translation>
+    </message>
+    <message id="MESS_TAB_FOLDER">
+        <source>this is a folder, not a file</source>
+        <translation>this is a folder, not a file</translation>
+    </message>
+    <message id="MESS_TAB_DEVICE">
+        <source>this is not a regular file</source>
+        <translation>this is not a regular file</translation>
+    </message>
+    <message id="MESS_TAB_NO_FILE">
+        <source>the file does not exist</source>
+        <translation>the file does not exist</translation>
+    </message>
+    <message id="MESS_TAB_NO_PERMISSION">
+        <source>the file cannot be read: Permission denied</source>
+        <translation>the file cannot be read: Permission denied</translation>
+    </message>
+    <message id="MESS_TAB_UNREADABLE">
+        <source>the file cannot be read: %1</source>
+        <translation>the file cannot be read: %1</translation>
+    </message>
+    <message id="MESS_TAB_FILE_CHANGED">
+        <source>the file has changed while it was read</source>
+        <translation>the file has changed while it was read</translation>
+    </message>
+    <message id="MESS_TAB_EMPTY_FILE">
+        <source>the file is empty</source>
+        <translation>the file is empty</translation>
+    </message>
+    <message id="MESS_TAB_BLANK_FILE">
+        <source>there is nothing but white space in the file</source>
+        <translation>there is nothing but white space in the file</translation>
+    </message>
+    <message id="MESS_TAB_BINARY_FILE">
+        <source>this is neither a text nor a workbook</source>
+        <translation>this is neither a text nor a workbook</translation>
+    </message>
+    <message id="MESS_TAB_ENCODING">
+        <source>the encoding "%1" is not known</source>
+        <translation>the encoding "%1" is not known</translation>
+    </message>
+    <message id="MESS_TAB_PDF">
+        <source>this is a PDF document, not a table</source>
+        <translation>this is a PDF document, not a table</translation>
+    </message>
+    <message id="MESS_TAB_JSON">
+        <source>this looks like JSON, not like a table</source>
+        <translation>this looks like JSON, not like a table</translation>
+    </message>
+    <message id="MESS_TAB_SYLK">
+        <source>this is a SYLK file: save it as .xlsx or .csv</source>
+        <translation>this is a SYLK file: save it as .xlsx or .csv</translation>
+    </message>
+    <message id="MESS_TAB_WEB_PAGE">
+        <source>this is a web page, not a workbook: save it as .xlsx or .csv</source>
+        <translation>this is a web page, not a workbook: save it as .xlsx or .csv</translation>
+    </message>
+    <message id="MESS_TAB_OPEN_DOCUMENT">
+        <source>this is an OpenDocument file: save it as .xlsx or .csv</source>
+        <translation>this is an OpenDocument file: save it as .xlsx or .csv</translation>
+    </message>
+    <message id="MESS_TAB_XLSB">
+        <source>this is a binary workbook (.xlsb): save it as .xlsx</source>
+        <translation>this is a binary workbook (.xlsb): save it as .xlsx</translation>
+    </message>
+    <message id="MESS_TAB_OLD_WORKBOOK">
+        <source>this workbook is older than Excel 5: save it as .xlsx</source>
+        <translation>this workbook is older than Excel 5: save it as .xlsx</translation>
+    </message>
+    <message id="MESS_TAB_ARCHIVE">
+        <source>this is an archive, but not a workbook (.xlsx)</source>
+        <translation>this is an archive, but not a workbook (.xlsx)</translation>
+    </message>
+    <message id="MESS_TAB_OFFICE_DOCUMENT">
+        <source>this is an office document, but not a workbook (.xls)</source>
+        <translation>this is an office document, but not a workbook (.xls)</translation>
+    </message>
+    <message id="MESS_TAB_OTHER_XML">
+        <source>this XML file is not a SpreadsheetML 2003 workbook: its root element is &lt;%1&gt;</source>
+        <translation>this XML file is not a SpreadsheetML 2003 workbook: its root element is &lt;%1&gt;</translation>
+    </message>
+    <message id="MESS_TAB_DOCUMENT_TYPE">
+        <source>the XML file declares a document type, which tables do not need and attacks do</source>
+        <translation>the XML file declares a document type, which tables do not need and attacks do</translation>
+    </message>
+    <message id="MESS_TAB_PASSWORD">
+        <source>the workbook is protected by a password</source>
+        <translation>the workbook is protected by a password</translation>
+    </message>
+    <message id="MESS_TAB_FILE_CUT">
+        <source>the file is cut short</source>
+        <translation>the file is cut short</translation>
+    </message>
+    <message id="MESS_TAB_FILE_CUT_IN_ROW">
+        <source>the file is cut short in row %1</source>
+        <translation>the file is cut short in row %1</translation>
+    </message>
+    <message id="MESS_TAB_SHEET_CUT">
+        <source>the file is cut short: the sheet does not end</source>
+        <translation>the file is cut short: the sheet does not end</translation>
+    </message>
+    <message id="MESS_TAB_WORKBOOK_CUT">
+        <source>the workbook is cut short</source>
+        <translation>the workbook is cut short</translation>
+    </message>
+    <message id="MESS_TAB_WORKBOOK_DAMAGED">
+        <source>the workbook is damaged or cut short</source>
+        <translation>the workbook is damaged or cut short</translation>
+    </message>
+    <message id="MESS_TAB_NO_DIRECTORY">
+        <source>the workbook is cut short: its directory is missing</source>
+        <translation>the workbook is cut short: its directory is missing</translation>
+    </message>
+    <message id="MESS_TAB_DIRECTORY_DAMAGED">
+        <source>the directory of the workbook is damaged</source>
+        <translation>the directory of the workbook is damaged</translation>
+    </message>
+    <message id="MESS_TAB_PART_MISPLACED">
+        <source>the workbook is damaged: a part is not where the directory says</source>
+        <translation>the workbook is damaged: a part is not where the directory says</translation>
+    </message>
+    <message id="MESS_TAB_SHEET_MISPLACED">
+        <source>the workbook is damaged: a sheet is not where it should be</source>
+        <translation>the workbook is damaged: a sheet is not where it should be</translation>
+    </message>
+    <message id="MESS_TAB_TEXTS_CUT">
+        <source>the workbook is damaged: its texts are cut short</source>
+        <translation>the workbook is damaged: its texts are cut short</translation>
+    </message>
+    <message id="MESS_TAB_NO_PART">
+        <source>the workbook lacks its part %1</source>
+        <translation>the workbook lacks its part %1</translation>
+    </message>
+    <message id="MESS_TAB_PART_TOO_LARGE">
+        <source>a part of the workbook is unreasonably large</source>
+        <translation>a part of the workbook is unreasonably large</translation>
+    </message>
+    <message id="MESS_TAB_COMPRESSION">
+        <source>the workbook is packed by an unusual compression method</source>
+        <translation>the workbook is packed by an unusual compression method</translation>
+    </message>
+    <message id="MESS_TAB_DATA_DAMAGED">
+        <source>the compressed data of the workbook are damaged</source>
+        <translation>the compressed data of the workbook are damaged</translation>
+    </message>
+    <message id="MESS_TAB_DATA_CUT">
+        <source>the compressed data of the workbook are cut short</source>
+        <translation>the compressed data of the workbook are cut short</translation>
+    </message>
+    <message id="MESS_TAB_CHECK_SUM">
+        <source>the compressed data of the workbook fail their check sum</source>
+        <translation>the compressed data of the workbook fail their check sum</translation>
+    </message>
+    <message id="MESS_TAB_NO_ROOT_ELEMENT">
+        <source>the XML file has no root element</source>
+        <translation>the XML file has no root element</translation>
+    </message>
+    <message id="MESS_TAB_LONG_TAG">
+        <source>a tag or comment in the XML is unreasonably long</source>
+        <translation>a tag or comment in the XML is unreasonably long</translation>
+    </message>
+    <message id="MESS_TAB_LONG_ROW">
+        <source>a single row is longer than 256 MiB</source>
+        <translation>a single row is longer than 256 MiB</translation>
+    </message>
+    <message id="MESS_TAB_NO_DELIMITER">
+        <source>no delimiter was found: neither semicolons nor tabs, bars or commas make columns of it</source>
+        <translation>no delimiter was found: neither semicolons nor tabs, bars or commas make columns of it</translation>
+    </message>
+    <message id="MESS_TAB_NO_SHEET">
+        <source>there is no sheet called "%1"</source>
+        <translation>there is no sheet called "%1"</translation>
+    </message>
+    <message id="MESS_TAB_NO_VALUE">
+        <source>there is no cell with a value in the file</source>
+        <translation>there is no cell with a value in the file</translation>
+    </message>
+    <message id="MESS_TAB_FILE_OF_ONE_COLUMN">
+        <source>the file has only one column</source>
+        <translation>the file has only one column</translation>
+    </message>
+    <message id="MESS_TAB_TABLE_OF_ONE_COLUMN">
+        <source>the table has only one column</source>
+        <translation>the table has only one column</translation>
+    </message>
+    <message id="MESS_TAB_NO_HEADER">
+        <source>no header was found: none of the first rows names its columns</source>
+        <translation>no header was found: none of the first rows names its columns</translation>
+    </message>
+    <message id="MESS_TAB_NO_ROW">
+        <source>there is a header in row %1, but no row below it</source>
+        <translation>there is a header in row %1, but no row below it</translation>
+    </message>
+    <message id="MESS_TAB_UNKNOWN_SRS">
+        <source>the coordinate system "%1" is not known</source>
+        <translation>the coordinate system "%1" is not known</translation>
+    </message>
+    <message id="MESS_TAB_NO_WAY">
+        <source>there is no way from the coordinate system "%1" to "%2"</source>
+        <translation>there is no way from the coordinate system "%1" to "%2"</translation>
+    </message>
+    <message id="MESS_TAB_UNKNOWN_EPSG">
+        <source>the file declares the coordinate system EPSG:%1, which is not known</source>
+        <translation>the file declares the coordinate system EPSG:%1, which is not known</translation>
+    </message>
+    <message id="MESS_TAB_NO_SOURCE_SRS">
+        <source>the coordinate system of the file is not known: its coordinates are taken as they are</source>
+        <translation>the coordinate system of the file is not known: its coordinates are taken as they are</translation>
+    </message>
+    <message id="MESS_TAB_OUTSIDE_TARGET">
+        <source>the position lies outside the area of the target coordinate system</source>
+        <translation>the position lies outside the area of the target coordinate system</translation>
+    </message>
+    <message id="MESS_TAB_FURTHER_PROBLEMS">
+        <source>further problems are listed in the layer's metadata domain "problems"</source>
+        <translation>further problems are listed in the layer's metadata domain "problems"</translation>
+    </message>
+    <message id="MESS_TAB_NO_COORDINATES">
+        <source>no columns with coordinates were recognised</source>
+        <translation>no columns with coordinates were recognised</translation>
+    </message>
+    <message id="MESS_TAB_BEHIND_LAST">
+        <source>the row goes on behind the last column: "%1" in column %2 has no header</source>
+        <translation>the row goes on behind the last column: "%1" in column %2 has no header</translation>
+    </message>
+    <message id="MESS_TAB_LOST_VALUE">
+        <source>the value "%1" is lost: the column holds numbers</source>
+        <translation>the value "%1" is lost: the column holds numbers</translation>
+    </message>
+    <message id="MESS_TAB_NO_COORDINATE">
+        <source>the coordinate is empty</source>
+        <translation>the coordinate is empty</translation>
+    </message>
+    <message id="MESS_TAB_PART_EMPTY">
+        <source>the coordinate "%1" cannot be read: it is empty</source>
+        <translation>the coordinate "%1" cannot be read: it is empty</translation>
+    </message>
+    <message id="MESS_TAB_NOT_A_NUMBER">
+        <source>the coordinate "%1" cannot be read: it is not a number</source>
+        <translation>the coordinate "%1" cannot be read: it is not a number</translation>
+    </message>
+    <message id="MESS_TAB_WITHOUT_NUMBER">
+        <source>the coordinate "%1" cannot be read: it holds no number</source>
+        <translation>the coordinate "%1" cannot be read: it holds no number</translation>
+    </message>
+    <message id="MESS_TAB_NOT_FINITE">
+        <source>the coordinate "%1" cannot be read: it is not finite</source>
+        <translation>the coordinate "%1" cannot be read: it is not finite</translation>
+    </message>
+    <message id="MESS_TAB_NOT_AN_ANGLE">
+        <source>the coordinate "%1" cannot be read: it is not an angle</source>
+        <translation>the coordinate "%1" cannot be read: it is not an angle</translation>
+    </message>
+    <message id="MESS_TAB_NOT_A_POSITION">
+        <source>the coordinate "%1" cannot be read: it is not a position</source>
+        <translation>the coordinate "%1" cannot be read: it is not a position</translation>
+    </message>
+    <message id="MESS_TAB_FRACTION">
+        <source>the coordinate "%1" cannot be read: only the last of degrees, minutes and seconds may have a fraction</source>
+        <translation>the coordinate "%1" cannot be read: only the last of degrees, minutes and seconds may have a fraction</translation>
+    </message>
+    <message id="MESS_TAB_BELOW_60">
+        <source>the coordinate "%1" cannot be read: minutes and seconds must lie below 60</source>
+        <translation>the coordinate "%1" cannot be read: minutes and seconds must lie below 60</translation>
+    </message>
+    <message id="MESS_TAB_MANY_PARTS">
+        <source>the coordinate "%1" cannot be read: it has more than degrees, minutes and seconds</source>
+        <translation>the coordinate "%1" cannot be read: it has more than degrees, minutes and seconds</translation>
+    </message>
+    <message id="MESS_TAB_SIGN_AND_LETTER">
+        <source>the coordinate "%1" cannot be read: it has both a minus sign and a hemisphere letter</source>
+        <translation>the coordinate "%1" cannot be read: it has both a minus sign and a hemisphere letter</translation>
+    </message>
+    <message id="MESS_TAB_TWO_LETTERS">
+        <source>the coordinate "%1" cannot be read: it has two hemisphere letters</source>
+        <translation>the coordinate "%1" cannot be read: it has two hemisphere letters</translation>
+    </message>
+    <message id="MESS_TAB_NO_HEMISPHERE">
+        <source>the coordinate "%1" cannot be read: it has a letter that is no hemisphere</source>
+        <translation>the coordinate "%1" cannot be read: it has a letter that is no hemisphere</translation>
+    </message>
+    <message id="MESS_TAB_OTHER_AXIS">
+        <source>the coordinate "%1" cannot be read: the hemisphere letter belongs to the other coordinate</source>
+        <translation>the coordinate "%1" cannot be read: the hemisphere letter belongs to the other coordinate</translation>
+    </message>
+    <message id="MESS_TAB_LETTER_O">
+        <source>the coordinate "%1" cannot be read: the letter O may mean west (Ouest, Oeste) or east (Ost): use W or E</source>
+        <translation>the coordinate "%1" cannot be read: the letter O may mean west (Ouest, Oeste) or east (Ost): use W or E</translation>
+    </message>
+    <message id="MESS_TAB_OUTSIDE_GLOBE">
+        <source>the coordinate "%1" cannot be read: it lies outside the globe</source>
+        <translation>the coordinate "%1" cannot be read: it lies outside the globe</translation>
+    </message>
+    <message id="MESS_TAB_LONGITUDE">
+        <source>the coordinate "%1" cannot be read: a longitude lies between -180 and 180</source>
+        <translation>the coordinate "%1" cannot be read: a longitude lies between -180 and 180</translation>
+    </message>
+    <message id="MESS_TAB_LATITUDE">
+        <source>the coordinate "%1" cannot be read: a latitude lies between -90 and 90</source>
+        <translation>the coordinate "%1" cannot be read: a latitude lies between -90 and 90</translation>
+    </message>
+    <message id="MESS_TAB_ZERO_ZERO">
+        <source>the coordinate "%1" cannot be read: 0, 0 stands for an unknown position</source>
+        <translation>the coordinate "%1" cannot be read: 0, 0 stands for an unknown position</translation>
+    </message>
+</context>
+</TS>

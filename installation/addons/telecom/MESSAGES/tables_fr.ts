@@ -1,0 +1,331 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr_FR" sourcelanguage="en">
+<context>
+    <name>Site tables</name>
+    <message id="MESS_TAB_NO_FILE_NAME">
+        <source>no file is named</source>
+        <translation>aucun fichier n'est nommé</translation>
+    </message>
+    <message id="MESS_TAB_NOT_LOCAL">
+        <source>tables are read from local files only</source>
+        <translation>seules les tables qui se trouvent dans des fichiers locaux sont lues</translation>
+    </message>
+    <message id="MESS_TAB_READ_ONLY">
+        <source>tables of sites are not written</source>
+        <translation>les tables de sites ne peuvent pas être modifiées</translation>
+    </message>
+    <message id="MESS_TAB_NO_READER">
+        <source>no driver for it was found</source>
+        <translation>aucun pilote n'a été trouvé pour ce fichier</translation>
+    </message>
+    <message id="MESS_TAB_OUT_OF_MEMORY">
+        <source>out of memory</source>
+        <translation>la mémoire est insuffisante</translation>
+    </message>
+    <message id="MESS_TAB_FOLDER">
+        <source>this is a folder, not a file</source>
+        <translation>c'est un dossier, pas un fichier</translation>
+    </message>
+    <message id="MESS_TAB_DEVICE">
+        <source>this is not a regular file</source>
+        <translation>ce n'est pas un fichier ordinaire</translation>
+    </message>
+    <message id="MESS_TAB_NO_FILE">
+        <source>the file does not exist</source>
+        <translation>le fichier n'existe pas</translation>
+    </message>
+    <message id="MESS_TAB_NO_PERMISSION">
+        <source>the file cannot be read: Permission denied</source>
+        <translation>le fichier ne peut pas être lu&#xa0;: permission refusée</translation>
+    </message>
+    <message id="MESS_TAB_UNREADABLE">
+        <source>the file cannot be read: %1</source>
+        <translation>le fichier ne peut pas être lu&#xa0;: %1</translation>
+    </message>
+    <message id="MESS_TAB_FILE_CHANGED">
+        <source>the file has changed while it was read</source>
+        <translation>le fichier a été modifié pendant la lecture</translation>
+    </message>
+    <message id="MESS_TAB_EMPTY_FILE">
+        <source>the file is empty</source>
+        <translation>le fichier est vide</translation>
+    </message>
+    <message id="MESS_TAB_BLANK_FILE">
+        <source>there is nothing but white space in the file</source>
+        <translation>le fichier ne contient que des espaces et des lignes vides</translation>
+    </message>
+    <message id="MESS_TAB_BINARY_FILE">
+        <source>this is neither a text nor a workbook</source>
+        <translation>ce n'est ni un texte ni un classeur</translation>
+    </message>
+    <message id="MESS_TAB_ENCODING">
+        <source>the encoding "%1" is not known</source>
+        <translation>l'encodage «&#xa0;%1&#xa0;» est inconnu</translation>
+    </message>
+    <message id="MESS_TAB_PDF">
+        <source>this is a PDF document, not a table</source>
+        <translation>c'est un document PDF, pas une table</translation>
+    </message>
+    <message id="MESS_TAB_JSON">
+        <source>this looks like JSON, not like a table</source>
+        <translation>cela ressemble à du JSON, pas à une table</translation>
+    </message>
+    <message id="MESS_TAB_SYLK">
+        <source>this is a SYLK file: save it as .xlsx or .csv</source>
+        <translation>c'est un fichier SYLK&#xa0;: enregistrez-le au format .xlsx ou .csv</translation>
+    </message>
+    <message id="MESS_TAB_WEB_PAGE">
+        <source>this is a web page, not a workbook: save it as .xlsx or .csv</source>
+        <translation>c'est une page web, pas un classeur&#xa0;: enregistrez-la au format .xlsx ou .csv</translation>
+    </message>
+    <message id="MESS_TAB_OPEN_DOCUMENT">
+        <source>this is an OpenDocument file: save it as .xlsx or .csv</source>
+        <translation>c'est un fichier OpenDocument&#xa0;: enregistrez-le au format .xlsx ou .csv</translation>
+    </message>
+    <message id="MESS_TAB_XLSB">
+        <source>this is a binary workbook (.xlsb): save it as .xlsx</source>
+        <translation>c'est un classeur binaire (.xlsb)&#xa0;: enregistrez-le au format .xlsx</translation>
+    </message>
+    <message id="MESS_TAB_OLD_WORKBOOK">
+        <source>this workbook is older than Excel 5: save it as .xlsx</source>
+        <translation>ce classeur est antérieur à Excel 5&#xa0;: enregistrez-le au format .xlsx</translation>
+    </message>
+    <message id="MESS_TAB_ARCHIVE">
+        <source>this is an archive, but not a workbook (.xlsx)</source>
+        <translation>c'est une archive, mais pas un classeur (.xlsx)</translation>
+    </message>
+    <message id="MESS_TAB_OFFICE_DOCUMENT">
+        <source>this is an office document, but not a workbook (.xls)</source>
+        <translation>c'est un document bureautique, mais pas un classeur (.xls)</translation>
+    </message>
+    <message id="MESS_TAB_OTHER_XML">
+        <source>this XML file is not a SpreadsheetML 2003 workbook: its root element is &lt;%1&gt;</source>
+        <translation>ce fichier XML n'est pas un classeur SpreadsheetML 2003&#xa0;: son élément racine est &lt;%1&gt;</translation>
+    </message>
+    <message id="MESS_TAB_DOCUMENT_TYPE">
+        <source>the XML file declares a document type, which tables do not need and attacks do</source>
+        <translation>le fichier XML déclare un type de document&#xa0;: les tables n'en ont pas besoin, les attaques si</translation>
+    </message>
+    <message id="MESS_TAB_PASSWORD">
+        <source>the workbook is protected by a password</source>
+        <translation>le classeur est protégé par un mot de passe</translation>
+    </message>
+    <message id="MESS_TAB_FILE_CUT">
+        <source>the file is cut short</source>
+        <translation>le fichier est tronqué</translation>
+    </message>
+    <message id="MESS_TAB_FILE_CUT_IN_ROW">
+        <source>the file is cut short in row %1</source>
+        <translation>le fichier est tronqué à la ligne %1</translation>
+    </message>
+    <message id="MESS_TAB_SHEET_CUT">
+        <source>the file is cut short: the sheet does not end</source>
+        <translation>le fichier est tronqué&#xa0;: la feuille n'a pas de fin</translation>
+    </message>
+    <message id="MESS_TAB_WORKBOOK_CUT">
+        <source>the workbook is cut short</source>
+        <translation>le classeur est tronqué</translation>
+    </message>
+    <message id="MESS_TAB_WORKBOOK_DAMAGED">
+        <source>the workbook is damaged or cut short</source>
+        <translation>le classeur est endommagé ou tronqué</translation>
+    </message>
+    <message id="MESS_TAB_NO_DIRECTORY">
+        <source>the workbook is cut short: its directory is missing</source>
+        <translation>le classeur est tronqué&#xa0;: son répertoire manque</translation>
+    </message>
+    <message id="MESS_TAB_DIRECTORY_DAMAGED">
+        <source>the directory of the workbook is damaged</source>
+        <translation>le répertoire du classeur est endommagé</translation>
+    </message>
+    <message id="MESS_TAB_PART_MISPLACED">
+        <source>the workbook is damaged: a part is not where the directory says</source>
+        <translation>le classeur est endommagé&#xa0;: une partie n'est pas là où le répertoire l'indique</translation>
+    </message>
+    <message id="MESS_TAB_SHEET_MISPLACED">
+        <source>the workbook is damaged: a sheet is not where it should be</source>
+        <translation>le classeur est endommagé&#xa0;: une feuille n'est pas là où elle devrait être</translation>
+    </message>
+    <message id="MESS_TAB_TEXTS_CUT">
+        <source>the workbook is damaged: its texts are cut short</source>
+        <translation>le classeur est endommagé&#xa0;: ses textes sont tronqués</translation>
+    </message>
+    <message id="MESS_TAB_NO_PART">
+        <source>the workbook lacks its part %1</source>
+        <translation>il manque au classeur la partie %1</translation>
+    </message>
+    <message id="MESS_TAB_PART_TOO_LARGE">
+        <source>a part of the workbook is unreasonably large</source>
+        <translation>une partie du classeur est démesurément grande</translation>
+    </message>
+    <message id="MESS_TAB_COMPRESSION">
+        <source>the workbook is packed by an unusual compression method</source>
+        <translation>le classeur est compressé selon une méthode inhabituelle</translation>
+    </message>
+    <message id="MESS_TAB_DATA_DAMAGED">
+        <source>the compressed data of the workbook are damaged</source>
+        <translation>les données compressées du classeur sont endommagées</translation>
+    </message>
+    <message id="MESS_TAB_DATA_CUT">
+        <source>the compressed data of the workbook are cut short</source>
+        <translation>les données compressées du classeur sont tronquées</translation>
+    </message>
+    <message id="MESS_TAB_CHECK_SUM">
+        <source>the compressed data of the workbook fail their check sum</source>
+        <translation>la somme de contrôle des données compressées du classeur est fausse</translation>
+    </message>
+    <message id="MESS_TAB_NO_ROOT_ELEMENT">
+        <source>the XML file has no root element</source>
+        <translation>le fichier XML n'a pas d'élément racine</translation>
+    </message>
+    <message id="MESS_TAB_LONG_TAG">
+        <source>a tag or comment in the XML is unreasonably long</source>
+        <translation>une balise ou un commentaire du XML est démesurément long</translation>
+    </message>
+    <message id="MESS_TAB_LONG_ROW">
+        <source>a single row is longer than 256 MiB</source>
+        <translation>une seule ligne dépasse 256&#xa0;Mio</translation>
+    </message>
+    <message id="MESS_TAB_NO_DELIMITER">
+        <source>no delimiter was found: neither semicolons nor tabs, bars or commas make columns of it</source>
+        <translation>aucun séparateur n'a été trouvé&#xa0;: ni point-virgule, ni tabulation, ni barre, ni virgule n'en font des colonnes</translation>
+    </message>
+    <message id="MESS_TAB_NO_SHEET">
+        <source>there is no sheet called "%1"</source>
+        <translation>il n'y a pas de feuille nommée «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message id="MESS_TAB_NO_VALUE">
+        <source>there is no cell with a value in the file</source>
+        <translation>aucune cellule du fichier ne contient de valeur</translation>
+    </message>
+    <message id="MESS_TAB_FILE_OF_ONE_COLUMN">
+        <source>the file has only one column</source>
+        <translation>le fichier n'a qu'une colonne</translation>
+    </message>
+    <message id="MESS_TAB_TABLE_OF_ONE_COLUMN">
+        <source>the table has only one column</source>
+        <translation>la table n'a qu'une colonne</translation>
+    </message>
+    <message id="MESS_TAB_NO_HEADER">
+        <source>no header was found: none of the first rows names its columns</source>
+        <translation>aucun en-tête n'a été trouvé&#xa0;: aucune des premières lignes ne nomme les colonnes</translation>
+    </message>
+    <message id="MESS_TAB_NO_ROW">
+        <source>there is a header in row %1, but no row below it</source>
+        <translation>il y a un en-tête à la ligne %1, mais aucune ligne en dessous</translation>
+    </message>
+    <message id="MESS_TAB_UNKNOWN_SRS">
+        <source>the coordinate system "%1" is not known</source>
+        <translation>le système de coordonnées «&#xa0;%1&#xa0;» est inconnu</translation>
+    </message>
+    <message id="MESS_TAB_NO_WAY">
+        <source>there is no way from the coordinate system "%1" to "%2"</source>
+        <translation>il n'existe pas de transformation du système de coordonnées «&#xa0;%1&#xa0;» vers «&#xa0;%2&#xa0;»</translation>
+    </message>
+    <message id="MESS_TAB_UNKNOWN_EPSG">
+        <source>the file declares the coordinate system EPSG:%1, which is not known</source>
+        <translation>le fichier déclare le système de coordonnées EPSG:%1, qui est inconnu</translation>
+    </message>
+    <message id="MESS_TAB_NO_SOURCE_SRS">
+        <source>the coordinate system of the file is not known: its coordinates are taken as they are</source>
+        <translation>le système de coordonnées du fichier est inconnu&#xa0;: ses coordonnées sont prises telles quelles</translation>
+    </message>
+    <message id="MESS_TAB_OUTSIDE_TARGET">
+        <source>the position lies outside the area of the target coordinate system</source>
+        <translation>la position est en dehors du domaine du système de coordonnées cible</translation>
+    </message>
+    <message id="MESS_TAB_FURTHER_PROBLEMS">
+        <source>further problems are listed in the layer's metadata domain "problems"</source>
+        <translation>les problèmes suivants figurent dans le domaine de métadonnées «&#xa0;problems&#xa0;» de la couche</translation>
+    </message>
+    <message id="MESS_TAB_NO_COORDINATES">
+        <source>no columns with coordinates were recognised</source>
+        <translation>aucune colonne de coordonnées n'a été reconnue</translation>
+    </message>
+    <message id="MESS_TAB_BEHIND_LAST">
+        <source>the row goes on behind the last column: "%1" in column %2 has no header</source>
+        <translation>la ligne continue après la dernière colonne&#xa0;: «&#xa0;%1&#xa0;», dans la colonne %2, n'a pas d'en-tête</translation>
+    </message>
+    <message id="MESS_TAB_LOST_VALUE">
+        <source>the value "%1" is lost: the column holds numbers</source>
+        <translation>la valeur «&#xa0;%1&#xa0;» est perdue&#xa0;: la colonne contient des nombres</translation>
+    </message>
+    <message id="MESS_TAB_NO_COORDINATE">
+        <source>the coordinate is empty</source>
+        <translation>la coordonnée est vide</translation>
+    </message>
+    <message id="MESS_TAB_PART_EMPTY">
+        <source>the coordinate "%1" cannot be read: it is empty</source>
+        <translation>la coordonnée «&#xa0;%1&#xa0;» ne peut pas être lue&#xa0;: une partie est vide</translation>
+    </message>
+    <message id="MESS_TAB_NOT_A_NUMBER">
+        <source>the coordinate "%1" cannot be read: it is not a number</source>
+        <translation>la coordonnée «&#xa0;%1&#xa0;» ne peut pas être lue&#xa0;: ce n'est pas un nombre</translation>
+    </message>
+    <message id="MESS_TAB_WITHOUT_NUMBER">
+        <source>the coordinate "%1" cannot be read: it holds no number</source>
+        <translation>la coordonnée «&#xa0;%1&#xa0;» ne peut pas être lue&#xa0;: elle ne contient aucun nombre</translation>
+    </message>
+    <message id="MESS_TAB_NOT_FINITE">
+        <source>the coordinate "%1" cannot be read: it is not finite</source>
+        <translation>la coordonnée «&#xa0;%1&#xa0;» ne peut pas être lue&#xa0;: elle n'est pas finie</translation>
+    </message>
+    <message id="MESS_TAB_NOT_AN_ANGLE">
+        <source>the coordinate "%1" cannot be read: it is not an angle</source>
+        <translation>la coordonnée «&#xa0;%1&#xa0;» ne peut pas être lue&#xa0;: ce n'est pas un angle</translation>
+    </message>
+    <message id="MESS_TAB_NOT_A_POSITION">
+        <source>the coordinate "%1" cannot be read: it is not a position</source>
+        <translation>la coordonnée «&#xa0;%1&#xa0;» ne peut pas être lue&#xa0;: ce n'est pas une position</translation>
+    </message>
+    <message id="MESS_TAB_FRACTION">
+        <source>the coordinate "%1" cannot be read: only the last of degrees, minutes and seconds may have a fraction</source>
+        <translation>la coordonnée «&#xa0;%1&#xa0;» ne peut pas être lue&#xa0;: parmi les degrés, minutes et secondes, seul le dernier nombre peut avoir des décimales</translation>
+    </message>
+    <message id="MESS_TAB_BELOW_60">
+        <source>the coordinate "%1" cannot be read: minutes and seconds must lie below 60</source>
+        <translation>la coordonnée «&#xa0;%1&#xa0;» ne peut pas être lue&#xa0;: les minutes et les secondes doivent être inférieures à 60</translation>
+    </message>
+    <message id="MESS_TAB_MANY_PARTS">
+        <source>the coordinate "%1" cannot be read: it has more than degrees, minutes and seconds</source>
+        <translation>la coordonnée «&#xa0;%1&#xa0;» ne peut pas être lue&#xa0;: elle compte plus que des degrés, des minutes et des secondes</translation>
+    </message>
+    <message id="MESS_TAB_SIGN_AND_LETTER">
+        <source>the coordinate "%1" cannot be read: it has both a minus sign and a hemisphere letter</source>
+        <translation>la coordonnée «&#xa0;%1&#xa0;» ne peut pas être lue&#xa0;: elle a à la fois un signe moins et une lettre d'hémisphère</translation>
+    </message>
+    <message id="MESS_TAB_TWO_LETTERS">
+        <source>the coordinate "%1" cannot be read: it has two hemisphere letters</source>
+        <translation>la coordonnée «&#xa0;%1&#xa0;» ne peut pas être lue&#xa0;: elle a deux lettres d'hémisphère</translation>
+    </message>
+    <message id="MESS_TAB_NO_HEMISPHERE">
+        <source>the coordinate "%1" cannot be read: it has a letter that is no hemisphere</source>
+        <translation>la coordonnée «&#xa0;%1&#xa0;» ne peut pas être lue&#xa0;: elle contient une lettre qui ne désigne pas un hémisphère</translation>
+    </message>
+    <message id="MESS_TAB_OTHER_AXIS">
+        <source>the coordinate "%1" cannot be read: the hemisphere letter belongs to the other coordinate</source>
+        <translation>la coordonnée «&#xa0;%1&#xa0;» ne peut pas être lue&#xa0;: la lettre d'hémisphère est celle de l'autre coordonnée</translation>
+    </message>
+    <message id="MESS_TAB_LETTER_O">
+        <source>the coordinate "%1" cannot be read: the letter O may mean west (Ouest, Oeste) or east (Ost): use W or E</source>
+        <translation>la coordonnée «&#xa0;%1&#xa0;» ne peut pas être lue&#xa0;: la lettre O peut signifier ouest (Ouest, Oeste) ou est (Ost)&#xa0;: écrivez W ou E</translation>
+    </message>
+    <message id="MESS_TAB_OUTSIDE_GLOBE">
+        <source>the coordinate "%1" cannot be read: it lies outside the globe</source>
+        <translation>la coordonnée «&#xa0;%1&#xa0;» ne peut pas être lue&#xa0;: elle est en dehors du globe</translation>
+    </message>
+    <message id="MESS_TAB_LONGITUDE">
+        <source>the coordinate "%1" cannot be read: a longitude lies between -180 and 180</source>
+        <translation>la coordonnée «&#xa0;%1&#xa0;» ne peut pas être lue&#xa0;: une longitude est comprise entre -180 et 180</translation>
+    </message>
+    <message id="MESS_TAB_LATITUDE">
+        <source>the coordinate "%1" cannot be read: a latitude lies between -90 and 90</source>
+        <translation>la coordonnée «&#xa0;%1&#xa0;» ne peut pas être lue&#xa0;: une latitude est comprise entre -90 et 90</translation>
+    </message>
+    <message id="MESS_TAB_ZERO_ZERO">
+        <source>the coordinate "%1" cannot be read: 0, 0 stands for an unknown position</source>
+        <translation>la coordonnée «&#xa0;%1&#xa0;» ne peut pas être lue&#xa0;: 0, 0 désigne une position inconnue</translation>
+    </message>
+</context>
+</TS>

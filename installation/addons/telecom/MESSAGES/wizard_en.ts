@@ -1,0 +1,197 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en_US" sourcelanguage="en">
+<context>
+    <name>Wizard</name>
+    <message id="MESS_TELECOM_LAYERS">
+        <source>Add sites, links and predictions wizard</source>
+        <translation>Add sites, links and predictions wizard</translation>
+    </message>
+    <message id="MESS_SUIVANT">
+        <source>Next</source>
+        <translation>Next</translation>
+    </message>
+    <message id="MESS_PRECEDENT">
+        <source>Previous</source>
+        <translation>Previous</translation>
+    </message>
+    <message id="MESS_QUITTER">
+        <source>Quit</source>
+        <translation>Quit</translation>
+    </message>
+    <message id="MESS_QUEST_QUIT_APP">
+        <source>Voulez-vous quitter l'application ?</source>
+        <extracomment>The source is French.</extracomment>
+        <translation>Do you want to quit the application?</translation>
+    </message>
+</context>
+<context>
+    <name>First page</name>
+    <message id="MESS_PAGE_LAYER_KIND">
+        <source>Kind of layer</source>
+        <translation>Kind of layer</translation>
+    </message>
+    <message id="MESS_ADD_SITE">
+        <source>Add site file</source>
+        <translation>Add site file</translation>
+    </message>
+    <message id="MESS_ADD_SITE2">
+        <source>Create a layer to display sites files (pylons with antennas) in the 3D model.</source>
+        <translation>Create a layer to display sites files (pylons with antennas) in the 3D model.</translation>
+    </message>
+    <message id="MESS_ADD_LINK">
+        <source>Add link file</source>
+        <translation>Add link file</translation>
+    </message>
+    <message id="MESS_ADD_LINK2">
+        <source>Create a layer to display links files (pylons with antennas, microwave link and Fresnel zone) in the 3D model.</source>
+        <translation>Create a layer to display links files (pylons with antennas, microwave link and Fresnel zone) in the 3D model.</translation>
+    </message>
+    <message id="MESS_ADD_MULTI_HGT">
+        <source>Add multi-heights predictions</source>
+        <translation>Add multi-heights predictions</translation>
+    </message>
+    <message id="MESS_ADD_TEXB2">
+        <source>Create a layer to display 3D buildings in the 3D model.
+Buildings can be colored or textured with images (ortho-images, coverage plots, ...).</source>
+        <translation>Create a layer to display 3D buildings in the 3D model.
+Buildings can be colored or textured with images (ortho-images, coverage plots, ...).</translation>
+    </message>
+</context>
+<context>
+    <name>Project page</name>
+    <message id="MESS_PAGE_PROJECT">
+        <source>Target project</source>
+        <translation>Target project</translation>
+    </message>
+    <message id="MESS_SEL_PRJ_AD_GEN_LAY">
+        <source>Select a project in which it will be loaded the generated layer</source>
+        <translation>Select a project in which it will be loaded the generated layer</translation>
+    </message>
+    <message id="MESS_RECENT_PRJS">
+        <source>Recent projects</source>
+        <translation>Recent projects</translation>
+    </message>
+    <message id="MESS_TIP_RECENT_PRJS">
+        <source>Select a project; a double click or Enter goes on with it</source>
+        <translation>Select a project; a double click or Enter goes on with it</translation>
+    </message>
+    <message id="MESS_NO_RECENT_PRJS">
+        <source>There are no recent projects. Choose a project file below, or drop one here.</source>
+        <translation>There are no recent projects. Choose a project file below, or drop one here.</translation>
+    </message>
+    <message id="MESS_PROJET">
+        <source>Project</source>
+        <translation>Project</translation>
+    </message>
+    <message id="MESS_PROJECT_PATH">
+        <source>Project file (*.gvw)</source>
+        <translation>Project file (*.gvw)</translation>
+    </message>
+    <message id="MESS_TIP_PROJECT_PATH">
+        <source>The project file into which the layer goes; it can also be dropped on this page</source>
+        <translation>The project file into which the layer goes; it can also be dropped on this page</translation>
+    </message>
+    <message id="MESS_BROWSE_PROJECT">
+        <source>&amp;Browse...</source>
+        <translation>&amp;Browse...</translation>
+    </message>
+    <message id="MESS_TIP_BROWSE_PROJECT">
+        <source>Choose a project file</source>
+        <translation>Choose a project file</translation>
+    </message>
+    <message id="MESS_SEL_NOM_PROJ_USE">
+        <source>Select name of Veltaro project to be used</source>
+        <translation>Select name of Veltaro project to be used</translation>
+    </message>
+    <message id="MESS_PROJET_VLT">
+        <source>Veltaro project</source>
+        <translation>Veltaro project</translation>
+    </message>
+</context>
+<context>
+    <name>Planned pages</name>
+    <message id="MESS_PLANNED_PAGE">
+        <source>This version does not have this page yet. Go back to choose another kind of layer.</source>
+        <translation>This version does not have this page yet. Go back to choose another kind of layer.</translation>
+    </message>
+    <message id="MESS_PAGE_LINKS">
+        <source>Links</source>
+        <translation>Links</translation>
+    </message>
+    <message id="MESS_PLANNED_LINKS">
+        <source>Here a table of microwave links will become a layer: pylons with antennas, the line of sight and the Fresnel zone of each link.</source>
+        <translation>Here a table of microwave links will become a layer: pylons with antennas, the line of sight and the Fresnel zone of each link.</translation>
+    </message>
+    <message id="MESS_PAGE_BUILDINGS">
+        <source>Buildings</source>
+        <translation>Buildings</translation>
+    </message>
+    <message id="MESS_PLANNED_BUILDINGS">
+        <source>Here the buildings of a vector file, the field of their heights and the terrain will be chosen, to make a layer of 3D buildings.</source>
+        <translation>Here the buildings of a vector file, the field of their heights and the terrain will be chosen, to make a layer of 3D buildings.</translation>
+    </message>
+    <message id="MESS_PAGE_TEXTURED">
+        <source>Textured buildings</source>
+        <translation>Textured buildings</translation>
+    </message>
+    <message id="MESS_PLANNED_TEXTURED">
+        <source>Here images will be chosen for roofs, walls or storeys of the buildings.</source>
+        <translation>Here images will be chosen for roofs, walls or storeys of the buildings.</translation>
+    </message>
+    <message id="MESS_PAGE_COLORED">
+        <source>Coloured buildings</source>
+        <translation>Coloured buildings</translation>
+    </message>
+    <message id="MESS_PLANNED_COLORED">
+        <source>Here the buildings will be coloured from a raster, such as a coverage prediction, through a colour map.</source>
+        <translation>Here the buildings will be coloured from a raster, such as a coverage prediction, through a colour map.</translation>
+    </message>
+    <message id="MESS_PAGE_DISPLAY">
+        <source>Display of buildings</source>
+        <translation>Display of buildings</translation>
+    </message>
+    <message id="MESS_PLANNED_DISPLAY">
+        <source>Here it will be chosen how textured buildings are shown, and their layer will be made.</source>
+        <translation>Here it will be chosen how textured buildings are shown, and their layer will be made.</translation>
+    </message>
+</context>
+<context>
+    <name>Standard buttons</name>
+    <message id="MESS_QT_OK">
+        <source>OK</source>
+        <extracomment>Used where the system has no translations of Qt.</extracomment>
+        <translation>OK</translation>
+    </message>
+    <message id="MESS_QT_CANCEL">
+        <source>Cancel</source>
+        <extracomment>Used where the system has no translations of Qt.</extracomment>
+        <translation>Cancel</translation>
+    </message>
+    <message id="MESS_QT_CLOSE">
+        <source>Close</source>
+        <extracomment>Used where the system has no translations of Qt.</extracomment>
+        <translation>Close</translation>
+    </message>
+    <message id="MESS_QT_OPEN">
+        <source>Open</source>
+        <extracomment>Used where the system has no translations of Qt.</extracomment>
+        <translation>Open</translation>
+    </message>
+    <message id="MESS_QT_SAVE">
+        <source>Save</source>
+        <extracomment>Used where the system has no translations of Qt.</extracomment>
+        <translation>Save</translation>
+    </message>
+    <message id="MESS_QT_YES">
+        <source>&amp;Yes</source>
+        <extracomment>Used where the system has no translations of Qt.</extracomment>
+        <translation>&amp;Yes</translation>
+    </message>
+    <message id="MESS_QT_NO">
+        <source>&amp;No</source>
+        <extracomment>Used where the system has no translations of Qt.</extracomment>
+        <translation>&amp;No</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,197 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr_FR" sourcelanguage="en">
+<context>
+    <name>Wizard</name>
+    <message id="MESS_TELECOM_LAYERS">
+        <source>Add sites, links and predictions wizard</source>
+        <translation>Assistant d'ajout de sites, de liaisons et de prédictions</translation>
+    </message>
+    <message id="MESS_SUIVANT">
+        <source>Next</source>
+        <translation>Suivant</translation>
+    </message>
+    <message id="MESS_PRECEDENT">
+        <source>Previous</source>
+        <translation>Précédent</translation>
+    </message>
+    <message id="MESS_QUITTER">
+        <source>Quit</source>
+        <translation>Quitter</translation>
+    </message>
+    <message id="MESS_QUEST_QUIT_APP">
+        <source>Voulez-vous quitter l'application ?</source>
+        <extracomment>The source is French.</extracomment>
+        <translation>Voulez-vous quitter l'application&#xa0;?</translation>
+    </message>
+</context>
+<context>
+    <name>First page</name>
+    <message id="MESS_PAGE_LAYER_KIND">
+        <source>Kind of layer</source>
+        <translation>Type de couche</translation>
+    </message>
+    <message id="MESS_ADD_SITE">
+        <source>Add site file</source>
+        <translation>Ajouter un fichier de sites</translation>
+    </message>
+    <message id="MESS_ADD_SITE2">
+        <source>Create a layer to display sites files (pylons with antennas) in the 3D model.</source>
+        <translation>Créer une couche pour afficher un fichier de sites (pylônes et antennes) dans le modèle 3D.</translation>
+    </message>
+    <message id="MESS_ADD_LINK">
+        <source>Add link file</source>
+        <translation>Ajouter un fichier de liaisons</translation>
+    </message>
+    <message id="MESS_ADD_LINK2">
+        <source>Create a layer to display links files (pylons with antennas, microwave link and Fresnel zone) in the 3D model.</source>
+        <translation>Créer une couche pour afficher un fichier de liaisons (pylônes et antennes, faisceau hertzien et zone de Fresnel) dans le modèle 3D.</translation>
+    </message>
+    <message id="MESS_ADD_MULTI_HGT">
+        <source>Add multi-heights predictions</source>
+        <translation>Ajouter des prédictions multi-hauteurs</translation>
+    </message>
+    <message id="MESS_ADD_TEXB2">
+        <source>Create a layer to display 3D buildings in the 3D model.
+Buildings can be colored or textured with images (ortho-images, coverage plots, ...).</source>
+        <translation>Créer une couche pour afficher des bâtiments 3D dans le modèle 3D.
+Les bâtiments peuvent être colorés ou texturés avec des images (orthophotos, cartes de couverture...).</translation>
+    </message>
+</context>
+<context>
+    <name>Project page</name>
+    <message id="MESS_PAGE_PROJECT">
+        <source>Target project</source>
+        <translation>Projet de destination</translation>
+    </message>
+    <message id="MESS_SEL_PRJ_AD_GEN_LAY">
+        <source>Select a project in which it will be loaded the generated layer</source>
+        <translation>Sélectionnez le projet dans lequel la couche générée sera chargée</translation>
+    </message>
+    <message id="MESS_RECENT_PRJS">
+        <source>Recent projects</source>
+        <translation>Projets récents</translation>
+    </message>
+    <message id="MESS_TIP_RECENT_PRJS">
+        <source>Select a project; a double click or Enter goes on with it</source>
+        <translation>Sélectionnez un projet&#xa0;; un double-clic ou la touche Entrée poursuit avec celui-ci</translation>
+    </message>
+    <message id="MESS_NO_RECENT_PRJS">
+        <source>There are no recent projects. Choose a project file below, or drop one here.</source>
+        <translation>Il n'y a pas de projet récent. Choisissez un fichier de projet ci-dessous ou déposez-en un ici.</translation>
+    </message>
+    <message id="MESS_PROJET">
+        <source>Project</source>
+        <translation>Projet</translation>
+    </message>
+    <message id="MESS_PROJECT_PATH">
+        <source>Project file (*.gvw)</source>
+        <translation>Fichier de projet (*.gvw)</translation>
+    </message>
+    <message id="MESS_TIP_PROJECT_PATH">
+        <source>The project file into which the layer goes; it can also be dropped on this page</source>
+        <translation>Le fichier de projet qui recevra la couche&#xa0;; il peut aussi être déposé sur cette page</translation>
+    </message>
+    <message id="MESS_BROWSE_PROJECT">
+        <source>&amp;Browse...</source>
+        <translation>Parco&amp;urir...</translation>
+    </message>
+    <message id="MESS_TIP_BROWSE_PROJECT">
+        <source>Choose a project file</source>
+        <translation>Choisir un fichier de projet</translation>
+    </message>
+    <message id="MESS_SEL_NOM_PROJ_USE">
+        <source>Select name of Veltaro project to be used</source>
+        <translation>Sélectionnez le nom du projet Veltaro à utiliser</translation>
+    </message>
+    <message id="MESS_PROJET_VLT">
+        <source>Veltaro project</source>
+        <translation>Projet Veltaro</translation>
+    </message>
+</context>
+<context>
+    <name>Planned pages</name>
+    <message id="MESS_PLANNED_PAGE">
+        <source>This version does not have this page yet. Go back to choose another kind of layer.</source>
+        <translation>Cette version ne comporte pas encore cette page. Revenez en arrière pour choisir un autre type de couche.</translation>
+    </message>
+    <message id="MESS_PAGE_LINKS">
+        <source>Links</source>
+        <translation>Liaisons</translation>
+    </message>
+    <message id="MESS_PLANNED_LINKS">
+        <source>Here a table of microwave links will become a layer: pylons with antennas, the line of sight and the Fresnel zone of each link.</source>
+        <translation>Ici, un tableau de faisceaux hertziens deviendra une couche&#xa0;: pylônes et antennes, ligne de visée et zone de Fresnel de chaque liaison.</translation>
+    </message>
+    <message id="MESS_PAGE_BUILDINGS">
+        <source>Buildings</source>
+        <translation>Bâtiments</translation>
+    </message>
+    <message id="MESS_PLANNED_BUILDINGS">
+        <source>Here the buildings of a vector file, the field of their heights and the terrain will be chosen, to make a layer of 3D buildings.</source>
+        <translation>Ici seront choisis les bâtiments d'un fichier vectoriel, le champ de leurs hauteurs et le terrain, pour créer une couche de bâtiments 3D.</translation>
+    </message>
+    <message id="MESS_PAGE_TEXTURED">
+        <source>Textured buildings</source>
+        <translation>Bâtiments texturés</translation>
+    </message>
+    <message id="MESS_PLANNED_TEXTURED">
+        <source>Here images will be chosen for roofs, walls or storeys of the buildings.</source>
+        <translation>Ici seront choisies des images pour les toits, les murs ou les étages des bâtiments.</translation>
+    </message>
+    <message id="MESS_PAGE_COLORED">
+        <source>Coloured buildings</source>
+        <translation>Bâtiments colorés</translation>
+    </message>
+    <message id="MESS_PLANNED_COLORED">
+        <source>Here the buildings will be coloured from a raster, such as a coverage prediction, through a colour map.</source>
+        <translation>Ici, les bâtiments seront colorés d'après une image raster, par exemple une prédiction de couverture, à l'aide d'une palette de couleurs.</translation>
+    </message>
+    <message id="MESS_PAGE_DISPLAY">
+        <source>Display of buildings</source>
+        <translation>Affichage des bâtiments</translation>
+    </message>
+    <message id="MESS_PLANNED_DISPLAY">
+        <source>Here it will be chosen how textured buildings are shown, and their layer will be made.</source>
+        <translation>Ici sera choisi l'affichage des bâtiments texturés, et leur couche sera créée.</translation>
+    </message>
+</context>
+<context>
+    <name>Standard buttons</name>
+    <message id="MESS_QT_OK">
+        <source>OK</source>
+        <extracomment>Used where the system has no translations of Qt.</extracomment>
+        <translation>OK</translation>
+    </message>
+    <message id="MESS_QT_CANCEL">
+        <source>Cancel</source>
+        <extracomment>Used where the system has no translations of Qt.</extracomment>
+        <translation>Annuler</translation>
+    </message>
+    <message id="MESS_QT_CLOSE">
+        <source>Close</source>
+        <extracomment>Used where the system has no translations of Qt.</extracomment>
+        <translation>Fermer</translation>
+    </message>
+    <message id="MESS_QT_OPEN">
+        <source>Open</source>
+        <extracomment>Used where the system has no translations of Qt.</extracomment>
+        <translation>Ouvrir</translation>
+    </message>
+    <message id="MESS_QT_SAVE">
+        <source>Save</source>
+        <extracomment>Used where the system has no translations of Qt.</extracomment>
+        <translation>Enregistrer</translation>
+    </message>
+    <message id="MESS_QT_YES">
+        <source>&amp;Yes</source>
+        <extracomment>Used where the system has no translations of Qt.</extracomment>
+        <translation>&amp;Oui</translation>
+    </message>
+    <message id="MESS_QT_NO">
+        <source>&amp;No</source>
+        <extracomment>Used where the system has no translations of Qt.</extracomment>
+        <translation>&amp;Non</translation>
+    </message>
+</context>
+</TS>

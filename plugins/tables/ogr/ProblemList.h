@@ -1,0 +1,36 @@
+#pragma once
+
+#include "sites/SitePlacer.h"
+
+#include <vector>
+
+namespace vlt::tables {
+
+/// The problems of a table in the order in which they are met: all are counted, the first ones
+/// kept.
+class ProblemList
+{
+public:
+    static constexpr size_t MostKept = 1000;
+
+    void add(RowProblem problem)
+    {
+        ++m_count;
+        if (m_kept.size() < MostKept)
+            m_kept.push_back(std::move(problem));
+    }
+    void add(std::vector<RowProblem> &&problems)
+    {
+        for (RowProblem &problem : problems)
+            add(std::move(problem));
+    }
+
+    size_t count() const { return m_count; }
+    const std::vector<RowProblem> &kept() const { return m_kept; }
+
+private:
+    size_t m_count = 0;
+    std::vector<RowProblem> m_kept;
+};
+
+} // namespace vlt::tables

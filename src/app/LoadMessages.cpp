@@ -1,0 +1,24 @@
+#include "app/LoadMessages.h"
+
+#include "language/VltLanguageManager.h"
+#include "language/VltTranslator.h"
+#include "platform/Paths.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+
+namespace vlt::app {
+
+void loadMessages(const QString &installDir, const QString &messagesDir, const QString &language)
+{
+    VltLanguageManager &manager = VltLanguageManager::getInstance();
+    manager.defaultSetup(installDir + platform::separator(platform::nativePathStyle()) +
+                             messagesDir,
+                         language, QString());
+    manager.findAndSetupAddOnsMessages(
+        QFileInfo(installDir + QStringLiteral("/addons/telecom/MESSAGES")).absoluteFilePath(),
+        QString());
+    QCoreApplication::installTranslator(new VltTranslator(QCoreApplication::instance()));
+}
+
+} // namespace vlt::app

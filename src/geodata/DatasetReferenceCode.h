@@ -1,0 +1,14 @@
+#pragma once
+
+#include "platform/Result.h"
+
+namespace vlt::geodata {
+
+/// The EPSG code of the coordinate system that a raster or vector file declares, as text ("2154"):
+/// a raster's own, or that of a vector file's first layer. Local files only.
+///
+/// @par Errors   MESS_ERR_NO_SRS_DSR for a raster without such a system; MESS_ERR_NO_SRS_DSV for a
+///               vector file without one, and for what is neither.
+Result<QString> datasetReferenceCode(const QString &path);
+
+} // namespace vlt::geodata

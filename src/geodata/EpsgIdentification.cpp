@@ -1,0 +1,48 @@
+#include "geodata/EpsgIdentification.h"
+
+#include <cpl_conv.h>
+
+namespace vlt::geodata {
+
+namespace {
+
+/// From here on a match describes the same system, under another name at most.
+constexpr int EquivalentConfidence = 90;
+
+QString epsgCode(const OGRSpatialReference &system)
+{
+    const char *authority = system.GetAuthorityName(nullptr);
+    const char *code = system.GetAuthorityCode(nullptr);
+    return authority && code && qstricmp(authority, "EPSG") == 0 ? QString::fromLatin1(code)
+                                                                 : QString();
+}
+
+/// Looks the definition up among all of EPSG's: systems that come without a code, as in .prj files
+/// beside rasters, are mostly found only so.
+QString bestMatch(OGRSpatialReference &system)
+{
+    int count = 0;
+    int *confidences = nullptr;
+    OGRSpatialReferenceH *matches =
+        OSRFindMatches(OGRSpatialReference::ToHandle(&system), nullptr, &count, &confidences);
+    QString code;
+    for (int i = 0; i < count && code.isEmpty(); ++i) {
+        if (confidences[i] >= EquivalentConfidence)
+            code = epsgCode(*OGRSpatialReference::FromHandle(matches[i]));
+    }
+    OSRFreeSRSArray(matches);
+    CPLFree(confidences);
+    return code;
+}
+
+} // namespace
+
+QString identifiedEpsgCode(const OGRSpatialReference &system)
+{
+    OGRSpatialReference identified(system);
+    identified.AutoIdentifyEPSG();
+    const QString code = epsgCode(identified);
+    return code.isEmpty() ? bestMatch(identified) : code;
+}
+
+} // namespace vlt::geodata

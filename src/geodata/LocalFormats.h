@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QString>
+
+namespace vlt::geodata {
+
+/// The raster formats that are opened, null at the end: those that describe other sources (virtual
+/// rasters, web services) are left out, so that no text of a user's file leads to the network.
+const char *const *localRasterFormats();
+
+/// The same for vector formats.
+const char *const *localVectorFormats();
+
+/// Whether a path names a regular file of the local disk.
+bool isLocalFile(const QString &absolutePath);
+
+} // namespace vlt::geodata

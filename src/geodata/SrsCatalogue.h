@@ -1,0 +1,57 @@
+#pragma once
+
+#include "platform/Result.h"
+
+#include <QList>
+#include <QString>
+
+#include <optional>
+
+namespace vlt::geodata {
+
+enum class SrsKind {
+    Geographic2D,
+    Geographic3D,
+    Projected,
+    Geocentric,
+    Compound, ///< a horizontal system together with heights
+    Other     ///< of bodies that no spheroid describes
+};
+
+/// Degrees; `west` is greater than `east` where the area lies across the 180th meridian.
+struct SrsBounds
+{
+    double west = 0;
+    double south = 0;
+    double east = 0;
+    double north = 0;
+};
+
+/// A coordinate system as the PROJ database lists it.
+struct SrsRecord
+{
+    QString authority; ///< "EPSG"
+    QString code;      ///< "2154"; not always digits
+    QString name;
+    SrsKind kind = SrsKind::Other;
+    bool isDeprecated = false;
+    QString area; ///< where it may be used, in English; several areas with "; " between them
+    std::optional<SrsBounds> bounds;
+    QString projectionMethod; ///< of projected systems, may be empty
+
+    /// The code as it is handed on: "EPSG:2154".
+    QString key() const { return authority + QLatin1Char(':') + code; }
+};
+
+/// Every coordinate system of the PROJ database that can place points on a map, each once: EPSG's
+/// first, then the other authorities' by name, the codes of each in the order of their numbers.
+/// Systems of heights alone are left out. Takes about 0.1 s; may run on any thread.
+///
+/// @par Errors   the database is not there; no key, the text is the library's reason.
+Result<QList<SrsRecord>> readSrsCatalogue();
+
+/// The whole definition (WKT 2, several lines) of a code or of any other text that
+/// isSrsDefinition() knows; empty where there is none.
+QString srsDefinitionText(const QString &codeOrDefinition);
+
+} // namespace vlt::geodata

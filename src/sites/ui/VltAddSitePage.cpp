@@ -1,0 +1,246 @@
+#include "sites/ui/VltAddSitePage.h"
+
+#include "platform/Settings.h"
+#include "sites/SiteLayer.h"
+#include "sites/TableTexts.h"
+#include "sites/ui/VltSiteDetails.h"
+#include "sites/ui/VltSiteProperties.h"
+#include "sites/ui/VltSrsSettings.h"
+#include "ui_AddSitePage.h"
+#include "wizard/base/BusyWait.h"
+#include "wizard/base/DraggableIcon.h"
+#include "wizard/base/Messages.h"
+#include "wizard/base/TemporaryLayerFile.h"
+
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QKeyEvent>
+#include <QScreen>
+#include <QSettings>
+#include <QStyle>
+
+using vlt::sites::SiteFileInfo;
+
+namespace {
+
+const QString SettingsPrefix = QStringLiteral("AddSitePage");
+const QString SiteFileKey = QStringLiteral("AddSitePage/SiteFile");
+const QString LastUsedDirKey = QStringLiteral("LastUsedDir");
+
+} // namespace
+
+VltAddSitePage::VltAddSitePage(QWidget *wizard, SharedParameters &parameters,
+                               const QString &installDir, const QString &language)
+    : BasePage(wizard, parameters, installDir, language)
+    , m_ui(std::make_unique<Ui::AddSitePage>())
+{
+    m_ui->setupUi(this);
+    setTitle(tr("Site layer", "MESS_SITE_LAYER_TITLE"));
+    createPanels();
+    connectWidgets();
+    VltAddSitePage::restoreSettings();
+}
+
+VltAddSitePage::~VltAddSitePage() = default;
+
+void VltAddSitePage::createPanels()
+{
+    m_panelDetails = new VltSiteDetails(m_ui->m_pwGbSites);
+    m_ui->m_ptVbSites->addWidget(m_panelDetails);
+    m_panelSrs = new VltSrsSettings(QStringLiteral("site"), m_ui->m_pwGbSrs);
+    m_ui->m_ptVbSrs->addWidget(m_panelSrs);
+    m_panelProperties = new VltSiteProperties(installDir(), language(), m_ui->m_pwInput);
+    m_ui->m_ptVbProperties->addWidget(m_panelProperties);
+
+    m_pwDragIcon = new DraggableIcon(QPixmap(QStringLiteral(":/images/drag-drop-icon.png")), this);
+    m_pwDragIcon->setObjectName(QStringLiteral("m_pwDragIcon"));
+    m_pwDragIcon->setAccessibleName(tr("Site layer to drag into the builder", "MESS_DRAG_NAME"));
+    m_pwDragIcon->setToolTip(tr("Drag the layer file into the builder; Ctrl+C copies it, Ctrl+S "
+                                "saves it under another name",
+                                "MESS_TIP_DRAG"));
+    m_ui->m_ptHbDrag->addWidget(m_pwDragIcon);
+    setDropHighlightWidgets({m_ui->m_pwLblSite});
+}
+
+void VltAddSitePage::connectWidgets()
+{
+    connect(m_ui->m_pwPbSite, &QPushButton::clicked, this, &VltAddSitePage::openSites);
+    connect(m_ui->m_pwLeSite, &QLineEdit::editingFinished, this, [this] {
+        if (QFileInfo(m_ui->m_pwLeSite->text()).isFile())
+            readTypedPath();
+    });
+    connect(m_panelSrs, &VltSrsSettings::parameterChanged, this, &VltAddSitePage::updatePreview);
+    connect(m_panelProperties, &VltSiteProperties::parameterChanged, this,
+            &VltAddSitePage::updatePreview);
+    m_ui->m_pwLeSite->installEventFilter(this);
+}
+
+/// Return takes the typed path and goes no further: the wizard would press one of its buttons.
+bool VltAddSitePage::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_ui->m_pwLeSite && event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent *>(event)->key();
+        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+            readTypedPath();
+            return true;
+        }
+    }
+    return BasePage::eventFilter(watched, event);
+}
+
+void VltAddSitePage::readTypedPath()
+{
+    const QString path = m_ui->m_pwLeSite->text();
+    if (path != m_pathRead || !m_file.valid)
+        readSiteFileInfo(path, false);
+}
+
+/// The input side scrolls upwards and downwards only, unless the screen is too narrow for it.
+void VltAddSitePage::fitInputWidth()
+{
+    constexpr double ShareOfTheScreen = 0.57;
+    const int most = static_cast<int>(screen()->availableSize().width() * ShareOfTheScreen);
+    const auto wanted = [this] {
+        m_ui->m_pwInput->layout()->activate();
+        return m_ui->m_pwInput->minimumSizeHint().width() +
+               style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    };
+    m_panelProperties->setStacked(false);
+    m_panelProperties->setStacked(wanted() > most);
+    m_ui->m_pwSaInput->setMinimumWidth(qMin(wanted(), most));
+}
+
+void VltAddSitePage::initializePage()
+{
+    BasePage::initializePage();
+    fitInputWidth();
+    m_project = vlt::sites::readProjectContext(field(QStringLiteral("ProjectName")).toString());
+    m_isActive = true;
+    readSiteFileInfo(m_ui->m_pwLeSite->text(), true);
+}
+
+bool VltAddSitePage::validatePage()
+{
+    return vlt::messages::confirmed(
+        this, tr("Voulez-vous quitter l'application ?", "MESS_QUEST_QUIT_APP"));
+}
+
+void VltAddSitePage::restoreSettings()
+{
+    const auto settings = vlt::platform::wizardSettings();
+    m_siteFileDir = settings->value(LastUsedDirKey).toString();
+    m_ui->m_pwLeSite->setText(settings->value(SiteFileKey).toString());
+    m_panelProperties->loadSettings(SettingsPrefix);
+    m_panelSrs->loadSettings(SettingsPrefix);
+}
+
+void VltAddSitePage::saveSettings()
+{
+    const auto settings = vlt::platform::wizardSettings();
+    if (!m_siteFileDir.isEmpty())
+        settings->setValue(LastUsedDirKey, m_siteFileDir);
+    settings->setValue(SiteFileKey, m_ui->m_pwLeSite->text());
+    m_panelProperties->saveSettings(SettingsPrefix);
+    m_panelSrs->saveSettings(SettingsPrefix);
+}
+
+void VltAddSitePage::droppedFile(const QString &path)
+{
+    readSiteFileInfo(path, false);
+}
+
+void VltAddSitePage::openSites()
+{
+    const QString path = QFileDialog::getOpenFileName(
+        this, tr("Select the site file to use", "MESS_SELECT_SITE_FILE"), m_siteFileDir,
+        QStringLiteral("%1 (*.xls *.xlsx *.xml *.csv)").arg(tr("Site files", "MESS_SITE_FILES")));
+    if (!path.isEmpty())
+        readSiteFileInfo(path, false);
+}
+
+void VltAddSitePage::readSiteFileInfo(const QString &path, bool quiet)
+{
+    m_pathRead = path;
+    const auto read = vlt::wizard::waitForValue<SiteFileInfo>(
+        this, tr("Reading the site file...", "MESS_READING_SITES"),
+        [path, project = m_project] { return vlt::sites::readSiteFileInfo(path, project); });
+    m_file = read.value_or(SiteFileInfo());
+    if (!m_file.fileDir.isEmpty())
+        m_siteFileDir = m_file.fileDir;
+    showFile(m_file);
+    if (m_file.error && !quiet)
+        vlt::messages::critical(this, *m_file.error);
+    createLayerFile();
+}
+
+void VltAddSitePage::showFile(const SiteFileInfo &file)
+{
+    m_ui->m_pwLblReason->setText(vlt::sites::tableText(file.errorDetail));
+    m_ui->m_pwLblReason->setVisible(!file.errorDetail.isEmpty());
+    if (!file.valid) {
+        m_panelDetails->clear();
+        m_ui->m_pwLblFileInfo->setText(tr(
+            "No sites file defined.\nSelect the sites file to display.", "MESS_NO_SITE_DEFINED"));
+        return;
+    }
+    m_ui->m_pwLblFileInfo->setText(file.description);
+    m_ui->m_pwLeSite->setText(file.filePath);
+    if (!file.systems.source.isEmpty())
+        m_panelSrs->setSourceSrs(file.systems.source);
+    if (!file.systems.target.isEmpty())
+        m_panelSrs->setTargetSrs(file.systems.target);
+    m_panelDetails->show(file, QStringLiteral("site:") + file.filePath);
+}
+
+void VltAddSitePage::updatePreview()
+{
+    createLayerFile();
+}
+
+/// Changes that arrive while a message box is open are folded into one further run.
+void VltAddSitePage::createLayerFile()
+{
+    m_createAgain = true;
+    if (m_isCreating)
+        return;
+    m_isCreating = true;
+    while (m_createAgain) {
+        m_createAgain = false;
+        m_pwDragIcon->setLayerFile({});
+        if (m_isActive && m_file.valid)
+            writeLayerFile();
+    }
+    m_isCreating = false;
+}
+
+void VltAddSitePage::writeLayerFile()
+{
+    vlt::sites::SiteLayerInput input;
+    input.file = m_file;
+    input.sourceSrs = m_panelSrs->sourceSrs();
+    input.targetSrs = m_panelSrs->targetSrs();
+    input.representation = m_panelProperties->representation();
+    input.catalogues = m_panelProperties->catalogues();
+    input.project = m_project;
+    input.installDir = installDir();
+    input.language = language();
+    const vlt::Result<vlt::sites::SiteLayer> layer = vlt::sites::makeSiteLayer(input);
+    if (!layer) {
+        vlt::messages::critical(this, layer.error());
+        return;
+    }
+    if (layer.value().warning && !m_missingPageTold)
+        vlt::messages::warning(this, {layer.value().warning->key, layer.value().warning->text, {}},
+                               tr("Error !!!", "MESS_ERREUR"));
+    m_missingPageTold = layer.value().warning.has_value();
+
+    const QString path = vlt::wizard::temporaryLayerFileName(QStringLiteral("sites"));
+    const auto written =
+        vlt::sites::writeSiteLayer(path, layer.value().text, vlt::platform::Access::UserOnly);
+    if (!written) {
+        vlt::messages::critical(this, written.error());
+        return;
+    }
+    m_pwDragIcon->setLayerFile(path);
+    saveSettings();
+}

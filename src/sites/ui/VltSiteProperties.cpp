@@ -1,0 +1,174 @@
+#include "sites/ui/VltSiteProperties.h"
+
+#include "platform/Settings.h"
+#include "ui_SiteProperties.h"
+#include "wizard/base/WheelGuard.h"
+
+#include <QAbstractItemView>
+#include <QSettings>
+#include <QStyle>
+
+#include <functional>
+#include <vector>
+
+namespace {
+
+using vlt::sites::SiteRepresentation;
+
+/// A remembered value: its key and how it is carried to and from the settings.
+struct Remembered
+{
+    QString key;
+    std::function<void(SiteRepresentation &, const QVariant &)> read;
+    std::function<QVariant(const SiteRepresentation &)> write;
+};
+
+Remembered remembered(const char *key, double SiteRepresentation::*member)
+{
+    return {
+        QString::fromLatin1(key),
+        [member](SiteRepresentation &to, const QVariant &value) { to.*member = value.toDouble(); },
+        [member](const SiteRepresentation &from) { return QVariant(from.*member); }};
+}
+
+Remembered remembered(const char *key, int SiteRepresentation::*member)
+{
+    return {QString::fromLatin1(key),
+            [member](SiteRepresentation &to, const QVariant &value) { to.*member = value.toInt(); },
+            [member](const SiteRepresentation &from) { return QVariant(from.*member); }};
+}
+
+const std::vector<Remembered> &rememberedValues()
+{
+    static const std::vector<Remembered> values = {
+        remembered("SectorHeight", &SiteRepresentation::sectorHeight),
+        remembered("SectorRadius", &SiteRepresentation::sectorRadius),
+        remembered("SectorSpacing", &SiteRepresentation::sectorSpacing),
+        remembered("ColorMenuEntry", &SiteRepresentation::colorSet),
+        remembered("SymbolicDistance", &SiteRepresentation::symbolicDistance),
+        remembered("PylonMenuEntry", &SiteRepresentation::pylonType),
+        remembered("RealisticDistance", &SiteRepresentation::realisticDistance),
+        remembered("GlobalTransparency", &SiteRepresentation::transparency),
+        remembered("PylonWidth", &SiteRepresentation::pylonWidth),
+        remembered("AntennaSize", &SiteRepresentation::antennaSize),
+    };
+    return values;
+}
+
+void select(QComboBox *combo, int index)
+{
+    combo->setCurrentIndex(index >= 0 && index < combo->count() ? index : -1);
+}
+
+} // namespace
+
+VltSiteProperties::VltSiteProperties(const QString &installDir, const QString &language,
+                                     QWidget *parent)
+    : QWidget(parent)
+    , m_ui(std::make_unique<Ui::SiteProperties>())
+    , m_catalogues(vlt::sites::loadSiteCatalogues(installDir, language))
+{
+    m_ui->setupUi(this);
+    narrowSpinBoxes();
+    fillCombos();
+    connectWidgets();
+}
+
+VltSiteProperties::~VltSiteProperties() = default;
+
+/// The ranges reach far beyond usual values: boxes as wide as their largest number would not fit
+/// beside each other.
+void VltSiteProperties::narrowSpinBoxes()
+{
+    const int usual = fontMetrics().horizontalAdvance(QStringLiteral("1000000.00 m"));
+    for (auto *box : findChildren<QAbstractSpinBox *>()) {
+        box->setMinimumWidth(usual + box->sizeHint().height());
+        box->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    }
+}
+
+void VltSiteProperties::fillCombos()
+{
+    // swatches are drawn for a dense screen and shown at half their size
+    constexpr qreal Density = 2;
+    QSize iconSize(0, 0);
+    for (const vlt::sites::SectorColorSet &set : m_catalogues.colorSets) {
+        QPixmap swatch = QPixmap::fromImage(set.swatch);
+        swatch.setDevicePixelRatio(Density);
+        iconSize = iconSize.expandedTo(swatch.deviceIndependentSize().toSize());
+        m_ui->m_pwCbSectorColors->addItem(QIcon(swatch), set.description);
+    }
+    m_ui->m_pwCbSectorColors->setIconSize(iconSize);
+    QComboBox *pylons = m_ui->m_pwCbPylonType;
+    for (const vlt::sites::PylonType &type : m_catalogues.pylonTypes) {
+        pylons->addItem(type.description);
+        pylons->setItemData(pylons->count() - 1, type.description, Qt::ToolTipRole);
+    }
+    // the descriptions are longer than the closed box
+    pylons->view()->setMinimumWidth(pylons->view()->sizeHintForColumn(0) +
+                                    style()->pixelMetric(QStyle::PM_ScrollBarExtent));
+}
+
+void VltSiteProperties::connectWidgets()
+{
+    for (auto *box : findChildren<QDoubleSpinBox *>())
+        connect(box, &QDoubleSpinBox::valueChanged, this, &VltSiteProperties::parameterChanged);
+    for (auto *box : findChildren<QSpinBox *>())
+        connect(box, &QSpinBox::valueChanged, this, &VltSiteProperties::parameterChanged);
+    for (auto *combo : findChildren<QComboBox *>())
+        connect(combo, &QComboBox::activated, this, &VltSiteProperties::parameterChanged);
+    connect(m_ui->m_pwSlTransparency, &QSlider::valueChanged, this,
+            &VltSiteProperties::parameterChanged);
+    vlt::wizard::guardAgainstStrayWheel(this);
+}
+
+void VltSiteProperties::setStacked(bool stacked)
+{
+    m_ui->m_ptHbMain->setDirection(stacked ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+}
+
+void VltSiteProperties::loadSettings(const QString &prefix)
+{
+    const auto settings = vlt::platform::wizardSettings();
+    SiteRepresentation values;
+    for (const Remembered &value : rememberedValues())
+        value.read(values,
+                   settings->value(prefix + QLatin1Char('/') + value.key, value.write(values)));
+
+    const bool wereBlocked = blockSignals(true);
+    m_ui->m_pwSbSectorHeight->setValue(values.sectorHeight);
+    m_ui->m_pwSbSectorRadius->setValue(values.sectorRadius);
+    m_ui->m_pwSbSectorSpacing->setValue(values.sectorSpacing);
+    select(m_ui->m_pwCbSectorColors, values.colorSet);
+    m_ui->m_pwSbSymbolicDistance->setValue(values.symbolicDistance);
+    select(m_ui->m_pwCbPylonType, values.pylonType);
+    m_ui->m_pwSbRealisticDistance->setValue(values.realisticDistance);
+    m_ui->m_pwSlTransparency->setValue(values.transparency);
+    m_ui->m_pwSbPylonWidth->setValue(values.pylonWidth);
+    m_ui->m_pwSbAntennaSize->setValue(values.antennaSize);
+    blockSignals(wereBlocked);
+}
+
+void VltSiteProperties::saveSettings(const QString &prefix)
+{
+    const auto settings = vlt::platform::wizardSettings();
+    const SiteRepresentation values = representation();
+    for (const Remembered &value : rememberedValues())
+        settings->setValue(prefix + QLatin1Char('/') + value.key, value.write(values));
+}
+
+SiteRepresentation VltSiteProperties::representation() const
+{
+    SiteRepresentation values;
+    values.sectorHeight = m_ui->m_pwSbSectorHeight->value();
+    values.sectorRadius = m_ui->m_pwSbSectorRadius->value();
+    values.sectorSpacing = m_ui->m_pwSbSectorSpacing->value();
+    values.colorSet = m_ui->m_pwCbSectorColors->currentIndex();
+    values.symbolicDistance = m_ui->m_pwSbSymbolicDistance->value();
+    values.pylonType = m_ui->m_pwCbPylonType->currentIndex();
+    values.realisticDistance = m_ui->m_pwSbRealisticDistance->value();
+    values.transparency = m_ui->m_pwSlTransparency->value();
+    values.pylonWidth = m_ui->m_pwSbPylonWidth->value();
+    values.antennaSize = m_ui->m_pwSbAntennaSize->value();
+    return values;
+}

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "sites/SiteRepresentation.h"
+
+#include <QWidget>
+
+#include <memory>
+
+namespace Ui {
+class SiteProperties;
+}
+
+/// The panel with the look of pylons and sectors.
+class VltSiteProperties : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// Lists the catalogues of the installation in `language`.
+    VltSiteProperties(const QString &installDir, const QString &language,
+                      QWidget *parent = nullptr);
+    ~VltSiteProperties() override;
+
+    /// Reads the values remembered under "<prefix>/..." or those of a first run. Emits nothing.
+    virtual void loadSettings(const QString &prefix);
+    virtual void saveSettings(const QString &prefix);
+
+    /// The values as they stand; an index is -1 where nothing is chosen.
+    vlt::sites::SiteRepresentation representation() const;
+    const vlt::sites::SiteCatalogues &catalogues() const { return m_catalogues; }
+
+    /// Puts the two groups above each other instead of side by side, for large fonts.
+    void setStacked(bool stacked);
+
+Q_SIGNALS:
+    /// A value has changed.
+    void parameterChanged();
+
+private:
+    void narrowSpinBoxes();
+    void fillCombos();
+    void connectWidgets();
+
+    std::unique_ptr<Ui::SiteProperties> m_ui;
+    vlt::sites::SiteCatalogues m_catalogues;
+};

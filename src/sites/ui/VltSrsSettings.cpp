@@ -1,0 +1,117 @@
+#include "sites/ui/VltSrsSettings.h"
+
+#include "geodata/DatasetReferenceCode.h"
+#include "platform/Settings.h"
+#include "sites/SiteSystems.h"
+#include "srs/ui/VltSrsChooser.h"
+#include "wizard/base/Messages.h"
+
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QLabel>
+#include <QPushButton>
+#include <QSettings>
+#include <QVBoxLayout>
+
+namespace {
+
+const QString LastUsedDir = QStringLiteral("LastUsedDir");
+
+/// A system as the choosers' lists name it.
+QString listCode(const QString &epsgText)
+{
+    bool isNumber = false;
+    epsgText.toInt(&isNumber);
+    return isNumber ? QStringLiteral("EPSG:") + epsgText.trimmed() : epsgText;
+}
+
+} // namespace
+
+VltSrsSettings::VltSrsSettings(const QString &kind, QWidget *parent)
+    : QWidget(parent)
+    , m_pwSource(
+          new VltSrsChooser(this,
+                            kind == QLatin1String("link")
+                                ? tr("Cartographic system of the link file", "MESS_SRS_LINK_FILE")
+                                : tr("Cartographic system of the site file", "MESS_SRS_SITE_FILE"),
+                            true, true))
+    , m_pwTarget(new VltSrsChooser(
+          this, tr("Cartographic system of the target project", "MESS_SRS_PROJECT"), true, true))
+    , m_pwPbReadSrs(
+          new QPushButton(tr("Read system from a datasource...", "MESS_READ_SRS_FROM_DS"), this))
+{
+    m_pwPbReadSrs->setToolTip(
+        tr("Take the target system from a raster or vector file", "MESS_TIP_READ_SRS"));
+    m_pwPbReadSrs->setAutoDefault(false);
+
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_pwSource);
+    layout->addWidget(m_pwTarget);
+    layout->addWidget(m_pwPbReadSrs, 0, Qt::AlignRight);
+
+    int labelWidth = 0;
+    for (const VltSrsChooser *chooser : {m_pwSource, m_pwTarget})
+        labelWidth = qMax(labelWidth, chooser->findChild<QLabel *>()->sizeHint().width());
+    for (VltSrsChooser *chooser : {m_pwSource, m_pwTarget}) {
+        chooser->findChild<QLabel *>()->setMinimumWidth(labelWidth);
+        chooser->populate();
+        connect(chooser, &VltSrsChooser::SrsSelected, this, &VltSrsSettings::parameterChanged);
+    }
+    connect(m_pwPbReadSrs, &QPushButton::clicked, this,
+            &VltSrsSettings::getTargetEpsgCodeFromDataSource);
+}
+
+void VltSrsSettings::setSourceSrs(const QString &epsgText)
+{
+    m_pwSource->setSrsCode(listCode(epsgText));
+}
+
+void VltSrsSettings::setTargetSrs(const QString &epsgText)
+{
+    m_pwTarget->setSrsCode(listCode(epsgText));
+}
+
+QString VltSrsSettings::sourceSrs() const
+{
+    return vlt::sites::epsgText(m_pwSource->currentCode());
+}
+
+QString VltSrsSettings::targetSrs() const
+{
+    return vlt::sites::epsgText(m_pwTarget->currentCode());
+}
+
+void VltSrsSettings::loadSettings(const QString &prefix)
+{
+    const QString code =
+        vlt::platform::wizardSettings()->value(prefix + QStringLiteral("/TargetSrs")).toString();
+    if (!code.isEmpty() && !m_pwTarget->selectRowOf(code))
+        m_pwTarget->setSrsCode(code);
+}
+
+void VltSrsSettings::saveSettings(const QString &prefix)
+{
+    vlt::platform::wizardSettings()->setValue(prefix + QStringLiteral("/TargetSrs"),
+                                              m_pwTarget->currentCode());
+}
+
+void VltSrsSettings::getTargetEpsgCodeFromDataSource()
+{
+    const auto settings = vlt::platform::wizardSettings();
+    const QString path = QFileDialog::getOpenFileName(
+        this, tr("Select a geodataset (raster or vector)", "MESS_SELECT_DS"),
+        settings->value(LastUsedDir).toString(),
+        QStringLiteral("%1 (*.*)").arg(tr("All files", "MESS_ALL_FILES")));
+    if (path.isEmpty())
+        return;
+    settings->setValue(LastUsedDir, QFileInfo(path).absolutePath());
+
+    const vlt::Result<QString> code = vlt::geodata::datasetReferenceCode(path);
+    if (!code) {
+        vlt::messages::warning(this, code.error(), tr("Warning", "MESS_ATTENTION"));
+        return;
+    }
+    m_pwTarget->setSrsCode(QStringLiteral("EPSG:%1").arg(code.value()));
+    Q_EMIT parameterChanged();
+}

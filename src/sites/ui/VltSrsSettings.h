@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QWidget>
+
+class QPushButton;
+class VltSrsChooser;
+
+/// The panel with the coordinate systems of a table and of the target project.
+class VltSrsSettings : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// @param kind  "site" or "link": what the table holds
+    explicit VltSrsSettings(const QString &kind, QWidget *parent = nullptr);
+
+    /// Chooses a system by its EPSG number ("2154") or by any other text that names one. Emits
+    /// nothing.
+    void setSourceSrs(const QString &epsgText);
+    void setTargetSrs(const QString &epsgText);
+
+    /// The chosen system as layers carry it: an EPSG number, or the text of any other system; empty
+    /// where none is chosen.
+    QString sourceSrs() const;
+    QString targetSrs() const;
+
+    /// Reads and writes the target system remembered under "<prefix>/TargetSrs".
+    void loadSettings(const QString &prefix);
+    void saveSettings(const QString &prefix);
+
+public Q_SLOTS:
+    /// Asks for a raster or vector file and takes its system as the target. A file without one is
+    /// told of and changes nothing.
+    void getTargetEpsgCodeFromDataSource();
+
+Q_SIGNALS:
+    /// The user chose another system.
+    void parameterChanged();
+
+private:
+    VltSrsChooser *m_pwSource;
+    VltSrsChooser *m_pwTarget;
+    QPushButton *m_pwPbReadSrs;
+};

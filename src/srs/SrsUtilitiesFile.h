@@ -1,0 +1,11 @@
+#pragma once
+
+#include "platform/IniFile.h"
+
+namespace vlt::srs {
+
+/// VltSrsUtils.ini of the builder's installation, whose place is the value INSTALL_DIR of the
+/// builder's settings; an ini file without entries where it is missing or unreadable.
+platform::IniFile srsUtilitiesFile();
+
+} // namespace vlt::srs

@@ -1,0 +1,277 @@
+#include "srs/ui/VltSrsChooser.h"
+
+#include "geodata/SrsDefinition.h"
+#include "srs/DefaultSrsList.h"
+#include "srs/UserDefinedSrsList.h"
+#include "srs/ui/dialogToEditAlias.h"
+#include "srs/ui/dialogVltSrsChooser.h"
+#include "ui_VltSrsChooser.h"
+
+#include <QColor>
+#include <QLineEdit>
+
+#include <algorithm>
+
+using vlt::srs::SrsEntry;
+
+namespace {
+
+constexpr QColor LastUsedColour(255, 255, 255);
+constexpr QColor DefaultColour(208, 208, 208);
+constexpr QColor OtherColour(160, 160, 160);
+constexpr QColor SelectedFromOutsideColour(255, 208, 208);
+constexpr QColor RowTextColour(0, 0, 0); // all of them are light, whatever the palette
+
+} // namespace
+
+VltSrsChooser::VltSrsChooser(QWidget *parent, const QString &labelText, bool withDefaults,
+                             bool withOther)
+    : QWidget(parent)
+    , m_ui(std::make_unique<Ui::WidgetVltSrsChooser>())
+    , m_parentWidget(parent)
+    , m_withDefaults(withDefaults)
+    , m_withOther(withOther)
+{
+    m_ui->setupUi(this);
+    m_ui->m_pLSrsLabel->setText(labelText);
+    m_ui->m_pCBSrs->setAccessibleName(labelText);
+    m_ui->m_pPBResetSrs->setAccessibleDescription(labelText);
+    setFocusProxy(m_ui->m_pCBSrs);
+
+    connect(m_ui->m_pCBSrs, &QComboBox::activated, this, &VltSrsChooser::slot_onSelectSrs);
+    connect(m_ui->m_pPBResetSrs, &QPushButton::clicked, this, &VltSrsChooser::slot_resetSrs);
+}
+
+VltSrsChooser::~VltSrsChooser() = default;
+
+void VltSrsChooser::populate()
+{
+    if (m_withDefaults)
+        m_shown.fill(m_lastUsed, vlt::srs::DefaultSrsList());
+    else
+        m_shown.fill(m_lastUsed);
+    if (m_shown.count() > 0)
+        m_reference = m_shown.at(0);
+
+    SrsComboBox *combo = m_ui->m_pCBSrs;
+    combo->clear();
+    for (int row = 0; row < m_shown.count(); ++row) {
+        combo->addItem(rowText(m_shown.at(row)));
+        describeRow(row);
+        colourRow(row, row < m_lastUsed.count() ? LastUsedColour : DefaultColour);
+    }
+    if (m_withOther) {
+        const int row = combo->count();
+        combo->addItem(tr("Other...", "MESS_AUTRE..."));
+        combo->setItemData(row, true, SrsComboBox::OpensDialogRole);
+        colourRow(row, OtherColour);
+    }
+
+    // "Other..." as the current row could not be picked any more
+    if (m_withOther && m_shown.count() == 0)
+        enterUndefinedState(OnReturn::Validates);
+    else
+        selectRow(0);
+}
+
+std::optional<SrsEntry> VltSrsChooser::currentEntry() const
+{
+    const int row = m_ui->m_pCBSrs->currentIndex();
+    return m_shown.isIndex(row) ? std::optional(m_shown.at(row)) : std::nullopt;
+}
+
+QString VltSrsChooser::currentCode() const
+{
+    const std::optional<SrsEntry> entry = currentEntry();
+    return entry ? entry->code : QString();
+}
+
+void VltSrsChooser::setSrsText(const QString &text)
+{
+    if (!text.isEmpty()) {
+        selectRow(findRow(text, Qt::MatchContains));
+        Q_EMIT SrsSelected(currentCode());
+        return;
+    }
+    selectRow(-1);
+    Q_EMIT SrsSelected(currentCode());
+    enterUndefinedState(OnReturn::StaysAsItIs);
+}
+
+void VltSrsChooser::setSrsCode(const QString &code)
+{
+    if (code.isEmpty()) {
+        selectEntry(std::nullopt);
+        return;
+    }
+    const int listed = m_shown.indexOfCode(code);
+    SrsEntry entry;
+    entry.code = code;
+    selectEntry(listed >= 0 ? m_shown.at(listed) : entry);
+}
+
+bool VltSrsChooser::selectRowOf(const QString &code)
+{
+    const int row = m_shown.indexOfCode(code);
+    if (row < 0)
+        return false;
+    m_reference = m_shown.at(row);
+    selectRow(row);
+    return true;
+}
+
+void VltSrsChooser::selectEntry(const std::optional<SrsEntry> &entry)
+{
+    m_reference = entry.value_or(SrsEntry());
+    if (m_reference.code.isEmpty()) {
+        enterUndefinedState(OnReturn::Validates);
+        return;
+    }
+    // a user-defined system says nothing of its code: one that is listed already ends up as row 0
+    const int row = std::max(findRow(m_reference.code, Qt::MatchContains), 0);
+    if (m_shown.indexOfCode(m_reference.code) < 0)
+        insertRow(row, m_reference);
+    selectRow(row);
+    colourRow(row, SelectedFromOutsideColour);
+}
+
+void VltSrsChooser::slot_onSelectSrs(int row)
+{
+    if (row == m_shown.currentIndex())
+        return;
+    m_ui->m_pCBSrs->setEditable(false);
+    if (!m_withOther)
+        return;
+    if (row == m_ui->m_pCBSrs->count() - 1) {
+        chooseFromDialog();
+    } else if (m_shown.isIndex(row)) {
+        selectRow(row);
+        choose(m_shown.at(row));
+    }
+}
+
+void VltSrsChooser::slot_resetSrs()
+{
+    m_ui->m_pPBResetSrs->setEnabled(false);
+    if (m_reference.code.isEmpty()) {
+        enterUndefinedState(OnReturn::Validates);
+    } else {
+        selectRow(findRow(rowText(m_reference), Qt::MatchExactly | Qt::MatchCaseSensitive));
+        m_ui->m_pCBSrs->setFocus();
+    }
+    Q_EMIT SrsSelected(currentCode());
+}
+
+void VltSrsChooser::slot_OnValidateEditedSrs()
+{
+    const QString text = m_ui->m_pCBSrs->currentText();
+    if (text.isEmpty())
+        return;
+
+    const int row = findRow(text, Qt::MatchExactly | Qt::MatchCaseSensitive);
+    if (row >= 0)
+        selectRow(row);
+    else if (vlt::geodata::isSrsDefinition(text) && !addUserDefined(text))
+        return;
+    Q_EMIT SrsSelected(currentCode());
+}
+
+int VltSrsChooser::findRow(const QString &text, Qt::MatchFlags match) const
+{
+    return m_ui->m_pCBSrs->findText(text, match);
+}
+
+void VltSrsChooser::insertRow(int row, const SrsEntry &entry)
+{
+    const int index = std::min(row, m_shown.count());
+    m_shown.insert(index, entry);
+    m_ui->m_pCBSrs->insertItem(index, rowText(entry));
+    describeRow(index);
+}
+
+void VltSrsChooser::describeRow(int row)
+{
+    if (m_shown.at(row).isUserDefined)
+        m_ui->m_pCBSrs->setItemData(row, m_shown.at(row).code, SrsComboBox::DefinitionRole);
+}
+
+void VltSrsChooser::colourRow(int row, const QColor &background)
+{
+    m_ui->m_pCBSrs->setItemData(row, background, Qt::BackgroundRole);
+    m_ui->m_pCBSrs->setItemData(row, RowTextColour, Qt::ForegroundRole);
+}
+
+void VltSrsChooser::selectRow(int row)
+{
+    if (row >= 0)
+        m_ui->m_pCBSrs->setEditable(false);
+    m_shown.setCurrentIndex(row);
+    m_ui->m_pCBSrs->setCurrentIndex(row);
+}
+
+void VltSrsChooser::enterUndefinedState(OnReturn onReturn)
+{
+    selectRow(-1);
+    SrsComboBox *combo = m_ui->m_pCBSrs;
+    combo->setEditable(true);
+    combo->setCompleter(nullptr); // a definition is taken as it was typed
+    combo->setEditText(tr("Undefined", "MESS_NDEF"));
+    combo->lineEdit()->setAccessibleName(combo->accessibleName());
+    if (onReturn == OnReturn::Validates) // the line edit may be the one of the last time
+        connect(combo->lineEdit(), &QLineEdit::returnPressed, this,
+                &VltSrsChooser::slot_OnValidateEditedSrs, Qt::UniqueConnection);
+}
+
+/// What follows when the user settled on an entry of the rows.
+void VltSrsChooser::choose(const SrsEntry &entry)
+{
+    m_lastUsed.use(entry);
+    m_ui->m_pPBResetSrs->setEnabled(true);
+    Q_EMIT SrsSelected(currentCode());
+}
+
+void VltSrsChooser::chooseFromDialog()
+{
+    dialogVltSrsChooser dialog(m_parentWidget);
+    std::optional<SrsEntry> chosen;
+    if (dialog.exec() == QDialog::Accepted)
+        chosen = dialog.chosenEntry();
+    m_lastUsed = vlt::srs::LastUsedSrsList(); // entries can be taken out of it in the dialog
+
+    if (!chosen) {
+        if (m_shown.currentIndex() >= 0) {
+            selectRow(m_shown.currentIndex());
+        } else {
+            enterUndefinedState(OnReturn::StaysAsItIs);
+            m_ui->m_pPBResetSrs->setEnabled(false);
+        }
+        return;
+    }
+
+    int row = m_shown.indexOfCode(chosen->code);
+    if (row < 0) {
+        row = 0;
+        insertRow(row, *chosen);
+    }
+    selectRow(row);
+    choose(m_shown.at(row));
+}
+
+/// Keeps a definition under an alias that the user is asked for; false if the user cancels.
+bool VltSrsChooser::addUserDefined(const QString &definition)
+{
+    dialogToEditAlias dialog(this);
+    if (dialog.exec() != QDialog::Accepted)
+        return false;
+
+    SrsEntry entry;
+    entry.alias = dialog.alias();
+    entry.code = definition;
+    entry.isUserDefined = true;
+    vlt::srs::UserDefinedSrsList().add(entry);
+    m_lastUsed.use(entry);
+    insertRow(0, entry);
+    selectRow(0);
+    m_ui->m_pPBResetSrs->setEnabled(true);
+    return true;
+}

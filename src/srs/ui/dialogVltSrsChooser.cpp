@@ -1,0 +1,309 @@
+#include "srs/ui/dialogVltSrsChooser.h"
+
+#include "platform/Settings.h"
+#include "srs/DetailLinks.h"
+#include "srs/ui/SrsListModel.h"
+#include "srs/ui/SrsSearchModel.h"
+#include "srs/ui/SrsTable.h"
+#include "srs/ui/dialogToEditAlias.h"
+#include "ui_dialogVltSrsChooser.h"
+#include "wizard/base/Messages.h"
+
+#include <QAction>
+#include <QKeyEvent>
+#include <QPushButton>
+#include <QScreen>
+#include <QShortcut>
+
+#include <algorithm>
+#include <array>
+
+using namespace vlt::srs;
+using vlt::geodata::SrsKind;
+
+namespace {
+
+const QString GeometryKey = QStringLiteral("SrsDialog/Geometry");
+constexpr int FirstWidth = 165; ///< in letters
+constexpr int FirstHeight = 46; ///< in lines
+
+bool isTyped(const QKeyEvent &event)
+{
+    return !(event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) &&
+           !event.text().isEmpty() && event.text().at(0).isPrint();
+}
+
+} // namespace
+
+dialogVltSrsChooser::dialogVltSrsChooser(QWidget *parent)
+    : QDialog(parent)
+    , m_ui(std::make_unique<Ui::dialogVltSrsChooser>())
+{
+    m_ui->setupUi(this);
+    m_ui->m_pwBbButtons->button(QDialogButtonBox::Cancel)->setText(tr("Cancel", "MESS_CANCEL"));
+    createTables();
+    createKinds();
+    createActions();
+    connectWidgets();
+    restoreSize();
+    showLists();
+
+    m_ui->m_pwLblState->setText(
+        tr("Reading the list of coordinate systems...", "MESS_SRS_LOADING"));
+    m_loading.setFuture(sharedSrsSearch());
+    if (m_loading.isFinished())
+        showLoadedSystems();
+    showSelection();
+    m_ui->m_pwLeSearch->setFocus();
+}
+
+dialogVltSrsChooser::~dialogVltSrsChooser() = default;
+
+std::optional<SrsEntry> dialogVltSrsChooser::chosenEntry() const
+{
+    return m_chosen;
+}
+
+void dialogVltSrsChooser::done(int result)
+{
+    m_chosen = result == QDialog::Accepted ? currentTable()->currentEntry() : std::nullopt;
+    vlt::platform::wizardSettings()->setValue(GeometryKey, saveGeometry());
+    QDialog::done(result);
+}
+
+void dialogVltSrsChooser::createTables()
+{
+    using Titles = SrsListModel::Titles;
+    m_found = new SrsSearchModel(this);
+    m_defaultModel = new SrsListModel(Titles::NameAndCode, this);
+    m_lastUsedModel = new SrsListModel(Titles::NameAndCode, this);
+    m_userDefinedModel = new SrsListModel(Titles::AliasAndDefinition, this);
+
+    const QList<DetailLink> links = loadDetailLinks();
+    const std::array<std::pair<SrsTable *, SrsTableModel *>, 4> shown = {
+        {{m_ui->m_pwTvFound, m_found},
+         {m_ui->m_pwTvDefault, m_defaultModel},
+         {m_ui->m_pwTvLastUsed, m_lastUsedModel},
+         {m_ui->m_pwTvUserDefined, m_userDefinedModel}}};
+    for (const auto &[table, model] : shown) {
+        table->setSystems(model);
+        table->setDetailLinks(links);
+        table->installEventFilter(this);
+        connect(table, &SrsTable::selectionMoved, this, &dialogVltSrsChooser::showSelection);
+        connect(table, &SrsTable::doubleClicked, this, &dialogVltSrsChooser::accept);
+    }
+    m_ui->m_pwTvUserDefined->hideColumn(SrsTableModel::Kind);
+    m_ui->m_pwTvUserDefined->hideColumn(SrsTableModel::Area);
+}
+
+void dialogVltSrsChooser::createKinds()
+{
+    m_ui->m_pwCbKind->addItem(tr("All kinds", "MESS_SRS_ALL_KINDS"));
+    for (const SrsKind kind : {SrsKind::Projected, SrsKind::Geographic2D, SrsKind::Geographic3D,
+                               SrsKind::Geocentric, SrsKind::Compound})
+        m_ui->m_pwCbKind->addItem(SrsTableModel::kindText(kind), static_cast<int>(kind));
+}
+
+void dialogVltSrsChooser::createActions()
+{
+    addTableAction(m_ui->m_pwTvLastUsed, m_ui->m_pwPbRemoveLastUsed, QKeySequence::Delete,
+                   &dialogVltSrsChooser::removeLastUsed);
+    addTableAction(m_ui->m_pwTvUserDefined, m_ui->m_pwPbEditUserDefined, Qt::Key_F2,
+                   &dialogVltSrsChooser::editUserDefined);
+    addTableAction(m_ui->m_pwTvUserDefined, m_ui->m_pwPbRemoveUserDefined, QKeySequence::Delete,
+                   &dialogVltSrsChooser::removeUserDefined);
+}
+
+/// Offers what a button does to the selected row in the table's menu and by a key too.
+void dialogVltSrsChooser::addTableAction(SrsTable *table, QAbstractButton *button,
+                                         const QKeySequence &shortcut,
+                                         void (dialogVltSrsChooser::*slot)())
+{
+    auto *action = new QAction(button->text(), table);
+    action->setShortcut(shortcut);
+    action->setShortcutContext(Qt::WidgetShortcut);
+    table->addAction(action);
+    connect(action, &QAction::triggered, this, slot);
+    connect(button, &QAbstractButton::clicked, action, &QAction::trigger);
+
+    const auto follow = [=] {
+        action->setEnabled(table->currentRow() >= 0);
+        button->setEnabled(action->isEnabled());
+    };
+    connect(table, &SrsTable::selectionMoved, action, follow);
+    follow();
+}
+
+void dialogVltSrsChooser::connectWidgets()
+{
+    connect(&m_loading, &QFutureWatcherBase::finished, this,
+            &dialogVltSrsChooser::showLoadedSystems);
+    connect(m_ui->m_pwTwTabs, &QTabWidget::currentChanged, this,
+            &dialogVltSrsChooser::showSelection);
+    connect(m_ui->m_pwLeSearch, &QLineEdit::textChanged, this, &dialogVltSrsChooser::searchText);
+    connect(m_ui->m_pwCbKind, &QComboBox::currentIndexChanged, this, &dialogVltSrsChooser::search);
+    connect(m_ui->m_pwChbDeprecated, &QCheckBox::toggled, this, &dialogVltSrsChooser::search);
+    connect(m_ui->m_pwPbAddUserDefined, &QAbstractButton::clicked, this,
+            &dialogVltSrsChooser::addUserDefined);
+    m_ui->m_pwLeSearch->installEventFilter(this);
+    connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, this, [this] {
+        m_ui->m_pwTwTabs->setCurrentWidget(m_ui->m_pwPageSearch);
+        m_ui->m_pwLeSearch->setFocus(Qt::ShortcutFocusReason);
+    });
+}
+
+void dialogVltSrsChooser::restoreSize()
+{
+    const QByteArray geometry = vlt::platform::wizardSettings()->value(GeometryKey).toByteArray();
+    if (restoreGeometry(geometry))
+        return;
+    const QSize wanted(FirstWidth * fontMetrics().averageCharWidth(),
+                       FirstHeight * fontMetrics().lineSpacing());
+    resize(wanted.boundedTo(screen()->availableSize() * 0.9));
+}
+
+SrsTable *dialogVltSrsChooser::currentTable() const
+{
+    return m_ui->m_pwTwTabs->currentWidget()->findChild<SrsTable *>();
+}
+
+void dialogVltSrsChooser::showLoadedSystems()
+{
+    const SharedSrsSearch systems = m_loading.result();
+    if (!systems) {
+        m_ui->m_pwLblState->setText(
+            tr("The list of coordinate systems cannot be read", "MESS_SRS_NO_LIST"));
+        return;
+    }
+    m_found->setSearch(systems);
+    for (SrsListModel *model : {m_defaultModel, m_lastUsedModel, m_userDefinedModel})
+        model->setSearch(systems);
+    searchText();
+    showSelection();
+}
+
+/// Shows what is found now; the selected system stays selected if it is among it.
+void dialogVltSrsChooser::search()
+{
+    const std::optional<SrsEntry> selected = m_ui->m_pwTvFound->currentEntry();
+    SrsQuery query;
+    query.text = m_ui->m_pwLeSearch->text();
+    if (const QVariant kind = m_ui->m_pwCbKind->currentData(); kind.isValid())
+        query.kind = static_cast<SrsKind>(kind.toInt());
+    query.withDeprecated = m_ui->m_pwChbDeprecated->isChecked();
+    m_found->find(query);
+
+    if (m_loading.isFinished() && m_loading.result())
+        m_ui->m_pwLblState->setText(
+            m_found->rowCount() == 0
+                ? tr("No system matches", "MESS_SRS_NONE_FOUND")
+                : tr("Systems found: %1", "MESS_SRS_FOUND").arg(m_found->rowCount()));
+    if (selected)
+        m_ui->m_pwTvFound->selectRow(m_found->rowOfCode(selected->code));
+}
+
+/// The best match of a text is selected at once, so that Return takes it.
+void dialogVltSrsChooser::searchText()
+{
+    m_ui->m_pwTvFound->clearSelection();
+    search();
+    if (!m_ui->m_pwLeSearch->text().trimmed().isEmpty())
+        m_ui->m_pwTvFound->selectRow(0);
+}
+
+bool dialogVltSrsChooser::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() != QEvent::KeyPress)
+        return QDialog::eventFilter(watched, event);
+
+    const auto &key = static_cast<const QKeyEvent &>(*event);
+    SrsTable *found = m_ui->m_pwTvFound;
+    if (watched == m_ui->m_pwLeSearch && key.key() == Qt::Key_Down && m_found->rowCount() > 0) {
+        if (found->currentRow() < 0)
+            found->selectRow(0);
+        found->setFocus(Qt::OtherFocusReason);
+        return true;
+    }
+    if (watched == found && (isTyped(key) || key.key() == Qt::Key_Backspace)) {
+        m_ui->m_pwLeSearch->setFocus(Qt::OtherFocusReason);
+        QCoreApplication::sendEvent(m_ui->m_pwLeSearch, event);
+        return true;
+    }
+    return QDialog::eventFilter(watched, event);
+}
+
+void dialogVltSrsChooser::showSelection()
+{
+    const SrsTable *table = currentTable();
+    const int row = table->currentRow();
+    m_ui->m_pwBbButtons->button(QDialogButtonBox::Ok)->setEnabled(row >= 0);
+    if (row < 0)
+        m_ui->m_pwDetails->clear();
+    else
+        m_ui->m_pwDetails->describe(table->systems()->entryAt(row),
+                                    table->systems()->systemAt(row));
+}
+
+void dialogVltSrsChooser::showLists()
+{
+    m_defaultModel->setEntries(m_default);
+    m_lastUsedModel->setEntries(m_lastUsed);
+    m_userDefinedModel->setEntries(m_userDefined);
+}
+
+void dialogVltSrsChooser::addUserDefined()
+{
+    dialogToEditAlias dialog(this);
+    dialog.editSystem({});
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    m_userDefined.add({dialog.alias(), {}, dialog.definition(), true});
+    showLists();
+    m_ui->m_pwTvUserDefined->selectRow(0);
+    m_ui->m_pwTvUserDefined->setFocus();
+}
+
+void dialogVltSrsChooser::editUserDefined()
+{
+    const int row = m_ui->m_pwTvUserDefined->currentRow();
+    const SrsEntry before = m_userDefined.at(row);
+    dialogToEditAlias dialog(this);
+    dialog.editSystem(before);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    const SrsEntry after{dialog.alias(), {}, dialog.definition(), true};
+    m_userDefined.replaceAt(row, after);
+    if (const int used = lastUsedIndex(before); used >= 0)
+        m_lastUsed.replaceAt(used, after);
+    showLists();
+    m_ui->m_pwTvUserDefined->selectRow(row);
+}
+
+void dialogVltSrsChooser::removeUserDefined()
+{
+    const int row = m_ui->m_pwTvUserDefined->currentRow();
+    const SrsEntry entry = m_userDefined.at(row);
+    if (!vlt::messages::confirmed(
+            this, tr("Remove %1 from the user-defined coordinate systems?", "MESS_SRS_ASK_REMOVE")
+                      .arg(entry.alias)))
+        return;
+    m_userDefined.removeAt(row);
+    m_lastUsed.removeAt(lastUsedIndex(entry));
+    showLists();
+    m_ui->m_pwTvUserDefined->selectRow(std::min(row, m_userDefined.count() - 1));
+}
+
+void dialogVltSrsChooser::removeLastUsed()
+{
+    const int row = m_ui->m_pwTvLastUsed->currentRow();
+    m_lastUsed.removeAt(row);
+    showLists();
+    m_ui->m_pwTvLastUsed->selectRow(std::min(row, m_lastUsed.count() - 1));
+}
+
+/// Where a user-defined system stands among the last used ones; -1 if it does not.
+int dialogVltSrsChooser::lastUsedIndex(const SrsEntry &userDefined) const
+{
+    const int index = m_lastUsed.indexOfCode(userDefined.code);
+    return index >= 0 && m_lastUsed.at(index).isUserDefined ? index : -1;
+}

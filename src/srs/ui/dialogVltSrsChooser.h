@@ -1,0 +1,84 @@
+#pragma once
+
+#include "srs/DefaultSrsList.h"
+#include "srs/LastUsedSrsList.h"
+#include "srs/SrsEntry.h"
+#include "srs/SrsSearch.h"
+#include "srs/UserDefinedSrsList.h"
+
+#include <QDialog>
+#include <QFutureWatcher>
+
+#include <memory>
+#include <optional>
+
+class QAbstractButton;
+
+namespace Ui {
+class dialogVltSrsChooser;
+}
+
+namespace vlt::srs {
+class SrsListModel;
+class SrsSearchModel;
+class SrsTable;
+} // namespace vlt::srs
+
+/// Lets the user choose one coordinate system: found by words among all systems of the PROJ
+/// database, or taken from the default, the last used or the user-defined ones. The two latter
+/// lists are kept here too; their changes are saved at once, however the dialog is closed.
+///
+/// Searching is possible while the database is still being read; what was typed is then found as
+/// soon as it is there.
+// NOLINTNEXTLINE(readability-identifier-naming): the dialog's established name
+class dialogVltSrsChooser : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit dialogVltSrsChooser(QWidget *parent = nullptr);
+    ~dialogVltSrsChooser() override;
+
+    /// The system that the dialog was accepted with; none after it was cancelled.
+    std::optional<vlt::srs::SrsEntry> chosenEntry() const;
+
+public Q_SLOTS:
+    void done(int result) override;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void createTables();
+    void createKinds();
+    void createActions();
+    void connectWidgets();
+    void restoreSize();
+
+    void addTableAction(vlt::srs::SrsTable *table, QAbstractButton *button,
+                        const QKeySequence &shortcut, void (dialogVltSrsChooser::*slot)());
+    vlt::srs::SrsTable *currentTable() const;
+
+    void showLoadedSystems();
+    void search();
+    void searchText();
+    void showSelection();
+    void showLists();
+
+    void addUserDefined();
+    void editUserDefined();
+    void removeUserDefined();
+    void removeLastUsed();
+    int lastUsedIndex(const vlt::srs::SrsEntry &userDefined) const;
+
+    std::unique_ptr<Ui::dialogVltSrsChooser> m_ui;
+    vlt::srs::DefaultSrsList m_default;
+    vlt::srs::LastUsedSrsList m_lastUsed;
+    vlt::srs::UserDefinedSrsList m_userDefined;
+    QFutureWatcher<vlt::srs::SharedSrsSearch> m_loading;
+    vlt::srs::SrsSearchModel *m_found = nullptr;
+    vlt::srs::SrsListModel *m_defaultModel = nullptr;
+    vlt::srs::SrsListModel *m_lastUsedModel = nullptr;
+    vlt::srs::SrsListModel *m_userDefinedModel = nullptr;
+    std::optional<vlt::srs::SrsEntry> m_chosen;
+};

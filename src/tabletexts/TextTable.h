@@ -1,0 +1,156 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <string_view>
+
+namespace vlt::tabletexts {
+
+/// A text that a reader of tables gives its user.
+///
+/// The pattern is the English text with the places "%1", "%2" of its values, in this order, two
+/// at most. It starts with words, and words that no value holds stand between two places, so that
+/// a finished text can be taken apart again.
+struct Text
+{
+    const char *key; ///< message key of the translations
+    const char *pattern;
+};
+
+/// All of them.
+inline constexpr auto Texts = std::to_array<Text>({
+    // files that cannot be read
+    {"MESS_TAB_NO_FILE_NAME", "no file is named"},
+    {"MESS_TAB_NOT_LOCAL", "tables are read from local files only"},
+    {"MESS_TAB_READ_ONLY", "tables of sites are not written"},
+    {"MESS_TAB_NO_READER", "no driver for it was found"},
+    {"MESS_TAB_OUT_OF_MEMORY", "out of memory"},
+    {"MESS_TAB_FOLDER", "this is a folder, not a file"},
+    {"MESS_TAB_DEVICE", "this is not a regular file"},
+    {"MESS_TAB_NO_FILE", "the file does not exist"},
+    {"MESS_TAB_NO_PERMISSION", "the file cannot be read: Permission denied"},
+    {"MESS_TAB_UNREADABLE", "the file cannot be read: %1"},
+    {"MESS_TAB_FILE_CHANGED", "the file has changed while it was read"},
+
+    // files of another kind
+    {"MESS_TAB_EMPTY_FILE", "the file is empty"},
+    {"MESS_TAB_BLANK_FILE", "there is nothing but white space in the file"},
+    {"MESS_TAB_BINARY_FILE", "this is neither a text nor a workbook"},
+    {"MESS_TAB_ENCODING", "the encoding \"%1\" is not known"},
+    {"MESS_TAB_PDF", "this is a PDF document, not a table"},
+    {"MESS_TAB_JSON", "this looks like JSON, not like a table"},
+    {"MESS_TAB_SYLK", "this is a SYLK file: save it as .xlsx or .csv"},
+    {"MESS_TAB_WEB_PAGE", "this is a web page, not a workbook: save it as .xlsx or .csv"},
+    {"MESS_TAB_OPEN_DOCUMENT", "this is an OpenDocument file: save it as .xlsx or .csv"},
+    {"MESS_TAB_XLSB", "this is a binary workbook (.xlsb): save it as .xlsx"},
+    {"MESS_TAB_OLD_WORKBOOK", "this workbook is older than Excel 5: save it as .xlsx"},
+    {"MESS_TAB_ARCHIVE", "this is an archive, but not a workbook (.xlsx)"},
+    {"MESS_TAB_OFFICE_DOCUMENT", "this is an office document, but not a workbook (.xls)"},
+    {"MESS_TAB_OTHER_XML",
+     "this XML file is not a SpreadsheetML 2003 workbook: its root element is <%1>"},
+    {"MESS_TAB_DOCUMENT_TYPE",
+     "the XML file declares a document type, which tables do not need and attacks do"},
+    {"MESS_TAB_PASSWORD", "the workbook is protected by a password"},
+
+    // damaged files
+    {"MESS_TAB_FILE_CUT", "the file is cut short"},
+    {"MESS_TAB_FILE_CUT_IN_ROW", "the file is cut short in row %1"},
+    {"MESS_TAB_SHEET_CUT", "the file is cut short: the sheet does not end"},
+    {"MESS_TAB_WORKBOOK_CUT", "the workbook is cut short"},
+    {"MESS_TAB_WORKBOOK_DAMAGED", "the workbook is damaged or cut short"},
+    {"MESS_TAB_NO_DIRECTORY", "the workbook is cut short: its directory is missing"},
+    {"MESS_TAB_DIRECTORY_DAMAGED", "the directory of the workbook is damaged"},
+    {"MESS_TAB_PART_MISPLACED", "the workbook is damaged: a part is not where the directory says"},
+    {"MESS_TAB_SHEET_MISPLACED", "the workbook is damaged: a sheet is not where it should be"},
+    {"MESS_TAB_TEXTS_CUT", "the workbook is damaged: its texts are cut short"},
+    {"MESS_TAB_NO_PART", "the workbook lacks its part %1"},
+    {"MESS_TAB_PART_TOO_LARGE", "a part of the workbook is unreasonably large"},
+    {"MESS_TAB_COMPRESSION", "the workbook is packed by an unusual compression method"},
+    {"MESS_TAB_DATA_DAMAGED", "the compressed data of the workbook are damaged"},
+    {"MESS_TAB_DATA_CUT", "the compressed data of the workbook are cut short"},
+    {"MESS_TAB_CHECK_SUM", "the compressed data of the workbook fail their check sum"},
+    {"MESS_TAB_NO_ROOT_ELEMENT", "the XML file has no root element"},
+    {"MESS_TAB_LONG_TAG", "a tag or comment in the XML is unreasonably long"},
+    {"MESS_TAB_LONG_ROW", "a single row is longer than 256 MiB"},
+
+    // files that hold no table of sites
+    {"MESS_TAB_NO_DELIMITER",
+     "no delimiter was found: neither semicolons nor tabs, bars or commas make columns of it"},
+    {"MESS_TAB_NO_SHEET", "there is no sheet called \"%1\""},
+    {"MESS_TAB_NO_VALUE", "there is no cell with a value in the file"},
+    {"MESS_TAB_FILE_OF_ONE_COLUMN", "the file has only one column"},
+    {"MESS_TAB_TABLE_OF_ONE_COLUMN", "the table has only one column"},
+    {"MESS_TAB_NO_HEADER", "no header was found: none of the first rows names its columns"},
+    {"MESS_TAB_NO_ROW", "there is a header in row %1, but no row below it"},
+
+    // coordinate systems
+    {"MESS_TAB_UNKNOWN_SRS", "the coordinate system \"%1\" is not known"},
+    {"MESS_TAB_NO_WAY", "there is no way from the coordinate system \"%1\" to \"%2\""},
+    {"MESS_TAB_UNKNOWN_EPSG",
+     "the file declares the coordinate system EPSG:%1, which is not known"},
+    {"MESS_TAB_NO_SOURCE_SRS",
+     "the coordinate system of the file is not known: its coordinates are taken as they are"},
+    {"MESS_TAB_OUTSIDE_TARGET",
+     "the position lies outside the area of the target coordinate system"},
+
+    // rows that cannot be read in full
+    {"MESS_TAB_FURTHER_PROBLEMS",
+     "further problems are listed in the layer's metadata domain \"problems\""},
+    {"MESS_TAB_NO_COORDINATES", "no columns with coordinates were recognised"},
+    {"MESS_TAB_BEHIND_LAST",
+     "the row goes on behind the last column: \"%1\" in column %2 has no header"},
+    {"MESS_TAB_LOST_VALUE", "the value \"%1\" is lost: the column holds numbers"},
+
+    // coordinates that cannot be read
+    {"MESS_TAB_NO_COORDINATE", "the coordinate is empty"},
+    {"MESS_TAB_PART_EMPTY", "the coordinate \"%1\" cannot be read: it is empty"},
+    {"MESS_TAB_NOT_A_NUMBER", "the coordinate \"%1\" cannot be read: it is not a number"},
+    {"MESS_TAB_WITHOUT_NUMBER", "the coordinate \"%1\" cannot be read: it holds no number"},
+    {"MESS_TAB_NOT_FINITE", "the coordinate \"%1\" cannot be read: it is not finite"},
+    {"MESS_TAB_NOT_AN_ANGLE", "the coordinate \"%1\" cannot be read: it is not an angle"},
+    {"MESS_TAB_NOT_A_POSITION", "the coordinate \"%1\" cannot be read: it is not a position"},
+    {"MESS_TAB_FRACTION", "the coordinate \"%1\" cannot be read: only the last of degrees, "
+                          "minutes and seconds may have a fraction"},
+    {"MESS_TAB_BELOW_60",
+     "the coordinate \"%1\" cannot be read: minutes and seconds must lie below 60"},
+    {"MESS_TAB_MANY_PARTS",
+     "the coordinate \"%1\" cannot be read: it has more than degrees, minutes and seconds"},
+    {"MESS_TAB_SIGN_AND_LETTER",
+     "the coordinate \"%1\" cannot be read: it has both a minus sign and a hemisphere letter"},
+    {"MESS_TAB_TWO_LETTERS", "the coordinate \"%1\" cannot be read: it has two hemisphere letters"},
+    {"MESS_TAB_NO_HEMISPHERE",
+     "the coordinate \"%1\" cannot be read: it has a letter that is no hemisphere"},
+    {"MESS_TAB_OTHER_AXIS", "the coordinate \"%1\" cannot be read: the hemisphere letter belongs "
+                            "to the other coordinate"},
+    {"MESS_TAB_LETTER_O", "the coordinate \"%1\" cannot be read: the letter O may mean west "
+                          "(Ouest, Oeste) or east (Ost): use W or E"},
+    {"MESS_TAB_OUTSIDE_GLOBE", "the coordinate \"%1\" cannot be read: it lies outside the globe"},
+    {"MESS_TAB_LONGITUDE",
+     "the coordinate \"%1\" cannot be read: a longitude lies between -180 and 180"},
+    {"MESS_TAB_LATITUDE",
+     "the coordinate \"%1\" cannot be read: a latitude lies between -90 and 90"},
+    {"MESS_TAB_ZERO_ZERO",
+     "the coordinate \"%1\" cannot be read: 0, 0 stands for an unknown position"},
+});
+
+/// Names a text by its key; a key that is not in the table does not compile.
+class TextId
+{
+public:
+    consteval TextId(const char *key) : m_index(indexOf(key)) {}
+
+    constexpr const Text &text() const { return Texts[m_index]; }
+
+private:
+    static consteval std::size_t indexOf(const char *key)
+    {
+        std::size_t index = 0;
+        while (std::string_view(Texts.at(index).key) != key)
+            ++index;
+        return index;
+    }
+
+    std::size_t m_index;
+};
+
+} // namespace vlt::tabletexts

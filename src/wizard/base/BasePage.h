@@ -1,0 +1,58 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QVariantMap>
+#include <QWizardPage>
+
+/// Values that the pages hand to each other by key: texts, numbers and lists.
+using SharedParameters = QVariantMap;
+
+/// Base of every page of the wizard but the first. Restores the page's remembered values when it
+/// is shown for the first time and takes files that are dropped on it.
+class BasePage : public QWizardPage
+{
+    Q_OBJECT
+
+public:
+    /// @param parameters  the wizard's map; outlives the page
+    /// @param installDir  root of the installation, absolute
+    /// @param language    language code ("fr", "en")
+    BasePage(QWidget *wizard, SharedParameters &parameters, const QString &installDir,
+             const QString &language);
+
+    /// Restores the settings the first time. Pages that override it call it first.
+    void initializePage() override;
+
+    /// Writes the page's remembered values and publishes what later pages need.
+    virtual void saveSettings();
+
+    /// Reads the remembered values.
+    virtual void restoreSettings();
+
+    /// Takes one file that was dropped on the page; each page decides what it accepts.
+    ///
+    /// @param path  local file
+    virtual void droppedFile(const QString &path);
+
+protected:
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dragLeaveEvent(QDragLeaveEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
+
+    /// Widgets whose text is underlined while something is dragged over the page.
+    void setDropHighlightWidgets(const QList<QWidget *> &widgets);
+
+    SharedParameters &parameters() { return m_parameters; }
+    const QString &installDir() const { return m_installDir; }
+    const QString &language() const { return m_language; }
+
+private:
+    void underlineHighlights(bool underlined);
+
+    SharedParameters &m_parameters;
+    QString m_installDir;
+    QString m_language;
+    bool m_settingsPending = true;
+    QList<QWidget *> m_dropHighlights;
+};

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QString>
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+class QWidget;
+
+namespace vlt::wizard {
+
+/// Runs `work` on another thread and returns when it has ended; true then. Where it takes longer
+/// than a moment a modal dialog with `text`, a busy bar and a Cancel button is shown meanwhile, and
+/// the interface stays alive. False when the user cancelled: the work then goes on unseen, so it
+/// must own everything that it uses.
+bool waitFor(QWidget *parent, const QString &text, const std::function<void()> &work);
+
+/// The same for work that gives a value; nothing when the user cancelled.
+template<typename T>
+std::optional<T> waitForValue(QWidget *parent, const QString &text, const std::function<T()> &work)
+{
+    const auto value = std::make_shared<std::optional<T>>();
+    if (!waitFor(parent, text, [value, work] { *value = work(); }))
+        return std::nullopt;
+    return std::move(*value);
+}
+
+} // namespace vlt::wizard

@@ -1,0 +1,162 @@
+#include "wizard/base/DraggableIcon.h"
+
+#include "platform/AtomicFile.h"
+#include "platform/Settings.h"
+#include "wizard/base/Messages.h"
+
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QDrag>
+#include <QFile>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QMenu>
+#include <QMimeData>
+#include <QPainter>
+#include <QUrl>
+
+namespace {
+
+constexpr int DragImageSize = 48;
+constexpr int AttentionMs = 1000;
+
+} // namespace
+
+DraggableIcon::DraggableIcon(const QPixmap &pixmap, QWidget *parent, Qt::WindowFlags flags)
+    : QLabel(parent, flags)
+    , m_attention(this, "radius")
+{
+    setPixmap(pixmap);
+    setAlignment(Qt::AlignCenter);
+    setFocusPolicy(Qt::StrongFocus);
+    setEnabled(false);
+}
+
+void DraggableIcon::setLayerFile(const QString &path)
+{
+    m_layerFile = path;
+    setEnabled(!path.isEmpty());
+    setCursor(path.isEmpty() ? Qt::ArrowCursor : Qt::OpenHandCursor);
+    if (!path.isEmpty())
+        playAttention();
+    else
+        m_attention.stop();
+}
+
+void DraggableIcon::setRadius(int radius)
+{
+    m_radius = radius;
+    update();
+}
+
+void DraggableIcon::playAttention()
+{
+    m_attention.stop();
+    m_attention.setDuration(AttentionMs);
+    m_attention.setStartValue(height() / 2);
+    m_attention.setEndValue(0);
+    m_attention.setEasingCurve(QEasingCurve::OutBounce);
+    m_attention.start();
+}
+
+QPixmap DraggableIcon::dragImage(const QPixmap &pixmap)
+{
+    // the size on the screen, whatever the pixel density is
+    const int length = qRound(DragImageSize * pixmap.devicePixelRatio());
+    return pixmap.height() <= pixmap.width()
+               ? pixmap.scaledToWidth(length, Qt::FastTransformation)
+               : pixmap.scaledToHeight(length, Qt::FastTransformation);
+}
+
+QMimeData *DraggableIcon::layerData() const
+{
+    auto *layer = new QMimeData;
+    layer->setUrls({QUrl::fromLocalFile(m_layerFile)});
+    return layer;
+}
+
+void DraggableIcon::mouseMoveEvent(QMouseEvent *event)
+{
+    if (!isEnabled())
+        return;
+    const QPixmap image = dragImage(pixmap());
+    auto *drag = new QDrag(this);
+    drag->setMimeData(layerData());
+    drag->setPixmap(image);
+    const QSize size = image.deviceIndependentSize().toSize();
+    drag->setHotSpot({size.width() / 2, size.height() / 2});
+    drag->exec(Qt::LinkAction);
+    QLabel::mouseMoveEvent(event);
+}
+
+void DraggableIcon::paintEvent(QPaintEvent *event)
+{
+    QLabel::paintEvent(event);
+    if (m_radius <= 0 && !hasFocus())
+        return;
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    if (m_radius > 0) {
+        const QPointF center = QRectF(rect()).center();
+        QColor glow = palette().color(QPalette::Highlight);
+        QRadialGradient gradient(center, m_radius);
+        glow.setAlpha(170);
+        gradient.setColorAt(0, glow);
+        glow.setAlpha(0);
+        gradient.setColorAt(1, glow);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(gradient);
+        painter.drawEllipse(center, m_radius, m_radius);
+    }
+    if (hasFocus()) {
+        painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 4, 4);
+    }
+}
+
+void DraggableIcon::keyPressEvent(QKeyEvent *event)
+{
+    if (event->matches(QKeySequence::Copy))
+        copyToClipboard();
+    else if (event->matches(QKeySequence::Save))
+        saveCopy();
+    else
+        QLabel::keyPressEvent(event);
+}
+
+void DraggableIcon::contextMenuEvent(QContextMenuEvent *event)
+{
+    QMenu menu(this);
+    menu.addAction(tr("&Copy the layer file", "MESS_COPY_LAYER"), QKeySequence::Copy, this,
+                   [this] { copyToClipboard(); });
+    menu.addAction(tr("&Save the layer file as...", "MESS_SAVE_LAYER_AS"), QKeySequence::Save, this,
+                   [this] { saveCopy(); });
+    menu.exec(event->globalPos());
+}
+
+void DraggableIcon::copyToClipboard() const
+{
+    QGuiApplication::clipboard()->setMimeData(layerData());
+}
+
+void DraggableIcon::saveCopy()
+{
+    const auto settings = vlt::platform::wizardSettings();
+    const QString name = tr("layer", "MESS_LAYER_FILE_NAME") + QStringLiteral(".lay");
+    const QString directory = settings->value(QStringLiteral("LastUsedDir")).toString();
+    const QString target = QFileDialog::getSaveFileName(
+        this, tr("Save the layer file as", "MESS_SAVE_LAYER_TITLE"),
+        directory.isEmpty() ? name : directory + QLatin1Char('/') + name,
+        tr("Layer files", "MESS_LAYER_FILES") + QStringLiteral(" (*.lay)"));
+    if (target.isEmpty())
+        return;
+    QFile layer(m_layerFile);
+    const bool saved =
+        layer.open(QIODevice::ReadOnly) &&
+        vlt::platform::writeWhole(target, layer.readAll(), vlt::platform::Access::Shared).ok();
+    if (!saved)
+        vlt::messages::critical(this, {QStringLiteral("MESS_CANT_CREATE_LAYER"),
+                                       QStringLiteral("Can't create the layer file"), target});
+}

@@ -1,0 +1,52 @@
+#include "wizard/base/Messages.h"
+
+#include "language/VltLanguageManager.h"
+
+#include <QMessageBox>
+
+namespace vlt::messages {
+
+namespace {
+
+void tell(QMessageBox::Icon icon, QWidget *parent, const QString &text, const QString &title)
+{
+    QMessageBox box(icon, title, text, QMessageBox::Ok, parent);
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
+}
+
+} // namespace
+
+QString textOf(const Error &error)
+{
+    const QByteArray text = error.text.toUtf8();
+    const QString translated = error.key.isEmpty()
+                                   ? error.text
+                                   : dico_label(error.key.toUtf8().constData(), text.constData());
+    return Error{{}, translated, error.path}.display();
+}
+
+QString errorTitle()
+{
+    return dico_label("MESS_ERREUR", "Error");
+}
+
+void critical(QWidget *parent, const Error &error, const QString &title)
+{
+    tell(QMessageBox::Critical, parent, textOf(error), title);
+}
+
+void warning(QWidget *parent, const Error &error, const QString &title)
+{
+    tell(QMessageBox::Warning, parent, textOf(error), title);
+}
+
+bool confirmed(QWidget *parent, const QString &question)
+{
+    QMessageBox box(QMessageBox::Question, QString(), question, QMessageBox::Yes | QMessageBox::No,
+                    parent);
+    box.setTextFormat(Qt::PlainText);
+    return box.exec() == QMessageBox::Yes;
+}
+
+} // namespace vlt::messages

@@ -1,0 +1,48 @@
+#include "wizard/frame/VltFirstPage.h"
+
+#include "ui_FirstPage.h"
+
+#include <QWizard>
+
+VltFirstPage::VltFirstPage(QWidget *wizard)
+    : QWizardPage(wizard)
+    , m_ui(std::make_unique<Ui::FirstPage>())
+{
+    m_ui->setupUi(this);
+    setTitle(tr("Kind of layer", "MESS_PAGE_LAYER_KIND"));
+    setFocusProxy(m_ui->m_pwClAddSite);
+    connect(m_ui->m_pwClAddSite, &QCommandLinkButton::clicked, this, &VltFirstPage::addSiteClicked);
+    connect(m_ui->m_pwClAddLink, &QCommandLinkButton::clicked, this, &VltFirstPage::addLinkClicked);
+    connect(m_ui->m_pwClAddTexb, &QCommandLinkButton::clicked, this, &VltFirstPage::addTexbClicked);
+}
+
+VltFirstPage::~VltFirstPage() = default;
+
+void VltFirstPage::initializePage()
+{
+    m_nextId = -1;
+}
+
+void VltFirstPage::addSiteClicked()
+{
+    leadTo(m_ids.addSite, m_ui->m_pwClAddSite);
+}
+
+void VltFirstPage::addLinkClicked()
+{
+    leadTo(m_ids.addLink, m_ui->m_pwClAddLink);
+}
+
+void VltFirstPage::addTexbClicked()
+{
+    leadTo(m_ids.buildingsSource, m_ui->m_pwClAddTexb);
+}
+
+void VltFirstPage::leadTo(int id, QWidget *chosen)
+{
+    setFocusProxy(chosen); // for who comes back
+    m_nextId = m_ids.project;
+    Q_EMIT nextPageSelected(id);
+    wizard()->next();
+    m_nextId = -1;
+}

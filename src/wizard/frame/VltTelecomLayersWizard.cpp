@@ -1,0 +1,161 @@
+#include "wizard/frame/VltTelecomLayersWizard.h"
+
+#include "platform/Settings.h"
+#include "sites/ui/VltAddSitePage.h"
+#include "wizard/base/Messages.h"
+#include "wizard/frame/PlannedPage.h"
+#include "wizard/frame/VltFirstPage.h"
+#include "wizard/project/ui/VltSecondPage.h"
+
+#include <QAbstractButton>
+#include <QCloseEvent>
+#include <QIcon>
+#include <QScreen>
+
+namespace {
+
+const QString GeometryKey = QStringLiteral("mainGeometry");
+
+// Room for the settings of a result page beside its preview.
+constexpr QSize ComfortableSize(1180, 680);
+// What a window manager may put around a window, roughly.
+constexpr QSize FrameAllowance(20, 60);
+
+} // namespace
+
+VltTelecomLayersWizard::VltTelecomLayersWizard(const QString &installDir, const QString &language,
+                                               QWidget *parent, Qt::WindowFlags flags)
+    : QWizard(parent, flags)
+    , m_installDir(installDir)
+    , m_language(language)
+{
+    setWindowTitle(tr("Add sites, links and predictions wizard", "MESS_TELECOM_LAYERS"));
+    setWindowFlag(Qt::WindowMinMaxButtonsHint);
+    setWizardStyle(QWizard::ModernStyle);
+    restorePlace();
+    setOption(QWizard::NoBackButtonOnStartPage);
+    setOption(QWizard::NoDefaultButton);
+    setUpButtons();
+    addPages();
+    // queued: the page is not visible yet when it becomes the current one
+    connect(this, &QWizard::currentIdChanged, this, &VltTelecomLayersWizard::focusPage,
+            Qt::QueuedConnection);
+    restart();
+}
+
+void VltTelecomLayersWizard::restorePlace()
+{
+    const QByteArray place = vlt::platform::wizardSettings()->value(GeometryKey).toByteArray();
+    const bool restored = restoreGeometry(place);
+    const QRect available = screen()->availableGeometry();
+    const QSize room = available.size() - FrameAllowance;
+    if (!restored) {
+        resize(ComfortableSize.boundedTo(room));
+    } else if (!isMaximized() && size() != size().boundedTo(room)) { // left by a larger screen
+        resize(size().boundedTo(room));
+        move(available.topLeft());
+    }
+}
+
+void VltTelecomLayersWizard::savePlace() const
+{
+    vlt::platform::wizardSettings()->setValue(GeometryKey, saveGeometry());
+}
+
+void VltTelecomLayersWizard::setUpButtons()
+{
+    setButtonText(QWizard::NextButton, tr("Next", "MESS_SUIVANT"));
+    setButtonText(QWizard::BackButton, tr("Previous", "MESS_PRECEDENT"));
+    setButtonText(QWizard::CancelButton, tr("Quit", "MESS_QUITTER"));
+    button(QWizard::NextButton)->setIcon(QIcon(QStringLiteral(":/images/Next.png")));
+    button(QWizard::BackButton)->setIcon(QIcon(QStringLiteral(":/images/Back.png")));
+    button(QWizard::CancelButton)->setIcon(QIcon(QStringLiteral(":/images/Quit.png")));
+    button(QWizard::NextButton)->setShortcut(QKeySequence(Qt::ALT | Qt::Key_Right));
+    button(QWizard::BackButton)->setShortcut(QKeySequence(Qt::ALT | Qt::Key_Left));
+    for (const auto which : {QWizard::NextButton, QWizard::BackButton}) {
+        QAbstractButton *moving = button(which);
+        moving->setToolTip(moving->shortcut().toString(QKeySequence::NativeText));
+    }
+    setButtonLayout(
+        {QWizard::Stretch, QWizard::BackButton, QWizard::NextButton, QWizard::CancelButton});
+}
+
+void VltTelecomLayersWizard::addPages()
+{
+    auto *first = new VltFirstPage(this);
+    addPageAs(LogicalPage::First, first);
+    addPageAs(LogicalPage::Project,
+              new VltSecondPage(this, m_parameters, m_installDir, m_language));
+    addPageAs(LogicalPage::AddSite,
+              new VltAddSitePage(this, m_parameters, m_installDir, m_language));
+    addPlannedPages();
+    first->setPageIds({pageId(LogicalPage::Project), pageId(LogicalPage::AddSite),
+                       pageId(LogicalPage::AddLink), pageId(LogicalPage::BuildingsSource)});
+    connect(first, &VltFirstPage::nextPageSelected, this,
+            &VltTelecomLayersWizard::setNextIdOfSecondPage);
+}
+
+void VltTelecomLayersWizard::addPageAs(LogicalPage logical, QWizardPage *page)
+{
+    m_pageIds[static_cast<std::size_t>(logical)] = addPage(page);
+}
+
+void VltTelecomLayersWizard::addPlannedPages()
+{
+    const auto plan = [this](LogicalPage logical, const QString &title, const QString &purpose) {
+        addPageAs(logical,
+                  new PlannedPage(this, m_parameters, m_installDir, m_language, title, purpose));
+    };
+    plan(LogicalPage::AddLink, tr("Links", "MESS_PAGE_LINKS"),
+         tr("Here a table of microwave links will become a layer: pylons with antennas, the line "
+            "of sight and the Fresnel zone of each link.",
+            "MESS_PLANNED_LINKS"));
+    plan(LogicalPage::BuildingsSource, tr("Buildings", "MESS_PAGE_BUILDINGS"),
+         tr("Here the buildings of a vector file, the field of their heights and the terrain will "
+            "be chosen, to make a layer of 3D buildings.",
+            "MESS_PLANNED_BUILDINGS"));
+    plan(LogicalPage::BuildingsTextured, tr("Textured buildings", "MESS_PAGE_TEXTURED"),
+         tr("Here images will be chosen for roofs, walls or storeys of the buildings.",
+            "MESS_PLANNED_TEXTURED"));
+    plan(LogicalPage::BuildingsColored, tr("Coloured buildings", "MESS_PAGE_COLORED"),
+         tr("Here the buildings will be coloured from a raster, such as a coverage prediction, "
+            "through a colour map.",
+            "MESS_PLANNED_COLORED"));
+    plan(
+        LogicalPage::BuildingsDisplay, tr("Display of buildings", "MESS_PAGE_DISPLAY"),
+        tr("Here it will be chosen how textured buildings are shown, and their layer will be made.",
+           "MESS_PLANNED_DISPLAY"));
+}
+
+void VltTelecomLayersWizard::setNextIdOfSecondPage(int id)
+{
+    auto *second = qobject_cast<VltSecondPage *>(page(pageId(LogicalPage::Project)));
+    second->setNextId(id);
+    second->selectFirstProject();
+}
+
+/// Puts the keyboard where the page wants it: its focus proxy.
+void VltTelecomLayersWizard::focusPage()
+{
+    if (currentPage() != nullptr && currentPage()->focusProxy() != nullptr)
+        currentPage()->setFocus(Qt::TabFocusReason); // this reason makes the focus visible
+}
+
+void VltTelecomLayersWizard::closeEvent(QCloseEvent *event)
+{
+    savePlace();
+    QWizard::closeEvent(event);
+}
+
+void VltTelecomLayersWizard::done(int result)
+{
+    savePlace();
+    QWizard::done(result);
+}
+
+void VltTelecomLayersWizard::reject()
+{
+    if (vlt::messages::confirmed(this,
+                                 tr("Voulez-vous quitter l'application ?", "MESS_QUEST_QUIT_APP")))
+        QWizard::reject();
+}

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "wizard/base/BasePage.h"
+
+#include <QString>
+#include <QWizard>
+
+#include <array>
+
+/// The program's window: owns all pages, decides their order, remembers its place on the screen and
+/// asks before it closes.
+class VltTelecomLayersWizard : public QWizard
+{
+    Q_OBJECT
+
+public:
+    /// The pages as the program speaks of them. Their wizard ids differ: see pageId().
+    enum class LogicalPage {
+        First,
+        Project,
+        AddSite,
+        AddLink,
+        BuildingsSource,
+        BuildingsColored,
+        BuildingsTextured,
+        BuildingsDisplay
+    };
+
+    /// @param installDir  root of the installation, absolute
+    /// @param language    language code ("fr", "en")
+    VltTelecomLayersWizard(const QString &installDir, const QString &language,
+                           QWidget *parent = nullptr, Qt::WindowFlags flags = {});
+
+    /// Wizard id of a page; those of the coloured and the textured buildings are 6 and 5.
+    int pageId(LogicalPage page) const { return m_pageIds[static_cast<std::size_t>(page)]; }
+
+public Q_SLOTS:
+    /// Sets what follows the project page and offers the first recent project there.
+    void setNextIdOfSecondPage(int id);
+
+    void done(int result) override;
+
+    /// Asks whether to quit; on No nothing happens.
+    void reject() override;
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+
+private:
+    void restorePlace();
+    void savePlace() const;
+    void setUpButtons();
+    void addPages();
+    void addPageAs(LogicalPage logical, QWizardPage *page);
+    void addPlannedPages();
+    void focusPage();
+
+    std::array<int, 8> m_pageIds = {};
+    QString m_installDir;
+    QString m_language;
+    SharedParameters m_parameters;
+};

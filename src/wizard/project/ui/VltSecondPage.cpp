@@ -1,0 +1,152 @@
+#include "wizard/project/ui/VltSecondPage.h"
+
+#include "ui_SecondPage.h"
+
+#include "geodata/ConfigurationOption.h"
+#include "language/VltLanguageManager.h"
+#include "platform/Settings.h"
+#include "wizard/base/Messages.h"
+#include "wizard/project/RecentProjects.h"
+
+#include <QFileDialog>
+#include <QKeyEvent>
+#include <QWizard>
+
+using namespace vlt;
+
+namespace {
+
+const QString LastUsedDir = QStringLiteral("LastUsedDir");
+
+bool isReadableFile(const QString &path)
+{
+    // only regular files: opening a pipe might never end
+    return QFileInfo(path).isFile() && QFile(path).open(QIODevice::ReadOnly);
+}
+
+} // namespace
+
+VltSecondPage::VltSecondPage(QWidget *wizard, SharedParameters &parameters,
+                             const QString &installDir, const QString &language)
+    : BasePage(wizard, parameters, installDir, language)
+    , m_ui(std::make_unique<Ui::SecondPage>())
+{
+    m_ui->setupUi(this);
+    setTitle(tr("Target project", "MESS_PAGE_PROJECT"));
+    setDropHighlightWidgets({m_ui->label, m_ui->m_pwLbProjectName});
+    fillRecentProjects();
+    connectWidgets();
+    registerField(QStringLiteral("ProjectName*"), m_ui->m_pwLeProjectName);
+}
+
+VltSecondPage::~VltSecondPage() = default;
+
+void VltSecondPage::fillRecentProjects()
+{
+    const QIcon icon(QStringLiteral(":/images/veltaro_gvw_file.png"));
+    const QStringList paths =
+        project::recentProjects(geodata::configurationOption("VLT_CURRENT_PROJECT"));
+    for (const QString &path : paths) {
+        auto *item =
+            new QListWidgetItem(icon, project::projectCaption(path), m_ui->m_pwLwRecentProjects);
+        item->setToolTip(path);
+    }
+    m_ui->m_pwLwRecentProjects->setVisible(!paths.isEmpty());
+    m_ui->m_pwLblNoRecentProjects->setVisible(paths.isEmpty());
+    if (paths.isEmpty())
+        setFocusProxy(m_ui->m_pwLeProjectName);
+    else
+        setFocusProxy(m_ui->m_pwLwRecentProjects);
+}
+
+void VltSecondPage::connectWidgets()
+{
+    connect(m_ui->m_pwPbSelectProject, &QPushButton::clicked, this, &VltSecondPage::selectProject);
+    QListWidget *list = m_ui->m_pwLwRecentProjects;
+    connect(list, &QListWidget::currentItemChanged, this, &VltSecondPage::projectSelected);
+    connect(list, &QListWidget::itemClicked, this, &VltSecondPage::projectSelected);
+    connect(list, &QListWidget::itemDoubleClicked, this, &VltSecondPage::projectDoubleClicked);
+    connect(m_ui->m_pwLeProjectName, &QLineEdit::textChanged, this,
+            &VltSecondPage::showWhichProject);
+}
+
+/// Only the project of the line edit is shown as selected.
+void VltSecondPage::showWhichProject(const QString &path)
+{
+    QListWidget *list = m_ui->m_pwLwRecentProjects;
+    QListWidgetItem *current = list->currentItem();
+    if (current != nullptr)
+        current->setSelected(current->toolTip() == path);
+}
+
+void VltSecondPage::selectFirstProject()
+{
+    if (m_ui->m_pwLwRecentProjects->count() > 0)
+        m_ui->m_pwLwRecentProjects->setCurrentRow(0);
+}
+
+bool VltSecondPage::validatePage()
+{
+    const QString path = m_ui->m_pwLeProjectName->text();
+    if (!isReadableFile(path)) {
+        const Error error = {QStringLiteral("MESS_OUV_PRJ_IMP"),
+                             QStringLiteral("Cannot open project"), path};
+        messages::warning(this, error, dico_label("MESS_ERREUR", "Error !!!"));
+        return false;
+    }
+    saveSettings();
+    return true;
+}
+
+void VltSecondPage::saveSettings()
+{
+    if (!m_lastUsedDir.isEmpty())
+        platform::wizardSettings()->setValue(LastUsedDir, m_lastUsedDir);
+    parameters().insert(QStringLiteral("ProjectName"), m_ui->m_pwLeProjectName->text());
+}
+
+void VltSecondPage::restoreSettings()
+{
+    m_lastUsedDir = platform::wizardSettings()->value(LastUsedDir).toString();
+}
+
+void VltSecondPage::droppedFile(const QString &path)
+{
+    if (QFileInfo(path).suffix() == QLatin1String("gvw"))
+        m_ui->m_pwLeProjectName->setText(path);
+}
+
+void VltSecondPage::selectProject()
+{
+    const QString filter =
+        QStringLiteral("%1 (*.gvw)").arg(tr("Veltaro project", "MESS_PROJET_VLT"));
+    const QString path = QFileDialog::getOpenFileName(
+        this, tr("Select name of Veltaro project to be used", "MESS_SEL_NOM_PROJ_USE"),
+        m_lastUsedDir, filter);
+    if (path.isEmpty())
+        return;
+    m_ui->m_pwLeProjectName->setText(path);
+    m_lastUsedDir = QFileInfo(path).absolutePath();
+}
+
+void VltSecondPage::projectSelected(QListWidgetItem *item)
+{
+    if (item != nullptr)
+        m_ui->m_pwLeProjectName->setText(item->toolTip());
+}
+
+void VltSecondPage::projectDoubleClicked(QListWidgetItem * /*item*/)
+{
+    wizard()->next();
+}
+
+void VltSecondPage::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
+        BasePage::keyPressEvent(event);
+        return;
+    }
+    event->accept(); // else the dialog would press some button
+    if (isComplete())
+        wizard()->next();
+}

@@ -1,0 +1,95 @@
+#include "geodata/LayerProblems.h"
+
+#include <QtTest>
+
+#include <gdal_priv.h>
+
+#include <algorithm>
+
+using namespace vlt::geodata;
+
+/// One walk over the rows of a table, as the program makes it.
+class SiteCheckTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        GDALAllRegister();
+        QVERIFY(m_folder.isValid());
+        QByteArray table = "Site ID;Longitude;Latitude\n";
+        for (int i = 0; i < Rows; ++i)
+            table += "S" + QByteArray::number(i) + (i % 1000 == 7 ? ";east;48\n" : ";2.5;48\n");
+        QFile file(path());
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(table) == table.size());
+    }
+
+    void countsSitesAndListsProblems()
+    {
+        QList<double> shares;
+
+        const auto check = readSiteCheck(connection(), [&](double share) {
+            shares << share;
+            return true;
+        });
+
+        QVERIFY(check);
+        QCOMPARE(check.value().placement.features, Rows);
+        QCOMPARE(check.value().placement.placed, Rows - Rows / 1000);
+        QCOMPARE(check.value().problems.count, Rows / 1000);
+        QCOMPARE(check.value().problems.listed.size(), Rows / 1000);
+        QCOMPARE(check.value().problems.listed.at(1).row, 1009); // the header is row 1
+        QVERIFY(shares.size() > 1 && std::is_sorted(shares.begin(), shares.end()));
+        QVERIFY(shares.last() <= 1);
+    }
+
+    void stopsWhenAsked_data()
+    {
+        QTest::addColumn<int>("question");
+        QTest::newRow("before the first row") << 1;
+        QTest::newRow("on the way") << 2;
+    }
+    void stopsWhenAsked()
+    {
+        QFETCH(int, question);
+        int asked = 0;
+        QElapsedTimer sinceAnswer;
+
+        const auto check = readSiteCheck(connection(), [&](double) {
+            sinceAnswer.start();
+            return ++asked < question;
+        });
+
+        QVERIFY2(sinceAnswer.elapsed() < 1000, "the walk went on");
+        QVERIFY(!check);
+        QCOMPARE(check.error().text, QStringLiteral("cancelled"));
+        QCOMPARE(asked, question);
+    }
+
+    /// A workbook that is cut while it is read must not pass for one with fewer sites.
+    void tellsThatTheFileWasDamagedOnTheWay()
+    {
+        const QString copy = m_folder.filePath(QStringLiteral("cut.xlsx"));
+        QVERIFY(QFile::copy(qEnvironmentVariable("VLT_WORKBOOK"), copy));
+        QVERIFY(QFile::setPermissions(copy, QFile::ReadOwner | QFile::WriteOwner));
+
+        const auto check = readSiteCheck(QStringLiteral("site:") + copy,
+                                         [&](double) { return QFile::resize(copy, 500); });
+
+        QVERIFY(!check);
+        QVERIFY2(check.error().text.startsWith(QStringLiteral("the ")),
+                 qPrintable(check.error().text));
+    }
+
+private:
+    static constexpr qint64 Rows = 100000;
+
+    QString path() const { return m_folder.filePath(QStringLiteral("t.csv")); }
+    QString connection() const { return QStringLiteral("site:") + path(); }
+
+    QTemporaryDir m_folder;
+};
+
+QTEST_GUILESS_MAIN(SiteCheckTest)
+#include "tst_SiteCheck.moc"
