@@ -25,7 +25,7 @@ log=$PWD/build/run.log
 prepare "${buildPackages[@]}"
 mkdir -p build
 echo "Building (log: $log) ..."
-{ cmake --preset release && cmake --build --preset release && cmake --install build/release --prefix "$install"; } \
+{ cmake --preset release && cmake --build --preset release --target programs && cmake --install build/release --prefix "$install"; } \
     >"$log" 2>&1 || { tail -n 30 "$log" >&2; exit 1; }
 
 # The builder's settings, where programs look for the installation; the user's own are not touched.

@@ -8,6 +8,9 @@
 #       GUI    on an X server of its own, as large as a small laptop's screen
 # vlt_check_architecture() walks the finished link graph and stops the configure step on a breach.
 
+# What an installation tree needs, without the tests.
+add_custom_target(programs)
+
 function(vlt_apply_defaults target)
   target_compile_features(${target} PRIVATE cxx_std_20)
   target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow)
@@ -54,6 +57,7 @@ function(vlt_add_plugin name)
   set_target_properties(${name} PROPERTIES PREFIX "" AUTOMOC OFF AUTOUIC OFF AUTORCC OFF
     LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/driver)
   set_property(GLOBAL APPEND PROPERTY VLT_QT_FREE_TARGETS ${name})
+  add_dependencies(programs ${name})
   install(TARGETS ${name} LIBRARY DESTINATION driver)
 endfunction()
 
@@ -66,6 +70,7 @@ function(vlt_add_program name)
   if(P_LOGIC)
     set_property(GLOBAL APPEND PROPERTY VLT_WIDGET_FREE_TARGETS ${name})
   endif()
+  add_dependencies(programs ${name})
   install(TARGETS ${name} RUNTIME DESTINATION .)
 endfunction()
 

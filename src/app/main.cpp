@@ -41,7 +41,7 @@ void setIdentity()
 {
     QApplication::setApplicationName(QStringLiteral("VltTelecomLayers"));
     QApplication::setApplicationVersion(QStringLiteral(VLT_VERSION));
-    QApplication::setDesktopFileName(QStringLiteral("VltTelecomLayers"));
+    QApplication::setDesktopFileName(QStringLiteral("org.veltaro.VltTelecomLayers"));
     QApplication::setWindowIcon(applicationIcon());
     // No display name: Qt would append it to the title of every window and box.
 }

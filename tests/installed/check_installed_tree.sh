@@ -12,8 +12,9 @@ fail() { echo "FAILED: $*" >&2; exit 1; }
 "$cmake" --install "$build" --prefix "$work/first" >/dev/null
 tree="$work/moved, 100% d'été"
 mv "$work/first" "$tree"
-for part in vltlayers driver/ogr_VltTables.so addons/telecom/pylons/list.xml addons/telecom/MESSAGES/telecom_fr.ts \
-    MESSAGES/veltaro_en.ts VltSrsUtils.ini setup_env.ini examples/lorient/city.gvw share/man/man1/vltlayers.1; do
+for part in VltTelecomLayers vltlayers driver/ogr_VltTables.so addons/telecom/pylons/list.xml addons/telecom/MESSAGES/telecom_fr.ts \
+    MESSAGES/veltaro_en.ts VltSrsUtils.ini setup_env.ini examples/lorient/city.gvw share/man/man1/vltlayers.1 \
+    share/man/man1/VltTelecomLayers.1 share/applications/org.veltaro.VltTelecomLayers.desktop; do
     [[ -f $tree/$part ]] || fail "$part is not installed"
 done
 

@@ -504,7 +504,6 @@ private Q_SLOTS:
     }
 };
 
-Q_DECLARE_METATYPE(std::function<void(VltSrsChooser &)>)
 
 QTEST_MAIN(TestSrsChooser)
 #include "tst_SrsChooser.moc"

@@ -35,6 +35,7 @@ VltAddSitePage::VltAddSitePage(QWidget *wizard, SharedParameters &parameters,
     , m_ui(std::make_unique<Ui::AddSitePage>())
 {
     m_ui->setupUi(this);
+    setFocusProxy(m_ui->m_pwLeSite); // where the keyboard starts
     setTitle(tr("Site layer", "MESS_SITE_LAYER_TITLE"));
     createPanels();
     connectWidgets();

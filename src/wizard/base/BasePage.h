@@ -24,6 +24,9 @@ public:
     /// Restores the settings the first time. Pages that override it call it first.
     void initializePage() override;
 
+    /// Keeps what was entered for who comes back to the page.
+    void cleanupPage() override {}
+
     /// Writes the page's remembered values and publishes what later pages need.
     virtual void saveSettings();
 

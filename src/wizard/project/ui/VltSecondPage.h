@@ -29,9 +29,6 @@ public:
     /// Makes the first recent project the current one, where there is one.
     void selectFirstProject();
 
-    /// Keeps what was entered for who comes back to the page.
-    void cleanupPage() override {}
-
     /// Refuses, with a message, a project that is no regular file or cannot be read.
     bool validatePage() override;
 
