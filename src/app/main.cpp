@@ -11,6 +11,7 @@
 #include <QApplication>
 #include <QDebug>
 #include <QFileInfo>
+#include <QLocale>
 
 #include <clocale>
 #include <cstdio>
@@ -51,6 +52,10 @@ void setUpLanguage(const QString &installDir, const app::StartupSettings &settin
     app::loadMessages(installDir, settings.messagesDir, settings.language);
     const VltLanguageManager &manager = VltLanguageManager::getInstance();
     app::installToolkitTexts(manager.getCurrentLanguage().text);
+    // numbers and dates as the language of the texts writes them
+    const QLocale spoken(manager.getCurrentLanguage().text);
+    if (QLocale().language() != spoken.language())
+        QLocale::setDefault(spoken);
     if (manager.currentLanguageNeedsReversedLayout())
         QApplication::setLayoutDirection(Qt::RightToLeft);
 }

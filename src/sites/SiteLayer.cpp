@@ -4,6 +4,8 @@
 #include "sites/SiteInfoPage.h"
 #include "text/Templates.h"
 
+#include <QFileInfo>
+
 namespace vlt::sites {
 
 QString siteQuery(const SiteLayerInput &input)
@@ -11,6 +13,16 @@ QString siteQuery(const SiteLayerInput &input)
     return buildPylonQuery(
         {QStringLiteral("site"), input.sourceSrs, input.targetSrs, input.file.filePath, {}},
         input.representation, input.catalogues, input.project);
+}
+
+QString placingConnection(const SiteLayerInput &input)
+{
+    QString connection = QStringLiteral("site:");
+    if (!input.sourceSrs.isEmpty())
+        connection += QStringLiteral("s_srs=") + input.sourceSrs + QLatin1Char(',');
+    if (!input.targetSrs.isEmpty())
+        connection += QStringLiteral("t_srs=") + input.targetSrs + QLatin1Char(',');
+    return connection + QFileInfo(input.file.filePath).absoluteFilePath();
 }
 
 Result<SiteLayer> makeSiteLayer(const SiteLayerInput &input)

@@ -34,6 +34,10 @@ struct SiteLayer
 /// The query of the layer, buildPylonQuery() for a site table.
 QString siteQuery(const SiteLayerInput &input);
 
+/// The connection by which the sites of a layer are read and placed, without their look; its path
+/// is absolute.
+QString placingConnection(const SiteLayerInput &input);
+
 /// The text of the layer file, out of the installation's "template_sites.lay".
 ///
 /// @par Errors   MESS_MISSING_CONF_FILE with the template's path.

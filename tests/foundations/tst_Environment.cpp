@@ -42,43 +42,25 @@ private Q_SLOTS:
     void readsIniFiles()
     {
         const QString path =
-            put(u"données.ini"_s, "[One]\nKey = plain ; comment\nPath=\"a;b#c\"\nTwice=1\ntwice=2\n"
-                                  "Place=Orl\xE9\x61ns\n[Empty]\nNone=\n");
+            put(u"données.ini"_s, "[One]\nPath=\"a;b#c\" ; comment\nPlace=Orl\xE9\x61ns\n");
 
         const vlt::platform::IniFile ini = vlt::platform::IniFile::open(path).value();
 
-        QCOMPARE(ini.value(u"one"_s, u"KEY"_s), u"plain"_s);
-        QCOMPARE(ini.value(u"One"_s, u"Path"_s), u"a;b#c"_s);
-        QCOMPARE(ini.value(u"One"_s, u"Twice"_s), u"2"_s);
+        QCOMPARE(ini.value(u"one"_s, u"PATH"_s), u"a;b#c"_s);
         QCOMPARE(ini.value(u"One"_s, u"Place"_s), u"Orléans"_s);
-        for (const QString &key : {u"None"_s, u"Missing"_s, u""_s})
-            QCOMPARE(ini.value(u"Empty"_s, key), QString());
+        QCOMPARE(ini.value(u"One"_s, u"Missing"_s), QString());
         QVERIFY(!vlt::platform::IniFile::open(m_dir.path()).ok());
-        QVERIFY(!vlt::platform::IniFile::open(put(u"long.ini"_s, "[a]\nb=" + QByteArray(5000, 'x')))
-                     .ok());
-    }
-
-    void looksForTheIniFileBesideTheExecutable_data()
-    {
-        QTest::addColumn<QString>("executable");
-        QTest::addColumn<QString>("existing");
-        QTest::addColumn<QString>("expected");
-
-        QTest::newRow("suffix dropped") << u"TOOL.EXE"_s << u"TOOL_env.ini"_s << u"TOOL_env.ini"_s;
-        QTest::newRow("no suffix") << u"tool"_s << u"tool_env.ini"_s << u"tool_env.ini"_s;
-        QTest::newRow("only .exe is a suffix")
-            << u"tool.bin"_s << u"tool_env.ini"_s << u"setup_env.ini"_s;
-        QTest::newRow("neither is there") << u"other"_s << QString() << u"setup_env.ini"_s;
     }
 
     void looksForTheIniFileBesideTheExecutable()
     {
-        QFETCH(QString, executable);
-        QFETCH(QString, existing);
-        QFETCH(QString, expected);
-        if (!existing.isEmpty())
-            put(existing, "");
-        QCOMPARE(environmentIniPath(m_dir.filePath(executable)), m_dir.filePath(expected));
+        put(u"TOOL_env.ini"_s, "");
+        const auto found = [this](const QString &executable) {
+            return QFileInfo(environmentIniPath(m_dir.filePath(executable))).fileName();
+        };
+        QCOMPARE(found(u"TOOL.EXE"_s), u"TOOL_env.ini"_s);
+        QCOMPARE(found(u"TOOL"_s), u"TOOL_env.ini"_s);
+        QCOMPARE(found(u"TOOL.bin"_s), u"setup_env.ini"_s);
     }
 
     void resolvesStartupSettings_data()
@@ -87,36 +69,28 @@ private Q_SLOTS:
         QTest::addColumn<QString>("language");
         QTest::addColumn<QString>("installDir"); // "." stands for the executable's directory
         QTest::addColumn<QString>("messagesDir");
+        const auto row = [](const char *name, const QByteArray &ini, const QString &language) {
+            QTest::newRow(name) << ini << language << u"."_s << u"MESSAGES"_s;
+        };
         const QByteArray direct = "[VltDirectSettings]\n";
         const QByteArray references = "[VltRegisterKeys]\n";
 
-        QTest::newRow("nothing configured, German system")
-            << QByteArray() << u"ENGLISH"_s << u"."_s << u"MESSAGES"_s;
         QTest::newRow("all given")
             << direct + "LANGUAGE=FRENCH\nINSTALL_DIR=/opt/v\nMESSAGES_DIR=M\n"
             << u"FRENCH"_s << u"/opt/v"_s << u"M"_s;
-        QTest::newRow("given language wins over its reference")
-            << direct + "LANGUAGE=Dutch\n" + references +
-                   "VltRegKey_Language=Veltaro/General/UI/Language\n"
-            << u"Dutch"_s << u"."_s << u"MESSAGES"_s;
-        QTest::newRow("referenced language, key with slashes")
-            << references + "VltRegKey_Language=Veltaro/General/UI/Language\n"
-            << u"French"_s << u"."_s << u"MESSAGES"_s;
-        QTest::newRow("reference to nothing") << references + "VltRegKey_Language=Veltaro/Missing\n"
-                                              << u"ENGLISH"_s << u"."_s << u"MESSAGES"_s;
-        QTest::newRow("reference without a key") << references + "VltRegKey_Language=Veltaro\n"
-                                                 << u"ENGLISH"_s << u"."_s << u"MESSAGES"_s;
-        QTest::newRow("relative install directory") << direct + "INSTALL_DIR=..\\\n"
-                                                    << u"ENGLISH"_s << u"."_s << u"MESSAGES"_s;
-        QTest::newRow("other references are not followed")
-            << references + "VltRegKey_InstallDir=Veltaro/"
-                            "INSTALL_DIR\nVltRegKey_MessagesDir=Veltaro/MESSAGES_DIR\n"
-            << u"ENGLISH"_s << u"."_s << u"MESSAGES"_s;
-        QTest::newRow("syntax error") << direct + "LANGUAGE=FRENCH\nnonsense\n"
-                                      << u"ENGLISH"_s << u"."_s << u"MESSAGES"_s;
-        QTest::newRow("longer than 1024")
-            << direct + "INSTALL_DIR=/" + QByteArray(900, 'x') + "\n"
-            << u"ENGLISH"_s << u"/"_s + QString(900, u'x') << u"MESSAGES"_s;
+        row("nothing configured, German system", "", u"ENGLISH"_s);
+        row("given language wins over its reference",
+            direct + "LANGUAGE=Dutch\n" + references +
+                "VltRegKey_Language=Veltaro/General/UI/Language\n",
+            u"Dutch"_s);
+        row("referenced language, key with slashes",
+            references + "VltRegKey_Language=Veltaro/General/UI/Language\n", u"French"_s);
+        row("relative install directory", direct + "INSTALL_DIR=..\\\n", u"ENGLISH"_s);
+        row("other references are not followed",
+            references + "VltRegKey_InstallDir=Veltaro/INSTALL_DIR\n"
+                         "VltRegKey_MessagesDir=Veltaro/MESSAGES_DIR\n",
+            u"ENGLISH"_s);
+        row("syntax error", direct + "LANGUAGE=FRENCH\nnonsense\n", u"ENGLISH"_s);
     }
 
     void resolvesStartupSettings()
@@ -139,7 +113,6 @@ private Q_SLOTS:
     {
         QCOMPARE(systemLanguage(QLocale(u"fr_CA"_s)), u"FRENCH"_s);
         QCOMPARE(systemLanguage(QLocale(u"en_GB"_s)), u"ENGLISH"_s);
-        QCOMPARE(systemLanguage(QLocale::c()), u"ENGLISH"_s);
     }
 
     void writesTheGeodataEnvironment()
@@ -157,42 +130,19 @@ private Q_SLOTS:
                                     {"SHAPE_ENCODING", ""},
                                     {"GDAL_DATA", "C:\\v\\share\\gdal"},
                                     {"PROJ_LIB", "C:\\v\\share\\proj"}}));
-        QCOMPARE(geodataEnvironment(u"/opt/v é"_s, PathStyle::Posix, "/bin:/r\xE9p", onlyPosixGdal),
-                 (EnvironmentValues{{"PATH", "/opt/v é:/bin:/r\xE9p"},
-                                    {"GDAL_DRIVER_PATH", "/opt/v é/driver:/opt/v é/driver/qt4"},
-                                    {"OGR_DRIVER_PATH", "/opt/v é/driver:/opt/v é/driver/qt4"},
-                                    {"GDAL_FILENAME_IS_UTF8", "NO"},
-                                    {"SHAPE_ENCODING", ""},
-                                    {"GDAL_DATA", "/opt/v é/share/gdal"}}));
+        const EnvironmentValues posix =
+            geodataEnvironment(u"/opt/v é"_s, PathStyle::Posix, "/bin:/r\xE9p", onlyPosixGdal);
+        QCOMPARE(posix.front().second, QByteArray("/opt/v é:/bin:/r\xE9p"));
+        QCOMPARE(posix.at(1).second, QByteArray("/opt/v é/driver:/opt/v é/driver/qt4"));
+        QCOMPARE(posix.back().second, QByteArray("/opt/v é/share/gdal"));
         QCOMPARE(geodataEnvironment(u"/v"_s, PathStyle::Posix, "", all).front().second,
                  QByteArray("/v"));
     }
 
-    void exportsAndRegisters()
+    void registersDriversAndListsWhatIsOpen()
     {
-        QVERIFY(QDir(m_dir.path()).mkpath(u"share/gdal"_s));
-        qunsetenv("PROJ_LIB");
-        const QString tracePath = put(u"trace"_s, "");
-        std::FILE *trace = std::fopen(QFile::encodeName(tracePath).constData(), "w");
-        QVERIFY(trace != nullptr);
-
-        exportGeodataEnvironment(m_dir.path(), PathStyle::Posix, trace);
-        std::fclose(trace);
-
-        const QByteArray drivers =
-            QFile::encodeName(m_dir.path() + u"/driver:"_s + m_dir.path() + u"/driver/qt4"_s);
-        QFile written(tracePath);
-        QVERIFY(written.open(QIODevice::ReadOnly));
-        QCOMPARE(written.readAll(), "Adding path (" + drivers + ") to GDAL/OGR Driver path\n");
-        QCOMPARE(qgetenv("GDAL_DRIVER_PATH"), drivers);
-        QCOMPARE(qgetenv("GDAL_DATA"), QFile::encodeName(m_dir.filePath(u"share/gdal"_s)));
-        QVERIFY(!qEnvironmentVariableIsSet("PROJ_LIB"));
-
-        qunsetenv("GDAL_DATA");
         registerGeodataDrivers();
-        QVERIFY(GDALGetDriverByName("GTiff") != nullptr);
         QVERIFY(GDALGetDriverByName("SEGY") == nullptr);
-        QVERIFY(listOpenDatasets().isEmpty());
         const GDALDatasetUniquePtr dataset(GetGDALDriverManager()->GetDriverByName("MEM")->Create(
             "left open", 1, 1, 1, GDT_Byte, nullptr));
         QCOMPARE(listOpenDatasets(), QStringList{u"Open Dataset 1/1 : left open"_s});

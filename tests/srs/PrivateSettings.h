@@ -15,46 +15,22 @@ public:
     PrivateSettings()
     {
         QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_dir.path());
-        reset();
+        QDir().mkpath(m_install);
     }
 
-    /// No settings but the install directory, and no ini file in it.
-    void reset(const QString &installName = QStringLiteral("install"))
-    {
-        vlt::platform::builderSettings()->clear();
-        m_install = QDir(m_dir.filePath(installName));
-        m_install.removeRecursively();
-        QVERIFY(QDir().mkpath(m_install.path()));
-        store(QStringLiteral("INSTALL_DIR"), m_install.path());
-    }
-
-    /// Path of a file of the installation.
-    QString installed(const QString &name) const { return m_install.filePath(name); }
-
-    void writeIni(const QByteArray &content)
-    {
-        QFile file(installed(QStringLiteral("VltSrsUtils.ini")));
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
-    }
-
-    void store(const QString &key, const QVariant &value)
-    {
-        vlt::platform::builderSettings()->setValue(key, value);
-    }
-
-    /// What a group of the settings holds, "key=value", sorted.
-    QStringList stored(const QString &group) const
+    /// No settings but the install directory, and this in its ini file; no file without any.
+    void reset(const QByteArray &ini = {})
     {
         const auto settings = vlt::platform::builderSettings();
-        settings->beginGroup(group);
-        QStringList lines;
-        for (const QString &key : settings->allKeys())
-            lines += key + QLatin1Char('=') + settings->value(key).toString();
-        lines.sort();
-        return lines;
+        settings->clear();
+        settings->setValue(QStringLiteral("INSTALL_DIR"), m_install);
+        QFile file(m_install + QStringLiteral("/VltSrsUtils.ini"));
+        file.remove();
+        if (!ini.isEmpty())
+            QVERIFY(file.open(QIODevice::WriteOnly) && file.write(ini) == ini.size());
     }
 
 private:
     QTemporaryDir m_dir;
-    QDir m_install;
+    QString m_install = m_dir.filePath(QStringLiteral("donn\u00e9es \u0394"));
 };

@@ -27,6 +27,13 @@ const QString SettingsPrefix = QStringLiteral("AddSitePage");
 const QString SiteFileKey = QStringLiteral("AddSitePage/SiteFile");
 const QString LastUsedDirKey = QStringLiteral("LastUsedDir");
 
+/// The file and why it was refused, as two lines.
+QString refusalDetail(const QString &path, const QString &reason)
+{
+    const QString translated = vlt::sites::tableText(reason);
+    return translated.isEmpty() ? path : path + QLatin1Char('\n') + translated;
+}
+
 } // namespace
 
 VltAddSitePage::VltAddSitePage(QWidget *wizard, SharedParameters &parameters,
@@ -67,8 +74,9 @@ void VltAddSitePage::connectWidgets()
 {
     connect(m_ui->m_pwPbSite, &QPushButton::clicked, this, &VltAddSitePage::openSites);
     connect(m_ui->m_pwLeSite, &QLineEdit::editingFinished, this, [this] {
-        if (QFileInfo(m_ui->m_pwLeSite->text()).isFile())
-            readTypedPath();
+        const QString path = m_ui->m_pwLeSite->text();
+        if (path != m_pathRead && QFileInfo(path).isFile())
+            readSiteFileInfo(path, false);
     });
     connect(m_panelSrs, &VltSrsSettings::parameterChanged, this, &VltAddSitePage::updatePreview);
     connect(m_panelProperties, &VltSiteProperties::parameterChanged, this,
@@ -82,32 +90,27 @@ bool VltAddSitePage::eventFilter(QObject *watched, QEvent *event)
     if (watched == m_ui->m_pwLeSite && event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent *>(event)->key();
         if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-            readTypedPath();
+            readSiteFileInfo(m_ui->m_pwLeSite->text(), false);
             return true;
         }
     }
     return BasePage::eventFilter(watched, event);
 }
 
-void VltAddSitePage::readTypedPath()
-{
-    const QString path = m_ui->m_pwLeSite->text();
-    if (path != m_pathRead || !m_file.valid)
-        readSiteFileInfo(path, false);
-}
-
 /// The input side scrolls upwards and downwards only, unless the screen is too narrow for it.
 void VltAddSitePage::fitInputWidth()
 {
-    constexpr double ShareOfTheScreen = 0.57;
-    const int most = static_cast<int>(screen()->availableSize().width() * ShareOfTheScreen);
+    constexpr double ComfortableShare = 0.57;
+    constexpr int WindowMargins = 80;
+    const int screenWidth = screen()->availableSize().width();
     const auto wanted = [this] {
         m_ui->m_pwInput->layout()->activate();
         return m_ui->m_pwInput->minimumSizeHint().width() +
                style()->pixelMetric(QStyle::PM_ScrollBarExtent);
     };
     m_panelProperties->setStacked(false);
-    m_panelProperties->setStacked(wanted() > most);
+    m_panelProperties->setStacked(wanted() > ComfortableShare * screenWidth);
+    const int most = screenWidth - m_ui->m_ptVbResult->minimumSize().width() - WindowMargins;
     m_ui->m_pwSaInput->setMinimumWidth(qMin(wanted(), most));
 }
 
@@ -170,15 +173,19 @@ void VltAddSitePage::readSiteFileInfo(const QString &path, bool quiet)
         m_siteFileDir = m_file.fileDir;
     showFile(m_file);
     if (m_file.error && !quiet)
-        vlt::messages::critical(this, *m_file.error);
+        vlt::messages::critical(this, *m_file.error, vlt::messages::errorTitle(),
+                                refusalDetail(path, m_file.errorDetail));
     createLayerFile();
 }
 
 void VltAddSitePage::showFile(const SiteFileInfo &file)
 {
-    m_ui->m_pwLblReason->setText(vlt::sites::tableText(file.errorDetail));
+    // a refused drop leaves the path of the line as it was: the reason names its file itself
+    m_ui->m_pwLblReason->setText(QFileInfo(m_pathRead).fileName() + QStringLiteral(": ") +
+                                 vlt::sites::tableText(file.errorDetail));
     m_ui->m_pwLblReason->setVisible(!file.errorDetail.isEmpty());
     if (!file.valid) {
+        m_pwDragIcon->setLayerFile({});
         m_panelDetails->clear();
         m_ui->m_pwLblFileInfo->setText(tr(
             "No sites file defined.\nSelect the sites file to display.", "MESS_NO_SITE_DEFINED"));
@@ -190,7 +197,7 @@ void VltAddSitePage::showFile(const SiteFileInfo &file)
         m_panelSrs->setSourceSrs(file.systems.source);
     if (!file.systems.target.isEmpty())
         m_panelSrs->setTargetSrs(file.systems.target);
-    m_panelDetails->show(file, QStringLiteral("site:") + file.filePath);
+    m_panelDetails->showFile(file);
 }
 
 void VltAddSitePage::updatePreview()
@@ -211,6 +218,7 @@ void VltAddSitePage::createLayerFile()
         if (m_isActive && m_file.valid)
             writeLayerFile();
     }
+    m_ui->m_pwLblDragText->setEnabled(m_pwDragIcon->isEnabled());
     m_isCreating = false;
 }
 
@@ -225,6 +233,7 @@ void VltAddSitePage::writeLayerFile()
     input.project = m_project;
     input.installDir = installDir();
     input.language = language();
+    m_panelDetails->check(vlt::sites::placingConnection(input));
     const vlt::Result<vlt::sites::SiteLayer> layer = vlt::sites::makeSiteLayer(input);
     if (!layer) {
         vlt::messages::critical(this, layer.error());

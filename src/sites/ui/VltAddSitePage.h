@@ -54,7 +54,6 @@ private:
     void showFile(const vlt::sites::SiteFileInfo &file);
     void createLayerFile();
     void writeLayerFile();
-    void readTypedPath();
 
     std::unique_ptr<Ui::AddSitePage> m_ui;
     VltSiteProperties *m_panelProperties = nullptr;

@@ -2,9 +2,11 @@
 
 #include "sites/ColumnDescription.h"
 #include "sites/TableTexts.h"
+#include "text/RichText.h"
 
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QStandardItemModel>
@@ -18,6 +20,8 @@ namespace {
 constexpr int ColumnsTab = 0;
 constexpr int ProblemsTab = 1;
 constexpr int VisibleRows = 6;
+constexpr int RowMargin = 6;
+const QString Separator = QStringLiteral("  \u2022  ");
 
 QTableView *makeTable(QStandardItemModel *model, const QString &objectName, const QString &name,
                       QWidget *parent)
@@ -31,6 +35,7 @@ QTableView *makeTable(QStandardItemModel *model, const QString &objectName, cons
     table->setWordWrap(false);
     table->setTabKeyNavigation(false);
     table->verticalHeader()->hide();
+    table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + RowMargin);
     table->horizontalHeader()->setStretchLastSection(true);
     table->horizontalHeader()->setHighlightSections(false);
     table->setMinimumHeight((VisibleRows + 1) * table->verticalHeader()->defaultSectionSize());
@@ -41,7 +46,7 @@ QStandardItem *item(const QVariant &value)
 {
     auto *made = new QStandardItem;
     made->setData(value, Qt::DisplayRole);
-    made->setToolTip(value.toString().toHtmlEscaped());
+    made->setToolTip(vlt::text::asRichText(value.toString()));
     return made;
 }
 
@@ -50,6 +55,7 @@ QStandardItem *item(const QVariant &value)
 VltSiteDetails::VltSiteDetails(QWidget *parent)
     : QWidget(parent)
     , m_pwTbFold(new QToolButton(this))
+    , m_pwLblWarning(new QLabel(this))
     , m_pwPrChecking(new QProgressBar(this))
     , m_pwPbCancel(new QPushButton(tr("Cancel", "MESS_CANCEL"), this))
     , m_pwTwDetails(new QTabWidget(this))
@@ -76,6 +82,8 @@ void VltSiteDetails::buildHeading()
     m_pwTbFold->setFocusPolicy(Qt::StrongFocus);
     m_pwTbFold->setToolTip(
         tr("Show the recognised columns and the rows with problems", "MESS_TIP_DETAILS"));
+    m_pwLblWarning->setPixmap(QPixmap(QStringLiteral(":/icons/warning.png")));
+    m_pwLblWarning->setAccessibleName(tr("Problems", "MESS_PROBLEMS"));
     m_pwPrChecking->setRange(0, 100);
     m_pwPrChecking->setFormat(tr("Checking the rows: %p%", "MESS_CHECKING_ROWS"));
     m_pwPrChecking->setAccessibleName(tr("Progress of the check", "MESS_CHECK_PROGRESS"));
@@ -83,6 +91,7 @@ void VltSiteDetails::buildHeading()
     m_pwPbCancel->setToolTip(tr("Stop checking the rows", "MESS_TIP_STOP_CHECK"));
 
     auto *heading = new QHBoxLayout;
+    heading->addWidget(m_pwLblWarning);
     heading->addWidget(m_pwTbFold);
     heading->addStretch(1);
     heading->addWidget(m_pwPrChecking);
@@ -119,24 +128,35 @@ void VltSiteDetails::fold(bool open)
 void VltSiteDetails::clear()
 {
     m_runner.cancel();
+    m_checked.clear();
     m_pwTbFold->setChecked(false);
     fold(false);
     hide();
 }
 
-void VltSiteDetails::show(const vlt::sites::SiteFileInfo &file, const QString &connection)
+void VltSiteDetails::showFile(const vlt::sites::SiteFileInfo &file)
 {
+    m_checked.clear();
     m_fileProblems.clear();
     if (const auto nameless = vlt::sites::missingNameField(file))
         m_fileProblems << *nameless;
-    showColumns(vlt::sites::recogniseSiteColumns(connection, QString()));
+    showColumns(
+        vlt::sites::recogniseSiteColumns(QStringLiteral("site:") + file.filePath, QString()));
+    endCheck();
     showProblems(m_fileProblems, m_fileProblems.size());
-    showSummary({});
+    showSummary({}, !m_fileProblems.isEmpty());
+    setVisible(true);
+}
+
+void VltSiteDetails::check(const QString &connection)
+{
+    if (connection == m_checked)
+        return;
+    m_checked = connection;
     m_pwPrChecking->setValue(0);
     m_pwPrChecking->show();
     m_pwPbCancel->show();
     m_runner.start(connection);
-    setVisible(true);
 }
 
 void VltSiteDetails::showColumns(const vlt::sites::SiteColumnSet &columns)
@@ -172,47 +192,57 @@ void VltSiteDetails::showProblems(const QList<vlt::Problem> &listed, qint64 coun
         table->resizeColumnsToContents();
 }
 
-void VltSiteDetails::showSummary(const QString &rows)
+void VltSiteDetails::showSummary(const QString &rows, bool warns)
 {
     QString text = tr("Recognised columns: %1", "MESS_RECOGNISED_COLUMNS").arg(m_recognised);
     if (!rows.isEmpty())
-        text += QStringLiteral("  \u2022  ") + rows;
+        text += Separator + rows;
     m_pwTbFold->setText(text);
+    m_pwLblWarning->setVisible(warns);
+}
+
+/// Whatever the check came to: nothing of it goes on.
+void VltSiteDetails::endCheck()
+{
+    m_runner.cancel();
+    m_pwPrChecking->hide();
+    m_pwPbCancel->hide();
 }
 
 void VltSiteDetails::stopChecking()
 {
-    m_runner.cancel();
-    m_pwPrChecking->hide();
-    m_pwPbCancel->hide();
-    showSummary(tr("the rows were not checked", "MESS_ROWS_NOT_CHECKED"));
+    endCheck();
+    showSummary(tr("the rows were not checked", "MESS_ROWS_NOT_CHECKED"),
+                !m_fileProblems.isEmpty());
 }
 
 void VltSiteDetails::checkEnded(const vlt::geodata::SiteCheck &check)
 {
-    m_runner.cancel();
-    m_pwPrChecking->hide();
-    m_pwPbCancel->hide();
+    endCheck();
     const qint64 count = m_fileProblems.size() + check.problems.count;
     showProblems(m_fileProblems + check.problems.listed, count);
-    showSummary(tr("sites placed: %1 of %2", "MESS_SITES_PLACED")
-                    .arg(check.placement.placed)
-                    .arg(check.placement.features) +
-                QStringLiteral("  \u2022  ") + tr("problems: %1", "MESS_PROBLEM_COUNT").arg(count));
+    const bool isNonePlaced = check.placement.placed == 0;
+    const QString placed = isNonePlaced ? tr("no site can be placed", "MESS_NO_SITE_PLACED")
+                                        : tr("sites placed: %1 of %2", "MESS_SITES_PLACED")
+                                              .arg(check.placement.placed)
+                                              .arg(check.placement.features);
+    showSummary(placed + Separator + tr("problems: %1", "MESS_PROBLEM_COUNT").arg(count),
+                count > 0);
     if (count > 0)
         m_pwTwDetails->setCurrentIndex(ProblemsTab);
+    if (isNonePlaced) // the layer would be empty: the reason must not stay folded away
+        m_pwTbFold->setChecked(true);
 }
 
 void VltSiteDetails::checkFailed(const QString &reason)
 {
-    m_runner.cancel();
-    m_pwPrChecking->hide();
-    m_pwPbCancel->hide();
+    endCheck();
     vlt::Problem problem;
     problem.severity = vlt::Problem::Severity::Error;
     problem.text = reason;
-    m_fileProblems << problem;
-    showProblems(m_fileProblems, m_fileProblems.size());
-    showSummary(tr("problems: %1", "MESS_PROBLEM_COUNT").arg(m_fileProblems.size()));
+    const QList<vlt::Problem> all = m_fileProblems + QList<vlt::Problem>{problem};
+    showProblems(all, all.size());
+    showSummary(tr("no site can be placed", "MESS_NO_SITE_PLACED"), true);
     m_pwTwDetails->setCurrentIndex(ProblemsTab);
+    m_pwTbFold->setChecked(true);
 }

@@ -7,6 +7,7 @@
 
 #include <QWidget>
 
+class QLabel;
 class QProgressBar;
 class QPushButton;
 class QStandardItemModel;
@@ -22,10 +23,13 @@ class VltSiteDetails : public QWidget
 public:
     explicit VltSiteDetails(QWidget *parent = nullptr);
 
-    /// Shows a table and starts to check its rows.
+    /// Shows what is known of a table without reading its rows.
+    void showFile(const vlt::sites::SiteFileInfo &file);
+
+    /// Starts to check the rows of the table shown, unless that was done already.
     ///
-    /// @param connection  the table with its options and an absolute path
-    void show(const vlt::sites::SiteFileInfo &file, const QString &connection);
+    /// @param connection  the table with its coordinate systems and an absolute path
+    void check(const QString &connection);
 
     /// Shows nothing and hides; a running check ends.
     void clear();
@@ -36,13 +40,15 @@ private:
     void fold(bool open);
     void showColumns(const vlt::sites::SiteColumnSet &columns);
     void showProblems(const QList<vlt::Problem> &listed, qint64 count);
-    void showSummary(const QString &rows);
+    void showSummary(const QString &rows, bool warns);
+    void endCheck();
     void stopChecking();
     void checkEnded(const vlt::geodata::SiteCheck &check);
     void checkFailed(const QString &reason);
 
     vlt::sites::SiteCheckRunner m_runner;
     QToolButton *m_pwTbFold;
+    QLabel *m_pwLblWarning;
     QProgressBar *m_pwPrChecking;
     QPushButton *m_pwPbCancel;
     QTabWidget *m_pwTwDetails;
@@ -50,4 +56,5 @@ private:
     QStandardItemModel *m_problemModel;
     QList<vlt::Problem> m_fileProblems; ///< those known without reading the rows
     int m_recognised = 0;
+    QString m_checked; ///< connection of the last check
 };

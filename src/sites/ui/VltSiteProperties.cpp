@@ -1,6 +1,7 @@
 #include "sites/ui/VltSiteProperties.h"
 
 #include "platform/Settings.h"
+#include "text/RichText.h"
 #include "ui_SiteProperties.h"
 #include "wizard/base/WheelGuard.h"
 
@@ -55,6 +56,22 @@ const std::vector<Remembered> &rememberedValues()
     return values;
 }
 
+/// The texts are longer than the closed box: its list is wide enough for them, and its tool tip
+/// tells the chosen one.
+void showWholeTexts(QComboBox *combo)
+{
+    combo->view()->setMinimumWidth(combo->view()->sizeHintForColumn(0) +
+                                   combo->style()->pixelMetric(QStyle::PM_ScrollBarExtent));
+    const QString purpose = combo->toolTip();
+    const auto tell = [combo, purpose] {
+        const QString chosen = combo->currentText();
+        combo->setToolTip(vlt::text::asRichText(
+            chosen.isEmpty() ? purpose : chosen + QStringLiteral("\n\n") + purpose));
+    };
+    QObject::connect(combo, &QComboBox::currentIndexChanged, combo, tell);
+    tell();
+}
+
 void select(QComboBox *combo, int index)
 {
     combo->setCurrentIndex(index >= 0 && index < combo->count() ? index : -1);
@@ -102,11 +119,9 @@ void VltSiteProperties::fillCombos()
     QComboBox *pylons = m_ui->m_pwCbPylonType;
     for (const vlt::sites::PylonType &type : m_catalogues.pylonTypes) {
         pylons->addItem(type.description);
-        pylons->setItemData(pylons->count() - 1, type.description, Qt::ToolTipRole);
     }
-    // the descriptions are longer than the closed box
-    pylons->view()->setMinimumWidth(pylons->view()->sizeHintForColumn(0) +
-                                    style()->pixelMetric(QStyle::PM_ScrollBarExtent));
+    for (QComboBox *combo : {pylons, m_ui->m_pwCbSectorColors})
+        showWholeTexts(combo);
 }
 
 void VltSiteProperties::connectWidgets()
@@ -117,8 +132,10 @@ void VltSiteProperties::connectWidgets()
         connect(box, &QSpinBox::valueChanged, this, &VltSiteProperties::parameterChanged);
     for (auto *combo : findChildren<QComboBox *>())
         connect(combo, &QComboBox::activated, this, &VltSiteProperties::parameterChanged);
-    connect(m_ui->m_pwSlTransparency, &QSlider::valueChanged, this,
-            &VltSiteProperties::parameterChanged);
+    connect(m_ui->m_pwSlTransparency, &QSlider::valueChanged, this, [this](int value) {
+        m_ui->m_pwLblTransparencyValue->setText(QStringLiteral("%1 %").arg(value));
+        Q_EMIT parameterChanged();
+    });
     vlt::wizard::guardAgainstStrayWheel(this);
 }
 

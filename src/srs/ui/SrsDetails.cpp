@@ -1,6 +1,7 @@
 #include "srs/ui/SrsDetails.h"
 
 #include "srs/ui/SrsTableModel.h"
+#include "text/RichText.h"
 #include "ui_SrsDetails.h"
 
 #include <QFontDatabase>
@@ -18,7 +19,7 @@ void showFact(QLabel *title, QLabel *fact, const QString &text)
 {
     const bool isLong = text.size() > LongestFact;
     fact->setText(isLong ? text.left(LongestFact) + QChar(0x2026) : text);
-    fact->setToolTip(isLong ? QStringLiteral("<qt>%1</qt>").arg(text.toHtmlEscaped()) : QString());
+    fact->setToolTip(isLong ? vlt::text::asRichText(text) : QString());
     title->setHidden(text.isEmpty());
     fact->setHidden(text.isEmpty());
 }

@@ -1,5 +1,7 @@
 #include "srs/ui/SrsTableModel.h"
 
+#include "text/RichText.h"
+
 #include <QFont>
 
 namespace vlt::srs {
@@ -55,7 +57,7 @@ QVariant SrsTableModel::data(const QModelIndex &index, int role) const
     case Qt::DisplayRole:
         return textOf(index);
     case Qt::ToolTipRole: // as rich text it is wrapped, and what stands in it stays plain
-        return QStringLiteral("<qt>%1</qt>").arg(textOf(index).toHtmlEscaped());
+        return vlt::text::asRichText(textOf(index));
     case Qt::FontRole: {
         const geodata::SrsRecord *system = systemAt(index.row());
         if (!system || !system->isDeprecated)

@@ -233,6 +233,7 @@ void VltSrsChooser::choose(const SrsEntry &entry)
 void VltSrsChooser::chooseFromDialog()
 {
     dialogVltSrsChooser dialog(m_parentWidget);
+    dialog.setWindowTitle(m_ui->m_pLSrsLabel->text()); // which of the systems it is about
     std::optional<SrsEntry> chosen;
     if (dialog.exec() == QDialog::Accepted)
         chosen = dialog.chosenEntry();

@@ -16,6 +16,7 @@ BasePage::BasePage(QWidget *wizard, SharedParameters &parameters, const QString 
 
 void BasePage::initializePage()
 {
+    setAccessibleName(title());
     if (!m_settingsPending)
         return;
     m_settingsPending = false;
@@ -44,6 +45,12 @@ void BasePage::underlineHighlights(bool underlined)
 
 void BasePage::dragEnterEvent(QDragEnterEvent *event)
 {
+    // the layer on its way out of this very window
+    if (const auto *source = qobject_cast<QWidget *>(event->source());
+        source && source->window() == window()) {
+        event->ignore();
+        return;
+    }
     underlineHighlights(true);
     event->acceptProposedAction();
 }

@@ -14,12 +14,21 @@
 #include <QMenu>
 #include <QMimeData>
 #include <QPainter>
+#include <QToolTip>
 #include <QUrl>
 
 namespace {
 
 constexpr int DragImageSize = 48;
 constexpr int AttentionMs = 1000;
+
+/// Enter, the space bar, and Shift+F10 for keyboards without a menu key.
+bool asksForMenu(const QKeyEvent &event)
+{
+    const int key = event.key();
+    return key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space ||
+           (key == Qt::Key_F10 && event.modifiers() == Qt::ShiftModifier);
+}
 
 } // namespace
 
@@ -78,7 +87,7 @@ QMimeData *DraggableIcon::layerData() const
 
 void DraggableIcon::mouseMoveEvent(QMouseEvent *event)
 {
-    if (!isEnabled())
+    if (!isEnabled() || !event->buttons().testFlag(Qt::LeftButton))
         return;
     const QPixmap image = dragImage(pixmap());
     auto *drag = new QDrag(this);
@@ -122,23 +131,31 @@ void DraggableIcon::keyPressEvent(QKeyEvent *event)
         copyToClipboard();
     else if (event->matches(QKeySequence::Save))
         saveCopy();
+    else if (asksForMenu(*event))
+        openMenu(mapToGlobal(rect().center()));
     else
         QLabel::keyPressEvent(event);
 }
 
 void DraggableIcon::contextMenuEvent(QContextMenuEvent *event)
 {
+    openMenu(event->globalPos());
+}
+
+void DraggableIcon::openMenu(const QPoint &position)
+{
     QMenu menu(this);
     menu.addAction(tr("&Copy the layer file", "MESS_COPY_LAYER"), QKeySequence::Copy, this,
                    [this] { copyToClipboard(); });
     menu.addAction(tr("&Save the layer file as...", "MESS_SAVE_LAYER_AS"), QKeySequence::Save, this,
                    [this] { saveCopy(); });
-    menu.exec(event->globalPos());
+    menu.exec(position);
 }
 
 void DraggableIcon::copyToClipboard() const
 {
     QGuiApplication::clipboard()->setMimeData(layerData());
+    QToolTip::showText(mapToGlobal(rect().bottomLeft()), tr("Copied", "MESS_COPIED"));
 }
 
 void DraggableIcon::saveCopy()

@@ -41,6 +41,7 @@ private:
     QMimeData *layerData() const;
     void copyToClipboard() const;
     void saveCopy();
+    void openMenu(const QPoint &position);
     void playAttention();
 
     QString m_layerFile;

@@ -1,6 +1,7 @@
 #include "wizard/base/Messages.h"
 
 #include "language/VltLanguageManager.h"
+#include "text/RichText.h"
 
 #include <QMessageBox>
 
@@ -8,10 +9,12 @@ namespace vlt::messages {
 
 namespace {
 
-void tell(QMessageBox::Icon icon, QWidget *parent, const QString &text, const QString &title)
+void tell(QMessageBox::Icon icon, QWidget *parent, const QString &text, const QString &title,
+          const QString &detail = {})
 {
     QMessageBox box(icon, title, text, QMessageBox::Ok, parent);
     box.setTextFormat(Qt::PlainText);
+    box.setInformativeText(text::asRichText(detail));
     box.exec();
 }
 
@@ -31,9 +34,9 @@ QString errorTitle()
     return dico_label("MESS_ERREUR", "Error");
 }
 
-void critical(QWidget *parent, const Error &error, const QString &title)
+void critical(QWidget *parent, const Error &error, const QString &title, const QString &detail)
 {
-    tell(QMessageBox::Critical, parent, textOf(error), title);
+    tell(QMessageBox::Critical, parent, textOf(error), title, detail);
 }
 
 void warning(QWidget *parent, const Error &error, const QString &title)

@@ -16,7 +16,10 @@ QString textOf(const Error &error);
 QString errorTitle();
 
 /// A critical box with one OK button.
-void critical(QWidget *parent, const Error &error, const QString &title = errorTitle());
+///
+/// @param detail  what else is known, such as a library's reason; shown below the text
+void critical(QWidget *parent, const Error &error, const QString &title = errorTitle(),
+              const QString &detail = {});
 
 /// A warning with one OK button.
 void warning(QWidget *parent, const Error &error, const QString &title);

@@ -1,5 +1,6 @@
 #include "wizard/frame/PlannedPage.h"
 
+#include <QAbstractButton>
 #include <QLabel>
 #include <QVBoxLayout>
 
@@ -20,4 +21,10 @@ PlannedPage::PlannedPage(QWidget *wizard, SharedParameters &parameters, const QS
     text->setAlignment(Qt::AlignLeading | Qt::AlignTop);
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(text);
+}
+
+void PlannedPage::initializePage()
+{
+    BasePage::initializePage();
+    setFocusProxy(wizard()->button(QWizard::BackButton)); // all there is to do
 }

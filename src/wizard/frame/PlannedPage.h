@@ -13,5 +13,6 @@ public:
     PlannedPage(QWidget *wizard, SharedParameters &parameters, const QString &installDir,
                 const QString &language, const QString &title, const QString &purpose);
 
+    void initializePage() override;
     int nextId() const override { return -1; }
 };

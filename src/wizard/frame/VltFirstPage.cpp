@@ -11,6 +11,8 @@ VltFirstPage::VltFirstPage(QWidget *wizard)
     m_ui->setupUi(this);
     setTitle(tr("Kind of layer", "MESS_PAGE_LAYER_KIND"));
     setFocusProxy(m_ui->m_pwClAddSite);
+    for (auto *button : findChildren<QCommandLinkButton *>())
+        button->setAccessibleDescription(button->description());
     connect(m_ui->m_pwClAddSite, &QCommandLinkButton::clicked, this, &VltFirstPage::addSiteClicked);
     connect(m_ui->m_pwClAddLink, &QCommandLinkButton::clicked, this, &VltFirstPage::addLinkClicked);
     connect(m_ui->m_pwClAddTexb, &QCommandLinkButton::clicked, this, &VltFirstPage::addTexbClicked);

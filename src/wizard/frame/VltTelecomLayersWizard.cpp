@@ -135,8 +135,21 @@ void VltTelecomLayersWizard::setNextIdOfSecondPage(int id)
 }
 
 /// Puts the keyboard where the page wants it: its focus proxy.
+/// A page that needs more room than the ones before makes the window grow to the right.
+void VltTelecomLayersWizard::keepOnScreen()
+{
+    const QRect available = screen()->availableGeometry();
+    const QRect frame = frameGeometry();
+    const int beyondRight = qMax(0, frame.right() - available.right());
+    const int beyondBottom = qMax(0, frame.bottom() - available.bottom());
+    if (isVisible() && beyondRight + beyondBottom > 0)
+        move(qMax(available.left(), pos().x() - beyondRight),
+             qMax(available.top(), pos().y() - beyondBottom));
+}
+
 void VltTelecomLayersWizard::focusPage()
 {
+    keepOnScreen();
     if (currentPage() != nullptr && currentPage()->focusProxy() != nullptr)
         currentPage()->setFocus(Qt::TabFocusReason); // this reason makes the focus visible
 }

@@ -53,6 +53,7 @@ private:
     void addPages();
     void addPageAs(LogicalPage logical, QWizardPage *page);
     void addPlannedPages();
+    void keepOnScreen();
     void focusPage();
 
     std::array<int, 8> m_pageIds = {};

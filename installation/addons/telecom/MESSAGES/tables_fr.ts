@@ -9,11 +9,11 @@
     </message>
     <message id="MESS_TAB_NOT_LOCAL">
         <source>tables are read from local files only</source>
-        <translation>seules les tables qui se trouvent dans des fichiers locaux sont lues</translation>
+        <translation>seuls les tableaux qui se trouvent dans des fichiers locaux sont lus</translation>
     </message>
     <message id="MESS_TAB_READ_ONLY">
         <source>tables of sites are not written</source>
-        <translation>les tables de sites ne peuvent pas être modifiées</translation>
+        <translation>les tableaux de sites ne peuvent pas être modifiés</translation>
     </message>
     <message id="MESS_TAB_NO_READER">
         <source>no driver for it was found</source>
@@ -65,11 +65,11 @@
     </message>
     <message id="MESS_TAB_PDF">
         <source>this is a PDF document, not a table</source>
-        <translation>c'est un document PDF, pas une table</translation>
+        <translation>c'est un document PDF, pas un tableau</translation>
     </message>
     <message id="MESS_TAB_JSON">
         <source>this looks like JSON, not like a table</source>
-        <translation>cela ressemble à du JSON, pas à une table</translation>
+        <translation>cela ressemble à du JSON, pas à un tableau</translation>
     </message>
     <message id="MESS_TAB_SYLK">
         <source>this is a SYLK file: save it as .xlsx or .csv</source>
@@ -105,7 +105,7 @@
     </message>
     <message id="MESS_TAB_DOCUMENT_TYPE">
         <source>the XML file declares a document type, which tables do not need and attacks do</source>
-        <translation>le fichier XML déclare un type de document&#xa0;: les tables n'en ont pas besoin, les attaques si</translation>
+        <translation>le fichier XML déclare un type de document&#xa0;: les tableaux n'en ont pas besoin, les attaques si</translation>
     </message>
     <message id="MESS_TAB_PASSWORD">
         <source>the workbook is protected by a password</source>
@@ -205,7 +205,7 @@
     </message>
     <message id="MESS_TAB_TABLE_OF_ONE_COLUMN">
         <source>the table has only one column</source>
-        <translation>la table n'a qu'une colonne</translation>
+        <translation>le tableau n'a qu'une colonne</translation>
     </message>
     <message id="MESS_TAB_NO_HEADER">
         <source>no header was found: none of the first rows names its columns</source>

@@ -322,10 +322,6 @@ Coordinates are _C_ and are specified in _U_</translation>
         <source>.xls, .xlsx, .xml or .csv table</source>
         <translation>.xls, .xlsx, .xml or .csv table</translation>
     </message>
-    <message id="MESS_BROWSE">
-        <source>Browse...</source>
-        <translation>Browse...</translation>
-    </message>
     <message id="MESS_SELECT_SITE_FILE">
         <source>Select the site file to use</source>
         <translation>Select the site file to use</translation>
@@ -453,6 +449,10 @@ to add the site layer
         <source>sites placed: %1 of %2</source>
         <translation>sites placed: %1 of %2</translation>
     </message>
+    <message id="MESS_NO_SITE_PLACED">
+        <source>no site can be placed</source>
+        <translation>no site can be placed</translation>
+    </message>
     <message id="MESS_PROBLEM_COUNT">
         <source>problems: %1</source>
         <translation>problems: %1</translation>
@@ -463,6 +463,10 @@ to add the site layer
     <message id="MESS_COPY_LAYER">
         <source>&amp;Copy the layer file</source>
         <translation>&amp;Copy the layer file</translation>
+    </message>
+    <message id="MESS_COPIED">
+        <source>Copied</source>
+        <translation>Copied</translation>
     </message>
     <message id="MESS_SAVE_LAYER_AS">
         <source>&amp;Save the layer file as...</source>

@@ -156,7 +156,7 @@ Les coordonnées sont _C_ et exprimées en _U_</translation>
     <message id="MESS_CLI_NO_NAME_FIELD">
         <source>the table has no such column: its sites have no name in the layer</source>
         <extracomment>Follows the name of the column.</extracomment>
-        <translation>la table n'a pas cette colonne&#xa0;: ses sites n'ont pas de nom dans la couche</translation>
+        <translation>le tableau n'a pas cette colonne&#xa0;: ses sites n'ont pas de nom dans la couche</translation>
     </message>
     <message id="MESS_CLI_NO_SRS">
         <source>no coordinate system is known: give --source-srs and --target-srs</source>
@@ -322,10 +322,6 @@ Les coordonnées sont _C_ et exprimées en _U_</translation>
         <source>.xls, .xlsx, .xml or .csv table</source>
         <translation>tableau .xls, .xlsx, .xml ou .csv</translation>
     </message>
-    <message id="MESS_BROWSE">
-        <source>Browse...</source>
-        <translation>Parcourir...</translation>
-    </message>
     <message id="MESS_SELECT_SITE_FILE">
         <source>Select the site file to use</source>
         <translation>Choisir le fichier de sites à utiliser</translation>
@@ -453,6 +449,10 @@ pour ajouter la couche de sites
         <source>sites placed: %1 of %2</source>
         <translation>sites placés&#xa0;: %1 sur %2</translation>
     </message>
+    <message id="MESS_NO_SITE_PLACED">
+        <source>no site can be placed</source>
+        <translation>aucun site ne peut être placé</translation>
+    </message>
     <message id="MESS_PROBLEM_COUNT">
         <source>problems: %1</source>
         <translation>problèmes&#xa0;: %1</translation>
@@ -463,6 +463,10 @@ pour ajouter la couche de sites
     <message id="MESS_COPY_LAYER">
         <source>&amp;Copy the layer file</source>
         <translation>&amp;Copier le fichier de couche</translation>
+    </message>
+    <message id="MESS_COPIED">
+        <source>Copied</source>
+        <translation>Copié</translation>
     </message>
     <message id="MESS_SAVE_LAYER_AS">
         <source>&amp;Save the layer file as...</source>

@@ -92,7 +92,7 @@ Buildings can be colored or textured with images (ortho-images, coverage plots, 
         <source>The project file into which the layer goes; it can also be dropped on this page</source>
         <translation>The project file into which the layer goes; it can also be dropped on this page</translation>
     </message>
-    <message id="MESS_BROWSE_PROJECT">
+    <message id="MESS_BROWSE">
         <source>&amp;Browse...</source>
         <translation>&amp;Browse...</translation>
     </message>

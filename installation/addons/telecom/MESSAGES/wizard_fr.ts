@@ -62,11 +62,11 @@ Les bâtiments peuvent être colorés ou texturés avec des images (orthophotos,
     <name>Project page</name>
     <message id="MESS_PAGE_PROJECT">
         <source>Target project</source>
-        <translation>Projet de destination</translation>
+        <translation>Projet cible</translation>
     </message>
     <message id="MESS_SEL_PRJ_AD_GEN_LAY">
         <source>Select a project in which it will be loaded the generated layer</source>
-        <translation>Sélectionnez le projet dans lequel la couche générée sera chargée</translation>
+        <translation>Choisissez le projet dans lequel la couche générée sera chargée</translation>
     </message>
     <message id="MESS_RECENT_PRJS">
         <source>Recent projects</source>
@@ -74,7 +74,7 @@ Les bâtiments peuvent être colorés ou texturés avec des images (orthophotos,
     </message>
     <message id="MESS_TIP_RECENT_PRJS">
         <source>Select a project; a double click or Enter goes on with it</source>
-        <translation>Sélectionnez un projet&#xa0;; un double-clic ou la touche Entrée poursuit avec celui-ci</translation>
+        <translation>Choisissez un projet&#xa0;; un double-clic ou la touche Entrée poursuit avec celui-ci</translation>
     </message>
     <message id="MESS_NO_RECENT_PRJS">
         <source>There are no recent projects. Choose a project file below, or drop one here.</source>
@@ -92,7 +92,7 @@ Les bâtiments peuvent être colorés ou texturés avec des images (orthophotos,
         <source>The project file into which the layer goes; it can also be dropped on this page</source>
         <translation>Le fichier de projet qui recevra la couche&#xa0;; il peut aussi être déposé sur cette page</translation>
     </message>
-    <message id="MESS_BROWSE_PROJECT">
+    <message id="MESS_BROWSE">
         <source>&amp;Browse...</source>
         <translation>Parco&amp;urir...</translation>
     </message>
@@ -102,7 +102,7 @@ Les bâtiments peuvent être colorés ou texturés avec des images (orthophotos,
     </message>
     <message id="MESS_SEL_NOM_PROJ_USE">
         <source>Select name of Veltaro project to be used</source>
-        <translation>Sélectionnez le nom du projet Veltaro à utiliser</translation>
+        <translation>Choisir le projet Veltaro à utiliser</translation>
     </message>
     <message id="MESS_PROJET_VLT">
         <source>Veltaro project</source>
