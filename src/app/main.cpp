@@ -6,6 +6,7 @@
 #include "app/ToolkitTexts.h"
 #include "language/VltLanguageManager.h"
 #include "resources/Resources.h"
+#include "wizard/base/BusyWait.h"
 #include "wizard/frame/VltTelecomLayersWizard.h"
 
 #include <QApplication>
@@ -15,6 +16,7 @@
 
 #include <clocale>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 
 namespace {
@@ -89,6 +91,10 @@ int main(int argc, char **argv)
     app::registerGeodataDrivers();
 
     const int result = runWizard(installDir);
+    if (wizard::isWorkRunning()) { // a read that the user gave up; it would be torn apart below
+        std::fflush(nullptr);
+        std::_Exit(result);
+    }
     for (const QString &line : app::listOpenDatasets())
         qDebug().noquote() << line;
     return result;

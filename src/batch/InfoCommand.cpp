@@ -26,7 +26,6 @@ ExitStatus report(const QString &table, const GlobalOptions &options,
         return refuse({info.file.error->key, info.file.error->text, table}, info.file.errorDetail);
 
     const QString connection = QStringLiteral("site:") + info.file.filePath;
-    info.columns = sites::recogniseSiteColumns(connection, QString());
     const Result<geodata::SiteCheck> check = geodata::readSiteCheck(connection, {});
     if (!check)
         return refuse({check.error().key, check.error().text, table});

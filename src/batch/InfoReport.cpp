@@ -134,7 +134,7 @@ QString problemText(const Problem &problem)
 QString reportText(const InfoReport &report)
 {
     return aligned(fileLines(report.file)) + QLatin1Char('\n') + report.file.description +
-           QStringLiteral("\n\n") + aligned(columnLines(report.columns)) + QLatin1Char('\n') +
+           QStringLiteral("\n\n") + aligned(columnLines(report.file.columns)) + QLatin1Char('\n') +
            problemsText(report.problems);
 }
 
@@ -151,7 +151,7 @@ QString reportJson(const InfoReport &report)
                              {QStringLiteral("sourceSrs"), file.systems.source},
                              {QStringLiteral("targetSrs"), file.systems.target},
                              {QStringLiteral("description"), file.description},
-                             {QStringLiteral("columns"), columnsJson(report.columns)},
+                             {QStringLiteral("columns"), columnsJson(report.file.columns)},
                              {QStringLiteral("problemCount"), report.problems.count},
                              {QStringLiteral("problems"), problemsJson(report.problems)}};
     return QString::fromUtf8(QJsonDocument(object).toJson());

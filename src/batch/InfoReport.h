@@ -1,7 +1,6 @@
 #pragma once
 
 #include "geodata/LayerProblems.h"
-#include "sites/SiteColumnSet.h"
 #include "sites/SiteFileInfo.h"
 
 namespace vlt::batch {
@@ -10,7 +9,6 @@ namespace vlt::batch {
 struct InfoReport
 {
     sites::SiteFileInfo file;
-    sites::SiteColumnSet columns;
     geodata::LayerProblems problems;
 };
 

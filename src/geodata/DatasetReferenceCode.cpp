@@ -3,6 +3,7 @@
 #include "geodata/EpsgIdentification.h"
 #include "geodata/ErrorCollector.h"
 #include "geodata/LocalFormats.h"
+#include "geodata/NoNetwork.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -34,6 +35,7 @@ Result<QString> datasetReferenceCode(const QString &path)
         return noVectorSystem;
 
     const ErrorCollector quiet;
+    const NoNetwork offline;
     const QByteArray name = QFile::encodeName(absolute);
     const GDALDatasetUniquePtr raster(
         GDALDataset::Open(name.constData(), GDAL_OF_RASTER, localRasterFormats()));

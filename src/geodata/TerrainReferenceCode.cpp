@@ -3,6 +3,7 @@
 #include "geodata/EpsgIdentification.h"
 #include "geodata/ErrorCollector.h"
 #include "geodata/LocalFormats.h"
+#include "geodata/NoNetwork.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -19,6 +20,7 @@ QString terrainReferenceCode(const QString &rasterPath)
         return {};
 
     const ErrorCollector quiet;
+    const NoNetwork offline;
     const GDALDatasetUniquePtr dataset(GDALDataset::Open(QFile::encodeName(path).constData(),
                                                          GDAL_OF_RASTER, localRasterFormats()));
     const OGRSpatialReference *declared = dataset ? dataset->GetSpatialRef() : nullptr;

@@ -110,6 +110,7 @@ SiteFileInfo readSiteFileInfo(const QString &path, const ProjectContext &project
     info.epsg = layer.metadata.value(QStringLiteral("epsg"));
     info.description = describeSiteFile(info.format, info.unit);
     info.systems = chooseSystems(knownSystems(info, project));
+    info.columns = recogniseSiteColumns(layer.fields);
     info.nameField = siteNameField(info.format);
     // as the geodata library looks fields up
     info.hasNameField = layer.fields.contains(info.nameField, Qt::CaseInsensitive);

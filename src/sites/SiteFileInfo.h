@@ -2,6 +2,7 @@
 
 #include "platform/Result.h"
 #include "sites/ProjectContext.h"
+#include "sites/SiteColumnSet.h"
 #include "sites/SiteSystems.h"
 
 #include <optional>
@@ -17,6 +18,7 @@ struct SiteFileInfo
     QString layerName;
     QString nameField;         ///< column whose value names a site
     bool hasNameField = false; ///< whether the table has it, in any case of letters
+    SiteColumnSet columns;     ///< those that were recognised
     QString description;       ///< translated text for the file label; empty unless valid
     QString format;            ///< which tool exported the file, as the file says
     QString unit;              ///< "METERS", "DMS", else decimal degrees

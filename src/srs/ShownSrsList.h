@@ -17,6 +17,9 @@ public:
     /// Puts an entry in front of the one at `index`, 0 .. count().
     void insert(int index, const SrsEntry &entry) { entries().insert(index, entry); }
 
+    /// Puts an entry in place of the one at `index`, 0 .. count() - 1.
+    void replace(int index, const SrsEntry &entry) { entries()[index] = entry; }
+
     /// Row taken as chosen; -1 for none. It may be a row of the chooser that holds no system.
     int currentIndex() const { return m_currentIndex; }
     void setCurrentIndex(int index) { m_currentIndex = index; }

@@ -1,4 +1,5 @@
 #include "app/GeodataLibrary.h"
+#include "geodata/DatasetReferenceCode.h"
 #include "geodata/LayerProblems.h"
 #include "geodata/TerrainReferenceCode.h"
 
@@ -89,6 +90,11 @@ private Q_SLOTS:
               QStringLiteral("MEM:::DATAPOINTER=1,PIXELS=1,LINES=1"), described, dir.path(),
               QString()})
             QCOMPARE(terrainReferenceCode(name), QString());
+        const QString linking = dir.filePath(QStringLiteral("linking.geojson"));
+        writeFile(linking, "{\"type\":\"FeatureCollection\",\"crs\":{\"type\":\"link\","
+                           "\"properties\":{\"href\":\"" +
+                               url.toUtf8() + "\",\"type\":\"ogcwkt\"}},\"features\":[]}");
+        static_cast<void>(vlt::geodata::datasetReferenceCode(linking)); // whatever it makes of it
         QVERIFY(!server.waitForNewConnection(100));
     }
 

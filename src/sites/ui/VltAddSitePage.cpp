@@ -164,6 +164,9 @@ void VltAddSitePage::openSites()
 
 void VltAddSitePage::readSiteFileInfo(const QString &path, bool quiet)
 {
+    if (m_isReading) // a box of this very read took the focus out of the line
+        return;
+    m_isReading = true;
     m_pathRead = path;
     const auto read = vlt::wizard::waitForValue<SiteFileInfo>(
         this, tr("Reading the site file...", "MESS_READING_SITES"),
@@ -176,13 +179,15 @@ void VltAddSitePage::readSiteFileInfo(const QString &path, bool quiet)
         vlt::messages::critical(this, *m_file.error, vlt::messages::errorTitle(),
                                 refusalDetail(path, m_file.errorDetail));
     createLayerFile();
+    m_isReading = false;
 }
 
 void VltAddSitePage::showFile(const SiteFileInfo &file)
 {
     // a refused drop leaves the path of the line as it was: the reason names its file itself
-    m_ui->m_pwLblReason->setText(QFileInfo(m_pathRead).fileName() + QStringLiteral(": ") +
-                                 vlt::sites::tableText(file.errorDetail));
+    m_ui->m_pwLblReason->setText(
+        tr("%1: %2", "MESS_FILE_REASON")
+            .arg(QFileInfo(m_pathRead).fileName(), vlt::sites::tableText(file.errorDetail)));
     m_ui->m_pwLblReason->setVisible(!file.errorDetail.isEmpty());
     if (!file.valid) {
         m_pwDragIcon->setLayerFile({});

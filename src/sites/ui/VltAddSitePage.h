@@ -65,6 +65,7 @@ private:
     QString m_siteFileDir;
     QString m_pathRead; ///< what readSiteFileInfo() was last given
     bool m_isActive = false;
+    bool m_isReading = false;
     bool m_isCreating = false;
     bool m_createAgain = false;
     bool m_missingPageTold = false;

@@ -86,6 +86,8 @@ void VltSiteDetails::buildHeading()
     m_pwLblWarning->setAccessibleName(tr("Problems", "MESS_PROBLEMS"));
     m_pwPrChecking->setRange(0, 100);
     m_pwPrChecking->setFormat(tr("Checking the rows: %p%", "MESS_CHECKING_ROWS"));
+    m_pwPrChecking->setMinimumWidth(fontMetrics().horizontalAdvance(m_pwPrChecking->format()) +
+                                    4 * fontMetrics().averageCharWidth());
     m_pwPrChecking->setAccessibleName(tr("Progress of the check", "MESS_CHECK_PROGRESS"));
     m_pwPbCancel->setAutoDefault(false);
     m_pwPbCancel->setToolTip(tr("Stop checking the rows", "MESS_TIP_STOP_CHECK"));
@@ -140,8 +142,7 @@ void VltSiteDetails::showFile(const vlt::sites::SiteFileInfo &file)
     m_fileProblems.clear();
     if (const auto nameless = vlt::sites::missingNameField(file))
         m_fileProblems << *nameless;
-    showColumns(
-        vlt::sites::recogniseSiteColumns(QStringLiteral("site:") + file.filePath, QString()));
+    showColumns(file.columns);
     endCheck();
     showProblems(m_fileProblems, m_fileProblems.size());
     showSummary({}, !m_fileProblems.isEmpty());

@@ -4,6 +4,7 @@
 #include "platform/Settings.h"
 #include "sites/SiteSystems.h"
 #include "srs/ui/VltSrsChooser.h"
+#include "wizard/base/BusyWait.h"
 #include "wizard/base/Messages.h"
 
 #include <QFileDialog>
@@ -107,11 +108,15 @@ void VltSrsSettings::getTargetEpsgCodeFromDataSource()
         return;
     settings->setValue(LastUsedDir, QFileInfo(path).absolutePath());
 
-    const vlt::Result<QString> code = vlt::geodata::datasetReferenceCode(path);
-    if (!code) {
-        vlt::messages::warning(this, code.error(), tr("Warning", "MESS_ATTENTION"));
+    const auto code = vlt::wizard::waitForValue<vlt::Result<QString>>(
+        this, tr("Reading the coordinate system...", "MESS_READING_SRS"),
+        [path] { return vlt::geodata::datasetReferenceCode(path); });
+    if (!code)
+        return;
+    if (!code->ok()) {
+        vlt::messages::warning(this, code->error(), tr("Warning", "MESS_ATTENTION"));
         return;
     }
-    m_pwTarget->setSrsCode(QStringLiteral("EPSG:%1").arg(code.value()));
+    m_pwTarget->setSrsCode(QStringLiteral("EPSG:%1").arg(code->value()));
     Q_EMIT parameterChanged();
 }

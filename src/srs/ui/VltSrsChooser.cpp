@@ -164,6 +164,8 @@ void VltSrsChooser::slot_resetSrs()
 
 void VltSrsChooser::slot_OnValidateEditedSrs()
 {
+    if (!m_ui->m_pCBSrs->isEditable()) // the combo box knew the text and picked its row already
+        return;
     const QString text = m_ui->m_pCBSrs->currentText();
     if (text.isEmpty())
         return;
@@ -214,7 +216,8 @@ void VltSrsChooser::enterUndefinedState(OnReturn onReturn)
     selectRow(-1);
     SrsComboBox *combo = m_ui->m_pCBSrs;
     combo->setEditable(true);
-    combo->setCompleter(nullptr); // a definition is taken as it was typed
+    combo->lineEdit()->setAcceptDrops(false); // files dropped here belong to the page
+    combo->setCompleter(nullptr);             // a definition is taken as it was typed
     combo->setEditText(tr("Undefined", "MESS_NDEF"));
     combo->lineEdit()->setAccessibleName(combo->accessibleName());
     if (onReturn == OnReturn::Validates) // the line edit may be the one of the last time
@@ -253,6 +256,9 @@ void VltSrsChooser::chooseFromDialog()
     if (row < 0) {
         row = 0;
         insertRow(row, *chosen);
+    } else if (chosen->isUserDefined) { // it may have got another alias in the dialog
+        m_shown.replace(row, *chosen);
+        m_ui->m_pCBSrs->setItemText(row, rowText(*chosen));
     }
     selectRow(row);
     choose(m_shown.at(row));

@@ -26,4 +26,8 @@ std::optional<T> waitForValue(QWidget *parent, const QString &text, const std::f
     return std::move(*value);
 }
 
+/// Whether work goes on that the user cancelled. A program that ends meanwhile must end at once,
+/// without taking down what the work uses.
+bool isWorkRunning();
+
 } // namespace vlt::wizard

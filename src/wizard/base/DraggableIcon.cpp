@@ -9,11 +9,11 @@
 #include <QDrag>
 #include <QFile>
 #include <QFileDialog>
-#include <QFileInfo>
 #include <QGuiApplication>
 #include <QMenu>
 #include <QMimeData>
 #include <QPainter>
+#include <QSettings>
 #include <QToolTip>
 #include <QUrl>
 
@@ -50,13 +50,19 @@ void DraggableIcon::setLayerFile(const QString &path)
     if (!path.isEmpty())
         playAttention();
     else
-        m_attention.stop();
+        endAttention();
 }
 
 void DraggableIcon::setRadius(int radius)
 {
     m_radius = radius;
     update();
+}
+
+void DraggableIcon::endAttention()
+{
+    m_attention.stop();
+    setRadius(0);
 }
 
 void DraggableIcon::playAttention()
@@ -160,15 +166,16 @@ void DraggableIcon::copyToClipboard() const
 
 void DraggableIcon::saveCopy()
 {
-    const auto settings = vlt::platform::wizardSettings();
-    const QString name = tr("layer", "MESS_LAYER_FILE_NAME") + QStringLiteral(".lay");
-    const QString directory = settings->value(QStringLiteral("LastUsedDir")).toString();
-    const QString target = QFileDialog::getSaveFileName(
-        this, tr("Save the layer file as", "MESS_SAVE_LAYER_TITLE"),
-        directory.isEmpty() ? name : directory + QLatin1Char('/') + name,
-        tr("Layer files", "MESS_LAYER_FILES") + QStringLiteral(" (*.lay)"));
-    if (target.isEmpty())
+    const QString directory =
+        vlt::platform::wizardSettings()->value(QStringLiteral("LastUsedDir")).toString();
+    QFileDialog dialog(this, tr("Save the layer file as", "MESS_SAVE_LAYER_TITLE"), directory,
+                       tr("Layer files", "MESS_LAYER_FILES") + QStringLiteral(" (*.lay)"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(QStringLiteral("lay"));
+    dialog.selectFile(tr("layer", "MESS_LAYER_FILE_NAME") + QStringLiteral(".lay"));
+    if (dialog.exec() != QDialog::Accepted)
         return;
+    const QString target = dialog.selectedFiles().constFirst();
     QFile layer(m_layerFile);
     const bool saved =
         layer.open(QIODevice::ReadOnly) &&

@@ -43,6 +43,7 @@ private:
     void saveCopy();
     void openMenu(const QPoint &position);
     void playAttention();
+    void endAttention();
 
     QString m_layerFile;
     QPropertyAnimation m_attention;

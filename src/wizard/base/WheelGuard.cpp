@@ -41,6 +41,6 @@ void guardAgainstStrayWheel(QWidget *panel)
     guard<QAbstractSpinBox>(panel, filter);
     guard<QComboBox>(panel, filter);
     guard<QSlider>(panel, filter);
-} // NOLINT(clang-analyzer-cplusplus.NewDeleteLeaks): the panel owns it
+}
 
 } // namespace vlt::wizard

@@ -134,7 +134,6 @@ void VltTelecomLayersWizard::setNextIdOfSecondPage(int id)
     second->selectFirstProject();
 }
 
-/// Puts the keyboard where the page wants it: its focus proxy.
 /// A page that needs more room than the ones before makes the window grow to the right.
 void VltTelecomLayersWizard::keepOnScreen()
 {
@@ -147,6 +146,7 @@ void VltTelecomLayersWizard::keepOnScreen()
              qMax(available.top(), pos().y() - beyondBottom));
 }
 
+/// Puts the keyboard where the page wants it: its focus proxy.
 void VltTelecomLayersWizard::focusPage()
 {
     keepOnScreen();

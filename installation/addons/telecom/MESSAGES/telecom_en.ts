@@ -334,6 +334,15 @@ Coordinates are _C_ and are specified in _U_</translation>
         <source>Reading the site file...</source>
         <translation>Reading the site file...</translation>
     </message>
+    <message id="MESS_FILE_REASON">
+        <source>%1: %2</source>
+        <extracomment>File name and why it was refused.</extracomment>
+        <translation>%1: %2</translation>
+    </message>
+    <message id="MESS_READING_SRS">
+        <source>Reading the coordinate system...</source>
+        <translation>Reading the coordinate system...</translation>
+    </message>
     <message id="MESS_NO_SITE_DEFINED">
         <source>No sites file defined.
 Select the sites file to display.</source>

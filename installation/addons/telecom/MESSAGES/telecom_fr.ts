@@ -334,6 +334,15 @@ Les coordonnées sont _C_ et exprimées en _U_</translation>
         <source>Reading the site file...</source>
         <translation>Lecture du fichier de sites...</translation>
     </message>
+    <message id="MESS_FILE_REASON">
+        <source>%1: %2</source>
+        <extracomment>File name and why it was refused.</extracomment>
+        <translation>%1&#xa0;: %2</translation>
+    </message>
+    <message id="MESS_READING_SRS">
+        <source>Reading the coordinate system...</source>
+        <translation>Lecture du système de coordonnées...</translation>
+    </message>
     <message id="MESS_NO_SITE_DEFINED">
         <source>No sites file defined.
 Select the sites file to display.</source>

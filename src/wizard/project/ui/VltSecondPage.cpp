@@ -7,6 +7,7 @@
 #include "platform/Settings.h"
 #include "wizard/base/Messages.h"
 #include "wizard/project/RecentProjects.h"
+#include "wizard/project/ui/PlainToolTips.h"
 
 #include <QFileDialog>
 #include <QKeyEvent>
@@ -34,6 +35,7 @@ VltSecondPage::VltSecondPage(QWidget *wizard, SharedParameters &parameters,
     m_ui->setupUi(this);
     setTitle(tr("Target project", "MESS_PAGE_PROJECT"));
     setDropHighlightWidgets({m_ui->label, m_ui->m_pwLbProjectName});
+    m_ui->m_pwLwRecentProjects->setItemDelegate(new PlainToolTips(this));
     fillRecentProjects();
     connectWidgets();
     registerField(QStringLiteral("ProjectName*"), m_ui->m_pwLeProjectName);
@@ -50,6 +52,7 @@ void VltSecondPage::fillRecentProjects()
         auto *item =
             new QListWidgetItem(icon, project::projectCaption(path), m_ui->m_pwLwRecentProjects);
         item->setToolTip(path);
+        item->setData(Qt::AccessibleDescriptionRole, path);
     }
     m_ui->m_pwLwRecentProjects->setVisible(!paths.isEmpty());
     m_ui->m_pwLblNoRecentProjects->setVisible(paths.isEmpty());
