@@ -6,7 +6,8 @@ source tools/prepare.sh
 
 usage="usage: ./run.sh [--layers]
 Installs what is missing, builds, lays the installation tree in build/install and opens the wizard on the sample
-project. With --layers, or where there is no display, it makes the sample project's site layers with vltlayers instead.
+project. With --layers, or where there is no display, it makes the sample project's site layers and pictures of them
+with vltlayers instead.
 A second run takes seconds."
 
 onlyLayers=
@@ -22,7 +23,9 @@ install=$PWD/build/install
 samples=$install/examples/lorient
 log=$PWD/build/run.log
 
-prepare "${buildPackages[@]}"
+packages=("${buildPackages[@]}")
+[[ -n ${DISPLAY:-} ]] || packages+=(xvfb xauth)
+prepare "${packages[@]}"
 mkdir -p build
 echo "Building (log: $log) ..."
 { cmake --preset release && cmake --build --preset release --target programs && cmake --install build/release --prefix "$install"; } \
@@ -33,14 +36,21 @@ mkdir -p build/xdg/VELTARO
 printf '[General]\nINSTALL_DIR=%s\n' "$install" >build/xdg/VELTARO/Veltaro.conf
 export XDG_CONFIG_DIRS=$PWD/build/xdg:${XDG_CONFIG_DIRS:-/etc/xdg}
 
+# Pictures are drawn by OpenGL, which wants a display, be it one that nobody sees.
+onDisplay() {
+    if [[ -n ${DISPLAY:-} ]]; then "$@"; else xvfb-run -a -s "-screen 0 1280x960x24 +extension GLX" "$@"; fi
+}
+
 makeLayers() {
-    local layers=$PWD/build/layers table
+    local layers=$PWD/build/layers table name
     mkdir -p "$layers"
     "$install/vltlayers" info "$samples/sites.csv" --project "$samples/city.gvw"
     echo
     for table in sites.csv sites_asset.xlsx sites_atoll.csv sites_mentum.xls; do
-        "$install/vltlayers" site "$samples/$table" --project "$samples/city.gvw" -o "$layers/${table%.*}.lay" --quiet
-        echo "Layer made: $layers/${table%.*}.lay"
+        name=$layers/${table%.*}
+        "$install/vltlayers" site "$samples/$table" --project "$samples/city.gvw" -o "$name.lay" --quiet
+        onDisplay "$install/vltlayers" snapshot "$name.lay" --project "$samples/city.gvw" -o "$name.png" --quiet
+        echo "Layer made: $name.lay, picture: $name.png"
     done
     echo
     echo "Installation tree: $install    Try: $install/vltlayers --help"

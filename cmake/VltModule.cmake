@@ -74,6 +74,19 @@ function(vlt_add_program name)
   install(TARGETS ${name} RUNTIME DESTINATION .)
 endfunction()
 
+# Under the sanitizers: libraries stay loaded, so that leaks in them have names.
+function(vlt_need_loaded_libraries)
+  if(NOT TARGET vlt_keep_loaded)
+    file(WRITE ${PROJECT_BINARY_DIR}/keep_loaded.cpp "extern \"C\" int dlclose(void *) { return 0; }\n")
+    add_library(vlt_keep_loaded SHARED ${PROJECT_BINARY_DIR}/keep_loaded.cpp)
+    set_target_properties(vlt_keep_loaded PROPERTIES AUTOMOC OFF AUTOUIC OFF)
+    execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=libasan.so
+                    OUTPUT_VARIABLE runtime OUTPUT_STRIP_TRAILING_WHITESPACE)
+    file(REAL_PATH ${runtime} runtime)
+    set(VLT_ASAN_RUNTIME ${runtime} CACHE INTERNAL "")
+  endif()
+endfunction()
+
 # Tests run under a German locale (decimal comma) and with settings in a private directory.
 function(vlt_add_test file)
   cmake_parse_arguments(T "GUI" "TIMEOUT" "LIBS;ENV;DEPENDS" ${ARGN})
@@ -90,7 +103,13 @@ function(vlt_add_test file)
   set(platform offscreen)
   if(T_GUI AND VLT_XVFB_RUN)
     set(platform xcb)
-    add_test(NAME ${name} COMMAND ${VLT_XVFB_RUN} -a -s "-screen 0 1366x768x24 +extension GLX" $<TARGET_FILE:${name}>)
+    set(preload "")
+    if(VLT_SANITIZE) # the graphics driver goes before the leak check could name what it keeps
+      vlt_need_loaded_libraries()
+      set(preload env "LD_PRELOAD=${VLT_ASAN_RUNTIME}:$<TARGET_FILE:vlt_keep_loaded>")
+    endif()
+    add_test(NAME ${name} COMMAND ${VLT_XVFB_RUN} -a -s "-screen 0 1366x768x24 +extension GLX" ${preload}
+                                  $<TARGET_FILE:${name}>)
   else()
     add_test(NAME ${name} COMMAND ${name})
   endif()

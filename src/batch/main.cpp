@@ -2,6 +2,7 @@
 #include "batch/Help.h"
 #include "batch/InfoCommand.h"
 #include "batch/SiteCommand.h"
+#include "batch/SnapshotCommand.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -14,12 +15,14 @@ using namespace vlt::batch;
 using vlt::Result;
 
 const QString Commands = QStringLiteral("\nCommands:\n"
-                                        "  info TABLE             what a site table holds\n"
-                                        "  site TABLE -o OUT.lay  make a site layer of it\n"
+                                        "  info TABLE                  what a site table holds\n"
+                                        "  site TABLE -o OUT.lay       make a site layer of it\n"
+                                        "  snapshot LAYER -o OUT.png   make a picture of a layer\n"
                                         "'vltlayers COMMAND --help' tells the options of one.\n"
                                         "\nExamples:\n"
                                         "  vltlayers info sites.xlsx\n"
-                                        "  vltlayers site sites.xlsx -o sites.lay\n");
+                                        "  vltlayers site sites.xlsx -o sites.lay\n"
+                                        "  vltlayers snapshot sites.lay -o sites.png\n");
 
 ExitStatus runWithoutCommand(const QStringList &arguments)
 {
@@ -41,6 +44,8 @@ ExitStatus run(const QStringList &arguments)
         return runInfo(split.others);
     if (split.command == QLatin1String("site"))
         return runSite(split.others);
+    if (split.command == QLatin1String("snapshot"))
+        return runSnapshot(split.others);
     if (split.command.isEmpty())
         return runWithoutCommand(split.others);
     return refuseUsage(QStringLiteral("no such command: ") + split.command);

@@ -3,6 +3,7 @@
 #include "gui/DropOnWidget.h"
 #include "gui/FileDialogAnswer.h"
 #include "platform/Settings.h"
+#include "preview/W_simpleOSGViewer.h"
 #include "wizard/base/DraggableIcon.h"
 #include "wizard/base/TemporaryLayerFile.h"
 #include "wizard/frame/VltTelecomLayersWizard.h"
@@ -13,6 +14,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QProcess>
+#include <QSettings>
 #include <QSlider>
 #include <QTableView>
 #include <QTemporaryDir>
@@ -216,6 +218,42 @@ private Q_SLOTS:
         QVERIFY(QFile::remove(layerTemplate));
         QCOMPARE(toldWhenDropped(), u"Error|A configuration file is missing\n"_s + layerTemplate);
         QVERIFY(!flow.icon->isEnabled());
+    }
+
+    void tellsOfAPylonThatCannotBeShownAndMakesTheLayer()
+    {
+        vlt::platform::wizardSettings()->setValue(u"AddSitePage/PylonMenuEntry"_s, 99);
+        WizardOnSitePage flow;
+        AnsweredBoxes boxes;
+
+        dropFiles(flow.page, {Samples + u"/sites.csv"_s});
+
+        QCOMPARE(boxes.seen.size(), 1);
+        QCOMPARE(boxes.seen.constFirst().title, u"Error"_s);
+        QCOMPARE(boxes.seen.constFirst().text, u"The pylon url didn't return a valid node !"_s);
+        QVERIFY(flow.icon->isEnabled());
+    }
+
+    void showsThePylonOrTheSitesOfTheLayer()
+    {
+        WizardOnSitePage flow;
+        dropFiles(flow.page, {Samples + u"/sites.csv"_s});
+        auto *viewer = flow.widget<W_simpleOSGViewer>(u"m_pwViewer"_s);
+        const osg::Node *pylon = viewer->getSceneData();
+        QVERIFY(pylon);
+
+        flow.widget<QAbstractButton>(u"m_pwPbOwnSites"_s)->click();
+        const osg::Node *sites = viewer->getSceneData();
+        QVERIFY(sites != pylon);
+        QVERIFY(sites->getBound().radius() > 1000); // the town's sites lie kilometres apart
+
+        flow.widget<QAbstractButton>(u"m_pwPbPrecise"_s)->click();
+        QCOMPARE(viewer->getSceneData(), pylon);
+        osg::Vec3d eye;
+        osg::Vec3d center;
+        osg::Vec3d up;
+        viewer->getCameraManipulator()->getInverseMatrix().getLookAt(eye, center, up, 50);
+        QVERIFY(qAbs((eye - osg::Vec3d(0, 0, 13)).length() - 50) < 0.01);
     }
 
     void showsColumnsAndProblemsByRow()

@@ -6,12 +6,14 @@
 #include "sites/ui/VltSiteDetails.h"
 #include "sites/ui/VltSiteProperties.h"
 #include "sites/ui/VltSrsSettings.h"
+#include "snapshot/SceneSource.h"
 #include "ui_AddSitePage.h"
 #include "wizard/base/BusyWait.h"
 #include "wizard/base/DraggableIcon.h"
 #include "wizard/base/Messages.h"
 #include "wizard/base/TemporaryLayerFile.h"
 
+#include <QApplication>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QKeyEvent>
@@ -26,6 +28,7 @@ namespace {
 const QString SettingsPrefix = QStringLiteral("AddSitePage");
 const QString SiteFileKey = QStringLiteral("AddSitePage/SiteFile");
 const QString LastUsedDirKey = QStringLiteral("LastUsedDir");
+constexpr int OwnSitesDelayMs = 400;
 
 /// The file and why it was refused, as two lines.
 QString refusalDetail(const QString &path, const QString &reason)
@@ -60,7 +63,9 @@ void VltAddSitePage::createPanels()
     m_panelProperties = new VltSiteProperties(installDir(), language(), m_ui->m_pwInput);
     m_ui->m_ptVbProperties->addWidget(m_panelProperties);
 
-    m_pwDragIcon = new DraggableIcon(QPixmap(QStringLiteral(":/images/drag-drop-icon.png")), this);
+    constexpr QSize DragIconSize(72, 72);
+    const QIcon dragIcon(QStringLiteral(":/images/drag-drop-icon.png"));
+    m_pwDragIcon = new DraggableIcon(dragIcon.pixmap(DragIconSize, qApp->devicePixelRatio()), this);
     m_pwDragIcon->setObjectName(QStringLiteral("m_pwDragIcon"));
     m_pwDragIcon->setAccessibleName(tr("Site layer to drag into the builder", "MESS_DRAG_NAME"));
     m_pwDragIcon->setToolTip(tr("Drag the layer file into the builder; Ctrl+C copies it, Ctrl+S "
@@ -68,6 +73,10 @@ void VltAddSitePage::createPanels()
                                 "MESS_TIP_DRAG"));
     m_ui->m_ptHbDrag->addWidget(m_pwDragIcon);
     setDropHighlightWidgets({m_ui->m_pwLblSite});
+
+    vlt::snapshot::addReaderDirectory(installDir() + QStringLiteral("/driver"));
+    for (QPushButton *button : {m_ui->m_pwPbSymbolic, m_ui->m_pwPbPrecise, m_ui->m_pwPbOwnSites})
+        button->setEnabled(m_ui->m_pwPreview->hasView());
 }
 
 void VltAddSitePage::connectWidgets()
@@ -81,6 +90,12 @@ void VltAddSitePage::connectWidgets()
     connect(m_panelSrs, &VltSrsSettings::parameterChanged, this, &VltAddSitePage::updatePreview);
     connect(m_panelProperties, &VltSiteProperties::parameterChanged, this,
             &VltAddSitePage::updatePreview);
+    connect(m_ui->m_pwPbSymbolic, &QPushButton::clicked, this, &VltAddSitePage::previewSymbolic);
+    connect(m_ui->m_pwPbPrecise, &QPushButton::clicked, this, &VltAddSitePage::previewPrecise);
+    connect(m_ui->m_pwPbOwnSites, &QPushButton::clicked, this, &VltAddSitePage::chooseScene);
+    connect(&m_ownSitesTimer, &QTimer::timeout, this, &VltAddSitePage::refreshOwnSites);
+    m_ownSitesTimer.setSingleShot(true);
+    m_ownSitesTimer.setInterval(OwnSitesDelayMs);
     m_ui->m_pwLeSite->installEventFilter(this);
 }
 
@@ -220,11 +235,88 @@ void VltAddSitePage::createLayerFile()
     while (m_createAgain) {
         m_createAgain = false;
         m_pwDragIcon->setLayerFile({});
-        if (m_isActive && m_file.valid)
+        if (m_isActive && m_file.valid) {
+            showPylon();
             writeLayerFile();
+        }
     }
     m_ui->m_pwLblDragText->setEnabled(m_pwDragIcon->isEnabled());
     m_isCreating = false;
+}
+
+/// Loads the demonstration pylon; the first one is shown from where the whole of it is seen.
+void VltAddSitePage::showPylon()
+{
+    if (!m_ui->m_pwPreview->hasView())
+        return;
+    const auto scene =
+        vlt::snapshot::readScene(m_panelProperties->buildPreviewPylonUrl(QStringLiteral("site")));
+    if (!scene) {
+        vlt::messages::critical(
+            this, {{}, QStringLiteral("The pylon url didn't return a valid node !"), {}});
+        return;
+    }
+    m_pylon = scene.value();
+    if (!m_ui->m_pwPbOwnSites->isChecked())
+        m_ui->m_pwPreview->showScene(m_pylon);
+}
+
+bool VltAddSitePage::showOwnSites()
+{
+    const QString layer = m_pwDragIcon->layerFile();
+    if (layer.isEmpty())
+        return false;
+    const QString project = m_project.projectPath;
+    const auto read = vlt::wizard::waitForValue<vlt::Result<osg::ref_ptr<osg::Node>>>(
+        this, tr("Loading the sites...", "MESS_LOADING_SITES"),
+        [layer, project] { return vlt::snapshot::readScene(layer, project); });
+    if (read && read->ok()) {
+        m_ui->m_pwPreview->showScene(read->value());
+        return true;
+    }
+    if (read)
+        vlt::messages::critical(this,
+                                {QStringLiteral("MESS_CANT_SHOW_LAYER"),
+                                 QStringLiteral("The layer cannot be shown"), layer},
+                                vlt::messages::errorTitle(), read->error().text);
+    return false;
+}
+
+/// After a change: the layer is another one, the camera stays where the user put it.
+void VltAddSitePage::refreshOwnSites()
+{
+    if (!m_ui->m_pwPbOwnSites->isChecked())
+        return;
+    if (m_isReading || m_isCreating) // a box is open
+        m_ownSitesTimer.start();
+    else if (!m_pwDragIcon->layerFile().isEmpty() && !showOwnSites())
+        chooseScene(false);
+}
+
+/// Own sites or the demonstration pylon, whose place the camera of the buttons is made for.
+void VltAddSitePage::chooseScene(bool ownSites)
+{
+    const bool isShown = ownSites && showOwnSites();
+    m_ui->m_pwPbOwnSites->setChecked(isShown);
+    if (!isShown && m_pylon)
+        m_ui->m_pwPreview->showScene(m_pylon);
+    m_ui->m_pwPreview->centerView();
+}
+
+void VltAddSitePage::previewSymbolic()
+{
+    constexpr double BeyondPrecise = 500;
+    chooseScene(false);
+    m_ui->m_pwPreview->placeCamera(
+        m_panelProperties->representation().realisticDistance + BeyondPrecise, 0);
+}
+
+void VltAddSitePage::previewPrecise()
+{
+    constexpr double NearDistance = 50;
+    constexpr double LookedAtHeight = 13;
+    chooseScene(false);
+    m_ui->m_pwPreview->placeCamera(NearDistance, LookedAtHeight);
 }
 
 void VltAddSitePage::writeLayerFile()
@@ -257,5 +349,6 @@ void VltAddSitePage::writeLayerFile()
         return;
     }
     m_pwDragIcon->setLayerFile(path);
+    m_ownSitesTimer.start();
     saveSettings();
 }

@@ -4,6 +4,10 @@
 #include "sites/SiteFileInfo.h"
 #include "wizard/base/BasePage.h"
 
+#include <QTimer>
+
+#include <osg/Node>
+
 #include <memory>
 
 namespace Ui {
@@ -44,6 +48,11 @@ public Q_SLOTS:
     /// Makes the layer again, as after a change of a value.
     void updatePreview();
 
+    /// The demonstration pylon from beyond the distance of the precise representation.
+    void previewSymbolic();
+    /// The demonstration pylon from near.
+    void previewPrecise();
+
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
@@ -53,6 +62,10 @@ private:
     void fitInputWidth();
     void showFile(const vlt::sites::SiteFileInfo &file);
     void createLayerFile();
+    void showPylon();
+    bool showOwnSites();
+    void refreshOwnSites();
+    void chooseScene(bool ownSites);
     void writeLayerFile();
 
     std::unique_ptr<Ui::AddSitePage> m_ui;
@@ -62,6 +75,8 @@ private:
     DraggableIcon *m_pwDragIcon = nullptr;
     vlt::sites::ProjectContext m_project;
     vlt::sites::SiteFileInfo m_file;
+    osg::ref_ptr<osg::Node> m_pylon; ///< the demonstration pylon; null until one could be loaded
+    QTimer m_ownSitesTimer;          ///< gathers quick changes into one load of the layer
     QString m_siteFileDir;
     QString m_pathRead; ///< what readSiteFileInfo() was last given
     bool m_isActive = false;

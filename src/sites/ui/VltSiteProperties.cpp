@@ -1,6 +1,7 @@
 #include "sites/ui/VltSiteProperties.h"
 
 #include "platform/Settings.h"
+#include "sites/PylonQuery.h"
 #include "text/RichText.h"
 #include "ui_SiteProperties.h"
 #include "wizard/base/WheelGuard.h"
@@ -84,6 +85,7 @@ VltSiteProperties::VltSiteProperties(const QString &installDir, const QString &l
     : QWidget(parent)
     , m_ui(std::make_unique<Ui::SiteProperties>())
     , m_catalogues(vlt::sites::loadSiteCatalogues(installDir, language))
+    , m_installDir(installDir)
 {
     m_ui->setupUi(this);
     narrowSpinBoxes();
@@ -172,6 +174,13 @@ void VltSiteProperties::saveSettings(const QString &prefix)
     const SiteRepresentation values = representation();
     for (const Remembered &value : rememberedValues())
         settings->setValue(prefix + QLatin1Char('/') + value.key, value.write(values));
+}
+
+QString VltSiteProperties::buildPreviewPylonUrl(const QString &kind) const
+{
+    if (kind != QLatin1String("site"))
+        return {};
+    return vlt::sites::buildPreviewPylonUrl(representation(), m_catalogues, m_installDir);
 }
 
 SiteRepresentation VltSiteProperties::representation() const

@@ -25,6 +25,12 @@ public:
     virtual void loadSettings(const QString &prefix);
     virtual void saveSettings(const QString &prefix);
 
+    /// The name under which the scene library loads one demonstration site with these values; empty
+    /// where no pylon type or colour set is chosen.
+    ///
+    /// @param kind  "site"
+    QString buildPreviewPylonUrl(const QString &kind) const;
+
     /// The values as they stand; an index is -1 where nothing is chosen.
     vlt::sites::SiteRepresentation representation() const;
     const vlt::sites::SiteCatalogues &catalogues() const { return m_catalogues; }
@@ -43,4 +49,5 @@ private:
 
     std::unique_ptr<Ui::SiteProperties> m_ui;
     vlt::sites::SiteCatalogues m_catalogues;
+    QString m_installDir;
 };

@@ -357,9 +357,33 @@ Select the sites file to display.</translation>
         <source>Preview</source>
         <translation>Preview</translation>
     </message>
-    <message id="MESS_PREVIEW_PLANNED">
-        <source>The pylon will be shown here in 3D. This version does not draw it yet; the layer is complete without it.</source>
-        <translation>The pylon will be shown here in 3D. This version does not draw it yet; the layer is complete without it.</translation>
+    <message id="MESS_TIP_OWN_SITES">
+        <source>Look at the sites of the layer just written</source>
+        <translation>Look at the sites of the layer just written</translation>
+    </message>
+    <message id="MESS_OWN_SITES">
+        <source>Sites of the layer</source>
+        <translation>Sites of the layer</translation>
+    </message>
+    <message id="MESS_LOADING_SITES">
+        <source>Loading the sites...</source>
+        <translation>Loading the sites...</translation>
+    </message>
+    <message id="MESS_CANT_SHOW_LAYER">
+        <source>The layer cannot be shown</source>
+        <translation>The layer cannot be shown</translation>
+    </message>
+    <message id="MESS_3D_PREVIEW">
+        <source>3D preview</source>
+        <translation>3D preview</translation>
+    </message>
+    <message id="MESS_TIP_3D_PREVIEW">
+        <source>Drag to turn, middle button to move, wheel to come nearer; arrow keys, + and -, Home for the whole scene</source>
+        <translation>Drag to turn, middle button to move, wheel to come nearer; arrow keys, + and -, Home for the whole scene</translation>
+    </message>
+    <message id="MESS_NO_3D_VIEW">
+        <source>No 3D view is available on this system. The layer is complete without it.</source>
+        <translation>No 3D view is available on this system. The layer is complete without it.</translation>
     </message>
     <message id="MESS_TIP_SYMBOLIC">
         <source>Look at the symbolic representation, from afar</source>

@@ -357,9 +357,33 @@ Choisissez le fichier de sites à afficher.</translation>
         <source>Preview</source>
         <translation>Aperçu</translation>
     </message>
-    <message id="MESS_PREVIEW_PLANNED">
-        <source>The pylon will be shown here in 3D. This version does not draw it yet; the layer is complete without it.</source>
-        <translation>Le pylône sera montré ici en 3D. Cette version ne le dessine pas encore&#xa0;; la couche est complète sans lui.</translation>
+    <message id="MESS_TIP_OWN_SITES">
+        <source>Look at the sites of the layer just written</source>
+        <translation>Voir les sites de la couche qui vient d'être écrite</translation>
+    </message>
+    <message id="MESS_OWN_SITES">
+        <source>Sites of the layer</source>
+        <translation>Sites de la couche</translation>
+    </message>
+    <message id="MESS_LOADING_SITES">
+        <source>Loading the sites...</source>
+        <translation>Chargement des sites...</translation>
+    </message>
+    <message id="MESS_CANT_SHOW_LAYER">
+        <source>The layer cannot be shown</source>
+        <translation>La couche ne peut pas être affichée</translation>
+    </message>
+    <message id="MESS_3D_PREVIEW">
+        <source>3D preview</source>
+        <translation>Aperçu 3D</translation>
+    </message>
+    <message id="MESS_TIP_3D_PREVIEW">
+        <source>Drag to turn, middle button to move, wheel to come nearer; arrow keys, + and -, Home for the whole scene</source>
+        <translation>Faites glisser pour tourner, bouton du milieu pour déplacer, molette pour approcher&#xa0;; flèches, + et -, Origine pour toute la scène</translation>
+    </message>
+    <message id="MESS_NO_3D_VIEW">
+        <source>No 3D view is available on this system. The layer is complete without it.</source>
+        <translation>Aucune vue 3D n'est disponible sur ce système. La couche est complète sans elle.</translation>
     </message>
     <message id="MESS_TIP_SYMBOLIC">
         <source>Look at the symbolic representation, from afar</source>

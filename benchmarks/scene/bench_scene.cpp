@@ -1,0 +1,151 @@
+// Loads a layer through the scene library's loader, turns around it off screen and prints what that
+// took, as "name value" lines.
+#include <osg/ComputeBoundsVisitor>
+#include <osg/GraphicsContext>
+#include <osgDB/ReadFile>
+#include <osgDB/WriteFile>
+#include <osgViewer/Viewer>
+
+#include <sys/resource.h>
+
+#include <algorithm>
+#include <charconv>
+#include <chrono>
+#include <cmath>
+#include <cstdio>
+#include <cstring>
+#include <string>
+#include <vector>
+
+namespace {
+
+constexpr int Width = 1280;
+constexpr int Height = 800;
+constexpr int Frames = 72; ///< of one turn
+
+using Clock = std::chrono::steady_clock;
+
+double millisecondsSince(Clock::time_point start)
+{
+    return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
+}
+
+/// Highest resident memory until now.
+double peakMegabytes()
+{
+    rusage usage = {};
+    getrusage(RUSAGE_SELF, &usage);
+    return static_cast<double>(usage.ru_maxrss) * 1024 / 1e6;
+}
+
+bool openPicture(osgViewer::Viewer &viewer)
+{
+    osg::ref_ptr<osg::GraphicsContext::Traits> traits = new osg::GraphicsContext::Traits;
+    traits->readDISPLAY();
+    traits->width = Width;
+    traits->height = Height;
+    traits->pbuffer = true;
+    const osg::ref_ptr<osg::GraphicsContext> context =
+        osg::GraphicsContext::createGraphicsContext(traits);
+    if (!context)
+        return false;
+    osg::Camera &camera = *viewer.getCamera();
+    camera.setGraphicsContext(context);
+    camera.setViewport(0, 0, Width, Height);
+    camera.setProjectionMatrixAsPerspective(30, static_cast<double>(Width) / Height, 1, 10000);
+    viewer.setThreadingModel(osgViewer::Viewer::SingleThreaded);
+    viewer.realize();
+    return true;
+}
+
+struct View
+{
+    const char *name;
+    osg::Vec3d centre;
+    double distanceM;
+    double riseDeg; ///< of the eye above the horizon
+};
+
+void look(osgViewer::Viewer &viewer, const View &view, double turnDeg)
+{
+    const double turn = osg::DegreesToRadians(turnDeg);
+    const double rise = osg::DegreesToRadians(view.riseDeg);
+    const osg::Vec3d away(std::cos(rise) * std::sin(turn), -std::cos(rise) * std::cos(turn),
+                          std::sin(rise));
+    viewer.getCamera()->setViewMatrixAsLookAt(view.centre + away * view.distanceM, view.centre,
+                                              osg::Z_AXIS);
+}
+
+/// Waits until the picture is drawn: the renderer works on after a frame has been handed over.
+double frameMilliseconds(osgViewer::Viewer &viewer)
+{
+    const Clock::time_point start = Clock::now();
+    viewer.frame();
+    osg::GraphicsContext &context = *viewer.getCamera()->getGraphicsContext();
+    context.makeCurrent();
+    glFinish();
+    context.releaseContext();
+    return millisecondsSince(start);
+}
+
+void savePicture(osgViewer::Viewer &viewer, const std::string &file)
+{
+    osg::ref_ptr<osg::Image> image = new osg::Image;
+    osg::GraphicsContext &context = *viewer.getCamera()->getGraphicsContext();
+    context.makeCurrent();
+    image->readPixels(0, 0, Width, Height, GL_RGB, GL_UNSIGNED_BYTE);
+    context.releaseContext();
+    osgDB::writeImageFile(*image, file);
+}
+
+void measure(osgViewer::Viewer &viewer, const View &view, const std::string &pictures)
+{
+    look(viewer, view, 0);
+    std::printf("%s_first_ms %.1f\n", view.name, frameMilliseconds(viewer));
+    std::vector<double> times;
+    for (int turn : {0, 1}) { // what comes into sight for the first time counts in the first turn
+        times.clear();
+        for (int i = 0; i < Frames; ++i) {
+            look(viewer, view, 360.0 * i / Frames);
+            times.push_back(frameMilliseconds(viewer));
+        }
+        std::sort(times.begin(), times.end());
+        if (turn == 0)
+            std::printf("%s_worst_ms %.1f\n", view.name, times.back());
+    }
+    std::printf("%s_frame_ms %.2f\n", view.name, times[times.size() / 2]);
+    if (!pictures.empty())
+        savePicture(viewer, pictures + view.name + ".png");
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    if (argc < 2 || argc > 3) {
+        std::fputs("usage: bench_scene FILE.lay [PICTURES-PREFIX]\n", stderr);
+        return 2;
+    }
+    const std::string pictures = argc > 2 ? argv[2] : "";
+    osgViewer::Viewer viewer;
+    if (!openPicture(viewer)) {
+        std::fputs("no off-screen context: is there an X server?\n", stderr);
+        return 1;
+    }
+    const double before = peakMegabytes();
+    const Clock::time_point start = Clock::now();
+    const osg::ref_ptr<osg::Node> scene = osgDB::readRefNodeFile(argv[1]);
+    if (!scene)
+        return 1;
+    std::printf("load_ms %.1f\n", millisecondsSince(start));
+    std::printf("load_mb %.1f\n", peakMegabytes() - before);
+    viewer.setSceneData(scene);
+
+    const osg::BoundingSphere bound = scene->getBound();
+    const osg::Vec3d ground(0, 0, bound.center().z());
+    measure(viewer, {"all", bound.center(), 3.5 * bound.radius(), 30}, pictures);
+    measure(viewer, {"region", ground, 8000, 25}, pictures);
+    measure(viewer, {"near", ground, 900, 15}, pictures);
+    std::printf("peak_mb %.1f\n", peakMegabytes());
+    return 0;
+}

@@ -1,0 +1,164 @@
+#include "layers/SiteLayerFile.h"
+
+#include "layers/BadLayer.h"
+
+#include <array>
+#include <filesystem>
+#include <fstream>
+#include <utility>
+
+namespace vlt::scene {
+
+namespace {
+
+constexpr std::string_view Root = "<veltaroLayer";
+constexpr std::string_view Blanks = " \t\r\n";
+constexpr std::string_view SectionStart = "<![CDATA[";
+constexpr std::string_view SectionEnd = "]]>";
+constexpr auto None = std::string_view::npos;
+
+std::string_view trimmed(std::string_view text)
+{
+    const std::size_t begin = text.find_first_not_of(Blanks);
+    if (begin == None)
+        return {};
+    return text.substr(begin, text.find_last_not_of(Blanks) + 1 - begin);
+}
+
+/// Takes the five escapes out; any other "&" is one that nobody escaped.
+std::string unescaped(std::string_view text)
+{
+    using Escape = std::pair<std::string_view, char>;
+    static constexpr std::array<Escape, 5> Escapes = {
+        {{"&amp;", '&'}, {"&lt;", '<'}, {"&gt;", '>'}, {"&quot;", '"'}, {"&apos;", '\''}}};
+    std::string plain;
+    while (!text.empty()) {
+        std::size_t length = 1;
+        char letter = text.front();
+        for (const auto &[escape, meaning] : Escapes) {
+            if (letter == '&' && text.starts_with(escape)) {
+                length = escape.size();
+                letter = meaning;
+                break;
+            }
+        }
+        plain += letter;
+        text.remove_prefix(length);
+    }
+    return plain;
+}
+
+/// The value of an element whose start tag has been read; `rest` moves behind its end tag.
+std::string takeValue(std::string_view &rest, const std::string &name)
+{
+    const std::string endTag = "</" + name;
+    const std::size_t begin = std::min(rest.find_first_not_of(Blanks), rest.size());
+    const bool isSection = rest.substr(begin).starts_with(SectionStart);
+    std::size_t end = rest.find(endTag);
+    std::string value;
+    if (isSection) {
+        const std::string_view inside = rest.substr(begin + SectionStart.size());
+        std::size_t close = inside.find(SectionEnd);
+        while (close != None &&
+               !trimmed(inside.substr(close + SectionEnd.size())).starts_with(endTag))
+            close = inside.find(SectionEnd, close + 1);
+        if (close == None)
+            throw BadLayer("the element " + name + " does not end");
+        value = trimmed(inside.substr(0, close));
+        end = begin + SectionStart.size() + close;
+    } else if (end != None)
+        value = unescaped(trimmed(rest.substr(0, end)));
+    if (end == None)
+        throw BadLayer("the element " + name + " does not end");
+    rest.remove_prefix(std::min(rest.find('>', rest.find(endTag, end)), rest.size()));
+    return value;
+}
+
+std::string attribute(std::string_view tag, std::string_view name)
+{
+    for (const char quote : {'"', '\''}) {
+        const std::string start = ' ' + std::string(name) + '=' + quote;
+        const std::size_t at = tag.find(start);
+        if (at != None) {
+            tag.remove_prefix(at + start.size());
+            return std::string(tag.substr(0, tag.find(quote)));
+        }
+    }
+    return {};
+}
+
+std::string_view withoutComment(std::string_view text)
+{
+    const std::size_t end = text.find("-->");
+    return end == None ? std::string_view() : text.substr(end);
+}
+
+} // namespace
+
+SiteLayerFile parseSiteLayer(std::string_view text)
+{
+    std::string_view rest = text;
+    for (std::size_t at = rest.find('<'); at != None && !rest.substr(at).starts_with(Root);
+         at = rest.find('<')) {
+        rest.remove_prefix(at);
+        rest = rest.starts_with("<!--") ? withoutComment(rest) : rest.substr(1);
+    }
+    const std::size_t root = rest.find(Root);
+    if (root == None)
+        throw BadLayer("there is no element veltaroLayer");
+    rest.remove_prefix(root);
+    const std::string kind = attribute(rest.substr(0, rest.find('>')), "kind");
+    if (kind.empty())
+        throw BadLayer("the kind of the layer is missing");
+    if (kind != "sites")
+        throw BadLayer("layers of the kind \"" + kind + "\" cannot be shown, only \"sites\"");
+
+    SiteLayerFile file;
+    const std::array<std::pair<std::string_view, std::string *>, 4> known = {
+        {{"title", &file.title},
+         {"source", &file.source},
+         {"layer", &file.layer},
+         {"siteField", &file.siteField}}};
+    rest.remove_prefix(Root.size());
+    for (std::size_t at = rest.find('<'); at != None; at = rest.find('<')) {
+        rest.remove_prefix(at + 1);
+        if (rest.starts_with("!--")) {
+            rest = withoutComment(rest);
+            continue;
+        }
+        const std::string name(rest.substr(0, rest.find_first_of("> \t\r\n/")));
+        const std::size_t tagEnd = rest.find('>');
+        if (name.empty() || tagEnd == None || rest[tagEnd - 1] == '/')
+            continue; // an end tag or an empty element
+        rest.remove_prefix(tagEnd + 1);
+        const std::string value = takeValue(rest, name);
+        for (const auto &[element, member] : known) {
+            if (name == element)
+                *member = value;
+        }
+    }
+    if (file.source.empty())
+        throw BadLayer("the element source is missing or empty");
+    return file;
+}
+
+SiteLayerFile readSiteLayerFile(const std::string &path)
+{
+    std::error_code error;
+    if (!std::filesystem::is_regular_file(path, error))
+        throw BadLayer("it is no file");
+    std::ifstream stream(path, std::ios::binary);
+    std::string text(MaxLayerFileSize + 1, '\0');
+    stream.read(text.data(), static_cast<std::streamsize>(text.size()));
+    text.resize(static_cast<std::size_t>(stream.gcount()));
+    if (stream.bad() || (text.empty() && !stream.is_open()))
+        throw BadLayer("it cannot be read");
+    if (text.size() > MaxLayerFileSize)
+        throw BadLayer("it is too large for a layer file");
+    SiteLayerFile file = parseSiteLayer(text);
+    if (file.title.empty())
+        file.title = std::filesystem::path(path).stem().string();
+    return file;
+}
+
+} // namespace vlt::scene

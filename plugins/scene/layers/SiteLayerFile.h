@@ -1,0 +1,31 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace vlt::scene {
+
+/// What a layer file of sites says. Its page of information is of no use to a scene.
+struct SiteLayerFile
+{
+    std::string title;
+    std::string source;    ///< pylon query: where the table is, how pylons and sectors look
+    std::string layer;     ///< layer of the source; empty: the first
+    std::string siteField; ///< field that names a site; empty: the one that is called so
+};
+
+/// Largest layer file that is read, in bytes.
+inline constexpr std::size_t MaxLayerFileSize = 16 << 20;
+
+/// Reads the text of a layer file. Values are taken as they are: in CDATA sections, which may hold
+/// anything but their own end before the closing tag, or as text that may be escaped or not.
+///
+/// @throws BadLayer  no layer file, another kind of layer, no source
+SiteLayerFile parseSiteLayer(std::string_view text);
+
+/// The same for a local file.
+///
+/// @throws BadLayer  also where it cannot be read or is larger than MaxLayerFileSize
+SiteLayerFile readSiteLayerFile(const std::string &path);
+
+} // namespace vlt::scene

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "layers/SiteLayerFile.h"
+#include "layers/SiteStyle.h"
+
+#include <osg/Vec2d>
+#include <osg/Vec3d>
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace vlt::scene {
+
+/// Most sites that a layer shows; further rows are left out.
+inline constexpr std::size_t MaxSites = 1000000;
+
+/// Height of a mast and of an antenna of which nothing is known, metres above ground.
+inline constexpr double UsualMastM = 25;
+inline constexpr double UsualAntennaM = 23;
+
+struct SiteRecord
+{
+    std::string name; ///< UTF-8
+    osg::Vec3d foot;  ///< metres in the local frame
+    std::uint32_t design = 0;
+};
+
+/// The sites of a layer. Equal pylons are one design.
+struct SiteRecords
+{
+    std::vector<SiteRecord> sites;
+    std::vector<PylonDesign> designs;
+    osg::Vec2d centre;        ///< origin of the local frame in the system `srs`
+    std::string srs;          ///< "EPSG:2154", or the system's name; empty: unknown
+    std::size_t unplaced = 0; ///< rows without a position
+    bool isCut = false;       ///< the table holds more than MaxSites
+};
+
+/// Reads all sites of a table.
+///
+/// A mast is a little higher than its highest antenna. A transmitter without height has the usual
+/// one, one without tilt none, one without azimuth radiates all around; one with neither height nor
+/// azimuth does not exist. The ground is at the terrain height, or at 0 where it is unknown.
+///
+/// @param table  with the absolute path of a file
+/// @throws BadLayer  the table cannot be opened, or none of its rows has a position
+SiteRecords readSiteRecords(const connection::ConnectionString &table, const SiteLayerFile &layer,
+                            const SiteStyle &style);
+
+} // namespace vlt::scene

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "connection/ConnectionString.h"
+#include "parametric/PylonObject.h"
+
+#include <vector>
+
+namespace vlt::scene {
+
+/// How the sites of a layer look.
+struct SiteStyle
+{
+    PylonDesign pylon;         ///< without height and transmitters, which each site has of its own
+    std::vector<Color> colors; ///< of the transmitters in turn; at least one
+};
+
+/// Reads the options pylon_type, pylon_width, sector_colors, sector_properties, transmitter_scale
+/// and lods.
+///
+/// @throws BadQuery  naming an option that is missing or a value that cannot be used
+SiteStyle readSiteStyle(const connection::ConnectionString &source);
+
+} // namespace vlt::scene

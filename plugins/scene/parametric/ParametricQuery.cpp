@@ -1,0 +1,143 @@
+#include "parametric/ParametricQuery.h"
+
+#include "parametric/BadQuery.h"
+
+#include <osgDB/FileNameUtils>
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <sstream>
+
+namespace vlt::scene {
+
+namespace {
+
+constexpr std::string_view Start = "inline://parametric/query?";
+constexpr std::string_view PathKey = "data_folder";
+constexpr std::size_t LongestQuote = 60;
+
+/// A value as messages show it: short, without control characters.
+std::string quoted(std::string_view value)
+{
+    std::string text = "\"" + std::string(value.substr(0, LongestQuote));
+    std::replace_if(
+        text.begin(), text.end(), [](unsigned char c) { return c < ' ' || c == 127; }, '?');
+    return text + (value.size() > LongestQuote ? "...\"" : "\"");
+}
+
+std::string decimal(double number)
+{
+    std::ostringstream text;
+    text.imbue(std::locale::classic());
+    text << number;
+    return text.str();
+}
+
+std::string_view withoutExtension(std::string_view text)
+{
+    const std::size_t dot = text.rfind('.');
+    return dot != std::string_view::npos &&
+                   osgDB::equalCaseInsensitive(std::string(text.substr(dot + 1)), "inlinepylonurl")
+               ? text.substr(0, dot)
+               : text;
+}
+
+} // namespace
+
+ParametricQuery::ParametricQuery(std::string_view url, std::initializer_list<std::string_view> keys)
+    : m_text(url)
+{
+    std::string_view rest = withoutExtension(m_text);
+    if (!rest.starts_with(Start))
+        throw BadQuery(quoted(url) + " is not a query \"" + std::string(Start) + "...\"");
+    rest.remove_prefix(Start.size());
+    while (!rest.empty()) {
+        const std::string_view item = rest.substr(0, rest.find('&'));
+        rest.remove_prefix(std::min(item.size() + 1, rest.size()));
+        const std::size_t equals = item.find('=');
+        const std::string_view key = item.substr(0, equals);
+        const bool known = equals != std::string_view::npos &&
+                           std::find(keys.begin(), keys.end(), key) != keys.end();
+        if (known)
+            m_items.emplace_back(key, item.substr(equals + 1));
+        else if (!m_items.empty() && m_items.back().first == PathKey) {
+            const char *begin = m_items.back().second.data();
+            const auto length = static_cast<std::size_t>(item.data() + item.size() - begin);
+            m_items.back().second = std::string_view(begin, length);
+        } else
+            throw BadQuery("the item " + quoted(item) + " is unknown");
+    }
+}
+
+std::string_view ParametricQuery::single(std::string_view key) const
+{
+    const std::vector<std::string_view> values = all(key);
+    if (values.empty())
+        throw BadQuery(std::string(key) + " is missing");
+    if (values.size() > 1)
+        throw BadQuery(std::string(key) + " is given more than once: " + quoted(values[0]) + ", " +
+                       quoted(values[1]));
+    return values.front();
+}
+
+std::vector<std::string_view> ParametricQuery::all(std::string_view key) const
+{
+    std::vector<std::string_view> values;
+    for (const auto &[name, value] : m_items) {
+        if (name == key)
+            values.push_back(value);
+    }
+    return values;
+}
+
+Words::Words(std::string item, std::string_view value) : m_item(std::move(item))
+{
+    while (!value.empty()) {
+        const std::size_t begin = value.find_first_not_of(' ');
+        if (begin == std::string_view::npos)
+            break;
+        value.remove_prefix(begin);
+        m_words.push_back(value.substr(0, value.find(' ')));
+        value.remove_prefix(m_words.back().size());
+    }
+}
+
+void Words::expect(std::size_t count, std::string_view meaning) const
+{
+    if (m_words.size() == count)
+        return;
+    std::string text;
+    for (const std::string_view &word : m_words)
+        text += (text.empty() ? "" : " ") + std::string(word);
+    throw BadQuery(m_item + ": " + quoted(text) + " is not \"" + std::string(meaning) + "\"");
+}
+
+double Words::number(std::string_view name, double least, double most)
+{
+    const std::string_view text = word();
+    std::string_view digits = text;
+    if (digits.starts_with('+') && !digits.starts_with("+-"))
+        digits.remove_prefix(1);
+    double value = 0;
+    const auto [end, fault] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
+    if (fault == std::errc::invalid_argument || end != digits.data() + digits.size() ||
+        (fault == std::errc() && !std::isfinite(value)))
+        refuse(name, text, "is not a number");
+    if (fault != std::errc() || value < least || value > most)
+        refuse(name, text, "is not within " + decimal(least) + " to " + decimal(most));
+    return value;
+}
+
+std::string_view Words::word()
+{
+    return m_next < m_words.size() ? m_words[m_next++] : std::string_view();
+}
+
+void Words::refuse(std::string_view name, std::string_view word, std::string_view why) const
+{
+    throw BadQuery(m_item + ": the " + std::string(name) + " " + quoted(word) + " " +
+                   std::string(why));
+}
+
+} // namespace vlt::scene

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <initializer_list>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace vlt::scene {
+
+/// A query "inline://parametric/query?key=value&key=value.inlinepylonurl" taken apart.
+///
+/// Nothing in it is escaped. The only value that may hold any text is the path "data_folder": it
+/// reaches up to the next known key.
+class ParametricQuery
+{
+public:
+    /// @param keys  the known keys
+    /// @throws BadQuery  another form, an unknown key
+    ParametricQuery(std::string_view url, std::initializer_list<std::string_view> keys);
+
+    /// The value of an item that is there exactly once.
+    /// @throws BadQuery  missing or doubled
+    std::string_view single(std::string_view key) const;
+
+    /// All values of an item that may be repeated, in their order.
+    std::vector<std::string_view> all(std::string_view key) const;
+
+private:
+    std::string m_text;
+    std::vector<std::pair<std::string_view, std::string_view>> m_items;
+};
+
+/// Numbers and other words that stand in one value, with blanks between them.
+class Words
+{
+public:
+    /// @param item  how messages name the value: "transmitter 3"
+    Words(std::string item, std::string_view value);
+
+    /// @throws BadQuery  unless there are so many words
+    void expect(std::size_t count, std::string_view meaning) const;
+
+    /// The next word as a number.
+    ///
+    /// @param name  how messages name it: "azimuth"
+    /// @throws BadQuery  no finite decimal number, or one outside least .. most
+    double number(std::string_view name, double least, double most);
+
+    /// The next word as it is; empty behind the last one.
+    std::string_view word();
+
+    /// Tells that a word cannot be used. @throws BadQuery  always
+    [[noreturn]] void refuse(std::string_view name, std::string_view word,
+                             std::string_view why) const;
+
+private:
+    std::string m_item;
+    std::vector<std::string_view> m_words;
+    std::size_t m_next = 0;
+};
+
+} // namespace vlt::scene

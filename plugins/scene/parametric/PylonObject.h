@@ -1,0 +1,76 @@
+#pragma once
+
+#include "mesh/Mesh.h"
+
+#include <osg/Vec3d>
+
+#include <compare>
+#include <cstddef>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+namespace vlt::scene {
+
+/// The kinds of mast, as the pylon catalogue lists them.
+enum class PylonType {
+    MonopolePanel,
+    MonopoleCylinder,
+    MonopoleSlim,
+    LatticePanel,
+    LatticeCylinder,
+    GuyedPanel,
+    RooftopPanel,
+    RooftopCylinder,
+    WoodPanel,
+    WaterTowerPanel,
+};
+
+/// The type that queries name so ("monopole_panel"); nothing for any other text.
+std::optional<PylonType> pylonTypeNamed(std::string_view name);
+
+/// One transmitter: an antenna in the precise representation, a sector in the symbolic one.
+struct Transmitter
+{
+    double heightM = 0;        ///< centre of the antenna above the foot
+    double azimuthDeg = 0;     ///< 0 is north, clockwise
+    double tiltDeg = 0;        ///< positive: beam below the horizon
+    double beamWidthDeg = 0;   ///< horizontal; 0: UsualBeamWidthDeg
+    double antennaLengthM = 0; ///< before scaling; 0: UsualAntennaLengthM
+    Color color;               ///< of the sector and of the antenna's mark
+
+    // NOLINTNEXTLINE(modernize-use-nullptr): the check mistakes the comparison's own 0
+    std::partial_ordering operator<=>(const Transmitter &) const = default;
+};
+
+inline constexpr double UsualBeamWidthDeg = 65;
+inline constexpr double UsualAntennaLengthM = 2;
+
+/// Everything about a pylon but its place: pylons of equal design share their geometry.
+struct PylonDesign
+{
+    PylonType type = PylonType::MonopolePanel;
+    double heightM = 0; ///< of the mast, without its lightning rod
+    double widthM = 0;  ///< of the whole mast; MastSection.h tells what each type makes of it
+    double sectorRadiusM = 0;
+    double sectorHeightM = 0;         ///< thickness of a sector
+    double sectorSpacingM = 0;        ///< gap between sectors of which one lies above the other
+    double antennaScale = 1;          ///< 0: no antennas
+    double symbolicDistanceM = 10000; ///< the pylon is seen up to here
+    double realisticDistanceM = 1000; ///< the precise representation is seen up to here
+    std::vector<Transmitter> transmitters;
+
+    // NOLINTNEXTLINE(modernize-use-nullptr): the check mistakes the comparison's own 0
+    std::partial_ordering operator<=>(const PylonDesign &) const = default;
+};
+
+/// A pylon at its place: x east, y north, z up, metres.
+struct PylonObject
+{
+    osg::Vec3d foot;
+    PylonDesign design;
+};
+
+inline constexpr std::size_t MaxTransmitters = 1024;
+
+} // namespace vlt::scene

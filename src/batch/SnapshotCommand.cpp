@@ -1,0 +1,227 @@
+#include "batch/SnapshotCommand.h"
+
+#include "batch/Console.h"
+#include "batch/Help.h"
+#include "batch/StartUp.h"
+#include "platform/AtomicFile.h"
+#include "snapshot/SceneNotices.h"
+#include "snapshot/SceneSource.h"
+#include "snapshot/Snapshot.h"
+
+#include <QBuffer>
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QRegularExpression>
+
+#include <optional>
+
+namespace vlt::batch {
+
+namespace {
+
+using snapshot::SceneView;
+
+const QString Examples =
+    QStringLiteral("\nExamples:\n"
+                   "  vltlayers snapshot sites.lay -o sites.png\n"
+                   "  vltlayers snapshot sites.lay --project city.gvw --view symbolic \\\n"
+                   "      --size 1920x1080 -o sectors.png\n"
+                   "  xvfb-run -a vltlayers snapshot sites.lay --view precise -o mast.png\n");
+
+/// What the command line asks for.
+struct Request
+{
+    QString layer;
+    QString output;
+    QString viewName;
+    SceneView view = SceneView::All;
+    QSize size;
+};
+
+void describe(QCommandLineParser &parser)
+{
+    parser.setApplicationDescription(
+        QStringLiteral("Makes a picture (PNG) of a layer or of another scene file.\n"
+                       "It needs an X server; without a screen xvfb-run gives one."));
+    parser.addPositionalArgument(
+        QStringLiteral("LAYER"),
+        QStringLiteral("Layer (.lay), any scene file that the scene library reads, or a "
+                       "parametric object inline://parametric/query?..."),
+        QStringLiteral("snapshot LAYER -o PICTURE.png"));
+    parser.addOptions({
+        {{QStringLiteral("o"), QStringLiteral("output")},
+         QStringLiteral("Picture to write, *.png."),
+         QStringLiteral("PICTURE.png")},
+        {QStringLiteral("size"),
+         QStringLiteral("Width and height in pixels, %1 to %2 each (default 1280x960).")
+             .arg(snapshot::LeastSide)
+             .arg(snapshot::LargestSide),
+         QStringLiteral("WxH"), QStringLiteral("1280x960")},
+        {QStringLiteral("view"),
+         QStringLiteral("all: everything, from the south-west (default); symbolic: the sectors of "
+                        "the site in the middle; precise: its mast and antennas."),
+         QStringLiteral("all|symbolic|precise"), QStringLiteral("all")},
+    });
+    addGlobalOptions(parser);
+}
+
+std::optional<QSize> sizeFrom(const QString &text)
+{
+    static const QRegularExpression form(QStringLiteral("^([0-9]{1,5})x([0-9]{1,5})$"));
+    const QRegularExpressionMatch match = form.match(text);
+    const QSize size(match.captured(1).toInt(), match.captured(2).toInt());
+    const auto fits = [](int side) {
+        return side >= snapshot::LeastSide && side <= snapshot::LargestSide;
+    };
+    if (!match.hasMatch() || !fits(size.width()) || !fits(size.height()))
+        return std::nullopt;
+    return size;
+}
+
+std::optional<SceneView> viewFrom(const QString &name)
+{
+    if (name == QLatin1String("all"))
+        return SceneView::All;
+    if (name == QLatin1String("symbolic"))
+        return SceneView::Symbolic;
+    if (name == QLatin1String("precise"))
+        return SceneView::Precise;
+    return std::nullopt;
+}
+
+Result<Request> readRequest(const QCommandLineParser &parser)
+{
+    Request request;
+    request.layer = parser.positionalArguments().constFirst();
+    request.output = parser.value(QStringLiteral("output"));
+    if (request.output.isEmpty())
+        return Error{{}, QStringLiteral("no output file given (-o PICTURE.png)"), {}};
+    if (!request.output.endsWith(QLatin1String(".png"), Qt::CaseInsensitive))
+        return Error{{}, QStringLiteral("the picture is a PNG: its name has to end in .png"), {}};
+    const std::optional<QSize> size = sizeFrom(parser.value(QStringLiteral("size")));
+    if (!size)
+        return Error{{},
+                     QStringLiteral("--size is WxH, each of %1 to %2 pixels")
+                         .arg(snapshot::LeastSide)
+                         .arg(snapshot::LargestSide),
+                     {}};
+    request.size = *size;
+    request.viewName = parser.value(QStringLiteral("view"));
+    const std::optional<SceneView> view = viewFrom(request.viewName);
+    if (!view)
+        return Error{{}, QStringLiteral("--view is all, symbolic or precise"), {}};
+    request.view = *view;
+    return request;
+}
+
+bool isSameFile(const QString &one, const QString &other)
+{
+    const QString path = QFileInfo(one).canonicalFilePath();
+    return !path.isEmpty() && path == QFileInfo(other).canonicalFilePath();
+}
+
+void tellNotices(const QStringList &notices, const GlobalOptions &options)
+{
+    for (const QString &notice : notices) {
+        if (!options.quiet)
+            printError(oneLine(notice));
+    }
+}
+
+/// What the scene's reader says of it: lines "key=value".
+QJsonObject descriptionOf(const osg::Node &scene)
+{
+    QJsonObject object;
+    for (const std::string &line : scene.getDescriptions()) {
+        const QString text = QString::fromStdString(line);
+        if (const qsizetype sign = text.indexOf(QLatin1Char('=')); sign > 0)
+            object.insert(text.left(sign), text.mid(sign + 1));
+    }
+    return object;
+}
+
+bool tell(const Request &request, const osg::Node &scene)
+{
+    const bool isParametric = snapshot::isParametricName(request.layer);
+    const QJsonObject object{
+        {QStringLiteral("layer"),
+         isParametric ? request.layer : QFileInfo(request.layer).absoluteFilePath()},
+        {QStringLiteral("picture"), QFileInfo(request.output).absoluteFilePath()},
+        {QStringLiteral("width"), request.size.width()},
+        {QStringLiteral("height"), request.size.height()},
+        {QStringLiteral("view"), request.viewName},
+        {QStringLiteral("scene"), descriptionOf(scene)}};
+    return printOut(QString::fromUtf8(QJsonDocument(object).toJson()));
+}
+
+/// The error, with the layer as the file that it is about where it names none.
+ExitStatus refuseLayer(Error error, const Request &request)
+{
+    if (error.path.isEmpty())
+        error.path = request.layer;
+    return refuse(error);
+}
+
+ExitStatus makePicture(const Request &request, const GlobalOptions &options)
+{
+    snapshot::SceneNotices notices;
+    const Result<osg::ref_ptr<osg::Node>> scene =
+        snapshot::readScene(request.layer, options.projectPath);
+    if (!scene) {
+        notices.take(); // the same reason in other words
+        return refuseLayer(scene.error(), request);
+    }
+    tellNotices(notices.take(), options);
+    const Result<QImage> picture =
+        snapshot::renderSnapshot(*scene.value(), request.size, request.view);
+    if (!picture)
+        return refuseLayer(picture.error(), request);
+
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    if (!buffer.open(QIODevice::WriteOnly) || !picture.value().save(&buffer, "PNG"))
+        return refuse({QStringLiteral("MESS_SNAP_NOT_WRITTEN"),
+                       QStringLiteral("the picture cannot be written"), request.output});
+    const Result<Done> written =
+        platform::writeWhole(request.output, bytes, platform::Access::Shared);
+    if (!written)
+        return refuse({QStringLiteral("MESS_SNAP_NOT_WRITTEN"),
+                       QStringLiteral("the picture cannot be written"), request.output},
+                      written.error().text);
+    if (options.json && !tell(request, *scene.value()))
+        return refuse({QString(), QStringLiteral("the output cannot be written"), {}});
+    return ExitStatus::Done;
+}
+
+} // namespace
+
+ExitStatus runSnapshot(const QStringList &arguments)
+{
+    QCommandLineParser parser;
+    describe(parser);
+    const Result<GlobalOptions> options = parseArguments(parser, arguments, 1);
+    const bool isNameless =
+        parser.unknownOptionNames().isEmpty() && parser.positionalArguments().value(0).isEmpty();
+    if (!options && isNameless && parser.errorText().isEmpty())
+        return refuseUsage(QStringLiteral("no layer given"));
+    if (const auto answered = answerHelp(parser, options, Examples))
+        return *answered;
+    const Result<Request> request = readRequest(parser);
+    if (!request)
+        return refuseUsage(request.error().text);
+
+    const Result<Surroundings> surroundings = startUp(options.value());
+    if (!surroundings)
+        return refuse(surroundings.error());
+    for (const QString &input : {request.value().layer, options.value().projectPath}) {
+        if (isSameFile(input, request.value().output))
+            return refuse({QStringLiteral("MESS_CLI_OUTPUT_IS_INPUT"),
+                           QStringLiteral("the output is one of the input files"),
+                           request.value().output});
+    }
+    snapshot::addReaderDirectory(surroundings.value().installDir + QStringLiteral("/driver"));
+    return makePicture(request.value(), options.value());
+}
+
+} // namespace vlt::batch

@@ -1,0 +1,320 @@
+#include "preview/W_simpleOSGViewer.h"
+
+#include "preview/ExtentsVisitor.h"
+#include "preview/VltTrackBall.h"
+
+#include <QGuiApplication>
+#include <QMouseEvent>
+#include <QOffscreenSurface>
+#include <QOpenGLContext>
+
+#include <osg/Transform>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr int RefreshMs = 10;
+constexpr int DepthBits = 24;
+constexpr int SamplesPerPixel = 4;
+constexpr double ClickTolerance = 4; ///< pixels that the mouse may move in a click
+constexpr double FlatShare = 0.2;
+constexpr double FlatElevationDeg = 50;
+constexpr double Margin = 1.15; ///< room around a centred node
+const osg::Vec4 SkyColour(0.2F, 0.4F, 0.8F, 1.0F);
+
+unsigned buttonNumber(Qt::MouseButton button)
+{
+    switch (button) {
+    case Qt::LeftButton:
+        return 1;
+    case Qt::MiddleButton:
+        return 2;
+    case Qt::RightButton:
+        return 3;
+    default:
+        return 0;
+    }
+}
+
+} // namespace
+
+QSurfaceFormat W_simpleOSGViewer::usualFormat()
+{
+    QSurfaceFormat format;
+    format.setVersion(2, 1);
+    format.setProfile(QSurfaceFormat::CompatibilityProfile);
+    format.setDepthBufferSize(DepthBits);
+    format.setSamples(SamplesPerPixel);
+    return format;
+}
+
+bool W_simpleOSGViewer::isAvailable()
+{
+    static const bool available = [] {
+        // these platforms end the program as soon as an OpenGL widget is shown
+        const QString platform = QGuiApplication::platformName();
+        if (platform == QLatin1String("offscreen") ||
+            platform.startsWith(QLatin1String("minimal")) || platform == QLatin1String("vnc"))
+            return false;
+        QOpenGLContext context;
+        context.setFormat(usualFormat());
+        QOffscreenSurface surface;
+        surface.setFormat(usualFormat());
+        surface.create();
+        return context.create() && context.makeCurrent(&surface);
+    }();
+    return available;
+}
+
+W_simpleOSGViewer::W_simpleOSGViewer(const QSurfaceFormat &format, QWidget *parent,
+                                     osg::GraphicsContext *shareContext, Qt::WindowFlags flags)
+    : QOpenGLWidget(parent, flags)
+    , m_trackBall(new VltTrackBall)
+{
+    ref(); // owned by the parent widget: the scene library must never delete it
+    setFormat(format);
+    setThreadingModel(SingleThreaded);
+    setKeyEventSetsDone(0);
+    setCameraManipulator(m_trackBall);
+    getCamera()->setClearColor(SkyColour);
+    makeGraphicsWindow(shareContext);
+    setMouseTracking(true);
+    setFocusPolicy(Qt::StrongFocus);
+    connect(&m_refresh, &QTimer::timeout, this, [this] { QOpenGLWidget::update(); });
+    m_refresh.start(RefreshMs);
+}
+
+W_simpleOSGViewer::~W_simpleOSGViewer()
+{
+    m_refresh.stop();
+    if (QOpenGLContext *current = QOpenGLWidget::context()) {
+        disconnect(current, nullptr, this,
+                   nullptr); // it tells of its end after the viewer's part is gone
+        QOpenGLWidget::makeCurrent();
+        osg::State *state = m_graphicsWindow->getState();
+        if (getSceneData())
+            getSceneData()->releaseGLObjects(state);
+        getCamera()->releaseGLObjects(state);
+        osg::flushAllDeletedGLObjects(state->getContextID());
+        QOpenGLWidget::doneCurrent();
+    }
+    unref_nodelete();
+}
+
+QSize W_simpleOSGViewer::sizeInPixels() const
+{
+    return (QSizeF(QOpenGLWidget::size()) * devicePixelRatioF()).toSize();
+}
+
+void W_simpleOSGViewer::makeGraphicsWindow(osg::GraphicsContext *shareContext)
+{
+    const QSize pixels = sizeInPixels();
+    osg::ref_ptr<osg::GraphicsContext::Traits> traits = new osg::GraphicsContext::Traits;
+    traits->x = 0;
+    traits->y = 0;
+    traits->width = std::max(pixels.width(), 1);
+    traits->height = std::max(pixels.height(), 1);
+    traits->sharedContext = shareContext;
+    m_graphicsWindow = new osgViewer::GraphicsWindowEmbedded(traits);
+    getCamera()->setGraphicsContext(m_graphicsWindow);
+    events().getCurrentEventState()->setGraphicsContext(m_graphicsWindow);
+    applySize(pixels);
+}
+
+void W_simpleOSGViewer::applySize(const QSize &pixels)
+{
+    if (pixels.height() > 0) // it would make the projection infinitely wide
+        m_graphicsWindow->resized(0, 0, pixels.width(), pixels.height());
+    events().windowResize(0, 0, pixels.width(), pixels.height());
+    getCamera()->setViewport(0, 0, pixels.width(), pixels.height());
+    if (pixels.height() == 0)
+        return;
+    double fieldOfView = 0;
+    double aspect = 0;
+    double nearPlane = 0;
+    double farPlane = 0;
+    if (getCamera()->getProjectionMatrixAsPerspective(fieldOfView, aspect, nearPlane, farPlane))
+        getCamera()->setProjectionMatrixAsPerspective(
+            fieldOfView, static_cast<double>(pixels.width()) / pixels.height(), nearPlane,
+            farPlane);
+}
+
+void W_simpleOSGViewer::initializeGL()
+{
+    QOpenGLWidget::initializeGL();
+    // In another window the widget gets another context: what was made in the old one is gone.
+    if (m_wasInitialised) {
+        if (getSceneData())
+            getSceneData()->releaseGLObjects();
+        makeGraphicsWindow(nullptr);
+    }
+    m_wasInitialised = true;
+}
+
+void W_simpleOSGViewer::resizeGL(int width, int height)
+{
+    applySize((QSizeF(width, height) * devicePixelRatioF()).toSize());
+}
+
+void W_simpleOSGViewer::paintGL()
+{
+    m_graphicsWindow->setDefaultFboId(defaultFramebufferObject());
+    frame();
+    const double distance = std::max(m_trackBall->getDistance(), 1.0);
+    m_levelOfDetail = getCamera()->getViewport()->height() / distance;
+}
+
+void W_simpleOSGViewer::showScene(osg::Node *scene)
+{
+    // without an own context the old scene's objects would be kept for good
+    if (osg::Node *old = getSceneData(); old && old != scene && QOpenGLWidget::context()) {
+        QOpenGLWidget::makeCurrent();
+        old->releaseGLObjects(m_graphicsWindow->getState());
+        QOpenGLWidget::doneCurrent();
+    }
+    setSceneData(scene);
+    if (scene && !m_wasShown)
+        centerView();
+    m_wasShown = m_wasShown || scene;
+    QOpenGLWidget::update();
+}
+
+void W_simpleOSGViewer::placeCamera(double distanceM, double heightM)
+{
+    m_isUserCamera = true;
+    m_trackBall->lookAt(osg::Vec3d(0, 0, heightM), distanceM);
+}
+
+void W_simpleOSGViewer::centerView()
+{
+    centerView(getSceneData());
+}
+
+void W_simpleOSGViewer::centerView(osg::Node *node)
+{
+    if (!node)
+        return;
+    ExtentsVisitor visitor;
+    node->accept(visitor);
+    osg::Matrix toScene; // the visitor counted the node's own matrix already
+    if (osg::NodePathList paths = node->getParentalNodePaths(getSceneData()); !paths.empty()) {
+        paths.front().pop_back();
+        toScene = osg::computeLocalToWorld(paths.front());
+    }
+    osg::BoundingBox box;
+    for (unsigned corner = 0; visitor.extents().valid() && corner < 8; ++corner)
+        box.expandBy(visitor.extents().corner(corner) * toScene);
+    if (!box.valid())
+        return;
+    double fieldOfView = 30;
+    double aspect = 1;
+    double nearPlane = 0;
+    double farPlane = 0;
+    getCamera()->getProjectionMatrixAsPerspective(fieldOfView, aspect, nearPlane, farPlane);
+    const double half = osg::DegreesToRadians(fieldOfView) / 2 * std::min(aspect, 1.0);
+    m_isUserCamera = true;
+    // a flat scene, such as the sites of a town, is seen best from higher up
+    const bool isFlat = box.zMax() - box.zMin() < FlatShare * box.radius();
+    m_trackBall->lookAt(box.center(), Margin * box.radius() / std::sin(half),
+                        isFlat ? FlatElevationDeg : VltTrackBall::UsualElevationDeg);
+}
+
+void W_simpleOSGViewer::startDemo()
+{
+    m_trackBall->startDemo();
+}
+
+void W_simpleOSGViewer::stopDemo()
+{
+    m_trackBall->stopDemo();
+}
+
+void W_simpleOSGViewer::mousePressEvent(QMouseEvent *event)
+{
+    m_isUserCamera = false;
+    m_pressedAt = event->position();
+    const QPointF at = inPixels(event->position());
+    events().mouseButtonPress(static_cast<float>(at.x()), static_cast<float>(at.y()),
+                              buttonNumber(event->button()));
+    stopDemo();
+    Q_EMIT emitStopDemo();
+}
+
+void W_simpleOSGViewer::mouseReleaseEvent(QMouseEvent *event)
+{
+    const QPointF at = inPixels(event->position());
+    events().mouseButtonRelease(static_cast<float>(at.x()), static_cast<float>(at.y()),
+                                buttonNumber(event->button()));
+    const bool isClick = (event->position() - m_pressedAt).manhattanLength() <= ClickTolerance;
+    if (isClick && event->button() == Qt::LeftButton)
+        pick(at);
+}
+
+void W_simpleOSGViewer::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    const QPointF at = inPixels(event->position());
+    events().mouseDoubleButtonPress(static_cast<float>(at.x()), static_cast<float>(at.y()),
+                                    buttonNumber(event->button()));
+    stopDemo();
+    Q_EMIT emitStopDemo();
+}
+
+void W_simpleOSGViewer::mouseMoveEvent(QMouseEvent *event)
+{
+    if (event->buttons() == Qt::NoButton) {
+        Q_EMIT emitMouseMoved(event);
+        return;
+    }
+    const QPointF at = inPixels(event->position());
+    events().mouseMotion(static_cast<float>(at.x()), static_cast<float>(at.y()));
+}
+
+void W_simpleOSGViewer::wheelEvent(QWheelEvent *event)
+{
+    m_isUserCamera = false;
+    const QPoint delta = event->angleDelta();
+    events().mouseScroll2D(static_cast<float>(delta.x()), static_cast<float>(delta.y()));
+    event->accept();
+}
+
+/// What the mouse does, for who has none.
+void W_simpleOSGViewer::keyPressEvent(QKeyEvent *event)
+{
+    const double turnStep = osg::PI / 36;
+    constexpr double zoomStep = 1.15;
+    switch (event->key()) {
+    case Qt::Key_Left:
+    case Qt::Key_Right: {
+        const double angle = event->key() == Qt::Key_Left ? turnStep : -turnStep;
+        m_trackBall->setRotation(m_trackBall->getRotation() * osg::Quat(angle, osg::Z_AXIS));
+        break;
+    }
+    case Qt::Key_Plus:
+        m_trackBall->setDistance(m_trackBall->getDistance() / zoomStep);
+        break;
+    case Qt::Key_Minus:
+        m_trackBall->setDistance(m_trackBall->getDistance() * zoomStep);
+        break;
+    case Qt::Key_Home:
+        centerView();
+        break;
+    default:
+        QOpenGLWidget::keyPressEvent(event);
+        return;
+    }
+    stopDemo();
+    m_isUserCamera = false;
+}
+
+void W_simpleOSGViewer::pick(const QPointF &position)
+{
+    // pixels of the viewport count upwards
+    const double y = getCamera()->getViewport()->height() - position.y();
+    osg::ref_ptr<osgUtil::LineSegmentIntersector> line =
+        new osgUtil::LineSegmentIntersector(osgUtil::Intersector::WINDOW, position.x(), y);
+    osgUtil::IntersectionVisitor visitor(line);
+    getCamera()->accept(visitor);
+    Q_EMIT emitSelection(line->getIntersections());
+}

@@ -1,0 +1,99 @@
+#include "snapshot/SceneSource.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <osgDB/FileNameUtils>
+#include <osgDB/ReadFile>
+#include <osgDB/Registry>
+
+namespace vlt::snapshot {
+
+namespace {
+
+using ReadResult = osgDB::ReaderWriter::ReadResult;
+
+/// Key under which the readers find the project's file.
+const std::string ProjectKey = "vlt.project";
+
+/// Keeps readers from following a scene's references out of this computer.
+class LocalFilesOnly : public osgDB::ReadFileCallback
+{
+public:
+    ReadResult openArchive(const std::string &name, osgDB::ReaderWriter::ArchiveStatus status,
+                           unsigned int blockSizeHint, const osgDB::Options *options) override
+    {
+        return isRemote(name)
+                   ? refusal()
+                   : osgDB::ReadFileCallback::openArchive(name, status, blockSizeHint, options);
+    }
+    ReadResult readObject(const std::string &name, const osgDB::Options *options) override
+    {
+        return isRemote(name) ? refusal() : osgDB::ReadFileCallback::readObject(name, options);
+    }
+    ReadResult readImage(const std::string &name, const osgDB::Options *options) override
+    {
+        return isRemote(name) ? refusal() : osgDB::ReadFileCallback::readImage(name, options);
+    }
+    ReadResult readNode(const std::string &name, const osgDB::Options *options) override
+    {
+        return isRemote(name) ? refusal() : osgDB::ReadFileCallback::readNode(name, options);
+    }
+    ReadResult readShader(const std::string &name, const osgDB::Options *options) override
+    {
+        return isRemote(name) ? refusal() : osgDB::ReadFileCallback::readShader(name, options);
+    }
+
+private:
+    static bool isRemote(const std::string &name) { return osgDB::containsServerAddress(name); }
+    static ReadResult refusal() { return {"only local files are read"}; }
+};
+
+Error asError(ReadResult &read, const QString &name)
+{
+    if (read.status() == ReadResult::FILE_NOT_HANDLED || read.message().empty())
+        return {QStringLiteral("MESS_SNAP_UNREADABLE"), QStringLiteral("no scene that can be read"),
+                name};
+    return {{}, QString::fromStdString(read.message()), name};
+}
+
+} // namespace
+
+bool isParametricName(const QString &name)
+{
+    return name.startsWith(QLatin1String("inline://parametric/query?"));
+}
+
+Result<osg::ref_ptr<osg::Node>> readScene(const QString &name, const QString &project)
+{
+    QString source = name;
+    if (!isParametricName(name)) {
+        const QFileInfo file(name);
+        if (name.contains(QLatin1String("://")))
+            return Error{QStringLiteral("MESS_SNAP_NOT_LOCAL"),
+                         QStringLiteral("only local files are read"), name};
+        if (!file.isFile())
+            return Error{QStringLiteral("MESS_SNAP_NO_FILE"), QStringLiteral("no such file"), name};
+        source = file.absoluteFilePath();
+    }
+
+    osgDB::Registry *registry = osgDB::Registry::instance();
+    const osg::ref_ptr<osgDB::Options> options =
+        registry->getOptions() ? registry->getOptions()->cloneOptions() : new osgDB::Options;
+    options->setReadFileCallback(new LocalFilesOnly);
+    if (!project.isEmpty())
+        options->setPluginStringData(
+            ProjectKey, QFile::encodeName(QFileInfo(project).absoluteFilePath()).toStdString());
+    ReadResult read = registry->readNode(QFile::encodeName(source).toStdString(), options.get());
+    if (read.validNode())
+        return osg::ref_ptr<osg::Node>(read.getNode());
+    return asError(read, name);
+}
+
+void addReaderDirectory(const QString &directory)
+{
+    osgDB::Registry::instance()->getLibraryFilePathList().push_front(
+        QFile::encodeName(directory).toStdString());
+}
+
+} // namespace vlt::snapshot

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "platform/Result.h"
+
+#include <QString>
+
+#include <osg/Node>
+
+namespace vlt::snapshot {
+
+/// Loads a scene through the scene library's readers: a regular file of this computer, or a
+/// parametric object "inline://parametric/query?...". Nothing is fetched over a network, neither
+/// the scene nor what it refers to.
+///
+/// @param project  file of the project that the scene belongs to, handed to the readers; may be
+///                 empty
+/// @par Errors     MESS_SNAP_NOT_LOCAL for a name of another kind, MESS_SNAP_NO_FILE; no key: the
+///                 text is the reader's reason.
+Result<osg::ref_ptr<osg::Node>> readScene(const QString &name, const QString &project = {});
+
+/// Whether the name is that of a parametric object.
+bool isParametricName(const QString &name);
+
+/// Puts a directory first among those where the scene library looks for its readers.
+void addReaderDirectory(const QString &directory);
+
+} // namespace vlt::snapshot

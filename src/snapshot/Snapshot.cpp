@@ -1,0 +1,119 @@
+#include "snapshot/Snapshot.h"
+
+#include "snapshot/OffscreenTarget.h"
+#include "snapshot/Studio.h"
+
+#include <osg/FrameBufferObject>
+#include <osgDB/DatabasePager>
+#include <osgViewer/Viewer>
+
+#include <QElapsedTimer>
+
+namespace vlt::snapshot {
+
+namespace {
+
+constexpr double SmallestShownPixels = 0.5;
+constexpr int LongestLoadingMs = 60000;
+
+/// Directs a frame to a place of its own.
+class DrawInto : public osg::Camera::DrawCallback
+{
+public:
+    explicit DrawInto(unsigned int frameBuffer) : m_frameBuffer(frameBuffer) {}
+
+    void operator()(osg::RenderInfo &info) const override
+    {
+        info.getState()->get<osg::GLExtensions>()->glBindFramebuffer(GL_FRAMEBUFFER_EXT,
+                                                                     m_frameBuffer);
+    }
+
+private:
+    unsigned int m_frameBuffer;
+};
+
+osg::ref_ptr<osg::GraphicsContext> makeContext()
+{
+    osg::ref_ptr<osg::GraphicsContext::Traits> traits = new osg::GraphicsContext::Traits;
+    traits->readDISPLAY();
+    // Only the context is needed: the picture has a place of its own.
+    traits->width = 1;
+    traits->height = 1;
+    traits->pbuffer = true;
+    osg::ref_ptr<osg::GraphicsContext> context =
+        osg::GraphicsContext::createGraphicsContext(traits);
+    if (!context || !context->valid() || !context->realize() || !context->makeCurrent())
+        return nullptr;
+    return context;
+}
+
+void setUpCamera(osg::Camera &camera, const ViewPoint &point, const QSize &size)
+{
+    camera.setViewport(0, 0, size.width(), size.height());
+    camera.setProjectionMatrixAsPerspective(
+        point.fieldOfViewDeg, static_cast<double>(size.width()) / size.height(), 1, 1000);
+    camera.setViewMatrixAsLookAt(point.eye, point.target, osg::Z_AXIS);
+    camera.setLODScale(1);
+    camera.setSmallFeatureCullingPixelSize(SmallestShownPixels);
+}
+
+/// Draws until all that this view needs is loaded and drawn.
+void drawAll(osgViewer::Viewer &viewer)
+{
+    QElapsedTimer since;
+    since.start();
+    const osgDB::DatabasePager *pager = viewer.getDatabasePager();
+    do {
+        viewer.frame(0);
+    } while (pager && (pager->getRequestsInProgress() || pager->requiresUpdateSceneGraph()) &&
+             since.elapsed() < LongestLoadingMs);
+    viewer.frame(0); // what the last one has loaded
+}
+
+} // namespace
+
+Result<QImage> renderSnapshot(osg::Node &scene, const QSize &size, SceneView view)
+{
+    const Result<ViewPoint> point =
+        findViewPoint(scene, view, static_cast<double>(size.width()) / size.height());
+    if (!point)
+        return point.error();
+
+    osgViewer::Viewer viewer;
+    const osg::ref_ptr<osg::GraphicsContext> context = makeContext();
+    if (!context)
+        return Error{QStringLiteral("MESS_SNAP_NO_DISPLAY"),
+                     QStringLiteral("no OpenGL display; run under xvfb-run"),
+                     {}};
+    OffscreenTarget target(*context->getState()->get<osg::GLExtensions>());
+    const Error noRoom{QStringLiteral("MESS_SNAP_NO_ROOM"),
+                       QStringLiteral("the display has no room for a picture of this size"),
+                       {}};
+    if (!target.create(size))
+        return noRoom;
+    // what cameras within the scene come back to
+    context->setDefaultFboId(target.frameBuffer());
+    context->releaseContext();
+
+    const osg::ref_ptr<osg::Group> root = new osg::Group;
+    root->addChild(makeSky());
+    root->addChild(underLight(&scene));
+    viewer.setThreadingModel(osgViewer::ViewerBase::SingleThreaded);
+    viewer.setLightingMode(osg::View::NO_LIGHT);
+    viewer.getCamera()->setGraphicsContext(context);
+    viewer.getCamera()->setInitialDrawCallback(new DrawInto(target.frameBuffer()));
+    setUpCamera(*viewer.getCamera(), point.value(), size);
+    viewer.setSceneData(root);
+    viewer.realize();
+    drawAll(viewer);
+
+    context->makeCurrent();
+    QImage picture = target.read();
+    context->releaseContext();
+    root->removeChildren(0, root->getNumChildren());
+    if (picture.isNull())
+        return noRoom;
+    return picture;
+}
+
+} // namespace vlt::snapshot

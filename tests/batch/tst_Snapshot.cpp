@@ -1,0 +1,208 @@
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QSet>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A mast of 30 m with sectors of 200 m around it, near up to 1000 m.
+const QString Pylon =
+    u"inline://parametric/query?object=pylon&pylon_type=monopole_panel&pylon=0 0 0 30 2.5 200 20 2"
+    "&transmitter=28 0 3 65 2 ff0000ff&transmitter=28 120 3 65 2 00ff00ff"
+    "&transmitter=28 240 3 65 2 0000ffff&transmitter_scale=100&lod=10000 1000.inlinepylonurl"_s;
+
+/// A scene that draws nothing.
+const QByteArray EmptyScene = "#Ascii Scene\n#Version 162\n#Generator OpenSceneGraph 3.6.5\n\n"
+                              "osg::Group {\n  UniqueID 1\n}\n";
+
+struct Run
+{
+    int status = -1;
+    QByteArray output;
+    QByteArray errors;
+};
+
+void writeFile(const QString &path, const QByteArray &content)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(content);
+}
+
+QByteArray readFile(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// Pixels of a column that differ from the left edge's of the same row, where only the sky is.
+int drawnPixels(const QImage &picture, int x)
+{
+    int count = 0;
+    for (int y = 0; y < picture.height(); ++y)
+        count += picture.pixel(x, y) != picture.pixel(0, y);
+    return count;
+}
+
+/// Rows from the first to the last with anything on them, as a share of the height.
+double drawnShare(const QImage &picture)
+{
+    int first = picture.height();
+    int last = -1;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 1; x < picture.width(); ++x) {
+            if (picture.pixel(x, y) != picture.pixel(0, y)) {
+                first = qMin(first, y);
+                last = y;
+                break;
+            }
+        }
+    }
+    return static_cast<double>(last - first + 1) / picture.height();
+}
+
+/// Whether much is of the third sector's pure blue; its antenna has but a small mark of it.
+bool showsBlueSector(const QImage &picture)
+{
+    int count = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            const QColor color = picture.pixelColor(x, y);
+            count += color.green() < 40 && color.red() < 40 && color.blue() > 180;
+        }
+    }
+    return count > picture.width() * picture.height() / 100;
+}
+
+} // namespace
+
+class tst_Snapshot : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_dir = std::make_unique<QTemporaryDir>();
+        QVERIFY(QFile::link(QStringLiteral(VLT_DRIVERS), path(u"driver"_s)));
+        writeFile(path(u"empty.osgt"_s), EmptyScene);
+        writeFile(path(u"old.png"_s), "old");
+    }
+
+    void picturesAPylonInEveryView()
+    {
+        QSet<QByteArray> pictures;
+        for (const QString &view : {u"all"_s, u"symbolic"_s, u"precise"_s}) {
+            const QString name = path(view + u".png"_s);
+            const Run run = start(
+                {Pylon, u"-o"_s, name, u"--size"_s, u"321x240"_s, u"--view"_s, view, u"--json"_s});
+
+            QCOMPARE(run.errors, QByteArray());
+            QCOMPARE(run.status, 0);
+            const QJsonObject told = QJsonDocument::fromJson(run.output).object();
+            QCOMPARE(told.value(u"picture"_s).toString(), name);
+            const QImage picture(name);
+            QCOMPARE(picture.size(), QSize(321, 240));
+            // the mast stands in the middle
+            QVERIFY(drawnPixels(picture, 160) > 10);
+            QCOMPARE(showsBlueSector(picture), view == u"symbolic"_s);
+            if (view != u"symbolic"_s)
+                QVERIFY2(drawnShare(picture) > 0.8 && drawnShare(picture) < 1, qPrintable(view));
+            pictures.insert(readFile(name));
+        }
+        QCOMPARE(pictures.size(), 3);
+    }
+
+    void makesTheSamePictureTwice()
+    {
+        const QString again = path(u"again.png"_s);
+        QCOMPARE(start({Pylon, u"-o"_s, path(u"old.png"_s)}).status, 0);
+        QCOMPARE(start({Pylon, u"-o"_s, again}).status, 0);
+
+        QCOMPARE(QImage(again).size(), QSize(1280, 960));
+        QVERIFY(readFile(again) == readFile(path(u"old.png"_s)));
+    }
+
+    void refusesAndLeavesTheOldPicture_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<int>("status");
+        QTest::addColumn<QString>("message");
+        QTest::addColumn<bool>("hasDisplay");
+
+        const auto row = [](const char *name, const QStringList &arguments, int status,
+                            const char *message, bool hasDisplay = true) {
+            QTest::newRow(name) << QStringList{u"-o"_s, u"old.png"_s} + arguments << status
+                                << QString::fromLatin1(message) << hasDisplay;
+        };
+        const auto size = [](const char *text) {
+            return QStringList{Pylon, u"--size"_s, QString::fromLatin1(text)};
+        };
+        row("missing file", {u"no.lay"_s}, 1, "no.lay: no such file");
+        row("folder", {u"driver"_s}, 1, "driver: no such file");
+        row("network", {u"http://localhost/a.osgt"_s}, 1, "only local files");
+        row("other protocol", {u"inline://other/query?a.osgt"_s}, 1, "only local files");
+        row("onto itself", {u"old.png"_s}, 1, "input files");
+        row("empty scene", {u"empty.osgt"_s}, 1, "empty.osgt: the scene is empty");
+        row("scene without sites", {u"empty.osgt"_s, u"--view"_s, u"precise"_s}, 1, "no sites");
+        row("bad query", {Pylon + u"&pylon=1.inlinepylonurl"_s}, 1, "pylon");
+        row("no display", {Pylon}, 1, "run under xvfb-run", false);
+        row("no layer", {}, 2, "no layer");
+        row("unknown view", {Pylon, u"--view"_s, u"top"_s}, 2, "--view");
+        row("too small", size("15x100"), 2, "--size");
+        row("too large", size("100x8193"), 2, "--size");
+        row("overflow", size("4294967396x100"), 2, "--size");
+        row("no height", size("100"), 2, "--size");
+        row("negative", size("-100x100"), 2, "--size");
+        row("other format", {Pylon, u"-o"_s, u"a.jpg"_s}, 2, ".png");
+    }
+
+    void refusesAndLeavesTheOldPicture()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(int, status);
+        QFETCH(QString, message);
+        QFETCH(bool, hasDisplay);
+        const QStringList before = QDir(m_dir->path()).entryList();
+
+        const Run run = start(arguments, hasDisplay);
+
+        QCOMPARE(run.status, status);
+        QVERIFY2(run.errors.contains(message.toUtf8()), run.errors.constData());
+        QCOMPARE(run.output, QByteArray());
+        QCOMPARE(readFile(path(u"old.png"_s)), QByteArray("old"));
+        QCOMPARE(QDir(m_dir->path()).entryList(), before);
+    }
+
+private:
+    QString path(const QString &name) const { return m_dir->filePath(name); }
+
+    Run start(const QStringList &arguments, bool hasDisplay = true) const
+    {
+        QProcess process;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        if (!hasDisplay)
+            environment.insert(u"DISPLAY"_s, u":4711"_s);
+        process.setProcessEnvironment(environment);
+        process.setWorkingDirectory(m_dir->path());
+        process.start(
+            QStringLiteral(VLT_PROGRAM),
+            QStringList{u"snapshot"_s, u"--language"_s, u"en"_s, u"--install"_s, m_dir->path()} +
+                arguments);
+        process.waitForFinished();
+        return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
+                process.readAllStandardOutput(), process.readAllStandardError()};
+    }
+
+    std::unique_ptr<QTemporaryDir> m_dir;
+};
+
+QTEST_GUILESS_MAIN(tst_Snapshot)
+#include "tst_Snapshot.moc"

@@ -1,0 +1,257 @@
+#include "preview/ExtentsVisitor.h"
+#include "preview/VltTrackBall.h"
+#include "preview/W_simpleOSGViewer.h"
+
+#include <QMouseEvent>
+#include <QSignalSpy>
+#include <QTest>
+#include <QVBoxLayout>
+
+#include <osg/Geode>
+#include <osg/MatrixTransform>
+#include <osg/Shape>
+#include <osg/ShapeDrawable>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QColor Sky(51, 102, 204); // 0.2, 0.4, 0.8
+
+/// A white ball of 10 m around a point.
+osg::ref_ptr<osg::Node> ballAt(const osg::Vec3 &center)
+{
+    osg::ref_ptr<osg::Geode> ball = new osg::Geode;
+    ball->addDrawable(new osg::ShapeDrawable(new osg::Sphere(osg::Vec3(), 10)));
+    osg::ref_ptr<osg::MatrixTransform> place =
+        new osg::MatrixTransform(osg::Matrix::translate(center));
+    place->addChild(ball);
+    return place;
+}
+
+/// Keeps what the viewer's event queue hands on.
+class Recorder : public osgGA::GUIEventHandler
+{
+public:
+    bool handle(const osgGA::GUIEventAdapter &event, osgGA::GUIActionAdapter &) override
+    {
+        if (event.getEventType() == osgGA::GUIEventAdapter::PUSH)
+            pushed << event.getButton();
+        if (event.getEventType() == osgGA::GUIEventAdapter::SCROLL)
+            scrolled += event.getScrollingDeltaY();
+        return false;
+    }
+
+    QList<int> pushed;
+    float scrolled = 0;
+};
+
+class OpenViewer : public W_simpleOSGViewer
+{
+public:
+    using W_simpleOSGViewer::resizeGL;
+};
+
+bool isSky(const QImage &picture, const QPoint &at)
+{
+    const QColor color = picture.pixelColor(at);
+    return qAbs(color.red() - Sky.red()) < 3 && qAbs(color.green() - Sky.green()) < 3 &&
+           qAbs(color.blue() - Sky.blue()) < 3;
+}
+
+} // namespace
+
+class TestViewer : public QObject
+{
+    Q_OBJECT
+
+    std::unique_ptr<QWidget> m_window;
+    OpenViewer *m_viewer = nullptr;
+
+    osg::Vec3d eye() const
+    {
+        osg::Vec3d eye;
+        osg::Vec3d center;
+        osg::Vec3d up;
+        m_viewer->getCamera()->getViewMatrixAsLookAt(eye, center, up);
+        return eye;
+    }
+    bool centerIsSky() const
+    {
+        const QImage picture = m_viewer->grabFramebuffer();
+        return isSky(picture, picture.rect().center());
+    }
+    void waitForFrames() { QTest::qWait(150); }
+
+private Q_SLOTS:
+    void init()
+    {
+        m_window = std::make_unique<QWidget>();
+        m_viewer = new OpenViewer;
+        m_viewer->setParent(m_window.get());
+        (new QVBoxLayout(m_window.get()))->addWidget(m_viewer);
+        m_window->resize(300, 200);
+        m_window->show();
+        QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+    }
+    void initTestCase() { qRegisterMetaType<QMouseEvent *>("QMouseEvent*"); }
+    void cleanup() { m_window.reset(); }
+
+    void drawsTheSkyAndThenTheWholeScene()
+    {
+        waitForFrames();
+        QVERIFY(centerIsSky());
+
+        m_viewer->showScene(ballAt({300, 200, 100}));
+        waitForFrames();
+
+        QVERIFY(!centerIsSky());
+        QVERIFY(isSky(m_viewer->grabFramebuffer(), {2, 2}));
+    }
+
+    void drawsAgainInAnotherWindowAndAfterHiding()
+    {
+        m_viewer->showScene(ballAt({}));
+        QWidget other;
+        other.resize(400, 300);
+        (new QVBoxLayout(&other))->addWidget(m_viewer);
+        other.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&other));
+        waitForFrames();
+        QVERIFY(!centerIsSky());
+
+        m_viewer->hide();
+        waitForFrames();
+        m_viewer->show();
+        waitForFrames();
+        QVERIFY(!centerIsSky());
+        QCOMPARE(m_viewer->referenceCount(), 1);
+    }
+
+    void numbersButtonsAndHandsTheWheelOn()
+    {
+        osg::ref_ptr<Recorder> recorder = new Recorder;
+        m_viewer->addEventHandler(recorder);
+        QSignalSpy stops(m_viewer, &W_simpleOSGViewer::emitStopDemo);
+        m_viewer->showScene(ballAt({}));
+        const osg::Matrixd before = m_viewer->getCameraManipulator()->getInverseMatrix();
+
+        for (const auto button : {Qt::LeftButton, Qt::MiddleButton, Qt::RightButton}) {
+            QTest::mousePress(m_viewer, button);
+            QTest::mouseRelease(m_viewer, button);
+        }
+        QWheelEvent wheel({5, 5}, m_viewer->mapToGlobal(QPointF(5, 5)), {}, {0, 120}, Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(m_viewer, &wheel);
+
+        // the scene library's own numbers of its left, middle and right button
+        QTRY_COMPARE(recorder->pushed, QList<int>({1, 2, 4}));
+        QTRY_COMPARE(recorder->scrolled, 120);
+        QVERIFY(m_viewer->getCameraManipulator()->getInverseMatrix() != before); // nearer
+        QCOMPARE(stops.count(), 3);
+    }
+
+    void movesTheCameraOnlyWithAButtonPressed()
+    {
+        m_viewer->showScene(ballAt({}));
+        waitForFrames();
+        const osg::Vec3d before = eye();
+        QSignalSpy moves(m_viewer, &W_simpleOSGViewer::emitMouseMoved);
+
+        QMouseEvent move(QEvent::MouseMove, {100, 50}, m_viewer->mapToGlobal(QPointF(100, 50)),
+                         Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+        QApplication::sendEvent(m_viewer, &move);
+        waitForFrames();
+        QCOMPARE(moves.count(), 1);
+        QCOMPARE((eye() - before).length(), 0);
+
+        QTest::mousePress(m_viewer, Qt::LeftButton, {}, {50, 50});
+        for (int x = 60; x <= 120; x += 10) {
+            QMouseEvent drag(QEvent::MouseMove, QPointF(x, 50),
+                             m_viewer->mapToGlobal(QPointF(x, 50)), Qt::NoButton, Qt::LeftButton,
+                             Qt::NoModifier);
+            QApplication::sendEvent(m_viewer, &drag);
+            waitForFrames();
+        }
+        QVERIFY((eye() - before).length() > 1);
+        QCOMPARE(moves.count(), 1);
+    }
+
+    void turnsUntilAButtonIsPressed()
+    {
+        m_viewer->showScene(ballAt({}));
+        m_viewer->startDemo();
+        waitForFrames();
+        const osg::Vec3d before = eye();
+        waitForFrames();
+        QVERIFY((eye() - before).length() > 0.1);
+        QVERIFY(qAbs(eye().z() - before.z()) < 1e-6);
+
+        QTest::mouseClick(m_viewer, Qt::RightButton);
+        waitForFrames();
+        const osg::Vec3d stopped = eye();
+        waitForFrames();
+        QCOMPARE((eye() - stopped).length(), 0);
+    }
+
+    void tellsWhatAClickMeets()
+    {
+        m_viewer->showScene(ballAt({}));
+        waitForFrames();
+        QList<std::size_t> met;
+        connect(m_viewer, &W_simpleOSGViewer::emitSelection, this,
+                [&met](const auto &intersections) { met << intersections.size(); });
+
+        QTest::mouseClick(m_viewer, Qt::LeftButton, {}, m_viewer->rect().center());
+        QTest::mouseClick(m_viewer, Qt::LeftButton, {}, {3, 3});
+        QTest::mousePress(m_viewer, Qt::LeftButton, {}, m_viewer->rect().center());
+        QTest::mouseRelease(m_viewer, Qt::LeftButton, {}, {3, 3});
+
+        QCOMPARE(met.size(), 2);
+        QVERIFY(met.at(0) > 0);
+        QCOMPARE(met.at(1), 0U);
+    }
+
+    void keepsTheProjectionAtNoHeight()
+    {
+        m_viewer->resizeGL(200, 100);
+        double fieldOfView = 0;
+        double aspect = 0;
+        double nearPlane = 0;
+        double farPlane = 0;
+        const auto projection = [&] {
+            m_viewer->getCamera()->getProjectionMatrixAsPerspective(fieldOfView, aspect, nearPlane,
+                                                                    farPlane);
+            return aspect;
+        };
+        QVERIFY(qAbs(projection() - 2) < 1e-6);
+
+        m_viewer->resizeGL(70, 0);
+
+        QVERIFY(qAbs(projection() - 2) < 1e-6);
+        QCOMPARE(m_viewer->getCamera()->getViewport()->width(), 70);
+    }
+
+    void letsGoOfTheSceneWhenItEnds()
+    {
+        const osg::ref_ptr<osg::Node> scene = ballAt({});
+        m_viewer->showScene(scene);
+        waitForFrames();
+
+        m_window.reset();
+
+        QCOMPARE(scene->referenceCount(), 1);
+    }
+
+    void countsTransformsInExtents()
+    {
+        ExtentsVisitor visitor;
+        ballAt({100, 0, 0})->accept(visitor);
+
+        QVERIFY((visitor.extents().center() - osg::Vec3(100, 0, 0)).length() < 0.01);
+        QVERIFY(qAbs(visitor.extents().xMax() - 110) < 0.01);
+    }
+};
+
+QTEST_MAIN(TestViewer)
+#include "tst_Viewer.moc"

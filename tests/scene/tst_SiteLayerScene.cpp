@@ -1,0 +1,325 @@
+#include "layers/SiteLayerFile.h"
+
+#include <osg/Geometry>
+#include <osg/LOD>
+#include <osg/MatrixTransform>
+#include <osg/NodeVisitor>
+#include <osgDB/ReadFile>
+#include <osgDB/Registry>
+#include <osgText/Text>
+
+#include <QtTest>
+
+#include <cmath>
+#include <map>
+#include <set>
+#include <string>
+
+namespace {
+
+const char *const Look =
+    "pylon_type=monopole_panel,pylon_width=2.5,sector_colors=ff0000ff 00ff00ff,"
+    "sector_properties=200 20 2,transmitter_scale=100,lods=10000 1000,";
+
+const QByteArray Header = "Site ID,X,Y,Transmitter-1 Terrain Height (m),Transmitter-1 height (m),"
+                          "Transmitter-1 Azimuth (\u00b0),Transmitter-2 height (m),"
+                          "Transmitter-2 Azimuth (\u00b0)\n";
+
+QByteArray layerText(const std::string &source, const char *siteField = "Site ID")
+{
+    return "<?xml version=\"1.0\"?>\n<!-- <veltaroLayer kind=\"none\"> -->\n"
+           "<veltaroLayer kind=\"sites\" version=\"1\"><title><![CDATA[A & <B>]]></title>"
+           "<description><![CDATA[<title>[x]</title><source>no</source>]]></description>"
+           "<source><![CDATA[" +
+           QByteArray::fromStdString(source) + "]]></source><siteField>" + siteField +
+           "</siteField></veltaroLayer>";
+}
+
+std::string siteSource(const std::string &table, const std::string &srs = "2154")
+{
+    return "site:s_srs=" + srs + ",t_srs=" + srs + ",data_folder=d," + Look + table;
+}
+
+void write(const QString &path, const QByteArray &content)
+{
+    QVERIFY(QDir().mkpath(QFileInfo(path).path()));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(content), content.size());
+}
+
+struct Opened
+{
+    osg::ref_ptr<osg::Group> scene;
+    std::string fault;
+
+    std::string fact(const std::string &key) const
+    {
+        for (const std::string &line : scene->getDescriptions()) {
+            if (line.starts_with(key + '='))
+                return line.substr(key.size() + 1);
+        }
+        return "absent";
+    }
+};
+
+Opened open(const QString &path, const osgDB::Options *options = nullptr)
+{
+    osgDB::ReaderWriter::ReadResult read =
+        osgDB::Registry::instance()->readNode(path.toStdString(), options);
+    return {read.getNode() ? read.getNode()->asGroup() : nullptr, read.message()};
+}
+
+/// Draws nothing, but goes where the renderer would go, at every distance: this makes what is made
+/// when it is needed.
+struct Everything : osg::NodeVisitor
+{
+    Everything() : osg::NodeVisitor(CULL_VISITOR, TRAVERSE_ALL_CHILDREN) {}
+
+    void apply(osg::LOD &lod) override
+    {
+        for (unsigned i = 0; i < lod.getNumChildren(); ++i)
+            lod.getChild(i)->accept(*this);
+    }
+
+    void apply(osg::MatrixTransform &transform) override
+    {
+        const osg::Vec3d before = place;
+        place += transform.getMatrix().getTrans();
+        if (!transform.getName().empty())
+            feet[transform.getName()] = place;
+        traverse(transform);
+        place = before;
+    }
+
+    void apply(osg::Drawable &drawable) override
+    {
+        if (const auto *text = dynamic_cast<const osgText::Text *>(&drawable)) {
+            labels[text->getName()] = place + text->getPosition();
+            return;
+        }
+        drawables.insert(&drawable);
+    }
+
+    osg::Vec3d place;
+    std::map<std::string, osg::Vec3d> feet;
+    std::map<std::string, osg::Vec3d> labels;
+    std::set<osg::ref_ptr<const osg::Drawable>> drawables;
+};
+
+} // namespace
+
+class SiteLayerSceneTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void placesSitesAroundTheirMiddle_data()
+    {
+        QTest::addColumn<QByteArray>("rows");
+        QTest::addColumn<QByteArray>("srs");
+        QTest::addColumn<double>("east");
+        QTest::addColumn<double>("north");
+        QTest::addColumn<double>("tolerance");
+
+        // The middle of A and B is the origin; east and north are A's way to C.
+        QTest::newRow("metres") << QByteArray("A,650000,6860000,100,30,0,,\nB,651000,6862000,0,30,"
+                                              "0,,\nC,650300,6860400,120,30,0,,\n")
+                                << QByteArray("2154") << 300.0 << 400.0 << 0.001;
+        // US survey feet: 1200/3937 m
+        QTest::newRow("feet") << QByteArray("A,6000000,2000000,100,30,0,,\nB,6010000,2010000,0,30,"
+                                            "0,,\nC,6003937,2003937,120,30,0,,\n")
+                              << QByteArray("2227") << 1200.0 << 1200.0 << 0.001;
+        // WGS 84 at 60 degrees: 0.01 degree of longitude is 558.00 m, of latitude 1114.12 m
+        // (radii of curvature N = 6394209.17 m, M = 6383453.86 m)
+        QTest::newRow("degrees") << QByteArray("A,10,60,100,30,0,,\nB,10.02,60.02,0,30,0,,\n"
+                                               "C,10.01,60.01,120,30,0,,\n")
+                                 << QByteArray("4326") << 558.00 << 1114.12 << 0.25;
+        QTest::newRow("both sides of the date line")
+            << QByteArray("A,179.99,60,100,30,0,,\nB,-179.99,60.02,0,30,0,,\n"
+                          "C,180,60.01,120,30,0,,\n")
+            << QByteArray("4326") << 558.00 << 1114.12 << 0.25;
+    }
+
+    void placesSitesAroundTheirMiddle()
+    {
+        QFETCH(QByteArray, rows);
+        QFETCH(QByteArray, srs);
+        QFETCH(double, east);
+        QFETCH(double, north);
+        QFETCH(double, tolerance);
+        write(path(QStringLiteral("t.csv")), Header + rows + "D,,,,,,,\n");
+        write(path(QStringLiteral("t.lay")), layerText(siteSource("t.csv", srs.toStdString())));
+
+        const Opened opened = open(path(QStringLiteral("t.lay")));
+        QVERIFY2(opened.scene, opened.fault.c_str());
+        Everything found;
+        opened.scene->accept(found);
+
+        const osg::Vec3d way = found.feet["C"] - found.feet["A"];
+        QVERIFY2(std::abs(way.x() - east) <= tolerance, std::to_string(way.x()).c_str());
+        QVERIFY2(std::abs(way.y() - north) <= tolerance, std::to_string(way.y()).c_str());
+        QVERIFY((found.feet["A"] + found.feet["B"] - osg::Vec3d(0, 0, 100)).length() < 1);
+        QCOMPARE(found.feet["C"].z(), 120.0);
+        QCOMPARE(opened.fact("sites"), std::string("3"));
+        QCOMPARE(opened.fact("unplaced"), std::string("1"));
+        QCOMPARE(opened.fact("srs"), "EPSG:" + srs.toStdString());
+        QCOMPARE(opened.scene->getName(), std::string("A & <B>"));
+    }
+
+    void namesStandOverTheirSites()
+    {
+        write(path(QStringLiteral("t.csv")), Header + "Gr\u00e9\u00e9,650000,6860000,50,30,0,,\n"
+                                                      "B,650500,6860000,0,,,,\n");
+        write(path(QStringLiteral("t.lay")), layerText(siteSource("t.csv"), "no such field"));
+
+        Everything found;
+        open(path(QStringLiteral("t.lay"))).scene->accept(found);
+
+        QCOMPARE(found.labels.size(), std::size_t{2});
+        const osg::Vec3d above = found.labels["Gr\u00e9\u00e9"] - found.feet["Gr\u00e9\u00e9"];
+        QVERIFY(std::hypot(above.x(), above.y()) < 0.01);
+        QVERIFY(above.z() > 40 && above.z() < 60); // the sector reaches from 20 to 40
+    }
+
+    /// Sectors of the symbolic representation, by the direction of their tips' far corners.
+    void colorsTransmittersInTurn()
+    {
+        write(path(QStringLiteral("t.csv")), Header + "A,650000,6860000,0,30,90,30,270\n");
+        write(path(QStringLiteral("t.lay")), layerText(siteSource("t.csv")));
+        Everything found;
+        open(path(QStringLiteral("t.lay"))).scene->accept(found);
+
+        std::map<bool, double> reach; // by "is red": farthest x
+        for (const osg::ref_ptr<const osg::Drawable> &drawable : found.drawables) {
+            const auto *points =
+                dynamic_cast<const osg::Vec3Array *>(drawable->asGeometry()->getVertexArray());
+            const auto *colors =
+                dynamic_cast<const osg::Vec4ubArray *>(drawable->asGeometry()->getColorArray());
+            for (unsigned i = 0; colors->size() == points->size() && i < points->size(); ++i) {
+                const osg::Vec4ub color = (*colors)[i];
+                const double x = (*points)[i].x();
+                if (color.b() == 0 && (color.r() == 0) != (color.g() == 0) &&
+                    std::abs(x) > std::abs(reach[color.r() > 0]))
+                    reach[color.r() > 0] = x;
+            }
+        }
+        QVERIFY(std::abs(reach[true] - 200) < 0.01);
+        QVERIFY(std::abs(reach[false] + 200) < 0.01);
+    }
+
+    void sharesEqualPylons()
+    {
+        const auto count = [this](int sites) {
+            QByteArray rows;
+            for (int i = 0; i < sites; ++i)
+                rows += QByteArray("S%1,%2,%3,0,30,0,28,120\n")
+                            .replace("%1", QByteArray::number(i))
+                            .replace("%2", QByteArray::number(650000 + i % 40 * 300))
+                            .replace("%3", QByteArray::number(6860000 + i / 40 * 300));
+            write(path(QStringLiteral("t.csv")), Header + rows);
+            write(path(QStringLiteral("t.lay")), layerText(siteSource("t.csv")));
+            Everything found;
+            open(path(QStringLiteral("t.lay"))).scene->accept(found);
+            return std::pair(found.drawables.size(), found.feet.size());
+        };
+
+        const auto [one, oneFoot] = count(1);
+        const auto [thousand, feet] = count(1000);
+
+        QCOMPARE(oneFoot, std::size_t{1});
+        QCOMPARE(feet, std::size_t{1000});
+        // 16 tiles of 63 sites, each with masts, opaque sectors and dots of its own, and one block
+        QVERIFY2(thousand <= one + std::size_t{16} * 3 + 1, std::to_string(thousand).c_str());
+    }
+
+    void looksForTheTableInOrder()
+    {
+        const auto table = [](int rows) {
+            return Header + QByteArray("A,650000,6860000,0,30,0,,\n").repeated(rows);
+        };
+        const auto sites = [this](const osgDB::Options *options = nullptr) {
+            return open(path(QStringLiteral("layers/t.lay")), options).fact("sites");
+        };
+        write(path(QStringLiteral("layers/t.lay")), layerText(siteSource("tables/a, b.csv")));
+        write(path(QStringLiteral("cwd/tables/a, b.csv")), table(1));
+        const QString before = QDir::currentPath();
+        QVERIFY(QDir::setCurrent(path(QStringLiteral("cwd"))));
+
+        QCOMPARE(sites(), std::string("1"));
+        write(path(QStringLiteral("layers/tables/a, b.csv")), table(2));
+        QCOMPARE(sites(), std::string("2"));
+        write(path(QStringLiteral("p1/tables/a, b.csv")), table(3));
+        qputenv("VLT_CURRENT_PROJECT", path(QStringLiteral("p1/city.gvw")).toLocal8Bit());
+        QCOMPARE(sites(), std::string("3"));
+        write(path(QStringLiteral("p 2/tables/a, b.csv")), table(4));
+        const osg::ref_ptr<osgDB::Options> named =
+            new osgDB::Options("project=" + path(QStringLiteral("p 2/city.gvw")).toStdString());
+        QCOMPARE(sites(named), std::string("4"));
+        const osg::ref_ptr<osgDB::Options> data = new osgDB::Options;
+        data->setPluginStringData("vlt.project",
+                                  path(QStringLiteral("p 2/city.gvw")).toStdString());
+        QCOMPARE(sites(data), std::string("4"));
+
+        qunsetenv("VLT_CURRENT_PROJECT");
+        QVERIFY(QDir::setCurrent(before));
+    }
+
+    void refusesByName_data()
+    {
+        QTest::addColumn<QByteArray>("layer");
+        QTest::addColumn<QByteArray>("named");
+
+        const QByteArray good = layerText(siteSource("t.csv"));
+        const auto changed = [&good](const char *what, const char *with) {
+            return QByteArray(good).replace(what, with);
+        };
+        QTest::newRow("empty") << QByteArray() << QByteArray("veltaroLayer");
+        QTest::newRow("links") << changed("=\"sites\"", "=\"links\"") << QByteArray("\"links\"");
+        QTest::newRow("no kind") << changed("kind=\"sites\"", "") << QByteArray("kind");
+        QTest::newRow("no source") << changed("source", "sauce") << QByteArray("source");
+        QTest::newRow("no end") << good.left(good.indexOf("]]></source")) << QByteArray("source");
+        QTest::newRow("other driver") << changed("site:", "CSV:") << QByteArray("site:");
+        QTest::newRow("no table") << changed("t.csv]", "u.csv]") << QByteArray("u.csv");
+        QTest::newRow("remote") << changed("t.csv]", "/vsicurl/http://h/t.csv]")
+                                << QByteArray("/vsicurl");
+        QTest::newRow("no width") << changed("pylon_width=2.5,", "") << QByteArray("pylon_width");
+        QTest::newRow("endless radius") << changed("200 20 2", "inf 20 2") << QByteArray("radius");
+        QTest::newRow("type") << changed("monopole_panel", "obelisk") << QByteArray("obelisk");
+        QTest::newRow("colour") << changed("00ff00ff", "00ff00") << QByteArray("\"00ff00\"");
+        QTest::newRow("system") << changed("t_srs=2154", "t_srs=99") << QByteArray("99");
+        QTest::newRow("no places") << changed("t.csv]", "none.csv]") << QByteArray("none.csv");
+    }
+
+    void refusesByName()
+    {
+        QFETCH(QByteArray, layer);
+        QFETCH(QByteArray, named);
+        write(path(QStringLiteral("t.csv")), Header + "A,650000,6860000,0,30,0,,\n");
+        write(path(QStringLiteral("none.csv")), Header + "A,,,0,30,0,,\n");
+        write(path(QStringLiteral("t.lay")), layer);
+
+        const Opened opened = open(path(QStringLiteral("t.lay")));
+
+        QVERIFY(!opened.scene);
+        QVERIFY2(QByteArray::fromStdString(opened.fault).contains(named), opened.fault.c_str());
+    }
+
+    void readsTextThatNobodyEscaped()
+    {
+        const vlt::scene::SiteLayerFile file = vlt::scene::parseSiteLayer(
+            "<veltaroLayer kind='sites'><source> site:R&D/a&amp;b]]>.csv </source><layer/>"
+            "<title><![CDATA[x]]>y]]></title></veltaroLayer>");
+
+        QCOMPARE(file.source, std::string("site:R&D/a&b]]>.csv"));
+        QCOMPARE(file.title, std::string("x]]>y"));
+    }
+
+private:
+    QString path(const QString &name) const { return m_folder.filePath(name); }
+
+    QTemporaryDir m_folder;
+};
+
+QTEST_GUILESS_MAIN(SiteLayerSceneTest)
+#include "tst_SiteLayerScene.moc"
