@@ -19,7 +19,7 @@ public:
     QStringList take()
     {
         const std::lock_guard lock(m_mutex);
-        const QStringList lines =
+        QStringList lines =
             QString::fromStdString(m_text).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
         m_text.clear();
         return lines;
