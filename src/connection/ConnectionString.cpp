@@ -60,6 +60,8 @@ std::vector<size_t> valueEnds(std::string_view text)
 }
 
 /// Cuts the value of the last option from the path behind it.
+constexpr size_t MaxPathSize = 4096; // no file has a longer name
+
 size_t lastValueEnd(std::string_view text, std::string_view key, const std::string &baseDirectory)
 {
     const std::vector<size_t> ends = valueEnds(text);
@@ -67,7 +69,8 @@ size_t lastValueEnd(std::string_view text, std::string_view key, const std::stri
         return text.size();
     if (key == "dem_file") // itself a path that may hold commas
         for (const size_t end : ends)
-            if (exists(std::string(text.substr(end + 1)), baseDirectory))
+            if (text.size() - end <= MaxPathSize &&
+                exists(std::string(text.substr(end + 1)), baseDirectory))
                 return end;
     return ends.front();
 }

@@ -3,6 +3,8 @@
 #include <osg/Drawable>
 #include <osg/Transform>
 
+#include <cstring>
+
 ExtentsVisitor::ExtentsVisitor() : osg::NodeVisitor(TRAVERSE_ALL_CHILDREN)
 {
     m_matrices.emplace_back();
@@ -19,7 +21,10 @@ void ExtentsVisitor::apply(osg::Transform &transform)
 
 void ExtentsVisitor::apply(osg::Drawable &drawable)
 {
-    const osg::BoundingBox &box = drawable.getBoundingBox();
+    if (std::strcmp(drawable.libraryName(), "osgText") == 0) // as large as the screen wants it
+        return;
+    // not getBoundingBox(): it may be widened for culling
+    const osg::BoundingBox box = drawable.computeBoundingBox();
     for (unsigned corner = 0; box.valid() && corner < 8; ++corner)
         m_extents.expandBy(box.corner(corner) * m_matrices.back());
 }

@@ -8,6 +8,8 @@ namespace {
 const double DemoTurnPerSecond = osg::PI / 9; // 18 s for a whole turn
 constexpr double LongestStepS = 0.1;          // a hidden view does not jump when it comes back
 constexpr double SouthWestDeg = 215.5;        // azimuth of the eye
+constexpr double NearestM = 0.5;
+constexpr double FarthestM = 1e8;
 constexpr double ZoomPerNotch = 0.12;
 constexpr double Notch = 120; // an eighth of a degree each
 
@@ -28,12 +30,17 @@ void VltTrackBall::lookAt(const osg::Vec3d &center, double distance, double elev
     setTransformation(center + direction * distance, center, osg::Z_AXIS);
 }
 
+void VltTrackBall::zoomBy(double factor)
+{
+    setDistance(std::clamp(getDistance() * factor, NearestM, FarthestM));
+}
+
 bool VltTrackBall::handleMouseWheel(const osgGA::GUIEventAdapter &event,
                                     osgGA::GUIActionAdapter &view)
 {
     if (event.getScrollingMotion() != osgGA::GUIEventAdapter::SCROLL_2D)
         return osgGA::TrackballManipulator::handleMouseWheel(event, view);
-    setDistance(getDistance() * std::pow(1 - ZoomPerNotch, event.getScrollingDeltaY() / Notch));
+    zoomBy(std::pow(1 - ZoomPerNotch, event.getScrollingDeltaY() / Notch));
     view.requestRedraw();
     return true;
 }

@@ -21,6 +21,9 @@ public:
 
     static constexpr double UsualElevationDeg = 18;
 
+    /// Goes so many times as far from the centre, within sensible limits.
+    void zoomBy(double factor);
+
 protected:
     /// Takes scrolls in two dimensions, which the library's own leaves alone: up comes nearer.
     bool handleMouseWheel(const osgGA::GUIEventAdapter &event,

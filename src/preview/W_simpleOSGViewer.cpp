@@ -19,6 +19,7 @@ constexpr int RefreshMs = 10;
 constexpr int DepthBits = 24;
 constexpr int SamplesPerPixel = 4;
 constexpr double ClickTolerance = 4; ///< pixels that the mouse may move in a click
+constexpr double LeastRadiusM = 20;  // of what is looked at: a lone site is but a point at first
 constexpr double FlatShare = 0.2;
 constexpr double FlatElevationDeg = 50;
 constexpr double Margin = 1.15; ///< room around a centred node
@@ -160,6 +161,10 @@ void W_simpleOSGViewer::resizeGL(int width, int height)
 
 void W_simpleOSGViewer::paintGL()
 {
+    const osg::Viewport *viewport = getCamera()->getViewport();
+    const QSize pixels = sizeInPixels();
+    if (QSizeF(viewport->width(), viewport->height()) != QSizeF(pixels)) // on a denser screen now
+        applySize(pixels);
     m_graphicsWindow->setDefaultFboId(defaultFramebufferObject());
     frame();
     const double distance = std::max(m_trackBall->getDistance(), 1.0);
@@ -174,8 +179,14 @@ void W_simpleOSGViewer::showScene(osg::Node *scene)
         old->releaseGLObjects(m_graphicsWindow->getState());
         QOpenGLWidget::doneCurrent();
     }
-    setSceneData(scene);
-    if (scene && !m_wasShown)
+    osg::Vec3d eye;
+    osg::Vec3d center;
+    osg::Vec3d up;
+    m_trackBall->getTransformation(eye, center, up);
+    setSceneData(scene); // this takes the camera home
+    if (m_wasShown)
+        m_trackBall->setTransformation(eye, center, up);
+    else if (scene)
         centerView();
     m_wasShown = m_wasShown || scene;
     QOpenGLWidget::update();
@@ -217,7 +228,8 @@ void W_simpleOSGViewer::centerView(osg::Node *node)
     m_isUserCamera = true;
     // a flat scene, such as the sites of a town, is seen best from higher up
     const bool isFlat = box.zMax() - box.zMin() < FlatShare * box.radius();
-    m_trackBall->lookAt(box.center(), Margin * box.radius() / std::sin(half),
+    const double radius = std::max<double>(box.radius(), LeastRadiusM);
+    m_trackBall->lookAt(box.center(), Margin * radius / std::sin(half),
                         isFlat ? FlatElevationDeg : VltTrackBall::UsualElevationDeg);
 }
 
@@ -292,10 +304,10 @@ void W_simpleOSGViewer::keyPressEvent(QKeyEvent *event)
         break;
     }
     case Qt::Key_Plus:
-        m_trackBall->setDistance(m_trackBall->getDistance() / zoomStep);
+        m_trackBall->zoomBy(1 / zoomStep);
         break;
     case Qt::Key_Minus:
-        m_trackBall->setDistance(m_trackBall->getDistance() * zoomStep);
+        m_trackBall->zoomBy(zoomStep);
         break;
     case Qt::Key_Home:
         centerView();

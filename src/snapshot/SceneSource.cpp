@@ -81,6 +81,8 @@ Result<osg::ref_ptr<osg::Node>> readScene(const QString &name, const QString &pr
     const osg::ref_ptr<osgDB::Options> options =
         registry->getOptions() ? registry->getOptions()->cloneOptions() : new osgDB::Options;
     options->setReadFileCallback(new LocalFilesOnly);
+    if (!registry->getReadFileCallback()) // for what a scene loads later, while it is drawn
+        registry->setReadFileCallback(new LocalFilesOnly);
     if (!project.isEmpty())
         options->setPluginStringData(
             ProjectKey, QFile::encodeName(QFileInfo(project).absoluteFilePath()).toStdString());

@@ -106,6 +106,12 @@ private Q_SLOTS:
         waitForFrames();
 
         QVERIFY(!centerIsSky());
+        const osg::Vec3d before = eye();
+        m_viewer->showScene(ballAt({0, 0, 0})); // the user's camera stays
+        waitForFrames();
+        QVERIFY((eye() - before).length() < 1e-6);
+        m_viewer->centerView();
+        waitForFrames();
         QVERIFY(isSky(m_viewer->grabFramebuffer(), {2, 2}));
     }
 

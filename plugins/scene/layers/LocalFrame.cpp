@@ -13,7 +13,8 @@ namespace vlt::scene {
 
 namespace {
 
-constexpr double WholeTurnDeg = 360;
+constexpr double DegreesPerRadian = 57.29577951308232;
+constexpr double WholeTurnRad = 2 * 3.14159265358979324;
 
 osg::Vec2d middleOf(const std::vector<osg::Vec2d> &places)
 {
@@ -27,28 +28,32 @@ osg::Vec2d middleOf(const std::vector<osg::Vec2d> &places)
 }
 
 /// Places on both sides of the date line get longitudes that go on beyond it.
-osg::Vec2d geographicMiddle(std::vector<osg::Vec2d> places)
+///
+/// @param wholeTurn  in the unit of the places
+osg::Vec2d geographicMiddle(std::vector<osg::Vec2d> places, double wholeTurn)
 {
     const auto [west, east] =
         std::minmax_element(places.begin(), places.end(),
                             [](const osg::Vec2d &a, const osg::Vec2d &b) { return a.x() < b.x(); });
-    if (!places.empty() && east->x() - west->x() > WholeTurnDeg / 2) {
+    if (!places.empty() && east->x() - west->x() > wholeTurn / 2) {
         for (osg::Vec2d &place : places)
-            place.x() += place.x() < 0 ? WholeTurnDeg : 0;
+            place.x() += place.x() < 0 ? wholeTurn : 0;
     }
     osg::Vec2d middle = middleOf(places);
-    if (middle.x() > WholeTurnDeg / 2)
-        middle.x() -= WholeTurnDeg;
+    if (middle.x() > wholeTurn / 2)
+        middle.x() -= wholeTurn;
     return middle;
 }
 
 osg::Vec2d projectAround(const OGRSpatialReference &srs, std::vector<osg::Vec2d> &places)
 {
-    const osg::Vec2d middle = geographicMiddle(places);
+    const double unitRad = srs.GetAngularUnits();
+    const double unitDeg = unitRad * DegreesPerRadian;
+    const osg::Vec2d middle = geographicMiddle(places, WholeTurnRad / unitRad);
     OGRSpatialReference plane;
     plane.SetProjCS("around the sites");
     plane.CopyGeogCSFrom(&srs);
-    plane.SetAE(middle.y(), middle.x(), 0, 0);
+    plane.SetAE(middle.y() * unitDeg, middle.x() * unitDeg, 0, 0);
     plane.SetLinearUnits(SRS_UL_METER, 1);
     plane.SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
     OGRSpatialReference geographic(srs);
@@ -64,6 +69,16 @@ osg::Vec2d projectAround(const OGRSpatialReference &srs, std::vector<osg::Vec2d>
     return middle;
 }
 
+/// As South African grids do.
+bool countsWestAndSouth(const OGRSpatialReference &srs)
+{
+    OGRAxisOrientation first = OAO_Other;
+    OGRAxisOrientation second = OAO_Other;
+    srs.GetAxis(nullptr, 0, &first);
+    srs.GetAxis(nullptr, 1, &second);
+    return (first == OAO_West && second == OAO_South) || (first == OAO_South && second == OAO_West);
+}
+
 } // namespace
 
 osg::Vec2d moveToLocalFrame(const OGRSpatialReference *srs, std::vector<osg::Vec2d> &places)
@@ -72,7 +87,9 @@ osg::Vec2d moveToLocalFrame(const OGRSpatialReference *srs, std::vector<osg::Vec
         return projectAround(*srs, places);
     if (srs && !srs->IsProjected() && !srs->IsLocal())
         throw BadLayer("the coordinate system of the sites is neither projected nor geographic");
-    const double unitM = srs ? srs->GetLinearUnits() : 1;
+    double unitM = srs ? srs->GetLinearUnits() : 1;
+    if (srs && countsWestAndSouth(*srs))
+        unitM = -unitM;
     const osg::Vec2d middle = middleOf(places);
     for (osg::Vec2d &place : places)
         place = (place - middle) * unitM;

@@ -16,6 +16,7 @@ constexpr std::string_view Blanks = " \t\r\n";
 constexpr std::string_view SectionStart = "<![CDATA[";
 constexpr std::string_view SectionEnd = "]]>";
 constexpr auto None = std::string_view::npos;
+constexpr std::size_t MaxSourceSize = 64 << 10;
 
 std::string_view trimmed(std::string_view text)
 {
@@ -23,6 +24,12 @@ std::string_view trimmed(std::string_view text)
     if (begin == None)
         return {};
     return text.substr(begin, text.find_last_not_of(Blanks) + 1 - begin);
+}
+
+bool startsAfterBlanks(std::string_view text, std::string_view start)
+{
+    const std::size_t begin = text.find_first_not_of(Blanks);
+    return begin != None && text.substr(begin).starts_with(start);
 }
 
 /// Takes the five escapes out; any other "&" is one that nobody escaped.
@@ -60,7 +67,7 @@ std::string takeValue(std::string_view &rest, const std::string &name)
         const std::string_view inside = rest.substr(begin + SectionStart.size());
         std::size_t close = inside.find(SectionEnd);
         while (close != None &&
-               !trimmed(inside.substr(close + SectionEnd.size())).starts_with(endTag))
+               !startsAfterBlanks(inside.substr(close + SectionEnd.size()), endTag))
             close = inside.find(SectionEnd, close + 1);
         if (close == None)
             throw BadLayer("the element " + name + " does not end");
@@ -126,10 +133,13 @@ SiteLayerFile parseSiteLayer(std::string_view text)
             rest = withoutComment(rest);
             continue;
         }
-        const std::string name(rest.substr(0, rest.find_first_of("> \t\r\n/")));
-        const std::size_t tagEnd = rest.find('>');
-        if (name.empty() || tagEnd == None || rest[tagEnd - 1] == '/')
-            continue; // an end tag or an empty element
+        const std::size_t tagEnd = rest.find_first_of("<>");
+        if (tagEnd == None)
+            break;
+        const std::string_view tag = rest.substr(0, tagEnd);
+        const std::string name(tag.substr(0, tag.find_first_of(" \t\r\n/")));
+        if (name.empty() || rest[tagEnd] == '<' || rest[tagEnd - 1] == '/')
+            continue; // an end tag, an empty element or a stray "<"
         rest.remove_prefix(tagEnd + 1);
         const std::string value = takeValue(rest, name);
         for (const auto &[element, member] : known) {
@@ -139,6 +149,8 @@ SiteLayerFile parseSiteLayer(std::string_view text)
     }
     if (file.source.empty())
         throw BadLayer("the element source is missing or empty");
+    if (file.source.size() > MaxSourceSize)
+        throw BadLayer("the element source is unreasonably long");
     return file;
 }
 

@@ -29,6 +29,10 @@ constexpr double CoarseArcDeg = 40;
 constexpr double LabelRoom = 7; ///< a name is seen from so many times the way to its neighbour
 constexpr double LabelGapM = 4;
 constexpr double RodM = 4; ///< more than anything stands out above a mast
+/// Precise pylons of a scene: where thousands stand at one place, or are to be seen precisely from
+/// afar, the others stay coarse, so that time and memory are bounded.
+constexpr std::size_t MostPrecisePylons = 4000;
+constexpr std::size_t MostPreciseDesigns = 1500;
 constexpr float DotPixels = 4;
 constexpr double DotPad = 0.01; ///< of the distance at which dots begin
 constexpr float Endless = std::numeric_limits<float>::max();
@@ -52,6 +56,27 @@ struct Content
     std::mutex guard; ///< several threads may cull
     PylonFactory factory{PreciseModel::WhenNeeded};
     osg::ref_ptr<osg::StateSet> dotState = makeDotState();
+
+    std::size_t pylonsMade = 0;     ///< precise ones, in all tiles
+    std::vector<bool> designIsMade; ///< by design
+    std::size_t designsMade = 0;
+
+    /// Takes so many of the budget of precise pylons; false where it is spent.
+    bool takeBudget(const std::vector<std::uint32_t> &sites)
+    {
+        designIsMade.resize(records.designs.size());
+        std::size_t fresh = 0;
+        for (const std::uint32_t site : sites)
+            fresh += designIsMade[records.sites[site].design] ? 0 : 1;
+        if (pylonsMade + sites.size() > MostPrecisePylons ||
+            designsMade + fresh > MostPreciseDesigns)
+            return false;
+        pylonsMade += sites.size();
+        designsMade += fresh;
+        for (const std::uint32_t site : sites)
+            designIsMade[records.sites[site].design] = true;
+        return true;
+    }
 
     double dotPadM() const { return DotPad * records.designs.front().symbolicDistanceM; }
 
@@ -103,32 +128,6 @@ osg::ref_ptr<osg::MatrixTransform> moved(const osg::ref_ptr<osg::Node> &node,
     place->setDataVariance(osg::Object::DYNAMIC);
     place->addChild(node);
     return place;
-}
-
-/// Whole pylons. Where a tile is so wide that some of its pylons are beyond their symbolic distance
-/// while others are near, a dot stands for those.
-osg::ref_ptr<osg::Node> makePylons(Content &content, const Sites &sites, const osg::Vec3d &origin,
-                                   bool withDots)
-{
-    const std::lock_guard lock(content.guard);
-    osg::ref_ptr<osg::Group> group = new osg::Group;
-    osg::ref_ptr<osg::Node> dot;
-    if (withDots)
-        dot = makeDots(new osg::Vec3Array(1), content.dotPadM(), content.dotState);
-    for (const std::uint32_t site : sites) {
-        const osg::ref_ptr<osg::Node> pylon = content.factory.build(
-            {content.records.sites[site].foot - origin, content.designOf(site)});
-        pylon->setName(content.records.sites[site].name);
-        group->addChild(pylon);
-        if (!dot)
-            continue;
-        const PylonDesign &design = content.designOf(site);
-        osg::ref_ptr<osg::LOD> beyond = new osg::LOD;
-        beyond->addChild(dot, static_cast<float>(design.symbolicDistanceM), Endless);
-        group->addChild(moved(beyond, content.records.sites[site].foot - origin +
-                                          osg::Vec3d(0, 0, design.heightM / 2)));
-    }
-    return group;
 }
 
 osg::ref_ptr<osg::Node> makeLabels(Content &content, const Sites &sites, const osg::Vec3d &origin,
@@ -191,6 +190,34 @@ osg::ref_ptr<osg::Node> makeCoarse(const Content &content, const Sites &sites,
     addDrawable(*geode, opaque, materials.opaqueSector);
     addDrawable(*geode, translucent, materials.translucentSector);
     return geode;
+}
+
+/// Whole pylons. Where a tile is so wide that some of its pylons are beyond their symbolic distance
+/// while others are near, a dot stands for those.
+osg::ref_ptr<osg::Node> makePylons(Content &content, const Sites &sites, const osg::Vec3d &origin,
+                                   bool withDots)
+{
+    const std::lock_guard lock(content.guard);
+    if (!content.takeBudget(sites))
+        return makeCoarse(content, sites, origin);
+    osg::ref_ptr<osg::Group> group = new osg::Group;
+    osg::ref_ptr<osg::Node> dot;
+    if (withDots)
+        dot = makeDots(new osg::Vec3Array(1), content.dotPadM(), content.dotState);
+    for (const std::uint32_t site : sites) {
+        const osg::ref_ptr<osg::Node> pylon = content.factory.build(
+            {content.records.sites[site].foot - origin, content.designOf(site)});
+        pylon->setName(content.records.sites[site].name);
+        group->addChild(pylon);
+        if (!dot)
+            continue;
+        const PylonDesign &design = content.designOf(site);
+        osg::ref_ptr<osg::LOD> beyond = new osg::LOD;
+        beyond->addChild(dot, static_cast<float>(design.symbolicDistanceM), Endless);
+        group->addChild(moved(beyond, content.records.sites[site].foot - origin +
+                                          osg::Vec3d(0, 0, design.heightM / 2)));
+    }
+    return group;
 }
 
 /// Builds the nodes of the tree's branches.

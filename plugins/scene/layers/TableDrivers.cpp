@@ -1,7 +1,7 @@
 #include "layers/TableDrivers.h"
 
 #include <cpl_conv.h>
-#include <gdal.h>
+#include <gdal_priv.h>
 
 #include <dlfcn.h>
 
@@ -28,13 +28,16 @@ void registerTableDrivers()
 {
     static std::mutex guard;
     const std::lock_guard lock(guard);
-    if (GDALGetDriverCount() > 0)
+    if (GDALGetDriverByName("VltTables"))
         return;
     const std::string beside =
         CPLGetConfigOption("GDAL_DRIVER_PATH", nullptr) ? std::string() : ownDirectory();
     if (!beside.empty())
         CPLSetConfigOption("GDAL_DRIVER_PATH", beside.c_str());
-    GDALAllRegister();
+    if (GDALGetDriverCount() == 0)
+        GDALAllRegister();
+    else // another reader of this program has registered what it needs
+        GetGDALDriverManager()->AutoLoadDrivers();
     if (!beside.empty())
         CPLSetConfigOption("GDAL_DRIVER_PATH", nullptr);
 }

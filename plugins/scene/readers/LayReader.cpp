@@ -35,10 +35,10 @@ osg::ref_ptr<osg::Group> readSites(const std::string &path, const std::string &p
     const auto table = locateTable(file.source, tableDirectories(path, project));
     osg::ref_ptr<osg::Group> scene =
         buildSiteScene(readSiteRecords(table, file, readSiteStyle(table)), file.title);
-    OSG_NOTICE << path << ':';
+    OSG_INFO << path << ':';
     for (const std::string &fact : scene->getDescriptions())
-        OSG_NOTICE << ' ' << fact;
-    OSG_NOTICE << std::endl;
+        OSG_INFO << ' ' << fact;
+    OSG_INFO << std::endl;
     return scene;
 }
 

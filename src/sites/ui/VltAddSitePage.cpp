@@ -17,6 +17,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QKeyEvent>
+#include <QScopedValueRollback>
 #include <QScreen>
 #include <QSettings>
 #include <QStyle>
@@ -206,6 +207,8 @@ void VltAddSitePage::showFile(const SiteFileInfo &file)
     m_ui->m_pwLblReason->setVisible(!file.errorDetail.isEmpty());
     if (!file.valid) {
         m_pwDragIcon->setLayerFile({});
+        if (m_ui->m_pwPbOwnSites->isChecked())
+            chooseScene(false);
         m_panelDetails->clear();
         m_ui->m_pwLblFileInfo->setText(tr(
             "No sites file defined.\nSelect the sites file to display.", "MESS_NO_SITE_DEFINED"));
@@ -241,6 +244,7 @@ void VltAddSitePage::createLayerFile()
         }
     }
     m_ui->m_pwLblDragText->setEnabled(m_pwDragIcon->isEnabled());
+    m_ui->m_pwPbOwnSites->setEnabled(m_ui->m_pwPreview->hasView() && m_pwDragIcon->isEnabled());
     m_isCreating = false;
 }
 
@@ -266,6 +270,7 @@ bool VltAddSitePage::showOwnSites()
     const QString layer = m_pwDragIcon->layerFile();
     if (layer.isEmpty())
         return false;
+    const QScopedValueRollback<bool> loading(m_isLoading, true);
     const QString project = m_project.projectPath;
     const auto read = vlt::wizard::waitForValue<vlt::Result<osg::ref_ptr<osg::Node>>>(
         this, tr("Loading the sites...", "MESS_LOADING_SITES"),
@@ -287,7 +292,7 @@ void VltAddSitePage::refreshOwnSites()
 {
     if (!m_ui->m_pwPbOwnSites->isChecked())
         return;
-    if (m_isReading || m_isCreating) // a box is open
+    if (m_isReading || m_isCreating || m_isLoading) // a box is open
         m_ownSitesTimer.start();
     else if (!m_pwDragIcon->layerFile().isEmpty() && !showOwnSites())
         chooseScene(false);

@@ -81,6 +81,7 @@ private:
     QString m_pathRead; ///< what readSiteFileInfo() was last given
     bool m_isActive = false;
     bool m_isReading = false;
+    bool m_isLoading = false;
     bool m_isCreating = false;
     bool m_createAgain = false;
     bool m_missingPageTold = false;

@@ -378,8 +378,8 @@ Select the sites file to display.</translation>
         <translation>3D preview</translation>
     </message>
     <message id="MESS_TIP_3D_PREVIEW">
-        <source>Drag to turn, middle button to move, wheel to come nearer; arrow keys, + and -, Home for the whole scene</source>
-        <translation>Drag to turn, middle button to move, wheel to come nearer; arrow keys, + and -, Home for the whole scene</translation>
+        <source>Drag to turn, middle button to move, wheel to come nearer; left and right arrow, + and -, Home for the whole scene</source>
+        <translation>Drag to turn, middle button to move, wheel to come nearer; left and right arrow, + and -, Home for the whole scene</translation>
     </message>
     <message id="MESS_NO_3D_VIEW">
         <source>No 3D view is available on this system. The layer is complete without it.</source>

@@ -378,8 +378,8 @@ Choisissez le fichier de sites à afficher.</translation>
         <translation>Aperçu 3D</translation>
     </message>
     <message id="MESS_TIP_3D_PREVIEW">
-        <source>Drag to turn, middle button to move, wheel to come nearer; arrow keys, + and -, Home for the whole scene</source>
-        <translation>Faites glisser pour tourner, bouton du milieu pour déplacer, molette pour approcher&#xa0;; flèches, + et -, Origine pour toute la scène</translation>
+        <source>Drag to turn, middle button to move, wheel to come nearer; left and right arrow, + and -, Home for the whole scene</source>
+        <translation>Faites glisser pour tourner, bouton du milieu pour déplacer, molette pour approcher&#xa0;; flèches gauche et droite, + et -, Origine pour toute la scène</translation>
     </message>
     <message id="MESS_NO_3D_VIEW">
         <source>No 3D view is available on this system. The layer is complete without it.</source>
