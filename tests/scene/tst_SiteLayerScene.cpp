@@ -135,6 +135,15 @@ private Q_SLOTS:
         QTest::newRow("degrees") << QByteArray("A,10,60,100,30,0,,\nB,10.02,60.02,0,30,0,,\n"
                                                "C,10.01,60.01,120,30,0,,\n")
                                  << QByteArray("4326") << 558.00 << 1114.12 << 0.25;
+        // 0.01 grad on the ellipsoid of NTF: N = 6394584.6 m, M = 6383653.0 m
+        QTest::newRow("grads") << QByteArray("A,2,66.66666667,100,30,0,,\n"
+                                             "B,2.02,66.68666667,0,30,0,,\n"
+                                             "C,2.01,66.67666667,120,30,0,,\n")
+                               << QByteArray("4807") << 502.23 << 1002.74 << 0.25;
+        QTest::newRow("counted to the west and south")
+            << QByteArray("A,10000,2900000,100,30,0,,\nB,11000,2902000,0,30,0,,\n"
+                          "C,10300,2900400,120,30,0,,\n")
+            << QByteArray("2053") << -300.0 << -400.0 << 0.001;
         QTest::newRow("both sides of the date line")
             << QByteArray("A,179.99,60,100,30,0,,\nB,-179.99,60.02,0,30,0,,\n"
                           "C,180,60.01,120,30,0,,\n")

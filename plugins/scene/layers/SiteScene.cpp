@@ -31,8 +31,8 @@ constexpr double LabelGapM = 4;
 constexpr double RodM = 4; ///< more than anything stands out above a mast
 /// Precise pylons of a scene: where thousands stand at one place, or are to be seen precisely from
 /// afar, the others stay coarse, so that time and memory are bounded.
-constexpr std::size_t MostPrecisePylons = 4000;
-constexpr std::size_t MostPreciseDesigns = 1500;
+constexpr std::size_t MostPrecisePylons = 2000;
+constexpr std::size_t MostPreciseDesigns = 800;
 constexpr float DotPixels = 4;
 constexpr double DotPad = 0.01; ///< of the distance at which dots begin
 constexpr float Endless = std::numeric_limits<float>::max();
