@@ -21,7 +21,7 @@ template<typename T>
 std::optional<T> waitForValue(QWidget *parent, const QString &text, const std::function<T()> &work)
 {
     const auto value = std::make_shared<std::optional<T>>();
-    if (!waitFor(parent, text, [value, work] { *value = work(); }))
+    if (!waitFor(parent, text, [value, work] { value->emplace(work()); }))
         return std::nullopt;
     return std::move(*value);
 }
