@@ -2,8 +2,7 @@
 
 #include <osg/Drawable>
 #include <osg/Transform>
-
-#include <cstring>
+#include <osgText/TextBase>
 
 ExtentsVisitor::ExtentsVisitor() : osg::NodeVisitor(TRAVERSE_ALL_CHILDREN)
 {
@@ -21,7 +20,7 @@ void ExtentsVisitor::apply(osg::Transform &transform)
 
 void ExtentsVisitor::apply(osg::Drawable &drawable)
 {
-    if (std::strcmp(drawable.libraryName(), "osgText") == 0) // as large as the screen wants it
+    if (dynamic_cast<const osgText::TextBase *>(&drawable)) // as large as the screen wants it
         return;
     // not getBoundingBox(): it may be widened for culling
     const osg::BoundingBox box = drawable.computeBoundingBox();

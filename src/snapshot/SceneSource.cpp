@@ -64,7 +64,7 @@ bool isParametricName(const QString &name)
     return name.startsWith(QLatin1String("inline://parametric/query?"));
 }
 
-Result<osg::ref_ptr<osg::Node>> readScene(const QString &name, const QString &project)
+Result<Scene> readScene(const QString &name, const QString &project)
 {
     QString source = name;
     if (!isParametricName(name)) {
@@ -88,7 +88,7 @@ Result<osg::ref_ptr<osg::Node>> readScene(const QString &name, const QString &pr
             ProjectKey, QFile::encodeName(QFileInfo(project).absoluteFilePath()).toStdString());
     ReadResult read = registry->readNode(QFile::encodeName(source).toStdString(), options.get());
     if (read.validNode())
-        return osg::ref_ptr<osg::Node>(read.getNode());
+        return Scene(read.getNode());
     return asError(read, name);
 }
 

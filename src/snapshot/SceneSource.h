@@ -8,6 +8,9 @@
 
 namespace vlt::snapshot {
 
+/// A loaded scene; null for none.
+using Scene = osg::ref_ptr<osg::Node>;
+
 /// Loads a scene through the scene library's readers: a regular file of this computer, or a
 /// parametric object "inline://parametric/query?...". Nothing is fetched over a network, neither
 /// the scene nor what it refers to.
@@ -16,7 +19,7 @@ namespace vlt::snapshot {
 ///                 empty
 /// @par Errors     MESS_SNAP_NOT_LOCAL for a name of another kind, MESS_SNAP_NO_FILE; no key: the
 ///                 text is the reader's reason.
-Result<osg::ref_ptr<osg::Node>> readScene(const QString &name, const QString &project = {});
+Result<Scene> readScene(const QString &name, const QString &project = {});
 
 /// Whether the name is that of a parametric object.
 bool isParametricName(const QString &name);

@@ -6,7 +6,6 @@
 #include "sites/ui/VltSiteDetails.h"
 #include "sites/ui/VltSiteProperties.h"
 #include "sites/ui/VltSrsSettings.h"
-#include "snapshot/SceneSource.h"
 #include "ui_AddSitePage.h"
 #include "wizard/base/BusyWait.h"
 #include "wizard/base/DraggableIcon.h"
@@ -272,7 +271,7 @@ bool VltAddSitePage::showOwnSites()
         return false;
     const QScopedValueRollback<bool> loading(m_isLoading, true);
     const QString project = m_project.projectPath;
-    const auto read = vlt::wizard::waitForValue<vlt::Result<osg::ref_ptr<osg::Node>>>(
+    const auto read = vlt::wizard::waitForValue<vlt::Result<vlt::snapshot::Scene>>(
         this, tr("Loading the sites...", "MESS_LOADING_SITES"),
         [layer, project] { return vlt::snapshot::readScene(layer, project); });
     if (read && read->ok()) {

@@ -2,11 +2,10 @@
 
 #include "sites/ProjectContext.h"
 #include "sites/SiteFileInfo.h"
+#include "snapshot/SceneSource.h"
 #include "wizard/base/BasePage.h"
 
 #include <QTimer>
-
-#include <osg/Node>
 
 #include <memory>
 
@@ -75,8 +74,8 @@ private:
     DraggableIcon *m_pwDragIcon = nullptr;
     vlt::sites::ProjectContext m_project;
     vlt::sites::SiteFileInfo m_file;
-    osg::ref_ptr<osg::Node> m_pylon; ///< the demonstration pylon; null until one could be loaded
-    QTimer m_ownSitesTimer;          ///< gathers quick changes into one load of the layer
+    vlt::snapshot::Scene m_pylon; ///< the demonstration pylon; null until one could be loaded
+    QTimer m_ownSitesTimer;       ///< gathers quick changes into one load of the layer
     QString m_siteFileDir;
     QString m_pathRead; ///< what readSiteFileInfo() was last given
     bool m_isActive = false;
