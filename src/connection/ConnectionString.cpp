@@ -9,13 +9,16 @@ namespace vlt::connection {
 
 namespace {
 
+/// The one option whose value is a path.
+constexpr std::string_view TerrainKey = "dem_file";
+
 /// The keys in the order in which queries carry them; those of links stand between.
 constexpr std::array<std::string_view, 17> KnownKeys = {
     "s_srs",         "t_srs",         "data_folder",       "pylon_type",
     "pylon_width",   "sector_colors", "sector_properties", "link_style",
     "link_width",    "link_color",    "fresnel_zone",      "fresnel_share",
     "fresnel_color", "k_factor",      "transmitter_scale", "lods",
-    "dem_file"};
+    TerrainKey};
 
 bool exists(const std::string &path, const std::string &baseDirectory)
 {
@@ -67,7 +70,7 @@ size_t lastValueEnd(std::string_view text, std::string_view key, const std::stri
     const std::vector<size_t> ends = valueEnds(text);
     if (ends.empty())
         return text.size();
-    if (key == "dem_file") // itself a path that may hold commas
+    if (key == TerrainKey) // itself a path that may hold commas
         for (const size_t end : ends)
             if (text.size() - end <= MaxPathSize &&
                 exists(std::string(text.substr(end + 1)), baseDirectory))
@@ -107,13 +110,13 @@ std::optional<ConnectionString> parse(std::string_view text, const std::string &
         // Behind "lods" only "dem_file" may follow: every comma there belongs to the path.
         size_t end = std::string_view::npos;
         for (size_t comma = rest.find(',');
-             comma != std::string_view::npos && end == std::string_view::npos && key != "dem_file";
+             comma != std::string_view::npos && end == std::string_view::npos && key != TerrainKey;
              comma = rest.find(',', comma + 1)) {
             const std::string_view next = keyAt(rest.substr(comma + 1));
             if (next.empty() || seen.count(next) != 0)
                 continue;
             const bool directlyBehind = rest.find(',') == comma;
-            if (key != "lods" || (next == "dem_file" && directlyBehind))
+            if (key != "lods" || (next == TerrainKey && directlyBehind))
                 end = comma;
         }
         if (end == std::string_view::npos)
@@ -136,11 +139,16 @@ std::string compose(const ConnectionString &connection)
 std::string resolved(std::string_view text, const std::string &baseDirectory)
 {
     std::optional<ConnectionString> connection = parse(text, baseDirectory);
-    if (!connection || connection->path.empty() || connection->path.front() == '/' ||
-        baseDirectory.empty())
+    if (!connection || baseDirectory.empty())
         return std::string(text);
-    connection->path =
-        (std::filesystem::path(baseDirectory) / connection->path).lexically_normal().string();
+    const auto resolve = [&baseDirectory](std::string &path) {
+        if (!path.empty() && path.front() != '/')
+            path = (std::filesystem::path(baseDirectory) / path).lexically_normal().string();
+    };
+    resolve(connection->path);
+    for (auto &[key, value] : connection->options)
+        if (key == TerrainKey)
+            resolve(value);
     return compose(*connection);
 }
 

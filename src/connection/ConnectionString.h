@@ -33,8 +33,8 @@ std::optional<ConnectionString> parse(std::string_view text, const std::string &
 /// Puts the parts together again.
 std::string compose(const ConnectionString &connection);
 
-/// The same connection with a relative path made absolute against `baseDirectory`; unchanged when
-/// it is none.
+/// The same connection with relative paths, of the table and of "dem_file", made absolute against
+/// `baseDirectory`; unchanged when it is none.
 std::string resolved(std::string_view text, const std::string &baseDirectory);
 
 } // namespace vlt::connection

@@ -2,8 +2,8 @@
 
 #include "geodata/EpsgIdentification.h"
 #include "geodata/ErrorCollector.h"
-#include "geodata/LocalFormats.h"
-#include "geodata/NoNetwork.h"
+#include "localfiles/LocalFormats.h"
+#include "localfiles/NoNetwork.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -31,14 +31,14 @@ Result<QString> datasetReferenceCode(const QString &path)
             "This vector dataset doesn't contain any valid coordinate system information"),
         {}};
     const QString absolute = QFileInfo(path).absoluteFilePath();
-    if (!isLocalFile(absolute))
+    const QByteArray name = QFile::encodeName(absolute);
+    if (!localfiles::isLocalFile(name.toStdString()))
         return noVectorSystem;
 
     const ErrorCollector quiet;
-    const NoNetwork offline;
-    const QByteArray name = QFile::encodeName(absolute);
+    const localfiles::NoNetwork offline;
     const GDALDatasetUniquePtr raster(
-        GDALDataset::Open(name.constData(), GDAL_OF_RASTER, localRasterFormats()));
+        GDALDataset::Open(name.constData(), GDAL_OF_RASTER, localfiles::localRasterFormats()));
     if (raster)
         return codeOrError(
             raster->GetSpatialRef(),
@@ -48,7 +48,7 @@ Result<QString> datasetReferenceCode(const QString &path)
              {}});
 
     const GDALDatasetUniquePtr vector(
-        GDALDataset::Open(name.constData(), GDAL_OF_VECTOR, localVectorFormats()));
+        GDALDataset::Open(name.constData(), GDAL_OF_VECTOR, localfiles::localVectorFormats()));
     OGRLayer *layer = vector ? vector->GetLayer(0) : nullptr;
     return codeOrError(layer ? layer->GetSpatialRef() : nullptr, noVectorSystem);
 }

@@ -5,6 +5,8 @@
 
 #include <QList>
 
+class OGRLayer;
+
 namespace vlt::geodata {
 
 /// What a table's driver skipped or mended.
@@ -33,6 +35,9 @@ struct SiteCheck
 /// @par Errors   no key; the text is the driver's reason, or "cancelled" where `progress` answered
 ///               false.
 Result<SiteCheck> readSiteCheck(const QString &connection, const Progress &progress);
+
+/// The problems that a layer's driver found; complete only after all its features were read.
+LayerProblems problemsOf(OGRLayer &layer);
 
 /// One item of the problems domain. Row and column may be empty; the text may hold further bars.
 Problem parseProblem(const QString &item);

@@ -2,8 +2,8 @@
 
 #include "geodata/EpsgIdentification.h"
 #include "geodata/ErrorCollector.h"
-#include "geodata/LocalFormats.h"
-#include "geodata/NoNetwork.h"
+#include "localfiles/LocalFormats.h"
+#include "localfiles/NoNetwork.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -14,15 +14,16 @@ namespace vlt::geodata {
 
 QString terrainReferenceCode(const QString &rasterPath)
 {
-    const QString path =
-        rasterPath.isEmpty() ? QString() : QFileInfo(rasterPath).absoluteFilePath();
-    if (!isLocalFile(path))
+    const QByteArray path = rasterPath.isEmpty()
+                                ? QByteArray()
+                                : QFile::encodeName(QFileInfo(rasterPath).absoluteFilePath());
+    if (!localfiles::isLocalFile(path.toStdString()))
         return {};
 
     const ErrorCollector quiet;
-    const NoNetwork offline;
-    const GDALDatasetUniquePtr dataset(GDALDataset::Open(QFile::encodeName(path).constData(),
-                                                         GDAL_OF_RASTER, localRasterFormats()));
+    const localfiles::NoNetwork offline;
+    const GDALDatasetUniquePtr dataset(
+        GDALDataset::Open(path.constData(), GDAL_OF_RASTER, localfiles::localRasterFormats()));
     const OGRSpatialReference *declared = dataset ? dataset->GetSpatialRef() : nullptr;
     return declared ? identifiedEpsgCode(*declared) : QString();
 }

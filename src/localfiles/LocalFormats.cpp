@@ -1,10 +1,11 @@
-#include "geodata/LocalFormats.h"
+#include "localfiles/LocalFormats.h"
 
-#include <QFileInfo>
-
+#include <algorithm>
 #include <array>
+#include <filesystem>
+#include <string_view>
 
-namespace vlt::geodata {
+namespace vlt::localfiles {
 
 const char *const *localRasterFormats()
 {
@@ -34,10 +35,16 @@ const char *const *localVectorFormats()
     return Formats.data();
 }
 
-bool isLocalFile(const QString &absolutePath)
+bool isLocalFile(const std::string &absolutePath)
 {
-    return !absolutePath.startsWith(QLatin1String("/vsi"), Qt::CaseInsensitive) &&
-           QFileInfo(absolutePath).isFile();
+    constexpr std::string_view Virtual = "/vsi";
+    const bool isVirtual =
+        absolutePath.size() >= Virtual.size() &&
+        std::equal(Virtual.begin(), Virtual.end(), absolutePath.begin(),
+                   [](char a, char b) { return a == (b >= 'A' && b <= 'Z' ? b + 32 : b); });
+    std::error_code error;
+    return !isVirtual && absolutePath.starts_with('/') &&
+           std::filesystem::is_regular_file(absolutePath, error);
 }
 
-} // namespace vlt::geodata
+} // namespace vlt::localfiles

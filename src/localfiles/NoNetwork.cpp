@@ -1,9 +1,9 @@
-#include "geodata/NoNetwork.h"
+#include "localfiles/NoNetwork.h"
 
 #include <cpl_conv.h>
 #include <cpl_http.h>
 
-namespace vlt::geodata {
+namespace vlt::localfiles {
 
 namespace {
 
@@ -29,4 +29,4 @@ NoNetwork::~NoNetwork()
     CPLHTTPPopFetchCallback();
 }
 
-} // namespace vlt::geodata
+} // namespace vlt::localfiles

@@ -1,6 +1,6 @@
 #pragma once
 
-namespace vlt::geodata {
+namespace vlt::localfiles {
 
 /// While it lives, nothing that the geodata library opens on this thread fetches anything over the
 /// network: some formats of local files may name addresses, for instance of a coordinate system.
@@ -13,4 +13,4 @@ public:
     NoNetwork &operator=(const NoNetwork &) = delete;
 };
 
-} // namespace vlt::geodata
+} // namespace vlt::localfiles

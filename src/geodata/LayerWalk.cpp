@@ -1,0 +1,52 @@
+#include "geodata/LayerWalk.h"
+
+#include "platform/TextDecoding.h"
+
+#include <QElapsedTimer>
+
+namespace vlt::geodata {
+
+namespace {
+
+constexpr qint64 FeaturesPerLook = 16; ///< at the clock: rows of thousands of columns take long
+constexpr qint64 MillisecondsPerReport = 20;
+
+Error cancelled()
+{
+    return Error{QString(), QStringLiteral("cancelled"), {}};
+}
+
+/// A driver names the layer before the reason why its rows end too early.
+QString withoutName(const QString &reason, OGRLayer &layer)
+{
+    const QString name = platform::decodeText(layer.GetDescription()) + QStringLiteral(": ");
+    return reason.startsWith(name) ? reason.mid(name.size()) : reason;
+}
+
+} // namespace
+
+Result<qint64> walkFeatures(OGRLayer &layer, const Progress &progress, const ErrorCollector &errors,
+                            const std::function<void(const OGRFeature &)> &visit)
+{
+    if (progress && !progress(0))
+        return cancelled();
+
+    const qint64 expected = layer.GetFeatureCount(TRUE);
+    qint64 visited = 0;
+    QElapsedTimer sinceReport;
+    sinceReport.start();
+    for (const OGRFeatureUniquePtr &feature : layer) {
+        visit(*feature);
+        if (++visited % FeaturesPerLook != 0 || !progress ||
+            !sinceReport.hasExpired(MillisecondsPerReport))
+            continue;
+        if (!progress(static_cast<double>(visited) / static_cast<double>(expected)))
+            return cancelled();
+        sinceReport.start();
+    }
+    if (visited < expected && !errors.failure({}).isEmpty())
+        return Error{QString(), withoutName(errors.failure({}), layer), {}};
+    return visited;
+}
+
+} // namespace vlt::geodata

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "geodata/LayerPlacement.h"
+#include "geodata/LayerProblems.h"
+#include "linkpath/Clearance.h"
+
+#include <QList>
+#include <QString>
+
+#include <optional>
+
+namespace vlt::geodata {
+
+/// One link of a table, measured and judged.
+struct LinkReport
+{
+    qint64 row = 0; ///< in the file, from 1
+    QString name;
+    QString endA;
+    QString endB;
+    bool isPlaced = false;
+    std::optional<double> lengthM;
+    std::optional<double> frequencyMHz;
+    linkpath::Clearance clearance;
+};
+
+/// By what links are judged.
+struct LinkJudging
+{
+    QString terrainFile; ///< absolute path; empty: nothing is judged
+    linkpath::ClearanceRule rule;
+};
+
+/// What all rows of a link table tell.
+struct LinkCheck
+{
+    LayerProblems problems;
+    LayerPlacement placement; ///< of the links
+    QList<LinkReport> links;  ///< in the order of the file
+    QString terrainProblem;   ///< why the terrain file cannot be used; empty where it can
+};
+
+/// The one text of LinkCheck::terrainProblem that is not a reason why the file cannot be read.
+inline const QString TerrainElsewhere =
+    QStringLiteral("no way leads from the coordinate system of the links to that of the terrain");
+
+/// Why a file cannot serve as terrain; empty where it can.
+QString terrainProblem(const QString &terrainFile);
+
+/// Reads a link table once, from its first row to its last.
+///
+/// @param progress  as for readSiteCheck()
+/// @par Errors   no key; the text is the driver's reason, or "cancelled".
+Result<LinkCheck> readLinkCheck(const QString &connection, const LinkJudging &judging,
+                                const Progress &progress);
+
+} // namespace vlt::geodata

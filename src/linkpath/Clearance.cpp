@@ -1,0 +1,51 @@
+#include "linkpath/Clearance.h"
+
+#include "linkpath/Fresnel.h"
+
+namespace vlt::linkpath {
+
+std::array<std::uint8_t, 3> verdictColor(Verdict verdict)
+{
+    switch (verdict) {
+    case Verdict::Clear:
+        return {0, 158, 115};
+    case Verdict::Marginal:
+        return {240, 180, 0};
+    case Verdict::Obstructed:
+        return {204, 30, 60};
+    case Verdict::Unknown:
+        break;
+    }
+    return {128, 128, 128};
+}
+
+Clearance judgeProfile(const std::vector<ProfilePoint> &profile, double antennaAM, double antennaBM,
+                       double frequencyMHz, const ClearanceRule &rule)
+{
+    Clearance clearance;
+    const double lengthM = profile.empty() ? 0 : profile.back().distanceM;
+    for (const ProfilePoint &ground : profile) {
+        const double d1 = ground.distanceM;
+        const double d2 = lengthM - d1;
+        if (!(d1 > 0 && d2 > 0))
+            continue;
+        WorstPoint point;
+        point.distanceM = d1;
+        point.terrainM = ground.terrainM;
+        point.lineM = antennaAM + (antennaBM - antennaAM) * d1 / lengthM;
+        point.bulgeM = earthBulgeM(d1, d2, rule.kFactor);
+        point.radiusM = fresnelRadiusM(1, frequencyMHz, d1, d2);
+        point.clearanceM = point.lineM - point.terrainM - point.bulgeM;
+        if (!clearance.worst || point.freeShare() < clearance.worst->freeShare())
+            clearance.worst = point;
+    }
+    if (!clearance.worst)
+        return clearance;
+    const double free = clearance.worst->freeShare();
+    clearance.verdict = free < 0            ? Verdict::Obstructed
+                        : free < rule.share ? Verdict::Marginal
+                                            : Verdict::Clear;
+    return clearance;
+}
+
+} // namespace vlt::linkpath

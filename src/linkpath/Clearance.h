@@ -1,0 +1,64 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+namespace vlt::linkpath {
+
+/// What the terrain leaves of a link's path.
+enum class Verdict {
+    Unknown,    ///< no terrain, no frequency or no antenna height
+    Clear,      ///< the wanted share of the first Fresnel zone is free all along
+    Marginal,   ///< the line of sight is free, the wanted share is not
+    Obstructed, ///< the terrain cuts the line of sight
+};
+
+/// Red, green, blue of a verdict, for lines and marks; told apart by those who do not see red or
+/// green.
+std::array<std::uint8_t, 3> verdictColor(Verdict verdict);
+
+/// What clearance is asked for.
+struct ClearanceRule
+{
+    double share = 0.6;         ///< of the first zone's radius that has to be free, 0 .. 1 and more
+    double kFactor = 4.0 / 3.0; ///< of the earth's radius
+};
+
+/// A point of the ground under a link.
+struct ProfilePoint
+{
+    double distanceM = 0; ///< from end A along the ground
+    double terrainM = 0;  ///< height above sea level
+};
+
+/// The point where the least share of the first Fresnel zone is free.
+struct WorstPoint
+{
+    double distanceM = 0;  ///< from end A
+    double terrainM = 0;   ///< height of the terrain above sea level
+    double lineM = 0;      ///< height of the straight line between the antennas above sea level
+    double bulgeM = 0;     ///< how much the earth's curvature raises the terrain
+    double radiusM = 0;    ///< of the first Fresnel zone
+    double clearanceM = 0; ///< line - terrain - bulge; negative: the line is cut
+    double freeShare() const { return clearanceM / radiusM; }
+};
+
+/// A judged link.
+struct Clearance
+{
+    Verdict verdict = Verdict::Unknown;
+    std::optional<WorstPoint> worst; ///< of the part of the path whose terrain is known
+};
+
+/// Judges a path by its profile.
+///
+/// @param profile        from end A to end B, both ends included; two points at least
+/// @param antennaAM      height of the antenna's centre at end A above sea level
+/// @param antennaBM      the same at end B
+/// @param frequencyMHz   positive
+Clearance judgeProfile(const std::vector<ProfilePoint> &profile, double antennaAM, double antennaBM,
+                       double frequencyMHz, const ClearanceRule &rule);
+
+} // namespace vlt::linkpath

@@ -1,0 +1,150 @@
+#include "linkpath/TerrainRaster.h"
+
+#include "localfiles/LocalFormats.h"
+#include "localfiles/NoNetwork.h"
+
+#include <cpl_error.h>
+
+#include <cmath>
+#include <cstring>
+
+namespace vlt::linkpath {
+
+namespace {
+
+constexpr int BlockSide = 256;
+constexpr std::size_t MostBlocks = 256; ///< 128 MiB
+constexpr double MetresPerDegree = 111320;
+constexpr double MetresPerFoot = 0.3048;
+constexpr double MetresPerSurveyFoot = 1200.0 / 3937;
+
+double metresPerUnit(const char *unit)
+{
+    const std::string text = unit ? unit : "";
+    if (EQUAL(text.c_str(), "ft") || EQUAL(text.c_str(), "foot") || EQUAL(text.c_str(), "feet"))
+        return MetresPerFoot;
+    if (EQUAL(text.c_str(), "us-ft") || EQUAL(text.c_str(), "US survey foot"))
+        return MetresPerSurveyFoot;
+    return 1;
+}
+
+} // namespace
+
+std::unique_ptr<TerrainRaster> TerrainRaster::open(const std::string &path, std::string *reason)
+{
+    const CPLErrorHandlerPusher quiet(CPLQuietErrorHandler);
+    CPLErrorReset();
+    const localfiles::NoNetwork offline;
+    std::string why;
+    if (!localfiles::isLocalFile(path))
+        why = TerrainNotLocal;
+    std::unique_ptr<TerrainRaster> raster;
+    if (why.empty()) {
+        GDALDatasetUniquePtr dataset(GDALDataset::Open(path.c_str(),
+                                                       GDAL_OF_RASTER | GDAL_OF_VERBOSE_ERROR,
+                                                       localfiles::localRasterFormats()));
+        if (!dataset)
+            why = CPLGetLastErrorMsg();
+        else
+            raster.reset(new TerrainRaster(std::move(dataset)));
+    }
+    if (raster && !raster->prepare()) {
+        why = TerrainNotPlaced;
+        raster.reset();
+    }
+    if (!raster && reason)
+        *reason = why;
+    return raster;
+}
+
+bool TerrainRaster::prepare()
+{
+    double toPlace[6];
+    const OGRSpatialReference *srs = m_dataset->GetSpatialRef();
+    if (m_dataset->GetRasterCount() < 1 || !srs || srs->IsEmpty() || srs->IsLocal() ||
+        m_dataset->GetGeoTransform(toPlace) != CE_None || !GDALInvGeoTransform(toPlace, m_toPixel))
+        return false;
+    m_srs = *srs;
+    m_srs.SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
+    m_band = m_dataset->GetRasterBand(1);
+    if (GDALDataTypeIsComplex(m_band->GetRasterDataType()))
+        return false;
+    const double unitM = srs->IsGeographic() ? MetresPerDegree * srs->GetAngularUnits() * 180 / M_PI
+                                             : srs->GetLinearUnits();
+    m_pixelSizeM =
+        unitM * std::min(std::hypot(toPlace[1], toPlace[4]), std::hypot(toPlace[2], toPlace[5]));
+    const double toM = metresPerUnit(m_band->GetUnitType());
+    m_scale = m_band->GetScale() * toM;
+    m_offset = m_band->GetOffset() * toM;
+    int hasNoData = 0;
+    const double noData = m_band->GetNoDataValue(&hasNoData);
+    if (hasNoData)
+        m_noData = noData;
+    return m_pixelSizeM > 0;
+}
+
+std::optional<double> TerrainRaster::pixelM(int column, int row)
+{
+    const std::int64_t number =
+        static_cast<std::int64_t>(row / BlockSide) << 32 | column / BlockSide;
+    auto found = m_blocks.find(number);
+    if (found == m_blocks.end()) {
+        if (m_blocks.size() >= MostBlocks) {
+            m_blocks.erase(m_recent.back());
+            m_recent.pop_back();
+        }
+        const int left = column / BlockSide * BlockSide;
+        const int top = row / BlockSide * BlockSide;
+        const int width = std::min(BlockSide, m_band->GetXSize() - left);
+        const int height = std::min(BlockSide, m_band->GetYSize() - top);
+        Block block;
+        block.values.assign(static_cast<std::size_t>(BlockSide) * BlockSide, std::nan(""));
+        const CPLErrorHandlerPusher quiet(CPLQuietErrorHandler); // a damaged part has no heights
+        if (m_band->RasterIO(GF_Read, left, top, width, height, block.values.data(), width, height,
+                             GDT_Float64, sizeof(double),
+                             static_cast<GSpacing>(BlockSide) * sizeof(double), nullptr) != CE_None)
+            std::fill(block.values.begin(), block.values.end(), std::nan(""));
+        m_recent.push_front(number);
+        block.place = m_recent.begin();
+        found = m_blocks.emplace(number, std::move(block)).first;
+    } else if (found->second.place != m_recent.begin())
+        m_recent.splice(m_recent.begin(), m_recent, found->second.place);
+    const auto at = static_cast<std::size_t>(row % BlockSide) * BlockSide +
+                    static_cast<std::size_t>(column % BlockSide);
+    const double value = found->second.values[at];
+    if (!std::isfinite(value) || (m_noData && value == *m_noData))
+        return std::nullopt;
+    return value * m_scale + m_offset;
+}
+
+std::optional<double> TerrainRaster::heightM(double x, double y)
+{
+    // counted from the centre of the first pixel
+    const double column = m_toPixel[0] + m_toPixel[1] * x + m_toPixel[2] * y - 0.5;
+    const double row = m_toPixel[3] + m_toPixel[4] * x + m_toPixel[5] * y - 0.5;
+    const int width = m_band->GetXSize();
+    const int height = m_band->GetYSize();
+    if (!(column >= -0.5 && row >= -0.5 && column <= width - 0.5 && row <= height - 0.5))
+        return std::nullopt;
+    const double inColumn = std::min(std::max(column, 0.0), width - 1.0);
+    const double inRow = std::min(std::max(row, 0.0), height - 1.0);
+    const int left = static_cast<int>(inColumn);
+    const int top = static_cast<int>(inRow);
+    const double toRight = inColumn - left;
+    const double down = inRow - top;
+    double sum = 0;
+    for (const auto &[c, r, weight] : {std::tuple(left, top, (1 - toRight) * (1 - down)),
+                                       std::tuple(left + 1, top, toRight * (1 - down)),
+                                       std::tuple(left, top + 1, (1 - toRight) * down),
+                                       std::tuple(left + 1, top + 1, toRight * down)}) {
+        if (weight <= 0)
+            continue;
+        const std::optional<double> value = pixelM(c, r);
+        if (!value)
+            return std::nullopt;
+        sum += weight * *value;
+    }
+    return sum;
+}
+
+} // namespace vlt::linkpath

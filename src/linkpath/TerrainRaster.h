@@ -1,0 +1,62 @@
+#pragma once
+
+#include <gdal_priv.h>
+#include <ogr_spatialref.h>
+
+#include <list>
+#include <memory>
+#include <optional>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+namespace vlt::linkpath {
+
+/// Reasons of a refusal that are not GDAL's.
+inline constexpr char TerrainNotLocal[] = "it is not a local file";
+inline constexpr char TerrainNotPlaced[] =
+    "it has no band of heights, no place or no coordinate system";
+
+/// Heights of a terrain file, band 1, read as they are needed. Not for two threads at once.
+class TerrainRaster
+{
+public:
+    /// Opens a local raster file; null where it cannot be opened, is not georeferenced or has no
+    /// coordinate system. `reason` takes why: one of the texts above, else
+    /// GDAL's words.
+    static std::unique_ptr<TerrainRaster> open(const std::string &path, std::string *reason);
+
+    /// Height above sea level in metres, between the centres of the four pixels around the point;
+    /// nothing outside the raster and where one of them has no data. x, y in the raster's system,
+    /// x being east or longitude.
+    std::optional<double> heightM(double x, double y);
+
+    /// Axis order: x (east, longitude) first.
+    const OGRSpatialReference &srs() const { return m_srs; }
+    /// The smaller side of a pixel in metres, about.
+    double pixelSizeM() const { return m_pixelSizeM; }
+
+private:
+    struct Block
+    {
+        std::vector<double> values;
+        std::list<std::int64_t>::iterator place;
+    };
+
+    explicit TerrainRaster(GDALDatasetUniquePtr dataset) : m_dataset(std::move(dataset)) {}
+    bool prepare();
+    std::optional<double> pixelM(int column, int row);
+
+    GDALDatasetUniquePtr m_dataset;
+    GDALRasterBand *m_band = nullptr;
+    OGRSpatialReference m_srs;
+    double m_toPixel[6] = {};
+    double m_pixelSizeM = 0;
+    double m_scale = 1;  ///< metres per stored unit
+    double m_offset = 0; ///< metres
+    std::optional<double> m_noData;
+    std::unordered_map<std::int64_t, Block> m_blocks;
+    std::list<std::int64_t> m_recent; ///< numbers of the blocks, the latest first
+};
+
+} // namespace vlt::linkpath

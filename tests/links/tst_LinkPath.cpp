@@ -1,0 +1,212 @@
+#include "linkpath/Fresnel.h"
+#include "linkpath/PathProfiler.h"
+
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <cmath>
+
+using namespace vlt::linkpath;
+
+namespace {
+
+constexpr int Columns = 400;
+constexpr int Rows = 20;
+constexpr double PixelM = 30;
+constexpr double WestM = 494000; // the ends lie on both sides of the zone's middle, at 500000
+constexpr double NorthM = 5400300;
+constexpr double PlainM = 100;
+constexpr double NoDataM = -9999;
+constexpr LinkEnd WestEnd{495000, 5400000, 50.0};
+constexpr LinkEnd EastEnd{505000, 5400000, 50.0};
+
+std::shared_ptr<OGRSpatialReference> utm(int zone = 31)
+{
+    auto srs = std::make_shared<OGRSpatialReference>();
+    srs->importFromEPSG(32600 + zone);
+    srs->SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
+    return srs;
+}
+
+/// A plain with a wall across the middle of the links, and one at `otherColumn`.
+std::shared_ptr<TerrainRaster> terrain(const QString &path, double wallM, int otherColumn = -1,
+                                       double otherM = 0)
+{
+    GDALAllRegister();
+    auto *driver = GetGDALDriverManager()->GetDriverByName("GTiff");
+    GDALDatasetUniquePtr file(
+        driver->Create(path.toLocal8Bit().constData(), Columns, Rows, 1, GDT_Float32, nullptr));
+    double place[6] = {WestM, PixelM, 0, NorthM, 0, -PixelM};
+    file->SetGeoTransform(place);
+    file->SetSpatialRef(utm().get());
+    file->GetRasterBand(1)->SetNoDataValue(NoDataM);
+    std::vector<float> row(Columns, PlainM);
+    const auto wall = [&row](int column, double heightM) {
+        for (int i = -2; i <= 2 && column >= 0; ++i)
+            row[static_cast<std::size_t>(column + i)] = static_cast<float>(heightM);
+    };
+    wall(Columns / 2, wallM);
+    wall(otherColumn, otherM);
+    for (int i = 0; i < Rows; ++i)
+        if (file->GetRasterBand(1)->RasterIO(GF_Write, 0, i, Columns, 1, row.data(), Columns, 1,
+                                             GDT_Float32, 0, 0, nullptr) != CE_None)
+            return nullptr;
+    file.reset(); // writes it
+    return TerrainRaster::open(path.toLocal8Bit().toStdString(), nullptr);
+}
+
+} // namespace
+
+class tst_LinkPath : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void radii_data();
+    void radii();
+    void ellipsoidsTouchTheRadius();
+    void verdicts_data();
+    void verdicts();
+    void distances();
+    void whatCannotBeJudged();
+    void refusedTerrain_data();
+    void refusedTerrain();
+
+private:
+    QTemporaryDir m_dir;
+};
+
+// By the usual engineering form, 17.31 sqrt(n d1 d2/(f d)) with km and GHz.
+void tst_LinkPath::radii_data()
+{
+    QTest::addColumn<int>("zone");
+    QTest::addColumn<double>("frequencyMHz");
+    QTest::addColumn<double>("d1");
+    QTest::addColumn<double>("d2");
+    QTest::addColumn<double>("radius");
+    QTest::newRow("40 km at 6 GHz") << 1 << 6000.0 << 20000.0 << 20000.0 << 22.35;
+    QTest::newRow("near an end") << 1 << 6000.0 << 1000.0 << 39000.0 << 6.98;
+    QTest::newRow("second zone") << 2 << 6000.0 << 20000.0 << 20000.0 << 31.61;
+    QTest::newRow("1 km at 80 GHz") << 1 << 80000.0 << 500.0 << 500.0 << 0.968;
+    QTest::newRow("10 km at 450 MHz") << 1 << 450.0 << 5000.0 << 5000.0 << 40.81;
+}
+
+void tst_LinkPath::radii()
+{
+    QFETCH(int, zone);
+    QFETCH(double, frequencyMHz);
+    QFETCH(double, d1);
+    QFETCH(double, d2);
+    QFETCH(double, radius);
+    QVERIFY(std::abs(fresnelRadiusM(zone, frequencyMHz, d1, d2) - radius) < 0.0007 * radius);
+}
+
+// A point of the surface has a way that is zone half wavelengths longer; 0.05 m is 6 GHz.
+void tst_LinkPath::ellipsoidsTouchTheRadius()
+{
+    for (const double distance : {10.0, 3000.0, 80000.0}) {
+        const FresnelEllipsoid zone = fresnelEllipsoid(3, LightSpeed / 0.05 / 1e6, distance);
+        const double side = std::hypot(distance / 2, zone.semiMinorM);
+        QVERIFY(std::abs(2 * side - distance - 0.075) < 1e-6);
+        QVERIFY(std::abs(2 * zone.semiMajorM - distance - 0.075) < 1e-9);
+    }
+}
+
+// 10 km at 6 GHz, antennas 150 m above the sea, a wall in the middle. There the first zone has a
+// radius of sqrt(0.04997 * 5000 * 5000/10000) = 11.18 m, and the earth rises by
+// 5000 * 5000/(2 * 4/3 * 6371009) = 1.47 m.
+void tst_LinkPath::verdicts_data()
+{
+    QTest::addColumn<double>("wall");
+    QTest::addColumn<double>("share");
+    QTest::addColumn<double>("k");
+    QTest::addColumn<int>("verdict");
+    QTest::addColumn<double>("clearance");
+    const auto row = [](const char *name, double wall, double share, double k, Verdict verdict,
+                        double clearance) {
+        QTest::newRow(name) << wall << share << k << static_cast<int>(verdict) << clearance;
+    };
+    row("60 % of 11.18 m are free", 140, 0.6, 4.0 / 3, Verdict::Clear, 8.53);
+    row("all of it is not", 140, 1, 4.0 / 3, Verdict::Marginal, 8.53);
+    row("near miss", 147.9, 0.6, 4.0 / 3, Verdict::Marginal, 0.63);
+    row("cut by the curvature alone", 149, 0.6, 4.0 / 3, Verdict::Obstructed, -0.47);
+    row("flat earth", 149, 0.6, 1e6, Verdict::Marginal, 1);
+    row("bent downwards", 147.9, 0.6, 0.6, Verdict::Obstructed, 2.1 - 3.27);
+    row("hill", 180, 0.6, 4.0 / 3, Verdict::Obstructed, -31.47);
+}
+
+void tst_LinkPath::verdicts()
+{
+    QFETCH(double, wall);
+    QFETCH(double, share);
+    QFETCH(double, k);
+    QFETCH(int, verdict);
+    QFETCH(double, clearance);
+    const PathProfiler profiler(terrain(m_dir.filePath(QStringLiteral("terrain.tif")), wall),
+                                utm().get());
+    for (const bool swapped : {false, true}) {
+        const Clearance judged = profiler.judge(swapped ? EastEnd : WestEnd,
+                                                swapped ? WestEnd : EastEnd, 6000, {share, k});
+        QCOMPARE(static_cast<int>(judged.verdict), verdict);
+        QVERIFY(std::abs(judged.worst->clearanceM - clearance) < 0.02);
+        QVERIFY(std::abs(judged.worst->radiusM - 11.18) < 0.01);
+        QVERIFY(std::abs(judged.worst->distanceM - 5000) < 80); // the wall is 150 m wide
+    }
+}
+
+// Flinders Peak to Buninyong, as published for the geodetic datum of Australia: 54972.271 m towards
+// 306 degrees 52' 05.37". On a plane without a system: 3, 4, 5.
+void tst_LinkPath::distances()
+{
+    OGRSpatialReference australia;
+    australia.importFromEPSG(4283);
+    const PathProfiler earth(nullptr, &australia);
+    const LinkEnd flinders{144 + 25. / 60 + 29.52440 / 3600, -(37 + 57. / 60 + 3.72030 / 3600), {}};
+    const LinkEnd buninyong{
+        143 + 55. / 60 + 35.38390 / 3600, -(37 + 39. / 60 + 10.15610 / 3600), {}};
+    QVERIFY(std::abs(*earth.lengthM(flinders, buninyong) - 54972.271) < 0.001);
+    QVERIFY(std::abs(*earth.azimuthDeg(flinders, buninyong) - (306 + 52. / 60 + 5.37 / 3600)) <
+            1e-5);
+
+    const PathProfiler plane(nullptr, nullptr);
+    QCOMPARE(*plane.lengthM({100, 100, {}}, {97, 104, {}}), 5.0);
+    QVERIFY(std::abs(*plane.azimuthDeg({100, 100, {}}, {97, 104, {}}) - 323.13) < 0.01);
+}
+
+void tst_LinkPath::whatCannotBeJudged()
+{
+    const auto judged = [this](double wall, int otherColumn, double otherM, LinkEnd a, double f) {
+        const PathProfiler profiler(
+            terrain(m_dir.filePath(QStringLiteral("holes.tif")), wall, otherColumn, otherM),
+            utm().get());
+        return profiler.judge(a, EastEnd, f, {}).verdict;
+    };
+    QCOMPARE(judged(110, -1, 0, WestEnd, 6000), Verdict::Clear);
+    QCOMPARE(judged(110, -1, 0, WestEnd, 0), Verdict::Unknown);
+    QCOMPARE(judged(110, -1, 0, {WestEnd.x, WestEnd.y, {}}, 6000), Verdict::Unknown);
+    QCOMPARE(judged(110, 100, NoDataM, WestEnd, 6000), Verdict::Unknown);
+    QCOMPARE(judged(160, 100, NoDataM, WestEnd, 6000), Verdict::Obstructed);
+    QCOMPARE(judged(110, -1, 0, {WestM - 500, WestEnd.y, 50.0}, 6000), Verdict::Unknown);
+}
+
+void tst_LinkPath::refusedTerrain_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::newRow("no file") << m_dir.filePath(QStringLiteral("none.tif"));
+    QTest::newRow("virtual file") << QStringLiteral("/vsimem/a.tif");
+    QTest::newRow("address") << QStringLiteral("http://127.0.0.1/a.tif");
+    QTest::newRow("no raster") << QStringLiteral(__FILE__);
+    QTest::newRow("folder") << m_dir.path();
+}
+
+void tst_LinkPath::refusedTerrain()
+{
+    GDALAllRegister();
+    QFETCH(QString, path);
+    std::string reason;
+    QVERIFY(!TerrainRaster::open(path.toStdString(), &reason));
+    QVERIFY(!reason.empty());
+}
+
+QTEST_MAIN(tst_LinkPath)
+#include "tst_LinkPath.moc"
