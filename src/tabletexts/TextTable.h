@@ -22,7 +22,7 @@ inline constexpr auto Texts = std::to_array<Text>({
     // files that cannot be read
     {"MESS_TAB_NO_FILE_NAME", "no file is named"},
     {"MESS_TAB_NOT_LOCAL", "tables are read from local files only"},
-    {"MESS_TAB_READ_ONLY", "tables of sites are not written"},
+    {"MESS_TAB_READ_ONLY", "tables are not written"},
     {"MESS_TAB_NO_READER", "no driver for it was found"},
     {"MESS_TAB_OUT_OF_MEMORY", "out of memory"},
     {"MESS_TAB_FOLDER", "this is a folder, not a file"},
@@ -83,6 +83,13 @@ inline constexpr auto Texts = std::to_array<Text>({
     {"MESS_TAB_NO_HEADER", "no header was found: none of the first rows names its columns"},
     {"MESS_TAB_NO_ROW", "there is a header in row %1, but no row below it"},
 
+    // tables that hold no links
+    {"MESS_TAB_SITES_NOT_LINKS", "this is a table of sites, not of links: no columns with "
+                                 "coordinates of both ends were recognised"},
+    {"MESS_TAB_NO_ENDS", "no columns with coordinates of both ends were recognised"},
+    {"MESS_TAB_ONE_END",
+     "no columns with coordinates of both ends were recognised: those of end %1 are missing"},
+
     // coordinate systems
     {"MESS_TAB_UNKNOWN_SRS", "the coordinate system \"%1\" is not known"},
     {"MESS_TAB_NO_WAY", "there is no way from the coordinate system \"%1\" to \"%2\""},
@@ -100,6 +107,25 @@ inline constexpr auto Texts = std::to_array<Text>({
     {"MESS_TAB_BEHIND_LAST",
      "the row goes on behind the last column: \"%1\" in column %2 has no header"},
     {"MESS_TAB_LOST_VALUE", "the value \"%1\" is lost: the column holds numbers"},
+
+    // links that cannot be read in full
+    {"MESS_TAB_NO_HEIGHTS", "no columns with antenna heights above ground were recognised"},
+    {"MESS_TAB_SEA_LEVEL",
+     "the heights in column \"%1\" are above sea level, not above ground: they are not used"},
+    {"MESS_TAB_NO_FREQUENCIES", "no column with frequencies was recognised"},
+    {"MESS_TAB_NO_HEIGHT", "the antenna height is empty"},
+    {"MESS_TAB_HEIGHT_UNREADABLE", "the antenna height \"%1\" cannot be read"},
+    {"MESS_TAB_NO_FREQUENCY", "the frequency is empty"},
+    {"MESS_TAB_FREQUENCY_UNREADABLE", "the frequency \"%1\" cannot be read"},
+    {"MESS_TAB_FREQUENCY_NOT_POSITIVE", "the frequency \"%1\" is not positive"},
+    {"MESS_TAB_AZIMUTH_UNREADABLE",
+     "the azimuth \"%1\" cannot be read: it is computed from the ends"},
+    {"MESS_TAB_TILT_UNREADABLE", "the tilt \"%1\" cannot be read"},
+    {"MESS_TAB_OFFSET_UNREADABLE",
+     "the offset \"%1\" cannot be read: the position is taken without it"},
+    {"MESS_TAB_ENDS_COINCIDE", "the ends of the link are less than a metre apart"},
+    {"MESS_TAB_LENGTH_DIFFERS",
+     "the stated length of %1 m does not fit the distance of the ends, which is %2 m"},
 
     // coordinates that cannot be read
     {"MESS_TAB_NO_COORDINATE", "the coordinate is empty"},

@@ -1,37 +1,10 @@
-#include <cpl_error.h>
-#include <cpl_string.h>
-#include <gdal_priv.h>
-#include <ogrsf_frmts.h>
+#include "DriverTesting.h"
 
 #include <QtTest>
 
 #include <cmath>
 
 namespace {
-
-/// Warnings that the library gave while this lives.
-class Warnings
-{
-public:
-    Warnings() { CPLPushErrorHandlerEx(take, this); }
-    ~Warnings() { CPLPopErrorHandler(); }
-    QStringList texts;
-
-private:
-    static void CPL_STDCALL take(CPLErr, CPLErrorNum, const char *text)
-    {
-        static_cast<Warnings *>(CPLGetErrorHandlerUserData())->texts += QString::fromUtf8(text);
-    }
-};
-
-QStringList problemsOf(OGRLayer &layer)
-{
-    QStringList items;
-    char **list = layer.GetMetadata("problems");
-    for (char **item = list; item && *item; ++item)
-        items += QString::fromUtf8(*item);
-    return items;
-}
 
 constexpr char Table[] = "Site ID;Longitude;Latitude;Height (m);Phone;Note\n"
                          "007;-3,25;47,5;30;+33612345678;a\n"
@@ -347,27 +320,20 @@ private Q_SLOTS:
     void refusesToWrite()
     {
         const Warnings warnings;
-        const QByteArray name =
-            "site:" + QFile::encodeName(m_folder.filePath(QStringLiteral("t.csv")));
+        const QByteArray name = "site:" + m_folder.path("t.csv");
 
         QVERIFY(!GDALDataset::Open(name.constData(), GDAL_OF_VECTOR | GDAL_OF_UPDATE));
     }
 
 private:
-    void write(const char *name, const QByteArray &text)
-    {
-        QFile file(m_folder.filePath(QLatin1String(name)));
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(text) > 0);
-    }
+    void write(const char *name, const QByteArray &text) { QVERIFY(m_folder.write(name, text)); }
     GDALDatasetUniquePtr open(const char *options, const char *name) const
     {
-        const QByteArray connection = QByteArray("site:") + options +
-                                      QFile::encodeName(m_folder.filePath(QLatin1String(name)));
-        return GDALDatasetUniquePtr(GDALDataset::Open(connection.constData(), GDAL_OF_VECTOR));
+        return m_folder.open(QByteArray("site:") + options, name);
     }
     GDALDatasetUniquePtr open(const char *name) const { return open("", name); }
 
-    QTemporaryDir m_folder;
+    TableFolder m_folder;
 };
 
 QTEST_GUILESS_MAIN(SiteLayer)

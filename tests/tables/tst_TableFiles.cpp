@@ -1,5 +1,5 @@
 #include "bytes/Refusal.h"
-#include "ogr/SiteTable.h"
+#include "ogr/TableFile.h"
 
 #include <QtTest>
 
@@ -41,7 +41,7 @@ Outcome openTable(const QString &path)
 {
     Outcome outcome;
     try {
-        const auto table = SiteTable::open(QFile::encodeName(path).toStdString(), {});
+        const auto table = TableFile::open(QFile::encodeName(path).toStdString(), {});
         const TableProfile &profile = table->facts().table;
         outcome.verdict = QStringLiteral("open");
         outcome.rows = static_cast<qint64>(profile.rowCount);

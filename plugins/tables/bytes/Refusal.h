@@ -7,7 +7,7 @@
 
 namespace vlt::tables {
 
-/// Why a file is not read as a table of sites.
+/// Why a file is not read as a table.
 enum class Refusal {
     CannotRead,         ///< missing, a directory, no permission, input error
     Empty,              ///< nothing in it, or a header without rows
@@ -18,6 +18,7 @@ enum class Refusal {
     Malformed,          ///< damaged or cut short
     OneColumn,          ///< text without a delimiter
     NoHeader,           ///< no row names the columns
+    NoLinks,            ///< a table, but not one of links
     BadOption,          ///< an option of the connection string or an open option cannot be used
 };
 

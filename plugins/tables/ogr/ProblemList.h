@@ -1,6 +1,6 @@
 #pragma once
 
-#include "sites/SitePlacer.h"
+#include "table/RowProblem.h"
 
 #include <vector>
 

@@ -11,7 +11,7 @@ namespace vlt::tables {
 namespace {
 
 constexpr int RowsLookedAt = 50;
-constexpr int FewestSiteWords = 2;
+constexpr int FewestWords = 2;
 constexpr int NumbersPerHeader = 5; ///< at most one cell in so many may be a number, such as a year
 
 /// A header cell on one line.
@@ -34,7 +34,7 @@ bool isValue(const Cell &cell)
 
 } // namespace
 
-std::optional<Header> findHeader(const Sheet &sheet, size_t &widest)
+std::optional<Header> findHeader(const Sheet &sheet, TableKind kind, size_t &widest)
 {
     std::optional<Header> best;
     std::optional<Header> firstWide; ///< the first row with two cells or more
@@ -52,28 +52,28 @@ std::optional<Header> findHeader(const Sheet &sheet, size_t &widest)
         header.fingerprint = rows->fingerprint();
         header.titles = titles;
         int values = 0;
-        std::set<std::string> siteNames;
+        std::set<std::string> tableNames;
         for (const Cell &cell : row.cells) {
             header.names.emplace(cell.column, nameOf(cell));
             values += isValue(cell) ? 1 : 0;
-            if (!isValue(cell) && isSiteWord(cell.text))
-                siteNames.insert(lowerCase(trimmed(cell.text)));
+            if (!isValue(cell) && isTableWord(cell.text, kind))
+                tableNames.insert(lowerCase(trimmed(cell.text)));
             if (titles.size() < static_cast<size_t>(RowsLookedAt) * 8)
                 titles.push_back(cellText(cell));
         }
-        header.siteWords = static_cast<int>(siteNames.size());
+        header.wordCount = static_cast<int>(tableNames.size());
         widest = std::max(widest, row.cells.size());
         if (best)
             best->hasRowsBelow = true;
         if (firstWide)
             firstWide->hasRowsBelow = true;
-        const bool wordy = header.siteWords >= FewestSiteWords &&
+        const bool wordy = header.wordCount >= FewestWords &&
                            values * NumbersPerHeader <= static_cast<int>(row.cells.size());
         if (!firstWide && row.cells.size() >= 2) {
             firstWide = header;
             firstWideIsText = values == 0;
         }
-        if (wordy && (!best || header.siteWords > best->siteWords))
+        if (wordy && (!best || header.wordCount > best->wordCount))
             best = std::move(header);
     }
     if (best)

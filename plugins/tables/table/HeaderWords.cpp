@@ -27,6 +27,33 @@ constexpr std::array SiteWords = {
     "secteur",  "antenna",     "antenne",     "antena",      "easting",     "northing",
     "cellname", "coordinates", "longitudine", "site_id",     "gps"};
 
+/// Those that tables of links have besides.
+constexpr std::array LinkWords = {
+    "link", "links",  "liaison",  "hop",       "tx",        "rx",       "frequency", "freq",
+    "band", "length", "distance", "longueur",  "path",      "callsign", "call",      "dx",
+    "dy",   "dł",     "sz",       "fréquence", "frequence", "frequenz", "länge"};
+
+/// What an end may be written together with.
+constexpr std::array WordsWithEnd = {"x",         "y",      "lon",      "long",      "lng",
+                                     "longitude", "lat",    "latitude", "easting",   "northing",
+                                     "azimuth",   "height", "tilt",     "dx",        "dy",
+                                     "site",      "name",   "id",       "frequency", "freq"};
+constexpr std::array FusedEnds = {"start", "end", "from", "to", "tx", "rx",
+                                  "a",     "b",   "0",    "1",  "2"};
+
+/// How many bytes of a word come before the end that it is written together with; 0 without one.
+size_t sizeBeforeEnd(std::string_view word)
+{
+    for (const std::string_view end : FusedEnds) {
+        if (word.size() <= end.size() || !word.ends_with(end))
+            continue;
+        const std::string_view before = word.substr(0, word.size() - end.size());
+        if (std::find(WordsWithEnd.begin(), WordsWithEnd.end(), before) != WordsWithEnd.end())
+            return before.size();
+    }
+    return 0;
+}
+
 } // namespace
 
 std::string lowerCase(std::string_view text)
@@ -57,11 +84,27 @@ std::vector<std::string> wordsOf(std::string_view name)
     return words;
 }
 
-bool isSiteWord(std::string_view name)
+std::vector<std::string> linkWordsOf(std::string_view name)
 {
-    const std::vector<std::string> words = wordsOf(name);
-    return std::any_of(words.begin(), words.end(), [](const std::string &word) {
-        return std::find(SiteWords.begin(), SiteWords.end(), word) != SiteWords.end();
+    std::vector<std::string> words;
+    for (const std::string &word : wordsOf(name)) {
+        const size_t cut = sizeBeforeEnd(word);
+        if (cut > 0)
+            words.push_back(word.substr(0, cut));
+        words.push_back(word.substr(cut));
+    }
+    return words;
+}
+
+bool isTableWord(std::string_view name, TableKind kind)
+{
+    const auto isIn = [](const auto &list, const std::string &word) {
+        return std::find(list.begin(), list.end(), word) != list.end();
+    };
+    const bool links = kind == TableKind::Links;
+    const std::vector<std::string> words = links ? linkWordsOf(name) : wordsOf(name);
+    return std::any_of(words.begin(), words.end(), [&](const std::string &word) {
+        return isIn(SiteWords, word) || (links && isIn(LinkWords, word));
     });
 }
 

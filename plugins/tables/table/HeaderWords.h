@@ -1,5 +1,7 @@
 #pragma once
 
+#include "table/TableKind.h"
+
 #include <string>
 #include <string_view>
 #include <vector>
@@ -11,8 +13,12 @@ namespace vlt::tables {
 /// wgs84; letters above ASCII stay.
 std::vector<std::string> wordsOf(std::string_view name);
 
-/// Whether a column name holds a word that tables of sites use.
-bool isSiteWord(std::string_view name);
+/// The words of a column name in a table of links: like wordsOf(), and an end of the link that is
+/// written together with what it has is a word of its own: "XStart" gives x, start; "lat1" lat, 1.
+std::vector<std::string> linkWordsOf(std::string_view name);
+
+/// Whether a column name holds a word that tables of that kind use.
+bool isTableWord(std::string_view name, TableKind kind);
 
 /// Lower case of ASCII letters.
 std::string lowerCase(std::string_view text);

@@ -22,17 +22,19 @@ struct Candidate
     Header header;
 };
 
-bool isConvincing(const Header &header)
+bool isConvincing(const Header &header, const TableHints &hints)
 {
-    return header.siteWords >= 2 && header.names.size() >= 2 && header.hasRowsBelow;
+    return hints.isWanted(header) && header.wordCount >= 2 && header.names.size() >= 2 &&
+           header.hasRowsBelow;
 }
 
-/// Visible sheets before hidden ones, then the one with more words of sites, then the earlier.
-bool isBetter(const Candidate &candidate, const Candidate &best)
+/// Visible sheets before hidden ones, then those that are wanted, then the one with more words of
+/// its kind, then the earlier.
+bool isBetter(const Candidate &candidate, const Candidate &best, const TableHints &hints)
 {
-    const auto rank = [](const Candidate &c) {
-        return std::make_tuple(!c.sheet->hidden(), c.header.hasRowsBelow,
-                               c.header.siteWords >= 2 ? c.header.siteWords : 0);
+    const auto rank = [&hints](const Candidate &c) {
+        return std::make_tuple(!c.sheet->hidden(), hints.isWanted(c.header), c.header.hasRowsBelow,
+                               c.header.wordCount >= 2 ? c.header.wordCount : 0);
     };
     return rank(candidate) > rank(best);
 }
@@ -49,13 +51,13 @@ Candidate chooseSheet(Workbook &workbook, const TableHints &hints)
         if (!hints.sheet.empty() && sheet->name() != hints.sheet)
             continue;
         anySheet = true;
-        std::optional<Header> header = findHeader(*sheet, widest);
+        std::optional<Header> header = findHeader(*sheet, hints.kind, widest);
         if (!header)
             continue;
         Candidate candidate = {sheet, std::move(*header)};
-        if (!best.sheet || isBetter(candidate, best))
+        if (!best.sheet || isBetter(candidate, best, hints))
             best = std::move(candidate);
-        if (isConvincing(best.header) && !best.sheet->hidden())
+        if (isConvincing(best.header, hints) && !best.sheet->hidden())
             break;
     }
     if (best.sheet)
@@ -175,7 +177,7 @@ Table readTable(Workbook &workbook, const TableHints &hints)
         settled = chosen.sheet->settleEncoding();
         if (!settled) {
             size_t widest = 0;
-            chosen.header = findHeader(*chosen.sheet, widest).value_or(chosen.header);
+            chosen.header = findHeader(*chosen.sheet, hints.kind, widest).value_or(chosen.header);
         } else if (profile->rowCount == 0)
             throw RefusedFile(Refusal::Empty, "MESS_TAB_NO_ROW",
                               {std::to_string(profile->header.row)});

@@ -44,8 +44,11 @@ struct TableProfile
 /// What the user says about the table; empty members are found out.
 struct TableHints
 {
+    TableKind kind = TableKind::Sites;
     std::string sheet;
     bool textOnly = false; ///< keep every column as text
+    /// Whether a header is that of the wanted table: a sheet with such a header is preferred.
+    bool (*isWanted)(const Header &header) = [](const Header &) { return true; };
 };
 
 /// A table: the sheet of a workbook that holds one, and what is known about it.

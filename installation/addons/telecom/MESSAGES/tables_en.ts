@@ -12,8 +12,8 @@
         <translation>tables are read from local files only</translation>
     </message>
     <message id="MESS_TAB_READ_ONLY">
-        <source>tables of sites are not written</source>
-        <translation>tables of sites are not written</translation>
+        <source>tables are not written</source>
+        <translation>tables are not written</translation>
     </message>
     <message id="MESS_TAB_NO_READER">
         <source>no driver for it was found</source>
@@ -215,6 +215,18 @@
         <source>there is a header in row %1, but no row below it</source>
         <translation>there is a header in row %1, but no row below it</translation>
     </message>
+    <message id="MESS_TAB_SITES_NOT_LINKS">
+        <source>this is a table of sites, not of links: no columns with coordinates of both ends were recognised</source>
+        <translation>this is a table of sites, not of links: no columns with coordinates of both ends were recognised</translation>
+    </message>
+    <message id="MESS_TAB_NO_ENDS">
+        <source>no columns with coordinates of both ends were recognised</source>
+        <translation>no columns with coordinates of both ends were recognised</translation>
+    </message>
+    <message id="MESS_TAB_ONE_END">
+        <source>no columns with coordinates of both ends were recognised: those of end %1 are missing</source>
+        <translation>no columns with coordinates of both ends were recognised: those of end %1 are missing</translation>
+    </message>
     <message id="MESS_TAB_UNKNOWN_SRS">
         <source>the coordinate system "%1" is not known</source>
         <translation>the coordinate system "%1" is not known</translation>
@@ -250,6 +262,58 @@
     <message id="MESS_TAB_LOST_VALUE">
         <source>the value "%1" is lost: the column holds numbers</source>
         <translation>the value "%1" is lost: the column holds numbers</translation>
+    </message>
+    <message id="MESS_TAB_NO_HEIGHTS">
+        <source>no columns with antenna heights above ground were recognised</source>
+        <translation>no columns with antenna heights above ground were recognised</translation>
+    </message>
+    <message id="MESS_TAB_SEA_LEVEL">
+        <source>the heights in column "%1" are above sea level, not above ground: they are not used</source>
+        <translation>the heights in column "%1" are above sea level, not above ground: they are not used</translation>
+    </message>
+    <message id="MESS_TAB_NO_FREQUENCIES">
+        <source>no column with frequencies was recognised</source>
+        <translation>no column with frequencies was recognised</translation>
+    </message>
+    <message id="MESS_TAB_NO_HEIGHT">
+        <source>the antenna height is empty</source>
+        <translation>the antenna height is empty</translation>
+    </message>
+    <message id="MESS_TAB_HEIGHT_UNREADABLE">
+        <source>the antenna height "%1" cannot be read</source>
+        <translation>the antenna height "%1" cannot be read</translation>
+    </message>
+    <message id="MESS_TAB_NO_FREQUENCY">
+        <source>the frequency is empty</source>
+        <translation>the frequency is empty</translation>
+    </message>
+    <message id="MESS_TAB_FREQUENCY_UNREADABLE">
+        <source>the frequency "%1" cannot be read</source>
+        <translation>the frequency "%1" cannot be read</translation>
+    </message>
+    <message id="MESS_TAB_FREQUENCY_NOT_POSITIVE">
+        <source>the frequency "%1" is not positive</source>
+        <translation>the frequency "%1" is not positive</translation>
+    </message>
+    <message id="MESS_TAB_AZIMUTH_UNREADABLE">
+        <source>the azimuth "%1" cannot be read: it is computed from the ends</source>
+        <translation>the azimuth "%1" cannot be read: it is computed from the ends</translation>
+    </message>
+    <message id="MESS_TAB_TILT_UNREADABLE">
+        <source>the tilt "%1" cannot be read</source>
+        <translation>the tilt "%1" cannot be read</translation>
+    </message>
+    <message id="MESS_TAB_OFFSET_UNREADABLE">
+        <source>the offset "%1" cannot be read: the position is taken without it</source>
+        <translation>the offset "%1" cannot be read: the position is taken without it</translation>
+    </message>
+    <message id="MESS_TAB_ENDS_COINCIDE">
+        <source>the ends of the link are less than a metre apart</source>
+        <translation>the ends of the link are less than a metre apart</translation>
+    </message>
+    <message id="MESS_TAB_LENGTH_DIFFERS">
+        <source>the stated length of %1 m does not fit the distance of the ends, which is %2 m</source>
+        <translation>the stated length of %1 m does not fit the distance of the ends, which is %2 m</translation>
     </message>
     <message id="MESS_TAB_NO_COORDINATE">
         <source>the coordinate is empty</source>

@@ -12,8 +12,8 @@
         <translation>seuls les tableaux qui se trouvent dans des fichiers locaux sont lus</translation>
     </message>
     <message id="MESS_TAB_READ_ONLY">
-        <source>tables of sites are not written</source>
-        <translation>les tableaux de sites ne peuvent pas être modifiés</translation>
+        <source>tables are not written</source>
+        <translation>les tableaux ne peuvent pas être modifiés</translation>
     </message>
     <message id="MESS_TAB_NO_READER">
         <source>no driver for it was found</source>
@@ -215,6 +215,18 @@
         <source>there is a header in row %1, but no row below it</source>
         <translation>il y a un en-tête à la ligne %1, mais aucune ligne en dessous</translation>
     </message>
+    <message id="MESS_TAB_SITES_NOT_LINKS">
+        <source>this is a table of sites, not of links: no columns with coordinates of both ends were recognised</source>
+        <translation>ce tableau contient des sites, pas des liaisons&#xa0;: aucune colonne avec les coordonnées des deux extrémités n'a été reconnue</translation>
+    </message>
+    <message id="MESS_TAB_NO_ENDS">
+        <source>no columns with coordinates of both ends were recognised</source>
+        <translation>aucune colonne avec les coordonnées des deux extrémités n'a été reconnue</translation>
+    </message>
+    <message id="MESS_TAB_ONE_END">
+        <source>no columns with coordinates of both ends were recognised: those of end %1 are missing</source>
+        <translation>aucune colonne avec les coordonnées des deux extrémités n'a été reconnue&#xa0;: celles de l'extrémité %1 manquent</translation>
+    </message>
     <message id="MESS_TAB_UNKNOWN_SRS">
         <source>the coordinate system "%1" is not known</source>
         <translation>le système de coordonnées «&#xa0;%1&#xa0;» est inconnu</translation>
@@ -250,6 +262,58 @@
     <message id="MESS_TAB_LOST_VALUE">
         <source>the value "%1" is lost: the column holds numbers</source>
         <translation>la valeur «&#xa0;%1&#xa0;» est perdue&#xa0;: la colonne contient des nombres</translation>
+    </message>
+    <message id="MESS_TAB_NO_HEIGHTS">
+        <source>no columns with antenna heights above ground were recognised</source>
+        <translation>aucune colonne avec la hauteur des antennes au-dessus du sol n'a été reconnue</translation>
+    </message>
+    <message id="MESS_TAB_SEA_LEVEL">
+        <source>the heights in column "%1" are above sea level, not above ground: they are not used</source>
+        <translation>les hauteurs de la colonne «&#xa0;%1&#xa0;» sont comptées depuis le niveau de la mer, pas depuis le sol&#xa0;: elles ne sont pas utilisées</translation>
+    </message>
+    <message id="MESS_TAB_NO_FREQUENCIES">
+        <source>no column with frequencies was recognised</source>
+        <translation>aucune colonne avec des fréquences n'a été reconnue</translation>
+    </message>
+    <message id="MESS_TAB_NO_HEIGHT">
+        <source>the antenna height is empty</source>
+        <translation>la hauteur de l'antenne est vide</translation>
+    </message>
+    <message id="MESS_TAB_HEIGHT_UNREADABLE">
+        <source>the antenna height "%1" cannot be read</source>
+        <translation>la hauteur d'antenne «&#xa0;%1&#xa0;» ne peut pas être lue</translation>
+    </message>
+    <message id="MESS_TAB_NO_FREQUENCY">
+        <source>the frequency is empty</source>
+        <translation>la fréquence est vide</translation>
+    </message>
+    <message id="MESS_TAB_FREQUENCY_UNREADABLE">
+        <source>the frequency "%1" cannot be read</source>
+        <translation>la fréquence «&#xa0;%1&#xa0;» ne peut pas être lue</translation>
+    </message>
+    <message id="MESS_TAB_FREQUENCY_NOT_POSITIVE">
+        <source>the frequency "%1" is not positive</source>
+        <translation>la fréquence «&#xa0;%1&#xa0;» n'est pas positive</translation>
+    </message>
+    <message id="MESS_TAB_AZIMUTH_UNREADABLE">
+        <source>the azimuth "%1" cannot be read: it is computed from the ends</source>
+        <translation>l'azimut «&#xa0;%1&#xa0;» ne peut pas être lu&#xa0;: il est calculé à partir des extrémités</translation>
+    </message>
+    <message id="MESS_TAB_TILT_UNREADABLE">
+        <source>the tilt "%1" cannot be read</source>
+        <translation>l'inclinaison «&#xa0;%1&#xa0;» ne peut pas être lue</translation>
+    </message>
+    <message id="MESS_TAB_OFFSET_UNREADABLE">
+        <source>the offset "%1" cannot be read: the position is taken without it</source>
+        <translation>le décalage «&#xa0;%1&#xa0;» ne peut pas être lu&#xa0;: la position est prise sans lui</translation>
+    </message>
+    <message id="MESS_TAB_ENDS_COINCIDE">
+        <source>the ends of the link are less than a metre apart</source>
+        <translation>les extrémités de la liaison sont à moins d'un mètre l'une de l'autre</translation>
+    </message>
+    <message id="MESS_TAB_LENGTH_DIFFERS">
+        <source>the stated length of %1 m does not fit the distance of the ends, which is %2 m</source>
+        <translation>la longueur indiquée de %1 m ne correspond pas à la distance des extrémités, qui est de %2 m</translation>
     </message>
     <message id="MESS_TAB_NO_COORDINATE">
         <source>the coordinate is empty</source>

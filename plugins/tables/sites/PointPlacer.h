@@ -1,22 +1,14 @@
 #pragma once
 
 #include "sites/Angle.h"
-#include "sites/SiteLayout.h"
+#include "sites/CoordinateColumns.h"
+#include "table/RowProblem.h"
 #include "table/Table.h"
 
 #include <string>
 #include <vector>
 
 namespace vlt::tables {
-
-/// One thing in a row that keeps it from being read in full.
-struct RowProblem
-{
-    int64_t row = 0;     ///< number in the file; 0 for the table as a whole
-    std::string column;  ///< name of the field; empty for the row as a whole
-    bool isError = true; ///< the site has no position; otherwise only a value is lost
-    std::string text;    ///< English, of the table of texts
-};
 
 /// A position in the file's coordinate system.
 struct Position
@@ -28,12 +20,13 @@ struct Position
 
 /// Reads the position of each row. Nothing that cannot be read becomes 0: the row gets a problem
 /// instead.
-class SitePlacer
+class PointPlacer
 {
 public:
-    SitePlacer(const TableProfile &table, const SiteLayout &layout)
+    PointPlacer(const TableProfile &table, const PointFields &fields, CoordinateUnit unit)
         : m_table(&table)
-        , m_layout(&layout)
+        , m_fields(fields)
+        , m_unit(unit)
     {}
 
     /// `cells` holds the cell of each field, null where it is empty. A problem is appended where
@@ -49,7 +42,11 @@ private:
                        tabletexts::TextId why) const;
 
     const TableProfile *m_table;
-    const SiteLayout *m_layout;
+    PointFields m_fields;
+    CoordinateUnit m_unit;
 };
+
+/// Text of the cell of a field, trimmed; empty where there is none (also for field -1).
+std::string fieldText(const std::vector<const Cell *> &cells, int field);
 
 } // namespace vlt::tables

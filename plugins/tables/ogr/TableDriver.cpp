@@ -1,37 +1,55 @@
 #include "bytes/Refusal.h"
 #include "connection/ConnectionString.h"
+#include "ogr/LinkEndLayer.h"
+#include "ogr/LinkLayer.h"
 #include "ogr/SiteLayer.h"
 
 #include <cpl_error.h>
 #include <gdal_priv.h>
 
 #include <memory>
+#include <vector>
 
 namespace vlt::tables {
 
 namespace {
 
+/// The library has room for one prefix in a driver's description.
 constexpr char Prefix[] = "site:";
+constexpr char LinkPrefix[] = "link:";
 
-class SiteDataset final : public GDALDataset
+class TableDataset final : public GDALDataset
 {
 public:
-    explicit SiteDataset(std::unique_ptr<SiteLayer> layer) : m_layer(std::move(layer)) {}
+    explicit TableDataset(const TableSource &source)
+    {
+        if (std::holds_alternative<SiteLayout>(source.facts().layout)) {
+            m_layers.push_back(std::make_unique<SiteLayer>(source));
+            return;
+        }
+        m_layers.push_back(std::make_unique<LinkLayer>(source));
+        m_layers.push_back(std::make_unique<LinkEndLayer>(source));
+    }
 
-    int GetLayerCount() override { return 1; }
-    OGRLayer *GetLayer(int index) override { return index == 0 ? m_layer.get() : nullptr; }
+    int GetLayerCount() override { return static_cast<int>(m_layers.size()); }
+    OGRLayer *GetLayer(int index) override
+    {
+        return index >= 0 && index < GetLayerCount() ? m_layers[static_cast<size_t>(index)].get()
+                                                     : nullptr;
+    }
 
 private:
-    std::unique_ptr<SiteLayer> m_layer;
+    std::vector<std::unique_ptr<TableLayer>> m_layers;
 };
 
-TableOptions optionsOf(const GDALOpenInfo &info)
+TableOptions optionsOf(const GDALOpenInfo &info, TableKind kind)
 {
     const auto text = [&info](const char *name) {
         const char *value = CSLFetchNameValue(info.papszOpenOptions, name);
         return std::string(value ? value : "");
     };
     TableOptions options;
+    options.kind = kind;
     options.sheet = text("SHEET");
     options.encoding = text("ENCODING");
     options.textOnly = EQUAL(text("TYPES").c_str(), "TEXT");
@@ -49,7 +67,8 @@ TableOptions optionsOf(const GDALOpenInfo &info)
 
 int identify(GDALOpenInfo *info)
 {
-    return STARTS_WITH_CI(info->pszFilename, Prefix);
+    return STARTS_WITH_CI(info->pszFilename, Prefix) ||
+           STARTS_WITH_CI(info->pszFilename, LinkPrefix);
 }
 
 /// Names that GDAL's other file systems would fetch or unpack are refused: tables are local files.
@@ -73,10 +92,13 @@ GDALDataset *open(GDALOpenInfo *info)
     }
     try {
         refuseRemote(connection->path);
-        auto layer =
-            std::make_unique<SiteLayer>(SiteTable::open(connection->path, optionsOf(*info)),
-                                        connection->option("s_srs"), connection->option("t_srs"));
-        auto dataset = std::make_unique<SiteDataset>(std::move(layer));
+        const TableKind kind = connection->kind == "link" ? TableKind::Links : TableKind::Sites;
+        TableSource source;
+        source.file = TableFile::open(connection->path, optionsOf(*info, kind));
+        source.systems = std::make_shared<TableSystems>(
+            source.facts().declaration(), connection->option("s_srs"), connection->option("t_srs"));
+        source.warnings = std::make_shared<RowWarnings>();
+        auto dataset = std::make_unique<TableDataset>(source);
         dataset->SetDescription(info->pszFilename);
         return dataset.release();
     } catch (const RefusedFile &refused) {
@@ -91,7 +113,7 @@ GDALDataset *open(GDALOpenInfo *info)
 constexpr char OpenOptions[] = "<OpenOptionList>"
                                "<Option name='SHEET' type='string' description='Sheet of a "
                                "workbook to read; by default the one whose header "
-                               "names sites'/>"
+                               "names sites or links'/>"
                                "<Option name='ENCODING' type='string' description='Encoding of a "
                                "text file, such as CP1250; by default found from "
                                "its bytes'/>"
@@ -120,7 +142,8 @@ void RegisterOGRVltTables()
     auto *driver = new GDALDriver();
     driver->SetDescription(Name);
     driver->SetMetadataItem(GDAL_DMD_LONGNAME,
-                            "Tables of telecom sites (CSV, XLSX, XLS, SpreadsheetML 2003)");
+                            "Tables of telecom sites (site:) and microwave links (link:) in CSV, "
+                            "XLSX, XLS and SpreadsheetML 2003");
     driver->SetMetadataItem(GDAL_DCAP_VECTOR, "YES");
     driver->SetMetadataItem(GDAL_DCAP_OPEN, "YES");
     driver->SetMetadataItem(GDAL_DMD_CONNECTION_PREFIX, vlt::tables::Prefix);

@@ -1,0 +1,306 @@
+#include "links/LinkLayout.h"
+
+#include "bytes/Refusal.h"
+#include "links/EndWords.h"
+#include "links/Quantity.h"
+#include "table/HeaderWords.h"
+
+#include <algorithm>
+#include <initializer_list>
+
+namespace vlt::tables {
+
+namespace {
+
+using Words = std::vector<std::string>;
+using WordList = std::initializer_list<std::string_view>;
+
+const WordList FrequencyWords = {"frequency",  "freq",      "fréquence", "frequence",
+                                 "frecuencia", "frequenza", "frequenz",  "f"};
+const WordList HeightWords = {"height", "hauteur", "höhe", "hoehe", "altura", "altezza", "agl"};
+const WordList SeaLevelWords = {"npm", "amsl", "asl", "msl", "sea", "ngf"};
+/// Heights of something else than the antenna.
+const WordList OtherHeightWords = {"terrain", "ground",    "tower",   "mast",
+                                   "pylon",   "structure", "building"};
+
+bool isIn(WordList list, std::string_view word)
+{
+    return std::find(list.begin(), list.end(), word) != list.end();
+}
+
+bool holds(const Words &words, WordList list)
+{
+    return std::any_of(words.begin(), words.end(),
+                       [list](const std::string &word) { return isIn(list, word); });
+}
+
+bool startsWith(const Words &words, WordList list)
+{
+    return !words.empty() && isIn(list, words.front());
+}
+
+/// How well a column fits: the best one is taken, among equals the first; 0 does not fit at all.
+using Fit = int;
+
+Fit fitOfIdentifier(const EndWords &name)
+{
+    static const std::vector<Words> Accepted = {{"site"},         {"name"},     {"id"},
+                                                {"nom"},          {"station"},  {"node"},
+                                                {"call", "sign"}, {"callsign"}, {"end"}};
+    // a bare "End" or "Start" is as likely a date
+    if (name.words.empty())
+        return name.isNumbered || isIn({"start", "end"}, name.endWord) ? 0 : 1;
+    const bool antenna = name.words == Words{"antenna"} && name.endPlace == 1 && !name.isNumbered;
+    const bool accepted = std::find(Accepted.begin(), Accepted.end(), name.words) != Accepted.end();
+    return accepted || antenna ? 1 : 0;
+}
+
+bool isAboveSea(const EndWords &name)
+{
+    return holds(name.words, SeaLevelWords);
+}
+
+bool isHeight(const EndWords &name)
+{
+    const bool polish = name.words.size() >= 2 && name.words[0] == "h" && name.words[1] == "t";
+    return holds(name.words, HeightWords) || polish;
+}
+
+Fit fitOfHeight(const EndWords &name)
+{
+    if (!isHeight(name) || isAboveSea(name))
+        return 0;
+    const bool plain = startsWith(name.words, HeightWords) ||
+                       (startsWith(name.words, {"antenna"}) && name.words[1] == "height");
+    return plain ? 2 : holds(name.words, OtherHeightWords) ? 0 : 1;
+}
+
+Fit fitOfSeaLevelHeight(const EndWords &name)
+{
+    return isHeight(name) && isAboveSea(name) ? 1 : 0;
+}
+
+Fit fitOfFrequency(const EndWords &name)
+{
+    if (startsWith(name.words, FrequencyWords) || startsWith(name.words, {"tx1"}))
+        return 2;
+    const bool other = holds(name.words, {"rx", "rx1", "band", "spacing", "separation"});
+    return !other && (holds(name.words, FrequencyWords) || startsWith(name.words, {"tx2"})) ? 1 : 0;
+}
+
+template<const char *...First>
+Fit fitOfFirstWord(const EndWords &name)
+{
+    return (... || (!name.words.empty() && name.words.front() == First)) ? 2
+           : (... || (std::find(name.words.begin(), name.words.end(), First) != name.words.end()))
+               ? 1
+               : 0;
+}
+
+constexpr char Azimuth[] = "azimuth";
+constexpr char Azimut[] = "azimut";
+constexpr char Azi[] = "azi";
+constexpr char Tilt[] = "tilt";
+constexpr char Dx[] = "dx";
+constexpr char Dy[] = "dy";
+
+Fit fitOfLinkName(const EndWords &name)
+{
+    static const std::vector<Words> ByRank = {
+        {"name"},        {"link"},      {"link", "name"}, {"link", "id"}, {"id"},        {"hop"},
+        {"hop", "name"}, {"hop", "id"}, {"path", "name"}, {"liaison"},    {"cml", "id"},
+    };
+    const auto found = std::find(ByRank.begin(), ByRank.end(), name.words);
+    return static_cast<Fit>(ByRank.end() - found);
+}
+
+Fit fitOfBand(const EndWords &name)
+{
+    if (holds(name.words, {"width", "bandwidth", "spacing", "separation", "rx"}))
+        return 0;
+    const bool frequency = startsWith(name.words, FrequencyWords);
+    if (frequency && name.words.size() >= 2 && name.words[1] == "band")
+        return 3;
+    return frequency ? 2 : startsWith(name.words, {"band"}) ? 1 : 0;
+}
+
+Fit fitOfLength(const EndWords &name)
+{
+    Words words = name.words;
+    words.erase(std::remove_if(words.begin(), words.end(),
+                               [](const std::string &word) {
+                                   return metresPer(word) || isIn({"path", "link", "hop"}, word);
+                               }),
+                words.end());
+    return words == Words{"length"} || words == Words{"pathlength"}   ? 2
+           : words == Words{"distance"} || words == Words{"longueur"} ? 1
+                                                                      : 0;
+}
+
+/// All column names, taken apart.
+using Names = std::vector<EndWords>;
+
+int bestFit(const Names &names, LinkEndId end, Fit (*fitOf)(const EndWords &name))
+{
+    int best = -1;
+    Fit bestFit = 0;
+    for (size_t i = 0; i < names.size(); ++i)
+        if (const Fit fit = names[i].end == end ? fitOf(names[i]) : 0; fit > bestFit) {
+            best = static_cast<int>(i);
+            bestFit = fit;
+        }
+    return best;
+}
+
+Names readNames(const std::vector<Field> &fields, EndStyle style)
+{
+    Names names;
+    names.reserve(fields.size());
+    for (const Field &field : fields)
+        names.push_back(readEndWords(field.name, style));
+    return names;
+}
+
+PointFields findEnd(const Names &names, LinkEndId end, const std::vector<Field> &fields)
+{
+    FieldWords words(names.size());
+    for (size_t i = 0; i < names.size(); ++i)
+        if (names[i].end == end)
+            words[i] = names[i].words;
+    return findPoint(words, fields);
+}
+
+/// Where the ends are, and the names as the table's way to tell ends apart has them.
+struct FoundEnds
+{
+    Names names;
+    PointFields a;
+    PointFields b;
+    bool areNumbered = false;
+
+    bool found() const { return a.found() && b.found(); }
+};
+
+FoundEnds findEnds(const std::vector<Field> &fields, EndStyle style)
+{
+    FoundEnds ends;
+    ends.names = readNames(fields, style);
+    ends.a = findEnd(ends.names, LinkEndId::A, fields);
+    ends.b = findEnd(ends.names, LinkEndId::B, fields);
+    ends.areNumbered = ends.found() &&
+                       ends.names[static_cast<size_t>(ends.a.xField())].isNumbered &&
+                       ends.names[static_cast<size_t>(ends.b.xField())].isNumbered;
+    return ends;
+}
+
+FoundEnds findEnds(const std::vector<Field> &fields)
+{
+    FoundEnds ends = findEnds(fields, EndStyle::Names);
+    if (!ends.found())
+        if (FoundEnds zero = findEnds(fields, EndStyle::Zero); zero.found())
+            return zero;
+    if (!ends.found() || ends.areNumbered)
+        if (FoundEnds numbered = findEnds(fields, EndStyle::Numbers); numbered.found())
+            return numbered;
+    return ends;
+}
+
+[[noreturn]] void refuse(const FoundEnds &ends, const std::vector<Field> &fields)
+{
+    if (ends.a.found() || ends.b.found())
+        throw RefusedFile(Refusal::NoLinks, "MESS_TAB_ONE_END", {ends.a.found() ? "B" : "A"});
+    FieldWords words;
+    for (const Field &field : fields)
+        words.emplace_back(wordsOf(field.name));
+    if (findPoint(words, fields).found())
+        throw RefusedFile(Refusal::NoLinks, "MESS_TAB_SITES_NOT_LINKS");
+    throw RefusedFile(Refusal::NoLinks, "MESS_TAB_NO_ENDS");
+}
+
+std::string findFormat(const TableProfile &table, bool numbered)
+{
+    std::vector<std::string> texts = table.header.titles;
+    texts.push_back(table.sheet);
+    for (const std::string &text : texts) {
+        const Words words = wordsOf(text);
+        for (const char *tool : {"asset", "atoll"})
+            if (std::find(words.begin(), words.end(), tool) != words.end())
+                return tool;
+    }
+    return numbered ? "generic (numbered ends)" : "generic (ends side by side)";
+}
+
+QuantityField quantityField(int field, UnitOf unitOf, const std::vector<Field> &fields)
+{
+    return {field,
+            field < 0 ? std::nullopt : unitInName(fields[static_cast<size_t>(field)].name, unitOf)};
+}
+
+LinkEndFields endFields(const Names &names, LinkEndId end, const PointFields &point,
+                        const std::vector<Field> &all)
+{
+    const auto lengths = [&](Fit (*fitOf)(const EndWords &)) {
+        return quantityField(bestFit(names, end, fitOf), metresPer, all);
+    };
+    LinkEndFields fields;
+    fields.point = point;
+    fields.identifier = bestFit(names, end, fitOfIdentifier);
+    fields.height = lengths(fitOfHeight);
+    if (!fields.height.found())
+        fields.seaLevelHeight = bestFit(names, end, fitOfSeaLevelHeight);
+    fields.frequency = quantityField(bestFit(names, end, fitOfFrequency), megahertzPer, all);
+    fields.azimuth = bestFit(names, end, fitOfFirstWord<Azimuth, Azimut, Azi>);
+    fields.tilt = bestFit(names, end, fitOfFirstWord<Tilt>);
+    fields.dx = lengths(fitOfFirstWord<Dx>);
+    fields.dy = lengths(fitOfFirstWord<Dy>);
+    return fields;
+}
+
+/// The coarser way of writing: an easting near the false origin may look like degrees.
+CoordinateUnit commonUnit(CoordinateUnit a, CoordinateUnit b)
+{
+    for (const CoordinateUnit unit : {CoordinateUnit::Meters, CoordinateUnit::Dms})
+        if (a == unit || b == unit)
+            return unit;
+    return CoordinateUnit::Degrees;
+}
+
+} // namespace
+
+LinkLayout recogniseLinkLayout(const TableProfile &table)
+{
+    const FoundEnds ends = findEnds(table.fields);
+    if (!ends.found())
+        refuse(ends, table.fields);
+    LinkLayout layout;
+    const auto ofLink = [&](Fit (*fitOf)(const EndWords &)) {
+        return bestFit(ends.names, LinkEndId::None, fitOf);
+    };
+    layout.ends = {endFields(ends.names, LinkEndId::A, ends.a, table.fields),
+                   endFields(ends.names, LinkEndId::B, ends.b, table.fields)};
+    layout.name = ofLink(fitOfLinkName);
+    layout.band = quantityField(ofLink(fitOfBand), megahertzPer, table.fields);
+    layout.length = quantityField(ofLink(fitOfLength), metresPer, table.fields);
+    layout.unit = commonUnit(findUnit(ends.a, table.fields), findUnit(ends.b, table.fields));
+    layout.epsg = findEpsg(table, ends.a, layout.unit);
+    layout.format = findFormat(table, ends.areNumbered);
+    return layout;
+}
+
+bool namesBothEnds(const Header &header)
+{
+    for (const EndStyle style : {EndStyle::Names, EndStyle::Zero}) {
+        bool a = false;
+        bool b = false;
+        for (const auto &[column, name] : header.names) {
+            const LinkEndId end = readEndWords(name, style).end;
+            a = a || end == LinkEndId::A;
+            b = b || end == LinkEndId::B;
+        }
+        if (a && b)
+            return true;
+    }
+    return false;
+}
+
+} // namespace vlt::tables

@@ -1,0 +1,72 @@
+#include "links/LinkPlacer.h"
+
+#include "links/Quantity.h"
+#include "table/ColumnStatistics.h"
+#include "tabletexts/TextPatterns.h"
+
+#include <cmath>
+
+namespace vlt::tables {
+
+LinkPlacer::LinkPlacer(const TableProfile &table, const LinkLayout &layout,
+                       const OffsetScale &scale)
+    : m_table(&table)
+    , m_layout(&layout)
+    , m_placers{PointPlacer(table, layout.ends[0].point, layout.unit),
+                PointPlacer(table, layout.ends[1].point, layout.unit)}
+    , m_scale(scale)
+{
+    if (scale.isOnEarth)
+        geod_init(&m_earth, scale.semiMajorM, scale.flattening);
+}
+
+double LinkPlacer::offsetM(int64_t row, const QuantityField &offset,
+                           const std::vector<const Cell *> &cells,
+                           std::vector<RowProblem> &problems) const
+{
+    const std::string text = fieldText(cells, offset.field);
+    if (text.empty() || isMissingWord(text))
+        return 0;
+    const auto metres = readLengthM(text, offset.unit.value_or(1));
+    if (!metres)
+        problems.push_back(
+            {row, m_table->fields[static_cast<size_t>(offset.field)].name, false,
+             tabletexts::formatted("MESS_TAB_OFFSET_UNREADABLE", {quotation(text)})});
+    return metres.value_or(0);
+}
+
+void LinkPlacer::move(Position &position, double eastM, double northM) const
+{
+    if (eastM == 0 && northM == 0)
+        return;
+    if (!m_scale.isOnEarth) {
+        position.x += eastM / m_scale.unit;
+        position.y += northM / m_scale.unit;
+        return;
+    }
+    const double degreesPerRadian = 180 / M_PI;
+    double latitude = 0;
+    double longitude = 0;
+    geod_direct(&m_earth, position.y * m_scale.unit, position.x * m_scale.unit,
+                std::atan2(eastM, northM) * degreesPerRadian, std::hypot(eastM, northM), &latitude,
+                &longitude, nullptr);
+    position.x = longitude / m_scale.unit;
+    position.y = latitude / m_scale.unit;
+}
+
+std::array<Position, 2> LinkPlacer::place(int64_t row, const std::vector<const Cell *> &cells,
+                                          std::vector<RowProblem> &problems) const
+{
+    std::array<Position, 2> positions;
+    for (size_t end = 0; end < positions.size(); ++end) {
+        const LinkEndFields &fields = m_layout->ends[end];
+        positions[end] = m_placers[end].place(row, cells, problems);
+        const double eastM = offsetM(row, fields.dx, cells, problems);
+        const double northM = offsetM(row, fields.dy, cells, problems);
+        if (positions[end].found)
+            move(positions[end], eastM, northM);
+    }
+    return positions;
+}
+
+} // namespace vlt::tables

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "links/LinkLayout.h"
+#include "sites/PointPlacer.h"
+
+#include <geodesic.h>
+
+#include <array>
+
+namespace vlt::tables {
+
+/// How metres of an offset become coordinates.
+struct OffsetScale
+{
+    bool isOnEarth = false; ///< coordinates are longitudes and latitudes
+    double unit = 1;        ///< metres or degrees per unit of the coordinates
+    double semiMajorM = 0;  ///< of the ellipsoid
+    double flattening = 0;
+};
+
+/// Reads the positions of both ends of a link as those of sites are read, with their offsets.
+class LinkPlacer
+{
+public:
+    LinkPlacer(const TableProfile &table, const LinkLayout &layout, const OffsetScale &scale);
+
+    /// Positions of A and B in the file's system; `cells` and `problems` as for PointPlacer.
+    std::array<Position, 2> place(int64_t row, const std::vector<const Cell *> &cells,
+                                  std::vector<RowProblem> &problems) const;
+
+private:
+    double offsetM(int64_t row, const QuantityField &offset, const std::vector<const Cell *> &cells,
+                   std::vector<RowProblem> &problems) const;
+    void move(Position &position, double eastM, double northM) const;
+
+    const TableProfile *m_table;
+    const LinkLayout *m_layout;
+    std::array<PointPlacer, 2> m_placers;
+    OffsetScale m_scale;
+    geod_geodesic m_earth = {};
+};
+
+} // namespace vlt::tables

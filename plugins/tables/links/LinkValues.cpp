@@ -1,0 +1,152 @@
+#include "links/LinkValues.h"
+
+#include "links/Quantity.h"
+#include "table/ColumnStatistics.h"
+#include "tabletexts/TextPatterns.h"
+
+namespace vlt::tables {
+
+using tabletexts::formatted;
+using tabletexts::TextId;
+
+/// The row that is read, and where its problems go.
+struct LinkValueReader::Place
+{
+    int64_t row;
+    const std::vector<const Cell *> &cells;
+    std::vector<RowProblem> &problems;
+
+    /// Text of a field, empty where it says that there is no value.
+    std::string text(int field) const
+    {
+        std::string text = fieldText(cells, field);
+        return isMissingWord(text) ? std::string() : text;
+    }
+    void warn(const std::string &column, std::string text) const
+    {
+        problems.push_back({row, column, false, std::move(text)});
+    }
+};
+
+LinkValueReader::LinkValueReader(const TableProfile &table, const LinkLayout &layout)
+    : m_table(&table)
+    , m_layout(&layout)
+{}
+
+const std::string &LinkValueReader::nameOf(int field) const
+{
+    return m_table->fields[static_cast<size_t>(field)].name;
+}
+
+std::optional<double> LinkValueReader::heightM(const Place &place,
+                                               const QuantityField &height) const
+{
+    if (!height.found())
+        return std::nullopt;
+    const std::string text = place.text(height.field);
+    const auto metres = readLengthM(text, height.unit.value_or(1));
+    if (text.empty())
+        place.warn(nameOf(height.field), formatted("MESS_TAB_NO_HEIGHT"));
+    else if (!metres)
+        place.warn(nameOf(height.field),
+                   formatted("MESS_TAB_HEIGHT_UNREADABLE", {quotation(text)}));
+    return metres;
+}
+
+std::optional<double> LinkValueReader::degrees(const Place &place, int field, TextId why) const
+{
+    const std::string text = place.text(field);
+    const auto angle = readDegrees(text);
+    if (!angle && !text.empty())
+        place.warn(nameOf(field), formatted(why, {quotation(text)}));
+    return angle;
+}
+
+/// A frequency of one field; one that is there and no use gets a problem.
+std::optional<double> LinkValueReader::frequencyMHz(const Place &place,
+                                                    const QuantityField &frequency,
+                                                    bool &isUnreadable) const
+{
+    const std::string text = place.text(frequency.field);
+    if (text.empty())
+        return std::nullopt;
+    const auto megahertz = readFrequencyMHz(text, frequency.unit);
+    if (megahertz && *megahertz > 0)
+        return megahertz;
+    isUnreadable = true;
+    place.warn(nameOf(frequency.field),
+               megahertz ? formatted("MESS_TAB_FREQUENCY_NOT_POSITIVE", {quotation(text)})
+                         : formatted("MESS_TAB_FREQUENCY_UNREADABLE", {quotation(text)}));
+    return std::nullopt;
+}
+
+/// An end without a frequency has that of the other one, and both that of the band.
+void LinkValueReader::readFrequencies(const Place &place, LinkValues &values) const
+{
+    bool isUnreadable = false;
+    int column = m_layout->band.field;
+    for (size_t end = values.ends.size(); end-- > 0;)
+        if (m_layout->ends[end].frequency.found())
+            column = m_layout->ends[end].frequency.field;
+    if (column < 0)
+        return;
+    for (size_t end = 0; end < values.ends.size(); ++end)
+        values.ends[end].frequencyMHz =
+            frequencyMHz(place, m_layout->ends[end].frequency, isUnreadable);
+    std::optional<double> &a = values.ends[0].frequencyMHz;
+    std::optional<double> &b = values.ends[1].frequencyMHz;
+    if (!a && !b)
+        a = frequencyMHz(place, m_layout->band, isUnreadable);
+    if (!a)
+        a = b;
+    if (!b)
+        b = a;
+    if (!a && !isUnreadable)
+        place.warn(nameOf(column), formatted("MESS_TAB_NO_FREQUENCY"));
+}
+
+LinkValues LinkValueReader::read(int64_t row, const std::vector<const Cell *> &cells,
+                                 std::vector<RowProblem> &problems) const
+{
+    const Place place = {row, cells, problems};
+    LinkValues values;
+    values.name = fieldText(cells, m_layout->name);
+    for (size_t end = 0; end < values.ends.size(); ++end) {
+        const LinkEndFields &fields = m_layout->ends[end];
+        LinkEndValues &of = values.ends[end];
+        of.identifier = fieldText(cells, fields.identifier);
+        of.heightM = heightM(place, fields.height);
+        of.azimuthDeg = degrees(place, fields.azimuth, "MESS_TAB_AZIMUTH_UNREADABLE");
+        of.tiltDeg = degrees(place, fields.tilt, "MESS_TAB_TILT_UNREADABLE");
+    }
+    readFrequencies(place, values);
+    // a cell may name a unit where the header does not: a number of no unit is not compared
+    if (const std::string text = place.text(m_layout->length.field); !text.empty())
+        values.lengthM = readLengthM(text, m_layout->length.unit.value_or(0));
+    if (values.lengthM && *values.lengthM <= 0)
+        values.lengthM.reset();
+    return values;
+}
+
+std::vector<RowProblem> LinkValueReader::tableProblems() const
+{
+    std::vector<RowProblem> problems;
+    const auto add = [&](std::string text) { problems.push_back({0, {}, false, std::move(text)}); };
+    bool frequency = m_layout->band.found();
+    bool height = false;
+    bool seaLevel = false;
+    for (const LinkEndFields &fields : m_layout->ends) {
+        frequency = frequency || fields.frequency.found();
+        height = height || fields.height.found();
+        seaLevel = seaLevel || fields.seaLevelHeight >= 0;
+        if (fields.seaLevelHeight >= 0)
+            add(formatted("MESS_TAB_SEA_LEVEL", {nameOf(fields.seaLevelHeight)}));
+    }
+    if (!height && !seaLevel)
+        add(formatted("MESS_TAB_NO_HEIGHTS"));
+    if (!frequency)
+        add(formatted("MESS_TAB_NO_FREQUENCIES"));
+    return problems;
+}
+
+} // namespace vlt::tables

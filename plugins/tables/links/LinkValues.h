@@ -1,0 +1,54 @@
+#pragma once
+
+#include "links/LinkLayout.h"
+#include "sites/PointPlacer.h"
+
+#include <array>
+#include <optional>
+#include <string>
+
+namespace vlt::tables {
+
+/// What a row tells of one end of its link, the position apart.
+struct LinkEndValues
+{
+    std::string identifier;        ///< empty where the table has none
+    std::optional<double> heightM; ///< of the antenna above ground
+    std::optional<double> frequencyMHz;
+    std::optional<double> azimuthDeg;
+    std::optional<double> tiltDeg;
+};
+
+/// What a row tells of its link.
+struct LinkValues
+{
+    std::string name; ///< empty where the table has none
+    std::array<LinkEndValues, 2> ends;
+    std::optional<double> lengthM; ///< as stated; nothing where its unit is not known
+};
+
+/// Reads the values of links and says what is wrong with them.
+class LinkValueReader
+{
+public:
+    LinkValueReader(const TableProfile &table, const LinkLayout &layout);
+
+    LinkValues read(int64_t row, const std::vector<const Cell *> &cells,
+                    std::vector<RowProblem> &problems) const;
+    /// What the table lacks as a whole.
+    std::vector<RowProblem> tableProblems() const;
+
+private:
+    struct Place;
+    std::optional<double> frequencyMHz(const Place &place, const QuantityField &frequency,
+                                       bool &isUnreadable) const;
+    void readFrequencies(const Place &place, LinkValues &values) const;
+    std::optional<double> heightM(const Place &place, const QuantityField &height) const;
+    std::optional<double> degrees(const Place &place, int field, tabletexts::TextId why) const;
+    const std::string &nameOf(int field) const;
+
+    const TableProfile *m_table;
+    const LinkLayout *m_layout;
+};
+
+} // namespace vlt::tables

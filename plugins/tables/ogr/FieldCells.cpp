@@ -1,0 +1,59 @@
+#include "ogr/FieldCells.h"
+
+#include "tabletexts/TextPatterns.h"
+
+#include <algorithm>
+
+namespace vlt::tables {
+
+FieldCells::FieldCells(const TableProfile &table)
+    : m_table(&table)
+    , m_fieldOfColumn(static_cast<size_t>(table.lastColumn) + 1, -1)
+    , m_cells(table.fields.size())
+    , m_numbers(table.fields.size())
+    , m_null(table.fields.size())
+{
+    for (size_t field = 0; field < table.fields.size(); ++field)
+        m_fieldOfColumn[static_cast<size_t>(table.fields[field].column)] = static_cast<int>(field);
+}
+
+void FieldCells::take(const Row &row, std::vector<RowProblem> &problems)
+{
+    std::fill(m_cells.begin(), m_cells.end(), nullptr);
+    for (const Cell &cell : row.cells) {
+        if (cell.column > m_table->lastColumn) {
+            problems.push_back(
+                {row.number,
+                 {},
+                 false,
+                 tabletexts::formatted("MESS_TAB_BEHIND_LAST",
+                                       {cellText(cell), std::to_string(cell.column + 1)})});
+            break;
+        }
+        const int field = m_fieldOfColumn[static_cast<size_t>(cell.column)];
+        if (field < 0)
+            continue;
+        const auto at = static_cast<size_t>(field);
+        const Field &of = m_table->fields[at];
+        m_cells[at] = &cell;
+        m_null[at] = 0;
+        if (of.type == FieldType::Text)
+            continue;
+        const std::string_view text = trimmed(cell.text);
+        if (cell.kind == Cell::Kind::Number && text.empty())
+            m_numbers[at] = cell.number;
+        else if (const auto number = parseNumber(text, of.mark))
+            m_numbers[at] = *number;
+        else if (const auto plain =
+                     of.mark == DecimalMark::Comma ? parseNumber(text) : std::nullopt)
+            m_numbers[at] = *plain;
+        else {
+            m_null[at] = 1;
+            if (cell.kind != Cell::Kind::Error && !isMissingWord(text))
+                problems.push_back({row.number, of.name, false,
+                                    tabletexts::formatted("MESS_TAB_LOST_VALUE", {text})});
+        }
+    }
+}
+
+} // namespace vlt::tables

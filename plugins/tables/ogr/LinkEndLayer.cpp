@@ -1,0 +1,113 @@
+#include "ogr/LinkEndLayer.h"
+
+namespace vlt::tables {
+
+namespace {
+
+/// In the order of the layer.
+enum FieldNumber {
+    SiteName,
+    X,
+    Y,
+    SectorId,
+    HeightM,
+    AzimuthDeg,
+    TiltDeg,
+    LinkName,
+    LinkRowNumber,
+    EndName,
+    FrequencyMHz,
+    LengthM,
+};
+
+/// The name of a site as the sites' tables of the same tool have it.
+const char *siteField(const std::string &format)
+{
+    return format.starts_with("atoll")   ? "NAME"
+           : format.starts_with("asset") ? "Site name"
+                                         : "Site ID";
+}
+
+} // namespace
+
+LinkEndLayer::LinkEndLayer(const TableSource &source)
+    : TableLayer(source, source.facts().table.sheet + " ends", 2)
+    , m_reader(source)
+{
+    const LinkLayout &layout = facts().links();
+    const bool meters = layout.unit == CoordinateUnit::Meters;
+    defineField(siteField(layout.format), OFTString);
+    defineField(meters ? "X" : "Longitude", OFTReal);
+    defineField(meters ? "Y" : "Latitude", OFTReal);
+    defineField("Transmitter-1 Sector ID", OFTString);
+    defineField("Transmitter-1 Height (m)", OFTReal);
+    defineField("Transmitter-1 Azimuth (\xC2\xB0)", OFTReal);
+    defineField("Transmitter-1 Tilt (\xC2\xB0)", OFTReal);
+    defineField("Link", OFTString);
+    defineField("Link row", OFTInteger64);
+    defineField("End", OFTString);
+    defineField("Frequency (MHz)", OFTReal);
+    defineField("Link length (m)", OFTReal);
+    setGeometryType(wkbPoint);
+}
+
+void LinkEndLayer::readRow(int64_t row, std::vector<RowProblem> &problems)
+{
+    m_row = row;
+    m_reader.read(row, cells().cells(), problems);
+}
+
+void LinkEndLayer::mergeInto(OGREnvelope &extent) const
+{
+    for (const Position &end : m_reader.row().placed)
+        if (end.found)
+            extent.Merge(end.x, end.y);
+}
+
+void LinkEndLayer::placeFeature(OGRFeature &feature, int part) const
+{
+    const Position &end = m_reader.row().placed[static_cast<size_t>(part)];
+    if (end.found)
+        setGeometry(feature, std::make_unique<OGRPoint>(end.x, end.y));
+}
+
+void LinkEndLayer::set(OGRFeature &feature, int field, const std::string &text) const
+{
+    if (!text.empty() && !isIgnored(static_cast<size_t>(field)))
+        feature.SetField(field, text.c_str());
+}
+
+void LinkEndLayer::set(OGRFeature &feature, int field, const std::optional<double> &number) const
+{
+    if (number && !isIgnored(static_cast<size_t>(field)))
+        feature.SetField(field, *number);
+}
+
+void LinkEndLayer::fillFeature(OGRFeature &feature, int part) const
+{
+    const LinkRow &row = m_reader.row();
+    const auto end = static_cast<size_t>(part);
+    const LinkEndValues &values = row.values.ends[end];
+    const Position &position = row.inFile[end];
+    set(feature, SiteName, values.identifier);
+    set(feature, X, position.found ? std::optional(position.x) : std::nullopt);
+    set(feature, Y, position.found ? std::optional(position.y) : std::nullopt);
+    set(feature, SectorId, row.values.name);
+    set(feature, HeightM, values.heightM);
+    set(feature, AzimuthDeg, m_reader.azimuthDeg(end));
+    set(feature, TiltDeg, values.tiltDeg);
+    set(feature, LinkName,
+        row.values.name.empty() ? "row " + std::to_string(m_row) : row.values.name);
+    if (!isIgnored(LinkRowNumber))
+        feature.SetField(LinkRowNumber, static_cast<GIntBig>(m_row));
+    set(feature, EndName, part == 0 ? "A" : "B");
+    set(feature, FrequencyMHz, values.frequencyMHz);
+    set(feature, LengthM, row.lengthM);
+}
+
+void LinkEndLayer::addFileProblems(ProblemList &problems) const
+{
+    m_reader.addFileProblems(problems);
+}
+
+} // namespace vlt::tables

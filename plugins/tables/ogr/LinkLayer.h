@@ -1,0 +1,26 @@
+#pragma once
+
+#include "ogr/LinkRowReader.h"
+#include "ogr/TableLayer.h"
+
+namespace vlt::tables {
+
+/// The layer of links: one line per row of the table, from end A to end B; the fields are the
+/// columns, the FID is the number of the row in the file.
+class LinkLayer final : public TableLayer
+{
+public:
+    explicit LinkLayer(const TableSource &source);
+
+private:
+    void readRow(int64_t row, std::vector<RowProblem> &problems) override;
+    void mergeInto(OGREnvelope &extent) const override;
+    void placeFeature(OGRFeature &feature, int part) const override;
+    void fillFeature(OGRFeature &feature, int part) const override;
+    void addFileProblems(ProblemList &problems) const override;
+    bool isPlaced() const;
+
+    LinkRowReader m_reader;
+};
+
+} // namespace vlt::tables

@@ -1,0 +1,47 @@
+#include "ogr/RowWarnings.h"
+
+#include "tabletexts/TextPatterns.h"
+
+#include <cpl_error.h>
+
+namespace vlt::tables {
+
+namespace {
+
+using tabletexts::formatted;
+
+constexpr size_t MostWarnings = 50;
+
+/// The text of a problem as it is shown: row and column first.
+std::string describe(const RowProblem &problem)
+{
+    std::string text;
+    if (problem.row > 0)
+        text = "row " + std::to_string(problem.row) + (problem.column.empty() ? ": " : ", ");
+    if (!problem.column.empty())
+        text += "column \"" + problem.column + "\": ";
+    return text + problem.text;
+}
+
+} // namespace
+
+void RowWarnings::warn(const std::string &table, const std::vector<RowProblem> &problems)
+{
+    if (problems.empty())
+        return;
+    const bool isNew = !m_areOmitted && m_rows.insert(problems.front().row).second;
+    for (const RowProblem &problem : problems) {
+        if (!isNew || m_areOmitted)
+            break;
+        m_areOmitted = ++m_count > MostWarnings;
+        if (!m_areOmitted) {
+            CPLError(CE_Warning, CPLE_AppDefined, "%s, %s", table.c_str(),
+                     describe(problem).c_str());
+            continue;
+        }
+        CPLError(CE_Warning, CPLE_AppDefined, "%s: %s", table.c_str(),
+                 formatted("MESS_TAB_FURTHER_PROBLEMS").c_str());
+    }
+}
+
+} // namespace vlt::tables

@@ -1,0 +1,70 @@
+#pragma once
+
+#include "bytes/InputFile.h"
+#include "links/LinkLayout.h"
+#include "sites/SiteLayout.h"
+#include "table/Table.h"
+
+#include <memory>
+#include <string>
+#include <variant>
+
+namespace vlt::tables {
+
+/// What the caller says about a table file; empty members are found out.
+struct TableOptions
+{
+    TableKind kind = TableKind::Sites;
+    std::string sheet;
+    std::string encoding;
+    char delimiter = 0;
+    bool textOnly = false;
+
+    bool operator==(const TableOptions &) const = default;
+};
+
+/// What is known about a table. Never changes once made, so that datasets and threads
+/// share it.
+struct TableFacts
+{
+    TableProfile table;
+    std::variant<SiteLayout, LinkLayout> layout;
+
+    const SiteLayout &sites() const { return std::get<SiteLayout>(layout); }
+    const LinkLayout &links() const { return std::get<LinkLayout>(layout); }
+    const TableDeclaration &declaration() const
+    {
+        return std::visit([](const TableDeclaration &of) -> const TableDeclaration & { return of; },
+                          layout);
+    }
+};
+
+/// A table in a file.
+class TableFile
+{
+public:
+    /// Opens a table; an unchanged file that was open before is known already and is not read
+    /// again. Throws RefusedFile.
+    static std::shared_ptr<TableFile> open(const std::string &path, const TableOptions &options);
+
+    const TableFacts &facts() const { return *m_facts; }
+    /// A new walk over the rows.
+    std::unique_ptr<DataRows> rows();
+
+private:
+    TableFile(std::shared_ptr<const InputFile> file, std::string name, TableOptions options)
+        : m_file(std::move(file))
+        , m_name(std::move(name))
+        , m_options(std::move(options))
+    {}
+    std::unique_ptr<Workbook> openFile() const;
+
+    std::shared_ptr<const InputFile> m_file;
+    std::string m_name;
+    TableOptions m_options;
+    std::shared_ptr<const TableFacts> m_facts;
+    std::shared_ptr<Sheet> m_sheet;
+    bool m_stringsPrepared = false;
+};
+
+} // namespace vlt::tables

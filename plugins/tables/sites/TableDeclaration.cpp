@@ -1,0 +1,55 @@
+#include "sites/TableDeclaration.h"
+
+#include "table/HeaderWords.h"
+
+#include <algorithm>
+
+namespace vlt::tables {
+
+namespace {
+
+/// The digits behind "EPSG" in a text, such as EPSG:2154, epsg 4326 or (EPSG=27572).
+std::string epsgIn(const std::string &text)
+{
+    const std::string lower = lowerCase(text);
+    for (size_t at = lower.find("epsg"); at != std::string::npos; at = lower.find("epsg", at + 1)) {
+        size_t digit = lower.find_first_not_of(" :=#/", at + 4);
+        std::string code;
+        while (digit < lower.size() && lower[digit] >= '0' && lower[digit] <= '9')
+            code += lower[digit++];
+        if (code.size() >= 4 && code.size() <= 6)
+            return code;
+    }
+    return {};
+}
+
+} // namespace
+
+std::string findEpsg(const TableProfile &table, const PointFields &point, CoordinateUnit unit)
+{
+    for (const std::string &title : table.header.titles)
+        if (std::string code = epsgIn(title); !code.empty())
+            return code;
+    for (const Field &field : table.fields)
+        if (std::string code = epsgIn(field.name); !code.empty())
+            return code;
+    for (const Field &field : table.fields) {
+        const std::string name = lowerCase(field.name);
+        if ((name != "epsg" && name != "srid" && name != "epsg code") || field.samples.empty())
+            continue;
+        const bool constant =
+            std::all_of(field.samples.begin(), field.samples.end(),
+                        [&](const std::string &text) { return text == field.samples.front(); });
+        if (constant)
+            return epsgIn("epsg:" + field.samples.front()).empty()
+                       ? epsgIn(field.samples.front())
+                       : epsgIn("epsg:" + field.samples.front());
+    }
+    if (unit != CoordinateUnit::Meters && point.x.found() &&
+        lowerCase(table.fields[static_cast<size_t>(point.x.value)].name).find("wgs84") !=
+            std::string::npos)
+        return "4326";
+    return {};
+}
+
+} // namespace vlt::tables

@@ -1,0 +1,462 @@
+#include "DriverTesting.h"
+
+#include <QRegularExpression>
+#include <QtTest>
+
+#include <cmath>
+
+namespace {
+
+/// All fields of a feature, numbers with at most `digits` behind the point; "-" for none.
+QString valuesOf(const OGRFeature &feature, int digits)
+{
+    QStringList values;
+    for (int i = 0; i < feature.GetFieldCount(); ++i) {
+        const bool isNumber = feature.GetFieldDefnRef(i)->GetType() == OFTReal;
+        const double scale = std::pow(10, digits);
+        values +=
+            !feature.IsFieldSetAndNotNull(i) ? QStringLiteral("-")
+            : isNumber
+                ? QString::number(std::round(feature.GetFieldAsDouble(i) * scale) / scale, 'g', 15)
+                : QString::fromUtf8(feature.GetFieldAsString(i));
+    }
+    return values.join(QLatin1Char('|'));
+}
+
+QString lineOf(const OGRGeometry *geometry)
+{
+    QStringList numbers;
+    if (geometry)
+        for (const OGRPoint &point : *geometry->toLineString())
+            numbers << QString::number(point.getX()) << QString::number(point.getY());
+    return numbers.join(QLatin1Char(' '));
+}
+
+/// A header of end A as that of end B.
+QByteArray otherEnd(const QByteArray &header)
+{
+    QString text = QString::fromUtf8(header);
+    for (const auto &[a, b] : {std::pair("A", "B"), std::pair("TX", "RX"), std::pair("1", "2")})
+        text.replace(QRegularExpression(QStringLiteral("\\b(lon)?%1\\b").arg(QLatin1String(a))),
+                     QStringLiteral("\\1") + QLatin1String(b));
+    return text.toUtf8();
+}
+
+// On the equator 0.1 degrees of longitude are 6378137 m * pi/1800 = 11131.949 m.
+constexpr char Numbered[] =
+    "Name;Call sign 1;Longitude 1;Latitude 1;Antenna height (m) 1;TX1 (MHz) 1;Azimuth (°) 1;"
+    "Tilt (deg) 1;Call sign 2;Longitude 2;Latitude 2;Antenna height (m) 2;TX1 (MHz) 2;"
+    "Azimuth (°) 2;Tilt (deg) 2;Path Length (km)\n"
+    "L1;S1;10;0;30;11485;;-1,5;S2;10,1;0;35;11605;270,5;;11,1\n";
+constexpr char SideBySide[] =
+    "Exported by ATOLL\n"
+    "Link,Site A,Longitude (A),A Latitude,Height A (ft),Name (B),X B,Y B,RX.Height,"
+    "Frequency Band (GHz)\n"
+    "L1,S1,10,0,100,S2,10.1,0,35,7/8\n"
+    ",,10,0,98.5 ft,S3,east,0,,23\n";
+
+} // namespace
+
+/// Tables of links as any GDAL program sees them.
+class LinkLayer : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        GDALAllRegister();
+        QVERIFY(m_folder.isValid());
+    }
+
+    void givesLinksAndTheirEnds_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<QString>("format");
+        QTest::addColumn<QString>("firstField");
+        QTest::addColumn<QStringList>("lines");
+        QTest::addColumn<QStringList>("ends");
+        const QString line = QStringLiteral("10 0 10.1 0");
+        QTest::newRow("numbered ends")
+            << QByteArray(Numbered) << QStringLiteral("generic (numbered ends)")
+            << QStringLiteral("Site ID") << QStringList{line}
+            << QStringList{QStringLiteral("S1|10|0|L1|30|90|-1.5|L1|2|A|11485|11131.949"),
+                           QStringLiteral("S2|10.1|0|L1|35|270.5|-|L1|2|B|11605|11131.949")};
+        QTest::newRow("ends side by side")
+            << QByteArray(SideBySide) << QStringLiteral("atoll") << QStringLiteral("NAME")
+            << QStringList{line, QString()}
+            << QStringList{QStringLiteral("S1|10|0|L1|30.48|90|-|L1|3|A|7000|11131.949"),
+                           QStringLiteral("S2|10.1|0|L1|35|270|-|L1|3|B|7000|11131.949"),
+                           QStringLiteral("-|10|0|-|30.023|-|-|row 4|4|A|23000|-"),
+                           QStringLiteral("S3|-|-|-|-|-|-|row 4|4|B|23000|-")};
+        QTest::newRow("start and end")
+            << QByteArray("Frequency,PathLength,XStart,YStart,XEnd,YEnd,ID\n"
+                          "18.7,11.1,10,0,10.1,0,7\n")
+            << QStringLiteral("generic (ends side by side)") << QStringLiteral("Site ID")
+            << QStringList{line}
+            << QStringList{QStringLiteral("-|10|0|7|-|90|-|7|2|A|18700|11131.949"),
+                           QStringLiteral("-|10.1|0|7|-|270|-|7|2|B|18700|11131.949")};
+        QTest::newRow("ends 0 and 1, transmitting and receiving")
+            << QByteArray("link,site_0_lat,site_0_lon,site_1_lat,site_1_lon,tx freq 0,rx freq 0,"
+                          "tx freq 1\n7,0,10,0,10.1,6000,6100,6200\n")
+            << QStringLiteral("generic (numbered ends)") << QStringLiteral("Site ID")
+            << QStringList{line}
+            << QStringList{QStringLiteral("-|10|0|7|-|90|-|7|2|A|6000|11131.949"),
+                           QStringLiteral("-|10.1|0|7|-|270|-|7|2|B|6200|11131.949")};
+    }
+    void givesLinksAndTheirEnds()
+    {
+        QFETCH(QByteArray, text);
+        QFETCH(QString, format);
+        QFETCH(QString, firstField);
+        QFETCH(QStringList, lines);
+        QFETCH(QStringList, ends);
+        const Warnings warnings;
+        QVERIFY(m_folder.write("l.csv", text));
+        const auto dataset = m_folder.open("link:", "l.csv");
+        QVERIFY2(dataset, qPrintable(warnings.texts.join(QLatin1Char('\n'))));
+        OGRLayer *linkLayer = dataset->GetLayer(0);
+        OGRLayer *endLayer = dataset->GetLayer(1);
+
+        QStringList foundLines;
+        for (const OGRFeatureUniquePtr &link : *linkLayer)
+            foundLines += lineOf(link->GetGeometryRef());
+        QStringList foundEnds;
+        for (const OGRFeatureUniquePtr &end : *endLayer) {
+            foundEnds += valuesOf(*end, 3);
+            QCOMPARE(end->GetFID() / 2, end->GetFieldAsInteger64("Link row"));
+            QCOMPARE(end->GetGeometryRef() != nullptr, !end->IsFieldNull(1) && end->IsFieldSet(1));
+        }
+
+        QCOMPARE(dataset->GetLayerCount(), 2);
+        QCOMPARE(endLayer->GetName(), "l ends");
+        QCOMPARE(foundLines, lines);
+        QCOMPARE(foundEnds, ends);
+        QCOMPARE(endLayer->GetFeatureCount(), ends.size());
+        QCOMPARE(QString::fromUtf8(endLayer->GetLayerDefn()->GetFieldDefn(0)->GetNameRef()),
+                 firstField);
+        for (OGRLayer *layer : {linkLayer, endLayer}) {
+            QCOMPARE(QString::fromUtf8(layer->GetMetadataItem("format")), format);
+            QCOMPARE(layer->GetMetadataItem("unit"), "DEGREES");
+        }
+    }
+
+    void recognisesColumns_data()
+    {
+        QTest::addColumn<QByteArray>("header");
+        QTest::addColumn<QByteArray>("field");
+        QTest::addColumn<bool>("endA");
+        const QList<std::pair<QByteArray, QByteArray>> headers = {
+            {"Call sign 1|A|TX|Site A|Site  TX Name|A.ID|Name (A)|ID (TX)|Name TX|Antenna A",
+             "Site ID"},
+            {"Longitude 1|Site A X|A Longitude|TX.Longitude|X (A)|Longitude (TX)|Longitude TX|"
+             "X A (m)|Longitude TX (transmitter)|Dł geo TX|Longitude 1 (°)|lon1",
+             "Longitude"},
+            {"Latitude 1|Site A Y|A Latitude|TX.Latitude|Y (A)|Latitude (TX)|Latitude TX|"
+             "Y A north|Lat A|Sz geo TX",
+             "Latitude"},
+            {"Antenna height (m) 1|Site A Height|TX.Height (m)|Height (A)|Height TX above ground|"
+             "A Height of tower|Hauteur A",
+             "Transmitter-1 Height (m)"},
+            {"TX1 (MHz) 1|Site A Frequency (MHz)|TX.Frequency (MHz)|Frequency (A) (MHz)|"
+             "Frequency TX (MHz)|A Frequency Band (MHz)",
+             "Frequency (MHz)"},
+            {"Azimuth (deg 2) 1|Site A Azimuth|TX.Azimuth|Azimuth (A)|Azimuth TX true",
+             "Transmitter-1 Azimuth (°)"},
+            {"Tilt (°) 1|Site A Tilt|TX.Tilt|Tilt (A)|Tilt TX (°)", "Transmitter-1 Tilt (°)"}};
+        for (const auto &[list, field] : headers)
+            for (const QByteArray &header : list.split('|'))
+                for (const QByteArray &name : {header, otherEnd(header)})
+                    QTest::newRow(name.constData()) << name << field << (name == header);
+    }
+    void recognisesColumns()
+    {
+        QFETCH(QByteArray, header);
+        QFETCH(QByteArray, field);
+        QFETCH(bool, endA);
+        const Warnings warnings;
+        const QByteArray coordinate = field == "Longitude" || field == "Latitude" ? field : "";
+        QByteArray names = header;
+        QByteArray row = "12";
+        for (const char *other : {"Longitude A", "Latitude A", "Longitude B", "Latitude B"})
+            if (QByteArray(other) != coordinate + (endA ? " A" : " B")) {
+                names += QByteArray(";") + other;
+                row += ";10";
+            }
+        QVERIFY(m_folder.write("c.csv", names + "\n" + row + "\n"));
+        const auto dataset = m_folder.open("link:", "c.csv");
+        QVERIFY2(dataset, qPrintable(warnings.texts.join(QLatin1Char('\n'))));
+
+        const OGRFeatureUniquePtr end(dataset->GetLayer(1)->GetFeature(endA ? 4 : 5));
+
+        QCOMPARE(QByteArray(end->GetFieldAsString(field.constData())), QByteArray("12"));
+    }
+
+    void readsQuantities_data()
+    {
+        QTest::addColumn<QByteArray>("header");
+        QTest::addColumn<QByteArray>("cell");
+        QTest::addColumn<QByteArray>("value"); // empty: none
+        const auto row = [](const char *header, const char *cell, const char *value) {
+            QTest::newRow(qPrintable(QString::fromUtf8(header) + QStringLiteral(": ") +
+                                     QString::fromUtf8(cell)))
+                << QByteArray(header) << QByteArray(cell) << QByteArray(value);
+        };
+        row("Height A", "30,5", "30.5");
+        row("Height A (feet)", "100", "30.48");
+        row("Height A (ft)", "30 m", "30");
+        row("Height A", "100'", "30.48");
+        row("Height A", "30 apples", "");
+        row("Frequency A", "23", "23000");
+        row("Frequency A", "11485", "11485");
+        row("Frequency A", "23000000000", "23000");
+        row("Frequency A", "1.15E+10", "11500");
+        row("Frequency A (kHz)", "7000000", "7000");
+        row("Frequency A [THz]", "0.08", "80000");
+        row("Frequency A (MHz)", "38.5 GHz", "38500");
+        row("Frequency A (MHz)", "11,485.5", "11485.5");
+        row("Frequency A (MHz)", "['006123.10000000', '006125.10000000']", "6123.1");
+        row("Frequency A (MHz)", "11 485", "");
+        row("Frequency A", "-23", "");
+        row("F [GHz]", "38,5", "38500");
+        row("Band", "18-23 GHz", "18000");
+        row("Bandwidth (MHz)", "28", "");
+    }
+    void readsQuantities()
+    {
+        QFETCH(QByteArray, header);
+        QFETCH(QByteArray, cell);
+        QFETCH(QByteArray, value);
+        const Warnings warnings;
+        QVERIFY(m_folder.write("q.csv", "Link;X A;Y A;X B;Y B;" + header + "\nL;10;1;11;1;\"" +
+                                            cell + "\"\n"));
+        const auto dataset = m_folder.open("link:", "q.csv");
+        QVERIFY(dataset);
+
+        const OGRFeatureUniquePtr end(dataset->GetLayer(1)->GetFeature(4));
+
+        QCOMPARE(QByteArray(end->GetFieldAsString(
+                     header.startsWith("Height") ? "Transmitter-1 Height (m)" : "Frequency (MHz)")),
+                 value);
+    }
+
+    void movesEndsByTheirOffsets_data()
+    {
+        QTest::addColumn<QByteArray>("options");
+        QTest::addColumn<QByteArray>("row"); // X A, Y A, X B, Y B, DX A, DY A
+        QTest::addColumn<double>("east");
+        QTest::addColumn<double>("north");
+        // WGS 84 at the equator: 100 m / 6378137 m and 100 m / 6335439.327 m in degrees
+        QTest::newRow("degrees, east")
+            << QByteArray() << QByteArray("10;0;11;0;100;") << 10.00089831528 << 0.0;
+        QTest::newRow("degrees, north")
+            << QByteArray() << QByteArray("10;0;11;0;NA;100 m") << 10.0 << 0.00090436947;
+        QTest::newRow("metres") << QByteArray("s_srs=2154,")
+                                << QByteArray("700000;6600000;710000;6600000;100;-50") << 700100.0
+                                << 6599950.0;
+        // a US survey foot is 1200/3937 m
+        QTest::newRow("feet") << QByteArray("s_srs=2229,")
+                              << QByteArray("6500000;1800000;6510000;1800000;1200;0") << 6503937.0
+                              << 1800000.0;
+        QTest::newRow("unreadable")
+            << QByteArray() << QByteArray("10;0;11;0;x;5 apples") << 10.0 << 0.0;
+    }
+    void movesEndsByTheirOffsets()
+    {
+        QFETCH(QByteArray, options);
+        QFETCH(QByteArray, row);
+        QFETCH(double, east);
+        QFETCH(double, north);
+        const Warnings warnings;
+        QVERIFY(m_folder.write("o.csv", "X A;Y A;X B;Y B;DX (A) (m);A.DY\n" + row + "\n"));
+        const auto dataset = m_folder.open("link:" + options, "o.csv");
+        QVERIFY(dataset);
+
+        const OGRFeatureUniquePtr end(dataset->GetLayer(1)->GetFeature(4));
+
+        const OGRPoint *point = end->GetGeometryRef()->toPoint();
+        QVERIFY(std::abs(point->getX() - east) < 1e-9 * std::abs(east));
+        QVERIFY(std::abs(point->getY() - north) < 1e-9 * (1 + std::abs(north)));
+        QCOMPARE(end->GetFieldAsDouble(1), point->getX());
+        QCOMPARE(end->GetFieldAsDouble(2), point->getY());
+    }
+
+    void saysWhatIsWrong_data()
+    {
+        QTest::addColumn<QByteArray>("header");
+        QTest::addColumn<QByteArray>("row");
+        QTest::addColumn<QString>("problem"); // empty: none
+        const QByteArray usual = "Link;X A;Y A;X B;Y B;Height A;Height B;Frequency (GHz);Length";
+        const auto row = [](const char *name, const QByteArray &header, const char *text,
+                            const char *problem) {
+            QTest::newRow(name) << header << QByteArray(text) << QString::fromUtf8(problem);
+        };
+        row("nothing", usual + " (km)", "L;10;0;10,1;0;30;30;7;11,6", "");
+        row("an end without a place", usual, "L;10;0;x;0;30;30;7;",
+            "2|X B|Error|the coordinate \"x\" cannot be read: it holds no number");
+        row("an end at null island", usual, "L;0;0;1;0;30;30;7;",
+            "2|X A|Error|the coordinate \"0\" cannot be read: 0, 0 stands for an unknown position");
+        row("one place", usual + " (km)", "L;10;0;10,000001;0;30;30;7;9",
+            "2||Warning|the ends of the link are less than a metre apart");
+        row("no height", usual, "L;10;0;11;0;30;;7;",
+            "2|Height B|Warning|the antenna height is empty");
+        row("an unreadable height", usual, "L;10;0;11;0;high;30;7;",
+            "2|Height A|Warning|the antenna height \"high\" cannot be read");
+        row("no frequency", usual, "L;10;0;11;0;30;30;n/a;",
+            "2|Frequency (GHz)|Warning|the frequency is empty");
+        row("an unreadable frequency", usual, "L;10;0;11;0;30;30;E-band;",
+            "2|Frequency (GHz)|Warning|the frequency \"E-band\" cannot be read");
+        row("a frequency of 0", usual, "L;10;0;11;0;30;30;0;",
+            "2|Frequency (GHz)|Warning|the frequency \"0\" is not positive");
+        row("a length in miles", usual + " (miles)", "L;10;0;10,1;0;30;30;7;10",
+            "2|Length (miles)|Warning|the stated length of 16093 m does not fit the distance of "
+            "the ends, which is 11132 m");
+        row("a length without a unit", usual, "L;10;0;10,1;0;30;30;7;10", "");
+        row("a short link that is 90 m off", usual + " (m)", "L;10;0;10,01;0;30;30;7;1200", "");
+        row("an offset", "X A;Y A;X B;Y B;Height A;Height B;Frequency;DX B",
+            "10;0;11;0;30;30;7;5 apples",
+            "2|DX B|Warning|the offset \"5 apples\" cannot be read: the position is taken without "
+            "it");
+        row("heights above the sea", "X A;Y A;X B;Y B;H t A [m npm];Height B;Frequency",
+            "10;0;11;0;130;30;7",
+            "||Warning|the heights in column \"H t A [m npm]\" are above sea level, not above "
+            "ground: they are not used");
+        row("no frequencies", "X A;Y A;X B;Y B;Height A;Tower height B", "10;0;11;0;30;30",
+            "||Warning|no column with frequencies was recognised");
+        row("no heights", "X A;Y A;X B;Y B;Frequency;Ground height A", "10;0;11;0;7;30",
+            "||Warning|no columns with antenna heights above ground were recognised");
+    }
+    void saysWhatIsWrong()
+    {
+        QFETCH(QByteArray, header);
+        QFETCH(QByteArray, row);
+        QFETCH(QString, problem);
+        const Warnings warnings;
+        QVERIFY(m_folder.write("p.csv", header + "\n" + row + "\n"));
+        const auto dataset = m_folder.open("link:", "p.csv");
+        QVERIFY(dataset);
+        const auto count = [](OGRLayer &layer) {
+            for (const OGRFeatureUniquePtr &feature : layer)
+                static_cast<void>(feature);
+        };
+
+        count(*dataset->GetLayer(0));
+        count(*dataset->GetLayer(1));
+
+        QCOMPARE(problemsOf(*dataset->GetLayer(0)).mid(1),
+                 problem.isEmpty() ? QStringList()
+                                   : QStringList{QStringLiteral("PROBLEM_1=") + problem});
+        QCOMPARE(problemsOf(*dataset->GetLayer(1)), QStringList());
+        QCOMPARE(warnings.texts.size(), problem.startsWith(QLatin1Char('2')) ? 1 : 0);
+    }
+
+    void refusesOtherTables_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<QString>("reason");
+        QTest::newRow("sites") << QByteArray("Site;Longitude;Latitude;Azimuth 1\nS;2;48;90\n")
+                               << QStringLiteral("this is a table of sites, not of links: no "
+                                                 "columns with coordinates of both ends");
+        QTest::newRow("one end") << QByteArray("Link;Longitude B;Latitude B\nL;2;48\n")
+                                 << QStringLiteral("those of end A are missing");
+        QTest::newRow("ends by name only")
+            << QByteArray("Link;A;B;Length (km)\nL;S1;S2;11\n")
+            << QStringLiteral("no columns with coordinates of both ends were recognised");
+        QTest::newRow("no header")
+            << QByteArray("3334173;Cancelled;41.59;-83.09306;176.0m;41.59;-83.4;185.3m;"
+                          "['006123.10', '006123.10']\n")
+            << QStringLiteral("no header was found");
+    }
+    void refusesOtherTables()
+    {
+        QFETCH(QByteArray, text);
+        QFETCH(QString, reason);
+        const Warnings warnings;
+        QVERIFY(m_folder.write("r.csv", text));
+
+        QVERIFY(!m_folder.open("link:", "r.csv"));
+        QVERIFY2(warnings.texts.join(QLatin1Char('\n')).contains(reason),
+                 qPrintable(warnings.texts.join(QLatin1Char('\n'))));
+    }
+
+    void prefersTheSheetOfItsKind()
+    {
+        const auto sheet = [](const QByteArray &name, const QByteArrayList &cells) {
+            QByteArray text = "<Worksheet ss:Name=\"" + name + "\"><Table>";
+            for (int i = 0; i < cells.size(); ++i)
+                text += (i % 4 == 0 ? "<Row>" : "") +
+                        ("<Cell><Data ss:Type=\"String\">" + cells[i]) + "</Data></Cell>" +
+                        (i % 4 == 3 ? "</Row>" : "");
+            return text + "</Table></Worksheet>";
+        };
+        QVERIFY(m_folder.write(
+            "w.xml", "<?xml version=\"1.0\"?><Workbook "
+                     "xmlns=\"urn:schemas-microsoft-com:office:spreadsheet\" "
+                     "xmlns:ss=\"urn:schemas-microsoft-com:office:spreadsheet\">" +
+                         sheet("Sites", {"Site", "X", "Y", "Name", "S", "2", "48", "n"}) +
+                         sheet("Links", {"X A", "Y A", "X B", "Y B", "2", "48", "3", "48"}) +
+                         "</Workbook>"));
+
+        QCOMPARE(m_folder.open("link:", "w.xml")->GetLayer(0)->GetName(), "Links");
+        QCOMPARE(m_folder.open("site:", "w.xml")->GetLayer(0)->GetName(), "Sites");
+    }
+
+    void readsEndsAtRandomWithinAWalk()
+    {
+        const Warnings warnings;
+        QVERIFY(m_folder.write("n.csv", SideBySide));
+        const auto dataset = m_folder.open("link:", "n.csv");
+        OGRLayer *ends = dataset->GetLayer(1);
+        const OGRFeatureUniquePtr first(ends->GetNextFeature());
+        const OGRFeatureUniquePtr last(ends->GetFeature(9));
+        OGREnvelope extent;
+        QCOMPARE(ends->GetExtent(&extent), OGRERR_NONE); // walks, too
+        const OGRFeatureUniquePtr second(ends->GetNextFeature());
+
+        QCOMPARE(first->GetFID(), 6);
+        QCOMPARE(last->GetFieldAsString(0), "S3");
+        QCOMPARE(second->GetFID(), 7);
+        QCOMPARE(second->GetFieldAsString(0), "S2");
+        QCOMPARE(extent.MaxX, 10.1);
+        for (const GIntBig missing : {-1, 0, 1, 2, 5, 10})
+            QVERIFY(!OGRFeatureUniquePtr(ends->GetFeature(missing)));
+        for (const int index : {0, 1, 2, 3}) {
+            QCOMPARE(ends->SetNextByIndex(index), OGRERR_NONE);
+            const OGRFeatureUniquePtr next(ends->GetNextFeature());
+            QCOMPARE(next->GetFID(), 6 + index);
+            QCOMPARE(next->GetFieldAsString("End"), index % 2 == 0 ? "A" : "B");
+        }
+        QVERIFY(ends->SetNextByIndex(4) != OGRERR_NONE);
+    }
+
+    void filtersBothLayers()
+    {
+        const Warnings warnings;
+        QVERIFY(m_folder.write("f.csv", SideBySide));
+        const auto dataset = m_folder.open("link:t_srs=3857,", "f.csv");
+        OGRLayer *links = dataset->GetLayer(0);
+        OGRLayer *ends = dataset->GetLayer(1);
+        const double x = 6378137 * 10 * M_PI / 180; // of 10 degrees east in EPSG:3857
+        const char *ignored[] = {"Link", "Transmitter-1 Height (m)", nullptr};
+
+        QCOMPARE(ends->SetIgnoredFields(ignored), OGRERR_NONE);
+        ends->SetSpatialFilterRect(x - 1, -1, x + 1, 1);
+        links->SetSpatialFilterRect(x + 1000, -1, x + 2000, 1);
+
+        QCOMPARE(ends->GetFeatureCount(), 2);
+        QCOMPARE(links->GetFeatureCount(), 1);
+        ends->SetAttributeFilter("\"Link row\" = 4");
+        QCOMPARE(ends->GetFeatureCount(), 1);
+        const OGRFeatureUniquePtr end(ends->GetNextFeature());
+        QCOMPARE(end->GetFID(), 8);
+        QVERIFY(!end->IsFieldSet(4) && !end->IsFieldSet(7));
+        QCOMPARE(end->GetFieldAsDouble("Frequency (MHz)"), 23000.0);
+        QCOMPARE(end->GetFieldAsDouble("Longitude"), 10.0); // in the file's system
+    }
+
+private:
+    TableFolder m_folder;
+};
+
+QTEST_GUILESS_MAIN(LinkLayer)
+#include "tst_LinkLayer.moc"
