@@ -27,6 +27,7 @@ const QString Examples =
                    "  vltlayers snapshot sites.lay -o sites.png\n"
                    "  vltlayers snapshot sites.lay --project city.gvw --view symbolic \\\n"
                    "      --size 1920x1080 -o sectors.png\n"
+                   "  vltlayers snapshot links.lay --project city.gvw --terrain -o links.png\n"
                    "  xvfb-run -a vltlayers snapshot sites.lay --view precise -o mast.png\n");
 
 /// What the command line asks for.
@@ -37,6 +38,7 @@ struct Request
     QString viewName;
     SceneView view = SceneView::All;
     QSize size;
+    snapshot::TerrainSurface terrain = snapshot::TerrainSurface::Hidden;
 };
 
 void describe(QCommandLineParser &parser)
@@ -62,6 +64,8 @@ void describe(QCommandLineParser &parser)
          QStringLiteral("all: everything, from the south-west (default); symbolic: the sectors of "
                         "the site in the middle; precise: its mast and antennas."),
          QStringLiteral("all|symbolic|precise"), QStringLiteral("all")},
+        {QStringLiteral("terrain"),
+         QStringLiteral("Links: show the surface of the project's terrain, too.")},
     });
     addGlobalOptions(parser);
 }
@@ -112,6 +116,8 @@ Result<Request> readRequest(const QCommandLineParser &parser)
     if (!view)
         return Error{{}, QStringLiteral("--view is all, symbolic or precise"), {}};
     request.view = *view;
+    if (parser.isSet(QStringLiteral("terrain")))
+        request.terrain = snapshot::TerrainSurface::Shown;
     return request;
 }
 
@@ -167,7 +173,7 @@ ExitStatus makePicture(const Request &request, const GlobalOptions &options)
 {
     snapshot::SceneNotices notices;
     const Result<osg::ref_ptr<osg::Node>> scene =
-        snapshot::readScene(request.layer, options.projectPath);
+        snapshot::readScene(request.layer, options.projectPath, request.terrain);
     if (!scene) {
         notices.take(); // the same reason in other words
         return refuseLayer(scene.error(), request);

@@ -13,8 +13,9 @@ namespace {
 
 using ReadResult = osgDB::ReaderWriter::ReadResult;
 
-/// Key under which the readers find the project's file.
+/// Keys under which the readers find the project's file, and whether terrain is wanted.
 const std::string ProjectKey = "vlt.project";
+const std::string TerrainKey = "vlt.terrain";
 
 /// Keeps readers from following a scene's references out of this computer.
 class LocalFilesOnly : public osgDB::ReadFileCallback
@@ -64,7 +65,7 @@ bool isParametricName(const QString &name)
     return name.startsWith(QLatin1String("inline://parametric/query?"));
 }
 
-Result<Scene> readScene(const QString &name, const QString &project)
+Result<Scene> readScene(const QString &name, const QString &project, TerrainSurface terrain)
 {
     QString source = name;
     if (!isParametricName(name)) {
@@ -86,6 +87,8 @@ Result<Scene> readScene(const QString &name, const QString &project)
     if (!project.isEmpty())
         options->setPluginStringData(
             ProjectKey, QFile::encodeName(QFileInfo(project).absoluteFilePath()).toStdString());
+    if (terrain == TerrainSurface::Shown)
+        options->setPluginStringData(TerrainKey, "1");
     ReadResult read = registry->readNode(QFile::encodeName(source).toStdString(), options.get());
     if (read.validNode())
         return Scene(read.getNode());

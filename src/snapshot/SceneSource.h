@@ -11,6 +11,9 @@ namespace vlt::snapshot {
 /// A loaded scene; null for none.
 using Scene = osg::ref_ptr<osg::Node>;
 
+/// Whether the surface of the terrain is shown under a scene that knows one.
+enum class TerrainSurface { Hidden, Shown };
+
 /// Loads a scene through the scene library's readers: a regular file of this computer, or a
 /// parametric object "inline://parametric/query?...". Nothing is fetched over a network, neither
 /// the scene nor what it refers to.
@@ -19,7 +22,8 @@ using Scene = osg::ref_ptr<osg::Node>;
 ///                 empty
 /// @par Errors     MESS_SNAP_NOT_LOCAL for a name of another kind, MESS_SNAP_NO_FILE; no key: the
 ///                 text is the reader's reason.
-Result<Scene> readScene(const QString &name, const QString &project = {});
+Result<Scene> readScene(const QString &name, const QString &project = {},
+                        TerrainSurface terrain = TerrainSurface::Hidden);
 
 /// Whether the name is that of a parametric object.
 bool isParametricName(const QString &name);

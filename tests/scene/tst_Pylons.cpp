@@ -436,6 +436,7 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, type);
         PylonDesign design = demonstration(type.constData());
+        design.transmitters[4].kind = AntennaKind::Dish;
         for (const auto &[height, width, scale] : {std::array{25.0, 2.5, 1.0},
                                                    {0.1, 0.01, 10.0},
                                                    {2000.0, 1000.0, 0.01},
@@ -464,9 +465,9 @@ private Q_SLOTS:
         design.heightM = 2000;
         design.transmitters.clear();
         for (std::size_t i = 0; i < MaxTransmitters; ++i)
-            design.transmitters.push_back({2000.0 * static_cast<double>(i) / MaxTransmitters,
-                                           static_cast<double>(i % 360), 0, 360, 30,
-                                           Color(9, 9, 9, 9)});
+            design.transmitters.push_back(
+                {2000.0 * static_cast<double>(i) / MaxTransmitters, static_cast<double>(i % 360), 0,
+                 360, 30, Color(9, 9, 9, 9), i % 2 ? AntennaKind::Dish : AntennaKind::Usual});
         const Counter worst = counted(*PylonFactory().design(design));
 
         QVERIFY(usual.vertices > 2000 && usual.vertices < 25000);

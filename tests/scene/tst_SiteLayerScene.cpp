@@ -1,25 +1,17 @@
-#include "layers/SiteLayerFile.h"
+#include "LayerScenes.h"
+#include "layers/LayerFile.h"
 
 #include <osg/Geometry>
-#include <osg/LOD>
-#include <osg/MatrixTransform>
-#include <osg/NodeVisitor>
-#include <osgDB/ReadFile>
-#include <osgDB/Registry>
-#include <osgText/Text>
 
 #include <QtTest>
 
 #include <cmath>
 #include <map>
-#include <set>
 #include <string>
 
 namespace {
 
-const char *const Look =
-    "pylon_type=monopole_panel,pylon_width=2.5,sector_colors=ff0000ff 00ff00ff,"
-    "sector_properties=200 20 2,transmitter_scale=100,lods=10000 1000,";
+using namespace layertest;
 
 const QByteArray Header = "Site ID,X,Y,Transmitter-1 Terrain Height (m),Transmitter-1 height (m),"
                           "Transmitter-1 Azimuth (\u00b0),Transmitter-2 height (m),"
@@ -37,75 +29,9 @@ QByteArray layerText(const std::string &source, const char *siteField = "Site ID
 
 std::string siteSource(const std::string &table, const std::string &srs = "2154")
 {
-    return "site:s_srs=" + srs + ",t_srs=" + srs + ",data_folder=d," + Look + table;
+    return "site:s_srs=" + srs + ",t_srs=" + srs + ",data_folder=d," + PylonLook +
+           "lods=10000 1000," + table;
 }
-
-void write(const QString &path, const QByteArray &content)
-{
-    QVERIFY(QDir().mkpath(QFileInfo(path).path()));
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(content), content.size());
-}
-
-struct Opened
-{
-    osg::ref_ptr<osg::Group> scene;
-    std::string fault;
-
-    std::string fact(const std::string &key) const
-    {
-        for (const std::string &line : scene->getDescriptions()) {
-            if (line.starts_with(key + '='))
-                return line.substr(key.size() + 1);
-        }
-        return "absent";
-    }
-};
-
-Opened open(const QString &path, const osgDB::Options *options = nullptr)
-{
-    osgDB::ReaderWriter::ReadResult read =
-        osgDB::Registry::instance()->readNode(path.toStdString(), options);
-    return {read.getNode() ? read.getNode()->asGroup() : nullptr, read.message()};
-}
-
-/// Draws nothing, but goes where the renderer would go, at every distance: this makes what is made
-/// when it is needed.
-struct Everything : osg::NodeVisitor
-{
-    Everything() : osg::NodeVisitor(CULL_VISITOR, TRAVERSE_ALL_CHILDREN) {}
-
-    void apply(osg::LOD &lod) override
-    {
-        for (unsigned i = 0; i < lod.getNumChildren(); ++i)
-            lod.getChild(i)->accept(*this);
-    }
-
-    void apply(osg::MatrixTransform &transform) override
-    {
-        const osg::Vec3d before = place;
-        place += transform.getMatrix().getTrans();
-        if (!transform.getName().empty())
-            feet[transform.getName()] = place;
-        traverse(transform);
-        place = before;
-    }
-
-    void apply(osg::Drawable &drawable) override
-    {
-        if (const auto *text = dynamic_cast<const osgText::Text *>(&drawable)) {
-            labels[text->getName()] = place + text->getPosition();
-            return;
-        }
-        drawables.insert(&drawable);
-    }
-
-    osg::Vec3d place;
-    std::map<std::string, osg::Vec3d> feet;
-    std::map<std::string, osg::Vec3d> labels;
-    std::set<osg::ref_ptr<const osg::Drawable>> drawables;
-};
 
 } // namespace
 
@@ -284,7 +210,9 @@ private Q_SLOTS:
             return QByteArray(good).replace(what, with);
         };
         QTest::newRow("empty") << QByteArray() << QByteArray("veltaroLayer");
-        QTest::newRow("links") << changed("=\"sites\"", "=\"links\"") << QByteArray("\"links\"");
+        QTest::newRow("kind") << changed("=\"sites\"", "=\"towers\"") << QByteArray("\"towers\"");
+        QTest::newRow("kind of query")
+            << changed("=\"sites\"", "=\"links\"") << QByteArray("link:");
         QTest::newRow("no kind") << changed("kind=\"sites\"", "") << QByteArray("kind");
         QTest::newRow("no source") << changed("source", "sauce") << QByteArray("source");
         QTest::newRow("no end") << good.left(good.indexOf("]]></source")) << QByteArray("source");
@@ -316,7 +244,7 @@ private Q_SLOTS:
 
     void readsTextThatNobodyEscaped()
     {
-        const vlt::scene::SiteLayerFile file = vlt::scene::parseSiteLayer(
+        const vlt::scene::LayerFile file = vlt::scene::parseLayerFile(
             "<veltaroLayer kind='sites'><source> site:R&D/a&amp;b]]>.csv </source><layer/>"
             "<title><![CDATA[x]]>y]]></title></veltaroLayer>");
 

@@ -2,12 +2,8 @@
 
 #include "layers/BadLayer.h"
 
-#include <ogr_spatialref.h>
-
 #include <algorithm>
 #include <cmath>
-#include <limits>
-#include <memory>
 
 namespace vlt::scene {
 
@@ -45,28 +41,11 @@ osg::Vec2d geographicMiddle(std::vector<osg::Vec2d> places, double wholeTurn)
     return middle;
 }
 
-osg::Vec2d projectAround(const OGRSpatialReference &srs, std::vector<osg::Vec2d> &places)
+osg::Vec2d transformed(OGRCoordinateTransformation &transformation, osg::Vec2d place)
 {
-    const double unitRad = srs.GetAngularUnits();
-    const double unitDeg = unitRad * DegreesPerRadian;
-    const osg::Vec2d middle = geographicMiddle(places, WholeTurnRad / unitRad);
-    OGRSpatialReference plane;
-    plane.SetProjCS("around the sites");
-    plane.CopyGeogCSFrom(&srs);
-    plane.SetAE(middle.y() * unitDeg, middle.x() * unitDeg, 0, 0);
-    plane.SetLinearUnits(SRS_UL_METER, 1);
-    plane.SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
-    OGRSpatialReference geographic(srs);
-    geographic.SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
-    const std::unique_ptr<OGRCoordinateTransformation> transformation(
-        OGRCreateCoordinateTransformation(&geographic, &plane));
-    if (!transformation)
-        throw BadLayer("the coordinate system of the sites cannot be projected");
-    for (osg::Vec2d &place : places) {
-        if (!transformation->Transform(1, &place.x(), &place.y()))
-            place.x() = std::numeric_limits<double>::quiet_NaN();
-    }
-    return middle;
+    if (!transformation.Transform(1, &place.x(), &place.y()))
+        place.set(NAN, NAN);
+    return place;
 }
 
 /// As South African grids do.
@@ -81,19 +60,48 @@ bool countsWestAndSouth(const OGRSpatialReference &srs)
 
 } // namespace
 
-osg::Vec2d moveToLocalFrame(const OGRSpatialReference *srs, std::vector<osg::Vec2d> &places)
+LocalFrame::LocalFrame(const OGRSpatialReference *srs, const std::vector<osg::Vec2d> &places)
 {
-    if (srs && srs->IsGeographic())
-        return projectAround(*srs, places);
+    if (srs && srs->IsGeographic()) {
+        projectAround(*srs, places);
+        return;
+    }
     if (srs && !srs->IsProjected() && !srs->IsLocal())
-        throw BadLayer("the coordinate system of the sites is neither projected nor geographic");
-    double unitM = srs ? srs->GetLinearUnits() : 1;
+        throw BadLayer("the coordinate system of the layer is neither projected nor geographic");
+    m_unitM = srs ? srs->GetLinearUnits() : 1;
     if (srs && countsWestAndSouth(*srs))
-        unitM = -unitM;
-    const osg::Vec2d middle = middleOf(places);
-    for (osg::Vec2d &place : places)
-        place = (place - middle) * unitM;
-    return middle;
+        m_unitM = -m_unitM;
+    m_centre = middleOf(places);
+}
+
+void LocalFrame::projectAround(const OGRSpatialReference &srs,
+                               const std::vector<osg::Vec2d> &places)
+{
+    const double unitRad = srs.GetAngularUnits();
+    const double unitDeg = unitRad * DegreesPerRadian;
+    m_centre = geographicMiddle(places, WholeTurnRad / unitRad);
+    OGRSpatialReference plane;
+    plane.SetProjCS("around the places");
+    plane.CopyGeogCSFrom(&srs);
+    plane.SetAE(m_centre.y() * unitDeg, m_centre.x() * unitDeg, 0, 0);
+    plane.SetLinearUnits(SRS_UL_METER, 1);
+    plane.SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
+    OGRSpatialReference geographic(srs);
+    geographic.SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
+    m_toPlane.reset(OGRCreateCoordinateTransformation(&geographic, &plane));
+    m_fromPlane.reset(OGRCreateCoordinateTransformation(&plane, &geographic));
+    if (!m_toPlane || !m_fromPlane)
+        throw BadLayer("the coordinate system of the layer cannot be projected");
+}
+
+osg::Vec2d LocalFrame::toFrame(const osg::Vec2d &place) const
+{
+    return m_toPlane ? transformed(*m_toPlane, place) : (place - m_centre) * m_unitM;
+}
+
+osg::Vec2d LocalFrame::fromFrame(const osg::Vec2d &place) const
+{
+    return m_fromPlane ? transformed(*m_fromPlane, place) : place / m_unitM + m_centre;
 }
 
 } // namespace vlt::scene

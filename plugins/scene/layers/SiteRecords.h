@@ -1,9 +1,9 @@
 #pragma once
 
-#include "layers/SiteLayerFile.h"
+#include "layers/LayerFile.h"
+#include "layers/SceneFrame.h"
 #include "layers/SiteStyle.h"
 
-#include <osg/Vec2d>
 #include <osg/Vec3d>
 
 #include <cstdint>
@@ -19,6 +19,9 @@ inline constexpr std::size_t MaxSites = 1000000;
 inline constexpr double UsualMastM = 25;
 inline constexpr double UsualAntennaM = 23;
 
+inline constexpr double AboveAntennasM = 2; ///< what a mast rises above its highest antenna
+inline constexpr double TallestM = 2000;    ///< mast
+
 struct SiteRecord
 {
     std::string name; ///< UTF-8
@@ -26,13 +29,17 @@ struct SiteRecord
     std::uint32_t design = 0;
 };
 
-/// The sites of a layer. Equal pylons are one design.
-struct SiteRecords
+/// Pylons at their places. Equal pylons are one design.
+struct PylonRecords
 {
     std::vector<SiteRecord> sites;
     std::vector<PylonDesign> designs;
-    osg::Vec2d centre;        ///< origin of the local frame in the system `srs`
-    std::string srs;          ///< "EPSG:2154", or the system's name; empty: unknown
+};
+
+/// The sites of a layer.
+struct SiteRecords : PylonRecords
+{
+    SceneFrame frame;
     std::size_t unplaced = 0; ///< rows without a position
     bool isCut = false;       ///< the table holds more than MaxSites
 };
@@ -45,7 +52,7 @@ struct SiteRecords
 ///
 /// @param table  with the absolute path of a file
 /// @throws BadLayer  the table cannot be opened, or none of its rows has a position
-SiteRecords readSiteRecords(const connection::ConnectionString &table, const SiteLayerFile &layer,
+SiteRecords readSiteRecords(const connection::ConnectionString &table, const LayerFile &layer,
                             const SiteStyle &style);
 
 } // namespace vlt::scene

@@ -2,8 +2,8 @@
 
 #include "parametric/BadQuery.h"
 #include "parametric/ParametricQuery.h"
+#include "parametric/PylonItems.h"
 
-#include <charconv>
 #include <initializer_list>
 
 namespace vlt::scene {
@@ -12,16 +12,7 @@ namespace {
 
 constexpr double WidestM = 1000;
 constexpr double LargestSectorM = 1e8;
-constexpr double FarthestM = 1e9;
 constexpr double LargestScalePercent = 1000;
-
-std::string optionOf(const connection::ConnectionString &source, const std::string &key)
-{
-    std::string value = source.option(key);
-    if (value.empty())
-        throw BadQuery(key + " is missing in the layer's source");
-    return value;
-}
 
 struct Number
 {
@@ -34,36 +25,28 @@ struct Number
 void readNumbers(const connection::ConnectionString &source, const std::string &key,
                  std::string_view meaning, std::initializer_list<Number> numbers)
 {
-    const std::string value = optionOf(source, key);
+    const std::string value = styleOption(source, key);
     Words words(key, value);
     words.expect(numbers.size(), meaning);
     for (const Number &number : numbers)
         *number.value = words.number(number.name, number.least, number.most);
 }
 
-Color readColor(const Words &words, std::string_view text)
-{
-    unsigned value = 0;
-    const auto [end, fault] = std::from_chars(text.data(), text.data() + text.size(), value, 16);
-    if (text.size() != 8 || fault != std::errc() || end != text.data() + text.size())
-        words.refuse("colour", text, "is not rrggbbaa");
-    const auto part = [value](unsigned shift) {
-        return static_cast<unsigned char>(value >> shift);
-    };
-    return {part(24), part(16), part(8), part(0)};
-}
-
 } // namespace
+
+std::string styleOption(const connection::ConnectionString &source, std::string_view key)
+{
+    std::string value = source.option(key);
+    if (value.empty())
+        throw BadQuery(std::string(key) + " is missing in the layer's source");
+    return value;
+}
 
 SiteStyle readSiteStyle(const connection::ConnectionString &source)
 {
     SiteStyle style;
-    const std::string typeName = optionOf(source, "pylon_type");
-    const std::optional<PylonType> type = pylonTypeNamed(typeName);
-    if (!type)
-        Words("pylon_type", typeName).refuse("type", typeName, "is unknown");
     PylonDesign &pylon = style.pylon;
-    pylon.type = *type;
+    pylon.type = readPylonType(styleOption(source, "pylon_type"));
     readNumbers(source, "pylon_width", "WIDTH", {{"width", 0.01, WidestM, &pylon.widthM}});
     readNumbers(source, "sector_properties", "RADIUS HEIGHT SPACING",
                 {{"radius", 0, LargestSectorM, &pylon.sectorRadiusM},
@@ -76,10 +59,10 @@ SiteStyle readSiteStyle(const connection::ConnectionString &source)
     readNumbers(source, "lods", "SYMBOLIC REALISTIC",
                 {{"symbolic distance", 0, FarthestM, &pylon.symbolicDistanceM},
                  {"realistic distance", 0, FarthestM, &pylon.realisticDistanceM}});
-    const std::string colors = optionOf(source, "sector_colors");
+    const std::string colors = styleOption(source, "sector_colors");
     Words words("sector_colors", colors);
-    for (std::string_view word = words.word(); !word.empty(); word = words.word())
-        style.colors.push_back(readColor(words, word));
+    while (style.colors.size() < words.count())
+        style.colors.push_back(words.color());
     if (style.colors.empty())
         throw BadQuery("sector_colors is missing in the layer's source");
     return style;

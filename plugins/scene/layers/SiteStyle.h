@@ -3,6 +3,8 @@
 #include "connection/ConnectionString.h"
 #include "parametric/PylonObject.h"
 
+#include <string>
+#include <string_view>
 #include <vector>
 
 namespace vlt::scene {
@@ -13,6 +15,9 @@ struct SiteStyle
     PylonDesign pylon;         ///< without height and transmitters, which each site has of its own
     std::vector<Color> colors; ///< of the transmitters in turn; at least one
 };
+
+/// The text of an option of a layer's source. @throws BadQuery  missing
+std::string styleOption(const connection::ConnectionString &source, std::string_view key);
 
 /// Reads the options pylon_type, pylon_width, sector_colors, sector_properties, transmitter_scale
 /// and lods.

@@ -9,21 +9,33 @@ namespace vlt::scene {
 
 namespace fs = std::filesystem;
 
-connection::ConnectionString locateTable(const std::string &source,
+namespace {
+
+std::string fileIn(const std::string &directory, const std::string &path)
+{
+    std::error_code error;
+    const fs::path file = (fs::path(directory) / path).lexically_normal();
+    return fs::is_regular_file(file, error) ? file.string() : std::string();
+}
+
+} // namespace
+
+connection::ConnectionString locateTable(const std::string &source, LayerKind kind,
                                          const std::vector<std::string> &directories)
 {
+    const std::string start = kind == LayerKind::Links ? "link" : "site";
     const auto plain = connection::parse(source);
-    if (!plain || plain->kind != "site")
-        throw BadLayer("the source \"" + source.substr(0, 60) + "\" does not start with \"site:\"");
+    if (!plain || plain->kind != start)
+        throw BadLayer("the source \"" + source.substr(0, 60) + "\" does not start with \"" +
+                       start + ":\"");
     if (plain->path.empty())
         throw BadLayer("the source names no table");
     for (const std::string &directory : directories) {
         auto connection = connection::parse(source, directory);
-        std::error_code error;
-        const fs::path path = (fs::path(directory) / connection->path).lexically_normal();
-        if (!fs::is_regular_file(path, error))
+        const std::string path = fileIn(directory, connection->path);
+        if (path.empty())
             continue;
-        connection->path = path.string();
+        connection->path = path;
         return *connection;
     }
     std::string text = "the table \"" + plain->path + "\" does not exist";
@@ -32,6 +44,16 @@ connection::ConnectionString locateTable(const std::string &source,
             text += (i == 0 ? "; looked for in " : ", ") + directories[i];
     }
     throw BadLayer(text);
+}
+
+std::string locateFile(const std::string &path, const std::vector<std::string> &directories)
+{
+    for (const std::string &directory : directories) {
+        std::string found = fileIn(directory, path);
+        if (!found.empty())
+            return found;
+    }
+    return {};
 }
 
 std::vector<std::string> tableDirectories(const std::string &layerFile, const std::string &project)

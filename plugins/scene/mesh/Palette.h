@@ -10,6 +10,7 @@ inline const Color Grating{132, 138, 142, 255};
 inline const Color Cable{38, 40, 42, 255};
 inline const Color Radome{228, 230, 228, 255};
 inline const Color RadomeEnd{120, 124, 126, 255};
+inline const Color DishCover{206, 209, 210, 255};
 inline const Color Concrete{168, 163, 154, 255};
 inline const Color Plaster{206, 200, 188, 255};
 inline const Color RoofFelt{112, 112, 114, 255};

@@ -73,6 +73,14 @@ osg::Vec3d rightOf(double azimuthDeg)
     return {std::cos(angle), -std::sin(angle), 0};
 }
 
+osg::Vec3d acrossOf(const osg::Vec3d &axis)
+{
+    const osg::Vec3d helper = std::abs(axis.z()) > 0.9 ? osg::Vec3d(0, 1, 0) : osg::Vec3d(0, 0, 1);
+    osg::Vec3d across = helper ^ axis;
+    across.normalize();
+    return across;
+}
+
 void addTube(Mesh &mesh, const osg::Vec3d &from, const osg::Vec3d &to, double fromRadius,
              double toRadius, int sides, const Color &color, Ends ends)
 {
@@ -80,9 +88,7 @@ void addTube(Mesh &mesh, const osg::Vec3d &from, const osg::Vec3d &to, double fr
     const double length = axis.normalize();
     if (length <= 0)
         return;
-    const osg::Vec3d helper = std::abs(axis.z()) > 0.9 ? osg::Vec3d(0, 1, 0) : osg::Vec3d(0, 0, 1);
-    osg::Vec3d u = helper ^ axis;
-    u.normalize();
+    const osg::Vec3d u = acrossOf(axis);
     const osg::Vec3d v = axis ^ u;
     const double slope = (fromRadius - toRadius) / length;
 
@@ -193,6 +199,40 @@ void addRevolved(Mesh &mesh, const Profile &profile, int segments, const Color &
                 mesh.triangle(left, right + 1, left + 1);
             right = left;
         }
+    }
+}
+
+void addSpheroid(Mesh &mesh, const osg::Vec3d &centre, const osg::Vec3d &along, double halfWidth,
+                 int around, int steps, const Color &color)
+{
+    osg::Vec3d axis = along;
+    const double half = axis.normalize();
+    const osg::Vec3d u = acrossOf(axis);
+    const osg::Vec3d v = axis ^ u;
+    const auto sides = static_cast<unsigned>(around);
+    const unsigned tip = mesh.vertex(centre + along, axis, color);
+    const unsigned first = tip + 1;
+    for (int i = 1; i < steps; ++i) {
+        // even steps of this angle are short ones at the tips
+        const double angle = osg::PI * i / steps;
+        for (int k = 0; k < around; ++k) {
+            const double turn = 2 * osg::PI * k / around;
+            const osg::Vec3d out = u * std::cos(turn) + v * std::sin(turn);
+            osg::Vec3d normal =
+                axis * (std::cos(angle) * halfWidth) + out * (std::sin(angle) * half);
+            normal.normalize();
+            mesh.vertex(centre + along * std::cos(angle) + out * (std::sin(angle) * halfWidth),
+                        normal, color);
+        }
+    }
+    const unsigned end = mesh.vertex(centre - along, -axis, color);
+    const unsigned last = end - sides;
+    for (unsigned k = 0; k < sides; ++k) {
+        const unsigned next = (k + 1) % sides;
+        mesh.triangle(tip, first + k, first + next);
+        for (unsigned ring = first; ring < last; ring += sides)
+            mesh.quad(ring + k, ring + sides + k, ring + sides + next, ring + next);
+        mesh.triangle(end, last + next, last + k);
     }
 }
 

@@ -43,6 +43,17 @@ void addPrism(Mesh &mesh, const Outline &outline, double bottom, double top, con
 void addRevolved(Mesh &mesh, const Profile &profile, int segments, const Color &color,
                  Faces faces = Faces::Round);
 
+/// An ellipsoid of revolution. Its vertices lie on it, closer to each other towards the tips.
+///
+/// @param along  from the centre to a tip
+/// @param halfWidth  from the centre to the equator
+/// @param around, steps  vertices of each of its circles; pieces from tip to tip
+void addSpheroid(Mesh &mesh, const osg::Vec3d &centre, const osg::Vec3d &along, double halfWidth,
+                 int around, int steps, const Color &color);
+
+/// A unit vector at a right angle to another.
+osg::Vec3d acrossOf(const osg::Vec3d &axis);
+
 /// Unit vector towards an azimuth: 0 is north (+y), clockwise; degrees.
 osg::Vec3d towards(double azimuthDeg);
 

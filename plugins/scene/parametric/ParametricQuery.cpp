@@ -91,6 +91,26 @@ std::vector<std::string_view> ParametricQuery::all(std::string_view key) const
     return values;
 }
 
+void ParametricQuery::atMostOnce(std::string_view key) const
+{
+    if (all(key).size() > 1)
+        single(key);
+}
+
+bool asksFor(std::string_view url, std::string_view object)
+{
+    std::string_view rest = withoutExtension(url);
+    rest.remove_prefix(std::min(Start.size(), rest.size()));
+    const std::string wanted = "object=" + std::string(object);
+    while (!rest.empty()) {
+        const std::string_view item = rest.substr(0, rest.find('&'));
+        if (item == wanted)
+            return true;
+        rest.remove_prefix(std::min(item.size() + 1, rest.size()));
+    }
+    return false;
+}
+
 Words::Words(std::string item, std::string_view value) : m_item(std::move(item))
 {
     while (!value.empty()) {
@@ -129,9 +149,38 @@ double Words::number(std::string_view name, double least, double most)
     return value;
 }
 
+int Words::wholeNumber(std::string_view name, int least, int most)
+{
+    const std::string_view text = next();
+    const double value = number(name, least, most);
+    if (value != std::floor(value))
+        refuse(name, text, "is not a whole number");
+    return static_cast<int>(value);
+}
+
+Color Words::color()
+{
+    const std::string_view text = word();
+    Color color;
+    bool good = text.size() == 8;
+    for (unsigned i = 0; good && i < 4; ++i) {
+        const char *begin = text.data() + std::size_t{2} * i;
+        const auto [end, fault] = std::from_chars(begin, begin + 2, color[i], 16);
+        good = fault == std::errc() && end == begin + 2;
+    }
+    if (!good)
+        refuse("colour", text, "is not rrggbbaa");
+    return color;
+}
+
 std::string_view Words::word()
 {
     return m_next < m_words.size() ? m_words[m_next++] : std::string_view();
+}
+
+std::string_view Words::next() const
+{
+    return m_next < m_words.size() ? m_words[m_next] : std::string_view();
 }
 
 void Words::refuse(std::string_view name, std::string_view word, std::string_view why) const

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "mesh/Mesh.h"
+
 #include <initializer_list>
 #include <string>
 #include <string_view>
@@ -15,6 +17,9 @@ namespace vlt::scene {
 class ParametricQuery
 {
 public:
+    /// Key and value.
+    using Item = std::pair<std::string_view, std::string_view>;
+
     /// @param keys  the known keys
     /// @throws BadQuery  another form, an unknown key
     ParametricQuery(std::string_view url, std::initializer_list<std::string_view> keys);
@@ -26,10 +31,20 @@ public:
     /// All values of an item that may be repeated, in their order.
     std::vector<std::string_view> all(std::string_view key) const;
 
+    /// All items, for queries in which their order matters.
+    const std::vector<Item> &items() const { return m_items; }
+
+    /// Refuses what need not be there but is there twice. @throws BadQuery  doubled
+    void atMostOnce(std::string_view key) const;
+
 private:
     std::string m_text;
-    std::vector<std::pair<std::string_view, std::string_view>> m_items;
+    std::vector<Item> m_items;
 };
+
+/// Whether a query asks for an object: "object=link" stands in it. All else is for its reader to
+/// judge.
+bool asksFor(std::string_view url, std::string_view object);
 
 /// Numbers and other words that stand in one value, with blanks between them.
 class Words
@@ -47,8 +62,20 @@ public:
     /// @throws BadQuery  no finite decimal number, or one outside least .. most
     double number(std::string_view name, double least, double most);
 
+    /// The next word as a whole number. @throws BadQuery  as number() does
+    int wholeNumber(std::string_view name, int least, int most);
+
+    /// The next word as a colour. @throws BadQuery  unless it is rrggbbaa
+    Color color();
+
+    /// How many words there are.
+    std::size_t count() const { return m_words.size(); }
+
     /// The next word as it is; empty behind the last one.
     std::string_view word();
+
+    /// The word that comes next, which stays there.
+    std::string_view next() const;
 
     /// Tells that a word cannot be used. @throws BadQuery  always
     [[noreturn]] void refuse(std::string_view name, std::string_view word,

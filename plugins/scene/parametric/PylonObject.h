@@ -29,15 +29,21 @@ enum class PylonType {
 /// The type that queries name so ("monopole_panel"); nothing for any other text.
 std::optional<PylonType> pylonTypeNamed(std::string_view name);
 
+enum class AntennaKind {
+    Usual, ///< a panel or a cylinder, as the mast's type has them
+    Dish,  ///< of a microwave link
+};
+
 /// One transmitter: an antenna in the precise representation, a sector in the symbolic one.
 struct Transmitter
 {
     double heightM = 0;        ///< centre of the antenna above the foot
     double azimuthDeg = 0;     ///< 0 is north, clockwise
     double tiltDeg = 0;        ///< positive: beam below the horizon
-    double beamWidthDeg = 0;   ///< horizontal; 0: UsualBeamWidthDeg
-    double antennaLengthM = 0; ///< before scaling; 0: UsualAntennaLengthM
+    double beamWidthDeg = 0;   ///< horizontal; 0: UsualBeamWidthDeg or UsualDishBeamDeg
+    double antennaLengthM = 0; ///< before scaling; 0: UsualAntennaLengthM or UsualDishDiameterM
     Color color;               ///< of the sector and of the antenna's mark
+    AntennaKind kind = AntennaKind::Usual;
 
     // NOLINTNEXTLINE(modernize-use-nullptr): the check mistakes the comparison's own 0
     std::partial_ordering operator<=>(const Transmitter &) const = default;
@@ -45,6 +51,8 @@ struct Transmitter
 
 inline constexpr double UsualBeamWidthDeg = 65;
 inline constexpr double UsualAntennaLengthM = 2;
+inline constexpr double UsualDishBeamDeg = 20; ///< of its sector; a real beam would not be seen
+inline constexpr double UsualDishDiameterM = 0.9;
 
 /// Everything about a pylon but its place: pylons of equal design share their geometry.
 struct PylonDesign

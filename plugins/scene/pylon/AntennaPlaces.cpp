@@ -15,6 +15,8 @@ constexpr double SameDirectionDeg = 15;
 constexpr double PipeRoomM = 0.05;    ///< the pipe's radius
 constexpr double OutsideRailM = 0.08; ///< from a platform's corners to the pipes
 constexpr double WidestRowM = 3;
+constexpr double FarthestDishM = 2.5; ///< from the axis, where there is no platform
+constexpr double DishRoom = 0.55;     ///< to either side, of the diameter
 
 double standoff(const AntennaSize &size, double scale, double tiltDeg)
 {
@@ -84,8 +86,27 @@ std::vector<double> rowSteps(const PylonDesign &pylon)
     return steps;
 }
 
+/// How far from the axis a dish has to be to keep off its neighbours of other directions.
+double roomyDistance(const PylonDesign &pylon, const Transmitter &dish)
+{
+    if (dish.kind != AntennaKind::Dish)
+        return 0;
+    double distance = 0;
+    for (const Transmitter &other : pylon.transmitters) {
+        const double between = std::abs(std::remainder(other.azimuthDeg - dish.azimuthDeg, 360));
+        const double room =
+            (antennaSize(pylon, dish).length + antennaSize(pylon, other).length) / 2;
+        if (other.kind == AntennaKind::Dish && between >= SameDirectionDeg &&
+            std::abs(other.heightM - dish.heightM) < room)
+            distance =
+                std::max(distance, DishRoom * room / std::sin(osg::DegreesToRadians(between / 2)));
+    }
+    return std::min(distance, FarthestDishM);
+}
+
 /// Sets the pipe's place and the points that hold it.
-void hang(AntennaPlace &place, const PylonDesign &pylon, const MastDesign &mast, double step)
+void hang(AntennaPlace &place, const PylonDesign &pylon, const MastDesign &mast, double step,
+          double leastDistance)
 {
     const double centre = place.centre.z();
     const double half = place.size.length / 2;
@@ -110,7 +131,8 @@ void hang(AntennaPlace &place, const PylonDesign &pylon, const MastDesign &mast,
     } else {
         const double outline = std::max(mastSection(mast, centre - lift).reach(place.azimuthDeg),
                                         mastSection(mast, centre + lift).reach(place.azimuthDeg));
-        distance = outline + armLength(mast.type) * std::max(1.0, pylon.antennaScale);
+        distance = std::max(leastDistance,
+                            outline + armLength(mast.type) * std::max(1.0, pylon.antennaScale));
     }
     place.pipe = towards(place.azimuthDeg) * distance + rightOf(place.azimuthDeg) * step;
     if (place.standsOnRoof)
@@ -136,13 +158,14 @@ std::vector<AntennaPlace> placeAntennas(const PylonDesign &pylon, const MastDesi
     for (std::size_t i = 0; i < pylon.transmitters.size(); ++i) {
         const Transmitter &transmitter = pylon.transmitters[i];
         AntennaPlace place;
+        place.kind = transmitter.kind;
         place.azimuthDeg = transmitter.azimuthDeg;
         place.tiltDeg = transmitter.tiltDeg;
         place.size = antennaSize(pylon, transmitter);
         place.mark = transmitter.color;
         place.mark.a() = 255;
         place.centre.z() = transmitter.heightM;
-        hang(place, pylon, mast, steps[i]);
+        hang(place, pylon, mast, steps[i], roomyDistance(pylon, transmitter));
         const osg::Vec3d ahead =
             towards(place.azimuthDeg) * standoff(place.size, pylon.antennaScale, place.tiltDeg);
         place.centre = place.pipe + ahead + osg::Vec3d(0, 0, transmitter.heightM);

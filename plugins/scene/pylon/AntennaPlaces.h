@@ -11,6 +11,7 @@ namespace vlt::scene {
 /// Where an antenna hangs. Metres, in the pylon's own frame.
 struct AntennaPlace
 {
+    AntennaKind kind = AntennaKind::Usual;
     osg::Vec3d centre;
     double azimuthDeg = 0; ///< that the antenna faces
     double tiltDeg = 0;

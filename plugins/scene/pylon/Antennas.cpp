@@ -2,6 +2,7 @@
 
 #include "mesh/Palette.h"
 #include "mesh/Solids.h"
+#include "pylon/Dish.h"
 
 #include <cmath>
 
@@ -73,6 +74,18 @@ osg::Matrixd antennaMatrix(const AntennaPlace &place)
            turnedTo(place.azimuthDeg) * osg::Matrixd::translate(place.centre);
 }
 
+/// Where the two clamps hold an antenna's back.
+std::vector<osg::Vec3d> backPoints(const AntennaPlace &place)
+{
+    std::vector<osg::Vec3d> points;
+    for (const double lift : {-bracketOffset(place.size), bracketOffset(place.size)}) {
+        const bool isDish = place.kind == AntennaKind::Dish;
+        const double back = isDish ? dishBack(place.size, lift) : -0.4 * place.size.depth;
+        points.emplace_back(0, back, lift);
+    }
+    return points;
+}
+
 /// Pipe, two clamps that follow the tilt, and arms to the mast or a stand on the roof.
 void addBracket(Mesh &metal, const AntennaPlace &place, bool detailed)
 {
@@ -83,9 +96,14 @@ void addBracket(Mesh &metal, const AntennaPlace &place, bool detailed)
             axis + osg::Vec3d(0, 0, place.pipeTop), radius, radius, sides, palette::Galvanised,
             detailed ? Ends::Closed : Ends::Open);
     const osg::Matrixd matrix = antennaMatrix(place);
-    for (const double share : {-0.36, 0.36}) {
-        const osg::Vec3d back =
-            osg::Vec3d(0, -0.4 * place.size.depth, share * place.size.length) * matrix;
+    if (place.kind == AntennaKind::Dish) {
+        const double thick = dishHubRadius(place.size);
+        addTube(metal, axis + osg::Vec3d(0, 0, place.centre.z()),
+                osg::Vec3d(0, -0.5 * place.size.depth, 0) * matrix, 0.06, thick, detailed ? 16 : 6,
+                palette::DarkSteel, Ends::Closed);
+    }
+    for (const osg::Vec3d &point : backPoints(place)) {
+        const osg::Vec3d back = point * matrix;
         addTube(metal, axis + osg::Vec3d(0, 0, back.z()), back, 0.03, 0.03, detailed ? 8 : 4,
                 palette::DarkSteel);
         if (detailed)
@@ -113,9 +131,12 @@ void addAntennas(Meshes &meshes, const std::vector<AntennaPlace> &places, bool c
 {
     const bool detailed = places.size() <= MostDetailed;
     for (const AntennaPlace &place : places) {
-        Mesh radome;
-        addRadome(radome, place, cylinders, detailed);
-        meshes.matt.append(radome, antennaMatrix(place));
+        Mesh body;
+        if (place.kind == AntennaKind::Dish)
+            addDish(body, place, detailed);
+        else
+            addRadome(body, place, cylinders, detailed);
+        meshes.matt.append(body, antennaMatrix(place));
         addBracket(meshes.metal, place, detailed);
     }
 }

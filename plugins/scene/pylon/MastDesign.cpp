@@ -65,10 +65,14 @@ bool hasCylindricalAntennas(PylonType type)
 
 AntennaSize antennaSize(const PylonDesign &pylon, const Transmitter &transmitter)
 {
+    const bool isDish = transmitter.kind == AntennaKind::Dish;
+    const double usual = isDish ? UsualDishDiameterM : UsualAntennaLengthM;
     const double length =
-        transmitter.antennaLengthM > 0 ? transmitter.antennaLengthM : UsualAntennaLengthM;
+        (transmitter.antennaLengthM > 0 ? transmitter.antennaLengthM : usual) * pylon.antennaScale;
+    if (isDish)
+        return {length, length, DishDepth * length};
     const bool round = hasCylindricalAntennas(pylon.type);
-    return {length * pylon.antennaScale, (round ? 0.22 : 0.3) * pylon.antennaScale,
+    return {length, (round ? 0.22 : 0.3) * pylon.antennaScale,
             (round ? 0.22 : 0.15) * pylon.antennaScale};
 }
 

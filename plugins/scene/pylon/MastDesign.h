@@ -30,13 +30,15 @@ bool isRooftop(PylonType type);
 bool isLattice(PylonType type);
 bool hasCylindricalAntennas(PylonType type);
 
-/// Measures of a transmitter's antenna after scaling, metres.
+/// Measures of a transmitter's antenna after scaling, metres. A dish is as long and wide as its
+/// reflector.
 struct AntennaSize
 {
     double length;
     double width;
     double depth;
 };
+inline constexpr double DishDepth = 0.45; ///< from hub to cover, of the diameter
 AntennaSize antennaSize(const PylonDesign &pylon, const Transmitter &transmitter);
 
 /// Where the brackets of an antenna hold on to a mast, above and below its centre.

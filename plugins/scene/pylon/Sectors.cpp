@@ -15,7 +15,9 @@ constexpr double TouchingM = 1e-6;
 
 double beamWidth(const Transmitter &transmitter)
 {
-    return transmitter.beamWidthDeg > 0 ? transmitter.beamWidthDeg : UsualBeamWidthDeg;
+    if (transmitter.beamWidthDeg > 0)
+        return transmitter.beamWidthDeg;
+    return transmitter.kind == AntennaKind::Dish ? UsualDishBeamDeg : UsualBeamWidthDeg;
 }
 
 bool overlap(const Sector &one, const Sector &other)

@@ -1,3 +1,6 @@
+#include "link/LinkScene.h"
+#include "parametric/LinkQuery.h"
+#include "parametric/ParametricQuery.h"
 #include "parametric/PylonQuery.h"
 #include "pylon/PylonFactory.h"
 
@@ -8,12 +11,13 @@ namespace {
 
 using namespace vlt::scene;
 
-/// Opens "inline://parametric/query?object=pylon&...inlinepylonurl" in any program of the scene
-/// library. It claims no protocol: names that it does not read would then go to the network.
+/// Opens "inline://parametric/query?object=pylon&...inlinepylonurl", and the same of object=link,
+/// in any program of the scene library. It claims no protocol: names that it does not read would
+/// then go to the network.
 class InlinePylonReader : public osgDB::ReaderWriter
 {
 public:
-    InlinePylonReader() { supportsExtension("inlinepylonurl", "Parametric pylons"); }
+    InlinePylonReader() { supportsExtension("inlinepylonurl", "Parametric pylons and links"); }
 
     const char *className() const override { return "Parametric pylon reader"; }
 
@@ -26,10 +30,21 @@ public:
     {
         if (!acceptsExtension(osgDB::getLowerCaseFileExtension(name)))
             return ReadResult::FILE_NOT_HANDLED;
+        if (asksFor(name, "link"))
+            return readLinks(name);
         const PylonOrFault pylon = parsePylonQuery(name);
         if (const auto *fault = std::get_if<std::string>(&pylon))
             return ReadResult(*fault);
         return buildPylon(std::get<PylonObject>(pylon)).get();
+    }
+
+private:
+    static ReadResult readLinks(const std::string &name)
+    {
+        const LinkSceneOrFault scene = parseLinkQuery(name);
+        if (const auto *fault = std::get_if<std::string>(&scene))
+            return ReadResult(*fault);
+        return buildLinkScene(std::get<LinkSceneQuery>(scene)).get();
     }
 };
 

@@ -1,6 +1,4 @@
-#include "layers/SiteLayerFile.h"
-#include "layers/SiteScene.h"
-#include "layers/TableLocation.h"
+#include "layers/LayerScene.h"
 
 #include <osg/Notify>
 #include <osgDB/FileNameUtils>
@@ -29,12 +27,19 @@ std::string projectOf(const osgDB::Options *options)
     return value.starts_with('"') ? value.substr(1, value.find('"', 1) - 1) : value;
 }
 
-osg::ref_ptr<osg::Group> readSites(const std::string &path, const std::string &project)
+/// Whether a caller wants the terrain's surface under links: the plug-in datum "vlt.terrain" is
+/// "1".
+bool asksForTerrain(const osgDB::Options *options)
 {
-    const SiteLayerFile file = readSiteLayerFile(path);
-    const auto table = locateTable(file.source, tableDirectories(path, project));
-    osg::ref_ptr<osg::Group> scene =
-        buildSiteScene(readSiteRecords(table, file, readSiteStyle(table)), file.title);
+    return options && options->getPluginStringData("vlt.terrain") == "1";
+}
+
+osg::ref_ptr<osg::Group> read(const std::string &path, const LayerRequest &request)
+{
+    std::vector<std::string> notices;
+    osg::ref_ptr<osg::Group> scene = readLayerScene(path, request, notices);
+    for (const std::string &notice : notices)
+        OSG_WARN << path << ": " << notice << std::endl;
     OSG_INFO << path << ':';
     for (const std::string &fact : scene->getDescriptions())
         OSG_INFO << ' ' << fact;
@@ -42,13 +47,13 @@ osg::ref_ptr<osg::Group> readSites(const std::string &path, const std::string &p
     return scene;
 }
 
-/// Opens layers of sites in any program of the scene library.
+/// Opens layers of sites and of links in any program of the scene library.
 class LayReader : public osgDB::ReaderWriter
 {
 public:
-    LayReader() { supportsExtension("lay", "Layers of telecom sites"); }
+    LayReader() { supportsExtension("lay", "Layers of telecom sites and links"); }
 
-    const char *className() const override { return "Site layer reader"; }
+    const char *className() const override { return "Telecom layer reader"; }
 
     ReadResult readObject(const std::string &name, const Options *options) const override
     {
@@ -64,7 +69,7 @@ public:
         if (path.empty())
             return ReadResult::FILE_NOT_FOUND;
         try {
-            return readSites(path, projectOf(options)).get();
+            return read(path, {projectOf(options), asksForTerrain(options)}).get();
         } catch (const std::exception &fault) { // BadLayer, BadQuery, or out of memory
             return ReadResult(path + ": " + fault.what());
         }

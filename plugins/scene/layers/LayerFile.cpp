@@ -1,4 +1,4 @@
-#include "layers/SiteLayerFile.h"
+#include "layers/LayerFile.h"
 
 #include "layers/BadLayer.h"
 
@@ -100,9 +100,19 @@ std::string_view withoutComment(std::string_view text)
     return end == None ? std::string_view() : text.substr(end);
 }
 
+LayerKind kindNamed(const std::string &name)
+{
+    if (name.empty())
+        throw BadLayer("the kind of the layer is missing");
+    if (name != "sites" && name != "links")
+        throw BadLayer("layers of the kind \"" + name +
+                       "\" cannot be shown, only \"sites\" and \"links\"");
+    return name == "links" ? LayerKind::Links : LayerKind::Sites;
+}
+
 } // namespace
 
-SiteLayerFile parseSiteLayer(std::string_view text)
+LayerFile parseLayerFile(std::string_view text)
 {
     std::string_view rest = text;
     for (std::size_t at = rest.find('<'); at != None && !rest.substr(at).starts_with(Root);
@@ -114,17 +124,14 @@ SiteLayerFile parseSiteLayer(std::string_view text)
     if (root == None)
         throw BadLayer("there is no element veltaroLayer");
     rest.remove_prefix(root);
-    const std::string kind = attribute(rest.substr(0, rest.find('>')), "kind");
-    if (kind.empty())
-        throw BadLayer("the kind of the layer is missing");
-    if (kind != "sites")
-        throw BadLayer("layers of the kind \"" + kind + "\" cannot be shown, only \"sites\"");
 
-    SiteLayerFile file;
-    const std::array<std::pair<std::string_view, std::string *>, 4> known = {
+    LayerFile file;
+    file.kind = kindNamed(attribute(rest.substr(0, rest.find('>')), "kind"));
+    const std::array<std::pair<std::string_view, std::string *>, 5> known = {
         {{"title", &file.title},
          {"source", &file.source},
          {"layer", &file.layer},
+         {"endLayer", &file.endLayer},
          {"siteField", &file.siteField}}};
     rest.remove_prefix(Root.size());
     for (std::size_t at = rest.find('<'); at != None; at = rest.find('<')) {
@@ -154,7 +161,7 @@ SiteLayerFile parseSiteLayer(std::string_view text)
     return file;
 }
 
-SiteLayerFile readSiteLayerFile(const std::string &path)
+LayerFile readLayerFile(const std::string &path)
 {
     std::error_code error;
     if (!std::filesystem::is_regular_file(path, error))
@@ -167,7 +174,7 @@ SiteLayerFile readSiteLayerFile(const std::string &path)
         throw BadLayer("it cannot be read");
     if (text.size() > MaxLayerFileSize)
         throw BadLayer("it is too large for a layer file");
-    SiteLayerFile file = parseSiteLayer(text);
+    LayerFile file = parseLayerFile(text);
     if (file.title.empty())
         file.title = std::filesystem::path(path).stem().string();
     return file;

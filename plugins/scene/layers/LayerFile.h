@@ -5,12 +5,18 @@
 
 namespace vlt::scene {
 
-/// What a layer file of sites says. Its page of information is of no use to a scene.
-struct SiteLayerFile
+enum class LayerKind { Sites, Links };
+
+/// What a layer file says. Its page of information, and the field that names a link there, are of
+/// no use to a scene.
+struct LayerFile
 {
+    LayerKind kind = LayerKind::Sites;
     std::string title;
-    std::string source;    ///< pylon query: where the table is, how pylons and sectors look
-    std::string layer;     ///< layer of the source; empty: the first
+    std::string source; ///< pylon query: where the table is, how pylons and links look
+    std::string layer;  ///< of sites: their layer of the source; empty: the first
+    std::string
+        endLayer; ///< of links: layer of the source that holds their ends; empty: the second
     std::string siteField; ///< field that names a site; empty: the one that is called so
 };
 
@@ -21,11 +27,11 @@ inline constexpr std::size_t MaxLayerFileSize = 16 << 20;
 /// anything but their own end before the closing tag, or as text that may be escaped or not.
 ///
 /// @throws BadLayer  no layer file, another kind of layer, no source
-SiteLayerFile parseSiteLayer(std::string_view text);
+LayerFile parseLayerFile(std::string_view text);
 
 /// The same for a local file.
 ///
 /// @throws BadLayer  also where it cannot be read or is larger than MaxLayerFileSize
-SiteLayerFile readSiteLayerFile(const std::string &path);
+LayerFile readLayerFile(const std::string &path);
 
 } // namespace vlt::scene

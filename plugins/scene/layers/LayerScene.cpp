@@ -1,0 +1,83 @@
+#include "layers/LayerScene.h"
+
+#include "layers/LayerFile.h"
+#include "layers/LinkLayerScene.h"
+#include "layers/LinkLayerStyle.h"
+#include "layers/LinkRecords.h"
+#include "layers/SiteScene.h"
+#include "layers/TableLocation.h"
+#include "layers/TerrainSurface.h"
+
+namespace vlt::scene {
+
+namespace {
+
+using Directories = std::vector<std::string>;
+using Notices = std::vector<std::string>;
+
+/// The terrain under links; null where the layer has none, or none that can be used.
+std::shared_ptr<linkpath::TerrainRaster> openTerrain(const connection::ConnectionString &table,
+                                                     const Directories &directories,
+                                                     Notices &notices)
+{
+    const std::string named = table.option("dem_file");
+    if (named.empty())
+        return nullptr;
+    const std::string path = locateFile(named, directories);
+    std::string reason = "there is no such local file";
+    std::shared_ptr<linkpath::TerrainRaster> terrain;
+    if (!path.empty())
+        terrain = linkpath::TerrainRaster::open(path, &reason);
+    if (!terrain)
+        notices.push_back("the terrain \"" + named + "\" cannot be used (" + reason +
+                          "); the links stand at height 0");
+    return terrain;
+}
+
+osg::BoundingBoxd extentOf(const PylonRecords &pylons)
+{
+    osg::BoundingBoxd extent;
+    for (const SiteRecord &site : pylons.sites)
+        extent.expandBy(site.foot);
+    return extent;
+}
+
+osg::ref_ptr<osg::Group> readLinks(const LayerFile &file, const Directories &directories,
+                                   const LayerRequest &request, Notices &notices)
+{
+    const auto table = locateTable(file.source, file.kind, directories);
+    const LinkLayerStyle style = readLinkLayerStyle(table);
+    const LinkRows links = readLinkRows(table, file);
+    const auto terrain = openTerrain(table, directories, notices);
+    const linkpath::PathProfiler profiler(terrain, links.srs.IsEmpty() ? nullptr : &links.srs);
+    LinkRecords records = placeLinks(links, style, profiler);
+    if (terrain && records.groundless > 0)
+        notices.push_back(std::to_string(records.groundless) + " of " +
+                          std::to_string(records.pylons.sites.size()) +
+                          " pylons stand at height 0: there is no terrain height under them");
+    osg::ref_ptr<osg::Node> surface;
+    if (request.withTerrain)
+        surface = buildTerrainSurface(profiler, *links.frame.local, extentOf(records.pylons));
+    osg::ref_ptr<osg::Group> scene =
+        buildLinkLayerScene(links, std::move(records), style.look, file.title);
+    if (surface)
+        scene->addChild(surface);
+    else if (request.withTerrain)
+        notices.push_back("no terrain is shown: there are no heights under the links");
+    return scene;
+}
+
+} // namespace
+
+osg::ref_ptr<osg::Group> readLayerScene(const std::string &path, const LayerRequest &request,
+                                        Notices &notices)
+{
+    const LayerFile file = readLayerFile(path);
+    const Directories directories = tableDirectories(path, request.project);
+    if (file.kind == LayerKind::Links)
+        return readLinks(file, directories, request, notices);
+    const auto table = locateTable(file.source, file.kind, directories);
+    return buildSiteScene(readSiteRecords(table, file, readSiteStyle(table)), file.title);
+}
+
+} // namespace vlt::scene

@@ -1,0 +1,11 @@
+#include "layers/LinkLayerStyle.h"
+
+namespace vlt::scene {
+
+LinkLayerStyle readLinkLayerStyle(const connection::ConnectionString &source)
+{
+    const ItemText option = [&source](std::string_view key) { return styleOption(source, key); };
+    return {readSiteStyle(source), readLinkLook(option, ClearanceWord::Accepted)};
+}
+
+} // namespace vlt::scene

@@ -1,0 +1,352 @@
+#include "layers/PylonTiles.h"
+
+#include "layers/SiteLabels.h"
+#include "layers/SiteTree.h"
+#include "mesh/Palette.h"
+#include "pylon/DeferredNode.h"
+#include "pylon/PylonFactory.h"
+#include "pylon/Sectors.h"
+
+#include <osg/Geode>
+#include <osg/LOD>
+#include <osg/MatrixTransform>
+#include <osg/Point>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <mutex>
+
+namespace vlt::scene {
+
+namespace {
+
+constexpr std::size_t SitesPerBlock = 4096; ///< that become one drawable from afar
+constexpr double CoarseArcDeg = 40;
+constexpr double LabelRoom = 7; ///< a name is seen from so many times the way to its neighbour
+constexpr double LabelGapM = 4;
+constexpr double RodM = 4; ///< more than anything stands out above a mast
+/// Precise pylons of a scene: where thousands stand at one place, or are to be seen precisely from
+/// afar, the others stay coarse, so that time and memory are bounded.
+constexpr std::size_t MostPrecisePylons = 2000;
+constexpr std::size_t MostPreciseDesigns = 800;
+constexpr float DotPixels = 4;
+constexpr double DotPad = 0.01; ///< of the distance at which dots begin
+constexpr float Endless = std::numeric_limits<float>::max();
+const Color Dot{255, 150, 40, 255};
+
+osg::ref_ptr<osg::StateSet> makeDotState()
+{
+    osg::ref_ptr<osg::StateSet> state = new osg::StateSet;
+    state->setMode(GL_LIGHTING, osg::StateAttribute::OFF);
+    state->setAttributeAndModes(new osg::Point(DotPixels));
+    return state;
+}
+
+/// What the tiles of a scene share, for as long as one of them is there.
+struct Content
+{
+    explicit Content(PylonRecords &&all) : records(std::move(all)) {}
+
+    PylonRecords records;
+    SiteLabels labels;
+    std::mutex guard; ///< several threads may cull
+    PylonFactory factory{PreciseModel::WhenNeeded};
+    osg::ref_ptr<osg::StateSet> dotState = makeDotState();
+
+    std::size_t pylonsMade = 0;     ///< precise ones, in all tiles
+    std::vector<bool> designIsMade; ///< by design
+    std::size_t designsMade = 0;
+
+    /// Takes so many of the budget of precise pylons; false where it is spent.
+    bool takeBudget(const std::vector<std::uint32_t> &sites)
+    {
+        designIsMade.resize(records.designs.size());
+        std::size_t fresh = 0;
+        for (const std::uint32_t site : sites)
+            fresh += designIsMade[records.sites[site].design] ? 0 : 1;
+        if (pylonsMade + sites.size() > MostPrecisePylons ||
+            designsMade + fresh > MostPreciseDesigns)
+            return false;
+        pylonsMade += sites.size();
+        designsMade += fresh;
+        for (const std::uint32_t site : sites)
+            designIsMade[records.sites[site].design] = true;
+        return true;
+    }
+
+    double dotPadM() const { return DotPad * records.designs.front().symbolicDistanceM; }
+
+    const PylonDesign &designOf(std::uint32_t site) const
+    {
+        return records.designs[records.sites[site].design];
+    }
+};
+
+using ContentPtr = std::shared_ptr<Content>;
+using Sites = std::vector<std::uint32_t>;
+
+/// Top of a pylon with its sectors, above its foot.
+double topOf(const PylonDesign &design)
+{
+    double top = design.heightM + RodM;
+    for (const Sector &sector : stackSectors(design))
+        top = std::max(top, sector.bottomM + sector.heightM);
+    return top;
+}
+
+/// @param padM  by which the bound is wider than the points: culling drops what looks small
+osg::ref_ptr<osg::Geometry> makeDots(const osg::ref_ptr<osg::Vec3Array> &points, double padM,
+                                     osg::StateSet *state)
+{
+    osg::BoundingBox bound;
+    for (const osg::Vec3 &point : *points)
+        bound.expandBy(osg::BoundingSphere(point, static_cast<float>(padM)));
+    osg::ref_ptr<osg::Vec4ubArray> color = new osg::Vec4ubArray(1, &Dot);
+    color->setNormalize(true);
+    osg::ref_ptr<osg::Geometry> geometry = new osg::Geometry;
+    geometry->setUseDisplayList(false);
+    geometry->setUseVertexBufferObjects(true);
+    geometry->setVertexArray(points);
+    geometry->setColorArray(color, osg::Array::BIND_OVERALL);
+    geometry->addPrimitiveSet(
+        new osg::DrawArrays(GL_POINTS, 0, static_cast<GLsizei>(points->size())));
+    geometry->setStateSet(state);
+    geometry->setInitialBound(bound);
+    return geometry;
+}
+
+/// Vertices of single precision stay small; optimisers must not write the place into them.
+osg::ref_ptr<osg::MatrixTransform> moved(const osg::ref_ptr<osg::Node> &node,
+                                         const osg::Vec3d &origin)
+{
+    osg::ref_ptr<osg::MatrixTransform> place =
+        new osg::MatrixTransform(osg::Matrixd::translate(origin));
+    place->setDataVariance(osg::Object::DYNAMIC);
+    place->addChild(node);
+    return place;
+}
+
+osg::ref_ptr<osg::Node> makeLabels(Content &content, const Sites &sites, const osg::Vec3d &origin,
+                                   double visibleM)
+{
+    const std::lock_guard lock(content.guard); // fonts make their glyphs one at a time
+    osg::ref_ptr<osg::Group> group = new osg::Group;
+    for (const std::uint32_t site : sites) {
+        const SiteRecord &record = content.records.sites[site];
+        const osg::Vec3d top(0, 0, topOf(content.designOf(site)) + LabelGapM);
+        if (!record.name.empty())
+            group->addChild(content.labels.make(record.name, record.foot - origin + top, visibleM));
+    }
+    return group;
+}
+
+void addDrawable(osg::Geode &geode, const Mesh &mesh, osg::StateSet *state)
+{
+    if (mesh.empty())
+        return;
+    osg::ref_ptr<osg::Geometry> geometry = new osg::Geometry;
+    mesh.fill(*geometry);
+    geometry->setStateSet(state);
+    geode.addDrawable(geometry);
+}
+
+/// From afar only the near walls of a translucent sector are drawn, which have to be as opaque as
+/// both walls together.
+Color forOneWall(Color color)
+{
+    const double through = 1 - color.a() / 255.0;
+    color.a() = static_cast<unsigned char>(std::lround(255 * (1 - through * through)));
+    return color;
+}
+
+/// Masts as lines and coarse sectors, few drawables for a whole tile.
+osg::ref_ptr<osg::Node> makeCoarse(const Content &content, const Sites &sites,
+                                   const osg::Vec3d &origin)
+{
+    Mesh masts(Mesh::Kind::Lines);
+    Mesh noEdges(Mesh::Kind::Lines);
+    Mesh opaque;
+    Mesh translucent;
+    for (const std::uint32_t site : sites) {
+        const osg::Vec3d foot = content.records.sites[site].foot - origin;
+        const PylonDesign &design = content.designOf(site);
+        double top = design.heightM;
+        for (Sector sector : stackSectors(design)) {
+            Mesh &fill = sector.color.a() < 255 ? translucent : opaque;
+            top = std::max(top, sector.bottomM + sector.heightM);
+            sector.color = forOneWall(sector.color);
+            addSector(fill, noEdges, sector, foot, CoarseArcDeg);
+        }
+        const unsigned low = masts.vertex(foot, {}, palette::Galvanised);
+        masts.line(low, masts.vertex(foot + osg::Vec3d(0, 0, top), {}, palette::Galvanised));
+    }
+    const SceneMaterials &materials = content.factory.materials();
+    osg::ref_ptr<osg::Geode> geode = new osg::Geode;
+    addDrawable(*geode, masts, materials.sectorEdges);
+    addDrawable(*geode, opaque, materials.opaqueSector);
+    addDrawable(*geode, translucent, materials.translucentSector);
+    return geode;
+}
+
+/// Whole pylons. Where a tile is so wide that some of its pylons are beyond their symbolic distance
+/// while others are near, a dot stands for those.
+osg::ref_ptr<osg::Node> makePylons(Content &content, const Sites &sites, const osg::Vec3d &origin,
+                                   bool withDots)
+{
+    const std::lock_guard lock(content.guard);
+    if (!content.takeBudget(sites))
+        return makeCoarse(content, sites, origin);
+    osg::ref_ptr<osg::Group> group = new osg::Group;
+    osg::ref_ptr<osg::Node> dot;
+    if (withDots)
+        dot = makeDots(new osg::Vec3Array(1), content.dotPadM(), content.dotState);
+    for (const std::uint32_t site : sites) {
+        const osg::ref_ptr<osg::Node> pylon = content.factory.build(
+            {content.records.sites[site].foot - origin, content.designOf(site)});
+        pylon->setName(content.records.sites[site].name);
+        group->addChild(pylon);
+        if (!dot)
+            continue;
+        const PylonDesign &design = content.designOf(site);
+        osg::ref_ptr<osg::LOD> beyond = new osg::LOD;
+        beyond->addChild(dot, static_cast<float>(design.symbolicDistanceM), Endless);
+        group->addChild(moved(beyond, content.records.sites[site].foot - origin +
+                                          osg::Vec3d(0, 0, design.heightM / 2)));
+    }
+    return group;
+}
+
+/// Builds the nodes of the tree's branches.
+class SceneBuilder
+{
+public:
+    explicit SceneBuilder(const ContentPtr &content) : m_content(content)
+    {
+        for (const PylonDesign &design : content->records.designs) {
+            m_top = std::max(m_top, topOf(design));
+            m_symbolicM = design.symbolicDistanceM; // all designs have the layer's
+            m_realisticM = design.realisticDistanceM;
+            m_reach = std::max({m_reach, design.sectorRadiusM, design.heightM + RodM});
+        }
+    }
+
+    /// A branch. From beyond the symbolic distance it is drawn as dots as soon as it is small
+    /// enough for one drawable.
+    osg::ref_ptr<osg::Node> branch(const SiteTree &tree, bool isInBlock)
+    {
+        const bool isBlock = !isInBlock && tree.siteCount <= SitesPerBlock;
+        osg::ref_ptr<osg::Node> inner;
+        if (tree.isLeaf())
+            inner = tile(tree);
+        else {
+            osg::ref_ptr<osg::Group> halves = new osg::Group;
+            halves->addChild(branch(*tree.low, isInBlock || isBlock));
+            halves->addChild(branch(*tree.high, isInBlock || isBlock));
+            inner = halves;
+        }
+        if (!isBlock || tree.isLeaf())
+            return inner;
+        const osg::BoundingSphere bound = boundOf(tree);
+        const float far = static_cast<float>(m_symbolicM) + bound.radius();
+        osg::ref_ptr<osg::LOD> block = levels(bound);
+        block->addChild(inner, 0, far);
+        block->addChild(dots(tree, bound.center()), far, Endless);
+        return block;
+    }
+
+private:
+    osg::BoundingSphere boundOf(const SiteTree &tree) const
+    {
+        const osg::Vec3d least = tree.feet._min;
+        const osg::Vec3d most = tree.feet._max + osg::Vec3d(0, 0, m_top + LabelGapM);
+        const double radius = (most - least).length() / 2 + m_reach;
+        return {(least + most) / 2, static_cast<float>(radius)};
+    }
+
+    static osg::ref_ptr<osg::LOD> levels(const osg::BoundingSphere &bound)
+    {
+        osg::ref_ptr<osg::LOD> lod = new osg::LOD;
+        lod->setCenterMode(osg::LOD::USER_DEFINED_CENTER);
+        lod->setCenter(bound.center());
+        lod->setRadius(bound.radius());
+        return lod;
+    }
+
+    void addDots(const SiteTree &tree, const osg::Vec3d &origin, osg::Vec3Array &points) const
+    {
+        for (const std::uint32_t site : tree.sites) {
+            const double height = m_content->designOf(site).heightM;
+            points.push_back(m_content->records.sites[site].foot - origin +
+                             osg::Vec3d(0, 0, height / 2));
+        }
+        if (!tree.isLeaf()) {
+            addDots(*tree.low, origin, points);
+            addDots(*tree.high, origin, points);
+        }
+    }
+
+    osg::ref_ptr<osg::Node> dots(const SiteTree &tree, const osg::Vec3d &origin) const
+    {
+        osg::ref_ptr<osg::Vec3Array> points = new osg::Vec3Array;
+        points->reserve(static_cast<unsigned>(tree.siteCount));
+        addDots(tree, origin, *points);
+        return moved(makeDots(points, m_content->dotPadM(), m_content->dotState), origin);
+    }
+
+    /// A leaf: its three representations and its names.
+    osg::ref_ptr<osg::Node> tile(const SiteTree &tree) const
+    {
+        const osg::BoundingSphere bound = boundOf(tree);
+        const osg::Vec3d origin = bound.center();
+        const osg::BoundingSphere inner(osg::Vec3(), bound.radius());
+        const ContentPtr content = m_content;
+        const Sites sites = tree.sites;
+        const auto later = [&](const DeferredNode::Maker &maker) {
+            return moved(new DeferredNode(maker, inner), origin);
+        };
+
+        const float radius = bound.radius();
+        const float far = static_cast<float>(m_symbolicM) + radius;
+        const float near = std::min(far, static_cast<float>(m_realisticM) + radius);
+        osg::ref_ptr<osg::LOD> lod = levels(bound);
+        const bool withDots = near + radius > m_symbolicM;
+        lod->addChild(later([=] { return makePylons(*content, sites, origin, withDots); }), 0,
+                      near);
+        lod->addChild(later([=] { return makeCoarse(*content, sites, origin); }), near, far);
+        lod->addChild(dots(tree, origin), far, Endless);
+
+        const double labelM = labelDistance(tree);
+        lod->addChild(later([=] { return makeLabels(*content, sites, origin, labelM); }), 0,
+                      static_cast<float>(labelM) + radius);
+        return lod;
+    }
+
+    double labelDistance(const SiteTree &tree) const
+    {
+        if (tree.siteCount == 1)
+            return m_symbolicM;
+        const double width = tree.feet.xMax() - tree.feet.xMin();
+        const double depth = tree.feet.yMax() - tree.feet.yMin();
+        const auto count = static_cast<double>(tree.siteCount);
+        const double way = std::max(std::sqrt(width * depth / count), (width + depth) / count);
+        return std::min(LabelRoom * way, m_symbolicM);
+    }
+
+    ContentPtr m_content;
+    double m_top = 0;
+    double m_reach = 0;
+    double m_symbolicM = 0;
+    double m_realisticM = 0;
+};
+
+} // namespace
+
+osg::ref_ptr<osg::Node> buildPylonTiles(PylonRecords records)
+{
+    const auto content = std::make_shared<Content>(std::move(records));
+    const std::unique_ptr<SiteTree> tree = growSiteTree(content->records.sites, SitesPerTile);
+    return SceneBuilder(content).branch(*tree, false);
+}
+
+} // namespace vlt::scene

@@ -1,0 +1,30 @@
+#include "layers/SceneFacts.h"
+
+#include <iomanip>
+#include <locale>
+#include <sstream>
+#include <string>
+
+namespace vlt::scene {
+
+void tellFrame(osg::Group &scene, const SceneFrame &frame)
+{
+    const osg::Vec2d &centre = frame.local->centre();
+    std::ostringstream text;
+    text.imbue(std::locale::classic());
+    text << std::setprecision(12) << "centre=" << centre.x() << ' ' << centre.y();
+    scene.addDescription(text.str());
+    scene.addDescription("srs=" + frame.srs);
+}
+
+void tellCount(osg::Group &scene, std::string_view key, std::size_t count)
+{
+    scene.addDescription(std::string(key) + '=' + std::to_string(count));
+}
+
+void tellCut(osg::Group &scene)
+{
+    scene.addDescription("cut");
+}
+
+} // namespace vlt::scene

@@ -1,0 +1,132 @@
+#include "layers/TableReading.h"
+
+#include "layers/BadLayer.h"
+#include "layers/TableDrivers.h"
+
+#include <cpl_error.h>
+
+#include <algorithm>
+#include <charconv>
+#include <limits>
+
+namespace vlt::scene {
+
+namespace {
+
+constexpr double FarthestM = 3e7; ///< from the middle: no two places of the earth lie further apart
+
+std::optional<double> numberIn(std::string_view text)
+{
+    std::string plain(text);
+    std::replace(plain.begin(), plain.end(), ',', '.');
+    const std::size_t begin = std::min(plain.find_first_not_of(" \t+"), plain.size());
+    const char *last = plain.data() + plain.size();
+    double value = 0;
+    const auto [end, fault] = std::from_chars(plain.data() + begin, last, value);
+    const bool whole = std::all_of(end, last, [](char c) { return c == ' '; });
+    return fault == std::errc() && whole ? std::optional(value) : std::nullopt;
+}
+
+std::string nameOf(const OGRSpatialReference *srs)
+{
+    if (!srs)
+        return {};
+    const char *authority = srs->GetAuthorityName(nullptr);
+    const char *code = srs->GetAuthorityCode(nullptr);
+    if (authority && code)
+        return std::string(authority) + ':' + code;
+    return srs->GetName() ? srs->GetName() : "";
+}
+
+} // namespace
+
+GDALDatasetUniquePtr openTable(const connection::ConnectionString &table)
+{
+    constexpr char Driver[] = "VltTables";
+    registerTableDrivers();
+    if (!GDALGetDriverByName(Driver))
+        throw BadLayer(std::string("the table driver ") + Driver +
+                       " is not there; GDAL_DRIVER_PATH has to name its directory");
+    CPLErrorReset();
+    const char *const drivers[] = {Driver, nullptr};
+    GDALDatasetUniquePtr dataset(
+        GDALDataset::Open(connection::compose(table).c_str(),
+                          GDAL_OF_VECTOR | GDAL_OF_READONLY | GDAL_OF_VERBOSE_ERROR, drivers));
+    if (!dataset)
+        throw BadLayer(CPLGetLastErrorMsg());
+    return dataset;
+}
+
+std::vector<std::string> fieldNamesOf(OGRLayer &layer)
+{
+    const OGRFeatureDefn &definition = *layer.GetLayerDefn();
+    std::vector<std::string> names;
+    names.reserve(static_cast<std::size_t>(definition.GetFieldCount()));
+    for (int i = 0; i < definition.GetFieldCount(); ++i)
+        names.emplace_back(definition.GetFieldDefn(i)->GetNameRef());
+    return names;
+}
+
+void readOnlyFields(OGRLayer &layer, const std::vector<int> &fields)
+{
+    const std::vector<std::string> names = fieldNamesOf(layer);
+    std::vector<bool> isUsed(names.size());
+    for (const int field : fields) {
+        if (field >= 0)
+            isUsed[static_cast<std::size_t>(field)] = true;
+    }
+    std::vector<const char *> ignored;
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        if (!isUsed[i])
+            ignored.push_back(names[i].c_str());
+    }
+    ignored.push_back(nullptr);
+    layer.SetIgnoredFields(ignored.data());
+}
+
+OGRFeatureUniquePtr nextFeature(OGRLayer &layer)
+{
+    CPLErrorReset(); // a row that could not be placed is no reason to stop
+    OGRFeatureUniquePtr feature(layer.GetNextFeature());
+    if (!feature && CPLGetLastErrorType() == CE_Failure)
+        throw BadLayer(CPLGetLastErrorMsg());
+    return feature;
+}
+
+std::optional<osg::Vec2d> placeOf(const OGRFeature &feature)
+{
+    const OGRGeometry *geometry = feature.GetGeometryRef();
+    if (!geometry || wkbFlatten(geometry->getGeometryType()) != wkbPoint || geometry->IsEmpty())
+        return std::nullopt;
+    const OGRPoint &point = *geometry->toPoint();
+    return osg::Vec2d(point.getX(), point.getY());
+}
+
+std::optional<double> numberAt(const OGRFeature &feature, int field, double least, double most)
+{
+    if (field < 0 || !feature.IsFieldSetAndNotNull(field))
+        return std::nullopt;
+    const bool isText = feature.GetFieldDefnRef(field)->GetType() == OFTString;
+    const std::optional<double> value = isText ? numberIn(feature.GetFieldAsString(field))
+                                               : std::optional(feature.GetFieldAsDouble(field));
+    return value && *value >= least && *value <= most ? value : std::nullopt;
+}
+
+std::string textAt(const OGRFeature &feature, int field)
+{
+    return field < 0 ? std::string() : feature.GetFieldAsString(field);
+}
+
+SceneFrame moveToFrame(OGRLayer &layer, std::vector<osg::Vec2d> &places)
+{
+    const OGRSpatialReference *srs = layer.GetSpatialRef();
+    SceneFrame frame{std::make_shared<LocalFrame>(srs, places), nameOf(srs)};
+    for (osg::Vec2d &place : places) {
+        place = frame.local->toFrame(place);
+        if (!(place.length() <= FarthestM))
+            place.x() = std::numeric_limits<double>::quiet_NaN();
+    }
+    return frame;
+}
+
+} // namespace vlt::scene

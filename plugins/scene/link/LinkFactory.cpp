@@ -1,0 +1,316 @@
+#include "link/LinkFactory.h"
+
+#include "link/LinkStates.h"
+#include "linkpath/Fresnel.h"
+#include "mesh/Solids.h"
+
+#include <osg/Geode>
+#include <osg/LOD>
+#include <osg/MatrixTransform>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <iterator>
+#include <limits>
+
+namespace vlt::scene {
+
+namespace {
+
+constexpr std::size_t EllipsoidVertices = 2000000; ///< of a scene of usual size
+constexpr std::size_t FewLinks = 2000;             ///< whose tubes are rounder
+constexpr double PointLength = 3;                  ///< of lines of sight, in their breadths
+constexpr double PointM = 0.1;                     ///< breadth at the very end
+
+/// Circles and pieces of an ellipsoid.
+struct Fineness
+{
+    int around;
+    int along;
+};
+
+Fineness finenessFor(std::size_t links)
+{
+    static constexpr std::array<Fineness, 6> Finest = {
+        {{32, 64}, {24, 48}, {20, 32}, {16, 24}, {12, 16}, {8, 10}}};
+    for (const Fineness &fineness : Finest) {
+        const int vertices = fineness.around * (fineness.along - 1) + 2;
+        if (links * static_cast<std::size_t>(vertices) <= EllipsoidVertices)
+            return fineness;
+    }
+    return Finest.back();
+}
+
+constexpr Fineness FromAfar = {6, 10};
+constexpr double Afar =
+    400; ///< distance in half widths of an ellipsoid, which are few pixels there
+
+/// The opacity of one wall, where a look through two of them has the given one.
+Color forOneOfTwoWalls(Color color)
+{
+    const double through = std::sqrt(1 - color.a() / 255.0);
+    color.a() = static_cast<unsigned char>(std::lround(255 * (1 - through)));
+    return color;
+}
+
+Opacity opacityOf(const Color &color)
+{
+    return color.a() < 255 ? Opacity::Translucent : Opacity::Opaque;
+}
+
+/// Without the fineness of its drawing; in a tile's coordinates.
+struct Ellipsoid
+{
+    osg::Vec3d centre;
+    osg::Vec3d along; ///< to a tip
+    double halfWidth;
+};
+
+/// A mesh of lines of sight; bands need a way from the middle line with each vertex.
+struct LineMesh
+{
+    explicit LineMesh(LinkStyle style)
+        : mesh(style == LinkStyle::Line ? Mesh::Kind::Lines : Mesh::Kind::Solid)
+    {}
+    Mesh mesh;
+    osg::ref_ptr<osg::Vec4Array> asides = new osg::Vec4Array;
+};
+
+/// A point of a line of sight, and how broad it is there.
+struct Station
+{
+    osg::Vec3d at;
+    double breadth;
+};
+
+/// Broad lines are pointed, or they would hide the antennas between which they run.
+std::array<Station, 4> stationsOf(const osg::Vec3d &a, const osg::Vec3d &b, double breadth)
+{
+    osg::Vec3d axis = b - a;
+    const double length = axis.normalize();
+    const osg::Vec3d point = axis * std::min(PointLength * breadth, length / 4);
+    const double end = std::min(breadth, PointM);
+    return {{{a, end}, {a + point, breadth}, {b - point, breadth}, {b, end}}};
+}
+
+void addBand(LineMesh &band, const std::array<Station, 4> &stations, const Color &color)
+{
+    osg::Vec3d axis = stations[3].at - stations[0].at;
+    axis.normalize();
+    const osg::Vec3d across = acrossOf(axis);
+    unsigned last = 0;
+    for (const Station &station : stations) {
+        unsigned next = 0;
+        for (const float side : {1.F, -1.F}) {
+            const osg::Vec3d aside = across * (side * station.breadth / 2);
+            band.asides->push_back(osg::Vec4(aside, side));
+            next = band.mesh.vertex(station.at + aside, axis, color);
+        }
+        if (&station != stations.data())
+            band.mesh.quad(last, next, next - 1, last - 1);
+        last = next;
+    }
+}
+
+void addPointedTube(Mesh &mesh, const std::array<Station, 4> &stations, int sides,
+                    const Color &color)
+{
+    for (std::size_t i = 0; i + 1 < stations.size(); ++i)
+        addTube(mesh, stations[i].at, stations[i + 1].at, stations[i].breadth / 2,
+                stations[i + 1].breadth / 2, sides, color, i == 1 ? Ends::Open : Ends::Closed);
+}
+
+/// Builds a scene's tiles.
+class LinkBuilder
+{
+public:
+    LinkBuilder(const std::vector<LinkObject> &links, const LinkLook &look)
+        : m_links(links)
+        , m_look(look)
+        , m_fineness(finenessFor(links.size()))
+        , m_zoneColor(forOneOfTwoWalls(look.fresnelColor))
+        , m_hairlines(makeHairlineState())
+    {
+        for (const Opacity opacity : {Opacity::Opaque, Opacity::Translucent}) {
+            m_lines[static_cast<std::size_t>(opacity)] = makeLineState(look, opacity);
+            m_ellipsoids[static_cast<std::size_t>(opacity)] = makeEllipsoidState(opacity);
+        }
+    }
+
+    using Picked = std::vector<const LinkObject *>;
+
+    /// Halves the links across until they fit into tiles.
+    void addTiles(osg::Group &group, Picked links) const
+    {
+        if (links.size() <= LinksPerTile) {
+            if (!links.empty())
+                group.addChild(tile(links));
+            return;
+        }
+        osg::BoundingBoxd middles;
+        for (const LinkObject *link : links)
+            middles.expandBy((link->a + link->b) / 2);
+        const osg::Vec3d size = middles._max - middles._min;
+        const int axis = size.x() > size.y() ? 0 : 1;
+        const auto half = links.begin() + static_cast<std::ptrdiff_t>(links.size() / 2);
+        std::nth_element(links.begin(), half, links.end(),
+                         [axis](const LinkObject *one, const LinkObject *other) {
+                             return one->a[axis] + one->b[axis] < other->a[axis] + other->b[axis];
+                         });
+        addTiles(group, Picked(links.begin(), half));
+        addTiles(group, Picked(half, links.end()));
+    }
+
+private:
+    osg::ref_ptr<osg::Node> tile(const Picked &links) const
+    {
+        osg::BoundingBoxd ends;
+        for (const LinkObject *link : links) {
+            ends.expandBy(link->a);
+            ends.expandBy(link->b);
+        }
+        const osg::Vec3d origin = ends.center();
+        osg::ref_ptr<osg::Geode> geode = new osg::Geode;
+        addLines(*geode, links, origin);
+        // vertices of single precision stay small: optimisers must not write the place into them
+        osg::ref_ptr<osg::MatrixTransform> place =
+            new osg::MatrixTransform(osg::Matrixd::translate(origin));
+        place->setDataVariance(osg::Object::DYNAMIC);
+        if (geode->getNumDrawables() > 0)
+            place->addChild(geode);
+        if (m_look.fresnelZone > 0 && m_look.fresnelColor.a() > 0)
+            addEllipsoids(*place, ellipsoidsOf(links, origin));
+        return place;
+    }
+
+    void addLines(osg::Geode &geode, const Picked &links, const osg::Vec3d &origin) const
+    {
+        std::array<LineMesh, 2> lines = {LineMesh(m_look.style), LineMesh(m_look.style)};
+        Mesh hairlines(Mesh::Kind::Lines);
+        for (const LinkObject *link : links) {
+            const Color color = link->color.value_or(m_look.color);
+            if (color.a() == 0)
+                continue;
+            const osg::Vec3d a = link->a - origin;
+            const osg::Vec3d b = link->b - origin;
+            const Opacity opacity = opacityOf(color);
+            addLine(lines[static_cast<std::size_t>(opacity)], a, b, color);
+            if (m_look.style != LinkStyle::Line && opacity == Opacity::Opaque)
+                hairlines.line(hairlines.vertex(a, {}, color), hairlines.vertex(b, {}, color));
+        }
+        for (std::size_t i = 0; i < lines.size(); ++i)
+            addDrawable(geode, lines[i].mesh, m_lines[i], lines[i].asides);
+        addDrawable(geode, hairlines, m_hairlines);
+    }
+
+    void addLine(LineMesh &line, const osg::Vec3d &a, const osg::Vec3d &b, const Color &color) const
+    {
+        const auto stations = stationsOf(a, b, m_look.width);
+        switch (m_look.style) {
+        case LinkStyle::Line:
+            line.mesh.line(line.mesh.vertex(a, {}, color), line.mesh.vertex(b, {}, color));
+            break;
+        case LinkStyle::Tube:
+            addPointedTube(line.mesh, stations, m_links.size() <= FewLinks ? 16 : 8, color);
+            break;
+        case LinkStyle::Billboard:
+            addBand(line, stations, color);
+            break;
+        }
+    }
+
+    std::vector<Ellipsoid> ellipsoidsOf(const Picked &links, const osg::Vec3d &origin) const
+    {
+        std::vector<Ellipsoid> ellipsoids;
+        for (const LinkObject *link : links) {
+            if (!(link->frequencyMHz > 0))
+                continue;
+            osg::Vec3d axis = link->b - link->a;
+            const linkpath::FresnelEllipsoid size = linkpath::fresnelEllipsoid(
+                m_look.fresnelZone, link->frequencyMHz, axis.normalize());
+            ellipsoids.push_back({(link->a + link->b) / 2 - origin, axis * size.semiMajorM,
+                                  size.semiMinorM * m_look.fresnelShare});
+        }
+        return ellipsoids;
+    }
+
+    /// Many links have coarser ellipsoids in tiles that are far away.
+    void addEllipsoids(osg::Group &place, const std::vector<Ellipsoid> &ellipsoids) const
+    {
+        if (ellipsoids.empty())
+            return;
+        const osg::ref_ptr<osg::Node> fine = drawn(ellipsoids, m_fineness);
+        if (m_links.size() <= LinksPerTile) {
+            place.addChild(fine);
+            return;
+        }
+        double widest = 0;
+        for (const Ellipsoid &ellipsoid : ellipsoids)
+            widest = std::max(widest, ellipsoid.halfWidth);
+        const osg::BoundingSphere &bound = fine->getBound();
+        const auto near = static_cast<float>(bound.radius() + Afar * widest);
+        osg::ref_ptr<osg::LOD> levels = new osg::LOD;
+        levels->setCenterMode(osg::LOD::USER_DEFINED_CENTER);
+        levels->setCenter(bound.center());
+        levels->setRadius(bound.radius());
+        levels->addChild(fine, 0, near);
+        levels->addChild(drawn(ellipsoids, FromAfar), near, std::numeric_limits<float>::max());
+        place.addChild(levels);
+    }
+
+    osg::ref_ptr<osg::Node> drawn(const std::vector<Ellipsoid> &ellipsoids, Fineness fineness) const
+    {
+        Mesh mesh;
+        for (const Ellipsoid &ellipsoid : ellipsoids)
+            addSpheroid(mesh, ellipsoid.centre, ellipsoid.along, ellipsoid.halfWidth,
+                        fineness.around, fineness.along, m_zoneColor);
+        osg::ref_ptr<osg::Geode> geode = new osg::Geode;
+        addDrawable(*geode, mesh,
+                    m_ellipsoids[static_cast<std::size_t>(opacityOf(m_look.fresnelColor))]);
+        return geode;
+    }
+
+    void addDrawable(osg::Geode &geode, const Mesh &mesh, osg::StateSet *state,
+                     osg::Vec4Array *asides = nullptr) const
+    {
+        if (mesh.empty())
+            return;
+        osg::ref_ptr<osg::Geometry> geometry = new osg::Geometry;
+        mesh.fill(*geometry);
+        geometry->setStateSet(state);
+        if (asides && !asides->empty()) {
+            geometry->setTexCoordArray(0, asides);
+            osg::BoundingBox turned = geometry->getBoundingBox();
+            const auto half = static_cast<float>(m_look.width / 2);
+            turned.expandBy(turned._min - osg::Vec3(half, half, half));
+            turned.expandBy(turned._max + osg::Vec3(half, half, half));
+            geometry->setInitialBound(turned);
+        }
+        geode.addDrawable(geometry);
+    }
+
+    const std::vector<LinkObject> &m_links;
+    const LinkLook &m_look;
+    Fineness m_fineness;
+    Color m_zoneColor;
+    osg::ref_ptr<osg::StateSet> m_hairlines;
+    std::array<osg::ref_ptr<osg::StateSet>, 2> m_lines; ///< by Opacity
+    std::array<osg::ref_ptr<osg::StateSet>, 2> m_ellipsoids;
+};
+
+} // namespace
+
+osg::ref_ptr<osg::Group> buildLinks(const std::vector<LinkObject> &links, const LinkLook &look)
+{
+    LinkBuilder::Picked drawn;
+    for (const LinkObject &link : links) {
+        if (link.a != link.b)
+            drawn.push_back(&link);
+    }
+    osg::ref_ptr<osg::Group> group = new osg::Group;
+    LinkBuilder(links, look).addTiles(*group, std::move(drawn));
+    return group;
+}
+
+} // namespace vlt::scene

@@ -1,0 +1,25 @@
+#include "link/LinkScene.h"
+
+#include "link/LinkFactory.h"
+#include "pylon/PylonFactory.h"
+
+namespace vlt::scene {
+
+namespace {
+
+constexpr std::size_t FewPylons = 16; ///< that may be made at once, to be converted or measured
+
+} // namespace
+
+osg::ref_ptr<osg::Group> buildLinkScene(const LinkSceneQuery &scene)
+{
+    osg::ref_ptr<osg::Group> group = new osg::Group;
+    PylonFactory factory(scene.pylons.size() <= FewPylons ? PreciseModel::AtOnce
+                                                          : PreciseModel::WhenNeeded);
+    for (const PylonObject &pylon : scene.pylons)
+        group->addChild(factory.build(pylon));
+    group->addChild(buildLinks(scene.links, scene.look));
+    return group;
+}
+
+} // namespace vlt::scene

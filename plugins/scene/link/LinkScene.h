@@ -1,0 +1,12 @@
+#pragma once
+
+#include "parametric/LinkQuery.h"
+
+#include <osg/Group>
+
+namespace vlt::scene {
+
+/// Builds the links of a query and the pylons that carry them.
+osg::ref_ptr<osg::Group> buildLinkScene(const LinkSceneQuery &scene);
+
+} // namespace vlt::scene

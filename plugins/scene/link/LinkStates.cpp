@@ -1,0 +1,137 @@
+#include "link/LinkStates.h"
+
+#include <osg/BlendFunc>
+#include <osg/CullFace>
+#include <osg/Depth>
+#include <osg/LineWidth>
+#include <osg/Program>
+
+namespace vlt::scene {
+
+namespace {
+
+// The way from the eye to any point of a link differs along the link only: all its vertices find
+// the same sideward direction, also those behind the viewer.
+constexpr const char *BandVertices = R"(#version 120
+void main()
+{
+    vec3 aside = (gl_ModelViewMatrix * vec4(gl_MultiTexCoord0.xyz, 0.0)).xyz;
+    vec3 middle = (gl_ModelViewMatrix * gl_Vertex).xyz - aside;
+    vec3 along = (gl_ModelViewMatrix * vec4(gl_Normal, 0.0)).xyz;
+    bool isParallel = gl_ProjectionMatrix[3][3] == 1.0;
+    vec3 turned = cross(along, isParallel ? vec3(0.0, 0.0, -1.0) : middle);
+    float size = length(turned);
+    if (size > 1e-6)
+        aside = turned * (gl_MultiTexCoord0.w * length(aside) / size);
+    gl_FrontColor = gl_Color;
+    gl_BackColor = gl_Color;
+    gl_Position = gl_ProjectionMatrix * vec4(middle + aside, 1.0);
+}
+)";
+
+// For both: how much a surface faces the viewer.
+constexpr const char *FacingVertices = R"(#version 120
+varying vec3 normal;
+varying vec3 look;
+void main()
+{
+    normal = gl_NormalMatrix * gl_Normal;
+    bool isParallel = gl_ProjectionMatrix[3][3] == 1.0;
+    look = isParallel ? vec3(0.0, 0.0, -1.0) : (gl_ModelViewMatrix * gl_Vertex).xyz;
+    gl_FrontColor = gl_Color;
+    gl_BackColor = gl_Color;
+    gl_Position = gl_ModelViewProjectionMatrix * gl_Vertex;
+}
+)";
+
+// Round to look at in any light, and never darker than the legend's colour is known by.
+constexpr const char *RoundFragments = R"(#version 120
+varying vec3 normal;
+varying vec3 look;
+void main()
+{
+    float facing = abs(dot(normalize(normal), normalize(look)));
+    gl_FragColor = vec4(gl_Color.rgb * (0.55 + 0.45 * facing), gl_Color.a);
+}
+)";
+
+// A shell of even thickness: the flatter a look through it, the less it lets through.
+constexpr const char *ShellFragments = R"(#version 120
+varying vec3 normal;
+varying vec3 look;
+void main()
+{
+    float facing = abs(dot(normalize(normal), normalize(look)));
+    float through = pow(1.0 - gl_Color.a, 1.0 / max(facing, 0.25));
+    gl_FragColor = vec4(gl_Color.rgb, 1.0 - through);
+}
+)";
+
+osg::ref_ptr<osg::Program> makeProgram(const char *vertices, const char *fragments)
+{
+    osg::ref_ptr<osg::Program> program = new osg::Program;
+    program->addShader(new osg::Shader(osg::Shader::VERTEX, vertices));
+    if (fragments)
+        program->addShader(new osg::Shader(osg::Shader::FRAGMENT, fragments));
+    return program;
+}
+
+osg::ref_ptr<osg::StateSet> unlit()
+{
+    osg::ref_ptr<osg::StateSet> state = new osg::StateSet;
+    state->setMode(GL_LIGHTING, osg::StateAttribute::OFF);
+    return state;
+}
+
+void blend(osg::StateSet &state)
+{
+    state.setAttributeAndModes(
+        new osg::BlendFunc(osg::BlendFunc::SRC_ALPHA, osg::BlendFunc::ONE_MINUS_SRC_ALPHA));
+    state.setAttributeAndModes(new osg::Depth(osg::Depth::LEQUAL, 0, 1, false));
+    state.setRenderingHint(osg::StateSet::TRANSPARENT_BIN);
+}
+
+} // namespace
+
+osg::ref_ptr<osg::StateSet> makeLineState(const LinkLook &look, Opacity opacity)
+{
+    osg::ref_ptr<osg::StateSet> state = unlit();
+    switch (look.style) {
+    case LinkStyle::Line:
+        state->setAttributeAndModes(new osg::LineWidth(static_cast<float>(look.width)));
+        break;
+    case LinkStyle::Tube:
+        state->setAttributeAndModes(new osg::CullFace(osg::CullFace::BACK));
+        state->setAttributeAndModes(makeProgram(FacingVertices, RoundFragments));
+        break;
+    case LinkStyle::Billboard:
+        state->setMode(GL_CULL_FACE, osg::StateAttribute::OFF);
+        state->setAttributeAndModes(makeProgram(BandVertices, nullptr));
+        break;
+    }
+    if (opacity == Opacity::Translucent)
+        blend(*state);
+    return state;
+}
+
+osg::ref_ptr<osg::StateSet> makeHairlineState()
+{
+    osg::ref_ptr<osg::StateSet> state = unlit();
+    state->setAttributeAndModes(new osg::LineWidth(1));
+    return state;
+}
+
+osg::ref_ptr<osg::StateSet> makeEllipsoidState(Opacity opacity)
+{
+    osg::ref_ptr<osg::StateSet> state = unlit();
+    state->setMode(GL_CULL_FACE, osg::StateAttribute::OFF);
+    const bool isOpaque = opacity == Opacity::Opaque;
+    state->setAttributeAndModes(
+        makeProgram(FacingVertices, isOpaque ? RoundFragments : ShellFragments));
+    // layers of one colour may be blended in any order: walls need no sorting, nor do neighbours
+    if (!isOpaque)
+        blend(*state);
+    return state;
+}
+
+} // namespace vlt::scene

@@ -1,0 +1,93 @@
+#include "parametric/LinkQuery.h"
+
+#include "parametric/BadQuery.h"
+#include "parametric/PylonItems.h"
+
+namespace vlt::scene {
+
+namespace {
+
+constexpr double HighestMHz = 1e6; ///< 1 THz
+constexpr double LowestMHz = 1;    ///< below, ellipsoids are balls of hundreds of metres
+
+LinkObject readLink(const std::string &item, std::string_view text)
+{
+    Words words(item, text);
+    const bool hasColor = words.count() == 8;
+    words.expect(hasColor ? 8 : 7, "X1 Y1 Z1 X2 Y2 Z2 FREQUENCYMHZ [rrggbbaa]");
+    LinkObject link;
+    link.a = readPlace(words);
+    link.b = readPlace(words);
+    if (link.a == link.b)
+        throw BadQuery(item + ": both ends are at the same place");
+    const std::string_view frequency = words.next();
+    link.frequencyMHz = words.number("frequency", 0, HighestMHz);
+    if (link.frequencyMHz > 0 && link.frequencyMHz < LowestMHz)
+        words.refuse("frequency", frequency, "is neither 0 nor 1 MHz or more");
+    if (hasColor)
+        link.color = words.color();
+    return link;
+}
+
+/// Reads the items whose order matters.
+void readPylons(const ParametricQuery &query, LinkSceneQuery &scene)
+{
+    const PylonDesign common = readCommonDesign(query);
+    std::size_t transmitters = 0;
+    for (const auto &[key, value] : query.items()) {
+        if (key == "pylon") {
+            const std::string number = std::to_string(scene.pylons.size() + 1);
+            scene.pylons.push_back(readPylon("pylon " + number, value, common));
+        } else if (key == "transmitter" || key == "dish") {
+            const std::string item = std::string(key) + " " + std::to_string(++transmitters);
+            if (scene.pylons.empty())
+                throw BadQuery(item + " stands before the first pylon");
+            scene.pylons.back().design.transmitters.push_back(
+                key == "dish" ? readDish(item, value) : readTransmitter(item, value));
+        }
+    }
+}
+
+void checkCount(const ParametricQuery &query, std::string_view key, std::size_t most)
+{
+    const std::size_t count = query.all(key).size();
+    if (count > most)
+        throw BadQuery(std::to_string(count) + " items \"" + std::string(key) +
+                       "\" are more than " + std::to_string(most));
+}
+
+LinkSceneQuery readLinkQuery(std::string_view url)
+{
+    const ParametricQuery query(url, {"object", "data_folder", "pylon_type", "pylon", "transmitter",
+                                      "dish", "transmitter_scale", "lod", "link", "link_style",
+                                      "link_width", "link_color", "fresnel_zone", "fresnel_share",
+                                      "fresnel_color", "k_factor"});
+    const std::string_view object = query.single("object");
+    if (object != "link")
+        Words("object", object).refuse("kind", object, "is unknown");
+    checkCount(query, "pylon", MaxQueryPylons);
+    checkCount(query, "link", MaxQueryLinks);
+    checkTransmitterCount(query.all("transmitter").size() + query.all("dish").size());
+    LinkSceneQuery scene;
+    readPylons(query, scene);
+    for (const std::string_view text : query.all("link"))
+        scene.links.push_back(readLink("link " + std::to_string(scene.links.size() + 1), text));
+    if (scene.links.empty())
+        throw BadQuery("link is missing");
+    const auto item = [&query](std::string_view key) { return std::string(query.single(key)); };
+    scene.look = readLinkLook(item, ClearanceWord::Refused);
+    return scene;
+}
+
+} // namespace
+
+LinkSceneOrFault parseLinkQuery(std::string_view url)
+{
+    try {
+        return readLinkQuery(url);
+    } catch (const BadQuery &fault) {
+        return std::string(fault.what());
+    }
+}
+
+} // namespace vlt::scene

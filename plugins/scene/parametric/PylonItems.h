@@ -1,0 +1,35 @@
+#pragma once
+
+#include "parametric/ParametricQuery.h"
+#include "parametric/PylonObject.h"
+
+namespace vlt::scene {
+
+inline constexpr double FarthestM = 1e9; ///< places, and distances that a user can choose
+
+/// Reads the next three words as x, y and z.
+osg::Vec3d readPlace(Words &words);
+
+/// @throws BadQuery  no pylon type has that name
+PylonType readPylonType(std::string_view text);
+
+/// Reads the items pylon_type, transmitter_scale and lod, which all pylons of a query share, and
+/// looks at data_folder.
+PylonDesign readCommonDesign(const ParametricQuery &query);
+
+/// Reads "X Y Z HEIGHT WIDTH RADIUS SECTORHEIGHT SPACING".
+///
+/// @param item  how messages name the value
+/// @param common  what the pylon has of all
+PylonObject readPylon(const std::string &item, std::string_view text, const PylonDesign &common);
+
+/// Reads "HEIGHT AZIMUTH TILT BEAMWIDTH ANTENNALENGTH rrggbbaa".
+Transmitter readTransmitter(const std::string &item, std::string_view text);
+
+/// Reads "HEIGHT AZIMUTH TILT DIAMETER rrggbbaa".
+Transmitter readDish(const std::string &item, std::string_view text);
+
+/// @throws BadQuery  for more than MaxTransmitters
+void checkTransmitterCount(std::size_t count);
+
+} // namespace vlt::scene

@@ -1,0 +1,293 @@
+#include "LayerScenes.h"
+#include "layers/LayerScene.h"
+#include "layers/LinkRecords.h"
+#include "layers/TableLocation.h"
+
+#include <gdal_priv.h>
+
+#include <QtTest>
+
+#include <array>
+#include <cmath>
+#include <set>
+
+namespace {
+
+using namespace layertest;
+using namespace vlt::scene;
+using vlt::linkpath::Verdict;
+
+// Places in RGF93: in Lambert-93 A is (650000, 6860000), a1 one metre north of it, B 3000 east and
+// 4000 north of A, C 4000 east of A.
+const QByteArray A = "48.838110123,2.318790597";
+const QByteArray A1 = "48.838119116,2.318790479";
+const QByteArray B = "48.874307556,2.359219079";
+const QByteArray C = "48.838408049,2.373284961";
+
+const QByteArray Header =
+    "Name,Call sign 1,Latitude 1,Longitude 1,Antenna height (m) 1,TX1 (MHz) 1,"
+    "Call sign 2,Latitude 2,Longitude 2,Antenna height (m) 2,TX1 (MHz) 2\n";
+
+const QByteArray Rows = "clear,A," + A + ",30,23000,B," + B + ",40,23000\n" +       //
+                        "obstructed,A," + A1 + ",20,23000,C," + C + ",20,23000\n" + //
+                        "marginal,B," + B + ",2,23000,C," + C + ",2,23000\n" +      //
+                        "unknown,B," + B + ",30,,C," + C + ",30,\n" +               //
+                        "unplaced,A,,,30,23000,B," + B + ",30,23000\n";
+
+const QByteArray LinkLook = "link_style=TUBE,link_width=4,link_color=1f6feb80 clearance,"
+                            "fresnel_zone=1,fresnel_share=60,fresnel_color=ffa50066,"
+                            "k_factor=1.33333,";
+
+QByteArray linkSource(const QByteArray &system = "2154", const QByteArray &terrain = "dem.tif")
+{
+    return "link:s_srs=4171,t_srs=" + system + ",data_folder=d," + PylonLook + LinkLook +
+           "lods=100000 1000,dem_file=" + terrain + ",t.csv";
+}
+
+QByteArray layerText(const QByteArray &source)
+{
+    return "<veltaroLayer kind=\"links\" version=\"1\"><title>Hops</title><source><![CDATA[" +
+           source + "]]></source><linkField>Name</linkField></veltaroLayer>";
+}
+
+/// The height of the test's terrain in Lambert-93: a plane that rises to the east by 1 in 100, with
+/// a hill across the way from A to C.
+double terrainM(double x, double y)
+{
+    const bool isHill = std::abs(x - 652000) < 150 && std::abs(y - 6860000) < 500;
+    return isHill ? 400 : 100 + (x - 650000) / 100;
+}
+
+bool writeTerrain(const QString &path)
+{
+    constexpr int Side = 80;
+    constexpr double StepM = 100;
+    constexpr double Left = 648000;
+    constexpr double Top = 6867000;
+    GDALAllRegister();
+    const GDALDatasetUniquePtr dataset(GetGDALDriverManager()->GetDriverByName("GTiff")->Create(
+        path.toLocal8Bit().constData(), Side, Side, 1, GDT_Float32, nullptr));
+    std::array<double, 6> placing{Left, StepM, 0, Top, 0, -StepM};
+    OGRSpatialReference srs;
+    std::vector<float> heights;
+    for (int i = 0; i < Side * Side; ++i)
+        heights.push_back(static_cast<float>(
+            terrainM(Left + (i % Side + 0.5) * StepM, Top - (i / Side + 0.5) * StepM)));
+    return dataset && dataset->SetGeoTransform(placing.data()) == CE_None &&
+           srs.importFromEPSG(2154) == OGRERR_NONE && dataset->SetSpatialRef(&srs) == CE_None &&
+           dataset->GetRasterBand(1)->RasterIO(GF_Write, 0, 0, Side, Side, heights.data(), Side,
+                                               Side, GDT_Float32, 0, 0, nullptr) == CE_None;
+}
+
+double turned(double azimuthDeg)
+{
+    return std::fmod(azimuthDeg + 720, 360);
+}
+
+} // namespace
+
+class LinkLayerSceneTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QVERIFY(writeTerrain(path("dem.tif")));
+        write(path("t.csv"), Header + Rows);
+    }
+
+    void putsLinksOntoTheTerrain_data()
+    {
+        QTest::addColumn<QByteArray>("system");
+        QTest::addColumn<double>("lengthM");
+        QTest::addColumn<double>("azimuthDeg");
+
+        QTest::newRow("metres") << QByteArray("2154") << 5000.0 << 36.87;
+        // along the geodesic, and by its azimuth half way between its ends' ones
+        QTest::newRow("degrees") << QByteArray("4171") << 5000.54 << 36.39;
+        // UTM 31 in feet: A is (1476422.2, 17748304.5), B (1486266.3, 17761421.3)
+        QTest::newRow("feet") << QByteArray("+proj=utm +zone=31 +ellps=GRS80 +units=ft") << 4998.68
+                              << 36.89;
+    }
+
+    void putsLinksOntoTheTerrain()
+    {
+        QFETCH(QByteArray, system);
+        QFETCH(double, lengthM);
+        QFETCH(double, azimuthDeg);
+
+        const LinkRecords records = recordsOf(linkSource(system));
+
+        QCOMPARE(records.pylons.sites.size(), std::size_t{3}); // A and A1 are one
+        const std::array<double, 3> groundM{100, 130, 140};
+        const std::array<double, 3> mastsM{32, 42, 32};
+        for (std::size_t i = 0; i < 3; ++i) {
+            const SiteRecord &site = records.pylons.sites[i];
+            QCOMPARE(site.name, std::string(1, "ABC"[i]));
+            QVERIFY(std::abs(site.foot.z() - groundM[i]) < 0.05);
+            QCOMPARE(records.pylons.designs[site.design].heightM, mastsM[i]);
+        }
+        const LinkObject &link = records.links.front();
+        QVERIFY(std::abs(link.a.z() - 130) < 0.05 && std::abs(link.b.z() - 170) < 0.05);
+        const osg::Vec3d way = link.b - link.a;
+        QVERIFY(std::abs(std::hypot(way.x(), way.y()) - lengthM) < 0.1);
+        // 40 m over 5 km are 0.458 degrees
+        const Transmitter &there = records.pylons.designs[0].transmitters[0];
+        const Transmitter &back = records.pylons.designs[1].transmitters[0];
+        QVERIFY(there.kind == AntennaKind::Dish && there.heightM == 30 && back.heightM == 40);
+        QVERIFY(std::abs(turned(there.azimuthDeg) - azimuthDeg) < 0.03);
+        QVERIFY(std::abs(turned(back.azimuthDeg) - azimuthDeg - 180) < 0.03);
+        QVERIFY(std::abs(there.tiltDeg + 0.458) < 0.002 && std::abs(back.tiltDeg - 0.458) < 0.002);
+        QCOMPARE(records.pylons.designs[1].transmitters.size(), std::size_t{3});
+    }
+
+    void colorsLinksByTheirVerdicts()
+    {
+        const LinkRecords records = recordsOf(linkSource());
+
+        // Halfway B - C the first zone has 3.66 m, of which 2 m less 0.25 m of curvature are free.
+        const std::array<Verdict, 3> expected{Verdict::Clear, Verdict::Obstructed,
+                                              Verdict::Marginal};
+        QCOMPARE(records.links.size(), std::size_t{4});
+        for (std::size_t i = 0; i < expected.size(); ++i) {
+            const auto rgb = vlt::linkpath::verdictColor(expected[i]);
+            QVERIFY(records.links[i].color == Color(rgb[0], rgb[1], rgb[2], 0x80));
+        }
+        QVERIFY(!records.links[3].color && records.links[3].frequencyMHz == 0);
+    }
+
+    void showsAWholeLayer()
+    {
+        write(path("t.lay"), layerText(linkSource()));
+        const Opened opened = open(path("t.lay"));
+        QVERIFY2(opened.scene, opened.fault.c_str());
+        Everything found;
+        opened.scene->accept(found);
+
+        QCOMPARE(opened.scene->getName(), std::string("Hops"));
+        for (const auto &[fact, value] : {std::pair("links", "4"),
+                                          {"pylons", "3"},
+                                          {"unplaced", "1"},
+                                          {"clear", "1"},
+                                          {"marginal", "1"},
+                                          {"obstructed", "1"},
+                                          {"unknown", "1"},
+                                          {"srs", "EPSG:2154"}})
+            QVERIFY2(opened.fact(fact) == value, fact);
+        QCOMPARE(found.labels.size(), std::size_t{3});
+        QVERIFY(std::abs(found.feet["C"].z() - 140) < 0.05);
+        // the middle of A and B is the origin's height below B's mast
+        QVERIFY((found.feet["A"] + found.feet["B"] - osg::Vec3d(-1000, 0, 230)).length() < 1.5);
+    }
+
+    void saysWhyThereIsNoTerrain_data()
+    {
+        QTest::addColumn<QByteArray>("terrain");
+        QTest::addColumn<QByteArray>("said");
+        QTest::newRow("absent") << QByteArray("none.tif") << QByteArray("\"none.tif\"");
+        QTest::newRow("no raster") << QByteArray("t.csv") << QByteArray("\"t.csv\"");
+        QTest::newRow("remote") << QByteArray("/vsicurl/http://h/d.tif") << QByteArray("/vsicurl");
+        QTest::newRow("elsewhere") << QByteArray("far.asc") << QByteArray("3 of 3 pylons");
+    }
+
+    void saysWhyThereIsNoTerrain()
+    {
+        QFETCH(QByteArray, terrain);
+        QFETCH(QByteArray, said);
+        write(path("far.asc"),
+              "ncols 2\nnrows 2\nxllcorner 0\nyllcorner 0\ncellsize 1\n1 2\n3 4\n");
+        write(path("far.prj"), "GEOGCS[\"WGS\",DATUM[\"D_WGS_1984\",SPHEROID[\"WGS_1984\",6378137,"
+                               "298.257223563]],PRIMEM[\"Greenwich\",0],"
+                               "UNIT[\"Degree\",0.0174532925199433]]\n");
+        write(path("t.lay"), layerText(linkSource("2154", terrain)));
+
+        std::vector<std::string> notices;
+        const auto scene = readLayerScene(path("t.lay").toStdString(), {}, notices);
+
+        QCOMPARE(notices.size(), std::size_t{1});
+        QVERIFY2(QByteArray::fromStdString(notices[0]).contains(said), notices[0].c_str());
+        Everything found;
+        scene->accept(found);
+        QCOMPARE(found.feet["C"].z(), 0.0);
+    }
+
+    void showsTheTerrainItself()
+    {
+        write(path("t.lay"), layerText(linkSource()));
+        const osg::ref_ptr<osgDB::Options> options = new osgDB::Options;
+        options->setPluginStringData("vlt.terrain", "1");
+        const osg::ref_ptr<osg::Group> scene = open(path("t.lay"), options).scene;
+        QVERIFY(scene);
+        const osg::Node *surface = scene->getChild(scene->getNumChildren() - 1);
+
+        QCOMPARE(surface->getName(), std::string("terrain"));
+        const osg::Geometry *geometry = surface->asGroup()->getChild(0)->asGeometry();
+        const auto *points = dynamic_cast<const osg::Vec3Array *>(geometry->getVertexArray());
+        QVERIFY(points->size() > 10000 && points->size() <= 90000);
+        float highest = 0;
+        for (const osg::Vec3 &point : *points) {
+            highest = std::max(highest, point.z());
+            // away from the hill, whose foot is 100 m wide: the middle is at (652000, 6862000)
+            if (std::abs(point.x()) > 260 || std::abs(point.y() + 2000) > 610)
+                QVERIFY(std::abs(point.z() - 120 - point.x() / 100) < 0.05);
+        }
+        QVERIFY(std::abs(highest - 400) < 0.05);
+    }
+
+    void refusesByName_data()
+    {
+        QTest::addColumn<QByteArray>("what");
+        QTest::addColumn<QByteArray>("with");
+        QTest::addColumn<QByteArray>("named");
+        using Bytes = QByteArray;
+        QTest::newRow("query") << Bytes("link:") << Bytes("site:") << Bytes("link:");
+        QTest::newRow("style") << Bytes("=TUBE") << Bytes("=ROPE") << Bytes("link_style");
+        QTest::newRow("no width") << Bytes("link_width=4,") << Bytes() << Bytes("link_width");
+        QTest::newRow("colour") << Bytes("1f6feb80") << Bytes("1f6feb") << Bytes("link_color");
+        QTest::newRow("word") << Bytes(" clearance") << Bytes(" verdict") << Bytes("\"verdict\"");
+        QTest::newRow("zone") << Bytes("zone=1") << Bytes("zone=1.5") << Bytes("fresnel_zone");
+        QTest::newRow("share") << Bytes("share=60") << Bytes("share=nan") << Bytes("fresnel_share");
+        QTest::newRow("zone's colour")
+            << Bytes("ffa50066") << Bytes("red") << Bytes("fresnel_color");
+        QTest::newRow("factor") << Bytes("=1.33333") << Bytes("=0") << Bytes("k_factor");
+        QTest::newRow("pylon") << Bytes("monopole_panel") << Bytes("obelisk") << Bytes("obelisk");
+        QTest::newRow("table") << Bytes("t.csv") << Bytes("u.csv") << Bytes("u.csv");
+        QTest::newRow("no places")
+            << Bytes("t.csv") << Bytes("none.csv") << Bytes("none of 1 links");
+        QTest::newRow("system") << Bytes("t_srs=2154") << Bytes("t_srs=99") << Bytes("99");
+    }
+
+    void refusesByName()
+    {
+        QFETCH(QByteArray, what);
+        QFETCH(QByteArray, with);
+        QFETCH(QByteArray, named);
+        write(path("none.csv"), Header + "n,A,,,30,23000,B," + B + ",40,23000\n");
+        write(path("t.lay"), layerText(linkSource().replace(what, with)));
+
+        const Opened opened = open(path("t.lay"));
+
+        QVERIFY(!opened.scene);
+        QVERIFY2(QByteArray::fromStdString(opened.fault).contains(named), opened.fault.c_str());
+    }
+
+private:
+    QString path(const char *name) const { return m_folder.filePath(QLatin1String(name)); }
+
+    LinkRecords recordsOf(const QByteArray &source) const
+    {
+        const auto table =
+            locateTable(source.toStdString(), LayerKind::Links, {m_folder.path().toStdString()});
+        const LinkRows rows = readLinkRows(table, {});
+        std::string reason;
+        const vlt::linkpath::PathProfiler profiler(
+            vlt::linkpath::TerrainRaster::open(path("dem.tif").toStdString(), &reason), &rows.srs);
+        return placeLinks(rows, readLinkLayerStyle(table), profiler);
+    }
+
+    QTemporaryDir m_folder;
+};
+
+QTEST_GUILESS_MAIN(LinkLayerSceneTest)
+#include "tst_LinkLayerScene.moc"

@@ -1,0 +1,392 @@
+#include "link/LinkFactory.h"
+#include "mesh/Solids.h"
+#include "parametric/LinkQuery.h"
+#include "pylon/Antennas.h"
+#include "pylon/PylonFactory.h"
+#include "pylon/Sectors.h"
+
+#include <osg/ComputeBoundsVisitor>
+#include <osg/Geometry>
+#include <osg/LOD>
+#include <osg/LineWidth>
+#include <osgDB/ReadFile>
+#include <osgViewer/Viewer>
+
+#include <QtTest>
+
+#include <algorithm>
+#include <cmath>
+
+using namespace vlt::scene;
+
+namespace {
+
+const std::string Demonstration =
+    "inline://parametric/query?object=link&data_folder=/opt/R&D/pylons&pylon_type=monopole_panel"
+    "&pylon=0 0 0 25 2.5 200 20 2&dish=23 90 0 0 ff000080&transmitter=20 240 -5 0 0 00ff00ff"
+    "&pylon=200 0 0 25 2.5 200 20 2&dish=23 270 0 1.2 ff000080"
+    "&transmitter_scale=100&lod=10000 1000&link=0 0 23 200 0 23 200"
+    "&link=0 0 20 9 9 9 0 010203ff&link_style=TUBE&link_width=4&link_color=1f6febff"
+    "&fresnel_zone=1&fresnel_share=60&fresnel_color=ffa50066&k_factor=1.33333.inlinepylonurl";
+
+LinkSceneOrFault parsed(const std::string &what = {}, const std::string &with = {})
+{
+    std::string text = Demonstration;
+    if (!what.empty())
+        text.replace(text.find(what), what.size(), with);
+    return parseLinkQuery(text);
+}
+
+LinkLook lookOf(LinkStyle style, double width)
+{
+    LinkLook look;
+    look.style = style;
+    look.width = width;
+    look.color = Color(0, 255, 0, 255);
+    return look;
+}
+
+/// What a visit of all drawables finds; places in the scene's own coordinates.
+struct Finder : osg::NodeVisitor
+{
+    Finder() : osg::NodeVisitor(TRAVERSE_ALL_CHILDREN) {}
+    void apply(osg::Geometry &geometry) override
+    {
+        const osg::Matrixd place = osg::computeLocalToWorld(getNodePath());
+        const auto &points = dynamic_cast<const osg::Vec3Array &>(*geometry.getVertexArray());
+        const auto *facing = dynamic_cast<const osg::Vec3Array *>(geometry.getNormalArray());
+        for (unsigned i = 0; i < points.size(); ++i) {
+            vertices.push_back(osg::Vec3d(points[i]) * place);
+            normals.push_back(facing ? (*facing)[i] : osg::Vec3());
+        }
+        sorted += geometry.getStateSet()->getRenderingHint() == osg::StateSet::TRANSPARENT_BIN;
+        ++drawables;
+    }
+    std::vector<osg::Vec3d> vertices;
+    std::vector<osg::Vec3d> normals;
+    int drawables = 0;
+    int sorted = 0;
+};
+
+Finder found(osg::Node &node)
+{
+    Finder finder;
+    node.accept(finder);
+    return finder;
+}
+
+/// A picture, 301 x 301, of what an eye sees that looks at the origin; null without a screen. Black
+/// where there is nothing.
+osg::ref_ptr<osg::Image> picture(osg::Node *scene, const osg::Vec3d &eye, bool isParallel)
+{
+    constexpr int Side = 301;
+    osgViewer::Viewer viewer;
+    viewer.setThreadingModel(osgViewer::ViewerBase::SingleThreaded);
+    osg::ref_ptr<osg::GraphicsContext::Traits> traits = new osg::GraphicsContext::Traits;
+    traits->readDISPLAY();
+    traits->setUndefinedScreenDetailsToDefaultScreen();
+    traits->width = traits->height = Side;
+    traits->pbuffer = true;
+    osg::Camera &camera = *viewer.getCamera();
+    camera.setGraphicsContext(osg::GraphicsContext::createGraphicsContext(traits));
+    if (!camera.getGraphicsContext())
+        return nullptr;
+    camera.setViewport(0, 0, Side, Side);
+    camera.setDrawBuffer(GL_FRONT);
+    camera.setReadBuffer(GL_FRONT);
+    camera.setClearColor(osg::Vec4(0, 0, 0, 1));
+    if (isParallel)
+        camera.setProjectionMatrixAsOrtho(-602, 602, -602, 602, 1, 1e5);
+    else
+        camera.setProjectionMatrixAsPerspective(60, 1, 1, 1e5);
+    const osg::ref_ptr<osg::Image> image = new osg::Image;
+    image->allocateImage(Side, Side, 1, GL_RGB, GL_UNSIGNED_BYTE);
+    camera.attach(osg::Camera::COLOR_BUFFER, image);
+    viewer.setSceneData(scene);
+    viewer.realize();
+    camera.setViewMatrixAsLookAt(eye, {}, {0, 0.01, 1});
+    viewer.frame();
+    return image;
+}
+
+} // namespace
+
+class LinksTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void readsTheRecord()
+    {
+        const LinkSceneQuery scene = std::get<LinkSceneQuery>(parsed());
+
+        QCOMPARE(scene.pylons.size(), std::size_t{2});
+        QCOMPARE(scene.pylons[0].design.transmitters.size(), std::size_t{2});
+        QCOMPARE(scene.pylons[1].design.transmitters.size(), std::size_t{1});
+        const Transmitter &dish = scene.pylons[1].design.transmitters[0];
+        QVERIFY(dish.kind == AntennaKind::Dish && dish.antennaLengthM == 1.2);
+        QVERIFY(scene.pylons[0].design.transmitters[1].kind == AntennaKind::Usual);
+        QCOMPARE(scene.links.size(), std::size_t{2});
+        QVERIFY(scene.links[0].b == osg::Vec3d(200, 0, 23) && !scene.links[0].color);
+        QCOMPARE(scene.links[0].frequencyMHz, 200.0);
+        QVERIFY(scene.links[1].color == Color(1, 2, 3, 255));
+        QVERIFY(scene.look.style == LinkStyle::Tube && scene.look.width == 4);
+        QVERIFY(scene.look.fresnelZone == 1 && scene.look.fresnelShare == 0.6);
+        QVERIFY(scene.look.fresnelColor == Color(255, 165, 0, 102));
+        QCOMPARE(scene.look.kFactor, 1.33333);
+    }
+
+    void refusesWhatCannotBeDrawn_data()
+    {
+        QTest::addColumn<QByteArray>("what");
+        QTest::addColumn<QByteArray>("with");
+        QTest::addColumn<QByteArray>("told");
+        const auto row = [](const char *what, const char *with, const char *told) {
+            QTest::newRow(told) << QByteArray(what) << QByteArray(with) << QByteArray(told);
+        };
+        row("object=link", "object=tree", "object: the kind \"tree\" is unknown");
+        row("object=link", "object=link&object=pylon", "object is given more than once");
+        row("&lod=10000 1000", "", "lod is missing");
+        row("&pylon=200 0 0 25", "&pylon=200 0 0 0", "pylon 2: the height \"0\"");
+        row("&pylon=0 0 0 25 2.5 200 20 2", "", "dish 1 stands before the first pylon");
+        row("&dish=23 270 0 1.2", "&dish=23 270 0 31", "dish 3: the diameter \"31\"");
+        row("&dish=23 270 0 1.2", "&dish=23 270 0", "dish 3: \"23 270 0 ff000080\" is not");
+        row("&link=0 0 23 200 0 23 200&link=0 0 20 9 9 9 0 010203ff", "", "link is missing");
+        row("200 0 23 200", "nan 0 23 200", "link 1: the x \"nan\" is not a number");
+        row("200 0 23 200", "200 0 1e10 200", "link 1: the z \"1e10\" is not within");
+        row("200 0 23 200", "0 0 23 200", "link 1: both ends are at the same place");
+        row("200 0 23 200", "200 0 23 -1", "link 1: the frequency \"-1\" is not within");
+        row("200 0 23 200", "200 0 23 .01", "link 1: the frequency \".01\" is neither 0 nor");
+        row("010203ff", "010203", "link 2: the colour \"010203\" is not rrggbbaa");
+        row("=TUBE", "=tube", "link_style: the style \"tube\" is unknown");
+        row("&link_width=4", "&link_width=0", "link_width: the width \"0\" is not within");
+        row("&link_width=4", "&link_width=4&link_width=4", "link_width is given more than once");
+        row("1f6febff", "1f6febff clearance", "link_color: \"1f6febff clearance\" is not");
+        row("_zone=1", "_zone=1.5", "fresnel_zone: the zone \"1.5\" is not a whole number");
+        row("_zone=1", "_zone=11", "fresnel_zone: the zone \"11\" is not within 0 to 10");
+        row("_share=60", "_share=inf", "fresnel_share: the share \"inf\" is not a number");
+        row("&fresnel_color=ffa50066", "", "fresnel_color is missing");
+        row("k_factor=1.33333", "k_factor=0", "k_factor: the factor \"0\" is not within");
+    }
+    void refusesWhatCannotBeDrawn()
+    {
+        QFETCH(QByteArray, what);
+        QFETCH(QByteArray, with);
+        QFETCH(QByteArray, told);
+
+        const LinkSceneOrFault read = parsed(what.toStdString(), with.toStdString());
+
+        QVERIFY(std::holds_alternative<std::string>(read));
+        const std::string text = std::get<std::string>(read);
+        QVERIFY2(text.find(told.toStdString()) != std::string::npos, text.c_str());
+    }
+
+    void colorsByClearanceInLayersOnly()
+    {
+        const auto item = [](std::string_view key) {
+            return std::string(key == "link_style"      ? "LINE"
+                               : key == "link_color"    ? "1f6feb80 clearance"
+                               : key == "fresnel_color" ? "00000000"
+                                                        : "1");
+        };
+        const LinkLook look = readLinkLook(item, ClearanceWord::Accepted);
+        QVERIFY(look.colorByClearance && look.color == Color(0x1f, 0x6f, 0xeb, 0x80));
+    }
+
+    void opensThroughTheLoader()
+    {
+        const osg::ref_ptr<osg::Node> node = osgDB::readRefNodeFile(Demonstration);
+
+        QVERIFY(node && node->asGroup()->getNumChildren() == 3);
+        const auto *pylon = node->asGroup()->getChild(0)->asGroup()->getChild(0);
+        QCOMPARE(dynamic_cast<const osg::LOD &>(*pylon).getMaxRange(1), 10000.F);
+        // tubes, their hairlines, the ellipsoid of the one link that has a frequency
+        const Finder links = found(*node->asGroup()->getChild(2));
+        QCOMPARE(links.drawables, 3);
+        QCOMPARE(links.sorted, 1);
+    }
+
+    void drawsTheExactZone_data()
+    {
+        QTest::addColumn<QList<double>>("way"); // from one antenna to the other
+        QTest::addColumn<double>("frequencyMHz");
+        QTest::addColumn<int>("zone");
+        QTest::addColumn<double>("share");
+        QTest::addColumn<double>("radius"); // in the middle: sqrt(d (2 D + d))/2, d = n lambda/2
+        QTest::addColumn<double>("detour"); // d
+        const auto row = [](const char *what, const QList<double> &way, double frequency, int zone,
+                            double share, double radius, double detour) {
+            QTest::newRow(what) << way << frequency << zone << share << radius << detour;
+        };
+        row("40 km, 6 GHz", {40000, 0, 0}, 6000, 1, 1, 22.3530, 0.0249827);
+        row("60 %", {24000, 32000, 0}, 6000, 1, 0.6, 13.4118, 0.0249827);
+        row("vertical", {0, 0, -1000}, 200, 1, 1, 19.3618, 0.7494811);
+        row("steep, zone 3", {360, -480, 800}, 18000, 3, 1, 3.5344, 0.0249827);
+    }
+    void drawsTheExactZone()
+    {
+        QFETCH(QList<double>, way);
+        QFETCH(double, frequencyMHz);
+        QFETCH(int, zone);
+        QFETCH(double, share);
+        QFETCH(double, radius);
+        QFETCH(double, detour);
+        const osg::Vec3d a(652000.25, 983000.5, 120);
+        const osg::Vec3d axis(way[0], way[1], way[2]);
+        LinkLook look = lookOf(LinkStyle::Line, 1);
+        look.color = Color(0, 0, 0, 0);
+        look.fresnelZone = zone;
+        look.fresnelShare = share;
+        look.fresnelColor = Color(255, 165, 0, 102);
+
+        const Finder zones = found(*buildLinks({{a, a + axis, frequencyMHz, {}}}, look));
+
+        QCOMPARE(zones.drawables, 1);
+        const double tolerance = axis.length() > 10000 ? 0.005 : 0.001; // single precision
+        double widest = 0;
+        for (std::size_t i = 0; i < zones.vertices.size(); ++i) {
+            osg::Vec3d fromA = zones.vertices[i] - a;
+            osg::Vec3d fromB = fromA - axis;
+            widest = std::max(widest, (fromA ^ axis).length() / axis.length());
+            if (share < 1)
+                continue;
+            const double sum = fromA.normalize() + fromB.normalize();
+            QVERIFY2(std::abs(sum - axis.length() - detour) < tolerance,
+                     qPrintable(QString::number(sum, 'f', 4)));
+            // a ray from one focus is reflected to the other
+            osg::Vec3d normal = fromA + fromB;
+            if (normal.normalize() > 1e-3)
+                QVERIFY(normal * zones.normals[i] > 0.98);
+        }
+        QVERIFY2(std::abs(widest - radius) < 0.003, qPrintable(QString::number(widest, 'f', 4)));
+    }
+
+    void looksAsItsStyleWants_data()
+    {
+        QTest::addColumn<int>("style");
+        QTest::addColumn<double>("width");
+        QTest::addColumn<QList<double>>("eye");
+        QTest::addColumn<bool>("isParallel");
+        QTest::addColumn<int>("pixels"); // across; 1000 m from an eye of 60 degrees: 0.2607 a metre
+        const auto row = [](const char *what, LinkStyle style, double width,
+                            const QList<double> &eye, int pixels, bool isParallel = false) {
+            QTest::newRow(what) << int(style) << width << eye << isParallel << pixels;
+        };
+        row("line", LinkStyle::Line, 5, {0, -1000, 0}, 5);
+        row("line from afar", LinkStyle::Line, 5, {0, -20000, 0}, 5);
+        row("tube", LinkStyle::Tube, 100, {0, -1000, 0}, 26);
+        row("tube from below", LinkStyle::Tube, 100, {0, 700, -714}, 26);
+        row("hairline of a far tube", LinkStyle::Tube, 1, {0, -20000, 0}, 1);
+        row("band", LinkStyle::Billboard, 100, {0, -1000, 0}, 26);
+        row("band from above", LinkStyle::Billboard, 100, {0, 0, 1000}, 26);
+        row("band from below", LinkStyle::Billboard, 100, {0, 700, -714}, 26);
+        row("band, parallel", LinkStyle::Billboard, 100, {0, 600, -800}, 25, true);
+    }
+    void looksAsItsStyleWants()
+    {
+        QFETCH(int, style);
+        QFETCH(double, width);
+        QFETCH(QList<double>, eye);
+        QFETCH(bool, isParallel);
+        QFETCH(int, pixels);
+        const osg::ref_ptr<osg::Group> scene = buildLinks(
+            {{{-9000, 0, 0}, {9000, 0, 0}, 0, {}}}, lookOf(static_cast<LinkStyle>(style), width));
+
+        const auto image = picture(scene, {eye[0], eye[1], eye[2]}, isParallel);
+
+        if (!image)
+            QSKIP("no screen");
+        int across = 0;
+        for (unsigned y = 0; y < 301; ++y)
+            across += image->getColor(150, y).g() > 0.4F;
+        QVERIFY2(std::abs(across - pixels) <= 1, qPrintable(QString::number(across)));
+    }
+
+    void letsTheZoneShineThrough_data()
+    {
+        QTest::addColumn<double>("eye");
+        QTest::addColumn<int>("red");
+        QTest::newRow("two walls: 0.4") << -1000.0 << 102;
+        QTest::newRow("from inside, one wall: 1 - sqrt(0.6)") << -10.0 << 57;
+    }
+    void letsTheZoneShineThrough()
+    {
+        QFETCH(double, eye);
+        QFETCH(int, red);
+        LinkLook look = lookOf(LinkStyle::Line, 1);
+        look.color = Color(0, 0, 0, 0);
+        look.fresnelZone = 1;
+        look.fresnelColor = Color(255, 165, 0, 102);
+
+        const auto image =
+            picture(buildLinks({{{-500, 0, 0}, {500, 0, 0}, 30, {}}}, look), {0, eye, 0}, false);
+
+        if (!image)
+            QSKIP("no screen");
+        const osg::Vec4 color = image->getColor(150, 150);
+        QVERIFY2(std::abs(color.r() * 255 - red) < 4, qPrintable(QString::number(color.r())));
+        QVERIFY2(std::abs(color.g() / color.r() - 0.647) < 0.03, "not in its colour");
+    }
+
+    void keepsManyLinksSmall()
+    {
+        LinkLook look = lookOf(LinkStyle::Tube, 4);
+        look.fresnelZone = 1;
+        look.fresnelColor = Color(255, 165, 0, 102);
+        std::vector<LinkObject> links;
+        for (int i = 0; i < 10000; ++i) {
+            const osg::Vec3d a((i % 100) * 5000, (i / 100) * 5000, 100);
+            links.push_back({a, a + osg::Vec3d(4000, 3000, 50), 18000, {}});
+        }
+
+        const osg::ref_ptr<osg::Group> scene = buildLinks(links, look);
+
+        const Finder all = found(*scene);
+        qInfo("%zu vertices, %d drawables", all.vertices.size(), all.drawables);
+        QVERIFY(all.vertices.size() < 3500000);
+        QVERIFY(all.drawables <= 4 * 64);
+        osg::ComputeBoundsVisitor bounds;
+        scene->accept(bounds);
+        QVERIFY(std::abs(bounds.getBoundingBox().xMax() - 499000) < 3);
+        QVERIFY(std::abs(bounds.getBoundingBox().yMax() - 498000) < 3);
+    }
+
+    void hangsDishes()
+    {
+        PylonDesign design = std::get<LinkSceneQuery>(parsed()).pylons[0].design;
+        PylonDesign panels = design;
+        panels.transmitters[0].kind = AntennaKind::Usual;
+        QVERIFY(design != panels);
+        design.transmitters.resize(1);
+        design.transmitters[0].tiltDeg = 10;
+        const MastDesign mast = mastDesign(design);
+        Meshes meshes;
+
+        const std::vector<AntennaPlace> places = placeAntennas(design, mast);
+        addAntennas(meshes, places, false);
+
+        // its rim is 0.9 m wide and a little more; its cover faces east and 10 degrees downwards
+        const osg::Vec3d faced(0.984808, 0, -0.173648);
+        double widest = 0;
+        double foremost = 0;
+        for (const osg::Vec3 &at : meshes.matt.positions()) {
+            const osg::Vec3d off = osg::Vec3d(at) - places[0].centre;
+            widest = std::max(widest, (off - faced * (off * faced)).length());
+            foremost = std::max(foremost, off * faced);
+        }
+        QCOMPARE(places[0].centre.z(), 23.0);
+        QVERIFY(std::abs(widest - 0.4635) < 0.001);
+        QVERIFY(std::abs(foremost - 0.2025) < 0.001);
+        QCOMPARE(stackSectors(design)[0].beamWidthDeg, 20.0);
+
+        // 60 degrees between two dishes on a thin pole
+        design.type = PylonType::MonopoleSlim;
+        design.transmitters.push_back(design.transmitters[0]);
+        design.transmitters[1].azimuthDeg = 150;
+        const std::vector<AntennaPlace> two = placeAntennas(design, mastDesign(design));
+        QVERIFY((two[0].centre - two[1].centre).length() > 0.95);
+    }
+};
+
+QTEST_APPLESS_MAIN(LinksTest)
+#include "tst_Links.moc"
