@@ -6,7 +6,7 @@ source tools/prepare.sh
 
 usage="usage: ./run.sh [--layers]
 Installs what is missing, builds, lays the installation tree in build/install and opens the wizard on the sample
-project. With --layers, or where there is no display, it makes the sample project's site layers and pictures of them
+project. With --layers, or where there is no display, it makes the sample project's site and link layers and pictures of them
 with vltlayers instead.
 A second run takes seconds."
 
@@ -42,24 +42,28 @@ onDisplay() {
 }
 
 makeLayers() {
-    local layers=$PWD/build/layers table name
+    local layers=$PWD/build/layers table name kind
     mkdir -p "$layers"
     "$install/vltlayers" info "$samples/sites.csv" --project "$samples/city.gvw"
     echo
-    for table in sites.csv sites_asset.xlsx sites_atoll.csv sites_mentum.xls; do
+    for table in sites.csv sites_asset.xlsx sites_atoll.csv sites_mentum.xls links.csv links_miles.xlsx; do
         name=$layers/${table%.*}
-        "$install/vltlayers" site "$samples/$table" --project "$samples/city.gvw" -o "$name.lay" --quiet
+        kind=site
+        [[ $table != link* ]] || kind=link
+        "$install/vltlayers" "$kind" "$samples/$table" --project "$samples/city.gvw" -o "$name.lay" --quiet
         onDisplay "$install/vltlayers" snapshot "$name.lay" --project "$samples/city.gvw" -o "$name.png" --quiet
         echo "Layer made: $name.lay, picture: $name.png"
     done
+    echo
+    "$install/vltlayers" link "$samples/links.csv" --project "$samples/city.gvw" --report --quiet
     echo
     echo "Installation tree: $install    Try: $install/vltlayers --help"
 }
 
 openWizard() {
     echo "Opening the wizard. Try:"
-    echo "  1. Add site file, then Next: the sample project is chosen already."
-    echo "  2. Choose a table of $samples, such as sites.csv; the icon at the lower right becomes the layer."
+    echo "  1. Add site file (or Add link file), then Next: the sample project is chosen already."
+    echo "  2. Choose a table of $samples, such as sites.csv (or links.csv); the icon at the lower right becomes the layer."
     echo "  3. Drag the icon onto a folder of your file manager, or copy it with Ctrl+C. Quit ends the program."
     VLT_CURRENT_PROJECT=$samples/city.gvw "$install/VltTelecomLayers"
 }

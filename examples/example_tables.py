@@ -27,15 +27,15 @@ def write_csv(path, rows, separator=",", encoding="utf-8", line_end="\n", decima
     path.write_bytes(text.getvalue().encode(encoding))
 
 
-def write_xlsx(path, rows, header_row=1):
+def write_xlsx(path, rows, header_row=1, sheet=SHEET):
     book = openpyxl.Workbook()
-    sheet = book.active
-    sheet.title = SHEET
+    page = book.active
+    page.title = sheet
     for row in rows:
-        sheet.append(row)
-    for cell in sheet[header_row]:
+        page.append(row)
+    for cell in page[header_row]:
         cell.font = openpyxl.styles.Font(bold=True)
-    sheet.freeze_panes = sheet.cell(row=header_row + 1, column=1)
+    page.freeze_panes = page.cell(row=header_row + 1, column=1)
     packed = io.BytesIO()
     book.save(packed)
     path.write_bytes(without_dates(packed.getvalue()))

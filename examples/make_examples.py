@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Makes the files of examples/lorient anew: terrain, coastline, project and site tables.
+"""Makes the files of examples/lorient anew: terrain, coastline, project, site and link tables.
 
 Needs openpyxl, xlwt and GDAL's gdaltransform and gdal_translate. A second run with the same
 versions gives the same bytes.
@@ -10,6 +10,7 @@ import random
 from dataclasses import dataclass, field
 from pathlib import Path
 
+from example_links import write_links
 from example_places import COAST, LAND, RURAL, SITES, SUBURBAN, URBAN
 from example_tables import write_csv, write_spreadsheet_xml, write_xls, write_xlsx
 from example_terrain import (GEOGRAPHIC, PROJECTED, elevation_at, elevations, transformed,
@@ -182,7 +183,9 @@ def main():
     write_terrain(grid, TARGET / "terrain" / "lorient_dem.tif")
     write_coastline()
     write_project()
-    write_tables(make_sites(grid))
+    sites = make_sites(grid)
+    write_tables(sites)
+    write_links(sites, TARGET)
 
 
 if __name__ == "__main__":

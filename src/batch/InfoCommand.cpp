@@ -3,10 +3,16 @@
 #include "batch/Console.h"
 #include "batch/Help.h"
 #include "batch/InfoReport.h"
+#include "batch/LayerCommand.h"
 #include "batch/StartUp.h"
 #include "geodata/LayerProblems.h"
+#include "language/VltLanguageManager.h"
+#include "links/LinkColumnDescription.h"
+#include "links/LinkFileInfo.h"
+#include "sites/SiteFileInfo.h"
 
 #include <QFileInfo>
+#include <QJsonArray>
 
 namespace vlt::batch {
 
@@ -15,28 +21,92 @@ namespace {
 const QString Examples =
     QStringLiteral("\nExamples:\n"
                    "  vltlayers info sites.xlsx\n"
+                   "  vltlayers info --link links.xlsx\n"
                    "  vltlayers info --project city.gvw --json \"my sites.csv\"\n");
 
-ExitStatus report(const QString &table, const GlobalOptions &options,
-                  const Surroundings &surroundings)
+QJsonObject columnsJson(const sites::SiteColumnSet &columns)
 {
-    InfoReport info;
-    info.file = sites::readSiteFileInfo(QFileInfo(table).absoluteFilePath(), surroundings.project);
-    if (info.file.error)
-        return refuse({info.file.error->key, info.file.error->text, table}, info.file.errorDetail);
+    return {{QStringLiteral("name"), columns.name},
+            {QStringLiteral("x"), columns.x},
+            {QStringLiteral("y"), columns.y},
+            {QStringLiteral("terrainHeight"), columns.terrainHeight},
+            {QStringLiteral("sectorIds"), QJsonArray::fromStringList(columns.sectorIds)},
+            {QStringLiteral("heights"), QJsonArray::fromStringList(columns.heights)},
+            {QStringLiteral("azimuths"), QJsonArray::fromStringList(columns.azimuths)},
+            {QStringLiteral("tilts"), QJsonArray::fromStringList(columns.tilts)}};
+}
 
-    const QString connection = QStringLiteral("site:") + info.file.filePath;
-    const Result<geodata::SiteCheck> check = geodata::readSiteCheck(connection, {});
+QJsonObject endJson(const links::LinkEndColumns &end)
+{
+    return {{QStringLiteral("identifier"), end.identifier},
+            {QStringLiteral("longitude"), end.longitude},
+            {QStringLiteral("latitude"), end.latitude},
+            {QStringLiteral("height"), end.height},
+            {QStringLiteral("frequency"), end.frequency},
+            {QStringLiteral("azimuth"), end.azimuth},
+            {QStringLiteral("tilt"), end.tilt},
+            {QStringLiteral("dx"), end.dx},
+            {QStringLiteral("dy"), end.dy}};
+}
+
+QJsonObject columnsJson(const links::LinkColumnSet &columns)
+{
+    return {{QStringLiteral("name"), columns.name},
+            {QStringLiteral("band"), columns.band},
+            {QStringLiteral("length"), columns.length},
+            {QStringLiteral("endA"), endJson(columns.tx)},
+            {QStringLiteral("endB"), endJson(columns.rx)}};
+}
+
+InfoReport siteReport(const sites::SiteFileInfo &file)
+{
+    InfoReport report;
+    report.file = file;
+    report.countLabel = dico_label("MESS_CLI_SITE_COUNT", "Number of sites");
+    report.systemLabel = dico_label("MESS_SRS_SITE_FILE", "Cartographic system of the site file");
+    report.columns = sites::describeColumns(file.columns);
+    report.columnNames = columnsJson(file.columns);
+    if (const auto nameless = sites::missingNameField(file)) {
+        report.problems.listed.prepend(*nameless);
+        ++report.problems.count;
+    }
+    return report;
+}
+
+InfoReport linkReport(const links::LinkFileInfo &file)
+{
+    InfoReport report;
+    report.file = file;
+    report.countLabel = dico_label("MESS_CLI_LINK_COUNT", "Number of links");
+    report.systemLabel = dico_label("MESS_SRS_LINK_FILE", "Cartographic system of the link file");
+    report.further = {
+        {QStringLiteral("endLayer"), dico_label("MESS_CLI_END_LAYER", "Layer of the link ends"),
+         file.endLayerName},
+        {QStringLiteral("linkField"), dico_label("MESS_CLI_LINK_FIELD", "Column that names a link"),
+         file.linkNameField},
+        {QStringLiteral("frequencyUnit"),
+         dico_label("MESS_CLI_FREQUENCY_UNIT", "Unit of the frequency band"),
+         file.columns.frequencyUnit},
+        {QStringLiteral("lengthUnit"), dico_label("MESS_CLI_LENGTH_UNIT", "Unit of the length"),
+         file.columns.lengthUnit}};
+    report.columns = links::describeColumns(file.columns);
+    report.columnNames = columnsJson(file.columns);
+    return report;
+}
+
+ExitStatus tell(InfoReport report, const QString &kind, const QString &table, bool json)
+{
+    if (report.file.error)
+        return refuse({report.file.error->key, report.file.error->text, table},
+                      report.file.errorDetail);
+
+    const Result<geodata::SiteCheck> check =
+        geodata::readSiteCheck(kind + report.file.filePath, {});
     if (!check)
         return refuse({check.error().key, check.error().text, table});
-    info.problems = check.value().problems;
-    if (const auto nameless = sites::missingNameField(info.file)) {
-        info.problems.listed.prepend(*nameless);
-        ++info.problems.count;
-    }
-    if (!printOut(options.json ? reportJson(info) : reportText(info)))
-        return refuse({QString(), QStringLiteral("the output cannot be written"), {}});
-    return ExitStatus::Done;
+    report.problems.count += check.value().problems.count;
+    report.problems.listed += check.value().problems.listed;
+    return printResult(json ? reportJson(report) : reportText(report));
 }
 
 } // namespace
@@ -45,11 +115,13 @@ ExitStatus runInfo(const QStringList &arguments)
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral(
-        "Tells what a site table holds: format, unit, coordinate systems, recognised "
-        "columns,\nand the rows that cannot be used."));
+        "Tells what a table of sites or links holds: format, unit, coordinate systems,\n"
+        "recognised columns, and the rows that cannot be used."));
     parser.addPositionalArgument(QStringLiteral("TABLE"),
-                                 QStringLiteral("Site table (.xls .xlsx .xml .csv)."),
+                                 QStringLiteral("Site or link table (.xls .xlsx .xml .csv)."),
                                  QStringLiteral("info TABLE"));
+    parser.addOption(
+        {QStringLiteral("link"), QStringLiteral("The table has microwave links, not sites.")});
     addGlobalOptions(parser);
     const Result<GlobalOptions> options = parseArguments(parser, arguments, 1);
     if (const auto answered = answerHelp(parser, options, Examples))
@@ -58,7 +130,15 @@ ExitStatus runInfo(const QStringList &arguments)
     const Result<Surroundings> surroundings = startUp(options.value());
     if (!surroundings)
         return refuse(surroundings.error());
-    return report(parser.positionalArguments().constFirst(), options.value(), surroundings.value());
+    const QString table = parser.positionalArguments().constFirst();
+    const QString path = QFileInfo(table).absoluteFilePath();
+    const sites::ProjectContext &project = surroundings.value().project;
+    const bool json = options.value().json;
+    return parser.isSet(QStringLiteral("link"))
+               ? tell(linkReport(links::readLinkFileInfo(path, project)), QStringLiteral("link:"),
+                      table, json)
+               : tell(siteReport(sites::readSiteFileInfo(path, project)), QStringLiteral("site:"),
+                      table, json);
 }
 
 } // namespace vlt::batch

@@ -4,7 +4,7 @@
 
 namespace vlt::batch {
 
-/// "vltlayers info TABLE": what a site table holds and what of it cannot be used.
+/// "vltlayers info [--link] TABLE": what a table holds and what of it cannot be used.
 ExitStatus runInfo(const QStringList &arguments);
 
 } // namespace vlt::batch

@@ -1,14 +1,30 @@
 #pragma once
 
 #include "geodata/LayerProblems.h"
-#include "sites/SiteFileInfo.h"
+#include "sites/ColumnDescription.h"
+#include "sites/TableFileInfo.h"
+
+#include <QJsonObject>
 
 namespace vlt::batch {
+
+/// Something that only one kind of table has to tell.
+struct InfoEntry
+{
+    QString key;   ///< in JSON
+    QString label; ///< in the chosen language
+    QString value;
+};
 
 /// What "vltlayers info" tells of a table.
 struct InfoReport
 {
-    sites::SiteFileInfo file;
+    sites::TableFileInfo file;
+    QString countLabel;  ///< of the number of rows, in the chosen language
+    QString systemLabel; ///< of the table's coordinate system
+    QList<InfoEntry> further;
+    QList<sites::ColumnDescription> columns; ///< recognised ones, for people
+    QJsonObject columnNames;                 ///< the same, for programs
     geodata::LayerProblems problems;
 };
 

@@ -1,11 +1,6 @@
 #include "batch/SiteOptions.h"
 
-#include "sites/RepresentationLimits.h"
-
-#include <QLocale>
-
-#include <variant>
-#include <vector>
+#include "batch/NumberOptions.h"
 
 namespace vlt::batch {
 
@@ -13,18 +8,9 @@ namespace {
 
 using sites::SiteRepresentation;
 
-/// One number of the representation as an option.
-struct NumberOption
+const std::vector<NumberOption<SiteRepresentation>> &numberOptions()
 {
-    QString name;
-    QString meaning;
-    std::variant<double SiteRepresentation::*, int SiteRepresentation::*> member;
-    sites::Limits limits;
-};
-
-const std::vector<NumberOption> &numberOptions()
-{
-    static const std::vector<NumberOption> options = {
+    static const std::vector<NumberOption<SiteRepresentation>> options = {
         {QStringLiteral("sector-height"), QStringLiteral("Sector height in metres"),
          &SiteRepresentation::sectorHeight, sites::SectorHeightLimits},
         {QStringLiteral("sector-radius"), QStringLiteral("Sector radius in metres"),
@@ -46,43 +32,6 @@ const std::vector<NumberOption> &numberOptions()
          &SiteRepresentation::realisticDistance, sites::DistanceLimits},
     };
     return options;
-}
-
-bool isInteger(const NumberOption &option)
-{
-    return std::holds_alternative<int SiteRepresentation::*>(option.member);
-}
-
-QString plain(double value)
-{
-    return QString::number(value, 'f', QLocale::FloatingPointShortest);
-}
-
-QString firstRunValue(const NumberOption &option)
-{
-    const SiteRepresentation firstRun;
-    return std::visit([&](auto member) { return plain(firstRun.*member); }, option.member);
-}
-
-QString rangeText(const NumberOption &option)
-{
-    return plain(option.limits.least) + QStringLiteral(" to ") + plain(option.limits.most);
-}
-
-/// Sets the member from the text; false for what is no number or out of range.
-bool assign(SiteRepresentation &representation, const NumberOption &option, const QString &value)
-{
-    bool isNumber = false;
-    const double number = isInteger(option) ? value.toInt(&isNumber) : value.toDouble(&isNumber);
-    if (!isNumber || !(number >= option.limits.least && number <= option.limits.most))
-        return false;
-    std::visit(
-        [&](auto member) {
-            using Value = std::remove_reference_t<decltype(representation.*member)>;
-            representation.*member = static_cast<Value>(number);
-        },
-        option.member);
-    return true;
 }
 
 /// Index of the entry that is called `wanted`, else of the entry of that number; -1 for none.
@@ -115,13 +64,7 @@ Error notInCatalogue(const QString &option, const QString &value, const QList<T>
 
 void addSiteOptions(QCommandLineParser &parser)
 {
-    for (const NumberOption &option : numberOptions()) {
-        parser.addOption(
-            {option.name,
-             option.meaning + QStringLiteral(", ") + rangeText(option) +
-                 QStringLiteral(" (default ") + firstRunValue(option) + QStringLiteral(")."),
-             isInteger(option) ? QStringLiteral("INTEGER") : QStringLiteral("NUMBER")});
-    }
+    addNumberOptions(parser, numberOptions());
     parser.addOptions({
         {QStringLiteral("sector-colors"),
          QStringLiteral("Sector colors: a set's number in the catalogue, from 1, or its "
@@ -136,20 +79,8 @@ void addSiteOptions(QCommandLineParser &parser)
 Result<sites::SiteRepresentation> readSiteNumbers(const QCommandLineParser &parser)
 {
     SiteRepresentation representation;
-    for (const NumberOption &option : numberOptions()) {
-        if (!parser.isSet(option.name))
-            continue;
-        const QString value = parser.value(option.name);
-        if (!assign(representation, option, value))
-            return Error{QString(),
-                         QStringLiteral("--%1 is %2 %3, not \"")
-                                 .arg(option.name,
-                                      isInteger(option) ? QStringLiteral("an integer of")
-                                                        : QStringLiteral("a number of"),
-                                      rangeText(option)) +
-                             value + QLatin1Char('"'),
-                         {}};
-    }
+    if (const auto error = readNumberOptions(parser, numberOptions(), representation))
+        return *error;
     return representation;
 }
 

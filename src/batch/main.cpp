@@ -1,6 +1,7 @@
 #include "batch/Console.h"
 #include "batch/Help.h"
 #include "batch/InfoCommand.h"
+#include "batch/LinkCommand.h"
 #include "batch/SiteCommand.h"
 #include "batch/SnapshotCommand.h"
 
@@ -15,13 +16,16 @@ using namespace vlt::batch;
 using vlt::Result;
 
 const QString Commands = QStringLiteral("\nCommands:\n"
-                                        "  info TABLE                  what a site table holds\n"
-                                        "  site TABLE -o OUT.lay       make a site layer of it\n"
+                                        "  info TABLE                  what a table holds\n"
+                                        "  site TABLE -o OUT.lay       make a layer of sites\n"
+                                        "  link TABLE -o OUT.lay       make a layer of links\n"
+                                        "  link TABLE --report         which links are free\n"
                                         "  snapshot LAYER -o OUT.png   make a picture of a layer\n"
                                         "'vltlayers COMMAND --help' tells the options of one.\n"
                                         "\nExamples:\n"
                                         "  vltlayers info sites.xlsx\n"
                                         "  vltlayers site sites.xlsx -o sites.lay\n"
+                                        "  vltlayers link links.xlsx -o links.lay\n"
                                         "  vltlayers snapshot sites.lay -o sites.png\n");
 
 ExitStatus runWithoutCommand(const QStringList &arguments)
@@ -44,6 +48,8 @@ ExitStatus run(const QStringList &arguments)
         return runInfo(split.others);
     if (split.command == QLatin1String("site"))
         return runSite(split.others);
+    if (split.command == QLatin1String("link"))
+        return runLink(split.others);
     if (split.command == QLatin1String("snapshot"))
         return runSnapshot(split.others);
     if (split.command.isEmpty())

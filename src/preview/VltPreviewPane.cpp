@@ -41,6 +41,12 @@ void VltPreviewPane::placeCamera(double distanceM, double heightM)
         m_viewer->placeCamera(distanceM, heightM);
 }
 
+void VltPreviewPane::lookAtMiddle(double distanceM)
+{
+    if (m_viewer)
+        m_viewer->lookAtMiddle(distanceM);
+}
+
 void VltPreviewPane::centerView()
 {
     if (m_viewer)

@@ -24,6 +24,9 @@ public:
     /// Looks at the point `heightM` above the origin from `distanceM` metres.
     void placeCamera(double distanceM, double heightM);
 
+    /// Looks at the middle of the scene from `distanceM` metres.
+    void lookAtMiddle(double distanceM);
+
     /// The camera on the whole scene.
     void centerView();
 

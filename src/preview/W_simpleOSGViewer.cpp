@@ -198,15 +198,25 @@ void W_simpleOSGViewer::placeCamera(double distanceM, double heightM)
     m_trackBall->lookAt(osg::Vec3d(0, 0, heightM), distanceM);
 }
 
+void W_simpleOSGViewer::lookAtMiddle(double distanceM)
+{
+    const osg::BoundingBox box = extentsOf(getSceneData());
+    if (!box.valid())
+        return;
+    m_isUserCamera = true;
+    m_trackBall->lookAt(box.center(), distanceM);
+}
+
 void W_simpleOSGViewer::centerView()
 {
     centerView(getSceneData());
 }
 
-void W_simpleOSGViewer::centerView(osg::Node *node)
+/// In the scene's own coordinates; not valid for a null or empty node.
+osg::BoundingBox W_simpleOSGViewer::extentsOf(osg::Node *node)
 {
     if (!node)
-        return;
+        return {};
     ExtentsVisitor visitor;
     node->accept(visitor);
     osg::Matrix toScene; // the visitor counted the node's own matrix already
@@ -217,6 +227,12 @@ void W_simpleOSGViewer::centerView(osg::Node *node)
     osg::BoundingBox box;
     for (unsigned corner = 0; visitor.extents().valid() && corner < 8; ++corner)
         box.expandBy(visitor.extents().corner(corner) * toScene);
+    return box;
+}
+
+void W_simpleOSGViewer::centerView(osg::Node *node)
+{
+    const osg::BoundingBox box = extentsOf(node);
     if (!box.valid())
         return;
     double fieldOfView = 30;

@@ -40,6 +40,9 @@ public:
     /// Looks at the point `heightM` above the origin from `distanceM` metres.
     void placeCamera(double distanceM, double heightM);
 
+    /// Looks at the middle of the whole scene from `distanceM` metres.
+    void lookAtMiddle(double distanceM);
+
     /// Detail that the view can show, from its height in pixels and the camera's distance; 10 until
     /// a frame was drawn.
     double levelOfDetail() const { return m_levelOfDetail; }
@@ -79,6 +82,7 @@ private:
     osgGA::EventQueue &events() { return *m_graphicsWindow->getEventQueue(); }
     QPointF inPixels(const QPointF &position) const { return position * devicePixelRatioF(); }
     QSize sizeInPixels() const;
+    osg::BoundingBox extentsOf(osg::Node *node);
     void makeGraphicsWindow(osg::GraphicsContext *shareContext);
     void applySize(const QSize &pixels);
     void pick(const QPointF &position);

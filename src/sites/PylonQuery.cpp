@@ -4,6 +4,7 @@
 #include "text/Templates.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 namespace vlt::sites {
 
@@ -32,11 +33,6 @@ QString terrainPart(const PylonQuery &query, const ProjectContext &project)
            QLatin1Char(',');
 }
 
-QString truncated(double metres)
-{
-    return QString::number(static_cast<qint64>(metres));
-}
-
 } // namespace
 
 QString buildPylonQuery(const PylonQuery &query, const SiteRepresentation &representation,
@@ -47,18 +43,36 @@ QString buildPylonQuery(const PylonQuery &query, const SiteRepresentation &repre
     if (!pylon || !colors)
         return {};
 
+    const QStringList values =
+        QStringList{query.kind,
+                    systemsPart(query),
+                    PylonFolder,
+                    pylon->type,
+                    text::g6(representation.pylonWidth),
+                    colorSetText(*colors, representation.transparency)} +
+        sectorProperties(representation) +
+        QStringList{query.extra.isEmpty() ? QString() : query.extra + QLatin1Char(','),
+                    QString::number(representation.antennaSize),
+                    QString::number(representation.symbolicDistance),
+                    QString::number(representation.realisticDistance),
+                    terrainPart(query, project),
+                    project.relativePath(query.dataFile)};
     return text::fillSlots(
         QStringLiteral("%1:%2data_folder=%3,pylon_type=%4,pylon_width=%5,sector_colors=%6,"
                        "sector_properties=%7 %8 %9,%10transmitter_scale=%11,lods=%12 %13,%14%15"),
-        {query.kind, systemsPart(query), PylonFolder, pylon->type,
-         text::g6(representation.pylonWidth), colorSetText(*colors, representation.transparency),
-         truncated(representation.sectorRadius), text::g6(representation.sectorHeight),
-         text::g6(representation.sectorSpacing),
-         query.extra.isEmpty() ? QString() : query.extra + QLatin1Char(','),
-         QString::number(representation.antennaSize),
-         QString::number(representation.symbolicDistance),
-         QString::number(representation.realisticDistance), terrainPart(query, project),
-         project.relativePath(query.dataFile)});
+        values);
+}
+
+QString placingConnection(const PylonQuery &query)
+{
+    return query.kind + QLatin1Char(':') + systemsPart(query) +
+           QFileInfo(query.dataFile).absoluteFilePath();
+}
+
+QStringList sectorProperties(const SiteRepresentation &representation)
+{
+    return {QString::number(static_cast<qint64>(representation.sectorRadius)),
+            text::g6(representation.sectorHeight), text::g6(representation.sectorSpacing)};
 }
 
 QString buildPreviewPylonUrl(const SiteRepresentation &representation,
@@ -70,11 +84,8 @@ QString buildPreviewPylonUrl(const SiteRepresentation &representation,
         return {};
 
     QStringList values = {QDir(installDir).absolutePath() + QLatin1Char('/') + PylonFolder,
-                          pylon->type,
-                          text::g6(representation.pylonWidth),
-                          truncated(representation.sectorRadius),
-                          text::g6(representation.sectorHeight),
-                          text::g6(representation.sectorSpacing)};
+                          pylon->type, text::g6(representation.pylonWidth)};
+    values << sectorProperties(representation);
     for (int i = 0; i < PreviewTransmitters; ++i)
         values << colorText(*colors, i, representation.transparency);
     values << QString::number(representation.antennaSize)

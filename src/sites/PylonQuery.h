@@ -21,6 +21,13 @@ struct PylonQuery
 QString buildPylonQuery(const PylonQuery &query, const SiteRepresentation &representation,
                         const SiteCatalogues &catalogues, const ProjectContext &project);
 
+/// The connection by which the rows of the table are read and placed, without the look of anything;
+/// its path is absolute.
+QString placingConnection(const PylonQuery &query);
+
+/// Radius (its whole part), height and spacing of sectors, as queries have them.
+QStringList sectorProperties(const SiteRepresentation &representation);
+
 /// The name under which the scene library loads one demonstration site. Empty as above.
 QString buildPreviewPylonUrl(const SiteRepresentation &representation,
                              const SiteCatalogues &catalogues, const QString &installDir);

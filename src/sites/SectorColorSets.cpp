@@ -60,13 +60,16 @@ QList<SectorColorSet> loadSectorColorSets(const QString &installDir, const QStri
     return sets;
 }
 
-QString colorText(const SectorColorSet &set, int index, int transparency)
+QString colorText(const QColor &color, int transparency)
 {
-    if (set.colors.isEmpty())
-        return {};
-    const QColor &color = set.colors.at(index % set.colors.size());
     const int alpha = color.alpha() * (100 - transparency) / 100;
     return hex(color.red()) + hex(color.green()) + hex(color.blue()) + hex(alpha);
+}
+
+QString colorText(const SectorColorSet &set, int index, int transparency)
+{
+    return set.colors.isEmpty() ? QString()
+                                : colorText(set.colors.at(index % set.colors.size()), transparency);
 }
 
 QString colorSetText(const SectorColorSet &set, int transparency)

@@ -22,6 +22,11 @@ struct SectorColorSet
 /// @param language  language code ("fr", "en")
 QList<SectorColorSet> loadSectorColorSets(const QString &installDir, const QString &language);
 
+/// A colour as "rrggbbaa", lower-case hexadecimal.
+///
+/// @param transparency  0 (the colour's own alpha) .. 100 (invisible)
+QString colorText(const QColor &color, int transparency);
+
 /// A colour of the set as "rrggbbaa", lower-case hexadecimal.
 ///
 /// @param index         from 0; wraps around past the end of the set

@@ -2,9 +2,9 @@
 
 #include "connection/ConnectionString.h"
 #include "geodata/LayerInfo.h"
+#include "sites/ColumnPatterns.h"
 
 #include <QFile>
-#include <QRegularExpression>
 
 #include <array>
 
@@ -13,14 +13,6 @@ namespace vlt::sites {
 namespace {
 
 const QString Degree = QStringLiteral("\u00b0");
-
-QRegularExpression wholeName(const QString &pattern)
-{
-    return QRegularExpression(QRegularExpression::anchoredPattern(pattern),
-                              QRegularExpression::CaseInsensitiveOption |
-                                  QRegularExpression::UseUnicodePropertiesOption |
-                                  QRegularExpression::DotMatchesEverythingOption);
-}
 
 /// One list pattern out of those of the four table layouts.
 QRegularExpression anyLayout(const QString &asset, const QString &atoll, const QString &mentum,

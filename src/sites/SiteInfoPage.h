@@ -19,9 +19,4 @@ Result<QString> buildSiteInfoHtml(const QString &connection, const QString &lang
 QString fillSiteInfoPage(const QString &pageTemplate, const QString &language,
                          const SiteColumnSet &columns);
 
-/// Reads a file of the installation whole.
-///
-/// @par Errors   MESS_MISSING_CONF_FILE with the path.
-Result<QString> readConfigurationFile(const QString &path);
-
 } // namespace vlt::sites

@@ -1,49 +1,55 @@
 #include "sites/SiteLayer.h"
 
 #include "language/VltLanguageManager.h"
+#include "sites/InfoPageParts.h"
 #include "sites/SiteInfoPage.h"
-#include "text/Templates.h"
-
-#include <QFileInfo>
 
 namespace vlt::sites {
 
+namespace {
+
+PylonQuery queryOf(const SiteLayerInput &input)
+{
+    return {QStringLiteral("site"), input.sourceSrs, input.targetSrs, input.file.filePath, {}};
+}
+
+} // namespace
+
 QString siteQuery(const SiteLayerInput &input)
 {
-    return buildPylonQuery(
-        {QStringLiteral("site"), input.sourceSrs, input.targetSrs, input.file.filePath, {}},
-        input.representation, input.catalogues, input.project);
+    return buildPylonQuery(queryOf(input), input.representation, input.catalogues, input.project);
 }
 
 QString placingConnection(const SiteLayerInput &input)
 {
-    QString connection = QStringLiteral("site:");
-    if (!input.sourceSrs.isEmpty())
-        connection += QStringLiteral("s_srs=") + input.sourceSrs + QLatin1Char(',');
-    if (!input.targetSrs.isEmpty())
-        connection += QStringLiteral("t_srs=") + input.targetSrs + QLatin1Char(',');
-    return connection + QFileInfo(input.file.filePath).absoluteFilePath();
+    return placingConnection(queryOf(input));
 }
 
 Result<SiteLayer> makeSiteLayer(const SiteLayerInput &input)
 {
+    const QString query = siteQuery(input);
+    return fillLayer(
+        input.installDir, QStringLiteral("template_sites.lay"),
+        {{QStringLiteral("__TITLE__"), dico_label("MESS_SITES", "Sites")},
+         {QStringLiteral("__SITE_URL__"), query},
+         {QStringLiteral("__LAYER__"), input.file.layerName},
+         {QStringLiteral("__SITE_FIELD__"), input.file.nameField}},
+        buildSiteInfoHtml(query, input.language, input.installDir, input.project.directory()));
+}
+
+Result<SiteLayer> fillLayer(const QString &installDir, const QString &templateName,
+                            std::vector<text::Replacement> values, const Result<QString> &page)
+{
     const Result<QString> layerTemplate = readConfigurationFile(
-        input.installDir + QStringLiteral("/addons/telecom/pylons/template_sites.lay"));
+        installDir + QLatin1Char('/') + PylonFolder + QLatin1Char('/') + templateName);
     if (!layerTemplate)
         return layerTemplate.error();
 
     SiteLayer layer;
-    const QString query = siteQuery(input);
-    const Result<QString> page =
-        buildSiteInfoHtml(query, input.language, input.installDir, input.project.directory());
     if (!page)
         layer.warning = page.error();
-    layer.text = text::replacePlaceholders(
-        layerTemplate.value(), {{QStringLiteral("__TITLE__"), dico_label("MESS_SITES", "Sites")},
-                                {QStringLiteral("__SITE_URL__"), query},
-                                {QStringLiteral("__LAYER__"), input.file.layerName},
-                                {QStringLiteral("__SITE_FIELD__"), input.file.nameField},
-                                {QStringLiteral("__Desc__"), page ? page.value() : QString()}});
+    values.emplace_back(QStringLiteral("__Desc__"), page ? page.value() : QString());
+    layer.text = text::replacePlaceholders(layerTemplate.value(), values);
     return layer;
 }
 

@@ -4,6 +4,7 @@
 #include "platform/Result.h"
 #include "sites/PylonQuery.h"
 #include "sites/SiteFileInfo.h"
+#include "text/Templates.h"
 
 #include <optional>
 
@@ -42,6 +43,14 @@ QString placingConnection(const SiteLayerInput &input);
 ///
 /// @par Errors   MESS_MISSING_CONF_FILE with the template's path.
 Result<SiteLayer> makeSiteLayer(const SiteLayerInput &input);
+
+/// The text of a layer file out of a template of the pylons' folder.
+///
+/// @param values  placeholders and their texts, but for the page's
+/// @param page    HTML page of the picked object; without it the layer comes with a warning
+/// @par Errors    MESS_MISSING_CONF_FILE with the template's path.
+Result<SiteLayer> fillLayer(const QString &installDir, const QString &templateName,
+                            std::vector<text::Replacement> values, const Result<QString> &page);
 
 /// Writes a layer text in UTF-8: afterwards the file is the old one or the whole new one.
 ///

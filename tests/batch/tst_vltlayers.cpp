@@ -1,11 +1,8 @@
-#include <QDir>
-#include <QFile>
+#include "ProgramRun.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QProcess>
-#include <QTemporaryDir>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -20,35 +17,6 @@ const QByteArray FirstRun =
     "ff0000ff 00ff00ff 0000ffff ffff00ff ff00ffff 00ffffff,sector_properties=200 20 2,"
     "transmitter_scale=100,lods=10000 1000,";
 
-struct Run
-{
-    int status = -1;
-    QByteArray output;
-    QByteArray errors;
-};
-
-void writeFile(const QString &path, const QByteArray &content)
-{
-    QVERIFY(QDir().mkpath(QFileInfo(path).path()));
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(content);
-}
-
-QByteArray readFile(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-/// What stands between two marks of a layer file.
-QByteArray element(const QByteArray &layer, const QByteArray &name)
-{
-    const QByteArray open = '<' + name + "><![CDATA[";
-    const qsizetype start = layer.indexOf(open) + open.size();
-    return layer.mid(start, layer.indexOf("]]></" + name + '>') - start);
-}
-
 } // namespace
 
 class tst_vltlayers : public QObject
@@ -58,16 +26,11 @@ class tst_vltlayers : public QObject
 private Q_SLOTS:
     void init()
     {
-        m_dir = std::make_unique<QTemporaryDir>();
-        const QString install = path(u"install dir"_s);
-        QVERIFY(QDir().mkpath(install + u"/addons/telecom"_s));
-        QVERIFY(QFile::link(QStringLiteral(VLT_DRIVERS), install + u"/driver"_s));
-        QVERIFY(QFile::link(QStringLiteral(VLT_PYLONS), install + u"/addons/telecom/pylons"_s));
-        writeFile(install + u"/MESSAGES/own_fr.ts"_s,
+        m_program = std::make_unique<ProgramRun>();
+        writeFile(path(u"install dir/MESSAGES/own_fr.ts"_s),
                   "<TS version='2.1' language='fr'><context><message id='MESS_SITES'>"
                   "<source>x</source><translation>Relais \xc3\xa9lev\xc3"
                   "\xa9s</translation></message></context></TS>");
-        QVERIFY(QDir().mkpath(path(u"elsewhere"_s)));
     }
 
     void makesALayerFromAnotherDirectory_data()
@@ -246,30 +209,15 @@ private Q_SLOTS:
     }
 
 private:
-    QString path(const QString &name) const { return m_dir->filePath(name); }
+    QString path(const QString &name) const { return m_program->path(name); }
 
-    /// Runs the program in a directory apart from all its files.
-    Run start(QStringList arguments) const
+    template<typename Arguments>
+    Run start(const Arguments &arguments) const
     {
-        if (!arguments.contains(u"--install"_s))
-            arguments << u"--install"_s << path(u"install dir"_s);
-        if (!arguments.contains(u"--language"_s))
-            arguments << u"--language"_s << u"en"_s;
-        QProcess process;
-        process.setWorkingDirectory(path(u"elsewhere"_s));
-        process.start(QStringLiteral(VLT_PROGRAM), arguments);
-        process.waitForFinished();
-        return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
-                process.readAllStandardOutput(), process.readAllStandardError()};
+        return m_program->start(arguments);
     }
 
-    /// The same; no argument has a blank.
-    Run start(const QString &arguments) const
-    {
-        return start(arguments.split(u' ', Qt::SkipEmptyParts));
-    }
-
-    std::unique_ptr<QTemporaryDir> m_dir;
+    std::unique_ptr<ProgramRun> m_program;
 };
 
 QTEST_GUILESS_MAIN(tst_vltlayers)

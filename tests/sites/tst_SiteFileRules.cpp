@@ -72,7 +72,7 @@ private Q_SLOTS:
 
     void leavesTheBuiltInDescriptionUnfilled()
     {
-        QCOMPARE(describeSiteFile(QStringLiteral("asset"), QStringLiteral("METERS")),
+        QCOMPARE(describeTableFile(QStringLiteral("asset"), QStringLiteral("METERS")),
                  QStringLiteral("File format is : %1\nCoordinates are %2 and are specified in %3"));
     }
 

@@ -1,81 +1,29 @@
-#include "app/GeodataLibrary.h"
 #include "gui/AnsweredBoxes.h"
 #include "gui/DropOnWidget.h"
 #include "gui/FileDialogAnswer.h"
-#include "platform/Settings.h"
 #include "preview/W_simpleOSGViewer.h"
-#include "wizard/base/DraggableIcon.h"
+#include "wizard/LayerFlow.h"
 #include "wizard/base/TemporaryLayerFile.h"
-#include "wizard/frame/VltTelecomLayersWizard.h"
 
-#include <QAbstractButton>
 #include <QDir>
-#include <QFile>
-#include <QLabel>
-#include <QLineEdit>
-#include <QProcess>
 #include <QSettings>
 #include <QSlider>
 #include <QTableView>
-#include <QTemporaryDir>
-#include <QTest>
 #include <QToolButton>
 
 using namespace Qt::StringLiterals;
+using namespace layerflow;
 
 namespace {
 
-const QTemporaryDir InstallationDir;
-const QString Installation = InstallationDir.path();
-const QString Samples = QStringLiteral(VLT_SAMPLES);
 const QString NoSites = u"No sites file defined.\nSelect the sites file to display."_s;
 
-QByteArray contents(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-/// The layer that the command line makes of a table of the sample project.
-QByteArray layerOfCommandLine(const QString &table, int transparency)
-{
-    const QTemporaryDir dir;
-    const QString layer = dir.filePath(u"out.lay"_s);
-    QProcess process;
-    process.start(QStringLiteral(VLT_PROGRAM),
-                  QStringList{u"site"_s, table, u"-o"_s, layer, u"--install"_s, Installation,
-                              u"--project"_s, Samples + u"/city.gvw"_s, u"--language"_s, u"en"_s,
-                              u"--transparency"_s, QString::number(transparency)});
-    process.waitForFinished();
-    return contents(layer);
-}
-
-/// The real wizard, led to the add-site page of the sample project.
-class WizardOnSitePage
+class WizardOnSitePage : public WizardOnPage
 {
 public:
-    explicit WizardOnSitePage(const QString &installDir = Installation)
-        : wizard(installDir, u"en"_s)
-    {
-        wizard.show();
-        widget<QAbstractButton>(u"m_pwClAddSite"_s)->click();
-        widget<QLineEdit>(u"m_pwLeProjectName"_s)->setText(Samples + u"/city.gvw"_s);
-        wizard.button(QWizard::NextButton)->click();
-        page = wizard.currentPage();
-        icon = page->findChild<DraggableIcon *>();
-    }
-
-    template<typename Widget>
-    Widget *widget(const QString &name)
-    {
-        return wizard.currentPage()->findChild<Widget *>(name);
-    }
-
-    QString description() { return widget<QLabel>(u"m_pwLblFileInfo"_s)->text(); }
-
-    VltTelecomLayersWizard wizard;
-    QWidget *page = nullptr;
-    DraggableIcon *icon = nullptr;
+    explicit WizardOnSitePage(const QString &installDir = installation())
+        : WizardOnPage(u"m_pwClAddSite"_s, installDir)
+    {}
 };
 
 } // namespace
@@ -87,20 +35,8 @@ class TestSiteLayerFlow : public QObject
     QTemporaryDir m_dir;
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        const QString source = QStringLiteral(VLT_INSTALLATION "/.");
-        QCOMPARE(QProcess::execute(u"cp"_s, {u"-R"_s, source, Installation}), 0);
-        QVERIFY(QFile::link(QStringLiteral(VLT_DRIVERS), Installation + u"/driver"_s));
-        vlt::app::registerGeodataDrivers();
-    }
-
-    void init()
-    {
-        vlt::platform::wizardSettings()->clear();
-        vlt::platform::builderSettings()->clear();
-        vlt::platform::builderSettings()->setValue(u"INSTALL_DIR"_s, Installation);
-    }
+    void initTestCase() { QVERIFY(makeInstallation()); }
+    void init() { forgetSettings(); }
 
     void makesTheLayerOfTheCommandLine_data()
     {
@@ -132,7 +68,8 @@ private Q_SLOTS:
         QVERIFY(flow.icon->isEnabled());
         QCOMPARE(flow.icon->layerFile(), vlt::wizard::temporaryLayerFileName(u"sites"_s));
         const QByteArray layer = contents(flow.icon->layerFile());
-        QCOMPARE(layer, layerOfCommandLine(path, transparency));
+        QCOMPARE(layer, layerOfCommandLine(u"site"_s, path,
+                                           {u"--transparency"_s, QString::number(transparency)}));
         QCOMPARE(vlt::platform::wizardSettings()->value(u"LastUsedDir"_s), Samples);
 
         WizardOnSitePage nextTime;
@@ -190,12 +127,12 @@ private Q_SLOTS:
 
     void tellsWhatKeepsALayerFromBeingWritten()
     {
-        const QTemporaryDir installation;
-        const QString source = Installation + u"/."_s;
-        QCOMPARE(QProcess::execute(u"cp"_s, {u"-R"_s, source, installation.path()}), 0);
-        const QString pylons = installation.path() + u"/addons/telecom/pylons/"_s;
+        const QTemporaryDir own;
+        const QString source = installation() + u"/."_s;
+        QCOMPARE(QProcess::execute(u"cp"_s, {u"-R"_s, source, own.path()}), 0);
+        const QString pylons = own.path() + u"/addons/telecom/pylons/"_s;
         const QString layer = vlt::wizard::temporaryLayerFileName(u"sites"_s);
-        WizardOnSitePage flow(installation.path());
+        WizardOnSitePage flow(own.path());
         const auto toldWhenDropped = [&flow] {
             AnsweredBoxes boxes;
             dropFiles(flow.page, {Samples + u"/sites.csv"_s});

@@ -2,13 +2,11 @@
 
 #include "platform/Settings.h"
 #include "sites/PylonQuery.h"
-#include "text/RichText.h"
+#include "sites/ui/PanelParts.h"
 #include "ui_SiteProperties.h"
 #include "wizard/base/WheelGuard.h"
 
-#include <QAbstractItemView>
 #include <QSettings>
-#include <QStyle>
 
 #include <functional>
 #include <vector>
@@ -57,27 +55,6 @@ const std::vector<Remembered> &rememberedValues()
     return values;
 }
 
-/// The texts are longer than the closed box: its list is wide enough for them, and its tool tip
-/// tells the chosen one.
-void showWholeTexts(QComboBox *combo)
-{
-    combo->view()->setMinimumWidth(combo->view()->sizeHintForColumn(0) +
-                                   combo->style()->pixelMetric(QStyle::PM_ScrollBarExtent));
-    const QString purpose = combo->toolTip();
-    const auto tell = [combo, purpose] {
-        const QString chosen = combo->currentText();
-        combo->setToolTip(vlt::text::asRichText(
-            chosen.isEmpty() ? purpose : chosen + QStringLiteral("\n\n") + purpose));
-    };
-    QObject::connect(combo, &QComboBox::currentIndexChanged, combo, tell);
-    tell();
-}
-
-void select(QComboBox *combo, int index)
-{
-    combo->setCurrentIndex(index >= 0 && index < combo->count() ? index : -1);
-}
-
 } // namespace
 
 VltSiteProperties::VltSiteProperties(const QString &installDir, const QString &language,
@@ -88,23 +65,12 @@ VltSiteProperties::VltSiteProperties(const QString &installDir, const QString &l
     , m_installDir(installDir)
 {
     m_ui->setupUi(this);
-    narrowSpinBoxes();
+    vlt::sites::narrowSpinBoxes(this);
     fillCombos();
     connectWidgets();
 }
 
 VltSiteProperties::~VltSiteProperties() = default;
-
-/// The ranges reach far beyond usual values: boxes as wide as their largest number would not fit
-/// beside each other.
-void VltSiteProperties::narrowSpinBoxes()
-{
-    const int usual = fontMetrics().horizontalAdvance(QStringLiteral("1000000.00 m"));
-    for (auto *box : findChildren<QAbstractSpinBox *>()) {
-        box->setMinimumWidth(usual + box->sizeHint().height());
-        box->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    }
-}
 
 void VltSiteProperties::fillCombos()
 {
@@ -123,17 +89,12 @@ void VltSiteProperties::fillCombos()
         pylons->addItem(type.description);
     }
     for (QComboBox *combo : {pylons, m_ui->m_pwCbSectorColors})
-        showWholeTexts(combo);
+        vlt::sites::showWholeTexts(combo);
 }
 
 void VltSiteProperties::connectWidgets()
 {
-    for (auto *box : findChildren<QDoubleSpinBox *>())
-        connect(box, &QDoubleSpinBox::valueChanged, this, &VltSiteProperties::parameterChanged);
-    for (auto *box : findChildren<QSpinBox *>())
-        connect(box, &QSpinBox::valueChanged, this, &VltSiteProperties::parameterChanged);
-    for (auto *combo : findChildren<QComboBox *>())
-        connect(combo, &QComboBox::activated, this, &VltSiteProperties::parameterChanged);
+    vlt::sites::announceChanges(this);
     connect(m_ui->m_pwSlTransparency, &QSlider::valueChanged, this, [this](int value) {
         m_ui->m_pwLblTransparencyValue->setText(QStringLiteral("%1 %").arg(value));
         Q_EMIT parameterChanged();
@@ -158,9 +119,9 @@ void VltSiteProperties::loadSettings(const QString &prefix)
     m_ui->m_pwSbSectorHeight->setValue(values.sectorHeight);
     m_ui->m_pwSbSectorRadius->setValue(values.sectorRadius);
     m_ui->m_pwSbSectorSpacing->setValue(values.sectorSpacing);
-    select(m_ui->m_pwCbSectorColors, values.colorSet);
+    vlt::sites::selectEntry(m_ui->m_pwCbSectorColors, values.colorSet);
     m_ui->m_pwSbSymbolicDistance->setValue(values.symbolicDistance);
-    select(m_ui->m_pwCbPylonType, values.pylonType);
+    vlt::sites::selectEntry(m_ui->m_pwCbPylonType, values.pylonType);
     m_ui->m_pwSbRealisticDistance->setValue(values.realisticDistance);
     m_ui->m_pwSlTransparency->setValue(values.transparency);
     m_ui->m_pwSbPylonWidth->setValue(values.pylonWidth);

@@ -43,7 +43,6 @@ Q_SIGNALS:
     void parameterChanged();
 
 private:
-    void narrowSpinBoxes();
     void fillCombos();
     void connectWidgets();
 

@@ -41,6 +41,8 @@ VltSrsSettings::VltSrsSettings(const QString &kind, QWidget *parent)
     , m_pwPbReadSrs(
           new QPushButton(tr("Read system from a datasource...", "MESS_READ_SRS_FROM_DS"), this))
 {
+    if (kind == QLatin1String("link"))
+        m_pwSource->setToolTip(tr("Projection of the file", "MESS_PROJ_OF_THE_FILE"));
     m_pwPbReadSrs->setToolTip(
         tr("Take the target system from a raster or vector file", "MESS_TIP_READ_SRS"));
     m_pwPbReadSrs->setAutoDefault(false);

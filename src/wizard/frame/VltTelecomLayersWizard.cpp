@@ -1,5 +1,6 @@
 #include "wizard/frame/VltTelecomLayersWizard.h"
 
+#include "links/ui/VltAddLinkPage.h"
 #include "platform/Settings.h"
 #include "sites/ui/VltAddSitePage.h"
 #include "wizard/base/Messages.h"
@@ -88,6 +89,8 @@ void VltTelecomLayersWizard::addPages()
               new VltSecondPage(this, m_parameters, m_installDir, m_language));
     addPageAs(LogicalPage::AddSite,
               new VltAddSitePage(this, m_parameters, m_installDir, m_language));
+    addPageAs(LogicalPage::AddLink,
+              new VltAddLinkPage(this, m_parameters, m_installDir, m_language));
     addPlannedPages();
     first->setPageIds({pageId(LogicalPage::Project), pageId(LogicalPage::AddSite),
                        pageId(LogicalPage::AddLink), pageId(LogicalPage::BuildingsSource)});
@@ -106,10 +109,6 @@ void VltTelecomLayersWizard::addPlannedPages()
         addPageAs(logical,
                   new PlannedPage(this, m_parameters, m_installDir, m_language, title, purpose));
     };
-    plan(LogicalPage::AddLink, tr("Links", "MESS_PAGE_LINKS"),
-         tr("Here a table of microwave links will become a layer: pylons with antennas, the line "
-            "of sight and the Fresnel zone of each link.",
-            "MESS_PLANNED_LINKS"));
     plan(LogicalPage::BuildingsSource, tr("Buildings", "MESS_PAGE_BUILDINGS"),
          tr("Here the buildings of a vector file, the field of their heights and the terrain will "
             "be chosen, to make a layer of 3D buildings.",

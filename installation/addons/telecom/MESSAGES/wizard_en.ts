@@ -115,14 +115,6 @@ Buildings can be colored or textured with images (ortho-images, coverage plots, 
         <source>This version does not have this page yet. Go back to choose another kind of layer.</source>
         <translation>This version does not have this page yet. Go back to choose another kind of layer.</translation>
     </message>
-    <message id="MESS_PAGE_LINKS">
-        <source>Links</source>
-        <translation>Links</translation>
-    </message>
-    <message id="MESS_PLANNED_LINKS">
-        <source>Here a table of microwave links will become a layer: pylons with antennas, the line of sight and the Fresnel zone of each link.</source>
-        <translation>Here a table of microwave links will become a layer: pylons with antennas, the line of sight and the Fresnel zone of each link.</translation>
-    </message>
     <message id="MESS_PAGE_BUILDINGS">
         <source>Buildings</source>
         <translation>Buildings</translation>

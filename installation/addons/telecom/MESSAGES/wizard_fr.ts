@@ -115,14 +115,6 @@ Les bâtiments peuvent être colorés ou texturés avec des images (orthophotos,
         <source>This version does not have this page yet. Go back to choose another kind of layer.</source>
         <translation>Cette version ne comporte pas encore cette page. Revenez en arrière pour choisir un autre type de couche.</translation>
     </message>
-    <message id="MESS_PAGE_LINKS">
-        <source>Links</source>
-        <translation>Liaisons</translation>
-    </message>
-    <message id="MESS_PLANNED_LINKS">
-        <source>Here a table of microwave links will become a layer: pylons with antennas, the line of sight and the Fresnel zone of each link.</source>
-        <translation>Ici, un tableau de faisceaux hertziens deviendra une couche&#xa0;: pylônes et antennes, ligne de visée et zone de Fresnel de chaque liaison.</translation>
-    </message>
     <message id="MESS_PAGE_BUILDINGS">
         <source>Buildings</source>
         <translation>Bâtiments</translation>

@@ -1,0 +1,200 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en_US" sourcelanguage="en">
+<context>
+    <name>Link file</name>
+    <message id="MESS_ERR_OPEN_LINK">
+        <source>This file can't be open as a link file</source>
+        <translation>This file can't be open as a link file</translation>
+    </message>
+    <message id="MESS_ERR_EMPTY_LINK">
+        <source>This link file is empty</source>
+        <translation>This link file is empty</translation>
+    </message>
+</context>
+<context>
+    <name>Link layer</name>
+    <message id="MESS_LINKS">
+        <source>Links</source>
+        <extracomment>Title of the layer.</extracomment>
+        <translation>Links</translation>
+    </message>
+</context>
+<context>
+    <name>Verdicts</name>
+    <message id="MESS_CLEAR">
+        <source>clear</source>
+        <extracomment>Verdict: the path of a link over the terrain.</extracomment>
+        <translation>clear</translation>
+    </message>
+    <message id="MESS_MARGINAL">
+        <source>marginal</source>
+        <extracomment>Verdict: the path of a link over the terrain.</extracomment>
+        <translation>marginal</translation>
+    </message>
+    <message id="MESS_OBSTRUCTED">
+        <source>obstructed</source>
+        <extracomment>Verdict: the path of a link over the terrain.</extracomment>
+        <translation>obstructed</translation>
+    </message>
+    <message id="MESS_UNJUDGED">
+        <source>not judged</source>
+        <extracomment>Verdict: the path of a link over the terrain.</extracomment>
+        <translation>not judged</translation>
+    </message>
+    <message id="MESS_TERRAIN_UNREADABLE">
+        <source>the terrain file cannot be read as a georeferenced raster</source>
+        <extracomment>A reason in parentheses follows.</extracomment>
+        <translation>the terrain file cannot be read as a georeferenced raster</translation>
+    </message>
+    <message id="MESS_TERRAIN_NOT_LOCAL">
+        <source>it is not a local file</source>
+        <translation>it is not a local file</translation>
+    </message>
+    <message id="MESS_TERRAIN_NOT_PLACED">
+        <source>it has no band of heights, no place or no coordinate system</source>
+        <translation>it has no band of heights, no place or no coordinate system</translation>
+    </message>
+    <message id="MESS_TERRAIN_ELSEWHERE">
+        <source>no way leads from the coordinate system of the links to that of the terrain</source>
+        <translation>no way leads from the coordinate system of the links to that of the terrain</translation>
+    </message>
+</context>
+<context>
+    <name>Columns of link tables</name>
+    <message id="MESS_LINK_COLUMN_NAME">
+        <source>Link name</source>
+        <translation>Link name</translation>
+    </message>
+    <message id="MESS_LINK_COLUMN_BAND">
+        <source>Frequency band</source>
+        <translation>Frequency band</translation>
+    </message>
+    <message id="MESS_LINK_COLUMN_LENGTH">
+        <source>Path length</source>
+        <translation>Path length</translation>
+    </message>
+    <message id="MESS_LINK_COLUMN_ID">
+        <source>Identifier of end %1</source>
+        <extracomment>A or B.</extracomment>
+        <translation>Identifier of end %1</translation>
+    </message>
+    <message id="MESS_LINK_COLUMN_X">
+        <source>X of end %1</source>
+        <extracomment>A or B.</extracomment>
+        <translation>X of end %1</translation>
+    </message>
+    <message id="MESS_LINK_COLUMN_Y">
+        <source>Y of end %1</source>
+        <extracomment>A or B.</extracomment>
+        <translation>Y of end %1</translation>
+    </message>
+    <message id="MESS_LINK_COLUMN_HEIGHT">
+        <source>Height of end %1</source>
+        <extracomment>A or B.</extracomment>
+        <translation>Height of end %1</translation>
+    </message>
+    <message id="MESS_LINK_COLUMN_FREQUENCY">
+        <source>Frequency of end %1</source>
+        <extracomment>A or B.</extracomment>
+        <translation>Frequency of end %1</translation>
+    </message>
+    <message id="MESS_LINK_COLUMN_AZIMUTH">
+        <source>Azimuth of end %1</source>
+        <extracomment>A or B.</extracomment>
+        <translation>Azimuth of end %1</translation>
+    </message>
+    <message id="MESS_LINK_COLUMN_TILT">
+        <source>Tilt of end %1</source>
+        <extracomment>A or B.</extracomment>
+        <translation>Tilt of end %1</translation>
+    </message>
+    <message id="MESS_LINK_COLUMN_DX">
+        <source>DX of end %1</source>
+        <extracomment>A or B.</extracomment>
+        <translation>DX of end %1</translation>
+    </message>
+    <message id="MESS_LINK_COLUMN_DY">
+        <source>DY of end %1</source>
+        <extracomment>A or B.</extracomment>
+        <translation>DY of end %1</translation>
+    </message>
+</context>
+<context>
+    <name>Command line</name>
+    <message id="MESS_CLI_READING_LINKS">
+        <source>Reading the links</source>
+        <translation>Reading the links</translation>
+    </message>
+    <message id="MESS_CLI_LINK_COUNT">
+        <source>Number of links</source>
+        <translation>Number of links</translation>
+    </message>
+    <message id="MESS_CLI_END_LAYER">
+        <source>Layer of the link ends</source>
+        <translation>Layer of the link ends</translation>
+    </message>
+    <message id="MESS_CLI_LINK_FIELD">
+        <source>Column that names a link</source>
+        <translation>Column that names a link</translation>
+    </message>
+    <message id="MESS_CLI_FREQUENCY_UNIT">
+        <source>Unit of the frequency band</source>
+        <translation>Unit of the frequency band</translation>
+    </message>
+    <message id="MESS_CLI_LENGTH_UNIT">
+        <source>Unit of the length</source>
+        <translation>Unit of the length</translation>
+    </message>
+    <message id="MESS_CLI_NO_LINK_PLACED">
+        <source>none of its links can be placed; "vltlayers info --link" tells why</source>
+        <extracomment>Follows the name of the table.</extracomment>
+        <translation>none of its links can be placed; "vltlayers info --link" tells why</translation>
+    </message>
+    <message id="MESS_CLI_NO_TERRAIN">
+        <source>no terrain is known, so that no link is judged: give --terrain</source>
+        <extracomment>Keep the option.</extracomment>
+        <translation>no terrain is known, so that no link is judged: give --terrain</translation>
+    </message>
+    <message id="MESS_CLI_LINK">
+        <source>link</source>
+        <extracomment>Head of a column.</extracomment>
+        <translation>link</translation>
+    </message>
+    <message id="MESS_CLI_END_A">
+        <source>end A</source>
+        <extracomment>Head of a column.</extracomment>
+        <translation>end A</translation>
+    </message>
+    <message id="MESS_CLI_END_B">
+        <source>end B</source>
+        <extracomment>Head of a column.</extracomment>
+        <translation>end B</translation>
+    </message>
+    <message id="MESS_CLI_VERDICT">
+        <source>verdict</source>
+        <extracomment>Head of a column.</extracomment>
+        <translation>verdict</translation>
+    </message>
+    <message id="MESS_CLI_NOT_PLACED">
+        <source>not placed</source>
+        <extracomment>In the place of a verdict.</extracomment>
+        <translation>not placed</translation>
+    </message>
+    <message id="MESS_CLI_WORST_KM">
+        <source>worst at km</source>
+        <extracomment>Head of a column: where the least of the Fresnel zone is free, from end A.</extracomment>
+        <translation>worst at km</translation>
+    </message>
+    <message id="MESS_CLI_CLEARANCE_M">
+        <source>clearance m</source>
+        <extracomment>Head of a column: height of the line of sight over the ground.</extracomment>
+        <translation>clearance m</translation>
+    </message>
+    <message id="MESS_CLI_CLEARANCE_SHARE">
+        <source>% of zone 1</source>
+        <extracomment>Head of a column: the same in shares of the first Fresnel zone.</extracomment>
+        <translation>% of zone 1</translation>
+    </message>
+</context>
+</TS>

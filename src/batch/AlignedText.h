@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+namespace vlt::batch {
+
+/// A label and what belongs to it.
+struct Line
+{
+    QString label;
+    QStringList values;
+};
+
+/// Lines "label : value; value", the colons below one another; many values take several lines.
+QString aligned(const QList<Line> &lines);
+
+/// A table with two blanks between its columns.
+///
+/// @param rows        [row][column], every row with as many cells as the first one
+/// @param rightFrom   cells from this column on stand at the right side of their column
+QString alignedTable(const QList<QStringList> &rows, qsizetype rightFrom);
+
+} // namespace vlt::batch

@@ -1,0 +1,153 @@
+#include "batch/LayerCommand.h"
+
+#include "batch/Console.h"
+#include "batch/Help.h"
+#include "batch/SiteOptions.h"
+#include "language/VltLanguageManager.h"
+
+#include <QFileInfo>
+#include <QSet>
+
+namespace vlt::batch {
+
+namespace {
+
+/// Where a file really is, so that two names of one file are seen to be one.
+QString realPath(const QString &path)
+{
+    const QString canonical = QFileInfo(path).canonicalFilePath();
+    return canonical.isEmpty() ? QFileInfo(path).absoluteFilePath() : canonical;
+}
+
+/// Name of the catalogue, below the pylons' folder, that has nothing to choose from.
+QString emptyCatalogue(const sites::SiteCatalogues &catalogues)
+{
+    if (catalogues.pylonTypes.isEmpty())
+        return QStringLiteral("/list.xml");
+    return catalogues.colorSets.isEmpty() ? QStringLiteral("/colors/sectors.xml") : QString();
+}
+
+bool isOneOf(const QString &output, const QStringList &inputs)
+{
+    for (const QString &input : inputs) {
+        if (!input.isEmpty() && realPath(input) == realPath(output))
+            return true;
+    }
+    return false;
+}
+
+qint64 refusedRows(const geodata::LayerProblems &problems)
+{
+    QSet<int> rows;
+    for (const Problem &problem : problems.listed) {
+        if (problem.severity == Problem::Severity::Error && problem.row > 0)
+            rows.insert(problem.row);
+    }
+    return rows.size();
+}
+
+} // namespace
+
+void addLayerOptions(QCommandLineParser &parser)
+{
+    parser.addOptions({
+        {{QStringLiteral("o"), QStringLiteral("output")},
+         QStringLiteral("Layer file to write."),
+         QStringLiteral("OUT.lay")},
+        {QStringLiteral("source-srs"),
+         QStringLiteral("Coordinate system of the table (default: what the table declares, else "
+                        "4326 for degrees, else the terrain's)."),
+         QStringLiteral("SRS")},
+        {QStringLiteral("target-srs"),
+         QStringLiteral("Coordinate system of the project (default: the project's, else the "
+                        "terrain's, else 4326 for degrees, else the table's)."),
+         QStringLiteral("SRS")},
+    });
+    addSiteOptions(parser);
+}
+
+std::variant<LayerRequest, ExitStatus> readLayerRequest(const QCommandLineParser &parser,
+                                                        const Surroundings &surroundings,
+                                                        const QStringList &inputs)
+{
+    LayerRequest request;
+    request.table = parser.positionalArguments().constFirst();
+    request.output = parser.value(QStringLiteral("output"));
+    request.catalogues = sites::loadSiteCatalogues(surroundings.installDir, surroundings.language);
+    if (const QString missing = emptyCatalogue(request.catalogues); !missing.isEmpty())
+        return refuse({QStringLiteral("MESS_MISSING_CONF_FILE"),
+                       QStringLiteral("A configuration file is missing"),
+                       surroundings.installDir + QLatin1Char('/') + sites::PylonFolder + missing});
+    const auto representation = readSiteOptions(parser, request.catalogues);
+    if (!representation)
+        return refuseUsage(representation.error().text);
+    request.pylons = representation.value();
+    if (!request.output.isEmpty() &&
+        isOneOf(request.output,
+                inputs + QStringList{request.table, surroundings.project.projectPath,
+                                     surroundings.project.terrainFile}))
+        return refuse({QStringLiteral("MESS_CLI_OUTPUT_IS_INPUT"),
+                       QStringLiteral("the output is one of the input files"), request.output});
+    return request;
+}
+
+sites::SiteSystems chosenSystems(const QCommandLineParser &parser,
+                                 const sites::SiteSystems &otherwise)
+{
+    const auto system = [&parser](const QString &option, const QString &fromTable) {
+        return sites::epsgText(parser.isSet(option) ? parser.value(option) : fromTable);
+    };
+    return {system(QStringLiteral("source-srs"), otherwise.source),
+            system(QStringLiteral("target-srs"), otherwise.target)};
+}
+
+LayerOutcome layerOutcome(const geodata::LayerPlacement &placement,
+                          const geodata::LayerProblems &problems)
+{
+    return {placement.placed, qMax(placement.features - placement.placed, refusedRows(problems))};
+}
+
+std::optional<ExitStatus> writeLayer(const QString &path, const Result<sites::SiteLayer> &layer)
+{
+    if (!layer)
+        return refuse(layer.error());
+    if (layer.value().warning)
+        printError(explain(*layer.value().warning));
+    QString reason;
+    const Result<Done> written =
+        sites::writeSiteLayer(path, layer.value().text, platform::Access::Shared, &reason);
+    if (!written)
+        return refuse(written.error(), reason);
+    return std::nullopt;
+}
+
+void warnOfLayer(const LayerOutcome &outcome, const sites::SiteSystems &systems)
+{
+    if (outcome.unplacedRows > 0)
+        printError(dico_label("MESS_CLI_UNPLACED", "rows that could not be placed") +
+                   QStringLiteral(": %1").arg(outcome.unplacedRows));
+    if (systems.source.isEmpty() && systems.target.isEmpty())
+        printError(dico_label("MESS_CLI_NO_SRS", "no coordinate system is known: give "
+                                                 "--source-srs and --target-srs"));
+}
+
+QJsonObject layerJson(const LayerRequest &request, const LayerOutcome &outcome,
+                      const sites::SiteSystems &systems)
+{
+    return {{QStringLiteral("layer"), request.output.isEmpty()
+                                          ? QJsonValue(QJsonValue::Null)
+                                          : QFileInfo(request.output).absoluteFilePath()},
+            {QStringLiteral("table"), QFileInfo(request.table).absoluteFilePath()},
+            {QStringLiteral("unplacedRows"), outcome.unplacedRows},
+            {QStringLiteral("sourceSrs"), systems.source},
+            {QStringLiteral("targetSrs"), systems.target}};
+}
+
+ExitStatus printResult(const QString &text)
+{
+    if (!printOut(text))
+        return refuse({QString(), QStringLiteral("the output cannot be written"), {}});
+    return ExitStatus::Done;
+}
+
+} // namespace vlt::batch

@@ -1,0 +1,61 @@
+#pragma once
+
+#include "batch/CommandLine.h"
+#include "batch/StartUp.h"
+#include "geodata/LayerProblems.h"
+#include "sites/SiteLayer.h"
+
+#include <QJsonObject>
+
+#include <variant>
+
+namespace vlt::batch {
+
+/// What the commands that make a layer of a table have in common.
+struct LayerRequest
+{
+    QString table;  ///< as given
+    QString output; ///< layer file to write
+    sites::SiteCatalogues catalogues;
+    sites::SiteRepresentation pylons;
+};
+
+/// How the rows of a table come out in the layer.
+struct LayerOutcome
+{
+    qint64 placed = 0;
+    qint64 unplacedRows = 0;
+};
+
+/// Makes the parser know the output, the coordinate systems and the look of pylons.
+void addLayerOptions(QCommandLineParser &parser);
+
+/// Takes the common part of the command line, or refuses it and gives the exit status.
+///
+/// @param inputs  files besides the table that the layer must not overwrite; empty names are none
+std::variant<LayerRequest, ExitStatus> readLayerRequest(const QCommandLineParser &parser,
+                                                        const Surroundings &surroundings,
+                                                        const QStringList &inputs);
+
+/// The systems that the options name, else those that go with the table, as layers carry them.
+sites::SiteSystems chosenSystems(const QCommandLineParser &parser,
+                                 const sites::SiteSystems &otherwise);
+
+/// The outcome, a row counting once however many problems it has.
+LayerOutcome layerOutcome(const geodata::LayerPlacement &placement,
+                          const geodata::LayerProblems &problems);
+
+/// Writes a finished layer and tells of its missing page; the exit status where that fails.
+std::optional<ExitStatus> writeLayer(const QString &path, const Result<sites::SiteLayer> &layer);
+
+/// Tells of rows without a place and of missing coordinate systems on the error output.
+void warnOfLayer(const LayerOutcome &outcome, const sites::SiteSystems &systems);
+
+/// What programs are told of every layer.
+QJsonObject layerJson(const LayerRequest &request, const LayerOutcome &outcome,
+                      const sites::SiteSystems &systems);
+
+/// Prints a finished text; refused where it does not arrive.
+ExitStatus printResult(const QString &text);
+
+} // namespace vlt::batch

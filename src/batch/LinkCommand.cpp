@@ -1,0 +1,199 @@
+#include "batch/LinkCommand.h"
+
+#include "batch/Console.h"
+#include "batch/Help.h"
+#include "batch/LayerCommand.h"
+#include "batch/LinkOptions.h"
+#include "batch/LinkReport.h"
+#include "batch/ProgressLine.h"
+#include "batch/SiteOptions.h"
+#include "language/VltLanguageManager.h"
+#include "links/LinkLayer.h"
+#include "links/VerdictText.h"
+
+#include <QFileInfo>
+#include <QJsonDocument>
+
+namespace vlt::batch {
+
+namespace {
+
+const QString Examples =
+    QStringLiteral("\nExamples:\n"
+                   "  vltlayers link links.xlsx -o links.lay\n"
+                   "  vltlayers link links.csv --project city.gvw --color-by-clearance \\\n"
+                   "      --link-style line --link-width 3 -o links.lay\n"
+                   "  vltlayers link links.csv --terrain hills.tif --k-factor 1 --report\n"
+                   "  vltlayers link links.csv --terrain hills.tif --report --json\n");
+
+/// The command's own part of the command line.
+struct LinkRequest
+{
+    links::LinkRepresentation look;
+    std::optional<QString> terrain; ///< as given; empty for none at all
+    bool report = false;
+};
+
+void describe(QCommandLineParser &parser)
+{
+    parser.setApplicationDescription(
+        QStringLiteral("Makes a layer of a table of microwave links, the same that the wizard "
+                       "makes, and tells\nwhich of the links have a free path over the terrain."));
+    parser.addPositionalArgument(QStringLiteral("TABLE"),
+                                 QStringLiteral("Link table (.xls .xlsx .xml .csv)."),
+                                 QStringLiteral("link TABLE -o OUT.lay"));
+    addLayerOptions(parser);
+    addLinkOptions(parser);
+    parser.addOptions({
+        {QStringLiteral("terrain"),
+         QStringLiteral("Terrain file under the links (default: the project's; empty: none)."),
+         QStringLiteral("FILE")},
+        {QStringLiteral("report"),
+         QStringLiteral("Print length, frequency, verdict and worst point of every link. The layer "
+                        "may be left out then.")},
+    });
+    addGlobalOptions(parser);
+}
+
+Result<LinkRequest> readLinkRequest(const QCommandLineParser &parser)
+{
+    LinkRequest request;
+    const Result<links::LinkRepresentation> look = readLinkOptions(parser);
+    if (!look)
+        return look.error();
+    request.look = look.value();
+    const QString terrain = QStringLiteral("terrain");
+    if (parser.isSet(terrain))
+        request.terrain = parser.value(terrain);
+    request.report = parser.isSet(QStringLiteral("report"));
+    if (!request.report && parser.value(QStringLiteral("output")).isEmpty())
+        return Error{
+            QString(), QStringLiteral("no output file given (-o OUT.lay), and no --report"), {}};
+    return request;
+}
+
+/// Reads the links through the very connection that the layer carries; judges them for a report.
+Result<geodata::LinkCheck> readLinks(const links::LinkLayerInput &input, const LinkRequest &wanted,
+                                     bool quiet)
+{
+    geodata::LinkJudging judging;
+    judging.rule = {wanted.look.fresnelShare / 100.0, wanted.look.kFactor};
+    if (wanted.report)
+        judging.terrainFile = input.project.terrainFile;
+    ProgressLine line(dico_label("MESS_CLI_READING_LINKS", "Reading the links"), !quiet);
+    return geodata::readLinkCheck(
+        sites::resolvedConnection(links::linkQuery(input), input.project.directory()), judging,
+        [&line](double share) {
+            line.show(share);
+            return true;
+        });
+}
+
+void warnOfTerrain(const geodata::LinkCheck &check, const QString &terrain)
+{
+    if (terrain.isEmpty())
+        printError(dico_label("MESS_CLI_NO_TERRAIN",
+                              "no terrain is known, so that no link is judged: give --terrain"));
+    else if (!check.terrainProblem.isEmpty())
+        printError(oneLine(terrain + QStringLiteral(": ") +
+                           links::terrainProblemText(check.terrainProblem)));
+}
+
+QString resultText(const geodata::LinkCheck &check, const LinkRequest &wanted, QJsonObject layer,
+                   bool json)
+{
+    if (!json)
+        return wanted.report ? linkReportText(check) : QString();
+    layer.insert(QStringLiteral("placedLinks"), check.placement.placed);
+    if (wanted.report) {
+        const QJsonObject report = linkReportJson(check);
+        for (auto entry = report.begin(); entry != report.end(); ++entry)
+            layer.insert(entry.key(), entry.value());
+    }
+    return QString::fromUtf8(QJsonDocument(layer).toJson());
+}
+
+ExitStatus makeLayer(const links::LinkLayerInput &input, const LayerRequest &request,
+                     const LinkRequest &wanted, const GlobalOptions &options)
+{
+    const Result<geodata::LinkCheck> check = readLinks(input, wanted, options.quiet);
+    if (!check)
+        return refuse({check.error().key, check.error().text, request.table});
+    const LayerOutcome outcome = layerOutcome(check.value().placement, check.value().problems);
+    if (outcome.placed == 0)
+        return refuse({QStringLiteral("MESS_CLI_NO_LINK_PLACED"),
+                       QStringLiteral("none of its links can be placed; \"vltlayers info --link\" "
+                                      "tells why"),
+                       request.table});
+    if (!request.output.isEmpty()) {
+        if (const auto failed = writeLayer(request.output, links::makeLinkLayer(input)))
+            return *failed;
+    }
+
+    const sites::SiteSystems systems{input.sourceSrs, input.targetSrs};
+    if (!options.quiet) {
+        warnOfLayer(outcome, systems);
+        if (wanted.report)
+            warnOfTerrain(check.value(), input.project.terrainFile);
+    }
+    return printResult(
+        resultText(check.value(), wanted, layerJson(request, outcome, systems), options.json));
+}
+
+ExitStatus runParsed(const QCommandLineParser &parser, const LinkRequest &wanted,
+                     const GlobalOptions &options, const Surroundings &surroundings)
+{
+    sites::ProjectContext project = surroundings.project;
+    if (wanted.terrain) {
+        project.terrainFile =
+            wanted.terrain->isEmpty() ? QString() : QFileInfo(*wanted.terrain).absoluteFilePath();
+        const QString problem = project.terrainFile.isEmpty()
+                                    ? QString()
+                                    : geodata::terrainProblem(project.terrainFile);
+        if (!problem.isEmpty())
+            return refuse({QString(), links::terrainProblemText(problem), *wanted.terrain});
+    }
+    const auto read = readLayerRequest(parser, surroundings, {project.terrainFile});
+    if (const ExitStatus *stopped = std::get_if<ExitStatus>(&read))
+        return *stopped;
+    const auto &request = std::get<LayerRequest>(read);
+
+    links::LinkLayerInput input;
+    input.file = links::readLinkFileInfo(QFileInfo(request.table).absoluteFilePath(), project);
+    if (input.file.error)
+        return refuse({input.file.error->key, input.file.error->text, request.table},
+                      input.file.errorDetail);
+    const sites::SiteSystems systems = chosenSystems(parser, input.file.systems);
+    input.sourceSrs = systems.source;
+    input.targetSrs = systems.target;
+    input.pylons = request.pylons;
+    input.links = wanted.look;
+    input.catalogues = request.catalogues;
+    input.project = project;
+    input.installDir = surroundings.installDir;
+    input.language = surroundings.language;
+    return makeLayer(input, request, wanted, options);
+}
+
+} // namespace
+
+ExitStatus runLink(const QStringList &arguments)
+{
+    QCommandLineParser parser;
+    describe(parser);
+    const Result<GlobalOptions> options = parseArguments(parser, arguments, 1);
+    if (const auto answered = answerHelp(parser, options, Examples))
+        return *answered;
+    const Result<LinkRequest> wanted = readLinkRequest(parser);
+    if (!wanted)
+        return refuseUsage(wanted.error().text);
+    if (const auto numbers = readSiteNumbers(parser); !numbers)
+        return refuseUsage(numbers.error().text);
+
+    const Result<Surroundings> surroundings = startUp(options.value());
+    if (!surroundings)
+        return refuse(surroundings.error());
+    return runParsed(parser, wanted.value(), options.value(), surroundings.value());
+}
+
+} // namespace vlt::batch

@@ -1,0 +1,139 @@
+#include "batch/LinkOptions.h"
+
+#include "batch/NumberOptions.h"
+
+#include <QRegularExpression>
+
+#include <array>
+
+namespace vlt::batch {
+
+namespace {
+
+using links::LinkRepresentation;
+using links::LinkStyle;
+
+constexpr std::array<LinkStyle, 3> Styles = {LinkStyle::Line, LinkStyle::Tube,
+                                             LinkStyle::Billboard};
+
+const std::vector<NumberOption<LinkRepresentation>> &numberOptions()
+{
+    static const std::vector<NumberOption<LinkRepresentation>> options = {
+        {QStringLiteral("link-width"),
+         QStringLiteral("Width of the links, pixels for lines, else metres"),
+         &LinkRepresentation::width, links::LinkWidthLimits},
+        {QStringLiteral("fresnel-zone"),
+         QStringLiteral("Number of the Fresnel zone that is drawn, 0 for none"),
+         &LinkRepresentation::fresnelZone,
+         {0, links::FresnelZoneLimits.most}},
+        {QStringLiteral("fresnel-share"),
+         QStringLiteral("Share of the zone's radius that is drawn, and of the first zone's that "
+                        "has to be free, in per cent"),
+         &LinkRepresentation::fresnelShare, links::FresnelShareLimits},
+        {QStringLiteral("fresnel-transparency"),
+         QStringLiteral("Transparency of the Fresnel zone in per cent"),
+         &LinkRepresentation::fresnelTransparency, links::FresnelTransparencyLimits},
+        {QStringLiteral("k-factor"),
+         QStringLiteral("Factor of the earth's radius, 1.33333 being that of a usual atmosphere"),
+         &LinkRepresentation::kFactor, links::KFactorLimits},
+    };
+    return options;
+}
+
+QString styleName(LinkStyle style)
+{
+    return links::linkStyleText(style).toLower();
+}
+
+QString styleNames()
+{
+    QStringList names;
+    for (const LinkStyle style : Styles)
+        names << styleName(style);
+    return names.join(QLatin1Char('|'));
+}
+
+std::optional<LinkStyle> styleOf(const QString &text)
+{
+    for (const LinkStyle style : Styles) {
+        if (text.compare(styleName(style), Qt::CaseInsensitive) == 0)
+            return style;
+    }
+    return std::nullopt;
+}
+
+Error wrongValue(const QString &option, const QString &wanted, const QString &value)
+{
+    return Error{QString(),
+                 QStringLiteral("--%1 is %2, not \"").arg(option, wanted) + value +
+                     QLatin1Char('"'),
+                 {}};
+}
+
+/// Sets the colour from "rrggbb", or "rrggbbaa" where an alpha is wanted.
+std::optional<Error> readColor(const QCommandLineParser &parser, const QString &option,
+                               bool withAlpha, QColor &color)
+{
+    static const QRegularExpression hex(QStringLiteral("\\A([0-9a-fA-F]{6})([0-9a-fA-F]{2})?\\z"));
+    if (!parser.isSet(option))
+        return std::nullopt;
+    const QString text = parser.value(option);
+    const QRegularExpressionMatch match = hex.match(text);
+    if (!match.hasMatch() || (!withAlpha && match.hasCaptured(2)))
+        return wrongValue(option,
+                          withAlpha ? QStringLiteral("RRGGBB or RRGGBBAA in hexadecimal digits")
+                                    : QStringLiteral("RRGGBB in hexadecimal digits"),
+                          text);
+    color = QColor(QLatin1Char('#') + match.captured(1));
+    if (match.hasCaptured(2))
+        color.setAlpha(match.captured(2).toInt(nullptr, 16));
+    return std::nullopt;
+}
+
+} // namespace
+
+void addLinkOptions(QCommandLineParser &parser)
+{
+    const LinkRepresentation firstRun;
+    parser.addOptions({
+        {QStringLiteral("link-style"),
+         QStringLiteral("How links are drawn (default %1).").arg(styleName(firstRun.style)),
+         styleNames(), styleName(firstRun.style)},
+        {QStringLiteral("link-color"),
+         QStringLiteral("Color of the links (default %1).").arg(firstRun.color.name().mid(1)),
+         QStringLiteral("RRGGBB[AA]")},
+        {QStringLiteral("color-by-clearance"),
+         QStringLiteral("Judged links take the color of their verdict.")},
+        {QStringLiteral("fresnel-color"),
+         QStringLiteral("Color of the Fresnel zone (default %1).")
+             .arg(firstRun.fresnelColor.name().mid(1)),
+         QStringLiteral("RRGGBB")},
+    });
+    addNumberOptions(parser, numberOptions());
+}
+
+Result<LinkRepresentation> readLinkOptions(const QCommandLineParser &parser)
+{
+    LinkRepresentation representation;
+    const QString style = parser.value(QStringLiteral("link-style"));
+    const auto wanted = styleOf(style);
+    if (!wanted)
+        return wrongValue(QStringLiteral("link-style"), styleNames(), style);
+    representation.style = *wanted;
+    representation.colorByClearance = parser.isSet(QStringLiteral("color-by-clearance"));
+    if (const auto error =
+            readColor(parser, QStringLiteral("link-color"), true, representation.color))
+        return *error;
+    if (const auto error =
+            readColor(parser, QStringLiteral("fresnel-color"), false, representation.fresnelColor))
+        return *error;
+    if (const auto error = readNumberOptions(parser, numberOptions(), representation))
+        return *error;
+    if (representation.fresnelZone == 0) {
+        representation.showFresnel = false;
+        representation.fresnelZone = LinkRepresentation().fresnelZone;
+    }
+    return representation;
+}
+
+} // namespace vlt::batch

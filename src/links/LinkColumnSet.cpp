@@ -1,0 +1,124 @@
+#include "links/LinkColumnSet.h"
+
+#include "geodata/LayerInfo.h"
+#include "sites/ColumnPatterns.h"
+#include "sites/SiteColumnSet.h"
+
+#include <functional>
+#include <vector>
+
+namespace vlt::links {
+
+namespace {
+
+struct Column
+{
+    QRegularExpression pattern;
+    std::function<QString &(LinkColumnSet &)> member;
+};
+
+/// How the ends of a link are marked in column names.
+struct EndMarks
+{
+    QString number; ///< of the numbered layout
+    QString words;  ///< of the layouts with names
+    LinkEndColumns LinkColumnSet::*end;
+};
+
+/// A quantity of one end: `numbered` in the numbered layout, else `name` after or before the end's
+/// mark, and then anything after a blank.
+QString quantity(const QString &numbered, const QString &name)
+{
+    return QLatin1Char('(') + numbered + QStringLiteral(R"()|(((Site\s+)?(%2)(\s+|\.))") + name +
+           QStringLiteral(")|(") + name + QStringLiteral(R"(\s+\((%2)\))|()") + name +
+           QStringLiteral(R"(\s+(%2)))(\s+.*)?)");
+}
+
+/// The names of one quantity, by its place in the set; "%1" stands for the end's number, "%2" for
+/// its words.
+struct EndPattern
+{
+    QString LinkEndColumns::*member;
+    QString pattern;
+};
+
+const std::vector<EndPattern> &endPatterns()
+{
+    static const std::vector<EndPattern> patterns = {
+        {&LinkEndColumns::identifier,
+         QStringLiteral(R"((Call\s+sign\s+%1)|((Site\s+)?(%2)((\s+|\.)(Name|ID))?))"
+                        R"(|((Name|ID)\s+\((%2)\))|((Name|ID|Antenna)\s+(%2)))")},
+        {&LinkEndColumns::longitude,
+         quantity(QStringLiteral(R"(Longitude\s+%1)"), QStringLiteral("(X|Longitude)"))},
+        {&LinkEndColumns::latitude,
+         quantity(QStringLiteral(R"(Latitude\s+%1)"), QStringLiteral("(Y|Latitude)"))},
+        {&LinkEndColumns::height,
+         quantity(QStringLiteral(R"(Antenna\s+height\s+\(m\)\s+%1)"), QStringLiteral("Height"))},
+        {&LinkEndColumns::frequency,
+         quantity(QStringLiteral(R"(TX1\s+\(MHz\)\s+%1)"), QStringLiteral("Frequency"))},
+        {&LinkEndColumns::azimuth,
+         quantity(QStringLiteral(R"(Azimuth\s+\(.*\)\s+%1)"), QStringLiteral("Azimuth"))},
+        {&LinkEndColumns::tilt,
+         quantity(QStringLiteral(R"(Tilt\s+\(.*\)\s+%1)"), QStringLiteral("Tilt"))},
+        {&LinkEndColumns::dx,
+         quantity(QStringLiteral(R"(DX\s+\(%1\)\s+\(m\))"), QStringLiteral("DX"))},
+        {&LinkEndColumns::dy,
+         quantity(QStringLiteral(R"(DY\s+\(%1\)\s+\(m\))"), QStringLiteral("DY"))},
+    };
+    return patterns;
+}
+
+std::vector<Column> makeColumns()
+{
+    const auto whole = [](const QString &pattern, QString LinkColumnSet::*member) {
+        return Column{sites::wholeName(pattern),
+                      [member](LinkColumnSet &set) -> QString & { return set.*member; }};
+    };
+    std::vector<Column> columns = {
+        whole(QStringLiteral("Name"), &LinkColumnSet::name),
+        whole(QStringLiteral(R"(Frequency Band(\s+\(\w+\))?)"), &LinkColumnSet::band),
+        whole(QStringLiteral(R"((Path\s+)?Length(\s+\(\w+\))?)"), &LinkColumnSet::length)};
+    for (const EndMarks &marks :
+         {EndMarks{QStringLiteral("1"), QStringLiteral("A|TX"), &LinkColumnSet::tx},
+          EndMarks{QStringLiteral("2"), QStringLiteral("B|RX"), &LinkColumnSet::rx}}) {
+        for (const EndPattern &pattern : endPatterns()) {
+            columns.push_back({sites::wholeName(pattern.pattern.arg(marks.number, marks.words)),
+                               [end = marks.end, member = pattern.member](
+                                   LinkColumnSet &set) -> QString & { return set.*end.*member; }});
+        }
+    }
+    return columns;
+}
+
+/// The unit that stands first in a name; of two that start at the same place, the longer one.
+QString unitIn(const QString &name, const QString &unitsLongestFirst)
+{
+    return QRegularExpression(unitsLongestFirst).match(name).captured();
+}
+
+} // namespace
+
+LinkColumnSet recogniseLinkColumns(const QStringList &fieldNames)
+{
+    static const std::vector<Column> columns = makeColumns();
+    LinkColumnSet found;
+    for (const QString &field : fieldNames) {
+        for (const Column &column : columns) {
+            QString &member = column.member(found);
+            if (member.isEmpty() && column.pattern.match(field).hasMatch())
+                member = field;
+        }
+    }
+    found.frequencyUnit = unitIn(found.band, QStringLiteral("KHz|MHz|GHz|THz|Hz"));
+    found.lengthUnit = unitIn(found.length, QStringLiteral("miles|feet|km|m"));
+    return found;
+}
+
+LinkColumnSet recogniseLinkColumns(const QString &connection, const QString &projectDirectory)
+{
+    const Result<QStringList> fields =
+        geodata::readFieldNames(sites::resolvedConnection(connection, projectDirectory), 0);
+    return fields ? recogniseLinkColumns(fields.value()) : LinkColumnSet();
+}
+
+} // namespace vlt::links

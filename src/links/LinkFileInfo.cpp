@@ -1,0 +1,52 @@
+#include "links/LinkFileInfo.h"
+
+#include "geodata/LayerInfo.h"
+
+namespace vlt::links {
+
+namespace {
+
+/// Layer of a link table that holds the ends.
+constexpr int EndLayer = 1;
+
+sites::TableKind linkTable()
+{
+    return {QStringLiteral("link:"),
+            {QStringLiteral("MESS_ERR_OPEN_LINK"),
+             QStringLiteral("This file can't be open as a link file"),
+             {}},
+            {QStringLiteral("MESS_ERR_EMPTY_LINK"), QStringLiteral("This link file is empty"), {}}};
+}
+
+} // namespace
+
+QString linkEndNameField(const QString &format)
+{
+    const QString tool = format.toLower();
+    if (tool.startsWith(QLatin1String("asset")))
+        return QStringLiteral("Site name");
+    if (tool.startsWith(QLatin1String("atoll")))
+        return QStringLiteral("NAME");
+    return QStringLiteral("Site ID");
+}
+
+LinkFileInfo readLinkFileInfo(const QString &path, const sites::ProjectContext &project)
+{
+    LinkFileInfo info;
+    const QStringList fields = sites::readTableFileInfo(linkTable(), path, project, info);
+    if (!info.valid)
+        return info;
+
+    info.columns = recogniseLinkColumns(fields);
+    info.linkNameField = info.columns.name;
+    info.nameField = linkEndNameField(info.format);
+    const Result<geodata::LayerInfo> ends =
+        geodata::readLayerInfo(QStringLiteral("link:") + path, EndLayer);
+    if (ends) {
+        info.endLayerName = ends.value().layerName;
+        info.hasNameField = ends.value().fields.contains(info.nameField, Qt::CaseInsensitive);
+    }
+    return info;
+}
+
+} // namespace vlt::links

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "links/LinkColumnSet.h"
+#include "sites/TableFileInfo.h"
+
+namespace vlt::links {
+
+/// What the add-link page knows of the table that the user picked.
+struct LinkFileInfo : sites::TableFileInfo
+{
+    QString endLayerName;  ///< layer of the link ends
+    QString linkNameField; ///< column whose value names a link; empty where there is none
+    LinkColumnSet columns; ///< those that were recognised
+};
+
+/// Opens `path` as a link table and tells what it holds and which systems go with it in the
+/// project. An empty path gives an empty value without an error; `nameField` is the column of the
+/// ends' layer: "Site name", "NAME" or "Site ID".
+///
+/// Errors of the value: MESS_ERR_OPEN_LINK or MESS_ERR_EMPTY_LINK.
+LinkFileInfo readLinkFileInfo(const QString &path, const sites::ProjectContext &project);
+
+/// The column of the link ends that names a site, by the format of the table.
+QString linkEndNameField(const QString &format);
+
+} // namespace vlt::links

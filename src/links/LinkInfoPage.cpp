@@ -1,0 +1,111 @@
+#include "links/LinkInfoPage.h"
+
+#include "sites/InfoPageParts.h"
+#include "text/Templates.h"
+
+#include <QRegularExpression>
+
+#include <array>
+
+namespace vlt::links {
+
+namespace {
+
+/// A row of the table of the two ends.
+struct EndRow
+{
+    const char *placeholder;
+    QString LinkEndColumns::*member;
+    const char16_t *french;
+    const char16_t *english;
+};
+
+constexpr std::array<EndRow, 9> EndRows = {{
+    {"__ID__", &LinkEndColumns::identifier, u"Site", u"Site"},
+    {"__LON__", &LinkEndColumns::longitude, u"Longitude", u"Longitude"},
+    {"__LAT__", &LinkEndColumns::latitude, u"Latitude", u"Latitude"},
+    {"__HEIGHT__", &LinkEndColumns::height, u"Hauteur", u"Height"},
+    {"__FREQUENCY__", &LinkEndColumns::frequency, u"Fr\u00e9quence", u"Frequency"},
+    {"__AZIMUTH__", &LinkEndColumns::azimuth, u"Azimuth", u"Azimuth"},
+    {"__TILT__", &LinkEndColumns::tilt, u"Inclinaison", u"Tilt"},
+    {"__DX__", &LinkEndColumns::dx, u"DX", u"DX"},
+    {"__DY__", &LinkEndColumns::dy, u"DY", u"DY"},
+}};
+
+/// A value of the whole link as a cell: its label, the field reference and the unit.
+QString linkCell(const QString &label, const QString &column, const QString &unit)
+{
+    if (column.isEmpty())
+        return {};
+    const QString unitText = unit.isEmpty() ? QString() : QLatin1Char(' ') + unit;
+    return QStringLiteral("<td><small>") + label + QStringLiteral("</small> ") +
+           sites::fieldReference(column) + unitText + QStringLiteral("</td>");
+}
+
+/// The unit that a column's name has in parentheses, such as "m" in "Antenna height (m) 1"; not the
+/// end, as in "Height (A)".
+QString unitIn(const QString &column)
+{
+    static const QRegularExpression unit(QStringLiteral(R"(\((?!(?:A|B|TX|RX)\))([^()\d]+)\))"),
+                                         QRegularExpression::CaseInsensitiveOption);
+    return unit.match(column).captured(1);
+}
+
+/// The head of a row of the two ends, with their unit where they have the same.
+QString rowHead(const QString &label, const QString &tx, const QString &rx)
+{
+    const QString unit = unitIn(tx.isEmpty() ? rx : tx);
+    const bool isCommon = !unit.isEmpty() && (rx.isEmpty() || unitIn(rx) == unit);
+    return isCommon ? label + QStringLiteral(" (") + unit + QLatin1Char(')') : label;
+}
+
+/// What stands for a link in the heading: its name, else its ends.
+QString heading(const LinkColumnSet &columns)
+{
+    QStringList references;
+    for (const QString &column : columns.name.isEmpty()
+                                     ? QStringList{columns.tx.identifier, columns.rx.identifier}
+                                     : QStringList{columns.name}) {
+        if (!column.isEmpty())
+            references << sites::fieldReference(column);
+    }
+    return references.join(QStringLiteral(" \u2013 "));
+}
+
+} // namespace
+
+QString fillLinkInfoPage(const QString &pageTemplate, const QString &language,
+                         const LinkColumnSet &columns)
+{
+    const bool french = sites::isFrench(language);
+    const auto label = [french](const char16_t *inFrench, const char16_t *inEnglish) {
+        return QString::fromUtf16(french ? inFrench : inEnglish);
+    };
+    std::vector<text::Replacement> fill = {
+        {QStringLiteral("__NAME__"), heading(columns)},
+        {QStringLiteral("__BAND__"), linkCell(label(u"Bande de fr\u00e9quences", u"Frequency band"),
+                                              columns.band, columns.frequencyUnit)},
+        {QStringLiteral("__LENGTH__"),
+         linkCell(label(u"Longueur", u"Length"), columns.length, columns.lengthUnit)}};
+    for (const EndRow &row : EndRows) {
+        const QString &tx = columns.tx.*row.member;
+        const QString &rx = columns.rx.*row.member;
+        fill.emplace_back(
+            QString::fromLatin1(row.placeholder),
+            sites::tableRow(rowHead(label(row.french, row.english), tx, rx), {tx, rx}));
+    }
+    return text::replacePlaceholders(pageTemplate, fill);
+}
+
+Result<QString> buildLinkInfoHtml(const QString &connection, const QString &language,
+                                  const QString &installDir, const QString &projectDirectory)
+{
+    const Result<QString> page =
+        sites::readInfoTemplate(installDir, QStringLiteral("links_infos"), language);
+    if (!page)
+        return page.error();
+    return fillLinkInfoPage(page.value(), language,
+                            recogniseLinkColumns(connection, projectDirectory));
+}
+
+} // namespace vlt::links

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "links/LinkColumnSet.h"
+#include "platform/Result.h"
+
+namespace vlt::links {
+
+/// The HTML page that shows a link: the installation's template for the language ("fr", English
+/// otherwise) with the table's recognised columns as field references, a column name in square
+/// brackets, and their units.
+///
+/// @param connection        table connection; where it cannot be opened no column is recognised
+/// @param projectDirectory  what a relative path in the connection is relative to
+/// @par Errors   MESS_MISSING_CONF_FILE with the template's path.
+Result<QString> buildLinkInfoHtml(const QString &connection, const QString &language,
+                                  const QString &installDir, const QString &projectDirectory);
+
+/// The template with the columns filled in.
+QString fillLinkInfoPage(const QString &pageTemplate, const QString &language,
+                         const LinkColumnSet &columns);
+
+} // namespace vlt::links

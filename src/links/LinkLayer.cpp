@@ -1,0 +1,135 @@
+#include "links/LinkLayer.h"
+
+#include "language/VltLanguageManager.h"
+#include "links/LinkInfoPage.h"
+#include "links/VerdictText.h"
+#include "text/Numbers.h"
+
+#include <QDir>
+
+#include <array>
+
+namespace vlt::links {
+
+namespace {
+
+/// A pylon of the demonstration, metres.
+struct DemoPylon
+{
+    int x;
+    int y;
+    double azimuthDeg; ///< in which the next one is seen
+};
+
+// 800 m from one to the next, sides of 640 and 480 m: further than sectors usually reach.
+constexpr std::array<DemoPylon, 3> DemoPylons = {
+    {{0, 0, 53.1301}, {640, 480, 126.87}, {1280, 0, 0}}};
+/// Of the antennas of each link.
+constexpr std::array<int, 2> DemoHeightsM = {23, 20};
+/// Over so short a distance the zone of a microwave is as thin as the line: at this frequency the
+/// first one is 24 m wide to either side.
+constexpr int DemoFrequencyMHz = 100;
+
+sites::PylonQuery queryOf(const LinkLayerInput &input)
+{
+    return {QStringLiteral("link"), input.sourceSrs, input.targetSrs, input.file.filePath,
+            linkQueryPart(input.links)};
+}
+
+QString dish(int heightM, double azimuthDeg, const QString &color)
+{
+    return QStringLiteral("&dish=%1 ").arg(heightM) + text::g6(azimuthDeg) +
+           QStringLiteral(" 0 0 ") + color;
+}
+
+QString demoPylons(const sites::SiteRepresentation &look, const sites::SectorColorSet &colors)
+{
+    const QString properties = text::g6(look.pylonWidth) + QLatin1Char(' ') +
+                               sites::sectorProperties(look).join(QLatin1Char(' '));
+    QString text;
+    int dishes = 0;
+    const auto nextColor = [&] { return sites::colorText(colors, dishes++, look.transparency); };
+    for (std::size_t i = 0; i < DemoPylons.size(); ++i) {
+        text += QStringLiteral("&pylon=%1 %2 0 25 ").arg(DemoPylons[i].x).arg(DemoPylons[i].y) +
+                properties;
+        if (i > 0)
+            text += dish(DemoHeightsM[i - 1], DemoPylons[i - 1].azimuthDeg + 180, nextColor());
+        if (i < DemoHeightsM.size())
+            text += dish(DemoHeightsM[i], DemoPylons[i].azimuthDeg, nextColor());
+    }
+    return text;
+}
+
+/// With the colours of verdicts the first link shows that of a free path, the second one that of a
+/// path which is cut.
+QString demoLinks(const LinkRepresentation &links)
+{
+    constexpr std::array<linkpath::Verdict, 2> Verdicts = {linkpath::Verdict::Clear,
+                                                           linkpath::Verdict::Obstructed};
+    QString text;
+    for (std::size_t i = 0; i < DemoHeightsM.size(); ++i) {
+        const DemoPylon &from = DemoPylons[i];
+        const DemoPylon &to = DemoPylons[i + 1];
+        text += QStringLiteral("&link=%1 %2 %3 %4 %5 %3 %6")
+                    .arg(from.x)
+                    .arg(from.y)
+                    .arg(DemoHeightsM[i])
+                    .arg(to.x)
+                    .arg(to.y)
+                    .arg(DemoFrequencyMHz);
+        if (links.colorByClearance) {
+            QColor color = colorOfVerdict(Verdicts[i]);
+            color.setAlpha(links.color.alpha());
+            text += QLatin1Char(' ') + sites::colorText(color, 0);
+        }
+    }
+    return text;
+}
+
+} // namespace
+
+QString linkQuery(const LinkLayerInput &input)
+{
+    return sites::buildPylonQuery(queryOf(input), input.pylons, input.catalogues, input.project);
+}
+
+QString placingConnection(const LinkLayerInput &input)
+{
+    return sites::placingConnection(queryOf(input));
+}
+
+Result<sites::SiteLayer> makeLinkLayer(const LinkLayerInput &input)
+{
+    const QString query = linkQuery(input);
+    return sites::fillLayer(
+        input.installDir, QStringLiteral("template_links.lay"),
+        {{QStringLiteral("__TITLE__"), dico_label("MESS_LINKS", "Links")},
+         {QStringLiteral("__LINK_URL__"), query},
+         {QStringLiteral("__LAYER__"), input.file.layerName},
+         {QStringLiteral("__LINK_FIELD__"), input.file.linkNameField},
+         {QStringLiteral("__END_LAYER__"), input.file.endLayerName},
+         {QStringLiteral("__SITE_FIELD__"), input.file.nameField}},
+        buildLinkInfoHtml(query, input.language, input.installDir, input.project.directory()));
+}
+
+QString buildPreviewLinkUrl(const sites::SiteRepresentation &pylons,
+                            const LinkRepresentation &links,
+                            const sites::SiteCatalogues &catalogues, const QString &installDir)
+{
+    const sites::PylonType *type = sites::chosenPylonType(pylons, catalogues);
+    const sites::SectorColorSet *colors = sites::chosenColorSet(pylons, catalogues);
+    if (!type || !colors)
+        return {};
+
+    return QStringLiteral("inline://parametric/query?object=link&data_folder=") +
+           QDir(installDir).absolutePath() + QLatin1Char('/') + sites::PylonFolder +
+           QStringLiteral("&pylon_type=") + type->type + demoPylons(pylons, *colors) +
+           QStringLiteral("&transmitter_scale=%1&lod=%2 %3")
+               .arg(pylons.antennaSize)
+               .arg(pylons.symbolicDistance)
+               .arg(pylons.realisticDistance) +
+           demoLinks(links) + QLatin1Char('&') + linkParameters(links).join(QLatin1Char('&')) +
+           QStringLiteral(".inlinepylonurl");
+}
+
+} // namespace vlt::links

@@ -1,0 +1,54 @@
+#include "links/VerdictText.h"
+
+#include "geodata/LinkCheck.h"
+#include "language/VltLanguageManager.h"
+#include "linkpath/TerrainRaster.h"
+
+namespace vlt::links {
+
+QString verdictText(linkpath::Verdict verdict)
+{
+    switch (verdict) {
+    case linkpath::Verdict::Clear:
+        return dico_label("MESS_CLEAR", "clear");
+    case linkpath::Verdict::Marginal:
+        return dico_label("MESS_MARGINAL", "marginal");
+    case linkpath::Verdict::Obstructed:
+        return dico_label("MESS_OBSTRUCTED", "obstructed");
+    case linkpath::Verdict::Unknown:
+        break;
+    }
+    return dico_label("MESS_UNJUDGED", "not judged");
+}
+
+QColor colorOfVerdict(linkpath::Verdict verdict)
+{
+    const auto [red, green, blue] = linkpath::verdictColor(verdict);
+    return QColor(red, green, blue);
+}
+
+namespace {
+
+QString reasonText(const QString &reason)
+{
+    if (reason == QLatin1String(linkpath::TerrainNotLocal))
+        return dico_label("MESS_TERRAIN_NOT_LOCAL", "it is not a local file");
+    if (reason == QLatin1String(linkpath::TerrainNotPlaced))
+        return dico_label("MESS_TERRAIN_NOT_PLACED",
+                          "it has no band of heights, no place or no coordinate system");
+    return reason;
+}
+
+} // namespace
+
+QString terrainProblemText(const QString &problem)
+{
+    if (problem == geodata::TerrainElsewhere)
+        return dico_label("MESS_TERRAIN_ELSEWHERE", "no way leads from the coordinate system of "
+                                                    "the links to that of the terrain");
+    return dico_label("MESS_TERRAIN_UNREADABLE",
+                      "the terrain file cannot be read as a georeferenced raster") +
+           QStringLiteral(" (") + reasonText(problem) + QLatin1Char(')');
+}
+
+} // namespace vlt::links

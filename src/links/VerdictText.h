@@ -1,0 +1,20 @@
+#pragma once
+
+#include "linkpath/Clearance.h"
+
+#include <QColor>
+#include <QString>
+
+namespace vlt::links {
+
+/// A verdict in a word or two, in the chosen language.
+QString verdictText(linkpath::Verdict verdict);
+
+/// The colour that stands for a verdict.
+QColor colorOfVerdict(linkpath::Verdict verdict);
+
+/// LinkCheck::terrainProblem as a sentence in the chosen language; what a library says of the file
+/// stays in its words, behind it.
+QString terrainProblemText(const QString &problem);
+
+} // namespace vlt::links

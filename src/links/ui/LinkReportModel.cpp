@@ -1,0 +1,185 @@
+#include "links/ui/LinkReportModel.h"
+
+#include "links/VerdictText.h"
+#include "text/RichText.h"
+
+#include <QIcon>
+#include <QPainter>
+#include <QPixmap>
+
+#include <algorithm>
+#include <limits>
+
+namespace vlt::links {
+
+namespace {
+
+constexpr double MetresPerKm = 1000;
+constexpr int PerCent = 100;
+
+QIcon verdictIcon(linkpath::Verdict verdict)
+{
+    constexpr int Size = 12;
+    constexpr int Density = 2; // sharp on dense screens too
+    QPixmap picture(Size * Density, Size * Density);
+    picture.setDevicePixelRatio(Density);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(colorOfVerdict(verdict));
+    painter.drawEllipse(0, 0, Size, Size);
+    return picture;
+}
+
+/// What numbers are sorted by; what is not known comes after all that is.
+double number(const geodata::LinkReport &link, int column)
+{
+    constexpr double Unknown = std::numeric_limits<double>::infinity();
+    switch (column) {
+    case LinkReportModel::Row:
+        return static_cast<double>(link.row);
+    case LinkReportModel::Length:
+        return link.lengthM.value_or(Unknown);
+    case LinkReportModel::Frequency:
+        return link.frequencyMHz.value_or(Unknown);
+    case LinkReportModel::Verdict:
+        return -static_cast<double>(link.clearance.verdict); // the worst first
+    default:
+        return link.clearance.worst ? link.clearance.worst->freeShare() : Unknown;
+    }
+}
+
+QString name(const geodata::LinkReport &link, int column)
+{
+    if (column == LinkReportModel::Name)
+        return link.name;
+    return column == LinkReportModel::EndA ? link.endA : link.endB;
+}
+
+bool isName(int column)
+{
+    return column >= LinkReportModel::Name && column <= LinkReportModel::EndB;
+}
+
+} // namespace
+
+void LinkReportModel::setLinks(const QList<geodata::LinkReport> &links)
+{
+    beginResetModel();
+    m_links = links;
+    sortLinks();
+    endResetModel();
+}
+
+int LinkReportModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(m_links.size());
+}
+
+int LinkReportModel::columnCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : ColumnCount;
+}
+
+QVariant LinkReportModel::data(const QModelIndex &index, int role) const
+{
+    const geodata::LinkReport &link = m_links[index.row()];
+    const int column = index.column();
+    switch (role) {
+    case Qt::DisplayRole:
+        return text(link, column);
+    case Qt::ToolTipRole:
+        return vlt::text::asRichText(text(link, column).toString());
+    case Qt::DecorationRole:
+        return column == Verdict ? QVariant(verdictIcon(link.clearance.verdict)) : QVariant();
+    case Qt::TextAlignmentRole:
+        return QVariant(
+            Qt::AlignVCenter |
+            (column == Length || column == Frequency ? Qt::AlignRight : Qt::AlignLeading));
+    default:
+        return {};
+    }
+}
+
+QVariant LinkReportModel::text(const geodata::LinkReport &link, int column) const
+{
+    constexpr int KmDecimals = 3;
+    switch (column) {
+    case Row:
+        return link.row;
+    case Length:
+        return link.lengthM ? m_locale.toString(*link.lengthM / MetresPerKm, 'f', KmDecimals)
+                            : QString();
+    case Frequency:
+        return link.frequencyMHz
+                   ? m_locale.toString(*link.frequencyMHz, 'f', QLocale::FloatingPointShortest)
+                   : QString();
+    case Verdict:
+        return verdictText(link.clearance.verdict);
+    case Worst:
+        return link.clearance.worst ? worstText(*link.clearance.worst) : QString();
+    default:
+        return name(link, column);
+    }
+}
+
+QString LinkReportModel::worstText(const linkpath::WorstPoint &worst) const
+{
+    const QString place = m_locale.toString(worst.distanceM / MetresPerKm, 'f', 2);
+    const QString metres = m_locale.toString(qAbs(worst.clearanceM), 'f', 1);
+    if (worst.clearanceM < 0)
+        return tr("%1 km from A, terrain %2 m above the line", "MESS_WORST_CUT").arg(place, metres);
+    return tr("%1 km from A, %2 m free (%3 %)", "MESS_WORST_FREE")
+        .arg(place, metres, m_locale.toString(worst.freeShare() * PerCent, 'f', 0));
+}
+
+QVariant LinkReportModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal || (role != Qt::DisplayRole && role != Qt::ToolTipRole))
+        return {};
+    const bool isWhole = role == Qt::ToolTipRole; // short heads leave room for the worst points
+    switch (section) {
+    case Row:
+        return tr("Row", "MESS_ROW");
+    case Name:
+        return tr("Link", "MESS_LINK");
+    case EndA:
+        return isWhole ? tr("End A", "MESS_END_A") : QStringLiteral("A");
+    case EndB:
+        return isWhole ? tr("End B", "MESS_END_B") : QStringLiteral("B");
+    case Length:
+        return isWhole ? tr("Length (km)", "MESS_LENGTH_KM") : QStringLiteral("km");
+    case Frequency:
+        return isWhole ? tr("Frequency (MHz)", "MESS_FREQUENCY_MHZ") : QStringLiteral("MHz");
+    case Verdict:
+        return tr("Verdict", "MESS_VERDICT");
+    default:
+        return tr("Worst point", "MESS_WORST_POINT");
+    }
+}
+
+void LinkReportModel::sort(int column, Qt::SortOrder order)
+{
+    m_sortColumn = column;
+    m_sortOrder = order;
+    Q_EMIT layoutAboutToBeChanged();
+    sortLinks();
+    Q_EMIT layoutChanged();
+}
+
+void LinkReportModel::sortLinks()
+{
+    using geodata::LinkReport;
+    const int column = m_sortColumn;
+    const bool isDescending = m_sortOrder == Qt::DescendingOrder;
+    const auto isBefore = [column](const LinkReport &a, const LinkReport &b) {
+        return isName(column) ? name(a, column).localeAwareCompare(name(b, column)) < 0
+                              : number(a, column) < number(b, column);
+    };
+    std::stable_sort(m_links.begin(), m_links.end(), [&](const LinkReport &a, const LinkReport &b) {
+        return isDescending ? isBefore(b, a) : isBefore(a, b);
+    });
+}
+
+} // namespace vlt::links

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "geodata/LinkCheck.h"
+
+#include <QAbstractTableModel>
+#include <QLocale>
+
+namespace vlt::links {
+
+/// The links of a table, one a row: name, ends, length, frequency, verdict and worst point. Sorts
+/// by what the texts stand for.
+class LinkReportModel : public QAbstractTableModel
+{
+    Q_OBJECT
+
+public:
+    enum Column { Row, Name, EndA, EndB, Length, Frequency, Verdict, Worst, ColumnCount };
+
+    using QAbstractTableModel::QAbstractTableModel;
+
+    /// Takes the links in the order of the file; they are shown in the order last asked for.
+    void setLinks(const QList<geodata::LinkReport> &links);
+
+    int rowCount(const QModelIndex &parent = {}) const override;
+    int columnCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    void sort(int column, Qt::SortOrder order) override;
+
+private:
+    QVariant text(const geodata::LinkReport &link, int column) const;
+    QString worstText(const linkpath::WorstPoint &worst) const;
+    void sortLinks();
+
+    QLocale m_locale;
+    QList<geodata::LinkReport> m_links;
+    int m_sortColumn = Row;
+    Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
+};
+
+} // namespace vlt::links

@@ -1,0 +1,113 @@
+#include "links/ui/VltAddLinkPage.h"
+
+#include "links/ui/VltLinkDetails.h"
+#include "links/ui/VltLinkProperties.h"
+
+namespace {
+
+const QString SettingsPrefix = QStringLiteral("AddLinkPage");
+constexpr double PerCent = 100;
+
+} // namespace
+
+VltAddLinkPage::VltAddLinkPage(QWidget *wizard, SharedParameters &parameters,
+                               const QString &installDir, const QString &language)
+    : VltTablePage(wizard, parameters, installDir, language, linkKind())
+    , m_panelLinks(new VltLinkProperties(this))
+    , m_panelDetails(new VltLinkDetails(this))
+{
+    addPanel(m_panelLinks);
+    addDetails(m_panelDetails);
+    connect(m_panelLinks, &VltLinkProperties::parameterChanged, this,
+            &VltAddLinkPage::updatePreview);
+    VltAddLinkPage::restoreSettings();
+}
+
+vlt::sites::TablePageKind VltAddLinkPage::linkKind()
+{
+    vlt::sites::TablePageKind kind;
+    kind.name = QStringLiteral("Link");
+    kind.settingsPrefix = SettingsPrefix;
+    kind.fileKey = QStringLiteral("LinkFile");
+    kind.srsKind = QStringLiteral("link");
+    kind.layerBaseName = QStringLiteral("links");
+    kind.looksAtMiddle = true;
+    kind.nearDistanceM = 80;
+    kind.nearHeightM = 18;
+    kind.title = tr("Link layer", "MESS_LINK_LAYER_TITLE");
+    kind.fileGroup = tr("Link file", "MESS_LINK_FILE");
+    kind.fileLabel = tr("Links file to display", "MESS_LINK_FILE2");
+    kind.noFile =
+        tr("No links file defined.\nSelect the links file to display.", "MESS_NO_LINK_DEFINED");
+    kind.selectFile = tr("Select the link file to use", "MESS_SELECT_LINK_FILE");
+    kind.files = tr("Link files", "MESS_LINK_FILES");
+    kind.reading = tr("Reading the link file...", "MESS_READING_LINKS");
+    kind.dragText =
+        tr("Drag this icon into\nVeltaro Builder\nto add the link layer\n", "MESS_DRAG_ICON_LINK");
+    kind.dragName = tr("Link layer to drag into the builder", "MESS_DRAG_NAME_LINK");
+    kind.ownLayer = {QStringLiteral("m_pwPbOwnLinks"), tr("Links of the layer", "MESS_OWN_LINKS"),
+                     tr("Look at the links of the layer just written", "MESS_TIP_OWN_LINKS"),
+                     QStringLiteral(":/images/own-links.png"),
+                     tr("Loading the links...", "MESS_LOADING_LINKS")};
+    return kind;
+}
+
+void VltAddLinkPage::restoreSettings()
+{
+    VltTablePage::restoreSettings();
+    m_panelLinks->loadSettings(SettingsPrefix);
+}
+
+void VltAddLinkPage::saveSettings()
+{
+    VltTablePage::saveSettings();
+    m_panelLinks->saveSettings(SettingsPrefix);
+}
+
+void VltAddLinkPage::setStacked(bool stacked)
+{
+    VltTablePage::setStacked(stacked);
+    m_panelLinks->setStacked(stacked);
+}
+
+void VltAddLinkPage::readTable(const QString &path)
+{
+    m_file = waitForInfo(path, vlt::links::readLinkFileInfo);
+}
+
+void VltAddLinkPage::showDetails()
+{
+    m_panelDetails->showFile(m_file);
+}
+
+vlt::links::LinkLayerInput VltAddLinkPage::layerInput() const
+{
+    vlt::links::LinkLayerInput input;
+    fillInput(input);
+    input.file = m_file;
+    input.pylons = pylonPanel().representation();
+    input.links = m_panelLinks->representation();
+    return input;
+}
+
+void VltAddLinkPage::checkRows()
+{
+    const vlt::links::LinkLayerInput input = layerInput();
+    vlt::geodata::LinkJudging judging;
+    judging.terrainFile = project().terrainFile;
+    judging.rule.share = input.links.fresnelShare / PerCent;
+    judging.rule.kFactor = input.links.kFactor;
+    m_panelDetails->check(vlt::links::placingConnection(input), judging);
+}
+
+vlt::Result<vlt::sites::SiteLayer> VltAddLinkPage::makeLayer() const
+{
+    return vlt::links::makeLinkLayer(layerInput());
+}
+
+QString VltAddLinkPage::demonstrationUrl() const
+{
+    const vlt::links::LinkLayerInput input = layerInput();
+    return vlt::links::buildPreviewLinkUrl(input.pylons, input.links, input.catalogues,
+                                           installDir());
+}

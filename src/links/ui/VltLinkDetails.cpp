@@ -1,0 +1,94 @@
+#include "links/ui/VltLinkDetails.h"
+
+#include "links/LinkColumnDescription.h"
+#include "links/VerdictText.h"
+#include "links/ui/LinkReportModel.h"
+
+#include <QHeaderView>
+#include <QTableView>
+
+#include <array>
+
+using vlt::geodata::LinkCheck;
+using vlt::geodata::LinkReport;
+using vlt::linkpath::Verdict;
+
+VltLinkDetails::VltLinkDetails(QWidget *parent)
+    : VltTableDetails(parent)
+    , m_linkModel(new vlt::links::LinkReportModel(this))
+    , m_pwTvLinks(addTable(m_linkModel, QStringLiteral("m_pwTvLinks"), tr("Links", "MESS_LINKS")))
+{
+    // the worst points are long texts: they are scrolled to rather than cut
+    m_pwTvLinks->horizontalHeader()->setStretchLastSection(false);
+    m_pwTvLinks->setSortingEnabled(true);
+    m_pwTvLinks->sortByColumn(vlt::links::LinkReportModel::Row, Qt::AscendingOrder);
+}
+
+void VltLinkDetails::showFile(const vlt::links::LinkFileInfo &file)
+{
+    showTable(vlt::links::describeColumns(file.columns), {});
+}
+
+void VltLinkDetails::check(const QString &connection, const vlt::geodata::LinkJudging &judging)
+{
+    const QString what = QStringLiteral("%1 %2\n")
+                             .arg(judging.rule.share)
+                             .arg(judging.rule.kFactor, 0, 'g', QLocale::FloatingPointShortest) +
+                         judging.terrainFile + QLatin1Char('\n') + connection;
+    checkOnce<LinkCheck>(
+        what,
+        [connection, judging](const vlt::geodata::Progress &progress) {
+            return vlt::geodata::readLinkCheck(connection, judging, progress);
+        },
+        [this, hasTerrain = !judging.terrainFile.isEmpty()](const LinkCheck &check) {
+            checkEnded(check, hasTerrain);
+        });
+}
+
+void VltLinkDetails::showLinks(const QList<LinkReport> &links)
+{
+    m_linkModel->setLinks(links);
+    setTableCount(m_pwTvLinks, tr("Links", "MESS_LINKS"), links.size());
+}
+
+void VltLinkDetails::forgetRows()
+{
+    showLinks({});
+    showRemark({});
+}
+
+void VltLinkDetails::checkEnded(const LinkCheck &check, bool hasTerrain)
+{
+    showLinks(check.links);
+    showOutcome(check.problems, check.placement);
+    if (!hasTerrain || !check.terrainProblem.isEmpty()) {
+        const QString reason =
+            hasTerrain ? vlt::links::terrainProblemText(check.terrainProblem)
+                       : tr("the project has no terrain", "MESS_PROJECT_WITHOUT_TERRAIN");
+        showRemark(tr("The links are not judged: %1", "MESS_LINKS_NOT_JUDGED").arg(reason));
+        return;
+    }
+    std::array<int, 4> counts = {};
+    for (const LinkReport &link : check.links)
+        ++counts[static_cast<std::size_t>(link.clearance.verdict)];
+    const auto count = [&counts](Verdict verdict) {
+        return counts[static_cast<std::size_t>(verdict)];
+    };
+    QString text = tr("%1 clear, %2 marginal, %3 obstructed", "MESS_VERDICT_COUNTS")
+                       .arg(count(Verdict::Clear))
+                       .arg(count(Verdict::Marginal))
+                       .arg(count(Verdict::Obstructed));
+    if (count(Verdict::Unknown) > 0)
+        text += tr(", %1 not judged", "MESS_UNJUDGED_COUNT").arg(count(Verdict::Unknown));
+    showRemark(text);
+}
+
+QString VltLinkDetails::nonePlacedText() const
+{
+    return tr("no link can be placed", "MESS_NO_LINK_PLACED");
+}
+
+QString VltLinkDetails::placedText() const
+{
+    return tr("links placed: %1 of %2", "MESS_LINKS_PLACED");
+}

@@ -1,0 +1,101 @@
+#pragma once
+
+#include "geodata/LayerProblems.h"
+#include "sites/ColumnDescription.h"
+#include "sites/ui/CheckRunner.h"
+
+#include <QTimer>
+#include <QWidget>
+
+class QAbstractItemModel;
+class QLabel;
+class QProgressBar;
+class QPushButton;
+class QStandardItemModel;
+class QTabWidget;
+class QTableView;
+class QToolButton;
+
+/// What was understood of a table: the recognised columns and the rows with problems, folded away
+/// until the user asks for them. The rows are checked in the background; the user may cancel that.
+class VltTableDetails : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit VltTableDetails(QWidget *parent = nullptr);
+
+    /// Shows nothing and hides; a running check ends.
+    void clear();
+
+protected:
+    /// Shows what is known of a table without reading its rows.
+    void showTable(const QList<vlt::sites::ColumnDescription> &columns,
+                   const QList<vlt::Problem> &problems);
+
+    /// Starts to check the rows of the table shown, unless the same check was started already.
+    ///
+    /// @param what      tells one check from another
+    /// @param read      runs on another thread and must own all that it uses
+    /// @param finished  takes the outcome
+    template<typename Check>
+    void checkOnce(const QString &what,
+                   std::function<vlt::Result<Check>(const vlt::geodata::Progress &)> read,
+                   std::function<void(const Check &)> finished)
+    {
+        if (beginsCheck(what))
+            m_runner.start(vlt::sites::CheckRunner::reading<Check>(
+                std::move(read), std::move(finished),
+                [this](const QString &reason) { checkFailed(reason); }));
+    }
+
+    /// What all checks tell; ends the check.
+    void showOutcome(const vlt::geodata::LayerProblems &problems,
+                     const vlt::geodata::LayerPlacement &placement);
+
+    /// A further tab with a table of its own.
+    QTableView *addTable(QAbstractItemModel *model, const QString &objectName, const QString &name);
+    void setTableCount(const QTableView *table, const QString &name, qint64 count);
+
+    /// A line that stays visible while the tables are folded away; nothing for an empty text.
+    void showRemark(const QString &text);
+
+    /// Shows the tab of the problems and unfolds.
+    void unfoldProblems();
+
+private:
+    /// Nothing is known of the rows any more.
+    virtual void forgetRows() {}
+    virtual QString nonePlacedText() const = 0;
+    /// "sites placed: %1 of %2"
+    virtual QString placedText() const = 0;
+
+    void buildHeading();
+    void buildTables();
+    void fold(bool open);
+    void showColumns(const QList<vlt::sites::ColumnDescription> &columns);
+    void showProblems(const QList<vlt::Problem> &listed, qint64 count);
+    void showSummary(const QString &rows, bool warns);
+    void fitColumns();
+    bool beginsCheck(const QString &what);
+    void showProgress(bool shown);
+    void endCheck();
+    void stopChecking();
+    void checkFailed(const QString &reason);
+
+    vlt::sites::CheckRunner m_runner;
+    QTimer m_patience; ///< a check that ends within it shows no progress
+    QToolButton *m_pwTbFold;
+    QLabel *m_pwLblWarning;
+    QProgressBar *m_pwPrChecking;
+    QPushButton *m_pwPbCancel;
+    QLabel *m_pwLblRemark;
+    QTabWidget *m_pwTwDetails;
+    QStandardItemModel *m_columnModel;
+    QStandardItemModel *m_problemModel;
+    QTableView *m_pwTvColumns = nullptr;
+    QTableView *m_pwTvProblems = nullptr;
+    QList<vlt::Problem> m_fileProblems; ///< those known without reading the rows
+    int m_recognised = 0;
+    QString m_checked; ///< what the last check was of
+};

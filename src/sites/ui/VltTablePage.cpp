@@ -1,0 +1,325 @@
+#include "sites/ui/VltTablePage.h"
+
+#include "platform/Settings.h"
+#include "sites/TableTexts.h"
+#include "sites/ui/VltSrsSettings.h"
+#include "sites/ui/VltTableDetails.h"
+#include "ui_TablePage.h"
+#include "wizard/base/DraggableIcon.h"
+#include "wizard/base/Messages.h"
+#include "wizard/base/TemporaryLayerFile.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QKeyEvent>
+#include <QScreen>
+#include <QSettings>
+#include <QStyle>
+
+namespace {
+
+const QString LastUsedDirKey = QStringLiteral("LastUsedDir");
+
+/// The file and why it was refused, as two lines.
+QString refusalDetail(const QString &path, const QString &reason)
+{
+    const QString translated = vlt::sites::tableText(reason);
+    return translated.isEmpty() ? path : path + QLatin1Char('\n') + translated;
+}
+
+} // namespace
+
+VltTablePage::VltTablePage(QWidget *wizard, SharedParameters &parameters, const QString &installDir,
+                           const QString &language, const vlt::sites::TablePageKind &kind)
+    : BasePage(wizard, parameters, installDir, language)
+    , m_kind(kind)
+    , m_ui(std::make_unique<Ui::TablePage>())
+{
+    m_ui->setupUi(this);
+    setFocusProxy(m_ui->m_pwLeTable); // where the keyboard starts
+    setTitle(m_kind.title);
+    nameWidgets();
+    createPanels();
+    connectWidgets();
+}
+
+VltTablePage::~VltTablePage() = default;
+
+void VltTablePage::nameWidgets()
+{
+    m_ui->m_pwGbTable->setObjectName(QStringLiteral("m_pwGb%1s").arg(m_kind.name));
+    m_ui->m_pwLblTable->setObjectName(QStringLiteral("m_pwLbl") + m_kind.name);
+    m_ui->m_pwLeTable->setObjectName(QStringLiteral("m_pwLe") + m_kind.name);
+    m_ui->m_pwPbTable->setObjectName(QStringLiteral("m_pwPb") + m_kind.name);
+    m_ui->m_pwGbTable->setTitle(m_kind.fileGroup);
+    m_ui->m_pwLblTable->setText(m_kind.fileLabel);
+    m_ui->m_pwPbTable->setToolTip(m_kind.selectFile);
+    m_ui->m_pwLblFileInfo->setText(m_kind.noFile);
+    m_ui->m_pwLblDragText->setText(m_kind.dragText);
+    m_ui->m_pwGbPreview->setOwnLayer(m_kind.ownLayer);
+}
+
+void VltTablePage::createPanels()
+{
+    m_panelSrs = new VltSrsSettings(m_kind.srsKind, m_ui->m_pwGbSrs);
+    m_ui->m_ptVbSrs->addWidget(m_panelSrs);
+    m_panelProperties = new VltSiteProperties(installDir(), language(), m_ui->m_pwInput);
+    m_ui->m_ptVbProperties->addWidget(m_panelProperties);
+
+    constexpr QSize DragIconSize(72, 72);
+    const QIcon dragIcon(QStringLiteral(":/images/drag-drop-icon.png"));
+    m_pwDragIcon = new DraggableIcon(dragIcon.pixmap(DragIconSize, qApp->devicePixelRatio()), this);
+    m_pwDragIcon->setObjectName(QStringLiteral("m_pwDragIcon"));
+    m_pwDragIcon->setAccessibleName(m_kind.dragName);
+    m_pwDragIcon->setToolTip(tr("Drag the layer file into the builder; Ctrl+C copies it, Ctrl+S "
+                                "saves it under another name",
+                                "MESS_TIP_DRAG"));
+    m_ui->m_ptHbDrag->addWidget(m_pwDragIcon);
+    setDropHighlightWidgets({m_ui->m_pwLblTable});
+    vlt::snapshot::addReaderDirectory(installDir() + QStringLiteral("/driver"));
+}
+
+void VltTablePage::connectWidgets()
+{
+    connect(m_ui->m_pwPbTable, &QPushButton::clicked, this, &VltTablePage::openTable);
+    connect(m_ui->m_pwLeTable, &QLineEdit::editingFinished, this, [this] {
+        const QString path = m_ui->m_pwLeTable->text();
+        if (path != m_pathRead && QFileInfo(path).isFile())
+            readFileInfo(path, false);
+    });
+    connect(m_panelSrs, &VltSrsSettings::parameterChanged, this, &VltTablePage::updatePreview);
+    connect(m_panelProperties, &VltSiteProperties::parameterChanged, this,
+            &VltTablePage::updatePreview);
+    connect(m_ui->m_pwGbPreview, &VltLayerPreview::symbolicWanted, this,
+            &VltTablePage::previewSymbolic);
+    connect(m_ui->m_pwGbPreview, &VltLayerPreview::preciseWanted, this,
+            &VltTablePage::previewPrecise);
+    m_ui->m_pwLeTable->installEventFilter(this);
+}
+
+void VltTablePage::addDetails(VltTableDetails *details)
+{
+    m_panelDetails = details;
+    m_ui->m_ptVbTable->addWidget(details);
+}
+
+void VltTablePage::addPanel(QWidget *panel)
+{
+    m_ui->m_ptVbProperties->insertWidget(m_ui->m_ptVbProperties->count() - 1, panel);
+}
+
+QString VltTablePage::sourceSrs() const
+{
+    return m_panelSrs->sourceSrs();
+}
+
+QString VltTablePage::targetSrs() const
+{
+    return m_panelSrs->targetSrs();
+}
+
+/// Return takes the typed path and goes no further: the wizard would press one of its buttons.
+bool VltTablePage::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_ui->m_pwLeTable && event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent *>(event)->key();
+        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+            readFileInfo(m_ui->m_pwLeTable->text(), false);
+            return true;
+        }
+    }
+    return BasePage::eventFilter(watched, event);
+}
+
+void VltTablePage::setStacked(bool stacked)
+{
+    m_panelProperties->setStacked(stacked);
+}
+
+/// The input side scrolls upwards and downwards only, unless the screen is too narrow for it.
+void VltTablePage::fitInputWidth()
+{
+    constexpr double ComfortableShare = 0.57;
+    constexpr int WindowMargins = 80;
+    const int screenWidth = screen()->availableSize().width();
+    const auto wanted = [this] {
+        m_ui->m_pwInput->layout()->activate();
+        return m_ui->m_pwInput->minimumSizeHint().width() +
+               style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    };
+    setStacked(false);
+    setStacked(wanted() > ComfortableShare * screenWidth);
+    const int most = screenWidth - m_ui->m_ptVbResult->minimumSize().width() - WindowMargins;
+    m_ui->m_pwSaInput->setMinimumWidth(qMin(wanted(), most));
+}
+
+void VltTablePage::initializePage()
+{
+    BasePage::initializePage();
+    fitInputWidth();
+    m_project = vlt::sites::readProjectContext(field(QStringLiteral("ProjectName")).toString());
+    m_isActive = true;
+    readFileInfo(m_ui->m_pwLeTable->text(), true);
+}
+
+bool VltTablePage::validatePage()
+{
+    return vlt::messages::confirmed(
+        this, tr("Voulez-vous quitter l'application ?", "MESS_QUEST_QUIT_APP"));
+}
+
+QString VltTablePage::settingsKey(const QString &name) const
+{
+    return m_kind.settingsPrefix + QLatin1Char('/') + name;
+}
+
+void VltTablePage::restoreSettings()
+{
+    const auto settings = vlt::platform::wizardSettings();
+    m_fileDir = settings->value(LastUsedDirKey).toString();
+    m_ui->m_pwLeTable->setText(settings->value(settingsKey(m_kind.fileKey)).toString());
+    m_panelProperties->loadSettings(m_kind.settingsPrefix);
+    m_panelSrs->loadSettings(m_kind.settingsPrefix);
+}
+
+void VltTablePage::saveSettings()
+{
+    const auto settings = vlt::platform::wizardSettings();
+    if (!m_fileDir.isEmpty())
+        settings->setValue(LastUsedDirKey, m_fileDir);
+    settings->setValue(settingsKey(m_kind.fileKey), m_ui->m_pwLeTable->text());
+    m_panelProperties->saveSettings(m_kind.settingsPrefix);
+    m_panelSrs->saveSettings(m_kind.settingsPrefix);
+}
+
+void VltTablePage::droppedFile(const QString &path)
+{
+    readFileInfo(path, false);
+}
+
+void VltTablePage::openTable()
+{
+    const QString path = QFileDialog::getOpenFileName(
+        this, m_kind.selectFile, m_fileDir,
+        QStringLiteral("%1 (*.xls *.xlsx *.xml *.csv)").arg(m_kind.files));
+    if (!path.isEmpty())
+        readFileInfo(path, false);
+}
+
+void VltTablePage::readFileInfo(const QString &path, bool quiet)
+{
+    if (m_isReading) // a box of this very read took the focus out of the line
+        return;
+    m_isReading = true;
+    m_pathRead = path;
+    readTable(path);
+    if (!file().fileDir.isEmpty())
+        m_fileDir = file().fileDir;
+    showFile();
+    if (file().error && !quiet)
+        vlt::messages::critical(this, *file().error, vlt::messages::errorTitle(),
+                                refusalDetail(path, file().errorDetail));
+    createLayerFile();
+    m_isReading = false;
+}
+
+void VltTablePage::showFile()
+{
+    const vlt::sites::TableFileInfo &read = file();
+    // a refused drop leaves the path of the line as it was: the reason names its file itself
+    m_ui->m_pwLblReason->setText(
+        tr("%1: %2", "MESS_FILE_REASON")
+            .arg(QFileInfo(m_pathRead).fileName(), vlt::sites::tableText(read.errorDetail)));
+    m_ui->m_pwLblReason->setVisible(!read.errorDetail.isEmpty());
+    if (!read.valid) {
+        m_pwDragIcon->setLayerFile({});
+        m_ui->m_pwGbPreview->leaveLayer();
+        m_panelDetails->clear();
+        m_ui->m_pwLblFileInfo->setText(m_kind.noFile);
+        return;
+    }
+    m_ui->m_pwLblFileInfo->setText(read.description);
+    m_ui->m_pwLeTable->setText(read.filePath);
+    if (!read.systems.source.isEmpty())
+        m_panelSrs->setSourceSrs(read.systems.source);
+    if (!read.systems.target.isEmpty())
+        m_panelSrs->setTargetSrs(read.systems.target);
+    showDetails();
+}
+
+void VltTablePage::updatePreview()
+{
+    createLayerFile();
+}
+
+/// Changes that arrive while a message box is open are folded into one further run.
+void VltTablePage::createLayerFile()
+{
+    m_createAgain = true;
+    if (m_isCreating)
+        return;
+    m_isCreating = true;
+    while (m_createAgain) {
+        m_createAgain = false;
+        m_pwDragIcon->setLayerFile({});
+        if (m_isActive && file().valid) {
+            showDemonstration();
+            writeLayerFile();
+        }
+    }
+    m_ui->m_pwLblDragText->setEnabled(m_pwDragIcon->isEnabled());
+    m_ui->m_pwGbPreview->setLayerFile(m_pwDragIcon->layerFile(), m_project.projectPath);
+    m_isCreating = false;
+}
+
+void VltTablePage::showDemonstration()
+{
+    if (!m_ui->m_pwGbPreview->hasView())
+        return;
+    const auto scene = vlt::snapshot::readScene(demonstrationUrl());
+    if (scene)
+        m_ui->m_pwGbPreview->setDemonstration(scene.value());
+    else
+        vlt::messages::critical(
+            this, {{}, QStringLiteral("The pylon url didn't return a valid node !"), {}});
+}
+
+void VltTablePage::previewSymbolic()
+{
+    constexpr double BeyondPrecise = 500;
+    const double distanceM = m_panelProperties->representation().realisticDistance + BeyondPrecise;
+    if (m_kind.looksAtMiddle)
+        m_ui->m_pwGbPreview->lookAtDemonstration(distanceM);
+    else
+        m_ui->m_pwGbPreview->lookAtDemonstration(distanceM, 0);
+}
+
+void VltTablePage::previewPrecise()
+{
+    m_ui->m_pwGbPreview->lookAtDemonstration(m_kind.nearDistanceM, m_kind.nearHeightM);
+}
+
+void VltTablePage::writeLayerFile()
+{
+    checkRows();
+    const vlt::Result<vlt::sites::SiteLayer> layer = makeLayer();
+    if (!layer) {
+        vlt::messages::critical(this, layer.error());
+        return;
+    }
+    if (layer.value().warning && !m_missingPageTold)
+        vlt::messages::warning(this, {layer.value().warning->key, layer.value().warning->text, {}},
+                               tr("Error !!!", "MESS_ERREUR"));
+    m_missingPageTold = layer.value().warning.has_value();
+
+    const QString path = vlt::wizard::temporaryLayerFileName(m_kind.layerBaseName);
+    const auto written =
+        vlt::sites::writeSiteLayer(path, layer.value().text, vlt::platform::Access::UserOnly);
+    if (!written) {
+        vlt::messages::critical(this, written.error());
+        return;
+    }
+    m_pwDragIcon->setLayerFile(path);
+    saveSettings();
+}

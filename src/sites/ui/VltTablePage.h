@@ -1,0 +1,138 @@
+#pragma once
+
+#include "sites/ProjectContext.h"
+#include "sites/SiteLayer.h"
+#include "sites/TableFileInfo.h"
+#include "sites/ui/TablePageKind.h"
+#include "sites/ui/VltSiteProperties.h"
+#include "wizard/base/BasePage.h"
+#include "wizard/base/BusyWait.h"
+
+#include <functional>
+#include <memory>
+
+namespace Ui {
+class TablePage;
+}
+class DraggableIcon;
+class VltSrsSettings;
+class VltTableDetails;
+
+/// A page on which a table becomes a layer: the table and what was understood of it, its coordinate
+/// systems, the look of its pylons, a preview and the icon of the finished layer. The layer is
+/// written anew after every change.
+///
+/// A page of a kind of table makes its panels in its constructor, calls addDetails() and then
+/// restoreSettings().
+class VltTablePage : public BasePage
+{
+    Q_OBJECT
+
+public:
+    VltTablePage(QWidget *wizard, SharedParameters &parameters, const QString &installDir,
+                 const QString &language, const vlt::sites::TablePageKind &kind);
+    ~VltTablePage() override;
+
+    void initializePage() override;
+    bool validatePage() override;
+    int nextId() const override { return -1; }
+
+    void saveSettings() override;
+    void restoreSettings() override;
+    void droppedFile(const QString &path) override;
+
+    /// Opens a table, shows what it is and makes the layer of it.
+    ///
+    /// @param quiet  without message boxes
+    void readFileInfo(const QString &path, bool quiet);
+
+public Q_SLOTS:
+    /// Asks for a table.
+    void openTable();
+
+    /// Makes the layer again, as after a change of a value.
+    void updatePreview();
+
+    /// The demonstration from beyond the distance of the precise representation.
+    void previewSymbolic();
+    /// The demonstration from near.
+    void previewPrecise();
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+    /// Takes the panel that tells what was understood of the table.
+    void addDetails(VltTableDetails *details);
+
+    /// Takes a panel that goes above that of the pylons.
+    void addPanel(QWidget *panel);
+
+    /// Reads a table on another thread; an empty value where the user stops it.
+    template<typename Info>
+    Info waitForInfo(const QString &path,
+                     Info (*read)(const QString &, const vlt::sites::ProjectContext &))
+    {
+        return vlt::wizard::waitForValue<Info>(
+                   this, m_kind.reading,
+                   [path, read, project = m_project] { return read(path, project); })
+            .value_or(Info());
+    }
+
+    /// The part of a layer's input that all kinds have.
+    template<typename Input>
+    void fillInput(Input &input) const
+    {
+        input.sourceSrs = sourceSrs();
+        input.targetSrs = targetSrs();
+        input.catalogues = pylonPanel().catalogues();
+        input.project = m_project;
+        input.installDir = installDir();
+        input.language = language();
+    }
+
+    const VltSiteProperties &pylonPanel() const { return *m_panelProperties; }
+    const vlt::sites::ProjectContext &project() const { return m_project; }
+    QString sourceSrs() const;
+    QString targetSrs() const;
+
+    /// Puts groups that lie side by side above each other, or back.
+    virtual void setStacked(bool stacked);
+
+private:
+    /// Reads the table and keeps what it is.
+    virtual void readTable(const QString &path) = 0;
+    /// What the table is that was read last.
+    virtual const vlt::sites::TableFileInfo &file() const = 0;
+    /// Shows the details of a valid table.
+    virtual void showDetails() = 0;
+    /// Starts to check the rows of the table.
+    virtual void checkRows() = 0;
+    virtual vlt::Result<vlt::sites::SiteLayer> makeLayer() const = 0;
+    /// Name under which the scene library loads the demonstration.
+    virtual QString demonstrationUrl() const = 0;
+
+    void nameWidgets();
+    void createPanels();
+    void connectWidgets();
+    void fitInputWidth();
+    void showFile();
+    void createLayerFile();
+    void showDemonstration();
+    void writeLayerFile();
+    QString settingsKey(const QString &name) const;
+
+    vlt::sites::TablePageKind m_kind;
+    std::unique_ptr<Ui::TablePage> m_ui;
+    VltSiteProperties *m_panelProperties = nullptr;
+    VltSrsSettings *m_panelSrs = nullptr;
+    VltTableDetails *m_panelDetails = nullptr;
+    DraggableIcon *m_pwDragIcon = nullptr;
+    vlt::sites::ProjectContext m_project;
+    QString m_fileDir;
+    QString m_pathRead; ///< what readFileInfo() was last given
+    bool m_isActive = false;
+    bool m_isReading = false;
+    bool m_isCreating = false;
+    bool m_createAgain = false;
+    bool m_missingPageTold = false;
+};

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QColor>
+#include <QPushButton>
+
+/// A button that shows a colour and asks for another one when it is pressed.
+class ColorButton : public QPushButton
+{
+    Q_OBJECT
+
+public:
+    explicit ColorButton(QWidget *parent = nullptr);
+
+    const QColor &color() const { return m_color; }
+    /// Emits nothing.
+    void setColor(const QColor &color);
+
+    /// What the colour is for: title of the dialog and, with the colour, the accessible name.
+    void setPurpose(const QString &purpose);
+
+    /// Whether the user may choose a translucent colour.
+    void setAlphaOffered(bool offered) { m_isAlphaOffered = offered; }
+
+Q_SIGNALS:
+    /// The user chose another colour.
+    void colorChanged();
+
+private:
+    void chooseColor();
+    void tellColor();
+
+    QColor m_color;
+    QString m_purpose;
+    bool m_isAlphaOffered = false;
+};

@@ -1,0 +1,214 @@
+#include "ProgramRun.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The first link goes 0.05 degrees to the north: 5557 m on the meridian at this latitude.
+const QByteArray Table = "Name,Frequency Band (GHz),Site A,A Longitude,A Latitude,A Height (m),"
+                         "Site B,B Longitude,B Latitude,B Height (m)\n"
+                         "North,6,Alpha,2.0,45.0,30,Beta,2.0,45.05,30\n"
+                         "High,6,Alpha,2.0,45.0,,Gamma,2.05,45.0,40\n"
+                         "Lost,6,Alpha,2.0,45.0,30,Delta,east,45.0,20\n";
+
+const QByteArray Geographic =
+    "GEOGCS[\"WGS 84\",DATUM[\"WGS_1984\",SPHEROID[\"WGS 84\",6378137,298.257223563]],"
+    "PRIMEM[\"Greenwich\",0],UNIT[\"degree\",0.0174532925199433]]";
+
+/// Ground at 100 m with a ridge across the middle of the first link, 0.01 degrees wide.
+QByteArray terrain(int ridgeM)
+{
+    QByteArray grid = "ncols 100\nnrows 100\nxllcorner 1.98\nyllcorner 44.98\ncellsize 0.001\n"
+                      "NODATA_value -9999\n";
+    for (int row = 0; row < 100; ++row) {
+        const bool isRidge = row >= 50 && row < 60; // 45.02 to 45.03
+        grid += (QByteArray::number(isRidge ? ridgeM : 100) + ' ').repeated(100) + '\n';
+    }
+    return grid;
+}
+
+} // namespace
+
+class tst_LinkCommand : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_program = std::make_unique<ProgramRun>();
+        writeFile(path(u"l.csv"_s), Table);
+        writeFile(path(u"c.gvw"_s), "DEM Layers\n");
+        writeFile(path(u"hills.asc"_s), terrain(128));
+        writeFile(path(u"hills.prj"_s), Geographic);
+        writeFile(path(u"elsewhere/old.lay"_s), "old");
+    }
+
+    void judgesLinksOverATerrain_data()
+    {
+        QTest::addColumn<int>("ridge");
+        QTest::addColumn<QString>("options");
+        QTest::addColumn<QString>("verdict");
+        QTest::addColumn<double>("clearance");
+
+        // In the middle the earth bulges 0.454 m (2778.5 m squared over 2 * 4/3 * 6371 km) and the
+        // zone's radius at 6 GHz is 8.33 m (half the root of 0.049965 m * 5557 m).
+        QTest::newRow("more than the radius") << 120 << u""_s << u"clear"_s << 9.546;
+        QTest::newRow("19 % of the radius") << 128 << u""_s << u"marginal"_s << 1.546;
+        QTest::newRow("less is asked for") << 128 << u"--fresnel-share 18"_s << u"clear"_s << 1.546;
+        // 6.058 m of bulge; at the ridge's southern edge 556 m from the middle only 5.82 m
+        QTest::newRow("a small earth") << 120 << u"--k-factor 0.1"_s << u"marginal"_s << 3.942;
+        QTest::newRow("the line is cut") << 131 << u""_s << u"obstructed"_s << qQNaN();
+    }
+
+    void judgesLinksOverATerrain()
+    {
+        QFETCH(int, ridge);
+        QFETCH(QString, options);
+        QFETCH(double, clearance);
+        writeFile(path(u"hills.asc"_s), terrain(ridge));
+
+        const Run run = start(u"link ../l.csv --terrain ../hills.asc --report --json "_s + options);
+
+        QCOMPARE(run.errors, QByteArray("vltlayers: rows that could not be placed: 1\n"));
+        const QJsonObject told = QJsonDocument::fromJson(run.output).object();
+        const QJsonArray links = told.value(u"links"_s).toArray();
+        QCOMPARE(links.size(), 3);
+        const QJsonObject north = links.at(0).toObject();
+        QCOMPARE(north.value(u"row"_s).toInt(), 2);
+        QCOMPARE(north.value(u"endB"_s).toString(), u"Beta"_s);
+        QCOMPARE_LE(std::abs(north.value(u"lengthM"_s).toDouble() - 5557), 1.0);
+        QCOMPARE(north.value(u"frequencyMHz"_s).toDouble(), 6000.0);
+        QTEST(north.value(u"verdict"_s).toString(), "verdict");
+        const QJsonObject worst = north.value(u"worst"_s).toObject();
+        QCOMPARE_LE(std::abs(worst.value(u"distanceM"_s).toDouble() - 2778), 560.0);
+        if (!qIsNaN(clearance)) {
+            QCOMPARE_LE(std::abs(worst.value(u"clearanceM"_s).toDouble() - clearance), 0.02);
+            QCOMPARE_LE(std::abs(worst.value(u"freeShare"_s).toDouble() - clearance / 8.33), 0.005);
+        }
+        QCOMPARE(links.at(1).toObject().value(u"verdict"_s).toString(), u"unknown"_s);
+        QCOMPARE(links.at(2).toObject().value(u"placed"_s).toBool(true), false);
+        QCOMPARE(told.value(u"verdicts"_s).toObject().value(u"unknown"_s).toInt(), 2);
+    }
+
+    void printsAReportForPeopleBesideTheLayer()
+    {
+        const Run run = start(u"link ../l.csv --terrain ../hills.asc --report -o o.lay"_s);
+
+        QCOMPARE(run.status, 0);
+        const QList<QByteArray> lines = run.output.split('\n');
+        QCOMPARE(lines.at(1).simplified(),
+                 QByteArray("2 North Alpha Beta marginal 5.557 6000 2.778 1.5 19"));
+        QCOMPARE(lines.at(3).simplified(),
+                 QByteArray("4 Lost Alpha Delta not placed - 6000 - - -"));
+        QVERIFY(lines.contains("marginal        : 1"));
+        const QByteArray layer = readFile(path(u"elsewhere/o.lay"_s));
+        QVERIFY(layer.contains("<veltaroLayer kind=\"links\" version=\"1\">"));
+        QCOMPARE(element(layer, "linkField"), QByteArray("Name"));
+        QCOMPARE(element(layer, "endLayer"), QByteArray("l ends"));
+    }
+
+    void writesEveryPanelValueAndTheTerrain()
+    {
+        const Run run = start(
+            u"link ../l.csv --project ../c.gvw --terrain ../hills.asc -o o.lay --target-srs "
+            "EPSG:2154 --pylon-width 3 --link-style Billboard --link-width 2.5 --link-color "
+            "10203040 --color-by-clearance --fresnel-zone 2 --fresnel-share 80 --fresnel-color "
+            "aabbcc --fresnel-transparency 100 --k-factor 1 --json --quiet"_s);
+
+        QCOMPARE(run.errors, QByteArray());
+        const QByteArray layer = readFile(path(u"elsewhere/o.lay"_s));
+        const QByteArray source = element(layer, "source");
+        QVERIFY2(source.startsWith("link:s_srs=4326,t_srs=2154,data_folder="), source.constData());
+        QVERIFY2(
+            source.endsWith("link_style=BILLBOARD,link_width=2.5,link_color=10203040 clearance,"
+                            "fresnel_zone=2,fresnel_share=80,fresnel_color=aabbcc00,k_factor=1,"
+                            "transmitter_scale=100,lods=10000 1000,dem_file=hills.asc,l.csv"),
+            source.constData());
+        QVERIFY(element(layer, "description")
+                    .contains("<tr><td>Height (m)</td><td>[A Height (m)]</td>"
+                              "<td>[B Height (m)]</td></tr>"));
+        const QJsonObject told = QJsonDocument::fromJson(run.output).object();
+        QCOMPARE(told.value(u"placedLinks"_s).toInt(), 2);
+        QVERIFY(!told.contains(u"links"_s));
+
+        start(u"link ../l.csv --project ../c.gvw --terrain= -o o.lay --fresnel-zone 0"_s);
+        const QByteArray plain = element(readFile(path(u"elsewhere/o.lay"_s)), "source");
+        QVERIFY(plain.contains(",fresnel_zone=0,") && !plain.contains("dem_file"));
+    }
+
+    void tellsWhatALinkTableHolds()
+    {
+        const Run text = start(u"info --link ../l.csv"_s);
+        const Run json = start(u"info --link ../l.csv --json"_s);
+
+        QVERIFY(text.output.contains("Number of links                           : 3\n"));
+        QVERIFY(text.output.contains("Height of end B     : B Height (m)\n"));
+        QVERIFY(text.output.contains("row 4, column B Longitude: "));
+        const QJsonObject told = QJsonDocument::fromJson(json.output).object();
+        QCOMPARE(told.value(u"frequencyUnit"_s).toString(), u"GHz"_s);
+        QCOMPARE(told.value(u"linkField"_s).toString(), u"Name"_s);
+        const QJsonObject columns = told.value(u"columns"_s).toObject();
+        QCOMPARE(columns.value(u"endB"_s).toObject().value(u"longitude"_s).toString(),
+                 u"B Longitude"_s);
+        QVERIFY(columns.value(u"name"_s).isString() && told.contains(u"problems"_s));
+    }
+
+    void refusesAndLeavesTheOldLayer_data()
+    {
+        QTest::addColumn<QString>("arguments");
+        QTest::addColumn<int>("status");
+        QTest::addColumn<QString>("message");
+
+        const auto row = [](const char *arguments, int status, const char *message) {
+            QTest::newRow(arguments)
+                << QString::fromLatin1(arguments) << status << QString::fromLatin1(message);
+        };
+        row("link ../no.csv -o old.lay", 1, "../no.csv: This file can't be open as a link file (");
+        row("info --link ../empty.csv", 1, "../empty.csv: This link file is empty");
+        row("link ../lost.csv -o old.lay", 1, "../lost.csv: none of its links can be placed");
+        row("link ../l.csv -o old.lay --terrain ../l.csv", 1,
+            "../l.csv: the terrain file cannot be read as a georeferenced raster (");
+        row("link ../l.csv -o ../hills.asc --terrain ../hills.asc", 1, "one of the input files");
+        row("link ../l.csv", 2, "no output file given (-o OUT.lay), and no --report");
+        row("link ../l.csv -o old.lay --link-style rope", 2, "line|tube|billboard");
+        row("link ../l.csv -o old.lay --link-color blue", 2, "--link-color");
+        row("link ../l.csv -o old.lay --fresnel-color aabbccdd", 2, "--fresnel-color");
+        row("link ../l.csv -o old.lay --fresnel-zone 11", 2, "0 to 10");
+        row("link ../l.csv -o old.lay --fresnel-share 0", 2, "1 to 100");
+        row("link ../l.csv -o old.lay --k-factor inf", 2, "0.1 to 100");
+        row("link ../l.csv -o old.lay --pylon-width 0", 2, "0.1 to 150");
+        row("site ../l.csv -o old.lay --k-factor 1", 2, "k-factor");
+    }
+
+    void refusesAndLeavesTheOldLayer()
+    {
+        QFETCH(QString, arguments);
+        QFETCH(int, status);
+        QFETCH(QString, message);
+        const QByteArray header = Table.left(Table.indexOf('\n') + 1);
+        writeFile(path(u"empty.csv"_s), header);
+        writeFile(path(u"lost.csv"_s), header + Table.mid(Table.indexOf("Lost")));
+
+        const Run run = start(arguments);
+
+        QCOMPARE(run.status, status);
+        QVERIFY2(run.errors.contains(message.toUtf8()), run.errors.constData());
+        QCOMPARE(run.output, QByteArray());
+        QCOMPARE(readFile(path(u"elsewhere/old.lay"_s)), QByteArray("old"));
+        QCOMPARE(readFile(path(u"hills.asc"_s)), terrain(128));
+    }
+
+private:
+    QString path(const QString &name) const { return m_program->path(name); }
+    Run start(const QString &arguments) const { return m_program->start(arguments); }
+
+    std::unique_ptr<ProgramRun> m_program;
+};
+
+QTEST_GUILESS_MAIN(tst_LinkCommand)
+#include "tst_LinkCommand.moc"

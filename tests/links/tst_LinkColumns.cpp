@@ -1,0 +1,150 @@
+#include "links/LinkColumnSet.h"
+
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace vlt::links;
+
+namespace {
+
+void addEnd(QStringList &filled, const QString &mark, const LinkEndColumns &end)
+{
+    const std::pair<QString, QString> members[] = {{u"id"_s, end.identifier},
+                                                   {u"x"_s, end.longitude},
+                                                   {u"y"_s, end.latitude},
+                                                   {u"height"_s, end.height},
+                                                   {u"frequency"_s, end.frequency},
+                                                   {u"azimuth"_s, end.azimuth},
+                                                   {u"tilt"_s, end.tilt},
+                                                   {u"dx"_s, end.dx},
+                                                   {u"dy"_s, end.dy}};
+    for (const auto &[name, column] : members) {
+        if (!column.isEmpty())
+            filled << mark + name;
+    }
+}
+
+/// The members that have a column.
+QString filledMembers(const LinkColumnSet &set)
+{
+    QStringList filled;
+    if (!set.name.isEmpty())
+        filled << u"name"_s;
+    if (!set.band.isEmpty())
+        filled << u"band"_s;
+    if (!set.length.isEmpty())
+        filled << u"length"_s;
+    addEnd(filled, u"A."_s, set.tx);
+    addEnd(filled, u"B."_s, set.rx);
+    return filled.join(u' ');
+}
+
+} // namespace
+
+class tst_LinkColumns : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void recognisesAFieldByItsWholeName_data()
+    {
+        QTest::addColumn<QString>("field");
+        QTest::addColumn<QString>("members");
+
+        const auto row = [](const char *field, const char *members) {
+            QTest::addRow("%s", field) << QString::fromUtf8(field) << QString::fromUtf8(members);
+        };
+        row("NAME", "name");
+        row("Link Name", "");
+        row("frequency band", "band");
+        row("Frequency Band (GHz)", "band");
+        row("Frequency Band (GHz, duplex)", "");
+        row("Frequency  Band", "");
+        row("Length", "length");
+        row("Path  Length (miles)", "length");
+        row("PathLength", "");
+        row("Call sign 1", "A.id");
+        row("TX", "A.id");
+        row("Site A", "A.id");
+        row("Site B.ID", "B.id");
+        row("TX Name", "A.id");
+        row("Name (B)", "B.id");
+        row("Antenna RX", "B.id");
+        row("Antenna (RX)", "");
+        row("Site A Name 2", "");
+        row("A X", "A.x");
+        row("Longitude 1", "A.x");
+        row("Longitude 1 (WGS84)", "");
+        row("site tx.longitude (\u00b0)", "A.x");
+        row("Longitude (B)", "B.x");
+        row("Longitude (B) in degrees", "B.x");
+        row("Longitude(B)", "");
+        row("XA", "");
+        row("Latitude 2", "B.y");
+        row("Y RX", "B.y");
+        row("Latitude 3", "");
+        row("Antenna height (m) 2", "B.height");
+        row("Antenna height (ft) 2", "");
+        row("Height A (m)", "A.height");
+        row("TX1 (MHz) 1", "A.frequency");
+        row("TX1 (MHz) 2", "B.frequency");
+        row("RX Frequency (MHz)", "B.frequency");
+        row("Azimuth (deg) 1", "A.azimuth");
+        row("Azimuth (a\nb) 2", "B.azimuth");
+        row("Azimuth 1", "");
+        row("Tilt () 2", "B.tilt");
+        row("Tilt (A)", "A.tilt");
+        row("DX (1) (m)", "A.dx");
+        row("DX (1)", "");
+        row("Site RX.DY", "B.dy");
+        row("DY (2) (m)", "B.dy");
+    }
+
+    void recognisesAFieldByItsWholeName()
+    {
+        QFETCH(QString, field);
+
+        QTEST(filledMembers(recogniseLinkColumns(QStringList{field})), "members");
+    }
+
+    void keepsTheFirstColumnOfAKind()
+    {
+        const LinkColumnSet set =
+            recogniseLinkColumns({u"TX ID"_s, u"Name"_s, u"TX Name"_s, u"name"_s, u"Site B"_s});
+
+        LinkColumnSet expected;
+        expected.name = u"Name"_s;
+        expected.tx.identifier = u"TX ID"_s;
+        expected.rx.identifier = u"Site B"_s;
+        QCOMPARE(set, expected);
+    }
+
+    void findsTheFirstAndLongestUnit_data()
+    {
+        QTest::addColumn<QString>("field");
+        QTest::addColumn<QString>("frequency");
+        QTest::addColumn<QString>("length");
+
+        QTest::newRow("MHz, not the Hz in it") << u"Frequency Band (MHz)"_s << u"MHz"_s << u""_s;
+        QTest::newRow("letters of another case") << u"Frequency Band (kHz)"_s << u"Hz"_s << u""_s;
+        QTest::newRow("no unit at all") << u"FREQUENCY BAND (GHZ)"_s << u""_s << u""_s;
+        QTest::newRow("miles, not m") << u"Path Length (miles)"_s << u""_s << u"miles"_s;
+        QTest::newRow("km") << u"Length (km)"_s << u""_s << u"km"_s;
+        QTest::newRow("m at the start of a word") << u"Length (metres)"_s << u""_s << u"m"_s;
+        QTest::newRow("feet") << u"Length (feet)"_s << u""_s << u"feet"_s;
+        QTest::newRow("no such column") << u"Frequency (MHz)"_s << u""_s << u""_s;
+    }
+
+    void findsTheFirstAndLongestUnit()
+    {
+        QFETCH(QString, field);
+
+        const LinkColumnSet set = recogniseLinkColumns(QStringList{field});
+
+        QTEST(set.frequencyUnit, "frequency");
+        QTEST(set.lengthUnit, "length");
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_LinkColumns)
+#include "tst_LinkColumns.moc"

@@ -1,0 +1,216 @@
+#include "links/LinkInfoPage.h"
+#include "links/LinkLayer.h"
+
+#include <QDir>
+#include <QFile>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace vlt::links;
+
+namespace {
+
+vlt::sites::SiteCatalogues catalogues()
+{
+    const vlt::sites::SectorColorSet twoColors{{QColor(255, 0, 0), QColor(0, 255, 0)}, {}, {}};
+    return {{{u"T"_s, {}, {}}}, {twoColors}};
+}
+
+/// "<key>=" up to the next "&", as often as it stands there.
+QStringList values(const QString &url, const QString &key)
+{
+    QStringList found;
+    const QRegularExpression item(u"&"_s + key + u"=([^&]*)"_s);
+    for (auto matches = item.globalMatch(url); matches.hasNext();)
+        found << matches.next().captured(1);
+    return found;
+}
+
+} // namespace
+
+class tst_LinkLayerFile : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void namesTheEndsColumnByFormat_data()
+    {
+        QTest::addColumn<QString>("format");
+        QTest::addColumn<QString>("column");
+        QTest::newRow("asset") << u"ASSET 3"_s << u"Site name"_s;
+        QTest::newRow("atoll") << u"Atoll"_s << u"NAME"_s;
+        QTest::newRow("not of sites only") << u"mentum"_s << u"Site ID"_s;
+        QTest::newRow("generic") << u"generic (numbered ends)"_s << u"Site ID"_s;
+    }
+
+    void namesTheEndsColumnByFormat()
+    {
+        QFETCH(QString, format);
+
+        QTEST(linkEndNameField(format), "column");
+    }
+
+    void saysNothingOfAnEmptyPathAndWhyAFileDoesNotOpen()
+    {
+        QVERIFY(!readLinkFileInfo(QString(), {}).error);
+
+        const LinkFileInfo info = readLinkFileInfo(u"/nowhere/links.csv"_s, {});
+
+        QVERIFY(!info.valid);
+        QVERIFY(info.filePath.isEmpty());
+        QCOMPARE(info.error->key, u"MESS_ERR_OPEN_LINK"_s);
+        QVERIFY(!info.errorDetail.isEmpty());
+    }
+
+    void writesTheLookOfLinksIntoTheQuery_data()
+    {
+        QTest::addColumn<LinkRepresentation>("look");
+        QTest::addColumn<QString>("expected");
+
+        QTest::newRow("first run")
+            << LinkRepresentation()
+            << u"link_style=LINE,link_width=2,link_color=e0218aff,fresnel_zone=1,"
+               "fresnel_share=60,fresnel_color=ffa50066,k_factor=1.33333"_s;
+        LinkRepresentation look;
+        look.style = LinkStyle::Line;
+        look.width = 0.1234567;
+        look.color = QColor(1, 2, 3, 128);
+        look.colorByClearance = true;
+        look.showFresnel = false;
+        look.fresnelZone = 3;
+        look.fresnelShare = 100;
+        look.fresnelTransparency = 100;
+        look.kFactor = 1;
+        QTest::newRow("everything else, no ellipsoid")
+            << look
+            << u"link_style=LINE,link_width=0.123457,link_color=01020380 clearance,fresnel_zone=0,"
+               "fresnel_share=100,fresnel_color=ffa50000,k_factor=1"_s;
+        look.style = LinkStyle::Billboard;
+        look.showFresnel = true;
+        look.colorByClearance = false;
+        QTest::newRow("third zone")
+            << look
+            << u"link_style=BILLBOARD,link_width=0.123457,link_color=01020380,fresnel_zone=3,"
+               "fresnel_share=100,fresnel_color=ffa50000,k_factor=1"_s;
+    }
+
+    void writesTheLookOfLinksIntoTheQuery()
+    {
+        QFETCH(LinkRepresentation, look);
+
+        QTEST(linkQueryPart(look), "expected");
+    }
+
+    void fillsTheLayerInOrder()
+    {
+        const QTemporaryDir dir;
+        const QString pylons = dir.path() + u"/addons/telecom/pylons/"_s;
+        LinkLayerInput input;
+        input.installDir = dir.path();
+        input.language = u"de"_s;
+        input.catalogues = catalogues();
+        input.project = {u"/p/a.gvw"_s, u"/p/dem/t.tif"_s};
+        input.sourceSrs = u"4326"_s;
+        input.file.filePath = u"/p/l.csv"_s;
+        input.file.layerName = u"L"_s;
+        input.file.endLayerName = u"L ends"_s;
+        input.file.linkNameField = u"Name"_s;
+        input.file.nameField = u"Site ID"_s;
+
+        QCOMPARE(makeLinkLayer(input).error().path, pylons + u"template_links.lay"_s);
+
+        QVERIFY(QDir().mkpath(pylons));
+        QFile file(pylons + u"template_links.lay"_s);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("__TITLE__|__LINK_URL__|__LAYER__|__LINK_FIELD__|__END_LAYER__|__SITE_FIELD__|"
+                   "__Desc__|");
+        file.close();
+        const auto layer = makeLinkLayer(input).value();
+        QCOMPARE(layer.warning->path, pylons + u"links_infos_en.html"_s);
+        QCOMPARE(layer.text,
+                 u"Links|link:s_srs=4326,data_folder=addons/telecom/pylons,pylon_type=T,"
+                 "pylon_width=2.5,sector_colors=ff0000ff 00ff00ff,sector_properties=200 20 2,"_s +
+                     linkQueryPart({}) +
+                     u",transmitter_scale=100,lods=10000 1000,dem_file=dem/t.tif,l.csv|L|Name|"
+                     "L ends|Site ID||"_s);
+        QCOMPARE(placingConnection(input), u"link:s_srs=4326,/p/l.csv"_s);
+    }
+
+    void fillsThePageAndLeavesOutRowsWithoutColumns_data()
+    {
+        LinkColumnSet columns;
+        columns.band = u"Frequency Band (GHz)"_s;
+        columns.frequencyUnit = u"GHz"_s;
+        columns.length = u"Length"_s;
+        columns.tx.identifier = u"TX"_s;
+        columns.rx.identifier = u"RX"_s;
+        columns.rx.height = u"Height B"_s;
+        LinkColumnSet named;
+        named.name = u"Name"_s;
+        QTest::addColumn<LinkColumnSet>("columns");
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<QString>("expected");
+
+        QTest::newRow("fr") << columns << u"fr"_s
+                            << u"[TX] \u2013 [RX]|<td><small>Bande de fr\u00e9quences</small> "
+                               "[Frequency Band (GHz)] GHz</td>|<td><small>Longueur</small> "
+                               "[Length]</td>|<tr><td>Site</td><td>[TX]</td><td>[RX]</td></tr>|"
+                               "<tr><td>Hauteur</td><td></td><td>[Height B]</td></tr>|||"_s;
+        LinkColumnSet units;
+        units.tx.height = u"Antenna height (m) 1"_s;
+        units.rx.height = u"Antenna height (m) 2"_s;
+        units.tx.azimuth = u"Azimuth (A)"_s;
+        units.tx.dx = u"DX (1) (m)"_s;
+        units.rx.dx = u"RX DX (feet)"_s;
+        units.rx.dy = u"RX DY (feet)"_s;
+        QTest::newRow("units that both ends have")
+            << units << u"en"_s
+            << u"||||<tr><td>Height (m)</td><td>[Antenna height (m) 1]</td><td>[Antenna height (m) "
+               "2]</td></tr>|<tr><td>Azimuth</td><td>[Azimuth (A)]</td><td></td></tr>|"
+               "<tr><td>DX</td><td>[DX (1) (m)]</td><td>[RX DX (feet)]</td></tr>|"
+               "<tr><td>DY (feet)</td><td></td><td>[RX DY (feet)]</td></tr>"_s;
+        QTest::newRow("another language, a name only") << named << u"de"_s << u"[Name]|||||||"_s;
+    }
+
+    void fillsThePageAndLeavesOutRowsWithoutColumns()
+    {
+        QFETCH(LinkColumnSet, columns);
+        QFETCH(QString, language);
+
+        QTEST(fillLinkInfoPage(u"__NAME__|__BAND__|__LENGTH__|__ID__|__HEIGHT__|__AZIMUTH__|"
+                               "__DX__|__DY__"_s,
+                               language, columns),
+              "expected");
+    }
+
+    void demonstratesTwoLinksBetweenThreePylons()
+    {
+        LinkRepresentation look;
+        look.colorByClearance = true;
+
+        const QString url = buildPreviewLinkUrl({}, look, catalogues(), u"/opt/vlt"_s);
+
+        QVERIFY(
+            url.startsWith(u"inline://parametric/query?object=link&data_folder=/opt/vlt/addons/"
+                           "telecom/pylons&pylon_type=T&pylon=0 0 0 25 2.5 200 20 2&dish=23 "_s));
+        QVERIFY(url.endsWith(u"&link_style=LINE&link_width=2&link_color=e0218aff&fresnel_zone=1&"
+                             "fresnel_share=60&fresnel_color=ffa50066&"
+                             "k_factor=1.33333.inlinepylonurl"_s));
+        QCOMPARE(values(url, u"pylon"_s).size(), 3);
+        // a slope of 3 by 4 is 53.13 degrees
+        QCOMPARE(values(url, u"dish"_s),
+                 (QStringList{u"23 53.1301 0 0 ff0000ff"_s, u"23 233.13 0 0 00ff00ff"_s,
+                              u"20 126.87 0 0 ff0000ff"_s, u"20 306.87 0 0 00ff00ff"_s}));
+        const QStringList links = values(url, u"link"_s);
+        QCOMPARE(links.size(), 2);
+        QVERIFY(links.at(0).startsWith(u"0 0 23 640 480 23 100 "_s));
+        QVERIFY(links.at(1).startsWith(u"640 480 20 1280 0 20 100 "_s));
+        QVERIFY(links.at(0).last(8) != links.at(1).last(8));
+        QVERIFY(buildPreviewLinkUrl({}, look, {}, u"/"_s).isEmpty());
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_LinkLayerFile)
+#include "tst_LinkLayerFile.moc"

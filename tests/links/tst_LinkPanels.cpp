@@ -1,0 +1,126 @@
+#include "links/ui/VltLinkProperties.h"
+#include "platform/Settings.h"
+#include "wizard/base/ColorButton.h"
+
+#include <QCheckBox>
+#include <QColorDialog>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QSlider>
+#include <QSpinBox>
+#include <QTest>
+#include <QTimer>
+
+using namespace Qt::StringLiterals;
+using namespace vlt::links;
+
+class TestLinkPanels : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { vlt::platform::wizardSettings()->clear(); }
+
+    void remembersEveryValueUnderItsKey_data()
+    {
+        QTest::addColumn<QVariant>("stored");
+        QTest::addColumn<QString>("query"); // where the value shows in the query of links
+        QTest::addColumn<QVariant>("damaged");
+
+        const auto row = [](const char *key, const QVariant &stored, const QString &query,
+                            const QVariant &damaged) {
+            QTest::newRow(key) << stored << query << damaged;
+        };
+        row("LinkStyle", u"BILLBOARD"_s, u"link_style=BILLBOARD,"_s, u"ROPE"_s);
+        row("LinkWidth", 0.5, u"link_width=0.5,"_s, u"nan"_s);
+        row("LinkColor", u"#80102030"_s, u"link_color=10203080,"_s, u"#12345"_s);
+        row("ColorByClearance", true, u"e0218aff clearance,"_s, u"maybe"_s);
+        row("ShowFresnel", false, u"fresnel_zone=0,"_s, 7);
+        row("FresnelZone", 10, u"fresnel_zone=10,"_s, 0);
+        row("FresnelShare", 100, u"fresnel_share=100,"_s, 101);
+        row("FresnelColor", u"#ff00ff01"_s, u"fresnel_color=00ff01"_s, QByteArray("\0", 1));
+        row("FresnelTransparency", 0, u"fresnel_color=ffa500ff,"_s, -1);
+        row("KFactor", 0.66667, u"k_factor=0.66667"_s, 0);
+    }
+
+    void remembersEveryValueUnderItsKey()
+    {
+        QFETCH(QVariant, stored);
+        QFETCH(QString, query);
+        QFETCH(QVariant, damaged);
+        const QString key = u"P/"_s + QString::fromLatin1(QTest::currentDataTag());
+        const auto settings = vlt::platform::wizardSettings();
+        VltLinkProperties panel;
+        const QSignalSpy changes(&panel, &VltLinkProperties::parameterChanged);
+
+        panel.loadSettings(u"P"_s);
+        QCOMPARE(panel.representation(), LinkRepresentation());
+        settings->setValue(key, stored);
+        panel.loadSettings(u"P"_s);
+        QVERIFY2(linkQueryPart(panel.representation()).contains(query),
+                 qPrintable(linkQueryPart(panel.representation())));
+        QCOMPARE(changes.count(), 0);
+        panel.saveSettings(u"Q"_s);
+        VltLinkProperties other;
+        other.loadSettings(u"Q"_s);
+        QCOMPARE(other.representation(), panel.representation());
+
+        settings->setValue(key, damaged);
+        panel.loadSettings(u"P"_s);
+        QCOMPARE(panel.representation(), LinkRepresentation());
+    }
+
+    void announcesEveryChangeOnce()
+    {
+        VltLinkProperties panel;
+        panel.show();
+        QSignalSpy changes(&panel, &VltLinkProperties::parameterChanged);
+        const auto *width = panel.findChild<QDoubleSpinBox *>(u"m_pwSbLinkWidth"_s);
+        QCOMPARE(width->suffix(), u" px"_s);
+
+        QTest::keyClick(panel.findChild<QComboBox *>(u"m_pwCbLinkStyle"_s), Qt::Key_Down);
+        panel.findChild<QSpinBox *>(u"m_pwSbFresnelZone"_s)->stepUp();
+        panel.findChild<QDoubleSpinBox *>(u"m_pwSbKFactor"_s)->stepUp();
+        panel.findChild<QSlider *>(u"m_pwSlFresnelTransparency"_s)->setValue(10);
+        panel.findChild<QCheckBox *>(u"m_pwChbColorByClearance"_s)->click();
+        panel.findChild<QGroupBox *>(u"m_pwGbFresnel"_s)->setChecked(false);
+
+        QCOMPARE(changes.count(), 6);
+        QCOMPARE(width->suffix(), u" m"_s);
+        QVERIFY(panel.findChild<QWidget *>(u"m_pwSbFresnelShare"_s)->isEnabled()); // judges still
+        QVERIFY(!panel.findChild<QWidget *>(u"m_pwSbFresnelZone"_s)->isEnabled());
+    }
+
+    void asksForAColourByKeyboard_data()
+    {
+        QTest::addColumn<bool>("accepted");
+        QTest::newRow("taken") << true;
+        QTest::newRow("cancelled") << false;
+    }
+
+    void asksForAColourByKeyboard()
+    {
+        QFETCH(bool, accepted);
+        VltLinkProperties panel;
+        panel.show();
+        auto *button = panel.findChild<ColorButton *>(u"m_pwPbLinkColor"_s);
+        QSignalSpy changes(&panel, &VltLinkProperties::parameterChanged);
+        QTimer::singleShot(50, this, [accepted] {
+            auto *dialog = qobject_cast<QColorDialog *>(QApplication::activeModalWidget());
+            dialog->setCurrentColor(QColor(1, 2, 3));
+            accepted ? dialog->accept() : dialog->reject();
+        });
+
+        QTest::keyClick(button, Qt::Key_Space);
+
+        QCOMPARE(changes.count(), accepted ? 1 : 0);
+        const QColor expected = accepted ? QColor(1, 2, 3) : LinkRepresentation().color;
+        QCOMPARE(panel.representation().color, expected);
+        QCOMPARE(button->accessibleName(), u"Color of the links: "_s + expected.name().toUpper());
+    }
+};
+
+QTEST_MAIN(TestLinkPanels)
+#include "tst_LinkPanels.moc"

@@ -1,0 +1,100 @@
+#pragma once
+
+#include "app/GeodataLibrary.h"
+#include "platform/Settings.h"
+#include "wizard/base/DraggableIcon.h"
+#include "wizard/frame/VltTelecomLayersWizard.h"
+
+#include <QAbstractButton>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+/// What the tests of the pages share that make a layer of a table.
+namespace layerflow {
+
+inline const QString Samples = QStringLiteral(VLT_SAMPLES);
+inline const QString SampleProject = Samples + QStringLiteral("/city.gvw");
+
+/// An installation of one's own, with the drivers of the build.
+inline QString installation()
+{
+    static const QTemporaryDir dir;
+    return dir.path();
+}
+
+inline bool makeInstallation()
+{
+    vlt::app::registerGeodataDrivers();
+    const QString source = QStringLiteral(VLT_INSTALLATION "/.");
+    return QProcess::execute(QStringLiteral("cp"),
+                             {QStringLiteral("-R"), source, installation()}) == 0 &&
+           QFile::link(QStringLiteral(VLT_DRIVERS), installation() + QStringLiteral("/driver"));
+}
+
+inline void forgetSettings()
+{
+    vlt::platform::wizardSettings()->clear();
+    vlt::platform::builderSettings()->clear();
+    vlt::platform::builderSettings()->setValue(QStringLiteral("INSTALL_DIR"), installation());
+}
+
+inline QByteArray contents(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// The layer that the command line makes of a table of the sample project.
+///
+/// @param command  "site" or "link"
+inline QByteArray layerOfCommandLine(const QString &command, const QString &table,
+                                     const QStringList &options)
+{
+    const QTemporaryDir dir;
+    const QString layer = dir.filePath(QStringLiteral("out.lay"));
+    QProcess process;
+    process.start(QStringLiteral(VLT_PROGRAM),
+                  QStringList{command, table, QStringLiteral("-o"), layer,
+                              QStringLiteral("--install"), installation(),
+                              QStringLiteral("--project"), SampleProject,
+                              QStringLiteral("--language"), QStringLiteral("en")} +
+                      options);
+    process.waitForFinished();
+    return contents(layer);
+}
+
+/// The real wizard in English, led to a result page.
+class WizardOnPage
+{
+public:
+    /// @param kind  object name of the first page's button
+    explicit WizardOnPage(const QString &kind, const QString &installDir = installation(),
+                          const QString &project = SampleProject)
+        : wizard(installDir, QStringLiteral("en"))
+    {
+        wizard.show();
+        widget<QAbstractButton>(kind)->click();
+        widget<QLineEdit>(QStringLiteral("m_pwLeProjectName"))->setText(project);
+        wizard.button(QWizard::NextButton)->click();
+        page = wizard.currentPage();
+        icon = page->findChild<DraggableIcon *>();
+    }
+
+    template<typename Widget>
+    Widget *widget(const QString &name)
+    {
+        return wizard.currentPage()->findChild<Widget *>(name);
+    }
+
+    QString description() { return widget<QLabel>(QStringLiteral("m_pwLblFileInfo"))->text(); }
+
+    VltTelecomLayersWizard wizard;
+    QWidget *page = nullptr;
+    DraggableIcon *icon = nullptr;
+};
+
+} // namespace layerflow

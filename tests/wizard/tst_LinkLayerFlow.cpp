@@ -1,0 +1,186 @@
+#include "gui/AnsweredBoxes.h"
+#include "gui/DropOnWidget.h"
+#include "gui/FileDialogAnswer.h"
+#include "preview/W_simpleOSGViewer.h"
+#include "wizard/LayerFlow.h"
+#include "wizard/base/TemporaryLayerFile.h"
+
+#include <QClipboard>
+#include <QComboBox>
+#include <QHeaderView>
+#include <QSpinBox>
+#include <QTabWidget>
+#include <QTableView>
+#include <QToolButton>
+
+using namespace Qt::StringLiterals;
+using namespace layerflow;
+
+namespace {
+
+const QString Links = Samples + u"/links.csv"_s;
+
+class WizardOnLinkPage : public WizardOnPage
+{
+public:
+    explicit WizardOnLinkPage(const QString &project = SampleProject)
+        : WizardOnPage(u"m_pwClAddLink"_s, installation(), project)
+    {}
+
+    QString remark() { return widget<QLabel>(u"m_pwLblRemark"_s)->text(); }
+    QTableView *table() { return widget<QTableView>(u"m_pwTvLinks"_s); }
+};
+
+} // namespace
+
+class TestLinkLayerFlow : public QObject
+{
+    Q_OBJECT
+
+    QTemporaryDir m_dir;
+
+private Q_SLOTS:
+    void initTestCase() { QVERIFY(makeInstallation()); }
+    void init() { forgetSettings(); }
+
+    void makesTheLayerOfTheCommandLine_data()
+    {
+        QTest::addColumn<QString>("table");
+        QTest::addColumn<QString>("widget"); // set to `value`, as the option does
+        QTest::addColumn<double>("value");
+        QTest::addColumn<QStringList>("options");
+
+        QTest::newRow("numbered ends") << u"links.csv"_s << QString() << 0.0 << QStringList();
+        QTest::newRow("k factor") << u"links.csv"_s << u"m_pwSbKFactor"_s << 0.75
+                                  << QStringList{u"--k-factor"_s, u"0.75"_s};
+        QTest::newRow("ends side by side, wide links")
+            << u"links_miles.xlsx"_s << u"m_pwSbLinkWidth"_s << 7.5
+            << QStringList{u"--link-width"_s, u"7.5"_s};
+        QTest::newRow("look of the pylons") << u"links.csv"_s << u"m_pwSbPylonWidth"_s << 4.0
+                                            << QStringList{u"--pylon-width"_s, u"4"_s};
+    }
+
+    void makesTheLayerOfTheCommandLine()
+    {
+        QFETCH(QString, table);
+        QFETCH(QString, widget);
+        QFETCH(double, value);
+        QFETCH(QStringList, options);
+        const QString path = Samples + u'/' + table;
+        WizardOnLinkPage flow;
+        QCOMPARE(flow.description(),
+                 u"No links file defined.\nSelect the links file to display."_s);
+        FileDialogAnswer dialog(path);
+
+        flow.widget<QAbstractButton>(u"m_pwPbLink"_s)->click();
+        if (!widget.isEmpty())
+            flow.widget<QWidget>(widget)->setProperty("value", value);
+
+        QCOMPARE(dialog.caption, u"Select the link file to use"_s);
+        QCOMPARE(dialog.filters, QStringList{u"Link files (*.xls *.xlsx *.xml *.csv)"_s});
+        QCOMPARE(flow.icon->layerFile(), vlt::wizard::temporaryLayerFileName(u"links"_s));
+        const QByteArray layer = contents(flow.icon->layerFile());
+        QVERIFY(!layer.isEmpty());
+        QCOMPARE(layer, layerOfCommandLine(u"link"_s, path, options));
+
+        WizardOnLinkPage nextTime;
+        QCOMPARE(contents(nextTime.icon->layerFile()), layer);
+    }
+
+    void refusesOtherFiles_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QString>("text");
+
+        QTest::newRow("no table") << QByteArray("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16)
+                                  << u"This file can't be open as a link file"_s;
+        QTest::newRow("header only")
+            << QByteArray("Name;Longitude 1;Latitude 1\n") << u"This link file is empty"_s;
+    }
+
+    void refusesOtherFiles()
+    {
+        QFETCH(QByteArray, bytes);
+        QFile file(m_dir.filePath(u"refused.csv"_s));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+        file.close();
+        WizardOnLinkPage flow;
+        AnsweredBoxes boxes;
+
+        dropFiles(flow.page, {file.fileName()});
+
+        QCOMPARE(boxes.seen.size(), 1);
+        QCOMPARE(boxes.seen.constFirst().title, u"Error"_s);
+        QTEST(boxes.seen.constFirst().text, "text");
+        QVERIFY(!flow.icon->isEnabled());
+    }
+
+    void judgesTheLinksAgainAfterAChange()
+    {
+        WizardOnLinkPage flow;
+        dropFiles(flow.page, {Links});
+        QTRY_COMPARE(flow.remark(), u"18 clear, 2 marginal, 1 obstructed"_s);
+        QTableView *table = flow.table();
+        const auto cell = [table](int row, int column) {
+            return table->model()->index(row, column).data().toString();
+        };
+
+        table->sortByColumn(6, Qt::AscendingOrder); // the worst verdicts first
+        QCOMPARE(cell(0, 1), u"MW-21"_s);
+        QCOMPARE(cell(0, 6), u"obstructed"_s);
+        QVERIFY(cell(0, 7).contains(u"above the line"_s));
+        table->sortByColumn(4, Qt::DescendingOrder); // the longest first
+        QCOMPARE(cell(0, 1), u"MW-19"_s);
+        flow.widget<QToolButton>(u"m_pwTbFold"_s)->click();
+        flow.widget<QTabWidget>(QString())->setCurrentWidget(table);
+        flow.wizard.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&flow.wizard));
+        table->setFocus();
+        table->selectRow(0);
+        QTest::keyClick(table, Qt::Key_C, Qt::ControlModifier);
+        const QStringList lines = QGuiApplication::clipboard()->text().split(u'\n');
+        QCOMPARE(lines.size(), 3); // headers, the row, the line feed behind it
+        QVERIFY(lines[1].startsWith(u"20\tMW-19\t056043\t056044\t"_s));
+
+        for (const int percent : {5, 4, 3, 2, 1}) // the last one counts
+            flow.widget<QSpinBox>(u"m_pwSbFresnelShare"_s)->setValue(percent);
+        QTRY_COMPARE(flow.remark(), u"20 clear, 0 marginal, 1 obstructed"_s);
+        QCOMPARE(cell(0, 1), u"MW-19"_s);
+    }
+
+    void tellsWhyNothingIsJudged()
+    {
+        QFile project(m_dir.filePath(u"flat.gvw"_s));
+        QVERIFY(project.open(QIODevice::WriteOnly));
+        WizardOnLinkPage flow(project.fileName());
+
+        dropFiles(flow.page, {Links});
+
+        QTRY_COMPARE(flow.remark(), u"The links are not judged: the project has no terrain"_s);
+        QCOMPARE(flow.table()->model()->index(0, 6).data(), u"not judged"_s);
+    }
+
+    void showsTheDemonstrationOrTheLinksOfTheLayer()
+    {
+        WizardOnLinkPage flow;
+        dropFiles(flow.page, {Links});
+        auto *viewer = flow.widget<W_simpleOSGViewer>(u"m_pwViewer"_s);
+        const osg::Node *demonstration = viewer->getSceneData();
+        QVERIFY(demonstration && demonstration->getBound().radius() < 1000);
+
+        flow.widget<QAbstractButton>(u"m_pwPbOwnLinks"_s)->click();
+        QVERIFY(viewer->getSceneData() != demonstration);
+        QVERIFY(viewer->getSceneData()->getBound().radius() > 10000); // the links of a region
+
+        flow.widget<QAbstractButton>(u"m_pwPbSymbolic"_s)->click();
+        QCOMPARE(viewer->getSceneData(), demonstration);
+        osg::Vec3d eye;
+        osg::Vec3d center;
+        osg::Vec3d up;
+        viewer->getCameraManipulator()->getInverseMatrix().getLookAt(eye, center, up, 1500);
+        QVERIFY((center - demonstration->getBound().center()).length() < 50); // all three pylons
+    }
+};
+
+QTEST_MAIN(TestLinkLayerFlow)
+#include "tst_LinkLayerFlow.moc"
