@@ -41,10 +41,10 @@ void VltPreviewPane::placeCamera(double distanceM, double heightM)
         m_viewer->placeCamera(distanceM, heightM);
 }
 
-void VltPreviewPane::lookAtMiddle(double distanceM)
+void VltPreviewPane::lookAtMiddle(double leastM)
 {
     if (m_viewer)
-        m_viewer->lookAtMiddle(distanceM);
+        m_viewer->lookAtMiddle(leastM);
 }
 
 void VltPreviewPane::centerView()

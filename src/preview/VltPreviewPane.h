@@ -24,8 +24,8 @@ public:
     /// Looks at the point `heightM` above the origin from `distanceM` metres.
     void placeCamera(double distanceM, double heightM);
 
-    /// Looks at the middle of the scene from `distanceM` metres.
-    void lookAtMiddle(double distanceM);
+    /// Looks at the middle of the scene, from `leastM` metres or as far as the whole needs.
+    void lookAtMiddle(double leastM);
 
     /// The camera on the whole scene.
     void centerView();

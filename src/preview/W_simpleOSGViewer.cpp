@@ -198,13 +198,13 @@ void W_simpleOSGViewer::placeCamera(double distanceM, double heightM)
     m_trackBall->lookAt(osg::Vec3d(0, 0, heightM), distanceM);
 }
 
-void W_simpleOSGViewer::lookAtMiddle(double distanceM)
+void W_simpleOSGViewer::lookAtMiddle(double leastM)
 {
     const osg::BoundingBox box = extentsOf(getSceneData());
     if (!box.valid())
         return;
     m_isUserCamera = true;
-    m_trackBall->lookAt(box.center(), distanceM);
+    m_trackBall->lookAt(box.center(), std::max(leastM, distanceToSee(box)));
 }
 
 void W_simpleOSGViewer::centerView()
@@ -230,22 +230,28 @@ osg::BoundingBox W_simpleOSGViewer::extentsOf(osg::Node *node)
     return box;
 }
 
-void W_simpleOSGViewer::centerView(osg::Node *node)
+/// From which the whole of a box is in view.
+double W_simpleOSGViewer::distanceToSee(const osg::BoundingBox &box) const
 {
-    const osg::BoundingBox box = extentsOf(node);
-    if (!box.valid())
-        return;
     double fieldOfView = 30;
     double aspect = 1;
     double nearPlane = 0;
     double farPlane = 0;
     getCamera()->getProjectionMatrixAsPerspective(fieldOfView, aspect, nearPlane, farPlane);
     const double half = osg::DegreesToRadians(fieldOfView) / 2 * std::min(aspect, 1.0);
+    const double radius = std::max<double>(box.radius(), LeastRadiusM);
+    return Margin * radius / std::sin(half);
+}
+
+void W_simpleOSGViewer::centerView(osg::Node *node)
+{
+    const osg::BoundingBox box = extentsOf(node);
+    if (!box.valid())
+        return;
     m_isUserCamera = true;
     // a flat scene, such as the sites of a town, is seen best from higher up
     const bool isFlat = box.zMax() - box.zMin() < FlatShare * box.radius();
-    const double radius = std::max<double>(box.radius(), LeastRadiusM);
-    m_trackBall->lookAt(box.center(), Margin * radius / std::sin(half),
+    m_trackBall->lookAt(box.center(), distanceToSee(box),
                         isFlat ? FlatElevationDeg : VltTrackBall::UsualElevationDeg);
 }
 

@@ -40,8 +40,8 @@ public:
     /// Looks at the point `heightM` above the origin from `distanceM` metres.
     void placeCamera(double distanceM, double heightM);
 
-    /// Looks at the middle of the whole scene from `distanceM` metres.
-    void lookAtMiddle(double distanceM);
+    /// Looks at the middle of the whole scene, from `leastM` metres or as far as it needs.
+    void lookAtMiddle(double leastM);
 
     /// Detail that the view can show, from its height in pixels and the camera's distance; 10 until
     /// a frame was drawn.
@@ -83,6 +83,7 @@ private:
     QPointF inPixels(const QPointF &position) const { return position * devicePixelRatioF(); }
     QSize sizeInPixels() const;
     osg::BoundingBox extentsOf(osg::Node *node);
+    double distanceToSee(const osg::BoundingBox &box) const;
     void makeGraphicsWindow(osg::GraphicsContext *shareContext);
     void applySize(const QSize &pixels);
     void pick(const QPointF &position);

@@ -18,6 +18,11 @@ public:
     void saveSettings() override;
     void restoreSettings() override;
 
+    void readLinkFileInfo(const QString &path, bool quiet) { readFileInfo(path, quiet); }
+
+public Q_SLOTS:
+    void openLinks() { openTable(); }
+
 private:
     static vlt::sites::TablePageKind linkKind();
     vlt::links::LinkLayerInput layerInput() const;

@@ -14,6 +14,11 @@ public:
     VltAddSitePage(QWidget *wizard, SharedParameters &parameters, const QString &installDir,
                    const QString &language);
 
+    void readSiteFileInfo(const QString &path, bool quiet) { readFileInfo(path, quiet); }
+
+public Q_SLOTS:
+    void openSites() { openTable(); }
+
 private:
     static vlt::sites::TablePageKind siteKind();
     vlt::sites::SiteLayerInput layerInput() const;

@@ -72,10 +72,10 @@ void VltLayerPreview::lookAtDemonstration(double distanceM, double heightM)
     m_ui->m_pwPreview->placeCamera(distanceM, heightM);
 }
 
-void VltLayerPreview::lookAtDemonstration(double distanceM)
+void VltLayerPreview::lookAtDemonstration(double leastM)
 {
     chooseScene(false);
-    m_ui->m_pwPreview->lookAtMiddle(distanceM);
+    m_ui->m_pwPreview->lookAtMiddle(leastM);
 }
 
 /// The layer or the demonstration, whose place the camera of the buttons is made for.

@@ -49,8 +49,8 @@ public:
 
     /// Looks at the demonstration's point `heightM` above its origin.
     void lookAtDemonstration(double distanceM, double heightM);
-    /// Looks at the middle of the demonstration.
-    void lookAtDemonstration(double distanceM);
+    /// Looks at the middle of the demonstration, from `leastM` metres or as far as the whole needs.
+    void lookAtDemonstration(double leastM);
 
 Q_SIGNALS:
     /// The user wants to see the demonstration from afar, or from near.

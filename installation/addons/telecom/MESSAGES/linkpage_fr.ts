@@ -227,7 +227,7 @@ pour ajouter la couche de liaisons
     </message>
     <message id="MESS_WORST_CUT">
         <source>%1 km from A, terrain %2 m above the line</source>
-        <translation>à %1 km de A, terrain à %2 m au-dessus de la ligne</translation>
+        <translation>à %1 km de A, terrain %2 m trop haut</translation>
     </message>
     <message id="MESS_VERDICT_COUNTS">
         <source>%1 clear, %2 marginal, %3 obstructed</source>
