@@ -32,10 +32,12 @@ namespace {
 QString reasonText(const QString &reason)
 {
     if (reason == QLatin1String(linkpath::TerrainNotLocal))
-        return dico_label("MESS_TERRAIN_NOT_LOCAL", "it is not a local file");
+        return dico_label("MESS_TERRAIN_NOT_LOCAL", "no local file has this name");
     if (reason == QLatin1String(linkpath::TerrainNotPlaced))
         return dico_label("MESS_TERRAIN_NOT_PLACED",
                           "it has no band of heights, no place or no coordinate system");
+    if (reason.contains(QLatin1String("not recognized as"))) // the library's words
+        return dico_label("MESS_TERRAIN_NO_RASTER", "its format is not a known raster format");
     return reason;
 }
 

@@ -172,7 +172,9 @@ private Q_SLOTS:
         row("info --link ../empty.csv", 1, "../empty.csv: This link file is empty");
         row("link ../lost.csv -o old.lay", 1, "../lost.csv: none of its links can be placed");
         row("link ../l.csv -o old.lay --terrain ../l.csv", 1,
-            "../l.csv: the terrain file cannot be read as a georeferenced raster (");
+            "../l.csv: the terrain file cannot be read as a georeferenced raster (its format is "
+            "not a known raster format)");
+        row("link ../l.csv -o old.lay --terrain no.tif", 1, "(no local file has this name)");
         row("link ../l.csv -o ../hills.asc --terrain ../hills.asc", 1, "one of the input files");
         row("link ../l.csv", 2, "no output file given (-o OUT.lay), and no --report");
         row("link ../l.csv -o old.lay --link-style rope", 2, "line|tube|billboard");

@@ -96,6 +96,12 @@ private Q_SLOTS:
             << QStringList{line}
             << QStringList{QStringLiteral("-|10|0|7|-|90|-|7|2|A|18700|11131.949"),
                            QStringLiteral("-|10.1|0|7|-|270|-|7|2|B|18700|11131.949")};
+        QTest::newRow("names that are there twice")
+            << QByteArray("Name,Name,X A,Y A,X A,X B,Y B,Frequency\nL,M,10,0,11,10.1,0,7\n")
+            << QStringLiteral("generic (ends side by side)") << QStringLiteral("Site ID")
+            << QStringList{line}
+            << QStringList{QStringLiteral("-|10|0|L|-|90|-|L|2|A|7000|11131.949"),
+                           QStringLiteral("-|10.1|0|L|-|270|-|L|2|B|7000|11131.949")};
         QTest::newRow("ends 0 and 1, transmitting and receiving")
             << QByteArray("link,site_0_lat,site_0_lon,site_1_lat,site_1_lon,tx freq 0,rx freq 0,"
                           "tx freq 1\n7,0,10,0,10.1,6000,6100,6200\n")

@@ -152,12 +152,16 @@ int bestFit(const Names &names, LinkEndId end, Fit (*fitOf)(const EndWords &name
     return best;
 }
 
-Names readNames(const std::vector<Field> &fields, EndStyle style)
+/// Of names as the header has them: the number that makes a second "Name" unique is no end.
+Names readNames(const TableProfile &table, EndStyle style)
 {
     Names names;
-    names.reserve(fields.size());
-    for (const Field &field : fields)
-        names.push_back(readEndWords(field.name, style));
+    names.reserve(table.fields.size());
+    for (const Field &field : table.fields) {
+        const auto inHeader = table.header.names.find(field.column);
+        const bool isNamed = inHeader != table.header.names.end();
+        names.push_back(readEndWords(isNamed ? inHeader->second : std::string(), style));
+    }
     return names;
 }
 
@@ -181,26 +185,26 @@ struct FoundEnds
     bool found() const { return a.found() && b.found(); }
 };
 
-FoundEnds findEnds(const std::vector<Field> &fields, EndStyle style)
+FoundEnds findEnds(const TableProfile &table, EndStyle style)
 {
     FoundEnds ends;
-    ends.names = readNames(fields, style);
-    ends.a = findEnd(ends.names, LinkEndId::A, fields);
-    ends.b = findEnd(ends.names, LinkEndId::B, fields);
+    ends.names = readNames(table, style);
+    ends.a = findEnd(ends.names, LinkEndId::A, table.fields);
+    ends.b = findEnd(ends.names, LinkEndId::B, table.fields);
     ends.areNumbered = ends.found() &&
                        ends.names[static_cast<size_t>(ends.a.xField())].isNumbered &&
                        ends.names[static_cast<size_t>(ends.b.xField())].isNumbered;
     return ends;
 }
 
-FoundEnds findEnds(const std::vector<Field> &fields)
+FoundEnds findEnds(const TableProfile &table)
 {
-    FoundEnds ends = findEnds(fields, EndStyle::Names);
+    FoundEnds ends = findEnds(table, EndStyle::Names);
     if (!ends.found())
-        if (FoundEnds zero = findEnds(fields, EndStyle::Zero); zero.found())
+        if (FoundEnds zero = findEnds(table, EndStyle::Zero); zero.found())
             return zero;
     if (!ends.found() || ends.areNumbered)
-        if (FoundEnds numbered = findEnds(fields, EndStyle::Numbers); numbered.found())
+        if (FoundEnds numbered = findEnds(table, EndStyle::Numbers); numbered.found())
             return numbered;
     return ends;
 }
@@ -269,7 +273,7 @@ CoordinateUnit commonUnit(CoordinateUnit a, CoordinateUnit b)
 
 LinkLayout recogniseLinkLayout(const TableProfile &table)
 {
-    const FoundEnds ends = findEnds(table.fields);
+    const FoundEnds ends = findEnds(table);
     if (!ends.found())
         refuse(ends, table.fields);
     LinkLayout layout;

@@ -98,6 +98,7 @@ GDALDataset *open(GDALOpenInfo *info)
         source.systems = std::make_shared<TableSystems>(
             source.facts().declaration(), connection->option("s_srs"), connection->option("t_srs"));
         source.warnings = std::make_shared<RowWarnings>();
+        source.problems = std::make_shared<std::optional<ProblemList>>();
         auto dataset = std::make_unique<TableDataset>(source);
         dataset->SetDescription(info->pszFilename);
         return dataset.release();

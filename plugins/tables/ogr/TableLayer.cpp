@@ -174,12 +174,12 @@ bool TableLayer::nextRow()
 {
     if (!m_rows) {
         m_rows = startWalk();
-        if (!m_problems)
+        if (!*m_source.problems)
             m_walked = fileProblems();
     }
     if (!m_rows->advance()) {
         if (m_walked)
-            m_problems = std::move(m_walked);
+            *m_source.problems = std::move(m_walked);
         m_walked.reset();
         return false;
     }
@@ -312,7 +312,7 @@ OGRErr TableLayer::GetExtent(OGREnvelope *extent, int force)
         if (!force || !survey(true, found, problems))
             return OGRERR_FAILURE;
         m_extent = found;
-        m_problems = std::move(problems);
+        *m_source.problems = std::move(problems);
     }
     *extent = m_extent;
     return m_extent.IsInit() ? OGRERR_NONE : OGRERR_FAILURE;
@@ -347,15 +347,16 @@ char **TableLayer::problemsMetadata()
 {
     if (m_problemsItems.Count() > 0)
         return m_problemsItems.List();
-    if (!m_problems) {
+    std::optional<ProblemList> &problems = *m_source.problems;
+    if (!problems) {
         OGREnvelope extent;
         ProblemList found = fileProblems();
         survey(false, extent, found);
-        m_problems = std::move(found);
+        problems = std::move(found);
     }
-    m_problemsItems.SetNameValue("COUNT", std::to_string(m_problems->count()).c_str());
+    m_problemsItems.SetNameValue("COUNT", std::to_string(problems->count()).c_str());
     size_t number = 0;
-    for (const RowProblem &problem : m_problems->kept()) {
+    for (const RowProblem &problem : problems->kept()) {
         const std::string row = problem.row > 0 ? std::to_string(problem.row) : std::string();
         const std::string value = "PROBLEM_" + std::to_string(++number) + '=' + row + '|' +
                                   problem.column + '|' + (problem.isError ? "Error" : "Warning") +

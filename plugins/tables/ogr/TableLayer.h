@@ -19,6 +19,8 @@ struct TableSource
     std::shared_ptr<TableFile> file;
     std::shared_ptr<const TableSystems> systems;
     std::shared_ptr<RowWarnings> warnings; ///< a row is warned of once, whichever layer meets it
+    /// Of all rows, once a layer has gone through them: whichever does meets the same ones.
+    std::shared_ptr<std::optional<ProblemList>> problems;
 
     const TableFacts &facts() const { return file->facts(); }
 };
@@ -99,8 +101,7 @@ private:
     int m_nextPart = 0; ///< of the row that was read last; 0: the next row is due
     bool m_failed = false;
     std::optional<ProblemList> m_walked; ///< what the walk that is going on has met since the start
-    std::optional<ProblemList> m_problems; ///< of all rows, once they are known
-    CPLStringList m_problemsItems;         ///< the same as metadata
+    CPLStringList m_problemsItems;       ///< the problems of all rows as metadata
     OGREnvelope m_extent;
 };
 

@@ -48,8 +48,12 @@
         <translation>the terrain file cannot be read as a georeferenced raster</translation>
     </message>
     <message id="MESS_TERRAIN_NOT_LOCAL">
-        <source>it is not a local file</source>
-        <translation>it is not a local file</translation>
+        <source>no local file has this name</source>
+        <translation>no local file has this name</translation>
+    </message>
+    <message id="MESS_TERRAIN_NO_RASTER">
+        <source>its format is not a known raster format</source>
+        <translation>its format is not a known raster format</translation>
     </message>
     <message id="MESS_TERRAIN_NOT_PLACED">
         <source>it has no band of heights, no place or no coordinate system</source>

@@ -48,8 +48,12 @@
         <translation>le fichier de terrain ne peut pas être lu comme image géoréférencée</translation>
     </message>
     <message id="MESS_TERRAIN_NOT_LOCAL">
-        <source>it is not a local file</source>
-        <translation>ce n'est pas un fichier local</translation>
+        <source>no local file has this name</source>
+        <translation>aucun fichier local ne porte ce nom</translation>
+    </message>
+    <message id="MESS_TERRAIN_NO_RASTER">
+        <source>its format is not a known raster format</source>
+        <translation>son format n'est pas un format d'image connu</translation>
     </message>
     <message id="MESS_TERRAIN_NOT_PLACED">
         <source>it has no band of heights, no place or no coordinate system</source>
