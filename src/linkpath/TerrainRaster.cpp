@@ -5,26 +5,40 @@
 
 #include <cpl_error.h>
 
+#include <algorithm>
+#include <array>
 #include <cmath>
-#include <cstring>
+#include <utility>
 
 namespace vlt::linkpath {
 
 namespace {
 
 constexpr int BlockSide = 256;
-constexpr std::size_t MostBlocks = 256; ///< 128 MiB
+constexpr std::size_t MostBlocks = 256;     ///< 128 MiB
+constexpr double MostBlockPixels = 1 << 27; ///< of the file's own blocks, which are read whole
 constexpr double MetresPerDegree = 111320;
 constexpr double MetresPerFoot = 0.3048;
 constexpr double MetresPerSurveyFoot = 1200.0 / 3937;
+constexpr double FarthestFromSeaLevelM = 12000; ///< no ground is higher or deeper
+constexpr double EdgePixels = 1e-6; ///< by which rounding may move a place beyond the edge
 
 double metresPerUnit(const char *unit)
 {
-    const std::string text = unit ? unit : "";
-    if (EQUAL(text.c_str(), "ft") || EQUAL(text.c_str(), "foot") || EQUAL(text.c_str(), "feet"))
-        return MetresPerFoot;
-    if (EQUAL(text.c_str(), "us-ft") || EQUAL(text.c_str(), "US survey foot"))
-        return MetresPerSurveyFoot;
+    constexpr std::array<std::pair<const char *, double>, 9> Units = {
+        {{"ft", MetresPerFoot},
+         {"foot", MetresPerFoot},
+         {"feet", MetresPerFoot},
+         {"international foot", MetresPerFoot},
+         {"us-ft", MetresPerSurveyFoot},
+         {"ftUS", MetresPerSurveyFoot},
+         {"US survey foot", MetresPerSurveyFoot},
+         {"US survey feet", MetresPerSurveyFoot},
+         {"Foot_US", MetresPerSurveyFoot}}};
+    for (const auto &[name, metres] : Units) {
+        if (unit && EQUAL(unit, name))
+            return metres;
+    }
     return 1;
 }
 
@@ -48,8 +62,8 @@ std::unique_ptr<TerrainRaster> TerrainRaster::open(const std::string &path, std:
         else
             raster.reset(new TerrainRaster(std::move(dataset)));
     }
-    if (raster && !raster->prepare()) {
-        why = TerrainNotPlaced;
+    if (const char *fault = raster ? raster->prepare() : nullptr) {
+        why = fault;
         raster.reset();
     }
     if (!raster && reason)
@@ -57,20 +71,27 @@ std::unique_ptr<TerrainRaster> TerrainRaster::open(const std::string &path, std:
     return raster;
 }
 
-bool TerrainRaster::prepare()
+const char *TerrainRaster::prepare()
 {
     double toPlace[6];
     const OGRSpatialReference *srs = m_dataset->GetSpatialRef();
     if (m_dataset->GetRasterCount() < 1 || !srs || srs->IsEmpty() || srs->IsLocal() ||
         m_dataset->GetGeoTransform(toPlace) != CE_None || !GDALInvGeoTransform(toPlace, m_toPixel))
-        return false;
+        return TerrainNotPlaced;
     m_srs = *srs;
     m_srs.SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
     m_band = m_dataset->GetRasterBand(1);
     if (GDALDataTypeIsComplex(m_band->GetRasterDataType()))
-        return false;
-    const double unitM = srs->IsGeographic() ? MetresPerDegree * srs->GetAngularUnits() * 180 / M_PI
-                                             : srs->GetLinearUnits();
+        return TerrainNotPlaced;
+    int blockWidth = 0;
+    int blockHeight = 0;
+    m_band->GetBlockSize(&blockWidth, &blockHeight);
+    if (static_cast<double>(blockWidth) * blockHeight > MostBlockPixels)
+        return TerrainTooLarge;
+    if (srs->IsGeographic())
+        m_wholeTurn = 2 * M_PI / srs->GetAngularUnits();
+    const double unitM =
+        m_wholeTurn > 0 ? MetresPerDegree * 360 / m_wholeTurn : srs->GetLinearUnits();
     m_pixelSizeM =
         unitM * std::min(std::hypot(toPlace[1], toPlace[4]), std::hypot(toPlace[2], toPlace[5]));
     const double toM = metresPerUnit(m_band->GetUnitType());
@@ -78,9 +99,10 @@ bool TerrainRaster::prepare()
     m_offset = m_band->GetOffset() * toM;
     int hasNoData = 0;
     const double noData = m_band->GetNoDataValue(&hasNoData);
-    if (hasNoData)
-        m_noData = noData;
-    return m_pixelSizeM > 0;
+    const bool isSingle = m_band->GetRasterDataType() == GDT_Float32;
+    if (hasNoData) // as the band can store it
+        m_noData = isSingle ? static_cast<double>(static_cast<float>(noData)) : noData;
+    return m_pixelSizeM > 0 ? nullptr : TerrainNotPlaced;
 }
 
 std::optional<double> TerrainRaster::pixelM(int column, int row)
@@ -112,26 +134,37 @@ std::optional<double> TerrainRaster::pixelM(int column, int row)
     const auto at = static_cast<std::size_t>(row % BlockSide) * BlockSide +
                     static_cast<std::size_t>(column % BlockSide);
     const double value = found->second.values[at];
-    if (!std::isfinite(value) || (m_noData && value == *m_noData))
+    const double aboveSeaM = value * m_scale + m_offset;
+    if (!(std::abs(aboveSeaM) <= FarthestFromSeaLevelM) || (m_noData && value == *m_noData))
         return std::nullopt;
-    return value * m_scale + m_offset;
+    return aboveSeaM;
+}
+
+std::optional<TerrainRaster::Pixel> TerrainRaster::pixelAt(double x, double y) const
+{
+    const double column = m_toPixel[0] + m_toPixel[1] * x + m_toPixel[2] * y - 0.5;
+    const double row = m_toPixel[3] + m_toPixel[4] * x + m_toPixel[5] * y - 0.5;
+    const double right = m_band->GetXSize() - 1;
+    const double bottom = m_band->GetYSize() - 1;
+    constexpr double Rim = 0.5 + EdgePixels;
+    if (!(column >= -Rim && row >= -Rim && column <= right + Rim && row <= bottom + Rim))
+        return std::nullopt;
+    return Pixel{std::clamp(column, 0.0, right), std::clamp(row, 0.0, bottom)};
 }
 
 std::optional<double> TerrainRaster::heightM(double x, double y)
 {
-    // counted from the centre of the first pixel
-    const double column = m_toPixel[0] + m_toPixel[1] * x + m_toPixel[2] * y - 0.5;
-    const double row = m_toPixel[3] + m_toPixel[4] * x + m_toPixel[5] * y - 0.5;
-    const int width = m_band->GetXSize();
-    const int height = m_band->GetYSize();
-    if (!(column >= -0.5 && row >= -0.5 && column <= width - 0.5 && row <= height - 0.5))
+    std::optional<Pixel> pixel = pixelAt(x, y);
+    for (const double turn : {m_wholeTurn, -m_wholeTurn}) { // longitudes go on at the date line
+        if (!pixel && turn != 0)
+            pixel = pixelAt(x + turn, y);
+    }
+    if (!pixel)
         return std::nullopt;
-    const double inColumn = std::min(std::max(column, 0.0), width - 1.0);
-    const double inRow = std::min(std::max(row, 0.0), height - 1.0);
-    const int left = static_cast<int>(inColumn);
-    const int top = static_cast<int>(inRow);
-    const double toRight = inColumn - left;
-    const double down = inRow - top;
+    const int left = static_cast<int>(pixel->column);
+    const int top = static_cast<int>(pixel->row);
+    const double toRight = pixel->column - left;
+    const double down = pixel->row - top;
     double sum = 0;
     for (const auto &[c, r, weight] : {std::tuple(left, top, (1 - toRight) * (1 - down)),
                                        std::tuple(left + 1, top, toRight * (1 - down)),

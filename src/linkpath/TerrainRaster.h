@@ -16,6 +16,7 @@ namespace vlt::linkpath {
 inline constexpr char TerrainNotLocal[] = "it is not a local file";
 inline constexpr char TerrainNotPlaced[] =
     "it has no band of heights, no place or no coordinate system";
+inline constexpr char TerrainTooLarge[] = "it is stored in blocks that are too large";
 
 /// Heights of a terrain file, band 1, read as they are needed. Not for two threads at once.
 class TerrainRaster
@@ -27,8 +28,9 @@ public:
     static std::unique_ptr<TerrainRaster> open(const std::string &path, std::string *reason);
 
     /// Height above sea level in metres, between the centres of the four pixels around the point;
-    /// nothing outside the raster and where one of them has no data. x, y in the raster's system,
-    /// x being east or longitude.
+    /// nothing outside the raster and where one of them has no data or tells no height of this
+    /// earth. x, y in the raster's system, x being east or longitude, of which a whole turn more or
+    /// less is the same.
     std::optional<double> heightM(double x, double y);
 
     /// Axis order: x (east, longitude) first.
@@ -43,17 +45,26 @@ private:
         std::list<std::int64_t>::iterator place;
     };
 
+    /// Counted from the centre of the first one.
+    struct Pixel
+    {
+        double column;
+        double row;
+    };
+
     explicit TerrainRaster(GDALDatasetUniquePtr dataset) : m_dataset(std::move(dataset)) {}
-    bool prepare();
+    const char *prepare(); ///< the reason of a refusal, else null
     std::optional<double> pixelM(int column, int row);
+    std::optional<Pixel> pixelAt(double x, double y) const; ///< nothing outside
 
     GDALDatasetUniquePtr m_dataset;
     GDALRasterBand *m_band = nullptr;
     OGRSpatialReference m_srs;
     double m_toPixel[6] = {};
     double m_pixelSizeM = 0;
-    double m_scale = 1;  ///< metres per stored unit
-    double m_offset = 0; ///< metres
+    double m_wholeTurn = 0; ///< in the unit of longitudes; 0: a projected system
+    double m_scale = 1;     ///< metres per stored unit
+    double m_offset = 0;    ///< metres
     std::optional<double> m_noData;
     std::unordered_map<std::int64_t, Block> m_blocks;
     std::list<std::int64_t> m_recent; ///< numbers of the blocks, the latest first

@@ -69,6 +69,8 @@ private Q_SLOTS:
     void verdicts();
     void distances();
     void whatCannotBeJudged();
+    void heights_data();
+    void heights();
     void refusedTerrain_data();
     void refusedTerrain();
 
@@ -189,19 +191,98 @@ void tst_LinkPath::whatCannotBeJudged()
     QCOMPARE(judged(110, -1, 0, {WestM - 500, WestEnd.y, 50.0}, 6000), Verdict::Unknown);
 }
 
+// Two rows of two pixels, stored as 10, 20, 30 and `last`.
+void tst_LinkPath::heights_data()
+{
+    QTest::addColumn<int>("epsg");
+    QTest::addColumn<QList<double>>("placing");
+    QTest::addColumn<double>("last");
+    QTest::addColumn<QString>("unit");
+    QTest::addColumn<QList<double>>("scaling"); // factor, summand
+    QTest::addColumn<QList<double>>("place");
+    QTest::addColumn<double>("height"); // not finite: none
+    const auto row = [](const char *name, double height, const QList<double> &place,
+                        double last = 40, const char *unit = "m",
+                        const QList<double> &scaling = {1, 0}, int epsg = 2154,
+                        const QList<double> &placing = {6e5, 100, 0, 7e6, 0, -100}) {
+        QTest::newRow(name) << epsg << placing << last << QString::fromLatin1(unit) << scaling
+                            << place << height;
+    };
+    const double none = std::nan("");
+    row("middle of all", 25, {600100, 6999900});
+    row("middle of a pixel", 30, {600050, 6999850});
+    row("at the edge", 20, {600200 + 1e-6, 6999950});
+    row("beyond it", none, {600201, 6999950});
+    row("feet", 7.62, {600100, 6999900}, 40, "ft");
+    row("scaled feet", 34.29, {600100, 6999900}, 40, "ft", {0.5, 100});
+    row("from the south", 10, {600050, 6999850}, 40, "m", {1, 0}, 2154,
+        {6e5, 100, 0, 6999800, 0, 100});
+    row("a quarter turned", 30, {600150, 6999950}, 40, "m", {1, 0}, 2154,
+        {6e5, 0, 100, 7e6, -100, 0});
+    row("beyond the date line", 25, {-180, -17}, 40, "m", {1, 0}, 4326, {179, 1, 0, -16, 0, -1});
+    row("a whole turn further", 25, {-3, 47}, 40, "m", {1, 0}, 4326, {356, 1, 0, 48, 0, -1});
+    row("a hole", none, {600140, 6999860}, -9999.9);
+    row("beside it", 20, {600150, 6999950}, -9999.9);
+    row("no height of the earth", none, {600140, 6999860}, -32768);
+}
+
+void tst_LinkPath::heights()
+{
+    QFETCH(int, epsg);
+    QFETCH(QList<double>, placing);
+    QFETCH(double, last);
+    QFETCH(QString, unit);
+    QFETCH(QList<double>, scaling);
+    QFETCH(QList<double>, place);
+    QFETCH(double, height);
+    const QByteArray path = m_dir.filePath(QStringLiteral("four.tif")).toLocal8Bit();
+    GDALAllRegister();
+    GDALDatasetUniquePtr file(GetGDALDriverManager()->GetDriverByName("GTiff")->Create(
+        path.constData(), 2, 2, 1, GDT_Float32, nullptr));
+    OGRSpatialReference srs;
+    srs.importFromEPSG(epsg);
+    GDALRasterBand &band = *file->GetRasterBand(1);
+    double values[] = {10, 20, 30, last};
+    file->SetGeoTransform(placing.data());
+    file->SetSpatialRef(&srs);
+    band.SetNoDataValue(-9999.9);
+    band.SetUnitType(unit.toLatin1().constData());
+    band.SetScale(scaling[0]);
+    band.SetOffset(scaling[1]);
+    QCOMPARE(band.RasterIO(GF_Write, 0, 0, 2, 2, values, 2, 2, GDT_Float64, 0, 0, nullptr),
+             CE_None);
+    file.reset();
+
+    const auto read = TerrainRaster::open(path.toStdString(), nullptr)->heightM(place[0], place[1]);
+
+    QCOMPARE(read.has_value(), std::isfinite(height));
+    QVERIFY(!read || std::abs(*read - height) < 1e-3);
+}
+
 void tst_LinkPath::refusedTerrain_data()
 {
+    GDALAllRegister();
     QTest::addColumn<QString>("path");
     QTest::newRow("no file") << m_dir.filePath(QStringLiteral("none.tif"));
     QTest::newRow("virtual file") << QStringLiteral("/vsimem/a.tif");
     QTest::newRow("address") << QStringLiteral("http://127.0.0.1/a.tif");
     QTest::newRow("no raster") << QStringLiteral(__FILE__);
     QTest::newRow("folder") << m_dir.path();
+    const QString wide = m_dir.filePath(QStringLiteral("wide.tif"));
+    CPLStringList options;
+    options.SetNameValue("SPARSE_OK", "TRUE");
+    options.SetNameValue("COMPRESS", "DEFLATE");
+    options.SetNameValue("BLOCKYSIZE", "20000");
+    GDALDatasetUniquePtr file(GetGDALDriverManager()->GetDriverByName("GTiff")->Create(
+        wide.toLocal8Bit().constData(), 100000, 20000, 1, GDT_Float32, options.List()));
+    double place[6] = {WestM, 1, 0, NorthM, 0, -1};
+    file->SetGeoTransform(place);
+    file->SetSpatialRef(utm().get());
+    QTest::newRow("one block of 8 GB") << wide;
 }
 
 void tst_LinkPath::refusedTerrain()
 {
-    GDALAllRegister();
     QFETCH(QString, path);
     std::string reason;
     QVERIFY(!TerrainRaster::open(path.toStdString(), &reason));

@@ -142,6 +142,25 @@ private Q_SLOTS:
         QCOMPARE(records.pylons.designs[1].transmitters.size(), std::size_t{3});
     }
 
+    void leavesOutWhatIsBeyondTheEarth()
+    {
+        const QByteArray good = ",650000,6860000,20,23000,B,653000,6864000,70,23000\n";
+        write(path("slip.csv"),
+              QByteArray(Header).replace("Lat", "X").replace("Long", "Y").replace("itude", "") +
+                  "a,A" + good + "b,A" + good +
+                  "slip,A,6.5e300,6860000,30,23000,B,653000,6864000,70,23000\n"
+                  "thin,A,650000,6860000,30,1e-3,A,650003,6860000,90,1e-3\n");
+
+        const LinkRecords records = recordsOf(
+            linkSource().replace("s_srs=4171", "s_srs=2154").replace("t.csv", "slip.csv"));
+
+        QCOMPARE(records.links.size(), std::size_t{3});
+        QVERIFY((records.links[0].a - osg::Vec3d(-1500, -2000, 120)).length() < 1);
+        QCOMPARE(records.links[2].frequencyMHz, 0.0); // none that a microwave has
+        // the mast carries the height of a link from one of its sides to the other, too
+        QCOMPARE(records.pylons.designs[0].heightM, 92.0);
+    }
+
     void colorsLinksByTheirVerdicts()
     {
         const LinkRecords records = recordsOf(linkSource());

@@ -62,10 +62,16 @@ struct Finder : osg::NodeVisitor
         sorted += geometry.getStateSet()->getRenderingHint() == osg::StateSet::TRANSPARENT_BIN;
         ++drawables;
     }
+    void apply(osg::LOD &lod) override
+    {
+        levels = std::max(levels, lod.getNumChildren());
+        traverse(lod);
+    }
     std::vector<osg::Vec3d> vertices;
     std::vector<osg::Vec3d> normals;
     int drawables = 0;
     int sorted = 0;
+    unsigned levels = 0; ///< most of one node
 };
 
 Finder found(osg::Node &node)
@@ -304,28 +310,66 @@ private Q_SLOTS:
 
     void letsTheZoneShineThrough_data()
     {
-        QTest::addColumn<double>("eye");
+        QTest::addColumn<QList<double>>("eye");
         QTest::addColumn<int>("red");
-        QTest::newRow("two walls: 0.4") << -1000.0 << 102;
-        QTest::newRow("from inside, one wall: 1 - sqrt(0.6)") << -10.0 << 57;
+        const auto row = [](const char *what, const QList<double> &eye, int red) {
+            QTest::newRow(what) << eye << red;
+        };
+        row("two walls: 0.4", {0, -1000, 0}, 102);
+        row("from inside, one wall: 1 - sqrt(0.6)", {0, -10, 0}, 57);
+        // through walls that face the eye by 0.198 and are darker by 1 - 0.75 - 0.25 * 0.198
+        row("flat along it: 0.4", {-1700, -150, 0}, 82);
     }
     void letsTheZoneShineThrough()
     {
-        QFETCH(double, eye);
+        QFETCH(QList<double>, eye);
         QFETCH(int, red);
         LinkLook look = lookOf(LinkStyle::Line, 1);
         look.color = Color(0, 0, 0, 0);
         look.fresnelZone = 1;
         look.fresnelColor = Color(255, 165, 0, 102);
 
-        const auto image =
-            picture(buildLinks({{{-500, 0, 0}, {500, 0, 0}, 30, {}}}, look), {0, eye, 0}, false);
+        const auto image = picture(buildLinks({{{-500, 0, 0}, {500, 0, 0}, 30, {}}}, look),
+                                   {eye[0], eye[1], eye[2]}, false);
 
         if (!image)
             QSKIP("no screen");
         const osg::Vec4 color = image->getColor(150, 150);
         QVERIFY2(std::abs(color.r() * 255 - red) < 4, qPrintable(QString::number(color.r())));
         QVERIFY2(std::abs(color.g() / color.r() - 0.647) < 0.03, "not in its colour");
+    }
+
+    void drawsTheLineOverItsZone_data()
+    {
+        QTest::addColumn<int>("style");
+        QTest::addColumn<double>("eye"); // from afar a zone is as thin as its line
+        for (const auto &[name, style] : {std::pair("line", LinkStyle::Line),
+                                          {"tube", LinkStyle::Tube},
+                                          {"band", LinkStyle::Billboard}}) {
+            QTest::addRow("%s", name) << int(style) << -200.0;
+            QTest::addRow("%s from afar", name) << int(style) << -20000.0;
+        }
+    }
+    void drawsTheLineOverItsZone()
+    {
+        QFETCH(int, style);
+        QFETCH(double, eye);
+        LinkLook look = lookOf(static_cast<LinkStyle>(style), 3);
+        look.fresnelZone = 1;
+        look.fresnelColor = Color(255, 0, 0, 200);
+
+        const auto image = picture(buildLinks({{{-9000, 0, 0}, {9000, 0, 0}, 6000, {}}}, look),
+                                   {0, eye, 0}, false);
+
+        if (!image)
+            QSKIP("no screen");
+        for (int x = 140; x < 160; ++x) {
+            osg::Vec4 line;
+            for (int y = 148; y < 153; ++y)
+                line = std::max(line, image->getColor(x, y),
+                                [](auto &a, auto &b) { return a.g() < b.g(); });
+            QVERIFY(line.g() > 0.9F && line.r() < 0.1F);
+        }
     }
 
     void keepsManyLinksSmall()
@@ -345,6 +389,7 @@ private Q_SLOTS:
         qInfo("%zu vertices, %d drawables", all.vertices.size(), all.drawables);
         QVERIFY(all.vertices.size() < 3500000);
         QVERIFY(all.drawables <= 4 * 64);
+        QCOMPARE(all.levels, 1U); // those of pylons have several
         osg::ComputeBoundsVisitor bounds;
         scene->accept(bounds);
         QVERIFY(std::abs(bounds.getBoundingBox().xMax() - 499000) < 3);

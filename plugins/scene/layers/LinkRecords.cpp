@@ -96,7 +96,7 @@ private:
         const osg::Vec3d foot(middle.x(), middle.y(), ground.value_or(0.0));
         m_records.pylons.sites.push_back({ends.site, foot, pylon});
         m_records.pylons.designs.push_back(m_style.pylons.pylon);
-        m_records.pylons.designs.back().heightM = UsualMastM;
+        m_records.pylons.designs.back().heightM = 0; // until the antennas are known
     }
 
     void add(const LinkRow &row, const Pylons &pylons)
@@ -107,6 +107,8 @@ private:
             heightsM[i] = row.ends[i].end.heightM.value_or(UsualLinkAntennaM);
             centres[i].set(row.ends[i].place.x(), row.ends[i].place.y(),
                            m_records.pylons.sites[pylons[i]].foot.z() + heightsM[i]);
+            double &mastM = m_records.pylons.designs[pylons[i]].heightM;
+            mastM = std::max(mastM, heightsM[i] + AboveAntennasM);
         }
         if (pylons[0] != pylons[1]) {
             hang(pylons[0], centres[1] - centres[0], heightsM[0]);
@@ -125,7 +127,6 @@ private:
         if (count == MaxTransmitters)
             return;
         const std::vector<Color> &colors = m_style.pylons.colors;
-        design.heightM = std::max(count == 0 ? 0 : design.heightM, heightM + AboveAntennasM);
         design.transmitters.push_back(dishAlong(way, heightM, colors[count % colors.size()]));
     }
 

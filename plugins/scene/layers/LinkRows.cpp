@@ -3,6 +3,7 @@
 #include "layers/BadLayer.h"
 #include "layers/SiteColumns.h"
 #include "layers/TableReading.h"
+#include "link/LinkObject.h"
 
 #include <cpl_error.h>
 
@@ -14,7 +15,6 @@ namespace vlt::scene {
 namespace {
 
 constexpr double HighestAntennaM = 2000;
-constexpr double HighestMHz = 1e7;
 
 /// Fields of a layer of link ends, by their index; -1 where there is none.
 struct EndColumns
@@ -96,7 +96,7 @@ private:
     {
         const std::size_t which = textAt(feature, m_columns.end) == "B" ? 1 : 0;
         const double frequency =
-            numberAt(feature, m_columns.frequency, 0, HighestMHz).value_or(0.0);
+            numberAt(feature, m_columns.frequency, LowestMHz, HighestMHz).value_or(0.0);
         if (which == 0 || m_row.frequencyMHz == 0)
             m_row.frequencyMHz = frequency > 0 ? frequency : m_row.frequencyMHz;
         LinkRowEnd &end = m_row.ends[which];

@@ -76,7 +76,7 @@ std::vector<std::string> tableDirectories(const std::string &layerFile, const st
     addParent(project.c_str());
     addParent(std::getenv("VLT_CURRENT_PROJECT"));
     addParent(layerFile.c_str());
-    add({});
+    add(here);
     return directories;
 }
 

@@ -7,6 +7,8 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cmath>
+#include <iterator>
 #include <limits>
 
 namespace vlt::scene {
@@ -25,6 +27,33 @@ std::optional<double> numberIn(std::string_view text)
     const auto [end, fault] = std::from_chars(plain.data() + begin, last, value);
     const bool whole = std::all_of(end, last, [](char c) { return c == ' '; });
     return fault == std::errc() && whole ? std::optional(value) : std::nullopt;
+}
+
+double medianOf(std::vector<double> values)
+{
+    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
+    std::nth_element(values.begin(), middle, values.end());
+    return *middle;
+}
+
+/// Those in the midst of which a frame is laid: not such as a slip of the pen puts beyond the
+/// earth, from where the others would be out of reach.
+std::vector<osg::Vec2d> likely(const std::vector<osg::Vec2d> &places, double unitM)
+{
+    if (places.empty())
+        return {};
+    std::vector<double> x;
+    std::vector<double> y;
+    for (const osg::Vec2d &place : places) {
+        x.push_back(place.x());
+        y.push_back(place.y());
+    }
+    const osg::Vec2d midst(medianOf(std::move(x)), medianOf(std::move(y)));
+    std::vector<osg::Vec2d> near;
+    std::copy_if(
+        places.begin(), places.end(), std::back_inserter(near),
+        [&](const osg::Vec2d &place) { return (place - midst).length() * unitM <= FarthestM; });
+    return near;
 }
 
 std::string nameOf(const OGRSpatialReference *srs)
@@ -99,7 +128,9 @@ std::optional<osg::Vec2d> placeOf(const OGRFeature &feature)
     if (!geometry || wkbFlatten(geometry->getGeometryType()) != wkbPoint || geometry->IsEmpty())
         return std::nullopt;
     const OGRPoint &point = *geometry->toPoint();
-    return osg::Vec2d(point.getX(), point.getY());
+    const osg::Vec2d place(point.getX(), point.getY());
+    return std::isfinite(place.x()) && std::isfinite(place.y()) ? std::optional(place)
+                                                                : std::nullopt;
 }
 
 std::optional<double> numberAt(const OGRFeature &feature, int field, double least, double most)
@@ -120,7 +151,8 @@ std::string textAt(const OGRFeature &feature, int field)
 SceneFrame moveToFrame(OGRLayer &layer, std::vector<osg::Vec2d> &places)
 {
     const OGRSpatialReference *srs = layer.GetSpatialRef();
-    SceneFrame frame{std::make_shared<LocalFrame>(srs, places), nameOf(srs)};
+    const double unitM = srs && srs->IsProjected() ? srs->GetLinearUnits() : 1;
+    SceneFrame frame{std::make_shared<LocalFrame>(srs, likely(places, unitM)), nameOf(srs)};
     for (osg::Vec2d &place : places) {
         place = frame.local->toFrame(place);
         if (!(place.length() <= FarthestM))

@@ -26,17 +26,26 @@ constexpr std::size_t NoVertex = static_cast<std::size_t>(-1);
 constexpr std::array<std::array<double, 3>, 4> Earth = {
     {{214, 208, 188}, {206, 190, 154}, {188, 164, 128}, {226, 218, 206}}};
 
+constexpr std::array<double, 3> Water = {176, 198, 216};
+
+Color lit(const std::array<double, 3> &rgb, double light)
+{
+    Color color(0, 0, 0, 255);
+    for (unsigned i = 0; i < 3; ++i)
+        color[i] = static_cast<unsigned char>(std::lround(light * rgb[i]));
+    return color;
+}
+
 /// @param light  0 .. 1
 Color earthAt(double share, double light)
 {
     const double at = std::clamp(share, 0.0, 1.0) * (Earth.size() - 1);
     const std::size_t low = std::min(static_cast<std::size_t>(at), Earth.size() - 2);
     const double part = at - static_cast<double>(low);
-    Color color(0, 0, 0, 255);
-    for (unsigned i = 0; i < 3; ++i)
-        color[i] = static_cast<unsigned char>(
-            std::lround(light * (Earth[low][i] * (1 - part) + Earth[low + 1][i] * part)));
-    return color;
+    std::array<double, 3> rgb{};
+    for (std::size_t i = 0; i < rgb.size(); ++i)
+        rgb[i] = Earth[low][i] * (1 - part) + Earth[low + 1][i] * part;
+    return lit(rgb, light);
 }
 
 /// Heights at equal steps in a frame.
@@ -75,8 +84,10 @@ public:
                     continue;
                 const osg::Vec2d place = at(column, row);
                 const double share = (*m_heights[i] - least) / std::max(most - least, 1.0);
-                vertices[i] = mesh.vertex(osg::Vec3d(place.x(), place.y(), *m_heights[i]),
-                                          osg::Z_AXIS, earthAt(share, light(column, row)));
+                const double bright = light(column, row);
+                vertices[i] =
+                    mesh.vertex(osg::Vec3d(place.x(), place.y(), *m_heights[i]), osg::Z_AXIS,
+                                isWater(column, row) ? lit(Water, bright) : earthAt(share, bright));
             }
         }
         for (std::size_t row = 0; row + 1 < m_rows; ++row) {
@@ -134,6 +145,19 @@ private:
         osg::Vec3d sun(-1, 1, 1.4);
         sun.normalize();
         return Shadow + (1 - Shadow) * std::max(0.0, normal * sun);
+    }
+
+    /// Level ground that is not above the sea.
+    bool isWater(std::size_t column, std::size_t row) const
+    {
+        const std::size_t i = row * m_columns + column;
+        const auto isLevel = [this, i](std::size_t other) {
+            return !m_heights[other] || *m_heights[other] == *m_heights[i];
+        };
+        return *m_heights[i] <= 0 && (column == 0 || isLevel(i - 1)) &&
+               (column + 1 == m_columns || isLevel(i + 1)) &&
+               (row == 0 || isLevel(i - m_columns)) &&
+               (row + 1 == m_rows || isLevel(i + m_columns));
     }
 
     void addQuad(Mesh &mesh, const std::vector<std::size_t> &vertices, std::size_t corner) const

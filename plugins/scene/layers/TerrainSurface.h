@@ -11,8 +11,8 @@ namespace vlt::scene {
 /// Most points of a surface along either side.
 inline constexpr unsigned MostSurfacePoints = 300;
 
-/// The terrain's surface under a scene, in colours of earth that go by height, shaded as on maps.
-/// Where the terrain has no height there is a hole.
+/// The terrain's surface under a scene, in colours of earth that go by height, shaded as on maps;
+/// what is level and not above the sea is water. Where the terrain has no height there is a hole.
 ///
 /// @param extent  of the scene in the frame; the surface goes a little beyond it
 /// @return  null where there is no terrain at all

@@ -3,6 +3,7 @@
 #include "link/LinkStates.h"
 #include "linkpath/Fresnel.h"
 #include "mesh/Solids.h"
+#include "pylon/DeferredNode.h"
 
 #include <osg/Geode>
 #include <osg/LOD>
@@ -42,9 +43,15 @@ Fineness finenessFor(std::size_t links)
     return Finest.back();
 }
 
-constexpr Fineness FromAfar = {6, 10};
-constexpr double Afar =
-    400; ///< distance in half widths of an ellipsoid, which are few pixels there
+// distances in half widths of an ellipsoid
+constexpr double Afar = 400;     ///< it is a few pixels wide
+constexpr double Unseen = 10000; ///< it is less than one pixel wide, also in large pictures
+
+Fineness finenessFromAfar(std::size_t links)
+{
+    constexpr std::size_t Many = 20000;
+    return links <= Many ? Fineness{6, 10} : Fineness{4, 6};
+}
 
 /// The opacity of one wall, where a look through two of them has the given one.
 Color forOneOfTwoWalls(Color color)
@@ -66,6 +73,23 @@ struct Ellipsoid
     osg::Vec3d along; ///< to a tip
     double halfWidth;
 };
+
+using Ellipsoids = std::vector<Ellipsoid>;
+
+osg::ref_ptr<osg::Node> drawn(const Ellipsoids &ellipsoids, Fineness fineness, const Color &color,
+                              osg::StateSet *state)
+{
+    Mesh mesh;
+    for (const Ellipsoid &ellipsoid : ellipsoids)
+        addSpheroid(mesh, ellipsoid.centre, ellipsoid.along, ellipsoid.halfWidth, fineness.around,
+                    fineness.along, color);
+    osg::ref_ptr<osg::Geometry> geometry = new osg::Geometry;
+    mesh.fill(*geometry);
+    geometry->setStateSet(state);
+    osg::ref_ptr<osg::Geode> geode = new osg::Geode;
+    geode->addDrawable(geometry);
+    return geode;
+}
 
 /// A mesh of lines of sight; bands need a way from the middle line with each vertex.
 struct LineMesh
@@ -220,9 +244,9 @@ private:
         }
     }
 
-    std::vector<Ellipsoid> ellipsoidsOf(const Picked &links, const osg::Vec3d &origin) const
+    Ellipsoids ellipsoidsOf(const Picked &links, const osg::Vec3d &origin) const
     {
-        std::vector<Ellipsoid> ellipsoids;
+        Ellipsoids ellipsoids;
         for (const LinkObject *link : links) {
             if (!(link->frequencyMHz > 0))
                 continue;
@@ -235,40 +259,47 @@ private:
         return ellipsoids;
     }
 
-    /// Many links have coarser ellipsoids in tiles that are far away.
-    void addEllipsoids(osg::Group &place, const std::vector<Ellipsoid> &ellipsoids) const
+    /// Many links have coarser ellipsoids in tiles that are far away, and fine ones from when they
+    /// are first seen near by.
+    void addEllipsoids(osg::Group &place, const Ellipsoids &ellipsoids) const
     {
         if (ellipsoids.empty())
             return;
-        const osg::ref_ptr<osg::Node> fine = drawn(ellipsoids, m_fineness);
+        const osg::ref_ptr<osg::StateSet> state =
+            m_ellipsoids[static_cast<std::size_t>(opacityOf(m_look.fresnelColor))];
+        const auto make = [ellipsoids, state, color = m_zoneColor](Fineness fineness) {
+            return drawn(ellipsoids, fineness, color, state);
+        };
         if (m_links.size() <= LinksPerTile) {
-            place.addChild(fine);
+            place.addChild(make(m_fineness));
             return;
         }
         double widest = 0;
         for (const Ellipsoid &ellipsoid : ellipsoids)
             widest = std::max(widest, ellipsoid.halfWidth);
-        const osg::BoundingSphere &bound = fine->getBound();
+        const osg::ref_ptr<osg::Node> coarse = make(finenessFromAfar(m_links.size()));
+        osg::BoundingSphere bound = coarse->getBound();
+        bound.radius() += static_cast<float>(widest);
         const auto near = static_cast<float>(bound.radius() + Afar * widest);
-        osg::ref_ptr<osg::LOD> levels = new osg::LOD;
-        levels->setCenterMode(osg::LOD::USER_DEFINED_CENTER);
-        levels->setCenter(bound.center());
-        levels->setRadius(bound.radius());
-        levels->addChild(fine, 0, near);
-        levels->addChild(drawn(ellipsoids, FromAfar), near, std::numeric_limits<float>::max());
-        place.addChild(levels);
+        // with lines of sight to be seen by, what is less than a pixel need not be drawn
+        const double far = m_look.color.a() > 0 ? bound.radius() + Unseen * widest
+                                                : std::numeric_limits<float>::max();
+        const osg::ref_ptr<DeferredNode> fine =
+            new DeferredNode([make, fineness = m_fineness] { return make(fineness); }, bound);
+        place.addChild(seenFrom(0, near, fine, bound));
+        place.addChild(seenFrom(near, static_cast<float>(far), coarse, bound));
     }
 
-    osg::ref_ptr<osg::Node> drawn(const std::vector<Ellipsoid> &ellipsoids, Fineness fineness) const
+    /// A level of its own: nodes with several are those of pylons.
+    static osg::ref_ptr<osg::Node> seenFrom(float nearM, float farM, osg::Node *what,
+                                            const osg::BoundingSphere &bound)
     {
-        Mesh mesh;
-        for (const Ellipsoid &ellipsoid : ellipsoids)
-            addSpheroid(mesh, ellipsoid.centre, ellipsoid.along, ellipsoid.halfWidth,
-                        fineness.around, fineness.along, m_zoneColor);
-        osg::ref_ptr<osg::Geode> geode = new osg::Geode;
-        addDrawable(*geode, mesh,
-                    m_ellipsoids[static_cast<std::size_t>(opacityOf(m_look.fresnelColor))]);
-        return geode;
+        osg::ref_ptr<osg::LOD> level = new osg::LOD;
+        level->setCenterMode(osg::LOD::USER_DEFINED_CENTER);
+        level->setCenter(bound.center());
+        level->setRadius(bound.radius());
+        level->addChild(what, nearM, farM);
+        return level;
     }
 
     void addDrawable(osg::Geode &geode, const Mesh &mesh, osg::StateSet *state,

@@ -31,6 +31,9 @@ struct LinkLook
     double kFactor = 4.0 / 3;      ///< of the earth's radius; for verdicts, the drawing is straight
 };
 
+inline constexpr double LowestMHz = 1;    ///< below, ellipsoids are balls of hundreds of metres
+inline constexpr double HighestMHz = 1e6; ///< 1 THz
+
 /// A link between the centres of two antennas; x east, y north, z up, metres.
 struct LinkObject
 {

@@ -55,15 +55,14 @@ void main()
 }
 )";
 
-// A shell of even thickness: the flatter a look through it, the less it lets through.
+// As opaque as asked from everywhere, also along a link; the rim is a little darker.
 constexpr const char *ShellFragments = R"(#version 120
 varying vec3 normal;
 varying vec3 look;
 void main()
 {
     float facing = abs(dot(normalize(normal), normalize(look)));
-    float through = pow(1.0 - gl_Color.a, 1.0 / max(facing, 0.25));
-    gl_FragColor = vec4(gl_Color.rgb, 1.0 - through);
+    gl_FragColor = vec4(gl_Color.rgb * (0.75 + 0.25 * facing), gl_Color.a);
 }
 )";
 
@@ -88,7 +87,13 @@ void blend(osg::StateSet &state)
     state.setAttributeAndModes(
         new osg::BlendFunc(osg::BlendFunc::SRC_ALPHA, osg::BlendFunc::ONE_MINUS_SRC_ALPHA));
     state.setAttributeAndModes(new osg::Depth(osg::Depth::LEQUAL, 0, 1, false));
-    state.setRenderingHint(osg::StateSet::TRANSPARENT_BIN);
+}
+
+/// Zones that are as thin as a line would dash it: what lies in one is drawn over its near wall.
+void drawAfterZones(osg::StateSet &state)
+{
+    constexpr int AfterTranslucentBin = 11;
+    state.setRenderBinDetails(AfterTranslucentBin, "RenderBin");
 }
 
 } // namespace
@@ -111,6 +116,7 @@ osg::ref_ptr<osg::StateSet> makeLineState(const LinkLook &look, Opacity opacity)
     }
     if (opacity == Opacity::Translucent)
         blend(*state);
+    drawAfterZones(*state);
     return state;
 }
 
@@ -118,6 +124,7 @@ osg::ref_ptr<osg::StateSet> makeHairlineState()
 {
     osg::ref_ptr<osg::StateSet> state = unlit();
     state->setAttributeAndModes(new osg::LineWidth(1));
+    drawAfterZones(*state);
     return state;
 }
 
@@ -129,8 +136,10 @@ osg::ref_ptr<osg::StateSet> makeEllipsoidState(Opacity opacity)
     state->setAttributeAndModes(
         makeProgram(FacingVertices, isOpaque ? RoundFragments : ShellFragments));
     // layers of one colour may be blended in any order: walls need no sorting, nor do neighbours
-    if (!isOpaque)
+    if (!isOpaque) {
         blend(*state);
+        state->setRenderingHint(osg::StateSet::TRANSPARENT_BIN);
+    }
     return state;
 }
 

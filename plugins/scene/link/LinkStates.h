@@ -10,7 +10,8 @@ namespace vlt::scene {
 /// With how much of a drawable the background mixes.
 enum class Opacity { Opaque, Translucent };
 
-/// How lines of sight are drawn; colours come from the vertices.
+/// How lines of sight are drawn; colours come from the vertices. They are drawn after zones that
+/// let look through, and seen at their full strength within them.
 ///
 /// Bands turn to the viewer on the graphics card: a vertex carries the way from the middle line to
 /// itself (x, y, z) and on which side of it it lies (-1 or 1) as its texture coordinates, and the

@@ -7,9 +7,6 @@ namespace vlt::scene {
 
 namespace {
 
-constexpr double HighestMHz = 1e6; ///< 1 THz
-constexpr double LowestMHz = 1;    ///< below, ellipsoids are balls of hundreds of metres
-
 LinkObject readLink(const std::string &item, std::string_view text)
 {
     Words words(item, text);
