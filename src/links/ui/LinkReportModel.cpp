@@ -8,7 +8,9 @@
 #include <QPixmap>
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
+#include <numeric>
 
 namespace vlt::links {
 
@@ -16,6 +18,7 @@ namespace {
 
 constexpr double MetresPerKm = 1000;
 constexpr int PerCent = 100;
+constexpr double HzPerMHz = 1e6;
 
 QIcon verdictIcon(linkpath::Verdict verdict)
 {
@@ -59,7 +62,8 @@ QString name(const geodata::LinkReport &link, int column)
 
 bool isName(int column)
 {
-    return column >= LinkReportModel::Name && column <= LinkReportModel::EndB;
+    return column == LinkReportModel::Name || column == LinkReportModel::EndA ||
+           column == LinkReportModel::EndB;
 }
 
 } // namespace
@@ -90,7 +94,7 @@ QVariant LinkReportModel::data(const QModelIndex &index, int role) const
     case Qt::DisplayRole:
         return text(link, column);
     case Qt::ToolTipRole:
-        return vlt::text::asRichText(text(link, column).toString());
+        return toolTip(link, column);
     case Qt::DecorationRole:
         return column == Verdict ? QVariant(verdictIcon(link.clearance.verdict)) : QVariant();
     case Qt::TextAlignmentRole:
@@ -112,8 +116,10 @@ QVariant LinkReportModel::text(const geodata::LinkReport &link, int column) cons
         return link.lengthM ? m_locale.toString(*link.lengthM / MetresPerKm, 'f', KmDecimals)
                             : QString();
     case Frequency:
+        // in whole hertz: 6.0292 GHz are 6029.2 MHz, not 6029.200000000001
         return link.frequencyMHz
-                   ? m_locale.toString(*link.frequencyMHz, 'f', QLocale::FloatingPointShortest)
+                   ? m_locale.toString(std::round(*link.frequencyMHz * HzPerMHz) / HzPerMHz, 'f',
+                                       QLocale::FloatingPointShortest)
                    : QString();
     case Verdict:
         return verdictText(link.clearance.verdict);
@@ -122,6 +128,17 @@ QVariant LinkReportModel::text(const geodata::LinkReport &link, int column) cons
     default:
         return name(link, column);
     }
+}
+
+QVariant LinkReportModel::toolTip(const geodata::LinkReport &link, int column) const
+{
+    QString tip = text(link, column).toString();
+    const bool isUnjudged = link.clearance.verdict == linkpath::Verdict::Unknown;
+    if (isUnjudged && (column == Verdict || (column == Worst && tip.isEmpty())))
+        tip = tr("A link is judged by the places and the antenna heights of both ends, a frequency "
+                 "and the terrain under the whole path",
+                 "MESS_TIP_UNJUDGED");
+    return vlt::text::asRichText(tip);
 }
 
 QString LinkReportModel::worstText(const linkpath::WorstPoint &worst) const
@@ -163,23 +180,44 @@ void LinkReportModel::sort(int column, Qt::SortOrder order)
 {
     m_sortColumn = column;
     m_sortOrder = order;
-    Q_EMIT layoutAboutToBeChanged();
-    sortLinks();
-    Q_EMIT layoutChanged();
+    Q_EMIT layoutAboutToBeChanged({}, VerticalSortHint);
+    const QList<int> formerRows = sortLinks();
+    QList<int> rows(formerRows.size());
+    for (int row = 0; row < formerRows.size(); ++row)
+        rows[formerRows[row]] = row;
+    const QModelIndexList selected = persistentIndexList();
+    for (const QModelIndex &former : selected)
+        changePersistentIndex(former, index(rows[former.row()], former.column()));
+    Q_EMIT layoutChanged({}, VerticalSortHint);
 }
 
-void LinkReportModel::sortLinks()
+QList<int> LinkReportModel::sortedOrder() const
 {
-    using geodata::LinkReport;
     const int column = m_sortColumn;
     const bool isDescending = m_sortOrder == Qt::DescendingOrder;
-    const auto isBefore = [column](const LinkReport &a, const LinkReport &b) {
-        return isName(column) ? name(a, column).localeAwareCompare(name(b, column)) < 0
-                              : number(a, column) < number(b, column);
+    const auto isBefore = [this, column](int a, int b) {
+        const geodata::LinkReport &first = m_links[a];
+        const geodata::LinkReport &second = m_links[b];
+        return isName(column) ? name(first, column).localeAwareCompare(name(second, column)) < 0
+                              : number(first, column) < number(second, column);
     };
-    std::stable_sort(m_links.begin(), m_links.end(), [&](const LinkReport &a, const LinkReport &b) {
-        return isDescending ? isBefore(b, a) : isBefore(a, b);
-    });
+    QList<int> rows(m_links.size());
+    std::iota(rows.begin(), rows.end(), 0);
+    std::stable_sort(rows.begin(), rows.end(),
+                     [&](int a, int b) { return isDescending ? isBefore(b, a) : isBefore(a, b); });
+    return rows;
+}
+
+/// Tells for every row which one it was before.
+QList<int> LinkReportModel::sortLinks()
+{
+    const QList<int> rows = sortedOrder();
+    QList<geodata::LinkReport> sorted;
+    sorted.reserve(m_links.size());
+    for (const int row : rows)
+        sorted << std::move(m_links[row]);
+    m_links = std::move(sorted);
+    return rows;
 }
 
 } // namespace vlt::links

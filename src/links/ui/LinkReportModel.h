@@ -7,14 +7,14 @@
 
 namespace vlt::links {
 
-/// The links of a table, one a row: name, ends, length, frequency, verdict and worst point. Sorts
-/// by what the texts stand for.
+/// The links of a table, one a row: the name, what was found of the path, and what the table tells.
+/// Sorts by what the texts stand for; what is selected stays selected.
 class LinkReportModel : public QAbstractTableModel
 {
     Q_OBJECT
 
 public:
-    enum Column { Row, Name, EndA, EndB, Length, Frequency, Verdict, Worst, ColumnCount };
+    enum Column { Row, Name, Verdict, Worst, EndA, EndB, Length, Frequency, ColumnCount };
 
     using QAbstractTableModel::QAbstractTableModel;
 
@@ -30,7 +30,9 @@ public:
 private:
     QVariant text(const geodata::LinkReport &link, int column) const;
     QString worstText(const linkpath::WorstPoint &worst) const;
-    void sortLinks();
+    QVariant toolTip(const geodata::LinkReport &link, int column) const;
+    QList<int> sortedOrder() const;
+    QList<int> sortLinks();
 
     QLocale m_locale;
     QList<geodata::LinkReport> m_links;

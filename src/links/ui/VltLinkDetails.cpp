@@ -13,11 +13,21 @@ using vlt::geodata::LinkCheck;
 using vlt::geodata::LinkReport;
 using vlt::linkpath::Verdict;
 
+namespace {
+
+/// A longer name does not push the verdict out of view.
+constexpr int MostNameCharacters = 24;
+
+} // namespace
+
 VltLinkDetails::VltLinkDetails(QWidget *parent)
     : VltTableDetails(parent)
     , m_linkModel(new vlt::links::LinkReportModel(this))
     , m_pwTvLinks(addTable(m_linkModel, QStringLiteral("m_pwTvLinks"), tr("Links", "MESS_LINKS")))
 {
+    setContentsTip(tr("Show the recognised columns, the rows with problems and the clearance of "
+                      "every link",
+                      "MESS_TIP_LINK_DETAILS"));
     // the worst points are long texts: they are scrolled to rather than cut
     m_pwTvLinks->horizontalHeader()->setStretchLastSection(false);
     m_pwTvLinks->setSortingEnabled(true);
@@ -49,6 +59,9 @@ void VltLinkDetails::showLinks(const QList<LinkReport> &links)
 {
     m_linkModel->setLinks(links);
     setTableCount(m_pwTvLinks, tr("Links", "MESS_LINKS"), links.size());
+    const int longName = MostNameCharacters * m_pwTvLinks->fontMetrics().averageCharWidth();
+    constexpr int Name = vlt::links::LinkReportModel::Name;
+    m_pwTvLinks->setColumnWidth(Name, qMin(longName, m_pwTvLinks->columnWidth(Name)));
 }
 
 void VltLinkDetails::forgetRows()

@@ -17,8 +17,7 @@ void showWholeTexts(QComboBox *combo);
 /// Chooses an entry, or none where there is no such entry.
 void selectEntry(QComboBox *combo, int index);
 
-/// Connects every spin box and combo of a panel to its signal parameterChanged(); they take the
-/// wheel only while they have the focus.
+/// Connects every spin box and combo of a panel to its signal parameterChanged().
 template<typename Panel>
 void announceChanges(Panel *panel)
 {

@@ -5,6 +5,7 @@
 #include "wizard/base/Messages.h"
 
 #include <QApplication>
+#include <QPainter>
 
 namespace {
 
@@ -26,9 +27,24 @@ VltLayerPreview::VltLayerPreview(QWidget *parent)
     connect(m_ui->m_pwPbPrecise, &QPushButton::clicked, this, &VltLayerPreview::preciseWanted);
     connect(m_ui->m_pwPbOwn, &QPushButton::clicked, this, &VltLayerPreview::chooseScene);
     connect(&m_refreshTimer, &QTimer::timeout, this, &VltLayerPreview::refreshLayer);
+    connect(qApp, &QApplication::focusChanged, this, [this] { update(); });
 }
 
 VltLayerPreview::~VltLayerPreview() = default;
+
+/// The view itself cannot show that it has the keyboard.
+void VltLayerPreview::paintEvent(QPaintEvent *event)
+{
+    constexpr int RingWidth = 2;
+    QGroupBox::paintEvent(event);
+    const QWidget *view = m_ui->m_pwPreview->focusProxy();
+    if (!view || !view->hasFocus())
+        return;
+    QPainter painter(this);
+    painter.fillRect(
+        m_ui->m_pwPreview->geometry().adjusted(-RingWidth, -RingWidth, RingWidth, RingWidth),
+        palette().color(QPalette::Highlight));
+}
 
 void VltLayerPreview::setOwnLayer(const OwnLayer &words)
 {

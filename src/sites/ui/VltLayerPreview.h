@@ -57,6 +57,9 @@ Q_SIGNALS:
     void symbolicWanted();
     void preciseWanted();
 
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
 private:
     void chooseScene(bool ownLayer);
     bool showLayer();

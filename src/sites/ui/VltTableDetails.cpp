@@ -30,6 +30,33 @@ QStandardItem *item(const QVariant &value)
     return made;
 }
 
+QModelIndex longestText(const QAbstractItemModel &model, int column)
+{
+    int longest = 0;
+    qsizetype most = 0;
+    for (int row = 0; row < model.rowCount(); ++row) {
+        const qsizetype length = model.index(row, column).data().toString().size();
+        if (length > most) {
+            most = length;
+            longest = row;
+        }
+    }
+    return model.index(longest, column);
+}
+
+/// The view measures only so many rows; of longer tables the longest texts are measured too.
+void fitColumns(QTableView *table)
+{
+    table->resizeColumnsToContents();
+    const QAbstractItemModel &model = *table->model();
+    if (model.rowCount() <= table->horizontalHeader()->resizeContentsPrecision())
+        return;
+    for (int column = 0; column < model.columnCount(); ++column) {
+        const int width = table->sizeHintForIndex(longestText(model, column)).width() + 1;
+        table->setColumnWidth(column, qMax(width, table->columnWidth(column)));
+    }
+}
+
 } // namespace
 
 VltTableDetails::VltTableDetails(QWidget *parent)
@@ -65,7 +92,7 @@ void VltTableDetails::buildHeading()
     m_pwTbFold->setAutoRaise(true);
     m_pwTbFold->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     m_pwTbFold->setFocusPolicy(Qt::StrongFocus);
-    m_pwTbFold->setToolTip(
+    setContentsTip(
         tr("Show the recognised columns and the rows with problems", "MESS_TIP_DETAILS"));
     m_pwLblWarning->setPixmap(QPixmap(QStringLiteral(":/icons/warning.png")));
     m_pwLblWarning->setAccessibleName(tr("Problems", "MESS_PROBLEMS"));
@@ -129,17 +156,16 @@ QTableView *VltTableDetails::addTable(QAbstractItemModel *model, const QString &
     return table;
 }
 
-void VltTableDetails::setTableCount(const QTableView *table, const QString &name, qint64 count)
+void VltTableDetails::setTableCount(QTableView *table, const QString &name, qint64 count)
 {
     m_pwTwDetails->setTabText(m_pwTwDetails->indexOf(table),
                               name + QStringLiteral(" (%1)").arg(count));
-    fitColumns();
+    fitColumns(table);
 }
 
-void VltTableDetails::fitColumns()
+void VltTableDetails::setContentsTip(const QString &text)
 {
-    for (auto *table : m_pwTwDetails->findChildren<QTableView *>())
-        table->resizeColumnsToContents();
+    m_pwTbFold->setToolTip(text);
 }
 
 void VltTableDetails::showRemark(const QString &text)

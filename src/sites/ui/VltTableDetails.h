@@ -55,7 +55,11 @@ protected:
 
     /// A further tab with a table of its own.
     QTableView *addTable(QAbstractItemModel *model, const QString &objectName, const QString &name);
-    void setTableCount(const QTableView *table, const QString &name, qint64 count);
+    /// Tells how many entries a table has, after a change of them.
+    void setTableCount(QTableView *table, const QString &name, qint64 count);
+
+    /// What is folded away, for the tool tip of the button that unfolds it.
+    void setContentsTip(const QString &text);
 
     /// A line that stays visible while the tables are folded away; nothing for an empty text.
     void showRemark(const QString &text);
@@ -76,7 +80,6 @@ private:
     void showColumns(const QList<vlt::sites::ColumnDescription> &columns);
     void showProblems(const QList<vlt::Problem> &listed, qint64 count);
     void showSummary(const QString &rows, bool warns);
-    void fitColumns();
     bool beginsCheck(const QString &what);
     void showProgress(bool shown);
     void endCheck();

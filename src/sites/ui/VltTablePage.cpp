@@ -48,6 +48,7 @@ VltTablePage::~VltTablePage() = default;
 
 void VltTablePage::nameWidgets()
 {
+    setObjectName(QStringLiteral("Add%1Page").arg(m_kind.name));
     m_ui->m_pwGbTable->setObjectName(QStringLiteral("m_pwGb%1s").arg(m_kind.name));
     m_ui->m_pwLblTable->setObjectName(QStringLiteral("m_pwLbl") + m_kind.name);
     m_ui->m_pwLeTable->setObjectName(QStringLiteral("m_pwLe") + m_kind.name);
@@ -137,6 +138,27 @@ void VltTablePage::setStacked(bool stacked)
     m_panelProperties->setStacked(stacked);
 }
 
+/// Tab goes through the groups as they lie on the page, whatever the order they were made in.
+void VltTablePage::orderFocus()
+{
+    QWidgetList groups{m_ui->m_pwGbTable, m_ui->m_pwGbSrs};
+    for (int i = 0; i < m_ui->m_ptVbProperties->count(); ++i)
+        groups << m_ui->m_ptVbProperties->itemAt(i)->widget();
+    groups << m_ui->m_pwGbPreview << m_pwDragIcon;
+
+    QWidgetList ordered;
+    for (const QWidget *group : std::as_const(groups)) {
+        for (QWidget *widget = nextInFocusChain(); widget != this;
+             widget = widget->nextInFocusChain()) {
+            const bool isStop = (widget->focusPolicy() & Qt::TabFocus) && !widget->focusProxy();
+            if (isStop && (widget == group || group->isAncestorOf(widget)))
+                ordered << widget;
+        }
+    }
+    for (int i = 1; i < ordered.size(); ++i)
+        setTabOrder(ordered[i - 1], ordered[i]);
+}
+
 /// The input side scrolls upwards and downwards only, unless the screen is too narrow for it.
 void VltTablePage::fitInputWidth()
 {
@@ -157,6 +179,7 @@ void VltTablePage::fitInputWidth()
 void VltTablePage::initializePage()
 {
     BasePage::initializePage();
+    orderFocus();
     fitInputWidth();
     m_project = vlt::sites::readProjectContext(field(QStringLiteral("ProjectName")).toString());
     m_isActive = true;

@@ -114,6 +114,7 @@ private:
     void nameWidgets();
     void createPanels();
     void connectWidgets();
+    void orderFocus();
     void fitInputWidth();
     void showFile();
     void createLayerFile();

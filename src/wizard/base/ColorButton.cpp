@@ -43,7 +43,9 @@ void ColorButton::setPurpose(const QString &purpose)
 
 void ColorButton::tellColor()
 {
-    const QString name = m_color.name().toUpper();
+    QString name = m_color.name().toUpper();
+    if (const int transparent = qRound((1 - m_color.alphaF()) * 100); transparent > 0)
+        name = tr("%1, %2 % transparent", "MESS_COLOR_TRANSPARENT").arg(name).arg(transparent);
     setText(name);
     setIcon(swatch(m_color, palette().color(QPalette::WindowText), devicePixelRatioF()));
     setAccessibleName(tr("%1: %2", "MESS_COLOR_OF").arg(m_purpose, name));

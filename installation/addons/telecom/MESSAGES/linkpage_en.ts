@@ -8,6 +8,11 @@
         <extracomment>What a colour is for, and the colour.</extracomment>
         <translation>%1: %2</translation>
     </message>
+    <message id="MESS_COLOR_TRANSPARENT">
+        <source>%1, %2 % transparent</source>
+        <extracomment>A colour, and how transparent it is.</extracomment>
+        <translation>%1, %2 % transparent</translation>
+    </message>
 </context>
 <context>
     <name>Add-link page</name>
@@ -229,6 +234,10 @@ to add the link layer
         <source>%1 km from A, terrain %2 m above the line</source>
         <translation>%1 km from A, terrain %2 m above the line</translation>
     </message>
+    <message id="MESS_TIP_UNJUDGED">
+        <source>A link is judged by the places and the antenna heights of both ends, a frequency and the terrain under the whole path</source>
+        <translation>A link is judged by the places and the antenna heights of both ends, a frequency and the terrain under the whole path</translation>
+    </message>
     <message id="MESS_VERDICT_COUNTS">
         <source>%1 clear, %2 marginal, %3 obstructed</source>
         <translation>%1 clear, %2 marginal, %3 obstructed</translation>
@@ -257,6 +266,10 @@ to add the link layer
     <message id="MESS_COPY_ROWS">
         <source>&amp;Copy the rows</source>
         <translation>&amp;Copy the rows</translation>
+    </message>
+    <message id="MESS_TIP_LINK_DETAILS">
+        <source>Show the recognised columns, the rows with problems and the clearance of every link</source>
+        <translation>Show the recognised columns, the rows with problems and the clearance of every link</translation>
     </message>
 </context>
 </TS>

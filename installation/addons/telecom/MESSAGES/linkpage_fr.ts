@@ -8,6 +8,11 @@
         <extracomment>What a colour is for, and the colour.</extracomment>
         <translation>%1&#xa0;: %2</translation>
     </message>
+    <message id="MESS_COLOR_TRANSPARENT">
+        <source>%1, %2 % transparent</source>
+        <extracomment>A colour, and how transparent it is.</extracomment>
+        <translation>%1, transparent à %2&#xa0;%</translation>
+    </message>
 </context>
 <context>
     <name>Add-link page</name>
@@ -227,7 +232,11 @@ pour ajouter la couche de liaisons
     </message>
     <message id="MESS_WORST_CUT">
         <source>%1 km from A, terrain %2 m above the line</source>
-        <translation>à %1 km de A, terrain %2 m trop haut</translation>
+        <translation>à %1 km de A, visée %2 m sous le terrain</translation>
+    </message>
+    <message id="MESS_TIP_UNJUDGED">
+        <source>A link is judged by the places and the antenna heights of both ends, a frequency and the terrain under the whole path</source>
+        <translation>Pour juger une liaison, il faut la position et la hauteur d'antenne des deux extrémités, une fréquence et le terrain sous tout le trajet</translation>
     </message>
     <message id="MESS_VERDICT_COUNTS">
         <source>%1 clear, %2 marginal, %3 obstructed</source>
@@ -257,6 +266,10 @@ pour ajouter la couche de liaisons
     <message id="MESS_COPY_ROWS">
         <source>&amp;Copy the rows</source>
         <translation>&amp;Copier les lignes</translation>
+    </message>
+    <message id="MESS_TIP_LINK_DETAILS">
+        <source>Show the recognised columns, the rows with problems and the clearance of every link</source>
+        <translation>Montrer les colonnes reconnues, les lignes qui posent problème et le dégagement de chaque liaison</translation>
     </message>
 </context>
 </TS>
