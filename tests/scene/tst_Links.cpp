@@ -81,6 +81,16 @@ Finder found(osg::Node &node)
     return finder;
 }
 
+osg::ref_ptr<osg::GraphicsContext> openContext(int side)
+{
+    osg::ref_ptr<osg::GraphicsContext::Traits> traits = new osg::GraphicsContext::Traits;
+    traits->readDISPLAY();
+    traits->setUndefinedScreenDetailsToDefaultScreen();
+    traits->width = traits->height = side;
+    traits->pbuffer = true;
+    return osg::GraphicsContext::createGraphicsContext(traits);
+}
+
 /// A picture, 301 x 301, of what an eye sees that looks at the origin; null without a screen. Black
 /// where there is nothing.
 osg::ref_ptr<osg::Image> picture(osg::Node *scene, const osg::Vec3d &eye, bool isParallel)
@@ -88,13 +98,8 @@ osg::ref_ptr<osg::Image> picture(osg::Node *scene, const osg::Vec3d &eye, bool i
     constexpr int Side = 301;
     osgViewer::Viewer viewer;
     viewer.setThreadingModel(osgViewer::ViewerBase::SingleThreaded);
-    osg::ref_ptr<osg::GraphicsContext::Traits> traits = new osg::GraphicsContext::Traits;
-    traits->readDISPLAY();
-    traits->setUndefinedScreenDetailsToDefaultScreen();
-    traits->width = traits->height = Side;
-    traits->pbuffer = true;
     osg::Camera &camera = *viewer.getCamera();
-    camera.setGraphicsContext(osg::GraphicsContext::createGraphicsContext(traits));
+    camera.setGraphicsContext(openContext(Side));
     if (!camera.getGraphicsContext())
         return nullptr;
     camera.setViewport(0, 0, Side, Side);
@@ -122,6 +127,12 @@ class LinksTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase()
+    {
+        m_screen = openContext(1); // a server whose last client goes is away for a while
+    }
+    void cleanupTestCase() { m_screen = nullptr; }
+
     void readsTheRecord()
     {
         const LinkSceneQuery scene = std::get<LinkSceneQuery>(parsed());
@@ -431,6 +442,9 @@ private Q_SLOTS:
         const std::vector<AntennaPlace> two = placeAntennas(design, mastDesign(design));
         QVERIFY((two[0].centre - two[1].centre).length() > 0.95);
     }
+
+private:
+    osg::ref_ptr<osg::GraphicsContext> m_screen;
 };
 
 QTEST_APPLESS_MAIN(LinksTest)
