@@ -95,30 +95,33 @@ private Q_SLOTS:
 
     void asksForAColourByKeyboard_data()
     {
-        QTest::addColumn<bool>("accepted");
-        QTest::newRow("taken") << true;
-        QTest::newRow("cancelled") << false;
+        QTest::addColumn<QColor>("chosen"); // not valid: cancelled
+        QTest::addColumn<QString>("told");
+        QTest::newRow("taken") << QColor(1, 2, 3) << u"#010203"_s;
+        QTest::newRow("translucent") << QColor(255, 0, 0, 127) << u"#FF0000, 50 % transparent"_s;
+        QTest::newRow("cancelled") << QColor() << u"#E0218A"_s;
     }
 
     void asksForAColourByKeyboard()
     {
-        QFETCH(bool, accepted);
+        QFETCH(QColor, chosen);
+        QFETCH(QString, told);
         VltLinkProperties panel;
         panel.show();
         auto *button = panel.findChild<ColorButton *>(u"m_pwPbLinkColor"_s);
         QSignalSpy changes(&panel, &VltLinkProperties::parameterChanged);
-        QTimer::singleShot(50, this, [accepted] {
+        QTimer::singleShot(50, this, [chosen] {
             auto *dialog = qobject_cast<QColorDialog *>(QApplication::activeModalWidget());
-            dialog->setCurrentColor(QColor(1, 2, 3));
-            accepted ? dialog->accept() : dialog->reject();
+            dialog->setCurrentColor(chosen);
+            chosen.isValid() ? dialog->accept() : dialog->reject();
         });
 
         QTest::keyClick(button, Qt::Key_Space);
 
-        QCOMPARE(changes.count(), accepted ? 1 : 0);
-        const QColor expected = accepted ? QColor(1, 2, 3) : LinkRepresentation().color;
-        QCOMPARE(panel.representation().color, expected);
-        QCOMPARE(button->accessibleName(), u"Color of the links: "_s + expected.name().toUpper());
+        QCOMPARE(changes.count(), chosen.isValid() ? 1 : 0);
+        QCOMPARE(panel.representation().color,
+                 chosen.isValid() ? chosen : LinkRepresentation().color);
+        QCOMPARE(button->accessibleName(), u"Color of the links: "_s + told);
     }
 };
 

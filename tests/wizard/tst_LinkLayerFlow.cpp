@@ -1,6 +1,7 @@
 #include "gui/AnsweredBoxes.h"
 #include "gui/DropOnWidget.h"
 #include "gui/FileDialogAnswer.h"
+#include "links/ui/LinkReportModel.h"
 #include "preview/W_simpleOSGViewer.h"
 #include "wizard/LayerFlow.h"
 #include "wizard/base/TemporaryLayerFile.h"
@@ -15,6 +16,7 @@
 
 using namespace Qt::StringLiterals;
 using namespace layerflow;
+using Column = vlt::links::LinkReportModel::Column;
 
 namespace {
 
@@ -125,27 +127,71 @@ private Q_SLOTS:
             return table->model()->index(row, column).data().toString();
         };
 
-        table->sortByColumn(2, Qt::AscendingOrder); // the worst verdicts first
-        QCOMPARE(cell(0, 1), u"MW-21"_s);
-        QCOMPARE(cell(0, 2), u"obstructed"_s);
-        QVERIFY(cell(0, 3).contains(u"above the line"_s));
-        table->sortByColumn(6, Qt::DescendingOrder); // the longest first
-        QCOMPARE(cell(0, 1), u"MW-19"_s);
+        table->selectRow(19);                                     // MW-20
+        table->sortByColumn(Column::Verdict, Qt::AscendingOrder); // the worst first
+        QCOMPARE(cell(0, Column::Name), u"MW-21"_s);
+        QCOMPARE(cell(0, Column::Verdict), u"obstructed"_s);
+        QVERIFY(cell(0, Column::Worst).contains(u"above the line"_s));
+        table->sortByColumn(Column::Length, Qt::DescendingOrder); // the longest first
+        QCOMPARE(cell(0, Column::Name), u"MW-19"_s);
         flow.widget<QToolButton>(u"m_pwTbFold"_s)->click();
         flow.widget<QTabWidget>(QString())->setCurrentWidget(table);
         flow.wizard.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&flow.wizard));
         table->setFocus();
-        table->selectRow(0);
         QTest::keyClick(table, Qt::Key_C, Qt::ControlModifier);
         const QStringList lines = QGuiApplication::clipboard()->text().split(u'\n');
         QCOMPARE(lines.size(), 3); // headers, the row, the line feed behind it
-        QVERIFY(lines[1].startsWith(u"20\tMW-19\tmarginal\t"_s));
+        QVERIFY(lines[1].startsWith(u"21\tMW-20\tmarginal\t"_s));
 
         for (const int percent : {5, 4, 3, 2, 1}) // the last one counts
             flow.widget<QSpinBox>(u"m_pwSbFresnelShare"_s)->setValue(percent);
         QTRY_COMPARE(flow.remark(), u"20 clear, 0 marginal, 1 obstructed"_s);
-        QCOMPARE(cell(0, 1), u"MW-19"_s);
+        QCOMPARE(cell(0, Column::Name), u"MW-19"_s);
+        const QModelIndexList selected = table->selectionModel()->selectedRows(Column::Name);
+        QCOMPARE(selected.value(0).data(), u"MW-20"_s);
+    }
+
+    void showsLongTextsWithoutHidingTheVerdict()
+    {
+        QFile file(m_dir.filePath(u"long.csv"_s));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("Name;Longitude 1;Latitude 1;Longitude 2;Latitude 2;Frequency Band (GHz)\n");
+        for (int row = 1; row < 2000; ++row)
+            file.write("L;-3.4;47.7;-3.3;47.7;6.0292\n");
+        file.write(QByteArray(200, 'M') + ";-3.4;47.7;33;7.7;6.0292\n"); // thousands of km
+        file.close();
+        WizardOnLinkPage flow;
+
+        dropFiles(flow.page, {file.fileName()});
+
+        QTableView *table = flow.table();
+        QTRY_COMPARE(table->model()->rowCount(), 2000);
+        QCOMPARE(table->model()->index(0, Column::Frequency).data(),
+                 QLocale().toString(6029.2, 'f', 1));
+        const QModelIndex farthest = table->model()->index(1999, Column::Length);
+        QVERIFY(table->columnWidth(Column::Length) >= table->sizeHintForIndex(farthest).width());
+        QVERIFY(table->columnViewportPosition(Column::EndA) < 600);
+    }
+
+    void tabGoesThroughThePageAsItLies()
+    {
+        WizardOnLinkPage flow;
+        dropFiles(flow.page, {Links});
+        const QStringList stops = {
+            u"m_pwLeLink"_s,    u"m_pwTbFold"_s,         u"m_pCBSrs"_s,       u"m_pwCbLinkStyle"_s,
+            u"m_pwSbKFactor"_s, u"m_pwSbSectorHeight"_s, u"m_pwPbSymbolic"_s, u"m_pwDragIcon"_s};
+
+        QStringList passed;
+        const QWidget *first = flow.widget<QWidget>(stops.constFirst());
+        const QWidget *widget = first;
+        do {
+            if (stops.contains(widget->objectName()) && !passed.contains(widget->objectName()))
+                passed << widget->objectName();
+            widget = widget->nextInFocusChain();
+        } while (widget != first);
+
+        QCOMPARE(passed, stops);
     }
 
     void tellsWhyNothingIsJudged()
@@ -157,7 +203,7 @@ private Q_SLOTS:
         dropFiles(flow.page, {Links});
 
         QTRY_COMPARE(flow.remark(), u"The links are not judged: the project has no terrain"_s);
-        QCOMPARE(flow.table()->model()->index(0, 2).data(), u"not judged"_s);
+        QCOMPARE(flow.table()->model()->index(0, Column::Verdict).data(), u"not judged"_s);
     }
 
     void showsTheDemonstrationOrTheLinksOfTheLayer()

@@ -3,6 +3,7 @@
 #include "links/VerdictText.h"
 #include "text/RichText.h"
 
+#include <QHash>
 #include <QIcon>
 #include <QPainter>
 #include <QPixmap>
@@ -10,7 +11,6 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
-#include <numeric>
 
 namespace vlt::links {
 
@@ -70,6 +70,10 @@ bool isName(int column)
 
 void LinkReportModel::setLinks(const QList<geodata::LinkReport> &links)
 {
+    if (links.size() == m_links.size()) {
+        arrange(links);
+        return;
+    }
     beginResetModel();
     m_links = links;
     sortLinks();
@@ -180,44 +184,40 @@ void LinkReportModel::sort(int column, Qt::SortOrder order)
 {
     m_sortColumn = column;
     m_sortOrder = order;
+    arrange(m_links);
+}
+
+/// The same links, perhaps judged otherwise or in another order: what is selected stays selected.
+void LinkReportModel::arrange(const QList<geodata::LinkReport> &links)
+{
     Q_EMIT layoutAboutToBeChanged({}, VerticalSortHint);
-    const QList<int> formerRows = sortLinks();
-    QList<int> rows(formerRows.size());
-    for (int row = 0; row < formerRows.size(); ++row)
-        rows[formerRows[row]] = row;
-    const QModelIndexList selected = persistentIndexList();
-    for (const QModelIndex &former : selected)
-        changePersistentIndex(former, index(rows[former.row()], former.column()));
+    const QModelIndexList kept = persistentIndexList();
+    QList<qint64> keptRows;
+    for (const QModelIndex &index : kept)
+        keptRows << m_links[index.row()].row;
+
+    m_links = links;
+    sortLinks();
+    QHash<qint64, int> places;
+    for (int place = 0; place < m_links.size(); ++place)
+        places.insert(m_links[place].row, place);
+    for (int i = 0; i < kept.size(); ++i)
+        changePersistentIndex(kept[i], index(places.value(keptRows[i], -1), kept[i].column()));
     Q_EMIT layoutChanged({}, VerticalSortHint);
 }
 
-QList<int> LinkReportModel::sortedOrder() const
+void LinkReportModel::sortLinks()
 {
+    using geodata::LinkReport;
     const int column = m_sortColumn;
     const bool isDescending = m_sortOrder == Qt::DescendingOrder;
-    const auto isBefore = [this, column](int a, int b) {
-        const geodata::LinkReport &first = m_links[a];
-        const geodata::LinkReport &second = m_links[b];
-        return isName(column) ? name(first, column).localeAwareCompare(name(second, column)) < 0
-                              : number(first, column) < number(second, column);
+    const auto isBefore = [column](const LinkReport &a, const LinkReport &b) {
+        return isName(column) ? name(a, column).localeAwareCompare(name(b, column)) < 0
+                              : number(a, column) < number(b, column);
     };
-    QList<int> rows(m_links.size());
-    std::iota(rows.begin(), rows.end(), 0);
-    std::stable_sort(rows.begin(), rows.end(),
-                     [&](int a, int b) { return isDescending ? isBefore(b, a) : isBefore(a, b); });
-    return rows;
-}
-
-/// Tells for every row which one it was before.
-QList<int> LinkReportModel::sortLinks()
-{
-    const QList<int> rows = sortedOrder();
-    QList<geodata::LinkReport> sorted;
-    sorted.reserve(m_links.size());
-    for (const int row : rows)
-        sorted << std::move(m_links[row]);
-    m_links = std::move(sorted);
-    return rows;
+    std::stable_sort(m_links.begin(), m_links.end(), [&](const LinkReport &a, const LinkReport &b) {
+        return isDescending ? isBefore(b, a) : isBefore(a, b);
+    });
 }
 
 } // namespace vlt::links

@@ -18,7 +18,8 @@ public:
 
     using QAbstractTableModel::QAbstractTableModel;
 
-    /// Takes the links in the order of the file; they are shown in the order last asked for.
+    /// Takes the links in the order of the file; they are shown in the order last asked for. As
+    /// many as before are the same links, judged again. Another table's come after none.
     void setLinks(const QList<geodata::LinkReport> &links);
 
     int rowCount(const QModelIndex &parent = {}) const override;
@@ -31,8 +32,8 @@ private:
     QVariant text(const geodata::LinkReport &link, int column) const;
     QString worstText(const linkpath::WorstPoint &worst) const;
     QVariant toolTip(const geodata::LinkReport &link, int column) const;
-    QList<int> sortedOrder() const;
-    QList<int> sortLinks();
+    void arrange(const QList<geodata::LinkReport> &links);
+    void sortLinks();
 
     QLocale m_locale;
     QList<geodata::LinkReport> m_links;
