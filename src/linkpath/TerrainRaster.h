@@ -13,7 +13,7 @@
 namespace vlt::linkpath {
 
 /// Reasons of a refusal that are not GDAL's.
-inline constexpr char TerrainNotLocal[] = "it is not a local file";
+inline constexpr char TerrainNotLocal[] = "no local file has this name";
 inline constexpr char TerrainNotPlaced[] =
     "it has no band of heights, no place or no coordinate system";
 inline constexpr char TerrainTooLarge[] = "it is stored in blocks that are too large";
@@ -23,8 +23,7 @@ class TerrainRaster
 {
 public:
     /// Opens a local raster file; null where it cannot be opened, is not georeferenced or has no
-    /// coordinate system. `reason` takes why: one of the texts above, else
-    /// GDAL's words.
+    /// coordinate system. `reason` takes why: one of the texts above, else GDAL's words.
     static std::unique_ptr<TerrainRaster> open(const std::string &path, std::string *reason);
 
     /// Height above sea level in metres, between the centres of the four pixels around the point;

@@ -36,6 +36,8 @@ QString reasonText(const QString &reason)
     if (reason == QLatin1String(linkpath::TerrainNotPlaced))
         return dico_label("MESS_TERRAIN_NOT_PLACED",
                           "it has no band of heights, no place or no coordinate system");
+    if (reason == QLatin1String(linkpath::TerrainTooLarge))
+        return dico_label("MESS_TERRAIN_TOO_LARGE", "it is stored in blocks that are too large");
     if (reason.contains(QLatin1String("not recognized as"))) // the library's words
         return dico_label("MESS_TERRAIN_NO_RASTER", "its format is not a known raster format");
     return reason;

@@ -59,6 +59,10 @@
         <source>it has no band of heights, no place or no coordinate system</source>
         <translation>it has no band of heights, no place or no coordinate system</translation>
     </message>
+    <message id="MESS_TERRAIN_TOO_LARGE">
+        <source>it is stored in blocks that are too large</source>
+        <translation>it is stored in blocks that are too large</translation>
+    </message>
     <message id="MESS_TERRAIN_ELSEWHERE">
         <source>no way leads from the coordinate system of the links to that of the terrain</source>
         <translation>no way leads from the coordinate system of the links to that of the terrain</translation>

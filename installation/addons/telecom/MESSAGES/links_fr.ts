@@ -59,6 +59,10 @@
         <source>it has no band of heights, no place or no coordinate system</source>
         <translation>il n'a pas de bande d'altitudes, pas d'emplacement ou pas de système de coordonnées</translation>
     </message>
+    <message id="MESS_TERRAIN_TOO_LARGE">
+        <source>it is stored in blocks that are too large</source>
+        <translation>il est enregistré en blocs trop grands</translation>
+    </message>
     <message id="MESS_TERRAIN_ELSEWHERE">
         <source>no way leads from the coordinate system of the links to that of the terrain</source>
         <translation>aucun passage ne mène du système de coordonnées des liaisons à celui du terrain</translation>
