@@ -1,5 +1,7 @@
 #include "app/GeodataLibrary.h"
 
+#include "localfiles/NoNetwork.h"
+
 #include <cpl_conv.h>
 #include <cpl_error.h>
 #include <gdal_priv.h>
@@ -25,6 +27,7 @@ void registerGeodataDrivers()
     CPLSetConfigOption("OGR_SKIP", "SEGY");
     const CPLErrorHandlerPusher handler(dropSkipWarning);
     GDALAllRegister();
+    localfiles::closeNetworkFileSystems();
 }
 
 QStringList listOpenDatasets()

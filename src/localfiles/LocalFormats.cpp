@@ -4,47 +4,92 @@
 #include <array>
 #include <filesystem>
 #include <string_view>
+#include <vector>
+
+#include <gdal_priv.h>
 
 namespace vlt::localfiles {
 
+namespace {
+
+// Formats whose files describe sources that lie elsewhere, services, databases that are reached
+// through a server, and what runs other programs.
+constexpr std::array Refused = {
+    "VRT",           "OGR_VRT",      "DERIVED",    "GDALG",         "GTI",
+    "STACTA",        "STACIT",       "MRF",        "MEM",           "Memory",
+    "HTTP",          "WCS",          "WMS",        "WMTS",          "WFS",
+    "CSW",           "OAPIF",        "OGCAPI",     "EEDA",          "EEDAI",
+    "DAAS",          "PLMOSAIC",     "PLSCENES",   "NGW",           "AmigoCloud",
+    "Carto",         "CouchDB",      "Cloudant",   "GFT",           "GME",
+    "Elasticsearch", "MongoDBv3",    "PostgreSQL", "PostGISRaster", "PGDUMP",
+    "MySQL",         "MSSQLSpatial", "ODBC",       "OCI",           "GeoRaster",
+    "DB2ODBC",       "Ingres",       "HANA",       "ADBC",          "SDE",
+    "OGR_OGDI",      "GMLAS",        "GPSBabel",   "JPIPKAK",       "KMLSUPEROVERLAY",
+    "RASDAMAN",      "TileDB",       "VltTables"};
+
+/// Names of formats, null at the end; as long-lived as the program.
+class FormatList
+{
+public:
+    explicit FormatList(const char *capability)
+    {
+        GDALDriverManager &manager = *GetGDALDriverManager();
+        if (manager.GetDriverCount() == 0)
+            GDALAllRegister();
+        for (int i = 0; i < manager.GetDriverCount(); ++i) {
+            GDALDriver &driver = *manager.GetDriver(i);
+            const std::string_view name = driver.GetDescription();
+            if (driver.GetMetadataItem(capability) && driver.GetMetadataItem(GDAL_DCAP_OPEN) &&
+                std::find(Refused.begin(), Refused.end(), name) == Refused.end())
+                m_names.emplace_back(name);
+        }
+        for (const std::string &name : m_names)
+            m_list.push_back(name.c_str());
+        m_list.push_back(nullptr);
+    }
+
+    const char *const *data() const { return m_list.data(); }
+
+private:
+    std::vector<std::string> m_names;
+    std::vector<const char *> m_list;
+};
+
+bool isVirtual(const std::string &path)
+{
+    constexpr std::string_view Virtual = "/vsi";
+    return path.size() >= Virtual.size() &&
+           std::equal(Virtual.begin(), Virtual.end(), path.begin(),
+                      [](char a, char b) { return a == (b >= 'A' && b <= 'Z' ? b + 32 : b); });
+}
+
+} // namespace
+
 const char *const *localRasterFormats()
 {
-    static constexpr std::array<const char *, 19> Formats = {
-        "GTiff",       "HFA", "AAIGrid", "EHdr", "ENVI", "DTED", "SRTMHGT",
-        "USGSDEM",     "BT",  "RST",     "SAGA", "GSAG", "GSBG", "GS7BG",
-        "JP2OpenJPEG", "PNG", "JPEG",    "BMP",  nullptr};
+    static const FormatList Formats(GDAL_DCAP_RASTER);
     return Formats.data();
 }
 
 const char *const *localVectorFormats()
 {
-    static constexpr std::array<const char *, 14> Formats = {"ESRI Shapefile",
-                                                             "MapInfo File",
-                                                             "GPKG",
-                                                             "GeoJSON",
-                                                             "GeoJSONSeq",
-                                                             "FlatGeobuf",
-                                                             "SQLite",
-                                                             "KML",
-                                                             "LIBKML",
-                                                             "GPX",
-                                                             "DGN",
-                                                             "DXF",
-                                                             "CSV",
-                                                             nullptr};
+    static const FormatList Formats(GDAL_DCAP_VECTOR);
     return Formats.data();
 }
 
 bool isLocalFile(const std::string &absolutePath)
 {
-    constexpr std::string_view Virtual = "/vsi";
-    const bool isVirtual =
-        absolutePath.size() >= Virtual.size() &&
-        std::equal(Virtual.begin(), Virtual.end(), absolutePath.begin(),
-                   [](char a, char b) { return a == (b >= 'A' && b <= 'Z' ? b + 32 : b); });
     std::error_code error;
-    return !isVirtual && absolutePath.starts_with('/') &&
+    return !isVirtual(absolutePath) && absolutePath.starts_with('/') &&
            std::filesystem::is_regular_file(absolutePath, error);
+}
+
+bool isLocalDataset(const std::string &absolutePath)
+{
+    std::error_code error;
+    return isLocalFile(absolutePath) ||
+           (!isVirtual(absolutePath) && absolutePath.starts_with('/') &&
+            std::filesystem::is_directory(absolutePath, error));
 }
 
 } // namespace vlt::localfiles

@@ -2,10 +2,13 @@
 
 #include <cpl_conv.h>
 #include <cpl_http.h>
+#include <cpl_vsi.h>
 
 namespace vlt::localfiles {
 
 namespace {
+
+constexpr const char *AllowedNetworkFile = "CPL_VSIL_CURL_ALLOWED_FILENAME";
 
 CPLHTTPResult *refuse(const char * /*url*/, CSLConstList /*options*/, GDALProgressFunc /*progress*/,
                       void * /*progressData*/, CPLHTTPFetchWriteFunc /*write*/,
@@ -17,16 +20,45 @@ CPLHTTPResult *refuse(const char * /*url*/, CSLConstList /*options*/, GDALProgre
     return result;
 }
 
+void *openNothing(void * /*user*/, const char * /*name*/, const char * /*access*/)
+{
+    return nullptr;
+}
+
+int findNothing(void * /*user*/, const char * /*name*/, VSIStatBufL * /*found*/, int /*flags*/)
+{
+    return -1;
+}
+
 } // namespace
 
 NoNetwork::NoNetwork()
 {
+    if (const char *allowed = CPLGetThreadLocalConfigOption(AllowedNetworkFile, nullptr))
+        m_allowedBefore = allowed;
     CPLHTTPPushFetchCallback(refuse, nullptr);
+    // no file of the network's file systems has this name
+    CPLSetThreadLocalConfigOption(AllowedNetworkFile, "none");
 }
 
 NoNetwork::~NoNetwork()
 {
+    CPLSetThreadLocalConfigOption(AllowedNetworkFile,
+                                  m_allowedBefore ? m_allowedBefore->c_str() : nullptr);
     CPLHTTPPopFetchCallback();
+}
+
+void closeNetworkFileSystems()
+{
+    VSIFilesystemPluginCallbacksStruct *nothing = VSIAllocFilesystemPluginCallbacksStruct();
+    nothing->open = openNothing;
+    nothing->stat = findNothing;
+    for (const char *prefix :
+         {"/vsicurl/", "/vsicurl?", "/vsicurl_streaming/", "/vsis3/", "/vsis3_streaming/",
+          "/vsigs/", "/vsigs_streaming/", "/vsiaz/", "/vsiaz_streaming/", "/vsiadls/", "/vsioss/",
+          "/vsioss_streaming/", "/vsiswift/", "/vsiswift_streaming/", "/vsiwebhdfs/", "/vsihdfs/"})
+        VSIInstallPluginHandler(prefix, nothing);
+    VSIFreeFilesystemPluginCallbacksStruct(nothing);
 }
 
 } // namespace vlt::localfiles

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <optional>
+#include <string>
+
 namespace vlt::localfiles {
 
 /// While it lives, nothing that the geodata library opens on this thread fetches anything over the
@@ -11,6 +14,13 @@ public:
     ~NoNetwork();
     NoNetwork(const NoNetwork &) = delete;
     NoNetwork &operator=(const NoNetwork &) = delete;
+
+private:
+    std::optional<std::string> m_allowedBefore;
 };
+
+/// Takes the network's file systems (/vsicurl/, /vsis3/ ...) away from the geodata library for the
+/// whole program and for good: files of some formats name other files, which may lie there.
+void closeNetworkFileSystems();
 
 } // namespace vlt::localfiles
