@@ -1,7 +1,8 @@
 #!/usr/bin/python3
-"""Makes the files of examples/lorient anew: terrain, coastline, project, site and link tables.
+"""Makes the files of examples/lorient anew: terrain, coastline, project, site and link tables, a
+town quarter with textures.
 
-Needs openpyxl, xlwt and GDAL's gdaltransform and gdal_translate. A second run with the same
+Needs openpyxl, xlwt and GDAL's gdaltransform, gdal_translate and ogr2ogr. A second run with the same
 versions gives the same bytes.
 """
 
@@ -15,6 +16,7 @@ from example_places import COAST, LAND, RURAL, SITES, SUBURBAN, URBAN
 from example_tables import write_csv, write_spreadsheet_xml, write_xls, write_xlsx
 from example_terrain import (GEOGRAPHIC, PROJECTED, elevation_at, elevations, transformed,
                              write_terrain)
+from example_town import write_town
 
 TARGET = Path(__file__).resolve().parent / "lorient"
 MOST_TRANSMITTERS = 6
@@ -174,6 +176,10 @@ DEM Layers
 Vector layer
     File : vectors/coastline.geojson
     Layer name : coastline
+
+Vector layer
+    File : vectors/buildings.shp
+    Layer name : buildings
 """, encoding="utf-8")
 
 
@@ -186,6 +192,7 @@ def main():
     sites = make_sites(grid)
     write_tables(sites)
     write_links(sites, TARGET)
+    write_town(grid, TARGET)
 
 
 if __name__ == "__main__":
