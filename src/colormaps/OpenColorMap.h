@@ -1,0 +1,16 @@
+#pragma once
+
+#include "colormaps/ColorMap.h"
+#include "platform/Result.h"
+
+#include <QString>
+
+namespace vlt::colormaps {
+
+/// ColorMap::load() as a value; nothing goes to the error output.
+///
+/// @par Errors  MESS_ERR_OPEN_CMAP with the path; the text is the loader's reason where it gave one
+Result<ColorMap> openColorMap(const QString &path, double minimum = ColorMap::Unset,
+                              double maximum = ColorMap::Unset);
+
+} // namespace vlt::colormaps

@@ -1,0 +1,61 @@
+#pragma once
+
+#include "colormaps/ColorMap.h"
+
+#include <QFile>
+#include <QString>
+#include <QStringList>
+#include <QTemporaryDir>
+
+#include <cpl_error.h>
+
+/// Keeps what the geodata library is told while it lives.
+class ToldErrors
+{
+public:
+    ToldErrors() { CPLPushErrorHandlerEx(keep, &m_texts); }
+    ~ToldErrors() { CPLPopErrorHandler(); }
+    ToldErrors(const ToldErrors &) = delete;
+    ToldErrors &operator=(const ToldErrors &) = delete;
+
+    /// Failures with the application's number; others carry a mark.
+    const QStringList &texts() const { return m_texts; }
+
+private:
+    static void CPL_STDCALL keep(CPLErr severity, CPLErrorNum number, const char *message)
+    {
+        const bool isExpected = severity == CE_Failure && number == CPLE_AppDefined;
+        static_cast<QStringList *>(CPLGetErrorHandlerUserData())
+            ->append(QLatin1String(isExpected ? "" : "(other kind) ") + QString::fromUtf8(message));
+    }
+
+    QStringList m_texts;
+};
+
+inline QString written(const vlt::colormaps::Rgba &color)
+{
+    return QStringLiteral("%1,%2,%3,%4")
+        .arg(color.red)
+        .arg(color.green)
+        .arg(color.blue)
+        .arg(color.alpha);
+}
+
+/// "value r,g,b,a; ..."
+inline QString written(const vlt::colormaps::ColorMap &map)
+{
+    QStringList texts;
+    for (const vlt::colormaps::ColorAssociation &one : map.associations())
+        texts << QString::number(one.value, 'g', 15) + QLatin1Char(' ') + written(one.color);
+    return texts.join(QStringLiteral("; "));
+}
+
+/// A file of the given name, as the loader takes it.
+inline std::string fileWith(const QTemporaryDir &dir, const QString &name, const QByteArray &bytes)
+{
+    const QString path = dir.filePath(name);
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+        qFatal("no temporary file");
+    return QFile::encodeName(path).toStdString();
+}
