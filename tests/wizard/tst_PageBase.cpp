@@ -5,9 +5,11 @@
 #include "wizard/base/DraggableIcon.h"
 
 #include <QClipboard>
+#include <QProgressBar>
 #include <QProgressDialog>
 #include <QSemaphore>
 #include <QTest>
+#include <QThread>
 #include <QTimer>
 #include <QWindow>
 
@@ -189,6 +191,34 @@ private Q_SLOTS:
         });
         hold->release();
         QVERIFY(!cancelled);
+    }
+
+    void tellsCancelledWorkToStop()
+    {
+        const auto stopped = std::make_shared<QSemaphore>();
+        int shown = -1;
+        QTimer::singleShot(500, this, [&shown] {
+            auto *dialog = qobject_cast<QProgressDialog *>(QApplication::activeModalWidget());
+            QVERIFY(dialog);
+            shown = dialog->findChild<QProgressBar *>()->value();
+            dialog->cancel();
+        });
+        const auto cancelled = vlt::wizard::waitForValue<int>(
+            nullptr, u"slow"_s, [stopped](const vlt::wizard::WorkProgress &progress) {
+                while (progress(0.42))
+                    QThread::msleep(1);
+                stopped->release();
+                return 8;
+            });
+        QVERIFY(!cancelled);
+        QCOMPARE(shown, 42);
+        QVERIFY(stopped->tryAcquire(1, 5000));
+        QTRY_VERIFY(!vlt::wizard::isWorkRunning());
+
+        const auto done = vlt::wizard::waitForValue<int>(
+            nullptr, u"quick"_s,
+            [](const vlt::wizard::WorkProgress &progress) { return progress(1) ? 9 : 0; });
+        QCOMPARE(done, 9);
     }
 };
 

@@ -1,5 +1,6 @@
 #include "wizard/base/BusyWait.h"
 
+#include <QProgressBar>
 #include <QProgressDialog>
 #include <QSemaphore>
 #include <QTimer>
@@ -15,10 +16,32 @@ namespace {
 constexpr int PatienceMs = 250;
 constexpr int PollMs = 20;
 constexpr int UsualCharacters = 50;
+constexpr double PerCent = 100;
 
 std::atomic<int> runningWorks = 0;
 
-bool waitWithDialog(QWidget *parent, const QString &text, QSemaphore &ended)
+/// What the thread of a work and the one that waits for it share.
+struct Job
+{
+    QSemaphore ended;
+    std::atomic<bool> stopped = false;
+    std::atomic<double> share = 0;
+};
+
+std::shared_ptr<Job> start(const std::function<void(Job &)> &work)
+{
+    auto job = std::make_shared<Job>();
+    ++runningWorks;
+    std::thread([work, job] {
+        work(*job);
+        job->ended.release();
+        --runningWorks;
+    }).detach();
+    return job;
+}
+
+/// @param bar  set by hand: the dialog's own setValue() would run events within the poll
+bool waitWithDialog(QWidget *parent, const QString &text, QProgressBar *bar, Job &job)
 {
     QProgressDialog dialog(parent);
     dialog.setWindowModality(Qt::WindowModal);
@@ -26,13 +49,15 @@ bool waitWithDialog(QWidget *parent, const QString &text, QSemaphore &ended)
     dialog.setMinimumWidth(dialog.fontMetrics().averageCharWidth() * UsualCharacters);
     if (parent)
         dialog.setWindowTitle(parent->window()->windowTitle());
-    dialog.setRange(0, 0);
+    dialog.setBar(bar);
     dialog.setMinimumDuration(0);
     QTimer poll;
     bool isDone = false;
     QObject::connect(&poll, &QTimer::timeout, &dialog, [&] {
-        if (!ended.tryAcquire())
+        if (!job.ended.tryAcquire()) {
+            bar->setValue(static_cast<int>(job.share * PerCent));
             return;
+        }
         poll.stop(); // another event loop may keep exec() from returning for a while
         isDone = true;
         dialog.accept();
@@ -42,18 +67,34 @@ bool waitWithDialog(QWidget *parent, const QString &text, QSemaphore &ended)
     return isDone;
 }
 
+bool waitForJob(QWidget *parent, const QString &text, int barMaximum, Job &job)
+{
+    if (job.ended.tryAcquire(1, PatienceMs))
+        return true;
+    auto *bar = new QProgressBar; // the dialog's from here on
+    bar->setRange(0, barMaximum);
+    const bool isDone = waitWithDialog(parent, text, bar, job);
+    job.stopped = !isDone;
+    return isDone;
+}
+
 } // namespace
 
 bool waitFor(QWidget *parent, const QString &text, const std::function<void()> &work)
 {
-    const auto ended = std::make_shared<QSemaphore>();
-    ++runningWorks;
-    std::thread([work, ended] {
-        work();
-        ended->release();
-        --runningWorks;
-    }).detach();
-    return ended->tryAcquire(1, PatienceMs) || waitWithDialog(parent, text, *ended);
+    return waitForJob(parent, text, 0, *start([work](Job &) { work(); }));
+}
+
+bool waitFor(QWidget *parent, const QString &text,
+             const std::function<void(const WorkProgress &)> &work)
+{
+    const auto job = start([work](Job &started) {
+        work([&started](double share) {
+            started.share = share;
+            return !started.stopped;
+        });
+    });
+    return waitForJob(parent, text, static_cast<int>(PerCent), *job);
 }
 
 bool isWorkRunning()

@@ -16,12 +16,33 @@ namespace vlt::wizard {
 /// must own everything that it uses.
 bool waitFor(QWidget *parent, const QString &text, const std::function<void()> &work);
 
+/// What work calls now and then with the share that is done (0..1), on any of its threads; false
+/// stops it.
+using WorkProgress = std::function<bool(double)>;
+
+/// The same for work that tells how far it is: the bar shows the per cent. It is told to stop when
+/// the user cancels, but not waited for.
+bool waitFor(QWidget *parent, const QString &text,
+             const std::function<void(const WorkProgress &)> &work);
+
 /// The same for work that gives a value; nothing when the user cancelled.
 template<typename T>
 std::optional<T> waitForValue(QWidget *parent, const QString &text, const std::function<T()> &work)
 {
     const auto value = std::make_shared<std::optional<T>>();
     if (!waitFor(parent, text, [value, work] { value->emplace(work()); }))
+        return std::nullopt;
+    return std::move(*value);
+}
+
+/// The same for work that gives a value and tells how far it is.
+template<typename T>
+std::optional<T> waitForValue(QWidget *parent, const QString &text,
+                              const std::function<T(const WorkProgress &)> &work)
+{
+    const auto value = std::make_shared<std::optional<T>>();
+    if (!waitFor(parent, text,
+                 [value, work](const WorkProgress &progress) { value->emplace(work(progress)); }))
         return std::nullopt;
     return std::move(*value);
 }

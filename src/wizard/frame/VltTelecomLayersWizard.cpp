@@ -1,5 +1,7 @@
 #include "wizard/frame/VltTelecomLayersWizard.h"
 
+#include "buildings/ui/VltAddTexbFirstPage.h"
+#include "buildings/ui/VltAddTexbTexturedPage.h"
 #include "links/ui/VltAddLinkPage.h"
 #include "platform/Settings.h"
 #include "sites/ui/VltAddSitePage.h"
@@ -91,7 +93,7 @@ void VltTelecomLayersWizard::addPages()
               new VltAddSitePage(this, m_parameters, m_installDir, m_language));
     addPageAs(LogicalPage::AddLink,
               new VltAddLinkPage(this, m_parameters, m_installDir, m_language));
-    addPlannedPages();
+    addBuildingPages();
     first->setPageIds({pageId(LogicalPage::Project), pageId(LogicalPage::AddSite),
                        pageId(LogicalPage::AddLink), pageId(LogicalPage::BuildingsSource)});
     connect(first, &VltFirstPage::nextPageSelected, this,
@@ -103,19 +105,25 @@ void VltTelecomLayersWizard::addPageAs(LogicalPage logical, QWizardPage *page)
     m_pageIds[static_cast<std::size_t>(logical)] = addPage(page);
 }
 
+/// In the order of the wizard ids, which is not that of the logical pages.
+void VltTelecomLayersWizard::addBuildingPages()
+{
+    auto *source = new VltAddTexbFirstPage(this, m_parameters, m_installDir, m_language);
+    addPageAs(LogicalPage::BuildingsSource, source);
+    auto *textured = new VltAddTexbTexturedPage(this, m_parameters, m_installDir, m_language);
+    addPageAs(LogicalPage::BuildingsTextured, textured);
+    addPlannedPages();
+    source->setColoredPageId(pageId(LogicalPage::BuildingsColored));
+    source->setTexturedPageId(pageId(LogicalPage::BuildingsTextured));
+    textured->setNextId(pageId(LogicalPage::BuildingsDisplay));
+}
+
 void VltTelecomLayersWizard::addPlannedPages()
 {
     const auto plan = [this](LogicalPage logical, const QString &title, const QString &purpose) {
         addPageAs(logical,
                   new PlannedPage(this, m_parameters, m_installDir, m_language, title, purpose));
     };
-    plan(LogicalPage::BuildingsSource, tr("Buildings", "MESS_PAGE_BUILDINGS"),
-         tr("Here the buildings of a vector file, the field of their heights and the terrain will "
-            "be chosen, to make a layer of 3D buildings.",
-            "MESS_PLANNED_BUILDINGS"));
-    plan(LogicalPage::BuildingsTextured, tr("Textured buildings", "MESS_PAGE_TEXTURED"),
-         tr("Here images will be chosen for roofs, walls or storeys of the buildings.",
-            "MESS_PLANNED_TEXTURED"));
     plan(LogicalPage::BuildingsColored, tr("Coloured buildings", "MESS_PAGE_COLORED"),
          tr("Here the buildings will be coloured from a raster, such as a coverage prediction, "
             "through a colour map.",

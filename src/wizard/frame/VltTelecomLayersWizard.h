@@ -52,6 +52,7 @@ private:
     void setUpButtons();
     void addPages();
     void addPageAs(LogicalPage logical, QWizardPage *page);
+    void addBuildingPages();
     void addPlannedPages();
     void keepOnScreen();
     void focusPage();

@@ -119,17 +119,9 @@ Buildings can be colored or textured with images (ortho-images, coverage plots, 
         <source>Buildings</source>
         <translation>Buildings</translation>
     </message>
-    <message id="MESS_PLANNED_BUILDINGS">
-        <source>Here the buildings of a vector file, the field of their heights and the terrain will be chosen, to make a layer of 3D buildings.</source>
-        <translation>Here the buildings of a vector file, the field of their heights and the terrain will be chosen, to make a layer of 3D buildings.</translation>
-    </message>
     <message id="MESS_PAGE_TEXTURED">
         <source>Textured buildings</source>
         <translation>Textured buildings</translation>
-    </message>
-    <message id="MESS_PLANNED_TEXTURED">
-        <source>Here images will be chosen for roofs, walls or storeys of the buildings.</source>
-        <translation>Here images will be chosen for roofs, walls or storeys of the buildings.</translation>
     </message>
     <message id="MESS_PAGE_COLORED">
         <source>Coloured buildings</source>

@@ -119,17 +119,9 @@ Les bâtiments peuvent être colorés ou texturés avec des images (orthophotos,
         <source>Buildings</source>
         <translation>Bâtiments</translation>
     </message>
-    <message id="MESS_PLANNED_BUILDINGS">
-        <source>Here the buildings of a vector file, the field of their heights and the terrain will be chosen, to make a layer of 3D buildings.</source>
-        <translation>Ici seront choisis les bâtiments d'un fichier vectoriel, le champ de leurs hauteurs et le terrain, pour créer une couche de bâtiments 3D.</translation>
-    </message>
     <message id="MESS_PAGE_TEXTURED">
         <source>Textured buildings</source>
         <translation>Bâtiments texturés</translation>
-    </message>
-    <message id="MESS_PLANNED_TEXTURED">
-        <source>Here images will be chosen for roofs, walls or storeys of the buildings.</source>
-        <translation>Ici seront choisies des images pour les toits, les murs ou les étages des bâtiments.</translation>
     </message>
     <message id="MESS_PAGE_COLORED">
         <source>Coloured buildings</source>

@@ -1,0 +1,187 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en_US" sourcelanguage="en">
+<context>
+    <name>Building source page</name>
+    <message id="MESS_BUILDINGS_DS">
+        <source>Building datasource</source>
+        <translation>Building datasource</translation>
+    </message>
+    <message id="MESS_BUILDINGS_LY">
+        <source>Layer</source>
+        <translation>Layer</translation>
+    </message>
+    <message id="MESS_HEIGHT_FIELD">
+        <source>Height Field</source>
+        <translation>Height Field</translation>
+    </message>
+    <message id="MESS_TERRAIN_GROUP">
+        <source>Terrain</source>
+        <translation>Terrain</translation>
+    </message>
+    <message id="MESS_MNT_EXP">
+        <source>Digital terrain model</source>
+        <translation>Digital terrain model</translation>
+    </message>
+    <message id="MESS_NO_DATA">
+        <source>No Data Value</source>
+        <translation>No Data Value</translation>
+    </message>
+    <message id="MESS_GUESS_FROM_IMG">
+        <source>Guess from image...</source>
+        <translation>Guess from image...</translation>
+    </message>
+    <message id="MESS_BUILDING_REPR">
+        <source>Building representation</source>
+        <translation>Building representation</translation>
+    </message>
+    <message id="MESS_TEX_BUILDINGS">
+        <source>Textured</source>
+        <translation>Textured</translation>
+    </message>
+    <message id="MESS_TEX_BUILDINGS2">
+        <source>Roof, walls or storeys of each building are textured using 
+raster images (ortho images, coverages plots, ...).</source>
+        <translation>Roof, walls or storeys of each building are textured using 
+raster images (ortho images, coverages plots, ...).</translation>
+    </message>
+    <message id="MESS_COL_BUILDINGS">
+        <source>Colored</source>
+        <translation>Colored</translation>
+    </message>
+    <message id="MESS_COL_BUILDINGS2">
+        <source>&lt;p&gt;Each building is colored either with a color derived from an &lt;br/&gt;attribute value or with a color derived from a raster coverage :&lt;br/&gt;a formula (min, max, ...) is applied to all pixels it covers in a &lt;br/&gt;raster coverage .&lt;/p&gt;</source>
+        <translation>&lt;p&gt;Each building is colored either with a color derived from an &lt;br/&gt;attribute value or with a color derived from a raster coverage :&lt;br/&gt;a formula (min, max, ...) is applied to all pixels it covers in a &lt;br/&gt;raster coverage .&lt;/p&gt;</translation>
+    </message>
+    <message id="MESS_INTEGER">
+        <source>Integer</source>
+        <translation>Integer</translation>
+    </message>
+    <message id="MESS_REAL">
+        <source>Real</source>
+        <translation>Real</translation>
+    </message>
+    <message id="MESS_STRING">
+        <source>String</source>
+        <translation>String</translation>
+    </message>
+    <message id="MESS_SELECT_BUILDINGS_F">
+        <source>Select the buildings file to display</source>
+        <translation>Select the buildings file to display</translation>
+    </message>
+    <message id="MESS_SELECT_DTM">
+        <source>Select the raster DTM</source>
+        <translation>Select the raster DTM</translation>
+    </message>
+    <message id="MESS_VECTOR_FILES">
+        <source>Vector Files</source>
+        <translation>Vector Files</translation>
+    </message>
+    <message id="MESS_RASTER_FILES">
+        <source>Raster Files</source>
+        <translation>Raster Files</translation>
+    </message>
+    <message id="MESS_BUILDINGS_KINDS">
+        <source>Vector file with the outlines of the buildings</source>
+        <translation>Vector file with the outlines of the buildings</translation>
+    </message>
+    <message id="MESS_DTM_KINDS">
+        <source>Raster with the heights of the ground</source>
+        <translation>Raster with the heights of the ground</translation>
+    </message>
+    <message id="MESS_TIP_BUILDINGS_DS">
+        <source>Path of the vector file with the outlines of the buildings; press Enter after typing one, or drop a file on the page</source>
+        <translation>Path of the vector file with the outlines of the buildings; press Enter after typing one, or drop a file on the page</translation>
+    </message>
+    <message id="MESS_TIP_BUILDINGS_LY">
+        <source>The layers of polygons of the file</source>
+        <translation>The layers of polygons of the file</translation>
+    </message>
+    <message id="MESS_TIP_HEIGHT_FIELD">
+        <source>The field that holds the height of each building above the ground</source>
+        <translation>The field that holds the height of each building above the ground</translation>
+    </message>
+    <message id="MESS_TIP_MNT_EXP">
+        <source>Path of the raster with the heights of the ground; press Enter after typing one, or drop a file on the page</source>
+        <translation>Path of the raster with the heights of the ground; press Enter after typing one, or drop a file on the page</translation>
+    </message>
+    <message id="MESS_TIP_NO_DATA">
+        <source>What stands in the raster where the height of the ground is not known; empty where it is known everywhere</source>
+        <translation>What stands in the raster where the height of the ground is not known; empty where it is known everywhere</translation>
+    </message>
+    <message id="MESS_TIP_GUESS_FROM_IMG">
+        <source>Take a value that is too low or too high for a height of the ground out of the raster</source>
+        <translation>Take a value that is too low or too high for a height of the ground out of the raster</translation>
+    </message>
+    <message id="MESS_READING_BUILDINGS">
+        <source>Reading the buildings...</source>
+        <translation>Reading the buildings...</translation>
+    </message>
+    <message id="MESS_READING_EXTENT">
+        <source>Looking where the buildings are...</source>
+        <translation>Looking where the buildings are...</translation>
+    </message>
+    <message id="MESS_READING_DTM">
+        <source>Reading the terrain...</source>
+        <translation>Reading the terrain...</translation>
+    </message>
+</context>
+<context>
+    <name>What is told of the sources</name>
+    <message id="MESS_BUILDING_COUNT">
+        <source>Buildings: %1</source>
+        <translation>Buildings: %1</translation>
+    </message>
+    <message id="MESS_NO_SYSTEM">
+        <source>no coordinate system</source>
+        <translation>no coordinate system</translation>
+    </message>
+    <message id="MESS_NO_BUILDING_PLACED">
+        <source>no building has a place</source>
+        <translation>no building has a place</translation>
+    </message>
+    <message id="MESS_PIXEL_COUNT">
+        <source>%1 × %2 pixels</source>
+        <translation>%1 × %2 pixels</translation>
+    </message>
+    <message id="MESS_DTM_COVERS">
+        <source>covers the buildings</source>
+        <translation>covers the buildings</translation>
+    </message>
+    <message id="MESS_DTM_COVERS_PART">
+        <source>covers only a part of the buildings</source>
+        <translation>covers only a part of the buildings</translation>
+    </message>
+    <message id="MESS_DTM_COVERS_NONE">
+        <source>does not cover the buildings</source>
+        <translation>does not cover the buildings</translation>
+    </message>
+</context>
+<context>
+    <name>Refused sources</name>
+    <message id="MESS_ERR_OPEN_VECTORDS">
+        <source>This file can't be open as a vector file</source>
+        <translation>This file can't be open as a vector file</translation>
+    </message>
+    <message id="MESS_ERR_NOPOLY_LAY">
+        <source>This datasource doesn't contain any polygon layer</source>
+        <translation>This datasource doesn't contain any polygon layer</translation>
+    </message>
+    <message id="MESS_ERR_OPEN_RASTERDS">
+        <source>This file can't be open as a raster dataset</source>
+        <translation>This file can't be open as a raster dataset</translation>
+    </message>
+    <message id="MESS_ERR_NO_BANDS">
+        <source>This image doesn't have any band</source>
+        <translation>This image doesn't have any band</translation>
+    </message>
+    <message id="MESS_OUV_MNT_IMP">
+        <source>Cannot open DTM</source>
+        <translation>Cannot open DTM</translation>
+    </message>
+    <message id="MESS_ERR_NO_EXTENT">
+        <source>No building of this layer has a place</source>
+        <translation>No building of this layer has a place</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,83 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en_US" sourcelanguage="en">
+<context>
+    <name>Textured page</name>
+    <message id="MESS_DATA_STRUCTURE">
+        <source>Data structure</source>
+        <translation>Data structure</translation>
+    </message>
+    <message id="MESS_TIP_DATA_STRUCTURE">
+        <source>How the images lie in folders, seen from the template image; it counts when the next template is chosen</source>
+        <translation>How the images lie in folders, seen from the template image; it counts when the next template is chosen</translation>
+    </message>
+    <message id="MESS_DS_SAME_FOLDER">
+        <source>All images are in the same folder</source>
+        <translation>All images are in the same folder</translation>
+    </message>
+    <message id="MESS_DS_FOLDER_ONE_LVL">
+        <source>Images are in folders at the same level</source>
+        <translation>Images are in folders at the same level</translation>
+    </message>
+    <message id="MESS_DS_FOLDER_TWO_LVL">
+        <source>Images are in folders separated by two levels</source>
+        <translation>Images are in folders separated by two levels</translation>
+    </message>
+    <message id="MESS_DEF_TMPLT_IMG">
+        <source>Define  the template image...</source>
+        <translation>Define  the template image...</translation>
+    </message>
+    <message id="MESS_TIP_TEMPLATE">
+        <source>Choose one of the images; all images of its kind around it are listed. A file dropped on the page does the same</source>
+        <translation>Choose one of the images; all images of its kind around it are listed. A file dropped on the page does the same</translation>
+    </message>
+    <message id="MESS_FILTER_PATTERN">
+        <source>Filter images with this pattern</source>
+        <translation>Filter images with this pattern</translation>
+    </message>
+    <message id="MESS_TIP_TEXTURE_FILTER">
+        <source>Shows the images with this text in their file name, folder or description, or whose height matches it</source>
+        <translation>Shows the images with this text in their file name, folder or description, or whose height matches it</translation>
+    </message>
+    <message id="MESS_USE_ALL_SHOWN">
+        <source>Use all shown</source>
+        <translation>Use all shown</translation>
+    </message>
+    <message id="MESS_TIP_USE_ALL_SHOWN">
+        <source>Tick all images that the table shows</source>
+        <translation>Tick all images that the table shows</translation>
+    </message>
+    <message id="MESS_USE_NONE_SHOWN">
+        <source>Use none shown</source>
+        <translation>Use none shown</translation>
+    </message>
+    <message id="MESS_TIP_USE_NONE_SHOWN">
+        <source>Untick all images that the table shows</source>
+        <translation>Untick all images that the table shows</translation>
+    </message>
+    <message id="MESS_TEXTURE_IMAGES">
+        <source>Texture images</source>
+        <translation>Texture images</translation>
+    </message>
+    <message id="MESS_COPIER">
+        <source>copy</source>
+        <translation>copy</translation>
+    </message>
+    <message id="MESS_SELECT_TMPT_TEX">
+        <source>Select one of the texture files</source>
+        <translation>Select one of the texture files</translation>
+    </message>
+    <message id="MESS_LOOKING_FOR_IMAGES">
+        <source>Looking for images...</source>
+        <translation>Looking for images...</translation>
+    </message>
+    <message id="MESS_TEXTURE_COUNTS">
+        <source>Images: %1  •  shown: %2  •  used: %3</source>
+        <translation>Images: %1  •  shown: %2  •  used: %3</translation>
+    </message>
+    <message id="MESS_NO_TEXTURE_MATCHES">
+        <source>no image matches the filter</source>
+        <translation>no image matches the filter</translation>
+    </message>
+</context>
+</TS>

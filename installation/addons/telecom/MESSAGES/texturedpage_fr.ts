@@ -1,0 +1,83 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr_FR" sourcelanguage="en">
+<context>
+    <name>Textured page</name>
+    <message id="MESS_DATA_STRUCTURE">
+        <source>Data structure</source>
+        <translation>Structure des données</translation>
+    </message>
+    <message id="MESS_TIP_DATA_STRUCTURE">
+        <source>How the images lie in folders, seen from the template image; it counts when the next template is chosen</source>
+        <translation>Comment les images sont rangées en dossiers, vu de l'image modèle&#xa0;; pris en compte au prochain choix d'un modèle</translation>
+    </message>
+    <message id="MESS_DS_SAME_FOLDER">
+        <source>All images are in the same folder</source>
+        <translation>Toutes les images sont dans le même dossier</translation>
+    </message>
+    <message id="MESS_DS_FOLDER_ONE_LVL">
+        <source>Images are in folders at the same level</source>
+        <translation>Les images sont dans des dossiers de même niveau</translation>
+    </message>
+    <message id="MESS_DS_FOLDER_TWO_LVL">
+        <source>Images are in folders separated by two levels</source>
+        <translation>Les images sont dans des dossiers séparés par deux niveaux</translation>
+    </message>
+    <message id="MESS_DEF_TMPLT_IMG">
+        <source>Define  the template image...</source>
+        <translation>Définir l'image modèle...</translation>
+    </message>
+    <message id="MESS_TIP_TEMPLATE">
+        <source>Choose one of the images; all images of its kind around it are listed. A file dropped on the page does the same</source>
+        <translation>Choisissez l'une des images&#xa0;: toutes celles de même extension autour d'elle sont listées. Un fichier déposé sur la page a le même effet</translation>
+    </message>
+    <message id="MESS_FILTER_PATTERN">
+        <source>Filter images with this pattern</source>
+        <translation>Filtrer les images avec ce motif</translation>
+    </message>
+    <message id="MESS_TIP_TEXTURE_FILTER">
+        <source>Shows the images with this text in their file name, folder or description, or whose height matches it</source>
+        <translation>Affiche les images dont le nom de fichier, le dossier ou la description contient ce texte, ou dont la hauteur y correspond</translation>
+    </message>
+    <message id="MESS_USE_ALL_SHOWN">
+        <source>Use all shown</source>
+        <translation>Cocher les affichées</translation>
+    </message>
+    <message id="MESS_TIP_USE_ALL_SHOWN">
+        <source>Tick all images that the table shows</source>
+        <translation>Cocher toutes les images du tableau</translation>
+    </message>
+    <message id="MESS_USE_NONE_SHOWN">
+        <source>Use none shown</source>
+        <translation>Décocher les affichées</translation>
+    </message>
+    <message id="MESS_TIP_USE_NONE_SHOWN">
+        <source>Untick all images that the table shows</source>
+        <translation>Décocher toutes les images du tableau</translation>
+    </message>
+    <message id="MESS_TEXTURE_IMAGES">
+        <source>Texture images</source>
+        <translation>Images de texture</translation>
+    </message>
+    <message id="MESS_COPIER">
+        <source>copy</source>
+        <translation>copier</translation>
+    </message>
+    <message id="MESS_SELECT_TMPT_TEX">
+        <source>Select one of the texture files</source>
+        <translation>Choisir l'un des fichiers de texture</translation>
+    </message>
+    <message id="MESS_LOOKING_FOR_IMAGES">
+        <source>Looking for images...</source>
+        <translation>Recherche des images...</translation>
+    </message>
+    <message id="MESS_TEXTURE_COUNTS">
+        <source>Images: %1  •  shown: %2  •  used: %3</source>
+        <translation>Images&#xa0;: %1  •  affichées&#xa0;: %2  •  utilisées&#xa0;: %3</translation>
+    </message>
+    <message id="MESS_NO_TEXTURE_MATCHES">
+        <source>no image matches the filter</source>
+        <translation>aucune image ne correspond au filtre</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,52 @@
+#include "buildings/BuildingLayer.h"
+
+#include "sites/InfoPageParts.h"
+#include "sites/SiteLayer.h"
+#include "text/Numbers.h"
+#include "text/Templates.h"
+
+namespace vlt::buildings {
+
+QString subtypeName(TexbSubtype subtype)
+{
+    switch (subtype) {
+    case TexbSubtype::Colored:
+        return QStringLiteral("rf_colored_buildings");
+    case TexbSubtype::Roofs:
+        return QStringLiteral("rf_roofs");
+    case TexbSubtype::Walls:
+        return QStringLiteral("rf_walls");
+    case TexbSubtype::Storeys:
+        break;
+    }
+    return QStringLiteral("rf_storeys");
+}
+
+QString texbUrl(const QString &documentPath)
+{
+    return QStringLiteral("TEXB:") + documentPath + QStringLiteral(".texb");
+}
+
+QString texbTemplatePath(const QString &installDir)
+{
+    return installDir + QStringLiteral("/addons/telecom/template") +
+           QStringLiteral("/template_texb.lay");
+}
+
+Result<Done> createTexbLayerFile(const QString &outputPath, const QString &templatePath,
+                                 const TexbLayer &layer, platform::Access access, QString *reason)
+{
+    const Result<QString> layerTemplate = sites::readConfigurationFile(templatePath);
+    if (!layerTemplate)
+        return layerTemplate.error();
+    const QString text = text::replacePlaceholders(
+        layerTemplate.value(), {{QStringLiteral("__TITLE__"), layer.title},
+                                {QStringLiteral("__DESCRIPTION__"), layer.description},
+                                {QStringLiteral("__SUBTYPE__"), subtypeName(layer.subtype)},
+                                {QStringLiteral("__TEXB_URL__"), layer.url},
+                                {QStringLiteral("__X_CENTER__"), text::g9(layer.xCenter)},
+                                {QStringLiteral("__Y_CENTER__"), text::g9(layer.yCenter)}});
+    return sites::writeSiteLayer(outputPath, text, access, reason);
+}
+
+} // namespace vlt::buildings

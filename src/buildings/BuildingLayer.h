@@ -1,0 +1,45 @@
+#pragma once
+
+#include "platform/AtomicFile.h"
+#include "platform/Result.h"
+
+#include <QString>
+
+namespace vlt::buildings {
+
+/// What a layer of buildings shows.
+enum class TexbSubtype { Colored, Roofs, Walls, Storeys };
+
+/// The values of a building layer.
+struct TexbLayer
+{
+    QString title;
+    QString url; ///< texbUrl()
+    double xCenter =
+        0; ///< of the extent of the buildings, in their system; both written with 9 digits
+    double yCenter = 0;
+    TexbSubtype subtype = TexbSubtype::Colored;
+    QString description;
+};
+
+/// "rf_colored_buildings", "rf_roofs", "rf_walls", "rf_storeys".
+QString subtypeName(TexbSubtype subtype);
+
+/// By which a layer names its document.
+///
+/// @param documentPath  without the extension ".texb"
+QString texbUrl(const QString &documentPath);
+
+/// The layer template of an installation.
+QString texbTemplatePath(const QString &installDir);
+
+/// Writes the layer file out of a template: afterwards it is the old one or the whole new one.
+///
+/// @param reason  where not null, takes the system's reason of an output that cannot be written
+/// @par Errors    MESS_MISSING_CONF_FILE with the template's path, nothing is written then;
+///                MESS_CANT_CREATE_LAYER with the output's path
+Result<Done> createTexbLayerFile(const QString &outputPath, const QString &templatePath,
+                                 const TexbLayer &layer, platform::Access access,
+                                 QString *reason = nullptr);
+
+} // namespace vlt::buildings

@@ -1,0 +1,22 @@
+#include "buildings/FileEntry.h"
+
+namespace vlt::buildings {
+
+QString FileEntry::fileName() const
+{
+    const QString path = file.filePath();
+    if (path.isEmpty() || path.startsWith(u'/'))
+        return file.fileName();
+    // FORMAT:"/folder/file.nc":variable, FORMAT:2:/folder/file.tif, FORMAT:/folder/file.gpkg:table
+    const qsizetype quote = path.indexOf(u'"');
+    if (quote >= 0) {
+        const QString quoted = path.mid(quote + 1, path.indexOf(u'"', quote + 1) - quote - 1);
+        return quoted.mid(quoted.lastIndexOf(u'/') + 1);
+    }
+    const QString name = path.mid(path.lastIndexOf(u'/') + 1);
+    const qsizetype suffix = name.indexOf(u'.');
+    const qsizetype part = suffix < 0 ? -1 : name.indexOf(u':', suffix);
+    return name.left(part);
+}
+
+} // namespace vlt::buildings

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QFileInfo>
+#include <QList>
+#include <QMetaType>
+#include <QString>
+
+namespace vlt::buildings {
+
+/// A texture image, or one of the images of a file that holds several.
+struct FileEntry
+{
+    static constexpr int Metres = 0;       ///< unit: the name states metres
+    static constexpr int UnstatedUnit = 1; ///< unit: the name has a number without a unit
+
+    FileEntry() = default;
+    FileEntry(const QString &fullPath, double imageHeight, int heightUnit,
+              const QString &folderName, bool isUsed, const QString &text)
+        : file(fullPath)
+        , shortName(folderName)
+        , used(isUsed)
+        , height(imageHeight)
+        , unit(heightUnit)
+        , description(text)
+    {}
+    FileEntry(const FileEntry &) = default;
+    FileEntry(FileEntry &&) = default;
+    FileEntry &operator=(const FileEntry &) = default;
+    FileEntry &operator=(FileEntry &&) = default;
+    virtual ~FileEntry() = default;
+
+    /// Name of the file on the disk, also where `file` is the name of an image in it.
+    QString fileName() const;
+
+    QFileInfo file;    ///< of the full path, which may be the name of an image in a file
+    QString shortName; ///< folder as the list shows it
+    bool used = true;  ///< ticked by the user
+    double height =
+        0; ///< the height or storey that the image is for, metres unless `unit` says otherwise
+    int unit = Metres;   ///< kept and saved as found
+    QString description; ///< of an image in a file that holds several
+};
+
+} // namespace vlt::buildings
+
+Q_DECLARE_METATYPE(QList<vlt::buildings::FileEntry>)

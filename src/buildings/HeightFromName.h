@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QString>
+
+#include <optional>
+
+namespace vlt::buildings {
+
+/// A height that the name of an image states.
+struct NamedHeight
+{
+    double height = 0; ///< 0 where the name states none
+    bool inMetres = false;
+};
+
+/// The height in a file name: a number at the end, a number with "m" at the end or in brackets, or
+/// "m" alone, which means 1.5. Decimal comma or point.
+///
+/// @param baseName  the name without its last suffix
+NamedHeight heightFromName(const QString &baseName);
+
+} // namespace vlt::buildings

@@ -1,0 +1,114 @@
+#include "buildings/SourceSummary.h"
+
+#include "language/VltLanguageManager.h"
+
+#include <QLocale>
+
+namespace vlt::buildings {
+
+namespace {
+
+using geodata::Extent;
+using geodata::SystemInfo;
+
+const QString Separator = QStringLiteral(" \u00b7 ");
+
+QString systemText(const SystemInfo &system)
+{
+    return system.name.isEmpty() ? dico_label("MESS_NO_SYSTEM", "no coordinate system")
+                                 : system.name;
+}
+
+QString lengthText(double length, const SystemInfo &system)
+{
+    constexpr double MetresPerKilometre = 1000;
+    const QLocale locale;
+    const double lengthM = length * system.unitM;
+    if (system.isGeographic)
+        return locale.toString(length, 'f', 4) + QChar(0xb0);
+    if (system.unitM <= 0)
+        return locale.toString(length, 'f', 0);
+    return lengthM < MetresPerKilometre
+               ? locale.toString(lengthM, 'f', 0) + QStringLiteral(" m")
+               : locale.toString(lengthM / MetresPerKilometre, 'f', 1) + QStringLiteral(" km");
+}
+
+QString sizeText(const Extent &extent, const SystemInfo &system)
+{
+    if (!extent.isPlaced())
+        return dico_label("MESS_NO_BUILDING_PLACED", "no building has a place");
+    return QStringLiteral("%1 \u00d7 %2")
+        .arg(lengthText(extent.maxX - extent.minX, system),
+             lengthText(extent.maxY - extent.minY, system));
+}
+
+QString kindText(geodata::FieldKind kind)
+{
+    switch (kind) {
+    case geodata::FieldKind::Integer:
+        return dico_label("MESS_INTEGER", "Integer");
+    case geodata::FieldKind::Real:
+        return dico_label("MESS_REAL", "Real");
+    case geodata::FieldKind::String:
+        return dico_label("MESS_STRING", "String");
+    case geodata::FieldKind::Other:
+        break;
+    }
+    return {};
+}
+
+bool contains(const Extent &outer, const Extent &inner)
+{
+    return outer.minX <= inner.minX && outer.minY <= inner.minY && outer.maxX >= inner.maxX &&
+           outer.maxY >= inner.maxY;
+}
+
+bool meets(const Extent &a, const Extent &b)
+{
+    return a.minX <= b.maxX && b.minX <= a.maxX && a.minY <= b.maxY && b.minY <= a.maxY;
+}
+
+QString coverText(const Extent &terrain, const Extent &buildings)
+{
+    if (contains(terrain, buildings))
+        return dico_label("MESS_DTM_COVERS", "covers the buildings");
+    return meets(terrain, buildings)
+               ? dico_label("MESS_DTM_COVERS_PART", "covers only a part of the buildings")
+               : dico_label("MESS_DTM_COVERS_NONE", "does not cover the buildings");
+}
+
+} // namespace
+
+QString heightCaption(const geodata::VectorField &field)
+{
+    const QString kind = kindText(field.kind);
+    return kind.isEmpty() ? kind : QStringLiteral("%1 (%2)").arg(field.name, kind);
+}
+
+QString layerSummary(const geodata::PolygonLayer &layer, const std::optional<Extent> &extent)
+{
+    QStringList parts;
+    if (layer.featureCount >= 0)
+        parts << dico_label("MESS_BUILDING_COUNT", "Buildings: %1")
+                     .arg(QLocale().toString(layer.featureCount));
+    parts << systemText(layer.system);
+    if (extent)
+        parts << sizeText(*extent, layer.system);
+    return parts.join(Separator);
+}
+
+QString terrainSummary(const geodata::RasterSummary &terrain, const geodata::PolygonLayer *layer,
+                       const std::optional<Extent> &extent)
+{
+    QStringList parts{
+        dico_label("MESS_PIXEL_COUNT", "%1 \u00d7 %2 pixels")
+            .arg(QLocale().toString(terrain.columns), QLocale().toString(terrain.rows)),
+        systemText(terrain.system)};
+    const bool isSameSystem = layer != nullptr && !terrain.system.name.isEmpty() &&
+                              terrain.system.name == layer->system.name;
+    if (isSameSystem && terrain.extent && extent && extent->isPlaced())
+        parts << coverText(*terrain.extent, *extent);
+    return parts.join(Separator);
+}
+
+} // namespace vlt::buildings

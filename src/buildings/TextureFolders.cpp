@@ -1,0 +1,258 @@
+#include "buildings/TextureFolders.h"
+
+#include "buildings/HeightFromName.h"
+#include "geodata/ImageFile.h"
+
+#include <QDebug>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QSet>
+
+#include <algorithm>
+#include <atomic>
+#include <filesystem>
+#include <memory>
+#include <thread>
+
+namespace vlt::buildings {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// A folder that is read, and what the list calls it.
+struct Folder
+{
+    QString path;
+    QString shortName;
+};
+
+/// An image file and the names of its folder.
+struct Image
+{
+    QString path;
+    QString shortName;
+    std::shared_ptr<const geodata::FolderNames> beside;
+};
+
+/// Tells how far the work is, not more often than somebody can see.
+class Teller
+{
+public:
+    explicit Teller(const geodata::Progress &progress) : m_progress(progress) {}
+
+    /// False once the work is to stop.
+    bool goesOn(double share)
+    {
+        constexpr int PauseMs = 20;
+        if (!m_goesOn || !m_progress || (m_last.isValid() && m_last.elapsed() < PauseMs))
+            return m_goesOn;
+        m_last.start();
+        m_goesOn = m_progress(share);
+        return m_goesOn;
+    }
+
+private:
+    const geodata::Progress &m_progress;
+    QElapsedTimer m_last;
+    bool m_goesOn = true;
+};
+
+bool isBefore(const QString &a, const QString &b)
+{
+    const int order = a.compare(b, Qt::CaseInsensitive);
+    return order == 0 ? a < b : order < 0;
+}
+
+/// Without links and "..", with a slash at the end; empty where it is gone.
+QString canonical(const QString &folder)
+{
+    const QString path = QFileInfo(folder).canonicalFilePath();
+    return path.isEmpty() || path.endsWith(u'/') ? path : path + u'/';
+}
+
+/// The folders in a folder that are to be read, by name. `seen` holds those read before: a folder
+/// that several links lead to is taken once, under its own name where that is among them.
+QList<Folder> subfolders(const Folder &parent, QSet<QString> &seen)
+{
+    const QDir dir(parent.path);
+    QFileInfoList found = dir.entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Unsorted);
+    std::sort(found.begin(), found.end(), [](const QFileInfo &a, const QFileInfo &b) {
+        return isBefore(a.fileName(), b.fileName());
+    });
+    std::stable_partition(found.begin(), found.end(),
+                          [](const QFileInfo &folder) { return !folder.isSymLink(); });
+    const QString here = canonical(parent.path);
+    QList<Folder> folders;
+    for (const QFileInfo &folder : std::as_const(found)) {
+        const QString place = canonical(folder.filePath());
+        const bool isCircle = here.startsWith(place); // also where it is gone
+        if (isCircle || seen.contains(place))
+            continue;
+        seen.insert(place);
+        const QString name = folder.fileName();
+        folders += Folder{dir.filePath(name),
+                          parent.shortName.isEmpty() ? name : parent.shortName + u'/' + name};
+    }
+    std::sort(folders.begin(), folders.end(),
+              [](const Folder &a, const Folder &b) { return isBefore(a.shortName, b.shortName); });
+    return folders;
+}
+
+QList<Folder> foldersOf(DataStructure structure, const QString &templateDir)
+{
+    const QString own = QDir::cleanPath(templateDir);
+    QSet<QString> seen;
+    switch (structure) {
+    case DataStructure::SiblingFolders:
+        return subfolders({QDir::cleanPath(own + QStringLiteral("/..")), {}}, seen);
+    case DataStructure::TwoLevels: {
+        const Folder top{QDir::cleanPath(own + QStringLiteral("/../..")), {}};
+        QList<Folder> folders;
+        QSet<QString> seenAbove;
+        for (const Folder &folder : subfolders(top, seenAbove))
+            folders += subfolders(folder, seen);
+        return folders;
+    }
+    default:
+        return {Folder{own, QDir(own).dirName()}};
+    }
+}
+
+/// Names of a folder in bytes; `files` gets those of the regular files that are not hidden.
+QList<QByteArray> namesIn(const QString &folder, QList<QByteArray> &files)
+{
+    QList<QByteArray> names;
+    std::error_code error;
+    fs::directory_iterator entry(QFile::encodeName(folder).toStdString(), error);
+    for (; !error && entry != fs::directory_iterator(); entry.increment(error)) {
+        const std::string name = entry->path().filename().string();
+        names += QByteArray::fromStdString(name);
+        std::error_code unknown;
+        if (!name.starts_with('.') && entry->is_regular_file(unknown))
+            files += names.constLast();
+    }
+    return names;
+}
+
+QList<Image> imagesIn(const Folder &folder, const QString &suffix)
+{
+    qInfo().noquote() << "Grabbing files from :" << folder.path;
+    QList<QByteArray> files;
+    const auto beside = std::make_shared<const geodata::FolderNames>(namesIn(folder.path, files));
+    QStringList names;
+    for (const QByteArray &file : std::as_const(files)) {
+        const QString name = QFile::decodeName(file);
+        if (suffix.isEmpty() || name.endsWith(u'.' + suffix, Qt::CaseInsensitive))
+            names += name;
+    }
+    std::sort(names.begin(), names.end(), isBefore);
+    const QDir dir(folder.path);
+    QList<Image> images;
+    for (const QString &name : std::as_const(names))
+        images += Image{dir.filePath(name), folder.shortName, beside};
+    return images;
+}
+
+bool isHeightInNameOnly(const QFileInfo &file)
+{
+    const QString suffix = file.suffix();
+    return suffix.compare(u"grc", Qt::CaseInsensitive) == 0 ||
+           suffix.compare(u"grd", Qt::CaseInsensitive) == 0;
+}
+
+QList<FileEntry> entriesOf(const Image &image, const geodata::ImageFile &content)
+{
+    const QFileInfo file(image.path);
+    const NamedHeight named = heightFromName(file.completeBaseName());
+    const int unit = named.inMetres ? FileEntry::Metres : FileEntry::UnstatedUnit;
+    const bool isNameOnly = isHeightInNameOnly(file);
+    const double height = isNameOnly ? named.height : content.height.value_or(named.height);
+    if (content.parts.isEmpty())
+        return {FileEntry(image.path, height, unit, image.shortName, true, {})};
+    QList<FileEntry> entries;
+    for (const geodata::ImageFile::Part &part : content.parts) {
+        entries +=
+            FileEntry(part.subdataset.name, isNameOnly ? height : part.height.value_or(height),
+                      unit, image.shortName, true, part.subdataset.description);
+    }
+    return entries;
+}
+
+/// The images shared out over several threads, this one among them, which alone tells how far they
+/// are.
+class Reading
+{
+public:
+    explicit Reading(QList<Image> images) : m_images(std::move(images)), m_read(m_images.size()) {}
+
+    /// Nothing when it was stopped.
+    std::optional<QList<FileEntry>> run(Teller &teller)
+    {
+        std::vector<std::thread> others;
+        for (qsizetype i = 1; i < threadCount(); ++i)
+            others.emplace_back([this] { readSome(nullptr); });
+        readSome(&teller);
+        for (std::thread &other : others)
+            other.join();
+        if (m_isStopped)
+            return std::nullopt;
+        QList<FileEntry> entries;
+        for (const QList<FileEntry> &read : m_read)
+            entries += read;
+        return entries;
+    }
+
+private:
+    qsizetype threadCount() const
+    {
+        constexpr qsizetype AtMost = 8;
+        constexpr qsizetype WorthAThread = 32;
+        return std::min({AtMost, qsizetype(std::thread::hardware_concurrency()),
+                         m_images.size() / WorthAThread + 1});
+    }
+
+    void readSome(Teller *teller)
+    {
+        std::unique_ptr<geodata::ImageFileReader> reader;
+        const geodata::FolderNames *folder = nullptr;
+        while (!m_isStopped) {
+            const qsizetype place = m_next++;
+            if (place >= m_images.size())
+                return;
+            const Image &image = m_images.at(place);
+            if (folder != image.beside.get()) {
+                folder = image.beside.get();
+                reader = std::make_unique<geodata::ImageFileReader>(*folder);
+            }
+            m_read[static_cast<std::size_t>(place)] = entriesOf(image, reader->read(image.path));
+            const double share = static_cast<double>(place + 1);
+            if (teller && !teller->goesOn(share / static_cast<double>(m_images.size())))
+                m_isStopped = true;
+        }
+    }
+
+    const QList<Image> m_images;
+    std::vector<QList<FileEntry>> m_read; ///< as m_images; each place is written by one thread
+    std::atomic<qsizetype> m_next = 0;
+    std::atomic<bool> m_isStopped = false;
+};
+
+} // namespace
+
+std::optional<QList<FileEntry>> findTextures(DataStructure structure, const QString &templateDir,
+                                             const QString &suffix,
+                                             const geodata::Progress &progress)
+{
+    Teller teller(progress);
+    QList<Image> images;
+    for (const Folder &folder : foldersOf(structure, templateDir)) {
+        if (!teller.goesOn(0))
+            return std::nullopt;
+        images += imagesIn(folder, suffix);
+    }
+    return Reading(std::move(images)).run(teller);
+}
+
+} // namespace vlt::buildings

@@ -1,0 +1,136 @@
+#include "buildings/ui/NoDataGuess.h"
+
+#include "geodata/RasterSource.h"
+#include "language/VltLanguageManager.h"
+#include "text/Numbers.h"
+#include "wizard/base/Messages.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QEventLoop>
+#include <QPointer>
+#include <QProgressBar>
+#include <QTimer>
+#include <QWizard>
+
+#include <atomic>
+#include <optional>
+#include <thread>
+
+namespace vlt::buildings {
+
+namespace {
+
+constexpr int PollMs = 50;
+
+/// While it lives, a page cannot be used nor left, apart from quitting; the keyboard is given back.
+class PageLock
+{
+public:
+    explicit PageLock(QWidget *page) : m_page(page), m_focus(QApplication::focusWidget())
+    {
+        lock(page);
+        if (const auto *wizard = qobject_cast<QWizard *>(page->window())) {
+            for (const auto which : {QWizard::NextButton, QWizard::BackButton})
+                lock(wizard->button(which));
+        }
+    }
+    ~PageLock()
+    {
+        for (const QPointer<QWidget> &widget : std::as_const(m_locked)) {
+            if (widget)
+                widget->setEnabled(true);
+        }
+        if (m_page && m_focus && m_page->isAncestorOf(m_focus))
+            m_focus->setFocus();
+    }
+    PageLock(const PageLock &) = delete;
+    PageLock &operator=(const PageLock &) = delete;
+
+private:
+    void lock(QWidget *widget)
+    {
+        if (!widget->isEnabled())
+            return;
+        widget->setEnabled(false);
+        m_locked.append(widget);
+    }
+
+    QPointer<QWidget> m_page;
+    QPointer<QWidget> m_focus;
+    QList<QPointer<QWidget>> m_locked;
+};
+
+/// Runs the guess on another thread and keeps the interface alive until it ends; no value where the
+/// page was closed meanwhile.
+std::optional<Result<double>> guessBeside(const QPointer<QWidget> &page, const QString &path,
+                                          const QPointer<QProgressBar> &bar)
+{
+    std::optional<Result<double>> guessed;
+    std::atomic<bool> isAbandoned = false;
+    QEventLoop loop;
+    const auto showShare = [&loop, bar](double share) {
+        const int value = static_cast<int>(share);
+        QMetaObject::invokeMethod(
+            &loop,
+            [bar, value] {
+                if (bar)
+                    bar->setValue(value);
+            },
+            Qt::QueuedConnection);
+    };
+    std::thread worker([&] {
+        guessed = geodata::guessedNoData(path, [&](double share) {
+            showShare(share);
+            return !isAbandoned;
+        });
+        QMetaObject::invokeMethod(&loop, &QEventLoop::quit, Qt::QueuedConnection);
+    });
+
+    const bool wasVisible = page->window()->isVisible();
+    QTimer poll;
+    QObject::connect(&poll, &QTimer::timeout, &loop, [&] {
+        if (!page || (wasVisible && !page->window()->isVisible()))
+            loop.quit();
+    });
+    poll.start(PollMs);
+    loop.exec(); // also ends with the program
+    isAbandoned = true;
+    worker.join();
+    const bool isClosed = !page || (wasVisible && !page->window()->isVisible());
+    return isClosed ? std::nullopt : guessed;
+}
+
+} // namespace
+
+QString guessNoData(QWidget *disabled, const QString &path, QProgressBar *bar)
+{
+    if (path.isEmpty())
+        return {};
+    const QPointer<QWidget> page(disabled);
+    const QPointer<QProgressBar> shown(bar);
+    bar->setRange(0, 1);
+    bar->setValue(0);
+    bar->show();
+    std::optional<Result<double>> guessed;
+    {
+        const PageLock lock(disabled);
+        guessed = guessBeside(page, path, shown);
+        if (shown)
+            shown->hide();
+    }
+    if (!guessed)
+        return {};
+    if (guessed->ok())
+        return text::f6(guessed->value());
+    const QString &key = guessed->error().key;
+    const QString text =
+        key == QLatin1String("MESS_ERR_NO_BANDS")
+            ? dico_label("MESS_ERR_NO_BANDS", "This image doesn't have any band")
+            : dico_label("MESS_ERR_OPEN_RASTERDS", "This file can't be open as a raster dataset");
+    if (!key.isEmpty())
+        messages::warning(disabled, {{}, text, {}}, dico_label("MESS_ATTENTION", "Warning"));
+    return {};
+}
+
+} // namespace vlt::buildings

@@ -1,0 +1,276 @@
+#include "buildings/ui/VltAddTexbTexturedPage.h"
+
+#include "ui_AddTexbTexturedPage.h"
+
+#include "buildings/EmptyFileListModel.h"
+#include "buildings/TextureFolders.h"
+#include "buildings/ui/HeightDelegate.h"
+#include "buildings/ui/TextureSettings.h"
+#include "buildings/ui/TextureSortModel.h"
+#include "platform/Settings.h"
+#include "wizard/base/BusyWait.h"
+#include "wizard/base/RowsAsText.h"
+
+#include <QClipboard>
+#include <QFileDialog>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QLocale>
+#include <QMenu>
+#include <QScopedValueRollback>
+
+#include <algorithm>
+
+using vlt::buildings::FileEntry;
+using vlt::buildings::FileListModel;
+
+namespace {
+
+const QString LastUsedDirKey = QStringLiteral("LastUsedDir");
+const QString FileListKey = QStringLiteral("FileList");
+
+constexpr int RowMargin = 6;
+/// The files take no more than this of the table's width: the folders must be seen too.
+constexpr double FileShare = 0.55;
+
+bool isUsed(const QModelIndex &index)
+{
+    return index.data(Qt::CheckStateRole).toInt() == Qt::Checked;
+}
+
+} // namespace
+
+VltAddTexbTexturedPage::VltAddTexbTexturedPage(QWidget *wizard, SharedParameters &parameters,
+                                               const QString &installDir, const QString &language)
+    : BasePage(wizard, parameters, installDir, language)
+    , m_ui(std::make_unique<Ui::AddTexbTexturedPage>())
+    , m_model(new FileListModel(this))
+    , m_emptyModel(new vlt::buildings::EmptyFileListModel(this))
+    , m_sorted(new vlt::buildings::TextureSortModel(this))
+{
+    m_ui->setupUi(this);
+    setTitle(tr("Textured buildings", "MESS_PAGE_TEXTURED"));
+    setFocusProxy(m_ui->m_pwCbDataStructure);
+    setDropHighlightWidgets({m_ui->m_pwPbTemplate});
+    m_sorted->setSourceModel(m_model);
+    setUpTable();
+    createMenu();
+    connectWidgets();
+    updateStatusLabel(0, 0, 0);
+    showList();
+}
+
+VltAddTexbTexturedPage::~VltAddTexbTexturedPage() = default;
+
+void VltAddTexbTexturedPage::setUpTable()
+{
+    QTableView *table = m_ui->m_pwFiles;
+    table->setItemDelegateForColumn(FileListModel::HeightColumn,
+                                    new vlt::buildings::HeightDelegate(table));
+    table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + RowMargin);
+    QHeaderView *header = table->horizontalHeader();
+    header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    header->setSortIndicatorClearable(true);
+    header->setSortIndicator(-1, Qt::AscendingOrder);
+    table->setSortingEnabled(true);
+    table->installEventFilter(this);
+}
+
+void VltAddTexbTexturedPage::createMenu()
+{
+    m_menu = new QMenu(this);
+    auto *copy = m_menu->addAction(tr("copy", "MESS_COPIER"), this,
+                                   &VltAddTexbTexturedPage::copyToClipboard);
+    copy->setShortcut(QKeySequence::Copy);
+    copy->setShortcutContext(Qt::WidgetShortcut);
+    m_ui->m_pwFiles->addAction(copy);
+}
+
+void VltAddTexbTexturedPage::connectWidgets()
+{
+    connect(m_ui->m_pwPbTemplate, &QPushButton::clicked, this,
+            &VltAddTexbTexturedPage::openTemplate);
+    connect(m_ui->m_pwLeFilter, &QLineEdit::textChanged, m_model, &FileListModel::setFilter);
+    connect(m_ui->m_pwPbUseAll, &QPushButton::clicked, this, [this] { setShownUsed(true); });
+    connect(m_ui->m_pwPbUseNone, &QPushButton::clicked, this, [this] { setShownUsed(false); });
+    connect(m_model, &FileListModel::updated, this, &VltAddTexbTexturedPage::updateStatusLabel);
+    connect(m_model, &FileListModel::updated, this, &VltAddTexbTexturedPage::showList);
+    connect(m_ui->m_pwFiles, &QTableView::customContextMenuRequested, this,
+            &VltAddTexbTexturedPage::tablev_customContextMenu);
+}
+
+bool VltAddTexbTexturedPage::isComplete() const
+{
+    return m_model->rowCount() > 0;
+}
+
+bool VltAddTexbTexturedPage::validatePage()
+{
+    m_ui->m_pwFiles->setFocus(); // takes a height that is being typed
+    saveSettings();
+    return true;
+}
+
+void VltAddTexbTexturedPage::saveSettings()
+{
+    const auto settings = vlt::platform::wizardSettings();
+    settings->setValue(LastUsedDirKey, m_lastUsedDir);
+    vlt::buildings::writeTextureSettings(*settings,
+                                         {m_ui->m_pwCbDataStructure->currentIndex(),
+                                          m_ui->m_pwLeFilter->text(), m_model->entries()});
+    parameters().insert(FileListKey, QVariant::fromValue(m_model->entries()));
+}
+
+void VltAddTexbTexturedPage::restoreSettings()
+{
+    const auto settings = vlt::platform::wizardSettings();
+    m_lastUsedDir = settings->value(LastUsedDirKey).toString();
+    const vlt::buildings::TextureSettings textures = vlt::buildings::readTextureSettings(*settings);
+    const int structures = m_ui->m_pwCbDataStructure->count();
+    if (textures.dataStructure >= 0 && textures.dataStructure < structures)
+        m_ui->m_pwCbDataStructure->setCurrentIndex(textures.dataStructure);
+    m_model->setEntries(textures.files);
+    m_ui->m_pwLeFilter->setText(textures.filter);
+}
+
+void VltAddTexbTexturedPage::droppedFile(const QString &path)
+{
+    if (QFileInfo(path).isFile())
+        listAround(path);
+}
+
+void VltAddTexbTexturedPage::openTemplate()
+{
+    const QString path = QFileDialog::getOpenFileName(
+        this, tr("Select one of the texture files", "MESS_SELECT_TMPT_TEX"), m_lastUsedDir,
+        QStringLiteral("%1 (*.*)").arg(tr("Raster Files", "MESS_RASTER_FILES")));
+    if (!path.isEmpty())
+        listAround(path);
+}
+
+void VltAddTexbTexturedPage::listAround(const QString &templatePath)
+{
+    if (m_isSearching)
+        return;
+    const QScopedValueRollback searching(m_isSearching, true);
+    const QFileInfo file(templatePath);
+    const QString dir = file.absolutePath();
+    const auto structure =
+        static_cast<vlt::buildings::DataStructure>(m_ui->m_pwCbDataStructure->currentIndex());
+    using Found = std::optional<QList<FileEntry>>;
+    const auto found = vlt::wizard::waitForValue<Found>(
+        this, tr("Looking for images...", "MESS_LOOKING_FOR_IMAGES"),
+        [structure, dir, suffix = file.suffix()](const vlt::wizard::WorkProgress &progress) {
+            return vlt::buildings::findTextures(structure, dir, suffix, progress);
+        });
+    if (!found || !*found) // cancelled
+        return;
+    m_lastUsedDir = dir;
+    m_model->setEntries(**found);
+    if (isListShown())
+        fitColumns();
+}
+
+void VltAddTexbTexturedPage::updateStatusLabel(int total, int matching, int selected)
+{
+    const QLocale numbers;
+    QString text =
+        tr("Images: %1  \u2022  shown: %2  \u2022  used: %3", "MESS_TEXTURE_COUNTS")
+            .arg(numbers.toString(total), numbers.toString(matching), numbers.toString(selected));
+    if (total > 0 && matching == 0)
+        text += QStringLiteral("  \u2022  ") +
+                tr("no image matches the filter", "MESS_NO_TEXTURE_MATCHES");
+    m_ui->m_pwLblFilter->setText(text);
+}
+
+bool VltAddTexbTexturedPage::isListShown() const
+{
+    return m_ui->m_pwFiles->model() == m_sorted;
+}
+
+/// The images, or what to do where there is none.
+void VltAddTexbTexturedPage::showList()
+{
+    QTableView *table = m_ui->m_pwFiles;
+    const bool hasRows = m_model->rowCount() > 0;
+    QAbstractItemModel *shown = m_emptyModel;
+    if (hasRows)
+        shown = m_sorted;
+    if (table->model() != shown) {
+        table->setModel(shown);
+        table->horizontalHeader()->setVisible(hasRows);
+        // the last section's own stretching forgets itself while the header is hidden
+        table->horizontalHeader()->setSectionResizeMode(QHeaderView::Interactive);
+        table->horizontalHeader()->setSectionResizeMode(shown->columnCount() - 1,
+                                                        QHeaderView::Stretch);
+        m_ui->m_pwPbUseAll->setEnabled(hasRows);
+        m_ui->m_pwPbUseNone->setEnabled(hasRows);
+        if (hasRows)
+            fitColumns();
+    }
+    Q_EMIT completeChanged();
+}
+
+void VltAddTexbTexturedPage::fitColumns()
+{
+    QTableView *table = m_ui->m_pwFiles;
+    for (const int column :
+         {FileListModel::UseColumn, FileListModel::FileColumn, FileListModel::HeightColumn})
+        table->resizeColumnToContents(column);
+    const int most = static_cast<int>(table->viewport()->width() * FileShare);
+    const int width = table->columnWidth(FileListModel::FileColumn);
+    table->setColumnWidth(FileListModel::FileColumn, std::min(2 * width, most));
+}
+
+void VltAddTexbTexturedPage::setShownUsed(bool used)
+{
+    QModelIndexList rows;
+    for (int row = 0; row < m_model->rowCount(); ++row)
+        rows += m_model->index(row, FileListModel::UseColumn);
+    m_model->setUsed(rows, used);
+}
+
+/// Unticks the selected rows where all of them are ticked.
+void VltAddTexbTexturedPage::toggleSelected()
+{
+    if (!isListShown())
+        return;
+    QModelIndexList rows =
+        m_ui->m_pwFiles->selectionModel()->selectedRows(FileListModel::UseColumn);
+    for (QModelIndex &row : rows)
+        row = m_sorted->mapToSource(row);
+    if (!rows.isEmpty())
+        m_model->setUsed(rows, !std::all_of(rows.cbegin(), rows.cend(), isUsed));
+}
+
+void VltAddTexbTexturedPage::tablev_customContextMenu(const QPoint &point)
+{
+    if (isListShown())
+        m_menu->popup(m_ui->m_pwFiles->viewport()->mapToGlobal(point));
+}
+
+void VltAddTexbTexturedPage::copyToClipboard()
+{
+    if (isListShown())
+        QGuiApplication::clipboard()->setText(vlt::wizard::rowsAsText(*m_ui->m_pwFiles));
+}
+
+bool VltAddTexbTexturedPage::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_ui->m_pwFiles && event->type() == QEvent::KeyPress) {
+        const auto *key = static_cast<QKeyEvent *>(event);
+        if (key->key() == Qt::Key_Space && key->modifiers() == Qt::NoModifier) {
+            toggleSelected();
+            return true;
+        }
+    }
+    return BasePage::eventFilter(watched, event);
+}
+
+void VltAddTexbTexturedPage::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        event->accept(); // else the dialog would press some button
+    else
+        BasePage::keyPressEvent(event);
+}

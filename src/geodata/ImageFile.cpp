@@ -1,0 +1,159 @@
+#include "geodata/ImageFile.h"
+
+#include "geodata/ErrorCollector.h"
+#include "geodata/PlainTiff.h"
+#include "localfiles/LocalFormats.h"
+#include "localfiles/NoNetwork.h"
+#include "platform/TextDecoding.h"
+
+#include <QFile>
+#include <QRegularExpression>
+
+#include <cpl_conv.h>
+#include <cpl_string.h>
+#include <gdal_priv.h>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <string>
+
+namespace vlt::geodata {
+
+namespace {
+
+/// Only these are tried before all others: no other format takes a file that begins as theirs do.
+constexpr std::array FormatsOfOwnFiles = {"GTiff", "PNG", "JPEG", "BMP", "GIF", "WEBP", "HFA"};
+
+QByteArray startOf(const QByteArray &name)
+{
+    return name.left(name.indexOf('.', 1));
+}
+
+/// An option of the geodata library on this thread, while it lives.
+class ThreadOption
+{
+public:
+    ThreadOption(const char *name, const char *value) : m_name(name)
+    {
+        if (const char *before = CPLGetThreadLocalConfigOption(name, nullptr))
+            m_before = before;
+        CPLSetThreadLocalConfigOption(name, value);
+    }
+    ~ThreadOption()
+    {
+        CPLSetThreadLocalConfigOption(m_name, m_before ? m_before->c_str() : nullptr);
+    }
+    ThreadOption(const ThreadOption &) = delete;
+    ThreadOption &operator=(const ThreadOption &) = delete;
+
+private:
+    const char *m_name;
+    std::optional<std::string> m_before;
+};
+
+GDALDatasetUniquePtr open(const char *path, const char *const *formats,
+                          const char *const *siblings = nullptr)
+{
+    return GDALDatasetUniquePtr(
+        GDALDataset::Open(path, GDAL_OF_RASTER | GDAL_OF_READONLY, formats, nullptr, siblings));
+}
+
+GDALDatasetUniquePtr openAs(const QByteArray &format, const char *path,
+                            const char *const *siblings = nullptr)
+{
+    const std::array<const char *, 2> formats = {format.constData(), nullptr};
+    return open(path, formats.data(), siblings);
+}
+
+std::optional<double> statedHeight(GDALDataset &dataset)
+{
+    const char *text = dataset.GetMetadataItem("HEIGHT");
+    if (!text)
+        return std::nullopt;
+    bool isNumber = false;
+    const double height = QByteArray(text).toDouble(&isNumber);
+    return isNumber && std::isfinite(height) ? std::optional(height) : std::nullopt;
+}
+
+QList<Subdataset> subdatasets(GDALDataset &dataset)
+{
+    static const QRegularExpression name(QStringLiteral("\\ASUBDATASET_(\\d+)_NAME\\z"));
+    char **texts = dataset.GetMetadata("SUBDATASETS");
+    QList<Subdataset> found;
+    for (char **text = texts; text && *text; ++text) {
+        const QByteArray line(*text); // SUBDATASET_1_NAME=...
+        const qsizetype equals = line.indexOf('=');
+        const auto match = name.match(QString::fromUtf8(line.left(equals)));
+        if (equals < 0 || !match.hasMatch())
+            continue;
+        const QByteArray key = "SUBDATASET_" + match.captured(1).toUtf8() + "_DESC";
+        const char *description = CSLFetchNameValueDef(texts, key.constData(), "");
+        found +=
+            Subdataset{QFile::decodeName(line.mid(equals + 1)), platform::decodeText(description)};
+    }
+    return found;
+}
+
+ImageFile described(GDALDataset &dataset)
+{
+    ImageFile image;
+    image.height = statedHeight(dataset);
+    const QByteArray format = dataset.GetDriverName();
+    for (const Subdataset &subdataset : subdatasets(dataset)) {
+        const QByteArray name = QFile::encodeName(subdataset.name);
+        const GDALDatasetUniquePtr part = openAs(format, name.constData());
+        image.parts += ImageFile::Part{subdataset, part ? statedHeight(*part) : std::nullopt};
+    }
+    return image;
+}
+
+} // namespace
+
+FolderNames::FolderNames(const QList<QByteArray> &names)
+{
+    m_starts.reserve(names.size());
+    for (const QByteArray &name : names)
+        ++m_starts[startOf(name)];
+}
+
+bool FolderNames::isAlone(const QByteArray &name) const
+{
+    return m_starts.value(startOf(name)) <= 1;
+}
+
+ImageFileReader::ImageFileReader(const FolderNames &names) : m_names(names) {}
+
+ImageFile ImageFileReader::read(const QString &path)
+{
+    const QByteArray file = QFile::encodeName(path);
+    if (!localfiles::isLocalFile(file.toStdString()))
+        return {};
+    const QByteArray name = file.mid(file.lastIndexOf('/') + 1);
+    const bool isAlone = m_names.isAlone(name);
+    if (isAlone && m_lastFormat == "GTiff" && isPlainTiff(path))
+        return {};
+    const localfiles::NoNetwork offline;
+    const ErrorCollector errors;
+    // side files are asked for one by one, and nobody wants to know where the image lies
+    const ThreadOption unlisted("GDAL_DISABLE_READDIR_ON_OPEN", "TRUE");
+    const ThreadOption unplaced("GDAL_GEOREF_SOURCES", "PAM");
+
+    GDALDatasetUniquePtr dataset;
+    if (!m_lastFormat.isEmpty()) {
+        // with its own name only it need not even be asked for side files
+        const std::array<const char *, 2> itself = {name.constData(), nullptr};
+        dataset = openAs(m_lastFormat, file.constData(), isAlone ? itself.data() : nullptr);
+    }
+    if (!dataset)
+        dataset = open(file.constData(), localfiles::localRasterFormats());
+    if (!dataset)
+        return {};
+    const QByteArray format = dataset->GetDriverName();
+    const bool isOwn = std::find(FormatsOfOwnFiles.cbegin(), FormatsOfOwnFiles.cend(), format) !=
+                       FormatsOfOwnFiles.cend();
+    m_lastFormat = isOwn ? format : QByteArray();
+    return described(*dataset);
+}
+
+} // namespace vlt::geodata

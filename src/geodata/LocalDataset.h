@@ -1,0 +1,18 @@
+#pragma once
+
+#include "platform/Result.h"
+
+#include <QString>
+
+#include <gdal_priv.h>
+
+namespace vlt::geodata {
+
+/// Opens a file or folder of the local disk for reading, through its formats. The caller collects
+/// the library's errors and keeps it off the network.
+///
+/// @param kind  GDAL_OF_RASTER or GDAL_OF_VECTOR
+/// @return      null where it cannot be opened
+GDALDatasetUniquePtr openLocalDataset(const QString &path, unsigned kind);
+
+} // namespace vlt::geodata

@@ -1,0 +1,83 @@
+#pragma once
+
+#include "platform/Result.h"
+
+#include <QList>
+#include <QString>
+
+#include <memory>
+#include <mutex>
+
+class GDALDataset;
+class OGRLayer;
+
+namespace vlt::geodata {
+
+/// What a field of a vector layer holds, as far as heights of buildings may stand in it.
+enum class FieldKind { Integer, Real, String, Other };
+
+struct VectorField
+{
+    QString name;
+    FieldKind kind = FieldKind::Other;
+};
+
+/// Bounds in the coordinate system of their layer; not finite where nothing has a place.
+struct Extent
+{
+    double minX = 0;
+    double minY = 0;
+    double maxX = 0;
+    double maxY = 0;
+
+    double centerX() const { return (minX + maxX) * 0.5; }
+    double centerY() const { return (minY + maxY) * 0.5; }
+
+    /// Whether all bounds are finite.
+    bool isPlaced() const;
+};
+
+/// What is shown of a coordinate system.
+struct SystemInfo
+{
+    QString name; ///< "EPSG:2154", else the name of the system, empty for none
+    bool isGeographic = false;
+    double unitM = 0; ///< metres in a unit of a projected system; 0 for others
+};
+
+struct PolygonLayer
+{
+    QString name;
+    QList<VectorField> fields; ///< all of them, in the order of the layer
+    SystemInfo system;
+    qint64 featureCount = -1; ///< -1 where the format would have to count
+};
+
+/// The layers of a local vector dataset that may hold building footprints: those of polygons,
+/// multipolygons and of no declared geometry. The dataset stays open while this lives. Any thread
+/// may use it.
+class PolygonSource
+{
+public:
+    /// Opens a file or folder through the formats of the local disk.
+    ///
+    /// @return      the source; its list of layers may be empty
+    /// @par Errors  MESS_ERR_OPEN_VECTORDS, with the path; the text is the library's reason
+    static Result<std::shared_ptr<PolygonSource>> open(const QString &path);
+    ~PolygonSource();
+
+    const QList<PolygonLayer> &layers() const { return m_layers; }
+
+    /// Bounds of a layer of layers(); reads every feature where the format does not keep them.
+    Extent extent(int layer);
+
+private:
+    PolygonSource() = default;
+
+    std::unique_ptr<GDALDataset> m_dataset;
+    QList<PolygonLayer> m_layers;
+    QList<OGRLayer *> m_handles; ///< of m_layers, owned by the dataset
+    std::mutex m_reading;        ///< of the features
+};
+
+} // namespace vlt::geodata

@@ -1,0 +1,130 @@
+#include "geodata/RasterSource.h"
+
+#include "geodata/ErrorCollector.h"
+#include "geodata/LocalDataset.h"
+#include "geodata/SystemInfo.h"
+#include "localfiles/NoNetwork.h"
+#include "platform/TextDecoding.h"
+
+#include <gdal_pam.h>
+
+#include <algorithm>
+#include <array>
+
+namespace vlt::geodata {
+
+namespace {
+
+// Beyond these a statistic is no height on the ground but what stands for missing values.
+constexpr double LowestHeightM = -100;
+constexpr double HighestHeightM = 9000;
+constexpr double UsualNoData = -32768;
+
+std::optional<double> declaredNoData(GDALRasterBand &band)
+{
+    int isDeclared = FALSE;
+    const double value = band.GetNoDataValue(&isDeclared);
+    return isDeclared ? std::optional(value) : std::nullopt;
+}
+
+std::optional<Extent> extentOf(GDALDataset &dataset)
+{
+    std::array<double, 6> t{};
+    if (dataset.GetGeoTransform(t.data()) != CE_None)
+        return std::nullopt;
+    const double columns = dataset.GetRasterXSize();
+    const double rows = dataset.GetRasterYSize();
+    const auto [minX, maxX] =
+        std::minmax({0.0, columns * t[1], rows * t[2], columns * t[1] + rows * t[2]});
+    const auto [minY, maxY] =
+        std::minmax({0.0, columns * t[4], rows * t[5], columns * t[4] + rows * t[5]});
+    return Extent{t[0] + minX, t[3] + minY, t[0] + maxX, t[3] + maxY};
+}
+
+QList<Subdataset> subdatasetsOf(GDALDataset &dataset)
+{
+    QList<Subdataset> found;
+    for (int n = 1;; ++n) {
+        const QByteArray key = "SUBDATASET_" + QByteArray::number(n);
+        const char *name = dataset.GetMetadataItem(key + "_NAME", "SUBDATASETS");
+        if (name == nullptr)
+            return found;
+        const char *description = dataset.GetMetadataItem(key + "_DESC", "SUBDATASETS");
+        found.append({platform::decodeText(QByteArray(name)),
+                      platform::decodeText(QByteArray(description))});
+    }
+}
+
+Error cannotOpen(const ErrorCollector &errors, const QString &path)
+{
+    return {QStringLiteral("MESS_ERR_OPEN_RASTERDS"), errors.failure({}), path};
+}
+
+/// The library would keep what it found out in a side file.
+void keepFromSaving(GDALDataset &dataset)
+{
+    if (auto *keeping = dynamic_cast<GDALPamDataset *>(&dataset))
+        keeping->SetPamFlags(keeping->GetPamFlags() | GPF_NOSAVE);
+}
+
+int CPL_STDCALL tellProgress(double share, const char * /*message*/, void *progress)
+{
+    return (*static_cast<const Progress *>(progress))(share) ? TRUE : FALSE;
+}
+
+} // namespace
+
+Result<RasterSummary> readRasterSummary(const QString &path)
+{
+    const ErrorCollector errors;
+    const localfiles::NoNetwork offline;
+    const GDALDatasetUniquePtr dataset = openLocalDataset(path, GDAL_OF_RASTER);
+    if (!dataset)
+        return cannotOpen(errors, path);
+    keepFromSaving(*dataset);
+
+    RasterSummary summary;
+    summary.columns = dataset->GetRasterXSize();
+    summary.rows = dataset->GetRasterYSize();
+    summary.bandCount = dataset->GetRasterCount();
+    if (GDALRasterBand *band = summary.bandCount > 0 ? dataset->GetRasterBand(1) : nullptr)
+        summary.noData = declaredNoData(*band);
+    summary.system = systemInfo(dataset->GetSpatialRef());
+    summary.extent = extentOf(*dataset);
+    summary.subdatasets = subdatasetsOf(*dataset);
+    return summary;
+}
+
+Result<double> guessedNoData(const QString &path, const Progress &progress)
+{
+    const ErrorCollector errors;
+    const localfiles::NoNetwork offline;
+    const GDALDatasetUniquePtr dataset = openLocalDataset(path, GDAL_OF_RASTER);
+    if (!dataset)
+        return cannotOpen(errors, path);
+    keepFromSaving(*dataset);
+    GDALRasterBand *band = dataset->GetRasterCount() > 0 ? dataset->GetRasterBand(1) : nullptr;
+    if (band == nullptr)
+        return Error{QStringLiteral("MESS_ERR_NO_BANDS"),
+                     QStringLiteral("This image doesn't have any band"),
+                     {}};
+
+    bool isStopped = false;
+    Progress told = [&](double share) {
+        isStopped = progress && !progress(share);
+        return !isStopped;
+    };
+    double min = 0;
+    double max = 0;
+    if (band->ComputeStatistics(true, &min, &max, nullptr, nullptr, tellProgress, &told) != CE_None)
+        min = max = 0; // nothing but missing values
+    if (isStopped)
+        return Error{};
+    if (min < LowestHeightM)
+        return min;
+    if (max >= HighestHeightM)
+        return max;
+    return declaredNoData(*band).value_or(UsualNoData);
+}
+
+} // namespace vlt::geodata

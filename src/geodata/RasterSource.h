@@ -1,0 +1,47 @@
+#pragma once
+
+#include "geodata/LayerPlacement.h"
+#include "geodata/PolygonSource.h"
+#include "platform/Result.h"
+
+#include <QList>
+#include <QString>
+
+#include <optional>
+
+namespace vlt::geodata {
+
+/// One of the images in a file that holds several.
+struct Subdataset
+{
+    QString name; ///< as the geodata library opens it
+    QString description;
+};
+
+/// What is known of a raster without reading its pixels.
+struct RasterSummary
+{
+    int columns = 0;
+    int rows = 0;
+    int bandCount = 0;
+    std::optional<double> noData; ///< of band 1
+    SystemInfo system;
+    std::optional<Extent> extent; ///< in that system; none where the raster has no place
+    QList<Subdataset> subdatasets;
+};
+
+/// Opens a local raster (file or folder) through the formats of the local disk and closes it again.
+///
+/// @par Errors  MESS_ERR_OPEN_RASTERDS, with the path; the text is the library's reason
+Result<RasterSummary> readRasterSummary(const QString &path);
+
+/// What stands for missing values in band 1 of a raster, from its approximate statistics: the
+/// minimum where it is below -100, else the maximum where it reaches 9000, else the band's own
+/// value, else -32768. Nothing is written beside the raster.
+///
+/// @param progress  may be empty; false stops the work
+/// @par Errors      MESS_ERR_OPEN_RASTERDS, with the path and the library's reason;
+///                  MESS_ERR_NO_BANDS; no key and no text where it was stopped
+Result<double> guessedNoData(const QString &path, const Progress &progress);
+
+} // namespace vlt::geodata

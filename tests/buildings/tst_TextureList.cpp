@@ -1,0 +1,189 @@
+#include "buildings/EmptyFileListModel.h"
+#include "buildings/FileListModel.h"
+
+#include <QAbstractItemModelTester>
+#include <QColor>
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace vlt::buildings;
+
+namespace {
+
+using Counts = QList<int>; ///< images, rows, ticked
+
+Counts lastOf(const QSignalSpy &updated)
+{
+    Counts counts;
+    if (!updated.isEmpty()) {
+        for (const QVariant &count : updated.last())
+            counts << count.toInt();
+    }
+    return counts;
+}
+
+} // namespace
+
+/// The table of texture images.
+class tst_TextureList : public QObject
+{
+    Q_OBJECT
+
+    static QList<FileEntry> images()
+    {
+        return {{u"/t/Nord/wall 3,5m.png"_s, 3.5, 0, u"Nord"_s, true, {}},
+                {u"/t/Sud/roof_12.png"_s, 12, 1, u"Sud"_s, true, {}},
+                {u"GTIFF_DIR:2:/t/Sud/pages.tif"_s, 1234567.8, 3, u"Sud"_s, false, u"Page 2"_s}};
+    }
+
+private Q_SLOTS:
+    void showsFourColumns()
+    {
+        FileListModel model;
+        const QAbstractItemModelTester tester(
+            &model, QAbstractItemModelTester::FailureReportingMode::Fatal);
+        model.setEntries(images());
+
+        QStringList row;
+        for (int column = 0; column < model.columnCount(); ++column)
+            row << model.index(2, column).data().toString();
+        QCOMPARE(row, QStringList({{}, u"pages.tif (Page 2)"_s, u"1234567.8"_s, u"Sud"_s}));
+        QCOMPARE(model.index(2, 2).data().typeId(), QMetaType::Double);
+        QCOMPARE(model.index(0, 1).data().toString(), u"wall 3,5m.png"_s);
+        QCOMPARE(model.index(0, 0).data(Qt::CheckStateRole).toInt(), 2);
+        QCOMPARE(model.index(2, 0).data(Qt::CheckStateRole).toInt(), 0);
+        QVERIFY(!model.index(0, 1).data(Qt::CheckStateRole).isValid());
+        QVERIFY(!model.headerData(0, Qt::Vertical).isValid());
+        QCOMPARE(model.headerData(3, Qt::Horizontal).toString(), u"Directory"_s);
+        QVERIFY(model.flags(model.index(0, 0)) & Qt::ItemIsUserCheckable);
+        QCOMPARE(model.flags(model.index(0, 2)) & (Qt::ItemIsUserCheckable | Qt::ItemIsEditable),
+                 Qt::ItemIsEditable);
+        QVERIFY(!(model.flags(model.index(0, 1)) & Qt::ItemIsEditable));
+    }
+
+    void takesTicksAndHeightsOnly_data()
+    {
+        QTest::addColumn<int>("column");
+        QTest::addColumn<int>("role");
+        QTest::addColumn<QVariant>("value");
+        QTest::addColumn<bool>("isTaken");
+        QTest::addColumn<bool>("used");
+        QTest::addColumn<double>("height");
+        const auto row = [](const char *name, int column, int role, const QVariant &value,
+                            bool isTaken, bool used = true, double height = 12) {
+            QTest::newRow(name) << column << role << value << isTaken << used << height;
+        };
+        row("untick", 0, Qt::CheckStateRole, 0, true, false);
+        row("tick", 0, Qt::CheckStateRole, 2, true);
+        row("half a tick", 0, Qt::CheckStateRole, 1, true, false);
+        row("false", 0, Qt::EditRole, false, true, false);
+        row("one is true", 0, Qt::EditRole, 1, true);
+        row("a number", 2, Qt::EditRole, 2.25, true, true, 2.25);
+        row("a text", 2, Qt::EditRole, u"-1e3"_s, true, true, -1000);
+        row("a text as a tick", 2, Qt::CheckStateRole, u"7"_s, true, true, 7);
+        row("letters", 2, Qt::EditRole, u"abc"_s, false);
+        row("nothing", 2, Qt::EditRole, QString(), false);
+        row("not a number", 2, Qt::EditRole, u"nan"_s, false);
+        row("another column", 1, Qt::EditRole, u"x"_s, false);
+        row("another role", 0, Qt::DisplayRole, false, false);
+    }
+    void takesTicksAndHeightsOnly()
+    {
+        FileListModel model;
+        model.setEntries(images());
+        model.setFilter(u"roof"_s); // row 0 is not image 0
+        const QSignalSpy changed(&model, &FileListModel::dataChanged);
+        const QSignalSpy updated(&model, &FileListModel::updated);
+        QFETCH(const int, column);
+        QFETCH(const int, role);
+        QFETCH(const QVariant, value);
+        QFETCH(const bool, isTaken);
+
+        QCOMPARE(model.setData(model.index(0, column), value, role), isTaken);
+
+        const FileEntry &roof = model.entries().at(1);
+        QTEST(roof.used, "used");
+        QTEST(roof.height, "height");
+        QCOMPARE(changed.size(), isTaken ? 1 : 0);
+        const bool isTick = isTaken && column == 0;
+        QCOMPARE(lastOf(updated), isTick ? Counts({3, 1, roof.used ? 2 : 1}) : Counts());
+        QVERIFY(model.entries().at(0).used && !model.entries().at(2).used);
+    }
+
+    void showsWhatTheFilterMatches_data()
+    {
+        QTest::addColumn<QString>("filter");
+        QTest::addColumn<QList<int>>("shown");
+        using Rows = QList<int>;
+        QTest::newRow("empty") << QString() << Rows{0, 1, 2};
+        QTest::newRow("decimal comma, name and height") << u"3,5"_s << Rows{0};
+        QTest::newRow("decimal point, height") << u"3.5"_s << Rows{0};
+        QTest::newRow("a point is no wildcard") << u"1.2"_s << Rows{2}; // 1.23457e+06
+        QTest::newRow("expression on the height") << u"^1[0-9]$"_s << Rows{1};
+        QTest::newRow("part of the height") << u"2"_s << Rows{1, 2};
+        QTest::newRow("six digits") << u"1,23457e"_s << Rows{2};
+        QTest::newRow("not the seventh") << u"1234567"_s << Rows{};
+        QTest::newRow("file") << u"roof_"_s << Rows{1};
+        QTest::newRow("folder") << u"Sud"_s << Rows{1, 2};
+        QTest::newRow("description") << u"Page"_s << Rows{2};
+        QTest::newRow("letters as typed") << u"page 2"_s << Rows{};
+        QTest::newRow("no expression for names") << u"r..f"_s << Rows{};
+        QTest::newRow("format of an image in a file") << u"GTIFF"_s << Rows{};
+        QTest::newRow("broken expression") << u"("_s << Rows{};
+    }
+    void showsWhatTheFilterMatches()
+    {
+        FileListModel model;
+        const QSignalSpy updated(&model, &FileListModel::updated);
+        const QSignalSpy reset(&model, &FileListModel::modelReset);
+        QFETCH(const QString, filter);
+        QFETCH(const QList<int>, shown);
+        const QList<FileEntry> all = images();
+        model.setFilter(filter);
+        QCOMPARE(lastOf(updated), Counts({0, 0, 0}));
+
+        model.setEntries(all);
+
+        QStringList rows;
+        for (int row = 0; row < model.rowCount(); ++row)
+            rows << model.index(row, FileListModel::FileColumn).data(Qt::ToolTipRole).toString();
+        QStringList expected;
+        for (const int place : shown)
+            expected << all.at(place).file.filePath();
+        QCOMPARE(rows, expected);
+        QCOMPARE(lastOf(updated), Counts({3, static_cast<int>(shown.size()), 2}));
+        QCOMPARE(reset.size(), 2);
+    }
+
+    void ticksManyRowsAtOnce()
+    {
+        FileListModel model;
+        model.setEntries(images());
+        model.setFilter(u"Sud"_s);
+        const QSignalSpy updated(&model, &FileListModel::updated);
+        const QSignalSpy changed(&model, &FileListModel::dataChanged);
+
+        model.setUsed({model.index(1, 0), model.index(0, 3)}, true);
+
+        QCOMPARE(QList<QVariantList>(updated), QList<QVariantList>({{3, 2, 3}}));
+        QCOMPARE(changed.size(), 1);
+        QCOMPARE(changed.at(0).at(0).toModelIndex(), model.index(0, 0));
+        QCOMPARE(changed.at(0).at(1).toModelIndex(), model.index(1, 0));
+        model.setUsed({}, false);
+        QCOMPARE(updated.size(), 1);
+        QCOMPARE(model.selectedCount(), 3);
+    }
+
+    void hintsInRedWhileThereIsNone()
+    {
+        EmptyFileListModel model;
+
+        QCOMPARE(model.rowCount() * model.columnCount(), 1);
+        QVERIFY(model.index(0, 0).data().toString().startsWith(u"Vous devez sélectionner"_s));
+        QCOMPARE(model.index(0, 0).data(Qt::ForegroundRole).value<QColor>(), QColor(255, 0, 0));
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_TextureList)
+#include "tst_TextureList.moc"
