@@ -192,16 +192,18 @@ private Q_SLOTS:
         const QString file = path(u"pages/pages 6m.tif"_s);
         QVERIFY(QDir().mkpath(path(u"pages"_s)));
         const char *const append[] = {"APPEND_SUBDATASET=YES", nullptr};
+        makeImage("GTiff", path(u"pages/one 5.tif"_s));
         makeImage("GTiff", file, "2");
         makeImage("GTiff", file, "7.5", append);
         makeImage("GTiff", file, nullptr, append);
 
         const QList<FileEntry> entries = found(path(u"pages"_s), u"tif"_s);
 
-        QCOMPARE(entries.size(), 3);
+        QCOMPARE(entries.size(), 4);
+        QCOMPARE(stated(entries.at(0)), u"one 5.tif 5"_s);
         const QList<double> heights = {2, 7.5, 2}; // the last page has the height of the file
         for (int i = 0; i < 3; ++i) {
-            const FileEntry &entry = entries.at(i);
+            const FileEntry &entry = entries.at(i + 1);
             QCOMPARE(entry.file.filePath(), u"GTIFF_DIR:%1:%2"_s.arg(i + 1).arg(file));
             QCOMPARE(entry.height, heights.at(i));
             QCOMPARE(entry.shortName + u'/' + entry.fileName(), u"pages/pages 6m.tif"_s);
