@@ -1,8 +1,11 @@
 #include "localfiles/NoNetwork.h"
 
+#include <array>
+
 #include <cpl_conv.h>
 #include <cpl_http.h>
 #include <cpl_vsi.h>
+#include <cpl_vsi_virtual.h>
 
 namespace vlt::localfiles {
 
@@ -50,14 +53,33 @@ NoNetwork::~NoNetwork()
 
 void closeNetworkFileSystems()
 {
+    constexpr std::array Prefixes = {"/vsicurl/",
+                                     "/vsicurl?",
+                                     "/vsicurl_streaming/",
+                                     "/vsis3/",
+                                     "/vsis3_streaming/",
+                                     "/vsigs/",
+                                     "/vsigs_streaming/",
+                                     "/vsiaz/",
+                                     "/vsiaz_streaming/",
+                                     "/vsiadls/",
+                                     "/vsioss/",
+                                     "/vsioss_streaming/",
+                                     "/vsiswift/",
+                                     "/vsiswift_streaming/",
+                                     "/vsiwebhdfs/",
+                                     "/vsihdfs/"};
+    // the library forgets those that are replaced: files that are open may still need them
+    static std::array<const VSIFilesystemHandler *, Prefixes.size()> replaced = {};
+    if (replaced.front())
+        return;
     VSIFilesystemPluginCallbacksStruct *nothing = VSIAllocFilesystemPluginCallbacksStruct();
     nothing->open = openNothing;
     nothing->stat = findNothing;
-    for (const char *prefix :
-         {"/vsicurl/", "/vsicurl?", "/vsicurl_streaming/", "/vsis3/", "/vsis3_streaming/",
-          "/vsigs/", "/vsigs_streaming/", "/vsiaz/", "/vsiaz_streaming/", "/vsiadls/", "/vsioss/",
-          "/vsioss_streaming/", "/vsiswift/", "/vsiswift_streaming/", "/vsiwebhdfs/", "/vsihdfs/"})
-        VSIInstallPluginHandler(prefix, nothing);
+    for (std::size_t i = 0; i < Prefixes.size(); ++i) {
+        replaced[i] = VSIFileManager::GetHandler(Prefixes[i]);
+        VSIInstallPluginHandler(Prefixes[i], nothing);
+    }
     VSIFreeFilesystemPluginCallbacksStruct(nothing);
 }
 
