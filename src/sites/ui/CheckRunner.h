@@ -35,7 +35,7 @@ public:
     template<typename T>
     static Work reading(std::function<Result<T>(const geodata::Progress &)> read,
                         std::function<void(const T &)> finished,
-                        std::function<void(const QString &)> failed)
+                        const std::function<void(const QString &)> &failed)
     {
         return [=](const geodata::Progress &progress) -> std::function<void()> {
             auto outcome = std::make_shared<Result<T>>(read(progress));
