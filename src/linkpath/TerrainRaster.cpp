@@ -44,7 +44,8 @@ double metresPerUnit(const char *unit)
 
 } // namespace
 
-std::unique_ptr<TerrainRaster> TerrainRaster::open(const std::string &path, std::string *reason)
+std::unique_ptr<TerrainRaster> TerrainRaster::open(const std::string &path, std::string *reason,
+                                                   const TerrainHints &hints)
 {
     const CPLErrorHandlerPusher quiet(CPLQuietErrorHandler);
     CPLErrorReset();
@@ -62,7 +63,7 @@ std::unique_ptr<TerrainRaster> TerrainRaster::open(const std::string &path, std:
         else
             raster.reset(new TerrainRaster(std::move(dataset)));
     }
-    if (const char *fault = raster ? raster->prepare() : nullptr) {
+    if (const char *fault = raster ? raster->prepare(hints) : nullptr) {
         why = fault;
         raster.reset();
     }
@@ -71,12 +72,20 @@ std::unique_ptr<TerrainRaster> TerrainRaster::open(const std::string &path, std:
     return raster;
 }
 
-const char *TerrainRaster::prepare()
+double TerrainRaster::asStored(double value) const
+{
+    const bool isSingle = m_band->GetRasterDataType() == GDT_Float32;
+    return isSingle ? static_cast<double>(static_cast<float>(value)) : value;
+}
+
+const char *TerrainRaster::prepare(const TerrainHints &hints)
 {
     double toPlace[6];
     const OGRSpatialReference *srs = m_dataset->GetSpatialRef();
-    if (m_dataset->GetRasterCount() < 1 || !srs || srs->IsEmpty() || srs->IsLocal() ||
-        m_dataset->GetGeoTransform(toPlace) != CE_None || !GDALInvGeoTransform(toPlace, m_toPixel))
+    if (!srs || srs->IsEmpty() || srs->IsLocal())
+        srs = hints.assumedSrs;
+    if (m_dataset->GetRasterCount() < 1 || !srs || m_dataset->GetGeoTransform(toPlace) != CE_None ||
+        !GDALInvGeoTransform(toPlace, m_toPixel))
         return TerrainNotPlaced;
     m_srs = *srs;
     m_srs.SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
@@ -99,9 +108,10 @@ const char *TerrainRaster::prepare()
     m_offset = m_band->GetOffset() * toM;
     int hasNoData = 0;
     const double noData = m_band->GetNoDataValue(&hasNoData);
-    const bool isSingle = m_band->GetRasterDataType() == GDT_Float32;
-    if (hasNoData) // as the band can store it
-        m_noData = isSingle ? static_cast<double>(static_cast<float>(noData)) : noData;
+    if (hasNoData)
+        m_noData = asStored(noData);
+    if (hints.noData)
+        m_alsoNoData = asStored(*hints.noData);
     return m_pixelSizeM > 0 ? nullptr : TerrainNotPlaced;
 }
 
@@ -135,7 +145,8 @@ std::optional<double> TerrainRaster::pixelM(int column, int row)
                     static_cast<std::size_t>(column % BlockSide);
     const double value = found->second.values[at];
     const double aboveSeaM = value * m_scale + m_offset;
-    if (!(std::abs(aboveSeaM) <= FarthestFromSeaLevelM) || (m_noData && value == *m_noData))
+    if (!(std::abs(aboveSeaM) <= FarthestFromSeaLevelM) || value == m_noData ||
+        value == m_alsoNoData)
         return std::nullopt;
     return aboveSeaM;
 }

@@ -18,13 +18,22 @@ inline constexpr char TerrainNotPlaced[] =
     "it has no band of heights, no place or no coordinate system";
 inline constexpr char TerrainTooLarge[] = "it is stored in blocks that are too large";
 
+/// What a caller knows of a terrain file better than the file itself.
+struct TerrainHints
+{
+    std::optional<double> noData;                    ///< besides the file's own
+    const OGRSpatialReference *assumedSrs = nullptr; ///< where the file states none; x before y
+};
+
 /// Heights of a terrain file, band 1, read as they are needed. Not for two threads at once.
 class TerrainRaster
 {
 public:
     /// Opens a local raster file; null where it cannot be opened, is not georeferenced or has no
-    /// coordinate system. `reason` takes why: one of the texts above, else GDAL's words.
-    static std::unique_ptr<TerrainRaster> open(const std::string &path, std::string *reason);
+    /// coordinate system, neither its own nor an assumed one. `reason` takes why: one of the texts
+    /// above, else GDAL's words.
+    static std::unique_ptr<TerrainRaster> open(const std::string &path, std::string *reason,
+                                               const TerrainHints &hints = {});
 
     /// Height above sea level in metres, between the centres of the four pixels around the point;
     /// nothing outside the raster and where one of them has no data or tells no height of this
@@ -52,7 +61,8 @@ private:
     };
 
     explicit TerrainRaster(GDALDatasetUniquePtr dataset) : m_dataset(std::move(dataset)) {}
-    const char *prepare(); ///< the reason of a refusal, else null
+    const char *prepare(const TerrainHints &hints); ///< the reason of a refusal, else null
+    double asStored(double value) const;            ///< as the band can hold it
     std::optional<double> pixelM(int column, int row);
     std::optional<Pixel> pixelAt(double x, double y) const; ///< nothing outside
 
@@ -65,6 +75,7 @@ private:
     double m_scale = 1;     ///< metres per stored unit
     double m_offset = 0;    ///< metres
     std::optional<double> m_noData;
+    std::optional<double> m_alsoNoData;
     std::unordered_map<std::int64_t, Block> m_blocks;
     std::list<std::int64_t> m_recent; ///< numbers of the blocks, the latest first
 };

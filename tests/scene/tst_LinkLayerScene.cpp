@@ -222,7 +222,8 @@ private Q_SLOTS:
         write(path("t.lay"), layerText(linkSource("2154", terrain)));
 
         std::vector<std::string> notices;
-        const auto scene = readLayerScene(path("t.lay").toStdString(), {}, notices);
+        const std::string layer = path("t.lay").toStdString();
+        const auto scene = readLayerScene(readLayerFile(layer), layer, {}, notices);
 
         QCOMPARE(notices.size(), std::size_t{1});
         QVERIFY2(QByteArray::fromStdString(notices[0]).contains(said), notices[0].c_str());

@@ -1,10 +1,10 @@
 #include "layers/LayerFile.h"
 
 #include "layers/BadLayer.h"
+#include "layers/LayerText.h"
 
 #include <array>
 #include <filesystem>
-#include <fstream>
 #include <utility>
 
 namespace vlt::scene {
@@ -30,29 +30,6 @@ bool startsAfterBlanks(std::string_view text, std::string_view start)
 {
     const std::size_t begin = text.find_first_not_of(Blanks);
     return begin != None && text.substr(begin).starts_with(start);
-}
-
-/// Takes the five escapes out; any other "&" is one that nobody escaped.
-std::string unescaped(std::string_view text)
-{
-    using Escape = std::pair<std::string_view, char>;
-    static constexpr std::array<Escape, 5> Escapes = {
-        {{"&amp;", '&'}, {"&lt;", '<'}, {"&gt;", '>'}, {"&quot;", '"'}, {"&apos;", '\''}}};
-    std::string plain;
-    while (!text.empty()) {
-        std::size_t length = 1;
-        char letter = text.front();
-        for (const auto &[escape, meaning] : Escapes) {
-            if (letter == '&' && text.starts_with(escape)) {
-                length = escape.size();
-                letter = meaning;
-                break;
-            }
-        }
-        plain += letter;
-        text.remove_prefix(length);
-    }
-    return plain;
 }
 
 /// The value of an element whose start tag has been read; `rest` moves behind its end tag.
@@ -102,12 +79,18 @@ std::string_view withoutComment(std::string_view text)
 
 LayerKind kindNamed(const std::string &name)
 {
+    constexpr std::array<std::pair<std::string_view, LayerKind>, 3> Kinds = {
+        {{"sites", LayerKind::Sites},
+         {"links", LayerKind::Links},
+         {"buildings", LayerKind::Buildings}}};
+    for (const auto &[known, kind] : Kinds) {
+        if (name == known)
+            return kind;
+    }
     if (name.empty())
         throw BadLayer("the kind of the layer is missing");
-    if (name != "sites" && name != "links")
-        throw BadLayer("layers of the kind \"" + name +
-                       "\" cannot be shown, only \"sites\" and \"links\"");
-    return name == "links" ? LayerKind::Links : LayerKind::Sites;
+    throw BadLayer("layers of the kind \"" + name +
+                   "\" cannot be shown, only \"sites\", \"links\" and \"buildings\"");
 }
 
 } // namespace
@@ -163,18 +146,7 @@ LayerFile parseLayerFile(std::string_view text)
 
 LayerFile readLayerFile(const std::string &path)
 {
-    std::error_code error;
-    if (!std::filesystem::is_regular_file(path, error))
-        throw BadLayer("it is no file");
-    std::ifstream stream(path, std::ios::binary);
-    std::string text(MaxLayerFileSize + 1, '\0');
-    stream.read(text.data(), static_cast<std::streamsize>(text.size()));
-    text.resize(static_cast<std::size_t>(stream.gcount()));
-    if (stream.bad() || (text.empty() && !stream.is_open()))
-        throw BadLayer("it cannot be read");
-    if (text.size() > MaxLayerFileSize)
-        throw BadLayer("it is too large for a layer file");
-    LayerFile file = parseLayerFile(text);
+    LayerFile file = parseLayerFile(readLayerText(path));
     if (file.title.empty())
         file.title = std::filesystem::path(path).stem().string();
     return file;

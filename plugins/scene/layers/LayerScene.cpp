@@ -1,6 +1,5 @@
 #include "layers/LayerScene.h"
 
-#include "layers/LayerFile.h"
 #include "layers/LinkLayerScene.h"
 #include "layers/LinkLayerStyle.h"
 #include "layers/LinkRecords.h"
@@ -69,10 +68,9 @@ osg::ref_ptr<osg::Group> readLinks(const LayerFile &file, const Directories &dir
 
 } // namespace
 
-osg::ref_ptr<osg::Group> readLayerScene(const std::string &path, const LayerRequest &request,
-                                        Notices &notices)
+osg::ref_ptr<osg::Group> readLayerScene(const LayerFile &file, const std::string &path,
+                                        const LayerRequest &request, Notices &notices)
 {
-    const LayerFile file = readLayerFile(path);
     const Directories directories = tableDirectories(path, request.project);
     if (file.kind == LayerKind::Links)
         return readLinks(file, directories, request, notices);

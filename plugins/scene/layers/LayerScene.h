@@ -1,5 +1,7 @@
 #pragma once
 
+#include "layers/LayerFile.h"
+
 #include <osg/Group>
 
 #include <string>
@@ -14,11 +16,13 @@ struct LayerRequest
     bool withTerrain = false; ///< also the terrain's surface under links, where there is one
 };
 
-/// Reads a layer file and makes the scene of it: SiteScene.h, LinkLayerScene.h.
+/// Makes the scene of a layer of sites or of links: SiteScene.h, LinkLayerScene.h.
 ///
+/// @param path     of the layer file
 /// @param notices  takes what the user has to know of a scene that is not whole, one line each
 /// @throws BadLayer, BadQuery  naming what is missing or wrong
-osg::ref_ptr<osg::Group> readLayerScene(const std::string &path, const LayerRequest &request,
+osg::ref_ptr<osg::Group> readLayerScene(const LayerFile &file, const std::string &path,
+                                        const LayerRequest &request,
                                         std::vector<std::string> &notices);
 
 } // namespace vlt::scene

@@ -150,7 +150,11 @@ std::string textAt(const OGRFeature &feature, int field)
 
 SceneFrame moveToFrame(OGRLayer &layer, std::vector<osg::Vec2d> &places)
 {
-    const OGRSpatialReference *srs = layer.GetSpatialRef();
+    return moveToFrame(layer.GetSpatialRef(), places);
+}
+
+SceneFrame moveToFrame(const OGRSpatialReference *srs, std::vector<osg::Vec2d> &places)
+{
     const double unitM = srs && srs->IsProjected() ? srs->GetLinearUnits() : 1;
     SceneFrame frame{std::make_shared<LocalFrame>(srs, likely(places, unitM)), nameOf(srs)};
     for (osg::Vec2d &place : places) {

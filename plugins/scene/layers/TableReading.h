@@ -43,4 +43,7 @@ std::string textAt(const OGRFeature &feature, int field);
 /// the earth's.
 SceneFrame moveToFrame(OGRLayer &layer, std::vector<osg::Vec2d> &places);
 
+/// The same for places of a system, x before y; null where it is not known.
+SceneFrame moveToFrame(const OGRSpatialReference *srs, std::vector<osg::Vec2d> &places);
+
 } // namespace vlt::scene

@@ -1,57 +1,33 @@
+#include "buildings/BuildingScene.h"
+#include "buildings/DocumentFiles.h"
 #include "layers/LayerScene.h"
+#include "readers/ReadRequest.h"
 
-#include <osg/Notify>
 #include <osgDB/FileNameUtils>
-#include <osgDB/FileUtils>
 #include <osgDB/Registry>
 
 namespace {
 
 using namespace vlt::scene;
 
-/// The project file that a caller names: the plug-in datum "vlt.project", or what follows
-/// "project=" in the option string, in quotation marks or up to its end.
-std::string projectOf(const osgDB::Options *options)
+osg::ref_ptr<osg::Group> readLayer(const std::string &path, const ReadRequest &request,
+                                   std::vector<std::string> &notices)
 {
-    if (!options)
-        return {};
-    std::string datum = options->getPluginStringData("vlt.project");
-    if (!datum.empty())
-        return datum;
-    constexpr std::string_view Key = "project=";
-    const std::string &text = options->getOptionString();
-    const std::size_t at = text.find(Key);
-    if (at == std::string::npos)
-        return {};
-    const std::string value = text.substr(at + Key.size());
-    return value.starts_with('"') ? value.substr(1, value.find('"', 1) - 1) : value;
-}
-
-/// Whether a caller wants the terrain's surface under links: the plug-in datum "vlt.terrain" is
-/// "1".
-bool asksForTerrain(const osgDB::Options *options)
-{
-    return options && options->getPluginStringData("vlt.terrain") == "1";
-}
-
-osg::ref_ptr<osg::Group> read(const std::string &path, const LayerRequest &request)
-{
-    std::vector<std::string> notices;
-    osg::ref_ptr<osg::Group> scene = readLayerScene(path, request, notices);
-    for (const std::string &notice : notices)
-        OSG_WARN << path << ": " << notice << std::endl;
-    OSG_INFO << path << ':';
-    for (const std::string &fact : scene->getDescriptions())
-        OSG_INFO << ' ' << fact;
-    OSG_INFO << std::endl;
+    const LayerFile file = readLayerFile(path);
+    if (file.kind != LayerKind::Buildings)
+        return readLayerScene(file, path, {request.project, request.withTerrain}, notices);
+    osg::ref_ptr<osg::Group> scene =
+        readBuildingScene(locateDocument(file.source, path, request.project), request.project,
+                          notices, request.progress);
+    scene->setName(file.title);
     return scene;
 }
 
-/// Opens layers of sites and of links in any program of the scene library.
+/// Opens layers of sites, of links and of buildings in any program of the scene library.
 class LayReader : public osgDB::ReaderWriter
 {
 public:
-    LayReader() { supportsExtension("lay", "Layers of telecom sites and links"); }
+    LayReader() { supportsExtension("lay", "Layers of telecom sites, links and buildings"); }
 
     const char *className() const override { return "Telecom layer reader"; }
 
@@ -64,15 +40,7 @@ public:
     {
         if (!acceptsExtension(osgDB::getLowerCaseFileExtension(name)))
             return ReadResult::FILE_NOT_HANDLED;
-        const std::string path =
-            osgDB::containsServerAddress(name) ? "" : osgDB::findDataFile(name, options);
-        if (path.empty())
-            return ReadResult::FILE_NOT_FOUND;
-        try {
-            return read(path, {projectOf(options), asksForTerrain(options)}).get();
-        } catch (const std::exception &fault) { // BadLayer, BadQuery, or out of memory
-            return ReadResult(path + ": " + fault.what());
-        }
+        return readLocalScene(name, options, readLayer);
     }
 };
 

@@ -1,0 +1,167 @@
+#include "buildings/BuildingScene.h"
+
+#include "buildings/DocumentFiles.h"
+#include "buildings/FootprintReader.h"
+#include "buildings/GroundHeights.h"
+#include "buildings/TexbDocument.h"
+#include "buildings/TexturedTile.h"
+#include "buildings/TownColors.h"
+#include "buildings/TownNodes.h"
+#include "connection/ReaderOptions.h"
+#include "layers/BadLayer.h"
+#include "layers/SceneFacts.h"
+#include "layers/TableReading.h"
+
+#include <cpl_conv.h>
+#include <cpl_error.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace vlt::scene {
+
+namespace {
+
+using Directories = std::vector<std::string>;
+
+/// A stretch of the whole work.
+Progress part(const Progress &whole, double from, double to)
+{
+    return [&whole, from, to](double share) { return whole(from + share * (to - from)); };
+}
+
+std::string wktOf(const std::optional<OGRSpatialReference> &srs)
+{
+    const CPLErrorHandlerPusher quiet(CPLQuietErrorHandler);
+    const char *const options[] = {"FORMAT=WKT2", nullptr};
+    char *text = nullptr;
+    std::string wkt;
+    if (srs && srs->exportToWkt(&text, options) == OGRERR_NONE)
+        wkt = text;
+    CPLFree(text);
+    return wkt;
+}
+
+bool isPlaced(const Town &town, const Footprints::Building &building)
+{
+    for (const Footprints::Ring &ring : town.footprints.ringsOf(building)) {
+        for (std::uint32_t i = ring.begin; i < ring.end; ++i) {
+            if (!std::isfinite(town.places[i].x()) || !std::isfinite(town.places[i].y()))
+                return false;
+        }
+    }
+    return true;
+}
+
+/// Lays the frame and leaves out what is not in it.
+void place(Town &town, const OGRSpatialReference *srs)
+{
+    const CPLErrorHandlerPusher quiet(CPLQuietErrorHandler);
+    town.places = town.footprints.places;
+    town.frame = moveToFrame(srs, town.places);
+    town.leftOut.noPlace =
+        std::erase_if(town.footprints.buildings, [&town](const Footprints::Building &building) {
+            return !isPlaced(town, building);
+        });
+}
+
+std::size_t countOf(const LeftOut &leftOut)
+{
+    return leftOut.noHeight + leftOut.notPositive + leftOut.noShape + leftOut.noPlace;
+}
+
+void tellLeftOut(const LeftOut &leftOut, const std::string &heightField, std::size_t features,
+                 Notices &notices)
+{
+    const std::string field = " the field \"" + heightField + '"';
+    const std::pair<std::size_t, std::string> reasons[] = {
+        {leftOut.noHeight, "no height in" + field},
+        {leftOut.notPositive, "a height of zero or less in" + field},
+        {leftOut.noShape, "no polygon with an area"},
+        {leftOut.noPlace, "their place is none of their coordinate system"}};
+    for (const auto &[count, reason] : reasons) {
+        if (count > 0)
+            notices.push_back(std::to_string(count) + " of " + std::to_string(features) +
+                              " buildings are left out: " + reason);
+    }
+}
+
+Town readTown(const TexbDocument &document, const Directories &directories, Notices &notices,
+              const Progress &progress)
+{
+    const std::string file = locateDataset(document.vectorFile, directories);
+    if (file.empty())
+        throw BadLayer("there is no local file of footprints \"" + document.vectorFile + '"');
+    ReadFootprints read = readFootprints({file, document.layer, document.heightField}, notices,
+                                         part(progress, 0, 0.5));
+    const OGRSpatialReference *srs = read.srs ? &*read.srs : nullptr;
+    Town town;
+    town.footprints = std::move(read.footprints);
+    town.srs = wktOf(read.srs);
+    town.leftOut = read.leftOut;
+    place(town, srs);
+    tellLeftOut(town.leftOut, document.heightField, read.features, notices);
+    const GroundSource terrain{document.terrainFile,
+                               locateDataset(document.terrainFile, directories),
+                               document.terrainNoData};
+    town.baseM = groundUnder(town.footprints, srs, terrain, notices, part(progress, 0.5, 0.6));
+    return town;
+}
+
+std::vector<colormaps::Rgba> colorsOf(const Town &town, const std::string &specification,
+                                      const Directories &directories, Notices &notices,
+                                      const Progress &progress)
+{
+    std::vector<colormaps::Rgba> colors =
+        townColors(town, specification, directories, notices, progress);
+    if (colors.size() != town.footprints.buildings.size())
+        throw BadLayer(connection::StoppedText);
+    return colors;
+}
+
+void colour(Town &town, const TexbDocument &document, const Directories &directories,
+            Notices &notices, const Progress &progress)
+{
+    const bool isOne = document.roofColor.empty() || document.roofColor == document.wallColor;
+    town.wallColors = colorsOf(town, document.wallColor, directories, notices,
+                               part(progress, 0.6, isOne ? 0.8 : 0.7));
+    town.roofColors =
+        isOne ? town.wallColors
+              : colorsOf(town, document.roofColor, directories, notices, part(progress, 0.7, 0.8));
+}
+
+/// What makes tiles with images; empty where the document has none that can be used.
+TexturedMaker texturedMaker(const std::shared_ptr<const Town> &town, const TexbDocument &document,
+                            const Directories &directories, Notices &notices)
+{
+    if (!document.textures || document.texturedVisibilityM <= 0)
+        return {};
+    const std::shared_ptr<TextureImages> images =
+        TextureImages::open(*town, *document.textures, directories, notices);
+    if (!images || images->isEmpty())
+        return {};
+    return [town, images, textures = *document.textures, skirtM = document.skirtHeightM](
+               std::span<const std::uint32_t> buildings, const osg::Vec3d &origin) {
+        return buildTexturedTile(*town, textures, *images, buildings, origin, skirtM);
+    };
+}
+
+} // namespace
+
+osg::ref_ptr<osg::Group> readBuildingScene(const std::string &document, const std::string &project,
+                                           Notices &notices, const Progress &progress)
+{
+    const TexbDocument texb = readTexbDocument(document);
+    const Directories directories = documentDirectories(document, project);
+    const auto town = std::make_shared<Town>(readTown(texb, directories, notices, progress));
+    colour(*town, texb, directories, notices, progress);
+    const TownLook look{texb.tileSizeM, texb.extrudedVisibilityM, texb.texturedVisibilityM,
+                        texb.skirtHeightM, texturedMaker(town, texb, directories, notices)};
+    osg::ref_ptr<osg::Group> scene = buildTown(town, look, part(progress, 0.8, 1));
+    tellFrame(*scene, town->frame);
+    tellCount(*scene, "buildings", town->footprints.buildings.size());
+    tellCount(*scene, "leftOut", countOf(town->leftOut));
+    return scene;
+}
+
+} // namespace vlt::scene

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "buildings/Town.h"
+
+#include <osg/Group>
+
+namespace vlt::scene {
+
+/// Reads a building document and makes the scene of it: metres around the middle of the buildings,
+/// x east, y north, z up, tiles of the document's size with levels of detail.
+///
+/// Its descriptions tell what it holds: "centre=X Y", "srs=...", "buildings=N", "leftOut=N".
+///
+/// @param document  path of the document
+/// @param project   path of the project file, for relative names; may be empty
+/// @throws BadLayer  naming what is missing or wrong; the text connection::StoppedText where
+///                   `progress` stopped it
+osg::ref_ptr<osg::Group> readBuildingScene(const std::string &document, const std::string &project,
+                                           Notices &notices, const Progress &progress);
+
+} // namespace vlt::scene

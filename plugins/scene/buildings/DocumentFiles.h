@@ -1,0 +1,27 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace vlt::scene {
+
+/// Where files of relative names are looked for that a building document or layer names: in its own
+/// folder, then in the project's, then in that of the project in the environment variable
+/// VLT_CURRENT_PROJECT.
+///
+/// @param project  path of a project file; may be empty
+std::vector<std::string> documentDirectories(const std::string &document,
+                                             const std::string &project);
+
+/// The absolute path of a file or folder of the local disk; empty where there is none of this name.
+std::string locateDataset(const std::string &name, const std::vector<std::string> &directories);
+
+/// The absolute path of the document of a layer.
+///
+/// @param source   of the layer: "TEXB:" and the path of the document
+/// @param layer    path of the layer file
+/// @throws BadLayer  another source, no such file
+std::string locateDocument(const std::string &source, const std::string &layer,
+                           const std::string &project);
+
+} // namespace vlt::scene

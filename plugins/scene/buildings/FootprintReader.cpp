@@ -1,0 +1,227 @@
+#include "buildings/FootprintReader.h"
+
+#include "connection/ReaderOptions.h"
+#include "layers/BadLayer.h"
+#include "layers/TableReading.h"
+#include "localfiles/LocalFormats.h"
+#include "localfiles/NoNetwork.h"
+
+#include <cpl_error.h>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace vlt::scene {
+
+namespace {
+
+constexpr double Endless = std::numeric_limits<double>::infinity();
+constexpr std::size_t FeaturesPerReport = 2000;
+constexpr double LeastAreaShare = 1e-9; ///< of the square of a ring's extent
+constexpr int DeepestCollection = 8;
+
+/// Adds the polygons of one feature after the other to the flat arrays.
+class FootprintBuilder
+{
+public:
+    explicit FootprintBuilder(Footprints &footprints) : m_footprints(footprints) {}
+
+    /// False where the geometry holds no polygon with an area; then nothing is added.
+    bool add(const OGRGeometry &geometry, float heightM)
+    {
+        const auto ringBegin = static_cast<std::uint32_t>(m_footprints.rings.size());
+        addParts(geometry, 0);
+        const auto ringEnd = static_cast<std::uint32_t>(m_footprints.rings.size());
+        if (ringBegin < ringEnd)
+            m_footprints.buildings.push_back({ringBegin, ringEnd, heightM});
+        return ringBegin < ringEnd;
+    }
+
+private:
+    void addParts(const OGRGeometry &geometry, int depth)
+    {
+        const OGRwkbGeometryType type = wkbFlatten(geometry.getGeometryType());
+        if (type == wkbPolygon || type == wkbTriangle)
+            addPolygon(*geometry.toPolygon());
+        else if (depth < DeepestCollection && OGR_GT_IsSubClassOf(type, wkbGeometryCollection))
+            for (const OGRGeometry *part : *geometry.toGeometryCollection())
+                addParts(*part, depth + 1);
+        else if (type == wkbPolyhedralSurface || type == wkbTIN)
+            for (const OGRPolygon *part : *geometry.toPolyhedralSurface())
+                addPolygon(*part);
+    }
+
+    void addPolygon(const OGRPolygon &polygon)
+    {
+        const OGRLinearRing *outer = polygon.getExteriorRing();
+        if (!outer || !addRing(*outer, false))
+            return;
+        for (int i = 0; i < polygon.getNumInteriorRings(); ++i)
+            addRing(*polygon.getInteriorRing(i), true);
+    }
+
+    bool addRing(const OGRLinearRing &ring, bool isHole)
+    {
+        std::vector<osg::Vec2d> &places = m_footprints.places;
+        const std::size_t begin = places.size();
+        const int count = ring.getNumPoints();
+        for (int i = 0; i < count; ++i) {
+            const osg::Vec2d place(ring.getX(i), ring.getY(i));
+            const bool isNew = places.size() == begin || place != places.back();
+            if (isNew && std::isfinite(place.x()) && std::isfinite(place.y()))
+                places.push_back(place);
+        }
+        while (places.size() > begin + 1 && places.back() == places[begin])
+            places.pop_back();
+        if (!hasArea(std::span(places).subspan(begin))) {
+            places.resize(begin);
+            return false;
+        }
+        m_footprints.rings.push_back(
+            {static_cast<std::uint32_t>(begin), static_cast<std::uint32_t>(places.size()), isHole});
+        return true;
+    }
+
+    static bool hasArea(std::span<const osg::Vec2d> ring)
+    {
+        if (ring.size() < 3)
+            return false;
+        double doubled = 0;
+        double extent = 0;
+        osg::Vec2d before = ring.back() - ring.front();
+        for (const osg::Vec2d &place : ring) {
+            const osg::Vec2d at = place - ring.front();
+            doubled += before.x() * at.y() - before.y() * at.x();
+            extent = std::max({extent, std::abs(at.x()), std::abs(at.y())});
+            before = at;
+        }
+        return std::abs(doubled) > LeastAreaShare * extent * extent;
+    }
+
+    Footprints &m_footprints;
+};
+
+GDALDatasetUniquePtr openFootprints(const std::string &file)
+{
+    if (!localfiles::isLocalDataset(file))
+        throw BadLayer("there is no local file of footprints \"" + file + '"');
+    CPLErrorReset();
+    GDALDatasetUniquePtr dataset(
+        GDALDataset::Open(file.c_str(), GDAL_OF_VECTOR | GDAL_OF_READONLY | GDAL_OF_VERBOSE_ERROR,
+                          localfiles::localVectorFormats()));
+    if (!dataset)
+        throw BadLayer("the footprints \"" + file + "\" cannot be read: " + CPLGetLastErrorMsg());
+    return dataset;
+}
+
+OGRLayer &findLayer(GDALDataset &dataset, const std::string &name)
+{
+    OGRLayer *found = nullptr;
+    for (int i = 0; i < dataset.GetLayerCount(); ++i) {
+        OGRLayer *layer = dataset.GetLayer(i);
+        if (layer && (name.empty() || name == layer->GetName()))
+            return *layer;
+        if (layer && !found && EQUAL(name.c_str(), layer->GetName()))
+            found = layer;
+    }
+    if (!found)
+        throw BadLayer("the footprints have no layer \"" + name + '"');
+    return *found;
+}
+
+int findHeightField(const OGRLayer &layer, const std::string &name)
+{
+    const OGRFeatureDefn &definition = *const_cast<OGRLayer &>(layer).GetLayerDefn();
+    int found = -1;
+    for (int i = 0; i < definition.GetFieldCount(); ++i) {
+        const char *known = definition.GetFieldDefn(i)->GetNameRef();
+        if (name == known || (found < 0 && EQUAL(known, name.c_str())))
+            found = i;
+        if (name == known)
+            break;
+    }
+    if (found < 0)
+        throw BadLayer("the footprints have no field \"" + name + '"');
+    const OGRFieldType type = definition.GetFieldDefn(found)->GetType();
+    if (type != OFTInteger && type != OFTInteger64 && type != OFTReal && type != OFTString)
+        throw BadLayer("the field \"" + name + "\" of the footprints holds no numbers");
+    return found;
+}
+
+/// Counts the feature in where it is a building, else in what is left out.
+void take(const OGRFeature &feature, int heightField, FootprintBuilder &builder, LeftOut &leftOut)
+{
+    const std::optional<double> heightM = numberAt(feature, heightField, -Endless, Endless);
+    if (!heightM || std::abs(*heightM) > HighestBuildingM) {
+        ++leftOut.noHeight;
+        return;
+    }
+    const auto height = static_cast<float>(*heightM);
+    if (!(height > 0)) {
+        ++leftOut.notPositive;
+        return;
+    }
+    const OGRGeometry *shape = feature.GetGeometryRef();
+    OGRGeometryUniquePtr straight;
+    if (shape && shape->hasCurveGeometry(FALSE)) {
+        straight.reset(shape->getLinearGeometry());
+        shape = straight.get();
+    }
+    if (!shape || !builder.add(*shape, height))
+        ++leftOut.noShape;
+}
+
+/// The next feature; null behind the last, and where a notice tells that the rest cannot be read.
+OGRFeatureUniquePtr nextReadable(OGRLayer &layer, std::size_t features, Notices &notices)
+{
+    try {
+        return nextFeature(layer);
+    } catch (const BadLayer &fault) {
+        if (features == 0)
+            throw;
+        notices.push_back("only the first " + std::to_string(features) +
+                          " footprints can be read: " + fault.what());
+    }
+    return nullptr;
+}
+
+void readFeatures(OGRLayer &layer, int heightField, ReadFootprints &read, Notices &notices,
+                  const Progress &progress)
+{
+    const auto expected = static_cast<double>(std::max<GIntBig>(layer.GetFeatureCount(FALSE), 1));
+    FootprintBuilder builder(read.footprints);
+    while (const OGRFeatureUniquePtr feature = nextReadable(layer, read.features, notices)) {
+        if (read.footprints.places.size() > MostPlaces) {
+            notices.push_back("only the first " + std::to_string(read.features) +
+                              " footprints are shown: there are too many");
+            return;
+        }
+        take(*feature, heightField, builder, read.leftOut);
+        if (++read.features % FeaturesPerReport == 0 &&
+            !progress(std::min(static_cast<double>(read.features) / expected, 1.0)))
+            throw BadLayer(connection::StoppedText);
+    }
+}
+
+} // namespace
+
+ReadFootprints readFootprints(const FootprintSource &source, Notices &notices,
+                              const Progress &progress)
+{
+    const CPLErrorHandlerPusher quiet(CPLQuietErrorHandler);
+    const localfiles::NoNetwork offline;
+    const GDALDatasetUniquePtr dataset = openFootprints(source.file);
+    OGRLayer &layer = findLayer(*dataset, source.layer);
+    const int heightField = findHeightField(layer, source.heightField);
+    readOnlyFields(layer, {heightField});
+    ReadFootprints read;
+    if (const OGRSpatialReference *srs = layer.GetSpatialRef(); srs && !srs->IsEmpty()) {
+        read.srs = *srs;
+        read.srs->SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
+    }
+    readFeatures(layer, heightField, read, notices, progress);
+    return read;
+}
+
+} // namespace vlt::scene

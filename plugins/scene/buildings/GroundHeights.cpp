@@ -1,0 +1,144 @@
+#include "buildings/GroundHeights.h"
+
+#include "connection/ReaderOptions.h"
+#include "layers/BadLayer.h"
+#include "linkpath/TerrainRaster.h"
+#include "localfiles/NoNetwork.h"
+
+#include <cpl_error.h>
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <limits>
+
+namespace vlt::scene {
+
+namespace {
+
+constexpr float NoGround = std::numeric_limits<float>::quiet_NaN();
+constexpr std::size_t BuildingsPerReport = 4096;
+
+std::optional<double> numberIn(std::string text)
+{
+    std::replace(text.begin(), text.end(), ',', '.');
+    const std::size_t begin = std::min(text.find_first_not_of(" \t+"), text.size());
+    double number = 0;
+    const auto [end, fault] =
+        std::from_chars(text.data() + begin, text.data() + text.size(), number);
+    return fault == std::errc() ? std::optional(number) : std::nullopt;
+}
+
+/// The terrain as the footprints' system sees it.
+class Ground
+{
+public:
+    /// @param reason  takes why there is none
+    static std::optional<Ground> open(const GroundSource &source, const OGRSpatialReference *srs,
+                                      std::string &reason)
+    {
+        if (source.path.empty()) {
+            reason = "there is no such local file";
+            return std::nullopt;
+        }
+        OGRSpatialReference plane;
+        plane.SetLocalCS("plane");
+        Ground ground;
+        ground.m_raster = linkpath::TerrainRaster::open(
+            source.path, &reason, {numberIn(source.noData), srs ? srs : &plane});
+        if (!ground.m_raster)
+            return std::nullopt;
+        const OGRSpatialReference &own = ground.m_raster->srs();
+        if (srs && !srs->IsSame(&own)) {
+            ground.m_toRaster.reset(OGRCreateCoordinateTransformation(srs, &own));
+            reason = "there is no way to its coordinate system";
+            if (!ground.m_toRaster)
+                return std::nullopt;
+        }
+        return ground;
+    }
+
+    /// NaN where no point has a height.
+    float meanUnder(std::span<const osg::Vec2d> places)
+    {
+        m_x.resize(places.size());
+        m_y.resize(places.size());
+        m_isThere.assign(places.size(), 1);
+        for (std::size_t i = 0; i < places.size(); ++i) {
+            m_x[i] = places[i].x();
+            m_y[i] = places[i].y();
+        }
+        if (m_toRaster)
+            m_toRaster->Transform(static_cast<int>(places.size()), m_x.data(), m_y.data(), nullptr,
+                                  m_isThere.data());
+        double sum = 0;
+        int count = 0;
+        for (std::size_t i = 0; i < places.size(); ++i) {
+            const auto height = m_isThere[i] ? m_raster->heightM(m_x[i], m_y[i]) : std::nullopt;
+            sum += height.value_or(0);
+            count += height ? 1 : 0;
+        }
+        return count > 0 ? static_cast<float>(sum / count) : NoGround;
+    }
+
+private:
+    std::unique_ptr<linkpath::TerrainRaster> m_raster;
+    std::unique_ptr<OGRCoordinateTransformation> m_toRaster; ///< null: the same system
+    std::vector<double> m_x;
+    std::vector<double> m_y;
+    std::vector<int> m_isThere;
+};
+
+/// Puts buildings without ground on the lowest that there is.
+void fillIn(std::vector<float> &heights, Notices &notices)
+{
+    float lowest = std::numeric_limits<float>::infinity();
+    std::size_t missing = 0;
+    for (const float height : heights) {
+        missing += std::isnan(height) ? 1 : 0;
+        lowest = std::isnan(height) ? lowest : std::min(lowest, height);
+    }
+    if (missing == 0)
+        return;
+    const bool isAll = missing == heights.size();
+    std::replace_if(
+        heights.begin(), heights.end(), [](float height) { return std::isnan(height); },
+        isAll ? 0.0F : lowest);
+    notices.push_back(
+        isAll ? "the terrain has no height under any building; they stand at height 0"
+              : std::to_string(missing) + " of " + std::to_string(heights.size()) +
+                    " buildings stand on the lowest ground: there is no terrain height under them");
+}
+
+} // namespace
+
+std::vector<float> groundUnder(const Footprints &footprints, const OGRSpatialReference *srs,
+                               const GroundSource &source, Notices &notices,
+                               const Progress &progress)
+{
+    const CPLErrorHandlerPusher quiet(CPLQuietErrorHandler);
+    const localfiles::NoNetwork offline;
+    std::vector<float> heights(footprints.buildings.size(), 0);
+    if (source.file.empty()) {
+        notices.push_back("the document names no terrain; the buildings stand at height 0");
+        return heights;
+    }
+    std::string reason;
+    std::optional<Ground> ground = Ground::open(source, srs, reason);
+    if (!ground) {
+        notices.push_back("the terrain \"" + source.file + "\" cannot be used (" + reason +
+                          "); the buildings stand at height 0");
+        return heights;
+    }
+    for (std::size_t i = 0; i < heights.size(); ++i) {
+        if (i % BuildingsPerReport == 0 &&
+            !progress(static_cast<double>(i) / static_cast<double>(heights.size())))
+            throw BadLayer(connection::StoppedText);
+        const Footprints::Ring &ring = footprints.rings[footprints.buildings[i].ringBegin];
+        heights[i] = ground->meanUnder(footprints.placesOf(ring));
+    }
+    fillIn(heights, notices);
+    return heights;
+}
+
+} // namespace vlt::scene

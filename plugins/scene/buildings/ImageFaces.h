@@ -1,0 +1,58 @@
+#pragma once
+
+#include "buildings/RoofTriangles.h"
+#include "buildings/TexbDocument.h"
+#include "buildings/TextureImage.h"
+
+#include <osg/Geometry>
+#include <osg/StateSet>
+
+#include <cstdint>
+#include <vector>
+
+namespace vlt::scene {
+
+/// A wall over the line between two places.
+struct Wall
+{
+    osg::Vec2d from; ///< metres from the origin of the vertices
+    osg::Vec2d to;
+    osg::Vec2d normal;     ///< outwards, of length 1
+    osg::Vec2d lookedFrom; ///< where in the image, in the footprints' system
+    osg::Vec2d lookedTo;
+};
+
+/// Faces of buildings that show one image, collected before they become one drawable.
+class ImageFaces
+{
+public:
+    /// A level face.
+    ///
+    /// @param looked  where in the image, in the footprints' system; parallel to roof.points()
+    /// @param color   where the image has none
+    void addFloor(const RoofTriangles &roof, const std::vector<osg::Vec2d> &looked, double z,
+                  const osg::Vec4ub &color);
+
+    void addWall(const Wall &wall, double bottom, double top, const osg::Vec4ub &color);
+
+    bool isEmpty() const { return m_indices.empty(); }
+
+    /// The drawable with the part of the image that it needs.
+    ///
+    /// @param state   what all such faces have in common
+    /// @param images  how many images the tile has: the more, the smaller their parts may be
+    osg::ref_ptr<osg::Geometry> geometry(TextureImage &image, const TexbTextures &textures,
+                                         const osg::StateSet &state, std::size_t images) const;
+
+private:
+    std::uint32_t vertex(const osg::Vec2d &place, double z, const osg::Vec3 &normal,
+                         const osg::Vec2d &looked, const osg::Vec4ub &color);
+
+    std::vector<osg::Vec3> m_vertices;
+    std::vector<osg::Vec3> m_normals;
+    std::vector<osg::Vec4ub> m_colors;
+    std::vector<osg::Vec2d> m_looked;
+    std::vector<std::uint32_t> m_indices;
+};
+
+} // namespace vlt::scene

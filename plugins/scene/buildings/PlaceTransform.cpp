@@ -1,0 +1,51 @@
+#include "buildings/PlaceTransform.h"
+
+#include "localfiles/NoNetwork.h"
+
+#include <cpl_error.h>
+
+#include <cmath>
+#include <vector>
+
+namespace vlt::scene {
+
+PlaceTransform::PlaceTransform(const std::string &from, const OGRSpatialReference *to)
+{
+    if (from.empty() || !to || to->IsEmpty())
+        return;
+    const CPLErrorHandlerPusher quiet(CPLQuietErrorHandler);
+    const localfiles::NoNetwork offline;
+    OGRSpatialReference source;
+    source.SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
+    if (source.importFromWkt(from.c_str()) != OGRERR_NONE) {
+        m_isUsable = false;
+        return;
+    }
+    OGRSpatialReference target(*to);
+    target.SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
+    if (source.IsSame(&target))
+        return;
+    m_transformation.reset(OGRCreateCoordinateTransformation(&source, &target));
+    m_isUsable = m_transformation != nullptr;
+}
+
+void PlaceTransform::apply(std::span<osg::Vec2d> places) const
+{
+    if (!m_transformation || places.empty())
+        return;
+    const CPLErrorHandlerPusher quiet(CPLQuietErrorHandler);
+    const std::size_t count = places.size();
+    std::vector<double> x;
+    std::vector<double> y;
+    for (const osg::Vec2d &place : places) {
+        x.push_back(place.x());
+        y.push_back(place.y());
+    }
+    std::vector<int> succeeded(count, FALSE);
+    m_transformation->Transform(static_cast<int>(count), x.data(), y.data(), nullptr,
+                                succeeded.data());
+    for (std::size_t i = 0; i < count; ++i)
+        places[i] = succeeded[i] ? osg::Vec2d(x[i], y[i]) : osg::Vec2d(NAN, NAN);
+}
+
+} // namespace vlt::scene

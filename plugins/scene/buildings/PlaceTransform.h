@@ -1,0 +1,35 @@
+#pragma once
+
+#include <ogr_spatialref.h>
+
+#include <osg/Vec2d>
+
+#include <memory>
+#include <span>
+#include <string>
+
+namespace vlt::scene {
+
+/// The way from the system of footprints to that of a raster, x before y in both. Not for two
+/// threads at once.
+class PlaceTransform
+{
+public:
+    /// Where one of the systems is not known, both are taken as the same.
+    ///
+    /// @param from  WKT; may be empty
+    /// @param to    may be null
+    PlaceTransform(const std::string &from, const OGRSpatialReference *to);
+
+    /// Whether there is one.
+    bool isUsable() const { return m_isUsable; }
+
+    /// Places that cannot be transformed become NaN.
+    void apply(std::span<osg::Vec2d> places) const;
+
+private:
+    std::unique_ptr<OGRCoordinateTransformation> m_transformation; ///< null: the same system
+    bool m_isUsable = true;
+};
+
+} // namespace vlt::scene

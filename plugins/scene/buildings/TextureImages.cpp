@@ -1,0 +1,143 @@
+#include "buildings/TextureImages.h"
+
+#include "coverage/LocalRaster.h"
+
+#include <osg/CullFace>
+#include <osg/LineWidth>
+#include <osg/Material>
+#include <osg/PolygonOffset>
+#include <osg/Program>
+
+#include <algorithm>
+#include <cmath>
+
+namespace vlt::scene {
+
+namespace {
+
+constexpr std::size_t MostOpenFiles = 128;
+
+// Level faces have the colours of the legend; walls are a little darker the less they face the
+// viewer, so that one sees their corners.
+constexpr const char *Vertices = R"(#version 120
+varying vec2 place;
+varying float light;
+void main()
+{
+    bool isParallel = gl_ProjectionMatrix[3][3] == 1.0;
+    vec3 look = isParallel ? vec3(0.0, 0.0, -1.0) : (gl_ModelViewMatrix * gl_Vertex).xyz;
+    vec3 normal = gl_NormalMatrix * gl_Normal;
+    bool isLevel = abs(gl_Normal.z) > 0.5;
+    light = isLevel ? 1.0 : 0.7 + 0.3 * abs(dot(normalize(normal), normalize(look)));
+    place = gl_MultiTexCoord0.xy;
+    gl_FrontColor = gl_Color;
+    gl_BackColor = gl_Color;
+    gl_Position = gl_ModelViewProjectionMatrix * gl_Vertex;
+}
+)";
+
+constexpr const char *Fragments = R"(#version 120
+uniform sampler2D picture;
+varying vec2 place;
+varying float light;
+void main()
+{
+    vec4 image = texture2D(picture, place);
+    gl_FragColor = vec4(mix(gl_Color.rgb, image.rgb, image.a) * light, 1.0);
+}
+)";
+
+osg::ref_ptr<osg::StateSet> makeFaceState()
+{
+    osg::ref_ptr<osg::StateSet> state = new osg::StateSet;
+    osg::ref_ptr<osg::Program> program = new osg::Program;
+    program->addShader(new osg::Shader(osg::Shader::VERTEX, Vertices));
+    program->addShader(new osg::Shader(osg::Shader::FRAGMENT, Fragments));
+    state->setAttributeAndModes(program);
+    state->addUniform(new osg::Uniform("picture", 0));
+    state->setMode(GL_CULL_FACE, osg::StateAttribute::OFF); // floors are seen from below too
+    state->setAttributeAndModes(new osg::PolygonOffset(1, 1));
+    return state;
+}
+
+/// As buildings without images are drawn.
+osg::ref_ptr<osg::StateSet> makePlainState()
+{
+    osg::ref_ptr<osg::StateSet> state = new osg::StateSet;
+    osg::ref_ptr<osg::Material> material = new osg::Material;
+    material->setColorMode(osg::Material::AMBIENT_AND_DIFFUSE);
+    material->setAmbient(osg::Material::FRONT_AND_BACK, osg::Vec4(1, 1, 1, 1));
+    material->setDiffuse(osg::Material::FRONT_AND_BACK, osg::Vec4(1, 1, 1, 1));
+    state->setAttributeAndModes(material);
+    state->setAttributeAndModes(new osg::CullFace(osg::CullFace::BACK));
+    state->setAttributeAndModes(new osg::PolygonOffset(1, 1));
+    state->setMode(GL_LIGHTING, osg::StateAttribute::ON);
+    return state;
+}
+
+osg::ref_ptr<osg::StateSet> makeEdgeState()
+{
+    osg::ref_ptr<osg::StateSet> state = new osg::StateSet;
+    state->setMode(GL_LIGHTING, osg::StateAttribute::OFF);
+    state->setAttributeAndModes(new osg::LineWidth(1.5F));
+    return state;
+}
+
+} // namespace
+
+TextureImages::TextureImages(const Town &town)
+    : m_faceState(makeFaceState())
+    , m_plainState(makePlainState())
+    , m_edgeState(makeEdgeState())
+{
+    // the same everywhere in a town, to well within a pixel over the few metres of a buffer
+    const LocalFrame &frame = *town.frame.local;
+    const osg::Vec2d middle = frame.fromFrame({0, 0});
+    m_right = frame.fromFrame({1, 0}) - middle;
+    m_up = frame.fromFrame({0, 1}) - middle;
+}
+
+std::shared_ptr<TextureImages> TextureImages::open(const Town &town, const TexbTextures &textures,
+                                                   const std::vector<std::string> &directories,
+                                                   Notices &notices)
+{
+    std::shared_ptr<TextureImages> all(new TextureImages(town));
+    std::vector<Level> &levels = all->m_levels;
+    for (const TexbImage &one : textures.images) {
+        const auto hasItsHeight = [&one](const Level &level) {
+            return level.heightM == one.heightM;
+        };
+        std::string reason;
+        std::unique_ptr<TextureImage> image;
+        if (!std::isfinite(one.heightM))
+            reason = "it has no height";
+        else if (std::any_of(levels.begin(), levels.end(), hasItsHeight))
+            reason = "another one has the same height";
+        else
+            image = TextureImage::open(coverage::locateRaster(one.path, directories), town.srs,
+                                       levels.size() < MostOpenFiles, &reason);
+        if (image)
+            levels.push_back({one.heightM, std::move(image)});
+        else
+            notices.push_back("the image \"" + one.path + "\" is not shown (" + reason + ")");
+    }
+    std::sort(levels.begin(), levels.end(),
+              [](const Level &a, const Level &b) { return a.heightM < b.heightM; });
+    return all;
+}
+
+std::size_t TextureImages::nearest(double heightM) const
+{
+    const auto next =
+        std::min_element(m_levels.begin(), m_levels.end(), [&](const Level &a, const Level &b) {
+            return std::abs(a.heightM - heightM) < std::abs(b.heightM - heightM);
+        });
+    return static_cast<std::size_t>(next - m_levels.begin());
+}
+
+osg::Vec2d TextureImages::inSystem(const osg::Vec2d &way) const
+{
+    return m_right * way.x() + m_up * way.y();
+}
+
+} // namespace vlt::scene

@@ -1,0 +1,297 @@
+#include "buildings/TexturedTile.h"
+
+#include "buildings/ColorSpecification.h"
+#include "buildings/ImageFaces.h"
+#include "buildings/TownMesh.h"
+#include "mesh/Mesh.h"
+
+#include <osg/Geode>
+
+#include <algorithm>
+#include <optional>
+
+namespace vlt::scene {
+
+namespace {
+
+using Places = std::vector<osg::Vec2d>;
+
+osg::Vec4ub opaque(const colormaps::Rgba &color)
+{
+    return {color.red, color.green, color.blue, 255};
+}
+
+/// Which faces of whole buildings are drawn in their colours.
+enum class Plain { All, Walls, Roofs };
+
+class TileBuilder
+{
+public:
+    TileBuilder(const Town &town, const TexbTextures &textures, TextureImages &images,
+                const osg::Vec3d &origin, double skirtM)
+        : m_town(town)
+        , m_textures(textures)
+        , m_images(images)
+        , m_origin(origin)
+        , m_skirtM(skirtM)
+        , m_edgeColor(parseColor(textures.edgeColor))
+        , m_faces(images.levels().size())
+        , m_plain(town, origin)
+        , m_rest(town, origin)
+    {}
+
+    void add(std::uint32_t building)
+    {
+        if (!hasImage(building)) {
+            m_plain.addBuilding(building, m_skirtM);
+            return;
+        }
+        switch (m_textures.mode) {
+        case TextureMode::Roofs:
+            m_rest.addBuilding(building, m_skirtM);
+            addRoofs(building);
+            break;
+        case TextureMode::Walls:
+            m_rest.addBuilding(building, m_skirtM);
+            addWalls(building);
+            break;
+        case TextureMode::Storeys:
+            addStoreys(building);
+            break;
+        }
+        if (m_textures.mode == TextureMode::Storeys || m_textures.forceEdgeCreation)
+            addOutline(building);
+    }
+
+    osg::ref_ptr<osg::Node> node()
+    {
+        osg::ref_ptr<osg::Geode> geode = new osg::Geode;
+        const bool isRoofs = m_textures.mode == TextureMode::Roofs;
+        addPlain(*geode, m_plain, Plain::All);
+        addPlain(*geode, m_rest, isRoofs ? Plain::Walls : Plain::Roofs);
+        const auto isUsed = [](const ImageFaces &faces) { return !faces.isEmpty(); };
+        const auto used = std::count_if(m_faces.begin(), m_faces.end(), isUsed);
+        for (std::size_t i = 0; i < m_faces.size(); ++i) {
+            if (isUsed(m_faces[i]))
+                geode->addDrawable(m_faces[i].geometry(*m_images.levels()[i].image, m_textures,
+                                                       *m_images.faceState(),
+                                                       static_cast<std::size_t>(used)));
+        }
+        if (!m_edges.empty()) {
+            osg::ref_ptr<osg::Geometry> edges = new osg::Geometry;
+            m_edges.fill(*edges);
+            edges->setStateSet(m_images.edgeState());
+            edges->setName("edges");
+            geode->addDrawable(edges);
+        }
+        return geode->getNumDrawables() > 0 ? geode : nullptr;
+    }
+
+private:
+    bool hasImage(std::uint32_t building) const
+    {
+        const Footprints::Building &one = m_town.footprints.buildings[building];
+        const bool isComplex = one.ringEnd - one.ringBegin > 1;
+        if (m_images.isEmpty() || (isComplex && !m_textures.processComplexBuildings))
+            return false;
+        return m_textures.mode != TextureMode::Storeys || !levelsWithin(one.heightM).empty();
+    }
+
+    std::vector<std::size_t> levelsWithin(double heightM) const
+    {
+        std::vector<std::size_t> within;
+        for (std::size_t i = 0; i < m_images.levels().size(); ++i) {
+            const double at = m_images.levels()[i].heightM;
+            if (at >= 0 && at <= heightM)
+                within.push_back(i);
+        }
+        return within;
+    }
+
+    /// Above the origin.
+    double baseM(std::uint32_t building) const { return m_town.baseM[building] - m_origin.z(); }
+    double heightM(std::uint32_t building) const
+    {
+        return m_town.footprints.buildings[building].heightM;
+    }
+
+    /// In the frame, from the origin; the direction is the stored one.
+    Places outlineOf(const Footprints::Ring &ring) const
+    {
+        Places places(m_town.places.begin() + ring.begin, m_town.places.begin() + ring.end);
+        for (osg::Vec2d &place : places)
+            place -= osg::Vec2d(m_origin.x(), m_origin.y());
+        return places;
+    }
+
+    /// Level faces with images, each at its height above the base.
+    void addFloors(std::uint32_t building,
+                   const std::vector<std::pair<std::size_t, double>> &levels)
+    {
+        const Footprints &footprints = m_town.footprints;
+        const osg::Vec4ub color = opaque(m_town.roofColors[building]);
+        for (const auto &part : partsOf(footprints.ringsOf(footprints.buildings[building]))) {
+            Places looked; // where in the image, parallel to the points
+            m_roof.clear();
+            for (const Footprints::Ring &ring : part) {
+                const auto places = footprints.placesOf(ring);
+                looked.insert(looked.end(), places.begin(), places.end());
+                m_roof.addRing(outlineOf(ring));
+            }
+            m_roof.cut();
+            lookUpCrossings(part.front(), looked);
+            for (const auto &[level, z] : levels)
+                m_faces[level].addFloor(m_roof, looked, baseM(building) + z, color);
+        }
+    }
+
+    /// Points that the cutting added.
+    void lookUpCrossings(const Footprints::Ring &ring, Places &looked) const
+    {
+        const osg::Vec2d first = m_roof.points().front();
+        const osg::Vec2d firstLooked = m_town.footprints.places[ring.begin];
+        for (std::size_t i = looked.size(); i < m_roof.points().size(); ++i)
+            looked.push_back(firstLooked + m_images.inSystem(m_roof.points()[i] - first));
+    }
+
+    void addRoofs(std::uint32_t building)
+    {
+        addFloors(building, {{m_images.nearest(heightM(building)), heightM(building)}});
+    }
+
+    void addStoreys(std::uint32_t building)
+    {
+        std::vector<std::pair<std::size_t, double>> floors;
+        for (const std::size_t level : levelsWithin(heightM(building))) {
+            const double z = m_images.levels()[level].heightM;
+            floors.emplace_back(level, z);
+            addRings(building, baseM(building) + z);
+        }
+        addFloors(building, floors);
+    }
+
+    void addWalls(std::uint32_t building)
+    {
+        const Footprints &footprints = m_town.footprints;
+        for (const Footprints::Ring &ring : footprints.ringsOf(footprints.buildings[building])) {
+            const Places outline = outlineOf(ring);
+            const auto places = footprints.placesOf(ring);
+            // outside is to the right of a ring that runs counter-clockwise, to the left in a hole
+            const double side = (doubledArea(outline) > 0) != ring.isHole ? 1 : -1;
+            for (std::size_t i = 0; i < outline.size(); ++i) {
+                const std::size_t next = (i + 1) % outline.size();
+                osg::Vec2d normal(outline[next].y() - outline[i].y(),
+                                  outline[i].x() - outline[next].x());
+                if (normal.normalize() <= 0)
+                    continue;
+                normal *= side;
+                const osg::Vec2d aside = m_images.inSystem(normal * m_textures.bufferM);
+                addBands(building, {outline[i], outline[next], normal, places[i] + aside,
+                                    places[next] + aside});
+            }
+        }
+    }
+
+    /// A wall, the image of each level from half-way below it to half-way above it.
+    void addBands(std::uint32_t building, const Wall &wall)
+    {
+        const auto &levels = m_images.levels();
+        const osg::Vec4ub color = opaque(m_town.wallColors[building]);
+        const double height = heightM(building);
+        double bottom = -m_skirtM;
+        for (std::size_t i = 0; i < levels.size() && bottom < height; ++i) {
+            const bool isLast = i + 1 == levels.size();
+            const double border = isLast ? height : (levels[i].heightM + levels[i + 1].heightM) / 2;
+            const double top = std::min(border, height);
+            if (top <= bottom)
+                continue;
+            m_faces[i].addWall(wall, baseM(building) + bottom, baseM(building) + top, color);
+            bottom = top;
+        }
+    }
+
+    void addOutline(std::uint32_t building)
+    {
+        const double base = baseM(building);
+        const double top = base + heightM(building);
+        addRings(building, base);
+        addRings(building, top);
+        if (!m_edgeColor)
+            return;
+        const Footprints &footprints = m_town.footprints;
+        for (const Footprints::Ring &ring : footprints.ringsOf(footprints.buildings[building])) {
+            for (const osg::Vec2d &place : outlineOf(ring))
+                m_edges.line(edge(place, base), edge(place, top));
+        }
+    }
+
+    void addRings(std::uint32_t building, double z)
+    {
+        if (!m_edgeColor)
+            return;
+        const Footprints &footprints = m_town.footprints;
+        for (const Footprints::Ring &ring : footprints.ringsOf(footprints.buildings[building])) {
+            const Places outline = outlineOf(ring);
+            unsigned before = edge(outline.front(), z);
+            const unsigned first = before;
+            for (std::size_t i = 1; i < outline.size(); ++i) {
+                const unsigned next = edge(outline[i], z);
+                m_edges.line(before, next);
+                before = next;
+            }
+            m_edges.line(before, first);
+        }
+    }
+
+    unsigned edge(const osg::Vec2d &place, double z)
+    {
+        return m_edges.vertex(osg::Vec3d(place.x(), place.y(), z), osg::Z_AXIS,
+                              opaque(*m_edgeColor));
+    }
+
+    void addPlain(osg::Geode &geode, const TownMesh &mesh, Plain plain) const
+    {
+        if (mesh.isEmpty())
+            return;
+        osg::ref_ptr<osg::Geometry> geometry = mesh.geometry();
+        if (plain != Plain::All) {
+            osg::ref_ptr<osg::DrawElementsUInt> kept = new osg::DrawElementsUInt(GL_TRIANGLES);
+            const std::vector<std::uint32_t> &all = mesh.indices();
+            for (std::ptrdiff_t i = 0; i + 2 < std::ssize(all); i += 3) {
+                const bool isRoof = mesh.normals()[all[static_cast<std::size_t>(i)]].z() > 0;
+                if (isRoof == (plain == Plain::Roofs))
+                    kept->insert(kept->end(), all.begin() + i, all.begin() + i + 3);
+            }
+            geometry->setPrimitiveSet(0, kept);
+        }
+        geometry->setStateSet(m_images.plainState());
+        geode.addDrawable(geometry);
+    }
+
+    const Town &m_town;
+    const TexbTextures &m_textures;
+    TextureImages &m_images;
+    osg::Vec3d m_origin;
+    double m_skirtM;
+    std::optional<colormaps::Rgba> m_edgeColor;
+    std::vector<ImageFaces> m_faces; ///< parallel to the images
+    TownMesh m_plain;                ///< buildings without an image
+    TownMesh m_rest;                 ///< buildings of which one part has images: the others
+    RoofTriangles m_roof;
+    Mesh m_edges{Mesh::Kind::Lines};
+};
+
+} // namespace
+
+osg::ref_ptr<osg::Node> buildTexturedTile(const Town &town, const TexbTextures &textures,
+                                          TextureImages &images,
+                                          std::span<const std::uint32_t> buildings,
+                                          const osg::Vec3d &origin, double skirtM)
+{
+    TileBuilder builder(town, textures, images, origin, skirtM);
+    for (const std::uint32_t building : buildings)
+        builder.add(building);
+    return builder.node();
+}
+
+} // namespace vlt::scene

@@ -1,0 +1,205 @@
+#include "buildings/TownColors.h"
+
+#include "buildings/ColorSpecification.h"
+#include "buildings/PlaceTransform.h"
+#include "coverage/LocalRaster.h"
+#include "layers/TableLocation.h"
+
+#include <cpl_error.h>
+
+#include <algorithm>
+#include <cmath>
+#include <numeric>
+#include <tuple>
+
+namespace vlt::scene {
+
+namespace {
+
+using colormaps::ColorMap;
+using colormaps::Rgba;
+using coverage::CoverageRaster;
+
+constexpr Rgba WithoutValue{200, 200, 200, 255};
+constexpr std::size_t BuildingsPerReport = 1000;
+
+/// Names and reasons of what cannot be used end the work with a notice.
+struct Unusable
+{
+    std::string notice;
+};
+
+std::string count(std::size_t number, std::size_t all)
+{
+    return std::to_string(number) + " of " + std::to_string(all) + " buildings";
+}
+
+ColorMap loadMap(const RasterColors &colors, const std::vector<std::string> &directories,
+                 CoverageRaster &raster)
+{
+    const std::string path = locateFile(colors.map, directories);
+    if (path.empty())
+        throw Unusable{"the color map \"" + colors.map + "\" does not exist"};
+    const CPLErrorHandlerPusher quiet(CPLQuietErrorHandler);
+    CPLErrorReset();
+    ColorMap map;
+    bool isLoaded = false;
+    if (colors.isStretched) {
+        const std::optional<coverage::ValueRange> range = raster.range();
+        if (!range)
+            throw Unusable{"the raster \"" + colors.raster + "\" has no values"};
+        isLoaded = map.load(path, range->minimum, range->maximum);
+    } else
+        isLoaded = map.load(path);
+    if (!isLoaded) {
+        const std::string why = CPLGetLastErrorMsg();
+        throw Unusable{"the color map \"" + colors.map + "\" cannot be used (" +
+                       (why.empty() ? "it is none" : why) + ")"};
+    }
+    return map;
+}
+
+std::unique_ptr<CoverageRaster> openRaster(const RasterColors &colors,
+                                           const std::vector<std::string> &directories)
+{
+    std::string reason;
+    auto raster = CoverageRaster::open(coverage::locateRaster(colors.raster, directories),
+                                       colors.noData, &reason);
+    if (raster && !raster->isPlaced())
+        reason = "it has no place";
+    if (!reason.empty())
+        throw Unusable{"the raster \"" + colors.raster + "\" cannot be used for colors (" + reason +
+                       ")"};
+    return raster;
+}
+
+/// The buildings in an order in which neighbours follow each other, so that a raster is read once.
+std::vector<std::size_t> inRows(const Footprints &footprints)
+{
+    constexpr double Rows = 64;
+    osg::Vec2d least(HUGE_VAL, HUGE_VAL);
+    osg::Vec2d most(-HUGE_VAL, -HUGE_VAL);
+    for (const osg::Vec2d &place : footprints.places) {
+        least.set(std::min(least.x(), place.x()), std::min(least.y(), place.y()));
+        most.set(std::max(most.x(), place.x()), std::max(most.y(), place.y()));
+    }
+    const double perRow = std::max((most.y() - least.y()) / Rows, 1e-9);
+    struct Key
+    {
+        double row = 0;
+        double x = 0;
+    };
+    std::vector<Key> keys;
+    keys.reserve(footprints.buildings.size());
+    for (const Footprints::Building &building : footprints.buildings) {
+        const osg::Vec2d &place = footprints.places[footprints.rings[building.ringBegin].begin];
+        const double row = std::floor((place.y() - least.y()) / perRow);
+        const bool isFinite = std::isfinite(row) && std::isfinite(place.x());
+        keys.push_back(isFinite ? Key{row, place.x()} : Key{});
+    }
+    std::vector<std::size_t> order(keys.size());
+    std::iota(order.begin(), order.end(), std::size_t{0});
+    std::sort(order.begin(), order.end(), [&keys](std::size_t a, std::size_t b) {
+        return std::tie(keys[a].row, keys[a].x) < std::tie(keys[b].row, keys[b].x);
+    });
+    return order;
+}
+
+/// Values of a raster under the buildings of a town, one after the other.
+class Values
+{
+public:
+    Values(const Footprints &footprints, const PlaceTransform &transform, CoverageRaster &raster,
+           coverage::Reduction reduction)
+        : m_footprints(footprints)
+        , m_transform(transform)
+        , m_raster(raster)
+        , m_reduction(reduction)
+    {}
+
+    /// NaN where there is none.
+    double under(const Footprints::Building &building)
+    {
+        m_places.clear();
+        m_rings.clear();
+        for (const Footprints::Ring &ring : m_footprints.ringsOf(building)) {
+            const auto places = m_footprints.placesOf(ring);
+            m_places.insert(m_places.end(), places.begin(), places.end());
+        }
+        m_transform.apply(m_places);
+        m_points.clear();
+        for (const osg::Vec2d &place : m_places)
+            m_points.push_back({place.x(), place.y()});
+        std::span<const coverage::Place> rest = m_points;
+        for (const Footprints::Ring &ring : m_footprints.ringsOf(building)) {
+            m_rings.push_back(rest.first(ring.end - ring.begin));
+            rest = rest.subspan(ring.end - ring.begin);
+        }
+        return m_raster.valueUnder(m_rings, m_reduction).value_or(std::nan(""));
+    }
+
+private:
+    const Footprints &m_footprints;
+    const PlaceTransform &m_transform;
+    CoverageRaster &m_raster;
+    coverage::Reduction m_reduction;
+    std::vector<osg::Vec2d> m_places;
+    std::vector<coverage::Place> m_points;
+    std::vector<coverage::Ring> m_rings;
+};
+
+std::vector<Rgba> rasterColors(const Town &town, const RasterColors &colors,
+                               const std::vector<std::string> &directories, Notices &notices,
+                               const Progress &progress)
+{
+    const std::unique_ptr<CoverageRaster> raster = openRaster(colors, directories);
+    const PlaceTransform transform(town.srs, raster->srs());
+    if (!transform.isUsable())
+        throw Unusable{"the raster \"" + colors.raster +
+                       "\" cannot be used for colors (there is no way from the buildings' "
+                       "coordinate system to its own)"};
+    const ColorMap map = loadMap(colors, directories, *raster);
+
+    const Footprints &footprints = town.footprints;
+    const std::size_t number = footprints.buildings.size();
+    std::vector<Rgba> found(number, WithoutValue);
+    Values values(footprints, transform, *raster, colors.reduction);
+    std::size_t done = 0;
+    std::size_t without = 0;
+    for (const std::size_t i : inRows(footprints)) {
+        if (done++ % BuildingsPerReport == 0 && progress &&
+            !progress(static_cast<double>(done - 1) / static_cast<double>(number)))
+            return {};
+        const double value = values.under(footprints.buildings[i]);
+        without += std::isnan(value) ? 1 : 0;
+        found[i] = colorOf(map, value, colors.interpretation).value_or(WithoutValue);
+    }
+    if (without > 0)
+        notices.push_back(count(without, number) + " have no value in the raster \"" +
+                          colors.raster + "\"");
+    return found;
+}
+
+} // namespace
+
+std::vector<Rgba> townColors(const Town &town, const std::string &specification,
+                             const std::vector<std::string> &directories, Notices &notices,
+                             const Progress &progress)
+{
+    const std::size_t number = town.footprints.buildings.size();
+    if (specification.empty())
+        return std::vector<Rgba>(number, WithoutValue);
+    if (const std::optional<Rgba> plain = parseColor(specification))
+        return std::vector<Rgba>(number, *plain);
+    try {
+        const std::optional<RasterColors> colors = parseRasterColors(specification);
+        if (!colors)
+            throw Unusable{"\"" + specification + "\" tells no colors of buildings"};
+        return rasterColors(town, *colors, directories, notices, progress);
+    } catch (const Unusable &fault) {
+        notices.push_back(fault.notice);
+    }
+    return std::vector<Rgba>(number, WithoutValue);
+}
+
+} // namespace vlt::scene

@@ -1,0 +1,229 @@
+#include "buildings/TownMesh.h"
+
+#include <osg/BoundingBox>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <limits>
+
+namespace vlt::scene {
+
+namespace {
+
+constexpr double UnitLength = 32767; ///< of a normal
+const osg::Vec2d Upwards;            ///< a normal's part in the plane
+
+osg::Vec4ub opaque(const colormaps::Rgba &color)
+{
+    return {color.red, color.green, color.blue, 255};
+}
+
+osg::Vec2d outwards(const osg::Vec2d &along)
+{
+    const double length = along.length();
+    return length > 0 ? osg::Vec2d(along.y(), -along.x()) / length : Upwards;
+}
+
+template<typename Elements>
+osg::ref_ptr<Elements> elements(const std::vector<std::uint32_t> &indices)
+{
+    osg::ref_ptr<Elements> drawn = new Elements(GL_TRIANGLES);
+    drawn->reserve(indices.size());
+    for (const std::uint32_t index : indices)
+        drawn->push_back(static_cast<typename Elements::value_type>(index));
+    return drawn;
+}
+
+/// Direction of the longest side of a ring.
+osg::Vec2d mainDirection(const std::vector<osg::Vec2d> &ring)
+{
+    osg::Vec2d longest;
+    osg::Vec2d before = ring.back();
+    for (const osg::Vec2d &place : ring) {
+        if ((place - before).length2() > longest.length2())
+            longest = place - before;
+        before = place;
+    }
+    const double length = longest.length();
+    return length > 0 ? longest / length : osg::Vec2d(1, 0);
+}
+
+} // namespace
+
+std::vector<std::span<const Footprints::Ring>> partsOf(std::span<const Footprints::Ring> rings)
+{
+    std::vector<std::span<const Footprints::Ring>> parts;
+    while (!rings.empty()) {
+        std::size_t count = 1;
+        while (count < rings.size() && rings[count].isHole)
+            ++count;
+        parts.push_back(rings.first(count));
+        rings = rings.subspan(count);
+    }
+    return parts;
+}
+
+void TownMesh::addBuilding(std::uint32_t building, double skirtM)
+{
+    const Footprints &footprints = m_town.footprints;
+    for (const auto &part : partsOf(footprints.ringsOf(footprints.buildings[building])))
+        addPart(part, building, skirtM);
+}
+
+void TownMesh::addPart(std::span<const Footprints::Ring> rings, std::uint32_t building,
+                       double skirtM)
+{
+    const double base = m_town.baseM[building] - m_origin.z();
+    const double top = base + m_town.footprints.buildings[building].heightM;
+    const osg::Vec4ub wallColor = opaque(m_town.wallColors[building]);
+    std::vector<Places> outlines;
+    m_roof.clear();
+    for (const Footprints::Ring &ring : rings) {
+        outlines.push_back(placesOf(ring, !ring.isHole));
+        m_roof.addRing(outlines.back());
+    }
+    m_roof.cut();
+    for (Places &outline : outlines) {
+        addWalls(outline, base - skirtM, top, wallColor);
+        if (!m_roof.isCrossed())
+            continue;
+        std::reverse(outline.begin(), outline.end()); // outside is on either side
+        addWalls(outline, base - skirtM, top, wallColor);
+    }
+    addRoof(top, opaque(m_town.roofColors[building]));
+}
+
+void TownMesh::addWalls(const Places &ring, double bottom, double top, const osg::Vec4ub &color)
+{
+    osg::Vec2d from = ring.back();
+    for (const osg::Vec2d &to : ring) {
+        const osg::Vec2d normal = outwards(to - from);
+        const std::uint32_t a = vertex(from, bottom, normal, color);
+        vertex(to, bottom, normal, color);
+        vertex(to, top, normal, color);
+        vertex(from, top, normal, color);
+        m_indices.insert(m_indices.end(), {a, a + 1, a + 2, a, a + 2, a + 3});
+        from = to;
+    }
+}
+
+void TownMesh::addRoof(double top, const osg::Vec4ub &color)
+{
+    const auto first = static_cast<std::uint32_t>(m_vertices.size());
+    for (const osg::Vec2d &place : m_roof.points())
+        vertex(place, top, Upwards, color);
+    for (const auto &[a, b, c] : m_roof.triangles())
+        m_indices.insert(m_indices.end(), {first + a, first + b, first + c});
+}
+
+void TownMesh::addBoxes(std::uint32_t building)
+{
+    const Footprints &footprints = m_town.footprints;
+    for (const auto &part : partsOf(footprints.ringsOf(footprints.buildings[building]))) {
+        double area = 0;
+        for (const Footprints::Ring &ring : part) {
+            const double size = std::abs(doubledArea(placesOf(ring, true))) / 2;
+            area += ring.isHole ? -size : size;
+        }
+        addBox(placesOf(part.front(), true), std::max(area, 0.0), building);
+    }
+}
+
+void TownMesh::addDot(std::uint32_t building)
+{
+    const Footprints &footprints = m_town.footprints;
+    const Footprints::Building &shape = footprints.buildings[building];
+    osg::BoundingBoxd bound;
+    for (const osg::Vec2d &place : placesOf(footprints.rings[shape.ringBegin], true))
+        bound.expandBy(place.x(), place.y(), 0);
+    const osg::Vec3d middle = bound.center();
+    vertex({middle.x(), middle.y()}, m_town.baseM[building] - m_origin.z() + shape.heightM, Upwards,
+           opaque(m_town.roofColors[building]));
+}
+
+void TownMesh::addBox(const Places &ring, double area, std::uint32_t building)
+{
+    const osg::Vec2d along = mainDirection(ring);
+    const osg::Vec2d across(-along.y(), along.x());
+    osg::Vec2d least = {ring.front() * along, ring.front() * across};
+    osg::Vec2d most = least;
+    for (const osg::Vec2d &place : ring) {
+        const osg::Vec2d at(place * along, place * across);
+        least.set(std::min(least.x(), at.x()), std::min(least.y(), at.y()));
+        most.set(std::max(most.x(), at.x()), std::max(most.y(), at.y()));
+    }
+    const osg::Vec2d middle = (least + most) / 2;
+    const osg::Vec2d size = most - least;
+    const double whole = size.x() * size.y();
+    const osg::Vec2d half = size / 2 * (whole > 0 ? std::sqrt(std::min(area / whole, 1.0)) : 0);
+    const auto corner = [&](double x, double y) {
+        return along * (middle.x() + x * half.x()) + across * (middle.y() + y * half.y());
+    };
+    const std::array<osg::Vec2d, 4> corners = {corner(-1, -1), corner(1, -1), corner(1, 1),
+                                               corner(-1, 1)};
+    const double base = m_town.baseM[building] - m_origin.z();
+    const double top = base + m_town.footprints.buildings[building].heightM;
+    const osg::Vec4ub wallColor = opaque(m_town.wallColors[building]);
+    const osg::Vec4ub roofColor = opaque(m_town.roofColors[building]);
+    const auto b = static_cast<std::uint32_t>(m_vertices.size());
+    for (std::size_t i = 0; i < 4; ++i)
+        vertex(corners[i], base, outwards(corners[(i + 1) % 4] - corners[i]), wallColor);
+    for (const osg::Vec2d &place : corners)
+        vertex(place, top, Upwards, roofColor);
+    const std::uint32_t t = b + 4;
+    // a flat face has the light and colour of the last vertex of its triangles
+    for (std::uint32_t i = 0; i < 4; ++i) {
+        const std::uint32_t next = (i + 1) % 4;
+        m_indices.insert(m_indices.end(), {b + next, t + next, b + i, t + next, t + i, b + i});
+    }
+    m_indices.insert(m_indices.end(), {t + 1, t + 2, t, t + 2, t + 3, t});
+}
+
+std::uint32_t TownMesh::vertex(const osg::Vec2d &place, double z, const osg::Vec2d &normal,
+                               const osg::Vec4ub &color)
+{
+    const auto component = [](double value) {
+        return static_cast<short>(std::lround(value * UnitLength));
+    };
+    const double up = normal == Upwards ? 1 : 0;
+    m_vertices.emplace_back(static_cast<float>(place.x()), static_cast<float>(place.y()),
+                            static_cast<float>(z));
+    m_normals.emplace_back(component(normal.x()), component(normal.y()), component(up));
+    m_colors.push_back(color);
+    return static_cast<std::uint32_t>(m_vertices.size() - 1);
+}
+
+TownMesh::Places TownMesh::placesOf(const Footprints::Ring &ring, bool counterClockwise) const
+{
+    Places places(m_town.places.begin() + ring.begin, m_town.places.begin() + ring.end);
+    for (osg::Vec2d &place : places)
+        place -= osg::Vec2d(m_origin.x(), m_origin.y());
+    if ((doubledArea(places) > 0) != counterClockwise)
+        std::reverse(places.begin(), places.end());
+    return places;
+}
+
+osg::ref_ptr<osg::Geometry> TownMesh::geometry() const
+{
+    const auto size = static_cast<unsigned>(m_vertices.size());
+    osg::ref_ptr<osg::Geometry> geometry = new osg::Geometry;
+    geometry->setUseDisplayList(false);
+    geometry->setUseVertexBufferObjects(true);
+    geometry->setVertexArray(new osg::Vec3Array(size, m_vertices.data()));
+    osg::ref_ptr<osg::Vec3sArray> normals = new osg::Vec3sArray(size, m_normals.data());
+    normals->setNormalize(true);
+    geometry->setNormalArray(normals, osg::Array::BIND_PER_VERTEX);
+    osg::ref_ptr<osg::Vec4ubArray> colors = new osg::Vec4ubArray(size, m_colors.data());
+    colors->setNormalize(true);
+    geometry->setColorArray(colors, osg::Array::BIND_PER_VERTEX);
+    if (m_indices.empty())
+        geometry->addPrimitiveSet(new osg::DrawArrays(GL_POINTS, 0, static_cast<GLsizei>(size)));
+    else if (size <= std::numeric_limits<GLushort>::max())
+        geometry->addPrimitiveSet(elements<osg::DrawElementsUShort>(m_indices));
+    else
+        geometry->addPrimitiveSet(elements<osg::DrawElementsUInt>(m_indices));
+    return geometry;
+}
+
+} // namespace vlt::scene

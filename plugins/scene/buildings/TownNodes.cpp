@@ -1,0 +1,278 @@
+#include "buildings/TownNodes.h"
+
+#include "buildings/TownMesh.h"
+#include "buildings/TownTree.h"
+#include "connection/ReaderOptions.h"
+#include "layers/BadLayer.h"
+#include "pylon/DeferredNode.h"
+
+#include <osg/CullFace>
+#include <osg/Geode>
+#include <osg/LOD>
+#include <osg/Material>
+#include <osg/MatrixTransform>
+#include <osg/Point>
+#include <osg/ShadeModel>
+
+#include <algorithm>
+#include <limits>
+
+namespace vlt::scene {
+
+namespace {
+
+constexpr std::size_t BuildingsPerBlock = 8192; ///< that become one drawable from afar
+constexpr double BlockWidthShare = 0.5;         ///< of the distance of visibility, at most
+constexpr float DotPixels = 2;
+constexpr float Endless = std::numeric_limits<float>::max();
+
+using Ids = std::vector<std::uint32_t>;
+
+osg::ref_ptr<osg::StateSet> makeState()
+{
+    osg::ref_ptr<osg::Material> material = new osg::Material;
+    material->setColorMode(osg::Material::AMBIENT_AND_DIFFUSE);
+    material->setAmbient(osg::Material::FRONT_AND_BACK, osg::Vec4(1, 1, 1, 1));
+    material->setDiffuse(osg::Material::FRONT_AND_BACK, osg::Vec4(1, 1, 1, 1));
+    osg::ref_ptr<osg::StateSet> state = new osg::StateSet;
+    state->setAttributeAndModes(material);
+    state->setAttributeAndModes(new osg::CullFace(osg::CullFace::BACK));
+    state->setAttributeAndModes(new osg::ShadeModel(osg::ShadeModel::FLAT));
+    state->setAttributeAndModes(new osg::Point(DotPixels));
+    state->setMode(GL_LIGHTING, osg::StateAttribute::ON);
+    return state;
+}
+
+/// What the tiles of a town share, for as long as one of them is there.
+struct Content
+{
+    std::shared_ptr<const Town> town;
+    TownLook look;
+    osg::ref_ptr<osg::StateSet> state = makeState();
+
+    void add(osg::Geode &geode, const TownMesh &mesh) const
+    {
+        if (mesh.isEmpty())
+            return;
+        osg::ref_ptr<osg::Geometry> geometry = mesh.geometry();
+        geometry->setStateSet(state);
+        geode.addDrawable(geometry);
+    }
+
+    osg::ref_ptr<osg::Node> asNode(const TownMesh &mesh) const
+    {
+        osg::ref_ptr<osg::Geode> geode = new osg::Geode;
+        add(*geode, mesh);
+        return geode;
+    }
+
+    osg::ref_ptr<osg::Node> extruded(std::span<const std::uint32_t> buildings,
+                                     const osg::Vec3d &origin) const
+    {
+        TownMesh mesh(*town, origin);
+        for (const std::uint32_t building : buildings)
+            mesh.addBuilding(building, look.skirtM);
+        return asNode(mesh);
+    }
+
+    osg::ref_ptr<osg::Node> boxes(std::span<const std::uint32_t> buildings,
+                                  const osg::Vec3d &origin) const
+    {
+        TownMesh mesh(*town, origin);
+        for (const std::uint32_t building : buildings)
+            addBoxOrMore(mesh, building, Boxes.largestM);
+        return asNode(mesh);
+    }
+
+    osg::ref_ptr<osg::Node> dots(std::span<const std::uint32_t> buildings,
+                                 const osg::Vec3d &origin) const
+    {
+        TownMesh large(*town, origin);
+        TownMesh small(*town, origin);
+        for (const std::uint32_t building : buildings) {
+            if (extentM(building) > Dots.largestM)
+                addBoxOrMore(large, building, LargestBoxAmongDotsM);
+            else
+                small.addDot(building);
+        }
+        osg::ref_ptr<osg::Geode> geode = new osg::Geode;
+        for (const TownMesh *mesh : {&large, &small})
+            add(*geode, *mesh);
+        return geode;
+    }
+
+    void addBoxOrMore(TownMesh &mesh, std::uint32_t building, double largestM) const
+    {
+        if (extentM(building) > largestM)
+            mesh.addBuilding(building, 0);
+        else
+            mesh.addBoxes(building);
+    }
+
+    double extentM(std::uint32_t building) const
+    {
+        osg::BoundingBoxd bound;
+        const Footprints &footprints = town->footprints;
+        for (const Footprints::Ring &ring : footprints.ringsOf(footprints.buildings[building])) {
+            for (std::uint32_t i = ring.begin; i < ring.end; ++i)
+                bound.expandBy(town->places[i].x(), town->places[i].y(), 0);
+        }
+        return std::max(bound.xMax() - bound.xMin(), bound.yMax() - bound.yMin());
+    }
+};
+
+/// Vertices of single precision stay small; optimisers must not write the place into them.
+osg::ref_ptr<osg::MatrixTransform> moved(const osg::ref_ptr<osg::Node> &node,
+                                         const osg::Vec3d &origin)
+{
+    osg::ref_ptr<osg::MatrixTransform> place =
+        new osg::MatrixTransform(osg::Matrixd::translate(origin));
+    place->setDataVariance(osg::Object::DYNAMIC);
+    place->addChild(node);
+    return place;
+}
+
+class TownBuilder
+{
+public:
+    TownBuilder(std::shared_ptr<const Content> content, const Progress &progress)
+        : m_content(std::move(content))
+        , m_progress(progress)
+        , m_isDeferred(m_content->town->places.size() > MostPlacesAtOnce)
+    {}
+
+    osg::ref_ptr<osg::Node> branch(const TownTree &tree, bool isInBlock)
+    {
+        const bool isBlock = !isInBlock && (tree.isTile() || fitsBlock(tree));
+        osg::ref_ptr<osg::Node> inner;
+        if (tree.isTile())
+            inner = tile(tree);
+        else {
+            osg::ref_ptr<osg::Group> group = new osg::Group;
+            for (const auto &part : tree.branches)
+                group->addChild(branch(*part, isInBlock || isBlock));
+            inner = group;
+        }
+        return isBlock ? block(tree, inner) : inner;
+    }
+
+private:
+    bool fitsBlock(const TownTree &tree) const
+    {
+        const double widthM =
+            std::max(tree.bound.xMax() - tree.bound.xMin(), tree.bound.yMax() - tree.bound.yMin());
+        return tree.buildings.size() <= BuildingsPerBlock &&
+               widthM <= BlockWidthShare * m_content->look.extrudedVisibilityM;
+    }
+
+    osg::BoundingSphere boundOf(const TownTree &tree) const
+    {
+        osg::BoundingBoxd bound = tree.bound;
+        bound.zMin() -= m_content->look.skirtM;
+        return {bound.center(), static_cast<float>(bound.radius())};
+    }
+
+    static osg::ref_ptr<osg::LOD> levels(const osg::BoundingSphere &bound)
+    {
+        osg::ref_ptr<osg::LOD> lod = new osg::LOD;
+        lod->setCenterMode(osg::LOD::USER_DEFINED_CENTER);
+        lod->setCenter(bound.center());
+        lod->setRadius(bound.radius());
+        return lod;
+    }
+
+    /// @param make  makes the node of the branch's buildings around an origin
+    template<typename Maker>
+    osg::ref_ptr<osg::Node> content(const TownTree &tree, bool isDeferred, const Maker &make) const
+    {
+        const osg::BoundingSphere bound = boundOf(tree);
+        const osg::Vec3d origin = bound.center();
+        if (!isDeferred)
+            return moved(make(*m_content, tree.buildings, origin), origin);
+        const auto later = [make, origin, content = m_content,
+                            ids = Ids(tree.buildings.begin(), tree.buildings.end())] {
+            return make(*content, ids, origin);
+        };
+        return moved(new DeferredNode(later, osg::BoundingSphere({}, bound.radius())), origin);
+    }
+
+    osg::ref_ptr<osg::Node> tile(const TownTree &tree)
+    {
+        using Buildings = std::span<const std::uint32_t>;
+        const TownLook &look = m_content->look;
+        const osg::BoundingSphere bound = boundOf(tree);
+        const float texturedM =
+            look.makeTextured ? static_cast<float>(look.texturedVisibilityM) + bound.radius() : 0;
+        const float extrudedM = static_cast<float>(look.extrudedVisibilityM) + bound.radius();
+        osg::ref_ptr<osg::LOD> lod = levels(bound);
+        if (look.makeTextured)
+            lod->addChild(content(tree, true,
+                                  [](const Content &content, Buildings ids, const osg::Vec3d &at) {
+                                      return content.look.makeTextured(ids, at);
+                                  }),
+                          0, texturedM);
+        if (extrudedM > texturedM)
+            lod->addChild(content(tree, m_isDeferred,
+                                  [](const Content &content, Buildings ids, const osg::Vec3d &at) {
+                                      return content.extruded(ids, at);
+                                  }),
+                          texturedM, extrudedM);
+        m_done += tree.buildings.size();
+        if (!m_progress(static_cast<double>(m_done) /
+                        static_cast<double>(m_content->town->footprints.buildings.size())))
+            throw BadLayer(connection::StoppedText);
+        return lod;
+    }
+
+    /// A branch whose buildings become simpler where a pixel is coarse.
+    osg::ref_ptr<osg::Node> block(const TownTree &tree, const osg::ref_ptr<osg::Node> &inner) const
+    {
+        using Buildings = std::span<const std::uint32_t>;
+        const float width = 2 * boundOf(tree).radius();
+        const float boxPixels = width / static_cast<float>(Boxes.pixelM);
+        const float dotPixels = width / static_cast<float>(Dots.pixelM);
+        osg::ref_ptr<osg::LOD> byPixels = levels(boundOf(tree));
+        byPixels->setRangeMode(osg::LOD::PIXEL_SIZE_ON_SCREEN);
+        byPixels->addChild(
+            visible(tree, [](const Content &content, Buildings ids,
+                             const osg::Vec3d &at) { return content.dots(ids, at); }),
+            0, dotPixels);
+        byPixels->addChild(
+            visible(tree, [](const Content &content, Buildings ids,
+                             const osg::Vec3d &at) { return content.boxes(ids, at); }),
+            dotPixels, boxPixels);
+        byPixels->addChild(inner, boxPixels, Endless);
+        return byPixels;
+    }
+
+    /// What is seen of a branch up to the distance of visibility.
+    template<typename Maker>
+    osg::ref_ptr<osg::Node> visible(const TownTree &tree, const Maker &make) const
+    {
+        const osg::BoundingSphere bound = boundOf(tree);
+        osg::ref_ptr<osg::LOD> lod = levels(bound);
+        lod->addChild(content(tree, m_isDeferred, make), 0,
+                      static_cast<float>(m_content->look.extrudedVisibilityM) + bound.radius());
+        return lod;
+    }
+
+    std::shared_ptr<const Content> m_content;
+    const Progress &m_progress;
+    bool m_isDeferred;
+    std::size_t m_done = 0;
+};
+
+} // namespace
+
+osg::ref_ptr<osg::Group> buildTown(const std::shared_ptr<const Town> &town, const TownLook &look,
+                                   const Progress &progress)
+{
+    osg::ref_ptr<osg::Group> group = new osg::Group;
+    const TownTiles tiles = growTownTree(*town, look.tileSizeM);
+    if (tiles.root)
+        group->addChild(TownBuilder(std::make_shared<Content>(Content{town, look}), progress)
+                            .branch(*tiles.root, false));
+    return group;
+}
+
+} // namespace vlt::scene

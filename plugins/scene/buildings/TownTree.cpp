@@ -1,0 +1,148 @@
+#include "buildings/TownTree.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numeric>
+
+namespace vlt::scene {
+
+namespace {
+
+constexpr unsigned LevelsInTile = 6; ///< by which a tile can be quartered
+constexpr double MostCells = 1 << 30;
+
+/// Spreads the bits of a number, every other one zero.
+std::uint64_t spread(std::uint64_t bits)
+{
+    bits = (bits | bits << 16) & 0x0000FFFF0000FFFF;
+    bits = (bits | bits << 8) & 0x00FF00FF00FF00FF;
+    bits = (bits | bits << 4) & 0x0F0F0F0F0F0F0F0F;
+    bits = (bits | bits << 2) & 0x3333333333333333;
+    return (bits | bits << 1) & 0x5555555555555555;
+}
+
+osg::BoundingBoxd boundOf(const Town &town, std::uint32_t building)
+{
+    const Footprints::Building &shape = town.footprints.buildings[building];
+    const double base = town.baseM[building];
+    osg::BoundingBoxd bound;
+    for (const Footprints::Ring &ring : town.footprints.ringsOf(shape)) {
+        for (std::uint32_t i = ring.begin; i < ring.end; ++i)
+            bound.expandBy(town.places[i].x(), town.places[i].y(), base);
+    }
+    bound.zMax() += shape.heightM;
+    return bound;
+}
+
+osg::Vec2d middleOf(const Town &town, std::uint32_t building)
+{
+    const Footprints &footprints = town.footprints;
+    const Footprints::Ring &ring = footprints.rings[footprints.buildings[building].ringBegin];
+    osg::BoundingBoxd bound;
+    for (std::uint32_t i = ring.begin; i < ring.end; ++i)
+        bound.expandBy(town.places[i].x(), town.places[i].y(), 0);
+    return {bound.center().x(), bound.center().y()};
+}
+
+/// Buildings in the order of a curve that keeps neighbours together: two bits of a code tell the
+/// quarter of a square, the next two the quarter of that, and so on.
+class TreeGrower
+{
+public:
+    TreeGrower(const Town &town, double tileSizeM, std::vector<std::uint32_t> &order)
+        : m_town(town)
+        , m_order(order)
+        , m_codes(order.size())
+    {
+        std::vector<osg::Vec2d> middles(order.size());
+        osg::Vec2d least;
+        osg::Vec2d most;
+        for (const std::uint32_t building : order) {
+            middles[building] = middleOf(town, building);
+            const osg::Vec2d &at = middles[building];
+            least.set(std::min(least.x(), at.x()), std::min(least.y(), at.y()));
+            most.set(std::max(most.x(), at.x()), std::max(most.y(), at.y()));
+        }
+        const double extent = std::max({most.x() - least.x(), most.y() - least.y(), 1.0});
+        tileSizeM = std::min(tileSizeM, extent);
+        const double cell = std::max(tileSizeM / (1 << LevelsInTile), extent / MostCells);
+        // tiles begin at the middle of the town, whatever its extent
+        const osg::Vec2d corner(std::floor(least.x() / tileSizeM) * tileSizeM,
+                                std::floor(least.y() / tileSizeM) * tileSizeM);
+        for (const std::uint32_t building : order) {
+            const osg::Vec2d at = (middles[building] - corner) / cell;
+            m_codes[building] = spread(static_cast<std::uint64_t>(at.x())) |
+                                spread(static_cast<std::uint64_t>(at.y())) << 1;
+        }
+        std::sort(order.begin(), order.end(), [this](std::uint32_t a, std::uint32_t b) {
+            return m_codes[a] != m_codes[b] ? m_codes[a] < m_codes[b] : a < b;
+        });
+        while (countTiles() > MostTiles)
+            m_tileShift += 2;
+    }
+
+    std::unique_ptr<TownTree> grow() const { return grow(m_order, RootShift); }
+
+private:
+    static constexpr unsigned RootShift = 62;
+
+    std::size_t countTiles() const
+    {
+        std::size_t count = 0;
+        std::uint64_t before = 0;
+        for (const std::uint32_t building : m_order) {
+            const std::uint64_t tile = m_codes[building] >> m_tileShift;
+            count += count == 0 || tile != before ? 1 : 0;
+            before = tile;
+        }
+        return count;
+    }
+
+    /// @param shift  the branch's buildings have the same code above so many bits
+    std::unique_ptr<TownTree> grow(std::span<const std::uint32_t> buildings, unsigned shift) const
+    {
+        const auto codeOf = [this](std::uint32_t building) { return m_codes[building]; };
+        // levels on which all are in one quarter are no branches
+        while (shift > 0 &&
+               codeOf(buildings.front()) >> (shift - 2) == codeOf(buildings.back()) >> (shift - 2))
+            shift -= 2;
+        auto tree = std::make_unique<TownTree>();
+        tree->buildings = buildings;
+        if (shift == 0 || (shift <= m_tileShift && buildings.size() <= MostBuildingsPerTile)) {
+            for (const std::uint32_t building : buildings)
+                tree->bound.expandBy(boundOf(m_town, building));
+            return tree;
+        }
+        while (!buildings.empty()) {
+            const std::uint64_t quarter = codeOf(buildings.front()) >> (shift - 2);
+            const auto end =
+                std::find_if(buildings.begin(), buildings.end(), [&](std::uint32_t building) {
+                    return codeOf(building) >> (shift - 2) != quarter;
+                });
+            const auto count = static_cast<std::size_t>(end - buildings.begin());
+            tree->branches.push_back(grow(buildings.first(count), shift - 2));
+            tree->bound.expandBy(tree->branches.back()->bound);
+            buildings = buildings.subspan(count);
+        }
+        return tree;
+    }
+
+    const Town &m_town;
+    const std::vector<std::uint32_t> &m_order;
+    std::vector<std::uint64_t> m_codes; ///< by building
+    unsigned m_tileShift = 2 * LevelsInTile;
+};
+
+} // namespace
+
+TownTiles growTownTree(const Town &town, double tileSizeM)
+{
+    TownTiles tiles;
+    tiles.order.resize(town.footprints.buildings.size());
+    std::iota(tiles.order.begin(), tiles.order.end(), 0);
+    if (!tiles.order.empty())
+        tiles.root = TreeGrower(town, tileSizeM, tiles.order).grow();
+    return tiles;
+}
+
+} // namespace vlt::scene

@@ -1,0 +1,79 @@
+#include "readers/ReadRequest.h"
+
+#include "connection/ReaderOptions.h"
+
+#include <osg/Notify>
+#include <osgDB/FileNameUtils>
+#include <osgDB/FileUtils>
+
+namespace vlt::scene {
+
+namespace {
+
+using ReadResult = osgDB::ReaderWriter::ReadResult;
+
+std::string projectOf(const osgDB::Options &options)
+{
+    std::string datum = options.getPluginStringData(connection::ProjectKey);
+    if (!datum.empty())
+        return datum;
+    constexpr std::string_view Key = "project=";
+    const std::string &text = options.getOptionString();
+    const std::size_t at = text.find(Key);
+    if (at == std::string::npos)
+        return {};
+    const std::string value = text.substr(at + Key.size());
+    return value.starts_with('"') ? value.substr(1, value.find('"', 1) - 1) : value;
+}
+
+void tell(const std::string &path, const std::vector<std::string> &notices,
+          const std::vector<std::string> &facts)
+{
+    for (const std::string &notice : notices)
+        OSG_WARN << path << ": " << notice << std::endl;
+    OSG_INFO << path << ':';
+    for (const std::string &fact : facts)
+        OSG_INFO << ' ' << fact;
+    OSG_INFO << std::endl;
+}
+
+} // namespace
+
+ReadRequest readRequestOf(const osgDB::Options *options)
+{
+    ReadRequest request;
+    request.progress = [](double) { return true; };
+    if (!options)
+        return request;
+    request.project = projectOf(*options);
+    request.withTerrain = options->getPluginStringData(connection::TerrainKey) == "1";
+    const auto *progress = static_cast<const connection::ReadProgress *>(
+        options->getPluginData(connection::ProgressKey));
+    if (progress && progress->report)
+        request.progress = [progress](double share) {
+            return progress->report(progress->context, share);
+        };
+    return request;
+}
+
+ReadResult readLocalScene(
+    const std::string &name, const osgDB::Options *options,
+    const std::function<osg::ref_ptr<osg::Group>(const std::string &, const ReadRequest &,
+                                                 std::vector<std::string> &)> &read)
+{
+    const std::string path =
+        osgDB::containsServerAddress(name) ? "" : osgDB::findDataFile(name, options);
+    if (path.empty())
+        return ReadResult::FILE_NOT_FOUND;
+    try {
+        std::vector<std::string> notices;
+        const osg::ref_ptr<osg::Group> scene = read(path, readRequestOf(options), notices);
+        tell(path, notices, scene->getDescriptions());
+        return scene.get();
+    } catch (const std::exception &fault) { // BadLayer, BadQuery, or out of memory
+        const std::string text = fault.what();
+        return ReadResult(text == connection::StoppedText ? text : path + ": " + text);
+    }
+}
+
+} // namespace vlt::scene

@@ -1,0 +1,23 @@
+#pragma once
+
+namespace vlt::connection {
+
+/// What a caller hands to the scene readers, as data of the plug-ins by these names: the path of
+/// the project file, "1" for the surface of the terrain under a scene that knows one, and the
+/// address of a ReadProgress.
+inline constexpr char ProjectKey[] = "vlt.project";
+inline constexpr char TerrainKey[] = "vlt.terrain";
+inline constexpr char ProgressKey[] = "vlt.progress";
+
+/// How a reader tells how far it is. Plain, for it goes from one module to another.
+struct ReadProgress
+{
+    /// Takes the share that is done (0..1), on the thread that reads; false stops the reader, which
+    /// then fails with the text StoppedText.
+    bool (*report)(void *context, double share) = nullptr;
+    void *context = nullptr;
+};
+
+inline constexpr char StoppedText[] = "stopped";
+
+} // namespace vlt::connection

@@ -1,0 +1,207 @@
+#include "coverage/CoverageRaster.h"
+
+#include "coverage/LocalRaster.h"
+#include "coverage/RasterBlocks.h"
+#include "coverage/RowRuns.h"
+#include "coverage/ValueReducer.h"
+#include "localfiles/NoNetwork.h"
+
+#include <gdal_priv.h>
+#include <ogr_spatialref.h>
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <string_view>
+#include <utility>
+
+namespace vlt::coverage {
+
+namespace {
+
+/// A typed number in the C locale.
+std::optional<double> numberOf(std::string_view text)
+{
+    constexpr std::string_view Blanks = " \t";
+    text.remove_prefix(std::min(text.find_first_not_of(Blanks), text.size()));
+    text = text.substr(0, text.find_last_not_of(Blanks) + 1);
+    if (text.starts_with('+'))
+        text.remove_prefix(1);
+    double value = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+    if (error != std::errc() || end != text.data() + text.size())
+        return std::nullopt;
+    return value;
+}
+
+bool isEmpty(std::string_view text)
+{
+    return text.find_first_not_of(" \t") == std::string_view::npos;
+}
+
+/// The middle of the area of a ring, or of its points where it has none; the first point near zero.
+Place middleOf(const std::vector<Place> &ring)
+{
+    const Place origin = ring.front();
+    double area = 0;
+    Place weighted;
+    Place sum;
+    for (std::size_t i = 0; i < ring.size(); ++i) {
+        const Place a{ring[i].x - origin.x, ring[i].y - origin.y};
+        const Place &next = ring[(i + 1) % ring.size()];
+        const Place b{next.x - origin.x, next.y - origin.y};
+        const double cross = a.x * b.y - b.x * a.y;
+        area += cross;
+        weighted.x += (a.x + b.x) * cross;
+        weighted.y += (a.y + b.y) * cross;
+        sum.x += a.x;
+        sum.y += a.y;
+    }
+    const auto number = static_cast<double>(ring.size());
+    Place middle{weighted.x / (3 * area), weighted.y / (3 * area)};
+    if (!std::isfinite(middle.x) || !std::isfinite(middle.y))
+        middle = {sum.x / number, sum.y / number};
+    return {middle.x + origin.x, middle.y + origin.y};
+}
+
+} // namespace
+
+std::optional<Reduction> reductionNamed(const std::string &name)
+{
+    constexpr std::array<std::pair<std::string_view, Reduction>, 4> Names = {
+        {{"minimum", Reduction::Minimum},
+         {"maximum", Reduction::Maximum},
+         {"average", Reduction::Average},
+         {"mostRepresented", Reduction::MostRepresented}}};
+    for (const auto &[known, reduction] : Names) {
+        if (name == known)
+            return reduction;
+    }
+    return std::nullopt;
+}
+
+class CoverageRaster::Parts
+{
+public:
+    Parts(GDALDatasetUniquePtr raster, std::optional<double> noData)
+        : dataset(std::move(raster))
+        , blocks(*dataset->GetRasterBand(1), noData)
+    {
+        std::array<double, 6> toPlace{};
+        isPlaced = dataset->GetGeoTransform(toPlace.data()) == CE_None &&
+                   GDALInvGeoTransform(toPlace.data(), toPixel.data());
+        if (const OGRSpatialReference *stated = dataset->GetSpatialRef()) {
+            srs = *stated;
+            srs.SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
+        }
+    }
+
+    /// The rings in pixels; false where a place is none.
+    bool take(std::span<const Ring> places)
+    {
+        rings.resize(places.size());
+        bool isFinite = true;
+        for (std::size_t i = 0; i < places.size(); ++i) {
+            rings[i].clear();
+            for (const Place &place : places[i]) {
+                const Place pixel{toPixel[0] + toPixel[1] * place.x + toPixel[2] * place.y,
+                                  toPixel[3] + toPixel[4] * place.x + toPixel[5] * place.y};
+                isFinite = isFinite && std::isfinite(pixel.x) && std::isfinite(pixel.y);
+                rings[i].push_back(pixel);
+            }
+        }
+        return isFinite && !rings.empty() && !rings.front().empty();
+    }
+
+    void addMiddle(ValueReducer &reducer)
+    {
+        const Place middle = middleOf(rings.front());
+        if (!(middle.x >= 0 && middle.x < blocks.columns() && middle.y >= 0 &&
+              middle.y < blocks.rows()))
+            return;
+        const int column = static_cast<int>(middle.x);
+        blocks.read(static_cast<int>(middle.y), column, column + 1,
+                    [&](std::span<const double> values) { reducer.add(values); });
+    }
+
+    GDALDatasetUniquePtr dataset;
+    RasterBlocks blocks;
+    OGRSpatialReference srs;
+    bool isPlaced = false;
+    std::array<double, 6> toPixel{};
+    std::vector<std::vector<Place>> rings; ///< of the building at hand, in pixels
+    RowRuns runs;
+};
+
+CoverageRaster::CoverageRaster(std::unique_ptr<Parts> parts) : m_parts(std::move(parts)) {}
+
+CoverageRaster::~CoverageRaster() = default;
+
+std::unique_ptr<CoverageRaster> CoverageRaster::open(const std::string &path,
+                                                     const std::string &noData, std::string *reason)
+{
+    const CPLErrorHandlerPusher quiet(CPLQuietErrorHandler);
+    const localfiles::NoNetwork offline;
+    const std::optional<double> typed = numberOf(noData);
+    std::string why;
+    GDALDatasetUniquePtr dataset = openLocalRaster(path, &why);
+    if (dataset && dataset->GetRasterCount() != 1)
+        why = "it has not one band";
+    else if (dataset && GDALDataTypeIsComplex(dataset->GetRasterBand(1)->GetRasterDataType()))
+        why = "its values are complex numbers";
+    else if (dataset && !typed && !isEmpty(noData))
+        why = "the no-data value \"" + noData + "\" is no number";
+    if (why.empty())
+        return std::unique_ptr<CoverageRaster>(
+            new CoverageRaster(std::make_unique<Parts>(std::move(dataset), typed)));
+    if (reason)
+        *reason = why;
+    return nullptr;
+}
+
+std::optional<ValueRange> CoverageRaster::range()
+{
+    std::optional<ValueRange> range;
+    m_parts->blocks.readAll([&range](std::span<const double> values) {
+        for (const double value : values) {
+            if (std::isnan(value))
+                continue;
+            if (!range)
+                range = ValueRange{value, value};
+            range->minimum = std::min(range->minimum, value);
+            range->maximum = std::max(range->maximum, value);
+        }
+    });
+    return range;
+}
+
+const OGRSpatialReference *CoverageRaster::srs() const
+{
+    return m_parts->srs.IsEmpty() ? nullptr : &m_parts->srs;
+}
+
+bool CoverageRaster::isPlaced() const
+{
+    return m_parts->isPlaced;
+}
+
+std::optional<double> CoverageRaster::valueUnder(std::span<const Ring> rings, Reduction reduction)
+{
+    if (!m_parts->isPlaced || !m_parts->take(rings))
+        return std::nullopt;
+    ValueReducer reducer(reduction);
+    RasterBlocks &blocks = m_parts->blocks;
+    bool isWithin = false;
+    m_parts->runs.find(
+        m_parts->rings, blocks.columns(), blocks.rows(), [&](int row, int begin, int end) {
+            isWithin = true;
+            blocks.read(row, begin, end,
+                        [&](std::span<const double> values) { reducer.add(values); });
+        });
+    if (!isWithin)
+        m_parts->addMiddle(reducer);
+    return reducer.result();
+}
+
+} // namespace vlt::coverage

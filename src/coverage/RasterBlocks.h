@@ -1,0 +1,53 @@
+#pragma once
+
+#include <gdal_priv.h>
+
+#include <cstdint>
+#include <functional>
+#include <list>
+#include <optional>
+#include <span>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+namespace vlt::coverage {
+
+/// The values of a band, read in squares as they are needed; the latest are kept, 128 MiB at most.
+/// Pixels without a value, and those that cannot be read, are NaN. Not for two threads at once.
+class RasterBlocks
+{
+public:
+    /// @param band     outlives this
+    /// @param noData   the stored value of pixels without a value, besides the band's own
+    RasterBlocks(GDALRasterBand &band, std::optional<double> noData);
+
+    int columns() const { return m_band.GetXSize(); }
+    int rows() const { return m_band.GetYSize(); }
+
+    /// The values of a part of a row, with scale and offset applied, piece by piece.
+    void read(int row, int begin, int end, const std::function<void(std::span<const double>)> &use);
+
+    /// All values, piece by piece, past what is kept.
+    void readAll(const std::function<void(std::span<const double>)> &use);
+
+private:
+    struct Block
+    {
+        std::vector<double> values;
+        int width = 0;
+        std::list<std::int64_t>::iterator place;
+    };
+
+    const Block &block(int column, int row);
+    void readWindow(int left, int top, int width, int height, std::vector<double> &values);
+
+    GDALRasterBand &m_band;
+    std::vector<double> m_noData;
+    double m_scale = 1;
+    double m_offset = 0;
+    std::unordered_map<std::int64_t, Block> m_blocks;
+    std::list<std::int64_t> m_recent; ///< numbers of the blocks, the latest first
+};
+
+} // namespace vlt::coverage

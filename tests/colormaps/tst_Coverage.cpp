@@ -1,0 +1,314 @@
+#include "coverage/CoverageRaster.h"
+#include "coverage/LocalRaster.h"
+
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <array>
+#include <cmath>
+#include <functional>
+#include <limits>
+#include <map>
+#include <numeric>
+
+#include <gdal_priv.h>
+#include <ogrsf_frmts.h>
+
+using namespace Qt::StringLiterals;
+using namespace vlt::coverage;
+
+namespace {
+
+using Rings = std::vector<std::vector<Place>>;
+using Placing = std::array<double, 6>;
+
+constexpr double NaN = std::numeric_limits<double>::quiet_NaN();
+constexpr double FileNoData = -9999;
+constexpr double TypedNoData = -77;
+
+std::optional<double> valueUnder(CoverageRaster &raster, const Rings &rings, Reduction reduction)
+{
+    const std::vector<Ring> spans(rings.begin(), rings.end());
+    return raster.valueUnder(spans, reduction);
+}
+
+Rings ringsOf(const OGRPolygon &polygon)
+{
+    Rings rings;
+    for (const OGRLinearRing *ring : polygon) {
+        rings.emplace_back();
+        for (const OGRPoint &point : *ring)
+            rings.back().push_back({point.getX(), point.getY()});
+    }
+    return rings;
+}
+
+OGRGeometryUniquePtr polygonOf(const QByteArray &wkt)
+{
+    OGRGeometry *geometry = nullptr;
+    OGRGeometryFactory::createFromWkt(wkt.constData(), nullptr, &geometry);
+    return OGRGeometryUniquePtr(geometry);
+}
+
+/// Reduces values in the words of the definition.
+double reduced(const std::vector<double> &values, Reduction reduction)
+{
+    std::map<double, int> counts;
+    for (const double value : values)
+        ++counts[value];
+    if (counts.empty())
+        return NaN;
+    switch (reduction) {
+    case Reduction::Minimum:
+        return counts.begin()->first;
+    case Reduction::Maximum:
+        return counts.rbegin()->first;
+    case Reduction::Average:
+        return std::accumulate(values.begin(), values.end(), 0.0) / double(values.size());
+    case Reduction::MostRepresented:
+        break;
+    }
+    auto most = counts.begin();
+    for (auto one = counts.begin(); one != counts.end(); ++one)
+        most = one->second > most->second ? one : most;
+    return most->first;
+}
+
+} // namespace
+
+class CoverageTest : public QObject
+{
+    Q_OBJECT
+
+    QTemporaryDir m_dir;
+
+    /// A GeoTIFF of the given values, row by row from its first one.
+    std::string fileOf(const char *name, int columns, const std::vector<double> &values,
+                       const Placing &placing, int bands = 1, const char *append = "NO")
+    {
+        const std::string path = m_dir.filePath(QLatin1String(name)).toStdString();
+        const char *options[] = {"TILED=YES", "BLOCKXSIZE=64", "BLOCKYSIZE=64",
+                                 CSLTestBoolean(append) ? "APPEND_SUBDATASET=YES" : nullptr,
+                                 nullptr};
+        const int rows = int(values.size()) / columns;
+        const GDALDatasetUniquePtr made(GetGDALDriverManager()->GetDriverByName("GTiff")->Create(
+            path.c_str(), columns, rows, bands, GDT_Float32, const_cast<char **>(options)));
+        Placing copy = placing;
+        if (!made || made->SetGeoTransform(copy.data()) != CE_None)
+            qFatal("no raster");
+        GDALRasterBand &band = *made->GetRasterBand(1);
+        std::vector<double> written = values;
+        if (band.SetNoDataValue(FileNoData) != CE_None ||
+            band.RasterIO(GF_Write, 0, 0, columns, rows, written.data(), columns, rows, GDT_Float64,
+                          0, 0, nullptr) != CE_None)
+            qFatal("no values");
+        return path;
+    }
+
+private Q_SLOTS:
+    void initTestCase() { GDALAllRegister(); }
+
+    void agreesWithGeometryOverTheTown_data()
+    {
+        QTest::addColumn<Placing>("placing");
+        QTest::addColumn<int>("mode");
+        const double turn = 0.4;
+        const Placing straight{221450, 3, 0, 6758660, 0, -3};
+        const Placing rotated{221250,  3 * std::cos(turn), 3 * std::sin(turn),
+                              6758500, 3 * std::sin(turn), -3 * std::cos(turn)};
+        for (const int mode : {0, 1, 2, 3}) {
+            QTest::addRow("straight %d", mode) << straight << mode;
+            QTest::addRow("rotated %d", mode) << rotated << mode;
+        }
+    }
+
+    /// Against the geometry library's point in polygon for every pixel of the raster.
+    void agreesWithGeometryOverTheTown()
+    {
+        QFETCH(const Placing, placing);
+        QFETCH(const int, mode);
+        const auto reduction = static_cast<Reduction>(mode);
+        constexpr int Columns = 420;
+        constexpr int Rows = 400;
+        std::vector<double> values;
+        for (int i = 0; i < Columns * Rows; ++i) {
+            const int noise = (i * 7919) % 17;
+            values.push_back(noise == 0   ? FileNoData
+                             : noise == 1 ? TypedNoData
+                                          : std::round(-60 - i % Columns / 40.0 - noise / 4.0));
+        }
+        const auto raster =
+            CoverageRaster::open(fileOf("town.tif", Columns, values, placing), "-77", nullptr);
+        QVERIFY(raster);
+        const GDALDatasetUniquePtr town(GDALDataset::Open(VLT_TOWN, GDAL_OF_VECTOR));
+        QVERIFY(town);
+
+        int compared = 0;
+        int pixels = 0;
+        for (const OGRFeatureUniquePtr &feature : *town->GetLayer(0)) {
+            const OGRGeometry *shape = feature->GetGeometryRef();
+            if (wkbFlatten(shape->getGeometryType()) != wkbPolygon || compared == 50)
+                continue;
+            OGREnvelope envelope;
+            shape->getEnvelope(&envelope);
+            std::vector<double> within;
+            for (int i = 0; i < Columns * Rows; ++i) {
+                const double c = i % Columns + 0.5;
+                const double r = i / Columns + 0.5;
+                const double x = placing[0] + c * placing[1] + r * placing[2];
+                const double y = placing[3] + c * placing[4] + r * placing[5];
+                if (x < envelope.MinX || x > envelope.MaxX || y < envelope.MinY ||
+                    y > envelope.MaxY)
+                    continue;
+                const OGRPoint centre(x, y);
+                const double value = values[std::size_t(i)];
+                if (shape->Contains(&centre) && value != FileNoData && value != TypedNoData)
+                    within.push_back(value);
+            }
+            if (within.empty())
+                continue;
+            const auto found = valueUnder(*raster, ringsOf(*shape->toPolygon()), reduction);
+            QVERIFY(found);
+            QCOMPARE(*found, reduced(within, reduction));
+            ++compared;
+            pixels += int(within.size());
+        }
+        QCOMPARE(compared, 50);
+        QVERIFY(pixels > 500);
+    }
+
+    void takesTheRightPixels_data()
+    {
+        // 10 20 30 40
+        // 50 60 no 80   pixels of 10 by 10, from (0, 30) to (40, 0)
+        // 90 60 77 30
+        QTest::addColumn<QByteArray>("wkt");
+        QTest::addColumn<int>("mode");
+        QTest::addColumn<double>("expected");
+        QTest::newRow("smaller than a pixel: that under its middle")
+            << QByteArray("POLYGON((11 21,13 21,13 23,11 23))") << 0 << 20.;
+        QTest::newRow("the middle of an L, which is not that of its box")
+            << QByteArray("POLYGON((16 11,24 11,24 12,17 12,17 14,16 14))") << 0 << 60.;
+        QTest::newRow("outside") << QByteArray("POLYGON((-20 0,-10 0,-10 10))") << 0 << NaN;
+        QTest::newRow("partly outside") << QByteArray("POLYGON((-9 1,9 1,9 99,-9 99))") << 2 << 50.;
+        QTest::newRow("only what has no value")
+            << QByteArray("POLYGON((20 0,30 0,30 20,20 20))") << 1 << NaN;
+        QTest::newRow("no-data left out of the average: (60 + 80) / 2")
+            << QByteArray("POLYGON((10 10,40 10,40 20,10 20,10 10))") << 2 << 70.;
+        QTest::newRow("hole") << QByteArray(
+                                     "POLYGON((0 0,20 0,20 30,0 30),(1 11,19 11,19 19,1 19))")
+                              << 2 << 45.;
+        QTest::newRow("most represented")
+            << QByteArray("POLYGON((0 0,20 0,20 30,0 30))") << 3 << 60.;
+        QTest::newRow("all: two values twice, the lower one")
+            << QByteArray("POLYGON((-1 -1,99 -1,99 99,-1 99))") << 3 << 30.;
+        QTest::newRow("a place that is none")
+            << QByteArray("POLYGON((0 0,40 0,1e400 30,0 30))") << 0 << NaN;
+    }
+
+    void takesTheRightPixels()
+    {
+        QFETCH(const QByteArray, wkt);
+        QFETCH(const int, mode);
+        QFETCH(const double, expected);
+        const std::string path =
+            fileOf("few.tif", 4, {10, 20, 30, 40, 50, 60, FileNoData, 80, 90, 60, TypedNoData, 30},
+                   {0, 10, 0, 30, 0, -10});
+        const auto raster = CoverageRaster::open(path, " -77 ", nullptr);
+        QVERIFY(raster);
+        const OGRGeometryUniquePtr shape = polygonOf(wkt);
+        QVERIFY(shape);
+
+        QCOMPARE(valueUnder(*raster, ringsOf(*shape->toPolygon()), static_cast<Reduction>(mode))
+                     .value_or(NaN),
+                 expected);
+    }
+
+    void scalesValuesAndFindsTheirRange()
+    {
+        const double endless = std::numeric_limits<double>::infinity();
+        const std::string path =
+            fileOf("scaled.tif", 3, {1, NaN, 7, FileNoData, endless, -77}, {0, 1, 0, 2, 0, -1});
+        {
+            const GDALDatasetUniquePtr file(
+                GDALDataset::Open(path.c_str(), GDAL_OF_RASTER | GDAL_OF_UPDATE));
+            file->GetRasterBand(1)->SetScale(0.5);
+            file->GetRasterBand(1)->SetOffset(-100);
+        }
+        const auto plain = CoverageRaster::open(path, "", nullptr);
+        const auto typed = CoverageRaster::open(path, "-77", nullptr);
+
+        QCOMPARE(plain->range()->minimum, -138.5);
+        QCOMPARE(typed->range()->minimum, -99.5);
+        QCOMPARE(typed->range()->maximum, -96.5);
+        QCOMPARE(valueUnder(*typed, {{{0, 0}, {3, 0}, {3, 2}, {0, 2}}}, Reduction::Average), -98.);
+        QVERIFY(
+            !CoverageRaster::open(fileOf("none.tif", 1, {FileNoData}, {}), "", nullptr)->range());
+    }
+
+    void opensPartsThatAFileLists()
+    {
+        fileOf("parts.tif", 1, {1}, {0, 1, 0, 1, 0, -1});
+        fileOf("parts.tif", 1, {2}, {0, 1, 0, 1, 0, -1}, 1, "YES");
+        {
+            const GDALDatasetUniquePtr source(GDALDataset::FromHandle(
+                GDALOpen(fileOf("two.tif", 1, {2}, {}, 2).c_str(), GA_ReadOnly)));
+            const GDALDatasetUniquePtr copy(
+                GetGDALDriverManager()->GetDriverByName("netCDF")->CreateCopy(
+                    m_dir.filePath(u"parts.nc"_s).toLocal8Bit().constData(), source.get(), FALSE,
+                    nullptr, nullptr, nullptr));
+        }
+        const auto names = {"GTIFF_DIR:2:parts.tif", "GTIFF_DIR:2:./parts.tif",
+                            "NETCDF:\"parts.nc\":Band1"};
+        for (const std::string name : names) {
+            const std::string located =
+                locateRaster(name, {"/nowhere", m_dir.path().toStdString()});
+            const auto raster = CoverageRaster::open(located, "", nullptr);
+            QVERIFY2(raster, located.c_str());
+            QCOMPARE(raster->range()->minimum, 2.);
+        }
+    }
+
+    void refusesOthers_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("noData");
+        QTest::addColumn<QString>("reason");
+        QTest::newRow("bands") << u"three.tif"_s << QString() << u"it has not one band"_s;
+        QTest::newRow("no number")
+            << u"one.tif"_s << u"-1,5"_s << u"the no-data value \"-1,5\" is no number"_s;
+        QTest::newRow("absent") << u"absent.tif"_s << QString() << u"no local file has this name"_s;
+        QTest::newRow("part that is none")
+            << u"GTIFF_DIR:1:one.tif"_s << QString() << u"no local file has this name"_s;
+        QTest::newRow("memory") << u"/vsimem/one.tif"_s << QString()
+                                << u"no local file has this name"_s;
+        QTest::newRow("network") << u"/vsicurl/http://localhost/one.tif"_s << QString()
+                                 << u"no local file has this name"_s;
+        QTest::newRow("source elsewhere")
+            << u"source.vrt"_s << QString() << u"not recognized as a supported file format"_s;
+    }
+
+    void refusesOthers()
+    {
+        QFETCH(const QString, name);
+        QFETCH(const QString, noData);
+        QFETCH(const QString, reason);
+        const std::string path = fileOf("one.tif", 1, {1}, {});
+        fileOf("three.tif", 1, {1}, {}, 3);
+        QFile vrt(m_dir.filePath(u"source.vrt"_s));
+        QVERIFY(vrt.open(QIODevice::WriteOnly) && vrt.write("<VRTDataset/>") > 0);
+        vrt.close();
+        GDALDriver *tiff = GetGDALDriverManager()->GetDriverByName("GTiff");
+        QVERIFY(tiff->CopyFiles("/vsimem/one.tif", path.c_str()) == CE_None);
+
+        std::string why;
+        const std::string located = locateRaster(name.toStdString(), {m_dir.path().toStdString()});
+        QVERIFY(!CoverageRaster::open(located, noData.toStdString(), &why));
+        QVERIFY2(QString::fromStdString(why).contains(reason), why.c_str());
+    }
+};
+
+Q_DECLARE_METATYPE(Placing)
+
+QTEST_GUILESS_MAIN(CoverageTest)
+#include "tst_Coverage.moc"

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QtTest>
+
+#include <array>
+#include <initializer_list>
+#include <string>
+#include <variant>
+
+/// What the tests of queries share.
+namespace querytest {
+
+inline std::string replaced(std::string text, const std::string &what, const std::string &with)
+{
+    const std::size_t at = text.find(what);
+    return at == std::string::npos ? text : text.replace(at, what.size(), with);
+}
+
+/// Rows: a part of a good query, what stands there instead, a part of what is told then.
+inline void addRefusals(std::initializer_list<std::array<const char *, 3>> rows)
+{
+    QTest::addColumn<QByteArray>("what");
+    QTest::addColumn<QByteArray>("with");
+    QTest::addColumn<QByteArray>("told");
+    for (const auto &[what, with, told] : rows)
+        QTest::newRow(told) << QByteArray(what) << QByteArray(with) << QByteArray(told);
+}
+
+/// Compares the current row with what becomes of the good query.
+///
+/// @param parse  gives a value or, as text, what is wrong
+template<typename Parse>
+void compareRefusal(const std::string &query, Parse parse)
+{
+    QFETCH(QByteArray, what);
+    QFETCH(QByteArray, with);
+    QFETCH(QByteArray, told);
+
+    const auto read = parse(replaced(query, what.toStdString(), with.toStdString()));
+
+    QVERIFY(std::holds_alternative<std::string>(read));
+    const std::string text = std::get<std::string>(read);
+    QVERIFY2(text.find(told.toStdString()) != std::string::npos, text.c_str());
+}
+
+} // namespace querytest

@@ -1,0 +1,525 @@
+#include "LayerScenes.h"
+#include "buildings/BuildingScene.h"
+#include "connection/ReaderOptions.h"
+#include "layers/BadLayer.h"
+
+#include <osg/Geometry>
+
+#include <ogrsf_frmts.h>
+
+#include <QTemporaryDir>
+
+#include <cmath>
+
+using namespace vlt;
+using namespace vlt::scene;
+using layertest::write;
+
+namespace {
+
+constexpr double East = 650000;
+constexpr double North = 6860000;
+
+struct Feature
+{
+    QByteArray wkt;    ///< metres from East, North
+    QByteArray height; ///< as text; "null" for none
+};
+using Features = QList<Feature>;
+
+const QByteArray Square = "POLYGON((0 0,10 0,10 10,0 10,0 0))";
+
+/// Moves points to East, North.
+struct Mover : OGRCoordinateTransformation
+{
+    OGRSpatialReference *GetSourceCS() override { return nullptr; }
+    OGRSpatialReference *GetTargetCS() override { return nullptr; }
+    int Transform(int count, double *x, double *y, double *, double *, int *done) override
+    {
+        for (int i = 0; i < count; ++i) {
+            x[i] += East;
+            y[i] += North;
+            if (done)
+                done[i] = 1;
+        }
+        return 1;
+    }
+    OGRCoordinateTransformation *Clone() const override { return new Mover; }
+    OGRCoordinateTransformation *GetInverse() const override { return nullptr; }
+};
+
+/// A file of footprints with the field "Height".
+void makeFootprints(const QString &path, const Features &features, OGRFieldType type = OFTReal,
+                    const char *format = "GPKG")
+{
+    GDALAllRegister();
+    GDALDriver *driver = GetGDALDriverManager()->GetDriverByName(format);
+    driver->QuietDelete(path.toUtf8());
+    const GDALDatasetUniquePtr dataset(
+        driver->Create(path.toUtf8(), 0, 0, 0, GDT_Unknown, nullptr));
+    QVERIFY(dataset);
+    OGRSpatialReference srs;
+    srs.importFromEPSG(2154);
+    OGRLayer *layer = dataset->CreateLayer("Town", &srs, wkbUnknown);
+    OGRFieldDefn other("Other", OFTString);
+    OGRFieldDefn height("Height", type);
+    layer->CreateField(&other);
+    layer->CreateField(&height);
+    for (const Feature &given : features) {
+        OGRFeature feature(layer->GetLayerDefn());
+        if (given.height != "null")
+            feature.SetField(1, given.height.constData());
+        OGRGeometry *shape = nullptr;
+        if (!given.wkt.isEmpty())
+            QCOMPARE(OGRGeometryFactory::createFromWkt(given.wkt, nullptr, &shape), OGRERR_NONE);
+        Mover mover;
+        if (shape)
+            QCOMPARE(shape->transform(&mover), OGRERR_NONE);
+        feature.SetGeometryDirectly(shape);
+        QCOMPARE(layer->CreateFeature(&feature), OGRERR_NONE);
+    }
+}
+
+QByteArray document(const QByteArray &file = "town.gpkg", const QByteArray &more = {},
+                    const QByteArray &terrain = {}, const QByteArray &noData = {})
+{
+    return "<veltaroTexturedBuildings cache=\"none\"><vector filename=\"" + file +
+           "\" layer=\"Town\" hfield=\"Height\" wallColor=\"#808080\" " + more +
+           " /><elevation source=\"dtm\" filename=\"" + terrain + "\" nodata=\"" + noData +
+           "\" /></veltaroTexturedBuildings>";
+}
+
+/// What a scene draws from near by, in its frame.
+struct Drawn : osg::NodeVisitor
+{
+    Drawn() : osg::NodeVisitor(CULL_VISITOR, TRAVERSE_ALL_CHILDREN) {}
+
+    void apply(osg::LOD &lod) override
+    {
+        const bool byPixels = lod.getRangeMode() == osg::LOD::PIXEL_SIZE_ON_SCREEN;
+        if (!byPixels)
+            farthest.push_back(lod.getMaxRange(lod.getNumRanges() - 1) - lod.getRadius());
+        for (unsigned i = byPixels ? lod.getNumChildren() - 1 : 0; i < lod.getNumChildren(); ++i)
+            lod.getChild(i)->accept(*this);
+    }
+
+    void apply(osg::MatrixTransform &transform) override
+    {
+        place += transform.getMatrix().getTrans();
+        traverse(transform);
+        place -= transform.getMatrix().getTrans();
+    }
+
+    void apply(osg::Geometry &geometry) override
+    {
+        const auto &vertices = dynamic_cast<const osg::Vec3Array &>(*geometry.getVertexArray());
+        const osg::PrimitiveSet &drawn = *geometry.getPrimitiveSet(0);
+        for (unsigned i = 0; i + 2 < drawn.getNumIndices(); i += 3) {
+            const auto at = [&](unsigned k) {
+                return osg::Vec3d(vertices.at(drawn.index(i + k))) + place;
+            };
+            const osg::Vec3d cross = (at(1) - at(0)) ^ (at(2) - at(0));
+            const bool isRoof = cross.z() > 0.9 * cross.length();
+            roofArea += isRoof ? cross.z() / 2 : 0;
+            wallFaces += isRoof ? 0 : 1;
+            if (isRoof)
+                tops.insert(at(0).z());
+            for (unsigned k = 0; k < 3; ++k)
+                bottom = std::min(bottom, at(k).z());
+        }
+    }
+
+    osg::Vec3d place;
+    double roofArea = 0;
+    int wallFaces = 0;
+    double bottom = 1e9;
+    std::set<double> tops;
+    std::vector<float> farthest;
+};
+
+} // namespace
+
+class tst_BuildingScene : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { m_notices.clear(); }
+
+    void readsShapes_data()
+    {
+        QTest::addColumn<QByteArray>("wkt");
+        QTest::addColumn<int>("walls");
+        QTest::addColumn<double>("area");
+        const QByteArray hole = "(3 3,3 7,7 7,7 3,3 3)";
+        const auto row = [](const char *name, const QByteArray &wkt, int walls, double area) {
+            QTest::newRow(name) << wkt << walls << area;
+        };
+        row("polygon", Square, 4, 100);
+        row("with heights of its points", "POLYGON Z((0 0 5,10 0 6,10 10 7,0 10 8,0 0 5))", 4, 100);
+        row("clockwise with a hole", "POLYGON((0 0,0 10,10 10,10 0,0 0)," + hole + ")", 8, 84);
+        row("two parts, one with a hole",
+            "MULTIPOLYGON(((0 0,10 0,10 10,0 10,0 0)," + hole + "),((20 0,22 0,22 2,20 2,20 0)))",
+            12, 88);
+        row("within collections",
+            "GEOMETRYCOLLECTION(POINT(1 1),GEOMETRYCOLLECTION(LINESTRING(0 0,9 9)," + Square + "))",
+            4, 100);
+        row("a part without an area", "MULTIPOLYGON(((0 0,5 0,10 0,0 0)),((0 0,4 0,4 4,0 0)))", 3,
+            8);
+        row("a hole without an area", "POLYGON((0 0,10 0,10 10,0 10,0 0),(3 3,5 5,3 3,3 3))", 4,
+            100);
+        row("points twice, open", "POLYGON((0 0,0 0,10 0,10 10,10 10,0 10,0 0,0 0))", 4, 100);
+        row("line", "LINESTRING(0 0,10 0,10 10)", 0, 0);
+        row("empty", "POLYGON EMPTY", 0, 0);
+        row("none", {}, 0, 0);
+    }
+
+    void readsShapes()
+    {
+        QFETCH(QByteArray, wkt);
+        QFETCH(int, walls);
+        QFETCH(double, area);
+        makeFootprints(path("town.gpkg"), {{wkt, "5"}});
+
+        const osg::ref_ptr<osg::Group> scene = read(document());
+
+        Drawn drawn;
+        scene->accept(drawn);
+        QCOMPARE(drawn.wallFaces, 2 * walls);
+        QVERIFY2(std::abs(drawn.roofArea - area) < 1e-3, QByteArray::number(drawn.roofArea));
+        QCOMPARE(m_opened.fact("buildings"), std::string(walls > 0 ? "1" : "0"));
+        QCOMPARE(m_opened.fact("leftOut"), std::string(walls > 0 ? "0" : "1"));
+        QCOMPARE(told("no polygon with an area"), walls == 0);
+    }
+
+    void curvesBecomeLines()
+    {
+        makeFootprints(path("town.gpkg"), {{"CURVEPOLYGON(CIRCULARSTRING(0 0,20 0,0 0))", "5"}});
+
+        Drawn drawn;
+        read(document())->accept(drawn);
+
+        QVERIFY(drawn.wallFaces >= 2 * 60);
+        QVERIFY(std::abs(drawn.roofArea - 100 * M_PI) < 1);
+    }
+
+    void readsHeights_data()
+    {
+        QTest::addColumn<int>("type");
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<double>("height"); ///< 0: left out
+        QTest::addColumn<QByteArray>("notice");
+        const auto row = [](const char *name, OGRFieldType type, const QByteArray &text,
+                            double height, const QByteArray &notice = {}) {
+            QTest::newRow(name) << int(type) << text << height << notice;
+        };
+        const QByteArray none = "1 of 2 buildings are left out: no height in the field \"height\"";
+        const QByteArray low = "1 of 2 buildings are left out: a height of zero or less";
+        row("integer", OFTInteger, "12", 12);
+        row("64 bits", OFTInteger64, "12", 12);
+        row("real", OFTReal, "12.25", 12.25);
+        row("text", OFTString, "12.25", 12.25);
+        row("decimal comma and blanks", OFTString, " 12,25 ", 12.25);
+        row("null", OFTReal, "null", 0, none);
+        row("null text", OFTString, "null", 0, none);
+        row("blank text", OFTString, "  ", 0, none);
+        row("a unit", OFTString, "12 m", 0, none);
+        row("not finite", OFTString, "inf", 0, none);
+        row("no number", OFTString, "nan", 0, none);
+        row("a mark of none", OFTReal, "3.4e38", 0, none);
+        row("a mark of none in 64 bits", OFTInteger64, "99999999999", 0, none);
+        row("negative mark of none", OFTInteger, "-9999", 0, low);
+        row("zero", OFTReal, "0", 0, low);
+    }
+
+    void readsHeights()
+    {
+        QFETCH(int, type);
+        QFETCH(QByteArray, text);
+        QFETCH(double, height);
+        QFETCH(QByteArray, notice);
+        makeFootprints(path("town.gpkg"),
+                       {{Square, "40"}, {"POLYGON((20 0,30 0,30 10,20 0))", text}},
+                       static_cast<OGRFieldType>(type));
+
+        Drawn drawn; // layer and field whatever the case
+        read(document().replace("\"Height", "\"height").replace("\"Town", "\"TOWN"))->accept(drawn);
+
+        const std::set<double> tops = height > 0 ? std::set{height, 40.0} : std::set{40.0};
+        QCOMPARE(drawn.tops, tops);
+        QCOMPARE(m_opened.fact("leftOut"), std::string(height > 0 ? "0" : "1"));
+        QVERIFY(notice.isEmpty() || told(notice));
+    }
+
+    void readsFormats_data()
+    {
+        QTest::addColumn<QByteArray>("file");
+        QTest::addColumn<QByteArray>("format");
+        QTest::newRow("GeoPackage") << QByteArray("town.gpkg") << QByteArray("GPKG");
+        QTest::newRow("GeoJSON") << QByteArray("Town.geojson") << QByteArray("GeoJSON");
+        QTest::newRow("folder of shapefiles")
+            << QByteArray("folder") << QByteArray("ESRI Shapefile");
+    }
+
+    void readsFormats()
+    {
+        QFETCH(QByteArray, file);
+        QFETCH(QByteArray, format);
+        makeFootprints(path(file), {{Square, "5"}}, OFTReal, format);
+
+        Drawn drawn;
+        read(document(file))->accept(drawn);
+
+        // GeoJSON is in degrees: the frame keeps lengths
+        QVERIFY2(std::abs(drawn.roofArea - 100) < 0.3, QByteArray::number(drawn.roofArea));
+    }
+
+    /// The terrain rises to the east by 1 in 10 from 100 m at East. A square of 10 m stands in the
+    /// mean of its corners, 0.5 m above that of its western side.
+    void standsOnTheGround_data()
+    {
+        QTest::addColumn<QByteArray>("terrain");
+        QTest::addColumn<QByteArray>("noData");
+        QTest::addColumn<double>("base");
+        QTest::addColumn<QByteArray>("notice");
+        const QByteArray zero = "the buildings stand at height 0";
+        QTest::newRow("the same system")
+            << QByteArray("dem.asc") << QByteArray() << 100.5 << QByteArray();
+        QTest::newRow("its system is not known")
+            << QByteArray("bare.asc") << QByteArray() << 100.5 << QByteArray();
+        QTest::newRow("degrees") << QByteArray("degrees.asc") << QByteArray() << 77.0
+                                 << QByteArray();
+        QTest::newRow("its western columns are typed to have none: those of 101 count")
+            << QByteArray("steps.asc") << QByteArray("-5") << 101.0 << QByteArray();
+        QTest::newRow("elsewhere")
+            << QByteArray("far.asc") << QByteArray() << 0.0 << QByteArray("they stand at height 0");
+        QTest::newRow("none") << QByteArray() << QByteArray() << 0.0 << zero;
+        QTest::newRow("no such file") << QByteArray("no.tif") << QByteArray() << 0.0 << zero;
+        QTest::newRow("no raster") << QByteArray("town.gpkg") << QByteArray() << 0.0 << zero;
+        QTest::newRow("over the network")
+            << QByteArray("/vsicurl/http://localhost:9/dem.tif") << QByteArray() << 0.0 << zero;
+    }
+
+    void standsOnTheGround()
+    {
+        QFETCH(QByteArray, terrain);
+        QFETCH(QByteArray, noData);
+        QFETCH(double, base);
+        QFETCH(QByteArray, notice);
+        makeFootprints(path("town.gpkg"), {{Square, "5"}});
+        QByteArray slope;
+        for (int row = 0; row < 10; ++row) // centres of columns: East - 45, -35, ... 45
+            slope += "95.5 96.5 97.5 98.5 99.5 100.5 101.5 102.5 103.5 104.5\n";
+        makeTerrain("dem", East - 50, North - 50, 10, slope, 2154);
+        makeTerrain("bare", East - 50, North - 50, 10, slope, 0);
+        makeTerrain("far", East + 5000, North, 10, slope, 2154);
+        // columns of 4 m from East - 8; the square's western corners are between two of -5
+        makeTerrain("steps", East - 8, North - 20, 4,
+                    QByteArray("-5 -5 -5 101 101 101 101 101 101 101\n").repeated(10), 2154);
+        makeTerrain("degrees", 2, 48, 0.1, QByteArray("77 ").repeated(100), 4326);
+
+        Drawn drawn;
+        read(document("town.gpkg", "skirtHeight=\"3\"", terrain, noData))->accept(drawn);
+
+        QCOMPARE(drawn.tops.size(), std::size_t{1});
+        QVERIFY2(std::abs(*drawn.tops.begin() - (base + 5)) < 1e-3,
+                 QByteArray::number(*drawn.tops.begin()));
+        QVERIFY(std::abs(drawn.bottom - (base - 3)) < 1e-3);
+        QCOMPARE(m_notices.empty(), notice.isEmpty());
+        QVERIFY(notice.isEmpty() || told(notice));
+    }
+
+    void buildingsBeyondTheTerrainStandOnTheLowestGround()
+    {
+        makeFootprints(path("town.gpkg"),
+                       {{Square, "5"}, {"POLYGON((9000 0,9010 0,9010 10,9000 0))", "9"}});
+        makeTerrain("flat", East - 50, North - 50, 10, QByteArray("50 ").repeated(100), 2154);
+
+        Drawn drawn;
+        read(document("town.gpkg", {}, "flat.asc"))->accept(drawn);
+
+        const std::set<double> tops = {55, 59};
+        QCOMPARE(drawn.tops, tops);
+        QVERIFY(told("1 of 2 buildings stand on the lowest ground"));
+    }
+
+    void isSeenUpToItsDistance()
+    {
+        Features features;
+        for (int i = 0; i < 20; ++i) {
+            const QByteArray x = QByteArray::number(100 * i);
+            features.append({"POLYGON((" + x + " 0," + x + " 9," + x + "5 9," + x + " 0))", "5"});
+        }
+        makeFootprints(path("town.gpkg"), features);
+
+        Drawn drawn;
+        read(document("town.gpkg", "tileSize=\"400\" extrudedVisibility=\"700\""))->accept(drawn);
+
+        QVERIFY(drawn.farthest.size() >= 5); // a kilometre and nine tenths in tiles of 400 m
+        for (const float distance : drawn.farthest)
+            QVERIFY(std::abs(distance - 700) < 0.01);
+    }
+
+    void tellsWhereItIs()
+    {
+        makeFootprints(path("town.gpkg"), {{Square, "5"}});
+
+        const osg::ref_ptr<osg::Group> scene = read(document());
+
+        QCOMPARE(m_opened.fact("centre"), std::string("650005 6860005"));
+        QCOMPARE(m_opened.fact("srs"), std::string("EPSG:2154"));
+        QVERIFY(scene->getBound().center().length() < 10);
+    }
+
+    void refusesOthers_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<QByteArray>("named");
+        QTest::newRow("no document") << QByteArray("<x/>") << QByteArray("no building document");
+        QTest::newRow("no file") << document("no.shp") << QByteArray("\"no.shp\"");
+        QTest::newRow("over the network")
+            << document("/vsicurl/http://localhost:9/a.shp") << QByteArray("/vsicurl");
+        QTest::newRow("address") << document("http://localhost:9/a") << QByteArray("http:");
+        QTest::newRow("database") << document("PG:host=localhost") << QByteArray("PG:");
+        QTest::newRow("points to elsewhere")
+            << document("town.vrt") << QByteArray("cannot be read");
+        QTest::newRow("no vector file") << document("t.texb") << QByteArray("cannot be read");
+        QTest::newRow("layer") << document().replace("Town", "City") << QByteArray("\"City\"");
+        QTest::newRow("field") << document().replace("Height", "H") << QByteArray("\"H\"");
+        QTest::newRow("field of dates") << document("dates.gpkg") << QByteArray("no numbers");
+    }
+
+    void refusesOthers()
+    {
+        QFETCH(QByteArray, text);
+        QFETCH(QByteArray, named);
+        makeFootprints(path("town.gpkg"), {{Square, "5"}});
+        makeFootprints(path("dates.gpkg"), {}, OFTDate);
+        write(path("town.vrt"),
+              "<OGRVRTDataSource><OGRVRTLayer name=\"Town\"><SrcDataSource>town.gpkg"
+              "</SrcDataSource></OGRVRTLayer></OGRVRTDataSource>");
+        write(path("t.texb"), text);
+
+        const layertest::Opened opened = layertest::open(path("t.texb"));
+
+        QVERIFY(!opened.scene);
+        QVERIFY2(QByteArray::fromStdString(opened.fault).contains(named), opened.fault.c_str());
+    }
+
+    void tellsHowFarItIsAndStops()
+    {
+        Features features;
+        for (int i = 0; i < 5000; ++i)
+            features.append({Square, "5"});
+        makeFootprints(path("town.gpkg"), features);
+        write(path("t.texb"), document());
+        struct Caller
+        {
+            std::vector<double> shares;
+            std::size_t stopAt;
+        } caller{{}, 1000000};
+        connection::ReadProgress progress{[](void *context, double share) {
+                                              auto &known = *static_cast<Caller *>(context);
+                                              known.shares.push_back(share);
+                                              return known.shares.size() < known.stopAt;
+                                          },
+                                          &caller};
+        const osg::ref_ptr<osgDB::Options> options = new osgDB::Options;
+        options->setPluginData(connection::ProgressKey, &progress);
+
+        QVERIFY(layertest::open(path("t.texb"), options).scene);
+        QVERIFY(std::is_sorted(caller.shares.begin(), caller.shares.end()));
+        QVERIFY(caller.shares.front() > 0 && caller.shares.front() < 0.5);
+        QCOMPARE(caller.shares.back(), 1.0);
+
+        const std::size_t calls = caller.shares.size();
+        for (std::size_t call = 1; call <= calls; ++call) {
+            caller = {{}, call};
+            const layertest::Opened stopped = layertest::open(path("t.texb"), options);
+            QVERIFY(!stopped.scene);
+            QCOMPARE(stopped.fault, std::string(connection::StoppedText));
+            QCOMPARE(caller.shares.size(), call);
+        }
+    }
+
+    void layersLeadToTheirDocument_data()
+    {
+        QTest::addColumn<QByteArray>("source");
+        QTest::addColumn<bool>("isFound");
+        QTest::newRow("absolute") << "TEXB:" + path("docs/t.texb").toUtf8() << true;
+        QTest::newRow("in the layer's folder") << QByteArray("texb:beside.texb") << true;
+        QTest::newRow("in the project's folder") << QByteArray("TEXB:docs/t.texb") << true;
+        QTest::newRow("none") << QByteArray("TEXB:no.texb") << false;
+        QTest::newRow("another source") << QByteArray("site:t.csv") << false;
+    }
+
+    void layersLeadToTheirDocument()
+    {
+        QFETCH(QByteArray, source);
+        QFETCH(bool, isFound);
+        makeFootprints(path("town.gpkg"), {{Square, "5"}});
+        write(path("docs/t.texb"), document("../town.gpkg"));
+        write(path("layers/beside.texb"), document("town.gpkg")); // beside the project
+        write(path("layers/a.lay"),
+              "<veltaroLayer kind=\"buildings\"><title>Town &amp; more</title>"
+              "<subtype>rf_roofs</subtype><source><![CDATA[" +
+                  source + "]]></source></veltaroLayer>");
+        const osg::ref_ptr<osgDB::Options> options = new osgDB::Options;
+        options->setPluginStringData(connection::ProjectKey, path("p.gvw").toStdString());
+
+        const layertest::Opened opened = layertest::open(path("layers/a.lay"), options);
+
+        QCOMPARE(opened.scene != nullptr, isFound);
+        if (isFound)
+            QCOMPARE(opened.scene->getName(), std::string("Town & more"));
+        else
+            QVERIFY(opened.fault.find(source.mid(5).toStdString()) != std::string::npos);
+    }
+
+private:
+    QString path(const QByteArray &name) const
+    {
+        return m_folder.filePath(QString::fromUtf8(name));
+    }
+
+    /// Ten by ten values from the south-west corner.
+    void makeTerrain(const QByteArray &name, double x, double y, double cell,
+                     const QByteArray &values, int epsg)
+    {
+        write(path(name + ".asc"), "ncols 10\nnrows 10\nxllcorner " +
+                                       QByteArray::number(x, 'f', 3) + "\nyllcorner " +
+                                       QByteArray::number(y, 'f', 3) + "\ncellsize " +
+                                       QByteArray::number(cell) + "\n" + values);
+        if (epsg == 0)
+            return;
+        OGRSpatialReference srs;
+        srs.importFromEPSG(epsg);
+        char *wkt = nullptr;
+        const char *const options[] = {"FORMAT=WKT1_ESRI", nullptr};
+        srs.exportToWkt(&wkt, options);
+        write(path(name + ".prj"), wkt);
+        CPLFree(wkt);
+    }
+
+    osg::ref_ptr<osg::Group> read(const QByteArray &text)
+    {
+        write(path("t.texb"), text);
+        m_opened.scene = readBuildingScene(path("t.texb").toStdString(), {}, m_notices,
+                                           [](double) { return true; });
+        return m_opened.scene;
+    }
+
+    bool told(const QByteArray &text) const
+    {
+        return std::any_of(m_notices.begin(), m_notices.end(), [&](const std::string &notice) {
+            return QByteArray::fromStdString(notice).contains(text);
+        });
+    }
+
+    QTemporaryDir m_folder;
+    layertest::Opened m_opened;
+    Notices m_notices;
+};
+
+QTEST_GUILESS_MAIN(tst_BuildingScene)
+#include "tst_BuildingScene.moc"

@@ -1,0 +1,345 @@
+#include "buildings/RoofTriangles.h"
+#include "buildings/TownMesh.h"
+#include "buildings/TownTree.h"
+
+#include <QtTest>
+
+#include <cmath>
+#include <map>
+#include <set>
+
+using namespace vlt::scene;
+
+namespace {
+
+using Ring = std::vector<osg::Vec2d>;
+using Rings = std::vector<Ring>;
+
+Ring square(double x, double y, double side)
+{
+    return {{x, y}, {x + side, y}, {x + side, y + side}, {x, y + side}};
+}
+
+Ring turned(Ring ring)
+{
+    std::reverse(ring.begin(), ring.end());
+    return ring;
+}
+
+/// A curve that goes round `turns` times in so many points, from 5 to 10 from its middle.
+Ring spiral(int turns, int points)
+{
+    Ring ring;
+    for (int i = 0; i < points; ++i) {
+        const double angle = 2 * M_PI * turns * i / points;
+        const double radius = turns == 1 ? 10 : 7.5 + 2.5 * std::cos(angle / 2);
+        ring.emplace_back(radius * std::cos(angle), radius * std::sin(angle));
+    }
+    return ring;
+}
+
+const Ring Ell = {{0, 0}, {10, 0}, {10, 5}, {5, 5}, {5, 10}, {0, 10}};
+const Ring BowTie = {{0, 0}, {10, 10}, {10, 0}, {0, 10}};
+
+/// Adds a building; rings but the first are holes, except for those in `outer`.
+void add(Town &town, const Rings &rings, float heightM = 12,
+         const std::set<std::size_t> &outer = {})
+{
+    Footprints &shapes = town.footprints;
+    const auto begin = static_cast<std::uint32_t>(shapes.rings.size());
+    for (std::size_t i = 0; i < rings.size(); ++i) {
+        const auto first = static_cast<std::uint32_t>(shapes.places.size());
+        shapes.places.insert(shapes.places.end(), rings[i].begin(), rings[i].end());
+        shapes.rings.push_back(
+            {first, static_cast<std::uint32_t>(shapes.places.size()), i > 0 && !outer.contains(i)});
+    }
+    shapes.buildings.push_back({begin, static_cast<std::uint32_t>(shapes.rings.size()), heightM});
+    town.places = shapes.places;
+    town.baseM.push_back(30);
+    town.wallColors.push_back({10, 20, 30, 0});
+    town.roofColors.push_back({200, 100, 50, 255});
+}
+
+bool isInside(const Rings &rings, double x, double y)
+{
+    bool inside = false;
+    for (const Ring &ring : rings) {
+        for (std::size_t i = 0, j = ring.size() - 1; i < ring.size(); j = i++) {
+            if ((ring[i].y() > y) != (ring[j].y() > y) &&
+                x < ring[i].x() + (ring[j].x() - ring[i].x()) * (y - ring[i].y()) /
+                                      (ring[j].y() - ring[i].y()))
+                inside = !inside;
+        }
+    }
+    return inside;
+}
+
+struct Face
+{
+    osg::Vec3d a, b, c;
+    osg::Vec3d told; ///< normal of the last vertex
+    osg::Vec4ub color;
+    osg::Vec3d cross() const { return (b - a) ^ (c - a); }
+    double area() const { return cross().length() / 2; }
+    osg::Vec3d normal() const { return cross() / cross().length(); }
+    osg::Vec3d middle() const { return (a + b + c) / 3; }
+    bool isRoof() const { return normal().z() > 0.5; }
+};
+
+std::vector<Face> facesOf(const TownMesh &mesh)
+{
+    std::vector<Face> faces;
+    const auto &indices = mesh.indices();
+    for (std::size_t i = 0; i + 2 < indices.size(); i += 3) {
+        const osg::Vec3s normal = mesh.normals().at(indices[i + 2]);
+        faces.push_back({mesh.vertices().at(indices[i]), mesh.vertices().at(indices[i + 1]),
+                         mesh.vertices().at(indices[i + 2]),
+                         osg::Vec3d(normal.x(), normal.y(), normal.z()) / 32767,
+                         mesh.colors().at(indices[i + 2])});
+    }
+    return faces;
+}
+
+} // namespace
+
+class tst_BuildingSceneShapes : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void coversRoofsOnce_data()
+    {
+        QTest::addColumn<Rings>("rings");
+        QTest::addColumn<double>("area");
+        QTest::addColumn<bool>("isCrossed");
+        const auto row = [](const char *name, const Rings &rings, double area,
+                            bool crossed = false) {
+            QTest::newRow(name) << rings << area << crossed;
+        };
+        row("square", {square(0, 0, 10)}, 100);
+        row("clockwise square", {turned(square(0, 0, 10))}, 100);
+        row("L: 10 x 10 - 5 x 5", {Ell}, 75);
+        row("clockwise L", {turned(Ell)}, 75);
+        row("U: 9 x 9 - 3 x 6", {{{0, 0}, {9, 0}, {9, 9}, {6, 9}, {6, 3}, {3, 3}, {3, 9}, {0, 9}}},
+            63);
+        row("courtyard", {square(0, 0, 10), square(3, 3, 4)}, 84);
+        row("courtyard the other way", {square(0, 0, 10), turned(square(3, 3, 4))}, 84);
+        row("two courtyards", {square(0, 0, 10), square(1, 1, 2), square(6, 6, 3)}, 87);
+        row("a courtyard that touches a wall", {square(0, 0, 10), square(3, 0, 4)}, 84);
+        row("a courtyard that touches a corner", {square(0, 0, 10), {{0, 0}, {4, 2}, {2, 4}}}, 94);
+        row("points twice", {{{0, 0}, {0, 0}, {10, 0}, {10, 10}, {10, 10}, {0, 10}}}, 100);
+        row("points on a side", {{{0, 0}, {5, 0}, {10, 0}, {10, 5}, {10, 10}, {0, 10}}}, 100);
+        row("a spike", {{{0, 0}, {10, 0}, {10, 10}, {5, 10}, {5, 25}, {5, 10}, {0, 10}}}, 100);
+        row("touches itself: two squares at a corner",
+            {{{0, 0}, {5, 0}, {5, 5}, {10, 5}, {10, 10}, {5, 10}, {5, 5}, {0, 5}}}, 50);
+        row("no area", {{{0, 0}, {5, 5}, {10, 10}}}, 0);
+        row("crosses itself: two triangles of 25", {BowTie}, 50, true);
+        row("two turns, inner outside again: 1/2 of the integral of |r1^2 - r2^2| = 150",
+            {spiral(2, 400)}, 150, true);
+        row("circle of 2000 points: n/2 r^2 sin(2 pi/n)", {spiral(1, 2000)},
+            1000 * 100 * std::sin(2 * M_PI / 2000));
+        row("far from the origin", {square(1e6, 1e6, 10), square(1000003, 1000003, 4)}, 84);
+    }
+
+    void coversRoofsOnce()
+    {
+        QFETCH(Rings, rings);
+        QFETCH(double, area);
+        QFETCH(bool, isCrossed);
+        RoofTriangles roof;
+        roof.addRing(BowTie); // nothing of the one before may stay
+        roof.cut();
+        roof.clear();
+        for (const Ring &ring : rings)
+            roof.addRing(ring);
+
+        roof.cut();
+
+        double covered = 0;
+        for (const auto &[a, b, c] : roof.triangles()) {
+            const Ring corners = {roof.points().at(a), roof.points().at(b), roof.points().at(c)};
+            QVERIFY(doubledArea(corners) > 0);
+            covered += doubledArea(corners) / 2;
+            const osg::Vec2d middle = (corners[0] + corners[1] + corners[2]) / 3;
+            QVERIFY(isInside(rings, middle.x(), middle.y()));
+        }
+        QCOMPARE(roof.isCrossed(), isCrossed);
+        const double tolerance = isCrossed ? 1e-3 * area : 1e-6 * std::max(area, 1.0);
+        QVERIFY2(std::abs(covered - area) <= tolerance, QByteArray::number(covered));
+    }
+
+    void facesLookOutwards_data()
+    {
+        QTest::addColumn<Rings>("rings");
+        QTest::addColumn<bool>("isTwoParts");
+        QTest::addColumn<int>("walls");
+        QTest::addColumn<double>("roofArea");
+        const Rings court = {square(0, 0, 10), square(3, 3, 4)};
+        QTest::newRow("counter-clockwise") << Rings{Ell} << false << 6 << 75.0;
+        QTest::newRow("clockwise") << Rings{turned(Ell)} << false << 6 << 75.0;
+        QTest::newRow("courtyard, both counter-clockwise") << court << false << 8 << 84.0;
+        QTest::newRow("courtyard, against each other")
+            << Rings{court[0], turned(court[1])} << false << 8 << 84.0;
+        QTest::newRow("courtyard, both clockwise")
+            << Rings{turned(court[0]), turned(court[1])} << false << 8 << 84.0;
+        QTest::newRow("two parts") << Rings{Ell, square(20, 0, 2)} << true << 10 << 79.0;
+    }
+
+    void facesLookOutwards()
+    {
+        QFETCH(Rings, rings);
+        QFETCH(bool, isTwoParts);
+        QFETCH(int, walls);
+        QFETCH(double, roofArea);
+        Town town;
+        add(town, rings, 12, isTwoParts ? std::set<std::size_t>{1} : std::set<std::size_t>{});
+        const osg::Vec3d origin(100, -50, 7);
+        TownMesh mesh(town, origin);
+
+        mesh.addBuilding(0, 5);
+
+        double wallArea = 0;
+        double roof = 0;
+        int wallFaces = 0;
+        for (const Face &face : facesOf(mesh)) {
+            QVERIFY((face.normal() - face.told).length() < 1e-4);
+            const osg::Vec3d outside = face.middle() + origin + face.normal() * 0.01;
+            const osg::Vec3d inside = face.middle() + origin - face.normal() * 0.01;
+            QVERIFY(isInside(rings, inside.x(), inside.y()));
+            QCOMPARE(isInside(rings, outside.x(), outside.y()), face.isRoof());
+            const osg::Vec4ub color =
+                face.isRoof() ? osg::Vec4ub(200, 100, 50, 255) : osg::Vec4ub(10, 20, 30, 255);
+            QCOMPARE(face.color, color);
+            (face.isRoof() ? roof : wallArea) += face.area();
+            wallFaces += face.isRoof() ? 0 : 1;
+            for (const osg::Vec3d &corner : {face.a, face.b, face.c}) {
+                const double z = corner.z() + origin.z();
+                QVERIFY(z == 30 + 12 || (!face.isRoof() && z == 30 - 5));
+            }
+        }
+        QCOMPARE(wallFaces, 2 * walls);
+        QVERIFY(std::abs(roof - roofArea) < 1e-3);
+        double around = 0;
+        for (const Ring &ring : rings) {
+            for (std::size_t i = 0; i < ring.size(); ++i)
+                around += (ring[(i + 1) % ring.size()] - ring[i]).length();
+        }
+        QVERIFY(std::abs(wallArea - around * (12 + 5)) < 1e-2);
+    }
+
+    void noVertexBelongsToTwoFaces()
+    {
+        Town town;
+        add(town, {square(0, 0, 10), square(3, 3, 4)});
+        TownMesh mesh(town, {});
+
+        mesh.addBuilding(0, 0);
+
+        std::map<std::uint32_t, osg::Vec3d> planes;
+        const std::vector<Face> faces = facesOf(mesh);
+        for (std::size_t i = 0; i < mesh.indices().size(); ++i) {
+            const auto [known, isNew] = planes.emplace(mesh.indices()[i], faces[i / 3].normal());
+            QVERIFY((known->second - faces[i / 3].normal()).length() < 1e-6);
+        }
+    }
+
+    void crossedOutlinesHaveWallsOnBothSides()
+    {
+        Town town;
+        add(town, {BowTie});
+        TownMesh mesh(town, {});
+
+        mesh.addBuilding(0, 0);
+
+        std::size_t walls = 0;
+        for (const Face &face : facesOf(mesh))
+            walls += face.isRoof() ? 0 : 1;
+        QCOMPARE(walls, std::size_t{16}); // four, two triangles each, on both sides
+    }
+
+    void boxesKeepAreaHeightAndLight()
+    {
+        Town town;
+        add(town, {Ell, square(1, 1, 2)}); // 75 - 4
+        add(town, {{{0, 0}, {5, 5}, {10, 10}}});
+        TownMesh mesh(town, {});
+
+        mesh.addBoxes(0);
+
+        QCOMPARE(mesh.vertices().size(), std::size_t{8});
+        double roof = 0;
+        for (const Face &face : facesOf(mesh)) {
+            QVERIFY((face.normal() - face.told).length() < 1e-4);
+            QVERIFY(face.normal() * (face.middle() - osg::Vec3d(5, 5, 36)) > 0);
+            roof += face.isRoof() ? face.area() : 0;
+        }
+        QVERIFY(std::abs(roof - 71) < 1e-3);
+        mesh.addBoxes(1); // a line: no area, but numbers
+        for (const osg::Vec3 &vertex : mesh.vertices())
+            QVERIFY(vertex.valid());
+    }
+
+    void tilesHoldEachBuildingOnce_data()
+    {
+        QTest::addColumn<double>("tileSize");
+        QTest::addColumn<double>("widest"); ///< distance of two buildings in one tile
+        QTest::newRow("250 m") << 250.0 << 250.0;
+        QTest::newRow("as large as can be: quartered where there are many") << 1e300 << 3200.0;
+        QTest::newRow("small ones: doubled until they are few enough") << 1e-3 << 64.0;
+    }
+
+    void tilesHoldEachBuildingOnce()
+    {
+        QFETCH(double, tileSize);
+        QFETCH(double, widest);
+        constexpr int Side = 160;
+        Town town;
+        Footprints &shapes = town.footprints;
+        for (std::uint32_t i = 0; i < Side * Side; ++i) {
+            const std::uint32_t row = i / Side;
+            for (const osg::Vec2d &place : square(20.0 * (i % Side), 20.0 * row, 8))
+                shapes.places.push_back(place);
+            shapes.rings.push_back({4 * i, 4 * i + 4, false});
+            shapes.buildings.push_back({i, i + 1, 10});
+        }
+        town.places = shapes.places;
+        town.baseM.assign(shapes.buildings.size(), 0);
+
+        const TownTiles tiles = growTownTree(town, tileSize);
+
+        std::vector<const TownTree *> left = {tiles.root.get()};
+        std::vector<int> found(shapes.buildings.size());
+        std::size_t tileCount = 0;
+        while (!left.empty()) {
+            const TownTree &tree = *left.back();
+            left.pop_back();
+            for (const auto &branch : tree.branches)
+                left.push_back(branch.get());
+            if (!tree.isTile())
+                continue;
+            ++tileCount;
+            QVERIFY(tree.buildings.size() <= MostBuildingsPerTile);
+            for (const std::uint32_t building : tree.buildings)
+                ++found[building];
+            QVERIFY(tree.bound.xMax() - tree.bound.xMin() - 8 <= widest);
+            QVERIFY(tree.bound.yMax() - tree.bound.yMin() - 8 <= widest);
+        }
+        QVERIFY(std::all_of(found.begin(), found.end(), [](int times) { return times == 1; }));
+        QVERIFY(tileCount <= MostTiles);
+    }
+
+    void aTownMayBeEmptyOrOnePlace()
+    {
+        Town town;
+        QVERIFY(!growTownTree(town, 250).root);
+
+        for (int i = 0; i < 3000; ++i)
+            add(town, {square(0, 0, 10)});
+        const TownTiles tiles = growTownTree(town, 250);
+        QVERIFY(tiles.root->isTile());
+        QCOMPARE(tiles.root->buildings.size(), std::size_t{3000});
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_BuildingSceneShapes)
+#include "tst_BuildingSceneShapes.moc"

@@ -1,0 +1,244 @@
+#include "buildings/ColorSpecification.h"
+#include "buildings/TownColors.h"
+
+#include <gdal_priv.h>
+
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <array>
+
+namespace {
+
+using namespace vlt::scene;
+using vlt::colormaps::Interpretation;
+using vlt::colormaps::Rgba;
+using vlt::coverage::Reduction;
+
+const QString Grey = QStringLiteral("c8c8c8"); ///< of what has no colour of its own
+
+/// Triangles about the middles of pixels of 10 by 10, the list from east to west.
+Town townOf(int buildings)
+{
+    Town town;
+    for (int i = 0; i < buildings; ++i) {
+        const double x = 10 * (buildings - 1 - i);
+        const auto begin = static_cast<std::uint32_t>(town.footprints.places.size());
+        for (const auto &[dx, dy] : {std::pair(2, 2), std::pair(8, 2), std::pair(5, 9)})
+            town.footprints.places.emplace_back(x + dx, dy);
+        const auto ring = static_cast<std::uint32_t>(town.footprints.rings.size());
+        town.footprints.rings.push_back({begin, begin + 3, false});
+        town.footprints.buildings.push_back({ring, ring + 1, 10});
+    }
+    return town;
+}
+
+QString hex(const std::vector<Rgba> &colors)
+{
+    QStringList texts;
+    for (const Rgba &color : colors)
+        texts << QStringLiteral("%1").arg(color.red << 16 | color.green << 8 | color.blue, 6, 16,
+                                          QLatin1Char('0'));
+    return texts.join(QLatin1Char(' '));
+}
+
+} // namespace
+
+class TownColorsTest : public QObject
+{
+    Q_OBJECT
+
+    QTemporaryDir m_dir;
+
+    void write(const char *name, const QByteArray &content)
+    {
+        QFile file(m_dir.filePath(QLatin1String(name)));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QCOMPARE(file.write(content), content.size());
+    }
+
+    /// Pixels of 10 by 10 in one row, the last one without a value.
+    void writeRaster(const char *name, std::vector<float> values, double left, double bottom,
+                     const char *system)
+    {
+        const int columns = int(values.size());
+        const GDALDatasetUniquePtr made(GetGDALDriverManager()->GetDriverByName("GTiff")->Create(
+            m_dir.filePath(QLatin1String(name)).toLocal8Bit().constData(), columns, 1, 1,
+            GDT_Float32, nullptr));
+        std::array<double, 6> placing{left, 10, 0, bottom + 10, 0, -10};
+        OGRSpatialReference srs;
+        QVERIFY(made && made->SetGeoTransform(placing.data()) == CE_None);
+        if (system)
+            QVERIFY(srs.SetFromUserInput(system) == OGRERR_NONE &&
+                    made->SetSpatialRef(&srs) == CE_None);
+        QVERIFY(made->GetRasterBand(1)->RasterIO(GF_Write, 0, 0, columns, 1, values.data(), columns,
+                                                 1, GDT_Float32, 0, 0, nullptr) == CE_None);
+    }
+
+    QString colorsOf(const Town &town, const QByteArray &specification, Notices &notices)
+    {
+        const std::vector<std::string> directories = {"/nowhere", m_dir.path().toStdString()};
+        return hex(townColors(town, specification.toStdString(), directories, notices, {}));
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        GDALAllRegister();
+        write("map.txt", "nv 1 2 3\n0 0 0 0\n50 100 0 0\n100 200 0 255\n");
+        write("plain.txt", "0 0 0 0\n100 200 0 0\n");
+        write("bad.txt", "5 pink\n");
+        writeRaster("a.tif", {0, 25, 50, -99}, 0, 0, nullptr);
+        writeRaster("a;b=c.tif", {7}, 0, 0, nullptr);
+        writeRaster("lambert.tif", {0, 25, 50, -99}, 221500, 6758000, "EPSG:2154");
+        writeRaster("void.tif", {-99}, 0, 0, nullptr);
+        write("text.tif", "no image");
+    }
+
+    void parsesRasterColors_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<RasterColors>("expected");
+        const auto ranges = Interpretation::ColorRanges;
+        QTest::newRow("semicolons in the raster's name")
+            << QByteArray("IMAGE;NETCDF:\"/r/a;b.nc\":c;/m/s.txt;minimum;stretched;colorrange;1e9")
+            << RasterColors{
+                   "NETCDF:\"/r/a;b.nc\":c", "/m/s.txt", Reduction::Minimum, true, ranges, "1e9"};
+        QTest::newRow("full with no-data and a strange name")
+            << QByteArray("cmap:datasource=/r/a;nd=1.tif;nd=-32768;cmap=/m/cmap=.txt;"
+                          "stretchcmap=TRUE;interpolatecmap=FALSE;band=1;type=minimum")
+            << RasterColors{"/r/a;nd=1.tif", "/m/cmap=.txt", Reduction::Minimum, true,
+                            ranges,          "-32768"};
+    }
+
+    void parsesRasterColors()
+    {
+        QFETCH(const QByteArray, text);
+        QFETCH(const RasterColors, expected);
+
+        QVERIFY(parseRasterColors(text.toStdString()) == expected);
+    }
+
+    void colorsBuildings_data()
+    {
+        // a.tif from west to east: 0 25 50 and -99; the buildings from east to west
+        QTest::addColumn<QByteArray>("specification");
+        QTest::addColumn<QString>("colors");
+        const auto row = [](const char *name, const QByteArray &text, const char *colors) {
+            QTest::newRow(name) << text << QString::fromLatin1(colors);
+        };
+        row("plain", "#1a2B3c", "1a2b3c 1a2b3c 1a2b3c 1a2b3c");
+        row("none", "", "c8c8c8 c8c8c8 c8c8c8 c8c8c8");
+        row("absolute, mixed: 25 is half of 100,0,0",
+            "IMAGE;a.tif;map.txt;average;absolute;interpolation;-99",
+            "010203 640000 320000 000000");
+        row("absolute, ranges", "IMAGE;a.tif;map.txt;average;absolute;colorrange;-99",
+            "010203 640000 000000 000000");
+        row("stretched over 0 .. 50: 25 is 50",
+            "IMAGE;a.tif;map.txt;average;stretched;interpolation;-99",
+            "010203 c800ff 640000 000000");
+        row("full",
+            "cmap:datasource=a.tif;nd=-99;cmap=map.txt;stretchcmap=TRUE;"
+            "interpolatecmap=TRUE;band=1;type=minimum",
+            "010203 c800ff 640000 000000");
+        row("no-data is a value where nobody says so",
+            "IMAGE;a.tif;plain.txt;average;absolute;interpolation", "000000 640000 320000 000000");
+        row("the map has no colour for no-data",
+            "IMAGE;a.tif;plain.txt;average;absolute;interpolation;-99",
+            "c8c8c8 640000 320000 000000");
+        row("semicolon", "IMAGE;a;b=c.tif;plain.txt;average;absolute;interpolation",
+            "c8c8c8 c8c8c8 c8c8c8 0e0000");
+    }
+
+    void colorsBuildings()
+    {
+        QFETCH(const QByteArray, specification);
+        QFETCH(const QString, colors);
+        Notices notices;
+
+        QCOMPARE(colorsOf(townOf(4), specification, notices), colors);
+        const auto grey = colors.count(Grey) % 4; // not those of the plain colour
+        const bool isPartial = grey > 0 || colors.contains(QStringLiteral("010203"));
+        QCOMPARE(notices.size(), isPartial ? 1U : 0U);
+        if (isPartial)
+            QVERIFY2(notices.front().find(" of 4 buildings have no value in the raster \"a") !=
+                         std::string::npos,
+                     notices.front().c_str());
+    }
+
+    void tellsWhatCannotBeUsed_data()
+    {
+        QTest::addColumn<QByteArray>("specification");
+        QTest::addColumn<QByteArray>("notice");
+        const auto row = [](const QByteArray &text, const char *notice) {
+            QTest::newRow(text.constData()) << text << QByteArray(notice);
+        };
+        for (const char *text :
+             {"#12345", "#1234567", "#12 456", "red", "IMAGE;a.tif", "IMAGE;;;;;",
+              "IMAGE;a.tif;map.txt;mean;absolute;interpolation",
+              "IMAGE;a.tif;map.txt;average;absolute;sometimes;-99",
+              "cmap:datasource=a.tif;cmap=map.txt;stretchcmap=TRUE;interpolatecmap=TRUE;"
+              "band=2;type=minimum"})
+            row(text, "tells no colors of buildings");
+        row("IMAGE;x.tif;map.txt;average;absolute;interpolation",
+            "\"x.tif\" cannot be used for colors (no local file has this name)");
+        row("IMAGE;text.tif;map.txt;average;absolute;interpolation", "not recognized");
+        row("IMAGE;a.tif;map.txt;average;absolute;interpolation;ten", "\"ten\" is no number");
+        row("IMAGE;a.tif;x.txt;average;absolute;interpolation",
+            "the color map \"x.txt\" does not exist");
+        row("IMAGE;a.tif;bad.txt;average;absolute;interpolation",
+            "the color map \"bad.txt\" cannot be used (Unknown color : pink)");
+        row("IMAGE;void.tif;map.txt;average;stretched;interpolation;-99", "has no values");
+    }
+
+    void tellsWhatCannotBeUsed()
+    {
+        QFETCH(const QByteArray, specification);
+        QFETCH(const QByteArray, notice);
+        Notices notices;
+
+        QCOMPARE(colorsOf(townOf(2), specification, notices), Grey + u' ' + Grey);
+        QCOMPARE(notices.size(), 1U);
+        QVERIFY2(notices.front().find(notice.toStdString()) != std::string::npos,
+                 notices.front().c_str());
+    }
+
+    void transformsPlaces()
+    {
+        // 221505, 221515 and 221525 by 6758005, as gdaltransform tells them
+        constexpr std::array<std::pair<double, double>, 3> Middles = {
+            {{-3.3925193, 47.7480247}, {-3.3923863, 47.7480320}, {-3.3922533, 47.7480393}}};
+        Town town = townOf(3);
+        for (std::size_t i = 0; i < town.footprints.places.size(); ++i) {
+            const auto &[x, y] = Middles[2 - i / 3];
+            town.footprints.places[i] = {x + (i % 3 == 1 ? 2e-5 : 0), y + (i % 3 == 2 ? 2e-5 : 0)};
+        }
+        town.srs = SRS_WKT_WGS84_LAT_LONG;
+        Notices notices;
+
+        QCOMPARE(
+            colorsOf(town, "IMAGE;lambert.tif;map.txt;average;absolute;interpolation;-99", notices),
+            QStringLiteral("640000 320000 000000"));
+        QVERIFY(notices.empty());
+    }
+
+    void stops()
+    {
+        Notices notices;
+        double share = -1;
+        const Progress stop = [&share](double done) {
+            share = done;
+            return false;
+        };
+
+        QVERIFY(townColors(townOf(3), "IMAGE;a.tif;map.txt;average;absolute;interpolation;-99",
+                           {m_dir.path().toStdString()}, notices, stop)
+                    .empty());
+        QVERIFY(share >= 0 && share <= 1);
+    }
+};
+
+Q_DECLARE_METATYPE(RasterColors)
+
+QTEST_GUILESS_MAIN(TownColorsTest)
+#include "tst_TownColors.moc"
