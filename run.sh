@@ -6,8 +6,8 @@ source tools/prepare.sh
 
 usage="usage: ./run.sh [--layers]
 Installs what is missing, builds, lays the installation tree in build/install and opens the wizard on the sample
-project. With --layers, or where there is no display, it makes the sample project's site and link layers and pictures of them
-with vltlayers instead.
+project. With --layers, or where there is no display, it makes the sample project's layers of sites, links and buildings and pictures
+of them with vltlayers instead.
 A second run takes seconds."
 
 onlyLayers=
@@ -41,19 +41,29 @@ onDisplay() {
     if [[ -n ${DISPLAY:-} ]]; then "$@"; else xvfb-run -a -s "-screen 0 1280x960x24 +extension GLX" "$@"; fi
 }
 
+# Makes a layer and its picture: name of the files, then the command and what it takes.
+makeLayer() {
+    local name=$layers/$1
+    shift
+    "$install/vltlayers" "$@" --project "$samples/city.gvw" -o "$name.lay" --quiet
+    onDisplay "$install/vltlayers" snapshot "$name.lay" --project "$samples/city.gvw" -o "$name.png" --quiet
+    echo "Layer made: $name.lay, picture: $name.png"
+}
+
 makeLayers() {
-    local layers=$PWD/build/layers table name kind
+    local layers=$PWD/build/layers table kind
     mkdir -p "$layers"
     "$install/vltlayers" info "$samples/sites.csv" --project "$samples/city.gvw"
     echo
     for table in sites.csv sites_asset.xlsx sites_atoll.csv sites_mentum.xls links.csv links_miles.xlsx; do
-        name=$layers/${table%.*}
         kind=site
         [[ $table != link* ]] || kind=link
-        "$install/vltlayers" "$kind" "$samples/$table" --project "$samples/city.gvw" -o "$name.lay" --quiet
-        onDisplay "$install/vltlayers" snapshot "$name.lay" --project "$samples/city.gvw" -o "$name.png" --quiet
-        echo "Layer made: $name.lay, picture: $name.png"
+        makeLayer "${table%.*}" "$kind" "$samples/$table"
     done
+    makeLayer buildings_colored buildings --image "$samples/coverage/signal_level_dBm.tif" --colormap signal_level_dBm \
+        --absolute --mode average
+    makeLayer buildings_textured buildings --textures "$samples/textures/same_folder/coverage_6m.tif" --texture-on walls \
+        --textured-distance 3000 --complex-buildings
     echo
     "$install/vltlayers" link "$samples/links.csv" --project "$samples/city.gvw" --report --quiet
     echo

@@ -24,6 +24,8 @@ PIXEL_M = 5.0
 CLASSES = [(-70, (215, 48, 39)), (-80, (252, 141, 89)), (-88, (254, 224, 139)),
            (-96, (145, 207, 96)), (-104, (69, 117, 180)), (-999, (120, 120, 130))]
 
+LEAST_DBM, NO_LEVEL = -107, -9999  # of the raster of levels: weakest level that counts, no data
+
 
 @dataclass
 class Antenna:
@@ -160,15 +162,24 @@ def colour_of(dbm):
     return next(colour for least, colour in CLASSES if dbm >= least)
 
 
+def image_size():
+    """Columns, which are as many as rows, and the metres from the town's centre to an edge."""
+    half = (BLOCKS_ACROSS * (BLOCK_M + STREET_M)) / 2 + 60
+    return int(2 * half / PIXEL_M), half
+
+
+def pixel_centre(row, column, half):
+    """Metres from the town's centre; the first row is in the north."""
+    return -half + (column + 0.5) * PIXEL_M, half - (row + 0.5) * PIXEL_M
+
+
 def pixels(antennas, height_m):
     """Columns, rows, north first, and the colours."""
-    half = (BLOCKS_ACROSS * (BLOCK_M + STREET_M)) / 2 + 60
-    count = int(2 * half / PIXEL_M)
+    count, half = image_size()
     colours = bytearray()
     for row in range(count):
         for column in range(count):
-            x = -half + (column + 0.5) * PIXEL_M
-            y = half - (row + 0.5) * PIXEL_M
+            x, y = pixel_centre(row, column, half)
             colours += bytes(colour_of(signal_dbm(antennas, x, y, height_m)))
     return count, half, bytes(colours)
 
@@ -188,6 +199,26 @@ def write_image(path, antennas, height_m, *, is_page=False):
             if path.exists():
                 command += ["-co", "APPEND_SUBDATASET=YES"]
         subprocess.run([*command, str(bitmap), str(path)], check=True)
+
+
+def write_levels(path, antennas, height_m):
+    """The prediction as whole dBm in one band; what is too weak to be used has no value."""
+    count, half = image_size()
+    rows = []
+    for row in range(count):
+        levels = [signal_dbm(antennas, *pixel_centre(row, column, half), height_m)
+                  for column in range(count)]
+        rows.append(" ".join(str(round(dbm) if dbm >= LEAST_DBM else NO_LEVEL) for dbm in levels))
+    header = (f"ncols {count}\nnrows {count}\nxllcorner {CENTRE_X_M - half}\n"
+              f"yllcorner {CENTRE_Y_M + half - count * PIXEL_M}\ncellsize {PIXEL_M}\n"
+              f"NODATA_value {NO_LEVEL}\n")
+    path.parent.mkdir(parents=True, exist_ok=True)
+    with tempfile.TemporaryDirectory() as folder:
+        text = Path(folder) / "levels.asc"
+        text.write_text(header + "\n".join(rows) + "\n", encoding="ascii")
+        subprocess.run(["gdal_translate", "-q", "-ot", "Int16", "-a_srs", PROJECTED,
+                        "-co", "COMPRESS=DEFLATE", "-co", "PREDICTOR=2", str(text), str(path)],
+                       check=True)
 
 
 def write_textures(target):
@@ -211,3 +242,4 @@ def write_textures(target):
 def write_town(grid, target):
     write_buildings(make_buildings(grid), target / "vectors" / "buildings.shp")
     write_textures(target / "textures")
+    write_levels(target / "coverage" / "signal_level_dBm.tif", ANTENNAS["5G"], 1.5)

@@ -42,7 +42,8 @@ void addGlobalOptions(QCommandLineParser &parser)
          QStringLiteral("DIR")},
         {QStringLiteral("project"),
          QStringLiteral("Target project: its reference system and terrain choose the coordinate "
-                        "systems, and the layer names the table relative to it."),
+                        "systems, and the layer names the table relative to it; "
+                        "buildings: its buildings and terrain are the defaults."),
          QStringLiteral("P.gvw")},
         {QStringLiteral("language"), QStringLiteral("Language of messages and of the layer."),
          QStringLiteral("fr|en")},
@@ -54,7 +55,7 @@ void addGlobalOptions(QCommandLineParser &parser)
 }
 
 Result<GlobalOptions> parseArguments(QCommandLineParser &parser, const QStringList &arguments,
-                                     int tables)
+                                     const Inputs &inputs)
 {
     if (!parser.parse(arguments))
         return wrongUsage(parser.errorText());
@@ -76,10 +77,10 @@ Result<GlobalOptions> parseArguments(QCommandLineParser &parser, const QStringLi
         options.language != QLatin1String("en"))
         return wrongUsage(QStringLiteral("--language is fr or en"));
     const QStringList given = parser.positionalArguments();
-    if (given.size() < tables || (tables > 0 && given.first().isEmpty()))
-        return wrongUsage(QStringLiteral("no table given"));
-    if (given.size() > tables)
-        return wrongUsage(QStringLiteral("too many arguments: ") + given.at(tables));
+    if (given.size() < inputs.least || (!given.isEmpty() && given.first().isEmpty()))
+        return wrongUsage(QStringLiteral("no %1 given").arg(inputs.kind));
+    if (given.size() > inputs.most)
+        return wrongUsage(QStringLiteral("too many arguments: ") + given.at(inputs.most));
     return options;
 }
 

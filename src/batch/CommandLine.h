@@ -38,11 +38,18 @@ SplitArguments splitCommand(const QStringList &arguments);
 /// Makes the parser know the global options, --help and --version.
 void addGlobalOptions(QCommandLineParser &parser);
 
+/// What a command is given besides options.
+struct Inputs
+{
+    int least = 0;
+    int most = 0;
+    QString kind; ///< what they are called in messages: "table"
+};
+
 /// Parses the arguments and takes the global options.
 ///
-/// @param tables  how many tables have to be named
 /// @par Errors    no key; what is wrong with the command line.
 Result<GlobalOptions> parseArguments(QCommandLineParser &parser, const QStringList &arguments,
-                                     int tables);
+                                     const Inputs &inputs);
 
 } // namespace vlt::batch

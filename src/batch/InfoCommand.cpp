@@ -123,7 +123,8 @@ ExitStatus runInfo(const QStringList &arguments)
     parser.addOption(
         {QStringLiteral("link"), QStringLiteral("The table has microwave links, not sites.")});
     addGlobalOptions(parser);
-    const Result<GlobalOptions> options = parseArguments(parser, arguments, 1);
+    const Result<GlobalOptions> options =
+        parseArguments(parser, arguments, {1, 1, QStringLiteral("table")});
     if (const auto answered = answerHelp(parser, options, Examples))
         return *answered;
 

@@ -2,8 +2,10 @@
 
 #include "batch/Console.h"
 #include "batch/Help.h"
+#include "batch/OutputFiles.h"
 #include "batch/SiteOptions.h"
 #include "language/VltLanguageManager.h"
+#include "platform/LayerFile.h"
 
 #include <QFileInfo>
 #include <QSet>
@@ -12,28 +14,12 @@ namespace vlt::batch {
 
 namespace {
 
-/// Where a file really is, so that two names of one file are seen to be one.
-QString realPath(const QString &path)
-{
-    const QString canonical = QFileInfo(path).canonicalFilePath();
-    return canonical.isEmpty() ? QFileInfo(path).absoluteFilePath() : canonical;
-}
-
 /// Name of the catalogue, below the pylons' folder, that has nothing to choose from.
 QString emptyCatalogue(const sites::SiteCatalogues &catalogues)
 {
     if (catalogues.pylonTypes.isEmpty())
         return QStringLiteral("/list.xml");
     return catalogues.colorSets.isEmpty() ? QStringLiteral("/colors/sectors.xml") : QString();
-}
-
-bool isOneOf(const QString &output, const QStringList &inputs)
-{
-    for (const QString &input : inputs) {
-        if (!input.isEmpty() && realPath(input) == realPath(output))
-            return true;
-    }
-    return false;
 }
 
 qint64 refusedRows(const geodata::LayerProblems &problems)
@@ -86,8 +72,7 @@ std::variant<LayerRequest, ExitStatus> readLayerRequest(const QCommandLineParser
         isOneOf(request.output,
                 inputs + QStringList{request.table, surroundings.project.projectPath,
                                      surroundings.project.terrainFile}))
-        return refuse({QStringLiteral("MESS_CLI_OUTPUT_IS_INPUT"),
-                       QStringLiteral("the output is one of the input files"), request.output});
+        return refuse(outputIsInput(request.output));
     return request;
 }
 
@@ -115,7 +100,7 @@ std::optional<ExitStatus> writeLayer(const QString &path, const Result<sites::Si
         printError(explain(*layer.value().warning));
     QString reason;
     const Result<Done> written =
-        sites::writeSiteLayer(path, layer.value().text, platform::Access::Shared, &reason);
+        platform::writeLayerFile(path, layer.value().text, platform::Access::Shared, &reason);
     if (!written)
         return refuse(written.error(), reason);
     return std::nullopt;

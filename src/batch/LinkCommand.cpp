@@ -181,7 +181,8 @@ ExitStatus runLink(const QStringList &arguments)
 {
     QCommandLineParser parser;
     describe(parser);
-    const Result<GlobalOptions> options = parseArguments(parser, arguments, 1);
+    const Result<GlobalOptions> options =
+        parseArguments(parser, arguments, {1, 1, QStringLiteral("table")});
     if (const auto answered = answerHelp(parser, options, Examples))
         return *answered;
     const Result<LinkRequest> wanted = readLinkRequest(parser);

@@ -107,7 +107,8 @@ ExitStatus runSite(const QStringList &arguments)
 {
     QCommandLineParser parser;
     describe(parser);
-    const Result<GlobalOptions> options = parseArguments(parser, arguments, 1);
+    const Result<GlobalOptions> options =
+        parseArguments(parser, arguments, {1, 1, QStringLiteral("table")});
     if (const auto answered = answerHelp(parser, options, Examples))
         return *answered;
     if (parser.value(QStringLiteral("output")).isEmpty())

@@ -2,7 +2,10 @@
 
 #include "batch/Console.h"
 #include "batch/Help.h"
+#include "batch/OutputFiles.h"
+#include "batch/ProgressLine.h"
 #include "batch/StartUp.h"
+#include "language/VltLanguageManager.h"
 #include "platform/AtomicFile.h"
 #include "snapshot/SceneNotices.h"
 #include "snapshot/SceneSource.h"
@@ -46,11 +49,11 @@ void describe(QCommandLineParser &parser)
     parser.setApplicationDescription(
         QStringLiteral("Makes a picture (PNG) of a layer or of another scene file.\n"
                        "It needs an X server; without a screen xvfb-run gives one."));
-    parser.addPositionalArgument(
-        QStringLiteral("LAYER"),
-        QStringLiteral("Layer (.lay), any scene file that the scene library reads, or a "
-                       "parametric object inline://parametric/query?..."),
-        QStringLiteral("snapshot LAYER -o PICTURE.png"));
+    parser.addPositionalArgument(QStringLiteral("LAYER"),
+                                 QStringLiteral("Layer (.lay), building document (.texb), any "
+                                                "scene file that the scene library reads, or a "
+                                                "parametric object inline://parametric/query?..."),
+                                 QStringLiteral("snapshot LAYER -o PICTURE.png"));
     parser.addOptions({
         {{QStringLiteral("o"), QStringLiteral("output")},
          QStringLiteral("Picture to write, *.png."),
@@ -121,12 +124,6 @@ Result<Request> readRequest(const QCommandLineParser &parser)
     return request;
 }
 
-bool isSameFile(const QString &one, const QString &other)
-{
-    const QString path = QFileInfo(one).canonicalFilePath();
-    return !path.isEmpty() && path == QFileInfo(other).canonicalFilePath();
-}
-
 void tellNotices(const QStringList &notices, const GlobalOptions &options)
 {
     for (const QString &notice : notices) {
@@ -169,11 +166,20 @@ ExitStatus refuseLayer(Error error, const Request &request)
     return refuse(error);
 }
 
+Result<snapshot::Scene> readScene(const Request &request, const GlobalOptions &options)
+{
+    ProgressLine line(dico_label("MESS_CLI_READING_SCENE", "Reading the scene"), !options.quiet);
+    return snapshot::readScene(request.layer, options.projectPath, request.terrain,
+                               [&line](double share) {
+                                   line.show(share);
+                                   return true;
+                               });
+}
+
 ExitStatus makePicture(const Request &request, const GlobalOptions &options)
 {
     snapshot::SceneNotices notices;
-    const Result<osg::ref_ptr<osg::Node>> scene =
-        snapshot::readScene(request.layer, options.projectPath, request.terrain);
+    const Result<snapshot::Scene> scene = readScene(request, options);
     if (!scene) {
         notices.take(); // the same reason in other words
         return refuseLayer(scene.error(), request);
@@ -206,11 +212,8 @@ ExitStatus runSnapshot(const QStringList &arguments)
 {
     QCommandLineParser parser;
     describe(parser);
-    const Result<GlobalOptions> options = parseArguments(parser, arguments, 1);
-    const bool isNameless =
-        parser.unknownOptionNames().isEmpty() && parser.positionalArguments().value(0).isEmpty();
-    if (!options && isNameless && parser.errorText().isEmpty())
-        return refuseUsage(QStringLiteral("no layer given"));
+    const Result<GlobalOptions> options =
+        parseArguments(parser, arguments, {1, 1, QStringLiteral("layer")});
     if (const auto answered = answerHelp(parser, options, Examples))
         return *answered;
     const Result<Request> request = readRequest(parser);
@@ -220,12 +223,9 @@ ExitStatus runSnapshot(const QStringList &arguments)
     const Result<Surroundings> surroundings = startUp(options.value());
     if (!surroundings)
         return refuse(surroundings.error());
-    for (const QString &input : {request.value().layer, options.value().projectPath}) {
-        if (isSameFile(input, request.value().output))
-            return refuse({QStringLiteral("MESS_CLI_OUTPUT_IS_INPUT"),
-                           QStringLiteral("the output is one of the input files"),
-                           request.value().output});
-    }
+    const QString output = request.value().output;
+    if (isOneOf(output, {request.value().layer, options.value().projectPath}))
+        return refuse(outputIsInput(output));
     snapshot::addReaderDirectory(surroundings.value().installDir + QStringLiteral("/driver"));
     return makePicture(request.value(), options.value());
 }

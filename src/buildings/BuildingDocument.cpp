@@ -88,7 +88,7 @@ QString textureElement(const FileEntry &image)
         .arg(image.file.filePath(), text::g6(image.height));
 }
 
-QString texturesElement(const TextureSettings &textures)
+QString texturesElement(const TexbTextures &textures)
 {
     QString element =
         QStringLiteral("  <textures \n"

@@ -51,7 +51,7 @@ struct CacheSettings
 };
 
 /// How images are laid on the buildings.
-struct TextureSettings
+struct TexbTextures
 {
     QString mode; ///< as the document has it: which part of a building has the image
     QString edgeColor;
@@ -81,7 +81,7 @@ struct Texb
     QString wallColor;             ///< "#RRGGBB" or colorMapColor()
     QString roofColor;             ///< the same
     TerrainSettings terrain;
-    std::optional<TextureSettings> textures; ///< none: plain buildings
+    std::optional<TexbTextures> textures; ///< none: plain buildings
 };
 
 /// "minimum", "maximum", "average", "mostRepresented".

@@ -1,7 +1,7 @@
 #include "buildings/BuildingLayer.h"
 
-#include "sites/InfoPageParts.h"
-#include "sites/SiteLayer.h"
+#include "platform/ConfigurationFile.h"
+#include "platform/LayerFile.h"
 #include "text/Numbers.h"
 #include "text/Templates.h"
 
@@ -36,7 +36,7 @@ QString texbTemplatePath(const QString &installDir)
 Result<Done> createTexbLayerFile(const QString &outputPath, const QString &templatePath,
                                  const TexbLayer &layer, platform::Access access, QString *reason)
 {
-    const Result<QString> layerTemplate = sites::readConfigurationFile(templatePath);
+    const Result<QString> layerTemplate = platform::readConfigurationFile(templatePath);
     if (!layerTemplate)
         return layerTemplate.error();
     const QString text = text::replacePlaceholders(
@@ -46,7 +46,7 @@ Result<Done> createTexbLayerFile(const QString &outputPath, const QString &templ
                                 {QStringLiteral("__TEXB_URL__"), layer.url},
                                 {QStringLiteral("__X_CENTER__"), text::g9(layer.xCenter)},
                                 {QStringLiteral("__Y_CENTER__"), text::g9(layer.yCenter)}});
-    return sites::writeSiteLayer(outputPath, text, access, reason);
+    return platform::writeLayerFile(outputPath, text, access, reason);
 }
 
 } // namespace vlt::buildings

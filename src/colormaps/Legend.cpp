@@ -104,7 +104,8 @@ public:
     QImage draw()
     {
         const int below = m_map.noDataColor() ? m_in.margin + m_lineHeight : 0;
-        QImage image(m_width, m_top + m_height + m_lineHeight / 2 + below + m_in.margin,
+        QImage image(wholePixels(m_width),
+                     wholePixels(m_top + m_height + m_lineHeight / 2 + below + m_in.margin),
                      QImage::Format_RGB32);
         image.fill(Ground);
         QPainter painter(&image);
@@ -117,6 +118,13 @@ public:
     }
 
 private:
+    /// Pixels of the screen, not parts of one, or the image would be blurred where it is shown.
+    int wholePixels(int length) const
+    {
+        const int pixel = m_in.line;
+        return (length + pixel - 1) / pixel * pixel;
+    }
+
     void drawChecks(QPainter &painter, const QRect &area) const
     {
         painter.save();
@@ -202,10 +210,15 @@ QImage drawLegend(const ColorMap &map, Interpretation interpretation, int scale)
     return LegendPainter(map, interpretation, std::max(1, scale)).draw();
 }
 
+QString legendPath(const QString &directory, const QString &colorMapName)
+{
+    return QDir(directory).filePath(colorMapName + QStringLiteral("_gradient.png"));
+}
+
 Result<QString> writeLegend(const QImage &legend, const QString &directory,
                             const QString &colorMapName, platform::Access access)
 {
-    const QString path = QDir(directory).filePath(colorMapName + QStringLiteral("_gradient.png"));
+    const QString path = legendPath(directory, colorMapName);
     QByteArray bytes;
     QBuffer buffer(&bytes);
     if (!buffer.open(QIODevice::WriteOnly) || !legend.save(&buffer, "PNG"))

@@ -18,7 +18,10 @@ namespace vlt::colormaps {
 /// @return       null for a map without colours, and where there is no QGuiApplication
 QImage drawLegend(const ColorMap &map, Interpretation interpretation, int scale = 1);
 
-/// Writes a legend as "<name>_gradient.png".
+/// Path of the legend of a colour map: "<name>_gradient.png".
+QString legendPath(const QString &directory, const QString &colorMapName);
+
+/// Writes a legend to its path.
 ///
 /// @return      the file's path
 /// @par Errors  an image that is null, a file that cannot be written; with the path

@@ -2,13 +2,11 @@
 
 #include "geodata/EpsgIdentification.h"
 #include "geodata/ErrorCollector.h"
-#include "localfiles/LocalFormats.h"
+#include "geodata/LocalDataset.h"
 #include "localfiles/NoNetwork.h"
 
-#include <QFile>
 #include <QFileInfo>
 
-#include <gdal_priv.h>
 #include <ogrsf_frmts.h>
 
 namespace vlt::geodata {
@@ -30,16 +28,12 @@ Result<QString> datasetReferenceCode(const QString &path)
         QStringLiteral(
             "This vector dataset doesn't contain any valid coordinate system information"),
         {}};
-    const QString absolute = QFileInfo(path).absoluteFilePath();
-    const QByteArray name = QFile::encodeName(absolute);
-    if (!localfiles::isLocalFile(name.toStdString()))
+    if (!QFileInfo(path).isFile())
         return noVectorSystem;
 
     const ErrorCollector quiet;
     const localfiles::NoNetwork offline;
-    const GDALDatasetUniquePtr raster(
-        GDALDataset::Open(name.constData(), GDAL_OF_RASTER, localfiles::localRasterFormats()));
-    if (raster)
+    if (const GDALDatasetUniquePtr raster = openLocalDataset(path, GDAL_OF_RASTER))
         return codeOrError(
             raster->GetSpatialRef(),
             {QStringLiteral("MESS_ERR_NO_SRS_DSR"),
@@ -47,8 +41,7 @@ Result<QString> datasetReferenceCode(const QString &path)
                  "This raster dataset doesn't contain any valid coordinate system information"),
              {}});
 
-    const GDALDatasetUniquePtr vector(
-        GDALDataset::Open(name.constData(), GDAL_OF_VECTOR, localfiles::localVectorFormats()));
+    const GDALDatasetUniquePtr vector = openLocalDataset(path, GDAL_OF_VECTOR);
     OGRLayer *layer = vector ? vector->GetLayer(0) : nullptr;
     return codeOrError(layer ? layer->GetSpatialRef() : nullptr, noVectorSystem);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "geodata/RasterSource.h"
+#include "geodata/Subdatasets.h"
 
 #include <QByteArray>
 #include <QHash>

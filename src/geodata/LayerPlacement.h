@@ -1,13 +1,12 @@
 #pragma once
 
-#include <QtGlobal>
+#include "platform/Progress.h"
 
-#include <functional>
+#include <QtGlobal>
 
 namespace vlt::geodata {
 
-/// Told the share done (0..1) now and then; false stops the work.
-using Progress = std::function<bool(double)>;
+using Progress = platform::Progress;
 
 /// How many features of a layer have a place.
 struct LayerPlacement

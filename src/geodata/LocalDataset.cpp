@@ -1,9 +1,12 @@
 #include "geodata/LocalDataset.h"
 
+#include "geodata/Subdatasets.h"
 #include "localfiles/LocalFormats.h"
 
 #include <QFile>
 #include <QFileInfo>
+
+#include <algorithm>
 
 namespace vlt::geodata {
 
@@ -20,6 +23,24 @@ GDALDatasetUniquePtr openLocalDataset(const QString &path, unsigned kind)
                                                         : localfiles::localVectorFormats();
     return GDALDatasetUniquePtr(GDALDataset::Open(
         name.constData(), kind | GDAL_OF_READONLY | GDAL_OF_VERBOSE_ERROR, formats));
+}
+
+GDALDatasetUniquePtr openLocalRaster(const QString &path, const QString &part)
+{
+    GDALDatasetUniquePtr whole = openLocalDataset(path, GDAL_OF_RASTER);
+    if (!whole || part.isEmpty())
+        return whole;
+    const QList<Subdataset> parts = subdatasets(*whole);
+    const bool isListed = std::any_of(parts.begin(), parts.end(),
+                                      [&part](const auto &one) { return one.name == part; });
+    if (!isListed) {
+        CPLError(CE_Failure, CPLE_OpenFailed, "the file holds no such image");
+        return {};
+    }
+    return GDALDatasetUniquePtr(
+        GDALDataset::Open(QFile::encodeName(part).constData(),
+                          GDAL_OF_RASTER | GDAL_OF_READONLY | GDAL_OF_VERBOSE_ERROR,
+                          localfiles::localRasterFormats()));
 }
 
 } // namespace vlt::geodata

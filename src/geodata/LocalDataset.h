@@ -15,4 +15,10 @@ namespace vlt::geodata {
 /// @return      null where it cannot be opened
 GDALDatasetUniquePtr openLocalDataset(const QString &path, unsigned kind);
 
+/// The same for one of the images in a raster that holds several.
+///
+/// @param part  as the raster lists it; empty for the raster itself
+/// @return      null also for an image that the raster does not list
+GDALDatasetUniquePtr openLocalRaster(const QString &path, const QString &part);
+
 } // namespace vlt::geodata

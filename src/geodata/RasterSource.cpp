@@ -4,7 +4,6 @@
 #include "geodata/LocalDataset.h"
 #include "geodata/SystemInfo.h"
 #include "localfiles/NoNetwork.h"
-#include "platform/TextDecoding.h"
 
 #include <gdal_pam.h>
 
@@ -41,20 +40,6 @@ std::optional<Extent> extentOf(GDALDataset &dataset)
     return Extent{t[0] + minX, t[3] + minY, t[0] + maxX, t[3] + maxY};
 }
 
-QList<Subdataset> subdatasetsOf(GDALDataset &dataset)
-{
-    QList<Subdataset> found;
-    for (int n = 1;; ++n) {
-        const QByteArray key = "SUBDATASET_" + QByteArray::number(n);
-        const char *name = dataset.GetMetadataItem(key + "_NAME", "SUBDATASETS");
-        if (name == nullptr)
-            return found;
-        const char *description = dataset.GetMetadataItem(key + "_DESC", "SUBDATASETS");
-        found.append({platform::decodeText(QByteArray(name)),
-                      platform::decodeText(QByteArray(description))});
-    }
-}
-
 Error cannotOpen(const ErrorCollector &errors, const QString &path)
 {
     return {QStringLiteral("MESS_ERR_OPEN_RASTERDS"), errors.failure({}), path};
@@ -74,11 +59,11 @@ int CPL_STDCALL tellProgress(double share, const char * /*message*/, void *progr
 
 } // namespace
 
-Result<RasterSummary> readRasterSummary(const QString &path)
+Result<RasterSummary> readRasterSummary(const QString &path, const QString &part)
 {
     const ErrorCollector errors;
     const localfiles::NoNetwork offline;
-    const GDALDatasetUniquePtr dataset = openLocalDataset(path, GDAL_OF_RASTER);
+    const GDALDatasetUniquePtr dataset = openLocalRaster(path, part);
     if (!dataset)
         return cannotOpen(errors, path);
     keepFromSaving(*dataset);
@@ -91,15 +76,15 @@ Result<RasterSummary> readRasterSummary(const QString &path)
         summary.noData = declaredNoData(*band);
     summary.system = systemInfo(dataset->GetSpatialRef());
     summary.extent = extentOf(*dataset);
-    summary.subdatasets = subdatasetsOf(*dataset);
+    summary.subdatasets = subdatasets(*dataset);
     return summary;
 }
 
-Result<double> guessedNoData(const QString &path, const Progress &progress)
+Result<double> guessedNoData(const QString &path, const Progress &progress, const QString &part)
 {
     const ErrorCollector errors;
     const localfiles::NoNetwork offline;
-    const GDALDatasetUniquePtr dataset = openLocalDataset(path, GDAL_OF_RASTER);
+    const GDALDatasetUniquePtr dataset = openLocalRaster(path, part);
     if (!dataset)
         return cannotOpen(errors, path);
     keepFromSaving(*dataset);

@@ -2,6 +2,7 @@
 
 #include "geodata/LayerPlacement.h"
 #include "geodata/PolygonSource.h"
+#include "geodata/Subdatasets.h"
 #include "platform/Result.h"
 
 #include <QList>
@@ -10,13 +11,6 @@
 #include <optional>
 
 namespace vlt::geodata {
-
-/// One of the images in a file that holds several.
-struct Subdataset
-{
-    QString name; ///< as the geodata library opens it
-    QString description;
-};
 
 /// What is known of a raster without reading its pixels.
 struct RasterSummary
@@ -32,16 +26,19 @@ struct RasterSummary
 
 /// Opens a local raster (file or folder) through the formats of the local disk and closes it again.
 ///
+/// @param part  name of one of its images, as the raster lists it; empty for the raster itself
 /// @par Errors  MESS_ERR_OPEN_RASTERDS, with the path; the text is the library's reason
-Result<RasterSummary> readRasterSummary(const QString &path);
+Result<RasterSummary> readRasterSummary(const QString &path, const QString &part = {});
 
 /// What stands for missing values in band 1 of a raster, from its approximate statistics: the
 /// minimum where it is below -100, else the maximum where it reaches 9000, else the band's own
 /// value, else -32768. Nothing is written beside the raster.
 ///
 /// @param progress  may be empty; false stops the work
+/// @param part      name of one of its images; empty for the raster itself
 /// @par Errors      MESS_ERR_OPEN_RASTERDS, with the path and the library's reason;
 ///                  MESS_ERR_NO_BANDS; no key and no text where it was stopped
-Result<double> guessedNoData(const QString &path, const Progress &progress);
+Result<double> guessedNoData(const QString &path, const Progress &progress,
+                             const QString &part = {});
 
 } // namespace vlt::geodata

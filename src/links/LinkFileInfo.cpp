@@ -1,6 +1,7 @@
 #include "links/LinkFileInfo.h"
 
 #include "geodata/LayerInfo.h"
+#include "sites/SiteFileInfo.h"
 
 namespace vlt::links {
 
@@ -22,12 +23,9 @@ sites::TableKind linkTable()
 
 QString linkEndNameField(const QString &format)
 {
-    const QString tool = format.toLower();
-    if (tool.startsWith(QLatin1String("asset")))
-        return QStringLiteral("Site name");
-    if (tool.startsWith(QLatin1String("atoll")))
-        return QStringLiteral("NAME");
-    return QStringLiteral("Site ID");
+    // the links of this tool name the column otherwise than its sites
+    return format.toLower().startsWith(QLatin1String("mentum")) ? QStringLiteral("Site ID")
+                                                                : sites::siteNameField(format);
 }
 
 LinkFileInfo readLinkFileInfo(const QString &path, const sites::ProjectContext &project)

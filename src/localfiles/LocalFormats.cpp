@@ -63,6 +63,15 @@ bool isVirtual(const std::string &path)
                       [](char a, char b) { return a == (b >= 'A' && b <= 'Z' ? b + 32 : b); });
 }
 
+/// What lies there, links followed; none for what is no path of the local disk.
+std::filesystem::file_type kindOf(const std::string &absolutePath)
+{
+    std::error_code error;
+    return isVirtual(absolutePath) || !absolutePath.starts_with('/')
+               ? std::filesystem::file_type::none
+               : std::filesystem::status(absolutePath, error).type();
+}
+
 } // namespace
 
 const char *const *localRasterFormats()
@@ -79,17 +88,14 @@ const char *const *localVectorFormats()
 
 bool isLocalFile(const std::string &absolutePath)
 {
-    std::error_code error;
-    return !isVirtual(absolutePath) && absolutePath.starts_with('/') &&
-           std::filesystem::is_regular_file(absolutePath, error);
+    return kindOf(absolutePath) == std::filesystem::file_type::regular;
 }
 
 bool isLocalDataset(const std::string &absolutePath)
 {
-    std::error_code error;
-    return isLocalFile(absolutePath) ||
-           (!isVirtual(absolutePath) && absolutePath.starts_with('/') &&
-            std::filesystem::is_directory(absolutePath, error));
+    const std::filesystem::file_type kind = kindOf(absolutePath);
+    return kind == std::filesystem::file_type::regular ||
+           kind == std::filesystem::file_type::directory;
 }
 
 } // namespace vlt::localfiles

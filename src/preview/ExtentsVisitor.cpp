@@ -9,6 +9,18 @@ ExtentsVisitor::ExtentsVisitor() : osg::NodeVisitor(TRAVERSE_ALL_CHILDREN)
     m_matrices.emplace_back();
 }
 
+void ExtentsVisitor::apply(osg::Node &node)
+{
+    if (node.asGroup()) {
+        traverse(node);
+        return;
+    }
+    osg::BoundingBox box;
+    box.expandBy(node.getBound());
+    for (unsigned corner = 0; box.valid() && corner < 8; ++corner)
+        m_extents.expandBy(box.corner(corner) * m_matrices.back());
+}
+
 void ExtentsVisitor::apply(osg::Transform &transform)
 {
     osg::Matrix matrix = m_matrices.back();

@@ -47,6 +47,12 @@ void VltPreviewPane::lookAtMiddle(double leastM)
         m_viewer->lookAtMiddle(leastM);
 }
 
+void VltPreviewPane::setFarthestM(double farthestM)
+{
+    if (m_viewer)
+        m_viewer->setFarthestM(farthestM);
+}
+
 void VltPreviewPane::centerView()
 {
     if (m_viewer)

@@ -27,6 +27,9 @@ public:
     /// Looks at the middle of the scene, from `leastM` metres or as far as the whole needs.
     void lookAtMiddle(double leastM);
 
+    /// From how far centerView() looks at most.
+    void setFarthestM(double farthestM);
+
     /// The camera on the whole scene.
     void centerView();
 

@@ -9,6 +9,8 @@
 #include <osgViewer/GraphicsWindow>
 #include <osgViewer/Viewer>
 
+#include <limits>
+
 class VltTrackBall;
 
 /// A small 3D view: an OpenGL widget that is at the same time a scene viewer. It draws the scene
@@ -42,6 +44,9 @@ public:
 
     /// Looks at the middle of the whole scene, from `leastM` metres or as far as it needs.
     void lookAtMiddle(double leastM);
+
+    /// From how far centerView() looks at most: scenes may draw nothing that is farther away.
+    void setFarthestM(double farthestM) { m_farthestM = farthestM; }
 
     /// Detail that the view can show, from its height in pixels and the camera's distance; 10 until
     /// a frame was drawn.
@@ -93,6 +98,7 @@ private:
     osg::ref_ptr<VltTrackBall> m_trackBall;
     bool m_isUserCamera = true; ///< until the mouse takes the camera
     double m_levelOfDetail = 10;
+    double m_farthestM = std::numeric_limits<double>::infinity();
     bool m_wasInitialised = false;
     bool m_wasShown = false;
     QPointF m_pressedAt;

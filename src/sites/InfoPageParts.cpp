@@ -1,9 +1,7 @@
 #include "sites/InfoPageParts.h"
 
-#include "platform/TextDecoding.h"
+#include "platform/ConfigurationFile.h"
 #include "sites/PylonTypes.h"
-
-#include <QFile>
 
 #include <algorithm>
 
@@ -31,22 +29,13 @@ QString tableRow(const QString &head, const QStringList &columns)
     return row + QStringLiteral("</tr>");
 }
 
-Result<QString> readConfigurationFile(const QString &path)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return Error{QStringLiteral("MESS_MISSING_CONF_FILE"),
-                     QStringLiteral("A configuration file is missing"), path};
-    return platform::decodeText(file.readAll());
-}
-
 Result<QString> readInfoTemplate(const QString &installDir, const QString &name,
                                  const QString &language)
 {
     const QString suffix =
         isFrench(language) ? QStringLiteral("_fr.html") : QStringLiteral("_en.html");
-    const Result<QString> page = readConfigurationFile(installDir + QLatin1Char('/') + PylonFolder +
-                                                       QLatin1Char('/') + name + suffix);
+    const Result<QString> page = platform::readConfigurationFile(
+        installDir + QLatin1Char('/') + PylonFolder + QLatin1Char('/') + name + suffix);
     return page ? Result<QString>(QString(page.value()).remove(QLatin1Char('\n'))) : page;
 }
 

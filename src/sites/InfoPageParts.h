@@ -17,14 +17,9 @@ QString fieldReference(const QString &column);
 /// where there is no column at all.
 QString tableRow(const QString &head, const QStringList &columns);
 
-/// Reads a file of the installation whole.
-///
-/// @par Errors   MESS_MISSING_CONF_FILE with the path.
-Result<QString> readConfigurationFile(const QString &path);
-
 /// The template "<name>_fr.html" or "<name>_en.html" of the pylons' folder, without its line feeds.
 ///
-/// @par Errors   as above.
+/// @par Errors   MESS_MISSING_CONF_FILE with the path.
 Result<QString> readInfoTemplate(const QString &installDir, const QString &name,
                                  const QString &language);
 

@@ -1,7 +1,7 @@
 #include "sites/SiteLayer.h"
 
 #include "language/VltLanguageManager.h"
-#include "sites/InfoPageParts.h"
+#include "platform/ConfigurationFile.h"
 #include "sites/SiteInfoPage.h"
 
 namespace vlt::sites {
@@ -40,7 +40,7 @@ Result<SiteLayer> makeSiteLayer(const SiteLayerInput &input)
 Result<SiteLayer> fillLayer(const QString &installDir, const QString &templateName,
                             std::vector<text::Replacement> values, const Result<QString> &page)
 {
-    const Result<QString> layerTemplate = readConfigurationFile(
+    const Result<QString> layerTemplate = platform::readConfigurationFile(
         installDir + QLatin1Char('/') + PylonFolder + QLatin1Char('/') + templateName);
     if (!layerTemplate)
         return layerTemplate.error();
@@ -51,18 +51,6 @@ Result<SiteLayer> fillLayer(const QString &installDir, const QString &templateNa
     values.emplace_back(QStringLiteral("__Desc__"), page ? page.value() : QString());
     layer.text = text::replacePlaceholders(layerTemplate.value(), values);
     return layer;
-}
-
-Result<Done> writeSiteLayer(const QString &path, const QString &text, platform::Access access,
-                            QString *reason)
-{
-    Result<Done> written = platform::writeWhole(path, text.toUtf8(), access);
-    if (written)
-        return written;
-    if (reason)
-        *reason = written.error().text;
-    return Error{QStringLiteral("MESS_CANT_CREATE_LAYER"),
-                 QStringLiteral("Can't create the layer file"), path};
 }
 
 } // namespace vlt::sites

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "platform/AtomicFile.h"
 #include "platform/Result.h"
 #include "sites/PylonQuery.h"
 #include "sites/SiteFileInfo.h"
@@ -51,12 +50,5 @@ Result<SiteLayer> makeSiteLayer(const SiteLayerInput &input);
 /// @par Errors    MESS_MISSING_CONF_FILE with the template's path.
 Result<SiteLayer> fillLayer(const QString &installDir, const QString &templateName,
                             std::vector<text::Replacement> values, const Result<QString> &page);
-
-/// Writes a layer text in UTF-8: afterwards the file is the old one or the whole new one.
-///
-/// @param reason  where not null, takes the system's reason of a failure
-/// @par Errors    MESS_CANT_CREATE_LAYER with the path.
-Result<Done> writeSiteLayer(const QString &path, const QString &text, platform::Access access,
-                            QString *reason = nullptr);
 
 } // namespace vlt::sites

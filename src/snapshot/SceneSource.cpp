@@ -1,5 +1,7 @@
 #include "snapshot/SceneSource.h"
 
+#include "connection/ReaderOptions.h"
+
 #include <QFile>
 #include <QFileInfo>
 
@@ -12,10 +14,6 @@ namespace vlt::snapshot {
 namespace {
 
 using ReadResult = osgDB::ReaderWriter::ReadResult;
-
-/// Keys under which the readers find the project's file, and whether terrain is wanted.
-const std::string ProjectKey = "vlt.project";
-const std::string TerrainKey = "vlt.terrain";
 
 /// Keeps readers from following a scene's references out of this computer.
 class LocalFilesOnly : public osgDB::ReadFileCallback
@@ -50,6 +48,11 @@ private:
     static ReadResult refusal() { return {"only local files are read"}; }
 };
 
+bool report(void *progress, double share)
+{
+    return (*static_cast<const platform::Progress *>(progress))(share);
+}
+
 Error asError(ReadResult &read, const QString &name)
 {
     if (read.status() == ReadResult::FILE_NOT_HANDLED || read.message().empty())
@@ -65,7 +68,8 @@ bool isParametricName(const QString &name)
     return name.startsWith(QLatin1String("inline://parametric/query?"));
 }
 
-Result<Scene> readScene(const QString &name, const QString &project, TerrainSurface terrain)
+Result<Scene> readScene(const QString &name, const QString &project, TerrainSurface terrain,
+                        const platform::Progress &progress)
 {
     QString source = name;
     if (!isParametricName(name)) {
@@ -86,9 +90,14 @@ Result<Scene> readScene(const QString &name, const QString &project, TerrainSurf
         registry->setReadFileCallback(new LocalFilesOnly);
     if (!project.isEmpty())
         options->setPluginStringData(
-            ProjectKey, QFile::encodeName(QFileInfo(project).absoluteFilePath()).toStdString());
+            connection::ProjectKey,
+            QFile::encodeName(QFileInfo(project).absoluteFilePath()).toStdString());
     if (terrain == TerrainSurface::Shown)
-        options->setPluginStringData(TerrainKey, "1");
+        options->setPluginStringData(connection::TerrainKey, "1");
+    platform::Progress told = progress;
+    connection::ReadProgress listener{report, &told};
+    if (told)
+        options->setPluginData(connection::ProgressKey, &listener);
     ReadResult read = registry->readNode(QFile::encodeName(source).toStdString(), options.get());
     if (read.validNode())
         return Scene(read.getNode());

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/Progress.h"
 #include "platform/Result.h"
 
 #include <QString>
@@ -20,10 +21,12 @@ enum class TerrainSurface { Hidden, Shown };
 ///
 /// @param project  file of the project that the scene belongs to, handed to the readers; may be
 ///                 empty
+/// @param progress what readers that take long tell; false stops them. May be empty.
 /// @par Errors     MESS_SNAP_NOT_LOCAL for a name of another kind, MESS_SNAP_NO_FILE; no key: the
 ///                 text is the reader's reason.
 Result<Scene> readScene(const QString &name, const QString &project = {},
-                        TerrainSurface terrain = TerrainSurface::Hidden);
+                        TerrainSurface terrain = TerrainSurface::Hidden,
+                        const platform::Progress &progress = {});
 
 /// Whether the name is that of a parametric object.
 bool isParametricName(const QString &name);

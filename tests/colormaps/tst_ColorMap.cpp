@@ -160,29 +160,22 @@ private Q_SLOTS:
         QTest::addColumn<QString>("name");
         QTest::addColumn<QByteArray>("text");
         QTest::addColumn<QString>("message"); // %1: path
-        QTest::newRow("above 100 %") << u"a.txt"_s << QByteArray("1 red\n120% red")
-                                     << u"Wrong value for a percentage : 120%"_s;
-        QTest::newRow("below 0 %")
-            << u"a.txt"_s << QByteArray("-1% red") << u"Wrong value for a percentage : -1%"_s;
-        QTest::newRow("unknown colour")
-            << u"a.txt"_s << QByteArray("nv red\n5 pink\n6 mauve") << u"Unknown color : pink"_s;
-        QTest::newRow("too few numbers")
-            << u"a.txt"_s << QByteArray("5 10 20") << u"Unknown color : 10"_s;
-        QTest::newRow("unknown colour of no data")
-            << u"a.txt"_s << QByteArray("1 red\nnv none") << u"Unknown color : none"_s;
-        QTest::newRow("a token of a damaged file")
-            << u"a.txt"_s << QByteArray("1 ") + QByteArray(100'000, 'z')
-            << u"Unknown color : "_s + QString(256, u'z');
-        QTest::newRow("empty") << u"a.cmap"_s << QByteArray()
-                               << u"No color association found in %1"_s;
-        QTest::newRow("no data only")
-            << u"a.txt"_s << QByteArray("nv red\n# x y") << u"No color association found in %1"_s;
-        QTest::newRow("huge") << u"a.txt"_s << QByteArray((16 << 20) + 1, '\n')
-                              << u"%1 is too large for a color map"_s;
-        QTest::newRow("index") << u"myINDEX.txt"_s << QByteArray("1 red") << QString();
-        QTest::newRow("another suffix") << u"a.clr"_s << QByteArray("1 red") << QString();
-        QTest::newRow("suffix inside") << u"a.txt.bak"_s << QByteArray("1 red") << QString();
-        QTest::newRow("none") << u"txt"_s << QByteArray("1 red") << QString();
+        const auto row = [](const char *what, const QByteArray &text, const QString &message,
+                            const char *name = "a.txt") {
+            QTest::newRow(what) << QString::fromLatin1(name) << text << message;
+        };
+        row("above 100 %", "1 red\n120% red", u"Wrong value for a percentage : 120%"_s);
+        row("below 0 %", "-1% red", u"Wrong value for a percentage : -1%"_s);
+        row("unknown colour", "nv red\n5 pink\n6 mauve", u"Unknown color : pink"_s);
+        row("too few numbers", "5 10 20", u"Unknown color : 10"_s);
+        row("unknown colour of no data", "1 red\nnv none", u"Unknown color : none"_s);
+        row("a token of a damaged file", "1 " + QByteArray(100'000, 'z'),
+            u"Unknown color : "_s + QString(256, u'z'));
+        row("empty", {}, u"No color association found in %1"_s, "a.cmap");
+        row("no data only", "nv red\n# x y", u"No color association found in %1"_s);
+        row("huge", QByteArray((16 << 20) + 1, '\n'), u"%1 is too large for a color map"_s);
+        for (const char *name : {"myINDEX.txt", "a.clr", "a.txt.bak", "txt"})
+            row(name, "1 red", {}, name);
     }
 
     void refusesAndTellsWhy()

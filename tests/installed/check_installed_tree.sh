@@ -1,6 +1,6 @@
 #!/bin/bash
 # Installs the build, moves the tree to a folder with an awkward name, leaves the project's directory and works there:
-# layers of the same table in four formats, GDAL's own programs with the driver.
+# layers of the same table in four formats, layers of buildings, GDAL's own programs with the driver.
 set -euo pipefail
 cmake=$1
 build=$2
@@ -13,7 +13,8 @@ fail() { echo "FAILED: $*" >&2; exit 1; }
 tree="$work/moved, 100% d'été"
 mv "$work/first" "$tree"
 for part in VltTelecomLayers vltlayers driver/ogr_VltTables.so addons/telecom/pylons/list.xml addons/telecom/MESSAGES/telecom_fr.ts \
-    MESSAGES/veltaro_en.ts VltSrsUtils.ini setup_env.ini examples/lorient/city.gvw share/man/man1/vltlayers.1 \
+    addons/telecom/template/template_texb.lay addons/telecom/colormaps/signal/signal_level_dBm.txt driver/osgdb_lay.so \
+    driver/osgdb_texb.so examples/lorient/coverage/signal_level_dBm.tif MESSAGES/veltaro_en.ts VltSrsUtils.ini setup_env.ini examples/lorient/city.gvw share/man/man1/vltlayers.1 \
     share/man/man1/VltTelecomLayers.1 share/applications/org.veltaro.VltTelecomLayers.desktop; do
     [[ -f $tree/$part ]] || fail "$part is not installed"
 done
@@ -29,6 +30,16 @@ for kind in csv xlsx xls xml; do
 done
 grep -qF 'transmitter_scale=100,lods=10000 1000,sites.csv' "$work/csv.lay" || fail "the query does not end in the table"
 grep -qF '[Site ID]' "$work/csv.lay" || fail "the information page lacks the table's columns"
+
+# Without a display: nothing that draws texts may ask for one.
+env -u DISPLAY "$tree/vltlayers" buildings --project "$samples/city.gvw" --image "$samples/coverage/signal_level_dBm.tif" \
+    --colormap signal_level_dBm --absolute -o "$work/town.lay" --quiet || fail "no layer of coloured buildings"
+grep -qF "<source><![CDATA[TEXB:$work/town.texb]]>" "$work/town.lay" || fail "the layer does not name its document"
+grep -qF "$samples/vectors/buildings.shp" "$work/town.texb" || fail "the document does not name the buildings"
+[[ $(od -An -N4 -tx1 "$work/signal_level_dBm_gradient.png") == " 89 50 4e 47" ]] || fail "no legend"
+"$tree/vltlayers" buildings --project "$samples/city.gvw" --textures "$samples/textures/same_folder/coverage_6m.tif" \
+    --texture-on storeys -o "$work/storeys.lay" --quiet || fail "no layer of textured buildings"
+[[ $(grep -c '<texture $' "$work/storeys.texb") == 4 ]] || fail "the document does not name four images"
 
 export GDAL_DRIVER_PATH=$tree/driver
 ogrinfo -al -so "site:$samples/sites.csv" | grep -q 'Feature Count: 45' || fail "ogrinfo does not count 45 sites"

@@ -115,6 +115,20 @@ private Q_SLOTS:
         QVERIFY(isSky(m_viewer->grabFramebuffer(), {2, 2}));
     }
 
+    void looksFromNoFartherThanItMay()
+    {
+        m_viewer->setFarthestM(50);
+        m_viewer->showScene(ballAt({300, 200, 100}));
+        waitForFrames();
+        QVERIFY(std::abs((eye() - osg::Vec3d(300, 200, 100)).length() - 50) < 0.1);
+
+        m_viewer->setFarthestM(1e6);
+        m_viewer->centerView();
+        waitForFrames();
+        const double distanceM = (eye() - osg::Vec3d(300, 200, 100)).length();
+        QVERIFY(distanceM > 60 && distanceM < 200);
+    }
+
     void drawsAgainInAnotherWindowAndAfterHiding()
     {
         m_viewer->showScene(ballAt({}));

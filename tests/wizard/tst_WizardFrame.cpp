@@ -60,6 +60,8 @@ private Q_SLOTS:
             ids += wizard.pageId(page);
         QCOMPARE(ids, (QList<int>{0, 1, 2, 3, 4, 6, 5, 7}));
         QCOMPARE(wizard.page(5)->title(), u"Textured buildings"_s);
+        QCOMPARE(wizard.page(6)->title(), u"Coloured buildings"_s);
+        QCOMPARE(wizard.page(7)->title(), u"Display of buildings"_s);
         QCOMPARE(wizard.size(), QSize(1180, 680));
         QCOMPARE(wizard.windowTitle(), u"Add sites, links and predictions wizard"_s);
     }
@@ -97,6 +99,8 @@ private Q_SLOTS:
             QCOMPARE(wizard.page(4)->nextId(), page);
         }
         QCOMPARE(wizard.page(5)->nextId(), 7);
+        QCOMPARE(wizard.page(6)->nextId(), -1);
+        QCOMPARE(wizard.page(7)->nextId(), -1);
     }
 
     void worksByKeyboard()

@@ -1,9 +1,8 @@
 #include "buildings/ui/NoDataGuess.h"
 
+#include "buildings/ui/RasterMessages.h"
 #include "geodata/RasterSource.h"
-#include "language/VltLanguageManager.h"
 #include "text/Numbers.h"
-#include "wizard/base/Messages.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -64,7 +63,7 @@ private:
 /// Runs the guess on another thread and keeps the interface alive until it ends; no value where the
 /// page was closed meanwhile.
 std::optional<Result<double>> guessBeside(const QPointer<QWidget> &page, const QString &path,
-                                          const QPointer<QProgressBar> &bar)
+                                          const QString &part, const QPointer<QProgressBar> &bar)
 {
     std::optional<Result<double>> guessed;
     std::atomic<bool> isAbandoned = false;
@@ -80,10 +79,11 @@ std::optional<Result<double>> guessBeside(const QPointer<QWidget> &page, const Q
             Qt::QueuedConnection);
     };
     std::thread worker([&] {
-        guessed = geodata::guessedNoData(path, [&](double share) {
+        const auto tell = [&](double share) {
             showShare(share);
             return !isAbandoned;
-        });
+        };
+        guessed = geodata::guessedNoData(path, tell, part);
         QMetaObject::invokeMethod(&loop, &QEventLoop::quit, Qt::QueuedConnection);
     });
 
@@ -103,7 +103,7 @@ std::optional<Result<double>> guessBeside(const QPointer<QWidget> &page, const Q
 
 } // namespace
 
-QString guessNoData(QWidget *disabled, const QString &path, QProgressBar *bar)
+QString guessNoData(QWidget *disabled, const QString &path, QProgressBar *bar, const QString &part)
 {
     if (path.isEmpty())
         return {};
@@ -115,7 +115,7 @@ QString guessNoData(QWidget *disabled, const QString &path, QProgressBar *bar)
     std::optional<Result<double>> guessed;
     {
         const PageLock lock(disabled);
-        guessed = guessBeside(page, path, shown);
+        guessed = guessBeside(page, path, part, shown);
         if (shown)
             shown->hide();
     }
@@ -124,12 +124,10 @@ QString guessNoData(QWidget *disabled, const QString &path, QProgressBar *bar)
     if (guessed->ok())
         return text::f6(guessed->value());
     const QString &key = guessed->error().key;
-    const QString text =
-        key == QLatin1String("MESS_ERR_NO_BANDS")
-            ? dico_label("MESS_ERR_NO_BANDS", "This image doesn't have any band")
-            : dico_label("MESS_ERR_OPEN_RASTERDS", "This file can't be open as a raster dataset");
     if (!key.isEmpty())
-        messages::warning(disabled, {{}, text, {}}, dico_label("MESS_ATTENTION", "Warning"));
+        warnOfRaster(disabled, key == QLatin1String("MESS_ERR_NO_BANDS")
+                                   ? RasterProblem::NoBands
+                                   : RasterProblem::CannotOpen);
     return {};
 }
 

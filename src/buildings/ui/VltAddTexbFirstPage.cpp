@@ -5,6 +5,7 @@
 #include "buildings/HeightGuess.h"
 #include "buildings/SourceSummary.h"
 #include "buildings/ui/NoDataGuess.h"
+#include "buildings/ui/RasterMessages.h"
 #include "language/VltLanguageManager.h"
 #include "platform/Settings.h"
 #include "text/Numbers.h"
@@ -454,19 +455,10 @@ void VltAddTexbFirstPage::showTerrain(const QString &path, const TerrainResult &
         m_ui->m_pwLblDtmInfo->setText(
             tr("%1: %2", "MESS_FILE_REASON").arg(QFileInfo(path).fileName(), terrain.error().text));
 
-    const QString title = tr("Warning", "MESS_ATTENTION");
     if (!terrain)
-        messages::warning(this,
-                          {QStringLiteral("MESS_ERR_OPEN_RASTERDS"),
-                           QStringLiteral("This file can't be open as a raster dataset"),
-                           {}},
-                          title);
+        buildings::warnOfRaster(this, buildings::RasterProblem::CannotOpen);
     else if (!isUsable)
-        messages::warning(this,
-                          {QStringLiteral("MESS_ERR_NO_BANDS"),
-                           QStringLiteral("This image doesn't have any band"),
-                           {}},
-                          title);
+        buildings::warnOfRaster(this, buildings::RasterProblem::NoBands);
 }
 
 void VltAddTexbFirstPage::showSummaries()

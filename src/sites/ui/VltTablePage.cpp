@@ -1,5 +1,6 @@
 #include "sites/ui/VltTablePage.h"
 
+#include "platform/LayerFile.h"
 #include "platform/Settings.h"
 #include "sites/TableTexts.h"
 #include "sites/ui/VltSrsSettings.h"
@@ -338,7 +339,7 @@ void VltTablePage::writeLayerFile()
 
     const QString path = vlt::wizard::temporaryLayerFileName(m_kind.layerBaseName);
     const auto written =
-        vlt::sites::writeSiteLayer(path, layer.value().text, vlt::platform::Access::UserOnly);
+        vlt::platform::writeLayerFile(path, layer.value().text, vlt::platform::Access::UserOnly);
     if (!written) {
         vlt::messages::critical(this, written.error());
         return;

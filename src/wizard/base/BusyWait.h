@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Progress.h"
+
 #include <QString>
 
 #include <functional>
@@ -16,9 +18,7 @@ namespace vlt::wizard {
 /// must own everything that it uses.
 bool waitFor(QWidget *parent, const QString &text, const std::function<void()> &work);
 
-/// What work calls now and then with the share that is done (0..1), on any of its threads; false
-/// stops it.
-using WorkProgress = std::function<bool(double)>;
+using WorkProgress = platform::Progress;
 
 /// The same for work that tells how far it is: the bar shows the per cent. It is told to stop when
 /// the user cancels, but not waited for.

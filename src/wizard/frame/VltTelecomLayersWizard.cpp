@@ -1,12 +1,13 @@
 #include "wizard/frame/VltTelecomLayersWizard.h"
 
+#include "buildings/ui/VltAddTexbColoredPage.h"
 #include "buildings/ui/VltAddTexbFirstPage.h"
+#include "buildings/ui/VltAddTexbPreviewPage.h"
 #include "buildings/ui/VltAddTexbTexturedPage.h"
 #include "links/ui/VltAddLinkPage.h"
 #include "platform/Settings.h"
 #include "sites/ui/VltAddSitePage.h"
 #include "wizard/base/Messages.h"
-#include "wizard/frame/PlannedPage.h"
 #include "wizard/frame/VltFirstPage.h"
 #include "wizard/project/ui/VltSecondPage.h"
 
@@ -112,26 +113,13 @@ void VltTelecomLayersWizard::addBuildingPages()
     addPageAs(LogicalPage::BuildingsSource, source);
     auto *textured = new VltAddTexbTexturedPage(this, m_parameters, m_installDir, m_language);
     addPageAs(LogicalPage::BuildingsTextured, textured);
-    addPlannedPages();
+    addPageAs(LogicalPage::BuildingsColored,
+              new VltAddTexbColoredPage(this, m_parameters, m_installDir, m_language));
+    addPageAs(LogicalPage::BuildingsDisplay,
+              new VltAddTexbPreviewPage(this, m_parameters, m_installDir, m_language));
     source->setColoredPageId(pageId(LogicalPage::BuildingsColored));
     source->setTexturedPageId(pageId(LogicalPage::BuildingsTextured));
     textured->setNextId(pageId(LogicalPage::BuildingsDisplay));
-}
-
-void VltTelecomLayersWizard::addPlannedPages()
-{
-    const auto plan = [this](LogicalPage logical, const QString &title, const QString &purpose) {
-        addPageAs(logical,
-                  new PlannedPage(this, m_parameters, m_installDir, m_language, title, purpose));
-    };
-    plan(LogicalPage::BuildingsColored, tr("Coloured buildings", "MESS_PAGE_COLORED"),
-         tr("Here the buildings will be coloured from a raster, such as a coverage prediction, "
-            "through a colour map.",
-            "MESS_PLANNED_COLORED"));
-    plan(
-        LogicalPage::BuildingsDisplay, tr("Display of buildings", "MESS_PAGE_DISPLAY"),
-        tr("Here it will be chosen how textured buildings are shown, and their layer will be made.",
-           "MESS_PLANNED_DISPLAY"));
 }
 
 void VltTelecomLayersWizard::setNextIdOfSecondPage(int id)

@@ -53,7 +53,6 @@ private:
     void addPages();
     void addPageAs(LogicalPage logical, QWizardPage *page);
     void addBuildingPages();
-    void addPlannedPages();
     void keepOnScreen();
     void focusPage();
 

@@ -110,11 +110,7 @@ Buildings can be colored or textured with images (ortho-images, coverage plots, 
     </message>
 </context>
 <context>
-    <name>Planned pages</name>
-    <message id="MESS_PLANNED_PAGE">
-        <source>This version does not have this page yet. Go back to choose another kind of layer.</source>
-        <translation>This version does not have this page yet. Go back to choose another kind of layer.</translation>
-    </message>
+    <name>Titles of pages</name>
     <message id="MESS_PAGE_BUILDINGS">
         <source>Buildings</source>
         <translation>Buildings</translation>
@@ -127,17 +123,9 @@ Buildings can be colored or textured with images (ortho-images, coverage plots, 
         <source>Coloured buildings</source>
         <translation>Coloured buildings</translation>
     </message>
-    <message id="MESS_PLANNED_COLORED">
-        <source>Here the buildings will be coloured from a raster, such as a coverage prediction, through a colour map.</source>
-        <translation>Here the buildings will be coloured from a raster, such as a coverage prediction, through a colour map.</translation>
-    </message>
     <message id="MESS_PAGE_DISPLAY">
         <source>Display of buildings</source>
         <translation>Display of buildings</translation>
-    </message>
-    <message id="MESS_PLANNED_DISPLAY">
-        <source>Here it will be chosen how textured buildings are shown, and their layer will be made.</source>
-        <translation>Here it will be chosen how textured buildings are shown, and their layer will be made.</translation>
     </message>
 </context>
 <context>

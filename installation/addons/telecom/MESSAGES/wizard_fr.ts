@@ -110,11 +110,7 @@ Les bâtiments peuvent être colorés ou texturés avec des images (orthophotos,
     </message>
 </context>
 <context>
-    <name>Planned pages</name>
-    <message id="MESS_PLANNED_PAGE">
-        <source>This version does not have this page yet. Go back to choose another kind of layer.</source>
-        <translation>Cette version ne comporte pas encore cette page. Revenez en arrière pour choisir un autre type de couche.</translation>
-    </message>
+    <name>Titles of pages</name>
     <message id="MESS_PAGE_BUILDINGS">
         <source>Buildings</source>
         <translation>Bâtiments</translation>
@@ -127,17 +123,9 @@ Les bâtiments peuvent être colorés ou texturés avec des images (orthophotos,
         <source>Coloured buildings</source>
         <translation>Bâtiments colorés</translation>
     </message>
-    <message id="MESS_PLANNED_COLORED">
-        <source>Here the buildings will be coloured from a raster, such as a coverage prediction, through a colour map.</source>
-        <translation>Ici, les bâtiments seront colorés d'après une image raster, par exemple une prédiction de couverture, à l'aide d'une palette de couleurs.</translation>
-    </message>
     <message id="MESS_PAGE_DISPLAY">
         <source>Display of buildings</source>
         <translation>Affichage des bâtiments</translation>
-    </message>
-    <message id="MESS_PLANNED_DISPLAY">
-        <source>Here it will be chosen how textured buildings are shown, and their layer will be made.</source>
-        <translation>Ici sera choisi l'affichage des bâtiments texturés, et leur couche sera créée.</translation>
     </message>
 </context>
 <context>

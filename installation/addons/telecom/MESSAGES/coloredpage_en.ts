@@ -1,0 +1,248 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en_US" sourcelanguage="en">
+<context>
+    <name>Coloring of buildings</name>
+    <message id="MESS_FICHIER_IMAGE">
+        <source>Image file</source>
+        <translation>Image file</translation>
+    </message>
+    <message id="MESS_TIP_COLOR_IMAGE">
+        <source>Raster of one band whose values color the buildings; press Enter after typing one, or drop a file on the page</source>
+        <translation>Raster of one band whose values color the buildings; press Enter after typing one, or drop a file on the page</translation>
+    </message>
+    <message id="MESS_COLOR_IMAGE_KINDS">
+        <source>.tif, .asc or another raster of one band</source>
+        <translation>.tif, .asc or another raster of one band</translation>
+    </message>
+    <message id="MESS_SELECT_IMAGE_FILE">
+        <source>Select the image to use</source>
+        <translation>Select the image to use</translation>
+    </message>
+    <message id="MESS_SUBDATASETS">
+        <source>Subdatasets</source>
+        <translation>Subdatasets</translation>
+    </message>
+    <message id="MESS_TIP_SUBDATASETS">
+        <source>The image of the file that is used</source>
+        <translation>The image of the file that is used</translation>
+    </message>
+    <message id="MESS_VLTR3D_NODATA">
+        <source>No Data Value</source>
+        <translation>No Data Value</translation>
+    </message>
+    <message id="MESS_TIP_COLOR_NODATA">
+        <source>Value of pixels that hold nothing, besides the one that the file states itself; may be empty</source>
+        <translation>Value of pixels that hold nothing, besides the one that the file states itself; may be empty</translation>
+    </message>
+    <message id="MESS_TIP_GUESS_COLOR_NODATA">
+        <source>Look in the image for a value that is far too low or too high</source>
+        <translation>Look in the image for a value that is far too low or too high</translation>
+    </message>
+    <message id="MESS_FICH_TC">
+        <source>Colormap file</source>
+        <translation>Colormap file</translation>
+    </message>
+    <message id="MESS_TIP_CMAP">
+        <source>The colors of the values: the colormaps of the installation, then your own</source>
+        <translation>The colors of the values: the colormaps of the installation, then your own</translation>
+    </message>
+    <message id="MESS_ADD_PPP">
+        <source>Add...</source>
+        <translation>Add...</translation>
+    </message>
+    <message id="MESS_SELECT_CMAP_FILE">
+        <source>Select the colormap to use</source>
+        <translation>Select the colormap to use</translation>
+    </message>
+    <message id="MESS_CMAP_FILES">
+        <source>Colormap files</source>
+        <translation>Colormap files</translation>
+    </message>
+    <message id="MESS_STRETCH_CMAP">
+        <source>Stretch on raster min/max</source>
+        <translation>Stretch on raster min/max</translation>
+    </message>
+    <message id="MESS_TIP_STRETCH_CMAP">
+        <source>Lay the colors over the least and the greatest value of the image; else they belong to the values that the colormap gives them</source>
+        <translation>Lay the colors over the least and the greatest value of the image; else they belong to the values that the colormap gives them</translation>
+    </message>
+    <message id="MESS_INTERP_COULEUR">
+        <source>Color interpretation mode</source>
+        <translation>Color interpretation mode</translation>
+    </message>
+    <message id="MESS_TIP_INTERP_COULEUR">
+        <source>Whether a value between two of the colormap has the color of the lower one or a mixture of both</source>
+        <translation>Whether a value between two of the colormap has the color of the lower one or a mixture of both</translation>
+    </message>
+    <message id="MESS_PLAGE_COULEURS">
+        <source>Plage de couleurs</source>
+        <translation>Color ranges</translation>
+    </message>
+    <message id="MESS_INTERPOLATION">
+        <source>Interpolation</source>
+        <translation>Interpolation</translation>
+    </message>
+    <message id="MESS_COMPUTE_MODE">
+        <source>Compute mode</source>
+        <translation>Compute mode</translation>
+    </message>
+    <message id="MESS_TIP_COMPUTE_MODE">
+        <source>How the values of all pixels that a building covers become one</source>
+        <translation>How the values of all pixels that a building covers become one</translation>
+    </message>
+    <message id="MESS_CM_MIN">
+        <source>Minimum value</source>
+        <translation>Minimum value</translation>
+    </message>
+    <message id="MESS_CM_MAX">
+        <source>Maximum value</source>
+        <translation>Maximum value</translation>
+    </message>
+    <message id="MESS_CM_AVG">
+        <source>Average value</source>
+        <translation>Average value</translation>
+    </message>
+    <message id="MESS_CM_MOR">
+        <source>Most represented value</source>
+        <translation>Most represented value</translation>
+    </message>
+    <message id="MESS_ERR_ONLY_GRAY">
+        <source>The image-based coloring mode works only with one-band grey images</source>
+        <translation>The image-based coloring mode works only with one-band grey images</translation>
+    </message>
+    <message id="MESS_READING_IMAGE">
+        <source>Reading the image...</source>
+        <translation>Reading the image...</translation>
+    </message>
+    <message id="MESS_READING_RANGE">
+        <source>Looking for the least and the greatest value...</source>
+        <translation>Looking for the least and the greatest value...</translation>
+    </message>
+    <message id="MESS_NEED_COLOR_IMAGE">
+        <source>Choose the image that colors the buildings.</source>
+        <translation>Choose the image that colors the buildings.</translation>
+    </message>
+    <message id="MESS_NEED_ONE_BAND">
+        <source>Choose an image of one band.</source>
+        <translation>Choose an image of one band.</translation>
+    </message>
+    <message id="MESS_NODATA_NO_NUMBER">
+        <source>The value of no data is no number.</source>
+        <translation>The value of no data is no number.</translation>
+    </message>
+    <message id="MESS_NEED_CMAP">
+        <source>Add a colormap.</source>
+        <translation>Add a colormap.</translation>
+    </message>
+</context>
+<context>
+    <name>Extrusion of buildings</name>
+    <message id="MESS_VECTOR_SOURCE">
+        <source>Vector source</source>
+        <translation>Vector source</translation>
+    </message>
+    <message id="MESS_TIP_EXTRUDED_DISTANCE">
+        <source>Distance up to which the extruded buildings are drawn</source>
+        <translation>Distance up to which the extruded buildings are drawn</translation>
+    </message>
+    <message id="MESS_TILE_SIZE">
+        <source>Tile size</source>
+        <translation>Tile size</translation>
+    </message>
+    <message id="MESS_TIP_TILE_SIZE">
+        <source>Side of the squares in which the buildings are made and drawn</source>
+        <translation>Side of the squares in which the buildings are made and drawn</translation>
+    </message>
+    <message id="MESS_CHECK_GEOM_CW">
+        <source>Check that geometries are clockwise</source>
+        <translation>Check that geometries are clockwise</translation>
+    </message>
+    <message id="MESS_TIP_CHECK_GEOM_CW">
+        <source>For sources whose polygons run in either direction: some walls might else be lit from the wrong side</source>
+        <translation>For sources whose polygons run in either direction: some walls might else be lit from the wrong side</translation>
+    </message>
+    <message id="MESS_EXTRUSION">
+        <source>Extrusion</source>
+        <translation>Extrusion</translation>
+    </message>
+    <message id="MESS_SKIRT_SIZE">
+        <source>Skirt size</source>
+        <translation>Skirt size</translation>
+    </message>
+    <message id="MESS_TIP_SKIRT_SIZE">
+        <source>How far the walls go on below the ground, so that no gap is seen on slopes</source>
+        <translation>How far the walls go on below the ground, so that no gap is seen on slopes</translation>
+    </message>
+</context>
+<context>
+    <name>Preview of buildings</name>
+    <message id="MESS_AUTO_REFRESH">
+        <source>Auto refresh</source>
+        <translation>Auto refresh</translation>
+    </message>
+    <message id="MESS_TIP_AUTO_REFRESH">
+        <source>Make and show the layer again after every change</source>
+        <translation>Make and show the layer again after every change</translation>
+    </message>
+    <message id="MESS_MAJ_VUE">
+        <source>Refresh the view</source>
+        <translation>Refresh the view</translation>
+    </message>
+    <message id="MESS_RESET_VIEW">
+        <source>Reset the view</source>
+        <translation>Reset the view</translation>
+    </message>
+    <message id="MESS_TIP_RESET_VIEW">
+        <source>Look at all buildings, or at as many as can be seen at once</source>
+        <translation>Look at all buildings, or at as many as can be seen at once</translation>
+    </message>
+    <message id="MESS_LOADING_BUILDINGS">
+        <source>Loading the buildings...</source>
+        <translation>Loading the buildings...</translation>
+    </message>
+    <message id="MESS_LOADING_STOPPED">
+        <source>Loading was stopped; the layer itself is complete.</source>
+        <translation>Loading was stopped; the layer itself is complete.</translation>
+    </message>
+    <message id="MESS_BUILDINGS_NOT_SHOWN">
+        <source>The buildings cannot be shown: %1</source>
+        <translation>The buildings cannot be shown: %1</translation>
+    </message>
+    <message id="MESS_BUILDINGS_SHOWN">
+        <source>Buildings: %1</source>
+        <translation>Buildings: %1</translation>
+    </message>
+    <message id="MESS_BUILDINGS_LEFT_OUT">
+        <source>Buildings: %1, left out: %2</source>
+        <translation>Buildings: %1, left out: %2</translation>
+    </message>
+    <message id="MESS_VIEW_IS_STALE">
+        <source>The settings have changed: refresh the view to see them.</source>
+        <translation>The settings have changed: refresh the view to see them.</translation>
+    </message>
+    <message id="MESS_LAYER_NOT_MADE">
+        <source>The layer has not been made.</source>
+        <translation>The layer has not been made.</translation>
+    </message>
+</context>
+<context>
+    <name>Coloured page</name>
+    <message id="MESS_PROP_DISPLAY">
+        <source>Display properties</source>
+        <translation>Display properties</translation>
+    </message>
+    <message id="MESS_STD_PROPS">
+        <source>Standard Properties</source>
+        <translation>Standard Properties</translation>
+    </message>
+    <message id="MESS_ADV_PROPS">
+        <source>Advanced Properties</source>
+        <translation>Advanced Properties</translation>
+    </message>
+    <message id="MESS_NEED_BUILDINGS">
+        <source>There are no buildings yet.</source>
+        <translation>There are no buildings yet.</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,248 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr_FR" sourcelanguage="en">
+<context>
+    <name>Coloring of buildings</name>
+    <message id="MESS_FICHIER_IMAGE">
+        <source>Image file</source>
+        <translation>Fichier image</translation>
+    </message>
+    <message id="MESS_TIP_COLOR_IMAGE">
+        <source>Raster of one band whose values color the buildings; press Enter after typing one, or drop a file on the page</source>
+        <translation>Raster à une bande dont les valeurs colorent les bâtiments&#xa0;; validez par Entrée un chemin saisi, ou déposez un fichier sur la page</translation>
+    </message>
+    <message id="MESS_COLOR_IMAGE_KINDS">
+        <source>.tif, .asc or another raster of one band</source>
+        <translation>.tif, .asc ou autre raster</translation>
+    </message>
+    <message id="MESS_SELECT_IMAGE_FILE">
+        <source>Select the image to use</source>
+        <translation>Choisir l'image à utiliser</translation>
+    </message>
+    <message id="MESS_SUBDATASETS">
+        <source>Subdatasets</source>
+        <translation>Sous-jeux de données</translation>
+    </message>
+    <message id="MESS_TIP_SUBDATASETS">
+        <source>The image of the file that is used</source>
+        <translation>L'image du fichier qui est utilisée</translation>
+    </message>
+    <message id="MESS_VLTR3D_NODATA">
+        <source>No Data Value</source>
+        <translation>Valeur d'absence de donnée</translation>
+    </message>
+    <message id="MESS_TIP_COLOR_NODATA">
+        <source>Value of pixels that hold nothing, besides the one that the file states itself; may be empty</source>
+        <translation>Valeur des pixels vides, en plus de celle que le fichier indique lui-même&#xa0;; facultative</translation>
+    </message>
+    <message id="MESS_TIP_GUESS_COLOR_NODATA">
+        <source>Look in the image for a value that is far too low or too high</source>
+        <translation>Chercher dans l'image une valeur beaucoup trop basse ou trop haute</translation>
+    </message>
+    <message id="MESS_FICH_TC">
+        <source>Colormap file</source>
+        <translation>Palette de couleurs</translation>
+    </message>
+    <message id="MESS_TIP_CMAP">
+        <source>The colors of the values: the colormaps of the installation, then your own</source>
+        <translation>Les couleurs des valeurs&#xa0;: les palettes de l'installation, puis les vôtres</translation>
+    </message>
+    <message id="MESS_ADD_PPP">
+        <source>Add...</source>
+        <translation>Ajouter...</translation>
+    </message>
+    <message id="MESS_SELECT_CMAP_FILE">
+        <source>Select the colormap to use</source>
+        <translation>Choisir la palette de couleurs à utiliser</translation>
+    </message>
+    <message id="MESS_CMAP_FILES">
+        <source>Colormap files</source>
+        <translation>Palettes de couleurs</translation>
+    </message>
+    <message id="MESS_STRETCH_CMAP">
+        <source>Stretch on raster min/max</source>
+        <translation>Étirer sur le min/max du raster</translation>
+    </message>
+    <message id="MESS_TIP_STRETCH_CMAP">
+        <source>Lay the colors over the least and the greatest value of the image; else they belong to the values that the colormap gives them</source>
+        <translation>Répartir les couleurs entre la plus petite et la plus grande valeur de l'image&#xa0;; sinon elles vont aux valeurs que la palette leur donne</translation>
+    </message>
+    <message id="MESS_INTERP_COULEUR">
+        <source>Color interpretation mode</source>
+        <translation>Interprétation des couleurs</translation>
+    </message>
+    <message id="MESS_TIP_INTERP_COULEUR">
+        <source>Whether a value between two of the colormap has the color of the lower one or a mixture of both</source>
+        <translation>Une valeur entre deux de la palette prend la couleur de la plus basse, ou un mélange des deux</translation>
+    </message>
+    <message id="MESS_PLAGE_COULEURS">
+        <source>Plage de couleurs</source>
+        <translation>Plage de couleurs</translation>
+    </message>
+    <message id="MESS_INTERPOLATION">
+        <source>Interpolation</source>
+        <translation>Interpolation</translation>
+    </message>
+    <message id="MESS_COMPUTE_MODE">
+        <source>Compute mode</source>
+        <translation>Mode de calcul</translation>
+    </message>
+    <message id="MESS_TIP_COMPUTE_MODE">
+        <source>How the values of all pixels that a building covers become one</source>
+        <translation>Comment les valeurs des pixels couverts par un bâtiment deviennent une seule</translation>
+    </message>
+    <message id="MESS_CM_MIN">
+        <source>Minimum value</source>
+        <translation>Valeur minimale</translation>
+    </message>
+    <message id="MESS_CM_MAX">
+        <source>Maximum value</source>
+        <translation>Valeur maximale</translation>
+    </message>
+    <message id="MESS_CM_AVG">
+        <source>Average value</source>
+        <translation>Valeur moyenne</translation>
+    </message>
+    <message id="MESS_CM_MOR">
+        <source>Most represented value</source>
+        <translation>Valeur la plus représentée</translation>
+    </message>
+    <message id="MESS_ERR_ONLY_GRAY">
+        <source>The image-based coloring mode works only with one-band grey images</source>
+        <translation>Le mode de coloration par image ne fonctionne qu'avec des images grises à une bande</translation>
+    </message>
+    <message id="MESS_READING_IMAGE">
+        <source>Reading the image...</source>
+        <translation>Lecture de l'image...</translation>
+    </message>
+    <message id="MESS_READING_RANGE">
+        <source>Looking for the least and the greatest value...</source>
+        <translation>Recherche de la plus petite et de la plus grande valeur...</translation>
+    </message>
+    <message id="MESS_NEED_COLOR_IMAGE">
+        <source>Choose the image that colors the buildings.</source>
+        <translation>Choisissez l'image qui colore les bâtiments.</translation>
+    </message>
+    <message id="MESS_NEED_ONE_BAND">
+        <source>Choose an image of one band.</source>
+        <translation>Choisissez une image à une bande.</translation>
+    </message>
+    <message id="MESS_NODATA_NO_NUMBER">
+        <source>The value of no data is no number.</source>
+        <translation>La valeur d'absence de donnée n'est pas un nombre.</translation>
+    </message>
+    <message id="MESS_NEED_CMAP">
+        <source>Add a colormap.</source>
+        <translation>Ajoutez une palette de couleurs.</translation>
+    </message>
+</context>
+<context>
+    <name>Extrusion of buildings</name>
+    <message id="MESS_VECTOR_SOURCE">
+        <source>Vector source</source>
+        <translation>Source vectorielle</translation>
+    </message>
+    <message id="MESS_TIP_EXTRUDED_DISTANCE">
+        <source>Distance up to which the extruded buildings are drawn</source>
+        <translation>Distance jusqu'à laquelle les bâtiments extrudés sont dessinés</translation>
+    </message>
+    <message id="MESS_TILE_SIZE">
+        <source>Tile size</source>
+        <translation>Taille des tuiles</translation>
+    </message>
+    <message id="MESS_TIP_TILE_SIZE">
+        <source>Side of the squares in which the buildings are made and drawn</source>
+        <translation>Côté des carrés par lesquels les bâtiments sont construits et dessinés</translation>
+    </message>
+    <message id="MESS_CHECK_GEOM_CW">
+        <source>Check that geometries are clockwise</source>
+        <translation>Vérifier que les géométries tournent dans le sens horaire</translation>
+    </message>
+    <message id="MESS_TIP_CHECK_GEOM_CW">
+        <source>For sources whose polygons run in either direction: some walls might else be lit from the wrong side</source>
+        <translation>Pour les sources dont les polygones tournent dans les deux sens&#xa0;: certains murs pourraient sinon être éclairés du mauvais côté</translation>
+    </message>
+    <message id="MESS_EXTRUSION">
+        <source>Extrusion</source>
+        <translation>Extrusion</translation>
+    </message>
+    <message id="MESS_SKIRT_SIZE">
+        <source>Skirt size</source>
+        <translation>Taille de la jupe</translation>
+    </message>
+    <message id="MESS_TIP_SKIRT_SIZE">
+        <source>How far the walls go on below the ground, so that no gap is seen on slopes</source>
+        <translation>Prolongement des murs sous le sol, pour qu'aucun vide n'apparaisse dans les pentes</translation>
+    </message>
+</context>
+<context>
+    <name>Preview of buildings</name>
+    <message id="MESS_AUTO_REFRESH">
+        <source>Auto refresh</source>
+        <translation>Actualisation automatique</translation>
+    </message>
+    <message id="MESS_TIP_AUTO_REFRESH">
+        <source>Make and show the layer again after every change</source>
+        <translation>Refaire et afficher la couche après chaque changement</translation>
+    </message>
+    <message id="MESS_MAJ_VUE">
+        <source>Refresh the view</source>
+        <translation>Actualiser la vue</translation>
+    </message>
+    <message id="MESS_RESET_VIEW">
+        <source>Reset the view</source>
+        <translation>Réinitialiser la vue</translation>
+    </message>
+    <message id="MESS_TIP_RESET_VIEW">
+        <source>Look at all buildings, or at as many as can be seen at once</source>
+        <translation>Regarder tous les bâtiments, ou autant qu'on peut en voir à la fois</translation>
+    </message>
+    <message id="MESS_LOADING_BUILDINGS">
+        <source>Loading the buildings...</source>
+        <translation>Chargement des bâtiments...</translation>
+    </message>
+    <message id="MESS_LOADING_STOPPED">
+        <source>Loading was stopped; the layer itself is complete.</source>
+        <translation>Le chargement a été arrêté&#xa0;; la couche elle-même est complète.</translation>
+    </message>
+    <message id="MESS_BUILDINGS_NOT_SHOWN">
+        <source>The buildings cannot be shown: %1</source>
+        <translation>Les bâtiments ne peuvent pas être affichés&#xa0;: %1</translation>
+    </message>
+    <message id="MESS_BUILDINGS_SHOWN">
+        <source>Buildings: %1</source>
+        <translation>Bâtiments&#xa0;: %1</translation>
+    </message>
+    <message id="MESS_BUILDINGS_LEFT_OUT">
+        <source>Buildings: %1, left out: %2</source>
+        <translation>Bâtiments&#xa0;: %1, laissés de côté&#xa0;: %2</translation>
+    </message>
+    <message id="MESS_VIEW_IS_STALE">
+        <source>The settings have changed: refresh the view to see them.</source>
+        <translation>Les réglages ont changé&#xa0;: actualisez la vue pour les voir.</translation>
+    </message>
+    <message id="MESS_LAYER_NOT_MADE">
+        <source>The layer has not been made.</source>
+        <translation>La couche n'a pas été créée.</translation>
+    </message>
+</context>
+<context>
+    <name>Coloured page</name>
+    <message id="MESS_PROP_DISPLAY">
+        <source>Display properties</source>
+        <translation>Propriétés d'affichage</translation>
+    </message>
+    <message id="MESS_STD_PROPS">
+        <source>Standard Properties</source>
+        <translation>Propriétés standard</translation>
+    </message>
+    <message id="MESS_ADV_PROPS">
+        <source>Advanced Properties</source>
+        <translation>Propriétés avancées</translation>
+    </message>
+    <message id="MESS_NEED_BUILDINGS">
+        <source>There are no buildings yet.</source>
+        <translation>Il n'y a pas encore de bâtiments.</translation>
+    </message>
+</context>
+</TS>

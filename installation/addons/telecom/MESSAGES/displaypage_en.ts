@@ -1,0 +1,233 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en_US" sourcelanguage="en">
+<context>
+    <name>Display of buildings</name>
+    <message id="MESS_TAB_COLORING">
+        <source>Colour map</source>
+        <translation>Colour map</translation>
+    </message>
+    <message id="MESS_DRAG_ICON_TEXB">
+        <source>Drag this icon into
+Veltaro Builder
+to add the building layer
+</source>
+        <translation>Drag this icon into
+Veltaro Builder
+to add the building layer
+</translation>
+    </message>
+    <message id="MESS_TEXTURED_REPR">
+        <source>Textured representation</source>
+        <translation>Textured representation</translation>
+    </message>
+    <message id="MESS_TEXTURE_TYPE">
+        <source>Images on</source>
+        <translation>Images on</translation>
+    </message>
+    <message id="MESS_TIP_TEXTURE_TYPE">
+        <source>Roofs: the image nearest to the height of the building. Walls: bands of colours around each image height. Storeys: a floor at each image height</source>
+        <translation>Roofs: the image nearest to the height of the building. Walls: bands of colours around each image height. Storeys: a floor at each image height</translation>
+    </message>
+    <message id="MESS_TEX_ROOFS">
+        <source>Roofs</source>
+        <translation>Roofs</translation>
+    </message>
+    <message id="MESS_TEX_WALLS">
+        <source>Walls</source>
+        <translation>Walls</translation>
+    </message>
+    <message id="MESS_TEX_STOREYS">
+        <source>Storeys</source>
+        <translation>Storeys</translation>
+    </message>
+    <message id="MESS_TEXTURED_DISTANCE">
+        <source>Shown up to</source>
+        <translation>Shown up to</translation>
+    </message>
+    <message id="MESS_TIP_TEXTURED_DISTANCE">
+        <source>Distance up to which the images are shown; beyond it the buildings have their plain colours</source>
+        <translation>Distance up to which the images are shown; beyond it the buildings have their plain colours</translation>
+    </message>
+    <message id="MESS_EDGES">
+        <source>Edges</source>
+        <translation>Edges</translation>
+    </message>
+    <message id="MESS_TIP_EDGE_COLOR">
+        <source>Colour of the lines along the edges of the buildings and the storeys</source>
+        <translation>Colour of the lines along the edges of the buildings and the storeys</translation>
+    </message>
+    <message id="MESS_TIP_FORCE_EDGES">
+        <source>Draws the edges also where the images would do without them</source>
+        <translation>Draws the edges also where the images would do without them</translation>
+    </message>
+    <message id="MESS_FORCE_EDGES">
+        <source>Always draw edges</source>
+        <translation>Always draw edges</translation>
+    </message>
+    <message id="MESS_TIP_COMPLEX_BUILDINGS">
+        <source>Buildings with courtyards or of many corners have images too, which takes longer</source>
+        <translation>Buildings with courtyards or of many corners have images too, which takes longer</translation>
+    </message>
+    <message id="MESS_COMPLEX_BUILDINGS">
+        <source>Images on complex buildings too</source>
+        <translation>Images on complex buildings too</translation>
+    </message>
+    <message id="MESS_TEX_IMAGES">
+        <source>Images</source>
+        <translation>Images</translation>
+    </message>
+    <message id="MESS_TEX_COMPRESSION">
+        <source>Compression</source>
+        <translation>Compression</translation>
+    </message>
+    <message id="MESS_TIP_TEX_COMPRESSION">
+        <source>How the images are kept in the memory of the graphics card</source>
+        <translation>How the images are kept in the memory of the graphics card</translation>
+    </message>
+    <message id="MESS_TEX_UNCOMPRESSED">
+        <source>Uncompressed</source>
+        <translation>Uncompressed</translation>
+    </message>
+    <message id="MESS_TEX_RESAMPLING">
+        <source>Resampling</source>
+        <translation>Resampling</translation>
+    </message>
+    <message id="MESS_TIP_TEX_RESAMPLING">
+        <source>How an image looks from near: each pixel as it is, or blended with those beside it</source>
+        <translation>How an image looks from near: each pixel as it is, or blended with those beside it</translation>
+    </message>
+    <message id="MESS_RESAMPLING_NONE">
+        <source>None</source>
+        <translation>None</translation>
+    </message>
+    <message id="MESS_RESAMPLING_LINEAR">
+        <source>Linear</source>
+        <translation>Linear</translation>
+    </message>
+    <message id="MESS_TIP_TEX_BUFFER">
+        <source>Walls take the colours this far outside the building</source>
+        <translation>Walls take the colours this far outside the building</translation>
+    </message>
+    <message id="MESS_TEX_BUFFER">
+        <source>Buffer</source>
+        <translation>Buffer</translation>
+    </message>
+    <message id="MESS_TIP_TEX_DILATATION">
+        <source>The colours of an image grow by so many pixels into its empty ones</source>
+        <translation>The colours of an image grow by so many pixels into its empty ones</translation>
+    </message>
+    <message id="MESS_TEX_DILATATION">
+        <source>Dilatation</source>
+        <translation>Dilatation</translation>
+    </message>
+    <message id="MESS_UNIT_PIXELS">
+        <source> px</source>
+        <translation> px</translation>
+    </message>
+    <message id="MESS_CACHE">
+        <source>Cache</source>
+        <translation>Cache</translation>
+    </message>
+    <message id="MESS_CACHE_KEEP">
+        <source>Keep</source>
+        <translation>Keep</translation>
+    </message>
+    <message id="MESS_TIP_CACHE">
+        <source>What the builder keeps on the disk of the buildings once they are made</source>
+        <translation>What the builder keeps on the disk of the buildings once they are made</translation>
+    </message>
+    <message id="MESS_CACHE_NOTHING">
+        <source>Nothing</source>
+        <translation>Nothing</translation>
+    </message>
+    <message id="MESS_CACHE_EVERYTHING">
+        <source>Everything</source>
+        <translation>Everything</translation>
+    </message>
+    <message id="MESS_CACHE_TEXTURED">
+        <source>Textured only</source>
+        <translation>Textured only</translation>
+    </message>
+    <message id="MESS_CACHE_EXTRUDED">
+        <source>Extruded only</source>
+        <translation>Extruded only</translation>
+    </message>
+    <message id="MESS_TIP_CACHE_DELAYED">
+        <source>Writes several elements together instead of each at once</source>
+        <translation>Writes several elements together instead of each at once</translation>
+    </message>
+    <message id="MESS_CACHE_DELAYED">
+        <source>Write later</source>
+        <translation>Write later</translation>
+    </message>
+    <message id="MESS_CACHE_CAPACITY">
+        <source>Waiting elements</source>
+        <translation>Waiting elements</translation>
+    </message>
+    <message id="MESS_TIP_CACHE_CAPACITY">
+        <source>So many elements wait at most before they are written</source>
+        <translation>So many elements wait at most before they are written</translation>
+    </message>
+    <message id="MESS_EXTRUDED_REPR">
+        <source>Colours of the extruded representation</source>
+        <translation>Colours of the extruded representation</translation>
+    </message>
+    <message id="MESS_COLORS_WALLS">
+        <source>Walls</source>
+        <translation>Walls</translation>
+    </message>
+    <message id="MESS_TIP_WALL_KIND">
+        <source>What colours the walls where they have no image</source>
+        <translation>What colours the walls where they have no image</translation>
+    </message>
+    <message id="MESS_COLOR_ONE">
+        <source>One colour</source>
+        <translation>One colour</translation>
+    </message>
+    <message id="MESS_COLOR_FROM_MAP">
+        <source>From a colour map</source>
+        <translation>From a colour map</translation>
+    </message>
+    <message id="MESS_TIP_ONE_COLOR">
+        <source>Choose the colour</source>
+        <translation>Choose the colour</translation>
+    </message>
+    <message id="MESS_COLORS_ROOFS">
+        <source>Roofs</source>
+        <translation>Roofs</translation>
+    </message>
+    <message id="MESS_TIP_ROOF_KIND">
+        <source>What colours the roofs where they have no image</source>
+        <translation>What colours the roofs where they have no image</translation>
+    </message>
+    <message id="MESS_TIP_COLORING">
+        <source>Choose the image and the colour map, for walls and roofs alike</source>
+        <translation>Choose the image and the colour map, for walls and roofs alike</translation>
+    </message>
+    <message id="MESS_COLORING_ADD">
+        <source>Image and colour map...</source>
+        <translation>Image and colour map...</translation>
+    </message>
+    <message id="MESS_NO_IMAGE_TICKED">
+        <source>No image is ticked: the buildings are shown without images.</source>
+        <translation>No image is ticked: the buildings are shown without images.</translation>
+    </message>
+    <message id="MESS_EDGE_COLOR">
+        <source>Colour of the edges</source>
+        <translation>Colour of the edges</translation>
+    </message>
+    <message id="MESS_WALL_COLOR">
+        <source>Colour of the walls</source>
+        <translation>Colour of the walls</translation>
+    </message>
+    <message id="MESS_ROOF_COLOR">
+        <source>Colour of the roofs</source>
+        <translation>Colour of the roofs</translation>
+    </message>
+    <message id="MESS_DRAG_NAME_TEXB">
+        <source>Layer of buildings to drag into the builder</source>
+        <translation>Layer of buildings to drag into the builder</translation>
+    </message>
+</context>
+</TS>

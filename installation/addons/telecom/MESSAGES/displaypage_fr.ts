@@ -1,0 +1,233 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr_FR" sourcelanguage="en">
+<context>
+    <name>Display of buildings</name>
+    <message id="MESS_TAB_COLORING">
+        <source>Colour map</source>
+        <translation>Palette</translation>
+    </message>
+    <message id="MESS_DRAG_ICON_TEXB">
+        <source>Drag this icon into
+Veltaro Builder
+to add the building layer
+</source>
+        <translation>Faites glisser cette icône
+dans Veltaro Builder pour
+ajouter la couche de bâtiments
+</translation>
+    </message>
+    <message id="MESS_TEXTURED_REPR">
+        <source>Textured representation</source>
+        <translation>Représentation texturée</translation>
+    </message>
+    <message id="MESS_TEXTURE_TYPE">
+        <source>Images on</source>
+        <translation>Images sur</translation>
+    </message>
+    <message id="MESS_TIP_TEXTURE_TYPE">
+        <source>Roofs: the image nearest to the height of the building. Walls: bands of colours around each image height. Storeys: a floor at each image height</source>
+        <translation>Toits&#xa0;: l'image dont la hauteur est la plus proche de celle du bâtiment. Murs&#xa0;: une bande de couleurs autour de la hauteur de chaque image. Étages&#xa0;: un plancher à la hauteur de chaque image</translation>
+    </message>
+    <message id="MESS_TEX_ROOFS">
+        <source>Roofs</source>
+        <translation>Toits</translation>
+    </message>
+    <message id="MESS_TEX_WALLS">
+        <source>Walls</source>
+        <translation>Murs</translation>
+    </message>
+    <message id="MESS_TEX_STOREYS">
+        <source>Storeys</source>
+        <translation>Étages</translation>
+    </message>
+    <message id="MESS_TEXTURED_DISTANCE">
+        <source>Shown up to</source>
+        <translation>Visibles jusqu'à</translation>
+    </message>
+    <message id="MESS_TIP_TEXTURED_DISTANCE">
+        <source>Distance up to which the images are shown; beyond it the buildings have their plain colours</source>
+        <translation>Distance jusqu'à laquelle les images sont affichées&#xa0;; au-delà, les bâtiments ont leurs couleurs unies</translation>
+    </message>
+    <message id="MESS_EDGES">
+        <source>Edges</source>
+        <translation>Arêtes</translation>
+    </message>
+    <message id="MESS_TIP_EDGE_COLOR">
+        <source>Colour of the lines along the edges of the buildings and the storeys</source>
+        <translation>Couleur des traits le long des arêtes des bâtiments et des étages</translation>
+    </message>
+    <message id="MESS_TIP_FORCE_EDGES">
+        <source>Draws the edges also where the images would do without them</source>
+        <translation>Trace les arêtes même là où les images s'en passent</translation>
+    </message>
+    <message id="MESS_FORCE_EDGES">
+        <source>Always draw edges</source>
+        <translation>Toujours tracées</translation>
+    </message>
+    <message id="MESS_TIP_COMPLEX_BUILDINGS">
+        <source>Buildings with courtyards or of many corners have images too, which takes longer</source>
+        <translation>Les bâtiments à cour ou à nombreux angles ont aussi des images, ce qui prend plus de temps</translation>
+    </message>
+    <message id="MESS_COMPLEX_BUILDINGS">
+        <source>Images on complex buildings too</source>
+        <translation>Images aussi sur les bâtiments complexes</translation>
+    </message>
+    <message id="MESS_TEX_IMAGES">
+        <source>Images</source>
+        <translation>Images</translation>
+    </message>
+    <message id="MESS_TEX_COMPRESSION">
+        <source>Compression</source>
+        <translation>Compression</translation>
+    </message>
+    <message id="MESS_TIP_TEX_COMPRESSION">
+        <source>How the images are kept in the memory of the graphics card</source>
+        <translation>Format des images dans la mémoire de la carte graphique</translation>
+    </message>
+    <message id="MESS_TEX_UNCOMPRESSED">
+        <source>Uncompressed</source>
+        <translation>Sans compression</translation>
+    </message>
+    <message id="MESS_TEX_RESAMPLING">
+        <source>Resampling</source>
+        <translation>Rééchantillonnage</translation>
+    </message>
+    <message id="MESS_TIP_TEX_RESAMPLING">
+        <source>How an image looks from near: each pixel as it is, or blended with those beside it</source>
+        <translation>Aspect d'une image vue de près&#xa0;: chaque pixel tel quel, ou fondu avec ses voisins</translation>
+    </message>
+    <message id="MESS_RESAMPLING_NONE">
+        <source>None</source>
+        <translation>Aucun</translation>
+    </message>
+    <message id="MESS_RESAMPLING_LINEAR">
+        <source>Linear</source>
+        <translation>Linéaire</translation>
+    </message>
+    <message id="MESS_TIP_TEX_BUFFER">
+        <source>Walls take the colours this far outside the building</source>
+        <translation>Les murs prennent les couleurs situées à cette distance hors du bâtiment</translation>
+    </message>
+    <message id="MESS_TEX_BUFFER">
+        <source>Buffer</source>
+        <translation>Tampon</translation>
+    </message>
+    <message id="MESS_TIP_TEX_DILATATION">
+        <source>The colours of an image grow by so many pixels into its empty ones</source>
+        <translation>Les couleurs d'une image gagnent ce nombre de pixels sur les pixels vides</translation>
+    </message>
+    <message id="MESS_TEX_DILATATION">
+        <source>Dilatation</source>
+        <translation>Dilatation</translation>
+    </message>
+    <message id="MESS_UNIT_PIXELS">
+        <source> px</source>
+        <translation> px</translation>
+    </message>
+    <message id="MESS_CACHE">
+        <source>Cache</source>
+        <translation>Cache</translation>
+    </message>
+    <message id="MESS_CACHE_KEEP">
+        <source>Keep</source>
+        <translation>Conserver</translation>
+    </message>
+    <message id="MESS_TIP_CACHE">
+        <source>What the builder keeps on the disk of the buildings once they are made</source>
+        <translation>Ce que Veltaro Builder garde sur le disque des bâtiments une fois créés</translation>
+    </message>
+    <message id="MESS_CACHE_NOTHING">
+        <source>Nothing</source>
+        <translation>Rien</translation>
+    </message>
+    <message id="MESS_CACHE_EVERYTHING">
+        <source>Everything</source>
+        <translation>Tout</translation>
+    </message>
+    <message id="MESS_CACHE_TEXTURED">
+        <source>Textured only</source>
+        <translation>Texturés seulement</translation>
+    </message>
+    <message id="MESS_CACHE_EXTRUDED">
+        <source>Extruded only</source>
+        <translation>Extrudés seulement</translation>
+    </message>
+    <message id="MESS_TIP_CACHE_DELAYED">
+        <source>Writes several elements together instead of each at once</source>
+        <translation>Écrit plusieurs éléments ensemble au lieu de chacun aussitôt</translation>
+    </message>
+    <message id="MESS_CACHE_DELAYED">
+        <source>Write later</source>
+        <translation>Écriture différée</translation>
+    </message>
+    <message id="MESS_CACHE_CAPACITY">
+        <source>Waiting elements</source>
+        <translation>Éléments en attente</translation>
+    </message>
+    <message id="MESS_TIP_CACHE_CAPACITY">
+        <source>So many elements wait at most before they are written</source>
+        <translation>Nombre d'éléments qui attendent au plus avant d'être écrits</translation>
+    </message>
+    <message id="MESS_EXTRUDED_REPR">
+        <source>Colours of the extruded representation</source>
+        <translation>Couleurs de la représentation extrudée</translation>
+    </message>
+    <message id="MESS_COLORS_WALLS">
+        <source>Walls</source>
+        <translation>Murs</translation>
+    </message>
+    <message id="MESS_TIP_WALL_KIND">
+        <source>What colours the walls where they have no image</source>
+        <translation>D'où vient la couleur des murs sans image</translation>
+    </message>
+    <message id="MESS_COLOR_ONE">
+        <source>One colour</source>
+        <translation>Une couleur</translation>
+    </message>
+    <message id="MESS_COLOR_FROM_MAP">
+        <source>From a colour map</source>
+        <translation>D'une palette</translation>
+    </message>
+    <message id="MESS_TIP_ONE_COLOR">
+        <source>Choose the colour</source>
+        <translation>Choisir la couleur</translation>
+    </message>
+    <message id="MESS_COLORS_ROOFS">
+        <source>Roofs</source>
+        <translation>Toits</translation>
+    </message>
+    <message id="MESS_TIP_ROOF_KIND">
+        <source>What colours the roofs where they have no image</source>
+        <translation>D'où vient la couleur des toits sans image</translation>
+    </message>
+    <message id="MESS_TIP_COLORING">
+        <source>Choose the image and the colour map, for walls and roofs alike</source>
+        <translation>Choisir l'image et la palette, communes aux murs et aux toits</translation>
+    </message>
+    <message id="MESS_COLORING_ADD">
+        <source>Image and colour map...</source>
+        <translation>Image et palette...</translation>
+    </message>
+    <message id="MESS_NO_IMAGE_TICKED">
+        <source>No image is ticked: the buildings are shown without images.</source>
+        <translation>Aucune image n'est cochée&#xa0;: les bâtiments sont affichés sans images.</translation>
+    </message>
+    <message id="MESS_EDGE_COLOR">
+        <source>Colour of the edges</source>
+        <translation>Couleur des arêtes</translation>
+    </message>
+    <message id="MESS_WALL_COLOR">
+        <source>Colour of the walls</source>
+        <translation>Couleur des murs</translation>
+    </message>
+    <message id="MESS_ROOF_COLOR">
+        <source>Colour of the roofs</source>
+        <translation>Couleur des toits</translation>
+    </message>
+    <message id="MESS_DRAG_NAME_TEXB">
+        <source>Layer of buildings to drag into the builder</source>
+        <translation>Couche de bâtiments à faire glisser dans Veltaro Builder</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,150 @@
+#include "batch/BuildingsCommand.h"
+
+#include "batch/BuildingsInputs.h"
+#include "batch/Console.h"
+#include "batch/Help.h"
+#include "batch/OutputFiles.h"
+#include "language/VltLanguageManager.h"
+
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <algorithm>
+
+namespace vlt::batch {
+
+namespace {
+
+using buildings::BuildingLayerFiles;
+using buildings::TexbSubtype;
+
+const QString Examples =
+    QStringLiteral("\nExamples:\n"
+                   "  vltlayers buildings town.shp --dtm hills.tif --image level.tif \\\n"
+                   "      --colormap signal_level_dBm --absolute --mode average -o town.lay\n"
+                   "  vltlayers buildings --project city.gvw --textures coverage_6m.tif \\\n"
+                   "      --texture-on walls -o town.lay\n"
+                   "  vltlayers buildings --project city.gvw --texture low.tif=1.5 \\\n"
+                   "      --texture high.tif=12 --texture-on storeys -o town.lay\n"
+                   "  vltlayers snapshot town.lay --project city.gvw -o town.png\n");
+
+void describe(QCommandLineParser &parser)
+{
+    parser.setApplicationDescription(QStringLiteral(
+        "Makes a layer of 3D buildings, the same that the wizard makes: coloured from a raster\n"
+        "(--image), or with images on roofs, walls or storeys (--texture, --textures)."));
+    parser.addPositionalArgument(
+        QStringLiteral("VECTOR"),
+        QStringLiteral("Vector file with the outlines of the buildings (default: the project's)."),
+        QStringLiteral("buildings [VECTOR] -o OUT.lay"));
+    addBuildingsOptions(parser);
+    addGlobalOptions(parser);
+}
+
+/// Files that the layer consists of.
+QStringList outputsOf(const QString &layerPath, const buildings::BuildingLayerInput &input)
+{
+    const BuildingLayerFiles files = buildings::filesOf(layerPath, input);
+    return {files.layer, files.document, files.legend};
+}
+
+Result<BuildingLayerFiles> writeFiles(const BuildingsRequest &request,
+                                      const BuildingsInputs &inputs, QString &reason)
+{
+    constexpr auto access = platform::Access::Shared;
+    return request.textures ? buildings::writeTexturedLayer(request.output, inputs.layer,
+                                                            inputs.look, access, &reason)
+                            : buildings::writeColoredLayer(request.output, inputs.layer,
+                                                           inputs.coloring, access, &reason);
+}
+
+void warnOfImages(const buildings::TexturedLook &look)
+{
+    const QList<buildings::FileEntry> &images = look.textures->images;
+    const auto count =
+        std::count_if(images.begin(), images.end(),
+                      [](const buildings::FileEntry &image) { return image.height == 0; });
+    if (count > 0)
+        printError(dico_label("MESS_CLI_NO_HEIGHTS", "images that state no height, 0 m is taken") +
+                   QStringLiteral(": %1").arg(count));
+}
+
+QString layerJson(const BuildingsRequest &request, const BuildingsInputs &inputs,
+                  const BuildingLayerFiles &files)
+{
+    const buildings::BuildingsSource &source = inputs.layer.source;
+    const auto textOrNull = [](const QString &text) {
+        return text.isEmpty() ? QJsonValue(QJsonValue::Null) : QJsonValue(text);
+    };
+    const TexbSubtype subtype = request.textures ? inputs.look.subtype : TexbSubtype::Colored;
+    QJsonObject object{{QStringLiteral("layer"), QFileInfo(files.layer).absoluteFilePath()},
+                       {QStringLiteral("document"), files.document},
+                       {QStringLiteral("legend"), textOrNull(files.legend)},
+                       {QStringLiteral("subtype"), buildings::subtypeName(subtype)},
+                       {QStringLiteral("vector"), source.file},
+                       {QStringLiteral("vectorLayer"), source.layer},
+                       {QStringLiteral("heightField"), source.heightField},
+                       {QStringLiteral("buildings"), inputs.buildingCount < 0
+                                                         ? QJsonValue(QJsonValue::Null)
+                                                         : QJsonValue(inputs.buildingCount)},
+                       {QStringLiteral("terrain"), source.terrain.file},
+                       {QStringLiteral("terrainNoData"), textOrNull(source.terrain.noData)},
+                       {QStringLiteral("image"), textOrNull(inputs.coloring.rasterFile)},
+                       {QStringLiteral("colormap"), textOrNull(inputs.coloring.colorMap)},
+                       {QStringLiteral("xCenter"), source.xCenter},
+                       {QStringLiteral("yCenter"), source.yCenter}};
+    if (request.textures)
+        object.insert(QStringLiteral("textures"), inputs.look.textures->images.size());
+    return QString::fromUtf8(QJsonDocument(object).toJson());
+}
+
+ExitStatus runParsed(const BuildingsRequest &request, const GlobalOptions &options,
+                     const Surroundings &surroundings)
+{
+    const Result<BuildingsInputs> inputs =
+        readBuildingsInputs(request, surroundings, options.quiet);
+    if (!inputs)
+        return refuse(inputs.error());
+    for (const QString &output : outputsOf(request.output, inputs.value().layer)) {
+        if (!output.isEmpty() && isOneOf(output, inputs.value().files))
+            return refuse(outputIsInput(output));
+    }
+    QString reason;
+    const Result<BuildingLayerFiles> written = writeFiles(request, inputs.value(), reason);
+    if (!written)
+        return refuse(written.error(), reason);
+    if (request.textures && !options.quiet)
+        warnOfImages(inputs.value().look);
+    if (options.json && !printOut(layerJson(request, inputs.value(), written.value())))
+        return refuse({QString(), QStringLiteral("the output cannot be written"), {}});
+    return ExitStatus::Done;
+}
+
+} // namespace
+
+ExitStatus runBuildings(const QStringList &arguments)
+{
+    QCommandLineParser parser;
+    describe(parser);
+    const Result<GlobalOptions> options =
+        parseArguments(parser, arguments, {0, 1, QStringLiteral("vector file")});
+    if (const auto answered = answerHelp(parser, options, Examples))
+        return *answered;
+    const Result<BuildingsRequest> request = readBuildingsOptions(parser);
+    if (!request)
+        return refuseUsage(request.error().text);
+    if (options.value().projectPath.isEmpty()) {
+        if (request.value().vector.isEmpty())
+            return refuseUsage(QStringLiteral("no vector file given, and no --project"));
+        if (request.value().terrain.isEmpty())
+            return refuseUsage(QStringLiteral("no terrain given (--dtm), and no --project"));
+    }
+
+    const Result<Surroundings> surroundings = startUp(options.value());
+    if (!surroundings)
+        return refuse(surroundings.error());
+    return runParsed(request.value(), options.value(), surroundings.value());
+}
+
+} // namespace vlt::batch

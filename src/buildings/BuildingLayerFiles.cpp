@@ -1,0 +1,229 @@
+#include "buildings/BuildingLayerFiles.h"
+
+#include "buildings/TexturedInfoText.h"
+#include "colormaps/ColoredInfoText.h"
+#include "language/VltLanguageManager.h"
+#include "platform/ConfigurationFile.h"
+
+#include <QDebug>
+#include <QFile>
+#include <QFileInfo>
+
+#include <vector>
+
+namespace vlt::buildings {
+
+namespace {
+
+/// Pixels of the legend for one of the screen: it stays crisp on screens of fine pixels.
+constexpr int LegendScale = 2;
+
+const QString DocumentSuffix = QStringLiteral(".texb");
+
+Error cannotCreate(const QString &path)
+{
+    return {QStringLiteral("MESS_CANT_CREATE_LAYER"), QStringLiteral("Can't create the layer file"),
+            path};
+}
+
+/// What stood at a path before it was written.
+class FormerFile
+{
+public:
+    FormerFile(const QString &path, platform::Access access) : m_path(path), m_access(access)
+    {
+        QFile file(path);
+        m_isThere = QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly);
+        if (m_isThere)
+            m_bytes = file.readAll();
+    }
+
+    /// As far as that goes: the failure that led here is what the user is told.
+    void restore() const
+    {
+        if (!m_isThere)
+            QFile::remove(m_path);
+        else if (!platform::writeWhole(m_path, m_bytes, m_access))
+            qWarning().noquote() << "not restored:" << m_path;
+    }
+
+private:
+    QString m_path;
+    platform::Access m_access;
+    bool m_isThere = false;
+    QByteArray m_bytes;
+};
+
+/// Writes the files of one layer, that which names the others last.
+class FilesWriter
+{
+public:
+    FilesWriter(const QString &layerPath, const BuildingLayerInput &input, platform::Access access,
+                QString *reason)
+        : m_input(input)
+        , m_access(access)
+        , m_reason(reason)
+        , m_files(filesOf(layerPath, input))
+    {}
+
+    /// @param description  asked once the legend is there
+    template<typename Description>
+    Result<BuildingLayerFiles> write(const QString &document, TexbSubtype subtype,
+                                     const Description &description)
+    {
+        const QString templatePath = texbTemplatePath(m_input.installDir);
+        if (const auto found = platform::readConfigurationFile(templatePath); !found)
+            return found.error();
+        Result<Done> written = writePart(m_files.document, document.toUtf8());
+        if (written && m_input.legend)
+            written = writeLegend(*m_input.legend);
+        if (written)
+            written = createTexbLayerFile(m_files.layer, templatePath,
+                                          layerOf(subtype, description(legendText())), m_access,
+                                          m_reason);
+        if (written)
+            return m_files;
+        for (const FormerFile &file : m_former)
+            file.restore();
+        return written.error();
+    }
+
+private:
+    Error failed(const Error &error, const QString &path) const
+    {
+        if (m_reason)
+            *m_reason = error.text;
+        return cannotCreate(path);
+    }
+
+    Result<Done> writePart(const QString &path, const QByteArray &bytes)
+    {
+        const FormerFile former(path, m_access);
+        Result<Done> written = platform::writeWhole(path, bytes, m_access);
+        if (!written)
+            return failed(written.error(), path);
+        m_former.push_back(former);
+        return written;
+    }
+
+    /// In a directory of several users the legend's name may be taken by somebody else's file: it
+    /// gets the layer's name in front then.
+    Result<Done> writeLegend(const LegendInput &legend)
+    {
+        const QImage image = colormaps::drawLegend(legend.map, legend.interpretation, LegendScale);
+        m_legendSize = image.size() / LegendScale;
+        Result<Done> written = writeLegendAs(legend.name, image);
+        if (written || m_access != platform::Access::UserOnly)
+            return written;
+        return writeLegendAs(
+            QFileInfo(m_files.document).completeBaseName() + QLatin1Char('_') + legend.name, image);
+    }
+
+    Result<Done> writeLegendAs(const QString &name, const QImage &image)
+    {
+        const QString directory = QFileInfo(m_files.document).path();
+        m_files.legend = colormaps::legendPath(directory, name);
+        const FormerFile former(m_files.legend, m_access);
+        const Result<QString> written = colormaps::writeLegend(image, directory, name, m_access);
+        if (!written)
+            return failed(written.error(), m_files.legend);
+        m_former.push_back(former);
+        return Done{};
+    }
+
+    /// The colour map's name over its legend; empty where there is none.
+    QString legendText() const
+    {
+        return m_input.legend
+                   ? colormaps::coloredInfoText(m_input.legend->name, m_files.legend, m_legendSize)
+                   : QString();
+    }
+
+    TexbLayer layerOf(TexbSubtype subtype, const QString &description) const
+    {
+        const BuildingsSource &source = m_input.source;
+        const QString title =
+            QStringLiteral("%1 (%2)").arg(dico_label("MESS_BUILDINGS", "Buildings"), source.layer);
+        const QString document = m_files.document.chopped(DocumentSuffix.size());
+        return {title, texbUrl(document), source.xCenter, source.yCenter, subtype, description};
+    }
+
+    const BuildingLayerInput &m_input;
+    platform::Access m_access;
+    QString *m_reason;
+    BuildingLayerFiles m_files;
+    std::vector<FormerFile> m_former; ///< of what is written
+    QSize m_legendSize;               ///< as it is shown
+};
+
+} // namespace
+
+BuildingLayerFiles filesOf(const QString &layerPath, const BuildingLayerInput &input)
+{
+    const QString layerSuffix = QStringLiteral(".lay");
+    QString name = QFileInfo(layerPath).absoluteFilePath();
+    if (name.endsWith(layerSuffix, Qt::CaseInsensitive))
+        name.chop(layerSuffix.size());
+    BuildingLayerFiles files{layerPath, name + DocumentSuffix, {}};
+    if (input.legend)
+        files.legend = colormaps::legendPath(QFileInfo(name).path(), input.legend->name);
+    return files;
+}
+
+FootprintSettings footprintsOf(const BuildingsSource &source, FootprintSettings settings)
+{
+    settings.file = source.file;
+    settings.layer = source.layer;
+    settings.heightField = source.heightField;
+    return settings;
+}
+
+Result<BuildingLayerFiles> writeColoredLayer(const QString &layerPath,
+                                             const BuildingLayerInput &input,
+                                             const RasterColoring &walls, platform::Access access,
+                                             QString *reason)
+{
+    const QString document = writeColoredTexbDocument(
+        {footprintsOf(input.source, input.footprints), input.source.terrain, walls});
+    return FilesWriter(layerPath, input, access, reason)
+        .write(document, TexbSubtype::Colored, [](const QString &legend) { return legend; });
+}
+
+Result<BuildingLayerFiles> writeTexturedLayer(const QString &layerPath,
+                                              const BuildingLayerInput &input,
+                                              const TexturedLook &look, platform::Access access,
+                                              QString *reason)
+{
+    Texb document;
+    document.cache = look.cache;
+    document.footprints = footprintsOf(input.source, input.footprints);
+    document.texturedVisibility = look.texturedVisibility;
+    document.wallColor = look.wallColor;
+    document.roofColor = look.roofColor;
+    document.terrain = input.source.terrain;
+    document.textures = look.textures;
+    if (document.textures)
+        document.textures->mode = textureModeName(look.subtype);
+
+    const QString images =
+        texturedInfoText(look.subtype, look.textures ? look.textures->images : QList<FileEntry>());
+    return FilesWriter(layerPath, input, access, reason)
+        .write(writeTexbDocument(document), look.subtype,
+               [&images](const QString &legend) { return QString(images + legend); });
+}
+
+QString textureModeName(TexbSubtype subtype)
+{
+    switch (subtype) {
+    case TexbSubtype::Walls:
+        return QLatin1String(TextureModes[1]);
+    case TexbSubtype::Storeys:
+        return QLatin1String(TextureModes[2]);
+    case TexbSubtype::Colored:
+    case TexbSubtype::Roofs:
+        break;
+    }
+    return QLatin1String(TextureModes[0]);
+}
+
+} // namespace vlt::buildings

@@ -1,0 +1,40 @@
+#include "buildings/ColoringLegend.h"
+
+#include "colormaps/ColorMapList.h"
+#include "colormaps/OpenColorMap.h"
+#include "geodata/ErrorCollector.h"
+
+#include <QFile>
+
+namespace vlt::buildings {
+
+using colormaps::ColorMap;
+
+Result<std::optional<coverage::ValueRange>> readCoverageRange(const QString &raster,
+                                                              const QString &noData)
+{
+    const geodata::ErrorCollector errors;
+    std::string reason;
+    const auto opened = coverage::CoverageRaster::open(QFile::encodeName(raster).toStdString(),
+                                                       noData.toStdString(), &reason);
+    if (!opened)
+        return Error{QStringLiteral("MESS_ERR_OPEN_RASTERDS"),
+                     QString::fromLocal8Bit(reason.c_str()), raster};
+    return opened->range();
+}
+
+Result<LegendInput> legendOf(const RasterColoring &coloring,
+                             const std::optional<coverage::ValueRange> &range)
+{
+    const bool isLaidOver = coloring.stretched && range;
+    const Result<ColorMap> map =
+        colormaps::openColorMap(coloring.colorMap, isLaidOver ? range->minimum : ColorMap::Unset,
+                                isLaidOver ? range->maximum : ColorMap::Unset);
+    if (!map)
+        return map.error();
+    return LegendInput{colormaps::colorMapEntry(coloring.colorMap).name, map.value(),
+                       coloring.interpolated ? colormaps::Interpretation::Interpolation
+                                             : colormaps::Interpretation::ColorRanges};
+}
+
+} // namespace vlt::buildings

@@ -1,0 +1,27 @@
+#include "buildings/ui/RasterMessages.h"
+
+#include "language/VltLanguageManager.h"
+#include "wizard/base/Messages.h"
+
+namespace vlt::buildings {
+
+QString textOf(RasterProblem problem)
+{
+    switch (problem) {
+    case RasterProblem::CannotOpen:
+        return dico_label("MESS_ERR_OPEN_RASTERDS", "This file can't be open as a raster dataset");
+    case RasterProblem::NoBands:
+        return dico_label("MESS_ERR_NO_BANDS", "This image doesn't have any band");
+    case RasterProblem::NotOneBand:
+        break;
+    }
+    return dico_label("MESS_ERR_ONLY_GRAY",
+                      "The image-based coloring mode works only with one-band grey images");
+}
+
+void warnOfRaster(QWidget *parent, RasterProblem problem)
+{
+    messages::warning(parent, {{}, textOf(problem), {}}, dico_label("MESS_ATTENTION", "Warning"));
+}
+
+} // namespace vlt::buildings

@@ -1,0 +1,120 @@
+#include "buildings/ui/VltAddTexbColoredPage.h"
+
+#include "ui_AddTexbColoredPage.h"
+
+#include "platform/Settings.h"
+
+#include <QFileInfo>
+#include <QSettings>
+
+using namespace vlt;
+
+namespace {
+
+const QString Group = QStringLiteral("AddTexbColoredPage");
+const QString AutoRefreshKey = QStringLiteral("AddTexbColoredPage/AutoRefresh");
+const QString LastUsedDirKey = QStringLiteral("LastUsedDir");
+
+bool isColorMapName(const QString &path)
+{
+    const QString suffix = QFileInfo(path).suffix().toLower();
+    return suffix == QLatin1String("txt") || suffix == QLatin1String("cmap");
+}
+
+} // namespace
+
+VltAddTexbColoredPage::VltAddTexbColoredPage(QWidget *wizard, SharedParameters &parameters,
+                                             const QString &installDir, const QString &language)
+    : VltBuildingLayerPage(wizard, parameters, installDir, language,
+                           QStringLiteral("buildings_colored"))
+    , m_ui(std::make_unique<Ui::AddTexbColoredPage>())
+{
+    m_ui->setupUi(this);
+    setTitle(tr("Coloured buildings", "MESS_PAGE_COLORED"));
+    setFocusProxy(m_ui->m_pwColoring);
+    setDropHighlightWidgets(
+        {m_ui->m_pwColoring->findChild<QWidget *>(QStringLiteral("m_pwLblImage"))});
+    m_ui->m_pwColoring->setInstallDir(installDir);
+    setResult(m_ui->m_pwGbPreview, m_ui->m_ptHbDrag, m_ui->m_pwLblDragText);
+    connect(m_ui->m_pwColoring, &VltColoringPanel::changed, this,
+            &VltAddTexbColoredPage::updatePreview);
+    connect(m_ui->m_pwExtrusion, &VltExtrusionPanel::changed, this,
+            &VltAddTexbColoredPage::updatePreview);
+}
+
+VltAddTexbColoredPage::~VltAddTexbColoredPage() = default;
+
+void VltAddTexbColoredPage::saveSettings()
+{
+    const auto settings = platform::wizardSettings();
+    if (!m_ui->m_pwColoring->lastUsedDir().isEmpty())
+        settings->setValue(LastUsedDirKey, m_ui->m_pwColoring->lastUsedDir());
+    m_ui->m_pwColoring->saveSettings(*settings, Group);
+    m_ui->m_pwExtrusion->saveSettings(*settings, Group, false);
+    settings->setValue(AutoRefreshKey, m_ui->m_pwGbPreview->isAutoRefresh());
+}
+
+void VltAddTexbColoredPage::restoreSettings()
+{
+    const auto settings = platform::wizardSettings();
+    m_ui->m_pwColoring->setLastUsedDir(settings->value(LastUsedDirKey).toString());
+    m_ui->m_pwColoring->restoreSettings(*settings, Group);
+    m_ui->m_pwExtrusion->restoreSettings(*settings, Group, false);
+    m_ui->m_pwGbPreview->setAutoRefresh(settings->value(AutoRefreshKey, true).toBool());
+}
+
+void VltAddTexbColoredPage::droppedFile(const QString &path)
+{
+    if (isColorMapName(path))
+        m_ui->m_pwColoring->openColorMap(path);
+    else
+        m_ui->m_pwColoring->openImage(path, false);
+}
+
+void VltAddTexbColoredPage::defineImage()
+{
+    m_ui->m_pwColoring->defineImage();
+}
+
+void VltAddTexbColoredPage::guessNoData()
+{
+    m_ui->m_pwColoring->guessNoData();
+}
+
+void VltAddTexbColoredPage::addCmap()
+{
+    m_ui->m_pwColoring->addCmap();
+}
+
+void VltAddTexbColoredPage::currentDatasetChanged()
+{
+    m_ui->m_pwColoring->currentDatasetChanged();
+}
+
+bool VltAddTexbColoredPage::isReady() const
+{
+    return missingText().isEmpty();
+}
+
+QString VltAddTexbColoredPage::missingText() const
+{
+    return source().file.isEmpty() ? tr("There are no buildings yet.", "MESS_NEED_BUILDINGS")
+                                   : m_ui->m_pwColoring->missingText();
+}
+
+Result<buildings::BuildingLayerFiles> VltAddTexbColoredPage::writeFiles(const QString &layerPath)
+{
+    const auto legend = m_ui->m_pwColoring->legend();
+    const auto coloring = m_ui->m_pwColoring->coloring();
+    if (!legend || !coloring)
+        return Error{};
+    m_colorMapName = legend->name;
+    return buildings::writeColoredLayer(layerPath,
+                                        layerInput(m_ui->m_pwExtrusion->settings(), legend),
+                                        *coloring, platform::Access::UserOnly);
+}
+
+void VltAddTexbColoredPage::layerWritten(const buildings::BuildingLayerFiles &files)
+{
+    m_ui->m_pwLegend->showLegend(m_colorMapName, files.legend);
+}

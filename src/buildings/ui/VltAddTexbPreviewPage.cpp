@@ -1,0 +1,186 @@
+#include "buildings/ui/VltAddTexbPreviewPage.h"
+
+#include "buildings/TexturedInfoText.h"
+#include "colormaps/ColoredInfoText.h"
+#include "platform/Settings.h"
+#include "ui_AddTexbPreviewPage.h"
+
+#include <QImageReader>
+#include <QScrollArea>
+#include <QSettings>
+#include <QStyle>
+
+using vlt::buildings::FileEntry;
+
+namespace {
+
+const QString SettingsGroup = QStringLiteral("AddTexbPreviewPage");
+const QString AutoRefreshKey = QStringLiteral("AddTexbPreviewPage/AutoRefresh");
+const QString LastUsedDirKey = QStringLiteral("LastUsedDir");
+
+} // namespace
+
+VltAddTexbPreviewPage::VltAddTexbPreviewPage(QWidget *wizard, SharedParameters &parameters,
+                                             const QString &installDir, const QString &language)
+    : VltBuildingLayerPage(wizard, parameters, installDir, language,
+                           QStringLiteral("buildings_textured"))
+    , m_ui(std::make_unique<Ui::AddTexbPreviewPage>())
+{
+    m_ui->setupUi(this);
+    setTitle(tr("Display of buildings", "MESS_PAGE_DISPLAY"));
+    setFocusProxy(m_ui->m_pwTabs);
+    m_ui->m_pwColoring->setInstallDir(installDir);
+    setResult(m_ui->m_pwGbPreview, m_ui->m_ptHbDrag, m_ui->m_pwLblDragText);
+    connectPanels();
+    showColoring();
+}
+
+VltAddTexbPreviewPage::~VltAddTexbPreviewPage() = default;
+
+void VltAddTexbPreviewPage::connectPanels()
+{
+    for (const RememberedPanel *panel : std::initializer_list<RememberedPanel *>{
+             m_ui->m_pwTexturing, m_ui->m_pwColors, m_ui->m_pwOptions, m_ui->m_pwCache})
+        connect(panel, &RememberedPanel::changed, this, &VltAddTexbPreviewPage::takeChange);
+    connect(m_ui->m_pwExtrusion, &VltExtrusionPanel::changed, this,
+            &VltAddTexbPreviewPage::takeChange);
+    connect(m_ui->m_pwColoring, &VltColoringPanel::changed, this,
+            &VltAddTexbPreviewPage::takeChange);
+    connect(m_ui->m_pwColors, &VltBuildingColors::coloringWanted, this,
+            [this] { m_ui->m_pwTabs->setCurrentWidget(m_ui->m_pwSaColoring); });
+}
+
+void VltAddTexbPreviewPage::initializePage()
+{
+    m_images = parameters().value(QStringLiteral("FileList")).value<QList<FileEntry>>();
+    m_images.removeIf([](const FileEntry &image) { return !image.used; });
+    VltBuildingLayerPage::initializePage();
+    fitWidth();
+    showColoring();
+    showInformation();
+}
+
+/// The tabs scroll upwards and downwards only.
+void VltAddTexbPreviewPage::fitWidth()
+{
+    for (QScrollArea *area : m_ui->m_pwTabs->findChildren<QScrollArea *>()) {
+        area->widget()->layout()->activate();
+        area->setMinimumWidth(area->widget()->minimumSizeHint().width() +
+                              style()->pixelMetric(QStyle::PM_ScrollBarExtent));
+    }
+}
+
+void VltAddTexbPreviewPage::takeChange()
+{
+    showColoring();
+    showInformation();
+    updatePreview();
+}
+
+/// The tab of the colour map is there while something is coloured by it.
+void VltAddTexbPreviewPage::showColoring()
+{
+    m_ui->m_pwTabs->setTabVisible(m_ui->m_pwTabs->indexOf(m_ui->m_pwSaColoring),
+                                  m_ui->m_pwColors->usesColorMap());
+}
+
+void VltAddTexbPreviewPage::showInformation()
+{
+    m_ui->m_pwLblInfo->setText(
+        m_images.isEmpty()
+            ? tr("No image is ticked: the buildings are shown without images.",
+                 "MESS_NO_IMAGE_TICKED")
+            : vlt::buildings::texturedInfoText(m_ui->m_pwTexturing->subtype(), m_images));
+}
+
+void VltAddTexbPreviewPage::restoreSettings()
+{
+    const auto settings = vlt::platform::wizardSettings();
+    m_ui->m_pwTexturing->restoreSettings(*settings, SettingsGroup);
+    m_ui->m_pwColors->restoreSettings(*settings, SettingsGroup);
+    m_ui->m_pwExtrusion->restoreSettings(*settings, SettingsGroup, true);
+    m_ui->m_pwOptions->restoreSettings(*settings, SettingsGroup);
+    m_ui->m_pwCache->restoreSettings(*settings, SettingsGroup);
+    m_ui->m_pwColoring->setLastUsedDir(settings->value(LastUsedDirKey).toString());
+    m_ui->m_pwColoring->restoreSettings(*settings, SettingsGroup);
+    m_ui->m_pwGbPreview->setAutoRefresh(settings->value(AutoRefreshKey, true).toBool());
+}
+
+void VltAddTexbPreviewPage::saveSettings()
+{
+    const auto settings = vlt::platform::wizardSettings();
+    m_ui->m_pwTexturing->saveSettings(*settings, SettingsGroup);
+    m_ui->m_pwColors->saveSettings(*settings, SettingsGroup);
+    m_ui->m_pwExtrusion->saveSettings(*settings, SettingsGroup, true);
+    m_ui->m_pwOptions->saveSettings(*settings, SettingsGroup);
+    m_ui->m_pwCache->saveSettings(*settings, SettingsGroup);
+    if (!m_ui->m_pwColoring->lastUsedDir().isEmpty())
+        settings->setValue(LastUsedDirKey, m_ui->m_pwColoring->lastUsedDir());
+    m_ui->m_pwColoring->saveSettings(*settings, SettingsGroup);
+    settings->setValue(AutoRefreshKey, m_ui->m_pwGbPreview->isAutoRefresh());
+}
+
+void VltAddTexbPreviewPage::droppedFile(const QString &path)
+{
+    if (m_ui->m_pwColors->usesColorMap())
+        m_ui->m_pwColoring->openImage(path, false);
+}
+
+bool VltAddTexbPreviewPage::isReady() const
+{
+    return missingText().isEmpty();
+}
+
+QString VltAddTexbPreviewPage::missingText() const
+{
+    if (source().file.isEmpty())
+        return tr("There are no buildings yet.", "MESS_NEED_BUILDINGS");
+    return m_ui->m_pwColors->usesColorMap() ? m_ui->m_pwColoring->missingText() : QString();
+}
+
+vlt::buildings::TexturedLook
+VltAddTexbPreviewPage::look(const vlt::buildings::RasterColoring &coloring) const
+{
+    vlt::buildings::TexturedLook look;
+    look.cache = m_ui->m_pwCache->cache();
+    look.texturedVisibility = m_ui->m_pwTexturing->visibility();
+    look.subtype = m_ui->m_pwTexturing->subtype();
+    look.wallColor = m_ui->m_pwColors->wallColor(coloring);
+    look.roofColor = m_ui->m_pwColors->roofColor(coloring);
+    if (!m_images.isEmpty()) {
+        look.textures.emplace();
+        m_ui->m_pwTexturing->fill(*look.textures);
+        m_ui->m_pwOptions->fill(*look.textures);
+        look.textures->images = m_images;
+    }
+    return look;
+}
+
+vlt::Result<vlt::buildings::BuildingLayerFiles>
+VltAddTexbPreviewPage::writeFiles(const QString &layerPath)
+{
+    std::optional<vlt::buildings::RasterColoring> coloring;
+    std::optional<vlt::buildings::LegendInput> legend;
+    if (m_ui->m_pwColors->usesColorMap()) {
+        legend = m_ui->m_pwColoring->legend();
+        coloring = m_ui->m_pwColoring->coloring(); // the legend may have taken the user's time
+        if (!legend || !coloring)
+            return vlt::Error{};
+    }
+    m_colorMapName = legend ? legend->name : QString();
+    return vlt::buildings::writeTexturedLayer(
+        layerPath, layerInput(m_ui->m_pwExtrusion->settings(), legend),
+        look(coloring.value_or(vlt::buildings::RasterColoring())), vlt::platform::Access::UserOnly);
+}
+
+void VltAddTexbPreviewPage::layerWritten(const vlt::buildings::BuildingLayerFiles &files)
+{
+    if (files.legend.isEmpty()) {
+        m_ui->m_pwLblLegend->clear();
+        return;
+    }
+    constexpr int PixelsPerUnit = 2; // legends are drawn for fine screens
+    const QSize size = QImageReader(files.legend).size() / PixelsPerUnit;
+    m_ui->m_pwLblLegend->setText(
+        vlt::colormaps::coloredInfoText(m_colorMapName, files.legend, size));
+}

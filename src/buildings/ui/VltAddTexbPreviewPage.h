@@ -1,0 +1,44 @@
+#pragma once
+
+#include "buildings/ui/VltBuildingLayerPage.h"
+
+#include <memory>
+
+namespace Ui {
+class AddTexbPreviewPage;
+}
+
+/// The page on which it is chosen how buildings with images are shown.
+class VltAddTexbPreviewPage : public VltBuildingLayerPage
+{
+    Q_OBJECT
+
+public:
+    VltAddTexbPreviewPage(QWidget *wizard, SharedParameters &parameters, const QString &installDir,
+                          const QString &language);
+    ~VltAddTexbPreviewPage() override;
+
+    void initializePage() override;
+    void saveSettings() override;
+    void restoreSettings() override;
+
+    /// The image that colours come from, where a colour map is chosen.
+    void droppedFile(const QString &path) override;
+
+private:
+    bool isReady() const override;
+    QString missingText() const override;
+    vlt::Result<vlt::buildings::BuildingLayerFiles> writeFiles(const QString &layerPath) override;
+    void layerWritten(const vlt::buildings::BuildingLayerFiles &files) override;
+
+    void connectPanels();
+    void fitWidth();
+    void takeChange();
+    void showColoring();
+    void showInformation();
+    vlt::buildings::TexturedLook look(const vlt::buildings::RasterColoring &coloring) const;
+
+    std::unique_ptr<Ui::AddTexbPreviewPage> m_ui;
+    QList<vlt::buildings::FileEntry> m_images; ///< those that are ticked on the page before
+    QString m_colorMapName;                    ///< of the layer
+};

@@ -1,0 +1,64 @@
+#include "buildings/ui/VltBuildingColors.h"
+
+#include "ui_BuildingColors.h"
+
+namespace {
+
+using vlt::buildings::RasterColoring;
+
+/// The lists' second entry.
+bool isFromColorMap(const QComboBox *kind)
+{
+    return kind->currentIndex() == 1;
+}
+
+QString documentColor(const QComboBox *kind, const ColorButton *button,
+                      const RasterColoring &coloring)
+{
+    return isFromColorMap(kind) ? vlt::buildings::colorMapColor(coloring) : button->color().name();
+}
+
+} // namespace
+
+VltBuildingColors::VltBuildingColors(QWidget *parent)
+    : RememberedPanel(parent)
+    , m_ui(std::make_unique<Ui::BuildingColors>())
+{
+    m_ui->setupUi(this);
+    m_ui->m_pwPbWallColor->setPurpose(tr("Colour of the walls", "MESS_WALL_COLOR"));
+    m_ui->m_pwPbWallColor->setColor(QColor(0xd9, 0xd4, 0xc7));
+    m_ui->m_pwPbRoofColor->setPurpose(tr("Colour of the roofs", "MESS_ROOF_COLOR"));
+    m_ui->m_pwPbRoofColor->setColor(QColor(0xb5, 0x63, 0x4c));
+    remember({{QStringLiteral("WallColorKind"), m_ui->m_pwCbWalls},
+              {QStringLiteral("WallColor"), m_ui->m_pwPbWallColor},
+              {QStringLiteral("RoofColorKind"), m_ui->m_pwCbRoofs},
+              {QStringLiteral("RoofColor"), m_ui->m_pwPbRoofColor}});
+    for (const QComboBox *kind : {m_ui->m_pwCbWalls, m_ui->m_pwCbRoofs})
+        connect(kind, &QComboBox::currentIndexChanged, this, &VltBuildingColors::enableWhatMatters);
+    connect(m_ui->m_pwPbColoring, &QPushButton::clicked, this, &VltBuildingColors::coloringWanted);
+    enableWhatMatters();
+}
+
+VltBuildingColors::~VltBuildingColors() = default;
+
+void VltBuildingColors::enableWhatMatters()
+{
+    m_ui->m_pwPbWallColor->setEnabled(!isFromColorMap(m_ui->m_pwCbWalls));
+    m_ui->m_pwPbRoofColor->setEnabled(!isFromColorMap(m_ui->m_pwCbRoofs));
+    m_ui->m_pwPbColoring->setVisible(usesColorMap());
+}
+
+bool VltBuildingColors::usesColorMap() const
+{
+    return isFromColorMap(m_ui->m_pwCbWalls) || isFromColorMap(m_ui->m_pwCbRoofs);
+}
+
+QString VltBuildingColors::wallColor(const RasterColoring &coloring) const
+{
+    return documentColor(m_ui->m_pwCbWalls, m_ui->m_pwPbWallColor, coloring);
+}
+
+QString VltBuildingColors::roofColor(const RasterColoring &coloring) const
+{
+    return documentColor(m_ui->m_pwCbRoofs, m_ui->m_pwPbRoofColor, coloring);
+}

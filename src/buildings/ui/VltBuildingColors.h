@@ -1,0 +1,38 @@
+#pragma once
+
+#include "buildings/BuildingDocument.h"
+#include "buildings/ui/RememberedPanel.h"
+
+#include <memory>
+
+namespace Ui {
+class BuildingColors;
+}
+
+/// The colours of walls and roofs: one colour each, or from a raster through a colour map.
+class VltBuildingColors : public RememberedPanel
+{
+    Q_OBJECT
+
+public:
+    explicit VltBuildingColors(QWidget *parent = nullptr);
+    ~VltBuildingColors() override;
+
+    /// Whether walls or roofs are coloured through a colour map.
+    bool usesColorMap() const;
+
+    /// As the document has them.
+    ///
+    /// @param coloring  what is taken where a colour map is chosen
+    QString wallColor(const vlt::buildings::RasterColoring &coloring) const;
+    QString roofColor(const vlt::buildings::RasterColoring &coloring) const;
+
+Q_SIGNALS:
+    /// The user wants to see or choose the raster and the colour map.
+    void coloringWanted();
+
+private:
+    void enableWhatMatters();
+
+    std::unique_ptr<Ui::BuildingColors> m_ui;
+};

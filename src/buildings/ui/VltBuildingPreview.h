@@ -1,0 +1,48 @@
+#pragma once
+
+#include "snapshot/SceneSource.h"
+
+#include <QGroupBox>
+
+#include <memory>
+
+namespace Ui {
+class BuildingPreview;
+}
+
+/// The 3D view of a layer of buildings just written, with auto refresh, refresh and reset of the
+/// view. Layers are read on another thread, with a bar and a way to cancel.
+class VltBuildingPreview : public QGroupBox
+{
+    Q_OBJECT
+
+public:
+    explicit VltBuildingPreview(QWidget *parent = nullptr);
+    ~VltBuildingPreview() override;
+
+    bool isAutoRefresh() const;
+    void setAutoRefresh(bool on);
+
+    /// Reads a layer file and shows it, the camera where the user put it; an empty path empties the
+    /// view.
+    ///
+    /// @param project  file of the project that the layer belongs to; may be empty
+    void showLayer(const QString &path, const QString &project);
+
+    /// Tells something in the line below the view until the next layer.
+    void showMessage(const QString &text);
+
+public Q_SLOTS:
+    /// The camera on all buildings, near enough to see some of them.
+    void resetView();
+
+Q_SIGNALS:
+    void autoRefreshChanged(int state);
+    void refreshRequested();
+
+private:
+    void showScene(const vlt::snapshot::Scene &scene, const QStringList &notices);
+
+    std::unique_ptr<Ui::BuildingPreview> m_ui;
+    std::string m_place; ///< of the scene that was shown last
+};

@@ -1,0 +1,39 @@
+#include "buildings/ui/VltCachePanel.h"
+
+#include "buildings/BuildingLayerFiles.h"
+#include "ui_CachePanel.h"
+
+VltCachePanel::VltCachePanel(QWidget *parent)
+    : RememberedPanel(parent)
+    , m_ui(std::make_unique<Ui::CachePanel>())
+{
+    m_ui->setupUi(this);
+    remember({{QStringLiteral("CacheMode"), m_ui->m_pwCbCache},
+              {QStringLiteral("DelayedCacheWrite"), m_ui->m_pwChbDelayed},
+              {QStringLiteral("CacheCapacity"), m_ui->m_pwSbCapacity}});
+    connect(m_ui->m_pwCbCache, &QComboBox::currentIndexChanged, this,
+            &VltCachePanel::enableWhatMatters);
+    connect(m_ui->m_pwChbDelayed, &QCheckBox::toggled, this, &VltCachePanel::enableWhatMatters);
+    enableWhatMatters();
+}
+
+VltCachePanel::~VltCachePanel() = default;
+
+void VltCachePanel::enableWhatMatters()
+{
+    const bool keeps = m_ui->m_pwCbCache->currentIndex() > 0;
+    const bool delays = keeps && m_ui->m_pwChbDelayed->isChecked();
+    m_ui->m_pwChbDelayed->setEnabled(keeps);
+    m_ui->m_pwLblCapacity->setEnabled(delays);
+    m_ui->m_pwSbCapacity->setEnabled(delays);
+}
+
+std::optional<vlt::buildings::CacheSettings> VltCachePanel::cache() const
+{
+    const int mode = m_ui->m_pwCbCache->currentIndex();
+    if (mode <= 0)
+        return {};
+    return vlt::buildings::CacheSettings{QLatin1String(vlt::buildings::CacheModes[mode]),
+                                         m_ui->m_pwChbDelayed->isChecked(),
+                                         m_ui->m_pwSbCapacity->value()};
+}

@@ -1,0 +1,369 @@
+#include "buildings/ui/VltColoringPanel.h"
+
+#include "ui_ColoringPanel.h"
+
+#include "buildings/ColoringLegend.h"
+#include "buildings/ui/ColorMapSwatch.h"
+#include "buildings/ui/NoDataGuess.h"
+#include "buildings/ui/RasterMessages.h"
+#include "colormaps/ColorMapList.h"
+#include "colormaps/OpenColorMap.h"
+#include "wizard/base/BusyWait.h"
+#include "wizard/base/Messages.h"
+#include "wizard/base/WheelGuard.h"
+
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QPointer>
+#include <QScopedValueRollback>
+#include <QSettings>
+#include <QSignalBlocker>
+#include <QWizardPage>
+
+using namespace vlt;
+
+namespace {
+
+void restoreIndex(QComboBox *combo, const QVariant &value)
+{
+    bool isNumber = false;
+    const int index = value.toInt(&isNumber);
+    if (isNumber && index >= 0 && index < combo->count())
+        combo->setCurrentIndex(index);
+}
+
+/// As the readers of a document understand it.
+bool isNumber(const QString &text)
+{
+    bool isOne = false;
+    QLocale::c().toDouble(text, &isOne);
+    return isOne;
+}
+
+void tellOfColorMap(QWidget *parent, const Error &error)
+{
+    messages::critical(parent,
+                       {QStringLiteral("MESS_ERR_OPEN_CMAP"),
+                        QStringLiteral("This file can't be read as a colormap"), error.path},
+                       messages::errorTitle(), error.text);
+}
+
+} // namespace
+
+VltColoringPanel::VltColoringPanel(QWidget *parent)
+    : QWidget(parent)
+    , m_ui(std::make_unique<Ui::ColoringPanel>())
+{
+    m_ui->setupUi(this);
+    setFocusProxy(m_ui->m_pwLeImage);
+    m_ui->m_pwSubdatasetsFrame->hide();
+    m_ui->m_pwNoDataProgress->hide();
+    m_ui->m_pwCbCmap->setIconSize(buildings::ColorMapSwatchSize);
+    wizard::guardAgainstStrayWheel(this);
+    connectWidgets();
+}
+
+VltColoringPanel::~VltColoringPanel() = default;
+
+void VltColoringPanel::connectWidgets()
+{
+    connect(m_ui->m_pwPbImage, &QPushButton::clicked, this, &VltColoringPanel::defineImage);
+    connect(m_ui->m_pwPbNoData, &QPushButton::clicked, this, &VltColoringPanel::guessNoData);
+    connect(m_ui->m_pwPbAddCmap, &QPushButton::clicked, this, &VltColoringPanel::addCmap);
+    connect(m_ui->m_pwCbSubdatsets, &QComboBox::currentIndexChanged, this,
+            &VltColoringPanel::currentDatasetChanged);
+    connect(m_ui->m_pwLeImage, &QLineEdit::returnPressed, this,
+            [this] { openImage(m_ui->m_pwLeImage->text(), false); });
+    connect(m_ui->m_pwLeImage, &QLineEdit::editingFinished, this,
+            &VltColoringPanel::takeTypedImage);
+
+    connect(m_ui->m_pwLeNoData, &QLineEdit::textChanged, this, &VltColoringPanel::changed);
+    connect(m_ui->m_pwCbStretch, &QCheckBox::toggled, this, &VltColoringPanel::changed);
+    for (const QComboBox *combo : {m_ui->m_pwCbCmap, m_ui->m_pwCBColorInterp, m_ui->m_pwCbMode})
+        connect(combo, &QComboBox::currentIndexChanged, this, &VltColoringPanel::changed);
+}
+
+/// A path that is not finished is no reason for a message when the line is left.
+void VltColoringPanel::takeTypedImage()
+{
+    const QString path = m_ui->m_pwLeImage->text();
+    if (path != m_openedImage && (path.isEmpty() || QFileInfo::exists(path)))
+        openImage(path, false);
+}
+
+QWidget *VltColoringPanel::page()
+{
+    for (QWidget *widget = this; widget; widget = widget->parentWidget()) {
+        if (qobject_cast<QWizardPage *>(widget))
+            return widget;
+    }
+    return this;
+}
+
+int VltColoringPanel::addToList(const QString &name, const QString &path)
+{
+    const auto map = colormaps::openColorMap(path); // a file may be gone: its place stays
+    m_ui->m_pwCbCmap->addItem(map ? buildings::colorMapSwatch(map.value()) : QIcon(), name, path);
+    return m_ui->m_pwCbCmap->count() - 1;
+}
+
+void VltColoringPanel::setInstallDir(const QString &installDir)
+{
+    const QSignalBlocker quiet(this);
+    m_ui->m_pwCbCmap->clear();
+    for (const colormaps::ColorMapEntry &entry : colormaps::listColorMaps(installDir, false))
+        addToList(entry.name, entry.path);
+    m_installedCount = m_ui->m_pwCbCmap->count();
+}
+
+QString VltColoringPanel::subdataset() const
+{
+    return m_ui->m_pwCbSubdatsets->currentData().toString();
+}
+
+QString VltColoringPanel::imagePath() const
+{
+    return m_openedImage;
+}
+
+std::optional<buildings::RasterColoring> VltColoringPanel::coloring() const
+{
+    if (!missingText().isEmpty())
+        return std::nullopt;
+    buildings::RasterColoring coloring;
+    coloring.rasterFile = subdataset().isEmpty() ? m_openedImage : subdataset();
+    coloring.colorMap = m_ui->m_pwCbCmap->currentData().toString();
+    coloring.reduction = static_cast<buildings::Reduction>(m_ui->m_pwCbMode->currentIndex());
+    coloring.stretched = m_ui->m_pwCbStretch->isChecked();
+    coloring.interpolated = m_ui->m_pwCBColorInterp->currentIndex() == 1;
+    coloring.noData = m_ui->m_pwLeNoData->text();
+    return coloring;
+}
+
+QString VltColoringPanel::missingText() const
+{
+    if (m_openedImage.isEmpty())
+        return tr("Choose the image that colors the buildings.", "MESS_NEED_COLOR_IMAGE");
+    if (!m_isUsable)
+        return tr("Choose an image of one band.", "MESS_NEED_ONE_BAND");
+    const QString noData = m_ui->m_pwLeNoData->text();
+    if (!noData.isEmpty() && !isNumber(noData))
+        return tr("The value of no data is no number.", "MESS_NODATA_NO_NUMBER");
+    if (m_ui->m_pwCbCmap->currentIndex() < 0)
+        return tr("Add a colormap.", "MESS_NEED_CMAP");
+    return {};
+}
+
+bool VltColoringPanel::readRange(const buildings::RasterColoring &coloring)
+{
+    const QDateTime written = QFileInfo(m_openedImage).lastModified();
+    if (m_range && m_range->raster == coloring.rasterFile && m_range->noData == coloring.noData &&
+        m_range->written == written)
+        return true;
+    m_range.reset();
+    using Range = Result<std::optional<coverage::ValueRange>>;
+    const auto read = wizard::waitForValue<Range>(
+        this, tr("Looking for the least and the greatest value...", "MESS_READING_RANGE"),
+        [raster = coloring.rasterFile, noData = coloring.noData] {
+            return buildings::readCoverageRange(raster, noData);
+        });
+    if (!read)
+        return false;
+    if (!*read) {
+        messages::critical(
+            this, {{}, buildings::textOf(buildings::RasterProblem::CannotOpen), read->error().path},
+            messages::errorTitle(), read->error().text);
+        return false;
+    }
+    m_range = KnownRange{coloring.rasterFile, coloring.noData, written, read->value()};
+    return true;
+}
+
+std::optional<buildings::LegendInput> VltColoringPanel::legend()
+{
+    const std::optional<buildings::RasterColoring> chosen = coloring();
+    if (!chosen || (chosen->stretched && !readRange(*chosen)))
+        return std::nullopt;
+    const Result<buildings::LegendInput> legend =
+        buildings::legendOf(*chosen, chosen->stretched ? m_range->range : std::nullopt);
+    if (!legend) {
+        tellOfColorMap(this, legend.error());
+        return std::nullopt;
+    }
+    return legend.value();
+}
+
+void VltColoringPanel::showSubdatasets(const QList<geodata::Subdataset> &subdatasets)
+{
+    const QSignalBlocker quiet(m_ui->m_pwCbSubdatsets);
+    m_ui->m_pwCbSubdatsets->clear();
+    for (const geodata::Subdataset &one : subdatasets)
+        m_ui->m_pwCbSubdatsets->addItem(QStringLiteral("%1 (%2)").arg(one.name, one.description),
+                                        one.name);
+    m_ui->m_pwSubdatasetsFrame->setVisible(!subdatasets.isEmpty());
+}
+
+std::optional<VltColoringPanel::Summary> VltColoringPanel::readSummary(const QString &path,
+                                                                       const QString &part)
+{
+    const QScopedValueRollback busy(m_isBusy, true);
+    return wizard::waitForValue<Summary>(
+        this, tr("Reading the image...", "MESS_READING_IMAGE"),
+        [path, part] { return geodata::readRasterSummary(path, part); });
+}
+
+void VltColoringPanel::openImage(const QString &path, bool quiet)
+{
+    if (m_isBusy)
+        return;
+    m_openedImage.clear();
+    m_isUsable = false;
+    m_ui->m_pwLeImage->clear();
+    showSubdatasets({});
+    if (!path.isEmpty()) {
+        const QString absolute = QFileInfo(path).absoluteFilePath();
+        const std::optional<Summary> summary = readSummary(absolute, {});
+        if (summary && summary->ok()) {
+            m_openedImage = absolute;
+            m_lastUsedDir = QFileInfo(absolute).absolutePath();
+            m_ui->m_pwLeImage->setText(absolute);
+            showSubdatasets(summary->value().subdatasets);
+        }
+        if (m_ui->m_pwCbSubdatsets->count() > 0)
+            judgeSubdataset(quiet);
+        else
+            judge(summary, quiet);
+    }
+    Q_EMIT changed();
+}
+
+/// Takes an image as usable or not. A plain one that is not is left again: nothing else of the file
+/// could be chosen.
+void VltColoringPanel::judge(const std::optional<Summary> &summary, bool quiet)
+{
+    const bool isOpen = summary && summary->ok();
+    m_isUsable = isOpen && summary->value().bandCount == 1;
+    if (!m_isUsable && m_ui->m_pwCbSubdatsets->count() == 0) {
+        m_openedImage.clear();
+        m_ui->m_pwLeImage->clear();
+    }
+    if (m_isUsable || quiet || !summary) // none: the user did not want to wait
+        return;
+    const QScopedValueRollback busy(m_isBusy, true);
+    if (!isOpen)
+        buildings::warnOfRaster(this, buildings::RasterProblem::CannotOpen);
+    else if (summary->value().bandCount == 0)
+        buildings::warnOfRaster(this, buildings::RasterProblem::NoBands);
+    else
+        buildings::warnOfRaster(this, buildings::RasterProblem::NotOneBand);
+}
+
+void VltColoringPanel::judgeSubdataset(bool quiet)
+{
+    judge(readSummary(m_openedImage, subdataset()), quiet);
+}
+
+void VltColoringPanel::currentDatasetChanged()
+{
+    if (m_isBusy || subdataset().isEmpty())
+        return;
+    judgeSubdataset(false);
+    Q_EMIT changed();
+}
+
+void VltColoringPanel::defineImage()
+{
+    const QString path = QFileDialog::getOpenFileName(
+        this, tr("Select the image to use", "MESS_SELECT_IMAGE_FILE"), m_lastUsedDir,
+        QStringLiteral("%1 (*.*)").arg(tr("Raster Files", "MESS_RASTER_FILES")));
+    if (!path.isEmpty())
+        openImage(path, false);
+}
+
+void VltColoringPanel::guessNoData()
+{
+    if (m_isBusy)
+        return;
+    m_isBusy = true;
+    const QPointer<VltColoringPanel> self(this); // its window may be closed meanwhile
+    const QString guess =
+        buildings::guessNoData(page(), m_openedImage, m_ui->m_pwNoDataProgress, subdataset());
+    if (!self)
+        return;
+    m_isBusy = false;
+    if (!guess.isEmpty())
+        m_ui->m_pwLeNoData->setText(guess);
+}
+
+void VltColoringPanel::addCmap()
+{
+    const QString path = QFileDialog::getOpenFileName(
+        this, tr("Select the colormap to use", "MESS_SELECT_CMAP_FILE"), m_lastUsedDir,
+        QStringLiteral("%1 (*.txt *.cmap)").arg(tr("Colormap files", "MESS_CMAP_FILES")));
+    if (!path.isEmpty())
+        openColorMap(path);
+}
+
+void VltColoringPanel::openColorMap(const QString &path)
+{
+    const colormaps::ColorMapEntry entry = colormaps::colorMapEntry(path);
+    m_lastUsedDir = QFileInfo(path).absolutePath();
+    if (const auto map = colormaps::openColorMap(entry.path); !map) {
+        tellOfColorMap(this, map.error());
+        return;
+    }
+    const int known = m_ui->m_pwCbCmap->findData(entry.path);
+    m_ui->m_pwCbCmap->setCurrentIndex(known >= 0 ? known : addToList(entry.name, entry.path));
+}
+
+void VltColoringPanel::restoreSettings(const QSettings &settings, const QString &group)
+{
+    const QSignalBlocker quiet(this);
+    const auto value = [&settings, &group](const QString &key, const QVariant &absent) {
+        return settings.value(group + QLatin1Char('/') + key, absent);
+    };
+    restoreIndex(m_ui->m_pwCbMode, value(QStringLiteral("Mode"), 0));
+    openImage(value(QStringLiteral("Image"), QString()).toString(), true);
+    {
+        const QSignalBlocker once(m_ui->m_pwCbSubdatsets);
+        restoreIndex(m_ui->m_pwCbSubdatsets, value(QStringLiteral("IdxSubdataset"), 0));
+    }
+    if (m_ui->m_pwCbSubdatsets->currentIndex() > 0)
+        judgeSubdataset(true);
+    m_ui->m_pwLeNoData->setText(value(QStringLiteral("NoData"), QString()).toString());
+    m_ui->m_pwCbStretch->setChecked(value(QStringLiteral("Stretch"), true).toBool());
+    restoreIndex(m_ui->m_pwCBColorInterp, value(QStringLiteral("ColorInterpMode"), 1));
+
+    // a damaged count must not keep the page busy for ever
+    const int count = qMin(value(QStringLiteral("UserColormapCount"), 0).toInt(),
+                           static_cast<int>(settings.allKeys().size()));
+    for (int n = 0; n < count; ++n) {
+        const QString path =
+            value(QStringLiteral("UserColormapAbs_%1").arg(n), QString()).toString();
+        if (!path.isEmpty())
+            addToList(value(QStringLiteral("UserColormapShort_%1").arg(n), QString()).toString(),
+                      path);
+    }
+    restoreIndex(m_ui->m_pwCbCmap, value(QStringLiteral("CurrentColormap"), 0));
+}
+
+void VltColoringPanel::saveSettings(QSettings &settings, const QString &group) const
+{
+    const auto save = [&settings, &group](const QString &key, const QVariant &value) {
+        settings.setValue(group + QLatin1Char('/') + key, value);
+    };
+    save(QStringLiteral("Mode"), m_ui->m_pwCbMode->currentIndex());
+    save(QStringLiteral("Image"), m_openedImage);
+    save(QStringLiteral("IdxSubdataset"), qMax(0, m_ui->m_pwCbSubdatsets->currentIndex()));
+    save(QStringLiteral("NoData"), m_ui->m_pwLeNoData->text());
+    save(QStringLiteral("Stretch"), m_ui->m_pwCbStretch->isChecked());
+    save(QStringLiteral("ColorInterpMode"), m_ui->m_pwCBColorInterp->currentIndex());
+    const QComboBox *maps = m_ui->m_pwCbCmap;
+    const int userCount = maps->count() - m_installedCount;
+    save(QStringLiteral("UserColormapCount"), userCount);
+    for (int n = 0; n < userCount; ++n) {
+        save(QStringLiteral("UserColormapShort_%1").arg(n), maps->itemText(m_installedCount + n));
+        save(QStringLiteral("UserColormapAbs_%1").arg(n), maps->itemData(m_installedCount + n));
+    }
+    save(QStringLiteral("CurrentColormap"), maps->currentIndex());
+}

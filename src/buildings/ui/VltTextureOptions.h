@@ -1,0 +1,26 @@
+#pragma once
+
+#include "buildings/BuildingDocument.h"
+#include "buildings/ui/RememberedPanel.h"
+
+#include <memory>
+
+namespace Ui {
+class TextureOptions;
+}
+
+/// What happens to the pixels of images: compression, buffer, dilatation, resampling.
+class VltTextureOptions : public RememberedPanel
+{
+    Q_OBJECT
+
+public:
+    explicit VltTextureOptions(QWidget *parent = nullptr);
+    ~VltTextureOptions() override;
+
+    /// Sets what the panel holds; the rest stays.
+    void fill(vlt::buildings::TexbTextures &textures) const;
+
+private:
+    std::unique_ptr<Ui::TextureOptions> m_ui;
+};

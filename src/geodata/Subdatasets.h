@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+
+class GDALDataset;
+
+namespace vlt::geodata {
+
+/// One of the images in a file that holds several.
+struct Subdataset
+{
+    QString name; ///< as the geodata library opens it
+    QString description;
+};
+
+/// The images that a dataset names, in its order; none for a plain one.
+QList<Subdataset> subdatasets(GDALDataset &dataset);
+
+} // namespace vlt::geodata

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "platform/Result.h"
+
+#include <QString>
+
+namespace vlt::platform {
+
+/// Reads a file of the installation whole.
+///
+/// @par Errors   MESS_MISSING_CONF_FILE with the path.
+Result<QString> readConfigurationFile(const QString &path);
+
+} // namespace vlt::platform

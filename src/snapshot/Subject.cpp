@@ -1,0 +1,79 @@
+#include "snapshot/Subject.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace vlt::snapshot {
+
+namespace {
+
+constexpr double NarrowestFieldDeg = 0.5;
+constexpr double NearestM = 1;
+
+Axes axesFromSouthWest(double rise)
+{
+    Axes axes;
+    axes.back = osg::Vec3d(-0.55, -0.77, rise);
+    axes.back.normalize();
+    axes.right = osg::Vec3d(osg::Z_AXIS) ^ axes.back;
+    axes.right.normalize();
+    axes.up = axes.back ^ axes.right;
+    return axes;
+}
+
+} // namespace
+
+const Axes &usualAxes()
+{
+    static const Axes axes = axesFromSouthWest(0.32);
+    return axes;
+}
+
+const Axes &steepAxes()
+{
+    static const Axes axes = axesFromSouthWest(0.65);
+    return axes;
+}
+
+Subject::Subject(const osg::BoundingBoxd &box, double aspect, double margin, const Axes &axes)
+    : m_box(box)
+    , m_aspect(aspect)
+    , m_margin(margin)
+    , m_axes(axes)
+{}
+
+double Subject::distance(double fieldDeg) const
+{
+    const double slope = std::tan(osg::DegreesToRadians(fieldDeg) / 2) / m_margin;
+    double distance = NearestM;
+    for (unsigned corner = 0; corner < 8; ++corner) {
+        const osg::Vec3d at = m_box.corner(corner) - centre();
+        distance = std::max(distance, at * m_axes.back + half(at) / slope);
+    }
+    return distance;
+}
+
+double Subject::fieldDeg(double distance) const
+{
+    double slope = 0;
+    for (unsigned corner = 0; corner < 8; ++corner) {
+        const osg::Vec3d at = m_box.corner(corner) - centre();
+        const double depth = std::max(distance - at * m_axes.back, NearestM);
+        slope = std::max(slope, m_margin * half(at) / depth);
+    }
+    return std::clamp(osg::RadiansToDegrees(2 * std::atan(slope)), NarrowestFieldDeg,
+                      WidestFieldDeg);
+}
+
+ViewPoint Subject::from(double distance, double fieldDeg) const
+{
+    return {centre() + m_axes.back * distance, centre(), fieldDeg};
+}
+
+/// Half the picture's height that a point needs beside the centre.
+double Subject::half(const osg::Vec3d &at) const
+{
+    return std::max(std::abs(at * m_axes.up), std::abs(at * m_axes.right) / m_aspect);
+}
+
+} // namespace vlt::snapshot

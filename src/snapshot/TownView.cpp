@@ -1,0 +1,114 @@
+#include "snapshot/TownView.h"
+
+#include "snapshot/DrawnExtents.h"
+#include "snapshot/Subject.h"
+
+#include <QString>
+
+#include <osg/LOD>
+#include <osg/Transform>
+
+#include <algorithm>
+
+namespace vlt::snapshot {
+
+namespace {
+
+using Deferred = DrawnExtents::Deferred;
+
+/// Towns with more buildings are not made to be measured: the bounds of their tiles serve.
+constexpr qint64 MostMeasured = 20000;
+
+osg::BoundingBoxd extentsFrom(osg::Node &scene, Deferred deferred,
+                              const std::optional<osg::Vec3d> &eye)
+{
+    DrawnExtents drawn(deferred, eye);
+    scene.accept(drawn);
+    return drawn.extents();
+}
+
+/// Finds out whether something is not drawn for an eye because it is too far.
+class HiddenParts : public osg::NodeVisitor
+{
+public:
+    explicit HiddenParts(const osg::Vec3d &eye)
+        : osg::NodeVisitor(TRAVERSE_ALL_CHILDREN)
+        , m_eye(eye)
+    {}
+
+    bool found() const { return m_found; }
+
+    void apply(osg::LOD &levels) override
+    {
+        if (levels.getRangeMode() == osg::LOD::DISTANCE_FROM_EYE_POINT) {
+            const osg::Matrixd toScene = osg::computeLocalToWorld(getNodePath());
+            const double distance = (levels.getCenter() * toScene - m_eye).length();
+            double reach = 0;
+            for (unsigned level = 0; level < levels.getNumRanges(); ++level)
+                reach = std::max<double>(reach, levels.getMaxRange(level));
+            m_found = m_found || distance >= reach;
+        }
+        if (!m_found)
+            traverse(levels);
+    }
+
+private:
+    osg::Vec3d m_eye;
+    bool m_found = false;
+};
+
+bool isWhole(osg::Node &scene, const osg::Vec3d &eye)
+{
+    HiddenParts hidden(eye);
+    scene.accept(hidden);
+    return !hidden.found();
+}
+
+bool reachesMiddle(const osg::BoundingBoxd &drawn, const osg::Vec3d &middle)
+{
+    return drawn.valid() && drawn.xMin() <= middle.x() && drawn.xMax() >= middle.x() &&
+           drawn.yMin() <= middle.y() && drawn.yMax() >= middle.y();
+}
+
+} // namespace
+
+std::optional<qint64> buildingCount(const osg::Node &scene)
+{
+    const QString mark = QStringLiteral("buildings=");
+    for (const std::string &line : scene.getDescriptions()) {
+        const QString text = QString::fromStdString(line);
+        if (text.startsWith(mark))
+            return text.mid(mark.size()).toLongLong();
+    }
+    return std::nullopt;
+}
+
+Result<ViewPoint> viewOfTown(osg::Node &scene, qint64 buildings, double aspect)
+{
+    const Deferred deferred = buildings > MostMeasured ? Deferred::ByBound : Deferred::Made;
+    const osg::BoundingBoxd town = extentsFrom(scene, deferred, std::nullopt);
+    if (!town.valid())
+        return Error{QStringLiteral("MESS_SNAP_EMPTY"), QStringLiteral("the scene is empty"), {}};
+    const Subject subject(town, aspect, UsualMargin, steepAxes());
+    constexpr double fieldStepDeg = 8;
+    for (double field = UsualFieldDeg; field <= WidestFieldDeg; field += fieldStepDeg) {
+        const ViewPoint view = subject.from(subject.distance(field), field);
+        if (isWhole(scene, view.eye))
+            return view;
+    }
+    constexpr double nearer = 0.85;
+    constexpr double beyondMiddle = 0.6; // of the way there, so that something lies behind it
+    constexpr double nearestM = 10;
+    for (double distance = subject.distance(UsualFieldDeg); distance > nearestM;
+         distance *= nearer) {
+        const ViewPoint view = subject.from(distance, UsualFieldDeg);
+        if (reachesMiddle(extentsFrom(scene, deferred, view.eye), view.target))
+            return subject.from(distance * beyondMiddle, UsualFieldDeg);
+    }
+    return Error{QStringLiteral("MESS_SNAP_TOO_FAR"),
+                 QStringLiteral("all is in view only from where nothing is drawn any more; "
+                                "a longer apparition distance or --view symbolic helps"),
+                 {}};
+}
+
+} // namespace vlt::snapshot

@@ -1,0 +1,268 @@
+#include "ProgramRun.h"
+
+#include <QImage>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QJsonValue>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Two houses of 10 m and one without height, between 2 and 2.004 degrees east, 45 and 45.001
+/// north.
+const QByteArray Houses =
+    R"({"type":"FeatureCollection","name":"houses","features":[
+{"type":"Feature","properties":{"id":1,"USE":"home","height":10},"geometry":{"type":"Polygon",
+"coordinates":[[[2,45],[2.001,45],[2.001,45.001],[2,45.001],[2,45]]]}},
+{"type":"Feature","properties":{"id":2,"USE":"home","height":10.5},"geometry":{"type":"Polygon",
+"coordinates":[[[2.003,45],[2.004,45],[2.004,45.001],[2.003,45.001],[2.003,45]]]}},
+{"type":"Feature","properties":{"id":3,"USE":"barn","height":null},"geometry":{"type":"Polygon",
+"coordinates":[[[2.002,45],[2.0025,45],[2.0025,45.001],[2.002,45]]]}}]})";
+
+/// Four by four cells around the houses, one of them without a value.
+const QByteArray Grid = "ncols 4\nnrows 4\nxllcorner 1.99\nyllcorner 44.99\ncellsize 0.01\n"
+                        "NODATA_value -9999\n"
+                        "-120 -110 -100 -9999\n-90 -80 -70 -60\n-90 -80 -70 -60\n-90 -80 -70 -60\n";
+
+const QString Common = u"buildings ../houses.geojson --dtm ../dem.asc -o o.lay "_s;
+
+} // namespace
+
+class tst_BuildingsCommand : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_program = std::make_unique<ProgramRun>();
+        const QString telecom = path(u"install dir/addons/telecom/"_s);
+        QVERIFY(QFile::link(u"" VLT_INSTALLATION "/addons/telecom/template"_s,
+                            telecom + u"template"_s));
+        writeFile(telecom + u"colormaps/a/first.txt"_s, "0 blue\n100 red\n");
+        writeFile(telecom + u"colormaps/b/level_dBm.cmap"_s, "nv grey\n-120 blue\n-60 red\n");
+        writeFile(path(u"own.txt"_s), "-120 green\n-60 white\n");
+        writeFile(path(u"broken.txt"_s), "-120 pink\n");
+        writeFile(path(u"houses.geojson"_s), Houses);
+        writeFile(path(u"dem.asc"_s), Grid);
+        writeFile(path(u"rgb.ppm"_s), "P6\n1 1\n255\nabc");
+        writeFile(path(u"level.asc"_s), Grid);
+        for (const char *image : {"t/c_6m.asc", "t/c_1.5m.asc", "t/c.asc", "t/net/c_9m.asc"})
+            writeFile(path(QLatin1String(image)), Grid);
+        writeFile(path(u"city.gvw"_s), "DEM Layers\n Files : dem.asc\n\nVector layer\n File : "
+                                       "houses.geojson\n Layer name : buildings\n");
+        writeFile(path(u"bare.gvw"_s), "DEM Layers\n Files : dem.asc\n");
+        writeFile(path(u"elsewhere/old.lay"_s), "old");
+        writeFile(path(u"elsewhere/old.texb"_s), "old");
+    }
+
+    void writesDocuments_data()
+    {
+        QTest::addColumn<QString>("options");
+        QTest::addColumn<QStringList>("fragments"); ///< "@" stands for the folder of the inputs
+
+        QTest::newRow("coloured, first run")
+            << u"--image ../level.asc"_s
+            << QStringList{u"filename=\"@/houses.geojson\"\n    layer=\"houses\"\n"
+                           "    hfield=\"height\"\n    tileSize=\"250\"\n"
+                           "    extrudedVisibility=\"2000\"\n    wallColor=\"IMAGE;@/level.asc;"
+                           "@/install dir/addons/telecom/colormaps/a/first.txt;minimum;stretched;"
+                           "interpolation\"\n    skirtHeight=\"5\"\n    checkClockwise=\"false\""_s,
+                           u"filename=\"@/dem.asc\"\n    nodata=\"-9999.000000\"\n"_s};
+        QTest::newRow("coloured, all options")
+            << u"--image ../level.asc --image-nodata -60 --colormap LEVEL_dbm --absolute "
+               "--color-ranges --mode most-represented --layer HOUSES --height-field ID "
+               "--dtm-nodata 7 --distance 900 --tile-size 62.5 --skirt 0 --check-clockwise"_s
+            << QStringList{
+                   u"hfield=\"id\"\n    tileSize=\"62.5\"\n    extrudedVisibility=\"900\""_s,
+                   u"colormaps/b/level_dBm.cmap;mostRepresented;absolute;colorrange;-60\""_s,
+                   u"skirtHeight=\"0\"\n    checkClockwise=\"true\""_s, u"nodata=\"7\""_s};
+        QTest::newRow("colour map of the user, empty no-data")
+            << u"--image ../level.asc --colormap ../own.txt --mode mostRepresented --dtm-nodata="_s
+            << QStringList{u"level.asc;@/own.txt;mostRepresented;stretched;"_s, u"nodata=\"\""_s};
+        QTest::newRow("textured, first run")
+            << u"--textures ../t/c_6m.asc --filter m"_s
+            << QStringList{u"<veltaroTexturedBuildings \n  cache=\"none\">"_s,
+                           u"texturedVisibility=\"1000\"\n    wallColor=\"#d9d4c7\"\n"
+                           "    roofColor=\"#b5634c\"\n"_s,
+                           u"mode=\"roofs\"\n    edgeColor=\"#404040\"\n"
+                           "    forceEdgeCreation=\"false\"\n"
+                           "    processComplexBuildings=\"false\"\n    magFilter=\"none\"\n  >\n"
+                           "    <texture \n      filename=\"@/t/c_1.5m.asc\"\n"
+                           "      height=\"1.5\"\n    />\n    <texture \n"
+                           "      filename=\"@/t/c_6m.asc\"\n      height=\"6\"\n    />\n"
+                           "  </textures>"_s};
+        QTest::newRow("textured, all options")
+            << u"--texture ../t/c.asc=3 --texture ../t/c_6m.asc --texture-on storeys "
+               "--textured-distance 300 --wall-color #A0b0C0 --roof-color colormap --image "
+               "../level.asc --image-nodata 5 --edge-color 112233 --force-edges "
+               "--complex-buildings --cache textured --delayed-write --cache-capacity 7 "
+               "--compression dxt5 --buffer 2.5 --dilatation 3 --magnify linear"_s
+            << QStringList{u"  cache=\"textured\" \n  delayedCacheWrite=\"true\" \n"
+                           "  delayedCacheWriteCapacity=\"7\">"_s,
+                           u"texturedVisibility=\"300\"\n    wallColor=\"#a0b0c0\"\n    "
+                           "roofColor=\"cmap:datasource=@/level.asc;nd=5;cmap=@/install dir/addons/"
+                           "telecom/colormaps/a/first.txt;stretchcmap=TRUE;interpolatecmap=TRUE;"
+                           "band=1;type=minimum\""_s,
+                           u"mode=\"storeys\"\n    edgeColor=\"#112233\"\n"
+                           "    forceEdgeCreation=\"true\"\n    processComplexBuildings=\"true\"\n"
+                           "   compression=\"dxt5\"\n    bufferValue=\"2.5\"\n"
+                           "    dilatationValue=\"3\"\n    magFilter=\"linear\""_s,
+                           u"filename=\"@/t/c.asc\"\n      height=\"3\""_s,
+                           u"filename=\"@/t/c_6m.asc\"\n      height=\"6\""_s};
+        QTest::newRow("images beside the template's folder")
+            << u"--textures ../t/net/c_9m.asc --structure sibling-folders --texture-on walls"_s
+            << QStringList{u"mode=\"walls\""_s, u"magFilter=\"none\"\n  >\n    <texture \n"
+                                                "      filename=\"@/t/net/c_9m.asc\"\n"
+                                                "      height=\"9\"\n    />\n  </textures>"_s};
+    }
+
+    void writesDocuments()
+    {
+        QFETCH(QString, options);
+        QFETCH(QStringList, fragments);
+
+        const Run run = start(Common + options);
+
+        QCOMPARE(run.errors, QByteArray());
+        QCOMPARE(run.status, 0);
+        const QString document = QString::fromUtf8(readFile(path(u"elsewhere/o.texb"_s)));
+        for (QString &fragment : fragments) {
+            fragment.replace(QLatin1Char('@'), path({}));
+            QVERIFY2(document.contains(fragment), qPrintable(fragment + document));
+        }
+    }
+
+    void tellsWhatItWrote()
+    {
+        const Run run = start(
+            u"buildings --project ../city.gvw --image ../level.asc -o o.lay --json --language fr"_s);
+
+        const QJsonObject told = QJsonDocument::fromJson(run.output).object();
+        const QString folder = path(u"elsewhere/"_s);
+        QCOMPARE(told.value(u"layer"_s).toString(), folder + u"o.lay"_s);
+        QCOMPARE(told.value(u"document"_s).toString(), folder + u"o.texb"_s);
+        QCOMPARE(told.value(u"subtype"_s).toString(), u"rf_colored_buildings"_s);
+        QCOMPARE(told.value(u"vector"_s).toString(), path(u"houses.geojson"_s));
+        QCOMPARE(told.value(u"buildings"_s).toInt(), 3);
+        QVERIFY(!told.contains(u"textures"_s));
+        const QByteArray layer = readFile(folder + u"o.lay"_s);
+        QCOMPARE(element(layer, "source"), "TEXB:" + folder.toUtf8() + "o.texb");
+        QVERIFY(layer.contains("<xCenter>2.002</xCenter>\n  <yCenter>45.0005</yCenter>"));
+        const QString legend = told.value(u"legend"_s).toString();
+        QCOMPARE(legend, folder + u"first_gradient.png"_s);
+        QVERIFY(element(layer, "description").contains(legend.toUtf8()));
+        const QImage image(legend);
+        QVERIFY(image.height() > 200);
+        const QColor middle = image.pixelColor(30, image.height() / 2); // from blue to red
+        QVERIFY(qAbs(middle.red() - 127) < 3 && middle.green() == 0);
+    }
+
+    void warnsOfImagesWithoutHeight()
+    {
+        const Run run = start(Common + u"--textures ../t/c.asc"_s);
+        const Run quiet = start(Common + u"--textures ../t/c.asc --quiet"_s);
+
+        QCOMPARE(run.errors,
+                 QByteArray("vltlayers: images that state no height, 0 m is taken: 1\n"));
+        QCOMPARE(quiet.errors, QByteArray());
+        QCOMPARE(readFile(path(u"elsewhere/o.texb"_s)).count("<texture "), 3);
+    }
+
+    void refusesAndLeavesTheOldLayer_data()
+    {
+        QTest::addColumn<QString>("arguments"); ///< after "buildings ", "%" stands for usual inputs
+        QTest::addColumn<int>("status");
+        QTest::addColumn<QString>("message");
+
+        const auto row = [](const char *arguments, int status, const char *message) {
+            QTest::newRow(arguments)
+                << QString::fromLatin1(arguments) << status << QString::fromLatin1(message);
+        };
+        row("../no.shp --dtm ../dem.asc --image ../level.asc", 1,
+            "../no.shp: This file can't be open as a vector file");
+        row("../houses.geojson --dtm ../own.txt --image ../level.asc", 1,
+            "../own.txt: Cannot open DTM");
+        row("--project ../bare.gvw --image ../level.asc", 1, "the project names no buildings");
+        row("% --image ../level.asc --layer streets", 1, "\"streets\"; there are: houses");
+        row("% --image ../level.asc --height-field AGL", 1, "\"AGL\"; there are: id, USE, height");
+        row("% --image ../own.txt", 1, "../own.txt: This file can't be open as a raster dataset (");
+        row("% --image /vsicurl/http://example.org/a.tif", 1, "a.tif: no such file");
+        row("% --image ../rgb.ppm", 1, "works only with one-band grey images");
+        row("% --image ../level.asc --colormap nice", 1,
+            "nice: no colour map has this name, nor any file; there are: first, level_dBm");
+        row("% --image ../level.asc --colormap ../broken.txt", 1, "Unknown color : pink");
+        row("% --texture ../t/c.asc", 1, "../t/c.asc: for which height is this image?");
+        row("% --texture ../t/no.asc=5", 1, "../t/no.asc: no such file");
+        row("% --texture ../own.txt=5", 1, "can't be open as a raster dataset");
+        row("% --textures ../t/no.asc", 1, "../t/no.asc: no such file");
+        row("% --textures ../t/c.asc --filter xyz", 1, "../t/c.asc: no image is found by it");
+        row("% --image ../level.asc -o ../houses.geojson", 1, "one of the input files");
+        row("% --image ../level.asc -o no/o.lay", 1, "Can't create the layer file");
+        row("../houses.geojson --image ../level.asc", 2, "no terrain given (--dtm)");
+        row("--dtm ../dem.asc --image ../level.asc", 2, "no vector file given");
+        row("%", 2, "neither --image (coloured buildings) nor --texture or --textures");
+        row("% --mode average --textures ../t/c.asc", 2, "--mode is only for --image");
+        row("% --image ../level.asc --texture-on walls", 2, "--texture-on is only for --texture");
+        row("% --texture ../t/c.asc=1 --structure two-levels", 2,
+            "--structure is only for --textures");
+        row("% --texture ../t/c.asc=1 --textures ../t/c.asc", 2, "do not go together");
+        row("% --texture ../t/c.asc=1 --wall-color colormap", 2, "needs --image");
+        row("% --texture ../t/c.asc=1 --image ../level.asc", 2, "--roof-color colormap");
+        row("% --texture ../t/c.asc=1 --delayed-write", 2, "--delayed-write needs a --cache");
+        row("% --texture ../t/c.asc=1 --wall-color red", 2, "#RRGGBB or the word colormap");
+        row("% --texture ../t/c.asc=1 --edge-color colormap", 2, "--edge-color is #RRGGBB");
+        row("% --texture ../t/c.asc=1 --magnify cubic", 2, "none|linear");
+        row("% --image ../level.asc --mode middle", 2, "minimum|maximum|average|most-represented");
+        row("% --image ../level.asc --image-nodata void", 2, "--image-nodata is a number");
+        row("% --image ../level.asc --distance 99", 2, "100 to 100000");
+        row("% --image ../level.asc --tile-size nan", 2, "--tile-size");
+    }
+
+    void refusesAndLeavesTheOldLayer()
+    {
+        QFETCH(QString, arguments);
+        QFETCH(int, status);
+        QFETCH(QString, message);
+        arguments.replace(u"%"_s, u"../houses.geojson --dtm ../dem.asc"_s);
+
+        const Run run = start(u"buildings -o old.lay "_s + arguments);
+
+        QCOMPARE(run.status, status);
+        QVERIFY2(run.errors.contains(message.toUtf8()), run.errors.constData());
+        QCOMPARE(run.output, QByteArray());
+        QCOMPARE(readFile(path(u"elsewhere/old.lay"_s)), QByteArray("old"));
+        QCOMPARE(readFile(path(u"elsewhere/old.texb"_s)), QByteArray("old"));
+        QCOMPARE(readFile(path(u"houses.geojson"_s)), Houses);
+    }
+
+    void overwritesNoInputByDocumentOrLegend_data()
+    {
+        QTest::addColumn<QString>("image");
+
+        QTest::newRow("document") << u"o.texb"_s;
+        QTest::newRow("legend") << u"first_gradient.png"_s;
+    }
+
+    void overwritesNoInputByDocumentOrLegend()
+    {
+        QFETCH(QString, image);
+        writeFile(path(u"elsewhere/"_s + image), Grid);
+
+        const Run run = start(Common + u"--image "_s + image);
+
+        QCOMPARE(run.status, 1);
+        QVERIFY2(run.errors.contains("one of the input files"), run.errors.constData());
+        QCOMPARE(readFile(path(u"elsewhere/"_s + image)), Grid);
+    }
+
+private:
+    QString path(const QString &name) const { return m_program->path(name); }
+    Run start(const QString &arguments) const { return m_program->start(arguments); }
+
+    std::unique_ptr<ProgramRun> m_program;
+};
+
+QTEST_GUILESS_MAIN(tst_BuildingsCommand)
+#include "tst_BuildingsCommand.moc"

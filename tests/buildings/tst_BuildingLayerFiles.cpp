@@ -1,0 +1,281 @@
+#include "buildings/BuildingLayerFiles.h"
+#include "buildings/TexturedInfoText.h"
+
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace vlt::buildings;
+using vlt::platform::Access;
+
+namespace {
+
+const QByteArray Template = "__TITLE__|__SUBTYPE__|__TEXB_URL__|__X_CENTER__|__Y_CENTER__|"
+                            "__DESCRIPTION__\n";
+
+// "~" at the end of a line stands for the blank there.
+const QByteArray ColoredDocument =
+    R"(<?xml version="1.0" encoding="UTF-8"?><veltaroTexturedBuildings cache="none">
+  <vector~
+    filename="/d/"a" & b.shp"
+    layer="quarter"
+    hfield="H"
+    tileSize="250"
+    extrudedVisibility="2000"
+    wallColor="IMAGE;/d/dbm.tif;/maps/two.txt;average;absolute;colorrange;-1"
+    skirtHeight="5"
+    checkClockwise="false"
+  />
+  <elevation~
+    source="dtm"
+    filename="/d/dem.tif"
+    nodata="-9999"
+  />
+</veltaroTexturedBuildings>
+)";
+const QByteArray TexturedDocument =
+    R"(<?xml version="1.0" encoding="UTF-8"?><veltaroTexturedBuildings~
+  cache="none">
+  <vector~
+    filename="/d/"a" & b.shp"
+    layer="quarter"
+    hfield="H"
+    tileSize="250"
+    extrudedVisibility="2000"
+    texturedVisibility="1000"
+    wallColor="#102030"
+    roofColor="cmap:datasource=/d/dbm.tif;nd=-1;cmap=/maps/two.txt;stretchcmap=FALSE;interpolatecmap=FALSE;band=1;type=average"
+    skirtHeight="5"
+    checkClockwise="false"
+  />
+  <elevation~
+    source="dtm"
+    filename="/d/dem.tif"
+    nodata="-9999"
+  />
+  <textures~
+    mode="storeys"
+    edgeColor="#404040"
+    forceEdgeCreation="false"
+    processComplexBuildings="false"
+    magFilter="none"
+  >
+    <texture~
+      filename="/t/h6.tif"
+      height="6"
+    />
+    <texture~
+      filename="/t/h1.tif"
+      height="1.5"
+    />
+  </textures>
+</veltaroTexturedBuildings>
+)";
+
+const RasterColoring Signal{u"/d/dbm.tif"_s,     u"/maps/two.txt"_s,     Reduction::Average,
+                            /*stretched*/ false, /*interpolated*/ false, u"-1"_s};
+
+FileEntry image(const QString &path, double height, bool used = true)
+{
+    return {path, height, 0, {}, used, {}};
+}
+
+TexturedLook storeys()
+{
+    TexbTextures textures;
+    textures.mode = u"roofs"_s; // that of the subtype is written
+    textures.edgeColor = u"#404040"_s;
+    textures.magFilter = u"none"_s;
+    textures.images = {image(u"/t/h6.tif"_s, 6), image(u"/t/no.tif"_s, 3, false),
+                       image(u"/t/h1.tif"_s, 1.5)};
+    return {{}, 1000, u"#102030"_s, colorMapColor(Signal), TexbSubtype::Storeys, textures};
+}
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(none)");
+}
+
+void put(const QString &path, const QByteArray &content)
+{
+    QVERIFY(QDir().mkpath(QFileInfo(path).path()));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(content);
+}
+
+} // namespace
+
+class tst_BuildingLayerFiles : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_dir = std::make_unique<QTemporaryDir>();
+        put(path(u"addons/telecom/template/template_texb.lay"_s), Template);
+        put(path(u"two.txt"_s), "0 red\n10 0 0 255\n");
+        m_input.source = {
+            u"/d/\"a\" & b.shp"_s, u"quarter"_s, u"H"_s, {u"/d/dem.tif"_s, u"-9999"_s},
+            651234.56789,          6758252,      {}};
+        m_input.footprints = {{}, {}, {}, 250, 2000, 5, false};
+        m_input.installDir = m_dir->path();
+        m_input.legend = LegendInput{u"two & more"_s, {}};
+        QVERIFY(m_input.legend->map.load(path(u"two.txt"_s).toStdString()));
+    }
+
+    void writesColoredBuildings()
+    {
+        const auto files = writeColoredLayer(path(u"out.lay"_s), m_input, Signal, Access::UserOnly);
+
+        QVERIFY(files);
+        QCOMPARE(contentOf(path(u"out.texb"_s)), QByteArray(ColoredDocument).replace('~', ' '));
+        const QImage legend(path(u"two & more_gradient.png"_s));
+        QVERIFY(legend.width() > 100 && legend.width() % 2 == 0 &&
+                legend.height() % 2 == 0); // twice as fine as it is shown
+        const QString text =
+            u"Buildings (quarter)|rf_colored_buildings|TEXB:%1/out.texb|651234.568|6758252|<p>"
+            "Colored: <span style=\"font-weight:600; text-decoration:underline;\">two &amp; more"
+            "</span><br/><img src=\"%1/two &amp; more_gradient.png\" width=\"%2\" height=\"%3\"/>"
+            "</p>\n"_s.arg(m_dir->path())
+                .arg(legend.width() / 2)
+                .arg(legend.height() / 2);
+        QCOMPARE(QString::fromUtf8(contentOf(path(u"out.lay"_s))), text);
+        for (const QString &file :
+             {files.value().layer, files.value().document, files.value().legend})
+            QCOMPARE(QFile::permissions(file) & ~(QFile::ReadUser | QFile::WriteUser),
+                     QFile::ReadOwner | QFile::WriteOwner);
+    }
+
+    void writesTexturedBuildings()
+    {
+        const auto files =
+            writeTexturedLayer(path(u"out.lay"_s), m_input, storeys(), Access::Shared);
+
+        QVERIFY(files);
+        QCOMPARE(contentOf(files.value().document), QByteArray(TexturedDocument).replace('~', ' '));
+        const QByteArray layer = contentOf(path(u"out.lay"_s));
+        QVERIFY2(layer.startsWith("Buildings (quarter)|rf_storeys|TEXB:"), layer.constData());
+        QVERIFY2(layer.contains("underline;\">Storeys</span><br/>Images: 2<br/>"
+                                "Heights above the ground: 1.5 \u00b7 6 m</p><p>Colored: <span"),
+                 layer.constData());
+
+        m_input.legend.reset();
+        const auto plain =
+            writeTexturedLayer(path(u"plain.lay"_s), m_input, storeys(), Access::Shared);
+        QVERIFY(plain && plain.value().legend.isEmpty());
+        QVERIFY(!contentOf(path(u"plain.lay"_s)).contains("<img"));
+    }
+
+    void tellsWhatImagesThereAre_data()
+    {
+        QTest::addColumn<QList<double>>("heights");
+        QTest::addColumn<QString>("wanted");
+
+        QTest::newRow("none") << QList<double>{} << u"Images: 0</p>"_s;
+        QTest::newRow("one height of several networks")
+            << QList<double>{12, 1.5, 12}
+            << u"Images: 3<br/>Heights above the ground: 1.5 · 12 m</p>"_s;
+        QTest::newRow("a tower") << QList<double>{40, 37, 34, 31, 28, 25, 22, 19, 16, 13, 10, 7, 4}
+                                 << u"Images: 13<br/>Heights above the ground: 4 – 40 m</p>"_s;
+    }
+
+    void tellsWhatImagesThereAre()
+    {
+        QFETCH(QList<double>, heights);
+        QList<FileEntry> images;
+        for (const double height : heights)
+            images << image(u"/t/x.tif"_s, height);
+
+        const QString text = texturedInfoText(TexbSubtype::Walls, images);
+
+        QVERIFY2(text.contains(u">Walls</span><br/>"_s), qPrintable(text));
+        QFETCH(QString, wanted);
+        QVERIFY2(text.endsWith(wanted), qPrintable(text));
+    }
+
+    void namesFilesAfterTheLayer_data()
+    {
+        QTest::addColumn<QString>("layer");
+        QTest::addColumn<QString>("document");
+
+        QTest::newRow("usual") << u"/a/town.lay"_s << u"/a/town.texb"_s;
+        QTest::newRow("capitals") << u"/a/town.LAY"_s << u"/a/town.texb"_s;
+        QTest::newRow("no suffix") << u"/a.lay/town"_s << u"/a.lay/town.texb"_s;
+        QTest::newRow("other suffix") << u"/a/town.v2"_s << u"/a/town.v2.texb"_s;
+        QTest::newRow("relative") << u"town.lay"_s << QDir::current().filePath(u"town.texb"_s);
+    }
+
+    void namesFilesAfterTheLayer()
+    {
+        QFETCH(QString, layer);
+
+        QTEST(filesOf(layer, m_input).document, "document");
+    }
+
+    void leavesFilesAsTheyWereAfterAFailure_data()
+    {
+        QTest::addColumn<QString>("blocked"); ///< a folder takes the place of this file
+        QTest::addColumn<QString>("key");
+
+        QTest::newRow("document") << u"out.texb"_s << u"MESS_CANT_CREATE_LAYER"_s;
+        QTest::newRow("legend") << u"two & more_gradient.png"_s << u"MESS_CANT_CREATE_LAYER"_s;
+        QTest::newRow("layer") << u"out.lay"_s << u"MESS_CANT_CREATE_LAYER"_s;
+        QTest::newRow("template") << u"addons/telecom/template/template_texb.lay"_s
+                                  << u"MESS_MISSING_CONF_FILE"_s;
+    }
+
+    void leavesFilesAsTheyWereAfterAFailure()
+    {
+        QFETCH(QString, blocked);
+        QFile::remove(path(blocked));
+        QVERIFY(QDir().mkpath(path(blocked)));
+        for (const QByteArray &former : {QByteArray(), QByteArray("former")}) {
+            const QStringList names{u"out.texb"_s, u"two & more_gradient.png"_s, u"out.lay"_s};
+            for (const QString &name : names) {
+                if (!former.isEmpty() && name != blocked)
+                    put(path(name), former);
+            }
+            const QStringList before = QDir(m_dir->path()).entryList();
+            QString reason;
+
+            const auto files =
+                writeTexturedLayer(path(u"out.lay"_s), m_input, storeys(), Access::Shared, &reason);
+
+            QVERIFY(!files);
+            QTEST(files.error().key, "key");
+            QCOMPARE(files.error().path, path(blocked));
+            QCOMPARE(reason.isEmpty(), files.error().key == u"MESS_MISSING_CONF_FILE"_s);
+            QCOMPARE(QDir(m_dir->path()).entryList(), before);
+            for (const QString &name : names)
+                QCOMPARE(contentOf(path(name)),
+                         former.isEmpty() || name == blocked ? QByteArray("(none)") : former);
+        }
+    }
+
+    void leavesTheLegendOfSomebodyElseAlone()
+    {
+        QVERIFY(QDir().mkpath(path(u"two & more_gradient.png"_s))); // as little to be replaced
+
+        const auto files = writeColoredLayer(path(u"out.lay"_s), m_input, Signal, Access::UserOnly);
+
+        QVERIFY(files);
+        QCOMPARE(files.value().legend, path(u"out_two & more_gradient.png"_s));
+        QVERIFY(!QImage(files.value().legend).isNull());
+        QVERIFY(contentOf(path(u"out.lay"_s)).contains("/out_two &amp; more_gradient.png\""));
+    }
+
+private:
+    QString path(const QString &name) const { return m_dir->filePath(name); }
+
+    std::unique_ptr<QTemporaryDir> m_dir;
+    BuildingLayerInput m_input;
+};
+
+QTEST_MAIN(tst_BuildingLayerFiles)
+#include "tst_BuildingLayerFiles.moc"

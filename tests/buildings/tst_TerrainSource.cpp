@@ -1,0 +1,163 @@
+#include "SourcePage.h"
+
+#include <QDir>
+#include <QProgressBar>
+
+#include <gdal_priv.h>
+
+#include <array>
+
+using namespace sourcetest;
+
+class TestTerrainSource : public QObject, SourceFiles
+{
+    Q_OBJECT
+
+    /// An image that only holds other images.
+    QString withoutBands() const
+    {
+        const QString path = file(u"tables.gpkg"_s);
+        QFile::remove(path);
+        for (const char *table : {"RASTER_TABLE=a", "RASTER_TABLE=b"}) {
+            const std::array<const char *, 3> options = {table, "APPEND_SUBDATASET=YES", nullptr};
+            const GDALDatasetUniquePtr made(GetGDALDriverManager()->GetDriverByName("GPKG")->Create(
+                path.toUtf8(), 4, 4, 1, GDT_Byte, options.data()));
+            std::array<double, 6> place = {0, 1, 0, 4, 0, -1};
+            made->SetGeoTransform(place.data());
+        }
+        return path;
+    }
+
+private Q_SLOTS:
+    void initTestCase() { GDALAllRegister(); }
+
+    void init() { vlt::platform::wizardSettings()->clear(); }
+
+    void opensTerrains_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<QString>("noData");
+        QTest::addColumn<QString>("message");
+
+        const auto row = [](const char *name, const QString &path, const QString &message,
+                            const QString &noData = {}) {
+            QTest::newRow(name) << path << noData << message;
+        };
+        const QString refused = u"This file can't be open as a raster dataset"_s;
+        row("with missing values", grid(), {}, u"-9999.000000"_s);
+        row("without", write(u"full.asc"_s, GridHead + "1 2\n3 4\n"), {});
+        row("no raster", plain(), refused);
+        row("gone", file(u"gone.tif"_s), refused);
+        row("elsewhere", u"/vsicurl/http://127.0.0.1:9/a.tif"_s, refused);
+        row("no band", withoutBands(), u"This image doesn't have any band"_s);
+    }
+
+    void opensTerrains()
+    {
+        QFETCH(QString, path);
+        QFETCH(QString, noData);
+        QFETCH(QString, message);
+        remember(u"Dtm"_s, path);
+        const AnsweredBoxes boxes;
+
+        Host host;
+
+        compareBoxes(boxes.seen, QMessageBox::Warning, u"Warning"_s, message);
+        QCOMPARE(host.dtm()->text(), message.isEmpty() ? path : QString());
+        QCOMPARE(host.noData()->text(), noData);
+    }
+
+    void guessesWhatIsMissing_data()
+    {
+        QTest::addColumn<QByteArray>("contents");
+        QTest::addColumn<QString>("guess");
+
+        const auto row = [](const char *name, const QByteArray &contents, const QString &guess) {
+            QTest::newRow(name) << GridHead + contents << guess;
+        };
+        row("lowest", "1 2\n3 -100.5\n", u"-100.500000"_s);
+        row("lowest float", "1.5 2\n3 -3.4e38\n",
+            u"-339999995214436424907732413799364296704.000000"_s);
+        row("low ground", "NODATA_value -9999\n1 -100\n3 -9999\n", u"-9999.000000"_s);
+        row("highest", "NODATA_value -5\n1 2\n3 9000\n", u"9000.000000"_s);
+        row("lowest before highest", "1 -101\n3 9000\n", u"-101.000000"_s);
+        row("ground only", "0 8999\n3 3000\n", u"-32768.000000"_s);
+        row("all missing", "NODATA_value 7\n7 7\n7 7\n", u"7.000000"_s);
+    }
+
+    void guessesWhatIsMissing()
+    {
+        QFETCH(QByteArray, contents);
+        QFETCH(QString, guess);
+        const QTemporaryDir dir;
+        QFile raster(dir.filePath(u"r.asc"_s));
+        QVERIFY(raster.open(QIODevice::WriteOnly) && raster.write(contents) > 0);
+        raster.close();
+        Host host;
+        host.dtm()->setText(raster.fileName());
+        auto *bar = host.child<QProgressBar>(u"m_pwNoDataProgress"_s);
+        QVERIFY(bar->isHidden());
+        QList<int> values;
+        connect(bar, &QProgressBar::valueChanged, this, [&](int value) { values << value; });
+        QStringList meanwhile;
+        QTimer::singleShot(0, this, [&] {
+            if (!bar->isVisible() || host.page->isEnabled() ||
+                host.wizard.button(QWizard::BackButton)->isEnabled())
+                meanwhile << u"can be used"_s;
+            host.page->guessNoData();
+            host.page->droppedFile(plain());
+        });
+
+        host.child<QPushButton>(u"m_pwPbNoData"_s)->click();
+
+        QCOMPARE(meanwhile, QStringList());
+        QCOMPARE(host.noData()->text(), guess);
+        QCOMPARE(host.buildings()->text(), QString()); // the drop came at the wrong time
+        QCOMPARE(values, QList<int>{1});
+        QVERIFY(bar->isHidden() && host.page->isEnabled());
+        QVERIFY(host.wizard.button(QWizard::BackButton)->isEnabled());
+        QCOMPARE(QDir(dir.path()).entryList(QDir::Files), QStringList{u"r.asc"_s});
+    }
+
+    void guessesNothingOfWhatIsNoRaster()
+    {
+        Host host;
+        const AnsweredBoxes boxes;
+        host.noData()->setText(u"12"_s);
+        host.page->guessNoData();
+        compareBoxes(boxes.seen, {}, {}, {});
+
+        host.dtm()->setText(plain());
+        host.page->guessNoData();
+
+        compareBoxes(boxes.seen, QMessageBox::Warning, u"Warning"_s,
+                     u"This file can't be open as a raster dataset"_s);
+        QCOMPARE(host.noData()->text(), u"12"_s);
+    }
+
+    void survivesTheEndOfTheWindowDuringAGuess()
+    {
+        for (const bool isDeleted : {false, true}) {
+            auto *host = new Host;
+            host->dtm()->setText(grid());
+            auto *wizard = new QWizard; // owns the page
+            wizard->addPage(host->page);
+            wizard->show();
+            VltAddTexbFirstPage *page = host->page;
+            QTimer::singleShot(0, this, [=] {
+                wizard->hide();
+                if (isDeleted)
+                    delete wizard;
+            });
+            page->guessNoData();
+            if (!isDeleted) {
+                QCOMPARE(host->noData()->text(), QString());
+                delete wizard;
+            }
+            delete host;
+        }
+    }
+};
+
+QTEST_MAIN(TestTerrainSource)
+#include "tst_TerrainSource.moc"

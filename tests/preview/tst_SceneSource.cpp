@@ -1,0 +1,95 @@
+#include "connection/ReaderOptions.h"
+#include "snapshot/SceneSource.h"
+
+#include <QList>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <osg/Group>
+#include <osgDB/FileNameUtils>
+#include <osgDB/Registry>
+
+using namespace Qt::StringLiterals;
+using vlt::snapshot::TerrainSurface;
+
+namespace {
+
+/// Reads files of its own suffix as a scene: tells quarters, and what else it was handed.
+class ProbeReader : public osgDB::ReaderWriter
+{
+public:
+    ProbeReader() { supportsExtension("vltprobe", "probe"); }
+
+    ReadResult readNode(const std::string &name, const Options *options) const override
+    {
+        if (!acceptsExtension(osgDB::getLowerCaseFileExtension(name)))
+            return ReadResult::FILE_NOT_HANDLED;
+        const auto *progress = static_cast<const vlt::connection::ReadProgress *>(
+            options->getPluginData(vlt::connection::ProgressKey));
+        for (int quarter = 1; progress && quarter <= 4; ++quarter) {
+            if (!progress->report(progress->context, quarter / 4.))
+                return ReadResult(std::string(vlt::connection::StoppedText));
+        }
+        osg::ref_ptr<osg::Group> scene = new osg::Group;
+        scene->addDescription(options->getPluginStringData(vlt::connection::ProjectKey));
+        scene->addDescription(options->getPluginStringData(vlt::connection::TerrainKey));
+        return scene.get();
+    }
+};
+
+} // namespace
+
+class TestSceneSource : public QObject
+{
+    Q_OBJECT
+
+    QTemporaryDir m_dir;
+    QString m_scene = m_dir.filePath(u"a.vltprobe"_s);
+    osg::ref_ptr<ProbeReader> m_reader = new ProbeReader;
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QFile file(m_scene);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        osgDB::Registry::instance()->addReaderWriter(m_reader);
+    }
+
+    void cleanupTestCase() { osgDB::Registry::instance()->removeReaderWriter(m_reader); }
+
+    void handsProjectAndTerrainToTheReader()
+    {
+        const auto read =
+            vlt::snapshot::readScene(m_scene, u"/project/a.gvw"_s, TerrainSurface::Shown);
+
+        QVERIFY(read);
+        QCOMPARE(read.value()->getDescription(0), std::string("/project/a.gvw"));
+        QCOMPARE(read.value()->getDescription(1), std::string("1"));
+    }
+
+    void tellsHowFarTheReaderIs()
+    {
+        QList<double> shares;
+
+        const auto read =
+            vlt::snapshot::readScene(m_scene, {}, TerrainSurface::Hidden, [&shares](double share) {
+                shares += share;
+                return true;
+            });
+
+        QVERIFY(read);
+        QCOMPARE(shares, (QList<double>{0.25, 0.5, 0.75, 1}));
+    }
+
+    void stopsTheReader()
+    {
+        const auto read = vlt::snapshot::readScene(m_scene, {}, TerrainSurface::Hidden,
+                                                   [](double share) { return share < 0.5; });
+
+        QVERIFY(!read);
+        QCOMPARE(read.error().text, QLatin1String(vlt::connection::StoppedText));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestSceneSource)
+#include "tst_SceneSource.moc"
