@@ -62,8 +62,7 @@ makeLayers() {
     done
     makeLayer buildings_colored buildings --image "$samples/coverage/signal_level_dBm.tif" --colormap signal_level_dBm \
         --absolute --mode average
-    makeLayer buildings_textured buildings --textures "$samples/textures/same_folder/coverage_6m.tif" --texture-on walls \
-        --textured-distance 3000 --complex-buildings
+    makeLayer buildings_textured buildings --textures "$samples/textures/same_folder/coverage_6m.tif" --texture-on walls
     echo
     "$install/vltlayers" link "$samples/links.csv" --project "$samples/city.gvw" --report --quiet
     echo

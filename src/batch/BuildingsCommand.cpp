@@ -1,6 +1,7 @@
 #include "batch/BuildingsCommand.h"
 
 #include "batch/BuildingsInputs.h"
+#include "batch/BuildingsOptions.h"
 #include "batch/Console.h"
 #include "batch/Help.h"
 #include "batch/OutputFiles.h"
@@ -33,7 +34,7 @@ void describe(QCommandLineParser &parser)
 {
     parser.setApplicationDescription(QStringLiteral(
         "Makes a layer of 3D buildings, the same that the wizard makes: coloured from a raster\n"
-        "(--image), or with images on roofs, walls or storeys (--texture, --textures)."));
+        "(--image), with images on roofs, walls or storeys (--texture, --textures), or plain."));
     parser.addPositionalArgument(
         QStringLiteral("VECTOR"),
         QStringLiteral("Vector file with the outlines of the buildings (default: the project's)."),
@@ -42,26 +43,25 @@ void describe(QCommandLineParser &parser)
     addGlobalOptions(parser);
 }
 
-/// Files that the layer consists of.
-QStringList outputsOf(const QString &layerPath, const buildings::BuildingLayerInput &input)
-{
-    const BuildingLayerFiles files = buildings::filesOf(layerPath, input);
-    return {files.layer, files.document, files.legend};
-}
-
 Result<BuildingLayerFiles> writeFiles(const BuildingsRequest &request,
                                       const BuildingsInputs &inputs, QString &reason)
 {
     constexpr auto access = platform::Access::Shared;
-    return request.textures ? buildings::writeTexturedLayer(request.output, inputs.layer,
-                                                            inputs.look, access, &reason)
-                            : buildings::writeColoredLayer(request.output, inputs.layer,
-                                                           inputs.coloring, access, &reason);
+    return request.look ? buildings::writeTexturedLayer(request.output, inputs.layer, inputs.look,
+                                                        access, &reason)
+                        : buildings::writeColoredLayer(request.output, inputs.layer,
+                                                       inputs.coloring, access, &reason);
 }
 
-void warnOfImages(const buildings::TexturedLook &look)
+void warnOfImages(const BuildingsInputs &inputs)
 {
-    const QList<buildings::FileEntry> &images = look.textures->images;
+    if (!inputs.look.textures) {
+        if (inputs.coloring.rasterFile.isEmpty())
+            printError(dico_label("MESS_CLI_PLAIN", "no image lies on the buildings: neither "
+                                                    "--texture nor --textures is given"));
+        return;
+    }
+    const QList<buildings::FileEntry> &images = inputs.look.textures->images;
     const auto count =
         std::count_if(images.begin(), images.end(),
                       [](const buildings::FileEntry &image) { return image.height == 0; });
@@ -77,7 +77,7 @@ QString layerJson(const BuildingsRequest &request, const BuildingsInputs &inputs
     const auto textOrNull = [](const QString &text) {
         return text.isEmpty() ? QJsonValue(QJsonValue::Null) : QJsonValue(text);
     };
-    const TexbSubtype subtype = request.textures ? inputs.look.subtype : TexbSubtype::Colored;
+    const TexbSubtype subtype = request.look ? inputs.look.subtype : TexbSubtype::Colored;
     QJsonObject object{{QStringLiteral("layer"), QFileInfo(files.layer).absoluteFilePath()},
                        {QStringLiteral("document"), files.document},
                        {QStringLiteral("legend"), textOrNull(files.legend)},
@@ -94,8 +94,9 @@ QString layerJson(const BuildingsRequest &request, const BuildingsInputs &inputs
                        {QStringLiteral("colormap"), textOrNull(inputs.coloring.colorMap)},
                        {QStringLiteral("xCenter"), source.xCenter},
                        {QStringLiteral("yCenter"), source.yCenter}};
-    if (request.textures)
-        object.insert(QStringLiteral("textures"), inputs.look.textures->images.size());
+    if (request.look)
+        object.insert(QStringLiteral("textures"),
+                      inputs.look.textures ? inputs.look.textures->images.size() : 0);
     return QString::fromUtf8(QJsonDocument(object).toJson());
 }
 
@@ -106,16 +107,16 @@ ExitStatus runParsed(const BuildingsRequest &request, const GlobalOptions &optio
         readBuildingsInputs(request, surroundings, options.quiet);
     if (!inputs)
         return refuse(inputs.error());
-    for (const QString &output : outputsOf(request.output, inputs.value().layer)) {
-        if (!output.isEmpty() && isOneOf(output, inputs.value().files))
+    for (const QString &output : buildings::possibleFilesOf(request.output, inputs.value().layer)) {
+        if (isOneOf(output, inputs.value().files))
             return refuse(outputIsInput(output));
     }
     QString reason;
     const Result<BuildingLayerFiles> written = writeFiles(request, inputs.value(), reason);
     if (!written)
         return refuse(written.error(), reason);
-    if (request.textures && !options.quiet)
-        warnOfImages(inputs.value().look);
+    if (request.look && !options.quiet)
+        warnOfImages(inputs.value());
     if (options.json && !printOut(layerJson(request, inputs.value(), written.value())))
         return refuse({QString(), QStringLiteral("the output cannot be written"), {}});
     return ExitStatus::Done;
@@ -131,7 +132,7 @@ ExitStatus runBuildings(const QStringList &arguments)
         parseArguments(parser, arguments, {0, 1, QStringLiteral("vector file")});
     if (const auto answered = answerHelp(parser, options, Examples))
         return *answered;
-    const Result<BuildingsRequest> request = readBuildingsOptions(parser);
+    const Result<BuildingsRequest> request = readBuildingsRequest(parser);
     if (!request)
         return refuseUsage(request.error().text);
     if (options.value().projectPath.isEmpty()) {

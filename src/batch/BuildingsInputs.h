@@ -1,6 +1,6 @@
 #pragma once
 
-#include "batch/BuildingsOptions.h"
+#include "batch/BuildingsRequest.h"
 #include "batch/StartUp.h"
 
 namespace vlt::batch {
@@ -10,7 +10,7 @@ struct BuildingsInputs
 {
     buildings::BuildingLayerInput layer;
     buildings::RasterColoring coloring; ///< without a raster where none is asked for
-    buildings::TexturedLook look;       ///< with images where textured buildings are asked for
+    buildings::TexturedLook look;       ///< of the request, with images where it has textures
     qint64 buildingCount = -1;          ///< -1 where the format would have to count
     QStringList files;                  ///< all that are read, none of which may be written
 };

@@ -1,14 +1,16 @@
 #include "batch/BuildingsTextures.h"
 
+#include "batch/DatasetNames.h"
+#include "batch/InputErrors.h"
 #include "batch/ProgressLine.h"
 #include "buildings/FileListModel.h"
 #include "geodata/RasterSource.h"
 #include "language/VltLanguageManager.h"
 
 #include <QFileInfo>
-#include <QRegularExpression>
 
 #include <algorithm>
+#include <cmath>
 #include <iterator>
 
 namespace vlt::batch {
@@ -18,11 +20,6 @@ namespace {
 using buildings::DataStructure;
 using buildings::FileEntry;
 using Images = Result<QList<FileEntry>>;
-
-Error told(const QString &text, const QString &path)
-{
-    return {QString(), text, path};
-}
 
 /// An image and the height that is given for it.
 struct GivenImage
@@ -42,54 +39,27 @@ GivenImage splitHeight(const QString &given)
     return {given.left(sign), height};
 }
 
-/// Names that begin with a colon are those of the application's own resources.
-bool isThere(const QString &file)
-{
-    return !file.startsWith(QLatin1Char(':')) && QFileInfo::exists(file);
-}
-
-/// Start, file and end of a dataset's name: one that exists, or "FORMAT:", perhaps with a number or
-/// a quote, before one and perhaps something behind it.
-struct DatasetName
-{
-    QString before;
-    QString file; ///< empty where no file of this computer is in it
-    QString after;
-};
-
-DatasetName parsedName(const QString &name)
-{
-    static const QRegularExpression inFormat(
-        QStringLiteral("\\A([A-Za-z0-9_]+:(?:[0-9]+:)?\"?)([^\"]+?)((?:\"?(?::.*)?|\"))\\z"));
-    if (isThere(name))
-        return {{}, name, {}};
-    const QRegularExpressionMatch match = inFormat.match(name);
-    if (match.hasMatch() && isThere(match.captured(2)))
-        return {match.captured(1), match.captured(2), match.captured(3)};
-    return {name, {}, {}};
-}
-
 Images entriesOf(const GivenImage &given)
 {
-    const DatasetName name = parsedName(given.name);
-    const QString path = QFileInfo(name.file).absoluteFilePath();
-    if (name.file.isEmpty())
+    const QFileInfo file(fileOfDataset(given.name));
+    if (file.filePath().isEmpty())
         return told(dico_label("MESS_SNAP_NO_FILE", "no such file"), given.name);
-    if (const auto image = geodata::readRasterSummary(path); !image)
-        return told(
-            dico_label("MESS_ERR_OPEN_RASTERDS", "This file can't be open as a raster dataset"),
-            name.file);
+    const QString path = file.absoluteFilePath();
+    const QString name = absoluteDatasetName(given.name);
+    const bool isPart = name != path;
+    if (const auto image = geodata::readRasterSummary(path, isPart ? name : QString()); !image)
+        return withReason("MESS_ERR_OPEN_RASTERDS", "This file can't be open as a raster dataset",
+                          image.error(), given.name);
+    if (given.height && !std::isfinite(*given.height))
+        return told(dico_label("MESS_CLI_BAD_HEIGHT", "the height is no number"), given.name);
     if (given.height)
-        return QList<FileEntry>{FileEntry(absoluteDatasetName(given.name), *given.height,
-                                          FileEntry::Metres, {}, true, {})};
+        return QList<FileEntry>{FileEntry(name, *given.height, FileEntry::Metres, {}, true, {})};
     QList<FileEntry> entries;
-    const QFileInfo file(path);
     const auto beside =
         buildings::findTextures(DataStructure::SameFolder, file.absolutePath(), file.suffix(), {});
     for (const FileEntry &entry : *beside) {
-        const bool isIt = name.before.isEmpty()
-                              ? entry.fileName() == file.fileName()
-                              : entry.file.filePath() == absoluteDatasetName(given.name);
+        const bool isIt =
+            isPart ? entry.file.filePath() == name : entry.fileName() == file.fileName();
         if (isIt)
             entries << entry;
     }
@@ -151,30 +121,6 @@ Images foundImages(const TextureChoice &choice, bool quiet)
 }
 
 } // namespace
-
-QString absoluteDatasetName(const QString &name)
-{
-    const DatasetName parts = parsedName(name);
-    if (parts.file.isEmpty())
-        return name;
-    QString path = QFileInfo(parts.file).absoluteFilePath();
-    if (parts.before.isEmpty())
-        return path;
-    QString full = parts.before + path + parts.after;
-    const auto withoutQuotes = [](QString text) { return text.remove(QLatin1Char('"')); };
-    if (const auto file = geodata::readRasterSummary(path)) {
-        for (const geodata::Subdataset &part : file.value().subdatasets) {
-            if (withoutQuotes(part.name) == withoutQuotes(full))
-                return part.name;
-        }
-    }
-    return full;
-}
-
-QString fileOfDataset(const QString &name)
-{
-    return parsedName(name).file;
-}
 
 Result<QList<FileEntry>> readTextures(const TextureChoice &choice, bool quiet)
 {

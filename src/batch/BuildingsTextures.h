@@ -1,6 +1,6 @@
 #pragma once
 
-#include "batch/BuildingsOptions.h"
+#include "batch/BuildingsRequest.h"
 
 namespace vlt::batch {
 
@@ -9,12 +9,5 @@ namespace vlt::batch {
 /// @param quiet  without a line on the terminal about the search
 /// @par Errors   in the language in use, with the file that cannot be used
 Result<QList<buildings::FileEntry>> readTextures(const TextureChoice &choice, bool quiet);
-
-/// A dataset's name with an absolute path: of a file, or of the file in a name such as
-/// "FORMAT:2:town.tif" or "FORMAT:\"town.nc\":level", then as the file lists it.
-QString absoluteDatasetName(const QString &name);
-
-/// The file of such a name; empty where there is none of this computer.
-QString fileOfDataset(const QString &name);
 
 } // namespace vlt::batch

@@ -21,6 +21,7 @@ struct NumberOption
     QString meaning;
     std::variant<double Representation::*, int Representation::*> member;
     sites::Limits limits;
+    bool hasDefault = true; ///< else it is not used unless given
 
     bool isInteger() const { return std::holds_alternative<int Representation::*>(member); }
 };
@@ -48,7 +49,8 @@ void addNumberOptions(QCommandLineParser &parser,
         parser.addOption(
             {option.name,
              option.meaning + QStringLiteral(", ") + rangeText(option.limits) +
-                 QStringLiteral(" (default ") + value + QStringLiteral(")."),
+                 (option.hasDefault ? QStringLiteral(" (default ") + value + QStringLiteral(").")
+                                    : QStringLiteral(" (default: not used).")),
              option.isInteger() ? QStringLiteral("INTEGER") : QStringLiteral("NUMBER")});
     }
 }

@@ -7,6 +7,7 @@
 #include "batch/StartUp.h"
 #include "language/VltLanguageManager.h"
 #include "platform/AtomicFile.h"
+#include "snapshot/SceneNoticeText.h"
 #include "snapshot/SceneNotices.h"
 #include "snapshot/SceneSource.h"
 #include "snapshot/Snapshot.h"
@@ -128,7 +129,7 @@ void tellNotices(const QStringList &notices, const GlobalOptions &options)
 {
     for (const QString &notice : notices) {
         if (!options.quiet)
-            printError(oneLine(notice));
+            printError(oneLine(snapshot::sceneNoticeText(notice)));
     }
 }
 
@@ -163,6 +164,8 @@ ExitStatus refuseLayer(Error error, const Request &request)
 {
     if (error.path.isEmpty())
         error.path = request.layer;
+    if (error.key.isEmpty())
+        error.text = snapshot::sceneNoticeText(error.text);
     return refuse(error);
 }
 

@@ -26,6 +26,12 @@ Error cannotCreate(const QString &path)
             path};
 }
 
+/// Name of a legend that no other layer has.
+QString ownLegendName(const QString &document, const QString &colorMapName)
+{
+    return QFileInfo(document).completeBaseName() + QLatin1Char('_') + colorMapName;
+}
+
 /// What stood at a path before it was written.
 class FormerFile
 {
@@ -106,17 +112,24 @@ private:
         return written;
     }
 
-    /// In a directory of several users the legend's name may be taken by somebody else's file: it
-    /// gets the layer's name in front then.
+    /// Its name may be taken: in a directory of several users by somebody else's file, beside
+    /// another layer by the same colours over other values. It gets the layer's name in front then.
     Result<Done> writeLegend(const LegendInput &legend)
     {
         const QImage image = colormaps::drawLegend(legend.map, legend.interpretation, LegendScale);
         m_legendSize = image.size() / LegendScale;
+        const bool isShared = m_access != platform::Access::UserOnly;
+        if (isShared && isOther(image, m_files.legend))
+            return writeLegendAs(ownLegendName(m_files.document, legend.name), image);
         Result<Done> written = writeLegendAs(legend.name, image);
-        if (written || m_access != platform::Access::UserOnly)
+        if (written || isShared)
             return written;
-        return writeLegendAs(
-            QFileInfo(m_files.document).completeBaseName() + QLatin1Char('_') + legend.name, image);
+        return writeLegendAs(ownLegendName(m_files.document, legend.name), image);
+    }
+
+    static bool isOther(const QImage &image, const QString &path)
+    {
+        return QFileInfo(path).isFile() && QImage(path).convertToFormat(image.format()) != image;
     }
 
     Result<Done> writeLegendAs(const QString &name, const QImage &image)
@@ -168,6 +181,17 @@ BuildingLayerFiles filesOf(const QString &layerPath, const BuildingLayerInput &i
     if (input.legend)
         files.legend = colormaps::legendPath(QFileInfo(name).path(), input.legend->name);
     return files;
+}
+
+QStringList possibleFilesOf(const QString &layerPath, const BuildingLayerInput &input)
+{
+    const BuildingLayerFiles files = filesOf(layerPath, input);
+    QStringList paths{files.layer, files.document};
+    if (input.legend)
+        paths << files.legend
+              << colormaps::legendPath(QFileInfo(files.document).path(),
+                                       ownLegendName(files.document, input.legend->name));
+    return paths;
 }
 
 FootprintSettings footprintsOf(const BuildingsSource &source, FootprintSettings settings)

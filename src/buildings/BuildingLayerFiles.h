@@ -13,8 +13,8 @@ struct BuildingLayerFiles
 {
     QString layer;    ///< "NAME.lay"
     QString document; ///< "NAME.texb"
-    /// "MAP_gradient.png", or "NAME_MAP_gradient.png" where the first is somebody else's; empty
-    /// where no colour map is used
+    /// "MAP_gradient.png", or "NAME_MAP_gradient.png" where the first is somebody else's or shows
+    /// other values; empty where no colour map is used
     QString legend;
 };
 
@@ -38,6 +38,9 @@ struct BuildingLayerInput
 /// What the files of a layer of this input will be called; a suffix ".lay" is left out of the
 /// document's name.
 BuildingLayerFiles filesOf(const QString &layerPath, const BuildingLayerInput &input);
+
+/// All paths that writing such a layer may write to.
+QStringList possibleFilesOf(const QString &layerPath, const BuildingLayerInput &input);
 
 /// The file, layer, field of `source` with the measures of `settings`.
 FootprintSettings footprintsOf(const BuildingsSource &source, FootprintSettings settings);

@@ -10,8 +10,8 @@ namespace vlt::buildings {
 
 using colormaps::ColorMap;
 
-Result<std::optional<coverage::ValueRange>> readCoverageRange(const QString &raster,
-                                                              const QString &noData)
+Result<std::optional<coverage::ValueRange>>
+readCoverageRange(const QString &raster, const QString &noData, const platform::Progress &progress)
 {
     const geodata::ErrorCollector errors;
     std::string reason;
@@ -20,7 +20,14 @@ Result<std::optional<coverage::ValueRange>> readCoverageRange(const QString &ras
     if (!opened)
         return Error{QStringLiteral("MESS_ERR_OPEN_RASTERDS"),
                      QString::fromLocal8Bit(reason.c_str()), raster};
-    return opened->range();
+    bool isStopped = false;
+    const std::optional<coverage::ValueRange> range = opened->range([&](double share) {
+        isStopped = progress && !progress(share);
+        return !isStopped;
+    });
+    if (isStopped)
+        return Error{};
+    return range;
 }
 
 Result<LegendInput> legendOf(const RasterColoring &coloring,

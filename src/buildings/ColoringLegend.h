@@ -2,16 +2,21 @@
 
 #include "buildings/BuildingLayerFiles.h"
 #include "coverage/CoverageRaster.h"
+#include "platform/Progress.h"
 
 namespace vlt::buildings {
 
 /// Least and greatest value of a raster, which is read whole.
 ///
-/// @param noData  as typed, may be empty
-/// @return        nothing where no pixel has a value
-/// @par Errors    MESS_ERR_OPEN_RASTERDS with the path; the text is the reason
-Result<std::optional<coverage::ValueRange>> readCoverageRange(const QString &raster,
-                                                              const QString &noData);
+/// @param noData    as typed, may be empty
+/// @param progress  may be empty; false stops the work
+/// @return          nothing where no pixel has a value
+/// @par Errors      MESS_ERR_OPEN_RASTERDS with the path, the text is the reason; no key and no
+/// text
+///                  where it was stopped
+Result<std::optional<coverage::ValueRange>>
+readCoverageRange(const QString &raster, const QString &noData,
+                  const platform::Progress &progress = {});
 
 /// The legend of a colouring.
 ///

@@ -8,9 +8,12 @@ QString FileEntry::fileName() const
     if (path.isEmpty() || path.startsWith(u'/'))
         return file.fileName();
     // FORMAT:"/folder/file.nc":variable, FORMAT:2:/folder/file.tif, FORMAT:/folder/file.gpkg:table
-    const qsizetype quote = path.indexOf(u'"');
-    if (quote >= 0) {
-        const QString quoted = path.mid(quote + 1, path.indexOf(u'"', quote + 1) - quote - 1);
+    const qsizetype quote = path.indexOf(QStringLiteral(":\"")) + 1;
+    if (quote > 0 && quote < path.indexOf(u'/')) {
+        qsizetype end = path.indexOf(QStringLiteral("\":"), quote + 1);
+        if (end < 0)
+            end = path.indexOf(u'"', quote + 1);
+        const QString quoted = path.mid(quote + 1, end - quote - 1);
         return quoted.mid(quoted.lastIndexOf(u'/') + 1);
     }
     const QString name = path.mid(path.lastIndexOf(u'/') + 1);

@@ -1,7 +1,8 @@
 #include "buildings/TexturedInfoText.h"
 
 #include "language/VltLanguageManager.h"
-#include "text/Numbers.h"
+
+#include <QLocale>
 
 #include <set>
 
@@ -28,9 +29,11 @@ QString whereOf(TexbSubtype subtype)
 
 QString heightsText(const std::set<double> &heights)
 {
+    constexpr int Digits = 6;
+    const QLocale spoken(VltLanguageManager::getInstance().getCurrentLanguage().text);
     QStringList texts;
     for (const double height : heights)
-        texts << text::g6(height);
+        texts << spoken.toString(height, 'g', Digits);
     if (texts.size() > MostHeights)
         texts = {texts.first() + QStringLiteral(" \u2013 ") + texts.last()};
     return texts.join(QStringLiteral(" \u00b7 ")) + QStringLiteral(" m");
@@ -48,17 +51,16 @@ QString texturedInfoText(TexbSubtype subtype, const QList<FileEntry> &images)
         ++count;
         heights.insert(image.height);
     }
-    const QString where =
-        QStringLiteral("<span style=\"font-weight:600; text-decoration:underline;\">") +
-        whereOf(subtype) + QStringLiteral("</span>");
-    QString text =
-        QStringLiteral("<p>") + dico_label("MESS_TEXB_TEXTURED_ON", "Textured: %1").arg(where) +
-        QStringLiteral("<br/>") + dico_label("MESS_TEXB_IMAGES", "Images: %1").arg(count);
-    if (!heights.empty())
-        text += QStringLiteral("<br/>") +
-                dico_label("MESS_TEXB_HEIGHTS", "Heights above the ground: %1")
-                    .arg(heightsText(heights));
-    return text + QStringLiteral("</p>");
+    QStringList lines{dico_label("MESS_TEXB_IMAGES", "Images: %1").arg(count)};
+    if (count > 0) {
+        const QString where =
+            QStringLiteral("<span style=\"font-weight:600; text-decoration:underline;\">") +
+            whereOf(subtype) + QStringLiteral("</span>");
+        lines.prepend(dico_label("MESS_TEXB_TEXTURED_ON", "Textured: %1").arg(where));
+        lines << dico_label("MESS_TEXB_HEIGHTS", "Heights above the ground: %1")
+                     .arg(heightsText(heights));
+    }
+    return QStringLiteral("<p>") + lines.join(QStringLiteral("<br/>")) + QStringLiteral("</p>");
 }
 
 } // namespace vlt::buildings

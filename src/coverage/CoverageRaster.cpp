@@ -97,21 +97,22 @@ public:
         }
     }
 
-    /// The rings in pixels; false where a place is none.
+    /// The rings in pixels; false where a place is none or out of all reach.
     bool take(std::span<const Ring> places)
     {
+        constexpr double Farthest = 1e15; // differences of pixels stay finite
         rings.resize(places.size());
-        bool isFinite = true;
+        bool isNear = true;
         for (std::size_t i = 0; i < places.size(); ++i) {
             rings[i].clear();
             for (const Place &place : places[i]) {
                 const Place pixel{toPixel[0] + toPixel[1] * place.x + toPixel[2] * place.y,
                                   toPixel[3] + toPixel[4] * place.x + toPixel[5] * place.y};
-                isFinite = isFinite && std::isfinite(pixel.x) && std::isfinite(pixel.y);
+                isNear = isNear && std::abs(pixel.x) <= Farthest && std::abs(pixel.y) <= Farthest;
                 rings[i].push_back(pixel);
             }
         }
-        return isFinite && !rings.empty() && !rings.front().empty();
+        return isNear && !rings.empty() && !rings.front().empty();
     }
 
     void addMiddle(ValueReducer &reducer)
@@ -160,10 +161,10 @@ std::unique_ptr<CoverageRaster> CoverageRaster::open(const std::string &path,
     return nullptr;
 }
 
-std::optional<ValueRange> CoverageRaster::range()
+std::optional<ValueRange> CoverageRaster::range(const Progress &progress)
 {
     std::optional<ValueRange> range;
-    m_parts->blocks.readAll([&range](std::span<const double> values) {
+    const auto widen = [&range](std::span<const double> values) {
         for (const double value : values) {
             if (std::isnan(value))
                 continue;
@@ -172,8 +173,8 @@ std::optional<ValueRange> CoverageRaster::range()
             range->minimum = std::min(range->minimum, value);
             range->maximum = std::max(range->maximum, value);
         }
-    });
-    return range;
+    };
+    return m_parts->blocks.readAll(widen, progress) ? range : std::nullopt;
 }
 
 const OGRSpatialReference *CoverageRaster::srs() const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <span>
@@ -31,6 +32,9 @@ struct ValueRange
     double maximum = 0;
 };
 
+/// What long work calls now and then with the share that is done (0..1); false stops it.
+using Progress = std::function<bool(double)>;
+
 /// A local one-band raster of values such as levels, in whatever unit. Not for two threads at once.
 class CoverageRaster
 {
@@ -47,8 +51,8 @@ public:
     ~CoverageRaster();
 
     /// Least and greatest value of all pixels that have one (scale and offset applied); nothing
-    /// where none has.
-    std::optional<ValueRange> range();
+    /// where none has, and where `progress` (may be empty) stopped it.
+    std::optional<ValueRange> range(const Progress &progress = {});
 
     /// System of the raster, x before y; null where it states none.
     const OGRSpatialReference *srs() const;

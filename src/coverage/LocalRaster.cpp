@@ -3,7 +3,6 @@
 #include "localfiles/LocalFormats.h"
 
 #include <cpl_error.h>
-#include <cpl_string.h>
 
 #include <filesystem>
 #include <functional>
@@ -15,18 +14,26 @@ namespace {
 
 constexpr double MostBlockPixels = 1 << 27; ///< of the file's own blocks, which are read whole
 
-/// What in a name may be the path of a file: between a colon or quotation mark and the next one, or
-/// one after that.
+/// What in a name may be the path of a file: between a colon, comma or quotation mark and another
+/// one after it.
 ///
 /// @param use  takes where it begins and its length; true ends the search
 bool forEachPath(std::string_view name, const std::function<bool(std::size_t, std::size_t)> &use)
 {
-    constexpr std::string_view Ends = ":\"";
-    for (std::size_t begin = name.find_first_of(Ends); begin != std::string_view::npos;
-         begin = name.find_first_of(Ends, begin + 1)) {
-        for (std::size_t end = name.size(); end != std::string_view::npos && end > begin + 1;
-             end = name.find_last_of(Ends, end - 1)) {
-            if (use(begin + 1, end - begin - 1))
+    constexpr std::size_t Most = 64; // a document may name whatever it likes
+    constexpr std::string_view Marks = ":\",";
+    std::vector<std::size_t> marks;
+    for (std::size_t at = name.find_first_of(Marks); at != std::string_view::npos;
+         at = name.find_first_of(Marks, at + 1)) {
+        marks.push_back(at);
+        if (marks.size() > Most)
+            return false;
+    }
+    marks.push_back(name.size());
+    for (std::size_t first = 0; first < marks.size(); ++first) {
+        const std::size_t begin = marks[first] + 1;
+        for (std::size_t last = marks.size() - 1; last > first; --last) {
+            if (marks[last] > begin && use(begin, marks[last] - begin))
                 return true;
         }
     }
@@ -48,15 +55,14 @@ GDALDatasetUniquePtr openAs(const std::string &name, const char *const *formats)
 bool lists(GDALDataset &file, const std::string &part)
 {
     // all at once: some formats do not tell single items
-    char **const items = file.GetMetadata("SUBDATASETS");
-    for (int n = 1;; ++n) {
-        const std::string key = "SUBDATASET_" + std::to_string(n) + "_NAME";
-        const char *name = CSLFetchNameValue(items, key.c_str());
-        if (!name)
-            return false;
-        if (part == name)
+    for (char **item = file.GetMetadata("SUBDATASETS"); item && *item; ++item) {
+        const std::string_view text = *item; // SUBDATASET_1_NAME=...
+        const std::size_t equals = text.find('=');
+        if (equals != std::string_view::npos && text.substr(0, equals).ends_with("_NAME") &&
+            text.substr(equals + 1) == part)
             return true;
     }
+    return false;
 }
 
 GDALDatasetUniquePtr openPart(const std::string &name)
@@ -69,7 +75,7 @@ GDALDatasetUniquePtr openPart(const std::string &name)
         const GDALDatasetUniquePtr file = openAs(path, localfiles::localRasterFormats());
         if (!file || !lists(*file, name))
             return false;
-        part = openAs(name, localfiles::localRasterFormats()); // not always that of the file
+        part = openListedPart(name);
         return true;
     });
     return part;
@@ -107,6 +113,18 @@ std::string locateRaster(const std::string &name, const std::vector<std::string>
             return located;
     }
     return name;
+}
+
+GDALDatasetUniquePtr openListedPart(const std::string &name)
+{
+    const std::size_t slash = name.find('/');
+    const bool isLocal = forEachPath(name, [&](std::size_t begin, std::size_t length) {
+        return begin == slash && localfiles::isLocalDataset(name.substr(begin, length));
+    });
+    if (isLocal && name.compare(slash, 2, "//") != 0)
+        return openAs(name, localfiles::localRasterFormats()); // not always that of the file
+    CPLError(CE_Failure, CPLE_OpenFailed, "not in a file of this computer");
+    return nullptr;
 }
 
 GDALDatasetUniquePtr openLocalRaster(const std::string &name, std::string *reason)

@@ -49,6 +49,18 @@ RasterBlocks::RasterBlocks(GDALRasterBand &band, std::optional<double> noData) :
     m_offset = band.GetOffset();
 }
 
+void RasterBlocks::applyMask(int left, int top, int width, int height, std::vector<double> &values)
+{
+    if ((m_band.GetMaskFlags() & GMF_PER_DATASET) == 0)
+        return;
+    std::vector<std::uint8_t> mask(values.size());
+    if (m_band.GetMaskBand()->RasterIO(GF_Read, left, top, width, height, mask.data(), width,
+                                       height, GDT_Byte, 0, 0, nullptr) != CE_None)
+        return;
+    for (std::size_t i = 0; i < values.size(); ++i)
+        values[i] = mask[i] == 0 ? std::numeric_limits<double>::quiet_NaN() : values[i];
+}
+
 void RasterBlocks::readWindow(int left, int top, int width, int height, std::vector<double> &values)
 {
     constexpr double None = std::numeric_limits<double>::quiet_NaN();
@@ -58,6 +70,7 @@ void RasterBlocks::readWindow(int left, int top, int width, int height, std::vec
     if (m_band.RasterIO(GF_Read, left, top, width, height, values.data(), width, height,
                         GDT_Float64, 0, 0, nullptr) != CE_None)
         std::fill(values.begin(), values.end(), None);
+    applyMask(left, top, width, height, values);
     for (double &value : values) {
         const bool isNone = std::find(m_noData.begin(), m_noData.end(), value) != m_noData.end();
         const double scaled = value * m_scale + m_offset;
@@ -103,17 +116,22 @@ void RasterBlocks::read(int row, int begin, int end,
     }
 }
 
-void RasterBlocks::readAll(const std::function<void(std::span<const double>)> &use)
+bool RasterBlocks::readAll(const std::function<void(std::span<const double>)> &use,
+                           const Progress &progress)
 {
     constexpr int Width = 4096; // wide: a file of whole rows is read once
     std::vector<double> values;
     for (int top = 0; top < rows(); top += BlockSide) {
         for (int left = 0; left < columns(); left += Width) {
+            const double ofRows = static_cast<double>(std::min(BlockSide, rows() - top)) * left;
+            if (progress && !progress((top + ofRows / columns()) / rows()))
+                return false;
             readWindow(left, top, std::min(Width, columns() - left),
                        std::min(BlockSide, rows() - top), values);
             use(values);
         }
     }
+    return true;
 }
 
 } // namespace vlt::coverage

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "coverage/CoverageRaster.h"
+
 #include <gdal_priv.h>
 
 #include <cstdint>
@@ -14,7 +16,8 @@
 namespace vlt::coverage {
 
 /// The values of a band, read in squares as they are needed; the latest are kept, 128 MiB at most.
-/// Pixels without a value, and those that cannot be read, are NaN. Not for two threads at once.
+/// Pixels without a value, masked ones and those that cannot be read, are NaN. Not for two threads
+/// at once.
 class RasterBlocks
 {
 public:
@@ -29,7 +32,10 @@ public:
     void read(int row, int begin, int end, const std::function<void(std::span<const double>)> &use);
 
     /// All values, piece by piece, past what is kept.
-    void readAll(const std::function<void(std::span<const double>)> &use);
+    ///
+    /// @param progress  told before each piece; may be empty
+    /// @return          false where `progress` stopped it
+    bool readAll(const std::function<void(std::span<const double>)> &use, const Progress &progress);
 
 private:
     struct Block
@@ -40,6 +46,7 @@ private:
     };
 
     const Block &block(int column, int row);
+    void applyMask(int left, int top, int width, int height, std::vector<double> &values);
     void readWindow(int left, int top, int width, int height, std::vector<double> &values);
 
     GDALRasterBand &m_band;

@@ -1,5 +1,6 @@
 #include "geodata/ImageFile.h"
 
+#include "coverage/LocalRaster.h"
 #include "geodata/ErrorCollector.h"
 #include "geodata/PlainTiff.h"
 #include "localfiles/LocalFormats.h"
@@ -77,10 +78,9 @@ ImageFile described(GDALDataset &dataset)
 {
     ImageFile image;
     image.height = statedHeight(dataset);
-    const QByteArray format = dataset.GetDriverName();
     for (const Subdataset &subdataset : subdatasets(dataset)) {
-        const QByteArray name = QFile::encodeName(subdataset.name);
-        const GDALDatasetUniquePtr part = openAs(format, name.constData());
+        const GDALDatasetUniquePtr part =
+            coverage::openListedPart(QFile::encodeName(subdataset.name).toStdString());
         image.parts += ImageFile::Part{subdataset, part ? statedHeight(*part) : std::nullopt};
     }
     return image;

@@ -1,5 +1,6 @@
 #include "geodata/LocalDataset.h"
 
+#include "coverage/LocalRaster.h"
 #include "geodata/Subdatasets.h"
 #include "localfiles/LocalFormats.h"
 
@@ -37,10 +38,7 @@ GDALDatasetUniquePtr openLocalRaster(const QString &path, const QString &part)
         CPLError(CE_Failure, CPLE_OpenFailed, "the file holds no such image");
         return {};
     }
-    return GDALDatasetUniquePtr(
-        GDALDataset::Open(QFile::encodeName(part).constData(),
-                          GDAL_OF_RASTER | GDAL_OF_READONLY | GDAL_OF_VERBOSE_ERROR,
-                          localfiles::localRasterFormats()));
+    return coverage::openListedPart(QFile::encodeName(part).toStdString());
 }
 
 } // namespace vlt::geodata

@@ -53,6 +53,12 @@ void VltPreviewPane::setFarthestM(double farthestM)
         m_viewer->setFarthestM(farthestM);
 }
 
+void VltPreviewPane::setElevationDeg(double elevationDeg)
+{
+    if (m_viewer)
+        m_viewer->setElevationDeg(elevationDeg);
+}
+
 void VltPreviewPane::centerView()
 {
     if (m_viewer)

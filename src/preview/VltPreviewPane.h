@@ -30,6 +30,10 @@ public:
     /// From how far centerView() looks at most.
     void setFarthestM(double farthestM);
 
+    /// How high centerView() puts the eye, in degrees above the horizon, whatever the scene's
+    /// shape.
+    void setElevationDeg(double elevationDeg);
+
     /// The camera on the whole scene.
     void centerView();
 

@@ -251,8 +251,9 @@ void W_simpleOSGViewer::centerView(osg::Node *node)
     m_isUserCamera = true;
     // a flat scene, such as the sites of a town, is seen best from higher up
     const bool isFlat = box.zMax() - box.zMin() < FlatShare * box.radius();
+    const double usualDeg = isFlat ? FlatElevationDeg : VltTrackBall::UsualElevationDeg;
     m_trackBall->lookAt(box.center(), std::min(m_farthestM, distanceToSee(box)),
-                        isFlat ? FlatElevationDeg : VltTrackBall::UsualElevationDeg);
+                        m_elevationDeg.value_or(usualDeg));
 }
 
 void W_simpleOSGViewer::startDemo()

@@ -10,6 +10,7 @@
 #include <osgViewer/Viewer>
 
 #include <limits>
+#include <optional>
 
 class VltTrackBall;
 
@@ -47,6 +48,10 @@ public:
 
     /// From how far centerView() looks at most: scenes may draw nothing that is farther away.
     void setFarthestM(double farthestM) { m_farthestM = farthestM; }
+
+    /// How high centerView() puts the eye, in degrees above the horizon, whatever the scene's
+    /// shape.
+    void setElevationDeg(double elevationDeg) { m_elevationDeg = elevationDeg; }
 
     /// Detail that the view can show, from its height in pixels and the camera's distance; 10 until
     /// a frame was drawn.
@@ -99,6 +104,7 @@ private:
     bool m_isUserCamera = true; ///< until the mouse takes the camera
     double m_levelOfDetail = 10;
     double m_farthestM = std::numeric_limits<double>::infinity();
+    std::optional<double> m_elevationDeg;
     bool m_wasInitialised = false;
     bool m_wasShown = false;
     QPointF m_pressedAt;

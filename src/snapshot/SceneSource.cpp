@@ -53,12 +53,16 @@ bool report(void *progress, double share)
     return (*static_cast<const platform::Progress *>(progress))(share);
 }
 
-Error asError(ReadResult &read, const QString &name)
+/// The reader's words without the file's name, which the error has beside them.
+Error asError(ReadResult &read, const std::string &source, const QString &name)
 {
     if (read.status() == ReadResult::FILE_NOT_HANDLED || read.message().empty())
         return {QStringLiteral("MESS_SNAP_UNREADABLE"), QStringLiteral("no scene that can be read"),
                 name};
-    return {{}, QString::fromStdString(read.message()), name};
+    std::string text = read.message();
+    if (const std::string file = source + ": "; text.starts_with(file))
+        text.erase(0, file.size());
+    return {{}, QString::fromStdString(text), name};
 }
 
 } // namespace
@@ -98,10 +102,11 @@ Result<Scene> readScene(const QString &name, const QString &project, TerrainSurf
     connection::ReadProgress listener{report, &told};
     if (told)
         options->setPluginData(connection::ProgressKey, &listener);
-    ReadResult read = registry->readNode(QFile::encodeName(source).toStdString(), options.get());
+    const std::string path = QFile::encodeName(source).toStdString();
+    ReadResult read = registry->readNode(path, options.get());
     if (read.validNode())
         return Scene(read.getNode());
-    return asError(read, name);
+    return asError(read, path, name);
 }
 
 void addReaderDirectory(const QString &directory)

@@ -13,7 +13,7 @@ namespace {
 /// north.
 const QByteArray Houses =
     R"({"type":"FeatureCollection","name":"houses","features":[
-{"type":"Feature","properties":{"id":1,"USE":"home","height":10},"geometry":{"type":"Polygon",
+{"type":"Feature","properties":{"day":"2024/01/31","id":1,"USE":"home","height":10},"geometry":{"type":"Polygon",
 "coordinates":[[[2,45],[2.001,45],[2.001,45.001],[2,45.001],[2,45]]]}},
 {"type":"Feature","properties":{"id":2,"USE":"home","height":10.5},"geometry":{"type":"Polygon",
 "coordinates":[[[2.003,45],[2.004,45],[2.004,45.001],[2.003,45.001],[2.003,45]]]}},
@@ -81,41 +81,7 @@ private Q_SLOTS:
         QTest::newRow("colour map of the user, empty no-data")
             << u"--image ../level.asc --colormap ../own.txt --mode mostRepresented --dtm-nodata="_s
             << QStringList{u"level.asc;@/own.txt;mostRepresented;stretched;"_s, u"nodata=\"\""_s};
-        QTest::newRow("textured, first run")
-            << u"--textures ../t/c_6m.asc --filter m"_s
-            << QStringList{u"<veltaroTexturedBuildings \n  cache=\"none\">"_s,
-                           u"texturedVisibility=\"1000\"\n    wallColor=\"#d9d4c7\"\n"
-                           "    roofColor=\"#b5634c\"\n"_s,
-                           u"mode=\"roofs\"\n    edgeColor=\"#404040\"\n"
-                           "    forceEdgeCreation=\"false\"\n"
-                           "    processComplexBuildings=\"false\"\n    magFilter=\"none\"\n  >\n"
-                           "    <texture \n      filename=\"@/t/c_1.5m.asc\"\n"
-                           "      height=\"1.5\"\n    />\n    <texture \n"
-                           "      filename=\"@/t/c_6m.asc\"\n      height=\"6\"\n    />\n"
-                           "  </textures>"_s};
-        QTest::newRow("textured, all options")
-            << u"--texture ../t/c.asc=3 --texture ../t/c_6m.asc --texture-on storeys "
-               "--textured-distance 300 --wall-color #A0b0C0 --roof-color colormap --image "
-               "../level.asc --image-nodata 5 --edge-color 112233 --force-edges "
-               "--complex-buildings --cache textured --delayed-write --cache-capacity 7 "
-               "--compression dxt5 --buffer 2.5 --dilatation 3 --magnify linear"_s
-            << QStringList{u"  cache=\"textured\" \n  delayedCacheWrite=\"true\" \n"
-                           "  delayedCacheWriteCapacity=\"7\">"_s,
-                           u"texturedVisibility=\"300\"\n    wallColor=\"#a0b0c0\"\n    "
-                           "roofColor=\"cmap:datasource=@/level.asc;nd=5;cmap=@/install dir/addons/"
-                           "telecom/colormaps/a/first.txt;stretchcmap=TRUE;interpolatecmap=TRUE;"
-                           "band=1;type=minimum\""_s,
-                           u"mode=\"storeys\"\n    edgeColor=\"#112233\"\n"
-                           "    forceEdgeCreation=\"true\"\n    processComplexBuildings=\"true\"\n"
-                           "   compression=\"dxt5\"\n    bufferValue=\"2.5\"\n"
-                           "    dilatationValue=\"3\"\n    magFilter=\"linear\""_s,
-                           u"filename=\"@/t/c.asc\"\n      height=\"3\""_s,
-                           u"filename=\"@/t/c_6m.asc\"\n      height=\"6\""_s};
-        QTest::newRow("images beside the template's folder")
-            << u"--textures ../t/net/c_9m.asc --structure sibling-folders --texture-on walls"_s
-            << QStringList{u"mode=\"walls\""_s, u"magFilter=\"none\"\n  >\n    <texture \n"
-                                                "      filename=\"@/t/net/c_9m.asc\"\n"
-                                                "      height=\"9\"\n    />\n  </textures>"_s};
+        addRowsWithLook();
     }
 
     void writesDocuments()
@@ -159,15 +125,34 @@ private Q_SLOTS:
         QVERIFY(qAbs(middle.red() - 127) < 3 && middle.green() == 0);
     }
 
-    void warnsOfImagesWithoutHeight()
+    void warnsOfImages_data()
     {
-        const Run run = start(Common + u"--textures ../t/c.asc"_s);
-        const Run quiet = start(Common + u"--textures ../t/c.asc --quiet"_s);
+        QTest::addColumn<QString>("options");
+        QTest::addColumn<QByteArray>("warning");
+        QTest::addColumn<int>("images");
 
-        QCOMPARE(run.errors,
-                 QByteArray("vltlayers: images that state no height, 0 m is taken: 1\n"));
+        QTest::newRow("one without height")
+            << u"--textures ../t/c.asc"_s
+            << QByteArray("vltlayers: images that state no height, 0 m is taken: 1\n") << 3;
+        QTest::newRow("none") << QString()
+                              << QByteArray("vltlayers: no image lies on the buildings: neither "
+                                            "--texture nor --textures is given\n")
+                              << 0;
+    }
+
+    void warnsOfImages()
+    {
+        QFETCH(QString, options);
+        QFETCH(int, images);
+
+        const Run run = start(Common + options + u" --json"_s);
+        const Run quiet = start(Common + options + u" --quiet"_s);
+
+        QTEST(run.errors, "warning");
         QCOMPARE(quiet.errors, QByteArray());
-        QCOMPARE(readFile(path(u"elsewhere/o.texb"_s)).count("<texture "), 3);
+        QCOMPARE(QJsonDocument::fromJson(run.output).object().value(u"textures"_s).toInt(-1),
+                 images);
+        QCOMPARE(readFile(path(u"elsewhere/o.texb"_s)).count("<texture "), images);
     }
 
     void refusesAndLeavesTheOldLayer_data()
@@ -196,13 +181,17 @@ private Q_SLOTS:
         row("% --texture ../t/c.asc", 1, "../t/c.asc: for which height is this image?");
         row("% --texture ../t/no.asc=5", 1, "../t/no.asc: no such file");
         row("% --texture ../own.txt=5", 1, "can't be open as a raster dataset");
+        row("% --texture ../t/c.asc=nan", 1, "../t/c.asc: the height is no number");
         row("% --textures ../t/no.asc", 1, "../t/no.asc: no such file");
         row("% --textures ../t/c.asc --filter xyz", 1, "../t/c.asc: no image is found by it");
         row("% --image ../level.asc -o ../houses.geojson", 1, "one of the input files");
         row("% --image ../level.asc -o no/o.lay", 1, "Can't create the layer file");
         row("../houses.geojson --image ../level.asc", 2, "no terrain given (--dtm)");
         row("--dtm ../dem.asc --image ../level.asc", 2, "no vector file given");
-        row("%", 2, "neither --image (coloured buildings) nor --texture or --textures");
+        row("% --wall-color colormap", 2, "needs --image");
+        row("% --image ../level.asc --roof-color fff000", 2, "--roof-color colormap");
+        row("% --image ../level.asc --cache all", 2, "--cache is not for buildings that --image");
+        row("% --textured-distance 500", 2, "--textured-distance is only for --texture");
         row("% --mode average --textures ../t/c.asc", 2, "--mode is only for --image");
         row("% --image ../level.asc --texture-on walls", 2, "--texture-on is only for --texture");
         row("% --texture ../t/c.asc=1 --structure two-levels", 2,
@@ -258,6 +247,54 @@ private Q_SLOTS:
     }
 
 private:
+    /// Rows of documents in which buildings have more than the image's colours.
+    static void addRowsWithLook()
+    {
+        QTest::newRow("textured, first run")
+            << u"--textures ../t/c_6m.asc --filter m"_s
+            << QStringList{u"<veltaroTexturedBuildings \n  cache=\"none\">"_s,
+                           u"texturedVisibility=\"2000\"\n    wallColor=\"#d9d4c7\"\n"
+                           "    roofColor=\"#b5634c\"\n"_s,
+                           u"mode=\"roofs\"\n    edgeColor=\"#404040\"\n"
+                           "    forceEdgeCreation=\"false\"\n"
+                           "    processComplexBuildings=\"true\"\n    magFilter=\"none\"\n  >\n"
+                           "    <texture \n      filename=\"@/t/c_1.5m.asc\"\n"
+                           "      height=\"1.5\"\n    />\n    <texture \n"
+                           "      filename=\"@/t/c_6m.asc\"\n      height=\"6\"\n    />\n"
+                           "  </textures>"_s};
+        const QString end = u"nodata=\"-9999.000000\"\n  />\n</veltaroTexturedBuildings>"_s;
+        QTest::newRow("plain") << u"--quiet --wall-color 010203 --cache all"_s
+                               << QStringList{u"  cache=\"all\" \n  delayedCacheWrite=\"false\""_s,
+                                              u"wallColor=\"#010203\"\n    roofColor=\"#b5634c\""_s,
+                                              end};
+        QTest::newRow("plain, roofs from the raster")
+            << u"--quiet --image ../level.asc --roof-color colormap"_s
+            << QStringList{u"roofColor=\"cmap:datasource=@/level.asc;cmap="_s, end};
+        QTest::newRow("textured, all options")
+            << u"--texture ../t/c.asc=3 --texture ../t/c_6m.asc --texture-on storeys "
+               "--textured-distance 300 --wall-color #A0b0C0 --roof-color colormap --image "
+               "../level.asc --image-nodata 5 --edge-color 112233 --force-edges "
+               "--no-complex-buildings --cache textured --delayed-write --cache-capacity 7 "
+               "--compression dxt5 --buffer 2.5 --dilatation 3 --magnify linear"_s
+            << QStringList{u"  cache=\"textured\" \n  delayedCacheWrite=\"true\" \n"
+                           "  delayedCacheWriteCapacity=\"7\">"_s,
+                           u"texturedVisibility=\"300\"\n    wallColor=\"#a0b0c0\"\n    "
+                           "roofColor=\"cmap:datasource=@/level.asc;nd=5;cmap=@/install dir/addons/"
+                           "telecom/colormaps/a/first.txt;stretchcmap=TRUE;interpolatecmap=TRUE;"
+                           "band=1;type=minimum\""_s,
+                           u"mode=\"storeys\"\n    edgeColor=\"#112233\"\n"
+                           "    forceEdgeCreation=\"true\"\n    processComplexBuildings=\"false\"\n"
+                           "   compression=\"dxt5\"\n    bufferValue=\"2.5\"\n"
+                           "    dilatationValue=\"3\"\n    magFilter=\"linear\""_s,
+                           u"filename=\"@/t/c.asc\"\n      height=\"3\""_s,
+                           u"filename=\"@/t/c_6m.asc\"\n      height=\"6\""_s};
+        QTest::newRow("images beside the template's folder")
+            << u"--textures ../t/net/c_9m.asc --structure sibling-folders --texture-on walls"_s
+            << QStringList{u"mode=\"walls\""_s, u"magFilter=\"none\"\n  >\n    <texture \n"
+                                                "      filename=\"@/t/net/c_9m.asc\"\n"
+                                                "      height=\"9\"\n    />\n  </textures>"_s};
+    }
+
     QString path(const QString &name) const { return m_program->path(name); }
     Run start(const QString &arguments) const { return m_program->start(arguments); }
 

@@ -1,5 +1,6 @@
 #include "buildings/BuildingLayerFiles.h"
 #include "buildings/TexturedInfoText.h"
+#include "language/VltLanguageManager.h"
 
 #include <QDir>
 #include <QFile>
@@ -177,10 +178,12 @@ private Q_SLOTS:
         QTest::addColumn<QList<double>>("heights");
         QTest::addColumn<QString>("wanted");
 
-        QTest::newRow("none") << QList<double>{} << u"Images: 0</p>"_s;
+        QTest::newRow("none") << QList<double>{} << u"<p>Images: 0</p>"_s;
         QTest::newRow("one height of several networks")
             << QList<double>{12, 1.5, 12}
-            << u"Images: 3<br/>Heights above the ground: 1.5 · 12 m</p>"_s;
+            << u">Walls</span><br/>Images: 3<br/>Heights above the ground: 1.5 · 12 m</p>"_s;
+        QTest::newRow("fr") << QList<double>{1.5, 2000}
+                            << u"Heights above the ground: 1,5 · 2\u202f000 m</p>"_s;
         QTest::newRow("a tower") << QList<double>{40, 37, 34, 31, 28, 25, 22, 19, 16, 13, 10, 7, 4}
                                  << u"Images: 13<br/>Heights above the ground: 4 – 40 m</p>"_s;
     }
@@ -192,9 +195,11 @@ private Q_SLOTS:
         for (const double height : heights)
             images << image(u"/t/x.tif"_s, height);
 
+        VltLanguageManager::getInstance().defaultSetup(
+            {}, QString::fromUtf8(QTest::currentDataTag()), {});
+
         const QString text = texturedInfoText(TexbSubtype::Walls, images);
 
-        QVERIFY2(text.contains(u">Walls</span><br/>"_s), qPrintable(text));
         QFETCH(QString, wanted);
         QVERIFY2(text.endsWith(wanted), qPrintable(text));
     }
@@ -268,6 +273,21 @@ private Q_SLOTS:
         QCOMPARE(files.value().legend, path(u"out_two & more_gradient.png"_s));
         QVERIFY(!QImage(files.value().legend).isNull());
         QVERIFY(contentOf(path(u"out.lay"_s)).contains("/out_two &amp; more_gradient.png\""));
+    }
+
+    void leavesTheLegendOfAnotherLayerAlone()
+    {
+        const auto first = writeColoredLayer(path(u"a.lay"_s), m_input, Signal, Access::Shared);
+        const QByteArray legend = contentOf(path(u"two & more_gradient.png"_s));
+        QVERIFY(m_input.legend->map.load(path(u"two.txt"_s).toStdString(), -120, -60));
+
+        for (int time = 0; time < 2; ++time) {
+            const auto files = writeColoredLayer(path(u"b.lay"_s), m_input, Signal, Access::Shared);
+
+            QVERIFY(first && files);
+            QCOMPARE(files.value().legend, path(u"b_two & more_gradient.png"_s));
+            QCOMPARE(contentOf(first.value().legend), legend);
+        }
     }
 
 private:

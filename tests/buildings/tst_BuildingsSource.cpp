@@ -30,7 +30,8 @@ class TestBuildingsSource : public QObject, SourceFiles
             OGRFeature feature(layer->GetLayerDefn());
             OGRGeometry *triangle = nullptr;
             OGRGeometryFactory::createFromWkt("POLYGON ((0 0,8 0,8 2,0 0))", nullptr, &triangle);
-            feature.SetGeometryDirectly(type == wkbPolygon ? triangle : nullptr);
+            const OGRGeometryUniquePtr owner(triangle);
+            feature.SetGeometry(type == wkbPolygon ? triangle : nullptr);
             return layer->CreateFeature(&feature) == OGRERR_NONE;
         };
         const bool isMade =

@@ -1,76 +1,28 @@
+#include "LayerPage.h"
 #include "buildings/ui/VltAddTexbColoredPage.h"
-#include "gui/AnsweredBoxes.h"
-#include "gui/DropOnWidget.h"
 #include "gui/FileDialogAnswer.h"
-#include "platform/Settings.h"
 #include "srs/PrivateSettings.h"
-#include "wizard/base/DraggableIcon.h"
-
-#include <QCheckBox>
-#include <QComboBox>
-#include <QDir>
-#include <QDoubleSpinBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QTemporaryDir>
-#include <QTest>
 
 #include <gdal_priv.h>
 
-using namespace Qt::StringLiterals;
+using namespace layerpage;
 
 namespace {
 
-const QString Group = u"AddTexbColoredPage/"_s;
+const QString Group = u"AddTexbColoredPage"_s;
 const QString OnlyGray = u"The image-based coloring mode works only with one-band grey images"_s;
-const QByteArray Grid = "ncols 2\nnrows 2\nxllcorner 0\nyllcorner 0\ncellsize 10\n"
-                        "NODATA_value -9999\n1 2\n3 4\n";
-
-void remember(const QString &key, const QVariant &value)
-{
-    vlt::platform::wizardSettings()->setValue(Group + key, value);
-}
-
-QString contents(const QString &path)
-{
-    QFile file(path);
-    return !path.isEmpty() && file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll())
-                                                             : QString();
-}
 
 /// The page as it is when it is entered from the source page.
-class Page : public VltAddTexbColoredPage
+class ColoredPage : public Page<VltAddTexbColoredPage>
 {
 public:
-    explicit Page(const QString &installation)
-        : VltAddTexbColoredPage(nullptr, shared, installation, u"en"_s)
-    {
-        for (const QString &key : {u"Buildings"_s, u"Layer"_s, u"Height"_s, u"Dtm"_s, u"Nodata"_s})
-            shared.insert(key, key.toLower());
-        initializePage();
-        resize(1000, 600);
-        show();
-    }
-
-    template<typename Widget>
-    Widget *child(const QString &name)
-    {
-        return findChild<Widget *>(name);
-    }
-    QComboBox *combo(const QString &name) { return child<QComboBox>(name); }
-    QLineEdit *line(const QString &name) { return child<QLineEdit>(name); }
-    void check(const QString &name, bool on) { child<QCheckBox>(name)->setChecked(on); }
-    void press(const QString &name) { child<QPushButton>(name)->click(); }
-    QString message() { return child<QLabel>(u"m_pwLblScene"_s)->text(); }
-    DraggableIcon *icon() { return child<DraggableIcon>(u"m_pwDragIcon"_s); }
-    QString layer() { return contents(icon()->layerFile()); }
-    QString document()
-    {
-        return contents(QString(icon()->layerFile()).replace(u".lay"_s, u".texb"_s));
-    }
-
-    SharedParameters shared;
+    explicit ColoredPage(const QString &installation)
+        : Page(installation, {{u"Buildings"_s, u"buildings"_s},
+                              {u"Layer"_s, u"layer"_s},
+                              {u"Height"_s, u"height"_s},
+                              {u"Dtm"_s, u"dtm"_s},
+                              {u"Nodata"_s, u"nodata"_s}})
+    {}
 };
 
 } // namespace
@@ -87,11 +39,7 @@ class TestColoredPage : public QObject
 
     QString write(const QString &name, const QByteArray &text) const
     {
-        QFile file(path(name));
-        return QDir().mkpath(QFileInfo(file).absolutePath()) && file.open(QIODevice::WriteOnly) &&
-                       file.write(text) == text.size()
-                   ? file.fileName()
-                   : QString();
+        return layerpage::write(m_dir, name, text);
     }
 
     /// An image of its own, or one more in the file.
@@ -142,7 +90,7 @@ private Q_SLOTS:
     {
         AnsweredBoxes boxes;
 
-        Page page(m_installation);
+        ColoredPage page(m_installation);
 
         QTRY_COMPARE(page.message(), u"Choose the image that colors the buildings."_s);
         QVERIFY(!page.icon()->isEnabled());
@@ -177,11 +125,10 @@ private Q_SLOTS:
         QFETCH(QVariantMap, values);
         QFETCH(QString, color);
         QFETCH(QStringList, measures);
-        remember(u"Image"_s, path(u"grid.asc"_s));
-        for (auto value = values.cbegin(); value != values.cend(); ++value)
-            remember(value.key(), value.value());
+        remember(Group, {{u"Image"_s, path(u"grid.asc"_s)}});
+        remember(Group, values);
 
-        Page page(m_installation);
+        ColoredPage page(m_installation);
 
         QTRY_VERIFY(page.icon()->isEnabled());
         const QString expected =
@@ -197,7 +144,7 @@ private Q_SLOTS:
         QVERIFY(page.layer().contains(u"rf_colored_buildings"_s));
         const QString colorMapName = QFileInfo(color.section(QLatin1Char(';'), 1, 1)).baseName();
         QVERIFY(page.layer().contains(colorMapName + u"_gradient.png"_s));
-        QVERIFY(page.child<QLabel>(u"m_pwLblInfo"_s)->text().contains(colorMapName));
+        QVERIFY(page.text(u"m_pwLblLegend"_s).contains(colorMapName));
     }
 
     void refusesImages_data()
@@ -216,8 +163,8 @@ private Q_SLOTS:
     {
         QFETCH(QString, name);
         QFETCH(QString, text);
-        remember(u"Image"_s, path(u"grid.asc"_s));
-        Page page(m_installation);
+        remember(Group, {{u"Image"_s, path(u"grid.asc"_s)}});
+        ColoredPage page(m_installation);
         QTRY_VERIFY(page.icon()->isEnabled());
         AnsweredBoxes boxes;
 
@@ -235,7 +182,7 @@ private Q_SLOTS:
 
     void letsAnImageOfTheFileBeChosen()
     {
-        Page page(m_installation);
+        ColoredPage page(m_installation);
         AnsweredBoxes boxes;
         FileDialogAnswer dialog(path(u"two images.tif"_s));
         QComboBox *images = page.combo(u"m_pwCbSubdatsets"_s);
@@ -280,19 +227,17 @@ private Q_SLOTS:
                                  {u"CheckGeom"_s, true},
                                  {u"SkirtSize"_s, 7.25},
                                  {u"AutoRefresh"_s, false}};
-        for (auto value = values.cbegin(); value != values.cend(); ++value)
-            remember(value.key(), value.value());
-        Page page(m_installation);
+        remember(Group, values);
+        ColoredPage page(m_installation);
         vlt::platform::wizardSettings()->clear();
 
         page.saveSettings();
 
         const auto settings = vlt::platform::wizardSettings();
         QCOMPARE(settings->value(u"LastUsedDir"_s).toString(), m_dir.path());
-        settings->beginGroup(u"AddTexbColoredPage"_s);
+        QCOMPARE(otherThan(Group, values), QStringList());
+        settings->beginGroup(Group);
         QCOMPARE(settings->childKeys(), values.keys());
-        for (auto value = values.cbegin(); value != values.cend(); ++value)
-            QCOMPARE(settings->value(value.key()).toString(), value.value().toString());
     }
 
     void refreshesWhenTold_data()
@@ -307,12 +252,12 @@ private Q_SLOTS:
     void refreshesWhenTold()
     {
         QFETCH(QString, by);
-        remember(u"Image"_s, path(u"grid.asc"_s));
-        Page page(m_installation);
+        remember(Group, {{u"Image"_s, path(u"grid.asc"_s)}});
+        ColoredPage page(m_installation);
         QTRY_VERIFY(page.icon()->isEnabled());
         page.check(u"m_pwChbAutoRefresh"_s, false);
 
-        page.combo(u"m_pwCbMode"_s)->setCurrentIndex(1);
+        page.choose(u"m_pwCbMode"_s, 1);
         QTest::qWait(600);
 
         QVERIFY(page.document().contains(u";minimum;"_s));
@@ -329,13 +274,13 @@ private Q_SLOTS:
 
     void foldsQuickChanges()
     {
-        remember(u"Image"_s, path(u"grid.asc"_s));
-        Page page(m_installation);
+        remember(Group, {{u"Image"_s, path(u"grid.asc"_s)}});
+        ColoredPage page(m_installation);
         QTRY_VERIFY(page.icon()->isEnabled());
         const QString layer = page.icon()->layerFile();
         QVERIFY(QFile::remove(layer));
 
-        page.combo(u"m_pwCbMode"_s)->setCurrentIndex(1);
+        page.choose(u"m_pwCbMode"_s, 1);
         page.child<QDoubleSpinBox>(u"m_pwSbTileSize"_s)->setValue(300);
 
         QVERIFY(!page.icon()->isEnabled()); // the old layer is none any more
@@ -345,24 +290,60 @@ private Q_SLOTS:
         QVERIFY(page.document().contains(u"tileSize=\"300\""_s));
     }
 
-    void saysQuietlyThatTheNoDataValueIsNone()
+    void saysQuietlyWhatIsMissing_data()
     {
-        remember(u"Image"_s, path(u"grid.asc"_s));
-        Page page(m_installation);
+        QTest::addColumn<QString>("line");
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("message");
+
+        QTest::newRow("no number")
+            << u"m_pwLeNoData"_s << u"-"_s << u"The value of no data is no number."_s;
+        QTest::newRow("another image is being typed")
+            << u"m_pwLeImage"_s << path(u"other"_s)
+            << u"Press Enter to open the image that is typed."_s;
+    }
+
+    void saysQuietlyWhatIsMissing()
+    {
+        QFETCH(QString, line);
+        QFETCH(QString, typed);
+        QFETCH(QString, message);
+        remember(Group, {{u"Image"_s, path(u"grid.asc"_s)}});
+        ColoredPage page(m_installation);
         QTRY_VERIFY(page.icon()->isEnabled());
         AnsweredBoxes boxes;
 
-        page.line(u"m_pwLeNoData"_s)->setText(u"-"_s);
+        page.line(line)->selectAll();
+        QTest::keyClicks(page.line(line), typed);
 
-        QTRY_COMPARE(page.message(), u"The value of no data is no number."_s);
-        QVERIFY(!page.icon()->isEnabled());
+        QTRY_COMPARE(page.message(), message);
+        QVERIFY(!page.icon()->isEnabled()); // else the layer of former values could be dragged
+        page.line(line)->clearFocus();
+        QVERIFY(!page.validatePage());
         QVERIFY(boxes.seen.isEmpty());
+    }
+
+    void saysQuietlyThatARememberedColorMapIsGone()
+    {
+        remember(Group, {{u"Image"_s, path(u"grid.asc"_s)},
+                         {u"UserColormapCount"_s, 1},
+                         {u"UserColormapShort_0"_s, u"gone"_s},
+                         {u"UserColormapAbs_0"_s, path(u"gone.txt"_s)},
+                         {u"CurrentColormap"_s, 2}});
+        AnsweredBoxes boxes;
+
+        ColoredPage page(m_installation);
+
+        QTRY_COMPARE(page.message(), u"The file of the colormap is gone: choose another one."_s);
+        QVERIFY(boxes.seen.isEmpty());
+        page.choose(u"m_pwCbCmap"_s, 0);
+        QTRY_VERIFY(page.icon()->isEnabled());
     }
 
     void guessesTheNoDataValue()
     {
-        remember(u"Image"_s, path(u"grid.asc"_s));
-        Page page(m_installation);
+        remember(Group, {{u"Image"_s, path(u"grid.asc"_s)}});
+        ColoredPage page(m_installation);
 
         page.press(u"m_pwPbNoData"_s);
 
@@ -372,10 +353,10 @@ private Q_SLOTS:
     void tellsOnceWhyThereIsNoLayer()
     {
         QVERIFY(QFile::remove(m_installation + u"/addons/telecom/template/template_texb.lay"_s));
-        remember(u"Image"_s, path(u"grid.asc"_s));
+        remember(Group, {{u"Image"_s, path(u"grid.asc"_s)}});
         AnsweredBoxes boxes;
 
-        Page page(m_installation);
+        ColoredPage page(m_installation);
 
         QTRY_COMPARE(boxes.seen.size(), 1);
         QCOMPARE(boxes.seen.constFirst().icon, QMessageBox::Critical);
@@ -388,7 +369,7 @@ private Q_SLOTS:
 
     void addsColorMaps()
     {
-        Page page(m_installation);
+        ColoredPage page(m_installation);
         AnsweredBoxes boxes;
         QComboBox *maps = page.combo(u"m_pwCbCmap"_s);
         FileDialogAnswer dialog(path(u"own.cmap"_s));
@@ -414,7 +395,7 @@ private Q_SLOTS:
     void quitsOnlyWithALayer()
     {
         AnsweredBoxes boxes(QMessageBox::Yes);
-        Page page(m_installation);
+        ColoredPage page(m_installation);
         QVERIFY(!page.validatePage());
         QVERIFY(boxes.seen.isEmpty());
 

@@ -32,11 +32,11 @@ void writeHeight(const QString &path, const QByteArray &height)
 
 /// A black image; `height` goes where the format keeps metadata, in the file or beside it.
 void makeImage(const char *format, const QString &path, const char *height = nullptr,
-               CSLConstList options = nullptr)
+               CSLConstList options = nullptr, int bands = 1)
 {
     GDALDriver *memory = GetGDALDriverManager()->GetDriverByName("MEM");
     GDALDriver *driver = GetGDALDriverManager()->GetDriverByName(format);
-    const GDALDatasetUniquePtr image(memory->Create("", 4, 4, 1, GDT_Byte, nullptr));
+    const GDALDatasetUniquePtr image(memory->Create("", 4, 4, bands, GDT_Byte, nullptr));
     if (height)
         image->SetMetadataItem("HEIGHT", height);
     const GDALDatasetUniquePtr copy(driver->CreateCopy(
@@ -208,6 +208,26 @@ private Q_SLOTS:
             QCOMPARE(entry.shortName + u'/' + entry.fileName(), u"pages/pages 6m.tif"_s);
             QVERIFY(entry.description.contains(u"Page %1"_s.arg(i + 1)));
         }
+    }
+
+    /// The file is of one format, its images are of another.
+    void takesTheHeightsOfPartsOfAnotherFormat()
+    {
+        const QString dir = path(u"parts"_s);
+        QVERIFY(QDir().mkpath(dir));
+        const char *const options[] = {"FORMAT=NC4", nullptr};
+        makeImage("netCDF", dir + u"/levels.nc"_s, nullptr, options, 2);
+        QVERIFY(QFile::rename(dir + u"/levels.nc"_s, dir + u"/levels 6m.h5"_s));
+        write(dir + u"/levels 6m.h5.aux.xml"_s,
+              "<PAMDataset><Subdataset name=\"//Band2\"><PAMDataset><Metadata>"
+              "<MDI key=\"HEIGHT\">7.5</MDI></Metadata></PAMDataset></Subdataset></PAMDataset>");
+
+        const QList<FileEntry> entries = found(dir, u"h5"_s);
+
+        QCOMPARE(entries.size(), 2);
+        QCOMPARE(entries[0].file.filePath(), u"HDF5:\"%1/levels 6m.h5\"://Band1"_s.arg(dir));
+        QCOMPARE(entries[0].height, 6);
+        QCOMPARE(entries[1].height, 7.5);
     }
 
     /// Formats in turn under one suffix, side files in both cases of letters: whatever is tried

@@ -74,6 +74,8 @@ private Q_SLOTS:
         QTest::newRow("odd letters") << u"/a/x\":y.tif"_s << u"x\":y.tif"_s;
         QTest::newRow("page") << u"GTIFF_DIR:2:/a/b.tif"_s << u"b.tif"_s;
         QTest::newRow("quoted") << u"NETCDF:\"/a/b.nc\":var"_s << u"b.nc"_s;
+        QTest::newRow("quotes in the folder") << u"GTIFF_DIR:1:/a/\"q\" b/c.tif"_s << u"c.tif"_s;
+        QTest::newRow("quoted, with quotes") << u"NETCDF:\"/a \"q\"/b.nc\":var"_s << u"b.nc"_s;
         QTest::newRow("slashes behind") << u"HDF5:\"/a/b.h5\"://c/d"_s << u"b.h5"_s;
         QTest::newRow("table") << u"GPKG:/a/b.gpkg:table"_s << u"b.gpkg"_s;
         QTest::newRow("colon in the name") << u"GTIFF_DIR:1:/a/b:c.tif"_s << u"b:c.tif"_s;

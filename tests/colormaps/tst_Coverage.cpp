@@ -204,6 +204,8 @@ private Q_SLOTS:
             << QByteArray("POLYGON((-1 -1,99 -1,99 99,-1 99))") << 3 << 30.;
         QTest::newRow("a place that is none")
             << QByteArray("POLYGON((0 0,40 0,1e400 30,0 30))") << 0 << NaN;
+        QTest::newRow("a place out of reach")
+            << QByteArray("POLYGON((-1e308 0,1e308 1,40 30,0 30))") << 0 << NaN;
     }
 
     void takesTheRightPixels()
@@ -242,6 +244,17 @@ private Q_SLOTS:
         QCOMPARE(typed->range()->minimum, -99.5);
         QCOMPARE(typed->range()->maximum, -96.5);
         QCOMPARE(valueUnder(*typed, {{{0, 0}, {3, 0}, {3, 2}, {0, 2}}}, Reduction::Average), -98.);
+        QVERIFY(!typed->range([](double) { return false; }));
+        {
+            const GDALDatasetUniquePtr file(
+                GDALDataset::Open(path.c_str(), GDAL_OF_RASTER | GDAL_OF_UPDATE));
+            std::array<std::uint8_t, 6> isSeen{1, 1, 0, 1, 1, 1};
+            QCOMPARE(file->CreateMaskBand(GMF_PER_DATASET), CE_None);
+            QCOMPARE(file->GetRasterBand(1)->GetMaskBand()->RasterIO(
+                         GF_Write, 0, 0, 3, 2, isSeen.data(), 3, 2, GDT_Byte, 0, 0, nullptr),
+                     CE_None);
+        }
+        QCOMPARE(CoverageRaster::open(path, "-77", nullptr)->range()->maximum, -99.5);
         QVERIFY(
             !CoverageRaster::open(fileOf("none.tif", 1, {FileNoData}, {}), "", nullptr)->range());
     }
@@ -269,6 +282,23 @@ private Q_SLOTS:
         }
     }
 
+    /// Whatever a file lists: some formats look for such names on the network themselves.
+    void opensNoPartElsewhere()
+    {
+        const std::string path = fileOf("liar.tif", 1, {1}, {0, 1, 0, 1, 0, -1});
+        const std::string named = "NETCDF:\"http://localhost:9/a.nc\":" + path;
+        GDALDatasetUniquePtr(GDALDataset::Open(path.c_str(), GDAL_OF_RASTER | GDAL_OF_UPDATE))
+            ->SetMetadataItem("SUBDATASET_1_NAME", named.c_str(), "SUBDATASETS");
+        std::string reason;
+        QVERIFY(!CoverageRaster::open(named, "", &reason));
+        QCOMPARE(reason, "not in a file of this computer");
+        for (const std::string &name :
+             {std::string("NETCDF:http://localhost:9/a.nc:z"), "NETCDF:http:/" + path + ":z",
+              std::string("GTIFF_DIR:1:/vsicurl/http://localhost:9/a.tif")})
+            QVERIFY2(!openListedPart(name), name.c_str());
+        QVERIFY(openListedPart("GTIFF_DIR:1:" + path));
+    }
+
     void refusesOthers_data()
     {
         QTest::addColumn<QString>("name");
@@ -278,6 +308,8 @@ private Q_SLOTS:
         QTest::newRow("no number")
             << u"one.tif"_s << u"-1,5"_s << u"the no-data value \"-1,5\" is no number"_s;
         QTest::newRow("absent") << u"absent.tif"_s << QString() << u"no local file has this name"_s;
+        QTest::newRow("more marks of paths than can be tried")
+            << u":/"_s.repeated(50000) << QString() << u"no local file has this name"_s;
         QTest::newRow("part that is none")
             << u"GTIFF_DIR:1:one.tif"_s << QString() << u"no local file has this name"_s;
         QTest::newRow("memory") << u"/vsimem/one.tif"_s << QString()

@@ -1,4 +1,5 @@
 #include "preview/ExtentsVisitor.h"
+#include "preview/VisibleDistance.h"
 #include "preview/VltTrackBall.h"
 #include "preview/W_simpleOSGViewer.h"
 
@@ -8,6 +9,7 @@
 #include <QVBoxLayout>
 
 #include <osg/Geode>
+#include <osg/LOD>
 #include <osg/MatrixTransform>
 #include <osg/Shape>
 #include <osg/ShapeDrawable>
@@ -127,6 +129,41 @@ private Q_SLOTS:
         waitForFrames();
         const double distanceM = (eye() - osg::Vec3d(300, 200, 100)).length();
         QVERIFY(distanceM > 60 && distanceM < 200);
+    }
+
+    void knowsHowFarAllIsDrawnAtItsBest_data()
+    {
+        using Ranges = QList<QPair<float, float>>;
+        QTest::addColumn<Ranges>("near"); // of a tile
+        QTest::addColumn<Ranges>("other");
+        QTest::addColumn<double>("distanceM");
+
+        const double endless = std::numeric_limits<double>::infinity();
+        QTest::newRow("no levels") << Ranges{} << Ranges{} << endless;
+        QTest::newRow("two tiles") << Ranges{{0, 2050}} << Ranges{{0, 2010}} << 2010.;
+        QTest::newRow("images end before plain colours")
+            << Ranges{{0, 500}, {500, 2050}} << Ranges{{0, 2010}} << 500.;
+        QTest::newRow("a level that is never drawn")
+            << Ranges{{0, 0}, {0, 2050}} << Ranges{} << 2050.;
+    }
+
+    void knowsHowFarAllIsDrawnAtItsBest()
+    {
+        using Ranges = QList<QPair<float, float>>;
+        QFETCH(Ranges, near);
+        QFETCH(Ranges, other);
+        osg::ref_ptr<osg::Group> scene = new osg::Group;
+        osg::ref_ptr<osg::LOD> bySize = new osg::LOD;
+        bySize->setRangeMode(osg::LOD::PIXEL_SIZE_ON_SCREEN);
+        scene->addChild(bySize);
+        for (const Ranges &ranges : {near, other}) {
+            osg::ref_ptr<osg::LOD> tile = new osg::LOD;
+            for (const auto &[from, to] : ranges)
+                tile->addChild(new osg::Group, from, to);
+            bySize->addChild(tile, 0, 1);
+        }
+
+        QTEST(visibleDistanceM(*scene), "distanceM");
     }
 
     void drawsAgainInAnotherWindowAndAfterHiding()

@@ -1,4 +1,5 @@
 #include "LayerScenes.h"
+#include "TownTesting.h"
 #include "buildings/BuildingScene.h"
 #include "connection/ReaderOptions.h"
 #include "layers/BadLayer.h"
@@ -30,22 +31,14 @@ using Features = QList<Feature>;
 const QByteArray Square = "POLYGON((0 0,10 0,10 10,0 10,0 0))";
 
 /// Moves points to East, North.
-struct Mover : OGRCoordinateTransformation
+struct Mover : OGRDefaultGeometryVisitor
 {
-    OGRSpatialReference *GetSourceCS() override { return nullptr; }
-    OGRSpatialReference *GetTargetCS() override { return nullptr; }
-    int Transform(int count, double *x, double *y, double *, double *, int *done) override
+    using OGRDefaultGeometryVisitor::visit;
+    void visit(OGRPoint *point) override
     {
-        for (int i = 0; i < count; ++i) {
-            x[i] += East;
-            y[i] += North;
-            if (done)
-                done[i] = 1;
-        }
-        return 1;
+        point->setX(point->getX() + East);
+        point->setY(point->getY() + North);
     }
-    OGRCoordinateTransformation *Clone() const override { return new Mover; }
-    OGRCoordinateTransformation *GetInverse() const override { return nullptr; }
 };
 
 /// A file of footprints with the field "Height".
@@ -74,7 +67,7 @@ void makeFootprints(const QString &path, const Features &features, OGRFieldType 
             QCOMPARE(OGRGeometryFactory::createFromWkt(given.wkt, nullptr, &shape), OGRERR_NONE);
         Mover mover;
         if (shape)
-            QCOMPARE(shape->transform(&mover), OGRERR_NONE);
+            shape->accept(&mover);
         feature.SetGeometryDirectly(shape);
         QCOMPARE(layer->CreateFeature(&feature), OGRERR_NONE);
     }
@@ -190,6 +183,10 @@ private Q_SLOTS:
         QCOMPARE(m_opened.fact("buildings"), std::string(walls > 0 ? "1" : "0"));
         QCOMPARE(m_opened.fact("leftOut"), std::string(walls > 0 ? "0" : "1"));
         QCOMPARE(told("no polygon with an area"), walls == 0);
+        QCOMPARE(m_opened.fact("srs"), std::string("EPSG:2154"));
+        if (area == 100)
+            QCOMPARE(m_opened.fact("centre"), std::string("650005 6860005"));
+        QVERIFY(scene->getBound().center().length() < 20);
     }
 
     void curvesBecomeLines()
@@ -251,27 +248,19 @@ private Q_SLOTS:
         QVERIFY(notice.isEmpty() || told(notice));
     }
 
-    void readsFormats_data()
-    {
-        QTest::addColumn<QByteArray>("file");
-        QTest::addColumn<QByteArray>("format");
-        QTest::newRow("GeoPackage") << QByteArray("town.gpkg") << QByteArray("GPKG");
-        QTest::newRow("GeoJSON") << QByteArray("Town.geojson") << QByteArray("GeoJSON");
-        QTest::newRow("folder of shapefiles")
-            << QByteArray("folder") << QByteArray("ESRI Shapefile");
-    }
-
     void readsFormats()
     {
-        QFETCH(QByteArray, file);
-        QFETCH(QByteArray, format);
-        makeFootprints(path(file), {{Square, "5"}}, OFTReal, format);
+        using File = std::pair<const char *, const char *>;
+        for (const auto &[file, format] :
+             {File{"Town.geojson", "GeoJSON"}, File{"folder", "ESRI Shapefile"}}) {
+            makeFootprints(path(file), {{Square, "5"}}, OFTReal, format);
 
-        Drawn drawn;
-        read(document(file))->accept(drawn);
+            Drawn drawn;
+            read(document(file))->accept(drawn);
 
-        // GeoJSON is in degrees: the frame keeps lengths
-        QVERIFY2(std::abs(drawn.roofArea - 100) < 0.3, QByteArray::number(drawn.roofArea));
+            // GeoJSON is in degrees: the frame keeps lengths
+            QVERIFY2(std::abs(drawn.roofArea - 100) < 0.3, QByteArray::number(drawn.roofArea));
+        }
     }
 
     /// The terrain rises to the east by 1 in 10 from 100 m at East. A square of 10 m stands in the
@@ -282,22 +271,21 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("noData");
         QTest::addColumn<double>("base");
         QTest::addColumn<QByteArray>("notice");
+        const auto row = [](const char *name, const QByteArray &terrain, double base,
+                            const QByteArray &notice = {}, const QByteArray &noData = {}) {
+            QTest::newRow(name) << terrain << noData << base << notice;
+        };
         const QByteArray zero = "the buildings stand at height 0";
-        QTest::newRow("the same system")
-            << QByteArray("dem.asc") << QByteArray() << 100.5 << QByteArray();
-        QTest::newRow("its system is not known")
-            << QByteArray("bare.asc") << QByteArray() << 100.5 << QByteArray();
-        QTest::newRow("degrees") << QByteArray("degrees.asc") << QByteArray() << 77.0
-                                 << QByteArray();
-        QTest::newRow("its western columns are typed to have none: those of 101 count")
-            << QByteArray("steps.asc") << QByteArray("-5") << 101.0 << QByteArray();
-        QTest::newRow("elsewhere")
-            << QByteArray("far.asc") << QByteArray() << 0.0 << QByteArray("they stand at height 0");
-        QTest::newRow("none") << QByteArray() << QByteArray() << 0.0 << zero;
-        QTest::newRow("no such file") << QByteArray("no.tif") << QByteArray() << 0.0 << zero;
-        QTest::newRow("no raster") << QByteArray("town.gpkg") << QByteArray() << 0.0 << zero;
-        QTest::newRow("over the network")
-            << QByteArray("/vsicurl/http://localhost:9/dem.tif") << QByteArray() << 0.0 << zero;
+        row("the same system", "dem.tif", 100.5);
+        row("its system is not known", "bare.tif", 100.5);
+        row("degrees", "degrees.tif", 77);
+        row("its western columns are typed to have none: those of 101 count", "steps.tif", 101, {},
+            "-5");
+        row("elsewhere", "far.tif", 0, "they stand at height 0");
+        row("none", {}, 0, zero);
+        row("no such file", "no.tif", 0, zero);
+        row("no raster", "town.gpkg", 0, zero);
+        row("over the network", "/vsicurl/http://localhost:9/dem.tif", 0, zero);
     }
 
     void standsOnTheGround()
@@ -307,16 +295,15 @@ private Q_SLOTS:
         QFETCH(double, base);
         QFETCH(QByteArray, notice);
         makeFootprints(path("town.gpkg"), {{Square, "5"}});
-        QByteArray slope;
-        for (int row = 0; row < 10; ++row) // centres of columns: East - 45, -35, ... 45
-            slope += "95.5 96.5 97.5 98.5 99.5 100.5 101.5 102.5 103.5 104.5\n";
-        makeTerrain("dem", East - 50, North - 50, 10, slope, 2154);
-        makeTerrain("bare", East - 50, North - 50, 10, slope, 0);
-        makeTerrain("far", East + 5000, North, 10, slope, 2154);
-        // columns of 4 m from East - 8; the square's western corners are between two of -5
-        makeTerrain("steps", East - 8, North - 20, 4,
-                    QByteArray("-5 -5 -5 101 101 101 101 101 101 101\n").repeated(10), 2154);
-        makeTerrain("degrees", 2, 48, 0.1, QByteArray("77 ").repeated(100), 4326);
+        const auto slope = [](int column, int, int) { return 95.5 + column; };
+        makeTerrain("dem.tif", -50, 10, slope);
+        makeTerrain("bare.tif", -50, 10, slope, "");
+        makeTerrain("far.tif", 5000, 10, slope);
+        // the square's western corners are between two columns of -5
+        makeTerrain("steps.tif", -8, 4, [](int column, int, int) { return column < 3 ? -5 : 101; });
+        towntest::make(
+            path("degrees.tif"),
+            {10, 10, 1, GDT_Byte, {2, 48}, 0.1, "EPSG:4326", [](int, int, int) { return 77; }});
 
         Drawn drawn;
         read(document("town.gpkg", "skirtHeight=\"3\"", terrain, noData))->accept(drawn);
@@ -333,10 +320,10 @@ private Q_SLOTS:
     {
         makeFootprints(path("town.gpkg"),
                        {{Square, "5"}, {"POLYGON((9000 0,9010 0,9010 10,9000 0))", "9"}});
-        makeTerrain("flat", East - 50, North - 50, 10, QByteArray("50 ").repeated(100), 2154);
+        makeTerrain("flat.tif", -50, 10, [](int, int, int) { return 50; });
 
         Drawn drawn;
-        read(document("town.gpkg", {}, "flat.asc"))->accept(drawn);
+        read(document("town.gpkg", {}, "flat.tif"))->accept(drawn);
 
         const std::set<double> tops = {55, 59};
         QCOMPARE(drawn.tops, tops);
@@ -360,33 +347,23 @@ private Q_SLOTS:
             QVERIFY(std::abs(distance - 700) < 0.01);
     }
 
-    void tellsWhereItIs()
-    {
-        makeFootprints(path("town.gpkg"), {{Square, "5"}});
-
-        const osg::ref_ptr<osg::Group> scene = read(document());
-
-        QCOMPARE(m_opened.fact("centre"), std::string("650005 6860005"));
-        QCOMPARE(m_opened.fact("srs"), std::string("EPSG:2154"));
-        QVERIFY(scene->getBound().center().length() < 10);
-    }
-
     void refusesOthers_data()
     {
         QTest::addColumn<QByteArray>("text");
         QTest::addColumn<QByteArray>("named");
-        QTest::newRow("no document") << QByteArray("<x/>") << QByteArray("no building document");
-        QTest::newRow("no file") << document("no.shp") << QByteArray("\"no.shp\"");
-        QTest::newRow("over the network")
-            << document("/vsicurl/http://localhost:9/a.shp") << QByteArray("/vsicurl");
-        QTest::newRow("address") << document("http://localhost:9/a") << QByteArray("http:");
-        QTest::newRow("database") << document("PG:host=localhost") << QByteArray("PG:");
-        QTest::newRow("points to elsewhere")
-            << document("town.vrt") << QByteArray("cannot be read");
-        QTest::newRow("no vector file") << document("t.texb") << QByteArray("cannot be read");
-        QTest::newRow("layer") << document().replace("Town", "City") << QByteArray("\"City\"");
-        QTest::newRow("field") << document().replace("Height", "H") << QByteArray("\"H\"");
-        QTest::newRow("field of dates") << document("dates.gpkg") << QByteArray("no numbers");
+        const auto row = [](const QByteArray &text, const QByteArray &named) {
+            QTest::newRow(named.constData()) << text << named;
+        };
+        row("<x/>", "no building document");
+        row(document("no.shp"), "\"no.shp\"");
+        row(document("/vsicurl/http://localhost:9/a.shp"), "/vsicurl");
+        row(document("http://localhost:9/a"), "http:");
+        row(document("PG:host=localhost"), "PG:");
+        row(document("town.vrt"), "town.vrt\" cannot be read"); // points to elsewhere
+        row(document("t.texb"), "t.texb\" cannot be read");
+        row(document().replace("Town", "City"), "\"City\"");
+        row(document().replace("Height", "H"), "\"H\"");
+        row(document("dates.gpkg"), "no numbers");
     }
 
     void refusesOthers()
@@ -446,11 +423,14 @@ private Q_SLOTS:
     {
         QTest::addColumn<QByteArray>("source");
         QTest::addColumn<bool>("isFound");
-        QTest::newRow("absolute") << "TEXB:" + path("docs/t.texb").toUtf8() << true;
-        QTest::newRow("in the layer's folder") << QByteArray("texb:beside.texb") << true;
-        QTest::newRow("in the project's folder") << QByteArray("TEXB:docs/t.texb") << true;
-        QTest::newRow("none") << QByteArray("TEXB:no.texb") << false;
-        QTest::newRow("another source") << QByteArray("site:t.csv") << false;
+        const auto row = [](const QByteArray &source, bool isFound) {
+            QTest::newRow(source.constData()) << source << isFound;
+        };
+        row("TEXB:" + path("docs/t.texb").toUtf8(), true);
+        row("texb:beside.texb", true); // in the layer's folder
+        row("TEXB:docs/t.texb", true); // in the project's
+        row("TEXB:no.texb", false);
+        row("site:t.csv", false);
     }
 
     void layersLeadToTheirDocument()
@@ -482,23 +462,14 @@ private:
         return m_folder.filePath(QString::fromUtf8(name));
     }
 
-    /// Ten by ten values from the south-west corner.
-    void makeTerrain(const QByteArray &name, double x, double y, double cell,
-                     const QByteArray &values, int epsg)
+    /// Ten by ten pixels.
+    void makeTerrain(const char *name, double x, double pixel,
+                     const decltype(towntest::Image::value) &heightM,
+                     const char *system = "EPSG:2154") const
     {
-        write(path(name + ".asc"), "ncols 10\nnrows 10\nxllcorner " +
-                                       QByteArray::number(x, 'f', 3) + "\nyllcorner " +
-                                       QByteArray::number(y, 'f', 3) + "\ncellsize " +
-                                       QByteArray::number(cell) + "\n" + values);
-        if (epsg == 0)
-            return;
-        OGRSpatialReference srs;
-        srs.importFromEPSG(epsg);
-        char *wkt = nullptr;
-        const char *const options[] = {"FORMAT=WKT1_ESRI", nullptr};
-        srs.exportToWkt(&wkt, options);
-        write(path(name + ".prj"), wkt);
-        CPLFree(wkt);
+        towntest::make(
+            path(name),
+            {10, 10, 1, GDT_Float32, {East + x, North - 5 * pixel}, pixel, system, heightM});
     }
 
     osg::ref_ptr<osg::Group> read(const QByteArray &text)

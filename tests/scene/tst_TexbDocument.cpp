@@ -32,24 +32,21 @@ private Q_SLOTS:
     {
         QTest::addColumn<QByteArray>("written");
         QTest::addColumn<QByteArray>("layer");
-        QTest::newRow("plain") << QByteArray("layer=\"a b\"") << QByteArray("a b");
-        QTest::newRow("ampersand") << QByteArray("layer=\"A & B\"") << QByteArray("A & B");
-        QTest::newRow("escaped") << QByteArray("layer=\"A &amp; &quot;B&quot; &lt;C&gt;\"")
-                                 << QByteArray("A & \"B\" <C>");
-        QTest::newRow("quotes") << QByteArray("layer=\"the \"old\" town\"\n    tileSize=\"5\"")
-                                << QByteArray("the \"old\" town");
-        QTest::newRow("quote at the end") << QByteArray("layer=\"21\"\"") << QByteArray("21\"");
-        QTest::newRow("part of a file") << QByteArray("layer=\"HDF5:\"/t/a b.h5\"://b\"")
-                                        << QByteArray("HDF5:\"/t/a b.h5\"://b");
-        QTest::newRow("what looks like an end")
-            << QByteArray("layer=\"a\">b\" tileSize=\"5\"") << QByteArray("a\">b");
-        QTest::newRow("tags") << QByteArray("layer=\"<elevation filename='x'/>\"")
-                              << QByteArray("<elevation filename='x'/>");
-        QTest::newRow("apostrophes around") << QByteArray("layer='l\"'") << QByteArray("l\"");
-        QTest::newRow("empty") << QByteArray("layer=\"\"") << QByteArray();
-        QTest::newRow("not UTF-8") << QByteArray("layer=\"\xe9t\xe9\"") << QByteArray("\xe9t\xe9");
-        QTest::newRow("unknown ones around")
-            << QByteArray("new=\"1\" layer=\"x\" other=\"2\"") << QByteArray("x");
+        const auto row = [](const char *name, const QByteArray &written, const QByteArray &layer) {
+            QTest::newRow(name) << written << layer;
+        };
+        row("plain", "layer=\"a b\"", "a b");
+        row("ampersand", "layer=\"A & B\"", "A & B");
+        row("escaped", "layer=\"A &amp; &quot;B&quot; &lt;C&gt;\"", "A & \"B\" <C>");
+        row("quotes", "layer=\"the \"old\" town\"\n    tileSize=\"5\"", "the \"old\" town");
+        row("quote at the end", "layer=\"21\"\"", "21\"");
+        row("part of a file", "layer=\"HDF5:\"/t/a b.h5\"://b\"", "HDF5:\"/t/a b.h5\"://b");
+        row("what looks like an end", "layer=\"a\">b\" tileSize=\"5\"", "a\">b");
+        row("tags", "layer=\"<elevation filename='x'/>\"", "<elevation filename='x'/>");
+        row("apostrophes around", "layer='l\"'", "l\"");
+        row("empty", "layer=\"\"", {});
+        row("not UTF-8", "layer=\"\xe9t\xe9\"", "\xe9t\xe9");
+        row("unknown ones around", "new=\"1\" layer=\"x\" other=\"2\"", "x");
     }
 
     void takesValuesAsTheyStand()
@@ -82,7 +79,7 @@ private Q_SLOTS:
             "   compression=\"dxt5\"\n    bufferValue=\"2.5\"\n    dilatationValue=\"3\"\n"
             "    magFilter=\"linear\"\n  >\n"
             "    <texture \n      filename=\"h1.png\"\n      height=\"1.5\"\n    />\n"
-            "    <texture \n      filename=\"h7.png\"\n      height=\"7\"\n    />\n"
+            "    <texture \n      filename=\"cellar.png\"\n      height=\"-2\"\n    />\n"
             "  </textures>\n</veltaroTexturedBuildings>\n");
 
         QCOMPARE(read.vectorFile, std::string("/d/a.shp"));
@@ -103,39 +100,34 @@ private Q_SLOTS:
         QCOMPARE(read.textures->bufferM, 2.5);
         QCOMPARE(read.textures->dilatationPixels, 3.0);
         QCOMPARE(read.textures->images.size(), std::size_t{2});
-        QCOMPARE(read.textures->images[1].path, std::string("h7.png"));
-        QCOMPARE(read.textures->images[1].heightM, 7.0);
+        QCOMPARE(read.textures->images[1].path, std::string("cellar.png"));
+        QCOMPARE(read.textures->images[1].heightM, -2.0);
     }
 
     void refusesOthers_data()
     {
         QTest::addColumn<QByteArray>("text");
         QTest::addColumn<QByteArray>("named");
+        const auto row = [](const char *name, const QByteArray &text, const QByteArray &named) {
+            QTest::newRow(name) << text << named;
+        };
         const QByteArray good = document({});
-        QTest::newRow("nothing") << QByteArray() << QByteArray("no building document");
-        QTest::newRow("another root") << QByteArray("<veltaroLayer/>") << QByteArray("no building");
-        QTest::newRow("only its name in a comment")
-            << QByteArray("<!-- <veltaroTexturedBuildings> --><x/>") << QByteArray("no building");
-        QTest::newRow("no end of a comment")
-            << QByteArray("<veltaroTexturedBuildings><!-- ") + good << QByteArray("footprints");
-        QTest::newRow("no footprints")
-            << QByteArray("<veltaroTexturedBuildings></veltaroTexturedBuildings>")
-            << QByteArray("footprints");
-        QTest::newRow("no field") << QByteArray(good).replace("hfield", "field")
-                                  << QByteArray("field of heights");
-        QTest::newRow("a value without end")
-            << document("layer=\"x").left(150) << QByteArray("layer");
-        QTest::newRow("no number") << document("skirtHeight=\"5 m\"") << QByteArray("skirtHeight");
-        QTest::newRow("decimal comma") << document("tileSize=\"2,5\"") << QByteArray("tileSize");
-        QTest::newRow("not finite") << document("tileSize=\"inf\"") << QByteArray("tileSize");
-        QTest::newRow("too great") << document("tileSize=\"1e999\"") << QByteArray("tileSize");
-        QTest::newRow("no size") << document("tileSize=\"0\"") << QByteArray("tileSize");
-        QTest::newRow("negative") << document("extrudedVisibility=\"-1\"")
-                                  << QByteArray("extrudedVisibility");
-        QTest::newRow("unknown mode")
-            << textures({}).replace("walls", "doors") << QByteArray("\"doors\"");
-        QTest::newRow("no height of an image")
-            << textures({}, "<texture filename=\"a\" height=\"low\"/>") << QByteArray("height");
+        row("nothing", {}, "no building document");
+        row("another root", "<veltaroLayer/>", "no building");
+        row("only its name in a comment", "<!-- <veltaroTexturedBuildings> --><x/>", "no building");
+        row("no end of a comment", "<veltaroTexturedBuildings><!-- " + good, "footprints");
+        row("no footprints", "<veltaroTexturedBuildings></veltaroTexturedBuildings>", "footprints");
+        row("no field", QByteArray(good).replace("hfield", "field"), "field of heights");
+        row("a value without end", document("layer=\"x").left(150), "layer");
+        row("no number", document("skirtHeight=\"5 m\""), "skirtHeight");
+        row("decimal comma", document("tileSize=\"2,5\""), "tileSize");
+        row("not finite", document("tileSize=\"inf\""), "tileSize");
+        row("too great", document("tileSize=\"1e999\""), "tileSize");
+        row("no size", document("tileSize=\"0\""), "tileSize");
+        row("negative", document("extrudedVisibility=\"-1\""), "extrudedVisibility");
+        row("unknown mode", textures({}).replace("walls", "doors"), "\"doors\"");
+        row("no height of an image", textures({}, "<texture filename=\"a\" height=\"low\"/>"),
+            "height");
     }
 
     void refusesOthers()

@@ -1,6 +1,5 @@
+#include "TownTesting.h"
 #include "buildings/TexturedTile.h"
-
-#include <gdal_priv.h>
 
 #include <osg/Geode>
 #include <osg/Geometry>
@@ -17,31 +16,22 @@
 namespace {
 
 using namespace vlt::scene;
-using Places = std::vector<osg::Vec2d>;
+using namespace towntest;
+using Places = Ring;
 
-constexpr double BaseM = 5;
 constexpr double SkirtM = 2;
 const osg::Vec3d Origin(10, 20, 1);
-const Places Square = {{25, 25}, {45, 25}, {45, 45}, {25, 45}}; ///< corners in middles of pixels
-const Places Courtyard = {{15, 15}, {85, 15}, {85, 85}, {15, 85}};
+const Places Square = square(25, 25, 20); ///< corners in middles of pixels
+const Places Courtyard = square(15, 15, 70);
 
 /// A building of some rings, the first of which is the outer one, in a plane of metres.
-Town townOf(const std::vector<Places> &rings, float heightM)
+Town townOf(const Rings &rings, float heightM)
 {
     Town town;
-    for (const Places &ring : rings) {
-        const auto begin = static_cast<std::uint32_t>(town.footprints.places.size());
-        town.footprints.places.insert(town.footprints.places.end(), ring.begin(), ring.end());
-        town.footprints.rings.push_back(
-            {begin, begin + static_cast<std::uint32_t>(ring.size()), begin > 0});
-    }
-    town.footprints.buildings.push_back({0, static_cast<std::uint32_t>(rings.size()), heightM});
-    town.frame.local = std::make_shared<LocalFrame>(nullptr, town.footprints.places);
-    for (const osg::Vec2d &place : town.footprints.places)
-        town.places.push_back(town.frame.local->toFrame(place));
-    town.baseM = {static_cast<float>(BaseM)};
-    town.wallColors = {{200, 200, 201, 255}};
-    town.roofColors = {{100, 100, 101, 255}};
+    add(town, rings, heightM);
+    town.frame.local = std::make_shared<LocalFrame>(nullptr, town.places);
+    for (osg::Vec2d &place : town.places)
+        place = town.frame.local->toFrame(place);
     return town;
 }
 
@@ -116,29 +106,13 @@ class TexturedTileTest : public QObject
 
     QTemporaryDir m_dir;
 
-    using Pixel = std::function<double(int column, int row, int band)>;
-
-    /// An image of pixels of 10 by 10 whose lower left corner is the town's origin.
-    std::string imageOf(const QString &name, int side, int bands, GDALDataType type,
-                        const Pixel &pixel, const std::function<void(GDALDataset &)> &finish = {})
+    /// Its lower left corner is the town's origin.
+    std::string imageOf(const char *name, int side, int bands, GDALDataType type,
+                        const decltype(Image::value) &value,
+                        const decltype(Image::finish) &finish = {})
     {
-        const std::string path = m_dir.filePath(name).toStdString();
-        const GDALDatasetUniquePtr made(GetGDALDriverManager()->GetDriverByName("GTiff")->Create(
-            path.c_str(), side, side, bands, type, nullptr));
-        std::array<double, 6> placing{0, 10, 0, 10.0 * side, 0, -10};
-        if (!made || made->SetGeoTransform(placing.data()) != CE_None)
-            qFatal("no image");
-        if (finish)
-            finish(*made);
-        for (int band = 1; band <= bands; ++band) {
-            std::vector<double> values;
-            for (int i = 0; i < side * side; ++i)
-                values.push_back(pixel(i % side, i / side, band));
-            if (made->GetRasterBand(band)->RasterIO(GF_Write, 0, 0, side, side, values.data(), side,
-                                                    side, GDT_Float64, 0, 0, nullptr) != CE_None)
-                qFatal("no pixels");
-        }
-        return path;
+        return make(m_dir.filePath(QLatin1String(name)),
+                    {side, side, bands, type, {}, 10, "", value, finish});
     }
 
     /// Red tells the column, green the row, blue the height.
@@ -149,7 +123,7 @@ class TexturedTileTest : public QObject
         look.edgeColor = "#010203";
         for (const double height : heights)
             look.images.push_back(
-                {imageOf(QStringLiteral("%1.tif").arg(height), 10, 3, GDT_Byte,
+                {imageOf(qPrintable(QStringLiteral("%1.tif").arg(height)), 10, 3, GDT_Byte,
                          [height](int column, int row, int band) {
                              return band == 1 ? 20 * column : band == 2 ? 20 * row : height;
                          }),
@@ -162,10 +136,12 @@ class TexturedTileTest : public QObject
         return {20 * int(place.x() / 10), 20 * int((100 - place.y()) / 10), heightM, 255};
     }
 
+    static bool goOn(double) { return true; }
+
     static std::shared_ptr<TextureImages> open(const Town &town, const TexbTextures &look)
     {
         Notices notices;
-        const auto images = TextureImages::open(town, look, {"/"}, notices);
+        const auto images = TextureImages::open(town, look, {"/"}, notices, goOn);
         return notices.empty() ? images : nullptr;
     }
 
@@ -327,7 +303,7 @@ private Q_SLOTS:
         QFETCH(const std::function<void(GDALDataset &)>, finish);
         QFETCH(const QList<int>, expected);
         const std::string path = imageOf(
-            QStringLiteral("kind.tif"), 3, bands, GDALDataType(type),
+            "kind.tif", 3, bands, GDALDataType(type),
             [](int column, int, int band) { return column == 1 ? 50 * band : 125 * column; },
             finish);
         std::string reason;
@@ -352,7 +328,7 @@ private Q_SLOTS:
     {
         constexpr int Side = 2100;
         const std::string path = imageOf(
-            QStringLiteral("large.tif"), Side, 1, GDT_Byte,
+            "large.tif", Side, 1, GDT_Byte,
             [](int column, int, int) { return column < Side / 2 ? 0 : 200; },
             [](GDALDataset &image) { image.GetRasterBand(1)->SetNoDataValue(0); });
         std::string reason;
@@ -368,13 +344,24 @@ private Q_SLOTS:
         QCOMPARE(opacityAt(Side / 2 + 10), 255);
         QCOMPARE(opacityAt(Side / 2 - 95), 255);
         QCOMPARE(opacityAt(Side / 2 - 105), 0);
+
+        // a building of a large town has little of the memory for all
+        Town town = townOf({square(10, 10, 10 * Side - 20)}, 9);
+        TexbTextures look;
+        look.images = {{path, 9}};
+        const auto sizeOf = [&] {
+            return Tile(town, look, *open(town, look)).textures.front()->getImage()->s();
+        };
+        QCOMPARE(sizeOf(), MostCropPixels);
+        town.footprints.buildings.resize(100000);
+        QVERIFY(sizeOf() <= 64);
     }
 
     void transformsToTheSystemOfTheImage()
     {
         // pixels of 0.0001 degrees by the Greenwich meridian; the town's metres in UTM 31
         const std::string path = imageOf(
-            QStringLiteral("degrees.tif"), 100, 3, GDT_Byte,
+            "degrees.tif", 100, 3, GDT_Byte,
             [](int column, int row, int band) { return band == 1 ? column : row; },
             [](GDALDataset &image) {
                 std::array<double, 6> placing{2.995, 1e-4, 0, 48.005, 0, -1e-4};
@@ -405,8 +392,8 @@ private Q_SLOTS:
     void namesImagesThatItCannotShow()
     {
         TexbTextures look = lookOf(TextureMode::Roofs, {3});
-        const std::string unplaced = imageOf(QStringLiteral("unplaced.tif"), 1, 1, GDT_Byte,
-                                             [](int, int, int) { return 1; });
+        const std::string unplaced =
+            imageOf("unplaced.tif", 1, 1, GDT_Byte, [](int, int, int) { return 1; });
         {
             const GDALDatasetUniquePtr plain(
                 GetGDALDriverManager()->GetDriverByName("GTiff")->Create(unplaced.c_str(), 1, 1, 1,
@@ -418,7 +405,7 @@ private Q_SLOTS:
         look.images.push_back({"http://localhost/a.tif", 12});
         Notices notices;
 
-        const auto images = TextureImages::open(townOf({Square}, 10), look, {"/"}, notices);
+        const auto images = TextureImages::open(townOf({Square}, 10), look, {"/"}, notices, goOn);
 
         QCOMPARE(images->levels().size(), 1U);
         const QStringList reasons = {

@@ -1,19 +1,15 @@
-#include "buildings/ColorSpecification.h"
+#include "LayerScenes.h"
+#include "TownTesting.h"
 #include "buildings/TownColors.h"
 
-#include <gdal_priv.h>
-
 #include <QTemporaryDir>
-#include <QtTest>
 
 #include <array>
 
 namespace {
 
 using namespace vlt::scene;
-using vlt::colormaps::Interpretation;
 using vlt::colormaps::Rgba;
-using vlt::coverage::Reduction;
 
 const QString Grey = QStringLiteral("c8c8c8"); ///< of what has no colour of its own
 
@@ -23,12 +19,7 @@ Town townOf(int buildings)
     Town town;
     for (int i = 0; i < buildings; ++i) {
         const double x = 10 * (buildings - 1 - i);
-        const auto begin = static_cast<std::uint32_t>(town.footprints.places.size());
-        for (const auto &[dx, dy] : {std::pair(2, 2), std::pair(8, 2), std::pair(5, 9)})
-            town.footprints.places.emplace_back(x + dx, dy);
-        const auto ring = static_cast<std::uint32_t>(town.footprints.rings.size());
-        town.footprints.rings.push_back({begin, begin + 3, false});
-        town.footprints.buildings.push_back({ring, ring + 1, 10});
+        towntest::add(town, {{{x + 2, 2}, {x + 8, 2}, {x + 5, 9}}});
     }
     return town;
 }
@@ -52,33 +43,23 @@ class TownColorsTest : public QObject
 
     void write(const char *name, const QByteArray &content)
     {
-        QFile file(m_dir.filePath(QLatin1String(name)));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        QCOMPARE(file.write(content), content.size());
+        layertest::write(m_dir.filePath(QLatin1String(name)), content);
     }
 
-    /// Pixels of 10 by 10 in one row, the last one without a value.
-    void writeRaster(const char *name, std::vector<float> values, double left, double bottom,
-                     const char *system)
+    /// Values in one row.
+    void makeRaster(const char *name, const std::vector<double> &values, osg::Vec2d corner = {},
+                    const char *system = "")
     {
-        const int columns = int(values.size());
-        const GDALDatasetUniquePtr made(GetGDALDriverManager()->GetDriverByName("GTiff")->Create(
-            m_dir.filePath(QLatin1String(name)).toLocal8Bit().constData(), columns, 1, 1,
-            GDT_Float32, nullptr));
-        std::array<double, 6> placing{left, 10, 0, bottom + 10, 0, -10};
-        OGRSpatialReference srs;
-        QVERIFY(made && made->SetGeoTransform(placing.data()) == CE_None);
-        if (system)
-            QVERIFY(srs.SetFromUserInput(system) == OGRERR_NONE &&
-                    made->SetSpatialRef(&srs) == CE_None);
-        QVERIFY(made->GetRasterBand(1)->RasterIO(GF_Write, 0, 0, columns, 1, values.data(), columns,
-                                                 1, GDT_Float32, 0, 0, nullptr) == CE_None);
+        const auto value = [&values](int column, int, int) { return values[std::size_t(column)]; };
+        towntest::make(m_dir.filePath(QLatin1String(name)),
+                       {int(values.size()), 1, 1, GDT_Float32, corner, 10, system, value});
     }
 
     QString colorsOf(const Town &town, const QByteArray &specification, Notices &notices)
     {
         const std::vector<std::string> directories = {"/nowhere", m_dir.path().toStdString()};
-        return hex(townColors(town, specification.toStdString(), directories, notices, {}));
+        return hex(townColors(town, specification.toStdString(), directories, notices,
+                              [](double) { return true; }));
     }
 
 private Q_SLOTS:
@@ -87,36 +68,13 @@ private Q_SLOTS:
         GDALAllRegister();
         write("map.txt", "nv 1 2 3\n0 0 0 0\n50 100 0 0\n100 200 0 255\n");
         write("plain.txt", "0 0 0 0\n100 200 0 0\n");
+        write("cmap=.txt", "0 0 0 0\n100 200 0 0\n");
         write("bad.txt", "5 pink\n");
-        writeRaster("a.tif", {0, 25, 50, -99}, 0, 0, nullptr);
-        writeRaster("a;b=c.tif", {7}, 0, 0, nullptr);
-        writeRaster("lambert.tif", {0, 25, 50, -99}, 221500, 6758000, "EPSG:2154");
-        writeRaster("void.tif", {-99}, 0, 0, nullptr);
+        makeRaster("a.tif", {0, 25, 50, -99});
+        makeRaster("a;nd=1.tif", {7});
+        makeRaster("lambert.tif", {0, 25, 50, -99}, {221500, 6758000}, "EPSG:2154");
+        makeRaster("void.tif", {-99});
         write("text.tif", "no image");
-    }
-
-    void parsesRasterColors_data()
-    {
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<RasterColors>("expected");
-        const auto ranges = Interpretation::ColorRanges;
-        QTest::newRow("semicolons in the raster's name")
-            << QByteArray("IMAGE;NETCDF:\"/r/a;b.nc\":c;/m/s.txt;minimum;stretched;colorrange;1e9")
-            << RasterColors{
-                   "NETCDF:\"/r/a;b.nc\":c", "/m/s.txt", Reduction::Minimum, true, ranges, "1e9"};
-        QTest::newRow("full with no-data and a strange name")
-            << QByteArray("cmap:datasource=/r/a;nd=1.tif;nd=-32768;cmap=/m/cmap=.txt;"
-                          "stretchcmap=TRUE;interpolatecmap=FALSE;band=1;type=minimum")
-            << RasterColors{"/r/a;nd=1.tif", "/m/cmap=.txt", Reduction::Minimum, true,
-                            ranges,          "-32768"};
-    }
-
-    void parsesRasterColors()
-    {
-        QFETCH(const QByteArray, text);
-        QFETCH(const RasterColors, expected);
-
-        QVERIFY(parseRasterColors(text.toStdString()) == expected);
     }
 
     void colorsBuildings_data()
@@ -146,7 +104,11 @@ private Q_SLOTS:
         row("the map has no colour for no-data",
             "IMAGE;a.tif;plain.txt;average;absolute;interpolation;-99",
             "c8c8c8 640000 320000 000000");
-        row("semicolon", "IMAGE;a;b=c.tif;plain.txt;average;absolute;interpolation",
+        row("strange names", "IMAGE;a;nd=1.tif;cmap=.txt;average;absolute;interpolation",
+            "c8c8c8 c8c8c8 c8c8c8 0e0000");
+        row("strange names, full",
+            "cmap:datasource=a;nd=1.tif;nd=-32768;cmap=cmap=.txt;stretchcmap=FALSE;"
+            "interpolatecmap=TRUE;band=1;type=minimum",
             "c8c8c8 c8c8c8 c8c8c8 0e0000");
     }
 
@@ -222,23 +184,28 @@ private Q_SLOTS:
         QVERIFY(notices.empty());
     }
 
+    /// While the raster's range is read too.
     void stops()
     {
-        Notices notices;
-        double share = -1;
-        const Progress stop = [&share](double done) {
-            share = done;
-            return false;
+        std::vector<double> shares;
+        std::size_t stopAt = 99;
+        const auto stop = [&](double share) {
+            shares.push_back(share);
+            return shares.size() < stopAt;
+        };
+        const auto colors = [&] {
+            Notices notices;
+            shares.clear();
+            return townColors(townOf(3), "IMAGE;a.tif;map.txt;average;stretched;interpolation;-99",
+                              {m_dir.path().toStdString()}, notices, stop);
         };
 
-        QVERIFY(townColors(townOf(3), "IMAGE;a.tif;map.txt;average;absolute;interpolation;-99",
-                           {m_dir.path().toStdString()}, notices, stop)
-                    .empty());
-        QVERIFY(share >= 0 && share <= 1);
+        QCOMPARE(colors().size(), 3U);
+        QVERIFY(std::is_sorted(shares.begin(), shares.end()) && shares.size() == 2);
+        for (stopAt = 1; stopAt <= 2; ++stopAt)
+            QVERIFY(colors().empty());
     }
 };
-
-Q_DECLARE_METATYPE(RasterColors)
 
 QTEST_GUILESS_MAIN(TownColorsTest)
 #include "tst_TownColors.moc"

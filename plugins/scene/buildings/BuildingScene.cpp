@@ -132,13 +132,16 @@ void colour(Town &town, const TexbDocument &document, const Directories &directo
 
 /// What makes tiles with images; empty where the document has none that can be used.
 TexturedMaker texturedMaker(const std::shared_ptr<const Town> &town, const TexbDocument &document,
-                            const Directories &directories, Notices &notices)
+                            const Directories &directories, Notices &notices,
+                            const Progress &progress)
 {
     if (!document.textures || document.texturedVisibilityM <= 0)
         return {};
     const std::shared_ptr<TextureImages> images =
-        TextureImages::open(*town, *document.textures, directories, notices);
-    if (!images || images->isEmpty())
+        TextureImages::open(*town, *document.textures, directories, notices, progress);
+    if (!images)
+        throw BadLayer(connection::StoppedText);
+    if (images->isEmpty())
         return {};
     return [town, images, textures = *document.textures, skirtM = document.skirtHeightM](
                std::span<const std::uint32_t> buildings, const osg::Vec3d &origin) {
@@ -156,8 +159,9 @@ osg::ref_ptr<osg::Group> readBuildingScene(const std::string &document, const st
     const auto town = std::make_shared<Town>(readTown(texb, directories, notices, progress));
     colour(*town, texb, directories, notices, progress);
     const TownLook look{texb.tileSizeM, texb.extrudedVisibilityM, texb.texturedVisibilityM,
-                        texb.skirtHeightM, texturedMaker(town, texb, directories, notices)};
-    osg::ref_ptr<osg::Group> scene = buildTown(town, look, part(progress, 0.8, 1));
+                        texb.skirtHeightM,
+                        texturedMaker(town, texb, directories, notices, part(progress, 0.8, 0.9))};
+    osg::ref_ptr<osg::Group> scene = buildTown(town, look, part(progress, 0.9, 1));
     tellFrame(*scene, town->frame);
     tellCount(*scene, "buildings", town->footprints.buildings.size());
     tellCount(*scene, "leftOut", countOf(town->leftOut));

@@ -17,8 +17,6 @@ struct RasterColors
     bool isStretched = true; ///< the map is laid over the raster's least and greatest value
     colormaps::Interpretation interpretation = colormaps::Interpretation::Interpolation;
     std::string noData; ///< as typed; may be empty
-
-    friend bool operator==(const RasterColors &, const RasterColors &) = default;
 };
 
 /// "#RRGGBB"; nothing for other texts.

@@ -2,15 +2,9 @@
 
 #include <osg/Texture2D>
 
-#include <algorithm>
-#include <cmath>
-
 namespace vlt::scene {
 
 namespace {
-
-constexpr double MostPixelsPerTile = 1 << 21; ///< 8 MiB, of all images together
-constexpr int LeastSide = 64;
 
 osg::ref_ptr<osg::Texture2D> textureOf(osg::Image &image, const TexbTextures &look)
 {
@@ -60,15 +54,11 @@ void ImageFaces::addWall(const Wall &wall, double bottom, double top, const osg:
 }
 
 osg::ref_ptr<osg::Geometry> ImageFaces::geometry(TextureImage &image, const TexbTextures &textures,
-                                                 const osg::StateSet &state,
-                                                 std::size_t images) const
+                                                 const osg::StateSet &state, int mostSide) const
 {
-    const double share = std::sqrt(MostPixelsPerTile / static_cast<double>(images));
     std::vector<osg::Vec2d> pixels = m_looked;
     image.toPixels(pixels);
-    const ImageCrop crop =
-        image.crop(pixels, textures.dilatationPixels,
-                   std::clamp(static_cast<int>(share), LeastSide, MostCropPixels));
+    const ImageCrop crop = image.crop(pixels, textures.dilatationPixels, mostSide);
 
     const auto size = static_cast<unsigned>(m_vertices.size());
     osg::ref_ptr<osg::Geometry> geometry = new osg::Geometry;

@@ -39,10 +39,10 @@ public:
 
     /// The drawable with the part of the image that it needs.
     ///
-    /// @param state   what all such faces have in common
-    /// @param images  how many images the tile has: the more, the smaller their parts may be
+    /// @param state     what all such faces have in common
+    /// @param mostSide  of the part of the image, in pixels: TextureImage::crop()
     osg::ref_ptr<osg::Geometry> geometry(TextureImage &image, const TexbTextures &textures,
-                                         const osg::StateSet &state, std::size_t images) const;
+                                         const osg::StateSet &state, int mostSide) const;
 
 private:
     std::uint32_t vertex(const osg::Vec2d &place, double z, const osg::Vec3 &normal,

@@ -15,6 +15,7 @@ namespace {
 
 constexpr std::string_view Blanks = " \t\r\n";
 constexpr auto None = std::string_view::npos;
+constexpr double Most = 1e9; ///< metres or pixels: more makes no difference to what is seen
 
 std::string_view withoutBlanks(std::string_view text)
 {
@@ -105,7 +106,7 @@ std::string textOf(const Attributes &attributes, std::string_view name)
     return {};
 }
 
-double numberOf(const Attributes &attributes, std::string_view name, double usual)
+double numberOf(const Attributes &attributes, std::string_view name, double usual, double least = 0)
 {
     const std::string text = textOf(attributes, name);
     const std::string_view digits = withoutBlanks(text);
@@ -115,10 +116,10 @@ double numberOf(const Attributes &attributes, std::string_view name, double usua
     const char *last = digits.data() + digits.size();
     const auto [end, fault] = std::from_chars(digits.data(), last, number);
     const bool isWhole = withoutBlanks({end, static_cast<std::size_t>(last - end)}).empty();
-    if (fault != std::errc() || !isWhole || !std::isfinite(number) || number < 0)
-        throw BadLayer("the " + std::string(name) + " \"" + text.substr(0, 40) +
-                       "\" is no number of zero or more");
-    return number;
+    if (fault != std::errc() || !isWhole || !std::isfinite(number) || number < least)
+        throw BadLayer("the " + std::string(name) + " \"" + text.substr(0, 40) + "\" is no number" +
+                       (least < 0 ? "" : " of zero or more"));
+    return std::min(number, Most);
 }
 
 bool isTrue(const Attributes &attributes, std::string_view name)
@@ -182,7 +183,7 @@ void takeElement(TexbDocument &document, std::string_view name, const Attributes
         document.textures = texturesOf(attributes);
     else if (name == "texture" && document.textures)
         document.textures->images.push_back(
-            {textOf(attributes, "filename"), numberOf(attributes, "height", 0)});
+            {textOf(attributes, "filename"), numberOf(attributes, "height", 0, -Most)});
 }
 
 /// Moves to the next start of an element and takes its name; an empty one behind the last.

@@ -1,10 +1,9 @@
 #include "buildings/TextureImages.h"
 
+#include "buildings/TownMesh.h"
 #include "coverage/LocalRaster.h"
 
-#include <osg/CullFace>
 #include <osg/LineWidth>
-#include <osg/Material>
 #include <osg/PolygonOffset>
 #include <osg/Program>
 
@@ -16,6 +15,7 @@ namespace vlt::scene {
 namespace {
 
 constexpr std::size_t MostOpenFiles = 128;
+constexpr std::size_t MostNotices = 10;
 
 // Level faces have the colours of the legend; walls are a little darker the less they face the
 // viewer, so that one sees their corners.
@@ -60,18 +60,10 @@ osg::ref_ptr<osg::StateSet> makeFaceState()
     return state;
 }
 
-/// As buildings without images are drawn.
 osg::ref_ptr<osg::StateSet> makePlainState()
 {
-    osg::ref_ptr<osg::StateSet> state = new osg::StateSet;
-    osg::ref_ptr<osg::Material> material = new osg::Material;
-    material->setColorMode(osg::Material::AMBIENT_AND_DIFFUSE);
-    material->setAmbient(osg::Material::FRONT_AND_BACK, osg::Vec4(1, 1, 1, 1));
-    material->setDiffuse(osg::Material::FRONT_AND_BACK, osg::Vec4(1, 1, 1, 1));
-    state->setAttributeAndModes(material);
-    state->setAttributeAndModes(new osg::CullFace(osg::CullFace::BACK));
-    state->setAttributeAndModes(new osg::PolygonOffset(1, 1));
-    state->setMode(GL_LIGHTING, osg::StateAttribute::ON);
+    osg::ref_ptr<osg::StateSet> state = plainFaceState();
+    state->setAttributeAndModes(new osg::PolygonOffset(1, 1)); // behind its edges
     return state;
 }
 
@@ -99,11 +91,15 @@ TextureImages::TextureImages(const Town &town)
 
 std::shared_ptr<TextureImages> TextureImages::open(const Town &town, const TexbTextures &textures,
                                                    const std::vector<std::string> &directories,
-                                                   Notices &notices)
+                                                   Notices &notices, const Progress &progress)
 {
     std::shared_ptr<TextureImages> all(new TextureImages(town));
     std::vector<Level> &levels = all->m_levels;
+    std::size_t done = 0;
+    std::size_t refused = 0;
     for (const TexbImage &one : textures.images) {
+        if (!progress(static_cast<double>(done++) / static_cast<double>(textures.images.size())))
+            return nullptr;
         const auto hasItsHeight = [&one](const Level &level) {
             return level.heightM == one.heightM;
         };
@@ -118,9 +114,11 @@ std::shared_ptr<TextureImages> TextureImages::open(const Town &town, const TexbT
                                        levels.size() < MostOpenFiles, &reason);
         if (image)
             levels.push_back({one.heightM, std::move(image)});
-        else
+        else if (++refused <= MostNotices)
             notices.push_back("the image \"" + one.path + "\" is not shown (" + reason + ")");
     }
+    if (refused > MostNotices)
+        notices.push_back(std::to_string(refused - MostNotices) + " more images are not shown");
     std::sort(levels.begin(), levels.end(),
               [](const Level &a, const Level &b) { return a.heightM < b.heightM; });
     return all;

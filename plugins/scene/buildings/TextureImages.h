@@ -22,14 +22,15 @@ public:
         std::unique_ptr<TextureImage> image;
     };
 
-    /// Opens the images that can be used; a notice names each of the others with the reason.
-    /// Images without a place, and those whose system has no way to that of the footprints, are
-    /// none that can be used; of several at one height the first one is.
+    /// Opens the images that can be used; a notice names each of the first others with the reason,
+    /// one more counts the rest. Images without a place, and those whose system has no way to that
+    /// of the footprints, are none that can be used; of several at one height the first one is.
     ///
     /// @param directories  where files of relative names are looked for, in this order
+    /// @return             null where `progress` stopped it
     static std::shared_ptr<TextureImages> open(const Town &town, const TexbTextures &textures,
                                                const std::vector<std::string> &directories,
-                                               Notices &notices);
+                                               Notices &notices, const Progress &progress);
 
     bool isEmpty() const { return m_levels.empty(); }
 

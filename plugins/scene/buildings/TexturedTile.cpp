@@ -8,6 +8,7 @@
 #include <osg/Geode>
 
 #include <algorithm>
+#include <cmath>
 #include <optional>
 
 namespace vlt::scene {
@@ -15,6 +16,10 @@ namespace vlt::scene {
 namespace {
 
 using Places = std::vector<osg::Vec2d>;
+
+constexpr double MostPixelsPerTile = 1 << 21; ///< 8 MiB, of all images together
+constexpr double MostPixelsPerTown = 1 << 27; ///< tiles stay once they are made
+constexpr int LeastSide = 64;
 
 osg::Vec4ub opaque(const colormaps::Rgba &color)
 {
@@ -42,6 +47,7 @@ public:
 
     void add(std::uint32_t building)
     {
+        ++m_count;
         if (!hasImage(building)) {
             m_plain.addBuilding(building, m_skirtM);
             return;
@@ -69,13 +75,11 @@ public:
         const bool isRoofs = m_textures.mode == TextureMode::Roofs;
         addPlain(*geode, m_plain, Plain::All);
         addPlain(*geode, m_rest, isRoofs ? Plain::Walls : Plain::Roofs);
-        const auto isUsed = [](const ImageFaces &faces) { return !faces.isEmpty(); };
-        const auto used = std::count_if(m_faces.begin(), m_faces.end(), isUsed);
+        const int side = mostSide();
         for (std::size_t i = 0; i < m_faces.size(); ++i) {
-            if (isUsed(m_faces[i]))
+            if (!m_faces[i].isEmpty())
                 geode->addDrawable(m_faces[i].geometry(*m_images.levels()[i].image, m_textures,
-                                                       *m_images.faceState(),
-                                                       static_cast<std::size_t>(used)));
+                                                       *m_images.faceState(), side));
         }
         if (!m_edges.empty()) {
             osg::ref_ptr<osg::Geometry> edges = new osg::Geometry;
@@ -106,6 +110,18 @@ private:
                 within.push_back(i);
         }
         return within;
+    }
+
+    /// Of the part of each image: the tile has as much of the town's memory as of its buildings.
+    int mostSide() const
+    {
+        const double share =
+            static_cast<double>(m_count) / static_cast<double>(m_town.footprints.buildings.size());
+        const auto images = std::count_if(m_faces.begin(), m_faces.end(),
+                                          [](const ImageFaces &faces) { return !faces.isEmpty(); });
+        const double pixels = std::min(MostPixelsPerTile, share * MostPixelsPerTown) /
+                              static_cast<double>(std::max<std::ptrdiff_t>(images, 1));
+        return std::clamp(static_cast<int>(std::sqrt(pixels)), LeastSide, MostCropPixels);
     }
 
     /// Above the origin.
@@ -274,6 +290,7 @@ private:
     osg::Vec3d m_origin;
     double m_skirtM;
     std::optional<colormaps::Rgba> m_edgeColor;
+    std::size_t m_count = 0;         ///< buildings added
     std::vector<ImageFaces> m_faces; ///< parallel to the images
     TownMesh m_plain;                ///< buildings without an image
     TownMesh m_rest;                 ///< buildings of which one part has images: the others

@@ -21,7 +21,8 @@ using colormaps::Rgba;
 using coverage::CoverageRaster;
 
 constexpr Rgba WithoutValue{200, 200, 200, 255};
-constexpr std::size_t BuildingsPerReport = 1000;
+constexpr std::size_t BuildingsPerReport = 100; // each may cover millions of pixels
+constexpr double RangeShare = 0.5;              ///< of the work, where the whole raster is read
 
 /// Names and reasons of what cannot be used end the work with a notice.
 struct Unusable
@@ -34,8 +35,10 @@ std::string count(std::size_t number, std::size_t all)
     return std::to_string(number) + " of " + std::to_string(all) + " buildings";
 }
 
-ColorMap loadMap(const RasterColors &colors, const std::vector<std::string> &directories,
-                 CoverageRaster &raster)
+/// Nothing where `progress` stopped it.
+std::optional<ColorMap> loadMap(const RasterColors &colors,
+                                const std::vector<std::string> &directories, CoverageRaster &raster,
+                                const Progress &progress)
 {
     const std::string path = locateFile(colors.map, directories);
     if (path.empty())
@@ -45,7 +48,13 @@ ColorMap loadMap(const RasterColors &colors, const std::vector<std::string> &dir
     ColorMap map;
     bool isLoaded = false;
     if (colors.isStretched) {
-        const std::optional<coverage::ValueRange> range = raster.range();
+        bool isStopped = false;
+        const std::optional<coverage::ValueRange> range = raster.range([&](double share) {
+            isStopped = !progress(share * RangeShare);
+            return !isStopped;
+        });
+        if (isStopped)
+            return std::nullopt;
         if (!range)
             throw Unusable{"the raster \"" + colors.raster + "\" has no values"};
         isLoaded = map.load(path, range->minimum, range->maximum);
@@ -158,21 +167,24 @@ std::vector<Rgba> rasterColors(const Town &town, const RasterColors &colors,
         throw Unusable{"the raster \"" + colors.raster +
                        "\" cannot be used for colors (there is no way from the buildings' "
                        "coordinate system to its own)"};
-    const ColorMap map = loadMap(colors, directories, *raster);
+    const std::optional<ColorMap> map = loadMap(colors, directories, *raster, progress);
+    if (!map)
+        return {};
 
     const Footprints &footprints = town.footprints;
     const std::size_t number = footprints.buildings.size();
     std::vector<Rgba> found(number, WithoutValue);
     Values values(footprints, transform, *raster, colors.reduction);
+    const double before = colors.isStretched ? RangeShare : 0;
     std::size_t done = 0;
     std::size_t without = 0;
     for (const std::size_t i : inRows(footprints)) {
-        if (done++ % BuildingsPerReport == 0 && progress &&
-            !progress(static_cast<double>(done - 1) / static_cast<double>(number)))
+        const double share = static_cast<double>(done) / static_cast<double>(number);
+        if (done++ % BuildingsPerReport == 0 && !progress(before + share * (1 - before)))
             return {};
         const double value = values.under(footprints.buildings[i]);
         without += std::isnan(value) ? 1 : 0;
-        found[i] = colorOf(map, value, colors.interpretation).value_or(WithoutValue);
+        found[i] = colorOf(*map, value, colors.interpretation).value_or(WithoutValue);
     }
     if (without > 0)
         notices.push_back(count(without, number) + " have no value in the raster \"" +

@@ -1,6 +1,9 @@
 #include "buildings/TownMesh.h"
 
 #include <osg/BoundingBox>
+#include <osg/CullFace>
+#include <osg/LightModel>
+#include <osg/Material>
 
 #include <algorithm>
 #include <array>
@@ -62,6 +65,23 @@ std::vector<std::span<const Footprints::Ring>> partsOf(std::span<const Footprint
         rings = rings.subspan(count);
     }
     return parts;
+}
+
+osg::ref_ptr<osg::StateSet> plainFaceState()
+{
+    osg::ref_ptr<osg::Material> material = new osg::Material;
+    material->setColorMode(osg::Material::AMBIENT_AND_DIFFUSE);
+    material->setAmbient(osg::Material::FRONT_AND_BACK, osg::Vec4(1, 1, 1, 1));
+    material->setDiffuse(osg::Material::FRONT_AND_BACK, osg::Vec4(1, 1, 1, 1));
+    osg::ref_ptr<osg::StateSet> state = new osg::StateSet;
+    state->setAttributeAndModes(material);
+    // more than usual comes from all sides: colours are to be told by the legend
+    osg::ref_ptr<osg::LightModel> light = new osg::LightModel;
+    light->setAmbientIntensity(osg::Vec4(0.36F, 0.36F, 0.36F, 1));
+    state->setAttributeAndModes(light);
+    state->setAttributeAndModes(new osg::CullFace(osg::CullFace::BACK));
+    state->setMode(GL_LIGHTING, osg::StateAttribute::ON);
+    return state;
 }
 
 void TownMesh::addBuilding(std::uint32_t building, double skirtM)

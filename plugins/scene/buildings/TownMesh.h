@@ -5,6 +5,7 @@
 
 #include <osg/Array>
 #include <osg/Geometry>
+#include <osg/StateSet>
 
 #include <vector>
 
@@ -60,6 +61,9 @@ private:
     std::vector<osg::Vec4ub> m_colors;
     std::vector<std::uint32_t> m_indices;
 };
+
+/// How faces of a mesh are drawn: lit, in the colours of their vertices, from outside only.
+osg::ref_ptr<osg::StateSet> plainFaceState();
 
 /// The parts of a building: an outer ring with its holes each.
 std::vector<std::span<const Footprints::Ring>> partsOf(std::span<const Footprints::Ring> rings);

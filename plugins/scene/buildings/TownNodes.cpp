@@ -6,10 +6,8 @@
 #include "layers/BadLayer.h"
 #include "pylon/DeferredNode.h"
 
-#include <osg/CullFace>
 #include <osg/Geode>
 #include <osg/LOD>
-#include <osg/Material>
 #include <osg/MatrixTransform>
 #include <osg/Point>
 #include <osg/ShadeModel>
@@ -30,16 +28,9 @@ using Ids = std::vector<std::uint32_t>;
 
 osg::ref_ptr<osg::StateSet> makeState()
 {
-    osg::ref_ptr<osg::Material> material = new osg::Material;
-    material->setColorMode(osg::Material::AMBIENT_AND_DIFFUSE);
-    material->setAmbient(osg::Material::FRONT_AND_BACK, osg::Vec4(1, 1, 1, 1));
-    material->setDiffuse(osg::Material::FRONT_AND_BACK, osg::Vec4(1, 1, 1, 1));
-    osg::ref_ptr<osg::StateSet> state = new osg::StateSet;
-    state->setAttributeAndModes(material);
-    state->setAttributeAndModes(new osg::CullFace(osg::CullFace::BACK));
+    osg::ref_ptr<osg::StateSet> state = plainFaceState();
     state->setAttributeAndModes(new osg::ShadeModel(osg::ShadeModel::FLAT));
     state->setAttributeAndModes(new osg::Point(DotPixels));
-    state->setMode(GL_LIGHTING, osg::StateAttribute::ON);
     return state;
 }
 

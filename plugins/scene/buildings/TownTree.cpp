@@ -64,7 +64,7 @@ public:
             most.set(std::max(most.x(), at.x()), std::max(most.y(), at.y()));
         }
         const double extent = std::max({most.x() - least.x(), most.y() - least.y(), 1.0});
-        tileSizeM = std::min(tileSizeM, extent);
+        tileSizeM = std::clamp(tileSizeM, extent / MostCells, extent);
         const double cell = std::max(tileSizeM / (1 << LevelsInTile), extent / MostCells);
         // tiles begin at the middle of the town, whatever its extent
         const osg::Vec2d corner(std::floor(least.x() / tileSizeM) * tileSizeM,

@@ -4,7 +4,6 @@
 
 #include "platform/Settings.h"
 
-#include <QFileInfo>
 #include <QSettings>
 
 using namespace vlt;
@@ -14,12 +13,6 @@ namespace {
 const QString Group = QStringLiteral("AddTexbColoredPage");
 const QString AutoRefreshKey = QStringLiteral("AddTexbColoredPage/AutoRefresh");
 const QString LastUsedDirKey = QStringLiteral("LastUsedDir");
-
-bool isColorMapName(const QString &path)
-{
-    const QString suffix = QFileInfo(path).suffix().toLower();
-    return suffix == QLatin1String("txt") || suffix == QLatin1String("cmap");
-}
 
 } // namespace
 
@@ -32,8 +25,7 @@ VltAddTexbColoredPage::VltAddTexbColoredPage(QWidget *wizard, SharedParameters &
     m_ui->setupUi(this);
     setTitle(tr("Coloured buildings", "MESS_PAGE_COLORED"));
     setFocusProxy(m_ui->m_pwColoring);
-    setDropHighlightWidgets(
-        {m_ui->m_pwColoring->findChild<QWidget *>(QStringLiteral("m_pwLblImage"))});
+    setDropHighlightWidgets(m_ui->m_pwColoring->dropLabels());
     m_ui->m_pwColoring->setInstallDir(installDir);
     setResult(m_ui->m_pwGbPreview, m_ui->m_ptHbDrag, m_ui->m_pwLblDragText);
     connect(m_ui->m_pwColoring, &VltColoringPanel::changed, this,
@@ -65,10 +57,7 @@ void VltAddTexbColoredPage::restoreSettings()
 
 void VltAddTexbColoredPage::droppedFile(const QString &path)
 {
-    if (isColorMapName(path))
-        m_ui->m_pwColoring->openColorMap(path);
-    else
-        m_ui->m_pwColoring->openImage(path, false);
+    m_ui->m_pwColoring->openDropped(path);
 }
 
 void VltAddTexbColoredPage::defineImage()

@@ -1,11 +1,9 @@
 #include "buildings/ui/VltAddTexbPreviewPage.h"
 
 #include "buildings/TexturedInfoText.h"
-#include "colormaps/ColoredInfoText.h"
 #include "platform/Settings.h"
 #include "ui_AddTexbPreviewPage.h"
 
-#include <QImageReader>
 #include <QScrollArea>
 #include <QSettings>
 #include <QStyle>
@@ -30,6 +28,8 @@ VltAddTexbPreviewPage::VltAddTexbPreviewPage(QWidget *wizard, SharedParameters &
     setTitle(tr("Display of buildings", "MESS_PAGE_DISPLAY"));
     setFocusProxy(m_ui->m_pwTabs);
     m_ui->m_pwColoring->setInstallDir(installDir);
+    m_ui->m_pwExtrusion->alignTo(m_ui->m_pwCache->columnWidth());
+    setDropHighlightWidgets(m_ui->m_pwColoring->dropLabels());
     setResult(m_ui->m_pwGbPreview, m_ui->m_ptHbDrag, m_ui->m_pwLblDragText);
     connectPanels();
     showColoring();
@@ -47,7 +47,7 @@ void VltAddTexbPreviewPage::connectPanels()
     connect(m_ui->m_pwColoring, &VltColoringPanel::changed, this,
             &VltAddTexbPreviewPage::takeChange);
     connect(m_ui->m_pwColors, &VltBuildingColors::coloringWanted, this,
-            [this] { m_ui->m_pwTabs->setCurrentWidget(m_ui->m_pwSaColoring); });
+            [this] { m_ui->m_pwTabs->setCurrentWidget(m_ui->m_pwTabColoring); });
 }
 
 void VltAddTexbPreviewPage::initializePage()
@@ -60,10 +60,10 @@ void VltAddTexbPreviewPage::initializePage()
     showInformation();
 }
 
-/// The tabs scroll upwards and downwards only.
+/// The first tabs scroll upwards and downwards only.
 void VltAddTexbPreviewPage::fitWidth()
 {
-    for (QScrollArea *area : m_ui->m_pwTabs->findChildren<QScrollArea *>()) {
+    for (QScrollArea *area : {m_ui->m_pwSaDisplay, m_ui->m_pwSaAdvanced}) {
         area->widget()->layout()->activate();
         area->setMinimumWidth(area->widget()->minimumSizeHint().width() +
                               style()->pixelMetric(QStyle::PM_ScrollBarExtent));
@@ -80,7 +80,7 @@ void VltAddTexbPreviewPage::takeChange()
 /// The tab of the colour map is there while something is coloured by it.
 void VltAddTexbPreviewPage::showColoring()
 {
-    m_ui->m_pwTabs->setTabVisible(m_ui->m_pwTabs->indexOf(m_ui->m_pwSaColoring),
+    m_ui->m_pwTabs->setTabVisible(m_ui->m_pwTabs->indexOf(m_ui->m_pwTabColoring),
                                   m_ui->m_pwColors->usesColorMap());
 }
 
@@ -122,8 +122,10 @@ void VltAddTexbPreviewPage::saveSettings()
 
 void VltAddTexbPreviewPage::droppedFile(const QString &path)
 {
-    if (m_ui->m_pwColors->usesColorMap())
-        m_ui->m_pwColoring->openImage(path, false);
+    if (!m_ui->m_pwColors->usesColorMap())
+        return;
+    m_ui->m_pwTabs->setCurrentWidget(m_ui->m_pwTabColoring);
+    m_ui->m_pwColoring->openDropped(path);
 }
 
 bool VltAddTexbPreviewPage::isReady() const
@@ -175,12 +177,5 @@ VltAddTexbPreviewPage::writeFiles(const QString &layerPath)
 
 void VltAddTexbPreviewPage::layerWritten(const vlt::buildings::BuildingLayerFiles &files)
 {
-    if (files.legend.isEmpty()) {
-        m_ui->m_pwLblLegend->clear();
-        return;
-    }
-    constexpr int PixelsPerUnit = 2; // legends are drawn for fine screens
-    const QSize size = QImageReader(files.legend).size() / PixelsPerUnit;
-    m_ui->m_pwLblLegend->setText(
-        vlt::colormaps::coloredInfoText(m_colorMapName, files.legend, size));
+    m_ui->m_pwLegend->showLegend(m_colorMapName, files.legend);
 }

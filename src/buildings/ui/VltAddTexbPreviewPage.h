@@ -22,7 +22,7 @@ public:
     void saveSettings() override;
     void restoreSettings() override;
 
-    /// The image that colours come from, where a colour map is chosen.
+    /// The image that colours come from or a colour map, where walls or roofs are coloured so.
     void droppedFile(const QString &path) override;
 
 private:

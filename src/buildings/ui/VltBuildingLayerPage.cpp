@@ -86,7 +86,8 @@ void VltBuildingLayerPage::cleanupPage()
 bool VltBuildingLayerPage::validatePage()
 {
     saveSettings();
-    if (m_isStale && !makeLayer())
+    const bool isMade = !m_dragIcon->layerFile().isEmpty();
+    if ((m_isStale || !isMade) && !makeLayer())
         return false;
     return vlt::messages::confirmed(
         this, tr("Voulez-vous quitter l'application ?", "MESS_QUEST_QUIT_APP"));

@@ -2,6 +2,8 @@
 
 #include "ui_BuildingPreview.h"
 
+#include "preview/VisibleDistance.h"
+#include "snapshot/SceneNoticeText.h"
 #include "snapshot/SceneNotices.h"
 #include "text/RichText.h"
 #include "wizard/base/BusyWait.h"
@@ -10,40 +12,14 @@
 #include <QLocale>
 #include <QRegularExpression>
 
-#include <osg/LOD>
-#include <osg/NodeVisitor>
-
-#include <algorithm>
-#include <limits>
+#include <mutex>
 
 namespace {
 
 /// From farther away than this share of the visibility too little would be seen.
 constexpr double NearShare = 0.85;
-
-/// Finds the distance within which everything of a scene is drawn.
-class Visibility : public osg::NodeVisitor
-{
-public:
-    Visibility() : osg::NodeVisitor(TRAVERSE_ALL_CHILDREN) {}
-
-    void apply(osg::LOD &levels) override
-    {
-        if (levels.getRangeMode() == osg::LOD::DISTANCE_FROM_EYE_POINT) {
-            double farthestM = 0;
-            for (unsigned level = 0; level < levels.getNumRanges(); ++level)
-                farthestM = std::max<double>(farthestM, levels.getMaxRange(level));
-            m_distanceM = std::min(m_distanceM, farthestM);
-        }
-        traverse(levels);
-    }
-
-    /// Without end where there are no such levels.
-    double distanceM() const { return m_distanceM; }
-
-private:
-    double m_distanceM = std::numeric_limits<double>::infinity();
-};
+/// High enough for roofs and what lies behind tall buildings, low enough for walls.
+constexpr double ElevationDeg = 40;
 
 /// The value of a line "key=value" among those that tell what a scene holds.
 std::string fact(const osg::Node &scene, const std::string &key)
@@ -60,14 +36,36 @@ int count(const osg::Node &scene, const std::string &key)
     return QString::fromStdString(fact(scene, key)).toInt();
 }
 
-/// The page knows the layer, which readers name first, and where the files that they name lie.
-QStringList shortNotices(QStringList notices, const QString &layerPath)
+/// What readers tell, in the user's language. The page knows the layer, which they name first, and
+/// where the files that they name lie.
+QString shortNotice(const QString &notice, const QString &layerPath)
 {
     static const QRegularExpression folder(QStringLiteral("\"/[^\"]*/"));
-    const QString layer = QFileInfo(layerPath).absoluteFilePath() + QStringLiteral(": ");
-    for (QString &notice : notices)
-        notice.remove(layer).replace(folder, QStringLiteral("\""));
-    return notices;
+    QString text = notice;
+    text.remove(QFileInfo(layerPath).absoluteFilePath() + QStringLiteral(": "));
+    text = vlt::snapshot::sceneNoticeText(text.replace(folder, QStringLiteral("\"")));
+    return text.left(1).toUpper() + text.mid(1);
+}
+
+struct Reading
+{
+    vlt::Result<vlt::snapshot::Scene> scene;
+    QStringList notices;
+};
+
+/// One reading at a time: one that was cancelled may still be on its way to its end, and notices of
+/// two would be mixed up.
+Reading readLayer(const QString &path, const QString &project,
+                  const vlt::wizard::WorkProgress &progress)
+{
+    static std::mutex mutex;
+    const std::lock_guard lock(mutex);
+    vlt::snapshot::SceneNotices notices;
+    Reading reading{
+        vlt::snapshot::readScene(path, project, vlt::snapshot::TerrainSurface::Hidden, progress),
+        {}};
+    reading.notices = notices.take();
+    return reading;
 }
 
 } // namespace
@@ -78,6 +76,7 @@ VltBuildingPreview::VltBuildingPreview(QWidget *parent)
 {
     m_ui->setupUi(this);
     m_ui->m_pwPbExt->setEnabled(false);
+    m_ui->m_pwPreview->setElevationDeg(ElevationDeg);
     // a second line of text must not change the size of the view
     m_ui->m_pwLblScene->setMinimumHeight(2 * fontMetrics().lineSpacing());
     connect(m_ui->m_pwChbAutoRefresh, &QCheckBox::stateChanged, this,
@@ -110,26 +109,26 @@ void VltBuildingPreview::showMessage(const QString &text)
 
 void VltBuildingPreview::showLayer(const QString &path, const QString &project)
 {
-    using Read = vlt::Result<vlt::snapshot::Scene>;
     if (path.isEmpty() || !m_ui->m_pwPreview->hasView()) {
         showScene({}, {});
         return;
     }
-    vlt::snapshot::SceneNotices notices;
-    const auto read = vlt::wizard::waitForValue<Read>(
+    const auto read = vlt::wizard::waitForValue<Reading>(
         this, tr("Loading the buildings...", "MESS_LOADING_BUILDINGS"),
         [path, project](const vlt::wizard::WorkProgress &progress) {
-            return vlt::snapshot::readScene(path, project, vlt::snapshot::TerrainSurface::Hidden,
-                                            progress);
+            return readLayer(path, project, progress);
         });
-    if (read && read->ok()) {
-        showScene(read->value(), shortNotices(notices.take(), path));
+    if (read && read->scene.ok()) {
+        QStringList notices = read->notices;
+        for (QString &notice : notices)
+            notice = shortNotice(notice, path);
+        showScene(read->scene.value(), notices);
         return;
     }
     showScene({}, {});
     showMessage(
         read ? tr("The buildings cannot be shown: %1", "MESS_BUILDINGS_NOT_SHOWN")
-                   .arg(read->error().text)
+                   .arg(shortNotice(read->scene.error().text, path))
              : tr("Loading was stopped; the layer itself is complete.", "MESS_LOADING_STOPPED"));
 }
 
@@ -140,9 +139,7 @@ void VltBuildingPreview::showScene(const vlt::snapshot::Scene &scene, const QStr
     showMessage({});
     if (!scene)
         return;
-    Visibility visibility;
-    scene->accept(visibility);
-    m_ui->m_pwPreview->setFarthestM(NearShare * visibility.distanceM());
+    m_ui->m_pwPreview->setFarthestM(NearShare * visibleDistanceM(*scene));
     const std::string place = fact(*scene, "centre");
     if (place != m_place)
         resetView();

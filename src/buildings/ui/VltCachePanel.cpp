@@ -19,6 +19,11 @@ VltCachePanel::VltCachePanel(QWidget *parent)
 
 VltCachePanel::~VltCachePanel() = default;
 
+int VltCachePanel::columnWidth() const
+{
+    return qMax(m_ui->m_pwCbCache->sizeHint().width(), m_ui->m_pwSbCapacity->sizeHint().width());
+}
+
 void VltCachePanel::enableWhatMatters()
 {
     const bool keeps = m_ui->m_pwCbCache->currentIndex() > 0;

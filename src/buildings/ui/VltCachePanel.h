@@ -22,6 +22,9 @@ public:
     /// None where nothing is kept.
     std::optional<vlt::buildings::CacheSettings> cache() const;
 
+    /// Of the values, in pixels.
+    int columnWidth() const;
+
 private:
     void enableWhatMatters();
 

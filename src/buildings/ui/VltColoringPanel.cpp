@@ -12,12 +12,14 @@
 #include "wizard/base/Messages.h"
 #include "wizard/base/WheelGuard.h"
 
+#include <QAbstractItemView>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QPointer>
 #include <QScopedValueRollback>
 #include <QSettings>
 #include <QSignalBlocker>
+#include <QStyle>
 #include <QWizardPage>
 
 using namespace vlt;
@@ -30,6 +32,12 @@ void restoreIndex(QComboBox *combo, const QVariant &value)
     const int index = value.toInt(&isNumber);
     if (isNumber && index >= 0 && index < combo->count())
         combo->setCurrentIndex(index);
+}
+
+bool isColorMapName(const QString &path)
+{
+    const QString suffix = QFileInfo(path).suffix().toLower();
+    return suffix == QLatin1String("txt") || suffix == QLatin1String("cmap");
 }
 
 /// As the readers of a document understand it.
@@ -59,6 +67,7 @@ VltColoringPanel::VltColoringPanel(QWidget *parent)
     m_ui->m_pwSubdatasetsFrame->hide();
     m_ui->m_pwNoDataProgress->hide();
     m_ui->m_pwCbCmap->setIconSize(buildings::ColorMapSwatchSize);
+    m_ui->m_pwCbSubdatsets->view()->setTextElideMode(Qt::ElideLeft); // a path stands in front
     wizard::guardAgainstStrayWheel(this);
     connectWidgets();
 }
@@ -76,6 +85,7 @@ void VltColoringPanel::connectWidgets()
             [this] { openImage(m_ui->m_pwLeImage->text(), false); });
     connect(m_ui->m_pwLeImage, &QLineEdit::editingFinished, this,
             &VltColoringPanel::takeTypedImage);
+    connect(m_ui->m_pwLeImage, &QLineEdit::textEdited, this, &VltColoringPanel::changed);
 
     connect(m_ui->m_pwLeNoData, &QLineEdit::textChanged, this, &VltColoringPanel::changed);
     connect(m_ui->m_pwCbStretch, &QCheckBox::toggled, this, &VltColoringPanel::changed);
@@ -103,8 +113,13 @@ QWidget *VltColoringPanel::page()
 int VltColoringPanel::addToList(const QString &name, const QString &path)
 {
     const auto map = colormaps::openColorMap(path); // a file may be gone: its place stays
-    m_ui->m_pwCbCmap->addItem(map ? buildings::colorMapSwatch(map.value()) : QIcon(), name, path);
-    return m_ui->m_pwCbCmap->count() - 1;
+    QComboBox *maps = m_ui->m_pwCbCmap;
+    maps->addItem(map ? buildings::colorMapSwatch(map.value()) : QIcon(), name, path);
+    maps->setItemData(maps->count() - 1, path, Qt::ToolTipRole);
+    // names often differ at their ends only: the open list is as wide as they are
+    maps->view()->setMinimumWidth(maps->view()->sizeHintForColumn(0) +
+                                  style()->pixelMetric(QStyle::PM_ScrollBarExtent));
+    return maps->count() - 1;
 }
 
 void VltColoringPanel::setInstallDir(const QString &installDir)
@@ -142,7 +157,10 @@ std::optional<buildings::RasterColoring> VltColoringPanel::coloring() const
 
 QString VltColoringPanel::missingText() const
 {
-    if (m_openedImage.isEmpty())
+    const QString typed = m_ui->m_pwLeImage->text();
+    if (!typed.isEmpty() && typed != m_openedImage)
+        return tr("Press Enter to open the image that is typed.", "MESS_IMAGE_NOT_OPENED");
+    if (typed.isEmpty())
         return tr("Choose the image that colors the buildings.", "MESS_NEED_COLOR_IMAGE");
     if (!m_isUsable)
         return tr("Choose an image of one band.", "MESS_NEED_ONE_BAND");
@@ -151,6 +169,8 @@ QString VltColoringPanel::missingText() const
         return tr("The value of no data is no number.", "MESS_NODATA_NO_NUMBER");
     if (m_ui->m_pwCbCmap->currentIndex() < 0)
         return tr("Add a colormap.", "MESS_NEED_CMAP");
+    if (!QFileInfo::exists(m_ui->m_pwCbCmap->currentData().toString()))
+        return tr("The file of the colormap is gone: choose another one.", "MESS_CMAP_GONE");
     return {};
 }
 
@@ -164,8 +184,9 @@ bool VltColoringPanel::readRange(const buildings::RasterColoring &coloring)
     using Range = Result<std::optional<coverage::ValueRange>>;
     const auto read = wizard::waitForValue<Range>(
         this, tr("Looking for the least and the greatest value...", "MESS_READING_RANGE"),
-        [raster = coloring.rasterFile, noData = coloring.noData] {
-            return buildings::readCoverageRange(raster, noData);
+        [raster = coloring.rasterFile,
+         noData = coloring.noData](const wizard::WorkProgress &progress) {
+            return buildings::readCoverageRange(raster, noData, progress);
         });
     if (!read)
         return false;
@@ -314,6 +335,19 @@ void VltColoringPanel::openColorMap(const QString &path)
     }
     const int known = m_ui->m_pwCbCmap->findData(entry.path);
     m_ui->m_pwCbCmap->setCurrentIndex(known >= 0 ? known : addToList(entry.name, entry.path));
+}
+
+void VltColoringPanel::openDropped(const QString &path)
+{
+    if (isColorMapName(path))
+        openColorMap(path);
+    else
+        openImage(path, false);
+}
+
+QList<QWidget *> VltColoringPanel::dropLabels() const
+{
+    return {m_ui->m_pwLblImage, m_ui->m_pwLblCmap};
 }
 
 void VltColoringPanel::restoreSettings(const QSettings &settings, const QString &group)

@@ -31,8 +31,8 @@ public:
     /// Lists the colour maps of an installation before those that the user added.
     void setInstallDir(const QString &installDir);
 
-    /// What is chosen; nothing without an image of one band or without a colour map, or while the
-    /// value of no data is no number.
+    /// What is chosen; nothing without an image of one band or without a colour map, while the path
+    /// of another image is being typed, or while the value of no data is no number.
     std::optional<vlt::buildings::RasterColoring> coloring() const;
 
     /// What coloring() is missing, for the user; empty where it is complete.
@@ -53,6 +53,12 @@ public:
 
     /// Adds a colour map file to the list and selects it: a box tells where it is none.
     void openColorMap(const QString &path);
+
+    /// Takes a dropped file: a text of colours becomes a colour map, anything else the image.
+    void openDropped(const QString &path);
+
+    /// What a file that is dropped is for.
+    QList<QWidget *> dropLabels() const;
 
     /// Reads or writes the values under "<group>/Image" and so on, the settings of the coloured
     /// page. Restoring emits nothing.

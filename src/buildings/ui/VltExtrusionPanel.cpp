@@ -30,9 +30,7 @@ VltExtrusionPanel::VltExtrusionPanel(QWidget *parent)
 {
     m_ui->setupUi(this);
     vlt::wizard::guardAgainstStrayWheel(this);
-    const int width = m_ui->m_pwSbTileSize->sizeHint().width(); // one column through both groups
-    for (QAbstractSpinBox *box : findChildren<QAbstractSpinBox *>())
-        box->setMinimumWidth(width);
+    alignTo(m_ui->m_pwSbTileSize->sizeHint().width()); // one column through both groups
     connect(m_ui->m_pwSbDistance, &QSpinBox::valueChanged, this, &VltExtrusionPanel::changed);
     connect(m_ui->m_pwSbTileSize, &QDoubleSpinBox::valueChanged, this, &VltExtrusionPanel::changed);
     connect(m_ui->m_pwCbCheckGeom, &QCheckBox::toggled, this, &VltExtrusionPanel::changed);
@@ -41,6 +39,12 @@ VltExtrusionPanel::VltExtrusionPanel(QWidget *parent)
 }
 
 VltExtrusionPanel::~VltExtrusionPanel() = default;
+
+void VltExtrusionPanel::alignTo(int columnWidth)
+{
+    for (QAbstractSpinBox *box : findChildren<QAbstractSpinBox *>())
+        box->setMinimumWidth(qMax(columnWidth, box->minimumWidth()));
+}
 
 vlt::buildings::FootprintSettings VltExtrusionPanel::settings() const
 {

@@ -28,6 +28,9 @@ public:
     void restoreSettings(const QSettings &settings, const QString &group, bool withDistance);
     void saveSettings(QSettings &settings, const QString &group, bool withDistance) const;
 
+    /// Widens the column of the values, in pixels, to that of a panel below.
+    void alignTo(int columnWidth);
+
 Q_SIGNALS:
     void changed();
 

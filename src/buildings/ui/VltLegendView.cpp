@@ -7,7 +7,7 @@
 
 VltLegendView::VltLegendView(QWidget *parent) : QScrollArea(parent), m_text(new QLabel(this))
 {
-    m_text->setObjectName(QStringLiteral("m_pwLblInfo"));
+    m_text->setObjectName(QStringLiteral("m_pwLblLegend"));
     m_text->setTextFormat(Qt::RichText);
     m_text->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     setWidget(m_text);

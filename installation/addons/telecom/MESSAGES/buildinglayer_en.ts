@@ -70,6 +70,16 @@
         <extracomment>Keep the option.</extracomment>
         <translation>for which height is this image? --texture FILE=HEIGHT tells</translation>
     </message>
+    <message id="MESS_CLI_BAD_HEIGHT">
+        <source>the height is no number</source>
+        <extracomment>Follows the name of an image.</extracomment>
+        <translation>the height is no number</translation>
+    </message>
+    <message id="MESS_CLI_PLAIN">
+        <source>no image lies on the buildings: neither --texture nor --textures is given</source>
+        <extracomment>Keep the options.</extracomment>
+        <translation>no image lies on the buildings: neither --texture nor --textures is given</translation>
+    </message>
     <message id="MESS_CLI_NO_TEXTURES">
         <source>no image is found by it</source>
         <extracomment>Follows the name of an image.</extracomment>

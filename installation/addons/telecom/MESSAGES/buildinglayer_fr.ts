@@ -11,17 +11,17 @@
     <message id="MESS_TEXB_TEXTURED_ON">
         <source>Textured: %1</source>
         <extracomment>%1: roofs, walls or storeys.</extracomment>
-        <translation>Texturé : %1</translation>
+        <translation>Texturé&#xa0;: %1</translation>
     </message>
     <message id="MESS_TEXB_IMAGES">
         <source>Images: %1</source>
         <extracomment>%1: their number.</extracomment>
-        <translation>Images : %1</translation>
+        <translation>Images&#xa0;: %1</translation>
     </message>
     <message id="MESS_TEXB_HEIGHTS">
         <source>Heights above the ground: %1</source>
         <extracomment>%1: heights, "1.5 · 6 m".</extracomment>
-        <translation>Hauteurs au-dessus du sol : %1</translation>
+        <translation>Hauteurs au-dessus du sol&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -32,33 +32,33 @@
     </message>
     <message id="MESS_CLI_NO_BUILDINGS">
         <source>the project names no buildings: give their file</source>
-        <translation>le projet n'indique pas de bâtiments : donnez leur fichier</translation>
+        <translation>le projet n'indique pas de bâtiments&#xa0;: donnez leur fichier</translation>
     </message>
     <message id="MESS_CLI_NO_DTM">
         <source>the project names no terrain: give --dtm</source>
         <extracomment>Keep the option.</extracomment>
-        <translation>le projet n'indique pas de terrain : donnez --dtm</translation>
+        <translation>le projet n'indique pas de terrain&#xa0;: donnez --dtm</translation>
     </message>
     <message id="MESS_CLI_NO_SUCH_LAYER">
         <source>no layer of polygons has the name "%1"; there are: %2</source>
-        <translation>aucune couche de polygones ne porte le nom « %1 » ; il y a : %2</translation>
+        <translation>aucune couche de polygones ne porte le nom «&#xa0;%1&#xa0;»&#xa0;; il y a&#xa0;: %2</translation>
     </message>
     <message id="MESS_CLI_NO_SUCH_FIELD">
         <source>no field of heights has the name "%1"; there are: %2</source>
-        <translation>aucun champ de hauteurs ne porte le nom « %1 » ; il y a : %2</translation>
+        <translation>aucun champ de hauteurs ne porte le nom «&#xa0;%1&#xa0;»&#xa0;; il y a&#xa0;: %2</translation>
     </message>
     <message id="MESS_CLI_NO_HEIGHT_FIELD">
         <source>which field holds the heights? --height-field tells</source>
         <extracomment>Keep the option.</extracomment>
-        <translation>quel champ contient les hauteurs ? --height-field le dit</translation>
+        <translation>quel champ contient les hauteurs&#xa0;? --height-field le dit</translation>
     </message>
     <message id="MESS_CLI_NO_SUCH_CMAP">
         <source>no colour map has this name, nor any file; there are: %1</source>
-        <translation>aucune palette ni aucun fichier ne porte ce nom ; il y a : %1</translation>
+        <translation>aucune palette ni aucun fichier ne porte ce nom&#xa0;; il y a&#xa0;: %1</translation>
     </message>
     <message id="MESS_CLI_SUBDATASETS">
         <source>it holds several images, each with a name: %1</source>
-        <translation>il contient plusieurs images, chacune avec un nom : %1</translation>
+        <translation>il contient plusieurs images, chacune avec un nom&#xa0;: %1</translation>
     </message>
     <message id="MESS_CLI_NO_VALUES">
         <source>none of its pixels has a value</source>
@@ -68,7 +68,17 @@
     <message id="MESS_CLI_TEXTURE_HEIGHT">
         <source>for which height is this image? --texture FILE=HEIGHT tells</source>
         <extracomment>Keep the option.</extracomment>
-        <translation>pour quelle hauteur est cette image ? --texture FILE=HEIGHT le dit</translation>
+        <translation>pour quelle hauteur est cette image&#xa0;? --texture FILE=HEIGHT le dit</translation>
+    </message>
+    <message id="MESS_CLI_BAD_HEIGHT">
+        <source>the height is no number</source>
+        <extracomment>Follows the name of an image.</extracomment>
+        <translation>la hauteur n'est pas un nombre supérieur ou égal à 0</translation>
+    </message>
+    <message id="MESS_CLI_PLAIN">
+        <source>no image lies on the buildings: neither --texture nor --textures is given</source>
+        <extracomment>Keep the options.</extracomment>
+        <translation>aucune image n'est posée sur les bâtiments&#xa0;: ni --texture ni --textures n'est donné</translation>
     </message>
     <message id="MESS_CLI_NO_TEXTURES">
         <source>no image is found by it</source>

@@ -131,6 +131,14 @@
         <source>The value of no data is no number.</source>
         <translation>The value of no data is no number.</translation>
     </message>
+    <message id="MESS_IMAGE_NOT_OPENED">
+        <source>Press Enter to open the image that is typed.</source>
+        <translation>Press Enter to open the image that is typed.</translation>
+    </message>
+    <message id="MESS_CMAP_GONE">
+        <source>The file of the colormap is gone: choose another one.</source>
+        <translation>The file of the colormap is gone: choose another one.</translation>
+    </message>
     <message id="MESS_NEED_CMAP">
         <source>Add a colormap.</source>
         <translation>Add a colormap.</translation>

@@ -131,6 +131,14 @@
         <source>The value of no data is no number.</source>
         <translation>La valeur d'absence de donnée n'est pas un nombre.</translation>
     </message>
+    <message id="MESS_IMAGE_NOT_OPENED">
+        <source>Press Enter to open the image that is typed.</source>
+        <translation>Appuyez sur Entrée pour ouvrir l'image saisie.</translation>
+    </message>
+    <message id="MESS_CMAP_GONE">
+        <source>The file of the colormap is gone: choose another one.</source>
+        <translation>Le fichier de la palette n'existe plus&#xa0;: choisissez-en une autre.</translation>
+    </message>
     <message id="MESS_NEED_CMAP">
         <source>Add a colormap.</source>
         <translation>Ajoutez une palette de couleurs.</translation>

@@ -1,0 +1,123 @@
+#include "batch/BuildingsColoring.h"
+
+#include "batch/DatasetNames.h"
+#include "batch/InputErrors.h"
+#include "batch/ProgressLine.h"
+#include "buildings/ColoringLegend.h"
+#include "colormaps/ColorMapList.h"
+#include "coverage/CoverageRaster.h"
+#include "geodata/ErrorCollector.h"
+#include "geodata/RasterSource.h"
+#include "language/VltLanguageManager.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <memory>
+
+namespace vlt::batch {
+
+namespace {
+
+using buildings::RasterColoring;
+
+/// The colour map of a name in the installation's list, or of a file.
+Result<colormaps::ColorMapEntry> chosenColorMap(const QString &wanted, const QString &installDir)
+{
+    const QList<colormaps::ColorMapEntry> maps = colormaps::listColorMaps(installDir, false);
+    QStringList names;
+    for (const colormaps::ColorMapEntry &map : maps)
+        names << map.name;
+    const qsizetype index = wanted.isEmpty() ? 0 : indexOfName(names, wanted);
+    if (index >= 0 && index < maps.size())
+        return maps.at(index);
+    if (!wanted.isEmpty() && QFileInfo(wanted).isFile())
+        return colormaps::colorMapEntry(absolutePath(wanted));
+    return told(dico_label("MESS_CLI_NO_SUCH_CMAP",
+                           "no colour map has this name, nor any file; there are: %1")
+                    .arg(names.join(QStringLiteral(", "))),
+                wanted);
+}
+
+/// Why a raster of several bands, or of none, does not serve; with the names of those that it
+/// holds.
+Error notOneBand(const geodata::RasterSummary &raster, const QString &path)
+{
+    QString text = raster.bandCount == 0
+                       ? dico_label("MESS_ERR_NO_BANDS", "This image doesn't have any band")
+                       : dico_label("MESS_ERR_ONLY_GRAY", "The image-based coloring mode works "
+                                                          "only with one-band grey images");
+    QStringList parts;
+    for (const geodata::Subdataset &part : raster.subdatasets)
+        parts << part.name;
+    if (!parts.isEmpty())
+        text += QStringLiteral("; ") +
+                dico_label("MESS_CLI_SUBDATASETS", "it holds several images, each with a name: %1")
+                    .arg(parts.join(QStringLiteral(", ")));
+    return told(text, path);
+}
+
+/// Opens the raster that colours come from; its absolute name into `coloring`.
+Result<std::shared_ptr<coverage::CoverageRaster>> openRaster(RasterColoring &coloring)
+{
+    const QString given = coloring.rasterFile;
+    const QString file = fileOfDataset(given);
+    if (file.isEmpty())
+        return Error{QStringLiteral("MESS_SNAP_NO_FILE"), QStringLiteral("no such file"), given};
+    coloring.rasterFile = absoluteDatasetName(given);
+    const QString path = absolutePath(file);
+    const bool isPart = coloring.rasterFile != path;
+    const auto summary = geodata::readRasterSummary(path, isPart ? coloring.rasterFile : QString());
+    const char *const unreadable = "This file can't be open as a raster dataset";
+    if (!summary)
+        return withReason("MESS_ERR_OPEN_RASTERDS", unreadable, summary.error(), given);
+    if (summary.value().bandCount != 1)
+        return notOneBand(summary.value(), given);
+    const geodata::ErrorCollector errors; // they come back as reasons
+    std::string reason;
+    std::shared_ptr<coverage::CoverageRaster> raster =
+        coverage::CoverageRaster::open(QFile::encodeName(coloring.rasterFile).toStdString(),
+                                       coloring.noData.toStdString(), &reason);
+    if (!raster)
+        return withReason("MESS_ERR_OPEN_RASTERDS", unreadable,
+                          told(QString::fromLocal8Bit(reason.c_str()), given), given);
+    return raster;
+}
+
+std::optional<coverage::ValueRange> rangeOf(coverage::CoverageRaster &raster, bool quiet)
+{
+    ProgressLine line(
+        dico_label("MESS_READING_RANGE", "Looking for the least and the greatest value..."),
+        !quiet);
+    return raster.range([&line](double share) {
+        line.show(share);
+        return true;
+    });
+}
+
+} // namespace
+
+Result<buildings::LegendInput> readColoring(RasterColoring &coloring, const QString &installDir,
+                                            bool quiet)
+{
+    const QString image = coloring.rasterFile;
+    const auto raster = openRaster(coloring);
+    if (!raster)
+        return raster.error();
+    const auto map = chosenColorMap(coloring.colorMap, installDir);
+    if (!map)
+        return map.error();
+    coloring.colorMap = map.value().path;
+
+    const std::optional<coverage::ValueRange> range =
+        coloring.stretched ? rangeOf(*raster.value(), quiet) : std::nullopt;
+    if (coloring.stretched && !range)
+        return told(dico_label("MESS_CLI_NO_VALUES", "none of its pixels has a value"), image);
+    auto legend = buildings::legendOf(coloring, range);
+    if (!legend)
+        return withReason("MESS_ERR_OPEN_CMAP", "This file can't be read as a colormap",
+                          legend.error(), coloring.colorMap);
+    return legend;
+}
+
+} // namespace vlt::batch

@@ -1,0 +1,293 @@
+#include "batch/BuildingsRequest.h"
+
+#include "batch/BuildingsOptions.h"
+
+#include <QRegularExpression>
+
+namespace vlt::batch {
+
+namespace {
+
+using buildings::CacheSettings;
+using buildings::RasterColoring;
+using buildings::Reduction;
+using buildings::TexbSubtype;
+using buildings::TexbTextures;
+
+/// Options that make no sense without another one.
+const QStringList OfImage = {QStringLiteral("image-nodata"), QStringLiteral("colormap"),
+                             QStringLiteral("absolute"), QStringLiteral("color-ranges"),
+                             QStringLiteral("mode")};
+const QStringList OfFolders = {QStringLiteral("structure"), QStringLiteral("filter")};
+const QStringList OfTextures = {
+    QStringLiteral("texture-on"),  QStringLiteral("textured-distance"),
+    QStringLiteral("edge-color"),  QStringLiteral("force-edges"),
+    QStringLiteral("compression"), QStringLiteral("no-complex-buildings"),
+    QStringLiteral("buffer"),      QStringLiteral("dilatation"),
+    QStringLiteral("magnify")};
+const QStringList OfLook = {QStringLiteral("cache"), QStringLiteral("delayed-write"),
+                            QStringLiteral("cache-capacity")};
+
+Error usage(const QString &text)
+{
+    return {QString(), text, {}};
+}
+
+Error wrongValue(const QString &option, const QString &wanted, const QString &value)
+{
+    return usage(QStringLiteral("--%1 is %2, not \"").arg(option, wanted) + value +
+                 QLatin1Char('"'));
+}
+
+/// Position of an option's value among the words; the first where it is not given.
+Result<int> readWord(const QCommandLineParser &parser, const QString &option,
+                     const QStringList &words)
+{
+    if (!parser.isSet(option))
+        return 0;
+    const QString value = parser.value(option);
+    const auto index = static_cast<int>(words.indexOf(value));
+    return index < 0 ? Result<int>(wrongValue(option, words.join(QLatin1Char('|')), value))
+                     : Result<int>(index);
+}
+
+/// An option that tells a colour: "#RRGGBB", or ColorMapWord where that is allowed.
+Result<QString> readColor(const QCommandLineParser &parser, const QString &option,
+                          const char *firstRun, bool mayBeFromMap)
+{
+    static const QRegularExpression hex(QStringLiteral("\\A#?([0-9a-fA-F]{6})\\z"));
+    if (!parser.isSet(option))
+        return QString(QLatin1String(firstRun));
+    const QString value = parser.value(option);
+    if (mayBeFromMap && value == QLatin1String(ColorMapWord))
+        return value;
+    const QRegularExpressionMatch match = hex.match(value);
+    if (!match.hasMatch())
+        return wrongValue(option,
+                          mayBeFromMap ? QStringLiteral("#RRGGBB or the word colormap")
+                                       : QStringLiteral("#RRGGBB"),
+                          value);
+    return QString(QLatin1Char('#') + match.captured(1).toLower());
+}
+
+/// A text that stands for missing values: a number, or empty.
+std::optional<Error> checkNoData(const QCommandLineParser &parser, const QString &option)
+{
+    bool isNumber = false;
+    const QString value = parser.value(option);
+    value.toDouble(&isNumber);
+    if (value.isEmpty() || isNumber)
+        return std::nullopt;
+    return wrongValue(option, QStringLiteral("a number"), value);
+}
+
+bool hasTextures(const QCommandLineParser &parser)
+{
+    return parser.isSet(QStringLiteral("texture")) || parser.isSet(QStringLiteral("textures"));
+}
+
+/// Whether the buildings have a look of their own, not only the image's colours.
+bool hasLook(const QCommandLineParser &parser)
+{
+    return hasTextures(parser) || !parser.isSet(QStringLiteral("image")) ||
+           parser.isSet(QStringLiteral("wall-color")) || parser.isSet(QStringLiteral("roof-color"));
+}
+
+std::optional<Error> checkCompanions(const QCommandLineParser &parser)
+{
+    const auto refused = [&parser](const QStringList &options, const QString &why) {
+        for (const QString &option : options) {
+            if (parser.isSet(option))
+                return std::optional(usage(QStringLiteral("--%1 %2").arg(option, why)));
+        }
+        return std::optional<Error>();
+    };
+    const bool hasFolders = parser.isSet(QStringLiteral("textures"));
+    if (hasFolders && parser.isSet(QStringLiteral("texture")))
+        return usage(QStringLiteral("--texture and --textures do not go together"));
+    std::optional<Error> error;
+    if (!parser.isSet(QStringLiteral("image")))
+        error = refused(OfImage, QStringLiteral("is only for --image"));
+    if (!error && !hasFolders)
+        error = refused(OfFolders, QStringLiteral("is only for --textures"));
+    if (!error && !hasTextures(parser))
+        error = refused(OfTextures, QStringLiteral("is only for --texture and --textures"));
+    if (!error && !hasLook(parser))
+        error = refused(OfLook, QStringLiteral("is not for buildings that --image colours alone"));
+    return error;
+}
+
+Result<RasterColoring> readImage(const QCommandLineParser &parser)
+{
+    RasterColoring image;
+    image.rasterFile = parser.value(QStringLiteral("image"));
+    if (image.rasterFile.isEmpty())
+        return usage(QStringLiteral("--image needs a value"));
+    if (const auto error = checkNoData(parser, QStringLiteral("image-nodata")))
+        return *error;
+    image.noData = parser.value(QStringLiteral("image-nodata"));
+    image.colorMap = parser.value(QStringLiteral("colormap"));
+    image.stretched = !parser.isSet(QStringLiteral("absolute"));
+    image.interpolated = !parser.isSet(QStringLiteral("color-ranges"));
+    const bool isDocumentWord = parser.value(QStringLiteral("mode")) ==
+                                buildings::reductionName(Reduction::MostRepresented);
+    const Result<int> mode =
+        isDocumentWord ? Result<int>(static_cast<int>(Reduction::MostRepresented))
+                       : readWord(parser, QStringLiteral("mode"), wordsOf(ReductionWords));
+    if (!mode)
+        return mode.error();
+    image.reduction = static_cast<Reduction>(mode.value());
+    return image;
+}
+
+Result<std::optional<CacheSettings>> readCache(const QCommandLineParser &parser,
+                                               const BuildingsMeasures &measures)
+{
+    const QStringList modes = wordsOf(buildings::CacheModes);
+    const Result<int> mode = readWord(parser, QStringLiteral("cache"), modes);
+    if (!mode)
+        return mode.error();
+    if (mode.value() > 0)
+        return std::optional(CacheSettings{modes.at(mode.value()),
+                                           parser.isSet(QStringLiteral("delayed-write")),
+                                           measures.cacheCapacity});
+    for (const char *option : {"delayed-write", "cache-capacity"}) {
+        if (parser.isSet(QLatin1String(option)))
+            return usage(QStringLiteral("--%1 needs a --cache").arg(QLatin1String(option)));
+    }
+    return std::optional<CacheSettings>();
+}
+
+Result<TexbTextures> readTextures(const QCommandLineParser &parser,
+                                  const BuildingsMeasures &measures)
+{
+    TexbTextures textures;
+    const Result<QString> edges = readColor(parser, QStringLiteral("edge-color"), EdgeColor, false);
+    if (!edges)
+        return edges.error();
+    textures.edgeColor = edges.value();
+    textures.forceEdgeCreation = parser.isSet(QStringLiteral("force-edges"));
+    textures.processComplexBuildings = !parser.isSet(QStringLiteral("no-complex-buildings"));
+    const QStringList compressions = wordsOf(buildings::Compressions);
+    const Result<int> compression = readWord(parser, QStringLiteral("compression"), compressions);
+    if (!compression)
+        return compression.error();
+    if (compression.value() > 0)
+        textures.compression = compressions.at(compression.value());
+    if (parser.isSet(QStringLiteral("buffer")))
+        textures.bufferValue = measures.buffer;
+    if (parser.isSet(QStringLiteral("dilatation")))
+        textures.dilatationValue = measures.dilatation;
+    const QStringList filters = wordsOf(buildings::MagFilters);
+    const Result<int> filter = readWord(parser, QStringLiteral("magnify"), filters);
+    if (!filter)
+        return filter.error();
+    textures.magFilter = filters.at(filter.value());
+    return textures;
+}
+
+/// The look without its textures.
+Result<buildings::TexturedLook> readLook(const QCommandLineParser &parser,
+                                         const BuildingsMeasures &measures)
+{
+    const Result<QString> walls = readColor(parser, QStringLiteral("wall-color"), WallColor, true);
+    const Result<QString> roofs = readColor(parser, QStringLiteral("roof-color"), RoofColor, true);
+    const auto cache = readCache(parser, measures);
+    if (!walls)
+        return walls.error();
+    if (!roofs)
+        return roofs.error();
+    if (!cache)
+        return cache.error();
+    const bool usesMap = walls.value() == QLatin1String(ColorMapWord) ||
+                         roofs.value() == QLatin1String(ColorMapWord);
+    const bool hasImage = parser.isSet(QStringLiteral("image"));
+    if (usesMap && !hasImage)
+        return usage(QStringLiteral("colormap as a colour needs --image"));
+    if (hasImage && !usesMap)
+        return usage(QStringLiteral("--image colours these buildings only with --wall-color "
+                                    "colormap or --roof-color colormap"));
+    buildings::TexturedLook look;
+    look.cache = cache.value();
+    look.texturedVisibility = measures.texturedDistance;
+    look.wallColor = walls.value();
+    look.roofColor = roofs.value();
+    return look;
+}
+
+/// Where the images are and how they are laid.
+std::optional<Error> readTextureChoice(const QCommandLineParser &parser,
+                                       const BuildingsMeasures &measures, BuildingsRequest &request)
+{
+    constexpr TexbSubtype subtypes[] = {TexbSubtype::Roofs, TexbSubtype::Walls,
+                                        TexbSubtype::Storeys};
+    TextureChoice &choice = request.textures;
+    choice.files = parser.values(QStringLiteral("texture"));
+    choice.templateFile = parser.value(QStringLiteral("textures"));
+    choice.filter = parser.value(QStringLiteral("filter"));
+    if (choice.files.contains(QString()) ||
+        (choice.files.isEmpty() && choice.templateFile.isEmpty()))
+        return usage(QStringLiteral("--texture and --textures need a value"));
+    const Result<int> structure =
+        readWord(parser, QStringLiteral("structure"), wordsOf(StructureWords));
+    if (!structure)
+        return structure.error();
+    choice.structure = static_cast<buildings::DataStructure>(structure.value());
+    const Result<int> place =
+        readWord(parser, QStringLiteral("texture-on"), wordsOf(buildings::TextureModes));
+    if (!place)
+        return place.error();
+    const Result<TexbTextures> textures = readTextures(parser, measures);
+    if (!textures)
+        return textures.error();
+    request.look->subtype = subtypes[place.value()];
+    request.look->textures = textures.value();
+    return std::nullopt;
+}
+
+} // namespace
+
+Result<BuildingsRequest> readBuildingsRequest(const QCommandLineParser &parser)
+{
+    BuildingsRequest request;
+    request.vector = parser.positionalArguments().value(0);
+    request.output = parser.value(QStringLiteral("output"));
+    if (request.output.isEmpty())
+        return usage(QStringLiteral("no output file given (-o OUT.lay)"));
+    request.layer = parser.value(QStringLiteral("layer"));
+    request.heightField = parser.value(QStringLiteral("height-field"));
+    request.terrain = parser.value(QStringLiteral("dtm"));
+    if (const auto error = checkNoData(parser, QStringLiteral("dtm-nodata")))
+        return *error;
+    if (parser.isSet(QStringLiteral("dtm-nodata")))
+        request.terrainNoData = parser.value(QStringLiteral("dtm-nodata"));
+    BuildingsMeasures measures;
+    if (const auto error = readNumberOptions(parser, buildingsNumbers(), measures))
+        return *error;
+    request.footprints.extrudedVisibility = measures.distance;
+    request.footprints.tileSize = measures.tileSize;
+    request.footprints.skirtHeight = measures.skirt;
+    request.footprints.checkClockwise = parser.isSet(QStringLiteral("check-clockwise"));
+
+    if (const auto error = checkCompanions(parser))
+        return *error;
+    if (parser.isSet(QStringLiteral("image"))) {
+        const Result<RasterColoring> image = readImage(parser);
+        if (!image)
+            return image.error();
+        request.image = image.value();
+    }
+    if (!hasLook(parser))
+        return request;
+    const Result<buildings::TexturedLook> look = readLook(parser, measures);
+    if (!look)
+        return look.error();
+    request.look = look.value();
+    if (hasTextures(parser)) {
+        if (const auto error = readTextureChoice(parser, measures, request))
+            return *error;
+    }
+    return request;
+}
+
+} // namespace vlt::batch

@@ -1,0 +1,111 @@
+#pragma once
+
+#include "gui/AnsweredBoxes.h"
+#include "gui/DropOnWidget.h"
+#include "platform/Settings.h"
+#include "wizard/base/BasePage.h"
+#include "wizard/base/DraggableIcon.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSettings>
+#include <QSpinBox>
+#include <QTemporaryDir>
+#include <QTest>
+
+/// What the tests of the pages share on which buildings become a layer.
+namespace layerpage {
+
+using namespace Qt::StringLiterals;
+
+inline const QByteArray Grid = "ncols 2\nnrows 2\nxllcorner 0\nyllcorner 0\ncellsize 10\n"
+                               "NODATA_value -9999\n1 2\n3 4\n";
+
+/// "key=value key=value ..."
+inline QVariantMap values(const QString &text)
+{
+    QVariantMap map;
+    for (const QString &pair : text.split(u' '))
+        map.insert(pair.section(u'=', 0, 0), pair.section(u'=', 1));
+    return map;
+}
+
+inline void remember(const QString &group, const QVariantMap &values)
+{
+    const auto settings = vlt::platform::wizardSettings();
+    for (auto value = values.cbegin(); value != values.cend(); ++value)
+        settings->setValue(group + u'/' + value.key(), value.value());
+}
+
+/// What the settings hold of a group otherwise than expected, "key=value" each.
+inline QStringList otherThan(const QString &group, const QVariantMap &expected)
+{
+    const auto settings = vlt::platform::wizardSettings();
+    settings->beginGroup(group);
+    QStringList others;
+    for (auto value = expected.cbegin(); value != expected.cend(); ++value) {
+        const QString stored = settings->value(value.key()).toString();
+        if (stored != value.value().toString())
+            others << value.key() + u'=' + stored;
+    }
+    return others;
+}
+
+inline QString contents(const QString &path)
+{
+    QFile file(path);
+    return !path.isEmpty() && file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll())
+                                                             : QString();
+}
+
+/// Writes a file into a folder; its path, empty where that fails.
+inline QString write(const QTemporaryDir &dir, const QString &name, const QByteArray &text)
+{
+    QFile file(dir.filePath(name));
+    return QDir().mkpath(QFileInfo(file).absolutePath()) && file.open(QIODevice::WriteOnly) &&
+                   file.write(text) == text.size()
+               ? file.fileName()
+               : QString();
+}
+
+/// A page as it is when it is entered from the page before.
+template<typename Base>
+class Page : public Base
+{
+public:
+    Page(const QString &installation, const SharedParameters &published)
+        : Base(nullptr, shared, installation, u"en"_s)
+    {
+        shared = published;
+        Base::initializePage();
+        Base::resize(1000, 600);
+        Base::show();
+    }
+
+    template<typename Widget>
+    Widget *child(const QString &name)
+    {
+        return Base::template findChild<Widget *>(name);
+    }
+    QComboBox *combo(const QString &name) { return child<QComboBox>(name); }
+    QLineEdit *line(const QString &name) { return child<QLineEdit>(name); }
+    void choose(const QString &name, int index) { combo(name)->setCurrentIndex(index); }
+    void check(const QString &name, bool on) { child<QCheckBox>(name)->setChecked(on); }
+    void press(const QString &name) { child<QPushButton>(name)->click(); }
+    QString text(const QString &label) { return child<QLabel>(label)->text(); }
+    QString message() { return text(u"m_pwLblScene"_s); }
+    DraggableIcon *icon() { return child<DraggableIcon>(u"m_pwDragIcon"_s); }
+    QString layer() { return contents(icon()->layerFile()); }
+    QString document()
+    {
+        return contents(QString(icon()->layerFile()).replace(u".lay"_s, u".texb"_s));
+    }
+
+    SharedParameters shared;
+};
+
+} // namespace layerpage

@@ -1,0 +1,93 @@
+#pragma once
+
+#include "buildings/Town.h"
+
+#include <gdal_priv.h>
+
+#include <QString>
+
+#include <array>
+#include <functional>
+#include <vector>
+
+/// What the tests of towns share.
+namespace towntest {
+
+using namespace vlt::scene;
+
+using Ring = std::vector<osg::Vec2d>;
+using Rings = std::vector<Ring>;
+
+constexpr float BaseM = 30;
+
+/// Adds a building; rings but the first are its holes, or more parts.
+inline void add(Town &town, const Rings &rings, float heightM = 12, bool areParts = false)
+{
+    Footprints &shapes = town.footprints;
+    const auto begin = static_cast<std::uint32_t>(shapes.rings.size());
+    for (const Ring &ring : rings) {
+        const auto first = static_cast<std::uint32_t>(shapes.places.size());
+        shapes.places.insert(shapes.places.end(), ring.begin(), ring.end());
+        town.places.insert(town.places.end(), ring.begin(), ring.end());
+        shapes.rings.push_back({first, static_cast<std::uint32_t>(shapes.places.size()),
+                                !areParts && shapes.rings.size() > begin});
+    }
+    shapes.buildings.push_back({begin, static_cast<std::uint32_t>(shapes.rings.size()), heightM});
+    town.baseM.push_back(BaseM);
+    town.wallColors.push_back({10, 20, 30, 0});
+    town.roofColors.push_back({200, 100, 50, 255});
+}
+
+inline Ring square(double x, double y, double side)
+{
+    return {{x, y}, {x + side, y}, {x + side, y + side}, {x, y + side}};
+}
+
+inline Ring turned(Ring ring)
+{
+    std::reverse(ring.begin(), ring.end());
+    return ring;
+}
+
+/// A GeoTIFF.
+struct Image
+{
+    int columns = 1;
+    int rows = 1;
+    int bands = 1;
+    GDALDataType type = GDT_Byte;
+    osg::Vec2d corner;       ///< of the lowest, leftmost pixel
+    double pixel = 10;       ///< its width and height
+    const char *system = ""; ///< empty: none
+    std::function<double(int column, int row, int band)> value = {};
+    std::function<void(GDALDataset &)> finish = {}; ///< before the values; may be empty
+};
+
+inline std::string make(const QString &path, const Image &image)
+{
+    GDALAllRegister();
+    const GDALDatasetUniquePtr made(GetGDALDriverManager()->GetDriverByName("GTiff")->Create(
+        path.toUtf8().constData(), image.columns, image.rows, image.bands, image.type, nullptr));
+    std::array<double, 6> placing{
+        image.corner.x(), image.pixel, 0, image.corner.y() + image.pixel * image.rows, 0,
+        -image.pixel};
+    OGRSpatialReference srs;
+    if (!made || made->SetGeoTransform(placing.data()) != CE_None ||
+        (*image.system && (srs.SetFromUserInput(image.system) != OGRERR_NONE ||
+                           made->SetSpatialRef(&srs) != CE_None)))
+        qFatal("no image");
+    if (image.finish)
+        image.finish(*made);
+    for (int band = 1; band <= image.bands; ++band) {
+        std::vector<double> values;
+        for (int i = 0; i < image.columns * image.rows; ++i)
+            values.push_back(image.value(i % image.columns, i / image.columns, band));
+        if (made->GetRasterBand(band)->RasterIO(GF_Write, 0, 0, image.columns, image.rows,
+                                                values.data(), image.columns, image.rows,
+                                                GDT_Float64, 0, 0, nullptr) != CE_None)
+            qFatal("no pixels");
+    }
+    return path.toStdString();
+}
+
+} // namespace towntest
