@@ -71,7 +71,7 @@ osg::ref_ptr<osg::StateSet> makeEdgeState()
 {
     osg::ref_ptr<osg::StateSet> state = new osg::StateSet;
     state->setMode(GL_LIGHTING, osg::StateAttribute::OFF);
-    state->setAttributeAndModes(new osg::LineWidth(1.5F));
+    state->setAttributeAndModes(new osg::LineWidth(1));
     return state;
 }
 

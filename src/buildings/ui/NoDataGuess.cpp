@@ -125,9 +125,10 @@ QString guessNoData(QWidget *disabled, const QString &path, QProgressBar *bar, c
         return text::f6(guessed->value());
     const QString &key = guessed->error().key;
     if (!key.isEmpty())
-        warnOfRaster(disabled, key == QLatin1String("MESS_ERR_NO_BANDS")
-                                   ? RasterProblem::NoBands
-                                   : RasterProblem::CannotOpen);
+        warnOfRaster(disabled,
+                     key == QLatin1String("MESS_ERR_NO_BANDS") ? RasterProblem::NoBands
+                                                               : RasterProblem::CannotOpen,
+                     path);
     return {};
 }
 

@@ -19,9 +19,11 @@ QString textOf(RasterProblem problem)
                       "The image-based coloring mode works only with one-band grey images");
 }
 
-void warnOfRaster(QWidget *parent, RasterProblem problem)
+void warnOfRaster(QWidget *parent, RasterProblem problem, const QString &path,
+                  const QString &reason)
 {
-    messages::warning(parent, {{}, textOf(problem), {}}, dico_label("MESS_ATTENTION", "Warning"));
+    messages::warning(parent, {{}, textOf(problem), {}}, dico_label("MESS_ATTENTION", "Warning"),
+                      reason.isEmpty() ? path : path + QLatin1Char('\n') + reason);
 }
 
 } // namespace vlt::buildings

@@ -12,7 +12,10 @@ enum class RasterProblem { CannotOpen, NoBands, NotOneBand };
 /// What a box tells of it.
 QString textOf(RasterProblem problem);
 
-/// A box with the title "Warning".
-void warnOfRaster(QWidget *parent, RasterProblem problem);
+/// A box with the title "Warning" that names the file.
+///
+/// @param reason  the library's; may be empty
+void warnOfRaster(QWidget *parent, RasterProblem problem, const QString &path,
+                  const QString &reason = {});
 
 } // namespace vlt::buildings

@@ -456,9 +456,10 @@ void VltAddTexbFirstPage::showTerrain(const QString &path, const TerrainResult &
             tr("%1: %2", "MESS_FILE_REASON").arg(QFileInfo(path).fileName(), terrain.error().text));
 
     if (!terrain)
-        buildings::warnOfRaster(this, buildings::RasterProblem::CannotOpen);
+        buildings::warnOfRaster(this, buildings::RasterProblem::CannotOpen, path,
+                                terrain.error().text);
     else if (!isUsable)
-        buildings::warnOfRaster(this, buildings::RasterProblem::NoBands);
+        buildings::warnOfRaster(this, buildings::RasterProblem::NoBands, path);
 }
 
 void VltAddTexbFirstPage::showSummaries()

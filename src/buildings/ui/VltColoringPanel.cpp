@@ -253,14 +253,14 @@ void VltColoringPanel::openImage(const QString &path, bool quiet)
         if (m_ui->m_pwCbSubdatsets->count() > 0)
             judgeSubdataset(quiet);
         else
-            judge(summary, quiet);
+            judge(summary, absolute, quiet);
     }
     Q_EMIT changed();
 }
 
 /// Takes an image as usable or not. A plain one that is not is left again: nothing else of the file
 /// could be chosen.
-void VltColoringPanel::judge(const std::optional<Summary> &summary, bool quiet)
+void VltColoringPanel::judge(const std::optional<Summary> &summary, const QString &name, bool quiet)
 {
     const bool isOpen = summary && summary->ok();
     m_isUsable = isOpen && summary->value().bandCount == 1;
@@ -272,16 +272,17 @@ void VltColoringPanel::judge(const std::optional<Summary> &summary, bool quiet)
         return;
     const QScopedValueRollback busy(m_isBusy, true);
     if (!isOpen)
-        buildings::warnOfRaster(this, buildings::RasterProblem::CannotOpen);
+        buildings::warnOfRaster(this, buildings::RasterProblem::CannotOpen, name,
+                                summary->error().text);
     else if (summary->value().bandCount == 0)
-        buildings::warnOfRaster(this, buildings::RasterProblem::NoBands);
+        buildings::warnOfRaster(this, buildings::RasterProblem::NoBands, name);
     else
-        buildings::warnOfRaster(this, buildings::RasterProblem::NotOneBand);
+        buildings::warnOfRaster(this, buildings::RasterProblem::NotOneBand, name);
 }
 
 void VltColoringPanel::judgeSubdataset(bool quiet)
 {
-    judge(readSummary(m_openedImage, subdataset()), quiet);
+    judge(readSummary(m_openedImage, subdataset()), subdataset(), quiet);
 }
 
 void VltColoringPanel::currentDatasetChanged()

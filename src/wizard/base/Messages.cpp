@@ -39,9 +39,9 @@ void critical(QWidget *parent, const Error &error, const QString &title, const Q
     tell(QMessageBox::Critical, parent, textOf(error), title, detail);
 }
 
-void warning(QWidget *parent, const Error &error, const QString &title)
+void warning(QWidget *parent, const Error &error, const QString &title, const QString &detail)
 {
-    tell(QMessageBox::Warning, parent, textOf(error), title);
+    tell(QMessageBox::Warning, parent, textOf(error), title, detail);
 }
 
 bool confirmed(QWidget *parent, const QString &question)

@@ -21,8 +21,8 @@ QString errorTitle();
 void critical(QWidget *parent, const Error &error, const QString &title = errorTitle(),
               const QString &detail = {});
 
-/// A warning with one OK button.
-void warning(QWidget *parent, const Error &error, const QString &title);
+/// A warning with one OK button; `detail` as above.
+void warning(QWidget *parent, const Error &error, const QString &title, const QString &detail = {});
 
 /// A question box with an empty title, the buttons Yes and No and no default button; true on Yes.
 bool confirmed(QWidget *parent, const QString &question);
