@@ -6,8 +6,8 @@ source tools/prepare.sh
 
 usage="usage: ./run.sh [--layers]
 Installs what is missing, builds, lays the installation tree in build/install and opens the wizard on the sample
-project. With --layers, or where there is no display, it makes the sample project's layers of sites, links and buildings and pictures
-of them with vltlayers instead.
+project. With --layers, or where there is no display, it makes the sample project's layers of sites, links and buildings
+and pictures of them with vltlayers instead.
 A second run takes seconds."
 
 onlyLayers=
@@ -71,8 +71,9 @@ makeLayers() {
 
 openWizard() {
     echo "Opening the wizard. Try:"
-    echo "  1. Add site file (or Add link file), then Next: the sample project is chosen already."
-    echo "  2. Choose a table of $samples, such as sites.csv (or links.csv); the icon at the lower right becomes the layer."
+    echo "  1. Choose a kind of layer, then Next: the sample project is chosen already."
+    echo "  2. Sites, links: choose a table of $samples, such as sites.csv or links.csv. Buildings: Next,"
+    echo "     then the image coverage/signal_level_dBm.tif. The icon at the lower right becomes the layer."
     echo "  3. Drag the icon onto a folder of your file manager, or copy it with Ctrl+C. Quit ends the program."
     VLT_CURRENT_PROJECT=$samples/city.gvw "$install/VltTelecomLayers"
 }
