@@ -91,19 +91,22 @@ Result<ViewPoint> viewOfTown(osg::Node &scene, qint64 buildings, double aspect)
         return Error{QStringLiteral("MESS_SNAP_EMPTY"), QStringLiteral("the scene is empty"), {}};
     const Subject subject(town, aspect, UsualMargin, steepAxes());
     constexpr double fieldStepDeg = 8;
-    for (double field = UsualFieldDeg; field <= WidestFieldDeg; field += fieldStepDeg) {
+    double field = UsualFieldDeg;
+    while (field <= WidestFieldDeg) {
         const ViewPoint view = subject.from(subject.distance(field), field);
         if (isWhole(scene, view.eye))
             return view;
+        field += fieldStepDeg;
     }
     constexpr double nearer = 0.85;
     constexpr double beyondMiddle = 0.6; // of the way there, so that something lies behind it
     constexpr double nearestM = 10;
-    for (double distance = subject.distance(UsualFieldDeg); distance > nearestM;
-         distance *= nearer) {
+    double distance = subject.distance(UsualFieldDeg);
+    while (distance > nearestM) {
         const ViewPoint view = subject.from(distance, UsualFieldDeg);
         if (reachesMiddle(extentsFrom(scene, deferred, view.eye), view.target))
             return subject.from(distance * beyondMiddle, UsualFieldDeg);
+        distance *= nearer;
     }
     return Error{QStringLiteral("MESS_SNAP_TOO_FAR"),
                  QStringLiteral("all is in view only from where nothing is drawn any more; "

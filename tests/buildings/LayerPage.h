@@ -12,6 +12,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QSettings>
 #include <QSpinBox>
 #include <QTemporaryDir>
@@ -62,6 +63,15 @@ inline QString contents(const QString &path)
                                                              : QString();
 }
 
+/// All attributes of a document in their order, "name=value name=value ...".
+inline QString attributes(const QString &document)
+{
+    QStringList attributes;
+    for (const auto &match : QRegularExpression(u"\\w+=\"[^\"]*\""_s).globalMatch(document))
+        attributes << match.captured().remove(u'"');
+    return attributes.join(u' ');
+}
+
 /// Writes a file into a folder; its path, empty where that fails.
 inline QString write(const QTemporaryDir &dir, const QString &name, const QByteArray &text)
 {
@@ -84,6 +94,7 @@ public:
         Base::initializePage();
         Base::resize(1000, 600);
         Base::show();
+        Base::activateWindow();
     }
 
     template<typename Widget>

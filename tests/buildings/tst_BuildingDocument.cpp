@@ -1,7 +1,6 @@
 #include "buildings/BuildingDocument.h"
 #include "buildings/BuildingLayer.h"
 
-#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
@@ -11,7 +10,8 @@ using namespace vlt::buildings;
 
 namespace {
 
-const FootprintSettings Town{u"/data/town.shp"_s, u"town"_s, u"HEIGHT"_s, 250, 2000, 5, true};
+// Values are written as they are.
+const FootprintSettings Town{u"/a&b/\"c\".shp"_s, u"%2 %1"_s, u"<h>%9"_s, 0.5, 1234567, 0.1, true};
 const TerrainSettings Terrain{u"/data/dem.tif"_s, u"-32768"_s};
 const RasterColoring Signal{u"/c/dbm.tif"_s,    u"/maps/signal.txt"_s, Reduction::Maximum,
                             /*stretched*/ true, /*interpolated*/ true, {}};
@@ -19,17 +19,17 @@ const RasterColoring Signal{u"/c/dbm.tif"_s,    u"/maps/signal.txt"_s, Reduction
 // "~" at the end of a line stands for the blank there.
 const QString Root = uR"(<?xml version="1.0" encoding="UTF-8"?><veltaroTexturedBuildings)"_s;
 const QString FirstLines = uR"(  <vector~
-    filename="/data/town.shp"
-    layer="town"
-    hfield="HEIGHT"
-    tileSize="250"
-    extrudedVisibility="2000"
+    filename="/a&b/"c".shp"
+    layer="%2 %1"
+    hfield="<h>%9"
+    tileSize="0.5"
+    extrudedVisibility="1.23457e+06"
 )"_s;
 const QString TwoColors = uR"(    texturedVisibility="800.5"
     wallColor="#C0C0C0"
     roofColor="#A05030"
 )"_s;
-const QString LastLines = uR"(    skirtHeight="5"
+const QString LastLines = uR"(    skirtHeight="0.1"
     checkClockwise="true"
   />
   <elevation~
@@ -44,15 +44,9 @@ const QString Textures = uR"(  <textures~
     edgeColor="#000000"
     forceEdgeCreation="true"
     processComplexBuildings="false"
-%1    magFilter="LINEAR"
+OPTIONS    magFilter="LINEAR"
   >
-%2  </textures>
-)"_s;
-const QString Options = uR"(   compression="DXT1"
-    bufferValue="2.5"
-    dilatationValue="1"
-)"_s;
-const QString Images = uR"(    <texture~
+    <texture~
       filename="/t/h 1.5.png"
       height="1.5"
     />
@@ -60,6 +54,11 @@ const QString Images = uR"(    <texture~
       filename="HDF5:"/t/a.h5"://b"
       height="1.23457e+06"
     />
+  </textures>
+)"_s;
+const QString Options = uR"(   compression="DXT1"
+    bufferValue="2.5"
+    dilatationValue="1"
 )"_s;
 
 const QString ColoredText =
@@ -68,37 +67,12 @@ const QString ColoredText =
     LastLines + End;
 const QString PlainText =
     Root + u"~\n  cache=\"none\">\n"_s + FirstLines + TwoColors + LastLines + End;
+const QString TexturedText = Root +
+                             u"~\n  cache=\"textured\"~\n  delayedCacheWrite=\"true\"~\n"
+                             "  delayedCacheWriteCapacity=\"1000000\">\n"_s +
+                             FirstLines + TwoColors + LastLines + Textures + End;
 
-QString texturedText(bool delayed, const QString &options, const QString &images)
-{
-    return Root +
-           u"~\n  cache=\"textured\"~\n  delayedCacheWrite=\"%1\"~\n"
-           "  delayedCacheWriteCapacity=\"1000000\">\n"_s.arg(delayed ? u"true"_s : u"false"_s) +
-           FirstLines + TwoColors + LastLines + Textures.arg(options, images) + End;
-}
-
-Texb plainTexb()
-{
-    return {{}, Town, 800.5, u"#C0C0C0"_s, u"#A05030"_s, Terrain, {}};
-}
-
-Texb texturedTexb()
-{
-    Texb document = plainTexb();
-    document.cache = CacheSettings{u"textured"_s, true, 1000000};
-    document.textures = TexbTextures{u"storeys"_s,
-                                     u"#000000"_s,
-                                     true,
-                                     false,
-                                     u"DXT1"_s,
-                                     2.5,
-                                     1.,
-                                     u"LINEAR"_s,
-                                     {{u"/t/h 1.5.png"_s, 1.5, 0, {}, true, {}},
-                                      {u"/t/unused.png"_s, 3, 0, {}, false, {}},
-                                      {u"HDF5:\"/t/a.h5\"://b"_s, 1234567, 1, {}, true, {}}}};
-    return document;
-}
+const Texb Plain{{}, Town, 800.5, u"#C0C0C0"_s, u"#A05030"_s, Terrain, {}};
 
 QByteArray contentOf(const QString &path)
 {
@@ -121,28 +95,22 @@ private Q_SLOTS:
             QTest::newRow(name) << actual << wanted.replace(u"~\n"_s, u" \n"_s);
         };
         row("coloured", writeColoredTexbDocument({Town, Terrain, Signal}), ColoredText);
-        row("plain", writeTexbDocument(plainTexb()), PlainText);
-        Texb document = texturedTexb();
-        row("textured", writeTexbDocument(document), texturedText(true, Options, Images));
+        row("plain", writeTexbDocument(Plain), PlainText);
 
-        document.cache->delayedWrite = false;
+        Texb document = Plain;
+        document.cache = CacheSettings{u"textured"_s, true, 1000000};
+        const QList<FileEntry> images{{u"/t/h 1.5.png"_s, 1.5, 0, {}, true, {}},
+                                      {u"/t/unused.png"_s, 3, 0, {}, false, {}},
+                                      {u"HDF5:\"/t/a.h5\"://b"_s, 1234567, 1, {}, true, {}}};
+        document.textures = TexbTextures{u"storeys"_s, u"#000000"_s, true,        false, u"DXT1"_s,
+                                         2.5,          1.,           u"LINEAR"_s, images};
+        row("textured", writeTexbDocument(document),
+            QString(TexturedText).replace(u"OPTIONS"_s, Options));
         document.textures->compression.reset();
         document.textures->bufferValue.reset();
         document.textures->dilatationValue.reset();
-        document.textures->images.clear();
-        row("textured without options", writeTexbDocument(document), texturedText(false, {}, {}));
-
-        const FootprintSettings odd{
-            u"/a&b/\"c\".shp"_s, u"%2 %1"_s, u"<h>%9"_s, 0.5, 1234567, 0.1, false};
-        QString oddText = ColoredText;
-        oddText.replace(u"\"/data/town.shp\""_s, u"\"/a&b/\"c\".shp\""_s)
-            .replace(u"\"town\""_s, u"\"%2 %1\""_s)
-            .replace(u"\"HEIGHT\""_s, u"\"<h>%9\""_s)
-            .replace(u"\"250\""_s, u"\"0.5\""_s)
-            .replace(u"\"2000\""_s, u"\"1.23457e+06\""_s)
-            .replace(u"skirtHeight=\"5\""_s, u"skirtHeight=\"0.1\""_s)
-            .replace(u"\"true\""_s, u"\"false\""_s);
-        row("values as they are", writeColoredTexbDocument({odd, Terrain, Signal}), oddText);
+        row("textured without options", writeTexbDocument(document),
+            QString(TexturedText).remove(u"OPTIONS"_s));
     }
 
     void writesDocuments()
@@ -152,44 +120,29 @@ private Q_SLOTS:
         QCOMPARE(actual.split(u'\n'), wanted.split(u'\n')); // names the line that differs
     }
 
-    void namesColorsOfARaster_data()
-    {
-        QTest::addColumn<QString>("image");
-        QTest::addColumn<QString>("wantedImage");
-        QTest::addColumn<QString>("map");
-        QTest::addColumn<QString>("wantedMap");
-        const auto row = [](const char *reduction, const RasterColoring &coloring,
-                            const char *image, const char *map) {
-            QTest::newRow(reduction)
-                << imageColor(coloring) << QString::fromLatin1(image) << colorMapColor(coloring)
-                << u"cmap:datasource=r;"_s + QString::fromLatin1(map) + u";band=1;type="_s +
-                       QString::fromLatin1(reduction);
-        };
-        const QString raster = u"r"_s;
-        const QString map = u"%1"_s;
-        row("minimum", {raster, map, Reduction::Minimum, true, false, {}},
-            "IMAGE;r;%1;minimum;stretched;colorrange",
-            "cmap=%1;stretchcmap=TRUE;interpolatecmap=FALSE");
-        row("maximum", {raster, map, Reduction::Maximum, false, true, u"-9999"_s},
-            "IMAGE;r;%1;maximum;absolute;interpolation;-9999",
-            "nd=-9999;cmap=%1;stretchcmap=FALSE;interpolatecmap=TRUE");
-        row("average", {raster, map, Reduction::Average, true, true, u"%3"_s},
-            "IMAGE;r;%1;average;stretched;interpolation;%3",
-            "nd=%3;cmap=%1;stretchcmap=TRUE;interpolatecmap=TRUE");
-        row("mostRepresented", {raster, map, Reduction::MostRepresented, false, false, {}},
-            "IMAGE;r;%1;mostRepresented;absolute;colorrange",
-            "cmap=%1;stretchcmap=FALSE;interpolatecmap=FALSE");
-    }
-
     void namesColorsOfARaster()
     {
-        QFETCH(QString, image);
-        QFETCH(QString, map);
-        QTEST(image, "wantedImage");
-        QTEST(map, "wantedMap");
+        const auto colors = [](Reduction reduction, bool stretched, bool interpolated,
+                               const QString &noData) {
+            const RasterColoring c{u"r"_s, u"%1"_s, reduction, stretched, interpolated, noData};
+            return imageColor(c) + u' ' + colorMapColor(c);
+        };
+
+        QCOMPARE(colors(Reduction::Minimum, true, false, {}),
+                 u"IMAGE;r;%1;minimum;stretched;colorrange cmap:datasource=r;cmap=%1;"
+                 "stretchcmap=TRUE;interpolatecmap=FALSE;band=1;type=minimum"_s);
+        QCOMPARE(colors(Reduction::Maximum, false, true, u"-9999"_s),
+                 u"IMAGE;r;%1;maximum;absolute;interpolation;-9999 cmap:datasource=r;nd=-9999;"
+                 "cmap=%1;stretchcmap=FALSE;interpolatecmap=TRUE;band=1;type=maximum"_s);
+        QCOMPARE(colors(Reduction::Average, true, true, u"%3"_s),
+                 u"IMAGE;r;%1;average;stretched;interpolation;%3 cmap:datasource=r;nd=%3;"
+                 "cmap=%1;stretchcmap=TRUE;interpolatecmap=TRUE;band=1;type=average"_s);
+        QCOMPARE(colors(Reduction::MostRepresented, false, false, {}),
+                 u"IMAGE;r;%1;mostRepresented;absolute;colorrange cmap:datasource=r;cmap=%1;"
+                 "stretchcmap=FALSE;interpolatecmap=FALSE;band=1;type=mostRepresented"_s);
     }
 
-    void fillsTheLayerTemplate()
+    void fillsLayerTemplates()
     {
         const QTemporaryDir dir;
         const QString layerTemplate = dir.filePath(u"t.lay"_s);
@@ -208,42 +161,17 @@ private Q_SLOTS:
         QCOMPARE(contentOf(output),
                  u"Bât \"&\" %1|Bât \"&\" %1|__title__|rf_storeys|TEXB:/tmp/a b.c/doc.texb\n"
                  "651234.568 -6789012.3\n<p>rf_storeys</p>\nx\né"_s.toUtf8());
-    }
-
-    void saysWhichFileKeepsALayerFromBeingMade()
-    {
-        const QTemporaryDir dir;
-        const QString output = dir.filePath(u"out.lay"_s);
-        const QString missing = dir.filePath(u"no.lay"_s);
-        const auto shared = vlt::platform::Access::Shared;
-
-        const auto withoutTemplate = createTexbLayerFile(output, missing, {}, shared);
-        QCOMPARE(withoutTemplate.error().key, u"MESS_MISSING_CONF_FILE"_s);
-        QCOMPARE(withoutTemplate.error().display(),
-                 u"A configuration file is missing\n"_s + missing);
-        QVERIFY(QDir(dir.path()).isEmpty());
-
-        const QString shipped = texbTemplatePath(QStringLiteral(VLT_INSTALLATION));
-        const auto unwritable = createTexbLayerFile(dir.path(), shipped, {}, shared);
-        QCOMPARE(unwritable.error().display(), u"Can't create the layer file\n"_s + dir.path());
-        QCOMPARE(unwritable.error().key, u"MESS_CANT_CREATE_LAYER"_s);
-    }
-
-    void theShippedTemplateTakesEveryValue()
-    {
-        const QTemporaryDir dir;
-        const QString output = dir.filePath(u"out.lay"_s);
-        const TexbLayer layer{u"A"_s, u"B"_s, 1, 2, TexbSubtype::Colored, u"C"_s};
 
         QVERIFY(createTexbLayerFile(output, texbTemplatePath(QStringLiteral(VLT_INSTALLATION)),
                                     layer, vlt::platform::Access::Shared));
-
-        const QByteArray text = contentOf(output);
-        QVERIFY(!text.contains("__"));
-        for (const char *part : {"<title><![CDATA[A]]></title>", "<source><![CDATA[B]]></source>",
-                                 "<subtype>rf_colored_buildings</subtype>", "<xCenter>1</xCenter>",
-                                 "<yCenter>2</yCenter>", "<![CDATA[C]]></description>"})
-            QVERIFY2(text.contains(part), part);
+        const QString text = QString::fromUtf8(contentOf(output));
+        QVERIFY(!text.contains(u"__"_s));
+        for (const QString &part :
+             {u"<title><![CDATA[Bât \"&\" %1]]></title>"_s,
+              u"<source><![CDATA[TEXB:/tmp/a b.c/doc.texb]]></source>"_s,
+              u"<subtype>rf_storeys</subtype>"_s, u"<xCenter>651234.568</xCenter>"_s,
+              u"<yCenter>-6789012.3</yCenter>"_s, u"<p>rf_storeys</p>\nx]]></description>"_s})
+            QVERIFY2(text.contains(part), qPrintable(part));
     }
 };
 

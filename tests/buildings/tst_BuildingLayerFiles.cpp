@@ -17,65 +17,9 @@ namespace {
 const QByteArray Template = "__TITLE__|__SUBTYPE__|__TEXB_URL__|__X_CENTER__|__Y_CENTER__|"
                             "__DESCRIPTION__\n";
 
-// "~" at the end of a line stands for the blank there.
-const QByteArray ColoredDocument =
-    R"(<?xml version="1.0" encoding="UTF-8"?><veltaroTexturedBuildings cache="none">
-  <vector~
-    filename="/d/"a" & b.shp"
-    layer="quarter"
-    hfield="H"
-    tileSize="250"
-    extrudedVisibility="2000"
-    wallColor="IMAGE;/d/dbm.tif;/maps/two.txt;average;absolute;colorrange;-1"
-    skirtHeight="5"
-    checkClockwise="false"
-  />
-  <elevation~
-    source="dtm"
-    filename="/d/dem.tif"
-    nodata="-9999"
-  />
-</veltaroTexturedBuildings>
-)";
-const QByteArray TexturedDocument =
-    R"(<?xml version="1.0" encoding="UTF-8"?><veltaroTexturedBuildings~
-  cache="none">
-  <vector~
-    filename="/d/"a" & b.shp"
-    layer="quarter"
-    hfield="H"
-    tileSize="250"
-    extrudedVisibility="2000"
-    texturedVisibility="1000"
-    wallColor="#102030"
-    roofColor="cmap:datasource=/d/dbm.tif;nd=-1;cmap=/maps/two.txt;stretchcmap=FALSE;interpolatecmap=FALSE;band=1;type=average"
-    skirtHeight="5"
-    checkClockwise="false"
-  />
-  <elevation~
-    source="dtm"
-    filename="/d/dem.tif"
-    nodata="-9999"
-  />
-  <textures~
-    mode="storeys"
-    edgeColor="#404040"
-    forceEdgeCreation="false"
-    processComplexBuildings="false"
-    magFilter="none"
-  >
-    <texture~
-      filename="/t/h6.tif"
-      height="6"
-    />
-    <texture~
-      filename="/t/h1.tif"
-      height="1.5"
-    />
-  </textures>
-</veltaroTexturedBuildings>
-)";
-
+const FootprintSettings Footprints{
+    u"/d/\"a\" & b.shp"_s, u"quarter"_s, u"H"_s, 250, 2000, 5, false};
+const TerrainSettings Terrain{u"/d/dem.tif"_s, u"-9999"_s};
 const RasterColoring Signal{u"/d/dbm.tif"_s,     u"/maps/two.txt"_s,     Reduction::Average,
                             /*stretched*/ false, /*interpolated*/ false, u"-1"_s};
 
@@ -88,8 +32,6 @@ TexturedLook storeys()
 {
     TexbTextures textures;
     textures.mode = u"roofs"_s; // that of the subtype is written
-    textures.edgeColor = u"#404040"_s;
-    textures.magFilter = u"none"_s;
     textures.images = {image(u"/t/h6.tif"_s, 6), image(u"/t/no.tif"_s, 3, false),
                        image(u"/t/h1.tif"_s, 1.5)};
     return {{}, 1000, u"#102030"_s, colorMapColor(Signal), TexbSubtype::Storeys, textures};
@@ -121,9 +63,8 @@ private Q_SLOTS:
         m_dir = std::make_unique<QTemporaryDir>();
         put(path(u"addons/telecom/template/template_texb.lay"_s), Template);
         put(path(u"two.txt"_s), "0 red\n10 0 0 255\n");
-        m_input.source = {
-            u"/d/\"a\" & b.shp"_s, u"quarter"_s, u"H"_s, {u"/d/dem.tif"_s, u"-9999"_s},
-            651234.56789,          6758252,      {}};
+        m_input.source = {Footprints.file, Footprints.layer, u"H"_s, Terrain,
+                          651234.56789,    6758252,          {}};
         m_input.footprints = {{}, {}, {}, 250, 2000, 5, false};
         m_input.installDir = m_dir->path();
         m_input.legend = LegendInput{u"two & more"_s, {}};
@@ -135,7 +76,8 @@ private Q_SLOTS:
         const auto files = writeColoredLayer(path(u"out.lay"_s), m_input, Signal, Access::UserOnly);
 
         QVERIFY(files);
-        QCOMPARE(contentOf(path(u"out.texb"_s)), QByteArray(ColoredDocument).replace('~', ' '));
+        QCOMPARE(contentOf(path(u"out.texb"_s)),
+                 writeColoredTexbDocument({Footprints, Terrain, Signal}).toUtf8());
         const QImage legend(path(u"two & more_gradient.png"_s));
         QVERIFY(legend.width() > 100 && legend.width() % 2 == 0 &&
                 legend.height() % 2 == 0); // twice as fine as it is shown
@@ -159,7 +101,7 @@ private Q_SLOTS:
             writeTexturedLayer(path(u"out.lay"_s), m_input, storeys(), Access::Shared);
 
         QVERIFY(files);
-        QCOMPARE(contentOf(files.value().document), QByteArray(TexturedDocument).replace('~', ' '));
+        QVERIFY(contentOf(files.value().document).contains(" mode=\"storeys\"\n"));
         const QByteArray layer = contentOf(path(u"out.lay"_s));
         QVERIFY2(layer.startsWith("Buildings (quarter)|rf_storeys|TEXB:"), layer.constData());
         QVERIFY2(layer.contains("underline;\">Storeys</span><br/>Images: 2<br/>"
@@ -191,16 +133,15 @@ private Q_SLOTS:
     void tellsWhatImagesThereAre()
     {
         QFETCH(QList<double>, heights);
+        QFETCH(QString, wanted);
         QList<FileEntry> images;
         for (const double height : heights)
             images << image(u"/t/x.tif"_s, height);
-
         VltLanguageManager::getInstance().defaultSetup(
             {}, QString::fromUtf8(QTest::currentDataTag()), {});
 
         const QString text = texturedInfoText(TexbSubtype::Walls, images);
 
-        QFETCH(QString, wanted);
         QVERIFY2(text.endsWith(wanted), qPrintable(text));
     }
 
@@ -219,25 +160,26 @@ private Q_SLOTS:
     void namesFilesAfterTheLayer()
     {
         QFETCH(QString, layer);
-
         QTEST(filesOf(layer, m_input).document, "document");
     }
 
     void leavesFilesAsTheyWereAfterAFailure_data()
     {
         QTest::addColumn<QString>("blocked"); ///< a folder takes the place of this file
-        QTest::addColumn<QString>("key");
+        QTest::addColumn<QString>("text");
 
-        QTest::newRow("document") << u"out.texb"_s << u"MESS_CANT_CREATE_LAYER"_s;
-        QTest::newRow("legend") << u"two & more_gradient.png"_s << u"MESS_CANT_CREATE_LAYER"_s;
-        QTest::newRow("layer") << u"out.lay"_s << u"MESS_CANT_CREATE_LAYER"_s;
+        const QString cannot = u"Can't create the layer file\n"_s;
+        QTest::newRow("document") << u"out.texb"_s << cannot;
+        QTest::newRow("legend") << u"two & more_gradient.png"_s << cannot;
+        QTest::newRow("layer") << u"out.lay"_s << cannot;
         QTest::newRow("template") << u"addons/telecom/template/template_texb.lay"_s
-                                  << u"MESS_MISSING_CONF_FILE"_s;
+                                  << u"A configuration file is missing\n"_s;
     }
 
     void leavesFilesAsTheyWereAfterAFailure()
     {
         QFETCH(QString, blocked);
+        QFETCH(QString, text);
         QFile::remove(path(blocked));
         QVERIFY(QDir().mkpath(path(blocked)));
         for (const QByteArray &former : {QByteArray(), QByteArray("former")}) {
@@ -253,9 +195,8 @@ private Q_SLOTS:
                 writeTexturedLayer(path(u"out.lay"_s), m_input, storeys(), Access::Shared, &reason);
 
             QVERIFY(!files);
-            QTEST(files.error().key, "key");
-            QCOMPARE(files.error().path, path(blocked));
-            QCOMPARE(reason.isEmpty(), files.error().key == u"MESS_MISSING_CONF_FILE"_s);
+            QCOMPARE(files.error().display(), text + path(blocked));
+            QCOMPARE(reason.isEmpty(), blocked.contains(u"template"_s));
             QCOMPARE(QDir(m_dir->path()).entryList(), before);
             for (const QString &name : names)
                 QCOMPARE(contentOf(path(name)),
@@ -263,31 +204,28 @@ private Q_SLOTS:
         }
     }
 
-    void leavesTheLegendOfSomebodyElseAlone()
+    void leavesOtherLegendsAlone()
     {
-        QVERIFY(QDir().mkpath(path(u"two & more_gradient.png"_s))); // as little to be replaced
-
-        const auto files = writeColoredLayer(path(u"out.lay"_s), m_input, Signal, Access::UserOnly);
-
-        QVERIFY(files);
-        QCOMPARE(files.value().legend, path(u"out_two & more_gradient.png"_s));
-        QVERIFY(!QImage(files.value().legend).isNull());
-        QVERIFY(contentOf(path(u"out.lay"_s)).contains("/out_two &amp; more_gradient.png\""));
-    }
-
-    void leavesTheLegendOfAnotherLayerAlone()
-    {
-        const auto first = writeColoredLayer(path(u"a.lay"_s), m_input, Signal, Access::Shared);
-        const QByteArray legend = contentOf(path(u"two & more_gradient.png"_s));
+        const auto write = [this](const QString &name, Access access) {
+            const auto files = writeColoredLayer(path(name), m_input, Signal, access);
+            return files ? files.value().legend : QString();
+        };
+        const QString legend = path(u"two & more_gradient.png"_s);
+        QCOMPARE(write(u"a.lay"_s, Access::Shared), legend);
+        const QByteArray former = contentOf(legend);
         QVERIFY(m_input.legend->map.load(path(u"two.txt"_s).toStdString(), -120, -60));
 
-        for (int time = 0; time < 2; ++time) {
-            const auto files = writeColoredLayer(path(u"b.lay"_s), m_input, Signal, Access::Shared);
-
-            QVERIFY(first && files);
-            QCOMPARE(files.value().legend, path(u"b_two & more_gradient.png"_s));
-            QCOMPARE(contentOf(first.value().legend), legend);
+        for (int time = 0; time < 2; ++time) { // of another layer
+            QCOMPARE(write(u"b.lay"_s, Access::Shared), path(u"b_two & more_gradient.png"_s));
+            QCOMPARE(contentOf(legend), former);
         }
+        QVERIFY(contentOf(path(u"b.lay"_s)).contains("/b_two &amp; more_gradient.png\""));
+
+        // That of somebody else can be replaced as little as a folder.
+        QVERIFY(QFile::remove(legend) && QDir().mkpath(legend));
+        const QString own = write(u"c.lay"_s, Access::UserOnly);
+        QCOMPARE(own, path(u"c_two & more_gradient.png"_s));
+        QVERIFY(!QImage(own).isNull());
     }
 
 private:

@@ -1,46 +1,31 @@
+#include "LayerPage.h"
 #include "buildings/EmptyFileListModel.h"
 #include "buildings/ui/VltAddTexbTexturedPage.h"
-#include "gui/DropOnWidget.h"
 #include "gui/FileDialogAnswer.h"
-#include "platform/Settings.h"
 
 #include <QAction>
 #include <QClipboard>
-#include <QComboBox>
-#include <QDir>
 #include <QHeaderView>
-#include <QLabel>
-#include <QPushButton>
-#include <QSettings>
 #include <QSignalSpy>
 #include <QTableView>
-#include <QTemporaryDir>
-#include <QTest>
 
-using namespace Qt::StringLiterals;
+using namespace layerpage;
 using vlt::buildings::FileEntry;
 using vlt::buildings::FileListModel;
 
 namespace {
 
-const QString Prefix = u"AddTexbTexturedPage/"_s;
+const QString Group = u"AddTexbTexturedPage"_s;
 
-class Page : public VltAddTexbTexturedPage
+class TexturedPage : public Page<VltAddTexbTexturedPage>
 {
 public:
-    Page() : VltAddTexbTexturedPage(nullptr, shared, QString(), u"en"_s)
-    {
-        initializePage();
-        resize(1000, 600);
-        show();
-        activateWindow();
-    }
+    TexturedPage() : Page({}, {}) {}
 
-    QTableView *table() { return findChild<QTableView *>(u"m_pwFiles"_s); }
-    QLineEdit *filter() { return findChild<QLineEdit *>(u"m_pwLeFilter"_s); }
-    QComboBox *structure() { return findChild<QComboBox *>(u"m_pwCbDataStructure"_s); }
-    QString status() { return findChild<QLabel *>(u"m_pwLblFilter"_s)->text(); }
-    void press(const QString &button) { findChild<QPushButton *>(button)->click(); }
+    QTableView *table() { return child<QTableView>(u"m_pwFiles"_s); }
+    QLineEdit *filter() { return line(u"m_pwLeFilter"_s); }
+    QComboBox *structure() { return combo(u"m_pwCbDataStructure"_s); }
+    QString status() { return text(u"m_pwLblFilter"_s); }
 
     bool isHintShown()
     {
@@ -67,7 +52,7 @@ public:
                                           QItemSelectionModel::Select | QItemSelectionModel::Rows);
     }
 
-    SharedParameters shared;
+    QList<FileEntry> published() { return shared.value(u"FileList"_s).value<QList<FileEntry>>(); }
 };
 
 } // namespace
@@ -81,9 +66,9 @@ class TestTexturedPage : public QObject
     QString path(const QString &name) const { return m_dir.filePath(name); }
 
     /// A page that lists roof_2 (height 2), roof_10 (10) and the wall (3.5 m).
-    std::unique_ptr<Page> pageWithRoofs() const
+    std::unique_ptr<TexturedPage> pageWithRoofs() const
     {
-        auto page = std::make_unique<Page>();
+        auto page = std::make_unique<TexturedPage>();
         dropFiles(page.get(), {path(u"a/roofs/roof_2.png"_s)});
         return page;
     }
@@ -93,11 +78,8 @@ private Q_SLOTS:
     {
         for (const QString &name :
              {u"a/roofs/roof_2.png"_s, u"a/roofs/roof_10.png"_s, u"a/roofs/Wall 3,5m.png"_s,
-              u"a/roofs/alone.jpg"_s, u"a/walls/wall_1.png"_s, u"b/doors/door_1.png"_s}) {
-            QVERIFY(QDir().mkpath(QFileInfo(path(name)).absolutePath()));
-            QFile file(path(name));
-            QVERIFY(file.open(QIODevice::WriteOnly));
-        }
+              u"a/roofs/alone.jpg"_s, u"a/walls/wall_1.png"_s, u"b/doors/door_1.png"_s})
+            QVERIFY(!write(m_dir, name, {}).isEmpty());
     }
 
     void init() { vlt::platform::wizardSettings()->clear(); }
@@ -105,26 +87,23 @@ private Q_SLOTS:
     void listsTheImagesAroundATemplate_data()
     {
         QTest::addColumn<int>("structure");
-        QTest::addColumn<QString>("templateName");
         QTest::addColumn<int>("count");
 
-        QTest::newRow("same folder") << 0 << u"a/roofs/roof_2.png"_s << 3;
-        QTest::newRow("folders at the same level") << 1 << u"a/roofs/roof_2.png"_s << 4;
-        QTest::newRow("folders at two levels") << 2 << u"a/roofs/roof_2.png"_s << 5;
-        QTest::newRow("no other of its suffix") << 0 << u"a/roofs/alone.jpg"_s << 1;
-        QTest::newRow("none chosen") << 0 << QString() << 0;
+        QTest::newRow("same folder") << 0 << 3;
+        QTest::newRow("folders at the same level") << 1 << 4;
+        QTest::newRow("folders at two levels") << 2 << 5;
+        QTest::newRow("none chosen") << 0 << 0;
     }
 
     void listsTheImagesAroundATemplate()
     {
         QFETCH(int, structure);
-        QFETCH(QString, templateName);
         QFETCH(int, count);
         vlt::platform::wizardSettings()->setValue(u"LastUsedDir"_s, path(u"b"_s));
-        Page page;
+        TexturedPage page;
         const QSignalSpy completeChanged(&page, &QWizardPage::completeChanged);
         page.structure()->setCurrentIndex(structure);
-        const FileDialogAnswer answer(templateName.isEmpty() ? QString() : path(templateName));
+        const FileDialogAnswer answer(count > 0 ? path(u"a/roofs/roof_2.png"_s) : QString());
 
         page.press(u"m_pwPbTemplate"_s);
 
@@ -139,61 +118,49 @@ private Q_SLOTS:
         QVERIFY(page.status().contains(u"Images: %1 "_s.arg(count)));
         QVERIFY(page.validatePage());
         QCOMPARE(vlt::platform::wizardSettings()->value(u"LastUsedDir"_s).toString(),
-                 QFileInfo(path(count > 0 ? templateName : u"b/x"_s)).absolutePath());
+                 path(count > 0 ? u"a/roofs"_s : u"b"_s));
     }
 
     void countsAtEachKeystroke()
     {
         const auto page = pageWithRoofs();
+        const QString status = u"Images: 3  \u2022  shown: %1  \u2022  used: 3"_s;
         const auto typed = [&page](char key) {
             QTest::keyClick(page->filter(), key);
             return page->status();
         };
 
-        QCOMPARE(page->status(), u"Images: 3  \u2022  shown: 3  \u2022  used: 3"_s);
-        QCOMPARE(typed('r'), u"Images: 3  \u2022  shown: 3  \u2022  used: 3"_s); // the folder
+        QCOMPARE(page->status(), status.arg(3));
+        QCOMPARE(typed('r'), status.arg(3)); // the folder
         page->filter()->clear();
-        QCOMPARE(typed('3'), u"Images: 3  \u2022  shown: 1  \u2022  used: 3"_s);
+        QCOMPARE(typed('3'), status.arg(1));
         QVERIFY(!page->isHintShown());
-        QCOMPARE(typed('x'), u"Images: 3  \u2022  shown: 0  \u2022  used: 3  \u2022  "
-                             "no image matches the filter"_s);
+        QCOMPARE(typed('x'), status.arg(0) + u"  \u2022  no image matches the filter"_s);
         QVERIFY(page->isHintShown() && !page->isComplete());
         QTest::keyClick(page->filter(), Qt::Key_Backspace);
         QVERIFY(!page->isHintShown() && page->isComplete());
     }
 
-    void sortsByItsHeaders_data()
-    {
-        QTest::addColumn<int>("column");
-        QTest::addColumn<QStringList>("ascending");
-
-        QTest::newRow("names") << int(FileListModel::FileColumn)
-                               << QStringList{u"*roof_2.png"_s, u"*roof_10.png"_s,
-                                              u"*Wall 3,5m.png"_s};
-        QTest::newRow("heights") << int(FileListModel::HeightColumn)
-                                 << QStringList{u"*roof_2.png"_s, u"*Wall 3,5m.png"_s,
-                                                u"*roof_10.png"_s};
-    }
-
     void sortsByItsHeaders()
     {
-        QFETCH(int, column);
-        QFETCH(QStringList, ascending);
+        const QStringList byName{u"*roof_2.png"_s, u"*roof_10.png"_s, u"*Wall 3,5m.png"_s};
+        const QStringList byHeight{u"*roof_2.png"_s, u"*Wall 3,5m.png"_s, u"*roof_10.png"_s};
         const auto page = pageWithRoofs();
         QHeaderView *header = page->table()->horizontalHeader();
-        const auto click = [header, column] {
+        const auto filesAfterClick = [&page, header](int column) {
             QTest::mouseClick(header->viewport(), Qt::LeftButton, {},
                               {header->sectionViewportPosition(column) + 20, header->height() / 2});
+            return page->files();
         };
 
-        click();
-        QCOMPARE(page->files(), ascending);
+        QCOMPARE(filesAfterClick(FileListModel::HeightColumn), byHeight);
+        QCOMPARE(filesAfterClick(FileListModel::FileColumn), byName);
         page->filter()->setText(u"none such"_s); // the hint in between
         page->filter()->clear();
-        QCOMPARE(page->files(), ascending);
-        QCOMPARE(header->sortIndicatorSection(), column);
-        click();
-        QCOMPARE(page->files(), QStringList(ascending.crbegin(), ascending.crend()));
+        QCOMPARE(page->files(), byName);
+        QCOMPARE(header->sortIndicatorSection(), int(FileListModel::FileColumn));
+        QCOMPARE(filesAfterClick(FileListModel::FileColumn),
+                 QStringList(byName.crbegin(), byName.crend()));
     }
 
     void copiesRowsAsTheyAreShown()
@@ -254,7 +221,7 @@ private Q_SLOTS:
         page->validatePage(); // without Return
 
         QCOMPARE(cell.data().toDouble(), height);
-        const auto published = page->shared.value(u"FileList"_s).value<QList<FileEntry>>();
+        const QList<FileEntry> published = page->published();
         QVERIFY(std::any_of(published.begin(), published.end(), [height](const FileEntry &entry) {
             return entry.fileName() == u"roof_2.png"_s && entry.height == height;
         }));
@@ -290,54 +257,35 @@ private Q_SLOTS:
 
     void remembersTheList()
     {
-        QMap<QString, QString> stored = {
-            {u"DataStructure"_s, u"2"_s},
-            {u"Filter"_s, u"west"_s},
-            {u"FileCount"_s, u"3"_s},
-            {u"fullPath_0"_s, u"/t/a, \u00e9.tif"_s},
-            {u"shortName_0"_s, u"t"_s},
-            {u"height_0"_s, u"3.25"_s},
-            {u"unit_0"_s, u"7"_s},
-            {u"used_0"_s, u"false"_s},
-            {u"description_0"_s, u"west side"_s},
-            {u"fullPath_1"_s, u"/t/b.tif"_s},
-            {u"height_1"_s, u"100000.125"_s},
-        };
-        const auto settings = vlt::platform::wizardSettings();
-        for (auto value = stored.cbegin(); value != stored.cend(); ++value)
-            settings->setValue(Prefix + value.key(), value.value());
-        settings->setValue(Prefix + u"shortName_2"_s, u"without a path"_s);
-        Page page;
+        QVariantMap stored =
+            values(u"DataStructure=2 Filter=west FileCount=3 fullPath_0=/t/a,é.tif shortName_0=t "
+                   "height_0=3.25 unit_0=7 used_0=false fullPath_1=/t/b.tif height_1=100000.125"_s);
+        stored[u"description_0"_s] = u"west side"_s;
+        remember(Group, stored);
+        remember(Group, {{u"shortName_2"_s, u"without a path"_s}});
+        TexturedPage page;
         QCOMPARE(page.structure()->currentIndex(), 2);
         QCOMPARE(page.filter()->text(), u"west"_s);
-        QCOMPARE(page.files(), QStringList{u"a, \u00e9.tif (west side)"_s});
+        QCOMPARE(page.files(), QStringList{u"a,é.tif (west side)"_s});
         QCOMPARE(page.status(), u"Images: 2  \u2022  shown: 1  \u2022  used: 1"_s);
 
         QVERIFY(page.validatePage());
 
-        stored.insert({{u"FileCount"_s, u"2"_s},
-                       {u"shortName_1"_s, QString()},
-                       {u"unit_1"_s, u"0"_s},
-                       {u"used_1"_s, u"true"_s},
-                       {u"description_1"_s, QString()}});
-        settings->beginGroup(u"AddTexbTexturedPage"_s);
-        QMap<QString, QString> written;
-        for (const QString &key : settings->childKeys())
-            written.insert(key, settings->value(key).toString());
-        QCOMPARE(written, stored);
-        const auto published = page.shared.value(u"FileList"_s).value<QList<FileEntry>>();
-        QCOMPARE(published.size(), 2);
-        QCOMPARE(published.constFirst().unit, 7);
-        QVERIFY(!published.constFirst().used);
+        stored.insert(values(u"FileCount=2 shortName_1= unit_1=0 used_1=true description_1="_s));
+        QCOMPARE(otherThan(Group, stored), QStringList());
+        const auto settings = vlt::platform::wizardSettings();
+        settings->beginGroup(Group);
+        QCOMPARE(settings->childKeys(), stored.keys());
+        QCOMPARE(page.published().size(), 2);
+        QCOMPARE(page.published().constFirst().unit, 7);
+        QVERIFY(!page.published().constFirst().used);
     }
 
     void bearsDamagedSettings()
     {
-        const auto settings = vlt::platform::wizardSettings();
-        settings->setValue(Prefix + u"DataStructure"_s, 9);
-        settings->setValue(Prefix + u"FileCount"_s, 2000000000);
+        remember(Group, values(u"DataStructure=9 FileCount=2000000000"_s));
 
-        Page page;
+        TexturedPage page;
 
         QCOMPARE(page.structure()->currentIndex(), 0);
         QVERIFY(page.isHintShown());

@@ -20,8 +20,8 @@ using Rings = std::vector<Ring>;
 
 constexpr float BaseM = 30;
 
-/// Adds a building; rings but the first are its holes, or more parts.
-inline void add(Town &town, const Rings &rings, float heightM = 12, bool areParts = false)
+/// Adds a building; rings but the first are its holes.
+inline void add(Town &town, const Rings &rings, float heightM = 12)
 {
     Footprints &shapes = town.footprints;
     const auto begin = static_cast<std::uint32_t>(shapes.rings.size());
@@ -29,8 +29,8 @@ inline void add(Town &town, const Rings &rings, float heightM = 12, bool arePart
         const auto first = static_cast<std::uint32_t>(shapes.places.size());
         shapes.places.insert(shapes.places.end(), ring.begin(), ring.end());
         town.places.insert(town.places.end(), ring.begin(), ring.end());
-        shapes.rings.push_back({first, static_cast<std::uint32_t>(shapes.places.size()),
-                                !areParts && shapes.rings.size() > begin});
+        shapes.rings.push_back(
+            {first, static_cast<std::uint32_t>(shapes.places.size()), shapes.rings.size() > begin});
     }
     shapes.buildings.push_back({begin, static_cast<std::uint32_t>(shapes.rings.size()), heightM});
     town.baseM.push_back(BaseM);
@@ -78,15 +78,15 @@ inline std::string make(const QString &path, const Image &image)
         qFatal("no image");
     if (image.finish)
         image.finish(*made);
-    for (int band = 1; band <= image.bands; ++band) {
-        std::vector<double> values;
-        for (int i = 0; i < image.columns * image.rows; ++i)
-            values.push_back(image.value(i % image.columns, i / image.columns, band));
-        if (made->GetRasterBand(band)->RasterIO(GF_Write, 0, 0, image.columns, image.rows,
-                                                values.data(), image.columns, image.rows,
-                                                GDT_Float64, 0, 0, nullptr) != CE_None)
-            qFatal("no pixels");
+    std::vector<double> values;
+    for (int i = 0; i < image.bands * image.rows * image.columns; ++i) {
+        const int pixel = i % (image.rows * image.columns);
+        values.push_back(image.value(pixel % image.columns, pixel / image.columns,
+                                     1 + i / (image.rows * image.columns)));
     }
+    if (made->RasterIO(GF_Write, 0, 0, image.columns, image.rows, values.data(), image.columns,
+                       image.rows, GDT_Float64, image.bands, nullptr, 0, 0, 0) != CE_None)
+        qFatal("no pixels");
     return path.toStdString();
 }
 
