@@ -55,10 +55,10 @@ class TownColorsTest : public QObject
                        {int(values.size()), 1, 1, GDT_Float32, corner, 10, system, value});
     }
 
-    QString colorsOf(const Town &town, const QByteArray &specification, Notices &notices)
+    QString colorsOf(const Town &town, const QByteArray &colorText, Notices &notices)
     {
         const std::vector<std::string> directories = {"/nowhere", m_dir.path().toStdString()};
-        return hex(townColors(town, specification.toStdString(), directories, notices,
+        return hex(townColors(town, colorText.toStdString(), directories, notices,
                               [](double) { return true; }));
     }
 
@@ -80,7 +80,7 @@ private Q_SLOTS:
     void colorsBuildings_data()
     {
         // a.tif from west to east: 0 25 50 and -99; the buildings from east to west
-        QTest::addColumn<QByteArray>("specification");
+        QTest::addColumn<QByteArray>("colorText");
         QTest::addColumn<QString>("colors");
         const auto row = [](const char *name, const QByteArray &text, const char *colors) {
             QTest::newRow(name) << text << QString::fromLatin1(colors);
@@ -114,11 +114,11 @@ private Q_SLOTS:
 
     void colorsBuildings()
     {
-        QFETCH(const QByteArray, specification);
+        QFETCH(const QByteArray, colorText);
         QFETCH(const QString, colors);
         Notices notices;
 
-        QCOMPARE(colorsOf(townOf(4), specification, notices), colors);
+        QCOMPARE(colorsOf(townOf(4), colorText, notices), colors);
         const auto grey = colors.count(Grey) % 4; // not those of the plain colour
         const bool isPartial = grey > 0 || colors.contains(QStringLiteral("010203"));
         QCOMPARE(notices.size(), isPartial ? 1U : 0U);
@@ -130,7 +130,7 @@ private Q_SLOTS:
 
     void tellsWhatCannotBeUsed_data()
     {
-        QTest::addColumn<QByteArray>("specification");
+        QTest::addColumn<QByteArray>("colorText");
         QTest::addColumn<QByteArray>("notice");
         const auto row = [](const QByteArray &text, const char *notice) {
             QTest::newRow(text.constData()) << text << QByteArray(notice);
@@ -155,11 +155,11 @@ private Q_SLOTS:
 
     void tellsWhatCannotBeUsed()
     {
-        QFETCH(const QByteArray, specification);
+        QFETCH(const QByteArray, colorText);
         QFETCH(const QByteArray, notice);
         Notices notices;
 
-        QCOMPARE(colorsOf(townOf(2), specification, notices), Grey + u' ' + Grey);
+        QCOMPARE(colorsOf(townOf(2), colorText, notices), Grey + u' ' + Grey);
         QCOMPARE(notices.size(), 1U);
         QVERIFY2(notices.front().find(notice.toStdString()) != std::string::npos,
                  notices.front().c_str());

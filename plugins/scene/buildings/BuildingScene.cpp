@@ -108,12 +108,12 @@ Town readTown(const TexbDocument &document, const Directories &directories, Noti
     return town;
 }
 
-std::vector<colormaps::Rgba> colorsOf(const Town &town, const std::string &specification,
+std::vector<colormaps::Rgba> colorsOf(const Town &town, const std::string &colorText,
                                       const Directories &directories, Notices &notices,
                                       const Progress &progress)
 {
     std::vector<colormaps::Rgba> colors =
-        townColors(town, specification, directories, notices, progress);
+        townColors(town, colorText, directories, notices, progress);
     if (colors.size() != town.footprints.buildings.size())
         throw BadLayer(connection::StoppedText);
     return colors;

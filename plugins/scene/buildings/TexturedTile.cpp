@@ -1,6 +1,6 @@
 #include "buildings/TexturedTile.h"
 
-#include "buildings/ColorSpecification.h"
+#include "buildings/ColorText.h"
 #include "buildings/ImageFaces.h"
 #include "buildings/TownMesh.h"
 #include "mesh/Mesh.h"

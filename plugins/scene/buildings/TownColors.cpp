@@ -1,6 +1,6 @@
 #include "buildings/TownColors.h"
 
-#include "buildings/ColorSpecification.h"
+#include "buildings/ColorText.h"
 #include "buildings/PlaceTransform.h"
 #include "coverage/LocalRaster.h"
 #include "layers/TableLocation.h"
@@ -194,19 +194,19 @@ std::vector<Rgba> rasterColors(const Town &town, const RasterColors &colors,
 
 } // namespace
 
-std::vector<Rgba> townColors(const Town &town, const std::string &specification,
+std::vector<Rgba> townColors(const Town &town, const std::string &colorText,
                              const std::vector<std::string> &directories, Notices &notices,
                              const Progress &progress)
 {
     const std::size_t number = town.footprints.buildings.size();
-    if (specification.empty())
+    if (colorText.empty())
         return std::vector<Rgba>(number, WithoutValue);
-    if (const std::optional<Rgba> plain = parseColor(specification))
+    if (const std::optional<Rgba> plain = parseColor(colorText))
         return std::vector<Rgba>(number, *plain);
     try {
-        const std::optional<RasterColors> colors = parseRasterColors(specification);
+        const std::optional<RasterColors> colors = parseRasterColors(colorText);
         if (!colors)
-            throw Unusable{"\"" + specification + "\" tells no colors of buildings"};
+            throw Unusable{"\"" + colorText + "\" tells no colors of buildings"};
         return rasterColors(town, *colors, directories, notices, progress);
     } catch (const Unusable &fault) {
         notices.push_back(fault.notice);

@@ -7,7 +7,7 @@
 
 namespace vlt::scene {
 
-/// The colours of buildings by a specification of a document.
+/// The colours of buildings by a text of a document.
 ///
 /// "#RRGGBB" is one colour for all. "IMAGE;raster;map;reduction;stretched|absolute;
 /// interpolation|colorrange[;nodata]" and "cmap:datasource=raster[;nd=nodata];cmap=map;
@@ -21,7 +21,7 @@ namespace vlt::scene {
 ///
 /// @param directories  where files of relative names are looked for, in this order
 /// @return             parallel to town.footprints.buildings; empty where `progress` stopped it
-std::vector<colormaps::Rgba> townColors(const Town &town, const std::string &specification,
+std::vector<colormaps::Rgba> townColors(const Town &town, const std::string &colorText,
                                         const std::vector<std::string> &directories,
                                         Notices &notices, const Progress &progress);
 

@@ -1,4 +1,4 @@
-#include "buildings/ColorSpecification.h"
+#include "buildings/ColorText.h"
 
 #include <algorithm>
 #include <cctype>
