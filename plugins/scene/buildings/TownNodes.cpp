@@ -4,11 +4,11 @@
 #include "buildings/TownTree.h"
 #include "connection/ReaderOptions.h"
 #include "layers/BadLayer.h"
+#include "mesh/MovedNode.h"
 #include "pylon/DeferredNode.h"
 
 #include <osg/Geode>
 #include <osg/LOD>
-#include <osg/MatrixTransform>
 #include <osg/Point>
 #include <osg/ShadeModel>
 
@@ -111,17 +111,6 @@ struct Content
         return std::max(bound.xMax() - bound.xMin(), bound.yMax() - bound.yMin());
     }
 };
-
-/// Vertices of single precision stay small; optimisers must not write the place into them.
-osg::ref_ptr<osg::MatrixTransform> moved(const osg::ref_ptr<osg::Node> &node,
-                                         const osg::Vec3d &origin)
-{
-    osg::ref_ptr<osg::MatrixTransform> place =
-        new osg::MatrixTransform(osg::Matrixd::translate(origin));
-    place->setDataVariance(osg::Object::DYNAMIC);
-    place->addChild(node);
-    return place;
-}
 
 class TownBuilder
 {

@@ -2,6 +2,7 @@
 
 #include "layers/SiteLabels.h"
 #include "layers/SiteTree.h"
+#include "mesh/MovedNode.h"
 #include "mesh/Palette.h"
 #include "pylon/DeferredNode.h"
 #include "pylon/PylonFactory.h"
@@ -9,7 +10,6 @@
 
 #include <osg/Geode>
 #include <osg/LOD>
-#include <osg/MatrixTransform>
 #include <osg/Point>
 
 #include <algorithm>
@@ -114,17 +114,6 @@ osg::ref_ptr<osg::Geometry> makeDots(const osg::ref_ptr<osg::Vec3Array> &points,
     geometry->setStateSet(state);
     geometry->setInitialBound(bound);
     return geometry;
-}
-
-/// Vertices of single precision stay small; optimisers must not write the place into them.
-osg::ref_ptr<osg::MatrixTransform> moved(const osg::ref_ptr<osg::Node> &node,
-                                         const osg::Vec3d &origin)
-{
-    osg::ref_ptr<osg::MatrixTransform> place =
-        new osg::MatrixTransform(osg::Matrixd::translate(origin));
-    place->setDataVariance(osg::Object::DYNAMIC);
-    place->addChild(node);
-    return place;
 }
 
 osg::ref_ptr<osg::Node> makeLabels(Content &content, const Sites &sites, const osg::Vec3d &origin,

@@ -12,8 +12,8 @@
         <translation>Raster of one band whose values color the buildings; press Enter after typing one, or drop a file on the page</translation>
     </message>
     <message id="MESS_COLOR_IMAGE_KINDS">
-        <source>.tif, .asc or another raster of one band</source>
-        <translation>.tif, .asc or another raster of one band</translation>
+        <source>.tif, .asc or other raster</source>
+        <translation>.tif, .asc or other raster</translation>
     </message>
     <message id="MESS_SELECT_IMAGE_FILE">
         <source>Select the image to use</source>

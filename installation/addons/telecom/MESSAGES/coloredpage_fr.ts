@@ -12,7 +12,7 @@
         <translation>Raster à une bande dont les valeurs colorent les bâtiments&#xa0;; validez par Entrée un chemin saisi, ou déposez un fichier sur la page</translation>
     </message>
     <message id="MESS_COLOR_IMAGE_KINDS">
-        <source>.tif, .asc or another raster of one band</source>
+        <source>.tif, .asc or other raster</source>
         <translation>.tif, .asc ou autre raster</translation>
     </message>
     <message id="MESS_SELECT_IMAGE_FILE">
