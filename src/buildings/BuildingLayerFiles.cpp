@@ -36,10 +36,12 @@ QString ownLegendName(const QString &document, const QString &colorMapName)
 class FormerFile
 {
 public:
-    FormerFile(const QString &path, platform::Access access) : m_path(path), m_access(access)
+    FormerFile(const QString &path, platform::Access access) : m_access(access)
     {
-        QFile file(path);
-        m_isThere = QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly);
+        const Result<QString> written = platform::writtenFile(path, access);
+        m_path = written ? written.value() : path;
+        QFile file(m_path);
+        m_isThere = QFileInfo(m_path).isFile() && file.open(QIODevice::ReadOnly);
         if (m_isThere)
             m_bytes = file.readAll();
     }

@@ -43,20 +43,52 @@ std::optional<QString> flushToDisk(QFile &file)
     return std::nullopt;
 }
 
+/// Names of the process's own open files, such as the link behind /dev/stdout: a rename would put
+/// another file in the place of what is open.
+bool namesOpenFile(const QFileInfo &file)
+{
+    return file.absoluteDir().canonicalPath().startsWith(QLatin1String("/proc/"));
+}
+
+/// The file that the name `path` stands for; it may not exist. Nothing when the links do not end.
+std::optional<QFileInfo> behindLinks(const QString &path)
+{
+    constexpr int MaxLinks = 40; // as the kernel's own limit
+    QFileInfo file(path);
+    for (int links = 0; file.isSymbolicLink(); ++links) {
+        if (links == MaxLinks || namesOpenFile(file))
+            return std::nullopt;
+        file.setFile(file.symLinkTarget());
+    }
+    return file;
+}
+
 } // namespace
+
+Result<QString> writtenFile(const QString &path, Access access)
+{
+    const auto failed = [&path](const QString &reason) { return Error{{}, reason, path}; };
+    if (path.isEmpty())
+        return failed(QStringLiteral("No file name"));
+    const QFileInfo named(path);
+    if (access == Access::UserOnly && named.isSymbolicLink())
+        return named.absoluteFilePath();
+    const std::optional<QFileInfo> target = behindLinks(path);
+    if (!target || (target->exists() && !target->isFile()))
+        return failed(QStringLiteral("Not a regular file"));
+    // a rename would go over it without asking
+    if (access == Access::Shared && target->isFile() && !target->isWritable())
+        return failed(QStringLiteral("The file is write-protected"));
+    return target->absoluteFilePath();
+}
 
 Result<Done> writeWhole(const QString &path, const QByteArray &bytes, Access access)
 {
     const auto failed = [&path](const QString &reason) { return Error{{}, reason, path}; };
-    const QFileInfo target(path);
-    if (path.isEmpty())
-        return failed(QStringLiteral("No file name"));
-    if (!target.isSymbolicLink() && target.exists() && !target.isFile())
-        return failed(QStringLiteral("Not a regular file"));
-    // a rename would go over it without asking
-    if (access == Access::Shared && target.isFile() && !target.isSymbolicLink() &&
-        !target.isWritable())
-        return failed(QStringLiteral("The file is write-protected"));
+    const Result<QString> written = writtenFile(path, access);
+    if (!written)
+        return written.error();
+    const QFileInfo target(written.value());
 
     QFile file(temporaryNameBeside(target));
     if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered,
@@ -64,8 +96,7 @@ Result<Done> writeWhole(const QString &path, const QByteArray &bytes, Access acc
         return failed(file.errorString());
     auto litter = qScopeGuard([&file] { file.remove(); });
 
-    if (access == Access::Shared && target.isFile() && !target.isSymbolicLink() &&
-        !file.setPermissions(target.permissions()))
+    if (access == Access::Shared && target.isFile() && !file.setPermissions(target.permissions()))
         return failed(file.errorString());
     if (file.write(bytes) != bytes.size())
         return failed(file.errorString());

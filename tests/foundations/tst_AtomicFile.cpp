@@ -97,6 +97,24 @@ private Q_SLOTS:
         }
     }
 
+    void followsTheLinksOfAUser()
+    {
+        for (const QString &name : {u"published/layer"_s, u"new"_s}) {
+            const QTemporaryDir dir;
+            QVERIFY(QDir(dir.path()).mkdir(u"published"_s));
+            put(dir.filePath(u"published/layer"_s), "old");
+            QVERIFY(QFile::link(u"second"_s, dir.filePath(u"layer"_s)));
+            QVERIFY(QFile::link(name, dir.filePath(u"second"_s)));
+
+            QVERIFY(writeWhole(dir.filePath(u"layer"_s), "new", Access::Shared).ok());
+
+            QVERIFY(QFileInfo(dir.filePath(u"layer"_s)).isSymbolicLink());
+            QVERIFY(QFileInfo(dir.filePath(u"second"_s)).isSymbolicLink());
+            QCOMPARE(contentOf(dir.filePath(name)), QByteArray("new"));
+            QCOMPARE(namesIn(dir.filePath(u"published"_s)), QStringList{u"layer"_s});
+        }
+    }
+
     void leavesTheOldFileOnAFullDevice()
     {
         const QTemporaryDir dir;
@@ -143,18 +161,29 @@ private Q_SLOTS:
         const QTemporaryDir dir;
         const QString directory = dir.filePath(u"directory"_s);
         const QString pipe = dir.filePath(u"pipe"_s);
+        const QString toPipe = dir.filePath(u"toPipe"_s);
+        const QString loop = dir.filePath(u"loop"_s);
+        const QString output = dir.filePath(u"output"_s);
         QVERIFY(QDir().mkdir(directory));
         QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+        QVERIFY(QFile::link(u"pipe"_s, toPipe));
+        QVERIFY(QFile::link(u"loop"_s, loop));
+        // as /dev/stdout leads to what the process has open, here a regular file
+        QFile open(dir.filePath(u"open"_s));
+        QVERIFY(open.open(QIODevice::WriteOnly));
+        QVERIFY(QFile::link(u"/proc/self/fd/%1"_s.arg(open.handle()), output));
+        const QStringList names = namesIn(dir.path());
 
         // nobody may write in /proc, root included
-        for (const QString &path :
-             {QString(), directory, pipe, dir.filePath(u"gone/layer"_s), u"/proc/layer"_s}) {
+        for (const QString &path : {QString(), directory, pipe, toPipe, loop, output,
+                                    dir.filePath(u"gone/layer"_s), u"/proc/layer"_s}) {
             const vlt::Result<vlt::Done> written = writeWhole(path, "new", Access::Shared);
 
             QVERIFY2(!written.ok() && !written.error().text.isEmpty(), qPrintable(path));
-            QCOMPARE(namesIn(dir.path()), (QStringList{u"directory"_s, u"pipe"_s}));
+            QCOMPARE(namesIn(dir.path()), names);
             QVERIFY(namesIn(directory).isEmpty());
         }
+        QVERIFY(QFileInfo(output).isSymbolicLink() && contentOf(open.fileName()).isEmpty());
     }
 };
 
