@@ -22,7 +22,6 @@ inline constexpr auto Texts = std::to_array<Text>({
     // files that cannot be read
     {"MESS_TAB_NO_FILE_NAME", "no file is named"},
     {"MESS_TAB_NOT_LOCAL", "tables are read from local files only"},
-    {"MESS_TAB_READ_ONLY", "tables are not written"},
     {"MESS_TAB_NO_READER", "no driver for it was found"},
     {"MESS_TAB_OUT_OF_MEMORY", "out of memory"},
     {"MESS_TAB_FOLDER", "this is a folder, not a file"},

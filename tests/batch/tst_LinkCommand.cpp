@@ -109,7 +109,7 @@ private Q_SLOTS:
         const QByteArray layer = readFile(path(u"elsewhere/o.lay"_s));
         QVERIFY(layer.contains("<veltaroLayer kind=\"links\" version=\"1\">"));
         QCOMPARE(element(layer, "linkField"), QByteArray("Name"));
-        QCOMPARE(element(layer, "endLayer"), QByteArray("l ends"));
+        QCOMPARE(element(layer, "endLayer"), QByteArray("l_ends"));
     }
 
     void writesEveryPanelValueAndTheTerrain()

@@ -135,7 +135,7 @@ private Q_SLOTS:
         }
 
         QCOMPARE(dataset->GetLayerCount(), 2);
-        QCOMPARE(endLayer->GetName(), "l ends");
+        QCOMPARE(endLayer->GetName(), "l_ends");
         QCOMPARE(foundLines, lines);
         QCOMPARE(foundEnds, ends);
         QCOMPARE(endLayer->GetFeatureCount(), ends.size());

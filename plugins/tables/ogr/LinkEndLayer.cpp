@@ -31,7 +31,7 @@ const char *siteField(const std::string &format)
 } // namespace
 
 LinkEndLayer::LinkEndLayer(const TableSource &source)
-    : TableLayer(source, source.facts().table.sheet + " ends", 2)
+    : TableLayer(source, source.facts().table.sheet + "_ends", 2)
     , m_reader(source)
 {
     const LinkLayout &layout = facts().links();

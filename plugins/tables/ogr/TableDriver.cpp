@@ -21,7 +21,7 @@ constexpr char LinkPrefix[] = "link:";
 class TableDataset final : public GDALDataset
 {
 public:
-    explicit TableDataset(const TableSource &source)
+    TableDataset(const TableSource &source, std::string file) : m_file(std::move(file))
     {
         if (std::holds_alternative<SiteLayout>(source.facts().layout)) {
             m_layers.push_back(std::make_unique<SiteLayer>(source));
@@ -38,7 +38,10 @@ public:
                                                      : nullptr;
     }
 
+    char **GetFileList() override { return CSLAddString(nullptr, m_file.c_str()); }
+
 private:
+    std::string m_file;
     std::vector<std::unique_ptr<TableLayer>> m_layers;
 };
 
@@ -80,16 +83,19 @@ void refuseRemote(const std::string &path)
         throw RefusedFile(Refusal::CannotRead, "MESS_TAB_NOT_LOCAL");
 }
 
+void report(CPLErrorNum number, const std::string &path, const std::string &reason)
+{
+    const std::string where = path.empty() ? std::string() : path + ": ";
+    CPLError(CE_Failure, number, "%s%s", where.c_str(), reason.c_str());
+}
+
 GDALDataset *open(GDALOpenInfo *info)
 {
     if (!identify(info))
         return nullptr;
     const auto connection = connection::parse(info->pszFilename);
-    if (info->eAccess == GA_Update) {
-        CPLError(CE_Failure, CPLE_NotSupported, "%s: %s", info->pszFilename,
-                 tabletexts::formatted("MESS_TAB_READ_ONLY").c_str());
+    if (info->eAccess == GA_Update) // programs try this first and then read: no word about it
         return nullptr;
-    }
     try {
         refuseRemote(connection->path);
         const TableKind kind = connection->kind == "link" ? TableKind::Links : TableKind::Sites;
@@ -99,14 +105,13 @@ GDALDataset *open(GDALOpenInfo *info)
             source.facts().declaration(), connection->option("s_srs"), connection->option("t_srs"));
         source.warnings = std::make_shared<RowWarnings>();
         source.problems = std::make_shared<std::optional<ProblemList>>();
-        auto dataset = std::make_unique<TableDataset>(source);
+        auto dataset = std::make_unique<TableDataset>(source, connection->path);
         dataset->SetDescription(info->pszFilename);
         return dataset.release();
     } catch (const RefusedFile &refused) {
-        CPLError(CE_Failure, CPLE_OpenFailed, "%s: %s", connection->path.c_str(), refused.what());
+        report(CPLE_OpenFailed, connection->path, refused.what());
     } catch (const std::bad_alloc &) {
-        CPLError(CE_Failure, CPLE_OutOfMemory, "%s: %s", connection->path.c_str(),
-                 tabletexts::formatted("MESS_TAB_OUT_OF_MEMORY").c_str());
+        report(CPLE_OutOfMemory, connection->path, tabletexts::formatted("MESS_TAB_OUT_OF_MEMORY"));
     }
     return nullptr;
 }
@@ -148,6 +153,8 @@ void RegisterOGRVltTables()
     driver->SetMetadataItem(GDAL_DCAP_VECTOR, "YES");
     driver->SetMetadataItem(GDAL_DCAP_OPEN, "YES");
     driver->SetMetadataItem(GDAL_DMD_CONNECTION_PREFIX, vlt::tables::Prefix);
+    driver->SetMetadataItem(GDAL_DMD_EXTENSIONS, "csv xlsx xls xml");
+    driver->SetMetadataItem(GDAL_DMD_HELPTOPIC, "docs/tables.md");
     driver->SetMetadataItem(GDAL_DMD_OPENOPTIONLIST, vlt::tables::OpenOptions);
     driver->SetMetadataItem(GDAL_DMD_SUPPORTED_SQL_DIALECTS, "OGRSQL SQLITE");
     driver->pfnIdentify = vlt::tables::identify;

@@ -11,10 +11,6 @@
         <source>tables are read from local files only</source>
         <translation>tables are read from local files only</translation>
     </message>
-    <message id="MESS_TAB_READ_ONLY">
-        <source>tables are not written</source>
-        <translation>tables are not written</translation>
-    </message>
     <message id="MESS_TAB_NO_READER">
         <source>no driver for it was found</source>
         <translation>no driver for it was found</translation>

@@ -11,10 +11,6 @@
         <source>tables are read from local files only</source>
         <translation>seuls les tableaux qui se trouvent dans des fichiers locaux sont lus</translation>
     </message>
-    <message id="MESS_TAB_READ_ONLY">
-        <source>tables are not written</source>
-        <translation>les tableaux ne peuvent pas être modifiés</translation>
-    </message>
     <message id="MESS_TAB_NO_READER">
         <source>no driver for it was found</source>
         <translation>aucun pilote n'a été trouvé pour ce fichier</translation>
