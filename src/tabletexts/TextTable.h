@@ -91,6 +91,8 @@ inline constexpr auto Texts = std::to_array<Text>({
 
     // coordinate systems
     {"MESS_TAB_UNKNOWN_SRS", "the coordinate system \"%1\" is not known"},
+    {"MESS_TAB_NOT_HORIZONTAL", "the coordinate system \"%1\" is vertical or geocentric: it has "
+                                "no horizontal coordinates"},
     {"MESS_TAB_NO_WAY", "there is no way from the coordinate system \"%1\" to \"%2\""},
     {"MESS_TAB_UNKNOWN_EPSG",
      "the file declares the coordinate system EPSG:%1, which is not known"},

@@ -27,9 +27,12 @@ TableSystems::Srs TableSystems::make(const std::string &text)
         digits ? srs->importFromEPSG(atoi(text.c_str()))
                : srs->SetFromUserInput(text.c_str(),
                                        OGRSpatialReference::SET_FROM_USER_INPUT_LIMITATIONS_get());
-    if (error == OGRERR_NONE)
-        return srs;
-    throw RefusedFile(Refusal::BadOption, "MESS_TAB_UNKNOWN_SRS", {text});
+    if (error != OGRERR_NONE)
+        throw RefusedFile(Refusal::BadOption, "MESS_TAB_UNKNOWN_SRS", {text});
+    // Heights alone place nothing, and a geocentric system has no horizontal plane.
+    if (srs->IsGeocentric() || (srs->IsVertical() && !srs->IsCompound()))
+        throw RefusedFile(Refusal::BadOption, "MESS_TAB_NOT_HORIZONTAL", {text});
+    return srs;
 }
 
 TableSystems::TableSystems(const TableDeclaration &table, const std::string &sourceSrs,

@@ -227,6 +227,10 @@
         <source>the coordinate system "%1" is not known</source>
         <translation>the coordinate system "%1" is not known</translation>
     </message>
+    <message id="MESS_TAB_NOT_HORIZONTAL">
+        <source>the coordinate system "%1" is vertical or geocentric: it has no horizontal coordinates</source>
+        <translation>the coordinate system "%1" is vertical or geocentric: it has no horizontal coordinates</translation>
+    </message>
     <message id="MESS_TAB_NO_WAY">
         <source>there is no way from the coordinate system "%1" to "%2"</source>
         <translation>there is no way from the coordinate system "%1" to "%2"</translation>

@@ -227,6 +227,10 @@
         <source>the coordinate system "%1" is not known</source>
         <translation>le système de coordonnées «&#xa0;%1&#xa0;» est inconnu</translation>
     </message>
+    <message id="MESS_TAB_NOT_HORIZONTAL">
+        <source>the coordinate system "%1" is vertical or geocentric: it has no horizontal coordinates</source>
+        <translation>le système de coordonnées «&#xa0;%1&#xa0;» est vertical ou géocentrique&#xa0;: il n'a pas de coordonnées horizontales</translation>
+    </message>
     <message id="MESS_TAB_NO_WAY">
         <source>there is no way from the coordinate system "%1" to "%2"</source>
         <translation>il n'existe pas de transformation du système de coordonnées «&#xa0;%1&#xa0;» vers «&#xa0;%2&#xa0;»</translation>
