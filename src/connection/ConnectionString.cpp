@@ -12,13 +12,17 @@ namespace {
 /// The one option whose value is a path.
 constexpr std::string_view TerrainKey = "dem_file";
 
-/// The keys in the order in which queries carry them; those of links stand between.
-constexpr std::array<std::string_view, 17> KnownKeys = {
-    "s_srs",         "t_srs",         "data_folder",       "pylon_type",
-    "pylon_width",   "sector_colors", "sector_properties", "link_style",
-    "link_width",    "link_color",    "fresnel_zone",      "fresnel_share",
-    "fresnel_color", "k_factor",      "transmitter_scale", "lods",
-    TerrainKey};
+/// The keys in the order in which queries carry them.
+constexpr std::array<std::string_view, 20> KnownKeys = {
+    "s_srs", "t_srs", "data_folder", "pylon_type", "pylon_width", "sector_colors",
+    "sector_properties",
+    // of links
+    "link_style", "link_width", "link_color", "fresnel_zone", "fresnel_share", "fresnel_color",
+    "k_factor",
+    // how the table is to be read
+    "sheet", "encoding", "delimiter",
+    // of both again
+    "transmitter_scale", "lods", TerrainKey};
 
 bool exists(const std::string &path, const std::string &baseDirectory)
 {

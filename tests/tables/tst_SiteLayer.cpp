@@ -288,7 +288,30 @@ private Q_SLOTS:
                  qPrintable(QString::number(point->getX(), 'f', 3)));
         QVERIFY2(std::abs(point->getY() - 6729682.117) < 0.05,
                  qPrintable(QString::number(point->getY(), 'f', 3)));
-        QVERIFY(!open("t_srs=nonsense,", "t.csv"));
+        // heights of France, geocentric WGS 84
+        for (const char *refused : {"t_srs=nonsense,", "t_srs=5720,", "s_srs=EPSG:4978,"})
+            QVERIFY2(!open(refused, "t.csv"), refused);
+    }
+
+    // A layer carries how its maker had the table read; an open option goes before it.
+    void readsAsTheConnectionSays()
+    {
+        const Warnings warnings;
+        write("e.csv", "Site ID;X;Y\nB\xFCro;2,5;48\n");
+        const QByteArray name =
+            "site:encoding=CP1251,delimiter=semicolon," + m_folder.path("e.csv");
+        const auto nameOfFirst = [&name](const char *option) {
+            const char *const options[] = {option, nullptr};
+            const GDALDatasetUniquePtr dataset(
+                GDALDataset::Open(name.constData(), GDAL_OF_VECTOR, nullptr, options));
+            const OGRFeatureUniquePtr site(dataset ? dataset->GetLayer(0)->GetNextFeature()
+                                                   : nullptr);
+            return site ? QString::fromUtf8(site->GetFieldAsString(0)) : QString();
+        };
+
+        QCOMPARE(nameOfFirst(nullptr), QStringLiteral("B\u044Cro"));
+        QCOMPARE(nameOfFirst("ENCODING=CP1252"), QStringLiteral("B\u00FCro"));
+        QVERIFY(nameOfFirst("DELIMITER=TAB").isEmpty());
     }
 
     void seesThatAFileHasChanged()

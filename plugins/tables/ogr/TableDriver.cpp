@@ -45,26 +45,35 @@ private:
     std::vector<std::unique_ptr<TableLayer>> m_layers;
 };
 
-TableOptions optionsOf(const GDALOpenInfo &info, TableKind kind)
+/// The delimiter that a word names; 0 where it is to be found out, as for any other word.
+char delimiterOf(const std::string &word)
+{
+    constexpr std::pair<const char *, char> Words[] = {
+        {"COMMA", ','}, {"SEMICOLON", ';'}, {"TAB", '\t'}, {"BAR", '|'}};
+    for (const auto &[name, delimiter] : Words)
+        if (EQUAL(word.c_str(), name))
+            return delimiter;
+    return 0;
+}
+
+/// How the table is read: as the open options say, else as the connection says, which is how a
+/// layer keeps what its maker chose.
+TableOptions optionsOf(const GDALOpenInfo &info, const connection::ConnectionString &connection)
 {
     const auto text = [&info](const char *name) {
         const char *value = CSLFetchNameValue(info.papszOpenOptions, name);
         return std::string(value ? value : "");
     };
+    const auto either = [&](const char *option, const char *key) {
+        const std::string value = text(option);
+        return value.empty() ? connection.option(key) : value;
+    };
     TableOptions options;
-    options.kind = kind;
-    options.sheet = text("SHEET");
-    options.encoding = text("ENCODING");
+    options.kind = connection.kind == "link" ? TableKind::Links : TableKind::Sites;
+    options.sheet = either("SHEET", "sheet");
+    options.encoding = either("ENCODING", "encoding");
     options.textOnly = EQUAL(text("TYPES").c_str(), "TEXT");
-    const std::string delimiter = text("DELIMITER");
-    if (EQUAL(delimiter.c_str(), "COMMA"))
-        options.delimiter = ',';
-    else if (EQUAL(delimiter.c_str(), "SEMICOLON"))
-        options.delimiter = ';';
-    else if (EQUAL(delimiter.c_str(), "TAB"))
-        options.delimiter = '\t';
-    else if (EQUAL(delimiter.c_str(), "BAR"))
-        options.delimiter = '|';
+    options.delimiter = delimiterOf(either("DELIMITER", "delimiter"));
     return options;
 }
 
@@ -98,9 +107,8 @@ GDALDataset *open(GDALOpenInfo *info)
         return nullptr;
     try {
         refuseRemote(connection->path);
-        const TableKind kind = connection->kind == "link" ? TableKind::Links : TableKind::Sites;
         TableSource source;
-        source.file = TableFile::open(connection->path, optionsOf(*info, kind));
+        source.file = TableFile::open(connection->path, optionsOf(*info, *connection));
         source.systems = std::make_shared<TableSystems>(
             source.facts().declaration(), connection->option("s_srs"), connection->option("t_srs"));
         source.warnings = std::make_shared<RowWarnings>();
