@@ -30,7 +30,9 @@ Result<IniFile> IniFile::open(const QString &path)
         return Error{{}, QStringLiteral("Not a readable ini file"), path};
 
     IniFile file;
-    for (ssize_t i = 0; i < entries->size; ++i) {
+    // counted by a signed type in one version of the library, by an unsigned one in another
+    const auto size = static_cast<std::size_t>(entries->size);
+    for (std::size_t i = 0; i < size; ++i) {
         if (entries->key[i] != nullptr && entries->val[i] != nullptr)
             file.m_values.insert(decodeText(entries->key[i]).toCaseFolded(),
                                  decodeText(entries->val[i]));

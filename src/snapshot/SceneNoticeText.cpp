@@ -72,6 +72,8 @@ constexpr SceneText Texts[] = {
     {"MESS_SCENE_WITHOUT_HEIGHT", "it has no height"},
     {"MESS_SCENE_SAME_HEIGHT", "another one has the same height"},
     {"MESS_SCENE_NO_FORMAT", "`%1' not recognized as a supported file format.", "t"},
+    // the same of newer versions of the library
+    {"MESS_SCENE_NO_FORMAT", "`%1' not recognized as being in a supported file format.", "t"},
 
     // footprints that cannot be read
     {"MESS_SCENE_NO_FOOTPRINTS", "there is no local file of footprints \"%1\"", "t"},

@@ -214,6 +214,14 @@ private Q_SLOTS:
         QCOMPARE(sceneNoticeText(scene.error().text), told(key, values));
     }
 
+    void knowsTheLibraryInEveryVersion()
+    {
+        for (const char *form : {"`%1' not recognized as a supported file format.",
+                                 "`%1' not recognized as being in a supported file format."})
+            QCOMPARE(sceneNoticeText(QString::fromUtf8(form).arg(u"a.tif"_s)),
+                     told("MESS_SCENE_NO_FORMAT", {u"a.tif"_s}));
+    }
+
     void passesOtherTextsOn()
     {
         const QString other = u"/a.ive: 3 of 4 nodes are left out: no reason"_s;

@@ -59,6 +59,8 @@ struct Everything : osg::NodeVisitor
 {
     Everything() : osg::NodeVisitor(CULL_VISITOR, TRAVERSE_ALL_CHILDREN) {}
 
+    using osg::NodeVisitor::apply;
+
     void apply(osg::LOD &lod) override
     {
         for (unsigned i = 0; i < lod.getNumChildren(); ++i)

@@ -79,8 +79,8 @@ VltBuildingPreview::VltBuildingPreview(QWidget *parent)
     m_ui->m_pwPreview->setElevationDeg(ElevationDeg);
     // a second line of text must not change the size of the view
     m_ui->m_pwLblScene->setMinimumHeight(2 * fontMetrics().lineSpacing());
-    connect(m_ui->m_pwChbAutoRefresh, &QCheckBox::stateChanged, this,
-            &VltBuildingPreview::autoRefreshChanged);
+    connect(m_ui->m_pwChbAutoRefresh, &QCheckBox::toggled, this,
+            [this](bool on) { Q_EMIT autoRefreshChanged(on ? Qt::Checked : Qt::Unchecked); });
     connect(m_ui->m_pwPbRefresh, &QPushButton::clicked, this,
             &VltBuildingPreview::refreshRequested);
     connect(m_ui->m_pwPbExt, &QPushButton::clicked, this, &VltBuildingPreview::resetView);
