@@ -17,7 +17,10 @@ case ${1:-} in
     -h | --help) echo "$usage"; exit 0 ;;
     *) echo "$usage" >&2; exit 2 ;;
 esac
-[[ -n ${DISPLAY:-}${WAYLAND_DISPLAY:-} ]] || onlyLayers=yes
+if [[ -z $onlyLayers && -z ${DISPLAY:-}${WAYLAND_DISPLAY:-} ]]; then
+    echo "There is no display (DISPLAY is not set): the sample layers are made instead of opening the wizard."
+    onlyLayers=yes
+fi
 
 install=$PWD/build/install
 samples=$install/examples/lorient
@@ -26,10 +29,11 @@ log=$PWD/build/run.log
 packages=("${buildPackages[@]}")
 [[ -n ${DISPLAY:-} ]] || packages+=(xvfb xauth)
 prepare "${packages[@]}"
-mkdir -p build
+rm -f "$log"
 echo "Building (log: $log) ..."
-{ cmake --preset release && cmake --build --preset release --target programs && cmake --install build/release --prefix "$install"; } \
-    >"$log" 2>&1 || { tail -n 30 "$log" >&2; exit 1; }
+runLong "$log" cmake --preset release
+runLong "$log" cmake --build --preset release --target programs
+runLong "$log" cmake --install build/release --prefix "$install"
 
 # The builder's settings, where programs look for the installation; the user's own are not touched.
 mkdir -p build/xdg/VELTARO

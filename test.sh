@@ -21,12 +21,15 @@ esac
 packages=("${buildPackages[@]}" "${testPackages[@]}")
 [[ $preset == tidy ]] && packages+=(clang-14 clang-tidy-14)
 prepare "${packages[@]}"
+prepareWhereOffered "${formatPackages[@]}"
 
-echo "Configuring and building (preset $preset) ..."
-cmake --preset "$preset" >/dev/null
+log=$PWD/build/$preset.log
+rm -f "$log"
+echo "Configuring and building (preset $preset, log: $log) ..."
+runLong "$log" cmake --preset "$preset"
 if [[ $preset == tidy ]]; then
-    cmake --build --preset tidy -- -k 0 # every finding, not only the first
+    runLong "$log" cmake --build --preset tidy -- -k 0 # every finding, not only the first
 else
-    cmake --build --preset "$preset"
+    runLong "$log" cmake --build --preset "$preset"
     ctest --preset "$preset"
 fi
