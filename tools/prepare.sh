@@ -1,4 +1,4 @@
-# Sourced by run.sh and test.sh: installs the Debian packages that are missing, sets up the compiler cache
+# Sourced by run.sh, test.sh and package.sh: installs the Debian packages that are missing, sets up the compiler cache
 # and runs what takes long. Asks for rights only when something is missing.
 
 vltRoot=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
@@ -6,7 +6,8 @@ vltRoot=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 buildPackages=(g++ cmake ninja-build ccache pkg-config qt6-base-dev qt6-svg-dev libgdal-dev libproj-dev libiniparser-dev libisal-dev
                libqt6opengl6-dev libopenscenegraph-dev
                qt6-translations-l10n)
-testPackages=(gdal-bin python3-xlwt locales xvfb xauth desktop-file-utils appstream)
+packagingPackages=(file dpkg-dev)
+testPackages=(gdal-bin openscenegraph python3-xlwt locales xvfb xauth desktop-file-utils appstream "${packagingPackages[@]}")
 formatPackages=(clang-format-14) # not in every Debian
 
 # Packages that are installed, and the names that they provide; one in each line.
