@@ -24,6 +24,11 @@ function(vlt_apply_defaults target)
     target_compile_options(${target} PRIVATE -fsanitize=address,undefined -fno-sanitize-recover=undefined
                                              -fno-omit-frame-pointer)
     target_link_options(${target} PRIVATE -fsanitize=address,undefined)
+  else() # what is installed reads files of other people
+    set(optimised $<CONFIG:Release,RelWithDebInfo,MinSizeRel>)
+    target_compile_options(${target} PRIVATE
+      "$<${optimised}:-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=2;-fstack-protector-strong>")
+    target_link_options(${target} PRIVATE "$<${optimised}:LINKER:-z,relro,-z,now>")
   endif()
   if(VLT_TIDY)
     set_target_properties(${target} PROPERTIES CXX_CLANG_TIDY "clang-tidy-14;--quiet")
