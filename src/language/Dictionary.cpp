@@ -51,7 +51,8 @@ Texts readRoot(QXmlStreamReader &xml)
         else
             xml.skipCurrentElement();
     }
-    while (!xml.atEnd()) // what follows the root must be well-formed too
+    // what follows the root must be well-formed too; a file that stops being readable never ends
+    while (!xml.atEnd() && !xml.hasError())
         xml.readNext();
     return texts;
 }
@@ -64,7 +65,12 @@ Result<Texts> readDictionary(const QString &path)
     if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
         return Error{{}, QStringLiteral("Cannot open the dictionary"), path};
 
-    QXmlStreamReader xml(&file);
+    return readDictionary(file, path);
+}
+
+Result<Texts> readDictionary(QIODevice &device, const QString &path)
+{
+    QXmlStreamReader xml(&device);
     Texts texts = readRoot(xml);
     if (xml.hasError())
         return Error{

@@ -5,6 +5,8 @@
 #include <QHash>
 #include <QString>
 
+class QIODevice;
+
 namespace vlt::language {
 
 /// Texts by message key.
@@ -17,8 +19,13 @@ using Texts = QHash<QString, QString>;
 /// out; a text that is still "unfinished" is taken. Plural forms are not used. Of a key given twice
 /// the last text holds.
 ///
-/// @par Errors  a file that cannot be opened, is not well-formed XML or no Linguist file; the
-///              text names the line. Nothing of such a file is used.
+/// @par Errors  a file that cannot be opened or read to its end, is not well-formed XML or no
+///              Linguist file; the text names the line. Nothing of such a file is used.
 Result<Texts> readDictionary(const QString &path);
+
+/// The same for a device that is open for reading.
+///
+/// @param path  named in errors
+Result<Texts> readDictionary(QIODevice &device, const QString &path);
 
 } // namespace vlt::language

@@ -5,6 +5,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -21,6 +23,30 @@ void putDictionary(const QDir &dir, const QString &name, const QByteArray &messa
     QVERIFY(dir.mkpath(u"."_s) && file.open(QIODevice::WriteOnly));
     file.write("<TS version=\"2.1\"><context><name/>" + messages + "</context></TS>");
 }
+
+/// A dictionary on a disk that fails behind what could be read.
+class FailingDisk : public QIODevice
+{
+public:
+    explicit FailingDisk(const QByteArray &readable) : m_rest(readable) { open(ReadOnly); }
+
+    bool atEnd() const override { return false; }
+
+protected:
+    qint64 readData(char *to, qint64 most) override
+    {
+        if (m_rest.isEmpty())
+            return -1;
+        const QByteArray part = m_rest.left(most);
+        m_rest.remove(0, part.size());
+        std::copy(part.begin(), part.end(), to);
+        return part.size();
+    }
+    qint64 writeData(const char * /*from*/, qint64 /*size*/) override { return -1; }
+
+private:
+    QByteArray m_rest;
+};
 
 } // namespace
 
@@ -113,6 +139,20 @@ private Q_SLOTS:
         QCOMPARE(dico_label("K_BAD", "d"), u"d"_s);
         QCOMPARE(manager.skippedDictionaries().size(), 1);
         QCOMPARE(manager.skippedDictionaries().first().path, bad.fileName());
+    }
+
+    void givesUpADictionaryThatCannotBeReadToItsEnd()
+    {
+        const QByteArray start = "<TS><context>" + message("K", "<translation>x</translation>");
+        for (const QByteArray &readable :
+             {QByteArray(), start, QByteArray(start + "</context></TS>\n")}) {
+            FailingDisk disk(readable);
+
+            const auto texts = vlt::language::readDictionary(disk, u"messages_fr.ts"_s);
+
+            QVERIFY(!texts);
+            QCOMPARE(texts.error().path, u"messages_fr.ts"_s);
+        }
     }
 };
 
