@@ -100,12 +100,18 @@ QString fillLinkInfoPage(const QString &pageTemplate, const QString &language,
 Result<QString> buildLinkInfoHtml(const QString &connection, const QString &language,
                                   const QString &installDir, const QString &projectDirectory)
 {
+    return buildLinkInfoHtml(recogniseLinkColumns(connection, projectDirectory), language,
+                             installDir);
+}
+
+Result<QString> buildLinkInfoHtml(const LinkColumnSet &columns, const QString &language,
+                                  const QString &installDir)
+{
     const Result<QString> page =
         sites::readInfoTemplate(installDir, QStringLiteral("links_infos"), language);
     if (!page)
         return page.error();
-    return fillLinkInfoPage(page.value(), language,
-                            recogniseLinkColumns(connection, projectDirectory));
+    return fillLinkInfoPage(page.value(), language, columns);
 }
 
 } // namespace vlt::links

@@ -15,6 +15,12 @@ namespace vlt::links {
 Result<QString> buildLinkInfoHtml(const QString &connection, const QString &language,
                                   const QString &installDir, const QString &projectDirectory);
 
+/// The same with columns that are known already: no table is opened.
+///
+/// @par Errors   as above.
+Result<QString> buildLinkInfoHtml(const LinkColumnSet &columns, const QString &language,
+                                  const QString &installDir);
+
 /// The template with the columns filled in.
 QString fillLinkInfoPage(const QString &pageTemplate, const QString &language,
                          const LinkColumnSet &columns);

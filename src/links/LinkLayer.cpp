@@ -109,7 +109,7 @@ Result<sites::SiteLayer> makeLinkLayer(const LinkLayerInput &input)
          {QStringLiteral("__LINK_FIELD__"), input.file.linkNameField},
          {QStringLiteral("__END_LAYER__"), input.file.endLayerName},
          {QStringLiteral("__SITE_FIELD__"), input.file.nameField}},
-        buildLinkInfoHtml(query, input.language, input.installDir, input.project.directory()));
+        buildLinkInfoHtml(input.file.columns, input.language, input.installDir));
 }
 
 QString buildPreviewLinkUrl(const sites::SiteRepresentation &pylons,

@@ -48,12 +48,18 @@ QString fillSiteInfoPage(const QString &pageTemplate, const QString &language,
 Result<QString> buildSiteInfoHtml(const QString &connection, const QString &language,
                                   const QString &installDir, const QString &projectDirectory)
 {
+    return buildSiteInfoHtml(recogniseSiteColumns(connection, projectDirectory), language,
+                             installDir);
+}
+
+Result<QString> buildSiteInfoHtml(const SiteColumnSet &columns, const QString &language,
+                                  const QString &installDir)
+{
     const Result<QString> page =
         readInfoTemplate(installDir, QStringLiteral("sites_infos"), language);
     if (!page)
         return page.error();
-    return fillSiteInfoPage(page.value(), language,
-                            recogniseSiteColumns(connection, projectDirectory));
+    return fillSiteInfoPage(page.value(), language, columns);
 }
 
 } // namespace vlt::sites

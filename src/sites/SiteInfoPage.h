@@ -15,6 +15,12 @@ namespace vlt::sites {
 Result<QString> buildSiteInfoHtml(const QString &connection, const QString &language,
                                   const QString &installDir, const QString &projectDirectory);
 
+/// The same with columns that are known already: no table is opened.
+///
+/// @par Errors   as above.
+Result<QString> buildSiteInfoHtml(const SiteColumnSet &columns, const QString &language,
+                                  const QString &installDir);
+
 /// The template with the columns filled in.
 QString fillSiteInfoPage(const QString &pageTemplate, const QString &language,
                          const SiteColumnSet &columns);

@@ -28,13 +28,12 @@ QString placingConnection(const SiteLayerInput &input)
 Result<SiteLayer> makeSiteLayer(const SiteLayerInput &input)
 {
     const QString query = siteQuery(input);
-    return fillLayer(
-        input.installDir, QStringLiteral("template_sites.lay"),
-        {{QStringLiteral("__TITLE__"), dico_label("MESS_SITES", "Sites")},
-         {QStringLiteral("__SITE_URL__"), query},
-         {QStringLiteral("__LAYER__"), input.file.layerName},
-         {QStringLiteral("__SITE_FIELD__"), input.file.nameField}},
-        buildSiteInfoHtml(query, input.language, input.installDir, input.project.directory()));
+    return fillLayer(input.installDir, QStringLiteral("template_sites.lay"),
+                     {{QStringLiteral("__TITLE__"), dico_label("MESS_SITES", "Sites")},
+                      {QStringLiteral("__SITE_URL__"), query},
+                      {QStringLiteral("__LAYER__"), input.file.layerName},
+                      {QStringLiteral("__SITE_FIELD__"), input.file.nameField}},
+                     buildSiteInfoHtml(input.file.columns, input.language, input.installDir));
 }
 
 Result<SiteLayer> fillLayer(const QString &installDir, const QString &templateName,

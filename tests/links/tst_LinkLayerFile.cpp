@@ -118,6 +118,7 @@ private Q_SLOTS:
         input.file.endLayerName = u"L ends"_s;
         input.file.linkNameField = u"Name"_s;
         input.file.nameField = u"Site ID"_s;
+        input.file.columns.name = u"Name"_s; // known since the table was opened; it is gone by now
 
         QCOMPARE(makeLinkLayer(input).error().path, pylons + u"template_links.lay"_s);
 
@@ -135,6 +136,11 @@ private Q_SLOTS:
                      linkQueryPart({}) +
                      u",transmitter_scale=100,lods=10000 1000,dem_file=dem/t.tif,l.csv|L|Name|"
                      "L ends|Site ID||"_s);
+        QFile page(pylons + u"links_infos_en.html"_s);
+        QVERIFY(page.open(QIODevice::WriteOnly));
+        page.write("<h1>__NAME__</h1>");
+        page.close();
+        QVERIFY(makeLinkLayer(input).value().text.endsWith(u"|<h1>[Name]</h1>|"_s));
         QCOMPARE(placingConnection(input), u"link:s_srs=4326,/p/l.csv"_s);
     }
 
