@@ -100,6 +100,8 @@ QString placingConnection(const LinkLayerInput &input)
 
 Result<sites::SiteLayer> makeLinkLayer(const LinkLayerInput &input)
 {
+    if (const auto missing = sites::missingChoice(input.pylons, input.catalogues, input.installDir))
+        return *missing;
     const QString query = linkQuery(input);
     return sites::fillLayer(
         input.installDir, QStringLiteral("template_links.lay"),

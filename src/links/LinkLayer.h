@@ -29,7 +29,7 @@ QString placingConnection(const LinkLayerInput &input);
 
 /// The text of the layer file, out of the installation's "template_links.lay".
 ///
-/// @par Errors   MESS_MISSING_CONF_FILE with the template's path.
+/// @par Errors   those of sites::missingChoice(); MESS_MISSING_CONF_FILE with the template's path.
 Result<sites::SiteLayer> makeLinkLayer(const LinkLayerInput &input);
 
 /// The name under which the scene library loads the demonstration: three pylons, two links with

@@ -27,6 +27,9 @@ QString placingConnection(const SiteLayerInput &input)
 
 Result<SiteLayer> makeSiteLayer(const SiteLayerInput &input)
 {
+    if (const auto missing =
+            missingChoice(input.representation, input.catalogues, input.installDir))
+        return *missing;
     const QString query = siteQuery(input);
     return fillLayer(input.installDir, QStringLiteral("template_sites.lay"),
                      {{QStringLiteral("__TITLE__"), dico_label("MESS_SITES", "Sites")},

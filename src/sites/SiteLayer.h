@@ -40,7 +40,7 @@ QString placingConnection(const SiteLayerInput &input);
 
 /// The text of the layer file, out of the installation's "template_sites.lay".
 ///
-/// @par Errors   MESS_MISSING_CONF_FILE with the template's path.
+/// @par Errors   those of missingChoice(); MESS_MISSING_CONF_FILE with the template's path.
 Result<SiteLayer> makeSiteLayer(const SiteLayerInput &input);
 
 /// The text of a layer file out of a template of the pylons' folder.

@@ -29,4 +29,23 @@ const SectorColorSet *chosenColorSet(const SiteRepresentation &representation,
     return entry(catalogues.colorSets, representation.colorSet);
 }
 
+std::optional<Error> missingChoice(const SiteRepresentation &representation,
+                                   const SiteCatalogues &catalogues, const QString &installDir)
+{
+    const auto missing = [&installDir](const QString &catalogue) {
+        return Error{QStringLiteral("MESS_MISSING_CONF_FILE"),
+                     QStringLiteral("A configuration file is missing"),
+                     installDir + QLatin1Char('/') + PylonFolder + catalogue};
+    };
+    if (catalogues.pylonTypes.isEmpty())
+        return missing(QStringLiteral("/list.xml"));
+    if (catalogues.colorSets.isEmpty())
+        return missing(QStringLiteral("/colors/sectors.xml"));
+    if (chosenPylonType(representation, catalogues) && chosenColorSet(representation, catalogues))
+        return std::nullopt;
+    return Error{QStringLiteral("MESS_NO_LOOK_CHOSEN"),
+                 QStringLiteral("No type of pylons or no sector colors are chosen"),
+                 {}};
+}
+
 } // namespace vlt::sites

@@ -1,7 +1,10 @@
 #pragma once
 
+#include "platform/Result.h"
 #include "sites/PylonTypes.h"
 #include "sites/SectorColorSets.h"
+
+#include <optional>
 
 namespace vlt::sites {
 
@@ -35,5 +38,12 @@ const PylonType *chosenPylonType(const SiteRepresentation &representation,
                                  const SiteCatalogues &catalogues);
 const SectorColorSet *chosenColorSet(const SiteRepresentation &representation,
                                      const SiteCatalogues &catalogues);
+
+/// Why no site can be drawn; none where a pylon type and a colour set are chosen.
+///
+/// @return  MESS_MISSING_CONF_FILE with the path of a catalogue that has nothing to choose from, or
+///          MESS_NO_LOOK_CHOSEN
+std::optional<Error> missingChoice(const SiteRepresentation &representation,
+                                   const SiteCatalogues &catalogues, const QString &installDir);
 
 } // namespace vlt::sites

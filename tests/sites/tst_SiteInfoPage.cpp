@@ -84,20 +84,33 @@ private Q_SLOTS:
         input.file.filePath = QStringLiteral("/nowhere/sites.csv");
         input.file.columns.heights = {QStringLiteral("H1")};
 
+        input.project.projectPath = QStringLiteral("/nowhere/p.gvw");
+
+        QCOMPARE(makeSiteLayer(input).error().path, pylons + QStringLiteral("list.xml"));
+        input.catalogues.pylonTypes = {{QStringLiteral("T"), {}, {}}};
+        QCOMPARE(makeSiteLayer(input).error().path, pylons + QStringLiteral("colors/sectors.xml"));
+        input.catalogues.colorSets = {{{QColor(255, 0, 0)}, {}, {}}};
+        input.representation.colorSet = -1;
+        QCOMPARE(makeSiteLayer(input).error().key, QStringLiteral("MESS_NO_LOOK_CHOSEN"));
+        input.representation.colorSet = 0;
         QCOMPARE(makeSiteLayer(input).error().path, pylons + QStringLiteral("template_sites.lay"));
 
         writeFile(pylons + QStringLiteral("template_sites.lay"),
                   "__TITLE__\n__SITE_URL__\n__LAYER__\n__SITE_FIELD__\n__Desc__\n__DESC__");
         const SiteLayer withoutPage = makeSiteLayer(input).value();
         QCOMPARE(withoutPage.warning->path, pylons + QStringLiteral("sites_infos_en.html"));
-        QCOMPARE(withoutPage.text, QStringLiteral("Sites\n\nNAME\nNAME\n\n__DESC__"));
+        const QString head = QStringLiteral(
+            "Sites\nsite:data_folder=addons/telecom/pylons,pylon_type=T,pylon_width=2.5,"
+            "sector_colors=ff0000ff,sector_properties=200 20 2,transmitter_scale=100,"
+            "lods=10000 1000,sites.csv\n");
+        QCOMPARE(withoutPage.text, head + QStringLiteral("NAME\nNAME\n\n__DESC__"));
 
         writeFile(pylons + QStringLiteral("sites_infos_en.html"), "<p>\n\xe9 __HEIGHT__\n</p>");
         const SiteLayer whole = makeSiteLayer(input).value();
         QVERIFY(!whole.warning);
         QCOMPARE(whole.text,
-                 QStringLiteral("Sites\n\nNAME\nNAME\n<p>\u00e9 <tr><td>Height</td><td>[H1]</td>"
-                                "</tr></p>\n__DESC__"));
+                 head + QStringLiteral("NAME\nNAME\n<p>\u00e9 <tr><td>Height</td><td>[H1]</td>"
+                                       "</tr></p>\n__DESC__"));
     }
 };
 

@@ -93,14 +93,35 @@ private Q_SLOTS:
         QCOMPARE(vlt::platform::wizardSettings()->value(u"Other/"_s + key).toDouble(), remembered);
     }
 
-    void choosesNothingForAnIndexBeyondTheCatalogue()
+    void takesTheFirstRunsValueForOneThatIsNone_data()
     {
-        vlt::platform::wizardSettings()->setValue(u"P/PylonMenuEntry"_s, 99);
+        QTest::addColumn<QString>("value");
+        QTest::addColumn<double>("height");
+        QTest::addColumn<int>("distance");
+
+        QTest::newRow("no number") << u"abc"_s << 20.0 << 10000;
+        QTest::newRow("not a number") << u"nan"_s << 20.0 << 10000;
+        QTest::newRow("infinite") << u"-inf"_s << 20.0 << 10000;
+        QTest::newRow("beyond every number") << u"1e400"_s << 20.0 << 10000;
+        QTest::newRow("above the range") << u"1e12"_s << 1e8 << 1000000000;
+        QTest::newRow("below the range") << u"-7"_s << 0.01 << 0;
+    }
+
+    void takesTheFirstRunsValueForOneThatIsNone()
+    {
+        QFETCH(QString, value);
+        for (const QString &key :
+             {u"SectorHeight"_s, u"SymbolicDistance"_s, u"PylonMenuEntry"_s, u"ColorMenuEntry"_s})
+            vlt::platform::wizardSettings()->setValue(u"P/"_s + key, value);
         VltSiteProperties panel(Installation, u"en"_s);
 
         panel.loadSettings(u"P"_s);
 
-        QCOMPARE(panel.representation().pylonType, -1);
+        const vlt::sites::SiteRepresentation shown = panel.representation();
+        QTEST(shown.sectorHeight, "height");
+        QTEST(shown.symbolicDistance, "distance");
+        QCOMPARE(shown.pylonType, 0);
+        QCOMPARE(shown.colorSet, 0);
     }
 
     void announcesEveryChangeOnce()

@@ -157,10 +157,28 @@ private Q_SLOTS:
         QVERIFY(!flow.icon->isEnabled());
     }
 
-    void tellsOfAPylonThatCannotBeShownAndMakesTheLayer()
+    void tellsOfAPylonThatCannotBeShown_data()
     {
-        vlt::platform::wizardSettings()->setValue(u"AddSitePage/PylonMenuEntry"_s, 99);
-        WizardOnSitePage flow;
+        QTest::addColumn<QByteArray>("catalogue");
+        QTest::addColumn<bool>("hasLayer");
+
+        QTest::newRow("type that cannot be drawn here")
+            << QByteArray("<pylons><pylon type=\"of another builder\"/></pylons>") << true;
+        QTest::newRow("nothing to choose from") << QByteArray("<pylons/>") << false;
+    }
+
+    void tellsOfAPylonThatCannotBeShown()
+    {
+        QFETCH(QByteArray, catalogue);
+        QFETCH(bool, hasLayer);
+        const QTemporaryDir own;
+        const QString source = installation() + u"/."_s;
+        QCOMPARE(QProcess::execute(u"cp"_s, {u"-R"_s, source, own.path()}), 0);
+        const QString path = own.path() + u"/addons/telecom/pylons/list.xml"_s;
+        QFile list(path);
+        QVERIFY(list.open(QIODevice::WriteOnly) && list.write(catalogue) == catalogue.size());
+        list.close();
+        WizardOnSitePage flow(own.path());
         AnsweredBoxes boxes;
 
         dropFiles(flow.page, {Samples + u"/sites.csv"_s});
@@ -168,7 +186,11 @@ private Q_SLOTS:
         QCOMPARE(boxes.seen.size(), 1);
         QCOMPARE(boxes.seen.constFirst().title, u"Error"_s);
         QCOMPARE(boxes.seen.constFirst().text, u"The pylon url didn't return a valid node !"_s);
-        QVERIFY(flow.icon->isEnabled());
+        QCOMPARE(flow.icon->isEnabled(), hasLayer);
+        const auto *reason = flow.widget<QLabel>(u"m_pwLblReason"_s);
+        QCOMPARE(reason->isVisible(), !hasLayer);
+        QCOMPARE(reason->text(),
+                 hasLayer ? QString() : u"A configuration file is missing\n"_s + path);
     }
 
     void showsThePylonOrTheSitesOfTheLayer()

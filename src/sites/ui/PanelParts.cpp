@@ -32,7 +32,7 @@ void showWholeTexts(QComboBox *combo)
 
 void selectEntry(QComboBox *combo, int index)
 {
-    combo->setCurrentIndex(index >= 0 && index < combo->count() ? index : -1);
+    combo->setCurrentIndex(index >= 0 && index < combo->count() ? index : 0);
 }
 
 } // namespace vlt::sites

@@ -14,7 +14,7 @@ void narrowSpinBoxes(QWidget *panel);
 /// tip tells the chosen one.
 void showWholeTexts(QComboBox *combo);
 
-/// Chooses an entry, or none where there is no such entry.
+/// Chooses an entry, or the first one where there is no such entry.
 void selectEntry(QComboBox *combo, int index);
 
 /// Connects every spin box and combo of a panel to its signal parameterChanged().

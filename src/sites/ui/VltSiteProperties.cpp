@@ -8,14 +8,18 @@
 
 #include <QSettings>
 
+#include <algorithm>
+#include <cmath>
 #include <functional>
+#include <limits>
 #include <vector>
 
 namespace {
 
 using vlt::sites::SiteRepresentation;
 
-/// A remembered value: its key and how it is carried to and from the settings.
+/// A remembered value: its key and how it is carried to and from the settings. What does not read
+/// as a number leaves the representation as it is.
 struct Remembered
 {
     QString key;
@@ -23,18 +27,17 @@ struct Remembered
     std::function<QVariant(const SiteRepresentation &)> write;
 };
 
-Remembered remembered(const char *key, double SiteRepresentation::*member)
-{
-    return {
-        QString::fromLatin1(key),
-        [member](SiteRepresentation &to, const QVariant &value) { to.*member = value.toDouble(); },
-        [member](const SiteRepresentation &from) { return QVariant(from.*member); }};
-}
-
-Remembered remembered(const char *key, int SiteRepresentation::*member)
+template<typename Number>
+Remembered remembered(const char *key, Number SiteRepresentation::*member)
 {
     return {QString::fromLatin1(key),
-            [member](SiteRepresentation &to, const QVariant &value) { to.*member = value.toInt(); },
+            [member](SiteRepresentation &to, const QVariant &value) {
+                constexpr double Most = std::numeric_limits<Number>::max();
+                bool isNumber = false;
+                const double number = value.toDouble(&isNumber);
+                if (isNumber && std::isfinite(number))
+                    to.*member = static_cast<Number>(std::clamp(number, -Most, Most));
+            },
             [member](const SiteRepresentation &from) { return QVariant(from.*member); }};
 }
 

@@ -21,7 +21,8 @@ public:
                       QWidget *parent = nullptr);
     ~VltSiteProperties() override;
 
-    /// Reads the values remembered under "<prefix>/..." or those of a first run. Emits nothing.
+    /// Reads the values remembered under "<prefix>/..."; one that is missing, is no number or
+    /// chooses no entry of its catalogue is that of a first run. Emits nothing.
     virtual void loadSettings(const QString &prefix);
     virtual void saveSettings(const QString &prefix);
 
@@ -31,7 +32,7 @@ public:
     /// @param kind  "site"
     QString buildPreviewPylonUrl(const QString &kind) const;
 
-    /// The values as they stand; an index is -1 where nothing is chosen.
+    /// The values as they stand; an index is -1 where the catalogue is empty.
     vlt::sites::SiteRepresentation representation() const;
     const vlt::sites::SiteCatalogues &catalogues() const { return m_catalogues; }
 

@@ -252,10 +252,10 @@ void VltTablePage::showFile()
 {
     const vlt::sites::TableFileInfo &read = file();
     // a refused drop leaves the path of the line as it was: the reason names its file itself
-    m_ui->m_pwLblReason->setText(
-        tr("%1: %2", "MESS_FILE_REASON")
-            .arg(QFileInfo(m_pathRead).fileName(), vlt::sites::tableText(read.errorDetail)));
-    m_ui->m_pwLblReason->setVisible(!read.errorDetail.isEmpty());
+    showReason(read.errorDetail.isEmpty() ? QString()
+                                          : tr("%1: %2", "MESS_FILE_REASON")
+                                                .arg(QFileInfo(m_pathRead).fileName(),
+                                                     vlt::sites::tableText(read.errorDetail)));
     if (!read.valid) {
         m_pwDragIcon->setLayerFile({});
         m_ui->m_pwGbPreview->leaveLayer();
@@ -270,6 +270,13 @@ void VltTablePage::showFile()
     if (!read.systems.target.isEmpty())
         m_panelSrs->setTargetSrs(read.systems.target);
     showDetails();
+}
+
+/// Why there is no layer; an empty text where there is one or no table was chosen.
+void VltTablePage::showReason(const QString &reason)
+{
+    m_ui->m_pwLblReason->setText(reason);
+    m_ui->m_pwLblReason->setVisible(!reason.isEmpty());
 }
 
 void VltTablePage::updatePreview()
@@ -327,6 +334,11 @@ void VltTablePage::previewPrecise()
 void VltTablePage::writeLayerFile()
 {
     checkRows();
+    const auto obstacle = vlt::sites::missingChoice(m_panelProperties->representation(),
+                                                    m_panelProperties->catalogues(), installDir());
+    showReason(obstacle ? vlt::messages::textOf(*obstacle) : QString());
+    if (obstacle)
+        return;
     const vlt::Result<vlt::sites::SiteLayer> layer = makeLayer();
     if (!layer) {
         vlt::messages::critical(this, layer.error());

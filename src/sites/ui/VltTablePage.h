@@ -117,6 +117,7 @@ private:
     void orderFocus();
     void fitInputWidth();
     void showFile();
+    void showReason(const QString &reason);
     void createLayerFile();
     void showDemonstration();
     void writeLayerFile();

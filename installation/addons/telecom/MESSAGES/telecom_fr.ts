@@ -59,6 +59,10 @@ Les coordonnées sont _C_ et exprimées en _U_</translation>
         <extracomment>Title of the layer.</extracomment>
         <translation>Sites</translation>
     </message>
+    <message id="MESS_NO_LOOK_CHOSEN">
+        <source>No type of pylons or no sector colors are chosen</source>
+        <translation>Le type de pylône ou les couleurs des secteurs ne sont pas choisis</translation>
+    </message>
     <message id="MESS_MISSING_CONF_FILE">
         <source>A configuration file is missing</source>
         <translation>Un fichier de configuration est absent</translation>
