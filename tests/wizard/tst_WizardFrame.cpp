@@ -21,6 +21,39 @@ public:
 
     void click(const QString &button) { findChild<QAbstractButton *>(button)->click(); }
 
+    /// Where the keyboard can be, in any order.
+    QStringList stops() const
+    {
+        QStringList names;
+        for (const QWidget *widget : findChildren<QWidget *>()) {
+            if ((widget->focusPolicy() & Qt::TabFocus) && !widget->focusProxy() &&
+                widget->isVisible() && widget->isEnabled())
+                names << nameOf(*widget);
+        }
+        names.sort();
+        return names;
+    }
+
+    /// What the key leads to, one after the other, until it is back where it started.
+    QStringList walk(Qt::Key key)
+    {
+        constexpr int Endless = 200;
+        const QWidget *start = focusWidget();
+        QStringList names;
+        do {
+            QTest::keyClick(focusWidget(), key);
+            names << nameOf(*focusWidget());
+        } while (focusWidget() != start && names.size() < Endless);
+        names.sort();
+        return names;
+    }
+
+    static QString nameOf(const QWidget &widget)
+    {
+        const QString name = widget.objectName();
+        return name.isEmpty() ? QString::fromLatin1(widget.metaObject()->className()) : name;
+    }
+
     QStringList visibleButtons() const
     {
         QStringList texts;
@@ -128,6 +161,31 @@ private Q_SLOTS:
         press(Qt::Key_Return);
         QCOMPARE(wizard.page(1)->nextId(), 4);
         QCOMPARE(wizard.field(u"ProjectName"_s), u"kept"_s);
+    }
+
+    void tabReachesEveryStopAndComesBack_data()
+    {
+        QTest::addColumn<int>("page");
+        QTest::newRow("sites") << 2;
+        QTest::newRow("links") << 3;
+        QTest::newRow("coloured buildings") << 6;
+        QTest::newRow("display of buildings") << 7;
+    }
+
+    void tabReachesEveryStopAndComesBack()
+    {
+        QFETCH(int, page);
+        const AnsweredBoxes boxes;
+        Wizard wizard;
+        wizard.setStartId(page);
+        wizard.restart();
+        QVERIFY(QTest::qWaitForWindowExposed(&wizard));
+        wizard.activateWindow();
+        QTest::qWait(300);
+        QVERIFY(wizard.focusWidget());
+
+        QCOMPARE(wizard.walk(Qt::Key_Tab), wizard.stops());
+        QCOMPARE(wizard.walk(Qt::Key_Backtab), wizard.stops());
     }
 
     void asksBeforeItQuits()

@@ -29,6 +29,16 @@ QString refusalDetail(const QString &path, const QString &reason)
     return translated.isEmpty() ? path : path + QLatin1Char('\n') + translated;
 }
 
+/// Whether Tab stops at a widget, or takes it for a part of it that it hands the keyboard to. The
+/// toolkit looks at both: a whole that stands behind its part sends Tab back to it for ever.
+bool isTabStop(const QWidget &widget)
+{
+    const QWidget *stop = &widget;
+    while (stop->focusProxy())
+        stop = stop->focusProxy();
+    return (stop->focusPolicy() & Qt::TabFocus) && (stop == &widget || widget.isAncestorOf(stop));
+}
+
 } // namespace
 
 VltTablePage::VltTablePage(QWidget *wizard, SharedParameters &parameters, const QString &installDir,
@@ -151,8 +161,7 @@ void VltTablePage::orderFocus()
     for (const QWidget *group : std::as_const(groups)) {
         for (QWidget *widget = nextInFocusChain(); widget != this;
              widget = widget->nextInFocusChain()) {
-            const bool isStop = (widget->focusPolicy() & Qt::TabFocus) && !widget->focusProxy();
-            if (isStop && (widget == group || group->isAncestorOf(widget)))
+            if (isTabStop(*widget) && (widget == group || group->isAncestorOf(widget)))
                 ordered << widget;
         }
     }
