@@ -353,10 +353,9 @@ void VltTablePage::writeLayerFile()
         vlt::messages::critical(this, layer.error());
         return;
     }
-    if (layer.value().warning && !m_missingPageTold)
+    if (layer.value().warning)
         vlt::messages::warning(this, {layer.value().warning->key, layer.value().warning->text, {}},
                                tr("Error !!!", "MESS_ERREUR"));
-    m_missingPageTold = layer.value().warning.has_value();
 
     const QString path = vlt::wizard::temporaryLayerFileName(m_kind.layerBaseName);
     const auto written =

@@ -136,5 +136,4 @@ private:
     bool m_isReading = false;
     bool m_isCreating = false;
     bool m_createAgain = false;
-    bool m_missingPageTold = false;
 };
