@@ -58,6 +58,7 @@ private Q_SLOTS:
         QVERIFY(flow.icon);
         QCOMPARE(flow.description(), NoSites);
         QVERIFY(!flow.icon->isEnabled());
+        QVERIFY(!flow.wizard.currentPage()->isComplete());
         FileDialogAnswer dialog(path);
 
         flow.widget<QAbstractButton>(u"m_pwPbSite"_s)->click();
@@ -71,6 +72,13 @@ private Q_SLOTS:
         QCOMPARE(layer, layerOfCommandLine(u"site"_s, path,
                                            {u"--transparency"_s, QString::number(transparency)}));
         QCOMPARE(vlt::platform::wizardSettings()->value(u"LastUsedDir"_s), Samples);
+
+        const VltTelecomLayersWizard unshown(installation(), u"en"_s);
+        QWizardPage *restored = unshown.page(2);
+        QVERIFY(restored->isComplete());
+        QVERIFY(restored->findChild<QLabel *>(u"m_pwLblFileInfo"_s)->text() != NoSites);
+        QVERIFY(!restored->findChild<DraggableIcon *>()->isEnabled());
+        QVERIFY(!restored->findChild<W_simpleOSGViewer *>()->getSceneData());
 
         WizardOnSitePage nextTime;
         QVERIFY(nextTime.icon->isEnabled());
@@ -122,6 +130,7 @@ private Q_SLOTS:
         QCOMPARE(boxes.seen.constFirst().title, u"Error"_s);
         QCOMPARE(boxes.seen.constFirst().text, text);
         QVERIFY(!flow.icon->isEnabled());
+        QVERIFY(!flow.wizard.currentPage()->isComplete());
         QCOMPARE(flow.description(), NoSites);
     }
 

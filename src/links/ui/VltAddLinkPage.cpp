@@ -20,7 +20,7 @@ VltAddLinkPage::VltAddLinkPage(QWidget *wizard, SharedParameters &parameters,
     addDetails(m_panelDetails);
     connect(m_panelLinks, &VltLinkProperties::parameterChanged, this,
             &VltAddLinkPage::updatePreview);
-    VltAddLinkPage::restoreSettings();
+    readRememberedFile();
 }
 
 vlt::sites::TablePageKind VltAddLinkPage::linkKind()

@@ -8,7 +8,7 @@ VltAddSitePage::VltAddSitePage(QWidget *wizard, SharedParameters &parameters,
     , m_panelDetails(new VltSiteDetails(this))
 {
     addDetails(m_panelDetails);
-    VltAddSitePage::restoreSettings();
+    readRememberedFile();
 }
 
 vlt::sites::TablePageKind VltAddSitePage::siteKind()

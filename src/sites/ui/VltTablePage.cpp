@@ -110,6 +110,12 @@ void VltTablePage::connectWidgets()
     m_ui->m_pwLeTable->installEventFilter(this);
 }
 
+void VltTablePage::readRememberedFile()
+{
+    restoreSettings();
+    readFileInfo(m_ui->m_pwLeTable->text(), true);
+}
+
 void VltTablePage::addDetails(VltTableDetails *details)
 {
     m_panelDetails = details;
@@ -196,6 +202,11 @@ void VltTablePage::initializePage()
     readFileInfo(m_ui->m_pwLeTable->text(), true);
 }
 
+bool VltTablePage::isComplete() const
+{
+    return BasePage::isComplete() && file().valid;
+}
+
 bool VltTablePage::validatePage()
 {
     return vlt::messages::confirmed(
@@ -255,6 +266,7 @@ void VltTablePage::readFileInfo(const QString &path, bool quiet)
                                 refusalDetail(path, file().errorDetail));
     createLayerFile();
     m_isReading = false;
+    Q_EMIT completeChanged();
 }
 
 void VltTablePage::showFile()

@@ -10,6 +10,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace Ui {
 class TablePage;
@@ -23,7 +24,7 @@ class VltTableDetails;
 /// written anew after every change.
 ///
 /// A page of a kind of table makes its panels in its constructor, calls addDetails() and then
-/// restoreSettings().
+/// readRememberedFile().
 class VltTablePage : public BasePage
 {
     Q_OBJECT
@@ -35,6 +36,9 @@ public:
 
     void initializePage() override;
     bool validatePage() override;
+
+    /// Whether a layer can be made of the table.
+    bool isComplete() const override;
     int nextId() const override { return -1; }
 
     void saveSettings() override;
@@ -61,21 +65,29 @@ public Q_SLOTS:
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
+    /// Restores the settings and reads the remembered table: without a box, a layer or a preview,
+    /// which wait until the page is shown.
+    void readRememberedFile();
+
     /// Takes the panel that tells what was understood of the table.
     void addDetails(VltTableDetails *details);
 
     /// Takes a panel that goes above that of the pylons.
     void addPanel(QWidget *panel);
 
-    /// Reads a table on another thread; an empty value where the user stops it.
+    /// Reads a table on another thread; an empty value where the user stops it, or where the page
+    /// was not shown yet and it takes longer than a moment.
     template<typename Info>
     Info waitForInfo(const QString &path,
                      Info (*read)(const QString &, const vlt::sites::ProjectContext &))
     {
-        return vlt::wizard::waitForValue<Info>(
-                   this, m_kind.reading,
-                   [path, read, project = m_project] { return read(path, project); })
-            .value_or(Info());
+        const std::function<Info()> work = [path, read, project = m_project] {
+            return read(path, project);
+        };
+        const std::optional<Info> info =
+            m_isActive ? vlt::wizard::waitForValue<Info>(this, m_kind.reading, work)
+                       : vlt::wizard::valueWithinMoment<Info>(work);
+        return info.value_or(Info());
     }
 
     /// The part of a layer's input that all kinds have.

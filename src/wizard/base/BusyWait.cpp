@@ -97,6 +97,11 @@ bool waitFor(QWidget *parent, const QString &text,
     return waitForJob(parent, text, static_cast<int>(PerCent), *job);
 }
 
+bool waitForMoment(const std::function<void()> &work)
+{
+    return start([work](Job &) { work(); })->ended.tryAcquire(1, PatienceMs);
+}
+
 bool isWorkRunning()
 {
     return runningWorks > 0;

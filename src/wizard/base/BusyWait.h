@@ -47,8 +47,22 @@ std::optional<T> waitForValue(QWidget *parent, const QString &text,
     return std::move(*value);
 }
 
-/// Whether work goes on that the user cancelled. A program that ends meanwhile must end at once,
-/// without taking down what the work uses.
+/// Runs `work` on another thread and waits a moment for it, without any dialog. False where it
+/// takes longer: the work then goes on unseen, as above.
+bool waitForMoment(const std::function<void()> &work);
+
+/// The same for work that gives a value; nothing where it takes longer.
+template<typename T>
+std::optional<T> valueWithinMoment(const std::function<T()> &work)
+{
+    const auto value = std::make_shared<std::optional<T>>();
+    if (!waitForMoment([value, work] { value->emplace(work()); }))
+        return std::nullopt;
+    return std::move(*value);
+}
+
+/// Whether work goes on that the user cancelled, or that nobody waits for any more. A program that
+/// ends meanwhile must end at once, without taking down what the work uses.
 bool isWorkRunning();
 
 } // namespace vlt::wizard
