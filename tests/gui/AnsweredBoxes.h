@@ -13,6 +13,7 @@ struct SeenBox
     QString text;
     QMessageBox::StandardButtons buttons;
     bool hasDefaultButton = false;
+    QString focusedButton; ///< its text
 };
 
 /// While it lives, presses `answer` on every message box that opens and keeps what it said. A box
@@ -27,7 +28,7 @@ public:
             if (!box)
                 return;
             seen.append({box->icon(), box->windowTitle(), box->text(), box->standardButtons(),
-                         box->defaultButton() != nullptr});
+                         box->defaultButton() != nullptr, focusedText(*box)});
             QAbstractButton *button = box->button(answer);
             (button ? button : box->buttons().constFirst())->click();
         });
@@ -37,5 +38,11 @@ public:
     QList<SeenBox> seen;
 
 private:
+    static QString focusedText(const QMessageBox &box)
+    {
+        const auto *button = qobject_cast<QAbstractButton *>(box.focusWidget());
+        return button ? button->text().remove(QLatin1Char('&')) : QString();
+    }
+
     QTimer m_timer;
 };

@@ -207,6 +207,7 @@ private Q_SLOTS:
             QCOMPARE(box.text, u"Voulez-vous quitter l'application ?"_s);
             QCOMPARE(box.buttons, QMessageBox::Yes | QMessageBox::No);
             QVERIFY(!box.hasDefaultButton);
+            QCOMPARE(box.focusedButton, u"No"_s);
             QCOMPARE(wizard.isVisible(), answer == QMessageBox::No);
             QCOMPARE(wizard.currentId(), answer == QMessageBox::No ? 1 : -1);
             wizard.resize(1000, 600); // between the questions: only leaving can save it

@@ -3,6 +3,7 @@
 #include "language/VltLanguageManager.h"
 #include "text/RichText.h"
 
+#include <QAbstractButton>
 #include <QMessageBox>
 
 namespace vlt::messages {
@@ -49,6 +50,8 @@ bool confirmed(QWidget *parent, const QString &question)
     QMessageBox box(QMessageBox::Question, QString(), question, QMessageBox::Yes | QMessageBox::No,
                     parent);
     box.setTextFormat(Qt::PlainText);
+    // without a default button the toolkit gives the keyboard to Yes
+    box.button(QMessageBox::No)->setFocus();
     return box.exec() == QMessageBox::Yes;
 }
 

@@ -25,6 +25,7 @@ void critical(QWidget *parent, const Error &error, const QString &title = errorT
 void warning(QWidget *parent, const Error &error, const QString &title, const QString &detail = {});
 
 /// A question box with an empty title, the buttons Yes and No and no default button; true on Yes.
+/// The keyboard is on No: who presses Return without looking changes nothing.
 bool confirmed(QWidget *parent, const QString &question);
 
 } // namespace vlt::messages
