@@ -16,6 +16,8 @@
 namespace {
 
 constexpr int RefreshMs = 10;
+/// What a frame asks for, such as another level of detail, shows in those that follow.
+constexpr int SettlingFrames = 3;
 constexpr int DepthBits = 24;
 constexpr int SamplesPerPixel = 4;
 constexpr double ClickTolerance = 4; ///< pixels that the mouse may move in a click
@@ -83,7 +85,10 @@ W_simpleOSGViewer::W_simpleOSGViewer(const QSurfaceFormat &format, QWidget *pare
     makeGraphicsWindow(shareContext);
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
-    connect(&m_refresh, &QTimer::timeout, this, [this] { QOpenGLWidget::update(); });
+    connect(&m_refresh, &QTimer::timeout, this, [this] {
+        if (needsFrame())
+            QOpenGLWidget::update();
+    });
     m_refresh.start(RefreshMs);
 }
 
@@ -152,11 +157,25 @@ void W_simpleOSGViewer::initializeGL()
         makeGraphicsWindow(nullptr);
     }
     m_wasInitialised = true;
+    m_framesToDraw = SettlingFrames;
 }
 
 void W_simpleOSGViewer::resizeGL(int width, int height)
 {
     applySize((QSizeF(width, height) * devicePixelRatioF()).toSize());
+}
+
+/// Whether the next picture may be another one.
+bool W_simpleOSGViewer::needsFrame()
+{
+    if (!isVisible())
+        return false;
+    const bool isDue =
+        getSceneData() != m_drawnScene.get() || !events().empty() || m_trackBall->isTurning() ||
+        m_trackBall->getInverseMatrix() != getCamera()->getViewMatrix() || checkNeedToDoFrame();
+    if (isDue)
+        m_framesToDraw = SettlingFrames;
+    return m_framesToDraw > 0;
 }
 
 void W_simpleOSGViewer::paintGL()
@@ -167,6 +186,8 @@ void W_simpleOSGViewer::paintGL()
         applySize(pixels);
     m_graphicsWindow->setDefaultFboId(defaultFramebufferObject());
     frame();
+    m_drawnScene = getSceneData();
+    m_framesToDraw = std::max(m_framesToDraw - 1, 0);
     const double distance = std::max(m_trackBall->getDistance(), 1.0);
     m_levelOfDetail = getCamera()->getViewport()->height() / distance;
 }
@@ -189,6 +210,7 @@ void W_simpleOSGViewer::showScene(osg::Node *scene)
     else if (scene)
         centerView();
     m_wasShown = m_wasShown || scene;
+    m_framesToDraw = SettlingFrames;
     QOpenGLWidget::update();
 }
 

@@ -5,6 +5,7 @@
 #include <QSurfaceFormat>
 #include <QTimer>
 
+#include <osg/observer_ptr>
 #include <osgUtil/LineSegmentIntersector>
 #include <osgViewer/GraphicsWindow>
 #include <osgViewer/Viewer>
@@ -15,7 +16,11 @@
 class VltTrackBall;
 
 /// A small 3D view: an OpenGL widget that is at the same time a scene viewer. It draws the scene
-/// that a page hands it as scene data, without end, and moves the camera by a trackball.
+/// that a page hands it as scene data, and moves the camera by a trackball.
+///
+/// A timer looks a hundred times a second whether another picture is due: the scene or the camera
+/// is another one, there are events, the scene animates itself or has loaded something. A change
+/// within a scene that says nothing of itself is to be told by requestRedraw().
 ///
 /// Everything happens on the thread of the interface. The widget is owned by its parent.
 // NOLINTNEXTLINE(readability-identifier-naming): the widget's established name
@@ -97,6 +102,7 @@ private:
     void makeGraphicsWindow(osg::GraphicsContext *shareContext);
     void applySize(const QSize &pixels);
     void pick(const QPointF &position);
+    bool needsFrame();
 
     osg::ref_ptr<osgViewer::GraphicsWindowEmbedded> m_graphicsWindow;
     QTimer m_refresh;
@@ -107,6 +113,8 @@ private:
     std::optional<double> m_elevationDeg;
     bool m_wasInitialised = false;
     bool m_wasShown = false;
+    osg::observer_ptr<osg::Node> m_drawnScene;
+    int m_framesToDraw = 0;
     QPointF m_pressedAt;
 };
 

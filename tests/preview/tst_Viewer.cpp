@@ -14,6 +14,8 @@
 #include <osg/Shape>
 #include <osg/ShapeDrawable>
 
+#include <functional>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -249,6 +251,61 @@ private Q_SLOTS:
         const osg::Vec3d stopped = eye();
         waitForFrames();
         QCOMPARE((eye() - stopped).length(), 0);
+    }
+
+    void drawsOnlyWhatChanges_data()
+    {
+        using Change = std::function<void(W_simpleOSGViewer &)>;
+        QTest::addColumn<Change>("change");
+        QTest::addColumn<bool>("once"); // or on and on
+
+        QTest::newRow("wheel") << Change([](W_simpleOSGViewer &view) {
+            QWheelEvent wheel({5, 5}, view.mapToGlobal(QPointF(5, 5)), {}, {0, 120}, Qt::NoButton,
+                              Qt::NoModifier, Qt::NoScrollPhase, false);
+            QApplication::sendEvent(&view, &wheel);
+        }) << true;
+        QTest::newRow("key") << Change([](W_simpleOSGViewer &view) {
+            QTest::keyClick(&view, Qt::Key_Left);
+        }) << true;
+        QTest::newRow("camera") << Change([](W_simpleOSGViewer &view) {
+            view.placeCamera(300, 20);
+        }) << true;
+        QTest::newRow("size") << Change([](W_simpleOSGViewer &view) {
+            view.window()->resize(330, 240);
+        }) << true;
+        QTest::newRow("scene") << Change([](W_simpleOSGViewer &view) {
+            view.showScene(ballAt({0, 0, 30}));
+        }) << true;
+        QTest::newRow("scene, as the library takes it") << Change([](W_simpleOSGViewer &view) {
+            view.setSceneData(ballAt({0, 0, 30}));
+        }) << true;
+        QTest::newRow("asked for")
+            << Change([](W_simpleOSGViewer &view) { view.requestRedraw(); }) << true;
+        QTest::newRow("demonstration")
+            << Change([](W_simpleOSGViewer &view) { view.startDemo(); }) << false;
+        QTest::newRow("scene that moves by itself") << Change([](W_simpleOSGViewer &view) {
+            osg::ref_ptr<osg::Node> ball = ballAt({});
+            ball->setUpdateCallback(new osg::NodeCallback);
+            view.showScene(ball);
+        }) << false;
+    }
+
+    void drawsOnlyWhatChanges()
+    {
+        QFETCH(std::function<void(W_simpleOSGViewer &)>, change);
+        QFETCH(bool, once);
+        m_viewer->showScene(ballAt({}));
+        const auto framesOfAWhile = [this] {
+            const auto before = m_viewer->getViewerFrameStamp()->getFrameNumber();
+            QTest::qWait(250);
+            return m_viewer->getViewerFrameStamp()->getFrameNumber() - before;
+        };
+        QTRY_COMPARE(framesOfAWhile(), 0U);
+
+        change(*m_viewer);
+
+        QVERIFY(framesOfAWhile() > 0);
+        QTRY_COMPARE(framesOfAWhile() == 0, once);
     }
 
     void tellsWhatAClickMeets()
