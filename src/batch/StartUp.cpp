@@ -3,6 +3,7 @@
 #include "app/Environment.h"
 #include "app/GeodataLibrary.h"
 #include "app/LoadMessages.h"
+#include "batch/Console.h"
 #include "language/VltLanguageManager.h"
 #include "wizard/project/ProjectReaders.h"
 
@@ -35,6 +36,8 @@ Result<Surroundings> startUp(const GlobalOptions &options)
     const Result<QString> terrain = project::terrainFile(options.projectPath);
     if (!terrain)
         return terrain.error();
+    if (!options.quiet && project::namesNothing(options.projectPath))
+        printError(explain({{}, project::namesNothingText(), options.projectPath}));
     surroundings.project = {options.projectPath, terrain.value()};
     return surroundings;
 }

@@ -14,7 +14,7 @@ struct Surroundings
 };
 
 /// Settles install directory and language, loads the messages, sets the geodata library up and
-/// reads the project.
+/// reads the project. A project that names nothing is told on the error output.
 ///
 /// @par Errors   MESS_OUV_PRJ_IMP for a project that cannot be read; an install directory that is
 /// not there.

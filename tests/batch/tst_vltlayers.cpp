@@ -147,6 +147,20 @@ private Q_SLOTS:
         QCOMPARE(quiet.errors, QByteArray());
     }
 
+    void warnsOfAProjectThatNamesNothing()
+    {
+        writeFile(path(u"s.csv"_s), Table);
+        writeFile(path(u"bad.gvw"_s), "not a project");
+
+        const Run run = start(u"site ../s.csv -o o.lay --project ../bad.gvw"_s);
+        const Run quiet = start(u"site ../s.csv -o o.lay --project ../bad.gvw --quiet"_s);
+
+        QCOMPARE(run.status, 0);
+        QCOMPARE(run.errors, QByteArray("vltlayers: ../bad.gvw: the project names neither a "
+                                        "reference system nor a terrain nor buildings\n"));
+        QCOMPARE(quiet.errors, QByteArray());
+    }
+
     void refusesAndLeavesTheOldLayer_data()
     {
         QTest::addColumn<QString>("arguments");

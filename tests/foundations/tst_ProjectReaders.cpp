@@ -114,6 +114,26 @@ private Q_SLOTS:
         QTEST(referenceProjection(project(text)), "expected");
     }
 
+    void knowsProjectsThatNameNothing_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<bool>("namesNothing");
+
+        QTest::newRow("another file") << QByteArray("not a project") << true;
+        QTest::newRow("empty section")
+            << QByteArray("DEM Layers\n Files :\nVector layer\n") << true;
+        QTest::newRow("terrain") << QByteArray("DEM Layers\n Files : d.tif\n") << false;
+        QTest::newRow("system") << QByteArray("DEM Layers\nReference Projection : 2154") << false;
+        QTest::newRow("buildings")
+            << QByteArray("Vector layer\n File : b.shp\n Layer name : bat\n") << false;
+    }
+
+    void knowsProjectsThatNameNothing()
+    {
+        QFETCH(QByteArray, text);
+        QTEST(namesNothing(project(text)), "namesNothing");
+    }
+
     void saysWhichProjectCannotBeRead()
     {
         for (const QString &path : {QString(), u"/no/such.gvw"_s, u"/dev/zero"_s}) {
@@ -125,6 +145,7 @@ private Q_SLOTS:
                 QCOMPARE(file.error().path, path);
             }
             QCOMPARE(referenceProjection(path), QString());
+            QVERIFY(!namesNothing(path));
         }
     }
 };

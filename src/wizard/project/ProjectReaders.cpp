@@ -1,5 +1,6 @@
 #include "wizard/project/ProjectReaders.h"
 
+#include "language/VltLanguageManager.h"
 #include "platform/TextDecoding.h"
 
 #include <QDir>
@@ -126,6 +127,19 @@ QString referenceProjection(const QString &projectPath)
         return {};
     // the value also ends where the label is repeated on the same line
     return restOfLine(text, label + Projection.size()).section(Projection, 0, 0).trimmed();
+}
+
+bool namesNothing(const QString &projectPath)
+{
+    const Result<QString> terrain = terrainFile(projectPath);
+    return terrain && terrain.value().isEmpty() && referenceProjection(projectPath).isEmpty() &&
+           buildingVectorFile(projectPath).value().isEmpty();
+}
+
+QString namesNothingText()
+{
+    return dico_label("MESS_PROJECT_NAMES_NOTHING", "the project names neither a reference system "
+                                                    "nor a terrain nor buildings");
 }
 
 } // namespace vlt::project

@@ -165,5 +165,9 @@ Buildings can be colored or textured with images (ortho-images, coverage plots, 
         <extracomment>Used where the system has no translations of Qt.</extracomment>
         <translation>&amp;No</translation>
     </message>
+    <message id="MESS_PROJECT_NAMES_NOTHING">
+        <source>the project names neither a reference system nor a terrain nor buildings</source>
+        <translation>the project names neither a reference system nor a terrain nor buildings</translation>
+    </message>
 </context>
 </TS>

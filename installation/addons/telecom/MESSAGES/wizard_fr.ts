@@ -165,5 +165,9 @@ Les bâtiments peuvent être colorés ou texturés avec des images (orthophotos,
         <extracomment>Used where the system has no translations of Qt.</extracomment>
         <translation>&amp;Non</translation>
     </message>
+    <message id="MESS_PROJECT_NAMES_NOTHING">
+        <source>the project names neither a reference system nor a terrain nor buildings</source>
+        <translation>le projet ne nomme ni système de référence, ni terrain, ni bâtiments</translation>
+    </message>
 </context>
 </TS>
