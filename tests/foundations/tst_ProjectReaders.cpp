@@ -1,7 +1,9 @@
 #include "wizard/project/ProjectReaders.h"
 
+#include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QStringEncoder>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -47,12 +49,23 @@ private Q_SLOTS:
         row("other files before the section",
             "Image Layers\nFiles : i.tif\nDEM Layers\n x\n\tFiles :dem.tif", "%D/dem.tif");
         row("no files label", "Files : early.tif\nDEM Layers\nFile : dem.tif\n", "");
+        row("backslashes of another system", "DEM Layers\nFiles : relief\\dem.tif\n",
+            "%D/relief/dem.tif");
+        row("a backslash in a name", "DEM Layers\nFiles : other\\dem.tif\n", "%D/other\\dem.tif");
+        QTest::newRow("UTF-16") << QByteArray("\xFF\xFE", 2) +
+                                       QByteArray(
+                                           QStringEncoder(QStringConverter::Utf16LE)
+                                               .encode(u"DEM Layers\nFiles : d\u00e9m.tif\n"_s))
+                                << u"%D/d\u00e9m.tif"_s;
     }
 
     void findsTheFirstTerrainFile()
     {
         QFETCH(QByteArray, text);
         QFETCH(QString, expected);
+        QVERIFY(QDir(m_dir.path()).mkpath(u"relief"_s));
+        QFile terrain(m_dir.filePath(u"relief/dem.tif"_s));
+        QVERIFY(terrain.open(QIODevice::WriteOnly));
         QCOMPARE(terrainFile(project(text)).value(), inDir(expected));
     }
 

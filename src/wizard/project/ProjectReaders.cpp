@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QStringDecoder>
 
 #include <algorithm>
 #include <array>
@@ -14,6 +15,8 @@ namespace vlt::project {
 
 namespace {
 
+/// Bytes; more is no project but something else that was chosen.
+constexpr qint64 LargestProject = 16 << 20;
 constexpr QLatin1String TerrainSection("DEM Layers");
 constexpr QLatin1String TerrainFiles("Files :");
 constexpr QLatin1String Projection("Reference Projection :");
@@ -32,7 +35,12 @@ Result<QString> readProject(const QString &path)
     if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
         return Error{QStringLiteral("MESS_OUV_PRJ_IMP"), QStringLiteral("Cannot open project"),
                      path};
-    return platform::decodeText(file.readAll());
+    const QByteArray bytes = file.read(LargestProject);
+    // editors of some systems save texts in UTF-16, with a mark at the start
+    const auto encoding = QStringConverter::encodingForData(bytes);
+    return encoding && *encoding != QStringConverter::Utf8
+               ? QString(QStringDecoder(*encoding).decode(bytes))
+               : platform::decodeText(bytes);
 }
 
 QString restOfLine(const QString &text, qsizetype from)
@@ -41,9 +49,16 @@ QString restOfLine(const QString &text, qsizetype from)
     return text.mid(from, end < 0 ? -1 : end - from).trimmed();
 }
 
+/// A project may come from a system that writes "a\b": there both separators mean the same.
 QString absoluteBesideProject(const QString &file, const QString &projectPath)
 {
-    return file.isEmpty() ? file : QFileInfo(projectPath).absoluteDir().absoluteFilePath(file);
+    if (file.isEmpty())
+        return file;
+    const QDir directory = QFileInfo(projectPath).absoluteDir();
+    const QString path = directory.absoluteFilePath(file);
+    const QString slashed =
+        directory.absoluteFilePath(QString(file).replace(QLatin1Char('\\'), QLatin1Char('/')));
+    return !QFileInfo::exists(path) && QFileInfo::exists(slashed) ? slashed : path;
 }
 
 /// Position after the label of the first terrain file, or -1.

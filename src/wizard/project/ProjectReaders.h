@@ -4,9 +4,9 @@
 
 #include <QString>
 
-/// What other pages take out of a builder project (.gvw), a text of labelled lines in UTF-8 or
-/// Latin-1. File names found in it are made absolute against the project's directory; they are not
-/// opened here.
+/// What other pages take out of a builder project (.gvw), a text of labelled lines in UTF-8, in
+/// Latin-1, or in UTF-16 or UTF-32 with a byte order mark. File names found in it are made absolute
+/// against the project's directory, also those with backslashes; they are not opened here.
 namespace vlt::project {
 
 /// First terrain file: what follows "Files :" in the section "DEM Layers", up to the end of that
