@@ -162,6 +162,56 @@ private Q_SLOTS:
         QVERIFY(!host.path()->acceptDrops());
     }
 
+    void takesPastedPaths_data()
+    {
+        QTest::addColumn<QString>("pasted"); // %1 stands for the path
+        QTest::newRow("address") << u"file://%1"_s;
+        QTest::newRow("blanks and quotes") << u" \"%1\"\n"_s;
+        QTest::newRow("home") << u"~/%1"_s;
+    }
+
+    void takesPastedPaths()
+    {
+        QFETCH(QString, pasted);
+        const QString path = file(u"my project.gvw"_s);
+        QFile project(path);
+        QVERIFY(project.open(QIODevice::WriteOnly));
+        project.write("DEM Layers\nReference Projection : 2154\n");
+        project.close();
+        const QByteArray home = qgetenv("HOME");
+        qputenv("HOME", QFile::encodeName(m_dir.path()));
+        const bool isAtHome = pasted.startsWith(u'~');
+        Host host;
+
+        host.path()->setText(pasted.arg(isAtHome ? u"my project.gvw"_s : path));
+        const bool isDoubted = host.child<QLabel>(u"m_pwLblProjectNotice"_s)->isVisible();
+        host.wizard.next();
+        qputenv("HOME", home);
+
+        QCOMPARE(host.wizard.currentId(), 2);
+        QCOMPARE(host.wizard.field(u"ProjectName"_s).toString(), path);
+        QCOMPARE(host.parameters.value(u"ProjectName"_s).toString(), path);
+        QVERIFY(!isDoubted);
+    }
+
+    void saysThatAFileIsHardlyAProject()
+    {
+        Host host;
+        auto *notice = host.child<QLabel>(u"m_pwLblProjectNotice"_s);
+
+        host.path()->setText(file(u"a.gvw"_s)); // empty
+        QCOMPARE(notice->text(), u"a.gvw: the project names neither a reference system nor a "
+                                 "terrain nor buildings"_s);
+        QVERIFY(notice->isVisible());
+        host.path()->setText(file(u"gone.gvw"_s));
+        QVERIFY(!notice->isVisible());
+        host.wizard.restart();
+        host.wizard.next();
+        host.path()->setText(file(u"a.gvw"_s));
+        host.wizard.next();
+        QCOMPARE(host.wizard.currentId(), 2); // it may be one all the same
+    }
+
     void refusesWhatCannotBeRead()
     {
         Host host;

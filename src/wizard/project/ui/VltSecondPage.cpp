@@ -6,7 +6,9 @@
 #include "language/VltLanguageManager.h"
 #include "platform/Settings.h"
 #include "wizard/base/Messages.h"
+#include "wizard/project/ProjectReaders.h"
 #include "wizard/project/RecentProjects.h"
+#include "wizard/project/TypedPath.h"
 #include "wizard/project/ui/PlainToolTips.h"
 
 #include <QFileDialog>
@@ -71,6 +73,24 @@ void VltSecondPage::connectWidgets()
     connect(list, &QListWidget::itemDoubleClicked, this, &VltSecondPage::projectDoubleClicked);
     connect(m_ui->m_pwLeProjectName, &QLineEdit::textChanged, this,
             &VltSecondPage::showWhichProject);
+    connect(m_ui->m_pwLeProjectName, &QLineEdit::textChanged, this, &VltSecondPage::showNotice);
+}
+
+QString VltSecondPage::typedProject() const
+{
+    return project::typedPath(m_ui->m_pwLeProjectName->text());
+}
+
+/// Any file may be chosen; one in which nothing is found is most likely another one than was meant.
+void VltSecondPage::showNotice()
+{
+    const QString path = typedProject();
+    const bool isDoubtful = isReadableFile(path) && project::namesNothing(path);
+    m_ui->m_pwLblProjectNotice->setVisible(isDoubtful);
+    if (isDoubtful)
+        m_ui->m_pwLblProjectNotice->setText(
+            tr("%1: %2", "MESS_FILE_REASON")
+                .arg(QFileInfo(path).fileName(), project::namesNothingText()));
 }
 
 /// Only the project of the line edit is shown as selected.
@@ -90,13 +110,15 @@ void VltSecondPage::selectFirstProject()
 
 bool VltSecondPage::validatePage()
 {
-    const QString path = m_ui->m_pwLeProjectName->text();
+    const QString path = typedProject();
     if (!isReadableFile(path)) {
         const Error error = {QStringLiteral("MESS_OUV_PRJ_IMP"),
-                             QStringLiteral("Cannot open project"), path};
+                             QStringLiteral("Cannot open project"),
+                             m_ui->m_pwLeProjectName->text()};
         messages::warning(this, error, dico_label("MESS_ERREUR", "Error !!!"));
         return false;
     }
+    m_ui->m_pwLeProjectName->setText(path);
     saveSettings();
     return true;
 }

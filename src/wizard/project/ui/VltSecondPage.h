@@ -29,7 +29,8 @@ public:
     /// Makes the first recent project the current one, where there is one.
     void selectFirstProject();
 
-    /// Refuses, with a message, a project that is no regular file or cannot be read.
+    /// Refuses, with a message, a project that is no regular file or cannot be read; a pasted text
+    /// becomes the path that it stands for.
     bool validatePage() override;
 
     /// Remembers the last used directory and publishes the project.
@@ -52,6 +53,8 @@ private:
     void fillRecentProjects();
     void connectWidgets();
     void showWhichProject(const QString &path);
+    void showNotice();
+    QString typedProject() const;
 
     std::unique_ptr<Ui::SecondPage> m_ui;
     int m_nextId = -1;
