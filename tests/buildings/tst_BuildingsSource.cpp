@@ -234,6 +234,20 @@ private Q_SLOTS:
                      u"Cannot open project\n"_s + file(u"gone.gvw"_s));
     }
 
+    void tellsOnceOfFilesThatAreGone()
+    {
+        const QString project = write(u"old.gvw"_s, "DEM Layers\nFiles : gone.asc\nVector layer\n "
+                                                    "File : gone.shp\n Layer name : BATI\n");
+        const AnsweredBoxes boxes;
+
+        Host host(project);
+
+        compareBoxes(boxes.seen, QMessageBox::Warning, u"Error !!!"_s,
+                     u"The project names files that do not exist\n"_s + file(u"gone.shp"_s) +
+                         u'\n' + file(u"gone.asc"_s));
+        QCOMPARE(host.buildings()->text() + host.dtm()->text(), QString());
+    }
+
     void refusesOnNext_data()
     {
         QTest::addColumn<QByteArray>("contents");

@@ -164,14 +164,29 @@ void VltAddTexbFirstPage::takeProjectFiles()
             messages::warning(this, buildings.error(), refusalTitle());
         return;
     }
+    QStringList missing;
+    const auto existing = [&missing](const QString &path) {
+        if (QFileInfo::exists(path))
+            return path;
+        missing << path;
+        return QString();
+    };
     if (!buildings.value().isEmpty()) {
-        setField(QStringLiteral("Buildings"), buildings.value());
-        openVector(buildings.value(), false);
+        const QString path = existing(buildings.value());
+        setField(QStringLiteral("Buildings"), path);
+        openVector(path, false);
     }
     if (terrain && !terrain.value().isEmpty()) {
-        setField(QStringLiteral("Dtm"), terrain.value());
-        openTerrain(terrain.value());
+        const QString path = existing(terrain.value());
+        setField(QStringLiteral("Dtm"), path);
+        openTerrain(path);
     }
+    if (!missing.isEmpty())
+        messages::warning(this,
+                          {QStringLiteral("MESS_PROJECT_FILES_MISSING"),
+                           QStringLiteral("The project names files that do not exist"),
+                           missing.join(QLatin1Char('\n'))},
+                          refusalTitle());
 }
 
 void VltAddTexbFirstPage::restoreSettings()

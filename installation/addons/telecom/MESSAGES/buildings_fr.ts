@@ -3,6 +3,11 @@
 <TS version="2.1" language="fr_FR" sourcelanguage="en">
 <context>
     <name>Building source page</name>
+    <message id="MESS_PROJECT_FILES_MISSING">
+        <source>The project names files that do not exist</source>
+        <extracomment>The files follow, one in a line.</extracomment>
+        <translation>Le projet nomme des fichiers qui n'existent pas</translation>
+    </message>
     <message id="MESS_BUILDINGS_DS">
         <source>Building datasource</source>
         <translation>Source des bâtiments</translation>
