@@ -67,15 +67,15 @@ void addTexturedOptions(QCommandLineParser &parser)
          QStringLiteral("Colour of walls without an image, or colormap: from --image (default "
                         "%1).")
              .arg(QLatin1String(WallColor)),
-         QStringLiteral("#RRGGBB|colormap")},
+         QStringLiteral("RRGGBB|NAME|colormap")},
         {QStringLiteral("roof-color"),
          QStringLiteral("Colour of roofs without an image, or colormap: from --image (default "
                         "%1).")
              .arg(QLatin1String(RoofColor)),
-         QStringLiteral("#RRGGBB|colormap")},
+         QStringLiteral("RRGGBB|NAME|colormap")},
         {QStringLiteral("edge-color"),
          QStringLiteral("Colour of edges (default %1).").arg(QLatin1String(EdgeColor)),
-         QStringLiteral("#RRGGBB")},
+         QStringLiteral("RRGGBB|NAME")},
         {QStringLiteral("force-edges"), QStringLiteral("Draw edges in any case.")},
         {QStringLiteral("no-complex-buildings"),
          QStringLiteral("No images on buildings with courtyards or many corners.")},

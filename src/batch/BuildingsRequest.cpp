@@ -1,8 +1,7 @@
 #include "batch/BuildingsRequest.h"
 
 #include "batch/BuildingsOptions.h"
-
-#include <QRegularExpression>
+#include "batch/ColorText.h"
 
 namespace vlt::batch {
 
@@ -51,23 +50,23 @@ Result<int> readWord(const QCommandLineParser &parser, const QString &option,
                      : Result<int>(index);
 }
 
-/// An option that tells a colour: "#RRGGBB", or ColorMapWord where that is allowed.
+/// An option that tells a colour, as "#rrggbb"; or ColorMapWord where that is allowed.
 Result<QString> readColor(const QCommandLineParser &parser, const QString &option,
                           const char *firstRun, bool mayBeFromMap)
 {
-    static const QRegularExpression hex(QStringLiteral("\\A#?([0-9a-fA-F]{6})\\z"));
     if (!parser.isSet(option))
         return QString(QLatin1String(firstRun));
     const QString value = parser.value(option);
     if (mayBeFromMap && value == QLatin1String(ColorMapWord))
         return value;
-    const QRegularExpressionMatch match = hex.match(value);
-    if (!match.hasMatch())
+    const std::optional<QColor> color = colorFrom(value);
+    if (!color)
         return wrongValue(option,
-                          mayBeFromMap ? QStringLiteral("#RRGGBB or the word colormap")
-                                       : QStringLiteral("#RRGGBB"),
+                          mayBeFromMap
+                              ? QStringLiteral("RRGGBB, a name such as red or the word colormap")
+                              : QStringLiteral("RRGGBB or a name such as red"),
                           value);
-    return QString(QLatin1Char('#') + match.captured(1).toLower());
+    return color->name();
 }
 
 /// A text that stands for missing values: a number, or empty.

@@ -1,8 +1,7 @@
 #include "batch/LinkOptions.h"
 
+#include "batch/ColorText.h"
 #include "batch/NumberOptions.h"
-
-#include <QRegularExpression>
 
 #include <array>
 
@@ -70,23 +69,20 @@ Error wrongValue(const QString &option, const QString &wanted, const QString &va
                  {}};
 }
 
-/// Sets the colour from "rrggbb", or "rrggbbaa" where an alpha is wanted.
+/// Takes a colour that is given; RRGGBBAA only where an alpha is wanted.
 std::optional<Error> readColor(const QCommandLineParser &parser, const QString &option,
                                bool withAlpha, QColor &color)
 {
-    static const QRegularExpression hex(QStringLiteral("\\A([0-9a-fA-F]{6})([0-9a-fA-F]{2})?\\z"));
     if (!parser.isSet(option))
         return std::nullopt;
     const QString text = parser.value(option);
-    const QRegularExpressionMatch match = hex.match(text);
-    if (!match.hasMatch() || (!withAlpha && match.hasCaptured(2)))
+    const std::optional<QColor> given = colorFrom(text, withAlpha);
+    if (!given)
         return wrongValue(option,
-                          withAlpha ? QStringLiteral("RRGGBB or RRGGBBAA in hexadecimal digits")
-                                    : QStringLiteral("RRGGBB in hexadecimal digits"),
+                          withAlpha ? QStringLiteral("RRGGBB, RRGGBBAA or a name such as red")
+                                    : QStringLiteral("RRGGBB or a name such as red"),
                           text);
-    color = QColor(QLatin1Char('#') + match.captured(1));
-    if (match.hasCaptured(2))
-        color.setAlpha(match.captured(2).toInt(nullptr, 16));
+    color = *given;
     return std::nullopt;
 }
 
@@ -101,13 +97,13 @@ void addLinkOptions(QCommandLineParser &parser)
          styleNames(), styleName(firstRun.style)},
         {QStringLiteral("link-color"),
          QStringLiteral("Color of the links (default %1).").arg(firstRun.color.name().mid(1)),
-         QStringLiteral("RRGGBB[AA]")},
+         QStringLiteral("RRGGBB[AA]|NAME")},
         {QStringLiteral("color-by-clearance"),
          QStringLiteral("Judged links take the color of their verdict.")},
         {QStringLiteral("fresnel-color"),
          QStringLiteral("Color of the Fresnel zone (default %1).")
              .arg(firstRun.fresnelColor.name().mid(1)),
-         QStringLiteral("RRGGBB")},
+         QStringLiteral("RRGGBB|NAME")},
     });
     addNumberOptions(parser, numberOptions());
 }

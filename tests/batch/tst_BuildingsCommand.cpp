@@ -200,8 +200,8 @@ private Q_SLOTS:
         row("% --texture ../t/c.asc=1 --wall-color colormap", 2, "needs --image");
         row("% --texture ../t/c.asc=1 --image ../level.asc", 2, "--roof-color colormap");
         row("% --texture ../t/c.asc=1 --delayed-write", 2, "--delayed-write needs a --cache");
-        row("% --texture ../t/c.asc=1 --wall-color red", 2, "#RRGGBB or the word colormap");
-        row("% --texture ../t/c.asc=1 --edge-color colormap", 2, "--edge-color is #RRGGBB");
+        row("% --texture ../t/c.asc=1 --wall-color reddish", 2, "red or the word colormap");
+        row("% --texture ../t/c.asc=1 --edge-color colormap", 2, "--edge-color is RRGGBB or");
         row("% --texture ../t/c.asc=1 --magnify cubic", 2, "none|linear");
         row("% --image ../level.asc --mode middle", 2, "minimum|maximum|average|most-represented");
         row("% --image ../level.asc --image-nodata void", 2, "--image-nodata is a number");
@@ -273,7 +273,7 @@ private:
         QTest::newRow("textured, all options")
             << u"--texture ../t/c.asc=3 --texture ../t/c_6m.asc --texture-on storeys "
                "--textured-distance 300 --wall-color #A0b0C0 --roof-color colormap --image "
-               "../level.asc --image-nodata 5 --edge-color 112233 --force-edges "
+               "../level.asc --image-nodata 5 --edge-color NAVY --force-edges "
                "--no-complex-buildings --cache textured --delayed-write --cache-capacity 7 "
                "--compression dxt5 --buffer 2.5 --dilatation 3 --magnify linear"_s
             << QStringList{u"  cache=\"textured\" \n  delayedCacheWrite=\"true\" \n"
@@ -282,7 +282,7 @@ private:
                            "roofColor=\"cmap:datasource=@/level.asc;nd=5;cmap=@/install dir/addons/"
                            "telecom/colormaps/a/first.txt;stretchcmap=TRUE;interpolatecmap=TRUE;"
                            "band=1;type=minimum\""_s,
-                           u"mode=\"storeys\"\n    edgeColor=\"#112233\"\n"
+                           u"mode=\"storeys\"\n    edgeColor=\"#000080\"\n"
                            "    forceEdgeCreation=\"true\"\n    processComplexBuildings=\"false\"\n"
                            "   compression=\"dxt5\"\n    bufferValue=\"2.5\"\n"
                            "    dilatationValue=\"3\"\n    magFilter=\"linear\""_s,

@@ -141,6 +141,29 @@ private Q_SLOTS:
         QVERIFY(plain.contains(",fresnel_zone=0,") && !plain.contains("dem_file"));
     }
 
+    void takesColors_data()
+    {
+        QTest::addColumn<QString>("given");
+        QTest::addColumn<QByteArray>("inLayer");
+
+        QTest::newRow("digits") << u"A0b0C0"_s << QByteArray("a0b0c0ff");
+        QTest::newRow("mark") << u"#A0b0C0"_s << QByteArray("a0b0c0ff");
+        QTest::newRow("mark and alpha") << u"#a0b0c040"_s << QByteArray("a0b0c040");
+        QTest::newRow("name") << u"DarkOrange"_s << QByteArray("ff8c00ff");
+    }
+
+    void takesColors()
+    {
+        QFETCH(QString, given);
+        QFETCH(QByteArray, inLayer);
+
+        const Run run = start(u"link ../l.csv --quiet -o o.lay --link-color "_s + given);
+
+        QCOMPARE(run.errors, QByteArray());
+        const QByteArray source = element(readFile(path(u"elsewhere/o.lay"_s)), "source");
+        QVERIFY2(source.contains("link_color=" + inLayer + ','), source.constData());
+    }
+
     void tellsWhatALinkTableHolds()
     {
         const Run text = start(u"info --link ../l.csv"_s);
@@ -178,8 +201,9 @@ private Q_SLOTS:
         row("link ../l.csv -o ../hills.asc --terrain ../hills.asc", 1, "one of the input files");
         row("link ../l.csv", 2, "no output file given (-o OUT.lay), and no --report");
         row("link ../l.csv -o old.lay --link-style rope", 2, "line|tube|billboard");
-        row("link ../l.csv -o old.lay --link-color blue", 2, "--link-color");
+        row("link ../l.csv -o old.lay --link-color bluish", 2, "not \"bluish\"");
         row("link ../l.csv -o old.lay --fresnel-color aabbccdd", 2, "--fresnel-color");
+        row("link ../l.csv -o old.lay --fresnel-color transparent", 2, "--fresnel-color");
         row("link ../l.csv -o old.lay --fresnel-zone 11", 2, "0 to 10");
         row("link ../l.csv -o old.lay --fresnel-share 0", 2, "1 to 100");
         row("link ../l.csv -o old.lay --k-factor inf", 2, "0.1 to 100");
