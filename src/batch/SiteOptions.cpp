@@ -34,26 +34,47 @@ const std::vector<NumberOption<SiteRepresentation>> &numberOptions()
     return options;
 }
 
-/// Index of the entry that is called `wanted`, else of the entry of that number; -1 for none.
-template<typename T>
-int find(const QList<T> &entries, QString T::*called, const QString &wanted)
+/// What an entry of a catalogue may be called, besides its number.
+struct Choice
 {
-    for (int i = 0; i < entries.size(); ++i) {
-        if (entries.at(i).*called == wanted)
+    QString shown; ///< in lists of what there is
+    QStringList names;
+};
+
+QList<Choice> choicesOf(const QList<sites::PylonType> &types)
+{
+    QList<Choice> choices;
+    for (const sites::PylonType &type : types)
+        choices << Choice{type.type, QStringList{type.type} + type.names};
+    return choices;
+}
+
+QList<Choice> choicesOf(const QList<sites::SectorColorSet> &sets)
+{
+    QList<Choice> choices;
+    for (const sites::SectorColorSet &set : sets)
+        choices << Choice{set.names.join(QStringLiteral(" / ")), set.names};
+    return choices;
+}
+
+/// Index of the entry that is called `wanted`, in any case of letters, else of the entry of that
+/// number; -1 for none.
+int find(const QList<Choice> &choices, const QString &wanted)
+{
+    for (int i = 0; i < choices.size(); ++i) {
+        if (choices.at(i).names.contains(wanted, Qt::CaseInsensitive))
             return i;
     }
     bool isNumber = false;
     const int number = wanted.toInt(&isNumber);
-    return isNumber && number >= 1 && number <= entries.size() ? number - 1 : -1;
+    return isNumber && number >= 1 && number <= choices.size() ? number - 1 : -1;
 }
 
-template<typename T>
-Error notInCatalogue(const QString &option, const QString &value, const QList<T> &entries,
-                     QString T::*called)
+Error notInCatalogue(const QString &option, const QString &value, const QList<Choice> &choices)
 {
     QStringList names;
-    for (int i = 0; i < entries.size(); ++i)
-        names << QStringLiteral("%1 = ").arg(i + 1) + entries.at(i).*called;
+    for (int i = 0; i < choices.size(); ++i)
+        names << QStringLiteral("%1 = ").arg(i + 1) + choices.at(i).shown;
     return Error{QString(),
                  QStringLiteral("--%1: no \"").arg(option) + value + QStringLiteral("\" (") +
                      names.join(QStringLiteral("; ")) + QLatin1Char(')'),
@@ -67,12 +88,13 @@ void addSiteOptions(QCommandLineParser &parser)
     addNumberOptions(parser, numberOptions());
     parser.addOptions({
         {QStringLiteral("sector-colors"),
-         QStringLiteral("Sector colors: a set's number in the catalogue, from 1, or its "
-                        "description (default 1)."),
-         QStringLiteral("N|DESCRIPTION"), QStringLiteral("1")},
+         QStringLiteral("Sector colors: a set's number in the catalogue, from 1, or its name in "
+                        "any language (default 1)."),
+         QStringLiteral("N|NAME"), QStringLiteral("1")},
         {QStringLiteral("pylon-type"),
-         QStringLiteral("Type of pylons, or its number in the catalogue, from 1 (default 1)."),
-         QStringLiteral("TYPE|N"), QStringLiteral("1")},
+         QStringLiteral("Type of pylons, or its number in the catalogue, from 1, or its name in "
+                        "any language (default 1)."),
+         QStringLiteral("TYPE|N|NAME"), QStringLiteral("1")},
     });
 }
 
@@ -93,17 +115,16 @@ Result<sites::SiteRepresentation> readSiteOptions(const QCommandLineParser &pars
     SiteRepresentation representation = std::move(numbers).value();
 
     const QString colors = parser.value(QStringLiteral("sector-colors"));
-    representation.colorSet =
-        find(catalogues.colorSets, &sites::SectorColorSet::description, colors);
+    const QList<Choice> sets = choicesOf(catalogues.colorSets);
+    representation.colorSet = find(sets, colors);
     if (representation.colorSet < 0)
-        return notInCatalogue(QStringLiteral("sector-colors"), colors, catalogues.colorSets,
-                              &sites::SectorColorSet::description);
+        return notInCatalogue(QStringLiteral("sector-colors"), colors, sets);
 
     const QString type = parser.value(QStringLiteral("pylon-type"));
-    representation.pylonType = find(catalogues.pylonTypes, &sites::PylonType::type, type);
+    const QList<Choice> types = choicesOf(catalogues.pylonTypes);
+    representation.pylonType = find(types, type);
     if (representation.pylonType < 0)
-        return notInCatalogue(QStringLiteral("pylon-type"), type, catalogues.pylonTypes,
-                              &sites::PylonType::type);
+        return notInCatalogue(QStringLiteral("pylon-type"), type, types);
     return representation;
 }
 

@@ -12,8 +12,8 @@ void addSiteOptions(QCommandLineParser &parser);
 
 /// The representation that the options describe; what is not given has its first-run value.
 ///
-/// Pylon types are named by type, colour sets by description, both also by their number in the
-/// catalogue, from 1.
+/// Pylon types are named by type, both catalogues' entries by their number, from 1, or by their
+/// description in any language; letters in any case.
 ///
 /// @par Errors   no key; which option has which wrong value.
 Result<sites::SiteRepresentation> readSiteOptions(const QCommandLineParser &parser,

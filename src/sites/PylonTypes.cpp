@@ -1,5 +1,7 @@
 #include "sites/PylonTypes.h"
 
+#include "sites/CatalogueNames.h"
+
 #include <QDomDocument>
 #include <QFile>
 
@@ -18,7 +20,8 @@ QList<PylonType> loadPylonTypes(const QString &installDir, const QString &langua
         const QDomElement element = elements.at(i).toElement();
         types << PylonType{element.attribute(QStringLiteral("type")),
                            element.attribute(QStringLiteral("description_") + language),
-                           {}};
+                           {},
+                           catalogueNames(element)};
     }
     return types;
 }

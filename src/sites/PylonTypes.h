@@ -3,6 +3,7 @@
 #include <QImage>
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 namespace vlt::sites {
 
@@ -15,6 +16,7 @@ struct PylonType
     QString type;        ///< as queries name it
     QString description; ///< in the language asked for; empty where the catalogue has none
     QImage icon;         ///< reserved, empty
+    QStringList names;   ///< descriptions in every language
 };
 
 /// The pylon catalogue "addons/telecom/pylons/list.xml" in document order; empty where it cannot be

@@ -1,5 +1,7 @@
 #include "sites/SectorColorSets.h"
 
+#include "sites/CatalogueNames.h"
+
 #include <QDomDocument>
 #include <QFile>
 #include <QPainter>
@@ -55,7 +57,7 @@ QList<SectorColorSet> loadSectorColorSets(const QString &installDir, const QStri
         const QDomElement element = elements.at(i).toElement();
         const QList<QColor> colors = readColors(element);
         sets << SectorColorSet{colors, element.attribute(QStringLiteral("description_") + language),
-                               swatchImage(colors)};
+                               swatchImage(colors), catalogueNames(element)};
     }
     return sets;
 }

@@ -4,6 +4,7 @@
 #include <QImage>
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 namespace vlt::sites {
 
@@ -13,6 +14,7 @@ struct SectorColorSet
     QList<QColor> colors;
     QString description; ///< in the language asked for; empty where the catalogue has none
     QImage swatch;       ///< picture of the colours, see swatchImage()
+    QStringList names;   ///< descriptions in every language
 };
 
 /// The colour catalogue "addons/telecom/pylons/colors/sectors.xml" in document order; empty where

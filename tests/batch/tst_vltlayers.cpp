@@ -98,6 +98,39 @@ private Q_SLOTS:
         QCOMPARE(told.value(u"layer"_s).toString(), path(u"elsewhere/o.lay"_s));
     }
 
+    void takesNamesOfEveryLanguage_data()
+    {
+        QTest::addColumn<QStringList>("options");
+        QTest::addColumn<QByteArray>("inLayer");
+
+        QTest::newRow("French colors") << QStringList{u"--sector-colors"_s, u"tons FROIDS"_s}
+                                       << QByteArray("sector_colors=103880ff ");
+        QTest::newRow("English colors") << QStringList{u"--sector-colors=warm shades"_s}
+                                        << QByteArray("sector_colors=b21820ff ");
+        QTest::newRow("English mast")
+            << QStringList{u"--pylon-type=Slim tubular mast with cylindrical antennas, without "
+                           "platform"_s}
+            << QByteArray("pylon_type=monopole_slim,");
+        QTest::newRow("type in capitals")
+            << QStringList{u"--pylon-type=LATTICE_panel"_s} << QByteArray("=lattice_panel,");
+    }
+
+    void takesNamesOfEveryLanguage()
+    {
+        QFETCH(QStringList, options);
+        QFETCH(QByteArray, inLayer);
+        writeFile(path(u"s.csv"_s), Table);
+
+        for (const QString &language : {u"en"_s, u"fr"_s}) {
+            const Run run = start(QStringList{u"site"_s, u"../s.csv"_s, u"-o"_s, u"o.lay"_s,
+                                              u"--language"_s, language} +
+                                  options);
+            QCOMPARE(run.errors, QByteArray());
+            const QByteArray source = element(readFile(path(u"elsewhere/o.lay"_s)), "source");
+            QVERIFY2(source.contains(inLayer), source.constData());
+        }
+    }
+
     void speaksFrenchOfTables_data()
     {
         QTest::addColumn<QString>("table");
