@@ -1,5 +1,6 @@
 #include "sites/SiteFileInfo.h"
 
+#include "geodata/LayerInfo.h"
 #include "language/VltLanguageManager.h"
 
 namespace vlt::sites {
@@ -13,6 +14,14 @@ TableKind siteTable()
              QStringLiteral("This file can't be open as a site file"),
              {}},
             {QStringLiteral("MESS_ERR_EMPTY_SITE"), QStringLiteral("This site file is empty"), {}}};
+}
+
+/// A table whose only coordinates are those of both ends of links could be read as sites at one of
+/// the ends.
+bool isLinkTable(const QString &path, const SiteColumnSet &columns)
+{
+    return columns.x.isEmpty() && columns.y.isEmpty() &&
+           geodata::readLayerInfo(QStringLiteral("link:") + path, 0).ok();
 }
 
 } // namespace
@@ -48,6 +57,14 @@ SiteFileInfo readSiteFileInfo(const QString &path, const ProjectContext &project
         return info;
 
     info.columns = recogniseSiteColumns(fields);
+    if (isLinkTable(path, info.columns)) {
+        info.valid = false;
+        info.error = siteTable().unreadable;
+        info.errorDetail = dico_label("MESS_LINKS_NOT_SITES",
+                                      "this is a table of links, not of sites: its coordinates are "
+                                      "those of both ends of links");
+        return info;
+    }
     info.nameField = siteNameField(info.format);
     // as the geodata library looks fields up
     info.hasNameField = fields.contains(info.nameField, Qt::CaseInsensitive);

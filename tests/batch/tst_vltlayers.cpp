@@ -180,6 +180,18 @@ private Q_SLOTS:
         QCOMPARE(quiet.errors, QByteArray());
     }
 
+    void takesSitesWithColumnsOfLinks()
+    {
+        writeFile(path(u"s.csv"_s),
+                  "Site ID,Longitude,Latitude,TX Longitude,TX Latitude,RX Longitude,RX Latitude\n"
+                  "A,1.5,45,1.5,45,1.6,45\n");
+
+        const Run run = start(u"site ../s.csv -o o.lay"_s);
+
+        QCOMPARE(run.errors, QByteArray());
+        QCOMPARE(run.status, 0);
+    }
+
     void warnsOfAProjectThatNamesNothing()
     {
         writeFile(path(u"s.csv"_s), Table);
@@ -207,6 +219,9 @@ private Q_SLOTS:
         row("site ../missing.csv -o old.lay", 1,
             "../missing.csv: This file can't be open as a site file (the file does not exist)");
         row("site ../unplaced.csv -o old.lay", 1, "../unplaced.csv: ");
+        row("site ../links.csv -o old.lay", 1,
+            "../links.csv: This file can't be open as a site file (this is a table of links, not");
+        row("info ../links.csv", 1, "a table of links, not of sites");
         row("site ../s.csv -o ../s.csv", 1, "one of the input files");
         row("site ../s.csv -o ../c.gvw --project ../c.gvw", 1, "one of the input files");
         row("site ../s.csv -o old.lay --project ../no.gvw", 1, "../no.gvw: Cannot open project");
@@ -234,6 +249,8 @@ private Q_SLOTS:
         writeFile(path(u"s.csv"_s), Table);
         writeFile(path(u"c.gvw"_s), "DEM Layers\n");
         writeFile(path(u"unplaced.csv"_s), "Site ID,Longitude,Latitude\nA,east,north\nB,,\n");
+        writeFile(path(u"links.csv"_s), "Name,TX Longitude,TX Latitude,RX Longitude,RX Latitude\n"
+                                        "A,1.5,45,1.6,45\n");
         writeFile(path(u"elsewhere/old.lay"_s), "old");
 
         const Run run = start(arguments);

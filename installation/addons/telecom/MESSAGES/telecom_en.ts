@@ -521,5 +521,9 @@ to add the site layer
         <source>Layer files</source>
         <translation>Layer files</translation>
     </message>
+    <message id="MESS_LINKS_NOT_SITES">
+        <source>this is a table of links, not of sites: its coordinates are those of both ends of links</source>
+        <translation>this is a table of links, not of sites: its coordinates are those of both ends of links</translation>
+    </message>
 </context>
 </TS>

@@ -521,5 +521,9 @@ pour ajouter la couche de sites
         <source>Layer files</source>
         <translation>Fichiers de couche</translation>
     </message>
+    <message id="MESS_LINKS_NOT_SITES">
+        <source>this is a table of links, not of sites: its coordinates are those of both ends of links</source>
+        <translation>ce tableau contient des liaisons, pas des sites&#xa0;: ses coordonnées sont celles des deux extrémités de liaisons</translation>
+    </message>
 </context>
 </TS>
