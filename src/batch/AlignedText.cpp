@@ -41,7 +41,7 @@ QString aligned(const QList<Line> &lines)
     return text;
 }
 
-QString alignedTable(const QList<QStringList> &rows, qsizetype rightFrom)
+QString alignedTable(const QList<QStringList> &rows, qsizetype rightFrom, qsizetype rightCount)
 {
     QList<qsizetype> widths;
     for (const QStringList &row : rows) {
@@ -54,9 +54,10 @@ QString alignedTable(const QList<QStringList> &rows, qsizetype rightFrom)
         QString line;
         for (qsizetype i = 0; i < row.size(); ++i) {
             const QString cell = oneLine(row.at(i));
-            line += (i < rightFrom ? cell.leftJustified(widths.at(i))
-                                   : cell.rightJustified(widths.at(i))) +
-                    QStringLiteral("  ");
+            const bool isRight = i >= rightFrom && i < rightFrom + rightCount;
+            line +=
+                (isRight ? cell.rightJustified(widths.at(i)) : cell.leftJustified(widths.at(i))) +
+                QStringLiteral("  ");
         }
         text += line.trimmed() + QLatin1Char('\n');
     }

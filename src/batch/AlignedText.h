@@ -20,6 +20,7 @@ QString aligned(const QList<Line> &lines);
 ///
 /// @param rows        [row][column], every row with as many cells as the first one
 /// @param rightFrom   cells from this column on stand at the right side of their column
-QString alignedTable(const QList<QStringList> &rows, qsizetype rightFrom);
+/// @param rightCount  in so many columns
+QString alignedTable(const QList<QStringList> &rows, qsizetype rightFrom, qsizetype rightCount);
 
 } // namespace vlt::batch

@@ -19,6 +19,7 @@ constexpr std::array<Verdict, 4> Verdicts = {Verdict::Clear, Verdict::Marginal, 
                                              Verdict::Unknown};
 /// Columns of the table up to here hold text.
 constexpr qsizetype FirstNumber = 5;
+constexpr qsizetype NumberCount = 5;
 
 /// The verdict for programs.
 QString verdictKey(Verdict verdict)
@@ -34,6 +35,30 @@ QString verdictKey(Verdict verdict)
         break;
     }
     return QStringLiteral("unknown");
+}
+
+/// What a link lacks, for programs.
+QJsonValue lackKey(linkpath::Lack lack)
+{
+    switch (lack) {
+    case linkpath::Lack::Nothing:
+        break;
+    case linkpath::Lack::Place:
+        return QStringLiteral("place");
+    case linkpath::Lack::Terrain:
+        return QStringLiteral("terrain");
+    case linkpath::Lack::HeightA:
+        return QStringLiteral("heightA");
+    case linkpath::Lack::HeightB:
+        return QStringLiteral("heightB");
+    case linkpath::Lack::Frequency:
+        return QStringLiteral("frequency");
+    case linkpath::Lack::TerrainOfPath:
+        return QStringLiteral("terrainOfPath");
+    case linkpath::Lack::Length:
+        return QStringLiteral("length");
+    }
+    return QJsonValue(QJsonValue::Null);
 }
 
 qint64 countOf(const geodata::LinkCheck &check, Verdict verdict)
@@ -64,7 +89,8 @@ QStringList tableHead()
             QStringLiteral("MHz"),
             dico_label("MESS_CLI_WORST_KM", "worst at km"),
             dico_label("MESS_CLI_CLEARANCE_M", "clearance m"),
-            dico_label("MESS_CLI_CLEARANCE_SHARE", "% of zone 1")};
+            dico_label("MESS_CLI_CLEARANCE_SHARE", "% of zone 1"),
+            dico_label("MESS_CLI_WHY", "why")};
 }
 
 QStringList tableRow(const geodata::LinkReport &link)
@@ -80,7 +106,8 @@ QStringList tableRow(const geodata::LinkReport &link)
             orDash(link.frequencyMHz ? text::g9(*link.frequencyMHz) : QString()),
             orDash(worst ? fixed(worst->distanceM / 1000, 3) : QString()),
             orDash(worst ? fixed(worst->clearanceM, 1) : QString()),
-            orDash(worst ? fixed(worst->freeShare() * 100, 0) : QString())};
+            orDash(worst ? fixed(worst->freeShare() * 100, 0) : QString()),
+            links::lackText(link.clearance.lack)};
 }
 
 QJsonValue orNull(const std::optional<double> &value)
@@ -111,6 +138,7 @@ QJsonObject linkJson(const geodata::LinkReport &link)
             {QStringLiteral("lengthM"), orNull(link.lengthM)},
             {QStringLiteral("frequencyMHz"), orNull(link.frequencyMHz)},
             {QStringLiteral("verdict"), verdictKey(link.clearance.verdict)},
+            {QStringLiteral("why"), lackKey(link.clearance.lack)},
             {QStringLiteral("worst"), worstJson(link.clearance.worst)}};
 }
 
@@ -125,7 +153,7 @@ QString linkReportText(const geodata::LinkCheck &check)
                            {QString::number(check.placement.features)}}};
     for (const Verdict verdict : Verdicts)
         counts << Line{links::verdictText(verdict), {QString::number(countOf(check, verdict))}};
-    return alignedTable(rows, FirstNumber) + QLatin1Char('\n') + aligned(counts);
+    return alignedTable(rows, FirstNumber, NumberCount) + QLatin1Char('\n') + aligned(counts);
 }
 
 QJsonObject linkReportJson(const geodata::LinkCheck &check)

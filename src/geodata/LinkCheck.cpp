@@ -120,8 +120,7 @@ private:
         if (!link.isPlaced)
             return;
         ++m_placed;
-        if (m_profiler.hasTerrain() && link.frequencyMHz)
-            link.clearance = m_profiler.judge(*m_endA, *endB, *link.frequencyMHz, m_rule);
+        link.clearance = m_profiler.judge(*m_endA, *endB, link.frequencyMHz.value_or(0), m_rule);
     }
 
     EndFields m_fields;

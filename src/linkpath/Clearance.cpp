@@ -39,6 +39,7 @@ Clearance judgeProfile(const std::vector<ProfilePoint> &profile, double antennaA
         if (!clearance.worst || point.freeShare() < clearance.worst->freeShare())
             clearance.worst = point;
     }
+    clearance.lack = clearance.worst ? Lack::Nothing : Lack::Length;
     if (!clearance.worst)
         return clearance;
     const double free = clearance.worst->freeShare();

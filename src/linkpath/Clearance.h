@@ -15,6 +15,18 @@ enum class Verdict {
     Obstructed, ///< the terrain cuts the line of sight
 };
 
+/// What a link lacks that cannot be judged.
+enum class Lack {
+    Nothing,
+    Place, ///< of an end
+    Terrain,
+    HeightA, ///< of the antenna at end A, or at both
+    HeightB,
+    Frequency,
+    TerrainOfPath, ///< a part of the path's
+    Length,        ///< the ends stand in one place
+};
+
 /// Red, green, blue of a verdict, for lines and marks; told apart by those who do not see red or
 /// green.
 std::array<std::uint8_t, 3> verdictColor(Verdict verdict);
@@ -49,6 +61,7 @@ struct WorstPoint
 struct Clearance
 {
     Verdict verdict = Verdict::Unknown;
+    Lack lack = Lack::Place;         ///< why there is no verdict; Nothing where there is one
     std::optional<WorstPoint> worst; ///< of the part of the path whose terrain is known
 };
 

@@ -190,17 +190,27 @@ std::optional<double> PathProfiler::groundM(double x, double y) const
 Clearance PathProfiler::judge(const LinkEnd &a, const LinkEnd &b, double frequencyMHz,
                               const ClearanceRule &rule) const
 {
-    const bool askable = hasTerrain() && a.heightM && b.heightM && frequencyMHz > 0;
-    const std::optional<Arc> arc = askable ? m_parts->arc(a, b) : std::nullopt;
-    const std::optional<double> groundA = arc ? groundM(a.x, a.y) : std::nullopt;
-    const std::optional<double> groundB = arc ? groundM(b.x, b.y) : std::nullopt;
+    const auto unjudged = [](Lack lack) { return Clearance{Verdict::Unknown, lack, {}}; };
+    if (!hasTerrain())
+        return unjudged(Lack::Terrain);
+    if (!a.heightM || !b.heightM)
+        return unjudged(a.heightM ? Lack::HeightB : Lack::HeightA);
+    if (!(frequencyMHz > 0))
+        return unjudged(Lack::Frequency);
+    const std::optional<Arc> arc = m_parts->arc(a, b);
+    if (!arc)
+        return unjudged(Lack::Place);
+    const std::optional<double> groundA = groundM(a.x, a.y);
+    const std::optional<double> groundB = groundM(b.x, b.y);
     if (!groundA || !groundB)
-        return {};
+        return unjudged(Lack::TerrainOfPath);
     bool whole = false;
     Clearance clearance = judgeProfile(m_parts->profile(a, *arc, whole), *groundA + *a.heightM,
                                        *groundB + *b.heightM, frequencyMHz, rule);
-    if (!whole && clearance.verdict != Verdict::Obstructed)
+    if (!whole && clearance.verdict != Verdict::Obstructed) {
         clearance.verdict = Verdict::Unknown;
+        clearance.lack = Lack::TerrainOfPath;
+    }
     return clearance;
 }
 

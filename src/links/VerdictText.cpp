@@ -21,6 +21,29 @@ QString verdictText(linkpath::Verdict verdict)
     return dico_label("MESS_UNJUDGED", "not judged");
 }
 
+QString lackText(linkpath::Lack lack)
+{
+    switch (lack) {
+    case linkpath::Lack::Nothing:
+        break;
+    case linkpath::Lack::Place:
+        return dico_label("MESS_LACK_PLACE", "an end has no place");
+    case linkpath::Lack::Terrain:
+        return dico_label("MESS_LACK_TERRAIN", "no terrain");
+    case linkpath::Lack::HeightA:
+        return dico_label("MESS_LACK_HEIGHT_A", "no antenna height at end A");
+    case linkpath::Lack::HeightB:
+        return dico_label("MESS_LACK_HEIGHT_B", "no antenna height at end B");
+    case linkpath::Lack::Frequency:
+        return dico_label("MESS_LACK_FREQUENCY", "no frequency");
+    case linkpath::Lack::TerrainOfPath:
+        return dico_label("MESS_LACK_PATH", "the terrain does not cover the whole path");
+    case linkpath::Lack::Length:
+        return dico_label("MESS_LACK_LENGTH", "both ends stand in one place");
+    }
+    return {};
+}
+
 QColor colorOfVerdict(linkpath::Verdict verdict)
 {
     const auto [red, green, blue] = linkpath::verdictColor(verdict);

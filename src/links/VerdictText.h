@@ -10,6 +10,9 @@ namespace vlt::links {
 /// A verdict in a word or two, in the chosen language.
 QString verdictText(linkpath::Verdict verdict);
 
+/// What a link lacks to be judged, in the chosen language; empty for Lack::Nothing.
+QString lackText(linkpath::Lack lack);
+
 /// The colour that stands for a verdict.
 QColor colorOfVerdict(linkpath::Verdict verdict);
 

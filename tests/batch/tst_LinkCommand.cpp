@@ -91,6 +91,7 @@ private Q_SLOTS:
             QCOMPARE_LE(std::abs(worst.value(u"freeShare"_s).toDouble() - clearance / 8.33), 0.005);
         }
         QCOMPARE(links.at(1).toObject().value(u"verdict"_s).toString(), u"unknown"_s);
+        QCOMPARE(links.at(1).toObject().value(u"why"_s).toString(), u"heightA"_s);
         QCOMPARE(links.at(2).toObject().value(u"placed"_s).toBool(true), false);
         QCOMPARE(told.value(u"verdicts"_s).toObject().value(u"unknown"_s).toInt(), 2);
     }
@@ -103,8 +104,9 @@ private Q_SLOTS:
         const QList<QByteArray> lines = run.output.split('\n');
         QCOMPARE(lines.at(1).simplified(),
                  QByteArray("2 North Alpha Beta marginal 5.557 6000 2.778 1.5 19"));
+        QVERIFY(lines.at(2).endsWith(" -  no antenna height at end A"));
         QCOMPARE(lines.at(3).simplified(),
-                 QByteArray("4 Lost Alpha Delta not placed - 6000 - - -"));
+                 QByteArray("4 Lost Alpha Delta not placed - 6000 - - - an end has no place"));
         QVERIFY(lines.contains("marginal        : 1"));
         const QByteArray layer = readFile(path(u"elsewhere/o.lay"_s));
         QVERIFY(layer.contains("<veltaroLayer kind=\"links\" version=\"1\">"));

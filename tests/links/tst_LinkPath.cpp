@@ -181,14 +181,18 @@ void tst_LinkPath::whatCannotBeJudged()
         const PathProfiler profiler(
             terrain(m_dir.filePath(QStringLiteral("holes.tif")), wall, otherColumn, otherM),
             utm().get());
-        return profiler.judge(a, EastEnd, f, {}).verdict;
+        const Clearance clearance = profiler.judge(a, EastEnd, f, {});
+        return std::pair(clearance.verdict, clearance.lack);
     };
-    QCOMPARE(judged(110, -1, 0, WestEnd, 6000), Verdict::Clear);
-    QCOMPARE(judged(110, -1, 0, WestEnd, 0), Verdict::Unknown);
-    QCOMPARE(judged(110, -1, 0, {WestEnd.x, WestEnd.y, {}}, 6000), Verdict::Unknown);
-    QCOMPARE(judged(110, 100, NoDataM, WestEnd, 6000), Verdict::Unknown);
-    QCOMPARE(judged(160, 100, NoDataM, WestEnd, 6000), Verdict::Obstructed);
-    QCOMPARE(judged(110, -1, 0, {WestM - 500, WestEnd.y, 50.0}, 6000), Verdict::Unknown);
+    const auto unknown = [](Lack lack) { return std::pair(Verdict::Unknown, lack); };
+    QCOMPARE(judged(110, -1, 0, WestEnd, 6000), std::pair(Verdict::Clear, Lack::Nothing));
+    QCOMPARE(judged(110, -1, 0, WestEnd, 0), unknown(Lack::Frequency));
+    QCOMPARE(judged(110, -1, 0, {WestEnd.x, WestEnd.y, {}}, 6000), unknown(Lack::HeightA));
+    QCOMPARE(judged(110, 100, NoDataM, WestEnd, 6000), unknown(Lack::TerrainOfPath));
+    QCOMPARE(judged(160, 100, NoDataM, WestEnd, 6000),
+             std::pair(Verdict::Obstructed, Lack::Nothing));
+    QCOMPARE(judged(110, -1, 0, {WestM - 500, WestEnd.y, 50.0}, 6000),
+             unknown(Lack::TerrainOfPath));
 }
 
 // Two rows of two pixels, stored as 10, 20, 30 and `last`.

@@ -128,7 +128,8 @@ QVariant LinkReportModel::text(const geodata::LinkReport &link, int column) cons
     case Verdict:
         return verdictText(link.clearance.verdict);
     case Worst:
-        return link.clearance.worst ? worstText(*link.clearance.worst) : QString();
+        return link.clearance.worst ? worstText(*link.clearance.worst)
+                                    : lackText(link.clearance.lack);
     default:
         return name(link, column);
     }
@@ -138,8 +139,9 @@ QVariant LinkReportModel::toolTip(const geodata::LinkReport &link, int column) c
 {
     QString tip = text(link, column).toString();
     const bool isUnjudged = link.clearance.verdict == linkpath::Verdict::Unknown;
-    if (isUnjudged && (column == Verdict || (column == Worst && tip.isEmpty())))
-        tip = tr("A link is judged by the places and the antenna heights of both ends, a frequency "
+    if (isUnjudged && (column == Verdict || column == Worst))
+        tip = lackText(link.clearance.lack) + QLatin1Char('\n') +
+              tr("A link is judged by the places and the antenna heights of both ends, a frequency "
                  "and the terrain under the whole path",
                  "MESS_TIP_UNJUDGED");
     return vlt::text::asRichText(tip);

@@ -204,5 +204,33 @@
         <extracomment>Head of a column: the same in shares of the first Fresnel zone.</extracomment>
         <translation>% of zone 1</translation>
     </message>
+    <message id="MESS_LACK_PLACE">
+        <source>an end has no place</source>
+        <translation>an end has no place</translation>
+    </message>
+    <message id="MESS_LACK_TERRAIN">
+        <source>no terrain</source>
+        <translation>no terrain</translation>
+    </message>
+    <message id="MESS_LACK_HEIGHT_A">
+        <source>no antenna height at end A</source>
+        <translation>no antenna height at end A</translation>
+    </message>
+    <message id="MESS_LACK_HEIGHT_B">
+        <source>no antenna height at end B</source>
+        <translation>no antenna height at end B</translation>
+    </message>
+    <message id="MESS_LACK_FREQUENCY">
+        <source>no frequency</source>
+        <translation>no frequency</translation>
+    </message>
+    <message id="MESS_LACK_PATH">
+        <source>the terrain does not cover the whole path</source>
+        <translation>the terrain does not cover the whole path</translation>
+    </message>
+    <message id="MESS_LACK_LENGTH">
+        <source>both ends stand in one place</source>
+        <translation>both ends stand in one place</translation>
+    </message>
 </context>
 </TS>

@@ -204,5 +204,33 @@
         <extracomment>Head of a column: the same in shares of the first Fresnel zone.</extracomment>
         <translation>% de la zone 1</translation>
     </message>
+    <message id="MESS_LACK_PLACE">
+        <source>an end has no place</source>
+        <translation>une extrémité n'a pas de position</translation>
+    </message>
+    <message id="MESS_LACK_TERRAIN">
+        <source>no terrain</source>
+        <translation>pas de terrain</translation>
+    </message>
+    <message id="MESS_LACK_HEIGHT_A">
+        <source>no antenna height at end A</source>
+        <translation>pas de hauteur d'antenne à l'extrémité A</translation>
+    </message>
+    <message id="MESS_LACK_HEIGHT_B">
+        <source>no antenna height at end B</source>
+        <translation>pas de hauteur d'antenne à l'extrémité B</translation>
+    </message>
+    <message id="MESS_LACK_FREQUENCY">
+        <source>no frequency</source>
+        <translation>pas de fréquence</translation>
+    </message>
+    <message id="MESS_LACK_PATH">
+        <source>the terrain does not cover the whole path</source>
+        <translation>le terrain ne couvre pas tout le trajet</translation>
+    </message>
+    <message id="MESS_LACK_LENGTH">
+        <source>both ends stand in one place</source>
+        <translation>les deux extrémités sont au même endroit</translation>
+    </message>
 </context>
 </TS>

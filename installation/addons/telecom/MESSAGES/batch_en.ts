@@ -1,0 +1,11 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en_US" sourcelanguage="en">
+<context>
+    <name>Command line</name>
+    <message id="MESS_CLI_WHY">
+        <source>why</source>
+        <translation>why</translation>
+    </message>
+</context>
+</TS>
