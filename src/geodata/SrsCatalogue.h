@@ -1,5 +1,6 @@
 #pragma once
 
+#include "geodata/SrsBounds.h"
 #include "platform/Result.h"
 
 #include <QList>
@@ -16,15 +17,6 @@ enum class SrsKind {
     Geocentric,
     Compound, ///< a horizontal system together with heights
     Other     ///< of bodies that no spheroid describes
-};
-
-/// Degrees; `west` is greater than `east` where the area lies across the 180th meridian.
-struct SrsBounds
-{
-    double west = 0;
-    double south = 0;
-    double east = 0;
-    double north = 0;
 };
 
 /// A coordinate system as the PROJ database lists it.
@@ -50,8 +42,8 @@ struct SrsRecord
 /// @par Errors   the database is not there; no key, the text is the library's reason.
 Result<QList<SrsRecord>> readSrsCatalogue();
 
-/// The whole definition (WKT 2, several lines) of a code or of any other text that
-/// isSrsDefinition() knows; empty where there is none.
+/// The whole definition (WKT 2, several lines) of a code or of any other text that defines a
+/// system; empty where there is none.
 QString srsDefinitionText(const QString &codeOrDefinition);
 
 } // namespace vlt::geodata

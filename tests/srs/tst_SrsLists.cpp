@@ -139,17 +139,23 @@ private Q_SLOTS:
 
     void recognisesDefinitions()
     {
-        using vlt::geodata::isSrsDefinition;
-        QVERIFY(isSrsDefinition(u"epsg:2154"_s));
-        QVERIFY(isSrsDefinition(u"+proj=utm +zone=31 +datum=WGS84"_s));
-        const QString wkt = u"GEOGCS[\"Rep\u00e8re\",DATUM[\"D\",SPHEROID[\"S\",6378137,298.25]],"
-                            "PRIMEM[\"Greenwich\",0],UNIT[\"degree\",0.0174532925199433]]"_s;
-        QVERIFY(isSrsDefinition(wkt));
-        QVERIFY(!isSrsDefinition(wkt.left(50)));
-
+        const auto refusal = [](const QString &text) {
+            return vlt::geodata::definitionRefusal(text).value_or(vlt::Error()).key;
+        };
+        QString wkt = u"GEOGCS[\"Rep\u00e8re\",DATUM[\"D\",SPHEROID[\"S\",6378137,298.25]],"
+                      "PRIMEM[\"Greenwich\",0],UNIT[\"degree\",0.0174532925199433]]"_s;
         QTemporaryFile onDisk;
         QVERIFY(onDisk.open() && onDisk.write(wkt.toUtf8()) > 0 && onDisk.flush());
-        QVERIFY(!isSrsDefinition(onDisk.fileName()));
+
+        for (const QString &text : {u"epsg:2154"_s, u"+proj=utm +zone=31 +datum=WGS84"_s, wkt,
+                                    u"EPSG:5698"_s}) // Lambert-93 with heights
+            QCOMPARE(refusal(text), QString());
+        for (const QString &text : {wkt.left(50), onDisk.fileName(), QString()})
+            QCOMPARE(refusal(text), u"MESS_SRS_NOT_DEFINED"_s);
+        QCOMPARE(refusal(u"EPSG:5720"_s), u"MESS_SRS_HEIGHTS_ONLY"_s);
+        QCOMPARE(refusal(u"EPSG:4978"_s), u"MESS_SRS_GEOCENTRIC"_s);
+        QCOMPARE(refusal(wkt.replace(u"Rep\u00e8re"_s, u"\u6771\u4eac"_s)),
+                 u"MESS_SRS_NOT_LATIN1"_s);
     }
 };
 

@@ -173,7 +173,7 @@ void VltSrsChooser::slot_OnValidateEditedSrs()
     const int row = findRow(text, Qt::MatchExactly | Qt::MatchCaseSensitive);
     if (row >= 0)
         selectRow(row);
-    else if (vlt::geodata::isSrsDefinition(text) && !addUserDefined(text))
+    else if (!vlt::geodata::definitionRefusal(text) && !addUserDefined(text))
         return;
     Q_EMIT SrsSelected(currentCode());
 }

@@ -1,6 +1,7 @@
 #include "srs/ui/dialogToEditAlias.h"
 
 #include "geodata/SrsDefinition.h"
+#include "language/VltLanguageManager.h"
 #include "srs/UserDefinedSrsList.h"
 #include "ui_dialogToEditAlias.h"
 #include "wizard/base/Messages.h"
@@ -68,13 +69,13 @@ QString dialogToEditAlias::definition() const
 void dialogToEditAlias::validate()
 {
     const QString text = definition();
-    const bool isUnderstood = !m_asksDefinition || vlt::geodata::isSrsDefinition(text);
+    const std::optional<vlt::Error> refusal =
+        m_asksDefinition ? vlt::geodata::definitionRefusal(text) : std::nullopt;
     m_ui->m_pwLblHint->setText(
-        isUnderstood || text.isEmpty()
+        !refusal || text.isEmpty()
             ? tr("A code such as EPSG:2154, a PROJ text or WKT", "MESS_SRS_DEFINITION_TIP")
-            : tr("This is not yet a definition of a coordinate system", "MESS_SRS_NOT_DEFINED"));
-    m_ui->m_pwBbButtons->button(QDialogButtonBox::Ok)
-        ->setEnabled(isUnderstood && !alias().isEmpty());
+            : dico_label(refusal->key.toUtf8().constData(), refusal->text.toUtf8().constData()));
+    m_ui->m_pwBbButtons->button(QDialogButtonBox::Ok)->setEnabled(!refusal && !alias().isEmpty());
 }
 
 bool dialogToEditAlias::isAliasTaken() const

@@ -224,5 +224,17 @@
         <source>This is not yet a definition of a coordinate system</source>
         <translation>This is not yet a definition of a coordinate system</translation>
     </message>
+    <message id="MESS_SRS_NOT_LATIN1">
+        <source>A definition may have the characters of western Europe only</source>
+        <translation>A definition may have the characters of western Europe only</translation>
+    </message>
+    <message id="MESS_SRS_HEIGHTS_ONLY">
+        <source>This system gives heights only: it cannot place points on a map</source>
+        <translation>This system gives heights only: it cannot place points on a map</translation>
+    </message>
+    <message id="MESS_SRS_GEOCENTRIC">
+        <source>This system counts from the centre of the earth: it cannot place points on a map</source>
+        <translation>This system counts from the centre of the earth: it cannot place points on a map</translation>
+    </message>
 </context>
 </TS>

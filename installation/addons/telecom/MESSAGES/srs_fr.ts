@@ -224,5 +224,17 @@
         <source>This is not yet a definition of a coordinate system</source>
         <translation>Ceci n'est pas encore une définition de système de coordonnées</translation>
     </message>
+    <message id="MESS_SRS_NOT_LATIN1">
+        <source>A definition may have the characters of western Europe only</source>
+        <translation>Une définition ne peut contenir que les caractères d'Europe de l'Ouest</translation>
+    </message>
+    <message id="MESS_SRS_HEIGHTS_ONLY">
+        <source>This system gives heights only: it cannot place points on a map</source>
+        <translation>Ce système ne donne que des altitudes&#xa0;: il ne peut pas placer de points sur une carte</translation>
+    </message>
+    <message id="MESS_SRS_GEOCENTRIC">
+        <source>This system counts from the centre of the earth: it cannot place points on a map</source>
+        <translation>Ce système compte depuis le centre de la Terre&#xa0;: il ne peut pas placer de points sur une carte</translation>
+    </message>
 </context>
 </TS>
