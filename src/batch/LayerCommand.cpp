@@ -80,7 +80,7 @@ sites::SiteSystems chosenSystems(const QCommandLineParser &parser,
                                  const sites::SiteSystems &otherwise)
 {
     const auto system = [&parser](const QString &option, const QString &fromTable) {
-        return sites::epsgText(parser.isSet(option) ? parser.value(option) : fromTable);
+        return parser.isSet(option) ? parser.value(option) : fromTable;
     };
     return {system(QStringLiteral("source-srs"), otherwise.source),
             system(QStringLiteral("target-srs"), otherwise.target)};

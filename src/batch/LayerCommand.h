@@ -37,7 +37,7 @@ std::variant<LayerRequest, ExitStatus> readLayerRequest(const QCommandLineParser
                                                         const Surroundings &surroundings,
                                                         const QStringList &inputs);
 
-/// The systems that the options name, else those that go with the table, as layers carry them.
+/// The systems that the options name, as they stand there, else those that go with the table.
 sites::SiteSystems chosenSystems(const QCommandLineParser &parser,
                                  const sites::SiteSystems &otherwise);
 

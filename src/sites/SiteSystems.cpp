@@ -1,6 +1,5 @@
 #include "sites/SiteSystems.h"
 
-#include <QRegularExpression>
 #include <QStringList>
 
 namespace vlt::sites {
@@ -25,14 +24,6 @@ SiteSystems chooseSystems(const KnownSystems &known)
         known.unit == QLatin1String("METERS") ? QString() : QStringLiteral("4326");
     return {firstGiven({declared, degrees, known.terrainEpsg}),
             firstGiven({known.projectEpsg, known.terrainEpsg, degrees, declared})};
-}
-
-QString epsgText(const QString &code)
-{
-    static const QRegularExpression epsg(QStringLiteral("^\\s*EPSG:([0-9]+)\\s*$"),
-                                         QRegularExpression::CaseInsensitiveOption);
-    const QRegularExpressionMatch match = epsg.match(code);
-    return match.hasMatch() ? match.captured(1) : code;
 }
 
 } // namespace vlt::sites

@@ -24,8 +24,4 @@ struct SiteSystems
 /// else the terrain's, else WGS 84 for degrees, else the file's own.
 SiteSystems chooseSystems(const KnownSystems &known);
 
-/// A coordinate system as layers carry it: the number of an "EPSG:2154", in any case of letters and
-/// with blanks around; any other text, such as a WKT or "ESRI:102100", as it stands.
-QString epsgText(const QString &code);
-
 } // namespace vlt::sites

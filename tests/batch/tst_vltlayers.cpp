@@ -87,7 +87,7 @@ private Q_SLOTS:
         QCOMPARE(run.errors, QByteArray());
         const QByteArray layer = readFile(path(u"elsewhere/o.lay"_s));
         QCOMPARE(element(layer, "source"),
-                 "site:s_srs=4326,t_srs=32631,data_folder=addons/telecom/pylons,"
+                 "site:s_srs=EPSG:4326,t_srs=epsg:32631,data_folder=addons/telecom/pylons,"
                  "pylon_type=lattice_panel,pylon_width=10,sector_colors=ff000040 00ff0040 "
                  "0000ff40,sector_properties=150 30.5 0,transmitter_scale=0,lods=5000 1," +
                      path(u"s.csv"_s).toUtf8());

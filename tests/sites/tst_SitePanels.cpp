@@ -5,6 +5,7 @@
 #include "sites/ui/VltSrsSettings.h"
 
 #include <QComboBox>
+#include <QPushButton>
 #include <QSignalSpy>
 #include <QSlider>
 #include <QSpinBox>
@@ -142,13 +143,10 @@ private Q_SLOTS:
     void remembersTheTargetSystem_data()
     {
         QTest::addColumn<QString>("stored");
-        QTest::addColumn<QString>("carried");
 
-        QTest::newRow("listed") << u"EPSG:2154"_s << u"2154"_s;
-        QTest::newRow("not listed") << u"EPSG:32198"_s << u"32198"_s;
-        QTest::newRow("other authority") << u"ESRI:102100"_s << u"ESRI:102100"_s;
-        QTest::newRow("own definition")
-            << u"+proj=utm +zone=30 +datum=WGS84"_s << u"+proj=utm +zone=30 +datum=WGS84"_s;
+        for (const char *stored : {"EPSG:2154", "2154", "EPSG:32198", "32198", "ESRI:102100",
+                                   "+proj=utm +zone=30 +datum=WGS84"})
+            QTest::newRow(stored) << QString::fromLatin1(stored);
     }
 
     void remembersTheTargetSystem()
@@ -165,11 +163,49 @@ private Q_SLOTS:
         panel.loadSettings(u"P"_s);
         panel.setSourceSrs(stored);
 
-        QTEST(panel.targetSrs(), "carried");
-        QTEST(panel.sourceSrs(), "carried");
+        QCOMPARE(panel.targetSrs(), stored);
+        QCOMPARE(panel.sourceSrs(), stored);
         QCOMPARE(changes.count(), 0);
         panel.saveSettings(u"Q"_s);
         QCOMPARE(vlt::platform::wizardSettings()->value(u"Q/TargetSrs"_s).toString(), stored);
+    }
+
+    /// Rows of other systems stand before it, and one of the user's own hides its code.
+    void takesTheVerySystemThatIsSet_data()
+    {
+        QTest::addColumn<QString>("set");
+
+        QTest::newRow("behind an alias") << u"4326"_s;
+        QTest::newRow("its digits in another row") << u"EPSG:2770"_s;
+    }
+
+    void takesTheVerySystemThatIsSet()
+    {
+        QFETCH(QString, set);
+        const QString listed = u"LastUsedSrsList/%1_%2"_s;
+        int number = 0;
+        for (const auto &[code, alias, isOwn] :
+             {std::tuple(u"EPSG:27700"_s, u"Old BNG"_s, false),
+              std::tuple(u"EPSG:4326"_s, u"A"_s, true),
+              std::tuple(u"EPSG:2770"_s, u"California 6"_s, false)}) {
+            const auto settings = vlt::platform::builderSettings();
+            settings->setValue(listed.arg(++number).arg(u"CODE"_s), code);
+            settings->setValue(listed.arg(number).arg(u"ALIAS"_s), alias);
+            settings->setValue(listed.arg(number).arg(u"IS_USER_DEF"_s), isOwn);
+        }
+        VltSrsSettings panel(u"site"_s);
+        auto *combo = panel.findChild<QComboBox *>(u"m_pCBSrs"_s);
+
+        panel.setSourceSrs(set);
+        QCOMPARE(panel.sourceSrs(), set);
+        QCOMPARE(combo->currentIndex(), set == u"4326" ? 1 : 2);
+
+        combo->setCurrentIndex(0);
+        Q_EMIT combo->activated(0);
+        QCOMPARE(panel.sourceSrs(), u"EPSG:27700"_s);
+        panel.findChild<QPushButton *>(u"m_pPBResetSrs"_s)->click();
+        QCOMPARE(panel.sourceSrs(), set);
+        vlt::platform::builderSettings()->clear();
     }
 
     void readsTheTargetSystemFromADataset_data()
@@ -177,9 +213,9 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("srs");
         QTest::addColumn<QString>("target"); // empty: stays, with a warning
 
-        QTest::newRow("raster.tif") << QByteArray("EPSG:32630") << u"32630"_s;
+        QTest::newRow("raster.tif") << QByteArray("EPSG:32630") << u"EPSG:32630"_s;
         QTest::newRow("raster_without.tif") << QByteArray() << QString();
-        QTest::newRow("vector.shp") << QByteArray("EPSG:27572") << u"27572"_s;
+        QTest::newRow("vector.shp") << QByteArray("EPSG:27572") << u"EPSG:27572"_s;
         QTest::newRow("vector_without.shp") << QByteArray() << QString();
         // on the ellipsoid of WGS 84, which must not pass for WGS 84 itself
         QTest::newRow("nameless.shp")

@@ -2,7 +2,6 @@
 
 #include "geodata/DatasetReferenceCode.h"
 #include "platform/Settings.h"
-#include "sites/SiteSystems.h"
 #include "srs/ui/VltSrsChooser.h"
 #include "wizard/base/BusyWait.h"
 #include "wizard/base/Messages.h"
@@ -17,14 +16,6 @@
 namespace {
 
 const QString LastUsedDir = QStringLiteral("LastUsedDir");
-
-/// A system as the choosers' lists name it.
-QString listCode(const QString &epsgText)
-{
-    bool isNumber = false;
-    epsgText.toInt(&isNumber);
-    return isNumber ? QStringLiteral("EPSG:") + epsgText.trimmed() : epsgText;
-}
 
 } // namespace
 
@@ -65,38 +56,37 @@ VltSrsSettings::VltSrsSettings(const QString &kind, QWidget *parent)
             &VltSrsSettings::getTargetEpsgCodeFromDataSource);
 }
 
-void VltSrsSettings::setSourceSrs(const QString &epsgText)
+void VltSrsSettings::setSourceSrs(const QString &systemText)
 {
-    m_pwSource->setSrsCode(listCode(epsgText));
+    m_pwSource->setSystem(systemText);
 }
 
-void VltSrsSettings::setTargetSrs(const QString &epsgText)
+void VltSrsSettings::setTargetSrs(const QString &systemText)
 {
-    m_pwTarget->setSrsCode(listCode(epsgText));
+    m_pwTarget->setSystem(systemText);
 }
 
 QString VltSrsSettings::sourceSrs() const
 {
-    return vlt::sites::epsgText(m_pwSource->currentCode());
+    return m_pwSource->currentSystem();
 }
 
 QString VltSrsSettings::targetSrs() const
 {
-    return vlt::sites::epsgText(m_pwTarget->currentCode());
+    return m_pwTarget->currentSystem();
 }
 
 void VltSrsSettings::loadSettings(const QString &prefix)
 {
-    const QString code =
+    const QString system =
         vlt::platform::wizardSettings()->value(prefix + QStringLiteral("/TargetSrs")).toString();
-    if (!code.isEmpty() && !m_pwTarget->selectRowOf(code))
-        m_pwTarget->setSrsCode(code);
+    if (!system.isEmpty())
+        m_pwTarget->setSystem(system);
 }
 
 void VltSrsSettings::saveSettings(const QString &prefix)
 {
-    vlt::platform::wizardSettings()->setValue(prefix + QStringLiteral("/TargetSrs"),
-                                              m_pwTarget->currentCode());
+    vlt::platform::wizardSettings()->setValue(prefix + QStringLiteral("/TargetSrs"), targetSrs());
 }
 
 void VltSrsSettings::getTargetEpsgCodeFromDataSource()
@@ -119,6 +109,6 @@ void VltSrsSettings::getTargetEpsgCodeFromDataSource()
         vlt::messages::warning(this, code->error(), tr("Warning", "MESS_ATTENTION"));
         return;
     }
-    m_pwTarget->setSrsCode(QStringLiteral("EPSG:%1").arg(code->value()));
+    m_pwTarget->setSystem(QStringLiteral("EPSG:%1").arg(code->value()));
     Q_EMIT parameterChanged();
 }

@@ -16,11 +16,11 @@ public:
 
     /// Chooses a system by its EPSG number ("2154") or by any other text that names one. Emits
     /// nothing.
-    void setSourceSrs(const QString &epsgText);
-    void setTargetSrs(const QString &epsgText);
+    void setSourceSrs(const QString &systemText);
+    void setTargetSrs(const QString &systemText);
 
-    /// The chosen system as layers carry it: an EPSG number, or the text of any other system; empty
-    /// where none is chosen.
+    /// The chosen system as layers carry it: the text that it was set by, or the code of the row
+    /// that the user chose; empty where none is chosen.
     QString sourceSrs() const;
     QString targetSrs() const;
 

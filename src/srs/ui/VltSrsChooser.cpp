@@ -51,7 +51,7 @@ void VltSrsChooser::populate()
     else
         m_shown.fill(m_lastUsed);
     if (m_shown.count() > 0)
-        m_reference = m_shown.at(0);
+        setReference(m_shown.at(0));
 
     SrsComboBox *combo = m_ui->m_pCBSrs;
     combo->clear();
@@ -110,19 +110,29 @@ void VltSrsChooser::setSrsCode(const QString &code)
     selectEntry(listed >= 0 ? m_shown.at(listed) : entry);
 }
 
-bool VltSrsChooser::selectRowOf(const QString &code)
+void VltSrsChooser::setSystem(const QString &systemText)
 {
+    const QString code = vlt::geodata::listedCode(systemText);
     const int row = m_shown.indexOfCode(code);
-    if (row < 0)
-        return false;
-    m_reference = m_shown.at(row);
-    selectRow(row);
-    return true;
+    if (row < 0) {
+        setSrsCode(code);
+    } else { // by the row's system: other rows may have the code within their texts
+        setReference(m_shown.at(row));
+        selectRow(row);
+        colourRow(row, SelectedFromOutsideColour);
+    }
+    m_referenceText = systemText;
+    m_isAsGiven = !systemText.isEmpty();
+}
+
+QString VltSrsChooser::currentSystem() const
+{
+    return m_isAsGiven ? m_referenceText : currentCode();
 }
 
 void VltSrsChooser::selectEntry(const std::optional<SrsEntry> &entry)
 {
-    m_reference = entry.value_or(SrsEntry());
+    setReference(entry.value_or(SrsEntry()));
     if (m_reference.code.isEmpty()) {
         enterUndefinedState(OnReturn::Validates);
         return;
@@ -157,6 +167,7 @@ void VltSrsChooser::slot_resetSrs()
         enterUndefinedState(OnReturn::Validates);
     } else {
         selectRow(findRow(rowText(m_reference), Qt::MatchExactly | Qt::MatchCaseSensitive));
+        m_isAsGiven = m_shown.currentIndex() >= 0 && !m_referenceText.isEmpty();
         m_ui->m_pCBSrs->setFocus();
     }
     Q_EMIT SrsSelected(currentCode());
@@ -176,6 +187,12 @@ void VltSrsChooser::slot_OnValidateEditedSrs()
     else if (!vlt::geodata::definitionRefusal(text) && !addUserDefined(text))
         return;
     Q_EMIT SrsSelected(currentCode());
+}
+
+void VltSrsChooser::setReference(const SrsEntry &entry)
+{
+    m_reference = entry;
+    m_referenceText.clear();
 }
 
 int VltSrsChooser::findRow(const QString &text, Qt::MatchFlags match) const
@@ -208,6 +225,7 @@ void VltSrsChooser::selectRow(int row)
     if (row >= 0)
         m_ui->m_pCBSrs->setEditable(false);
     m_shown.setCurrentIndex(row);
+    m_isAsGiven = false;
     m_ui->m_pCBSrs->setCurrentIndex(row);
 }
 
@@ -244,7 +262,7 @@ void VltSrsChooser::chooseFromDialog()
 
     if (!chosen) {
         if (m_shown.currentIndex() >= 0) {
-            selectRow(m_shown.currentIndex());
+            m_ui->m_pCBSrs->setCurrentIndex(m_shown.currentIndex());
         } else {
             enterUndefinedState(OnReturn::StaysAsItIs);
             m_ui->m_pPBResetSrs->setEnabled(false);

@@ -54,9 +54,14 @@ public:
     /// makes the choice undefined. Reset comes back to it. Emits nothing.
     void setSrsCode(const QString &code);
 
-    /// Selects the row of the listed system with a code, as a choice remembered from an earlier
-    /// run; false where no row has it. Reset comes back to it. Emits nothing.
-    bool selectRowOf(const QString &code);
+    /// Selects the row of a system that is given by a bare EPSG number, another code or a
+    /// definition, or lists it; an empty text makes the choice undefined. Reset comes back to it.
+    /// Emits nothing.
+    void setSystem(const QString &systemText);
+
+    /// The chosen system: the text that setSystem() was given, until the user chooses; else
+    /// currentCode().
+    QString currentSystem() const;
 
     /// Shows and selects a system, which is added to the rows where its code is not among them;
     /// none, or one without code, makes the choice undefined. Reset comes back to it. Emits
@@ -78,6 +83,7 @@ public Q_SLOTS:
 private:
     enum class OnReturn { Validates, StaysAsItIs };
 
+    void setReference(const vlt::srs::SrsEntry &entry);
     int findRow(const QString &text, Qt::MatchFlags match) const;
     void insertRow(int row, const vlt::srs::SrsEntry &entry);
     void colourRow(int row, const QColor &background);
@@ -93,6 +99,8 @@ private:
     vlt::srs::ShownSrsList m_shown;
     vlt::srs::LastUsedSrsList m_lastUsed;
     vlt::srs::SrsEntry m_reference; ///< where the reset button goes back to
+    QString m_referenceText;        ///< as setSystem() was given it; empty where it was not
+    bool m_isAsGiven = false;       ///< whether the choice is that of m_referenceText
     bool m_withDefaults;
     bool m_withOther;
 };
