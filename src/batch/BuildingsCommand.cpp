@@ -115,6 +115,8 @@ ExitStatus runParsed(const BuildingsRequest &request, const GlobalOptions &optio
     const Result<BuildingLayerFiles> written = writeFiles(request, inputs.value(), reason);
     if (!written)
         return refuse(written.error(), reason);
+    if (!inputs.value().terrainWarning.isEmpty() && !options.quiet)
+        printError(inputs.value().terrainWarning);
     if (request.look && !options.quiet)
         warnOfImages(inputs.value());
     if (options.json && !printOut(layerJson(request, inputs.value(), written.value())))

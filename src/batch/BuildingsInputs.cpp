@@ -98,8 +98,9 @@ Result<BuildingsSource> readVector(const BuildingsRequest &request, const QStrin
     return source;
 }
 
-Result<buildings::TerrainSettings> readTerrain(const QString &path,
-                                               const std::optional<QString> &noData)
+/// @param warning  takes what is odd about the terrain
+Result<buildings::TerrainSettings>
+readTerrain(const QString &path, const std::optional<QString> &noData, QString &warning)
 {
     const Result<geodata::RasterSummary> terrain = geodata::readRasterSummary(absolutePath(path));
     if (!terrain)
@@ -107,6 +108,11 @@ Result<buildings::TerrainSettings> readTerrain(const QString &path,
     if (terrain.value().bandCount < 1)
         return Error{QStringLiteral("MESS_ERR_NO_BANDS"),
                      QStringLiteral("This image doesn't have any band"), path};
+    if (terrain.value().holdsColors)
+        warning = path + QStringLiteral(": ") +
+                  dico_label("MESS_DTM_IS_PICTURE",
+                             "This raster looks like a picture: its first band holds colors, which "
+                             "would be taken for heights");
     const std::optional<double> own = terrain.value().noData;
     return buildings::TerrainSettings{absolutePath(path),
                                       noData.value_or(own ? text::f6(*own) : QString())};
@@ -141,7 +147,7 @@ Result<BuildingsInputs> readFiles(const BuildingsRequest &request, const Surroun
     if (dtm.isEmpty())
         return told(dico_label("MESS_CLI_NO_DTM", "the project names no terrain: give --dtm"),
                     project);
-    const auto terrain = readTerrain(dtm, request.terrainNoData);
+    const auto terrain = readTerrain(dtm, request.terrainNoData, inputs.terrainWarning);
     if (!terrain)
         return terrain.error();
     inputs.layer.source = source.value();

@@ -12,6 +12,7 @@ struct BuildingsInputs
     buildings::RasterColoring coloring; ///< without a raster where none is asked for
     buildings::TexturedLook look;       ///< of the request, with images where it has textures
     qint64 buildingCount = -1;          ///< -1 where the format would have to count
+    QString terrainWarning;             ///< of a terrain that looks like none; else empty
     QStringList files;                  ///< all that are read, none of which may be written
 };
 

@@ -146,7 +146,7 @@ std::unique_ptr<CoverageRaster> CoverageRaster::open(const std::string &path,
     const localfiles::NoNetwork offline;
     const std::optional<double> typed = numberOf(noData);
     std::string why;
-    GDALDatasetUniquePtr dataset = openLocalRaster(path, &why);
+    GDALDatasetUniquePtr dataset = openLocalRaster(path, RasterUse::Values, &why);
     if (dataset && dataset->GetRasterCount() != 1)
         why = "it has not one band";
     else if (dataset && GDALDataTypeIsComplex(dataset->GetRasterBand(1)->GetRasterDataType()))

@@ -1,6 +1,7 @@
 #include "coverage/LocalRaster.h"
 
 #include "localfiles/LocalFormats.h"
+#include "localfiles/RasterValues.h"
 
 #include <cpl_error.h>
 
@@ -46,10 +47,11 @@ std::string localPathIn(const std::string &directory, std::string_view path)
     return localfiles::isLocalDataset(whole) ? whole : std::string();
 }
 
-GDALDatasetUniquePtr openAs(const std::string &name, const char *const *formats)
+GDALDatasetUniquePtr openPicture(const std::string &name)
 {
-    return GDALDatasetUniquePtr(GDALDataset::Open(
-        name.c_str(), GDAL_OF_RASTER | GDAL_OF_READONLY | GDAL_OF_VERBOSE_ERROR, formats));
+    return GDALDatasetUniquePtr(
+        GDALDataset::Open(name.c_str(), GDAL_OF_RASTER | GDAL_OF_READONLY | GDAL_OF_VERBOSE_ERROR,
+                          localfiles::localRasterFormats()));
 }
 
 bool lists(GDALDataset &file, const std::string &part)
@@ -72,7 +74,7 @@ GDALDatasetUniquePtr openPart(const std::string &name)
         const std::string path = name.substr(begin, length);
         if (!localfiles::isLocalDataset(path))
             return false;
-        const GDALDatasetUniquePtr file = openAs(path, localfiles::localRasterFormats());
+        const GDALDatasetUniquePtr file = openPicture(path);
         if (!file || !lists(*file, name))
             return false;
         part = openListedPart(name);
@@ -122,17 +124,20 @@ GDALDatasetUniquePtr openListedPart(const std::string &name)
         return begin == slash && localfiles::isLocalDataset(name.substr(begin, length));
     });
     if (isLocal && name.compare(slash, 2, "//") != 0)
-        return openAs(name, localfiles::localRasterFormats()); // not always that of the file
+        return openPicture(name); // not always that of the file
     CPLError(CE_Failure, CPLE_OpenFailed, "not in a file of this computer");
     return nullptr;
 }
 
-GDALDatasetUniquePtr openLocalRaster(const std::string &name, std::string *reason)
+GDALDatasetUniquePtr openLocalRaster(const std::string &name, RasterUse use, std::string *reason)
 {
     CPLErrorReset();
     const bool isFile = localfiles::isLocalDataset(name);
-    GDALDatasetUniquePtr dataset =
-        isFile ? openAs(name, localfiles::localRasterFormats()) : openPart(name);
+    GDALDatasetUniquePtr dataset;
+    if (!isFile)
+        dataset = openPart(name);
+    else
+        dataset = use == RasterUse::Values ? localfiles::openRasterValues(name) : openPicture(name);
     std::string why;
     if (!dataset) {
         why = CPLGetLastErrorMsg();

@@ -15,6 +15,9 @@ namespace vlt::coverage {
 /// @return             the name as it is where no directory has the file
 std::string locateRaster(const std::string &name, const std::vector<std::string> &directories);
 
+/// What a raster is opened for: its values in band 1, or the bands of a picture.
+enum class RasterUse { Values, Picture };
+
 /// Opens a raster of the local disk, or a part of one, through the formats of the local disk. Of
 /// parts only those can be opened that a local file itself lists.
 ///
@@ -23,7 +26,7 @@ std::string locateRaster(const std::string &name, const std::vector<std::string>
 /// @param name    absolute
 /// @param reason  takes why there is none; may be null
 /// @return        null where it cannot be opened
-GDALDatasetUniquePtr openLocalRaster(const std::string &name, std::string *reason);
+GDALDatasetUniquePtr openLocalRaster(const std::string &name, RasterUse use, std::string *reason);
 
 /// Opens a part by the name under which a local file lists it: with that file's absolute path
 /// before all else. A file may list what it likes, an address of the network too.

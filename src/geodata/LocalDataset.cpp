@@ -3,6 +3,7 @@
 #include "coverage/LocalRaster.h"
 #include "geodata/Subdatasets.h"
 #include "localfiles/LocalFormats.h"
+#include "localfiles/RasterValues.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -20,10 +21,11 @@ GDALDatasetUniquePtr openLocalDataset(const QString &path, unsigned kind)
         CPLError(CE_Failure, CPLE_OpenFailed, "not a file or folder of this computer");
         return {};
     }
-    const char *const *formats = kind == GDAL_OF_RASTER ? localfiles::localRasterFormats()
-                                                        : localfiles::localVectorFormats();
-    return GDALDatasetUniquePtr(GDALDataset::Open(
-        name.constData(), kind | GDAL_OF_READONLY | GDAL_OF_VERBOSE_ERROR, formats));
+    if (kind == GDAL_OF_RASTER)
+        return localfiles::openRasterValues(name.toStdString());
+    return GDALDatasetUniquePtr(GDALDataset::Open(name.constData(),
+                                                  kind | GDAL_OF_READONLY | GDAL_OF_VERBOSE_ERROR,
+                                                  localfiles::localVectorFormats()));
 }
 
 GDALDatasetUniquePtr openLocalRaster(const QString &path, const QString &part)

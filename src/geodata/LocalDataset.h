@@ -8,8 +8,8 @@
 
 namespace vlt::geodata {
 
-/// Opens a file or folder of the local disk for reading, through its formats. The caller collects
-/// the library's errors and keeps it off the network.
+/// Opens a file or folder of the local disk for reading, through its formats; of rasters band 1
+/// holds the values. The caller collects the library's errors and keeps it off the network.
 ///
 /// @param kind  GDAL_OF_RASTER or GDAL_OF_VECTOR
 /// @return      null where it cannot be opened

@@ -4,6 +4,7 @@
 #include "geodata/LocalDataset.h"
 #include "geodata/SystemInfo.h"
 #include "localfiles/NoNetwork.h"
+#include "localfiles/RasterValues.h"
 
 #include <gdal_pam.h>
 
@@ -74,6 +75,7 @@ Result<RasterSummary> readRasterSummary(const QString &path, const QString &part
     summary.bandCount = dataset->GetRasterCount();
     if (GDALRasterBand *band = summary.bandCount > 0 ? dataset->GetRasterBand(1) : nullptr)
         summary.noData = declaredNoData(*band);
+    summary.holdsColors = localfiles::holdsColors(*dataset);
     summary.system = systemInfo(dataset->GetSpatialRef());
     summary.extent = extentOf(*dataset);
     summary.subdatasets = subdatasets(*dataset);

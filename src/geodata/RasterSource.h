@@ -19,6 +19,7 @@ struct RasterSummary
     int rows = 0;
     int bandCount = 0;
     std::optional<double> noData; ///< of band 1
+    bool holdsColors = false;     ///< band 1 is a part of a picture
     SystemInfo system;
     std::optional<Extent> extent; ///< in that system; none where the raster has no place
     QList<Subdataset> subdatasets;

@@ -2,6 +2,7 @@
 
 #include "localfiles/LocalFormats.h"
 #include "localfiles/NoNetwork.h"
+#include "localfiles/RasterValues.h"
 
 #include <cpl_error.h>
 
@@ -55,9 +56,7 @@ std::unique_ptr<TerrainRaster> TerrainRaster::open(const std::string &path, std:
         why = TerrainNotLocal;
     std::unique_ptr<TerrainRaster> raster;
     if (why.empty()) {
-        GDALDatasetUniquePtr dataset(GDALDataset::Open(path.c_str(),
-                                                       GDAL_OF_RASTER | GDAL_OF_VERBOSE_ERROR,
-                                                       localfiles::localRasterFormats()));
+        GDALDatasetUniquePtr dataset = localfiles::openRasterValues(path);
         if (!dataset)
             why = CPLGetLastErrorMsg();
         else

@@ -259,6 +259,28 @@ private Q_SLOTS:
             !CoverageRaster::open(fileOf("none.tif", 1, {FileNoData}, {}), "", nullptr)->range());
     }
 
+    /// Such a grid shows itself as three colours before its values.
+    void readsValuesBehindAPicture()
+    {
+        const std::string path = fileOf("level.tif", 2, {-120, -90, -70, -60}, {0, 1, 0, 2, 0, -1});
+        const std::string grid = m_dir.filePath(u"level.grd"_s).toStdString();
+        {
+            const GDALDatasetUniquePtr plain(GDALDataset::Open(path.c_str()));
+            QVERIFY(
+                GDALDatasetUniquePtr(GetGDALDriverManager()->GetDriverByName("NWT_GRD")->CreateCopy(
+                    grid.c_str(), plain.get(), false, nullptr, nullptr, nullptr)));
+        }
+
+        const auto raster = CoverageRaster::open(grid, "", nullptr);
+
+        QVERIFY(raster && raster->range());
+        QVERIFY(std::abs(raster->range()->minimum + 120) < 0.1); // it keeps steps of the range
+        QVERIFY(std::abs(raster->range()->maximum + 60) < 0.1);
+        std::string reason;
+        const auto picture = openLocalRaster(grid, RasterUse::Picture, &reason);
+        QCOMPARE(picture->GetRasterBand(1)->GetColorInterpretation(), GCI_RedBand);
+    }
+
     void opensPartsThatAFileLists()
     {
         fileOf("parts.tif", 1, {1}, {0, 1, 0, 1, 0, -1});

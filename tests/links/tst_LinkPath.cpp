@@ -71,6 +71,7 @@ private Q_SLOTS:
     void whatCannotBeJudged();
     void heights_data();
     void heights();
+    void heightsBehindAPicture();
     void refusedTerrain_data();
     void refusedTerrain();
 
@@ -261,6 +262,26 @@ void tst_LinkPath::heights()
 
     QCOMPARE(read.has_value(), std::isfinite(height));
     QVERIFY(!read || std::abs(*read - height) < 1e-3);
+}
+
+/// Such a grid shows itself as three colours before its heights.
+void tst_LinkPath::heightsBehindAPicture()
+{
+    const auto plain = terrain(m_dir.filePath(QStringLiteral("plain.tif")), 300);
+    const QByteArray grid = m_dir.filePath(QStringLiteral("plain.grd")).toLocal8Bit();
+    {
+        const GDALDatasetUniquePtr file(
+            GDALDataset::Open(m_dir.filePath(QStringLiteral("plain.tif")).toLocal8Bit()));
+        QVERIFY(GDALDatasetUniquePtr(GetGDALDriverManager()->GetDriverByName("NWT_GRD")->CreateCopy(
+            grid.constData(), file.get(), false, nullptr, nullptr, nullptr)));
+    }
+
+    const auto read = TerrainRaster::open(grid.toStdString(), nullptr);
+
+    QVERIFY(read);
+    for (const double x : {WestM + 2.5 * PixelM, WestM + Columns / 2 * PixelM})
+        QVERIFY(std::abs(*read->heightM(x, NorthM - PixelM) - *plain->heightM(x, NorthM - PixelM)) <
+                0.1);
 }
 
 void tst_LinkPath::refusedTerrain_data()

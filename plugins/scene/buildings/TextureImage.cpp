@@ -78,7 +78,8 @@ std::unique_ptr<TextureImage> TextureImage::open(const std::string &name, const 
 {
     const CPLErrorHandlerPusher quiet(CPLQuietErrorHandler);
     const localfiles::NoNetwork offline;
-    GDALDatasetUniquePtr dataset = coverage::openLocalRaster(name, reason);
+    GDALDatasetUniquePtr dataset =
+        coverage::openLocalRaster(name, coverage::RasterUse::Picture, reason);
     if (!dataset)
         return nullptr;
     std::unique_ptr<TextureImage> image(new TextureImage(name, srs, std::move(dataset)));
@@ -253,7 +254,8 @@ ImageCrop TextureImage::crop(const std::vector<osg::Vec2d> &pixels, double dilat
         const CPLErrorHandlerPusher quiet(CPLQuietErrorHandler);
         const localfiles::NoNetwork offline;
         const GDALDatasetUniquePtr anew =
-            m_dataset ? nullptr : coverage::openLocalRaster(m_name, nullptr);
+            m_dataset ? nullptr
+                      : coverage::openLocalRaster(m_name, coverage::RasterUse::Picture, nullptr);
         if (GDALDataset *dataset = m_dataset ? m_dataset.get() : anew.get())
             read(*dataset, *window, *crop.image);
     }

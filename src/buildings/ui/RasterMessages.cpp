@@ -12,6 +12,9 @@ QString textOf(RasterProblem problem)
         return dico_label("MESS_ERR_OPEN_RASTERDS", "This file can't be open as a raster dataset");
     case RasterProblem::NoBands:
         return dico_label("MESS_ERR_NO_BANDS", "This image doesn't have any band");
+    case RasterProblem::HoldsColors:
+        return dico_label("MESS_DTM_IS_PICTURE", "This raster looks like a picture: its first band "
+                                                 "holds colors, which would be taken for heights");
     case RasterProblem::NotOneBand:
         break;
     }

@@ -6,8 +6,8 @@ class QWidget;
 
 namespace vlt::buildings {
 
-/// Why a raster is of no use.
-enum class RasterProblem { CannotOpen, NoBands, NotOneBand };
+/// Why a raster is of no use, or of doubtful use.
+enum class RasterProblem { CannotOpen, NoBands, NotOneBand, HoldsColors };
 
 /// What a box tells of it.
 QString textOf(RasterProblem problem);

@@ -461,7 +461,7 @@ void VltAddTexbFirstPage::showTerrain(const QString &path, const TerrainResult &
     m_lastUsedDir = QFileInfo(path).absolutePath();
     const bool isUsable = terrain && terrain.value().bandCount > 0;
     m_terrain = isUsable ? std::optional(terrain.value()) : std::nullopt;
-    m_openedDtm = isUsable ? path : QString();
+    m_openedDtm = terrain ? path : QString(); // also where it has no bands: the user may know why
     m_ui->m_pwLeDtm->setText(m_openedDtm);
     const std::optional<double> noData = isUsable ? terrain.value().noData : std::nullopt;
     m_ui->m_pwLeNoData->setText(noData ? text::f6(*noData) : QString());
@@ -475,6 +475,8 @@ void VltAddTexbFirstPage::showTerrain(const QString &path, const TerrainResult &
                                 terrain.error().text);
     else if (!isUsable)
         buildings::warnOfRaster(this, buildings::RasterProblem::NoBands, path);
+    else if (terrain.value().holdsColors)
+        buildings::warnOfRaster(this, buildings::RasterProblem::HoldsColors, path);
 }
 
 void VltAddTexbFirstPage::showSummaries()

@@ -188,5 +188,9 @@ raster images (ortho images, coverages plots, ...).</translation>
         <source>No building of this layer has a place</source>
         <translation>No building of this layer has a place</translation>
     </message>
+    <message id="MESS_DTM_IS_PICTURE">
+        <source>This raster looks like a picture: its first band holds colors, which would be taken for heights</source>
+        <translation>This raster looks like a picture: its first band holds colors, which would be taken for heights</translation>
+    </message>
 </context>
 </TS>

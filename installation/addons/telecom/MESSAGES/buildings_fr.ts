@@ -188,5 +188,9 @@ avec des images raster (orthophotos, cartes de couverture, ...).</translation>
         <source>No building of this layer has a place</source>
         <translation>Aucun bâtiment de cette couche n'est localisé</translation>
     </message>
+    <message id="MESS_DTM_IS_PICTURE">
+        <source>This raster looks like a picture: its first band holds colors, which would be taken for heights</source>
+        <translation>Ce raster semble être une image&#xa0;: sa première bande contient des couleurs, qui seraient prises pour des altitudes</translation>
+    </message>
 </context>
 </TS>
