@@ -114,17 +114,17 @@ private:
         return written;
     }
 
-    /// Its name may be taken: in a directory of several users by somebody else's file, beside
-    /// another layer by the same colours over other values. It gets the layer's name in front then.
+    /// Its name may be taken: by the same colours over other values, which another layer shows, or
+    /// in a directory of several users by somebody else's file. It gets the layer's name in front
+    /// then.
     Result<Done> writeLegend(const LegendInput &legend)
     {
         const QImage image = colormaps::drawLegend(legend.map, legend.interpretation, LegendScale);
         m_legendSize = image.size() / LegendScale;
-        const bool isShared = m_access != platform::Access::UserOnly;
-        if (isShared && isOther(image, m_files.legend))
+        if (isOther(image, m_files.legend))
             return writeLegendAs(ownLegendName(m_files.document, legend.name), image);
         Result<Done> written = writeLegendAs(legend.name, image);
-        if (written || isShared)
+        if (written || m_access != platform::Access::UserOnly)
             return written;
         return writeLegendAs(ownLegendName(m_files.document, legend.name), image);
     }

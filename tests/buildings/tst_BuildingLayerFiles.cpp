@@ -215,8 +215,8 @@ private Q_SLOTS:
         const QByteArray former = contentOf(legend);
         QVERIFY(m_input.legend->map.load(path(u"two.txt"_s).toStdString(), -120, -60));
 
-        for (int time = 0; time < 2; ++time) { // of another layer
-            QCOMPARE(write(u"b.lay"_s, Access::Shared), path(u"b_two & more_gradient.png"_s));
+        for (const Access access : {Access::Shared, Access::UserOnly}) { // of another layer
+            QCOMPARE(write(u"b.lay"_s, access), path(u"b_two & more_gradient.png"_s));
             QCOMPARE(contentOf(legend), former);
         }
         QVERIFY(contentOf(path(u"b.lay"_s)).contains("/b_two &amp; more_gradient.png\""));
