@@ -27,13 +27,19 @@ QString whereOf(TexbSubtype subtype)
     return dico_label("MESS_TEX_ROOFS", "Roofs");
 }
 
+/// Of the language in which the text is told.
+QLocale spoken()
+{
+    return QLocale(VltLanguageManager::getInstance().getCurrentLanguage().text);
+}
+
 QString heightsText(const std::set<double> &heights)
 {
     constexpr int Digits = 6;
-    const QLocale spoken(VltLanguageManager::getInstance().getCurrentLanguage().text);
+    const QLocale locale = spoken();
     QStringList texts;
     for (const double height : heights)
-        texts << spoken.toString(height, 'g', Digits);
+        texts << locale.toString(height, 'g', Digits);
     if (texts.size() > MostHeights)
         texts = {texts.first() + QStringLiteral(" \u2013 ") + texts.last()};
     return texts.join(QStringLiteral(" \u00b7 ")) + QStringLiteral(" m");
@@ -51,7 +57,7 @@ QString texturedInfoText(TexbSubtype subtype, const QList<FileEntry> &images)
         ++count;
         heights.insert(image.height);
     }
-    QStringList lines{dico_label("MESS_TEXB_IMAGES", "Images: %1").arg(count)};
+    QStringList lines{dico_label("MESS_TEXB_IMAGES", "Images: %1").arg(spoken().toString(count))};
     if (count > 0) {
         const QString where =
             QStringLiteral("<span style=\"font-weight:600; text-decoration:underline;\">") +
