@@ -130,6 +130,24 @@ private Q_SLOTS:
         QVERIFY(page.text(u"m_pwLblLegend"_s).contains(map));
     }
 
+    void savesALayerThatStays()
+    {
+        ColoredPage page(m_installation);
+        QTRY_VERIFY(page.icon()->isEnabled());
+        QVERIFY(QDir(m_dir.path()).mkpath(u"kept"_s));
+        const FileDialogAnswer dialog(path(u"kept/mine.lay"_s));
+
+        QTest::keyClick(page.icon(), Qt::Key_S, Qt::ControlModifier);
+        page.choose(u"m_pwCbMode"_s, 1);
+
+        QTRY_VERIFY(page.document().contains(u";maximum;"_s));
+        QVERIFY(contents(path(u"kept/mine.texb"_s)).contains(u";minimum;"_s));
+        const QString layer = contents(path(u"kept/mine.lay"_s));
+        for (const QString &name : {u"TEXB:%1/kept/mine.texb"_s, u"%1/kept/first_gradient.png"_s})
+            QVERIFY2(layer.contains(name.arg(m_dir.path())), qPrintable(layer));
+        QVERIFY(QFile::exists(path(u"kept/first_gradient.png"_s)));
+    }
+
     void refusesImages_data()
     {
         QTest::addColumn<QString>("name");

@@ -91,16 +91,17 @@ QString VltAddTexbColoredPage::missingText() const
                                    : m_ui->m_pwColoring->missingText();
 }
 
-Result<buildings::BuildingLayerFiles> VltAddTexbColoredPage::writeFiles(const QString &layerPath)
+Result<buildings::BuildingLayerFiles> VltAddTexbColoredPage::writeFiles(const QString &layerPath,
+                                                                        platform::Access access,
+                                                                        QString &reason)
 {
     const auto legend = m_ui->m_pwColoring->legend();
     const auto coloring = m_ui->m_pwColoring->coloring();
     if (!legend || !coloring)
         return Error{};
     m_colorMapName = legend->name;
-    return buildings::writeColoredLayer(layerPath,
-                                        layerInput(m_ui->m_pwExtrusion->settings(), legend),
-                                        *coloring, platform::Access::UserOnly);
+    return buildings::writeColoredLayer(
+        layerPath, layerInput(m_ui->m_pwExtrusion->settings(), legend), *coloring, access, &reason);
 }
 
 void VltAddTexbColoredPage::layerWritten(const buildings::BuildingLayerFiles &files)

@@ -159,7 +159,8 @@ VltAddTexbPreviewPage::look(const vlt::buildings::RasterColoring &coloring) cons
 }
 
 vlt::Result<vlt::buildings::BuildingLayerFiles>
-VltAddTexbPreviewPage::writeFiles(const QString &layerPath)
+VltAddTexbPreviewPage::writeFiles(const QString &layerPath, vlt::platform::Access access,
+                                  QString &reason)
 {
     std::optional<vlt::buildings::RasterColoring> coloring;
     std::optional<vlt::buildings::LegendInput> legend;
@@ -172,7 +173,7 @@ VltAddTexbPreviewPage::writeFiles(const QString &layerPath)
     m_colorMapName = legend ? legend->name : QString();
     return vlt::buildings::writeTexturedLayer(
         layerPath, layerInput(m_ui->m_pwExtrusion->settings(), legend),
-        look(coloring.value_or(vlt::buildings::RasterColoring())), vlt::platform::Access::UserOnly);
+        look(coloring.value_or(vlt::buildings::RasterColoring())), access, &reason);
 }
 
 void VltAddTexbPreviewPage::layerWritten(const vlt::buildings::BuildingLayerFiles &files)

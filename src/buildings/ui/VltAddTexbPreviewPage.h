@@ -28,7 +28,8 @@ public:
 private:
     bool isReady() const override;
     QString missingText() const override;
-    vlt::Result<vlt::buildings::BuildingLayerFiles> writeFiles(const QString &layerPath) override;
+    vlt::Result<vlt::buildings::BuildingLayerFiles>
+    writeFiles(const QString &layerPath, vlt::platform::Access access, QString &reason) override;
     void layerWritten(const vlt::buildings::BuildingLayerFiles &files) override;
 
     void connectPanels();

@@ -48,9 +48,12 @@ void VltBuildingLayerPage::setResult(VltBuildingPreview *preview, QBoxLayout *dr
     m_dragIcon->setObjectName(QStringLiteral("m_pwDragIcon"));
     m_dragIcon->setAccessibleName(
         tr("Layer of buildings to drag into the builder", "MESS_DRAG_NAME_TEXB"));
-    m_dragIcon->setToolTip(tr("Drag the layer file into the builder; Ctrl+C copies it, Ctrl+S "
-                              "saves it under another name",
-                              "MESS_TIP_DRAG"));
+    m_dragIcon->setToolTip(
+        tr("Drag the layer file into the builder; Ctrl+C copies it to be pasted there. Its files "
+           "are temporary: Ctrl+S saves it for good, with its document and legend beside it.",
+           "MESS_TIP_DRAG_TEXB"));
+    m_dragIcon->setSaver(
+        [this](const QString &target, QString &reason) { return saveLayer(target, reason); });
     m_dragIcon->installEventFilter(this);
     dragRow->addWidget(m_dragIcon);
     setLayerFile({});
@@ -169,17 +172,29 @@ bool VltBuildingLayerPage::makeLayer()
     return isMade;
 }
 
+/// The temporary files go with this process or the next start of the machine; a saved layer names
+/// files of its own.
+vlt::Result<vlt::Done> VltBuildingLayerPage::saveLayer(const QString &target, QString &reason)
+{
+    const auto written = writeFiles(target, vlt::platform::Access::Shared, reason);
+    if (!written)
+        return written.error();
+    return vlt::Done{};
+}
+
 bool VltBuildingLayerPage::makeOnce()
 {
     if (!isReady()) {
         leaveLayer(missingText());
         return false;
     }
-    const auto written = writeFiles(vlt::wizard::temporaryLayerFileName(m_layerName));
+    QString reason;
+    const auto written = writeFiles(vlt::wizard::temporaryLayerFileName(m_layerName),
+                                    vlt::platform::Access::UserOnly, reason);
     if (!written) {
         leaveLayer(tr("The layer has not been made.", "MESS_LAYER_NOT_MADE"));
         if (!written.error().key.isEmpty() || !written.error().text.isEmpty())
-            vlt::messages::critical(this, written.error());
+            vlt::messages::critical(this, written.error(), vlt::messages::errorTitle(), reason);
         return false;
     }
     saveSettings();

@@ -64,9 +64,10 @@ private:
     virtual QString missingText() const { return {}; }
 
     /// @param layerPath  of the layer file, which the other files lie beside
+    /// @param reason     takes the system's reason of a file that cannot be written
     /// @return           an error without key and text where the user was told already
     virtual vlt::Result<vlt::buildings::BuildingLayerFiles>
-    writeFiles(const QString &layerPath) = 0;
+    writeFiles(const QString &layerPath, vlt::platform::Access access, QString &reason) = 0;
 
     /// Shows what belongs to the layer that was just written; no files where there is none any
     /// more.
@@ -74,6 +75,7 @@ private:
 
     bool makeLayer();
     bool makeOnce();
+    vlt::Result<vlt::Done> saveLayer(const QString &target, QString &reason);
     void leaveLayer(const QString &message);
     void setLayerFile(const QString &path);
 

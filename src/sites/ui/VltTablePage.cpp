@@ -370,10 +370,11 @@ void VltTablePage::writeLayerFile()
                                tr("Error !!!", "MESS_ERREUR"));
 
     const QString path = vlt::wizard::temporaryLayerFileName(m_kind.layerBaseName);
-    const auto written =
-        vlt::platform::writeLayerFile(path, layer.value().text, vlt::platform::Access::UserOnly);
+    QString reason;
+    const auto written = vlt::platform::writeLayerFile(path, layer.value().text,
+                                                       vlt::platform::Access::UserOnly, &reason);
     if (!written) {
-        vlt::messages::critical(this, written.error());
+        vlt::messages::critical(this, written.error(), vlt::messages::errorTitle(), reason);
         return;
     }
     m_pwDragIcon->setLayerFile(path);

@@ -136,7 +136,7 @@ void DraggableIcon::keyPressEvent(QKeyEvent *event)
     if (event->matches(QKeySequence::Copy))
         copyToClipboard();
     else if (event->matches(QKeySequence::Save))
-        saveCopy();
+        saveAs();
     else if (asksForMenu(*event))
         openMenu(mapToGlobal(rect().center()));
     else
@@ -154,7 +154,7 @@ void DraggableIcon::openMenu(const QPoint &position)
     menu.addAction(tr("&Copy the layer file", "MESS_COPY_LAYER"), QKeySequence::Copy, this,
                    [this] { copyToClipboard(); });
     menu.addAction(tr("&Save the layer file as...", "MESS_SAVE_LAYER_AS"), QKeySequence::Save, this,
-                   [this] { saveCopy(); });
+                   [this] { saveAs(); });
     menu.exec(position);
 }
 
@@ -164,7 +164,7 @@ void DraggableIcon::copyToClipboard() const
     QToolTip::showText(mapToGlobal(rect().bottomLeft()), tr("Copied", "MESS_COPIED"));
 }
 
-void DraggableIcon::saveCopy()
+void DraggableIcon::saveAs()
 {
     const QString directory =
         vlt::platform::wizardSettings()->value(QStringLiteral("LastUsedDir")).toString();
@@ -176,11 +176,23 @@ void DraggableIcon::saveCopy()
     if (dialog.exec() != QDialog::Accepted)
         return;
     const QString target = dialog.selectedFiles().constFirst();
+    QString reason;
+    const vlt::Result<vlt::Done> saved = m_saver ? m_saver(target, reason) : copyTo(target, reason);
+    if (!saved && !(saved.error().key.isEmpty() && saved.error().text.isEmpty()))
+        vlt::messages::critical(this, saved.error(), vlt::messages::errorTitle(), reason);
+}
+
+vlt::Result<vlt::Done> DraggableIcon::copyTo(const QString &target, QString &reason) const
+{
     QFile layer(m_layerFile);
-    const bool saved =
-        layer.open(QIODevice::ReadOnly) &&
-        vlt::platform::writeWhole(target, layer.readAll(), vlt::platform::Access::Shared).ok();
-    if (!saved)
-        vlt::messages::critical(this, {QStringLiteral("MESS_CANT_CREATE_LAYER"),
-                                       QStringLiteral("Can't create the layer file"), target});
+    if (layer.open(QIODevice::ReadOnly)) {
+        vlt::Result<vlt::Done> written =
+            vlt::platform::writeWhole(target, layer.readAll(), vlt::platform::Access::Shared);
+        if (written)
+            return written;
+        reason = written.error().text;
+    } else
+        reason = layer.errorString();
+    return vlt::Error{QStringLiteral("MESS_CANT_CREATE_LAYER"),
+                      QStringLiteral("Can't create the layer file"), target};
 }

@@ -1,8 +1,12 @@
 #pragma once
 
+#include "platform/Result.h"
+
 #include <QLabel>
 #include <QPropertyAnimation>
 #include <QString>
+
+#include <functional>
 
 class QMimeData;
 
@@ -24,6 +28,16 @@ public:
     void setLayerFile(const QString &path);
     const QString &layerFile() const { return m_layerFile; }
 
+    /// Writes the layer for good, with all files that it names.
+    ///
+    /// @param target  of the layer file
+    /// @param reason  takes the system's reason of a file that cannot be written
+    /// @return        an error without key and text where the user was told already
+    using Saver = std::function<vlt::Result<vlt::Done>(const QString &target, QString &reason)>;
+
+    /// Without one "Save as" copies the layer file: then it must name no file that will not stay.
+    void setSaver(Saver saver) { m_saver = std::move(saver); }
+
     int radius() const { return m_radius; }
     void setRadius(int radius);
 
@@ -40,12 +54,14 @@ protected:
 private:
     QMimeData *layerData() const;
     void copyToClipboard() const;
-    void saveCopy();
+    void saveAs();
+    vlt::Result<vlt::Done> copyTo(const QString &target, QString &reason) const;
     void openMenu(const QPoint &position);
     void playAttention();
     void endAttention();
 
     QString m_layerFile;
+    Saver m_saver;
     QPropertyAnimation m_attention;
     int m_radius = 0;
 };

@@ -4,6 +4,7 @@
 #include "text/RichText.h"
 
 #include <QAbstractButton>
+#include <QDir>
 #include <QMessageBox>
 
 namespace vlt::messages {
@@ -19,6 +20,13 @@ void tell(QMessageBox::Icon icon, QWidget *parent, const QString &text, const QS
     box.exec();
 }
 
+/// Temporary names hold a doubled separator, which looks like a mistake.
+QString shownPath(const QString &path)
+{
+    const bool isVirtual = path.startsWith(QLatin1String("/vsi")); // may hold an address
+    return path.startsWith(QLatin1Char('/')) && !isVirtual ? QDir::cleanPath(path) : path;
+}
+
 } // namespace
 
 QString textOf(const Error &error)
@@ -27,7 +35,7 @@ QString textOf(const Error &error)
     const QString translated = error.key.isEmpty()
                                    ? error.text
                                    : dico_label(error.key.toUtf8().constData(), text.constData());
-    return Error{{}, translated, error.path}.display();
+    return Error{{}, translated, shownPath(error.path)}.display();
 }
 
 QString errorTitle()

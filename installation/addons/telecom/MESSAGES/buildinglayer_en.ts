@@ -90,5 +90,9 @@
         <extracomment>Followed by a colon and a number.</extracomment>
         <translation>images that state no height, 0 m is taken</translation>
     </message>
+    <message id="MESS_TIP_DRAG_TEXB">
+        <source>Drag the layer file into the builder; Ctrl+C copies it to be pasted there. Its files are temporary: Ctrl+S saves it for good, with its document and legend beside it.</source>
+        <translation>Drag the layer file into the builder; Ctrl+C copies it to be pasted there. Its files are temporary: Ctrl+S saves it for good, with its document and legend beside it.</translation>
+    </message>
 </context>
 </TS>
