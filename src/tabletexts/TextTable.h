@@ -107,6 +107,8 @@ inline constexpr auto Texts = std::to_array<Text>({
     {"MESS_TAB_NO_COORDINATES", "no columns with coordinates were recognised"},
     {"MESS_TAB_BEHIND_LAST",
      "the row goes on behind the last column: \"%1\" in column %2 has no header"},
+    {"MESS_TAB_MISSING_TEXT",
+     "the text of the cell is lost: the workbook has no text number \"%1\""},
     {"MESS_TAB_LOST_VALUE", "the value \"%1\" is lost: the column holds numbers"},
 
     // links that cannot be read in full

@@ -27,7 +27,8 @@ def with_sectors(sector):
 class Manifest:
     """Writes files and keeps what each holds, known because the file was built so."""
 
-    COLUMNS = ("path", "kind", "rows", "columns", "header", "first_id", "last_id", "reason", "note")
+    COLUMNS = ("path", "kind", "rows", "columns", "header", "first_id", "last_id", "reason", "note",
+               "problems")
 
     def __init__(self, folder):
         os.makedirs(folder, exist_ok=True)
@@ -44,13 +45,15 @@ class Manifest:
             out.write(data.encode() if isinstance(data, str) else data)
 
     def open(self, name, data, note="", rows=COUNT, columns=len(HEADER), header=HEADER,
-             first="S0001", last="S0040"):
+             first="S0001", last="S0040", problems=""):
+        """`problems`: how many cells cannot be read and the first of them, COUNT|ROW|COLUMN|TEXT."""
         self.put(name, data)
-        self.lines.append((name, "open", rows, columns, "|".join(header[:6]), first, last, "", note))
+        self.lines.append((name, "open", rows, columns, "|".join(header[:6]), first, last, "", note,
+                           problems))
 
     def refused(self, name, data, reason, note=""):
         self.put(name, data)
-        self.lines.append((name, "refused", "", "", "", "", "", reason, note))
+        self.lines.append((name, "refused", "", "", "", "", "", reason, note, ""))
 
     def save(self):
         self.put("manifest.tsv", "".join("\t".join(map(str, line)) + "\n" for line in self.lines))

@@ -113,6 +113,17 @@ def cut_strings(texts):
     return out + record(number, piece)
 
 
+def parted_strings(texts):
+    """A string table with empty records after every text and in the middle of every second one."""
+    nothing, out = record(0x003C), record(0x00FC, struct.pack("<II", len(texts), len(texts)))
+    for i, text in enumerate(texts):
+        wide = struct.pack("<HB", len(text), 1) + text.encode("utf-16-le")
+        cut = 5 if i % 2 and len(text) > 1 else len(wide)
+        out += record(0x003C, wide[:cut]) + nothing + nothing
+        out += record(0x003C, b"\1" + wide[cut:]) if cut < len(wide) else b""
+    return out
+
+
 def biff8(before=b"", strings=whole_strings):
     texts, cells = [], b""
     for r, row in enumerate(table()):
@@ -168,6 +179,11 @@ def legal(m):
     m.open("two_books.xls", container({"Book": biff5(table(7)), "Workbook": biff8()}), "the newer counts")
     m.open("cut_strings.xls", container({"Workbook": biff8(strings=cut_strings)}),
            "texts cut by CONTINUE records, the rest in another width")
+    m.open("parted_strings.xls", container({"Workbook": biff8(strings=parted_strings)}),
+           "empty CONTINUE records between and inside the texts", problems="0|0||")
+    m.open("lost_strings.xls", container({"Workbook": biff8(strings=lambda texts: whole_strings(texts[:30]))}),
+           "the string table ends before the id of S0024", last="2.4",
+           problems='17|25|Site ID|the text of the cell is lost: the workbook has no text number "30"')
     claiming = biff8(strings=lambda texts: whole_strings(texts, 0x7FFFFFFF))
     m.open("string_count.xls", container({"Workbook": claiming}), "claims two thousand million texts")
 

@@ -205,6 +205,12 @@ def values(m):
     rows[2][1] = ('t="e"', "<v>#DIV/0!</v>")
     m.open("errors_booleans.xlsx", plain([HEADER + ["Active"]] + rows), columns=7)
 
+    rows = sites()
+    for i, number in enumerate(("-1", "18446744073709551616", "4711", "", "1e0")):
+        rows[i + 4][0] = ('t="s"', "<v>%s</v>" % number)
+    m.open("string_numbers.xlsx", plain([HEADER] + rows), "ids refer to texts that cannot be; one is empty",
+           problems='4|6|Site ID|the text of the cell is lost: the workbook has no text number "-1"')
+
     padding = "".join("<si><t>unused text number %07d ................</t></si>" % i for i in range(1000000))
     m.open("unused_strings.xlsx", plain(more=padding), "a million shared strings that no cell uses")
     for name, count in (("string_count_low.xlsx", 1), ("string_count_high.xlsx", 4294967295)):

@@ -4,7 +4,7 @@
     make_hurtful.py FOLDER
 
 FOLDER/manifest.tsv says of each: kind (open or refused), rows, columns, the first header fields,
-the first and last site id, or the reason of the refusal. The files are the same on every run.
+the first and last site id, and what cannot be read in it, or the reason of the refusal. The files are the same on every run.
 A note that starts with "or=word,word:" names reasons that are as good. Needs python3-xlwt.
 """
 import sys

@@ -1,4 +1,5 @@
 #include "bytes/Refusal.h"
+#include "ogr/FieldCells.h"
 #include "ogr/TableFile.h"
 
 #include <QtTest>
@@ -35,6 +36,17 @@ struct Outcome
     QString firstId;
     QString lastId;
     qint64 rowsRead = -1;
+    std::vector<RowProblem> problems;
+
+    /// How many problems there are and the first of them.
+    QString problemSummary() const
+    {
+        const RowProblem first = problems.empty() ? RowProblem() : problems.front();
+        return QStringLiteral("%1|%2|%3|%4")
+            .arg(problems.size())
+            .arg(first.row)
+            .arg(fromUtf8(first.column), fromUtf8(first.text));
+    }
 };
 
 Outcome openTable(const QString &path)
@@ -52,9 +64,12 @@ Outcome openTable(const QString &path)
                 names += fromUtf8(field.name);
         outcome.header = names.join(QLatin1Char('|'));
         outcome.rowsRead = 0;
+        FieldCells cells(profile);
+        cells.takeFaults(profile.header.row, profile.header.faults, outcome.problems);
         const auto rows = table->rows();
         while (rows->advance()) {
             const Row &row = rows->cells();
+            cells.take(row, outcome.problems);
             outcome.lastId = row.cells.empty() ? QString() : fromUtf8(cellText(row.cells.front()));
             if (outcome.rowsRead++ == 0)
                 outcome.firstId = outcome.lastId;
@@ -70,7 +85,8 @@ Outcome openTable(const QString &path)
 /// Lines of a manifest as rows of a test table, columns by their names.
 void readManifest(const QString &path, const QStringList &folders)
 {
-    for (const char *column : {"file", "verdict", "header", "firstId", "lastId", "otherReasons"})
+    for (const char *column :
+         {"file", "verdict", "header", "firstId", "lastId", "otherReasons", "problems"})
         QTest::addColumn<QString>(column);
     QTest::addColumn<qint64>("rows");
     QTest::addColumn<qint64>("columns");
@@ -98,7 +114,8 @@ void readManifest(const QString &path, const QStringList &folders)
         QTest::newRow(qPrintable(cell("path")))
             << found << (opens ? QStringLiteral("open") : cell("reason"))
             << cell("header").replace(QLatin1String("\\n"), QLatin1String(" ")) << cell("first_id")
-            << cell("last_id") << others << (opens ? cell("rows").toLongLong() : -1)
+            << cell("last_id") << others << cell("problems")
+            << (opens ? cell("rows").toLongLong() : -1)
             << (opens ? cell("columns").toLongLong() : -1);
     }
 }
@@ -169,7 +186,10 @@ private Q_SLOTS:
         QVERIFY2(time.elapsed() < 20000, "time out of proportion");
         if (firstId.isEmpty())
             return;
+        QFETCH(QString, problems);
         const Outcome outcome = openTable(file);
+        if (!problems.isEmpty())
+            QCOMPARE(outcome.problemSummary(), problems);
         QCOMPARE(outcome.firstId, firstId);
         QCOMPARE(outcome.lastId, lastId);
     }

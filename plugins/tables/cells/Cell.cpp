@@ -1,6 +1,7 @@
 #include "cells/Cell.h"
 
 #include "cells/Numbers.h"
+#include "tabletexts/TextPatterns.h"
 
 namespace vlt::tables {
 
@@ -10,6 +11,13 @@ constexpr std::string_view Blanks(" \t\r\n\v\f\0", 7);
 constexpr std::string_view NoBreakSpace = "\xC2\xA0";
 
 } // namespace
+
+void Row::addMissingText(int column, std::string_view textNumber)
+{
+    constexpr size_t LongestNumber = 20;
+    faults.push_back({column, tabletexts::formatted("MESS_TAB_MISSING_TEXT",
+                                                    {textNumber.substr(0, LongestNumber)})});
+}
 
 std::string_view trimmedSlowly(std::string_view text)
 {

@@ -26,11 +26,19 @@ struct Cell
     double number = 0; ///< meaningful for Number with an empty text
 };
 
+/// What a cell holds in the file and could not be read.
+struct CellFault
+{
+    int column = -1;  ///< from 0; -1 for the row as a whole
+    std::string text; ///< English, of the table of texts
+};
+
 /// The non-empty cells of one row, by ascending column.
 struct Row
 {
     int64_t number = 0; ///< row of the file as a spreadsheet counts it, from 1
     std::vector<Cell> cells;
+    std::vector<CellFault> faults;
 
     /// Keeps a text that lies nowhere else for the life of this row.
     std::string_view keep(std::string text)
@@ -39,9 +47,13 @@ struct Row
         return m_kept.back();
     }
 
+    /// Says that a cell refers to a text that the workbook does not hold.
+    void addMissingText(int column, std::string_view textNumber);
+
     void clear()
     {
         cells.clear();
+        faults.clear();
         if (!m_kept.empty())
             m_kept.clear();
     }

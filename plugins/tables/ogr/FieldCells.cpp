@@ -17,9 +17,26 @@ FieldCells::FieldCells(const TableProfile &table)
         m_fieldOfColumn[static_cast<size_t>(table.fields[field].column)] = static_cast<int>(field);
 }
 
+void FieldCells::takeFaults(int64_t row, const std::vector<CellFault> &faults,
+                            std::vector<RowProblem> &problems) const
+{
+    for (const CellFault &fault : faults) {
+        if (fault.column > m_table->lastColumn)
+            continue; // that the row goes on there is a problem of its own
+        const int field =
+            fault.column < 0 ? -1 : m_fieldOfColumn[static_cast<size_t>(fault.column)];
+        if (field < 0 && fault.column >= 0)
+            continue; // nobody reads the column
+        const std::string column =
+            field < 0 ? std::string() : m_table->fields[static_cast<size_t>(field)].name;
+        problems.push_back({row, column, false, fault.text});
+    }
+}
+
 void FieldCells::take(const Row &row, std::vector<RowProblem> &problems)
 {
     std::fill(m_cells.begin(), m_cells.end(), nullptr);
+    takeFaults(row.number, row.faults, problems);
     for (const Cell &cell : row.cells) {
         if (cell.column > m_table->lastColumn) {
             problems.push_back(

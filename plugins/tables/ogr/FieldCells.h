@@ -16,6 +16,9 @@ public:
     /// Takes the cells of a row; values that do not fit the type of their column are null and get a
     /// problem, as do cells behind the last column. Views live as long as the row.
     void take(const Row &row, std::vector<RowProblem> &problems);
+    /// Makes problems of what could not be read in a row, as take() does; for the header, too.
+    void takeFaults(int64_t row, const std::vector<CellFault> &faults,
+                    std::vector<RowProblem> &problems) const;
     /// The cell of each field, null where it is empty.
     const std::vector<const Cell *> &cells() const { return m_cells; }
     /// The number of a field of numeric type; only where its cell is not null.

@@ -334,6 +334,9 @@ ProblemList TableLayer::fileProblems() const
     ProblemList problems;
     systems().addProblems(problems);
     addFileProblems(problems);
+    std::vector<RowProblem> ofHeader;
+    m_cells.takeFaults(facts().table.header.row, facts().table.header.faults, ofHeader);
+    problems.add(std::move(ofHeader));
     return problems;
 }
 

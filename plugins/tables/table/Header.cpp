@@ -51,6 +51,7 @@ std::optional<Header> findHeader(const Sheet &sheet, TableKind kind, size_t &wid
         header.row = row.number;
         header.fingerprint = rows->fingerprint();
         header.titles = titles;
+        header.faults = row.faults;
         int values = 0;
         std::set<std::string> tableNames;
         for (const Cell &cell : row.cells) {

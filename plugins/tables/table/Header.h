@@ -19,6 +19,7 @@ struct Header
     int wordCount = 0;                ///< names that tables of that kind use
     uint64_t fingerprint = 0;         ///< of the row, to find where it is repeated
     bool hasRowsBelow = false;
+    std::vector<CellFault> faults; ///< what could not be read in the row
 };
 
 /// Looks for the header in the first rows of a sheet: the row with the most words of tables of that

@@ -259,6 +259,10 @@
         <source>the row goes on behind the last column: "%1" in column %2 has no header</source>
         <translation>the row goes on behind the last column: "%1" in column %2 has no header</translation>
     </message>
+    <message id="MESS_TAB_MISSING_TEXT">
+        <source>the text of the cell is lost: the workbook has no text number "%1"</source>
+        <translation>the text of the cell is lost: the workbook has no text number "%1"</translation>
+    </message>
     <message id="MESS_TAB_LOST_VALUE">
         <source>the value "%1" is lost: the column holds numbers</source>
         <translation>the value "%1" is lost: the column holds numbers</translation>

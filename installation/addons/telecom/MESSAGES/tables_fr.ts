@@ -259,6 +259,10 @@
         <source>the row goes on behind the last column: "%1" in column %2 has no header</source>
         <translation>la ligne continue après la dernière colonne&#xa0;: «&#xa0;%1&#xa0;», dans la colonne %2, n'a pas d'en-tête</translation>
     </message>
+    <message id="MESS_TAB_MISSING_TEXT">
+        <source>the text of the cell is lost: the workbook has no text number "%1"</source>
+        <translation>le texte de la cellule est perdu&#xa0;: le classeur n'a pas de texte numéro «&#xa0;%1&#xa0;»</translation>
+    </message>
     <message id="MESS_TAB_LOST_VALUE">
         <source>the value "%1" is lost: the column holds numbers</source>
         <translation>la valeur «&#xa0;%1&#xa0;» est perdue&#xa0;: la colonne contient des nombres</translation>

@@ -110,8 +110,10 @@ bool XlsStrings::readCharacters(size_t count, bool wide)
     uint32_t surrogate = 0;
     while (count > 0) {
         if (m_rest.empty()) {
-            if (m_records->peek() != XlsContinue || !m_records->next() || m_records->data().empty())
-                return false;
+            do { // some writers put empty records in between
+                if (m_records->peek() != XlsContinue || !m_records->next())
+                    return false;
+            } while (m_records->data().empty());
             m_rest = m_records->data();
             wide = static_cast<unsigned char>(m_rest[0]) & WideFlag;
             m_rest.remove_prefix(1);
@@ -154,13 +156,15 @@ bool XlsStrings::readString()
     return skip(4 * runs + extension);
 }
 
-std::string_view XlsStrings::at(uint32_t index)
+std::optional<std::string_view> XlsStrings::at(uint32_t index)
 {
     if (!m_records && !m_ended)
         m_ended = !start();
     while (!m_ended && m_texts.size() <= index)
         m_ended = !readString();
-    return index < m_texts.size() ? m_texts[index] : std::string_view();
+    if (index >= m_texts.size())
+        return std::nullopt;
+    return m_texts[index];
 }
 
 } // namespace vlt::tables

@@ -4,6 +4,7 @@
 #include "cells/StringPool.h"
 #include "cells/xls/XlsRecords.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -21,9 +22,9 @@ public:
     /// Where the table's record starts in the stream.
     void setPosition(uint64_t position) { m_position = position; }
 
-    /// The text with that number; empty when there is none. Stays valid for the life of this
-    /// object.
-    std::string_view at(uint32_t index);
+    /// The text with that number; nothing when there is none, or where the table is damaged before
+    /// it. Stays valid for the life of this object.
+    std::optional<std::string_view> at(uint32_t index);
 
 private:
     bool start();

@@ -202,7 +202,10 @@ bool XlsRows::hasContent(int lastColumn)
         else
             suspect = &cell;
     }
-    return suspect && !trimmed(m_context->strings->at(suspect->index)).empty();
+    if (!suspect)
+        return false;
+    const auto text = m_context->strings->at(suspect->index);
+    return !text || !trimmed(*text).empty(); // a text that is missing was not blank
 }
 
 uint64_t XlsRows::fingerprint()
@@ -232,7 +235,10 @@ void XlsRows::cells(Row &row)
         case RawCell::Kind::SharedText:
             if (leavesOut(raw.column))
                 continue;
-            cell.text = m_context->strings->at(raw.index);
+            if (const auto text = m_context->strings->at(raw.index))
+                cell.text = *text;
+            else
+                row.addMissingText(raw.column, std::to_string(raw.index));
             break;
         case RawCell::Kind::OwnText:
             cell.text = m_texts[raw.index];

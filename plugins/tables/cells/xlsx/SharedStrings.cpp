@@ -181,19 +181,19 @@ void SharedStrings::readUpTo(uint64_t index)
     }
 }
 
-std::string_view SharedStrings::at(uint64_t index)
+std::optional<std::string_view> SharedStrings::at(uint64_t index)
 {
     size_t place = static_cast<size_t>(index);
     if (!m_wanted.empty()) {
         const auto found = std::lower_bound(m_wanted.begin(), m_wanted.end(), index);
         if (found == m_wanted.end() || *found != index)
-            return {};
+            return std::nullopt;
         place = static_cast<size_t>(found - m_wanted.begin());
     }
     if (place >= m_texts.size())
         readUpTo(index);
     if (place >= m_texts.size())
-        return {};
+        return std::nullopt;
     return m_texts[place];
 }
 

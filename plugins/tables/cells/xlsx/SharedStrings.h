@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -20,9 +21,9 @@ public:
     SharedStrings(std::shared_ptr<const ZipArchive> archive, std::string member);
     ~SharedStrings();
 
-    /// The text with that number; empty when there is none. Views stay valid for the life of this
+    /// The text with that number; nothing when there is none. Views stay valid for the life of this
     /// object.
-    std::string_view at(uint64_t index);
+    std::optional<std::string_view> at(uint64_t index);
 
     /// Keeps only the texts with these numbers (sorted): for sheets that use few of many. Forgets
     /// what was read.

@@ -31,6 +31,23 @@ uint64_t wholeNumber(std::string_view text)
     return value;
 }
 
+/// Number of a shared string; nothing where a damaged or careless file holds no such number.
+std::optional<uint64_t> stringNumber(std::string_view value)
+{
+    const std::string_view text = trimmed(value);
+    uint64_t number = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    if (error != std::errc() || end != text.data() + text.size())
+        return std::nullopt;
+    return number;
+}
+
+std::optional<std::string_view> sharedText(const XlsxContext &context, std::string_view value)
+{
+    const std::optional<uint64_t> number = stringNumber(value);
+    return number ? context.strings->at(*number) : std::nullopt;
+}
+
 /// Column of a cell reference such as AB12, from 0; -1 when it is none.
 int columnOf(std::string_view reference)
 {
@@ -228,7 +245,10 @@ bool XlsxRows::hasContent(int lastColumn)
         } else if (!trimmed(cell.value).empty())
             return true;
     }
-    return !suspect.empty() && !trimmed(m_context->strings->at(wholeNumber(suspect))).empty();
+    if (suspect.empty())
+        return false;
+    const auto text = sharedText(*m_context, suspect);
+    return !text || !trimmed(*text).empty(); // a text that is missing was not blank
 }
 
 uint64_t XlsxRows::fingerprint()
@@ -247,8 +267,9 @@ void XlsxRows::collectSharedStrings(std::vector<uint64_t> &numbers) const
     int column = -1;
     while (nextXlsxCell(at, inside.data() + inside.size(), column, cell)) {
         column = cell.column;
-        if (cell.type == 's')
-            numbers.push_back(wholeNumber(cell.value));
+        const auto number = cell.type == 's' ? stringNumber(cell.value) : std::nullopt;
+        if (number)
+            numbers.push_back(*number);
     }
 }
 
@@ -259,7 +280,10 @@ bool XlsxRows::convert(const XlsxRawCell &raw, Cell &cell, Row &row) const
     case 's':
         if (leavesOut(static_cast<size_t>(raw.column)))
             return false;
-        cell.text = m_context->strings->at(wholeNumber(raw.value));
+        if (const auto text = sharedText(*m_context, raw.value))
+            cell.text = *text;
+        else
+            row.addMissingText(raw.column, raw.value);
         break;
     case 'i':
         cell.text = row.keep(richText(raw.value));
