@@ -124,6 +124,19 @@ def parted_strings(texts):
     return out
 
 
+def formula_cells(number):
+    """The table as results of formulas, of the version of BIFF that has this record number."""
+    cells = b""
+    for r, row in enumerate(table()):
+        for c, v in enumerate(row):
+            is_text = isinstance(v, str)
+            result = b"\0\0\0\0\0\0\xff\xff" if is_text else struct.pack("<d", v)
+            cells += record(number, struct.pack("<HHH", r, c, 0) + result + bytes(8))
+            if is_text:
+                cells += record(0x0207, struct.pack("<HB", len(v), 1) + v.encode("utf-16-le"))
+    return stream(0x0600, b"", b"", cells)
+
+
 def biff8(before=b"", strings=whole_strings):
     texts, cells = [], b""
     for r, row in enumerate(table()):
@@ -179,6 +192,9 @@ def legal(m):
     m.open("two_books.xls", container({"Book": biff5(table(7)), "Workbook": biff8()}), "the newer counts")
     m.open("cut_strings.xls", container({"Workbook": biff8(strings=cut_strings)}),
            "texts cut by CONTINUE records, the rest in another width")
+    for version, number in (("biff3", 0x0206), ("biff4", 0x0406)):
+        m.open(version + "_formulas.xls", container({"Workbook": formula_cells(number)}),
+               "every cell is a formula with the record number of an older version")
     m.open("parted_strings.xls", container({"Workbook": biff8(strings=parted_strings)}),
            "empty CONTINUE records between and inside the texts", problems="0|0||")
     m.open("lost_strings.xls", container({"Workbook": biff8(strings=lambda texts: whole_strings(texts[:30]))}),

@@ -81,8 +81,10 @@ enum XlsRecordType : uint16_t {
     XlsNumber = 0x0203,
     XlsLabel = 0x0204,
     XlsBoolErr = 0x0205,
+    XlsFormula3 = 0x0206, ///< of BIFF3; up to the result all three are alike
     XlsString = 0x0207,
     XlsRk = 0x027E,
+    XlsFormula4 = 0x0406,
     XlsFormat = 0x041E,
     XlsBof = 0x0809,
 };

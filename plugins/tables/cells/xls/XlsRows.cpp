@@ -155,6 +155,8 @@ bool XlsRows::readRecord()
     case XlsString:
         if (std::vector<std::string> &texts = m_nextRow >= 0 ? m_nextTexts : m_texts;
             !texts.empty())
+    case XlsFormula3: // some writers mix the versions
+    case XlsFormula4:
             texts.back() = xlsText(data, *m_context);
         break;
     case XlsBof: // of a chart inside the sheet
