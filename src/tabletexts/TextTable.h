@@ -109,6 +109,8 @@ inline constexpr auto Texts = std::to_array<Text>({
      "the row goes on behind the last column: \"%1\" in column %2 has no header"},
     {"MESS_TAB_MISSING_TEXT",
      "the text of the cell is lost: the workbook has no text number \"%1\""},
+    {"MESS_TAB_TEXT_CUT", "the text is too long: only its first characters are kept, %1 in number"},
+    {"MESS_TAB_ZEROS", "zero bytes inside the text were taken out"},
     {"MESS_TAB_LOST_VALUE", "the value \"%1\" is lost: the column holds numbers"},
 
     // links that cannot be read in full

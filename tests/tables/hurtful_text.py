@@ -78,8 +78,6 @@ def shapes(m):
         ("trailing_million.csv", usual + ";;;;;\r\n" * 500000, "500,000 lines of delimiters below"),
         ("title_lines.csv", 'Sites of the region\n"Exported; 2024-01-31"\n\n' + usual, ""),
         ("repeated_header.csv", lines(table()[:21] + [HEADER] + table()[21:]), "again after 20 sites"),
-        ("cell_5mb.csv", lines(huge), "the sector name of S0020 is 5 MB long"),
-        ("nul_in_cell.csv", usual.replace(";A;", ";A\0\0;"), "two NUL bytes in every sector name"),
         ("nul_padding.csv", usual + "\0" * 4096, "NUL bytes below, as a crashed logger leaves"),
     ):
         m.open(name, text, note)
@@ -99,6 +97,16 @@ def refusals(m):
         ("ids_only.csv", "Site ID\n" + "".join(r[0] + "\n" for r in sites()), "one-column", ""),
         ("headerless.csv", lines(sites()), "no-header", ""),
     ):
+    sector = "Transmitter-1 Sector ID|"
+    for name, text, note, problems in (
+        ("cell_5mb.csv", lines(huge), "the sector name of S0020 is 5 MB long",
+         "1|21|" + sector + "the text is too long: only its first characters are kept, 32767 in number"),
+        ("nul_behind.csv", usual.replace(";A;", ";A\0\0;"), "two NUL bytes behind every sector name", "0|0||"),
+        ("nul_inside.csv", usual.replace(";A;", ";A\0B;").replace("S0001", "\0S0\x00001"),
+         "NUL bytes in every sector name and in an id",
+         "41|2|Site ID|zero bytes inside the text were taken out"),
+    ):
+        m.open(name, text, note, problems=problems)
         m.refused(name, text, reason, note)
 
 

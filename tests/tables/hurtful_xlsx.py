@@ -4,7 +4,7 @@ import re
 import zipfile
 from xml.sax.saxutils import escape
 
-from hurtful_sites import HEADER, WIDE_HEADER, sites, table
+from hurtful_sites import HEADER, WIDE_HEADER, sites, table, with_sectors
 
 MAIN = "http://schemas.openxmlformats.org/spreadsheetml/2006/main"
 OFFICE = "http://schemas.openxmlformats.org/officeDocument/2006/relationships"
@@ -210,6 +210,17 @@ def values(m):
         rows[i + 4][0] = ('t="s"', "<v>%s</v>" % number)
     m.open("string_numbers.xlsx", plain([HEADER] + rows), "ids refer to texts that cannot be; one is empty",
            problems='4|6|Site ID|the text of the cell is lost: the workbook has no text number "-1"')
+
+    text = "long words " * 100000
+    long = [text] * 12000  # a header of 12 GB in a file of 45 kB
+    m.open("long_names.xlsx", plain([HEADER + long] + [r + [text] * 4 for r in sites()]),
+           "12,000 columns are called by one text of a megabyte", columns=12006,
+           problems="12160|1|%s|the text is too long: only its first characters are kept, 256 in number"
+           % text[:256])
+    m.open("long_string.xlsx", plain(with_sectors(lambda i: "x" * 50000000 if i == 20 else "A")),
+           "a text of 50 MB",
+           problems="1|22|Transmitter-1 Sector ID|the text is too long: only its first characters are kept, "
+                    "32767 in number")
 
     padding = "".join("<si><t>unused text number %07d ................</t></si>" % i for i in range(1000000))
     m.open("unused_strings.xlsx", plain(more=padding), "a million shared strings that no cell uses")

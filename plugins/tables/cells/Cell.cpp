@@ -3,11 +3,14 @@
 #include "cells/Numbers.h"
 #include "tabletexts/TextPatterns.h"
 
+#include <algorithm>
+
 namespace vlt::tables {
 
 namespace {
 
 constexpr std::string_view Blanks(" \t\r\n\v\f\0", 7);
+constexpr size_t ShortText = 256; ///< which any cell may have, however long the others are
 constexpr std::string_view NoBreakSpace = "\xC2\xA0";
 
 } // namespace
@@ -17,6 +20,43 @@ void Row::addMissingText(int column, std::string_view textNumber)
     constexpr size_t LongestNumber = 20;
     faults.push_back({column, tabletexts::formatted("MESS_TAB_MISSING_TEXT",
                                                     {textNumber.substr(0, LongestNumber)})});
+}
+
+void Row::addMended(Cell cell)
+{
+    m_textSize -= cell.text.size();
+    if (cell.text.find('\0') != std::string_view::npos) {
+        // At the ends they are padding; inside, programs that take them for the end would cut.
+        if (trimmed(cell.text).find('\0') != std::string_view::npos)
+            faults.push_back({cell.column, tabletexts::formatted("MESS_TAB_ZEROS")});
+        std::string plain(cell.text);
+        std::erase(plain, '\0');
+        cell.text = keep(std::move(plain));
+    }
+    const size_t room =
+        std::clamp(LongestRowText - std::min(m_textSize, LongestRowText), ShortText, LongestText);
+    const std::string_view first = firstCharacters(cell.text, room);
+    if (first.size() < cell.text.size()) {
+        const auto isStart = [](char c) { return (c & 0xC0) != 0x80; };
+        const auto count = std::count_if(first.begin(), first.end(), isStart);
+        faults.push_back(
+            {cell.column, tabletexts::formatted("MESS_TAB_TEXT_CUT", {std::to_string(count)})});
+        cell.text = first;
+    }
+    m_textSize += cell.text.size();
+    if (!trimmed(cell.text).empty() || cell.kind == Cell::Kind::Number)
+        cells.push_back(cell);
+}
+
+std::string_view firstCharacters(std::string_view text, size_t count)
+{
+    if (text.size() <= count)
+        return text;
+    size_t at = 0;
+    for (; at < text.size(); ++at)
+        if ((text[at] & 0xC0) != 0x80 && count-- == 0)
+            break;
+    return text.substr(0, at);
 }
 
 std::string_view trimmedSlowly(std::string_view text)

@@ -26,6 +26,11 @@ struct Cell
     double number = 0; ///< meaningful for Number with an empty text
 };
 
+/// Most characters of a text: what a cell of a workbook holds.
+constexpr size_t LongestText = 32767;
+/// Most bytes of all texts of a row, short ones apart.
+constexpr size_t LongestRowText = size_t{16} << 20;
+
 /// What a cell holds in the file and could not be read.
 struct CellFault
 {
@@ -50,17 +55,39 @@ struct Row
     /// Says that a cell refers to a text that the workbook does not hold.
     void addMissingText(int column, std::string_view textNumber);
 
+    /// Appends a cell. A text that is too long is cut and zeros are taken out of it, which is told
+    /// among the faults.
+    void add(const Cell &cell)
+    {
+        m_textSize += cell.text.size();
+        if (m_holdsZeros || cell.text.size() > LongestText || m_textSize > LongestRowText)
+            addMended(cell);
+        else
+            cells.push_back(cell);
+    }
+    /// Says that there are zeros in texts of this row.
+    void expectZeros() { m_holdsZeros = true; }
+
     void clear()
     {
         cells.clear();
         faults.clear();
+        m_textSize = 0;
+        m_holdsZeros = false;
         if (!m_kept.empty())
             m_kept.clear();
     }
 
 private:
+    void addMended(Cell cell);
+
     std::deque<std::string> m_kept;
+    size_t m_textSize = 0; ///< of the cells so far
+    bool m_holdsZeros = false;
 };
+
+/// The first characters of a UTF-8 text, `count` at most.
+std::string_view firstCharacters(std::string_view text, size_t count);
 
 /// What trimmed() does, without its short cut.
 std::string_view trimmedSlowly(std::string_view text);

@@ -43,8 +43,8 @@ void FieldCells::take(const Row &row, std::vector<RowProblem> &problems)
                 {row.number,
                  {},
                  false,
-                 tabletexts::formatted("MESS_TAB_BEHIND_LAST",
-                                       {cellText(cell), std::to_string(cell.column + 1)})});
+                 tabletexts::formatted("MESS_TAB_BEHIND_LAST", {quotation(cellText(cell)),
+                                                                std::to_string(cell.column + 1)})});
             break;
         }
         const int field = m_fieldOfColumn[static_cast<size_t>(cell.column)];
@@ -67,8 +67,9 @@ void FieldCells::take(const Row &row, std::vector<RowProblem> &problems)
         else {
             m_null[at] = 1;
             if (cell.kind != Cell::Kind::Error && !isMissingWord(text))
-                problems.push_back({row.number, of.name, false,
-                                    tabletexts::formatted("MESS_TAB_LOST_VALUE", {text})});
+                problems.push_back(
+                    {row.number, of.name, false,
+                     tabletexts::formatted("MESS_TAB_LOST_VALUE", {quotation(text)})});
         }
     }
 }

@@ -11,7 +11,7 @@ namespace vlt::tables {
 
 namespace {
 
-constexpr size_t SamplesKept = 200;
+constexpr size_t LongestSample = 100; ///< characters; no coordinate is longer
 constexpr double LargestExactWhole = 1e15;
 constexpr double Largest32 = std::numeric_limits<int32_t>::max();
 
@@ -24,13 +24,14 @@ bool isMissingWord(std::string_view text)
            std::find(Words.begin(), Words.end(), lowerCase(text)) != Words.end();
 }
 
-void ColumnStatistics::add(const Cell &cell)
+void ColumnStatistics::add(const Cell &cell, size_t samplesKept)
 {
     ++m_filled;
     const std::string_view text = trimmed(cell.text);
-    if (m_samples.size() < SamplesKept)
-        m_samples.push_back(cell.text.empty() || isOverlong(cell) ? cellText(cell)
-                                                                  : std::string(text));
+    if (m_samples.size() < samplesKept)
+        m_samples.push_back(cell.text.empty() || isOverlong(cell)
+                                ? cellText(cell)
+                                : std::string(firstCharacters(text, LongestSample)));
     if (cell.kind == Cell::Kind::Number && text.empty()) {
         ++m_numbers;
         const bool whole =

@@ -20,7 +20,8 @@ enum class FieldType {
 class ColumnStatistics
 {
 public:
-    void add(const Cell &cell);
+    /// Of the first `samplesKept` cells the text is kept.
+    void add(const Cell &cell, size_t samplesKept);
 
     /// The type that every sampled cell fits. `allRows` tells that no row was left out; otherwise
     /// whole numbers become Real, so that a fraction further down is not cut off.

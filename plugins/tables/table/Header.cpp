@@ -2,6 +2,7 @@
 
 #include "cells/Numbers.h"
 #include "table/HeaderWords.h"
+#include "tabletexts/TextPatterns.h"
 
 #include <algorithm>
 #include <set>
@@ -13,18 +14,46 @@ namespace {
 constexpr int RowsLookedAt = 50;
 constexpr int FewestWords = 2;
 constexpr int NumbersPerHeader = 5; ///< at most one cell in so many may be a number, such as a year
+constexpr size_t LongestName = 256; ///< characters
+constexpr size_t LongestTitle = 1000;
 
-/// A header cell on one line.
+/// The start of a cell's text.
+std::string startOf(const Cell &cell, size_t characters)
+{
+    Cell start = cell;
+    start.text = firstCharacters(trimmed(cell.text), characters);
+    return cellText(start);
+}
+
+/// A header cell on one line; a long one is cut.
 std::string nameOf(const Cell &cell)
 {
-    const std::string text = cellText(cell);
     std::string name;
-    for (const char c : trimmed(text))
+    for (const char c : startOf(cell, LongestName))
         if (c != '\n' && c != '\r')
             name += c;
         else if (!name.empty() && name.back() != ' ')
             name += ' ';
     return name;
+}
+
+/// What could not be read in the row of the header.
+std::vector<CellFault> faultsOf(const Row &row)
+{
+    std::vector<CellFault> faults;
+    std::set<int> cutColumns;
+    for (const Cell &cell : row.cells) {
+        const std::string_view text = trimmed(cell.text);
+        if (firstCharacters(text, LongestName).size() == text.size())
+            continue;
+        cutColumns.insert(cell.column);
+        faults.push_back({cell.column, tabletexts::formatted("MESS_TAB_TEXT_CUT",
+                                                             {std::to_string(LongestName)})});
+    }
+    for (const CellFault &fault : row.faults) // what is cut for the second time is told once
+        if (!cutColumns.contains(fault.column))
+            faults.push_back(fault);
+    return faults;
 }
 
 bool isValue(const Cell &cell)
@@ -51,16 +80,15 @@ std::optional<Header> findHeader(const Sheet &sheet, TableKind kind, size_t &wid
         header.row = row.number;
         header.fingerprint = rows->fingerprint();
         header.titles = titles;
-        header.faults = row.faults;
         int values = 0;
         std::set<std::string> tableNames;
         for (const Cell &cell : row.cells) {
-            header.names.emplace(cell.column, nameOf(cell));
+            const std::string &name = header.names.emplace(cell.column, nameOf(cell)).first->second;
             values += isValue(cell) ? 1 : 0;
-            if (!isValue(cell) && isTableWord(cell.text, kind))
-                tableNames.insert(lowerCase(trimmed(cell.text)));
+            if (!isValue(cell) && isTableWord(name, kind))
+                tableNames.insert(lowerCase(name));
             if (titles.size() < static_cast<size_t>(RowsLookedAt) * 8)
-                titles.push_back(cellText(cell));
+                titles.push_back(startOf(cell, LongestTitle));
         }
         header.wordCount = static_cast<int>(tableNames.size());
         widest = std::max(widest, row.cells.size());
@@ -70,11 +98,14 @@ std::optional<Header> findHeader(const Sheet &sheet, TableKind kind, size_t &wid
             firstWide->hasRowsBelow = true;
         const bool wordy = header.wordCount >= FewestWords &&
                            values * NumbersPerHeader <= static_cast<int>(row.cells.size());
+        const bool better = wordy && (!best || header.wordCount > best->wordCount);
+        if (better || (!firstWide && row.cells.size() >= 2))
+            header.faults = faultsOf(row);
         if (!firstWide && row.cells.size() >= 2) {
             firstWide = header;
             firstWideIsText = values == 0;
         }
-        if (wordy && (!best || header.wordCount > best->wordCount))
+        if (better)
             best = std::move(header);
     }
     if (best)

@@ -13,11 +13,12 @@ namespace vlt::tables {
 /// The row that names the columns, and what stands above it.
 struct Header
 {
-    int64_t row = 0;                  ///< number in the file, from 1
-    std::map<int, std::string> names; ///< by column, trimmed, line breaks made spaces
-    std::vector<std::string> titles;  ///< texts of the rows above
-    int wordCount = 0;                ///< names that tables of that kind use
-    uint64_t fingerprint = 0;         ///< of the row, to find where it is repeated
+    int64_t row = 0; ///< number in the file, from 1
+    std::map<int, std::string>
+        names;                       ///< by column, trimmed, line breaks made spaces, long ones cut
+    std::vector<std::string> titles; ///< texts of the rows above
+    int wordCount = 0;               ///< names that tables of that kind use
+    uint64_t fingerprint = 0;        ///< of the row, to find where it is repeated
     bool hasRowsBelow = false;
     std::vector<CellFault> faults; ///< what could not be read in the row
 };

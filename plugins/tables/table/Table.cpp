@@ -10,7 +10,9 @@ namespace vlt::tables {
 namespace {
 
 constexpr uint64_t RowsSampledFirst = 1000;
-constexpr uint64_t SampleEvery = 256; ///< of the rows behind the first ones
+constexpr size_t SamplesPerColumn = 200;
+constexpr size_t SamplesPerTable = 200000; ///< but ten of each column
+constexpr uint64_t SampleEvery = 256;      ///< of the rows behind the first ones
 constexpr uint64_t RowsPerMark = 4096;
 constexpr size_t MostSheetsLookedAt = 64;
 constexpr double FullShare =
@@ -82,8 +84,10 @@ struct Sample
         ++rows;
         if (!row.cells.empty() && static_cast<size_t>(row.cells.back().column) >= columns.size())
             columns.resize(static_cast<size_t>(row.cells.back().column) + 1);
+        const size_t kept = std::clamp<size_t>(
+            SamplesPerTable / std::max<size_t>(columns.size(), 1), 10, SamplesPerColumn);
         for (const Cell &cell : row.cells)
-            columns[static_cast<size_t>(cell.column)].add(cell);
+            columns[static_cast<size_t>(cell.column)].add(cell, kept);
     }
 
     /// The columns that are text whatever else is in them.

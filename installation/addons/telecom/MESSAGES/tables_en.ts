@@ -263,6 +263,14 @@
         <source>the text of the cell is lost: the workbook has no text number "%1"</source>
         <translation>the text of the cell is lost: the workbook has no text number "%1"</translation>
     </message>
+    <message id="MESS_TAB_TEXT_CUT">
+        <source>the text is too long: only its first characters are kept, %1 in number</source>
+        <translation>the text is too long: only its first characters are kept, %1 in number</translation>
+    </message>
+    <message id="MESS_TAB_ZEROS">
+        <source>zero bytes inside the text were taken out</source>
+        <translation>zero bytes inside the text were taken out</translation>
+    </message>
     <message id="MESS_TAB_LOST_VALUE">
         <source>the value "%1" is lost: the column holds numbers</source>
         <translation>the value "%1" is lost: the column holds numbers</translation>

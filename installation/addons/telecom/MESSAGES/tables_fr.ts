@@ -263,6 +263,14 @@
         <source>the text of the cell is lost: the workbook has no text number "%1"</source>
         <translation>le texte de la cellule est perdu&#xa0;: le classeur n'a pas de texte numéro «&#xa0;%1&#xa0;»</translation>
     </message>
+    <message id="MESS_TAB_TEXT_CUT">
+        <source>the text is too long: only its first characters are kept, %1 in number</source>
+        <translation>le texte est trop long&#xa0;: seuls ses premiers caractères sont conservés, au nombre de %1</translation>
+    </message>
+    <message id="MESS_TAB_ZEROS">
+        <source>zero bytes inside the text were taken out</source>
+        <translation>des octets nuls à l'intérieur du texte ont été supprimés</translation>
+    </message>
     <message id="MESS_TAB_LOST_VALUE">
         <source>the value "%1" is lost: the column holds numbers</source>
         <translation>la valeur «&#xa0;%1&#xa0;» est perdue&#xa0;: la colonne contient des nombres</translation>

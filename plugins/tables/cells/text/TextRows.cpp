@@ -168,12 +168,14 @@ void TextRows::cells(Row &row)
 {
     row.clear();
     row.number = m_number;
+    if (find(m_row, m_rowEnd, '\0') != m_rowEnd)
+        row.expectZeros();
     std::string_view text;
     const char *at = m_row;
     for (int column = 0; column < MostTextColumns; ++column) {
         at = readField(at, text, &row);
         if (isFilled(text))
-            row.cells.push_back({column, Cell::Kind::Text, text, 0});
+            row.add({column, Cell::Kind::Text, text, 0});
         if (at++ == m_rowEnd)
             break;
     }

@@ -152,6 +152,7 @@ bool XlsStrings::readString()
     m_text.clear();
     if (!readCharacters(count, flags & WideFlag))
         return false;
+    m_holdZeros = m_holdZeros || m_text.find('\0') != std::string::npos;
     m_texts.add(m_text);
     return skip(4 * runs + extension);
 }

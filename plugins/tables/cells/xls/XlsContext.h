@@ -26,6 +26,9 @@ public:
     /// it. Stays valid for the life of this object.
     std::optional<std::string_view> at(uint32_t index);
 
+    /// Whether a text that was read so far holds a zero.
+    bool holdZeros() const { return m_holdZeros; }
+
 private:
     bool start();
     bool readString();
@@ -41,6 +44,7 @@ private:
     std::string m_text;
     StringPool m_texts;
     bool m_ended = false;
+    bool m_holdZeros = false;
 };
 
 /// What the rows of an XLS workbook refer to.

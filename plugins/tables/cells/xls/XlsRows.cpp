@@ -12,6 +12,11 @@ namespace {
 
 constexpr size_t CellHead = 6; ///< row, column, style
 
+bool holdsZero(const std::string &text)
+{
+    return text.find('\0') != std::string::npos;
+}
+
 double rkNumber(uint32_t rk)
 {
     double value;
@@ -150,13 +155,13 @@ bool XlsRows::readRecord()
         readBoolErr(data);
         break;
     case XlsFormula:
+    case XlsFormula3: // some writers mix the versions
+    case XlsFormula4:
         readFormula(data);
         break;
     case XlsString:
         if (std::vector<std::string> &texts = m_nextRow >= 0 ? m_nextTexts : m_texts;
             !texts.empty())
-    case XlsFormula3: // some writers mix the versions
-    case XlsFormula4:
             texts.back() = xlsText(data, *m_context);
         break;
     case XlsBof: // of a chart inside the sheet
@@ -221,6 +226,8 @@ void XlsRows::cells(Row &row)
 {
     row.clear();
     row.number = rowNumber();
+    if (m_context->strings->holdZeros() || std::any_of(m_texts.begin(), m_texts.end(), holdsZero))
+        row.expectZeros();
     for (const RawCell &raw : m_cells) {
         Cell cell = {raw.column, Cell::Kind::Text, {}, 0};
         switch (raw.kind) {
@@ -255,7 +262,7 @@ void XlsRows::cells(Row &row)
             break;
         }
         if (cell.kind == Cell::Kind::Number || !trimmed(cell.text).empty())
-            row.cells.push_back(cell);
+            row.add(cell);
     }
     if (!std::is_sorted(row.cells.begin(), row.cells.end(),
                         [](const Cell &a, const Cell &b) { return a.column < b.column; }))

@@ -3,6 +3,7 @@
 #include "bytes/ChunkedInput.h"
 #include "bytes/Refusal.h"
 #include "cells/ByteScan.h"
+#include "cells/Cell.h"
 #include "cells/xml/XmlScan.h"
 
 #include <algorithm>
@@ -12,7 +13,8 @@ namespace vlt::tables {
 
 namespace {
 
-constexpr size_t EscapeSize = 7; ///< _xHHHH_
+constexpr size_t EscapeSize = 7;                 ///< _xHHHH_
+constexpr size_t LongestItem = size_t{16} << 20; ///< bytes of an element that are looked at
 
 /// Replaces _xHHHH_ by the control character it stands for.
 void replaceEscapes(std::string &text)
@@ -63,6 +65,10 @@ std::string richText(std::string_view markup)
             open = nullptr;
         }
     }
+    if (open && phonetic == 0) {
+        const std::string_view rest(open, static_cast<size_t>(markup.end() - open));
+        text += decodeXml(rest.substr(0, rest.find('<')));
+    }
     replaceEscapes(text);
     return text;
 }
@@ -106,13 +112,20 @@ private:
             m_closing = "/" + std::string(tag.prefix) + "si>";
         const char *begin = tag.end;
         const char *from = begin;
+        m_start.clear();
         for (;;) {
             const char *found = findText(from, m_input.end(), m_closing);
             if (found != m_input.end()) {
-                inside = {begin, static_cast<size_t>(found - 1 - begin)};
+                inside = m_start;
+                if (m_start.empty())
+                    inside = {begin, static_cast<size_t>(found - 1 - begin)};
                 m_at = found + m_closing.size();
                 return true;
             }
+            if (m_start.empty() && static_cast<size_t>(m_input.end() - begin) > LongestItem)
+                m_start.assign(begin, LongestItem);
+            if (!m_start.empty()) // the rest is only searched for its end
+                begin = m_input.end() - m_closing.size();
             const size_t seen = static_cast<size_t>(m_input.end() - begin);
             if (!m_input.more(begin))
                 throw RefusedFile(Refusal::Malformed, "MESS_TAB_TEXTS_CUT");
@@ -124,6 +137,7 @@ private:
     ChunkedInput m_input;
     const char *m_at;
     std::string m_closing;
+    std::string m_start; ///< of an element that is too long to be kept
 };
 
 SharedStrings::SharedStrings(std::shared_ptr<const ZipArchive> archive, std::string member)
@@ -140,6 +154,13 @@ void SharedStrings::keepOnly(std::vector<uint64_t> wanted)
     m_texts.clear();
     m_count = 0;
     m_ended = false;
+}
+
+/// One character more than a cell may have shows that there were more.
+void SharedStrings::keepText(std::string_view text)
+{
+    m_holdZeros = m_holdZeros || text.find('\0') != std::string_view::npos;
+    m_texts.add(firstCharacters(text, LongestText + 1));
 }
 
 void SharedStrings::readUpTo(uint64_t index)
@@ -175,9 +196,9 @@ void SharedStrings::readUpTo(uint64_t index)
             plain ? inside.substr(Open.size(), inside.size() - Open.size() - Close.size()) : inside;
         if (plain && text.find_first_of("<&\r") == std::string_view::npos &&
             text.find("_x") == std::string_view::npos)
-            m_texts.add(text);
+            keepText(text);
         else
-            m_texts.add(richText(inside));
+            keepText(richText(inside));
     }
 }
 

@@ -29,10 +29,14 @@ public:
     /// what was read.
     void keepOnly(std::vector<uint64_t> wanted);
 
+    /// Whether a text that was read so far holds a zero.
+    bool holdZeros() const { return m_holdZeros; }
+
 private:
     class Stream;
 
     void readUpTo(uint64_t index);
+    void keepText(std::string_view text);
 
     std::shared_ptr<const ZipArchive> m_archive;
     std::string m_member;
@@ -41,10 +45,12 @@ private:
     std::vector<uint64_t> m_wanted; ///< empty: all
     uint64_t m_count = 0;           ///< texts that were read
     bool m_ended = false;
+    bool m_holdZeros = false;
 };
 
 /// Text of a rich-text element (shared string or inline string): its runs joined, phonetic hints
-/// left out, _xHHHH_ escapes replaced. Source: ECMA-376, 18.4.8 and 22.9.2.19.
+/// left out, _xHHHH_ escapes replaced; the markup may be cut at its end. Source: ECMA-376, 18.4.8
+/// and 22.9.2.19.
 std::string richText(std::string_view markup);
 
 } // namespace vlt::tables

@@ -287,10 +287,14 @@ bool XlsxRows::convert(const XlsxRawCell &raw, Cell &cell, Row &row) const
         break;
     case 'i':
         cell.text = row.keep(richText(raw.value));
+        if (cell.text.find('\0') != std::string_view::npos)
+            row.expectZeros();
         break;
     case 't':
         if (raw.value.find_first_of("&\r_") != std::string_view::npos)
             cell.text = row.keep(richText("<t>" + std::string(raw.value) + "</t>"));
+        if (cell.text.find('\0') != std::string_view::npos) // _x0000_
+            row.expectZeros();
         break;
     case 'b':
         cell.kind = Cell::Kind::Boolean;
@@ -321,6 +325,8 @@ void XlsxRows::cells(Row &row)
     row.clear();
     row.number = rowNumber();
     const std::string_view inside = m_framer.inside();
+    if (m_context->strings->holdZeros() || inside.find('\0') != std::string_view::npos)
+        row.expectZeros();
     const char *at = inside.data();
     const char *end = at + inside.size();
     XlsxRawCell raw;
@@ -331,7 +337,7 @@ void XlsxRows::cells(Row &row)
         sorted = sorted && raw.column > column;
         column = raw.column;
         if (convert(raw, cell, row))
-            row.cells.push_back(cell);
+            row.add(cell);
     }
     if (!sorted)
         std::stable_sort(row.cells.begin(), row.cells.end(),

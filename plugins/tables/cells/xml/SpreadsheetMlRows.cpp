@@ -188,6 +188,8 @@ void SpreadsheetMlRows::cells(Row &row)
 {
     row.clear();
     row.number = rowNumber();
+    if (m_framer.inside().find('\0') != std::string_view::npos)
+        row.expectZeros();
     CellCursor cursor(m_framer.inside());
     RawCell raw;
     bool sorted = true;
@@ -221,7 +223,7 @@ void SpreadsheetMlRows::cells(Row &row)
             break;
         }
         sorted = sorted && (row.cells.empty() || row.cells.back().column < cell.column);
-        row.cells.push_back(cell);
+        row.add(cell);
     }
     if (!sorted)
         std::stable_sort(row.cells.begin(), row.cells.end(),
