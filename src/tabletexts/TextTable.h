@@ -112,6 +112,8 @@ inline constexpr auto Texts = std::to_array<Text>({
     {"MESS_TAB_TEXT_CUT", "the text is too long: only its first characters are kept, %1 in number"},
     {"MESS_TAB_ZEROS", "zero bytes inside the text were taken out"},
     {"MESS_TAB_LOST_VALUE", "the value \"%1\" is lost: the column holds numbers"},
+    {"MESS_TAB_DIGITS_LOST",
+     "the value \"%1\" is read as a number: digits that a name needs are lost"},
 
     // links that cannot be read in full
     {"MESS_TAB_NO_HEIGHTS", "no columns with antenna heights above ground were recognised"},

@@ -101,20 +101,23 @@ private Q_SLOTS:
         for (int i = 1; i <= 1500; ++i)
             text += QByteArray::number(i) + (i == 1400 ? ";east;47;" : ";2.5;47;") +
                     (i == 1200   ? "n/k\n"
+                     : i == 1300 ? "007\n"
                      : i == 1401 ? "3;more\n"
                                  : "3\n");
         write("w.csv", text);
         const QStringList expected = {
-            QStringLiteral("COUNT=5"),
+            QStringLiteral("COUNT=6"),
             QStringLiteral("PROBLEM_1=||Warning|the file declares the coordinate system "
                            "EPSG:999999, which is not known"),
             QStringLiteral("PROBLEM_2=1202|Height|Warning|the value \"n/k\" is lost: the column "
                            "holds numbers"),
-            QStringLiteral("PROBLEM_3=1402|Lon|Warning|the value \"east\" is lost: the column "
+            QStringLiteral("PROBLEM_3=1302|Height|Warning|the value \"007\" is read as a number: "
+                           "digits that a name needs are lost"),
+            QStringLiteral("PROBLEM_4=1402|Lon|Warning|the value \"east\" is lost: the column "
                            "holds numbers"),
-            QStringLiteral("PROBLEM_4=1402|Lon|Error|the coordinate \"east\" cannot be read: it "
+            QStringLiteral("PROBLEM_5=1402|Lon|Error|the coordinate \"east\" cannot be read: it "
                            "holds no number"),
-            QStringLiteral("PROBLEM_5=1403||Warning|the row goes on behind the last column: "
+            QStringLiteral("PROBLEM_6=1403||Warning|the row goes on behind the last column: "
                            "\"more\" in column 5 has no header")};
         const auto walked = open("w.csv");
         OGRLayer *layer = walked->GetLayer(0);

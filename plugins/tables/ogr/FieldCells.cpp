@@ -17,6 +17,23 @@ FieldCells::FieldCells(const TableProfile &table)
         m_fieldOfColumn[static_cast<size_t>(table.fields[field].column)] = static_cast<int>(field);
 }
 
+namespace {
+
+constexpr size_t ExactDigits = 15;
+
+/// Whether a text is a number only at first sight: the digits of a name, of which some would be
+/// lost.
+bool losesDigits(const Cell &cell, std::string_view text)
+{
+    if (cell.kind != Cell::Kind::Text || text.empty() ||
+        (text.size() <= ExactDigits && text[0] != '0' && text[0] != '+'))
+        return false;
+    const NumberShape shape = numberShape(text);
+    return shape.isIdentifier && shape.isWhole;
+}
+
+} // namespace
+
 void FieldCells::takeFaults(int64_t row, const std::vector<CellFault> &faults,
                             std::vector<RowProblem> &problems) const
 {
@@ -57,6 +74,9 @@ void FieldCells::take(const Row &row, std::vector<RowProblem> &problems)
         if (of.type == FieldType::Text)
             continue;
         const std::string_view text = trimmed(cell.text);
+        if (losesDigits(cell, text))
+            problems.push_back({row.number, of.name, false,
+                                tabletexts::formatted("MESS_TAB_DIGITS_LOST", {quotation(text)})});
         if (cell.kind == Cell::Kind::Number && text.empty())
             m_numbers[at] = cell.number;
         else if (const auto number = parseNumber(text, of.mark))

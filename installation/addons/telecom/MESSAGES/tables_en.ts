@@ -275,6 +275,10 @@
         <source>the value "%1" is lost: the column holds numbers</source>
         <translation>the value "%1" is lost: the column holds numbers</translation>
     </message>
+    <message id="MESS_TAB_DIGITS_LOST">
+        <source>the value "%1" is read as a number: digits that a name needs are lost</source>
+        <translation>the value "%1" is read as a number: digits that a name needs are lost</translation>
+    </message>
     <message id="MESS_TAB_NO_HEIGHTS">
         <source>no columns with antenna heights above ground were recognised</source>
         <translation>no columns with antenna heights above ground were recognised</translation>

@@ -275,6 +275,10 @@
         <source>the value "%1" is lost: the column holds numbers</source>
         <translation>la valeur «&#xa0;%1&#xa0;» est perdue&#xa0;: la colonne contient des nombres</translation>
     </message>
+    <message id="MESS_TAB_DIGITS_LOST">
+        <source>the value "%1" is read as a number: digits that a name needs are lost</source>
+        <translation>la valeur «&#xa0;%1&#xa0;» est lue comme un nombre&#xa0;: des chiffres utiles à un identifiant sont perdus</translation>
+    </message>
     <message id="MESS_TAB_NO_HEIGHTS">
         <source>no columns with antenna heights above ground were recognised</source>
         <translation>aucune colonne avec la hauteur des antennes au-dessus du sol n'a été reconnue</translation>
