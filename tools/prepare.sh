@@ -3,7 +3,7 @@
 
 vltRoot=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 
-buildPackages=(g++ cmake ninja-build ccache pkg-config qt6-base-dev qt6-svg-dev libgdal-dev libproj-dev libiniparser-dev libisal-dev
+buildPackages=(g++ cmake ninja-build ccache pkg-config qt6-base-dev qt6-svg-dev libgdal-dev libproj-dev libiniparser-dev libisal-dev libuchardet-dev
                libqt6opengl6-dev libopenscenegraph-dev
                qt6-translations-l10n)
 packagingPackages=(file dpkg-dev)

@@ -23,6 +23,15 @@ def encodings(m):
            "byte order mark before a quoted header cell")
     m.open("odd_utf16.csv", usual.encode("utf-16") + b"\n", "half a character at the end of UTF-16")
 
+    accents = lines(with_sectors(lambda i: "\u00e9")).encode()
+    unreadable = "|bytes that mean nothing in the encoding UTF-8 were replaced: "
+    m.open("bad_byte.csv", accents.replace(b"S0007;", b"S0007\xe9;"), "one byte of Latin-1 in UTF-8",
+           problems="1|8|" + unreadable + "1 in this row")
+    padding = "\n" + "S0001;2.01;48.01;\u00e9;21;9\n" * 3000
+    m.open("late_bad_bytes.csv", accents.replace(b"\n", padding.encode(), 1) + b"S\xe2\x82;1;2;\xff;3;4\n",
+           "cut and impossible characters behind a megabyte", rows=3041, last="S\ufffd\ufffd",
+           problems="1|3042|" + unreadable + "3 in this row")
+
     header = HEADER[:5] + ["Note"]
     late = [header] + [r[:5] + ["plain words " * 6000] for r in sites()]
     late[40][5] = "caf\u00e9"

@@ -238,6 +238,74 @@ private Q_SLOTS:
         QCOMPARE(read, rows);
     }
 
+    void findsTheEncoding_data()
+    {
+        QTest::addColumn<QByteArray>("written");
+        QTest::addColumn<QByteArray>("names");
+        QTest::addColumn<QByteArray>("option");
+        QTest::addColumn<QByteArray>("found");
+        const auto row = [](const char *title, const char *written, const char *names,
+                            const char *found, const char *option = "") {
+            QTest::newRow(title) << QByteArray(written) << QByteArray(names) << QByteArray(option)
+                                 << QByteArray(found);
+        };
+        row("ASCII", "UTF-8", "Paris;Lyon", "UTF-8");
+        row("UTF-8", "UTF-8", "Orléans;Łódź", "UTF-8");
+        row("one accent", "CP1252", "Orléans;Paris;Lyon", "WINDOWS-1252?");
+        row("a degree sign", "CP1252", "Pic 90°;Paris", "WINDOWS-1252?");
+        row("French", "CP1252", "Évreux;Le Blanc-Mesnil;Besançon;Sœur", "WINDOWS-1252?");
+        row("German", "CP1252", "Lübeck;Köln Süd;Straße 7;Saarbrücken", "WINDOWS-1252?");
+        row("Danish", "CP1252", "København;Århus;Sønderborg;Rødby;Ærø", "WINDOWS-1252?");
+        row("Spanish", "CP1252", "Málaga;Logroño;Cádiz;León;Almería", "WINDOWS-1252?");
+        row("Russian", "CP1251", "Ясенево Север;Москва;Тверь;Химки", "WINDOWS-1251?");
+        row("Ukrainian", "CP1251", "Київ;Львів;Харків;Одеса;Дніпро", "WINDOWS-1251?");
+        row("KOI8-R", "KOI8-R", "Ясенево Север;Москва;Тверь;Химки", "KOI8-R?");
+        row("Polish", "CP1250", "Łódź Główna;Kraków;Gdańsk;Świnoujście", "WINDOWS-1250?");
+        row("one Polish name", "CP1250", "Łódź Główna", "WINDOWS-1250?");
+        row("Polish, ISO", "ISO-8859-2", "Łódź Główna;Kraków;Gdańsk;Świnoujście", "ISO-8859-2?");
+        row("Czech", "CP1250", "Děčín;Plzeň;Třebíč;Žďár nad Sázavou", "WINDOWS-1250?");
+        row("Turkish", "CP1254", "İstanbul;Şişli;Kadıköy;Beşiktaş;Ağrı", "WINDOWS-1254?");
+        row("Greek", "CP1253", "Αθήνα;Θεσσαλονίκη;Πάτρα;Ηράκλειο", "WINDOWS-1253?");
+        row("Japanese", "SHIFT_JIS", "東京タワー;大阪城;名古屋駅;札幌", "SHIFT_JIS?");
+        row("Chinese", "GBK", "北京站;上海虹桥;广州塔;深圳北", "GB18030?");
+        row("the user knows it", "CP850", "Orléans;Besançon;Évreux", "CP850", "ENCODING=CP850");
+        row("the user says UTF-8", "UTF-8", "Orléans", "UTF-8", "ENCODING=utf8");
+    }
+    /// A guess, "?", is told among the problems.
+    void findsTheEncoding()
+    {
+        QFETCH(QByteArray, written);
+        QFETCH(QByteArray, names);
+        QFETCH(QByteArray, option);
+        QFETCH(QByteArray, found);
+        QByteArray text = "Site ID,Longitude,Latitude,Name\n";
+        for (const QByteArray &name : names.split(';'))
+            text += "S,2.5,48," + name + "\n";
+        char *bytes = CPLRecode(text.constData(), "UTF-8", written.constData());
+        write("e.csv", bytes);
+        CPLFree(bytes);
+        const char *options[] = {option.isEmpty() ? nullptr : option.constData(), nullptr};
+        const QByteArray path = "site:" + m_folder.path("e.csv");
+        const GDALDatasetUniquePtr dataset(
+            GDALDataset::Open(path.constData(), GDAL_OF_VECTOR, nullptr, options));
+        QVERIFY(dataset);
+        OGRLayer *layer = dataset->GetLayer(0);
+
+        const bool isGuess = found.endsWith('?');
+        const QByteArray encoding = isGuess ? found.chopped(1) : found;
+        QCOMPARE(layer->GetMetadataItem("encoding"), encoding.constData());
+        QByteArrayList read;
+        while (OGRFeatureUniquePtr feature{layer->GetNextFeature()})
+            read += feature->GetFieldAsString("Name");
+        QCOMPARE(read.join(';'), names);
+        const QStringList guess = {
+            QStringLiteral("COUNT=1"),
+            QStringLiteral("PROBLEM_1=||Warning|the file does not tell its encoding: its texts are "
+                           "read as ") +
+                QString::fromUtf8(encoding)};
+        QCOMPARE(problemsOf(*layer), isGuess ? guess : QStringList{QStringLiteral("COUNT=0")});
+    }
+
     void placesSites_data()
     {
         QTest::addColumn<QByteArray>("text");

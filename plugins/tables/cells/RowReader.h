@@ -37,6 +37,13 @@ public:
     virtual uint64_t position() const { return 0; }
 };
 
+/// How the characters of a text are written.
+struct TextEncoding
+{
+    std::string name;
+    bool isGuess = false; ///< it only is the likeliest
+};
+
 /// One table of a file.
 class Sheet
 {
@@ -55,13 +62,13 @@ public:
         static_cast<void>(rowNumber);
         return nullptr;
     }
-    /// Called after all rows were framed: false when they showed that the guess of the encoding was
-    /// wrong. Rows read from now on come in the right one.
+    /// Called after all rows were framed: false when they showed that the encoding is another one.
+    /// Rows read from now on come in the right one.
     virtual bool settleEncoding() { return true; }
     /// Called once before the rows are read with their cells; `rowCount` is how many there are.
     virtual void prepareStrings(uint64_t rowCount) const { static_cast<void>(rowCount); }
-    /// The encoding that was found in a text; empty for UTF-8 and for other formats.
-    virtual std::string encoding() const { return {}; }
+    /// The encoding of a text; nameless for other formats.
+    virtual TextEncoding encoding() const { return {}; }
 };
 
 /// A file of tables.

@@ -99,7 +99,7 @@ std::unique_ptr<Workbook> TableFile::openFile() const
     const bool known = m_options.encoding.empty() && m_facts;
     return openWorkbook(
         m_file, m_name,
-        {known ? m_facts->table.encoding : m_options.encoding, m_options.delimiter});
+        {known ? m_facts->table.encoding.name : m_options.encoding, m_options.delimiter});
 }
 
 std::unique_ptr<DataRows> TableFile::rows()

@@ -55,6 +55,8 @@ TableLayer::TableLayer(TableSource source, const std::string &name, int partCoun
     OGRLayer::SetMetadataItem("format", declaration.format.c_str());
     OGRLayer::SetMetadataItem("unit", unitName(declaration.unit));
     OGRLayer::SetMetadataItem("epsg", systems().knownEpsg().c_str());
+    if (const std::string &encoding = facts().table.encoding.name; !encoding.empty())
+        OGRLayer::SetMetadataItem("encoding", encoding.c_str());
 }
 
 TableLayer::~TableLayer()
@@ -334,6 +336,9 @@ ProblemList TableLayer::fileProblems() const
     ProblemList problems;
     systems().addProblems(problems);
     addFileProblems(problems);
+    if (facts().table.encoding.isGuess)
+        problems.add(
+            {0, {}, false, formatted("MESS_TAB_ENCODING_GUESSED", {facts().table.encoding.name})});
     std::vector<RowProblem> ofHeader;
     m_cells.takeFaults(facts().table.header.row, facts().table.header.faults, ofHeader);
     problems.add(std::move(ofHeader));

@@ -32,7 +32,7 @@ struct RowMark
 struct TableProfile
 {
     std::string sheet;
-    std::string encoding; ///< of a text that is not UTF-8, else empty
+    TextEncoding encoding;
     Header header;
     std::vector<Field> fields;
     int lastColumn = 0; ///< the last column that is a field

@@ -251,6 +251,10 @@
         <source>further problems are listed in the layer's metadata domain "problems"</source>
         <translation>further problems are listed in the layer's metadata domain "problems"</translation>
     </message>
+    <message id="MESS_TAB_ENCODING_GUESSED">
+        <source>the file does not tell its encoding: its texts are read as %1</source>
+        <translation>the file does not tell its encoding: its texts are read as %1</translation>
+    </message>
     <message id="MESS_TAB_NO_COORDINATES">
         <source>no columns with coordinates were recognised</source>
         <translation>no columns with coordinates were recognised</translation>
@@ -262,6 +266,10 @@
     <message id="MESS_TAB_MISSING_TEXT">
         <source>the text of the cell is lost: the workbook has no text number "%1"</source>
         <translation>the text of the cell is lost: the workbook has no text number "%1"</translation>
+    </message>
+    <message id="MESS_TAB_UNREADABLE_BYTES">
+        <source>bytes that mean nothing in the encoding %1 were replaced: %2 in this row</source>
+        <translation>bytes that mean nothing in the encoding %1 were replaced: %2 in this row</translation>
     </message>
     <message id="MESS_TAB_TEXT_CUT">
         <source>the text is too long: only its first characters are kept, %1 in number</source>

@@ -251,6 +251,10 @@
         <source>further problems are listed in the layer's metadata domain "problems"</source>
         <translation>les problèmes suivants figurent dans le domaine de métadonnées «&#xa0;problems&#xa0;» de la couche</translation>
     </message>
+    <message id="MESS_TAB_ENCODING_GUESSED">
+        <source>the file does not tell its encoding: its texts are read as %1</source>
+        <translation>le fichier n'indique pas son encodage&#xa0;: ses textes sont lus en %1</translation>
+    </message>
     <message id="MESS_TAB_NO_COORDINATES">
         <source>no columns with coordinates were recognised</source>
         <translation>aucune colonne de coordonnées n'a été reconnue</translation>
@@ -262,6 +266,10 @@
     <message id="MESS_TAB_MISSING_TEXT">
         <source>the text of the cell is lost: the workbook has no text number "%1"</source>
         <translation>le texte de la cellule est perdu&#xa0;: le classeur n'a pas de texte numéro «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message id="MESS_TAB_UNREADABLE_BYTES">
+        <source>bytes that mean nothing in the encoding %1 were replaced: %2 in this row</source>
+        <translation>des octets sans signification dans l'encodage %1 ont été remplacés&#xa0;: %2 dans cette ligne</translation>
     </message>
     <message id="MESS_TAB_TEXT_CUT">
         <source>the text is too long: only its first characters are kept, %1 in number</source>

@@ -2,11 +2,11 @@
 
 #include "bytes/RecodeSource.h"
 #include "bytes/Refusal.h"
+#include "cells/text/EncodingGuess.h"
+#include "cells/text/Utf8Check.h"
 
 #include <algorithm>
-#include <bit>
 #include <cmath>
-#include <cstring>
 #include <map>
 #include <vector>
 
@@ -18,46 +18,6 @@ constexpr size_t SampleLines = 200;
 constexpr std::string_view Delimiters =
     ";\t|,"; ///< the earlier wins between equals: commas are decimal marks, too
 constexpr size_t ControlShare = 200; ///< one control character in so many is still a text
-
-/// The first byte above ASCII at or behind `at`; the size of the text when there is none.
-size_t skipAscii(std::string_view text, size_t at)
-{
-    constexpr uint64_t HighBits = 0x8080808080808080U;
-    constexpr size_t Word = sizeof(uint64_t);
-    uint64_t words[4];
-    for (; at + sizeof words <= text.size(); at += sizeof words) {
-        std::memcpy(words, text.data() + at, sizeof words);
-        if (((words[0] | words[1] | words[2] | words[3]) & HighBits) != 0)
-            break;
-    }
-    for (; at + Word <= text.size(); at += Word) {
-        std::memcpy(words, text.data() + at, Word);
-        if (const uint64_t high = words[0] & HighBits)
-            return at + static_cast<size_t>(std::countr_zero(high)) / 8;
-    }
-    while (at < text.size() && (text[at] & 0x80) == 0)
-        ++at;
-    return at;
-}
-
-/// Whether the bytes are UTF-8 as far as they go; a character cut at the end counts as good.
-bool isUtf8(std::string_view text)
-{
-    for (size_t at = skipAscii(text, 0); at < text.size(); at = skipAscii(text, at)) {
-        const auto lead = static_cast<unsigned char>(text[at]);
-        const size_t length = lead >= 0xC2 && lead <= 0xDF   ? 2
-                              : lead >= 0xE0 && lead <= 0xEF ? 3
-                              : lead >= 0xF0 && lead <= 0xF4 ? 4
-                                                             : 0;
-        if (length == 0)
-            return false;
-        for (size_t next = 1; next < length && at + next < text.size(); ++next)
-            if ((static_cast<unsigned char>(text[at + next]) & 0xC0) != 0x80)
-                return false;
-        at = std::min(at + length, text.size());
-    }
-    return true;
-}
 
 /// Encoding of a text without a byte order mark whose characters are two or four bytes wide: mostly
 /// zeros in a regular pattern. Empty for other texts.
@@ -156,6 +116,15 @@ char findDelimiter(std::string_view text, bool isWhole)
     return best;
 }
 
+bool isNamedUtf8(const std::string &encoding)
+{
+    std::string name = encoding;
+    std::erase(name, '-');
+    std::transform(name.begin(), name.end(), name.begin(),
+                   [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; });
+    return name == "utf8";
+}
+
 bool looksLikeJson(std::string_view text)
 {
     if (text[0] != '{' && text[0] != '[')
@@ -187,49 +156,39 @@ void refuseOtherKinds(std::string_view text)
 
 } // namespace
 
-bool isUtf8Piece(std::string_view piece)
-{
-    for (int skipped = 0;
-         skipped < 3 && !piece.empty() && (static_cast<unsigned char>(piece[0]) & 0xC0) == 0x80;
-         ++skipped)
-        piece.remove_prefix(1);
-    return isUtf8(piece);
-}
-
-TextFormat findTextFormat(const InputFile &file, const TextHints &hints)
+TextFormat findTextFormat(const std::shared_ptr<const InputFile> &file, const TextHints &hints)
 {
     TextFormat format;
-    const std::string head = file.head(TextSampleSize);
+    const std::string head = file->head(TextSampleSize);
     size_t markSize = 0;
-    std::string encoding = encodingOfMark(head, markSize);
+    format.encoding = encodingOfMark(head, markSize);
     format.start = markSize;
     std::string text = head.substr(markSize);
     if (!hints.encoding.empty())
-        encoding = hints.encoding;
-    else if (encoding.empty())
-        encoding = wideEncoding(text);
-    if (encoding == "UTF-8")
-        encoding.clear();
-    // A character cut at the end of the sample goes on behind it, but not at the end of the file.
-    const std::string cutShort = head.size() < TextSampleSize ? text + '\n' : text;
-    if (encoding.empty() && hints.encoding.empty() && !isUtf8(cutShort))
-        encoding = "CP1252";
-    if (!encoding.empty())
-        text = recoded(text, encoding);
-    format.encoding = encoding;
+        format.encoding = isNamedUtf8(hints.encoding) ? Utf8 : hints.encoding;
+    else if (format.encoding.empty())
+        format.encoding = wideEncoding(text);
+    if (format.encoding.empty()) {
+        // A character cut at the end of the sample goes on behind it, but not at the end of the
+        // file.
+        const bool isWhole = head.size() < TextSampleSize;
+        format.encoding = isUtf8(isWhole ? text + '\n' : text) ? Utf8 : guessEncoding(file);
+        format.isGuess = !format.isUtf8();
+    }
+    text = format.isUtf8() ? mendedUtf8(text) : recoded(text, format.encoding);
     refuseOtherKinds(text);
     if ((text.starts_with("sep=") || text.starts_with("SEP=")) && text.size() > 5 &&
         (text[5] == '\r' || text[5] == '\n')) {
         format.delimiter = text[4];
-        format.firstRow = 2;
-        if (format.encoding.empty()) // in wider encodings the line is read as a title row
-            format.start += text.substr(5, 2) == "\r\n" ? 7 : 6;
-        else
-            format.firstRow = 1;
-        return format;
-    }
-    format.delimiter =
-        hints.delimiter ? hints.delimiter : findDelimiter(text, head.size() < TextSampleSize);
+        const size_t lineSize = text.substr(5, 2) == "\r\n" ? 7 : 6;
+        text.erase(0, lineSize);
+        if (format.isUtf8()) { // in wider encodings the line is read as a title row
+            format.start += lineSize;
+            format.firstRow = 2;
+        }
+    } else
+        format.delimiter =
+            hints.delimiter ? hints.delimiter : findDelimiter(text, head.size() < TextSampleSize);
     return format;
 }
 

@@ -3,8 +3,8 @@
 #include "bytes/InputFile.h"
 
 #include <cstdint>
+#include <memory>
 #include <string>
-#include <string_view>
 
 namespace vlt::tables {
 
@@ -14,10 +14,14 @@ constexpr size_t TextSampleSize = size_t{64} << 10;
 /// How a text table is written.
 struct TextFormat
 {
-    std::string encoding; ///< empty: UTF-8 or plain ASCII
+    std::string encoding; ///< as iconv calls it; UTF-8 for plain ASCII, too
+    bool isGuess =
+        false; ///< neither a mark nor the user nor the bytes themselves tell the encoding
     char delimiter = ',';
-    uint64_t start = 0;   ///< bytes before the first row: a byte order mark
-    int64_t firstRow = 1; ///< number of the first row: 2 behind a line "sep=;"
+    uint64_t start = 0;    ///< bytes before the first row: a byte order mark
+    int64_t firstRow = 1;  ///< number of the first row: 2 behind a line "sep=;"
+
+    bool isUtf8() const { return encoding == "UTF-8"; }
 };
 
 /// What the user says about the file; empty members are found out.
@@ -30,9 +34,6 @@ struct TextHints
 /// Finds encoding and delimiter from the first part of a file. The delimiter is the one that cuts
 /// the most lines into the same number of fields, so that commas in addresses or decimals do not
 /// mislead it. Throws RefusedFile (NotATable, OneColumn, NotSupportedFormat).
-TextFormat findTextFormat(const InputFile &file, const TextHints &hints);
-
-/// Whether a piece out of a text is UTF-8; characters may be cut at either end.
-bool isUtf8Piece(std::string_view piece);
+TextFormat findTextFormat(const std::shared_ptr<const InputFile> &file, const TextHints &hints);
 
 } // namespace vlt::tables

@@ -1,9 +1,13 @@
 #include "cells/text/TextRows.h"
 
 #include "cells/ByteScan.h"
+#include "cells/text/EncodingGuess.h"
+#include "cells/text/Utf8Check.h"
+#include "tabletexts/TextPatterns.h"
 
 #include <algorithm>
 #include <cstring>
+#include <vector>
 
 namespace vlt::tables {
 
@@ -19,6 +23,46 @@ const char *find(const char *begin, const char *end, char wanted)
     return found ? static_cast<const char *>(found) : end;
 }
 
+/// One field of a row.
+struct TextField
+{
+    std::string_view text;
+    const char *end = nullptr; ///< the delimiter behind it, or the row's end
+};
+
+/// Reads the field at `at` of a row that ends at `rowEnd`. Without a row to keep the text, doubled
+/// quotes stay doubled.
+TextField readField(const char *at, const char *rowEnd, char delimiter, Row *row)
+{
+    if (at < rowEnd && *at == '"') {
+        bool doubled = false;
+        const char *mark = at;
+        while ((mark = find(mark + 1, rowEnd, '"')) != rowEnd && mark + 1 < rowEnd &&
+               mark[1] == '"') {
+            doubled = true;
+            ++mark;
+        }
+        if (mark != rowEnd) {
+            const char *end = find(mark + 1, rowEnd, delimiter);
+            std::string_view text = {at + 1, static_cast<size_t>(mark - at - 1)};
+            if (row && (doubled || end != mark + 1)) {
+                std::string whole;
+                for (size_t i = 0; i < text.size(); ++i) {
+                    whole += text[i];
+                    i += text[i] == '"' ? 1 : 0;
+                }
+                whole.append(mark + 1, end);
+                text = row->keep(std::move(whole));
+            }
+            return {text, end};
+        }
+    }
+    const char *end = at;
+    while (end < rowEnd && *end != delimiter)
+        ++end;
+    return {{at, static_cast<size_t>(end - at)}, end};
+}
+
 /// Whether the field is anything but blanks.
 bool isFilled(std::string_view field)
 {
@@ -28,10 +72,11 @@ bool isFilled(std::string_view field)
 
 } // namespace
 
-TextRows::TextRows(std::unique_ptr<ByteSource> stream, char delimiter, int64_t firstRow,
+TextRows::TextRows(std::unique_ptr<ByteSource> stream, const TextFormat &format, int64_t firstRow,
                    uint64_t position)
     : m_input(std::move(stream))
-    , m_delimiter(delimiter)
+    , m_delimiter(format.delimiter)
+    , m_encoding(format.encoding)
     , m_windowPosition(position)
     , m_number(firstRow - 1)
 {
@@ -105,53 +150,19 @@ bool TextRows::findRowEnd()
     }
 }
 
-/// Reads the field at `at`; returns where it ends: at a delimiter or the row's end. Without a row
-/// to keep the text, doubled quotes stay doubled.
-const char *TextRows::readField(const char *at, std::string_view &text, Row *row) const
-{
-    if (at < m_rowEnd && *at == '"') {
-        bool doubled = false;
-        const char *mark = at;
-        while ((mark = find(mark + 1, m_rowEnd, '"')) != m_rowEnd && mark + 1 < m_rowEnd &&
-               mark[1] == '"') {
-            doubled = true;
-            ++mark;
-        }
-        if (mark != m_rowEnd) {
-            const char *end = find(mark + 1, m_rowEnd, m_delimiter);
-            text = {at + 1, static_cast<size_t>(mark - at - 1)};
-            if (row && (doubled || end != mark + 1)) {
-                std::string whole;
-                for (size_t i = 0; i < text.size(); ++i) {
-                    whole += text[i];
-                    i += text[i] == '"' ? 1 : 0;
-                }
-                whole.append(mark + 1, end);
-                text = row->keep(std::move(whole));
-            }
-            return end;
-        }
-    }
-    const char *end = at;
-    while (end < m_rowEnd && *end != m_delimiter)
-        ++end;
-    text = {at, static_cast<size_t>(end - at)};
-    return end;
-}
-
 bool TextRows::hasContent(int lastColumn)
 {
     // Nearly every row starts with a letter or a digit.
     if (m_row<m_rowEnd && * m_row != m_delimiter && * m_row> '"' && *m_row < '\x7F')
         return true;
-    std::string_view text;
     const char *at = m_row;
     for (int column = 0; column <= lastColumn; ++column) {
-        at = readField(at, text, nullptr);
-        if (isFilled(text))
+        const TextField field = readField(at, m_rowEnd, m_delimiter, nullptr);
+        if (isFilled(field.text))
             return true;
-        if (at++ == m_rowEnd)
+        if (field.end == m_rowEnd)
             break;
+        at = field.end + 1;
     }
     return false;
 }
@@ -164,20 +175,44 @@ uint64_t TextRows::fingerprint()
     return start;
 }
 
+/// The row with U+FFFD for every byte that is no character, which is counted.
+std::string_view TextRows::readable(Row &row) const
+{
+    constexpr std::string_view Replacement = "\xEF\xBF\xBD";
+    std::string_view line(m_row, static_cast<size_t>(m_rowEnd - m_row));
+    size_t unreadable = 0;
+    if (m_encoding == Utf8) {
+        unreadable = countUtf8(line).badBytes;
+        if (unreadable > 0)
+            line = row.keep(mendedUtf8(line));
+    } else // replaced already
+        for (const char *at = findText(m_row, m_rowEnd, Replacement); at != m_rowEnd;
+             at = findText(at + 1, m_rowEnd, Replacement))
+            ++unreadable;
+    if (unreadable > 0)
+        row.faults.push_back({-1, tabletexts::formatted("MESS_TAB_UNREADABLE_BYTES",
+                                                        {m_encoding, std::to_string(unreadable)})});
+    return line;
+}
+
 void TextRows::cells(Row &row)
 {
     row.clear();
     row.number = m_number;
-    if (find(m_row, m_rowEnd, '\0') != m_rowEnd)
+    std::string_view line(m_row, static_cast<size_t>(m_rowEnd - m_row));
+    if (skipAscii(line, 0) < line.size())
+        line = readable(row);
+    const char *at = line.data();
+    const char *const end = at + line.size();
+    if (find(at, end, '\0') != end)
         row.expectZeros();
-    std::string_view text;
-    const char *at = m_row;
     for (int column = 0; column < MostTextColumns; ++column) {
-        at = readField(at, text, &row);
-        if (isFilled(text))
-            row.add({column, Cell::Kind::Text, text, 0});
-        if (at++ == m_rowEnd)
+        const TextField field = readField(at, end, m_delimiter, &row);
+        if (isFilled(field.text))
+            row.add({column, Cell::Kind::Text, field.text, 0});
+        if (field.end == end)
             break;
+        at = field.end + 1;
     }
 }
 

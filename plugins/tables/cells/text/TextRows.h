@@ -14,8 +14,9 @@ namespace vlt::tables {
 class TextRows : public RowReader
 {
 public:
-    /// The stream starts at a row, which is number `firstRow`, `position` bytes into the file.
-    TextRows(std::unique_ptr<ByteSource> stream, char delimiter, int64_t firstRow,
+    /// The stream, which is recoded to UTF-8 already, starts at a row, which is number `firstRow`,
+    /// `position` bytes into the file.
+    TextRows(std::unique_ptr<ByteSource> stream, const TextFormat &format, int64_t firstRow,
              uint64_t position);
 
     bool advance() override;
@@ -32,10 +33,11 @@ private:
     bool more();
     bool findRowEnd();
     const char *closingQuote(const char *field);
-    const char *readField(const char *at, std::string_view &text, Row *row) const;
+    std::string_view readable(Row &row) const;
 
     ChunkedInput m_input;
     char m_delimiter;
+    std::string m_encoding;
     uint64_t m_windowPosition;
     int64_t m_number;
     const char *m_row = nullptr;    ///< the current row

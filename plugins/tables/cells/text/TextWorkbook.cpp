@@ -1,7 +1,9 @@
 #include "cells/text/TextWorkbook.h"
 
 #include "bytes/RecodeSource.h"
+#include "cells/text/EncodingGuess.h"
 #include "cells/text/TextRows.h"
+#include "cells/text/Utf8Check.h"
 
 #include <algorithm>
 #include <atomic>
@@ -46,16 +48,16 @@ class TextSheet : public Sheet
 {
 public:
     TextSheet(std::shared_ptr<const InputFile> file, std::string name, const TextFormat &format,
-              bool guessed)
+              bool isWatched)
         : m_file(std::move(file))
         , m_name(std::move(name))
         , m_format(format)
-        , m_guessed(guessed)
+        , m_isWatched(isWatched)
     {}
 
     const std::string &name() const override { return m_name; }
 
-    std::string encoding() const override { return m_format.encoding; }
+    TextEncoding encoding() const override { return {m_format.encoding, m_format.isGuess}; }
 
     std::unique_ptr<RowReader> rows() const override
     {
@@ -64,16 +66,17 @@ public:
 
     std::unique_ptr<RowReader> rowsFrom(uint64_t position, int64_t rowNumber) const override
     {
-        return m_format.encoding.empty() ? rowsAt(position, rowNumber) : nullptr;
+        return m_format.isUtf8() ? rowsAt(position, rowNumber) : nullptr;
     }
 
     bool settleEncoding() override
     {
-        if (!m_guessed || !m_format.encoding.empty() || !m_notUtf8)
+        if (!m_isWatched || !m_notUtf8)
             return true;
-        m_guessed = false;
-        m_format.encoding = "CP1252";
-        return false;
+        m_isWatched = false;
+        m_format.encoding = guessEncoding(m_file);
+        m_format.isGuess = !m_format.isUtf8();
+        return m_format.isUtf8();
     }
 
 private:
@@ -81,17 +84,17 @@ private:
     {
         std::unique_ptr<ByteSource> source = std::make_unique<FileSource>(
             m_file, std::vector<Extent>{{position, m_file->size() - position}});
-        if (m_format.encoding.empty() && m_guessed)
+        if (m_isWatched)
             source = std::make_unique<WatchedSource>(std::move(source), m_notUtf8);
-        else if (!m_format.encoding.empty())
+        else if (!m_format.isUtf8())
             source = std::make_unique<RecodeSource>(std::move(source), m_format.encoding);
-        return std::make_unique<TextRows>(std::move(source), m_format.delimiter, number, position);
+        return std::make_unique<TextRows>(std::move(source), m_format, number, position);
     }
 
     std::shared_ptr<const InputFile> m_file;
     std::string m_name;
     TextFormat m_format;
-    bool m_guessed; ///< nobody said what the encoding is
+    bool m_isWatched; ///< UTF-8 as far as the start tells
     mutable std::atomic<bool> m_notUtf8 = false;
 };
 
@@ -111,9 +114,10 @@ private:
 std::unique_ptr<Workbook> openText(std::shared_ptr<const InputFile> file, const std::string &name,
                                    const TextHints &hints)
 {
-    const TextFormat format = findTextFormat(*file, hints);
+    const TextFormat format = findTextFormat(file, hints);
+    const bool isWatched = hints.encoding.empty() && format.isUtf8();
     return std::make_unique<TextWorkbook>(
-        std::make_shared<TextSheet>(std::move(file), name, format, hints.encoding.empty()));
+        std::make_shared<TextSheet>(std::move(file), name, format, isWatched));
 }
 
 } // namespace vlt::tables

@@ -1,0 +1,130 @@
+#include "cells/text/EncodingGuess.h"
+
+#include "bytes/RecodeSource.h"
+#include "bytes/Refusal.h"
+#include "cells/text/Plausibility.h"
+#include "cells/text/Utf8Check.h"
+
+#include <algorithm>
+#include <array>
+#include <vector>
+
+#include <uchardet.h>
+
+namespace vlt::tables {
+
+namespace {
+
+constexpr char Western[] = "WINDOWS-1252";
+constexpr char Cyrillic[] = "WINDOWS-1251";
+constexpr size_t BlockSize = size_t{1} << 20;
+constexpr size_t SampleSize = size_t{64} << 10;
+constexpr size_t CharactersPerBadByte = 2; ///< at least so many, or the text is not UTF-8
+constexpr double ClearlyBetter = 0.1;
+
+struct DetectorRelease
+{
+    void operator()(uchardet *detector) const { uchardet_delete(detector); }
+};
+
+/// What the bytes of a file show.
+struct Census
+{
+    Utf8Count utf8;
+    std::string sample; ///< lines with bytes above ASCII
+
+    void add(std::string_view lines)
+    {
+        const Utf8Count count = countUtf8(lines);
+        utf8.characters += count.characters;
+        utf8.badBytes += count.badBytes;
+        for (size_t at = skipAscii(lines, 0); at < lines.size() && sample.size() < SampleSize;) {
+            const size_t before = lines.find_last_of("\r\n", at);
+            const size_t begin = before == std::string_view::npos ? 0 : before + 1;
+            const size_t end = std::min(lines.find_first_of("\r\n", at), lines.size());
+            sample.append(lines.substr(begin, std::min(end - begin, SampleSize)));
+            sample += '\n';
+            at = skipAscii(lines, end);
+        }
+    }
+};
+
+Census censusOf(const std::shared_ptr<const InputFile> &file)
+{
+    Census census;
+    FileSource source(file, {{0, file->size()}});
+    std::string block;
+    size_t kept = 0; ///< of a line that goes on behind the block
+    for (;;) {
+        block.resize(kept + BlockSize);
+        const size_t got = source.read(block.data() + kept, BlockSize);
+        block.resize(kept + got);
+        const size_t lineEnd = got > 0 ? block.find_last_of("\r\n") : std::string::npos;
+        const size_t whole = lineEnd == std::string::npos ? block.size() : lineEnd + 1;
+        census.add(std::string_view(block).substr(0, whole));
+        block.erase(0, whole);
+        kept = block.size();
+        if (got == 0)
+            return census;
+    }
+}
+
+std::string detected(const std::string &sample)
+{
+    const std::unique_ptr<uchardet, DetectorRelease> detector(uchardet_new());
+    if (uchardet_handle_data(detector.get(), sample.data(), sample.size()) != 0)
+        return {};
+    uchardet_data_end(detector.get());
+    return uchardet_get_charset(detector.get());
+}
+
+/// What the detector may mean: it mixes up the standards with what Windows made of them.
+std::vector<std::string> candidates(const std::string &answer)
+{
+    static constexpr std::array<std::array<const char *, 2>, 7> Relatives = {
+        {{"ISO-8859-2", "WINDOWS-1250"},
+         {"ISO-8859-7", "WINDOWS-1253"},
+         {"ISO-8859-8", "WINDOWS-1255"},
+         {"ISO-8859-9", "WINDOWS-1254"},
+         {"ISO-8859-13", "WINDOWS-1257"},
+         {"ISO-8859-4", "WINDOWS-1257"},
+         {"TIS-620", "WINDOWS-874"}}};
+    for (const auto &[standard, windows] : Relatives)
+        if (answer == standard || answer == windows)
+            return {windows, standard};
+    return {answer};
+}
+
+double plausibilityOf(const std::string &sample, const std::string &encoding)
+{
+    try {
+        return plausibility(recoded(sample, encoding));
+    } catch (const RefusedFile &) {
+        return 0; // the system does not know it
+    }
+}
+
+} // namespace
+
+std::string guessEncoding(const std::shared_ptr<const InputFile> &file)
+{
+    const Census census = censusOf(file);
+    if (census.utf8.characters >= CharactersPerBadByte * census.utf8.badBytes)
+        return Utf8;
+    const double western = plausibilityOf(census.sample, Western);
+    std::string best = Western;
+    double most = western + ClearlyBetter;
+    const std::string answer = detected(census.sample);
+    for (const std::string &candidate : candidates(answer)) {
+        const double plausible = answer.empty() ? 0 : plausibilityOf(census.sample, candidate);
+        if (plausible > most) {
+            best = candidate;
+            most = plausible;
+        }
+    }
+    // The detector does not know every language that is written in it.
+    const bool isCyrillic = answer.empty() && plausibilityOf(census.sample, Cyrillic) > most;
+    return isCyrillic ? Cyrillic : best;
+}
+
+} // namespace vlt::tables
