@@ -110,6 +110,8 @@ inline constexpr auto Texts = std::to_array<Text>({
      "the row goes on behind the last column: \"%1\" in column %2 has no header"},
     {"MESS_TAB_MISSING_TEXT",
      "the text of the cell is lost: the workbook has no text number \"%1\""},
+    {"MESS_TAB_SWALLOWED_ROWS", "a quotation mark opens here and swallows the rows below, %1 in "
+                                "number: one is missing or too many"},
     {"MESS_TAB_UNREADABLE_BYTES",
      "bytes that mean nothing in the encoding %1 were replaced: %2 in this row"},
     {"MESS_TAB_TEXT_CUT", "the text is too long: only its first characters are kept, %1 in number"},

@@ -55,6 +55,13 @@ def delimiters(m):
 
 def quotes(m):
     usual = lines(table())
+    swallowing = usual.replace("S0003", '"S0003').replace("S0009", '"S0009')
+    m.open("swallowed_rows.csv", swallowing, "stray quotes in two rows", rows=34,
+           problems="1|4|Site ID|a quotation mark opens here and swallows the rows below, 6 in number: "
+                    "one is missing or too many")
+    m.open("addresses.csv", lines(with_sectors(lambda i: '"Mill Lane, Ely, CB7\nUK, EU"'), ","),
+           "as many commas as make a row up to the line break, but not behind it", problems="0|0||")
+    m.open("unclosed_early.csv", usual.replace("S0002", '"S0002'), "the quote in row 3 never closes")
     dms = [[r[0], "%d\u00b0%02d'23.10\"E" % (r[1], i), "%d\u00b0%02d'23.10\"N" % (r[2], i)] + r[3:]
            for i, r in enumerate(sites())]
     for name, text, note in (
@@ -90,8 +97,20 @@ def shapes(m):
         ("nul_padding.csv", usual + "\0" * 4096, "NUL bytes below, as a crashed logger leaves"),
     ):
         m.open(name, text, note)
+    sector = "Transmitter-1 Sector ID|"
+    for name, text, note, problems in (
+        ("cell_5mb.csv", lines(huge), "the sector name of S0020 is 5 MB long",
+         "1|21|" + sector + "the text is too long: only its first characters are kept, 32767 in number"),
+        ("nul_behind.csv", usual.replace(";A;", ";A\0\0;"), "two NUL bytes behind every sector name", "0|0||"),
+        ("nul_inside.csv", usual.replace(";A;", ";A\0B;").replace("S0001", "\0S0\x00001"),
+         "NUL bytes in every sector name and in an id",
+         "41|2|Site ID|zero bytes inside the text were taken out"),
+    ):
+        m.open(name, text, note, problems=problems)
     zeros = [["%06d" % (i * 7)] + r[1:] for i, r in enumerate(sites(), 1)]
     m.open("leading_zeros.csv", lines([HEADER] + zeros), "ids keep them", first="000007", last="000280")
+    m.open("vertical_tab.csv", lines(table(1)).replace(";A;", ";A\v;"), "a control character in a small file",
+           rows=1, last="S0001")
     m.open("wide_16384.csv", lines([WIDE_HEADER] + [r[:3] + [7] * 16381 for r in sites()]),
            columns=16384, header=WIDE_HEADER)
 
@@ -106,16 +125,6 @@ def refusals(m):
         ("ids_only.csv", "Site ID\n" + "".join(r[0] + "\n" for r in sites()), "one-column", ""),
         ("headerless.csv", lines(sites()), "no-header", ""),
     ):
-    sector = "Transmitter-1 Sector ID|"
-    for name, text, note, problems in (
-        ("cell_5mb.csv", lines(huge), "the sector name of S0020 is 5 MB long",
-         "1|21|" + sector + "the text is too long: only its first characters are kept, 32767 in number"),
-        ("nul_behind.csv", usual.replace(";A;", ";A\0\0;"), "two NUL bytes behind every sector name", "0|0||"),
-        ("nul_inside.csv", usual.replace(";A;", ";A\0B;").replace("S0001", "\0S0\x00001"),
-         "NUL bytes in every sector name and in an id",
-         "41|2|Site ID|zero bytes inside the text were taken out"),
-    ):
-        m.open(name, text, note, problems=problems)
         m.refused(name, text, reason, note)
 
 

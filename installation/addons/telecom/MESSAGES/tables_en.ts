@@ -267,6 +267,10 @@
         <source>the text of the cell is lost: the workbook has no text number "%1"</source>
         <translation>the text of the cell is lost: the workbook has no text number "%1"</translation>
     </message>
+    <message id="MESS_TAB_SWALLOWED_ROWS">
+        <source>a quotation mark opens here and swallows the rows below, %1 in number: one is missing or too many</source>
+        <translation>a quotation mark opens here and swallows the rows below, %1 in number: one is missing or too many</translation>
+    </message>
     <message id="MESS_TAB_UNREADABLE_BYTES">
         <source>bytes that mean nothing in the encoding %1 were replaced: %2 in this row</source>
         <translation>bytes that mean nothing in the encoding %1 were replaced: %2 in this row</translation>

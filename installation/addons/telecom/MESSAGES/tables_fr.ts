@@ -267,6 +267,10 @@
         <source>the text of the cell is lost: the workbook has no text number "%1"</source>
         <translation>le texte de la cellule est perdu&#xa0;: le classeur n'a pas de texte numéro «&#xa0;%1&#xa0;»</translation>
     </message>
+    <message id="MESS_TAB_SWALLOWED_ROWS">
+        <source>a quotation mark opens here and swallows the rows below, %1 in number: one is missing or too many</source>
+        <translation>un guillemet s'ouvre ici et avale les lignes suivantes, au nombre de %1&#xa0;: un guillemet manque ou est de trop</translation>
+    </message>
     <message id="MESS_TAB_UNREADABLE_BYTES">
         <source>bytes that mean nothing in the encoding %1 were replaced: %2 in this row</source>
         <translation>des octets sans signification dans l'encodage %1 ont été remplacés&#xa0;: %2 dans cette ligne</translation>

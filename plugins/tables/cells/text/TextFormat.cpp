@@ -18,6 +18,7 @@ constexpr size_t SampleLines = 200;
 constexpr std::string_view Delimiters =
     ";\t|,"; ///< the earlier wins between equals: commas are decimal marks, too
 constexpr size_t ControlShare = 200; ///< one control character in so many is still a text
+constexpr size_t FewControls = 3;    ///< which a short one may have
 
 /// Encoding of a text without a byte order mark whose characters are two or four bytes wide: mostly
 /// zeros in a regular pattern. Empty for other texts.
@@ -40,56 +41,115 @@ std::string wideEncoding(std::string_view text)
     return {};
 }
 
-/// Number of fields of each line when cut at `delimiter`, quotes heeded.
+/// Counts the fields of each line, quotes heeded.
+class FieldCounter
+{
+public:
+    explicit FieldCounter(char delimiter) : m_delimiter(delimiter) {}
+
+    /// Whether a character opens a quoted field.
+    bool opens(char c) const { return c == '"' && m_state.fieldStart && !m_state.quoted; }
+
+    /// Takes a character; with `isPlain` a quotation mark is like any other.
+    void add(char c, bool isPlain = false)
+    {
+        const bool reopens = m_state.closed && c == '"';
+        m_state.closed = m_state.quoted && c == '"';
+        if (m_state.quoted)
+            m_state.quoted = c != '"';
+        else if (reopens || (opens(c) && !isPlain))
+            m_state.quoted = true;
+        else if (c == '\n' || c == '\r')
+            return endLine();
+        m_state.lineStart = false;
+        m_state.fieldStart = c == m_delimiter && !m_state.quoted;
+        m_state.fields += m_state.fieldStart ? 1 : 0;
+    }
+    void endLine()
+    {
+        if (!m_state.lineStart)
+            m_counts.push_back(m_state.fields);
+        m_state = {};
+        m_state.lines = m_counts.size();
+    }
+
+    /// What a character is judged by.
+    struct State
+    {
+        size_t lines = 0; ///< that have ended
+        size_t fields = 1;
+        bool quoted = false;
+        bool fieldStart = true;
+        bool lineStart = true;
+        bool closed = false; ///< the character before closed a quoted field, or was the first of a
+                             ///< doubled mark
+    };
+    const State &state() const { return m_state; }
+    void goBack(const State &state)
+    {
+        m_state = state;
+        m_counts.resize(state.lines);
+    }
+    const std::vector<size_t> &counts() const { return m_counts; }
+
+private:
+    char m_delimiter;
+    std::vector<size_t> m_counts;
+    State m_state;
+};
+
+/// Number of fields of each line when cut at `delimiter`. As for the reader of the rows a mark that
+/// is never closed opens nothing.
 std::vector<size_t> fieldCounts(std::string_view text, char delimiter, bool isWhole)
 {
-    std::vector<size_t> counts;
-    size_t fields = 1;
-    bool quoted = false;
-    bool fieldStart = true;
-    bool lineStart = true;
-    bool closed =
-        false; ///< the character before closed a quoted field, or was the first of a doubled mark
-    for (const char c : text) {
-        const bool reopens = closed && c == '"';
-        closed = quoted && c == '"';
-        if (quoted)
-            quoted = c != '"';
-        else if (c == '"' && (fieldStart || reopens))
-            quoted = true;
-        else if (c == '\n' || c == '\r') {
-            if (!lineStart)
-                counts.push_back(fields);
-            fields = 1;
-            lineStart = fieldStart = true;
-            if (counts.size() == SampleLines)
-                return counts;
-            continue;
+    constexpr int MostUnclosed = 8;
+    FieldCounter counter(delimiter);
+    FieldCounter::State beforeMark;
+    size_t mark = 0;
+    int unclosed = 0;
+    for (size_t at = 0; at < text.size() && counter.counts().size() < SampleLines; ++at) {
+        if (counter.opens(text[at])) {
+            beforeMark = counter.state();
+            mark = at;
         }
-        lineStart = false;
-        fieldStart = c == delimiter && !quoted;
-        fields += fieldStart ? 1 : 0;
+        counter.add(text[at]);
+        const bool isUnclosed = isWhole && at + 1 == text.size() && counter.state().quoted;
+        if (isUnclosed && ++unclosed <= MostUnclosed) {
+            counter.goBack(beforeMark);
+            counter.add(text[mark], true);
+            at = mark;
+        }
     }
-    if (!lineStart && (isWhole || counts.empty()))
-        counts.push_back(fields);
-    return counts;
+    if (isWhole || counter.counts().empty())
+        counter.endLine();
+    return counter.counts();
+}
+
+/// The most common number of fields, more than one, and how many lines have it.
+struct UsualCount
+{
+    size_t fields = 0;
+    size_t lines = 0;
+};
+
+UsualCount usualCount(const std::vector<size_t> &counts)
+{
+    std::map<size_t, size_t> lines;
+    for (const size_t count : counts)
+        ++lines[count];
+    UsualCount usual;
+    for (const auto &[fields, number] : lines)
+        if (fields > 1 && number >= usual.lines)
+            usual = {fields, number};
+    return usual;
 }
 
 /// How well a delimiter explains the lines: the share of lines with the most common number of
 /// fields (more than one), weighted gently by that number.
 double score(const std::vector<size_t> &counts)
 {
-    std::map<size_t, size_t> lines;
-    for (const size_t count : counts)
-        ++lines[count];
-    size_t best = 0;
-    size_t bestLines = 0;
-    for (const auto &[fields, number] : lines)
-        if (fields > 1 && number >= bestLines) {
-            best = fields;
-            bestLines = number;
-        }
-    if (best < 2)
+    const UsualCount usual = usualCount(counts);
+    if (usual.fields < 2)
         return 0;
     // In prose few lines have a comma; in a table every line below the titles has delimiters.
     const auto first =
@@ -97,8 +157,8 @@ double score(const std::vector<size_t> &counts)
     const auto cut = std::count_if(first, counts.end(), [](size_t count) { return count > 1; });
     if (cut * 10 < (counts.end() - first) * 7)
         return 0;
-    return static_cast<double>(bestLines) / static_cast<double>(counts.size()) *
-           (1 + 0.1 * std::log2(static_cast<double>(best)));
+    return static_cast<double>(usual.lines) / static_cast<double>(counts.size()) *
+           (1 + 0.1 * std::log2(static_cast<double>(usual.fields)));
 }
 
 char findDelimiter(std::string_view text, bool isWhole)
@@ -150,7 +210,7 @@ void refuseOtherKinds(std::string_view text)
                             std::string_view("\n\r\t\f\0", 5).find(c) == std::string_view::npos
                         ? 1
                         : 0;
-    if (controls * ControlShare > text.size())
+    if (controls > FewControls && controls * ControlShare > text.size())
         throw RefusedFile(Refusal::NotATable, "MESS_TAB_BINARY_FILE");
 }
 
@@ -189,6 +249,8 @@ TextFormat findTextFormat(const std::shared_ptr<const InputFile> &file, const Te
     } else
         format.delimiter =
             hints.delimiter ? hints.delimiter : findDelimiter(text, head.size() < TextSampleSize);
+    format.fieldCount =
+        usualCount(fieldCounts(text, format.delimiter, head.size() < TextSampleSize)).fields;
     return format;
 }
 

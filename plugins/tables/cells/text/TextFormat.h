@@ -20,6 +20,7 @@ struct TextFormat
     char delimiter = ',';
     uint64_t start = 0;    ///< bytes before the first row: a byte order mark
     int64_t firstRow = 1;  ///< number of the first row: 2 behind a line "sep=;"
+    size_t fieldCount = 0; ///< of most rows; 0 where it is not known
 
     bool isUtf8() const { return encoding == "UTF-8"; }
 };

@@ -28,6 +28,7 @@ struct TextField
 {
     std::string_view text;
     const char *end = nullptr; ///< the delimiter behind it, or the row's end
+    bool isQuoted = false;
 };
 
 /// Reads the field at `at` of a row that ends at `rowEnd`. Without a row to keep the text, doubled
@@ -54,13 +55,46 @@ TextField readField(const char *at, const char *rowEnd, char delimiter, Row *row
                 whole.append(mark + 1, end);
                 text = row->keep(std::move(whole));
             }
-            return {text, end};
+            return {text, end, true};
         }
     }
     const char *end = at;
     while (end < rowEnd && *end != delimiter)
         ++end;
-    return {{at, static_cast<size_t>(end - at)}, end};
+    return {{at, static_cast<size_t>(end - at)}, end, false};
+}
+
+/// How many times each line of a text holds the delimiter.
+std::vector<size_t> delimitersPerLine(std::string_view text, char delimiter)
+{
+    std::vector<size_t> counts = {0};
+    for (size_t at = 0; at < text.size(); ++at) {
+        const bool ends = text[at] == '\n' || (text[at] == '\r' && text.substr(at + 1, 1) != "\n");
+        if (ends)
+            counts.push_back(0);
+        else
+            counts.back() += text[at] == delimiter ? 1 : 0;
+    }
+    return counts;
+}
+
+/// How many lines a quoted field reaches over that look like rows of the table. In an address on
+/// several lines, or a remark, they do not.
+///
+/// @param before  delimiters before the field in its row
+/// @param behind  delimiters behind it
+size_t swallowedRows(std::string_view text, size_t before, size_t behind, char delimiter,
+                     size_t fieldCount)
+{
+    constexpr size_t FewestFields = 3;
+    if (fieldCount < FewestFields)
+        return 0;
+    std::vector<size_t> lines = delimitersPerLine(text, delimiter);
+    lines.front() += before;
+    lines.back() += behind;
+    const auto whole = std::count(lines.begin() + 1, lines.end(), fieldCount - 1);
+    const size_t below = lines.size() - 1;
+    return lines.front() == fieldCount - 1 && static_cast<size_t>(whole) * 2 > below ? below : 0;
 }
 
 /// Whether the field is anything but blanks.
@@ -77,6 +111,7 @@ TextRows::TextRows(std::unique_ptr<ByteSource> stream, const TextFormat &format,
     : m_input(std::move(stream))
     , m_delimiter(format.delimiter)
     , m_encoding(format.encoding)
+    , m_fieldCount(format.fieldCount)
     , m_windowPosition(position)
     , m_number(firstRow - 1)
 {
@@ -206,14 +241,31 @@ void TextRows::cells(Row &row)
     const char *const end = at + line.size();
     if (find(at, end, '\0') != end)
         row.expectZeros();
-    for (int column = 0; column < MostTextColumns; ++column) {
+    const bool hasLines = findAnyOf(at, end, '\n', '\r', '\n') != end;
+    TextField lines; ///< the first field that holds several
+    int columnOfLines = -1;
+    int column = 0;
+    for (; column < MostTextColumns; ++column) {
         const TextField field = readField(at, end, m_delimiter, &row);
         if (isFilled(field.text))
             row.add({column, Cell::Kind::Text, field.text, 0});
+        if (hasLines && columnOfLines < 0 && field.isQuoted &&
+            field.text.find_first_of("\r\n") != std::string_view::npos) {
+            lines = field;
+            columnOfLines = column;
+        }
         if (field.end == end)
             break;
         at = field.end + 1;
     }
+    const size_t swallowed =
+        columnOfLines < 0
+            ? 0
+            : swallowedRows(lines.text, static_cast<size_t>(columnOfLines),
+                            static_cast<size_t>(column - columnOfLines), m_delimiter, m_fieldCount);
+    if (swallowed > 0)
+        row.faults.push_back({columnOfLines, tabletexts::formatted("MESS_TAB_SWALLOWED_ROWS",
+                                                                   {std::to_string(swallowed)})});
 }
 
 } // namespace vlt::tables
