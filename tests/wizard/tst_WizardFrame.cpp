@@ -22,7 +22,7 @@ public:
     void click(const QString &button) { findChild<QAbstractButton *>(button)->click(); }
 
     /// Where the keyboard can be, in any order.
-    QStringList stops() const
+    QString stops() const
     {
         QStringList names;
         for (const QWidget *widget : findChildren<QWidget *>()) {
@@ -31,11 +31,11 @@ public:
                 names << nameOf(*widget);
         }
         names.sort();
-        return names;
+        return names.join(QLatin1Char(' '));
     }
 
     /// What the key leads to, one after the other, until it is back where it started.
-    QStringList walk(Qt::Key key)
+    QString walk(Qt::Key key)
     {
         constexpr int Endless = 200;
         const QWidget *start = focusWidget();
@@ -45,7 +45,7 @@ public:
             names << nameOf(*focusWidget());
         } while (focusWidget() != start && names.size() < Endless);
         names.sort();
-        return names;
+        return names.join(QLatin1Char(' '));
     }
 
     static QString nameOf(const QWidget &widget)

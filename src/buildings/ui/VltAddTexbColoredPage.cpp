@@ -24,7 +24,7 @@ VltAddTexbColoredPage::VltAddTexbColoredPage(QWidget *wizard, SharedParameters &
 {
     m_ui->setupUi(this);
     setTitle(tr("Coloured buildings", "MESS_PAGE_COLORED"));
-    setFocusProxy(m_ui->m_pwColoring);
+    setFocusProxy(m_ui->m_pwTabs); // the first stop: Tab would never reach what stands before it
     setDropHighlightWidgets(m_ui->m_pwColoring->dropLabels());
     m_ui->m_pwColoring->setInstallDir(installDir);
     setResult(m_ui->m_pwGbPreview, m_ui->m_ptHbDrag, m_ui->m_pwLblDragText);

@@ -37,8 +37,8 @@ void VltLayerPreview::paintEvent(QPaintEvent *event)
 {
     constexpr int RingWidth = 2;
     QGroupBox::paintEvent(event);
-    const QWidget *view = m_ui->m_pwPreview->focusProxy();
-    if (!view || !view->hasFocus())
+    const QWidget *focused = QApplication::focusWidget();
+    if (!focused || !m_ui->m_pwPreview->isAncestorOf(focused))
         return;
     QPainter painter(this);
     painter.fillRect(

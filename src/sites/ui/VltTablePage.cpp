@@ -29,14 +29,31 @@ QString refusalDetail(const QString &path, const QString &reason)
     return translated.isEmpty() ? path : path + QLatin1Char('\n') + translated;
 }
 
-/// Whether Tab stops at a widget, or takes it for a part of it that it hands the keyboard to. The
-/// toolkit looks at both: a whole that stands behind its part sends Tab back to it for ever.
-bool isTabStop(const QWidget &widget)
+/// The lines of spin boxes and combos: their focus is that of the whole. Shift+Tab comes to the
+/// whole by them, so that they have to stand behind it.
+QWidgetList partsThatStandFor(const QWidget &stop)
 {
-    const QWidget *stop = &widget;
-    while (stop->focusProxy())
-        stop = stop->focusProxy();
-    return (stop->focusPolicy() & Qt::TabFocus) && (stop == &widget || widget.isAncestorOf(stop));
+    QWidgetList parts;
+    for (QWidget *part : stop.findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly)) {
+        if (part->focusProxy() == &stop)
+            parts << part;
+    }
+    return parts;
+}
+
+/// Each widget after the one before. The toolkit would move a stop together with all that stands
+/// between it and a part of it, which may be anywhere; without proxies it moves single widgets.
+void putInOrder(const QWidgetList &widgets)
+{
+    QWidgetList proxies;
+    for (QWidget *widget : widgets) {
+        proxies << widget->focusProxy();
+        widget->setFocusProxy(nullptr);
+    }
+    for (int i = 1; i < widgets.size(); ++i)
+        QWidget::setTabOrder(widgets[i - 1], widgets[i]);
+    for (int i = 0; i < widgets.size(); ++i)
+        widgets[i]->setFocusProxy(proxies[i]);
 }
 
 } // namespace
@@ -156,8 +173,15 @@ void VltTablePage::setStacked(bool stacked)
 }
 
 /// Tab goes through the groups as they lie on the page, whatever the order they were made in.
+///
+/// A frame that hands the keyboard to one of its parts counts as a stop of its own, wherever it
+/// stands: Tab would come back to the part for ever. Only the parts take the keyboard here.
 void VltTablePage::orderFocus()
 {
+    for (QWidget *frame : findChildren<QWidget *>()) {
+        if (frame->focusProxy() && frame->isAncestorOf(frame->focusProxy()))
+            frame->setFocusProxy(nullptr);
+    }
     QWidgetList groups{m_ui->m_pwGbTable, m_ui->m_pwGbSrs};
     for (int i = 0; i < m_ui->m_ptVbProperties->count(); ++i)
         groups << m_ui->m_ptVbProperties->itemAt(i)->widget();
@@ -167,12 +191,12 @@ void VltTablePage::orderFocus()
     for (const QWidget *group : std::as_const(groups)) {
         for (QWidget *widget = nextInFocusChain(); widget != this;
              widget = widget->nextInFocusChain()) {
-            if (isTabStop(*widget) && (widget == group || group->isAncestorOf(widget)))
-                ordered << widget;
+            const bool isStop = (widget->focusPolicy() & Qt::TabFocus) && !widget->focusProxy();
+            if (isStop && (widget == group || group->isAncestorOf(widget)))
+                ordered << widget << partsThatStandFor(*widget);
         }
     }
-    for (int i = 1; i < ordered.size(); ++i)
-        setTabOrder(ordered[i - 1], ordered[i]);
+    putInOrder(ordered);
 }
 
 /// The input side scrolls upwards and downwards only, unless the screen is too narrow for it.
