@@ -131,6 +131,7 @@ void W_simpleOSGViewer::makeGraphicsWindow(osg::GraphicsContext *shareContext)
 
 void W_simpleOSGViewer::applySize(const QSize &pixels)
 {
+    m_framesToDraw = SettlingFrames;
     if (pixels.height() > 0) // it would make the projection infinitely wide
         m_graphicsWindow->resized(0, 0, pixels.width(), pixels.height());
     events().windowResize(0, 0, pixels.width(), pixels.height());
