@@ -95,17 +95,23 @@ W_simpleOSGViewer::W_simpleOSGViewer(const QSurfaceFormat &format, QWidget *pare
 W_simpleOSGViewer::~W_simpleOSGViewer()
 {
     m_refresh.stop();
+    osg::State *state = m_graphicsWindow->getState();
     if (QOpenGLContext *current = QOpenGLWidget::context()) {
         disconnect(current, nullptr, this,
                    nullptr); // it tells of its end after the viewer's part is gone
         QOpenGLWidget::makeCurrent();
-        osg::State *state = m_graphicsWindow->getState();
         if (getSceneData())
             getSceneData()->releaseGLObjects(state);
         getCamera()->releaseGLObjects(state);
         osg::flushAllDeletedGLObjects(state->getContextID());
         QOpenGLWidget::doneCurrent();
     }
+    // The viewer's part would ask for OpenGL's functions once more, with no context to ask: whoever
+    // gets the number of this context next would find none.
+    const unsigned contextId = state->getContextID();
+    osg::discardAllGLObjects(contextId);
+    m_graphicsWindow->setState(nullptr);
+    osg::GraphicsContext::decrementContextIDUsageCount(contextId);
     unref_nodelete();
 }
 

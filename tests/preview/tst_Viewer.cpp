@@ -11,6 +11,7 @@
 #include <osg/Geode>
 #include <osg/LOD>
 #include <osg/MatrixTransform>
+#include <osg/Notify>
 #include <osg/Shape>
 #include <osg/ShapeDrawable>
 
@@ -48,6 +49,15 @@ public:
 
     QList<int> pushed;
     float scrolled = 0;
+};
+
+/// What the scene library says meanwhile.
+class Notices : public osg::NotifyHandler
+{
+public:
+    void notify(osg::NotifySeverity /*severity*/, const char *message) override { text += message; }
+
+    std::string text;
 };
 
 class OpenViewer : public W_simpleOSGViewer
@@ -355,6 +365,17 @@ private Q_SLOTS:
         m_window.reset();
 
         QCOMPARE(scene->referenceCount(), 1);
+    }
+
+    void endsQuietlyWhereItWasNeverShown()
+    {
+        const osg::ref_ptr<Notices> notices = new Notices;
+        osg::setNotifyHandler(notices);
+
+        std::make_unique<W_simpleOSGViewer>().reset();
+
+        osg::setNotifyHandler(new osg::StandardNotifyHandler);
+        QCOMPARE(notices->text, std::string());
     }
 
     void countsTransformsInExtents()
