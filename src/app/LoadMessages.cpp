@@ -9,7 +9,7 @@
 
 namespace vlt::app {
 
-void loadMessages(const QString &installDir, const QString &messagesDir, const QString &language)
+void loadTexts(const QString &installDir, const QString &messagesDir, const QString &language)
 {
     VltLanguageManager &manager = VltLanguageManager::getInstance();
     manager.defaultSetup(installDir + platform::separator(platform::nativePathStyle()) +
@@ -18,6 +18,11 @@ void loadMessages(const QString &installDir, const QString &messagesDir, const Q
     manager.findAndSetupAddOnsMessages(
         QFileInfo(installDir + QStringLiteral("/addons/telecom/MESSAGES")).absoluteFilePath(),
         QString());
+}
+
+void loadMessages(const QString &installDir, const QString &messagesDir, const QString &language)
+{
+    loadTexts(installDir, messagesDir, language);
     QCoreApplication::installTranslator(new VltTranslator(QCoreApplication::instance()));
 }
 

@@ -1,3 +1,5 @@
+#include "app/CommandLine.h"
+#include "app/DisplayGuard.h"
 #include "app/Environment.h"
 #include "app/GeodataLibrary.h"
 #include "app/LoadMessages.h"
@@ -13,11 +15,13 @@
 #include <QDebug>
 #include <QFileInfo>
 #include <QLocale>
+#include <QTimer>
 
 #include <clocale>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <memory>
 
 namespace {
 
@@ -30,6 +34,15 @@ bool asksForStyleSheet(int argc, char **argv)
             return true;
     }
     return false;
+}
+
+/// Without the program's name.
+QStringList textsOf(int argc, char **argv)
+{
+    QStringList texts;
+    for (int i = 1; i < argc; ++i)
+        texts << QString::fromLocal8Bit(argv[i]);
+    return texts;
 }
 
 void setAppearance(QApplication &application, bool keepStyle)
@@ -62,11 +75,59 @@ void setUpLanguage(const QString &installDir, const app::StartupSettings &settin
         QApplication::setLayoutDirection(Qt::RightToLeft);
 }
 
-int runWizard(const QString &installDir)
+void print(std::FILE *to, const QString &line)
+{
+    std::fprintf(to, "%s\n", line.toLocal8Bit().constData());
+}
+
+/// Help or version, for which no window is opened.
+int printText(int &argc, char **argv)
+{
+    const QCoreApplication application(argc, argv);
+    const app::StartupSettings settings =
+        app::resolveStartupSettings(QCoreApplication::applicationFilePath(), true);
+    app::loadTexts(settings.installDir, settings.messagesDir, settings.language);
+    const app::CommandLine line = app::readCommandLine(QCoreApplication::arguments().mid(1));
+    print(stdout, line.wish == app::CommandLine::Wish::Version
+                      ? QStringLiteral("VltTelecomLayers " VLT_VERSION)
+                      : app::helpText());
+    return 0;
+}
+
+/// @param reason  the toolkit's, may be empty
+QString noDisplayText(const QString &reason)
+{
+    const app::StartupSettings settings =
+        app::resolveStartupSettings(QCoreApplication::applicationFilePath(), true);
+    app::loadTexts(settings.installDir, settings.messagesDir, settings.language);
+    const QString detail = reason.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(reason);
+    return QStringLiteral("VltTelecomLayers: ") +
+           dico_label("MESS_APP_NO_DISPLAY",
+                      "no window can be opened here%1; vltlayers makes the same layers without one")
+               .arg(detail);
+}
+
+std::unique_ptr<QApplication> makeApplication(int &argc, char **argv)
+{
+    const app::DisplayGuard guard(noDisplayText);
+    return std::make_unique<QApplication>(argc, argv);
+}
+
+int refuse(const QString &mistake)
+{
+    print(stderr, QStringLiteral("VltTelecomLayers: ") + mistake);
+    print(stderr, dico_label("MESS_APP_TRY_HELP", "try 'VltTelecomLayers --help'"));
+    return 2;
+}
+
+/// @param file  to open; empty for none
+int runWizard(const QString &installDir, const QString &file)
 {
     VltTelecomLayersWizard wizard(installDir,
                                   VltLanguageManager::getInstance().getCurrentLanguage().text);
     wizard.show();
+    if (!file.isEmpty())
+        QTimer::singleShot(0, &wizard, [&wizard, file] { wizard.openFile(file); });
     return QApplication::exec();
 }
 
@@ -74,23 +135,28 @@ int runWizard(const QString &installDir)
 
 int main(int argc, char **argv)
 {
+    if (app::asksForText(textsOf(argc, argv)))
+        return printText(argc, argv);
     const bool styleSheetGiven = asksForStyleSheet(argc, argv); // Qt takes the option away
-    QApplication application(argc, argv);
+    const std::unique_ptr<QApplication> application = makeApplication(argc, argv);
     // The application object takes the whole of the user's locale; numbers keep the C one.
     std::setlocale(LC_NUMERIC, "C");
-    setAppearance(application, styleSheetGiven);
+    setAppearance(*application, styleSheetGiven);
     setIdentity();
 
     const app::StartupSettings settings =
         app::resolveStartupSettings(QCoreApplication::applicationFilePath(), true);
     const QString installDir = QFileInfo(settings.installDir).absoluteFilePath();
     setUpLanguage(installDir, settings);
+    const app::CommandLine wish = app::readCommandLine(QCoreApplication::arguments().mid(1));
+    if (!wish.mistake.isEmpty())
+        return refuse(wish.mistake);
 
     app::exportGeodataEnvironment(installDir, platform::nativePathStyle(), stdout);
     std::fflush(stdout);
     app::registerGeodataDrivers();
 
-    const int result = runWizard(installDir);
+    const int result = runWizard(installDir, wish.file);
     if (wizard::isWorkRunning()) { // a read that the user gave up; it would be torn apart below
         std::fflush(nullptr);
         std::_Exit(result);

@@ -241,6 +241,64 @@ private Q_SLOTS:
         QVERIFY(table->isVisible());
     }
 
+    void opensTheFileThatItWasStartedWith_data()
+    {
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<bool>("hasProject");
+        QTest::addColumn<int>("page");
+        QTest::addColumn<QString>("line"); // that shows it
+        QTest::addColumn<QString>("box");
+
+        const QString none;
+        QTest::newRow("sites") << u"sites.xlsx"_s << true << 2 << u"m_pwLeSite"_s << none;
+        QTest::newRow("links") << u"links.csv"_s << true << 3 << u"m_pwLeLink"_s << none;
+        QTest::newRow("links, no project known")
+            << u"links.csv"_s << false << 1 << u"m_pwLeLink"_s << none;
+        QTest::newRow("footprints")
+            << u"vectors/buildings.shp"_s << true << 4 << u"m_pwLeBuildings"_s << none;
+        QTest::newRow("raster") << u"coverage/signal_level_dBm.tif"_s << true << 4 << u"m_pwLeDtm"_s
+                                << none;
+        QTest::newRow("project") << u"city.gvw"_s << false << 0 << u"m_pwLeProjectName"_s << none;
+        QTest::newRow("layer") << u"made.lay"_s << true << 0 << none
+                               << u"This layer is finished: drag its file into Veltaro Builder"_s;
+        QTest::newRow("anything else") << u"textures"_s << true << 0 << none
+                                       << u"This file is neither a project nor a table of sites or "
+                                          "links, footprints of buildings or a raster"_s;
+        QTest::newRow("none") << u"gone.csv"_s << true << 0 << none
+                              << u"This file does not exist"_s;
+    }
+
+    void opensTheFileThatItWasStartedWith()
+    {
+        QFETCH(QString, file);
+        QFETCH(bool, hasProject);
+        QFETCH(int, page);
+        QFETCH(QString, line);
+        QFETCH(QString, box);
+        const QTemporaryDir own;
+        QCOMPARE(QProcess::execute(u"cp"_s, {u"-R"_s, Samples + u"/."_s, own.path()}), 0);
+        QVERIFY(QFile::copy(Samples + u"/sites.csv"_s, own.filePath(u"made.lay"_s)));
+        if (hasProject)
+            vlt::platform::builderSettings()->setValue(u"RECENT_PROJECT_1"_s,
+                                                       own.filePath(u"city.gvw"_s));
+        VltTelecomLayersWizard wizard(installation(), u"en"_s);
+        wizard.show();
+        AnsweredBoxes boxes;
+
+        wizard.openFile(u"file://"_s + own.filePath(file));
+
+        QTRY_COMPARE(wizard.currentId(), page);
+        QCOMPARE(boxes.seen.size(), box.isEmpty() ? 0 : 1);
+        if (!box.isEmpty())
+            QCOMPARE(boxes.seen.constFirst().text, box + u'\n' + own.filePath(file));
+        if (page == 1) { // the user chooses one first
+            wizard.findChild<QLineEdit *>(u"m_pwLeProjectName"_s)->setText(SampleProject);
+            wizard.next();
+        }
+        if (!line.isEmpty())
+            QTRY_COMPARE(wizard.findChild<QLineEdit *>(line)->text(), own.filePath(file));
+    }
+
     void asksBeforeItFinishes()
     {
         WizardOnSitePage flow;

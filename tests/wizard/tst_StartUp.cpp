@@ -77,6 +77,56 @@ private Q_SLOTS:
         QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"), u"Annuler"_s);
     }
 
+    void readsTheCommandLine_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<QString>("display");
+        QTest::addColumn<int>("status");
+        QTest::addColumn<QByteArray>("output"); // how it starts
+        QTest::addColumn<QByteArray>("errors");
+
+        const QString here = QString::fromLocal8Bit(qgetenv("DISPLAY"));
+        const QByteArray help = "Usage: VltTelecomLayers [options] [FILE]\n";
+        const QByteArray hint = "try 'VltTelecomLayers --help'\n";
+        QTest::newRow("help") << QStringList{u"--help"_s} << here << 0 << help << QByteArray();
+        QTest::newRow("help without a display") << QStringList{u"-style"_s, u"Windows"_s, u"-h"_s}
+                                                << QString() << 0 << help << QByteArray();
+        QTest::newRow("version") << QStringList{u"--version"_s} << QString() << 0
+                                 << QByteArray("VltTelecomLayers 0.") << QByteArray();
+        QTest::newRow("unknown option beside the toolkit's own")
+            << QStringList{u"-style"_s, u"Windows"_s, u"-stylesheet"_s, u"my.qss"_s, u"--frob"_s}
+            << here << 2 << QByteArray()
+            << QByteArray("VltTelecomLayers: unknown option \"--frob\"\n" + hint);
+        QTest::newRow("two files")
+            << QStringList{u"a.csv"_s, u"--"_s, u"--help"_s} << here << 2 << QByteArray()
+            << QByteArray("VltTelecomLayers: more than one file is named\n" + hint);
+        QTest::newRow("no display")
+            << QStringList{u"a.csv"_s} << u":987654"_s << 1 << QByteArray()
+            << QByteArray("VltTelecomLayers: no window can be opened here (could not connect to "
+                          "display :987654); vltlayers makes the same layers without one\n");
+    }
+
+    void readsTheCommandLine()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(QString, display);
+        QFETCH(QByteArray, output);
+        QProcess process;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"DISPLAY"_s, display);
+        environment.insert(u"XDG_RUNTIME_DIR"_s, m_dir.path()); // else the toolkit tells of it
+        process.setProcessEnvironment(environment);
+
+        process.start(QStringLiteral(VLT_PROGRAM), arguments);
+        QVERIFY(process.waitForFinished());
+
+        QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+        QTEST(process.exitCode(), "status");
+        const QByteArray printed = process.readAllStandardOutput();
+        QVERIFY2(output.isEmpty() ? printed.isEmpty() : printed.startsWith(output), printed);
+        QTEST(process.readAllStandardError(), "errors");
+    }
+
     void programSetsTheEnvironmentBeforeItsDrivers()
     {
         const QString tree = m_dir.filePath(u"100% d'\u00E9t\u00E9"_s);

@@ -7,14 +7,20 @@
 #include "links/ui/VltAddLinkPage.h"
 #include "platform/Settings.h"
 #include "sites/ui/VltAddSitePage.h"
+#include "wizard/base/BusyWait.h"
 #include "wizard/base/Messages.h"
+#include "wizard/frame/GivenFile.h"
 #include "wizard/frame/VltFirstPage.h"
+#include "wizard/project/TypedPath.h"
 #include "wizard/project/ui/VltSecondPage.h"
 
 #include <QAbstractButton>
 #include <QCloseEvent>
+#include <QFileInfo>
 #include <QIcon>
 #include <QScreen>
+
+#include <utility>
 
 namespace {
 
@@ -43,6 +49,8 @@ VltTelecomLayersWizard::VltTelecomLayersWizard(const QString &installDir, const 
     addPages();
     // queued: the page is not visible yet when it becomes the current one
     connect(this, &QWizard::currentIdChanged, this, &VltTelecomLayersWizard::focusPage,
+            Qt::QueuedConnection);
+    connect(this, &QWizard::currentIdChanged, this, &VltTelecomLayersWizard::openOnPage,
             Qt::QueuedConnection);
     restart();
 }
@@ -147,6 +155,64 @@ void VltTelecomLayersWizard::focusPage()
     keepOnScreen();
     if (currentPage() != nullptr && currentPage()->focusProxy() != nullptr)
         currentPage()->setFocus(Qt::TabFocusReason); // this reason makes the focus visible
+}
+
+void VltTelecomLayersWizard::openFile(const QString &path)
+{
+    using vlt::wizard::FileKind;
+    const QString file = QFileInfo(vlt::project::typedPath(path)).absoluteFilePath();
+    const auto kind = vlt::wizard::waitForValue<FileKind>(
+        this, tr("Looking at the file...", "MESS_LOOKING_AT_FILE"),
+        [file] { return vlt::wizard::kindOfFile(file); });
+    const auto tell = [this, &file](const char *key, const char *text) {
+        vlt::messages::warning(this, {QString::fromLatin1(key), QString::fromUtf8(text), file},
+                               tr("Warning", "MESS_ATTENTION"));
+    };
+    if (!kind) // the user stopped it
+        return;
+    switch (*kind) {
+    case FileKind::Project:
+        qobject_cast<VltSecondPage *>(page(pageId(LogicalPage::Project)))->offerProject(file);
+        break;
+    case FileKind::SiteTable:
+        return leadToPageOf(LogicalPage::AddSite, file);
+    case FileKind::LinkTable:
+        return leadToPageOf(LogicalPage::AddLink, file);
+    case FileKind::BuildingSource:
+        return leadToPageOf(LogicalPage::BuildingsSource, file);
+    case FileKind::Layer:
+        return tell("MESS_FILE_IS_LAYER",
+                    "This layer is finished: drag its file into Veltaro Builder");
+    case FileKind::Missing:
+        return tell("MESS_FILE_IS_MISSING", "This file does not exist");
+    case FileKind::Unknown:
+        return tell("MESS_FILE_IS_UNKNOWN", "This file is neither a project nor a table of sites "
+                                            "or links, footprints of buildings or a raster");
+    }
+}
+
+void VltTelecomLayersWizard::leadToPageOf(LogicalPage logical, const QString &path)
+{
+    m_fileToOpen = path;
+    m_pageToOpenIt = pageId(logical);
+    auto *first = qobject_cast<VltFirstPage *>(page(pageId(LogicalPage::First)));
+    if (logical == LogicalPage::AddSite)
+        first->addSiteClicked();
+    else if (logical == LogicalPage::AddLink)
+        first->addLinkClicked();
+    else
+        first->addTexbClicked();
+    if (currentPage()->isComplete()) // else the user chooses a project first
+        next();
+}
+
+/// The page takes the file as if it were dropped on it.
+void VltTelecomLayersWizard::openOnPage()
+{
+    if (currentId() != m_pageToOpenIt || m_fileToOpen.isEmpty())
+        return;
+    if (auto *taking = qobject_cast<BasePage *>(currentPage()))
+        taking->droppedFile(std::exchange(m_fileToOpen, QString()));
 }
 
 void VltTelecomLayersWizard::closeEvent(QCloseEvent *event)

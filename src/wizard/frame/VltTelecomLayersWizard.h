@@ -34,6 +34,11 @@ public:
     /// Wizard id of a page; those of the coloured and the textured buildings are 6 and 5.
     int pageId(LogicalPage page) const { return m_pageIds[static_cast<std::size_t>(page)]; }
 
+    /// Takes a file that was named when the program was started: a project is offered first on the
+    /// project page; a table, a raster or footprints lead to their page, with the first recent
+    /// project where there is one. The user is told of any other file.
+    void openFile(const QString &path);
+
 public Q_SLOTS:
     /// Sets what follows the project page and offers the first recent project there.
     void setNextIdOfSecondPage(int id);
@@ -55,9 +60,13 @@ private:
     void addBuildingPages();
     void keepOnScreen();
     void focusPage();
+    void leadToPageOf(LogicalPage page, const QString &path);
+    void openOnPage();
 
     std::array<int, 8> m_pageIds = {};
     QString m_installDir;
     QString m_language;
     SharedParameters m_parameters;
+    QString m_fileToOpen; ///< as soon as m_pageToOpenIt is shown
+    int m_pageToOpenIt = -1;
 };

@@ -26,6 +26,75 @@
     </message>
 </context>
 <context>
+    <name>Start of the program</name>
+    <message id="MESS_APP_NO_SHEET">
+        <source>%1 is not followed by a file</source>
+        <translation>%1 is not followed by a file</translation>
+    </message>
+    <message id="MESS_APP_UNKNOWN_OPTION">
+        <source>unknown option "%1"</source>
+        <translation>unknown option "%1"</translation>
+    </message>
+    <message id="MESS_APP_ONE_FILE">
+        <source>more than one file is named</source>
+        <translation>more than one file is named</translation>
+    </message>
+    <message id="MESS_APP_TRY_HELP">
+        <source>try 'VltTelecomLayers --help'</source>
+        <translation>try 'VltTelecomLayers --help'</translation>
+    </message>
+    <message id="MESS_APP_NO_DISPLAY">
+        <source>no window can be opened here%1; vltlayers makes the same layers without one</source>
+        <translation>no window can be opened here%1; vltlayers makes the same layers without one</translation>
+    </message>
+    <message id="MESS_LOOKING_AT_FILE">
+        <source>Looking at the file...</source>
+        <translation>Looking at the file...</translation>
+    </message>
+    <message id="MESS_FILE_IS_LAYER">
+        <source>This layer is finished: drag its file into Veltaro Builder</source>
+        <translation>This layer is finished: drag its file into Veltaro Builder</translation>
+    </message>
+    <message id="MESS_FILE_IS_MISSING">
+        <source>This file does not exist</source>
+        <translation>This file does not exist</translation>
+    </message>
+    <message id="MESS_FILE_IS_UNKNOWN">
+        <source>This file is neither a project nor a table of sites or links, footprints of buildings or a raster</source>
+        <translation>This file is neither a project nor a table of sites or links, footprints of buildings or a raster</translation>
+    </message>
+    <message id="MESS_APP_HELP">
+        <source>Usage: VltTelecomLayers [options] [FILE]
+
+Opens the wizard that makes layers of telecom sites, links and buildings.
+
+  FILE                A project (.gvw) is offered on the project page. A table of
+                      sites or links, footprints of buildings or a raster is
+                      opened on its page, with the first recent project.
+
+  -h, --help          Prints this text.
+  -v, --version       Prints the version.
+  -stylesheet SHEET   Takes a style sheet of one's own.
+
+The options of every Qt program, such as -platform and -style, work too.
+vltlayers makes the same layers without a window.</source>
+        <translation>Usage: VltTelecomLayers [options] [FILE]
+
+Opens the wizard that makes layers of telecom sites, links and buildings.
+
+  FILE                A project (.gvw) is offered on the project page. A table of
+                      sites or links, footprints of buildings or a raster is
+                      opened on its page, with the first recent project.
+
+  -h, --help          Prints this text.
+  -v, --version       Prints the version.
+  -stylesheet SHEET   Takes a style sheet of one's own.
+
+The options of every Qt program, such as -platform and -style, work too.
+vltlayers makes the same layers without a window.</translation>
+    </message>
+</context>
+<context>
     <name>First page</name>
     <message id="MESS_PAGE_LAYER_KIND">
         <source>Kind of layer</source>

@@ -26,6 +26,76 @@
     </message>
 </context>
 <context>
+    <name>Start of the program</name>
+    <message id="MESS_APP_NO_SHEET">
+        <source>%1 is not followed by a file</source>
+        <translation>%1 n'est pas suivi d'un fichier</translation>
+    </message>
+    <message id="MESS_APP_UNKNOWN_OPTION">
+        <source>unknown option "%1"</source>
+        <translation>option «&#xa0;%1&#xa0;» inconnue</translation>
+    </message>
+    <message id="MESS_APP_ONE_FILE">
+        <source>more than one file is named</source>
+        <translation>plusieurs fichiers sont nommés</translation>
+    </message>
+    <message id="MESS_APP_TRY_HELP">
+        <source>try 'VltTelecomLayers --help'</source>
+        <translation>voir 'VltTelecomLayers --help'</translation>
+    </message>
+    <message id="MESS_APP_NO_DISPLAY">
+        <source>no window can be opened here%1; vltlayers makes the same layers without one</source>
+        <translation>aucune fenêtre ne peut être ouverte ici%1&#xa0;; vltlayers produit les mêmes couches sans fenêtre</translation>
+    </message>
+    <message id="MESS_LOOKING_AT_FILE">
+        <source>Looking at the file...</source>
+        <translation>Examen du fichier...</translation>
+    </message>
+    <message id="MESS_FILE_IS_LAYER">
+        <source>This layer is finished: drag its file into Veltaro Builder</source>
+        <translation>Cette couche est terminée&#xa0;: faites glisser son fichier dans Veltaro Builder</translation>
+    </message>
+    <message id="MESS_FILE_IS_MISSING">
+        <source>This file does not exist</source>
+        <translation>Ce fichier n'existe pas</translation>
+    </message>
+    <message id="MESS_FILE_IS_UNKNOWN">
+        <source>This file is neither a project nor a table of sites or links, footprints of buildings or a raster</source>
+        <translation>Ce fichier n'est ni un projet, ni un tableau de sites ou de liaisons, ni des emprises de bâtiments, ni une image raster</translation>
+    </message>
+    <message id="MESS_APP_HELP">
+        <source>Usage: VltTelecomLayers [options] [FILE]
+
+Opens the wizard that makes layers of telecom sites, links and buildings.
+
+  FILE                A project (.gvw) is offered on the project page. A table of
+                      sites or links, footprints of buildings or a raster is
+                      opened on its page, with the first recent project.
+
+  -h, --help          Prints this text.
+  -v, --version       Prints the version.
+  -stylesheet SHEET   Takes a style sheet of one's own.
+
+The options of every Qt program, such as -platform and -style, work too.
+vltlayers makes the same layers without a window.</source>
+        <translation>Utilisation&#xa0;: VltTelecomLayers [options] [FICHIER]
+
+Ouvre l'assistant qui produit des couches de sites, de liaisons et de bâtiments.
+
+  FICHIER             Un projet (.gvw) est proposé sur la page du projet. Un
+                      tableau de sites ou de liaisons, des emprises de bâtiments
+                      ou une image raster s'ouvrent sur leur page, avec le premier
+                      des projets récents.
+
+  -h, --help          Affiche ce texte.
+  -v, --version       Affiche la version.
+  -stylesheet FICHIER Emploie une feuille de style personnelle.
+
+Les options de tout programme Qt, comme -platform et -style, sont acceptées.
+vltlayers produit les mêmes couches sans fenêtre.</translation>
+    </message>
+</context>
+<context>
     <name>First page</name>
     <message id="MESS_PAGE_LAYER_KIND">
         <source>Kind of layer</source>

@@ -47,21 +47,43 @@ VltSecondPage::~VltSecondPage() = default;
 
 void VltSecondPage::fillRecentProjects()
 {
-    const QIcon icon(QStringLiteral(":/images/veltaro_gvw_file.png"));
     const QStringList paths =
         project::recentProjects(geodata::configurationOption("VLT_CURRENT_PROJECT"));
-    for (const QString &path : paths) {
-        auto *item =
-            new QListWidgetItem(icon, project::projectCaption(path), m_ui->m_pwLwRecentProjects);
-        item->setToolTip(path);
-        item->setData(Qt::AccessibleDescriptionRole, path);
-    }
-    m_ui->m_pwLwRecentProjects->setVisible(!paths.isEmpty());
-    m_ui->m_pwLblNoRecentProjects->setVisible(paths.isEmpty());
-    if (paths.isEmpty())
+    for (const QString &path : paths)
+        addProject(m_ui->m_pwLwRecentProjects->count(), path);
+    showWhetherThereAreProjects();
+}
+
+void VltSecondPage::addProject(int row, const QString &path)
+{
+    const QIcon icon(QStringLiteral(":/images/veltaro_gvw_file.png"));
+    auto *item = new QListWidgetItem(icon, project::projectCaption(path));
+    item->setToolTip(path);
+    item->setData(Qt::AccessibleDescriptionRole, path);
+    m_ui->m_pwLwRecentProjects->insertItem(row, item);
+}
+
+void VltSecondPage::showWhetherThereAreProjects()
+{
+    const bool isEmpty = m_ui->m_pwLwRecentProjects->count() == 0;
+    m_ui->m_pwLwRecentProjects->setVisible(!isEmpty);
+    m_ui->m_pwLblNoRecentProjects->setVisible(isEmpty);
+    if (isEmpty)
         setFocusProxy(m_ui->m_pwLeProjectName);
     else
         setFocusProxy(m_ui->m_pwLwRecentProjects);
+}
+
+void VltSecondPage::offerProject(const QString &path)
+{
+    QListWidget *list = m_ui->m_pwLwRecentProjects;
+    for (int row = list->count() - 1; row >= 0; --row) {
+        if (list->item(row)->toolTip() == path)
+            delete list->takeItem(row);
+    }
+    addProject(0, path);
+    showWhetherThereAreProjects();
+    selectFirstProject();
 }
 
 void VltSecondPage::connectWidgets()

@@ -26,6 +26,9 @@ public:
     /// Sets the page that follows; -1 for none.
     void setNextId(int id) { m_nextId = id; }
 
+    /// Puts a project before the recent ones and chooses it.
+    void offerProject(const QString &path);
+
     /// Makes the first recent project the current one, where there is one.
     void selectFirstProject();
 
@@ -51,6 +54,8 @@ protected:
 
 private:
     void fillRecentProjects();
+    void addProject(int row, const QString &path);
+    void showWhetherThereAreProjects();
     void connectWidgets();
     void showWhichProject(const QString &path);
     void showNotice();
