@@ -49,6 +49,16 @@ private Q_SLOTS:
         row("unknown ones around", "new=\"1\" layer=\"x\" other=\"2\"", "x");
     }
 
+    void takesReferencesWhereValuesAreEscaped()
+    {
+        const QByteArray plain = document("layer=\"donn&#233;es\"");
+        QByteArray escaped = plain;
+        escaped.replace("<vector \n", "<vector\n");
+
+        QCOMPARE(parseTexbDocument(plain.toStdString()).layer, std::string("donn&#233;es"));
+        QCOMPARE(parseTexbDocument(escaped.toStdString()).layer, std::string("donn\u00e9es"));
+    }
+
     void takesValuesAsTheyStand()
     {
         QFETCH(QByteArray, written);

@@ -80,7 +80,7 @@ bool goesOn(std::string_view text)
 using Attributes = std::vector<std::pair<std::string, std::string>>;
 
 /// Takes the attributes of an element; `text` moves to what ends it.
-Attributes takeAttributes(std::string_view &text)
+Attributes takeAttributes(std::string_view &text, References references)
 {
     Attributes attributes;
     char quote = 0;
@@ -91,7 +91,7 @@ Attributes takeAttributes(std::string_view &text)
             end = text.find(quote, end + 1);
         if (end == None)
             throw BadLayer("the value of " + std::string(name) + " does not end");
-        attributes.emplace_back(name, unescaped(text.substr(0, end)));
+        attributes.emplace_back(name, unescaped(text.substr(0, end), references));
         text.remove_prefix(end + 1);
     }
     return attributes;
@@ -222,9 +222,12 @@ TexbDocument parseTexbDocument(std::string_view text)
     if (name != "veltaroTexturedBuildings")
         throw BadLayer("it is no building document: it does not start with the element "
                        "veltaroTexturedBuildings");
+    // whoever writes documents line by line escapes nothing: a path may hold "&#233;" then
+    const bool isPlain = text.find("<vector \n") != None;
+    const References references = isPlain ? References::Kept : References::Taken;
     TexbDocument document;
     while (!name.empty()) {
-        takeElement(document, name, takeAttributes(text));
+        takeElement(document, name, takeAttributes(text, references));
         name = takeElementName(text);
     }
     check(document);

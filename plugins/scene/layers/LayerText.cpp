@@ -1,8 +1,11 @@
 #include "layers/LayerText.h"
 
 #include "layers/BadLayer.h"
+#include "layers/TextEncoding.h"
 
 #include <array>
+#include <charconv>
+#include <cstdint>
 #include <filesystem>
 #include <fstream>
 #include <utility>
@@ -22,10 +25,33 @@ std::string readLayerText(const std::string &path)
         throw BadLayer("it cannot be read");
     if (text.size() > MaxLayerFileSize)
         throw BadLayer("it is too large for a file of its kind");
-    return text;
+    return asUtf8(std::move(text));
 }
 
-std::string unescaped(std::string_view text)
+namespace {
+
+/// The character that a text starts with a reference to, in UTF-8, and the reference's length.
+std::pair<std::string, std::size_t> referenceAt(std::string_view text)
+{
+    constexpr std::size_t Longest = sizeof("&#x10FFFF;");
+    const std::size_t end = text.substr(0, Longest).find(';');
+    if (!text.starts_with("&#") || end == std::string_view::npos)
+        return {};
+    const bool isHex = text.substr(2).starts_with('x');
+    const char *first = text.data() + (isHex ? 3 : 2);
+    const char *last = text.data() + end;
+    std::uint32_t letter = 0;
+    const auto [read, fault] = std::from_chars(first, last, letter, isHex ? 16 : 10);
+    if (fault != std::errc() || read != last || letter == 0 || !isCharacter(letter))
+        return {};
+    std::string plain;
+    appendUtf8(plain, letter);
+    return {plain, end + 1};
+}
+
+} // namespace
+
+std::string unescaped(std::string_view text, References references)
 {
     using Escape = std::pair<std::string_view, char>;
     static constexpr std::array<Escape, 5> Escapes = {
@@ -39,6 +65,13 @@ std::string unescaped(std::string_view text)
                 length = escape.size();
                 letter = meaning;
                 break;
+            }
+        }
+        if (length == 1 && letter == '&' && references == References::Taken) {
+            if (const auto [character, size] = referenceAt(text); size > 0) {
+                plain += character;
+                text.remove_prefix(size);
+                continue;
             }
         }
         plain += letter;
