@@ -3,10 +3,11 @@
 namespace vlt::connection {
 
 /// What a caller hands to the scene readers, as data of the plug-ins by these names: the path of
-/// the project file, "1" for the surface of the terrain under a scene that knows one, and the
-/// address of a ReadProgress.
+/// the project file, "1" for the surface of the terrain under a scene that knows one, "1" from a
+/// caller that does nothing with the scene but draw it, and the address of a ReadProgress.
 inline constexpr char ProjectKey[] = "vlt.project";
 inline constexpr char TerrainKey[] = "vlt.terrain";
+inline constexpr char DrawnKey[] = "vlt.drawn";
 inline constexpr char ProgressKey[] = "vlt.progress";
 
 /// How a reader tells how far it is. Plain, for it goes from one module to another.

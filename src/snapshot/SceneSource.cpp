@@ -98,6 +98,7 @@ Result<Scene> readScene(const QString &name, const QString &project, TerrainSurf
             QFile::encodeName(QFileInfo(project).absoluteFilePath()).toStdString());
     if (terrain == TerrainSurface::Shown)
         options->setPluginStringData(connection::TerrainKey, "1");
+    options->setPluginStringData(connection::DrawnKey, "1");
     platform::Progress told = progress;
     connection::ReadProgress listener{report, &told};
     if (told)

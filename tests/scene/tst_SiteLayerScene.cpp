@@ -2,6 +2,7 @@
 #include "layers/LayerFile.h"
 
 #include <osg/Geometry>
+#include <osgDB/WriteFile>
 
 #include <QtTest>
 
@@ -168,6 +169,27 @@ private Q_SLOTS:
         QVERIFY2(thousand <= one + std::size_t{16} * 3 + 1, std::to_string(thousand).c_str());
     }
 
+    /// A file that another program could read has the masts, whatever it writes them to.
+    void isWholeForWhoWritesIt()
+    {
+        write(path(QStringLiteral("t.csv")), Header + "A,650000,6860000,0,30,90,30,270\n");
+        write(path(QStringLiteral("t.lay")), layerText(siteSource("t.csv")));
+        const osg::ref_ptr<osgDB::Options> drawn = new osgDB::Options;
+        drawn->setPluginStringData("vlt.drawn", "1");
+        for (const osgDB::Options *options :
+             {static_cast<osgDB::Options *>(nullptr), drawn.get()}) {
+            const Opened opened = open(path(QStringLiteral("t.lay")), options);
+            const std::string file = path(QStringLiteral("out.osgt")).toStdString();
+            QVERIFY(osgDB::writeNodeFile(*opened.scene, file));
+
+            Everything found;
+            osgDB::readRefNodeFile(file)->accept(found);
+
+            QCOMPARE(found.drawables.size() > 5, options == nullptr); // else its dot alone
+            QCOMPARE(found.labels.size(), std::size_t(options ? 0 : 1));
+        }
+    }
+
     void looksForTheTableInOrder()
     {
         const auto table = [](int rows) {
@@ -240,6 +262,42 @@ private Q_SLOTS:
 
         QVERIFY(!opened.scene);
         QVERIFY2(QByteArray::fromStdString(opened.fault).contains(named), opened.fault.c_str());
+    }
+
+    void readsEveryEncoding_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+
+        const QString layer = QStringLiteral("<veltaroLayer kind='sites'><source>site:donn%1es/"
+                                             "&#128225;.csv</source></veltaroLayer>");
+        const QString declared = QStringLiteral("<?xml version='1.0' encoding='%1'?>");
+        const QString wanted = layer.arg(QChar(0xe9));
+        QTest::newRow("references") << layer.arg(QStringLiteral("&#xE9;")).toUtf8();
+        QTest::newRow("mark") << "\xEF\xBB\xBF" + wanted.toUtf8();
+        QTest::newRow("declared")
+            << (declared.arg(QStringLiteral("iso-8859-1")) + wanted).toLatin1();
+        QTest::newRow("declared, and not so")
+            << (declared.arg(QStringLiteral("iso-8859-1")) + wanted).toUtf8();
+        const QString wide = declared.arg(QStringLiteral("UTF-16")) + wanted;
+        QByteArray little;
+        QByteArray big;
+        for (const QChar unit : wide) {
+            little.append(char(unit.unicode() & 0xFF)).append(char(unit.unicode() >> 8));
+            big.append(char(unit.unicode() >> 8)).append(char(unit.unicode() & 0xFF));
+        }
+        QTest::newRow("UTF-16, no mark") << little;
+        QTest::newRow("UTF-16, mark") << "\xFE\xFF" + big;
+    }
+
+    void readsEveryEncoding()
+    {
+        QFETCH(QByteArray, bytes);
+        write(path(QStringLiteral("e.lay")), bytes);
+
+        const auto file =
+            vlt::scene::readLayerFile(path(QStringLiteral("e.lay")).toLocal8Bit().toStdString());
+
+        QCOMPARE(file.source, std::string("site:donn\u00e9es/\U0001F4E1.csv"));
     }
 
     void readsTextThatNobodyEscaped()

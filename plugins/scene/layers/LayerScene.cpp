@@ -58,7 +58,7 @@ osg::ref_ptr<osg::Group> readLinks(const LayerFile &file, const Directories &dir
     if (request.withTerrain)
         surface = buildTerrainSurface(profiler, *links.frame.local, extentOf(records.pylons));
     osg::ref_ptr<osg::Group> scene =
-        buildLinkLayerScene(links, std::move(records), style.look, file.title);
+        buildLinkLayerScene(links, std::move(records), style.look, file.title, request.content);
     if (surface)
         scene->addChild(surface);
     else if (request.withTerrain)
@@ -75,7 +75,8 @@ osg::ref_ptr<osg::Group> readLayerScene(const LayerFile &file, const std::string
     if (file.kind == LayerKind::Links)
         return readLinks(file, directories, request, notices);
     const auto table = locateTable(file.source, file.kind, directories);
-    return buildSiteScene(readSiteRecords(table, file, readSiteStyle(table)), file.title);
+    return buildSiteScene(readSiteRecords(table, file, readSiteStyle(table)), file.title,
+                          request.content);
 }
 
 } // namespace vlt::scene

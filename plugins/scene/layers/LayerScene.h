@@ -1,6 +1,7 @@
 #pragma once
 
 #include "layers/LayerFile.h"
+#include "layers/PylonTiles.h"
 
 #include <osg/Group>
 
@@ -14,6 +15,7 @@ struct LayerRequest
 {
     std::string project;      ///< path of the project file that the layer belongs to; may be empty
     bool withTerrain = false; ///< also the terrain's surface under links, where there is one
+    TileContent content = TileContent::WhenDrawn;
 };
 
 /// Makes the scene of a layer of sites or of links: SiteScene.h, LinkLayerScene.h.

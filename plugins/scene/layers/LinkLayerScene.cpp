@@ -1,6 +1,5 @@
 #include "layers/LinkLayerScene.h"
 
-#include "layers/PylonTiles.h"
 #include "layers/SceneFacts.h"
 #include "link/LinkFactory.h"
 
@@ -10,7 +9,8 @@
 namespace vlt::scene {
 
 osg::ref_ptr<osg::Group> buildLinkLayerScene(const LinkRows &rows, LinkRecords records,
-                                             const LinkLook &look, const std::string &title)
+                                             const LinkLook &look, const std::string &title,
+                                             TileContent content)
 {
     osg::ref_ptr<osg::Group> group = new osg::Group;
     group->setName(title);
@@ -30,7 +30,7 @@ osg::ref_ptr<osg::Group> buildLinkLayerScene(const LinkRows &rows, LinkRecords r
     }
     if (rows.isCut)
         tellCut(*group);
-    group->addChild(buildPylonTiles(std::move(records.pylons)));
+    group->addChild(buildPylonTiles(std::move(records.pylons), content));
     group->addChild(buildLinks(records.links, look));
     return group;
 }

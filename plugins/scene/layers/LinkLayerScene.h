@@ -2,6 +2,7 @@
 
 #include "layers/LinkRecords.h"
 #include "layers/LinkRows.h"
+#include "layers/PylonTiles.h"
 
 #include <osg/Group>
 
@@ -15,6 +16,7 @@ namespace vlt::scene {
 /// PylonTiles.h and LinkFactory.h tell how pylons and links are drawn. The earth's curvature is
 /// not: a link that only it obstructs runs above the ground here.
 osg::ref_ptr<osg::Group> buildLinkLayerScene(const LinkRows &rows, LinkRecords records,
-                                             const LinkLook &look, const std::string &title);
+                                             const LinkLook &look, const std::string &title,
+                                             TileContent content);
 
 } // namespace vlt::scene

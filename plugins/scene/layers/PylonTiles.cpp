@@ -46,12 +46,20 @@ osg::ref_ptr<osg::StateSet> makeDotState()
 /// What the tiles of a scene share, for as long as one of them is there.
 struct Content
 {
-    explicit Content(PylonRecords &&all) : records(std::move(all)) {}
+    Content(PylonRecords &&all, TileContent made)
+        : records(std::move(all))
+        , isWholeAtOnce(made == TileContent::AtOnce && records.sites.size() <= MostSitesAtOnce)
+        , isCoarseAtOnce(made == TileContent::AtOnce &&
+                         records.sites.size() <= MostCoarseSitesAtOnce)
+        , factory(isWholeAtOnce ? PreciseModel::AtOnce : PreciseModel::WhenNeeded)
+    {}
 
     PylonRecords records;
+    bool isWholeAtOnce;
+    bool isCoarseAtOnce;
     SiteLabels labels;
     std::mutex guard; ///< several threads may cull
-    PylonFactory factory{PreciseModel::WhenNeeded};
+    PylonFactory factory;
     osg::ref_ptr<osg::StateSet> dotState = makeDotState();
 
     std::size_t pylonsMade = 0;     ///< precise ones, in all tiles
@@ -291,22 +299,27 @@ private:
         const osg::BoundingSphere inner(osg::Vec3(), bound.radius());
         const ContentPtr content = m_content;
         const Sites sites = tree.sites;
-        const auto later = [&](const DeferredNode::Maker &maker) {
-            return moved(new DeferredNode(maker, inner), origin);
+        const auto part = [&](bool isAtOnce, const DeferredNode::Maker &maker) {
+            const osg::ref_ptr<osg::Node> made =
+                isAtOnce ? maker() : osg::ref_ptr<osg::Node>(new DeferredNode(maker, inner));
+            return moved(made, origin);
         };
+        const bool isWhole = content->isWholeAtOnce;
 
         const float radius = bound.radius();
         const float far = static_cast<float>(m_symbolicM) + radius;
         const float near = std::min(far, static_cast<float>(m_realisticM) + radius);
         osg::ref_ptr<osg::LOD> lod = levels(bound);
         const bool withDots = near + radius > m_symbolicM;
-        lod->addChild(later([=] { return makePylons(*content, sites, origin, withDots); }), 0,
-                      near);
-        lod->addChild(later([=] { return makeCoarse(*content, sites, origin); }), near, far);
+        lod->addChild(part(isWhole, [=] { return makePylons(*content, sites, origin, withDots); }),
+                      0, near);
+        lod->addChild(
+            part(content->isCoarseAtOnce, [=] { return makeCoarse(*content, sites, origin); }),
+            near, far);
         lod->addChild(dots(tree, origin), far, Endless);
 
         const double labelM = labelDistance(tree);
-        lod->addChild(later([=] { return makeLabels(*content, sites, origin, labelM); }), 0,
+        lod->addChild(part(isWhole, [=] { return makeLabels(*content, sites, origin, labelM); }), 0,
                       static_cast<float>(labelM) + radius);
         return lod;
     }
@@ -331,11 +344,11 @@ private:
 
 } // namespace
 
-osg::ref_ptr<osg::Node> buildPylonTiles(PylonRecords records)
+osg::ref_ptr<osg::Node> buildPylonTiles(PylonRecords records, TileContent content)
 {
-    const auto content = std::make_shared<Content>(std::move(records));
-    const std::unique_ptr<SiteTree> tree = growSiteTree(content->records.sites, SitesPerTile);
-    return SceneBuilder(content).branch(*tree, false);
+    const auto shared = std::make_shared<Content>(std::move(records), content);
+    const std::unique_ptr<SiteTree> tree = growSiteTree(shared->records.sites, SitesPerTile);
+    return SceneBuilder(shared).branch(*tree, false);
 }
 
 } // namespace vlt::scene

@@ -1,11 +1,11 @@
 #include "layers/SiteScene.h"
 
-#include "layers/PylonTiles.h"
 #include "layers/SceneFacts.h"
 
 namespace vlt::scene {
 
-osg::ref_ptr<osg::Group> buildSiteScene(SiteRecords records, const std::string &title)
+osg::ref_ptr<osg::Group> buildSiteScene(SiteRecords records, const std::string &title,
+                                        TileContent content)
 {
     osg::ref_ptr<osg::Group> group = new osg::Group;
     group->setName(title);
@@ -15,7 +15,7 @@ osg::ref_ptr<osg::Group> buildSiteScene(SiteRecords records, const std::string &
     if (records.isCut)
         tellCut(*group);
     if (!records.sites.empty())
-        group->addChild(buildPylonTiles(std::move(records)));
+        group->addChild(buildPylonTiles(std::move(records), content));
     return group;
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "layers/SiteRecords.h"
+#include "layers/PylonTiles.h"
 
 #include <osg/Group>
 
@@ -11,6 +11,7 @@ namespace vlt::scene {
 /// Its descriptions tell what it holds: "centre=X Y" (in the table's system), "srs=...",
 /// "sites=N", "unplaced=N", and "cut" where the table has more sites than MaxSites.
 /// PylonTiles.h tells how sites are drawn.
-osg::ref_ptr<osg::Group> buildSiteScene(SiteRecords records, const std::string &title);
+osg::ref_ptr<osg::Group> buildSiteScene(SiteRecords records, const std::string &title,
+                                        TileContent content);
 
 } // namespace vlt::scene

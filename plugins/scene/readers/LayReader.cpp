@@ -15,7 +15,10 @@ osg::ref_ptr<osg::Group> readLayer(const std::string &path, const ReadRequest &r
 {
     const LayerFile file = readLayerFile(path);
     if (file.kind != LayerKind::Buildings)
-        return readLayerScene(file, path, {request.project, request.withTerrain}, notices);
+        return readLayerScene(file, path,
+                              {request.project, request.withTerrain,
+                               request.isOnlyDrawn ? TileContent::WhenDrawn : TileContent::AtOnce},
+                              notices);
     osg::ref_ptr<osg::Group> scene =
         readBuildingScene(locateDocument(file.source, path, request.project), request.project,
                           notices, request.progress);
@@ -27,7 +30,11 @@ osg::ref_ptr<osg::Group> readLayer(const std::string &path, const ReadRequest &r
 class LayReader : public osgDB::ReaderWriter
 {
 public:
-    LayReader() { supportsExtension("lay", "Layers of telecom sites, links and buildings"); }
+    LayReader()
+    {
+        supportsExtension("lay", "Layers of telecom sites, links and buildings");
+        supportsOption(ProjectOption, ProjectOptionText);
+    }
 
     const char *className() const override { return "Telecom layer reader"; }
 

@@ -47,6 +47,7 @@ ReadRequest readRequestOf(const osgDB::Options *options)
         return request;
     request.project = projectOf(*options);
     request.withTerrain = options->getPluginStringData(connection::TerrainKey) == "1";
+    request.isOnlyDrawn = options->getPluginStringData(connection::DrawnKey) == "1";
     const auto *progress = static_cast<const connection::ReadProgress *>(
         options->getPluginData(connection::ProgressKey));
     if (progress && progress->report)

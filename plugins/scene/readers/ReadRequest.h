@@ -9,6 +9,11 @@
 
 namespace vlt::scene {
 
+/// How programs that list the readers' options tell of the project file.
+inline constexpr char ProjectOption[] = "project=<file>";
+inline constexpr char ProjectOptionText[] =
+    "The project file that the layer belongs to: relative paths start from its folder";
+
 /// What a caller of a layer reader asks for.
 struct ReadRequest
 {
@@ -16,6 +21,7 @@ struct ReadRequest
     /// follows "project=" in the option string, in quotation marks or up to its end.
     std::string project;
     bool withTerrain = false;             ///< the plug-in datum connection::TerrainKey is "1"
+    bool isOnlyDrawn = false;             ///< the plug-in datum connection::DrawnKey is "1"
     std::function<bool(double)> progress; ///< calls the datum connection::ProgressKey, if any
 };
 

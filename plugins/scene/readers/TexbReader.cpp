@@ -12,7 +12,11 @@ using namespace vlt::scene;
 class TexbReader : public osgDB::ReaderWriter
 {
 public:
-    TexbReader() { supportsExtension("texb", "Documents of extruded buildings"); }
+    TexbReader()
+    {
+        supportsExtension("texb", "Documents of extruded buildings");
+        supportsOption(ProjectOption, ProjectOptionText);
+    }
 
     const char *className() const override { return "Building document reader"; }
 
