@@ -4,6 +4,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QTemporaryFile>
 
 #include <iniparser/iniparser.h>
 
@@ -18,14 +19,31 @@ struct DictionaryRelease
     void operator()(dictionary *entries) const { iniparser_freedict(entries); }
 };
 
+using Dictionary = std::unique_ptr<dictionary, DictionaryRelease>;
+
+const QByteArray ByteOrderMark("\xEF\xBB\xBF");
+
+/// What editors put before UTF-8 texts is a syntax error to the ini library, which reads files
+/// only.
+Dictionary loadWithoutMark(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly) || file.peek(ByteOrderMark.size()) != ByteOrderMark)
+        return Dictionary(iniparser_load(QFile::encodeName(path).constData()));
+    QTemporaryFile plain;
+    const QByteArray bytes = file.readAll().mid(ByteOrderMark.size());
+    if (!plain.open() || plain.write(bytes) != bytes.size() || !plain.flush())
+        return nullptr;
+    return Dictionary(iniparser_load(QFile::encodeName(plain.fileName()).constData()));
+}
+
 } // namespace
 
 Result<IniFile> IniFile::open(const QString &path)
 {
     if (!QFileInfo(path).isFile())
         return Error{{}, QStringLiteral("No such file"), path};
-    const std::unique_ptr<dictionary, DictionaryRelease> entries(
-        iniparser_load(QFile::encodeName(path).constData()));
+    const Dictionary entries = loadWithoutMark(path);
     if (!entries)
         return Error{{}, QStringLiteral("Not a readable ini file"), path};
 

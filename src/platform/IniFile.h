@@ -11,7 +11,7 @@ namespace vlt::platform {
 ///
 /// Sections and keys are compared without regard to case; of a key given twice the last value
 /// holds. ';' and '#' start a comment, also inside a value that is not quoted. Texts are UTF-8
-/// where valid, else Latin-1.
+/// where valid, else Latin-1; a byte order mark before them is passed over.
 class IniFile
 {
 public:

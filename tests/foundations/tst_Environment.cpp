@@ -49,6 +49,8 @@ private Q_SLOTS:
         QCOMPARE(ini.value(u"one"_s, u"PATH"_s), u"a;b#c"_s);
         QCOMPARE(ini.value(u"One"_s, u"Place"_s), u"Orléans"_s);
         QCOMPARE(ini.value(u"One"_s, u"Missing"_s), QString());
+        const QString marked = put(u"marked.ini"_s, "\xEF\xBB\xBF[One]\nPath=b\n");
+        QCOMPARE(vlt::platform::IniFile::open(marked).value().value(u"One"_s, u"Path"_s), u"b"_s);
         QVERIFY(!vlt::platform::IniFile::open(m_dir.path()).ok());
     }
 
