@@ -10,6 +10,7 @@
 #include "links/LinkColumnDescription.h"
 #include "links/LinkFileInfo.h"
 #include "sites/SiteFileInfo.h"
+#include "sites/SystemProblems.h"
 
 #include <QFileInfo>
 #include <QJsonArray>
@@ -101,11 +102,13 @@ ExitStatus tell(InfoReport report, const QString &kind, const QString &table, bo
                       report.file.errorDetail);
 
     const Result<geodata::SiteCheck> check =
-        geodata::readSiteCheck(kind + report.file.filePath, {});
+        geodata::readSiteCheck(kind + report.file.filePath, {}, report.file.systems);
     if (!check)
         return refuse({check.error().key, check.error().text, table});
-    report.problems.count += check.value().problems.count;
-    report.problems.listed += check.value().problems.listed;
+    const QList<Problem> ofSystems =
+        sites::systemProblems(report.file.unit, report.file.systems, check.value().systems);
+    report.problems.count += ofSystems.size() + check.value().problems.count;
+    report.problems.listed += ofSystems + check.value().problems.listed;
     return printResult(json ? reportJson(report) : reportText(report));
 }
 

@@ -2,6 +2,7 @@
 
 #include "batch/Console.h"
 #include "batch/Help.h"
+#include "batch/InfoReport.h"
 #include "batch/OutputFiles.h"
 #include "batch/SiteOptions.h"
 #include "language/VltLanguageManager.h"
@@ -86,10 +87,10 @@ sites::SiteSystems chosenSystems(const QCommandLineParser &parser,
             system(QStringLiteral("target-srs"), otherwise.target)};
 }
 
-LayerOutcome layerOutcome(const geodata::LayerPlacement &placement,
-                          const geodata::LayerProblems &problems)
+qint64 unplacedRows(const geodata::LayerPlacement &placement,
+                    const geodata::LayerProblems &problems)
 {
-    return {placement.placed, qMax(placement.features - placement.placed, refusedRows(problems))};
+    return qMax(placement.features - placement.placed, refusedRows(problems));
 }
 
 std::optional<ExitStatus> writeLayer(const QString &path, const Result<sites::SiteLayer> &layer)
@@ -106,11 +107,18 @@ std::optional<ExitStatus> writeLayer(const QString &path, const Result<sites::Si
     return std::nullopt;
 }
 
+void warnOfSystems(const LayerOutcome &outcome)
+{
+    for (const Problem &problem : outcome.systemProblems)
+        printError(problemText(problem));
+}
+
 void warnOfLayer(const LayerOutcome &outcome, const sites::SiteSystems &systems)
 {
     if (outcome.unplacedRows > 0)
         printError(dico_label("MESS_CLI_UNPLACED", "rows that could not be placed") +
                    QStringLiteral(": %1").arg(outcome.unplacedRows));
+    warnOfSystems(outcome);
     if (systems.source.isEmpty() && systems.target.isEmpty())
         printError(dico_label("MESS_CLI_NO_SRS", "no coordinate system is known: give "
                                                  "--source-srs and --target-srs"));

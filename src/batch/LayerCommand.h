@@ -4,6 +4,7 @@
 #include "batch/StartUp.h"
 #include "geodata/LayerProblems.h"
 #include "sites/SiteLayer.h"
+#include "sites/SystemProblems.h"
 
 #include <QJsonObject>
 
@@ -20,11 +21,16 @@ struct LayerRequest
     sites::SiteRepresentation pylons;
 };
 
+/// How many rows come out without a place, one counting once however many problems it has.
+qint64 unplacedRows(const geodata::LayerPlacement &placement,
+                    const geodata::LayerProblems &problems);
+
 /// How the rows of a table come out in the layer.
 struct LayerOutcome
 {
     qint64 placed = 0;
     qint64 unplacedRows = 0;
+    QList<Problem> systemProblems; ///< what does not fit about the coordinate systems
 };
 
 /// Makes the parser know the output, the coordinate systems and the look of pylons.
@@ -41,14 +47,25 @@ std::variant<LayerRequest, ExitStatus> readLayerRequest(const QCommandLineParser
 sites::SiteSystems chosenSystems(const QCommandLineParser &parser,
                                  const sites::SiteSystems &otherwise);
 
-/// The outcome, a row counting once however many problems it has.
-LayerOutcome layerOutcome(const geodata::LayerPlacement &placement,
-                          const geodata::LayerProblems &problems);
+/// The outcome of a check, a row counting once however many problems it has.
+///
+/// @param unit     of the table's coordinates, as TableFileInfo has it
+/// @param systems  with which the rows were placed
+template<typename Check>
+LayerOutcome layerOutcome(const Check &check, const QString &unit,
+                          const sites::SiteSystems &systems)
+{
+    return {check.placement.placed, unplacedRows(check.placement, check.problems),
+            sites::systemProblems(unit, systems, check.systems)};
+}
 
 /// Writes a finished layer and tells of its missing page; the exit status where that fails.
 std::optional<ExitStatus> writeLayer(const QString &path, const Result<sites::SiteLayer> &layer);
 
-/// Tells of rows without a place and of missing coordinate systems on the error output.
+/// Tells on the error output what does not fit about the coordinate systems.
+void warnOfSystems(const LayerOutcome &outcome);
+
+/// Tells of rows without a place, of unfit and of missing coordinate systems on the error output.
 void warnOfLayer(const LayerOutcome &outcome, const sites::SiteSystems &systems);
 
 /// What programs are told of every layer.

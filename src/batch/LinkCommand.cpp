@@ -86,7 +86,8 @@ Result<geodata::LinkCheck> readLinks(const links::LinkLayerInput &input, const L
         [&line](double share) {
             line.show(share);
             return true;
-        });
+        },
+        {input.sourceSrs, input.targetSrs});
 }
 
 void warnOfTerrain(const geodata::LinkCheck &check, const QString &terrain)
@@ -119,18 +120,20 @@ ExitStatus makeLayer(const links::LinkLayerInput &input, const LayerRequest &req
     const Result<geodata::LinkCheck> check = readLinks(input, wanted, options.quiet);
     if (!check)
         return refuse({check.error().key, check.error().text, request.table});
-    const LayerOutcome outcome = layerOutcome(check.value().placement, check.value().problems);
-    if (outcome.placed == 0)
+    const sites::SiteSystems systems{input.sourceSrs, input.targetSrs};
+    const LayerOutcome outcome = layerOutcome(check.value(), input.file.unit, systems);
+    if (outcome.placed == 0) {
+        warnOfSystems(outcome);
         return refuse({QStringLiteral("MESS_CLI_NO_LINK_PLACED"),
                        QStringLiteral("none of its links can be placed; \"vltlayers info --link\" "
                                       "tells why"),
                        request.table});
+    }
     if (!request.output.isEmpty()) {
         if (const auto failed = writeLayer(request.output, links::makeLinkLayer(input)))
             return *failed;
     }
 
-    const sites::SiteSystems systems{input.sourceSrs, input.targetSrs};
     if (!options.quiet) {
         warnOfLayer(outcome, systems);
         if (wanted.report)
@@ -164,6 +167,8 @@ ExitStatus runParsed(const QCommandLineParser &parser, const LinkRequest &wanted
         return refuse({input.file.error->key, input.file.error->text, request.table},
                       input.file.errorDetail);
     const sites::SiteSystems systems = chosenSystems(parser, input.file.systems);
+    if (const auto refusal = sites::systemRefusal(systems))
+        return refuse(*refusal);
     input.sourceSrs = systems.source;
     input.targetSrs = systems.target;
     input.pylons = request.pylons;

@@ -36,17 +36,20 @@ void describe(QCommandLineParser &parser)
 /// Reads the sites through the very connection that the layer carries.
 Result<LayerOutcome> placeSites(const sites::SiteLayerInput &input, bool quiet)
 {
+    const sites::SiteSystems systems{input.sourceSrs, input.targetSrs};
     const QString connection =
         sites::resolvedConnection(sites::siteQuery(input), input.project.directory());
     ProgressLine line(dico_label("MESS_CLI_READING", "Reading the sites"), !quiet);
-    const Result<geodata::SiteCheck> check =
-        geodata::readSiteCheck(connection, [&line](double share) {
+    const Result<geodata::SiteCheck> check = geodata::readSiteCheck(
+        connection,
+        [&line](double share) {
             line.show(share);
             return true;
-        });
+        },
+        systems);
     if (!check)
         return check.error();
-    return layerOutcome(check.value().placement, check.value().problems);
+    return layerOutcome(check.value(), input.file.unit, systems);
 }
 
 ExitStatus makeLayer(const sites::SiteLayerInput &input, const LayerRequest &request,
@@ -55,11 +58,13 @@ ExitStatus makeLayer(const sites::SiteLayerInput &input, const LayerRequest &req
     const Result<LayerOutcome> outcome = placeSites(input, options.quiet);
     if (!outcome)
         return refuse({outcome.error().key, outcome.error().text, request.table});
-    if (outcome.value().placed == 0)
+    if (outcome.value().placed == 0) {
+        warnOfSystems(outcome.value());
         return refuse(
             {QStringLiteral("MESS_CLI_NONE_PLACED"),
              QStringLiteral("none of its sites can be placed; \"vltlayers info\" tells why"),
              request.table});
+    }
     if (const auto failed = writeLayer(request.output, sites::makeSiteLayer(input)))
         return *failed;
 
@@ -91,6 +96,8 @@ ExitStatus runParsed(const QCommandLineParser &parser, const GlobalOptions &opti
         return refuse({input.file.error->key, input.file.error->text, request.table},
                       input.file.errorDetail);
     const sites::SiteSystems systems = chosenSystems(parser, input.file.systems);
+    if (const auto refusal = sites::systemRefusal(systems))
+        return refuse(*refusal);
     input.sourceSrs = systems.source;
     input.targetSrs = systems.target;
     input.representation = request.pylons;

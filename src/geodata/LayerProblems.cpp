@@ -55,7 +55,8 @@ LayerProblems problemsOf(OGRLayer &layer)
     return problems;
 }
 
-Result<SiteCheck> readSiteCheck(const QString &connection, const Progress &progress)
+Result<SiteCheck> readSiteCheck(const QString &connection, const Progress &progress,
+                                const SystemPair &systems)
 {
     const ErrorCollector errors;
     const auto dataset = openTable(connection, errors);
@@ -67,15 +68,20 @@ Result<SiteCheck> readSiteCheck(const QString &connection, const Progress &progr
         return check;
 
     ignoreAttributes(*layer);
-    const auto count = [&check](const OGRFeature &feature) {
+    SystemChecker positions(systems, layer->GetSpatialRef());
+    const auto count = [&](const OGRFeature &feature) {
         const OGRGeometry *geometry = feature.GetGeometryRef();
-        check.placement.placed += geometry && !geometry->IsEmpty() ? 1 : 0;
+        if (!geometry || geometry->IsEmpty())
+            return;
+        ++check.placement.placed;
+        positions.add(*geometry);
     };
     const Result<qint64> walked = walkFeatures(*layer, progress, errors, count);
     if (!walked)
         return walked.error();
     check.placement.features = walked.value();
     check.problems = problemsOf(*layer);
+    check.systems = positions.result();
     return check;
 }
 

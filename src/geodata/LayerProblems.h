@@ -1,6 +1,7 @@
 #pragma once
 
 #include "geodata/LayerPlacement.h"
+#include "geodata/SystemCheck.h"
 #include "platform/Result.h"
 
 #include <QList>
@@ -22,6 +23,7 @@ struct SiteCheck
 {
     LayerProblems problems;
     LayerPlacement placement;
+    SystemCheck systems;
 };
 
 /// Reads layer 0 of a table connection once, from its first row to its last: how many features have
@@ -32,9 +34,11 @@ struct SiteCheck
 /// @param progress  may be empty; asked some fifty times in a second. Opening a table that was not
 ///                  open before, and the texts of a large XLSX file, take their time without a
 ///                  question.
+/// @param systems   with which the positions are compared
 /// @par Errors   no key; the text is the driver's reason, or "cancelled" where `progress` answered
 ///               false.
-Result<SiteCheck> readSiteCheck(const QString &connection, const Progress &progress);
+Result<SiteCheck> readSiteCheck(const QString &connection, const Progress &progress,
+                                const SystemPair &systems = {});
 
 /// The problems that a layer's driver found; complete only after all its features were read.
 LayerProblems problemsOf(OGRLayer &layer);

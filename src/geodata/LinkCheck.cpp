@@ -141,7 +141,7 @@ QString terrainProblem(const QString &terrainFile)
 }
 
 Result<LinkCheck> readLinkCheck(const QString &connection, const LinkJudging &judging,
-                                const Progress &progress)
+                                const Progress &progress, const SystemPair &systems)
 {
     const ErrorCollector errors;
     const auto dataset = openTable(connection, errors);
@@ -158,14 +158,19 @@ Result<LinkCheck> readLinkCheck(const QString &connection, const LinkJudging &ju
     if (terrain && !profiler.hasTerrain())
         check.terrainProblem = TerrainElsewhere;
     LinkCollector collector(*ends, judging.rule, profiler);
+    SystemChecker positions(systems, ends->GetSpatialRef());
     const Result<qint64> walked =
-        walkFeatures(*ends, progress, errors,
-                     [&collector](const OGRFeature &feature) { collector.add(feature); });
+        walkFeatures(*ends, progress, errors, [&collector, &positions](const OGRFeature &feature) {
+            collector.add(feature);
+            if (const OGRGeometry *place = feature.GetGeometryRef())
+                positions.add(*place);
+        });
     if (!walked)
         return walked.error();
     check.placement = collector.placement();
     check.links = collector.takeLinks();
     check.problems = problemsOf(*links);
+    check.systems = positions.result();
     return check;
 }
 

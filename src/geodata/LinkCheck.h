@@ -37,6 +37,7 @@ struct LinkCheck
     LayerProblems problems;
     LayerPlacement placement; ///< of the links
     QList<LinkReport> links;  ///< in the order of the file
+    SystemCheck systems;      ///< of the positions of the ends
     QString terrainProblem;   ///< why the terrain file cannot be used; empty where it can
 };
 
@@ -50,8 +51,9 @@ QString terrainProblem(const QString &terrainFile);
 /// Reads a link table once, from its first row to its last.
 ///
 /// @param progress  as for readSiteCheck()
+/// @param systems   with which the positions are compared
 /// @par Errors   no key; the text is the driver's reason, or "cancelled".
 Result<LinkCheck> readLinkCheck(const QString &connection, const LinkJudging &judging,
-                                const Progress &progress);
+                                const Progress &progress, const SystemPair &systems = {});
 
 } // namespace vlt::geodata

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "geodata/SystemCheck.h"
+
 #include <QString>
 
 namespace vlt::sites {
@@ -14,11 +16,7 @@ struct KnownSystems
 };
 
 /// Systems to offer; an empty one leaves the user's choice as it is.
-struct SiteSystems
-{
-    QString source;
-    QString target;
-};
+using SiteSystems = geodata::SystemPair;
 
 /// Source: the file's own code, else WGS 84 for degrees, else the terrain's. Target: the project's,
 /// else the terrain's, else WGS 84 for degrees, else the file's own.

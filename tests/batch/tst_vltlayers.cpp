@@ -206,6 +206,44 @@ private Q_SLOTS:
         QCOMPARE(quiet.errors, QByteArray());
     }
 
+    void warnsOfSystemsThatDoNotFit_data()
+    {
+        QTest::addColumn<QByteArray>("table");
+        QTest::addColumn<QString>("arguments");
+        QTest::addColumn<QByteArray>("warning"); // empty: none
+
+        const QByteArray meters = "Site ID,X,Y\nA,222300,6756000\n"; // Brittany in Lambert-93
+        const auto row = [](const QByteArray &table, const char *arguments, const char *warning) {
+            QTest::newRow(arguments)
+                << table << QString::fromLatin1(arguments)
+                << (*warning ? "vltlayers: " + QByteArray(warning) + '\n' : "");
+        };
+        row(Table, "--target-srs EPSG:2154", "");
+        row(Table, "--source-srs 2154 --target-srs 2154",
+            "the coordinates of the table are in degrees, but its system RGF93 v1 / Lambert-93 "
+            "(2154) counts in meters or feet");
+        row(meters, "--source-srs 4326 --target-srs EPSG:4326",
+            "the coordinates of the table are in meters, but its system WGS 84 (4326) counts in "
+            "degrees");
+        row(Table, "--target-srs 2193",
+            "2 of 2 positions lie outside the area of use of NZGD2000 / New Zealand Transverse "
+            "Mercator 2000 (2193)");
+        row(meters, "--source-srs 32630 --target-srs EPSG:32630",
+            "1 of 1 positions lie outside the area of use of WGS 84 / UTM zone 30N (32630)");
+    }
+
+    void warnsOfSystemsThatDoNotFit()
+    {
+        QFETCH(QByteArray, table);
+        QFETCH(QString, arguments);
+        writeFile(path(u"s.csv"_s), table);
+
+        const Run run = start(u"site ../s.csv -o o.lay "_s + arguments);
+
+        QTEST(run.errors, "warning");
+        QCOMPARE(run.status, 0);
+    }
+
     void refusesAndLeavesTheOldLayer_data()
     {
         QTest::addColumn<QString>("arguments");
@@ -228,6 +266,10 @@ private Q_SLOTS:
         row("site ../s.csv -o old.lay --install ../no", 1, "no such install directory");
         row("site ../s.csv -o old.lay --source-srs no-such-system", 1,
             "../s.csv: the coordinate system \"no-such-system\" is not known");
+        row("site ../s.csv -o old.lay --target-srs EPSG:5720", 1,
+            "EPSG:5720: This system gives heights only");
+        row("site ../s.csv -o old.lay --source-srs 4978", 1,
+            "4978: This system counts from the centre of the earth");
         row("site ../s.csv -o nowhere/o.lay", 1, "nowhere/o.lay: Can't create the layer file");
         row("site ../s.csv", 2, "-o OUT.lay");
         row("site -o old.lay", 2, "no table");

@@ -5,6 +5,7 @@
 #include "wizard/LayerFlow.h"
 #include "wizard/base/TemporaryLayerFile.h"
 
+#include <QComboBox>
 #include <QDir>
 #include <QSettings>
 #include <QSlider>
@@ -297,6 +298,25 @@ private Q_SLOTS:
         }
         if (!line.isEmpty())
             QTRY_COMPARE(wizard.findChild<QLineEdit *>(line)->text(), own.filePath(file));
+    }
+
+    void warnsOfASystemThatDoesNotFitTheTable()
+    {
+        WizardOnSitePage flow;
+        dropFiles(flow.page, {Samples + u"/sites.csv"_s});
+        const auto *problems = flow.widget<QTableView>(u"m_pwTvProblems"_s)->model();
+        const auto *sign = flow.widget<QLabel>(u"m_pwLblWarning"_s);
+        QTRY_VERIFY(flow.widget<QToolButton>(u"m_pwTbFold"_s)->text().contains(u"problems: 0"_s));
+        QVERIFY(!sign->isVisible());
+
+        auto *source = flow.widget<QComboBox>(u"m_pCBSrs"_s);
+        const int metric = source->findText(u"EPSG:2154"_s, Qt::MatchContains);
+        source->setCurrentIndex(metric);
+        Q_EMIT source->activated(metric);
+
+        QTRY_COMPARE(problems->rowCount(), 1);
+        QVERIFY(problems->index(0, 2).data().toString().contains(u"in degrees, but"_s));
+        QVERIFY(sign->isVisible());
     }
 
     void asksBeforeItFinishes()

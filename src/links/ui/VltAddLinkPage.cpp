@@ -97,7 +97,7 @@ void VltAddLinkPage::checkRows()
     judging.terrainFile = project().terrainFile;
     judging.rule.share = input.links.fresnelShare / PerCent;
     judging.rule.kFactor = input.links.kFactor;
-    m_panelDetails->check(vlt::links::placingConnection(input), judging);
+    m_panelDetails->check(vlt::links::placingConnection(input), systems(), judging);
 }
 
 vlt::Result<vlt::sites::SiteLayer> VltAddLinkPage::makeLayer() const

@@ -36,10 +36,11 @@ VltLinkDetails::VltLinkDetails(QWidget *parent)
 
 void VltLinkDetails::showFile(const vlt::links::LinkFileInfo &file)
 {
-    showTable(vlt::links::describeColumns(file.columns), {});
+    showTable(file.unit, vlt::links::describeColumns(file.columns), {});
 }
 
-void VltLinkDetails::check(const QString &connection, const vlt::geodata::LinkJudging &judging)
+void VltLinkDetails::check(const QString &connection, const vlt::sites::SiteSystems &systems,
+                           const vlt::geodata::LinkJudging &judging)
 {
     const QString what = QStringLiteral("%1 %2\n")
                              .arg(judging.rule.share)
@@ -47,11 +48,13 @@ void VltLinkDetails::check(const QString &connection, const vlt::geodata::LinkJu
                          judging.terrainFile + QLatin1Char('\n') + connection;
     checkOnce<LinkCheck>(
         what,
-        [connection, judging](const vlt::geodata::Progress &progress) {
-            return vlt::geodata::readLinkCheck(connection, judging, progress);
+        [connection, systems, judging](const vlt::geodata::Progress &progress) {
+            return vlt::geodata::readLinkCheck(connection, judging, progress, systems);
         },
-        [this, hasTerrain = !judging.terrainFile.isEmpty()](const LinkCheck &check) {
-            checkEnded(check, hasTerrain);
+        [this, systems, hasTerrain = !judging.terrainFile.isEmpty()](const LinkCheck &check) {
+            showLinks(check.links);
+            showOutcome(check, systems);
+            showClearance(check, hasTerrain);
         });
 }
 
@@ -70,10 +73,8 @@ void VltLinkDetails::forgetRows()
     showRemark({});
 }
 
-void VltLinkDetails::checkEnded(const LinkCheck &check, bool hasTerrain)
+void VltLinkDetails::showClearance(const LinkCheck &check, bool hasTerrain)
 {
-    showLinks(check.links);
-    showOutcome(check.problems, check.placement);
     if (!hasTerrain || !check.terrainProblem.isEmpty()) {
         const QString reason =
             hasTerrain ? vlt::links::terrainProblemText(check.terrainProblem)

@@ -23,7 +23,9 @@ public:
     /// Starts to read and judge the links of the table shown, unless that was done already.
     ///
     /// @param connection  the table with its coordinate systems and an absolute path
-    void check(const QString &connection, const vlt::geodata::LinkJudging &judging);
+    /// @param systems     the same systems
+    void check(const QString &connection, const vlt::sites::SiteSystems &systems,
+               const vlt::geodata::LinkJudging &judging);
 
 private:
     void forgetRows() override;
@@ -31,7 +33,7 @@ private:
     QString placedText() const override;
 
     void showLinks(const QList<vlt::geodata::LinkReport> &links);
-    void checkEnded(const vlt::geodata::LinkCheck &check, bool hasTerrain);
+    void showClearance(const vlt::geodata::LinkCheck &check, bool hasTerrain);
 
     vlt::links::LinkReportModel *m_linkModel;
     QTableView *m_pwTvLinks;

@@ -60,7 +60,7 @@ vlt::sites::SiteLayerInput VltAddSitePage::layerInput() const
 
 void VltAddSitePage::checkRows()
 {
-    m_panelDetails->check(vlt::sites::placingConnection(layerInput()));
+    m_panelDetails->check(vlt::sites::placingConnection(layerInput()), systems());
 }
 
 vlt::Result<vlt::sites::SiteLayer> VltAddSitePage::makeLayer() const

@@ -5,18 +5,18 @@ void VltSiteDetails::showFile(const vlt::sites::SiteFileInfo &file)
     QList<vlt::Problem> problems;
     if (const auto nameless = vlt::sites::missingNameField(file))
         problems << *nameless;
-    showTable(vlt::sites::describeColumns(file.columns), problems);
+    showTable(file.unit, vlt::sites::describeColumns(file.columns), problems);
 }
 
-void VltSiteDetails::check(const QString &connection)
+void VltSiteDetails::check(const QString &connection, const vlt::sites::SiteSystems &systems)
 {
     using vlt::geodata::SiteCheck;
     checkOnce<SiteCheck>(
         connection,
-        [connection](const vlt::geodata::Progress &progress) {
-            return vlt::geodata::readSiteCheck(connection, progress);
+        [connection, systems](const vlt::geodata::Progress &progress) {
+            return vlt::geodata::readSiteCheck(connection, progress, systems);
         },
-        [this](const SiteCheck &check) { showOutcome(check.problems, check.placement); });
+        [this, systems](const SiteCheck &check) { showOutcome(check, systems); });
 }
 
 QString VltSiteDetails::nonePlacedText() const

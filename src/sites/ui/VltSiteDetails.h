@@ -17,7 +17,8 @@ public:
     /// Starts to check the rows of the table shown, unless that was done already.
     ///
     /// @param connection  the table with its coordinate systems and an absolute path
-    void check(const QString &connection);
+    /// @param systems     the same systems
+    void check(const QString &connection, const vlt::sites::SiteSystems &systems);
 
 private:
     QString nonePlacedText() const override;

@@ -1,6 +1,7 @@
 #include "sites/ui/VltSrsSettings.h"
 
 #include "geodata/DatasetReferenceCode.h"
+#include "geodata/SrsFacts.h"
 #include "platform/Settings.h"
 #include "srs/ui/VltSrsChooser.h"
 #include "wizard/base/BusyWait.h"
@@ -109,6 +110,11 @@ void VltSrsSettings::getTargetEpsgCodeFromDataSource()
         vlt::messages::warning(this, code->error(), tr("Warning", "MESS_ATTENTION"));
         return;
     }
-    m_pwTarget->setSystem(QStringLiteral("EPSG:%1").arg(code->value()));
+    const QString system = QStringLiteral("EPSG:%1").arg(code->value());
+    if (const auto refusal = vlt::geodata::srsRefusal(vlt::geodata::srsFacts(system))) {
+        vlt::messages::warning(this, *refusal, tr("Warning", "MESS_ATTENTION"));
+        return;
+    }
+    m_pwTarget->setSystem(system);
     Q_EMIT parameterChanged();
 }

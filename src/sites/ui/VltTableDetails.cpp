@@ -94,6 +94,7 @@ void VltTableDetails::buildHeading()
     m_pwTbFold->setFocusPolicy(Qt::StrongFocus);
     setContentsTip(
         tr("Show the recognised columns and the rows with problems", "MESS_TIP_DETAILS"));
+    m_pwLblWarning->setObjectName(QStringLiteral("m_pwLblWarning"));
     m_pwLblWarning->setPixmap(QPixmap(QStringLiteral(":/icons/warning.png")));
     m_pwLblWarning->setAccessibleName(tr("Problems", "MESS_PROBLEMS"));
     m_pwPrChecking->setRange(0, 100);
@@ -194,9 +195,11 @@ void VltTableDetails::clear()
     hide();
 }
 
-void VltTableDetails::showTable(const QList<vlt::sites::ColumnDescription> &columns,
+void VltTableDetails::showTable(const QString &unit,
+                                const QList<vlt::sites::ColumnDescription> &columns,
                                 const QList<vlt::Problem> &problems)
 {
+    m_unit = unit;
     m_checked.clear();
     m_fileProblems = problems;
     showColumns(columns);
@@ -278,11 +281,13 @@ void VltTableDetails::stopChecking()
 }
 
 void VltTableDetails::showOutcome(const vlt::geodata::LayerProblems &problems,
-                                  const vlt::geodata::LayerPlacement &placement)
+                                  const vlt::geodata::LayerPlacement &placement,
+                                  const QList<vlt::Problem> &systemProblems)
 {
     endCheck();
-    const qint64 count = m_fileProblems.size() + problems.count;
-    showProblems(m_fileProblems + problems.listed, count);
+    const QList<vlt::Problem> general = m_fileProblems + systemProblems;
+    const qint64 count = general.size() + problems.count;
+    showProblems(general + problems.listed, count);
     const bool isNonePlaced = placement.placed == 0;
     const QString placed = isNonePlaced
                                ? nonePlacedText()

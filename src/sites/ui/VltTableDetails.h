@@ -2,6 +2,8 @@
 
 #include "geodata/LayerProblems.h"
 #include "sites/ColumnDescription.h"
+#include "sites/SiteSystems.h"
+#include "sites/SystemProblems.h"
 #include "sites/ui/CheckRunner.h"
 
 #include <QTimer>
@@ -28,9 +30,15 @@ public:
     /// Shows nothing and hides; a running check ends.
     void clear();
 
+Q_SIGNALS:
+    /// The rows were checked; the positions lie so to the systems by which they were placed.
+    void checked(const vlt::geodata::SystemCheck &systems);
+
 protected:
     /// Shows what is known of a table without reading its rows.
-    void showTable(const QList<vlt::sites::ColumnDescription> &columns,
+    ///
+    /// @param unit  of the table's coordinates, as TableFileInfo has it
+    void showTable(const QString &unit, const QList<vlt::sites::ColumnDescription> &columns,
                    const QList<vlt::Problem> &problems);
 
     /// Starts to check the rows of the table shown, unless the same check was started already.
@@ -50,8 +58,15 @@ protected:
     }
 
     /// What all checks tell; ends the check.
-    void showOutcome(const vlt::geodata::LayerProblems &problems,
-                     const vlt::geodata::LayerPlacement &placement);
+    ///
+    /// @param systems  with which systems the rows were placed
+    template<typename Check>
+    void showOutcome(const Check &check, const vlt::sites::SiteSystems &systems)
+    {
+        showOutcome(check.problems, check.placement,
+                    vlt::sites::systemProblems(m_unit, systems, check.systems));
+        Q_EMIT checked(check.systems);
+    }
 
     /// A further tab with a table of its own.
     QTableView *addTable(QAbstractItemModel *model, const QString &objectName, const QString &name);
@@ -74,6 +89,9 @@ private:
     /// "sites placed: %1 of %2"
     virtual QString placedText() const = 0;
 
+    void showOutcome(const vlt::geodata::LayerProblems &problems,
+                     const vlt::geodata::LayerPlacement &placement,
+                     const QList<vlt::Problem> &systemProblems);
     void buildHeading();
     void buildTables();
     void fold(bool open);
@@ -99,6 +117,7 @@ private:
     QTableView *m_pwTvColumns = nullptr;
     QTableView *m_pwTvProblems = nullptr;
     QList<vlt::Problem> m_fileProblems; ///< those known without reading the rows
+    QString m_unit;
     int m_recognised = 0;
     QString m_checked; ///< what the last check was of
 };

@@ -144,14 +144,9 @@ void VltTablePage::addPanel(QWidget *panel)
     m_ui->m_ptVbProperties->insertWidget(m_ui->m_ptVbProperties->count() - 1, panel);
 }
 
-QString VltTablePage::sourceSrs() const
+vlt::sites::SiteSystems VltTablePage::systems() const
 {
-    return m_panelSrs->sourceSrs();
-}
-
-QString VltTablePage::targetSrs() const
-{
-    return m_panelSrs->targetSrs();
+    return {m_panelSrs->sourceSrs(), m_panelSrs->targetSrs()};
 }
 
 /// Return takes the typed path and goes no further: the wizard would press one of its buttons.

@@ -94,8 +94,8 @@ protected:
     template<typename Input>
     void fillInput(Input &input) const
     {
-        input.sourceSrs = sourceSrs();
-        input.targetSrs = targetSrs();
+        input.sourceSrs = systems().source;
+        input.targetSrs = systems().target;
         input.catalogues = pylonPanel().catalogues();
         input.project = m_project;
         input.installDir = installDir();
@@ -104,8 +104,8 @@ protected:
 
     const VltSiteProperties &pylonPanel() const { return *m_panelProperties; }
     const vlt::sites::ProjectContext &project() const { return m_project; }
-    QString sourceSrs() const;
-    QString targetSrs() const;
+    /// The chosen coordinate systems.
+    vlt::sites::SiteSystems systems() const;
 
     /// Puts groups that lie side by side above each other, or back.
     virtual void setStacked(bool stacked);

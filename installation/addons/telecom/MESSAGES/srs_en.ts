@@ -237,4 +237,19 @@
         <translation>This system counts from the centre of the earth: it cannot place points on a map</translation>
     </message>
 </context>
+<context>
+    <name>Check of coordinate systems</name>
+    <message id="MESS_SRS_UNIT_METERS">
+        <source>the coordinates of the table are in meters, but its system %1 counts in degrees</source>
+        <translation>the coordinates of the table are in meters, but its system %1 counts in degrees</translation>
+    </message>
+    <message id="MESS_SRS_UNIT_DEGREES">
+        <source>the coordinates of the table are in degrees, but its system %1 counts in meters or feet</source>
+        <translation>the coordinates of the table are in degrees, but its system %1 counts in meters or feet</translation>
+    </message>
+    <message id="MESS_SRS_OUTSIDE_AREA">
+        <source>%1 of %2 positions lie outside the area of use of %3</source>
+        <translation>%1 of %2 positions lie outside the area of use of %3</translation>
+    </message>
+</context>
 </TS>

@@ -237,4 +237,19 @@
         <translation>Ce système compte depuis le centre de la Terre&#xa0;: il ne peut pas placer de points sur une carte</translation>
     </message>
 </context>
+<context>
+    <name>Check of coordinate systems</name>
+    <message id="MESS_SRS_UNIT_METERS">
+        <source>the coordinates of the table are in meters, but its system %1 counts in degrees</source>
+        <translation>les coordonnées du tableau sont en mètres, mais son système %1 compte en degrés</translation>
+    </message>
+    <message id="MESS_SRS_UNIT_DEGREES">
+        <source>the coordinates of the table are in degrees, but its system %1 counts in meters or feet</source>
+        <translation>les coordonnées du tableau sont en degrés, mais son système %1 compte en mètres ou en pieds</translation>
+    </message>
+    <message id="MESS_SRS_OUTSIDE_AREA">
+        <source>%1 of %2 positions lie outside the area of use of %3</source>
+        <translation>%1 position(s) sur %2 se trouvent hors de la zone d'emploi de %3</translation>
+    </message>
+</context>
 </TS>
