@@ -13,6 +13,7 @@
 #include <QSignalSpy>
 #include <QTimer>
 
+#include <QWheelEvent>
 using namespace Qt::StringLiterals;
 using namespace vlt::srs;
 
@@ -150,6 +151,29 @@ private Q_SLOTS:
     }
 
     void selectsByText()
+    /// The list of the last used systems is the builder's too: no row on the way counts as chosen.
+    void choosesInTheOpenListOnly()
+    {
+        Shown shown;
+        shown.combo->setFocus();
+        QWheelEvent wheel({5, 5}, shown.combo->mapToGlobal(QPointF(5, 5)), {}, {0, -120},
+                          Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(shown.combo, &wheel);
+        QVERIFY(!wheel.isAccepted());
+
+        for (const int key : {int(Qt::Key_Down), int(Qt::Key_PageDown), int(Qt::Key_W)}) {
+            QTest::keyClick(shown.combo, Qt::Key(key));
+            QVERIFY(shown.combo->view()->isVisible());
+            QTest::keyClick(shown.combo->view(), Qt::Key_Escape);
+        }
+        QCOMPARE(shown.announced(), QStringList());
+
+        QTest::keyClick(shown.combo, Qt::Key_Down);
+        QTest::keyClick(shown.combo->view(), Qt::Key_Down);
+        QTest::keyClick(shown.combo->view(), Qt::Key_Return);
+        QCOMPARE(shown.announced(), QStringList{u"EPSG:4326"_s});
+    }
+
     {
         Shown shown;
 

@@ -1,6 +1,7 @@
 #include "srs/ui/SrsComboBox.h"
 
 #include <QAbstractItemView>
+#include <QCoreApplication>
 #include <QFocusEvent>
 #include <QHelpEvent>
 #include <QKeyEvent>
@@ -60,6 +61,11 @@ void SrsComboBox::focusInEvent(QFocusEvent *event)
 
 void SrsComboBox::keyPressEvent(QKeyEvent *event)
 {
+    if (goesToAnotherRow(*event)) {
+        showPopup();
+        QCoreApplication::sendEvent(view(), event);
+        return;
+    }
     const bool ends = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     const bool endsEditing = ends && isEditable();
     QComboBox::keyPressEvent(event);
@@ -69,13 +75,28 @@ void SrsComboBox::keyPressEvent(QKeyEvent *event)
 
 void SrsComboBox::wheelEvent(QWheelEvent *event)
 {
-    const bool down = event->angleDelta().y() < 0;
-    if (!hasFocus())
-        event->ignore();
-    else if (down && itemData(currentIndex() + 1, OpensDialogRole).toBool())
-        event->accept();
-    else
-        QComboBox::wheelEvent(event);
+    event->ignore(); // whatever lies around the box may scroll
+}
+
+/// Whether a key would choose another row of the closed box.
+bool SrsComboBox::goesToAnotherRow(const QKeyEvent &event) const
+{
+    if (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier))
+        return false;
+    switch (event.key()) {
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+        return true;
+    case Qt::Key_Home:
+    case Qt::Key_End:
+        return !isEditable();
+    case Qt::Key_Space: // opens the list by itself
+        return false;
+    default:
+        return !isEditable() && !event.text().isEmpty() && event.text().at(0).isPrint();
+    }
 }
 
 QString SrsComboBox::toolTipText() const

@@ -63,7 +63,6 @@ void VltSrsChooser::populate()
     if (m_withOther) {
         const int row = combo->count();
         combo->addItem(tr("Other...", "MESS_AUTRE..."));
-        combo->setItemData(row, true, SrsComboBox::OpensDialogRole);
         colourRow(row, OtherColour);
     }
 
