@@ -8,12 +8,13 @@
 #include <QComboBox>
 #include <QDialog>
 #include <QDialogButtonBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTimer>
-
 #include <QWheelEvent>
+
 using namespace Qt::StringLiterals;
 using namespace vlt::srs;
 
@@ -150,7 +151,6 @@ private Q_SLOTS:
         QCOMPARE(shown.announced(), QStringList{u"EPSG:2154"_s});
     }
 
-    void selectsByText()
     /// The list of the last used systems is the builder's too: no row on the way counts as chosen.
     void choosesInTheOpenListOnly()
     {
@@ -174,6 +174,7 @@ private Q_SLOTS:
         QCOMPARE(shown.announced(), QStringList{u"EPSG:4326"_s});
     }
 
+    void selectsByText()
     {
         Shown shown;
 
@@ -233,12 +234,14 @@ private Q_SLOTS:
         QTest::newRow("new, cancelled") << code.first() << QString() << QStringList();
         QTest::newRow("a row") << Wgs84 << QString() << code;
         QTest::newRow("not quite a row") << Wgs84.toLower() << QString() << QStringList{QString()};
+        QTest::newRow("heights") << u"EPSG:5720"_s << QString() << QStringList{QString()};
         QTest::newRow("nothing") << QString() << QString() << QStringList();
     }
     void takesATypedDefinition()
     {
         QFETCH(QString, typed);
         QFETCH(QString, alias);
+        QFETCH(QStringList, announced);
         const bool added = !alias.isEmpty();
         Shown shown;
         const DialogAnswers answers(alias);
@@ -253,6 +256,9 @@ private Q_SLOTS:
         QCOMPARE(shown.combo->currentText(), added ? alias : typed);
         QCOMPARE(shown.combo->isEditable(), shown.chooser->currentCode().isEmpty());
         QVERIFY(shown.window.isVisible());
+        const auto *hint = shown.chooser->findChild<QLabel *>(u"m_pLHint"_s);
+        QCOMPARE(hint->isVisible(), announced == QStringList{QString()});
+        QCOMPARE(hint->text().contains(u"heights"_s), typed == u"EPSG:5720");
         QCOMPARE(shown.reset->isEnabled(), added);
         QCOMPARE(shown.combo->currentIndex() == 0, added);
         QCOMPARE(UserDefinedSrsList().indexOfCode(typed) == 0, added);
@@ -287,6 +293,7 @@ private Q_SLOTS:
         const DialogAnswers cancelled({});
         shown.pick(0);
         QCOMPARE(shown.combo->currentText(), u"Undefined"_s);
+        QVERIFY(shown.chooser->findChild<QLabel *>(u"m_pLHint"_s)->isVisible());
     }
 };
 

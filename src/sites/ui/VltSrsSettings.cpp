@@ -18,6 +18,11 @@ namespace {
 
 const QString LastUsedDir = QStringLiteral("LastUsedDir");
 
+QLabel *nameLabel(const VltSrsChooser &chooser)
+{
+    return chooser.findChild<QLabel *>(QStringLiteral("m_pLSrsLabel"));
+}
+
 } // namespace
 
 VltSrsSettings::VltSrsSettings(const QString &kind, QWidget *parent)
@@ -47,9 +52,9 @@ VltSrsSettings::VltSrsSettings(const QString &kind, QWidget *parent)
 
     int labelWidth = 0;
     for (const VltSrsChooser *chooser : {m_pwSource, m_pwTarget})
-        labelWidth = qMax(labelWidth, chooser->findChild<QLabel *>()->sizeHint().width());
+        labelWidth = qMax(labelWidth, nameLabel(*chooser)->sizeHint().width());
     for (VltSrsChooser *chooser : {m_pwSource, m_pwTarget}) {
-        chooser->findChild<QLabel *>()->setMinimumWidth(labelWidth);
+        nameLabel(*chooser)->setMinimumWidth(labelWidth);
         chooser->populate();
         connect(chooser, &VltSrsChooser::SrsSelected, this, &VltSrsSettings::parameterChanged);
     }

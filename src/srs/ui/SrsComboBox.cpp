@@ -111,7 +111,7 @@ QString SrsComboBox::toolTipText() const
     QStringList lines;
     if (fontMetrics().horizontalAdvance(currentText()) >= width)
         lines += currentText();
-    const QString definition = isEditable() ? QString() : currentData(DefinitionRole).toString();
+    const QString definition = isEditable() ? m_editTip : currentData(DefinitionRole).toString();
     if (!definition.isEmpty())
         lines += definition;
     QString text = lines.join(QLatin1Char('\n'));

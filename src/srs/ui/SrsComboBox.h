@@ -18,6 +18,9 @@ public:
 
     explicit SrsComboBox(QWidget *parent = nullptr);
 
+    /// Tool tip of the text while it can be edited.
+    void setEditTip(const QString &text) { m_editTip = text; }
+
     void showPopup() override;
 
 protected:
@@ -27,6 +30,8 @@ protected:
     void wheelEvent(QWheelEvent *event) override;
 
 private:
-    QString toolTipText() const;
-};
     bool goesToAnotherRow(const QKeyEvent &event) const;
+    QString toolTipText() const;
+
+    QString m_editTip;
+};

@@ -1,6 +1,7 @@
 #include "srs/ui/VltSrsChooser.h"
 
 #include "geodata/SrsDefinition.h"
+#include "language/VltLanguageManager.h"
 #include "srs/DefaultSrsList.h"
 #include "srs/UserDefinedSrsList.h"
 #include "srs/ui/dialogToEditAlias.h"
@@ -8,7 +9,9 @@
 #include "ui_VltSrsChooser.h"
 
 #include <QColor>
+#include <QIcon>
 #include <QLineEdit>
+#include <QStyle>
 
 #include <algorithm>
 
@@ -36,6 +39,12 @@ VltSrsChooser::VltSrsChooser(QWidget *parent, const QString &labelText, bool wit
     m_ui->m_pLSrsLabel->setText(labelText);
     m_ui->m_pCBSrs->setAccessibleName(labelText);
     m_ui->m_pPBResetSrs->setAccessibleDescription(labelText);
+    m_ui->m_pCBSrs->setEditTip(tr("An EPSG code, a PROJ text or WKT, then Return; "
+                                  "\"Other...\" in the list searches all systems",
+                                  "MESS_SRS_TYPE_TIP"));
+    const int iconSize = style()->pixelMetric(QStyle::PM_SmallIconSize);
+    m_ui->m_pLHintIcon->setPixmap(QIcon(QStringLiteral(":/icons/warning.png")).pixmap(iconSize));
+    clearHint();
     setFocusProxy(m_ui->m_pCBSrs);
 
     connect(m_ui->m_pCBSrs, &QComboBox::activated, this, &VltSrsChooser::slot_onSelectSrs);
@@ -183,7 +192,9 @@ void VltSrsChooser::slot_OnValidateEditedSrs()
     const int row = findRow(text, Qt::MatchExactly | Qt::MatchCaseSensitive);
     if (row >= 0)
         selectRow(row);
-    else if (!vlt::geodata::definitionRefusal(text) && !addUserDefined(text))
+    else if (const auto refusal = vlt::geodata::definitionRefusal(text))
+        showHint(dico_label(refusal->key.toUtf8().constData(), refusal->text.toUtf8().constData()));
+    else if (!addUserDefined(text))
         return;
     Q_EMIT SrsSelected(currentCode());
 }
@@ -223,6 +234,7 @@ void VltSrsChooser::selectRow(int row)
 {
     if (row >= 0)
         m_ui->m_pCBSrs->setEditable(false);
+    clearHint();
     m_shown.setCurrentIndex(row);
     m_isAsGiven = false;
     m_ui->m_pCBSrs->setCurrentIndex(row);
@@ -237,9 +249,21 @@ void VltSrsChooser::enterUndefinedState(OnReturn onReturn)
     combo->setCompleter(nullptr);             // a definition is taken as it was typed
     combo->setEditText(tr("Undefined", "MESS_NDEF"));
     combo->lineEdit()->setAccessibleName(combo->accessibleName());
+    combo->lineEdit()->setPlaceholderText(tr("EPSG code, PROJ text or WKT", "MESS_SRS_TYPE_HERE"));
+    connect(combo->lineEdit(), &QLineEdit::textEdited, this, &VltSrsChooser::clearHint,
+            Qt::UniqueConnection);
     if (onReturn == OnReturn::Validates) // the line edit may be the one of the last time
         connect(combo->lineEdit(), &QLineEdit::returnPressed, this,
                 &VltSrsChooser::slot_OnValidateEditedSrs, Qt::UniqueConnection);
+}
+
+/// Tells below the row why nothing happens, or what to do; nothing for an empty text.
+void VltSrsChooser::showHint(const QString &text)
+{
+    m_ui->m_pLHint->setText(text);
+    m_ui->m_pLHint->setHidden(text.isEmpty());
+    m_ui->m_pLHintIcon->setHidden(text.isEmpty());
+    m_ui->m_pCBSrs->setAccessibleDescription(text);
 }
 
 /// What follows when the user settled on an entry of the rows.
@@ -268,6 +292,9 @@ void VltSrsChooser::chooseFromDialog()
         }
         return;
     }
+            showHint(tr("Choose a system in the list; \"Other...\", tab \"User-defined\", takes a "
+                        "definition of your own",
+                        "MESS_SRS_CHOOSE_IN_LIST"));
 
     int row = m_shown.indexOfCode(chosen->code);
     if (row < 0) {

@@ -20,8 +20,8 @@ class WidgetVltSrsChooser;
 ///
 /// A row "Other..." opens the search among all systems. While no system is chosen, the combo box
 /// says "Undefined" and takes a definition: Return stores a valid one under an alias that the user
-/// gives; an invalid one stays as it is. Whatever the user settles on goes into the list of the
-/// last used systems at once.
+/// gives; an invalid one stays as it is, and a line below tells why. Whatever the user settles on
+/// goes into the list of the last used systems at once.
 class VltSrsChooser : public QWidget
 {
     Q_OBJECT
@@ -94,6 +94,8 @@ private:
     void chooseFromDialog();
     bool addUserDefined(const QString &definition);
 
+    void showHint(const QString &text);
+    void clearHint() { showHint({}); }
     std::unique_ptr<Ui::WidgetVltSrsChooser> m_ui;
     QPointer<QWidget> m_parentWidget;
     vlt::srs::ShownSrsList m_shown;

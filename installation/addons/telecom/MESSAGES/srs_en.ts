@@ -15,6 +15,18 @@
         <source>Back to the initial coordinate system</source>
         <translation>Back to the initial coordinate system</translation>
     </message>
+    <message id="MESS_SRS_TYPE_TIP">
+        <source>An EPSG code, a PROJ text or WKT, then Return; "Other..." in the list searches all systems</source>
+        <translation>An EPSG code, a PROJ text or WKT, then Return; "Other..." in the list searches all systems</translation>
+    </message>
+    <message id="MESS_SRS_TYPE_HERE">
+        <source>EPSG code, PROJ text or WKT</source>
+        <translation>EPSG code, PROJ text or WKT</translation>
+    </message>
+    <message id="MESS_SRS_CHOOSE_IN_LIST">
+        <source>Choose a system in the list; "Other...", tab "User-defined", takes a definition of your own</source>
+        <translation>Choose a system in the list; "Other...", tab "User-defined", takes a definition of your own</translation>
+    </message>
 </context>
 <context>
     <name>Choice of a coordinate system</name>

@@ -15,6 +15,18 @@
         <source>Back to the initial coordinate system</source>
         <translation>Revenir au système de coordonnées initial</translation>
     </message>
+    <message id="MESS_SRS_TYPE_TIP">
+        <source>An EPSG code, a PROJ text or WKT, then Return; "Other..." in the list searches all systems</source>
+        <translation>Un code EPSG, un texte PROJ ou WKT, puis Entrée&#xa0;; «&#xa0;Autre...&#xa0;» dans la liste cherche parmi tous les systèmes</translation>
+    </message>
+    <message id="MESS_SRS_TYPE_HERE">
+        <source>EPSG code, PROJ text or WKT</source>
+        <translation>Code EPSG, texte PROJ ou WKT</translation>
+    </message>
+    <message id="MESS_SRS_CHOOSE_IN_LIST">
+        <source>Choose a system in the list; "Other...", tab "User-defined", takes a definition of your own</source>
+        <translation>Choisissez un système dans la liste&#xa0;; «&#xa0;Autre...&#xa0;», onglet «&#xa0;Définis par l'utilisateur&#xa0;», accepte votre propre définition</translation>
+    </message>
 </context>
 <context>
     <name>Choice of a coordinate system</name>
