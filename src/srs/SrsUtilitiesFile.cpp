@@ -6,11 +6,15 @@
 
 namespace vlt::srs {
 
+QString srsUtilitiesPath()
+{
+    return platform::builderSettings()->value(QStringLiteral("INSTALL_DIR")).toString() +
+           QStringLiteral("/VltSrsUtils.ini");
+}
+
 platform::IniFile srsUtilitiesFile()
 {
-    const QString installDir =
-        platform::builderSettings()->value(QStringLiteral("INSTALL_DIR")).toString();
-    const auto file = platform::IniFile::open(installDir + QStringLiteral("/VltSrsUtils.ini"));
+    const auto file = platform::IniFile::open(srsUtilitiesPath());
     return file ? file.value() : platform::IniFile();
 }
 

@@ -5,6 +5,7 @@
 #include "ui_SrsDetails.h"
 
 #include <QFontDatabase>
+#include <QLocale>
 
 namespace vlt::srs {
 
@@ -31,9 +32,10 @@ QString kindOf(const geodata::SrsRecord &system)
                                              : kind + QLatin1String(", ") + system.projectionMethod;
 }
 
+/// As numbers are written in the interface's language.
 QString degrees(double value)
 {
-    return QString::number(value, 'f', 2);
+    return QLocale().toString(value, 'f', 2);
 }
 
 } // namespace

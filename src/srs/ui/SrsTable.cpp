@@ -10,6 +10,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QPainter>
 
 namespace vlt::srs {
 
@@ -89,6 +90,18 @@ void SrsTable::keyPressEvent(QKeyEvent *event)
         openMenuAtSelection();
     else
         QTreeView::keyPressEvent(event);
+}
+
+void SrsTable::paintEvent(QPaintEvent *event)
+{
+    QTreeView::paintEvent(event);
+    if (m_emptyText.isEmpty() || m_model->rowCount() > 0)
+        return;
+    QPainter painter(viewport());
+    painter.setPen(palette().color(QPalette::PlaceholderText));
+    const int margin = 2 * fontMetrics().averageCharWidth();
+    painter.drawText(viewport()->rect().adjusted(margin, margin, -margin, -margin),
+                     Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, m_emptyText);
 }
 
 void SrsTable::openMenuAtSelection()

@@ -24,6 +24,9 @@ public:
     void setSystems(SrsTableModel *model);
     const SrsTableModel *systems() const { return m_model; }
 
+    /// Text that stands in the table while it has no row.
+    void setEmptyText(const QString &text) { m_emptyText = text; }
+
     void setDetailLinks(const QList<DetailLink> &links) { m_links = links; }
 
     /// The selected row; -1 for none.
@@ -44,6 +47,7 @@ protected:
                           const QItemSelection &deselected) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
 
 private:
     void openMenuAtSelection();
@@ -52,6 +56,7 @@ private:
 
     SrsTableModel *m_model = nullptr;
     QList<DetailLink> m_links;
+    QString m_emptyText;
 };
 
 } // namespace vlt::srs

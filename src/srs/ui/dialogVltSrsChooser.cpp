@@ -4,6 +4,7 @@
 #include "srs/DetailLinks.h"
 #include "srs/ui/SrsListModel.h"
 #include "srs/ui/SrsSearchModel.h"
+#include "srs/SrsUtilitiesFile.h"
 #include "srs/ui/SrsTable.h"
 #include "srs/ui/dialogToEditAlias.h"
 #include "ui_dialogVltSrsChooser.h"
@@ -12,6 +13,7 @@
 #include <QAction>
 #include <QKeyEvent>
 #include <QPushButton>
+#include <QDir>
 #include <QScreen>
 #include <QShortcut>
 
@@ -109,6 +111,14 @@ void dialogVltSrsChooser::createActions()
     addTableAction(m_ui->m_pwTvLastUsed, m_ui->m_pwPbRemoveLastUsed, QKeySequence::Delete,
                    &dialogVltSrsChooser::removeLastUsed);
     addTableAction(m_ui->m_pwTvUserDefined, m_ui->m_pwPbEditUserDefined, Qt::Key_F2,
+    m_ui->m_pwTvDefault->setEmptyText(
+        tr("There are no default systems: the file %1 is missing, cannot be read or lists none",
+           "MESS_SRS_NO_DEFAULT")
+            .arg(QDir::toNativeSeparators(srsUtilitiesPath())));
+    m_ui->m_pwTvLastUsed->setEmptyText(
+        tr("No coordinate system has been chosen yet", "MESS_SRS_NO_LAST"));
+    m_ui->m_pwTvUserDefined->setEmptyText(
+        tr("You have not defined a coordinate system yet", "MESS_SRS_NO_USER"));
                    &dialogVltSrsChooser::editUserDefined);
     addTableAction(m_ui->m_pwTvUserDefined, m_ui->m_pwPbRemoveUserDefined, QKeySequence::Delete,
                    &dialogVltSrsChooser::removeUserDefined);

@@ -248,6 +248,18 @@
         <source>This system counts from the centre of the earth: it cannot place points on a map</source>
         <translation>This system counts from the centre of the earth: it cannot place points on a map</translation>
     </message>
+    <message id="MESS_SRS_NO_DEFAULT">
+        <source>There are no default systems: the file %1 is missing, cannot be read or lists none</source>
+        <translation>There are no default systems: the file %1 is missing, cannot be read or lists none</translation>
+    </message>
+    <message id="MESS_SRS_NO_LAST">
+        <source>No coordinate system has been chosen yet</source>
+        <translation>No coordinate system has been chosen yet</translation>
+    </message>
+    <message id="MESS_SRS_NO_USER">
+        <source>You have not defined a coordinate system yet</source>
+        <translation>You have not defined a coordinate system yet</translation>
+    </message>
 </context>
 <context>
     <name>Check of coordinate systems</name>

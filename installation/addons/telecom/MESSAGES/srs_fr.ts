@@ -248,6 +248,18 @@
         <source>This system counts from the centre of the earth: it cannot place points on a map</source>
         <translation>Ce système compte depuis le centre de la Terre&#xa0;: il ne peut pas placer de points sur une carte</translation>
     </message>
+    <message id="MESS_SRS_NO_DEFAULT">
+        <source>There are no default systems: the file %1 is missing, cannot be read or lists none</source>
+        <translation>Aucun système par défaut&#xa0;: le fichier %1 est absent, illisible ou n'en contient aucun</translation>
+    </message>
+    <message id="MESS_SRS_NO_LAST">
+        <source>No coordinate system has been chosen yet</source>
+        <translation>Aucun système de coordonnées n'a encore été choisi</translation>
+    </message>
+    <message id="MESS_SRS_NO_USER">
+        <source>You have not defined a coordinate system yet</source>
+        <translation>Vous n'avez encore défini aucun système de coordonnées</translation>
+    </message>
 </context>
 <context>
     <name>Check of coordinate systems</name>
