@@ -28,8 +28,6 @@ SrsKind kindOf(OSRCRSType type)
         return SrsKind::Geographic2D;
     case OSR_CRS_TYPE_GEOGRAPHIC_3D:
         return SrsKind::Geographic3D;
-    case OSR_CRS_TYPE_GEOCENTRIC:
-        return SrsKind::Geocentric;
     case OSR_CRS_TYPE_PROJECTED:
         return SrsKind::Projected;
     case OSR_CRS_TYPE_COMPOUND:
@@ -98,7 +96,7 @@ Result<QList<SrsRecord>> readSrsCatalogue()
     QHash<QString, qsizetype> indexOfKey;
     for (int i = 0; i < count; ++i) {
         const OSRCRSInfo &info = *list[i];
-        if (info.eType == OSR_CRS_TYPE_VERTICAL)
+        if (info.eType == OSR_CRS_TYPE_VERTICAL || info.eType == OSR_CRS_TYPE_GEOCENTRIC)
             continue;
         SrsRecord record = recordOf(info);
         const auto known = indexOfKey.constFind(record.key());

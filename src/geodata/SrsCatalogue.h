@@ -14,7 +14,6 @@ enum class SrsKind {
     Geographic2D,
     Geographic3D,
     Projected,
-    Geocentric,
     Compound, ///< a horizontal system together with heights
     Other     ///< of bodies that no spheroid describes
 };
@@ -37,7 +36,8 @@ struct SrsRecord
 
 /// Every coordinate system of the PROJ database that can place points on a map, each once: EPSG's
 /// first, then the other authorities' by name, the codes of each in the order of their numbers.
-/// Systems of heights alone are left out. Takes about 0.1 s; may run on any thread.
+/// Systems of heights alone and geocentric ones are left out. Takes about 0.1 s; may run on any
+/// thread.
 ///
 /// @par Errors   the database is not there; no key, the text is the library's reason.
 Result<QList<SrsRecord>> readSrsCatalogue();

@@ -1,6 +1,10 @@
 #pragma once
 
+#include "geodata/SrsBounds.h"
+
 #include <QString>
+
+#include <optional>
 
 namespace vlt::geodata {
 
@@ -10,5 +14,9 @@ namespace vlt::geodata {
 /// `rasterPath` comes out of a project file, so only a regular file of the local disk is opened,
 /// and only through formats that cannot refer to anything outside it.
 QString terrainReferenceCode(const QString &rasterPath);
+
+/// Where a terrain raster lies, in degrees of WGS 84; none where its file or its place is not
+/// known. The same files are opened.
+std::optional<SrsBounds> terrainArea(const QString &rasterPath);
 
 } // namespace vlt::geodata

@@ -79,7 +79,14 @@ QStringList readTableFileInfo(const TableKind &kind, const QString &path,
     info.unit = layer.metadata.value(QStringLiteral("unit"));
     info.epsg = layer.metadata.value(QStringLiteral("epsg"));
     info.description = describeTableFile(info.format, info.unit);
-    info.systems = chooseSystems(knownSystems(info, project));
+    const KnownSystems known = knownSystems(info, project);
+    info.systems = chooseSystems(known);
+    for (const QString &system : {known.projectEpsg, known.terrainEpsg}) {
+        if (!system.isEmpty())
+            info.projectSystems << system;
+    }
+    if (!project.terrainFile.isEmpty())
+        info.terrainArea = geodata::terrainArea(project.terrainFile);
     info.valid = true;
     return layer.fields;
 }

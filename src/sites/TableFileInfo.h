@@ -17,14 +17,16 @@ struct TableFileInfo
     QString filePath;   ///< as picked, once the file opened; kept for a table without rows
     QString fileDir;    ///< absolute directory of the file
     QString layerName;
-    QString nameField;         ///< column whose value names a site
-    bool hasNameField = false; ///< whether the table has it, in any case of letters
-    QString description;       ///< translated text for the file label; empty unless valid
-    QString format;            ///< which tool exported the file, as the file says
-    QString unit;              ///< "METERS", "DMS", else decimal degrees
-    QString epsg;              ///< code that the file declares; "0" or empty for none
-    qint64 rowCount = 0;       ///< sites or links
-    SiteSystems systems;       ///< to give to the choosers
+    QString nameField;          ///< column whose value names a site
+    bool hasNameField = false;  ///< whether the table has it, in any case of letters
+    QString description;        ///< translated text for the file label; empty unless valid
+    QString format;             ///< which tool exported the file, as the file says
+    QString unit;               ///< "METERS", "DMS", else decimal degrees
+    QString epsg;               ///< code that the file declares; "0" or empty for none
+    qint64 rowCount = 0;        ///< sites or links
+    SiteSystems systems;        ///< to give to the choosers
+    QStringList projectSystems; ///< of the project and its terrain, as far as they are known
+    std::optional<geodata::SrsBounds> terrainArea; ///< where the project's terrain lies
 
     /// Why the file is not valid; none for an empty path.
     std::optional<Error> error;

@@ -1,11 +1,15 @@
 #include "srs/SrsSearch.h"
 
+#include "geodata/SrsDefinition.h"
+#include "srs/TextDistance.h"
+
 #include <QPromise>
 #include <QStringList>
 #include <QThreadPool>
 
 #include <algorithm>
-#include <array>
+#include <limits>
+#include <tuple>
 
 namespace vlt::srs {
 
@@ -21,9 +25,13 @@ enum Rank {
     TextInName,
     WordsStartInName,
     WordsInName,
-    WordsAnywhere,
-    RankCount
+    WordsAnywhere
 };
+
+/// Words this short, and numbers, are taken as they were typed.
+constexpr qsizetype ShortestNearWord = 3;
+/// What was typed of a longer word may be its start.
+constexpr qsizetype ShortestNearStart = 4;
 
 /// Whether a system places points in a plane or by longitude and latitude, as maps mostly want it.
 bool isHorizontal(const SrsRecord &system)
@@ -41,6 +49,8 @@ bool isNumber(const QString &code)
 QString plainLetter(QChar letter)
 {
     switch (letter.unicode()) {
+    case 0xdf:
+        return QStringLiteral("ss");
     case 0xe6:
         return QStringLiteral("ae");
     case 0xf8:
@@ -79,7 +89,64 @@ QString folded(const QString &text)
     return words;
 }
 
+QStringList wordsOf(const QString &folded)
+{
+    return folded.split(u' ', Qt::SkipEmptyParts);
+}
+
+/// Datums that are known all over the world, or all over Europe.
+bool isWorldwideName(const QString &foldedName)
+{
+    const QString name = foldedName + u' ';
+    return name.startsWith(QLatin1String(" wgs 84 ")) ||
+           name.startsWith(QLatin1String(" etrs 89 "));
+}
+
+/// A folded text and its words, as they are looked for.
+struct Wanted
+{
+    explicit Wanted(const QString &folded) : text(folded), words(wordsOf(folded)) {}
+
+    template<typename Holds>
+    bool eachWord(Holds &&holds) const
+    {
+        return std::all_of(words.begin(), words.end(), holds);
+    }
+    bool isWithin(const QString &folded) const
+    {
+        return eachWord([&](const QString &word) { return folded.contains(word); });
+    }
+    bool startsWordsOf(const QString &folded) const
+    {
+        return eachWord([&](const QString &word) { return folded.contains(u' ' + word); });
+    }
+
+    Rank rankOf(const QString &name) const
+    {
+        if (name == text)
+            return NameTyped;
+        if (name.startsWith(text))
+            return NameStarts;
+        if (name.contains(text))
+            return TextInName;
+        if (startsWordsOf(name))
+            return WordsStartInName;
+        return isWithin(name) ? WordsInName : WordsAnywhere;
+    }
+
+    QString text;
+    QStringList words;
+};
+
 } // namespace
+
+/// How one system is preferred.
+struct SrsSearch::Preferred
+{
+    int first = std::numeric_limits<int>::max();
+    int byDefault = std::numeric_limits<int>::max();
+    QStringList aliases; ///< folded
+};
 
 SrsSearch::SrsSearch(QList<SrsRecord> systems) : m_systems(std::move(systems))
 {
@@ -92,54 +159,119 @@ SrsSearch::SrsSearch(QList<SrsRecord> systems) : m_systems(std::move(systems))
         if (isNumber(system.code))
             texts.number = folded(system.code);
         texts.all = texts.name + u'\n' + texts.key + u'\n' + folded(system.area);
+        texts.isWorldwide = isWorldwideName(texts.name);
+        for (const QString &word : wordsOf(QString(texts.all).replace(u'\n', u' '))) {
+            if (word.size() >= ShortestNearWord && !isNumber(word))
+                ++m_words[word];
+        }
         m_folded.push_back(std::move(texts));
         m_indexOfKey.insert(system.key().toCaseFolded(), i);
     }
 }
 
-std::vector<int> SrsSearch::find(const SrsQuery &query) const
+QHash<qsizetype, SrsSearch::Preferred>
+SrsSearch::preferredSystems(const SrsPreferences &preferences) const
 {
-    const QString text = folded(query.text);
-    const QStringList words = text.split(u' ', Qt::SkipEmptyParts);
-    const auto eachWord = [&words](auto &&holds) {
-        return std::all_of(words.begin(), words.end(), holds);
+    QHash<qsizetype, Preferred> preferred;
+    const auto add = [&](const QList<SrsEntry> &entries, int Preferred::*place) {
+        for (int i = 0; i < entries.size(); ++i) {
+            const QString key = geodata::listedCode(entries.at(i).code).toCaseFolded();
+            const auto index = m_indexOfKey.constFind(key);
+            if (index == m_indexOfKey.constEnd())
+                continue;
+            Preferred &system = preferred[*index];
+            system.*place = std::min(system.*place, i);
+            system.aliases << folded(entries.at(i).alias);
+        }
     };
-    const auto rankOf = [&](const Folded &texts) {
-        if (texts.name == text)
-            return NameTyped;
-        if (texts.name.startsWith(text))
-            return NameStarts;
-        if (texts.name.contains(text))
-            return TextInName;
-        if (eachWord([&](const QString &word) { return texts.name.contains(u' ' + word); }))
-            return WordsStartInName;
-        return eachWord([&](const QString &word) { return texts.name.contains(word); })
-                   ? WordsInName
-                   : WordsAnywhere;
-    };
+    add(preferences.first, &Preferred::first);
+    add(preferences.defaults, &Preferred::byDefault);
+    return preferred;
+}
 
-    // of each rank the horizontal systems, then the others
-    std::array<std::vector<int>, size_t{2} * RankCount> found;
-    for (size_t i = 0; i < m_folded.size(); ++i) {
-        const SrsRecord &system = m_systems.at(static_cast<qsizetype>(i));
-        const Folded &texts = m_folded[i];
+std::vector<int> SrsSearch::find(const SrsQuery &query, const SrsPreferences &preferences) const
+{
+    const Wanted wanted(folded(query.text));
+    const bool hasWords = !wanted.words.isEmpty();
+    const QHash<qsizetype, Preferred> preferred = preferredSystems(preferences);
+    const Preferred other;
+
+    // by rank, horizontal systems first, then by preference
+    using Place = std::tuple<int, bool, int, bool, int, bool, int>;
+    std::vector<Place> found;
+    for (int i = 0; i < m_systems.size(); ++i) {
+        const SrsRecord &system = m_systems.at(i);
+        const Folded &texts = m_folded[static_cast<size_t>(i)];
         if (query.kind && system.kind != *query.kind)
             continue;
-        const bool isTyped = !words.isEmpty() && (texts.key == text || texts.number == text);
-        const bool isFound =
-            (query.withDeprecated || !system.isDeprecated) &&
-            eachWord([&](const QString &word) { return texts.all.contains(word); });
-        if (!isTyped && !isFound)
+        const auto known = preferred.constFind(i);
+        const Preferred &preference = known == preferred.constEnd() ? other : *known;
+        const QString all = preference.aliases.isEmpty()
+                                ? texts.all
+                                : texts.all + preference.aliases.join(QString());
+        const bool isTyped = hasWords && (texts.key == wanted.text || texts.number == wanted.text);
+        if (!isTyped && ((system.isDeprecated && !query.withDeprecated) || !wanted.isWithin(all)))
             continue;
-        const bool isSecond = !words.isEmpty() && !isHorizontal(system);
-        const int place = 2 * (isTyped ? CodeTyped : rankOf(texts)) + (isSecond ? 1 : 0);
-        found.at(static_cast<size_t>(place)).push_back(static_cast<int>(i));
+
+        Rank rank = isTyped ? CodeTyped : wanted.rankOf(texts.name);
+        for (const QString &alias : preference.aliases)
+            rank = std::min(rank, wanted.rankOf(alias));
+        if (!preference.aliases.isEmpty() && wanted.startsWordsOf(all))
+            rank = std::min(rank, NameStarts);
+        const bool isInArea =
+            preferences.area && system.bounds && geodata::holds(*system.bounds, *preferences.area);
+        found.emplace_back(hasWords ? rank : CodeTyped, hasWords && !isHorizontal(system),
+                           preference.first, !isInArea, preference.byDefault, !texts.isWorldwide,
+                           i);
     }
+    std::sort(found.begin(), found.end());
 
     std::vector<int> inOrder;
-    for (const std::vector<int> &indices : found)
-        inOrder.insert(inOrder.end(), indices.begin(), indices.end());
+    inOrder.reserve(found.size());
+    for (const Place &place : found)
+        inOrder.push_back(std::get<6>(place));
     return inOrder;
+}
+
+bool SrsSearch::hasWords(const QString &text)
+{
+    return !folded(text).isEmpty();
+}
+
+QString SrsSearch::nearWord(const QString &word) const
+{
+    QString best;
+    int bestCount = 0;
+    for (auto known = m_words.constBegin(); known != m_words.constEnd(); ++known) {
+        bool isNear = differsByOneLetter(word, known.key());
+        for (const qsizetype length : {word.size() - 1, word.size(), word.size() + 1})
+            isNear = isNear || (word.size() >= ShortestNearStart && known.key().size() > length &&
+                                differsByOneLetter(word, QStringView(known.key()).left(length)));
+        const bool isBetter =
+            *known > bestCount || (*known == bestCount && known.key() < best); // never by chance
+        if (isNear && isBetter) {
+            best = known.key();
+            bestCount = *known;
+        }
+    }
+    return best;
+}
+
+QString SrsSearch::nearText(const QString &text) const
+{
+    QStringList words = wordsOf(folded(text));
+    bool isChanged = false;
+    for (QString &word : words) {
+        if (word.size() < ShortestNearWord || isNumber(word) ||
+            std::any_of(m_folded.begin(), m_folded.end(),
+                        [&word](const Folded &texts) { return texts.all.contains(word); }))
+            continue;
+        word = nearWord(word);
+        if (word.isEmpty())
+            return {};
+        isChanged = true;
+    }
+    return isChanged ? words.join(u' ') : QString();
 }
 
 const SrsRecord *SrsSearch::systemOf(const QString &key) const

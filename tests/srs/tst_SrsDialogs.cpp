@@ -85,6 +85,63 @@ private Q_SLOTS:
         QVERIFY(chooser.dialog.chosenEntry() == expected);
     }
 
+    void startsAtTheCurrentSystem_data()
+    {
+        QTest::addColumn<SrsEntry>("current");
+        QTest::addColumn<int>("tab");
+
+        QTest::newRow("of the database") << SrsEntry{{}, {}, u"EPSG:2193"_s} << int(Search);
+        QTest::newRow("its bare number") << SrsEntry{{}, {}, u"2193"_s} << int(Search);
+        QTest::newRow("the user's own") << Factory << int(UserDefined);
+    }
+
+    void startsAtTheCurrentSystem()
+    {
+        QFETCH(SrsEntry, current);
+        sharedSrsSearch().waitForFinished();
+        dialogVltSrsChooser dialog(nullptr, current);
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+
+        const auto *tabs = dialog.findChild<QTabWidget *>();
+        QTEST(tabs->currentIndex(), "tab");
+        auto *table = tabs->currentWidget()->findChild<SrsTable *>();
+        QVERIFY(table->currentEntry());
+        QVERIFY(table->currentEntry()->code.endsWith(current.code));
+        QVERIFY(table->viewport()->rect().intersects(table->visualRect(table->currentIndex())));
+
+        dialog.findChild<QLineEdit *>(u"m_pwLeSearch"_s)->setText(u"%"_s);
+        tabs->widget(Search)->findChild<SrsTable *>()->setFocus();
+        QCOMPARE(tabs->widget(Search)->findChild<SrsTable *>()->currentRow(), -1);
+    }
+
+    void offersATypedDefinition()
+    {
+        sharedSrsSearch().waitForFinished();
+        Chooser chooser(Search, -1);
+        auto *field = chooser.dialog.findChild<QLineEdit *>(u"m_pwLeSearch"_s);
+        const auto *offer = chooser.dialog.findChild<QPushButton *>(u"m_pwPbAddTyped"_s);
+        const QString definition = u"+proj=utm +zone=30 +datum=WGS84"_s;
+        field->setText(u"+proj=ut"_s);
+        QVERIFY(!offer->isVisible());
+
+        QTimer::singleShot(50, this, [] {
+            auto *dialog = qobject_cast<dialogToEditAlias *>(QApplication::activeModalWidget());
+            QVERIFY(dialog);
+            dialog->findChild<QLineEdit *>(u"m_pwLeAlias"_s)->setText(u"Typed"_s);
+            okButton(*dialog)->click();
+        });
+        field->setText(definition);
+        QVERIFY(offer->isVisible());
+        QTest::keyClick(field, Qt::Key_Return);
+
+        QVERIFY(chooser.dialog.isVisible());
+        okButton(chooser.dialog)->click();
+        const SrsEntry expected{u"Typed"_s, {}, definition, true};
+        QVERIFY(chooser.dialog.chosenEntry() == expected);
+        QVERIFY(UserDefinedSrsList().at(0) == expected);
+    }
+
     void removesLastUsedSystemsByKey()
     {
         Chooser chooser(LastUsed);

@@ -1,8 +1,13 @@
+#include "platform/Settings.h"
+#include "srs/DefaultSrsList.h"
 #include "srs/SrsSearch.h"
 
+#include <QSettings>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
+using vlt::geodata::isInside;
+using vlt::geodata::SrsBounds;
 using vlt::geodata::SrsKind;
 using vlt::geodata::SrsRecord;
 
@@ -12,6 +17,7 @@ class TestSrsSearch : public QObject
     Q_OBJECT
 
     const vlt::srs::SharedSrsSearch m_search = vlt::srs::sharedSrsSearch().result();
+    vlt::srs::SrsPreferences m_preferences; ///< with the defaults of the installation
 
     QString firstFound(const vlt::srs::SrsQuery &query) const
     {
@@ -20,6 +26,16 @@ class TestSrsSearch : public QObject
     }
 
 private Q_SLOTS:
+    void initTestCase()
+    {
+        vlt::platform::builderSettings()->setValue(u"INSTALL_DIR"_s,
+                                                   QStringLiteral(VLT_INSTALLATION));
+        const vlt::srs::DefaultSrsList defaults;
+        m_preferences.defaults = {defaults.begin(), defaults.end()};
+        QVERIFY(!m_preferences.defaults.isEmpty());
+        m_preferences.first = {{{}, {}, u"EPSG:31370"_s}, {{}, {}, u"3949"_s}};
+    }
+
     void knowsEverySystemForMapsOnce()
     {
         QCOMPARE(m_search->systems().constFirst().key(), u"EPSG:2000"_s); // Anguilla 1957
@@ -47,10 +63,79 @@ private Q_SLOTS:
         QCOMPARE(firstFound({u"lambert nowhere"_s, {}, false}), QString());
     }
 
+    void findsTheLikelierSystemFirst_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("code");
+
+        const auto row = [](const char *text, int code) {
+            QTest::newRow(text) << QString::fromUtf8(text) << u"EPSG:%1"_s.arg(code);
+        };
+        row("utm 30", 25830);
+        row("utm 60", 32660); // no default: WGS 84 before others
+        row("wgs", 4326);
+        row("etrs", 4258);
+        row("etrs89 utm 30", 25830);
+        row("british", 27700);
+        row("france", 2154);
+        row("mercator", 3857);
+        row("lambert", 31370); // used lately
+        row("cc", 3949);       // the project's
+        row("new zealand", 2193);
+        for (const vlt::srs::SrsEntry &entry : m_preferences.defaults)
+            QTest::newRow(qPrintable(entry.code)) << entry.alias << entry.code;
+    }
+
+    void findsTheLikelierSystemFirst()
+    {
+        QFETCH(QString, text);
+
+        const std::vector<int> found = m_search->find({text, {}, false}, m_preferences);
+
+        QVERIFY(!found.empty());
+        QTEST(m_search->systems().at(found.front()).key(), "code");
+    }
+
+    void prefersSystemsOfTheDataArea()
+    {
+        const auto first = [this](const QString &text, const SrsBounds &area) {
+            const std::vector<int> found = m_search->find({text, {}, false}, {{}, area, {}});
+            return m_search->systems().at(found.front()).key();
+        };
+        const SrsBounds brittany{-3.5, 47.6, -3.2, 47.9};
+        const SrsBounds fiji{177, -19, -179, -16}; // across the 180th meridian
+        const SrsBounds fijiGrid{176.81, -20.81, -178.15, -12.42};
+
+        QCOMPARE(first(u"british"_s, {-1, 51, 0, 52}), u"EPSG:27700"_s);
+        QCOMPARE(first(u"lambert zone"_s, brittany), u"EPSG:27572"_s); // zone I lies further north
+        QCOMPARE(first(u"map grid"_s, fiji), u"EPSG:3460"_s);
+        QVERIFY(holds(fijiGrid, fiji) && !holds(fiji, fijiGrid) && !holds(fijiGrid, brittany));
+        QVERIFY(isInside(fijiGrid, -179, -18) && !isInside(fijiGrid, -178, -18));
+        QVERIFY(isInside(fijiGrid, -178, -18, 0.5) && !isInside(fijiGrid, 0, -18, 0.5));
+        QVERIFY(isInside({-180, -90, 180, 90}, 180, -90));
+    }
+
+    void understandsAWordWithAWrongLetter_data()
+    {
+        QTest::addColumn<QString>("nearText");
+
+        QTest::newRow("lambrt 93") << u"lambert 93"_s;
+        QTest::newRow("wsg84") << u"wgs 84"_s;
+        QTest::newRow("epgs:2154") << u"epsg 2154"_s;
+        QTest::newRow("Gau\u00dfs Kr\u00fcgr") << u"gauss kruger"_s;
+        QTest::newRow("lambert 93") << QString(); // nothing is wrong
+        QTest::newRow("xyzzy") << QString();
+    }
+
+    void understandsAWordWithAWrongLetter()
+    {
+        QTEST(m_search->nearText(QString::fromUtf8(QTest::currentDataTag())), "nearText");
+    }
+
     void filtersByKindAndDeprecation()
     {
         const QString withdrawn = u"NTF (Paris) / France II"_s;
-        QCOMPARE(firstFound({u"WGS 84"_s, SrsKind::Geocentric, false}), u"EPSG:4978"_s);
+        QVERIFY(!m_search->systemOf(u"EPSG:4978"_s)); // geocentric: no place on a map
         QCOMPARE(firstFound({u"2154"_s, SrsKind::Compound, false}), QString());
         QVERIFY(firstFound({withdrawn, {}, false}) != u"EPSG:27582");
         QCOMPARE(firstFound({withdrawn, {}, true}), u"EPSG:27582"_s);

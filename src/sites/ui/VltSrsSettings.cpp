@@ -72,6 +72,12 @@ void VltSrsSettings::setTargetSrs(const QString &systemText)
     m_pwTarget->setSystem(systemText);
 }
 
+void VltSrsSettings::setContext(const vlt::srs::SrsContext &context)
+{
+    m_pwSource->setContext(context);
+    m_pwTarget->setContext(context);
+}
+
 QString VltSrsSettings::sourceSrs() const
 {
     return m_pwSource->currentSystem();

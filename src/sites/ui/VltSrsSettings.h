@@ -1,5 +1,7 @@
 #pragma once
 
+#include "srs/SrsPreferences.h"
+
 #include <QWidget>
 
 class QPushButton;
@@ -18,6 +20,9 @@ public:
     /// nothing.
     void setSourceSrs(const QString &systemText);
     void setTargetSrs(const QString &systemText);
+
+    /// What the systems are chosen for: a search lists what fits it first.
+    void setContext(const vlt::srs::SrsContext &context);
 
     /// The chosen system as layers carry it: the text that it was set by, or the code of the row
     /// that the user chose; empty where none is chosen.

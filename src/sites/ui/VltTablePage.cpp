@@ -136,6 +136,7 @@ void VltTablePage::readRememberedFile()
 void VltTablePage::addDetails(VltTableDetails *details)
 {
     m_panelDetails = details;
+    connect(details, &VltTableDetails::checked, this, &VltTablePage::showArea);
     m_ui->m_ptVbTable->addWidget(details);
 }
 
@@ -309,6 +310,7 @@ void VltTablePage::showFile()
         m_panelSrs->setSourceSrs(read.systems.source);
     if (!read.systems.target.isEmpty())
         m_panelSrs->setTargetSrs(read.systems.target);
+    m_panelSrs->setContext({read.projectSystems, read.terrainArea});
     showDetails();
 }
 
@@ -317,6 +319,16 @@ void VltTablePage::showReason(const QString &reason)
 {
     m_ui->m_pwLblReason->setText(reason);
     m_ui->m_pwLblReason->setVisible(!reason.isEmpty());
+}
+
+/// Degrees tell where a table lies, metres only once their system is known.
+void VltTablePage::showArea(const vlt::geodata::SystemCheck &checked)
+{
+    const vlt::sites::TableFileInfo &read = file();
+    const bool isInDegrees = read.unit != QLatin1String("METERS") &&
+                             checked.source.use == vlt::geodata::SrsUse::Geographic;
+    if (isInDegrees && checked.extent)
+        m_panelSrs->setContext({read.projectSystems, checked.extent});
 }
 
 void VltTablePage::updatePreview()

@@ -130,6 +130,7 @@ private:
     void fitInputWidth();
     void showFile();
     void showReason(const QString &reason);
+    void showArea(const vlt::geodata::SystemCheck &checked);
     void createLayerFile();
     void showDemonstration();
     void writeLayerFile();

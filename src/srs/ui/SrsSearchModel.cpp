@@ -12,12 +12,29 @@ void SrsSearchModel::setSearch(SharedSrsSearch search)
     endResetModel();
 }
 
-void SrsSearchModel::find(const SrsQuery &query)
+void SrsSearchModel::find(const SrsQuery &query, const SrsPreferences &preferences)
 {
     if (!m_search)
         return;
     beginResetModel();
-    m_found = m_search->find(query);
+    m_nearText.clear();
+    m_found = m_search->find(query, preferences);
+    if (m_found.empty()) {
+        SrsQuery near = query;
+        near.text = m_search->nearText(query.text);
+        if (!near.text.isEmpty())
+            m_found = m_search->find(near, preferences);
+        if (!m_found.empty())
+            m_nearText = near.text;
+    }
+    endResetModel();
+}
+
+void SrsSearchModel::clear()
+{
+    beginResetModel();
+    m_nearText.clear();
+    m_found.clear();
     endResetModel();
 }
 

@@ -22,8 +22,6 @@ QString SrsTableModel::kindText(SrsKind kind)
         return tr("Geographic 3D", "MESS_SRS_KIND_GEOGRAPHIC_3D");
     case SrsKind::Projected:
         return tr("Projected", "MESS_SRS_KIND_PROJECTED");
-    case SrsKind::Geocentric:
-        return tr("Geocentric", "MESS_SRS_KIND_GEOCENTRIC");
     case SrsKind::Compound:
         return tr("Compound", "MESS_SRS_KIND_COMPOUND");
     case SrsKind::Other:

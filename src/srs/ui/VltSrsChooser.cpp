@@ -276,7 +276,10 @@ void VltSrsChooser::choose(const SrsEntry &entry)
 
 void VltSrsChooser::chooseFromDialog()
 {
-    dialogVltSrsChooser dialog(m_parentWidget);
+    SrsEntry current;
+    if (m_shown.isIndex(m_shown.currentIndex()))
+        current = m_shown.at(m_shown.currentIndex());
+    dialogVltSrsChooser dialog(m_parentWidget, current, m_context);
     dialog.setWindowTitle(m_ui->m_pLSrsLabel->text()); // which of the systems it is about
     std::optional<SrsEntry> chosen;
     if (dialog.exec() == QDialog::Accepted)
@@ -289,12 +292,12 @@ void VltSrsChooser::chooseFromDialog()
         } else {
             enterUndefinedState(OnReturn::StaysAsItIs);
             m_ui->m_pPBResetSrs->setEnabled(false);
-        }
-        return;
-    }
             showHint(tr("Choose a system in the list; \"Other...\", tab \"User-defined\", takes a "
                         "definition of your own",
                         "MESS_SRS_CHOOSE_IN_LIST"));
+        }
+        return;
+    }
 
     int row = m_shown.indexOfCode(chosen->code);
     if (row < 0) {

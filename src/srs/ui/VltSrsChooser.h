@@ -3,6 +3,7 @@
 #include "srs/LastUsedSrsList.h"
 #include "srs/ShownSrsList.h"
 #include "srs/SrsEntry.h"
+#include "srs/SrsPreferences.h"
 
 #include <QPointer>
 #include <QString>
@@ -59,6 +60,9 @@ public:
     /// Emits nothing.
     void setSystem(const QString &systemText);
 
+    /// What the system is chosen for: the search lists what fits it first.
+    void setContext(const vlt::srs::SrsContext &context) { m_context = context; }
+
     /// The chosen system: the text that setSystem() was given, until the user chooses; else
     /// currentCode().
     QString currentSystem() const;
@@ -90,16 +94,17 @@ private:
     void describeRow(int row);
     void selectRow(int row);
     void enterUndefinedState(OnReturn onReturn);
+    void showHint(const QString &text);
+    void clearHint() { showHint({}); }
     void choose(const vlt::srs::SrsEntry &entry);
     void chooseFromDialog();
     bool addUserDefined(const QString &definition);
 
-    void showHint(const QString &text);
-    void clearHint() { showHint({}); }
     std::unique_ptr<Ui::WidgetVltSrsChooser> m_ui;
     QPointer<QWidget> m_parentWidget;
     vlt::srs::ShownSrsList m_shown;
     vlt::srs::LastUsedSrsList m_lastUsed;
+    vlt::srs::SrsContext m_context;
     vlt::srs::SrsEntry m_reference; ///< where the reset button goes back to
     QString m_referenceText;        ///< as setSystem() was given it; empty where it was not
     bool m_isAsGiven = false;       ///< whether the choice is that of m_referenceText

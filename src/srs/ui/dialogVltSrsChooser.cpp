@@ -1,19 +1,21 @@
 #include "srs/ui/dialogVltSrsChooser.h"
 
+#include "geodata/SrsDefinition.h"
+#include "language/VltLanguageManager.h"
 #include "platform/Settings.h"
 #include "srs/DetailLinks.h"
+#include "srs/SrsUtilitiesFile.h"
 #include "srs/ui/SrsListModel.h"
 #include "srs/ui/SrsSearchModel.h"
-#include "srs/SrsUtilitiesFile.h"
 #include "srs/ui/SrsTable.h"
 #include "srs/ui/dialogToEditAlias.h"
 #include "ui_dialogVltSrsChooser.h"
 #include "wizard/base/Messages.h"
 
 #include <QAction>
+#include <QDir>
 #include <QKeyEvent>
 #include <QPushButton>
-#include <QDir>
 #include <QScreen>
 #include <QShortcut>
 
@@ -29,6 +31,12 @@ const QString GeometryKey = QStringLiteral("SrsDialog/Geometry");
 constexpr int FirstWidth = 165; ///< in letters
 constexpr int FirstHeight = 46; ///< in lines
 
+/// PROJ texts and WKT have signs that words to look for do not have.
+bool isMeantAsDefinition(const QString &text)
+{
+    return text.contains(u'=') || text.contains(u'[');
+}
+
 bool isTyped(const QKeyEvent &event)
 {
     return !(event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) &&
@@ -37,10 +45,18 @@ bool isTyped(const QKeyEvent &event)
 
 } // namespace
 
-dialogVltSrsChooser::dialogVltSrsChooser(QWidget *parent)
+dialogVltSrsChooser::dialogVltSrsChooser(QWidget *parent, const SrsEntry &current,
+                                         const SrsContext &context)
     : QDialog(parent)
     , m_ui(std::make_unique<Ui::dialogVltSrsChooser>())
+    , m_current(current)
 {
+    m_preferences.first = QList<SrsEntry>(m_lastUsed.begin(), m_lastUsed.end());
+    for (const QString &system : context.projectSystems)
+        m_preferences.first << SrsEntry{{}, {}, system};
+    m_preferences.area = context.area;
+    m_preferences.defaults = QList<SrsEntry>(m_default.begin(), m_default.end());
+
     m_ui->setupUi(this);
     m_ui->m_pwBbButtons->button(QDialogButtonBox::Cancel)->setText(tr("Cancel", "MESS_CANCEL"));
     createTables();
@@ -55,6 +71,7 @@ dialogVltSrsChooser::dialogVltSrsChooser(QWidget *parent)
     m_loading.setFuture(sharedSrsSearch());
     if (m_loading.isFinished())
         showLoadedSystems();
+    selectCurrent();
     showSelection();
     m_ui->m_pwLeSearch->setFocus();
 }
@@ -94,23 +111,6 @@ void dialogVltSrsChooser::createTables()
         connect(table, &SrsTable::selectionMoved, this, &dialogVltSrsChooser::showSelection);
         connect(table, &SrsTable::doubleClicked, this, &dialogVltSrsChooser::accept);
     }
-    m_ui->m_pwTvUserDefined->hideColumn(SrsTableModel::Kind);
-    m_ui->m_pwTvUserDefined->hideColumn(SrsTableModel::Area);
-}
-
-void dialogVltSrsChooser::createKinds()
-{
-    m_ui->m_pwCbKind->addItem(tr("All kinds", "MESS_SRS_ALL_KINDS"));
-    for (const SrsKind kind : {SrsKind::Projected, SrsKind::Geographic2D, SrsKind::Geographic3D,
-                               SrsKind::Geocentric, SrsKind::Compound})
-        m_ui->m_pwCbKind->addItem(SrsTableModel::kindText(kind), static_cast<int>(kind));
-}
-
-void dialogVltSrsChooser::createActions()
-{
-    addTableAction(m_ui->m_pwTvLastUsed, m_ui->m_pwPbRemoveLastUsed, QKeySequence::Delete,
-                   &dialogVltSrsChooser::removeLastUsed);
-    addTableAction(m_ui->m_pwTvUserDefined, m_ui->m_pwPbEditUserDefined, Qt::Key_F2,
     m_ui->m_pwTvDefault->setEmptyText(
         tr("There are no default systems: the file %1 is missing, cannot be read or lists none",
            "MESS_SRS_NO_DEFAULT")
@@ -119,6 +119,23 @@ void dialogVltSrsChooser::createActions()
         tr("No coordinate system has been chosen yet", "MESS_SRS_NO_LAST"));
     m_ui->m_pwTvUserDefined->setEmptyText(
         tr("You have not defined a coordinate system yet", "MESS_SRS_NO_USER"));
+    m_ui->m_pwTvUserDefined->hideColumn(SrsTableModel::Kind);
+    m_ui->m_pwTvUserDefined->hideColumn(SrsTableModel::Area);
+}
+
+void dialogVltSrsChooser::createKinds()
+{
+    m_ui->m_pwCbKind->addItem(tr("All kinds", "MESS_SRS_ALL_KINDS"));
+    for (const SrsKind kind :
+         {SrsKind::Projected, SrsKind::Geographic2D, SrsKind::Geographic3D, SrsKind::Compound})
+        m_ui->m_pwCbKind->addItem(SrsTableModel::kindText(kind), static_cast<int>(kind));
+}
+
+void dialogVltSrsChooser::createActions()
+{
+    addTableAction(m_ui->m_pwTvLastUsed, m_ui->m_pwPbRemoveLastUsed, QKeySequence::Delete,
+                   &dialogVltSrsChooser::removeLastUsed);
+    addTableAction(m_ui->m_pwTvUserDefined, m_ui->m_pwPbEditUserDefined, Qt::Key_F2,
                    &dialogVltSrsChooser::editUserDefined);
     addTableAction(m_ui->m_pwTvUserDefined, m_ui->m_pwPbRemoveUserDefined, QKeySequence::Delete,
                    &dialogVltSrsChooser::removeUserDefined);
@@ -155,6 +172,8 @@ void dialogVltSrsChooser::connectWidgets()
     connect(m_ui->m_pwChbDeprecated, &QCheckBox::toggled, this, &dialogVltSrsChooser::search);
     connect(m_ui->m_pwPbAddUserDefined, &QAbstractButton::clicked, this,
             &dialogVltSrsChooser::addUserDefined);
+    connect(m_ui->m_pwPbAddTyped, &QAbstractButton::clicked, this,
+            &dialogVltSrsChooser::addTypedDefinition);
     m_ui->m_pwLeSearch->installEventFilter(this);
     connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, this, [this] {
         m_ui->m_pwTwTabs->setCurrentWidget(m_ui->m_pwPageSearch);
@@ -201,24 +220,74 @@ void dialogVltSrsChooser::search()
     if (const QVariant kind = m_ui->m_pwCbKind->currentData(); kind.isValid())
         query.kind = static_cast<SrsKind>(kind.toInt());
     query.withDeprecated = m_ui->m_pwChbDeprecated->isChecked();
-    m_found->find(query);
-
-    if (m_loading.isFinished() && m_loading.result())
-        m_ui->m_pwLblState->setText(
-            m_found->rowCount() == 0
-                ? tr("No system matches", "MESS_SRS_NONE_FOUND")
-                : tr("Systems found: %1", "MESS_SRS_FOUND").arg(m_found->rowCount()));
+    if (isMeantAsDefinition(query.text))
+        m_found->clear();
+    else
+        m_found->find(query, m_preferences);
+    showState();
     if (selected)
         m_ui->m_pwTvFound->selectRow(m_found->rowOfCode(selected->code));
 }
 
-/// The best match of a text is selected at once, so that Return takes it.
+/// Tells how many systems are found, or what to do about a text that finds none.
+void dialogVltSrsChooser::showState()
+{
+    const QString text = m_ui->m_pwLeSearch->text();
+    m_ui->m_pwPbAddTyped->hide();
+    if (isMeantAsDefinition(text)) {
+        const std::optional<vlt::Error> refusal = vlt::geodata::definitionRefusal(text);
+        m_ui->m_pwPbAddTyped->setVisible(!refusal);
+        m_ui->m_pwLblState->setText(
+            refusal
+                ? dico_label(refusal->key.toUtf8().constData(), refusal->text.toUtf8().constData())
+                : tr("This text defines a coordinate system", "MESS_SRS_IS_DEFINITION"));
+        return;
+    }
+    if (!m_loading.isFinished() || !m_loading.result())
+        return;
+    const int count = m_found->rowCount();
+    QString state = tr("Systems found: %1", "MESS_SRS_FOUND").arg(count);
+    if (count == 0)
+        state = tr("No system matches", "MESS_SRS_NONE_FOUND");
+    else if (!m_found->nearText().isEmpty())
+        state = tr("No system matches; found for \"%1\": %2", "MESS_SRS_FOUND_NEAR")
+                    .arg(m_found->nearText().toUpper(), QString::number(count));
+    else if (m_preferences.area && !SrsSearch::hasWords(text))
+        state = tr("Systems: %1; those whose area of use holds your data come first",
+                   "MESS_SRS_FOUND_AREA")
+                    .arg(count);
+    m_ui->m_pwLblState->setText(state);
+}
+
+/// The best match of a text is selected at once, so that Return takes it; without a text it is the
+/// system to start at.
 void dialogVltSrsChooser::searchText()
 {
     m_ui->m_pwTvFound->clearSelection();
     search();
-    if (!m_ui->m_pwLeSearch->text().trimmed().isEmpty())
+    const QString text = m_ui->m_pwLeSearch->text();
+    if (SrsSearch::hasWords(text))
         m_ui->m_pwTvFound->selectRow(0);
+    else if (text.trimmed().isEmpty())
+        m_ui->m_pwTvFound->selectRow(m_found->rowOfCode(vlt::geodata::listedCode(m_current.code)));
+}
+
+/// A system that the search does not know may be one of the user's own.
+void dialogVltSrsChooser::selectCurrent()
+{
+    const int row = m_userDefined.indexOfCode(m_current.code);
+    if (row < 0 || !m_current.isUserDefined)
+        return;
+    m_ui->m_pwTwTabs->setCurrentWidget(m_ui->m_pwPageUserDefined);
+    m_ui->m_pwTvUserDefined->selectRow(row);
+}
+
+void dialogVltSrsChooser::showEvent(QShowEvent *event)
+{
+    QDialog::showEvent(event);
+    SrsTable *table = currentTable(); // its size is known only now
+    if (table->currentIndex().isValid())
+        table->scrollTo(table->currentIndex(), QAbstractItemView::PositionAtCenter);
 }
 
 bool dialogVltSrsChooser::eventFilter(QObject *watched, QEvent *event)
@@ -228,6 +297,11 @@ bool dialogVltSrsChooser::eventFilter(QObject *watched, QEvent *event)
 
     const auto &key = static_cast<const QKeyEvent &>(*event);
     SrsTable *found = m_ui->m_pwTvFound;
+    const bool isReturn = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
+    if (watched == m_ui->m_pwLeSearch && isReturn && m_ui->m_pwPbAddTyped->isVisible()) {
+        addTypedDefinition();
+        return true;
+    }
     if (watched == m_ui->m_pwLeSearch && key.key() == Qt::Key_Down && m_found->rowCount() > 0) {
         if (found->currentRow() < 0)
             found->selectRow(0);
@@ -263,12 +337,24 @@ void dialogVltSrsChooser::showLists()
 
 void dialogVltSrsChooser::addUserDefined()
 {
+    define({});
+}
+
+void dialogVltSrsChooser::addTypedDefinition()
+{
+    define({{}, {}, m_ui->m_pwLeSearch->text().simplified(), true});
+}
+
+/// Asks for a system of the user's own and selects it.
+void dialogVltSrsChooser::define(const SrsEntry &start)
+{
     dialogToEditAlias dialog(this);
-    dialog.editSystem({});
+    dialog.editSystem(start);
     if (dialog.exec() != QDialog::Accepted)
         return;
     m_userDefined.add({dialog.alias(), {}, dialog.definition(), true});
     showLists();
+    m_ui->m_pwTwTabs->setCurrentWidget(m_ui->m_pwPageUserDefined);
     m_ui->m_pwTvUserDefined->selectRow(0);
     m_ui->m_pwTvUserDefined->setFocus();
 }

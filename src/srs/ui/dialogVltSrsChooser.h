@@ -3,6 +3,7 @@
 #include "srs/DefaultSrsList.h"
 #include "srs/LastUsedSrsList.h"
 #include "srs/SrsEntry.h"
+#include "srs/SrsPreferences.h"
 #include "srs/SrsSearch.h"
 #include "srs/UserDefinedSrsList.h"
 
@@ -28,7 +29,8 @@ class SrsTable;
 /// database, or taken from the default, the last used or the user-defined ones. The two latter
 /// lists are kept here too; their changes are saved at once, however the dialog is closed.
 ///
-/// Searching is possible while the database is still being read; what was typed is then found as
+/// A PROJ text or WKT in place of words is offered as a definition of the user's own. Searching is
+/// possible while the database is still being read; what was typed is then found as
 /// soon as it is there.
 // NOLINTNEXTLINE(readability-identifier-naming): the dialog's established name
 class dialogVltSrsChooser : public QDialog
@@ -36,7 +38,10 @@ class dialogVltSrsChooser : public QDialog
     Q_OBJECT
 
 public:
-    explicit dialogVltSrsChooser(QWidget *parent = nullptr);
+    /// @param current  the system to start at; an empty code for none
+    /// @param context  what the system is chosen for: what fits it is listed first
+    explicit dialogVltSrsChooser(QWidget *parent = nullptr, const vlt::srs::SrsEntry &current = {},
+                                 const vlt::srs::SrsContext &context = {});
     ~dialogVltSrsChooser() override;
 
     /// The system that the dialog was accepted with; none after it was cancelled.
@@ -47,6 +52,7 @@ public Q_SLOTS:
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
+    void showEvent(QShowEvent *event) override;
 
 private:
     void createTables();
@@ -62,10 +68,14 @@ private:
     void showLoadedSystems();
     void search();
     void searchText();
+    void selectCurrent();
+    void showState();
     void showSelection();
     void showLists();
 
     void addUserDefined();
+    void addTypedDefinition();
+    void define(const vlt::srs::SrsEntry &start);
     void editUserDefined();
     void removeUserDefined();
     void removeLastUsed();
@@ -80,5 +90,7 @@ private:
     vlt::srs::SrsListModel *m_defaultModel = nullptr;
     vlt::srs::SrsListModel *m_lastUsedModel = nullptr;
     vlt::srs::SrsListModel *m_userDefinedModel = nullptr;
+    vlt::srs::SrsEntry m_current;
+    vlt::srs::SrsPreferences m_preferences;
     std::optional<vlt::srs::SrsEntry> m_chosen;
 };

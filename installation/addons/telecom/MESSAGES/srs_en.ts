@@ -151,10 +151,6 @@
         <source>Geographic 3D</source>
         <translation>Geographic 3D</translation>
     </message>
-    <message id="MESS_SRS_KIND_GEOCENTRIC">
-        <source>Geocentric</source>
-        <translation>Geocentric</translation>
-    </message>
     <message id="MESS_SRS_KIND_COMPOUND">
         <source>Compound</source>
         <translation>Compound</translation>
@@ -259,6 +255,26 @@
     <message id="MESS_SRS_NO_USER">
         <source>You have not defined a coordinate system yet</source>
         <translation>You have not defined a coordinate system yet</translation>
+    </message>
+    <message id="MESS_SRS_IS_DEFINITION">
+        <source>This text defines a coordinate system</source>
+        <translation>This text defines a coordinate system</translation>
+    </message>
+    <message id="MESS_SRS_FOUND_NEAR">
+        <source>No system matches; found for "%1": %2</source>
+        <translation>No system matches; found for "%1": %2</translation>
+    </message>
+    <message id="MESS_SRS_FOUND_AREA">
+        <source>Systems: %1; those whose area of use holds your data come first</source>
+        <translation>Systems: %1; those whose area of use holds your data come first</translation>
+    </message>
+    <message id="MESS_SRS_ADD_TYPED">
+        <source>Add it as a system of your o&amp;wn...</source>
+        <translation>Add it as a system of your o&amp;wn...</translation>
+    </message>
+    <message id="MESS_SRS_ADD_TYPED_TIP">
+        <source>Keep the definition under an alias, among the user-defined systems</source>
+        <translation>Keep the definition under an alias, among the user-defined systems</translation>
     </message>
 </context>
 <context>

@@ -151,10 +151,6 @@
         <source>Geographic 3D</source>
         <translation>Géographique 3D</translation>
     </message>
-    <message id="MESS_SRS_KIND_GEOCENTRIC">
-        <source>Geocentric</source>
-        <translation>Géocentrique</translation>
-    </message>
     <message id="MESS_SRS_KIND_COMPOUND">
         <source>Compound</source>
         <translation>Composé</translation>
@@ -259,6 +255,26 @@
     <message id="MESS_SRS_NO_USER">
         <source>You have not defined a coordinate system yet</source>
         <translation>Vous n'avez encore défini aucun système de coordonnées</translation>
+    </message>
+    <message id="MESS_SRS_IS_DEFINITION">
+        <source>This text defines a coordinate system</source>
+        <translation>Ce texte définit un système de coordonnées</translation>
+    </message>
+    <message id="MESS_SRS_FOUND_NEAR">
+        <source>No system matches; found for "%1": %2</source>
+        <translation>Aucun système ne correspond&#xa0;; trouvés pour «&#xa0;%1&#xa0;»&#xa0;: %2</translation>
+    </message>
+    <message id="MESS_SRS_FOUND_AREA">
+        <source>Systems: %1; those whose area of use holds your data come first</source>
+        <translation>Systèmes&#xa0;: %1&#xa0;; ceux dont la zone d'emploi contient vos données viennent en premier</translation>
+    </message>
+    <message id="MESS_SRS_ADD_TYPED">
+        <source>Add it as a system of your o&amp;wn...</source>
+        <translation>Ajouter à &amp;vos systèmes...</translation>
+    </message>
+    <message id="MESS_SRS_ADD_TYPED_TIP">
+        <source>Keep the definition under an alias, among the user-defined systems</source>
+        <translation>Conserver la définition sous un alias, parmi les systèmes définis par l'utilisateur</translation>
     </message>
 </context>
 <context>
