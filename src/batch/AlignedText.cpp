@@ -7,6 +7,26 @@ namespace vlt::batch {
 namespace {
 
 constexpr qsizetype LineWidth = 80;
+/// Names that are longer have a line of their own.
+constexpr qsizetype LongestName = 26;
+
+/// Words in lines; all but the first one begin with `indent` blanks.
+QString wrappedWords(const QString &text, qsizetype indent)
+{
+    QString lines;
+    qsizetype column = indent;
+    for (const QString &word : text.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+        const bool isFirst = column == indent;
+        if (!isFirst && column + 1 + word.size() >= LineWidth) {
+            lines += QLatin1Char('\n') + QString(indent, u' ') + word;
+            column = indent + word.size();
+            continue;
+        }
+        lines += (isFirst ? QString() : QStringLiteral(" ")) + word;
+        column += word.size() + (isFirst ? 0 : 1);
+    }
+    return lines;
+}
 
 /// The values one after another, in further lines below the first where they are many.
 QString wrapped(const QStringList &values, qsizetype indent)
@@ -37,6 +57,33 @@ QString aligned(const QList<Line> &lines)
         const QString values = wrapped(line.values, width + 3);
         text += line.label.leftJustified(width) + QStringLiteral(" : ") +
                 (values.isEmpty() ? QStringLiteral("-") : values) + QLatin1Char('\n');
+    }
+    return text;
+}
+
+QString wrappedText(const QString &text)
+{
+    QString lines;
+    for (const QString &line : text.split(QLatin1Char('\n')))
+        lines += wrappedWords(line, 0) + QLatin1Char('\n');
+    return lines;
+}
+
+QString entryList(const QList<Entry> &entries)
+{
+    constexpr qsizetype Before = 2;
+    qsizetype width = 0;
+    for (const Entry &entry : entries) {
+        if (entry.name.size() <= LongestName)
+            width = qMax(width, entry.name.size());
+    }
+    const qsizetype indent = Before + width + 2;
+    QString text;
+    for (const Entry &entry : entries) {
+        text += QString(Before, u' ') + entry.name.leftJustified(width + 2);
+        if (entry.name.size() > width)
+            text += QLatin1Char('\n') + QString(indent, u' ');
+        text += wrappedWords(entry.meaning, indent) + QLatin1Char('\n');
     }
     return text;
 }

@@ -16,6 +16,19 @@ struct Line
 /// Lines "label : value; value", the colons below one another; many values take several lines.
 QString aligned(const QList<Line> &lines);
 
+/// A name and what it means.
+struct Entry
+{
+    QString name;
+    QString meaning;
+};
+
+/// The text in lines of a terminal's usual width, broken between words; its own line ends stay.
+QString wrappedText(const QString &text);
+
+/// Names with their meanings at their right side, in lines of that width.
+QString entryList(const QList<Entry> &entries);
+
 /// A table with two blanks between its columns.
 ///
 /// @param rows        [row][column], every row with as many cells as the first one

@@ -20,27 +20,34 @@ namespace {
 using buildings::BuildingLayerFiles;
 using buildings::TexbSubtype;
 
-const QString Examples =
-    QStringLiteral("\nExamples:\n"
-                   "  vltlayers buildings town.shp --dtm hills.tif --image level.tif \\\n"
-                   "      --colormap signal_level_dBm --absolute --mode average -o town.lay\n"
-                   "  vltlayers buildings --project city.gvw --textures coverage_6m.tif \\\n"
-                   "      --texture-on walls -o town.lay\n"
-                   "  vltlayers buildings --project city.gvw --texture low.tif=1.5 \\\n"
-                   "      --texture high.tif=12 --texture-on storeys -o town.lay\n"
-                   "  vltlayers snapshot town.lay --project city.gvw -o town.png\n");
-
-void describe(QCommandLineParser &parser)
+CommandSyntax syntax()
 {
-    parser.setApplicationDescription(QStringLiteral(
-        "Makes a layer of 3D buildings, the same that the wizard makes: coloured from a raster\n"
-        "(--image), with images on roofs, walls or storeys (--texture, --textures), or plain."));
-    parser.addPositionalArgument(
-        QStringLiteral("VECTOR"),
-        QStringLiteral("Vector file with the outlines of the buildings (default: the project's)."),
-        QStringLiteral("buildings [VECTOR] -o OUT.lay"));
-    addBuildingsOptions(parser);
-    addGlobalOptions(parser);
+    CommandSyntax syntax;
+    syntax.name = QStringLiteral("buildings");
+    syntax.usage = QStringLiteral("[VECTOR] -o OUT.lay");
+    syntax.summary = dico_label("MESS_HELP_BUILDINGS_SUMMARY", "make a layer of buildings");
+    syntax.description =
+        dico_label("MESS_HELP_BUILDINGS",
+                   "Makes a layer of 3D buildings, the same that the wizard makes: colored from a "
+                   "raster (--image), with images on roofs, walls or storeys (--texture, "
+                   "--textures), or plain.");
+    syntax.inputs = {0, 1, QStringLiteral("VECTOR"),
+                     dico_label("MESS_HELP_BUILDINGS_VECTOR",
+                                "Vector file with the outlines of the buildings (default: the "
+                                "project's)."),
+                     dico_label("MESS_USE_NO_VECTOR", "no vector file given")};
+    syntax.options = buildingsOptions();
+    syntax.repeatable = {QStringLiteral("texture")};
+    syntax.examples =
+        QStringLiteral("  vltlayers buildings town.shp --dtm hills.tif -o town.lay\n"
+                       "  vltlayers buildings town.shp --dtm hills.tif --image level.tif \\\n"
+                       "      --colormap signal_level_dBm --absolute --mode average -o town.lay\n"
+                       "  vltlayers buildings --project city.gvw --textures coverage_6m.tif \\\n"
+                       "      --texture-on walls -o town.lay\n"
+                       "  vltlayers buildings --project city.gvw --texture low.tif=1.5 \\\n"
+                       "      --texture high.tif=12 --texture-on storeys -o town.lay\n"
+                       "  vltlayers snapshot town.lay --project city.gvw -o town.png\n");
+    return syntax;
 }
 
 Result<BuildingLayerFiles> writeFiles(const BuildingsRequest &request,
@@ -66,8 +73,9 @@ void warnOfImages(const BuildingsInputs &inputs)
         std::count_if(images.begin(), images.end(),
                       [](const buildings::FileEntry &image) { return image.height == 0; });
     if (count > 0)
-        printError(dico_label("MESS_CLI_NO_HEIGHTS", "images that state no height, 0 m is taken") +
-                   QStringLiteral(": %1").arg(count));
+        printError(
+            dico_label("MESS_CLI_NO_HEIGHTS", "images that state no height, 0 m is taken: %1")
+                .arg(count));
 }
 
 QString layerJson(const BuildingsRequest &request, const BuildingsInputs &inputs,
@@ -120,34 +128,37 @@ ExitStatus runParsed(const BuildingsRequest &request, const GlobalOptions &optio
     if (request.look && !options.quiet)
         warnOfImages(inputs.value());
     if (options.json && !printOut(layerJson(request, inputs.value(), written.value())))
-        return refuse({QString(), QStringLiteral("the output cannot be written"), {}});
+        return refuse({QStringLiteral("MESS_CLI_OUTPUT_FAILED"),
+                       QStringLiteral("the output cannot be written"),
+                       {}});
     return ExitStatus::Done;
+}
+
+ExitStatus run(const QCommandLineParser &parser, const GlobalOptions &options)
+{
+    const Result<BuildingsRequest> request = readBuildingsRequest(parser);
+    if (!request)
+        return refuseUsage(request.error().text);
+    if (options.projectPath.isEmpty()) {
+        if (request.value().vector.isEmpty())
+            return refuseUsage(dico_label("MESS_USE_NO_VECTOR_NOR_PROJECT",
+                                          "no vector file given, and no --project"));
+        if (request.value().terrain.isEmpty())
+            return refuseUsage(dico_label("MESS_USE_NO_DTM_NOR_PROJECT",
+                                          "no terrain given (--dtm), and no --project"));
+    }
+
+    const Result<Surroundings> surroundings = startUp(options);
+    if (!surroundings)
+        return refuse(surroundings.error());
+    return runParsed(request.value(), options, surroundings.value());
 }
 
 } // namespace
 
-ExitStatus runBuildings(const QStringList &arguments)
+Command buildingsCommand()
 {
-    QCommandLineParser parser;
-    describe(parser);
-    const Result<GlobalOptions> options =
-        parseArguments(parser, arguments, {0, 1, QStringLiteral("vector file")});
-    if (const auto answered = answerHelp(parser, options, Examples))
-        return *answered;
-    const Result<BuildingsRequest> request = readBuildingsRequest(parser);
-    if (!request)
-        return refuseUsage(request.error().text);
-    if (options.value().projectPath.isEmpty()) {
-        if (request.value().vector.isEmpty())
-            return refuseUsage(QStringLiteral("no vector file given, and no --project"));
-        if (request.value().terrain.isEmpty())
-            return refuseUsage(QStringLiteral("no terrain given (--dtm), and no --project"));
-    }
-
-    const Result<Surroundings> surroundings = startUp(options.value());
-    if (!surroundings)
-        return refuse(surroundings.error());
-    return runParsed(request.value(), options.value(), surroundings.value());
+    return {syntax, run};
 }
 
 } // namespace vlt::batch

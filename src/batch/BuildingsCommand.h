@@ -1,11 +1,11 @@
 #pragma once
 
-#include "batch/CommandLine.h"
+#include "batch/Command.h"
 
 namespace vlt::batch {
 
-/// "buildings VECTOR -o OUT.lay": makes a layer of coloured or textured buildings. Legends are
+/// "buildings VECTOR -o OUT.lay": makes a layer of colored or textured buildings. Legends are
 /// drawn, so a QGuiApplication must be there.
-ExitStatus runBuildings(const QStringList &arguments);
+Command buildingsCommand();
 
 } // namespace vlt::batch

@@ -46,7 +46,7 @@ QStringList wordsOf(const char *const (&words)[N])
     return list;
 }
 
-/// Makes the parser know the options of a layer of buildings.
-void addBuildingsOptions(QCommandLineParser &parser);
+/// The options of a layer of buildings.
+QList<QCommandLineOption> buildingsOptions();
 
 } // namespace vlt::batch

@@ -2,6 +2,7 @@
 
 #include "batch/BuildingsOptions.h"
 #include "batch/ColorText.h"
+#include "language/VltLanguageManager.h"
 
 namespace vlt::batch {
 
@@ -26,17 +27,6 @@ const QStringList OfTextures = {
     QStringLiteral("magnify")};
 const QStringList OfLook = {QStringLiteral("cache"), QStringLiteral("delayed-write"),
                             QStringLiteral("cache-capacity")};
-
-Error usage(const QString &text)
-{
-    return {QString(), text, {}};
-}
-
-Error wrongValue(const QString &option, const QString &wanted, const QString &value)
-{
-    return usage(QStringLiteral("--%1 is %2, not \"").arg(option, wanted) + value +
-                 QLatin1Char('"'));
-}
 
 /// Position of an option's value among the words; the first where it is not given.
 Result<int> readWord(const QCommandLineParser &parser, const QString &option,
@@ -63,8 +53,9 @@ Result<QString> readColor(const QCommandLineParser &parser, const QString &optio
     if (!color)
         return wrongValue(option,
                           mayBeFromMap
-                              ? QStringLiteral("RRGGBB, a name such as red or the word colormap")
-                              : QStringLiteral("RRGGBB or a name such as red"),
+                              ? dico_label("MESS_USE_COLOR_OR_MAP",
+                                           "RRGGBB, a name such as red or the word colormap")
+                              : dico_label("MESS_USE_COLOR", "RRGGBB or a name such as red"),
                           value);
     return color->name();
 }
@@ -77,7 +68,7 @@ std::optional<Error> checkNoData(const QCommandLineParser &parser, const QString
     value.toDouble(&isNumber);
     if (value.isEmpty() || isNumber)
         return std::nullopt;
-    return wrongValue(option, QStringLiteral("a number"), value);
+    return wrongValue(option, dico_label("MESS_USE_ANY_NUMBER", "a number"), value);
 }
 
 bool hasTextures(const QCommandLineParser &parser)
@@ -97,22 +88,25 @@ std::optional<Error> checkCompanions(const QCommandLineParser &parser)
     const auto refused = [&parser](const QStringList &options, const QString &why) {
         for (const QString &option : options) {
             if (parser.isSet(option))
-                return std::optional(usage(QStringLiteral("--%1 %2").arg(option, why)));
+                return std::optional(wrongUsage(why.arg(QStringLiteral("--") + option)));
         }
         return std::optional<Error>();
     };
     const bool hasFolders = parser.isSet(QStringLiteral("textures"));
     if (hasFolders && parser.isSet(QStringLiteral("texture")))
-        return usage(QStringLiteral("--texture and --textures do not go together"));
+        return wrongUsage(
+            dico_label("MESS_USE_BOTH_TEXTURES", "--texture and --textures do not go together"));
     std::optional<Error> error;
     if (!parser.isSet(QStringLiteral("image")))
-        error = refused(OfImage, QStringLiteral("is only for --image"));
+        error = refused(OfImage, dico_label("MESS_USE_ONLY_IMAGE", "%1 is only for --image"));
     if (!error && !hasFolders)
-        error = refused(OfFolders, QStringLiteral("is only for --textures"));
+        error = refused(OfFolders, dico_label("MESS_USE_ONLY_SET", "%1 is only for --textures"));
     if (!error && !hasTextures(parser))
-        error = refused(OfTextures, QStringLiteral("is only for --texture and --textures"));
+        error = refused(OfTextures, dico_label("MESS_USE_ONLY_TEXTURES",
+                                               "%1 is only for --texture and --textures"));
     if (!error && !hasLook(parser))
-        error = refused(OfLook, QStringLiteral("is not for buildings that --image colours alone"));
+        error = refused(OfLook, dico_label("MESS_USE_NOT_IMAGE",
+                                           "%1 is not for buildings that --image colors alone"));
     return error;
 }
 
@@ -121,7 +115,8 @@ Result<RasterColoring> readImage(const QCommandLineParser &parser)
     RasterColoring image;
     image.rasterFile = parser.value(QStringLiteral("image"));
     if (image.rasterFile.isEmpty())
-        return usage(QStringLiteral("--image needs a value"));
+        return wrongUsage(
+            dico_label("MESS_USE_NO_VALUE", "%1 needs a value").arg(QStringLiteral("--image")));
     if (const auto error = checkNoData(parser, QStringLiteral("image-nodata")))
         return *error;
     image.noData = parser.value(QStringLiteral("image-nodata"));
@@ -152,7 +147,8 @@ Result<std::optional<CacheSettings>> readCache(const QCommandLineParser &parser,
                                            measures.cacheCapacity});
     for (const char *option : {"delayed-write", "cache-capacity"}) {
         if (parser.isSet(QLatin1String(option)))
-            return usage(QStringLiteral("--%1 needs a --cache").arg(QLatin1String(option)));
+            return wrongUsage(dico_label("MESS_USE_NEEDS_CACHE", "--%1 needs a --cache")
+                                  .arg(QLatin1String(option)));
     }
     return std::optional<CacheSettings>();
 }
@@ -202,10 +198,11 @@ Result<buildings::TexturedLook> readLook(const QCommandLineParser &parser,
                          roofs.value() == QLatin1String(ColorMapWord);
     const bool hasImage = parser.isSet(QStringLiteral("image"));
     if (usesMap && !hasImage)
-        return usage(QStringLiteral("colormap as a colour needs --image"));
+        return wrongUsage(dico_label("MESS_USE_NEEDS_IMAGE", "colormap as a color needs --image"));
     if (hasImage && !usesMap)
-        return usage(QStringLiteral("--image colours these buildings only with --wall-color "
-                                    "colormap or --roof-color colormap"));
+        return wrongUsage(dico_label("MESS_USE_NEEDS_COLORMAP",
+                                     "--image colors these buildings only with --wall-color "
+                                     "colormap or --roof-color colormap"));
     buildings::TexturedLook look;
     look.cache = cache.value();
     look.texturedVisibility = measures.texturedDistance;
@@ -226,7 +223,8 @@ std::optional<Error> readTextureChoice(const QCommandLineParser &parser,
     choice.filter = parser.value(QStringLiteral("filter"));
     if (choice.files.contains(QString()) ||
         (choice.files.isEmpty() && choice.templateFile.isEmpty()))
-        return usage(QStringLiteral("--texture and --textures need a value"));
+        return wrongUsage(
+            dico_label("MESS_USE_TEXTURES_EMPTY", "--texture and --textures need a value"));
     const Result<int> structure =
         readWord(parser, QStringLiteral("structure"), wordsOf(StructureWords));
     if (!structure)
@@ -252,7 +250,7 @@ Result<BuildingsRequest> readBuildingsRequest(const QCommandLineParser &parser)
     request.vector = parser.positionalArguments().value(0);
     request.output = parser.value(QStringLiteral("output"));
     if (request.output.isEmpty())
-        return usage(QStringLiteral("no output file given (-o OUT.lay)"));
+        return wrongUsage(dico_label("MESS_USE_NO_OUTPUT", "no output file given (-o OUT.lay)"));
     request.layer = parser.value(QStringLiteral("layer"));
     request.heightField = parser.value(QStringLiteral("height-field"));
     request.terrain = parser.value(QStringLiteral("dtm"));

@@ -1,87 +1,206 @@
 #include "batch/CommandLine.h"
 
+#include "batch/Command.h"
+#include "batch/Suggestion.h"
+#include "language/VltLanguageManager.h"
+
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <optional>
+
 namespace vlt::batch {
 
 namespace {
 
-Error wrongUsage(const QString &text)
+const QString Install = QStringLiteral("install");
+const QString Project = QStringLiteral("project");
+const QString Language = QStringLiteral("language");
+const QString Json = QStringLiteral("json");
+
+/// Global options with a value.
+const QStringList ValueNames = {Install, Project, Language};
+
+bool isLanguage(const QString &text)
 {
-    return Error{QString(), text, {}};
+    return text == QLatin1String("fr") || text == QLatin1String("en");
 }
 
-bool takesValue(const QString &argument)
+QString dashed(const QString &name)
 {
-    return argument == QLatin1String("--install") || argument == QLatin1String("--project") ||
-           argument == QLatin1String("--language");
+    return QLatin1String(name.size() == 1 ? "-" : "--") + name;
+}
+
+/// The option as it was typed: an unknown "-frob" comes back as its first letter.
+QString typed(const QString &name, const QStringList &arguments)
+{
+    for (const QString &argument : arguments.mid(1)) {
+        const QString option = argument.section(QLatin1Char('='), 0, 0);
+        if (option == QLatin1String("--") + name ||
+            (name.size() == 1 && option.startsWith(QLatin1Char('-')) &&
+             !option.startsWith(QLatin1String("--")) && option.mid(1).contains(name)))
+            return option;
+    }
+    return dashed(name);
+}
+
+Error unknownOption(const QString &name, const CommandSyntax &syntax, const QStringList &arguments)
+{
+    QStringList known;
+    for (const QCommandLineOption &option : syntax.options + globalOptions()) {
+        for (const QString &each : option.names())
+            known << dashed(each);
+    }
+    const QString given = typed(name, arguments);
+    const QString text = dico_label("MESS_USE_UNKNOWN_OPTION", "unknown option '%1'").arg(given);
+    return wrongUsage(text + didYouMean(given, known));
+}
+
+/// Why the parser did not understand the arguments.
+Error misunderstood(const QCommandLineParser &parser, const CommandSyntax &syntax,
+                    const QStringList &arguments)
+{
+    if (const QStringList unknown = parser.unknownOptionNames(); !unknown.isEmpty())
+        return unknownOption(unknown.constFirst(), syntax, arguments);
+    static const QRegularExpression quoted(QStringLiteral("'(.+)'"));
+    const QString option = quoted.match(parser.errorText()).captured(1);
+    return wrongUsage((option == arguments.constLast()
+                           ? dico_label("MESS_USE_NO_VALUE", "%1 needs a value")
+                           : dico_label("MESS_USE_A_VALUE", "%1 takes no value"))
+                          .arg(option));
+}
+
+/// An option with a value that is given twice: only one of the values could be taken.
+std::optional<Error> repeated(const QCommandLineParser &parser, const CommandSyntax &syntax)
+{
+    const QStringList given = parser.optionNames();
+    for (const QCommandLineOption &option : syntax.options + globalOptions()) {
+        const QStringList names = option.names();
+        const auto times = std::count_if(given.begin(), given.end(), [&names](const QString &name) {
+            return names.contains(name);
+        });
+        if (times > 1 && !option.valueName().isEmpty() &&
+            !syntax.repeatable.contains(names.constFirst()))
+            return wrongUsage(dico_label("MESS_USE_TWICE", "%1 is given more than once")
+                                  .arg(dashed(names.constFirst())));
+    }
+    return std::nullopt;
+}
+
+std::optional<Error> checkInputs(const QStringList &given, const Inputs &inputs)
+{
+    if (given.size() < inputs.least || (!given.isEmpty() && given.first().isEmpty()))
+        return wrongUsage(inputs.missing);
+    if (given.size() > inputs.most)
+        return wrongUsage(
+            dico_label("MESS_USE_TOO_MANY", "too many arguments: %1").arg(given.at(inputs.most)));
+    if (given.contains(QLatin1String("-")))
+        return wrongUsage(dico_label("MESS_USE_NO_INPUT",
+                                     "'-': the standard input is not read, inputs are files"));
+    return std::nullopt;
+}
+
+std::optional<Error> checkValues(const QCommandLineParser &parser)
+{
+    for (const QString &name : ValueNames) {
+        if (parser.isSet(name) && parser.value(name).isEmpty())
+            return wrongUsage(
+                dico_label("MESS_USE_NO_VALUE", "%1 needs a value").arg(dashed(name)));
+    }
+    if (parser.isSet(Language) && !isLanguage(parser.value(Language)))
+        return wrongValue(Language, QStringLiteral("fr|en"), parser.value(Language));
+    return std::nullopt;
 }
 
 } // namespace
 
 SplitArguments splitCommand(const QStringList &arguments)
 {
-    SplitArguments split{{}, arguments};
+    SplitArguments split;
+    split.others = arguments.mid(0, 1);
+    QStringList values(ValueNames.size());
     for (qsizetype i = 1; i < arguments.size(); ++i) {
         const QString &argument = arguments.at(i);
-        if (takesValue(argument)) {
-            ++i;
-        } else if (!argument.startsWith(QLatin1Char('-'))) {
+        const qsizetype known = ValueNames.indexOf(argument.section(QLatin1Char('='), 0, 0).mid(2));
+        const bool isKnown = known >= 0 && argument.startsWith(QLatin1String("--"));
+        const bool isName = !argument.startsWith(QLatin1Char('-')) && split.command.isEmpty();
+        if (isName)
             split.command = argument;
-            split.others.removeAt(i);
-            break;
-        }
+        else
+            split.others << argument;
+        if (argument == QLatin1String("--json"))
+            split.json = true;
+        else if (isKnown && argument.contains(QLatin1Char('=')))
+            values[known] = argument.section(QLatin1Char('='), 1);
+        else if (isKnown && i + 1 < arguments.size())
+            split.others << (values[known] = arguments.at(++i));
     }
+    split.installDir = values.at(ValueNames.indexOf(Install));
+    const QString language = values.at(ValueNames.indexOf(Language));
+    if (isLanguage(language))
+        split.language = language;
     return split;
 }
 
-void addGlobalOptions(QCommandLineParser &parser)
+QList<QCommandLineOption> globalOptions()
 {
-    parser.addOptions({
-        {QStringLiteral("install"),
-         QStringLiteral("Root of the installation (default: where the program's settings say, "
-                        "else the program's own directory)."),
+    return {
+        {Install,
+         dico_label("MESS_OPT_INSTALL", "Root of the installation (default: where the program's "
+                                        "settings say, else the program's own directory)."),
          QStringLiteral("DIR")},
-        {QStringLiteral("project"),
-         QStringLiteral("Target project: its reference system and terrain choose the coordinate "
-                        "systems, and the layer names the table relative to it; "
-                        "buildings: its buildings and terrain are the defaults."),
+        {Project,
+         dico_label("MESS_OPT_PROJECT",
+                    "Target project: its reference system and terrain choose the coordinate "
+                    "systems, and the layer names the table relative to it; buildings: its "
+                    "buildings and terrain are the defaults."),
          QStringLiteral("P.gvw")},
-        {QStringLiteral("language"), QStringLiteral("Language of messages and of the layer."),
+        {Language, dico_label("MESS_OPT_LANGUAGE", "Language of messages and of the layer."),
          QStringLiteral("fr|en")},
-        {QStringLiteral("json"), QStringLiteral("Print one JSON object (UTF-8).")},
-        {QStringLiteral("quiet"), QStringLiteral("Tell nothing on the error output but errors.")},
-        {{QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Show this help.")},
-        {QStringLiteral("version"), QStringLiteral("Show the version.")},
-    });
+        {Json, dico_label("MESS_OPT_JSON", "Print one JSON object (UTF-8); errors, too.")},
+        {QStringLiteral("quiet"),
+         dico_label("MESS_OPT_QUIET", "Tell nothing on the error output but errors.")},
+        {{QStringLiteral("h"), QStringLiteral("help")},
+         dico_label("MESS_OPT_HELP", "Show this help.")},
+        {QStringLiteral("version"),
+         dico_label("MESS_OPT_VERSION", "Show the versions of the program and of its libraries.")},
+    };
 }
 
-Result<GlobalOptions> parseArguments(QCommandLineParser &parser, const QStringList &arguments,
-                                     const Inputs &inputs)
+Result<GlobalOptions> parseArguments(QCommandLineParser &parser, const CommandSyntax &syntax,
+                                     const QStringList &arguments, const Place &place)
 {
+    parser.addOptions(syntax.options);
+    parser.addOptions(globalOptions());
     if (!parser.parse(arguments))
-        return wrongUsage(parser.errorText());
+        return misunderstood(parser, syntax, arguments);
 
     GlobalOptions options;
-    options.installDir = parser.value(QStringLiteral("install"));
-    options.projectPath = parser.value(QStringLiteral("project"));
-    options.language = parser.value(QStringLiteral("language"));
-    options.json = parser.isSet(QStringLiteral("json"));
+    options.place = place;
+    options.projectPath = parser.value(Project);
+    options.json = parser.isSet(Json);
     options.quiet = parser.isSet(QStringLiteral("quiet"));
     if (parser.isSet(QStringLiteral("help")) || parser.isSet(QStringLiteral("version")))
         return options;
 
-    for (const char *name : {"install", "project", "language"}) {
-        if (parser.isSet(QLatin1String(name)) && parser.value(QLatin1String(name)).isEmpty())
-            return wrongUsage(QStringLiteral("--%1 needs a value").arg(QLatin1String(name)));
-    }
-    if (!options.language.isEmpty() && options.language != QLatin1String("fr") &&
-        options.language != QLatin1String("en"))
-        return wrongUsage(QStringLiteral("--language is fr or en"));
-    const QStringList given = parser.positionalArguments();
-    if (given.size() < inputs.least || (!given.isEmpty() && given.first().isEmpty()))
-        return wrongUsage(QStringLiteral("no %1 given").arg(inputs.kind));
-    if (given.size() > inputs.most)
-        return wrongUsage(QStringLiteral("too many arguments: ") + given.at(inputs.most));
+    if (const auto error = repeated(parser, syntax))
+        return *error;
+    if (const auto error = checkValues(parser))
+        return *error;
+    if (const auto error = checkInputs(parser.positionalArguments(), syntax.inputs))
+        return *error;
     return options;
+}
+
+Error wrongUsage(const QString &text)
+{
+    return {QString(), text, {}};
+}
+
+Error wrongValue(const QString &option, const QString &wanted, const QString &value)
+{
+    return wrongUsage(
+        dico_label("MESS_USE_WRONG_VALUE", "--%1 is %2, not \"%3\"").arg(option, wanted, value));
 }
 
 } // namespace vlt::batch

@@ -3,9 +3,21 @@
 #include "language/VltLanguageManager.h"
 #include "sites/TableTexts.h"
 
+#include <QJsonDocument>
+
 #include <cstdio>
 
 namespace vlt::batch {
+
+namespace {
+
+ErrorStyle &styleOfRun()
+{
+    static ErrorStyle style;
+    return style;
+}
+
+} // namespace
 
 bool printOut(const QString &text)
 {
@@ -20,10 +32,35 @@ void printError(const QString &text)
     std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stderr);
 }
 
-ExitStatus refuse(const Error &error, const QString &detail)
+void setErrorStyle(const ErrorStyle &style)
+{
+    styleOfRun() = style;
+}
+
+const ErrorStyle &errorStyle()
+{
+    return styleOfRun();
+}
+
+void tellError(const Error &error, const QString &detail, ExitStatus status)
 {
     printError(explain(error, detail));
+    if (errorStyle().json)
+        printOut(QString::fromUtf8(QJsonDocument(errorJson(error, detail, status)).toJson()));
+}
+
+ExitStatus refuse(const Error &error, const QString &detail)
+{
+    tellError(error, detail, ExitStatus::Refused);
     return ExitStatus::Refused;
+}
+
+QJsonObject errorJson(const Error &error, const QString &detail, ExitStatus status)
+{
+    return {{QStringLiteral("error"), explain({error.key, error.text, {}}, detail)},
+            {QStringLiteral("file"),
+             error.path.isEmpty() ? QJsonValue(QJsonValue::Null) : QJsonValue(error.path)},
+            {QStringLiteral("exit"), static_cast<int>(status)}};
 }
 
 QString explain(const Error &error, const QString &detail)

@@ -1,17 +1,19 @@
 #pragma once
 
-#include "batch/CommandLine.h"
+#include "batch/Command.h"
 
 #include <optional>
 
 namespace vlt::batch {
 
-/// Deals with what needs no work: a wrong command line, --help and --version. None where the
-/// command has to run.
-///
-/// @param examples  shown at the end of the help
-std::optional<ExitStatus> answerHelp(const QCommandLineParser &parser,
-                                     const Result<GlobalOptions> &options, const QString &examples);
+/// The whole help of a command, in the language in use.
+QString helpText(const CommandSyntax &syntax, const Place &place);
+
+/// The help of the program, which lists its commands.
+QString programHelpText();
+
+/// Versions of the program and of the libraries that it works with, a line each.
+QString versionText();
 
 /// Says what is wrong with the command line and where help is.
 ExitStatus refuseUsage(const QString &text);

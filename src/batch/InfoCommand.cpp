@@ -1,7 +1,6 @@
 #include "batch/InfoCommand.h"
 
 #include "batch/Console.h"
-#include "batch/Help.h"
 #include "batch/InfoReport.h"
 #include "batch/LayerCommand.h"
 #include "batch/StartUp.h"
@@ -14,16 +13,14 @@
 
 #include <QFileInfo>
 #include <QJsonArray>
+#include <QJsonDocument>
+
+#include <limits>
+#include <optional>
 
 namespace vlt::batch {
 
 namespace {
-
-const QString Examples =
-    QStringLiteral("\nExamples:\n"
-                   "  vltlayers info sites.xlsx\n"
-                   "  vltlayers info --link links.xlsx\n"
-                   "  vltlayers info --project city.gvw --json \"my sites.csv\"\n");
 
 QJsonObject columnsJson(const sites::SiteColumnSet &columns)
 {
@@ -95,54 +92,117 @@ InfoReport linkReport(const links::LinkFileInfo &file)
     return report;
 }
 
-ExitStatus tell(InfoReport report, const QString &kind, const QString &table, bool json)
+/// A table's report; why it has none.
+struct TableOutcome
+{
+    std::optional<InfoReport> report;
+    Error error;
+    QString detail; ///< of the error
+};
+
+TableOutcome outcomeOf(InfoReport report, const QString &kind, const QString &table)
 {
     if (report.file.error)
-        return refuse({report.file.error->key, report.file.error->text, table},
-                      report.file.errorDetail);
-
+        return {
+            {}, {report.file.error->key, report.file.error->text, table}, report.file.errorDetail};
     const Result<geodata::SiteCheck> check =
         geodata::readSiteCheck(kind + report.file.filePath, {}, report.file.systems);
     if (!check)
-        return refuse({check.error().key, check.error().text, table});
+        return {{}, {check.error().key, check.error().text, table}, {}};
     const QList<Problem> ofSystems =
         sites::systemProblems(report.file.unit, report.file.systems, check.value().systems);
     report.problems.count += ofSystems.size() + check.value().problems.count;
     report.problems.listed += ofSystems + check.value().problems.listed;
-    return printResult(json ? reportJson(report) : reportText(report));
+    return {report, {}, {}};
+}
+
+TableOutcome readTable(const QString &table, bool isLinks, const sites::ProjectContext &project)
+{
+    const QString path = QFileInfo(table).absoluteFilePath();
+    return isLinks ? outcomeOf(linkReport(links::readLinkFileInfo(path, project)),
+                               QStringLiteral("link:"), table)
+                   : outcomeOf(siteReport(sites::readSiteFileInfo(path, project)),
+                               QStringLiteral("site:"), table);
+}
+
+/// Several tables as one object, in which those that are refused have an error.
+ExitStatus tellAsJson(const QList<TableOutcome> &outcomes)
+{
+    QJsonArray tables;
+    ExitStatus status = ExitStatus::Done;
+    for (const TableOutcome &outcome : outcomes) {
+        tables.append(outcome.report
+                          ? reportJson(*outcome.report)
+                          : errorJson(outcome.error, outcome.detail, ExitStatus::Refused));
+        if (outcome.report)
+            continue;
+        status = ExitStatus::Refused;
+        printError(explain(outcome.error, outcome.detail));
+    }
+    const QJsonObject object{{QStringLiteral("tables"), tables}};
+    const ExitStatus printed = printResult(QString::fromUtf8(QJsonDocument(object).toJson()));
+    return printed == ExitStatus::Done ? status : printed;
+}
+
+ExitStatus tell(const TableOutcome &outcome, bool json)
+{
+    if (!outcome.report)
+        return refuse(outcome.error, outcome.detail);
+    return printResult(json ? QString::fromUtf8(QJsonDocument(reportJson(*outcome.report)).toJson())
+                            : reportText(*outcome.report));
+}
+
+CommandSyntax syntax()
+{
+    CommandSyntax syntax;
+    syntax.name = QStringLiteral("info");
+    syntax.usage = QStringLiteral("TABLE...");
+    syntax.summary = dico_label("MESS_HELP_INFO_SUMMARY", "what tables hold");
+    syntax.description =
+        dico_label("MESS_HELP_INFO", "Tells what a table of sites or links holds: format, unit, "
+                                     "coordinate systems, recognised columns, and the rows that "
+                                     "cannot be used.");
+    syntax.inputs = {1, std::numeric_limits<int>::max(), QStringLiteral("TABLE"),
+                     dico_label("MESS_HELP_INFO_TABLE",
+                                "Site or link table (.xls .xlsx .xml .csv); one or more."),
+                     dico_label("MESS_USE_NO_TABLE", "no table given")};
+    syntax.options = {
+        {QStringLiteral("link"),
+         dico_label("MESS_OPT_INFO_LINK", "The tables have microwave links, not sites.")}};
+    syntax.examples =
+        QStringLiteral("  vltlayers info sites.xlsx\n"
+                       "  vltlayers info --link links.xlsx\n"
+                       "  vltlayers info --project city.gvw --json \"my sites.csv\"\n");
+    return syntax;
+}
+
+ExitStatus run(const QCommandLineParser &parser, const GlobalOptions &options)
+{
+    const Result<Surroundings> surroundings = startUp(options);
+    if (!surroundings)
+        return refuse(surroundings.error());
+    const bool isLinks = parser.isSet(QStringLiteral("link"));
+    QList<TableOutcome> outcomes;
+    for (const QString &table : parser.positionalArguments())
+        outcomes << readTable(table, isLinks, surroundings.value().project);
+    if (options.json && outcomes.size() > 1)
+        return tellAsJson(outcomes);
+
+    ExitStatus status = ExitStatus::Done;
+    for (const TableOutcome &outcome : outcomes) {
+        if (const ExitStatus told = tell(outcome, options.json); told != ExitStatus::Done)
+            status = told;
+        if (&outcome != &outcomes.constLast())
+            printOut(QStringLiteral("\n"));
+    }
+    return status;
 }
 
 } // namespace
 
-ExitStatus runInfo(const QStringList &arguments)
+Command infoCommand()
 {
-    QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral(
-        "Tells what a table of sites or links holds: format, unit, coordinate systems,\n"
-        "recognised columns, and the rows that cannot be used."));
-    parser.addPositionalArgument(QStringLiteral("TABLE"),
-                                 QStringLiteral("Site or link table (.xls .xlsx .xml .csv)."),
-                                 QStringLiteral("info TABLE"));
-    parser.addOption(
-        {QStringLiteral("link"), QStringLiteral("The table has microwave links, not sites.")});
-    addGlobalOptions(parser);
-    const Result<GlobalOptions> options =
-        parseArguments(parser, arguments, {1, 1, QStringLiteral("table")});
-    if (const auto answered = answerHelp(parser, options, Examples))
-        return *answered;
-
-    const Result<Surroundings> surroundings = startUp(options.value());
-    if (!surroundings)
-        return refuse(surroundings.error());
-    const QString table = parser.positionalArguments().constFirst();
-    const QString path = QFileInfo(table).absoluteFilePath();
-    const sites::ProjectContext &project = surroundings.value().project;
-    const bool json = options.value().json;
-    return parser.isSet(QStringLiteral("link"))
-               ? tell(linkReport(links::readLinkFileInfo(path, project)), QStringLiteral("link:"),
-                      table, json)
-               : tell(siteReport(sites::readSiteFileInfo(path, project)), QStringLiteral("site:"),
-                      table, json);
+    return {syntax, run};
 }
 
 } // namespace vlt::batch

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "batch/CommandLine.h"
+#include "batch/Command.h"
 
 namespace vlt::batch {
 
 /// "vltlayers info [--link] TABLE": what a table holds and what of it cannot be used.
-ExitStatus runInfo(const QStringList &arguments);
+Command infoCommand();
 
 } // namespace vlt::batch

@@ -6,7 +6,6 @@
 #include "sites/TableTexts.h"
 
 #include <QJsonArray>
-#include <QJsonDocument>
 
 namespace vlt::batch {
 
@@ -88,7 +87,7 @@ QString reportText(const InfoReport &report)
            problemsText(report.problems);
 }
 
-QString reportJson(const InfoReport &report)
+QJsonObject reportJson(const InfoReport &report)
 {
     const sites::TableFileInfo &file = report.file;
     QJsonObject object{{QStringLiteral("file"), file.filePath},
@@ -106,7 +105,7 @@ QString reportJson(const InfoReport &report)
                        {QStringLiteral("problems"), problemsJson(report.problems)}};
     for (const InfoEntry &entry : report.further)
         object.insert(entry.key, entry.value);
-    return QString::fromUtf8(QJsonDocument(object).toJson());
+    return object;
 }
 
 } // namespace vlt::batch

@@ -34,7 +34,7 @@ QString problemText(const Problem &problem);
 /// For people: labelled lines in the chosen language.
 QString reportText(const InfoReport &report);
 
-/// For programs: one JSON object, with a line feed at its end.
-QString reportJson(const InfoReport &report);
+/// For programs.
+QJsonObject reportJson(const InfoReport &report);
 
 } // namespace vlt::batch

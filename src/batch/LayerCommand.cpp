@@ -35,22 +35,24 @@ qint64 refusedRows(const geodata::LayerProblems &problems)
 
 } // namespace
 
-void addLayerOptions(QCommandLineParser &parser)
+QList<QCommandLineOption> layerOptions()
 {
-    parser.addOptions({
-        {{QStringLiteral("o"), QStringLiteral("output")},
-         QStringLiteral("Layer file to write."),
-         QStringLiteral("OUT.lay")},
-        {QStringLiteral("source-srs"),
-         QStringLiteral("Coordinate system of the table (default: what the table declares, else "
-                        "4326 for degrees, else the terrain's)."),
-         QStringLiteral("SRS")},
-        {QStringLiteral("target-srs"),
-         QStringLiteral("Coordinate system of the project (default: the project's, else the "
-                        "terrain's, else 4326 for degrees, else the table's)."),
-         QStringLiteral("SRS")},
-    });
-    addSiteOptions(parser);
+    return QList<QCommandLineOption>{
+               {{QStringLiteral("o"), QStringLiteral("output")},
+                dico_label("MESS_OPT_OUTPUT", "Layer file to write."),
+                QStringLiteral("OUT.lay")},
+               {QStringLiteral("source-srs"),
+                dico_label("MESS_OPT_SOURCE_SRS",
+                           "Coordinate system of the table (default: what the table declares, else "
+                           "4326 for degrees, else the terrain's)."),
+                QStringLiteral("SRS")},
+               {QStringLiteral("target-srs"),
+                dico_label("MESS_OPT_TARGET_SRS",
+                           "Coordinate system of the project (default: the project's, else the "
+                           "terrain's, else 4326 for degrees, else the table's)."),
+                QStringLiteral("SRS")},
+           } +
+           siteOptions();
 }
 
 std::variant<LayerRequest, ExitStatus> readLayerRequest(const QCommandLineParser &parser,
@@ -116,8 +118,8 @@ void warnOfSystems(const LayerOutcome &outcome)
 void warnOfLayer(const LayerOutcome &outcome, const sites::SiteSystems &systems)
 {
     if (outcome.unplacedRows > 0)
-        printError(dico_label("MESS_CLI_UNPLACED", "rows that could not be placed") +
-                   QStringLiteral(": %1").arg(outcome.unplacedRows));
+        printError(dico_label("MESS_CLI_UNPLACED", "rows that could not be placed: %1")
+                       .arg(outcome.unplacedRows));
     warnOfSystems(outcome);
     if (systems.source.isEmpty() && systems.target.isEmpty())
         printError(dico_label("MESS_CLI_NO_SRS", "no coordinate system is known: give "
@@ -139,7 +141,9 @@ QJsonObject layerJson(const LayerRequest &request, const LayerOutcome &outcome,
 ExitStatus printResult(const QString &text)
 {
     if (!printOut(text))
-        return refuse({QString(), QStringLiteral("the output cannot be written"), {}});
+        return refuse({QStringLiteral("MESS_CLI_OUTPUT_FAILED"),
+                       QStringLiteral("the output cannot be written"),
+                       {}});
     return ExitStatus::Done;
 }
 

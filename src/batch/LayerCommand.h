@@ -33,8 +33,8 @@ struct LayerOutcome
     QList<Problem> systemProblems; ///< what does not fit about the coordinate systems
 };
 
-/// Makes the parser know the output, the coordinate systems and the look of pylons.
-void addLayerOptions(QCommandLineParser &parser);
+/// The output, the coordinate systems and the look of pylons.
+QList<QCommandLineOption> layerOptions();
 
 /// Takes the common part of the command line, or refuses it and gives the exit status.
 ///

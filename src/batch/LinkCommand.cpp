@@ -18,14 +18,6 @@ namespace vlt::batch {
 
 namespace {
 
-const QString Examples =
-    QStringLiteral("\nExamples:\n"
-                   "  vltlayers link links.xlsx -o links.lay\n"
-                   "  vltlayers link links.csv --project city.gvw --color-by-clearance \\\n"
-                   "      --link-style line --link-width 3 -o links.lay\n"
-                   "  vltlayers link links.csv --terrain hills.tif --k-factor 1 --report\n"
-                   "  vltlayers link links.csv --terrain hills.tif --report --json\n");
-
 /// The command's own part of the command line.
 struct LinkRequest
 {
@@ -34,25 +26,39 @@ struct LinkRequest
     bool report = false;
 };
 
-void describe(QCommandLineParser &parser)
+CommandSyntax syntax()
 {
-    parser.setApplicationDescription(
-        QStringLiteral("Makes a layer of a table of microwave links, the same that the wizard "
-                       "makes, and tells\nwhich of the links have a free path over the terrain."));
-    parser.addPositionalArgument(QStringLiteral("TABLE"),
-                                 QStringLiteral("Link table (.xls .xlsx .xml .csv)."),
-                                 QStringLiteral("link TABLE -o OUT.lay"));
-    addLayerOptions(parser);
-    addLinkOptions(parser);
-    parser.addOptions({
-        {QStringLiteral("terrain"),
-         QStringLiteral("Terrain file under the links (default: the project's; empty: none)."),
-         QStringLiteral("FILE")},
-        {QStringLiteral("report"),
-         QStringLiteral("Print length, frequency, verdict and worst point of every link. The layer "
-                        "may be left out then.")},
-    });
-    addGlobalOptions(parser);
+    CommandSyntax syntax;
+    syntax.name = QStringLiteral("link");
+    syntax.usage = QStringLiteral("TABLE [-o OUT.lay] [--report]");
+    syntax.summary =
+        dico_label("MESS_HELP_LINK_SUMMARY", "make a layer of links, tell which of them are free");
+    syntax.description =
+        dico_label("MESS_HELP_LINK", "Makes a layer of a table of microwave links, the same that "
+                                     "the wizard makes, and tells which of the links have a free "
+                                     "path over the terrain.");
+    syntax.inputs = {1, 1, QStringLiteral("TABLE"),
+                     dico_label("MESS_HELP_LINK_TABLE", "Link table (.xls .xlsx .xml .csv)."),
+                     dico_label("MESS_USE_NO_TABLE", "no table given")};
+    syntax.options =
+        layerOptions() + linkOptions() +
+        QList<QCommandLineOption>{
+            {QStringLiteral("terrain"),
+             dico_label("MESS_OPT_TERRAIN",
+                        "Terrain file under the links (default: the project's; empty: none)."),
+             QStringLiteral("FILE")},
+            {QStringLiteral("report"),
+             dico_label("MESS_OPT_REPORT", "Print length, frequency, verdict and worst point of "
+                                           "every link. The layer may be left out then.")},
+        };
+    syntax.examples =
+        QStringLiteral("  vltlayers link links.xlsx -o links.lay\n"
+                       "  vltlayers link links.csv --project city.gvw --color-by-clearance \\\n"
+                       "      --link-style line --link-width 3 -o links.lay\n"
+                       "  vltlayers link links.csv --terrain hills.tif --k-factor 1 --report\n"
+                       "  vltlayers link links.csv --terrain hills.tif --report --json\n");
+    syntax.lists = catalogueLists;
+    return syntax;
 }
 
 Result<LinkRequest> readLinkRequest(const QCommandLineParser &parser)
@@ -67,8 +73,8 @@ Result<LinkRequest> readLinkRequest(const QCommandLineParser &parser)
         request.terrain = parser.value(terrain);
     request.report = parser.isSet(QStringLiteral("report"));
     if (!request.report && parser.value(QStringLiteral("output")).isEmpty())
-        return Error{
-            QString(), QStringLiteral("no output file given (-o OUT.lay), and no --report"), {}};
+        return wrongUsage(dico_label("MESS_USE_NO_OUTPUT_NOR_REPORT",
+                                     "no output file given (-o OUT.lay), and no --report"));
     return request;
 }
 
@@ -180,26 +186,25 @@ ExitStatus runParsed(const QCommandLineParser &parser, const LinkRequest &wanted
     return makeLayer(input, request, wanted, options);
 }
 
-} // namespace
-
-ExitStatus runLink(const QStringList &arguments)
+ExitStatus run(const QCommandLineParser &parser, const GlobalOptions &options)
 {
-    QCommandLineParser parser;
-    describe(parser);
-    const Result<GlobalOptions> options =
-        parseArguments(parser, arguments, {1, 1, QStringLiteral("table")});
-    if (const auto answered = answerHelp(parser, options, Examples))
-        return *answered;
     const Result<LinkRequest> wanted = readLinkRequest(parser);
     if (!wanted)
         return refuseUsage(wanted.error().text);
     if (const auto numbers = readSiteNumbers(parser); !numbers)
         return refuseUsage(numbers.error().text);
 
-    const Result<Surroundings> surroundings = startUp(options.value());
+    const Result<Surroundings> surroundings = startUp(options);
     if (!surroundings)
         return refuse(surroundings.error());
-    return runParsed(parser, wanted.value(), options.value(), surroundings.value());
+    return runParsed(parser, wanted.value(), options, surroundings.value());
+}
+
+} // namespace
+
+Command linkCommand()
+{
+    return {syntax, run};
 }
 
 } // namespace vlt::batch

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "batch/CommandLine.h"
+#include "batch/Command.h"
 
 namespace vlt::batch {
 
 /// "vltlayers link TABLE -o OUT.lay": makes a link layer of a table, judges its links, or both.
-ExitStatus runLink(const QStringList &arguments);
+Command linkCommand();
 
 } // namespace vlt::batch

@@ -2,6 +2,7 @@
 
 #include "batch/ColorText.h"
 #include "batch/NumberOptions.h"
+#include "language/VltLanguageManager.h"
 
 #include <array>
 
@@ -19,21 +20,25 @@ const std::vector<NumberOption<LinkRepresentation>> &numberOptions()
 {
     static const std::vector<NumberOption<LinkRepresentation>> options = {
         {QStringLiteral("link-width"),
-         QStringLiteral("Width of the links, pixels for lines, else metres"),
+         dico_label("MESS_OPT_LINK_WIDTH", "Width of the links, pixels for lines, else metres"),
          &LinkRepresentation::width, links::LinkWidthLimits},
         {QStringLiteral("fresnel-zone"),
-         QStringLiteral("Number of the Fresnel zone that is drawn, 0 for none"),
+         dico_label("MESS_OPT_FRESNEL_ZONE",
+                    "Number of the Fresnel zone that is drawn, 0 for none"),
          &LinkRepresentation::fresnelZone,
          {0, links::FresnelZoneLimits.most}},
         {QStringLiteral("fresnel-share"),
-         QStringLiteral("Share of the zone's radius that is drawn, and of the first zone's that "
-                        "has to be free, in per cent"),
+         dico_label("MESS_OPT_FRESNEL_SHARE",
+                    "Share of the zone's radius that is drawn, and of the first zone's that has to "
+                    "be free, in per cent"),
          &LinkRepresentation::fresnelShare, links::FresnelShareLimits},
         {QStringLiteral("fresnel-transparency"),
-         QStringLiteral("Transparency of the Fresnel zone in per cent"),
+         dico_label("MESS_OPT_FRESNEL_TRANSPARENCY",
+                    "Transparency of the Fresnel zone in per cent"),
          &LinkRepresentation::fresnelTransparency, links::FresnelTransparencyLimits},
         {QStringLiteral("k-factor"),
-         QStringLiteral("Factor of the earth's radius, 1.33333 being that of a usual atmosphere"),
+         dico_label("MESS_OPT_K_FACTOR",
+                    "Factor of the earth's radius, 1.33333 being that of a usual atmosphere"),
          &LinkRepresentation::kFactor, links::KFactorLimits},
     };
     return options;
@@ -61,14 +66,6 @@ std::optional<LinkStyle> styleOf(const QString &text)
     return std::nullopt;
 }
 
-Error wrongValue(const QString &option, const QString &wanted, const QString &value)
-{
-    return Error{QString(),
-                 QStringLiteral("--%1 is %2, not \"").arg(option, wanted) + value +
-                     QLatin1Char('"'),
-                 {}};
-}
-
 /// Takes a colour that is given; RRGGBBAA only where an alpha is wanted.
 std::optional<Error> readColor(const QCommandLineParser &parser, const QString &option,
                                bool withAlpha, QColor &color)
@@ -78,34 +75,38 @@ std::optional<Error> readColor(const QCommandLineParser &parser, const QString &
     const QString text = parser.value(option);
     const std::optional<QColor> given = colorFrom(text, withAlpha);
     if (!given)
-        return wrongValue(option,
-                          withAlpha ? QStringLiteral("RRGGBB, RRGGBBAA or a name such as red")
-                                    : QStringLiteral("RRGGBB or a name such as red"),
-                          text);
+        return wrongValue(
+            option,
+            withAlpha ? dico_label("MESS_USE_COLOR_ALPHA", "RRGGBB, RRGGBBAA or a name such as red")
+                      : dico_label("MESS_USE_COLOR", "RRGGBB or a name such as red"),
+            text);
     color = *given;
     return std::nullopt;
 }
 
 } // namespace
 
-void addLinkOptions(QCommandLineParser &parser)
+QList<QCommandLineOption> linkOptions()
 {
     const LinkRepresentation firstRun;
-    parser.addOptions({
-        {QStringLiteral("link-style"),
-         QStringLiteral("How links are drawn (default %1).").arg(styleName(firstRun.style)),
-         styleNames(), styleName(firstRun.style)},
-        {QStringLiteral("link-color"),
-         QStringLiteral("Color of the links (default %1).").arg(firstRun.color.name().mid(1)),
-         QStringLiteral("RRGGBB[AA]|NAME")},
-        {QStringLiteral("color-by-clearance"),
-         QStringLiteral("Judged links take the color of their verdict.")},
-        {QStringLiteral("fresnel-color"),
-         QStringLiteral("Color of the Fresnel zone (default %1).")
-             .arg(firstRun.fresnelColor.name().mid(1)),
-         QStringLiteral("RRGGBB|NAME")},
-    });
-    addNumberOptions(parser, numberOptions());
+    return QList<QCommandLineOption>{
+               {QStringLiteral("link-style"),
+                dico_label("MESS_OPT_LINK_STYLE", "How links are drawn (default %1).")
+                    .arg(styleName(firstRun.style)),
+                styleNames(), styleName(firstRun.style)},
+               {QStringLiteral("link-color"),
+                dico_label("MESS_OPT_LINK_COLOR", "Color of the links (default %1).")
+                    .arg(firstRun.color.name().mid(1)),
+                QStringLiteral("RRGGBB[AA]|NAME")},
+               {QStringLiteral("color-by-clearance"),
+                dico_label("MESS_OPT_COLOR_BY_CLEARANCE",
+                           "Judged links take the color of their verdict.")},
+               {QStringLiteral("fresnel-color"),
+                dico_label("MESS_OPT_FRESNEL_COLOR", "Color of the Fresnel zone (default %1).")
+                    .arg(firstRun.fresnelColor.name().mid(1)),
+                QStringLiteral("RRGGBB|NAME")},
+           } +
+           numberOptionList(numberOptions());
 }
 
 Result<LinkRepresentation> readLinkOptions(const QCommandLineParser &parser)

@@ -7,8 +7,8 @@
 
 namespace vlt::batch {
 
-/// Makes the parser know one option for each value of the link representation.
-void addLinkOptions(QCommandLineParser &parser);
+/// One option for each value of the link representation.
+QList<QCommandLineOption> linkOptions();
 
 /// The representation that the options describe; what is not given has its first-run value.
 ///

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "platform/Result.h"
+#include "batch/CommandLine.h"
+#include "language/VltLanguageManager.h"
 #include "sites/RepresentationLimits.h"
 
 #include <QCommandLineParser>
@@ -32,27 +33,40 @@ inline QString plainNumber(double value)
     return QString::number(value, 'f', QLocale::FloatingPointShortest);
 }
 
-inline QString rangeText(const sites::Limits &limits)
-{
-    return plainNumber(limits.least) + QStringLiteral(" to ") + plainNumber(limits.most);
-}
-
-/// Makes the parser know the options; the defaults in their help are those of a first run.
+/// The options for the parser; the defaults in their help are those of a first run.
 template<typename Representation>
-void addNumberOptions(QCommandLineParser &parser,
-                      const std::vector<NumberOption<Representation>> &options)
+QList<QCommandLineOption> numberOptionList(const std::vector<NumberOption<Representation>> &options)
 {
     const Representation firstRun;
+    QList<QCommandLineOption> list;
     for (const NumberOption<Representation> &option : options) {
         const QString value =
             std::visit([&](auto member) { return plainNumber(firstRun.*member); }, option.member);
-        parser.addOption(
-            {option.name,
-             option.meaning + QStringLiteral(", ") + rangeText(option.limits) +
-                 (option.hasDefault ? QStringLiteral(" (default ") + value + QStringLiteral(").")
-                                    : QStringLiteral(" (default: not used).")),
-             option.isInteger() ? QStringLiteral("INTEGER") : QStringLiteral("NUMBER")});
+        const QString pattern =
+            option.hasDefault
+                ? dico_label("MESS_OPT_RANGE", "%1, %2 to %3 (default %4).")
+                : dico_label("MESS_OPT_RANGE_UNUSED", "%1, %2 to %3 (default: not used).");
+        const QString range = option.hasDefault
+                                  ? pattern.arg(option.meaning, plainNumber(option.limits.least),
+                                                plainNumber(option.limits.most), value)
+                                  : pattern.arg(option.meaning, plainNumber(option.limits.least),
+                                                plainNumber(option.limits.most));
+        list.append({option.name, range,
+                     option.isInteger() ? QStringLiteral("INTEGER") : QStringLiteral("NUMBER")});
     }
+    return list;
+}
+
+/// What is told of a text that is none of the option's numbers.
+template<typename Representation>
+Error notInRange(const NumberOption<Representation> &option, const QString &text)
+{
+    const QString wanted = option.isInteger()
+                               ? dico_label("MESS_USE_INTEGER", "an integer of %1 to %2")
+                               : dico_label("MESS_USE_NUMBER", "a number of %1 to %2");
+    return wrongValue(option.name,
+                      wanted.arg(plainNumber(option.limits.least), plainNumber(option.limits.most)),
+                      text);
 }
 
 /// Takes the numbers that are given into `representation`; the first that is no number or out of
@@ -69,14 +83,7 @@ std::optional<Error> readNumberOptions(const QCommandLineParser &parser,
         bool isNumber = false;
         const double number = option.isInteger() ? text.toInt(&isNumber) : text.toDouble(&isNumber);
         if (!isNumber || !(number >= option.limits.least && number <= option.limits.most))
-            return Error{QString(),
-                         QStringLiteral("--%1 is %2 %3, not \"")
-                                 .arg(option.name,
-                                      option.isInteger() ? QStringLiteral("an integer of")
-                                                         : QStringLiteral("a number of"),
-                                      rangeText(option.limits)) +
-                             text + QLatin1Char('"'),
-                         {}};
+            return notInRange(option, text);
         std::visit(
             [&](auto member) {
                 using Value = std::remove_reference_t<decltype(representation.*member)>;

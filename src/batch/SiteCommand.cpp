@@ -15,22 +15,25 @@ namespace vlt::batch {
 
 namespace {
 
-const QString Examples =
-    QStringLiteral("\nExamples:\n"
-                   "  vltlayers site sites.xlsx -o sites.lay\n"
-                   "  vltlayers site sites.csv --project city.gvw --target-srs 2154 -o sites.lay\n"
-                   "  vltlayers site sites.csv --sector-radius 150 --transparency 40 \\\n"
-                   "      --pylon-type 2 --sector-colors \"Pure colors\" -o sites.lay\n");
-
-void describe(QCommandLineParser &parser)
+CommandSyntax syntax()
 {
-    parser.setApplicationDescription(
-        QStringLiteral("Makes a site layer of a table, the same that the wizard makes."));
-    parser.addPositionalArgument(QStringLiteral("TABLE"),
-                                 QStringLiteral("Site table (.xls .xlsx .xml .csv)."),
-                                 QStringLiteral("site TABLE -o OUT.lay"));
-    addLayerOptions(parser);
-    addGlobalOptions(parser);
+    CommandSyntax syntax;
+    syntax.name = QStringLiteral("site");
+    syntax.usage = QStringLiteral("TABLE -o OUT.lay");
+    syntax.summary = dico_label("MESS_HELP_SITE_SUMMARY", "make a layer of sites");
+    syntax.description = dico_label(
+        "MESS_HELP_SITE", "Makes a site layer of a table, the same that the wizard makes.");
+    syntax.inputs = {1, 1, QStringLiteral("TABLE"),
+                     dico_label("MESS_HELP_SITE_TABLE", "Site table (.xls .xlsx .xml .csv)."),
+                     dico_label("MESS_USE_NO_TABLE", "no table given")};
+    syntax.options = layerOptions();
+    syntax.examples = QStringLiteral(
+        "  vltlayers site sites.xlsx -o sites.lay\n"
+        "  vltlayers site sites.csv --project city.gvw --target-srs 2154 -o sites.lay\n"
+        "  vltlayers site sites.csv --sector-radius 150 --transparency 40 \\\n"
+        "      --pylon-type 2 --sector-colors \"Pure colors\" -o sites.lay\n");
+    syntax.lists = catalogueLists;
+    return syntax;
 }
 
 /// Reads the sites through the very connection that the layer carries.
@@ -108,25 +111,24 @@ ExitStatus runParsed(const QCommandLineParser &parser, const GlobalOptions &opti
     return makeLayer(input, request, options);
 }
 
-} // namespace
-
-ExitStatus runSite(const QStringList &arguments)
+ExitStatus run(const QCommandLineParser &parser, const GlobalOptions &options)
 {
-    QCommandLineParser parser;
-    describe(parser);
-    const Result<GlobalOptions> options =
-        parseArguments(parser, arguments, {1, 1, QStringLiteral("table")});
-    if (const auto answered = answerHelp(parser, options, Examples))
-        return *answered;
     if (parser.value(QStringLiteral("output")).isEmpty())
-        return refuseUsage(QStringLiteral("no output file given (-o OUT.lay)"));
+        return refuseUsage(dico_label("MESS_USE_NO_OUTPUT", "no output file given (-o OUT.lay)"));
     if (const auto numbers = readSiteNumbers(parser); !numbers)
         return refuseUsage(numbers.error().text);
 
-    const Result<Surroundings> surroundings = startUp(options.value());
+    const Result<Surroundings> surroundings = startUp(options);
     if (!surroundings)
         return refuse(surroundings.error());
-    return runParsed(parser, options.value(), surroundings.value());
+    return runParsed(parser, options, surroundings.value());
+}
+
+} // namespace
+
+Command siteCommand()
+{
+    return {syntax, run};
 }
 
 } // namespace vlt::batch

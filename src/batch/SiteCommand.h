@@ -1,10 +1,10 @@
 #pragma once
 
-#include "batch/CommandLine.h"
+#include "batch/Command.h"
 
 namespace vlt::batch {
 
 /// "vltlayers site TABLE -o OUT.lay": makes the layer that the wizard makes of the table.
-ExitStatus runSite(const QStringList &arguments);
+Command siteCommand();
 
 } // namespace vlt::batch

@@ -1,6 +1,7 @@
 #include "batch/SiteOptions.h"
 
 #include "batch/NumberOptions.h"
+#include "language/VltLanguageManager.h"
 
 namespace vlt::batch {
 
@@ -11,24 +12,31 @@ using sites::SiteRepresentation;
 const std::vector<NumberOption<SiteRepresentation>> &numberOptions()
 {
     static const std::vector<NumberOption<SiteRepresentation>> options = {
-        {QStringLiteral("sector-height"), QStringLiteral("Sector height in metres"),
+        {QStringLiteral("sector-height"),
+         dico_label("MESS_OPT_SECTOR_HEIGHT", "Sector height in metres"),
          &SiteRepresentation::sectorHeight, sites::SectorHeightLimits},
-        {QStringLiteral("sector-radius"), QStringLiteral("Sector radius in metres"),
+        {QStringLiteral("sector-radius"),
+         dico_label("MESS_OPT_SECTOR_RADIUS", "Sector radius in metres"),
          &SiteRepresentation::sectorRadius, sites::SectorRadiusLimits},
         {QStringLiteral("sector-spacing"),
-         QStringLiteral("Vertical spacing between sectors in metres"),
+         dico_label("MESS_OPT_SECTOR_SPACING", "Vertical spacing between sectors in metres"),
          &SiteRepresentation::sectorSpacing, sites::SectorSpacingLimits},
-        {QStringLiteral("transparency"), QStringLiteral("Transparency of the sectors in per cent"),
+        {QStringLiteral("transparency"),
+         dico_label("MESS_OPT_TRANSPARENCY", "Transparency of the sectors in per cent"),
          &SiteRepresentation::transparency, sites::TransparencyLimits},
         {QStringLiteral("symbolic-distance"),
-         QStringLiteral("Apparition distance of the symbolic representation in metres"),
+         dico_label("MESS_OPT_SYMBOLIC_DISTANCE",
+                    "Apparition distance of the symbolic representation in metres"),
          &SiteRepresentation::symbolicDistance, sites::DistanceLimits},
-        {QStringLiteral("pylon-width"), QStringLiteral("Width of the pylons in metres"),
+        {QStringLiteral("pylon-width"),
+         dico_label("MESS_OPT_PYLON_WIDTH", "Width of the pylons in metres"),
          &SiteRepresentation::pylonWidth, sites::PylonWidthLimits},
-        {QStringLiteral("antenna-size"), QStringLiteral("Antennas size in per cent"),
+        {QStringLiteral("antenna-size"),
+         dico_label("MESS_OPT_ANTENNA_SIZE", "Antennas size in per cent"),
          &SiteRepresentation::antennaSize, sites::AntennaSizeLimits},
         {QStringLiteral("realistic-distance"),
-         QStringLiteral("Apparition distance of the precise representation in metres"),
+         dico_label("MESS_OPT_REALISTIC_DISTANCE",
+                    "Apparition distance of the precise representation in metres"),
          &SiteRepresentation::realisticDistance, sites::DistanceLimits},
     };
     return options;
@@ -70,32 +78,53 @@ int find(const QList<Choice> &choices, const QString &wanted)
     return isNumber && number >= 1 && number <= choices.size() ? number - 1 : -1;
 }
 
-Error notInCatalogue(const QString &option, const QString &value, const QList<Choice> &choices)
+QStringList numbered(const QList<Choice> &choices)
 {
     QStringList names;
     for (int i = 0; i < choices.size(); ++i)
         names << QStringLiteral("%1 = ").arg(i + 1) + choices.at(i).shown;
-    return Error{QString(),
-                 QStringLiteral("--%1: no \"").arg(option) + value + QStringLiteral("\" (") +
-                     names.join(QStringLiteral("; ")) + QLatin1Char(')'),
-                 {}};
+    return names;
+}
+
+Error notInCatalogue(const QString &option, const QString &value, const QList<Choice> &choices)
+{
+    return wrongUsage(dico_label("MESS_USE_NOT_IN_CATALOGUE", "--%1: no \"%2\" (%3)")
+                          .arg(option, value, numbered(choices).join(QStringLiteral("; "))));
 }
 
 } // namespace
 
-void addSiteOptions(QCommandLineParser &parser)
+QList<QCommandLineOption> siteOptions()
 {
-    addNumberOptions(parser, numberOptions());
-    parser.addOptions({
-        {QStringLiteral("sector-colors"),
-         QStringLiteral("Sector colors: a set's number in the catalogue, from 1, or its name in "
-                        "any language (default 1)."),
-         QStringLiteral("N|NAME"), QStringLiteral("1")},
-        {QStringLiteral("pylon-type"),
-         QStringLiteral("Type of pylons, or its number in the catalogue, from 1, or its name in "
-                        "any language (default 1)."),
-         QStringLiteral("TYPE|N|NAME"), QStringLiteral("1")},
-    });
+    return numberOptionList(numberOptions()) +
+           QList<QCommandLineOption>{
+               {QStringLiteral("sector-colors"),
+                dico_label("MESS_OPT_SECTOR_COLORS",
+                           "Sector colors: a set's number in the catalogue, from 1, or its name in "
+                           "any language (default 1)."),
+                QStringLiteral("N|NAME"), QStringLiteral("1")},
+               {QStringLiteral("pylon-type"),
+                dico_label("MESS_OPT_PYLON_TYPE",
+                           "Type of pylons, or its number in the catalogue, from 1, or its name in "
+                           "any language (default 1)."),
+                QStringLiteral("TYPE|N|NAME"), QStringLiteral("1")},
+           };
+}
+
+QString catalogueLists(const Place &place)
+{
+    const sites::SiteCatalogues catalogues =
+        sites::loadSiteCatalogues(place.installDir, place.language);
+    const auto list = [](const QString &heading, const QList<Choice> &choices) {
+        QString text;
+        for (const QString &line : numbered(choices))
+            text += QStringLiteral("  ") + line + QLatin1Char('\n');
+        return text.isEmpty() ? text : QLatin1Char('\n') + heading + QLatin1Char('\n') + text;
+    };
+    return list(dico_label("MESS_HELP_COLOR_SETS", "Sector colors:"),
+                choicesOf(catalogues.colorSets)) +
+           list(dico_label("MESS_HELP_PYLON_TYPES", "Types of pylons:"),
+                choicesOf(catalogues.pylonTypes));
 }
 
 Result<sites::SiteRepresentation> readSiteNumbers(const QCommandLineParser &parser)

@@ -1,14 +1,17 @@
 #pragma once
 
-#include "platform/Result.h"
+#include "batch/CommandLine.h"
 #include "sites/SiteRepresentation.h"
 
 #include <QCommandLineParser>
 
 namespace vlt::batch {
 
-/// Makes the parser know one option for each value of the site representation.
-void addSiteOptions(QCommandLineParser &parser);
+/// One option for each value of the site representation.
+QList<QCommandLineOption> siteOptions();
+
+/// The catalogues that --sector-colors and --pylon-type choose from, for the help.
+QString catalogueLists(const Place &place);
 
 /// The representation that the options describe; what is not given has its first-run value.
 ///

@@ -26,14 +26,6 @@ namespace {
 
 using snapshot::SceneView;
 
-const QString Examples =
-    QStringLiteral("\nExamples:\n"
-                   "  vltlayers snapshot sites.lay -o sites.png\n"
-                   "  vltlayers snapshot sites.lay --project city.gvw --view symbolic \\\n"
-                   "      --size 1920x1080 -o sectors.png\n"
-                   "  vltlayers snapshot links.lay --project city.gvw --terrain -o links.png\n"
-                   "  xvfb-run -a vltlayers snapshot sites.lay --view precise -o mast.png\n");
-
 /// What the command line asks for.
 struct Request
 {
@@ -45,33 +37,48 @@ struct Request
     snapshot::TerrainSurface terrain = snapshot::TerrainSurface::Hidden;
 };
 
-void describe(QCommandLineParser &parser)
+CommandSyntax syntax()
 {
-    parser.setApplicationDescription(
-        QStringLiteral("Makes a picture (PNG) of a layer or of another scene file.\n"
-                       "It needs an X server; without a screen xvfb-run gives one."));
-    parser.addPositionalArgument(QStringLiteral("LAYER"),
-                                 QStringLiteral("Layer (.lay), building document (.texb), any "
-                                                "scene file that the scene library reads, or a "
-                                                "parametric object inline://parametric/query?..."),
-                                 QStringLiteral("snapshot LAYER -o PICTURE.png"));
-    parser.addOptions({
+    CommandSyntax syntax;
+    syntax.name = QStringLiteral("snapshot");
+    syntax.usage = QStringLiteral("LAYER -o PICTURE.png");
+    syntax.summary = dico_label("MESS_HELP_SNAPSHOT_SUMMARY", "make a picture of a layer");
+    syntax.description =
+        dico_label("MESS_HELP_SNAPSHOT", "Makes a picture (PNG) of a layer or of another scene "
+                                         "file. It needs an X server; without a screen xvfb-run "
+                                         "gives one.");
+    syntax.inputs = {
+        1, 1, QStringLiteral("LAYER"),
+        dico_label("MESS_HELP_SNAPSHOT_LAYER",
+                   "Layer (.lay), building document (.texb), any scene file that the scene library "
+                   "reads, or a parametric object inline://parametric/query?..."),
+        dico_label("MESS_USE_NO_LAYER", "no layer given")};
+    syntax.options = {
         {{QStringLiteral("o"), QStringLiteral("output")},
-         QStringLiteral("Picture to write, *.png."),
+         dico_label("MESS_OPT_PICTURE", "Picture to write, *.png."),
          QStringLiteral("PICTURE.png")},
         {QStringLiteral("size"),
-         QStringLiteral("Width and height in pixels, %1 to %2 each (default 1280x960).")
+         dico_label("MESS_OPT_SIZE", "Width and height in pixels, %1 to %2 each (default "
+                                     "1280x960).")
              .arg(snapshot::LeastSide)
              .arg(snapshot::LargestSide),
          QStringLiteral("WxH"), QStringLiteral("1280x960")},
         {QStringLiteral("view"),
-         QStringLiteral("all: everything, from the south-west (default); symbolic: the sectors of "
-                        "the site in the middle; precise: its mast and antennas."),
+         dico_label("MESS_OPT_VIEW",
+                    "all: everything, from the south-west (default); symbolic: the sectors of the "
+                    "site in the middle; precise: its mast and antennas."),
          QStringLiteral("all|symbolic|precise"), QStringLiteral("all")},
         {QStringLiteral("terrain"),
-         QStringLiteral("Links: show the surface of the project's terrain, too.")},
-    });
-    addGlobalOptions(parser);
+         dico_label("MESS_OPT_SHOW_TERRAIN",
+                    "Links: show the surface of the project's terrain, too.")},
+    };
+    syntax.examples =
+        QStringLiteral("  vltlayers snapshot sites.lay -o sites.png\n"
+                       "  vltlayers snapshot sites.lay --project city.gvw --view symbolic \\\n"
+                       "      --size 1920x1080 -o sectors.png\n"
+                       "  vltlayers snapshot links.lay --project city.gvw --terrain -o links.png\n"
+                       "  xvfb-run -a vltlayers snapshot sites.lay --view precise -o mast.png\n");
+    return syntax;
 }
 
 std::optional<QSize> sizeFrom(const QString &text)
@@ -104,21 +111,24 @@ Result<Request> readRequest(const QCommandLineParser &parser)
     request.layer = parser.positionalArguments().constFirst();
     request.output = parser.value(QStringLiteral("output"));
     if (request.output.isEmpty())
-        return Error{{}, QStringLiteral("no output file given (-o PICTURE.png)"), {}};
+        return wrongUsage(
+            dico_label("MESS_USE_NO_PICTURE", "no output file given (-o PICTURE.png)"));
     if (!request.output.endsWith(QLatin1String(".png"), Qt::CaseInsensitive))
-        return Error{{}, QStringLiteral("the picture is a PNG: its name has to end in .png"), {}};
+        return wrongUsage(
+            dico_label("MESS_USE_PNG", "the picture is a PNG: its name has to end in .png"));
     const std::optional<QSize> size = sizeFrom(parser.value(QStringLiteral("size")));
     if (!size)
-        return Error{{},
-                     QStringLiteral("--size is WxH, each of %1 to %2 pixels")
-                         .arg(snapshot::LeastSide)
-                         .arg(snapshot::LargestSide),
-                     {}};
+        return wrongValue(QStringLiteral("size"),
+                          dico_label("MESS_USE_SIZE", "WxH, each of %1 to %2 pixels")
+                              .arg(snapshot::LeastSide)
+                              .arg(snapshot::LargestSide),
+                          parser.value(QStringLiteral("size")));
     request.size = *size;
     request.viewName = parser.value(QStringLiteral("view"));
     const std::optional<SceneView> view = viewFrom(request.viewName);
     if (!view)
-        return Error{{}, QStringLiteral("--view is all, symbolic or precise"), {}};
+        return wrongValue(QStringLiteral("view"), QStringLiteral("all|symbolic|precise"),
+                          request.viewName);
     request.view = *view;
     if (parser.isSet(QStringLiteral("terrain")))
         request.terrain = snapshot::TerrainSurface::Shown;
@@ -205,32 +215,33 @@ ExitStatus makePicture(const Request &request, const GlobalOptions &options)
                        QStringLiteral("the picture cannot be written"), request.output},
                       written.error().text);
     if (options.json && !tell(request, *scene.value()))
-        return refuse({QString(), QStringLiteral("the output cannot be written"), {}});
+        return refuse({QStringLiteral("MESS_CLI_OUTPUT_FAILED"),
+                       QStringLiteral("the output cannot be written"),
+                       {}});
     return ExitStatus::Done;
 }
 
-} // namespace
-
-ExitStatus runSnapshot(const QStringList &arguments)
+ExitStatus run(const QCommandLineParser &parser, const GlobalOptions &options)
 {
-    QCommandLineParser parser;
-    describe(parser);
-    const Result<GlobalOptions> options =
-        parseArguments(parser, arguments, {1, 1, QStringLiteral("layer")});
-    if (const auto answered = answerHelp(parser, options, Examples))
-        return *answered;
     const Result<Request> request = readRequest(parser);
     if (!request)
         return refuseUsage(request.error().text);
 
-    const Result<Surroundings> surroundings = startUp(options.value());
+    const Result<Surroundings> surroundings = startUp(options);
     if (!surroundings)
         return refuse(surroundings.error());
     const QString output = request.value().output;
-    if (isOneOf(output, {request.value().layer, options.value().projectPath}))
+    if (isOneOf(output, {request.value().layer, options.projectPath}))
         return refuse(outputIsInput(output));
     snapshot::addReaderDirectory(surroundings.value().installDir + QStringLiteral("/driver"));
-    return makePicture(request.value(), options.value());
+    return makePicture(request.value(), options);
+}
+
+} // namespace
+
+Command snapshotCommand()
+{
+    return {syntax, run};
 }
 
 } // namespace vlt::batch

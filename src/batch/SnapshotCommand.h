@@ -1,10 +1,10 @@
 #pragma once
 
-#include "batch/CommandLine.h"
+#include "batch/Command.h"
 
 namespace vlt::batch {
 
 /// "vltlayers snapshot LAYER -o PICTURE.png": a picture of a layer, or of any scene.
-ExitStatus runSnapshot(const QStringList &arguments);
+Command snapshotCommand();
 
 } // namespace vlt::batch

@@ -12,21 +12,30 @@
 
 namespace vlt::batch {
 
-Result<Surroundings> startUp(const GlobalOptions &options)
+Place settlePlace(const SplitArguments &arguments)
 {
     const app::StartupSettings settings =
         app::resolveStartupSettings(QCoreApplication::applicationFilePath(), true);
-    const QString chosen = options.installDir.isEmpty() ? settings.installDir : options.installDir;
+    const bool isGiven = !arguments.installDir.isEmpty();
+    Place place;
+    place.installDir =
+        QFileInfo(isGiven ? arguments.installDir : settings.installDir).absoluteFilePath();
+    if (isGiven)
+        qputenv("VLT_BIN_HOME", QFile::encodeName(place.installDir));
+    app::loadMessages(place.installDir, settings.messagesDir,
+                      arguments.language.isEmpty() ? settings.language : arguments.language);
+    place.language = VltLanguageManager::getInstance().getCurrentLanguage().text;
+    return place;
+}
+
+Result<Surroundings> startUp(const GlobalOptions &options)
+{
     Surroundings surroundings;
-    surroundings.installDir = QFileInfo(chosen).absoluteFilePath();
-    if (!options.installDir.isEmpty())
-        qputenv("VLT_BIN_HOME", QFile::encodeName(surroundings.installDir));
-    app::loadMessages(surroundings.installDir, settings.messagesDir,
-                      options.language.isEmpty() ? settings.language : options.language);
-    surroundings.language = VltLanguageManager::getInstance().getCurrentLanguage().text;
+    surroundings.installDir = options.place.installDir;
+    surroundings.language = options.place.language;
     if (!QFileInfo(surroundings.installDir).isDir())
-        return Error{QString(), QStringLiteral("no such install directory"),
-                     surroundings.installDir};
+        return Error{QStringLiteral("MESS_CLI_NO_INSTALL_DIR"),
+                     QStringLiteral("no such install directory"), surroundings.installDir};
 
     app::exportGeodataEnvironment(surroundings.installDir, platform::nativePathStyle(), nullptr);
     app::registerGeodataDrivers();

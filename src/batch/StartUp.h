@@ -13,8 +13,11 @@ struct Surroundings
     sites::ProjectContext project;
 };
 
-/// Settles install directory and language, loads the messages, sets the geodata library up and
-/// reads the project. A project that names nothing is told on the error output.
+/// Settles install directory and language and loads the messages; the directory need not be there.
+Place settlePlace(const SplitArguments &arguments);
+
+/// Sets the geodata library up and reads the project. A project that names nothing is told on the
+/// error output.
 ///
 /// @par Errors   MESS_OUV_PRJ_IMP for a project that cannot be read; an install directory that is
 /// not there.

@@ -1,15 +1,15 @@
-#include "batch/BuildingsCommand.h"
+#include "batch/Command.h"
 #include "batch/Console.h"
 #include "batch/Help.h"
-#include "batch/InfoCommand.h"
-#include "batch/LinkCommand.h"
-#include "batch/SiteCommand.h"
-#include "batch/SnapshotCommand.h"
+#include "batch/StartUp.h"
+#include "batch/Suggestion.h"
+#include "language/VltLanguageManager.h"
 
 #include <QFile>
 #include <QGuiApplication>
 #include <QLoggingCategory>
 
+#include <algorithm>
 #include <clocale>
 #include <memory>
 
@@ -18,68 +18,104 @@ namespace {
 using namespace vlt::batch;
 using vlt::Result;
 
-const QString Commands =
-    QStringLiteral("\nCommands:\n"
-                   "  info TABLE                  what a table holds\n"
-                   "  site TABLE -o OUT.lay       make a layer of sites\n"
-                   "  link TABLE -o OUT.lay       make a layer of links\n"
-                   "  link TABLE --report         which links are free\n"
-                   "  buildings FILE -o OUT.lay   make a layer of buildings\n"
-                   "  snapshot LAYER -o OUT.png   make a picture of a layer\n"
-                   "'vltlayers COMMAND --help' tells the options of one.\n"
-                   "\nExamples:\n"
-                   "  vltlayers info sites.xlsx\n"
-                   "  vltlayers site sites.xlsx -o sites.lay\n"
-                   "  vltlayers link links.xlsx -o links.lay\n"
-                   "  vltlayers buildings town.shp --dtm hills.tif --image level.tif -o town.lay\n"
-                   "  vltlayers snapshot sites.lay -o sites.png\n");
+const QString HelpCommand = QStringLiteral("help");
 
-ExitStatus runWithoutCommand(const QStringList &arguments)
+const Command *commandOf(const QString &name)
 {
-    QCommandLineParser parser;
-    parser.setApplicationDescription(
-        QStringLiteral("Makes layers of telecom tables and of buildings for a 3D project."));
-    parser.addPositionalArgument(QStringLiteral("COMMAND"), QStringLiteral("What to do."));
-    addGlobalOptions(parser);
-    const Result<GlobalOptions> options = parseArguments(parser, arguments, {});
-    if (const auto answered = answerHelp(parser, options, Commands))
-        return *answered;
-    return refuseUsage(QStringLiteral("no command given"));
+    const auto found =
+        std::find_if(commands().begin(), commands().end(),
+                     [&name](const Command &command) { return command.syntax().name == name; });
+    return found == commands().end() ? nullptr : &*found;
 }
 
-bool isBuildings(const SplitArguments &split)
+ExitStatus answer(const QString &text)
 {
-    return split.command == QLatin1String("buildings");
+    return printOut(text) ? ExitStatus::Done : ExitStatus::Refused;
+}
+
+ExitStatus refuseCommand(const QString &name)
+{
+    QStringList names = {HelpCommand};
+    for (const Command &command : commands())
+        names << command.syntax().name;
+    return refuseUsage(dico_label("MESS_USE_NO_COMMAND", "no such command: %1").arg(name) +
+                       didYouMean(name, names));
+}
+
+/// Deals with --help, --version and a wrong command line; none where the command has to run.
+std::optional<ExitStatus> answerHelp(const QCommandLineParser &parser,
+                                     const Result<GlobalOptions> &options,
+                                     const std::function<QString()> &help)
+{
+    if (!options)
+        return refuseUsage(options.error().text);
+    if (parser.isSet(QStringLiteral("help")))
+        return answer(help());
+    if (parser.isSet(QStringLiteral("version")))
+        return answer(versionText());
+    return std::nullopt;
+}
+
+ExitStatus runCommand(const Command &command, const QStringList &arguments, const Place &place)
+{
+    const CommandSyntax syntax = command.syntax();
+    QCommandLineParser parser;
+    const Result<GlobalOptions> options = parseArguments(parser, syntax, arguments, place);
+    if (const auto answered = answerHelp(parser, options, [&] { return helpText(syntax, place); }))
+        return *answered;
+    return command.run(parser, options.value());
+}
+
+/// "help", "help COMMAND", or no command at all.
+ExitStatus runWithoutCommand(const SplitArguments &split, const Place &place)
+{
+    const bool isHelp = split.command == HelpCommand;
+    CommandSyntax syntax;
+    syntax.inputs.most = isHelp ? 1 : 0;
+    QCommandLineParser parser;
+    const Result<GlobalOptions> options = parseArguments(parser, syntax, split.others, place);
+    if (const auto answered = answerHelp(parser, options, programHelpText))
+        return *answered;
+    if (!isHelp) {
+        if (!split.json)
+            printOut(programHelpText());
+        tellError(wrongUsage(dico_label("MESS_USE_COMMAND_MISSING", "no command given")), {},
+                  ExitStatus::WrongUsage);
+        return ExitStatus::WrongUsage;
+    }
+    const QString name = parser.positionalArguments().value(0, HelpCommand);
+    if (name == HelpCommand)
+        return answer(programHelpText());
+    const Command *command = commandOf(name);
+    return command ? answer(helpText(command->syntax(), place)) : refuseCommand(name);
 }
 
 ExitStatus run(const SplitArguments &split)
 {
-    if (split.command == QLatin1String("info"))
-        return runInfo(split.others);
-    if (split.command == QLatin1String("site"))
-        return runSite(split.others);
-    if (split.command == QLatin1String("link"))
-        return runLink(split.others);
-    if (isBuildings(split))
-        return runBuildings(split.others);
-    if (split.command == QLatin1String("snapshot"))
-        return runSnapshot(split.others);
-    if (split.command.isEmpty())
-        return runWithoutCommand(split.others);
-    return refuseUsage(QStringLiteral("no such command: ") + split.command);
+    const Place place = settlePlace(split);
+    const Command *command = commandOf(split.command);
+    setErrorStyle({command ? split.command : QString(), split.json});
+    if (command)
+        return runCommand(*command, split.others, place);
+    if (split.command.isEmpty() || split.command == HelpCommand)
+        return runWithoutCommand(split, place);
+    return refuseCommand(split.command);
 }
 
 /// The application object; with fonts where texts are drawn, which takes no display here.
 std::unique_ptr<QCoreApplication> makeApplication(char **argv, bool withFonts)
 {
     static int ownNameOnly = 1;
-    if (!withFonts)
-        return std::make_unique<QCoreApplication>(ownNameOnly, argv);
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    // it complains of desktops that are none
+    // the toolkit complains of desktops that are none, and of a locale that is not UTF-8
     const QtMessageHandler usual =
         qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
-    auto application = std::make_unique<QGuiApplication>(ownNameOnly, argv);
+    std::unique_ptr<QCoreApplication> application;
+    if (withFonts) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        application = std::make_unique<QGuiApplication>(ownNameOnly, argv);
+    } else {
+        application = std::make_unique<QCoreApplication>(ownNameOnly, argv);
+    }
     qInstallMessageHandler(usual);
     return application;
 }
@@ -95,7 +131,7 @@ int main(int argc, char **argv)
     const SplitArguments split = splitCommand(arguments);
     // what the wizard's log has is not for the terminal
     QLoggingCategory::setFilterRules(QStringLiteral("default.info=false"));
-    const auto application = makeApplication(argv, isBuildings(split));
+    const auto application = makeApplication(argv, split.command == QLatin1String("buildings"));
     // The application object takes the whole of the user's locale; numbers keep the C one.
     std::setlocale(LC_NUMERIC, "C");
     return static_cast<int>(run(split));

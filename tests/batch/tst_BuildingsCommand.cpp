@@ -216,7 +216,10 @@ private Q_SLOTS:
         QFETCH(QString, message);
         arguments.replace(u"%"_s, u"../houses.geojson --dtm ../dem.asc"_s);
 
-        const Run run = start(u"buildings -o old.lay "_s + arguments);
+        if (!arguments.contains(u" -o "_s))
+            arguments += u" -o old.lay"_s;
+
+        const Run run = start(u"buildings "_s + arguments);
 
         QCOMPARE(run.status, status);
         QVERIFY2(run.errors.contains(message.toUtf8()), run.errors.constData());

@@ -139,8 +139,10 @@ private Q_SLOTS:
 
         const auto row = [](const char *name, const QStringList &arguments, int status,
                             const char *message, bool hasDisplay = true) {
-            QTest::newRow(name) << QStringList{u"-o"_s, u"old.png"_s} + arguments << status
-                                << QString::fromLatin1(message) << hasDisplay;
+            const QStringList usual =
+                arguments.contains(u"-o"_s) ? QStringList() : QStringList{u"-o"_s, u"old.png"_s};
+            QTest::newRow(name) << usual + arguments << status << QString::fromLatin1(message)
+                                << hasDisplay;
         };
         const auto size = [](const char *text) {
             return QStringList{Pylon, u"--size"_s, QString::fromLatin1(text)};

@@ -278,9 +278,16 @@ private Q_SLOTS:
         row("site ../s.csv -o old.lay --transparency -1", 2, "0 to 100");
         row("site ../s.csv -o old.lay --pylon-type zero", 2, "monopole_panel");
         row("site ../s.csv -o old.lay --sector-colors 0", 2, "--sector-colors");
-        row("info ../s.csv --language de", 2, "fr or en");
-        row("paint ../s.csv", 2, "paint");
-        row("", 2, "no command");
+        row("info ../s.csv --language de", 2, "fr|en");
+        row("site ../s.csv -o old.lay -o b.lay", 2, "-o is given more than once");
+        row("site ../s.csv -o old.lay --sector-radiu 5", 2,
+            "unknown option '--sector-radiu'; did you mean '--sector-radius'?\n"
+            "vltlayers: try 'vltlayers site --help'\n");
+        row("site ../s.csv -o old.lay --json=1", 2, "--json takes no value");
+        row("site - -o old.lay", 2, "the standard input is not read");
+        row("paint ../s.csv", 2, "no such command: paint\nvltlayers: try 'vltlayers --help'\n");
+        row("sites ../s.csv", 2, "; did you mean 'site'?");
+        row("help stie", 2, "; did you mean 'site'?");
     }
 
     void refusesAndLeavesTheOldLayer()
@@ -307,10 +314,52 @@ private Q_SLOTS:
                  QStringList{u"old.lay"_s});
     }
 
+    void tellsErrorsToPrograms()
+    {
+        writeFile(path(u"s.csv"_s), Table);
+
+        const Run refused = start(u"site ../no.csv -o o.lay --json"_s);
+        const Run misused = start(u"site ../s.csv --json"_s);
+        const Run several = start(u"info ../s.csv ../no.csv --json"_s);
+
+        const QJsonObject error = QJsonDocument::fromJson(refused.output).object();
+        QCOMPARE(error.value(u"file"_s).toString(), u"../no.csv"_s);
+        QCOMPARE(error.value(u"error"_s).toString(),
+                 u"This file can't be open as a site file (the file does not exist)"_s);
+        QCOMPARE(error.value(u"exit"_s).toInt(), 1);
+        const QJsonObject usage = QJsonDocument::fromJson(misused.output).object();
+        QVERIFY(usage.value(u"file"_s).isNull() && usage.value(u"exit"_s).toInt() == 2);
+        QCOMPARE(several.status, 1);
+        const QJsonArray tables =
+            QJsonDocument::fromJson(several.output).object().value(u"tables"_s).toArray();
+        QCOMPARE(tables.at(0).toObject().value(u"rows"_s).toInt(), 2);
+        QCOMPARE(tables.at(1).toObject(), error);
+    }
+
+    void speaksFrenchOfItself()
+    {
+        QVERIFY(QFile::link(u"" VLT_INSTALLATION "/addons/telecom/MESSAGES"_s,
+                            path(u"install dir/addons/telecom/MESSAGES"_s)));
+
+        const Run help = start(u"site --help --language fr"_s);
+        const Run misused = start(u"site t.csv -oo --language fr --sector-radius huit"_s);
+
+        QVERIFY(help.output.startsWith("Utilisation\u00a0: vltlayers site "));
+        QVERIFY(help.output.contains("Rayon des secteurs en m\u00e8tres, de 0.01"));
+        QCOMPARE(misused.errors, QByteArray("vltlayers: --sector-radius attend un nombre de 0.01 "
+                                            "\u00e0 100000000, pas \u00ab\u00a0huit\u00a0\u00bb\n"
+                                            "vltlayers: essayez 'vltlayers site --help'\n"));
+    }
+
     void helpsAndTellsItsVersion()
     {
-        for (const QString &arguments : {u"--help"_s, u"site -h"_s})
+        for (const QString &arguments : {u"--help"_s, u"site -h"_s, u"help"_s})
             QVERIFY(start(arguments).output.contains("Examples:"));
+        const Run site = start(u"help site"_s);
+        QVERIFY(site.output.startsWith("Usage: vltlayers site [OPTION]... TABLE -o OUT.lay\n"));
+        QVERIFY(site.output.contains("  1 = Pure colors / Couleurs pures\n"));
+        const Run nothing = start(QString());
+        QVERIFY(nothing.output.contains("Commands:") && nothing.status == 2);
         QVERIFY(start(u"--version"_s).output.startsWith("vltlayers 0."));
     }
 

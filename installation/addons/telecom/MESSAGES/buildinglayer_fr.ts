@@ -86,9 +86,8 @@
         <translation>elle ne mène à aucune image</translation>
     </message>
     <message id="MESS_CLI_NO_HEIGHTS">
-        <source>images that state no height, 0 m is taken</source>
-        <extracomment>Followed by a colon and a number.</extracomment>
-        <translation>images qui n'indiquent pas de hauteur, prises pour 0 m</translation>
+        <source>images that state no height, 0 m is taken: %1</source>
+        <translation>images qui n'indiquent pas de hauteur, prises pour 0 m&#xa0;: %1</translation>
     </message>
     <message id="MESS_TIP_DRAG_TEXB">
         <source>Drag the layer file into the builder; Ctrl+C copies it to be pasted there. Its files are temporary: Ctrl+S saves it for good, with its document and legend beside it.</source>

@@ -153,9 +153,8 @@ Coordinates are _C_ and are specified in _U_</translation>
         <translation>column</translation>
     </message>
     <message id="MESS_CLI_UNPLACED">
-        <source>rows that could not be placed</source>
-        <extracomment>Followed by a colon and a number.</extracomment>
-        <translation>rows that could not be placed</translation>
+        <source>rows that could not be placed: %1</source>
+        <translation>rows that could not be placed: %1</translation>
     </message>
     <message id="MESS_CLI_NO_NAME_FIELD">
         <source>the table has no such column: its sites have no name in the layer</source>

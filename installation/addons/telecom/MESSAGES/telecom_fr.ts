@@ -153,9 +153,8 @@ Les coordonnées sont _C_ et exprimées en _U_</translation>
         <translation>colonne</translation>
     </message>
     <message id="MESS_CLI_UNPLACED">
-        <source>rows that could not be placed</source>
-        <extracomment>Followed by a colon and a number.</extracomment>
-        <translation>lignes qui ne peuvent pas être placées</translation>
+        <source>rows that could not be placed: %1</source>
+        <translation>lignes qui ne peuvent pas être placées&#xa0;: %1</translation>
     </message>
     <message id="MESS_CLI_NO_NAME_FIELD">
         <source>the table has no such column: its sites have no name in the layer</source>
