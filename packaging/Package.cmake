@@ -9,14 +9,18 @@ set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
 set(CPACK_STRIP_FILES ON)
 
 set(CPACK_DEBIAN_PACKAGE_SECTION science)
-set(CPACK_DEBIAN_PACKAGE_DESCRIPTION "telecom sites, links and buildings as layers of a 3D scene
-VltTelecomLayers turns tables of telecom sites and microwave links (CSV, XLSX, XLS, SpreadsheetML), and building
-footprints with predictions of coverage, into layer files of the Veltaro 3D scene builder: masts with coloured sectors,
-links with their Fresnel zones, judged over a terrain, and buildings coloured by a raster.
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "telecom sites, links and buildings as layers of a 3D scene")
+set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
+"VltTelecomLayers turns tables of telecom sites and microwave links (CSV,
+XLSX, XLS, SpreadsheetML), and building footprints with predictions of
+coverage, into layer files of the Veltaro 3D scene builder: masts with
+coloured sectors, links with their Fresnel zones, judged over a terrain,
+and buildings coloured by a raster.
 .
-The package holds the wizard VltTelecomLayers, its command-line twin vltlayers, a GDAL driver that reads such tables in
-every GDAL program (ogrinfo site:sites.csv), and OpenSceneGraph plug-ins that show the layers in every viewer
-(osgviewer sites.lay).")
+The package holds the wizard VltTelecomLayers, its command-line twin
+vltlayers, a GDAL driver that reads such tables in every GDAL program
+(ogrinfo site:sites.csv), and OpenSceneGraph plug-ins that show the layers
+in every viewer (osgviewer sites.lay).")
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-translations-l10n, fonts-dejavu-core")
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS "gdal-bin, openscenegraph, xvfb")
