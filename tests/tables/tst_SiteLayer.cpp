@@ -160,6 +160,22 @@ private Q_SLOTS:
         QVERIFY(layer->SetNextByIndex(3) != OGRERR_NONE);
     }
 
+    /// The library's SQL takes a name that ends in an asterisk for all columns, again and again.
+    void namesFieldsWithoutTheMarkOfMandatoryColumns()
+    {
+        const Warnings warnings;
+        write("m.csv", "Site ID*;Longitude *;Latitude*;*;Latitude\nA;2.5;48;1;2\n");
+        const auto dataset = open("m.csv");
+        QVERIFY(dataset);
+        const OGRFeatureDefn *fields = dataset->GetLayer(0)->GetLayerDefn();
+        QStringList names;
+        for (int i = 0; i < fields->GetFieldCount(); ++i)
+            names += QString::fromUtf8(fields->GetFieldDefn(i)->GetNameRef());
+
+        QCOMPARE(names.join(QLatin1Char('|')),
+                 QStringLiteral("Site ID|Longitude|Latitude|Column 4|Latitude_2"));
+    }
+
     void filtersAndGivesExtents()
     {
         const Warnings warnings;

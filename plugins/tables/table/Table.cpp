@@ -100,6 +100,16 @@ struct Sample
     }
 };
 
+/// The name of a column as a field. Exports mark mandatory columns by an asterisk behind the name,
+/// of which the library's SQL makes all columns again and again without end.
+std::string fieldName(const Header &header, int column)
+{
+    const auto named = header.names.find(column);
+    std::string name = named != header.names.end() ? named->second : std::string();
+    name.erase(name.find_last_not_of("* ") + 1);
+    return name.empty() ? "Column " + std::to_string(column + 1) : name;
+}
+
 /// `taken` holds the names given so far with the number that the next one like it is tried with.
 std::string uniqueName(const std::string &name, std::map<std::string, int> &taken)
 {
@@ -130,10 +140,7 @@ void makeFields(TableProfile &profile, const Sample &sample, const TableHints &h
         if (named == profile.header.names.end() && !within && !common)
             continue;
         Field field;
-        field.name =
-            uniqueName(named != profile.header.names.end() ? named->second
-                                                           : "Column " + std::to_string(column + 1),
-                       taken);
+        field.name = uniqueName(fieldName(profile.header, column), taken);
         field.column = column;
         field.mark = statistics.mark();
         field.type = hints.textOnly ? FieldType::Text : statistics.type(profile.allRowsSampled);

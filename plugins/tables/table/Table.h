@@ -13,8 +13,10 @@ namespace vlt::tables {
 /// One column of a table.
 struct Field
 {
-    std::string name; ///< as in the header; made unique by a number where it is there twice
-    int column = 0;   ///< from 0
+    /// As in the header without asterisks at its end; made unique by a number where it is there
+    /// twice.
+    std::string name;
+    int column = 0; ///< from 0
     FieldType type = FieldType::Text;
     DecimalMark mark = DecimalMark::Point;
     std::vector<std::string> samples; ///< texts of some of its cells
