@@ -326,30 +326,44 @@ private Q_SLOTS:
     {
         QTest::addColumn<QByteArray>("text");
         QTest::addColumn<QString>("position");
+        QTest::addColumn<QByteArray>("systems");
+        const auto in = [](const char *title, const char *systems, const char *coordinates,
+                           const QString &position) {
+            QTest::newRow(title) << QByteArray("ID;X;Y\n1;") + coordinates + "\n"
+                                 << position << QByteArray(systems);
+        };
+        in("metres as degrees", "s_srs=4326,t_srs=4326,", "222300;6756000", QString());
+        in("metres as latitudes", "s_srs=4326,t_srs=4326,", "-3;6756000", QString());
+        in("metres", "s_srs=2154,t_srs=2154,", "222300;675600", QStringLiteral("222300 675600"));
+        in("grads", "s_srs=4807,t_srs=4807,", "-190;54", QStringLiteral("-190 54"));
+        in("more than half a turn of grads", "s_srs=4807,t_srs=4807,", "201;54", QString());
         QTest::newRow("minus sign U+2212")
-            << QByteArray("ID;Lon;Lat\n1;−3.37;47\n") << QStringLiteral("-3.37 47");
+            << QByteArray("ID;Lon;Lat\n1;−3.37;47\n") << QStringLiteral("-3.37 47") << QByteArray();
         QTest::newRow("hemispheres beside degrees")
             << QByteArray("ID;Lat;Lat Direction;Lon;Lon Direction\n1;12.5;S;77.25;W\n")
-            << QStringLiteral("-77.25 -12.5");
+            << QStringLiteral("-77.25 -12.5") << QByteArray();
         QTest::newRow("hemisphere against a sign")
             << QByteArray("ID;Lat;Lat Direction;Lon;Lon Direction\n1;-12.5;N;77.25;W\n")
-            << QString();
-        QTest::newRow("lower-case south")
-            << QByteArray("ID;Lat;Lon\n1;33 51 0.0 s;18 30 0 e\n") << QStringLiteral("18.5 -33.85");
+            << QString() << QByteArray();
+        QTest::newRow("lower-case south") << QByteArray("ID;Lat;Lon\n1;33 51 0.0 s;18 30 0 e\n")
+                                          << QStringLiteral("18.5 -33.85") << QByteArray();
         QTest::newRow("degrees and decimal minutes")
             << QByteArray("ID;Lat Deg;Lat Min;Lon Deg;Lon Min\n1;47;30.0;-3;15.0\n")
-            << QStringLiteral("-3.25 47.5");
-        QTest::newRow("null island") << QByteArray("ID;Lat;Lon\n1;0;0\n") << QString();
+            << QStringLiteral("-3.25 47.5") << QByteArray();
+        QTest::newRow("null island")
+            << QByteArray("ID;Lat;Lon\n1;0;0\n") << QString() << QByteArray();
         QTest::newRow("unknown system in a title")
-            << QByteArray("EPSG:999999\nID;Lat;Lon\n1;47;-3\n") << QStringLiteral("-3 47");
+            << QByteArray("EPSG:999999\nID;Lat;Lon\n1;47;-3\n") << QStringLiteral("-3 47")
+            << QByteArray();
     }
     void placesSites()
     {
         QFETCH(QByteArray, text);
         QFETCH(QString, position);
         const Warnings warnings;
+        QFETCH(QByteArray, systems);
         write("p.csv", text);
-        const auto dataset = open("p.csv");
+        const auto dataset = open(systems.constData(), "p.csv");
         QVERIFY(dataset);
         OGRFeatureUniquePtr feature{dataset->GetLayer(0)->GetNextFeature()};
         const OGRGeometry *geometry = feature->GetGeometryRef();
@@ -360,6 +374,10 @@ private Q_SLOTS:
                          .arg(geometry->toPoint()->getX())
                          .arg(geometry->toPoint()->getY()),
                      position);
+        QCOMPARE(problemsOf(*dataset->GetLayer(0))
+                     .join(QLatin1Char('|'))
+                     .contains(QStringLiteral("|Error|")),
+                 position.isEmpty());
     }
 
     void transformsToTheTargetSystem()

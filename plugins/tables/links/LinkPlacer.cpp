@@ -8,12 +8,23 @@
 
 namespace vlt::tables {
 
+namespace {
+
+/// Half a turn in the unit of longitudes and latitudes; 0 for other coordinates.
+double halfTurn(const OffsetScale &scale)
+{
+    constexpr double HalfTurnDegrees = 180;
+    return scale.isOnEarth ? HalfTurnDegrees / scale.unit : 0;
+}
+
+} // namespace
+
 LinkPlacer::LinkPlacer(const TableProfile &table, const LinkLayout &layout,
                        const OffsetScale &scale)
     : m_table(&table)
     , m_layout(&layout)
-    , m_placers{PointPlacer(table, layout.ends[0].point, layout.unit),
-                PointPlacer(table, layout.ends[1].point, layout.unit)}
+    , m_placers{PointPlacer(table, layout.ends[0].point, layout.unit, halfTurn(scale)),
+                PointPlacer(table, layout.ends[1].point, layout.unit, halfTurn(scale))}
     , m_scale(scale)
 {
     if (scale.isOnEarth)

@@ -2,11 +2,24 @@
 
 #include "tabletexts/TextPatterns.h"
 
+#include <cmath>
+
 namespace vlt::tables {
+
+namespace {
+
+/// Half a turn in the unit of a geographic system; 0 for others and for none.
+double halfTurn(const OGRSpatialReference *srs)
+{
+    return srs && srs->IsGeographic() ? M_PI / srs->GetAngularUnits() : 0;
+}
+
+} // namespace
 
 SiteLayer::SiteLayer(const TableSource &source)
     : TableLayer(source, source.facts().table.sheet, 1)
-    , m_placer(source.facts().table, source.facts().sites().point, source.facts().sites().unit)
+    , m_placer(source.facts().table, source.facts().sites().point, source.facts().sites().unit,
+               halfTurn(source.systems->file()))
 {
     defineColumns();
     setGeometryType(facts().sites().point.found() ? wkbPoint : wkbNone);

@@ -12,8 +12,7 @@ namespace {
 
 using tabletexts::TextId;
 
-constexpr double MostLongitude = 180;
-constexpr double MostLatitude = 90;
+constexpr double HalfTurnDegrees = 180;
 
 /// A coordinate with the hemisphere from a column of its own; one with a sign has its own already,
 /// which must not contradict.
@@ -86,6 +85,20 @@ bool PointPlacer::readAxis(int64_t row, const CoordinateFields &fields, Axis axi
     return !angle.fault;
 }
 
+std::optional<TextId> PointPlacer::outsideGlobe(double value, Axis axis) const
+{
+    constexpr double Precision = 1e-9; // of a factor between units
+    double halfTurn = m_halfTurn;
+    if (halfTurn == 0 && m_unit != CoordinateUnit::Meters)
+        halfTurn = HalfTurnDegrees;
+    const double most = (axis == Axis::X ? halfTurn : halfTurn / 2) * (1 + Precision);
+    if (halfTurn == 0 || std::abs(value) <= most)
+        return std::nullopt;
+    if (std::abs(halfTurn / HalfTurnDegrees - 1) > Precision)
+        return TextId("MESS_TAB_OUTSIDE_GLOBE");
+    return axis == Axis::X ? TextId("MESS_TAB_LONGITUDE") : TextId("MESS_TAB_LATITUDE");
+}
+
 Position PointPlacer::place(int64_t row, const std::vector<const Cell *> &cells,
                             std::vector<RowProblem> &problems) const
 {
@@ -112,11 +125,12 @@ Position PointPlacer::place(int64_t row, const std::vector<const Cell *> &cells,
         why = TextId("MESS_TAB_NOT_FINITE");
     else if (position.x == 0 && position.y == 0)
         why = TextId("MESS_TAB_ZERO_ZERO");
-    else if (m_unit != CoordinateUnit::Meters && std::abs(position.x) > MostLongitude)
-        why = TextId("MESS_TAB_LONGITUDE");
-    else if (m_unit != CoordinateUnit::Meters && std::abs(position.y) > MostLatitude) {
-        why = TextId("MESS_TAB_LATITUDE");
-        field = m_fields.yField();
+    else {
+        why = outsideGlobe(position.x, Axis::X);
+        if (!why) {
+            why = outsideGlobe(position.y, Axis::Y);
+            field = m_fields.yField();
+        }
     }
     if (why) {
         problems.push_back(problem(row, field, fieldText(cells, field), *why));

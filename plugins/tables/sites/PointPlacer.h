@@ -5,6 +5,7 @@
 #include "table/RowProblem.h"
 #include "table/Table.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -23,10 +24,13 @@ struct Position
 class PointPlacer
 {
 public:
-    PointPlacer(const TableProfile &table, const PointFields &fields, CoordinateUnit unit)
+    /// @param halfTurn  of the file's coordinate system where it is geographic, in its unit; else 0
+    PointPlacer(const TableProfile &table, const PointFields &fields, CoordinateUnit unit,
+                double halfTurn = 0)
         : m_table(&table)
         , m_fields(fields)
         , m_unit(unit)
+        , m_halfTurn(halfTurn)
     {}
 
     /// `cells` holds the cell of each field, null where it is empty. A problem is appended where
@@ -35,6 +39,7 @@ public:
                    std::vector<RowProblem> &problems) const;
 
 private:
+    std::optional<tabletexts::TextId> outsideGlobe(double value, Axis axis) const;
     bool readAxis(int64_t row, const CoordinateFields &fields, Axis axis,
                   const std::vector<const Cell *> &cells, double &value,
                   std::vector<RowProblem> &problems) const;
@@ -44,6 +49,7 @@ private:
     const TableProfile *m_table;
     PointFields m_fields;
     CoordinateUnit m_unit;
+    double m_halfTurn;
 };
 
 /// Text of the cell of a field, trimmed; empty where there is none (also for field -1).
