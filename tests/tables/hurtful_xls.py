@@ -4,7 +4,7 @@ import struct
 
 import xlwt
 
-from hurtful_sites import HEADER, sites, table
+from hurtful_sites import COUNT, HEADER, sites, table
 
 SIGNATURE = b"\xd0\xcf\x11\xe0\xa1\xb1\x1a\xe1"
 FREE, END, FAT = 0xFFFFFFFF, 0xFFFFFFFE, 0xFFFFFFFD
@@ -137,9 +137,10 @@ def formula_cells(number):
     return stream(0x0600, b"", b"", cells)
 
 
-def biff8(before=b"", strings=whole_strings):
+def biff8(before=b"", strings=whole_strings, place=lambda r: r):
+    """`place` tells the number of a row."""
     texts, cells = [], b""
-    for r, row in enumerate(table()):
+    for r, row in zip(map(place, range(COUNT + 1)), table()):
         for c, v in enumerate(row):
             at = struct.pack("<HHH", r, c, 0)
             if not isinstance(v, str):
@@ -195,6 +196,8 @@ def legal(m):
     for version, number in (("biff3", 0x0206), ("biff4", 0x0406)):
         m.open(version + "_formulas.xls", container({"Workbook": formula_cells(number)}),
                "every cell is a formula with the record number of an older version")
+    m.open("rows_back.xls", container({"Workbook": biff8(place=lambda r: r if r < 20 else r - 10)}),
+           "row 21 and those below say that they are row 11 and those below")
     m.open("parted_strings.xls", container({"Workbook": biff8(strings=parted_strings)}),
            "empty CONTINUE records between and inside the texts", problems="0|0||")
     m.open("lost_strings.xls", container({"Workbook": biff8(strings=lambda texts: whole_strings(texts[:30]))}),

@@ -36,6 +36,7 @@ struct Outcome
     QString firstId;
     QString lastId;
     qint64 rowsRead = -1;
+    bool rowsAscend = true;
     std::vector<RowProblem> problems;
 
     /// How many problems there are and the first of them.
@@ -67,8 +68,11 @@ Outcome openTable(const QString &path)
         FieldCells cells(profile);
         cells.takeFaults(profile.header.row, profile.header.faults, outcome.problems);
         const auto rows = table->rows();
+        int64_t last = profile.header.row;
         while (rows->advance()) {
             const Row &row = rows->cells();
+            outcome.rowsAscend = outcome.rowsAscend && row.number > last;
+            last = row.number;
             cells.take(row, outcome.problems);
             outcome.lastId = row.cells.empty() ? QString() : fromUtf8(cellText(row.cells.front()));
             if (outcome.rowsRead++ == 0)
@@ -140,6 +144,7 @@ void compare()
         QCOMPARE(outcome.header, header);
     QCOMPARE(outcome.rows, rows);
     QCOMPARE(outcome.rowsRead, rows);
+    QVERIFY(outcome.rowsAscend);
 }
 
 } // namespace

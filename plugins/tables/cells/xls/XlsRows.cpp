@@ -187,10 +187,10 @@ bool XlsRows::advance()
         m_texts.swap(m_nextTexts);
         m_nextRow = -1;
     }
-    if (m_ended)
-        return !m_cells.empty();
-    while (readRecord())
+    while (!m_ended && readRecord())
         continue;
+    // Rows ascend: a number that goes back would name two sites alike.
+    m_rowNumber = std::max<int64_t>(m_row, m_rowNumber) + 1;
     return !m_cells.empty();
 }
 

@@ -14,7 +14,7 @@ public:
     XlsRows(std::unique_ptr<ByteSource> sheet, std::shared_ptr<const XlsContext> context);
 
     bool advance() override;
-    int64_t rowNumber() const override { return m_row + 1; }
+    int64_t rowNumber() const override { return m_rowNumber; }
     bool hasContent(int lastColumn) override;
     uint64_t fingerprint() override;
     void cells(Row &row) override;
@@ -46,7 +46,8 @@ private:
     {
         return m_leftOut && column < m_leftOut->size() && (*m_leftOut)[column];
     }
-    int m_row = -1;
+    int m_row = -1; ///< as its cells say
+    int64_t m_rowNumber = 0;
     std::vector<RawCell> m_cells;
     std::vector<std::string> m_texts; ///< own texts of this row
     int m_nextRow = -1;               ///< row of the cells in m_nextCells
