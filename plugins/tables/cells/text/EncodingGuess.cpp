@@ -21,6 +21,8 @@ constexpr size_t BlockSize = size_t{1} << 20;
 constexpr size_t SampleSize = size_t{64} << 10;
 constexpr size_t CharactersPerBadByte = 2; ///< at least so many, or the text is not UTF-8
 constexpr double ClearlyBetter = 0.1;
+constexpr double Negligible = 1e-9;
+constexpr size_t FewAccents = 8;
 
 struct DetectorRelease
 {
@@ -78,20 +80,23 @@ std::string detected(const std::string &sample)
     return uchardet_get_charset(detector.get());
 }
 
-/// What the detector may mean: it mixes up the standards with what Windows made of them.
+/// Standards and what Windows made of them, which the detector mixes up.
+constexpr std::array<std::array<const char *, 2>, 7> Relatives = {{{"ISO-8859-2", "WINDOWS-1250"},
+                                                                   {"ISO-8859-7", "WINDOWS-1253"},
+                                                                   {"ISO-8859-8", "WINDOWS-1255"},
+                                                                   {"ISO-8859-9", "WINDOWS-1254"},
+                                                                   {"ISO-8859-13", "WINDOWS-1257"},
+                                                                   {"ISO-8859-4", "WINDOWS-1257"},
+                                                                   {"TIS-620", "WINDOWS-874"}}};
+
+/// What the detector may mean.
 std::vector<std::string> candidates(const std::string &answer)
 {
-    static constexpr std::array<std::array<const char *, 2>, 7> Relatives = {
-        {{"ISO-8859-2", "WINDOWS-1250"},
-         {"ISO-8859-7", "WINDOWS-1253"},
-         {"ISO-8859-8", "WINDOWS-1255"},
-         {"ISO-8859-9", "WINDOWS-1254"},
-         {"ISO-8859-13", "WINDOWS-1257"},
-         {"ISO-8859-4", "WINDOWS-1257"},
-         {"TIS-620", "WINDOWS-874"}}};
     for (const auto &[standard, windows] : Relatives)
         if (answer == standard || answer == windows)
             return {windows, standard};
+    if (answer.empty())
+        return {};
     return {answer};
 }
 
@@ -111,12 +116,14 @@ std::string guessEncoding(const std::shared_ptr<const InputFile> &file)
     const Census census = censusOf(file);
     if (census.utf8.characters >= CharactersPerBadByte * census.utf8.badBytes)
         return Utf8;
-    const double western = plausibilityOf(census.sample, Western);
-    std::string best = Western;
-    double most = western + ClearlyBetter;
     const std::string answer = detected(census.sample);
-    for (const std::string &candidate : candidates(answer)) {
-        const double plausible = answer.empty() ? 0 : plausibilityOf(census.sample, candidate);
+    const std::vector<std::string> meant = candidates(answer);
+    // From some accents on the detector hardly takes a western language for another one.
+    const bool isSure = meant.size() > 1 && census.utf8.badBytes >= FewAccents;
+    std::string best = Western;
+    double most = plausibilityOf(census.sample, Western) + (isSure ? -Negligible : ClearlyBetter);
+    for (const std::string &candidate : meant) {
+        const double plausible = plausibilityOf(census.sample, candidate);
         if (plausible > most) {
             best = candidate;
             most = plausible;

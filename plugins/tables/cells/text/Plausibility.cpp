@@ -10,14 +10,15 @@ namespace vlt::tables {
 
 namespace {
 
-/// Small letters above ASCII, of languages or of the languages of a country. Icelandic is left out:
-/// Turkish in the wrong encoding has its letters.
-constexpr std::array<std::u32string_view, 15> Alphabets = {
+/// Small letters above ASCII, of languages or of the languages of a country. Icelandic goes without
+/// two that Turkish has in their places.
+constexpr std::array<std::u32string_view, 16> Alphabets = {
     U"àâæçéèêëîïôœùûüÿäöß",  // French, German, Luxembourgish
     U"àèéìíîòóùúäöüßâêôç",   // Italian, Rhaeto-Romance, German
     U"áéíñóúüçàèïò",         // Spanish, Catalan, Galician
     U"ãáàâçéêíõóôúü",        // Portuguese
     U"åäöæøéèüóà",           // Danish, Norwegian, Swedish, Finnish
+    U"áéíóúæöð",             // Icelandic
     U"ëïéèüöóáäêç",          // Dutch, Afrikaans
     U"ąćęłńóśźż",            // Polish
     U"áčďéěíňóřšťúůýžäľĺôŕ", // Czech, Slovak
