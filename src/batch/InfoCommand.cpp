@@ -1,6 +1,7 @@
 #include "batch/InfoCommand.h"
 
 #include "batch/Console.h"
+#include "batch/Help.h"
 #include "batch/InfoReport.h"
 #include "batch/LayerCommand.h"
 #include "batch/StartUp.h"
@@ -105,8 +106,8 @@ TableOutcome outcomeOf(InfoReport report, const QString &kind, const QString &ta
     if (report.file.error)
         return {
             {}, {report.file.error->key, report.file.error->text, table}, report.file.errorDetail};
-    const Result<geodata::SiteCheck> check =
-        geodata::readSiteCheck(kind + report.file.filePath, {}, report.file.systems);
+    const Result<geodata::SiteCheck> check = geodata::readSiteCheck(
+        report.file.reading.connection(kind, report.file.filePath), {}, report.file.systems);
     if (!check)
         return {{}, {check.error().key, check.error().text, table}, {}};
     const QList<Problem> ofSystems =
@@ -116,12 +117,13 @@ TableOutcome outcomeOf(InfoReport report, const QString &kind, const QString &ta
     return {report, {}, {}};
 }
 
-TableOutcome readTable(const QString &table, bool isLinks, const sites::ProjectContext &project)
+TableOutcome readTable(const QString &table, bool isLinks, const sites::TableReading &reading,
+                       const sites::ProjectContext &project)
 {
     const QString path = QFileInfo(table).absoluteFilePath();
-    return isLinks ? outcomeOf(linkReport(links::readLinkFileInfo(path, project)),
+    return isLinks ? outcomeOf(linkReport(links::readLinkFileInfoAs(path, project, reading)),
                                QStringLiteral("link:"), table)
-                   : outcomeOf(siteReport(sites::readSiteFileInfo(path, project)),
+                   : outcomeOf(siteReport(sites::readSiteFileInfoAs(path, project, reading)),
                                QStringLiteral("site:"), table);
 }
 
@@ -166,9 +168,11 @@ CommandSyntax syntax()
                      dico_label("MESS_HELP_INFO_TABLE",
                                 "Site or link table (.xls .xlsx .xml .csv); one or more."),
                      dico_label("MESS_USE_NO_TABLE", "no table given")};
-    syntax.options = {
-        {QStringLiteral("link"),
-         dico_label("MESS_OPT_INFO_LINK", "The tables have microwave links, not sites.")}};
+    syntax.options =
+        QList<QCommandLineOption>{
+            {QStringLiteral("link"),
+             dico_label("MESS_OPT_INFO_LINK", "The tables have microwave links, not sites.")}} +
+        readingOptions();
     syntax.examples =
         QStringLiteral("  vltlayers info sites.xlsx\n"
                        "  vltlayers info --link links.xlsx\n"
@@ -178,13 +182,16 @@ CommandSyntax syntax()
 
 ExitStatus run(const QCommandLineParser &parser, const GlobalOptions &options)
 {
+    const Result<sites::TableReading> reading = readReading(parser);
+    if (!reading)
+        return refuseUsage(reading.error().text);
     const Result<Surroundings> surroundings = startUp(options);
     if (!surroundings)
         return refuse(surroundings.error());
     const bool isLinks = parser.isSet(QStringLiteral("link"));
     QList<TableOutcome> outcomes;
     for (const QString &table : parser.positionalArguments())
-        outcomes << readTable(table, isLinks, surroundings.value().project);
+        outcomes << readTable(table, isLinks, reading.value(), surroundings.value().project);
     if (options.json && outcomes.size() > 1)
         return tellAsJson(outcomes);
 

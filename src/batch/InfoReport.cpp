@@ -22,6 +22,8 @@ QList<Line> fileLines(const InfoReport &report)
         {report.countLabel, {QString::number(file.rowCount)}},
         {dico_label("MESS_CLI_LAYER", "Layer"), {file.layerName}},
         {dico_label("MESS_CLI_NAME_FIELD", "Column that names a site"), {file.nameField}}};
+    if (!file.encoding.isEmpty())
+        lines.append({dico_label("MESS_CLI_ENCODING", "Encoding"), {file.encoding}});
     for (const InfoEntry &entry : report.further)
         lines.append({entry.label, {entry.value}});
     lines.append({report.systemLabel, {file.systems.source}});
@@ -103,6 +105,8 @@ QJsonObject reportJson(const InfoReport &report)
                        {QStringLiteral("columns"), report.columnNames},
                        {QStringLiteral("problemCount"), report.problems.count},
                        {QStringLiteral("problems"), problemsJson(report.problems)}};
+    if (!file.encoding.isEmpty())
+        object.insert(QStringLiteral("encoding"), file.encoding);
     for (const InfoEntry &entry : report.further)
         object.insert(entry.key, entry.value);
     return object;

@@ -9,11 +9,15 @@
 #include "platform/LayerFile.h"
 
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QSet>
 
 namespace vlt::batch {
 
 namespace {
+
+const QStringList Delimiters = {QStringLiteral("comma"), QStringLiteral("semicolon"),
+                                QStringLiteral("tab"), QStringLiteral("bar")};
 
 /// Name of the catalogue, below the pylons' folder, that has nothing to choose from.
 QString emptyCatalogue(const sites::SiteCatalogues &catalogues)
@@ -52,7 +56,46 @@ QList<QCommandLineOption> layerOptions()
                            "terrain's, else 4326 for degrees, else the table's)."),
                 QStringLiteral("SRS")},
            } +
-           siteOptions();
+           readingOptions() + siteOptions();
+}
+
+QList<QCommandLineOption> readingOptions()
+{
+    return {
+        {QStringLiteral("sheet"),
+         dico_label("MESS_OPT_SHEET", "Sheet of a workbook (default: the one whose header names "
+                                      "sites or links)."),
+         QStringLiteral("NAME")},
+        {QStringLiteral("encoding"),
+         dico_label("MESS_OPT_ENCODING", "Encoding of a text file, such as CP1250 (default: found "
+                                         "from its bytes)."),
+         QStringLiteral("NAME")},
+        {QStringLiteral("delimiter"),
+         dico_label("MESS_OPT_DELIMITER",
+                    "What separates the columns of a text file (default: found from its lines)."),
+         Delimiters.join(QLatin1Char('|'))},
+    };
+}
+
+Result<sites::TableReading> readReading(const QCommandLineParser &parser)
+{
+    static const QRegularExpression name(QStringLiteral("\\A[A-Za-z0-9._:/-]+\\z"));
+    const auto value = [&parser](const char *option) {
+        return parser.value(QLatin1String(option));
+    };
+    const sites::TableReading reading{value("sheet"), value("encoding"),
+                                      value("delimiter").toLower()};
+    if (parser.isSet(QStringLiteral("sheet")) && reading.sheet.isEmpty())
+        return wrongUsage(
+            dico_label("MESS_USE_NO_VALUE", "%1 needs a value").arg(QStringLiteral("--sheet")));
+    if (parser.isSet(QStringLiteral("encoding")) && !name.match(reading.encoding).hasMatch())
+        return wrongValue(QStringLiteral("encoding"),
+                          dico_label("MESS_USE_ENCODING", "the name of an encoding"),
+                          reading.encoding);
+    if (parser.isSet(QStringLiteral("delimiter")) && !Delimiters.contains(reading.delimiter))
+        return wrongValue(QStringLiteral("delimiter"), Delimiters.join(QLatin1Char('|')),
+                          value("delimiter"));
+    return reading;
 }
 
 std::variant<LayerRequest, ExitStatus> readLayerRequest(const QCommandLineParser &parser,
@@ -71,6 +114,10 @@ std::variant<LayerRequest, ExitStatus> readLayerRequest(const QCommandLineParser
     if (!representation)
         return refuseUsage(representation.error().text);
     request.pylons = representation.value();
+    const auto reading = readReading(parser);
+    if (!reading)
+        return refuseUsage(reading.error().text);
+    request.reading = reading.value();
     if (!request.output.isEmpty() &&
         isOneOf(request.output,
                 inputs + QStringList{request.table, surroundings.project.projectPath,

@@ -19,6 +19,7 @@ struct LayerRequest
     QString output; ///< layer file to write
     sites::SiteCatalogues catalogues;
     sites::SiteRepresentation pylons;
+    sites::TableReading reading;
 };
 
 /// How many rows come out without a place, one counting once however many problems it has.
@@ -47,6 +48,14 @@ std::variant<LayerRequest, ExitStatus> readLayerRequest(const QCommandLineParser
 sites::SiteSystems chosenSystems(const QCommandLineParser &parser,
                                  const sites::SiteSystems &otherwise);
 
+/// --sheet, --encoding and --delimiter.
+QList<QCommandLineOption> readingOptions();
+
+/// How the options say that tables are read.
+///
+/// @par Errors   no key; which option has which wrong value.
+Result<sites::TableReading> readReading(const QCommandLineParser &parser);
+
 /// The outcome of a check, a row counting once however many problems it has.
 ///
 /// @param unit     of the table's coordinates, as TableFileInfo has it
@@ -59,7 +68,8 @@ LayerOutcome layerOutcome(const Check &check, const QString &unit,
             sites::systemProblems(unit, systems, check.systems)};
 }
 
-/// Writes a finished layer and tells of its missing page; the exit status where that fails.
+/// Writes a finished layer and tells of its missing page; the exit
+/// status where that fails.
 std::optional<ExitStatus> writeLayer(const QString &path, const Result<sites::SiteLayer> &layer);
 
 /// Tells on the error output what does not fit about the coordinate systems.

@@ -168,7 +168,8 @@ ExitStatus runParsed(const QCommandLineParser &parser, const LinkRequest &wanted
     const auto &request = std::get<LayerRequest>(read);
 
     links::LinkLayerInput input;
-    input.file = links::readLinkFileInfo(QFileInfo(request.table).absoluteFilePath(), project);
+    input.file = links::readLinkFileInfoAs(QFileInfo(request.table).absoluteFilePath(), project,
+                                           request.reading);
     if (input.file.error)
         return refuse({input.file.error->key, input.file.error->text, request.table},
                       input.file.errorDetail);

@@ -93,8 +93,8 @@ ExitStatus runParsed(const QCommandLineParser &parser, const GlobalOptions &opti
     const auto &request = std::get<LayerRequest>(read);
 
     sites::SiteLayerInput input;
-    input.file =
-        sites::readSiteFileInfo(QFileInfo(request.table).absoluteFilePath(), surroundings.project);
+    input.file = sites::readSiteFileInfoAs(QFileInfo(request.table).absoluteFilePath(),
+                                           surroundings.project, request.reading);
     if (input.file.error)
         return refuse({input.file.error->key, input.file.error->text, request.table},
                       input.file.errorDetail);

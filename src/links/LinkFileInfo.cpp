@@ -30,7 +30,14 @@ QString linkEndNameField(const QString &format)
 
 LinkFileInfo readLinkFileInfo(const QString &path, const sites::ProjectContext &project)
 {
+    return readLinkFileInfoAs(path, project, {});
+}
+
+LinkFileInfo readLinkFileInfoAs(const QString &path, const sites::ProjectContext &project,
+                                const sites::TableReading &reading)
+{
     LinkFileInfo info;
+    info.reading = reading;
     const QStringList fields = sites::readTableFileInfo(linkTable(), path, project, info);
     if (!info.valid)
         return info;
@@ -39,7 +46,7 @@ LinkFileInfo readLinkFileInfo(const QString &path, const sites::ProjectContext &
     info.linkNameField = info.columns.name;
     info.nameField = linkEndNameField(info.format);
     const Result<geodata::LayerInfo> ends =
-        geodata::readLayerInfo(QStringLiteral("link:") + path, EndLayer);
+        geodata::readLayerInfo(reading.connection(QStringLiteral("link:"), path), EndLayer);
     if (ends) {
         info.endLayerName = ends.value().layerName;
         info.hasNameField = ends.value().fields.contains(info.nameField, Qt::CaseInsensitive);

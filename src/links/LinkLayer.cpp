@@ -32,8 +32,8 @@ constexpr int DemoFrequencyMHz = 100;
 
 sites::PylonQuery queryOf(const LinkLayerInput &input)
 {
-    return {QStringLiteral("link"), input.sourceSrs, input.targetSrs, input.file.filePath,
-            linkQueryPart(input.links)};
+    return {QStringLiteral("link"),     input.sourceSrs,   input.targetSrs, input.file.filePath,
+            linkQueryPart(input.links), input.file.reading};
 }
 
 QString dish(int heightM, double azimuthDeg, const QString &color)

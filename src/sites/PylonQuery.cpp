@@ -25,6 +25,14 @@ QString systemsPart(const PylonQuery &query)
     return part.isEmpty() ? part : part + QLatin1Char(',');
 }
 
+/// What stands behind the sectors: the links' own parameters, then how the table is read.
+QString extraPart(const PylonQuery &query)
+{
+    QStringList parts = {query.extra, query.reading.parameters()};
+    parts.removeAll(QString());
+    return parts.isEmpty() ? QString() : parts.join(QLatin1Char(',')) + QLatin1Char(',');
+}
+
 QString terrainPart(const PylonQuery &query, const ProjectContext &project)
 {
     if (query.kind != QLatin1String("link") || project.terrainFile.isEmpty())
@@ -43,20 +51,19 @@ QString buildPylonQuery(const PylonQuery &query, const SiteRepresentation &repre
     if (!pylon || !colors)
         return {};
 
-    const QStringList values =
-        QStringList{query.kind,
-                    systemsPart(query),
-                    PylonFolder,
-                    pylon->type,
-                    text::g6(representation.pylonWidth),
-                    colorSetText(*colors, representation.transparency)} +
-        sectorProperties(representation) +
-        QStringList{query.extra.isEmpty() ? QString() : query.extra + QLatin1Char(','),
-                    QString::number(representation.antennaSize),
-                    QString::number(representation.symbolicDistance),
-                    QString::number(representation.realisticDistance),
-                    terrainPart(query, project),
-                    project.relativePath(query.dataFile)};
+    const QStringList values = QStringList{query.kind,
+                                           systemsPart(query),
+                                           PylonFolder,
+                                           pylon->type,
+                                           text::g6(representation.pylonWidth),
+                                           colorSetText(*colors, representation.transparency)} +
+                               sectorProperties(representation) +
+                               QStringList{extraPart(query),
+                                           QString::number(representation.antennaSize),
+                                           QString::number(representation.symbolicDistance),
+                                           QString::number(representation.realisticDistance),
+                                           terrainPart(query, project),
+                                           project.relativePath(query.dataFile)};
     return text::fillSlots(
         QStringLiteral("%1:%2data_folder=%3,pylon_type=%4,pylon_width=%5,sector_colors=%6,"
                        "sector_properties=%7 %8 %9,%10transmitter_scale=%11,lods=%12 %13,%14%15"),
@@ -65,8 +72,8 @@ QString buildPylonQuery(const PylonQuery &query, const SiteRepresentation &repre
 
 QString placingConnection(const PylonQuery &query)
 {
-    return query.kind + QLatin1Char(':') + systemsPart(query) +
-           QFileInfo(query.dataFile).absoluteFilePath();
+    return query.reading.connection(query.kind + QLatin1Char(':') + systemsPart(query),
+                                    QFileInfo(query.dataFile).absoluteFilePath());
 }
 
 QStringList sectorProperties(const SiteRepresentation &representation)

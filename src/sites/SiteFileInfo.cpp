@@ -18,10 +18,12 @@ TableKind siteTable()
 
 /// A table whose only coordinates are those of both ends of links could be read as sites at one of
 /// the ends.
-bool isLinkTable(const QString &path, const SiteColumnSet &columns)
+bool isLinkTable(const SiteFileInfo &info)
 {
-    return columns.x.isEmpty() && columns.y.isEmpty() &&
-           geodata::readLayerInfo(QStringLiteral("link:") + path, 0).ok();
+    return info.columns.x.isEmpty() && info.columns.y.isEmpty() &&
+           geodata::readLayerInfo(info.reading.connection(QStringLiteral("link:"), info.filePath),
+                                  0)
+               .ok();
 }
 
 } // namespace
@@ -51,13 +53,20 @@ std::optional<Problem> missingNameField(const SiteFileInfo &info)
 
 SiteFileInfo readSiteFileInfo(const QString &path, const ProjectContext &project)
 {
+    return readSiteFileInfoAs(path, project, {});
+}
+
+SiteFileInfo readSiteFileInfoAs(const QString &path, const ProjectContext &project,
+                                const TableReading &reading)
+{
     SiteFileInfo info;
+    info.reading = reading;
     const QStringList fields = readTableFileInfo(siteTable(), path, project, info);
     if (!info.valid)
         return info;
 
     info.columns = recogniseSiteColumns(fields);
-    if (isLinkTable(path, info.columns)) {
+    if (isLinkTable(info)) {
         info.valid = false;
         info.error = siteTable().unreadable;
         info.errorDetail = dico_label("MESS_LINKS_NOT_SITES",

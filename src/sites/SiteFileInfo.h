@@ -16,6 +16,10 @@ struct SiteFileInfo : TableFileInfo
 /// project. An empty path gives an empty value without an error.
 SiteFileInfo readSiteFileInfo(const QString &path, const ProjectContext &project);
 
+/// The same for a table that is read as the user says.
+SiteFileInfo readSiteFileInfoAs(const QString &path, const ProjectContext &project,
+                                const TableReading &reading);
+
 /// The column that names a site in the exports of a tool: "Site name", "NAME", "SITE ID" or "Site
 /// ID".
 QString siteNameField(const QString &format);

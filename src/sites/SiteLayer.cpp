@@ -10,7 +10,8 @@ namespace {
 
 PylonQuery queryOf(const SiteLayerInput &input)
 {
-    return {QStringLiteral("site"), input.sourceSrs, input.targetSrs, input.file.filePath, {}};
+    return {QStringLiteral("site"), input.sourceSrs, input.targetSrs, input.file.filePath, {},
+            input.file.reading};
 }
 
 } // namespace

@@ -58,7 +58,8 @@ QStringList readTableFileInfo(const TableKind &kind, const QString &path,
     if (path.isEmpty())
         return {};
 
-    const Result<geodata::LayerInfo> opened = geodata::readLayerInfo(kind.prefix + path, 0);
+    const Result<geodata::LayerInfo> opened =
+        geodata::readLayerInfo(info.reading.connection(kind.prefix, path), 0);
     if (!opened) {
         info.errorDetail = opened.error().text;
         info.error = isEmptyTable(info.errorDetail) ? kind.empty : kind.unreadable;
@@ -78,6 +79,7 @@ QStringList readTableFileInfo(const TableKind &kind, const QString &path,
     info.format = layer.metadata.value(QStringLiteral("format"));
     info.unit = layer.metadata.value(QStringLiteral("unit"));
     info.epsg = layer.metadata.value(QStringLiteral("epsg"));
+    info.encoding = layer.metadata.value(QStringLiteral("encoding"));
     info.description = describeTableFile(info.format, info.unit);
     const KnownSystems known = knownSystems(info, project);
     info.systems = chooseSystems(known);

@@ -3,6 +3,7 @@
 #include "platform/Result.h"
 #include "sites/ProjectContext.h"
 #include "sites/SiteSystems.h"
+#include "sites/TableReading.h"
 
 #include <QStringList>
 
@@ -13,9 +14,10 @@ namespace vlt::sites {
 /// What a page knows of the table of sites or links that the user picked.
 struct TableFileInfo
 {
-    bool valid = false; ///< whether a layer can be made of it
-    QString filePath;   ///< as picked, once the file opened; kept for a table without rows
-    QString fileDir;    ///< absolute directory of the file
+    bool valid = false;   ///< whether a layer can be made of it
+    TableReading reading; ///< how it was read
+    QString filePath;     ///< as picked, once the file opened; kept for a table without rows
+    QString fileDir;      ///< absolute directory of the file
     QString layerName;
     QString nameField;          ///< column whose value names a site
     bool hasNameField = false;  ///< whether the table has it, in any case of letters
@@ -23,6 +25,7 @@ struct TableFileInfo
     QString format;             ///< which tool exported the file, as the file says
     QString unit;               ///< "METERS", "DMS", else decimal degrees
     QString epsg;               ///< code that the file declares; "0" or empty for none
+    QString encoding;           ///< of a text file; empty for others
     qint64 rowCount = 0;        ///< sites or links
     SiteSystems systems;        ///< to give to the choosers
     QStringList projectSystems; ///< of the project and its terrain, as far as they are known
@@ -41,9 +44,9 @@ struct TableKind
     Error empty;
 };
 
-/// Opens `path` as a table of the kind and fills `info`, but for the column that names a site. The
-/// names of the first layer's fields; none unless `info` is valid afterwards, an empty path being
-/// no error.
+/// Opens `path` as a table of the kind, by `info.reading`, and fills `info`, but for the column
+/// that names a site. The names of the first layer's fields; none unless `info` is valid
+/// afterwards, an empty path being no error.
 QStringList readTableFileInfo(const TableKind &kind, const QString &path,
                               const ProjectContext &project, TableFileInfo &info);
 

@@ -131,6 +131,31 @@ private Q_SLOTS:
         }
     }
 
+    void readsTablesAsTheUserSays()
+    {
+        // "Ясенево" in code page 1251, and a comma that is no delimiter
+        const QByteArray name = "\xdf\xf1\xe5\xed\xe5\xe2\xee";
+        writeFile(path(u"s.csv"_s), "Site ID|a, b|Longitude|Latitude\n" + name + "|1|37,5|55,6\n");
+        const QString how = u" --encoding CP1251 --delimiter BAR"_s;
+
+        const Run info = start(u"info ../s.csv --json"_s + how);
+        const Run site = start(u"site ../s.csv -o o.lay"_s + how);
+        const Run plain = start(u"site ../s.csv -o plain.lay"_s);
+        const Run sheet =
+            start(QStringList{u"site"_s, u"../s.csv"_s, u"-oo.lay"_s, u"--sheet"_s, u"A, b"_s});
+
+        const QJsonObject told = QJsonDocument::fromJson(info.output).object();
+        QCOMPARE(told.value(u"encoding"_s).toString(), u"CP1251"_s);
+        QCOMPARE(site.errors, QByteArray());
+        const QByteArray source = element(readFile(path(u"elsewhere/o.lay"_s)), "source");
+        QVERIFY2(source.contains("=200 20 2,encoding=CP1251,delimiter=bar,transmitter_scale=100,"),
+                 source.constData());
+        const QByteArray other = element(readFile(path(u"elsewhere/plain.lay"_s)), "source");
+        QVERIFY2(other.contains("=200 20 2,transmitter_scale=100,"), other.constData());
+        QVERIFY2(sheet.errors.contains("there is no sheet called \"A, b\""),
+                 sheet.errors.constData());
+    }
+
     void speaksFrenchOfTables_data()
     {
         QTest::addColumn<QString>("table");
@@ -279,6 +304,8 @@ private Q_SLOTS:
         row("site ../s.csv -o old.lay --pylon-type zero", 2, "monopole_panel");
         row("site ../s.csv -o old.lay --sector-colors 0", 2, "--sector-colors");
         row("info ../s.csv --language de", 2, "fr|en");
+        row("info ../s.csv --delimiter colon", 2, "comma|semicolon|tab|bar");
+        row("info ../s.csv --encoding a,b", 2, "--encoding is the name of an encoding");
         row("site ../s.csv -o old.lay -o b.lay", 2, "-o is given more than once");
         row("site ../s.csv -o old.lay --sector-radiu 5", 2,
             "unknown option '--sector-radiu'; did you mean '--sector-radius'?\n"

@@ -347,6 +347,10 @@
         <source>The tables have microwave links, not sites.</source>
         <translation>The tables have microwave links, not sites.</translation>
     </message>
+    <message id="MESS_CLI_ENCODING">
+        <source>Encoding</source>
+        <translation>Encoding</translation>
+    </message>
     <message id="MESS_OPT_OUTPUT">
         <source>Layer file to write.</source>
         <translation>Layer file to write.</translation>
@@ -358,6 +362,22 @@
     <message id="MESS_OPT_TARGET_SRS">
         <source>Coordinate system of the project (default: the project's, else the terrain's, else 4326 for degrees, else the table's).</source>
         <translation>Coordinate system of the project (default: the project's, else the terrain's, else 4326 for degrees, else the table's).</translation>
+    </message>
+    <message id="MESS_OPT_SHEET">
+        <source>Sheet of a workbook (default: the one whose header names sites or links).</source>
+        <translation>Sheet of a workbook (default: the one whose header names sites or links).</translation>
+    </message>
+    <message id="MESS_OPT_ENCODING">
+        <source>Encoding of a text file, such as CP1250 (default: found from its bytes).</source>
+        <translation>Encoding of a text file, such as CP1250 (default: found from its bytes).</translation>
+    </message>
+    <message id="MESS_OPT_DELIMITER">
+        <source>What separates the columns of a text file (default: found from its lines).</source>
+        <translation>What separates the columns of a text file (default: found from its lines).</translation>
+    </message>
+    <message id="MESS_USE_ENCODING">
+        <source>the name of an encoding</source>
+        <translation>the name of an encoding</translation>
     </message>
     <message id="MESS_HELP_LINK_SUMMARY">
         <source>make a layer of links, tell which of them are free</source>

@@ -347,6 +347,10 @@
         <source>The tables have microwave links, not sites.</source>
         <translation>Les tableaux contiennent des liaisons hertziennes, pas des sites.</translation>
     </message>
+    <message id="MESS_CLI_ENCODING">
+        <source>Encoding</source>
+        <translation>Encodage</translation>
+    </message>
     <message id="MESS_OPT_OUTPUT">
         <source>Layer file to write.</source>
         <translation>Fichier de couche à écrire.</translation>
@@ -358,6 +362,22 @@
     <message id="MESS_OPT_TARGET_SRS">
         <source>Coordinate system of the project (default: the project's, else the terrain's, else 4326 for degrees, else the table's).</source>
         <translation>Système de coordonnées du projet (par défaut&#xa0;: celui du projet, sinon celui du terrain, sinon 4326 pour des degrés, sinon celui du tableau).</translation>
+    </message>
+    <message id="MESS_OPT_SHEET">
+        <source>Sheet of a workbook (default: the one whose header names sites or links).</source>
+        <translation>Feuille d'un classeur (par défaut&#xa0;: celle dont l'en-tête nomme des sites ou des liaisons).</translation>
+    </message>
+    <message id="MESS_OPT_ENCODING">
+        <source>Encoding of a text file, such as CP1250 (default: found from its bytes).</source>
+        <translation>Encodage d'un fichier texte, tel que CP1250 (par défaut&#xa0;: trouvé d'après ses octets).</translation>
+    </message>
+    <message id="MESS_OPT_DELIMITER">
+        <source>What separates the columns of a text file (default: found from its lines).</source>
+        <translation>Ce qui sépare les colonnes d'un fichier texte (par défaut&#xa0;: trouvé d'après ses lignes).</translation>
+    </message>
+    <message id="MESS_USE_ENCODING">
+        <source>the name of an encoding</source>
+        <translation>le nom d'un encodage</translation>
     </message>
     <message id="MESS_HELP_LINK_SUMMARY">
         <source>make a layer of links, tell which of them are free</source>
