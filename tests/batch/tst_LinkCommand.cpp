@@ -125,7 +125,8 @@ private Q_SLOTS:
         QCOMPARE(run.errors, QByteArray());
         const QByteArray layer = readFile(path(u"elsewhere/o.lay"_s));
         const QByteArray source = element(layer, "source");
-        QVERIFY2(source.startsWith("link:s_srs=4326,t_srs=2154,data_folder="), source.constData());
+        QVERIFY2(source.startsWith("link:s_srs=4326,t_srs=EPSG:2154,data_folder="),
+                 source.constData());
         QVERIFY2(
             source.endsWith("link_style=BILLBOARD,link_width=2.5,link_color=10203040 clearance,"
                             "fresnel_zone=2,fresnel_share=80,fresnel_color=aabbcc00,k_factor=1,"
@@ -201,6 +202,7 @@ private Q_SLOTS:
             "not a known raster format)");
         row("link ../l.csv -o old.lay --terrain no.tif", 1, "(no local file has this name)");
         row("link ../l.csv -o ../hills.asc --terrain ../hills.asc", 1, "one of the input files");
+        row("link ../l.csv -o - --report", 2, "'-o -' and --report do not go together");
         row("link ../l.csv", 2, "no output file given (-o OUT.lay), and no --report");
         row("link ../l.csv -o old.lay --link-style rope", 2, "line|tube|billboard");
         row("link ../l.csv -o old.lay --link-color bluish", 2, "not \"bluish\"");
