@@ -2,6 +2,7 @@
 
 #include "batch/BuildingsOptions.h"
 #include "batch/ColorText.h"
+#include "batch/OutputFiles.h"
 #include "language/VltLanguageManager.h"
 
 namespace vlt::batch {
@@ -251,6 +252,10 @@ Result<BuildingsRequest> readBuildingsRequest(const QCommandLineParser &parser)
     request.output = parser.value(QStringLiteral("output"));
     if (request.output.isEmpty())
         return wrongUsage(dico_label("MESS_USE_NO_OUTPUT", "no output file given (-o OUT.lay)"));
+    if (isStandardOutput(request.output))
+        return wrongUsage(dico_label("MESS_USE_NO_STANDARD_OUTPUT",
+                                     "'-o -': a layer of buildings lies beside its document, it "
+                                     "has to be a file"));
     request.layer = parser.value(QStringLiteral("layer"));
     request.heightField = parser.value(QStringLiteral("height-field"));
     request.terrain = parser.value(QStringLiteral("dtm"));

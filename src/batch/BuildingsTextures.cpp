@@ -28,6 +28,11 @@ struct GivenImage
     std::optional<double> height;
 };
 
+Error badHeight(const QString &image)
+{
+    return told(dico_label("MESS_CLI_BAD_HEIGHT", "the height is no number"), image);
+}
+
 /// "FILE=HEIGHT" where there is no file of that very name.
 GivenImage splitHeight(const QString &given)
 {
@@ -42,6 +47,9 @@ GivenImage splitHeight(const QString &given)
 Images entriesOf(const GivenImage &given)
 {
     const QFileInfo file(fileOfDataset(given.name));
+    const qsizetype sign = given.name.lastIndexOf(QLatin1Char('='));
+    if (file.filePath().isEmpty() && sign > 0 && QFileInfo(given.name.left(sign)).isFile())
+        return badHeight(given.name);
     if (file.filePath().isEmpty())
         return told(dico_label("MESS_SNAP_NO_FILE", "no such file"), given.name);
     const QString path = file.absoluteFilePath();
@@ -51,7 +59,7 @@ Images entriesOf(const GivenImage &given)
         return withReason("MESS_ERR_OPEN_RASTERDS", "This file can't be open as a raster dataset",
                           image.error(), given.name);
     if (given.height && !std::isfinite(*given.height))
-        return told(dico_label("MESS_CLI_BAD_HEIGHT", "the height is no number"), given.name);
+        return badHeight(given.name);
     if (given.height)
         return QList<FileEntry>{FileEntry(name, *given.height, FileEntry::Metres, {}, true, {})};
     QList<FileEntry> entries;

@@ -1,6 +1,7 @@
 #include "batch/CommandLine.h"
 
 #include "batch/Command.h"
+#include "batch/OutputFiles.h"
 #include "batch/Suggestion.h"
 #include "language/VltLanguageManager.h"
 
@@ -190,6 +191,21 @@ Result<GlobalOptions> parseArguments(QCommandLineParser &parser, const CommandSy
     if (const auto error = checkInputs(parser.positionalArguments(), syntax.inputs))
         return *error;
     return options;
+}
+
+std::optional<Error> checkStandardOutput(const QCommandLineParser &parser,
+                                         const QStringList &printing)
+{
+    if (!isStandardOutput(parser.value(QStringLiteral("output"))))
+        return std::nullopt;
+    for (const QString &name : printing) {
+        if (parser.isSet(name))
+            return wrongUsage(dico_label("MESS_USE_TWO_OUTPUTS",
+                                         "'-o -' and %1 do not go together: both write to the "
+                                         "standard output")
+                                  .arg(dashed(name)));
+    }
+    return std::nullopt;
 }
 
 Error wrongUsage(const QString &text)

@@ -6,6 +6,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <optional>
+
 namespace vlt::batch {
 
 struct CommandSyntax;
@@ -66,6 +68,12 @@ struct Inputs
 /// @par Errors    no key; what is wrong with the command line, in the language in use.
 Result<GlobalOptions> parseArguments(QCommandLineParser &parser, const CommandSyntax &syntax,
                                      const QStringList &arguments, const Place &place);
+
+/// "-o -" beside an option that prints, too.
+///
+/// @param printing  names of such options
+std::optional<Error> checkStandardOutput(const QCommandLineParser &parser,
+                                         const QStringList &printing);
 
 /// An error of the command line, without a file.
 Error wrongUsage(const QString &text);

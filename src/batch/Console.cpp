@@ -21,7 +21,11 @@ ErrorStyle &styleOfRun()
 
 bool printOut(const QString &text)
 {
-    const QByteArray bytes = text.toUtf8();
+    return printBytes(text.toUtf8());
+}
+
+bool printBytes(const QByteArray &bytes)
+{
     const std::size_t size = static_cast<std::size_t>(bytes.size());
     return std::fwrite(bytes.constData(), 1, size, stdout) == size && std::fflush(stdout) == 0;
 }

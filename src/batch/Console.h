@@ -10,6 +10,9 @@ namespace vlt::batch {
 /// Writes to standard output as it is. False when it did not arrive whole (full disk, closed pipe).
 bool printOut(const QString &text);
 
+/// Writes bytes in the same way.
+bool printBytes(const QByteArray &bytes);
+
 /// Writes a line to the error output, after the program's name.
 void printError(const QString &text);
 

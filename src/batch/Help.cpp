@@ -2,7 +2,9 @@
 
 #include "batch/AlignedText.h"
 #include "batch/Console.h"
+#include "geodata/LibraryVersions.h"
 #include "language/VltLanguageManager.h"
+#include "snapshot/SceneSource.h"
 
 namespace vlt::batch {
 
@@ -97,7 +99,10 @@ QString programHelpText()
 
 QString versionText()
 {
-    return Program + QStringLiteral(" " VLT_VERSION "\n");
+    const QStringList lines = QStringList{Program + QStringLiteral(" " VLT_VERSION),
+                                          QStringLiteral("Qt ") + QLatin1String(qVersion())} +
+                              geodata::libraryVersions() + QStringList{snapshot::libraryVersion()};
+    return lines.join(QLatin1Char('\n')) + QLatin1Char('\n');
 }
 
 ExitStatus refuseUsage(const QString &text)

@@ -43,7 +43,7 @@ QList<QCommandLineOption> layerOptions()
 {
     return QList<QCommandLineOption>{
                {{QStringLiteral("o"), QStringLiteral("output")},
-                dico_label("MESS_OPT_OUTPUT", "Layer file to write."),
+                dico_label("MESS_OPT_OUTPUT", "Layer file to write; - for the standard output."),
                 QStringLiteral("OUT.lay")},
                {QStringLiteral("source-srs"),
                 dico_label("MESS_OPT_SOURCE_SRS",
@@ -148,6 +148,10 @@ std::optional<ExitStatus> writeLayer(const QString &path, const Result<sites::Si
         return refuse(layer.error());
     if (layer.value().warning)
         printError(explain(*layer.value().warning));
+    if (isStandardOutput(path)) {
+        const ExitStatus printed = printResult(layer.value().text);
+        return printed == ExitStatus::Done ? std::nullopt : std::optional(printed);
+    }
     QString reason;
     const Result<Done> written =
         platform::writeLayerFile(path, layer.value().text, platform::Access::Shared, &reason);

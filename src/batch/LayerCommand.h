@@ -68,7 +68,7 @@ LayerOutcome layerOutcome(const Check &check, const QString &unit,
             sites::systemProblems(unit, systems, check.systems)};
 }
 
-/// Writes a finished layer and tells of its missing page; the exit
+/// Writes a finished layer, "-" being the standard output, and tells of its missing page; the exit
 /// status where that fails.
 std::optional<ExitStatus> writeLayer(const QString &path, const Result<sites::SiteLayer> &layer);
 

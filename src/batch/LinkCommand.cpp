@@ -192,6 +192,9 @@ ExitStatus run(const QCommandLineParser &parser, const GlobalOptions &options)
     const Result<LinkRequest> wanted = readLinkRequest(parser);
     if (!wanted)
         return refuseUsage(wanted.error().text);
+    if (const auto error =
+            checkStandardOutput(parser, {QStringLiteral("json"), QStringLiteral("report")}))
+        return refuseUsage(error->text);
     if (const auto numbers = readSiteNumbers(parser); !numbers)
         return refuseUsage(numbers.error().text);
 

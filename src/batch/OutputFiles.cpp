@@ -17,11 +17,18 @@ QString realPath(const QString &path)
 
 bool isOneOf(const QString &output, const QStringList &inputs)
 {
+    if (isStandardOutput(output))
+        return false;
     for (const QString &input : inputs) {
         if (!input.isEmpty() && realPath(input) == realPath(output))
             return true;
     }
     return false;
+}
+
+bool isStandardOutput(const QString &output)
+{
+    return output == QLatin1String("-");
 }
 
 Error outputIsInput(const QString &output)

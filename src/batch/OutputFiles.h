@@ -10,6 +10,9 @@ namespace vlt::batch {
 /// seen to be one, empty names are none.
 bool isOneOf(const QString &output, const QStringList &inputs);
 
+/// Whether the output is "-", the program's own standard output.
+bool isStandardOutput(const QString &output);
+
 /// What is told of such a file.
 Error outputIsInput(const QString &output);
 

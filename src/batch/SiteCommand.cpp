@@ -115,6 +115,8 @@ ExitStatus run(const QCommandLineParser &parser, const GlobalOptions &options)
 {
     if (parser.value(QStringLiteral("output")).isEmpty())
         return refuseUsage(dico_label("MESS_USE_NO_OUTPUT", "no output file given (-o OUT.lay)"));
+    if (const auto error = checkStandardOutput(parser, {QStringLiteral("json")}))
+        return refuseUsage(error->text);
     if (const auto numbers = readSiteNumbers(parser); !numbers)
         return refuseUsage(numbers.error().text);
 

@@ -55,7 +55,7 @@ CommandSyntax syntax()
         dico_label("MESS_USE_NO_LAYER", "no layer given")};
     syntax.options = {
         {{QStringLiteral("o"), QStringLiteral("output")},
-         dico_label("MESS_OPT_PICTURE", "Picture to write, *.png."),
+         dico_label("MESS_OPT_PICTURE", "Picture to write, *.png; - for the standard output."),
          QStringLiteral("PICTURE.png")},
         {QStringLiteral("size"),
          dico_label("MESS_OPT_SIZE", "Width and height in pixels, %1 to %2 each (default "
@@ -113,7 +113,10 @@ Result<Request> readRequest(const QCommandLineParser &parser)
     if (request.output.isEmpty())
         return wrongUsage(
             dico_label("MESS_USE_NO_PICTURE", "no output file given (-o PICTURE.png)"));
-    if (!request.output.endsWith(QLatin1String(".png"), Qt::CaseInsensitive))
+    if (const auto error = checkStandardOutput(parser, {QStringLiteral("json")}))
+        return *error;
+    if (!isStandardOutput(request.output) &&
+        !request.output.endsWith(QLatin1String(".png"), Qt::CaseInsensitive))
         return wrongUsage(
             dico_label("MESS_USE_PNG", "the picture is a PNG: its name has to end in .png"));
     const std::optional<QSize> size = sizeFrom(parser.value(QStringLiteral("size")));
@@ -189,6 +192,32 @@ Result<snapshot::Scene> readScene(const Request &request, const GlobalOptions &o
                                });
 }
 
+/// The exit status where that fails.
+std::optional<ExitStatus> writePicture(const QString &output, const QByteArray &bytes)
+{
+    QString reason;
+    if (!isStandardOutput(output)) {
+        const Result<Done> written = platform::writeWhole(output, bytes, platform::Access::Shared);
+        if (written)
+            return std::nullopt;
+        reason = written.error().text;
+    } else if (printBytes(bytes)) {
+        return std::nullopt;
+    }
+    return refuse({QStringLiteral("MESS_SNAP_NOT_WRITTEN"),
+                   QStringLiteral("the picture cannot be written"), output},
+                  reason);
+}
+
+/// Tables become scenes by way of layers only.
+bool isTable(const QString &layer)
+{
+    static const QStringList suffixes = {QStringLiteral("csv"), QStringLiteral("xls"),
+                                         QStringLiteral("xlsx"), QStringLiteral("xml")};
+    const QFileInfo file(layer);
+    return file.isFile() && suffixes.contains(file.suffix(), Qt::CaseInsensitive);
+}
+
 ExitStatus makePicture(const Request &request, const GlobalOptions &options)
 {
     snapshot::SceneNotices notices;
@@ -208,12 +237,8 @@ ExitStatus makePicture(const Request &request, const GlobalOptions &options)
     if (!buffer.open(QIODevice::WriteOnly) || !picture.value().save(&buffer, "PNG"))
         return refuse({QStringLiteral("MESS_SNAP_NOT_WRITTEN"),
                        QStringLiteral("the picture cannot be written"), request.output});
-    const Result<Done> written =
-        platform::writeWhole(request.output, bytes, platform::Access::Shared);
-    if (!written)
-        return refuse({QStringLiteral("MESS_SNAP_NOT_WRITTEN"),
-                       QStringLiteral("the picture cannot be written"), request.output},
-                      written.error().text);
+    if (const auto failed = writePicture(request.output, bytes))
+        return *failed;
     if (options.json && !tell(request, *scene.value()))
         return refuse({QStringLiteral("MESS_CLI_OUTPUT_FAILED"),
                        QStringLiteral("the output cannot be written"),
@@ -233,6 +258,11 @@ ExitStatus run(const QCommandLineParser &parser, const GlobalOptions &options)
     const QString output = request.value().output;
     if (isOneOf(output, {request.value().layer, options.projectPath}))
         return refuse(outputIsInput(output));
+    if (isTable(request.value().layer))
+        return refuse({QStringLiteral("MESS_CLI_TABLE_NO_SCENE"),
+                       QStringLiteral("a table becomes a layer first, by \"vltlayers site\" or "
+                                      "\"vltlayers link\""),
+                       request.value().layer});
     snapshot::addReaderDirectory(surroundings.value().installDir + QStringLiteral("/driver"));
     return makePicture(request.value(), options);
 }

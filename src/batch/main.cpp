@@ -90,11 +90,16 @@ ExitStatus runWithoutCommand(const SplitArguments &split, const Place &place)
     return command ? answer(helpText(command->syntax(), place)) : refuseCommand(name);
 }
 
-ExitStatus run(const SplitArguments &split)
+/// @param damaged  an argument whose bytes are no text; empty for none
+ExitStatus run(const SplitArguments &split, const QString &damaged)
 {
     const Place place = settlePlace(split);
     const Command *command = commandOf(split.command);
     setErrorStyle({command ? split.command : QString(), split.json});
+    if (!damaged.isEmpty())
+        return refuse({QStringLiteral("MESS_CLI_NAME_NOT_UTF8"),
+                       QStringLiteral("this name is not in UTF-8: give the file another one"),
+                       damaged});
     if (command)
         return runCommand(*command, split.others, place);
     if (split.command.isEmpty() || split.command == HelpCommand)
@@ -125,8 +130,12 @@ std::unique_ptr<QCoreApplication> makeApplication(char **argv, bool withFonts)
 int main(int argc, char **argv)
 {
     QStringList arguments;
-    for (int i = 0; i < argc; ++i)
+    QString damaged;
+    for (int i = 0; i < argc; ++i) {
         arguments << QFile::decodeName(argv[i]);
+        if (QFile::encodeName(arguments.constLast()) != argv[i])
+            damaged = arguments.constLast();
+    }
 
     const SplitArguments split = splitCommand(arguments);
     // what the wizard's log has is not for the terminal
@@ -134,5 +143,5 @@ int main(int argc, char **argv)
     const auto application = makeApplication(argv, split.command == QLatin1String("buildings"));
     // The application object takes the whole of the user's locale; numbers keep the C one.
     std::setlocale(LC_NUMERIC, "C");
-    return static_cast<int>(run(split));
+    return static_cast<int>(run(split, damaged));
 }

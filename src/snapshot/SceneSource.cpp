@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <osg/Version>
 #include <osgDB/FileNameUtils>
 #include <osgDB/ReadFile>
 #include <osgDB/Registry>
@@ -114,6 +115,11 @@ void addReaderDirectory(const QString &directory)
 {
     osgDB::Registry::instance()->getLibraryFilePathList().push_front(
         QFile::encodeName(directory).toStdString());
+}
+
+QString libraryVersion()
+{
+    return QStringLiteral("OpenSceneGraph ") + QString::fromUtf8(osgGetVersion());
 }
 
 } // namespace vlt::snapshot

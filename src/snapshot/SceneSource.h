@@ -31,6 +31,9 @@ Result<Scene> readScene(const QString &name, const QString &project = {},
 /// Whether the name is that of a parametric object.
 bool isParametricName(const QString &name);
 
+/// The scene library with its version: "OpenSceneGraph 3.6.5".
+QString libraryVersion();
+
 /// Puts a directory first among those where the scene library looks for its readers.
 void addReaderDirectory(const QString &directory);
 

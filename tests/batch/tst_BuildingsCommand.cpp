@@ -181,6 +181,8 @@ private Q_SLOTS:
         row("% --texture ../t/c.asc", 1, "../t/c.asc: for which height is this image?");
         row("% --texture ../t/no.asc=5", 1, "../t/no.asc: no such file");
         row("% --texture ../own.txt=5", 1, "can't be open as a raster dataset");
+        row("% --texture ../t/c.asc=abc", 1, "../t/c.asc=abc: the height is no number");
+        row("% --image ../level.asc -o -", 2, "it has to be a file");
         row("% --texture ../t/c.asc=nan", 1, "../t/c.asc: the height is no number");
         row("% --textures ../t/no.asc", 1, "../t/no.asc: no such file");
         row("% --textures ../t/c.asc --filter xyz", 1, "../t/c.asc: no image is found by it");

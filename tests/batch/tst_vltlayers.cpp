@@ -311,6 +311,7 @@ private Q_SLOTS:
             "unknown option '--sector-radiu'; did you mean '--sector-radius'?\n"
             "vltlayers: try 'vltlayers site --help'\n");
         row("site ../s.csv -o old.lay --json=1", 2, "--json takes no value");
+        row("snapshot ../s.csv -o a.png", 1, "../s.csv: a table becomes a layer first");
         row("site - -o old.lay", 2, "the standard input is not read");
         row("paint ../s.csv", 2, "no such command: paint\nvltlayers: try 'vltlayers --help'\n");
         row("sites ../s.csv", 2, "; did you mean 'site'?");
@@ -339,6 +340,17 @@ private Q_SLOTS:
         QCOMPARE(QDir(path(u"elsewhere"_s))
                      .entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden),
                  QStringList{u"old.lay"_s});
+    }
+
+    void writesLayersToTheStandardOutput()
+    {
+        writeFile(path(u"s.csv"_s), Table);
+
+        const Run file = start(u"site ../s.csv -o o.lay"_s);
+        const Run output = start(u"site ../s.csv -o -"_s);
+
+        QCOMPARE(file.status + output.status, 0);
+        QCOMPARE(output.output, readFile(path(u"elsewhere/o.lay"_s)));
     }
 
     void tellsErrorsToPrograms()
@@ -385,6 +397,8 @@ private Q_SLOTS:
         const Run site = start(u"help site"_s);
         QVERIFY(site.output.startsWith("Usage: vltlayers site [OPTION]... TABLE -o OUT.lay\n"));
         QVERIFY(site.output.contains("  1 = Pure colors / Couleurs pures\n"));
+        for (const char *library : {"\nQt 6.", "\nGDAL 3.", "\nPROJ ", "\nOpenSceneGraph 3."})
+            QVERIFY(start(u"--version"_s).output.contains(library));
         const Run nothing = start(QString());
         QVERIFY(nothing.output.contains("Commands:") && nothing.status == 2);
         QVERIFY(start(u"--version"_s).output.startsWith("vltlayers 0."));

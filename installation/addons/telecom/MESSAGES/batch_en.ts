@@ -223,6 +223,10 @@
         <source>no output file given (-o OUT.lay)</source>
         <translation>no output file given (-o OUT.lay)</translation>
     </message>
+    <message id="MESS_USE_NO_STANDARD_OUTPUT">
+        <source>'-o -': a layer of buildings lies beside its document, it has to be a file</source>
+        <translation>'-o -': a layer of buildings lies beside its document, it has to be a file</translation>
+    </message>
     <message id="MESS_USE_UNKNOWN_OPTION">
         <source>unknown option '%1'</source>
         <translation>unknown option '%1'</translation>
@@ -270,6 +274,10 @@
     <message id="MESS_OPT_VERSION">
         <source>Show the versions of the program and of its libraries.</source>
         <translation>Show the versions of the program and of its libraries.</translation>
+    </message>
+    <message id="MESS_USE_TWO_OUTPUTS">
+        <source>'-o -' and %1 do not go together: both write to the standard output</source>
+        <translation>'-o -' and %1 do not go together: both write to the standard output</translation>
     </message>
     <message id="MESS_USE_WRONG_VALUE">
         <source>--%1 is %2, not "%3"</source>
@@ -352,8 +360,8 @@
         <translation>Encoding</translation>
     </message>
     <message id="MESS_OPT_OUTPUT">
-        <source>Layer file to write.</source>
-        <translation>Layer file to write.</translation>
+        <source>Layer file to write; - for the standard output.</source>
+        <translation>Layer file to write; - for the standard output.</translation>
     </message>
     <message id="MESS_OPT_SOURCE_SRS">
         <source>Coordinate system of the table (default: what the table declares, else 4326 for degrees, else the terrain's).</source>
@@ -540,8 +548,8 @@
         <translation>no layer given</translation>
     </message>
     <message id="MESS_OPT_PICTURE">
-        <source>Picture to write, *.png.</source>
-        <translation>Picture to write, *.png.</translation>
+        <source>Picture to write, *.png; - for the standard output.</source>
+        <translation>Picture to write, *.png; - for the standard output.</translation>
     </message>
     <message id="MESS_OPT_SIZE">
         <source>Width and height in pixels, %1 to %2 each (default 1280x960).</source>
@@ -567,6 +575,10 @@
         <source>WxH, each of %1 to %2 pixels</source>
         <translation>WxH, each of %1 to %2 pixels</translation>
     </message>
+    <message id="MESS_CLI_TABLE_NO_SCENE">
+        <source>a table becomes a layer first, by "vltlayers site" or "vltlayers link"</source>
+        <translation>a table becomes a layer first, by "vltlayers site" or "vltlayers link"</translation>
+    </message>
     <message id="MESS_CLI_NO_INSTALL_DIR">
         <source>no such install directory</source>
         <translation>no such install directory</translation>
@@ -582,6 +594,10 @@
     <message id="MESS_USE_COMMAND_MISSING">
         <source>no command given</source>
         <translation>no command given</translation>
+    </message>
+    <message id="MESS_CLI_NAME_NOT_UTF8">
+        <source>this name is not in UTF-8: give the file another one</source>
+        <translation>this name is not in UTF-8: give the file another one</translation>
     </message>
 </context>
 </TS>

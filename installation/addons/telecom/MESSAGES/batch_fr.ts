@@ -223,6 +223,10 @@
         <source>no output file given (-o OUT.lay)</source>
         <translation>aucun fichier de sortie n'est indiqué (-o OUT.lay)</translation>
     </message>
+    <message id="MESS_USE_NO_STANDARD_OUTPUT">
+        <source>'-o -': a layer of buildings lies beside its document, it has to be a file</source>
+        <translation>'-o -'&#xa0;: une couche de bâtiments se trouve à côté de son document, elle doit être un fichier</translation>
+    </message>
     <message id="MESS_USE_UNKNOWN_OPTION">
         <source>unknown option '%1'</source>
         <translation>option inconnue&#xa0;: '%1'</translation>
@@ -270,6 +274,10 @@
     <message id="MESS_OPT_VERSION">
         <source>Show the versions of the program and of its libraries.</source>
         <translation>Afficher les versions du programme et de ses bibliothèques.</translation>
+    </message>
+    <message id="MESS_USE_TWO_OUTPUTS">
+        <source>'-o -' and %1 do not go together: both write to the standard output</source>
+        <translation>'-o -' et %1 ne vont pas ensemble&#xa0;: les deux écrivent sur la sortie standard</translation>
     </message>
     <message id="MESS_USE_WRONG_VALUE">
         <source>--%1 is %2, not "%3"</source>
@@ -352,8 +360,8 @@
         <translation>Encodage</translation>
     </message>
     <message id="MESS_OPT_OUTPUT">
-        <source>Layer file to write.</source>
-        <translation>Fichier de couche à écrire.</translation>
+        <source>Layer file to write; - for the standard output.</source>
+        <translation>Fichier de couche à écrire&#xa0;; - pour la sortie standard.</translation>
     </message>
     <message id="MESS_OPT_SOURCE_SRS">
         <source>Coordinate system of the table (default: what the table declares, else 4326 for degrees, else the terrain's).</source>
@@ -540,8 +548,8 @@
         <translation>aucune couche n'est indiquée</translation>
     </message>
     <message id="MESS_OPT_PICTURE">
-        <source>Picture to write, *.png.</source>
-        <translation>Image à écrire, *.png.</translation>
+        <source>Picture to write, *.png; - for the standard output.</source>
+        <translation>Image à écrire, *.png&#xa0;; - pour la sortie standard.</translation>
     </message>
     <message id="MESS_OPT_SIZE">
         <source>Width and height in pixels, %1 to %2 each (default 1280x960).</source>
@@ -567,6 +575,10 @@
         <source>WxH, each of %1 to %2 pixels</source>
         <translation>LxH, de %1 à %2 pixels chacune</translation>
     </message>
+    <message id="MESS_CLI_TABLE_NO_SCENE">
+        <source>a table becomes a layer first, by "vltlayers site" or "vltlayers link"</source>
+        <translation>un tableau devient d'abord une couche, par «&#xa0;vltlayers site&#xa0;» ou «&#xa0;vltlayers link&#xa0;»</translation>
+    </message>
     <message id="MESS_CLI_NO_INSTALL_DIR">
         <source>no such install directory</source>
         <translation>ce dossier d'installation n'existe pas</translation>
@@ -582,6 +594,10 @@
     <message id="MESS_USE_COMMAND_MISSING">
         <source>no command given</source>
         <translation>aucune commande n'est indiquée</translation>
+    </message>
+    <message id="MESS_CLI_NAME_NOT_UTF8">
+        <source>this name is not in UTF-8: give the file another one</source>
+        <translation>ce nom n'est pas en UTF-8&#xa0;: donnez-en un autre au fichier</translation>
     </message>
 </context>
 </TS>
