@@ -136,7 +136,7 @@ private Q_SLOTS:
         QCOMPARE(typed('3'), status.arg(1));
         QVERIFY(!page->isHintShown());
         QCOMPARE(typed('x'), status.arg(0) + u"  \u2022  no image matches the filter"_s);
-        QVERIFY(page->isHintShown() && !page->isComplete());
+        QVERIFY(!page->isHintShown() && !page->isComplete());
         QTest::keyClick(page->filter(), Qt::Key_Backspace);
         QVERIFY(!page->isHintShown() && page->isComplete());
     }
@@ -155,7 +155,7 @@ private Q_SLOTS:
 
         QCOMPARE(filesAfterClick(FileListModel::HeightColumn), byHeight);
         QCOMPARE(filesAfterClick(FileListModel::FileColumn), byName);
-        page->filter()->setText(u"none such"_s); // the hint in between
+        page->filter()->setText(u"none such"_s);
         page->filter()->clear();
         QCOMPARE(page->files(), byName);
         QCOMPARE(header->sortIndicatorSection(), int(FileListModel::FileColumn));

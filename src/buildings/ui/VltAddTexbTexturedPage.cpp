@@ -188,24 +188,24 @@ bool VltAddTexbTexturedPage::isListShown() const
     return m_ui->m_pwFiles->model() == m_sorted;
 }
 
-/// The images, or what to do where there is none.
+/// The images, or what to do where there is none; the filter may hide all of them.
 void VltAddTexbTexturedPage::showList()
 {
     QTableView *table = m_ui->m_pwFiles;
-    const bool hasRows = m_model->rowCount() > 0;
+    const bool hasImages = !m_model->entries().isEmpty();
     QAbstractItemModel *shown = m_emptyModel;
-    if (hasRows)
+    if (hasImages)
         shown = m_sorted;
     if (table->model() != shown) {
         table->setModel(shown);
-        table->horizontalHeader()->setVisible(hasRows);
+        table->horizontalHeader()->setVisible(hasImages);
         // the last section's own stretching forgets itself while the header is hidden
         table->horizontalHeader()->setSectionResizeMode(QHeaderView::Interactive);
         table->horizontalHeader()->setSectionResizeMode(shown->columnCount() - 1,
                                                         QHeaderView::Stretch);
-        m_ui->m_pwPbUseAll->setEnabled(hasRows);
-        m_ui->m_pwPbUseNone->setEnabled(hasRows);
-        if (hasRows)
+        m_ui->m_pwPbUseAll->setEnabled(hasImages);
+        m_ui->m_pwPbUseNone->setEnabled(hasImages);
+        if (hasImages)
             fitColumns();
     }
     Q_EMIT completeChanged();
@@ -251,7 +251,7 @@ void VltAddTexbTexturedPage::tablev_customContextMenu(const QPoint &point)
 
 void VltAddTexbTexturedPage::copyToClipboard()
 {
-    if (isListShown())
+    if (isListShown() && m_model->rowCount() > 0)
         QGuiApplication::clipboard()->setText(vlt::wizard::rowsAsText(*m_ui->m_pwFiles));
 }
 
