@@ -81,6 +81,13 @@ ColorTable readTable(const std::string &path, double minimum, double maximum)
 
 } // namespace
 
+void sortByValue(ColorTable &table)
+{
+    std::stable_sort(
+        table.associations.begin(), table.associations.end(),
+        [](const ColorAssociation &a, const ColorAssociation &b) { return a.value < b.value; });
+}
+
 bool ColorMap::load(const std::string &path, double minimum, double maximum)
 {
     m_minimum = isSet(minimum) ? minimum : Unset;
@@ -118,7 +125,7 @@ void ColorMap::stretch()
                                          : std::lerp(m_minimum, m_maximum, share);
     }
     if (range < 0)
-        std::reverse(all.begin(), all.end());
+        sortByValue(m_colors);
 }
 
 } // namespace vlt::colormaps

@@ -32,6 +32,9 @@ struct ColorTable
     std::optional<Rgba> noDataColor;            ///< of the "nv" line
 };
 
+/// Puts the associations in ascending order; those of equal values keep theirs.
+void sortByValue(ColorTable &table);
+
 /// One colour map file, laid over a range of values.
 class ColorMap
 {

@@ -179,9 +179,7 @@ public:
 
     ColorTable sortedTable() &&
     {
-        std::stable_sort(
-            m_table.associations.begin(), m_table.associations.end(),
-            [](const ColorAssociation &a, const ColorAssociation &b) { return a.value < b.value; });
+        sortByValue(m_table);
         return std::move(m_table);
     }
 

@@ -151,8 +151,8 @@ private Q_SLOTS:
         ColorMap map;
         QVERIFY(map.load(fileWith(m_dir, u"a.txt"_s, "0 white\n100 0 0 255\n50% red 128"), 0, 10));
         QCOMPARE(written(map), u"0 255,255,255,255; 0.5 255,0,0,128; 10 0,0,255,255"_s);
-        QVERIFY(map.load(fileWith(m_dir, u"a.txt"_s, "0 white\n100 0 0 255"), 10, 0));
-        QCOMPARE(written(map), u"0 0,0,255,255; 10 255,255,255,255"_s);
+        QVERIFY(map.load(fileWith(m_dir, u"a.txt"_s, "0 white\n5 red\n5 blue\n10 black"), 10, 0));
+        QCOMPARE(written(map), u"0 0,0,0,255; 5 255,0,0,255; 5 0,0,255,255; 10 255,255,255,255"_s);
     }
 
     void refusesAndTellsWhy_data()
