@@ -52,7 +52,7 @@ NamedHeight heightFromName(const QString &baseName)
         const QString text = pattern.match(baseName).captured();
         if (text.isEmpty())
             continue;
-        if (text.contains(u'm', Qt::CaseInsensitive))
+        if (text.contains(u'm'))
             named.inMetres = true;
         if (const std::optional<double> height = heightIn(text)) {
             named.height = *height;

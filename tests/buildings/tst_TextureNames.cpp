@@ -29,14 +29,14 @@ private Q_SLOTS:
         row(u"5"_s, 5, false);
         // a number and the letter at the end
         row(u"wall 3,5m"_s, 3.5, true);
-        row(u"wall_4 M"_s, 4, true);
+        row(u"wall_4 M"_s, 4, false); // a capital tells the height, not its unit
         row(u"wall 4.(m)"_s, 4, true);
-        row(u"2m_wall_7(M)"_s, 7, true);
+        row(u"2m_wall_7(M)"_s, 7, false);
         row(u"wall 4  m"_s, 1.5, true); // one blank at most; the letter alone is left
         // the letter alone at the end
         row(u"facade(m)"_s, 1.5, true);
         row(u"beam"_s, 1.5, true);
-        row(u"3 m facade M"_s, 1.5, true);
+        row(u"3 m facade M"_s, 1.5, false);
         // a number and the letter in brackets
         row(u"a(2.5 m)b"_s, 2.5, true);
         row(u"1m (2,5(m)) b"_s, 2.5, true);
