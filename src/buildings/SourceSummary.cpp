@@ -1,5 +1,6 @@
 #include "buildings/SourceSummary.h"
 
+#include "geodata/SystemInfo.h"
 #include "language/VltLanguageManager.h"
 
 #include <QLocale>
@@ -104,10 +105,14 @@ QString terrainSummary(const geodata::RasterSummary &terrain, const geodata::Pol
         dico_label("MESS_PIXEL_COUNT", "%1 \u00d7 %2 pixels")
             .arg(QLocale().toString(terrain.columns), QLocale().toString(terrain.rows)),
         systemText(terrain.system)};
-    const bool isSameSystem = layer != nullptr && !terrain.system.name.isEmpty() &&
-                              terrain.system.name == layer->system.name;
-    if (isSameSystem && terrain.extent && extent && extent->isPlaced())
-        parts << coverText(*terrain.extent, *extent);
+    if (layer != nullptr && terrain.extent && extent && extent->isPlaced()) {
+        const bool isSameSystem =
+            !terrain.system.name.isEmpty() && terrain.system.name == layer->system.name;
+        const std::optional<Extent> buildings =
+            isSameSystem ? extent : geodata::extentIn(terrain.system, *extent, layer->system);
+        if (buildings)
+            parts << coverText(*terrain.extent, *buildings);
+    }
     return parts.join(Separator);
 }
 

@@ -19,7 +19,7 @@ QString layerSummary(const geodata::PolygonLayer &layer,
 
 /// One line on a terrain: its pixels, its system, whether it covers the buildings.
 ///
-/// @param layer   of the buildings; null for none. It is compared only in the same system.
+/// @param layer   of the buildings; null for none. It is not compared where a system is not known.
 /// @param extent  of the layer
 QString terrainSummary(const geodata::RasterSummary &terrain, const geodata::PolygonLayer *layer,
                        const std::optional<geodata::Extent> &extent);

@@ -42,7 +42,8 @@ struct SystemInfo
 {
     QString name; ///< "EPSG:2154", else the name of the system, empty for none
     bool isGeographic = false;
-    double unitM = 0; ///< metres in a unit of a projected system; 0 for others
+    double unitM = 0;   ///< metres in a unit of a projected system; 0 for others
+    QString definition; ///< WKT; empty for none
 };
 
 struct PolygonLayer

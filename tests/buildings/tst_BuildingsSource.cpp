@@ -253,15 +253,17 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("contents");
         QTest::addColumn<QString>("lost");
         QTest::addColumn<QString>("message");
+        QTest::addColumn<QString>("noData");
         const auto row = [](const char *name, const QByteArray &geometry, const QString &lost,
-                            const QString &message) {
-            QTest::newRow(name) << features({geometry}) << lost << message;
+                            const QString &message, const QString &noData = u" -9999,5 "_s) {
+            QTest::newRow(name) << features({geometry}) << lost << message << noData;
         };
         const QString vector = u"n.geojson"_s;
         const QString dtm = u"grid.asc"_s;
         row("buildings gone", Square, vector,
             u"This file can't be open as a vector file\n"_s + file(vector));
         row("terrain gone", Square, dtm, u"Cannot open DTM\n"_s + file(dtm));
+        row("no number", Square, {}, u"The value of no data is no number."_s, u"abc"_s);
         row("no place", Nowhere, {}, u"No building of this layer has a place\nn"_s);
     }
 
@@ -270,11 +272,13 @@ private Q_SLOTS:
         QFETCH(QByteArray, contents);
         QFETCH(QString, lost);
         QFETCH(QString, message);
+        QFETCH(QString, noData);
         Host host;
         const AnsweredBoxes boxes;
         host.page->openVector(write(u"n.geojson"_s, contents));
         dropFiles(host.page, {grid(), plain()});
         QVERIFY(host.canGoOn());
+        host.noData()->setText(noData);
         if (!lost.isEmpty())
             QVERIFY(QFile::remove(file(lost)));
 

@@ -18,6 +18,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QKeyEvent>
+#include <QLocale>
 #include <QPointer>
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
@@ -248,6 +249,23 @@ bool VltAddTexbFirstPage::isReadableDtm()
     return false;
 }
 
+/// What stands for no height is a number, as readers of a document understand it; else the user is
+/// told.
+bool VltAddTexbFirstPage::isNoDataNumber()
+{
+    QString text = m_ui->m_pwLeNoData->text().trimmed();
+    bool isNumber = text.isEmpty();
+    if (!isNumber)
+        QLocale::c().toDouble(text.replace(QLatin1Char(','), QLatin1Char('.')), &isNumber);
+    if (!isNumber)
+        messages::warning(this,
+                          {QStringLiteral("MESS_NODATA_NO_NUMBER"),
+                           QStringLiteral("The value of no data is no number."),
+                           {}},
+                          refusalTitle());
+    return isNumber;
+}
+
 /// Whether it is known where the buildings are; else the user is told, unless he stopped it.
 bool VltAddTexbFirstPage::isPlaced()
 {
@@ -271,7 +289,7 @@ bool VltAddTexbFirstPage::validatePage()
         return false;
     takeTypedBuildings();
     takeTypedDtm();
-    if (!isComplete() || !isPlaced())
+    if (!isComplete() || !isNoDataNumber() || !isPlaced())
         return false;
     saveSettings();
     return true;

@@ -31,7 +31,8 @@ public:
     /// Takes the files of a project that is new to the page; the remembered ones the first time.
     void initializePage() override;
 
-    /// Refuses, with a message, files that cannot be read and buildings without a place.
+    /// Refuses, with a message, files that cannot be read, a value of no data that is no number and
+    /// buildings without a place.
     bool validatePage() override;
     int nextId() const override;
 
@@ -77,6 +78,7 @@ private:
     void takeTypedDtm();
     bool isReadableBuildings();
     bool isReadableDtm();
+    bool isNoDataNumber();
     bool isPlaced();
     void showSummaries();
     QString pick(const QString &title, const QString &files);
