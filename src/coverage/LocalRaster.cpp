@@ -1,7 +1,7 @@
 #include "coverage/LocalRaster.h"
 
 #include "localfiles/LocalFormats.h"
-#include "localfiles/RasterValues.h"
+#include "localfiles/OpenLocal.h"
 
 #include <cpl_error.h>
 
@@ -47,13 +47,6 @@ std::string localPathIn(const std::string &directory, std::string_view path)
     return localfiles::isLocalDataset(whole) ? whole : std::string();
 }
 
-GDALDatasetUniquePtr openPicture(const std::string &name)
-{
-    return GDALDatasetUniquePtr(
-        GDALDataset::Open(name.c_str(), GDAL_OF_RASTER | GDAL_OF_READONLY | GDAL_OF_VERBOSE_ERROR,
-                          localfiles::localRasterFormats()));
-}
-
 bool lists(GDALDataset &file, const std::string &part)
 {
     // all at once: some formats do not tell single items
@@ -74,7 +67,7 @@ GDALDatasetUniquePtr openPart(const std::string &name)
         const std::string path = name.substr(begin, length);
         if (!localfiles::isLocalDataset(path))
             return false;
-        const GDALDatasetUniquePtr file = openPicture(path);
+        const GDALDatasetUniquePtr file = localfiles::openRasterPicture(path);
         if (!file || !lists(*file, name))
             return false;
         part = openListedPart(name);
@@ -124,7 +117,7 @@ GDALDatasetUniquePtr openListedPart(const std::string &name)
         return begin == slash && localfiles::isLocalDataset(name.substr(begin, length));
     });
     if (isLocal && name.compare(slash, 2, "//") != 0)
-        return openPicture(name); // not always that of the file
+        return localfiles::openRasterPicture(name); // not always that of the file
     CPLError(CE_Failure, CPLE_OpenFailed, "not in a file of this computer");
     return nullptr;
 }
@@ -137,7 +130,8 @@ GDALDatasetUniquePtr openLocalRaster(const std::string &name, RasterUse use, std
     if (!isFile)
         dataset = openPart(name);
     else
-        dataset = use == RasterUse::Values ? localfiles::openRasterValues(name) : openPicture(name);
+        dataset = use == RasterUse::Values ? localfiles::openRasterValues(name)
+                                           : localfiles::openRasterPicture(name);
     std::string why;
     if (!dataset) {
         why = CPLGetLastErrorMsg();

@@ -3,7 +3,7 @@
 #include "coverage/LocalRaster.h"
 #include "geodata/Subdatasets.h"
 #include "localfiles/LocalFormats.h"
-#include "localfiles/RasterValues.h"
+#include "localfiles/OpenLocal.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -23,9 +23,7 @@ GDALDatasetUniquePtr openLocalDataset(const QString &path, unsigned kind)
     }
     if (kind == GDAL_OF_RASTER)
         return localfiles::openRasterValues(name.toStdString());
-    return GDALDatasetUniquePtr(GDALDataset::Open(name.constData(),
-                                                  kind | GDAL_OF_READONLY | GDAL_OF_VERBOSE_ERROR,
-                                                  localfiles::localVectorFormats()));
+    return localfiles::openVector(name.toStdString());
 }
 
 GDALDatasetUniquePtr openLocalRaster(const QString &path, const QString &part)

@@ -4,7 +4,10 @@
 #include "geodata/LocalDataset.h"
 #include "geodata/SystemInfo.h"
 #include "localfiles/NoNetwork.h"
-#include "localfiles/RasterValues.h"
+#include "localfiles/OpenLocal.h"
+
+#include <QFile>
+#include <QFileInfo>
 
 #include <gdal_pam.h>
 
@@ -59,6 +62,12 @@ int CPL_STDCALL tellProgress(double share, const char * /*message*/, void *progr
 }
 
 } // namespace
+
+bool isVirtualRaster(const QString &path)
+{
+    return localfiles::isVirtualRaster(
+        QFile::encodeName(QFileInfo(path).absoluteFilePath()).toStdString());
+}
 
 Result<RasterSummary> readRasterSummary(const QString &path, const QString &part)
 {

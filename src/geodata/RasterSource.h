@@ -25,6 +25,9 @@ struct RasterSummary
     QList<Subdataset> subdatasets;
 };
 
+/// Whether a local file is a virtual raster: it only names other files and is not opened.
+bool isVirtualRaster(const QString &path);
+
 /// Opens a local raster (file or folder) through the formats of the local disk and closes it again.
 ///
 /// @param part  name of one of its images, as the raster lists it; empty for the raster itself

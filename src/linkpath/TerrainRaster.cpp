@@ -2,7 +2,7 @@
 
 #include "localfiles/LocalFormats.h"
 #include "localfiles/NoNetwork.h"
-#include "localfiles/RasterValues.h"
+#include "localfiles/OpenLocal.h"
 
 #include <cpl_error.h>
 

@@ -30,6 +30,7 @@ constexpr SceneText Texts[] = {
     {"MESS_SCENE_NO_POLYGON", "%1 of %2 buildings are left out: no polygon with an area", "nn"},
     {"MESS_SCENE_NO_PLACE",
      "%1 of %2 buildings are left out: their place is none of their coordinate system", "nn"},
+    {"MESS_SCENE_COINCIDENT", "%1 of %2 buildings have the same outline as another one", "nn"},
     {"MESS_SCENE_READ_PARTLY", "only the first %1 footprints can be read: %2", "nr"},
     {"MESS_SCENE_SHOWN_PARTLY", "only the first %1 footprints are shown: there are too many", "n"},
     {"MESS_SCENE_NO_TERRAIN", "the document names no terrain; the buildings stand at height 0"},
@@ -52,6 +53,10 @@ constexpr SceneText Texts[] = {
 
     // reasons
     {"MESS_SCENE_OTHER_COMPUTER", "not a file or folder of this computer"},
+    {"MESS_SCENE_VIRTUAL_RASTER",
+     "virtual rasters are not opened: convert this one with gdal_translate"},
+    {"MESS_SCENE_VIRTUAL_VECTOR",
+     "virtual vector files are not opened: convert this one with ogr2ogr"},
     {"MESS_SCENE_NOT_IN_FILE", "not in a file of this computer"},
     {"MESS_SCENE_NO_PART", "the file holds no such image"},
     {"MESS_TERRAIN_NOT_LOCAL", "no local file has this name"},

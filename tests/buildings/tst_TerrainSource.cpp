@@ -83,6 +83,55 @@ private Q_SLOTS:
         QCOMPARE(host.noData()->text(), noData);
     }
 
+    void tellsHowToConvertVirtualRasters()
+    {
+        const QString path = write(u"mosaic.vrt"_s, "<VRTDataset rasterXSize=\"2\" "
+                                                    "rasterYSize=\"2\"></VRTDataset>");
+        const AnsweredBoxes boxes;
+        remember(u"Dtm"_s, path);
+        Host host;
+        QCOMPARE(host.info(u"Dtm"_s), u"mosaic.vrt: virtual rasters are not opened: convert this "
+                                      "one with gdal_translate"_s);
+        host.page->openVector(plain());
+
+        host.page->droppedFile(path);
+
+        QCOMPARE(host.buildings()->text(), plain());
+        QCOMPARE(boxes.seen.size(), 2);
+    }
+
+    void comparesSystems_data()
+    {
+        QTest::addColumn<double>("west"); ///< of 1,200 km in Web Mercator
+        QTest::addColumn<QString>("told");
+
+        QTest::newRow("around") << 0.0 << u"covers the buildings"_s;
+        QTest::newRow("elsewhere") << 1e7 << u"does not cover the buildings"_s;
+    }
+
+    void comparesSystems()
+    {
+        QFETCH(double, west);
+        QFETCH(QString, told);
+        const QString path = file(u"mercator.tif"_s);
+        {
+            const GDALDatasetUniquePtr made(
+                GetGDALDriverManager()->GetDriverByName("GTiff")->Create(path.toUtf8(), 2, 2, 1,
+                                                                         GDT_Int16, nullptr));
+            std::array<double, 6> place = {west, 6e5, 0, 2.4e6, 0, -1.2e6};
+            OGRSpatialReference mercator;
+            mercator.importFromEPSG(3857);
+            made->SetGeoTransform(place.data());
+            made->SetSpatialRef(&mercator);
+        }
+        remember(u"Dtm"_s, path);
+        Host host;
+
+        host.page->openVector(plain()); // from 2 to 6 degrees east, 4 to 12 north
+
+        QVERIFY2(host.info(u"Dtm"_s).endsWith(u' ' + told), qPrintable(host.info(u"Dtm"_s)));
+    }
+
     void guessesWhatIsMissing_data()
     {
         QTest::addColumn<QByteArray>("contents");

@@ -1,10 +1,12 @@
 #include "buildings/FootprintReader.h"
 
+#include "buildings/RoofTriangles.h"
 #include "connection/ReaderOptions.h"
 #include "layers/BadLayer.h"
 #include "layers/TableReading.h"
 #include "localfiles/LocalFormats.h"
 #include "localfiles/NoNetwork.h"
+#include "localfiles/OpenLocal.h"
 
 #include <cpl_error.h>
 
@@ -107,9 +109,7 @@ GDALDatasetUniquePtr openFootprints(const std::string &file)
     if (!localfiles::isLocalDataset(file))
         throw BadLayer("there is no local file of footprints \"" + file + '"');
     CPLErrorReset();
-    GDALDatasetUniquePtr dataset(
-        GDALDataset::Open(file.c_str(), GDAL_OF_VECTOR | GDAL_OF_READONLY | GDAL_OF_VERBOSE_ERROR,
-                          localfiles::localVectorFormats()));
+    GDALDatasetUniquePtr dataset = localfiles::openVector(file);
     if (!dataset)
         throw BadLayer("the footprints \"" + file + "\" cannot be read: " + CPLGetLastErrorMsg());
     return dataset;

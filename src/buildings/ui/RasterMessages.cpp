@@ -1,6 +1,7 @@
 #include "buildings/ui/RasterMessages.h"
 
 #include "language/VltLanguageManager.h"
+#include "snapshot/SceneNoticeText.h"
 #include "wizard/base/Messages.h"
 
 namespace vlt::buildings {
@@ -22,11 +23,16 @@ QString textOf(RasterProblem problem)
                       "The image-based coloring mode works only with one-band grey images");
 }
 
+QString reasonText(const QString &reason)
+{
+    return snapshot::sceneNoticeText(reason);
+}
+
 void warnOfRaster(QWidget *parent, RasterProblem problem, const QString &path,
                   const QString &reason)
 {
     messages::warning(parent, {{}, textOf(problem), {}}, dico_label("MESS_ATTENTION", "Warning"),
-                      reason.isEmpty() ? path : path + QLatin1Char('\n') + reason);
+                      reason.isEmpty() ? path : path + QLatin1Char('\n') + reasonText(reason));
 }
 
 } // namespace vlt::buildings

@@ -343,6 +343,9 @@ void VltAddTexbFirstPage::droppedFile(const QString &path)
         return;
     if (*terrain)
         showTerrain(path, *terrain);
+    else if (geodata::isVirtualRaster(path)) // no reason to close the buildings
+        buildings::warnOfRaster(this, buildings::RasterProblem::CannotOpen, path,
+                                terrain->error().text);
     else
         openVector(path, false);
 }
@@ -379,7 +382,8 @@ void VltAddTexbFirstPage::openVector(const QString &path, bool silent)
     if (!*opened) {
         if (!silent)
             messages::critical(this, vectorError(), messages::errorTitle(),
-                               path + QLatin1Char('\n') + opened->error().text);
+                               path + QLatin1Char('\n') +
+                                   buildings::reasonText(opened->error().text));
         return;
     }
     if (opened->value()->layers().isEmpty()) {
@@ -486,7 +490,8 @@ void VltAddTexbFirstPage::showTerrain(const QString &path, const TerrainResult &
     showSummaries();
     if (!terrain)
         m_ui->m_pwLblDtmInfo->setText(
-            tr("%1: %2", "MESS_FILE_REASON").arg(QFileInfo(path).fileName(), terrain.error().text));
+            tr("%1: %2", "MESS_FILE_REASON")
+                .arg(QFileInfo(path).fileName(), buildings::reasonText(terrain.error().text)));
 
     if (!terrain)
         buildings::warnOfRaster(this, buildings::RasterProblem::CannotOpen, path,

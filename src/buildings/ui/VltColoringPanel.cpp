@@ -193,7 +193,7 @@ bool VltColoringPanel::readRange(const buildings::RasterColoring &coloring)
     if (!*read) {
         messages::critical(
             this, {{}, buildings::textOf(buildings::RasterProblem::CannotOpen), read->error().path},
-            messages::errorTitle(), read->error().text);
+            messages::errorTitle(), buildings::reasonText(read->error().text));
         return false;
     }
     m_range = KnownRange{coloring.rasterFile, coloring.noData, written, read->value()};

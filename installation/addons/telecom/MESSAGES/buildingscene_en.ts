@@ -251,5 +251,17 @@
         <source>the tileSize is not more than zero</source>
         <translation>the tileSize is not more than zero</translation>
     </message>
+    <message id="MESS_SCENE_VIRTUAL_RASTER">
+        <source>virtual rasters are not opened: convert this one with gdal_translate</source>
+        <translation>virtual rasters are not opened: convert this one with gdal_translate</translation>
+    </message>
+    <message id="MESS_SCENE_VIRTUAL_VECTOR">
+        <source>virtual vector files are not opened: convert this one with ogr2ogr</source>
+        <translation>virtual vector files are not opened: convert this one with ogr2ogr</translation>
+    </message>
+    <message id="MESS_SCENE_COINCIDENT">
+        <source>%1 of %2 buildings have the same outline as another one</source>
+        <translation>%1 of %2 buildings have the same outline as another one</translation>
+    </message>
 </context>
 </TS>

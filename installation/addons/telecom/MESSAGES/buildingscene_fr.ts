@@ -251,5 +251,17 @@
         <source>the tileSize is not more than zero</source>
         <translation>tileSize n'est pas supérieur à zéro</translation>
     </message>
+    <message id="MESS_SCENE_VIRTUAL_RASTER">
+        <source>virtual rasters are not opened: convert this one with gdal_translate</source>
+        <translation>les rasters virtuels ne sont pas ouverts&#xa0;: convertissez celui-ci avec gdal_translate</translation>
+    </message>
+    <message id="MESS_SCENE_VIRTUAL_VECTOR">
+        <source>virtual vector files are not opened: convert this one with ogr2ogr</source>
+        <translation>les fichiers vecteur virtuels ne sont pas ouverts&#xa0;: convertissez celui-ci avec ogr2ogr</translation>
+    </message>
+    <message id="MESS_SCENE_COINCIDENT">
+        <source>%1 of %2 buildings have the same outline as another one</source>
+        <translation>%1 bâtiments sur %2 ont la même emprise qu'un autre</translation>
+    </message>
 </context>
 </TS>
