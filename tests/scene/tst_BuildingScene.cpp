@@ -157,6 +157,8 @@ private Q_SLOTS:
             8);
         row("a hole without an area", "POLYGON((0 0,10 0,10 10,0 10,0 0),(3 3,5 5,3 3,3 3))", 4,
             100);
+        row("figure of eight", "POLYGON((0 0,10 10,10 0,0 10,0 0))", 8, 50);
+        row("there and back", "POLYGON((0 0,10 10,10 0,10 10,0 0))", 0, 0);
         row("points twice", "POLYGON((0 0,0 0,10 0,10 10,10 10,0 10,0 0,0 0))", 4, 100);
         row("GeoJSON", Square, 4, 100, "Town.geojson", "GeoJSON");
         row("a folder of a shapefile", Square, 4, 100, "folder", "ESRI Shapefile");
@@ -193,6 +195,16 @@ private Q_SLOTS:
         makeFootprints(path("town.gpkg"), {{"CURVEPOLYGON(CIRCULARSTRING(0 0,20 0,0 0))", "5"}});
         const Drawn drawn(read(document()));
         QVERIFY(std::abs(drawn.roofArea - 100 * M_PI) < 1); // more than 45 sides
+    }
+
+    void tellsOfEqualOutlines()
+    {
+        makeFootprints(path("town.gpkg"),
+                       {{Square, "5"}, {Square, "6"}, {"POLYGON((20 0,30 0,30 10,20 0))", "6"}});
+
+        read(document());
+
+        QVERIFY(told("1 of 3 buildings have the same outline as another one"));
     }
 
     void readsHeights_data()

@@ -16,6 +16,7 @@
 #include <cpl_error.h>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace vlt::scene {
@@ -86,6 +87,30 @@ void tellLeftOut(const LeftOut &leftOut, const std::string &heightField, std::si
     }
 }
 
+/// Buildings whose outline another one has, too: walls and roofs flicker where they coincide.
+std::size_t countCoincident(const Town &town)
+{
+    using Outline = std::array<double, 5>; // extent and number of points
+    std::vector<Outline> outlines;
+    for (const Footprints::Building &building : town.footprints.buildings) {
+        const Footprints::Ring &ring = town.footprints.rings[building.ringBegin];
+        Outline outline{HUGE_VAL, HUGE_VAL, -HUGE_VAL, -HUGE_VAL,
+                        static_cast<double>(ring.end - ring.begin)};
+        for (const osg::Vec2d &place : town.footprints.placesOf(ring)) {
+            outline[0] = std::min(outline[0], place.x());
+            outline[1] = std::min(outline[1], place.y());
+            outline[2] = std::max(outline[2], place.x());
+            outline[3] = std::max(outline[3], place.y());
+        }
+        outlines.push_back(outline);
+    }
+    std::sort(outlines.begin(), outlines.end());
+    std::size_t count = 0;
+    for (std::size_t i = 1; i < outlines.size(); ++i)
+        count += outlines[i] == outlines[i - 1] ? 1 : 0;
+    return count;
+}
+
 Town readTown(const TexbDocument &document, const Directories &directories, Notices &notices,
               const Progress &progress)
 {
@@ -101,6 +126,9 @@ Town readTown(const TexbDocument &document, const Directories &directories, Noti
     town.leftOut = read.leftOut;
     place(town, srs);
     tellLeftOut(town.leftOut, document.heightField, read.features, notices);
+    if (const std::size_t count = countCoincident(town); count > 0)
+        notices.push_back(std::to_string(count) + " of " + std::to_string(read.features) +
+                          " buildings have the same outline as another one");
     const GroundSource terrain{document.terrainFile,
                                locateDataset(document.terrainFile, directories),
                                document.terrainNoData};

@@ -85,7 +85,7 @@ private:
         return true;
     }
 
-    static bool hasArea(std::span<const osg::Vec2d> ring)
+    bool hasArea(std::span<const osg::Vec2d> ring)
     {
         if (ring.size() < 3)
             return false;
@@ -98,10 +98,24 @@ private:
             extent = std::max({extent, std::abs(at.x()), std::abs(at.y())});
             before = at;
         }
-        return std::abs(doubled) > LeastAreaShare * extent * extent;
+        const double least = LeastAreaShare * extent * extent;
+        return std::abs(doubled) > least || crossedArea(ring) * 2 > least;
+    }
+
+    /// The lobes of a line that cuts itself may run in both directions and cancel out.
+    double crossedArea(std::span<const osg::Vec2d> ring)
+    {
+        std::vector<osg::Vec2d> near(ring.begin(), ring.end());
+        for (osg::Vec2d &place : near)
+            place -= ring.front();
+        m_roof.clear();
+        m_roof.addRing(near);
+        m_roof.cut();
+        return m_roof.area();
     }
 
     Footprints &m_footprints;
+    RoofTriangles m_roof;
 };
 
 GDALDatasetUniquePtr openFootprints(const std::string &file)

@@ -138,10 +138,16 @@ void RoofTriangles::cut()
         begin = end;
     }
     m_cutter->cut(*this);
-    double covered = 0;
-    for (const auto &[a, b, c] : m_triangles)
-        covered += cross(m_points[b] - m_points[a], m_points[c] - m_points[a]);
+    const double covered = 2 * area();
     m_isCrossed = std::abs(covered - expected) > AreaTolerance * std::abs(covered);
+}
+
+double RoofTriangles::area() const
+{
+    double doubled = 0;
+    for (const auto &[a, b, c] : m_triangles)
+        doubled += cross(m_points[b] - m_points[a], m_points[c] - m_points[a]);
+    return doubled / 2;
 }
 
 bool RoofTriangles::cutAsFan()

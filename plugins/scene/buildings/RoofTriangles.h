@@ -40,6 +40,9 @@ public:
     /// Indices into points(), counter-clockwise, none without an area.
     const std::vector<Triangle> &triangles() const { return m_triangles; }
 
+    /// Of all triangles.
+    double area() const;
+
     /// Whether a line of the polygon cuts another.
     bool isCrossed() const { return m_isCrossed; }
 

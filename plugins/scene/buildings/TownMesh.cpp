@@ -15,7 +15,8 @@ namespace vlt::scene {
 namespace {
 
 constexpr double UnitLength = 32767; ///< of a normal
-const osg::Vec2d Upwards;            ///< a normal's part in the plane
+constexpr double LeastAreaM2 = 1e-6;
+const osg::Vec2d Upwards; ///< a normal's part in the plane
 
 osg::Vec4ub opaque(const colormaps::Rgba &color)
 {
@@ -145,6 +146,13 @@ void TownMesh::addBoxes(std::uint32_t building)
         for (const Footprints::Ring &ring : part) {
             const double size = std::abs(doubledArea(placesOf(ring, true))) / 2;
             area += ring.isHole ? -size : size;
+        }
+        if (area < LeastAreaM2) { // a line that cuts itself: its lobes cancel out
+            m_roof.clear();
+            for (const Footprints::Ring &ring : part)
+                m_roof.addRing(placesOf(ring, true));
+            m_roof.cut();
+            area = m_roof.area();
         }
         addBox(placesOf(part.front(), true), std::max(area, 0.0), building);
     }
