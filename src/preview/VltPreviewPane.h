@@ -15,7 +15,7 @@ class VltPreviewPane : public QWidget
 public:
     explicit VltPreviewPane(QWidget *parent = nullptr);
 
-    /// Whether there is a 3D view; without one nothing needs to be loaded for it.
+    /// Whether there is a 3D view.
     bool hasView() const { return m_viewer != nullptr; }
 
     /// Replaces the scene. The first one also places the camera on the whole of it.

@@ -109,7 +109,7 @@ void VltBuildingPreview::showMessage(const QString &text)
 
 void VltBuildingPreview::showLayer(const QString &path, const QString &project)
 {
-    if (path.isEmpty() || !m_ui->m_pwPreview->hasView()) {
+    if (path.isEmpty()) {
         showScene({}, {});
         return;
     }
@@ -135,7 +135,7 @@ void VltBuildingPreview::showLayer(const QString &path, const QString &project)
 void VltBuildingPreview::showScene(const vlt::snapshot::Scene &scene, const QStringList &notices)
 {
     m_ui->m_pwPreview->showScene(scene);
-    m_ui->m_pwPbExt->setEnabled(scene.valid());
+    m_ui->m_pwPbExt->setEnabled(scene.valid() && m_ui->m_pwPreview->hasView());
     showMessage({});
     if (!scene)
         return;
