@@ -49,7 +49,7 @@ void VltBuildingLayerPage::setResult(VltBuildingPreview *preview, QBoxLayout *dr
     m_dragIcon->setAccessibleName(
         tr("Layer of buildings to drag into the builder", "MESS_DRAG_NAME_TEXB"));
     m_dragIcon->setToolTip(
-        tr("Drag the layer file into the builder; Ctrl+C copies it to be pasted there. Its files "
+        tr("Drag the layer file into the builder; Ctrl+C copies it to be pasted there.\nIts files "
            "are temporary: Ctrl+S saves it for good, with its document and legend beside it.",
            "MESS_TIP_DRAG_TEXB"));
     m_dragIcon->setSaver(

@@ -90,8 +90,10 @@
         <translation>images qui n'indiquent pas de hauteur, prises pour 0 m&#xa0;: %1</translation>
     </message>
     <message id="MESS_TIP_DRAG_TEXB">
-        <source>Drag the layer file into the builder; Ctrl+C copies it to be pasted there. Its files are temporary: Ctrl+S saves it for good, with its document and legend beside it.</source>
-        <translation>Faites glisser le fichier de couche dans Veltaro Builder&#xa0;; Ctrl+C le copie pour l'y coller. Ses fichiers sont temporaires&#xa0;: Ctrl+S l'enregistre durablement, avec son document et sa légende à côté.</translation>
+        <source>Drag the layer file into the builder; Ctrl+C copies it to be pasted there.
+Its files are temporary: Ctrl+S saves it for good, with its document and legend beside it.</source>
+        <translation>Faites glisser le fichier de couche dans Veltaro Builder&#xa0;; Ctrl+C le copie pour l'y coller.
+Ses fichiers sont temporaires&#xa0;: Ctrl+S l'enregistre durablement, avec son document et sa légende à côté.</translation>
     </message>
 </context>
 </TS>

@@ -167,8 +167,8 @@
         <translation>Check that geometries are clockwise</translation>
     </message>
     <message id="MESS_TIP_CHECK_GEOM_CW">
-        <source>For sources whose polygons run in either direction: some walls might else be lit from the wrong side</source>
-        <translation>For sources whose polygons run in either direction: some walls might else be lit from the wrong side</translation>
+        <source>For sources whose polygons run in either direction: some walls might else be lit from the wrong side. It is for the builder; the preview shows either direction alike.</source>
+        <translation>For sources whose polygons run in either direction: some walls might else be lit from the wrong side. It is for the builder; the preview shows either direction alike.</translation>
     </message>
     <message id="MESS_EXTRUSION">
         <source>Extrusion</source>

@@ -167,8 +167,8 @@
         <translation>Vérifier que les géométries tournent dans le sens horaire</translation>
     </message>
     <message id="MESS_TIP_CHECK_GEOM_CW">
-        <source>For sources whose polygons run in either direction: some walls might else be lit from the wrong side</source>
-        <translation>Pour les sources dont les polygones tournent dans les deux sens&#xa0;: certains murs pourraient sinon être éclairés du mauvais côté</translation>
+        <source>For sources whose polygons run in either direction: some walls might else be lit from the wrong side. It is for the builder; the preview shows either direction alike.</source>
+        <translation>Pour les sources dont les polygones tournent dans les deux sens&#xa0;: certains murs pourraient sinon être éclairés du mauvais côté. Cela sert à Veltaro Builder&#xa0;; l'aperçu montre les deux sens de la même façon.</translation>
     </message>
     <message id="MESS_EXTRUSION">
         <source>Extrusion</source>
