@@ -2,6 +2,7 @@
 
 #include "platform/LayerFile.h"
 #include "platform/Settings.h"
+#include "sites/SystemObstacle.h"
 #include "sites/TableTexts.h"
 #include "sites/ui/VltSrsSettings.h"
 #include "sites/ui/VltTableDetails.h"
@@ -386,8 +387,10 @@ void VltTablePage::previewPrecise()
 void VltTablePage::writeLayerFile()
 {
     checkRows();
-    const auto obstacle = vlt::sites::missingChoice(m_panelProperties->representation(),
-                                                    m_panelProperties->catalogues(), installDir());
+    auto obstacle = vlt::sites::missingChoice(m_panelProperties->representation(),
+                                              m_panelProperties->catalogues(), installDir());
+    if (!obstacle)
+        obstacle = vlt::sites::systemObstacle({systems().source, systems().target});
     showReason(obstacle ? vlt::messages::textOf(*obstacle) : QString());
     if (obstacle)
         return;

@@ -59,6 +59,10 @@ Coordinates are _C_ and are specified in _U_</translation>
         <extracomment>Title of the layer.</extracomment>
         <translation>Sites</translation>
     </message>
+    <message id="MESS_NO_LAYER_SRS">
+        <source>No layer can be made: the coordinate system "%1" is not known</source>
+        <translation>No layer can be made: the coordinate system "%1" is not known</translation>
+    </message>
     <message id="MESS_NO_LOOK_CHOSEN">
         <source>No type of pylons or no sector colors are chosen</source>
         <translation>No type of pylons or no sector colors are chosen</translation>

@@ -59,6 +59,10 @@ Les coordonnées sont _C_ et exprimées en _U_</translation>
         <extracomment>Title of the layer.</extracomment>
         <translation>Sites</translation>
     </message>
+    <message id="MESS_NO_LAYER_SRS">
+        <source>No layer can be made: the coordinate system "%1" is not known</source>
+        <translation>Aucune couche ne peut être produite&#xa0;: le système de coordonnées «&#xa0;%1&#xa0;» est inconnu</translation>
+    </message>
     <message id="MESS_NO_LOOK_CHOSEN">
         <source>No type of pylons or no sector colors are chosen</source>
         <translation>Le type de pylône ou les couleurs des secteurs ne sont pas choisis</translation>
