@@ -5,6 +5,7 @@
 #include "wizard/base/DraggableIcon.h"
 
 #include <QClipboard>
+#include <QDir>
 #include <QProgressBar>
 #include <QProgressDialog>
 #include <QSemaphore>
@@ -175,6 +176,11 @@ private Q_SLOTS:
         QCOMPARE(target.offered, Qt::LinkAction);
         QTest::keySequence(&icon, QKeySequence::Copy);
         QCOMPARE(QGuiApplication::clipboard()->mimeData()->urls(), expected);
+
+        icon.setLayerFile(u"./c.lay"_s); // as where no temporary directory is known
+        QTest::keySequence(&icon, QKeySequence::Copy);
+        QCOMPARE(QGuiApplication::clipboard()->mimeData()->urls(),
+                 QList<QUrl>{QUrl::fromLocalFile(QDir::currentPath() + u"/./c.lay"_s)});
     }
 
     void letsTheUserCancelWork()

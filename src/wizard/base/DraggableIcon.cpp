@@ -6,6 +6,7 @@
 
 #include <QClipboard>
 #include <QContextMenuEvent>
+#include <QDir>
 #include <QDrag>
 #include <QFile>
 #include <QFileDialog>
@@ -87,7 +88,8 @@ QPixmap DraggableIcon::dragImage(const QPixmap &pixmap)
 QMimeData *DraggableIcon::layerData() const
 {
     auto *layer = new QMimeData;
-    layer->setUrls({QUrl::fromLocalFile(m_layerFile)});
+    // who takes it may stand in another folder
+    layer->setUrls({QUrl::fromLocalFile(QDir::current().absoluteFilePath(m_layerFile))});
     return layer;
 }
 
