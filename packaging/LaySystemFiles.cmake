@@ -25,7 +25,6 @@ file(RENAME ${root}${tree}/share ${root}/usr/share)
 file(GLOB pages ${root}/usr/share/man/man1/*.1)
 
 set(doc ${root}/usr/share/doc/${CPACK_PACKAGE_NAME})
-file(MAKE_DIRECTORY ${doc})
 configure_file(${CPACK_VLT_SOURCE}/packaging/copyright ${doc}/copyright COPYONLY)
 string(TIMESTAMP now "%a, %d %b %Y %H:%M:%S +0000" UTC)
 execute_process(

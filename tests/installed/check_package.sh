@@ -26,7 +26,7 @@ for file in usr/bin/vltlayers usr/bin/VltTelecomLayers usr/lib/*/gdalplugins/ogr
 done
 doc=usr/share/doc/vlttelecomlayers
 for file in usr/share/man/man1/vltlayers.1.gz usr/share/applications/org.veltaro.VltTelecomLayers.desktop \
-    usr/share/icons/hicolor/48x48/apps/org.veltaro.VltTelecomLayers.png $doc/copyright $doc/changelog.gz; do
+    usr/share/icons/hicolor/48x48/apps/org.veltaro.VltTelecomLayers.png $doc/copyright $doc/changelog.gz $doc/docs/tables.md; do
     [[ -s $file ]] || fail "$file is not in the package"
 done
 
