@@ -27,6 +27,8 @@ def encodings(m):
     unreadable = "|bytes that mean nothing in the encoding UTF-8 were replaced: "
     m.open("bad_byte.csv", accents.replace(b"S0007;", b"S0007\xe9;"), "one byte of Latin-1 in UTF-8",
            problems="1|8|" + unreadable + "1 in this row")
+    m.open("bom_bad_byte.csv", b"\xef\xbb\xbf" + usual.encode().replace(b"S0007;", b"S0007\xe9;"),
+           "the mark holds, whatever the bytes are", problems="1|8|" + unreadable + "1 in this row")
     padding = "\n" + "S0001;2.01;48.01;\u00e9;21;9\n" * 3000
     m.open("late_bad_bytes.csv", accents.replace(b"\n", padding.encode(), 1) + b"S\xe2\x82;1;2;\xff;3;4\n",
            "cut and impossible characters behind a megabyte", rows=3041, last="S\ufffd\ufffd",

@@ -228,12 +228,12 @@ TextFormat findTextFormat(const std::shared_ptr<const InputFile> &file, const Te
         format.encoding = isNamedUtf8(hints.encoding) ? Utf8 : hints.encoding;
     else if (format.encoding.empty())
         format.encoding = wideEncoding(text);
-    if (format.encoding.empty()) {
+    format.isStated = !format.encoding.empty();
+    if (!format.isStated) {
         // A character cut at the end of the sample goes on behind it, but not at the end of the
         // file.
         const bool isWhole = head.size() < TextSampleSize;
         format.encoding = isUtf8(isWhole ? text + '\n' : text) ? Utf8 : guessEncoding(file);
-        format.isGuess = !format.isUtf8();
     }
     text = format.isUtf8() ? mendedUtf8(text) : recoded(text, format.encoding);
     refuseOtherKinds(text);

@@ -14,9 +14,8 @@ constexpr size_t TextSampleSize = size_t{64} << 10;
 /// How a text table is written.
 struct TextFormat
 {
-    std::string encoding; ///< as iconv calls it; UTF-8 for plain ASCII, too
-    bool isGuess =
-        false; ///< neither a mark nor the user nor the bytes themselves tell the encoding
+    std::string encoding;  ///< as iconv calls it; UTF-8 for plain ASCII, too
+    bool isStated = false; ///< by a byte order mark, a pattern of zeros or the user
     char delimiter = ',';
     uint64_t start = 0;    ///< bytes before the first row: a byte order mark
     int64_t firstRow = 1;  ///< number of the first row: 2 behind a line "sep=;"

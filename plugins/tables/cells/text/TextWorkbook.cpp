@@ -57,7 +57,10 @@ public:
 
     const std::string &name() const override { return m_name; }
 
-    TextEncoding encoding() const override { return {m_format.encoding, m_format.isGuess}; }
+    TextEncoding encoding() const override
+    {
+        return {m_format.encoding, !m_format.isStated && !m_format.isUtf8()};
+    }
 
     std::unique_ptr<RowReader> rows() const override
     {
@@ -75,7 +78,6 @@ public:
             return true;
         m_isWatched = false;
         m_format.encoding = guessEncoding(m_file);
-        m_format.isGuess = !m_format.isUtf8();
         return m_format.isUtf8();
     }
 
@@ -115,7 +117,7 @@ std::unique_ptr<Workbook> openText(std::shared_ptr<const InputFile> file, const 
                                    const TextHints &hints)
 {
     const TextFormat format = findTextFormat(file, hints);
-    const bool isWatched = hints.encoding.empty() && format.isUtf8();
+    const bool isWatched = !format.isStated && format.isUtf8();
     return std::make_unique<TextWorkbook>(
         std::make_shared<TextSheet>(std::move(file), name, format, isWatched));
 }
