@@ -249,7 +249,8 @@ private Q_SLOTS:
             "(2154) counts in meters or feet");
         row(meters, "--source-srs 4326 --target-srs EPSG:4326",
             "the coordinates of the table are in meters, but its system WGS 84 (4326) counts in "
-            "degrees");
+            "degrees\nvltlayers: ../s.csv: none of its sites can be placed; \"vltlayers info\" "
+            "tells why");
         row(Table, "--target-srs 2193",
             "2 of 2 positions lie outside the area of use of NZGD2000 / New Zealand Transverse "
             "Mercator 2000 (2193)");
