@@ -34,7 +34,7 @@ Result<colormaps::ColorMapEntry> chosenColorMap(const QString &wanted, const QSt
     if (!wanted.isEmpty() && QFileInfo(wanted).isFile())
         return colormaps::colorMapEntry(absolutePath(wanted));
     return told(dico_label("MESS_CLI_NO_SUCH_CMAP",
-                           "no colour map has this name, nor any file; there are: %1")
+                           "no color map has this name, nor any file; there are: %1")
                     .arg(names.join(QStringLiteral(", "))),
                 wanted);
 }

@@ -176,7 +176,7 @@ private Q_SLOTS:
         row("% --image /vsicurl/http://example.org/a.tif", 1, "a.tif: no such file");
         row("% --image ../rgb.ppm", 1, "works only with one-band grey images");
         row("% --image ../level.asc --colormap nice", 1,
-            "nice: no colour map has this name, nor any file; there are: first, level_dBm");
+            "nice: no color map has this name, nor any file; there are: first, level_dBm");
         row("% --image ../level.asc --colormap ../broken.txt", 1, "Unknown color : pink");
         row("% --texture ../t/c.asc", 1, "../t/c.asc: for which height is this image?");
         row("% --texture ../t/no.asc=5", 1, "../t/no.asc: no such file");

@@ -93,7 +93,7 @@ private Q_SLOTS:
             ids += wizard.pageId(page);
         QCOMPARE(ids, (QList<int>{0, 1, 2, 3, 4, 6, 5, 7}));
         QCOMPARE(wizard.page(5)->title(), u"Textured buildings"_s);
-        QCOMPARE(wizard.page(6)->title(), u"Coloured buildings"_s);
+        QCOMPARE(wizard.page(6)->title(), u"Colored buildings"_s);
         QCOMPARE(wizard.page(7)->title(), u"Display of buildings"_s);
         QCOMPARE(wizard.size(), QSize(1180, 680));
         QCOMPARE(wizard.windowTitle(), u"Add sites, links and predictions wizard"_s);

@@ -23,7 +23,7 @@ VltAddTexbColoredPage::VltAddTexbColoredPage(QWidget *wizard, SharedParameters &
     , m_ui(std::make_unique<Ui::AddTexbColoredPage>())
 {
     m_ui->setupUi(this);
-    setTitle(tr("Coloured buildings", "MESS_PAGE_COLORED"));
+    setTitle(tr("Colored buildings", "MESS_PAGE_COLORED"));
     setFocusProxy(m_ui->m_pwTabs); // the first stop: Tab would never reach what stands before it
     setDropHighlightWidgets(m_ui->m_pwColoring->dropLabels());
     m_ui->m_pwColoring->setInstallDir(installDir);

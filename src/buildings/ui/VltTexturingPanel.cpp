@@ -9,7 +9,7 @@ VltTexturingPanel::VltTexturingPanel(QWidget *parent)
     , m_ui(std::make_unique<Ui::TexturingPanel>())
 {
     m_ui->setupUi(this);
-    m_ui->m_pwPbEdgeColor->setPurpose(tr("Colour of the edges", "MESS_EDGE_COLOR"));
+    m_ui->m_pwPbEdgeColor->setPurpose(tr("Color of the edges", "MESS_EDGE_COLOR"));
     m_ui->m_pwPbEdgeColor->setColor(QColor(0x40, 0x40, 0x40));
     remember({{QStringLiteral("TextureType"), m_ui->m_pwCbTextureType},
               {QStringLiteral("TexturedDistance"), m_ui->m_pwSbTexturedDistance},

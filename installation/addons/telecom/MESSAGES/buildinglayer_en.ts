@@ -53,8 +53,8 @@
         <translation>which field holds the heights? --height-field tells</translation>
     </message>
     <message id="MESS_CLI_NO_SUCH_CMAP">
-        <source>no colour map has this name, nor any file; there are: %1</source>
-        <translation>no colour map has this name, nor any file; there are: %1</translation>
+        <source>no color map has this name, nor any file; there are: %1</source>
+        <translation>no color map has this name, nor any file; there are: %1</translation>
     </message>
     <message id="MESS_CLI_SUBDATASETS">
         <source>it holds several images, each with a name: %1</source>

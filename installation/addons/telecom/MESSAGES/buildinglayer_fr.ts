@@ -53,7 +53,7 @@
         <translation>quel champ contient les hauteurs&#xa0;? --height-field le dit</translation>
     </message>
     <message id="MESS_CLI_NO_SUCH_CMAP">
-        <source>no colour map has this name, nor any file; there are: %1</source>
+        <source>no color map has this name, nor any file; there are: %1</source>
         <translation>aucune palette ni aucun fichier ne porte ce nom&#xa0;; il y a&#xa0;: %1</translation>
     </message>
     <message id="MESS_CLI_SUBDATASETS">

@@ -4,8 +4,8 @@
 <context>
     <name>Display of buildings</name>
     <message id="MESS_TAB_COLORING">
-        <source>Colour map</source>
-        <translation>Colour map</translation>
+        <source>Color map</source>
+        <translation>Color map</translation>
     </message>
     <message id="MESS_DRAG_ICON_TEXB">
         <source>Drag this icon into
@@ -26,8 +26,8 @@ to add the building layer
         <translation>Images on</translation>
     </message>
     <message id="MESS_TIP_TEXTURE_TYPE">
-        <source>Roofs: the image nearest to the height of the building. Walls: bands of colours around each image height. Storeys: a floor at each image height</source>
-        <translation>Roofs: the image nearest to the height of the building. Walls: bands of colours around each image height. Storeys: a floor at each image height</translation>
+        <source>Roofs: the image nearest to the height of the building. Walls: bands of colors around each image height. Storeys: a floor at each image height</source>
+        <translation>Roofs: the image nearest to the height of the building. Walls: bands of colors around each image height. Storeys: a floor at each image height</translation>
     </message>
     <message id="MESS_TEX_ROOFS">
         <source>Roofs</source>
@@ -46,16 +46,16 @@ to add the building layer
         <translation>Shown up to</translation>
     </message>
     <message id="MESS_TIP_TEXTURED_DISTANCE">
-        <source>Distance up to which the images are shown; beyond it the buildings have their plain colours</source>
-        <translation>Distance up to which the images are shown; beyond it the buildings have their plain colours</translation>
+        <source>Distance up to which the images are shown; beyond it the buildings have their plain colors</source>
+        <translation>Distance up to which the images are shown; beyond it the buildings have their plain colors</translation>
     </message>
     <message id="MESS_EDGES">
         <source>Edges</source>
         <translation>Edges</translation>
     </message>
     <message id="MESS_TIP_EDGE_COLOR">
-        <source>Colour of the lines along the edges of the buildings and the storeys</source>
-        <translation>Colour of the lines along the edges of the buildings and the storeys</translation>
+        <source>Color of the lines along the edges of the buildings and the storeys</source>
+        <translation>Color of the lines along the edges of the buildings and the storeys</translation>
     </message>
     <message id="MESS_TIP_FORCE_EDGES">
         <source>Draws the edges also where the images would do without them</source>
@@ -106,16 +106,16 @@ to add the building layer
         <translation>Linear</translation>
     </message>
     <message id="MESS_TIP_TEX_BUFFER">
-        <source>Walls take the colours this far outside the building</source>
-        <translation>Walls take the colours this far outside the building</translation>
+        <source>Walls take the colors this far outside the building</source>
+        <translation>Walls take the colors this far outside the building</translation>
     </message>
     <message id="MESS_TEX_BUFFER">
         <source>Buffer</source>
         <translation>Buffer</translation>
     </message>
     <message id="MESS_TIP_TEX_DILATATION">
-        <source>The colours of an image grow by so many pixels into its empty ones</source>
-        <translation>The colours of an image grow by so many pixels into its empty ones</translation>
+        <source>The colors of an image grow by so many pixels into its empty ones</source>
+        <translation>The colors of an image grow by so many pixels into its empty ones</translation>
     </message>
     <message id="MESS_TEX_DILATATION">
         <source>Dilatation</source>
@@ -170,60 +170,60 @@ to add the building layer
         <translation>So many elements wait at most before they are written</translation>
     </message>
     <message id="MESS_EXTRUDED_REPR">
-        <source>Colours of the extruded representation</source>
-        <translation>Colours of the extruded representation</translation>
+        <source>Colors of the extruded representation</source>
+        <translation>Colors of the extruded representation</translation>
     </message>
     <message id="MESS_COLORS_WALLS">
         <source>Walls</source>
         <translation>Walls</translation>
     </message>
     <message id="MESS_TIP_WALL_KIND">
-        <source>What colours the walls where they have no image</source>
-        <translation>What colours the walls where they have no image</translation>
+        <source>What colors the walls where they have no image</source>
+        <translation>What colors the walls where they have no image</translation>
     </message>
     <message id="MESS_COLOR_ONE">
-        <source>One colour</source>
-        <translation>One colour</translation>
+        <source>One color</source>
+        <translation>One color</translation>
     </message>
     <message id="MESS_COLOR_FROM_MAP">
-        <source>From a colour map</source>
-        <translation>From a colour map</translation>
+        <source>From a color map</source>
+        <translation>From a color map</translation>
     </message>
     <message id="MESS_TIP_ONE_COLOR">
-        <source>Choose the colour</source>
-        <translation>Choose the colour</translation>
+        <source>Choose the color</source>
+        <translation>Choose the color</translation>
     </message>
     <message id="MESS_COLORS_ROOFS">
         <source>Roofs</source>
         <translation>Roofs</translation>
     </message>
     <message id="MESS_TIP_ROOF_KIND">
-        <source>What colours the roofs where they have no image</source>
-        <translation>What colours the roofs where they have no image</translation>
+        <source>What colors the roofs where they have no image</source>
+        <translation>What colors the roofs where they have no image</translation>
     </message>
     <message id="MESS_TIP_COLORING">
-        <source>Choose the image and the colour map, for walls and roofs alike</source>
-        <translation>Choose the image and the colour map, for walls and roofs alike</translation>
+        <source>Choose the image and the color map, for walls and roofs alike</source>
+        <translation>Choose the image and the color map, for walls and roofs alike</translation>
     </message>
     <message id="MESS_COLORING_ADD">
-        <source>Image and colour map...</source>
-        <translation>Image and colour map...</translation>
+        <source>Image and color map...</source>
+        <translation>Image and color map...</translation>
     </message>
     <message id="MESS_NO_IMAGE_TICKED">
         <source>No image is ticked: the buildings are shown without images.</source>
         <translation>No image is ticked: the buildings are shown without images.</translation>
     </message>
     <message id="MESS_EDGE_COLOR">
-        <source>Colour of the edges</source>
-        <translation>Colour of the edges</translation>
+        <source>Color of the edges</source>
+        <translation>Color of the edges</translation>
     </message>
     <message id="MESS_WALL_COLOR">
-        <source>Colour of the walls</source>
-        <translation>Colour of the walls</translation>
+        <source>Color of the walls</source>
+        <translation>Color of the walls</translation>
     </message>
     <message id="MESS_ROOF_COLOR">
-        <source>Colour of the roofs</source>
-        <translation>Colour of the roofs</translation>
+        <source>Color of the roofs</source>
+        <translation>Color of the roofs</translation>
     </message>
     <message id="MESS_DRAG_NAME_TEXB">
         <source>Layer of buildings to drag into the builder</source>

@@ -4,7 +4,7 @@
 <context>
     <name>Display of buildings</name>
     <message id="MESS_TAB_COLORING">
-        <source>Colour map</source>
+        <source>Color map</source>
         <translation>Palette</translation>
     </message>
     <message id="MESS_DRAG_ICON_TEXB">
@@ -26,7 +26,7 @@ ajouter la couche de bâtiments
         <translation>Images sur</translation>
     </message>
     <message id="MESS_TIP_TEXTURE_TYPE">
-        <source>Roofs: the image nearest to the height of the building. Walls: bands of colours around each image height. Storeys: a floor at each image height</source>
+        <source>Roofs: the image nearest to the height of the building. Walls: bands of colors around each image height. Storeys: a floor at each image height</source>
         <translation>Toits&#xa0;: l'image dont la hauteur est la plus proche de celle du bâtiment. Murs&#xa0;: une bande de couleurs autour de la hauteur de chaque image. Étages&#xa0;: un plancher à la hauteur de chaque image</translation>
     </message>
     <message id="MESS_TEX_ROOFS">
@@ -46,7 +46,7 @@ ajouter la couche de bâtiments
         <translation>Visibles jusqu'à</translation>
     </message>
     <message id="MESS_TIP_TEXTURED_DISTANCE">
-        <source>Distance up to which the images are shown; beyond it the buildings have their plain colours</source>
+        <source>Distance up to which the images are shown; beyond it the buildings have their plain colors</source>
         <translation>Distance jusqu'à laquelle les images sont affichées&#xa0;; au-delà, les bâtiments ont leurs couleurs unies</translation>
     </message>
     <message id="MESS_EDGES">
@@ -54,7 +54,7 @@ ajouter la couche de bâtiments
         <translation>Arêtes</translation>
     </message>
     <message id="MESS_TIP_EDGE_COLOR">
-        <source>Colour of the lines along the edges of the buildings and the storeys</source>
+        <source>Color of the lines along the edges of the buildings and the storeys</source>
         <translation>Couleur des traits le long des arêtes des bâtiments et des étages</translation>
     </message>
     <message id="MESS_TIP_FORCE_EDGES">
@@ -106,7 +106,7 @@ ajouter la couche de bâtiments
         <translation>Linéaire</translation>
     </message>
     <message id="MESS_TIP_TEX_BUFFER">
-        <source>Walls take the colours this far outside the building</source>
+        <source>Walls take the colors this far outside the building</source>
         <translation>Les murs prennent les couleurs situées à cette distance hors du bâtiment</translation>
     </message>
     <message id="MESS_TEX_BUFFER">
@@ -114,7 +114,7 @@ ajouter la couche de bâtiments
         <translation>Tampon</translation>
     </message>
     <message id="MESS_TIP_TEX_DILATATION">
-        <source>The colours of an image grow by so many pixels into its empty ones</source>
+        <source>The colors of an image grow by so many pixels into its empty ones</source>
         <translation>Les couleurs d'une image gagnent ce nombre de pixels sur les pixels vides</translation>
     </message>
     <message id="MESS_TEX_DILATATION">
@@ -170,7 +170,7 @@ ajouter la couche de bâtiments
         <translation>Nombre d'éléments qui attendent au plus avant d'être écrits</translation>
     </message>
     <message id="MESS_EXTRUDED_REPR">
-        <source>Colours of the extruded representation</source>
+        <source>Colors of the extruded representation</source>
         <translation>Couleurs de la représentation extrudée</translation>
     </message>
     <message id="MESS_COLORS_WALLS">
@@ -178,19 +178,19 @@ ajouter la couche de bâtiments
         <translation>Murs</translation>
     </message>
     <message id="MESS_TIP_WALL_KIND">
-        <source>What colours the walls where they have no image</source>
+        <source>What colors the walls where they have no image</source>
         <translation>D'où vient la couleur des murs sans image</translation>
     </message>
     <message id="MESS_COLOR_ONE">
-        <source>One colour</source>
+        <source>One color</source>
         <translation>Une couleur</translation>
     </message>
     <message id="MESS_COLOR_FROM_MAP">
-        <source>From a colour map</source>
+        <source>From a color map</source>
         <translation>D'une palette</translation>
     </message>
     <message id="MESS_TIP_ONE_COLOR">
-        <source>Choose the colour</source>
+        <source>Choose the color</source>
         <translation>Choisir la couleur</translation>
     </message>
     <message id="MESS_COLORS_ROOFS">
@@ -198,15 +198,15 @@ ajouter la couche de bâtiments
         <translation>Toits</translation>
     </message>
     <message id="MESS_TIP_ROOF_KIND">
-        <source>What colours the roofs where they have no image</source>
+        <source>What colors the roofs where they have no image</source>
         <translation>D'où vient la couleur des toits sans image</translation>
     </message>
     <message id="MESS_TIP_COLORING">
-        <source>Choose the image and the colour map, for walls and roofs alike</source>
+        <source>Choose the image and the color map, for walls and roofs alike</source>
         <translation>Choisir l'image et la palette, communes aux murs et aux toits</translation>
     </message>
     <message id="MESS_COLORING_ADD">
-        <source>Image and colour map...</source>
+        <source>Image and color map...</source>
         <translation>Image et palette...</translation>
     </message>
     <message id="MESS_NO_IMAGE_TICKED">
@@ -214,15 +214,15 @@ ajouter la couche de bâtiments
         <translation>Aucune image n'est cochée&#xa0;: les bâtiments sont affichés sans images.</translation>
     </message>
     <message id="MESS_EDGE_COLOR">
-        <source>Colour of the edges</source>
+        <source>Color of the edges</source>
         <translation>Couleur des arêtes</translation>
     </message>
     <message id="MESS_WALL_COLOR">
-        <source>Colour of the walls</source>
+        <source>Color of the walls</source>
         <translation>Couleur des murs</translation>
     </message>
     <message id="MESS_ROOF_COLOR">
-        <source>Colour of the roofs</source>
+        <source>Color of the roofs</source>
         <translation>Couleur des toits</translation>
     </message>
     <message id="MESS_DRAG_NAME_TEXB">

@@ -189,8 +189,8 @@ Buildings can be colored or textured with images (ortho-images, coverage plots, 
         <translation>Textured buildings</translation>
     </message>
     <message id="MESS_PAGE_COLORED">
-        <source>Coloured buildings</source>
-        <translation>Coloured buildings</translation>
+        <source>Colored buildings</source>
+        <translation>Colored buildings</translation>
     </message>
     <message id="MESS_PAGE_DISPLAY">
         <source>Display of buildings</source>

@@ -190,7 +190,7 @@ Les bâtiments peuvent être colorés ou texturés avec des images (orthophotos,
         <translation>Bâtiments texturés</translation>
     </message>
     <message id="MESS_PAGE_COLORED">
-        <source>Coloured buildings</source>
+        <source>Colored buildings</source>
         <translation>Bâtiments colorés</translation>
     </message>
     <message id="MESS_PAGE_DISPLAY">
