@@ -33,7 +33,7 @@ private Q_SLOTS:
         const vlt::srs::DefaultSrsList defaults;
         m_preferences.defaults = {defaults.begin(), defaults.end()};
         QVERIFY(!m_preferences.defaults.isEmpty());
-        m_preferences.first = {{{}, {}, u"EPSG:31370"_s}, {{}, {}, u"3949"_s}};
+        m_preferences.first = {{{}, {}, u"EPSG:31370"_s}, {{}, {}, u"31469"_s}};
     }
 
     void knowsEverySystemForMapsOnce()
@@ -79,8 +79,8 @@ private Q_SLOTS:
         row("british", 27700);
         row("france", 2154);
         row("mercator", 3857);
-        row("lambert", 31370); // used lately
-        row("cc", 3949);       // the project's
+        row("lambert", 31370);      // used lately
+        row("gauss kruger", 31469); // the project's
         row("new zealand", 2193);
         for (const vlt::srs::SrsEntry &entry : m_preferences.defaults)
             QTest::newRow(qPrintable(entry.code)) << entry.alias << entry.code;
