@@ -181,6 +181,10 @@ private Q_SLOTS:
         wizard.restart();
         QVERIFY(QTest::qWaitForWindowExposed(&wizard));
         wizard.activateWindow();
+        if (auto *fold = wizard.currentPage()->findChild<QAbstractButton *>(u"m_pwTbFold"_s)) {
+            fold->parentWidget()->show(); // as with a table
+            fold->click();
+        }
         QTest::qWait(300);
         QVERIFY(wizard.focusWidget());
 

@@ -30,29 +30,40 @@ QString refusalDetail(const QString &path, const QString &reason)
     return translated.isEmpty() ? path : path + QLatin1Char('\n') + translated;
 }
 
-/// The lines of spin boxes and combos: their focus is that of the whole. Shift+Tab comes to the
-/// whole by them, so that they have to stand behind it.
+/// Parts whose focus is that of the whole, such as the lines of spin boxes and combos and the
+/// inside of tables. Shift+Tab comes to the whole by them, so that they have to stand behind it.
 QWidgetList partsThatStandFor(const QWidget &stop)
 {
     QWidgetList parts;
-    for (QWidget *part : stop.findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly)) {
-        if (part->focusProxy() == &stop)
+    for (QWidget *part : stop.findChildren<QWidget *>()) {
+        const QWidget *proxy = part->focusProxy();
+        while (proxy && proxy->focusProxy())
+            proxy = proxy->focusProxy();
+        if (proxy == &stop)
             parts << part;
     }
     return parts;
 }
 
 /// Each widget after the one before. The toolkit would move a stop together with all that stands
-/// between it and a part of it, which may be anywhere; without proxies it moves single widgets.
+/// between it and a part of it, which may be anywhere, and would leave out what takes no focus;
+/// without proxies, and with focus for a moment, it moves single widgets.
 void putInOrder(const QWidgetList &widgets)
 {
     QWidgetList proxies;
+    QList<Qt::FocusPolicy> policies;
     for (QWidget *widget : widgets) {
         proxies << widget->focusProxy();
         widget->setFocusProxy(nullptr);
     }
+    for (QWidget *widget : widgets) {
+        policies << widget->focusPolicy();
+        widget->setFocusPolicy(Qt::StrongFocus);
+    }
     for (int i = 1; i < widgets.size(); ++i)
         QWidget::setTabOrder(widgets[i - 1], widgets[i]);
+    for (int i = 0; i < widgets.size(); ++i)
+        widgets[i]->setFocusPolicy(policies[i]);
     for (int i = 0; i < widgets.size(); ++i)
         widgets[i]->setFocusProxy(proxies[i]);
 }
