@@ -293,6 +293,8 @@ private Q_SLOTS:
         const DialogAnswers cancelled({});
         shown.pick(0);
         QCOMPARE(shown.combo->currentText(), u"Undefined"_s);
+        QTest::keyClicks(shown.combo, u"EPSG:4326"_s);
+        QTest::keyClick(shown.combo, Qt::Key_Return); // nothing is done with it, which is told
         QVERIFY(shown.chooser->findChild<QLabel *>(u"m_pLHint"_s)->isVisible());
     }
 };

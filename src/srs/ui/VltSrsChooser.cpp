@@ -1,12 +1,12 @@
 #include "srs/ui/VltSrsChooser.h"
 
 #include "geodata/SrsDefinition.h"
-#include "language/VltLanguageManager.h"
 #include "srs/DefaultSrsList.h"
 #include "srs/UserDefinedSrsList.h"
 #include "srs/ui/dialogToEditAlias.h"
 #include "srs/ui/dialogVltSrsChooser.h"
 #include "ui_VltSrsChooser.h"
+#include "wizard/base/Messages.h"
 
 #include <QColor>
 #include <QIcon>
@@ -39,9 +39,6 @@ VltSrsChooser::VltSrsChooser(QWidget *parent, const QString &labelText, bool wit
     m_ui->m_pLSrsLabel->setText(labelText);
     m_ui->m_pCBSrs->setAccessibleName(labelText);
     m_ui->m_pPBResetSrs->setAccessibleDescription(labelText);
-    m_ui->m_pCBSrs->setEditTip(tr("An EPSG code, a PROJ text or WKT, then Return; "
-                                  "\"Other...\" in the list searches all systems",
-                                  "MESS_SRS_TYPE_TIP"));
     const int iconSize = style()->pixelMetric(QStyle::PM_SmallIconSize);
     m_ui->m_pLHintIcon->setPixmap(QIcon(QStringLiteral(":/icons/warning.png")).pixmap(iconSize));
     clearHint();
@@ -193,7 +190,7 @@ void VltSrsChooser::slot_OnValidateEditedSrs()
     if (row >= 0)
         selectRow(row);
     else if (const auto refusal = vlt::geodata::definitionRefusal(text))
-        showHint(dico_label(refusal->key.toUtf8().constData(), refusal->text.toUtf8().constData()));
+        showHint(vlt::messages::textOf(*refusal));
     else if (!addUserDefined(text))
         return;
     Q_EMIT SrsSelected(currentCode());
@@ -249,12 +246,27 @@ void VltSrsChooser::enterUndefinedState(OnReturn onReturn)
     combo->setCompleter(nullptr);             // a definition is taken as it was typed
     combo->setEditText(tr("Undefined", "MESS_NDEF"));
     combo->lineEdit()->setAccessibleName(combo->accessibleName());
+    if (onReturn == OnReturn::StaysAsItIs) {
+        combo->setEditTip(chooseInListText());
+        return;
+    }
+    combo->setEditTip(tr("An EPSG code, a PROJ text or WKT, then Return; "
+                         "\"Other...\" in the list searches all systems",
+                         "MESS_SRS_TYPE_TIP"));
     combo->lineEdit()->setPlaceholderText(tr("EPSG code, PROJ text or WKT", "MESS_SRS_TYPE_HERE"));
+    // the line edit may be the one of the last time
+    connect(combo->lineEdit(), &QLineEdit::returnPressed, this,
+            &VltSrsChooser::slot_OnValidateEditedSrs, Qt::UniqueConnection);
     connect(combo->lineEdit(), &QLineEdit::textEdited, this, &VltSrsChooser::clearHint,
             Qt::UniqueConnection);
-    if (onReturn == OnReturn::Validates) // the line edit may be the one of the last time
-        connect(combo->lineEdit(), &QLineEdit::returnPressed, this,
-                &VltSrsChooser::slot_OnValidateEditedSrs, Qt::UniqueConnection);
+}
+
+/// What is left to do where a text that is typed is not looked at.
+QString VltSrsChooser::chooseInListText()
+{
+    return tr("Choose a system in the list; \"Other...\", tab \"User-defined\", takes a definition "
+              "of your own",
+              "MESS_SRS_CHOOSE_IN_LIST");
 }
 
 /// Tells below the row why nothing happens, or what to do; nothing for an empty text.
@@ -292,9 +304,7 @@ void VltSrsChooser::chooseFromDialog()
         } else {
             enterUndefinedState(OnReturn::StaysAsItIs);
             m_ui->m_pPBResetSrs->setEnabled(false);
-            showHint(tr("Choose a system in the list; \"Other...\", tab \"User-defined\", takes a "
-                        "definition of your own",
-                        "MESS_SRS_CHOOSE_IN_LIST"));
+            showHint(chooseInListText());
         }
         return;
     }

@@ -94,6 +94,7 @@ private:
     void describeRow(int row);
     void selectRow(int row);
     void enterUndefinedState(OnReturn onReturn);
+    static QString chooseInListText();
     void showHint(const QString &text);
     void clearHint() { showHint({}); }
     void choose(const vlt::srs::SrsEntry &entry);

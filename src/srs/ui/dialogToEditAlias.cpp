@@ -1,7 +1,6 @@
 #include "srs/ui/dialogToEditAlias.h"
 
 #include "geodata/SrsDefinition.h"
-#include "language/VltLanguageManager.h"
 #include "srs/UserDefinedSrsList.h"
 #include "ui_dialogToEditAlias.h"
 #include "wizard/base/Messages.h"
@@ -74,7 +73,7 @@ void dialogToEditAlias::validate()
     m_ui->m_pwLblHint->setText(
         !refusal || text.isEmpty()
             ? tr("A code such as EPSG:2154, a PROJ text or WKT", "MESS_SRS_DEFINITION_TIP")
-            : dico_label(refusal->key.toUtf8().constData(), refusal->text.toUtf8().constData()));
+            : vlt::messages::textOf(*refusal));
     m_ui->m_pwBbButtons->button(QDialogButtonBox::Ok)->setEnabled(!refusal && !alias().isEmpty());
 }
 

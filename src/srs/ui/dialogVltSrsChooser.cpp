@@ -1,7 +1,6 @@
 #include "srs/ui/dialogVltSrsChooser.h"
 
 #include "geodata/SrsDefinition.h"
-#include "language/VltLanguageManager.h"
 #include "platform/Settings.h"
 #include "srs/DetailLinks.h"
 #include "srs/SrsUtilitiesFile.h"
@@ -66,6 +65,7 @@ dialogVltSrsChooser::dialogVltSrsChooser(QWidget *parent, const SrsEntry &curren
     restoreSize();
     showLists();
 
+    m_ui->m_pwPbAddTyped->hide();
     m_ui->m_pwLblState->setText(
         tr("Reading the list of coordinate systems...", "MESS_SRS_LOADING"));
     m_loading.setFuture(sharedSrsSearch());
@@ -238,9 +238,8 @@ void dialogVltSrsChooser::showState()
         const std::optional<vlt::Error> refusal = vlt::geodata::definitionRefusal(text);
         m_ui->m_pwPbAddTyped->setVisible(!refusal);
         m_ui->m_pwLblState->setText(
-            refusal
-                ? dico_label(refusal->key.toUtf8().constData(), refusal->text.toUtf8().constData())
-                : tr("This text defines a coordinate system", "MESS_SRS_IS_DEFINITION"));
+            refusal ? vlt::messages::textOf(*refusal)
+                    : tr("This text defines a coordinate system", "MESS_SRS_IS_DEFINITION"));
         return;
     }
     if (!m_loading.isFinished() || !m_loading.result())
