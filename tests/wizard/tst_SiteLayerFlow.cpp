@@ -244,12 +244,26 @@ private Q_SLOTS:
         QVERIFY(table->isVisible());
     }
 
-    void makesNoLayerForASystemThatNobodyKnows()
+    void makesNoLayerForASystemThatPlacesNothing_data()
     {
+        QTest::addColumn<QByteArray>("system");
+        QTest::addColumn<QString>("reason");
+
+        QTest::newRow("unknown") << QByteArray("Lambert II of nowhere")
+                                 << u"No layer can be made: the coordinate system \"Lambert II of "
+                                    "nowhere\" is not known"_s;
+        QTest::newRow("heights") << QByteArray("EPSG:5720")
+                                 << u"This system gives heights only: it cannot place points on a "
+                                    "map\nEPSG:5720"_s;
+    }
+
+    void makesNoLayerForASystemThatPlacesNothing()
+    {
+        QFETCH(QByteArray, system);
         const QString project = m_dir.filePath(u"old.gvw"_s);
         QFile file(project);
         QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("DEM Layers\nReference Projection : Lambert II of nowhere\n");
+        file.write("DEM Layers\nReference Projection : " + system + '\n');
         file.close();
         WizardOnPage flow(u"m_pwClAddSite"_s, installation(), project);
         const AnsweredBoxes boxes;
@@ -257,9 +271,7 @@ private Q_SLOTS:
         dropFiles(flow.page, {Samples + u"/sites.csv"_s});
 
         QVERIFY(!flow.icon->isEnabled());
-        QCOMPARE(flow.widget<QLabel>(u"m_pwLblReason"_s)->text(),
-                 u"No layer can be made: the coordinate system \"Lambert II of nowhere\" is not "
-                 "known"_s);
+        QTEST(flow.widget<QLabel>(u"m_pwLblReason"_s)->text(), "reason");
         QVERIFY(boxes.seen.isEmpty());
         QVERIFY(flow.wizard.currentPage()->isComplete());
     }

@@ -401,7 +401,7 @@ void VltTablePage::writeLayerFile()
     auto obstacle = vlt::sites::missingChoice(m_panelProperties->representation(),
                                               m_panelProperties->catalogues(), installDir());
     if (!obstacle)
-        obstacle = vlt::sites::systemObstacle({systems().source, systems().target});
+        obstacle = vlt::sites::systemObstacle(systems());
     showReason(obstacle ? vlt::messages::textOf(*obstacle) : QString());
     if (obstacle)
         return;
