@@ -25,8 +25,10 @@ constexpr size_t ExactDigits = 15;
 /// lost.
 bool losesDigits(const Cell &cell, std::string_view text)
 {
-    if (cell.kind != Cell::Kind::Text || text.empty() ||
-        (text.size() <= ExactDigits && text[0] != '0' && text[0] != '+'))
+    const bool mayLose = text.size() > ExactDigits ||
+                         (text.size() > 1 && text[0] == '0' && text[1] >= '0' && text[1] <= '9') ||
+                         text.starts_with('+');
+    if (!mayLose || cell.kind != Cell::Kind::Text)
         return false;
     const NumberShape shape = numberShape(text);
     return shape.isIdentifier && shape.isWhole;

@@ -244,9 +244,18 @@ void TextRows::cells(Row &row)
     const bool hasLines = findAnyOf(at, end, '\n', '\r', '\n') != end;
     TextField lines; ///< the first field that holds several
     int columnOfLines = -1;
+    const char delimiter = m_delimiter;
     int column = 0;
     for (; column < MostTextColumns; ++column) {
-        const TextField field = readField(at, end, m_delimiter, &row);
+        TextField field; // nearly every one has no quotes
+        if (at < end && *at == '"')
+            field = readField(at, end, m_delimiter, &row);
+        else {
+            const char *stop = at;
+            while (stop < end && *stop != delimiter)
+                ++stop;
+            field = {{at, static_cast<size_t>(stop - at)}, stop, false};
+        }
         if (isFilled(field.text))
             row.add({column, Cell::Kind::Text, field.text, 0});
         if (hasLines && columnOfLines < 0 && field.isQuoted &&
