@@ -13,10 +13,10 @@ inline const QString PylonFolder = QStringLiteral("addons/telecom/pylons");
 /// One kind of mast of the pylon catalogue.
 struct PylonType
 {
-    QString type;        ///< as queries name it
-    QString description; ///< in the language asked for; empty where the catalogue has none
-    QImage icon;         ///< reserved, empty
-    QStringList names;   ///< descriptions in every language
+    QString type;           ///< as queries name it
+    QString description;    ///< in the language asked for; empty where the catalogue has none
+    QImage icon;            ///< reserved, empty
+    QStringList names = {}; ///< descriptions in every language
 };
 
 /// The pylon catalogue "addons/telecom/pylons/list.xml" in document order; empty where it cannot be

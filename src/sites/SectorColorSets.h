@@ -12,9 +12,9 @@ namespace vlt::sites {
 struct SectorColorSet
 {
     QList<QColor> colors;
-    QString description; ///< in the language asked for; empty where the catalogue has none
-    QImage swatch;       ///< picture of the colours, see swatchImage()
-    QStringList names;   ///< descriptions in every language
+    QString description;    ///< in the language asked for; empty where the catalogue has none
+    QImage swatch;          ///< picture of the colours, see swatchImage()
+    QStringList names = {}; ///< descriptions in every language
 };
 
 /// The colour catalogue "addons/telecom/pylons/colors/sectors.xml" in document order; empty where
