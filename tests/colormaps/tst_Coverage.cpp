@@ -339,7 +339,7 @@ private Q_SLOTS:
         QTest::newRow("network") << u"/vsicurl/http://localhost/one.tif"_s << QString()
                                  << u"no local file has this name"_s;
         QTest::newRow("source elsewhere")
-            << u"source.vrt"_s << QString() << u"not recognized as "_s;
+            << u"source.vrt"_s << QString() << u"virtual rasters are not opened"_s;
     }
 
     void refusesOthers()
