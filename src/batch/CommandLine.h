@@ -59,7 +59,7 @@ struct Inputs
     int most = 0;
     QString name;    ///< in the usage: "TABLE"
     QString meaning; ///< in the help
-    QString missing; ///< what is told where there are too few
+    QString missing; ///< error text when there are too few
 };
 
 /// Makes the parser know the command's options, parses the arguments and takes the global options.
@@ -78,7 +78,7 @@ std::optional<Error> checkStandardOutput(const QCommandLineParser &parser,
 /// An error of the command line, without a file.
 Error wrongUsage(const QString &text);
 
-/// What is told of an option's value.
+/// Error text about the value of an option.
 ///
 /// @param option  without dashes
 /// @param wanted  what the value should be: "a number of 1 to 5"

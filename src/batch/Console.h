@@ -23,7 +23,7 @@ struct ErrorStyle
     bool json = false; ///< also as an object on the standard output
 };
 
-/// To be set once, before the first error is told.
+/// To be set once, before the first error is printed.
 void setErrorStyle(const ErrorStyle &style);
 const ErrorStyle &errorStyle();
 

@@ -68,14 +68,14 @@ LayerOutcome layerOutcome(const Check &check, const QString &unit,
             sites::systemProblems(unit, systems, check.systems)};
 }
 
-/// Writes a finished layer, "-" being the standard output, and tells of its missing page; the exit
-/// status where that fails.
+/// Writes a finished layer, "-" being the standard output, and warns where its page is missing; the
+/// exit status where that fails.
 std::optional<ExitStatus> writeLayer(const QString &path, const Result<sites::SiteLayer> &layer);
 
-/// Tells on the error output what does not fit about the coordinate systems.
+/// Prints what does not fit about the coordinate systems to the error output.
 void warnOfSystems(const LayerOutcome &outcome);
 
-/// Tells of rows without a place, of unfit and of missing coordinate systems on the error output.
+/// Warns of rows without a place, and of unfit or missing coordinate systems, on the error output.
 void warnOfLayer(const LayerOutcome &outcome, const sites::SiteSystems &systems);
 
 /// What programs are told of every layer.

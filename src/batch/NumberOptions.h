@@ -57,7 +57,7 @@ QList<QCommandLineOption> numberOptionList(const std::vector<NumberOption<Repres
     return list;
 }
 
-/// What is told of a text that is none of the option's numbers.
+/// Error text about a value that is not one of the option's numbers.
 template<typename Representation>
 Error notInRange(const NumberOption<Representation> &option, const QString &text)
 {

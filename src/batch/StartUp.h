@@ -16,8 +16,8 @@ struct Surroundings
 /// Settles install directory and language and loads the messages; the directory need not be there.
 Place settlePlace(const SplitArguments &arguments);
 
-/// Sets the geodata library up and reads the project. A project that names nothing is told on the
-/// error output.
+/// Sets the geodata library up and reads the project. Warns on the error output of a project
+/// that names nothing.
 ///
 /// @par Errors   MESS_OUV_PRJ_IMP for a project that cannot be read; an install directory that is
 /// not there.

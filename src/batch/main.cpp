@@ -111,7 +111,7 @@ ExitStatus run(const SplitArguments &split, const QString &damaged)
 std::unique_ptr<QCoreApplication> makeApplication(char **argv, bool withFonts)
 {
     static int ownNameOnly = 1;
-    // the toolkit complains of desktops that are none, and of a locale that is not UTF-8
+    // the toolkit warns of a missing desktop, and of a locale that is not UTF-8
     const QtMessageHandler usual =
         qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
     std::unique_ptr<QCoreApplication> application;

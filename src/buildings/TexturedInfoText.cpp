@@ -27,7 +27,7 @@ QString whereOf(TexbSubtype subtype)
     return dico_label("MESS_TEX_ROOFS", "Roofs");
 }
 
-/// Of the language in which the text is told.
+/// Of the language of the text.
 QLocale spoken()
 {
     return QLocale(VltLanguageManager::getInstance().getCurrentLanguage().text);

@@ -22,7 +22,7 @@ GDALDatasetUniquePtr openVector(const std::string &name);
 /// Whether band 1 of a raster is a colour of a picture or an index of colours, which no terrain is.
 bool holdsColors(GDALDataset &raster);
 
-/// What a failure tells of files that only name other files, which are not opened.
+/// Reason given for files that only name other files: they are not opened.
 inline constexpr char VirtualRasterText[] =
     "virtual rasters are not opened: convert this one with gdal_translate";
 inline constexpr char VirtualVectorText[] =

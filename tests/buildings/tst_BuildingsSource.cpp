@@ -263,7 +263,7 @@ private Q_SLOTS:
         row("buildings gone", Square, vector,
             u"This file can't be open as a vector file\n"_s + file(vector));
         row("terrain gone", Square, dtm, u"Cannot open DTM\n"_s + file(dtm));
-        row("no number", Square, {}, u"The value of no data is no number."_s, u"abc"_s);
+        row("no number", Square, {}, u"The no-data value is not a number."_s, u"abc"_s);
         row("no place", Nowhere, {}, u"No building of this layer has a place\nn"_s);
     }
 

@@ -284,7 +284,7 @@ private Q_SLOTS:
         QTRY_VERIFY(page.icon()->isEnabled());
 
         type(u"m_pwLeNoData"_s, u"-"_s);
-        QTRY_COMPARE(page.message(), u"The value of no data is no number."_s);
+        QTRY_COMPARE(page.message(), u"The no-data value is not a number."_s);
         QVERIFY(!page.icon()->isEnabled()); // else the layer of former values could be dragged
         QVERIFY(!page.validatePage());
         type(u"m_pwLeNoData"_s, u"1"_s);

@@ -55,8 +55,8 @@ struct Row
     /// Says that a cell refers to a text that the workbook does not hold.
     void addMissingText(int column, std::string_view textNumber);
 
-    /// Appends a cell. A text that is too long is cut and zeros are taken out of it, which is told
-    /// among the faults.
+    /// Appends a cell. A text that is too long is cut, and zeros are taken out of it; both are
+    /// listed among the faults.
     void add(const Cell &cell)
     {
         m_textSize += cell.text.size();

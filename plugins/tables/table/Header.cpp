@@ -50,7 +50,7 @@ std::vector<CellFault> faultsOf(const Row &row)
         faults.push_back({cell.column, tabletexts::formatted("MESS_TAB_TEXT_CUT",
                                                              {std::to_string(LongestName)})});
     }
-    for (const CellFault &fault : row.faults) // what is cut for the second time is told once
+    for (const CellFault &fault : row.faults) // a text that is cut twice is reported once
         if (!cutColumns.contains(fault.column))
             faults.push_back(fault);
     return faults;

@@ -249,8 +249,8 @@ bool VltAddTexbFirstPage::isReadableDtm()
     return false;
 }
 
-/// What stands for no height is a number, as readers of a document understand it; else the user is
-/// told.
+/// Whether the no-data value is empty or a number, as readers of a document understand it; warns
+/// the user where it is not.
 bool VltAddTexbFirstPage::isNoDataNumber()
 {
     QString text = m_ui->m_pwLeNoData->text().trimmed();
@@ -260,7 +260,7 @@ bool VltAddTexbFirstPage::isNoDataNumber()
     if (!isNumber)
         messages::warning(this,
                           {QStringLiteral("MESS_NODATA_NO_NUMBER"),
-                           QStringLiteral("The value of no data is no number."),
+                           QStringLiteral("The no-data value is not a number."),
                            {}},
                           refusalTitle());
     return isNumber;

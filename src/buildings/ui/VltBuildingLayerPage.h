@@ -65,7 +65,7 @@ private:
 
     /// @param layerPath  of the layer file, which the other files lie beside
     /// @param reason     takes the system's reason of a file that cannot be written
-    /// @return           an error without key and text where the user was told already
+    /// @return           an error without key and text where the user has seen the reason already
     virtual vlt::Result<vlt::buildings::BuildingLayerFiles>
     writeFiles(const QString &layerPath, vlt::platform::Access access, QString &reason) = 0;
 

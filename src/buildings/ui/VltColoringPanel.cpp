@@ -166,7 +166,7 @@ QString VltColoringPanel::missingText() const
         return tr("Choose an image of one band.", "MESS_NEED_ONE_BAND");
     const QString noData = m_ui->m_pwLeNoData->text();
     if (!noData.isEmpty() && !isNumber(noData))
-        return tr("The value of no data is no number.", "MESS_NODATA_NO_NUMBER");
+        return tr("The no-data value is not a number.", "MESS_NODATA_NO_NUMBER");
     if (m_ui->m_pwCbCmap->currentIndex() < 0)
         return tr("Add a colormap.", "MESS_NEED_CMAP");
     if (!QFileInfo::exists(m_ui->m_pwCbCmap->currentData().toString()))

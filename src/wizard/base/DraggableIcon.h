@@ -32,7 +32,7 @@ public:
     ///
     /// @param target  of the layer file
     /// @param reason  takes the system's reason of a file that cannot be written
-    /// @return        an error without key and text where the user was told already
+    /// @return        an error without key and text where the user has seen the reason already
     using Saver = std::function<vlt::Result<vlt::Done>(const QString &target, QString &reason)>;
 
     /// Without one "Save as" copies the layer file: then it must name no file that will not stay.

@@ -32,7 +32,7 @@ QString referenceProjection(const QString &projectPath);
 /// Whether none of the above is found in a project that can be read: it may be no project at all.
 bool namesNothing(const QString &projectPath);
 
-/// What is told of such a project, in the chosen language.
+/// Warning about such a project, in the chosen language.
 QString namesNothingText();
 
 } // namespace vlt::project

@@ -128,8 +128,8 @@
         <translation>Choose an image of one band.</translation>
     </message>
     <message id="MESS_NODATA_NO_NUMBER">
-        <source>The value of no data is no number.</source>
-        <translation>The value of no data is no number.</translation>
+        <source>The no-data value is not a number.</source>
+        <translation>The no-data value is not a number.</translation>
     </message>
     <message id="MESS_IMAGE_NOT_OPENED">
         <source>Press Enter to open the image that is typed.</source>

@@ -128,7 +128,7 @@
         <translation>Choisissez une image à une bande.</translation>
     </message>
     <message id="MESS_NODATA_NO_NUMBER">
-        <source>The value of no data is no number.</source>
+        <source>The no-data value is not a number.</source>
         <translation>La valeur d'absence de donnée n'est pas un nombre.</translation>
     </message>
     <message id="MESS_IMAGE_NOT_OPENED">
