@@ -9,6 +9,7 @@
 #include "language/VltLanguageManager.h"
 #include "resources/Resources.h"
 #include "wizard/base/BusyWait.h"
+#include "wizard/base/RestingCursor.h"
 #include "wizard/frame/VltTelecomLayersWizard.h"
 
 #include <QApplication>
@@ -51,6 +52,7 @@ void setAppearance(QApplication &application, bool keepStyle)
     if (!keepStyle)
         QApplication::setStyle(QStringLiteral("Fusion"));
     application.setStyleSheet(app::startupStyleSheet(application.styleSheet()));
+    wizard::restTextCursors(&application);
 }
 
 void setIdentity()
