@@ -25,6 +25,10 @@ void Row::addMissingText(int column, std::string_view textNumber)
 void Row::addMended(Cell cell)
 {
     m_textSize -= cell.text.size();
+    // What is cut off is not looked at: a text of megabytes may stand in thousands of cells.
+    const std::string_view whole = cell.text.size() > LongestText ? trimmed(cell.text) : cell.text;
+    cell.text = firstCharacters(whole, LongestText);
+    const bool isTooLong = cell.text.size() < whole.size();
     if (cell.text.find('\0') != std::string_view::npos) {
         // At the ends they are padding; inside, programs that take them for the end would cut.
         if (trimmed(cell.text).find('\0') != std::string_view::npos)
@@ -36,7 +40,7 @@ void Row::addMended(Cell cell)
     const size_t room =
         std::clamp(LongestRowText - std::min(m_textSize, LongestRowText), ShortText, LongestText);
     const std::string_view first = firstCharacters(cell.text, room);
-    if (first.size() < cell.text.size()) {
+    if (isTooLong || first.size() < cell.text.size()) {
         const auto isStart = [](char c) { return (c & 0xC0) != 0x80; };
         const auto count = std::count_if(first.begin(), first.end(), isStart);
         faults.push_back(
