@@ -37,6 +37,13 @@ SrsKind kindOf(OSRCRSType type)
     }
 }
 
+/// Newer databases name every country of the world there, so that any of them would find WGS 84.
+QString areaOf(const char *name)
+{
+    const QString area = QString::fromUtf8(name);
+    return area.startsWith(QLatin1String("World: ")) ? QStringLiteral("World.") : area;
+}
+
 SrsRecord recordOf(const OSRCRSInfo &info)
 {
     SrsRecord record;
@@ -45,7 +52,7 @@ SrsRecord recordOf(const OSRCRSInfo &info)
     record.name = QString::fromUtf8(info.pszName);
     record.kind = kindOf(info.eType);
     record.isDeprecated = info.bDeprecated != 0;
-    record.area = QString::fromUtf8(info.pszAreaName);
+    record.area = areaOf(info.pszAreaName);
     record.projectionMethod = QString::fromUtf8(info.pszProjectionMethod);
     if (info.bBboxValid) {
         record.bounds = SrsBounds{info.dfWestLongitudeDeg, info.dfSouthLatitudeDeg,

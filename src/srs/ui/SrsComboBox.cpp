@@ -36,6 +36,8 @@ void SrsComboBox::showPopup()
         view()->sizeHintForColumn(0) + 2 * letter + view()->verticalScrollBar()->sizeHint().width();
     view()->setMinimumWidth(std::min({readable, PopupCharacters * letter, place.width()}));
     QComboBox::showPopup();
+    // The list may still stand where it was left by Escape, and Return would take that row.
+    view()->setCurrentIndex(model()->index(currentIndex(), modelColumn(), rootModelIndex()));
 
     QWidget *popup = view()->window();
     const int beyond = popup->geometry().right() - place.right();
