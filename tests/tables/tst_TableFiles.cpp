@@ -4,6 +4,7 @@
 
 #include <QtTest>
 
+#include <ctime>
 #include <map>
 
 using namespace vlt::tables;
@@ -183,12 +184,11 @@ private Q_SLOTS:
         QFETCH(QString, file);
         QFETCH(QString, firstId);
         QFETCH(QString, lastId);
-        QElapsedTimer time;
-        time.start();
+        const std::clock_t start = std::clock(); // of the processor: the machine may be busy
 
         compare();
 
-        QVERIFY2(time.elapsed() < 20000, "time out of proportion");
+        QVERIFY2(std::clock() - start < 20 * CLOCKS_PER_SEC, "time out of proportion");
         if (firstId.isEmpty())
             return;
         QFETCH(QString, problems);
