@@ -19,14 +19,6 @@ namespace {
 const QStringList Delimiters = {QStringLiteral("comma"), QStringLiteral("semicolon"),
                                 QStringLiteral("tab"), QStringLiteral("bar")};
 
-/// Name of the catalogue, below the pylons' folder, that has nothing to choose from.
-QString emptyCatalogue(const sites::SiteCatalogues &catalogues)
-{
-    if (catalogues.pylonTypes.isEmpty())
-        return QStringLiteral("/list.xml");
-    return catalogues.colorSets.isEmpty() ? QStringLiteral("/colors/sectors.xml") : QString();
-}
-
 qint64 refusedRows(const geodata::LayerProblems &problems)
 {
     QSet<int> rows;
@@ -106,10 +98,9 @@ std::variant<LayerRequest, ExitStatus> readLayerRequest(const QCommandLineParser
     request.table = parser.positionalArguments().constFirst();
     request.output = parser.value(QStringLiteral("output"));
     request.catalogues = sites::loadSiteCatalogues(surroundings.installDir, surroundings.language);
-    if (const QString missing = emptyCatalogue(request.catalogues); !missing.isEmpty())
-        return refuse({QStringLiteral("MESS_MISSING_CONF_FILE"),
-                       QStringLiteral("A configuration file is missing"),
-                       surroundings.installDir + QLatin1Char('/') + sites::PylonFolder + missing});
+    if (const auto missing =
+            sites::missingChoice(request.pylons, request.catalogues, surroundings.installDir))
+        return refuse(*missing);
     const auto representation = readSiteOptions(parser, request.catalogues);
     if (!representation)
         return refuseUsage(representation.error().text);

@@ -36,7 +36,7 @@ public:
 
     /// Takes a file that was named when the program was started: a project is offered first on the
     /// project page; a table, a raster or footprints lead to their page, with the first recent
-    /// project where there is one. The user is told of any other file.
+    /// project where there is one. A box names the reason for any other file.
     void openFile(const QString &path);
 
 public Q_SLOTS:
