@@ -2,7 +2,7 @@
 
 #include "QueryTesting.h"
 
-#include "parametric/PylonQuery.h"
+#include "plugins/scene/parametric/PylonQuery.h"
 
 /// What the tests of pylons share.
 namespace pylontest {

@@ -1,8 +1,8 @@
 #include "LayerScenes.h"
 #include "TownTesting.h"
-#include "buildings/BuildingScene.h"
 #include "connection/ReaderOptions.h"
-#include "layers/BadLayer.h"
+#include "plugins/scene/buildings/BuildingScene.h"
+#include "plugins/scene/layers/BadLayer.h"
 
 #include <osg/Geometry>
 

@@ -1,7 +1,7 @@
 #include "TownTesting.h"
-#include "buildings/RoofTriangles.h"
-#include "buildings/TownMesh.h"
-#include "buildings/TownTree.h"
+#include "plugins/scene/buildings/RoofTriangles.h"
+#include "plugins/scene/buildings/TownMesh.h"
+#include "plugins/scene/buildings/TownTree.h"
 
 #include <QtTest>
 

@@ -1,11 +1,11 @@
 #include "QueryTesting.h"
 
-#include "link/LinkFactory.h"
-#include "mesh/Solids.h"
-#include "parametric/LinkQuery.h"
-#include "pylon/Antennas.h"
-#include "pylon/PylonFactory.h"
-#include "pylon/Sectors.h"
+#include "plugins/scene/link/LinkFactory.h"
+#include "plugins/scene/mesh/Solids.h"
+#include "plugins/scene/parametric/LinkQuery.h"
+#include "plugins/scene/pylon/Antennas.h"
+#include "plugins/scene/pylon/PylonFactory.h"
+#include "plugins/scene/pylon/Sectors.h"
 
 #include <osg/ComputeBoundsVisitor>
 #include <osg/Geometry>

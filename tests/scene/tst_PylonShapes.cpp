@@ -1,9 +1,9 @@
 #include "PylonTesting.h"
 
-#include "mesh/Solids.h"
-#include "pylon/Antennas.h"
-#include "pylon/Masts.h"
-#include "pylon/Sectors.h"
+#include "plugins/scene/mesh/Solids.h"
+#include "plugins/scene/pylon/Antennas.h"
+#include "plugins/scene/pylon/Masts.h"
+#include "plugins/scene/pylon/Sectors.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,6 +1,6 @@
 #include "PylonTesting.h"
 
-#include "pylon/PylonFactory.h"
+#include "plugins/scene/pylon/PylonFactory.h"
 
 #include <osg/ComputeBoundsVisitor>
 #include <osg/Geometry>

@@ -1,5 +1,5 @@
-#include "buildings/TexbDocument.h"
-#include "layers/BadLayer.h"
+#include "plugins/scene/buildings/TexbDocument.h"
+#include "plugins/scene/layers/BadLayer.h"
 
 #include <QtTest>
 

@@ -1,5 +1,5 @@
 #include "TownTesting.h"
-#include "buildings/TexturedTile.h"
+#include "plugins/scene/buildings/TexturedTile.h"
 
 #include <osg/Geode>
 #include <osg/Geometry>

@@ -1,6 +1,6 @@
 #include "LayerScenes.h"
 #include "TownTesting.h"
-#include "buildings/TownColors.h"
+#include "plugins/scene/buildings/TownColors.h"
 
 #include <QTemporaryDir>
 

@@ -1,6 +1,6 @@
 #include "connection/ConnectionString.h"
-#include "sites/Angle.h"
-#include "sites/CoordinatePair.h"
+#include "plugins/tables/sites/Angle.h"
+#include "plugins/tables/sites/CoordinatePair.h"
 
 #include <QtTest>
 

@@ -1,6 +1,6 @@
-#include "bytes/Refusal.h"
-#include "ogr/FieldCells.h"
-#include "ogr/TableFile.h"
+#include "plugins/tables/bytes/Refusal.h"
+#include "plugins/tables/ogr/FieldCells.h"
+#include "plugins/tables/ogr/TableFile.h"
 
 #include <QtTest>
 

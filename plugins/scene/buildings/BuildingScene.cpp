@@ -1,16 +1,16 @@
-#include "buildings/BuildingScene.h"
+#include "plugins/scene/buildings/BuildingScene.h"
 
-#include "buildings/DocumentFiles.h"
-#include "buildings/FootprintReader.h"
-#include "buildings/GroundHeights.h"
-#include "buildings/TexbDocument.h"
-#include "buildings/TexturedTile.h"
-#include "buildings/TownColors.h"
-#include "buildings/TownNodes.h"
 #include "connection/ReaderOptions.h"
-#include "layers/BadLayer.h"
-#include "layers/SceneFacts.h"
-#include "layers/TableReading.h"
+#include "plugins/scene/buildings/DocumentFiles.h"
+#include "plugins/scene/buildings/FootprintReader.h"
+#include "plugins/scene/buildings/GroundHeights.h"
+#include "plugins/scene/buildings/TexbDocument.h"
+#include "plugins/scene/buildings/TexturedTile.h"
+#include "plugins/scene/buildings/TownColors.h"
+#include "plugins/scene/buildings/TownNodes.h"
+#include "plugins/scene/layers/BadLayer.h"
+#include "plugins/scene/layers/SceneFacts.h"
+#include "plugins/scene/layers/TableReading.h"
 
 #include <cpl_conv.h>
 #include <cpl_error.h>

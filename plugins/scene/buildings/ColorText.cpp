@@ -1,4 +1,4 @@
-#include "buildings/ColorText.h"
+#include "plugins/scene/buildings/ColorText.h"
 
 #include <algorithm>
 #include <cctype>

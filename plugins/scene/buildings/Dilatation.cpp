@@ -1,4 +1,4 @@
-#include "buildings/Dilatation.h"
+#include "plugins/scene/buildings/Dilatation.h"
 
 #include <algorithm>
 #include <array>

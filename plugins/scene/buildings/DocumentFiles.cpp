@@ -1,7 +1,7 @@
-#include "buildings/DocumentFiles.h"
+#include "plugins/scene/buildings/DocumentFiles.h"
 
-#include "layers/BadLayer.h"
 #include "localfiles/LocalFormats.h"
+#include "plugins/scene/layers/BadLayer.h"
 
 #include <cpl_port.h>
 

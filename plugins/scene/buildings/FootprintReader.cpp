@@ -1,12 +1,12 @@
-#include "buildings/FootprintReader.h"
+#include "plugins/scene/buildings/FootprintReader.h"
 
-#include "buildings/RoofTriangles.h"
 #include "connection/ReaderOptions.h"
-#include "layers/BadLayer.h"
-#include "layers/TableReading.h"
 #include "localfiles/LocalFormats.h"
 #include "localfiles/NoNetwork.h"
 #include "localfiles/OpenLocal.h"
+#include "plugins/scene/buildings/RoofTriangles.h"
+#include "plugins/scene/layers/BadLayer.h"
+#include "plugins/scene/layers/TableReading.h"
 
 #include <cpl_error.h>
 

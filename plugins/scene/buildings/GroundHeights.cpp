@@ -1,9 +1,9 @@
-#include "buildings/GroundHeights.h"
+#include "plugins/scene/buildings/GroundHeights.h"
 
 #include "connection/ReaderOptions.h"
-#include "layers/BadLayer.h"
 #include "linkpath/TerrainRaster.h"
 #include "localfiles/NoNetwork.h"
+#include "plugins/scene/layers/BadLayer.h"
 
 #include <cpl_error.h>
 

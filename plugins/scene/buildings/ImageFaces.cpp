@@ -1,4 +1,4 @@
-#include "buildings/ImageFaces.h"
+#include "plugins/scene/buildings/ImageFaces.h"
 
 #include <osg/Texture2D>
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "buildings/RoofTriangles.h"
-#include "buildings/TexbDocument.h"
-#include "buildings/TextureImage.h"
+#include "plugins/scene/buildings/RoofTriangles.h"
+#include "plugins/scene/buildings/TexbDocument.h"
+#include "plugins/scene/buildings/TextureImage.h"
 
 #include <osg/Geometry>
 #include <osg/StateSet>

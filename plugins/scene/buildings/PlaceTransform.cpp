@@ -1,4 +1,4 @@
-#include "buildings/PlaceTransform.h"
+#include "plugins/scene/buildings/PlaceTransform.h"
 
 #include "localfiles/NoNetwork.h"
 

@@ -1,4 +1,4 @@
-#include "buildings/RoofTriangles.h"
+#include "plugins/scene/buildings/RoofTriangles.h"
 
 #include <osg/GLU>
 

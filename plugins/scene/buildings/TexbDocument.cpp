@@ -1,7 +1,7 @@
-#include "buildings/TexbDocument.h"
+#include "plugins/scene/buildings/TexbDocument.h"
 
-#include "layers/BadLayer.h"
-#include "layers/LayerText.h"
+#include "plugins/scene/layers/BadLayer.h"
+#include "plugins/scene/layers/LayerText.h"
 
 #include <algorithm>
 #include <cctype>

@@ -1,8 +1,8 @@
-#include "buildings/TextureImage.h"
+#include "plugins/scene/buildings/TextureImage.h"
 
-#include "buildings/Dilatation.h"
 #include "coverage/LocalRaster.h"
 #include "localfiles/NoNetwork.h"
+#include "plugins/scene/buildings/Dilatation.h"
 
 #include <cpl_error.h>
 

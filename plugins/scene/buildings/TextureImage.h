@@ -1,6 +1,6 @@
 #pragma once
 
-#include "buildings/PlaceTransform.h"
+#include "plugins/scene/buildings/PlaceTransform.h"
 
 #include <gdal_priv.h>
 

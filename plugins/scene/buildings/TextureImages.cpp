@@ -1,7 +1,7 @@
-#include "buildings/TextureImages.h"
+#include "plugins/scene/buildings/TextureImages.h"
 
-#include "buildings/TownMesh.h"
 #include "coverage/LocalRaster.h"
+#include "plugins/scene/buildings/TownMesh.h"
 
 #include <osg/LineWidth>
 #include <osg/PolygonOffset>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "buildings/TexbDocument.h"
-#include "buildings/TextureImage.h"
-#include "buildings/Town.h"
+#include "plugins/scene/buildings/TexbDocument.h"
+#include "plugins/scene/buildings/TextureImage.h"
+#include "plugins/scene/buildings/Town.h"
 
 #include <osg/StateSet>
 

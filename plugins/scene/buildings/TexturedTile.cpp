@@ -1,9 +1,9 @@
-#include "buildings/TexturedTile.h"
+#include "plugins/scene/buildings/TexturedTile.h"
 
-#include "buildings/ColorText.h"
-#include "buildings/ImageFaces.h"
-#include "buildings/TownMesh.h"
-#include "mesh/Mesh.h"
+#include "plugins/scene/buildings/ColorText.h"
+#include "plugins/scene/buildings/ImageFaces.h"
+#include "plugins/scene/buildings/TownMesh.h"
+#include "plugins/scene/mesh/Mesh.h"
 
 #include <osg/Geode>
 

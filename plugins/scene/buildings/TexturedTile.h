@@ -1,8 +1,8 @@
 #pragma once
 
-#include "buildings/TexbDocument.h"
-#include "buildings/TextureImages.h"
-#include "buildings/Town.h"
+#include "plugins/scene/buildings/TexbDocument.h"
+#include "plugins/scene/buildings/TextureImages.h"
+#include "plugins/scene/buildings/Town.h"
 
 #include <osg/Node>
 

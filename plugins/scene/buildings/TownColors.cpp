@@ -1,9 +1,9 @@
-#include "buildings/TownColors.h"
+#include "plugins/scene/buildings/TownColors.h"
 
-#include "buildings/ColorText.h"
-#include "buildings/PlaceTransform.h"
 #include "coverage/LocalRaster.h"
-#include "layers/TableLocation.h"
+#include "plugins/scene/buildings/ColorText.h"
+#include "plugins/scene/buildings/PlaceTransform.h"
+#include "plugins/scene/layers/TableLocation.h"
 
 #include <cpl_error.h>
 

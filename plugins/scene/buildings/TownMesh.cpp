@@ -1,4 +1,4 @@
-#include "buildings/TownMesh.h"
+#include "plugins/scene/buildings/TownMesh.h"
 
 #include <osg/BoundingBox>
 #include <osg/CullFace>

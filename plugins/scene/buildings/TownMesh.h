@@ -1,7 +1,7 @@
 #pragma once
 
-#include "buildings/RoofTriangles.h"
-#include "buildings/Town.h"
+#include "plugins/scene/buildings/RoofTriangles.h"
+#include "plugins/scene/buildings/Town.h"
 
 #include <osg/Array>
 #include <osg/Geometry>

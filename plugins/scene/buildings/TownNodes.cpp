@@ -1,11 +1,11 @@
-#include "buildings/TownNodes.h"
+#include "plugins/scene/buildings/TownNodes.h"
 
-#include "buildings/TownMesh.h"
-#include "buildings/TownTree.h"
 #include "connection/ReaderOptions.h"
-#include "layers/BadLayer.h"
-#include "mesh/MovedNode.h"
-#include "pylon/DeferredNode.h"
+#include "plugins/scene/buildings/TownMesh.h"
+#include "plugins/scene/buildings/TownTree.h"
+#include "plugins/scene/layers/BadLayer.h"
+#include "plugins/scene/mesh/MovedNode.h"
+#include "plugins/scene/pylon/DeferredNode.h"
 
 #include <osg/Geode>
 #include <osg/LOD>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "buildings/Town.h"
+#include "plugins/scene/buildings/Town.h"
 
 #include <osg/Group>
 

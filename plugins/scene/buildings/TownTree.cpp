@@ -1,4 +1,4 @@
-#include "buildings/TownTree.h"
+#include "plugins/scene/buildings/TownTree.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,7 +1,7 @@
-#include "layers/LayerFile.h"
+#include "plugins/scene/layers/LayerFile.h"
 
-#include "layers/BadLayer.h"
-#include "layers/LayerText.h"
+#include "plugins/scene/layers/BadLayer.h"
+#include "plugins/scene/layers/LayerText.h"
 
 #include <array>
 #include <filesystem>

@@ -1,11 +1,11 @@
-#include "layers/LayerScene.h"
+#include "plugins/scene/layers/LayerScene.h"
 
-#include "layers/LinkLayerScene.h"
-#include "layers/LinkLayerStyle.h"
-#include "layers/LinkRecords.h"
-#include "layers/SiteScene.h"
-#include "layers/TableLocation.h"
-#include "layers/TerrainSurface.h"
+#include "plugins/scene/layers/LinkLayerScene.h"
+#include "plugins/scene/layers/LinkLayerStyle.h"
+#include "plugins/scene/layers/LinkRecords.h"
+#include "plugins/scene/layers/SiteScene.h"
+#include "plugins/scene/layers/TableLocation.h"
+#include "plugins/scene/layers/TerrainSurface.h"
 
 namespace vlt::scene {
 

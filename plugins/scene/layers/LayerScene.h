@@ -1,7 +1,7 @@
 #pragma once
 
-#include "layers/LayerFile.h"
-#include "layers/PylonTiles.h"
+#include "plugins/scene/layers/LayerFile.h"
+#include "plugins/scene/layers/PylonTiles.h"
 
 #include <osg/Group>
 

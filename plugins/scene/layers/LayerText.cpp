@@ -1,7 +1,7 @@
-#include "layers/LayerText.h"
+#include "plugins/scene/layers/LayerText.h"
 
-#include "layers/BadLayer.h"
-#include "layers/TextEncoding.h"
+#include "plugins/scene/layers/BadLayer.h"
+#include "plugins/scene/layers/TextEncoding.h"
 
 #include <array>
 #include <charconv>

@@ -1,7 +1,7 @@
-#include "layers/LinkLayerScene.h"
+#include "plugins/scene/layers/LinkLayerScene.h"
 
-#include "layers/SceneFacts.h"
-#include "link/LinkFactory.h"
+#include "plugins/scene/layers/SceneFacts.h"
+#include "plugins/scene/link/LinkFactory.h"
 
 #include <array>
 #include <utility>

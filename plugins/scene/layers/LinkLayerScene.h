@@ -1,8 +1,8 @@
 #pragma once
 
-#include "layers/LinkRecords.h"
-#include "layers/LinkRows.h"
-#include "layers/PylonTiles.h"
+#include "plugins/scene/layers/LinkRecords.h"
+#include "plugins/scene/layers/LinkRows.h"
+#include "plugins/scene/layers/PylonTiles.h"
 
 #include <osg/Group>
 

@@ -1,4 +1,4 @@
-#include "layers/LinkLayerStyle.h"
+#include "plugins/scene/layers/LinkLayerStyle.h"
 
 namespace vlt::scene {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "layers/SiteStyle.h"
-#include "link/LinkObject.h"
 #include "linkpath/Clearance.h"
+#include "plugins/scene/layers/SiteStyle.h"
+#include "plugins/scene/link/LinkObject.h"
 
 namespace vlt::scene {
 

@@ -1,4 +1,4 @@
-#include "layers/LinkRecords.h"
+#include "plugins/scene/layers/LinkRecords.h"
 
 #include <algorithm>
 #include <array>

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "layers/LinkLayerStyle.h"
-#include "layers/LinkRows.h"
-#include "layers/SiteRecords.h"
-#include "link/LinkObject.h"
 #include "linkpath/PathProfiler.h"
+#include "plugins/scene/layers/LinkLayerStyle.h"
+#include "plugins/scene/layers/LinkRows.h"
+#include "plugins/scene/layers/SiteRecords.h"
+#include "plugins/scene/link/LinkObject.h"
 
 #include <map>
 #include <vector>

@@ -1,9 +1,9 @@
-#include "layers/LinkRows.h"
+#include "plugins/scene/layers/LinkRows.h"
 
-#include "layers/BadLayer.h"
-#include "layers/SiteColumns.h"
-#include "layers/TableReading.h"
-#include "link/LinkObject.h"
+#include "plugins/scene/layers/BadLayer.h"
+#include "plugins/scene/layers/SiteColumns.h"
+#include "plugins/scene/layers/TableReading.h"
+#include "plugins/scene/link/LinkObject.h"
 
 #include <cpl_error.h>
 

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "connection/ConnectionString.h"
-#include "layers/LayerFile.h"
-#include "layers/SceneFrame.h"
 #include "linkpath/PathProfiler.h"
+#include "plugins/scene/layers/LayerFile.h"
+#include "plugins/scene/layers/SceneFrame.h"
 
 #include <osg/Vec2d>
 

@@ -1,6 +1,6 @@
-#include "layers/LocalFrame.h"
+#include "plugins/scene/layers/LocalFrame.h"
 
-#include "layers/BadLayer.h"
+#include "plugins/scene/layers/BadLayer.h"
 
 #include <algorithm>
 #include <cmath>

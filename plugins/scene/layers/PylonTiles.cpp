@@ -1,12 +1,12 @@
-#include "layers/PylonTiles.h"
+#include "plugins/scene/layers/PylonTiles.h"
 
-#include "layers/SiteLabels.h"
-#include "layers/SiteTree.h"
-#include "mesh/MovedNode.h"
-#include "mesh/Palette.h"
-#include "pylon/DeferredNode.h"
-#include "pylon/PylonFactory.h"
-#include "pylon/Sectors.h"
+#include "plugins/scene/layers/SiteLabels.h"
+#include "plugins/scene/layers/SiteTree.h"
+#include "plugins/scene/mesh/MovedNode.h"
+#include "plugins/scene/mesh/Palette.h"
+#include "plugins/scene/pylon/DeferredNode.h"
+#include "plugins/scene/pylon/PylonFactory.h"
+#include "plugins/scene/pylon/Sectors.h"
 
 #include <osg/Geode>
 #include <osg/LOD>

@@ -1,4 +1,4 @@
-#include "layers/SceneFacts.h"
+#include "plugins/scene/layers/SceneFacts.h"
 
 #include <iomanip>
 #include <locale>

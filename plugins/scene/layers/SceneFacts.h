@@ -1,6 +1,6 @@
 #pragma once
 
-#include "layers/SceneFrame.h"
+#include "plugins/scene/layers/SceneFrame.h"
 
 #include <osg/Group>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "layers/LocalFrame.h"
+#include "plugins/scene/layers/LocalFrame.h"
 
 #include <memory>
 #include <string>

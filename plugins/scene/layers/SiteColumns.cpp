@@ -1,4 +1,4 @@
-#include "layers/SiteColumns.h"
+#include "plugins/scene/layers/SiteColumns.h"
 
 #include <charconv>
 #include <map>

@@ -1,4 +1,4 @@
-#include "layers/SiteLabels.h"
+#include "plugins/scene/layers/SiteLabels.h"
 
 #include <osg/Depth>
 #include <osg/LOD>

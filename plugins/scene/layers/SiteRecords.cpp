@@ -1,8 +1,8 @@
-#include "layers/SiteRecords.h"
+#include "plugins/scene/layers/SiteRecords.h"
 
-#include "layers/BadLayer.h"
-#include "layers/SiteColumns.h"
-#include "layers/TableReading.h"
+#include "plugins/scene/layers/BadLayer.h"
+#include "plugins/scene/layers/SiteColumns.h"
+#include "plugins/scene/layers/TableReading.h"
 
 #include <cpl_error.h>
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "layers/LayerFile.h"
-#include "layers/SceneFrame.h"
-#include "layers/SiteStyle.h"
+#include "plugins/scene/layers/LayerFile.h"
+#include "plugins/scene/layers/SceneFrame.h"
+#include "plugins/scene/layers/SiteStyle.h"
 
 #include <osg/Vec3d>
 

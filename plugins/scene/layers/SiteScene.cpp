@@ -1,6 +1,6 @@
-#include "layers/SiteScene.h"
+#include "plugins/scene/layers/SiteScene.h"
 
-#include "layers/SceneFacts.h"
+#include "plugins/scene/layers/SceneFacts.h"
 
 namespace vlt::scene {
 

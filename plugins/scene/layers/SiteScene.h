@@ -1,6 +1,6 @@
 #pragma once
 
-#include "layers/PylonTiles.h"
+#include "plugins/scene/layers/PylonTiles.h"
 
 #include <osg/Group>
 

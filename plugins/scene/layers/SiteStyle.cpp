@@ -1,8 +1,8 @@
-#include "layers/SiteStyle.h"
+#include "plugins/scene/layers/SiteStyle.h"
 
-#include "parametric/BadQuery.h"
-#include "parametric/ParametricQuery.h"
-#include "parametric/PylonItems.h"
+#include "plugins/scene/parametric/BadQuery.h"
+#include "plugins/scene/parametric/ParametricQuery.h"
+#include "plugins/scene/parametric/PylonItems.h"
 
 #include <initializer_list>
 

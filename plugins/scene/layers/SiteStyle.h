@@ -1,7 +1,7 @@
 #pragma once
 
 #include "connection/ConnectionString.h"
-#include "parametric/PylonObject.h"
+#include "plugins/scene/parametric/PylonObject.h"
 
 #include <string>
 #include <string_view>

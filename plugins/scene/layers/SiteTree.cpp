@@ -1,4 +1,4 @@
-#include "layers/SiteTree.h"
+#include "plugins/scene/layers/SiteTree.h"
 
 #include <algorithm>
 #include <numeric>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "layers/SiteRecords.h"
+#include "plugins/scene/layers/SiteRecords.h"
 
 #include <osg/BoundingBox>
 

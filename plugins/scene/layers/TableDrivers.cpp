@@ -1,4 +1,4 @@
-#include "layers/TableDrivers.h"
+#include "plugins/scene/layers/TableDrivers.h"
 
 #include <cpl_conv.h>
 #include <gdal_priv.h>

@@ -1,6 +1,6 @@
-#include "layers/TableLocation.h"
+#include "plugins/scene/layers/TableLocation.h"
 
-#include "layers/BadLayer.h"
+#include "plugins/scene/layers/BadLayer.h"
 
 #include <cstdlib>
 #include <filesystem>

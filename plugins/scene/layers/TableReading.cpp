@@ -1,7 +1,7 @@
-#include "layers/TableReading.h"
+#include "plugins/scene/layers/TableReading.h"
 
-#include "layers/BadLayer.h"
-#include "layers/TableDrivers.h"
+#include "plugins/scene/layers/BadLayer.h"
+#include "plugins/scene/layers/TableDrivers.h"
 
 #include <cpl_error.h>
 

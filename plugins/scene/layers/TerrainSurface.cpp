@@ -1,6 +1,6 @@
-#include "layers/TerrainSurface.h"
+#include "plugins/scene/layers/TerrainSurface.h"
 
-#include "mesh/Mesh.h"
+#include "plugins/scene/mesh/Mesh.h"
 
 #include <osg/Geode>
 #include <osg/PolygonOffset>

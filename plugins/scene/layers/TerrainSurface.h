@@ -1,7 +1,7 @@
 #pragma once
 
-#include "layers/LocalFrame.h"
 #include "linkpath/PathProfiler.h"
+#include "plugins/scene/layers/LocalFrame.h"
 
 #include <osg/BoundingBox>
 #include <osg/Node>

@@ -1,4 +1,4 @@
-#include "layers/TextEncoding.h"
+#include "plugins/scene/layers/TextEncoding.h"
 
 #include <cpl_string.h>
 

@@ -1,9 +1,9 @@
-#include "link/LinkFactory.h"
+#include "plugins/scene/link/LinkFactory.h"
 
-#include "link/LinkStates.h"
 #include "linkpath/Fresnel.h"
-#include "mesh/Solids.h"
-#include "pylon/DeferredNode.h"
+#include "plugins/scene/link/LinkStates.h"
+#include "plugins/scene/mesh/Solids.h"
+#include "plugins/scene/pylon/DeferredNode.h"
 
 #include <osg/Geode>
 #include <osg/LOD>

@@ -1,6 +1,6 @@
-#include "link/LinkObject.h"
+#include "plugins/scene/link/LinkObject.h"
 
-#include "parametric/ParametricQuery.h"
+#include "plugins/scene/parametric/ParametricQuery.h"
 
 #include <array>
 #include <utility>

@@ -1,7 +1,7 @@
-#include "link/LinkScene.h"
+#include "plugins/scene/link/LinkScene.h"
 
-#include "link/LinkFactory.h"
-#include "pylon/PylonFactory.h"
+#include "plugins/scene/link/LinkFactory.h"
+#include "plugins/scene/pylon/PylonFactory.h"
 
 namespace vlt::scene {
 

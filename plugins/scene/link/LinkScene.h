@@ -1,6 +1,6 @@
 #pragma once
 
-#include "parametric/LinkQuery.h"
+#include "plugins/scene/parametric/LinkQuery.h"
 
 #include <osg/Group>
 

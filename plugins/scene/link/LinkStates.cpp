@@ -1,4 +1,4 @@
-#include "link/LinkStates.h"
+#include "plugins/scene/link/LinkStates.h"
 
 #include <osg/BlendFunc>
 #include <osg/CullFace>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "link/LinkObject.h"
+#include "plugins/scene/link/LinkObject.h"
 
 #include <osg/StateSet>
 #include <osg/ref_ptr>

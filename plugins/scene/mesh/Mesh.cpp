@@ -1,4 +1,4 @@
-#include "mesh/Mesh.h"
+#include "plugins/scene/mesh/Mesh.h"
 
 #include <limits>
 

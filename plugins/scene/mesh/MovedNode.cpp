@@ -1,4 +1,4 @@
-#include "mesh/MovedNode.h"
+#include "plugins/scene/mesh/MovedNode.h"
 
 namespace vlt::scene {
 

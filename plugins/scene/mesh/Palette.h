@@ -1,6 +1,6 @@
 #pragma once
 
-#include "mesh/Mesh.h"
+#include "plugins/scene/mesh/Mesh.h"
 
 namespace vlt::scene::palette {
 

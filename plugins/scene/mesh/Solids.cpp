@@ -1,4 +1,4 @@
-#include "mesh/Solids.h"
+#include "plugins/scene/mesh/Solids.h"
 
 #include <array>
 #include <cmath>

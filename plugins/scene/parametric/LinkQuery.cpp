@@ -1,7 +1,7 @@
-#include "parametric/LinkQuery.h"
+#include "plugins/scene/parametric/LinkQuery.h"
 
-#include "parametric/BadQuery.h"
-#include "parametric/PylonItems.h"
+#include "plugins/scene/parametric/BadQuery.h"
+#include "plugins/scene/parametric/PylonItems.h"
 
 namespace vlt::scene {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "link/LinkObject.h"
-#include "parametric/PylonObject.h"
+#include "plugins/scene/link/LinkObject.h"
+#include "plugins/scene/parametric/PylonObject.h"
 
 #include <cstddef>
 #include <string>

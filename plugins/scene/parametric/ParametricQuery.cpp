@@ -1,6 +1,6 @@
-#include "parametric/ParametricQuery.h"
+#include "plugins/scene/parametric/ParametricQuery.h"
 
-#include "parametric/BadQuery.h"
+#include "plugins/scene/parametric/BadQuery.h"
 
 #include <osgDB/FileNameUtils>
 

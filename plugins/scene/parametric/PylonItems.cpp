@@ -1,6 +1,6 @@
-#include "parametric/PylonItems.h"
+#include "plugins/scene/parametric/PylonItems.h"
 
-#include "parametric/BadQuery.h"
+#include "plugins/scene/parametric/BadQuery.h"
 
 namespace vlt::scene {
 

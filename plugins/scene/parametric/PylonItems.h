@@ -1,7 +1,7 @@
 #pragma once
 
-#include "parametric/ParametricQuery.h"
-#include "parametric/PylonObject.h"
+#include "plugins/scene/parametric/ParametricQuery.h"
+#include "plugins/scene/parametric/PylonObject.h"
 
 namespace vlt::scene {
 

@@ -1,4 +1,4 @@
-#include "parametric/PylonObject.h"
+#include "plugins/scene/parametric/PylonObject.h"
 
 #include <algorithm>
 #include <array>

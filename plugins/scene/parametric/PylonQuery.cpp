@@ -1,7 +1,7 @@
-#include "parametric/PylonQuery.h"
+#include "plugins/scene/parametric/PylonQuery.h"
 
-#include "parametric/BadQuery.h"
-#include "parametric/PylonItems.h"
+#include "plugins/scene/parametric/BadQuery.h"
+#include "plugins/scene/parametric/PylonItems.h"
 
 namespace vlt::scene {
 

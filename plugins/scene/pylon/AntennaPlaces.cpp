@@ -1,7 +1,7 @@
-#include "pylon/AntennaPlaces.h"
+#include "plugins/scene/pylon/AntennaPlaces.h"
 
-#include "mesh/Solids.h"
-#include "pylon/MastSection.h"
+#include "plugins/scene/mesh/Solids.h"
+#include "plugins/scene/pylon/MastSection.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,8 +1,8 @@
-#include "pylon/Antennas.h"
+#include "plugins/scene/pylon/Antennas.h"
 
-#include "mesh/Palette.h"
-#include "mesh/Solids.h"
-#include "pylon/Dish.h"
+#include "plugins/scene/mesh/Palette.h"
+#include "plugins/scene/mesh/Solids.h"
+#include "plugins/scene/pylon/Dish.h"
 
 #include <cmath>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "mesh/Mesh.h"
-#include "pylon/AntennaPlaces.h"
+#include "plugins/scene/mesh/Mesh.h"
+#include "plugins/scene/pylon/AntennaPlaces.h"
 
 namespace vlt::scene {
 

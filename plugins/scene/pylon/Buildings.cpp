@@ -1,8 +1,8 @@
-#include "mesh/Palette.h"
-#include "pylon/Fittings.h"
-#include "pylon/MastSection.h"
-#include "pylon/Masts.h"
-#include "pylon/WaterTowerShape.h"
+#include "plugins/scene/mesh/Palette.h"
+#include "plugins/scene/pylon/Fittings.h"
+#include "plugins/scene/pylon/MastSection.h"
+#include "plugins/scene/pylon/Masts.h"
+#include "plugins/scene/pylon/WaterTowerShape.h"
 
 #include <algorithm>
 #include <cmath>

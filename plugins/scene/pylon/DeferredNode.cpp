@@ -1,4 +1,4 @@
-#include "pylon/DeferredNode.h"
+#include "plugins/scene/pylon/DeferredNode.h"
 
 namespace vlt::scene {
 

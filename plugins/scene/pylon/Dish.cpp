@@ -1,7 +1,7 @@
-#include "pylon/Dish.h"
+#include "plugins/scene/pylon/Dish.h"
 
-#include "mesh/Palette.h"
-#include "mesh/Solids.h"
+#include "plugins/scene/mesh/Palette.h"
+#include "plugins/scene/mesh/Solids.h"
 
 namespace vlt::scene {
 

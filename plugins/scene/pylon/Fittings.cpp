@@ -1,7 +1,7 @@
-#include "pylon/Fittings.h"
+#include "plugins/scene/pylon/Fittings.h"
 
-#include "mesh/Palette.h"
-#include "pylon/MastSection.h"
+#include "plugins/scene/mesh/Palette.h"
+#include "plugins/scene/pylon/MastSection.h"
 
 #include <algorithm>
 #include <cmath>

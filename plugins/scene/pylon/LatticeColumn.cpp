@@ -1,9 +1,9 @@
-#include "pylon/LatticeColumn.h"
+#include "plugins/scene/pylon/LatticeColumn.h"
 
-#include "mesh/Palette.h"
-#include "mesh/Solids.h"
-#include "pylon/Fittings.h"
-#include "pylon/MastSection.h"
+#include "plugins/scene/mesh/Palette.h"
+#include "plugins/scene/mesh/Solids.h"
+#include "plugins/scene/pylon/Fittings.h"
+#include "plugins/scene/pylon/MastSection.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,4 +1,4 @@
-#include "pylon/MastDesign.h"
+#include "plugins/scene/pylon/MastDesign.h"
 
 #include <algorithm>
 #include <cmath>

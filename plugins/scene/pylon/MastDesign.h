@@ -1,6 +1,6 @@
 #pragma once
 
-#include "parametric/PylonObject.h"
+#include "plugins/scene/parametric/PylonObject.h"
 
 #include <compare>
 #include <vector>

@@ -1,6 +1,6 @@
-#include "pylon/MastSection.h"
+#include "plugins/scene/pylon/MastSection.h"
 
-#include "pylon/WaterTowerShape.h"
+#include "plugins/scene/pylon/WaterTowerShape.h"
 
 #include <osg/Math>
 

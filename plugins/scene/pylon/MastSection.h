@@ -1,6 +1,6 @@
 #pragma once
 
-#include "pylon/MastDesign.h"
+#include "plugins/scene/pylon/MastDesign.h"
 
 namespace vlt::scene {
 

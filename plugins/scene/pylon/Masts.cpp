@@ -1,10 +1,10 @@
-#include "pylon/Masts.h"
+#include "plugins/scene/pylon/Masts.h"
 
-#include "mesh/Palette.h"
-#include "mesh/Solids.h"
-#include "pylon/Fittings.h"
-#include "pylon/MastSection.h"
-#include "pylon/WaterTowerShape.h"
+#include "plugins/scene/mesh/Palette.h"
+#include "plugins/scene/mesh/Solids.h"
+#include "plugins/scene/pylon/Fittings.h"
+#include "plugins/scene/pylon/MastSection.h"
+#include "plugins/scene/pylon/WaterTowerShape.h"
 
 namespace vlt::scene {
 

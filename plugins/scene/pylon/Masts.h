@@ -1,7 +1,7 @@
 #pragma once
 
-#include "mesh/Mesh.h"
-#include "pylon/MastDesign.h"
+#include "plugins/scene/mesh/Mesh.h"
+#include "plugins/scene/pylon/MastDesign.h"
 
 namespace vlt::scene {
 

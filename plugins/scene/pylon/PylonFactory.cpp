@@ -1,13 +1,13 @@
-#include "pylon/PylonFactory.h"
+#include "plugins/scene/pylon/PylonFactory.h"
 
-#include "mesh/Palette.h"
-#include "mesh/Solids.h"
-#include "pylon/Antennas.h"
-#include "pylon/BothSidesGeometry.h"
-#include "pylon/DeferredNode.h"
-#include "pylon/Fittings.h"
-#include "pylon/Masts.h"
-#include "pylon/Sectors.h"
+#include "plugins/scene/mesh/Palette.h"
+#include "plugins/scene/mesh/Solids.h"
+#include "plugins/scene/pylon/Antennas.h"
+#include "plugins/scene/pylon/BothSidesGeometry.h"
+#include "plugins/scene/pylon/DeferredNode.h"
+#include "plugins/scene/pylon/Fittings.h"
+#include "plugins/scene/pylon/Masts.h"
+#include "plugins/scene/pylon/Sectors.h"
 
 #include <osg/Geode>
 #include <osg/LOD>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "parametric/PylonObject.h"
-#include "pylon/MastDesign.h"
-#include "pylon/SceneMaterials.h"
+#include "plugins/scene/parametric/PylonObject.h"
+#include "plugins/scene/pylon/MastDesign.h"
+#include "plugins/scene/pylon/SceneMaterials.h"
 
 #include <osg/Group>
 

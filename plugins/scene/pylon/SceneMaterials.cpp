@@ -1,4 +1,4 @@
-#include "pylon/SceneMaterials.h"
+#include "plugins/scene/pylon/SceneMaterials.h"
 
 #include <osg/BlendFunc>
 #include <osg/CullFace>

@@ -1,6 +1,6 @@
-#include "pylon/Sectors.h"
+#include "plugins/scene/pylon/Sectors.h"
 
-#include "mesh/Solids.h"
+#include "plugins/scene/mesh/Solids.h"
 
 #include <algorithm>
 #include <cmath>

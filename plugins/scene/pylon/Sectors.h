@@ -1,7 +1,7 @@
 #pragma once
 
-#include "mesh/Mesh.h"
-#include "parametric/PylonObject.h"
+#include "plugins/scene/mesh/Mesh.h"
+#include "plugins/scene/parametric/PylonObject.h"
 
 #include <vector>
 

@@ -1,4 +1,4 @@
-#include "pylon/WaterTowerShape.h"
+#include "plugins/scene/pylon/WaterTowerShape.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "mesh/Solids.h"
-#include "pylon/MastDesign.h"
+#include "plugins/scene/mesh/Solids.h"
+#include "plugins/scene/pylon/MastDesign.h"
 
 namespace vlt::scene {
 

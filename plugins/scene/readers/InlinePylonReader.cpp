@@ -1,8 +1,8 @@
-#include "link/LinkScene.h"
-#include "parametric/LinkQuery.h"
-#include "parametric/ParametricQuery.h"
-#include "parametric/PylonQuery.h"
-#include "pylon/PylonFactory.h"
+#include "plugins/scene/link/LinkScene.h"
+#include "plugins/scene/parametric/LinkQuery.h"
+#include "plugins/scene/parametric/ParametricQuery.h"
+#include "plugins/scene/parametric/PylonQuery.h"
+#include "plugins/scene/pylon/PylonFactory.h"
 
 #include <osgDB/FileNameUtils>
 #include <osgDB/Registry>

@@ -1,7 +1,7 @@
-#include "buildings/BuildingScene.h"
-#include "buildings/DocumentFiles.h"
-#include "layers/LayerScene.h"
-#include "readers/ReadRequest.h"
+#include "plugins/scene/buildings/BuildingScene.h"
+#include "plugins/scene/buildings/DocumentFiles.h"
+#include "plugins/scene/layers/LayerScene.h"
+#include "plugins/scene/readers/ReadRequest.h"
 
 #include <osgDB/FileNameUtils>
 #include <osgDB/Registry>

@@ -1,4 +1,4 @@
-#include "readers/ReadRequest.h"
+#include "plugins/scene/readers/ReadRequest.h"
 
 #include "connection/ReaderOptions.h"
 

@@ -1,5 +1,5 @@
-#include "buildings/BuildingScene.h"
-#include "readers/ReadRequest.h"
+#include "plugins/scene/buildings/BuildingScene.h"
+#include "plugins/scene/readers/ReadRequest.h"
 
 #include <osgDB/FileNameUtils>
 #include <osgDB/Registry>

@@ -1,6 +1,6 @@
-#include "bytes/ChunkedInput.h"
+#include "plugins/tables/bytes/ChunkedInput.h"
 
-#include "bytes/Refusal.h"
+#include "plugins/tables/bytes/Refusal.h"
 
 #include <algorithm>
 #include <atomic>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "bytes/ByteSource.h"
+#include "plugins/tables/bytes/ByteSource.h"
 
 #include <memory>
 #include <string>

@@ -1,7 +1,7 @@
-#include "bytes/CompoundFile.h"
+#include "plugins/tables/bytes/CompoundFile.h"
 
-#include "bytes/LittleEndian.h"
-#include "bytes/Refusal.h"
+#include "plugins/tables/bytes/LittleEndian.h"
+#include "plugins/tables/bytes/Refusal.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
-#include "bytes/InflateSource.h"
+#include "plugins/tables/bytes/InflateSource.h"
 
-#include "bytes/Refusal.h"
+#include "plugins/tables/bytes/Refusal.h"
 
 #include <isa-l/crc.h>
 #include <isa-l/igzip_lib.h>

@@ -1,6 +1,6 @@
-#include "bytes/InputFile.h"
+#include "plugins/tables/bytes/InputFile.h"
 
-#include "bytes/Refusal.h"
+#include "plugins/tables/bytes/Refusal.h"
 
 #include <algorithm>
 #include <cerrno>

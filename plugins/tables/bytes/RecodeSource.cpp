@@ -1,6 +1,6 @@
-#include "bytes/RecodeSource.h"
+#include "plugins/tables/bytes/RecodeSource.h"
 
-#include "bytes/Refusal.h"
+#include "plugins/tables/bytes/Refusal.h"
 
 #include <algorithm>
 #include <cerrno>

@@ -1,8 +1,8 @@
-#include "bytes/ZipArchive.h"
+#include "plugins/tables/bytes/ZipArchive.h"
 
-#include "bytes/InflateSource.h"
-#include "bytes/LittleEndian.h"
-#include "bytes/Refusal.h"
+#include "plugins/tables/bytes/InflateSource.h"
+#include "plugins/tables/bytes/LittleEndian.h"
+#include "plugins/tables/bytes/Refusal.h"
 
 #include <algorithm>
 #include <vector>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "bytes/ByteSource.h"
-#include "bytes/InputFile.h"
+#include "plugins/tables/bytes/ByteSource.h"
+#include "plugins/tables/bytes/InputFile.h"
 
 #include <cstdint>
 #include <map>

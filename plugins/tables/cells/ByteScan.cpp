@@ -1,4 +1,4 @@
-#include "cells/ByteScan.h"
+#include "plugins/tables/cells/ByteScan.h"
 
 #include <bit>
 #include <cstddef>

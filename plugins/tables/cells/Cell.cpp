@@ -1,6 +1,6 @@
-#include "cells/Cell.h"
+#include "plugins/tables/cells/Cell.h"
 
-#include "cells/Numbers.h"
+#include "plugins/tables/cells/Numbers.h"
 #include "tabletexts/TextPatterns.h"
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-#include "cells/Numbers.h"
+#include "plugins/tables/cells/Numbers.h"
 
 #include <array>
 #include <charconv>

@@ -1,4 +1,4 @@
-#include "cells/OfficeDates.h"
+#include "plugins/tables/cells/OfficeDates.h"
 
 #include <array>
 #include <chrono>

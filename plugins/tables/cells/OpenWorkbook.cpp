@@ -1,11 +1,11 @@
-#include "cells/OpenWorkbook.h"
+#include "plugins/tables/cells/OpenWorkbook.h"
 
-#include "bytes/CompoundFile.h"
-#include "bytes/Refusal.h"
-#include "cells/text/TextWorkbook.h"
-#include "cells/xls/XlsWorkbook.h"
-#include "cells/xlsx/XlsxWorkbook.h"
-#include "cells/xml/SpreadsheetMlWorkbook.h"
+#include "plugins/tables/bytes/CompoundFile.h"
+#include "plugins/tables/bytes/Refusal.h"
+#include "plugins/tables/cells/text/TextWorkbook.h"
+#include "plugins/tables/cells/xls/XlsWorkbook.h"
+#include "plugins/tables/cells/xlsx/XlsxWorkbook.h"
+#include "plugins/tables/cells/xml/SpreadsheetMlWorkbook.h"
 
 namespace vlt::tables {
 

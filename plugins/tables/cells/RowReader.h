@@ -1,6 +1,6 @@
 #pragma once
 
-#include "cells/Cell.h"
+#include "plugins/tables/cells/Cell.h"
 
 #include <functional>
 #include <memory>

@@ -1,6 +1,6 @@
-#include "links/EndWords.h"
+#include "plugins/tables/links/EndWords.h"
 
-#include "table/HeaderWords.h"
+#include "plugins/tables/table/HeaderWords.h"
 
 #include <algorithm>
 #include <array>

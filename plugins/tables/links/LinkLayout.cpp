@@ -1,9 +1,9 @@
-#include "links/LinkLayout.h"
+#include "plugins/tables/links/LinkLayout.h"
 
-#include "bytes/Refusal.h"
-#include "links/EndWords.h"
-#include "links/Quantity.h"
-#include "table/HeaderWords.h"
+#include "plugins/tables/bytes/Refusal.h"
+#include "plugins/tables/links/EndWords.h"
+#include "plugins/tables/links/Quantity.h"
+#include "plugins/tables/table/HeaderWords.h"
 
 #include <algorithm>
 #include <initializer_list>

@@ -1,7 +1,7 @@
-#include "links/LinkPlacer.h"
+#include "plugins/tables/links/LinkPlacer.h"
 
-#include "links/Quantity.h"
-#include "table/ColumnStatistics.h"
+#include "plugins/tables/links/Quantity.h"
+#include "plugins/tables/table/ColumnStatistics.h"
 #include "tabletexts/TextPatterns.h"
 
 #include <cmath>

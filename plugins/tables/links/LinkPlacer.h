@@ -1,7 +1,7 @@
 #pragma once
 
-#include "links/LinkLayout.h"
-#include "sites/PointPlacer.h"
+#include "plugins/tables/links/LinkLayout.h"
+#include "plugins/tables/sites/PointPlacer.h"
 
 #include <geodesic.h>
 

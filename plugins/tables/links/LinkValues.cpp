@@ -1,7 +1,7 @@
-#include "links/LinkValues.h"
+#include "plugins/tables/links/LinkValues.h"
 
-#include "links/Quantity.h"
-#include "table/ColumnStatistics.h"
+#include "plugins/tables/links/Quantity.h"
+#include "plugins/tables/table/ColumnStatistics.h"
 #include "tabletexts/TextPatterns.h"
 
 namespace vlt::tables {

@@ -1,8 +1,8 @@
-#include "links/Quantity.h"
+#include "plugins/tables/links/Quantity.h"
 
-#include "cells/Cell.h"
-#include "cells/Numbers.h"
-#include "table/HeaderWords.h"
+#include "plugins/tables/cells/Cell.h"
+#include "plugins/tables/cells/Numbers.h"
+#include "plugins/tables/table/HeaderWords.h"
 
 #include <algorithm>
 #include <array>

@@ -1,4 +1,4 @@
-#include "ogr/FieldCells.h"
+#include "plugins/tables/ogr/FieldCells.h"
 
 #include "tabletexts/TextPatterns.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "table/RowProblem.h"
-#include "table/Table.h"
+#include "plugins/tables/table/RowProblem.h"
+#include "plugins/tables/table/Table.h"
 
 #include <vector>
 

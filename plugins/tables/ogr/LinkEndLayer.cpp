@@ -1,4 +1,4 @@
-#include "ogr/LinkEndLayer.h"
+#include "plugins/tables/ogr/LinkEndLayer.h"
 
 namespace vlt::tables {
 

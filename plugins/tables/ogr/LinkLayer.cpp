@@ -1,4 +1,4 @@
-#include "ogr/LinkLayer.h"
+#include "plugins/tables/ogr/LinkLayer.h"
 
 namespace vlt::tables {
 

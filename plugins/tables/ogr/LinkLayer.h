@@ -1,7 +1,7 @@
 #pragma once
 
-#include "ogr/LinkRowReader.h"
-#include "ogr/TableLayer.h"
+#include "plugins/tables/ogr/LinkRowReader.h"
+#include "plugins/tables/ogr/TableLayer.h"
 
 namespace vlt::tables {
 

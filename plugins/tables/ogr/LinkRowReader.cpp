@@ -1,4 +1,4 @@
-#include "ogr/LinkRowReader.h"
+#include "plugins/tables/ogr/LinkRowReader.h"
 
 #include "tabletexts/TextPatterns.h"
 

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "linkpath/PathProfiler.h"
-#include "links/LinkPlacer.h"
-#include "links/LinkValues.h"
-#include "ogr/TableLayer.h"
+#include "plugins/tables/links/LinkPlacer.h"
+#include "plugins/tables/links/LinkValues.h"
+#include "plugins/tables/ogr/TableLayer.h"
 
 #include <array>
 #include <optional>

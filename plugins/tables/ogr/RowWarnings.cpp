@@ -1,4 +1,4 @@
-#include "ogr/RowWarnings.h"
+#include "plugins/tables/ogr/RowWarnings.h"
 
 #include "tabletexts/TextPatterns.h"
 

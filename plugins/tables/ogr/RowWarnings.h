@@ -1,6 +1,6 @@
 #pragma once
 
-#include "table/RowProblem.h"
+#include "plugins/tables/table/RowProblem.h"
 
 #include <set>
 #include <string>

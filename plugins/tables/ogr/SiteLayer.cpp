@@ -1,4 +1,4 @@
-#include "ogr/SiteLayer.h"
+#include "plugins/tables/ogr/SiteLayer.h"
 
 #include "tabletexts/TextPatterns.h"
 

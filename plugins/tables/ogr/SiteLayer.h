@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ogr/TableLayer.h"
+#include "plugins/tables/ogr/TableLayer.h"
 
 namespace vlt::tables {
 

@@ -1,8 +1,8 @@
-#include "bytes/Refusal.h"
 #include "connection/ConnectionString.h"
-#include "ogr/LinkEndLayer.h"
-#include "ogr/LinkLayer.h"
-#include "ogr/SiteLayer.h"
+#include "plugins/tables/bytes/Refusal.h"
+#include "plugins/tables/ogr/LinkEndLayer.h"
+#include "plugins/tables/ogr/LinkLayer.h"
+#include "plugins/tables/ogr/SiteLayer.h"
 
 #include <cpl_error.h>
 #include <gdal_priv.h>

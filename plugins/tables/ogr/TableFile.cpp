@@ -1,6 +1,6 @@
-#include "ogr/TableFile.h"
+#include "plugins/tables/ogr/TableFile.h"
 
-#include "cells/OpenWorkbook.h"
+#include "plugins/tables/cells/OpenWorkbook.h"
 
 #include <list>
 #include <mutex>

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "bytes/InputFile.h"
-#include "links/LinkLayout.h"
-#include "sites/SiteLayout.h"
-#include "table/Table.h"
+#include "plugins/tables/bytes/InputFile.h"
+#include "plugins/tables/links/LinkLayout.h"
+#include "plugins/tables/sites/SiteLayout.h"
+#include "plugins/tables/table/Table.h"
 
 #include <memory>
 #include <string>

@@ -1,6 +1,6 @@
-#include "ogr/TableLayer.h"
+#include "plugins/tables/ogr/TableLayer.h"
 
-#include "bytes/Refusal.h"
+#include "plugins/tables/bytes/Refusal.h"
 #include "tabletexts/TextPatterns.h"
 
 #include <cpl_conv.h>

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "ogr/FieldCells.h"
-#include "ogr/ProblemList.h"
-#include "ogr/RowWarnings.h"
-#include "ogr/TableFile.h"
-#include "ogr/TableSystems.h"
+#include "plugins/tables/ogr/FieldCells.h"
+#include "plugins/tables/ogr/ProblemList.h"
+#include "plugins/tables/ogr/RowWarnings.h"
+#include "plugins/tables/ogr/TableFile.h"
+#include "plugins/tables/ogr/TableSystems.h"
 
 #include <ogrsf_frmts.h>
 

@@ -1,6 +1,6 @@
-#include "ogr/TableSystems.h"
+#include "plugins/tables/ogr/TableSystems.h"
 
-#include "bytes/Refusal.h"
+#include "plugins/tables/bytes/Refusal.h"
 
 #include <cpl_error.h>
 

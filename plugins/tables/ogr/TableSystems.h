@@ -1,8 +1,8 @@
 #pragma once
 
-#include "ogr/ProblemList.h"
-#include "sites/PointPlacer.h"
-#include "sites/TableDeclaration.h"
+#include "plugins/tables/ogr/ProblemList.h"
+#include "plugins/tables/sites/PointPlacer.h"
+#include "plugins/tables/sites/TableDeclaration.h"
 
 #include <ogr_spatialref.h>
 

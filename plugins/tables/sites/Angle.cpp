@@ -1,7 +1,7 @@
-#include "sites/Angle.h"
+#include "plugins/tables/sites/Angle.h"
 
-#include "cells/Cell.h"
-#include "cells/Numbers.h"
+#include "plugins/tables/cells/Cell.h"
+#include "plugins/tables/cells/Numbers.h"
 
 #include <algorithm>
 #include <array>

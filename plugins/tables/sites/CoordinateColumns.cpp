@@ -1,8 +1,8 @@
-#include "sites/CoordinateColumns.h"
+#include "plugins/tables/sites/CoordinateColumns.h"
 
-#include "sites/Angle.h"
-#include "sites/CoordinatePair.h"
-#include "table/HeaderWords.h"
+#include "plugins/tables/sites/Angle.h"
+#include "plugins/tables/sites/CoordinatePair.h"
+#include "plugins/tables/table/HeaderWords.h"
 
 #include <algorithm>
 #include <cmath>

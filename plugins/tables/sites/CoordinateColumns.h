@@ -1,6 +1,6 @@
 #pragma once
 
-#include "table/Table.h"
+#include "plugins/tables/table/Table.h"
 
 #include <optional>
 #include <string>

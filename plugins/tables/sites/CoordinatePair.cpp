@@ -1,8 +1,8 @@
-#include "sites/CoordinatePair.h"
+#include "plugins/tables/sites/CoordinatePair.h"
 
-#include "cells/Cell.h"
-#include "sites/Angle.h"
-#include "table/HeaderWords.h"
+#include "plugins/tables/cells/Cell.h"
+#include "plugins/tables/sites/Angle.h"
+#include "plugins/tables/table/HeaderWords.h"
 
 #include <cmath>
 

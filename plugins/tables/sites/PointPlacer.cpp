@@ -1,7 +1,7 @@
-#include "sites/PointPlacer.h"
+#include "plugins/tables/sites/PointPlacer.h"
 
-#include "sites/Angle.h"
-#include "sites/CoordinatePair.h"
+#include "plugins/tables/sites/Angle.h"
+#include "plugins/tables/sites/CoordinatePair.h"
 #include "tabletexts/TextPatterns.h"
 
 #include <cmath>

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "sites/Angle.h"
-#include "sites/CoordinateColumns.h"
-#include "table/RowProblem.h"
-#include "table/Table.h"
+#include "plugins/tables/sites/Angle.h"
+#include "plugins/tables/sites/CoordinateColumns.h"
+#include "plugins/tables/table/RowProblem.h"
+#include "plugins/tables/table/Table.h"
 
 #include <optional>
 #include <string>

@@ -1,6 +1,6 @@
-#include "sites/SiteLayout.h"
+#include "plugins/tables/sites/SiteLayout.h"
 
-#include "table/HeaderWords.h"
+#include "plugins/tables/table/HeaderWords.h"
 
 namespace vlt::tables {
 

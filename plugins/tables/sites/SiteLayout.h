@@ -1,6 +1,6 @@
 #pragma once
 
-#include "sites/TableDeclaration.h"
+#include "plugins/tables/sites/TableDeclaration.h"
 
 #include <string>
 #include <vector>

@@ -1,6 +1,6 @@
-#include "sites/TableDeclaration.h"
+#include "plugins/tables/sites/TableDeclaration.h"
 
-#include "table/HeaderWords.h"
+#include "plugins/tables/table/HeaderWords.h"
 
 #include <algorithm>
 

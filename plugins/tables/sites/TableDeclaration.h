@@ -1,6 +1,6 @@
 #pragma once
 
-#include "sites/CoordinateColumns.h"
+#include "plugins/tables/sites/CoordinateColumns.h"
 
 #include <string>
 

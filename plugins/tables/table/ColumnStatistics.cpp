@@ -1,6 +1,6 @@
-#include "table/ColumnStatistics.h"
+#include "plugins/tables/table/ColumnStatistics.h"
 
-#include "table/HeaderWords.h"
+#include "plugins/tables/table/HeaderWords.h"
 
 #include <algorithm>
 #include <array>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "cells/Cell.h"
-#include "cells/Numbers.h"
+#include "plugins/tables/cells/Cell.h"
+#include "plugins/tables/cells/Numbers.h"
 
 #include <string>
 #include <vector>

@@ -1,7 +1,7 @@
-#include "table/Header.h"
+#include "plugins/tables/table/Header.h"
 
-#include "cells/Numbers.h"
-#include "table/HeaderWords.h"
+#include "plugins/tables/cells/Numbers.h"
+#include "plugins/tables/table/HeaderWords.h"
 #include "tabletexts/TextPatterns.h"
 
 #include <algorithm>

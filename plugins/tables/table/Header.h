@@ -1,7 +1,7 @@
 #pragma once
 
-#include "cells/RowReader.h"
-#include "table/TableKind.h"
+#include "plugins/tables/cells/RowReader.h"
+#include "plugins/tables/table/TableKind.h"
 
 #include <map>
 #include <optional>

@@ -1,4 +1,4 @@
-#include "table/HeaderWords.h"
+#include "plugins/tables/table/HeaderWords.h"
 
 #include <algorithm>
 #include <array>

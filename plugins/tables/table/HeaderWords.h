@@ -1,6 +1,6 @@
 #pragma once
 
-#include "table/TableKind.h"
+#include "plugins/tables/table/TableKind.h"
 
 #include <string>
 #include <string_view>

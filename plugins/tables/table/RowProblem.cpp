@@ -1,4 +1,4 @@
-#include "table/RowProblem.h"
+#include "plugins/tables/table/RowProblem.h"
 
 namespace vlt::tables {
 

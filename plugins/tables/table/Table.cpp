@@ -1,6 +1,6 @@
-#include "table/Table.h"
+#include "plugins/tables/table/Table.h"
 
-#include "bytes/Refusal.h"
+#include "plugins/tables/bytes/Refusal.h"
 
 #include <algorithm>
 #include <map>

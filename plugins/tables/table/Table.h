@@ -1,8 +1,8 @@
 #pragma once
 
-#include "cells/RowReader.h"
-#include "table/ColumnStatistics.h"
-#include "table/Header.h"
+#include "plugins/tables/cells/RowReader.h"
+#include "plugins/tables/table/ColumnStatistics.h"
+#include "plugins/tables/table/Header.h"
 
 #include <memory>
 #include <string>

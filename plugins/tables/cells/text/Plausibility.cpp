@@ -1,4 +1,4 @@
-#include "cells/text/Plausibility.h"
+#include "plugins/tables/cells/text/Plausibility.h"
 
 #include <algorithm>
 #include <array>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "bytes/InputFile.h"
+#include "plugins/tables/bytes/InputFile.h"
 
 #include <cstdint>
 #include <memory>

@@ -1,8 +1,8 @@
-#include "cells/text/TextRows.h"
+#include "plugins/tables/cells/text/TextRows.h"
 
-#include "cells/ByteScan.h"
-#include "cells/text/EncodingGuess.h"
-#include "cells/text/Utf8Check.h"
+#include "plugins/tables/cells/ByteScan.h"
+#include "plugins/tables/cells/text/EncodingGuess.h"
+#include "plugins/tables/cells/text/Utf8Check.h"
 #include "tabletexts/TextPatterns.h"
 
 #include <algorithm>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "bytes/ChunkedInput.h"
-#include "cells/RowReader.h"
-#include "cells/text/TextFormat.h"
+#include "plugins/tables/bytes/ChunkedInput.h"
+#include "plugins/tables/cells/RowReader.h"
+#include "plugins/tables/cells/text/TextFormat.h"
 
 namespace vlt::tables {
 

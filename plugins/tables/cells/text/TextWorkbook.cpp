@@ -1,9 +1,9 @@
-#include "cells/text/TextWorkbook.h"
+#include "plugins/tables/cells/text/TextWorkbook.h"
 
-#include "bytes/RecodeSource.h"
-#include "cells/text/EncodingGuess.h"
-#include "cells/text/TextRows.h"
-#include "cells/text/Utf8Check.h"
+#include "plugins/tables/bytes/RecodeSource.h"
+#include "plugins/tables/cells/text/EncodingGuess.h"
+#include "plugins/tables/cells/text/TextRows.h"
+#include "plugins/tables/cells/text/Utf8Check.h"
 
 #include <algorithm>
 #include <atomic>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "bytes/InputFile.h"
-#include "cells/RowReader.h"
-#include "cells/text/TextFormat.h"
+#include "plugins/tables/bytes/InputFile.h"
+#include "plugins/tables/cells/RowReader.h"
+#include "plugins/tables/cells/text/TextFormat.h"
 
 namespace vlt::tables {
 

@@ -1,4 +1,4 @@
-#include "cells/text/Utf8Check.h"
+#include "plugins/tables/cells/text/Utf8Check.h"
 
 #include <algorithm>
 #include <bit>

@@ -1,8 +1,8 @@
-#include "cells/xls/XlsContext.h"
+#include "plugins/tables/cells/xls/XlsContext.h"
 
-#include "bytes/LittleEndian.h"
-#include "bytes/RecodeSource.h"
-#include "cells/Utf8.h"
+#include "plugins/tables/bytes/LittleEndian.h"
+#include "plugins/tables/bytes/RecodeSource.h"
+#include "plugins/tables/cells/Utf8.h"
 
 namespace vlt::tables {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "bytes/InputFile.h"
-#include "cells/StringPool.h"
-#include "cells/xls/XlsRecords.h"
+#include "plugins/tables/bytes/InputFile.h"
+#include "plugins/tables/cells/StringPool.h"
+#include "plugins/tables/cells/xls/XlsRecords.h"
 
 #include <optional>
 #include <string>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "bytes/ChunkedInput.h"
+#include "plugins/tables/bytes/ChunkedInput.h"
 
 #include <cstdint>
 #include <string_view>

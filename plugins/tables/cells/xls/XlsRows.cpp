@@ -1,8 +1,8 @@
-#include "cells/xls/XlsRows.h"
+#include "plugins/tables/cells/xls/XlsRows.h"
 
-#include "bytes/LittleEndian.h"
-#include "bytes/Refusal.h"
-#include "cells/OfficeDates.h"
+#include "plugins/tables/bytes/LittleEndian.h"
+#include "plugins/tables/bytes/Refusal.h"
+#include "plugins/tables/cells/OfficeDates.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "cells/RowReader.h"
-#include "cells/xls/XlsContext.h"
+#include "plugins/tables/cells/RowReader.h"
+#include "plugins/tables/cells/xls/XlsContext.h"
 
 #include <memory>
 

@@ -1,10 +1,10 @@
-#include "cells/xlsx/SharedStrings.h"
+#include "plugins/tables/cells/xlsx/SharedStrings.h"
 
-#include "bytes/ChunkedInput.h"
-#include "bytes/Refusal.h"
-#include "cells/ByteScan.h"
-#include "cells/Cell.h"
-#include "cells/xml/XmlScan.h"
+#include "plugins/tables/bytes/ChunkedInput.h"
+#include "plugins/tables/bytes/Refusal.h"
+#include "plugins/tables/cells/ByteScan.h"
+#include "plugins/tables/cells/Cell.h"
+#include "plugins/tables/cells/xml/XmlScan.h"
 
 #include <algorithm>
 #include <charconv>

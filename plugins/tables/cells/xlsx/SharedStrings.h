@@ -1,7 +1,7 @@
 #pragma once
 
-#include "bytes/ZipArchive.h"
-#include "cells/StringPool.h"
+#include "plugins/tables/bytes/ZipArchive.h"
+#include "plugins/tables/cells/StringPool.h"
 
 #include <cstdint>
 #include <memory>

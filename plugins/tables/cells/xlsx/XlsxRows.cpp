@@ -1,8 +1,8 @@
-#include "cells/xlsx/XlsxRows.h"
+#include "plugins/tables/cells/xlsx/XlsxRows.h"
 
-#include "cells/ByteScan.h"
-#include "cells/Numbers.h"
-#include "cells/OfficeDates.h"
+#include "plugins/tables/cells/ByteScan.h"
+#include "plugins/tables/cells/Numbers.h"
+#include "plugins/tables/cells/OfficeDates.h"
 
 #include <algorithm>
 #include <charconv>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "cells/RowReader.h"
-#include "cells/xlsx/SharedStrings.h"
-#include "cells/xml/XmlRowFramer.h"
+#include "plugins/tables/cells/RowReader.h"
+#include "plugins/tables/cells/xlsx/SharedStrings.h"
+#include "plugins/tables/cells/xml/XmlRowFramer.h"
 
 namespace vlt::tables {
 

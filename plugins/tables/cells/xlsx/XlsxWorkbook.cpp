@@ -1,10 +1,10 @@
-#include "cells/xlsx/XlsxWorkbook.h"
+#include "plugins/tables/cells/xlsx/XlsxWorkbook.h"
 
-#include "bytes/RecodeSource.h"
-#include "bytes/Refusal.h"
-#include "bytes/ZipArchive.h"
-#include "cells/OfficeDates.h"
-#include "cells/xlsx/XlsxRows.h"
+#include "plugins/tables/bytes/RecodeSource.h"
+#include "plugins/tables/bytes/Refusal.h"
+#include "plugins/tables/bytes/ZipArchive.h"
+#include "plugins/tables/cells/OfficeDates.h"
+#include "plugins/tables/cells/xlsx/XlsxRows.h"
 
 #include <algorithm>
 #include <charconv>

@@ -1,6 +1,6 @@
-#include "cells/xml/SpreadsheetMlRows.h"
+#include "plugins/tables/cells/xml/SpreadsheetMlRows.h"
 
-#include "cells/ByteScan.h"
+#include "plugins/tables/cells/ByteScan.h"
 
 #include <algorithm>
 #include <cstring>

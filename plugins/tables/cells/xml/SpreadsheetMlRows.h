@@ -1,7 +1,7 @@
 #pragma once
 
-#include "cells/RowReader.h"
-#include "cells/xml/XmlRowFramer.h"
+#include "plugins/tables/cells/RowReader.h"
+#include "plugins/tables/cells/xml/XmlRowFramer.h"
 
 namespace vlt::tables {
 

@@ -1,10 +1,10 @@
-#include "cells/xml/SpreadsheetMlWorkbook.h"
+#include "plugins/tables/cells/xml/SpreadsheetMlWorkbook.h"
 
-#include "bytes/ChunkedInput.h"
-#include "bytes/RecodeSource.h"
-#include "bytes/Refusal.h"
-#include "cells/ByteScan.h"
-#include "cells/xml/SpreadsheetMlRows.h"
+#include "plugins/tables/bytes/ChunkedInput.h"
+#include "plugins/tables/bytes/RecodeSource.h"
+#include "plugins/tables/bytes/Refusal.h"
+#include "plugins/tables/cells/ByteScan.h"
+#include "plugins/tables/cells/xml/SpreadsheetMlRows.h"
 
 #include <algorithm>
 #include <cstring>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "bytes/InputFile.h"
-#include "cells/RowReader.h"
+#include "plugins/tables/bytes/InputFile.h"
+#include "plugins/tables/cells/RowReader.h"
 
 namespace vlt::tables {
 

@@ -1,7 +1,7 @@
-#include "cells/xml/XmlRowFramer.h"
+#include "plugins/tables/cells/xml/XmlRowFramer.h"
 
-#include "bytes/Refusal.h"
-#include "cells/ByteScan.h"
+#include "plugins/tables/bytes/Refusal.h"
+#include "plugins/tables/cells/ByteScan.h"
 
 #include <charconv>
 #include <limits>

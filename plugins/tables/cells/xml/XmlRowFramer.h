@@ -1,7 +1,7 @@
 #pragma once
 
-#include "bytes/ChunkedInput.h"
-#include "cells/xml/XmlScan.h"
+#include "plugins/tables/bytes/ChunkedInput.h"
+#include "plugins/tables/cells/xml/XmlScan.h"
 
 #include <cstdint>
 #include <string>

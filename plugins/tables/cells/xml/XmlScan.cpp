@@ -1,8 +1,8 @@
-#include "cells/xml/XmlScan.h"
+#include "plugins/tables/cells/xml/XmlScan.h"
 
-#include "bytes/Refusal.h"
-#include "cells/ByteScan.h"
-#include "cells/Utf8.h"
+#include "plugins/tables/bytes/Refusal.h"
+#include "plugins/tables/cells/ByteScan.h"
+#include "plugins/tables/cells/Utf8.h"
 
 #include <charconv>
 #include <cstdint>
