@@ -6,7 +6,7 @@
 
 #include <cmath>
 
-using namespace vlt::tables;
+using namespace vlt::driver;
 
 /// How positions are written in tables, and connection strings around their paths.
 class Coordinates : public QObject

@@ -7,7 +7,7 @@
 #include <ctime>
 #include <map>
 
-using namespace vlt::tables;
+using namespace vlt::driver;
 
 namespace {
 

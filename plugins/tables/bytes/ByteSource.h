@@ -2,7 +2,7 @@
 
 #include <cstddef>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 /// A stream of bytes read from front to back.
 class ByteSource
@@ -15,4 +15,4 @@ public:
     virtual size_t read(char *to, size_t size) = 0;
 };
 
-} // namespace vlt::tables
+} // namespace vlt::driver

@@ -17,7 +17,7 @@
 #include <sched.h>
 #endif
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 namespace {
 
@@ -256,4 +256,4 @@ void ChunkedInput::takeOver(std::unique_ptr<Buffer> next, const char *keepFrom)
     m_current = std::move(next);
 }
 
-} // namespace vlt::tables
+} // namespace vlt::driver

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 /// A window over a byte stream that slides forward: whole records lie in it side by side.
 ///
@@ -44,4 +44,4 @@ private:
     const char *m_end = nullptr;
 };
 
-} // namespace vlt::tables
+} // namespace vlt::driver

@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 namespace {
 
@@ -153,4 +153,4 @@ std::vector<Extent> CompoundFile::extents(const std::string &name) const
     return extents;
 }
 
-} // namespace vlt::tables
+} // namespace vlt::driver

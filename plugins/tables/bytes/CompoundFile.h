@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 /// The streams of an OLE 2 compound file. Source of the format: [MS-CFB].
 class CompoundFile
@@ -46,4 +46,4 @@ private:
     std::map<std::string, Entry> m_entries;
 };
 
-} // namespace vlt::tables
+} // namespace vlt::driver

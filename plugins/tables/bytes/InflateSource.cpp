@@ -5,7 +5,7 @@
 #include <isa-l/crc.h>
 #include <isa-l/igzip_lib.h>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 namespace {
 
@@ -49,4 +49,4 @@ size_t InflateSource::read(char *to, size_t size)
     return got;
 }
 
-} // namespace vlt::tables
+} // namespace vlt::driver

@@ -8,7 +8,7 @@
 
 struct inflate_state;
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 /// Inflates a raw deflate stream and checks it against the CRC that the archive's directory gives.
 ///
@@ -30,4 +30,4 @@ private:
     bool m_inputEnded = false;
 };
 
-} // namespace vlt::tables
+} // namespace vlt::driver

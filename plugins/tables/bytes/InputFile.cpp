@@ -10,7 +10,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 namespace {
 
@@ -130,4 +130,4 @@ size_t FileSource::read(char *to, size_t size)
     return done;
 }
 
-} // namespace vlt::tables
+} // namespace vlt::driver

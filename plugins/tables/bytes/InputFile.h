@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 /// What tells one state of a file from another.
 struct FileIdentity
@@ -79,4 +79,4 @@ private:
     uint64_t m_done = 0; ///< bytes of the current extent that were read
 };
 
-} // namespace vlt::tables
+} // namespace vlt::driver

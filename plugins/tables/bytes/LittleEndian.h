@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <cstring>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 /// Unaligned little-endian numbers, as office formats and ZIP store them.
 template<typename T>
@@ -30,4 +30,4 @@ inline uint64_t u64(const char *at)
     return littleEndian<uint64_t>(at);
 }
 
-} // namespace vlt::tables
+} // namespace vlt::driver

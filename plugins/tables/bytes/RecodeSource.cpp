@@ -8,7 +8,7 @@
 
 #include <iconv.h>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 namespace {
 
@@ -146,4 +146,4 @@ std::string recoded(const std::string &text, const std::string &encoding)
     return result;
 }
 
-} // namespace vlt::tables
+} // namespace vlt::driver

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 /// Turns a stream of any encoding into UTF-8. A leading byte order mark is dropped; a sequence that
 /// the encoding does not know becomes U+FFFD.
@@ -41,4 +41,4 @@ std::string encodingOfMark(const std::string &head, size_t &markSize);
 /// One text in UTF-8.
 std::string recoded(const std::string &text, const std::string &encoding);
 
-} // namespace vlt::tables
+} // namespace vlt::driver

@@ -5,7 +5,7 @@
 #include <stdexcept>
 #include <string>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 /// Why a file is not read as a table.
 enum class Refusal {
@@ -40,4 +40,4 @@ private:
     Refusal m_reason;
 };
 
-} // namespace vlt::tables
+} // namespace vlt::driver

@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <vector>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 namespace {
 
@@ -156,4 +156,4 @@ std::string ZipArchive::readAll(const std::string &name, size_t limit) const
     }
 }
 
-} // namespace vlt::tables
+} // namespace vlt::driver

@@ -8,7 +8,7 @@
 #include <memory>
 #include <string>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 /// Reads the members of a ZIP archive (also ZIP64). Only the central directory is trusted.
 ///
@@ -44,4 +44,4 @@ private:
         m_members; ///< by lower-case name: part names compare so in office packages
 };
 
-} // namespace vlt::tables
+} // namespace vlt::driver

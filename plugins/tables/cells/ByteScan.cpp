@@ -9,7 +9,7 @@
 #include <immintrin.h>
 #endif
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 namespace {
 
@@ -117,4 +117,4 @@ const char *findText(const char *begin, const char *end, std::string_view text)
     }
 }
 
-} // namespace vlt::tables
+} // namespace vlt::driver

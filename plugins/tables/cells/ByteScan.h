@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 /// First place in [begin, end - 1) where `first` is followed by `second`; `end` when there is none.
 /// Uses the widest registers of the machine it runs on.
@@ -14,4 +14,4 @@ const char *findAnyOf(const char *begin, const char *end, char a, char b, char c
 /// First place of `text` (two bytes at least) in [begin, end); `end` when there is none.
 const char *findText(const char *begin, const char *end, std::string_view text);
 
-} // namespace vlt::tables
+} // namespace vlt::driver

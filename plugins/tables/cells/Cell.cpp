@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 namespace {
 
@@ -94,4 +94,4 @@ std::string cellText(const Cell &cell)
     return std::string(cell.text);
 }
 
-} // namespace vlt::tables
+} // namespace vlt::driver

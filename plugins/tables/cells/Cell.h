@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 /// One cell of a table that holds something. Views point into the row's own memory or the
 /// workbook's strings and live until the next row is read.
@@ -111,4 +111,4 @@ constexpr int MostColumns = 16384;
 /// Most columns of a text table, which has no such width.
 constexpr int MostTextColumns = 65536;
 
-} // namespace vlt::tables
+} // namespace vlt::driver

@@ -5,7 +5,7 @@
 #include <cmath>
 #include <cstdint>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 namespace {
 
@@ -126,4 +126,4 @@ std::string numberText(double number)
     return error == std::errc() ? std::string(buffer.data(), end) : std::string();
 }
 
-} // namespace vlt::tables
+} // namespace vlt::driver

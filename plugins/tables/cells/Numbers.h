@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 /// How a table writes fractions.
 enum class DecimalMark : char {
@@ -34,4 +34,4 @@ NumberShape numberShape(std::string_view text);
 /// Shortest decimal form with at most 15 significant digits: 0.1, 30, 1e-07.
 std::string numberText(double number);
 
-} // namespace vlt::tables
+} // namespace vlt::driver

@@ -5,7 +5,7 @@
 #include <cmath>
 #include <cstdio>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 namespace {
 
@@ -84,4 +84,4 @@ std::string isoDate(double serial, bool from1904)
     return text.data();
 }
 
-} // namespace vlt::tables
+} // namespace vlt::driver

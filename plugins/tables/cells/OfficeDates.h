@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 /// Whether a number format shows a date or a time: it holds y, m, d, h or s outside quotes,
 /// brackets and escapes.
@@ -17,4 +17,4 @@ bool isDateFormatId(int id);
 /// 9999.
 std::string isoDate(double serial, bool from1904);
 
-} // namespace vlt::tables
+} // namespace vlt::driver

@@ -7,7 +7,7 @@
 #include "plugins/tables/cells/xlsx/XlsxWorkbook.h"
 #include "plugins/tables/cells/xml/SpreadsheetMlWorkbook.h"
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 namespace {
 
@@ -46,4 +46,4 @@ std::unique_ptr<Workbook> openWorkbook(std::shared_ptr<const InputFile> file,
     return openText(std::move(file), name, hints);
 }
 
-} // namespace vlt::tables
+} // namespace vlt::driver

@@ -4,11 +4,11 @@
 #include "plugins/tables/cells/RowReader.h"
 #include "plugins/tables/cells/text/TextFormat.h"
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 /// Opens a file of tables; what is in it decides how, not what it is called. `name` is that of the
 /// only sheet of a text. Throws RefusedFile.
 std::unique_ptr<Workbook> openWorkbook(std::shared_ptr<const InputFile> file,
                                        const std::string &name, const TextHints &hints);
 
-} // namespace vlt::tables
+} // namespace vlt::driver

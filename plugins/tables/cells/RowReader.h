@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 /// Walks over the rows of a table from the first to the last.
 ///
@@ -88,4 +88,4 @@ inline uint64_t fingerprintOf(std::string_view value)
     return std::hash<std::string_view>()(value);
 }
 
-} // namespace vlt::tables
+} // namespace vlt::driver

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 /// Many texts in few blocks of memory; the texts never move.
 class StringPool
@@ -53,4 +53,4 @@ private:
     size_t m_capacity = 0;
 };
 
-} // namespace vlt::tables
+} // namespace vlt::driver

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 /// Appends a code point to a UTF-8 text.
 inline void appendUtf8(std::string &to, uint32_t code)
@@ -21,4 +21,4 @@ inline void appendUtf8(std::string &to, uint32_t code)
         to.append({static_cast<char>(0xF0 | code >> 18), tail(12), tail(6), tail(0)});
 }
 
-} // namespace vlt::tables
+} // namespace vlt::driver

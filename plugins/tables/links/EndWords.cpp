@@ -6,7 +6,7 @@
 #include <array>
 #include <string_view>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 namespace {
 
@@ -86,4 +86,4 @@ EndWords readEndWords(const std::string &name, EndStyle style)
     return result;
 }
 
-} // namespace vlt::tables
+} // namespace vlt::driver

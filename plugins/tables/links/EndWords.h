@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 /// Which end of its link a column is about.
 enum class LinkEndId {
@@ -33,4 +33,4 @@ struct EndWords
 /// Takes a column name of a table of links apart.
 EndWords readEndWords(const std::string &name, EndStyle style);
 
-} // namespace vlt::tables
+} // namespace vlt::driver

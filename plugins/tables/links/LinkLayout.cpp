@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <initializer_list>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 namespace {
 
@@ -307,4 +307,4 @@ bool namesBothEnds(const Header &header)
     return false;
 }
 
-} // namespace vlt::tables
+} // namespace vlt::driver

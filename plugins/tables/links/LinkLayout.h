@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 /// A column of lengths or frequencies.
 struct QuantityField
@@ -50,4 +50,4 @@ LinkLayout recogniseLinkLayout(const TableProfile &table);
 /// Whether a header has columns of both ends.
 bool namesBothEnds(const Header &header);
 
-} // namespace vlt::tables
+} // namespace vlt::driver

@@ -6,7 +6,7 @@
 
 #include <cmath>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 namespace {
 
@@ -80,4 +80,4 @@ std::array<Position, 2> LinkPlacer::place(int64_t row, const std::vector<const C
     return positions;
 }
 
-} // namespace vlt::tables
+} // namespace vlt::driver

@@ -7,7 +7,7 @@
 
 #include <array>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 /// How metres of an offset become coordinates.
 struct OffsetScale
@@ -40,4 +40,4 @@ private:
     geod_geodesic m_earth = {};
 };
 
-} // namespace vlt::tables
+} // namespace vlt::driver

@@ -4,7 +4,7 @@
 #include "plugins/tables/table/ColumnStatistics.h"
 #include "tabletexts/TextPatterns.h"
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 using tabletexts::formatted;
 using tabletexts::TextId;
@@ -149,4 +149,4 @@ std::vector<RowProblem> LinkValueReader::tableProblems() const
     return problems;
 }
 
-} // namespace vlt::tables
+} // namespace vlt::driver

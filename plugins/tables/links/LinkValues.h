@@ -7,7 +7,7 @@
 #include <optional>
 #include <string>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 /// What a row tells of one end of its link, the position apart.
 struct LinkEndValues
@@ -51,4 +51,4 @@ private:
     const LinkLayout *m_layout;
 };
 
-} // namespace vlt::tables
+} // namespace vlt::driver

@@ -8,7 +8,7 @@
 #include <array>
 #include <string>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 namespace {
 
@@ -176,4 +176,4 @@ std::optional<double> readFrequencyMHz(std::string_view text, std::optional<doub
                                          : leading->number;
 }
 
-} // namespace vlt::tables
+} // namespace vlt::driver

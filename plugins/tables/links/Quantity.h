@@ -3,7 +3,7 @@
 #include <optional>
 #include <string_view>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 /// Metres per unit of a length that a word names (m, km, ft, feet, miles, ...).
 std::optional<double> metresPer(std::string_view word);
@@ -31,4 +31,4 @@ std::optional<double> readDegrees(std::string_view text);
 ///                 million on Hz, else MHz
 std::optional<double> readFrequencyMHz(std::string_view text, std::optional<double> unitMHz);
 
-} // namespace vlt::tables
+} // namespace vlt::driver

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 FieldCells::FieldCells(const TableProfile &table)
     : m_table(&table)
@@ -96,4 +96,4 @@ void FieldCells::take(const Row &row, std::vector<RowProblem> &problems)
     }
 }
 
-} // namespace vlt::tables
+} // namespace vlt::driver

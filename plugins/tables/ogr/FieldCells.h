@@ -5,7 +5,7 @@
 
 #include <vector>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 /// The fields of a row by field number, and what is wrong with their values.
 class FieldCells
@@ -33,4 +33,4 @@ private:
     std::vector<char> m_null;
 };
 
-} // namespace vlt::tables
+} // namespace vlt::driver

@@ -1,6 +1,6 @@
 #include "plugins/tables/ogr/LinkEndLayer.h"
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 namespace {
 
@@ -110,4 +110,4 @@ void LinkEndLayer::addFileProblems(ProblemList &problems) const
     m_reader.addFileProblems(problems);
 }
 
-} // namespace vlt::tables
+} // namespace vlt::driver

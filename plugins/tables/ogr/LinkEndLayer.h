@@ -3,7 +3,7 @@
 #include "plugins/tables/ogr/LinkRowReader.h"
 #include "plugins/tables/ogr/TableLayer.h"
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 /// The layer of link ends: two points per row of the table, end A and end B, as sites with one
 /// antenna each.
@@ -26,4 +26,4 @@ private:
     int64_t m_row = 0; ///< that was read
 };
 
-} // namespace vlt::tables
+} // namespace vlt::driver

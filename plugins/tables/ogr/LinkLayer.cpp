@@ -1,6 +1,6 @@
 #include "plugins/tables/ogr/LinkLayer.h"
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 LinkLayer::LinkLayer(const TableSource &source)
     : TableLayer(source, source.facts().table.sheet, 1)
@@ -47,4 +47,4 @@ void LinkLayer::addFileProblems(ProblemList &problems) const
     m_reader.addFileProblems(problems);
 }
 
-} // namespace vlt::tables
+} // namespace vlt::driver

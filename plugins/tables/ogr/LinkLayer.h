@@ -3,7 +3,7 @@
 #include "plugins/tables/ogr/LinkRowReader.h"
 #include "plugins/tables/ogr/TableLayer.h"
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 /// The layer of links: one line per row of the table, from end A to end B; the fields are the
 /// columns, the FID is the number of the row in the file.
@@ -23,4 +23,4 @@ private:
     LinkRowReader m_reader;
 };
 
-} // namespace vlt::tables
+} // namespace vlt::driver

@@ -4,7 +4,7 @@
 
 #include <cmath>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 namespace {
 
@@ -102,4 +102,4 @@ void LinkRowReader::addFileProblems(ProblemList &problems) const
     problems.add(m_values.tableProblems());
 }
 
-} // namespace vlt::tables
+} // namespace vlt::driver

@@ -8,7 +8,7 @@
 #include <array>
 #include <optional>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 /// A link as a row tells it.
 struct LinkRow
@@ -45,4 +45,4 @@ private:
     LinkRow m_row;
 };
 
-} // namespace vlt::tables
+} // namespace vlt::driver

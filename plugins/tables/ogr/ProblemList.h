@@ -4,7 +4,7 @@
 
 #include <vector>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 /// The problems of a table in the order in which they are met: all are counted, the first ones
 /// kept.
@@ -33,4 +33,4 @@ private:
     std::vector<RowProblem> m_kept;
 };
 
-} // namespace vlt::tables
+} // namespace vlt::driver

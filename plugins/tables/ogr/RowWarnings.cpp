@@ -4,7 +4,7 @@
 
 #include <cpl_error.h>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 namespace {
 
@@ -44,4 +44,4 @@ void RowWarnings::warn(const std::string &table, const std::vector<RowProblem> &
     }
 }
 
-} // namespace vlt::tables
+} // namespace vlt::driver

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 /// Gives the problems of rows out as the library's warnings: a row is read more than once, but
 /// warned of once, and only the first problems are said.
@@ -21,4 +21,4 @@ private:
     bool m_areOmitted = false; ///< there were more than are said
 };
 
-} // namespace vlt::tables
+} // namespace vlt::driver

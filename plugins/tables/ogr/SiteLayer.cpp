@@ -4,7 +4,7 @@
 
 #include <cmath>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 namespace {
 
@@ -54,4 +54,4 @@ void SiteLayer::addFileProblems(ProblemList &problems) const
         problems.add({0, {}, true, tabletexts::formatted("MESS_TAB_NO_COORDINATES")});
 }
 
-} // namespace vlt::tables
+} // namespace vlt::driver

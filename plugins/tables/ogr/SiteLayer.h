@@ -2,7 +2,7 @@
 
 #include "plugins/tables/ogr/TableLayer.h"
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 /// The layer of sites: one point feature per row of the table, its FID the number of the row in the
 /// file.
@@ -22,4 +22,4 @@ private:
     Position m_position; ///< of the row that was read
 };
 
-} // namespace vlt::tables
+} // namespace vlt::driver

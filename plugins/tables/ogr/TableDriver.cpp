@@ -10,7 +10,7 @@
 #include <memory>
 #include <vector>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 namespace {
 
@@ -143,7 +143,7 @@ constexpr char OpenOptions[] = "<OpenOptionList>"
 
 } // namespace
 
-} // namespace vlt::tables
+} // namespace vlt::driver
 
 // NOLINTNEXTLINE(readability-identifier-naming): the loader derives this name from the file's
 extern "C" CPL_DLL void RegisterOGRVltTables();
@@ -160,12 +160,12 @@ void RegisterOGRVltTables()
                             "XLSX, XLS and SpreadsheetML 2003");
     driver->SetMetadataItem(GDAL_DCAP_VECTOR, "YES");
     driver->SetMetadataItem(GDAL_DCAP_OPEN, "YES");
-    driver->SetMetadataItem(GDAL_DMD_CONNECTION_PREFIX, vlt::tables::Prefix);
+    driver->SetMetadataItem(GDAL_DMD_CONNECTION_PREFIX, vlt::driver::Prefix);
     driver->SetMetadataItem(GDAL_DMD_EXTENSIONS, "csv xlsx xls xml");
     driver->SetMetadataItem(GDAL_DMD_HELPTOPIC, "docs/tables.md");
-    driver->SetMetadataItem(GDAL_DMD_OPENOPTIONLIST, vlt::tables::OpenOptions);
+    driver->SetMetadataItem(GDAL_DMD_OPENOPTIONLIST, vlt::driver::OpenOptions);
     driver->SetMetadataItem(GDAL_DMD_SUPPORTED_SQL_DIALECTS, "OGRSQL SQLITE");
-    driver->pfnIdentify = vlt::tables::identify;
-    driver->pfnOpen = vlt::tables::open;
+    driver->pfnIdentify = vlt::driver::identify;
+    driver->pfnOpen = vlt::driver::open;
     GetGDALDriverManager()->RegisterDriver(driver);
 }

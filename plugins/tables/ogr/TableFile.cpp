@@ -5,7 +5,7 @@
 #include <list>
 #include <mutex>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 namespace {
 
@@ -115,4 +115,4 @@ std::unique_ptr<DataRows> TableFile::rows()
         *m_sheet, std::shared_ptr<const TableProfile>(m_facts, &m_facts->table));
 }
 
-} // namespace vlt::tables
+} // namespace vlt::driver

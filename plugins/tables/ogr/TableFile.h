@@ -9,7 +9,7 @@
 #include <string>
 #include <variant>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 /// What the caller says about a table file; empty members are found out.
 struct TableOptions
@@ -67,4 +67,4 @@ private:
     bool m_stringsPrepared = false;
 };
 
-} // namespace vlt::tables
+} // namespace vlt::driver

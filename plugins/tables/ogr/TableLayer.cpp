@@ -10,7 +10,7 @@
 #include <cmath>
 #include <cstring>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 namespace {
 
@@ -394,4 +394,4 @@ char **TableLayer::GetMetadataDomainList()
                                    nullptr);
 }
 
-} // namespace vlt::tables
+} // namespace vlt::driver

@@ -11,7 +11,7 @@
 #include <memory>
 #include <optional>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 /// What the layers of one dataset share.
 struct TableSource
@@ -105,4 +105,4 @@ private:
     OGREnvelope m_extent;
 };
 
-} // namespace vlt::tables
+} // namespace vlt::driver

@@ -6,7 +6,7 @@
 
 #include <cmath>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 using tabletexts::formatted;
 
@@ -83,4 +83,4 @@ void TableSystems::addProblems(ProblemList &problems) const
         problems.add({0, {}, false, formatted("MESS_TAB_NO_SOURCE_SRS")});
 }
 
-} // namespace vlt::tables
+} // namespace vlt::driver

@@ -9,7 +9,7 @@
 #include <memory>
 #include <string>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 /// The coordinate systems of a table and of who reads it, and the way from one to the other.
 class TableSystems
@@ -50,4 +50,4 @@ private:
         false; ///< a target system was asked for, but that of the file is not known
 };
 
-} // namespace vlt::tables
+} // namespace vlt::driver

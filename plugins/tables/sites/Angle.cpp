@@ -9,7 +9,7 @@
 #include <optional>
 #include <string>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 namespace {
 
@@ -197,4 +197,4 @@ Angle joinAngle(std::string_view degrees, std::string_view minutes, std::string_
     return assemble(parts, negative, sign);
 }
 
-} // namespace vlt::tables
+} // namespace vlt::driver

@@ -5,7 +5,7 @@
 #include <optional>
 #include <string_view>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 enum class Axis {
     X, ///< longitude or easting
@@ -31,4 +31,4 @@ Angle readAngle(std::string_view text, Axis axis);
 Angle joinAngle(std::string_view degrees, std::string_view minutes, std::string_view seconds,
                 std::string_view hemisphere, Axis axis);
 
-} // namespace vlt::tables
+} // namespace vlt::driver

@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 namespace {
 
@@ -237,4 +237,4 @@ CoordinateUnit findUnit(const PointFields &point, const std::vector<Field> &fiel
     return CoordinateUnit::Degrees;
 }
 
-} // namespace vlt::tables
+} // namespace vlt::driver

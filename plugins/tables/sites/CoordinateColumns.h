@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 /// How the coordinates of a table are written.
 enum class CoordinateUnit {
@@ -49,4 +49,4 @@ PointFields findPoint(const FieldWords &words, const std::vector<Field> &fields)
 /// How the coordinates of a point are written, by their names and samples.
 CoordinateUnit findUnit(const PointFields &point, const std::vector<Field> &fields);
 
-} // namespace vlt::tables
+} // namespace vlt::driver

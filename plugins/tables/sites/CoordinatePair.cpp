@@ -6,7 +6,7 @@
 
 #include <cmath>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 namespace {
 
@@ -59,4 +59,4 @@ CoordinatePair readCoordinatePair(std::string_view text)
     return checked(readAngle(second, Axis::X), latitude);
 }
 
-} // namespace vlt::tables
+} // namespace vlt::driver

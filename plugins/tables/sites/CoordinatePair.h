@@ -5,7 +5,7 @@
 #include <optional>
 #include <string_view>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 /// Both coordinates of a position, in degrees.
 struct CoordinatePair
@@ -20,4 +20,4 @@ struct CoordinatePair
 /// 49°11'23.10"N,16°32'13.38"E, POINT(2.27 48.85) (longitude first).
 CoordinatePair readCoordinatePair(std::string_view text);
 
-} // namespace vlt::tables
+} // namespace vlt::driver

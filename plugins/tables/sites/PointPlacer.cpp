@@ -6,7 +6,7 @@
 
 #include <cmath>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 namespace {
 
@@ -139,4 +139,4 @@ Position PointPlacer::place(int64_t row, const std::vector<const Cell *> &cells,
     return position;
 }
 
-} // namespace vlt::tables
+} // namespace vlt::driver

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 /// A position in the file's coordinate system.
 struct Position
@@ -55,4 +55,4 @@ private:
 /// Text of the cell of a field, trimmed; empty where there is none (also for field -1).
 std::string fieldText(const std::vector<const Cell *> &cells, int field);
 
-} // namespace vlt::tables
+} // namespace vlt::driver

@@ -2,7 +2,7 @@
 
 #include "plugins/tables/table/HeaderWords.h"
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 std::string recogniseFormat(const std::vector<Field> &fields)
 {
@@ -37,4 +37,4 @@ SiteLayout recogniseSiteLayout(const TableProfile &table)
     return layout;
 }
 
-} // namespace vlt::tables
+} // namespace vlt::driver

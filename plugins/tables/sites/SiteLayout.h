@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 /// What a table of sites tells about itself; its format is asset, atoll, mentum or generic.
 struct SiteLayout : TableDeclaration
@@ -19,4 +19,4 @@ SiteLayout recogniseSiteLayout(const TableProfile &table);
 /// The planning tool that names columns so.
 std::string recogniseFormat(const std::vector<Field> &fields);
 
-} // namespace vlt::tables
+} // namespace vlt::driver

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 namespace {
 
@@ -52,4 +52,4 @@ std::string findEpsg(const TableProfile &table, const PointFields &point, Coordi
     return {};
 }
 
-} // namespace vlt::tables
+} // namespace vlt::driver

@@ -4,7 +4,7 @@
 
 #include <string>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 /// What a table tells about itself, whatever its rows are.
 struct TableDeclaration
@@ -18,4 +18,4 @@ struct TableDeclaration
 /// its coordinates are.
 std::string findEpsg(const TableProfile &table, const PointFields &point, CoordinateUnit unit);
 
-} // namespace vlt::tables
+} // namespace vlt::driver

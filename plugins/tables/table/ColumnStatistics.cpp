@@ -7,7 +7,7 @@
 #include <cmath>
 #include <limits>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 namespace {
 
@@ -72,4 +72,4 @@ FieldType ColumnStatistics::type(bool allRows) const
     return m_beyond32 ? FieldType::Integer64 : FieldType::Integer;
 }
 
-} // namespace vlt::tables
+} // namespace vlt::driver

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 /// How the values of a column are kept.
 enum class FieldType {
@@ -47,4 +47,4 @@ private:
 /// Whether a text says that there is no value: NA, N/A, -, --, null, nan, #N/A.
 bool isMissingWord(std::string_view text);
 
-} // namespace vlt::tables
+} // namespace vlt::driver

@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <set>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 namespace {
 
@@ -122,4 +122,4 @@ bool repeatsHeader(const Row &row, const Header &header)
            });
 }
 
-} // namespace vlt::tables
+} // namespace vlt::driver

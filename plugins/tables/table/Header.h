@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 /// The row that names the columns, and what stands above it.
 struct Header
@@ -32,4 +32,4 @@ std::optional<Header> findHeader(const Sheet &sheet, TableKind kind, size_t &wid
 /// Whether a row repeats the header, as lists that were joined or printed page by page do.
 bool repeatsHeader(const Row &row, const Header &header);
 
-} // namespace vlt::tables
+} // namespace vlt::driver

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 namespace {
 
@@ -108,4 +108,4 @@ bool isTableWord(std::string_view name, TableKind kind)
     });
 }
 
-} // namespace vlt::tables
+} // namespace vlt::driver

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 /// The words of a column name in lower case: cut at everything but letters and digits and where a
 /// small letter is followed by a capital. "Site.X" gives site, x; "Longitude_WGS84" longitude,
@@ -23,4 +23,4 @@ bool isTableWord(std::string_view name, TableKind kind);
 /// Lower case of ASCII letters.
 std::string lowerCase(std::string_view text);
 
-} // namespace vlt::tables
+} // namespace vlt::driver

@@ -1,6 +1,6 @@
 #include "plugins/tables/table/RowProblem.h"
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 std::string quotation(std::string_view value)
 {
@@ -13,4 +13,4 @@ std::string quotation(std::string_view value)
     return std::string(value.substr(0, cut)) + "...";
 }
 
-} // namespace vlt::tables
+} // namespace vlt::driver

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 /// One thing in a row that keeps it from being read in full.
 struct RowProblem
@@ -18,4 +18,4 @@ struct RowProblem
 /// A value as a problem quotes it: the start of a long one.
 std::string quotation(std::string_view value);
 
-} // namespace vlt::tables
+} // namespace vlt::driver

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <map>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 namespace {
 
@@ -262,4 +262,4 @@ const Row &DataRows::cells()
     return m_row;
 }
 
-} // namespace vlt::tables
+} // namespace vlt::driver

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 /// One column of a table.
 struct Field
@@ -99,4 +99,4 @@ private:
     bool m_parsed = false;
 };
 
-} // namespace vlt::tables
+} // namespace vlt::driver

@@ -1,6 +1,6 @@
 #pragma once
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 /// What the rows of a table are.
 enum class TableKind {
@@ -8,4 +8,4 @@ enum class TableKind {
     Links,
 };
 
-} // namespace vlt::tables
+} // namespace vlt::driver

@@ -11,7 +11,7 @@
 
 #include <uchardet.h>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 namespace {
 
@@ -134,4 +134,4 @@ std::string guessEncoding(const std::shared_ptr<const InputFile> &file)
     return isCyrillic ? Cyrillic : best;
 }
 
-} // namespace vlt::tables
+} // namespace vlt::driver

@@ -4,7 +4,7 @@
 
 #include <string>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 inline constexpr char Utf8[] = "UTF-8";
 
@@ -15,4 +15,4 @@ inline constexpr char Utf8[] = "UTF-8";
 /// too few accents for a detector, and Windows-1252 elsewhere. Looks at the whole file.
 std::string guessEncoding(const std::shared_ptr<const InputFile> &file);
 
-} // namespace vlt::tables
+} // namespace vlt::driver

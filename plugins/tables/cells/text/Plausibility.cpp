@@ -6,7 +6,7 @@
 #include <map>
 #include <string>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 namespace {
 
@@ -137,4 +137,4 @@ double plausibility(std::string_view text)
                    : 1;
 }
 
-} // namespace vlt::tables
+} // namespace vlt::driver

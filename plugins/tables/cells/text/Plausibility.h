@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 /// How much a UTF-8 text that was decoded by a guess looks like something people write: the share
 /// of its characters above ASCII that make sense where they stand, 0 .. 1; 1 for a text without
@@ -13,4 +13,4 @@ namespace vlt::tables {
 /// unless they stand inside a word.
 double plausibility(std::string_view text);
 
-} // namespace vlt::tables
+} // namespace vlt::driver

@@ -10,7 +10,7 @@
 #include <map>
 #include <vector>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 namespace {
 
@@ -254,4 +254,4 @@ TextFormat findTextFormat(const std::shared_ptr<const InputFile> &file, const Te
     return format;
 }
 
-} // namespace vlt::tables
+} // namespace vlt::driver

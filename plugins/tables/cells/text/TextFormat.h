@@ -6,7 +6,7 @@
 #include <memory>
 #include <string>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 /// Bytes at the start of a file from which its format is guessed.
 constexpr size_t TextSampleSize = size_t{64} << 10;
@@ -36,4 +36,4 @@ struct TextHints
 /// mislead it. Throws RefusedFile (NotATable, OneColumn, NotSupportedFormat).
 TextFormat findTextFormat(const std::shared_ptr<const InputFile> &file, const TextHints &hints);
 
-} // namespace vlt::tables
+} // namespace vlt::driver

@@ -9,7 +9,7 @@
 #include <cstring>
 #include <vector>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 namespace {
 
@@ -277,4 +277,4 @@ void TextRows::cells(Row &row)
                                                                    {std::to_string(swallowed)})});
 }
 
-} // namespace vlt::tables
+} // namespace vlt::driver

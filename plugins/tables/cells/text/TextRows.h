@@ -4,7 +4,7 @@
 #include "plugins/tables/cells/RowReader.h"
 #include "plugins/tables/cells/text/TextFormat.h"
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 /// Rows of a delimited text (RFC 4180, read leniently).
 ///
@@ -47,4 +47,4 @@ private:
     bool m_atEnd = false;           ///< the window reaches to the end of the stream
 };
 
-} // namespace vlt::tables
+} // namespace vlt::driver

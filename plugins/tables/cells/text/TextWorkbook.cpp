@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <atomic>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 namespace {
 
@@ -122,4 +122,4 @@ std::unique_ptr<Workbook> openText(std::shared_ptr<const InputFile> file, const 
         std::make_shared<TextSheet>(std::move(file), name, format, isWatched));
 }
 
-} // namespace vlt::tables
+} // namespace vlt::driver

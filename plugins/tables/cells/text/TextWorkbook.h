@@ -4,10 +4,10 @@
 #include "plugins/tables/cells/RowReader.h"
 #include "plugins/tables/cells/text/TextFormat.h"
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 /// Opens a delimited text as a workbook of one sheet called `name`. Throws RefusedFile.
 std::unique_ptr<Workbook> openText(std::shared_ptr<const InputFile> file, const std::string &name,
                                    const TextHints &hints);
 
-} // namespace vlt::tables
+} // namespace vlt::driver

@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <cstring>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 namespace {
 
@@ -116,4 +116,4 @@ std::string mendedUtf8(std::string_view text)
     return mended.append(text, done);
 }
 
-} // namespace vlt::tables
+} // namespace vlt::driver

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 /// What bytes read as UTF-8 are.
 struct Utf8Count
@@ -28,4 +28,4 @@ std::string mendedUtf8(std::string_view text);
 /// The first byte above ASCII at or behind `at`; the size of the text when there is none.
 size_t skipAscii(std::string_view text, size_t at);
 
-} // namespace vlt::tables
+} // namespace vlt::driver

@@ -4,7 +4,7 @@
 #include "plugins/tables/bytes/RecodeSource.h"
 #include "plugins/tables/cells/Utf8.h"
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 namespace {
 
@@ -168,4 +168,4 @@ std::optional<std::string_view> XlsStrings::at(uint32_t index)
     return m_texts[index];
 }
 
-} // namespace vlt::tables
+} // namespace vlt::driver

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 /// The shared string table of a workbook, read as far as it is asked for.
 class XlsStrings
@@ -68,4 +68,4 @@ std::string xlsText(std::string_view data, const XlsContext &context, bool short
 /// of a pair over.
 void appendXlsCharacters(std::string &to, std::string_view bytes, bool wide, uint32_t &surrogate);
 
-} // namespace vlt::tables
+} // namespace vlt::driver

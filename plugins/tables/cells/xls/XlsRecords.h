@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <string_view>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 /// The records of a BIFF stream, one after another. Source of the format: [MS-XLS].
 class XlsRecords
@@ -89,4 +89,4 @@ enum XlsRecordType : uint16_t {
     XlsBof = 0x0809,
 };
 
-} // namespace vlt::tables
+} // namespace vlt::driver

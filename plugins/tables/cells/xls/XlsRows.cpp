@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 namespace {
 
@@ -270,4 +270,4 @@ void XlsRows::cells(Row &row)
                          [](const Cell &a, const Cell &b) { return a.column < b.column; });
 }
 
-} // namespace vlt::tables
+} // namespace vlt::driver

@@ -5,7 +5,7 @@
 
 #include <memory>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 /// Rows of one worksheet stream. Cells are expected row by row, as every writer puts them.
 class XlsRows : public RowReader
@@ -56,4 +56,4 @@ private:
     bool m_ended = false;
 };
 
-} // namespace vlt::tables
+} // namespace vlt::driver

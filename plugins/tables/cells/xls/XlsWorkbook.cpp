@@ -9,7 +9,7 @@
 
 #include <map>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 namespace {
 
@@ -165,4 +165,4 @@ std::unique_ptr<Workbook> openXls(std::shared_ptr<const InputFile> file, bool co
     return std::make_unique<XlsWorkbook>(std::move(file), std::move(stream));
 }
 
-} // namespace vlt::tables
+} // namespace vlt::driver

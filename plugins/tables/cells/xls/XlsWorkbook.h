@@ -3,9 +3,9 @@
 #include "plugins/tables/bytes/InputFile.h"
 #include "plugins/tables/cells/RowReader.h"
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 /// Opens a BIFF8 or BIFF5 workbook, in a compound file or bare. Throws RefusedFile.
 std::unique_ptr<Workbook> openXls(std::shared_ptr<const InputFile> file, bool compound);
 
-} // namespace vlt::tables
+} // namespace vlt::driver

@@ -9,7 +9,7 @@
 #include <algorithm>
 #include <charconv>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 namespace {
 
@@ -218,4 +218,4 @@ std::optional<std::string_view> SharedStrings::at(uint64_t index)
     return m_texts[place];
 }
 
-} // namespace vlt::tables
+} // namespace vlt::driver

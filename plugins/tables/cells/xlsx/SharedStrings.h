@@ -10,7 +10,7 @@
 #include <string_view>
 #include <vector>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 /// The texts that the sheets of an XLSX workbook refer to by number, read as far as they are asked
 /// for.
@@ -53,4 +53,4 @@ private:
 /// and 22.9.2.19.
 std::string richText(std::string_view markup);
 
-} // namespace vlt::tables
+} // namespace vlt::driver

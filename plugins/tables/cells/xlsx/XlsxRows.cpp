@@ -8,7 +8,7 @@
 #include <charconv>
 #include <cstring>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 namespace {
 
@@ -344,4 +344,4 @@ void XlsxRows::cells(Row &row)
                          [](const Cell &a, const Cell &b) { return a.column < b.column; });
 }
 
-} // namespace vlt::tables
+} // namespace vlt::driver

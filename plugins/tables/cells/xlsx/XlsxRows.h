@@ -4,7 +4,7 @@
 #include "plugins/tables/cells/xlsx/SharedStrings.h"
 #include "plugins/tables/cells/xml/XmlRowFramer.h"
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 /// What the cells of an XLSX workbook refer to.
 struct XlsxContext
@@ -57,4 +57,4 @@ private:
     }
 };
 
-} // namespace vlt::tables
+} // namespace vlt::driver

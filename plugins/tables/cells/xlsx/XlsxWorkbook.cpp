@@ -10,7 +10,7 @@
 #include <charconv>
 #include <map>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 namespace {
 
@@ -241,4 +241,4 @@ std::unique_ptr<Workbook> openXlsx(std::shared_ptr<const InputFile> file)
     return std::make_unique<XlsxWorkbook>(std::move(file));
 }
 
-} // namespace vlt::tables
+} // namespace vlt::driver

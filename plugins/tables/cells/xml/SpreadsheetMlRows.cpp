@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cstring>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 namespace {
 
@@ -230,4 +230,4 @@ void SpreadsheetMlRows::cells(Row &row)
                          [](const Cell &a, const Cell &b) { return a.column < b.column; });
 }
 
-} // namespace vlt::tables
+} // namespace vlt::driver

@@ -3,7 +3,7 @@
 #include "plugins/tables/cells/RowReader.h"
 #include "plugins/tables/cells/xml/XmlRowFramer.h"
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 /// Rows of one worksheet of a SpreadsheetML 2003 file.
 class SpreadsheetMlRows : public RowReader
@@ -25,4 +25,4 @@ private:
     XmlRowFramer m_framer;
 };
 
-} // namespace vlt::tables
+} // namespace vlt::driver

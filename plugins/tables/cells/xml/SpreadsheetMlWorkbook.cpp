@@ -9,7 +9,7 @@
 #include <algorithm>
 #include <cstring>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 namespace {
 
@@ -194,4 +194,4 @@ std::unique_ptr<Workbook> openSpreadsheetMl(const std::shared_ptr<const InputFil
     throw RefusedFile(Refusal::Malformed, "MESS_TAB_NO_ROOT_ELEMENT");
 }
 
-} // namespace vlt::tables
+} // namespace vlt::driver

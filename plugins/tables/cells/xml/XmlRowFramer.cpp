@@ -6,7 +6,7 @@
 #include <charconv>
 #include <limits>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 namespace {
 
@@ -124,4 +124,4 @@ std::string_view XmlRowFramer::inside() const
     return {m_inside, static_cast<size_t>(m_rowEnd - m_inside)};
 }
 
-} // namespace vlt::tables
+} // namespace vlt::driver

@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 /// Finds the row elements of a sheet in a stream of XML without looking into them.
 class XmlRowFramer
@@ -57,4 +57,4 @@ private:
     bool m_done = false;
 };
 
-} // namespace vlt::tables
+} // namespace vlt::driver

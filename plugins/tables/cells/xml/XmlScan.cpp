@@ -8,7 +8,7 @@
 #include <cstdint>
 #include <cstring>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 namespace {
 
@@ -181,4 +181,4 @@ bool XmlCursor::next(XmlTag &tag)
     return true;
 }
 
-} // namespace vlt::tables
+} // namespace vlt::driver

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-namespace vlt::tables {
+namespace vlt::driver {
 
 /// One piece of markup. Names are local names: office files differ in their prefixes.
 struct XmlTag
@@ -69,4 +69,4 @@ private:
     const char *m_end;
 };
 
-} // namespace vlt::tables
+} // namespace vlt::driver
