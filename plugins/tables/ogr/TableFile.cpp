@@ -1,6 +1,6 @@
 #include "plugins/tables/ogr/TableFile.h"
 
-#include "plugins/tables/cells/OpenWorkbook.h"
+#include "plugins/tables/formats/OpenWorkbook.h"
 
 #include <list>
 #include <mutex>

@@ -1,4 +1,4 @@
-#include "plugins/tables/cells/text/Utf8Check.h"
+#include "plugins/tables/formats/text/Utf8Check.h"
 
 #include <algorithm>
 #include <bit>

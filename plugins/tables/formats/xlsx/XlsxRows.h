@@ -1,8 +1,8 @@
 #pragma once
 
 #include "plugins/tables/cells/RowReader.h"
-#include "plugins/tables/cells/xlsx/SharedStrings.h"
-#include "plugins/tables/cells/xml/XmlRowFramer.h"
+#include "plugins/tables/formats/xlsx/SharedStrings.h"
+#include "plugins/tables/formats/xml/XmlRowFramer.h"
 
 namespace vlt::driver {
 

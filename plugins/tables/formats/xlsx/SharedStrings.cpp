@@ -1,10 +1,10 @@
-#include "plugins/tables/cells/xlsx/SharedStrings.h"
+#include "plugins/tables/formats/xlsx/SharedStrings.h"
 
 #include "plugins/tables/bytes/ChunkedInput.h"
 #include "plugins/tables/bytes/Refusal.h"
 #include "plugins/tables/cells/ByteScan.h"
 #include "plugins/tables/cells/Cell.h"
-#include "plugins/tables/cells/xml/XmlScan.h"
+#include "plugins/tables/formats/xml/XmlScan.h"
 
 #include <algorithm>
 #include <charconv>

@@ -1,9 +1,9 @@
-#include "plugins/tables/cells/text/TextFormat.h"
+#include "plugins/tables/formats/text/TextFormat.h"
 
 #include "plugins/tables/bytes/RecodeSource.h"
 #include "plugins/tables/bytes/Refusal.h"
-#include "plugins/tables/cells/text/EncodingGuess.h"
-#include "plugins/tables/cells/text/Utf8Check.h"
+#include "plugins/tables/formats/text/EncodingGuess.h"
+#include "plugins/tables/formats/text/Utf8Check.h"
 
 #include <algorithm>
 #include <cmath>

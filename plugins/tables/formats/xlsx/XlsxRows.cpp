@@ -1,4 +1,4 @@
-#include "plugins/tables/cells/xlsx/XlsxRows.h"
+#include "plugins/tables/formats/xlsx/XlsxRows.h"
 
 #include "plugins/tables/cells/ByteScan.h"
 #include "plugins/tables/cells/Numbers.h"

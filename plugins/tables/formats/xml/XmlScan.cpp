@@ -1,4 +1,4 @@
-#include "plugins/tables/cells/xml/XmlScan.h"
+#include "plugins/tables/formats/xml/XmlScan.h"
 
 #include "plugins/tables/bytes/Refusal.h"
 #include "plugins/tables/cells/ByteScan.h"

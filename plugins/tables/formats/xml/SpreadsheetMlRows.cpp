@@ -1,4 +1,4 @@
-#include "plugins/tables/cells/xml/SpreadsheetMlRows.h"
+#include "plugins/tables/formats/xml/SpreadsheetMlRows.h"
 
 #include "plugins/tables/cells/ByteScan.h"
 

@@ -2,7 +2,7 @@
 
 #include "plugins/tables/bytes/ChunkedInput.h"
 #include "plugins/tables/cells/RowReader.h"
-#include "plugins/tables/cells/text/TextFormat.h"
+#include "plugins/tables/formats/text/TextFormat.h"
 
 namespace vlt::driver {
 

@@ -1,10 +1,10 @@
-#include "plugins/tables/cells/xml/SpreadsheetMlWorkbook.h"
+#include "plugins/tables/formats/xml/SpreadsheetMlWorkbook.h"
 
 #include "plugins/tables/bytes/ChunkedInput.h"
 #include "plugins/tables/bytes/RecodeSource.h"
 #include "plugins/tables/bytes/Refusal.h"
 #include "plugins/tables/cells/ByteScan.h"
-#include "plugins/tables/cells/xml/SpreadsheetMlRows.h"
+#include "plugins/tables/formats/xml/SpreadsheetMlRows.h"
 
 #include <algorithm>
 #include <cstring>

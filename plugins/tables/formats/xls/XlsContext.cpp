@@ -1,4 +1,4 @@
-#include "plugins/tables/cells/xls/XlsContext.h"
+#include "plugins/tables/formats/xls/XlsContext.h"
 
 #include "plugins/tables/bytes/LittleEndian.h"
 #include "plugins/tables/bytes/RecodeSource.h"

@@ -1,8 +1,8 @@
-#include "plugins/tables/cells/text/TextRows.h"
+#include "plugins/tables/formats/text/TextRows.h"
 
 #include "plugins/tables/cells/ByteScan.h"
-#include "plugins/tables/cells/text/EncodingGuess.h"
-#include "plugins/tables/cells/text/Utf8Check.h"
+#include "plugins/tables/formats/text/EncodingGuess.h"
+#include "plugins/tables/formats/text/Utf8Check.h"
 #include "tabletexts/TextPatterns.h"
 
 #include <algorithm>

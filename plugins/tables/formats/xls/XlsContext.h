@@ -2,7 +2,7 @@
 
 #include "plugins/tables/bytes/InputFile.h"
 #include "plugins/tables/cells/StringPool.h"
-#include "plugins/tables/cells/xls/XlsRecords.h"
+#include "plugins/tables/formats/xls/XlsRecords.h"
 
 #include <optional>
 #include <string>

@@ -1,4 +1,4 @@
-#include "plugins/tables/cells/xls/XlsRows.h"
+#include "plugins/tables/formats/xls/XlsRows.h"
 
 #include "plugins/tables/bytes/LittleEndian.h"
 #include "plugins/tables/bytes/Refusal.h"

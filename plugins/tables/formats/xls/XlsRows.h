@@ -1,7 +1,7 @@
 #pragma once
 
 #include "plugins/tables/cells/RowReader.h"
-#include "plugins/tables/cells/xls/XlsContext.h"
+#include "plugins/tables/formats/xls/XlsContext.h"
 
 #include <memory>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "plugins/tables/cells/RowReader.h"
-#include "plugins/tables/cells/xml/XmlRowFramer.h"
+#include "plugins/tables/formats/xml/XmlRowFramer.h"
 
 namespace vlt::driver {
 

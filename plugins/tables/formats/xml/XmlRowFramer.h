@@ -1,7 +1,7 @@
 #pragma once
 
 #include "plugins/tables/bytes/ChunkedInput.h"
-#include "plugins/tables/cells/xml/XmlScan.h"
+#include "plugins/tables/formats/xml/XmlScan.h"
 
 #include <cstdint>
 #include <string>

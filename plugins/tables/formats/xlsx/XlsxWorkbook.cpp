@@ -1,10 +1,10 @@
-#include "plugins/tables/cells/xlsx/XlsxWorkbook.h"
+#include "plugins/tables/formats/xlsx/XlsxWorkbook.h"
 
 #include "plugins/tables/bytes/RecodeSource.h"
 #include "plugins/tables/bytes/Refusal.h"
 #include "plugins/tables/bytes/ZipArchive.h"
 #include "plugins/tables/cells/OfficeDates.h"
-#include "plugins/tables/cells/xlsx/XlsxRows.h"
+#include "plugins/tables/formats/xlsx/XlsxRows.h"
 
 #include <algorithm>
 #include <charconv>

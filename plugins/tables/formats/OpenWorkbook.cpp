@@ -1,11 +1,11 @@
-#include "plugins/tables/cells/OpenWorkbook.h"
+#include "plugins/tables/formats/OpenWorkbook.h"
 
 #include "plugins/tables/bytes/CompoundFile.h"
 #include "plugins/tables/bytes/Refusal.h"
-#include "plugins/tables/cells/text/TextWorkbook.h"
-#include "plugins/tables/cells/xls/XlsWorkbook.h"
-#include "plugins/tables/cells/xlsx/XlsxWorkbook.h"
-#include "plugins/tables/cells/xml/SpreadsheetMlWorkbook.h"
+#include "plugins/tables/formats/text/TextWorkbook.h"
+#include "plugins/tables/formats/xls/XlsWorkbook.h"
+#include "plugins/tables/formats/xlsx/XlsxWorkbook.h"
+#include "plugins/tables/formats/xml/SpreadsheetMlWorkbook.h"
 
 namespace vlt::driver {
 

@@ -1,11 +1,11 @@
-#include "plugins/tables/cells/xls/XlsWorkbook.h"
+#include "plugins/tables/formats/xls/XlsWorkbook.h"
 
 #include "plugins/tables/bytes/CompoundFile.h"
 #include "plugins/tables/bytes/LittleEndian.h"
 #include "plugins/tables/bytes/RecodeSource.h"
 #include "plugins/tables/bytes/Refusal.h"
 #include "plugins/tables/cells/OfficeDates.h"
-#include "plugins/tables/cells/xls/XlsRows.h"
+#include "plugins/tables/formats/xls/XlsRows.h"
 
 #include <map>
 

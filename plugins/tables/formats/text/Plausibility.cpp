@@ -1,4 +1,4 @@
-#include "plugins/tables/cells/text/Plausibility.h"
+#include "plugins/tables/formats/text/Plausibility.h"
 
 #include <algorithm>
 #include <array>
