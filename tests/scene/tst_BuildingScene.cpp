@@ -2,7 +2,7 @@
 #include "TownTesting.h"
 #include "connection/ReaderOptions.h"
 #include "plugins/scene/buildings/BuildingScene.h"
-#include "plugins/scene/layers/BadLayer.h"
+#include "plugins/scene/reading/BadLayer.h"
 
 #include <osg/Geometry>
 

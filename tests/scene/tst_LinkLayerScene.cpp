@@ -1,7 +1,7 @@
 #include "LayerScenes.h"
 #include "plugins/scene/layers/LayerScene.h"
 #include "plugins/scene/layers/LinkRecords.h"
-#include "plugins/scene/layers/TableLocation.h"
+#include "plugins/scene/reading/TableLocation.h"
 
 #include <gdal_priv.h>
 

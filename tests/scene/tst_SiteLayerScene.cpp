@@ -1,5 +1,5 @@
 #include "LayerScenes.h"
-#include "plugins/scene/layers/LayerFile.h"
+#include "plugins/scene/reading/LayerFile.h"
 
 #include <osg/Geometry>
 #include <osgDB/WriteFile>

@@ -1,5 +1,5 @@
 #include "plugins/scene/buildings/TexbDocument.h"
-#include "plugins/scene/layers/BadLayer.h"
+#include "plugins/scene/reading/BadLayer.h"
 
 #include <QtTest>
 

@@ -8,9 +8,9 @@
 #include "plugins/scene/buildings/TexturedTile.h"
 #include "plugins/scene/buildings/TownColors.h"
 #include "plugins/scene/buildings/TownNodes.h"
-#include "plugins/scene/layers/BadLayer.h"
-#include "plugins/scene/layers/SceneFacts.h"
-#include "plugins/scene/layers/TableReading.h"
+#include "plugins/scene/reading/BadLayer.h"
+#include "plugins/scene/reading/SceneFacts.h"
+#include "plugins/scene/reading/TableReading.h"
 
 #include <cpl_conv.h>
 #include <cpl_error.h>

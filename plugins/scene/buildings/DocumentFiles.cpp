@@ -1,7 +1,7 @@
 #include "plugins/scene/buildings/DocumentFiles.h"
 
 #include "localfiles/LocalFormats.h"
-#include "plugins/scene/layers/BadLayer.h"
+#include "plugins/scene/reading/BadLayer.h"
 
 #include <cpl_port.h>
 

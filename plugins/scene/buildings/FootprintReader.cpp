@@ -5,8 +5,8 @@
 #include "localfiles/NoNetwork.h"
 #include "localfiles/OpenLocal.h"
 #include "plugins/scene/buildings/RoofTriangles.h"
-#include "plugins/scene/layers/BadLayer.h"
-#include "plugins/scene/layers/TableReading.h"
+#include "plugins/scene/reading/BadLayer.h"
+#include "plugins/scene/reading/TableReading.h"
 
 #include <cpl_error.h>
 

@@ -3,7 +3,7 @@
 #include "connection/ReaderOptions.h"
 #include "linkpath/TerrainRaster.h"
 #include "localfiles/NoNetwork.h"
-#include "plugins/scene/layers/BadLayer.h"
+#include "plugins/scene/reading/BadLayer.h"
 
 #include <cpl_error.h>
 

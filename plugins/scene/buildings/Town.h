@@ -1,7 +1,7 @@
 #pragma once
 
 #include "colormaps/ColorMap.h"
-#include "plugins/scene/layers/SceneFrame.h"
+#include "plugins/scene/reading/SceneFrame.h"
 
 #include <osg/Vec2d>
 

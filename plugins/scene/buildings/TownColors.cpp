@@ -3,7 +3,7 @@
 #include "coverage/LocalRaster.h"
 #include "plugins/scene/buildings/ColorText.h"
 #include "plugins/scene/buildings/PlaceTransform.h"
-#include "plugins/scene/layers/TableLocation.h"
+#include "plugins/scene/reading/TableLocation.h"
 
 #include <cpl_error.h>
 

@@ -3,9 +3,9 @@
 #include "connection/ReaderOptions.h"
 #include "plugins/scene/buildings/TownMesh.h"
 #include "plugins/scene/buildings/TownTree.h"
-#include "plugins/scene/layers/BadLayer.h"
+#include "plugins/scene/mesh/DeferredNode.h"
 #include "plugins/scene/mesh/MovedNode.h"
-#include "plugins/scene/pylon/DeferredNode.h"
+#include "plugins/scene/reading/BadLayer.h"
 
 #include <osg/Geode>
 #include <osg/LOD>

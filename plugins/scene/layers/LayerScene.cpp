@@ -4,8 +4,8 @@
 #include "plugins/scene/layers/LinkLayerStyle.h"
 #include "plugins/scene/layers/LinkRecords.h"
 #include "plugins/scene/layers/SiteScene.h"
-#include "plugins/scene/layers/TableLocation.h"
-#include "plugins/scene/layers/TerrainSurface.h"
+#include "plugins/scene/reading/TableLocation.h"
+#include "plugins/scene/reading/TerrainSurface.h"
 
 namespace vlt::scene {
 

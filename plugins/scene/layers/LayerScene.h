@@ -1,7 +1,7 @@
 #pragma once
 
-#include "plugins/scene/layers/LayerFile.h"
 #include "plugins/scene/layers/PylonTiles.h"
+#include "plugins/scene/reading/LayerFile.h"
 
 #include <osg/Group>
 

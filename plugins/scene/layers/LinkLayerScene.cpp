@@ -1,7 +1,7 @@
 #include "plugins/scene/layers/LinkLayerScene.h"
 
-#include "plugins/scene/layers/SceneFacts.h"
 #include "plugins/scene/link/LinkFactory.h"
+#include "plugins/scene/reading/SceneFacts.h"
 
 #include <array>
 #include <utility>

@@ -2,7 +2,7 @@
 
 #include "linkpath/Clearance.h"
 #include "plugins/scene/layers/SiteStyle.h"
-#include "plugins/scene/link/LinkObject.h"
+#include "plugins/scene/parametric/LinkObject.h"
 
 namespace vlt::scene {
 

@@ -4,7 +4,7 @@
 #include "plugins/scene/layers/LinkLayerStyle.h"
 #include "plugins/scene/layers/LinkRows.h"
 #include "plugins/scene/layers/SiteRecords.h"
-#include "plugins/scene/link/LinkObject.h"
+#include "plugins/scene/parametric/LinkObject.h"
 
 #include <map>
 #include <vector>

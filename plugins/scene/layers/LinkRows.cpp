@@ -1,9 +1,9 @@
 #include "plugins/scene/layers/LinkRows.h"
 
-#include "plugins/scene/layers/BadLayer.h"
 #include "plugins/scene/layers/SiteColumns.h"
-#include "plugins/scene/layers/TableReading.h"
-#include "plugins/scene/link/LinkObject.h"
+#include "plugins/scene/parametric/LinkObject.h"
+#include "plugins/scene/reading/BadLayer.h"
+#include "plugins/scene/reading/TableReading.h"
 
 #include <cpl_error.h>
 

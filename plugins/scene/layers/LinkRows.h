@@ -2,8 +2,8 @@
 
 #include "connection/ConnectionString.h"
 #include "linkpath/PathProfiler.h"
-#include "plugins/scene/layers/LayerFile.h"
-#include "plugins/scene/layers/SceneFrame.h"
+#include "plugins/scene/reading/LayerFile.h"
+#include "plugins/scene/reading/SceneFrame.h"
 
 #include <osg/Vec2d>
 

@@ -2,9 +2,9 @@
 
 #include "plugins/scene/layers/SiteLabels.h"
 #include "plugins/scene/layers/SiteTree.h"
+#include "plugins/scene/mesh/DeferredNode.h"
 #include "plugins/scene/mesh/MovedNode.h"
 #include "plugins/scene/mesh/Palette.h"
-#include "plugins/scene/pylon/DeferredNode.h"
 #include "plugins/scene/pylon/PylonFactory.h"
 #include "plugins/scene/pylon/Sectors.h"
 

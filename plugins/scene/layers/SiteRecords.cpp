@@ -1,8 +1,8 @@
 #include "plugins/scene/layers/SiteRecords.h"
 
-#include "plugins/scene/layers/BadLayer.h"
 #include "plugins/scene/layers/SiteColumns.h"
-#include "plugins/scene/layers/TableReading.h"
+#include "plugins/scene/reading/BadLayer.h"
+#include "plugins/scene/reading/TableReading.h"
 
 #include <cpl_error.h>
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "plugins/scene/layers/LayerFile.h"
-#include "plugins/scene/layers/SceneFrame.h"
 #include "plugins/scene/layers/SiteStyle.h"
+#include "plugins/scene/reading/LayerFile.h"
+#include "plugins/scene/reading/SceneFrame.h"
 
 #include <osg/Vec3d>
 

@@ -1,6 +1,6 @@
 #include "plugins/scene/layers/SiteScene.h"
 
-#include "plugins/scene/layers/SceneFacts.h"
+#include "plugins/scene/reading/SceneFacts.h"
 
 namespace vlt::scene {
 

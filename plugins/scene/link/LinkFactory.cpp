@@ -2,8 +2,8 @@
 
 #include "linkpath/Fresnel.h"
 #include "plugins/scene/link/LinkStates.h"
+#include "plugins/scene/mesh/DeferredNode.h"
 #include "plugins/scene/mesh/Solids.h"
-#include "plugins/scene/pylon/DeferredNode.h"
 
 #include <osg/Geode>
 #include <osg/LOD>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "plugins/scene/link/LinkObject.h"
+#include "plugins/scene/parametric/LinkObject.h"
 
 #include <osg/StateSet>
 #include <osg/ref_ptr>

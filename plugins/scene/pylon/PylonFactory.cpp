@@ -1,10 +1,10 @@
 #include "plugins/scene/pylon/PylonFactory.h"
 
+#include "plugins/scene/mesh/DeferredNode.h"
 #include "plugins/scene/mesh/Palette.h"
 #include "plugins/scene/mesh/Solids.h"
 #include "plugins/scene/pylon/Antennas.h"
 #include "plugins/scene/pylon/BothSidesGeometry.h"
-#include "plugins/scene/pylon/DeferredNode.h"
 #include "plugins/scene/pylon/Fittings.h"
 #include "plugins/scene/pylon/Masts.h"
 #include "plugins/scene/pylon/Sectors.h"

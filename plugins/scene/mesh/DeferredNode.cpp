@@ -1,4 +1,4 @@
-#include "plugins/scene/pylon/DeferredNode.h"
+#include "plugins/scene/mesh/DeferredNode.h"
 
 namespace vlt::scene {
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "connection/ConnectionString.h"
-#include "plugins/scene/layers/SceneFrame.h"
+#include "plugins/scene/reading/SceneFrame.h"
 
 #include <gdal_priv.h>
 #include <ogrsf_frmts.h>

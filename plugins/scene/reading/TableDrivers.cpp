@@ -1,4 +1,4 @@
-#include "plugins/scene/layers/TableDrivers.h"
+#include "plugins/scene/reading/TableDrivers.h"
 
 #include <cpl_conv.h>
 #include <gdal_priv.h>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "connection/ConnectionString.h"
-#include "plugins/scene/layers/LayerFile.h"
+#include "plugins/scene/reading/LayerFile.h"
 
 #include <string>
 #include <vector>

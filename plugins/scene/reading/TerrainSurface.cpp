@@ -1,4 +1,4 @@
-#include "plugins/scene/layers/TerrainSurface.h"
+#include "plugins/scene/reading/TerrainSurface.h"
 
 #include "plugins/scene/mesh/Mesh.h"
 

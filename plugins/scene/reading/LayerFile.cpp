@@ -1,7 +1,7 @@
-#include "plugins/scene/layers/LayerFile.h"
+#include "plugins/scene/reading/LayerFile.h"
 
-#include "plugins/scene/layers/BadLayer.h"
-#include "plugins/scene/layers/LayerText.h"
+#include "plugins/scene/reading/BadLayer.h"
+#include "plugins/scene/reading/LayerText.h"
 
 #include <array>
 #include <filesystem>

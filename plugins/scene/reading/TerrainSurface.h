@@ -1,7 +1,7 @@
 #pragma once
 
 #include "linkpath/PathProfiler.h"
-#include "plugins/scene/layers/LocalFrame.h"
+#include "plugins/scene/reading/LocalFrame.h"
 
 #include <osg/BoundingBox>
 #include <osg/Node>

@@ -1,4 +1,4 @@
-#include "plugins/scene/layers/TextEncoding.h"
+#include "plugins/scene/reading/TextEncoding.h"
 
 #include <cpl_string.h>
 

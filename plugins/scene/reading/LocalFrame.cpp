@@ -1,6 +1,6 @@
-#include "plugins/scene/layers/LocalFrame.h"
+#include "plugins/scene/reading/LocalFrame.h"
 
-#include "plugins/scene/layers/BadLayer.h"
+#include "plugins/scene/reading/BadLayer.h"
 
 #include <algorithm>
 #include <cmath>

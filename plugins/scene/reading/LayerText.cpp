@@ -1,7 +1,7 @@
-#include "plugins/scene/layers/LayerText.h"
+#include "plugins/scene/reading/LayerText.h"
 
-#include "plugins/scene/layers/BadLayer.h"
-#include "plugins/scene/layers/TextEncoding.h"
+#include "plugins/scene/reading/BadLayer.h"
+#include "plugins/scene/reading/TextEncoding.h"
 
 #include <array>
 #include <charconv>

@@ -1,6 +1,6 @@
-#include "plugins/scene/layers/TableLocation.h"
+#include "plugins/scene/reading/TableLocation.h"
 
-#include "plugins/scene/layers/BadLayer.h"
+#include "plugins/scene/reading/BadLayer.h"
 
 #include <cstdlib>
 #include <filesystem>

@@ -1,7 +1,7 @@
-#include "plugins/scene/layers/TableReading.h"
+#include "plugins/scene/reading/TableReading.h"
 
-#include "plugins/scene/layers/BadLayer.h"
-#include "plugins/scene/layers/TableDrivers.h"
+#include "plugins/scene/reading/BadLayer.h"
+#include "plugins/scene/reading/TableDrivers.h"
 
 #include <cpl_error.h>
 

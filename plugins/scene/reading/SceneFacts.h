@@ -1,6 +1,6 @@
 #pragma once
 
-#include "plugins/scene/layers/SceneFrame.h"
+#include "plugins/scene/reading/SceneFrame.h"
 
 #include <osg/Group>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "plugins/scene/layers/LocalFrame.h"
+#include "plugins/scene/reading/LocalFrame.h"
 
 #include <memory>
 #include <string>

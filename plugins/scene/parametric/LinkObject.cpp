@@ -1,4 +1,4 @@
-#include "plugins/scene/link/LinkObject.h"
+#include "plugins/scene/parametric/LinkObject.h"
 
 #include "plugins/scene/parametric/ParametricQuery.h"
 

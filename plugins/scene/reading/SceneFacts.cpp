@@ -1,4 +1,4 @@
-#include "plugins/scene/layers/SceneFacts.h"
+#include "plugins/scene/reading/SceneFacts.h"
 
 #include <iomanip>
 #include <locale>
