@@ -1,6 +1,6 @@
 #include "geodata/TableDataset.h"
 
-#include "tabletexts/TextPatterns.h"
+#include "contract/TextPatterns.h"
 
 #include <QFile>
 
@@ -36,8 +36,7 @@ Result<GDALDatasetUniquePtr> openTable(const QString &connection, const ErrorCol
     GDALDatasetUniquePtr dataset(
         GDALDataset::Open(QFile::encodeName(connection).constData(), GDAL_OF_VECTOR));
     if (!dataset) {
-        const QString noReader =
-            QString::fromStdString(tabletexts::formatted("MESS_TAB_NO_READER"));
+        const QString noReader = QString::fromStdString(contract::formatted("MESS_TAB_NO_READER"));
         return Error{QString(), withoutPath(errors.failure(noReader), connection), {}};
     }
     return dataset;

@@ -1,6 +1,6 @@
 #include "sites/SiteColumnSet.h"
 
-#include "connection/ConnectionString.h"
+#include "contract/ConnectionString.h"
 #include "geodata/LayerInfo.h"
 #include "sites/ColumnPatterns.h"
 
@@ -123,8 +123,8 @@ QString resolvedConnection(const QString &connection, const QString &projectDire
     if (projectDirectory.isEmpty())
         return connection;
     return QFile::decodeName(QByteArray::fromStdString(
-        connection::resolved(QFile::encodeName(connection).toStdString(),
-                             QFile::encodeName(projectDirectory).toStdString())));
+        contract::resolvedConnection(QFile::encodeName(connection).toStdString(),
+                                     QFile::encodeName(projectDirectory).toStdString())));
 }
 
 } // namespace vlt::sites

@@ -1,7 +1,7 @@
 #include "sites/TableTexts.h"
 
+#include "contract/TextPatterns.h"
 #include "language/VltLanguageManager.h"
-#include "tabletexts/TextPatterns.h"
 
 #include <array>
 
@@ -11,7 +11,7 @@ namespace {
 
 auto recognised(const QByteArray &english)
 {
-    return tabletexts::recognised({english.constData(), static_cast<std::size_t>(english.size())});
+    return contract::recognised({english.constData(), static_cast<std::size_t>(english.size())});
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 #include "snapshot/SceneSource.h"
 
-#include "connection/ReaderOptions.h"
+#include "contract/ReaderOptions.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -95,15 +95,15 @@ Result<Scene> readScene(const QString &name, const QString &project, TerrainSurf
         registry->setReadFileCallback(new LocalFilesOnly);
     if (!project.isEmpty())
         options->setPluginStringData(
-            connection::ProjectKey,
+            contract::ProjectDatum,
             QFile::encodeName(QFileInfo(project).absoluteFilePath()).toStdString());
     if (terrain == TerrainSurface::Shown)
-        options->setPluginStringData(connection::TerrainKey, "1");
-    options->setPluginStringData(connection::DrawnKey, "1");
+        options->setPluginStringData(contract::TerrainDatum, "1");
+    options->setPluginStringData(contract::DrawnDatum, "1");
     platform::Progress told = progress;
-    connection::ReadProgress listener{report, &told};
+    contract::ReadProgress listener{report, &told};
     if (told)
-        options->setPluginData(connection::ProgressKey, &listener);
+        options->setPluginData(contract::ProgressDatum, &listener);
     const std::string path = QFile::encodeName(source).toStdString();
     ReadResult read = registry->readNode(path, options.get());
     if (read.validNode())

@@ -1,4 +1,4 @@
-#include "connection/ReaderOptions.h"
+#include "contract/ReaderOptions.h"
 #include "snapshot/SceneSource.h"
 
 #include <QList>
@@ -24,15 +24,15 @@ public:
     {
         if (!acceptsExtension(osgDB::getLowerCaseFileExtension(name)))
             return ReadResult::FILE_NOT_HANDLED;
-        const auto *progress = static_cast<const vlt::connection::ReadProgress *>(
-            options->getPluginData(vlt::connection::ProgressKey));
+        const auto *progress = static_cast<const vlt::contract::ReadProgress *>(
+            options->getPluginData(vlt::contract::ProgressDatum));
         for (int quarter = 1; progress && quarter <= 4; ++quarter) {
             if (!progress->report(progress->context, quarter / 4.))
-                return ReadResult(std::string(vlt::connection::StoppedText));
+                return ReadResult(std::string(vlt::contract::StoppedText));
         }
         osg::ref_ptr<osg::Group> scene = new osg::Group;
-        scene->addDescription(options->getPluginStringData(vlt::connection::ProjectKey));
-        scene->addDescription(options->getPluginStringData(vlt::connection::TerrainKey));
+        scene->addDescription(options->getPluginStringData(vlt::contract::ProjectDatum));
+        scene->addDescription(options->getPluginStringData(vlt::contract::TerrainDatum));
         return scene.get();
     }
 };
@@ -87,7 +87,7 @@ private Q_SLOTS:
                                                    [](double share) { return share < 0.5; });
 
         QVERIFY(!read);
-        QCOMPARE(read.error().text, QLatin1String(vlt::connection::StoppedText));
+        QCOMPARE(read.error().text, QLatin1String(vlt::contract::StoppedText));
     }
 };
 

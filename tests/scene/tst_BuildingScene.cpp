@@ -1,6 +1,6 @@
 #include "LayerScenes.h"
 #include "TownTesting.h"
-#include "connection/ReaderOptions.h"
+#include "contract/ReaderOptions.h"
 #include "plugins/scene/buildings/BuildingScene.h"
 #include "plugins/scene/reading/BadLayer.h"
 
@@ -370,9 +370,9 @@ private Q_SLOTS:
             shares.push_back(share);
             return shares.size() < stopAt;
         };
-        connection::ReadProgress progress{hear, &caller};
+        contract::ReadProgress progress{hear, &caller};
         const osg::ref_ptr<osgDB::Options> options = new osgDB::Options;
-        options->setPluginData(connection::ProgressKey, &progress);
+        options->setPluginData(contract::ProgressDatum, &progress);
 
         QVERIFY(layertest::open(path("t.texb"), options).scene);
         QVERIFY(std::is_sorted(caller.shares.begin(), caller.shares.end()));
@@ -384,7 +384,7 @@ private Q_SLOTS:
             caller = {{}, call};
             const layertest::Opened stopped = layertest::open(path("t.texb"), options);
             QVERIFY(!stopped.scene);
-            QCOMPARE(stopped.fault, std::string(connection::StoppedText));
+            QCOMPARE(stopped.fault, std::string(contract::StoppedText));
             QCOMPARE(caller.shares.size(), call);
         }
     }
@@ -395,7 +395,7 @@ private Q_SLOTS:
         write(path("docs/t.texb"), document("../town.gpkg"));
         write(path("layers/beside.texb"), document("town.gpkg")); // beside the project
         const osg::ref_ptr<osgDB::Options> options = new osgDB::Options;
-        options->setPluginStringData(connection::ProjectKey, path("p.gvw").toStdString());
+        options->setPluginStringData(contract::ProjectDatum, path("p.gvw").toStdString());
         const std::map<QByteArray, bool> sources = {
             {"TEXB:" + path("docs/t.texb").toUtf8(), true},
             {"texb:beside.texb", true}, // in the layer's folder

@@ -1,4 +1,4 @@
-#include "connection/ConnectionString.h"
+#include "contract/ConnectionString.h"
 #include "plugins/tables/sites/Angle.h"
 #include "plugins/tables/sites/CoordinatePair.h"
 
@@ -125,13 +125,13 @@ private Q_SLOTS:
         QFETCH(QByteArray, lods);
         QFETCH(QByteArray, path);
 
-        const auto connection = vlt::connection::parse(text.toStdString());
+        const auto connection = vlt::contract::parseConnection(text.toStdString());
 
         QVERIFY(connection.has_value());
         QCOMPARE(QByteArray::fromStdString(connection->option("s_srs")), source);
         QCOMPARE(QByteArray::fromStdString(connection->option("lods")), lods);
         QCOMPARE(QByteArray::fromStdString(connection->path), path);
-        QCOMPARE(QByteArray::fromStdString(vlt::connection::compose(*connection)).mid(4),
+        QCOMPARE(QByteArray::fromStdString(vlt::contract::composeConnection(*connection)).mid(4),
                  text.mid(4));
     }
 };

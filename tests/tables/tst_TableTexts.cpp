@@ -1,8 +1,8 @@
-#include "tabletexts/TextPatterns.h"
+#include "contract/TextPatterns.h"
 
 #include <QtTest>
 
-using namespace vlt::tabletexts;
+using namespace vlt::contract;
 
 namespace {
 

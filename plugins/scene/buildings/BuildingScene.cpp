@@ -1,6 +1,6 @@
 #include "plugins/scene/buildings/BuildingScene.h"
 
-#include "connection/ReaderOptions.h"
+#include "contract/ReaderOptions.h"
 #include "plugins/scene/buildings/DocumentFiles.h"
 #include "plugins/scene/buildings/FootprintReader.h"
 #include "plugins/scene/buildings/GroundHeights.h"
@@ -143,7 +143,7 @@ std::vector<colormaps::Rgba> colorsOf(const Town &town, const std::string &color
     std::vector<colormaps::Rgba> colors =
         townColors(town, colorText, directories, notices, progress);
     if (colors.size() != town.footprints.buildings.size())
-        throw BadLayer(connection::StoppedText);
+        throw BadLayer(contract::StoppedText);
     return colors;
 }
 
@@ -168,7 +168,7 @@ TexturedMaker texturedMaker(const std::shared_ptr<const Town> &town, const TexbD
     const std::shared_ptr<TextureImages> images =
         TextureImages::open(*town, *document.textures, directories, notices, progress);
     if (!images)
-        throw BadLayer(connection::StoppedText);
+        throw BadLayer(contract::StoppedText);
     if (images->isEmpty())
         return {};
     return [town, images, textures = *document.textures, skirtM = document.skirtHeightM](

@@ -1,6 +1,6 @@
 #include "plugins/scene/buildings/FootprintReader.h"
 
-#include "connection/ReaderOptions.h"
+#include "contract/ReaderOptions.h"
 #include "localfiles/LocalFormats.h"
 #include "localfiles/NoNetwork.h"
 #include "localfiles/OpenLocal.h"
@@ -214,7 +214,7 @@ void readFeatures(OGRLayer &layer, int heightField, ReadFootprints &read, Notice
         take(*feature, heightField, builder, read.leftOut);
         if (++read.features % FeaturesPerReport == 0 &&
             !progress(std::min(static_cast<double>(read.features) / expected, 1.0)))
-            throw BadLayer(connection::StoppedText);
+            throw BadLayer(contract::StoppedText);
     }
 }
 

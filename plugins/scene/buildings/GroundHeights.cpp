@@ -1,6 +1,6 @@
 #include "plugins/scene/buildings/GroundHeights.h"
 
-#include "connection/ReaderOptions.h"
+#include "contract/ReaderOptions.h"
 #include "linkpath/TerrainRaster.h"
 #include "localfiles/NoNetwork.h"
 #include "plugins/scene/reading/BadLayer.h"
@@ -133,7 +133,7 @@ std::vector<float> groundUnder(const Footprints &footprints, const OGRSpatialRef
     for (std::size_t i = 0; i < heights.size(); ++i) {
         if (i % BuildingsPerReport == 0 &&
             !progress(static_cast<double>(i) / static_cast<double>(heights.size())))
-            throw BadLayer(connection::StoppedText);
+            throw BadLayer(contract::StoppedText);
         const Footprints::Ring &ring = footprints.rings[footprints.buildings[i].ringBegin];
         heights[i] = ground->meanUnder(footprints.placesOf(ring));
     }

@@ -1,6 +1,6 @@
 #include "plugins/scene/buildings/TownNodes.h"
 
-#include "connection/ReaderOptions.h"
+#include "contract/ReaderOptions.h"
 #include "plugins/scene/buildings/TownMesh.h"
 #include "plugins/scene/buildings/TownTree.h"
 #include "plugins/scene/mesh/DeferredNode.h"
@@ -200,7 +200,7 @@ private:
         m_done += tree.buildings.size();
         if (!m_progress(static_cast<double>(m_done) /
                         static_cast<double>(m_content->town->footprints.buildings.size())))
-            throw BadLayer(connection::StoppedText);
+            throw BadLayer(contract::StoppedText);
         return lod;
     }
 

@@ -15,7 +15,7 @@ using Directories = std::vector<std::string>;
 using Notices = std::vector<std::string>;
 
 /// The terrain under links; null where the layer has none, or none that can be used.
-std::shared_ptr<linkpath::TerrainRaster> openTerrain(const connection::ConnectionString &table,
+std::shared_ptr<linkpath::TerrainRaster> openTerrain(const contract::ConnectionString &table,
                                                      const Directories &directories,
                                                      Notices &notices)
 {

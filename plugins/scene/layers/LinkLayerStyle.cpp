@@ -2,7 +2,7 @@
 
 namespace vlt::scene {
 
-LinkLayerStyle readLinkLayerStyle(const connection::ConnectionString &source)
+LinkLayerStyle readLinkLayerStyle(const contract::ConnectionString &source)
 {
     const ItemText option = [&source](std::string_view key) { return styleOption(source, key); };
     return {readSiteStyle(source), readLinkLook(option, ClearanceWord::Accepted)};

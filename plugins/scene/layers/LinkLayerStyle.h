@@ -18,6 +18,6 @@ struct LinkLayerStyle
 /// Reads the options of readSiteStyle() and readLinkLook().
 ///
 /// @throws BadQuery  naming an option that is missing or a value that cannot be used
-LinkLayerStyle readLinkLayerStyle(const connection::ConnectionString &source);
+LinkLayerStyle readLinkLayerStyle(const contract::ConnectionString &source);
 
 } // namespace vlt::scene

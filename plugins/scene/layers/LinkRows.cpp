@@ -137,7 +137,7 @@ private:
 
 } // namespace
 
-LinkRows readLinkRows(const connection::ConnectionString &table, const LayerFile &layer)
+LinkRows readLinkRows(const contract::ConnectionString &table, const LayerFile &layer)
 {
     const CPLErrorHandlerPusher quiet(CPLQuietErrorHandler); // rows without a place are counted
     const GDALDatasetUniquePtr dataset = openTable(table);

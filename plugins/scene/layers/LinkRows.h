@@ -1,6 +1,6 @@
 #pragma once
 
-#include "connection/ConnectionString.h"
+#include "contract/ConnectionString.h"
 #include "linkpath/PathProfiler.h"
 #include "plugins/scene/reading/LayerFile.h"
 #include "plugins/scene/reading/SceneFrame.h"
@@ -45,6 +45,6 @@ struct LinkRows
 ///
 /// @param table  with the absolute path of a file
 /// @throws BadLayer  the table cannot be opened, has no such layer, or none of its rows has places
-LinkRows readLinkRows(const connection::ConnectionString &table, const LayerFile &layer);
+LinkRows readLinkRows(const contract::ConnectionString &table, const LayerFile &layer);
 
 } // namespace vlt::scene

@@ -135,7 +135,7 @@ private:
 
 } // namespace
 
-SiteRecords readSiteRecords(const connection::ConnectionString &table, const LayerFile &layer,
+SiteRecords readSiteRecords(const contract::ConnectionString &table, const LayerFile &layer,
                             const SiteStyle &style)
 {
     const CPLErrorHandlerPusher quiet(CPLQuietErrorHandler); // rows without a place are counted

@@ -52,7 +52,7 @@ struct SiteRecords : PylonRecords
 ///
 /// @param table  with the absolute path of a file
 /// @throws BadLayer  the table cannot be opened, or none of its rows has a position
-SiteRecords readSiteRecords(const connection::ConnectionString &table, const LayerFile &layer,
+SiteRecords readSiteRecords(const contract::ConnectionString &table, const LayerFile &layer,
                             const SiteStyle &style);
 
 } // namespace vlt::scene

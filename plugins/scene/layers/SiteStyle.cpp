@@ -22,7 +22,7 @@ struct Number
     double *value;
 };
 
-void readNumbers(const connection::ConnectionString &source, const std::string &key,
+void readNumbers(const contract::ConnectionString &source, const std::string &key,
                  std::string_view meaning, std::initializer_list<Number> numbers)
 {
     const std::string value = styleOption(source, key);
@@ -34,7 +34,7 @@ void readNumbers(const connection::ConnectionString &source, const std::string &
 
 } // namespace
 
-std::string styleOption(const connection::ConnectionString &source, std::string_view key)
+std::string styleOption(const contract::ConnectionString &source, std::string_view key)
 {
     std::string value = source.option(key);
     if (value.empty())
@@ -42,7 +42,7 @@ std::string styleOption(const connection::ConnectionString &source, std::string_
     return value;
 }
 
-SiteStyle readSiteStyle(const connection::ConnectionString &source)
+SiteStyle readSiteStyle(const contract::ConnectionString &source)
 {
     SiteStyle style;
     PylonDesign &pylon = style.pylon;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "connection/ConnectionString.h"
+#include "contract/ConnectionString.h"
 #include "plugins/scene/parametric/PylonObject.h"
 
 #include <string>
@@ -17,12 +17,12 @@ struct SiteStyle
 };
 
 /// The text of an option of a layer's source. @throws BadQuery  missing
-std::string styleOption(const connection::ConnectionString &source, std::string_view key);
+std::string styleOption(const contract::ConnectionString &source, std::string_view key);
 
 /// Reads the options pylon_type, pylon_width, sector_colors, sector_properties, transmitter_scale
 /// and lods.
 ///
 /// @throws BadQuery  naming an option that is missing or a value that cannot be used
-SiteStyle readSiteStyle(const connection::ConnectionString &source);
+SiteStyle readSiteStyle(const contract::ConnectionString &source);
 
 } // namespace vlt::scene

@@ -1,6 +1,6 @@
 #include "plugins/scene/readers/ReadRequest.h"
 
-#include "connection/ReaderOptions.h"
+#include "contract/ReaderOptions.h"
 
 #include <osg/Notify>
 #include <osgDB/FileNameUtils>
@@ -14,7 +14,7 @@ using ReadResult = osgDB::ReaderWriter::ReadResult;
 
 std::string projectOf(const osgDB::Options &options)
 {
-    std::string datum = options.getPluginStringData(connection::ProjectKey);
+    std::string datum = options.getPluginStringData(contract::ProjectDatum);
     if (!datum.empty())
         return datum;
     constexpr std::string_view Key = "project=";
@@ -46,10 +46,10 @@ ReadRequest readRequestOf(const osgDB::Options *options)
     if (!options)
         return request;
     request.project = projectOf(*options);
-    request.withTerrain = options->getPluginStringData(connection::TerrainKey) == "1";
-    request.isOnlyDrawn = options->getPluginStringData(connection::DrawnKey) == "1";
-    const auto *progress = static_cast<const connection::ReadProgress *>(
-        options->getPluginData(connection::ProgressKey));
+    request.withTerrain = options->getPluginStringData(contract::TerrainDatum) == "1";
+    request.isOnlyDrawn = options->getPluginStringData(contract::DrawnDatum) == "1";
+    const auto *progress = static_cast<const contract::ReadProgress *>(
+        options->getPluginData(contract::ProgressDatum));
     if (progress && progress->report)
         request.progress = [progress](double share) {
             return progress->report(progress->context, share);
@@ -73,7 +73,7 @@ ReadResult readLocalScene(
         return scene.get();
     } catch (const std::exception &fault) { // BadLayer, BadQuery, or out of memory
         const std::string text = fault.what();
-        return ReadResult(text == connection::StoppedText ? text : path + ": " + text);
+        return ReadResult(text == contract::StoppedText ? text : path + ": " + text);
     }
 }
 

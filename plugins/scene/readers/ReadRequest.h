@@ -17,12 +17,12 @@ inline constexpr char ProjectOptionText[] =
 /// What a caller of a layer reader asks for.
 struct ReadRequest
 {
-    /// The project file that the caller names: the plug-in datum connection::ProjectKey, or what
+    /// The project file that the caller names: the plug-in datum contract::ProjectDatum, or what
     /// follows "project=" in the option string, in quotation marks or up to its end.
     std::string project;
-    bool withTerrain = false;             ///< the plug-in datum connection::TerrainKey is "1"
-    bool isOnlyDrawn = false;             ///< the plug-in datum connection::DrawnKey is "1"
-    std::function<bool(double)> progress; ///< calls the datum connection::ProgressKey, if any
+    bool withTerrain = false;             ///< the plug-in datum contract::TerrainDatum is "1"
+    bool isOnlyDrawn = false;             ///< the plug-in datum contract::DrawnDatum is "1"
+    std::function<bool(double)> progress; ///< calls the datum contract::ProgressDatum, if any
 };
 
 ReadRequest readRequestOf(const osgDB::Options *options);
@@ -31,7 +31,7 @@ ReadRequest readRequestOf(const osgDB::Options *options);
 ///
 /// @param name  as the caller has it; looked for where the scene library looks for files
 /// @param read  makes the scene of the path that was found and adds notices; what it throws is the
-///              reader's message, after the path, but for connection::StoppedText, which is all
+///              reader's message, after the path, but for contract::StoppedText, which is all
 osgDB::ReaderWriter::ReadResult readLocalScene(
     const std::string &name, const osgDB::Options *options,
     const std::function<osg::ref_ptr<osg::Group>(const std::string &path, const ReadRequest &,

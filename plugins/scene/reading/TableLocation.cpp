@@ -20,18 +20,18 @@ std::string fileIn(const std::string &directory, const std::string &path)
 
 } // namespace
 
-connection::ConnectionString locateTable(const std::string &source, LayerKind kind,
-                                         const std::vector<std::string> &directories)
+contract::ConnectionString locateTable(const std::string &source, LayerKind kind,
+                                       const std::vector<std::string> &directories)
 {
     const std::string start = kind == LayerKind::Links ? "link" : "site";
-    const auto plain = connection::parse(source);
+    const auto plain = contract::parseConnection(source);
     if (!plain || plain->kind != start)
         throw BadLayer("the source \"" + source.substr(0, 60) + "\" does not start with \"" +
                        start + ":\"");
     if (plain->path.empty())
         throw BadLayer("the source names no table");
     for (const std::string &directory : directories) {
-        auto connection = connection::parse(source, directory);
+        auto connection = contract::parseConnection(source, directory);
         const std::string path = fileIn(directory, connection->path);
         if (path.empty())
             continue;

@@ -69,7 +69,7 @@ std::string nameOf(const OGRSpatialReference *srs)
 
 } // namespace
 
-GDALDatasetUniquePtr openTable(const connection::ConnectionString &table)
+GDALDatasetUniquePtr openTable(const contract::ConnectionString &table)
 {
     constexpr char Driver[] = "VltTables";
     registerTableDrivers();
@@ -79,7 +79,7 @@ GDALDatasetUniquePtr openTable(const connection::ConnectionString &table)
     CPLErrorReset();
     const char *const drivers[] = {Driver, nullptr};
     GDALDatasetUniquePtr dataset(
-        GDALDataset::Open(connection::compose(table).c_str(),
+        GDALDataset::Open(contract::composeConnection(table).c_str(),
                           GDAL_OF_VECTOR | GDAL_OF_READONLY | GDAL_OF_VERBOSE_ERROR, drivers));
     if (!dataset)
         throw BadLayer(CPLGetLastErrorMsg());

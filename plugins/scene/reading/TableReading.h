@@ -1,6 +1,6 @@
 #pragma once
 
-#include "connection/ConnectionString.h"
+#include "contract/ConnectionString.h"
 #include "plugins/scene/reading/SceneFrame.h"
 
 #include <gdal_priv.h>
@@ -16,7 +16,7 @@ namespace vlt::scene {
 ///
 /// @param table  with the absolute path of a file
 /// @throws BadLayer  the driver is not there, or cannot open it
-GDALDatasetUniquePtr openTable(const connection::ConnectionString &table);
+GDALDatasetUniquePtr openTable(const contract::ConnectionString &table);
 
 /// Names of the fields of a layer, in their order.
 std::vector<std::string> fieldNamesOf(OGRLayer &layer);

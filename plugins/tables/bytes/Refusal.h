@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tabletexts/TextPatterns.h"
+#include "contract/TextPatterns.h"
 
 #include <stdexcept>
 #include <string>
@@ -22,7 +22,7 @@ enum class Refusal {
     BadOption,          ///< an option of the connection string or an open option cannot be used
 };
 
-using tabletexts::TextId;
+using contract::TextId;
 
 /// Thrown inside the reader, caught where the file was opened; the text names the reason for the
 /// user.
@@ -30,7 +30,7 @@ class RefusedFile : public std::runtime_error
 {
 public:
     RefusedFile(Refusal reason, TextId text, std::initializer_list<std::string_view> values = {})
-        : std::runtime_error(tabletexts::formatted(text, values))
+        : std::runtime_error(contract::formatted(text, values))
         , m_reason(reason)
     {}
 

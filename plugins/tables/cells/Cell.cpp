@@ -1,7 +1,7 @@
 #include "plugins/tables/cells/Cell.h"
 
+#include "contract/TextPatterns.h"
 #include "plugins/tables/cells/Numbers.h"
-#include "tabletexts/TextPatterns.h"
 
 #include <algorithm>
 
@@ -18,8 +18,8 @@ constexpr std::string_view NoBreakSpace = "\xC2\xA0";
 void Row::addMissingText(int column, std::string_view textNumber)
 {
     constexpr size_t LongestNumber = 20;
-    faults.push_back({column, tabletexts::formatted("MESS_TAB_MISSING_TEXT",
-                                                    {textNumber.substr(0, LongestNumber)})});
+    faults.push_back({column, contract::formatted("MESS_TAB_MISSING_TEXT",
+                                                  {textNumber.substr(0, LongestNumber)})});
 }
 
 void Row::addMended(Cell cell)
@@ -32,7 +32,7 @@ void Row::addMended(Cell cell)
     if (cell.text.find('\0') != std::string_view::npos) {
         // At the ends they are padding; inside, programs that take them for the end would cut.
         if (trimmed(cell.text).find('\0') != std::string_view::npos)
-            faults.push_back({cell.column, tabletexts::formatted("MESS_TAB_ZEROS")});
+            faults.push_back({cell.column, contract::formatted("MESS_TAB_ZEROS")});
         std::string plain(cell.text);
         std::erase(plain, '\0');
         cell.text = keep(std::move(plain));
@@ -44,7 +44,7 @@ void Row::addMended(Cell cell)
         const auto isStart = [](char c) { return (c & 0xC0) != 0x80; };
         const auto count = std::count_if(first.begin(), first.end(), isStart);
         faults.push_back(
-            {cell.column, tabletexts::formatted("MESS_TAB_TEXT_CUT", {std::to_string(count)})});
+            {cell.column, contract::formatted("MESS_TAB_TEXT_CUT", {std::to_string(count)})});
         cell.text = first;
     }
     m_textSize += cell.text.size();

@@ -1,8 +1,8 @@
 #include "plugins/tables/links/LinkPlacer.h"
 
+#include "contract/TextPatterns.h"
 #include "plugins/tables/links/Quantity.h"
 #include "plugins/tables/table/ColumnStatistics.h"
-#include "tabletexts/TextPatterns.h"
 
 #include <cmath>
 
@@ -40,9 +40,8 @@ double LinkPlacer::offsetM(int64_t row, const QuantityField &offset,
         return 0;
     const auto metres = readLengthM(text, offset.unit.value_or(1));
     if (!metres)
-        problems.push_back(
-            {row, m_table->fields[static_cast<size_t>(offset.field)].name, false,
-             tabletexts::formatted("MESS_TAB_OFFSET_UNREADABLE", {quotation(text)})});
+        problems.push_back({row, m_table->fields[static_cast<size_t>(offset.field)].name, false,
+                            contract::formatted("MESS_TAB_OFFSET_UNREADABLE", {quotation(text)})});
     return metres.value_or(0);
 }
 

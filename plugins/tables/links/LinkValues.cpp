@@ -1,13 +1,13 @@
 #include "plugins/tables/links/LinkValues.h"
 
+#include "contract/TextPatterns.h"
 #include "plugins/tables/links/Quantity.h"
 #include "plugins/tables/table/ColumnStatistics.h"
-#include "tabletexts/TextPatterns.h"
 
 namespace vlt::driver {
 
-using tabletexts::formatted;
-using tabletexts::TextId;
+using contract::formatted;
+using contract::TextId;
 
 /// The row that is read, and where its problems go.
 struct LinkValueReader::Place

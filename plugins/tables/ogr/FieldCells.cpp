@@ -1,6 +1,6 @@
 #include "plugins/tables/ogr/FieldCells.h"
 
-#include "tabletexts/TextPatterns.h"
+#include "contract/TextPatterns.h"
 
 #include <algorithm>
 
@@ -62,8 +62,8 @@ void FieldCells::take(const Row &row, std::vector<RowProblem> &problems)
                 {row.number,
                  {},
                  false,
-                 tabletexts::formatted("MESS_TAB_BEHIND_LAST", {quotation(cellText(cell)),
-                                                                std::to_string(cell.column + 1)})});
+                 contract::formatted("MESS_TAB_BEHIND_LAST", {quotation(cellText(cell)),
+                                                              std::to_string(cell.column + 1)})});
             break;
         }
         const int field = m_fieldOfColumn[static_cast<size_t>(cell.column)];
@@ -78,7 +78,7 @@ void FieldCells::take(const Row &row, std::vector<RowProblem> &problems)
         const std::string_view text = trimmed(cell.text);
         if (losesDigits(cell, text))
             problems.push_back({row.number, of.name, false,
-                                tabletexts::formatted("MESS_TAB_DIGITS_LOST", {quotation(text)})});
+                                contract::formatted("MESS_TAB_DIGITS_LOST", {quotation(text)})});
         if (cell.kind == Cell::Kind::Number && text.empty())
             m_numbers[at] = cell.number;
         else if (const auto number = parseNumber(text, of.mark))
@@ -89,9 +89,8 @@ void FieldCells::take(const Row &row, std::vector<RowProblem> &problems)
         else {
             m_null[at] = 1;
             if (cell.kind != Cell::Kind::Error && !isMissingWord(text))
-                problems.push_back(
-                    {row.number, of.name, false,
-                     tabletexts::formatted("MESS_TAB_LOST_VALUE", {quotation(text)})});
+                problems.push_back({row.number, of.name, false,
+                                    contract::formatted("MESS_TAB_LOST_VALUE", {quotation(text)})});
         }
     }
 }

@@ -1,6 +1,6 @@
 #include "plugins/tables/ogr/LinkRowReader.h"
 
-#include "tabletexts/TextPatterns.h"
+#include "contract/TextPatterns.h"
 
 #include <cmath>
 
@@ -8,7 +8,7 @@ namespace vlt::driver {
 
 namespace {
 
-using tabletexts::formatted;
+using contract::formatted;
 
 constexpr double LeastLengthM = 1;
 constexpr double MostDeviation = 0.05; ///< of a stated length

@@ -1,6 +1,6 @@
 #include "plugins/tables/ogr/RowWarnings.h"
 
-#include "tabletexts/TextPatterns.h"
+#include "contract/TextPatterns.h"
 
 #include <cpl_error.h>
 
@@ -8,7 +8,7 @@ namespace vlt::driver {
 
 namespace {
 
-using tabletexts::formatted;
+using contract::formatted;
 
 constexpr size_t MostWarnings = 50;
 

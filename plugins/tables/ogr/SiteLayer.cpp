@@ -1,6 +1,6 @@
 #include "plugins/tables/ogr/SiteLayer.h"
 
-#include "tabletexts/TextPatterns.h"
+#include "contract/TextPatterns.h"
 
 #include <cmath>
 
@@ -51,7 +51,7 @@ void SiteLayer::fillFeature(OGRFeature &feature, int) const
 void SiteLayer::addFileProblems(ProblemList &problems) const
 {
     if (!facts().sites().point.found())
-        problems.add({0, {}, true, tabletexts::formatted("MESS_TAB_NO_COORDINATES")});
+        problems.add({0, {}, true, contract::formatted("MESS_TAB_NO_COORDINATES")});
 }
 
 } // namespace vlt::driver

@@ -1,4 +1,4 @@
-#include "connection/ConnectionString.h"
+#include "contract/ConnectionString.h"
 #include "plugins/tables/bytes/Refusal.h"
 #include "plugins/tables/ogr/LinkEndLayer.h"
 #include "plugins/tables/ogr/LinkLayer.h"
@@ -58,7 +58,7 @@ char delimiterOf(const std::string &word)
 
 /// How the table is read: as the open options say, else as the connection says, which is how a
 /// layer keeps what its maker chose.
-TableOptions optionsOf(const GDALOpenInfo &info, const connection::ConnectionString &connection)
+TableOptions optionsOf(const GDALOpenInfo &info, const contract::ConnectionString &connection)
 {
     const auto text = [&info](const char *name) {
         const char *value = CSLFetchNameValue(info.papszOpenOptions, name);
@@ -102,7 +102,7 @@ GDALDataset *open(GDALOpenInfo *info)
 {
     if (!identify(info))
         return nullptr;
-    const auto connection = connection::parse(info->pszFilename);
+    const auto connection = contract::parseConnection(info->pszFilename);
     if (info->eAccess == GA_Update) // programs try this first and then read: no word about it
         return nullptr;
     try {
@@ -119,7 +119,7 @@ GDALDataset *open(GDALOpenInfo *info)
     } catch (const RefusedFile &refused) {
         report(CPLE_OpenFailed, connection->path, refused.what());
     } catch (const std::bad_alloc &) {
-        report(CPLE_OutOfMemory, connection->path, tabletexts::formatted("MESS_TAB_OUT_OF_MEMORY"));
+        report(CPLE_OutOfMemory, connection->path, contract::formatted("MESS_TAB_OUT_OF_MEMORY"));
     }
     return nullptr;
 }

@@ -1,7 +1,7 @@
 #include "plugins/tables/ogr/TableLayer.h"
 
+#include "contract/TextPatterns.h"
 #include "plugins/tables/bytes/Refusal.h"
-#include "tabletexts/TextPatterns.h"
 
 #include <cpl_conv.h>
 #include <cpl_error.h>
@@ -14,7 +14,7 @@ namespace vlt::driver {
 
 namespace {
 
-using tabletexts::formatted;
+using contract::formatted;
 
 constexpr char ProblemsDomain[] = "problems";
 

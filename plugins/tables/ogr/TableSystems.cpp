@@ -8,7 +8,7 @@
 
 namespace vlt::driver {
 
-using tabletexts::formatted;
+using contract::formatted;
 
 /// A system from a code, a WKT or whatever the library understands; bare digits are EPSG codes.
 TableSystems::Srs TableSystems::make(const std::string &text)

@@ -13,7 +13,7 @@ namespace vlt::driver {
 
 namespace {
 
-using tabletexts::TextId;
+using contract::TextId;
 
 constexpr double MinutesPerDegree = 60;
 constexpr double SecondsPerDegree = 3600;

@@ -10,7 +10,7 @@ namespace vlt::driver {
 
 namespace {
 
-using tabletexts::TextId;
+using contract::TextId;
 
 constexpr double MostLongitude = 180;
 constexpr double MostLatitude = 90;

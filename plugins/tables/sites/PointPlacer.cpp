@@ -1,8 +1,8 @@
 #include "plugins/tables/sites/PointPlacer.h"
 
+#include "contract/TextPatterns.h"
 #include "plugins/tables/sites/Angle.h"
 #include "plugins/tables/sites/CoordinatePair.h"
-#include "tabletexts/TextPatterns.h"
 
 #include <cmath>
 
@@ -10,7 +10,7 @@ namespace vlt::driver {
 
 namespace {
 
-using tabletexts::TextId;
+using contract::TextId;
 
 constexpr double HalfTurnDegrees = 180;
 
@@ -37,8 +37,8 @@ RowProblem PointPlacer::problem(int64_t row, int field, const std::string &value
 {
     const Field &of = m_table->fields[static_cast<size_t>(field)];
     return {row, of.name, true,
-            value.empty() ? tabletexts::formatted("MESS_TAB_NO_COORDINATE")
-                          : tabletexts::formatted(why, {quotation(value)})};
+            value.empty() ? contract::formatted("MESS_TAB_NO_COORDINATE")
+                          : contract::formatted(why, {quotation(value)})};
 }
 
 bool PointPlacer::readAxis(int64_t row, const CoordinateFields &fields, Axis axis,

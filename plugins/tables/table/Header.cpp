@@ -1,8 +1,8 @@
 #include "plugins/tables/table/Header.h"
 
+#include "contract/TextPatterns.h"
 #include "plugins/tables/cells/Numbers.h"
 #include "plugins/tables/table/HeaderWords.h"
-#include "tabletexts/TextPatterns.h"
 
 #include <algorithm>
 #include <set>
@@ -47,8 +47,8 @@ std::vector<CellFault> faultsOf(const Row &row)
         if (firstCharacters(text, LongestName).size() == text.size())
             continue;
         cutColumns.insert(cell.column);
-        faults.push_back({cell.column, tabletexts::formatted("MESS_TAB_TEXT_CUT",
-                                                             {std::to_string(LongestName)})});
+        faults.push_back(
+            {cell.column, contract::formatted("MESS_TAB_TEXT_CUT", {std::to_string(LongestName)})});
     }
     for (const CellFault &fault : row.faults) // a text that is cut twice is reported once
         if (!cutColumns.contains(fault.column))

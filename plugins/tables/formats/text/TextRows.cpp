@@ -1,9 +1,9 @@
 #include "plugins/tables/formats/text/TextRows.h"
 
+#include "contract/TextPatterns.h"
 #include "plugins/tables/cells/ByteScan.h"
 #include "plugins/tables/formats/text/EncodingGuess.h"
 #include "plugins/tables/formats/text/Utf8Check.h"
-#include "tabletexts/TextPatterns.h"
 
 #include <algorithm>
 #include <cstring>
@@ -225,8 +225,8 @@ std::string_view TextRows::readable(Row &row) const
              at = findText(at + 1, m_rowEnd, Replacement))
             ++unreadable;
     if (unreadable > 0)
-        row.faults.push_back({-1, tabletexts::formatted("MESS_TAB_UNREADABLE_BYTES",
-                                                        {m_encoding, std::to_string(unreadable)})});
+        row.faults.push_back({-1, contract::formatted("MESS_TAB_UNREADABLE_BYTES",
+                                                      {m_encoding, std::to_string(unreadable)})});
     return line;
 }
 
@@ -273,8 +273,8 @@ void TextRows::cells(Row &row)
             : swallowedRows(lines.text, static_cast<size_t>(columnOfLines),
                             static_cast<size_t>(column - columnOfLines), m_delimiter, m_fieldCount);
     if (swallowed > 0)
-        row.faults.push_back({columnOfLines, tabletexts::formatted("MESS_TAB_SWALLOWED_ROWS",
-                                                                   {std::to_string(swallowed)})});
+        row.faults.push_back({columnOfLines, contract::formatted("MESS_TAB_SWALLOWED_ROWS",
+                                                                 {std::to_string(swallowed)})});
 }
 
 } // namespace vlt::driver

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tabletexts/TextTable.h"
+#include "contract/TextTable.h"
 
 #include <initializer_list>
 #include <optional>
@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-namespace vlt::tabletexts {
+namespace vlt::contract {
 
 /// The English text with the values in its places. A "%1" within a value stays.
 std::string formatted(const Text &text, std::initializer_list<std::string_view> values = {});
@@ -30,4 +30,4 @@ struct Recognised
 /// "...: %1".
 std::optional<Recognised> recognised(std::string_view english);
 
-} // namespace vlt::tabletexts
+} // namespace vlt::contract

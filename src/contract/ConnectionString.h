@@ -6,7 +6,7 @@
 #include <utility>
 #include <vector>
 
-namespace vlt::connection {
+namespace vlt::contract {
 
 /// A pylon query taken apart: "site:key=value,key=value,path". It is at the same time the
 /// connection string from which the table driver reads, and the only such text that this system
@@ -28,13 +28,14 @@ struct ConnectionString
 /// Takes a connection string apart; nothing when it starts with neither "site:" nor "link:" (in any
 /// case of letters). `baseDirectory` is where relative paths start; where commas leave a doubt, the
 /// split whose path exists there is taken.
-std::optional<ConnectionString> parse(std::string_view text, const std::string &baseDirectory = {});
+std::optional<ConnectionString> parseConnection(std::string_view text,
+                                                const std::string &baseDirectory = {});
 
 /// Puts the parts together again.
-std::string compose(const ConnectionString &connection);
+std::string composeConnection(const ConnectionString &connection);
 
 /// The same connection with relative paths, of the table and of "dem_file", made absolute against
 /// `baseDirectory`; unchanged when it is none.
-std::string resolved(std::string_view text, const std::string &baseDirectory);
+std::string resolvedConnection(std::string_view text, const std::string &baseDirectory);
 
-} // namespace vlt::connection
+} // namespace vlt::contract

@@ -1,8 +1,8 @@
-#include "tabletexts/TextPatterns.h"
+#include "contract/TextPatterns.h"
 
 #include <algorithm>
 
-namespace vlt::tabletexts {
+namespace vlt::contract {
 
 namespace {
 
@@ -105,4 +105,4 @@ std::optional<Recognised> recognised(std::string_view english)
     return std::nullopt;
 }
 
-} // namespace vlt::tabletexts
+} // namespace vlt::contract

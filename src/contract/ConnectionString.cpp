@@ -1,11 +1,11 @@
-#include "connection/ConnectionString.h"
+#include "contract/ConnectionString.h"
 
 #include <algorithm>
 #include <array>
 #include <filesystem>
 #include <set>
 
-namespace vlt::connection {
+namespace vlt::contract {
 
 namespace {
 
@@ -92,7 +92,8 @@ std::string ConnectionString::option(std::string_view key) const
     return {};
 }
 
-std::optional<ConnectionString> parse(std::string_view text, const std::string &baseDirectory)
+std::optional<ConnectionString> parseConnection(std::string_view text,
+                                                const std::string &baseDirectory)
 {
     constexpr size_t PrefixSize = 5;
     ConnectionString connection;
@@ -132,7 +133,7 @@ std::optional<ConnectionString> parse(std::string_view text, const std::string &
     return connection;
 }
 
-std::string compose(const ConnectionString &connection)
+std::string composeConnection(const ConnectionString &connection)
 {
     std::string text = connection.kind + ':';
     for (const auto &[key, value] : connection.options)
@@ -140,9 +141,9 @@ std::string compose(const ConnectionString &connection)
     return text + connection.path;
 }
 
-std::string resolved(std::string_view text, const std::string &baseDirectory)
+std::string resolvedConnection(std::string_view text, const std::string &baseDirectory)
 {
-    std::optional<ConnectionString> connection = parse(text, baseDirectory);
+    std::optional<ConnectionString> connection = parseConnection(text, baseDirectory);
     if (!connection || baseDirectory.empty())
         return std::string(text);
     const auto resolve = [&baseDirectory](std::string &path) {
@@ -153,7 +154,7 @@ std::string resolved(std::string_view text, const std::string &baseDirectory)
     for (auto &[key, value] : connection->options)
         if (key == TerrainKey)
             resolve(value);
-    return compose(*connection);
+    return composeConnection(*connection);
 }
 
-} // namespace vlt::connection
+} // namespace vlt::contract

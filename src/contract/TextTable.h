@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <string_view>
 
-namespace vlt::tabletexts {
+namespace vlt::contract {
 
 /// A text that a reader of tables gives its user.
 ///
@@ -191,4 +191,4 @@ private:
     std::size_t m_index;
 };
 
-} // namespace vlt::tabletexts
+} // namespace vlt::contract

@@ -1,14 +1,14 @@
 #pragma once
 
-namespace vlt::connection {
+namespace vlt::contract {
 
 /// What a caller hands to the scene readers, as data of the plug-ins by these names: the path of
 /// the project file, "1" for the surface of the terrain under a scene that knows one, "1" from a
 /// caller that does nothing with the scene but draw it, and the address of a ReadProgress.
-inline constexpr char ProjectKey[] = "vlt.project";
-inline constexpr char TerrainKey[] = "vlt.terrain";
-inline constexpr char DrawnKey[] = "vlt.drawn";
-inline constexpr char ProgressKey[] = "vlt.progress";
+inline constexpr char ProjectDatum[] = "vlt.project";
+inline constexpr char TerrainDatum[] = "vlt.terrain";
+inline constexpr char DrawnDatum[] = "vlt.drawn";
+inline constexpr char ProgressDatum[] = "vlt.progress";
 
 /// How a reader tells how far it is. Plain, for it goes from one module to another.
 struct ReadProgress
@@ -21,4 +21,4 @@ struct ReadProgress
 
 inline constexpr char StoppedText[] = "stopped";
 
-} // namespace vlt::connection
+} // namespace vlt::contract
