@@ -118,7 +118,7 @@ TableOutcome outcomeOf(InfoReport report, const QString &kind, const QString &ta
 }
 
 TableOutcome readTable(const QString &table, bool isLinks, const sites::TableReading &reading,
-                       const sites::ProjectContext &project)
+                       const project::ProjectContext &project)
 {
     const QString path = QFileInfo(table).absoluteFilePath();
     return isLinks ? outcomeOf(linkReport(links::readLinkFileInfoAs(path, project, reading)),

@@ -152,7 +152,7 @@ ExitStatus makeLayer(const links::LinkLayerInput &input, const LayerRequest &req
 ExitStatus runParsed(const QCommandLineParser &parser, const LinkRequest &wanted,
                      const GlobalOptions &options, const Surroundings &surroundings)
 {
-    sites::ProjectContext project = surroundings.project;
+    project::ProjectContext project = surroundings.project;
     if (wanted.terrain) {
         project.terrainFile =
             wanted.terrain->isEmpty() ? QString() : QFileInfo(*wanted.terrain).absoluteFilePath();

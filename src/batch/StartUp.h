@@ -1,7 +1,7 @@
 #pragma once
 
 #include "batch/CommandLine.h"
-#include "sites/ProjectContext.h"
+#include "wizard/project/ProjectContext.h"
 
 namespace vlt::batch {
 
@@ -10,7 +10,7 @@ struct Surroundings
 {
     QString installDir; ///< absolute
     QString language;   ///< language code
-    sites::ProjectContext project;
+    project::ProjectContext project;
 };
 
 /// Settles install directory and language and loads the messages; the directory need not be there.

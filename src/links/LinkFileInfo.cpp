@@ -28,12 +28,12 @@ QString linkEndNameField(const QString &format)
                                                                 : sites::siteNameField(format);
 }
 
-LinkFileInfo readLinkFileInfo(const QString &path, const sites::ProjectContext &project)
+LinkFileInfo readLinkFileInfo(const QString &path, const project::ProjectContext &project)
 {
     return readLinkFileInfoAs(path, project, {});
 }
 
-LinkFileInfo readLinkFileInfoAs(const QString &path, const sites::ProjectContext &project,
+LinkFileInfo readLinkFileInfoAs(const QString &path, const project::ProjectContext &project,
                                 const sites::TableReading &reading)
 {
     LinkFileInfo info;

@@ -18,10 +18,10 @@ struct LinkFileInfo : sites::TableFileInfo
 /// ends' layer: "Site name", "NAME" or "Site ID".
 ///
 /// Errors of the value: MESS_ERR_OPEN_LINK or MESS_ERR_EMPTY_LINK.
-LinkFileInfo readLinkFileInfo(const QString &path, const sites::ProjectContext &project);
+LinkFileInfo readLinkFileInfo(const QString &path, const project::ProjectContext &project);
 
 /// The same for a table that is read as the user says.
-LinkFileInfo readLinkFileInfoAs(const QString &path, const sites::ProjectContext &project,
+LinkFileInfo readLinkFileInfoAs(const QString &path, const project::ProjectContext &project,
                                 const sites::TableReading &reading);
 
 /// The column of the link ends that names a site, by the format of the table.

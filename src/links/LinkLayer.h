@@ -15,7 +15,7 @@ struct LinkLayerInput
     sites::SiteRepresentation pylons;
     LinkRepresentation links;
     sites::SiteCatalogues catalogues;
-    sites::ProjectContext project;
+    project::ProjectContext project;
     QString installDir;
     QString language; ///< language code
 };

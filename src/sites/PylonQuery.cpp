@@ -33,7 +33,7 @@ QString extraPart(const PylonQuery &query)
     return parts.isEmpty() ? QString() : parts.join(QLatin1Char(',')) + QLatin1Char(',');
 }
 
-QString terrainPart(const PylonQuery &query, const ProjectContext &project)
+QString terrainPart(const PylonQuery &query, const project::ProjectContext &project)
 {
     if (query.kind != QLatin1String("link") || project.terrainFile.isEmpty())
         return {};
@@ -44,7 +44,7 @@ QString terrainPart(const PylonQuery &query, const ProjectContext &project)
 } // namespace
 
 QString buildPylonQuery(const PylonQuery &query, const SiteRepresentation &representation,
-                        const SiteCatalogues &catalogues, const ProjectContext &project)
+                        const SiteCatalogues &catalogues, const project::ProjectContext &project)
 {
     const PylonType *pylon = chosenPylonType(representation, catalogues);
     const SectorColorSet *colors = chosenColorSet(representation, catalogues);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "sites/ProjectContext.h"
+#include "wizard/project/ProjectContext.h"
 #include "sites/SiteRepresentation.h"
 #include "sites/TableReading.h"
 
@@ -21,7 +21,7 @@ struct PylonQuery
 /// read. The paths in it are relative to the project's directory. Empty where no pylon type or no
 /// colour set is chosen.
 QString buildPylonQuery(const PylonQuery &query, const SiteRepresentation &representation,
-                        const SiteCatalogues &catalogues, const ProjectContext &project);
+                        const SiteCatalogues &catalogues, const project::ProjectContext &project);
 
 /// The connection by which the rows of the table are read and placed, without the look of anything;
 /// its path is absolute.

@@ -51,12 +51,12 @@ std::optional<Problem> missingNameField(const SiteFileInfo &info)
     return problem;
 }
 
-SiteFileInfo readSiteFileInfo(const QString &path, const ProjectContext &project)
+SiteFileInfo readSiteFileInfo(const QString &path, const project::ProjectContext &project)
 {
     return readSiteFileInfoAs(path, project, {});
 }
 
-SiteFileInfo readSiteFileInfoAs(const QString &path, const ProjectContext &project,
+SiteFileInfo readSiteFileInfoAs(const QString &path, const project::ProjectContext &project,
                                 const TableReading &reading)
 {
     SiteFileInfo info;

@@ -14,10 +14,10 @@ struct SiteFileInfo : TableFileInfo
 
 /// Opens `path` as a site table and tells what it holds and which systems go with it in the
 /// project. An empty path gives an empty value without an error.
-SiteFileInfo readSiteFileInfo(const QString &path, const ProjectContext &project);
+SiteFileInfo readSiteFileInfo(const QString &path, const project::ProjectContext &project);
 
 /// The same for a table that is read as the user says.
-SiteFileInfo readSiteFileInfoAs(const QString &path, const ProjectContext &project,
+SiteFileInfo readSiteFileInfoAs(const QString &path, const project::ProjectContext &project,
                                 const TableReading &reading);
 
 /// The column that names a site in the exports of a tool: "Site name", "NAME", "SITE ID" or "Site

@@ -17,7 +17,7 @@ struct SiteLayerInput
     QString targetSrs; ///< as chosen, may be empty
     SiteRepresentation representation;
     SiteCatalogues catalogues;
-    ProjectContext project;
+    project::ProjectContext project;
     QString installDir;
     QString language; ///< language code
 };

@@ -28,7 +28,7 @@ QString unitWord(const QString &unit)
     return dico_label("MESS_DEC_DEGREES", "decimal degrees");
 }
 
-KnownSystems knownSystems(const TableFileInfo &info, const ProjectContext &project)
+KnownSystems knownSystems(const TableFileInfo &info, const project::ProjectContext &project)
 {
     KnownSystems known;
     known.unit = info.unit;
@@ -53,7 +53,7 @@ QString describeTableFile(const QString &format, const QString &unit)
 }
 
 QStringList readTableFileInfo(const TableKind &kind, const QString &path,
-                              const ProjectContext &project, TableFileInfo &info)
+                              const project::ProjectContext &project, TableFileInfo &info)
 {
     if (path.isEmpty())
         return {};

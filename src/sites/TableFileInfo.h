@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/Result.h"
-#include "sites/ProjectContext.h"
+#include "wizard/project/ProjectContext.h"
 #include "sites/SiteSystems.h"
 #include "sites/TableReading.h"
 
@@ -48,7 +48,7 @@ struct TableKind
 /// that names a site. The names of the first layer's fields; none unless `info` is valid
 /// afterwards, an empty path being no error.
 QStringList readTableFileInfo(const TableKind &kind, const QString &path,
-                              const ProjectContext &project, TableFileInfo &info);
+                              const project::ProjectContext &project, TableFileInfo &info);
 
 /// The line about format, coordinates and unit, in the chosen language. Only a dictionary's text
 /// takes the values in; the built-in English one has no places for them.

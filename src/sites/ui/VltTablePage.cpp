@@ -229,7 +229,7 @@ void VltTablePage::initializePage()
     BasePage::initializePage();
     orderFocus();
     fitInputWidth();
-    m_project = vlt::sites::readProjectContext(field(QStringLiteral("ProjectName")).toString());
+    m_project = vlt::project::readProjectContext(field(QStringLiteral("ProjectName")).toString());
     m_isActive = true;
     readFileInfo(m_ui->m_pwLeTable->text(), true);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "sites/ProjectContext.h"
+#include "wizard/project/ProjectContext.h"
 #include "sites/SiteLayer.h"
 #include "sites/TableFileInfo.h"
 #include "sites/ui/TablePageKind.h"
@@ -79,7 +79,7 @@ protected:
     /// was not shown yet and it takes longer than a moment.
     template<typename Info>
     Info waitForInfo(const QString &path,
-                     Info (*read)(const QString &, const vlt::sites::ProjectContext &))
+                     Info (*read)(const QString &, const vlt::project::ProjectContext &))
     {
         const std::function<Info()> work = [path, read, project = m_project] {
             return read(path, project);
@@ -103,7 +103,7 @@ protected:
     }
 
     const VltSiteProperties &pylonPanel() const { return *m_panelProperties; }
-    const vlt::sites::ProjectContext &project() const { return m_project; }
+    const vlt::project::ProjectContext &project() const { return m_project; }
     /// The chosen coordinate systems.
     vlt::sites::SiteSystems systems() const;
 
@@ -142,7 +142,7 @@ private:
     VltSrsSettings *m_panelSrs = nullptr;
     VltTableDetails *m_panelDetails = nullptr;
     DraggableIcon *m_pwDragIcon = nullptr;
-    vlt::sites::ProjectContext m_project;
+    vlt::project::ProjectContext m_project;
     QString m_fileDir;
     QString m_pathRead; ///< what readFileInfo() was last given
     bool m_isActive = false;

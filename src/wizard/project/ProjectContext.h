@@ -2,9 +2,9 @@
 
 #include <QString>
 
-namespace vlt::sites {
+namespace vlt::project {
 
-/// The target project as the sites' logic needs it.
+/// The target project as the layers need it.
 struct ProjectContext
 {
     QString projectPath; ///< empty: no project
@@ -22,4 +22,4 @@ struct ProjectContext
 /// has to tell the user of it does so when the project is chosen.
 ProjectContext readProjectContext(const QString &projectPath);
 
-} // namespace vlt::sites
+} // namespace vlt::project

@@ -1,11 +1,11 @@
-#include "sites/ProjectContext.h"
+#include "wizard/project/ProjectContext.h"
 
 #include "wizard/project/ProjectReaders.h"
 
 #include <QDir>
 #include <QFileInfo>
 
-namespace vlt::sites {
+namespace vlt::project {
 
 QString ProjectContext::directory() const
 {
@@ -24,10 +24,10 @@ ProjectContext readProjectContext(const QString &projectPath)
     context.projectPath = projectPath;
     if (projectPath.isEmpty())
         return context;
-    const Result<QString> terrain = project::terrainFile(projectPath);
+    const Result<QString> terrain = terrainFile(projectPath);
     if (terrain)
         context.terrainFile = terrain.value();
     return context;
 }
 
-} // namespace vlt::sites
+} // namespace vlt::project
