@@ -1,7 +1,7 @@
 #include "batch/Console.h"
 
 #include "language/VltLanguageManager.h"
-#include "sites/TableTexts.h"
+#include "tables/TableTexts.h"
 
 #include <QJsonDocument>
 
@@ -69,13 +69,13 @@ QJsonObject errorJson(const Error &error, const QString &detail, ExitStatus stat
 
 QString explain(const Error &error, const QString &detail)
 {
-    QString text = error.key.isEmpty() ? sites::tableText(error.text)
+    QString text = error.key.isEmpty() ? tables::tableText(error.text)
                                        : dico_label(error.key.toUtf8().constData(),
                                                     error.text.toUtf8().constData());
     if (!error.path.isEmpty())
         text = error.path + QStringLiteral(": ") + text;
     if (!detail.isEmpty())
-        text += QStringLiteral(" (") + sites::tableText(detail) + QLatin1Char(')');
+        text += QStringLiteral(" (") + tables::tableText(detail) + QLatin1Char(')');
     return oneLine(text);
 }
 

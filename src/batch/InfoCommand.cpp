@@ -9,8 +9,9 @@
 #include "language/VltLanguageManager.h"
 #include "links/LinkColumnDescription.h"
 #include "links/LinkFileInfo.h"
+#include "sites/SiteColumnDescription.h"
 #include "sites/SiteFileInfo.h"
-#include "sites/SystemProblems.h"
+#include "tables/SystemProblems.h"
 
 #include <QFileInfo>
 #include <QJsonArray>
@@ -111,13 +112,13 @@ TableOutcome outcomeOf(InfoReport report, const QString &kind, const QString &ta
     if (!check)
         return {{}, {check.error().key, check.error().text, table}, {}};
     const QList<Problem> ofSystems =
-        sites::systemProblems(report.file.unit, report.file.systems, check.value().systems);
+        tables::systemProblems(report.file.unit, report.file.systems, check.value().systems);
     report.problems.count += ofSystems.size() + check.value().problems.count;
     report.problems.listed += ofSystems + check.value().problems.listed;
     return {report, {}, {}};
 }
 
-TableOutcome readTable(const QString &table, bool isLinks, const sites::TableReading &reading,
+TableOutcome readTable(const QString &table, bool isLinks, const tables::TableReading &reading,
                        const project::ProjectContext &project)
 {
     const QString path = QFileInfo(table).absoluteFilePath();
@@ -182,7 +183,7 @@ CommandSyntax syntax()
 
 ExitStatus run(const QCommandLineParser &parser, const GlobalOptions &options)
 {
-    const Result<sites::TableReading> reading = readReading(parser);
+    const Result<tables::TableReading> reading = readReading(parser);
     if (!reading)
         return refuseUsage(reading.error().text);
     const Result<Surroundings> surroundings = startUp(options);

@@ -3,7 +3,7 @@
 #include "batch/AlignedText.h"
 #include "batch/Console.h"
 #include "language/VltLanguageManager.h"
-#include "sites/TableTexts.h"
+#include "tables/TableTexts.h"
 
 #include <QJsonArray>
 
@@ -13,7 +13,7 @@ namespace {
 
 QList<Line> fileLines(const InfoReport &report)
 {
-    const sites::TableFileInfo &file = report.file;
+    const tables::TableFileInfo &file = report.file;
     QList<Line> lines = {
         {dico_label("MESS_CLI_FILE", "File"), {file.filePath}},
         {dico_label("MESS_CLI_FORMAT", "Format"), {file.format}},
@@ -32,10 +32,10 @@ QList<Line> fileLines(const InfoReport &report)
     return lines;
 }
 
-QList<Line> columnLines(const QList<sites::ColumnDescription> &columns)
+QList<Line> columnLines(const QList<tables::ColumnDescription> &columns)
 {
     QList<Line> lines;
-    for (const sites::ColumnDescription &entry : columns)
+    for (const tables::ColumnDescription &entry : columns)
         lines.append({entry.meaning, entry.columns});
     return lines;
 }
@@ -62,7 +62,7 @@ QJsonArray problemsJson(const geodata::LayerProblems &problems)
                         {QStringLiteral("column"), problem.column},
                         {QStringLiteral("severity"),
                          isError ? QStringLiteral("error") : QStringLiteral("warning")},
-                        {QStringLiteral("text"), sites::tableText(problem.text)}});
+                        {QStringLiteral("text"), tables::tableText(problem.text)}});
     }
     return array;
 }
@@ -79,7 +79,7 @@ QString problemText(const Problem &problem)
         place << dico_label("MESS_CLI_COLUMN", "column") + QLatin1Char(' ') + problem.column;
     const QString where =
         place.isEmpty() ? QString() : place.join(QStringLiteral(", ")) + QStringLiteral(": ");
-    return oneLine(where + sites::tableText(problem.text));
+    return oneLine(where + tables::tableText(problem.text));
 }
 
 QString reportText(const InfoReport &report)
@@ -91,7 +91,7 @@ QString reportText(const InfoReport &report)
 
 QJsonObject reportJson(const InfoReport &report)
 {
-    const sites::TableFileInfo &file = report.file;
+    const tables::TableFileInfo &file = report.file;
     QJsonObject object{{QStringLiteral("file"), file.filePath},
                        {QStringLiteral("format"), file.format},
                        {QStringLiteral("unit"), file.unit},

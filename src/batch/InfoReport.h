@@ -1,8 +1,8 @@
 #pragma once
 
 #include "geodata/LayerProblems.h"
-#include "sites/ColumnDescription.h"
-#include "sites/TableFileInfo.h"
+#include "tables/ColumnDescription.h"
+#include "tables/TableFileInfo.h"
 
 #include <QJsonObject>
 
@@ -19,12 +19,12 @@ struct InfoEntry
 /// What "vltlayers info" tells of a table.
 struct InfoReport
 {
-    sites::TableFileInfo file;
+    tables::TableFileInfo file;
     QString countLabel;  ///< of the number of rows, in the chosen language
     QString systemLabel; ///< of the table's coordinate system
     QList<InfoEntry> further;
-    QList<sites::ColumnDescription> columns; ///< recognised ones, for people
-    QJsonObject columnNames;                 ///< the same, for programs
+    QList<tables::ColumnDescription> columns; ///< recognised ones, for people
+    QJsonObject columnNames;                  ///< the same, for programs
     geodata::LayerProblems problems;
 };
 

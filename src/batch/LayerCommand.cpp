@@ -69,14 +69,14 @@ QList<QCommandLineOption> readingOptions()
     };
 }
 
-Result<sites::TableReading> readReading(const QCommandLineParser &parser)
+Result<tables::TableReading> readReading(const QCommandLineParser &parser)
 {
     static const QRegularExpression name(QStringLiteral("\\A[A-Za-z0-9._:/-]+\\z"));
     const auto value = [&parser](const char *option) {
         return parser.value(QLatin1String(option));
     };
-    const sites::TableReading reading{value("sheet"), value("encoding"),
-                                      value("delimiter").toLower()};
+    const tables::TableReading reading{value("sheet"), value("encoding"),
+                                       value("delimiter").toLower()};
     if (parser.isSet(QStringLiteral("sheet")) && reading.sheet.isEmpty())
         return wrongUsage(
             dico_label("MESS_USE_NO_VALUE", "%1 needs a value").arg(QStringLiteral("--sheet")));
@@ -117,8 +117,8 @@ std::variant<LayerRequest, ExitStatus> readLayerRequest(const QCommandLineParser
     return request;
 }
 
-sites::SiteSystems chosenSystems(const QCommandLineParser &parser,
-                                 const sites::SiteSystems &otherwise)
+geodata::SystemPair chosenSystems(const QCommandLineParser &parser,
+                                  const geodata::SystemPair &otherwise)
 {
     const auto system = [&parser](const QString &option, const QString &fromTable) {
         return parser.isSet(option) ? parser.value(option) : fromTable;
@@ -133,7 +133,7 @@ qint64 unplacedRows(const geodata::LayerPlacement &placement,
     return qMax(placement.features - placement.placed, refusedRows(problems));
 }
 
-std::optional<ExitStatus> writeLayer(const QString &path, const Result<sites::SiteLayer> &layer)
+std::optional<ExitStatus> writeLayer(const QString &path, const Result<tables::TableLayer> &layer)
 {
     if (!layer)
         return refuse(layer.error());
@@ -157,7 +157,7 @@ void warnOfSystems(const LayerOutcome &outcome)
         printError(problemText(problem));
 }
 
-void warnOfLayer(const LayerOutcome &outcome, const sites::SiteSystems &systems)
+void warnOfLayer(const LayerOutcome &outcome, const geodata::SystemPair &systems)
 {
     if (outcome.unplacedRows > 0)
         printError(dico_label("MESS_CLI_UNPLACED", "rows that could not be placed: %1")
@@ -169,7 +169,7 @@ void warnOfLayer(const LayerOutcome &outcome, const sites::SiteSystems &systems)
 }
 
 QJsonObject layerJson(const LayerRequest &request, const LayerOutcome &outcome,
-                      const sites::SiteSystems &systems)
+                      const geodata::SystemPair &systems)
 {
     return {{QStringLiteral("layer"), request.output.isEmpty()
                                           ? QJsonValue(QJsonValue::Null)

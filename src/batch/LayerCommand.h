@@ -4,7 +4,7 @@
 #include "batch/StartUp.h"
 #include "geodata/LayerProblems.h"
 #include "sites/SiteLayer.h"
-#include "sites/SystemProblems.h"
+#include "tables/SystemProblems.h"
 
 #include <QJsonObject>
 
@@ -19,7 +19,7 @@ struct LayerRequest
     QString output; ///< layer file to write
     sites::SiteCatalogues catalogues;
     sites::SiteRepresentation pylons;
-    sites::TableReading reading;
+    tables::TableReading reading;
 };
 
 /// How many rows come out without a place, one counting once however many problems it has.
@@ -45,8 +45,8 @@ std::variant<LayerRequest, ExitStatus> readLayerRequest(const QCommandLineParser
                                                         const QStringList &inputs);
 
 /// The systems that the options name, as they stand there, else those that go with the table.
-sites::SiteSystems chosenSystems(const QCommandLineParser &parser,
-                                 const sites::SiteSystems &otherwise);
+geodata::SystemPair chosenSystems(const QCommandLineParser &parser,
+                                  const geodata::SystemPair &otherwise);
 
 /// --sheet, --encoding and --delimiter.
 QList<QCommandLineOption> readingOptions();
@@ -54,7 +54,7 @@ QList<QCommandLineOption> readingOptions();
 /// How the options say that tables are read.
 ///
 /// @par Errors   no key; which option has which wrong value.
-Result<sites::TableReading> readReading(const QCommandLineParser &parser);
+Result<tables::TableReading> readReading(const QCommandLineParser &parser);
 
 /// The outcome of a check, a row counting once however many problems it has.
 ///
@@ -62,25 +62,25 @@ Result<sites::TableReading> readReading(const QCommandLineParser &parser);
 /// @param systems  with which the rows were placed
 template<typename Check>
 LayerOutcome layerOutcome(const Check &check, const QString &unit,
-                          const sites::SiteSystems &systems)
+                          const geodata::SystemPair &systems)
 {
     return {check.placement.placed, unplacedRows(check.placement, check.problems),
-            sites::systemProblems(unit, systems, check.systems)};
+            tables::systemProblems(unit, systems, check.systems)};
 }
 
 /// Writes a finished layer, "-" being the standard output, and warns where its page is missing; the
 /// exit status where that fails.
-std::optional<ExitStatus> writeLayer(const QString &path, const Result<sites::SiteLayer> &layer);
+std::optional<ExitStatus> writeLayer(const QString &path, const Result<tables::TableLayer> &layer);
 
 /// Prints what does not fit about the coordinate systems to the error output.
 void warnOfSystems(const LayerOutcome &outcome);
 
 /// Warns of rows without a place, and of unfit or missing coordinate systems, on the error output.
-void warnOfLayer(const LayerOutcome &outcome, const sites::SiteSystems &systems);
+void warnOfLayer(const LayerOutcome &outcome, const geodata::SystemPair &systems);
 
 /// What programs are told of every layer.
 QJsonObject layerJson(const LayerRequest &request, const LayerOutcome &outcome,
-                      const sites::SiteSystems &systems);
+                      const geodata::SystemPair &systems);
 
 /// Prints a finished text; refused where it does not arrive.
 ExitStatus printResult(const QString &text);

@@ -126,7 +126,7 @@ ExitStatus makeLayer(const links::LinkLayerInput &input, const LayerRequest &req
     const Result<geodata::LinkCheck> check = readLinks(input, wanted, options.quiet);
     if (!check)
         return refuse({check.error().key, check.error().text, request.table});
-    const sites::SiteSystems systems{input.sourceSrs, input.targetSrs};
+    const geodata::SystemPair systems{input.sourceSrs, input.targetSrs};
     const LayerOutcome outcome = layerOutcome(check.value(), input.file.unit, systems);
     if (outcome.placed == 0) {
         warnOfSystems(outcome);
@@ -173,8 +173,8 @@ ExitStatus runParsed(const QCommandLineParser &parser, const LinkRequest &wanted
     if (input.file.error)
         return refuse({input.file.error->key, input.file.error->text, request.table},
                       input.file.errorDetail);
-    const sites::SiteSystems systems = chosenSystems(parser, input.file.systems);
-    if (const auto refusal = sites::systemRefusal(systems))
+    const geodata::SystemPair systems = chosenSystems(parser, input.file.systems);
+    if (const auto refusal = tables::systemRefusal(systems))
         return refuse(*refusal);
     input.sourceSrs = systems.source;
     input.targetSrs = systems.target;

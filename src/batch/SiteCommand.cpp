@@ -39,7 +39,7 @@ CommandSyntax syntax()
 /// Reads the sites through the very connection that the layer carries.
 Result<LayerOutcome> placeSites(const sites::SiteLayerInput &input, bool quiet)
 {
-    const sites::SiteSystems systems{input.sourceSrs, input.targetSrs};
+    const geodata::SystemPair systems{input.sourceSrs, input.targetSrs};
     const QString connection =
         sites::resolvedConnection(sites::siteQuery(input), input.project.directory());
     ProgressLine line(dico_label("MESS_CLI_READING", "Reading the sites"), !quiet);
@@ -71,7 +71,7 @@ ExitStatus makeLayer(const sites::SiteLayerInput &input, const LayerRequest &req
     if (const auto failed = writeLayer(request.output, sites::makeSiteLayer(input)))
         return *failed;
 
-    const sites::SiteSystems systems{input.sourceSrs, input.targetSrs};
+    const geodata::SystemPair systems{input.sourceSrs, input.targetSrs};
     if (!options.quiet) {
         warnOfLayer(outcome.value(), systems);
         if (const auto nameless = sites::missingNameField(input.file))
@@ -98,8 +98,8 @@ ExitStatus runParsed(const QCommandLineParser &parser, const GlobalOptions &opti
     if (input.file.error)
         return refuse({input.file.error->key, input.file.error->text, request.table},
                       input.file.errorDetail);
-    const sites::SiteSystems systems = chosenSystems(parser, input.file.systems);
-    if (const auto refusal = sites::systemRefusal(systems))
+    const geodata::SystemPair systems = chosenSystems(parser, input.file.systems);
+    if (const auto refusal = tables::systemRefusal(systems))
         return refuse(*refusal);
     input.sourceSrs = systems.source;
     input.targetSrs = systems.target;

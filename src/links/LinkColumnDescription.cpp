@@ -6,12 +6,12 @@ namespace vlt::links {
 
 namespace {
 
-sites::ColumnDescription described(const QString &meaning, const QString &column)
+tables::ColumnDescription described(const QString &meaning, const QString &column)
 {
     return {meaning, column.isEmpty() ? QStringList() : QStringList(column)};
 }
 
-QList<sites::ColumnDescription> describeEnd(const LinkEndColumns &end, const QString &mark)
+QList<tables::ColumnDescription> describeEnd(const LinkEndColumns &end, const QString &mark)
 {
     return {
         described(dico_label("MESS_LINK_COLUMN_ID", "Identifier of end %1").arg(mark),
@@ -30,9 +30,9 @@ QList<sites::ColumnDescription> describeEnd(const LinkEndColumns &end, const QSt
 
 } // namespace
 
-QList<sites::ColumnDescription> describeColumns(const LinkColumnSet &columns)
+QList<tables::ColumnDescription> describeColumns(const LinkColumnSet &columns)
 {
-    const QList<sites::ColumnDescription> link = {
+    const QList<tables::ColumnDescription> link = {
         described(dico_label("MESS_LINK_COLUMN_NAME", "Link name"), columns.name),
         described(dico_label("MESS_LINK_COLUMN_BAND", "Frequency band"), columns.band),
         described(dico_label("MESS_LINK_COLUMN_LENGTH", "Path length"), columns.length)};

@@ -1,8 +1,8 @@
 #include "links/LinkColumnSet.h"
 
 #include "geodata/LayerInfo.h"
-#include "sites/ColumnPatterns.h"
 #include "sites/SiteColumnSet.h"
+#include "tables/ColumnPatterns.h"
 
 #include <functional>
 #include <vector>
@@ -71,7 +71,7 @@ const std::vector<EndPattern> &endPatterns()
 std::vector<Column> makeColumns()
 {
     const auto whole = [](const QString &pattern, QString LinkColumnSet::*member) {
-        return Column{sites::wholeName(pattern),
+        return Column{tables::wholeName(pattern),
                       [member](LinkColumnSet &set) -> QString & { return set.*member; }};
     };
     std::vector<Column> columns = {
@@ -82,7 +82,7 @@ std::vector<Column> makeColumns()
          {EndMarks{QStringLiteral("1"), QStringLiteral("A|TX"), &LinkColumnSet::tx},
           EndMarks{QStringLiteral("2"), QStringLiteral("B|RX"), &LinkColumnSet::rx}}) {
         for (const EndPattern &pattern : endPatterns()) {
-            columns.push_back({sites::wholeName(pattern.pattern.arg(marks.number, marks.words)),
+            columns.push_back({tables::wholeName(pattern.pattern.arg(marks.number, marks.words)),
                                [end = marks.end, member = pattern.member](
                                    LinkColumnSet &set) -> QString & { return set.*end.*member; }});
         }

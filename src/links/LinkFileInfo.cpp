@@ -10,7 +10,7 @@ namespace {
 /// Layer of a link table that holds the ends.
 constexpr int EndLayer = 1;
 
-sites::TableKind linkTable()
+tables::TableKind linkTable()
 {
     return {QStringLiteral("link:"),
             {QStringLiteral("MESS_ERR_OPEN_LINK"),
@@ -34,11 +34,11 @@ LinkFileInfo readLinkFileInfo(const QString &path, const project::ProjectContext
 }
 
 LinkFileInfo readLinkFileInfoAs(const QString &path, const project::ProjectContext &project,
-                                const sites::TableReading &reading)
+                                const tables::TableReading &reading)
 {
     LinkFileInfo info;
     info.reading = reading;
-    const QStringList fields = sites::readTableFileInfo(linkTable(), path, project, info);
+    const QStringList fields = tables::readTableFileInfo(linkTable(), path, project, info);
     if (!info.valid)
         return info;
 

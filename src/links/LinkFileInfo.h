@@ -1,12 +1,12 @@
 #pragma once
 
 #include "links/LinkColumnSet.h"
-#include "sites/TableFileInfo.h"
+#include "tables/TableFileInfo.h"
 
 namespace vlt::links {
 
 /// What the add-link page knows of the table that the user picked.
-struct LinkFileInfo : sites::TableFileInfo
+struct LinkFileInfo : tables::TableFileInfo
 {
     QString endLayerName;  ///< layer of the link ends
     QString linkNameField; ///< column whose value names a link; empty where there is none
@@ -22,7 +22,7 @@ LinkFileInfo readLinkFileInfo(const QString &path, const project::ProjectContext
 
 /// The same for a table that is read as the user says.
 LinkFileInfo readLinkFileInfoAs(const QString &path, const project::ProjectContext &project,
-                                const sites::TableReading &reading);
+                                const tables::TableReading &reading);
 
 /// The column of the link ends that names a site, by the format of the table.
 QString linkEndNameField(const QString &format);

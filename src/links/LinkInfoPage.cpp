@@ -1,6 +1,6 @@
 #include "links/LinkInfoPage.h"
 
-#include "sites/InfoPageParts.h"
+#include "tables/InfoPageParts.h"
 #include "text/Templates.h"
 
 #include <QRegularExpression>
@@ -39,7 +39,7 @@ QString linkCell(const QString &label, const QString &column, const QString &uni
         return {};
     const QString unitText = unit.isEmpty() ? QString() : QLatin1Char(' ') + unit;
     return QStringLiteral("<td><small>") + label + QStringLiteral("</small> ") +
-           sites::fieldReference(column) + unitText + QStringLiteral("</td>");
+           tables::fieldReference(column) + unitText + QStringLiteral("</td>");
 }
 
 /// The unit that a column's name has in parentheses, such as "m" in "Antenna height (m) 1"; not the
@@ -67,7 +67,7 @@ QString heading(const LinkColumnSet &columns)
                                      ? QStringList{columns.tx.identifier, columns.rx.identifier}
                                      : QStringList{columns.name}) {
         if (!column.isEmpty())
-            references << sites::fieldReference(column);
+            references << tables::fieldReference(column);
     }
     return references.join(QStringLiteral(" \u2013 "));
 }
@@ -77,7 +77,7 @@ QString heading(const LinkColumnSet &columns)
 QString fillLinkInfoPage(const QString &pageTemplate, const QString &language,
                          const LinkColumnSet &columns)
 {
-    const bool french = sites::isFrench(language);
+    const bool french = tables::isFrench(language);
     const auto label = [french](const char16_t *inFrench, const char16_t *inEnglish) {
         return QString::fromUtf16(french ? inFrench : inEnglish);
     };
@@ -92,7 +92,7 @@ QString fillLinkInfoPage(const QString &pageTemplate, const QString &language,
         const QString &rx = columns.rx.*row.member;
         fill.emplace_back(
             QString::fromLatin1(row.placeholder),
-            sites::tableRow(rowHead(label(row.french, row.english), tx, rx), {tx, rx}));
+            tables::tableRow(rowHead(label(row.french, row.english), tx, rx), {tx, rx}));
     }
     return text::replacePlaceholders(pageTemplate, fill);
 }
@@ -108,7 +108,7 @@ Result<QString> buildLinkInfoHtml(const LinkColumnSet &columns, const QString &l
                                   const QString &installDir)
 {
     const Result<QString> page =
-        sites::readInfoTemplate(installDir, QStringLiteral("links_infos"), language);
+        tables::readInfoTemplate(installDir, QStringLiteral("links_infos"), language);
     if (!page)
         return page.error();
     return fillLinkInfoPage(page.value(), language, columns);

@@ -1,5 +1,6 @@
 #include "links/LinkLayer.h"
 
+#include "contract/Installation.h"
 #include "language/VltLanguageManager.h"
 #include "links/LinkInfoPage.h"
 #include "links/VerdictText.h"
@@ -98,12 +99,12 @@ QString placingConnection(const LinkLayerInput &input)
     return sites::placingConnection(queryOf(input));
 }
 
-Result<sites::SiteLayer> makeLinkLayer(const LinkLayerInput &input)
+Result<tables::TableLayer> makeLinkLayer(const LinkLayerInput &input)
 {
     if (const auto missing = sites::missingChoice(input.pylons, input.catalogues, input.installDir))
         return *missing;
     const QString query = linkQuery(input);
-    return sites::fillLayer(
+    return tables::fillLayer(
         input.installDir, QStringLiteral("template_links.lay"),
         {{QStringLiteral("__TITLE__"), dico_label("MESS_LINKS", "Links")},
          {QStringLiteral("__LINK_URL__"), query},
@@ -124,8 +125,9 @@ QString buildPreviewLinkUrl(const sites::SiteRepresentation &pylons,
         return {};
 
     return QStringLiteral("inline://parametric/query?object=link&data_folder=") +
-           QDir(installDir).absolutePath() + QLatin1Char('/') + sites::PylonFolder +
-           QStringLiteral("&pylon_type=") + type->type + demoPylons(pylons, *colors) +
+           QDir(installDir).absolutePath() + QLatin1Char('/') +
+           QLatin1String(contract::PylonFolder) + QStringLiteral("&pylon_type=") + type->type +
+           demoPylons(pylons, *colors) +
            QStringLiteral("&transmitter_scale=%1&lod=%2 %3")
                .arg(pylons.antennaSize)
                .arg(pylons.symbolicDistance)

@@ -30,7 +30,7 @@ QString placingConnection(const LinkLayerInput &input);
 /// The text of the layer file, out of the installation's "template_links.lay".
 ///
 /// @par Errors   those of sites::missingChoice(); MESS_MISSING_CONF_FILE with the template's path.
-Result<sites::SiteLayer> makeLinkLayer(const LinkLayerInput &input);
+Result<tables::TableLayer> makeLinkLayer(const LinkLayerInput &input);
 
 /// The name under which the scene library loads the demonstration: three pylons, two links with
 /// their Fresnel ellipsoids. Empty where no pylon type or no colour set is chosen.

@@ -1,5 +1,6 @@
 #include "sites/PylonQuery.h"
 
+#include "contract/Installation.h"
 #include "text/Numbers.h"
 #include "text/Templates.h"
 
@@ -53,7 +54,7 @@ QString buildPylonQuery(const PylonQuery &query, const SiteRepresentation &repre
 
     const QStringList values = QStringList{query.kind,
                                            systemsPart(query),
-                                           PylonFolder,
+                                           QLatin1String(contract::PylonFolder),
                                            pylon->type,
                                            text::g6(representation.pylonWidth),
                                            colorSetText(*colors, representation.transparency)} +
@@ -90,7 +91,8 @@ QString buildPreviewPylonUrl(const SiteRepresentation &representation,
     if (!pylon || !colors)
         return {};
 
-    QStringList values = {QDir(installDir).absolutePath() + QLatin1Char('/') + PylonFolder,
+    QStringList values = {QDir(installDir).absolutePath() + QLatin1Char('/') +
+                              QLatin1String(contract::PylonFolder),
                           pylon->type, text::g6(representation.pylonWidth)};
     values << sectorProperties(representation);
     for (int i = 0; i < PreviewTransmitters; ++i)

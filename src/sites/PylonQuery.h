@@ -1,8 +1,8 @@
 #pragma once
 
-#include "wizard/project/ProjectContext.h"
 #include "sites/SiteRepresentation.h"
-#include "sites/TableReading.h"
+#include "tables/TableReading.h"
+#include "wizard/project/ProjectContext.h"
 
 namespace vlt::sites {
 
@@ -14,7 +14,7 @@ struct PylonQuery
     QString targetSrs; ///< system of the project; may be empty
     QString dataFile;  ///< path of the table
     QString extra;     ///< further parameters of links, without a comma at the end; empty for sites
-    TableReading reading = {}; ///< how the table is read
+    tables::TableReading reading = {}; ///< how the table is read
 };
 
 /// The query that a layer carries: at the same time the table connection from which the sites are

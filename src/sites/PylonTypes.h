@@ -7,9 +7,6 @@
 
 namespace vlt::sites {
 
-/// Where the pylons' catalogues, templates and colours lie below the install directory.
-inline const QString PylonFolder = QStringLiteral("addons/telecom/pylons");
-
 /// One kind of mast of the pylon catalogue.
 struct PylonType
 {

@@ -2,7 +2,7 @@
 
 #include "contract/ConnectionString.h"
 #include "geodata/LayerInfo.h"
-#include "sites/ColumnPatterns.h"
+#include "tables/ColumnPatterns.h"
 
 #include <QFile>
 
@@ -19,7 +19,7 @@ QRegularExpression anyLayout(const QString &asset, const QString &atoll, const Q
                              const QString &generic)
 {
     // Filled in one pass: a "%1" inside one of the patterns stays as it is.
-    return wholeName(QStringLiteral("%1|%2|%3|%4").arg(asset, atoll, mentum, generic));
+    return tables::wholeName(QStringLiteral("%1|%2|%3|%4").arg(asset, atoll, mentum, generic));
 }
 
 QRegularExpression sectorIdPattern()
@@ -70,11 +70,13 @@ struct ColumnList
 const std::array<SingleColumn, 4> &singleColumns()
 {
     static const std::array<SingleColumn, 4> columns = {{
-        {wholeName(QStringLiteral(R"(Site(\s*)ID|Name|Site(\s*)name|Site)")), &SiteColumnSet::name},
-        {wholeName(QStringLiteral(R"(X|Longitude|Site(\s*|.)longitude|Site.X)")),
+        {tables::wholeName(QStringLiteral(R"(Site(\s*)ID|Name|Site(\s*)name|Site)")),
+         &SiteColumnSet::name},
+        {tables::wholeName(QStringLiteral(R"(X|Longitude|Site(\s*|.)longitude|Site.X)")),
          &SiteColumnSet::x},
-        {wholeName(QStringLiteral(R"(Y|Latitude|Site(\s*|.)latitude|Site.Y)")), &SiteColumnSet::y},
-        {wholeName(QStringLiteral(R"(Transmitter-1(\s*)Terrain(\s*)Height(\s*)(\(m\))?)")),
+        {tables::wholeName(QStringLiteral(R"(Y|Latitude|Site(\s*|.)latitude|Site.Y)")),
+         &SiteColumnSet::y},
+        {tables::wholeName(QStringLiteral(R"(Transmitter-1(\s*)Terrain(\s*)Height(\s*)(\(m\))?)")),
          &SiteColumnSet::terrainHeight},
     }};
     return columns;

@@ -7,7 +7,7 @@ namespace vlt::sites {
 
 namespace {
 
-TableKind siteTable()
+tables::TableKind siteTable()
 {
     return {QStringLiteral("site:"),
             {QStringLiteral("MESS_ERR_OPEN_SITE"),
@@ -57,11 +57,11 @@ SiteFileInfo readSiteFileInfo(const QString &path, const project::ProjectContext
 }
 
 SiteFileInfo readSiteFileInfoAs(const QString &path, const project::ProjectContext &project,
-                                const TableReading &reading)
+                                const tables::TableReading &reading)
 {
     SiteFileInfo info;
     info.reading = reading;
-    const QStringList fields = readTableFileInfo(siteTable(), path, project, info);
+    const QStringList fields = tables::readTableFileInfo(siteTable(), path, project, info);
     if (!info.valid)
         return info;
 

@@ -1,13 +1,13 @@
 #pragma once
 
 #include "sites/SiteColumnSet.h"
-#include "sites/TableFileInfo.h"
+#include "tables/TableFileInfo.h"
 
 namespace vlt::sites {
 
 /// What the add-site page knows of the table that the user picked. Its errors: MESS_ERR_OPEN_SITE
 /// or MESS_ERR_EMPTY_SITE.
-struct SiteFileInfo : TableFileInfo
+struct SiteFileInfo : tables::TableFileInfo
 {
     SiteColumnSet columns; ///< those that were recognised
 };
@@ -18,7 +18,7 @@ SiteFileInfo readSiteFileInfo(const QString &path, const project::ProjectContext
 
 /// The same for a table that is read as the user says.
 SiteFileInfo readSiteFileInfoAs(const QString &path, const project::ProjectContext &project,
-                                const TableReading &reading);
+                                const tables::TableReading &reading);
 
 /// The column that names a site in the exports of a tool: "Site name", "NAME", "SITE ID" or "Site
 /// ID".

@@ -1,6 +1,6 @@
 #include "sites/SiteInfoPage.h"
 
-#include "sites/InfoPageParts.h"
+#include "tables/InfoPageParts.h"
 #include "text/Templates.h"
 
 namespace vlt::sites {
@@ -9,9 +9,9 @@ namespace {
 
 QString terrainLine(const QString &head, const QString &column)
 {
-    return column.isEmpty()
-               ? QString()
-               : head + QStringLiteral(": ") + fieldReference(column) + QStringLiteral("<br><br>");
+    return column.isEmpty() ? QString()
+                            : head + QStringLiteral(": ") + tables::fieldReference(column) +
+                                  QStringLiteral("<br><br>");
 }
 
 } // namespace
@@ -19,14 +19,14 @@ QString terrainLine(const QString &head, const QString &column)
 QString fillSiteInfoPage(const QString &pageTemplate, const QString &language,
                          const SiteColumnSet &columns)
 {
-    const bool french = isFrench(language);
+    const bool french = tables::isFrench(language);
     const auto label = [french](const char *inFrench, const char *inEnglish) {
         return QString::fromLatin1(french ? inFrench : inEnglish);
     };
     std::vector<text::Replacement> fill;
     const auto fillFound = [&fill](const QString &placeholder, const QString &column) {
         if (!column.isEmpty())
-            fill.emplace_back(placeholder, fieldReference(column));
+            fill.emplace_back(placeholder, tables::fieldReference(column));
     };
     fillFound(QStringLiteral("__NAME__"), columns.name);
     fillFound(QStringLiteral("__LON__"), columns.x);
@@ -35,13 +35,13 @@ QString fillSiteInfoPage(const QString &pageTemplate, const QString &language,
         QStringLiteral("__TERRAINHGHT__"),
         terrainLine(label("Hauteur du Terrain", "Terrain Height"), columns.terrainHeight));
     fill.emplace_back(QStringLiteral("__SECTORID__"),
-                      tableRow(label("Secteur ID", "Sector ID"), columns.sectorIds));
+                      tables::tableRow(label("Secteur ID", "Sector ID"), columns.sectorIds));
     fill.emplace_back(QStringLiteral("__HEIGHT__"),
-                      tableRow(label("Hauteur", "Height"), columns.heights));
+                      tables::tableRow(label("Hauteur", "Height"), columns.heights));
     fill.emplace_back(QStringLiteral("__AZIMUTH__"),
-                      tableRow(QStringLiteral("Azimuth"), columns.azimuths));
+                      tables::tableRow(QStringLiteral("Azimuth"), columns.azimuths));
     fill.emplace_back(QStringLiteral("__TILT__"),
-                      tableRow(label("Inclinaison", "Tilt"), columns.tilts));
+                      tables::tableRow(label("Inclinaison", "Tilt"), columns.tilts));
     return text::replacePlaceholders(pageTemplate, fill);
 }
 
@@ -56,7 +56,7 @@ Result<QString> buildSiteInfoHtml(const SiteColumnSet &columns, const QString &l
                                   const QString &installDir)
 {
     const Result<QString> page =
-        readInfoTemplate(installDir, QStringLiteral("sites_infos"), language);
+        tables::readInfoTemplate(installDir, QStringLiteral("sites_infos"), language);
     if (!page)
         return page.error();
     return fillSiteInfoPage(page.value(), language, columns);

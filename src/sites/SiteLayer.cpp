@@ -1,7 +1,6 @@
 #include "sites/SiteLayer.h"
 
 #include "language/VltLanguageManager.h"
-#include "platform/ConfigurationFile.h"
 #include "sites/SiteInfoPage.h"
 
 namespace vlt::sites {
@@ -26,34 +25,19 @@ QString placingConnection(const SiteLayerInput &input)
     return placingConnection(queryOf(input));
 }
 
-Result<SiteLayer> makeSiteLayer(const SiteLayerInput &input)
+Result<tables::TableLayer> makeSiteLayer(const SiteLayerInput &input)
 {
     if (const auto missing =
             missingChoice(input.representation, input.catalogues, input.installDir))
         return *missing;
     const QString query = siteQuery(input);
-    return fillLayer(input.installDir, QStringLiteral("template_sites.lay"),
-                     {{QStringLiteral("__TITLE__"), dico_label("MESS_SITES", "Sites")},
-                      {QStringLiteral("__SITE_URL__"), query},
-                      {QStringLiteral("__LAYER__"), input.file.layerName},
-                      {QStringLiteral("__SITE_FIELD__"), input.file.nameField}},
-                     buildSiteInfoHtml(input.file.columns, input.language, input.installDir));
-}
-
-Result<SiteLayer> fillLayer(const QString &installDir, const QString &templateName,
-                            std::vector<text::Replacement> values, const Result<QString> &page)
-{
-    const Result<QString> layerTemplate = platform::readConfigurationFile(
-        installDir + QLatin1Char('/') + PylonFolder + QLatin1Char('/') + templateName);
-    if (!layerTemplate)
-        return layerTemplate.error();
-
-    SiteLayer layer;
-    if (!page)
-        layer.warning = page.error();
-    values.emplace_back(QStringLiteral("__Desc__"), page ? page.value() : QString());
-    layer.text = text::replacePlaceholders(layerTemplate.value(), values);
-    return layer;
+    return tables::fillLayer(
+        input.installDir, QStringLiteral("template_sites.lay"),
+        {{QStringLiteral("__TITLE__"), dico_label("MESS_SITES", "Sites")},
+         {QStringLiteral("__SITE_URL__"), query},
+         {QStringLiteral("__LAYER__"), input.file.layerName},
+         {QStringLiteral("__SITE_FIELD__"), input.file.nameField}},
+        buildSiteInfoHtml(input.file.columns, input.language, input.installDir));
 }
 
 } // namespace vlt::sites

@@ -3,9 +3,7 @@
 #include "platform/Result.h"
 #include "sites/PylonQuery.h"
 #include "sites/SiteFileInfo.h"
-#include "text/Templates.h"
-
-#include <optional>
+#include "tables/TableLayer.h"
 
 namespace vlt::sites {
 
@@ -22,15 +20,6 @@ struct SiteLayerInput
     QString language; ///< language code
 };
 
-/// A finished layer.
-struct SiteLayer
-{
-    QString text;
-    /// MESS_MISSING_CONF_FILE where the information page's template is missing: the layer has no
-    /// page then.
-    std::optional<Error> warning;
-};
-
 /// The query of the layer, buildPylonQuery() for a site table.
 QString siteQuery(const SiteLayerInput &input);
 
@@ -41,14 +30,6 @@ QString placingConnection(const SiteLayerInput &input);
 /// The text of the layer file, out of the installation's "template_sites.lay".
 ///
 /// @par Errors   those of missingChoice(); MESS_MISSING_CONF_FILE with the template's path.
-Result<SiteLayer> makeSiteLayer(const SiteLayerInput &input);
-
-/// The text of a layer file out of a template of the pylons' folder.
-///
-/// @param values  placeholders and their texts, but for the page's
-/// @param page    HTML page of the picked object; without it the layer comes with a warning
-/// @par Errors    MESS_MISSING_CONF_FILE with the template's path.
-Result<SiteLayer> fillLayer(const QString &installDir, const QString &templateName,
-                            std::vector<text::Replacement> values, const Result<QString> &page);
+Result<tables::TableLayer> makeSiteLayer(const SiteLayerInput &input);
 
 } // namespace vlt::sites

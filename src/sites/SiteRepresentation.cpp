@@ -1,5 +1,7 @@
 #include "sites/SiteRepresentation.h"
 
+#include "contract/Installation.h"
+
 namespace vlt::sites {
 
 namespace {
@@ -35,7 +37,8 @@ std::optional<Error> missingChoice(const SiteRepresentation &representation,
     const auto missing = [&installDir](const QString &catalogue) {
         return Error{QStringLiteral("MESS_MISSING_CONF_FILE"),
                      QStringLiteral("A configuration file is missing"),
-                     installDir + QLatin1Char('/') + PylonFolder + catalogue};
+                     installDir + QLatin1Char('/') + QLatin1String(contract::PylonFolder) +
+                         catalogue};
     };
     if (catalogues.pylonTypes.isEmpty())
         return missing(QStringLiteral("/list.xml"));

@@ -89,7 +89,8 @@ private Q_SLOTS:
 
     void givesLinksTheirExtraTextAndTheTerrain()
     {
-        const vlt::project::ProjectContext project{QStringLiteral("/p/a.gvw"), QStringLiteral("/p/dem/t.tif")};
+        const vlt::project::ProjectContext project{QStringLiteral("/p/a.gvw"),
+                                                   QStringLiteral("/p/dem/t.tif")};
         const auto query = [&](const char *kind) {
             return buildPylonQuery({QString::fromLatin1(kind),
                                     {},

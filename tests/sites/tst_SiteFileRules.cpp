@@ -45,7 +45,8 @@ private Q_SLOTS:
         QFETCH(QString, project);
         QFETCH(QString, terrain);
 
-        const SiteSystems chosen = chooseSystems({unit, file, project, terrain});
+        const vlt::geodata::SystemPair chosen =
+            vlt::tables::chooseSystems({unit, file, project, terrain});
 
         QTEST(chosen.source, "source");
         QTEST(chosen.target, "target");
@@ -72,7 +73,7 @@ private Q_SLOTS:
 
     void leavesTheBuiltInDescriptionUnfilled()
     {
-        QCOMPARE(describeTableFile(QStringLiteral("asset"), QStringLiteral("METERS")),
+        QCOMPARE(vlt::tables::describeTableFile(QStringLiteral("asset"), QStringLiteral("METERS")),
                  QStringLiteral("File format is : %1\nCoordinates are %2 and are specified in %3"));
     }
 

@@ -97,7 +97,7 @@ private Q_SLOTS:
 
         writeFile(pylons + QStringLiteral("template_sites.lay"),
                   "__TITLE__\n__SITE_URL__\n__LAYER__\n__SITE_FIELD__\n__Desc__\n__DESC__");
-        const SiteLayer withoutPage = makeSiteLayer(input).value();
+        const vlt::tables::TableLayer withoutPage = makeSiteLayer(input).value();
         QCOMPARE(withoutPage.warning->path, pylons + QStringLiteral("sites_infos_en.html"));
         const QString head = QStringLiteral(
             "Sites\nsite:data_folder=addons/telecom/pylons,pylon_type=T,pylon_width=2.5,"
@@ -106,7 +106,7 @@ private Q_SLOTS:
         QCOMPARE(withoutPage.text, head + QStringLiteral("NAME\nNAME\n\n__DESC__"));
 
         writeFile(pylons + QStringLiteral("sites_infos_en.html"), "<p>\n\xe9 __HEIGHT__\n</p>");
-        const SiteLayer whole = makeSiteLayer(input).value();
+        const vlt::tables::TableLayer whole = makeSiteLayer(input).value();
         QVERIFY(!whole.warning);
         QCOMPARE(whole.text,
                  head + QStringLiteral("NAME\nNAME\n<p>\u00e9 <tr><td>Height</td><td>[H1]</td>"

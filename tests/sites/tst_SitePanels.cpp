@@ -2,7 +2,7 @@
 #include "gui/FileDialogAnswer.h"
 #include "platform/Settings.h"
 #include "sites/ui/VltSiteProperties.h"
-#include "sites/ui/VltSrsSettings.h"
+#include "tables/ui/VltSrsSettings.h"
 
 #include <QComboBox>
 #include <QPushButton>

@@ -2,10 +2,10 @@
 
 #include "links/ui/VltLinkDetails.h"
 #include "links/ui/VltLinkProperties.h"
+#include "sites/ui/VltSiteProperties.h"
 
 namespace {
 
-const QString SettingsPrefix = QStringLiteral("AddLinkPage");
 constexpr double PerCent = 100;
 
 } // namespace
@@ -14,20 +14,20 @@ VltAddLinkPage::VltAddLinkPage(QWidget *wizard, SharedParameters &parameters,
                                const QString &installDir, const QString &language)
     : VltTablePage(wizard, parameters, installDir, language, linkKind())
     , m_panelLinks(new VltLinkProperties(this))
+    , m_panelPylons(new VltSiteProperties(installDir, language, this))
     , m_panelDetails(new VltLinkDetails(this))
 {
     addPanel(m_panelLinks);
+    addPanel(m_panelPylons);
     addDetails(m_panelDetails);
-    connect(m_panelLinks, &VltLinkProperties::parameterChanged, this,
-            &VltAddLinkPage::updatePreview);
     readRememberedFile();
 }
 
-vlt::sites::TablePageKind VltAddLinkPage::linkKind()
+vlt::tables::TablePageKind VltAddLinkPage::linkKind()
 {
-    vlt::sites::TablePageKind kind;
+    vlt::tables::TablePageKind kind;
     kind.name = QStringLiteral("Link");
-    kind.settingsPrefix = SettingsPrefix;
+    kind.settingsPrefix = QStringLiteral("AddLinkPage");
     kind.fileKey = QStringLiteral("LinkFile");
     kind.srsKind = QStringLiteral("link");
     kind.layerBaseName = QStringLiteral("links");
@@ -52,24 +52,6 @@ vlt::sites::TablePageKind VltAddLinkPage::linkKind()
     return kind;
 }
 
-void VltAddLinkPage::restoreSettings()
-{
-    VltTablePage::restoreSettings();
-    m_panelLinks->loadSettings(SettingsPrefix);
-}
-
-void VltAddLinkPage::saveSettings()
-{
-    VltTablePage::saveSettings();
-    m_panelLinks->saveSettings(SettingsPrefix);
-}
-
-void VltAddLinkPage::setStacked(bool stacked)
-{
-    VltTablePage::setStacked(stacked);
-    m_panelLinks->setStacked(stacked);
-}
-
 void VltAddLinkPage::readTable(const QString &path)
 {
     m_file = waitForInfo(path, vlt::links::readLinkFileInfo);
@@ -84,8 +66,9 @@ vlt::links::LinkLayerInput VltAddLinkPage::layerInput() const
 {
     vlt::links::LinkLayerInput input;
     fillInput(input);
+    input.catalogues = m_panelPylons->catalogues();
     input.file = m_file;
-    input.pylons = pylonPanel().representation();
+    input.pylons = m_panelPylons->representation();
     input.links = m_panelLinks->representation();
     return input;
 }
@@ -100,7 +83,13 @@ void VltAddLinkPage::checkRows()
     m_panelDetails->check(vlt::links::placingConnection(input), systems(), judging);
 }
 
-vlt::Result<vlt::sites::SiteLayer> VltAddLinkPage::makeLayer() const
+std::optional<vlt::Error> VltAddLinkPage::missingChoice() const
+{
+    return vlt::sites::missingChoice(m_panelPylons->representation(), m_panelPylons->catalogues(),
+                                     installDir());
+}
+
+vlt::Result<vlt::tables::TableLayer> VltAddLinkPage::makeLayer() const
 {
     return vlt::links::makeLinkLayer(layerInput());
 }
@@ -110,4 +99,9 @@ QString VltAddLinkPage::demonstrationUrl() const
     const vlt::links::LinkLayerInput input = layerInput();
     return vlt::links::buildPreviewLinkUrl(input.pylons, input.links, input.catalogues,
                                            installDir());
+}
+
+double VltAddLinkPage::preciseDistanceM() const
+{
+    return m_panelPylons->representation().realisticDistance;
 }

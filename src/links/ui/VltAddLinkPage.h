@@ -1,10 +1,11 @@
 #pragma once
 
 #include "links/LinkLayer.h"
-#include "sites/ui/VltTablePage.h"
+#include "tables/ui/VltTablePage.h"
 
 class VltLinkDetails;
 class VltLinkProperties;
+class VltSiteProperties;
 
 /// The page on which a table of microwave links becomes a link layer.
 class VltAddLinkPage : public VltTablePage
@@ -15,27 +16,26 @@ public:
     VltAddLinkPage(QWidget *wizard, SharedParameters &parameters, const QString &installDir,
                    const QString &language);
 
-    void saveSettings() override;
-    void restoreSettings() override;
-
     void readLinkFileInfo(const QString &path, bool quiet) { readFileInfo(path, quiet); }
 
 public Q_SLOTS:
     void openLinks() { openTable(); }
 
 private:
-    static vlt::sites::TablePageKind linkKind();
+    static vlt::tables::TablePageKind linkKind();
     vlt::links::LinkLayerInput layerInput() const;
 
-    void setStacked(bool stacked) override;
     void readTable(const QString &path) override;
-    const vlt::sites::TableFileInfo &file() const override { return m_file; }
+    const vlt::tables::TableFileInfo &file() const override { return m_file; }
     void showDetails() override;
     void checkRows() override;
-    vlt::Result<vlt::sites::SiteLayer> makeLayer() const override;
+    std::optional<vlt::Error> missingChoice() const override;
+    vlt::Result<vlt::tables::TableLayer> makeLayer() const override;
     QString demonstrationUrl() const override;
+    double preciseDistanceM() const override;
 
     VltLinkProperties *m_panelLinks;
+    VltSiteProperties *m_panelPylons;
     VltLinkDetails *m_panelDetails;
     vlt::links::LinkFileInfo m_file;
 };

@@ -39,7 +39,7 @@ void VltLinkDetails::showFile(const vlt::links::LinkFileInfo &file)
     showTable(file.unit, vlt::links::describeColumns(file.columns), {});
 }
 
-void VltLinkDetails::check(const QString &connection, const vlt::sites::SiteSystems &systems,
+void VltLinkDetails::check(const QString &connection, const vlt::geodata::SystemPair &systems,
                            const vlt::geodata::LinkJudging &judging)
 {
     const QString what = QStringLiteral("%1 %2\n")

@@ -2,7 +2,7 @@
 
 #include "geodata/LinkCheck.h"
 #include "links/LinkFileInfo.h"
-#include "sites/ui/VltTableDetails.h"
+#include "tables/ui/VltTableDetails.h"
 
 namespace vlt::links {
 class LinkReportModel;
@@ -24,7 +24,7 @@ public:
     ///
     /// @param connection  the table with its coordinate systems and an absolute path
     /// @param systems     the same systems
-    void check(const QString &connection, const vlt::sites::SiteSystems &systems,
+    void check(const QString &connection, const vlt::geodata::SystemPair &systems,
                const vlt::geodata::LinkJudging &judging);
 
 private:

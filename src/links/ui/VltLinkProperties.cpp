@@ -1,7 +1,7 @@
 #include "links/ui/VltLinkProperties.h"
 
 #include "platform/Settings.h"
-#include "sites/ui/PanelParts.h"
+#include "tables/ui/PanelParts.h"
 #include "ui_LinkProperties.h"
 #include "wizard/base/WheelGuard.h"
 
@@ -110,7 +110,7 @@ void limit(Box *box, const vlt::sites::Limits &limits)
 } // namespace
 
 VltLinkProperties::VltLinkProperties(QWidget *parent)
-    : QWidget(parent)
+    : VltParameterPanel(parent)
     , m_ui(std::make_unique<Ui::LinkProperties>())
 {
     m_ui->setupUi(this);
@@ -125,8 +125,8 @@ VltLinkProperties::VltLinkProperties(QWidget *parent)
     m_ui->m_pwPbFresnelColor->setPurpose(
         tr("Color of the Fresnel zones", "MESS_PURPOSE_FRESNEL_COLOR"));
     limitValues();
-    vlt::sites::narrowSpinBoxes(this);
-    vlt::sites::showWholeTexts(m_ui->m_pwCbLinkStyle);
+    vlt::tables::narrowSpinBoxes(this);
+    vlt::tables::showWholeTexts(m_ui->m_pwCbLinkStyle);
     setValues(LinkRepresentation());
     connectWidgets();
 }
@@ -148,7 +148,7 @@ void VltLinkProperties::connectWidgets()
             &VltLinkProperties::showWidthUnit);
     connect(m_ui->m_pwSlFresnelTransparency, &QSlider::valueChanged, this,
             &VltLinkProperties::showTransparency);
-    vlt::sites::announceChanges(this);
+    vlt::tables::announceChanges(this);
     connect(m_ui->m_pwSlFresnelTransparency, &QSlider::valueChanged, this,
             &VltLinkProperties::parameterChanged);
     connect(m_ui->m_pwGbFresnel, &QGroupBox::toggled, this, &VltLinkProperties::parameterChanged);
@@ -187,7 +187,7 @@ void VltLinkProperties::loadSettings(const QString &prefix)
     blockSignals(wereBlocked);
 }
 
-void VltLinkProperties::saveSettings(const QString &prefix) const
+void VltLinkProperties::saveSettings(const QString &prefix)
 {
     const auto settings = vlt::platform::wizardSettings();
     const LinkRepresentation values = representation();

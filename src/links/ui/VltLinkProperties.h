@@ -1,8 +1,7 @@
 #pragma once
 
 #include "links/LinkRepresentation.h"
-
-#include <QWidget>
+#include "tables/ui/VltParameterPanel.h"
 
 #include <memory>
 
@@ -12,7 +11,7 @@ class LinkProperties;
 
 /// The panel with the look of links and of their Fresnel zones, and with the rule that judges their
 /// clearance.
-class VltLinkProperties : public QWidget
+class VltLinkProperties : public VltParameterPanel
 {
     Q_OBJECT
 
@@ -20,20 +19,12 @@ public:
     explicit VltLinkProperties(QWidget *parent = nullptr);
     ~VltLinkProperties() override;
 
-    /// Reads the values remembered under "<prefix>/..."; a value that is missing, damaged or out of
-    /// its range is that of a first run. Emits nothing.
-    void loadSettings(const QString &prefix);
-    void saveSettings(const QString &prefix) const;
+    void loadSettings(const QString &prefix) override;
+    void saveSettings(const QString &prefix) override;
+    void setStacked(bool stacked) override;
 
     /// The values as they stand.
     vlt::links::LinkRepresentation representation() const;
-
-    /// Puts the groups above each other instead of side by side, for large fonts.
-    void setStacked(bool stacked);
-
-Q_SIGNALS:
-    /// A value has changed.
-    void parameterChanged();
 
 private:
     void limitValues();

@@ -1,19 +1,22 @@
 #include "sites/ui/VltAddSitePage.h"
 
 #include "sites/ui/VltSiteDetails.h"
+#include "sites/ui/VltSiteProperties.h"
 
 VltAddSitePage::VltAddSitePage(QWidget *wizard, SharedParameters &parameters,
                                const QString &installDir, const QString &language)
     : VltTablePage(wizard, parameters, installDir, language, siteKind())
+    , m_panelPylons(new VltSiteProperties(installDir, language, this))
     , m_panelDetails(new VltSiteDetails(this))
 {
+    addPanel(m_panelPylons);
     addDetails(m_panelDetails);
     readRememberedFile();
 }
 
-vlt::sites::TablePageKind VltAddSitePage::siteKind()
+vlt::tables::TablePageKind VltAddSitePage::siteKind()
 {
-    vlt::sites::TablePageKind kind;
+    vlt::tables::TablePageKind kind;
     kind.name = QStringLiteral("Site");
     kind.settingsPrefix = QStringLiteral("AddSitePage");
     kind.fileKey = QStringLiteral("SiteFile");
@@ -53,8 +56,9 @@ vlt::sites::SiteLayerInput VltAddSitePage::layerInput() const
 {
     vlt::sites::SiteLayerInput input;
     fillInput(input);
+    input.catalogues = m_panelPylons->catalogues();
     input.file = m_file;
-    input.representation = pylonPanel().representation();
+    input.representation = m_panelPylons->representation();
     return input;
 }
 
@@ -63,12 +67,23 @@ void VltAddSitePage::checkRows()
     m_panelDetails->check(vlt::sites::placingConnection(layerInput()), systems());
 }
 
-vlt::Result<vlt::sites::SiteLayer> VltAddSitePage::makeLayer() const
+std::optional<vlt::Error> VltAddSitePage::missingChoice() const
+{
+    return vlt::sites::missingChoice(m_panelPylons->representation(), m_panelPylons->catalogues(),
+                                     installDir());
+}
+
+vlt::Result<vlt::tables::TableLayer> VltAddSitePage::makeLayer() const
 {
     return vlt::sites::makeSiteLayer(layerInput());
 }
 
 QString VltAddSitePage::demonstrationUrl() const
 {
-    return pylonPanel().buildPreviewPylonUrl(QStringLiteral("site"));
+    return m_panelPylons->buildPreviewPylonUrl(QStringLiteral("site"));
+}
+
+double VltAddSitePage::preciseDistanceM() const
+{
+    return m_panelPylons->representation().realisticDistance;
 }

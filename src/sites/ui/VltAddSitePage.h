@@ -1,9 +1,10 @@
 #pragma once
 
-#include "sites/SiteFileInfo.h"
-#include "sites/ui/VltTablePage.h"
+#include "sites/SiteLayer.h"
+#include "tables/ui/VltTablePage.h"
 
 class VltSiteDetails;
+class VltSiteProperties;
 
 /// The page on which a table of sites becomes a site layer.
 class VltAddSitePage : public VltTablePage
@@ -20,16 +21,19 @@ public Q_SLOTS:
     void openSites() { openTable(); }
 
 private:
-    static vlt::sites::TablePageKind siteKind();
+    static vlt::tables::TablePageKind siteKind();
     vlt::sites::SiteLayerInput layerInput() const;
 
     void readTable(const QString &path) override;
-    const vlt::sites::TableFileInfo &file() const override { return m_file; }
+    const vlt::tables::TableFileInfo &file() const override { return m_file; }
     void showDetails() override;
     void checkRows() override;
-    vlt::Result<vlt::sites::SiteLayer> makeLayer() const override;
+    std::optional<vlt::Error> missingChoice() const override;
+    vlt::Result<vlt::tables::TableLayer> makeLayer() const override;
     QString demonstrationUrl() const override;
+    double preciseDistanceM() const override;
 
+    VltSiteProperties *m_panelPylons;
     VltSiteDetails *m_panelDetails;
     vlt::sites::SiteFileInfo m_file;
 };

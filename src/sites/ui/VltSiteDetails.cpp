@@ -1,5 +1,7 @@
 #include "sites/ui/VltSiteDetails.h"
 
+#include "sites/SiteColumnDescription.h"
+
 void VltSiteDetails::showFile(const vlt::sites::SiteFileInfo &file)
 {
     QList<vlt::Problem> problems;
@@ -8,7 +10,7 @@ void VltSiteDetails::showFile(const vlt::sites::SiteFileInfo &file)
     showTable(file.unit, vlt::sites::describeColumns(file.columns), problems);
 }
 
-void VltSiteDetails::check(const QString &connection, const vlt::sites::SiteSystems &systems)
+void VltSiteDetails::check(const QString &connection, const vlt::geodata::SystemPair &systems)
 {
     using vlt::geodata::SiteCheck;
     checkOnce<SiteCheck>(

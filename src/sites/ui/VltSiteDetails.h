@@ -1,7 +1,7 @@
 #pragma once
 
 #include "sites/SiteFileInfo.h"
-#include "sites/ui/VltTableDetails.h"
+#include "tables/ui/VltTableDetails.h"
 
 /// The details of a table of sites.
 class VltSiteDetails : public VltTableDetails
@@ -18,7 +18,7 @@ public:
     ///
     /// @param connection  the table with its coordinate systems and an absolute path
     /// @param systems     the same systems
-    void check(const QString &connection, const vlt::sites::SiteSystems &systems);
+    void check(const QString &connection, const vlt::geodata::SystemPair &systems);
 
 private:
     QString nonePlacedText() const override;

@@ -2,7 +2,7 @@
 
 #include "platform/Settings.h"
 #include "sites/PylonQuery.h"
-#include "sites/ui/PanelParts.h"
+#include "tables/ui/PanelParts.h"
 #include "ui_SiteProperties.h"
 #include "wizard/base/WheelGuard.h"
 
@@ -62,13 +62,13 @@ const std::vector<Remembered> &rememberedValues()
 
 VltSiteProperties::VltSiteProperties(const QString &installDir, const QString &language,
                                      QWidget *parent)
-    : QWidget(parent)
+    : VltParameterPanel(parent)
     , m_ui(std::make_unique<Ui::SiteProperties>())
     , m_catalogues(vlt::sites::loadSiteCatalogues(installDir, language))
     , m_installDir(installDir)
 {
     m_ui->setupUi(this);
-    vlt::sites::narrowSpinBoxes(this);
+    vlt::tables::narrowSpinBoxes(this);
     fillCombos();
     connectWidgets();
 }
@@ -92,12 +92,12 @@ void VltSiteProperties::fillCombos()
         pylons->addItem(type.description);
     }
     for (QComboBox *combo : {pylons, m_ui->m_pwCbSectorColors})
-        vlt::sites::showWholeTexts(combo);
+        vlt::tables::showWholeTexts(combo);
 }
 
 void VltSiteProperties::connectWidgets()
 {
-    vlt::sites::announceChanges(this);
+    vlt::tables::announceChanges(this);
     connect(m_ui->m_pwSlTransparency, &QSlider::valueChanged, this, [this](int value) {
         m_ui->m_pwLblTransparencyValue->setText(QStringLiteral("%1 %").arg(value));
         Q_EMIT parameterChanged();
@@ -122,9 +122,9 @@ void VltSiteProperties::loadSettings(const QString &prefix)
     m_ui->m_pwSbSectorHeight->setValue(values.sectorHeight);
     m_ui->m_pwSbSectorRadius->setValue(values.sectorRadius);
     m_ui->m_pwSbSectorSpacing->setValue(values.sectorSpacing);
-    vlt::sites::selectEntry(m_ui->m_pwCbSectorColors, values.colorSet);
+    vlt::tables::selectEntry(m_ui->m_pwCbSectorColors, values.colorSet);
     m_ui->m_pwSbSymbolicDistance->setValue(values.symbolicDistance);
-    vlt::sites::selectEntry(m_ui->m_pwCbPylonType, values.pylonType);
+    vlt::tables::selectEntry(m_ui->m_pwCbPylonType, values.pylonType);
     m_ui->m_pwSbRealisticDistance->setValue(values.realisticDistance);
     m_ui->m_pwSlTransparency->setValue(values.transparency);
     m_ui->m_pwSbPylonWidth->setValue(values.pylonWidth);

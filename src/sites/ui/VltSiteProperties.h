@@ -1,8 +1,7 @@
 #pragma once
 
 #include "sites/SiteRepresentation.h"
-
-#include <QWidget>
+#include "tables/ui/VltParameterPanel.h"
 
 #include <memory>
 
@@ -11,7 +10,7 @@ class SiteProperties;
 }
 
 /// The panel with the look of pylons and sectors.
-class VltSiteProperties : public QWidget
+class VltSiteProperties : public VltParameterPanel
 {
     Q_OBJECT
 
@@ -21,10 +20,9 @@ public:
                       QWidget *parent = nullptr);
     ~VltSiteProperties() override;
 
-    /// Reads the values remembered under "<prefix>/..."; one that is missing, is no number or
-    /// chooses no entry of its catalogue is that of a first run. Emits nothing.
-    virtual void loadSettings(const QString &prefix);
-    virtual void saveSettings(const QString &prefix);
+    void loadSettings(const QString &prefix) override;
+    void saveSettings(const QString &prefix) override;
+    void setStacked(bool stacked) override;
 
     /// The name under which the scene library loads one demonstration site with these values; empty
     /// where no pylon type or colour set is chosen.
@@ -35,13 +33,6 @@ public:
     /// The values as they stand; an index is -1 where the catalogue is empty.
     vlt::sites::SiteRepresentation representation() const;
     const vlt::sites::SiteCatalogues &catalogues() const { return m_catalogues; }
-
-    /// Puts the two groups above each other instead of side by side, for large fonts.
-    void setStacked(bool stacked);
-
-Q_SIGNALS:
-    /// A value has changed.
-    void parameterChanged();
 
 private:
     void fillCombos();

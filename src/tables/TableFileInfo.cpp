@@ -1,0 +1,96 @@
+#include "tables/TableFileInfo.h"
+
+#include "geodata/LayerInfo.h"
+#include "geodata/TerrainReferenceCode.h"
+#include "language/VltLanguageManager.h"
+#include "tables/TableTexts.h"
+#include "text/Templates.h"
+#include "wizard/project/ProjectReaders.h"
+
+#include <QFileInfo>
+
+namespace vlt::tables {
+
+namespace {
+
+QString coordinateKind(const QString &unit)
+{
+    return unit == QLatin1String("METERS") ? dico_label("MESS_CR_CARTOGRAPHIQUES", "cartographic")
+                                           : dico_label("MESS_CR_GEOGRAPHIQUES", "geographic");
+}
+
+QString unitWord(const QString &unit)
+{
+    if (unit == QLatin1String("METERS"))
+        return dico_label("MESS_METERS", "meters");
+    if (unit == QLatin1String("DMS"))
+        return dico_label("MESS_DMS_FORM", "D/M/S form");
+    return dico_label("MESS_DEC_DEGREES", "decimal degrees");
+}
+
+KnownSystems knownSystems(const TableFileInfo &info, const project::ProjectContext &project)
+{
+    KnownSystems known;
+    known.unit = info.unit;
+    known.fileEpsg = info.epsg;
+    if (!project.terrainFile.isEmpty())
+        known.terrainEpsg = geodata::terrainReferenceCode(project.terrainFile);
+    if (!project.projectPath.isEmpty())
+        known.projectEpsg = project::referenceProjection(project.projectPath);
+    return known;
+}
+
+} // namespace
+
+QString describeTableFile(const QString &format, const QString &unit)
+{
+    return text::replacePlaceholders(
+        dico_label("MESS_INFO_SITE_FILE",
+                   "File format is : %1\nCoordinates are %2 and are specified in %3"),
+        {{QStringLiteral("_F_"), format},
+         {QStringLiteral("_C_"), coordinateKind(unit)},
+         {QStringLiteral("_U_"), unitWord(unit)}});
+}
+
+QStringList readTableFileInfo(const TableKind &kind, const QString &path,
+                              const project::ProjectContext &project, TableFileInfo &info)
+{
+    if (path.isEmpty())
+        return {};
+
+    const Result<geodata::LayerInfo> opened =
+        geodata::readLayerInfo(info.reading.connection(kind.prefix, path), 0);
+    if (!opened) {
+        info.errorDetail = opened.error().text;
+        info.error = isEmptyTable(info.errorDetail) ? kind.empty : kind.unreadable;
+        return {};
+    }
+
+    info.fileDir = QFileInfo(path).absolutePath();
+    info.filePath = path;
+    const geodata::LayerInfo &layer = opened.value();
+    if (!layer.present || layer.featureCount == 0) {
+        info.error = kind.empty;
+        return {};
+    }
+
+    info.layerName = layer.layerName;
+    info.rowCount = layer.featureCount;
+    info.format = layer.metadata.value(QStringLiteral("format"));
+    info.unit = layer.metadata.value(QStringLiteral("unit"));
+    info.epsg = layer.metadata.value(QStringLiteral("epsg"));
+    info.encoding = layer.metadata.value(QStringLiteral("encoding"));
+    info.description = describeTableFile(info.format, info.unit);
+    const KnownSystems known = knownSystems(info, project);
+    info.systems = chooseSystems(known);
+    for (const QString &system : {known.projectEpsg, known.terrainEpsg}) {
+        if (!system.isEmpty())
+            info.projectSystems << system;
+    }
+    if (!project.terrainFile.isEmpty())
+        info.terrainArea = geodata::terrainArea(project.terrainFile);
+    info.valid = true;
+    return layer.fields;
+}
+
+} // namespace vlt::tables

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "platform/Result.h"
+#include "tables/TableReading.h"
+#include "tables/TableSystems.h"
+#include "wizard/project/ProjectContext.h"
+
+#include <QStringList>
+
+#include <optional>
+
+namespace vlt::tables {
+
+/// What a page knows of the table of sites or links that the user picked.
+struct TableFileInfo
+{
+    bool valid = false;   ///< whether a layer can be made of it
+    TableReading reading; ///< how it was read
+    QString filePath;     ///< as picked, once the file opened; kept for a table without rows
+    QString fileDir;      ///< absolute directory of the file
+    QString layerName;
+    QString nameField;           ///< column whose value names a site
+    bool hasNameField = false;   ///< whether the table has it, in any case of letters
+    QString description;         ///< translated text for the file label; empty unless valid
+    QString format;              ///< which tool exported the file, as the file says
+    QString unit;                ///< "METERS", "DMS", else decimal degrees
+    QString epsg;                ///< code that the file declares; "0" or empty for none
+    QString encoding;            ///< of a text file; empty for others
+    qint64 rowCount = 0;         ///< sites or links
+    geodata::SystemPair systems; ///< to give to the choosers
+    QStringList projectSystems;  ///< of the project and its terrain, as far as they are known
+    std::optional<geodata::SrsBounds> terrainArea; ///< where the project's terrain lies
+
+    /// Why the file is not valid; none for an empty path.
+    std::optional<Error> error;
+    QString errorDetail; ///< the driver's own reason; may be empty
+};
+
+/// How tables of one kind are opened, and what is said of those that cannot be used.
+struct TableKind
+{
+    QString prefix; ///< of the table connection: "site:" or "link:"
+    Error unreadable;
+    Error empty;
+};
+
+/// Opens `path` as a table of the kind, by `info.reading`, and fills `info`, but for the column
+/// that names a site. The names of the first layer's fields; none unless `info` is valid
+/// afterwards, an empty path being no error.
+QStringList readTableFileInfo(const TableKind &kind, const QString &path,
+                              const project::ProjectContext &project, TableFileInfo &info);
+
+/// The line about format, coordinates and unit, in the chosen language. Only a dictionary's text
+/// takes the values in; the built-in English one has no places for them.
+QString describeTableFile(const QString &format, const QString &unit);
+
+} // namespace vlt::tables

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "tables/ui/VltLayerPreview.h"
+
+#include <QString>
+
+namespace vlt::tables {
+
+/// What tells the page for one kind of table from that for another.
+struct TablePageKind
+{
+    QString name;               ///< "Site": end of the names of the page's own widgets (m_pwLeSite)
+    QString settingsPrefix;     ///< of the remembered values
+    QString fileKey;            ///< under which the table is remembered, below the prefix
+    QString srsKind;            ///< as VltSrsSettings takes it
+    QString layerBaseName;      ///< of the temporary layer file
+    bool looksAtMiddle = false; ///< of the demonstration from afar, instead of at its origin
+    double nearDistanceM = 0;   ///< of the camera from the demonstration, for the near view
+    double nearHeightM = 0;     ///< what it looks at
+
+    // words in the chosen language
+    QString title;
+    QString fileGroup;
+    QString fileLabel;
+    QString noFile;
+    QString selectFile; ///< caption of the file dialog
+    QString files;      ///< name of the dialog's filter
+    QString reading;
+    QString dragText;
+    QString dragName;
+    VltLayerPreview::OwnLayer ownLayer;
+};
+
+} // namespace vlt::tables

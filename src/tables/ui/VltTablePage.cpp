@@ -1,0 +1,428 @@
+#include "tables/ui/VltTablePage.h"
+
+#include "platform/LayerFile.h"
+#include "platform/Settings.h"
+#include "tables/SystemObstacle.h"
+#include "tables/TableTexts.h"
+#include "tables/ui/VltParameterPanel.h"
+#include "tables/ui/VltSrsSettings.h"
+#include "tables/ui/VltTableDetails.h"
+#include "ui_TablePage.h"
+#include "wizard/base/DraggableIcon.h"
+#include "wizard/base/Messages.h"
+#include "wizard/base/TemporaryLayerFile.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QKeyEvent>
+#include <QScreen>
+#include <QSettings>
+#include <QStyle>
+
+namespace {
+
+const QString LastUsedDirKey = QStringLiteral("LastUsedDir");
+
+/// The file and why it was refused, as two lines.
+QString refusalDetail(const QString &path, const QString &reason)
+{
+    const QString translated = vlt::tables::tableText(reason);
+    return translated.isEmpty() ? path : path + QLatin1Char('\n') + translated;
+}
+
+/// Parts whose focus is that of the whole, such as the lines of spin boxes and combos and the
+/// inside of tables. Shift+Tab comes to the whole by them, so that they have to stand behind it.
+QWidgetList partsThatStandFor(const QWidget &stop)
+{
+    QWidgetList parts;
+    for (QWidget *part : stop.findChildren<QWidget *>()) {
+        const QWidget *proxy = part->focusProxy();
+        while (proxy && proxy->focusProxy())
+            proxy = proxy->focusProxy();
+        if (proxy == &stop)
+            parts << part;
+    }
+    return parts;
+}
+
+/// Each widget after the one before. The toolkit would move a stop together with all that stands
+/// between it and a part of it, which may be anywhere, and would leave out what takes no focus;
+/// without proxies, and with focus for a moment, it moves single widgets.
+void putInOrder(const QWidgetList &widgets)
+{
+    QWidgetList proxies;
+    QList<Qt::FocusPolicy> policies;
+    for (QWidget *widget : widgets) {
+        proxies << widget->focusProxy();
+        widget->setFocusProxy(nullptr);
+    }
+    for (QWidget *widget : widgets) {
+        policies << widget->focusPolicy();
+        widget->setFocusPolicy(Qt::StrongFocus);
+    }
+    for (int i = 1; i < widgets.size(); ++i)
+        QWidget::setTabOrder(widgets[i - 1], widgets[i]);
+    for (int i = 0; i < widgets.size(); ++i)
+        widgets[i]->setFocusPolicy(policies[i]);
+    for (int i = 0; i < widgets.size(); ++i)
+        widgets[i]->setFocusProxy(proxies[i]);
+}
+
+} // namespace
+
+VltTablePage::VltTablePage(QWidget *wizard, SharedParameters &parameters, const QString &installDir,
+                           const QString &language, const vlt::tables::TablePageKind &kind)
+    : BasePage(wizard, parameters, installDir, language)
+    , m_kind(kind)
+    , m_ui(std::make_unique<Ui::TablePage>())
+{
+    m_ui->setupUi(this);
+    setFocusProxy(m_ui->m_pwLeTable); // where the keyboard starts
+    setTitle(m_kind.title);
+    nameWidgets();
+    createPanels();
+    connectWidgets();
+}
+
+VltTablePage::~VltTablePage() = default;
+
+void VltTablePage::nameWidgets()
+{
+    setObjectName(QStringLiteral("Add%1Page").arg(m_kind.name));
+    m_ui->m_pwGbTable->setObjectName(QStringLiteral("m_pwGb%1s").arg(m_kind.name));
+    m_ui->m_pwLblTable->setObjectName(QStringLiteral("m_pwLbl") + m_kind.name);
+    m_ui->m_pwLeTable->setObjectName(QStringLiteral("m_pwLe") + m_kind.name);
+    m_ui->m_pwPbTable->setObjectName(QStringLiteral("m_pwPb") + m_kind.name);
+    m_ui->m_pwGbTable->setTitle(m_kind.fileGroup);
+    m_ui->m_pwLblTable->setText(m_kind.fileLabel);
+    m_ui->m_pwPbTable->setToolTip(m_kind.selectFile);
+    m_ui->m_pwLblFileInfo->setText(m_kind.noFile);
+    m_ui->m_pwLblDragText->setText(m_kind.dragText);
+    m_ui->m_pwGbPreview->setOwnLayer(m_kind.ownLayer);
+}
+
+void VltTablePage::createPanels()
+{
+    m_panelSrs = new VltSrsSettings(m_kind.srsKind, m_ui->m_pwGbSrs);
+    m_ui->m_ptVbSrs->addWidget(m_panelSrs);
+
+    constexpr QSize DragIconSize(72, 72);
+    const QIcon dragIcon(QStringLiteral(":/images/drag-drop-icon.png"));
+    m_pwDragIcon = new DraggableIcon(dragIcon.pixmap(DragIconSize, qApp->devicePixelRatio()), this);
+    m_pwDragIcon->setObjectName(QStringLiteral("m_pwDragIcon"));
+    m_pwDragIcon->setAccessibleName(m_kind.dragName);
+    m_pwDragIcon->setToolTip(tr("Drag the layer file into the builder; Ctrl+C copies it, Ctrl+S "
+                                "saves it under another name",
+                                "MESS_TIP_DRAG"));
+    m_ui->m_ptHbDrag->addWidget(m_pwDragIcon);
+    setDropHighlightWidgets({m_ui->m_pwLblTable});
+    vlt::snapshot::addReaderDirectory(installDir() + QStringLiteral("/driver"));
+}
+
+void VltTablePage::connectWidgets()
+{
+    connect(m_ui->m_pwPbTable, &QPushButton::clicked, this, &VltTablePage::openTable);
+    connect(m_ui->m_pwLeTable, &QLineEdit::editingFinished, this, [this] {
+        const QString path = m_ui->m_pwLeTable->text();
+        if (path != m_pathRead && QFileInfo(path).isFile())
+            readFileInfo(path, false);
+    });
+    connect(m_panelSrs, &VltSrsSettings::parameterChanged, this, &VltTablePage::updatePreview);
+    connect(m_ui->m_pwGbPreview, &VltLayerPreview::symbolicWanted, this,
+            &VltTablePage::previewSymbolic);
+    connect(m_ui->m_pwGbPreview, &VltLayerPreview::preciseWanted, this,
+            &VltTablePage::previewPrecise);
+    m_ui->m_pwLeTable->installEventFilter(this);
+}
+
+void VltTablePage::readRememberedFile()
+{
+    restoreSettings();
+    readFileInfo(m_ui->m_pwLeTable->text(), true);
+}
+
+void VltTablePage::addDetails(VltTableDetails *details)
+{
+    m_panelDetails = details;
+    connect(details, &VltTableDetails::checked, this, &VltTablePage::showArea);
+    m_ui->m_ptVbTable->addWidget(details);
+}
+
+void VltTablePage::addPanel(VltParameterPanel *panel)
+{
+    m_panels << panel;
+    m_ui->m_ptVbProperties->addWidget(panel);
+    connect(panel, &VltParameterPanel::parameterChanged, this, &VltTablePage::updatePreview);
+}
+
+vlt::geodata::SystemPair VltTablePage::systems() const
+{
+    return {m_panelSrs->sourceSrs(), m_panelSrs->targetSrs()};
+}
+
+/// Return takes the typed path and goes no further: the wizard would press one of its buttons.
+bool VltTablePage::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_ui->m_pwLeTable && event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent *>(event)->key();
+        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+            readFileInfo(m_ui->m_pwLeTable->text(), false);
+            return true;
+        }
+    }
+    return BasePage::eventFilter(watched, event);
+}
+
+void VltTablePage::setStacked(bool stacked)
+{
+    for (VltParameterPanel *panel : std::as_const(m_panels))
+        panel->setStacked(stacked);
+}
+
+/// Tab goes through the groups as they lie on the page, whatever the order they were made in.
+///
+/// A frame that hands the keyboard to one of its parts counts as a stop of its own, wherever it
+/// stands: Tab would come back to the part for ever. Only the parts take the keyboard here.
+void VltTablePage::orderFocus()
+{
+    for (QWidget *frame : findChildren<QWidget *>()) {
+        if (frame->focusProxy() && frame->isAncestorOf(frame->focusProxy()))
+            frame->setFocusProxy(nullptr);
+    }
+    QWidgetList groups{m_ui->m_pwGbTable, m_ui->m_pwGbSrs};
+    for (VltParameterPanel *panel : std::as_const(m_panels))
+        groups << panel;
+    groups << m_ui->m_pwGbPreview << m_pwDragIcon;
+
+    QWidgetList ordered;
+    for (const QWidget *group : std::as_const(groups)) {
+        for (QWidget *widget = nextInFocusChain(); widget != this;
+             widget = widget->nextInFocusChain()) {
+            const bool isStop = (widget->focusPolicy() & Qt::TabFocus) && !widget->focusProxy();
+            if (isStop && (widget == group || group->isAncestorOf(widget)))
+                ordered << widget << partsThatStandFor(*widget);
+        }
+    }
+    putInOrder(ordered);
+}
+
+/// The input side scrolls upwards and downwards only, unless the screen is too narrow for it.
+void VltTablePage::fitInputWidth()
+{
+    constexpr double ComfortableShare = 0.57;
+    constexpr int WindowMargins = 80;
+    const int screenWidth = screen()->availableSize().width();
+    const auto wanted = [this] {
+        m_ui->m_pwInput->layout()->activate();
+        return m_ui->m_pwInput->minimumSizeHint().width() +
+               style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    };
+    setStacked(false);
+    setStacked(wanted() > ComfortableShare * screenWidth);
+    const int most = screenWidth - m_ui->m_ptVbResult->minimumSize().width() - WindowMargins;
+    m_ui->m_pwSaInput->setMinimumWidth(qMin(wanted(), most));
+}
+
+void VltTablePage::initializePage()
+{
+    BasePage::initializePage();
+    orderFocus();
+    fitInputWidth();
+    m_project = vlt::project::readProjectContext(field(QStringLiteral("ProjectName")).toString());
+    m_isActive = true;
+    readFileInfo(m_ui->m_pwLeTable->text(), true);
+}
+
+bool VltTablePage::isComplete() const
+{
+    return BasePage::isComplete() && file().valid;
+}
+
+bool VltTablePage::validatePage()
+{
+    return vlt::messages::confirmed(
+        this, tr("Voulez-vous quitter l'application ?", "MESS_QUEST_QUIT_APP"));
+}
+
+QString VltTablePage::settingsKey(const QString &name) const
+{
+    return m_kind.settingsPrefix + QLatin1Char('/') + name;
+}
+
+void VltTablePage::restoreSettings()
+{
+    const auto settings = vlt::platform::wizardSettings();
+    m_fileDir = settings->value(LastUsedDirKey).toString();
+    m_ui->m_pwLeTable->setText(settings->value(settingsKey(m_kind.fileKey)).toString());
+    for (VltParameterPanel *panel : std::as_const(m_panels))
+        panel->loadSettings(m_kind.settingsPrefix);
+    m_panelSrs->loadSettings(m_kind.settingsPrefix);
+}
+
+void VltTablePage::saveSettings()
+{
+    const auto settings = vlt::platform::wizardSettings();
+    if (!m_fileDir.isEmpty())
+        settings->setValue(LastUsedDirKey, m_fileDir);
+    settings->setValue(settingsKey(m_kind.fileKey), m_ui->m_pwLeTable->text());
+    for (VltParameterPanel *panel : std::as_const(m_panels))
+        panel->saveSettings(m_kind.settingsPrefix);
+    m_panelSrs->saveSettings(m_kind.settingsPrefix);
+}
+
+void VltTablePage::droppedFile(const QString &path)
+{
+    readFileInfo(path, false);
+}
+
+void VltTablePage::openTable()
+{
+    const QString path = QFileDialog::getOpenFileName(
+        this, m_kind.selectFile, m_fileDir,
+        QStringLiteral("%1 (*.xls *.xlsx *.xml *.csv)").arg(m_kind.files));
+    if (!path.isEmpty())
+        readFileInfo(path, false);
+}
+
+void VltTablePage::readFileInfo(const QString &path, bool quiet)
+{
+    if (m_isReading) // a box of this very read took the focus out of the line
+        return;
+    m_isReading = true;
+    m_pathRead = path;
+    readTable(path);
+    if (!file().fileDir.isEmpty())
+        m_fileDir = file().fileDir;
+    showFile();
+    if (file().error && !quiet)
+        vlt::messages::critical(this, *file().error, vlt::messages::errorTitle(),
+                                refusalDetail(path, file().errorDetail));
+    createLayerFile();
+    m_isReading = false;
+    Q_EMIT completeChanged();
+}
+
+void VltTablePage::showFile()
+{
+    const vlt::tables::TableFileInfo &read = file();
+    // a refused drop leaves the path of the line as it was: the reason names its file itself
+    showReason(read.errorDetail.isEmpty() ? QString()
+                                          : tr("%1: %2", "MESS_FILE_REASON")
+                                                .arg(QFileInfo(m_pathRead).fileName(),
+                                                     vlt::tables::tableText(read.errorDetail)));
+    if (!read.valid) {
+        m_pwDragIcon->setLayerFile({});
+        m_ui->m_pwGbPreview->leaveLayer();
+        m_panelDetails->clear();
+        m_ui->m_pwLblFileInfo->setText(m_kind.noFile);
+        return;
+    }
+    m_ui->m_pwLblFileInfo->setText(read.description);
+    m_ui->m_pwLeTable->setText(read.filePath);
+    if (!read.systems.source.isEmpty())
+        m_panelSrs->setSourceSrs(read.systems.source);
+    if (!read.systems.target.isEmpty())
+        m_panelSrs->setTargetSrs(read.systems.target);
+    m_panelSrs->setContext({read.projectSystems, read.terrainArea});
+    showDetails();
+}
+
+/// Why there is no layer; an empty text where there is one or no table was chosen.
+void VltTablePage::showReason(const QString &reason)
+{
+    m_ui->m_pwLblReason->setText(reason);
+    m_ui->m_pwLblReason->setVisible(!reason.isEmpty());
+}
+
+/// Degrees tell where a table lies, metres only once their system is known.
+void VltTablePage::showArea(const vlt::geodata::SystemCheck &checked)
+{
+    const vlt::tables::TableFileInfo &read = file();
+    const bool isInDegrees = read.unit != QLatin1String("METERS") &&
+                             checked.source.use == vlt::geodata::SrsUse::Geographic;
+    if (isInDegrees && checked.extent)
+        m_panelSrs->setContext({read.projectSystems, checked.extent});
+}
+
+void VltTablePage::updatePreview()
+{
+    createLayerFile();
+}
+
+/// Changes that arrive while a message box is open are folded into one further run.
+void VltTablePage::createLayerFile()
+{
+    m_createAgain = true;
+    if (m_isCreating)
+        return;
+    m_isCreating = true;
+    while (m_createAgain) {
+        m_createAgain = false;
+        m_pwDragIcon->setLayerFile({});
+        if (m_isActive && file().valid) {
+            showDemonstration();
+            writeLayerFile();
+        }
+    }
+    m_ui->m_pwLblDragText->setEnabled(m_pwDragIcon->isEnabled());
+    m_ui->m_pwGbPreview->setLayerFile(m_pwDragIcon->layerFile(), m_project.projectPath);
+    m_isCreating = false;
+}
+
+void VltTablePage::showDemonstration()
+{
+    if (!m_ui->m_pwGbPreview->hasView())
+        return;
+    const auto scene = vlt::snapshot::readScene(demonstrationUrl());
+    if (scene)
+        m_ui->m_pwGbPreview->setDemonstration(scene.value());
+    else
+        vlt::messages::critical(
+            this, {{}, QStringLiteral("The pylon url didn't return a valid node !"), {}});
+}
+
+void VltTablePage::previewSymbolic()
+{
+    constexpr double BeyondPrecise = 500;
+    const double distanceM = preciseDistanceM() + BeyondPrecise;
+    if (m_kind.looksAtMiddle)
+        m_ui->m_pwGbPreview->lookAtDemonstration(distanceM);
+    else
+        m_ui->m_pwGbPreview->lookAtDemonstration(distanceM, 0);
+}
+
+void VltTablePage::previewPrecise()
+{
+    m_ui->m_pwGbPreview->lookAtDemonstration(m_kind.nearDistanceM, m_kind.nearHeightM);
+}
+
+void VltTablePage::writeLayerFile()
+{
+    checkRows();
+    std::optional<vlt::Error> obstacle = missingChoice();
+    if (!obstacle)
+        obstacle = vlt::tables::systemObstacle(systems());
+    showReason(obstacle ? vlt::messages::textOf(*obstacle) : QString());
+    if (obstacle)
+        return;
+    const vlt::Result<vlt::tables::TableLayer> layer = makeLayer();
+    if (!layer) {
+        vlt::messages::critical(this, layer.error());
+        return;
+    }
+    if (layer.value().warning)
+        vlt::messages::warning(this, {layer.value().warning->key, layer.value().warning->text, {}},
+                               tr("Error !!!", "MESS_ERREUR"));
+
+    const QString path = vlt::wizard::temporaryLayerFileName(m_kind.layerBaseName);
+    QString reason;
+    const auto written = vlt::platform::writeLayerFile(path, layer.value().text,
+                                                       vlt::platform::Access::UserOnly, &reason);
+    if (!written) {
+        vlt::messages::critical(this, written.error(), vlt::messages::errorTitle(), reason);
+        return;
+    }
+    m_pwDragIcon->setLayerFile(path);
+    saveSettings();
+}
