@@ -1,5 +1,7 @@
 #include "app/Environment.h"
 
+#include "contract/Installation.h"
+
 #include <QFile>
 #include <QFileInfo>
 
@@ -9,7 +11,7 @@ EnvironmentValues geodataEnvironment(const QString &installDir, platform::PathSt
                                      const QByteArray &previousPath,
                                      const std::function<bool(const QString &)> &directoryExists)
 {
-    const auto below = [&](const char *path) {
+    const auto below = [&](const QByteArray &path) {
         return installDir + platform::withSeparators(QLatin1Char('/') + QLatin1String(path), style);
     };
     const QChar listMark = platform::listSeparator(style);
@@ -18,7 +20,9 @@ EnvironmentValues geodataEnvironment(const QString &installDir, platform::PathSt
     // in a POSIX list an empty last entry would stand for the working directory
     if (!previousPath.isEmpty() || style == platform::PathStyle::Windows)
         path += QString(listMark).toLatin1() + previousPath;
-    const QByteArray drivers = QFile::encodeName(below("driver") + listMark + below("driver/qt4"));
+    const QByteArray drivers =
+        QFile::encodeName(below(contract::PluginFolder) + listMark +
+                          below(contract::PluginFolder + QByteArray("/qt4")));
 
     EnvironmentValues values = {{"PATH", path},
                                 {"GDAL_DRIVER_PATH", drivers},

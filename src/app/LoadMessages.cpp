@@ -1,11 +1,12 @@
 #include "app/LoadMessages.h"
 
+#include "contract/Installation.h"
 #include "language/VltLanguageManager.h"
 #include "language/VltTranslator.h"
 #include "platform/Paths.h"
 
 #include <QCoreApplication>
-#include <QFileInfo>
+#include <QDir>
 
 namespace vlt::app {
 
@@ -16,8 +17,7 @@ void loadTexts(const QString &installDir, const QString &messagesDir, const QStr
                              messagesDir,
                          language, QString());
     manager.findAndSetupAddOnsMessages(
-        QFileInfo(installDir + QStringLiteral("/addons/telecom/MESSAGES")).absoluteFilePath(),
-        QString());
+        QDir(installDir).absoluteFilePath(QLatin1String(contract::LayerMessageFolder)), QString());
 }
 
 void loadMessages(const QString &installDir, const QString &messagesDir, const QString &language)

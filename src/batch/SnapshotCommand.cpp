@@ -263,7 +263,7 @@ ExitStatus run(const QCommandLineParser &parser, const GlobalOptions &options)
                        QStringLiteral("a table becomes a layer first, by \"vltlayers site\" or "
                                       "\"vltlayers link\""),
                        request.value().layer});
-    snapshot::addReaderDirectory(surroundings.value().installDir + QStringLiteral("/driver"));
+    snapshot::addInstalledReaders(surroundings.value().installDir);
     return makePicture(request.value(), options);
 }
 

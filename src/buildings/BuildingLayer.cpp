@@ -1,7 +1,9 @@
 #include "buildings/BuildingLayer.h"
 
+#include "contract/Installation.h"
 #include "platform/ConfigurationFile.h"
 #include "platform/LayerFile.h"
+#include "platform/Paths.h"
 #include "text/Numbers.h"
 #include "text/Templates.h"
 
@@ -29,8 +31,8 @@ QString texbUrl(const QString &documentPath)
 
 QString texbTemplatePath(const QString &installDir)
 {
-    return installDir + QStringLiteral("/addons/telecom/template") +
-           QStringLiteral("/template_texb.lay");
+    return platform::installedFile(installDir, contract::BuildingTemplateFolder,
+                                   QStringLiteral("template_texb.lay"));
 }
 
 Result<Done> createTexbLayerFile(const QString &outputPath, const QString &templatePath,

@@ -1,17 +1,13 @@
 #include "colormaps/ColorMapList.h"
 
+#include "contract/Installation.h"
 #include "language/VltLanguageManager.h"
+#include "platform/Paths.h"
 
 #include <QDir>
 #include <QFileInfo>
 
 namespace vlt::colormaps {
-
-namespace {
-
-const QString ColorMapFolder = QStringLiteral("/addons/telecom/colormaps/");
-
-} // namespace
 
 ColorMapEntry colorMapEntry(const QString &path)
 {
@@ -25,7 +21,7 @@ QList<ColorMapEntry> listColorMaps(const QString &installDir, bool withNone)
     if (withNone)
         entries.append({dico_label("MESS_AUCUNE", "None"), QString()});
 
-    const QDir root(installDir + ColorMapFolder);
+    const QDir root(platform::installedFile(installDir, contract::ColorMapFolder, {}));
     for (const QString &folder : root.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name)) {
         const QDir dir(root.filePath(folder));
         const QStringList patterns = {QStringLiteral("*.cmap"), QStringLiteral("*.txt")};

@@ -1,5 +1,7 @@
 #include "localfiles/LocalFormats.h"
 
+#include "contract/Installation.h"
+
 #include <algorithm>
 #include <array>
 #include <filesystem>
@@ -14,18 +16,59 @@ namespace {
 
 // Formats whose files describe sources that lie elsewhere, services, databases that are reached
 // through a server, and what runs other programs.
-constexpr std::array Refused = {
-    "VRT",           "OGR_VRT",      "DERIVED",    "GDALG",         "GTI",
-    "STACTA",        "STACIT",       "MRF",        "MEM",           "Memory",
-    "HTTP",          "WCS",          "WMS",        "WMTS",          "WFS",
-    "CSW",           "OAPIF",        "OGCAPI",     "EEDA",          "EEDAI",
-    "DAAS",          "PLMOSAIC",     "PLSCENES",   "NGW",           "AmigoCloud",
-    "Carto",         "CouchDB",      "Cloudant",   "GFT",           "GME",
-    "Elasticsearch", "MongoDBv3",    "PostgreSQL", "PostGISRaster", "PGDUMP",
-    "MySQL",         "MSSQLSpatial", "ODBC",       "OCI",           "GeoRaster",
-    "DB2ODBC",       "Ingres",       "HANA",       "ADBC",          "SDE",
-    "OGR_OGDI",      "GMLAS",        "GPSBabel",   "JPIPKAK",       "KMLSUPEROVERLAY",
-    "RASDAMAN",      "TileDB",       "VltTables"};
+constexpr std::array Refused = {"VRT",
+                                "OGR_VRT",
+                                "DERIVED",
+                                "GDALG",
+                                "GTI",
+                                "STACTA",
+                                "STACIT",
+                                "MRF",
+                                "MEM",
+                                "Memory",
+                                "HTTP",
+                                "WCS",
+                                "WMS",
+                                "WMTS",
+                                "WFS",
+                                "CSW",
+                                "OAPIF",
+                                "OGCAPI",
+                                "EEDA",
+                                "EEDAI",
+                                "DAAS",
+                                "PLMOSAIC",
+                                "PLSCENES",
+                                "NGW",
+                                "AmigoCloud",
+                                "Carto",
+                                "CouchDB",
+                                "Cloudant",
+                                "GFT",
+                                "GME",
+                                "Elasticsearch",
+                                "MongoDBv3",
+                                "PostgreSQL",
+                                "PostGISRaster",
+                                "PGDUMP",
+                                "MySQL",
+                                "MSSQLSpatial",
+                                "ODBC",
+                                "OCI",
+                                "GeoRaster",
+                                "DB2ODBC",
+                                "Ingres",
+                                "HANA",
+                                "ADBC",
+                                "SDE",
+                                "OGR_OGDI",
+                                "GMLAS",
+                                "GPSBabel",
+                                "JPIPKAK",
+                                "KMLSUPEROVERLAY",
+                                "RASDAMAN",
+                                "TileDB",
+                                contract::TableDriver};
 
 /// Names of formats, null at the end; as long-lived as the program.
 class FormatList

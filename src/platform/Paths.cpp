@@ -34,6 +34,11 @@ QString withSeparators(QString path, PathStyle style)
     return path.replace(QLatin1Char('/'), separator(style));
 }
 
+QString installedFile(const QString &installDir, const char *folder, const QString &name)
+{
+    return installDir + QLatin1Char('/') + QLatin1String(folder) + QLatin1Char('/') + name;
+}
+
 QString systemTempDirectory()
 {
     const QString directory = QDir::tempPath() + QLatin1Char('/');

@@ -23,6 +23,11 @@ QChar listSeparator(PathStyle style);
 /// The path with each "/" written as the style has it.
 QString withSeparators(QString path, PathStyle style);
 
+/// The path of a file in a folder of the installation.
+///
+/// @param folder  below the install directory, such as contract::PylonFolder
+QString installedFile(const QString &installDir, const char *folder, const QString &name);
+
 /// The system's directory for temporary files, ending with a separator; "." where there is no such
 /// directory or its text, separator included, is longer than 259 characters.
 QString systemTempDirectory();

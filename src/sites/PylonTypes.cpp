@@ -1,5 +1,7 @@
 #include "sites/PylonTypes.h"
 
+#include "contract/Installation.h"
+#include "platform/Paths.h"
 #include "sites/CatalogueNames.h"
 
 #include <QDomDocument>
@@ -9,7 +11,7 @@ namespace vlt::sites {
 
 QList<PylonType> loadPylonTypes(const QString &installDir, const QString &language)
 {
-    QFile file(installDir + QStringLiteral("/addons/telecom/pylons/list.xml"));
+    QFile file(platform::installedFile(installDir, contract::PylonFolder, PylonCatalogue));
     QDomDocument document;
     if (!file.open(QIODevice::ReadOnly) || !document.setContent(&file))
         return {};

@@ -7,6 +7,9 @@
 
 namespace vlt::sites {
 
+/// The catalogue's file in contract::PylonFolder.
+inline constexpr QLatin1String PylonCatalogue("list.xml");
+
 /// One kind of mast of the pylon catalogue.
 struct PylonType
 {
@@ -16,7 +19,7 @@ struct PylonType
     QStringList names = {}; ///< descriptions in every language
 };
 
-/// The pylon catalogue "addons/telecom/pylons/list.xml" in document order; empty where it cannot be
+/// The pylon catalogue of the installation in document order; empty where it cannot be
 /// read.
 ///
 /// @param language  language code ("fr", "en")

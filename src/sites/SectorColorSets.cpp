@@ -1,5 +1,7 @@
 #include "sites/SectorColorSets.h"
 
+#include "contract/Installation.h"
+#include "platform/Paths.h"
 #include "sites/CatalogueNames.h"
 
 #include <QDomDocument>
@@ -46,7 +48,7 @@ QString hex(int value)
 
 QList<SectorColorSet> loadSectorColorSets(const QString &installDir, const QString &language)
 {
-    QFile file(installDir + QStringLiteral("/addons/telecom/pylons/colors/sectors.xml"));
+    QFile file(platform::installedFile(installDir, contract::PylonFolder, ColorCatalogue));
     QDomDocument document;
     if (!file.open(QIODevice::ReadOnly) || !document.setContent(&file))
         return {};

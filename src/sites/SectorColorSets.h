@@ -8,6 +8,9 @@
 
 namespace vlt::sites {
 
+/// The catalogue's file in contract::PylonFolder.
+inline constexpr QLatin1String ColorCatalogue("colors/sectors.xml");
+
 /// Colours that the sectors of a site take in turn.
 struct SectorColorSet
 {
@@ -17,7 +20,7 @@ struct SectorColorSet
     QStringList names = {}; ///< descriptions in every language
 };
 
-/// The colour catalogue "addons/telecom/pylons/colors/sectors.xml" in document order; empty where
+/// The colour catalogue of the installation in document order; empty where
 /// it cannot be read. A component that is missing or no number reads as 0 (alpha: 255 when
 /// missing); others are clamped to 0..255.
 ///

@@ -1,6 +1,7 @@
 #include "sites/SiteRepresentation.h"
 
 #include "contract/Installation.h"
+#include "platform/Paths.h"
 
 namespace vlt::sites {
 
@@ -37,13 +38,12 @@ std::optional<Error> missingChoice(const SiteRepresentation &representation,
     const auto missing = [&installDir](const QString &catalogue) {
         return Error{QStringLiteral("MESS_MISSING_CONF_FILE"),
                      QStringLiteral("A configuration file is missing"),
-                     installDir + QLatin1Char('/') + QLatin1String(contract::PylonFolder) +
-                         catalogue};
+                     platform::installedFile(installDir, contract::PylonFolder, catalogue)};
     };
     if (catalogues.pylonTypes.isEmpty())
-        return missing(QStringLiteral("/list.xml"));
+        return missing(PylonCatalogue);
     if (catalogues.colorSets.isEmpty())
-        return missing(QStringLiteral("/colors/sectors.xml"));
+        return missing(ColorCatalogue);
     if (chosenPylonType(representation, catalogues) && chosenColorSet(representation, catalogues))
         return std::nullopt;
     return Error{QStringLiteral("MESS_NO_LOOK_CHOSEN"),

@@ -1,7 +1,9 @@
 #include "snapshot/SceneSource.h"
 
+#include "contract/Installation.h"
 #include "contract/ReaderOptions.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
@@ -111,10 +113,11 @@ Result<Scene> readScene(const QString &name, const QString &project, TerrainSurf
     return asError(read, path, name);
 }
 
-void addReaderDirectory(const QString &directory)
+void addInstalledReaders(const QString &installDir)
 {
     osgDB::Registry::instance()->getLibraryFilePathList().push_front(
-        QFile::encodeName(directory).toStdString());
+        QFile::encodeName(QDir(installDir).filePath(QLatin1String(contract::PluginFolder)))
+            .toStdString());
 }
 
 QString libraryVersion()

@@ -34,7 +34,7 @@ bool isParametricName(const QString &name);
 /// The scene library with its version: "OpenSceneGraph 3.6.5".
 QString libraryVersion();
 
-/// Puts a directory first among those where the scene library looks for its readers.
-void addReaderDirectory(const QString &directory);
+/// Puts the installation's plug-ins first among the scene library's readers.
+void addInstalledReaders(const QString &installDir);
 
 } // namespace vlt::snapshot

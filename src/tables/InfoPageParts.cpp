@@ -2,6 +2,7 @@
 
 #include "contract/Installation.h"
 #include "platform/ConfigurationFile.h"
+#include "platform/Paths.h"
 
 #include <algorithm>
 
@@ -35,8 +36,7 @@ Result<QString> readInfoTemplate(const QString &installDir, const QString &name,
     const QString suffix =
         isFrench(language) ? QStringLiteral("_fr.html") : QStringLiteral("_en.html");
     const Result<QString> page = platform::readConfigurationFile(
-        installDir + QLatin1Char('/') + QLatin1String(contract::PylonFolder) + QLatin1Char('/') +
-        name + suffix);
+        platform::installedFile(installDir, contract::PylonFolder, name + suffix));
     return page ? Result<QString>(QString(page.value()).remove(QLatin1Char('\n'))) : page;
 }
 

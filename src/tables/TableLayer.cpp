@@ -2,6 +2,7 @@
 
 #include "contract/Installation.h"
 #include "platform/ConfigurationFile.h"
+#include "platform/Paths.h"
 
 namespace vlt::tables {
 
@@ -9,8 +10,7 @@ Result<TableLayer> fillLayer(const QString &installDir, const QString &templateN
                              std::vector<text::Replacement> values, const Result<QString> &page)
 {
     const Result<QString> layerTemplate = platform::readConfigurationFile(
-        installDir + QLatin1Char('/') + QLatin1String(contract::PylonFolder) + QLatin1Char('/') +
-        templateName);
+        platform::installedFile(installDir, contract::PylonFolder, templateName));
     if (!layerTemplate)
         return layerTemplate.error();
 

@@ -1,5 +1,7 @@
 #include "plugins/scene/reading/TableDrivers.h"
 
+#include "contract/Installation.h"
+
 #include <cpl_conv.h>
 #include <gdal_priv.h>
 
@@ -28,7 +30,7 @@ void registerTableDrivers()
 {
     static std::mutex guard;
     const std::lock_guard lock(guard);
-    if (GDALGetDriverByName("VltTables"))
+    if (GDALGetDriverByName(contract::TableDriver))
         return;
     const std::string beside =
         CPLGetConfigOption("GDAL_DRIVER_PATH", nullptr) ? std::string() : ownDirectory();

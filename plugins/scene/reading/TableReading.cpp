@@ -1,5 +1,6 @@
 #include "plugins/scene/reading/TableReading.h"
 
+#include "contract/Installation.h"
 #include "plugins/scene/reading/BadLayer.h"
 #include "plugins/scene/reading/TableDrivers.h"
 
@@ -71,13 +72,12 @@ std::string nameOf(const OGRSpatialReference *srs)
 
 GDALDatasetUniquePtr openTable(const contract::ConnectionString &table)
 {
-    constexpr char Driver[] = "VltTables";
     registerTableDrivers();
-    if (!GDALGetDriverByName(Driver))
-        throw BadLayer(std::string("the table driver ") + Driver +
+    if (!GDALGetDriverByName(contract::TableDriver))
+        throw BadLayer(std::string("the table driver ") + contract::TableDriver +
                        " is not there; GDAL_DRIVER_PATH has to name its directory");
     CPLErrorReset();
-    const char *const drivers[] = {Driver, nullptr};
+    const char *const drivers[] = {contract::TableDriver, nullptr};
     GDALDatasetUniquePtr dataset(
         GDALDataset::Open(contract::composeConnection(table).c_str(),
                           GDAL_OF_VECTOR | GDAL_OF_READONLY | GDAL_OF_VERBOSE_ERROR, drivers));

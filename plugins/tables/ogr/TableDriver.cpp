@@ -1,4 +1,5 @@
 #include "contract/ConnectionString.h"
+#include "contract/Installation.h"
 #include "plugins/tables/bytes/Refusal.h"
 #include "plugins/tables/ogr/LinkEndLayer.h"
 #include "plugins/tables/ogr/LinkLayer.h"
@@ -150,7 +151,7 @@ extern "C" CPL_DLL void RegisterOGRVltTables();
 
 void RegisterOGRVltTables()
 {
-    constexpr char Name[] = "VltTables";
+    constexpr auto &Name = vlt::contract::TableDriver;
     if (!GDAL_CHECK_VERSION(Name) || GDALGetDriverByName(Name))
         return;
     auto *driver = new GDALDriver();

@@ -34,7 +34,7 @@ VltBuildingLayerPage::VltBuildingLayerPage(QWidget *wizard, SharedParameters &pa
 {
     m_delay.setSingleShot(true);
     connect(&m_delay, &QTimer::timeout, this, &VltBuildingLayerPage::makeLayer);
-    vlt::snapshot::addReaderDirectory(installDir + QStringLiteral("/driver"));
+    vlt::snapshot::addInstalledReaders(installDir);
 }
 
 void VltBuildingLayerPage::setResult(VltBuildingPreview *preview, QBoxLayout *dragRow,

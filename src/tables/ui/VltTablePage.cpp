@@ -117,7 +117,7 @@ void VltTablePage::createPanels()
                                 "MESS_TIP_DRAG"));
     m_ui->m_ptHbDrag->addWidget(m_pwDragIcon);
     setDropHighlightWidgets({m_ui->m_pwLblTable});
-    vlt::snapshot::addReaderDirectory(installDir() + QStringLiteral("/driver"));
+    vlt::snapshot::addInstalledReaders(installDir());
 }
 
 void VltTablePage::connectWidgets()
