@@ -102,6 +102,7 @@ function(vlt_add_test file)
   add_executable(${name} ${file})
   vlt_apply_defaults(${name})
   target_link_libraries(${name} PRIVATE Qt6::Test ${T_LIBS})
+  target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests) # support, gui
   if(T_DEPENDS)
     add_dependencies(${name} ${T_DEPENDS})
   endif()

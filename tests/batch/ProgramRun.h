@@ -1,8 +1,9 @@
 #pragma once
 
+#include "support/Files.h"
+
 #include <QDir>
 #include <QFile>
-#include <QFileInfo>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
@@ -14,20 +15,6 @@ struct Run
     QByteArray output;
     QByteArray errors;
 };
-
-inline void writeFile(const QString &path, const QByteArray &content)
-{
-    QVERIFY(QDir().mkpath(QFileInfo(path).path()));
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(content);
-}
-
-inline QByteArray readFile(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 /// What stands between two marks of a layer file.
 inline QByteArray element(const QByteArray &layer, const QByteArray &name)

@@ -1,3 +1,5 @@
+#include "support/Files.h"
+
 #include <QDir>
 #include <QFile>
 #include <QImage>
@@ -28,19 +30,6 @@ struct Run
     QByteArray output;
     QByteArray errors;
 };
-
-void writeFile(const QString &path, const QByteArray &content)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(content);
-}
-
-QByteArray readFile(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 /// Pixels of a column that differ from the left edge's of the same row, where only the sky is.
 int drawnPixels(const QImage &picture, int x)

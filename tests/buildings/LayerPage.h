@@ -3,12 +3,12 @@
 #include "gui/AnsweredBoxes.h"
 #include "gui/DropOnWidget.h"
 #include "platform/Settings.h"
+#include "support/Files.h"
 #include "wizard/base/BasePage.h"
 #include "wizard/base/DraggableIcon.h"
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -56,13 +56,6 @@ inline QStringList otherThan(const QString &group, const QVariantMap &expected)
     return others;
 }
 
-inline QString contents(const QString &path)
-{
-    QFile file(path);
-    return !path.isEmpty() && file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll())
-                                                             : QString();
-}
-
 /// All attributes of a document in their order, "name=value name=value ...".
 inline QString attributes(const QString &document)
 {
@@ -70,16 +63,6 @@ inline QString attributes(const QString &document)
     for (const auto &match : QRegularExpression(u"\\w+=\"[^\"]*\""_s).globalMatch(document))
         attributes << match.captured().remove(u'"');
     return attributes.join(u' ');
-}
-
-/// Writes a file into a folder; its path, empty where that fails.
-inline QString write(const QTemporaryDir &dir, const QString &name, const QByteArray &text)
-{
-    QFile file(dir.filePath(name));
-    return QDir().mkpath(QFileInfo(file).absolutePath()) && file.open(QIODevice::WriteOnly) &&
-                   file.write(text) == text.size()
-               ? file.fileName()
-               : QString();
 }
 
 /// A page as it is when it is entered from the page before.
@@ -110,10 +93,11 @@ public:
     QString text(const QString &label) { return child<QLabel>(label)->text(); }
     QString message() { return text(u"m_pwLblScene"_s); }
     DraggableIcon *icon() { return child<DraggableIcon>(u"m_pwDragIcon"_s); }
-    QString layer() { return contents(icon()->layerFile()); }
+    QString layer() { return QString::fromUtf8(readFile(icon()->layerFile())); }
     QString document()
     {
-        return contents(QString(icon()->layerFile()).replace(u".lay"_s, u".texb"_s));
+        const QString layer = icon()->layerFile();
+        return QString::fromUtf8(readFile(QString(layer).replace(u".lay"_s, u".texb"_s)));
     }
 
     SharedParameters shared;

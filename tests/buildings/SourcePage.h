@@ -3,12 +3,14 @@
 #include "buildings/ui/VltAddTexbFirstPage.h"
 #include "gui/AnsweredBoxes.h"
 #include "platform/Settings.h"
-#include "srs/PrivateSettings.h"
+#include "support/Files.h"
+#include "support/PrivateSettings.h"
 
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTest>
 #include <QWizard>
 
 /// What the tests of the source page share.
@@ -87,10 +89,7 @@ protected:
 
     QString write(const QString &name, const QByteArray &contents) const
     {
-        QFile out(file(name));
-        return out.open(QIODevice::WriteOnly) && out.write(contents) == contents.size()
-                   ? out.fileName()
-                   : QString();
+        return writeFile(file(name), contents);
     }
     QString plain() const { return write(u"plain é.geojson"_s, features({Square})); }
     QString grid() const

@@ -1,7 +1,7 @@
 #include "buildings/BuildingDocument.h"
 #include "buildings/BuildingLayer.h"
+#include "support/Files.h"
 
-#include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -74,12 +74,6 @@ const QString TexturedText = Root +
 
 const Texb Plain{{}, Town, 800.5, u"#C0C0C0"_s, u"#A05030"_s, Terrain, {}};
 
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(cannot be read)");
-}
-
 } // namespace
 
 class tst_BuildingDocument : public QObject
@@ -145,12 +139,10 @@ private Q_SLOTS:
     void fillsLayerTemplates()
     {
         const QTemporaryDir dir;
-        const QString layerTemplate = dir.filePath(u"t.lay"_s);
-        QFile file(layerTemplate);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("__TITLE__|__TITLE__|__title__|__SUBTYPE__|__TEXB_URL__\n__X_CENTER__ "
-                   "__Y_CENTER__\n__DESCRIPTION__\n\xC3\xA9");
-        file.close();
+        const QString layerTemplate =
+            writeFile(dir.filePath(u"t.lay"_s),
+                      "__TITLE__|__TITLE__|__title__|__SUBTYPE__|__TEXB_URL__\n__X_CENTER__ "
+                      "__Y_CENTER__\n__DESCRIPTION__\n\xC3\xA9");
         const QString output = dir.filePath(u"out.lay"_s);
         const TexbLayer layer{u"Bât \"&\" %1"_s,    texbUrl(u"/tmp/a b.c/doc"_s),
                               651234.56789,         -6789012.3,
@@ -158,13 +150,13 @@ private Q_SLOTS:
 
         QVERIFY(createTexbLayerFile(output, layerTemplate, layer, vlt::platform::Access::UserOnly));
 
-        QCOMPARE(contentOf(output),
+        QCOMPARE(readFile(output),
                  u"Bât \"&\" %1|Bât \"&\" %1|__title__|rf_storeys|TEXB:/tmp/a b.c/doc.texb\n"
                  "651234.568 -6789012.3\n<p>rf_storeys</p>\nx\né"_s.toUtf8());
 
         QVERIFY(createTexbLayerFile(output, texbTemplatePath(QStringLiteral(VLT_INSTALLATION)),
                                     layer, vlt::platform::Access::Shared));
-        const QString text = QString::fromUtf8(contentOf(output));
+        const QString text = QString::fromUtf8(readFile(output));
         QVERIFY(!text.contains(u"__"_s));
         for (const QString &part :
              {u"<title><![CDATA[Bât \"&\" %1]]></title>"_s,

@@ -1,6 +1,7 @@
 #include "buildings/BuildingLayerFiles.h"
 #include "buildings/TexturedInfoText.h"
 #include "language/VltLanguageManager.h"
+#include "support/Files.h"
 
 #include <QDir>
 #include <QFile>
@@ -37,20 +38,6 @@ TexturedLook storeys()
     return {{}, 1000, u"#102030"_s, colorMapColor(Signal), TexbSubtype::Storeys, textures};
 }
 
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(none)");
-}
-
-void put(const QString &path, const QByteArray &content)
-{
-    QVERIFY(QDir().mkpath(QFileInfo(path).path()));
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(content);
-}
-
 } // namespace
 
 class tst_BuildingLayerFiles : public QObject
@@ -61,8 +48,8 @@ private Q_SLOTS:
     void init()
     {
         m_dir = std::make_unique<QTemporaryDir>();
-        put(path(u"addons/telecom/template/template_texb.lay"_s), Template);
-        put(path(u"two.txt"_s), "0 red\n10 0 0 255\n");
+        writeFile(path(u"addons/telecom/template/template_texb.lay"_s), Template);
+        writeFile(path(u"two.txt"_s), "0 red\n10 0 0 255\n");
         m_input.source = {Footprints.file, Footprints.layer, u"H"_s, Terrain,
                           651234.56789,    6758252,          {}};
         m_input.footprints = {{}, {}, {}, 250, 2000, 5, false};
@@ -76,7 +63,7 @@ private Q_SLOTS:
         const auto files = writeColoredLayer(path(u"out.lay"_s), m_input, Signal, Access::UserOnly);
 
         QVERIFY(files);
-        QCOMPARE(contentOf(path(u"out.texb"_s)),
+        QCOMPARE(readFile(path(u"out.texb"_s)),
                  writeColoredTexbDocument({Footprints, Terrain, Signal}).toUtf8());
         const QImage legend(path(u"two & more_gradient.png"_s));
         QVERIFY(legend.width() > 100 && legend.width() % 2 == 0 &&
@@ -88,7 +75,7 @@ private Q_SLOTS:
             "</p>\n"_s.arg(m_dir->path())
                 .arg(legend.width() / 2)
                 .arg(legend.height() / 2);
-        QCOMPARE(QString::fromUtf8(contentOf(path(u"out.lay"_s))), text);
+        QCOMPARE(QString::fromUtf8(readFile(path(u"out.lay"_s))), text);
         for (const QString &file :
              {files.value().layer, files.value().document, files.value().legend})
             QCOMPARE(QFile::permissions(file) & ~(QFile::ReadUser | QFile::WriteUser),
@@ -101,8 +88,8 @@ private Q_SLOTS:
             writeTexturedLayer(path(u"out.lay"_s), m_input, storeys(), Access::Shared);
 
         QVERIFY(files);
-        QVERIFY(contentOf(files.value().document).contains(" mode=\"storeys\"\n"));
-        const QByteArray layer = contentOf(path(u"out.lay"_s));
+        QVERIFY(readFile(files.value().document).contains(" mode=\"storeys\"\n"));
+        const QByteArray layer = readFile(path(u"out.lay"_s));
         QVERIFY2(layer.startsWith("Buildings (quarter)|rf_storeys|TEXB:"), layer.constData());
         QVERIFY2(layer.contains("underline;\">Storeys</span><br/>Images: 2<br/>"
                                 "Heights above the ground: 1.5 \u00b7 6 m</p><p>Colored: <span"),
@@ -112,7 +99,7 @@ private Q_SLOTS:
         const auto plain =
             writeTexturedLayer(path(u"plain.lay"_s), m_input, storeys(), Access::Shared);
         QVERIFY(plain && plain.value().legend.isEmpty());
-        QVERIFY(!contentOf(path(u"plain.lay"_s)).contains("<img"));
+        QVERIFY(!readFile(path(u"plain.lay"_s)).contains("<img"));
     }
 
     void tellsWhatImagesThereAre_data()
@@ -186,7 +173,7 @@ private Q_SLOTS:
             const QStringList names{u"out.texb"_s, u"two & more_gradient.png"_s, u"out.lay"_s};
             for (const QString &name : names) {
                 if (!former.isEmpty() && name != blocked)
-                    put(path(name), former);
+                    writeFile(path(name), former);
             }
             const QStringList before = QDir(m_dir->path()).entryList();
             QString reason;
@@ -199,8 +186,9 @@ private Q_SLOTS:
             QCOMPARE(reason.isEmpty(), blocked.contains(u"template"_s));
             QCOMPARE(QDir(m_dir->path()).entryList(), before);
             for (const QString &name : names)
-                QCOMPARE(contentOf(path(name)),
-                         former.isEmpty() || name == blocked ? QByteArray("(none)") : former);
+                QCOMPARE(readFile(path(name)), former.isEmpty() || name == blocked
+                                                   ? QByteArray("(cannot be read)")
+                                                   : former);
         }
     }
 
@@ -212,14 +200,14 @@ private Q_SLOTS:
         };
         const QString legend = path(u"two & more_gradient.png"_s);
         QCOMPARE(write(u"a.lay"_s, Access::Shared), legend);
-        const QByteArray former = contentOf(legend);
+        const QByteArray former = readFile(legend);
         QVERIFY(m_input.legend->map.load(path(u"two.txt"_s).toStdString(), -120, -60));
 
         for (const Access access : {Access::Shared, Access::UserOnly}) { // of another layer
             QCOMPARE(write(u"b.lay"_s, access), path(u"b_two & more_gradient.png"_s));
-            QCOMPARE(contentOf(legend), former);
+            QCOMPARE(readFile(legend), former);
         }
-        QVERIFY(contentOf(path(u"b.lay"_s)).contains("/b_two &amp; more_gradient.png\""));
+        QVERIFY(readFile(path(u"b.lay"_s)).contains("/b_two &amp; more_gradient.png\""));
 
         // That of somebody else can be replaced as little as a folder.
         QVERIFY(QFile::remove(legend) && QDir().mkpath(legend));

@@ -1,7 +1,7 @@
 #include "LayerPage.h"
 #include "buildings/ui/VltAddTexbColoredPage.h"
 #include "gui/FileDialogAnswer.h"
-#include "srs/PrivateSettings.h"
+#include "support/PrivateSettings.h"
 
 #include <gdal_priv.h>
 
@@ -47,20 +47,21 @@ private Q_SLOTS:
     void initTestCase()
     {
         GDALAllRegister();
-        write(m_dir, u"grid.asc"_s, Grid);
-        write(m_dir, u"other.asc"_s, Grid);
-        write(m_dir, u"text.tif"_s, "no raster");
+        writeFile(m_dir.filePath(u"grid.asc"_s), Grid);
+        writeFile(m_dir.filePath(u"other.asc"_s), Grid);
+        writeFile(m_dir.filePath(u"text.tif"_s), "no raster");
         writeTiff(u"three.tif"_s, 3);
         writeTiff(u"two images.tif"_s, 1);
         writeTiff(u"two images.tif"_s, 3, true);
         for (const QString &map : {u"installation/%1/first.txt"_s, u"installation/%1/second.txt"_s,
                                    u"bare/%1/first.txt"_s})
-            write(m_dir, map.arg(u"addons/telecom/colormaps/some"_s), "0 red\n10 blue\n");
+            writeFile(m_dir.filePath(map.arg(u"addons/telecom/colormaps/some"_s)),
+                      "0 red\n10 blue\n");
         const QString file = u"/addons/telecom/template/template_texb.lay"_s;
         QVERIFY(QDir().mkpath(QFileInfo(m_installation + file).path()));
         QVERIFY(QFile::copy(QStringLiteral(VLT_INSTALLATION) + file, m_installation + file));
-        write(m_dir, u"own.cmap"_s, "0 red\n");
-        write(m_dir, u"bad.cmap"_s, "0 reddish\n");
+        writeFile(m_dir.filePath(u"own.cmap"_s), "0 red\n");
+        writeFile(m_dir.filePath(u"bad.cmap"_s), "0 reddish\n");
     }
 
     void init()
@@ -141,8 +142,8 @@ private Q_SLOTS:
         page.choose(u"m_pwCbMode"_s, 1);
 
         QTRY_VERIFY(page.document().contains(u";maximum;"_s));
-        QVERIFY(contents(path(u"kept/mine.texb"_s)).contains(u";minimum;"_s));
-        const QString layer = contents(path(u"kept/mine.lay"_s));
+        QVERIFY(readFile(path(u"kept/mine.texb"_s)).contains(";minimum;"));
+        const QString layer = QString::fromUtf8(readFile(path(u"kept/mine.lay"_s)));
         for (const QString &name : {u"TEXB:%1/kept/mine.texb"_s, u"%1/kept/first_gradient.png"_s})
             QVERIFY2(layer.contains(name.arg(m_dir.path())), qPrintable(layer));
         QVERIFY(QFile::exists(path(u"kept/first_gradient.png"_s)));

@@ -153,8 +153,8 @@ private Q_SLOTS:
         QVERIFY(page.child<QPushButton>(u"m_pwPbRoofColor"_s)->isEnabled());
         QCOMPARE(page.made(), QString()); // no image yet
         tabs->setCurrentIndex(0);
-        dropFiles(&page, {write(m_dir, u"plot.asc"_s, Grid)});
-        dropFiles(&page, {write(m_dir, u"map.txt"_s, "0 0 0 255\n5 255 0 0\n")});
+        dropFiles(&page, {writeFile(m_dir.filePath(u"plot.asc"_s), Grid)});
+        dropFiles(&page, {writeFile(m_dir.filePath(u"map.txt"_s), "0 0 0 255\n5 255 0 0\n")});
         QCOMPARE(tabs->currentIndex(), 2);
         page.line(u"m_pwLeNoData"_s)->setText(u"-1"_s);
         page.check(u"m_pwCbStretch"_s, false);

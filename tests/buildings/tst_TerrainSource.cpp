@@ -1,4 +1,5 @@
 #include "SourcePage.h"
+#include "support/Files.h"
 
 #include <QDir>
 #include <QProgressBar>
@@ -155,11 +156,8 @@ private Q_SLOTS:
         QFETCH(QByteArray, contents);
         QFETCH(QString, guess);
         const QTemporaryDir dir;
-        QFile raster(dir.filePath(u"r.asc"_s));
-        QVERIFY(raster.open(QIODevice::WriteOnly) && raster.write(contents) > 0);
-        raster.close();
         Host host;
-        host.dtm()->setText(raster.fileName());
+        host.dtm()->setText(writeFile(dir.filePath(u"r.asc"_s), contents));
         auto *bar = host.child<QProgressBar>(u"m_pwNoDataProgress"_s);
         QVERIFY(bar->isHidden());
         QList<int> values;

@@ -1,4 +1,5 @@
 #include "buildings/TextureFolders.h"
+#include "support/Files.h"
 
 #include <QDir>
 #include <QFile>
@@ -17,17 +18,10 @@ using namespace vlt::buildings;
 
 namespace {
 
-void write(const QString &path, const QByteArray &bytes = "no image")
-{
-    QFile file(path);
-    QVERIFY(QDir().mkpath(QFileInfo(path).path()) && file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(bytes), bytes.size());
-}
-
 void writeHeight(const QString &path, const QByteArray &height)
 {
-    write(path, R"(<PAMDataset><Metadata><MDI key="HEIGHT">)" + height +
-                    "</MDI></Metadata></PAMDataset>");
+    writeFile(path, R"(<PAMDataset><Metadata><MDI key="HEIGHT">)" + height +
+                        "</MDI></Metadata></PAMDataset>");
 }
 
 /// A black image; `height` goes where the format keeps metadata, in the file or beside it.
@@ -77,8 +71,8 @@ private Q_SLOTS:
               "town/Nord/roof.tif", "town/Nord/png", "town/Nord/p.png.bak",
               "town/Nord/folder.png/x", "town/Sud/s.png", "town/.secret/h.png", "town/loose.png",
               "village/Ost/o.png", "village/Ost/deep/d.png", "loose.png"})
-            write(path(u"tree/"_s + QString::fromLatin1(name)));
-        write(path(u"outside/x.png"_s));
+            writeFile(path(u"tree/"_s + QString::fromLatin1(name)));
+        writeFile(path(u"outside/x.png"_s));
         QVERIFY(QDir().mkpath(path(u"tree/town/empty"_s)));
         QCOMPARE(mkfifo(qPrintable(path(u"tree/town/Nord/pipe.png"_s)), 0600), 0);
         const auto link = [this](const QString &name, const QString &target) {
@@ -163,9 +157,9 @@ private Q_SLOTS:
         makeImage("PNG", at(u"no number 3m.t"_s), "3,5");
         makeImage("PNG", at(u"infinite 3.t"_s), "inf");
         makeImage("JPEG", at(u"none 3 m.t"_s));
-        write(at(u"broken 4m.t"_s));
+        writeFile(at(u"broken 4m.t"_s));
         writeHeight(at(u"broken 4m.t.aux.xml"_s), "9"); // of no use without an image
-        write(at(u"virtual 6.t"_s), R"(<VRTDataset rasterXSize="1" rasterYSize="1"><Metadata>
+        writeFile(at(u"virtual 6.t"_s), R"(<VRTDataset rasterXSize="1" rasterYSize="1"><Metadata>
               <MDI key="HEIGHT">9</MDI></Metadata><VRTRasterBand band="1"/></VRTDataset>)");
         makeImage("GSAG", at(u"grid 7m.grd"_s), "9");
         makeImage("GSAG", at(u"grid 8.GRC"_s), "9");
@@ -218,9 +212,10 @@ private Q_SLOTS:
         const char *const options[] = {"FORMAT=NC4", nullptr};
         makeImage("netCDF", dir + u"/levels.nc"_s, nullptr, options, 2);
         QVERIFY(QFile::rename(dir + u"/levels.nc"_s, dir + u"/levels 6m.h5"_s));
-        write(dir + u"/levels 6m.h5.aux.xml"_s,
-              "<PAMDataset><Subdataset name=\"//Band2\"><PAMDataset><Metadata>"
-              "<MDI key=\"HEIGHT\">7.5</MDI></Metadata></PAMDataset></Subdataset></PAMDataset>");
+        writeFile(
+            dir + u"/levels 6m.h5.aux.xml"_s,
+            "<PAMDataset><Subdataset name=\"//Band2\"><PAMDataset><Metadata>"
+            "<MDI key=\"HEIGHT\">7.5</MDI></Metadata></PAMDataset></Subdataset></PAMDataset>");
 
         const QList<FileEntry> entries = found(dir, u"h5"_s);
 
@@ -243,7 +238,7 @@ private Q_SLOTS:
             if (i % 4 == 0)
                 writeHeight(file + (i % 8 ? u".aux.xml"_s : u".AUX.xml"_s), QByteArray::number(-i));
             if (i % 5 == 0)
-                write(file.chopped(3) + u"wld"_s, "1\n0\n0\n-1\n0\n0\n");
+                writeFile(file.chopped(3) + u"wld"_s, "1\n0\n0\n-1\n0\n0\n");
             if (i % 9 == 0)
                 QVERIFY(QFile::resize(file, 20)); // damaged
         }
@@ -276,7 +271,7 @@ private Q_SLOTS:
     {
         const QString dir = path(u"many"_s);
         for (int i = 0; i < 3000 && !QFile::exists(dir + u"/2999.txt"_s); ++i)
-            write(u"%1/%2.txt"_s.arg(dir).arg(i));
+            writeFile(u"%1/%2.txt"_s.arg(dir).arg(i));
         QFETCH(const int, callsUntilStop);
         QList<double> shares;
         bool isThisThread = true;

@@ -79,7 +79,7 @@ private Q_SLOTS:
         for (const QString &name :
              {u"a/roofs/roof_2.png"_s, u"a/roofs/roof_10.png"_s, u"a/roofs/Wall 3,5m.png"_s,
               u"a/roofs/alone.jpg"_s, u"a/walls/wall_1.png"_s, u"b/doors/door_1.png"_s})
-            QVERIFY(!write(m_dir, name, {}).isEmpty());
+            writeFile(m_dir.filePath(name));
     }
 
     void init() { vlt::platform::wizardSettings()->clear(); }

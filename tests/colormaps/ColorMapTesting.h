@@ -1,6 +1,7 @@
 #pragma once
 
 #include "colormaps/ColorMap.h"
+#include "support/Files.h"
 
 #include <QFile>
 #include <QString>
@@ -53,9 +54,5 @@ inline QString written(const vlt::colormaps::ColorMap &map)
 /// A file of the given name, as the loader takes it.
 inline std::string fileWith(const QTemporaryDir &dir, const QString &name, const QByteArray &bytes)
 {
-    const QString path = dir.filePath(name);
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-        qFatal("no temporary file");
-    return QFile::encodeName(path).toStdString();
+    return QFile::encodeName(writeFile(dir.filePath(name), bytes)).toStdString();
 }

@@ -1,4 +1,5 @@
 #include "ColorMapTesting.h"
+#include "support/Files.h"
 
 #include "colormaps/ColorLookup.h"
 
@@ -29,12 +30,6 @@ QStringList filesUnder(const QString &folder)
     paths.removeIf([](const QString &path) { return path.endsWith(u".md"_s); });
     paths.sort();
     return paths;
-}
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 std::string bytesOf(const QString &path)
@@ -129,8 +124,8 @@ private Q_SLOTS:
     {
         QFETCH(QString, path);
         const QTemporaryDir dir;
-        const std::string copy = fileWith(dir, u"a.txt"_s, contentOf(path));
-        const bool isRelative = contentOf(path).contains('%');
+        const std::string copy = fileWith(dir, u"a.txt"_s, readFile(path));
+        const bool isRelative = readFile(path).contains('%');
         ToldErrors errors;
         ColorMap map;
         QVERIFY(isRelative ? map.load(copy, 0, 1000) : map.load(copy));

@@ -3,9 +3,8 @@
 #include "colormaps/Legend.h"
 #include "colormaps/LegendRows.h"
 #include "colormaps/OpenColorMap.h"
+#include "support/Files.h"
 
-#include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -22,12 +21,7 @@ class tst_ColorMapLegend : public QObject
 
     QString fileWith(const QString &name, const QByteArray &text = "0 red\n")
     {
-        const QString path = m_dir.filePath(name);
-        QDir().mkpath(QFileInfo(path).path());
-        QFile file(path);
-        if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size())
-            qFatal("no temporary file");
-        return path;
+        return writeFile(m_dir.filePath(name), text);
     }
 
     ColorMap mapOf(const QByteArray &text)

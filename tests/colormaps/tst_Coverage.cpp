@@ -1,5 +1,6 @@
 #include "coverage/CoverageRaster.h"
 #include "coverage/LocalRaster.h"
+#include "support/Files.h"
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -349,9 +350,7 @@ private Q_SLOTS:
         QFETCH(const QString, reason);
         const std::string path = fileOf("one.tif", 1, {1}, {});
         fileOf("three.tif", 1, {1}, {}, 3);
-        QFile vrt(m_dir.filePath(u"source.vrt"_s));
-        QVERIFY(vrt.open(QIODevice::WriteOnly) && vrt.write("<VRTDataset/>") > 0);
-        vrt.close();
+        writeFile(m_dir.filePath(u"source.vrt"_s), "<VRTDataset/>");
         GDALDriver *tiff = GetGDALDriverManager()->GetDriverByName("GTiff");
         QVERIFY(tiff->CopyFiles("/vsimem/one.tif", path.c_str()) == CE_None);
 

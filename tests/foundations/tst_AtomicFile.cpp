@@ -1,4 +1,5 @@
 #include "platform/AtomicFile.h"
+#include "support/Files.h"
 
 #include <QDir>
 #include <QFile>
@@ -16,18 +17,6 @@ using vlt::platform::Access;
 using vlt::platform::writeWhole;
 
 namespace {
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(cannot be read)");
-}
-
-void put(const QString &path, const QByteArray &bytes)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-}
 
 mode_t modeOf(const QString &path)
 {
@@ -69,13 +58,13 @@ private Q_SLOTS:
         const QTemporaryDir dir;
         const QString path = dir.filePath(QString(251, u'\u00E9').left(120) + u".lay"_s);
         if (oldMode != 0) {
-            put(path, "a longer text that was there before");
+            writeFile(path, "a longer text that was there before");
             ::chmod(QFile::encodeName(path).constData(), static_cast<mode_t>(oldMode));
         }
 
         QVERIFY(writeWhole(path, "new", access).ok());
 
-        QCOMPARE(contentOf(path), QByteArray("new"));
+        QCOMPARE(readFile(path), QByteArray("new"));
         QTEST(static_cast<int>(modeOf(path)), "expectedMode");
         QCOMPARE(namesIn(dir.path()).size(), 1);
     }
@@ -84,15 +73,15 @@ private Q_SLOTS:
     {
         for (const QString &linkTarget : {u"victim"_s, u"."_s, u"gone"_s}) {
             const QTemporaryDir dir;
-            put(dir.filePath(u"victim"_s), "old");
+            writeFile(dir.filePath(u"victim"_s), "old");
             const QString path = dir.filePath(u"layer"_s);
             QVERIFY(QFile::link(linkTarget, path));
 
             QVERIFY(writeWhole(path, "new", Access::UserOnly).ok());
 
             QVERIFY(!QFileInfo(path).isSymbolicLink());
-            QCOMPARE(contentOf(path), QByteArray("new"));
-            QCOMPARE(contentOf(dir.filePath(u"victim"_s)), QByteArray("old"));
+            QCOMPARE(readFile(path), QByteArray("new"));
+            QCOMPARE(readFile(dir.filePath(u"victim"_s)), QByteArray("old"));
             QCOMPARE(namesIn(dir.path()), (QStringList{u"layer"_s, u"victim"_s}));
         }
     }
@@ -102,7 +91,7 @@ private Q_SLOTS:
         for (const QString &name : {u"published/layer"_s, u"new"_s}) {
             const QTemporaryDir dir;
             QVERIFY(QDir(dir.path()).mkdir(u"published"_s));
-            put(dir.filePath(u"published/layer"_s), "old");
+            writeFile(dir.filePath(u"published/layer"_s), "old");
             QVERIFY(QFile::link(u"second"_s, dir.filePath(u"layer"_s)));
             QVERIFY(QFile::link(name, dir.filePath(u"second"_s)));
 
@@ -110,7 +99,7 @@ private Q_SLOTS:
 
             QVERIFY(QFileInfo(dir.filePath(u"layer"_s)).isSymbolicLink());
             QVERIFY(QFileInfo(dir.filePath(u"second"_s)).isSymbolicLink());
-            QCOMPARE(contentOf(dir.filePath(name)), QByteArray("new"));
+            QCOMPARE(readFile(dir.filePath(name)), QByteArray("new"));
             QCOMPARE(namesIn(dir.filePath(u"published"_s)), QStringList{u"layer"_s});
         }
     }
@@ -119,7 +108,7 @@ private Q_SLOTS:
     {
         const QTemporaryDir dir;
         const QString path = dir.filePath(u"layer"_s);
-        put(path, "old");
+        writeFile(path, "old");
         // as if full: files of this process may not grow beyond
         rlimit limit = {};
         ::getrlimit(RLIMIT_FSIZE, &limit);
@@ -132,7 +121,7 @@ private Q_SLOTS:
         QVERIFY(!written.ok());
         QVERIFY(!written.error().text.isEmpty());
         QCOMPARE(written.error().path, path);
-        QCOMPARE(contentOf(path), QByteArray("old"));
+        QCOMPARE(readFile(path), QByteArray("old"));
         QCOMPARE(namesIn(dir.path()), QStringList{u"layer"_s});
     }
 
@@ -140,7 +129,7 @@ private Q_SLOTS:
     {
         const QTemporaryDir dir;
         const QString path = dir.filePath(u"layer"_s);
-        put(path, "old");
+        writeFile(path, "old");
         ::chmod(QFile::encodeName(path).constData(), 0444);
         ::chmod(QFile::encodeName(dir.path()).constData(), 0777);
         // root may write everywhere: be somebody else meanwhile
@@ -153,7 +142,7 @@ private Q_SLOTS:
 
         QVERIFY(!written.ok());
         QVERIFY(written.error().text.contains(u"write-protected"_s));
-        QCOMPARE(contentOf(path), QByteArray("old"));
+        QCOMPARE(readFile(path), QByteArray("old"));
     }
 
     void refusesWhatIsNoPlaceForAFile()
@@ -183,7 +172,7 @@ private Q_SLOTS:
             QCOMPARE(namesIn(dir.path()), names);
             QVERIFY(namesIn(directory).isEmpty());
         }
-        QVERIFY(QFileInfo(output).isSymbolicLink() && contentOf(open.fileName()).isEmpty());
+        QVERIFY(QFileInfo(output).isSymbolicLink() && readFile(open.fileName()).isEmpty());
     }
 };
 

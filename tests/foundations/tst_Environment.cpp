@@ -2,8 +2,8 @@
 #include "app/GeodataLibrary.h"
 #include "platform/IniFile.h"
 #include "platform/Settings.h"
+#include "support/Files.h"
 
-#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
@@ -21,14 +21,6 @@ class TestEnvironment : public QObject
     QTemporaryDir m_dir;
     QTemporaryDir m_settings;
 
-    QString put(const QString &name, const QByteArray &content) const
-    {
-        QFile file(m_dir.filePath(name));
-        return file.open(QIODevice::WriteOnly) && file.write(content) == content.size()
-                   ? file.fileName()
-                   : QString();
-    }
-
 private Q_SLOTS:
     void initTestCase()
     {
@@ -41,22 +33,23 @@ private Q_SLOTS:
 
     void readsIniFiles()
     {
-        const QString path =
-            put(u"données.ini"_s, "[One]\nPath=\"a;b#c\" ; comment\nPlace=Orl\xE9\x61ns\n");
+        const QString path = writeFile(m_dir.filePath(u"données.ini"_s),
+                                       "[One]\nPath=\"a;b#c\" ; comment\nPlace=Orl\xE9\x61ns\n");
 
         const vlt::platform::IniFile ini = vlt::platform::IniFile::open(path).value();
 
         QCOMPARE(ini.value(u"one"_s, u"PATH"_s), u"a;b#c"_s);
         QCOMPARE(ini.value(u"One"_s, u"Place"_s), u"Orléans"_s);
         QCOMPARE(ini.value(u"One"_s, u"Missing"_s), QString());
-        const QString marked = put(u"marked.ini"_s, "\xEF\xBB\xBF[One]\nPath=b\n");
+        const QString marked =
+            writeFile(m_dir.filePath(u"marked.ini"_s), "\xEF\xBB\xBF[One]\nPath=b\n");
         QCOMPARE(vlt::platform::IniFile::open(marked).value().value(u"One"_s, u"Path"_s), u"b"_s);
         QVERIFY(!vlt::platform::IniFile::open(m_dir.path()).ok());
     }
 
     void looksForTheIniFileBesideTheExecutable()
     {
-        put(u"TOOL_env.ini"_s, "");
+        writeFile(m_dir.filePath(u"TOOL_env.ini"_s), "");
         const auto found = [this](const QString &executable) {
             return QFileInfo(environmentIniPath(m_dir.filePath(executable))).fileName();
         };
@@ -99,7 +92,7 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, ini);
         QFETCH(QString, installDir);
-        QVERIFY(!put(u"setup_env.ini"_s, ini).isEmpty());
+        writeFile(m_dir.filePath(u"setup_env.ini"_s), ini);
         qputenv("LC_ALL", "de_DE.UTF-8");
 
         const StartupSettings settings = resolveStartupSettings(m_dir.filePath(u"program"_s), true);

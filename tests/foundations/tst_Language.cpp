@@ -1,7 +1,7 @@
 #include "language/VltLanguageManager.h"
+#include "support/Files.h"
 
 #include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -19,9 +19,8 @@ QByteArray message(const char *key, const char *translation)
 
 void putDictionary(const QDir &dir, const QString &name, const QByteArray &messages)
 {
-    QFile file(dir.filePath(name));
-    QVERIFY(dir.mkpath(u"."_s) && file.open(QIODevice::WriteOnly));
-    file.write("<TS version=\"2.1\"><context><name/>" + messages + "</context></TS>");
+    writeFile(dir.filePath(name),
+              "<TS version=\"2.1\"><context><name/>" + messages + "</context></TS>");
 }
 
 /// A dictionary on a disk that fails behind what could be read.
@@ -126,9 +125,7 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, content);
         const QTemporaryDir dir;
-        QFile bad(dir.filePath(u"bad_fr.ts"_s));
-        QVERIFY(bad.open(QIODevice::WriteOnly) && bad.write(content) == content.size());
-        bad.close();
+        const QString bad = writeFile(dir.filePath(u"bad_fr.ts"_s), content);
         putDictionary(QDir(dir.path()), u"good_fr.ts"_s,
                       message("K_GOOD", "<translation>bon</translation>"));
         VltLanguageManager &manager = VltLanguageManager::getInstance();
@@ -138,7 +135,7 @@ private Q_SLOTS:
         QCOMPARE(dico_label("K_GOOD", "d"), u"bon"_s);
         QCOMPARE(dico_label("K_BAD", "d"), u"d"_s);
         QCOMPARE(manager.skippedDictionaries().size(), 1);
-        QCOMPARE(manager.skippedDictionaries().first().path, bad.fileName());
+        QCOMPARE(manager.skippedDictionaries().first().path, bad);
     }
 
     void givesUpADictionaryThatCannotBeReadToItsEnd()

@@ -1,7 +1,7 @@
 #include "localfiles/LocalFormats.h"
 #include "localfiles/NoNetwork.h"
+#include "support/Files.h"
 
-#include <QDir>
 #include <QFile>
 #include <QTcpServer>
 #include <QTemporaryDir>
@@ -156,10 +156,7 @@ private Q_SLOTS:
             "http://127.0.0.1:" + QByteArray::number(server.serverPort()) + "/t.tif";
         const QTemporaryDir dir;
         const QString path = dir.filePath(content.startsWith('{') ? u"t.geojson"_s : u"t.xml"_s);
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(content.replace("%1", address));
-        file.close();
+        writeFile(path, content.replace("%1", address));
 
         static_cast<void>(openedLocally(path)); // whatever it makes of it
         QVERIFY(!server.waitForNewConnection(100));
@@ -185,7 +182,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, path);
         const QTemporaryDir dir;
-        QVERIFY(QFile(dir.filePath(u"f"_s)).open(QIODevice::WriteOnly));
+        writeFile(dir.filePath(u"f"_s));
         const std::string name = path.replace(u"%1"_s, dir.path()).toStdString();
         QTEST(vlt::localfiles::isLocalDataset(name), "dataset");
         QTEST(vlt::localfiles::isLocalFile(name), "file");

@@ -1,8 +1,7 @@
+#include "support/Files.h"
 #include "wizard/project/ProjectReaders.h"
 
-#include <QDir>
 #include <QElapsedTimer>
-#include <QFile>
 #include <QStringEncoder>
 #include <QTemporaryDir>
 #include <QTest>
@@ -18,10 +17,7 @@ class TestProjectReaders : public QObject
 
     QString project(const QByteArray &text) const
     {
-        QFile file(m_dir.filePath(u"p.gvw"_s));
-        if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size())
-            return {};
-        return file.fileName();
+        return writeFile(m_dir.filePath(u"p.gvw"_s), text);
     }
 
     static void addTexts()
@@ -63,9 +59,7 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, text);
         QFETCH(QString, expected);
-        QVERIFY(QDir(m_dir.path()).mkpath(u"relief"_s));
-        QFile terrain(m_dir.filePath(u"relief/dem.tif"_s));
-        QVERIFY(terrain.open(QIODevice::WriteOnly));
+        writeFile(m_dir.filePath(u"relief/dem.tif"_s));
         QCOMPARE(terrainFile(project(text)).value(), inDir(expected));
     }
 

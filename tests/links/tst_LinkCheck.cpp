@@ -1,6 +1,6 @@
 #include "geodata/LinkCheck.h"
+#include "support/Files.h"
 
-#include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -25,8 +25,7 @@ private Q_SLOTS:
         for (int i = 0; i < Rows; ++i)
             table += "L" + QByteArray::number(i) + ";A;B;2.5;48;" +
                      (i % 1000 == 7 ? "east" : "2.6") + ";48;;" + (i % 2 ? "7000\n" : "\n");
-        QFile file(path());
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(table) == table.size());
+        writeFile(path(), table);
     }
 
     void putsTheEndsOfEveryLinkTogether()

@@ -1,8 +1,7 @@
 #include "links/LinkInfoPage.h"
 #include "links/LinkLayer.h"
+#include "support/Files.h"
 
-#include <QDir>
-#include <QFile>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
@@ -122,12 +121,9 @@ private Q_SLOTS:
 
         QCOMPARE(makeLinkLayer(input).error().path, pylons + u"template_links.lay"_s);
 
-        QVERIFY(QDir().mkpath(pylons));
-        QFile file(pylons + u"template_links.lay"_s);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("__TITLE__|__LINK_URL__|__LAYER__|__LINK_FIELD__|__END_LAYER__|__SITE_FIELD__|"
-                   "__Desc__|");
-        file.close();
+        writeFile(pylons + u"template_links.lay"_s,
+                  "__TITLE__|__LINK_URL__|__LAYER__|__LINK_FIELD__|__END_LAYER__|__SITE_FIELD__|"
+                  "__Desc__|");
         const auto layer = makeLinkLayer(input).value();
         QCOMPARE(layer.warning->path, pylons + u"links_infos_en.html"_s);
         QCOMPARE(layer.text,
@@ -136,10 +132,7 @@ private Q_SLOTS:
                      linkQueryPart({}) +
                      u",transmitter_scale=100,lods=10000 1000,dem_file=dem/t.tif,l.csv|L|Name|"
                      "L ends|Site ID||"_s);
-        QFile page(pylons + u"links_infos_en.html"_s);
-        QVERIFY(page.open(QIODevice::WriteOnly));
-        page.write("<h1>__NAME__</h1>");
-        page.close();
+        writeFile(pylons + u"links_infos_en.html"_s, "<h1>__NAME__</h1>");
         QVERIFY(makeLinkLayer(input).value().text.endsWith(u"|<h1>[Name]</h1>|"_s));
         QCOMPARE(placingConnection(input), u"link:s_srs=4326,/p/l.csv"_s);
     }

@@ -2,6 +2,7 @@
 #include "snapshot/SceneNoticeText.h"
 #include "snapshot/SceneNotices.h"
 #include "snapshot/SceneSource.h"
+#include "support/Files.h"
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -45,10 +46,7 @@ class TestSceneNoticeText : public QObject
 
     QString write(const QString &name, const QByteArray &content)
     {
-        QFile file(m_dir.filePath(name));
-        if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-            QTest::qFail("not written", __FILE__, __LINE__);
-        return file.fileName();
+        return writeFile(m_dir.filePath(name), content);
     }
 
     /// The text of a key, which the dictionary has.

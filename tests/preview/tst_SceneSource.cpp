@@ -1,5 +1,6 @@
 #include "contract/ReaderOptions.h"
 #include "snapshot/SceneSource.h"
+#include "support/Files.h"
 
 #include <QList>
 #include <QTemporaryDir>
@@ -50,8 +51,7 @@ class TestSceneSource : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        QFile file(m_scene);
-        QVERIFY(file.open(QIODevice::WriteOnly));
+        writeFile(m_scene);
         osgDB::Registry::instance()->addReaderWriter(m_reader);
     }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/Files.h"
+
 #include <osg/LOD>
 #include <osg/MatrixTransform>
 #include <osg/NodeVisitor>
@@ -7,9 +9,6 @@
 #include <osgDB/Registry>
 #include <osgText/Text>
 
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
 #include <QtTest>
 
 #include <map>
@@ -22,14 +21,6 @@ namespace layertest {
 inline const char *const PylonLook =
     "pylon_type=monopole_panel,pylon_width=2.5,sector_colors=ff0000ff 00ff00ff,"
     "sector_properties=200 20 2,transmitter_scale=100,";
-
-inline void write(const QString &path, const QByteArray &content)
-{
-    QVERIFY(QDir().mkpath(QFileInfo(path).path()));
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(content), content.size());
-}
 
 struct Opened
 {

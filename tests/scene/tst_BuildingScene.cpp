@@ -14,7 +14,6 @@
 
 using namespace vlt;
 using namespace vlt::scene;
-using layertest::write;
 
 namespace {
 
@@ -331,9 +330,9 @@ private Q_SLOTS:
     {
         makeFootprints(path("town.gpkg"), {{Square, "5"}});
         makeFootprints(path("dates.gpkg"), {}, OFTDate);
-        write(path("town.vrt"),
-              "<OGRVRTDataSource><OGRVRTLayer name=\"Town\"><SrcDataSource>town.gpkg"
-              "</SrcDataSource></OGRVRTLayer></OGRVRTDataSource>");
+        writeFile(path("town.vrt"),
+                  "<OGRVRTDataSource><OGRVRTLayer name=\"Town\"><SrcDataSource>town.gpkg"
+                  "</SrcDataSource></OGRVRTLayer></OGRVRTDataSource>");
         const std::map<std::string, QByteArray> documents = {
             {"no building document", "<x/>"},
             {"\"no.shp\"", document("no.shp")},
@@ -346,7 +345,7 @@ private Q_SLOTS:
             {"\"H\"", document().replace("Height", "H")},
             {"no numbers", document("dates.gpkg")}};
         for (const auto &[named, text] : documents) {
-            write(path("t.texb"), text);
+            writeFile(path("t.texb"), text);
             const layertest::Opened opened = layertest::open(path("t.texb"));
             QVERIFY2(!opened.scene, named.c_str());
             QVERIFY2(opened.fault.find(named) != std::string::npos, opened.fault.c_str());
@@ -359,7 +358,7 @@ private Q_SLOTS:
         for (int i = 0; i < 5000; ++i)
             features.append({Square, "5"});
         makeFootprints(path("town.gpkg"), features);
-        write(path("t.texb"), document());
+        writeFile(path("t.texb"), document());
         struct Caller
         {
             std::vector<double> shares;
@@ -392,8 +391,8 @@ private Q_SLOTS:
     void layersLeadToTheirDocument()
     {
         makeFootprints(path("town.gpkg"), {{Square, "5"}});
-        write(path("docs/t.texb"), document("../town.gpkg"));
-        write(path("layers/beside.texb"), document("town.gpkg")); // beside the project
+        writeFile(path("docs/t.texb"), document("../town.gpkg"));
+        writeFile(path("layers/beside.texb"), document("town.gpkg")); // beside the project
         const osg::ref_ptr<osgDB::Options> options = new osgDB::Options;
         options->setPluginStringData(contract::ProjectDatum, path("p.gvw").toStdString());
         const std::map<QByteArray, bool> sources = {
@@ -403,10 +402,10 @@ private Q_SLOTS:
             {"TEXB:no.texb", false},
             {"site:t.csv", false}};
         for (const auto &[source, isFound] : sources) {
-            write(path("layers/a.lay"),
-                  "<veltaroLayer kind=\"buildings\"><title>Town &amp; more</title>"
-                  "<subtype>rf_roofs</subtype><source><![CDATA[" +
-                      source + "]]></source></veltaroLayer>");
+            writeFile(path("layers/a.lay"),
+                      "<veltaroLayer kind=\"buildings\"><title>Town &amp; more</title>"
+                      "<subtype>rf_roofs</subtype><source><![CDATA[" +
+                          source + "]]></source></veltaroLayer>");
 
             const layertest::Opened opened = layertest::open(path("layers/a.lay"), options);
 
@@ -436,7 +435,7 @@ private:
 
     osg::ref_ptr<osg::Group> read(const QByteArray &text)
     {
-        write(path("t.texb"), text);
+        writeFile(path("t.texb"), text);
         m_opened.scene = readBuildingScene(path("t.texb").toStdString(), {}, m_notices,
                                            [](double) { return true; });
         return m_opened.scene;

@@ -94,7 +94,7 @@ private Q_SLOTS:
     void initTestCase()
     {
         QVERIFY(writeTerrain(path("dem.tif")));
-        write(path("t.csv"), Header + Rows);
+        writeFile(path("t.csv"), Header + Rows);
     }
 
     void putsLinksOntoTheTerrain_data()
@@ -145,11 +145,11 @@ private Q_SLOTS:
     void leavesOutWhatIsBeyondTheEarth()
     {
         const QByteArray good = ",650000,6860000,20,23000,B,653000,6864000,70,23000\n";
-        write(path("slip.csv"),
-              QByteArray(Header).replace("Lat", "X").replace("Long", "Y").replace("itude", "") +
-                  "a,A" + good + "b,A" + good +
-                  "slip,A,6.5e300,6860000,30,23000,B,653000,6864000,70,23000\n"
-                  "thin,A,650000,6860000,30,1e-3,A,650003,6860000,90,1e-3\n");
+        writeFile(path("slip.csv"),
+                  QByteArray(Header).replace("Lat", "X").replace("Long", "Y").replace("itude", "") +
+                      "a,A" + good + "b,A" + good +
+                      "slip,A,6.5e300,6860000,30,23000,B,653000,6864000,70,23000\n"
+                      "thin,A,650000,6860000,30,1e-3,A,650003,6860000,90,1e-3\n");
 
         const LinkRecords records = recordsOf(
             linkSource().replace("s_srs=4171", "s_srs=2154").replace("t.csv", "slip.csv"));
@@ -178,7 +178,7 @@ private Q_SLOTS:
 
     void showsAWholeLayer()
     {
-        write(path("t.lay"), layerText(linkSource()));
+        writeFile(path("t.lay"), layerText(linkSource()));
         const Opened opened = open(path("t.lay"));
         QVERIFY2(opened.scene, opened.fault.c_str());
         Everything found;
@@ -214,12 +214,13 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, terrain);
         QFETCH(QByteArray, said);
-        write(path("far.asc"),
-              "ncols 2\nnrows 2\nxllcorner 0\nyllcorner 0\ncellsize 1\n1 2\n3 4\n");
-        write(path("far.prj"), "GEOGCS[\"WGS\",DATUM[\"D_WGS_1984\",SPHEROID[\"WGS_1984\",6378137,"
-                               "298.257223563]],PRIMEM[\"Greenwich\",0],"
-                               "UNIT[\"Degree\",0.0174532925199433]]\n");
-        write(path("t.lay"), layerText(linkSource("2154", terrain)));
+        writeFile(path("far.asc"),
+                  "ncols 2\nnrows 2\nxllcorner 0\nyllcorner 0\ncellsize 1\n1 2\n3 4\n");
+        writeFile(path("far.prj"),
+                  "GEOGCS[\"WGS\",DATUM[\"D_WGS_1984\",SPHEROID[\"WGS_1984\",6378137,"
+                  "298.257223563]],PRIMEM[\"Greenwich\",0],"
+                  "UNIT[\"Degree\",0.0174532925199433]]\n");
+        writeFile(path("t.lay"), layerText(linkSource("2154", terrain)));
 
         std::vector<std::string> notices;
         const std::string layer = path("t.lay").toStdString();
@@ -234,7 +235,7 @@ private Q_SLOTS:
 
     void showsTheTerrainItself()
     {
-        write(path("t.lay"), layerText(linkSource()));
+        writeFile(path("t.lay"), layerText(linkSource()));
         const osg::ref_ptr<osgDB::Options> options = new osgDB::Options;
         options->setPluginStringData("vlt.terrain", "1");
         const osg::ref_ptr<osg::Group> scene = open(path("t.lay"), options).scene;
@@ -283,8 +284,8 @@ private Q_SLOTS:
         QFETCH(QByteArray, what);
         QFETCH(QByteArray, with);
         QFETCH(QByteArray, named);
-        write(path("none.csv"), Header + "n,A,,,30,23000,B," + B + ",40,23000\n");
-        write(path("t.lay"), layerText(linkSource().replace(what, with)));
+        writeFile(path("none.csv"), Header + "n,A,,,30,23000,B," + B + ",40,23000\n");
+        writeFile(path("t.lay"), layerText(linkSource().replace(what, with)));
 
         const Opened opened = open(path("t.lay"));
 

@@ -84,8 +84,8 @@ private Q_SLOTS:
         QFETCH(double, east);
         QFETCH(double, north);
         QFETCH(double, tolerance);
-        write(path(QStringLiteral("t.csv")), Header + rows + "D,,,,,,,\n");
-        write(path(QStringLiteral("t.lay")), layerText(siteSource("t.csv", srs.toStdString())));
+        writeFile(path(QStringLiteral("t.csv")), Header + rows + "D,,,,,,,\n");
+        writeFile(path(QStringLiteral("t.lay")), layerText(siteSource("t.csv", srs.toStdString())));
 
         const Opened opened = open(path(QStringLiteral("t.lay")));
         QVERIFY2(opened.scene, opened.fault.c_str());
@@ -105,9 +105,10 @@ private Q_SLOTS:
 
     void namesStandOverTheirSites()
     {
-        write(path(QStringLiteral("t.csv")), Header + "Gr\u00e9\u00e9,650000,6860000,50,30,0,,\n"
-                                                      "B,650500,6860000,0,,,,\n");
-        write(path(QStringLiteral("t.lay")), layerText(siteSource("t.csv"), "no such field"));
+        writeFile(path(QStringLiteral("t.csv")), Header +
+                                                     "Gr\u00e9\u00e9,650000,6860000,50,30,0,,\n"
+                                                     "B,650500,6860000,0,,,,\n");
+        writeFile(path(QStringLiteral("t.lay")), layerText(siteSource("t.csv"), "no such field"));
 
         Everything found;
         open(path(QStringLiteral("t.lay"))).scene->accept(found);
@@ -121,8 +122,8 @@ private Q_SLOTS:
     /// Sectors of the symbolic representation, by the direction of their tips' far corners.
     void colorsTransmittersInTurn()
     {
-        write(path(QStringLiteral("t.csv")), Header + "A,650000,6860000,0,30,90,30,270\n");
-        write(path(QStringLiteral("t.lay")), layerText(siteSource("t.csv")));
+        writeFile(path(QStringLiteral("t.csv")), Header + "A,650000,6860000,0,30,90,30,270\n");
+        writeFile(path(QStringLiteral("t.lay")), layerText(siteSource("t.csv")));
         Everything found;
         open(path(QStringLiteral("t.lay"))).scene->accept(found);
 
@@ -153,8 +154,8 @@ private Q_SLOTS:
                             .replace("%1", QByteArray::number(i))
                             .replace("%2", QByteArray::number(650000 + i % 40 * 300))
                             .replace("%3", QByteArray::number(6860000 + i / 40 * 300));
-            write(path(QStringLiteral("t.csv")), Header + rows);
-            write(path(QStringLiteral("t.lay")), layerText(siteSource("t.csv")));
+            writeFile(path(QStringLiteral("t.csv")), Header + rows);
+            writeFile(path(QStringLiteral("t.lay")), layerText(siteSource("t.csv")));
             Everything found;
             open(path(QStringLiteral("t.lay"))).scene->accept(found);
             return std::pair(found.drawables.size(), found.feet.size());
@@ -172,8 +173,8 @@ private Q_SLOTS:
     /// A file that another program could read has the masts, whatever it writes them to.
     void isWholeForWhoWritesIt()
     {
-        write(path(QStringLiteral("t.csv")), Header + "A,650000,6860000,0,30,90,30,270\n");
-        write(path(QStringLiteral("t.lay")), layerText(siteSource("t.csv")));
+        writeFile(path(QStringLiteral("t.csv")), Header + "A,650000,6860000,0,30,90,30,270\n");
+        writeFile(path(QStringLiteral("t.lay")), layerText(siteSource("t.csv")));
         const osg::ref_ptr<osgDB::Options> drawn = new osgDB::Options;
         drawn->setPluginStringData("vlt.drawn", "1");
         for (const osgDB::Options *options :
@@ -198,18 +199,18 @@ private Q_SLOTS:
         const auto sites = [this](const osgDB::Options *options = nullptr) {
             return open(path(QStringLiteral("layers/t.lay")), options).fact("sites");
         };
-        write(path(QStringLiteral("layers/t.lay")), layerText(siteSource("tables/a, b.csv")));
-        write(path(QStringLiteral("cwd/tables/a, b.csv")), table(1));
+        writeFile(path(QStringLiteral("layers/t.lay")), layerText(siteSource("tables/a, b.csv")));
+        writeFile(path(QStringLiteral("cwd/tables/a, b.csv")), table(1));
         const QString before = QDir::currentPath();
         QVERIFY(QDir::setCurrent(path(QStringLiteral("cwd"))));
 
         QCOMPARE(sites(), std::string("1"));
-        write(path(QStringLiteral("layers/tables/a, b.csv")), table(2));
+        writeFile(path(QStringLiteral("layers/tables/a, b.csv")), table(2));
         QCOMPARE(sites(), std::string("2"));
-        write(path(QStringLiteral("p1/tables/a, b.csv")), table(3));
+        writeFile(path(QStringLiteral("p1/tables/a, b.csv")), table(3));
         qputenv("VLT_CURRENT_PROJECT", path(QStringLiteral("p1/city.gvw")).toLocal8Bit());
         QCOMPARE(sites(), std::string("3"));
-        write(path(QStringLiteral("p 2/tables/a, b.csv")), table(4));
+        writeFile(path(QStringLiteral("p 2/tables/a, b.csv")), table(4));
         const osg::ref_ptr<osgDB::Options> named =
             new osgDB::Options("project=" + path(QStringLiteral("p 2/city.gvw")).toStdString());
         QCOMPARE(sites(named), std::string("4"));
@@ -254,9 +255,9 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, layer);
         QFETCH(QByteArray, named);
-        write(path(QStringLiteral("t.csv")), Header + "A,650000,6860000,0,30,0,,\n");
-        write(path(QStringLiteral("none.csv")), Header + "A,,,0,30,0,,\n");
-        write(path(QStringLiteral("t.lay")), layer);
+        writeFile(path(QStringLiteral("t.csv")), Header + "A,650000,6860000,0,30,0,,\n");
+        writeFile(path(QStringLiteral("none.csv")), Header + "A,,,0,30,0,,\n");
+        writeFile(path(QStringLiteral("t.lay")), layer);
 
         const Opened opened = open(path(QStringLiteral("t.lay")));
 
@@ -292,7 +293,7 @@ private Q_SLOTS:
     void readsEveryEncoding()
     {
         QFETCH(QByteArray, bytes);
-        write(path(QStringLiteral("e.lay")), bytes);
+        writeFile(path(QStringLiteral("e.lay")), bytes);
 
         const auto file =
             vlt::scene::readLayerFile(path(QStringLiteral("e.lay")).toLocal8Bit().toStdString());

@@ -43,7 +43,7 @@ class TownColorsTest : public QObject
 
     void write(const char *name, const QByteArray &content)
     {
-        layertest::write(m_dir.filePath(QLatin1String(name)), content);
+        writeFile(m_dir.filePath(QLatin1String(name)), content);
     }
 
     /// Values in one row.

@@ -1,7 +1,6 @@
 #include "sites/SiteRepresentation.h"
+#include "support/Files.h"
 
-#include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -11,11 +10,7 @@ namespace {
 
 void writeCatalogue(const QString &installDir, const QString &name, const QByteArray &content)
 {
-    const QString path = installDir + QStringLiteral("/addons/telecom/pylons/") + name;
-    QVERIFY(QDir().mkpath(path.section(QLatin1Char('/'), 0, -2)));
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(content);
+    writeFile(installDir + QStringLiteral("/addons/telecom/pylons/") + name, content);
 }
 
 } // namespace

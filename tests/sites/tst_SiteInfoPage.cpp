@@ -1,8 +1,7 @@
 #include "sites/SiteInfoPage.h"
 #include "sites/SiteLayer.h"
+#include "support/Files.h"
 
-#include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -13,14 +12,6 @@ namespace {
 const QString AllPlaceholders = QStringLiteral(
     "__NAME__ __LON__ __LAT__ __TERRAINHGHT__|__SECTORID__|__HEIGHT__|__AZIMUTH__|__TILT__ "
     "__NAME__ __name__");
-
-void writeFile(const QString &path, const QByteArray &content)
-{
-    QVERIFY(QDir().mkpath(path.section(QLatin1Char('/'), 0, -2)));
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(content);
-}
 
 } // namespace
 

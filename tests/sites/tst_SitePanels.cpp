@@ -2,6 +2,7 @@
 #include "gui/FileDialogAnswer.h"
 #include "platform/Settings.h"
 #include "sites/ui/VltSiteProperties.h"
+#include "support/Files.h"
 #include "tables/ui/VltSrsSettings.h"
 
 #include <QComboBox>
@@ -229,7 +230,7 @@ private Q_SLOTS:
         QFETCH(QString, target);
         const QString path = m_dir.filePath(QString::fromLatin1(QTest::currentDataTag()));
         if (path.endsWith(u".txt"_s))
-            QFile(path).open(QIODevice::WriteOnly);
+            writeFile(path);
         else
             makeDataset(path, srs);
         VltSrsSettings panel(u"site"_s);

@@ -2,8 +2,8 @@
 #include "geodata/DatasetReferenceCode.h"
 #include "geodata/LayerProblems.h"
 #include "geodata/TerrainReferenceCode.h"
+#include "support/Files.h"
 
-#include <QFile>
 #include <QTcpServer>
 #include <QTemporaryDir>
 #include <QTest>
@@ -27,13 +27,6 @@ QByteArray projected(const QByteArray &name, const QByteArray &projection, doubl
            QByteArray::number(centralMeridian) +
            "],PARAMETER[\"Scale_Factor\",0.9996],PARAMETER[\"Latitude_Of_Origin\",0],"
            "UNIT[\"Meter\",1]]";
-}
-
-void writeFile(const QString &path, const QByteArray &content)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(content);
 }
 
 } // namespace

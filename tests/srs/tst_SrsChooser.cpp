@@ -1,7 +1,7 @@
-#include "PrivateSettings.h"
 #include "srs/LastUsedSrsList.h"
 #include "srs/UserDefinedSrsList.h"
 #include "srs/ui/VltSrsChooser.h"
+#include "support/PrivateSettings.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -12,6 +12,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QTest>
 #include <QTimer>
 #include <QWheelEvent>
 

@@ -1,10 +1,10 @@
-#include "PrivateSettings.h"
 #include "gui/AnsweredBoxes.h"
 #include "srs/LastUsedSrsList.h"
 #include "srs/UserDefinedSrsList.h"
 #include "srs/ui/SrsTable.h"
 #include "srs/ui/dialogToEditAlias.h"
 #include "srs/ui/dialogVltSrsChooser.h"
+#include "support/PrivateSettings.h"
 
 #include <QDesktopServices>
 #include <QDialogButtonBox>
@@ -13,6 +13,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTabWidget>
+#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace vlt::srs;

@@ -1,11 +1,12 @@
-#include "PrivateSettings.h"
 #include "geodata/SrsDefinition.h"
 #include "srs/DefaultSrsList.h"
 #include "srs/DetailLinks.h"
 #include "srs/LastUsedSrsList.h"
 #include "srs/UserDefinedSrsList.h"
+#include "support/PrivateSettings.h"
 
 #include <QTemporaryFile>
+#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace vlt::srs;

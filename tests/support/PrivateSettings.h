@@ -1,11 +1,9 @@
 #pragma once
 
 #include "platform/Settings.h"
+#include "support/Files.h"
 
-#include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
-#include <QTest>
 
 /// While it lives, the settings lie in a directory of its own, and the installation with its ini
 /// file as well.
@@ -24,10 +22,10 @@ public:
         const auto settings = vlt::platform::builderSettings();
         settings->clear();
         settings->setValue(QStringLiteral("INSTALL_DIR"), m_install);
-        QFile file(m_install + QStringLiteral("/VltSrsUtils.ini"));
-        file.remove();
+        const QString file = m_install + QStringLiteral("/VltSrsUtils.ini");
+        QFile::remove(file);
         if (!ini.isEmpty())
-            QVERIFY(file.open(QIODevice::WriteOnly) && file.write(ini) == ini.size());
+            writeFile(file, ini);
     }
 
 private:

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/Files.h"
+
 #include <cpl_error.h>
 #include <cpl_string.h>
 #include <gdal_priv.h>
@@ -43,10 +45,9 @@ public:
     {
         return QFile::encodeName(m_folder.filePath(QLatin1String(name)));
     }
-    bool write(const char *name, const QByteArray &text) const
+    void write(const char *name, const QByteArray &text) const
     {
-        QFile file(m_folder.filePath(QLatin1String(name)));
-        return file.open(QIODevice::WriteOnly) && file.write(text) > 0;
+        writeFile(m_folder.filePath(QLatin1String(name)), text);
     }
     /// `prefix` is "site:" or "link:", with options or without.
     GDALDatasetUniquePtr open(const QByteArray &prefix, const char *name) const

@@ -118,7 +118,7 @@ private Q_SLOTS:
         QFETCH(QStringList, lines);
         QFETCH(QStringList, ends);
         const Warnings warnings;
-        QVERIFY(m_folder.write("l.csv", text));
+        m_folder.write("l.csv", text);
         const auto dataset = m_folder.open("link:", "l.csv");
         QVERIFY2(dataset, qPrintable(warnings.texts.join(QLatin1Char('\n'))));
         OGRLayer *linkLayer = dataset->GetLayer(0);
@@ -189,7 +189,7 @@ private Q_SLOTS:
                 names += QByteArray(";") + other;
                 row += ";10";
             }
-        QVERIFY(m_folder.write("c.csv", names + "\n" + row + "\n"));
+        m_folder.write("c.csv", names + "\n" + row + "\n");
         const auto dataset = m_folder.open("link:", "c.csv");
         QVERIFY2(dataset, qPrintable(warnings.texts.join(QLatin1Char('\n'))));
 
@@ -234,8 +234,8 @@ private Q_SLOTS:
         QFETCH(QByteArray, cell);
         QFETCH(QByteArray, value);
         const Warnings warnings;
-        QVERIFY(m_folder.write("q.csv", "Link;X A;Y A;X B;Y B;" + header + "\nL;10;1;11;1;\"" +
-                                            cell + "\"\n"));
+        m_folder.write("q.csv",
+                       "Link;X A;Y A;X B;Y B;" + header + "\nL;10;1;11;1;\"" + cell + "\"\n");
         const auto dataset = m_folder.open("link:", "q.csv");
         QVERIFY(dataset);
 
@@ -274,7 +274,7 @@ private Q_SLOTS:
         QFETCH(double, east);
         QFETCH(double, north);
         const Warnings warnings;
-        QVERIFY(m_folder.write("o.csv", "X A;Y A;X B;Y B;DX (A) (m);A.DY\n" + row + "\n"));
+        m_folder.write("o.csv", "X A;Y A;X B;Y B;DX (A) (m);A.DY\n" + row + "\n");
         const auto dataset = m_folder.open("link:" + options, "o.csv");
         QVERIFY(dataset);
 
@@ -338,7 +338,7 @@ private Q_SLOTS:
         QFETCH(QByteArray, row);
         QFETCH(QString, problem);
         const Warnings warnings;
-        QVERIFY(m_folder.write("p.csv", header + "\n" + row + "\n"));
+        m_folder.write("p.csv", header + "\n" + row + "\n");
         const auto dataset = m_folder.open("link:", "p.csv");
         QVERIFY(dataset);
         const auto count = [](OGRLayer &layer) {
@@ -378,7 +378,7 @@ private Q_SLOTS:
         QFETCH(QByteArray, text);
         QFETCH(QString, reason);
         const Warnings warnings;
-        QVERIFY(m_folder.write("r.csv", text));
+        m_folder.write("r.csv", text);
 
         QVERIFY(!m_folder.open("link:", "r.csv"));
         QVERIFY2(warnings.texts.join(QLatin1Char('\n')).contains(reason),
@@ -395,13 +395,13 @@ private Q_SLOTS:
                         (i % 4 == 3 ? "</Row>" : "");
             return text + "</Table></Worksheet>";
         };
-        QVERIFY(m_folder.write(
-            "w.xml", "<?xml version=\"1.0\"?><Workbook "
-                     "xmlns=\"urn:schemas-microsoft-com:office:spreadsheet\" "
-                     "xmlns:ss=\"urn:schemas-microsoft-com:office:spreadsheet\">" +
-                         sheet("Sites", {"Site", "X", "Y", "Name", "S", "2", "48", "n"}) +
-                         sheet("Links", {"X A", "Y A", "X B", "Y B", "2", "48", "3", "48"}) +
-                         "</Workbook>"));
+        m_folder.write("w.xml",
+                       "<?xml version=\"1.0\"?><Workbook "
+                       "xmlns=\"urn:schemas-microsoft-com:office:spreadsheet\" "
+                       "xmlns:ss=\"urn:schemas-microsoft-com:office:spreadsheet\">" +
+                           sheet("Sites", {"Site", "X", "Y", "Name", "S", "2", "48", "n"}) +
+                           sheet("Links", {"X A", "Y A", "X B", "Y B", "2", "48", "3", "48"}) +
+                           "</Workbook>");
 
         QCOMPARE(m_folder.open("link:", "w.xml")->GetLayer(0)->GetName(), "Links");
         QCOMPARE(m_folder.open("site:", "w.xml")->GetLayer(0)->GetName(), "Sites");
@@ -410,7 +410,7 @@ private Q_SLOTS:
     void readsEndsAtRandomWithinAWalk()
     {
         const Warnings warnings;
-        QVERIFY(m_folder.write("n.csv", SideBySide));
+        m_folder.write("n.csv", SideBySide);
         const auto dataset = m_folder.open("link:", "n.csv");
         OGRLayer *ends = dataset->GetLayer(1);
         const OGRFeatureUniquePtr first(ends->GetNextFeature());
@@ -438,7 +438,7 @@ private Q_SLOTS:
     void filtersBothLayers()
     {
         const Warnings warnings;
-        QVERIFY(m_folder.write("f.csv", SideBySide));
+        m_folder.write("f.csv", SideBySide);
         const auto dataset = m_folder.open("link:t_srs=3857,", "f.csv");
         OGRLayer *links = dataset->GetLayer(0);
         OGRLayer *ends = dataset->GetLayer(1);

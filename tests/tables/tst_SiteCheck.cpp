@@ -1,4 +1,5 @@
 #include "geodata/LayerProblems.h"
+#include "support/Files.h"
 
 #include <QtTest>
 
@@ -21,8 +22,7 @@ private Q_SLOTS:
         QByteArray table = "Site ID;Longitude;Latitude\n";
         for (int i = 0; i < Rows; ++i)
             table += "S" + QByteArray::number(i) + (i % 1000 == 7 ? ";east;48\n" : ";2.5;48\n");
-        QFile file(path());
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(table) == table.size());
+        writeFile(path(), table);
     }
 
     void countsSitesAndListsProblems()

@@ -1,6 +1,7 @@
 #include "plugins/tables/bytes/Refusal.h"
 #include "plugins/tables/ogr/FieldCells.h"
 #include "plugins/tables/ogr/TableFile.h"
+#include "support/Files.h"
 
 #include <QtTest>
 
@@ -95,10 +96,8 @@ void readManifest(const QString &path, const QStringList &folders)
         QTest::addColumn<QString>(column);
     QTest::addColumn<qint64>("rows");
     QTest::addColumn<qint64>("columns");
-    QFile file(path);
-    QVERIFY2(file.open(QIODevice::ReadOnly), qPrintable(path));
     const QStringList lines =
-        QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+        QString::fromUtf8(readFile(path)).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
     const QStringList names = lines.first().split(QLatin1Char('\t'));
     for (const QString &line : lines.mid(1)) {
         const QStringList cells = line.split(QLatin1Char('\t'));

@@ -2,6 +2,7 @@
 
 #include "app/GeodataLibrary.h"
 #include "platform/Settings.h"
+#include "support/Files.h"
 #include "wizard/base/DraggableIcon.h"
 #include "wizard/frame/VltTelecomLayersWizard.h"
 
@@ -29,10 +30,8 @@ inline QString installation()
 inline bool makeInstallation()
 {
     vlt::app::registerGeodataDrivers();
-    const QString source = QStringLiteral(VLT_INSTALLATION "/.");
-    return QProcess::execute(QStringLiteral("cp"),
-                             {QStringLiteral("-R"), source, installation()}) == 0 &&
-           QFile::link(QStringLiteral(VLT_DRIVERS), installation() + QStringLiteral("/driver"));
+    copyFolder(QStringLiteral(VLT_INSTALLATION), installation());
+    return QFile::link(QStringLiteral(VLT_DRIVERS), installation() + QStringLiteral("/driver"));
 }
 
 inline void forgetSettings()
@@ -40,12 +39,6 @@ inline void forgetSettings()
     vlt::platform::wizardSettings()->clear();
     vlt::platform::builderSettings()->clear();
     vlt::platform::builderSettings()->setValue(QStringLiteral("INSTALL_DIR"), installation());
-}
-
-inline QByteArray contents(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 /// The layer that the command line makes of a table of the sample project.
@@ -64,7 +57,7 @@ inline QByteArray layerOfCommandLine(const QString &command, const QString &tabl
                               QStringLiteral("--language"), QStringLiteral("en")} +
                       options);
     process.waitForFinished();
-    return contents(layer);
+    return process.exitCode() == 0 ? readFile(layer) : process.readAllStandardError();
 }
 
 /// The real wizard in English, led to a result page.

@@ -3,6 +3,7 @@
 #include "gui/FileDialogAnswer.h"
 #include "links/ui/LinkReportModel.h"
 #include "preview/W_simpleOSGViewer.h"
+#include "support/Files.h"
 #include "wizard/LayerFlow.h"
 #include "wizard/base/TemporaryLayerFile.h"
 
@@ -81,12 +82,11 @@ private Q_SLOTS:
         QCOMPARE(dialog.caption, u"Select the link file to use"_s);
         QCOMPARE(dialog.filters, QStringList{u"Link files (*.xls *.xlsx *.xml *.csv)"_s});
         QCOMPARE(flow.icon->layerFile(), vlt::wizard::temporaryLayerFileName(u"links"_s));
-        const QByteArray layer = contents(flow.icon->layerFile());
-        QVERIFY(!layer.isEmpty());
+        const QByteArray layer = readFile(flow.icon->layerFile());
         QCOMPARE(layer, layerOfCommandLine(u"link"_s, path, options));
 
         WizardOnLinkPage nextTime;
-        QCOMPARE(contents(nextTime.icon->layerFile()), layer);
+        QCOMPARE(readFile(nextTime.icon->layerFile()), layer);
     }
 
     void refusesOtherFiles_data()
@@ -103,13 +103,11 @@ private Q_SLOTS:
     void refusesOtherFiles()
     {
         QFETCH(QByteArray, bytes);
-        QFile file(m_dir.filePath(u"refused.csv"_s));
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-        file.close();
+        const QString path = writeFile(m_dir.filePath(u"refused.csv"_s), bytes);
         WizardOnLinkPage flow;
         AnsweredBoxes boxes;
 
-        dropFiles(flow.page, {file.fileName()});
+        dropFiles(flow.page, {path});
 
         QCOMPARE(boxes.seen.size(), 1);
         QCOMPARE(boxes.seen.constFirst().title, u"Error"_s);
@@ -154,16 +152,14 @@ private Q_SLOTS:
 
     void showsLongTextsWithoutHidingTheVerdict()
     {
-        QFile file(m_dir.filePath(u"long.csv"_s));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("Name;Longitude 1;Latitude 1;Longitude 2;Latitude 2;Frequency Band (GHz)\n");
-        for (int row = 1; row < 2000; ++row)
-            file.write("L;-3.4;47.7;-3.3;47.7;6.0292\n");
-        file.write(QByteArray(200, 'M') + ";-3.4;47.7;33;7.7;6.0292\n"); // thousands of km
-        file.close();
+        const QString path =
+            writeFile(m_dir.filePath(u"long.csv"_s),
+                      "Name;Longitude 1;Latitude 1;Longitude 2;Latitude 2;Frequency Band (GHz)\n" +
+                          QByteArray("L;-3.4;47.7;-3.3;47.7;6.0292\n").repeated(1999) +
+                          QByteArray(200, 'M') + ";-3.4;47.7;33;7.7;6.0292\n"); // thousands of km
         WizardOnLinkPage flow;
 
-        dropFiles(flow.page, {file.fileName()});
+        dropFiles(flow.page, {path});
 
         QTableView *table = flow.table();
         QTRY_COMPARE(table->model()->rowCount(), 2000);
@@ -196,9 +192,7 @@ private Q_SLOTS:
 
     void tellsWhyNothingIsJudged()
     {
-        QFile project(m_dir.filePath(u"flat.gvw"_s));
-        QVERIFY(project.open(QIODevice::WriteOnly));
-        WizardOnLinkPage flow(project.fileName());
+        WizardOnLinkPage flow(writeFile(m_dir.filePath(u"flat.gvw"_s)));
 
         dropFiles(flow.page, {Links});
 

@@ -2,6 +2,7 @@
 #include "gui/DropOnWidget.h"
 #include "gui/FileDialogAnswer.h"
 #include "platform/Settings.h"
+#include "support/Files.h"
 #include "wizard/project/ui/VltSecondPage.h"
 
 #include <QDateTime>
@@ -173,11 +174,8 @@ private Q_SLOTS:
     void takesPastedPaths()
     {
         QFETCH(QString, pasted);
-        const QString path = file(u"my project.gvw"_s);
-        QFile project(path);
-        QVERIFY(project.open(QIODevice::WriteOnly));
-        project.write("DEM Layers\nReference Projection : 2154\n");
-        project.close();
+        const QString path =
+            writeFile(file(u"my project.gvw"_s), "DEM Layers\nReference Projection : 2154\n");
         const QByteArray home = qgetenv("HOME");
         qputenv("HOME", QFile::encodeName(m_dir.path()));
         const bool isAtHome = pasted.startsWith(u'~');

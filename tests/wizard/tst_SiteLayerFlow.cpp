@@ -2,6 +2,7 @@
 #include "gui/DropOnWidget.h"
 #include "gui/FileDialogAnswer.h"
 #include "preview/W_simpleOSGViewer.h"
+#include "support/Files.h"
 #include "wizard/LayerFlow.h"
 #include "wizard/base/TemporaryLayerFile.h"
 
@@ -69,7 +70,7 @@ private Q_SLOTS:
         QCOMPARE(dialog.filters, QStringList{u"Site files (*.xls *.xlsx *.xml *.csv)"_s});
         QVERIFY(flow.icon->isEnabled());
         QCOMPARE(flow.icon->layerFile(), vlt::wizard::temporaryLayerFileName(u"sites"_s));
-        const QByteArray layer = contents(flow.icon->layerFile());
+        const QByteArray layer = readFile(flow.icon->layerFile());
         QCOMPARE(layer, layerOfCommandLine(u"site"_s, path,
                                            {u"--transparency"_s, QString::number(transparency)}));
         QCOMPARE(vlt::platform::wizardSettings()->value(u"LastUsedDir"_s), Samples);
@@ -83,7 +84,7 @@ private Q_SLOTS:
 
         WizardOnSitePage nextTime;
         QVERIFY(nextTime.icon->isEnabled());
-        QCOMPARE(contents(nextTime.icon->layerFile()), layer);
+        QCOMPARE(readFile(nextTime.icon->layerFile()), layer);
     }
 
     void saysNothingOfARememberedTableThatIsGone()
@@ -114,9 +115,7 @@ private Q_SLOTS:
         QFETCH(QByteArray, bytes);
         QFETCH(QString, text);
         const QString path = m_dir.filePath(u"refused.csv"_s);
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-        file.close();
+        writeFile(path, bytes);
         WizardOnSitePage flow;
         dropFiles(flow.page, {Samples + u"/sites.csv"_s});
         QVERIFY(flow.icon->isEnabled());
@@ -138,8 +137,7 @@ private Q_SLOTS:
     void tellsWhatKeepsALayerFromBeingWritten()
     {
         const QTemporaryDir own;
-        const QString source = installation() + u"/."_s;
-        QCOMPARE(QProcess::execute(u"cp"_s, {u"-R"_s, source, own.path()}), 0);
+        copyFolder(installation(), own.path());
         const QString pylons = own.path() + u"/addons/telecom/pylons/"_s;
         const QString layer = vlt::wizard::temporaryLayerFileName(u"sites"_s);
         WizardOnSitePage flow(own.path());
@@ -185,12 +183,9 @@ private Q_SLOTS:
         QFETCH(QByteArray, catalogue);
         QFETCH(bool, hasLayer);
         const QTemporaryDir own;
-        const QString source = installation() + u"/."_s;
-        QCOMPARE(QProcess::execute(u"cp"_s, {u"-R"_s, source, own.path()}), 0);
+        copyFolder(installation(), own.path());
         const QString path = own.path() + u"/addons/telecom/pylons/list.xml"_s;
-        QFile list(path);
-        QVERIFY(list.open(QIODevice::WriteOnly) && list.write(catalogue) == catalogue.size());
-        list.close();
+        writeFile(path, catalogue);
         WizardOnSitePage flow(own.path());
         AnsweredBoxes boxes;
 
@@ -260,11 +255,8 @@ private Q_SLOTS:
     void makesNoLayerForASystemThatPlacesNothing()
     {
         QFETCH(QByteArray, system);
-        const QString project = m_dir.filePath(u"old.gvw"_s);
-        QFile file(project);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("DEM Layers\nReference Projection : " + system + '\n');
-        file.close();
+        const QString project = writeFile(m_dir.filePath(u"old.gvw"_s),
+                                          "DEM Layers\nReference Projection : " + system + '\n');
         WizardOnPage flow(u"m_pwClAddSite"_s, installation(), project);
         const AnsweredBoxes boxes;
 
@@ -311,7 +303,7 @@ private Q_SLOTS:
         QFETCH(QString, line);
         QFETCH(QString, box);
         const QTemporaryDir own;
-        QCOMPARE(QProcess::execute(u"cp"_s, {u"-R"_s, Samples + u"/."_s, own.path()}), 0);
+        copyFolder(Samples, own.path());
         QVERIFY(QFile::copy(Samples + u"/sites.csv"_s, own.filePath(u"made.lay"_s)));
         if (hasProject)
             vlt::platform::builderSettings()->setValue(u"RECENT_PROJECT_1"_s,

@@ -2,6 +2,7 @@
 #include "app/StyleSheet.h"
 #include "app/ToolkitTexts.h"
 #include "resources/Resources.h"
+#include "support/Files.h"
 
 #include <QDir>
 #include <QFile>
@@ -13,19 +14,6 @@ using namespace Qt::StringLiterals;
 using namespace vlt::app;
 
 namespace {
-
-bool put(const QString &path, const QByteArray &content)
-{
-    QFile file(path);
-    return QDir().mkpath(QFileInfo(path).path()) && file.open(QIODevice::WriteOnly) &&
-           file.write(content) == content.size();
-}
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 QByteArray dictionary(const QByteArray &key, const QByteArray &text)
 {
@@ -47,7 +35,7 @@ private Q_SLOTS:
     void composesStyleSheets()
     {
         const QString sheet = m_dir.filePath(u"my.qss"_s);
-        QVERIFY(put(sheet, "/* \xE9t\xE9 %1 */"));
+        writeFile(sheet, "/* \xE9t\xE9 %1 */");
         const QString global = readStyleSheet(u":/VltTelecomLayers/qss/global.qss"_s);
         const QString own = readStyleSheet(u":/VltTelecomLayers/qss/VltTelecomLayers.qss"_s);
         QVERIFY(!global.isEmpty() && !own.isEmpty());
@@ -63,8 +51,8 @@ private Q_SLOTS:
         const QString tree = m_dir.filePath(u"tree"_s);
         const QString builders = tree + u"/TEXTS/veltaro_fr.ts"_s;
         const QString addOn = tree + u"/addons/telecom/MESSAGES/telecom_fr.ts"_s;
-        QVERIFY(put(builders, dictionary("MESS_OK", "du constructeur")));
-        QVERIFY(put(addOn, dictionary("MESS_QT_YES", "&amp;Si fait")));
+        writeFile(builders, dictionary("MESS_OK", "du constructeur"));
+        writeFile(addOn, dictionary("MESS_QT_YES", "&amp;Si fait"));
 
         loadMessages(tree, u"TEXTS"_s, u"FRENCH"_s);
 
@@ -137,20 +125,20 @@ private Q_SLOTS:
         QVERIFY(
             QFile::copy(QStringLiteral(VLT_PROBE), tree + u"/driver/ogr_EnvironmentProbe.so"_s));
         // relative: the executable's own directory
-        QVERIFY(put(tree + u"/Prog_env.ini"_s, "[VltDirectSettings]\nINSTALL_DIR=elsewhere\n"));
+        writeFile(tree + u"/Prog_env.ini"_s, "[VltDirectSettings]\nINSTALL_DIR=elsewhere\n");
 
         QProcess process;
         qputenv("PROBE_OUTPUT", QFile::encodeName(output));
         process.start(program, {});
         const bool told =
-            QTest::qWaitFor([&] { return contentOf(output).endsWith("end\n"); }, 30000);
+            QTest::qWaitFor([&] { return readFile(output).endsWith("end\n"); }, 30000);
         process.kill();
         process.waitForFinished();
 
         QVERIFY2(told, process.readAllStandardError().constData());
         const QByteArray dir = tree.toUtf8();
         const QByteArray drivers = dir + "/driver:" + dir + "/driver/qt4";
-        QCOMPARE(contentOf(output), drivers + "\n1.5=1.5\nend\n");
+        QCOMPARE(readFile(output), drivers + "\n1.5=1.5\nend\n");
         QCOMPARE(process.readAllStandardOutput(),
                  "Adding path (" + drivers + ") to GDAL/OGR Driver path\n");
     }

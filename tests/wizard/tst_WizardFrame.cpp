@@ -1,5 +1,6 @@
 #include "gui/AnsweredBoxes.h"
 #include "platform/Settings.h"
+#include "support/Files.h"
 #include "wizard/frame/VltTelecomLayersWizard.h"
 
 #include <QAbstractButton>
@@ -78,9 +79,8 @@ private Q_SLOTS:
     {
         vlt::platform::builderSettings()->clear();
         vlt::platform::wizardSettings()->clear();
-        QFile project(m_dir.filePath(u"city.gvw"_s));
-        QVERIFY(project.open(QIODevice::WriteOnly));
-        qputenv("VLT_CURRENT_PROJECT", QFile::encodeName(project.fileName()));
+        const QString project = writeFile(m_dir.filePath(u"city.gvw"_s));
+        qputenv("VLT_CURRENT_PROJECT", QFile::encodeName(project));
     }
 
     void numbersItsPages()
