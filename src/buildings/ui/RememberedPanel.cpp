@@ -1,5 +1,6 @@
 #include "buildings/ui/RememberedPanel.h"
 
+#include "platform/Settings.h"
 #include "wizard/base/ColorButton.h"
 #include "wizard/base/WheelGuard.h"
 
@@ -72,26 +73,28 @@ void RememberedPanel::remember(const QList<Remembered> &widgets)
 void RememberedPanel::announceChanges(QWidget *widget)
 {
     if (auto *combo = qobject_cast<QComboBox *>(widget))
-        connect(combo, &QComboBox::currentIndexChanged, this, &RememberedPanel::changed);
+        connect(combo, &QComboBox::currentIndexChanged, this, &RememberedPanel::parameterChanged);
     else if (auto *check = qobject_cast<QCheckBox *>(widget))
-        connect(check, &QCheckBox::toggled, this, &RememberedPanel::changed);
+        connect(check, &QCheckBox::toggled, this, &RememberedPanel::parameterChanged);
     else if (auto *whole = qobject_cast<QSpinBox *>(widget))
-        connect(whole, &QSpinBox::valueChanged, this, &RememberedPanel::changed);
+        connect(whole, &QSpinBox::valueChanged, this, &RememberedPanel::parameterChanged);
     else if (auto *decimal = qobject_cast<QDoubleSpinBox *>(widget))
-        connect(decimal, &QDoubleSpinBox::valueChanged, this, &RememberedPanel::changed);
+        connect(decimal, &QDoubleSpinBox::valueChanged, this, &RememberedPanel::parameterChanged);
     else if (auto *color = qobject_cast<ColorButton *>(widget))
-        connect(color, &ColorButton::colorChanged, this, &RememberedPanel::changed);
+        connect(color, &ColorButton::colorChanged, this, &RememberedPanel::parameterChanged);
 }
 
-void RememberedPanel::restoreSettings(const QSettings &settings, const QString &group)
+void RememberedPanel::loadSettings(const QString &prefix)
 {
     const QSignalBlocker quiet(this);
+    const auto settings = vlt::platform::wizardSettings();
     for (const Remembered &remembered : std::as_const(m_remembered))
-        setValue(remembered.widget, settings.value(group + QLatin1Char('/') + remembered.key));
+        setValue(remembered.widget, settings->value(prefix + QLatin1Char('/') + remembered.key));
 }
 
-void RememberedPanel::saveSettings(QSettings &settings, const QString &group) const
+void RememberedPanel::saveSettings(const QString &prefix)
 {
-    for (const Remembered &remembered : m_remembered)
-        settings.setValue(group + QLatin1Char('/') + remembered.key, valueOf(remembered.widget));
+    const auto settings = vlt::platform::wizardSettings();
+    for (const Remembered &remembered : std::as_const(m_remembered))
+        settings->setValue(prefix + QLatin1Char('/') + remembered.key, valueOf(remembered.widget));
 }

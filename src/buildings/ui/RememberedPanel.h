@@ -1,28 +1,22 @@
 #pragma once
 
+#include "wizard/base/VltParameterPanel.h"
+
 #include <QList>
 #include <QString>
-#include <QWidget>
-
-class QSettings;
 
 /// Base of panels whose values are kept in the settings: combos by their index, check boxes, spin
 /// boxes and colour buttons.
-class RememberedPanel : public QWidget
+class RememberedPanel : public VltParameterPanel
 {
     Q_OBJECT
 
 public:
-    using QWidget::QWidget;
+    using VltParameterPanel::VltParameterPanel;
 
-    /// Takes the values under "<group>/...". A widget keeps its value where there is none, or none
-    /// that it can take. Emits nothing.
-    void restoreSettings(const QSettings &settings, const QString &group);
-    void saveSettings(QSettings &settings, const QString &group) const;
-
-Q_SIGNALS:
-    /// The user changed a value.
-    void changed();
+    /// A widget keeps its value where none is remembered, or none that it can take.
+    void loadSettings(const QString &prefix) override;
+    void saveSettings(const QString &prefix) override;
 
 protected:
     struct Remembered

@@ -12,7 +12,6 @@ namespace {
 
 const QString Group = QStringLiteral("AddTexbColoredPage");
 const QString AutoRefreshKey = QStringLiteral("AddTexbColoredPage/AutoRefresh");
-const QString LastUsedDirKey = QStringLiteral("LastUsedDir");
 
 } // namespace
 
@@ -28,31 +27,28 @@ VltAddTexbColoredPage::VltAddTexbColoredPage(QWidget *wizard, SharedParameters &
     setDropHighlightWidgets(m_ui->m_pwColoring->dropLabels());
     m_ui->m_pwColoring->setInstallDir(installDir);
     setResult(m_ui->m_pwGbPreview, m_ui->m_ptHbDrag, m_ui->m_pwLblDragText);
-    connect(m_ui->m_pwColoring, &VltColoringPanel::changed, this,
-            &VltAddTexbColoredPage::updatePreview);
-    connect(m_ui->m_pwExtrusion, &VltExtrusionPanel::changed, this,
-            &VltAddTexbColoredPage::updatePreview);
+    m_ui->m_pwExtrusion->setDistanceRemembered(false);
+    for (const VltParameterPanel *panel :
+         std::initializer_list<VltParameterPanel *>{m_ui->m_pwColoring, m_ui->m_pwExtrusion})
+        connect(panel, &VltParameterPanel::parameterChanged, this,
+                &VltAddTexbColoredPage::updatePreview);
 }
 
 VltAddTexbColoredPage::~VltAddTexbColoredPage() = default;
 
 void VltAddTexbColoredPage::saveSettings()
 {
-    const auto settings = platform::wizardSettings();
-    if (!m_ui->m_pwColoring->lastUsedDir().isEmpty())
-        settings->setValue(LastUsedDirKey, m_ui->m_pwColoring->lastUsedDir());
-    m_ui->m_pwColoring->saveSettings(*settings, Group);
-    m_ui->m_pwExtrusion->saveSettings(*settings, Group, false);
-    settings->setValue(AutoRefreshKey, m_ui->m_pwGbPreview->isAutoRefresh());
+    m_ui->m_pwColoring->saveSettings(Group);
+    m_ui->m_pwExtrusion->saveSettings(Group);
+    platform::wizardSettings()->setValue(AutoRefreshKey, m_ui->m_pwGbPreview->isAutoRefresh());
 }
 
 void VltAddTexbColoredPage::restoreSettings()
 {
-    const auto settings = platform::wizardSettings();
-    m_ui->m_pwColoring->setLastUsedDir(settings->value(LastUsedDirKey).toString());
-    m_ui->m_pwColoring->restoreSettings(*settings, Group);
-    m_ui->m_pwExtrusion->restoreSettings(*settings, Group, false);
-    m_ui->m_pwGbPreview->setAutoRefresh(settings->value(AutoRefreshKey, true).toBool());
+    m_ui->m_pwColoring->loadSettings(Group);
+    m_ui->m_pwExtrusion->loadSettings(Group);
+    m_ui->m_pwGbPreview->setAutoRefresh(
+        platform::wizardSettings()->value(AutoRefreshKey, true).toBool());
 }
 
 void VltAddTexbColoredPage::droppedFile(const QString &path)

@@ -14,7 +14,6 @@ namespace {
 
 const QString SettingsGroup = QStringLiteral("AddTexbPreviewPage");
 const QString AutoRefreshKey = QStringLiteral("AddTexbPreviewPage/AutoRefresh");
-const QString LastUsedDirKey = QStringLiteral("LastUsedDir");
 
 } // namespace
 
@@ -37,15 +36,17 @@ VltAddTexbPreviewPage::VltAddTexbPreviewPage(QWidget *wizard, SharedParameters &
 
 VltAddTexbPreviewPage::~VltAddTexbPreviewPage() = default;
 
+QList<VltParameterPanel *> VltAddTexbPreviewPage::panels() const
+{
+    return {m_ui->m_pwTexturing, m_ui->m_pwColors, m_ui->m_pwExtrusion,
+            m_ui->m_pwOptions,   m_ui->m_pwCache,  m_ui->m_pwColoring};
+}
+
 void VltAddTexbPreviewPage::connectPanels()
 {
-    for (const RememberedPanel *panel : std::initializer_list<RememberedPanel *>{
-             m_ui->m_pwTexturing, m_ui->m_pwColors, m_ui->m_pwOptions, m_ui->m_pwCache})
-        connect(panel, &RememberedPanel::changed, this, &VltAddTexbPreviewPage::takeChange);
-    connect(m_ui->m_pwExtrusion, &VltExtrusionPanel::changed, this,
-            &VltAddTexbPreviewPage::takeChange);
-    connect(m_ui->m_pwColoring, &VltColoringPanel::changed, this,
-            &VltAddTexbPreviewPage::takeChange);
+    for (const VltParameterPanel *panel : panels())
+        connect(panel, &VltParameterPanel::parameterChanged, this,
+                &VltAddTexbPreviewPage::takeChange);
     connect(m_ui->m_pwColors, &VltBuildingColors::coloringWanted, this,
             [this] { m_ui->m_pwTabs->setCurrentWidget(m_ui->m_pwTabColoring); });
 }
@@ -95,29 +96,17 @@ void VltAddTexbPreviewPage::showInformation()
 
 void VltAddTexbPreviewPage::restoreSettings()
 {
-    const auto settings = vlt::platform::wizardSettings();
-    m_ui->m_pwTexturing->restoreSettings(*settings, SettingsGroup);
-    m_ui->m_pwColors->restoreSettings(*settings, SettingsGroup);
-    m_ui->m_pwExtrusion->restoreSettings(*settings, SettingsGroup, true);
-    m_ui->m_pwOptions->restoreSettings(*settings, SettingsGroup);
-    m_ui->m_pwCache->restoreSettings(*settings, SettingsGroup);
-    m_ui->m_pwColoring->setLastUsedDir(settings->value(LastUsedDirKey).toString());
-    m_ui->m_pwColoring->restoreSettings(*settings, SettingsGroup);
-    m_ui->m_pwGbPreview->setAutoRefresh(settings->value(AutoRefreshKey, true).toBool());
+    for (VltParameterPanel *panel : panels())
+        panel->loadSettings(SettingsGroup);
+    m_ui->m_pwGbPreview->setAutoRefresh(
+        vlt::platform::wizardSettings()->value(AutoRefreshKey, true).toBool());
 }
 
 void VltAddTexbPreviewPage::saveSettings()
 {
-    const auto settings = vlt::platform::wizardSettings();
-    m_ui->m_pwTexturing->saveSettings(*settings, SettingsGroup);
-    m_ui->m_pwColors->saveSettings(*settings, SettingsGroup);
-    m_ui->m_pwExtrusion->saveSettings(*settings, SettingsGroup, true);
-    m_ui->m_pwOptions->saveSettings(*settings, SettingsGroup);
-    m_ui->m_pwCache->saveSettings(*settings, SettingsGroup);
-    if (!m_ui->m_pwColoring->lastUsedDir().isEmpty())
-        settings->setValue(LastUsedDirKey, m_ui->m_pwColoring->lastUsedDir());
-    m_ui->m_pwColoring->saveSettings(*settings, SettingsGroup);
-    settings->setValue(AutoRefreshKey, m_ui->m_pwGbPreview->isAutoRefresh());
+    for (VltParameterPanel *panel : panels())
+        panel->saveSettings(SettingsGroup);
+    vlt::platform::wizardSettings()->setValue(AutoRefreshKey, m_ui->m_pwGbPreview->isAutoRefresh());
 }
 
 void VltAddTexbPreviewPage::droppedFile(const QString &path)

@@ -7,6 +7,7 @@
 namespace Ui {
 class AddTexbPreviewPage;
 }
+class VltParameterPanel;
 
 /// The page on which it is chosen how buildings with images are shown.
 class VltAddTexbPreviewPage : public VltBuildingLayerPage
@@ -32,6 +33,7 @@ private:
     writeFiles(const QString &layerPath, vlt::platform::Access access, QString &reason) override;
     void layerWritten(const vlt::buildings::BuildingLayerFiles &files) override;
 
+    QList<VltParameterPanel *> panels() const;
     void connectPanels();
     void fitWidth();
     void takeChange();

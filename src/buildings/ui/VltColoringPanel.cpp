@@ -8,6 +8,7 @@
 #include "buildings/ui/RasterMessages.h"
 #include "colormaps/ColorMapList.h"
 #include "colormaps/OpenColorMap.h"
+#include "platform/Settings.h"
 #include "wizard/base/BusyWait.h"
 #include "wizard/base/Messages.h"
 #include "wizard/base/WheelGuard.h"
@@ -25,6 +26,8 @@
 using namespace vlt;
 
 namespace {
+
+const QString LastUsedDirKey = QStringLiteral("LastUsedDir");
 
 void restoreIndex(QComboBox *combo, const QVariant &value)
 {
@@ -59,7 +62,7 @@ void tellOfColorMap(QWidget *parent, const Error &error)
 } // namespace
 
 VltColoringPanel::VltColoringPanel(QWidget *parent)
-    : QWidget(parent)
+    : VltParameterPanel(parent)
     , m_ui(std::make_unique<Ui::ColoringPanel>())
 {
     m_ui->setupUi(this);
@@ -85,12 +88,12 @@ void VltColoringPanel::connectWidgets()
             [this] { openImage(m_ui->m_pwLeImage->text(), false); });
     connect(m_ui->m_pwLeImage, &QLineEdit::editingFinished, this,
             &VltColoringPanel::takeTypedImage);
-    connect(m_ui->m_pwLeImage, &QLineEdit::textEdited, this, &VltColoringPanel::changed);
+    connect(m_ui->m_pwLeImage, &QLineEdit::textEdited, this, &VltColoringPanel::parameterChanged);
 
-    connect(m_ui->m_pwLeNoData, &QLineEdit::textChanged, this, &VltColoringPanel::changed);
-    connect(m_ui->m_pwCbStretch, &QCheckBox::toggled, this, &VltColoringPanel::changed);
+    connect(m_ui->m_pwLeNoData, &QLineEdit::textChanged, this, &VltColoringPanel::parameterChanged);
+    connect(m_ui->m_pwCbStretch, &QCheckBox::toggled, this, &VltColoringPanel::parameterChanged);
     for (const QComboBox *combo : {m_ui->m_pwCbCmap, m_ui->m_pwCBColorInterp, m_ui->m_pwCbMode})
-        connect(combo, &QComboBox::currentIndexChanged, this, &VltColoringPanel::changed);
+        connect(combo, &QComboBox::currentIndexChanged, this, &VltColoringPanel::parameterChanged);
 }
 
 /// A path that is not finished is no reason for a message when the line is left.
@@ -255,7 +258,7 @@ void VltColoringPanel::openImage(const QString &path, bool quiet)
         else
             judge(summary, absolute, quiet);
     }
-    Q_EMIT changed();
+    Q_EMIT parameterChanged();
 }
 
 /// Takes an image as usable or not. A plain one that is not is left again: nothing else of the file
@@ -290,7 +293,7 @@ void VltColoringPanel::currentDatasetChanged()
     if (m_isBusy || subdataset().isEmpty())
         return;
     judgeSubdataset(false);
-    Q_EMIT changed();
+    Q_EMIT parameterChanged();
 }
 
 void VltColoringPanel::defineImage()
@@ -351,12 +354,14 @@ QList<QWidget *> VltColoringPanel::dropLabels() const
     return {m_ui->m_pwLblImage, m_ui->m_pwLblCmap};
 }
 
-void VltColoringPanel::restoreSettings(const QSettings &settings, const QString &group)
+void VltColoringPanel::loadSettings(const QString &prefix)
 {
     const QSignalBlocker quiet(this);
-    const auto value = [&settings, &group](const QString &key, const QVariant &absent) {
-        return settings.value(group + QLatin1Char('/') + key, absent);
+    const auto settings = platform::wizardSettings();
+    const auto value = [&settings, &prefix](const QString &key, const QVariant &absent) {
+        return settings->value(prefix + QLatin1Char('/') + key, absent);
     };
+    m_lastUsedDir = settings->value(LastUsedDirKey).toString();
     restoreIndex(m_ui->m_pwCbMode, value(QStringLiteral("Mode"), 0));
     openImage(value(QStringLiteral("Image"), QString()).toString(), true);
     {
@@ -371,7 +376,7 @@ void VltColoringPanel::restoreSettings(const QSettings &settings, const QString 
 
     // a damaged count must not keep the page busy for ever
     const int count = qMin(value(QStringLiteral("UserColormapCount"), 0).toInt(),
-                           static_cast<int>(settings.allKeys().size()));
+                           static_cast<int>(settings->allKeys().size()));
     for (int n = 0; n < count; ++n) {
         const QString path =
             value(QStringLiteral("UserColormapAbs_%1").arg(n), QString()).toString();
@@ -382,11 +387,14 @@ void VltColoringPanel::restoreSettings(const QSettings &settings, const QString 
     restoreIndex(m_ui->m_pwCbCmap, value(QStringLiteral("CurrentColormap"), 0));
 }
 
-void VltColoringPanel::saveSettings(QSettings &settings, const QString &group) const
+void VltColoringPanel::saveSettings(const QString &prefix)
 {
-    const auto save = [&settings, &group](const QString &key, const QVariant &value) {
-        settings.setValue(group + QLatin1Char('/') + key, value);
+    const auto settings = platform::wizardSettings();
+    const auto save = [&settings, &prefix](const QString &key, const QVariant &value) {
+        settings->setValue(prefix + QLatin1Char('/') + key, value);
     };
+    if (!m_lastUsedDir.isEmpty())
+        settings->setValue(LastUsedDirKey, m_lastUsedDir);
     save(QStringLiteral("Mode"), m_ui->m_pwCbMode->currentIndex());
     save(QStringLiteral("Image"), m_openedImage);
     save(QStringLiteral("IdxSubdataset"), qMax(0, m_ui->m_pwCbSubdatsets->currentIndex()));

@@ -3,9 +3,9 @@
 #include "buildings/BuildingLayerFiles.h"
 #include "coverage/CoverageRaster.h"
 #include "geodata/RasterSource.h"
+#include "wizard/base/VltParameterPanel.h"
 
 #include <QDateTime>
-#include <QWidget>
 
 #include <memory>
 #include <optional>
@@ -13,14 +13,13 @@
 namespace Ui {
 class ColoringPanel;
 }
-class QSettings;
 
 /// The raster that buildings are coloured from and how: image, its part, value of no data, colour
 /// map, stretching, interpretation, reduction.
 ///
 /// Rasters are opened on other threads, with an event loop of their own meanwhile: what is dropped
 /// or picked before one is done is left aside.
-class VltColoringPanel : public QWidget
+class VltColoringPanel : public VltParameterPanel
 {
     Q_OBJECT
 
@@ -60,24 +59,16 @@ public:
     /// What a file that is dropped is for.
     QList<QWidget *> dropLabels() const;
 
-    /// Reads or writes the values under "<group>/Image" and so on, the settings of the coloured
-    /// page. Restoring emits nothing.
-    void restoreSettings(const QSettings &settings, const QString &group);
-    void saveSettings(QSettings &settings, const QString &group) const;
-
-    /// Where dialogs begin.
-    void setLastUsedDir(const QString &directory) { m_lastUsedDir = directory; }
-    const QString &lastUsedDir() const { return m_lastUsedDir; }
+    /// The settings of the coloured page, and the folder in which dialogs begin, which all pages
+    /// share.
+    void loadSettings(const QString &prefix) override;
+    void saveSettings(const QString &prefix) override;
 
 public Q_SLOTS:
     void defineImage();
     void guessNoData();
     void addCmap();
     void currentDatasetChanged();
-
-Q_SIGNALS:
-    /// The user changed what coloring() gives, or may have.
-    void changed();
 
 private:
     using Summary = vlt::Result<vlt::geodata::RasterSummary>;

@@ -2,6 +2,7 @@
 
 #include "ui_ExtrusionPanel.h"
 
+#include "platform/Settings.h"
 #include "wizard/base/WheelGuard.h"
 
 #include <QSettings>
@@ -25,17 +26,19 @@ void restore(Box *box, const QVariant &value)
 } // namespace
 
 VltExtrusionPanel::VltExtrusionPanel(QWidget *parent)
-    : QWidget(parent)
+    : VltParameterPanel(parent)
     , m_ui(std::make_unique<Ui::ExtrusionPanel>())
 {
     m_ui->setupUi(this);
     vlt::wizard::guardAgainstStrayWheel(this);
     alignTo(m_ui->m_pwSbTileSize->sizeHint().width()); // one column through both groups
-    connect(m_ui->m_pwSbDistance, &QSpinBox::valueChanged, this, &VltExtrusionPanel::changed);
-    connect(m_ui->m_pwSbTileSize, &QDoubleSpinBox::valueChanged, this, &VltExtrusionPanel::changed);
-    connect(m_ui->m_pwCbCheckGeom, &QCheckBox::toggled, this, &VltExtrusionPanel::changed);
+    connect(m_ui->m_pwSbDistance, &QSpinBox::valueChanged, this,
+            &VltExtrusionPanel::parameterChanged);
+    connect(m_ui->m_pwSbTileSize, &QDoubleSpinBox::valueChanged, this,
+            &VltExtrusionPanel::parameterChanged);
+    connect(m_ui->m_pwCbCheckGeom, &QCheckBox::toggled, this, &VltExtrusionPanel::parameterChanged);
     connect(m_ui->m_pwSbSkirtSize, &QDoubleSpinBox::valueChanged, this,
-            &VltExtrusionPanel::changed);
+            &VltExtrusionPanel::parameterChanged);
 }
 
 VltExtrusionPanel::~VltExtrusionPanel() = default;
@@ -56,26 +59,29 @@ vlt::buildings::FootprintSettings VltExtrusionPanel::settings() const
     return settings;
 }
 
-void VltExtrusionPanel::restoreSettings(const QSettings &settings, const QString &group,
-                                        bool withDistance)
+void VltExtrusionPanel::loadSettings(const QString &prefix)
 {
     const QSignalBlocker quiet(this);
-    const QString prefix = group + QLatin1Char('/');
-    restore(m_ui->m_pwSbTileSize, settings.value(prefix + QLatin1String("TileSize"), 250.0));
-    restore(m_ui->m_pwSbSkirtSize, settings.value(prefix + QLatin1String("SkirtSize"), 5.0));
-    m_ui->m_pwCbCheckGeom->setChecked(
-        settings.value(prefix + QLatin1String("CheckGeom"), false).toBool());
-    if (withDistance)
-        restore(m_ui->m_pwSbDistance, settings.value(prefix + QLatin1String("Distance"), 2000));
+    const auto settings = vlt::platform::wizardSettings();
+    const auto value = [&](const char *key, const QVariant &absent) {
+        return settings->value(prefix + QLatin1Char('/') + QLatin1String(key), absent);
+    };
+    restore(m_ui->m_pwSbTileSize, value("TileSize", 250.0));
+    restore(m_ui->m_pwSbSkirtSize, value("SkirtSize", 5.0));
+    m_ui->m_pwCbCheckGeom->setChecked(value("CheckGeom", false).toBool());
+    if (m_isDistanceRemembered)
+        restore(m_ui->m_pwSbDistance, value("Distance", 2000));
 }
 
-void VltExtrusionPanel::saveSettings(QSettings &settings, const QString &group,
-                                     bool withDistance) const
+void VltExtrusionPanel::saveSettings(const QString &prefix)
 {
-    const QString prefix = group + QLatin1Char('/');
-    settings.setValue(prefix + QLatin1String("TileSize"), m_ui->m_pwSbTileSize->value());
-    settings.setValue(prefix + QLatin1String("SkirtSize"), m_ui->m_pwSbSkirtSize->value());
-    settings.setValue(prefix + QLatin1String("CheckGeom"), m_ui->m_pwCbCheckGeom->isChecked());
-    if (withDistance)
-        settings.setValue(prefix + QLatin1String("Distance"), m_ui->m_pwSbDistance->value());
+    const auto settings = vlt::platform::wizardSettings();
+    const auto save = [&](const char *key, const QVariant &value) {
+        settings->setValue(prefix + QLatin1Char('/') + QLatin1String(key), value);
+    };
+    save("TileSize", m_ui->m_pwSbTileSize->value());
+    save("SkirtSize", m_ui->m_pwSbSkirtSize->value());
+    save("CheckGeom", m_ui->m_pwCbCheckGeom->isChecked());
+    if (m_isDistanceRemembered)
+        save("Distance", m_ui->m_pwSbDistance->value());
 }

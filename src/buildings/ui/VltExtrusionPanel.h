@@ -2,17 +2,16 @@
 
 #include "buildings/BuildingDocument.h"
 
-#include <QWidget>
+#include "wizard/base/VltParameterPanel.h"
 
 #include <memory>
 
 namespace Ui {
 class ExtrusionPanel;
 }
-class QSettings;
 
 /// How footprints become bodies: distance of visibility, tile size, skirt, check of directions.
-class VltExtrusionPanel : public QWidget
+class VltExtrusionPanel : public VltParameterPanel
 {
     Q_OBJECT
 
@@ -23,17 +22,16 @@ public:
     /// The measures; file, layer and field are empty.
     vlt::buildings::FootprintSettings settings() const;
 
-    /// Reads or writes "<group>/TileSize", "CheckGeom", "SkirtSize" (and "Distance" where
-    /// `withDistance`). Restoring emits nothing.
-    void restoreSettings(const QSettings &settings, const QString &group, bool withDistance);
-    void saveSettings(QSettings &settings, const QString &group, bool withDistance) const;
+    /// Whether the distance of visibility is remembered, too; it is unless set otherwise.
+    void setDistanceRemembered(bool isRemembered) { m_isDistanceRemembered = isRemembered; }
+
+    void loadSettings(const QString &prefix) override;
+    void saveSettings(const QString &prefix) override;
 
     /// Widens the column of the values, in pixels, to that of a panel below.
     void alignTo(int columnWidth);
 
-Q_SIGNALS:
-    void changed();
-
 private:
     std::unique_ptr<Ui::ExtrusionPanel> m_ui;
+    bool m_isDistanceRemembered = true;
 };

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "sites/SiteRepresentation.h"
-#include "tables/ui/VltParameterPanel.h"
+#include "wizard/base/VltParameterPanel.h"
 
 #include <memory>
 

@@ -4,13 +4,13 @@
 #include "platform/Settings.h"
 #include "tables/SystemObstacle.h"
 #include "tables/TableTexts.h"
-#include "tables/ui/VltParameterPanel.h"
 #include "tables/ui/VltSrsSettings.h"
 #include "tables/ui/VltTableDetails.h"
 #include "ui_TablePage.h"
 #include "wizard/base/DraggableIcon.h"
 #include "wizard/base/Messages.h"
 #include "wizard/base/TemporaryLayerFile.h"
+#include "wizard/base/VltParameterPanel.h"
 
 #include <QApplication>
 #include <QFileDialog>

@@ -2,7 +2,7 @@
 
 #include <QWidget>
 
-/// A panel of values by which the layer of a table is drawn.
+/// A panel of values by which a layer is drawn.
 class VltParameterPanel : public QWidget
 {
     Q_OBJECT
@@ -16,7 +16,7 @@ public:
     virtual void saveSettings(const QString &prefix) = 0;
 
     /// Puts the groups above each other instead of side by side, for large fonts.
-    virtual void setStacked(bool stacked) = 0;
+    virtual void setStacked(bool /*stacked*/) {}
 
 Q_SIGNALS:
     /// A value has changed.
