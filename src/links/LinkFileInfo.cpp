@@ -1,14 +1,12 @@
 #include "links/LinkFileInfo.h"
 
+#include "contract/LinkEnds.h"
 #include "geodata/LayerInfo.h"
 #include "sites/SiteFileInfo.h"
 
 namespace vlt::links {
 
 namespace {
-
-/// Layer of a link table that holds the ends.
-constexpr int EndLayer = 1;
 
 tables::TableKind linkTable()
 {
@@ -45,8 +43,8 @@ LinkFileInfo readLinkFileInfoAs(const QString &path, const project::ProjectConte
     info.columns = recogniseLinkColumns(fields);
     info.linkNameField = info.columns.name;
     info.nameField = linkEndNameField(info.format);
-    const Result<geodata::LayerInfo> ends =
-        geodata::readLayerInfo(reading.connection(QStringLiteral("link:"), path), EndLayer);
+    const Result<geodata::LayerInfo> ends = geodata::readLayerInfo(
+        reading.connection(QStringLiteral("link:"), path), contract::LinkEndLayerIndex);
     if (ends) {
         info.endLayerName = ends.value().layerName;
         info.hasNameField = ends.value().fields.contains(info.nameField, Qt::CaseInsensitive);

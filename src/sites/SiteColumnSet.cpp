@@ -1,6 +1,7 @@
 #include "sites/SiteColumnSet.h"
 
 #include "contract/ConnectionString.h"
+#include "contract/LinkEnds.h"
 #include "geodata/LayerInfo.h"
 #include "tables/ColumnPatterns.h"
 
@@ -114,7 +115,9 @@ SiteColumnSet recogniseSiteColumns(const QStringList &fieldNames)
 
 SiteColumnSet recogniseSiteColumns(const QString &connection, const QString &projectDirectory)
 {
-    const int layer = connection.startsWith(QLatin1String("link"), Qt::CaseInsensitive) ? 1 : 0;
+    const int layer = connection.startsWith(QLatin1String("link"), Qt::CaseInsensitive)
+                          ? contract::LinkEndLayerIndex
+                          : 0;
     const Result<QStringList> fields =
         geodata::readFieldNames(resolvedConnection(connection, projectDirectory), layer);
     return fields ? recogniseSiteColumns(fields.value()) : SiteColumnSet();

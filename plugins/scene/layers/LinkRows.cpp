@@ -1,5 +1,7 @@
 #include "plugins/scene/layers/LinkRows.h"
 
+#include "contract/LinkEnds.h"
+#include "linkpath/LinkEndReader.h"
 #include "plugins/scene/layers/SiteColumns.h"
 #include "plugins/scene/parametric/LinkObject.h"
 #include "plugins/scene/reading/BadLayer.h"
@@ -16,54 +18,44 @@ namespace {
 
 constexpr double HighestAntennaM = 2000;
 
-/// Fields of a layer of link ends, by their index; -1 where there is none.
-struct EndColumns
+/// The field that names the sites of the ends, by its index; -1 where there is none.
+int siteFieldOf(OGRLayer &ends, const std::string &siteField)
 {
-    explicit EndColumns(const std::vector<std::string> &names, const std::string &siteField)
-    {
-        const auto find = [&names](std::string_view name) {
-            const auto found = std::find(names.begin(), names.end(), name);
-            return found == names.end() ? -1 : static_cast<int>(found - names.begin());
-        };
-        site = find(siteField);
-        if (site < 0)
-            site = recogniseSiteColumns(names).name;
-        row = find("Link row");
-        end = find("End");
-        height = find("Transmitter-1 Height (m)");
-        frequency = find("Frequency (MHz)");
-        if (row < 0 || end < 0)
-            throw BadLayer("the layer of link ends has no field \"Link row\" or \"End\"");
-    }
+    const std::vector<std::string> names = fieldNamesOf(ends);
+    const auto found = std::find(names.begin(), names.end(), siteField);
+    return found != names.end() ? static_cast<int>(found - names.begin())
+                                : recogniseSiteColumns(names).name;
+}
 
-    int site;
-    int row;
-    int end;
-    int height;
-    int frequency;
-};
+/// The number, unless it lies out of a range.
+std::optional<double> within(std::optional<double> number, double min, double max)
+{
+    return number && *number >= min && *number <= max ? number : std::nullopt;
+}
 
 class Reader
 {
 public:
     Reader(OGRLayer &layer, const std::string &siteField)
         : m_layer(layer)
-        , m_columns(fieldNamesOf(layer), siteField)
+        , m_ends(*layer.GetLayerDefn(), siteFieldOf(layer, siteField))
     {
-        readOnlyFields(m_layer, {m_columns.site, m_columns.row, m_columns.end, m_columns.height,
-                                 m_columns.frequency});
+        if (!m_ends.isComplete())
+            throw BadLayer(std::string("the layer of link ends has no field \"") +
+                           contract::LinkRowField + "\" or \"" + contract::LinkEndField + '"');
+        const auto fields = m_ends.fields();
+        readOnlyFields(m_layer, {fields.begin(), fields.end()});
     }
 
     LinkRows read()
     {
         m_layer.ResetReading();
         while (const OGRFeatureUniquePtr feature = nextFeature(m_layer)) {
-            const GIntBig number = feature->GetFieldAsInteger64(m_columns.row);
-            if (number != m_number && !startRow(number))
+            take(m_ends.add(*feature));
+            if (m_links.isCut)
                 break;
-            take(*feature);
         }
-        finishRow();
+        take(m_ends.finish());
         placeRows();
         if (const OGRSpatialReference *srs = m_layer.GetSpatialRef())
             m_links.srs = *srs;
@@ -71,43 +63,27 @@ public:
     }
 
 private:
-    bool startRow(GIntBig number)
+    void take(std::optional<linkpath::PairedLink> link)
     {
-        finishRow();
-        m_links.isCut = m_links.rows.size() == MaxLinks;
-        m_number = number;
-        return !m_links.isCut;
-    }
-
-    void finishRow()
-    {
-        if (m_number >= 0 && !m_links.isCut) {
-            if (m_hasPlace[0] && m_hasPlace[1])
-                m_links.rows.push_back(std::move(m_row));
-            else
-                ++m_links.unplaced;
-        }
-        m_row = {};
-        m_hasPlace = {};
-        m_number = -1;
-    }
-
-    void take(const OGRFeature &feature)
-    {
-        const std::size_t which = textAt(feature, m_columns.end) == "B" ? 1 : 0;
-        const double frequency =
-            numberAt(feature, m_columns.frequency, LowestMHz, HighestMHz).value_or(0.0);
-        if (which == 0 || m_row.frequencyMHz == 0)
-            m_row.frequencyMHz = frequency > 0 ? frequency : m_row.frequencyMHz;
-        LinkRowEnd &end = m_row.ends[which];
-        end.site = textAt(feature, m_columns.site);
-        end.end.heightM = numberAt(feature, m_columns.height, 0, HighestAntennaM);
-        const std::optional<osg::Vec2d> place = placeOf(feature);
-        m_hasPlace[which] = place.has_value();
-        if (!place)
+        if (!link)
             return;
-        end.end.x = place->x();
-        end.end.y = place->y();
+        if (!link->isPlaced()) {
+            ++m_links.unplaced;
+            return;
+        }
+        m_links.isCut = m_links.rows.size() == MaxLinks;
+        if (m_links.isCut)
+            return;
+        LinkRow row;
+        for (std::size_t i = 0; i < row.ends.size(); ++i) {
+            linkpath::PairedLink::End &end = link->ends[i];
+            end.frequencyMHz = within(end.frequencyMHz, LowestMHz, HighestMHz);
+            row.ends[i].site = std::move(end.site);
+            row.ends[i].end = end.place;
+            row.ends[i].end.heightM = within(end.place.heightM, 0, HighestAntennaM);
+        }
+        row.frequencyMHz = link->frequencyMHz().value_or(0.0);
+        m_links.rows.push_back(std::move(row));
     }
 
     /// Gives the ends their places in the frame; links that have none go.
@@ -128,11 +104,8 @@ private:
     }
 
     OGRLayer &m_layer;
-    EndColumns m_columns;
+    linkpath::LinkEndReader m_ends;
     LinkRows m_links;
-    GIntBig m_number = -1; ///< of the row that is being read
-    LinkRow m_row;
-    std::array<bool, 2> m_hasPlace{};
 };
 
 } // namespace
@@ -143,7 +116,7 @@ LinkRows readLinkRows(const contract::ConnectionString &table, const LayerFile &
     const GDALDatasetUniquePtr dataset = openTable(table);
     OGRLayer *ends = dataset->GetLayerByName(layer.endLayer.c_str());
     if (!ends)
-        ends = dataset->GetLayer(1);
+        ends = dataset->GetLayer(contract::LinkEndLayerIndex);
     if (!ends)
         throw BadLayer(table.path + ": it has no layer of link ends");
     LinkRows links = Reader(*ends, layer.siteField).read();

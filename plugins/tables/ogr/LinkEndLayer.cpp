@@ -1,5 +1,7 @@
 #include "plugins/tables/ogr/LinkEndLayer.h"
 
+#include "contract/LinkEnds.h"
+
 namespace vlt::driver {
 
 namespace {
@@ -39,15 +41,15 @@ LinkEndLayer::LinkEndLayer(const TableSource &source)
     defineField(siteField(layout.format), OFTString);
     defineField(meters ? "X" : "Longitude", OFTReal);
     defineField(meters ? "Y" : "Latitude", OFTReal);
-    defineField("Transmitter-1 Sector ID", OFTString);
-    defineField("Transmitter-1 Height (m)", OFTReal);
-    defineField("Transmitter-1 Azimuth (\xC2\xB0)", OFTReal);
-    defineField("Transmitter-1 Tilt (\xC2\xB0)", OFTReal);
-    defineField("Link", OFTString);
-    defineField("Link row", OFTInteger64);
-    defineField("End", OFTString);
-    defineField("Frequency (MHz)", OFTReal);
-    defineField("Link length (m)", OFTReal);
+    defineField(contract::LinkSectorField, OFTString);
+    defineField(contract::LinkHeightField, OFTReal);
+    defineField(contract::LinkAzimuthField, OFTReal);
+    defineField(contract::LinkTiltField, OFTReal);
+    defineField(contract::LinkNameField, OFTString);
+    defineField(contract::LinkRowField, OFTInteger64);
+    defineField(contract::LinkEndField, OFTString);
+    defineField(contract::LinkFrequencyField, OFTReal);
+    defineField(contract::LinkLengthField, OFTReal);
     setGeometryType(wkbPoint);
 }
 
@@ -100,7 +102,7 @@ void LinkEndLayer::fillFeature(OGRFeature &feature, int part) const
         row.values.name.empty() ? "row " + std::to_string(m_row) : row.values.name);
     if (!isIgnored(LinkRowNumber))
         feature.SetField(LinkRowNumber, static_cast<GIntBig>(m_row));
-    set(feature, EndName, part == 0 ? "A" : "B");
+    set(feature, EndName, part == 0 ? contract::EndA : contract::EndB);
     set(feature, FrequencyMHz, values.frequencyMHz);
     set(feature, LengthM, row.lengthM);
 }
