@@ -1,8 +1,10 @@
 #include "links/LinkColumnSet.h"
 
+#include "contract/ColumnPattern.h"
 #include "geodata/LayerInfo.h"
 #include "sites/SiteColumnSet.h"
-#include "tables/ColumnPatterns.h"
+
+#include <QRegularExpression>
 
 #include <functional>
 #include <vector>
@@ -13,7 +15,7 @@ namespace {
 
 struct Column
 {
-    QRegularExpression pattern;
+    contract::ColumnPattern pattern;
     std::function<QString &(LinkColumnSet &)> member;
 };
 
@@ -71,7 +73,7 @@ const std::vector<EndPattern> &endPatterns()
 std::vector<Column> makeColumns()
 {
     const auto whole = [](const QString &pattern, QString LinkColumnSet::*member) {
-        return Column{tables::wholeName(pattern),
+        return Column{contract::ColumnPattern(pattern.toStdString()),
                       [member](LinkColumnSet &set) -> QString & { return set.*member; }};
     };
     std::vector<Column> columns = {
@@ -82,7 +84,8 @@ std::vector<Column> makeColumns()
          {EndMarks{QStringLiteral("1"), QStringLiteral("A|TX"), &LinkColumnSet::tx},
           EndMarks{QStringLiteral("2"), QStringLiteral("B|RX"), &LinkColumnSet::rx}}) {
         for (const EndPattern &pattern : endPatterns()) {
-            columns.push_back({tables::wholeName(pattern.pattern.arg(marks.number, marks.words)),
+            columns.push_back({contract::ColumnPattern(
+                                   pattern.pattern.arg(marks.number, marks.words).toStdString()),
                                [end = marks.end, member = pattern.member](
                                    LinkColumnSet &set) -> QString & { return set.*end.*member; }});
         }
@@ -103,9 +106,10 @@ LinkColumnSet recogniseLinkColumns(const QStringList &fieldNames)
     static const std::vector<Column> columns = makeColumns();
     LinkColumnSet found;
     for (const QString &field : fieldNames) {
+        const std::string name = contract::plainColumnName(field.toStdString());
         for (const Column &column : columns) {
             QString &member = column.member(found);
-            if (member.isEmpty() && column.pattern.match(field).hasMatch())
+            if (member.isEmpty() && column.pattern.matches(name))
                 member = field;
         }
     }

@@ -22,8 +22,7 @@ struct SiteColumnSet
     bool operator==(const SiteColumnSet &) const = default;
 };
 
-/// Recognises columns by their whole name, without regard to case. Of the single columns the first
-/// match is kept; a field may fill several members.
+/// The columns that contract::recogniseColumns() finds.
 SiteColumnSet recogniseSiteColumns(const QStringList &fieldNames);
 
 /// The same for the fields of a table connection: layer 0, or layer 1 (the link ends) of a "link:"

@@ -1,3 +1,4 @@
+#include "contract/SiteColumns.h"
 #include "sites/SiteColumnSet.h"
 
 #include <QTest>
@@ -84,6 +85,8 @@ private Q_SLOTS:
         row("Transmitter-3 Tilt (deg)", "");
         row("Transmitter-3 Electrical tilt", "");
         row("Transmitter-3 Tilt (%1)", "");
+        row("Transmitter-3\u00a0ANT-INDEX", "s");
+        row("Site\u00a0ID", "n");
     }
 
     void recognisesAFieldByItsWholeName()
@@ -112,6 +115,20 @@ private Q_SLOTS:
         expected.azimuths = {fields.at(3), fields.at(5)};
         expected.tilts = {fields.at(6)};
         QCOMPARE(set, expected);
+    }
+
+    void readsADegreeSignInOneByte()
+    {
+        const auto columns =
+            vlt::contract::recogniseColumns({"Transmitter-2 Tilt (\xB0)", "Transmitter-12\xA0"
+                                                                          "Azimuth (\xB0)"});
+
+        QCOMPARE(columns.tilts, std::vector<int>{0});
+        QCOMPARE(columns.azimuths, std::vector<int>{1});
+        QCOMPARE(vlt::contract::transmitterOfColumn("Transmitter-12\xA0"
+                                                    "Azimuth (\xB0)"),
+                 12);
+        QCOMPARE(vlt::contract::transmitterOfColumn("Site ID"), std::nullopt);
     }
 
     void recognisesNothingInATableThatCannotBeOpened()

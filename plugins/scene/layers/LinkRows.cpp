@@ -1,8 +1,8 @@
 #include "plugins/scene/layers/LinkRows.h"
 
 #include "contract/LinkEnds.h"
+#include "contract/SiteColumns.h"
 #include "linkpath/LinkEndReader.h"
-#include "plugins/scene/layers/SiteColumns.h"
 #include "plugins/scene/parametric/LinkObject.h"
 #include "plugins/scene/reading/BadLayer.h"
 #include "plugins/scene/reading/TableReading.h"
@@ -24,7 +24,7 @@ int siteFieldOf(OGRLayer &ends, const std::string &siteField)
     const std::vector<std::string> names = fieldNamesOf(ends);
     const auto found = std::find(names.begin(), names.end(), siteField);
     return found != names.end() ? static_cast<int>(found - names.begin())
-                                : recogniseSiteColumns(names).name;
+                                : contract::recogniseColumns(names).name;
 }
 
 /// The number, unless it lies out of a range.

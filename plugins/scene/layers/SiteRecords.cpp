@@ -1,6 +1,6 @@
 #include "plugins/scene/layers/SiteRecords.h"
 
-#include "plugins/scene/layers/SiteColumns.h"
+#include "plugins/scene/layers/SceneColumns.h"
 #include "plugins/scene/reading/BadLayer.h"
 #include "plugins/scene/reading/TableReading.h"
 
@@ -28,7 +28,7 @@ public:
         , m_style(style)
     {
         const std::vector<std::string> names = fieldNamesOf(m_layer);
-        m_columns = recogniseSiteColumns(names);
+        m_columns = sceneColumnsOf(names);
         const auto named = std::find(names.begin(), names.end(), file.siteField);
         if (named != names.end())
             m_columns.name = static_cast<int>(named - names.begin());
@@ -127,7 +127,7 @@ private:
 
     OGRLayer &m_layer;
     const SiteStyle &m_style;
-    SiteColumns m_columns;
+    SceneColumns m_columns;
     SiteRecords m_records;
     std::vector<osg::Vec2d> m_places;
     std::map<PylonDesign, std::uint32_t> m_designs;

@@ -15,15 +15,15 @@ struct TransmitterColumns
 };
 
 /// Fields of a site table that a scene needs, by their index; -1 where there is none.
-struct SiteColumns
+struct SceneColumns
 {
     int name = -1;
     int terrainHeight = -1;
     std::vector<TransmitterColumns> transmitters; ///< by rising number
 };
 
-/// Recognises fields by their whole name, without regard to case, as the information page does. Of
-/// several that fit the first counts.
-SiteColumns recogniseSiteColumns(const std::vector<std::string> &fieldNames);
+/// The columns that contract::recogniseColumns() finds, by transmitters. Of several that a
+/// transmitter has for one quantity the first counts.
+SceneColumns sceneColumnsOf(const std::vector<std::string> &fieldNames);
 
 } // namespace vlt::scene
