@@ -1,7 +1,8 @@
 #include "contract/ConnectionString.h"
 
+#include "contract/QueryOptions.h"
+
 #include <algorithm>
-#include <array>
 #include <filesystem>
 #include <set>
 
@@ -9,20 +10,9 @@ namespace vlt::contract {
 
 namespace {
 
-/// The one option whose value is a path.
-constexpr std::string_view TerrainKey = "dem_file";
+constexpr size_t MaxPathSize = 4096; ///< bytes; no file has a longer name
 
-/// The keys in the order in which queries carry them.
-constexpr std::array<std::string_view, 20> KnownKeys = {
-    "s_srs", "t_srs", "data_folder", "pylon_type", "pylon_width", "sector_colors",
-    "sector_properties",
-    // of links
-    "link_style", "link_width", "link_color", "fresnel_zone", "fresnel_share", "fresnel_color",
-    "k_factor",
-    // how the table is to be read
-    "sheet", "encoding", "delimiter",
-    // of both again
-    "transmitter_scale", "lods", TerrainKey};
+using Keys = std::set<std::string_view>;
 
 bool exists(const std::string &path, const std::string &baseDirectory)
 {
@@ -32,14 +22,34 @@ bool exists(const std::string &path, const std::string &baseDirectory)
     return std::filesystem::exists(std::filesystem::path(baseDirectory) / path, error);
 }
 
-/// The known key that `text` starts with, "=" included in what must follow; empty when there is
-/// none.
+/// The key of the option that starts `text`; empty where none does.
 std::string_view keyAt(std::string_view text)
 {
-    for (const std::string_view key : KnownKeys)
-        if (text.size() > key.size() && text.starts_with(key) && text[key.size()] == '=')
-            return key;
+    for (const QueryOption &option : QueryOptions)
+        if (text.size() > option.key.size() && text.starts_with(option.key) &&
+            text[option.key.size()] == '=')
+            return option.key;
     return {};
+}
+
+/// Where the value of `key` that starts `text` ends because another option follows; npos where none
+/// does.
+///
+/// @param seen  keys that have occurred; no option follows a second time
+size_t endBeforeNextOption(std::string_view text, std::string_view key, const Keys &seen)
+{
+    if (key == query::TerrainFile) // always the last option
+        return std::string_view::npos;
+    for (size_t comma = text.find(','); comma != std::string_view::npos;
+         comma = text.find(',', comma + 1)) {
+        const std::string_view next = keyAt(text.substr(comma + 1));
+        const bool follows = !next.empty() && seen.count(next) == 0;
+        if (key == query::Lods) // only the terrain follows: other commas belong to the path
+            return follows && next == query::TerrainFile ? comma : std::string_view::npos;
+        if (follows)
+            return comma;
+    }
+    return std::string_view::npos;
 }
 
 /// Where the value that starts `text` may end: at commas outside brackets and quotation marks, as
@@ -66,15 +76,13 @@ std::vector<size_t> valueEnds(std::string_view text)
     return ends;
 }
 
-/// Cuts the value of the last option from the path behind it.
-constexpr size_t MaxPathSize = 4096; // no file has a longer name
-
-size_t lastValueEnd(std::string_view text, std::string_view key, const std::string &baseDirectory)
+/// Where the value of the last option, which starts `text`, ends before the path of the table.
+size_t endBeforePath(std::string_view text, std::string_view key, const std::string &baseDirectory)
 {
     const std::vector<size_t> ends = valueEnds(text);
     if (ends.empty())
         return text.size();
-    if (key == TerrainKey) // itself a path that may hold commas
+    if (key == query::TerrainFile) // itself a path that may hold commas
         for (const size_t end : ends)
             if (text.size() - end <= MaxPathSize &&
                 exists(std::string(text.substr(end + 1)), baseDirectory))
@@ -95,37 +103,22 @@ std::string ConnectionString::option(std::string_view key) const
 std::optional<ConnectionString> parseConnection(std::string_view text,
                                                 const std::string &baseDirectory)
 {
-    constexpr size_t PrefixSize = 5;
-    ConnectionString connection;
-    for (const std::string_view kind : {"site", "link"})
-        if (text.size() >= PrefixSize && text[PrefixSize - 1] == ':' &&
-            std::equal(kind.begin(), kind.end(), text.begin(),
-                       [](char a, char b) { return a == (b | 0x20); }))
-            connection.kind = kind;
-    if (connection.kind.empty())
+    const std::optional<TableKind> kind = connectionKind(text);
+    if (!kind)
         return std::nullopt;
-    std::string_view rest = text.substr(PrefixSize);
-    std::set<std::string_view> seen;
+    ConnectionString connection;
+    connection.kind = *kind;
+    std::string_view rest = text.substr(connectionPrefix(*kind).size());
+    Keys seen;
     // A file may be called "lods=1.csv": what names a file as it stands is a path.
     while (!exists(std::string(rest), baseDirectory)) {
         const std::string_view key = keyAt(rest);
         if (key.empty() || !seen.insert(key).second)
             break;
         rest.remove_prefix(key.size() + 1);
-        // Behind "lods" only "dem_file" may follow: every comma there belongs to the path.
-        size_t end = std::string_view::npos;
-        for (size_t comma = rest.find(',');
-             comma != std::string_view::npos && end == std::string_view::npos && key != TerrainKey;
-             comma = rest.find(',', comma + 1)) {
-            const std::string_view next = keyAt(rest.substr(comma + 1));
-            if (next.empty() || seen.count(next) != 0)
-                continue;
-            const bool directlyBehind = rest.find(',') == comma;
-            if (key != "lods" || (next == TerrainKey && directlyBehind))
-                end = comma;
-        }
+        size_t end = endBeforeNextOption(rest, key, seen);
         if (end == std::string_view::npos)
-            end = lastValueEnd(rest, key, baseDirectory);
+            end = endBeforePath(rest, key, baseDirectory);
         connection.options.emplace_back(key, rest.substr(0, end));
         rest.remove_prefix(std::min(end + 1, rest.size()));
     }
@@ -135,7 +128,7 @@ std::optional<ConnectionString> parseConnection(std::string_view text,
 
 std::string composeConnection(const ConnectionString &connection)
 {
-    std::string text = connection.kind + ':';
+    std::string text(connectionPrefix(connection.kind));
     for (const auto &[key, value] : connection.options)
         text.append(key).append("=").append(value).append(",");
     return text + connection.path;
@@ -152,7 +145,7 @@ std::string resolvedConnection(std::string_view text, const std::string &baseDir
     };
     resolve(connection->path);
     for (auto &[key, value] : connection->options)
-        if (key == TerrainKey)
+        if (key == query::TerrainFile)
             resolve(value);
     return composeConnection(*connection);
 }

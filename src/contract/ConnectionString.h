@@ -1,5 +1,7 @@
 #pragma once
 
+#include "contract/TableKind.h"
+
 #include <optional>
 #include <string>
 #include <string_view>
@@ -8,16 +10,15 @@
 
 namespace vlt::contract {
 
-/// A pylon query taken apart: "site:key=value,key=value,path". It is at the same time the
-/// connection string from which the table driver reads, and the only such text that this system
-/// knows.
+/// A query of sites or links taken apart: "site:key=value,key=value,path". It is at the same time
+/// the connection string from which the table driver reads. QueryOptions.h has the keys.
 ///
 /// Nothing in it is escaped. A value reaches up to the next known key, so that commas inside a
 /// coordinate system's WKT stay; the path is what follows the last known option, with all its
 /// commas, "=" and "%".
 struct ConnectionString
 {
-    std::string kind; ///< "site" or "link"
+    TableKind kind = TableKind::Sites;
     std::vector<std::pair<std::string, std::string>> options;
     std::string path; ///< bytes of the file name, perhaps relative to the project's directory
 
@@ -25,9 +26,16 @@ struct ConnectionString
     std::string option(std::string_view key) const;
 };
 
-/// Takes a connection string apart; nothing when it starts with neither "site:" nor "link:" (in any
-/// case of letters). `baseDirectory` is where relative paths start; where commas leave a doubt, the
-/// split whose path exists there is taken.
+/// Takes a connection string apart. Reading from the left,
+/// - what names an existing file as it stands is the path, even if it looks like an option;
+/// - the value of an option ends before the next known key that has not occurred yet;
+/// - without one it ends at the first comma outside brackets and quotation marks, and the path
+///   follows. "dem_file", a path itself, ends at a comma behind which an existing file is named;
+/// - behind "lods" only "dem_file" can follow, so that a path may hold texts like options;
+/// - a key that nobody knows, or that occurs again, starts the path.
+///
+/// @param baseDirectory  where relative paths start; the working directory where it is empty
+/// @return  nothing where the text starts with neither "site:" nor "link:", in any case of letters
 std::optional<ConnectionString> parseConnection(std::string_view text,
                                                 const std::string &baseDirectory = {});
 

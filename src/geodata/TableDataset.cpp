@@ -1,5 +1,6 @@
 #include "geodata/TableDataset.h"
 
+#include "contract/TableKind.h"
 #include "contract/TextPatterns.h"
 
 #include <QFile>
@@ -7,12 +8,6 @@
 namespace vlt::geodata {
 
 namespace {
-
-bool isTableConnection(const QString &connection)
-{
-    return connection.startsWith(QLatin1String("site:"), Qt::CaseInsensitive) ||
-           connection.startsWith(QLatin1String("link:"), Qt::CaseInsensitive);
-}
 
 /// The reason without the table's path at its start: who shows it names the file himself.
 QString withoutPath(const QString &reason, const QString &connection)
@@ -29,7 +24,7 @@ QString withoutPath(const QString &reason, const QString &connection)
 
 Result<GDALDatasetUniquePtr> openTable(const QString &connection, const ErrorCollector &errors)
 {
-    if (!isTableConnection(connection))
+    if (!contract::connectionKind(connection.toStdString()))
         return Error{QString(), QStringLiteral("not a site or link table"), connection};
 
     // The path at the end has the file system's encoding; the options before it are ASCII.

@@ -34,9 +34,8 @@ SiteColumnSet recogniseSiteColumns(const QStringList &fieldNames)
 
 SiteColumnSet recogniseSiteColumns(const QString &connection, const QString &projectDirectory)
 {
-    const int layer = connection.startsWith(QLatin1String("link"), Qt::CaseInsensitive)
-                          ? contract::LinkEndLayerIndex
-                          : 0;
+    const auto kind = contract::connectionKind(connection.toStdString());
+    const int layer = kind == contract::TableKind::Links ? contract::LinkEndLayerIndex : 0;
     const Result<QStringList> fields =
         geodata::readFieldNames(resolvedConnection(connection, projectDirectory), layer);
     return fields ? recogniseSiteColumns(fields.value()) : SiteColumnSet();

@@ -23,11 +23,12 @@ std::string fileIn(const std::string &directory, const std::string &path)
 contract::ConnectionString locateTable(const std::string &source, LayerKind kind,
                                        const std::vector<std::string> &directories)
 {
-    const std::string start = kind == LayerKind::Links ? "link" : "site";
+    const auto tableKind =
+        kind == LayerKind::Links ? contract::TableKind::Links : contract::TableKind::Sites;
     const auto plain = contract::parseConnection(source);
-    if (!plain || plain->kind != start)
+    if (!plain || plain->kind != tableKind)
         throw BadLayer("the source \"" + source.substr(0, 60) + "\" does not start with \"" +
-                       start + ":\"");
+                       std::string(contract::connectionPrefix(tableKind)) + "\"");
     if (plain->path.empty())
         throw BadLayer("the source names no table");
     for (const std::string &directory : directories) {

@@ -1,5 +1,6 @@
 #include "contract/ConnectionString.h"
 #include "contract/Installation.h"
+#include "contract/QueryOptions.h"
 #include "plugins/tables/bytes/Refusal.h"
 #include "plugins/tables/ogr/LinkEndLayer.h"
 #include "plugins/tables/ogr/LinkLayer.h"
@@ -14,10 +15,6 @@
 namespace vlt::driver {
 
 namespace {
-
-/// The library has room for one prefix in a driver's description.
-constexpr char Prefix[] = "site:";
-constexpr char LinkPrefix[] = "link:";
 
 class TableDataset final : public GDALDataset
 {
@@ -70,18 +67,17 @@ TableOptions optionsOf(const GDALOpenInfo &info, const contract::ConnectionStrin
         return value.empty() ? connection.option(key) : value;
     };
     TableOptions options;
-    options.kind = connection.kind == "link" ? TableKind::Links : TableKind::Sites;
-    options.sheet = either("SHEET", "sheet");
-    options.encoding = either("ENCODING", "encoding");
+    options.kind = connection.kind;
+    options.sheet = either("SHEET", contract::query::Sheet);
+    options.encoding = either("ENCODING", contract::query::Encoding);
     options.textOnly = EQUAL(text("TYPES").c_str(), "TEXT");
-    options.delimiter = delimiterOf(either("DELIMITER", "delimiter"));
+    options.delimiter = delimiterOf(either("DELIMITER", contract::query::Delimiter));
     return options;
 }
 
 int identify(GDALOpenInfo *info)
 {
-    return STARTS_WITH_CI(info->pszFilename, Prefix) ||
-           STARTS_WITH_CI(info->pszFilename, LinkPrefix);
+    return contract::connectionKind(info->pszFilename).has_value();
 }
 
 /// Names that GDAL's other file systems would fetch or unpack are refused: tables are local files.
@@ -111,7 +107,8 @@ GDALDataset *open(GDALOpenInfo *info)
         TableSource source;
         source.file = TableFile::open(connection->path, optionsOf(*info, *connection));
         source.systems = std::make_shared<TableSystems>(
-            source.facts().declaration(), connection->option("s_srs"), connection->option("t_srs"));
+            source.facts().declaration(), connection->option(contract::query::SourceSystem),
+            connection->option(contract::query::TargetSystem));
         source.warnings = std::make_shared<RowWarnings>();
         source.problems = std::make_shared<std::optional<ProblemList>>();
         auto dataset = std::make_unique<TableDataset>(source, connection->path);
@@ -161,7 +158,10 @@ void RegisterOGRVltTables()
                             "XLSX, XLS and SpreadsheetML 2003");
     driver->SetMetadataItem(GDAL_DCAP_VECTOR, "YES");
     driver->SetMetadataItem(GDAL_DCAP_OPEN, "YES");
-    driver->SetMetadataItem(GDAL_DMD_CONNECTION_PREFIX, vlt::driver::Prefix);
+    // the library has room for one prefix
+    driver->SetMetadataItem(
+        GDAL_DMD_CONNECTION_PREFIX,
+        vlt::contract::connectionPrefix(vlt::contract::TableKind::Sites).data());
     driver->SetMetadataItem(GDAL_DMD_EXTENSIONS, "csv xlsx xls xml");
     driver->SetMetadataItem(GDAL_DMD_HELPTOPIC, "docs/tables.md");
     driver->SetMetadataItem(GDAL_DMD_OPENOPTIONLIST, vlt::driver::OpenOptions);

@@ -76,7 +76,7 @@ std::shared_ptr<TableFile> TableFile::open(const std::string &path, const TableO
         return table;
     const std::unique_ptr<Workbook> workbook = table->openFile();
     TableHints hints = {options.kind, options.sheet, options.textOnly};
-    const bool links = options.kind == TableKind::Links;
+    const bool links = options.kind == contract::TableKind::Links;
     if (links)
         hints.isWanted = namesBothEnds;
     const Table read = readTable(*workbook, hints);

@@ -14,7 +14,7 @@ namespace vlt::driver {
 /// What the caller says about a table file; empty members are found out.
 struct TableOptions
 {
-    TableKind kind = TableKind::Sites;
+    contract::TableKind kind = contract::TableKind::Sites;
     std::string sheet;
     std::string encoding;
     char delimiter = 0;

@@ -63,7 +63,7 @@ bool isValue(const Cell &cell)
 
 } // namespace
 
-std::optional<Header> findHeader(const Sheet &sheet, TableKind kind, size_t &widest)
+std::optional<Header> findHeader(const Sheet &sheet, contract::TableKind kind, size_t &widest)
 {
     std::optional<Header> best;
     std::optional<Header> firstWide; ///< the first row with two cells or more

@@ -96,12 +96,12 @@ std::vector<std::string> linkWordsOf(std::string_view name)
     return words;
 }
 
-bool isTableWord(std::string_view name, TableKind kind)
+bool isTableWord(std::string_view name, contract::TableKind kind)
 {
     const auto isIn = [](const auto &list, const std::string &word) {
         return std::find(list.begin(), list.end(), word) != list.end();
     };
-    const bool links = kind == TableKind::Links;
+    const bool links = kind == contract::TableKind::Links;
     const std::vector<std::string> words = links ? linkWordsOf(name) : wordsOf(name);
     return std::any_of(words.begin(), words.end(), [&](const std::string &word) {
         return isIn(SiteWords, word) || (links && isIn(LinkWords, word));

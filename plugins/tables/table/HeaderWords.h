@@ -1,6 +1,6 @@
 #pragma once
 
-#include "plugins/tables/table/TableKind.h"
+#include "contract/TableKind.h"
 
 #include <string>
 #include <string_view>
@@ -18,7 +18,7 @@ std::vector<std::string> wordsOf(std::string_view name);
 std::vector<std::string> linkWordsOf(std::string_view name);
 
 /// Whether a column name holds a word that tables of that kind use.
-bool isTableWord(std::string_view name, TableKind kind);
+bool isTableWord(std::string_view name, contract::TableKind kind);
 
 /// Lower case of ASCII letters.
 std::string lowerCase(std::string_view text);

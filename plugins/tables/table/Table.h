@@ -46,7 +46,7 @@ struct TableProfile
 /// What the user says about the table; empty members are found out.
 struct TableHints
 {
-    TableKind kind = TableKind::Sites;
+    contract::TableKind kind = contract::TableKind::Sites;
     std::string sheet;
     bool textOnly = false; ///< keep every column as text
     /// Whether a header is that of the wanted table: a sheet with such a header is preferred.

@@ -1,0 +1,28 @@
+#pragma once
+
+namespace vlt::contract {
+
+/// An inclusive range of numbers.
+struct Range
+{
+    double minimum = 0;
+    double maximum = 0;
+
+    constexpr bool contains(double number) const { return number >= minimum && number <= maximum; }
+};
+
+/// A number that a user may choose, and what a first run offers.
+template<typename Number>
+struct ChosenNumber
+{
+    Number minimum;
+    Number maximum;
+    Number firstRun;
+
+    constexpr operator Range() const
+    {
+        return {static_cast<double>(minimum), static_cast<double>(maximum)};
+    }
+};
+
+} // namespace vlt::contract

@@ -1,0 +1,158 @@
+#pragma once
+
+#include "contract/ChosenNumber.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <optional>
+#include <string_view>
+
+/// The options of the query that a layer of sites or of links carries ("site:key=value,...,path",
+/// see ConnectionString.h): their keys, the numbers and words in their values, and what a first run
+/// offers. The wizard and the command line write them, the scene readers and the table driver read
+/// them. The scene's readers accept wider ranges of some numbers: they have reasons of their own.
+namespace vlt::contract {
+
+// Keys. The numbers of an option stand below its key; an option of several numbers has them in this
+// order, with blanks between them.
+namespace query {
+
+inline constexpr char SourceSystem[] = "s_srs"; ///< system of the table; not where it is unknown
+inline constexpr char TargetSystem[] = "t_srs"; ///< system of the project; not where it is unknown
+inline constexpr char DataFolder[] = "data_folder"; ///< always PylonFolder of Installation.h
+inline constexpr char PylonType[] = "pylon_type";   ///< a type of the pylon catalogue
+
+inline constexpr char PylonWidth[] = "pylon_width";
+inline constexpr ChosenNumber<double> PylonWidthM{0.1, 150, 2.5};
+
+/// One colour or more, "rrggbbaa", with blanks between them. The transparency goes into the alphas.
+inline constexpr char SectorColors[] = "sector_colors";
+inline constexpr ChosenNumber<int> TransparencyPercent{0, 100, 0};
+
+inline constexpr char SectorProperties[] = "sector_properties";
+inline constexpr ChosenNumber<double> SectorRadiusM{0.01, 1e8, 200}; ///< its whole part is written
+inline constexpr ChosenNumber<double> SectorHeightM{0.01, 1e8, 20};
+inline constexpr ChosenNumber<double> SectorSpacingM{0, 1e9, 2}; ///< vertical
+
+/// How the line of sight is drawn: a word of LinkStyleWords.
+inline constexpr char LinkStyle[] = "link_style";
+
+inline constexpr char LinkWidth[] = "link_width";
+inline constexpr ChosenNumber<double> LinkWidthPixelsOrM{0.1, 1000, 2}; ///< see contract::LinkStyle
+
+/// "rrggbbaa"; in layers ClearanceWord stands behind it where the clearance of a link gives its
+/// colour.
+inline constexpr char LinkColor[] = "link_color";
+inline constexpr char ClearanceWord[] = "clearance";
+
+inline constexpr char FresnelZone[] = "fresnel_zone";
+inline constexpr ChosenNumber<int> FresnelZoneNumber{1, 10, 1};
+inline constexpr int NoFresnelZone = 0; ///< written where no ellipsoid is drawn
+
+/// Share of the radius that is drawn, and that the terrain has to leave free.
+inline constexpr char FresnelShare[] = "fresnel_share";
+inline constexpr ChosenNumber<int> FresnelSharePercent{1, 100, 60};
+
+/// "rrggbbaa"; the transparency goes into the alpha.
+inline constexpr char FresnelColor[] = "fresnel_color";
+inline constexpr ChosenNumber<int> FresnelTransparencyPercent{0, 100, 60};
+
+/// Factor of the earth's radius; that of a standard atmosphere is 4/3 (Rec. ITU-R P.310).
+inline constexpr char KFactor[] = "k_factor";
+inline constexpr ChosenNumber<double> KFactorNumber{0.1, 100, 1.33333};
+
+// how the table is read; not where its reader finds out
+inline constexpr char Sheet[] = "sheet";
+inline constexpr char Encoding[] = "encoding";
+inline constexpr char Delimiter[] = "delimiter";
+
+inline constexpr char TransmitterScale[] = "transmitter_scale";
+inline constexpr ChosenNumber<int> AntennaScalePercent{0, 300, 100};
+
+/// Distances up to which the symbolic and the realistic representation are drawn.
+inline constexpr char Lods[] = "lods";
+inline constexpr ChosenNumber<int> SymbolicDistanceM{0, 1000000000, 10000};
+inline constexpr ChosenNumber<int> RealisticDistanceM{0, 1000000000, 1000};
+
+/// Path of the terrain, relative to the project's directory; of links only, not without a terrain.
+inline constexpr char TerrainFile[] = "dem_file";
+
+} // namespace query
+
+/// What an option is about, and with it who reads it.
+enum class OptionPurpose {
+    Placing, ///< systems of coordinates: the table driver
+    Reading, ///< how the table is read: the table driver
+    Pylons,  ///< appearance of pylons: the scene readers, of sites as of links
+    Links,   ///< appearance and clearance of links: the scene readers, of links
+    Heights, ///< the terrain: the scene readers, of links
+};
+
+/// An option of queries.
+struct QueryOption
+{
+    static constexpr std::size_t MaxNumbers = 3;
+
+    std::string_view key;
+    OptionPurpose purpose = OptionPurpose::Pylons;
+    /// What a user may choose for the numbers of the value.
+    std::array<std::optional<Range>, MaxNumbers> numbers = {};
+};
+
+/// All options, in the order in which queries carry them.
+inline constexpr auto QueryOptions = std::to_array<QueryOption>({
+    {query::SourceSystem, OptionPurpose::Placing},
+    {query::TargetSystem, OptionPurpose::Placing},
+    {query::DataFolder, OptionPurpose::Pylons},
+    {query::PylonType, OptionPurpose::Pylons},
+    {query::PylonWidth, OptionPurpose::Pylons, {query::PylonWidthM}},
+    {query::SectorColors, OptionPurpose::Pylons},
+    {query::SectorProperties,
+     OptionPurpose::Pylons,
+     {query::SectorRadiusM, query::SectorHeightM, query::SectorSpacingM}},
+    {query::LinkStyle, OptionPurpose::Links},
+    {query::LinkWidth, OptionPurpose::Links, {query::LinkWidthPixelsOrM}},
+    {query::LinkColor, OptionPurpose::Links},
+    {query::FresnelZone, OptionPurpose::Links, {query::FresnelZoneNumber}},
+    {query::FresnelShare, OptionPurpose::Links, {query::FresnelSharePercent}},
+    {query::FresnelColor, OptionPurpose::Links},
+    {query::KFactor, OptionPurpose::Links, {query::KFactorNumber}},
+    {query::Sheet, OptionPurpose::Reading},
+    {query::Encoding, OptionPurpose::Reading},
+    {query::Delimiter, OptionPurpose::Reading},
+    {query::TransmitterScale, OptionPurpose::Pylons, {query::AntennaScalePercent}},
+    {query::Lods, OptionPurpose::Pylons, {query::SymbolicDistanceM, query::RealisticDistanceM}},
+    {query::TerrainFile, OptionPurpose::Heights},
+});
+
+/// How the line of sight of a link is drawn.
+enum class LinkStyle {
+    Line,      ///< width in pixels, the same from everywhere
+    Tube,      ///< width in metres, round
+    Billboard, ///< width in metres, a flat band that turns about the link to the viewer
+};
+
+/// The words of the styles in queries, in the order of the enumeration.
+inline constexpr auto LinkStyleWords =
+    std::to_array<std::string_view>({"LINE", "TUBE", "BILLBOARD"});
+
+constexpr std::string_view linkStyleWord(LinkStyle style)
+{
+    return LinkStyleWords[static_cast<std::size_t>(style)];
+}
+
+/// Nothing for any other word.
+constexpr std::optional<LinkStyle> linkStyleOf(std::string_view word)
+{
+    const auto found = std::find(LinkStyleWords.begin(), LinkStyleWords.end(), word);
+    if (found == LinkStyleWords.end())
+        return std::nullopt;
+    return static_cast<LinkStyle>(found - LinkStyleWords.begin());
+}
+
+/// Heights above ground of a mast and of an antenna of which nothing is known.
+inline constexpr double DefaultPylonHeightM = 25;
+inline constexpr double DefaultAntennaHeightM = 23;
+
+} // namespace vlt::contract
