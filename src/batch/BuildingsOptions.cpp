@@ -1,6 +1,7 @@
 #include "batch/BuildingsOptions.h"
 
 #include "buildings/BuildingLayerFiles.h"
+#include "contract/RasterColors.h"
 #include "language/VltLanguageManager.h"
 
 namespace vlt::batch {
@@ -43,7 +44,7 @@ QList<QCommandLineOption> coloredOptions()
         {QStringLiteral("mode"),
          dico_label("MESS_OPT_MODE",
                     "Which of the values under a building colors it (default minimum)."),
-         choiceOf(ReductionWords)},
+         reductionWords().join(QLatin1Char('|'))},
     };
 }
 
@@ -154,6 +155,13 @@ const std::vector<NumberOption<BuildingsMeasures>> &buildingsNumbers()
          false},
     };
     return options;
+}
+
+QStringList reductionWords()
+{
+    QStringList words = wordsOf(contract::ReductionWords);
+    words.replaceInStrings(QStringLiteral("mostRepresented"), QStringLiteral("most-represented"));
+    return words;
 }
 
 QList<QCommandLineOption> buildingsOptions()

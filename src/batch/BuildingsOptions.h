@@ -32,9 +32,7 @@ inline constexpr char EdgeColor[] = "#404040";
 /// What stands for a colour that comes from the raster.
 inline constexpr char ColorMapWord[] = "colormap";
 
-/// Words of the command line, in the order of buildings::Reduction and buildings::DataStructure.
-inline constexpr const char *ReductionWords[] = {"minimum", "maximum", "average",
-                                                 "most-represented"};
+/// Words of the command line, in the order of buildings::DataStructure.
 inline constexpr const char *StructureWords[] = {"same-folder", "sibling-folders", "two-levels"};
 
 template<std::size_t N>
@@ -45,6 +43,9 @@ QStringList wordsOf(const char *const (&words)[N])
         list << QLatin1String(word);
     return list;
 }
+
+/// The words of the document in the order of contract::Reduction, "most-represented" with a hyphen.
+QStringList reductionWords();
 
 /// The options of a layer of buildings.
 QList<QCommandLineOption> buildingsOptions();

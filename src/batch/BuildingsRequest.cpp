@@ -124,11 +124,10 @@ Result<RasterColoring> readImage(const QCommandLineParser &parser)
     image.colorMap = parser.value(QStringLiteral("colormap"));
     image.stretched = !parser.isSet(QStringLiteral("absolute"));
     image.interpolated = !parser.isSet(QStringLiteral("color-ranges"));
-    const bool isDocumentWord = parser.value(QStringLiteral("mode")) ==
-                                buildings::reductionName(Reduction::MostRepresented);
-    const Result<int> mode =
-        isDocumentWord ? Result<int>(static_cast<int>(Reduction::MostRepresented))
-                       : readWord(parser, QStringLiteral("mode"), wordsOf(ReductionWords));
+    const QString option = QStringLiteral("mode");
+    const auto documentWord = wordsOf(contract::ReductionWords).indexOf(parser.value(option));
+    const Result<int> mode = documentWord >= 0 ? Result<int>(static_cast<int>(documentWord))
+                                               : readWord(parser, option, reductionWords());
     if (!mode)
         return mode.error();
     image.reduction = static_cast<Reduction>(mode.value());

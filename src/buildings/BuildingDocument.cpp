@@ -15,11 +15,6 @@ QString trueOrFalse(bool value)
     return value ? QStringLiteral("true") : QStringLiteral("false");
 }
 
-QString inCapitals(bool value)
-{
-    return value ? QStringLiteral("TRUE") : QStringLiteral("FALSE");
-}
-
 QString elevationElement(const TerrainSettings &terrain)
 {
     return QStringLiteral("  <elevation \n"
@@ -114,42 +109,26 @@ QString texturesElement(const TexbTextures &textures)
     return element + QStringLiteral("  </textures>\n");
 }
 
-} // namespace
-
-QString reductionName(Reduction reduction)
+contract::RasterColors rasterColors(const RasterColoring &coloring)
 {
-    switch (reduction) {
-    case Reduction::Minimum:
-        return QStringLiteral("minimum");
-    case Reduction::Maximum:
-        return QStringLiteral("maximum");
-    case Reduction::Average:
-        return QStringLiteral("average");
-    case Reduction::MostRepresented:
-        break;
-    }
-    return QStringLiteral("mostRepresented");
+    return {coloring.rasterFile.toStdString(),
+            coloring.colorMap.toStdString(),
+            coloring.reduction,
+            coloring.stretched,
+            coloring.interpolated,
+            coloring.noData.toStdString()};
 }
+
+} // namespace
 
 QString imageColor(const RasterColoring &coloring)
 {
-    const QString color =
-        QStringLiteral("IMAGE;%1;%2;%3;%4;%5")
-            .arg(coloring.rasterFile, coloring.colorMap, reductionName(coloring.reduction),
-                 coloring.stretched ? QStringLiteral("stretched") : QStringLiteral("absolute"),
-                 coloring.interpolated ? QStringLiteral("interpolation")
-                                       : QStringLiteral("colorrange"));
-    return coloring.noData.isEmpty() ? color : color + QLatin1Char(';') + coloring.noData;
+    return QString::fromStdString(contract::imageColorText(rasterColors(coloring)));
 }
 
 QString colorMapColor(const RasterColoring &coloring)
 {
-    const QString noData =
-        coloring.noData.isEmpty() ? QString() : QStringLiteral(";nd=") + coloring.noData;
-    return QStringLiteral("cmap:datasource=%1%2;cmap=%3;stretchcmap=%4;interpolatecmap=%5;"
-                          "band=1;type=%6")
-        .arg(coloring.rasterFile, noData, coloring.colorMap, inCapitals(coloring.stretched),
-             inCapitals(coloring.interpolated), reductionName(coloring.reduction));
+    return QString::fromStdString(contract::colorMapColorText(rasterColors(coloring)));
 }
 
 QString writeColoredTexbDocument(const ColoredTexb &document)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "buildings/FileEntry.h"
+#include "contract/RasterColors.h"
 
 #include <QList>
 #include <QString>
@@ -9,8 +10,7 @@
 
 namespace vlt::buildings {
 
-/// How the pixels under a building become one value.
-enum class Reduction { Minimum, Maximum, Average, MostRepresented };
+using contract::Reduction;
 
 /// The footprints and how they are extruded.
 struct FootprintSettings
@@ -83,9 +83,6 @@ struct Texb
     TerrainSettings terrain;
     std::optional<TexbTextures> textures; ///< none: plain buildings
 };
-
-/// "minimum", "maximum", "average", "mostRepresented".
-QString reductionName(Reduction reduction);
 
 /// The colour of walls in the document of coloured buildings: "IMAGE;raster;map;...".
 QString imageColor(const RasterColoring &coloring);

@@ -67,20 +67,6 @@ Place middleOf(const std::vector<Place> &ring)
 
 } // namespace
 
-std::optional<Reduction> reductionNamed(const std::string &name)
-{
-    constexpr std::array<std::pair<std::string_view, Reduction>, 4> Names = {
-        {{"minimum", Reduction::Minimum},
-         {"maximum", Reduction::Maximum},
-         {"average", Reduction::Average},
-         {"mostRepresented", Reduction::MostRepresented}}};
-    for (const auto &[known, reduction] : Names) {
-        if (name == known)
-            return reduction;
-    }
-    return std::nullopt;
-}
-
 class CoverageRaster::Parts
 {
 public:

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "contract/RasterColors.h"
+
 #include <functional>
 #include <memory>
 #include <optional>
@@ -11,11 +13,7 @@ class OGRSpatialReference;
 
 namespace vlt::coverage {
 
-/// How the pixels under a building become one value.
-enum class Reduction { Minimum, Maximum, Average, MostRepresented };
-
-/// The reduction of a name: "minimum", "maximum", "average", "mostRepresented"; nothing for others.
-std::optional<Reduction> reductionNamed(const std::string &name);
+using contract::Reduction;
 
 struct Place
 {

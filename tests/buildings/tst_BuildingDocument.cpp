@@ -119,6 +119,13 @@ private Q_SLOTS:
         const auto colors = [](Reduction reduction, bool stretched, bool interpolated,
                                const QString &noData) {
             const RasterColoring c{u"r"_s, u"%1"_s, reduction, stretched, interpolated, noData};
+            for (const QString &text : {imageColor(c), colorMapColor(c)}) { // as readers take it
+                const auto read = vlt::contract::parseRasterColors(text.toStdString());
+                if (!read || read->raster != "r" || read->map != "%1" ||
+                    read->reduction != reduction || read->isStretched != stretched ||
+                    read->isInterpolated != interpolated || read->noData != noData.toStdString())
+                    return text + u" is read as another one"_s;
+            }
             return imageColor(c) + u' ' + colorMapColor(c);
         };
 

@@ -1,5 +1,7 @@
 #include "plugins/scene/buildings/TownColors.h"
 
+#include "contract/RasterColors.h"
+#include "coverage/CoverageRaster.h"
 #include "coverage/LocalRaster.h"
 #include "plugins/scene/buildings/ColorText.h"
 #include "plugins/scene/buildings/PlaceTransform.h"
@@ -18,6 +20,7 @@ namespace {
 
 using colormaps::ColorMap;
 using colormaps::Rgba;
+using contract::RasterColors;
 using coverage::CoverageRaster;
 
 constexpr Rgba WithoutValue{200, 200, 200, 255};
@@ -171,6 +174,8 @@ std::vector<Rgba> rasterColors(const Town &town, const RasterColors &colors,
     if (!map)
         return {};
 
+    const auto interpretation = colors.isInterpolated ? colormaps::Interpretation::Interpolation
+                                                      : colormaps::Interpretation::ColorRanges;
     const Footprints &footprints = town.footprints;
     const std::size_t number = footprints.buildings.size();
     std::vector<Rgba> found(number, WithoutValue);
@@ -184,7 +189,7 @@ std::vector<Rgba> rasterColors(const Town &town, const RasterColors &colors,
             return {};
         const double value = values.under(footprints.buildings[i]);
         without += std::isnan(value) ? 1 : 0;
-        found[i] = colorOf(*map, value, colors.interpretation).value_or(WithoutValue);
+        found[i] = colorOf(*map, value, interpretation).value_or(WithoutValue);
     }
     if (without > 0)
         notices.push_back(count(without, number) + " have no value in the raster \"" +
@@ -204,7 +209,7 @@ std::vector<Rgba> townColors(const Town &town, const std::string &colorText,
     if (const std::optional<Rgba> plain = parseColor(colorText))
         return std::vector<Rgba>(number, *plain);
     try {
-        const std::optional<RasterColors> colors = parseRasterColors(colorText);
+        const std::optional<RasterColors> colors = contract::parseRasterColors(colorText);
         if (!colors)
             throw Unusable{"\"" + colorText + "\" tells no colors of buildings"};
         return rasterColors(town, *colors, directories, notices, progress);

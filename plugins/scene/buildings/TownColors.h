@@ -9,12 +9,8 @@ namespace vlt::scene {
 
 /// The colours of buildings by a text of a document.
 ///
-/// "#RRGGBB" is one colour for all. "IMAGE;raster;map;reduction;stretched|absolute;
-/// interpolation|colorrange[;nodata]" and "cmap:datasource=raster[;nd=nodata];cmap=map;
-/// stretchcmap=TRUE|FALSE;interpolatecmap=TRUE|FALSE;band=1;type=reduction" take each building's
-/// value from a raster and its colour from a colour map, which "stretched" lays over the raster's
-/// least and greatest value. Raster and map names may hold semicolons only in the raster's name of
-/// the first form.
+/// "#RRGGBB" is one colour for all; a text of contract/RasterColors.h takes each building's value
+/// from a raster and its colour from a colour map.
 ///
 /// Buildings without a value get the map's colour for those, else a light grey. What cannot be used
 /// (raster, map, system) leaves all buildings in that grey, with a notice that names it.
