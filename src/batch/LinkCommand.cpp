@@ -83,7 +83,7 @@ Result<geodata::LinkCheck> readLinks(const links::LinkLayerInput &input, const L
                                      bool quiet)
 {
     geodata::LinkJudging judging;
-    judging.rule = {wanted.look.fresnelShare / 100.0, wanted.look.kFactor};
+    judging.rule = {wanted.look.fresnelSharePercent / 100.0, wanted.look.kFactor};
     if (wanted.report)
         judging.terrainFile = input.project.terrainFile;
     ProgressLine line(dico_label("MESS_CLI_READING_LINKS", "Reading the links"), !quiet);

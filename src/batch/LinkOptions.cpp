@@ -4,42 +4,38 @@
 #include "batch/NumberOptions.h"
 #include "language/VltLanguageManager.h"
 
-#include <array>
-
 namespace vlt::batch {
 
 namespace {
 
 using links::LinkRepresentation;
 using links::LinkStyle;
-
-constexpr std::array<LinkStyle, 3> Styles = {LinkStyle::Line, LinkStyle::Tube,
-                                             LinkStyle::Billboard};
+namespace query = contract::query;
 
 const std::vector<NumberOption<LinkRepresentation>> &numberOptions()
 {
     static const std::vector<NumberOption<LinkRepresentation>> options = {
         {QStringLiteral("link-width"),
          dico_label("MESS_OPT_LINK_WIDTH", "Width of the links, pixels for lines, else metres"),
-         &LinkRepresentation::width, links::LinkWidthLimits},
+         &LinkRepresentation::width, query::LinkWidthPixelsOrM},
         {QStringLiteral("fresnel-zone"),
          dico_label("MESS_OPT_FRESNEL_ZONE",
                     "Number of the Fresnel zone that is drawn, 0 for none"),
          &LinkRepresentation::fresnelZone,
-         {0, links::FresnelZoneLimits.most}},
+         {query::NoFresnelZone, query::FresnelZoneNumber.maximum}},
         {QStringLiteral("fresnel-share"),
          dico_label("MESS_OPT_FRESNEL_SHARE",
                     "Share of the zone's radius that is drawn, and of the first zone's that has to "
                     "be free, in per cent"),
-         &LinkRepresentation::fresnelShare, links::FresnelShareLimits},
+         &LinkRepresentation::fresnelSharePercent, query::FresnelSharePercent},
         {QStringLiteral("fresnel-transparency"),
          dico_label("MESS_OPT_FRESNEL_TRANSPARENCY",
                     "Transparency of the Fresnel zone in per cent"),
-         &LinkRepresentation::fresnelTransparency, links::FresnelTransparencyLimits},
+         &LinkRepresentation::fresnelTransparencyPercent, query::FresnelTransparencyPercent},
         {QStringLiteral("k-factor"),
          dico_label("MESS_OPT_K_FACTOR",
                     "Factor of the earth's radius, 1.33333 being that of a usual atmosphere"),
-         &LinkRepresentation::kFactor, links::KFactorLimits},
+         &LinkRepresentation::kFactor, query::KFactorNumber},
     };
     return options;
 }
@@ -52,18 +48,14 @@ QString styleName(LinkStyle style)
 QString styleNames()
 {
     QStringList names;
-    for (const LinkStyle style : Styles)
-        names << styleName(style);
+    for (std::size_t i = 0; i < contract::LinkStyleWords.size(); ++i)
+        names << styleName(static_cast<LinkStyle>(i));
     return names.join(QLatin1Char('|'));
 }
 
 std::optional<LinkStyle> styleOf(const QString &text)
 {
-    for (const LinkStyle style : Styles) {
-        if (text.compare(styleName(style), Qt::CaseInsensitive) == 0)
-            return style;
-    }
-    return std::nullopt;
+    return contract::linkStyleOf(text.toUpper().toStdString());
 }
 
 /// Takes a colour that is given; RRGGBBAA only where an alpha is wanted.
@@ -126,7 +118,7 @@ Result<LinkRepresentation> readLinkOptions(const QCommandLineParser &parser)
         return *error;
     if (const auto error = readNumberOptions(parser, numberOptions(), representation))
         return *error;
-    if (representation.fresnelZone == 0) {
+    if (representation.fresnelZone == query::NoFresnelZone) {
         representation.showFresnel = false;
         representation.fresnelZone = LinkRepresentation().fresnelZone;
     }

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "batch/CommandLine.h"
+#include "contract/ChosenNumber.h"
 #include "language/VltLanguageManager.h"
-#include "sites/RepresentationLimits.h"
 
 #include <QCommandLineParser>
 #include <QLocale>
@@ -21,7 +21,7 @@ struct NumberOption
     QString name;
     QString meaning;
     std::variant<double Representation::*, int Representation::*> member;
-    sites::Limits limits;
+    contract::Range range;
     bool hasDefault = true; ///< else it is not used unless given
 
     bool isInteger() const { return std::holds_alternative<int Representation::*>(member); }
@@ -46,12 +46,12 @@ QList<QCommandLineOption> numberOptionList(const std::vector<NumberOption<Repres
             option.hasDefault
                 ? dico_label("MESS_OPT_RANGE", "%1, %2 to %3 (default %4).")
                 : dico_label("MESS_OPT_RANGE_UNUSED", "%1, %2 to %3 (default: not used).");
-        const QString range = option.hasDefault
-                                  ? pattern.arg(option.meaning, plainNumber(option.limits.least),
-                                                plainNumber(option.limits.most), value)
-                                  : pattern.arg(option.meaning, plainNumber(option.limits.least),
-                                                plainNumber(option.limits.most));
-        list.append({option.name, range,
+        const QString help = option.hasDefault
+                                 ? pattern.arg(option.meaning, plainNumber(option.range.minimum),
+                                               plainNumber(option.range.maximum), value)
+                                 : pattern.arg(option.meaning, plainNumber(option.range.minimum),
+                                               plainNumber(option.range.maximum));
+        list.append({option.name, help,
                      option.isInteger() ? QStringLiteral("INTEGER") : QStringLiteral("NUMBER")});
     }
     return list;
@@ -64,9 +64,9 @@ Error notInRange(const NumberOption<Representation> &option, const QString &text
     const QString wanted = option.isInteger()
                                ? dico_label("MESS_USE_INTEGER", "an integer of %1 to %2")
                                : dico_label("MESS_USE_NUMBER", "a number of %1 to %2");
-    return wrongValue(option.name,
-                      wanted.arg(plainNumber(option.limits.least), plainNumber(option.limits.most)),
-                      text);
+    return wrongValue(
+        option.name,
+        wanted.arg(plainNumber(option.range.minimum), plainNumber(option.range.maximum)), text);
 }
 
 /// Takes the numbers that are given into `representation`; the first that is no number or out of
@@ -82,7 +82,7 @@ std::optional<Error> readNumberOptions(const QCommandLineParser &parser,
         const QString text = parser.value(option.name);
         bool isNumber = false;
         const double number = option.isInteger() ? text.toInt(&isNumber) : text.toDouble(&isNumber);
-        if (!isNumber || !(number >= option.limits.least && number <= option.limits.most))
+        if (!isNumber || !option.range.contains(number))
             return notInRange(option, text);
         std::visit(
             [&](auto member) {

@@ -8,36 +8,37 @@ namespace vlt::batch {
 namespace {
 
 using sites::SiteRepresentation;
+namespace query = contract::query;
 
 const std::vector<NumberOption<SiteRepresentation>> &numberOptions()
 {
     static const std::vector<NumberOption<SiteRepresentation>> options = {
         {QStringLiteral("sector-height"),
          dico_label("MESS_OPT_SECTOR_HEIGHT", "Sector height in metres"),
-         &SiteRepresentation::sectorHeight, sites::SectorHeightLimits},
+         &SiteRepresentation::sectorHeightM, query::SectorHeightM},
         {QStringLiteral("sector-radius"),
          dico_label("MESS_OPT_SECTOR_RADIUS", "Sector radius in metres"),
-         &SiteRepresentation::sectorRadius, sites::SectorRadiusLimits},
+         &SiteRepresentation::sectorRadiusM, query::SectorRadiusM},
         {QStringLiteral("sector-spacing"),
          dico_label("MESS_OPT_SECTOR_SPACING", "Vertical spacing between sectors in metres"),
-         &SiteRepresentation::sectorSpacing, sites::SectorSpacingLimits},
+         &SiteRepresentation::sectorSpacingM, query::SectorSpacingM},
         {QStringLiteral("transparency"),
          dico_label("MESS_OPT_TRANSPARENCY", "Transparency of the sectors in per cent"),
-         &SiteRepresentation::transparency, sites::TransparencyLimits},
+         &SiteRepresentation::transparencyPercent, query::TransparencyPercent},
         {QStringLiteral("symbolic-distance"),
          dico_label("MESS_OPT_SYMBOLIC_DISTANCE",
                     "Apparition distance of the symbolic representation in metres"),
-         &SiteRepresentation::symbolicDistance, sites::DistanceLimits},
+         &SiteRepresentation::symbolicDistanceM, query::SymbolicDistanceM},
         {QStringLiteral("pylon-width"),
          dico_label("MESS_OPT_PYLON_WIDTH", "Width of the pylons in metres"),
-         &SiteRepresentation::pylonWidth, sites::PylonWidthLimits},
+         &SiteRepresentation::pylonWidthM, query::PylonWidthM},
         {QStringLiteral("antenna-size"),
          dico_label("MESS_OPT_ANTENNA_SIZE", "Antennas size in per cent"),
-         &SiteRepresentation::antennaSize, sites::AntennaSizeLimits},
+         &SiteRepresentation::antennaScalePercent, query::AntennaScalePercent},
         {QStringLiteral("realistic-distance"),
          dico_label("MESS_OPT_REALISTIC_DISTANCE",
                     "Apparition distance of the precise representation in metres"),
-         &SiteRepresentation::realisticDistance, sites::DistanceLimits},
+         &SiteRepresentation::realisticDistanceM, query::RealisticDistanceM},
     };
     return options;
 }

@@ -44,6 +44,7 @@ inline constexpr ChosenNumber<double> LinkWidthPixelsOrM{0.1, 1000, 2}; ///< see
 /// "rrggbbaa"; in layers ClearanceWord stands behind it where the clearance of a link gives its
 /// colour.
 inline constexpr char LinkColor[] = "link_color";
+inline constexpr char FirstLinkColor[] = "#e0218a";
 inline constexpr char ClearanceWord[] = "clearance";
 
 inline constexpr char FresnelZone[] = "fresnel_zone";
@@ -56,6 +57,7 @@ inline constexpr ChosenNumber<int> FresnelSharePercent{1, 100, 60};
 
 /// "rrggbbaa"; the transparency goes into the alpha.
 inline constexpr char FresnelColor[] = "fresnel_color";
+inline constexpr char FirstFresnelColor[] = "#ffa500";
 inline constexpr ChosenNumber<int> FresnelTransparencyPercent{0, 100, 60};
 
 /// Factor of the earth's radius; that of a standard atmosphere is 4/3 (Rec. ITU-R P.310).

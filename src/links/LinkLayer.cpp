@@ -26,32 +26,37 @@ struct DemoPylon
 constexpr std::array<DemoPylon, 3> DemoPylons = {
     {{0, 0, 53.1301}, {640, 480, 126.87}, {1280, 0, 0}}};
 /// Of the antennas of each link.
-constexpr std::array<int, 2> DemoHeightsM = {23, 20};
+constexpr std::array<double, 2> DemoHeightsM = {contract::DefaultAntennaHeightM, 20};
 /// Over so short a distance the zone of a microwave is as thin as the line: at this frequency the
 /// first one is 24 m wide to either side.
 constexpr int DemoFrequencyMHz = 100;
 
 sites::PylonQuery queryOf(const LinkLayerInput &input)
 {
-    return {QStringLiteral("link"),     input.sourceSrs,   input.targetSrs, input.file.filePath,
+    return {contract::TableKind::Links, input.sourceSrs,   input.targetSrs, input.file.filePath,
             linkQueryPart(input.links), input.file.reading};
 }
 
-QString dish(int heightM, double azimuthDeg, const QString &color)
+QString dish(double heightM, double azimuthDeg, const QString &color)
 {
-    return QStringLiteral("&dish=%1 ").arg(heightM) + text::g6(azimuthDeg) +
+    return QStringLiteral("&dish=") + text::g6(heightM) + QLatin1Char(' ') + text::g6(azimuthDeg) +
            QStringLiteral(" 0 0 ") + color;
 }
 
 QString demoPylons(const sites::SiteRepresentation &look, const sites::SectorColorSet &colors)
 {
-    const QString properties = text::g6(look.pylonWidth) + QLatin1Char(' ') +
+    const QString properties = text::g6(look.pylonWidthM) + QLatin1Char(' ') +
                                sites::sectorProperties(look).join(QLatin1Char(' '));
     QString text;
     int dishes = 0;
-    const auto nextColor = [&] { return sites::colorText(colors, dishes++, look.transparency); };
+    const auto nextColor = [&] {
+        return sites::colorText(colors, dishes++, look.transparencyPercent);
+    };
     for (std::size_t i = 0; i < DemoPylons.size(); ++i) {
-        text += QStringLiteral("&pylon=%1 %2 0 25 ").arg(DemoPylons[i].x).arg(DemoPylons[i].y) +
+        text += QStringLiteral("&pylon=%1 %2 0 %3 ")
+                    .arg(DemoPylons[i].x)
+                    .arg(DemoPylons[i].y)
+                    .arg(text::g6(contract::DefaultPylonHeightM)) +
                 properties;
         if (i > 0)
             text += dish(DemoHeightsM[i - 1], DemoPylons[i - 1].azimuthDeg + 180, nextColor());
@@ -61,7 +66,7 @@ QString demoPylons(const sites::SiteRepresentation &look, const sites::SectorCol
     return text;
 }
 
-/// With the colours of verdicts the first link shows that of a free path, the second one that of a
+/// With the colours of clearance the first link shows that of a free path, the second one that of a
 /// path which is cut.
 QString demoLinks(const LinkRepresentation &links)
 {
@@ -74,7 +79,7 @@ QString demoLinks(const LinkRepresentation &links)
         text += QStringLiteral("&link=%1 %2 %3 %4 %5 %3 %6")
                     .arg(from.x)
                     .arg(from.y)
-                    .arg(DemoHeightsM[i])
+                    .arg(text::g6(DemoHeightsM[i]))
                     .arg(to.x)
                     .arg(to.y)
                     .arg(DemoFrequencyMHz);
@@ -129,10 +134,11 @@ QString buildPreviewLinkUrl(const sites::SiteRepresentation &pylons,
            QLatin1String(contract::PylonFolder) + QStringLiteral("&pylon_type=") + type->type +
            demoPylons(pylons, *colors) +
            QStringLiteral("&transmitter_scale=%1&lod=%2 %3")
-               .arg(pylons.antennaSize)
-               .arg(pylons.symbolicDistance)
-               .arg(pylons.realisticDistance) +
-           demoLinks(links) + QLatin1Char('&') + linkParameters(links).join(QLatin1Char('&')) +
+               .arg(pylons.antennaScalePercent)
+               .arg(pylons.symbolicDistanceM)
+               .arg(pylons.realisticDistanceM) +
+           demoLinks(links) + QLatin1Char('&') +
+           linkOptionTexts(links, ClearanceWord::Never).join(QLatin1Char('&')) +
            QStringLiteral(".inlinepylonurl");
 }
 

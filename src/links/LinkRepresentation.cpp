@@ -5,40 +5,38 @@
 
 namespace vlt::links {
 
+namespace query = contract::query;
+
 QString linkStyleText(LinkStyle style)
 {
-    switch (style) {
-    case LinkStyle::Line:
-        return QStringLiteral("LINE");
-    case LinkStyle::Billboard:
-        return QStringLiteral("BILLBOARD");
-    case LinkStyle::Tube:
-        break;
-    }
-    return QStringLiteral("TUBE");
+    const std::string_view word = contract::linkStyleWord(style);
+    return QString::fromLatin1(word.data(), static_cast<qsizetype>(word.size()));
 }
 
-QStringList linkParameters(const LinkRepresentation &representation)
+QStringList linkOptionTexts(const LinkRepresentation &representation, ClearanceWord clearance)
 {
-    const int zone = representation.showFresnel ? representation.fresnelZone : 0;
+    const auto option = [](const char *key, const QString &value) {
+        return QLatin1String(key) + QLatin1Char('=') + value;
+    };
+    QString color = sites::colorText(representation.color, 0);
+    if (representation.colorByClearance && clearance == ClearanceWord::WhereChosen)
+        color += QLatin1Char(' ') + QLatin1String(query::ClearanceWord);
+    const int zone = representation.showFresnel ? representation.fresnelZone : query::NoFresnelZone;
     return {
-        QStringLiteral("link_style=") + linkStyleText(representation.style),
-        QStringLiteral("link_width=") + text::g6(representation.width),
-        QStringLiteral("link_color=") + sites::colorText(representation.color, 0),
-        QStringLiteral("fresnel_zone=") + QString::number(zone),
-        QStringLiteral("fresnel_share=") + QString::number(representation.fresnelShare),
-        QStringLiteral("fresnel_color=") +
-            sites::colorText(representation.fresnelColor, representation.fresnelTransparency),
-        QStringLiteral("k_factor=") + text::g6(representation.kFactor),
+        option(query::LinkStyle, linkStyleText(representation.style)),
+        option(query::LinkWidth, text::g6(representation.width)),
+        option(query::LinkColor, color),
+        option(query::FresnelZone, QString::number(zone)),
+        option(query::FresnelShare, QString::number(representation.fresnelSharePercent)),
+        option(query::FresnelColor, sites::colorText(representation.fresnelColor,
+                                                     representation.fresnelTransparencyPercent)),
+        option(query::KFactor, text::g6(representation.kFactor)),
     };
 }
 
 QString linkQueryPart(const LinkRepresentation &representation)
 {
-    QStringList parameters = linkParameters(representation);
-    if (representation.colorByClearance)
-        parameters[LinkColorParameter] += QStringLiteral(" clearance");
-    return parameters.join(QLatin1Char(','));
+    return linkOptionTexts(representation, ClearanceWord::WhereChosen).join(QLatin1Char(','));
 }
 
 } // namespace vlt::links

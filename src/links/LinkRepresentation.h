@@ -1,6 +1,6 @@
 #pragma once
 
-#include "sites/RepresentationLimits.h"
+#include "contract/QueryOptions.h"
 
 #include <QColor>
 #include <QString>
@@ -8,49 +8,47 @@
 
 namespace vlt::links {
 
-/// How the line of sight is drawn.
-enum class LinkStyle {
-    Line,      ///< width in pixels, the same from everywhere
-    Tube,      ///< width in metres, round
-    Billboard, ///< width in metres, a flat band that turns to the viewer
-};
+using contract::LinkStyle;
 
-/// How links are drawn and judged; the values are those of a first run.
+/// How links are drawn and by what their clearance is found; the values are those of a first run.
+/// QueryOptions.h has the ranges.
 struct LinkRepresentation
 {
     LinkStyle style = LinkStyle::Line;
-    double width = 2;               ///< pixels or metres, see LinkStyle
-    QColor color{0xe0, 0x21, 0x8a}; ///< of the line of sight; its alpha is written
-    bool colorByClearance = false;  ///< judged links take the colour of their verdict
-    bool showFresnel = true;        ///< whether a Fresnel ellipsoid is drawn
-    int fresnelZone = 1;            ///< number of the zone
-    int fresnelShare = 60;          ///< per cent of the radius: drawn, and asked to be free
-    QColor fresnelColor{0xff, 0xa5, 0x00};
-    int fresnelTransparency = 60; ///< per cent
-    double kFactor = 1.33333;     ///< of the earth's radius
+    /// Pixels or metres, see LinkStyle.
+    double width = contract::query::LinkWidthPixelsOrM.firstRun;
+    /// Of the line of sight; its alpha is written.
+    QColor color{QLatin1String(contract::query::FirstLinkColor)};
+    /// Whether links take the colour of their clearance where it is known.
+    bool colorByClearance = false;
+    /// Whether a Fresnel ellipsoid is drawn.
+    bool showFresnel = true;
+    int fresnelZone = contract::query::FresnelZoneNumber.firstRun;
+    /// Of the radius: drawn, and to be left free by the terrain.
+    int fresnelSharePercent = contract::query::FresnelSharePercent.firstRun;
+    QColor fresnelColor{QLatin1String(contract::query::FirstFresnelColor)};
+    int fresnelTransparencyPercent = contract::query::FresnelTransparencyPercent.firstRun;
+    /// Of the earth's radius.
+    double kFactor = contract::query::KFactorNumber.firstRun;
 
     bool operator==(const LinkRepresentation &) const = default;
 };
 
-inline constexpr sites::Limits LinkWidthLimits{0.1, 1000};
-inline constexpr sites::Limits FresnelZoneLimits{1, 10};
-inline constexpr sites::Limits FresnelShareLimits{1, 100};
-inline constexpr sites::Limits FresnelTransparencyLimits{0, 100};
-inline constexpr sites::Limits KFactorLimits{0.1, 100};
-
 /// "LINE", "TUBE" or "BILLBOARD".
 QString linkStyleText(LinkStyle style);
 
-/// The parameters of linkQueryPart() one by one, without " clearance".
-QStringList linkParameters(const LinkRepresentation &representation);
+/// Whether the text of the link colour ends in the word by which links take the colour of their
+/// clearance.
+enum class ClearanceWord { Never, WhereChosen };
 
-/// Where linkParameters() has the colour of links.
-inline constexpr int LinkColorParameter = 2;
+/// The options of links, "link_style=LINE" and so on to "k_factor=1.33333", in the order of
+/// queries.
+QStringList linkOptionTexts(const LinkRepresentation &representation, ClearanceWord clearance);
 
 /// The part of a pylon query that is about links:
 /// "link_style=LINE,link_width=2,link_color=e0218aff,fresnel_zone=1,fresnel_share=60,
 /// fresnel_color=ffa50066,k_factor=1.33333". A zone of 0 stands for no ellipsoid; behind the link
-/// colour " clearance" stands where the verdict gives the colour.
+/// colour " clearance" stands where the clearance gives the colour.
 QString linkQueryPart(const LinkRepresentation &representation);
 
 } // namespace vlt::links

@@ -11,19 +11,21 @@ namespace vlt::sites {
 
 namespace {
 
+namespace keys = contract::query;
+
 constexpr int PreviewTransmitters = 6;
+
+/// "key=value,", or nothing without a value.
+QString option(const char *key, const QString &value)
+{
+    return value.isEmpty() ? QString()
+                           : QLatin1String(key) + QLatin1Char('=') + value + QLatin1Char(',');
+}
 
 QString systemsPart(const PylonQuery &query)
 {
-    QString part;
-    if (!query.sourceSrs.isEmpty())
-        part = QStringLiteral("s_srs=") + query.sourceSrs;
-    if (!query.targetSrs.isEmpty()) {
-        if (!part.isEmpty())
-            part += QLatin1Char(',');
-        part += QStringLiteral("t_srs=") + query.targetSrs;
-    }
-    return part.isEmpty() ? part : part + QLatin1Char(',');
+    return option(keys::SourceSystem, query.sourceSrs) +
+           option(keys::TargetSystem, query.targetSrs);
 }
 
 /// What stands behind the sectors: the links' own parameters, then how the table is read.
@@ -34,12 +36,43 @@ QString extraPart(const PylonQuery &query)
     return parts.isEmpty() ? QString() : parts.join(QLatin1Char(',')) + QLatin1Char(',');
 }
 
+/// The prefix of connections of a kind.
+QString prefix(contract::TableKind kind)
+{
+    return QLatin1String(contract::connectionPrefix(kind).data());
+}
+
+/// A query whose values are slots, which are filled in this order.
+QString queryTemplate()
+{
+    return QStringLiteral("%1%2") + option(keys::DataFolder, QStringLiteral("%3")) +
+           option(keys::PylonType, QStringLiteral("%4")) +
+           option(keys::PylonWidth, QStringLiteral("%5")) +
+           option(keys::SectorColors, QStringLiteral("%6")) +
+           option(keys::SectorProperties, QStringLiteral("%7 %8 %9")) + QStringLiteral("%10") +
+           option(keys::TransmitterScale, QStringLiteral("%11")) +
+           option(keys::Lods, QStringLiteral("%12 %13")) + QStringLiteral("%14%15");
+}
+
+/// The same for a demonstration: a mast with three antennas above three.
+QString previewTemplate()
+{
+    const QString mastM = text::g6(contract::DefaultPylonHeightM);
+    const QString antennaM = text::g6(contract::DefaultAntennaHeightM);
+    return QStringLiteral("inline://parametric/query?object=pylon&data_folder=%1&pylon_type=%2") +
+           QStringLiteral("&pylon=0 0 0 ") + mastM + QStringLiteral(" %3 %4 %5 %6&transmitter=") +
+           antennaM + QStringLiteral(" 0 0 0 0 %7&transmitter=") + antennaM +
+           QStringLiteral(" 120 0 0 0 %8&transmitter=") + antennaM +
+           QStringLiteral(" 240 -5 0 0 %9&transmitter=20 20 0 0 0 %10"
+                          "&transmitter=20 140 +5 0 0 %11&transmitter=20 260 0 0 0 %12"
+                          "&transmitter_scale=%13&lod=%14 %15.inlinepylonurl");
+}
+
 QString terrainPart(const PylonQuery &query, const project::ProjectContext &project)
 {
-    if (query.kind != QLatin1String("link") || project.terrainFile.isEmpty())
+    if (query.kind != contract::TableKind::Links || project.terrainFile.isEmpty())
         return {};
-    return QStringLiteral("dem_file=") + project.relativePath(project.terrainFile) +
-           QLatin1Char(',');
+    return option(keys::TerrainFile, project.relativePath(project.terrainFile));
 }
 
 } // namespace
@@ -52,35 +85,33 @@ QString buildPylonQuery(const PylonQuery &query, const SiteRepresentation &repre
     if (!pylon || !colors)
         return {};
 
-    const QStringList values = QStringList{query.kind,
-                                           systemsPart(query),
-                                           QLatin1String(contract::PylonFolder),
-                                           pylon->type,
-                                           text::g6(representation.pylonWidth),
-                                           colorSetText(*colors, representation.transparency)} +
-                               sectorProperties(representation) +
-                               QStringList{extraPart(query),
-                                           QString::number(representation.antennaSize),
-                                           QString::number(representation.symbolicDistance),
-                                           QString::number(representation.realisticDistance),
-                                           terrainPart(query, project),
-                                           project.relativePath(query.dataFile)};
-    return text::fillSlots(
-        QStringLiteral("%1:%2data_folder=%3,pylon_type=%4,pylon_width=%5,sector_colors=%6,"
-                       "sector_properties=%7 %8 %9,%10transmitter_scale=%11,lods=%12 %13,%14%15"),
-        values);
+    const QStringList values =
+        QStringList{prefix(query.kind),
+                    systemsPart(query),
+                    QLatin1String(contract::PylonFolder),
+                    pylon->type,
+                    text::g6(representation.pylonWidthM),
+                    colorSetText(*colors, representation.transparencyPercent)} +
+        sectorProperties(representation) +
+        QStringList{extraPart(query),
+                    QString::number(representation.antennaScalePercent),
+                    QString::number(representation.symbolicDistanceM),
+                    QString::number(representation.realisticDistanceM),
+                    terrainPart(query, project),
+                    project.relativePath(query.dataFile)};
+    return text::fillSlots(queryTemplate(), values);
 }
 
 QString placingConnection(const PylonQuery &query)
 {
-    return query.reading.connection(query.kind + QLatin1Char(':') + systemsPart(query),
+    return query.reading.connection(prefix(query.kind) + systemsPart(query),
                                     QFileInfo(query.dataFile).absoluteFilePath());
 }
 
 QStringList sectorProperties(const SiteRepresentation &representation)
 {
-    return {QString::number(static_cast<qint64>(representation.sectorRadius)),
-            text::g6(representation.sectorHeight), text::g6(representation.sectorSpacing)};
+    return {QString::number(static_cast<qint64>(representation.sectorRadiusM)),
+            text::g6(representation.sectorHeightM), text::g6(representation.sectorSpacingM)};
 }
 
 QString buildPreviewPylonUrl(const SiteRepresentation &representation,
@@ -93,21 +124,14 @@ QString buildPreviewPylonUrl(const SiteRepresentation &representation,
 
     QStringList values = {QDir(installDir).absolutePath() + QLatin1Char('/') +
                               QLatin1String(contract::PylonFolder),
-                          pylon->type, text::g6(representation.pylonWidth)};
+                          pylon->type, text::g6(representation.pylonWidthM)};
     values << sectorProperties(representation);
     for (int i = 0; i < PreviewTransmitters; ++i)
-        values << colorText(*colors, i, representation.transparency);
-    values << QString::number(representation.antennaSize)
-           << QString::number(representation.symbolicDistance)
-           << QString::number(representation.realisticDistance);
-    return text::fillSlots(
-        QStringLiteral("inline://parametric/query?object=pylon&data_folder=%1&pylon_type=%2"
-                       "&pylon=0 0 0 25 %3 %4 %5 %6&transmitter=23 0 0 0 0 %7"
-                       "&transmitter=23 120 0 0 0 %8&transmitter=23 240 -5 0 0 %9"
-                       "&transmitter=20 20 0 0 0 %10&transmitter=20 140 +5 0 0 %11"
-                       "&transmitter=20 260 0 0 0 %12&transmitter_scale=%13"
-                       "&lod=%14 %15.inlinepylonurl"),
-        values);
+        values << colorText(*colors, i, representation.transparencyPercent);
+    values << QString::number(representation.antennaScalePercent)
+           << QString::number(representation.symbolicDistanceM)
+           << QString::number(representation.realisticDistanceM);
+    return text::fillSlots(previewTemplate(), values);
 }
 
 } // namespace vlt::sites

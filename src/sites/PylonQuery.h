@@ -1,5 +1,6 @@
 #pragma once
 
+#include "contract/TableKind.h"
 #include "sites/SiteRepresentation.h"
 #include "tables/TableReading.h"
 #include "wizard/project/ProjectContext.h"
@@ -9,7 +10,7 @@ namespace vlt::sites {
 /// What a pylon query is about, besides the look of the pylons.
 struct PylonQuery
 {
-    QString kind;      ///< "site" or "link"
+    contract::TableKind kind = contract::TableKind::Sites;
     QString sourceSrs; ///< system of the table; may be empty
     QString targetSrs; ///< system of the project; may be empty
     QString dataFile;  ///< path of the table

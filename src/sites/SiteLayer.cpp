@@ -9,7 +9,7 @@ namespace {
 
 PylonQuery queryOf(const SiteLayerInput &input)
 {
-    return {QStringLiteral("site"), input.sourceSrs, input.targetSrs, input.file.filePath, {},
+    return {contract::TableKind::Sites, input.sourceSrs, input.targetSrs, input.file.filePath, {},
             input.file.reading};
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "contract/QueryOptions.h"
 #include "platform/Result.h"
 #include "sites/PylonTypes.h"
 #include "sites/SectorColorSets.h"
@@ -8,19 +9,25 @@
 
 namespace vlt::sites {
 
-/// How sites are drawn; the values are those of a first run. RepresentationLimits.h has the ranges.
+/// How sites are drawn; the values are those of a first run. QueryOptions.h has the ranges.
 struct SiteRepresentation
 {
-    double sectorHeight = 20;     ///< metres
-    double sectorRadius = 200;    ///< metres
-    double sectorSpacing = 2;     ///< metres between two sectors, vertically
-    int colorSet = 0;             ///< index into the colour sets; -1 for none
-    int symbolicDistance = 10000; ///< metres from which the sectors are drawn
-    int pylonType = 0;            ///< index into the pylon types; -1 for none
-    int realisticDistance = 1000; ///< metres from which mast and antennas are drawn
-    int transparency = 0;         ///< per cent
-    double pylonWidth = 2.5;      ///< metres
-    int antennaSize = 100;        ///< per cent
+    double sectorHeightM = contract::query::SectorHeightM.firstRun;
+    double sectorRadiusM = contract::query::SectorRadiusM.firstRun;
+    /// Between two sectors, vertically.
+    double sectorSpacingM = contract::query::SectorSpacingM.firstRun;
+    /// Index into the colour sets; -1 for none.
+    int colorSet = 0;
+    /// Up to which the sectors are drawn.
+    int symbolicDistanceM = contract::query::SymbolicDistanceM.firstRun;
+    /// Index into the pylon types; -1 for none.
+    int pylonType = 0;
+    /// Up to which mast and antennas are drawn.
+    int realisticDistanceM = contract::query::RealisticDistanceM.firstRun;
+    /// Of the sectors.
+    int transparencyPercent = contract::query::TransparencyPercent.firstRun;
+    double pylonWidthM = contract::query::PylonWidthM.firstRun;
+    int antennaScalePercent = contract::query::AntennaScalePercent.firstRun;
 };
 
 /// The two catalogues that the representation chooses from, in catalogue order.

@@ -1,5 +1,7 @@
 #include "tables/TableReading.h"
 
+#include "contract/QueryOptions.h"
+
 #include <QStringList>
 
 namespace vlt::tables {
@@ -7,13 +9,16 @@ namespace vlt::tables {
 QString TableReading::parameters() const
 {
     QStringList parts;
+    const auto add = [&parts](const char *key, const QString &value) {
+        parts << QLatin1String(key) + QLatin1Char('=') + value;
+    };
     if (!sheet.isEmpty())
-        parts << QStringLiteral("sheet=") + sheet;
+        add(contract::query::Sheet, sheet);
     // a sheet's name may hold commas: then it reaches up to the next key
     if (!encoding.isEmpty() || (sheet.contains(QLatin1Char(',')) && delimiter.isEmpty()))
-        parts << QStringLiteral("encoding=") + encoding;
+        add(contract::query::Encoding, encoding);
     if (!delimiter.isEmpty())
-        parts << QStringLiteral("delimiter=") + delimiter;
+        add(contract::query::Delimiter, delimiter);
     return parts.join(QLatin1Char(','));
 }
 

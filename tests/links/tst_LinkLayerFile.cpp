@@ -79,8 +79,8 @@ private Q_SLOTS:
         look.colorByClearance = true;
         look.showFresnel = false;
         look.fresnelZone = 3;
-        look.fresnelShare = 100;
-        look.fresnelTransparency = 100;
+        look.fresnelSharePercent = 100;
+        look.fresnelTransparencyPercent = 100;
         look.kFactor = 1;
         QTest::newRow("everything else, no ellipsoid")
             << look

@@ -3,6 +3,7 @@
 #include <QTest>
 
 using namespace vlt::sites;
+using vlt::contract::TableKind;
 
 namespace {
 
@@ -61,9 +62,8 @@ private Q_SLOTS:
         QFETCH(QString, table);
         QFETCH(QString, expected);
 
-        const QString query =
-            buildPylonQuery({QStringLiteral("site"), sourceSrs, targetSrs, table, {}},
-                            SiteRepresentation(), catalogues(), {project, {}});
+        const QString query = buildPylonQuery({TableKind::Sites, sourceSrs, targetSrs, table, {}},
+                                              SiteRepresentation(), catalogues(), {project, {}});
 
         QCOMPARE(query, expected);
     }
@@ -71,14 +71,14 @@ private Q_SLOTS:
     void writesNumbersInTheirShortestForm()
     {
         SiteRepresentation look;
-        look.pylonWidth = 3.0;
-        look.sectorRadius = 199.9;
-        look.sectorHeight = 1e8;
-        look.sectorSpacing = 0.1234567;
-        look.transparency = 50;
+        look.pylonWidthM = 3.0;
+        look.sectorRadiusM = 199.9;
+        look.sectorHeightM = 1e8;
+        look.sectorSpacingM = 0.1234567;
+        look.transparencyPercent = 50;
 
         const QString query =
-            buildPylonQuery({QStringLiteral("site"), {}, {}, QStringLiteral("/p/s.csv"), {}}, look,
+            buildPylonQuery({TableKind::Sites, {}, {}, QStringLiteral("/p/s.csv"), {}}, look,
                             catalogues(), {QStringLiteral("/p/a.gvw"), {}});
 
         QCOMPARE(query, QStringLiteral("site:data_folder=addons/telecom/pylons,pylon_type=T,"
@@ -91,19 +91,17 @@ private Q_SLOTS:
     {
         const vlt::project::ProjectContext project{QStringLiteral("/p/a.gvw"),
                                                    QStringLiteral("/p/dem/t.tif")};
-        const auto query = [&](const char *kind) {
-            return buildPylonQuery({QString::fromLatin1(kind),
-                                    {},
-                                    {},
-                                    QStringLiteral("/p/s.csv"),
-                                    QStringLiteral("link_width=2")},
-                                   SiteRepresentation(), catalogues(), project);
+        const auto query = [&](TableKind kind) {
+            return buildPylonQuery(
+                {kind, {}, {}, QStringLiteral("/p/s.csv"), QStringLiteral("link_width=2")},
+                SiteRepresentation(), catalogues(), project);
         };
 
-        QVERIFY(query("link").endsWith(
-            QStringLiteral("200 20 2,link_width=2,transmitter_scale=100,lods=10000 1000,"
-                           "dem_file=dem/t.tif,s.csv")));
-        QVERIFY(query("site").endsWith(QStringLiteral("lods=10000 1000,s.csv")));
+        QVERIFY(query(TableKind::Links)
+                    .endsWith(QStringLiteral(
+                        "200 20 2,link_width=2,transmitter_scale=100,lods=10000 1000,"
+                        "dem_file=dem/t.tif,s.csv")));
+        QVERIFY(query(TableKind::Sites).endsWith(QStringLiteral("lods=10000 1000,s.csv")));
     }
 
     void repeatsColorsInThePreview()
@@ -129,8 +127,7 @@ private Q_SLOTS:
             SiteRepresentation noColors;
             noColors.colorSet = index;
             for (const SiteRepresentation &look : {noPylon, noColors}) {
-                QVERIFY(buildPylonQuery({QStringLiteral("site"), {}, {}, {}, {}}, look,
-                                        catalogues(), {})
+                QVERIFY(buildPylonQuery({TableKind::Sites, {}, {}, {}, {}}, look, catalogues(), {})
                             .isEmpty());
                 QVERIFY(buildPreviewPylonUrl(look, catalogues(), QStringLiteral("/")).isEmpty());
             }

@@ -120,8 +120,8 @@ private Q_SLOTS:
         panel.loadSettings(u"P"_s);
 
         const vlt::sites::SiteRepresentation shown = panel.representation();
-        QTEST(shown.sectorHeight, "height");
-        QTEST(shown.symbolicDistance, "distance");
+        QTEST(shown.sectorHeightM, "height");
+        QTEST(shown.symbolicDistanceM, "distance");
         QCOMPARE(shown.pylonType, 0);
         QCOMPARE(shown.colorSet, 0);
     }

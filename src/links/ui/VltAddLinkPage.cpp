@@ -78,7 +78,7 @@ void VltAddLinkPage::checkRows()
     const vlt::links::LinkLayerInput input = layerInput();
     vlt::geodata::LinkJudging judging;
     judging.terrainFile = project().terrainFile;
-    judging.rule.share = input.links.fresnelShare / PerCent;
+    judging.rule.share = input.links.fresnelSharePercent / PerCent;
     judging.rule.kFactor = input.links.kFactor;
     m_panelDetails->check(vlt::links::placingConnection(input), systems(), judging);
 }
@@ -103,5 +103,5 @@ QString VltAddLinkPage::demonstrationUrl() const
 
 double VltAddLinkPage::preciseDistanceM() const
 {
-    return m_panelPylons->representation().realisticDistance;
+    return m_panelPylons->representation().realisticDistanceM;
 }

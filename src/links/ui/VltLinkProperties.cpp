@@ -26,13 +26,13 @@ struct Remembered
 
 template<typename Number>
 Remembered remembered(const char *key, Number LinkRepresentation::*member,
-                      const vlt::sites::Limits &limits)
+                      const vlt::contract::Range &range)
 {
     return {QString::fromLatin1(key),
-            [member, limits](LinkRepresentation &to, const QVariant &value) {
+            [member, range](LinkRepresentation &to, const QVariant &value) {
                 bool isNumber = false;
                 const double number = value.toDouble(&isNumber);
-                if (isNumber && number >= limits.least && number <= limits.most)
+                if (isNumber && range.contains(number))
                     to.*member = static_cast<Number>(number);
             },
             [member](const LinkRepresentation &from) { return QVariant(from.*member); }};
@@ -69,28 +69,30 @@ Remembered rememberedStyle()
         QStringLiteral("LinkStyle"),
         [](LinkRepresentation &to, const QVariant &value) {
             for (const LinkStyle style : {LinkStyle::Line, LinkStyle::Tube, LinkStyle::Billboard}) {
-                if (value.toString() == linkStyleText(style))
+                if (value.toString() == vlt::links::linkStyleText(style))
                     to.style = style;
             }
         },
-        [](const LinkRepresentation &from) { return QVariant(linkStyleText(from.style)); }};
+        [](const LinkRepresentation &from) {
+            return QVariant(vlt::links::linkStyleText(from.style));
+        }};
 }
 
 const std::vector<Remembered> &rememberedValues()
 {
-    using namespace vlt::links;
+    using namespace vlt::contract::query;
     static const std::vector<Remembered> values = {
         rememberedStyle(),
-        remembered("LinkWidth", &LinkRepresentation::width, LinkWidthLimits),
+        remembered("LinkWidth", &LinkRepresentation::width, LinkWidthPixelsOrM),
         remembered("LinkColor", &LinkRepresentation::color),
         remembered("ColorByClearance", &LinkRepresentation::colorByClearance),
         remembered("ShowFresnel", &LinkRepresentation::showFresnel),
-        remembered("FresnelZone", &LinkRepresentation::fresnelZone, FresnelZoneLimits),
-        remembered("FresnelShare", &LinkRepresentation::fresnelShare, FresnelShareLimits),
+        remembered("FresnelZone", &LinkRepresentation::fresnelZone, FresnelZoneNumber),
+        remembered("FresnelShare", &LinkRepresentation::fresnelSharePercent, FresnelSharePercent),
         remembered("FresnelColor", &LinkRepresentation::fresnelColor),
-        remembered("FresnelTransparency", &LinkRepresentation::fresnelTransparency,
-                   FresnelTransparencyLimits),
-        remembered("KFactor", &LinkRepresentation::kFactor, KFactorLimits),
+        remembered("FresnelTransparency", &LinkRepresentation::fresnelTransparencyPercent,
+                   FresnelTransparencyPercent),
+        remembered("KFactor", &LinkRepresentation::kFactor, KFactorNumber),
     };
     return values;
 }
@@ -98,13 +100,6 @@ const std::vector<Remembered> &rememberedValues()
 QString keyOf(const QString &prefix, const Remembered &value)
 {
     return prefix + QLatin1Char('/') + value.key;
-}
-
-template<typename Box>
-void limit(Box *box, const vlt::sites::Limits &limits)
-{
-    using Value = decltype(box->value());
-    box->setRange(static_cast<Value>(limits.least), static_cast<Value>(limits.most));
 }
 
 } // namespace
@@ -124,7 +119,7 @@ VltLinkProperties::VltLinkProperties(QWidget *parent)
     m_ui->m_pwPbLinkColor->setAlphaOffered(true);
     m_ui->m_pwPbFresnelColor->setPurpose(
         tr("Color of the Fresnel zones", "MESS_PURPOSE_FRESNEL_COLOR"));
-    limitValues();
+    offerNumbers();
     vlt::tables::narrowSpinBoxes(this);
     vlt::tables::showWholeTexts(m_ui->m_pwCbLinkStyle);
     setValues(LinkRepresentation());
@@ -133,13 +128,14 @@ VltLinkProperties::VltLinkProperties(QWidget *parent)
 
 VltLinkProperties::~VltLinkProperties() = default;
 
-void VltLinkProperties::limitValues()
+void VltLinkProperties::offerNumbers()
 {
-    limit(m_ui->m_pwSbLinkWidth, vlt::links::LinkWidthLimits);
-    limit(m_ui->m_pwSbFresnelZone, vlt::links::FresnelZoneLimits);
-    limit(m_ui->m_pwSbFresnelShare, vlt::links::FresnelShareLimits);
-    limit(m_ui->m_pwSlFresnelTransparency, vlt::links::FresnelTransparencyLimits);
-    limit(m_ui->m_pwSbKFactor, vlt::links::KFactorLimits);
+    namespace query = vlt::contract::query;
+    vlt::tables::offer(m_ui->m_pwSbLinkWidth, query::LinkWidthPixelsOrM);
+    vlt::tables::offer(m_ui->m_pwSbFresnelZone, query::FresnelZoneNumber);
+    vlt::tables::offer(m_ui->m_pwSbFresnelShare, query::FresnelSharePercent);
+    vlt::tables::offer(m_ui->m_pwSlFresnelTransparency, query::FresnelTransparencyPercent);
+    vlt::tables::offer(m_ui->m_pwSbKFactor, query::KFactorNumber);
 }
 
 void VltLinkProperties::connectWidgets()
@@ -203,12 +199,12 @@ void VltLinkProperties::setValues(const LinkRepresentation &values)
     m_ui->m_pwChbColorByClearance->setChecked(values.colorByClearance);
     m_ui->m_pwGbFresnel->setChecked(values.showFresnel);
     m_ui->m_pwSbFresnelZone->setValue(values.fresnelZone);
-    m_ui->m_pwSbFresnelShare->setValue(values.fresnelShare);
+    m_ui->m_pwSbFresnelShare->setValue(values.fresnelSharePercent);
     m_ui->m_pwPbFresnelColor->setColor(values.fresnelColor);
-    m_ui->m_pwSlFresnelTransparency->setValue(values.fresnelTransparency);
+    m_ui->m_pwSlFresnelTransparency->setValue(values.fresnelTransparencyPercent);
     m_ui->m_pwSbKFactor->setValue(values.kFactor);
     showWidthUnit();
-    showTransparency(values.fresnelTransparency);
+    showTransparency(values.fresnelTransparencyPercent);
 }
 
 LinkRepresentation VltLinkProperties::representation() const
@@ -220,9 +216,9 @@ LinkRepresentation VltLinkProperties::representation() const
     values.colorByClearance = m_ui->m_pwChbColorByClearance->isChecked();
     values.showFresnel = m_ui->m_pwGbFresnel->isChecked();
     values.fresnelZone = m_ui->m_pwSbFresnelZone->value();
-    values.fresnelShare = m_ui->m_pwSbFresnelShare->value();
+    values.fresnelSharePercent = m_ui->m_pwSbFresnelShare->value();
     values.fresnelColor = m_ui->m_pwPbFresnelColor->color();
-    values.fresnelTransparency = m_ui->m_pwSlFresnelTransparency->value();
+    values.fresnelTransparencyPercent = m_ui->m_pwSlFresnelTransparency->value();
     values.kFactor = m_ui->m_pwSbKFactor->value();
     return values;
 }

@@ -27,7 +27,7 @@ public:
     vlt::links::LinkRepresentation representation() const;
 
 private:
-    void limitValues();
+    void offerNumbers();
     void connectWidgets();
     void setValues(const vlt::links::LinkRepresentation &values);
     void showWidthUnit();

@@ -80,10 +80,10 @@ vlt::Result<vlt::tables::TableLayer> VltAddSitePage::makeLayer() const
 
 QString VltAddSitePage::demonstrationUrl() const
 {
-    return m_panelPylons->buildPreviewPylonUrl(QStringLiteral("site"));
+    return m_panelPylons->buildPreviewPylonUrl(vlt::contract::TableKind::Sites);
 }
 
 double VltAddSitePage::preciseDistanceM() const
 {
-    return m_panelPylons->representation().realisticDistance;
+    return m_panelPylons->representation().realisticDistanceM;
 }

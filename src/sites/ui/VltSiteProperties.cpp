@@ -44,16 +44,16 @@ Remembered remembered(const char *key, Number SiteRepresentation::*member)
 const std::vector<Remembered> &rememberedValues()
 {
     static const std::vector<Remembered> values = {
-        remembered("SectorHeight", &SiteRepresentation::sectorHeight),
-        remembered("SectorRadius", &SiteRepresentation::sectorRadius),
-        remembered("SectorSpacing", &SiteRepresentation::sectorSpacing),
+        remembered("SectorHeight", &SiteRepresentation::sectorHeightM),
+        remembered("SectorRadius", &SiteRepresentation::sectorRadiusM),
+        remembered("SectorSpacing", &SiteRepresentation::sectorSpacingM),
         remembered("ColorMenuEntry", &SiteRepresentation::colorSet),
-        remembered("SymbolicDistance", &SiteRepresentation::symbolicDistance),
+        remembered("SymbolicDistance", &SiteRepresentation::symbolicDistanceM),
         remembered("PylonMenuEntry", &SiteRepresentation::pylonType),
-        remembered("RealisticDistance", &SiteRepresentation::realisticDistance),
-        remembered("GlobalTransparency", &SiteRepresentation::transparency),
-        remembered("PylonWidth", &SiteRepresentation::pylonWidth),
-        remembered("AntennaSize", &SiteRepresentation::antennaSize),
+        remembered("RealisticDistance", &SiteRepresentation::realisticDistanceM),
+        remembered("GlobalTransparency", &SiteRepresentation::transparencyPercent),
+        remembered("PylonWidth", &SiteRepresentation::pylonWidthM),
+        remembered("AntennaSize", &SiteRepresentation::antennaScalePercent),
     };
     return values;
 }
@@ -68,12 +68,26 @@ VltSiteProperties::VltSiteProperties(const QString &installDir, const QString &l
     , m_installDir(installDir)
 {
     m_ui->setupUi(this);
+    offerNumbers();
     vlt::tables::narrowSpinBoxes(this);
     fillCombos();
     connectWidgets();
 }
 
 VltSiteProperties::~VltSiteProperties() = default;
+
+void VltSiteProperties::offerNumbers()
+{
+    namespace query = vlt::contract::query;
+    vlt::tables::offer(m_ui->m_pwSbSectorHeight, query::SectorHeightM);
+    vlt::tables::offer(m_ui->m_pwSbSectorRadius, query::SectorRadiusM);
+    vlt::tables::offer(m_ui->m_pwSbSectorSpacing, query::SectorSpacingM);
+    vlt::tables::offer(m_ui->m_pwSlTransparency, query::TransparencyPercent);
+    vlt::tables::offer(m_ui->m_pwSbSymbolicDistance, query::SymbolicDistanceM);
+    vlt::tables::offer(m_ui->m_pwSbPylonWidth, query::PylonWidthM);
+    vlt::tables::offer(m_ui->m_pwSbAntennaSize, query::AntennaScalePercent);
+    vlt::tables::offer(m_ui->m_pwSbRealisticDistance, query::RealisticDistanceM);
+}
 
 void VltSiteProperties::fillCombos()
 {
@@ -119,16 +133,16 @@ void VltSiteProperties::loadSettings(const QString &prefix)
                    settings->value(prefix + QLatin1Char('/') + value.key, value.write(values)));
 
     const bool wereBlocked = blockSignals(true);
-    m_ui->m_pwSbSectorHeight->setValue(values.sectorHeight);
-    m_ui->m_pwSbSectorRadius->setValue(values.sectorRadius);
-    m_ui->m_pwSbSectorSpacing->setValue(values.sectorSpacing);
+    m_ui->m_pwSbSectorHeight->setValue(values.sectorHeightM);
+    m_ui->m_pwSbSectorRadius->setValue(values.sectorRadiusM);
+    m_ui->m_pwSbSectorSpacing->setValue(values.sectorSpacingM);
     vlt::tables::selectEntry(m_ui->m_pwCbSectorColors, values.colorSet);
-    m_ui->m_pwSbSymbolicDistance->setValue(values.symbolicDistance);
+    m_ui->m_pwSbSymbolicDistance->setValue(values.symbolicDistanceM);
     vlt::tables::selectEntry(m_ui->m_pwCbPylonType, values.pylonType);
-    m_ui->m_pwSbRealisticDistance->setValue(values.realisticDistance);
-    m_ui->m_pwSlTransparency->setValue(values.transparency);
-    m_ui->m_pwSbPylonWidth->setValue(values.pylonWidth);
-    m_ui->m_pwSbAntennaSize->setValue(values.antennaSize);
+    m_ui->m_pwSbRealisticDistance->setValue(values.realisticDistanceM);
+    m_ui->m_pwSlTransparency->setValue(values.transparencyPercent);
+    m_ui->m_pwSbPylonWidth->setValue(values.pylonWidthM);
+    m_ui->m_pwSbAntennaSize->setValue(values.antennaScalePercent);
     blockSignals(wereBlocked);
 }
 
@@ -140,9 +154,9 @@ void VltSiteProperties::saveSettings(const QString &prefix)
         settings->setValue(prefix + QLatin1Char('/') + value.key, value.write(values));
 }
 
-QString VltSiteProperties::buildPreviewPylonUrl(const QString &kind) const
+QString VltSiteProperties::buildPreviewPylonUrl(vlt::contract::TableKind kind) const
 {
-    if (kind != QLatin1String("site"))
+    if (kind != vlt::contract::TableKind::Sites)
         return {};
     return vlt::sites::buildPreviewPylonUrl(representation(), m_catalogues, m_installDir);
 }
@@ -150,15 +164,15 @@ QString VltSiteProperties::buildPreviewPylonUrl(const QString &kind) const
 SiteRepresentation VltSiteProperties::representation() const
 {
     SiteRepresentation values;
-    values.sectorHeight = m_ui->m_pwSbSectorHeight->value();
-    values.sectorRadius = m_ui->m_pwSbSectorRadius->value();
-    values.sectorSpacing = m_ui->m_pwSbSectorSpacing->value();
+    values.sectorHeightM = m_ui->m_pwSbSectorHeight->value();
+    values.sectorRadiusM = m_ui->m_pwSbSectorRadius->value();
+    values.sectorSpacingM = m_ui->m_pwSbSectorSpacing->value();
     values.colorSet = m_ui->m_pwCbSectorColors->currentIndex();
-    values.symbolicDistance = m_ui->m_pwSbSymbolicDistance->value();
+    values.symbolicDistanceM = m_ui->m_pwSbSymbolicDistance->value();
     values.pylonType = m_ui->m_pwCbPylonType->currentIndex();
-    values.realisticDistance = m_ui->m_pwSbRealisticDistance->value();
-    values.transparency = m_ui->m_pwSlTransparency->value();
-    values.pylonWidth = m_ui->m_pwSbPylonWidth->value();
-    values.antennaSize = m_ui->m_pwSbAntennaSize->value();
+    values.realisticDistanceM = m_ui->m_pwSbRealisticDistance->value();
+    values.transparencyPercent = m_ui->m_pwSlTransparency->value();
+    values.pylonWidthM = m_ui->m_pwSbPylonWidth->value();
+    values.antennaScalePercent = m_ui->m_pwSbAntennaSize->value();
     return values;
 }

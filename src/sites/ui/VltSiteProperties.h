@@ -1,5 +1,6 @@
 #pragma once
 
+#include "contract/TableKind.h"
 #include "sites/SiteRepresentation.h"
 #include "wizard/base/VltParameterPanel.h"
 
@@ -27,14 +28,15 @@ public:
     /// The name under which the scene library loads one demonstration site with these values; empty
     /// where no pylon type or colour set is chosen.
     ///
-    /// @param kind  "site"
-    QString buildPreviewPylonUrl(const QString &kind) const;
+    /// @param kind  sites; empty for links, whose demonstration has other parts too
+    QString buildPreviewPylonUrl(vlt::contract::TableKind kind) const;
 
     /// The values as they stand; an index is -1 where the catalogue is empty.
     vlt::sites::SiteRepresentation representation() const;
     const vlt::sites::SiteCatalogues &catalogues() const { return m_catalogues; }
 
 private:
+    void offerNumbers();
     void fillCombos();
     void connectWidgets();
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "contract/ChosenNumber.h"
+
 #include <QComboBox>
 #include <QSpinBox>
 #include <QWidget>
@@ -16,6 +18,14 @@ void showWholeTexts(QComboBox *combo);
 
 /// Chooses an entry, or the first one where there is no such entry.
 void selectEntry(QComboBox *combo, int index);
+
+/// Gives a spin box or slider the range of a number and its first-run value.
+template<typename Box, typename Number>
+void offer(Box *box, const contract::ChosenNumber<Number> &number)
+{
+    box->setRange(number.minimum, number.maximum);
+    box->setValue(number.firstRun);
+}
 
 /// Connects every spin box and combo of a panel to its signal parameterChanged().
 template<typename Panel>
