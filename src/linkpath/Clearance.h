@@ -1,5 +1,7 @@
 #pragma once
 
+#include "contract/QueryOptions.h"
+
 #include <array>
 #include <cstdint>
 #include <optional>
@@ -31,11 +33,13 @@ enum class Lack {
 /// green.
 std::array<std::uint8_t, 3> verdictColor(Verdict verdict);
 
-/// What clearance is asked for.
+/// What clearance is asked for; the values are those of a first run.
 struct ClearanceRule
 {
-    double share = 0.6;         ///< of the first zone's radius that has to be free, 0 .. 1 and more
-    double kFactor = 4.0 / 3.0; ///< of the earth's radius
+    /// Of the first zone's radius, to be free; 0 .. 1 and more.
+    double share = contract::query::FresnelSharePercent.firstRun / 100.0;
+    /// Of the earth's radius.
+    double kFactor = contract::query::KFactorNumber.firstRun;
 };
 
 /// A point of the ground under a link.

@@ -8,9 +8,6 @@ inline constexpr double LightSpeed = 299792458;
 /// Mean radius of the earth in metres (IUGG).
 inline constexpr double EarthRadiusM = 6371008.8;
 
-/// The effective earth's radius factor of a standard atmosphere (Rec. ITU-R P.310).
-inline constexpr double UsualKFactor = 4.0 / 3.0;
-
 /// Wavelength in metres of a frequency in MHz.
 double wavelengthM(double frequencyMHz);
 

@@ -1,5 +1,6 @@
 #include "plugins/scene/layers/LayerScene.h"
 
+#include "contract/QueryOptions.h"
 #include "plugins/scene/layers/LinkLayerScene.h"
 #include "plugins/scene/layers/LinkLayerStyle.h"
 #include "plugins/scene/layers/LinkRecords.h"
@@ -19,7 +20,7 @@ std::shared_ptr<linkpath::TerrainRaster> openTerrain(const contract::ConnectionS
                                                      const Directories &directories,
                                                      Notices &notices)
 {
-    const std::string named = table.option("dem_file");
+    const std::string named = table.option(contract::query::TerrainFile);
     if (named.empty())
         return nullptr;
     const std::string path = locateFile(named, directories);

@@ -1,6 +1,8 @@
 #include "plugins/scene/layers/SiteRecords.h"
 
+#include "contract/QueryOptions.h"
 #include "plugins/scene/layers/SceneColumns.h"
+#include "plugins/scene/parametric/HostileLimits.h"
 #include "plugins/scene/reading/BadLayer.h"
 #include "plugins/scene/reading/TableReading.h"
 
@@ -86,13 +88,14 @@ private:
         double top = 0;
         for (std::size_t i = 0; i < m_columns.transmitters.size(); ++i) {
             const TransmitterColumns &columns = m_columns.transmitters[i];
-            const auto height = numberAt(feature, columns.height, 0, TallestM - AboveAntennasM);
+            const auto height =
+                numberAt(feature, columns.height, 0, limits::MastHeightM.maximum - AboveAntennasM);
             const auto azimuth =
                 numberAt(feature, columns.azimuth, -2 * WholeTurnDeg, 2 * WholeTurnDeg);
             if (!height && !azimuth)
                 continue;
             Transmitter transmitter;
-            transmitter.heightM = height.value_or(UsualAntennaM);
+            transmitter.heightM = height.value_or(contract::DefaultAntennaHeightM);
             transmitter.azimuthDeg = std::fmod(azimuth.value_or(0.0), WholeTurnDeg);
             transmitter.beamWidthDeg = azimuth ? 0 : WholeTurnDeg;
             transmitter.tiltDeg =
@@ -101,7 +104,8 @@ private:
             top = std::max(top, transmitter.heightM);
             design.transmitters.push_back(transmitter);
         }
-        design.heightM = design.transmitters.empty() ? UsualMastM : top + AboveAntennasM;
+        design.heightM =
+            design.transmitters.empty() ? contract::DefaultPylonHeightM : top + AboveAntennasM;
         return design;
     }
 

@@ -15,12 +15,7 @@ namespace vlt::scene {
 /// Most sites that a layer shows; further rows are left out.
 inline constexpr std::size_t MaxSites = 1000000;
 
-/// Height of a mast and of an antenna of which nothing is known, metres above ground.
-inline constexpr double UsualMastM = 25;
-inline constexpr double UsualAntennaM = 23;
-
 inline constexpr double AboveAntennasM = 2; ///< what a mast rises above its highest antenna
-inline constexpr double TallestM = 2000;    ///< mast
 
 struct SiteRecord
 {

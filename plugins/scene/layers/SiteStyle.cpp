@@ -1,6 +1,8 @@
 #include "plugins/scene/layers/SiteStyle.h"
 
+#include "contract/QueryOptions.h"
 #include "plugins/scene/parametric/BadQuery.h"
+#include "plugins/scene/parametric/HostileLimits.h"
 #include "plugins/scene/parametric/ParametricQuery.h"
 #include "plugins/scene/parametric/PylonItems.h"
 
@@ -8,17 +10,14 @@
 
 namespace vlt::scene {
 
-namespace {
+namespace keys = contract::query;
 
-constexpr double WidestM = 1000;
-constexpr double LargestSectorM = 1e8;
-constexpr double LargestScalePercent = 1000;
+namespace {
 
 struct Number
 {
     std::string_view name;
-    double least;
-    double most;
+    contract::Range range;
     double *value;
 };
 
@@ -29,7 +28,7 @@ void readNumbers(const contract::ConnectionString &source, const std::string &ke
     Words words(key, value);
     words.expect(numbers.size(), meaning);
     for (const Number &number : numbers)
-        *number.value = words.number(number.name, number.least, number.most);
+        *number.value = words.number(number.name, number.range);
 }
 
 } // namespace
@@ -46,21 +45,21 @@ SiteStyle readSiteStyle(const contract::ConnectionString &source)
 {
     SiteStyle style;
     PylonDesign &pylon = style.pylon;
-    pylon.type = readPylonType(styleOption(source, "pylon_type"));
-    readNumbers(source, "pylon_width", "WIDTH", {{"width", 0.01, WidestM, &pylon.widthM}});
-    readNumbers(source, "sector_properties", "RADIUS HEIGHT SPACING",
-                {{"radius", 0, LargestSectorM, &pylon.sectorRadiusM},
-                 {"height", 0, LargestSectorM, &pylon.sectorHeightM},
-                 {"spacing", 0, FarthestM, &pylon.sectorSpacingM}});
+    pylon.type = readPylonType(styleOption(source, keys::PylonType));
+    readNumbers(source, keys::PylonWidth, "WIDTH", {{"width", limits::PylonWidthM, &pylon.widthM}});
+    readNumbers(source, keys::SectorProperties, "RADIUS HEIGHT SPACING",
+                {{"radius", limits::SectorSizeM, &pylon.sectorRadiusM},
+                 {"height", limits::SectorSizeM, &pylon.sectorHeightM},
+                 {"spacing", limits::SectorSpacingM, &pylon.sectorSpacingM}});
     double percent = 0;
-    readNumbers(source, "transmitter_scale", "PERCENT",
-                {{"scale", 0, LargestScalePercent, &percent}});
+    readNumbers(source, keys::TransmitterScale, "PERCENT",
+                {{"scale", limits::AntennaScalePercent, &percent}});
     pylon.antennaScale = percent / 100;
-    readNumbers(source, "lods", "SYMBOLIC REALISTIC",
-                {{"symbolic distance", 0, FarthestM, &pylon.symbolicDistanceM},
-                 {"realistic distance", 0, FarthestM, &pylon.realisticDistanceM}});
-    const std::string colors = styleOption(source, "sector_colors");
-    Words words("sector_colors", colors);
+    readNumbers(source, keys::Lods, "SYMBOLIC REALISTIC",
+                {{"symbolic distance", limits::DistanceM, &pylon.symbolicDistanceM},
+                 {"realistic distance", limits::DistanceM, &pylon.realisticDistanceM}});
+    const std::string colors = styleOption(source, keys::SectorColors);
+    Words words(keys::SectorColors, colors);
     while (style.colors.size() < words.count())
         style.colors.push_back(words.color());
     if (style.colors.empty())

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "contract/QueryOptions.h"
 #include "plugins/scene/mesh/Mesh.h"
 
 #include <osg/Vec3d>
@@ -11,12 +12,7 @@
 
 namespace vlt::scene {
 
-/// How the line of sight is drawn.
-enum class LinkStyle {
-    Line,      ///< its width in pixels, the same from everywhere
-    Tube,      ///< round; its diameter in metres
-    Billboard, ///< a flat band that turns about the link to the viewer; its breadth in metres
-};
+using contract::LinkStyle;
 
 /// How links look. LinkFactory.h draws them.
 struct LinkLook
@@ -28,7 +24,8 @@ struct LinkLook
     int fresnelZone = 0;           ///< number of the zone; 0: no ellipsoid
     double fresnelShare = 1;       ///< of the ellipsoid's half axis across the link
     Color fresnelColor;            ///< its opacity counts for a look through both walls
-    double kFactor = 4.0 / 3;      ///< of the earth's radius; for verdicts, the drawing is straight
+    /// Of the earth's radius; for the clearance, the drawing is straight.
+    double kFactor = contract::query::KFactorNumber.firstRun;
 };
 
 inline constexpr double LowestMHz = 1;    ///< below, ellipsoids are balls of hundreds of metres

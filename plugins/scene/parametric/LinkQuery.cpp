@@ -7,6 +7,8 @@ namespace vlt::scene {
 
 namespace {
 
+namespace keys = contract::query;
+
 LinkObject readLink(const std::string &item, std::string_view text)
 {
     Words words(item, text);
@@ -18,7 +20,7 @@ LinkObject readLink(const std::string &item, std::string_view text)
     if (link.a == link.b)
         throw BadQuery(item + ": both ends are at the same place");
     const std::string_view frequency = words.next();
-    link.frequencyMHz = words.number("frequency", 0, HighestMHz);
+    link.frequencyMHz = words.number("frequency", {0, HighestMHz});
     if (link.frequencyMHz > 0 && link.frequencyMHz < LowestMHz)
         words.refuse("frequency", frequency, "is neither 0 nor 1 MHz or more");
     if (hasColor)
@@ -55,10 +57,11 @@ void checkCount(const ParametricQuery &query, std::string_view key, std::size_t 
 
 LinkSceneQuery readLinkQuery(std::string_view url)
 {
-    const ParametricQuery query(url, {"object", "data_folder", "pylon_type", "pylon", "transmitter",
-                                      "dish", "transmitter_scale", "lod", "link", "link_style",
-                                      "link_width", "link_color", "fresnel_zone", "fresnel_share",
-                                      "fresnel_color", "k_factor"});
+    const ParametricQuery query(url, {"object", keys::DataFolder, keys::PylonType, "pylon",
+                                      "transmitter", "dish", keys::TransmitterScale, "lod", "link",
+                                      keys::LinkStyle, keys::LinkWidth, keys::LinkColor,
+                                      keys::FresnelZone, keys::FresnelShare, keys::FresnelColor,
+                                      keys::KFactor});
     const std::string_view object = query.single("object");
     if (object != "link")
         Words("object", object).refuse("kind", object, "is unknown");

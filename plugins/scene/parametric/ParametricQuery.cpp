@@ -1,5 +1,6 @@
 #include "plugins/scene/parametric/ParametricQuery.h"
 
+#include "contract/QueryOptions.h"
 #include "plugins/scene/parametric/BadQuery.h"
 
 #include <osgDB/FileNameUtils>
@@ -14,7 +15,7 @@ namespace vlt::scene {
 namespace {
 
 constexpr std::string_view Start = "inline://parametric/query?";
-constexpr std::string_view PathKey = "data_folder";
+constexpr std::string_view PathKey = contract::query::DataFolder;
 constexpr std::size_t LongestQuote = 60;
 
 /// A value as messages show it: short, without control characters.
@@ -133,7 +134,7 @@ void Words::expect(std::size_t count, std::string_view meaning) const
     throw BadQuery(m_item + ": " + quoted(text) + " is not \"" + std::string(meaning) + "\"");
 }
 
-double Words::number(std::string_view name, double least, double most)
+double Words::number(std::string_view name, const contract::Range &range)
 {
     const std::string_view text = word();
     std::string_view digits = text;
@@ -144,15 +145,16 @@ double Words::number(std::string_view name, double least, double most)
     if (fault == std::errc::invalid_argument || end != digits.data() + digits.size() ||
         (fault == std::errc() && !std::isfinite(value)))
         refuse(name, text, "is not a number");
-    if (fault != std::errc() || value < least || value > most)
-        refuse(name, text, "is not within " + decimal(least) + " to " + decimal(most));
+    if (fault != std::errc() || !range.contains(value))
+        refuse(name, text,
+               "is not within " + decimal(range.minimum) + " to " + decimal(range.maximum));
     return value;
 }
 
-int Words::wholeNumber(std::string_view name, int least, int most)
+int Words::wholeNumber(std::string_view name, const contract::Range &range)
 {
     const std::string_view text = next();
-    const double value = number(name, least, most);
+    const double value = number(name, range);
     if (value != std::floor(value))
         refuse(name, text, "is not a whole number");
     return static_cast<int>(value);

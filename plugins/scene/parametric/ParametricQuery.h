@@ -1,5 +1,6 @@
 #pragma once
 
+#include "contract/ChosenNumber.h"
 #include "plugins/scene/mesh/Mesh.h"
 
 #include <initializer_list>
@@ -59,11 +60,11 @@ public:
     /// The next word as a number.
     ///
     /// @param name  how messages name it: "azimuth"
-    /// @throws BadQuery  no finite decimal number, or one outside least .. most
-    double number(std::string_view name, double least, double most);
+    /// @throws BadQuery  no finite decimal number, or one outside the range
+    double number(std::string_view name, const contract::Range &range);
 
     /// The next word as a whole number. @throws BadQuery  as number() does
-    int wholeNumber(std::string_view name, int least, int most);
+    int wholeNumber(std::string_view name, const contract::Range &range);
 
     /// The next word as a colour. @throws BadQuery  unless it is rrggbbaa
     Color color();

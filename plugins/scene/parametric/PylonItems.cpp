@@ -1,23 +1,21 @@
 #include "plugins/scene/parametric/PylonItems.h"
 
+#include "contract/QueryOptions.h"
 #include "plugins/scene/parametric/BadQuery.h"
+#include "plugins/scene/parametric/HostileLimits.h"
 
 namespace vlt::scene {
 
-namespace {
+namespace keys = contract::query;
 
-constexpr double LargestSectorM = 1e8; ///< radius and height that a user can choose
-constexpr double TallestM = 2000;      ///< masts and antennas
-constexpr double WidestM = 1000;
-constexpr double LongestAntennaM = 30;
-constexpr double LargestScalePercent = 1000;
+namespace {
 
 Transmitter readDirection(Words &words)
 {
     Transmitter transmitter;
-    transmitter.heightM = words.number("height", 0, TallestM);
-    transmitter.azimuthDeg = words.number("azimuth", -360, 360);
-    transmitter.tiltDeg = words.number("tilt", -90, 90);
+    transmitter.heightM = words.number("height", limits::AntennaHeightM);
+    transmitter.azimuthDeg = words.number("azimuth", limits::AzimuthDeg);
+    transmitter.tiltDeg = words.number("tilt", limits::TiltDeg);
     return transmitter;
 }
 
@@ -26,9 +24,9 @@ Transmitter readDirection(Words &words)
 osg::Vec3d readPlace(Words &words)
 {
     osg::Vec3d place;
-    place.x() = words.number("x", -FarthestM, FarthestM);
-    place.y() = words.number("y", -FarthestM, FarthestM);
-    place.z() = words.number("z", -FarthestM, FarthestM);
+    place.x() = words.number("x", limits::PlaceM);
+    place.y() = words.number("y", limits::PlaceM);
+    place.z() = words.number("z", limits::PlaceM);
     return place;
 }
 
@@ -36,22 +34,22 @@ PylonType readPylonType(std::string_view text)
 {
     const std::optional<PylonType> type = pylonTypeNamed(text);
     if (!type)
-        Words("pylon_type", text).refuse("type", text, "is unknown");
+        Words(keys::PylonType, text).refuse("type", text, "is unknown");
     return *type;
 }
 
 PylonDesign readCommonDesign(const ParametricQuery &query)
 {
-    query.atMostOnce("data_folder");
+    query.atMostOnce(keys::DataFolder);
     PylonDesign design;
-    design.type = readPylonType(query.single("pylon_type"));
-    Words scale("transmitter_scale", query.single("transmitter_scale"));
+    design.type = readPylonType(query.single(keys::PylonType));
+    Words scale(keys::TransmitterScale, query.single(keys::TransmitterScale));
     scale.expect(1, "PERCENT");
-    design.antennaScale = scale.number("scale", 0, LargestScalePercent) / 100;
+    design.antennaScale = scale.number("scale", limits::AntennaScalePercent) / 100;
     Words distances("lod", query.single("lod"));
     distances.expect(2, "SYMBOLIC REALISTIC");
-    design.symbolicDistanceM = distances.number("symbolic distance", 0, FarthestM);
-    design.realisticDistanceM = distances.number("realistic distance", 0, FarthestM);
+    design.symbolicDistanceM = distances.number("symbolic distance", limits::DistanceM);
+    design.realisticDistanceM = distances.number("realistic distance", limits::DistanceM);
     return design;
 }
 
@@ -62,11 +60,11 @@ PylonObject readPylon(const std::string &item, std::string_view text, const Pylo
     PylonObject pylon{{}, common};
     pylon.foot = readPlace(words);
     PylonDesign &design = pylon.design;
-    design.heightM = words.number("height", 0.1, TallestM);
-    design.widthM = words.number("width", 0.01, WidestM);
-    design.sectorRadiusM = words.number("sector radius", 0, LargestSectorM);
-    design.sectorHeightM = words.number("sector height", 0, LargestSectorM);
-    design.sectorSpacingM = words.number("sector spacing", 0, FarthestM);
+    design.heightM = words.number("height", limits::MastHeightM);
+    design.widthM = words.number("width", limits::PylonWidthM);
+    design.sectorRadiusM = words.number("sector radius", limits::SectorSizeM);
+    design.sectorHeightM = words.number("sector height", limits::SectorSizeM);
+    design.sectorSpacingM = words.number("sector spacing", limits::SectorSpacingM);
     return pylon;
 }
 
@@ -75,8 +73,8 @@ Transmitter readTransmitter(const std::string &item, std::string_view text)
     Words words(item, text);
     words.expect(6, "HEIGHT AZIMUTH TILT BEAMWIDTH ANTENNALENGTH rrggbbaa");
     Transmitter transmitter = readDirection(words);
-    transmitter.beamWidthDeg = words.number("beam width", 0, 360);
-    transmitter.antennaLengthM = words.number("antenna length", 0, LongestAntennaM);
+    transmitter.beamWidthDeg = words.number("beam width", limits::BeamWidthDeg);
+    transmitter.antennaLengthM = words.number("antenna length", limits::AntennaLengthM);
     transmitter.color = words.color();
     return transmitter;
 }
@@ -87,7 +85,7 @@ Transmitter readDish(const std::string &item, std::string_view text)
     words.expect(5, "HEIGHT AZIMUTH TILT DIAMETER rrggbbaa");
     Transmitter dish = readDirection(words);
     dish.kind = AntennaKind::Dish;
-    dish.antennaLengthM = words.number("diameter", 0, LongestAntennaM);
+    dish.antennaLengthM = words.number("diameter", limits::AntennaLengthM);
     dish.color = words.color();
     return dish;
 }

@@ -5,8 +5,6 @@
 
 namespace vlt::scene {
 
-inline constexpr double FarthestM = 1e9; ///< places, and distances that a user can choose
-
 /// Reads the next three words as x, y and z.
 osg::Vec3d readPlace(Words &words);
 

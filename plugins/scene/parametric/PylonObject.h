@@ -1,5 +1,6 @@
 #pragma once
 
+#include "contract/QueryOptions.h"
 #include "plugins/scene/mesh/Mesh.h"
 
 #include <osg/Vec3d>
@@ -61,11 +62,13 @@ struct PylonDesign
     double heightM = 0; ///< of the mast, without its lightning rod
     double widthM = 0;  ///< of the whole mast; MastSection.h tells what each type makes of it
     double sectorRadiusM = 0;
-    double sectorHeightM = 0;         ///< thickness of a sector
-    double sectorSpacingM = 0;        ///< gap between sectors of which one lies above the other
-    double antennaScale = 1;          ///< 0: no antennas
-    double symbolicDistanceM = 10000; ///< the pylon is seen up to here
-    double realisticDistanceM = 1000; ///< the precise representation is seen up to here
+    double sectorHeightM = 0;  ///< thickness of a sector
+    double sectorSpacingM = 0; ///< gap between sectors of which one lies above the other
+    double antennaScale = 1;   ///< 0: no antennas
+    /// The pylon is seen up to here.
+    double symbolicDistanceM = contract::query::SymbolicDistanceM.firstRun;
+    /// The precise representation is seen up to here.
+    double realisticDistanceM = contract::query::RealisticDistanceM.firstRun;
     std::vector<Transmitter> transmitters;
 
     // NOLINTNEXTLINE(modernize-use-nullptr): the check mistakes the comparison's own 0

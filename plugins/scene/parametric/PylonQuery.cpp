@@ -9,8 +9,9 @@ namespace {
 
 PylonObject readPylonQuery(std::string_view url)
 {
-    const ParametricQuery query(url, {"object", "data_folder", "pylon_type", "pylon", "transmitter",
-                                      "transmitter_scale", "lod"});
+    const ParametricQuery query(url,
+                                {"object", contract::query::DataFolder, contract::query::PylonType,
+                                 "pylon", "transmitter", contract::query::TransmitterScale, "lod"});
     const std::string_view object = query.single("object");
     if (object != "pylon")
         Words("object", object).refuse("kind", object, "is unknown");
