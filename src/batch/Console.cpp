@@ -1,7 +1,7 @@
 #include "batch/Console.h"
 
+#include "language/ReaderText.h"
 #include "language/VltLanguageManager.h"
-#include "tables/TableTexts.h"
 
 #include <QJsonDocument>
 
@@ -69,13 +69,13 @@ QJsonObject errorJson(const Error &error, const QString &detail, ExitStatus stat
 
 QString explain(const Error &error, const QString &detail)
 {
-    QString text = error.key.isEmpty() ? tables::tableText(error.text)
+    QString text = error.key.isEmpty() ? language::readerText(error.text)
                                        : dico_label(error.key.toUtf8().constData(),
                                                     error.text.toUtf8().constData());
     if (!error.path.isEmpty())
         text = error.path + QStringLiteral(": ") + text;
     if (!detail.isEmpty())
-        text += QStringLiteral(" (") + tables::tableText(detail) + QLatin1Char(')');
+        text += QStringLiteral(" (") + language::readerText(detail) + QLatin1Char(')');
     return oneLine(text);
 }
 

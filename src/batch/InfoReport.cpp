@@ -2,8 +2,8 @@
 
 #include "batch/AlignedText.h"
 #include "batch/Console.h"
+#include "language/ReaderText.h"
 #include "language/VltLanguageManager.h"
-#include "tables/TableTexts.h"
 
 #include <QJsonArray>
 
@@ -62,7 +62,7 @@ QJsonArray problemsJson(const geodata::LayerProblems &problems)
                         {QStringLiteral("column"), problem.column},
                         {QStringLiteral("severity"),
                          isError ? QStringLiteral("error") : QStringLiteral("warning")},
-                        {QStringLiteral("text"), tables::tableText(problem.text)}});
+                        {QStringLiteral("text"), language::readerText(problem.text)}});
     }
     return array;
 }
@@ -79,7 +79,7 @@ QString problemText(const Problem &problem)
         place << dico_label("MESS_CLI_COLUMN", "column") + QLatin1Char(' ') + problem.column;
     const QString where =
         place.isEmpty() ? QString() : place.join(QStringLiteral(", ")) + QStringLiteral(": ");
-    return oneLine(where + tables::tableText(problem.text));
+    return oneLine(where + language::readerText(problem.text));
 }
 
 QString reportText(const InfoReport &report)

@@ -1,7 +1,7 @@
 #include "batch/InputErrors.h"
 
+#include "language/ReaderText.h"
 #include "language/VltLanguageManager.h"
-#include "snapshot/SceneNoticeText.h"
 
 #include <QFileInfo>
 
@@ -22,7 +22,7 @@ Error withReason(const char *key, const char *text, const Error &error, const QS
     const QString message = dico_label(key, text);
     return told(error.text.isEmpty() || error.text == QLatin1String(text)
                     ? message
-                    : message + QStringLiteral(" (") + snapshot::sceneNoticeText(error.text) +
+                    : message + QStringLiteral(" (") + language::readerText(error.text) +
                           QLatin1Char(')'),
                 path);
 }

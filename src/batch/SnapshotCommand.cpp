@@ -5,9 +5,9 @@
 #include "batch/OutputFiles.h"
 #include "batch/ProgressLine.h"
 #include "batch/StartUp.h"
+#include "language/ReaderText.h"
 #include "language/VltLanguageManager.h"
 #include "platform/AtomicFile.h"
-#include "snapshot/SceneNoticeText.h"
 #include "snapshot/SceneNotices.h"
 #include "snapshot/SceneSource.h"
 #include "snapshot/Snapshot.h"
@@ -142,7 +142,7 @@ void tellNotices(const QStringList &notices, const GlobalOptions &options)
 {
     for (const QString &notice : notices) {
         if (!options.quiet)
-            printError(oneLine(snapshot::sceneNoticeText(notice)));
+            printError(oneLine(language::readerText(notice)));
     }
 }
 
@@ -177,8 +177,6 @@ ExitStatus refuseLayer(Error error, const Request &request)
 {
     if (error.path.isEmpty())
         error.path = request.layer;
-    if (error.key.isEmpty())
-        error.text = snapshot::sceneNoticeText(error.text);
     return refuse(error);
 }
 

@@ -1,6 +1,10 @@
 #include "contract/TextPatterns.h"
 
+#include "contract/SceneTexts.h"
+#include "contract/TableTexts.h"
+
 #include <algorithm>
+#include <iterator>
 
 namespace vlt::contract {
 
@@ -45,9 +49,9 @@ const std::vector<CutPattern> &patterns()
 {
     static const std::vector<CutPattern> all = [] {
         std::vector<CutPattern> list;
-        list.reserve(Texts.size());
-        for (const Text &text : Texts)
-            list.push_back(cut(text));
+        list.reserve(TableTexts.size() + SceneTexts.size());
+        std::transform(TableTexts.begin(), TableTexts.end(), std::back_inserter(list), cut);
+        std::transform(SceneTexts.begin(), SceneTexts.end(), std::back_inserter(list), cut);
         std::stable_sort(list.begin(), list.end(), [](const CutPattern &a, const CutPattern &b) {
             return a.wordsSize > b.wordsSize;
         });
@@ -56,8 +60,42 @@ const std::vector<CutPattern> &patterns()
     return all;
 }
 
-/// Words between two places are looked for from the end: a cell's text, which may hold anything,
-/// is never the last value.
+bool fits(ValueKind kind, std::string_view value)
+{
+    constexpr std::string_view Digits = "0123456789";
+    constexpr std::string_view OfItems = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ"
+                                         "0123456789_ ";
+    if (kind == ValueKind::Name || kind == ValueKind::Nested)
+        return true;
+    const std::string_view letters = kind == ValueKind::Count ? Digits : OfItems;
+    return !value.empty() && value.find_first_not_of(letters) == std::string_view::npos;
+}
+
+/// Takes the values from a place on. Words behind a place are looked for from the end: a cell's
+/// text, which may hold anything, is never the last value.
+///
+/// @param rest  what stands from the place up to the last words
+bool takeValues(const CutPattern &pattern, std::string_view rest,
+                std::vector<std::string_view> &values)
+{
+    const ValueKind kind = pattern.text->kinds[values.size()];
+    if (values.size() + 2 == pattern.words.size()) {
+        values.push_back(rest);
+        return fits(kind, rest);
+    }
+    const size_t number = values.size();
+    const std::string_view words = pattern.words[number + 1];
+    for (size_t at = rest.rfind(words); at != std::string_view::npos;
+         at = at > 0 ? rest.rfind(words, at - 1) : std::string_view::npos) {
+        values.resize(number);
+        values.push_back(rest.substr(0, at));
+        if (fits(kind, values.back()) &&
+            takeValues(pattern, rest.substr(at + words.size()), values))
+            return true;
+    }
+    return false;
+}
+
 bool matches(const CutPattern &pattern, std::string_view english,
              std::vector<std::string_view> &values)
 {
@@ -66,42 +104,39 @@ bool matches(const CutPattern &pattern, std::string_view english,
         return false;
     if (words.size() == 1)
         return english.size() == words.front().size();
-    if (!english.ends_with(words.back()))
-        return false;
-    std::string_view rest = english.substr(
-        words.front().size(), english.size() - words.front().size() - words.back().size());
-    values.assign(words.size() - 1, {});
-    for (size_t i = words.size() - 2; i > 0; --i) {
-        const size_t at = rest.rfind(words[i]);
-        if (at == std::string_view::npos)
-            return false;
-        values[i] = rest.substr(at + words[i].size());
-        rest = rest.substr(0, at);
-    }
-    values.front() = rest;
-    return true;
+    values.clear();
+    return english.ends_with(words.back()) &&
+           takeValues(pattern,
+                      english.substr(words.front().size(),
+                                     english.size() - words.front().size() - words.back().size()),
+                      values);
 }
 
 } // namespace
 
-std::string formatted(const Text &text, std::initializer_list<std::string_view> values)
+std::string filled(std::string_view pattern, std::span<const std::string_view> values)
 {
-    const std::vector<std::string_view> words = cut(text).words;
-    std::string result(words.front());
-    for (size_t i = 1; i < words.size(); ++i) {
-        if (i <= values.size())
-            result += values.begin()[i - 1];
-        result += words[i];
+    std::string result;
+    size_t begin = 0;
+    for (size_t place = findPlace(pattern, 0); place != std::string_view::npos;
+         place = findPlace(pattern, begin)) {
+        result += pattern.substr(begin, place - begin);
+        const auto number = static_cast<size_t>(pattern[place + 1] - '1');
+        if (number < values.size())
+            result += values[number];
+        begin = place + PlaceSize;
     }
+    result += pattern.substr(begin);
     return result;
 }
 
 std::optional<Recognised> recognised(std::string_view english)
 {
     std::vector<std::string_view> values;
-    for (const CutPattern &pattern : patterns())
+    for (const CutPattern &pattern : patterns()) {
         if (matches(pattern, english, values))
             return Recognised{pattern.text, std::move(values)};
+    }
     return std::nullopt;
 }
 

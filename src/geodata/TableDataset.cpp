@@ -1,7 +1,7 @@
 #include "geodata/TableDataset.h"
 
 #include "contract/TableKind.h"
-#include "contract/TextPatterns.h"
+#include "contract/TableTexts.h"
 
 #include <QFile>
 

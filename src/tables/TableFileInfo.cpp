@@ -1,9 +1,9 @@
 #include "tables/TableFileInfo.h"
 
+#include "contract/TextPatterns.h"
 #include "geodata/LayerInfo.h"
 #include "geodata/TerrainReferenceCode.h"
 #include "language/VltLanguageManager.h"
-#include "tables/TableTexts.h"
 #include "text/Templates.h"
 #include "wizard/project/ProjectReaders.h"
 
@@ -26,6 +26,16 @@ QString unitWord(const QString &unit)
     if (unit == QLatin1String("DMS"))
         return dico_label("MESS_DMS_FORM", "D/M/S form");
     return dico_label("MESS_DEC_DEGREES", "decimal degrees");
+}
+
+/// Whether a reader refused a file because there is nothing in it, or a header without rows.
+bool isEmptyTable(const QString &reason)
+{
+    const std::string text = reason.toStdString();
+    const auto found = contract::recognised(text);
+    const QByteArray key = found ? found->text->key : "";
+    return key == "MESS_TAB_EMPTY_FILE" || key == "MESS_TAB_BLANK_FILE" ||
+           key == "MESS_TAB_NO_VALUE" || key == "MESS_TAB_NO_ROW";
 }
 
 KnownSystems knownSystems(const TableFileInfo &info, const project::ProjectContext &project)

@@ -1,3 +1,5 @@
+#include "contract/SceneTexts.h"
+#include "contract/TableTexts.h"
 #include "language/Dictionary.h"
 
 #include <QDir>
@@ -7,7 +9,11 @@
 #include <QSet>
 #include <QTest>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
+using vlt::contract::SceneTexts;
+using vlt::contract::TableTexts;
 using vlt::language::Texts;
 
 namespace {
@@ -104,6 +110,20 @@ private Q_SLOTS:
     {
         QCOMPARE(listed(keysOf(m_english) - m_used), QString());
         QCOMPARE(listed(keysOf(m_french) - m_used), QString());
+    }
+
+    /// A reader writes its text in English, which is no other one in the dictionary.
+    void readersWriteWhatTheDictionaryHas()
+    {
+        QSet<QString> done;
+        const auto check = [&](const vlt::contract::Text &text) {
+            const QString key = QString::fromUtf8(text.key);
+            if (!done.contains(key)) // the first of several forms
+                QCOMPARE(m_english.value(key), QString::fromUtf8(text.pattern));
+            done.insert(key);
+        };
+        std::for_each(TableTexts.begin(), TableTexts.end(), check);
+        std::for_each(SceneTexts.begin(), SceneTexts.end(), check);
     }
 
     void bothLanguagesHaveTheSamePlaceholders()

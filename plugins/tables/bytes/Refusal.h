@@ -1,6 +1,6 @@
 #pragma once
 
-#include "contract/TextPatterns.h"
+#include "contract/TableTexts.h"
 
 #include <stdexcept>
 #include <string>
@@ -22,14 +22,15 @@ enum class Refusal {
     BadOption,          ///< an option of the connection string or an open option cannot be used
 };
 
-using contract::TextId;
+using contract::TableTextId;
 
 /// Thrown inside the reader, caught where the file was opened; the text names the reason for the
 /// user.
 class RefusedFile : public std::runtime_error
 {
 public:
-    RefusedFile(Refusal reason, TextId text, std::initializer_list<std::string_view> values = {})
+    RefusedFile(Refusal reason, TableTextId text,
+                std::initializer_list<std::string_view> values = {})
         : std::runtime_error(contract::formatted(text, values))
         , m_reason(reason)
     {}

@@ -27,7 +27,7 @@ constexpr uint16_t EncryptedFlag = 1;
 constexpr uint32_t Marker32 = 0xffffffff;
 constexpr uint16_t Zip64Field = 1;
 
-[[noreturn]] void refuse(TextId text)
+[[noreturn]] void refuse(TableTextId text)
 {
     throw RefusedFile(Refusal::Malformed, text);
 }

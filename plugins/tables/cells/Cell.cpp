@@ -1,6 +1,6 @@
 #include "plugins/tables/cells/Cell.h"
 
-#include "contract/TextPatterns.h"
+#include "contract/TableTexts.h"
 #include "plugins/tables/cells/Numbers.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "plugins/tables/links/LinkPlacer.h"
 
-#include "contract/TextPatterns.h"
+#include "contract/TableTexts.h"
 #include "plugins/tables/links/Quantity.h"
 #include "plugins/tables/table/ColumnStatistics.h"
 

@@ -1,13 +1,13 @@
 #include "plugins/tables/links/LinkValues.h"
 
-#include "contract/TextPatterns.h"
+#include "contract/TableTexts.h"
 #include "plugins/tables/links/Quantity.h"
 #include "plugins/tables/table/ColumnStatistics.h"
 
 namespace vlt::driver {
 
 using contract::formatted;
-using contract::TextId;
+using contract::TableTextId;
 
 /// The row that is read, and where its problems go.
 struct LinkValueReader::Place
@@ -53,7 +53,7 @@ std::optional<double> LinkValueReader::heightM(const Place &place,
     return metres;
 }
 
-std::optional<double> LinkValueReader::degrees(const Place &place, int field, TextId why) const
+std::optional<double> LinkValueReader::degrees(const Place &place, int field, TableTextId why) const
 {
     const std::string text = place.text(field);
     const auto angle = readDegrees(text);

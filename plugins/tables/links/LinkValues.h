@@ -44,7 +44,7 @@ private:
                                        bool &isUnreadable) const;
     void readFrequencies(const Place &place, LinkValues &values) const;
     std::optional<double> heightM(const Place &place, const QuantityField &height) const;
-    std::optional<double> degrees(const Place &place, int field, contract::TextId why) const;
+    std::optional<double> degrees(const Place &place, int field, contract::TableTextId why) const;
     const std::string &nameOf(int field) const;
 
     const TableProfile *m_table;

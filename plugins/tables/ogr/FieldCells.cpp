@@ -1,6 +1,6 @@
 #include "plugins/tables/ogr/FieldCells.h"
 
-#include "contract/TextPatterns.h"
+#include "contract/TableTexts.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #include "plugins/tables/ogr/LinkRowReader.h"
 
-#include "contract/TextPatterns.h"
+#include "contract/TableTexts.h"
 
 #include <cmath>
 

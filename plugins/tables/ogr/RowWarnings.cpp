@@ -1,6 +1,6 @@
 #include "plugins/tables/ogr/RowWarnings.h"
 
-#include "contract/TextPatterns.h"
+#include "contract/TableTexts.h"
 
 #include <cpl_error.h>
 

@@ -1,6 +1,6 @@
 #include "plugins/tables/ogr/TableLayer.h"
 
-#include "contract/TextPatterns.h"
+#include "contract/TableTexts.h"
 #include "plugins/tables/bytes/Refusal.h"
 
 #include <cpl_conv.h>

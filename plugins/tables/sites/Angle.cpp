@@ -13,7 +13,7 @@ namespace vlt::driver {
 
 namespace {
 
-using contract::TextId;
+using contract::TableTextId;
 
 constexpr double MinutesPerDegree = 60;
 constexpr double SecondsPerDegree = 3600;
@@ -36,7 +36,7 @@ std::optional<double> number(std::string_view text)
     return parseNumber(text, shape.usesComma ? DecimalMark::Comma : DecimalMark::Point);
 }
 
-Angle fault(TextId why)
+Angle fault(TableTextId why)
 {
     return {0, 0, why};
 }
@@ -60,11 +60,11 @@ int hemisphereSign(char letter, Axis axis)
     }
 }
 
-TextId signFault(int sign)
+TableTextId signFault(int sign)
 {
-    return sign == 3   ? TextId("MESS_TAB_LETTER_O")
-           : sign == 4 ? TextId("MESS_TAB_OTHER_AXIS")
-                       : TextId("MESS_TAB_NO_HEMISPHERE");
+    return sign == 3   ? TableTextId("MESS_TAB_LETTER_O")
+           : sign == 4 ? TableTextId("MESS_TAB_OTHER_AXIS")
+                       : TableTextId("MESS_TAB_NO_HEMISPHERE");
 }
 
 /// A sign above ASCII that a text starts with.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "contract/TextTable.h"
+#include "contract/TableTexts.h"
 
 #include <optional>
 #include <string_view>
@@ -18,7 +18,7 @@ struct Angle
     double degrees = 0; ///< west and south negative
     int parts =
         0; ///< numbers that make it up: 1 decimal degrees, 2 degrees and minutes, 3 with seconds
-    std::optional<contract::TextId> fault; ///< why there is none; empty when there is one
+    std::optional<contract::TableTextId> fault; ///< why there is none; empty when there is one
 };
 
 /// Reads decimal degrees or degrees, minutes and seconds in the usual spellings: 48.85, 48,85,

@@ -10,7 +10,7 @@ namespace vlt::driver {
 
 namespace {
 
-using contract::TextId;
+using contract::TableTextId;
 
 constexpr double MostLongitude = 180;
 constexpr double MostLatitude = 90;
@@ -20,7 +20,7 @@ CoordinatePair checked(const Angle &x, const Angle &y)
     if (x.fault || y.fault)
         return {0, 0, false, x.fault ? x.fault : y.fault};
     if (std::abs(x.degrees) > MostLongitude || std::abs(y.degrees) > MostLatitude)
-        return {0, 0, false, TextId("MESS_TAB_OUTSIDE_GLOBE")};
+        return {0, 0, false, TableTextId("MESS_TAB_OUTSIDE_GLOBE")};
     return {x.degrees, y.degrees, x.parts > 1 || y.parts > 1, std::nullopt};
 }
 
@@ -36,21 +36,21 @@ CoordinatePair readCoordinatePair(std::string_view text)
         const size_t open = text.find('(');
         const size_t close = text.rfind(')');
         if (open == std::string_view::npos || close == std::string_view::npos || close < open)
-            return {0, 0, false, TextId("MESS_TAB_NOT_A_POSITION")};
+            return {0, 0, false, TableTextId("MESS_TAB_NOT_A_POSITION")};
         text = trimmed(text.substr(open + 1, close - open - 1));
         separator = ' ';
         longitudeFirst = true;
     }
     const size_t cut = text.find(separator);
     if (cut == std::string_view::npos || cut == 0)
-        return {0, 0, false, TextId("MESS_TAB_NOT_A_POSITION")};
+        return {0, 0, false, TableTextId("MESS_TAB_NOT_A_POSITION")};
     const std::string_view first = text.substr(0, cut);
     const std::string_view second = text.substr(cut + 1);
     // "48,85" alone is a number with a decimal comma: a position shows a point, a degree or a
     // letter somewhere.
     if (separator == ',' && (second.find(',') != std::string_view::npos ||
                              text.find_first_of(".NSEWnsew\xC2") == std::string_view::npos))
-        return {0, 0, false, TextId("MESS_TAB_NOT_A_POSITION")};
+        return {0, 0, false, TableTextId("MESS_TAB_NOT_A_POSITION")};
     if (longitudeFirst)
         return checked(readAngle(first, Axis::X), readAngle(second, Axis::Y));
     const Angle latitude = readAngle(first, Axis::Y);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "contract/TextTable.h"
+#include "contract/TableTexts.h"
 
 #include <optional>
 #include <string_view>
@@ -12,8 +12,8 @@ struct CoordinatePair
 {
     double x = 0;
     double y = 0;
-    bool inParts = false;                  ///< written in degrees, minutes and seconds
-    std::optional<contract::TextId> fault; ///< why there is none
+    bool inParts = false;                       ///< written in degrees, minutes and seconds
+    std::optional<contract::TableTextId> fault; ///< why there is none
 };
 
 /// Reads a cell that holds a whole position: "48.85,2.35" or "48,85;2,35" (latitude first),

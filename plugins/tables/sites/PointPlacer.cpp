@@ -1,6 +1,6 @@
 #include "plugins/tables/sites/PointPlacer.h"
 
-#include "contract/TextPatterns.h"
+#include "contract/TableTexts.h"
 #include "plugins/tables/sites/Angle.h"
 #include "plugins/tables/sites/CoordinatePair.h"
 
@@ -10,7 +10,7 @@ namespace vlt::driver {
 
 namespace {
 
-using contract::TextId;
+using contract::TableTextId;
 
 constexpr double HalfTurnDegrees = 180;
 
@@ -33,7 +33,8 @@ std::string fieldText(const std::vector<const Cell *> &cells, int field)
     return cell ? std::string(trimmed(cellText(*cell))) : std::string();
 }
 
-RowProblem PointPlacer::problem(int64_t row, int field, const std::string &value, TextId why) const
+RowProblem PointPlacer::problem(int64_t row, int field, const std::string &value,
+                                TableTextId why) const
 {
     const Field &of = m_table->fields[static_cast<size_t>(field)];
     return {row, of.name, true,
@@ -85,7 +86,7 @@ bool PointPlacer::readAxis(int64_t row, const CoordinateFields &fields, Axis axi
     return !angle.fault;
 }
 
-std::optional<TextId> PointPlacer::outsideGlobe(double value, Axis axis) const
+std::optional<TableTextId> PointPlacer::outsideGlobe(double value, Axis axis) const
 {
     constexpr double Precision = 1e-9; // of a factor between units
     double halfTurn = m_halfTurn;
@@ -95,8 +96,8 @@ std::optional<TextId> PointPlacer::outsideGlobe(double value, Axis axis) const
     if (halfTurn == 0 || std::abs(value) <= most)
         return std::nullopt;
     if (std::abs(halfTurn / HalfTurnDegrees - 1) > Precision)
-        return TextId("MESS_TAB_OUTSIDE_GLOBE");
-    return axis == Axis::X ? TextId("MESS_TAB_LONGITUDE") : TextId("MESS_TAB_LATITUDE");
+        return TableTextId("MESS_TAB_OUTSIDE_GLOBE");
+    return axis == Axis::X ? TableTextId("MESS_TAB_LONGITUDE") : TableTextId("MESS_TAB_LATITUDE");
 }
 
 Position PointPlacer::place(int64_t row, const std::vector<const Cell *> &cells,
@@ -119,12 +120,12 @@ Position PointPlacer::place(int64_t row, const std::vector<const Cell *> &cells,
     }
     if (!position.found)
         return position;
-    std::optional<TextId> why;
+    std::optional<TableTextId> why;
     int field = m_fields.xField();
     if (!std::isfinite(position.x) || !std::isfinite(position.y))
-        why = TextId("MESS_TAB_NOT_FINITE");
+        why = TableTextId("MESS_TAB_NOT_FINITE");
     else if (position.x == 0 && position.y == 0)
-        why = TextId("MESS_TAB_ZERO_ZERO");
+        why = TableTextId("MESS_TAB_ZERO_ZERO");
     else {
         why = outsideGlobe(position.x, Axis::X);
         if (!why) {

@@ -39,12 +39,12 @@ public:
                    std::vector<RowProblem> &problems) const;
 
 private:
-    std::optional<contract::TextId> outsideGlobe(double value, Axis axis) const;
+    std::optional<contract::TableTextId> outsideGlobe(double value, Axis axis) const;
     bool readAxis(int64_t row, const CoordinateFields &fields, Axis axis,
                   const std::vector<const Cell *> &cells, double &value,
                   std::vector<RowProblem> &problems) const;
     RowProblem problem(int64_t row, int field, const std::string &value,
-                       contract::TextId why) const;
+                       contract::TableTextId why) const;
 
     const TableProfile *m_table;
     PointFields m_fields;

@@ -1,6 +1,6 @@
 #include "plugins/tables/table/Header.h"
 
-#include "contract/TextPatterns.h"
+#include "contract/TableTexts.h"
 #include "plugins/tables/cells/Numbers.h"
 #include "plugins/tables/table/HeaderWords.h"
 

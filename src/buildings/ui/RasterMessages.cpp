@@ -1,7 +1,7 @@
 #include "buildings/ui/RasterMessages.h"
 
+#include "language/ReaderText.h"
 #include "language/VltLanguageManager.h"
-#include "snapshot/SceneNoticeText.h"
 #include "wizard/base/Messages.h"
 
 namespace vlt::buildings {
@@ -25,7 +25,7 @@ QString textOf(RasterProblem problem)
 
 QString reasonText(const QString &reason)
 {
-    return snapshot::sceneNoticeText(reason);
+    return language::readerText(reason);
 }
 
 void warnOfRaster(QWidget *parent, RasterProblem problem, const QString &path,

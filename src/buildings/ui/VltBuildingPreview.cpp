@@ -2,8 +2,8 @@
 
 #include "ui_BuildingPreview.h"
 
+#include "language/ReaderText.h"
 #include "preview/VisibleDistance.h"
-#include "snapshot/SceneNoticeText.h"
 #include "snapshot/SceneNotices.h"
 #include "text/RichText.h"
 #include "wizard/base/BusyWait.h"
@@ -43,7 +43,7 @@ QString shortNotice(const QString &notice, const QString &layerPath)
     static const QRegularExpression folder(QStringLiteral("\"/[^\"]*/"));
     QString text = notice;
     text.remove(QFileInfo(layerPath).absoluteFilePath() + QStringLiteral(": "));
-    text = vlt::snapshot::sceneNoticeText(text.replace(folder, QStringLiteral("\"")));
+    text = vlt::language::readerText(text.replace(folder, QStringLiteral("\"")));
     return text.left(1).toUpper() + text.mid(1);
 }
 

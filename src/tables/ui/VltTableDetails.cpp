@@ -1,6 +1,6 @@
 #include "tables/ui/VltTableDetails.h"
 
-#include "tables/TableTexts.h"
+#include "language/ReaderText.h"
 #include "tables/ui/CopyRows.h"
 #include "text/RichText.h"
 
@@ -246,7 +246,7 @@ void VltTableDetails::showProblems(const QList<vlt::Problem> &listed, qint64 cou
     for (const vlt::Problem &problem : listed)
         m_problemModel->appendRow({item(problem.row > 0 ? QVariant(problem.row) : QVariant()),
                                    item(problem.column),
-                                   item(vlt::tables::tableText(problem.text))});
+                                   item(vlt::language::readerText(problem.text))});
     if (count > listed.size()) {
         const QString rest = tr("%1 further problems are not listed", "MESS_MORE_PROBLEMS");
         m_problemModel->appendRow({item({}), item({}), item(rest.arg(count - listed.size()))});

@@ -1,9 +1,9 @@
 #include "tables/ui/VltTablePage.h"
 
+#include "language/ReaderText.h"
 #include "platform/LayerFile.h"
 #include "platform/Settings.h"
 #include "tables/SystemObstacle.h"
-#include "tables/TableTexts.h"
 #include "tables/ui/VltSrsSettings.h"
 #include "tables/ui/VltTableDetails.h"
 #include "ui_TablePage.h"
@@ -27,7 +27,7 @@ const QString LastUsedDirKey = QStringLiteral("LastUsedDir");
 /// The file and why it was refused, as two lines.
 QString refusalDetail(const QString &path, const QString &reason)
 {
-    const QString translated = vlt::tables::tableText(reason);
+    const QString translated = vlt::language::readerText(reason);
     return translated.isEmpty() ? path : path + QLatin1Char('\n') + translated;
 }
 
@@ -310,7 +310,7 @@ void VltTablePage::showFile()
     showReason(read.errorDetail.isEmpty() ? QString()
                                           : tr("%1: %2", "MESS_FILE_REASON")
                                                 .arg(QFileInfo(m_pathRead).fileName(),
-                                                     vlt::tables::tableText(read.errorDetail)));
+                                                     vlt::language::readerText(read.errorDetail)));
     if (!read.valid) {
         m_pwDragIcon->setLayerFile({});
         m_ui->m_pwGbPreview->leaveLayer();

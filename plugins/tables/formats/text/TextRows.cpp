@@ -1,6 +1,6 @@
 #include "plugins/tables/formats/text/TextRows.h"
 
-#include "contract/TextPatterns.h"
+#include "contract/TableTexts.h"
 #include "plugins/tables/cells/ByteScan.h"
 #include "plugins/tables/formats/text/EncodingGuess.h"
 #include "plugins/tables/formats/text/Utf8Check.h"

@@ -2,179 +2,7 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr_FR" sourcelanguage="en">
 <context>
-    <name>Scenes of buildings</name>
-    <message id="MESS_SCENE_NO_HEIGHT">
-        <source>%1 of %2 buildings are left out: no height in the field "%3"</source>
-        <translation>bâtiments omis, sans hauteur dans le champ «&#xa0;%3&#xa0;»&#xa0;: %1 sur %2</translation>
-    </message>
-    <message id="MESS_SCENE_ZERO_HEIGHT">
-        <source>%1 of %2 buildings are left out: a height of zero or less in the field "%3"</source>
-        <translation>bâtiments omis, de hauteur nulle ou négative dans le champ «&#xa0;%3&#xa0;»&#xa0;: %1 sur %2</translation>
-    </message>
-    <message id="MESS_SCENE_NO_POLYGON">
-        <source>%1 of %2 buildings are left out: no polygon with an area</source>
-        <translation>bâtiments omis, sans polygone ayant une surface&#xa0;: %1 sur %2</translation>
-    </message>
-    <message id="MESS_SCENE_NO_PLACE">
-        <source>%1 of %2 buildings are left out: their place is none of their coordinate system</source>
-        <translation>bâtiments omis, de position hors de leur système de coordonnées&#xa0;: %1 sur %2</translation>
-    </message>
-    <message id="MESS_SCENE_READ_PARTLY">
-        <source>only the first %1 footprints can be read: %2</source>
-        <translation>emprises lues avant que le fichier ne fasse défaut&#xa0;: %1 (%2)</translation>
-    </message>
-    <message id="MESS_SCENE_SHOWN_PARTLY">
-        <source>only the first %1 footprints are shown: there are too many</source>
-        <translation>il y a trop d'emprises, seules les premières sont affichées&#xa0;: %1</translation>
-    </message>
-    <message id="MESS_SCENE_NO_TERRAIN">
-        <source>the document names no terrain; the buildings stand at height 0</source>
-        <translation>le document n'indique pas de terrain&#xa0;; les bâtiments sont à l'altitude 0</translation>
-    </message>
-    <message id="MESS_SCENE_BAD_TERRAIN">
-        <source>the terrain "%1" cannot be used (%2); the buildings stand at height 0</source>
-        <translation>le terrain «&#xa0;%1&#xa0;» ne peut pas être utilisé (%2)&#xa0;; les bâtiments sont à l'altitude 0</translation>
-    </message>
-    <message id="MESS_SCENE_NO_GROUND">
-        <source>the terrain has no height under any building; they stand at height 0</source>
-        <translation>le terrain n'a d'altitude sous aucun bâtiment&#xa0;; ils sont à l'altitude 0</translation>
-    </message>
-    <message id="MESS_SCENE_LOWEST_GROUND">
-        <source>%1 of %2 buildings stand on the lowest ground: there is no terrain height under them</source>
-        <translation>bâtiments posés sur le sol le plus bas, faute d'altitude du terrain sous eux&#xa0;: %1 sur %2</translation>
-    </message>
-    <message id="MESS_SCENE_NO_MAP">
-        <source>the color map "%1" does not exist</source>
-        <translation>la palette «&#xa0;%1&#xa0;» n'existe pas</translation>
-    </message>
-    <message id="MESS_SCENE_BAD_MAP">
-        <source>the color map "%1" cannot be used (%2)</source>
-        <translation>la palette «&#xa0;%1&#xa0;» ne peut pas être utilisée (%2)</translation>
-    </message>
-    <message id="MESS_SCENE_EMPTY_RASTER">
-        <source>the raster "%1" has no values</source>
-        <translation>le raster «&#xa0;%1&#xa0;» n'a pas de valeurs</translation>
-    </message>
-    <message id="MESS_SCENE_BAD_RASTER">
-        <source>the raster "%1" cannot be used for colors (%2)</source>
-        <translation>le raster «&#xa0;%1&#xa0;» ne peut pas donner les couleurs (%2)</translation>
-    </message>
-    <message id="MESS_SCENE_NO_VALUE">
-        <source>%1 of %2 buildings have no value in the raster "%3"</source>
-        <translation>bâtiments sans valeur dans le raster «&#xa0;%3&#xa0;»&#xa0;: %1 sur %2</translation>
-    </message>
-    <message id="MESS_SCENE_NO_COLORS">
-        <source>"%1" tells no colors of buildings</source>
-        <translation>«&#xa0;%1&#xa0;» n'indique pas de couleurs de bâtiments</translation>
-    </message>
-    <message id="MESS_SCENE_BAD_IMAGE">
-        <source>the image "%1" is not shown (%2)</source>
-        <translation>l'image «&#xa0;%1&#xa0;» n'est pas affichée (%2)</translation>
-    </message>
-    <message id="MESS_SCENE_MORE_IMAGES">
-        <source>%1 more images are not shown</source>
-        <translation>autres images non affichées&#xa0;: %1</translation>
-    </message>
-    <message id="MESS_SCENE_OTHER_COMPUTER">
-        <source>not a file or folder of this computer</source>
-        <translation>ce n'est ni un fichier ni un dossier de cet ordinateur</translation>
-    </message>
-    <message id="MESS_SCENE_NOT_IN_FILE">
-        <source>not in a file of this computer</source>
-        <translation>pas dans un fichier de cet ordinateur</translation>
-    </message>
-    <message id="MESS_SCENE_NO_PART">
-        <source>the file holds no such image</source>
-        <translation>le fichier ne contient pas cette image</translation>
-    </message>
-    <message id="MESS_SCENE_NO_LOCAL_FILE">
-        <source>there is no such local file</source>
-        <translation>ce fichier local n'existe pas</translation>
-    </message>
-    <message id="MESS_SCENE_NO_WAY">
-        <source>there is no way to its coordinate system</source>
-        <translation>aucun passage ne mène à son système de coordonnées</translation>
-    </message>
-    <message id="MESS_SCENE_NO_WAY_FROM">
-        <source>there is no way from the buildings' coordinate system to its own</source>
-        <translation>aucun passage ne mène du système de coordonnées des bâtiments au sien</translation>
-    </message>
-    <message id="MESS_SCENE_NO_MAP_IN">
-        <source>No color association found in %1</source>
-        <translation>aucune couleur n'est définie dans %1</translation>
-    </message>
-    <message id="MESS_SCENE_NO_COLOR">
-        <source>Unknown color&#xa0;: %1</source>
-        <translation>couleur inconnue&#xa0;: %1</translation>
-    </message>
-    <message id="MESS_SCENE_BAD_SHARE">
-        <source>Wrong value for a percentage&#xa0;: %1</source>
-        <translation>pourcentage incorrect&#xa0;: %1</translation>
-    </message>
-    <message id="MESS_SCENE_LARGE_MAP">
-        <source>%1 is too large for a color map</source>
-        <translation>%1 est trop grand pour une palette</translation>
-    </message>
-    <message id="MESS_SCENE_NOT_ONE_BAND">
-        <source>it has not one band</source>
-        <translation>il n'a pas une bande et une seule</translation>
-    </message>
-    <message id="MESS_SCENE_COMPLEX">
-        <source>its values are complex numbers</source>
-        <translation>ses valeurs sont des nombres complexes</translation>
-    </message>
-    <message id="MESS_SCENE_BAD_NODATA">
-        <source>the no-data value "%1" is no number</source>
-        <translation>la valeur d'absence de données «&#xa0;%1&#xa0;» n'est pas un nombre</translation>
-    </message>
-    <message id="MESS_SCENE_NOT_PLACED">
-        <source>it has no place</source>
-        <translation>pas d'emplacement</translation>
-    </message>
-    <message id="MESS_SCENE_NO_BANDS">
-        <source>it has no bands</source>
-        <translation>pas de bande</translation>
-    </message>
-    <message id="MESS_SCENE_WITHOUT_HEIGHT">
-        <source>it has no height</source>
-        <translation>pas de hauteur</translation>
-    </message>
-    <message id="MESS_SCENE_SAME_HEIGHT">
-        <source>another one has the same height</source>
-        <translation>une autre a la même hauteur</translation>
-    </message>
-    <message id="MESS_SCENE_NO_FORMAT">
-        <source>`%1' not recognized as a supported file format.</source>
-        <translation>le format de «&#xa0;%1&#xa0;» n'est pas connu</translation>
-    </message>
-    <message id="MESS_SCENE_NO_FOOTPRINTS">
-        <source>there is no local file of footprints "%1"</source>
-        <translation>le fichier local d'emprises «&#xa0;%1&#xa0;» n'existe pas</translation>
-    </message>
-    <message id="MESS_SCENE_BAD_FOOTPRINTS">
-        <source>the footprints "%1" cannot be read: %2</source>
-        <translation>les emprises «&#xa0;%1&#xa0;» ne peuvent pas être lues&#xa0;: %2</translation>
-    </message>
-    <message id="MESS_SCENE_NO_LAYER">
-        <source>the footprints have no layer "%1"</source>
-        <translation>les emprises n'ont pas de couche «&#xa0;%1&#xa0;»</translation>
-    </message>
-    <message id="MESS_SCENE_NO_FIELD">
-        <source>the footprints have no field "%1"</source>
-        <translation>les emprises n'ont pas de champ «&#xa0;%1&#xa0;»</translation>
-    </message>
-    <message id="MESS_SCENE_NO_NUMBERS">
-        <source>the field "%1" of the footprints holds no numbers</source>
-        <translation>le champ «&#xa0;%1&#xa0;» des emprises ne contient pas de nombres</translation>
-    </message>
-    <message id="MESS_SCENE_NO_FRAME">
-        <source>the coordinate system of the layer is neither projected nor geographic</source>
-        <translation>le système de coordonnées de la couche n'est ni projeté ni géographique</translation>
-    </message>
-    <message id="MESS_SCENE_NO_PROJECTION">
-        <source>the coordinate system of the layer cannot be projected</source>
-        <translation>le système de coordonnées de la couche ne peut pas être projeté</translation>
-    </message>
+    <name>Scenes</name>
     <message id="MESS_SCENE_NO_FILE">
         <source>it is no file</source>
         <translation>ce n'est pas un fichier</translation>
@@ -251,6 +79,114 @@
         <source>the tileSize is not more than zero</source>
         <translation>tileSize n'est pas supérieur à zéro</translation>
     </message>
+    <message id="MESS_SCENE_NO_FRAME">
+        <source>the coordinate system of the layer is neither projected nor geographic</source>
+        <translation>le système de coordonnées de la couche n'est ni projeté ni géographique</translation>
+    </message>
+    <message id="MESS_SCENE_NO_PROJECTION">
+        <source>the coordinate system of the layer cannot be projected</source>
+        <translation>le système de coordonnées de la couche ne peut pas être projeté</translation>
+    </message>
+    <message id="MESS_SCENE_NO_FOOTPRINTS">
+        <source>there is no local file of footprints "%1"</source>
+        <translation>le fichier local d'emprises «&#xa0;%1&#xa0;» n'existe pas</translation>
+    </message>
+    <message id="MESS_SCENE_BAD_FOOTPRINTS">
+        <source>the footprints "%1" cannot be read: %2</source>
+        <translation>les emprises «&#xa0;%1&#xa0;» ne peuvent pas être lues&#xa0;: %2</translation>
+    </message>
+    <message id="MESS_SCENE_NO_LAYER">
+        <source>the footprints have no layer "%1"</source>
+        <translation>les emprises n'ont pas de couche «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message id="MESS_SCENE_NO_FIELD">
+        <source>the footprints have no field "%1"</source>
+        <translation>les emprises n'ont pas de champ «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message id="MESS_SCENE_NO_NUMBERS">
+        <source>the field "%1" of the footprints holds no numbers</source>
+        <translation>le champ «&#xa0;%1&#xa0;» des emprises ne contient pas de nombres</translation>
+    </message>
+    <message id="MESS_SCENE_NO_HEIGHT">
+        <source>%1 of %2 buildings are left out: no height in the field "%3"</source>
+        <translation>bâtiments omis, sans hauteur dans le champ «&#xa0;%3&#xa0;»&#xa0;: %1 sur %2</translation>
+    </message>
+    <message id="MESS_SCENE_ZERO_HEIGHT">
+        <source>%1 of %2 buildings are left out: a height of zero or less in the field "%3"</source>
+        <translation>bâtiments omis, de hauteur nulle ou négative dans le champ «&#xa0;%3&#xa0;»&#xa0;: %1 sur %2</translation>
+    </message>
+    <message id="MESS_SCENE_NO_POLYGON">
+        <source>%1 of %2 buildings are left out: no polygon with an area</source>
+        <translation>bâtiments omis, sans polygone ayant une surface&#xa0;: %1 sur %2</translation>
+    </message>
+    <message id="MESS_SCENE_NO_PLACE">
+        <source>%1 of %2 buildings are left out: their place is none of their coordinate system</source>
+        <translation>bâtiments omis, de position hors de leur système de coordonnées&#xa0;: %1 sur %2</translation>
+    </message>
+    <message id="MESS_SCENE_COINCIDENT">
+        <source>%1 of %2 buildings have the same outline as another one</source>
+        <translation>%1 bâtiments sur %2 ont la même emprise qu'un autre</translation>
+    </message>
+    <message id="MESS_SCENE_READ_PARTLY">
+        <source>only the first %1 footprints can be read: %2</source>
+        <translation>emprises lues avant que le fichier ne fasse défaut&#xa0;: %1 (%2)</translation>
+    </message>
+    <message id="MESS_SCENE_SHOWN_PARTLY">
+        <source>only the first %1 footprints are shown: there are too many</source>
+        <translation>il y a trop d'emprises, seules les premières sont affichées&#xa0;: %1</translation>
+    </message>
+    <message id="MESS_SCENE_NO_TERRAIN">
+        <source>the document names no terrain; the buildings stand at height 0</source>
+        <translation>le document n'indique pas de terrain&#xa0;; les bâtiments sont à l'altitude 0</translation>
+    </message>
+    <message id="MESS_SCENE_BAD_TERRAIN">
+        <source>the terrain "%1" cannot be used (%2); the buildings stand at height 0</source>
+        <translation>le terrain «&#xa0;%1&#xa0;» ne peut pas être utilisé (%2)&#xa0;; les bâtiments sont à l'altitude 0</translation>
+    </message>
+    <message id="MESS_SCENE_NO_GROUND">
+        <source>the terrain has no height under any building; they stand at height 0</source>
+        <translation>le terrain n'a d'altitude sous aucun bâtiment&#xa0;; ils sont à l'altitude 0</translation>
+    </message>
+    <message id="MESS_SCENE_LOWEST_GROUND">
+        <source>%1 of %2 buildings stand on the lowest ground: there is no terrain height under them</source>
+        <translation>bâtiments posés sur le sol le plus bas, faute d'altitude du terrain sous eux&#xa0;: %1 sur %2</translation>
+    </message>
+    <message id="MESS_SCENE_NO_MAP">
+        <source>the color map "%1" does not exist</source>
+        <translation>la palette «&#xa0;%1&#xa0;» n'existe pas</translation>
+    </message>
+    <message id="MESS_SCENE_BAD_MAP">
+        <source>the color map "%1" cannot be used (%2)</source>
+        <translation>la palette «&#xa0;%1&#xa0;» ne peut pas être utilisée (%2)</translation>
+    </message>
+    <message id="MESS_SCENE_EMPTY_RASTER">
+        <source>the raster "%1" has no values</source>
+        <translation>le raster «&#xa0;%1&#xa0;» n'a pas de valeurs</translation>
+    </message>
+    <message id="MESS_SCENE_BAD_RASTER">
+        <source>the raster "%1" cannot be used for colors (%2)</source>
+        <translation>le raster «&#xa0;%1&#xa0;» ne peut pas donner les couleurs (%2)</translation>
+    </message>
+    <message id="MESS_SCENE_NO_VALUE">
+        <source>%1 of %2 buildings have no value in the raster "%3"</source>
+        <translation>bâtiments sans valeur dans le raster «&#xa0;%3&#xa0;»&#xa0;: %1 sur %2</translation>
+    </message>
+    <message id="MESS_SCENE_NO_COLORS">
+        <source>"%1" tells no colors of buildings</source>
+        <translation>«&#xa0;%1&#xa0;» n'indique pas de couleurs de bâtiments</translation>
+    </message>
+    <message id="MESS_SCENE_BAD_IMAGE">
+        <source>the image "%1" is not shown (%2)</source>
+        <translation>l'image «&#xa0;%1&#xa0;» n'est pas affichée (%2)</translation>
+    </message>
+    <message id="MESS_SCENE_MORE_IMAGES">
+        <source>%1 more images are not shown</source>
+        <translation>autres images non affichées&#xa0;: %1</translation>
+    </message>
+    <message id="MESS_SCENE_OTHER_COMPUTER">
+        <source>not a file or folder of this computer</source>
+        <translation>ce n'est ni un fichier ni un dossier de cet ordinateur</translation>
+    </message>
     <message id="MESS_SCENE_VIRTUAL_RASTER">
         <source>virtual rasters are not opened: convert this one with gdal_translate</source>
         <translation>les rasters virtuels ne sont pas ouverts&#xa0;: convertissez celui-ci avec gdal_translate</translation>
@@ -259,9 +195,73 @@
         <source>virtual vector files are not opened: convert this one with ogr2ogr</source>
         <translation>les fichiers vecteur virtuels ne sont pas ouverts&#xa0;: convertissez celui-ci avec ogr2ogr</translation>
     </message>
-    <message id="MESS_SCENE_COINCIDENT">
-        <source>%1 of %2 buildings have the same outline as another one</source>
-        <translation>%1 bâtiments sur %2 ont la même emprise qu'un autre</translation>
+    <message id="MESS_SCENE_NOT_IN_FILE">
+        <source>not in a file of this computer</source>
+        <translation>pas dans un fichier de cet ordinateur</translation>
+    </message>
+    <message id="MESS_SCENE_NO_PART">
+        <source>the file holds no such image</source>
+        <translation>le fichier ne contient pas cette image</translation>
+    </message>
+    <message id="MESS_SCENE_NO_LOCAL_FILE">
+        <source>there is no such local file</source>
+        <translation>ce fichier local n'existe pas</translation>
+    </message>
+    <message id="MESS_SCENE_NO_WAY">
+        <source>there is no way to its coordinate system</source>
+        <translation>aucun passage ne mène à son système de coordonnées</translation>
+    </message>
+    <message id="MESS_SCENE_NO_WAY_FROM">
+        <source>there is no way from the buildings' coordinate system to its own</source>
+        <translation>aucun passage ne mène du système de coordonnées des bâtiments au sien</translation>
+    </message>
+    <message id="MESS_SCENE_NO_MAP_IN">
+        <source>No color association found in %1</source>
+        <translation>aucune couleur n'est définie dans %1</translation>
+    </message>
+    <message id="MESS_SCENE_NO_COLOR">
+        <source>Unknown color : %1</source>
+        <translation>couleur inconnue&#xa0;: %1</translation>
+    </message>
+    <message id="MESS_SCENE_BAD_SHARE">
+        <source>Wrong value for a percentage : %1</source>
+        <translation>pourcentage incorrect&#xa0;: %1</translation>
+    </message>
+    <message id="MESS_SCENE_LARGE_MAP">
+        <source>%1 is too large for a color map</source>
+        <translation>%1 est trop grand pour une palette</translation>
+    </message>
+    <message id="MESS_SCENE_NOT_ONE_BAND">
+        <source>it has not one band</source>
+        <translation>il n'a pas une bande et une seule</translation>
+    </message>
+    <message id="MESS_SCENE_COMPLEX">
+        <source>its values are complex numbers</source>
+        <translation>ses valeurs sont des nombres complexes</translation>
+    </message>
+    <message id="MESS_SCENE_BAD_NODATA">
+        <source>the no-data value "%1" is no number</source>
+        <translation>la valeur d'absence de données «&#xa0;%1&#xa0;» n'est pas un nombre</translation>
+    </message>
+    <message id="MESS_SCENE_NOT_PLACED">
+        <source>it has no place</source>
+        <translation>pas d'emplacement</translation>
+    </message>
+    <message id="MESS_SCENE_NO_BANDS">
+        <source>it has no bands</source>
+        <translation>pas de bande</translation>
+    </message>
+    <message id="MESS_SCENE_WITHOUT_HEIGHT">
+        <source>it has no height</source>
+        <translation>pas de hauteur</translation>
+    </message>
+    <message id="MESS_SCENE_SAME_HEIGHT">
+        <source>another one has the same height</source>
+        <translation>une autre a la même hauteur</translation>
+    </message>
+    <message id="MESS_SCENE_NO_FORMAT">
+        <source>`%1' not recognized as a supported file format.</source>
+        <translation>le format de «&#xa0;%1&#xa0;» n'est pas connu</translation>
     </message>
 </context>
 </TS>

@@ -1,5 +1,5 @@
+#include "language/ReaderText.h"
 #include "language/VltLanguageManager.h"
-#include "snapshot/SceneNoticeText.h"
 #include "snapshot/SceneNotices.h"
 #include "snapshot/SceneSource.h"
 #include "support/Files.h"
@@ -8,7 +8,7 @@
 #include <QTest>
 
 using namespace Qt::StringLiterals;
-using vlt::snapshot::sceneNoticeText;
+using vlt::language::readerText;
 
 namespace {
 
@@ -38,7 +38,7 @@ QByteArray grid(const char *pixels, const char *side = "0.01")
 
 } // namespace
 
-class TestSceneNoticeText : public QObject
+class TestSceneTexts : public QObject
 {
     Q_OBJECT
 
@@ -143,7 +143,7 @@ private Q_SLOTS:
         const auto scene = vlt::snapshot::readScene(path, {}, {});
         QStringList texts;
         for (const QString &notice : notices.take())
-            texts << sceneNoticeText(notice);
+            texts << readerText(notice);
 
         QVERIFY2(scene, scene ? "" : qPrintable(scene.error().text));
         const QString expected = path + u": "_s + told(key, values);
@@ -209,14 +209,14 @@ private Q_SLOTS:
         const auto scene = vlt::snapshot::readScene(write(name, content), {}, {});
 
         QVERIFY(!scene);
-        QCOMPARE(sceneNoticeText(scene.error().text), told(key, values));
+        QCOMPARE(readerText(scene.error().text), told(key, values));
     }
 
     void knowsTheLibraryInEveryVersion()
     {
         for (const char *form : {"`%1' not recognized as a supported file format.",
                                  "`%1' not recognized as being in a supported file format."})
-            QCOMPARE(sceneNoticeText(QString::fromUtf8(form).arg(u"a.tif"_s)),
+            QCOMPARE(readerText(QString::fromUtf8(form).arg(u"a.tif"_s)),
                      told("MESS_SCENE_NO_FORMAT", {u"a.tif"_s}));
     }
 
@@ -224,9 +224,9 @@ private Q_SLOTS:
     {
         const QString other = u"/a.ive: 3 of 4 nodes are left out: no reason"_s;
 
-        QCOMPARE(sceneNoticeText(other), other);
+        QCOMPARE(readerText(other), other);
     }
 };
 
-QTEST_GUILESS_MAIN(TestSceneNoticeText)
-#include "tst_SceneNoticeText.moc"
+QTEST_GUILESS_MAIN(TestSceneTexts)
+#include "tst_SceneTexts.moc"

@@ -1,24 +1,13 @@
 #pragma once
 
+#include "contract/TextPatterns.h"
+
 #include <array>
-#include <cstddef>
-#include <string_view>
 
 namespace vlt::contract {
 
-/// A text that a reader of tables gives its user.
-///
-/// The pattern is the English text with the places "%1", "%2" of its values, in this order, two
-/// at most. It starts with words, and words that no value holds stand between two places, so that
-/// a finished text can be taken apart again.
-struct Text
-{
-    const char *key; ///< message key of the translations
-    const char *pattern;
-};
-
-/// All of them.
-inline constexpr auto Texts = std::to_array<Text>({
+/// What the readers of tables report to their user.
+inline constexpr auto TableTexts = std::to_array<Text>({
     // files that cannot be read
     {"MESS_TAB_NO_FILE_NAME", "no file is named"},
     {"MESS_TAB_NOT_LOCAL", "tables are read from local files only"},
@@ -171,24 +160,12 @@ inline constexpr auto Texts = std::to_array<Text>({
      "the coordinate \"%1\" cannot be read: 0, 0 stands for an unknown position"},
 });
 
-/// Names a text by its key; a key that is not in the table does not compile.
-class TextId
+using TableTextId = TextIdOf<TableTexts>;
+
+/// The English text with the values in its places.
+inline std::string formatted(TableTextId id, std::initializer_list<std::string_view> values = {})
 {
-public:
-    consteval TextId(const char *key) : m_index(indexOf(key)) {}
-
-    constexpr const Text &text() const { return Texts[m_index]; }
-
-private:
-    static consteval std::size_t indexOf(const char *key)
-    {
-        std::size_t index = 0;
-        while (std::string_view(Texts.at(index).key) != key)
-            ++index;
-        return index;
-    }
-
-    std::size_t m_index;
-};
+    return formatted(id.text(), values);
+}
 
 } // namespace vlt::contract

@@ -2,179 +2,7 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en_US" sourcelanguage="en">
 <context>
-    <name>Scenes of buildings</name>
-    <message id="MESS_SCENE_NO_HEIGHT">
-        <source>%1 of %2 buildings are left out: no height in the field "%3"</source>
-        <translation>%1 of %2 buildings are left out: no height in the field "%3"</translation>
-    </message>
-    <message id="MESS_SCENE_ZERO_HEIGHT">
-        <source>%1 of %2 buildings are left out: a height of zero or less in the field "%3"</source>
-        <translation>%1 of %2 buildings are left out: a height of zero or less in the field "%3"</translation>
-    </message>
-    <message id="MESS_SCENE_NO_POLYGON">
-        <source>%1 of %2 buildings are left out: no polygon with an area</source>
-        <translation>%1 of %2 buildings are left out: no polygon with an area</translation>
-    </message>
-    <message id="MESS_SCENE_NO_PLACE">
-        <source>%1 of %2 buildings are left out: their place is none of their coordinate system</source>
-        <translation>%1 of %2 buildings are left out: their place is none of their coordinate system</translation>
-    </message>
-    <message id="MESS_SCENE_READ_PARTLY">
-        <source>only the first %1 footprints can be read: %2</source>
-        <translation>only the first %1 footprints can be read: %2</translation>
-    </message>
-    <message id="MESS_SCENE_SHOWN_PARTLY">
-        <source>only the first %1 footprints are shown: there are too many</source>
-        <translation>only the first %1 footprints are shown: there are too many</translation>
-    </message>
-    <message id="MESS_SCENE_NO_TERRAIN">
-        <source>the document names no terrain; the buildings stand at height 0</source>
-        <translation>the document names no terrain; the buildings stand at height 0</translation>
-    </message>
-    <message id="MESS_SCENE_BAD_TERRAIN">
-        <source>the terrain "%1" cannot be used (%2); the buildings stand at height 0</source>
-        <translation>the terrain "%1" cannot be used (%2); the buildings stand at height 0</translation>
-    </message>
-    <message id="MESS_SCENE_NO_GROUND">
-        <source>the terrain has no height under any building; they stand at height 0</source>
-        <translation>the terrain has no height under any building; they stand at height 0</translation>
-    </message>
-    <message id="MESS_SCENE_LOWEST_GROUND">
-        <source>%1 of %2 buildings stand on the lowest ground: there is no terrain height under them</source>
-        <translation>%1 of %2 buildings stand on the lowest ground: there is no terrain height under them</translation>
-    </message>
-    <message id="MESS_SCENE_NO_MAP">
-        <source>the color map "%1" does not exist</source>
-        <translation>the color map "%1" does not exist</translation>
-    </message>
-    <message id="MESS_SCENE_BAD_MAP">
-        <source>the color map "%1" cannot be used (%2)</source>
-        <translation>the color map "%1" cannot be used (%2)</translation>
-    </message>
-    <message id="MESS_SCENE_EMPTY_RASTER">
-        <source>the raster "%1" has no values</source>
-        <translation>the raster "%1" has no values</translation>
-    </message>
-    <message id="MESS_SCENE_BAD_RASTER">
-        <source>the raster "%1" cannot be used for colors (%2)</source>
-        <translation>the raster "%1" cannot be used for colors (%2)</translation>
-    </message>
-    <message id="MESS_SCENE_NO_VALUE">
-        <source>%1 of %2 buildings have no value in the raster "%3"</source>
-        <translation>%1 of %2 buildings have no value in the raster "%3"</translation>
-    </message>
-    <message id="MESS_SCENE_NO_COLORS">
-        <source>"%1" tells no colors of buildings</source>
-        <translation>"%1" tells no colors of buildings</translation>
-    </message>
-    <message id="MESS_SCENE_BAD_IMAGE">
-        <source>the image "%1" is not shown (%2)</source>
-        <translation>the image "%1" is not shown (%2)</translation>
-    </message>
-    <message id="MESS_SCENE_MORE_IMAGES">
-        <source>%1 more images are not shown</source>
-        <translation>%1 more images are not shown</translation>
-    </message>
-    <message id="MESS_SCENE_OTHER_COMPUTER">
-        <source>not a file or folder of this computer</source>
-        <translation>not a file or folder of this computer</translation>
-    </message>
-    <message id="MESS_SCENE_NOT_IN_FILE">
-        <source>not in a file of this computer</source>
-        <translation>not in a file of this computer</translation>
-    </message>
-    <message id="MESS_SCENE_NO_PART">
-        <source>the file holds no such image</source>
-        <translation>the file holds no such image</translation>
-    </message>
-    <message id="MESS_SCENE_NO_LOCAL_FILE">
-        <source>there is no such local file</source>
-        <translation>there is no such local file</translation>
-    </message>
-    <message id="MESS_SCENE_NO_WAY">
-        <source>there is no way to its coordinate system</source>
-        <translation>there is no way to its coordinate system</translation>
-    </message>
-    <message id="MESS_SCENE_NO_WAY_FROM">
-        <source>there is no way from the buildings' coordinate system to its own</source>
-        <translation>there is no way from the buildings' coordinate system to its own</translation>
-    </message>
-    <message id="MESS_SCENE_NO_MAP_IN">
-        <source>No color association found in %1</source>
-        <translation>No color association found in %1</translation>
-    </message>
-    <message id="MESS_SCENE_NO_COLOR">
-        <source>Unknown color : %1</source>
-        <translation>Unknown color : %1</translation>
-    </message>
-    <message id="MESS_SCENE_BAD_SHARE">
-        <source>Wrong value for a percentage : %1</source>
-        <translation>Wrong value for a percentage : %1</translation>
-    </message>
-    <message id="MESS_SCENE_LARGE_MAP">
-        <source>%1 is too large for a color map</source>
-        <translation>%1 is too large for a color map</translation>
-    </message>
-    <message id="MESS_SCENE_NOT_ONE_BAND">
-        <source>it has not one band</source>
-        <translation>it has not one band</translation>
-    </message>
-    <message id="MESS_SCENE_COMPLEX">
-        <source>its values are complex numbers</source>
-        <translation>its values are complex numbers</translation>
-    </message>
-    <message id="MESS_SCENE_BAD_NODATA">
-        <source>the no-data value "%1" is no number</source>
-        <translation>the no-data value "%1" is no number</translation>
-    </message>
-    <message id="MESS_SCENE_NOT_PLACED">
-        <source>it has no place</source>
-        <translation>it has no place</translation>
-    </message>
-    <message id="MESS_SCENE_NO_BANDS">
-        <source>it has no bands</source>
-        <translation>it has no bands</translation>
-    </message>
-    <message id="MESS_SCENE_WITHOUT_HEIGHT">
-        <source>it has no height</source>
-        <translation>it has no height</translation>
-    </message>
-    <message id="MESS_SCENE_SAME_HEIGHT">
-        <source>another one has the same height</source>
-        <translation>another one has the same height</translation>
-    </message>
-    <message id="MESS_SCENE_NO_FORMAT">
-        <source>`%1' not recognized as a supported file format.</source>
-        <translation>`%1' not recognized as a supported file format.</translation>
-    </message>
-    <message id="MESS_SCENE_NO_FOOTPRINTS">
-        <source>there is no local file of footprints "%1"</source>
-        <translation>there is no local file of footprints "%1"</translation>
-    </message>
-    <message id="MESS_SCENE_BAD_FOOTPRINTS">
-        <source>the footprints "%1" cannot be read: %2</source>
-        <translation>the footprints "%1" cannot be read: %2</translation>
-    </message>
-    <message id="MESS_SCENE_NO_LAYER">
-        <source>the footprints have no layer "%1"</source>
-        <translation>the footprints have no layer "%1"</translation>
-    </message>
-    <message id="MESS_SCENE_NO_FIELD">
-        <source>the footprints have no field "%1"</source>
-        <translation>the footprints have no field "%1"</translation>
-    </message>
-    <message id="MESS_SCENE_NO_NUMBERS">
-        <source>the field "%1" of the footprints holds no numbers</source>
-        <translation>the field "%1" of the footprints holds no numbers</translation>
-    </message>
-    <message id="MESS_SCENE_NO_FRAME">
-        <source>the coordinate system of the layer is neither projected nor geographic</source>
-        <translation>the coordinate system of the layer is neither projected nor geographic</translation>
-    </message>
-    <message id="MESS_SCENE_NO_PROJECTION">
-        <source>the coordinate system of the layer cannot be projected</source>
-        <translation>the coordinate system of the layer cannot be projected</translation>
-    </message>
+    <name>Scenes</name>
     <message id="MESS_SCENE_NO_FILE">
         <source>it is no file</source>
         <translation>it is no file</translation>
@@ -251,6 +79,114 @@
         <source>the tileSize is not more than zero</source>
         <translation>the tileSize is not more than zero</translation>
     </message>
+    <message id="MESS_SCENE_NO_FRAME">
+        <source>the coordinate system of the layer is neither projected nor geographic</source>
+        <translation>the coordinate system of the layer is neither projected nor geographic</translation>
+    </message>
+    <message id="MESS_SCENE_NO_PROJECTION">
+        <source>the coordinate system of the layer cannot be projected</source>
+        <translation>the coordinate system of the layer cannot be projected</translation>
+    </message>
+    <message id="MESS_SCENE_NO_FOOTPRINTS">
+        <source>there is no local file of footprints "%1"</source>
+        <translation>there is no local file of footprints "%1"</translation>
+    </message>
+    <message id="MESS_SCENE_BAD_FOOTPRINTS">
+        <source>the footprints "%1" cannot be read: %2</source>
+        <translation>the footprints "%1" cannot be read: %2</translation>
+    </message>
+    <message id="MESS_SCENE_NO_LAYER">
+        <source>the footprints have no layer "%1"</source>
+        <translation>the footprints have no layer "%1"</translation>
+    </message>
+    <message id="MESS_SCENE_NO_FIELD">
+        <source>the footprints have no field "%1"</source>
+        <translation>the footprints have no field "%1"</translation>
+    </message>
+    <message id="MESS_SCENE_NO_NUMBERS">
+        <source>the field "%1" of the footprints holds no numbers</source>
+        <translation>the field "%1" of the footprints holds no numbers</translation>
+    </message>
+    <message id="MESS_SCENE_NO_HEIGHT">
+        <source>%1 of %2 buildings are left out: no height in the field "%3"</source>
+        <translation>%1 of %2 buildings are left out: no height in the field "%3"</translation>
+    </message>
+    <message id="MESS_SCENE_ZERO_HEIGHT">
+        <source>%1 of %2 buildings are left out: a height of zero or less in the field "%3"</source>
+        <translation>%1 of %2 buildings are left out: a height of zero or less in the field "%3"</translation>
+    </message>
+    <message id="MESS_SCENE_NO_POLYGON">
+        <source>%1 of %2 buildings are left out: no polygon with an area</source>
+        <translation>%1 of %2 buildings are left out: no polygon with an area</translation>
+    </message>
+    <message id="MESS_SCENE_NO_PLACE">
+        <source>%1 of %2 buildings are left out: their place is none of their coordinate system</source>
+        <translation>%1 of %2 buildings are left out: their place is none of their coordinate system</translation>
+    </message>
+    <message id="MESS_SCENE_COINCIDENT">
+        <source>%1 of %2 buildings have the same outline as another one</source>
+        <translation>%1 of %2 buildings have the same outline as another one</translation>
+    </message>
+    <message id="MESS_SCENE_READ_PARTLY">
+        <source>only the first %1 footprints can be read: %2</source>
+        <translation>only the first %1 footprints can be read: %2</translation>
+    </message>
+    <message id="MESS_SCENE_SHOWN_PARTLY">
+        <source>only the first %1 footprints are shown: there are too many</source>
+        <translation>only the first %1 footprints are shown: there are too many</translation>
+    </message>
+    <message id="MESS_SCENE_NO_TERRAIN">
+        <source>the document names no terrain; the buildings stand at height 0</source>
+        <translation>the document names no terrain; the buildings stand at height 0</translation>
+    </message>
+    <message id="MESS_SCENE_BAD_TERRAIN">
+        <source>the terrain "%1" cannot be used (%2); the buildings stand at height 0</source>
+        <translation>the terrain "%1" cannot be used (%2); the buildings stand at height 0</translation>
+    </message>
+    <message id="MESS_SCENE_NO_GROUND">
+        <source>the terrain has no height under any building; they stand at height 0</source>
+        <translation>the terrain has no height under any building; they stand at height 0</translation>
+    </message>
+    <message id="MESS_SCENE_LOWEST_GROUND">
+        <source>%1 of %2 buildings stand on the lowest ground: there is no terrain height under them</source>
+        <translation>%1 of %2 buildings stand on the lowest ground: there is no terrain height under them</translation>
+    </message>
+    <message id="MESS_SCENE_NO_MAP">
+        <source>the color map "%1" does not exist</source>
+        <translation>the color map "%1" does not exist</translation>
+    </message>
+    <message id="MESS_SCENE_BAD_MAP">
+        <source>the color map "%1" cannot be used (%2)</source>
+        <translation>the color map "%1" cannot be used (%2)</translation>
+    </message>
+    <message id="MESS_SCENE_EMPTY_RASTER">
+        <source>the raster "%1" has no values</source>
+        <translation>the raster "%1" has no values</translation>
+    </message>
+    <message id="MESS_SCENE_BAD_RASTER">
+        <source>the raster "%1" cannot be used for colors (%2)</source>
+        <translation>the raster "%1" cannot be used for colors (%2)</translation>
+    </message>
+    <message id="MESS_SCENE_NO_VALUE">
+        <source>%1 of %2 buildings have no value in the raster "%3"</source>
+        <translation>%1 of %2 buildings have no value in the raster "%3"</translation>
+    </message>
+    <message id="MESS_SCENE_NO_COLORS">
+        <source>"%1" tells no colors of buildings</source>
+        <translation>"%1" tells no colors of buildings</translation>
+    </message>
+    <message id="MESS_SCENE_BAD_IMAGE">
+        <source>the image "%1" is not shown (%2)</source>
+        <translation>the image "%1" is not shown (%2)</translation>
+    </message>
+    <message id="MESS_SCENE_MORE_IMAGES">
+        <source>%1 more images are not shown</source>
+        <translation>%1 more images are not shown</translation>
+    </message>
+    <message id="MESS_SCENE_OTHER_COMPUTER">
+        <source>not a file or folder of this computer</source>
+        <translation>not a file or folder of this computer</translation>
+    </message>
     <message id="MESS_SCENE_VIRTUAL_RASTER">
         <source>virtual rasters are not opened: convert this one with gdal_translate</source>
         <translation>virtual rasters are not opened: convert this one with gdal_translate</translation>
@@ -259,9 +195,73 @@
         <source>virtual vector files are not opened: convert this one with ogr2ogr</source>
         <translation>virtual vector files are not opened: convert this one with ogr2ogr</translation>
     </message>
-    <message id="MESS_SCENE_COINCIDENT">
-        <source>%1 of %2 buildings have the same outline as another one</source>
-        <translation>%1 of %2 buildings have the same outline as another one</translation>
+    <message id="MESS_SCENE_NOT_IN_FILE">
+        <source>not in a file of this computer</source>
+        <translation>not in a file of this computer</translation>
+    </message>
+    <message id="MESS_SCENE_NO_PART">
+        <source>the file holds no such image</source>
+        <translation>the file holds no such image</translation>
+    </message>
+    <message id="MESS_SCENE_NO_LOCAL_FILE">
+        <source>there is no such local file</source>
+        <translation>there is no such local file</translation>
+    </message>
+    <message id="MESS_SCENE_NO_WAY">
+        <source>there is no way to its coordinate system</source>
+        <translation>there is no way to its coordinate system</translation>
+    </message>
+    <message id="MESS_SCENE_NO_WAY_FROM">
+        <source>there is no way from the buildings' coordinate system to its own</source>
+        <translation>there is no way from the buildings' coordinate system to its own</translation>
+    </message>
+    <message id="MESS_SCENE_NO_MAP_IN">
+        <source>No color association found in %1</source>
+        <translation>No color association found in %1</translation>
+    </message>
+    <message id="MESS_SCENE_NO_COLOR">
+        <source>Unknown color : %1</source>
+        <translation>Unknown color : %1</translation>
+    </message>
+    <message id="MESS_SCENE_BAD_SHARE">
+        <source>Wrong value for a percentage : %1</source>
+        <translation>Wrong value for a percentage : %1</translation>
+    </message>
+    <message id="MESS_SCENE_LARGE_MAP">
+        <source>%1 is too large for a color map</source>
+        <translation>%1 is too large for a color map</translation>
+    </message>
+    <message id="MESS_SCENE_NOT_ONE_BAND">
+        <source>it has not one band</source>
+        <translation>it has not one band</translation>
+    </message>
+    <message id="MESS_SCENE_COMPLEX">
+        <source>its values are complex numbers</source>
+        <translation>its values are complex numbers</translation>
+    </message>
+    <message id="MESS_SCENE_BAD_NODATA">
+        <source>the no-data value "%1" is no number</source>
+        <translation>the no-data value "%1" is no number</translation>
+    </message>
+    <message id="MESS_SCENE_NOT_PLACED">
+        <source>it has no place</source>
+        <translation>it has no place</translation>
+    </message>
+    <message id="MESS_SCENE_NO_BANDS">
+        <source>it has no bands</source>
+        <translation>it has no bands</translation>
+    </message>
+    <message id="MESS_SCENE_WITHOUT_HEIGHT">
+        <source>it has no height</source>
+        <translation>it has no height</translation>
+    </message>
+    <message id="MESS_SCENE_SAME_HEIGHT">
+        <source>another one has the same height</source>
+        <translation>another one has the same height</translation>
+    </message>
+    <message id="MESS_SCENE_NO_FORMAT">
+        <source>`%1' not recognized as a supported file format.</source>
+        <translation>`%1' not recognized as a supported file format.</translation>
     </message>
 </context>
 </TS>

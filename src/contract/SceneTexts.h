@@ -1,0 +1,131 @@
+#pragma once
+
+#include "contract/TextPatterns.h"
+
+#include <array>
+
+namespace vlt::contract {
+
+/// What the readers of scenes report to their user.
+inline constexpr auto SceneTexts = [] {
+    using enum ValueKind;
+    return std::to_array<Text>({
+        // layers and documents that cannot be read
+        {"MESS_SCENE_NO_FILE", "it is no file"},
+        {"MESS_SCENE_UNREADABLE", "it cannot be read"},
+        {"MESS_SCENE_LARGE_FILE", "it is too large for a file of its kind"},
+        {"MESS_SCENE_NO_ROOT", "there is no element veltaroLayer"},
+        {"MESS_SCENE_NO_KIND", "the kind of the layer is missing"},
+        {"MESS_SCENE_BAD_KIND",
+         "layers of the kind \"%1\" cannot be shown, only \"sites\", \"links\" and \"buildings\""},
+        {"MESS_SCENE_NO_SOURCE", "the element source is missing or empty"},
+        {"MESS_SCENE_LONG_SOURCE", "the element source is unreasonably long"},
+        {"MESS_SCENE_NO_END", "the element %1 does not end"},
+        {"MESS_SCENE_OTHER_SOURCE", "the source \"%1\" does not start with \"%2\""},
+        {"MESS_SCENE_NO_DOCUMENT", "the building document \"%1\" does not exist"},
+        {"MESS_SCENE_OTHER_DOCUMENT",
+         "it is no building document: it does not start with the element veltaroTexturedBuildings"},
+        {"MESS_SCENE_NO_VALUE_END", "the value of %1 does not end"},
+        {"MESS_SCENE_BAD_NUMBER", "the %1 \"%2\" is no number of zero or more", {Item, Name}},
+        {"MESS_SCENE_NO_NUMBER", "the %1 \"%2\" is no number", {Item, Name}},
+        {"MESS_SCENE_BAD_MODE", "the texture mode \"%1\" is none of roofs, walls and storeys"},
+        {"MESS_SCENE_UNNAMED_FOOTPRINTS", "the document names no file of footprints"},
+        {"MESS_SCENE_UNNAMED_FIELD", "the document names no field of heights"},
+        {"MESS_SCENE_NO_TILES", "the tileSize is not more than zero"},
+
+        // tables of sites and links
+        {"MESS_SCENE_NO_FRAME",
+         "the coordinate system of the layer is neither projected nor geographic"},
+        {"MESS_SCENE_NO_PROJECTION", "the coordinate system of the layer cannot be projected"},
+
+        // footprints that cannot be read
+        {"MESS_SCENE_NO_FOOTPRINTS", "there is no local file of footprints \"%1\""},
+        {"MESS_SCENE_BAD_FOOTPRINTS", "the footprints \"%1\" cannot be read: %2", {Name, Nested}},
+        {"MESS_SCENE_NO_LAYER", "the footprints have no layer \"%1\""},
+        {"MESS_SCENE_NO_FIELD", "the footprints have no field \"%1\""},
+        {"MESS_SCENE_NO_NUMBERS", "the field \"%1\" of the footprints holds no numbers"},
+
+        // buildings that are left out, or stand elsewhere
+        {"MESS_SCENE_NO_HEIGHT",
+         "%1 of %2 buildings are left out: no height in the field \"%3\"",
+         {Count, Count, Name}},
+        {"MESS_SCENE_ZERO_HEIGHT",
+         "%1 of %2 buildings are left out: a height of zero or less in the field \"%3\"",
+         {Count, Count, Name}},
+        {"MESS_SCENE_NO_POLYGON",
+         "%1 of %2 buildings are left out: no polygon with an area",
+         {Count, Count}},
+        {"MESS_SCENE_NO_PLACE",
+         "%1 of %2 buildings are left out: their place is none of their coordinate system",
+         {Count, Count}},
+        {"MESS_SCENE_COINCIDENT",
+         "%1 of %2 buildings have the same outline as another one",
+         {Count, Count}},
+        {"MESS_SCENE_READ_PARTLY", "only the first %1 footprints can be read: %2", {Count, Nested}},
+        {"MESS_SCENE_SHOWN_PARTLY",
+         "only the first %1 footprints are shown: there are too many",
+         {Count}},
+        {"MESS_SCENE_NO_TERRAIN", "the document names no terrain; the buildings stand at height 0"},
+        {"MESS_SCENE_BAD_TERRAIN",
+         "the terrain \"%1\" cannot be used (%2); the buildings stand at height 0",
+         {Name, Nested}},
+        {"MESS_SCENE_NO_GROUND",
+         "the terrain has no height under any building; they stand at height 0"},
+        {"MESS_SCENE_LOWEST_GROUND",
+         "%1 of %2 buildings stand on the lowest ground: there is no terrain height under them",
+         {Count, Count}},
+
+        // colours and images
+        {"MESS_SCENE_NO_MAP", "the color map \"%1\" does not exist"},
+        {"MESS_SCENE_BAD_MAP", "the color map \"%1\" cannot be used (%2)", {Name, Nested}},
+        {"MESS_SCENE_EMPTY_RASTER", "the raster \"%1\" has no values"},
+        {"MESS_SCENE_BAD_RASTER",
+         "the raster \"%1\" cannot be used for colors (%2)",
+         {Name, Nested}},
+        {"MESS_SCENE_NO_VALUE",
+         "%1 of %2 buildings have no value in the raster \"%3\"",
+         {Count, Count, Name}},
+        {"MESS_SCENE_NO_COLORS", "\"%1\" tells no colors of buildings"},
+        {"MESS_SCENE_BAD_IMAGE", "the image \"%1\" is not shown (%2)", {Name, Nested}},
+        {"MESS_SCENE_MORE_IMAGES", "%1 more images are not shown", {Count}},
+
+        // reasons
+        {"MESS_SCENE_OTHER_COMPUTER", "not a file or folder of this computer"},
+        {"MESS_SCENE_VIRTUAL_RASTER",
+         "virtual rasters are not opened: convert this one with gdal_translate"},
+        {"MESS_SCENE_VIRTUAL_VECTOR",
+         "virtual vector files are not opened: convert this one with ogr2ogr"},
+        {"MESS_SCENE_NOT_IN_FILE", "not in a file of this computer"},
+        {"MESS_SCENE_NO_PART", "the file holds no such image"},
+        {"MESS_SCENE_NO_LOCAL_FILE", "there is no such local file"},
+        {"MESS_TERRAIN_NOT_LOCAL", "no local file has this name"},
+        {"MESS_TERRAIN_NOT_PLACED", "it has no band of heights, no place or no coordinate system"},
+        {"MESS_TERRAIN_TOO_LARGE", "it is stored in blocks that are too large"},
+        {"MESS_SCENE_NO_WAY", "there is no way to its coordinate system"},
+        {"MESS_SCENE_NO_WAY_FROM",
+         "there is no way from the buildings' coordinate system to its own"},
+        {"MESS_SCENE_NO_MAP_IN", "No color association found in %1"},
+        {"MESS_SCENE_NO_COLOR", "Unknown color : %1"},
+        {"MESS_SCENE_BAD_SHARE", "Wrong value for a percentage : %1"},
+        {"MESS_SCENE_LARGE_MAP", "%1 is too large for a color map"},
+        {"MESS_SCENE_NOT_ONE_BAND", "it has not one band"},
+        {"MESS_SCENE_COMPLEX", "its values are complex numbers"},
+        {"MESS_SCENE_BAD_NODATA", "the no-data value \"%1\" is no number"},
+        {"MESS_SCENE_NOT_PLACED", "it has no place"},
+        {"MESS_SCENE_NO_BANDS", "it has no bands"},
+        {"MESS_SCENE_WITHOUT_HEIGHT", "it has no height"},
+        {"MESS_SCENE_SAME_HEIGHT", "another one has the same height"},
+        {"MESS_SCENE_NO_FORMAT", "`%1' not recognized as a supported file format."},
+        {"MESS_SCENE_NO_FORMAT", "`%1' not recognized as being in a supported file format."},
+    });
+}();
+
+using SceneTextId = TextIdOf<SceneTexts>;
+
+/// The English text with the values in its places.
+inline std::string formatted(SceneTextId id, std::initializer_list<std::string_view> values = {})
+{
+    return formatted(id.text(), values);
+}
+
+} // namespace vlt::contract
