@@ -2,6 +2,7 @@
 
 #include "colormaps/ColorMapText.h"
 #include "colormaps/PaletteFile.h"
+#include "contract/SceneTexts.h"
 
 #include <cpl_error.h>
 
@@ -51,18 +52,21 @@ ColorTable readText(const std::string &path, double minimum, double maximum)
 {
     const std::optional<std::string> text = readFile(path);
     if (!text) {
-        CPLError(CE_Failure, CPLE_AppDefined, "Cannot find %s", path.c_str());
+        CPLError(CE_Failure, CPLE_AppDefined, "%s",
+                 contract::formatted("MESS_SCENE_NO_MAP_FILE", {path}).c_str());
         return {};
     }
     if (text->size() > ColorMap::MaxFileSize) {
-        CPLError(CE_Failure, CPLE_AppDefined, "%s is too large for a color map", path.c_str());
+        CPLError(CE_Failure, CPLE_AppDefined, "%s",
+                 contract::formatted("MESS_SCENE_LARGE_MAP", {path}).c_str());
         return {};
     }
     std::optional<ColorTable> table = parseColorMapText(*text, minimum, maximum);
     if (!table)
         return {};
     if (table->associations.empty()) {
-        CPLError(CE_Failure, CPLE_AppDefined, "No color association found in %s", path.c_str());
+        CPLError(CE_Failure, CPLE_AppDefined, "%s",
+                 contract::formatted("MESS_SCENE_NO_MAP_IN", {path}).c_str());
         return {};
     }
     return *std::move(table);

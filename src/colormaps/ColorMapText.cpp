@@ -1,5 +1,7 @@
 #include "colormaps/ColorMapText.h"
 
+#include "contract/SceneTexts.h"
+
 #include <cpl_conv.h>
 #include <cpl_error.h>
 
@@ -60,10 +62,10 @@ bool isSameWord(std::string_view a, std::string_view b)
                       [lower](char x, char y) { return lower(x) == lower(y); });
 }
 
-void report(const char *format, std::string_view token)
+void report(contract::SceneTextId text, std::string_view token)
 {
-    CPLError(CE_Failure, CPLE_AppDefined, format,
-             std::string(token.substr(0, MaxShownToken)).c_str());
+    CPLError(CE_Failure, CPLE_AppDefined, "%s",
+             contract::formatted(text, {token.substr(0, MaxShownToken)}).c_str());
 }
 
 Tokens tokensOf(std::string_view line)
@@ -120,7 +122,7 @@ std::optional<Rgba> readColor(const Tokens &tokens)
             return isSameWord(one.name, tokens.text[1]);
         });
     if (named == NamedColors.end()) {
-        report("Unknown color : %s", tokens.text[1]);
+        report("MESS_SCENE_NO_COLOR", tokens.text[1]);
         return std::nullopt;
     }
     Rgba color = named->color;
@@ -166,7 +168,7 @@ public:
             if (!m_hasRange)
                 return true;
             if (value < 0 || value > 100) {
-                report("Wrong value for a percentage : %s", first);
+                report("MESS_SCENE_BAD_SHARE", first);
                 return false;
             }
             value = atPercentage(value, m_minimum, m_maximum);

@@ -1,5 +1,6 @@
 #include "coverage/CoverageRaster.h"
 
+#include "contract/SceneTexts.h"
 #include "coverage/LocalRaster.h"
 #include "coverage/RasterBlocks.h"
 #include "coverage/RowRuns.h"
@@ -134,11 +135,11 @@ std::unique_ptr<CoverageRaster> CoverageRaster::open(const std::string &path,
     std::string why;
     GDALDatasetUniquePtr dataset = openLocalRaster(path, RasterUse::Values, &why);
     if (dataset && dataset->GetRasterCount() != 1)
-        why = "it has not one band";
+        why = contract::formatted("MESS_SCENE_NOT_ONE_BAND");
     else if (dataset && GDALDataTypeIsComplex(dataset->GetRasterBand(1)->GetRasterDataType()))
-        why = "its values are complex numbers";
+        why = contract::formatted("MESS_SCENE_COMPLEX");
     else if (dataset && !typed && !isEmpty(noData))
-        why = "the no-data value \"" + noData + "\" is no number";
+        why = contract::formatted("MESS_SCENE_BAD_NODATA", {noData});
     if (why.empty())
         return std::unique_ptr<CoverageRaster>(
             new CoverageRaster(std::make_unique<Parts>(std::move(dataset), typed)));

@@ -1,5 +1,6 @@
 #include "coverage/LocalRaster.h"
 
+#include "contract/SceneTexts.h"
 #include "localfiles/LocalFormats.h"
 #include "localfiles/OpenLocal.h"
 
@@ -118,7 +119,8 @@ GDALDatasetUniquePtr openListedPart(const std::string &name)
     });
     if (isLocal && name.compare(slash, 2, "//") != 0)
         return localfiles::openRasterPicture(name); // not always that of the file
-    CPLError(CE_Failure, CPLE_OpenFailed, "not in a file of this computer");
+    CPLError(CE_Failure, CPLE_OpenFailed, "%s",
+             contract::formatted("MESS_SCENE_NOT_IN_FILE").c_str());
     return nullptr;
 }
 
@@ -136,9 +138,9 @@ GDALDatasetUniquePtr openLocalRaster(const std::string &name, RasterUse use, std
     if (!dataset) {
         why = CPLGetLastErrorMsg();
         if (why.empty())
-            why = "no local file has this name";
+            why = contract::formatted("MESS_TERRAIN_NOT_LOCAL");
     } else if (hasLargeBlocks(*dataset)) {
-        why = "it is stored in blocks that are too large";
+        why = contract::formatted("MESS_TERRAIN_TOO_LARGE");
         dataset.reset();
     }
     if (reason && !dataset)

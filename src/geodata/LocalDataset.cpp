@@ -1,5 +1,6 @@
 #include "geodata/LocalDataset.h"
 
+#include "contract/SceneTexts.h"
 #include "coverage/LocalRaster.h"
 #include "geodata/Subdatasets.h"
 #include "localfiles/LocalFormats.h"
@@ -18,7 +19,8 @@ GDALDatasetUniquePtr openLocalDataset(const QString &path, unsigned kind)
         return {};
     const QByteArray name = QFile::encodeName(QFileInfo(path).absoluteFilePath());
     if (!localfiles::isLocalDataset(name.toStdString())) {
-        CPLError(CE_Failure, CPLE_OpenFailed, "not a file or folder of this computer");
+        CPLError(CE_Failure, CPLE_OpenFailed, "%s",
+                 contract::formatted("MESS_SCENE_OTHER_COMPUTER").c_str());
         return {};
     }
     if (kind == GDAL_OF_RASTER)
@@ -35,7 +37,8 @@ GDALDatasetUniquePtr openLocalRaster(const QString &path, const QString &part)
     const bool isListed = std::any_of(parts.begin(), parts.end(),
                                       [&part](const auto &one) { return one.name == part; });
     if (!isListed) {
-        CPLError(CE_Failure, CPLE_OpenFailed, "the file holds no such image");
+        CPLError(CE_Failure, CPLE_OpenFailed, "%s",
+                 contract::formatted("MESS_SCENE_NO_PART").c_str());
         return {};
     }
     return coverage::openListedPart(QFile::encodeName(part).toStdString());

@@ -1,5 +1,6 @@
 #include "linkpath/TerrainRaster.h"
 
+#include "contract/SceneTexts.h"
 #include "localfiles/LocalFormats.h"
 #include "localfiles/NoNetwork.h"
 #include "localfiles/OpenLocal.h"
@@ -23,6 +24,9 @@ constexpr double MetresPerFoot = 0.3048;
 constexpr double MetresPerSurveyFoot = 1200.0 / 3937;
 constexpr double FarthestFromSeaLevelM = 12000; ///< no ground is higher or deeper
 constexpr double EdgePixels = 1e-6; ///< by which rounding may move a place beyond the edge
+
+constexpr const char *NotPlaced = contract::SceneTextId("MESS_TERRAIN_NOT_PLACED").text().pattern;
+constexpr const char *TooLarge = contract::SceneTextId("MESS_TERRAIN_TOO_LARGE").text().pattern;
 
 double metresPerUnit(const char *unit)
 {
@@ -53,7 +57,7 @@ std::unique_ptr<TerrainRaster> TerrainRaster::open(const std::string &path, std:
     const localfiles::NoNetwork offline;
     std::string why;
     if (!localfiles::isLocalFile(path))
-        why = TerrainNotLocal;
+        why = contract::formatted("MESS_TERRAIN_NOT_LOCAL");
     std::unique_ptr<TerrainRaster> raster;
     if (why.empty()) {
         GDALDatasetUniquePtr dataset = localfiles::openRasterValues(path);
@@ -85,17 +89,17 @@ const char *TerrainRaster::prepare(const TerrainHints &hints)
         srs = hints.assumedSrs;
     if (m_dataset->GetRasterCount() < 1 || !srs || m_dataset->GetGeoTransform(toPlace) != CE_None ||
         !GDALInvGeoTransform(toPlace, m_toPixel))
-        return TerrainNotPlaced;
+        return NotPlaced;
     m_srs = *srs;
     m_srs.SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
     m_band = m_dataset->GetRasterBand(1);
     if (GDALDataTypeIsComplex(m_band->GetRasterDataType()))
-        return TerrainNotPlaced;
+        return NotPlaced;
     int blockWidth = 0;
     int blockHeight = 0;
     m_band->GetBlockSize(&blockWidth, &blockHeight);
     if (static_cast<double>(blockWidth) * blockHeight > MostBlockPixels)
-        return TerrainTooLarge;
+        return TooLarge;
     if (srs->IsGeographic())
         m_wholeTurn = 2 * M_PI / srs->GetAngularUnits();
     const double unitM =
@@ -111,7 +115,7 @@ const char *TerrainRaster::prepare(const TerrainHints &hints)
         m_noData = asStored(noData);
     if (hints.noData)
         m_alsoNoData = asStored(*hints.noData);
-    return m_pixelSizeM > 0 ? nullptr : TerrainNotPlaced;
+    return m_pixelSizeM > 0 ? nullptr : NotPlaced;
 }
 
 std::optional<double> TerrainRaster::pixelM(int column, int row)

@@ -12,12 +12,6 @@
 
 namespace vlt::linkpath {
 
-/// Reasons of a refusal that are not GDAL's.
-inline constexpr char TerrainNotLocal[] = "no local file has this name";
-inline constexpr char TerrainNotPlaced[] =
-    "it has no band of heights, no place or no coordinate system";
-inline constexpr char TerrainTooLarge[] = "it is stored in blocks that are too large";
-
 /// What a caller knows of a terrain file better than the file itself.
 struct TerrainHints
 {
@@ -30,8 +24,8 @@ class TerrainRaster
 {
 public:
     /// Opens a local raster file; null where it cannot be opened, is not georeferenced or has no
-    /// coordinate system, neither its own nor an assumed one. `reason` takes why: one of the texts
-    /// above, else GDAL's words.
+    /// coordinate system, neither its own nor an assumed one. `reason` takes why: a text of
+    /// contract/SceneTexts.h, else GDAL's words.
     static std::unique_ptr<TerrainRaster> open(const std::string &path, std::string *reason,
                                                const TerrainHints &hints = {});
 

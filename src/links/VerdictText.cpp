@@ -1,8 +1,8 @@
 #include "links/VerdictText.h"
 
 #include "geodata/LinkCheck.h"
+#include "language/ReaderText.h"
 #include "language/VltLanguageManager.h"
-#include "linkpath/TerrainRaster.h"
 
 namespace vlt::links {
 
@@ -54,16 +54,9 @@ namespace {
 
 QString reasonText(const QString &reason)
 {
-    if (reason == QLatin1String(linkpath::TerrainNotLocal))
-        return dico_label("MESS_TERRAIN_NOT_LOCAL", "no local file has this name");
-    if (reason == QLatin1String(linkpath::TerrainNotPlaced))
-        return dico_label("MESS_TERRAIN_NOT_PLACED",
-                          "it has no band of heights, no place or no coordinate system");
-    if (reason == QLatin1String(linkpath::TerrainTooLarge))
-        return dico_label("MESS_TERRAIN_TOO_LARGE", "it is stored in blocks that are too large");
     if (reason.contains(QLatin1String("not recognized as"))) // the library's words
         return dico_label("MESS_TERRAIN_NO_RASTER", "its format is not a known raster format");
-    return reason;
+    return language::readerText(reason);
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "localfiles/OpenLocal.h"
 
+#include "contract/SceneTexts.h"
 #include "localfiles/LocalFormats.h"
 
 #include <cpl_error.h>
@@ -35,7 +36,8 @@ GDALDatasetUniquePtr openRaster(const std::string &name, const char *const *opti
         GDALDataset::Open(name.c_str(), GDAL_OF_RASTER | GDAL_OF_READONLY | GDAL_OF_VERBOSE_ERROR,
                           localRasterFormats(), options));
     if (!raster && isVirtualRaster(name))
-        CPLError(CE_Failure, CPLE_OpenFailed, "%s", VirtualRasterText);
+        CPLError(CE_Failure, CPLE_OpenFailed, "%s",
+                 contract::formatted("MESS_SCENE_VIRTUAL_RASTER").c_str());
     return raster;
 }
 
@@ -60,7 +62,10 @@ GDALDatasetUniquePtr openVector(const std::string &name)
                           localVectorFormats()));
     if (!vector && (isVirtualVector(name) || isVirtualRaster(name)))
         CPLError(CE_Failure, CPLE_OpenFailed, "%s",
-                 isVirtualVector(name) ? VirtualVectorText : VirtualRasterText);
+                 contract::formatted(isVirtualVector(name)
+                                         ? contract::SceneTextId("MESS_SCENE_VIRTUAL_VECTOR")
+                                         : contract::SceneTextId("MESS_SCENE_VIRTUAL_RASTER"))
+                     .c_str());
     return vector;
 }
 

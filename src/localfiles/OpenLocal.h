@@ -22,12 +22,6 @@ GDALDatasetUniquePtr openVector(const std::string &name);
 /// Whether band 1 of a raster is a colour of a picture or an index of colours, which no terrain is.
 bool holdsColors(GDALDataset &raster);
 
-/// Reason given for files that only name other files: they are not opened.
-inline constexpr char VirtualRasterText[] =
-    "virtual rasters are not opened: convert this one with gdal_translate";
-inline constexpr char VirtualVectorText[] =
-    "virtual vector files are not opened: convert this one with ogr2ogr";
-
 /// Whether a file is a virtual raster.
 bool isVirtualRaster(const std::string &name);
 

@@ -200,7 +200,7 @@ private Q_SLOTS:
         row("link ../l.csv -o old.lay --terrain ../l.csv", 1,
             "../l.csv: the terrain file cannot be read as a georeferenced raster (its format is "
             "not a known raster format)");
-        row("link ../l.csv -o old.lay --terrain no.tif", 1, "(no local file has this name)");
+        row("link ../l.csv -o old.lay --terrain no.tif", 1, "(there is no such local file)");
         row("link ../l.csv -o ../hills.asc --terrain ../hills.asc", 1, "one of the input files");
         row("link ../l.csv -o - --report", 2, "'-o -' and --report do not go together");
         row("link ../l.csv", 2, "no output file given (-o OUT.lay), and no --report");

@@ -173,7 +173,8 @@ private Q_SLOTS:
             u"Unknown color : "_s + QString(256, u'z'));
         row("empty", {}, u"No color association found in %1"_s, "a.cmap");
         row("no data only", "nv red\n# x y", u"No color association found in %1"_s);
-        row("huge", QByteArray((16 << 20) + 1, '\n'), u"%1 is too large for a color map"_s);
+        row("huge", QByteArray((16 << 20) + 1, '\n'),
+            u"the file %1 is too large for a color map"_s);
         for (const char *name : {"myINDEX.txt", "a.clr", "a.txt.bak", "txt"})
             row(name, "1 red", {}, name);
     }

@@ -327,18 +327,19 @@ private Q_SLOTS:
         QTest::addColumn<QString>("name");
         QTest::addColumn<QString>("noData");
         QTest::addColumn<QString>("reason");
-        QTest::newRow("bands") << u"three.tif"_s << QString() << u"it has not one band"_s;
+        QTest::newRow("bands") << u"three.tif"_s << QString()
+                               << u"it does not have exactly one band"_s;
         QTest::newRow("no number")
-            << u"one.tif"_s << u"-1,5"_s << u"the no-data value \"-1,5\" is no number"_s;
-        QTest::newRow("absent") << u"absent.tif"_s << QString() << u"no local file has this name"_s;
+            << u"one.tif"_s << u"-1,5"_s << u"the no-data value \"-1,5\" is not a number"_s;
+        QTest::newRow("absent") << u"absent.tif"_s << QString() << u"there is no such local file"_s;
         QTest::newRow("more marks of paths than can be tried")
-            << u":/"_s.repeated(50000) << QString() << u"no local file has this name"_s;
+            << u":/"_s.repeated(50000) << QString() << u"there is no such local file"_s;
         QTest::newRow("part that is none")
-            << u"GTIFF_DIR:1:one.tif"_s << QString() << u"no local file has this name"_s;
+            << u"GTIFF_DIR:1:one.tif"_s << QString() << u"there is no such local file"_s;
         QTest::newRow("memory") << u"/vsimem/one.tif"_s << QString()
-                                << u"no local file has this name"_s;
+                                << u"there is no such local file"_s;
         QTest::newRow("network") << u"/vsicurl/http://localhost/one.tif"_s << QString()
-                                 << u"no local file has this name"_s;
+                                 << u"there is no such local file"_s;
         QTest::newRow("source elsewhere")
             << u"source.vrt"_s << QString() << u"virtual rasters are not opened"_s;
     }

@@ -95,7 +95,7 @@ private Q_SLOTS:
         row("flat.asc", "hollow.asc", "MESS_SCENE_NO_GROUND");
         row("town", "apart", "MESS_SCENE_LOWEST_GROUND", {u"1"_s, u"2"_s});
         row("flat.asc", "gone %1.asc", "MESS_SCENE_BAD_TERRAIN",
-            {u"gone %1.asc"_s, told("MESS_SCENE_NO_LOCAL_FILE", {})});
+            {u"gone %1.asc"_s, told("MESS_TERRAIN_NOT_LOCAL", {})});
         row("flat.asc", "text.tif", "MESS_SCENE_BAD_TERRAIN",
             {u"text.tif"_s, told("MESS_SCENE_NO_FORMAT", {m_dir.filePath(u"text.tif"_s)})});
 

@@ -361,9 +361,9 @@ private Q_SLOTS:
         QCOMPARE(images->levels().size(), 1U);
         const std::vector<std::string> reasons = {
             "unplaced.tif\" is not shown (it has no place)",
-            "\"absent.tif\" is not shown (no local file has this name)",
+            "\"absent.tif\" is not shown (there is no such local file)",
             "3.tif\" is not shown (another one has the same height)",
-            "\"http://localhost/a.tif\" is not shown (no local file"};
+            "\"http://localhost/a.tif\" is not shown (there is no such local file"};
         QCOMPARE(notices.size(), reasons.size());
         for (std::size_t i = 0; i < reasons.size(); ++i)
             QVERIFY2(notices[i].find(reasons[i]) != std::string::npos, notices[i].c_str());

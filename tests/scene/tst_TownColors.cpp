@@ -143,9 +143,9 @@ private Q_SLOTS:
               "band=2;type=minimum"})
             row(text, "tells no colors of buildings");
         row("IMAGE;x.tif;map.txt;average;absolute;interpolation",
-            "\"x.tif\" cannot be used for colors (no local file has this name)");
+            "\"x.tif\" cannot be used for colors (there is no such local file)");
         row("IMAGE;text.tif;map.txt;average;absolute;interpolation", "not recognized");
-        row("IMAGE;a.tif;map.txt;average;absolute;interpolation;ten", "\"ten\" is no number");
+        row("IMAGE;a.tif;map.txt;average;absolute;interpolation;ten", "\"ten\" is not a number");
         row("IMAGE;a.tif;x.txt;average;absolute;interpolation",
             "the color map \"x.txt\" does not exist");
         row("IMAGE;a.tif;bad.txt;average;absolute;interpolation",

@@ -37,10 +37,6 @@ public:
     static std::optional<Ground> open(const GroundSource &source, const OGRSpatialReference *srs,
                                       std::string &reason)
     {
-        if (source.path.empty()) {
-            reason = "there is no such local file";
-            return std::nullopt;
-        }
         OGRSpatialReference plane;
         plane.SetLocalCS("plane");
         Ground ground;

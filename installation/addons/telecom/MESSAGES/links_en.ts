@@ -47,21 +47,9 @@
         <extracomment>A reason in parentheses follows.</extracomment>
         <translation>the terrain file cannot be read as a georeferenced raster</translation>
     </message>
-    <message id="MESS_TERRAIN_NOT_LOCAL">
-        <source>no local file has this name</source>
-        <translation>no local file has this name</translation>
-    </message>
     <message id="MESS_TERRAIN_NO_RASTER">
         <source>its format is not a known raster format</source>
         <translation>its format is not a known raster format</translation>
-    </message>
-    <message id="MESS_TERRAIN_NOT_PLACED">
-        <source>it has no band of heights, no place or no coordinate system</source>
-        <translation>it has no band of heights, no place or no coordinate system</translation>
-    </message>
-    <message id="MESS_TERRAIN_TOO_LARGE">
-        <source>it is stored in blocks that are too large</source>
-        <translation>it is stored in blocks that are too large</translation>
     </message>
     <message id="MESS_TERRAIN_ELSEWHERE">
         <source>no way leads from the coordinate system of the links to that of the terrain</source>

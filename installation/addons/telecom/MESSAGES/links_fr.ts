@@ -47,21 +47,9 @@
         <extracomment>A reason in parentheses follows.</extracomment>
         <translation>le fichier de terrain ne peut pas être lu comme image géoréférencée</translation>
     </message>
-    <message id="MESS_TERRAIN_NOT_LOCAL">
-        <source>no local file has this name</source>
-        <translation>aucun fichier local ne porte ce nom</translation>
-    </message>
     <message id="MESS_TERRAIN_NO_RASTER">
         <source>its format is not a known raster format</source>
         <translation>son format n'est pas un format d'image connu</translation>
-    </message>
-    <message id="MESS_TERRAIN_NOT_PLACED">
-        <source>it has no band of heights, no place or no coordinate system</source>
-        <translation>il n'a pas de bande d'altitudes, pas d'emplacement ou pas de système de coordonnées</translation>
-    </message>
-    <message id="MESS_TERRAIN_TOO_LARGE">
-        <source>it is stored in blocks that are too large</source>
-        <translation>il est enregistré en blocs trop grands</translation>
     </message>
     <message id="MESS_TERRAIN_ELSEWHERE">
         <source>no way leads from the coordinate system of the links to that of the terrain</source>

@@ -4,8 +4,8 @@
 <context>
     <name>Scenes</name>
     <message id="MESS_SCENE_NO_FILE">
-        <source>it is no file</source>
-        <translation>it is no file</translation>
+        <source>it is not a file</source>
+        <translation>it is not a file</translation>
     </message>
     <message id="MESS_SCENE_UNREADABLE">
         <source>it cannot be read</source>
@@ -32,8 +32,8 @@
         <translation>the element source is missing or empty</translation>
     </message>
     <message id="MESS_SCENE_LONG_SOURCE">
-        <source>the element source is unreasonably long</source>
-        <translation>the element source is unreasonably long</translation>
+        <source>the element source is too long</source>
+        <translation>the element source is too long</translation>
     </message>
     <message id="MESS_SCENE_NO_END">
         <source>the element %1 does not end</source>
@@ -79,6 +79,38 @@
         <source>the tileSize is not more than zero</source>
         <translation>the tileSize is not more than zero</translation>
     </message>
+    <message id="MESS_SCENE_UNNAMED_TABLE">
+        <source>the source names no table</source>
+        <translation>the source names no table</translation>
+    </message>
+    <message id="MESS_SCENE_NO_TABLE">
+        <source>the table "%1" does not exist</source>
+        <translation>the table "%1" does not exist</translation>
+    </message>
+    <message id="MESS_SCENE_NO_TABLE_IN">
+        <source>the table "%1" does not exist (searched in %2)</source>
+        <translation>the table "%1" does not exist (searched in %2)</translation>
+    </message>
+    <message id="MESS_SCENE_NO_DRIVER">
+        <source>the table driver %1 was not found; GDAL_DRIVER_PATH must name its folder</source>
+        <translation>the table driver %1 was not found; GDAL_DRIVER_PATH must name its folder</translation>
+    </message>
+    <message id="MESS_SCENE_NO_END_LAYER">
+        <source>the table "%1" has no layer of link ends</source>
+        <translation>the table "%1" has no layer of link ends</translation>
+    </message>
+    <message id="MESS_SCENE_NO_END_FIELDS">
+        <source>the layer of link ends has no field "Link row" or "End"</source>
+        <translation>the layer of link ends has no field "Link row" or "End"</translation>
+    </message>
+    <message id="MESS_SCENE_UNPLACED_LINKS">
+        <source>none of %1 links of the table "%2" has a position</source>
+        <translation>none of %1 links of the table "%2" has a position</translation>
+    </message>
+    <message id="MESS_SCENE_UNPLACED_SITES">
+        <source>none of %1 sites of the table "%2" has a position</source>
+        <translation>none of %1 sites of the table "%2" has a position</translation>
+    </message>
     <message id="MESS_SCENE_NO_FRAME">
         <source>the coordinate system of the layer is neither projected nor geographic</source>
         <translation>the coordinate system of the layer is neither projected nor geographic</translation>
@@ -86,6 +118,18 @@
     <message id="MESS_SCENE_NO_PROJECTION">
         <source>the coordinate system of the layer cannot be projected</source>
         <translation>the coordinate system of the layer cannot be projected</translation>
+    </message>
+    <message id="MESS_SCENE_LINK_TERRAIN">
+        <source>the terrain "%1" cannot be used (%2); the links stand at height 0</source>
+        <translation>the terrain "%1" cannot be used (%2); the links stand at height 0</translation>
+    </message>
+    <message id="MESS_SCENE_LINK_GROUND">
+        <source>%1 of %2 pylons stand at height 0: there is no terrain height under them</source>
+        <translation>%1 of %2 pylons stand at height 0: there is no terrain height under them</translation>
+    </message>
+    <message id="MESS_SCENE_NO_SURFACE">
+        <source>no terrain is shown: there are no heights under the links</source>
+        <translation>no terrain is shown: there are no heights under the links</translation>
     </message>
     <message id="MESS_SCENE_NO_FOOTPRINTS">
         <source>there is no local file of footprints "%1"</source>
@@ -203,9 +247,17 @@
         <source>the file holds no such image</source>
         <translation>the file holds no such image</translation>
     </message>
-    <message id="MESS_SCENE_NO_LOCAL_FILE">
+    <message id="MESS_TERRAIN_NOT_LOCAL">
         <source>there is no such local file</source>
         <translation>there is no such local file</translation>
+    </message>
+    <message id="MESS_TERRAIN_NOT_PLACED">
+        <source>it has no band of heights, no georeference or no coordinate system</source>
+        <translation>it has no band of heights, no georeference or no coordinate system</translation>
+    </message>
+    <message id="MESS_TERRAIN_TOO_LARGE">
+        <source>it is stored in blocks that are too large</source>
+        <translation>it is stored in blocks that are too large</translation>
     </message>
     <message id="MESS_SCENE_NO_WAY">
         <source>there is no way to its coordinate system</source>
@@ -227,21 +279,25 @@
         <source>Wrong value for a percentage : %1</source>
         <translation>Wrong value for a percentage : %1</translation>
     </message>
+    <message id="MESS_SCENE_NO_MAP_FILE">
+        <source>Cannot find %1</source>
+        <translation>Cannot find %1</translation>
+    </message>
     <message id="MESS_SCENE_LARGE_MAP">
-        <source>%1 is too large for a color map</source>
-        <translation>%1 is too large for a color map</translation>
+        <source>the file %1 is too large for a color map</source>
+        <translation>the file %1 is too large for a color map</translation>
     </message>
     <message id="MESS_SCENE_NOT_ONE_BAND">
-        <source>it has not one band</source>
-        <translation>it has not one band</translation>
+        <source>it does not have exactly one band</source>
+        <translation>it does not have exactly one band</translation>
     </message>
     <message id="MESS_SCENE_COMPLEX">
         <source>its values are complex numbers</source>
         <translation>its values are complex numbers</translation>
     </message>
     <message id="MESS_SCENE_BAD_NODATA">
-        <source>the no-data value "%1" is no number</source>
-        <translation>the no-data value "%1" is no number</translation>
+        <source>the no-data value "%1" is not a number</source>
+        <translation>the no-data value "%1" is not a number</translation>
     </message>
     <message id="MESS_SCENE_NOT_PLACED">
         <source>it has no place</source>

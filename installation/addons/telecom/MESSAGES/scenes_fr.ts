@@ -4,7 +4,7 @@
 <context>
     <name>Scenes</name>
     <message id="MESS_SCENE_NO_FILE">
-        <source>it is no file</source>
+        <source>it is not a file</source>
         <translation>ce n'est pas un fichier</translation>
     </message>
     <message id="MESS_SCENE_UNREADABLE">
@@ -32,8 +32,8 @@
         <translation>l'élément source manque ou est vide</translation>
     </message>
     <message id="MESS_SCENE_LONG_SOURCE">
-        <source>the element source is unreasonably long</source>
-        <translation>l'élément source est d'une longueur déraisonnable</translation>
+        <source>the element source is too long</source>
+        <translation>l'élément source est trop long</translation>
     </message>
     <message id="MESS_SCENE_NO_END">
         <source>the element %1 does not end</source>
@@ -79,6 +79,38 @@
         <source>the tileSize is not more than zero</source>
         <translation>tileSize n'est pas supérieur à zéro</translation>
     </message>
+    <message id="MESS_SCENE_UNNAMED_TABLE">
+        <source>the source names no table</source>
+        <translation>la source n'indique pas de tableau</translation>
+    </message>
+    <message id="MESS_SCENE_NO_TABLE">
+        <source>the table "%1" does not exist</source>
+        <translation>le tableau «&#xa0;%1&#xa0;» n'existe pas</translation>
+    </message>
+    <message id="MESS_SCENE_NO_TABLE_IN">
+        <source>the table "%1" does not exist (searched in %2)</source>
+        <translation>le tableau «&#xa0;%1&#xa0;» n'existe pas (dossiers parcourus&#xa0;: %2)</translation>
+    </message>
+    <message id="MESS_SCENE_NO_DRIVER">
+        <source>the table driver %1 was not found; GDAL_DRIVER_PATH must name its folder</source>
+        <translation>le pilote de tableaux %1 est introuvable&#xa0;; GDAL_DRIVER_PATH doit indiquer son dossier</translation>
+    </message>
+    <message id="MESS_SCENE_NO_END_LAYER">
+        <source>the table "%1" has no layer of link ends</source>
+        <translation>le tableau «&#xa0;%1&#xa0;» n'a pas de couche des extrémités de liaisons</translation>
+    </message>
+    <message id="MESS_SCENE_NO_END_FIELDS">
+        <source>the layer of link ends has no field "Link row" or "End"</source>
+        <translation>la couche des extrémités de liaisons n'a pas de champ «&#xa0;Link row&#xa0;» ou «&#xa0;End&#xa0;»</translation>
+    </message>
+    <message id="MESS_SCENE_UNPLACED_LINKS">
+        <source>none of %1 links of the table "%2" has a position</source>
+        <translation>aucune liaison du tableau «&#xa0;%2&#xa0;» n'a de position (nombre de liaisons&#xa0;: %1)</translation>
+    </message>
+    <message id="MESS_SCENE_UNPLACED_SITES">
+        <source>none of %1 sites of the table "%2" has a position</source>
+        <translation>aucun site du tableau «&#xa0;%2&#xa0;» n'a de position (nombre de sites&#xa0;: %1)</translation>
+    </message>
     <message id="MESS_SCENE_NO_FRAME">
         <source>the coordinate system of the layer is neither projected nor geographic</source>
         <translation>le système de coordonnées de la couche n'est ni projeté ni géographique</translation>
@@ -86,6 +118,18 @@
     <message id="MESS_SCENE_NO_PROJECTION">
         <source>the coordinate system of the layer cannot be projected</source>
         <translation>le système de coordonnées de la couche ne peut pas être projeté</translation>
+    </message>
+    <message id="MESS_SCENE_LINK_TERRAIN">
+        <source>the terrain "%1" cannot be used (%2); the links stand at height 0</source>
+        <translation>le terrain «&#xa0;%1&#xa0;» ne peut pas être utilisé (%2)&#xa0;; les liaisons sont à l'altitude 0</translation>
+    </message>
+    <message id="MESS_SCENE_LINK_GROUND">
+        <source>%1 of %2 pylons stand at height 0: there is no terrain height under them</source>
+        <translation>pylônes posés à l'altitude 0, faute d'altitude du terrain sous eux&#xa0;: %1 sur %2</translation>
+    </message>
+    <message id="MESS_SCENE_NO_SURFACE">
+        <source>no terrain is shown: there are no heights under the links</source>
+        <translation>aucun terrain n'est affiché&#xa0;: il n'y a pas d'altitudes sous les liaisons</translation>
     </message>
     <message id="MESS_SCENE_NO_FOOTPRINTS">
         <source>there is no local file of footprints "%1"</source>
@@ -203,9 +247,17 @@
         <source>the file holds no such image</source>
         <translation>le fichier ne contient pas cette image</translation>
     </message>
-    <message id="MESS_SCENE_NO_LOCAL_FILE">
+    <message id="MESS_TERRAIN_NOT_LOCAL">
         <source>there is no such local file</source>
         <translation>ce fichier local n'existe pas</translation>
+    </message>
+    <message id="MESS_TERRAIN_NOT_PLACED">
+        <source>it has no band of heights, no georeference or no coordinate system</source>
+        <translation>il n'a pas de bande d'altitudes, pas de géoréférencement ou pas de système de coordonnées</translation>
+    </message>
+    <message id="MESS_TERRAIN_TOO_LARGE">
+        <source>it is stored in blocks that are too large</source>
+        <translation>il est enregistré en blocs trop grands</translation>
     </message>
     <message id="MESS_SCENE_NO_WAY">
         <source>there is no way to its coordinate system</source>
@@ -227,20 +279,24 @@
         <source>Wrong value for a percentage : %1</source>
         <translation>pourcentage incorrect&#xa0;: %1</translation>
     </message>
+    <message id="MESS_SCENE_NO_MAP_FILE">
+        <source>Cannot find %1</source>
+        <translation>impossible de trouver %1</translation>
+    </message>
     <message id="MESS_SCENE_LARGE_MAP">
-        <source>%1 is too large for a color map</source>
-        <translation>%1 est trop grand pour une palette</translation>
+        <source>the file %1 is too large for a color map</source>
+        <translation>le fichier %1 est trop grand pour une palette</translation>
     </message>
     <message id="MESS_SCENE_NOT_ONE_BAND">
-        <source>it has not one band</source>
-        <translation>il n'a pas une bande et une seule</translation>
+        <source>it does not have exactly one band</source>
+        <translation>il n'a pas exactement une bande</translation>
     </message>
     <message id="MESS_SCENE_COMPLEX">
         <source>its values are complex numbers</source>
         <translation>ses valeurs sont des nombres complexes</translation>
     </message>
     <message id="MESS_SCENE_BAD_NODATA">
-        <source>the no-data value "%1" is no number</source>
+        <source>the no-data value "%1" is not a number</source>
         <translation>la valeur d'absence de données «&#xa0;%1&#xa0;» n'est pas un nombre</translation>
     </message>
     <message id="MESS_SCENE_NOT_PLACED">
