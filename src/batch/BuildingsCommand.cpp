@@ -68,7 +68,7 @@ void warnOfImages(const BuildingsInputs &inputs)
                                                     "--texture nor --textures is given"));
         return;
     }
-    const QList<buildings::FileEntry> &images = inputs.look.textures->images;
+    const QList<buildings::FileEntry> &images = inputs.look.images;
     const auto count =
         std::count_if(images.begin(), images.end(),
                       [](const buildings::FileEntry &image) { return image.height == 0; });
@@ -85,7 +85,8 @@ QString layerJson(const BuildingsRequest &request, const BuildingsInputs &inputs
     const auto textOrNull = [](const QString &text) {
         return text.isEmpty() ? QJsonValue(QJsonValue::Null) : QJsonValue(text);
     };
-    const TexbSubtype subtype = request.look ? inputs.look.subtype : TexbSubtype::Colored;
+    const TexbSubtype subtype =
+        request.look ? buildings::subtypeOf(inputs.look.mode) : TexbSubtype::Colored;
     QJsonObject object{{QStringLiteral("layer"), QFileInfo(files.layer).absoluteFilePath()},
                        {QStringLiteral("document"), files.document},
                        {QStringLiteral("legend"), textOrNull(files.legend)},
@@ -96,15 +97,14 @@ QString layerJson(const BuildingsRequest &request, const BuildingsInputs &inputs
                        {QStringLiteral("buildings"), inputs.buildingCount < 0
                                                          ? QJsonValue(QJsonValue::Null)
                                                          : QJsonValue(inputs.buildingCount)},
-                       {QStringLiteral("terrain"), source.terrain.file},
-                       {QStringLiteral("terrainNoData"), textOrNull(source.terrain.noData)},
+                       {QStringLiteral("terrain"), source.terrainFile},
+                       {QStringLiteral("terrainNoData"), textOrNull(source.terrainNoData)},
                        {QStringLiteral("image"), textOrNull(inputs.coloring.rasterFile)},
                        {QStringLiteral("colormap"), textOrNull(inputs.coloring.colorMap)},
                        {QStringLiteral("xCenter"), source.xCenter},
                        {QStringLiteral("yCenter"), source.yCenter}};
     if (request.look)
-        object.insert(QStringLiteral("textures"),
-                      inputs.look.textures ? inputs.look.textures->images.size() : 0);
+        object.insert(QStringLiteral("textures"), inputs.look.images.size());
     return QString::fromUtf8(QJsonDocument(object).toJson());
 }
 

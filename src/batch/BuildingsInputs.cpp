@@ -98,9 +98,11 @@ Result<BuildingsSource> readVector(const BuildingsRequest &request, const QStrin
     return source;
 }
 
+/// The terrain's value of no data: the one that is given, else the file's own, else empty.
+///
 /// @param warning  takes what is odd about the terrain
-Result<buildings::TerrainSettings>
-readTerrain(const QString &path, const std::optional<QString> &noData, QString &warning)
+Result<QString> readTerrain(const QString &path, const std::optional<QString> &noData,
+                            QString &warning)
 {
     const Result<geodata::RasterSummary> terrain = geodata::readRasterSummary(absolutePath(path));
     if (!terrain)
@@ -114,8 +116,7 @@ readTerrain(const QString &path, const std::optional<QString> &noData, QString &
                              "This raster looks like a picture: its first band holds colors, which "
                              "would be taken for heights");
     const std::optional<double> own = terrain.value().noData;
-    return buildings::TerrainSettings{absolutePath(path),
-                                      noData.value_or(own ? text::f6(*own) : QString())};
+    return noData.value_or(own ? text::f6(*own) : QString());
 }
 
 /// The vector file that is given, else the project's.
@@ -147,11 +148,12 @@ Result<BuildingsInputs> readFiles(const BuildingsRequest &request, const Surroun
     if (dtm.isEmpty())
         return told(dico_label("MESS_CLI_NO_DTM", "the project names no terrain: give --dtm"),
                     project);
-    const auto terrain = readTerrain(dtm, request.terrainNoData, inputs.terrainWarning);
-    if (!terrain)
-        return terrain.error();
+    const auto noData = readTerrain(dtm, request.terrainNoData, inputs.terrainWarning);
+    if (!noData)
+        return noData.error();
     inputs.layer.source = source.value();
-    inputs.layer.source.terrain = terrain.value();
+    inputs.layer.source.terrainFile = absolutePath(dtm);
+    inputs.layer.source.terrainNoData = noData.value();
     inputs.layer.source.project = project;
     inputs.layer.footprints = request.footprints;
     inputs.layer.installDir = surroundings.installDir;
@@ -189,7 +191,7 @@ Result<BuildingsInputs> readBuildingsInputs(const BuildingsRequest &request,
     const auto images = readTextures(request.textures, quiet);
     if (!images)
         return images.error();
-    inputs.look.textures->images = images.value();
+    inputs.look.images = images.value();
     for (const buildings::FileEntry &image : images.value())
         inputs.files += fileOfDataset(image.file.filePath());
     return inputs;

@@ -1,6 +1,5 @@
 #include "batch/BuildingsOptions.h"
 
-#include "buildings/BuildingLayerFiles.h"
 #include "contract/RasterColors.h"
 #include "language/VltLanguageManager.h"
 
@@ -13,6 +12,12 @@ template<std::size_t N>
 QString choiceOf(const char *const (&words)[N])
 {
     return wordsOf(words).join(QLatin1Char('|'));
+}
+
+template<typename Number>
+sites::Limits limitsOf(const contract::ChosenNumber<Number> &number)
+{
+    return {static_cast<double>(number.minimum), static_cast<double>(number.maximum)};
 }
 
 QList<QCommandLineOption> coloredOptions()
@@ -74,22 +79,22 @@ QList<QCommandLineOption> texturedOptions()
                     "Where the images go: roofs take the one nearest to their height, walls "
                     "have a band for each, storeys are floors at the images' heights (default "
                     "roofs)."),
-         choiceOf(buildings::TextureModes)},
+         choiceOf(contract::TextureModeWords)},
         {QStringLiteral("wall-color"),
          dico_label("MESS_OPT_WALL_COLOR",
                     "Color of walls without an image, or colormap: from --image (default "
                     "%1).")
-             .arg(QLatin1String(WallColor)),
+             .arg(QLatin1String(contract::FirstWallColor)),
          QStringLiteral("RRGGBB|NAME|colormap")},
         {QStringLiteral("roof-color"),
          dico_label("MESS_OPT_ROOF_COLOR",
                     "Color of roofs without an image, or colormap: from --image (default "
                     "%1).")
-             .arg(QLatin1String(RoofColor)),
+             .arg(QLatin1String(contract::FirstRoofColor)),
          QStringLiteral("RRGGBB|NAME|colormap")},
         {QStringLiteral("edge-color"),
          dico_label("MESS_OPT_EDGE_COLOR", "Color of edges (default %1).")
-             .arg(QLatin1String(EdgeColor)),
+             .arg(QLatin1String(contract::FirstEdgeColor)),
          QStringLiteral("RRGGBB|NAME")},
         {QStringLiteral("force-edges"),
          dico_label("MESS_OPT_FORCE_EDGES", "Draw edges in any case.")},
@@ -99,18 +104,18 @@ QList<QCommandLineOption> texturedOptions()
         {QStringLiteral("cache"),
          dico_label("MESS_OPT_CACHE",
                     "What the builder keeps of the finished buildings (default none)."),
-         choiceOf(buildings::CacheModes)},
+         choiceOf(contract::CacheModeWords)},
         {QStringLiteral("delayed-write"),
          dico_label("MESS_OPT_DELAYED_WRITE",
                     "Write to the cache only when --cache-capacity elements wait.")},
         {QStringLiteral("compression"),
          dico_label("MESS_OPT_COMPRESSION",
                     "Compression of the images in graphics memory (default none)."),
-         choiceOf(buildings::Compressions)},
+         choiceOf(contract::TextureCompressionWords)},
         {QStringLiteral("magnify"),
          dico_label("MESS_OPT_MAGNIFY",
                     "How pixels are drawn from near: as squares (default), or blended."),
-         choiceOf(buildings::MagFilters)},
+         choiceOf(contract::MagFilterWords)},
     };
 }
 
@@ -121,38 +126,29 @@ const std::vector<NumberOption<BuildingsMeasures>> &buildingsNumbers()
     static const std::vector<NumberOption<BuildingsMeasures>> options = {
         {QStringLiteral("distance"),
          dico_label("MESS_OPT_DISTANCE", "Distance in metres up to which the buildings are shown"),
-         &BuildingsMeasures::distance,
-         {100, 100000}},
+         &BuildingsMeasures::distanceM, limitsOf(contract::ExtrudedVisibilityM)},
         {QStringLiteral("tile-size"),
          dico_label("MESS_OPT_TILE_SIZE",
                     "Side in metres of the tiles that the buildings are shared out to"),
-         &BuildingsMeasures::tileSize,
-         {10, 100000}},
+         &BuildingsMeasures::tileSizeM, limitsOf(contract::TileSizeM)},
         {QStringLiteral("skirt"),
          dico_label("MESS_OPT_SKIRT", "Metres that walls go down below the ground"),
-         &BuildingsMeasures::skirt,
-         {0, 1000}},
+         &BuildingsMeasures::skirtM, limitsOf(contract::SkirtHeightM)},
         {QStringLiteral("textured-distance"),
          dico_label("MESS_OPT_TEXTURED_DISTANCE",
                     "Distance in metres up to which the images are shown"),
-         &BuildingsMeasures::texturedDistance,
-         {100, 100000}},
+         &BuildingsMeasures::texturedDistanceM, limitsOf(contract::TexturedVisibilityM)},
         {QStringLiteral("cache-capacity"),
          dico_label("MESS_OPT_CACHE_CAPACITY",
                     "Elements that wait before they are written to the cache"),
-         &BuildingsMeasures::cacheCapacity,
-         {1, 1000000}},
+         &BuildingsMeasures::cacheCapacity, limitsOf(contract::CacheCapacity)},
         {QStringLiteral("buffer"),
          dico_label("MESS_OPT_BUFFER", "Metres outside a wall at which its colors are taken"),
-         &BuildingsMeasures::buffer,
-         {0, 1000},
-         false},
+         &BuildingsMeasures::bufferM, limitsOf(contract::TextureBufferM), false},
         {QStringLiteral("dilatation"),
          dico_label("MESS_OPT_DILATATION",
                     "Pixels by which the colors of an image grow into empty ones"),
-         &BuildingsMeasures::dilatation,
-         {1, 100},
-         false},
+         &BuildingsMeasures::dilatationPixels, limitsOf(contract::TextureDilatationPixels), false},
     };
     return options;
 }

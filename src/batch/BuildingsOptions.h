@@ -1,6 +1,7 @@
 #pragma once
 
 #include "batch/NumberOptions.h"
+#include "contract/BuildingDocument.h"
 
 #include <QStringList>
 
@@ -9,25 +10,20 @@
 
 namespace vlt::batch {
 
-/// The numbers of a layer of buildings, in metres but for the capacity, with their first-run
-/// values.
+/// The numbers of a layer of buildings, with their first-run values.
 struct BuildingsMeasures
 {
-    int distance = 2000; ///< up to which buildings are shown
-    double tileSize = 250;
-    double skirt = 5;
-    int texturedDistance = 2000; ///< up to which images are shown
-    int cacheCapacity = 100;     ///< elements
-    double buffer = 1;
-    int dilatation = 1; ///< pixels
+    int distanceM = contract::ExtrudedVisibilityM.firstRun; ///< up to which buildings are shown
+    double tileSizeM = contract::TileSizeM.firstRun;
+    double skirtM = contract::SkirtHeightM.firstRun;
+    int texturedDistanceM =
+        contract::TexturedVisibilityM.firstRun;           ///< up to which images are shown
+    int cacheCapacity = contract::CacheCapacity.firstRun; ///< elements
+    double bufferM = contract::TextureBufferM.firstRun;
+    int dilatationPixels = contract::TextureDilatationPixels.firstRun;
 };
 
 const std::vector<NumberOption<BuildingsMeasures>> &buildingsNumbers();
-
-/// Colours of a first run.
-inline constexpr char WallColor[] = "#d9d4c7";
-inline constexpr char RoofColor[] = "#b5634c";
-inline constexpr char EdgeColor[] = "#404040";
 
 /// What stands for a colour that comes from the raster.
 inline constexpr char ColorMapWord[] = "colormap";

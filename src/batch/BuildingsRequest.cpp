@@ -9,11 +9,10 @@ namespace vlt::batch {
 
 namespace {
 
-using buildings::CacheSettings;
 using buildings::RasterColoring;
-using buildings::Reduction;
-using buildings::TexbSubtype;
-using buildings::TexbTextures;
+using contract::BuildingCache;
+using contract::BuildingTextures;
+using contract::Reduction;
 
 /// Options that make no sense without another one.
 const QStringList OfImage = {QStringLiteral("image-nodata"), QStringLiteral("colormap"),
@@ -134,50 +133,48 @@ Result<RasterColoring> readImage(const QCommandLineParser &parser)
     return image;
 }
 
-Result<std::optional<CacheSettings>> readCache(const QCommandLineParser &parser,
-                                               const BuildingsMeasures &measures)
+Result<BuildingCache> readCache(const QCommandLineParser &parser, const BuildingsMeasures &measures)
 {
-    const QStringList modes = wordsOf(buildings::CacheModes);
-    const Result<int> mode = readWord(parser, QStringLiteral("cache"), modes);
+    const Result<int> mode =
+        readWord(parser, QStringLiteral("cache"), wordsOf(contract::CacheModeWords));
     if (!mode)
         return mode.error();
     if (mode.value() > 0)
-        return std::optional(CacheSettings{modes.at(mode.value()),
-                                           parser.isSet(QStringLiteral("delayed-write")),
-                                           measures.cacheCapacity});
+        return BuildingCache{static_cast<contract::CacheMode>(mode.value()),
+                             parser.isSet(QStringLiteral("delayed-write")), measures.cacheCapacity};
     for (const char *option : {"delayed-write", "cache-capacity"}) {
         if (parser.isSet(QLatin1String(option)))
             return wrongUsage(dico_label("MESS_USE_NEEDS_CACHE", "--%1 needs a --cache")
                                   .arg(QLatin1String(option)));
     }
-    return std::optional<CacheSettings>();
+    return BuildingCache();
 }
 
-Result<TexbTextures> readTextures(const QCommandLineParser &parser,
-                                  const BuildingsMeasures &measures)
+Result<BuildingTextures> readTextures(const QCommandLineParser &parser,
+                                      const BuildingsMeasures &measures)
 {
-    TexbTextures textures;
-    const Result<QString> edges = readColor(parser, QStringLiteral("edge-color"), EdgeColor, false);
+    BuildingTextures textures;
+    const Result<QString> edges =
+        readColor(parser, QStringLiteral("edge-color"), contract::FirstEdgeColor, false);
     if (!edges)
         return edges.error();
-    textures.edgeColor = edges.value();
+    textures.edgeColor = edges.value().toStdString();
     textures.forceEdgeCreation = parser.isSet(QStringLiteral("force-edges"));
     textures.processComplexBuildings = !parser.isSet(QStringLiteral("no-complex-buildings"));
-    const QStringList compressions = wordsOf(buildings::Compressions);
-    const Result<int> compression = readWord(parser, QStringLiteral("compression"), compressions);
+    const Result<int> compression =
+        readWord(parser, QStringLiteral("compression"), wordsOf(contract::TextureCompressionWords));
     if (!compression)
         return compression.error();
-    if (compression.value() > 0)
-        textures.compression = compressions.at(compression.value());
+    textures.compression = static_cast<contract::TextureCompression>(compression.value());
     if (parser.isSet(QStringLiteral("buffer")))
-        textures.bufferValue = measures.buffer;
+        textures.bufferM = measures.bufferM;
     if (parser.isSet(QStringLiteral("dilatation")))
-        textures.dilatationValue = measures.dilatation;
-    const QStringList filters = wordsOf(buildings::MagFilters);
-    const Result<int> filter = readWord(parser, QStringLiteral("magnify"), filters);
+        textures.dilatationPixels = measures.dilatationPixels;
+    const Result<int> filter =
+        readWord(parser, QStringLiteral("magnify"), wordsOf(contract::MagFilterWords));
     if (!filter)
         return filter.error();
-    textures.magFilter = filters.at(filter.value());
+    textures.magFilter = static_cast<contract::MagFilter>(filter.value());
     return textures;
 }
 
@@ -185,8 +182,10 @@ Result<TexbTextures> readTextures(const QCommandLineParser &parser,
 Result<buildings::TexturedLook> readLook(const QCommandLineParser &parser,
                                          const BuildingsMeasures &measures)
 {
-    const Result<QString> walls = readColor(parser, QStringLiteral("wall-color"), WallColor, true);
-    const Result<QString> roofs = readColor(parser, QStringLiteral("roof-color"), RoofColor, true);
+    const Result<QString> walls =
+        readColor(parser, QStringLiteral("wall-color"), contract::FirstWallColor, true);
+    const Result<QString> roofs =
+        readColor(parser, QStringLiteral("roof-color"), contract::FirstRoofColor, true);
     const auto cache = readCache(parser, measures);
     if (!walls)
         return walls.error();
@@ -205,7 +204,7 @@ Result<buildings::TexturedLook> readLook(const QCommandLineParser &parser,
                                      "colormap or --roof-color colormap"));
     buildings::TexturedLook look;
     look.cache = cache.value();
-    look.texturedVisibility = measures.texturedDistance;
+    look.texturedVisibilityM = measures.texturedDistanceM;
     look.wallColor = walls.value();
     look.roofColor = roofs.value();
     return look;
@@ -215,8 +214,6 @@ Result<buildings::TexturedLook> readLook(const QCommandLineParser &parser,
 std::optional<Error> readTextureChoice(const QCommandLineParser &parser,
                                        const BuildingsMeasures &measures, BuildingsRequest &request)
 {
-    constexpr TexbSubtype subtypes[] = {TexbSubtype::Roofs, TexbSubtype::Walls,
-                                        TexbSubtype::Storeys};
     TextureChoice &choice = request.textures;
     choice.files = parser.values(QStringLiteral("texture"));
     choice.templateFile = parser.value(QStringLiteral("textures"));
@@ -230,14 +227,14 @@ std::optional<Error> readTextureChoice(const QCommandLineParser &parser,
     if (!structure)
         return structure.error();
     choice.structure = static_cast<buildings::DataStructure>(structure.value());
-    const Result<int> place =
-        readWord(parser, QStringLiteral("texture-on"), wordsOf(buildings::TextureModes));
-    if (!place)
-        return place.error();
-    const Result<TexbTextures> textures = readTextures(parser, measures);
+    const Result<int> part =
+        readWord(parser, QStringLiteral("texture-on"), wordsOf(contract::TextureModeWords));
+    if (!part)
+        return part.error();
+    const Result<BuildingTextures> textures = readTextures(parser, measures);
     if (!textures)
         return textures.error();
-    request.look->subtype = subtypes[place.value()];
+    request.look->mode = static_cast<contract::TextureMode>(part.value());
     request.look->textures = textures.value();
     return std::nullopt;
 }
@@ -265,9 +262,9 @@ Result<BuildingsRequest> readBuildingsRequest(const QCommandLineParser &parser)
     BuildingsMeasures measures;
     if (const auto error = readNumberOptions(parser, buildingsNumbers(), measures))
         return *error;
-    request.footprints.extrudedVisibility = measures.distance;
-    request.footprints.tileSize = measures.tileSize;
-    request.footprints.skirtHeight = measures.skirt;
+    request.footprints.extrudedVisibilityM = measures.distanceM;
+    request.footprints.tileSizeM = measures.tileSizeM;
+    request.footprints.skirtHeightM = measures.skirtM;
     request.footprints.checkClockwise = parser.isSet(QStringLiteral("check-clockwise"));
 
     if (const auto error = checkCompanions(parser))

@@ -27,7 +27,7 @@ struct BuildingsRequest
     QString heightField; ///< empty: the one that looks like it
     QString terrain;     ///< empty: the project's
     std::optional<QString> terrainNoData;
-    buildings::FootprintSettings footprints;
+    contract::BuildingFootprints footprints;
     std::optional<buildings::RasterColoring> image; ///< image and colour map as given
     /// None: buildings that the image colours. Without textures: plain ones. Its textures have no
     /// images yet, its colours may be ColorMapWord.

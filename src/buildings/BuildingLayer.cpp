@@ -24,9 +24,23 @@ QString subtypeName(TexbSubtype subtype)
     return QStringLiteral("rf_storeys");
 }
 
+TexbSubtype subtypeOf(contract::TextureMode mode)
+{
+    switch (mode) {
+    case contract::TextureMode::Roofs:
+        return TexbSubtype::Roofs;
+    case contract::TextureMode::Walls:
+        return TexbSubtype::Walls;
+    case contract::TextureMode::Storeys:
+        break;
+    }
+    return TexbSubtype::Storeys;
+}
+
 QString texbUrl(const QString &documentPath)
 {
-    return QStringLiteral("TEXB:") + documentPath + QStringLiteral(".texb");
+    return QLatin1String(contract::BuildingSourcePrefix) + documentPath +
+           QLatin1String(contract::BuildingDocumentSuffix);
 }
 
 QString texbTemplatePath(const QString &installDir)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "contract/BuildingDocument.h"
 #include "platform/AtomicFile.h"
 #include "platform/Result.h"
 
@@ -21,6 +22,9 @@ struct TexbLayer
     TexbSubtype subtype = TexbSubtype::Colored;
     QString description;
 };
+
+/// What a layer shows whose images lie on this part of the buildings.
+TexbSubtype subtypeOf(contract::TextureMode mode);
 
 /// "rf_colored_buildings", "rf_roofs", "rf_walls", "rf_storeys".
 QString subtypeName(TexbSubtype subtype);

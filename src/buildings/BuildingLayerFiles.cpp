@@ -1,5 +1,6 @@
 #include "buildings/BuildingLayerFiles.h"
 
+#include "buildings/DocumentWriter.h"
 #include "buildings/TexturedInfoText.h"
 #include "colormaps/ColoredInfoText.h"
 #include "language/VltLanguageManager.h"
@@ -18,7 +19,7 @@ namespace {
 /// Pixels of the legend for one of the screen: it stays crisp on screens of fine pixels.
 constexpr int LegendScale = 2;
 
-const QString DocumentSuffix = QStringLiteral(".texb");
+constexpr QLatin1String DocumentSuffix(contract::BuildingDocumentSuffix);
 
 Error cannotCreate(const QString &path)
 {
@@ -171,6 +172,29 @@ private:
     QSize m_legendSize;               ///< as it is shown
 };
 
+/// What both kinds of documents say.
+contract::BuildingDocument documentOf(const BuildingLayerInput &input)
+{
+    const BuildingsSource &source = input.source;
+    contract::BuildingDocument document;
+    document.footprints = input.footprints;
+    document.footprints.file = source.file.toStdString();
+    document.footprints.layer = source.layer.toStdString();
+    document.footprints.heightField = source.heightField.toStdString();
+    document.terrain = {source.terrainFile.toStdString(), source.terrainNoData.toStdString()};
+    return document;
+}
+
+std::vector<contract::BuildingImage> usedImages(const QList<FileEntry> &images)
+{
+    std::vector<contract::BuildingImage> used;
+    for (const FileEntry &image : images) {
+        if (image.used)
+            used.push_back({image.file.filePath().toStdString(), image.height});
+    }
+    return used;
+}
+
 } // namespace
 
 BuildingLayerFiles filesOf(const QString &layerPath, const BuildingLayerInput &input)
@@ -196,23 +220,16 @@ QStringList possibleFilesOf(const QString &layerPath, const BuildingLayerInput &
     return paths;
 }
 
-FootprintSettings footprintsOf(const BuildingsSource &source, FootprintSettings settings)
-{
-    settings.file = source.file;
-    settings.layer = source.layer;
-    settings.heightField = source.heightField;
-    return settings;
-}
-
 Result<BuildingLayerFiles> writeColoredLayer(const QString &layerPath,
                                              const BuildingLayerInput &input,
                                              const RasterColoring &walls, platform::Access access,
                                              QString *reason)
 {
-    const QString document = writeColoredTexbDocument(
-        {footprintsOf(input.source, input.footprints), input.source.terrain, walls});
+    contract::BuildingDocument document = documentOf(input);
+    document.footprints.wallColor = imageColor(walls).toStdString();
     return FilesWriter(layerPath, input, access, reason)
-        .write(document, TexbSubtype::Colored, [](const QString &legend) { return legend; });
+        .write(writeColoredTexbDocument(document), TexbSubtype::Colored,
+               [](const QString &legend) { return legend; });
 }
 
 Result<BuildingLayerFiles> writeTexturedLayer(const QString &layerPath,
@@ -220,36 +237,20 @@ Result<BuildingLayerFiles> writeTexturedLayer(const QString &layerPath,
                                               const TexturedLook &look, platform::Access access,
                                               QString *reason)
 {
-    Texb document;
+    contract::BuildingDocument document = documentOf(input);
     document.cache = look.cache;
-    document.footprints = footprintsOf(input.source, input.footprints);
-    document.texturedVisibility = look.texturedVisibility;
-    document.wallColor = look.wallColor;
-    document.roofColor = look.roofColor;
-    document.terrain = input.source.terrain;
+    document.footprints.texturedVisibilityM = look.texturedVisibilityM;
+    document.footprints.wallColor = look.wallColor.toStdString();
+    document.footprints.roofColor = look.roofColor.toStdString();
     document.textures = look.textures;
-    if (document.textures)
-        document.textures->mode = textureModeName(look.subtype);
-
-    const QString images =
-        texturedInfoText(look.subtype, look.textures ? look.textures->images : QList<FileEntry>());
-    return FilesWriter(layerPath, input, access, reason)
-        .write(writeTexbDocument(document), look.subtype,
-               [&images](const QString &legend) { return QString(images + legend); });
-}
-
-QString textureModeName(TexbSubtype subtype)
-{
-    switch (subtype) {
-    case TexbSubtype::Walls:
-        return QLatin1String(TextureModes[1]);
-    case TexbSubtype::Storeys:
-        return QLatin1String(TextureModes[2]);
-    case TexbSubtype::Colored:
-    case TexbSubtype::Roofs:
-        break;
+    if (document.textures) {
+        document.textures->mode = look.mode;
+        document.textures->images = usedImages(look.images);
     }
-    return QLatin1String(TextureModes[0]);
+    const QString images = texturedInfoText(look.mode, look.images);
+    return FilesWriter(layerPath, input, access, reason)
+        .write(writeTexbDocument(document), subtypeOf(look.mode),
+               [&images](const QString &legend) { return QString(images + legend); });
 }
 
 } // namespace vlt::buildings

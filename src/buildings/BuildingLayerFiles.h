@@ -2,7 +2,10 @@
 
 #include "buildings/BuildingLayer.h"
 #include "buildings/BuildingsSource.h"
+#include "buildings/FileEntry.h"
+#include "buildings/RasterColoring.h"
 #include "colormaps/Legend.h"
+#include "contract/BuildingDocument.h"
 
 #include <optional>
 
@@ -30,7 +33,7 @@ struct LegendInput
 struct BuildingLayerInput
 {
     BuildingsSource source;
-    FootprintSettings footprints; ///< file, layer and field are taken from the source
+    contract::BuildingFootprints footprints; ///< the source names file, layer and field
     QString installDir;
     std::optional<LegendInput> legend;
 };
@@ -41,9 +44,6 @@ BuildingLayerFiles filesOf(const QString &layerPath, const BuildingLayerInput &i
 
 /// All paths that writing such a layer may write to.
 QStringList possibleFilesOf(const QString &layerPath, const BuildingLayerInput &input);
-
-/// The file, layer, field of `source` with the measures of `settings`.
-FootprintSettings footprintsOf(const BuildingsSource &source, FootprintSettings settings);
 
 /// Writes a layer of buildings that a raster colours: document, legend, layer, in this order. After
 /// a failure the files are as they were.
@@ -60,12 +60,13 @@ Result<BuildingLayerFiles> writeColoredLayer(const QString &layerPath,
 /// The looks of a layer of buildings with images.
 struct TexturedLook
 {
-    std::optional<CacheSettings> cache;
-    double texturedVisibility = 0; ///< metres
-    QString wallColor;             ///< "#RRGGBB" or colorMapColor()
+    contract::BuildingCache cache;
+    double texturedVisibilityM = 0;
+    QString wallColor; ///< "#RRGGBB" or colorMapColor()
     QString roofColor;
-    TexbSubtype subtype = TexbSubtype::Roofs;
-    std::optional<TexbTextures> textures; ///< its mode is that of the subtype
+    contract::TextureMode mode = contract::TextureMode::Roofs;
+    std::optional<contract::BuildingTextures> textures; ///< the members beside it name mode, images
+    QList<FileEntry> images;                            ///< those that are used are written
 };
 
 /// The same for the full document.
@@ -73,14 +74,5 @@ Result<BuildingLayerFiles> writeTexturedLayer(const QString &layerPath,
                                               const BuildingLayerInput &input,
                                               const TexturedLook &look, platform::Access access,
                                               QString *reason = nullptr);
-
-/// Words of the full document for what is chosen, in the order in which lists offer them.
-inline constexpr const char *CacheModes[] = {"none", "all", "textured", "extruded"};
-inline constexpr const char *TextureModes[] = {"roofs", "walls", "storeys"};
-inline constexpr const char *Compressions[] = {"none", "arb", "dxt1", "dxt3", "dxt5"};
-inline constexpr const char *MagFilters[] = {"none", "linear"};
-
-/// The word of a subtype with images: one of TextureModes.
-QString textureModeName(TexbSubtype subtype);
 
 } // namespace vlt::buildings

@@ -11,7 +11,8 @@ BuildingsSource readBuildingsSource(const QVariantMap &parameters)
     source.file = textOf("Buildings");
     source.layer = textOf("Layer");
     source.heightField = textOf("Height");
-    source.terrain = {textOf("Dtm"), textOf("Nodata")};
+    source.terrainFile = textOf("Dtm");
+    source.terrainNoData = textOf("Nodata");
     source.xCenter = parameters.value(QStringLiteral("CenterX")).toDouble();
     source.yCenter = parameters.value(QStringLiteral("CenterY")).toDouble();
     source.project = textOf("ProjectName");

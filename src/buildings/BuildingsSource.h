@@ -1,7 +1,6 @@
 #pragma once
 
-#include "buildings/BuildingDocument.h"
-
+#include <QString>
 #include <QVariantMap>
 
 namespace vlt::buildings {
@@ -12,8 +11,9 @@ struct BuildingsSource
     QString file;
     QString layer;
     QString heightField;
-    TerrainSettings terrain;
-    double xCenter = 0; ///< of the extent of the buildings, in their system
+    QString terrainFile;
+    QString terrainNoData; ///< as typed; may be empty
+    double xCenter = 0;    ///< of the extent of the buildings, in their system
     double yCenter = 0;
     QString project; ///< path of the project file; may be empty
 };

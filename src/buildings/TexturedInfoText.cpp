@@ -10,18 +10,17 @@ namespace vlt::buildings {
 
 namespace {
 
-/// Longer lists of heights tell the first and the last.
-constexpr int MostHeights = 12;
+/// Of more heights only the first and the last are listed.
+constexpr int MaxHeights = 12;
 
-QString whereOf(TexbSubtype subtype)
+QString whereOf(contract::TextureMode mode)
 {
-    switch (subtype) {
-    case TexbSubtype::Walls:
+    switch (mode) {
+    case contract::TextureMode::Walls:
         return dico_label("MESS_TEX_WALLS", "Walls");
-    case TexbSubtype::Storeys:
+    case contract::TextureMode::Storeys:
         return dico_label("MESS_TEX_STOREYS", "Storeys");
-    case TexbSubtype::Colored:
-    case TexbSubtype::Roofs:
+    case contract::TextureMode::Roofs:
         break;
     }
     return dico_label("MESS_TEX_ROOFS", "Roofs");
@@ -40,14 +39,14 @@ QString heightsText(const std::set<double> &heights)
     QStringList texts;
     for (const double height : heights)
         texts << locale.toString(height, 'g', Digits);
-    if (texts.size() > MostHeights)
+    if (texts.size() > MaxHeights)
         texts = {texts.first() + QStringLiteral(" \u2013 ") + texts.last()};
     return texts.join(QStringLiteral(" \u00b7 ")) + QStringLiteral(" m");
 }
 
 } // namespace
 
-QString texturedInfoText(TexbSubtype subtype, const QList<FileEntry> &images)
+QString texturedInfoText(contract::TextureMode mode, const QList<FileEntry> &images)
 {
     int count = 0;
     std::set<double> heights; // several images may be for one height
@@ -61,7 +60,7 @@ QString texturedInfoText(TexbSubtype subtype, const QList<FileEntry> &images)
     if (count > 0) {
         const QString where =
             QStringLiteral("<span style=\"font-weight:600; text-decoration:underline;\">") +
-            whereOf(subtype) + QStringLiteral("</span>");
+            whereOf(mode) + QStringLiteral("</span>");
         lines.prepend(dico_label("MESS_TEXB_TEXTURED_ON", "Textured: %1").arg(where));
         lines << dico_label("MESS_TEXB_HEIGHTS", "Heights above the ground: %1")
                      .arg(heightsText(heights));

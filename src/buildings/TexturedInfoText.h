@@ -9,6 +9,6 @@ namespace vlt::buildings {
 /// images are, how many there are, the heights that they are for.
 ///
 /// @param images  those that are used count
-QString texturedInfoText(TexbSubtype subtype, const QList<FileEntry> &images);
+QString texturedInfoText(contract::TextureMode mode, const QList<FileEntry> &images);
 
 } // namespace vlt::buildings

@@ -1,5 +1,6 @@
-#include "buildings/BuildingDocument.h"
 #include "buildings/BuildingLayer.h"
+#include "buildings/DocumentWriter.h"
+#include "buildings/RasterColoring.h"
 #include "support/Files.h"
 
 #include <QTemporaryDir>
@@ -7,12 +8,14 @@
 
 using namespace Qt::StringLiterals;
 using namespace vlt::buildings;
+using namespace vlt::contract;
 
 namespace {
 
 // Values are written as they are.
-const FootprintSettings Town{u"/a&b/\"c\".shp"_s, u"%2 %1"_s, u"<h>%9"_s, 0.5, 1234567, 0.1, true};
-const TerrainSettings Terrain{u"/data/dem.tif"_s, u"-32768"_s};
+const BuildingFootprints Town{"/a&b/\"c\".shp", "%2 %1",   "<h>%9", 0.5, 1234567, 800.5,
+                              "#C0C0C0",        "#A05030", 0.1,     true};
+const BuildingTerrain Terrain{"/data/dem.tif", "-32768"};
 const RasterColoring Signal{u"/c/dbm.tif"_s,    u"/maps/signal.txt"_s, Reduction::Maximum,
                             /*stretched*/ true, /*interpolated*/ true, {}};
 
@@ -44,7 +47,7 @@ const QString Textures = uR"(  <textures~
     edgeColor="#000000"
     forceEdgeCreation="true"
     processComplexBuildings="false"
-OPTIONS    magFilter="LINEAR"
+OPTIONS    magFilter="linear"
   >
     <texture~
       filename="/t/h 1.5.png"
@@ -56,7 +59,7 @@ OPTIONS    magFilter="LINEAR"
     />
   </textures>
 )"_s;
-const QString Options = uR"(   compression="DXT1"
+const QString Options = uR"(   compression="dxt1"
     bufferValue="2.5"
     dilatationValue="1"
 )"_s;
@@ -72,8 +75,6 @@ const QString TexturedText = Root +
                              "  delayedCacheWriteCapacity=\"1000000\">\n"_s +
                              FirstLines + TwoColors + LastLines + Textures + End;
 
-const Texb Plain{{}, Town, 800.5, u"#C0C0C0"_s, u"#A05030"_s, Terrain, {}};
-
 } // namespace
 
 class tst_BuildingDocument : public QObject
@@ -88,21 +89,27 @@ private Q_SLOTS:
         const auto row = [](const char *name, const QString &actual, QString wanted) {
             QTest::newRow(name) << actual << wanted.replace(u"~\n"_s, u" \n"_s);
         };
-        row("coloured", writeColoredTexbDocument({Town, Terrain, Signal}), ColoredText);
-        row("plain", writeTexbDocument(Plain), PlainText);
+        BuildingDocument document{{}, Town, Terrain, {}};
+        row("plain", writeTexbDocument(document), PlainText);
+        document.footprints.wallColor = imageColor(Signal).toStdString();
+        row("coloured", writeColoredTexbDocument(document), ColoredText);
 
-        Texb document = Plain;
-        document.cache = CacheSettings{u"textured"_s, true, 1000000};
-        const QList<FileEntry> images{{u"/t/h 1.5.png"_s, 1.5, 0, {}, true, {}},
-                                      {u"/t/unused.png"_s, 3, 0, {}, false, {}},
-                                      {u"HDF5:\"/t/a.h5\"://b"_s, 1234567, 1, {}, true, {}}};
-        document.textures = TexbTextures{u"storeys"_s, u"#000000"_s, true,        false, u"DXT1"_s,
-                                         2.5,          1.,           u"LINEAR"_s, images};
+        document = {{CacheMode::Textured, true, 1000000}, Town, Terrain, {}};
+        document.textures =
+            BuildingTextures{TextureMode::Storeys,
+                             "#000000",
+                             true,
+                             false,
+                             TextureCompression::Dxt1,
+                             2.5,
+                             1,
+                             MagFilter::Linear,
+                             {{"/t/h 1.5.png", 1.5}, {"HDF5:\"/t/a.h5\"://b", 1234567}}};
         row("textured", writeTexbDocument(document),
             QString(TexturedText).replace(u"OPTIONS"_s, Options));
-        document.textures->compression.reset();
-        document.textures->bufferValue.reset();
-        document.textures->dilatationValue.reset();
+        document.textures->compression = TextureCompression::None;
+        document.textures->bufferM.reset();
+        document.textures->dilatationPixels.reset();
         row("textured without options", writeTexbDocument(document),
             QString(TexturedText).remove(u"OPTIONS"_s));
     }

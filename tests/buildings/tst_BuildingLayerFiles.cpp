@@ -1,4 +1,5 @@
 #include "buildings/BuildingLayerFiles.h"
+#include "buildings/DocumentWriter.h"
 #include "buildings/TexturedInfoText.h"
 #include "language/VltLanguageManager.h"
 #include "support/Files.h"
@@ -18,9 +19,7 @@ namespace {
 const QByteArray Template = "__TITLE__|__SUBTYPE__|__TEXB_URL__|__X_CENTER__|__Y_CENTER__|"
                             "__DESCRIPTION__\n";
 
-const FootprintSettings Footprints{
-    u"/d/\"a\" & b.shp"_s, u"quarter"_s, u"H"_s, 250, 2000, 5, false};
-const TerrainSettings Terrain{u"/d/dem.tif"_s, u"-9999"_s};
+const vlt::contract::BuildingFootprints Measures{{}, {}, {}, 250, 2000, 0, {}, {}, 5, false};
 const RasterColoring Signal{u"/d/dbm.tif"_s,     u"/maps/two.txt"_s,     Reduction::Average,
                             /*stretched*/ false, /*interpolated*/ false, u"-1"_s};
 
@@ -31,11 +30,15 @@ FileEntry image(const QString &path, double height, bool used = true)
 
 TexturedLook storeys()
 {
-    TexbTextures textures;
-    textures.mode = u"roofs"_s; // that of the subtype is written
-    textures.images = {image(u"/t/h6.tif"_s, 6), image(u"/t/no.tif"_s, 3, false),
-                       image(u"/t/h1.tif"_s, 1.5)};
-    return {{}, 1000, u"#102030"_s, colorMapColor(Signal), TexbSubtype::Storeys, textures};
+    const QList<FileEntry> images{image(u"/t/h6.tif"_s, 6), image(u"/t/no.tif"_s, 3, false),
+                                  image(u"/t/h1.tif"_s, 1.5)};
+    return {{},
+            1000,
+            u"#102030"_s,
+            colorMapColor(Signal),
+            vlt::contract::TextureMode::Storeys, // this one is written
+            vlt::contract::BuildingTextures{},
+            images};
 }
 
 } // namespace
@@ -50,9 +53,9 @@ private Q_SLOTS:
         m_dir = std::make_unique<QTemporaryDir>();
         writeFile(path(u"addons/telecom/template/template_texb.lay"_s), Template);
         writeFile(path(u"two.txt"_s), "0 red\n10 0 0 255\n");
-        m_input.source = {Footprints.file, Footprints.layer, u"H"_s, Terrain,
-                          651234.56789,    6758252,          {}};
-        m_input.footprints = {{}, {}, {}, 250, 2000, 5, false};
+        m_input.source = {u"/d/\"a\" & b.shp"_s, u"quarter"_s, u"H"_s, u"/d/dem.tif"_s, u"-9999"_s,
+                          651234.56789,          6758252,      {}};
+        m_input.footprints = Measures;
         m_input.installDir = m_dir->path();
         m_input.legend = LegendInput{u"two & more"_s, {}};
         QVERIFY(m_input.legend->map.load(path(u"two.txt"_s).toStdString()));
@@ -63,8 +66,12 @@ private Q_SLOTS:
         const auto files = writeColoredLayer(path(u"out.lay"_s), m_input, Signal, Access::UserOnly);
 
         QVERIFY(files);
-        QCOMPARE(readFile(path(u"out.texb"_s)),
-                 writeColoredTexbDocument({Footprints, Terrain, Signal}).toUtf8());
+        vlt::contract::BuildingDocument expected{{}, Measures, {"/d/dem.tif", "-9999"}, {}};
+        expected.footprints.file = "/d/\"a\" & b.shp";
+        expected.footprints.layer = "quarter";
+        expected.footprints.heightField = "H";
+        expected.footprints.wallColor = imageColor(Signal).toStdString();
+        QCOMPARE(readFile(path(u"out.texb"_s)), writeColoredTexbDocument(expected).toUtf8());
         const QImage legend(path(u"two & more_gradient.png"_s));
         QVERIFY(legend.width() > 100 && legend.width() % 2 == 0 &&
                 legend.height() % 2 == 0); // twice as fine as it is shown
@@ -88,7 +95,9 @@ private Q_SLOTS:
             writeTexturedLayer(path(u"out.lay"_s), m_input, storeys(), Access::Shared);
 
         QVERIFY(files);
-        QVERIFY(readFile(files.value().document).contains(" mode=\"storeys\"\n"));
+        const QByteArray document = readFile(files.value().document);
+        QVERIFY(document.contains(" mode=\"storeys\"\n"));
+        QCOMPARE(document.count("<texture "), 2); // of the images that are used
         const QByteArray layer = readFile(path(u"out.lay"_s));
         QVERIFY2(layer.startsWith("Buildings (quarter)|rf_storeys|TEXB:"), layer.constData());
         QVERIFY2(layer.contains("underline;\">Storeys</span><br/>Images: 2<br/>"
@@ -127,7 +136,7 @@ private Q_SLOTS:
         VltLanguageManager::getInstance().defaultSetup(
             {}, QString::fromUtf8(QTest::currentDataTag()), {});
 
-        const QString text = texturedInfoText(TexbSubtype::Walls, images);
+        const QString text = texturedInfoText(vlt::contract::TextureMode::Walls, images);
 
         QVERIFY2(text.endsWith(wanted), qPrintable(text));
     }

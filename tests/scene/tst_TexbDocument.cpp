@@ -1,8 +1,10 @@
+#include "buildings/DocumentWriter.h"
 #include "plugins/scene/buildings/TexbDocument.h"
 #include "plugins/scene/reading/BadLayer.h"
 
 #include <QtTest>
 
+using namespace vlt::contract;
 using namespace vlt::scene;
 
 namespace {
@@ -55,8 +57,10 @@ private Q_SLOTS:
         QByteArray escaped = plain;
         escaped.replace("<vector \n", "<vector\n");
 
-        QCOMPARE(parseTexbDocument(plain.toStdString()).layer, std::string("donn&#233;es"));
-        QCOMPARE(parseTexbDocument(escaped.toStdString()).layer, std::string("donn\u00e9es"));
+        QCOMPARE(parseTexbDocument(plain.toStdString()).footprints.layer,
+                 std::string("donn&#233;es"));
+        QCOMPARE(parseTexbDocument(escaped.toStdString()).footprints.layer,
+                 std::string("donn\u00e9es"));
     }
 
     void takesValuesAsTheyStand()
@@ -64,54 +68,57 @@ private Q_SLOTS:
         QFETCH(QByteArray, written);
         QFETCH(QByteArray, layer);
 
-        const TexbDocument read = parseTexbDocument(document(written).toStdString());
+        const BuildingDocument read = parseTexbDocument(document(written).toStdString());
 
-        QCOMPARE(QByteArray::fromStdString(read.layer), layer);
-        QCOMPARE(read.heightField, std::string("H"));
-        QVERIFY(read.terrainFile.empty());
+        QCOMPARE(QByteArray::fromStdString(read.footprints.layer), layer);
+        QCOMPARE(read.footprints.heightField, std::string("H"));
+        QVERIFY(read.terrain.file.empty());
     }
 
-    void readsEverything()
+    void readsWhatIsWritten_data()
     {
-        const TexbDocument read = parseTexbDocument(
-            "<!-- <vector filename=\"no.shp\"/> --><veltaroTexturedBuildings \n"
-            "  cache=\"all\" \n  delayedCacheWrite=\"true\" \n"
-            "  delayedCacheWriteCapacity=\"9\">\n"
-            "  <vector \n    filename=\"/d/a.shp\"\n    layer=\"a\"\n    hfield=\"HEIGHT\"\n"
-            "    tileSize=\"1.5e+06\"\n    extrudedVisibility=\"3000\"\n"
-            "    texturedVisibility=\"800.5\"\n    wallColor=\"IMAGE;r;m;minimum;absolute;x\"\n"
-            "    roofColor=\"#A05030\"\n    skirtHeight=\"0.5\"\n    checkClockwise=\"true\"\n  "
-            "/>\n"
-            "  <elevation \n    source=\"dtm\"\n    filename=\"/d/dem.tif\"\n"
-            "    nodata=\"-32768\"\n  />\n"
-            "  <textures \n    mode=\"storeys\"\n    edgeColor=\"#0000FF\"\n"
-            "    forceEdgeCreation=\"true\"\n    processComplexBuildings=\"true\"\n"
-            "   compression=\"dxt5\"\n    bufferValue=\"2.5\"\n    dilatationValue=\"3\"\n"
-            "    magFilter=\"linear\"\n  >\n"
-            "    <texture \n      filename=\"h1.png\"\n      height=\"1.5\"\n    />\n"
-            "    <texture \n      filename=\"cellar.png\"\n      height=\"-2\"\n    />\n"
-            "  </textures>\n</veltaroTexturedBuildings>\n");
+        QTest::addColumn<BuildingDocument>("document");
 
-        QCOMPARE(read.vectorFile, std::string("/d/a.shp"));
-        QCOMPARE(read.tileSizeM, 1.5e6);
-        QCOMPARE(read.extrudedVisibilityM, 3000.0);
-        QCOMPARE(read.texturedVisibilityM, 800.5);
-        QCOMPARE(read.wallColor, std::string("IMAGE;r;m;minimum;absolute;x"));
-        QCOMPARE(read.roofColor, std::string("#A05030"));
-        QCOMPARE(read.skirtHeightM, 0.5);
-        QVERIFY(read.checkClockwise);
-        QCOMPARE(read.terrainFile, std::string("/d/dem.tif"));
-        QCOMPARE(read.terrainNoData, std::string("-32768"));
-        QVERIFY(read.textures);
-        QCOMPARE(read.textures->mode, TextureMode::Storeys);
-        QCOMPARE(read.textures->edgeColor, std::string("#0000FF"));
-        QVERIFY(read.textures->forceEdgeCreation && read.textures->processComplexBuildings);
-        QVERIFY(read.textures->isCompressed && read.textures->isSmooth);
-        QCOMPARE(read.textures->bufferM, 2.5);
-        QCOMPARE(read.textures->dilatationPixels, 3.0);
-        QCOMPARE(read.textures->images.size(), std::size_t{2});
-        QCOMPARE(read.textures->images[1].path, std::string("cellar.png"));
-        QCOMPARE(read.textures->images[1].heightM, -2.0);
+        BuildingDocument document;
+        document.footprints = {"/a&b/\"c\".shp", "%2 %1", "<h>%9", 0.5, 123456, 800.5,
+                               "#C0C0C0",        "cmap:", 0.25,    true};
+        document.terrain = {"/d/dem.tif", "-32768"};
+        QTest::newRow("without images") << document;
+        document.textures = BuildingTextures{TextureMode::Storeys,
+                                             "#0000FF",
+                                             true,
+                                             true,
+                                             TextureCompression::Dxt5,
+                                             2.5,
+                                             3,
+                                             MagFilter::Linear,
+                                             {{"HDF5:\"/t/a.h5\"://b", 1.5}, {"cellar.png", -2}}};
+        QTest::newRow("with images") << document;
+        document.cache = {CacheMode::All, true, 9};
+        QTest::newRow("with a cache") << document;
+    }
+
+    void readsWhatIsWritten()
+    {
+        QFETCH(BuildingDocument, document);
+
+        const QString text = vlt::buildings::writeTexbDocument(document);
+
+        document.cache = {}; // of no use to a scene
+        QVERIFY2(parseTexbDocument(text.toStdString()) == document, qPrintable(text));
+    }
+
+    void isLenientWithWords()
+    {
+        const auto read = [](const QByteArray &attributes) {
+            return *parseTexbDocument(textures(attributes).toStdString()).textures;
+        };
+
+        QCOMPARE(read("compression=\"ETC\"").compression, TextureCompression::Arb);
+        QCOMPARE(read("compression=\"None\"").compression, TextureCompression::None);
+        QCOMPARE(read("magFilter=\"LINEAR\"").magFilter, MagFilter::Linear);
+        QCOMPARE(read("magFilter=\"cubic\"").magFilter, MagFilter::None);
+        QVERIFY(read("forceEdgeCreation=\"1\"").forceEdgeCreation);
     }
 
     void refusesOthers_data()

@@ -17,6 +17,7 @@
 
 namespace {
 
+using namespace vlt::contract;
 using namespace vlt::scene;
 using namespace towntest;
 using Places = Ring;
@@ -62,7 +63,7 @@ struct Tile
     std::set<double> plainLevels; ///< of faces in the town's colours
     unsigned edges = 0;
 
-    Tile(const Town &town, const TexbTextures &look, TextureImages &images)
+    Tile(const Town &town, const BuildingTextures &look, TextureImages &images)
     {
         const std::array<std::uint32_t, 1> all = {0};
         const osg::ref_ptr<osg::Node> node =
@@ -118,9 +119,9 @@ class TexturedTileTest : public QObject
     }
 
     /// Red tells the column, green the row, blue the height.
-    TexbTextures lookOf(TextureMode mode, const std::vector<double> &heights)
+    BuildingTextures lookOf(TextureMode mode, const std::vector<double> &heights)
     {
-        TexbTextures look;
+        BuildingTextures look;
         look.mode = mode;
         look.edgeColor = "#010203";
         for (const double height : heights)
@@ -140,7 +141,7 @@ class TexturedTileTest : public QObject
 
     static bool goOn(double) { return true; }
 
-    static std::shared_ptr<TextureImages> open(const Town &town, const TexbTextures &look)
+    static std::shared_ptr<TextureImages> open(const Town &town, const BuildingTextures &look)
     {
         Notices notices;
         const auto images = TextureImages::open(town, look, {"/"}, notices, goOn);
@@ -202,7 +203,7 @@ private Q_SLOTS:
         QFETCH(const std::set<double>, plain);
         QFETCH(const unsigned, edges);
         const Town town = townOf(rings, heightM);
-        TexbTextures look = lookOf(mode, {21, 3, 9});
+        BuildingTextures look = lookOf(mode, {21, 3, 9});
         look.bufferM = 10;
         look.processComplexBuildings = mode == TextureMode::Walls;
         const auto images = open(town, look);
@@ -214,7 +215,7 @@ private Q_SLOTS:
         Shown found;
         for (const Corner &corner : tile.corners) {
             const osg::Vec2d beside =
-                corner.place + osg::Vec2d(corner.normal.x(), corner.normal.y()) * look.bufferM;
+                corner.place + osg::Vec2d(corner.normal.x(), corner.normal.y()) * *look.bufferM;
             QCOMPARE(corner.color, expectedAt(beside, corner.color[2]));
             found[corner.color[2]].insert(corner.z);
             // outside is away from the middle around the building, towards it in the courtyard
@@ -312,7 +313,7 @@ private Q_SLOTS:
 
         // a building of a large town has little of the memory for all
         Town town = townOf({square(10, 10, 10 * Side - 20)}, 9);
-        TexbTextures look;
+        BuildingTextures look;
         look.images = {{path, 9}};
         QCOMPARE(Tile(town, look, *open(town, look)).imageColumns, MostCropPixels);
         town.footprints.buildings.resize(100000);
@@ -346,7 +347,7 @@ private Q_SLOTS:
 
     void namesImagesThatItCannotShow()
     {
-        TexbTextures look = lookOf(TextureMode::Roofs, {3});
+        BuildingTextures look = lookOf(TextureMode::Roofs, {3});
         const std::string unplaced = m_dir.filePath(QStringLiteral("unplaced.tif")).toStdString();
         GDALDatasetUniquePtr(GetGDALDriverManager()->GetDriverByName("GTiff")->Create(
             unplaced.c_str(), 1, 1, 1, GDT_Byte, nullptr));
@@ -372,7 +373,7 @@ private Q_SLOTS:
     void servesSeveralThreads()
     {
         const Town town = townOf({Square}, 12);
-        const TexbTextures look = lookOf(TextureMode::Walls, {3, 9});
+        const BuildingTextures look = lookOf(TextureMode::Walls, {3, 9});
         const auto images = open(town, look);
         std::atomic<unsigned> right = 0;
         std::vector<std::jthread> threads;

@@ -23,6 +23,8 @@ namespace vlt::scene {
 
 namespace {
 
+using contract::BuildingDocument;
+using contract::BuildingFootprints;
 using Directories = std::vector<std::string>;
 
 /// A stretch of the whole work.
@@ -111,13 +113,14 @@ std::size_t countCoincident(const Town &town)
     return count;
 }
 
-Town readTown(const TexbDocument &document, const Directories &directories, Notices &notices,
+Town readTown(const BuildingDocument &document, const Directories &directories, Notices &notices,
               const Progress &progress)
 {
-    const std::string file = locateDataset(document.vectorFile, directories);
+    const BuildingFootprints &footprints = document.footprints;
+    const std::string file = locateDataset(footprints.file, directories);
     if (file.empty())
-        throw BadLayer("there is no local file of footprints \"" + document.vectorFile + '"');
-    ReadFootprints read = readFootprints({file, document.layer, document.heightField}, notices,
+        throw BadLayer("there is no local file of footprints \"" + footprints.file + '"');
+    ReadFootprints read = readFootprints({file, footprints.layer, footprints.heightField}, notices,
                                          part(progress, 0, 0.5));
     const OGRSpatialReference *srs = read.srs ? &*read.srs : nullptr;
     Town town;
@@ -125,13 +128,13 @@ Town readTown(const TexbDocument &document, const Directories &directories, Noti
     town.srs = wktOf(read.srs);
     town.leftOut = read.leftOut;
     place(town, srs);
-    tellLeftOut(town.leftOut, document.heightField, read.features, notices);
+    tellLeftOut(town.leftOut, footprints.heightField, read.features, notices);
     if (const std::size_t count = countCoincident(town); count > 0)
         notices.push_back(std::to_string(count) + " of " + std::to_string(read.features) +
                           " buildings have the same outline as another one");
-    const GroundSource terrain{document.terrainFile,
-                               locateDataset(document.terrainFile, directories),
-                               document.terrainNoData};
+    const GroundSource terrain{document.terrain.file,
+                               locateDataset(document.terrain.file, directories),
+                               document.terrain.noData};
     town.baseM = groundUnder(town.footprints, srs, terrain, notices, part(progress, 0.5, 0.6));
     return town;
 }
@@ -147,23 +150,23 @@ std::vector<colormaps::Rgba> colorsOf(const Town &town, const std::string &color
     return colors;
 }
 
-void colour(Town &town, const TexbDocument &document, const Directories &directories,
+void colour(Town &town, const BuildingFootprints &footprints, const Directories &directories,
             Notices &notices, const Progress &progress)
 {
-    const bool isOne = document.roofColor.empty() || document.roofColor == document.wallColor;
-    town.wallColors = colorsOf(town, document.wallColor, directories, notices,
+    const bool isOne = footprints.roofColor.empty() || footprints.roofColor == footprints.wallColor;
+    town.wallColors = colorsOf(town, footprints.wallColor, directories, notices,
                                part(progress, 0.6, isOne ? 0.8 : 0.7));
-    town.roofColors =
-        isOne ? town.wallColors
-              : colorsOf(town, document.roofColor, directories, notices, part(progress, 0.7, 0.8));
+    town.roofColors = isOne ? town.wallColors
+                            : colorsOf(town, footprints.roofColor, directories, notices,
+                                       part(progress, 0.7, 0.8));
 }
 
 /// What makes tiles with images; empty where the document has none that can be used.
-TexturedMaker texturedMaker(const std::shared_ptr<const Town> &town, const TexbDocument &document,
-                            const Directories &directories, Notices &notices,
-                            const Progress &progress)
+TexturedMaker texturedMaker(const std::shared_ptr<const Town> &town,
+                            const BuildingDocument &document, const Directories &directories,
+                            Notices &notices, const Progress &progress)
 {
-    if (!document.textures || document.texturedVisibilityM <= 0)
+    if (!document.textures || document.footprints.texturedVisibilityM <= 0)
         return {};
     const std::shared_ptr<TextureImages> images =
         TextureImages::open(*town, *document.textures, directories, notices, progress);
@@ -171,7 +174,7 @@ TexturedMaker texturedMaker(const std::shared_ptr<const Town> &town, const TexbD
         throw BadLayer(contract::StoppedText);
     if (images->isEmpty())
         return {};
-    return [town, images, textures = *document.textures, skirtM = document.skirtHeightM](
+    return [town, images, textures = *document.textures, skirtM = document.footprints.skirtHeightM](
                std::span<const std::uint32_t> buildings, const osg::Vec3d &origin) {
         return buildTexturedTile(*town, textures, *images, buildings, origin, skirtM);
     };
@@ -182,12 +185,13 @@ TexturedMaker texturedMaker(const std::shared_ptr<const Town> &town, const TexbD
 osg::ref_ptr<osg::Group> readBuildingScene(const std::string &document, const std::string &project,
                                            Notices &notices, const Progress &progress)
 {
-    const TexbDocument texb = readTexbDocument(document);
+    const BuildingDocument texb = readTexbDocument(document);
     const Directories directories = documentDirectories(document, project);
+    const BuildingFootprints &footprints = texb.footprints;
     const auto town = std::make_shared<Town>(readTown(texb, directories, notices, progress));
-    colour(*town, texb, directories, notices, progress);
-    const TownLook look{texb.tileSizeM, texb.extrudedVisibilityM, texb.texturedVisibilityM,
-                        texb.skirtHeightM,
+    colour(*town, footprints, directories, notices, progress);
+    const TownLook look{footprints.tileSizeM, footprints.extrudedVisibilityM,
+                        footprints.texturedVisibilityM, footprints.skirtHeightM,
                         texturedMaker(town, texb, directories, notices, part(progress, 0.8, 0.9))};
     osg::ref_ptr<osg::Group> scene = buildTown(town, look, part(progress, 0.9, 1));
     tellFrame(*scene, town->frame);

@@ -6,16 +6,18 @@ namespace vlt::scene {
 
 namespace {
 
-osg::ref_ptr<osg::Texture2D> textureOf(osg::Image &image, const TexbTextures &look)
+osg::ref_ptr<osg::Texture2D> textureOf(osg::Image &image, const contract::BuildingTextures &look)
 {
     osg::ref_ptr<osg::Texture2D> texture = new osg::Texture2D(&image);
     texture->setResizeNonPowerOfTwoHint(false);
     texture->setWrap(osg::Texture::WRAP_S, osg::Texture::CLAMP_TO_EDGE);
     texture->setWrap(osg::Texture::WRAP_T, osg::Texture::CLAMP_TO_EDGE);
     texture->setFilter(osg::Texture::MIN_FILTER, osg::Texture::LINEAR_MIPMAP_LINEAR);
-    texture->setFilter(osg::Texture::MAG_FILTER,
-                       look.isSmooth ? osg::Texture::LINEAR : osg::Texture::NEAREST);
-    if (look.isCompressed) // where the hardware has none of it, they stay as they are
+    texture->setFilter(osg::Texture::MAG_FILTER, look.magFilter == contract::MagFilter::Linear
+                                                     ? osg::Texture::LINEAR
+                                                     : osg::Texture::NEAREST);
+    if (look.compression != contract::TextureCompression::None) // where the hardware has none of
+                                                                // it, they stay as they are
         texture->setInternalFormatMode(osg::Texture::USE_S3TC_DXT5_COMPRESSION);
     return texture;
 }
@@ -53,12 +55,13 @@ void ImageFaces::addWall(const Wall &wall, double bottom, double top, const osg:
     m_indices.insert(m_indices.end(), {a, a + 1, a + 2, a, a + 2, a + 3});
 }
 
-osg::ref_ptr<osg::Geometry> ImageFaces::geometry(TextureImage &image, const TexbTextures &textures,
+osg::ref_ptr<osg::Geometry> ImageFaces::geometry(TextureImage &image,
+                                                 const contract::BuildingTextures &textures,
                                                  const osg::StateSet &state, int mostSide) const
 {
     std::vector<osg::Vec2d> pixels = m_looked;
     image.toPixels(pixels);
-    const ImageCrop crop = image.crop(pixels, textures.dilatationPixels, mostSide);
+    const ImageCrop crop = image.crop(pixels, textures.dilatationPixels.value_or(0), mostSide);
 
     const auto size = static_cast<unsigned>(m_vertices.size());
     osg::ref_ptr<osg::Geometry> geometry = new osg::Geometry;

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "contract/BuildingDocument.h"
 #include "plugins/scene/buildings/RoofTriangles.h"
-#include "plugins/scene/buildings/TexbDocument.h"
 #include "plugins/scene/buildings/TextureImage.h"
 
 #include <osg/Geometry>
@@ -41,7 +41,8 @@ public:
     ///
     /// @param state     what all such faces have in common
     /// @param mostSide  of the part of the image, in pixels: TextureImage::crop()
-    osg::ref_ptr<osg::Geometry> geometry(TextureImage &image, const TexbTextures &textures,
+    osg::ref_ptr<osg::Geometry> geometry(TextureImage &image,
+                                         const contract::BuildingTextures &textures,
                                          const osg::StateSet &state, int mostSide) const;
 
 private:

@@ -1,5 +1,6 @@
 #include "plugins/scene/buildings/TexbDocument.h"
 
+#include "contract/Words.h"
 #include "plugins/scene/reading/BadLayer.h"
 #include "plugins/scene/reading/LayerText.h"
 
@@ -13,21 +14,16 @@ namespace vlt::scene {
 
 namespace {
 
+using namespace contract;
+
 constexpr std::string_view Blanks = " \t\r\n";
 constexpr auto None = std::string_view::npos;
-constexpr double Most = 1e9; ///< metres or pixels: more makes no difference to what is seen
+/// Limit for hostile input, in metres or pixels: more makes no difference to what is seen.
+constexpr double MaxNumber = 1e9;
 
 std::string_view withoutBlanks(std::string_view text)
 {
     return text.substr(std::min(text.find_first_not_of(Blanks), text.size()));
-}
-
-std::string lowered(std::string_view text)
-{
-    std::string low(text);
-    std::transform(low.begin(), low.end(), low.begin(),
-                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-    return low;
 }
 
 /// The name at the start of a text; empty where there is none.
@@ -106,84 +102,91 @@ std::string textOf(const Attributes &attributes, std::string_view name)
     return {};
 }
 
-double numberOf(const Attributes &attributes, std::string_view name, double usual, double least = 0)
+double numberOf(const Attributes &attributes, std::string_view name, double absent,
+                double minimum = 0)
 {
     const std::string text = textOf(attributes, name);
     const std::string_view digits = withoutBlanks(text);
     if (digits.empty())
-        return usual;
+        return absent;
     double number = 0;
     const char *last = digits.data() + digits.size();
     const auto [end, fault] = std::from_chars(digits.data(), last, number);
     const bool isWhole = withoutBlanks({end, static_cast<std::size_t>(last - end)}).empty();
-    if (fault != std::errc() || !isWhole || !std::isfinite(number) || number < least)
+    if (fault != std::errc() || !isWhole || !std::isfinite(number) || number < minimum)
         throw BadLayer("the " + std::string(name) + " \"" + text.substr(0, 40) + "\" is no number" +
-                       (least < 0 ? "" : " of zero or more"));
-    return std::min(number, Most);
+                       (minimum < 0 ? "" : " of zero or more"));
+    return std::min(number, MaxNumber);
 }
 
 bool isTrue(const Attributes &attributes, std::string_view name)
 {
-    const std::string text = lowered(textOf(attributes, name));
-    return text == "true" || text == "1";
+    const std::string text = textOf(attributes, name);
+    return isSameWord(text, texb::True) || text == "1";
 }
 
-void takeVector(TexbDocument &document, const Attributes &attributes)
+BuildingFootprints footprintsOf(const Attributes &attributes)
 {
-    document.vectorFile = textOf(attributes, "filename");
-    document.layer = textOf(attributes, "layer");
-    document.heightField = textOf(attributes, "hfield");
-    document.tileSizeM = numberOf(attributes, "tileSize", document.tileSizeM);
-    document.extrudedVisibilityM =
-        numberOf(attributes, "extrudedVisibility", document.extrudedVisibilityM);
-    document.texturedVisibilityM =
-        numberOf(attributes, "texturedVisibility", document.texturedVisibilityM);
-    document.wallColor = textOf(attributes, "wallColor");
-    document.roofColor = textOf(attributes, "roofColor");
-    document.skirtHeightM = numberOf(attributes, "skirtHeight", document.skirtHeightM);
-    document.checkClockwise = isTrue(attributes, "checkClockwise");
+    BuildingFootprints footprints;
+    footprints.file = textOf(attributes, texb::FileName);
+    footprints.layer = textOf(attributes, texb::Layer);
+    footprints.heightField = textOf(attributes, texb::HeightField);
+    for (const auto &[name, number] :
+         {std::pair(texb::TileSize, &footprints.tileSizeM),
+          std::pair(texb::ExtrudedVisibility, &footprints.extrudedVisibilityM),
+          std::pair(texb::TexturedVisibility, &footprints.texturedVisibilityM),
+          std::pair(texb::SkirtHeight, &footprints.skirtHeightM)})
+        *number = numberOf(attributes, name, *number);
+    footprints.wallColor = textOf(attributes, texb::WallColor);
+    footprints.roofColor = textOf(attributes, texb::RoofColor);
+    footprints.checkClockwise = isTrue(attributes, texb::CheckClockwise);
+    return footprints;
 }
 
 TextureMode modeNamed(const std::string &name)
 {
-    const std::string low = lowered(name);
-    if (low == "roofs")
-        return TextureMode::Roofs;
-    if (low == "walls")
-        return TextureMode::Walls;
-    if (low == "storeys")
-        return TextureMode::Storeys;
-    throw BadLayer("the texture mode \"" + name.substr(0, 40) +
-                   "\" is none of roofs, walls and storeys");
+    const auto mode = valueOf<TextureMode>(TextureModeWords, name);
+    if (!mode)
+        throw BadLayer("the texture mode \"" + name.substr(0, 40) +
+                       "\" is none of roofs, walls and storeys");
+    return *mode;
 }
 
-TexbTextures texturesOf(const Attributes &attributes)
+/// A word that is not known stands for whatever compression there is.
+TextureCompression compressionNamed(const std::string &name)
 {
-    TexbTextures textures;
-    textures.mode = modeNamed(textOf(attributes, "mode"));
-    textures.edgeColor = textOf(attributes, "edgeColor");
-    textures.forceEdgeCreation = isTrue(attributes, "forceEdgeCreation");
-    textures.processComplexBuildings = isTrue(attributes, "processComplexBuildings");
-    const std::string compression = lowered(textOf(attributes, "compression"));
-    textures.isCompressed = !compression.empty() && compression != "none";
-    textures.bufferM = numberOf(attributes, "bufferValue", 0);
-    textures.dilatationPixels = numberOf(attributes, "dilatationValue", 0);
-    textures.isSmooth = lowered(textOf(attributes, "magFilter")) == "linear";
+    return name.empty() ? TextureCompression::None
+                        : valueOf<TextureCompression>(TextureCompressionWords, name)
+                              .value_or(TextureCompression::Arb);
+}
+
+BuildingTextures texturesOf(const Attributes &attributes)
+{
+    BuildingTextures textures;
+    textures.mode = modeNamed(textOf(attributes, texb::Mode));
+    textures.edgeColor = textOf(attributes, texb::EdgeColor);
+    textures.forceEdgeCreation = isTrue(attributes, texb::ForceEdgeCreation);
+    textures.processComplexBuildings = isTrue(attributes, texb::ProcessComplexBuildings);
+    textures.compression = compressionNamed(textOf(attributes, texb::Compression));
+    textures.bufferM = numberOf(attributes, texb::Buffer, 0);
+    textures.dilatationPixels = numberOf(attributes, texb::Dilatation, 0);
+    textures.magFilter =
+        valueOf<MagFilter>(MagFilterWords, textOf(attributes, texb::MagnificationFilter))
+            .value_or(MagFilter::None);
     return textures;
 }
 
-void takeElement(TexbDocument &document, std::string_view name, const Attributes &attributes)
+void takeElement(BuildingDocument &document, std::string_view name, const Attributes &attributes)
 {
-    if (name == "vector")
-        takeVector(document, attributes);
-    else if (name == "elevation") {
-        document.terrainFile = textOf(attributes, "filename");
-        document.terrainNoData = textOf(attributes, "nodata");
-    } else if (name == "textures")
+    if (name == texb::VectorElement)
+        document.footprints = footprintsOf(attributes);
+    else if (name == texb::ElevationElement)
+        document.terrain = {textOf(attributes, texb::FileName), textOf(attributes, texb::NoData)};
+    else if (name == texb::TexturesElement)
         document.textures = texturesOf(attributes);
-    else if (name == "texture" && document.textures)
-        document.textures->images.push_back(
-            {textOf(attributes, "filename"), numberOf(attributes, "height", 0, -Most)});
+    else if (name == texb::TextureElement && document.textures)
+        document.textures->images.push_back({textOf(attributes, texb::FileName),
+                                             numberOf(attributes, texb::Height, 0, -MaxNumber)});
 }
 
 /// Moves to the next start of an element and takes its name; an empty one behind the last.
@@ -204,37 +207,37 @@ std::string_view takeElementName(std::string_view &text)
     return {};
 }
 
-void check(const TexbDocument &document)
+void check(const BuildingFootprints &footprints)
 {
-    if (document.vectorFile.empty())
+    if (footprints.file.empty())
         throw BadLayer("the document names no file of footprints");
-    if (document.heightField.empty())
+    if (footprints.heightField.empty())
         throw BadLayer("the document names no field of heights");
-    if (document.tileSizeM <= 0)
+    if (footprints.tileSizeM <= 0)
         throw BadLayer("the tileSize is not more than zero");
 }
 
 } // namespace
 
-TexbDocument parseTexbDocument(std::string_view text)
+BuildingDocument parseTexbDocument(std::string_view text)
 {
     std::string_view name = takeElementName(text);
-    if (name != "veltaroTexturedBuildings")
+    if (name != texb::RootElement)
         throw BadLayer("it is no building document: it does not start with the element "
                        "veltaroTexturedBuildings");
     // whoever writes documents line by line escapes nothing: a path may hold "&#233;" then
     const bool isPlain = text.find("<vector \n") != None;
     const References references = isPlain ? References::Kept : References::Taken;
-    TexbDocument document;
+    BuildingDocument document;
     while (!name.empty()) {
         takeElement(document, name, takeAttributes(text, references));
         name = takeElementName(text);
     }
-    check(document);
+    check(document.footprints);
     return document;
 }
 
-TexbDocument readTexbDocument(const std::string &path)
+BuildingDocument readTexbDocument(const std::string &path)
 {
     return parseTexbDocument(readLayerText(path));
 }

@@ -89,7 +89,8 @@ TextureImages::TextureImages(const Town &town)
     m_up = frame.fromFrame({0, 1}) - middle;
 }
 
-std::shared_ptr<TextureImages> TextureImages::open(const Town &town, const TexbTextures &textures,
+std::shared_ptr<TextureImages> TextureImages::open(const Town &town,
+                                                   const contract::BuildingTextures &textures,
                                                    const std::vector<std::string> &directories,
                                                    Notices &notices, const Progress &progress)
 {
@@ -97,7 +98,7 @@ std::shared_ptr<TextureImages> TextureImages::open(const Town &town, const TexbT
     std::vector<Level> &levels = all->m_levels;
     std::size_t done = 0;
     std::size_t refused = 0;
-    for (const TexbImage &one : textures.images) {
+    for (const contract::BuildingImage &one : textures.images) {
         if (!progress(static_cast<double>(done++) / static_cast<double>(textures.images.size())))
             return nullptr;
         const auto hasItsHeight = [&one](const Level &level) {

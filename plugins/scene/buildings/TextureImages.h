@@ -1,6 +1,6 @@
 #pragma once
 
-#include "plugins/scene/buildings/TexbDocument.h"
+#include "contract/BuildingDocument.h"
 #include "plugins/scene/buildings/TextureImage.h"
 #include "plugins/scene/buildings/Town.h"
 
@@ -28,7 +28,8 @@ public:
     ///
     /// @param directories  where files of relative names are looked for, in this order
     /// @return             null where `progress` stopped it
-    static std::shared_ptr<TextureImages> open(const Town &town, const TexbTextures &textures,
+    static std::shared_ptr<TextureImages> open(const Town &town,
+                                               const contract::BuildingTextures &textures,
                                                const std::vector<std::string> &directories,
                                                Notices &notices, const Progress &progress);
 

@@ -32,7 +32,7 @@ enum class Plain { All, Walls, Roofs };
 class TileBuilder
 {
 public:
-    TileBuilder(const Town &town, const TexbTextures &textures, TextureImages &images,
+    TileBuilder(const Town &town, const contract::BuildingTextures &textures, TextureImages &images,
                 const osg::Vec3d &origin, double skirtM)
         : m_town(town)
         , m_textures(textures)
@@ -53,26 +53,26 @@ public:
             return;
         }
         switch (m_textures.mode) {
-        case TextureMode::Roofs:
+        case contract::TextureMode::Roofs:
             m_rest.addBuilding(building, m_skirtM);
             addRoofs(building);
             break;
-        case TextureMode::Walls:
+        case contract::TextureMode::Walls:
             m_rest.addBuilding(building, m_skirtM);
             addWalls(building);
             break;
-        case TextureMode::Storeys:
+        case contract::TextureMode::Storeys:
             addStoreys(building);
             break;
         }
-        if (m_textures.mode == TextureMode::Storeys || m_textures.forceEdgeCreation)
+        if (m_textures.mode == contract::TextureMode::Storeys || m_textures.forceEdgeCreation)
             addOutline(building);
     }
 
     osg::ref_ptr<osg::Node> node()
     {
         osg::ref_ptr<osg::Geode> geode = new osg::Geode;
-        const bool isRoofs = m_textures.mode == TextureMode::Roofs;
+        const bool isRoofs = m_textures.mode == contract::TextureMode::Roofs;
         addPlain(*geode, m_plain, Plain::All);
         addPlain(*geode, m_rest, isRoofs ? Plain::Walls : Plain::Roofs);
         const int side = mostSide();
@@ -98,7 +98,8 @@ private:
         const bool isComplex = one.ringEnd - one.ringBegin > 1;
         if (m_images.isEmpty() || (isComplex && !m_textures.processComplexBuildings))
             return false;
-        return m_textures.mode != TextureMode::Storeys || !levelsWithin(one.heightM).empty();
+        return m_textures.mode != contract::TextureMode::Storeys ||
+               !levelsWithin(one.heightM).empty();
     }
 
     std::vector<std::size_t> levelsWithin(double heightM) const
@@ -201,7 +202,7 @@ private:
                 if (normal.normalize() <= 0)
                     continue;
                 normal *= side;
-                const osg::Vec2d aside = m_images.inSystem(normal * m_textures.bufferM);
+                const osg::Vec2d aside = m_images.inSystem(normal * m_textures.bufferM.value_or(0));
                 addBands(building, {outline[i], outline[next], normal, places[i] + aside,
                                     places[next] + aside});
             }
@@ -285,7 +286,7 @@ private:
     }
 
     const Town &m_town;
-    const TexbTextures &m_textures;
+    const contract::BuildingTextures &m_textures;
     TextureImages &m_images;
     osg::Vec3d m_origin;
     double m_skirtM;
@@ -300,7 +301,8 @@ private:
 
 } // namespace
 
-osg::ref_ptr<osg::Node> buildTexturedTile(const Town &town, const TexbTextures &textures,
+osg::ref_ptr<osg::Node> buildTexturedTile(const Town &town,
+                                          const contract::BuildingTextures &textures,
                                           TextureImages &images,
                                           std::span<const std::uint32_t> buildings,
                                           const osg::Vec3d &origin, double skirtM)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "plugins/scene/buildings/TexbDocument.h"
+#include "contract/BuildingDocument.h"
 #include "plugins/scene/buildings/TextureImages.h"
 #include "plugins/scene/buildings/Town.h"
 
@@ -23,7 +23,8 @@ namespace vlt::scene {
 ///
 /// @param buildings  indices into town.footprints.buildings
 /// @return           null where nothing is to be drawn
-osg::ref_ptr<osg::Node> buildTexturedTile(const Town &town, const TexbTextures &textures,
+osg::ref_ptr<osg::Node> buildTexturedTile(const Town &town,
+                                          const contract::BuildingTextures &textures,
                                           TextureImages &images,
                                           std::span<const std::uint32_t> buildings,
                                           const osg::Vec3d &origin, double skirtM);

@@ -91,7 +91,7 @@ void VltAddTexbPreviewPage::showInformation()
         m_images.isEmpty()
             ? tr("No image is ticked: the buildings are shown without images.",
                  "MESS_NO_IMAGE_TICKED")
-            : vlt::buildings::texturedInfoText(m_ui->m_pwTexturing->subtype(), m_images));
+            : vlt::buildings::texturedInfoText(m_ui->m_pwTexturing->mode(), m_images));
 }
 
 void VltAddTexbPreviewPage::restoreSettings()
@@ -134,15 +134,15 @@ VltAddTexbPreviewPage::look(const vlt::buildings::RasterColoring &coloring) cons
 {
     vlt::buildings::TexturedLook look;
     look.cache = m_ui->m_pwCache->cache();
-    look.texturedVisibility = m_ui->m_pwTexturing->visibility();
-    look.subtype = m_ui->m_pwTexturing->subtype();
+    look.texturedVisibilityM = m_ui->m_pwTexturing->visibilityM();
+    look.mode = m_ui->m_pwTexturing->mode();
     look.wallColor = m_ui->m_pwColors->wallColor(coloring);
     look.roofColor = m_ui->m_pwColors->roofColor(coloring);
     if (!m_images.isEmpty()) {
         look.textures.emplace();
         m_ui->m_pwTexturing->fill(*look.textures);
         m_ui->m_pwOptions->fill(*look.textures);
-        look.textures->images = m_images;
+        look.images = m_images;
     }
     return look;
 }

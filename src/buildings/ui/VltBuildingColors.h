@@ -1,6 +1,6 @@
 #pragma once
 
-#include "buildings/BuildingDocument.h"
+#include "buildings/RasterColoring.h"
 #include "buildings/ui/RememberedPanel.h"
 
 #include <memory>

@@ -64,7 +64,7 @@ void VltBuildingLayerPage::setResult(VltBuildingPreview *preview, QBoxLayout *dr
 }
 
 vlt::buildings::BuildingLayerInput
-VltBuildingLayerPage::layerInput(const vlt::buildings::FootprintSettings &footprints,
+VltBuildingLayerPage::layerInput(const vlt::contract::BuildingFootprints &footprints,
                                  const std::optional<vlt::buildings::LegendInput> &legend) const
 {
     return {m_source, footprints, installDir(), legend};

@@ -48,7 +48,7 @@ protected:
 
     /// What both kinds of layers need of source and installation.
     vlt::buildings::BuildingLayerInput
-    layerInput(const vlt::buildings::FootprintSettings &footprints,
+    layerInput(const vlt::contract::BuildingFootprints &footprints,
                const std::optional<vlt::buildings::LegendInput> &legend) const;
 
     bool eventFilter(QObject *watched, QEvent *event) override;

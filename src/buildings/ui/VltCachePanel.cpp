@@ -1,6 +1,5 @@
 #include "buildings/ui/VltCachePanel.h"
 
-#include "buildings/BuildingLayerFiles.h"
 #include "ui_CachePanel.h"
 
 VltCachePanel::VltCachePanel(QWidget *parent)
@@ -33,12 +32,8 @@ void VltCachePanel::enableWhatMatters()
     m_ui->m_pwSbCapacity->setEnabled(delays);
 }
 
-std::optional<vlt::buildings::CacheSettings> VltCachePanel::cache() const
+vlt::contract::BuildingCache VltCachePanel::cache() const
 {
-    const int mode = m_ui->m_pwCbCache->currentIndex();
-    if (mode <= 0)
-        return {};
-    return vlt::buildings::CacheSettings{QLatin1String(vlt::buildings::CacheModes[mode]),
-                                         m_ui->m_pwChbDelayed->isChecked(),
-                                         m_ui->m_pwSbCapacity->value()};
+    return {static_cast<vlt::contract::CacheMode>(m_ui->m_pwCbCache->currentIndex()),
+            m_ui->m_pwChbDelayed->isChecked(), m_ui->m_pwSbCapacity->value()};
 }

@@ -1,10 +1,9 @@
 #pragma once
 
-#include "buildings/BuildingDocument.h"
 #include "buildings/ui/RememberedPanel.h"
+#include "contract/BuildingDocument.h"
 
 #include <memory>
-#include <optional>
 
 namespace Ui {
 class CachePanel;
@@ -19,10 +18,9 @@ public:
     explicit VltCachePanel(QWidget *parent = nullptr);
     ~VltCachePanel() override;
 
-    /// None where nothing is kept.
-    std::optional<vlt::buildings::CacheSettings> cache() const;
+    vlt::contract::BuildingCache cache() const;
 
-    /// Of the values, in pixels.
+    /// Width of the column of values, in pixels.
     int columnWidth() const;
 
 private:

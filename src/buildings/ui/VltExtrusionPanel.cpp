@@ -49,12 +49,12 @@ void VltExtrusionPanel::alignTo(int columnWidth)
         box->setMinimumWidth(qMax(columnWidth, box->minimumWidth()));
 }
 
-vlt::buildings::FootprintSettings VltExtrusionPanel::settings() const
+vlt::contract::BuildingFootprints VltExtrusionPanel::settings() const
 {
-    vlt::buildings::FootprintSettings settings;
-    settings.tileSize = m_ui->m_pwSbTileSize->value();
-    settings.extrudedVisibility = m_ui->m_pwSbDistance->value();
-    settings.skirtHeight = m_ui->m_pwSbSkirtSize->value();
+    vlt::contract::BuildingFootprints settings;
+    settings.tileSizeM = m_ui->m_pwSbTileSize->value();
+    settings.extrudedVisibilityM = m_ui->m_pwSbDistance->value();
+    settings.skirtHeightM = m_ui->m_pwSbSkirtSize->value();
     settings.checkClockwise = m_ui->m_pwCbCheckGeom->isChecked();
     return settings;
 }

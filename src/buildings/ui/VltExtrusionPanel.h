@@ -1,6 +1,6 @@
 #pragma once
 
-#include "buildings/BuildingDocument.h"
+#include "contract/BuildingDocument.h"
 
 #include "wizard/base/VltParameterPanel.h"
 
@@ -20,7 +20,7 @@ public:
     ~VltExtrusionPanel() override;
 
     /// The measures; file, layer and field are empty.
-    vlt::buildings::FootprintSettings settings() const;
+    vlt::contract::BuildingFootprints settings() const;
 
     /// Whether the distance of visibility is remembered, too; it is unless set otherwise.
     void setDistanceRemembered(bool isRemembered) { m_isDistanceRemembered = isRemembered; }

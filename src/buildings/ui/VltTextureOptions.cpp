@@ -1,6 +1,5 @@
 #include "buildings/ui/VltTextureOptions.h"
 
-#include "buildings/BuildingLayerFiles.h"
 #include "ui_TextureOptions.h"
 
 VltTextureOptions::VltTextureOptions(QWidget *parent)
@@ -18,15 +17,13 @@ VltTextureOptions::VltTextureOptions(QWidget *parent)
 
 VltTextureOptions::~VltTextureOptions() = default;
 
-void VltTextureOptions::fill(vlt::buildings::TexbTextures &textures) const
+void VltTextureOptions::fill(vlt::contract::BuildingTextures &textures) const
 {
-    const int compression = m_ui->m_pwCbCompression->currentIndex();
-    if (compression > 0) // uncompressed: the document says nothing
-        textures.compression = QLatin1String(vlt::buildings::Compressions[compression]);
+    using namespace vlt::contract;
+    textures.compression = static_cast<TextureCompression>(m_ui->m_pwCbCompression->currentIndex());
     if (m_ui->m_pwChbBuffer->isChecked())
-        textures.bufferValue = m_ui->m_pwSbBuffer->value();
+        textures.bufferM = m_ui->m_pwSbBuffer->value();
     if (m_ui->m_pwChbDilatation->isChecked())
-        textures.dilatationValue = m_ui->m_pwSbDilatation->value();
-    textures.magFilter =
-        QLatin1String(vlt::buildings::MagFilters[m_ui->m_pwCbResampling->currentIndex()]);
+        textures.dilatationPixels = m_ui->m_pwSbDilatation->value();
+    textures.magFilter = static_cast<MagFilter>(m_ui->m_pwCbResampling->currentIndex());
 }

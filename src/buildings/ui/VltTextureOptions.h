@@ -1,7 +1,7 @@
 #pragma once
 
-#include "buildings/BuildingDocument.h"
 #include "buildings/ui/RememberedPanel.h"
+#include "contract/BuildingDocument.h"
 
 #include <memory>
 
@@ -19,7 +19,7 @@ public:
     ~VltTextureOptions() override;
 
     /// Sets what the panel holds; the rest stays.
-    void fill(vlt::buildings::TexbTextures &textures) const;
+    void fill(vlt::contract::BuildingTextures &textures) const;
 
 private:
     std::unique_ptr<Ui::TextureOptions> m_ui;

@@ -2,8 +2,6 @@
 
 #include "ui_TexturingPanel.h"
 
-using vlt::buildings::TexbSubtype;
-
 VltTexturingPanel::VltTexturingPanel(QWidget *parent)
     : RememberedPanel(parent)
     , m_ui(std::make_unique<Ui::TexturingPanel>())
@@ -20,20 +18,19 @@ VltTexturingPanel::VltTexturingPanel(QWidget *parent)
 
 VltTexturingPanel::~VltTexturingPanel() = default;
 
-TexbSubtype VltTexturingPanel::subtype() const
+vlt::contract::TextureMode VltTexturingPanel::mode() const
 {
-    constexpr TexbSubtype Types[] = {TexbSubtype::Roofs, TexbSubtype::Walls, TexbSubtype::Storeys};
-    return Types[m_ui->m_pwCbTextureType->currentIndex()];
+    return static_cast<vlt::contract::TextureMode>(m_ui->m_pwCbTextureType->currentIndex());
 }
 
-double VltTexturingPanel::visibility() const
+double VltTexturingPanel::visibilityM() const
 {
     return m_ui->m_pwSbTexturedDistance->value();
 }
 
-void VltTexturingPanel::fill(vlt::buildings::TexbTextures &textures) const
+void VltTexturingPanel::fill(vlt::contract::BuildingTextures &textures) const
 {
-    textures.edgeColor = m_ui->m_pwPbEdgeColor->color().name();
+    textures.edgeColor = m_ui->m_pwPbEdgeColor->color().name().toStdString();
     textures.forceEdgeCreation = m_ui->m_pwChbForceEdges->isChecked();
     textures.processComplexBuildings = m_ui->m_pwChbComplex->isChecked();
 }

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "buildings/BuildingLayerFiles.h"
 #include "buildings/ui/RememberedPanel.h"
+#include "contract/BuildingDocument.h"
 
 #include <memory>
 
@@ -18,13 +18,11 @@ public:
     explicit VltTexturingPanel(QWidget *parent = nullptr);
     ~VltTexturingPanel() override;
 
-    vlt::buildings::TexbSubtype subtype() const;
+    vlt::contract::TextureMode mode() const;
+    double visibilityM() const;
 
-    /// Metres.
-    double visibility() const;
-
-    /// Sets what the panel holds but the subtype; the rest stays.
-    void fill(vlt::buildings::TexbTextures &textures) const;
+    /// Sets what the panel holds of edges and complex buildings; the rest stays.
+    void fill(vlt::contract::BuildingTextures &textures) const;
 
 private:
     std::unique_ptr<Ui::TexturingPanel> m_ui;

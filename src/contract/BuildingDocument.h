@@ -1,0 +1,163 @@
+#pragma once
+
+#include "contract/ChosenNumber.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+/// The building document (".texb"): footprints that become buildings, the terrain below them, their
+/// colours and images. The wizard and the command line write it, the scene readers read it.
+namespace vlt::contract {
+
+inline constexpr ChosenNumber<int> ExtrudedVisibilityM{100, 100000, 2000};
+inline constexpr ChosenNumber<int> TexturedVisibilityM{100, 100000, 2000};
+inline constexpr ChosenNumber<double> TileSizeM{10, 100000, 250};
+inline constexpr ChosenNumber<double> SkirtHeightM{0, 1000, 5};
+inline constexpr ChosenNumber<int> CacheCapacity{1, 1000000, 100}; ///< elements
+inline constexpr ChosenNumber<double> TextureBufferM{0, 1000, 1};
+inline constexpr ChosenNumber<int> TextureDilatationPixels{1, 100, 1};
+
+/// Colours of a first run.
+inline constexpr char FirstWallColor[] = "#d9d4c7";
+inline constexpr char FirstRoofColor[] = "#b5634c";
+inline constexpr char FirstEdgeColor[] = "#404040";
+
+/// What a builder keeps of the buildings that it has made.
+enum class CacheMode { None, All, Textured, Extruded };
+inline constexpr const char *CacheModeWords[] = {"none", "all", "textured", "extruded"};
+
+/// Which part of a building has the image.
+enum class TextureMode { Roofs, Walls, Storeys };
+inline constexpr const char *TextureModeWords[] = {"roofs", "walls", "storeys"};
+
+/// How images lie in graphics memory.
+enum class TextureCompression { None, Arb, Dxt1, Dxt3, Dxt5 };
+inline constexpr const char *TextureCompressionWords[] = {"none", "arb", "dxt1", "dxt3", "dxt5"};
+
+/// How pixels are drawn from near: as squares, or blended.
+enum class MagFilter { None, Linear };
+inline constexpr const char *MagFilterWords[] = {"none", "linear"};
+
+/// The attributes of the root element.
+struct BuildingCache
+{
+    CacheMode mode = CacheMode::None;
+    bool delayedWrite = false;
+    int capacity = CacheCapacity.firstRun; ///< elements that wait for being written
+
+    bool operator==(const BuildingCache &) const = default;
+};
+
+/// The element "vector": the footprints and how they are extruded. A document that says nothing of
+/// a number has the value that stands here.
+struct BuildingFootprints
+{
+    std::string file;  ///< vector dataset
+    std::string layer; ///< empty: the first
+    std::string heightField;
+    double tileSizeM = TileSizeM.firstRun;
+    double extrudedVisibilityM = ExtrudedVisibilityM.firstRun; ///< up to which they are shown
+    double texturedVisibilityM = 0;                            ///< up to which images are shown
+    std::string wallColor; ///< "#RRGGBB" or a text of RasterColors.h; empty: the reader's own
+    std::string roofColor; ///< the same; empty: that of the walls
+    double skirtHeightM = 0;
+    bool checkClockwise = false;
+
+    bool operator==(const BuildingFootprints &) const = default;
+};
+
+/// The element "elevation": the terrain that the buildings stand on.
+struct BuildingTerrain
+{
+    std::string file;
+    std::string noData; ///< as typed; may be empty
+
+    bool operator==(const BuildingTerrain &) const = default;
+};
+
+/// An element "texture": a georeferenced image at a height above ground.
+struct BuildingImage
+{
+    std::string path; ///< or the geodata library's name of a part of a file
+    double heightM = 0;
+
+    bool operator==(const BuildingImage &) const = default;
+};
+
+/// The element "textures": how images lie on the buildings.
+struct BuildingTextures
+{
+    TextureMode mode = TextureMode::Roofs;
+    std::string edgeColor; ///< "#RRGGBB"; empty: none
+    bool forceEdgeCreation = false;
+    bool processComplexBuildings = false;
+    TextureCompression compression = TextureCompression::None; ///< none is not written
+    std::optional<double> bufferM;          ///< how far from a wall its image is taken
+    std::optional<double> dilatationPixels; ///< how far colours grow into pixels that have none
+    MagFilter magFilter = MagFilter::None;
+    std::vector<BuildingImage> images;
+
+    bool operator==(const BuildingTextures &) const = default;
+};
+
+/// A whole document.
+struct BuildingDocument
+{
+    BuildingCache cache;
+    BuildingFootprints footprints;
+    BuildingTerrain terrain;
+    std::optional<BuildingTextures> textures; ///< none: no images
+
+    bool operator==(const BuildingDocument &) const = default;
+};
+
+inline constexpr char BuildingDocumentSuffix[] = ".texb";
+
+/// What the source of a layer of buildings starts with, before the path of its document.
+inline constexpr char BuildingSourcePrefix[] = "TEXB:";
+
+/// Names of the elements and attributes. Values stand in a document as they are, without escaping.
+namespace texb {
+
+inline constexpr char RootElement[] = "veltaroTexturedBuildings";
+inline constexpr char Cache[] = "cache";
+inline constexpr char DelayedCacheWrite[] = "delayedCacheWrite";
+inline constexpr char DelayedCacheWriteCapacity[] = "delayedCacheWriteCapacity";
+
+inline constexpr char VectorElement[] = "vector";
+inline constexpr char FileName[] = "filename"; ///< also of "elevation" and "texture"
+inline constexpr char Layer[] = "layer";
+inline constexpr char HeightField[] = "hfield";
+inline constexpr char TileSize[] = "tileSize";
+inline constexpr char ExtrudedVisibility[] = "extrudedVisibility";
+inline constexpr char TexturedVisibility[] = "texturedVisibility"; ///< not where a raster colours
+inline constexpr char WallColor[] = "wallColor";
+inline constexpr char RoofColor[] = "roofColor"; ///< not where a raster colours
+inline constexpr char SkirtHeight[] = "skirtHeight";
+inline constexpr char CheckClockwise[] = "checkClockwise";
+
+inline constexpr char ElevationElement[] = "elevation";
+inline constexpr char Source[] = "source"; ///< always TerrainSource
+inline constexpr char TerrainSource[] = "dtm";
+inline constexpr char NoData[] = "nodata";
+
+inline constexpr char TexturesElement[] = "textures";
+inline constexpr char Mode[] = "mode";
+inline constexpr char EdgeColor[] = "edgeColor";
+inline constexpr char ForceEdgeCreation[] = "forceEdgeCreation";
+inline constexpr char ProcessComplexBuildings[] = "processComplexBuildings";
+inline constexpr char Compression[] = "compression";
+inline constexpr char Buffer[] = "bufferValue";
+inline constexpr char Dilatation[] = "dilatationValue";
+inline constexpr char MagnificationFilter[] = "magFilter";
+
+inline constexpr char TextureElement[] = "texture";
+inline constexpr char Height[] = "height";
+
+inline constexpr char True[] = "true";
+inline constexpr char False[] = "false";
+
+} // namespace texb
+
+} // namespace vlt::contract
