@@ -51,13 +51,13 @@ CommandSyntax syntax()
 }
 
 Result<BuildingLayerFiles> writeFiles(const BuildingsRequest &request,
-                                      const BuildingsInputs &inputs, QString &reason)
+                                      const BuildingsInputs &inputs)
 {
     constexpr auto access = platform::Access::Shared;
-    return request.look ? buildings::writeTexturedLayer(request.output, inputs.layer, inputs.look,
-                                                        access, &reason)
-                        : buildings::writeColoredLayer(request.output, inputs.layer,
-                                                       inputs.coloring, access, &reason);
+    return request.look
+               ? buildings::writeTexturedLayer(request.output, inputs.layer, inputs.look, access)
+               : buildings::writeColoredLayer(request.output, inputs.layer, inputs.coloring,
+                                              access);
 }
 
 void warnOfImages(const BuildingsInputs &inputs)
@@ -119,10 +119,9 @@ ExitStatus runParsed(const BuildingsRequest &request, const GlobalOptions &optio
         if (isOneOf(output, inputs.value().files))
             return refuse(outputIsInput(output));
     }
-    QString reason;
-    const Result<BuildingLayerFiles> written = writeFiles(request, inputs.value(), reason);
+    const Result<BuildingLayerFiles> written = writeFiles(request, inputs.value());
     if (!written)
-        return refuse(written.error(), reason);
+        return refuse(written.error());
     if (!inputs.value().terrainWarning.isEmpty() && !options.quiet)
         printError(inputs.value().terrainWarning);
     if (request.look && !options.quiet)

@@ -46,36 +46,36 @@ const ErrorStyle &errorStyle()
     return styleOfRun();
 }
 
-void tellError(const Error &error, const QString &detail, ExitStatus status)
+void tellError(const Error &error, ExitStatus status)
 {
-    printError(explain(error, detail));
+    printError(explain(error));
     if (errorStyle().json)
-        printOut(QString::fromUtf8(QJsonDocument(errorJson(error, detail, status)).toJson()));
+        printOut(QString::fromUtf8(QJsonDocument(errorJson(error, status)).toJson()));
 }
 
-ExitStatus refuse(const Error &error, const QString &detail)
+ExitStatus refuse(const Error &error)
 {
-    tellError(error, detail, ExitStatus::Refused);
+    tellError(error, ExitStatus::Refused);
     return ExitStatus::Refused;
 }
 
-QJsonObject errorJson(const Error &error, const QString &detail, ExitStatus status)
+QJsonObject errorJson(const Error &error, ExitStatus status)
 {
-    return {{QStringLiteral("error"), explain({error.key, error.text, {}}, detail)},
+    return {{QStringLiteral("error"), explain({error.key, error.text, {}, error.detail})},
             {QStringLiteral("file"),
              error.path.isEmpty() ? QJsonValue(QJsonValue::Null) : QJsonValue(error.path)},
             {QStringLiteral("exit"), static_cast<int>(status)}};
 }
 
-QString explain(const Error &error, const QString &detail)
+QString explain(const Error &error)
 {
     QString text = error.key.isEmpty() ? language::readerText(error.text)
                                        : dico_label(error.key.toUtf8().constData(),
                                                     error.text.toUtf8().constData());
     if (!error.path.isEmpty())
         text = error.path + QStringLiteral(": ") + text;
-    if (!detail.isEmpty())
-        text += QStringLiteral(" (") + language::readerText(detail) + QLatin1Char(')');
+    if (!error.detail.isEmpty())
+        text += QStringLiteral(" (") + language::readerText(error.detail) + QLatin1Char(')');
     return oneLine(text);
 }
 

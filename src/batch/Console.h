@@ -28,19 +28,18 @@ void setErrorStyle(const ErrorStyle &style);
 const ErrorStyle &errorStyle();
 
 /// Tells an error on the error output, as refuse() does; for programs, with its exit status.
-void tellError(const Error &error, const QString &detail, ExitStatus status);
+void tellError(const Error &error, ExitStatus status);
 
 /// Tells why an input is refused, with the file it is about, in the chosen language.
 ///
-/// @param detail  a library's own reason; may be empty
-/// @return        ExitStatus::Refused, for the caller to return
-ExitStatus refuse(const Error &error, const QString &detail = {});
+/// @return  ExitStatus::Refused, for the caller to return
+ExitStatus refuse(const Error &error);
 
-/// The error's text in the chosen language, after the file it is about.
-QString explain(const Error &error, const QString &detail = {});
+/// The error's text in the chosen language, after the file it is about and with its detail behind.
+QString explain(const Error &error);
 
 /// The same for programs: "error", "file" (null where it is about none) and "exit".
-QJsonObject errorJson(const Error &error, const QString &detail, ExitStatus status);
+QJsonObject errorJson(const Error &error, ExitStatus status);
 
 /// Text out of a user's file as one line that cannot steer a terminal: control characters become
 /// spaces.

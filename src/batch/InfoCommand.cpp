@@ -99,23 +99,22 @@ struct TableOutcome
 {
     std::optional<InfoReport> report;
     Error error;
-    QString detail; ///< of the error
 };
 
 TableOutcome outcomeOf(InfoReport report, const QString &kind, const QString &table)
 {
     if (report.file.error)
-        return {
-            {}, {report.file.error->key, report.file.error->text, table}, report.file.errorDetail};
+        return {{},
+                {report.file.error->key, report.file.error->text, table, report.file.errorDetail}};
     const Result<geodata::SiteCheck> check = geodata::readSiteCheck(
         report.file.reading.connection(kind, report.file.filePath), {}, report.file.systems);
     if (!check)
-        return {{}, {check.error().key, check.error().text, table}, {}};
+        return {{}, {check.error().key, check.error().text, table}};
     const QList<Problem> ofSystems =
         tables::systemProblems(report.file.unit, report.file.systems, check.value().systems);
     report.problems.count += ofSystems.size() + check.value().problems.count;
     report.problems.listed += ofSystems + check.value().problems.listed;
-    return {report, {}, {}};
+    return {report, {}};
 }
 
 TableOutcome readTable(const QString &table, bool isLinks, const tables::TableReading &reading,
@@ -134,13 +133,12 @@ ExitStatus tellAsJson(const QList<TableOutcome> &outcomes)
     QJsonArray tables;
     ExitStatus status = ExitStatus::Done;
     for (const TableOutcome &outcome : outcomes) {
-        tables.append(outcome.report
-                          ? reportJson(*outcome.report)
-                          : errorJson(outcome.error, outcome.detail, ExitStatus::Refused));
+        tables.append(outcome.report ? reportJson(*outcome.report)
+                                     : errorJson(outcome.error, ExitStatus::Refused));
         if (outcome.report)
             continue;
         status = ExitStatus::Refused;
-        printError(explain(outcome.error, outcome.detail));
+        printError(explain(outcome.error));
     }
     const QJsonObject object{{QStringLiteral("tables"), tables}};
     const ExitStatus printed = printResult(QString::fromUtf8(QJsonDocument(object).toJson()));
@@ -150,7 +148,7 @@ ExitStatus tellAsJson(const QList<TableOutcome> &outcomes)
 ExitStatus tell(const TableOutcome &outcome, bool json)
 {
     if (!outcome.report)
-        return refuse(outcome.error, outcome.detail);
+        return refuse(outcome.error);
     return printResult(json ? QString::fromUtf8(QJsonDocument(reportJson(*outcome.report)).toJson())
                             : reportText(*outcome.report));
 }

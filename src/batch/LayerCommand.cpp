@@ -143,11 +143,10 @@ std::optional<ExitStatus> writeLayer(const QString &path, const Result<tables::T
         const ExitStatus printed = printResult(layer.value().text);
         return printed == ExitStatus::Done ? std::nullopt : std::optional(printed);
     }
-    QString reason;
     const Result<Done> written =
-        platform::writeLayerFile(path, layer.value().text, platform::Access::Shared, &reason);
+        platform::writeLayerFile(path, layer.value().text, platform::Access::Shared);
     if (!written)
-        return refuse(written.error(), reason);
+        return refuse(written.error());
     return std::nullopt;
 }
 

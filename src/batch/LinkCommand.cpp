@@ -171,8 +171,8 @@ ExitStatus runParsed(const QCommandLineParser &parser, const LinkRequest &wanted
     input.file = links::readLinkFileInfoAs(QFileInfo(request.table).absoluteFilePath(), project,
                                            request.reading);
     if (input.file.error)
-        return refuse({input.file.error->key, input.file.error->text, request.table},
-                      input.file.errorDetail);
+        return refuse(
+            {input.file.error->key, input.file.error->text, request.table, input.file.errorDetail});
     const geodata::SystemPair systems = chosenSystems(parser, input.file.systems);
     if (const auto refusal = tables::systemRefusal(systems))
         return refuse(*refusal);

@@ -96,8 +96,8 @@ ExitStatus runParsed(const QCommandLineParser &parser, const GlobalOptions &opti
     input.file = sites::readSiteFileInfoAs(QFileInfo(request.table).absoluteFilePath(),
                                            surroundings.project, request.reading);
     if (input.file.error)
-        return refuse({input.file.error->key, input.file.error->text, request.table},
-                      input.file.errorDetail);
+        return refuse(
+            {input.file.error->key, input.file.error->text, request.table, input.file.errorDetail});
     const geodata::SystemPair systems = chosenSystems(parser, input.file.systems);
     if (const auto refusal = tables::systemRefusal(systems))
         return refuse(*refusal);

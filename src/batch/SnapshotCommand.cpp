@@ -198,13 +198,12 @@ std::optional<ExitStatus> writePicture(const QString &output, const QByteArray &
         const Result<Done> written = platform::writeWhole(output, bytes, platform::Access::Shared);
         if (written)
             return std::nullopt;
-        reason = written.error().text;
+        reason = written.error().detail;
     } else if (printBytes(bytes)) {
         return std::nullopt;
     }
     return refuse({QStringLiteral("MESS_SNAP_NOT_WRITTEN"),
-                   QStringLiteral("the picture cannot be written"), output},
-                  reason);
+                   QStringLiteral("the picture cannot be written"), output, reason});
 }
 
 /// Tables become scenes by way of layers only.

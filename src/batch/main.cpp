@@ -79,7 +79,7 @@ ExitStatus runWithoutCommand(const SplitArguments &split, const Place &place)
     if (!isHelp) {
         if (!split.json)
             printOut(programHelpText());
-        tellError(wrongUsage(dico_label("MESS_USE_COMMAND_MISSING", "no command given")), {},
+        tellError(wrongUsage(dico_label("MESS_USE_COMMAND_MISSING", "no command given")),
                   ExitStatus::WrongUsage);
         return ExitStatus::WrongUsage;
     }

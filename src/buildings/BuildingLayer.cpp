@@ -50,7 +50,7 @@ QString texbTemplatePath(const QString &installDir)
 }
 
 Result<Done> createTexbLayerFile(const QString &outputPath, const QString &templatePath,
-                                 const TexbLayer &layer, platform::Access access, QString *reason)
+                                 const TexbLayer &layer, platform::Access access)
 {
     const Result<QString> layerTemplate = platform::readConfigurationFile(templatePath);
     if (!layerTemplate)
@@ -62,7 +62,7 @@ Result<Done> createTexbLayerFile(const QString &outputPath, const QString &templ
                                 {QStringLiteral("__TEXB_URL__"), layer.url},
                                 {QStringLiteral("__X_CENTER__"), text::g9(layer.xCenter)},
                                 {QStringLiteral("__Y_CENTER__"), text::g9(layer.yCenter)}});
-    return platform::writeLayerFile(outputPath, text, access, reason);
+    return platform::writeLayerFile(outputPath, text, access);
 }
 
 } // namespace vlt::buildings

@@ -39,11 +39,9 @@ QString texbTemplatePath(const QString &installDir);
 
 /// Writes the layer file out of a template: afterwards it is the old one or the whole new one.
 ///
-/// @param reason  where not null, takes the system's reason of an output that cannot be written
-/// @par Errors    MESS_MISSING_CONF_FILE with the template's path, nothing is written then;
-///                MESS_CANT_CREATE_LAYER with the output's path
+/// @par Errors  MESS_MISSING_CONF_FILE with the template's path, nothing is written then;
+///              MESS_CANT_CREATE_LAYER with the output's path and the system's reason
 Result<Done> createTexbLayerFile(const QString &outputPath, const QString &templatePath,
-                                 const TexbLayer &layer, platform::Access access,
-                                 QString *reason = nullptr);
+                                 const TexbLayer &layer, platform::Access access);
 
 } // namespace vlt::buildings

@@ -5,6 +5,7 @@
 #include "colormaps/ColoredInfoText.h"
 #include "language/VltLanguageManager.h"
 #include "platform/ConfigurationFile.h"
+#include "platform/LayerFile.h"
 
 #include <QDebug>
 #include <QFile>
@@ -20,12 +21,6 @@ namespace {
 constexpr int LegendScale = 2;
 
 constexpr QLatin1String DocumentSuffix(contract::BuildingDocumentSuffix);
-
-Error cannotCreate(const QString &path)
-{
-    return {QStringLiteral("MESS_CANT_CREATE_LAYER"), QStringLiteral("Can't create the layer file"),
-            path};
-}
 
 /// Name of a legend that no other layer has.
 QString ownLegendName(const QString &document, const QString &colorMapName)
@@ -67,11 +62,9 @@ private:
 class FilesWriter
 {
 public:
-    FilesWriter(const QString &layerPath, const BuildingLayerInput &input, platform::Access access,
-                QString *reason)
+    FilesWriter(const QString &layerPath, const BuildingLayerInput &input, platform::Access access)
         : m_input(input)
         , m_access(access)
-        , m_reason(reason)
         , m_files(filesOf(layerPath, input))
     {}
 
@@ -88,8 +81,7 @@ public:
             written = writeLegend(*m_input.legend);
         if (written)
             written = createTexbLayerFile(m_files.layer, templatePath,
-                                          layerOf(subtype, description(legendText())), m_access,
-                                          m_reason);
+                                          layerOf(subtype, description(legendText())), m_access);
         if (written)
             return m_files;
         for (const FormerFile &file : m_former)
@@ -98,19 +90,12 @@ public:
     }
 
 private:
-    Error failed(const Error &error, const QString &path) const
-    {
-        if (m_reason)
-            *m_reason = error.text;
-        return cannotCreate(path);
-    }
-
     Result<Done> writePart(const QString &path, const QByteArray &bytes)
     {
         const FormerFile former(path, m_access);
         Result<Done> written = platform::writeWhole(path, bytes, m_access);
         if (!written)
-            return failed(written.error(), path);
+            return platform::cannotCreateLayer(path, written.error().detail);
         m_former.push_back(former);
         return written;
     }
@@ -142,7 +127,7 @@ private:
         const FormerFile former(m_files.legend, m_access);
         const Result<QString> written = colormaps::writeLegend(image, directory, name, m_access);
         if (!written)
-            return failed(written.error(), m_files.legend);
+            return platform::cannotCreateLayer(m_files.legend, written.error().detail);
         m_former.push_back(former);
         return Done{};
     }
@@ -166,7 +151,6 @@ private:
 
     const BuildingLayerInput &m_input;
     platform::Access m_access;
-    QString *m_reason;
     BuildingLayerFiles m_files;
     std::vector<FormerFile> m_former; ///< of what is written
     QSize m_legendSize;               ///< as it is shown
@@ -222,20 +206,18 @@ QStringList possibleFilesOf(const QString &layerPath, const BuildingLayerInput &
 
 Result<BuildingLayerFiles> writeColoredLayer(const QString &layerPath,
                                              const BuildingLayerInput &input,
-                                             const RasterColoring &walls, platform::Access access,
-                                             QString *reason)
+                                             const RasterColoring &walls, platform::Access access)
 {
     contract::BuildingDocument document = documentOf(input);
     document.footprints.wallColor = imageColor(walls).toStdString();
-    return FilesWriter(layerPath, input, access, reason)
+    return FilesWriter(layerPath, input, access)
         .write(writeColoredTexbDocument(document), TexbSubtype::Colored,
                [](const QString &legend) { return legend; });
 }
 
 Result<BuildingLayerFiles> writeTexturedLayer(const QString &layerPath,
                                               const BuildingLayerInput &input,
-                                              const TexturedLook &look, platform::Access access,
-                                              QString *reason)
+                                              const TexturedLook &look, platform::Access access)
 {
     contract::BuildingDocument document = documentOf(input);
     document.cache = look.cache;
@@ -248,7 +230,7 @@ Result<BuildingLayerFiles> writeTexturedLayer(const QString &layerPath,
         document.textures->images = usedImages(look.images);
     }
     const QString images = texturedInfoText(look.mode, look.images);
-    return FilesWriter(layerPath, input, access, reason)
+    return FilesWriter(layerPath, input, access)
         .write(writeTexbDocument(document), subtypeOf(look.mode),
                [&images](const QString &legend) { return QString(images + legend); });
 }

@@ -49,13 +49,11 @@ QStringList possibleFilesOf(const QString &layerPath, const BuildingLayerInput &
 /// a failure the files are as they were.
 ///
 /// @param layerPath  of the layer file; the document gets its name
-/// @param reason     where not null, takes the system's reason of a file that cannot be written
 /// @par Errors       those of createTexbLayerFile(), MESS_CANT_CREATE_LAYER also for the document
-///                   and the legend; with the path
+///                   and the legend; with the path and the system's reason
 Result<BuildingLayerFiles> writeColoredLayer(const QString &layerPath,
                                              const BuildingLayerInput &input,
-                                             const RasterColoring &walls, platform::Access access,
-                                             QString *reason = nullptr);
+                                             const RasterColoring &walls, platform::Access access);
 
 /// The looks of a layer of buildings with images.
 struct TexturedLook
@@ -72,7 +70,6 @@ struct TexturedLook
 /// The same for the full document.
 Result<BuildingLayerFiles> writeTexturedLayer(const QString &layerPath,
                                               const BuildingLayerInput &input,
-                                              const TexturedLook &look, platform::Access access,
-                                              QString *reason = nullptr);
+                                              const TexturedLook &look, platform::Access access);
 
 } // namespace vlt::buildings

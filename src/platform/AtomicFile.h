@@ -22,7 +22,7 @@ enum class Access {
 ///
 /// @par Errors  an empty path; links without end; a target that exists and is no regular file
 ///              (directory, device, pipe, the process's own output), or is write-protected (not for
-///              Access::UserOnly). The text is the reason, the path is `path`.
+///              Access::UserOnly). The detail is the reason, the path is `path`.
 Result<QString> writtenFile(const QString &path, Access access);
 
 /// Puts `bytes` at `path`: afterwards the file is the old one or the whole new one, never a part.
@@ -31,7 +31,7 @@ Result<QString> writtenFile(const QString &path, Access access);
 /// rename. After a failure the old file is untouched and nothing is left behind.
 ///
 /// @par Errors  those of writtenFile(); a directory that is missing or cannot be written; a full
-///              device. The text is the system's reason, the path is `path`.
+///              device. The detail is the system's reason, the path is `path`.
 Result<Done> writeWhole(const QString &path, const QByteArray &bytes, Access access);
 
 } // namespace vlt::platform

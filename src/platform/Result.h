@@ -12,13 +12,15 @@ namespace vlt {
 
 /// Why an operation gave no value.
 ///
-/// `key` is the message key under which the text is translated (may be empty), `text` the English
-/// text or the detail that a library gave, `path` the file concerned (may be empty).
+/// `text` is in English where `key` is the message key of its translation, else as it is shown.
+/// `detail` is the reason that a library gave, in its own words; it stands alone, without a text,
+/// where nothing else is known. All but one of text and detail may be empty.
 struct Error
 {
     QString key;
     QString text;
-    QString path;
+    QString path = {}; ///< of the file concerned
+    QString detail = {};
 
     /// Text and path as they are shown to the user: the path follows after a line feed.
     QString display() const { return path.isEmpty() ? text : text + QLatin1Char('\n') + path; }

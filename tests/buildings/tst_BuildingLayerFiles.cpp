@@ -185,14 +185,13 @@ private Q_SLOTS:
                     writeFile(path(name), former);
             }
             const QStringList before = QDir(m_dir->path()).entryList();
-            QString reason;
 
             const auto files =
-                writeTexturedLayer(path(u"out.lay"_s), m_input, storeys(), Access::Shared, &reason);
+                writeTexturedLayer(path(u"out.lay"_s), m_input, storeys(), Access::Shared);
 
             QVERIFY(!files);
             QCOMPARE(files.error().display(), text + path(blocked));
-            QCOMPARE(reason.isEmpty(), blocked.contains(u"template"_s));
+            QCOMPARE(files.error().detail.isEmpty(), blocked.contains(u"template"_s));
             QCOMPARE(QDir(m_dir->path()).entryList(), before);
             for (const QString &name : names)
                 QCOMPARE(readFile(path(name)), former.isEmpty() || name == blocked

@@ -119,7 +119,7 @@ private Q_SLOTS:
         ::setrlimit(RLIMIT_FSIZE, &limit);
 
         QVERIFY(!written.ok());
-        QVERIFY(!written.error().text.isEmpty());
+        QVERIFY(!written.error().detail.isEmpty());
         QCOMPARE(written.error().path, path);
         QCOMPARE(readFile(path), QByteArray("old"));
         QCOMPARE(namesIn(dir.path()), QStringList{u"layer"_s});
@@ -141,7 +141,7 @@ private Q_SLOTS:
         ::prctl(PR_SET_DUMPABLE, 1); // lost with the switch; leak checkers need it
 
         QVERIFY(!written.ok());
-        QVERIFY(written.error().text.contains(u"write-protected"_s));
+        QVERIFY(written.error().detail.contains(u"write-protected"_s));
         QCOMPARE(readFile(path), QByteArray("old"));
     }
 
@@ -168,7 +168,7 @@ private Q_SLOTS:
                                     dir.filePath(u"gone/layer"_s), u"/proc/layer"_s}) {
             const vlt::Result<vlt::Done> written = writeWhole(path, "new", Access::Shared);
 
-            QVERIFY2(!written.ok() && !written.error().text.isEmpty(), qPrintable(path));
+            QVERIFY2(!written.ok() && !written.error().detail.isEmpty(), qPrintable(path));
             QCOMPARE(namesIn(dir.path()), names);
             QVERIFY(namesIn(directory).isEmpty());
         }

@@ -31,8 +31,9 @@ QString reasonText(const QString &reason)
 void warnOfRaster(QWidget *parent, RasterProblem problem, const QString &path,
                   const QString &reason)
 {
-    messages::warning(parent, {{}, textOf(problem), {}}, dico_label("MESS_ATTENTION", "Warning"),
-                      reason.isEmpty() ? path : path + QLatin1Char('\n') + reasonText(reason));
+    messages::warning(parent,
+                      messages::withPathBelow({{}, textOf(problem), path, reasonText(reason)}),
+                      dico_label("MESS_ATTENTION", "Warning"));
 }
 
 } // namespace vlt::buildings

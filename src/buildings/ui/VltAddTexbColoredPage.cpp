@@ -87,17 +87,16 @@ QString VltAddTexbColoredPage::missingText() const
                                    : m_ui->m_pwColoring->missingText();
 }
 
-Result<buildings::BuildingLayerFiles> VltAddTexbColoredPage::writeFiles(const QString &layerPath,
-                                                                        platform::Access access,
-                                                                        QString &reason)
+std::optional<Result<buildings::BuildingLayerFiles>>
+VltAddTexbColoredPage::writeFiles(const QString &layerPath, platform::Access access)
 {
     const auto legend = m_ui->m_pwColoring->legend();
     const auto coloring = m_ui->m_pwColoring->coloring();
     if (!legend || !coloring)
-        return Error{};
+        return std::nullopt;
     m_colorMapName = legend->name;
     return buildings::writeColoredLayer(
-        layerPath, layerInput(m_ui->m_pwExtrusion->settings(), legend), *coloring, access, &reason);
+        layerPath, layerInput(m_ui->m_pwExtrusion->settings(), legend), *coloring, access);
 }
 
 void VltAddTexbColoredPage::layerWritten(const buildings::BuildingLayerFiles &files)

@@ -45,10 +45,10 @@ bool isReadable(const QString &path)
                         : file.isFile() && QFile(path).open(QIODevice::ReadOnly);
 }
 
-Error vectorError(const QString &path = {})
+Error vectorError(const QString &path, const QString &reason = {})
 {
     return {QStringLiteral("MESS_ERR_OPEN_VECTORDS"),
-            QStringLiteral("This file can't be open as a vector file"), path};
+            QStringLiteral("This file can't be open as a vector file"), path, reason};
 }
 
 /// Title of the boxes on Next.
@@ -381,9 +381,8 @@ void VltAddTexbFirstPage::openVector(const QString &path, bool silent)
         return;
     if (!*opened) {
         if (!silent)
-            messages::critical(this, vectorError(), messages::errorTitle(),
-                               path + QLatin1Char('\n') +
-                                   buildings::reasonText(opened->error().text));
+            messages::critical(this, messages::withPathBelow(vectorError(
+                                         path, buildings::reasonText(opened->error().text))));
         return;
     }
     if (opened->value()->layers().isEmpty()) {

@@ -147,9 +147,8 @@ VltAddTexbPreviewPage::look(const vlt::buildings::RasterColoring &coloring) cons
     return look;
 }
 
-vlt::Result<vlt::buildings::BuildingLayerFiles>
-VltAddTexbPreviewPage::writeFiles(const QString &layerPath, vlt::platform::Access access,
-                                  QString &reason)
+std::optional<vlt::Result<vlt::buildings::BuildingLayerFiles>>
+VltAddTexbPreviewPage::writeFiles(const QString &layerPath, vlt::platform::Access access)
 {
     std::optional<vlt::buildings::RasterColoring> coloring;
     std::optional<vlt::buildings::LegendInput> legend;
@@ -157,12 +156,12 @@ VltAddTexbPreviewPage::writeFiles(const QString &layerPath, vlt::platform::Acces
         legend = m_ui->m_pwColoring->legend();
         coloring = m_ui->m_pwColoring->coloring(); // the legend may have taken the user's time
         if (!legend || !coloring)
-            return vlt::Error{};
+            return std::nullopt;
     }
     m_colorMapName = legend ? legend->name : QString();
     return vlt::buildings::writeTexturedLayer(
         layerPath, layerInput(m_ui->m_pwExtrusion->settings(), legend),
-        look(coloring.value_or(vlt::buildings::RasterColoring())), access, &reason);
+        look(coloring.value_or(vlt::buildings::RasterColoring())), access);
 }
 
 void VltAddTexbPreviewPage::layerWritten(const vlt::buildings::BuildingLayerFiles &files)

@@ -29,8 +29,8 @@ public:
 private:
     bool isReady() const override;
     QString missingText() const override;
-    vlt::Result<vlt::buildings::BuildingLayerFiles>
-    writeFiles(const QString &layerPath, vlt::platform::Access access, QString &reason) override;
+    std::optional<vlt::Result<vlt::buildings::BuildingLayerFiles>>
+    writeFiles(const QString &layerPath, vlt::platform::Access access) override;
     void layerWritten(const vlt::buildings::BuildingLayerFiles &files) override;
 
     QList<VltParameterPanel *> panels() const;

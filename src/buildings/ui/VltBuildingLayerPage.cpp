@@ -52,8 +52,7 @@ void VltBuildingLayerPage::setResult(VltBuildingPreview *preview, QBoxLayout *dr
         tr("Drag the layer file into the builder; Ctrl+C copies it to be pasted there.\nIts files "
            "are temporary: Ctrl+S saves it for good, with its document and legend beside it.",
            "MESS_TIP_DRAG_TEXB"));
-    m_dragIcon->setSaver(
-        [this](const QString &target, QString &reason) { return saveLayer(target, reason); });
+    m_dragIcon->setSaver([this](const QString &target) { return saveLayer(target); });
     m_dragIcon->installEventFilter(this);
     dragRow->addWidget(m_dragIcon);
     setLayerFile({});
@@ -174,11 +173,13 @@ bool VltBuildingLayerPage::makeLayer()
 
 /// The temporary files go with this process or the next start of the machine; a saved layer names
 /// files of its own.
-vlt::Result<vlt::Done> VltBuildingLayerPage::saveLayer(const QString &target, QString &reason)
+std::optional<vlt::Result<vlt::Done>> VltBuildingLayerPage::saveLayer(const QString &target)
 {
-    const auto written = writeFiles(target, vlt::platform::Access::Shared, reason);
+    const auto written = writeFiles(target, vlt::platform::Access::Shared);
     if (!written)
-        return written.error();
+        return std::nullopt;
+    if (!*written)
+        return written->error();
     return vlt::Done{};
 }
 
@@ -188,18 +189,18 @@ bool VltBuildingLayerPage::makeOnce()
         leaveLayer(missingText());
         return false;
     }
-    QString reason;
     const auto written = writeFiles(vlt::wizard::temporaryLayerFileName(m_layerName),
-                                    vlt::platform::Access::UserOnly, reason);
-    if (!written) {
+                                    vlt::platform::Access::UserOnly);
+    if (!written || !*written) {
         leaveLayer(tr("The layer has not been made.", "MESS_LAYER_NOT_MADE"));
-        if (!written.error().key.isEmpty() || !written.error().text.isEmpty())
-            vlt::messages::critical(this, written.error(), vlt::messages::errorTitle(), reason);
+        if (written)
+            vlt::messages::critical(this, written->error());
         return false;
     }
     saveSettings();
-    layerWritten(written.value());
-    setLayerFile(written.value().layer);
-    m_preview->showLayer(written.value().layer, m_source.project);
+    const vlt::buildings::BuildingLayerFiles &files = written->value();
+    layerWritten(files);
+    setLayerFile(files.layer);
+    m_preview->showLayer(files.layer, m_source.project);
     return true;
 }

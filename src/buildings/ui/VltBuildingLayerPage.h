@@ -64,10 +64,9 @@ private:
     virtual QString missingText() const { return {}; }
 
     /// @param layerPath  of the layer file, which the other files lie beside
-    /// @param reason     takes the system's reason of a file that cannot be written
-    /// @return           an error without key and text where the user has seen the reason already
-    virtual vlt::Result<vlt::buildings::BuildingLayerFiles>
-    writeFiles(const QString &layerPath, vlt::platform::Access access, QString &reason) = 0;
+    /// @return           nothing where there is none and the user knows why
+    virtual std::optional<vlt::Result<vlt::buildings::BuildingLayerFiles>>
+    writeFiles(const QString &layerPath, vlt::platform::Access access) = 0;
 
     /// Shows what belongs to the layer that was just written; no files where there is none any
     /// more.
@@ -75,7 +74,7 @@ private:
 
     bool makeLayer();
     bool makeOnce();
-    vlt::Result<vlt::Done> saveLayer(const QString &target, QString &reason);
+    std::optional<vlt::Result<vlt::Done>> saveLayer(const QString &target);
     void leaveLayer(const QString &message);
     void setLayerFile(const QString &path);
 

@@ -53,10 +53,9 @@ bool isNumber(const QString &text)
 
 void tellOfColorMap(QWidget *parent, const Error &error)
 {
-    messages::critical(parent,
-                       {QStringLiteral("MESS_ERR_OPEN_CMAP"),
-                        QStringLiteral("This file can't be read as a colormap"), error.path},
-                       messages::errorTitle(), error.text);
+    messages::critical(parent, {QStringLiteral("MESS_ERR_OPEN_CMAP"),
+                                QStringLiteral("This file can't be read as a colormap"), error.path,
+                                error.text});
 }
 
 } // namespace
@@ -194,9 +193,10 @@ bool VltColoringPanel::readRange(const buildings::RasterColoring &coloring)
     if (!read)
         return false;
     if (!*read) {
-        messages::critical(
-            this, {{}, buildings::textOf(buildings::RasterProblem::CannotOpen), read->error().path},
-            messages::errorTitle(), buildings::reasonText(read->error().text));
+        messages::critical(this, {{},
+                                  buildings::textOf(buildings::RasterProblem::CannotOpen),
+                                  read->error().path,
+                                  buildings::reasonText(read->error().text)});
         return false;
     }
     m_range = KnownRange{coloring.rasterFile, coloring.noData, written, read->value()};

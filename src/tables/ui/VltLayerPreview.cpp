@@ -117,10 +117,9 @@ bool VltLayerPreview::showLayer()
         return true;
     }
     if (read)
-        vlt::messages::critical(this,
-                                {QStringLiteral("MESS_CANT_SHOW_LAYER"),
-                                 QStringLiteral("The layer cannot be shown"), m_layerFile},
-                                vlt::messages::errorTitle(), read->error().text);
+        vlt::messages::critical(this, {QStringLiteral("MESS_CANT_SHOW_LAYER"),
+                                       QStringLiteral("The layer cannot be shown"), m_layerFile,
+                                       read->error().text});
     return false;
 }
 

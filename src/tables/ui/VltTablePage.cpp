@@ -24,13 +24,6 @@ namespace {
 
 const QString LastUsedDirKey = QStringLiteral("LastUsedDir");
 
-/// The file and why it was refused, as two lines.
-QString refusalDetail(const QString &path, const QString &reason)
-{
-    const QString translated = vlt::language::readerText(reason);
-    return translated.isEmpty() ? path : path + QLatin1Char('\n') + translated;
-}
-
 /// Parts whose focus is that of the whole, such as the lines of spin boxes and combos and the
 /// inside of tables. Shift+Tab comes to the whole by them, so that they have to stand behind it.
 QWidgetList partsThatStandFor(const QWidget &stop)
@@ -296,8 +289,9 @@ void VltTablePage::readFileInfo(const QString &path, bool quiet)
         m_fileDir = file().fileDir;
     showFile();
     if (file().error && !quiet)
-        vlt::messages::critical(this, *file().error, vlt::messages::errorTitle(),
-                                refusalDetail(path, file().errorDetail));
+        vlt::messages::critical(
+            this, vlt::messages::withPathBelow({file().error->key, file().error->text, path,
+                                                vlt::language::readerText(file().errorDetail)}));
     createLayerFile();
     m_isReading = false;
     Q_EMIT completeChanged();
@@ -416,11 +410,10 @@ void VltTablePage::writeLayerFile()
                                tr("Error !!!", "MESS_ERREUR"));
 
     const QString path = vlt::wizard::temporaryLayerFileName(m_kind.layerBaseName);
-    QString reason;
-    const auto written = vlt::platform::writeLayerFile(path, layer.value().text,
-                                                       vlt::platform::Access::UserOnly, &reason);
+    const auto written =
+        vlt::platform::writeLayerFile(path, layer.value().text, vlt::platform::Access::UserOnly);
     if (!written) {
-        vlt::messages::critical(this, written.error(), vlt::messages::errorTitle(), reason);
+        vlt::messages::critical(this, written.error());
         return;
     }
     m_pwDragIcon->setLayerFile(path);

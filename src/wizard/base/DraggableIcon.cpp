@@ -1,6 +1,6 @@
 #include "wizard/base/DraggableIcon.h"
 
-#include "platform/AtomicFile.h"
+#include "platform/LayerFile.h"
 #include "platform/Settings.h"
 #include "wizard/base/Messages.h"
 
@@ -178,23 +178,19 @@ void DraggableIcon::saveAs()
     if (dialog.exec() != QDialog::Accepted)
         return;
     const QString target = dialog.selectedFiles().constFirst();
-    QString reason;
-    const vlt::Result<vlt::Done> saved = m_saver ? m_saver(target, reason) : copyTo(target, reason);
-    if (!saved && !(saved.error().key.isEmpty() && saved.error().text.isEmpty()))
-        vlt::messages::critical(this, saved.error(), vlt::messages::errorTitle(), reason);
+    const auto saved = m_saver ? m_saver(target) : copyTo(target);
+    if (saved && !*saved)
+        vlt::messages::critical(this, saved->error());
 }
 
-vlt::Result<vlt::Done> DraggableIcon::copyTo(const QString &target, QString &reason) const
+vlt::Result<vlt::Done> DraggableIcon::copyTo(const QString &target) const
 {
     QFile layer(m_layerFile);
-    if (layer.open(QIODevice::ReadOnly)) {
-        vlt::Result<vlt::Done> written =
-            vlt::platform::writeWhole(target, layer.readAll(), vlt::platform::Access::Shared);
-        if (written)
-            return written;
-        reason = written.error().text;
-    } else
-        reason = layer.errorString();
-    return vlt::Error{QStringLiteral("MESS_CANT_CREATE_LAYER"),
-                      QStringLiteral("Can't create the layer file"), target};
+    if (!layer.open(QIODevice::ReadOnly))
+        return vlt::platform::cannotCreateLayer(target, layer.errorString());
+    const auto written =
+        vlt::platform::writeWhole(target, layer.readAll(), vlt::platform::Access::Shared);
+    if (!written)
+        return vlt::platform::cannotCreateLayer(target, written.error().detail);
+    return written;
 }

@@ -7,6 +7,7 @@
 #include <QString>
 
 #include <functional>
+#include <optional>
 
 class QMimeData;
 
@@ -31,9 +32,8 @@ public:
     /// Writes the layer for good, with all files that it names.
     ///
     /// @param target  of the layer file
-    /// @param reason  takes the system's reason of a file that cannot be written
-    /// @return        an error without key and text where the user has seen the reason already
-    using Saver = std::function<vlt::Result<vlt::Done>(const QString &target, QString &reason)>;
+    /// @return        nothing where there is none and the user knows why
+    using Saver = std::function<std::optional<vlt::Result<vlt::Done>>(const QString &target)>;
 
     /// Without one "Save as" copies the layer file: then it must name no file that will not stay.
     void setSaver(Saver saver) { m_saver = std::move(saver); }
@@ -55,7 +55,7 @@ private:
     QMimeData *layerData() const;
     void copyToClipboard() const;
     void saveAs();
-    vlt::Result<vlt::Done> copyTo(const QString &target, QString &reason) const;
+    vlt::Result<vlt::Done> copyTo(const QString &target) const;
     void openMenu(const QPoint &position);
     void playAttention();
     void endAttention();

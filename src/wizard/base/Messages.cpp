@@ -11,12 +11,11 @@ namespace vlt::messages {
 
 namespace {
 
-void tell(QMessageBox::Icon icon, QWidget *parent, const QString &text, const QString &title,
-          const QString &detail = {})
+void show(QMessageBox::Icon icon, QWidget *parent, const Error &error, const QString &title)
 {
-    QMessageBox box(icon, title, text, QMessageBox::Ok, parent);
+    QMessageBox box(icon, title, textOf(error), QMessageBox::Ok, parent);
     box.setTextFormat(Qt::PlainText);
-    box.setInformativeText(text::asRichText(detail));
+    box.setInformativeText(text::asRichText(error.detail));
     box.exec();
 }
 
@@ -43,14 +42,22 @@ QString errorTitle()
     return dico_label("MESS_ERREUR", "Error");
 }
 
-void critical(QWidget *parent, const Error &error, const QString &title, const QString &detail)
+void critical(QWidget *parent, const Error &error, const QString &title)
 {
-    tell(QMessageBox::Critical, parent, textOf(error), title, detail);
+    show(QMessageBox::Critical, parent, error, title);
 }
 
-void warning(QWidget *parent, const Error &error, const QString &title, const QString &detail)
+void warning(QWidget *parent, const Error &error, const QString &title)
 {
-    tell(QMessageBox::Warning, parent, textOf(error), title, detail);
+    show(QMessageBox::Warning, parent, error, title);
+}
+
+Error withPathBelow(Error error)
+{
+    error.detail =
+        error.detail.isEmpty() ? error.path : error.path + QLatin1Char('\n') + error.detail;
+    error.path.clear();
+    return error;
 }
 
 bool confirmed(QWidget *parent, const QString &question)
