@@ -3,9 +3,11 @@
 #include "wizard/base/BusyWait.h"
 #include "wizard/base/DecimalSpinBox.h"
 #include "wizard/base/DraggableIcon.h"
+#include "wizard/base/VltResultPage.h"
 
 #include <QClipboard>
 #include <QDir>
+#include <QHBoxLayout>
 #include <QProgressBar>
 #include <QProgressDialog>
 #include <QSemaphore>
@@ -35,6 +37,33 @@ public:
     QLabel label;
     int restored = 0;
     QStringList dropped;
+};
+
+/// Values change while it writes, as from below a message box.
+class ProbeResultPage : public VltResultPage
+{
+public:
+    explicit ProbeResultPage(SharedParameters &parameters)
+        : VltResultPage(nullptr, parameters, QString(), QString(), {u"probe"_s, u"Probe"_s})
+    {
+        setResult({new QHBoxLayout(this), new QLabel(this), {}, {}});
+    }
+
+    int changesWhileWriting = 0;
+    int written = 0;
+
+private:
+    std::optional<QString> obstacle() const override { return std::nullopt; }
+    std::optional<vlt::Result<vlt::Done>> writeLayer(const QString & /*path*/,
+                                                     vlt::platform::Access /*access*/) override
+    {
+        ++written;
+        for (; changesWhileWriting > 0; --changesWhileWriting)
+            updatePreview();
+        return vlt::Done{};
+    }
+    void showLayer(const QString & /*path*/) override {}
+    void showNoLayer(const QString & /*why*/) override {}
 };
 
 /// Takes links and keeps what came.
@@ -96,6 +125,21 @@ private Q_SLOTS:
         dropFiles(&page, {first, u"/t/b"_s});
         QCOMPARE(page.dropped, QStringList{first});
         QVERIFY(!page.label.font().underline());
+    }
+
+    void makesOneLayerOfAllChangesThatArriveMeanwhile()
+    {
+        ProbeResultPage page(m_parameters);
+        page.updatePreview();
+        QCOMPARE(page.written, 0); // the page was not shown yet
+        page.initializePage();
+
+        page.changesWhileWriting = 3;
+        page.updatePreview();
+
+        QCOMPARE(page.written, 2);
+        page.updatePreview();
+        QCOMPARE(page.written, 3);
     }
 
     void scalesTheDragImageToItsLongerSide()

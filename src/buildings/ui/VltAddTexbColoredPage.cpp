@@ -2,23 +2,13 @@
 
 #include "ui_AddTexbColoredPage.h"
 
-#include "platform/Settings.h"
-
-#include <QSettings>
-
 using namespace vlt;
-
-namespace {
-
-const QString Group = QStringLiteral("AddTexbColoredPage");
-const QString AutoRefreshKey = QStringLiteral("AddTexbColoredPage/AutoRefresh");
-
-} // namespace
 
 VltAddTexbColoredPage::VltAddTexbColoredPage(QWidget *wizard, SharedParameters &parameters,
                                              const QString &installDir, const QString &language)
-    : VltBuildingLayerPage(wizard, parameters, installDir, language,
-                           QStringLiteral("buildings_colored"))
+    : VltBuildingLayerPage(
+          wizard, parameters, installDir, language,
+          {QStringLiteral("buildings_colored"), QStringLiteral("AddTexbColoredPage")})
     , m_ui(std::make_unique<Ui::AddTexbColoredPage>())
 {
     m_ui->setupUi(this);
@@ -26,30 +16,13 @@ VltAddTexbColoredPage::VltAddTexbColoredPage(QWidget *wizard, SharedParameters &
     setFocusProxy(m_ui->m_pwTabs); // the first stop: Tab would never reach what stands before it
     setDropHighlightWidgets(m_ui->m_pwColoring->dropLabels());
     m_ui->m_pwColoring->setInstallDir(installDir);
-    setResult(m_ui->m_pwGbPreview, m_ui->m_ptHbDrag, m_ui->m_pwLblDragText);
     m_ui->m_pwExtrusion->setDistanceRemembered(false);
-    for (const VltParameterPanel *panel :
-         std::initializer_list<VltParameterPanel *>{m_ui->m_pwColoring, m_ui->m_pwExtrusion})
-        connect(panel, &VltParameterPanel::parameterChanged, this,
-                &VltAddTexbColoredPage::updatePreview);
+    addPanel(m_ui->m_pwColoring);
+    addPanel(m_ui->m_pwExtrusion);
+    setForm(m_ui->m_pwGbPreview, m_ui->m_ptHbDrag, m_ui->m_pwLblDragText);
 }
 
 VltAddTexbColoredPage::~VltAddTexbColoredPage() = default;
-
-void VltAddTexbColoredPage::saveSettings()
-{
-    m_ui->m_pwColoring->saveSettings(Group);
-    m_ui->m_pwExtrusion->saveSettings(Group);
-    platform::wizardSettings()->setValue(AutoRefreshKey, m_ui->m_pwGbPreview->isAutoRefresh());
-}
-
-void VltAddTexbColoredPage::restoreSettings()
-{
-    m_ui->m_pwColoring->loadSettings(Group);
-    m_ui->m_pwExtrusion->loadSettings(Group);
-    m_ui->m_pwGbPreview->setAutoRefresh(
-        platform::wizardSettings()->value(AutoRefreshKey, true).toBool());
-}
 
 void VltAddTexbColoredPage::droppedFile(const QString &path)
 {
@@ -74,11 +47,6 @@ void VltAddTexbColoredPage::addCmap()
 void VltAddTexbColoredPage::currentDatasetChanged()
 {
     m_ui->m_pwColoring->currentDatasetChanged();
-}
-
-bool VltAddTexbColoredPage::isReady() const
-{
-    return missingText().isEmpty();
 }
 
 QString VltAddTexbColoredPage::missingText() const

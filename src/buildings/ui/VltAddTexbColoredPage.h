@@ -18,9 +18,6 @@ public:
                           const QString &language);
     ~VltAddTexbColoredPage() override;
 
-    void saveSettings() override;
-    void restoreSettings() override;
-
     /// A text of colours becomes a colour map, anything else the image.
     void droppedFile(const QString &path) override;
 
@@ -31,7 +28,6 @@ public Q_SLOTS:
     void currentDatasetChanged();
 
 private:
-    bool isReady() const override;
     QString missingText() const override;
     std::optional<vlt::Result<vlt::buildings::BuildingLayerFiles>>
     writeFiles(const QString &layerPath, vlt::platform::Access access) override;

@@ -1,26 +1,18 @@
 #include "buildings/ui/VltAddTexbPreviewPage.h"
 
 #include "buildings/TexturedInfoText.h"
-#include "platform/Settings.h"
 #include "ui_AddTexbPreviewPage.h"
 
 #include <QScrollArea>
-#include <QSettings>
 #include <QStyle>
 
 using vlt::buildings::FileEntry;
 
-namespace {
-
-const QString SettingsGroup = QStringLiteral("AddTexbPreviewPage");
-const QString AutoRefreshKey = QStringLiteral("AddTexbPreviewPage/AutoRefresh");
-
-} // namespace
-
 VltAddTexbPreviewPage::VltAddTexbPreviewPage(QWidget *wizard, SharedParameters &parameters,
                                              const QString &installDir, const QString &language)
-    : VltBuildingLayerPage(wizard, parameters, installDir, language,
-                           QStringLiteral("buildings_textured"))
+    : VltBuildingLayerPage(
+          wizard, parameters, installDir, language,
+          {QStringLiteral("buildings_textured"), QStringLiteral("AddTexbPreviewPage")})
     , m_ui(std::make_unique<Ui::AddTexbPreviewPage>())
 {
     m_ui->setupUi(this);
@@ -29,27 +21,17 @@ VltAddTexbPreviewPage::VltAddTexbPreviewPage(QWidget *wizard, SharedParameters &
     m_ui->m_pwColoring->setInstallDir(installDir);
     m_ui->m_pwExtrusion->alignTo(m_ui->m_pwCache->columnWidth());
     setDropHighlightWidgets(m_ui->m_pwColoring->dropLabels());
-    setResult(m_ui->m_pwGbPreview, m_ui->m_ptHbDrag, m_ui->m_pwLblDragText);
-    connectPanels();
+    for (VltParameterPanel *panel : std::initializer_list<VltParameterPanel *>{
+             m_ui->m_pwTexturing, m_ui->m_pwColors, m_ui->m_pwExtrusion, m_ui->m_pwOptions,
+             m_ui->m_pwCache, m_ui->m_pwColoring})
+        addPanel(panel);
+    setForm(m_ui->m_pwGbPreview, m_ui->m_ptHbDrag, m_ui->m_pwLblDragText);
+    connect(m_ui->m_pwColors, &VltBuildingColors::coloringWanted, this,
+            [this] { m_ui->m_pwTabs->setCurrentWidget(m_ui->m_pwTabColoring); });
     showColoring();
 }
 
 VltAddTexbPreviewPage::~VltAddTexbPreviewPage() = default;
-
-QList<VltParameterPanel *> VltAddTexbPreviewPage::panels() const
-{
-    return {m_ui->m_pwTexturing, m_ui->m_pwColors, m_ui->m_pwExtrusion,
-            m_ui->m_pwOptions,   m_ui->m_pwCache,  m_ui->m_pwColoring};
-}
-
-void VltAddTexbPreviewPage::connectPanels()
-{
-    for (const VltParameterPanel *panel : panels())
-        connect(panel, &VltParameterPanel::parameterChanged, this,
-                &VltAddTexbPreviewPage::takeChange);
-    connect(m_ui->m_pwColors, &VltBuildingColors::coloringWanted, this,
-            [this] { m_ui->m_pwTabs->setCurrentWidget(m_ui->m_pwTabColoring); });
-}
 
 void VltAddTexbPreviewPage::initializePage()
 {
@@ -71,11 +53,11 @@ void VltAddTexbPreviewPage::fitWidth()
     }
 }
 
-void VltAddTexbPreviewPage::takeChange()
+void VltAddTexbPreviewPage::updatePreview()
 {
     showColoring();
     showInformation();
-    updatePreview();
+    VltBuildingLayerPage::updatePreview();
 }
 
 /// The tab of the colour map is there while something is coloured by it.
@@ -94,32 +76,12 @@ void VltAddTexbPreviewPage::showInformation()
             : vlt::buildings::texturedInfoText(m_ui->m_pwTexturing->mode(), m_images));
 }
 
-void VltAddTexbPreviewPage::restoreSettings()
-{
-    for (VltParameterPanel *panel : panels())
-        panel->loadSettings(SettingsGroup);
-    m_ui->m_pwGbPreview->setAutoRefresh(
-        vlt::platform::wizardSettings()->value(AutoRefreshKey, true).toBool());
-}
-
-void VltAddTexbPreviewPage::saveSettings()
-{
-    for (VltParameterPanel *panel : panels())
-        panel->saveSettings(SettingsGroup);
-    vlt::platform::wizardSettings()->setValue(AutoRefreshKey, m_ui->m_pwGbPreview->isAutoRefresh());
-}
-
 void VltAddTexbPreviewPage::droppedFile(const QString &path)
 {
     if (!m_ui->m_pwColors->usesColorMap())
         return;
     m_ui->m_pwTabs->setCurrentWidget(m_ui->m_pwTabColoring);
     m_ui->m_pwColoring->openDropped(path);
-}
-
-bool VltAddTexbPreviewPage::isReady() const
-{
-    return missingText().isEmpty();
 }
 
 QString VltAddTexbPreviewPage::missingText() const

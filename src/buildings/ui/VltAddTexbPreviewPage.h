@@ -7,7 +7,6 @@
 namespace Ui {
 class AddTexbPreviewPage;
 }
-class VltParameterPanel;
 
 /// The page on which it is chosen how buildings with images are shown.
 class VltAddTexbPreviewPage : public VltBuildingLayerPage
@@ -20,23 +19,20 @@ public:
     ~VltAddTexbPreviewPage() override;
 
     void initializePage() override;
-    void saveSettings() override;
-    void restoreSettings() override;
 
     /// The image that colours come from or a colour map, where walls or roofs are coloured so.
     void droppedFile(const QString &path) override;
 
+public Q_SLOTS:
+    void updatePreview() override;
+
 private:
-    bool isReady() const override;
     QString missingText() const override;
     std::optional<vlt::Result<vlt::buildings::BuildingLayerFiles>>
     writeFiles(const QString &layerPath, vlt::platform::Access access) override;
     void layerWritten(const vlt::buildings::BuildingLayerFiles &files) override;
 
-    QList<VltParameterPanel *> panels() const;
-    void connectPanels();
     void fitWidth();
-    void takeChange();
     void showColoring();
     void showInformation();
     vlt::buildings::TexturedLook look(const vlt::buildings::RasterColoring &coloring) const;

@@ -1,39 +1,37 @@
 #pragma once
 
 #include "buildings/BuildingLayerFiles.h"
-#include "wizard/base/BasePage.h"
+#include "wizard/base/VltResultPage.h"
 
 #include <QTimer>
 
-class DraggableIcon;
-class QBoxLayout;
-class QLabel;
 class VltBuildingPreview;
 
-/// A page on which buildings become a layer: settings of a kind, preview, icon of the finished
-/// layer. The files are made on entering and soon after a change. Where auto refresh is off they
-/// are made on Refresh, or when the user takes hold of the icon.
+/// A page on which buildings become a layer. The files are made on entering and soon after a
+/// change. Where auto refresh is off they are made on Refresh, or when the user takes hold of the
+/// icon.
 ///
-/// A page of a kind sets its form up in its constructor and calls setResult().
-class VltBuildingLayerPage : public BasePage
+/// A page of a kind sets its form up in its constructor, adds its panels and calls setForm().
+class VltBuildingLayerPage : public VltResultPage
 {
     Q_OBJECT
 
 public:
-    /// @param layerName  of the temporary files: "buildings_colored"
     VltBuildingLayerPage(QWidget *wizard, SharedParameters &parameters, const QString &installDir,
-                         const QString &language, const QString &layerName);
+                         const QString &language, const Names &names);
 
     void initializePage() override;
     void cleanupPage() override;
 
     /// Saves the settings and makes the layer where it is not the one of the settings.
     bool validatePage() override;
-    int nextId() const override { return -1; }
+
+    void saveSettings() override;
+    void restoreSettings() override;
 
 public Q_SLOTS:
     /// A value changed: the layer is made again, soon, or on Refresh.
-    void updatePreview();
+    void updatePreview() override;
     void resetView();
     void autoRefreshChanged(int state);
     void refreshRequested();
@@ -42,7 +40,7 @@ protected:
     /// Takes the widgets of the result side of the form and adds the icon to one of its rows.
     ///
     /// @param dragText  the text beside the icon
-    void setResult(VltBuildingPreview *preview, QBoxLayout *dragRow, QLabel *dragText);
+    void setForm(VltBuildingPreview *preview, QBoxLayout *dragRow, QLabel *dragText);
 
     const vlt::buildings::BuildingsSource &source() const { return m_source; }
 
@@ -51,18 +49,10 @@ protected:
     layerInput(const vlt::contract::BuildingFootprints &footprints,
                const std::optional<vlt::buildings::LegendInput> &legend) const;
 
-    bool eventFilter(QObject *watched, QEvent *event) override;
-
-    /// Enter takes a typed value and goes no further: the wizard would press one of its buttons.
-    void keyPressEvent(QKeyEvent *event) override;
+    /// Why the choices make no layer, for the user; empty where they make one.
+    virtual QString missingText() const = 0;
 
 private:
-    /// What the page is not ready without is missing: no layer is made, no box opened.
-    virtual bool isReady() const = 0;
-
-    /// What is missing then, for the user.
-    virtual QString missingText() const { return {}; }
-
     /// @param layerPath  of the layer file, which the other files lie beside
     /// @return           nothing where there is none and the user knows why
     virtual std::optional<vlt::Result<vlt::buildings::BuildingLayerFiles>>
@@ -72,18 +62,18 @@ private:
     /// more.
     virtual void layerWritten(const vlt::buildings::BuildingLayerFiles & /*files*/) {}
 
-    bool makeLayer();
-    bool makeOnce();
-    std::optional<vlt::Result<vlt::Done>> saveLayer(const QString &target);
-    void leaveLayer(const QString &message);
-    void setLayerFile(const QString &path);
+    void beginLayer() override;
+    std::optional<QString> obstacle() const override;
+    std::optional<vlt::Result<vlt::Done>> writeLayer(const QString &path,
+                                                     vlt::platform::Access access) override;
+    bool followsChanges() const override;
+    void showLayer(const QString &path) override;
+    void showNoLayer(const QString &why) override;
+    QString autoRefreshKey() const;
 
-    QString m_layerName;
+    QString m_settingsGroup;
     vlt::buildings::BuildingsSource m_source;
+    vlt::buildings::BuildingLayerFiles m_files; ///< those written last
     VltBuildingPreview *m_preview = nullptr;
-    DraggableIcon *m_dragIcon = nullptr;
-    QLabel *m_dragText = nullptr;
     QTimer m_delay; ///< folds quick changes into one layer
-    bool m_isStale = true;
-    bool m_isMaking = false;
 };

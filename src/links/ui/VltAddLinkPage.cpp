@@ -17,10 +17,7 @@ VltAddLinkPage::VltAddLinkPage(QWidget *wizard, SharedParameters &parameters,
     , m_panelPylons(new VltSiteProperties(installDir, language, this))
     , m_panelDetails(new VltLinkDetails(this))
 {
-    addPanel(m_panelLinks);
-    addPanel(m_panelPylons);
-    addDetails(m_panelDetails);
-    readRememberedFile();
+    setParts(m_panelDetails, {m_panelLinks, m_panelPylons});
 }
 
 vlt::tables::TablePageKind VltAddLinkPage::linkKind()
@@ -89,7 +86,7 @@ std::optional<vlt::Error> VltAddLinkPage::missingChoice() const
                                      installDir());
 }
 
-vlt::Result<vlt::tables::TableLayer> VltAddLinkPage::makeLayer() const
+vlt::Result<vlt::tables::TableLayer> VltAddLinkPage::composeLayer() const
 {
     return vlt::links::makeLinkLayer(layerInput());
 }

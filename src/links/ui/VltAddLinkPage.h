@@ -30,7 +30,7 @@ private:
     void showDetails() override;
     void checkRows() override;
     std::optional<vlt::Error> missingChoice() const override;
-    vlt::Result<vlt::tables::TableLayer> makeLayer() const override;
+    vlt::Result<vlt::tables::TableLayer> composeLayer() const override;
     QString demonstrationUrl() const override;
     double preciseDistanceM() const override;
 

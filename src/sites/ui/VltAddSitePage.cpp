@@ -9,9 +9,7 @@ VltAddSitePage::VltAddSitePage(QWidget *wizard, SharedParameters &parameters,
     , m_panelPylons(new VltSiteProperties(installDir, language, this))
     , m_panelDetails(new VltSiteDetails(this))
 {
-    addPanel(m_panelPylons);
-    addDetails(m_panelDetails);
-    readRememberedFile();
+    setParts(m_panelDetails, {m_panelPylons});
 }
 
 vlt::tables::TablePageKind VltAddSitePage::siteKind()
@@ -73,7 +71,7 @@ std::optional<vlt::Error> VltAddSitePage::missingChoice() const
                                      installDir());
 }
 
-vlt::Result<vlt::tables::TableLayer> VltAddSitePage::makeLayer() const
+vlt::Result<vlt::tables::TableLayer> VltAddSitePage::composeLayer() const
 {
     return vlt::sites::makeSiteLayer(layerInput());
 }

@@ -26,7 +26,7 @@ QLabel *nameLabel(const VltSrsChooser &chooser)
 } // namespace
 
 VltSrsSettings::VltSrsSettings(const QString &kind, QWidget *parent)
-    : QWidget(parent)
+    : VltParameterPanel(parent)
     , m_pwSource(
           new VltSrsChooser(this,
                             kind == QLatin1String("link")

@@ -1,14 +1,13 @@
 #pragma once
 
 #include "srs/SrsPreferences.h"
-
-#include <QWidget>
+#include "wizard/base/VltParameterPanel.h"
 
 class QPushButton;
 class VltSrsChooser;
 
 /// The panel with the coordinate systems of a table and of the target project.
-class VltSrsSettings : public QWidget
+class VltSrsSettings : public VltParameterPanel
 {
     Q_OBJECT
 
@@ -29,18 +28,14 @@ public:
     QString sourceSrs() const;
     QString targetSrs() const;
 
-    /// Reads and writes the target system remembered under "<prefix>/TargetSrs".
-    void loadSettings(const QString &prefix);
-    void saveSettings(const QString &prefix);
+    /// The target system is remembered, under "<prefix>/TargetSrs".
+    void loadSettings(const QString &prefix) override;
+    void saveSettings(const QString &prefix) override;
 
 public Q_SLOTS:
     /// Asks for a raster or vector file and takes its system as the target. A file without one is
     /// told of and changes nothing.
     void getTargetEpsgCodeFromDataSource();
-
-Q_SIGNALS:
-    /// The user chose another system.
-    void parameterChanged();
 
 private:
     VltSrsChooser *m_pwSource;

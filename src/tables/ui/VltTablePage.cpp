@@ -9,10 +9,8 @@
 #include "ui_TablePage.h"
 #include "wizard/base/DraggableIcon.h"
 #include "wizard/base/Messages.h"
-#include "wizard/base/TemporaryLayerFile.h"
 #include "wizard/base/VltParameterPanel.h"
 
-#include <QApplication>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QKeyEvent>
@@ -66,7 +64,8 @@ void putInOrder(const QWidgetList &widgets)
 
 VltTablePage::VltTablePage(QWidget *wizard, SharedParameters &parameters, const QString &installDir,
                            const QString &language, const vlt::tables::TablePageKind &kind)
-    : BasePage(wizard, parameters, installDir, language)
+    : VltResultPage(wizard, parameters, installDir, language,
+                    {kind.layerBaseName, kind.settingsPrefix})
     , m_kind(kind)
     , m_ui(std::make_unique<Ui::TablePage>())
 {
@@ -99,16 +98,11 @@ void VltTablePage::createPanels()
 {
     m_panelSrs = new VltSrsSettings(m_kind.srsKind, m_ui->m_pwGbSrs);
     m_ui->m_ptVbSrs->addWidget(m_panelSrs);
-
-    constexpr QSize DragIconSize(72, 72);
-    const QIcon dragIcon(QStringLiteral(":/images/drag-drop-icon.png"));
-    m_pwDragIcon = new DraggableIcon(dragIcon.pixmap(DragIconSize, qApp->devicePixelRatio()), this);
-    m_pwDragIcon->setObjectName(QStringLiteral("m_pwDragIcon"));
-    m_pwDragIcon->setAccessibleName(m_kind.dragName);
-    m_pwDragIcon->setToolTip(tr("Drag the layer file into the builder; Ctrl+C copies it, Ctrl+S "
-                                "saves it under another name",
-                                "MESS_TIP_DRAG"));
-    m_ui->m_ptHbDrag->addWidget(m_pwDragIcon);
+    addPanel(m_panelSrs);
+    setResult({m_ui->m_ptHbDrag, m_ui->m_pwLblDragText, m_kind.dragName,
+               tr("Drag the layer file into the builder; Ctrl+C copies it, Ctrl+S "
+                  "saves it under another name",
+                  "MESS_TIP_DRAG")});
     setDropHighlightWidgets({m_ui->m_pwLblTable});
     vlt::snapshot::addInstalledReaders(installDir());
 }
@@ -121,7 +115,6 @@ void VltTablePage::connectWidgets()
         if (path != m_pathRead && QFileInfo(path).isFile())
             readFileInfo(path, false);
     });
-    connect(m_panelSrs, &VltSrsSettings::parameterChanged, this, &VltTablePage::updatePreview);
     connect(m_ui->m_pwGbPreview, &VltLayerPreview::symbolicWanted, this,
             &VltTablePage::previewSymbolic);
     connect(m_ui->m_pwGbPreview, &VltLayerPreview::preciseWanted, this,
@@ -129,24 +122,18 @@ void VltTablePage::connectWidgets()
     m_ui->m_pwLeTable->installEventFilter(this);
 }
 
-void VltTablePage::readRememberedFile()
+void VltTablePage::setParts(VltTableDetails *details, const QList<VltParameterPanel *> &panels)
 {
-    restoreSettings();
-    readFileInfo(m_ui->m_pwLeTable->text(), true);
-}
-
-void VltTablePage::addDetails(VltTableDetails *details)
-{
-    m_panelDetails = details;
+    Q_ASSERT(!m_details);
+    m_details = details;
     connect(details, &VltTableDetails::checked, this, &VltTablePage::showArea);
     m_ui->m_ptVbTable->addWidget(details);
-}
-
-void VltTablePage::addPanel(VltParameterPanel *panel)
-{
-    m_panels << panel;
-    m_ui->m_ptVbProperties->addWidget(panel);
-    connect(panel, &VltParameterPanel::parameterChanged, this, &VltTablePage::updatePreview);
+    for (VltParameterPanel *panel : panels) {
+        m_ui->m_ptVbProperties->addWidget(panel);
+        addPanel(panel);
+    }
+    restoreSettings();
+    readFileInfo(m_ui->m_pwLeTable->text(), true);
 }
 
 vlt::geodata::SystemPair VltTablePage::systems() const
@@ -164,12 +151,12 @@ bool VltTablePage::eventFilter(QObject *watched, QEvent *event)
             return true;
         }
     }
-    return BasePage::eventFilter(watched, event);
+    return VltResultPage::eventFilter(watched, event);
 }
 
 void VltTablePage::setStacked(bool stacked)
 {
-    for (VltParameterPanel *panel : std::as_const(m_panels))
+    for (VltParameterPanel *panel : panels())
         panel->setStacked(stacked);
 }
 
@@ -183,10 +170,10 @@ void VltTablePage::orderFocus()
         if (frame->focusProxy() && frame->isAncestorOf(frame->focusProxy()))
             frame->setFocusProxy(nullptr);
     }
-    QWidgetList groups{m_ui->m_pwGbTable, m_ui->m_pwGbSrs};
-    for (VltParameterPanel *panel : std::as_const(m_panels))
+    QWidgetList groups{m_ui->m_pwGbTable};
+    for (VltParameterPanel *panel : panels())
         groups << panel;
-    groups << m_ui->m_pwGbPreview << m_pwDragIcon;
+    groups << m_ui->m_pwGbPreview << dragIcon();
 
     QWidgetList ordered;
     for (const QWidget *group : std::as_const(groups)) {
@@ -219,23 +206,16 @@ void VltTablePage::fitInputWidth()
 
 void VltTablePage::initializePage()
 {
-    BasePage::initializePage();
+    VltResultPage::initializePage();
     orderFocus();
     fitInputWidth();
     m_project = vlt::project::readProjectContext(field(QStringLiteral("ProjectName")).toString());
-    m_isActive = true;
     readFileInfo(m_ui->m_pwLeTable->text(), true);
 }
 
 bool VltTablePage::isComplete() const
 {
     return BasePage::isComplete() && file().valid;
-}
-
-bool VltTablePage::validatePage()
-{
-    return vlt::messages::confirmed(
-        this, tr("Voulez-vous quitter l'application ?", "MESS_QUEST_QUIT_APP"));
 }
 
 QString VltTablePage::settingsKey(const QString &name) const
@@ -248,9 +228,7 @@ void VltTablePage::restoreSettings()
     const auto settings = vlt::platform::wizardSettings();
     m_fileDir = settings->value(LastUsedDirKey).toString();
     m_ui->m_pwLeTable->setText(settings->value(settingsKey(m_kind.fileKey)).toString());
-    for (VltParameterPanel *panel : std::as_const(m_panels))
-        panel->loadSettings(m_kind.settingsPrefix);
-    m_panelSrs->loadSettings(m_kind.settingsPrefix);
+    VltResultPage::restoreSettings();
 }
 
 void VltTablePage::saveSettings()
@@ -259,9 +237,7 @@ void VltTablePage::saveSettings()
     if (!m_fileDir.isEmpty())
         settings->setValue(LastUsedDirKey, m_fileDir);
     settings->setValue(settingsKey(m_kind.fileKey), m_ui->m_pwLeTable->text());
-    for (VltParameterPanel *panel : std::as_const(m_panels))
-        panel->saveSettings(m_kind.settingsPrefix);
-    m_panelSrs->saveSettings(m_kind.settingsPrefix);
+    VltResultPage::saveSettings();
 }
 
 void VltTablePage::droppedFile(const QString &path)
@@ -280,9 +256,14 @@ void VltTablePage::openTable()
 
 void VltTablePage::readFileInfo(const QString &path, bool quiet)
 {
-    if (m_isReading) // a box of this very read took the focus out of the line
+    if (isMaking()) // a box took the focus out of the line
         return;
-    m_isReading = true;
+    makeLayer([&] { readFile(path, quiet); });
+    Q_EMIT completeChanged();
+}
+
+void VltTablePage::readFile(const QString &path, bool quiet)
+{
     m_pathRead = path;
     readTable(path);
     if (!file().fileDir.isEmpty())
@@ -292,23 +273,15 @@ void VltTablePage::readFileInfo(const QString &path, bool quiet)
         vlt::messages::critical(
             this, vlt::messages::withPathBelow({file().error->key, file().error->text, path,
                                                 vlt::language::readerText(file().errorDetail)}));
-    createLayerFile();
-    m_isReading = false;
-    Q_EMIT completeChanged();
 }
 
 void VltTablePage::showFile()
 {
     const vlt::tables::TableFileInfo &read = file();
-    // a refused drop leaves the path of the line as it was: the reason names its file itself
-    showReason(read.errorDetail.isEmpty() ? QString()
-                                          : tr("%1: %2", "MESS_FILE_REASON")
-                                                .arg(QFileInfo(m_pathRead).fileName(),
-                                                     vlt::language::readerText(read.errorDetail)));
     if (!read.valid) {
-        m_pwDragIcon->setLayerFile({});
+        leaveLayer(fileReason());
         m_ui->m_pwGbPreview->leaveLayer();
-        m_panelDetails->clear();
+        m_details->clear();
         m_ui->m_pwLblFileInfo->setText(m_kind.noFile);
         return;
     }
@@ -320,6 +293,16 @@ void VltTablePage::showFile()
         m_panelSrs->setTargetSrs(read.systems.target);
     m_panelSrs->setContext({read.projectSystems, read.terrainArea});
     showDetails();
+}
+
+/// Why the table was refused. A refused drop leaves the path of the line as it was: the text names
+/// its file itself.
+QString VltTablePage::fileReason() const
+{
+    return file().errorDetail.isEmpty() ? QString()
+                                        : tr("%1: %2", "MESS_FILE_REASON")
+                                              .arg(QFileInfo(m_pathRead).fileName(),
+                                                   vlt::language::readerText(file().errorDetail));
 }
 
 /// Why there is no layer; an empty text where there is one or no table was chosen.
@@ -339,29 +322,46 @@ void VltTablePage::showArea(const vlt::geodata::SystemCheck &checked)
         m_panelSrs->setContext({read.projectSystems, checked.extent});
 }
 
-void VltTablePage::updatePreview()
+void VltTablePage::beginLayer()
 {
-    createLayerFile();
+    if (!file().valid)
+        return;
+    showDemonstration();
+    checkRows();
 }
 
-/// Changes that arrive while a message box is open are folded into one further run.
-void VltTablePage::createLayerFile()
+std::optional<QString> VltTablePage::obstacle() const
 {
-    m_createAgain = true;
-    if (m_isCreating)
-        return;
-    m_isCreating = true;
-    while (m_createAgain) {
-        m_createAgain = false;
-        m_pwDragIcon->setLayerFile({});
-        if (m_isActive && file().valid) {
-            showDemonstration();
-            writeLayerFile();
-        }
-    }
-    m_ui->m_pwLblDragText->setEnabled(m_pwDragIcon->isEnabled());
-    m_ui->m_pwGbPreview->setLayerFile(m_pwDragIcon->layerFile(), m_project.projectPath);
-    m_isCreating = false;
+    if (!file().valid)
+        return fileReason();
+    std::optional<vlt::Error> error = missingChoice();
+    if (!error)
+        error = vlt::tables::systemObstacle(systems());
+    return error ? std::optional(vlt::messages::textOf(*error)) : std::nullopt;
+}
+
+std::optional<vlt::Result<vlt::Done>> VltTablePage::writeLayer(const QString &path,
+                                                               vlt::platform::Access access)
+{
+    const vlt::Result<vlt::tables::TableLayer> layer = composeLayer();
+    if (!layer)
+        return layer.error();
+    if (layer.value().warning)
+        vlt::messages::warning(this, {layer.value().warning->key, layer.value().warning->text, {}},
+                               tr("Error !!!", "MESS_ERREUR"));
+    return vlt::platform::writeLayerFile(path, layer.value().text, access);
+}
+
+void VltTablePage::showLayer(const QString &path)
+{
+    showReason({});
+    m_ui->m_pwGbPreview->setLayerFile(path, m_project.projectPath);
+}
+
+void VltTablePage::showNoLayer(const QString &why)
+{
+    showReason(why);
+    m_ui->m_pwGbPreview->setLayerFile({}, m_project.projectPath);
 }
 
 void VltTablePage::showDemonstration()
@@ -389,33 +389,4 @@ void VltTablePage::previewSymbolic()
 void VltTablePage::previewPrecise()
 {
     m_ui->m_pwGbPreview->lookAtDemonstration(m_kind.nearDistanceM, m_kind.nearHeightM);
-}
-
-void VltTablePage::writeLayerFile()
-{
-    checkRows();
-    std::optional<vlt::Error> obstacle = missingChoice();
-    if (!obstacle)
-        obstacle = vlt::tables::systemObstacle(systems());
-    showReason(obstacle ? vlt::messages::textOf(*obstacle) : QString());
-    if (obstacle)
-        return;
-    const vlt::Result<vlt::tables::TableLayer> layer = makeLayer();
-    if (!layer) {
-        vlt::messages::critical(this, layer.error());
-        return;
-    }
-    if (layer.value().warning)
-        vlt::messages::warning(this, {layer.value().warning->key, layer.value().warning->text, {}},
-                               tr("Error !!!", "MESS_ERREUR"));
-
-    const QString path = vlt::wizard::temporaryLayerFileName(m_kind.layerBaseName);
-    const auto written =
-        vlt::platform::writeLayerFile(path, layer.value().text, vlt::platform::Access::UserOnly);
-    if (!written) {
-        vlt::messages::critical(this, written.error());
-        return;
-    }
-    m_pwDragIcon->setLayerFile(path);
-    saveSettings();
 }

@@ -3,29 +3,24 @@
 #include "tables/TableFileInfo.h"
 #include "tables/TableLayer.h"
 #include "tables/ui/TablePageKind.h"
-#include "wizard/base/BasePage.h"
 #include "wizard/base/BusyWait.h"
+#include "wizard/base/VltResultPage.h"
 #include "wizard/project/ProjectContext.h"
 
-#include <functional>
 #include <memory>
 #include <optional>
 
 namespace Ui {
 class TablePage;
 }
-class DraggableIcon;
-class VltParameterPanel;
 class VltSrsSettings;
 class VltTableDetails;
 
 /// A page on which a table becomes a layer: the table and what was understood of it, its coordinate
-/// systems, panels of values, a preview and the icon of the finished layer. The layer is
-/// written anew after every change.
+/// systems and panels of values. The layer is written anew after every change.
 ///
-/// A page of a kind of table makes its panels in its constructor, calls addDetails() and then
-/// readRememberedFile().
-class VltTablePage : public BasePage
+/// A page of a kind of table ends its constructor with setParts().
+class VltTablePage : public VltResultPage
 {
     Q_OBJECT
 
@@ -35,11 +30,9 @@ public:
     ~VltTablePage() override;
 
     void initializePage() override;
-    bool validatePage() override;
 
     /// Whether a layer can be made of the table.
     bool isComplete() const override;
-    int nextId() const override { return -1; }
 
     void saveSettings() override;
     void restoreSettings() override;
@@ -54,9 +47,6 @@ public Q_SLOTS:
     /// Asks for a table.
     void openTable();
 
-    /// Makes the layer again, as after a change of a value.
-    void updatePreview();
-
     /// The demonstration from beyond the distance of the precise representation.
     void previewSymbolic();
     /// The demonstration from near.
@@ -65,15 +55,12 @@ public Q_SLOTS:
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
-    /// Restores the settings and reads the remembered table: without a box, a layer or a preview,
-    /// which wait until the page is shown.
-    void readRememberedFile();
-
-    /// Takes the panel that tells what was understood of the table.
-    void addDetails(VltTableDetails *details);
-
-    /// Takes a panel of values, below those that the page has.
-    void addPanel(VltParameterPanel *panel);
+    /// Takes the parts of the page that depend on the kind of table; restores the settings then and
+    /// reads the remembered table, without a box. To be called once, last in the constructor.
+    ///
+    /// @param details  shows what was understood of the table
+    /// @param panels   of values, from top to bottom
+    void setParts(VltTableDetails *details, const QList<VltParameterPanel *> &panels);
 
     /// Reads a table on another thread; an empty value where the user stops it, or where the page
     /// was not shown yet and it takes longer than a moment.
@@ -85,8 +72,8 @@ protected:
             return read(path, project);
         };
         const std::optional<Info> info =
-            m_isActive ? vlt::wizard::waitForValue<Info>(this, m_kind.reading, work)
-                       : vlt::wizard::valueWithinMoment<Info>(work);
+            isShown() ? vlt::wizard::waitForValue<Info>(this, m_kind.reading, work)
+                      : vlt::wizard::valueWithinMoment<Info>(work);
         return info.value_or(Info());
     }
 
@@ -110,13 +97,13 @@ private:
     virtual void readTable(const QString &path) = 0;
     /// What the table is that was read last.
     virtual const vlt::tables::TableFileInfo &file() const = 0;
-    /// Shows the details of a valid table.
+    /// Shows the details of a valid table, without those of its rows.
     virtual void showDetails() = 0;
     /// Starts to check the rows of the table.
     virtual void checkRows() = 0;
     /// Why the values make no layer; none where they do.
     virtual std::optional<vlt::Error> missingChoice() const = 0;
-    virtual vlt::Result<vlt::tables::TableLayer> makeLayer() const = 0;
+    virtual vlt::Result<vlt::tables::TableLayer> composeLayer() const = 0;
     /// Name under which the scene library loads the demonstration.
     virtual QString demonstrationUrl() const = 0;
     /// How far away masts and antennas are still drawn, metres.
@@ -128,25 +115,26 @@ private:
     void orderFocus();
     void setStacked(bool stacked);
     void fitInputWidth();
+    void readFile(const QString &path, bool quiet);
     void showFile();
+    QString fileReason() const;
     void showReason(const QString &reason);
     void showArea(const vlt::geodata::SystemCheck &checked);
-    void createLayerFile();
     void showDemonstration();
-    void writeLayerFile();
+
+    void beginLayer() override;
+    std::optional<QString> obstacle() const override;
+    std::optional<vlt::Result<vlt::Done>> writeLayer(const QString &path,
+                                                     vlt::platform::Access access) override;
+    void showLayer(const QString &path) override;
+    void showNoLayer(const QString &why) override;
     QString settingsKey(const QString &name) const;
 
     vlt::tables::TablePageKind m_kind;
     std::unique_ptr<Ui::TablePage> m_ui;
-    QList<VltParameterPanel *> m_panels;
     VltSrsSettings *m_panelSrs = nullptr;
-    VltTableDetails *m_panelDetails = nullptr;
-    DraggableIcon *m_pwDragIcon = nullptr;
+    VltTableDetails *m_details = nullptr;
     vlt::project::ProjectContext m_project;
     QString m_fileDir;
     QString m_pathRead; ///< what readFileInfo() was last given
-    bool m_isActive = false;
-    bool m_isReading = false;
-    bool m_isCreating = false;
-    bool m_createAgain = false;
 };
