@@ -142,6 +142,17 @@ private Q_SLOTS:
         QCOMPARE(page.written, 3);
     }
 
+    void keepsReturnFromTheWizard()
+    {
+        ProbePage page(m_parameters);
+        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+            QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
+            press.ignore();
+            QApplication::sendEvent(&page, &press);
+            QVERIFY(press.isAccepted());
+        }
+    }
+
     void scalesTheDragImageToItsLongerSide()
     {
         QCOMPARE(DraggableIcon::dragImage(QPixmap(200, 100)).size(), QSize(48, 24));

@@ -17,7 +17,6 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QKeyEvent>
 #include <QLocale>
 #include <QPointer>
 #include <QScopedValueRollback>
@@ -134,14 +133,6 @@ void VltAddTexbFirstPage::connectWidgets()
         if (const QString path = m_ui->m_pwLeDtm->text(); path.isEmpty() || isReadable(path))
             takeTypedDtm();
     });
-}
-
-void VltAddTexbFirstPage::keyPressEvent(QKeyEvent *event)
-{
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
-        event->accept();
-    else
-        BasePage::keyPressEvent(event);
 }
 
 void VltAddTexbFirstPage::initializePage()

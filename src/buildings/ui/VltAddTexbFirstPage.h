@@ -58,10 +58,6 @@ public Q_SLOTS:
     void openVector(const QString &path, bool silent);
     void openVector(const QString &path) { openVector(path, false); }
 
-protected:
-    /// Enter takes a typed path and goes no further: the wizard would press one of its buttons.
-    void keyPressEvent(QKeyEvent *event) override;
-
 private:
     using TerrainResult = vlt::Result<vlt::geodata::RasterSummary>;
 

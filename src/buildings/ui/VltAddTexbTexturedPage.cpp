@@ -266,11 +266,3 @@ bool VltAddTexbTexturedPage::eventFilter(QObject *watched, QEvent *event)
     }
     return BasePage::eventFilter(watched, event);
 }
-
-void VltAddTexbTexturedPage::keyPressEvent(QKeyEvent *event)
-{
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
-        event->accept(); // else the dialog would press some button
-    else
-        BasePage::keyPressEvent(event);
-}

@@ -50,7 +50,6 @@ public Q_SLOTS:
 protected:
     /// The space bar ticks the selected rows.
     bool eventFilter(QObject *watched, QEvent *event) override;
-    void keyPressEvent(QKeyEvent *event) override;
 
 private:
     void setUpTable();

@@ -13,7 +13,6 @@
 
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QKeyEvent>
 #include <QScreen>
 #include <QSettings>
 #include <QStyle>
@@ -110,6 +109,8 @@ void VltTablePage::createPanels()
 void VltTablePage::connectWidgets()
 {
     connect(m_ui->m_pwPbTable, &QPushButton::clicked, this, &VltTablePage::openTable);
+    connect(m_ui->m_pwLeTable, &QLineEdit::returnPressed, this,
+            [this] { readFileInfo(m_ui->m_pwLeTable->text(), false); });
     connect(m_ui->m_pwLeTable, &QLineEdit::editingFinished, this, [this] {
         const QString path = m_ui->m_pwLeTable->text();
         if (path != m_pathRead && QFileInfo(path).isFile())
@@ -119,7 +120,6 @@ void VltTablePage::connectWidgets()
             &VltTablePage::previewSymbolic);
     connect(m_ui->m_pwGbPreview, &VltLayerPreview::preciseWanted, this,
             &VltTablePage::previewPrecise);
-    m_ui->m_pwLeTable->installEventFilter(this);
 }
 
 void VltTablePage::setParts(VltTableDetails *details, const QList<VltParameterPanel *> &panels)
@@ -139,19 +139,6 @@ void VltTablePage::setParts(VltTableDetails *details, const QList<VltParameterPa
 vlt::geodata::SystemPair VltTablePage::systems() const
 {
     return {m_panelSrs->sourceSrs(), m_panelSrs->targetSrs()};
-}
-
-/// Return takes the typed path and goes no further: the wizard would press one of its buttons.
-bool VltTablePage::eventFilter(QObject *watched, QEvent *event)
-{
-    if (watched == m_ui->m_pwLeTable && event->type() == QEvent::KeyPress) {
-        const int key = static_cast<QKeyEvent *>(event)->key();
-        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-            readFileInfo(m_ui->m_pwLeTable->text(), false);
-            return true;
-        }
-    }
-    return VltResultPage::eventFilter(watched, event);
 }
 
 void VltTablePage::setStacked(bool stacked)

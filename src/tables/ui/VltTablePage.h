@@ -53,8 +53,6 @@ public Q_SLOTS:
     void previewPrecise();
 
 protected:
-    bool eventFilter(QObject *watched, QEvent *event) override;
-
     /// Takes the parts of the page that depend on the kind of table; restores the settings then and
     /// reads the remembered table, without a box. To be called once, last in the constructor.
     ///

@@ -1,6 +1,7 @@
 #include "wizard/base/BasePage.h"
 
 #include <QDragEnterEvent>
+#include <QKeyEvent>
 #include <QMimeData>
 #include <QUrl>
 
@@ -41,6 +42,14 @@ void BasePage::underlineHighlights(bool underlined)
         font.setUnderline(underlined);
         widget->setFont(font);
     }
+}
+
+void BasePage::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        event->accept();
+    else
+        QWizardPage::keyPressEvent(event);
 }
 
 void BasePage::dragEnterEvent(QDragEnterEvent *event)

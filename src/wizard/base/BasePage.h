@@ -39,6 +39,9 @@ public:
     virtual void droppedFile(const QString &path);
 
 protected:
+    /// Return takes a typed value and goes no further: the wizard would press one of its buttons.
+    void keyPressEvent(QKeyEvent *event) override;
+
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dragLeaveEvent(QDragLeaveEvent *event) override;
     void dropEvent(QDropEvent *event) override;

@@ -189,11 +189,8 @@ void VltSecondPage::projectDoubleClicked(QListWidgetItem * /*item*/)
 
 void VltSecondPage::keyPressEvent(QKeyEvent *event)
 {
-    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
-        BasePage::keyPressEvent(event);
-        return;
-    }
-    event->accept(); // else the dialog would press some button
-    if (isComplete())
+    BasePage::keyPressEvent(event);
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isReturn && isComplete())
         wizard()->next();
 }
