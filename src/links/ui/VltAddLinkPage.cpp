@@ -23,7 +23,9 @@ VltAddLinkPage::VltAddLinkPage(QWidget *wizard, SharedParameters &parameters,
 vlt::tables::TablePageKind VltAddLinkPage::linkKind()
 {
     vlt::tables::TablePageKind kind;
-    kind.name = QStringLiteral("Link");
+    kind.objectNames = {QStringLiteral("AddLinkPage"), QStringLiteral("m_pwGbLinks"),
+                        QStringLiteral("m_pwLblLink"), QStringLiteral("m_pwLeLink"),
+                        QStringLiteral("m_pwPbLink")};
     kind.settingsPrefix = QStringLiteral("AddLinkPage");
     kind.fileKey = QStringLiteral("LinkFile");
     kind.srsKind = QStringLiteral("link");

@@ -15,7 +15,9 @@ VltAddSitePage::VltAddSitePage(QWidget *wizard, SharedParameters &parameters,
 vlt::tables::TablePageKind VltAddSitePage::siteKind()
 {
     vlt::tables::TablePageKind kind;
-    kind.name = QStringLiteral("Site");
+    kind.objectNames = {QStringLiteral("AddSitePage"), QStringLiteral("m_pwGbSites"),
+                        QStringLiteral("m_pwLblSite"), QStringLiteral("m_pwLeSite"),
+                        QStringLiteral("m_pwPbSite")};
     kind.settingsPrefix = QStringLiteral("AddSitePage");
     kind.fileKey = QStringLiteral("SiteFile");
     kind.srsKind = QStringLiteral("site");

@@ -9,7 +9,17 @@ namespace vlt::tables {
 /// What tells the page for one kind of table from that for another.
 struct TablePageKind
 {
-    QString name;               ///< "Site": end of the names of the page's own widgets (m_pwLeSite)
+    /// Object names of the page and of the widgets by which its table is chosen.
+    struct ObjectNames
+    {
+        QString page;
+        QString group;
+        QString label;
+        QString line;
+        QString button;
+    };
+
+    ObjectNames objectNames;
     QString settingsPrefix;     ///< of the remembered values
     QString fileKey;            ///< under which the table is remembered, below the prefix
     QString srsKind;            ///< as VltSrsSettings takes it

@@ -80,11 +80,11 @@ VltTablePage::~VltTablePage() = default;
 
 void VltTablePage::nameWidgets()
 {
-    setObjectName(QStringLiteral("Add%1Page").arg(m_kind.name));
-    m_ui->m_pwGbTable->setObjectName(QStringLiteral("m_pwGb%1s").arg(m_kind.name));
-    m_ui->m_pwLblTable->setObjectName(QStringLiteral("m_pwLbl") + m_kind.name);
-    m_ui->m_pwLeTable->setObjectName(QStringLiteral("m_pwLe") + m_kind.name);
-    m_ui->m_pwPbTable->setObjectName(QStringLiteral("m_pwPb") + m_kind.name);
+    setObjectName(m_kind.objectNames.page);
+    m_ui->m_pwGbTable->setObjectName(m_kind.objectNames.group);
+    m_ui->m_pwLblTable->setObjectName(m_kind.objectNames.label);
+    m_ui->m_pwLeTable->setObjectName(m_kind.objectNames.line);
+    m_ui->m_pwPbTable->setObjectName(m_kind.objectNames.button);
     m_ui->m_pwGbTable->setTitle(m_kind.fileGroup);
     m_ui->m_pwLblTable->setText(m_kind.fileLabel);
     m_ui->m_pwPbTable->setToolTip(m_kind.selectFile);
