@@ -11,7 +11,7 @@ namespace vlt::buildings {
 using colormaps::ColorMap;
 
 Result<std::optional<coverage::ValueRange>>
-readCoverageRange(const QString &raster, const QString &noData, const platform::Progress &progress)
+readCoverageRange(const QString &raster, const QString &noData, const Progress &progress)
 {
     const geodata::ErrorCollector errors;
     std::string reason;

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "buildings/BuildingLayerFiles.h"
+#include "contract/Progress.h"
 #include "coverage/CoverageRaster.h"
-#include "platform/Progress.h"
 
 namespace vlt::buildings {
 
@@ -15,8 +15,7 @@ namespace vlt::buildings {
 /// text
 ///                  where it was stopped
 Result<std::optional<coverage::ValueRange>>
-readCoverageRange(const QString &raster, const QString &noData,
-                  const platform::Progress &progress = {});
+readCoverageRange(const QString &raster, const QString &noData, const Progress &progress = {});
 
 /// The legend of a colouring.
 ///

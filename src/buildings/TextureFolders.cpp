@@ -40,7 +40,7 @@ struct Image
 class Teller
 {
 public:
-    explicit Teller(const geodata::Progress &progress) : m_progress(progress) {}
+    explicit Teller(const Progress &progress) : m_progress(progress) {}
 
     /// False once the work is to stop.
     bool goesOn(double share)
@@ -54,7 +54,7 @@ public:
     }
 
 private:
-    const geodata::Progress &m_progress;
+    const Progress &m_progress;
     QElapsedTimer m_last;
     bool m_goesOn = true;
 };
@@ -242,8 +242,7 @@ private:
 } // namespace
 
 std::optional<QList<FileEntry>> findTextures(DataStructure structure, const QString &templateDir,
-                                             const QString &suffix,
-                                             const geodata::Progress &progress)
+                                             const QString &suffix, const Progress &progress)
 {
     Teller teller(progress);
     QList<Image> images;

@@ -28,7 +28,6 @@ enum class DataStructure {
 /// @param progress     may be empty; false stops the work
 /// @return             by folder and name; nothing when `progress` stopped it
 std::optional<QList<FileEntry>> findTextures(DataStructure structure, const QString &templateDir,
-                                             const QString &suffix,
-                                             const geodata::Progress &progress);
+                                             const QString &suffix, const Progress &progress);
 
 } // namespace vlt::buildings

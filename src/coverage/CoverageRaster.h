@@ -1,8 +1,8 @@
 #pragma once
 
+#include "contract/Progress.h"
 #include "contract/RasterColors.h"
 
-#include <functional>
 #include <memory>
 #include <optional>
 #include <span>
@@ -29,9 +29,6 @@ struct ValueRange
     double minimum = 0;
     double maximum = 0;
 };
-
-/// What long work calls now and then with the share that is done (0..1); false stops it.
-using Progress = std::function<bool(double)>;
 
 /// A local one-band raster of values such as levels, in whatever unit. Not for two threads at once.
 class CoverageRaster

@@ -1,12 +1,10 @@
 #pragma once
 
-#include "platform/Progress.h"
+#include "contract/Progress.h"
 
 #include <QtGlobal>
 
 namespace vlt::geodata {
-
-using Progress = platform::Progress;
 
 /// How many features of a layer have a place.
 struct LayerPlacement

@@ -53,7 +53,7 @@ private:
 
 bool report(void *progress, double share)
 {
-    return (*static_cast<const platform::Progress *>(progress))(share);
+    return (*static_cast<const Progress *>(progress))(share);
 }
 
 /// The reader's words without the file's name, which the error has beside them.
@@ -76,7 +76,7 @@ bool isParametricName(const QString &name)
 }
 
 Result<Scene> readScene(const QString &name, const QString &project, TerrainSurface terrain,
-                        const platform::Progress &progress)
+                        const Progress &progress)
 {
     QString source = name;
     if (!isParametricName(name)) {
@@ -102,7 +102,7 @@ Result<Scene> readScene(const QString &name, const QString &project, TerrainSurf
     if (terrain == TerrainSurface::Shown)
         options->setPluginStringData(contract::TerrainDatum, "1");
     options->setPluginStringData(contract::DrawnDatum, "1");
-    platform::Progress told = progress;
+    Progress told = progress;
     contract::ReadProgress listener{report, &told};
     if (told)
         options->setPluginData(contract::ProgressDatum, &listener);

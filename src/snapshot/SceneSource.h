@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Progress.h"
+#include "contract/Progress.h"
 #include "platform/Result.h"
 
 #include <QString>
@@ -26,7 +26,7 @@ enum class TerrainSurface { Hidden, Shown };
 ///                 text is the reader's reason.
 Result<Scene> readScene(const QString &name, const QString &project = {},
                         TerrainSurface terrain = TerrainSurface::Hidden,
-                        const platform::Progress &progress = {});
+                        const Progress &progress = {});
 
 /// Whether the name is that of a parametric object.
 bool isParametricName(const QString &name);

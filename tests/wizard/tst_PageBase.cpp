@@ -265,7 +265,7 @@ private Q_SLOTS:
             dialog->cancel();
         });
         const auto cancelled = vlt::wizard::waitForValue<int>(
-            nullptr, u"slow"_s, [stopped](const vlt::wizard::WorkProgress &progress) {
+            nullptr, u"slow"_s, [stopped](const vlt::Progress &progress) {
                 while (progress(0.42))
                     QThread::msleep(1);
                 stopped->release();
@@ -277,8 +277,7 @@ private Q_SLOTS:
         QTRY_VERIFY(!vlt::wizard::isWorkRunning());
 
         const auto done = vlt::wizard::waitForValue<int>(
-            nullptr, u"quick"_s,
-            [](const vlt::wizard::WorkProgress &progress) { return progress(1) ? 9 : 0; });
+            nullptr, u"quick"_s, [](const vlt::Progress &progress) { return progress(1) ? 9 : 0; });
         QCOMPARE(done, 9);
     }
 };

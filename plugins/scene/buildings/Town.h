@@ -1,20 +1,17 @@
 #pragma once
 
 #include "colormaps/ColorMap.h"
+#include "contract/Progress.h"
 #include "plugins/scene/reading/SceneFrame.h"
 
 #include <osg/Vec2d>
 
 #include <cstdint>
-#include <functional>
 #include <span>
 #include <string>
 #include <vector>
 
 namespace vlt::scene {
-
-/// What long work calls now and then with the share that is done (0..1); false stops it.
-using Progress = std::function<bool(double)>;
 
 /// Takes what the user has to know of a scene that is not whole, one line each.
 using Notices = std::vector<std::string>;

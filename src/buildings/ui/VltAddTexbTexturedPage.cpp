@@ -160,7 +160,7 @@ void VltAddTexbTexturedPage::listAround(const QString &templatePath)
     using Found = std::optional<QList<FileEntry>>;
     const auto found = vlt::wizard::waitForValue<Found>(
         this, tr("Looking for images...", "MESS_LOOKING_FOR_IMAGES"),
-        [structure, dir, suffix = file.suffix()](const vlt::wizard::WorkProgress &progress) {
+        [structure, dir, suffix = file.suffix()](const vlt::Progress &progress) {
             return vlt::buildings::findTextures(structure, dir, suffix, progress);
         });
     if (!found || !*found) // cancelled

@@ -55,8 +55,7 @@ struct Reading
 
 /// One reading at a time: one that was cancelled may still be on its way to its end, and notices of
 /// two would be mixed up.
-Reading readLayer(const QString &path, const QString &project,
-                  const vlt::wizard::WorkProgress &progress)
+Reading readLayer(const QString &path, const QString &project, const vlt::Progress &progress)
 {
     static std::mutex mutex;
     const std::lock_guard lock(mutex);
@@ -115,7 +114,7 @@ void VltBuildingPreview::showLayer(const QString &path, const QString &project)
     }
     const auto read = vlt::wizard::waitForValue<Reading>(
         this, tr("Loading the buildings...", "MESS_LOADING_BUILDINGS"),
-        [path, project](const vlt::wizard::WorkProgress &progress) {
+        [path, project](const vlt::Progress &progress) {
             return readLayer(path, project, progress);
         });
     if (read && read->scene.ok()) {

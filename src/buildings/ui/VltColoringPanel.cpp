@@ -186,8 +186,7 @@ bool VltColoringPanel::readRange(const buildings::RasterColoring &coloring)
     using Range = Result<std::optional<coverage::ValueRange>>;
     const auto read = wizard::waitForValue<Range>(
         this, tr("Looking for the least and the greatest value...", "MESS_READING_RANGE"),
-        [raster = coloring.rasterFile,
-         noData = coloring.noData](const wizard::WorkProgress &progress) {
+        [raster = coloring.rasterFile, noData = coloring.noData](const Progress &progress) {
             return buildings::readCoverageRange(raster, noData, progress);
         });
     if (!read)

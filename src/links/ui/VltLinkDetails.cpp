@@ -48,7 +48,7 @@ void VltLinkDetails::check(const QString &connection, const vlt::geodata::System
                          judging.terrainFile + QLatin1Char('\n') + connection;
     checkOnce<LinkCheck>(
         what,
-        [connection, systems, judging](const vlt::geodata::Progress &progress) {
+        [connection, systems, judging](const vlt::Progress &progress) {
             return vlt::geodata::readLinkCheck(connection, judging, progress, systems);
         },
         [this, systems, hasTerrain = !judging.terrainFile.isEmpty()](const LinkCheck &check) {

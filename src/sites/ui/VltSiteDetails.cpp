@@ -15,7 +15,7 @@ void VltSiteDetails::check(const QString &connection, const vlt::geodata::System
     using vlt::geodata::SiteCheck;
     checkOnce<SiteCheck>(
         connection,
-        [connection, systems](const vlt::geodata::Progress &progress) {
+        [connection, systems](const vlt::Progress &progress) {
             return vlt::geodata::readSiteCheck(connection, progress, systems);
         },
         [this, systems](const SiteCheck &check) { showOutcome(check, systems); });

@@ -21,7 +21,7 @@ class CheckRunner : public QObject
 
 public:
     /// Work of the thread. It gives what is to be done with its outcome on the runner's thread.
-    using Work = std::function<std::function<void()>(const geodata::Progress &)>;
+    using Work = std::function<std::function<void()>(const Progress &)>;
 
     using QObject::QObject;
     ~CheckRunner() override;
@@ -33,11 +33,11 @@ public:
 
     /// The work that reads a value and hands it, or the reason of the failure, on.
     template<typename T>
-    static Work reading(std::function<Result<T>(const geodata::Progress &)> read,
+    static Work reading(std::function<Result<T>(const Progress &)> read,
                         std::function<void(const T &)> finished,
                         const std::function<void(const QString &)> &failed)
     {
-        return [=](const geodata::Progress &progress) -> std::function<void()> {
+        return [=](const Progress &progress) -> std::function<void()> {
             auto outcome = std::make_shared<Result<T>>(read(progress));
             return [=] { *outcome ? finished(outcome->value()) : failed(outcome->error().text); };
         };

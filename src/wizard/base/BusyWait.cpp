@@ -86,7 +86,7 @@ bool waitFor(QWidget *parent, const QString &text, const std::function<void()> &
 }
 
 bool waitFor(QWidget *parent, const QString &text,
-             const std::function<void(const WorkProgress &)> &work)
+             const std::function<void(const Progress &)> &work)
 {
     const auto job = start([work](Job &started) {
         work([&started](double share) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Progress.h"
+#include "contract/Progress.h"
 
 #include <QString>
 
@@ -18,12 +18,10 @@ namespace vlt::wizard {
 /// must own everything that it uses.
 bool waitFor(QWidget *parent, const QString &text, const std::function<void()> &work);
 
-using WorkProgress = platform::Progress;
-
 /// The same for work that tells how far it is: the bar shows the per cent. It is told to stop when
 /// the user cancels, but not waited for.
 bool waitFor(QWidget *parent, const QString &text,
-             const std::function<void(const WorkProgress &)> &work);
+             const std::function<void(const Progress &)> &work);
 
 /// The same for work that gives a value; nothing when the user cancelled.
 template<typename T>
@@ -38,11 +36,11 @@ std::optional<T> waitForValue(QWidget *parent, const QString &text, const std::f
 /// The same for work that gives a value and tells how far it is.
 template<typename T>
 std::optional<T> waitForValue(QWidget *parent, const QString &text,
-                              const std::function<T(const WorkProgress &)> &work)
+                              const std::function<T(const Progress &)> &work)
 {
     const auto value = std::make_shared<std::optional<T>>();
     if (!waitFor(parent, text,
-                 [value, work](const WorkProgress &progress) { value->emplace(work(progress)); }))
+                 [value, work](const Progress &progress) { value->emplace(work(progress)); }))
         return std::nullopt;
     return std::move(*value);
 }

@@ -2,10 +2,10 @@
 
 #include <functional>
 
-namespace vlt::platform {
+namespace vlt {
 
 /// What long work calls now and then with the share that is done (0..1), on any of its threads;
-/// false stops it.
+/// false stops it. Empty where nobody listens.
 using Progress = std::function<bool(double)>;
 
-} // namespace vlt::platform
+} // namespace vlt
