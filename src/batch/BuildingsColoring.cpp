@@ -89,10 +89,7 @@ std::optional<coverage::ValueRange> rangeOf(coverage::CoverageRaster &raster, bo
     ProgressLine line(
         dico_label("MESS_READING_RANGE", "Looking for the least and the greatest value..."),
         !quiet);
-    return raster.range([&line](double share) {
-        line.show(share);
-        return true;
-    });
+    return raster.range(line.progress());
 }
 
 } // namespace

@@ -117,10 +117,7 @@ Images foundImages(const TextureChoice &choice, bool quiet)
         return told(dico_label("MESS_SNAP_NO_FILE", "no such file"), choice.templateFile);
     ProgressLine line(dico_label("MESS_LOOKING_FOR_IMAGES", "Looking for images..."), !quiet);
     const auto found = buildings::findTextures(choice.structure, file.absolutePath(), file.suffix(),
-                                               [&line](double share) {
-                                                   line.show(share);
-                                                   return true;
-                                               });
+                                               line.progress());
     const QList<FileEntry> images = filtered(*found, choice.filter);
     if (images.isEmpty())
         return told(dico_label("MESS_CLI_NO_TEXTURES", "no image is found by it"),

@@ -106,7 +106,8 @@ TableOutcome outcomeOf(InfoReport report, const QString &kind, const QString &ta
     if (report.file.error)
         return {{},
                 {report.file.error->key, report.file.error->text, table, report.file.errorDetail}};
-    const Result<geodata::SiteCheck> check = geodata::readSiteCheck(
+    // never stopped
+    const Result<geodata::SiteCheck> check = *geodata::readSiteCheck(
         report.file.reading.connection(kind, report.file.filePath), {}, report.file.systems);
     if (!check)
         return {{}, {check.error().key, check.error().text, table}};

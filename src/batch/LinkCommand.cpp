@@ -87,13 +87,11 @@ Result<geodata::LinkCheck> readLinks(const links::LinkLayerInput &input, const L
     if (wanted.report)
         judging.terrainFile = input.project.terrainFile;
     ProgressLine line(dico_label("MESS_CLI_READING_LINKS", "Reading the links"), !quiet);
-    return geodata::readLinkCheck(
-        sites::resolvedConnection(links::linkQuery(input), input.project.directory()), judging,
-        [&line](double share) {
-            line.show(share);
-            return true;
-        },
-        {input.sourceSrs, input.targetSrs});
+    const QString connection =
+        sites::resolvedConnection(links::linkQuery(input), input.project.directory());
+    // never stopped
+    return *geodata::readLinkCheck(connection, judging, line.progress(),
+                                   {input.sourceSrs, input.targetSrs});
 }
 
 void warnOfTerrain(const geodata::LinkCheck &check, const QString &terrain)

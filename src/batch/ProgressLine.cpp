@@ -24,6 +24,14 @@ ProgressLine::~ProgressLine()
         std::fputs("\r\033[K", stderr);
 }
 
+Progress ProgressLine::progress()
+{
+    return [this](double share) {
+        show(share);
+        return true;
+    };
+}
+
 void ProgressLine::show(double share)
 {
     const int percent = qBound(0, static_cast<int>(share * 100), 100);

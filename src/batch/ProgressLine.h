@@ -1,5 +1,7 @@
 #pragma once
 
+#include "contract/Progress.h"
+
 #include <QElapsedTimer>
 #include <QString>
 
@@ -15,10 +17,12 @@ public:
     ProgressLine(const ProgressLine &) = delete;
     ProgressLine &operator=(const ProgressLine &) = delete;
 
-    /// @param share  0 .. 1
-    void show(double share);
+    /// Shows the share of work, which it never stops. Valid as long as the line.
+    Progress progress();
 
 private:
+    void show(double share);
+
     QString m_label;
     bool m_wanted;
     int m_shownPercent = -1;

@@ -43,13 +43,9 @@ Result<LayerOutcome> placeSites(const sites::SiteLayerInput &input, bool quiet)
     const QString connection =
         sites::resolvedConnection(sites::siteQuery(input), input.project.directory());
     ProgressLine line(dico_label("MESS_CLI_READING", "Reading the sites"), !quiet);
-    const Result<geodata::SiteCheck> check = geodata::readSiteCheck(
-        connection,
-        [&line](double share) {
-            line.show(share);
-            return true;
-        },
-        systems);
+    // never stopped
+    const Result<geodata::SiteCheck> check =
+        *geodata::readSiteCheck(connection, line.progress(), systems);
     if (!check)
         return check.error();
     return layerOutcome(check.value(), input.file.unit, systems);

@@ -183,11 +183,9 @@ ExitStatus refuseLayer(Error error, const Request &request)
 Result<snapshot::Scene> readScene(const Request &request, const GlobalOptions &options)
 {
     ProgressLine line(dico_label("MESS_CLI_READING_SCENE", "Reading the scene"), !options.quiet);
-    return snapshot::readScene(request.layer, options.projectPath, request.terrain,
-                               [&line](double share) {
-                                   line.show(share);
-                                   return true;
-                               });
+    // never stopped
+    return *snapshot::readScene(request.layer, options.projectPath, request.terrain,
+                                line.progress());
 }
 
 /// The exit status where that fails.

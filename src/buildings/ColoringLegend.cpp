@@ -10,7 +10,7 @@ namespace vlt::buildings {
 
 using colormaps::ColorMap;
 
-Result<std::optional<coverage::ValueRange>>
+Stoppable<std::optional<coverage::ValueRange>>
 readCoverageRange(const QString &raster, const QString &noData, const Progress &progress)
 {
     const geodata::ErrorCollector errors;
@@ -26,8 +26,8 @@ readCoverageRange(const QString &raster, const QString &noData, const Progress &
         return !isStopped;
     });
     if (isStopped)
-        return Error{};
-    return range;
+        return std::nullopt;
+    return Result(range);
 }
 
 Result<LegendInput> legendOf(const RasterColoring &coloring,

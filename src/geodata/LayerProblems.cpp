@@ -55,8 +55,8 @@ LayerProblems problemsOf(OGRLayer &layer)
     return problems;
 }
 
-Result<SiteCheck> readSiteCheck(const QString &connection, const Progress &progress,
-                                const SystemPair &systems)
+Stoppable<SiteCheck> readSiteCheck(const QString &connection, const Progress &progress,
+                                   const SystemPair &systems)
 {
     const ErrorCollector errors;
     const auto dataset = openTable(connection, errors);
@@ -76,10 +76,12 @@ Result<SiteCheck> readSiteCheck(const QString &connection, const Progress &progr
         ++check.placement.placed;
         positions.add(*geometry);
     };
-    const Result<qint64> walked = walkFeatures(*layer, progress, errors, count);
+    const Stoppable<qint64> walked = walkFeatures(*layer, progress, errors, count);
     if (!walked)
-        return walked.error();
-    check.placement.features = walked.value();
+        return std::nullopt;
+    if (!*walked)
+        return walked->error();
+    check.placement.features = walked->value();
     check.problems = problemsOf(*layer);
     check.systems = positions.result();
     return check;

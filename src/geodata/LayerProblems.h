@@ -35,10 +35,9 @@ struct SiteCheck
 ///                  open before, and the texts of a large XLSX file, take their time without a
 ///                  question.
 /// @param systems   with which the positions are compared
-/// @par Errors   no key; the text is the driver's reason, or "cancelled" where `progress` answered
-///               false.
-Result<SiteCheck> readSiteCheck(const QString &connection, const Progress &progress,
-                                const SystemPair &systems = {});
+/// @par Errors   no key; the text is the driver's reason.
+Stoppable<SiteCheck> readSiteCheck(const QString &connection, const Progress &progress,
+                                   const SystemPair &systems = {});
 
 /// The problems that a layer's driver found; complete only after all its features were read.
 LayerProblems problemsOf(OGRLayer &layer);

@@ -11,11 +11,6 @@ namespace {
 constexpr qint64 FeaturesPerLook = 16; ///< at the clock: rows of thousands of columns take long
 constexpr qint64 MillisecondsPerReport = 20;
 
-Error cancelled()
-{
-    return Error{QString(), QStringLiteral("cancelled"), {}};
-}
-
 /// A driver names the layer before the reason why its rows end too early.
 QString withoutName(const QString &reason, OGRLayer &layer)
 {
@@ -25,11 +20,12 @@ QString withoutName(const QString &reason, OGRLayer &layer)
 
 } // namespace
 
-Result<qint64> walkFeatures(OGRLayer &layer, const Progress &progress, const ErrorCollector &errors,
-                            const std::function<void(const OGRFeature &)> &visit)
+Stoppable<qint64> walkFeatures(OGRLayer &layer, const Progress &progress,
+                               const ErrorCollector &errors,
+                               const std::function<void(const OGRFeature &)> &visit)
 {
     if (progress && !progress(0))
-        return cancelled();
+        return std::nullopt;
 
     const qint64 expected = layer.GetFeatureCount(TRUE);
     qint64 visited = 0;
@@ -41,7 +37,7 @@ Result<qint64> walkFeatures(OGRLayer &layer, const Progress &progress, const Err
             !sinceReport.hasExpired(MillisecondsPerReport))
             continue;
         if (!progress(static_cast<double>(visited) / static_cast<double>(expected)))
-            return cancelled();
+            return std::nullopt;
         sinceReport.start();
     }
     if (visited < expected && !errors.failure({}).isEmpty())

@@ -14,9 +14,9 @@ namespace vlt::geodata {
 ///                  second
 /// @param errors    what the driver said since the layer was opened
 /// @return          how many features there were
-/// @par Errors      no key; the driver's reason why the features end too early, or "cancelled"
-///                  where `progress` answered false.
-Result<qint64> walkFeatures(OGRLayer &layer, const Progress &progress, const ErrorCollector &errors,
-                            const std::function<void(const OGRFeature &)> &visit);
+/// @par Errors      no key; the driver's reason why the features end too early.
+Stoppable<qint64> walkFeatures(OGRLayer &layer, const Progress &progress,
+                               const ErrorCollector &errors,
+                               const std::function<void(const OGRFeature &)> &visit);
 
 } // namespace vlt::geodata

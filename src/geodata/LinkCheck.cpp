@@ -77,8 +77,8 @@ QString terrainProblem(const QString &terrainFile)
     return problem;
 }
 
-Result<LinkCheck> readLinkCheck(const QString &connection, const LinkJudging &judging,
-                                const Progress &progress, const SystemPair &systems)
+Stoppable<LinkCheck> readLinkCheck(const QString &connection, const LinkJudging &judging,
+                                   const Progress &progress, const SystemPair &systems)
 {
     const ErrorCollector errors;
     const auto dataset = openTable(connection, errors);
@@ -97,14 +97,16 @@ Result<LinkCheck> readLinkCheck(const QString &connection, const LinkJudging &ju
     linkpath::LinkEndReader reader(*ends->GetLayerDefn(), contract::LinkEndSiteField);
     LinkCollector collector(judging.rule, profiler);
     SystemChecker positions(systems, ends->GetSpatialRef());
-    const Result<qint64> walked =
+    const Stoppable<qint64> walked =
         walkFeatures(*ends, progress, errors, [&](const OGRFeature &feature) {
             collector.add(reader.add(feature));
             if (const OGRGeometry *place = feature.GetGeometryRef())
                 positions.add(*place);
         });
     if (!walked)
-        return walked.error();
+        return std::nullopt;
+    if (!*walked)
+        return walked->error();
     collector.add(reader.finish());
     check.placement = collector.placement();
     check.links = collector.takeLinks();

@@ -52,8 +52,8 @@ QString terrainProblem(const QString &terrainFile);
 ///
 /// @param progress  as for readSiteCheck()
 /// @param systems   with which the positions are compared
-/// @par Errors   no key; the text is the driver's reason, or "cancelled".
-Result<LinkCheck> readLinkCheck(const QString &connection, const LinkJudging &judging,
-                                const Progress &progress, const SystemPair &systems = {});
+/// @par Errors   no key; the text is the driver's reason.
+Stoppable<LinkCheck> readLinkCheck(const QString &connection, const LinkJudging &judging,
+                                   const Progress &progress, const SystemPair &systems = {});
 
 } // namespace vlt::geodata

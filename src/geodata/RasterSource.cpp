@@ -91,7 +91,7 @@ Result<RasterSummary> readRasterSummary(const QString &path, const QString &part
     return summary;
 }
 
-Result<double> guessedNoData(const QString &path, const Progress &progress, const QString &part)
+Stoppable<double> guessedNoData(const QString &path, const Progress &progress, const QString &part)
 {
     const ErrorCollector errors;
     const localfiles::NoNetwork offline;
@@ -115,7 +115,7 @@ Result<double> guessedNoData(const QString &path, const Progress &progress, cons
     if (band->ComputeStatistics(true, &min, &max, nullptr, nullptr, tellProgress, &told) != CE_None)
         min = max = 0; // nothing but missing values
     if (isStopped)
-        return Error{};
+        return std::nullopt;
     if (min < LowestHeightM)
         return min;
     if (max >= HighestHeightM)

@@ -41,8 +41,8 @@ Result<RasterSummary> readRasterSummary(const QString &path, const QString &part
 /// @param progress  may be empty; false stops the work
 /// @param part      name of one of its images; empty for the raster itself
 /// @par Errors      MESS_ERR_OPEN_RASTERDS, with the path and the library's reason;
-///                  MESS_ERR_NO_BANDS; no key and no text where it was stopped
-Result<double> guessedNoData(const QString &path, const Progress &progress,
-                             const QString &part = {});
+///                  MESS_ERR_NO_BANDS
+Stoppable<double> guessedNoData(const QString &path, const Progress &progress,
+                                const QString &part = {});
 
 } // namespace vlt::geodata

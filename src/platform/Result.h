@@ -4,6 +4,7 @@
 
 #include <QString>
 
+#include <optional>
 #include <stdexcept>
 #include <utility>
 #include <variant>
@@ -69,5 +70,9 @@ private:
 struct Done
 {
 };
+
+/// What work gives that the user can stop: nothing where that happened.
+template<typename T>
+using Stoppable = std::optional<Result<T>>;
 
 } // namespace vlt

@@ -75,8 +75,13 @@ bool isParametricName(const QString &name)
     return name.startsWith(QLatin1String("inline://parametric/query?"));
 }
 
-Result<Scene> readScene(const QString &name, const QString &project, TerrainSurface terrain,
-                        const Progress &progress)
+Result<Scene> readScene(const QString &name, const QString &project, TerrainSurface terrain)
+{
+    return readScene(name, project, terrain, {}).value();
+}
+
+Stoppable<Scene> readScene(const QString &name, const QString &project, TerrainSurface terrain,
+                           const Progress &progress)
 {
     QString source = name;
     if (!isParametricName(name)) {
@@ -110,6 +115,8 @@ Result<Scene> readScene(const QString &name, const QString &project, TerrainSurf
     ReadResult read = registry->readNode(path, options.get());
     if (read.validNode())
         return Scene(read.getNode());
+    if (progress && read.message() == contract::StoppedText)
+        return std::nullopt;
     return asError(read, path, name);
 }
 

@@ -21,12 +21,14 @@ enum class TerrainSurface { Hidden, Shown };
 ///
 /// @param project  file of the project that the scene belongs to, handed to the readers; may be
 ///                 empty
-/// @param progress what readers that take long tell; false stops them. May be empty.
 /// @par Errors     MESS_SNAP_NOT_LOCAL for a name of another kind, MESS_SNAP_NO_FILE; no key: the
 ///                 text is the reader's reason.
 Result<Scene> readScene(const QString &name, const QString &project = {},
-                        TerrainSurface terrain = TerrainSurface::Hidden,
-                        const Progress &progress = {});
+                        TerrainSurface terrain = TerrainSurface::Hidden);
+
+/// The same with the progress of readers that take long.
+Stoppable<Scene> readScene(const QString &name, const QString &project, TerrainSurface terrain,
+                           const Progress &progress);
 
 /// Whether the name is that of a parametric object.
 bool isParametricName(const QString &name);

@@ -38,8 +38,8 @@ private Q_SLOTS:
                 return true;
             });
 
-        QVERIFY(read);
-        const LinkCheck &check = read.value();
+        QVERIFY(read && *read);
+        const LinkCheck &check = read->value();
         QCOMPARE(check.placement.features, Rows);
         QCOMPARE(check.placement.placed, Rows - Rows / 1000);
         QCOMPARE(check.links.size(), Rows);
@@ -64,7 +64,7 @@ private Q_SLOTS:
             const auto check =
                 readLinkCheck(u"link:"_s + path(), {}, [&](double) { return ++asked < question; });
 
-            QCOMPARE(check.error().text, u"cancelled"_s);
+            QVERIFY(!check);
             QCOMPARE(asked, question);
         }
     }

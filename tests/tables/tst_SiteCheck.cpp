@@ -34,12 +34,12 @@ private Q_SLOTS:
             return true;
         });
 
-        QVERIFY(check);
-        QCOMPARE(check.value().placement.features, Rows);
-        QCOMPARE(check.value().placement.placed, Rows - Rows / 1000);
-        QCOMPARE(check.value().problems.count, Rows / 1000);
-        QCOMPARE(check.value().problems.listed.size(), Rows / 1000);
-        QCOMPARE(check.value().problems.listed.at(1).row, 1009); // the header is row 1
+        QVERIFY(check && *check);
+        QCOMPARE(check->value().placement.features, Rows);
+        QCOMPARE(check->value().placement.placed, Rows - Rows / 1000);
+        QCOMPARE(check->value().problems.count, Rows / 1000);
+        QCOMPARE(check->value().problems.listed.size(), Rows / 1000);
+        QCOMPARE(check->value().problems.listed.at(1).row, 1009); // the header is row 1
         QVERIFY(shares.size() > 1 && std::is_sorted(shares.begin(), shares.end()));
         QVERIFY(shares.last() <= 1);
     }
@@ -63,7 +63,6 @@ private Q_SLOTS:
 
         QVERIFY2(sinceAnswer.elapsed() < 1000, "the walk went on");
         QVERIFY(!check);
-        QCOMPARE(check.error().text, QStringLiteral("cancelled"));
         QCOMPARE(asked, question);
     }
 
@@ -77,9 +76,9 @@ private Q_SLOTS:
         const auto check = readSiteCheck(QStringLiteral("site:") + copy,
                                          [&](double) { return QFile::resize(copy, 500); });
 
-        QVERIFY(!check);
-        QVERIFY2(check.error().text.startsWith(QStringLiteral("the ")),
-                 qPrintable(check.error().text));
+        QVERIFY(check && !*check);
+        QVERIFY2(check->error().text.startsWith(QStringLiteral("the ")),
+                 qPrintable(check->error().text));
     }
 
 private:

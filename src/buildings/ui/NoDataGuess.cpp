@@ -62,10 +62,10 @@ private:
 
 /// Runs the guess on another thread and keeps the interface alive until it ends; no value where the
 /// page was closed meanwhile.
-std::optional<Result<double>> guessBeside(const QPointer<QWidget> &page, const QString &path,
-                                          const QString &part, const QPointer<QProgressBar> &bar)
+Stoppable<double> guessBeside(const QPointer<QWidget> &page, const QString &path,
+                              const QString &part, const QPointer<QProgressBar> &bar)
 {
-    std::optional<Result<double>> guessed;
+    Stoppable<double> guessed;
     std::atomic<bool> isAbandoned = false;
     QEventLoop loop;
     const auto showShare = [&loop, bar](double share) {
@@ -112,7 +112,7 @@ QString guessNoData(QWidget *disabled, const QString &path, QProgressBar *bar, c
     bar->setRange(0, 1);
     bar->setValue(0);
     bar->show();
-    std::optional<Result<double>> guessed;
+    Stoppable<double> guessed;
     {
         const PageLock lock(disabled);
         guessed = guessBeside(page, path, part, shown);
@@ -123,12 +123,9 @@ QString guessNoData(QWidget *disabled, const QString &path, QProgressBar *bar, c
         return {};
     if (guessed->ok())
         return text::f6(guessed->value());
-    const QString &key = guessed->error().key;
-    if (!key.isEmpty())
-        warnOfRaster(disabled,
-                     key == QLatin1String("MESS_ERR_NO_BANDS") ? RasterProblem::NoBands
-                                                               : RasterProblem::CannotOpen,
-                     path);
+    const bool isWithoutBands = guessed->error().key == QLatin1String("MESS_ERR_NO_BANDS");
+    warnOfRaster(disabled, isWithoutBands ? RasterProblem::NoBands : RasterProblem::CannotOpen,
+                 path);
     return {};
 }
 

@@ -55,8 +55,8 @@ QString VltAddTexbColoredPage::missingText() const
                                    : m_ui->m_pwColoring->missingText();
 }
 
-std::optional<Result<buildings::BuildingLayerFiles>>
-VltAddTexbColoredPage::writeFiles(const QString &layerPath, platform::Access access)
+Stoppable<buildings::BuildingLayerFiles> VltAddTexbColoredPage::writeFiles(const QString &layerPath,
+                                                                           platform::Access access)
 {
     const auto legend = m_ui->m_pwColoring->legend();
     const auto coloring = m_ui->m_pwColoring->coloring();

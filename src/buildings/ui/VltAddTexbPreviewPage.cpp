@@ -109,7 +109,7 @@ VltAddTexbPreviewPage::look(const vlt::buildings::RasterColoring &coloring) cons
     return look;
 }
 
-std::optional<vlt::Result<vlt::buildings::BuildingLayerFiles>>
+vlt::Stoppable<vlt::buildings::BuildingLayerFiles>
 VltAddTexbPreviewPage::writeFiles(const QString &layerPath, vlt::platform::Access access)
 {
     std::optional<vlt::buildings::RasterColoring> coloring;

@@ -28,7 +28,7 @@ public Q_SLOTS:
 
 private:
     QString missingText() const override;
-    std::optional<vlt::Result<vlt::buildings::BuildingLayerFiles>>
+    vlt::Stoppable<vlt::buildings::BuildingLayerFiles>
     writeFiles(const QString &layerPath, vlt::platform::Access access) override;
     void layerWritten(const vlt::buildings::BuildingLayerFiles &files) override;
 

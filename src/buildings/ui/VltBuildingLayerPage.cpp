@@ -130,8 +130,8 @@ std::optional<QString> VltBuildingLayerPage::obstacle() const
     return missing.isEmpty() ? std::nullopt : std::optional(missing);
 }
 
-std::optional<vlt::Result<vlt::Done>> VltBuildingLayerPage::writeLayer(const QString &path,
-                                                                       vlt::platform::Access access)
+vlt::Stoppable<vlt::Done> VltBuildingLayerPage::writeLayer(const QString &path,
+                                                           vlt::platform::Access access)
 {
     const auto written = writeFiles(path, access);
     if (!written)

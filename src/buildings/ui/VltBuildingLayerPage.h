@@ -55,7 +55,7 @@ protected:
 private:
     /// @param layerPath  of the layer file, which the other files lie beside
     /// @return           nothing where there is none and the user knows why
-    virtual std::optional<vlt::Result<vlt::buildings::BuildingLayerFiles>>
+    virtual vlt::Stoppable<vlt::buildings::BuildingLayerFiles>
     writeFiles(const QString &layerPath, vlt::platform::Access access) = 0;
 
     /// Shows what belongs to the layer that was just written; no files where there is none any
@@ -64,8 +64,8 @@ private:
 
     void beginLayer() override;
     std::optional<QString> obstacle() const override;
-    std::optional<vlt::Result<vlt::Done>> writeLayer(const QString &path,
-                                                     vlt::platform::Access access) override;
+    vlt::Stoppable<vlt::Done> writeLayer(const QString &path,
+                                         vlt::platform::Access access) override;
     bool followsChanges() const override;
     void showLayer(const QString &path) override;
     void showNoLayer(const QString &why) override;

@@ -49,7 +49,7 @@ QString shortNotice(const QString &notice, const QString &layerPath)
 
 struct Reading
 {
-    vlt::Result<vlt::snapshot::Scene> scene;
+    vlt::Stoppable<vlt::snapshot::Scene> scene;
     QStringList notices;
 };
 
@@ -117,18 +117,19 @@ void VltBuildingPreview::showLayer(const QString &path, const QString &project)
         [path, project](const vlt::Progress &progress) {
             return readLayer(path, project, progress);
         });
-    if (read && read->scene.ok()) {
+    const bool isRead = read && read->scene;
+    if (isRead && read->scene->ok()) {
         QStringList notices = read->notices;
         for (QString &notice : notices)
             notice = shortNotice(notice, path);
-        showScene(read->scene.value(), notices);
+        showScene(read->scene->value(), notices);
         return;
     }
     showScene({}, {});
     showMessage(
-        read ? tr("The buildings cannot be shown: %1", "MESS_BUILDINGS_NOT_SHOWN")
-                   .arg(shortNotice(read->scene.error().text, path))
-             : tr("Loading was stopped; the layer itself is complete.", "MESS_LOADING_STOPPED"));
+        isRead ? tr("The buildings cannot be shown: %1", "MESS_BUILDINGS_NOT_SHOWN")
+                     .arg(shortNotice(read->scene->error().text, path))
+               : tr("Loading was stopped; the layer itself is complete.", "MESS_LOADING_STOPPED"));
 }
 
 void VltBuildingPreview::showScene(const vlt::snapshot::Scene &scene, const QStringList &notices)

@@ -183,22 +183,23 @@ bool VltColoringPanel::readRange(const buildings::RasterColoring &coloring)
         m_range->written == written)
         return true;
     m_range.reset();
-    using Range = Result<std::optional<coverage::ValueRange>>;
+    using Range = Stoppable<std::optional<coverage::ValueRange>>;
     const auto read = wizard::waitForValue<Range>(
         this, tr("Looking for the least and the greatest value...", "MESS_READING_RANGE"),
         [raster = coloring.rasterFile, noData = coloring.noData](const Progress &progress) {
             return buildings::readCoverageRange(raster, noData, progress);
         });
-    if (!read)
+    if (!read || !*read)
         return false;
-    if (!*read) {
+    const auto &range = **read;
+    if (!range) {
         messages::critical(this, {{},
                                   buildings::textOf(buildings::RasterProblem::CannotOpen),
-                                  read->error().path,
-                                  buildings::reasonText(read->error().text)});
+                                  range.error().path,
+                                  buildings::reasonText(range.error().text)});
         return false;
     }
-    m_range = KnownRange{coloring.rasterFile, coloring.noData, written, read->value()};
+    m_range = KnownRange{coloring.rasterFile, coloring.noData, written, range.value()};
     return true;
 }
 

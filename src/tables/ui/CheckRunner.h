@@ -33,13 +33,17 @@ public:
 
     /// The work that reads a value and hands it, or the reason of the failure, on.
     template<typename T>
-    static Work reading(std::function<Result<T>(const Progress &)> read,
+    static Work reading(std::function<Stoppable<T>(const Progress &)> read,
                         std::function<void(const T &)> finished,
                         const std::function<void(const QString &)> &failed)
     {
         return [=](const Progress &progress) -> std::function<void()> {
-            auto outcome = std::make_shared<Result<T>>(read(progress));
-            return [=] { *outcome ? finished(outcome->value()) : failed(outcome->error().text); };
+            auto outcome = std::make_shared<Stoppable<T>>(read(progress));
+            return [=] {
+                if (*outcome)
+                    (*outcome)->ok() ? finished((*outcome)->value())
+                                     : failed((*outcome)->error().text);
+            };
         };
     }
 

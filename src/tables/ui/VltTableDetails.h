@@ -48,7 +48,7 @@ protected:
     /// @param finished  takes the outcome
     template<typename Check>
     void checkOnce(const QString &what,
-                   std::function<vlt::Result<Check>(const vlt::Progress &)> read,
+                   std::function<vlt::Stoppable<Check>(const vlt::Progress &)> read,
                    std::function<void(const Check &)> finished)
     {
         if (beginsCheck(what))

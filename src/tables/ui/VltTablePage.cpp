@@ -327,8 +327,8 @@ std::optional<QString> VltTablePage::obstacle() const
     return error ? std::optional(vlt::messages::textOf(*error)) : std::nullopt;
 }
 
-std::optional<vlt::Result<vlt::Done>> VltTablePage::writeLayer(const QString &path,
-                                                               vlt::platform::Access access)
+vlt::Stoppable<vlt::Done> VltTablePage::writeLayer(const QString &path,
+                                                   vlt::platform::Access access)
 {
     const vlt::Result<vlt::tables::TableLayer> layer = composeLayer();
     if (!layer)

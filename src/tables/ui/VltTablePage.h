@@ -122,8 +122,8 @@ private:
 
     void beginLayer() override;
     std::optional<QString> obstacle() const override;
-    std::optional<vlt::Result<vlt::Done>> writeLayer(const QString &path,
-                                                     vlt::platform::Access access) override;
+    vlt::Stoppable<vlt::Done> writeLayer(const QString &path,
+                                         vlt::platform::Access access) override;
     void showLayer(const QString &path) override;
     void showNoLayer(const QString &why) override;
     QString settingsKey(const QString &name) const;

@@ -33,7 +33,7 @@ public:
     ///
     /// @param target  of the layer file
     /// @return        nothing where there is none and the user knows why
-    using Saver = std::function<std::optional<vlt::Result<vlt::Done>>(const QString &target)>;
+    using Saver = std::function<vlt::Stoppable<vlt::Done>(const QString &target)>;
 
     /// Without one "Save as" copies the layer file: then it must name no file that will not stay.
     void setSaver(Saver saver) { m_saver = std::move(saver); }

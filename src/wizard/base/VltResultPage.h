@@ -103,8 +103,8 @@ private:
     ///
     /// @param path  of the layer file, which its other files lie beside
     /// @return      nothing where there is none and the user knows why
-    virtual std::optional<vlt::Result<vlt::Done>> writeLayer(const QString &path,
-                                                             vlt::platform::Access access) = 0;
+    virtual vlt::Stoppable<vlt::Done> writeLayer(const QString &path,
+                                                 vlt::platform::Access access) = 0;
 
     /// Whether a change that arrives while a layer is made is followed by another layer.
     virtual bool followsChanges() const { return true; }
