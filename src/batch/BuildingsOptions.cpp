@@ -14,12 +14,6 @@ QString choiceOf(const char *const (&words)[N])
     return wordsOf(words).join(QLatin1Char('|'));
 }
 
-template<typename Number>
-sites::Limits limitsOf(const contract::ChosenNumber<Number> &number)
-{
-    return {static_cast<double>(number.minimum), static_cast<double>(number.maximum)};
-}
-
 QList<QCommandLineOption> coloredOptions()
 {
     return {
@@ -126,29 +120,29 @@ const std::vector<NumberOption<BuildingsMeasures>> &buildingsNumbers()
     static const std::vector<NumberOption<BuildingsMeasures>> options = {
         {QStringLiteral("distance"),
          dico_label("MESS_OPT_DISTANCE", "Distance in metres up to which the buildings are shown"),
-         &BuildingsMeasures::distanceM, limitsOf(contract::ExtrudedVisibilityM)},
+         &BuildingsMeasures::distanceM, contract::ExtrudedVisibilityM},
         {QStringLiteral("tile-size"),
          dico_label("MESS_OPT_TILE_SIZE",
                     "Side in metres of the tiles that the buildings are shared out to"),
-         &BuildingsMeasures::tileSizeM, limitsOf(contract::TileSizeM)},
+         &BuildingsMeasures::tileSizeM, contract::TileSizeM},
         {QStringLiteral("skirt"),
          dico_label("MESS_OPT_SKIRT", "Metres that walls go down below the ground"),
-         &BuildingsMeasures::skirtM, limitsOf(contract::SkirtHeightM)},
+         &BuildingsMeasures::skirtM, contract::SkirtHeightM},
         {QStringLiteral("textured-distance"),
          dico_label("MESS_OPT_TEXTURED_DISTANCE",
                     "Distance in metres up to which the images are shown"),
-         &BuildingsMeasures::texturedDistanceM, limitsOf(contract::TexturedVisibilityM)},
+         &BuildingsMeasures::texturedDistanceM, contract::TexturedVisibilityM},
         {QStringLiteral("cache-capacity"),
          dico_label("MESS_OPT_CACHE_CAPACITY",
                     "Elements that wait before they are written to the cache"),
-         &BuildingsMeasures::cacheCapacity, limitsOf(contract::CacheCapacity)},
+         &BuildingsMeasures::cacheCapacity, contract::CacheCapacity},
         {QStringLiteral("buffer"),
          dico_label("MESS_OPT_BUFFER", "Metres outside a wall at which its colors are taken"),
-         &BuildingsMeasures::bufferM, limitsOf(contract::TextureBufferM), false},
+         &BuildingsMeasures::bufferM, contract::TextureBufferM, false},
         {QStringLiteral("dilatation"),
          dico_label("MESS_OPT_DILATATION",
                     "Pixels by which the colors of an image grow into empty ones"),
-         &BuildingsMeasures::dilatationPixels, limitsOf(contract::TextureDilatationPixels), false},
+         &BuildingsMeasures::dilatationPixels, contract::TextureDilatationPixels, false},
     };
     return options;
 }

@@ -2,6 +2,8 @@
 
 #include "ui_BuildingColors.h"
 
+#include "contract/BuildingDocument.h"
+
 namespace {
 
 using vlt::buildings::RasterColoring;
@@ -26,9 +28,9 @@ VltBuildingColors::VltBuildingColors(QWidget *parent)
 {
     m_ui->setupUi(this);
     m_ui->m_pwPbWallColor->setPurpose(tr("Color of the walls", "MESS_WALL_COLOR"));
-    m_ui->m_pwPbWallColor->setColor(QColor(0xd9, 0xd4, 0xc7));
+    m_ui->m_pwPbWallColor->setColor(QColor(vlt::contract::FirstWallColor));
     m_ui->m_pwPbRoofColor->setPurpose(tr("Color of the roofs", "MESS_ROOF_COLOR"));
-    m_ui->m_pwPbRoofColor->setColor(QColor(0xb5, 0x63, 0x4c));
+    m_ui->m_pwPbRoofColor->setColor(QColor(vlt::contract::FirstRoofColor));
     remember({{QStringLiteral("WallColorKind"), m_ui->m_pwCbWalls},
               {QStringLiteral("WallColor"), m_ui->m_pwPbWallColor},
               {QStringLiteral("RoofColorKind"), m_ui->m_pwCbRoofs},

@@ -2,11 +2,14 @@
 
 #include "ui_CachePanel.h"
 
+#include "wizard/base/OfferedNumber.h"
+
 VltCachePanel::VltCachePanel(QWidget *parent)
     : RememberedPanel(parent)
     , m_ui(std::make_unique<Ui::CachePanel>())
 {
     m_ui->setupUi(this);
+    vlt::wizard::offer(m_ui->m_pwSbCapacity, vlt::contract::CacheCapacity);
     remember({{QStringLiteral("CacheMode"), m_ui->m_pwCbCache},
               {QStringLiteral("DelayedCacheWrite"), m_ui->m_pwChbDelayed},
               {QStringLiteral("CacheCapacity"), m_ui->m_pwSbCapacity}});

@@ -3,6 +3,7 @@
 #include "ui_ExtrusionPanel.h"
 
 #include "platform/Settings.h"
+#include "wizard/base/OfferedNumber.h"
 #include "wizard/base/WheelGuard.h"
 
 #include <QSettings>
@@ -30,6 +31,9 @@ VltExtrusionPanel::VltExtrusionPanel(QWidget *parent)
     , m_ui(std::make_unique<Ui::ExtrusionPanel>())
 {
     m_ui->setupUi(this);
+    vlt::wizard::offer(m_ui->m_pwSbDistance, vlt::contract::ExtrudedVisibilityM);
+    vlt::wizard::offer(m_ui->m_pwSbTileSize, vlt::contract::TileSizeM);
+    vlt::wizard::offer(m_ui->m_pwSbSkirtSize, vlt::contract::SkirtHeightM);
     vlt::wizard::guardAgainstStrayWheel(this);
     alignTo(m_ui->m_pwSbTileSize->sizeHint().width()); // one column through both groups
     connect(m_ui->m_pwSbDistance, &QSpinBox::valueChanged, this,
@@ -66,11 +70,12 @@ void VltExtrusionPanel::loadSettings(const QString &prefix)
     const auto value = [&](const char *key, const QVariant &absent) {
         return settings->value(prefix + QLatin1Char('/') + QLatin1String(key), absent);
     };
-    restore(m_ui->m_pwSbTileSize, value("TileSize", 250.0));
-    restore(m_ui->m_pwSbSkirtSize, value("SkirtSize", 5.0));
+    restore(m_ui->m_pwSbTileSize, value("TileSize", vlt::contract::TileSizeM.firstRun));
+    restore(m_ui->m_pwSbSkirtSize, value("SkirtSize", vlt::contract::SkirtHeightM.firstRun));
     m_ui->m_pwCbCheckGeom->setChecked(value("CheckGeom", false).toBool());
     if (m_isDistanceRemembered)
-        restore(m_ui->m_pwSbDistance, value("Distance", 2000));
+        restore(m_ui->m_pwSbDistance,
+                value("Distance", vlt::contract::ExtrudedVisibilityM.firstRun));
 }
 
 void VltExtrusionPanel::saveSettings(const QString &prefix)

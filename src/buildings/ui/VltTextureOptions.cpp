@@ -2,11 +2,15 @@
 
 #include "ui_TextureOptions.h"
 
+#include "wizard/base/OfferedNumber.h"
+
 VltTextureOptions::VltTextureOptions(QWidget *parent)
     : RememberedPanel(parent)
     , m_ui(std::make_unique<Ui::TextureOptions>())
 {
     m_ui->setupUi(this);
+    vlt::wizard::offer(m_ui->m_pwSbBuffer, vlt::contract::TextureBufferM);
+    vlt::wizard::offer(m_ui->m_pwSbDilatation, vlt::contract::TextureDilatationPixels);
     remember({{QStringLiteral("Compression"), m_ui->m_pwCbCompression},
               {QStringLiteral("Resampling"), m_ui->m_pwCbResampling},
               {QStringLiteral("UseBuffer"), m_ui->m_pwChbBuffer},

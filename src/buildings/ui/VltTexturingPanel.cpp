@@ -2,13 +2,16 @@
 
 #include "ui_TexturingPanel.h"
 
+#include "wizard/base/OfferedNumber.h"
+
 VltTexturingPanel::VltTexturingPanel(QWidget *parent)
     : RememberedPanel(parent)
     , m_ui(std::make_unique<Ui::TexturingPanel>())
 {
     m_ui->setupUi(this);
+    vlt::wizard::offer(m_ui->m_pwSbTexturedDistance, vlt::contract::TexturedVisibilityM);
     m_ui->m_pwPbEdgeColor->setPurpose(tr("Color of the edges", "MESS_EDGE_COLOR"));
-    m_ui->m_pwPbEdgeColor->setColor(QColor(0x40, 0x40, 0x40));
+    m_ui->m_pwPbEdgeColor->setColor(QColor(vlt::contract::FirstEdgeColor));
     remember({{QStringLiteral("TextureType"), m_ui->m_pwCbTextureType},
               {QStringLiteral("TexturedDistance"), m_ui->m_pwSbTexturedDistance},
               {QStringLiteral("EdgeColor"), m_ui->m_pwPbEdgeColor},

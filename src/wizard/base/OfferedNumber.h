@@ -1,0 +1,15 @@
+#pragma once
+
+#include "contract/ChosenNumber.h"
+
+namespace vlt::wizard {
+
+/// Gives a spin box the range of a number and, as its value, what a first run offers.
+template<typename Box, typename Number>
+void offer(Box *box, const contract::ChosenNumber<Number> &number)
+{
+    box->setRange(number.minimum, number.maximum);
+    box->setValue(number.firstRun);
+}
+
+} // namespace vlt::wizard
