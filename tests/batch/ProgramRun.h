@@ -50,7 +50,7 @@ public:
         QProcess process;
         process.setWorkingDirectory(path(QStringLiteral("elsewhere")));
         process.start(QStringLiteral(VLT_PROGRAM), arguments);
-        process.waitForFinished();
+        process.waitForFinished(-1);
         return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
                 process.readAllStandardOutput(), process.readAllStandardError()};
     }

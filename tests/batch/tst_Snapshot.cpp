@@ -187,7 +187,7 @@ private:
             QStringLiteral(VLT_PROGRAM),
             QStringList{u"snapshot"_s, u"--language"_s, u"en"_s, u"--install"_s, m_dir->path()} +
                 arguments);
-        process.waitForFinished();
+        process.waitForFinished(-1);
         return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
                 process.readAllStandardOutput(), process.readAllStandardError()};
     }

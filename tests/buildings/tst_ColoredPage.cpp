@@ -1,6 +1,7 @@
 #include "LayerPage.h"
 #include "buildings/ui/VltAddTexbColoredPage.h"
 #include "gui/FileDialogAnswer.h"
+#include "support/Patience.h"
 #include "support/PrivateSettings.h"
 
 #include <gdal_priv.h>
@@ -78,7 +79,8 @@ private Q_SLOTS:
 
         ColoredPage page(m_installation);
 
-        QTRY_COMPARE(page.message(), u"Choose the image that colors the buildings."_s);
+        QTRY_COMPARE_WITH_TIMEOUT(page.message(), u"Choose the image that colors the buildings."_s,
+                                  PatienceMs);
         QVERIFY(!page.icon()->isEnabled() && !page.validatePage());
         QVERIFY(page.child<QWidget>(u"m_pwSubdatasetsFrame"_s)->isHidden());
         QVERIFY(boxes.seen.isEmpty());
@@ -123,7 +125,7 @@ private Q_SLOTS:
 
         ColoredPage page(m_installation);
 
-        QTRY_VERIFY(page.icon()->isEnabled());
+        QTRY_VERIFY_WITH_TIMEOUT(page.icon()->isEnabled(), PatienceMs);
         QCOMPARE(attributes(page.document()), wanted.replace(u"DIR"_s, m_dir.path()));
         for (const QString &part :
              {u"Buildings (layer)"_s, u"rf_colored_buildings"_s, map + u"_gradient.png"_s})
@@ -134,14 +136,14 @@ private Q_SLOTS:
     void savesALayerThatStays()
     {
         ColoredPage page(m_installation);
-        QTRY_VERIFY(page.icon()->isEnabled());
+        QTRY_VERIFY_WITH_TIMEOUT(page.icon()->isEnabled(), PatienceMs);
         QVERIFY(QDir(m_dir.path()).mkpath(u"kept"_s));
         const FileDialogAnswer dialog(path(u"kept/mine.lay"_s));
 
         QTest::keyClick(page.icon(), Qt::Key_S, Qt::ControlModifier);
         page.choose(u"m_pwCbMode"_s, 1);
 
-        QTRY_VERIFY(page.document().contains(u";maximum;"_s));
+        QTRY_VERIFY_WITH_TIMEOUT(page.document().contains(u";maximum;"_s), PatienceMs);
         QVERIFY(readFile(path(u"kept/mine.texb"_s)).contains(";minimum;"));
         const QString layer = QString::fromUtf8(readFile(path(u"kept/mine.lay"_s)));
         for (const QString &name : {u"TEXB:%1/kept/mine.texb"_s, u"%1/kept/first_gradient.png"_s})
@@ -165,12 +167,12 @@ private Q_SLOTS:
         QFETCH(QString, name);
         QFETCH(QString, text);
         ColoredPage page(m_installation);
-        QTRY_VERIFY(page.icon()->isEnabled());
+        QTRY_VERIFY_WITH_TIMEOUT(page.icon()->isEnabled(), PatienceMs);
         AnsweredBoxes boxes;
 
         dropFiles(&page, {path(name)});
 
-        QTRY_COMPARE(boxes.seen.size(), 1);
+        QTRY_COMPARE_WITH_TIMEOUT(boxes.seen.size(), 1, PatienceMs);
         QCOMPARE(boxes.seen.constFirst().icon, QMessageBox::Warning);
         QCOMPARE(boxes.seen.constFirst().title, u"Warning"_s);
         QCOMPARE(boxes.seen.constFirst().text, text);
@@ -195,7 +197,7 @@ private Q_SLOTS:
         QCOMPARE(images->count(), 2);
         QVERIFY(images->itemText(0).startsWith(
             u"GTIFF_DIR:1:%1 (Page 1"_s.arg(path(u"two images.tif"_s))));
-        QTRY_VERIFY(page.document().contains(u"\"IMAGE;GTIFF_DIR:1:"_s));
+        QTRY_VERIFY_WITH_TIMEOUT(page.document().contains(u"\"IMAGE;GTIFF_DIR:1:"_s), PatienceMs);
 
         images->setCurrentIndex(1);
 
@@ -205,7 +207,7 @@ private Q_SLOTS:
 
         dropFiles(&page, {path(u"other.asc"_s)});
         QVERIFY(page.child<QWidget>(u"m_pwSubdatasetsFrame"_s)->isHidden());
-        QTRY_VERIFY(page.icon()->isEnabled());
+        QTRY_VERIFY_WITH_TIMEOUT(page.icon()->isEnabled(), PatienceMs);
         page.press(u"m_pwPbNoData"_s);
         QCOMPARE(page.line(u"m_pwLeNoData"_s)->text(), u"-9999.000000"_s);
     }
@@ -234,7 +236,7 @@ private Q_SLOTS:
     void refreshesWhenTold()
     {
         ColoredPage page(m_installation);
-        QTRY_VERIFY(page.icon()->isEnabled());
+        QTRY_VERIFY_WITH_TIMEOUT(page.icon()->isEnabled(), PatienceMs);
         page.check(u"m_pwChbAutoRefresh"_s, false);
 
         page.choose(u"m_pwCbMode"_s, 1);
@@ -243,19 +245,19 @@ private Q_SLOTS:
         QCOMPARE(page.message(), u"The settings have changed: refresh the view to see them."_s);
 
         page.press(u"m_pwPbRefresh"_s);
-        QTRY_VERIFY(page.document().contains(u";maximum;"_s));
+        QTRY_VERIFY_WITH_TIMEOUT(page.document().contains(u";maximum;"_s), PatienceMs);
         page.choose(u"m_pwCbMode"_s, 2);
         QTest::mouseClick(page.icon(), Qt::LeftButton); // takes hold of it
-        QTRY_VERIFY(page.document().contains(u";average;"_s));
+        QTRY_VERIFY_WITH_TIMEOUT(page.document().contains(u";average;"_s), PatienceMs);
         page.choose(u"m_pwCbMode"_s, 3);
         page.check(u"m_pwChbAutoRefresh"_s, true);
-        QTRY_VERIFY(page.document().contains(u";mostRepresented;"_s));
+        QTRY_VERIFY_WITH_TIMEOUT(page.document().contains(u";mostRepresented;"_s), PatienceMs);
     }
 
     void foldsQuickChanges()
     {
         ColoredPage page(m_installation);
-        QTRY_VERIFY(page.icon()->isEnabled());
+        QTRY_VERIFY_WITH_TIMEOUT(page.icon()->isEnabled(), PatienceMs);
         const QString layer = page.icon()->layerFile();
         QVERIFY(QFile::remove(layer));
 
@@ -264,7 +266,7 @@ private Q_SLOTS:
 
         QVERIFY(!page.icon()->isEnabled()); // the old layer is none any more
         QVERIFY(!QFile::exists(layer));
-        QTRY_VERIFY(page.icon()->isEnabled());
+        QTRY_VERIFY_WITH_TIMEOUT(page.icon()->isEnabled(), PatienceMs);
         QVERIFY(page.document().contains(u";maximum;"_s));
         QVERIFY(page.document().contains(u"tileSize=\"300\""_s));
     }
@@ -280,19 +282,22 @@ private Q_SLOTS:
             QTest::keyClicks(page.line(line), text);
         };
 
-        QTRY_COMPARE(page.message(), u"The file of the colormap is gone: choose another one."_s);
+        QTRY_COMPARE_WITH_TIMEOUT(
+            page.message(), u"The file of the colormap is gone: choose another one."_s, PatienceMs);
         page.choose(u"m_pwCbCmap"_s, 0);
-        QTRY_VERIFY(page.icon()->isEnabled());
+        QTRY_VERIFY_WITH_TIMEOUT(page.icon()->isEnabled(), PatienceMs);
 
         type(u"m_pwLeNoData"_s, u"-"_s);
-        QTRY_COMPARE(page.message(), u"The no-data value is not a number."_s);
+        QTRY_COMPARE_WITH_TIMEOUT(page.message(), u"The no-data value is not a number."_s,
+                                  PatienceMs);
         QVERIFY(!page.icon()->isEnabled()); // else the layer of former values could be dragged
         QVERIFY(!page.validatePage());
         type(u"m_pwLeNoData"_s, u"1"_s);
-        QTRY_VERIFY(page.icon()->isEnabled());
+        QTRY_VERIFY_WITH_TIMEOUT(page.icon()->isEnabled(), PatienceMs);
 
         type(u"m_pwLeImage"_s, path(u"other"_s));
-        QTRY_COMPARE(page.message(), u"Press Enter to open the image that is typed."_s);
+        QTRY_COMPARE_WITH_TIMEOUT(page.message(), u"Press Enter to open the image that is typed."_s,
+                                  PatienceMs);
         QVERIFY(!page.icon()->isEnabled());
         page.line(u"m_pwLeImage"_s)->clearFocus();
         QVERIFY(!page.validatePage());
@@ -305,7 +310,7 @@ private Q_SLOTS:
 
         ColoredPage page(path(u"bare"_s)); // no template in it
 
-        QTRY_COMPARE(boxes.seen.size(), 1);
+        QTRY_COMPARE_WITH_TIMEOUT(boxes.seen.size(), 1, PatienceMs);
         QCOMPARE(boxes.seen.constFirst().icon, QMessageBox::Critical);
         QCOMPARE(boxes.seen.constFirst().text,
                  u"A configuration file is missing\n"_s +

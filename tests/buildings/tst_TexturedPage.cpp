@@ -2,6 +2,7 @@
 #include "buildings/EmptyFileListModel.h"
 #include "buildings/ui/VltAddTexbTexturedPage.h"
 #include "gui/FileDialogAnswer.h"
+#include "support/Patience.h"
 
 #include <QAction>
 #include <QClipboard>
@@ -173,7 +174,7 @@ private Q_SLOTS:
         const QString wall = u"x\tWall 3,5m.png\t3,5\troofs\n"_s;
         const QString roof = u"x\troof_2.png\t2\troofs\n"_s;
 
-        QVERIFY(QTest::qWaitForWindowActive(page.get()));
+        QVERIFY(QTest::qWaitForWindowActive(page.get(), PatienceMs));
         page->table()->setFocus();
         QTest::keySequence(page->table(), QKeySequence::Copy);
         QCOMPARE(QGuiApplication::clipboard()->text(),
@@ -211,7 +212,7 @@ private Q_SLOTS:
         page->table()->sortByColumn(FileListModel::FileColumn, Qt::AscendingOrder);
         const QModelIndex cell = page->cell(0, FileListModel::HeightColumn);
 
-        QVERIFY(QTest::qWaitForWindowActive(page.get()));
+        QVERIFY(QTest::qWaitForWindowActive(page.get(), PatienceMs));
         page->table()->setCurrentIndex(cell);
         page->table()->edit(cell);
         auto *editor = page->table()->viewport()->findChild<QLineEdit *>();

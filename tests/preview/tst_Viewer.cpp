@@ -2,6 +2,7 @@
 #include "preview/VisibleDistance.h"
 #include "preview/VltTrackBall.h"
 #include "preview/W_simpleOSGViewer.h"
+#include "support/Patience.h"
 
 #include <QMouseEvent>
 #include <QSignalSpy>
@@ -106,7 +107,7 @@ private Q_SLOTS:
         (new QVBoxLayout(m_window.get()))->addWidget(m_viewer);
         m_window->resize(300, 200);
         m_window->show();
-        QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+        QVERIFY(QTest::qWaitForWindowExposed(m_window.get(), PatienceMs));
     }
     void initTestCase() { qRegisterMetaType<QMouseEvent *>("QMouseEvent*"); }
     void cleanup() { m_window.reset(); }
@@ -185,7 +186,7 @@ private Q_SLOTS:
         other.resize(400, 300);
         (new QVBoxLayout(&other))->addWidget(m_viewer);
         other.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&other));
+        QVERIFY(QTest::qWaitForWindowExposed(&other, PatienceMs));
         waitForFrames();
         QVERIFY(!centerIsSky());
 
@@ -214,8 +215,8 @@ private Q_SLOTS:
         QApplication::sendEvent(m_viewer, &wheel);
 
         // the scene library's own numbers of its left, middle and right button
-        QTRY_COMPARE(recorder->pushed, QList<int>({1, 2, 4}));
-        QTRY_COMPARE(recorder->scrolled, 120);
+        QTRY_COMPARE_WITH_TIMEOUT(recorder->pushed, QList<int>({1, 2, 4}), PatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(recorder->scrolled, 120, PatienceMs);
         QVERIFY(m_viewer->getCameraManipulator()->getInverseMatrix() != before); // nearer
         QCOMPARE(stops.count(), 3);
     }
@@ -305,17 +306,19 @@ private Q_SLOTS:
         QFETCH(std::function<void(W_simpleOSGViewer &)>, change);
         QFETCH(bool, once);
         m_viewer->showScene(ballAt({}));
-        const auto framesOfAWhile = [this] {
-            const auto before = m_viewer->getViewerFrameStamp()->getFrameNumber();
+        const auto frame = [this] { return m_viewer->getViewerFrameStamp()->getFrameNumber(); };
+        const auto framesOfAWhile = [&frame] {
+            const auto before = frame();
             QTest::qWait(250);
-            return m_viewer->getViewerFrameStamp()->getFrameNumber() - before;
+            return frame() - before;
         };
-        QTRY_COMPARE(framesOfAWhile(), 0U);
+        QTRY_COMPARE_WITH_TIMEOUT(framesOfAWhile(), 0U, PatienceMs);
+        const auto before = frame();
 
         change(*m_viewer);
 
-        QVERIFY(framesOfAWhile() > 0);
-        QTRY_COMPARE(framesOfAWhile() == 0, once);
+        QTRY_VERIFY_WITH_TIMEOUT(frame() > before, PatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(framesOfAWhile() == 0, once, PatienceMs);
     }
 
     void tellsWhatAClickMeets()

@@ -1,6 +1,7 @@
 #include "srs/LastUsedSrsList.h"
 #include "srs/UserDefinedSrsList.h"
 #include "srs/ui/VltSrsChooser.h"
+#include "support/Patience.h"
 #include "support/PrivateSettings.h"
 
 #include <QAbstractItemView>
@@ -39,7 +40,7 @@ struct Shown
         chooser->populate();
         window.show();
         window.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&window));
+        QVERIFY(QTest::qWaitForWindowActive(&window, PatienceMs));
     }
 
     /// As a user does it: opens the list, goes to the row, presses Return.

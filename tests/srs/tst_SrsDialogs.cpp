@@ -4,6 +4,7 @@
 #include "srs/ui/SrsTable.h"
 #include "srs/ui/dialogToEditAlias.h"
 #include "srs/ui/dialogVltSrsChooser.h"
+#include "support/Patience.h"
 #include "support/PrivateSettings.h"
 
 #include <QDesktopServices>
@@ -38,7 +39,7 @@ struct Chooser
     {
         dialog.show();
         dialog.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&dialog));
+        QVERIFY(QTest::qWaitForWindowActive(&dialog, PatienceMs));
         auto *tabs = dialog.findChild<QTabWidget *>();
         tabs->setCurrentIndex(tab);
         table = tabs->currentWidget()->findChild<SrsTable *>();
@@ -79,7 +80,7 @@ private Q_SLOTS:
         auto *field = chooser.dialog.findChild<QLineEdit *>(u"m_pwLeSearch"_s);
 
         QTest::keyClicks(field, u"epsg:27582"_s);
-        QTRY_VERIFY(okButton(chooser.dialog)->isEnabled());
+        QTRY_VERIFY_WITH_TIMEOUT(okButton(chooser.dialog)->isEnabled(), PatienceMs);
         QTest::keyClick(field, Qt::Key_Return);
 
         const SrsEntry expected{u"NTF (Paris) / France II (deprecated)"_s, {}, u"EPSG:27582"_s};
@@ -102,7 +103,7 @@ private Q_SLOTS:
         sharedSrsSearch().waitForFinished();
         dialogVltSrsChooser dialog(nullptr, current);
         dialog.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        QVERIFY(QTest::qWaitForWindowExposed(&dialog, PatienceMs));
 
         const auto *tabs = dialog.findChild<QTabWidget *>();
         QTEST(tabs->currentIndex(), "tab");

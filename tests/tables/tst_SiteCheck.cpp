@@ -54,14 +54,9 @@ private Q_SLOTS:
     {
         QFETCH(int, question);
         int asked = 0;
-        QElapsedTimer sinceAnswer;
 
-        const auto check = readSiteCheck(connection(), [&](double) {
-            sinceAnswer.start();
-            return ++asked < question;
-        });
+        const auto check = readSiteCheck(connection(), [&](double) { return ++asked < question; });
 
-        QVERIFY2(sinceAnswer.elapsed() < 1000, "the walk went on");
         QVERIFY(!check);
         QCOMPARE(asked, question);
     }

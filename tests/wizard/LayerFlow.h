@@ -56,7 +56,7 @@ inline QByteArray layerOfCommandLine(const QString &command, const QString &tabl
                               QStringLiteral("--project"), SampleProject,
                               QStringLiteral("--language"), QStringLiteral("en")} +
                       options);
-    process.waitForFinished();
+    process.waitForFinished(-1);
     return process.exitCode() == 0 ? readFile(layer) : process.readAllStandardError();
 }
 

@@ -4,6 +4,7 @@
 #include "links/ui/LinkReportModel.h"
 #include "preview/W_simpleOSGViewer.h"
 #include "support/Files.h"
+#include "support/Patience.h"
 #include "wizard/LayerFlow.h"
 #include "wizard/base/TemporaryLayerFile.h"
 
@@ -119,7 +120,8 @@ private Q_SLOTS:
     {
         WizardOnLinkPage flow;
         dropFiles(flow.page, {Links});
-        QTRY_COMPARE(flow.remark(), u"18 clear, 2 marginal, 1 obstructed"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(flow.remark(), u"18 clear, 2 marginal, 1 obstructed"_s,
+                                  PatienceMs);
         QTableView *table = flow.table();
         const auto cell = [table](int row, int column) {
             return table->model()->index(row, column).data().toString();
@@ -135,7 +137,7 @@ private Q_SLOTS:
         flow.widget<QToolButton>(u"m_pwTbFold"_s)->click();
         flow.widget<QTabWidget>(QString())->setCurrentWidget(table);
         flow.wizard.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&flow.wizard));
+        QVERIFY(QTest::qWaitForWindowActive(&flow.wizard, PatienceMs));
         table->setFocus();
         QTest::keyClick(table, Qt::Key_C, Qt::ControlModifier);
         const QStringList lines = QGuiApplication::clipboard()->text().split(u'\n');
@@ -144,7 +146,8 @@ private Q_SLOTS:
 
         for (const int percent : {5, 4, 3, 2, 1}) // the last one counts
             flow.widget<QSpinBox>(u"m_pwSbFresnelShare"_s)->setValue(percent);
-        QTRY_COMPARE(flow.remark(), u"20 clear, 0 marginal, 1 obstructed"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(flow.remark(), u"20 clear, 0 marginal, 1 obstructed"_s,
+                                  PatienceMs);
         QCOMPARE(cell(0, Column::Name), u"MW-19"_s);
         const QModelIndexList selected = table->selectionModel()->selectedRows(Column::Name);
         QCOMPARE(selected.value(0).data(), u"MW-20"_s);
@@ -162,7 +165,7 @@ private Q_SLOTS:
         dropFiles(flow.page, {path});
 
         QTableView *table = flow.table();
-        QTRY_COMPARE(table->model()->rowCount(), 2000);
+        QTRY_COMPARE_WITH_TIMEOUT(table->model()->rowCount(), 2000, PatienceMs);
         QCOMPARE(table->model()->index(0, Column::Frequency).data(),
                  QLocale().toString(6029.2, 'f', 1));
         const QModelIndex farthest = table->model()->index(1999, Column::Length);
@@ -196,7 +199,8 @@ private Q_SLOTS:
 
         dropFiles(flow.page, {Links});
 
-        QTRY_COMPARE(flow.remark(), u"The links are not judged: the project has no terrain"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(
+            flow.remark(), u"The links are not judged: the project has no terrain"_s, PatienceMs);
         QCOMPARE(flow.table()->model()->index(0, Column::Verdict).data(), u"not judged"_s);
     }
 

@@ -1,4 +1,5 @@
 #include "gui/DropOnWidget.h"
+#include "support/Patience.h"
 #include "wizard/base/BasePage.h"
 #include "wizard/base/BusyWait.h"
 #include "wizard/base/DecimalSpinBox.h"
@@ -86,6 +87,24 @@ protected:
     }
 };
 
+/// Cancels the progress dialog as soon as it shows the share, in per cent; -1: any.
+class CancelWhenShown
+{
+public:
+    explicit CancelWhenShown(int percent)
+    {
+        m_timer.callOnTimeout([percent] {
+            auto *dialog = qobject_cast<QProgressDialog *>(QApplication::activeModalWidget());
+            if (dialog && dialog->findChild<QProgressBar *>()->value() >= percent)
+                dialog->cancel();
+        });
+        m_timer.start(10);
+    }
+
+private:
+    QTimer m_timer;
+};
+
 } // namespace
 
 class TestPageBase : public QObject
@@ -167,7 +186,7 @@ private Q_SLOTS:
         icon.setLayerFile(u"/t/a.lay"_s);
         QVERIFY(icon.isEnabled());
         QCOMPARE(icon.radius(), 40);
-        QTRY_COMPARE_WITH_TIMEOUT(icon.radius(), 0, 3000);
+        QTRY_COMPARE_WITH_TIMEOUT(icon.radius(), 0, PatienceMs);
 
         icon.setLayerFile(QString());
         QVERIFY(!icon.isEnabled());
@@ -207,7 +226,8 @@ private Q_SLOTS:
         target.setGeometry(300, 0, 200, 200);
         icon.show();
         target.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&icon) && QTest::qWaitForWindowExposed(&target));
+        QVERIFY(QTest::qWaitForWindowExposed(&icon, PatienceMs) &&
+                QTest::qWaitForWindowExposed(&target, PatienceMs));
 
         QMouseEvent hover(QEvent::MouseMove, QPointF(50, 50), icon.mapToGlobal(QPointF(50, 50)),
                           Qt::NoButton, Qt::NoButton, Qt::NoModifier);
@@ -227,7 +247,7 @@ private Q_SLOTS:
         QApplication::sendEvent(&icon, &move);
 
         const QList<QUrl> expected = {QUrl::fromLocalFile(u"/t/a b.lay"_s)};
-        QTRY_COMPARE(target.urls, expected);
+        QTRY_COMPARE_WITH_TIMEOUT(target.urls, expected, PatienceMs);
         QCOMPARE(target.offered, Qt::LinkAction);
         QTest::keySequence(&icon, QKeySequence::Copy);
         QCOMPARE(QGuiApplication::clipboard()->mimeData()->urls(), expected);
@@ -241,11 +261,7 @@ private Q_SLOTS:
     void letsTheUserCancelWork()
     {
         const auto hold = std::make_shared<QSemaphore>();
-        QTimer::singleShot(500, this, [] {
-            auto *dialog = qobject_cast<QProgressDialog *>(QApplication::activeModalWidget());
-            QVERIFY(dialog);
-            dialog->cancel();
-        });
+        const CancelWhenShown cancel(-1);
         const auto cancelled = vlt::wizard::waitForValue<int>(nullptr, u"slow"_s, [hold] {
             hold->acquire();
             return 8;
@@ -257,13 +273,7 @@ private Q_SLOTS:
     void tellsCancelledWorkToStop()
     {
         const auto stopped = std::make_shared<QSemaphore>();
-        int shown = -1;
-        QTimer::singleShot(500, this, [&shown] {
-            auto *dialog = qobject_cast<QProgressDialog *>(QApplication::activeModalWidget());
-            QVERIFY(dialog);
-            shown = dialog->findChild<QProgressBar *>()->value();
-            dialog->cancel();
-        });
+        const CancelWhenShown cancel(42);
         const auto cancelled = vlt::wizard::waitForValue<int>(
             nullptr, u"slow"_s, [stopped](const vlt::Progress &progress) {
                 while (progress(0.42))
@@ -272,9 +282,8 @@ private Q_SLOTS:
                 return 8;
             });
         QVERIFY(!cancelled);
-        QCOMPARE(shown, 42);
-        QVERIFY(stopped->tryAcquire(1, 5000));
-        QTRY_VERIFY(!vlt::wizard::isWorkRunning());
+        QVERIFY(stopped->tryAcquire(1, PatienceMs));
+        QTRY_VERIFY_WITH_TIMEOUT(!vlt::wizard::isWorkRunning(), PatienceMs);
 
         const auto done = vlt::wizard::waitForValue<int>(
             nullptr, u"quick"_s, [](const vlt::Progress &progress) { return progress(1) ? 9 : 0; });

@@ -3,6 +3,7 @@
 #include "gui/FileDialogAnswer.h"
 #include "platform/Settings.h"
 #include "support/Files.h"
+#include "support/Patience.h"
 #include "wizard/project/ui/VltSecondPage.h"
 
 #include <QDateTime>
@@ -132,7 +133,7 @@ private Q_SLOTS:
         remember({u"b.v2.gvw"_s, u"c.gvw"_s});
         Host host;
         QCOMPARE(host.list()->item(0)->text(), u"b\n09/03/2024\n07:05"_s);
-        QVERIFY(QTest::qWaitForWindowExposed(&host.wizard));
+        QVERIFY(QTest::qWaitForWindowExposed(&host.wizard, PatienceMs));
         const QPoint second = host.list()->visualItemRect(host.list()->item(1)).center();
         QTest::mouseClick(host.list()->viewport(), Qt::LeftButton, {}, second);
         QCOMPARE(host.path()->text(), file(u"c.gvw"_s));

@@ -3,6 +3,7 @@
 #include "gui/FileDialogAnswer.h"
 #include "preview/W_simpleOSGViewer.h"
 #include "support/Files.h"
+#include "support/Patience.h"
 #include "wizard/LayerFlow.h"
 #include "wizard/base/TemporaryLayerFile.h"
 
@@ -231,7 +232,7 @@ private Q_SLOTS:
         dropFiles(flow.page, {Samples + u"/sites_with_problems.csv"_s});
 
         auto *table = flow.widget<QTableView>(u"m_pwTvProblems"_s);
-        QTRY_COMPARE(table->model()->rowCount(), 3);
+        QTRY_COMPARE_WITH_TIMEOUT(table->model()->rowCount(), 3, PatienceMs);
         QCOMPARE(table->model()->index(0, 0).data(), u"5"_s);
         QCOMPARE(table->model()->index(0, 1).data(), u"Longitude"_s);
         QVERIFY(!table->isVisible());
@@ -314,7 +315,7 @@ private Q_SLOTS:
 
         wizard.openFile(u"file://"_s + own.filePath(file));
 
-        QTRY_COMPARE(wizard.currentId(), page);
+        QTRY_COMPARE_WITH_TIMEOUT(wizard.currentId(), page, PatienceMs);
         QCOMPARE(boxes.seen.size(), box.isEmpty() ? 0 : 1);
         if (!box.isEmpty())
             QCOMPARE(boxes.seen.constFirst().text, box + u'\n' + own.filePath(file));
@@ -323,7 +324,8 @@ private Q_SLOTS:
             wizard.next();
         }
         if (!line.isEmpty())
-            QTRY_COMPARE(wizard.findChild<QLineEdit *>(line)->text(), own.filePath(file));
+            QTRY_COMPARE_WITH_TIMEOUT(wizard.findChild<QLineEdit *>(line)->text(),
+                                      own.filePath(file), PatienceMs);
     }
 
     void warnsOfASystemThatDoesNotFitTheTable()
@@ -332,7 +334,9 @@ private Q_SLOTS:
         dropFiles(flow.page, {Samples + u"/sites.csv"_s});
         const auto *problems = flow.widget<QTableView>(u"m_pwTvProblems"_s)->model();
         const auto *sign = flow.widget<QLabel>(u"m_pwLblWarning"_s);
-        QTRY_VERIFY(flow.widget<QToolButton>(u"m_pwTbFold"_s)->text().contains(u"problems: 0"_s));
+        QTRY_VERIFY_WITH_TIMEOUT(
+            flow.widget<QToolButton>(u"m_pwTbFold"_s)->text().contains(u"problems: 0"_s),
+            PatienceMs);
         QVERIFY(!sign->isVisible());
 
         auto *source = flow.widget<QComboBox>(u"m_pCBSrs"_s);
@@ -340,7 +344,7 @@ private Q_SLOTS:
         source->setCurrentIndex(metric);
         Q_EMIT source->activated(metric);
 
-        QTRY_COMPARE(problems->rowCount(), 1);
+        QTRY_COMPARE_WITH_TIMEOUT(problems->rowCount(), 1, PatienceMs);
         QVERIFY(problems->index(0, 2).data().toString().contains(u"in degrees, but"_s));
         QVERIFY(sign->isVisible());
     }

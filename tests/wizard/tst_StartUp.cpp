@@ -3,6 +3,7 @@
 #include "app/ToolkitTexts.h"
 #include "resources/Resources.h"
 #include "support/Files.h"
+#include "support/Patience.h"
 
 #include <QDir>
 #include <QFile>
@@ -106,7 +107,7 @@ private Q_SLOTS:
         process.setProcessEnvironment(environment);
 
         process.start(QStringLiteral(VLT_PROGRAM), arguments);
-        QVERIFY(process.waitForFinished());
+        QVERIFY(process.waitForFinished(-1));
 
         QCOMPARE(process.exitStatus(), QProcess::NormalExit);
         QTEST(process.exitCode(), "status");
@@ -131,9 +132,9 @@ private Q_SLOTS:
         qputenv("PROBE_OUTPUT", QFile::encodeName(output));
         process.start(program, {});
         const bool told =
-            QTest::qWaitFor([&] { return readFile(output).endsWith("end\n"); }, 30000);
+            QTest::qWaitFor([&] { return readFile(output).endsWith("end\n"); }, PatienceMs);
         process.kill();
-        process.waitForFinished();
+        process.waitForFinished(-1);
 
         QVERIFY2(told, process.readAllStandardError().constData());
         const QByteArray dir = tree.toUtf8();

@@ -1,6 +1,7 @@
 #include "gui/AnsweredBoxes.h"
 #include "platform/Settings.h"
 #include "support/Files.h"
+#include "support/Patience.h"
 #include "wizard/frame/VltTelecomLayersWizard.h"
 
 #include <QAbstractButton>
@@ -143,7 +144,7 @@ private Q_SLOTS:
             QTest::qWait(50);
             QTest::keyClick(wizard.focusWidget(), key);
         };
-        QVERIFY(QTest::qWaitForWindowExposed(&wizard));
+        QVERIFY(QTest::qWaitForWindowExposed(&wizard, PatienceMs));
         wizard.activateWindow();
 
         press(Qt::Key_Down);
@@ -179,7 +180,7 @@ private Q_SLOTS:
         Wizard wizard;
         wizard.setStartId(page);
         wizard.restart();
-        QVERIFY(QTest::qWaitForWindowExposed(&wizard));
+        QVERIFY(QTest::qWaitForWindowExposed(&wizard, PatienceMs));
         wizard.activateWindow();
         if (auto *fold = wizard.currentPage()->findChild<QAbstractButton *>(u"m_pwTbFold"_s)) {
             fold->parentWidget()->show(); // as with a table
@@ -230,7 +231,7 @@ private Q_SLOTS:
             elsewhere.setGeometry(stored);
             vlt::platform::wizardSettings()->setValue(u"mainGeometry"_s, elsewhere.saveGeometry());
             Wizard wizard;
-            QVERIFY(QTest::qWaitForWindowExposed(&wizard));
+            QVERIFY(QTest::qWaitForWindowExposed(&wizard, PatienceMs));
             QVERIFY(wizard.screen()->availableGeometry().contains(wizard.frameGeometry()));
         }
     }
