@@ -9,7 +9,7 @@
 
 using namespace sourcetest;
 
-class TestBuildingsSource : public QObject, SourceFiles
+class tst_BuildingsSource : public QObject, SourceFiles
 {
     Q_OBJECT
 
@@ -319,5 +319,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestBuildingsSource)
+QTEST_MAIN(tst_BuildingsSource)
 #include "tst_BuildingsSource.moc"

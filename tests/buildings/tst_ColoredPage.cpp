@@ -25,7 +25,7 @@ public:
 
 } // namespace
 
-class TestColoredPage : public QObject
+class tst_ColoredPage : public QObject
 {
     Q_OBJECT
 
@@ -344,5 +344,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestColoredPage)
+QTEST_MAIN(tst_ColoredPage)
 #include "tst_ColoredPage.moc"

@@ -78,7 +78,7 @@ private:
 
 } // namespace
 
-class TestDisplayPage : public QObject
+class tst_DisplayPage : public QObject
 {
     Q_OBJECT
 
@@ -201,5 +201,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestDisplayPage)
+QTEST_MAIN(tst_DisplayPage)
 #include "tst_DisplayPage.moc"

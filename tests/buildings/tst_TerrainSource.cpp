@@ -10,7 +10,7 @@
 
 using namespace sourcetest;
 
-class TestTerrainSource : public QObject, SourceFiles
+class tst_TerrainSource : public QObject, SourceFiles
 {
     Q_OBJECT
 
@@ -222,5 +222,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestTerrainSource)
+QTEST_MAIN(tst_TerrainSource)
 #include "tst_TerrainSource.moc"

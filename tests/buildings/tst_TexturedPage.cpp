@@ -58,7 +58,7 @@ public:
 
 } // namespace
 
-class TestTexturedPage : public QObject
+class tst_TexturedPage : public QObject
 {
     Q_OBJECT
 
@@ -293,5 +293,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestTexturedPage)
+QTEST_MAIN(tst_TexturedPage)
 #include "tst_TexturedPage.moc"

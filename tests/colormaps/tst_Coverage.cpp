@@ -77,7 +77,7 @@ double reduced(const std::vector<double> &values, Reduction reduction)
 
 } // namespace
 
-class CoverageTest : public QObject
+class tst_Coverage : public QObject
 {
     Q_OBJECT
 
@@ -364,5 +364,5 @@ private Q_SLOTS:
 
 Q_DECLARE_METATYPE(Placing)
 
-QTEST_GUILESS_MAIN(CoverageTest)
+QTEST_GUILESS_MAIN(tst_Coverage)
 #include "tst_Coverage.moc"

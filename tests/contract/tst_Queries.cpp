@@ -74,7 +74,7 @@ ConnectionString withNumber(ConnectionString query, std::string_view key, int wo
 
 } // namespace
 
-class TestQueries : public QObject
+class tst_Queries : public QObject
 {
     Q_OBJECT
 
@@ -191,5 +191,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestQueries)
+QTEST_GUILESS_MAIN(tst_Queries)
 #include "tst_Queries.moc"

@@ -32,7 +32,7 @@ QStringList namesIn(const QString &directory)
 
 } // namespace
 
-class TestAtomicFile : public QObject
+class tst_AtomicFile : public QObject
 {
     Q_OBJECT
 
@@ -176,5 +176,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestAtomicFile)
+QTEST_GUILESS_MAIN(tst_AtomicFile)
 #include "tst_AtomicFile.moc"

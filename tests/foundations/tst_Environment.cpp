@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 using namespace vlt::app;
 using vlt::platform::PathStyle;
 
-class TestEnvironment : public QObject
+class tst_Environment : public QObject
 {
     Q_OBJECT
 
@@ -144,5 +144,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestEnvironment)
+QTEST_GUILESS_MAIN(tst_Environment)
 #include "tst_Environment.moc"

@@ -49,7 +49,7 @@ private:
 
 } // namespace
 
-class TestLanguage : public QObject
+class tst_Language : public QObject
 {
     Q_OBJECT
 
@@ -153,5 +153,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestLanguage)
+QTEST_GUILESS_MAIN(tst_Language)
 #include "tst_Language.moc"

@@ -82,7 +82,7 @@ QStringList placeholders(const QString &text)
 
 } // namespace
 
-class TestMessageKeys : public QObject
+class tst_MessageKeys : public QObject
 {
     Q_OBJECT
 
@@ -136,5 +136,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestMessageKeys)
+QTEST_GUILESS_MAIN(tst_MessageKeys)
 #include "tst_MessageKeys.moc"

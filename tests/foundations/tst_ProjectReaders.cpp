@@ -9,7 +9,7 @@
 using namespace Qt::StringLiterals;
 using namespace vlt::project;
 
-class TestProjectReaders : public QObject
+class tst_ProjectReaders : public QObject
 {
     Q_OBJECT
 
@@ -156,5 +156,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestProjectReaders)
+QTEST_GUILESS_MAIN(tst_ProjectReaders)
 #include "tst_ProjectReaders.moc"

@@ -45,7 +45,7 @@ std::string_view valueFor(ValueKind kind, std::string_view name)
 } // namespace
 
 /// The texts of the readers: each of them is found again in what it becomes.
-class TestTextPatterns : public QObject
+class tst_TextPatterns : public QObject
 {
     Q_OBJECT
 
@@ -106,5 +106,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestTextPatterns)
+QTEST_GUILESS_MAIN(tst_TextPatterns)
 #include "tst_TextPatterns.moc"

@@ -10,7 +10,7 @@
 
 using namespace Qt::StringLiterals;
 
-class TestTexts : public QObject
+class tst_Texts : public QObject
 {
     Q_OBJECT
 
@@ -125,5 +125,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestTexts)
+QTEST_GUILESS_MAIN(tst_Texts)
 #include "tst_Texts.moc"

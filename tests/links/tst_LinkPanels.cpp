@@ -16,7 +16,7 @@
 using namespace Qt::StringLiterals;
 using namespace vlt::links;
 
-class TestLinkPanels : public QObject
+class tst_LinkPanels : public QObject
 {
     Q_OBJECT
 
@@ -125,5 +125,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestLinkPanels)
+QTEST_MAIN(tst_LinkPanels)
 #include "tst_LinkPanels.moc"

@@ -40,7 +40,7 @@ public:
 
 } // namespace
 
-class TestSceneSource : public QObject
+class tst_SceneSource : public QObject
 {
     Q_OBJECT
 
@@ -90,5 +90,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestSceneSource)
+QTEST_GUILESS_MAIN(tst_SceneSource)
 #include "tst_SceneSource.moc"

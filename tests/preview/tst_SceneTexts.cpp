@@ -38,7 +38,7 @@ QByteArray grid(const char *pixels, const char *side = "0.01")
 
 } // namespace
 
-class TestSceneTexts : public QObject
+class tst_SceneTexts : public QObject
 {
     Q_OBJECT
 
@@ -228,5 +228,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestSceneTexts)
+QTEST_GUILESS_MAIN(tst_SceneTexts)
 #include "tst_SceneTexts.moc"

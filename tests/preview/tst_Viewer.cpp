@@ -76,7 +76,7 @@ bool isSky(const QImage &picture, const QPoint &at)
 
 } // namespace
 
-class TestViewer : public QObject
+class tst_Viewer : public QObject
 {
     Q_OBJECT
 
@@ -391,5 +391,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestViewer)
+QTEST_MAIN(tst_Viewer)
 #include "tst_Viewer.moc"

@@ -86,7 +86,7 @@ double turned(double azimuthDeg)
 
 } // namespace
 
-class LinkLayerSceneTest : public QObject
+class tst_LinkLayerScene : public QObject
 {
     Q_OBJECT
 
@@ -310,5 +310,5 @@ private:
     QTemporaryDir m_folder;
 };
 
-QTEST_GUILESS_MAIN(LinkLayerSceneTest)
+QTEST_GUILESS_MAIN(tst_LinkLayerScene)
 #include "tst_LinkLayerScene.moc"

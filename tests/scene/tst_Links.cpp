@@ -120,7 +120,7 @@ osg::ref_ptr<osg::Image> picture(osg::Node *scene, const osg::Vec3d &eye, bool i
 
 } // namespace
 
-class LinksTest : public QObject
+class tst_Links : public QObject
 {
     Q_OBJECT
 
@@ -430,5 +430,5 @@ private:
     osg::ref_ptr<osg::GraphicsContext> m_screen;
 };
 
-QTEST_APPLESS_MAIN(LinksTest)
+QTEST_APPLESS_MAIN(tst_Links)
 #include "tst_Links.moc"

@@ -43,7 +43,7 @@ std::string faultOf(const Mesh &mesh)
 
 } // namespace
 
-class PylonShapesTest : public QObject
+class tst_PylonShapes : public QObject
 {
     Q_OBJECT
 
@@ -269,5 +269,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(PylonShapesTest)
+QTEST_APPLESS_MAIN(tst_PylonShapes)
 #include "tst_PylonShapes.moc"

@@ -51,7 +51,7 @@ struct Listener : osg::NotifyHandler
 
 } // namespace
 
-class PylonsTest : public QObject
+class tst_Pylons : public QObject
 {
     Q_OBJECT
 
@@ -257,5 +257,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(PylonsTest)
+QTEST_APPLESS_MAIN(tst_Pylons)
 #include "tst_Pylons.moc"

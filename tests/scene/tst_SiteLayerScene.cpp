@@ -36,7 +36,7 @@ std::string siteSource(const std::string &table, const std::string &srs = "2154"
 
 } // namespace
 
-class SiteLayerSceneTest : public QObject
+class tst_SiteLayerScene : public QObject
 {
     Q_OBJECT
 
@@ -317,5 +317,5 @@ private:
     QTemporaryDir m_folder;
 };
 
-QTEST_GUILESS_MAIN(SiteLayerSceneTest)
+QTEST_GUILESS_MAIN(tst_SiteLayerScene)
 #include "tst_SiteLayerScene.moc"

@@ -103,7 +103,7 @@ struct Tile
 
 } // namespace
 
-class TexturedTileTest : public QObject
+class tst_TexturedTile : public QObject
 {
     Q_OBJECT
 
@@ -390,5 +390,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TexturedTileTest)
+QTEST_GUILESS_MAIN(tst_TexturedTile)
 #include "tst_TexturedTile.moc"

@@ -35,7 +35,7 @@ QString hex(const std::vector<Rgba> &colors)
 
 } // namespace
 
-class TownColorsTest : public QObject
+class tst_TownColors : public QObject
 {
     Q_OBJECT
 
@@ -207,5 +207,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TownColorsTest)
+QTEST_GUILESS_MAIN(tst_TownColors)
 #include "tst_TownColors.moc"

@@ -41,7 +41,7 @@ void makeDataset(const QString &path, const QByteArray &srs)
 
 } // namespace
 
-class TestSitePanels : public QObject
+class tst_SitePanels : public QObject
 {
     Q_OBJECT
 
@@ -258,5 +258,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestSitePanels)
+QTEST_MAIN(tst_SitePanels)
 #include "tst_SitePanels.moc"

@@ -103,7 +103,7 @@ public:
 
 } // namespace
 
-class TestSrsChooser : public QObject
+class tst_SrsChooser : public QObject
 {
     Q_OBJECT
 
@@ -301,5 +301,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestSrsChooser)
+QTEST_MAIN(tst_SrsChooser)
 #include "tst_SrsChooser.moc"

@@ -52,7 +52,7 @@ struct Chooser
 
 } // namespace
 
-class TestSrsDialogs : public QObject
+class tst_SrsDialogs : public QObject
 {
     Q_OBJECT
 
@@ -240,5 +240,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestSrsDialogs)
+QTEST_MAIN(tst_SrsDialogs)
 #include "tst_SrsDialogs.moc"

@@ -41,7 +41,7 @@ void store(const QString &group, const QString &pairs)
 
 } // namespace
 
-class TestSrsLists : public QObject
+class tst_SrsLists : public QObject
 {
     Q_OBJECT
 
@@ -160,5 +160,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestSrsLists)
+QTEST_GUILESS_MAIN(tst_SrsLists)
 #include "tst_SrsLists.moc"

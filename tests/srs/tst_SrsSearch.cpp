@@ -12,7 +12,7 @@ using vlt::geodata::SrsKind;
 using vlt::geodata::SrsRecord;
 
 /// Codes, names and areas are those of the EPSG registry.
-class TestSrsSearch : public QObject
+class tst_SrsSearch : public QObject
 {
     Q_OBJECT
 
@@ -162,5 +162,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestSrsSearch)
+QTEST_GUILESS_MAIN(tst_SrsSearch)
 #include "tst_SrsSearch.moc"

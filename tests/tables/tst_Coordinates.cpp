@@ -8,7 +8,7 @@
 using namespace vlt::driver;
 
 /// How positions are written in tables, and connection strings around their paths.
-class Coordinates : public QObject
+class tst_Coordinates : public QObject
 {
     Q_OBJECT
 
@@ -93,5 +93,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(Coordinates)
+QTEST_GUILESS_MAIN(tst_Coordinates)
 #include "tst_Coordinates.moc"

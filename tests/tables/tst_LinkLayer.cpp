@@ -58,7 +58,7 @@ constexpr char SideBySide[] =
 } // namespace
 
 /// Tables of links as any GDAL program sees them.
-class LinkLayer : public QObject
+class tst_LinkLayer : public QObject
 {
     Q_OBJECT
 
@@ -464,5 +464,5 @@ private:
     TableFolder m_folder;
 };
 
-QTEST_GUILESS_MAIN(LinkLayer)
+QTEST_GUILESS_MAIN(tst_LinkLayer)
 #include "tst_LinkLayer.moc"

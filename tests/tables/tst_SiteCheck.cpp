@@ -10,7 +10,7 @@
 using namespace vlt::geodata;
 
 /// One walk over the rows of a table, as the program makes it.
-class SiteCheckTest : public QObject
+class tst_SiteCheck : public QObject
 {
     Q_OBJECT
 
@@ -85,5 +85,5 @@ private:
     QTemporaryDir m_folder;
 };
 
-QTEST_GUILESS_MAIN(SiteCheckTest)
+QTEST_GUILESS_MAIN(tst_SiteCheck)
 #include "tst_SiteCheck.moc"

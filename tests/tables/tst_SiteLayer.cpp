@@ -15,7 +15,7 @@ constexpr char Table[] = "Site ID;Longitude;Latitude;Height (m);Phone;Note\n"
 } // namespace
 
 /// The driver as any GDAL program sees it.
-class SiteLayer : public QObject
+class tst_SiteLayer : public QObject
 {
     Q_OBJECT
 
@@ -466,5 +466,5 @@ private:
     TableFolder m_folder;
 };
 
-QTEST_GUILESS_MAIN(SiteLayer)
+QTEST_GUILESS_MAIN(tst_SiteLayer)
 #include "tst_SiteLayer.moc"

@@ -151,7 +151,7 @@ void compare()
 
 /// Real tables of many programs against what independent readers found in them, and small legal
 /// files that hurt.
-class TableFiles : public QObject
+class tst_TableFiles : public QObject
 {
     Q_OBJECT
 
@@ -202,5 +202,5 @@ private:
     QTemporaryDir m_folder;
 };
 
-QTEST_GUILESS_MAIN(TableFiles)
+QTEST_GUILESS_MAIN(tst_TableFiles)
 #include "tst_TableFiles.moc"

@@ -37,7 +37,7 @@ public:
 
 } // namespace
 
-class TestLinkLayerFlow : public QObject
+class tst_LinkLayerFlow : public QObject
 {
     Q_OBJECT
 
@@ -229,5 +229,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestLinkLayerFlow)
+QTEST_MAIN(tst_LinkLayerFlow)
 #include "tst_LinkLayerFlow.moc"

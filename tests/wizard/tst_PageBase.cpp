@@ -107,7 +107,7 @@ private:
 
 } // namespace
 
-class TestPageBase : public QObject
+class tst_PageBase : public QObject
 {
     Q_OBJECT
 
@@ -291,5 +291,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestPageBase)
+QTEST_MAIN(tst_PageBase)
 #include "tst_PageBase.moc"

@@ -52,7 +52,7 @@ struct Host
 
 } // namespace
 
-class TestProjectPage : public QObject
+class tst_ProjectPage : public QObject
 {
     Q_OBJECT
 
@@ -250,5 +250,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestProjectPage)
+QTEST_MAIN(tst_ProjectPage)
 #include "tst_ProjectPage.moc"

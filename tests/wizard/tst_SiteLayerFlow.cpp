@@ -31,7 +31,7 @@ public:
 
 } // namespace
 
-class TestSiteLayerFlow : public QObject
+class tst_SiteLayerFlow : public QObject
 {
     Q_OBJECT
 
@@ -366,5 +366,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestSiteLayerFlow)
+QTEST_MAIN(tst_SiteLayerFlow)
 #include "tst_SiteLayerFlow.moc"

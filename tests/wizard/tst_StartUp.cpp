@@ -24,7 +24,7 @@ QByteArray dictionary(const QByteArray &key, const QByteArray &text)
 
 } // namespace
 
-class TestStartUp : public QObject
+class tst_StartUp : public QObject
 {
     Q_OBJECT
 
@@ -145,5 +145,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestStartUp)
+QTEST_MAIN(tst_StartUp)
 #include "tst_StartUp.moc"

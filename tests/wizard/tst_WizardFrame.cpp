@@ -69,7 +69,7 @@ public:
 
 } // namespace
 
-class TestWizardFrame : public QObject
+class tst_WizardFrame : public QObject
 {
     Q_OBJECT
 
@@ -237,5 +237,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestWizardFrame)
+QTEST_MAIN(tst_WizardFrame)
 #include "tst_WizardFrame.moc"
