@@ -7,7 +7,7 @@
 
 using namespace vlt::driver;
 
-/// How positions are written in tables, and connection strings around their paths.
+/// How positions are written in tables.
 class tst_Coordinates : public QObject
 {
     Q_OBJECT
