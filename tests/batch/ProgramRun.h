@@ -2,8 +2,8 @@
 
 #include "support/Files.h"
 
-#include <QDir>
-#include <QFile>
+#include <QDirIterator>
+#include <QMap>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
@@ -24,6 +24,20 @@ inline QByteArray element(const QByteArray &layer, const QByteArray &name)
     return layer.mid(start, layer.indexOf("]]></" + name + '>') - start);
 }
 
+/// Columns of a table of command lines that are refused.
+inline void addRefusalColumns()
+{
+    QTest::addColumn<QString>("arguments");
+    QTest::addColumn<int>("status");
+    QTest::addColumn<QString>("message"); ///< a part of it
+}
+
+inline void addRefusal(const char *arguments, int status, const char *message)
+{
+    QTest::newRow(arguments) << QString::fromUtf8(arguments) << status
+                             << QString::fromUtf8(message);
+}
+
 /// A private installation ("install dir") and the program, run in a directory apart from all its
 /// files ("elsewhere").
 class ProgramRun
@@ -34,20 +48,23 @@ public:
         const QString install = path(QStringLiteral("install dir"));
         QVERIFY(QDir().mkpath(install + QStringLiteral("/addons/telecom")));
         QVERIFY(QFile::link(QStringLiteral(VLT_DRIVERS), install + QStringLiteral("/driver")));
-        QVERIFY(QFile::link(QStringLiteral(VLT_PYLONS),
+        QVERIFY(QFile::link(QStringLiteral(VLT_INSTALLATION "/addons/telecom/pylons"),
                             install + QStringLiteral("/addons/telecom/pylons")));
         QVERIFY(QDir().mkpath(path(QStringLiteral("elsewhere"))));
     }
 
     QString path(const QString &name) const { return m_dir.filePath(name); }
 
-    Run start(QStringList arguments) const
+    Run
+    start(QStringList arguments,
+          const QProcessEnvironment &environment = QProcessEnvironment::systemEnvironment()) const
     {
         if (!arguments.contains(QStringLiteral("--install")))
             arguments << QStringLiteral("--install") << path(QStringLiteral("install dir"));
         if (!arguments.contains(QStringLiteral("--language")))
             arguments << QStringLiteral("--language") << QStringLiteral("en");
         QProcess process;
+        process.setProcessEnvironment(environment);
         process.setWorkingDirectory(path(QStringLiteral("elsewhere")));
         process.start(QStringLiteral(VLT_PROGRAM), arguments);
         process.waitForFinished(-1);
@@ -56,11 +73,46 @@ public:
     }
 
     /// The same; no argument has a blank.
-    Run start(const QString &arguments) const
+    Run start(const QString &arguments) const { return start(split(arguments)); }
+
+    /// What holds for every row of a table of refusals: the program says why and changes no file.
+    void checkRefusal(
+        const QStringList &arguments,
+        const QProcessEnvironment &environment = QProcessEnvironment::systemEnvironment()) const
     {
-        return start(arguments.split(QLatin1Char(' '), Qt::SkipEmptyParts));
+        QFETCH(int, status);
+        QFETCH(QString, message);
+        const QMap<QString, QByteArray> before = files();
+
+        const Run run = start(arguments, environment);
+
+        QCOMPARE(run.status, status);
+        QVERIFY2(run.errors.contains(message.toUtf8()), run.errors.constData());
+        QCOMPARE(run.output, QByteArray());
+        QVERIFY2(files() == before, "a file was written");
     }
 
+    /// The same; no argument has a blank.
+    void checkRefusal(const QString &arguments) const { checkRefusal(split(arguments)); }
+
 private:
+    static QStringList split(const QString &arguments)
+    {
+        return arguments.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    }
+
+    /// Every file that a run may reach, with its content; not what the installation links to.
+    QMap<QString, QByteArray> files() const
+    {
+        QMap<QString, QByteArray> files;
+        QDirIterator found(m_dir.path(), QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot,
+                           QDirIterator::Subdirectories);
+        while (found.hasNext()) {
+            const QString path = found.next();
+            files.insert(path, readFile(path));
+        }
+        return files;
+    }
+
     QTemporaryDir m_dir;
 };

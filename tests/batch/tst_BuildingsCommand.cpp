@@ -155,16 +155,10 @@ private Q_SLOTS:
         QCOMPARE(readFile(path(u"elsewhere/o.texb"_s)).count("<texture "), images);
     }
 
-    void refusesAndLeavesTheOldLayer_data()
+    void refusesAndWritesNothing_data()
     {
-        QTest::addColumn<QString>("arguments"); ///< after "buildings ", "%" stands for usual inputs
-        QTest::addColumn<int>("status");
-        QTest::addColumn<QString>("message");
-
-        const auto row = [](const char *arguments, int status, const char *message) {
-            QTest::newRow(arguments)
-                << QString::fromLatin1(arguments) << status << QString::fromLatin1(message);
-        };
+        addRefusalColumns();
+        const auto row = addRefusal; // after "buildings ", "%" stands for the two inputs
         row("../no.shp --dtm ../dem.asc --image ../level.asc", 1,
             "../no.shp: This file can't be open as a vector file");
         row("../houses.geojson --dtm ../own.txt --image ../level.asc", 1,
@@ -211,24 +205,14 @@ private Q_SLOTS:
         row("% --image ../level.asc --tile-size nan", 2, "--tile-size");
     }
 
-    void refusesAndLeavesTheOldLayer()
+    void refusesAndWritesNothing()
     {
         QFETCH(QString, arguments);
-        QFETCH(int, status);
-        QFETCH(QString, message);
         arguments.replace(u"%"_s, u"../houses.geojson --dtm ../dem.asc"_s);
-
         if (!arguments.contains(u" -o "_s))
             arguments += u" -o old.lay"_s;
 
-        const Run run = start(u"buildings "_s + arguments);
-
-        QCOMPARE(run.status, status);
-        QVERIFY2(run.errors.contains(message.toUtf8()), run.errors.constData());
-        QCOMPARE(run.output, QByteArray());
-        QCOMPARE(readFile(path(u"elsewhere/old.lay"_s)), QByteArray("old"));
-        QCOMPARE(readFile(path(u"elsewhere/old.texb"_s)), QByteArray("old"));
-        QCOMPARE(readFile(path(u"houses.geojson"_s)), Houses);
+        m_program->checkRefusal(u"buildings "_s + arguments);
     }
 
     void overwritesNoInputByDocumentOrLegend_data()

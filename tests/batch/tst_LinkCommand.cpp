@@ -184,16 +184,10 @@ private Q_SLOTS:
         QVERIFY(columns.value(u"name"_s).isString() && told.contains(u"problems"_s));
     }
 
-    void refusesAndLeavesTheOldLayer_data()
+    void refusesAndWritesNothing_data()
     {
-        QTest::addColumn<QString>("arguments");
-        QTest::addColumn<int>("status");
-        QTest::addColumn<QString>("message");
-
-        const auto row = [](const char *arguments, int status, const char *message) {
-            QTest::newRow(arguments)
-                << QString::fromLatin1(arguments) << status << QString::fromLatin1(message);
-        };
+        addRefusalColumns();
+        const auto row = addRefusal;
         row("link ../no.csv -o old.lay", 1, "../no.csv: This file can't be open as a link file (");
         row("info --link ../empty.csv", 1, "../empty.csv: This link file is empty");
         row("link ../lost.csv -o old.lay", 1, "../lost.csv: none of its links can be placed");
@@ -215,22 +209,14 @@ private Q_SLOTS:
         row("site ../l.csv -o old.lay --k-factor 1", 2, "k-factor");
     }
 
-    void refusesAndLeavesTheOldLayer()
+    void refusesAndWritesNothing()
     {
         QFETCH(QString, arguments);
-        QFETCH(int, status);
-        QFETCH(QString, message);
         const QByteArray header = Table.left(Table.indexOf('\n') + 1);
         writeFile(path(u"empty.csv"_s), header);
         writeFile(path(u"lost.csv"_s), header + Table.mid(Table.indexOf("Lost")));
 
-        const Run run = start(arguments);
-
-        QCOMPARE(run.status, status);
-        QVERIFY2(run.errors.contains(message.toUtf8()), run.errors.constData());
-        QCOMPARE(run.output, QByteArray());
-        QCOMPARE(readFile(path(u"elsewhere/old.lay"_s)), QByteArray("old"));
-        QCOMPARE(readFile(path(u"hills.asc"_s)), terrain(128));
+        m_program->checkRefusal(arguments);
     }
 
 private:
