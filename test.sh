@@ -5,8 +5,9 @@ cd "$(dirname "$0")"
 source tools/prepare.sh
 
 usage="usage: ./test.sh [--sanitize | --tidy]
-Installs what is missing, builds and runs all tests. A second run takes seconds.
-  --sanitize  the same with the address and undefined behaviour sanitizers
+Installs what is missing, builds and runs all tests, then those that read files of other people once more with the
+address and undefined behaviour sanitizers. A second run takes seconds.
+  --sanitize  all tests with the sanitizers instead
   --tidy      clang-tidy over every source instead of the tests"
 
 preset=dev
@@ -23,13 +24,36 @@ packages=("${buildPackages[@]}" "${testPackages[@]}")
 prepare "${packages[@]}"
 prepareWhereOffered "${formatPackages[@]}"
 
-log=$PWD/build/$preset.log
-rm -f "$log"
-echo "Configuring and building (preset $preset, log: $log) ..."
-runLong "$log" cmake --preset "$preset"
-if [[ $preset == tidy ]]; then
-    runLong "$log" cmake --build --preset tidy -- -k 0 # every finding, not only the first
-else
-    runLong "$log" cmake --build --preset "$preset"
-    ctest --preset "$preset"
-fi
+# build PRESET [ARGUMENT...]: configures and builds.
+build() {
+    local preset=$1 log=$PWD/build/$1.log
+    shift
+    rm -f "$log"
+    echo "Configuring and building (preset $preset, log: $log) ..."
+    runLong "$log" cmake --preset "$preset"
+    runLong "$log" cmake --build --preset "$preset" "$@"
+}
+
+# runTests PRESET [ARGUMENT...]: runs the tests that are built.
+runTests() {
+    local preset=$1
+    shift
+    ctest --preset "$preset" "$@" | tee "build/$preset.tests"
+}
+
+case $preset in
+    tidy) build tidy -- -k 0 ;; # every finding, not only the first
+    asan)
+        build asan
+        runTests asan
+        ;;
+    dev)
+        build dev
+        runTests dev
+        build asan --target hostile_tests
+        runTests asan -L hostile
+        echo
+        echo "All tests:                           $(grep 'tests passed' build/dev.tests)"
+        echo "Hostile input, under the sanitizers: $(grep 'tests passed' build/asan.tests)"
+        ;;
+esac

@@ -5,11 +5,14 @@
 #   vlt_add_plugin(name ...)                 loadable module <name>.so: no Qt at all
 #   vlt_add_program(name [LOGIC] ...)        executable
 #   vlt_add_test(file.cpp [GUI] LIBS ...)    one test program per tst_*.cpp, named after its file
-#       GUI    on an X server of its own, as large as a small laptop's screen
+#       GUI      on an X server of its own, as large as a small laptop's screen
+#       HOSTILE  near to what reads files of other people: ./test.sh runs it under the sanitizers as well
 # vlt_check_architecture() walks the finished link graph and stops the configure step on a breach.
 
 # What an installation tree needs, without the tests.
 add_custom_target(programs)
+# The tests that are marked HOSTILE.
+add_custom_target(hostile_tests)
 
 function(vlt_apply_defaults target)
   target_compile_features(${target} PRIVATE cxx_std_20)
@@ -97,7 +100,7 @@ set(VLT_TEST_TIMEOUT_S 600)
 
 # Tests run under a German locale (decimal comma) and with settings in a private directory.
 function(vlt_add_test file)
-  cmake_parse_arguments(T "GUI" "" "LIBS;ENV;DEPENDS" ${ARGN})
+  cmake_parse_arguments(T "GUI;HOSTILE" "" "LIBS;ENV;DEPENDS" ${ARGN})
   cmake_path(GET file STEM name)
   add_executable(${name} ${file})
   vlt_apply_defaults(${name})
@@ -128,6 +131,10 @@ function(vlt_add_test file)
     XDG_CONFIG_DIRS=${PROJECT_BINARY_DIR}/settings
     ${T_ENV})
   set_tests_properties(${name} PROPERTIES TIMEOUT ${VLT_TEST_TIMEOUT_S} ENVIRONMENT "${environment}")
+  if(T_HOSTILE)
+    set_tests_properties(${name} PROPERTIES LABELS hostile)
+    add_dependencies(hostile_tests ${name})
+  endif()
 endfunction()
 
 function(vlt_collect_links target seen_var)
