@@ -3,7 +3,7 @@
 #include "batch/DatasetNames.h"
 #include "batch/InputErrors.h"
 #include "batch/ProgressLine.h"
-#include "buildings/FileListModel.h"
+#include "buildings/TextureFilter.h"
 #include "geodata/RasterSource.h"
 #include "language/VltLanguageManager.h"
 
@@ -11,7 +11,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <iterator>
 
 namespace vlt::batch {
 
@@ -92,24 +91,6 @@ Images givenImages(const QStringList &files)
     return all;
 }
 
-/// Those that the wizard's list shows with this filter.
-QList<FileEntry> filtered(QList<FileEntry> images, const QString &filter)
-{
-    for (FileEntry &image : images)
-        image.used = false;
-    buildings::FileListModel list;
-    list.setEntries(std::move(images));
-    list.setFilter(filter);
-    QModelIndexList rows;
-    for (int row = 0; row < list.rowCount(); ++row)
-        rows << list.index(row, buildings::FileListModel::UseColumn);
-    list.setUsed(rows, true);
-    QList<FileEntry> shown;
-    std::copy_if(list.entries().begin(), list.entries().end(), std::back_inserter(shown),
-                 [](const FileEntry &image) { return image.used; });
-    return shown;
-}
-
 Images foundImages(const TextureChoice &choice, bool quiet)
 {
     const QFileInfo file(choice.templateFile);
@@ -118,7 +99,9 @@ Images foundImages(const TextureChoice &choice, bool quiet)
     ProgressLine line(dico_label("MESS_LOOKING_FOR_IMAGES", "Looking for images..."), !quiet);
     const auto found = buildings::findTextures(choice.structure, file.absolutePath(), file.suffix(),
                                                line.progress());
-    const QList<FileEntry> images = filtered(*found, choice.filter);
+    QList<FileEntry> images;
+    for (const int place : buildings::matchingTextures(*found, choice.filter))
+        images << found->at(place);
     if (images.isEmpty())
         return told(dico_label("MESS_CLI_NO_TEXTURES", "no image is found by it"),
                     choice.templateFile);

@@ -1,21 +1,16 @@
 #pragma once
 
-#include <QAbstractTableModel>
+#include <QStandardItemModel>
 
 namespace vlt::buildings {
 
 /// Stands in the table of textures while there is none: one red cell that says what to do.
-class EmptyFileListModel : public QAbstractTableModel
+class EmptyFileListModel : public QStandardItemModel
 {
     Q_OBJECT
 
 public:
-    using QAbstractTableModel::QAbstractTableModel;
-
-    int rowCount(const QModelIndex &parent = {}) const override;
-    int columnCount(const QModelIndex &parent = {}) const override;
-    QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
-    Qt::ItemFlags flags(const QModelIndex &index) const override;
+    explicit EmptyFileListModel(QObject *parent = nullptr);
 };
 
 } // namespace vlt::buildings

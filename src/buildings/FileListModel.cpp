@@ -1,6 +1,6 @@
 #include "buildings/FileListModel.h"
 
-#include <QRegularExpression>
+#include "buildings/TextureFilter.h"
 
 #include <algorithm>
 #include <cmath>
@@ -8,40 +8,6 @@
 namespace vlt::buildings {
 
 namespace {
-
-QString heightText(double height)
-{
-    constexpr int SignificantDigits = 6;
-    return QString::number(height, 'g', SignificantDigits);
-}
-
-/// What is compared with the pattern of the filter.
-class Filter
-{
-public:
-    explicit Filter(const QString &pattern)
-        : m_pattern(pattern)
-        , m_height(asExpression(pattern), QRegularExpression::UseUnicodePropertiesOption)
-    {}
-
-    bool shows(const FileEntry &entry) const
-    {
-        return m_pattern.isEmpty() || entry.fileName().contains(m_pattern) ||
-               entry.shortName.contains(m_pattern) || entry.description.contains(m_pattern) ||
-               (m_height.isValid() && m_height.match(heightText(entry.height)).hasMatch());
-    }
-
-private:
-    /// A decimal comma or point stands for itself.
-    static QString asExpression(QString pattern)
-    {
-        pattern.replace(u',', u'.');
-        return pattern.replace(u'.', QStringLiteral("\\."));
-    }
-
-    QString m_pattern;
-    QRegularExpression m_height;
-};
 
 QString fileText(const FileEntry &entry)
 {
@@ -81,12 +47,7 @@ void FileListModel::setFilter(const QString &pattern)
 void FileListModel::showMatching()
 {
     beginResetModel();
-    m_rows.clear();
-    const Filter filter(m_filter);
-    for (int i = 0; i < m_entries.size(); ++i) {
-        if (filter.shows(m_entries.at(i)))
-            m_rows += i;
-    }
+    m_rows = matchingTextures(m_entries, m_filter);
     endResetModel();
     tellCounts();
 }
