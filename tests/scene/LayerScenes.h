@@ -11,6 +11,7 @@
 
 #include <QtTest>
 
+#include <functional>
 #include <map>
 #include <set>
 #include <string>
@@ -42,6 +43,50 @@ inline Opened open(const QString &path, const osgDB::Options *options = nullptr)
     osgDB::ReaderWriter::ReadResult read =
         osgDB::Registry::instance()->readNode(path.toStdString(), options);
     return {read.getNode() ? read.getNode()->asGroup() : nullptr, read.message()};
+}
+
+/// Counts what a reader finds while files of one relative name, with ever more objects, appear in
+/// the folders where it is looked for, from the last of these folders to the first.
+///
+/// @param layer    path of the layer or document that names the file; it exists
+/// @param content  of a file with so many objects
+/// @param fact     that counts the objects
+/// @return         "1 2 3 4 4" where the order is kept: the working directory, the layer's folder,
+///                 that of VLT_CURRENT_PROJECT, and twice that of the project the caller names
+inline QString foundInOrder(const QString &layer, const QString &name,
+                            const std::function<QByteArray(int)> &content, const char *fact)
+{
+    const QDir root(QFileInfo(layer).dir().filePath(QStringLiteral("..")));
+    const auto put = [&](const char *folder, int objects) {
+        const QString path = QLatin1String(folder) + u'/' + name;
+        writeFile(root.filePath(path), content(objects));
+    };
+    const std::string project = root.filePath(QStringLiteral("p 2/city.gvw")).toStdString();
+    const osg::ref_ptr<osgDB::Options> option = new osgDB::Options("project=" + project);
+    const osg::ref_ptr<osgDB::Options> datum = new osgDB::Options;
+    datum->setPluginStringData("vlt.project", project);
+    QStringList found;
+    const auto look = [&](const osgDB::Options *options = nullptr) {
+        const Opened opened = open(layer, options);
+        found << QString::fromStdString(opened.scene ? opened.fact(fact) : opened.fault);
+    };
+    const QString before = QDir::currentPath();
+
+    put("cwd", 1);
+    QDir::setCurrent(root.filePath(QStringLiteral("cwd")));
+    look();
+    writeFile(QFileInfo(layer).dir().filePath(name), content(2));
+    look();
+    put("p1", 3);
+    qputenv("VLT_CURRENT_PROJECT", root.filePath(QStringLiteral("p1/city.gvw")).toLocal8Bit());
+    look();
+    put("p 2", 4);
+    look(option);
+    look(datum);
+
+    qunsetenv("VLT_CURRENT_PROJECT");
+    QDir::setCurrent(before);
+    return found.join(u' ');
 }
 
 /// Draws nothing, but goes where the renderer would go, at every distance: this makes what is made

@@ -388,6 +388,27 @@ private Q_SLOTS:
         }
     }
 
+    void looksForFilesInOrder()
+    {
+        const auto footprints = [](int buildings) {
+            QByteArrayList features;
+            for (int i = 0; i < buildings; ++i) {
+                const QByteArray x = QByteArray::number(0.001 * i);
+                const QByteArray right = QByteArray::number(0.001 * i + 0.0001);
+                features << "{\"type\":\"Feature\",\"properties\":{\"Height\":5},\"geometry\":"
+                            "{\"type\":\"Polygon\",\"coordinates\":[[[" +
+                                x + ",0],[" + right + ",0],[" + x + ",0.0001],[" + x + ",0]]]}}";
+            }
+            return "{\"type\":\"FeatureCollection\",\"name\":\"Town\",\"features\":[" +
+                   features.join(',') + "]}";
+        };
+        writeFile(path("docs/t.texb"), document("shapes/town.geojson"));
+
+        QCOMPARE(layertest::foundInOrder(path("docs/t.texb"), QStringLiteral("shapes/town.geojson"),
+                                         footprints, "buildings"),
+                 QStringLiteral("1 2 3 4 4"));
+    }
+
     void layersLeadToTheirDocument()
     {
         makeFootprints(path("town.gpkg"), {{Square, "5"}});

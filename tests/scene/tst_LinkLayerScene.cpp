@@ -293,6 +293,18 @@ private Q_SLOTS:
         QVERIFY2(QByteArray::fromStdString(opened.fault).contains(named), opened.fault.c_str());
     }
 
+    void looksForTheTableInOrder()
+    {
+        const auto table = [](int rows) {
+            return Header + ("n,A," + A + ",30,23000,B," + B + ",40,23000\n").repeated(rows);
+        };
+        const QString layer =
+            writeFile(path("layers/t.lay"), layerText(linkSource().replace("t.csv", "hops/a.csv")));
+
+        QCOMPARE(foundInOrder(layer, QStringLiteral("hops/a.csv"), table, "links"),
+                 QStringLiteral("1 2 3 4 4"));
+    }
+
 private:
     QString path(const char *name) const { return m_folder.filePath(QLatin1String(name)); }
 

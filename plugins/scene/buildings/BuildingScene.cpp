@@ -1,5 +1,6 @@
 #include "plugins/scene/buildings/BuildingScene.h"
 
+#include "contract/FileSearch.h"
 #include "contract/ReaderOptions.h"
 #include "plugins/scene/buildings/DocumentFiles.h"
 #include "plugins/scene/buildings/FootprintReader.h"
@@ -186,7 +187,7 @@ osg::ref_ptr<osg::Group> readBuildingScene(const std::string &document, const st
                                            Notices &notices, const Progress &progress)
 {
     const BuildingDocument texb = readTexbDocument(document);
-    const Directories directories = documentDirectories(document, project);
+    const Directories directories = contract::searchDirectories(document, project);
     const BuildingFootprints &footprints = texb.footprints;
     const auto town = std::make_shared<Town>(readTown(texb, directories, notices, progress));
     colour(*town, footprints, directories, notices, progress);

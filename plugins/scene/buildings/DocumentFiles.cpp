@@ -1,30 +1,17 @@
 #include "plugins/scene/buildings/DocumentFiles.h"
 
+#include "contract/BuildingDocument.h"
+#include "contract/FileSearch.h"
 #include "localfiles/LocalFormats.h"
 #include "plugins/scene/reading/BadLayer.h"
 
 #include <cpl_port.h>
 
-#include <cstdlib>
 #include <filesystem>
 
 namespace vlt::scene {
 
 namespace fs = std::filesystem;
-
-std::vector<std::string> documentDirectories(const std::string &document,
-                                             const std::string &project)
-{
-    std::error_code error;
-    const fs::path here = fs::current_path(error);
-    std::vector<std::string> directories;
-    const char *current = std::getenv("VLT_CURRENT_PROJECT");
-    for (const std::string &file : {document, project, std::string(current ? current : "")}) {
-        if (!file.empty())
-            directories.push_back((here / file).parent_path().lexically_normal().string());
-    }
-    return directories;
-}
 
 std::string locateDataset(const std::string &name, const std::vector<std::string> &directories)
 {
@@ -41,11 +28,11 @@ std::string locateDataset(const std::string &name, const std::vector<std::string
 std::string locateDocument(const std::string &source, const std::string &layer,
                            const std::string &project)
 {
-    constexpr std::string_view Start = "TEXB:";
+    constexpr std::string_view Start = contract::BuildingSourcePrefix;
     if (!EQUALN(source.c_str(), Start.data(), Start.size()))
         throw BadLayer("the source \"" + source.substr(0, 60) + "\" does not start with \"TEXB:\"");
     const std::string name = source.substr(Start.size());
-    std::string path = locateDataset(name, documentDirectories(layer, project));
+    std::string path = locateDataset(name, contract::searchDirectories(layer, project));
     if (path.empty())
         throw BadLayer("the building document \"" + name + "\" does not exist");
     return path;

@@ -5,14 +5,6 @@
 
 namespace vlt::scene {
 
-/// Where files of relative names are looked for that a building document or layer names: in its own
-/// folder, then in the project's, then in that of the project in the environment variable
-/// VLT_CURRENT_PROJECT.
-///
-/// @param project  path of a project file; may be empty
-std::vector<std::string> documentDirectories(const std::string &document,
-                                             const std::string &project);
-
 /// The absolute path of a file or folder of the local disk; empty where there is none of this name.
 std::string locateDataset(const std::string &name, const std::vector<std::string> &directories);
 

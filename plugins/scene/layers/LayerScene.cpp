@@ -1,5 +1,6 @@
 #include "plugins/scene/layers/LayerScene.h"
 
+#include "contract/FileSearch.h"
 #include "contract/QueryOptions.h"
 #include "plugins/scene/layers/LinkLayerScene.h"
 #include "plugins/scene/layers/LinkLayerStyle.h"
@@ -72,7 +73,7 @@ osg::ref_ptr<osg::Group> readLinks(const LayerFile &file, const Directories &dir
 osg::ref_ptr<osg::Group> readLayerScene(const LayerFile &file, const std::string &path,
                                         const LayerRequest &request, Notices &notices)
 {
-    const Directories directories = tableDirectories(path, request.project);
+    const Directories directories = contract::searchDirectories(path, request.project);
     if (file.kind == LayerKind::Links)
         return readLinks(file, directories, request, notices);
     const auto table = locateTable(file.source, file.kind, directories);

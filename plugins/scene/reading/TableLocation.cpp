@@ -2,7 +2,6 @@
 
 #include "plugins/scene/reading/BadLayer.h"
 
-#include <cstdlib>
 #include <filesystem>
 
 namespace vlt::scene {
@@ -55,30 +54,6 @@ std::string locateFile(const std::string &path, const std::vector<std::string> &
             return found;
     }
     return {};
-}
-
-std::vector<std::string> tableDirectories(const std::string &layerFile, const std::string &project)
-{
-    std::error_code error;
-    const fs::path here = fs::current_path(error);
-    std::vector<std::string> directories;
-    const auto add = [&](const fs::path &path) {
-        const std::string directory = (here / path).lexically_normal().string();
-        for (const std::string &known : directories) {
-            if (known == directory)
-                return;
-        }
-        directories.push_back(directory);
-    };
-    const auto addParent = [&](const char *file) {
-        if (file && *file)
-            add(fs::path(file).parent_path());
-    };
-    addParent(project.c_str());
-    addParent(std::getenv("VLT_CURRENT_PROJECT"));
-    addParent(layerFile.c_str());
-    add(here);
-    return directories;
 }
 
 } // namespace vlt::scene

@@ -20,11 +20,4 @@ contract::ConnectionString locateTable(const std::string &source, LayerKind kind
 /// The absolute path of a file that stands in a query; empty where there is no such local file.
 std::string locateFile(const std::string &path, const std::vector<std::string> &directories);
 
-/// The directories for a layer file, in their order: of the project file that the caller names, of
-/// the one in the environment variable VLT_CURRENT_PROJECT, of the layer file, and the working
-/// directory.
-///
-/// @param project  path of a project file; may be empty
-std::vector<std::string> tableDirectories(const std::string &layerFile, const std::string &project);
-
 } // namespace vlt::scene
