@@ -1,4 +1,5 @@
 #include "LayerScenes.h"
+#include "plugins/scene/reading/LayerFile.h"
 
 #include <osg/Geometry>
 #include <osgDB/WriteFile>
@@ -200,6 +201,28 @@ private Q_SLOTS:
 
         QCOMPARE(foundInOrder(layer, QStringLiteral("tables/a, b.csv"), table, "sites"),
                  QStringLiteral("1 2 3 4 4"));
+    }
+
+    void readsTheShippedTemplates()
+    {
+        using namespace vlt::scene;
+        using Values = std::vector<std::string>; // source, layer, endLayer, siteField
+        const std::tuple<const char *, LayerKind, Values> templates[] = {
+            {"pylons/template_sites.lay",
+             LayerKind::Sites,
+             {"__SITE_URL__", "__LAYER__", "", "__SITE_FIELD__"}},
+            {"pylons/template_links.lay",
+             LayerKind::Links,
+             {"__LINK_URL__", "__LAYER__", "__END_LAYER__", "__SITE_FIELD__"}},
+            {"template/template_texb.lay", LayerKind::Buildings, {"__TEXB_URL__", "", "", ""}}};
+        for (const auto &[name, kind, values] : templates) {
+            const LayerFile file =
+                readLayerFile(std::string(VLT_INSTALLATION "/addons/telecom/") + name);
+
+            QVERIFY2(file.kind == kind, name);
+            QCOMPARE(file.title, std::string("__TITLE__"));
+            QCOMPARE((Values{file.source, file.layer, file.endLayer, file.siteField}), values);
+        }
     }
 
     void refusesByName_data()

@@ -1,5 +1,6 @@
 #include "plugins/scene/reading/LayerFile.h"
 
+#include "contract/LayerElements.h"
 #include "plugins/scene/reading/BadLayer.h"
 #include "plugins/scene/reading/LayerText.h"
 
@@ -11,7 +12,6 @@ namespace vlt::scene {
 
 namespace {
 
-constexpr std::string_view Root = "<veltaroLayer";
 constexpr std::string_view Blanks = " \t\r\n";
 constexpr std::string_view SectionStart = "<![CDATA[";
 constexpr std::string_view SectionEnd = "]]>";
@@ -24,6 +24,11 @@ std::string_view trimmed(std::string_view text)
     if (begin == None)
         return {};
     return text.substr(begin, text.find_last_not_of(Blanks) + 1 - begin);
+}
+
+bool startsRoot(std::string_view text)
+{
+    return text.starts_with('<') && text.substr(1).starts_with(contract::layer::RootElement);
 }
 
 bool startsAfterBlanks(std::string_view text, std::string_view start)
@@ -80,9 +85,9 @@ std::string_view withoutComment(std::string_view text)
 LayerKind kindNamed(const std::string &name)
 {
     constexpr std::array<std::pair<std::string_view, LayerKind>, 3> Kinds = {
-        {{"sites", LayerKind::Sites},
-         {"links", LayerKind::Links},
-         {"buildings", LayerKind::Buildings}}};
+        {{contract::layer::Sites, LayerKind::Sites},
+         {contract::layer::Links, LayerKind::Links},
+         {contract::layer::Buildings, LayerKind::Buildings}}};
     for (const auto &[known, kind] : Kinds) {
         if (name == known)
             return kind;
@@ -98,25 +103,25 @@ LayerKind kindNamed(const std::string &name)
 LayerFile parseLayerFile(std::string_view text)
 {
     std::string_view rest = text;
-    for (std::size_t at = rest.find('<'); at != None && !rest.substr(at).starts_with(Root);
-         at = rest.find('<')) {
-        rest.remove_prefix(at);
+    std::size_t root = rest.find('<');
+    while (root != None && !startsRoot(rest.substr(root))) {
+        rest.remove_prefix(root);
         rest = rest.starts_with("<!--") ? withoutComment(rest) : rest.substr(1);
+        root = rest.find('<');
     }
-    const std::size_t root = rest.find(Root);
     if (root == None)
         throw BadLayer("there is no element veltaroLayer");
     rest.remove_prefix(root);
 
     LayerFile file;
-    file.kind = kindNamed(attribute(rest.substr(0, rest.find('>')), "kind"));
+    file.kind = kindNamed(attribute(rest.substr(0, rest.find('>')), contract::layer::Kind));
     const std::array<std::pair<std::string_view, std::string *>, 5> known = {
-        {{"title", &file.title},
-         {"source", &file.source},
-         {"layer", &file.layer},
-         {"endLayer", &file.endLayer},
-         {"siteField", &file.siteField}}};
-    rest.remove_prefix(Root.size());
+        {{contract::layer::Title, &file.title},
+         {contract::layer::Source, &file.source},
+         {contract::layer::SourceLayer, &file.layer},
+         {contract::layer::EndLayer, &file.endLayer},
+         {contract::layer::NameField, &file.siteField}}};
+    rest.remove_prefix(1);
     for (std::size_t at = rest.find('<'); at != None; at = rest.find('<')) {
         rest.remove_prefix(at + 1);
         if (rest.starts_with("!--")) {
