@@ -68,9 +68,8 @@ Result<std::shared_ptr<coverage::CoverageRaster>> openRaster(RasterColoring &col
     const QString path = absolutePath(file);
     const bool isPart = coloring.rasterFile != path;
     const auto summary = geodata::readRasterSummary(path, isPart ? coloring.rasterFile : QString());
-    const char *const unreadable = "This file can't be open as a raster dataset";
     if (!summary)
-        return withReason("MESS_ERR_OPEN_RASTERDS", unreadable, summary.error(), given);
+        return onFile(summary.error(), given);
     if (summary.value().bandCount != 1)
         return notOneBand(summary.value(), given);
     const geodata::ErrorCollector errors; // they come back as reasons
@@ -79,8 +78,9 @@ Result<std::shared_ptr<coverage::CoverageRaster>> openRaster(RasterColoring &col
         coverage::CoverageRaster::open(QFile::encodeName(coloring.rasterFile).toStdString(),
                                        coloring.noData.toStdString(), &reason);
     if (!raster)
-        return withReason("MESS_ERR_OPEN_RASTERDS", unreadable,
-                          told(QString::fromLocal8Bit(reason.c_str()), given), given);
+        return Error{QStringLiteral("MESS_ERR_OPEN_RASTERDS"),
+                     QStringLiteral("This file can't be open as a raster dataset"), given,
+                     QString::fromLocal8Bit(reason.c_str())};
     return raster;
 }
 
@@ -112,8 +112,7 @@ Result<buildings::LegendInput> readColoring(RasterColoring &coloring, const QStr
         return told(dico_label("MESS_CLI_NO_VALUES", "none of its pixels has a value"), image);
     auto legend = buildings::legendOf(coloring, range);
     if (!legend)
-        return withReason("MESS_ERR_OPEN_CMAP", "This file can't be read as a colormap",
-                          legend.error(), coloring.colorMap);
+        return onFile(legend.error(), coloring.colorMap);
     return legend;
 }
 

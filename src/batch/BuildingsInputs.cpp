@@ -74,8 +74,7 @@ Result<BuildingsSource> readVector(const BuildingsRequest &request, const QStrin
 {
     const auto opened = geodata::PolygonSource::open(absolutePath(path));
     if (!opened)
-        return withReason("MESS_ERR_OPEN_VECTORDS", "This file can't be open as a vector file",
-                          opened.error(), path);
+        return onFile(opened.error(), path);
     const QList<geodata::PolygonLayer> &layers = opened.value()->layers();
     const Result<int> index = chosenLayer(layers, request.layer, path);
     if (!index)
@@ -106,7 +105,8 @@ Result<QString> readTerrain(const QString &path, const std::optional<QString> &n
 {
     const Result<geodata::RasterSummary> terrain = geodata::readRasterSummary(absolutePath(path));
     if (!terrain)
-        return withReason("MESS_OUV_MNT_IMP", "Cannot open DTM", terrain.error(), path);
+        return Error{QStringLiteral("MESS_OUV_MNT_IMP"), QStringLiteral("Cannot open DTM"), path,
+                     terrain.error().detail};
     if (terrain.value().bandCount < 1)
         return Error{QStringLiteral("MESS_ERR_NO_BANDS"),
                      QStringLiteral("This image doesn't have any band"), path};

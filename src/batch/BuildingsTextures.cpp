@@ -55,8 +55,7 @@ Images entriesOf(const GivenImage &given)
     const QString name = absoluteDatasetName(given.name);
     const bool isPart = name != path;
     if (const auto image = geodata::readRasterSummary(path, isPart ? name : QString()); !image)
-        return withReason("MESS_ERR_OPEN_RASTERDS", "This file can't be open as a raster dataset",
-                          image.error(), given.name);
+        return onFile(image.error(), given.name);
     if (given.height && !std::isfinite(*given.height))
         return badHeight(given.name);
     if (given.height)

@@ -69,13 +69,16 @@ QJsonObject errorJson(const Error &error, ExitStatus status)
 
 QString explain(const Error &error)
 {
-    QString text = error.key.isEmpty() ? language::readerText(error.text)
+    const QString detail = language::readerText(error.detail);
+    QString text = error.key.isEmpty() ? error.text
                                        : dico_label(error.key.toUtf8().constData(),
                                                     error.text.toUtf8().constData());
+    if (text.isEmpty())
+        text = detail;
+    else if (!detail.isEmpty())
+        text += QStringLiteral(" (") + detail + QLatin1Char(')');
     if (!error.path.isEmpty())
         text = error.path + QStringLiteral(": ") + text;
-    if (!error.detail.isEmpty())
-        text += QStringLiteral(" (") + language::readerText(error.detail) + QLatin1Char(')');
     return oneLine(text);
 }
 

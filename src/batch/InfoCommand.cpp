@@ -3,6 +3,7 @@
 #include "batch/Console.h"
 #include "batch/Help.h"
 #include "batch/InfoReport.h"
+#include "batch/InputErrors.h"
 #include "batch/LayerCommand.h"
 #include "batch/StartUp.h"
 #include "geodata/LayerProblems.h"
@@ -110,7 +111,7 @@ TableOutcome outcomeOf(InfoReport report, const QString &kind, const QString &ta
     const Result<geodata::SiteCheck> check = *geodata::readSiteCheck(
         report.file.reading.connection(kind, report.file.filePath), {}, report.file.systems);
     if (!check)
-        return {{}, {check.error().key, check.error().text, table}};
+        return {{}, onFile(check.error(), table)};
     const QList<Problem> ofSystems =
         tables::systemProblems(report.file.unit, report.file.systems, check.value().systems);
     report.problems.count += ofSystems.size() + check.value().problems.count;

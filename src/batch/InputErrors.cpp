@@ -1,8 +1,5 @@
 #include "batch/InputErrors.h"
 
-#include "language/ReaderText.h"
-#include "language/VltLanguageManager.h"
-
 #include <QFileInfo>
 
 namespace vlt::batch {
@@ -17,14 +14,10 @@ Error told(const QString &text, const QString &path)
     return {QString(), text, path};
 }
 
-Error withReason(const char *key, const char *text, const Error &error, const QString &path)
+Error onFile(Error error, const QString &path)
 {
-    const QString message = dico_label(key, text);
-    return told(error.text.isEmpty() || error.text == QLatin1String(text)
-                    ? message
-                    : message + QStringLiteral(" (") + language::readerText(error.text) +
-                          QLatin1Char(')'),
-                path);
+    error.path = path;
+    return error;
 }
 
 qsizetype indexOfName(const QStringList &names, const QString &name)

@@ -2,6 +2,7 @@
 
 #include "batch/Console.h"
 #include "batch/Help.h"
+#include "batch/InputErrors.h"
 #include "batch/LayerCommand.h"
 #include "batch/LinkOptions.h"
 #include "batch/LinkReport.h"
@@ -123,7 +124,7 @@ ExitStatus makeLayer(const links::LinkLayerInput &input, const LayerRequest &req
 {
     const Result<geodata::LinkCheck> check = readLinks(input, wanted, options.quiet);
     if (!check)
-        return refuse({check.error().key, check.error().text, request.table});
+        return refuse(onFile(check.error(), request.table));
     const geodata::SystemPair systems{input.sourceSrs, input.targetSrs};
     const LayerOutcome outcome = layerOutcome(check.value(), input.file.unit, systems);
     if (outcome.placed == 0) {

@@ -3,6 +3,7 @@
 #include "batch/Console.h"
 #include "batch/Help.h"
 #include "batch/InfoReport.h"
+#include "batch/InputErrors.h"
 #include "batch/LayerCommand.h"
 #include "batch/ProgressLine.h"
 #include "batch/SiteOptions.h"
@@ -56,7 +57,7 @@ ExitStatus makeLayer(const sites::SiteLayerInput &input, const LayerRequest &req
 {
     const Result<LayerOutcome> outcome = placeSites(input, options.quiet);
     if (!outcome)
-        return refuse({outcome.error().key, outcome.error().text, request.table});
+        return refuse(onFile(outcome.error(), request.table));
     if (outcome.value().placed == 0) {
         warnOfSystems(outcome.value());
         return refuse(

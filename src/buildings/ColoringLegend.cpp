@@ -19,7 +19,8 @@ readCoverageRange(const QString &raster, const QString &noData, const Progress &
                                                        noData.toStdString(), &reason);
     if (!opened)
         return Error{QStringLiteral("MESS_ERR_OPEN_RASTERDS"),
-                     QString::fromLocal8Bit(reason.c_str()), raster};
+                     QStringLiteral("This file can't be open as a raster dataset"), raster,
+                     QString::fromLocal8Bit(reason.c_str())};
     bool isStopped = false;
     const std::optional<coverage::ValueRange> range = opened->range([&](double share) {
         isStopped = progress && !progress(share);

@@ -11,7 +11,7 @@ namespace vlt::buildings {
 /// @param noData    as typed, may be empty
 /// @param progress  may be empty; false stops the work
 /// @return          nothing where no pixel has a value
-/// @par Errors      MESS_ERR_OPEN_RASTERDS with the path, the text is the reason
+/// @par Errors      MESS_ERR_OPEN_RASTERDS with the path and the reason
 Stoppable<std::optional<coverage::ValueRange>>
 readCoverageRange(const QString &raster, const QString &noData, const Progress &progress = {});
 

@@ -1,7 +1,6 @@
 #include "colormaps/OpenColorMap.h"
 
 #include "geodata/ErrorCollector.h"
-#include "language/VltLanguageManager.h"
 
 #include <QFile>
 
@@ -13,10 +12,8 @@ Result<ColorMap> openColorMap(const QString &path, double minimum, double maximu
     ColorMap map;
     if (map.load(QFile::encodeName(path).toStdString(), minimum, maximum))
         return map;
-    return Error{
-        QStringLiteral("MESS_ERR_OPEN_CMAP"),
-        errors.failure(dico_label("MESS_ERR_OPEN_CMAP", "This file can't be read as a colormap")),
-        path};
+    return Error{QStringLiteral("MESS_ERR_OPEN_CMAP"),
+                 QStringLiteral("This file can't be read as a colormap"), path, errors.failure({})};
 }
 
 } // namespace vlt::colormaps

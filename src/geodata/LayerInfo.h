@@ -20,7 +20,7 @@ struct LayerInfo
 /// Opens a table connection and reads the layer of index `layerIndex` (from 0). A dataset without
 /// that layer gives a value whose `present` is false.
 ///
-/// @par Errors   no key; the text is the driver's reason.
+/// @par Errors   the driver's reason as detail.
 Result<LayerInfo> readLayerInfo(const QString &connection, int layerIndex);
 
 /// The names of the layer's fields only: cheaper, because nothing is counted. Empty for a missing

@@ -35,7 +35,7 @@ struct SiteCheck
 ///                  open before, and the texts of a large XLSX file, take their time without a
 ///                  question.
 /// @param systems   with which the positions are compared
-/// @par Errors   no key; the text is the driver's reason.
+/// @par Errors   the driver's reason as detail.
 Stoppable<SiteCheck> readSiteCheck(const QString &connection, const Progress &progress,
                                    const SystemPair &systems = {});
 

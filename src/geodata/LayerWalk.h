@@ -14,7 +14,7 @@ namespace vlt::geodata {
 ///                  second
 /// @param errors    what the driver said since the layer was opened
 /// @return          how many features there were
-/// @par Errors      no key; the driver's reason why the features end too early.
+/// @par Errors      the driver's reason why the features end too early, as detail.
 Stoppable<qint64> walkFeatures(OGRLayer &layer, const Progress &progress,
                                const ErrorCollector &errors,
                                const std::function<void(const OGRFeature &)> &visit);

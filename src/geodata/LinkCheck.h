@@ -52,7 +52,7 @@ QString terrainProblem(const QString &terrainFile);
 ///
 /// @param progress  as for readSiteCheck()
 /// @param systems   with which the positions are compared
-/// @par Errors   no key; the text is the driver's reason.
+/// @par Errors   the driver's reason as detail.
 Stoppable<LinkCheck> readLinkCheck(const QString &connection, const LinkJudging &judging,
                                    const Progress &progress, const SystemPair &systems = {});
 

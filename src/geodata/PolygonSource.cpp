@@ -93,7 +93,9 @@ Result<std::shared_ptr<PolygonSource>> PolygonSource::open(const QString &path)
     std::shared_ptr<PolygonSource> source(new PolygonSource);
     source->m_dataset.reset(openLocalDataset(path, GDAL_OF_VECTOR).release());
     if (!source->m_dataset)
-        return Error{QStringLiteral("MESS_ERR_OPEN_VECTORDS"), errors.failure({}), path};
+        return Error{QStringLiteral("MESS_ERR_OPEN_VECTORDS"),
+                     QStringLiteral("This file can't be open as a vector file"), path,
+                     errors.failure({})};
 
     SystemInfos systems;
     for (int i = 0; i < source->m_dataset->GetLayerCount(); ++i) {

@@ -63,7 +63,7 @@ public:
     /// Opens a file or folder through the formats of the local disk.
     ///
     /// @return      the source; its list of layers may be empty
-    /// @par Errors  MESS_ERR_OPEN_VECTORDS, with the path; the text is the library's reason
+    /// @par Errors  MESS_ERR_OPEN_VECTORDS, with the path and the library's reason
     static Result<std::shared_ptr<PolygonSource>> open(const QString &path);
     ~PolygonSource();
 

@@ -46,7 +46,9 @@ std::optional<Extent> extentOf(GDALDataset &dataset)
 
 Error cannotOpen(const ErrorCollector &errors, const QString &path)
 {
-    return {QStringLiteral("MESS_ERR_OPEN_RASTERDS"), errors.failure({}), path};
+    return {QStringLiteral("MESS_ERR_OPEN_RASTERDS"),
+            QStringLiteral("This file can't be open as a raster dataset"), path,
+            errors.failure({})};
 }
 
 /// The library would keep what it found out in a side file.

@@ -31,7 +31,7 @@ bool isVirtualRaster(const QString &path);
 /// Opens a local raster (file or folder) through the formats of the local disk and closes it again.
 ///
 /// @param part  name of one of its images, as the raster lists it; empty for the raster itself
-/// @par Errors  MESS_ERR_OPEN_RASTERDS, with the path; the text is the library's reason
+/// @par Errors  MESS_ERR_OPEN_RASTERDS, with the path and the library's reason
 Result<RasterSummary> readRasterSummary(const QString &path, const QString &part = {});
 
 /// What stands for missing values in band 1 of a raster, from its approximate statistics: the

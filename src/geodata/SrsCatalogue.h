@@ -39,7 +39,7 @@ struct SrsRecord
 /// Systems of heights alone and geocentric ones are left out. Takes about 0.1 s; may run on any
 /// thread.
 ///
-/// @par Errors   the database is not there; no key, the text is the library's reason.
+/// @par Errors   the database is not there; the library's reason as detail.
 Result<QList<SrsRecord>> readSrsCatalogue();
 
 /// The whole definition (WKT 2, several lines) of a code or of any other text that defines a

@@ -32,7 +32,7 @@ Result<GDALDatasetUniquePtr> openTable(const QString &connection, const ErrorCol
         GDALDataset::Open(QFile::encodeName(connection).constData(), GDAL_OF_VECTOR));
     if (!dataset) {
         const QString noReader = QString::fromStdString(contract::formatted("MESS_TAB_NO_READER"));
-        return Error{QString(), withoutPath(errors.failure(noReader), connection), {}};
+        return Error{{}, {}, {}, withoutPath(errors.failure(noReader), connection)};
     }
     return dataset;
 }

@@ -12,7 +12,7 @@ namespace vlt::geodata {
 /// any driver sees them, so that no text out of a user's file reaches a driver that would open a
 /// network connection.
 ///
-/// @par Errors   no key; the text is the driver's reason, without the path.
+/// @par Errors   the driver's reason, without the path, as detail.
 Result<GDALDatasetUniquePtr> openTable(const QString &connection, const ErrorCollector &errors);
 
 } // namespace vlt::geodata

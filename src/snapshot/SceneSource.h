@@ -21,8 +21,8 @@ enum class TerrainSurface { Hidden, Shown };
 ///
 /// @param project  file of the project that the scene belongs to, handed to the readers; may be
 ///                 empty
-/// @par Errors     MESS_SNAP_NOT_LOCAL for a name of another kind, MESS_SNAP_NO_FILE; no key: the
-///                 text is the reader's reason.
+/// @par Errors     MESS_SNAP_NOT_LOCAL for a name of another kind, MESS_SNAP_NO_FILE; the reader's
+///                 reason as detail.
 Result<Scene> readScene(const QString &name, const QString &project = {},
                         TerrainSurface terrain = TerrainSurface::Hidden);
 

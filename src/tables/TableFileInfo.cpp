@@ -71,7 +71,7 @@ QStringList readTableFileInfo(const TableKind &kind, const QString &path,
     const Result<geodata::LayerInfo> opened =
         geodata::readLayerInfo(info.reading.connection(kind.prefix, path), 0);
     if (!opened) {
-        info.errorDetail = opened.error().text;
+        info.errorDetail = opened.error().detail;
         info.error = isEmptyTable(info.errorDetail) ? kind.empty : kind.unreadable;
         return {};
     }

@@ -72,8 +72,8 @@ private Q_SLOTS:
                                          [&](double) { return QFile::resize(copy, 500); });
 
         QVERIFY(check && !*check);
-        QVERIFY2(check->error().text.startsWith(QStringLiteral("the ")),
-                 qPrintable(check->error().text));
+        QVERIFY2(check->error().detail.startsWith(QStringLiteral("the ")),
+                 qPrintable(check->error().detail));
     }
 
 private:

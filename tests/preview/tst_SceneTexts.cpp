@@ -145,7 +145,7 @@ private Q_SLOTS:
         for (const QString &notice : notices.take())
             texts << readerText(notice);
 
-        QVERIFY2(scene, scene ? "" : qPrintable(scene.error().text));
+        QVERIFY2(scene, scene ? "" : qPrintable(scene.error().detail));
         const QString expected = path + u": "_s + told(key, values);
         QVERIFY2(texts.contains(expected), qPrintable(texts.join(u'\n') + u"\n# "_s + expected));
     }
@@ -209,7 +209,7 @@ private Q_SLOTS:
         const auto scene = vlt::snapshot::readScene(write(name, content), {}, {});
 
         QVERIFY(!scene);
-        QCOMPARE(readerText(scene.error().text), told(key, values));
+        QCOMPARE(readerText(scene.error().detail), told(key, values));
     }
 
     void knowsTheLibraryInEveryVersion()

@@ -1,6 +1,5 @@
 #include "buildings/ui/RasterMessages.h"
 
-#include "language/ReaderText.h"
 #include "language/VltLanguageManager.h"
 #include "wizard/base/Messages.h"
 
@@ -23,17 +22,11 @@ QString textOf(RasterProblem problem)
                       "The image-based coloring mode works only with one-band grey images");
 }
 
-QString reasonText(const QString &reason)
-{
-    return language::readerText(reason);
-}
-
 void warnOfRaster(QWidget *parent, RasterProblem problem, const QString &path,
                   const QString &reason)
 {
-    messages::warning(parent,
-                      messages::withPathBelow({{}, textOf(problem), path, reasonText(reason)}),
-                      dico_label("MESS_ATTENTION", "Warning"));
+    messages::warning(parent, {{}, textOf(problem), path, reason},
+                      dico_label("MESS_ATTENTION", "Warning"), messages::PathPlace::BelowText);
 }
 
 } // namespace vlt::buildings

@@ -12,9 +12,6 @@ enum class RasterProblem { CannotOpen, NoBands, NotOneBand, HoldsColors };
 /// What a box tells of it.
 QString textOf(RasterProblem problem);
 
-/// A reason of the library or of ours in the user's language, as far as it is known.
-QString reasonText(const QString &reason);
-
 /// A box with the title "Warning" that names the file.
 ///
 /// @param reason  the library's; may be empty

@@ -6,6 +6,7 @@
 #include "buildings/SourceSummary.h"
 #include "buildings/ui/NoDataGuess.h"
 #include "buildings/ui/RasterMessages.h"
+#include "language/ReaderText.h"
 #include "language/VltLanguageManager.h"
 #include "platform/Settings.h"
 #include "text/Numbers.h"
@@ -44,10 +45,10 @@ bool isReadable(const QString &path)
                         : file.isFile() && QFile(path).open(QIODevice::ReadOnly);
 }
 
-Error vectorError(const QString &path, const QString &reason = {})
+Error vectorError(const QString &path)
 {
     return {QStringLiteral("MESS_ERR_OPEN_VECTORDS"),
-            QStringLiteral("This file can't be open as a vector file"), path, reason};
+            QStringLiteral("This file can't be open as a vector file"), path};
 }
 
 /// Title of the boxes on Next.
@@ -336,7 +337,7 @@ void VltAddTexbFirstPage::droppedFile(const QString &path)
         showTerrain(path, *terrain);
     else if (geodata::isVirtualRaster(path)) // no reason to close the buildings
         buildings::warnOfRaster(this, buildings::RasterProblem::CannotOpen, path,
-                                terrain->error().text);
+                                terrain->error().detail);
     else
         openVector(path, false);
 }
@@ -372,8 +373,8 @@ void VltAddTexbFirstPage::openVector(const QString &path, bool silent)
         return;
     if (!*opened) {
         if (!silent)
-            messages::critical(this, messages::withPathBelow(vectorError(
-                                         path, buildings::reasonText(opened->error().text))));
+            messages::critical(this, opened->error(), messages::errorTitle(),
+                               messages::PathPlace::BelowText);
         return;
     }
     if (opened->value()->layers().isEmpty()) {
@@ -481,11 +482,11 @@ void VltAddTexbFirstPage::showTerrain(const QString &path, const TerrainResult &
     if (!terrain)
         m_ui->m_pwLblDtmInfo->setText(
             tr("%1: %2", "MESS_FILE_REASON")
-                .arg(QFileInfo(path).fileName(), buildings::reasonText(terrain.error().text)));
+                .arg(QFileInfo(path).fileName(), language::readerText(terrain.error().detail)));
 
     if (!terrain)
         buildings::warnOfRaster(this, buildings::RasterProblem::CannotOpen, path,
-                                terrain.error().text);
+                                terrain.error().detail);
     else if (!isUsable)
         buildings::warnOfRaster(this, buildings::RasterProblem::NoBands, path);
     else if (terrain.value().holdsColors)

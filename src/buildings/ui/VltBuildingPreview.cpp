@@ -7,6 +7,7 @@
 #include "snapshot/SceneNotices.h"
 #include "text/RichText.h"
 #include "wizard/base/BusyWait.h"
+#include "wizard/base/Messages.h"
 
 #include <QFileInfo>
 #include <QLocale>
@@ -45,6 +46,12 @@ QString shortNotice(const QString &notice, const QString &layerPath)
     text.remove(QFileInfo(layerPath).absoluteFilePath() + QStringLiteral(": "));
     text = vlt::language::readerText(text.replace(folder, QStringLiteral("\"")));
     return text.left(1).toUpper() + text.mid(1);
+}
+
+QString reasonIn(const vlt::Error &error, const QString &layerPath)
+{
+    return error.detail.isEmpty() ? vlt::messages::reasonOf(error)
+                                  : shortNotice(error.detail, layerPath);
 }
 
 struct Reading
@@ -128,7 +135,7 @@ void VltBuildingPreview::showLayer(const QString &path, const QString &project)
     showScene({}, {});
     showMessage(
         isRead ? tr("The buildings cannot be shown: %1", "MESS_BUILDINGS_NOT_SHOWN")
-                     .arg(shortNotice(read->scene->error().text, path))
+                     .arg(reasonIn(read->scene->error(), path))
                : tr("Loading was stopped; the layer itself is complete.", "MESS_LOADING_STOPPED"));
 }
 

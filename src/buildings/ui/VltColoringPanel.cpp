@@ -51,13 +51,6 @@ bool isNumber(const QString &text)
     return isOne;
 }
 
-void tellOfColorMap(QWidget *parent, const Error &error)
-{
-    messages::critical(parent, {QStringLiteral("MESS_ERR_OPEN_CMAP"),
-                                QStringLiteral("This file can't be read as a colormap"), error.path,
-                                error.text});
-}
-
 } // namespace
 
 VltColoringPanel::VltColoringPanel(QWidget *parent)
@@ -193,10 +186,7 @@ bool VltColoringPanel::readRange(const buildings::RasterColoring &coloring)
         return false;
     const auto &range = **read;
     if (!range) {
-        messages::critical(this, {{},
-                                  buildings::textOf(buildings::RasterProblem::CannotOpen),
-                                  range.error().path,
-                                  buildings::reasonText(range.error().text)});
+        messages::critical(this, range.error());
         return false;
     }
     m_range = KnownRange{coloring.rasterFile, coloring.noData, written, range.value()};
@@ -211,7 +201,7 @@ std::optional<buildings::LegendInput> VltColoringPanel::legend()
     const Result<buildings::LegendInput> legend =
         buildings::legendOf(*chosen, chosen->stretched ? m_range->range : std::nullopt);
     if (!legend) {
-        tellOfColorMap(this, legend.error());
+        messages::critical(this, legend.error());
         return std::nullopt;
     }
     return legend.value();
@@ -276,7 +266,7 @@ void VltColoringPanel::judge(const std::optional<Summary> &summary, const QStrin
     const QScopedValueRollback busy(m_isBusy, true);
     if (!isOpen)
         buildings::warnOfRaster(this, buildings::RasterProblem::CannotOpen, name,
-                                summary->error().text);
+                                summary->error().detail);
     else if (summary->value().bandCount == 0)
         buildings::warnOfRaster(this, buildings::RasterProblem::NoBands, name);
     else
@@ -334,7 +324,7 @@ void VltColoringPanel::openColorMap(const QString &path)
     const colormaps::ColorMapEntry entry = colormaps::colorMapEntry(path);
     m_lastUsedDir = QFileInfo(path).absolutePath();
     if (const auto map = colormaps::openColorMap(entry.path); !map) {
-        tellOfColorMap(this, map.error());
+        messages::critical(this, map.error());
         return;
     }
     const int known = m_ui->m_pwCbCmap->findData(entry.path);

@@ -31,18 +31,17 @@ public:
     /// Stops the check, without an outcome.
     void cancel();
 
-    /// The work that reads a value and hands it, or the reason of the failure, on.
+    /// The work that reads a value and hands it, or the failure, on.
     template<typename T>
     static Work reading(std::function<Stoppable<T>(const Progress &)> read,
                         std::function<void(const T &)> finished,
-                        const std::function<void(const QString &)> &failed)
+                        const std::function<void(const Error &)> &failed)
     {
         return [=](const Progress &progress) -> std::function<void()> {
             auto outcome = std::make_shared<Stoppable<T>>(read(progress));
             return [=] {
                 if (*outcome)
-                    (*outcome)->ok() ? finished((*outcome)->value())
-                                     : failed((*outcome)->error().text);
+                    (*outcome)->ok() ? finished((*outcome)->value()) : failed((*outcome)->error());
             };
         };
     }

@@ -119,7 +119,7 @@ bool VltLayerPreview::showLayer()
     if (read)
         vlt::messages::critical(this, {QStringLiteral("MESS_CANT_SHOW_LAYER"),
                                        QStringLiteral("The layer cannot be shown"), m_layerFile,
-                                       read->error().text});
+                                       vlt::messages::reasonOf(read->error())});
     return false;
 }
 

@@ -3,6 +3,7 @@
 #include "language/ReaderText.h"
 #include "tables/ui/CopyRows.h"
 #include "text/RichText.h"
+#include "wizard/base/Messages.h"
 
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -300,13 +301,13 @@ void VltTableDetails::showOutcome(const vlt::geodata::LayerProblems &problems,
         unfoldProblems();
 }
 
-void VltTableDetails::checkFailed(const QString &reason)
+void VltTableDetails::checkFailed(const vlt::Error &error)
 {
     endCheck();
     forgetRows();
     vlt::Problem problem;
     problem.severity = vlt::Problem::Severity::Error;
-    problem.text = reason;
+    problem.text = vlt::messages::reasonOf(error);
     const QList<vlt::Problem> all = m_fileProblems + QList<vlt::Problem>{problem};
     showProblems(all, all.size());
     showSummary(nonePlacedText(), true);

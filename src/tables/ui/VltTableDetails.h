@@ -54,7 +54,7 @@ protected:
         if (beginsCheck(what))
             m_runner.start(vlt::tables::CheckRunner::reading<Check>(
                 std::move(read), std::move(finished),
-                [this](const QString &reason) { checkFailed(reason); }));
+                [this](const vlt::Error &error) { checkFailed(error); }));
     }
 
     /// What all checks tell; ends the check.
@@ -102,7 +102,7 @@ private:
     void showProgress(bool shown);
     void endCheck();
     void stopChecking();
-    void checkFailed(const QString &reason);
+    void checkFailed(const vlt::Error &error);
 
     vlt::tables::CheckRunner m_runner;
     QTimer m_patience; ///< a check that ends within it shows no progress

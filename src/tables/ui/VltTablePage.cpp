@@ -257,9 +257,9 @@ void VltTablePage::readFile(const QString &path, bool quiet)
         m_fileDir = file().fileDir;
     showFile();
     if (file().error && !quiet)
-        vlt::messages::critical(
-            this, vlt::messages::withPathBelow({file().error->key, file().error->text, path,
-                                                vlt::language::readerText(file().errorDetail)}));
+        vlt::messages::critical(this,
+                                {file().error->key, file().error->text, path, file().errorDetail},
+                                vlt::messages::errorTitle(), vlt::messages::PathPlace::BelowText);
 }
 
 void VltTablePage::showFile()

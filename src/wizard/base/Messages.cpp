@@ -1,5 +1,6 @@
 #include "wizard/base/Messages.h"
 
+#include "language/ReaderText.h"
 #include "language/VltLanguageManager.h"
 #include "text/RichText.h"
 
@@ -11,11 +12,19 @@ namespace vlt::messages {
 
 namespace {
 
-void show(QMessageBox::Icon icon, QWidget *parent, const Error &error, const QString &title)
+void show(QMessageBox::Icon icon, QWidget *parent, const Error &error, const QString &title,
+          PathPlace place)
 {
-    QMessageBox box(icon, title, textOf(error), QMessageBox::Ok, parent);
+    const bool isBelow = place == PathPlace::BelowText;
+    QMessageBox box(icon, title, isBelow ? reasonOf(error) : textOf(error), QMessageBox::Ok,
+                    parent);
     box.setTextFormat(Qt::PlainText);
-    box.setInformativeText(text::asRichText(error.detail));
+    QStringList below;
+    if (isBelow)
+        below << error.path;
+    if (!error.text.isEmpty() && !error.detail.isEmpty())
+        below << language::readerText(error.detail);
+    box.setInformativeText(text::asRichText(below.join(QLatin1Char('\n'))));
     box.exec();
 }
 
@@ -30,11 +39,16 @@ QString shownPath(const QString &path)
 
 QString textOf(const Error &error)
 {
-    const QByteArray text = error.text.toUtf8();
-    const QString translated = error.key.isEmpty()
-                                   ? error.text
-                                   : dico_label(error.key.toUtf8().constData(), text.constData());
-    return Error{{}, translated, shownPath(error.path)}.display();
+    return Error{{}, reasonOf(error), shownPath(error.path)}.display();
+}
+
+QString reasonOf(const Error &error)
+{
+    if (error.text.isEmpty())
+        return language::readerText(error.detail);
+    return error.key.isEmpty()
+               ? error.text
+               : dico_label(error.key.toUtf8().constData(), error.text.toUtf8().constData());
 }
 
 QString errorTitle()
@@ -42,22 +56,14 @@ QString errorTitle()
     return dico_label("MESS_ERREUR", "Error");
 }
 
-void critical(QWidget *parent, const Error &error, const QString &title)
+void critical(QWidget *parent, const Error &error, const QString &title, PathPlace place)
 {
-    show(QMessageBox::Critical, parent, error, title);
+    show(QMessageBox::Critical, parent, error, title, place);
 }
 
-void warning(QWidget *parent, const Error &error, const QString &title)
+void warning(QWidget *parent, const Error &error, const QString &title, PathPlace place)
 {
-    show(QMessageBox::Warning, parent, error, title);
-}
-
-Error withPathBelow(Error error)
-{
-    error.detail =
-        error.detail.isEmpty() ? error.path : error.path + QLatin1Char('\n') + error.detail;
-    error.path.clear();
-    return error;
+    show(QMessageBox::Warning, parent, error, title, place);
 }
 
 bool confirmed(QWidget *parent, const QString &question)
