@@ -95,64 +95,56 @@ InfoReport linkReport(const links::LinkFileInfo &file)
     return report;
 }
 
-/// A table's report; why it has none.
-struct TableOutcome
+/// Adds what only the rows tell.
+Result<InfoReport> withRows(InfoReport report, const QString &kind)
 {
-    std::optional<InfoReport> report;
-    Error error;
-};
-
-TableOutcome outcomeOf(InfoReport report, const QString &kind, const QString &table)
-{
-    if (report.file.error)
-        return {{},
-                {report.file.error->key, report.file.error->text, table, report.file.errorDetail}};
     // never stopped
     const Result<geodata::SiteCheck> check = *geodata::readSiteCheck(
         report.file.reading.connection(kind, report.file.filePath), {}, report.file.systems);
     if (!check)
-        return {{}, onFile(check.error(), table)};
+        return check.error();
     const QList<Problem> ofSystems =
         tables::systemProblems(report.file.unit, report.file.systems, check.value().systems);
     report.problems.count += ofSystems.size() + check.value().problems.count;
     report.problems.listed += ofSystems + check.value().problems.listed;
-    return {report, {}};
+    return report;
 }
 
-TableOutcome readTable(const QString &table, bool isLinks, const tables::TableReading &reading,
-                       const project::ProjectContext &project)
+Result<InfoReport> readTable(const QString &path, bool isLinks, const tables::TableReading &reading,
+                             const project::ProjectContext &project)
 {
-    const QString path = QFileInfo(table).absoluteFilePath();
-    return isLinks ? outcomeOf(linkReport(links::readLinkFileInfoAs(path, project, reading)),
-                               QStringLiteral("link:"), table)
-                   : outcomeOf(siteReport(sites::readSiteFileInfoAs(path, project, reading)),
-                               QStringLiteral("site:"), table);
+    if (isLinks) {
+        const auto file = links::readLinkFileInfoAs(path, project, reading);
+        return file ? withRows(linkReport(file.value()), QStringLiteral("link:")) : file.error();
+    }
+    const auto file = sites::readSiteFileInfoAs(path, project, reading);
+    return file ? withRows(siteReport(file.value()), QStringLiteral("site:")) : file.error();
 }
 
 /// Several tables as one object, in which those that are refused have an error.
-ExitStatus tellAsJson(const QList<TableOutcome> &outcomes)
+ExitStatus tellAsJson(const QList<Result<InfoReport>> &outcomes)
 {
     QJsonArray tables;
     ExitStatus status = ExitStatus::Done;
-    for (const TableOutcome &outcome : outcomes) {
-        tables.append(outcome.report ? reportJson(*outcome.report)
-                                     : errorJson(outcome.error, ExitStatus::Refused));
-        if (outcome.report)
+    for (const Result<InfoReport> &outcome : outcomes) {
+        tables.append(outcome ? reportJson(outcome.value())
+                              : errorJson(outcome.error(), ExitStatus::Refused));
+        if (outcome)
             continue;
         status = ExitStatus::Refused;
-        printError(explain(outcome.error));
+        printError(explain(outcome.error()));
     }
     const QJsonObject object{{QStringLiteral("tables"), tables}};
     const ExitStatus printed = printResult(QString::fromUtf8(QJsonDocument(object).toJson()));
     return printed == ExitStatus::Done ? status : printed;
 }
 
-ExitStatus tell(const TableOutcome &outcome, bool json)
+ExitStatus tell(const Result<InfoReport> &outcome, bool json)
 {
-    if (!outcome.report)
-        return refuse(outcome.error);
-    return printResult(json ? QString::fromUtf8(QJsonDocument(reportJson(*outcome.report)).toJson())
-                            : reportText(*outcome.report));
+    if (!outcome)
+        return refuse(outcome.error());
+    return printResult(json ? QString::fromUtf8(QJsonDocument(reportJson(outcome.value())).toJson())
+                            : reportText(outcome.value()));
 }
 
 CommandSyntax syntax()
@@ -190,14 +182,17 @@ ExitStatus run(const QCommandLineParser &parser, const GlobalOptions &options)
     if (!surroundings)
         return refuse(surroundings.error());
     const bool isLinks = parser.isSet(QStringLiteral("link"));
-    QList<TableOutcome> outcomes;
-    for (const QString &table : parser.positionalArguments())
-        outcomes << readTable(table, isLinks, reading.value(), surroundings.value().project);
+    QList<Result<InfoReport>> outcomes;
+    for (const QString &table : parser.positionalArguments()) {
+        Result<InfoReport> report = readTable(QFileInfo(table).absoluteFilePath(), isLinks,
+                                              reading.value(), surroundings.value().project);
+        outcomes << (report ? report : Result<InfoReport>(onFile(report.error(), table)));
+    }
     if (options.json && outcomes.size() > 1)
         return tellAsJson(outcomes);
 
     ExitStatus status = ExitStatus::Done;
-    for (const TableOutcome &outcome : outcomes) {
+    for (const Result<InfoReport> &outcome : outcomes) {
         if (const ExitStatus told = tell(outcome, options.json); told != ExitStatus::Done)
             status = told;
         if (&outcome != &outcomes.constLast())

@@ -167,11 +167,11 @@ ExitStatus runParsed(const QCommandLineParser &parser, const LinkRequest &wanted
     const auto &request = std::get<LayerRequest>(read);
 
     links::LinkLayerInput input;
-    input.file = links::readLinkFileInfoAs(QFileInfo(request.table).absoluteFilePath(), project,
-                                           request.reading);
-    if (input.file.error)
-        return refuse(
-            {input.file.error->key, input.file.error->text, request.table, input.file.errorDetail});
+    const auto file = links::readLinkFileInfoAs(QFileInfo(request.table).absoluteFilePath(),
+                                                project, request.reading);
+    if (!file)
+        return refuse(onFile(file.error(), request.table));
+    input.file = file.value();
     const geodata::SystemPair systems = chosenSystems(parser, input.file.systems);
     if (const auto refusal = tables::systemRefusal(systems))
         return refuse(*refusal);

@@ -90,11 +90,11 @@ ExitStatus runParsed(const QCommandLineParser &parser, const GlobalOptions &opti
     const auto &request = std::get<LayerRequest>(read);
 
     sites::SiteLayerInput input;
-    input.file = sites::readSiteFileInfoAs(QFileInfo(request.table).absoluteFilePath(),
-                                           surroundings.project, request.reading);
-    if (input.file.error)
-        return refuse(
-            {input.file.error->key, input.file.error->text, request.table, input.file.errorDetail});
+    const auto file = sites::readSiteFileInfoAs(QFileInfo(request.table).absoluteFilePath(),
+                                                surroundings.project, request.reading);
+    if (!file)
+        return refuse(onFile(file.error(), request.table));
+    input.file = file.value();
     const geodata::SystemPair systems = chosenSystems(parser, input.file.systems);
     if (const auto refusal = tables::systemRefusal(systems))
         return refuse(*refusal);

@@ -26,21 +26,19 @@ QString linkEndNameField(const QString &format)
                                                                 : sites::siteNameField(format);
 }
 
-LinkFileInfo readLinkFileInfo(const QString &path, const project::ProjectContext &project)
+Result<LinkFileInfo> readLinkFileInfo(const QString &path, const project::ProjectContext &project)
 {
     return readLinkFileInfoAs(path, project, {});
 }
 
-LinkFileInfo readLinkFileInfoAs(const QString &path, const project::ProjectContext &project,
-                                const tables::TableReading &reading)
+Result<LinkFileInfo> readLinkFileInfoAs(const QString &path, const project::ProjectContext &project,
+                                        const tables::TableReading &reading)
 {
-    LinkFileInfo info;
-    info.reading = reading;
-    const QStringList fields = tables::readTableFileInfo(linkTable(), path, project, info);
-    if (!info.valid)
-        return info;
-
-    info.columns = recogniseLinkColumns(fields);
+    const Result<tables::TableFile> table =
+        tables::readTableFile(linkTable(), path, project, reading);
+    if (!table)
+        return table.error();
+    LinkFileInfo info{table.value().info, {}, {}, recogniseLinkColumns(table.value().fields)};
     info.linkNameField = info.columns.name;
     info.nameField = linkEndNameField(info.format);
     const Result<geodata::LayerInfo> ends = geodata::readLayerInfo(

@@ -14,15 +14,14 @@ struct LinkFileInfo : tables::TableFileInfo
 };
 
 /// Opens `path` as a link table and tells what it holds and which systems go with it in the
-/// project. An empty path gives an empty value without an error; `nameField` is the column of the
-/// ends' layer: "Site name", "NAME" or "Site ID".
+/// project; `nameField` is the column of the ends' layer: "Site name", "NAME" or "Site ID".
 ///
-/// Errors of the value: MESS_ERR_OPEN_LINK or MESS_ERR_EMPTY_LINK.
-LinkFileInfo readLinkFileInfo(const QString &path, const project::ProjectContext &project);
+/// @par Errors  MESS_ERR_OPEN_LINK or MESS_ERR_EMPTY_LINK, as tables::readTableFile()
+Result<LinkFileInfo> readLinkFileInfo(const QString &path, const project::ProjectContext &project);
 
 /// The same for a table that is read as the user says.
-LinkFileInfo readLinkFileInfoAs(const QString &path, const project::ProjectContext &project,
-                                const tables::TableReading &reading);
+Result<LinkFileInfo> readLinkFileInfoAs(const QString &path, const project::ProjectContext &project,
+                                        const tables::TableReading &reading);
 
 /// The column of the link ends that names a site, by the format of the table.
 QString linkEndNameField(const QString &format);

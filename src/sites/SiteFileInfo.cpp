@@ -42,7 +42,7 @@ QString siteNameField(const QString &format)
 
 std::optional<Problem> missingNameField(const SiteFileInfo &info)
 {
-    if (!info.valid || info.hasNameField)
+    if (info.hasNameField)
         return std::nullopt;
     Problem problem;
     problem.column = info.nameField;
@@ -51,28 +51,26 @@ std::optional<Problem> missingNameField(const SiteFileInfo &info)
     return problem;
 }
 
-SiteFileInfo readSiteFileInfo(const QString &path, const project::ProjectContext &project)
+Result<SiteFileInfo> readSiteFileInfo(const QString &path, const project::ProjectContext &project)
 {
     return readSiteFileInfoAs(path, project, {});
 }
 
-SiteFileInfo readSiteFileInfoAs(const QString &path, const project::ProjectContext &project,
-                                const tables::TableReading &reading)
+Result<SiteFileInfo> readSiteFileInfoAs(const QString &path, const project::ProjectContext &project,
+                                        const tables::TableReading &reading)
 {
-    SiteFileInfo info;
-    info.reading = reading;
-    const QStringList fields = tables::readTableFileInfo(siteTable(), path, project, info);
-    if (!info.valid)
-        return info;
-
-    info.columns = recogniseSiteColumns(fields);
+    const Result<tables::TableFile> table =
+        tables::readTableFile(siteTable(), path, project, reading);
+    if (!table)
+        return table.error();
+    const QStringList &fields = table.value().fields;
+    SiteFileInfo info{table.value().info, recogniseSiteColumns(fields)};
     if (isLinkTable(info)) {
-        info.valid = false;
-        info.error = siteTable().unreadable;
-        info.errorDetail = dico_label("MESS_LINKS_NOT_SITES",
-                                      "this is a table of links, not of sites: its coordinates are "
-                                      "those of both ends of links");
-        return info;
+        const Error unreadable = siteTable().unreadable;
+        return Error{unreadable.key, unreadable.text, path,
+                     dico_label("MESS_LINKS_NOT_SITES",
+                                "this is a table of links, not of sites: its coordinates are "
+                                "those of both ends of links")};
     }
     info.nameField = siteNameField(info.format);
     // as the geodata library looks fields up

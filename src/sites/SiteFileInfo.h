@@ -5,20 +5,21 @@
 
 namespace vlt::sites {
 
-/// What the add-site page knows of the table that the user picked. Its errors: MESS_ERR_OPEN_SITE
-/// or MESS_ERR_EMPTY_SITE.
+/// What the add-site page knows of the table that the user picked.
 struct SiteFileInfo : tables::TableFileInfo
 {
     SiteColumnSet columns; ///< those that were recognised
 };
 
 /// Opens `path` as a site table and tells what it holds and which systems go with it in the
-/// project. An empty path gives an empty value without an error.
-SiteFileInfo readSiteFileInfo(const QString &path, const project::ProjectContext &project);
+/// project.
+///
+/// @par Errors  MESS_ERR_OPEN_SITE or MESS_ERR_EMPTY_SITE, as tables::readTableFile()
+Result<SiteFileInfo> readSiteFileInfo(const QString &path, const project::ProjectContext &project);
 
 /// The same for a table that is read as the user says.
-SiteFileInfo readSiteFileInfoAs(const QString &path, const project::ProjectContext &project,
-                                const tables::TableReading &reading);
+Result<SiteFileInfo> readSiteFileInfoAs(const QString &path, const project::ProjectContext &project,
+                                        const tables::TableReading &reading);
 
 /// The column that names a site in the exports of a tool: "Site name", "NAME", "SITE ID" or "Site
 /// ID".

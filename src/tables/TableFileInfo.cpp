@@ -62,28 +62,23 @@ QString describeTableFile(const QString &format, const QString &unit)
          {QStringLiteral("_U_"), unitWord(unit)}});
 }
 
-QStringList readTableFileInfo(const TableKind &kind, const QString &path,
-                              const project::ProjectContext &project, TableFileInfo &info)
+Result<TableFile> readTableFile(const TableKind &kind, const QString &path,
+                                const project::ProjectContext &project, const TableReading &reading)
 {
-    if (path.isEmpty())
-        return {};
-
     const Result<geodata::LayerInfo> opened =
-        geodata::readLayerInfo(info.reading.connection(kind.prefix, path), 0);
+        geodata::readLayerInfo(reading.connection(kind.prefix, path), 0);
     if (!opened) {
-        info.errorDetail = opened.error().detail;
-        info.error = isEmptyTable(info.errorDetail) ? kind.empty : kind.unreadable;
-        return {};
+        Error error = isEmptyTable(opened.error().detail) ? kind.empty : kind.unreadable;
+        error.detail = opened.error().detail;
+        return error;
     }
-
-    info.fileDir = QFileInfo(path).absolutePath();
-    info.filePath = path;
     const geodata::LayerInfo &layer = opened.value();
-    if (!layer.present || layer.featureCount == 0) {
-        info.error = kind.empty;
-        return {};
-    }
+    if (!layer.present || layer.featureCount == 0)
+        return Error{kind.empty.key, kind.empty.text, path};
 
+    TableFileInfo info;
+    info.reading = reading;
+    info.filePath = path;
     info.layerName = layer.layerName;
     info.rowCount = layer.featureCount;
     info.format = layer.metadata.value(QStringLiteral("format"));
@@ -99,8 +94,7 @@ QStringList readTableFileInfo(const TableKind &kind, const QString &path,
     }
     if (!project.terrainFile.isEmpty())
         info.terrainArea = geodata::terrainArea(project.terrainFile);
-    info.valid = true;
-    return layer.fields;
+    return TableFile{info, layer.fields};
 }
 
 } // namespace vlt::tables

@@ -14,14 +14,12 @@ namespace vlt::tables {
 /// What a page knows of the table of sites or links that the user picked.
 struct TableFileInfo
 {
-    bool valid = false;   ///< whether a layer can be made of it
     TableReading reading; ///< how it was read
-    QString filePath;     ///< as picked, once the file opened; kept for a table without rows
-    QString fileDir;      ///< absolute directory of the file
+    QString filePath;     ///< as picked
     QString layerName;
     QString nameField;           ///< column whose value names a site
     bool hasNameField = false;   ///< whether the table has it, in any case of letters
-    QString description;         ///< translated text for the file label; empty unless valid
+    QString description;         ///< translated text for the file label
     QString format;              ///< which tool exported the file, as the file says
     QString unit;                ///< "METERS", "DMS", else decimal degrees
     QString epsg;                ///< code that the file declares; "0" or empty for none
@@ -30,10 +28,13 @@ struct TableFileInfo
     geodata::SystemPair systems; ///< to give to the choosers
     QStringList projectSystems;  ///< of the project and its terrain, as far as they are known
     std::optional<geodata::SrsBounds> terrainArea; ///< where the project's terrain lies
+};
 
-    /// Why the file is not valid; none for an empty path.
-    std::optional<Error> error;
-    QString errorDetail; ///< the driver's own reason; may be empty
+/// A table with the names of its first layer's fields.
+struct TableFile
+{
+    TableFileInfo info; ///< but for the column that names a site
+    QStringList fields;
 };
 
 /// How tables of one kind are opened, and what is said of those that cannot be used.
@@ -44,11 +45,13 @@ struct TableKind
     Error empty;
 };
 
-/// Opens `path` as a table of the kind, by `info.reading`, and fills `info`, but for the column
-/// that names a site. The names of the first layer's fields; none unless `info` is valid
-/// afterwards, an empty path being no error.
-QStringList readTableFileInfo(const TableKind &kind, const QString &path,
-                              const project::ProjectContext &project, TableFileInfo &info);
+/// Opens `path` as a table of the kind and tells which systems go with it in the project.
+///
+/// @par Errors  those of the kind: with the driver's reason, or with the path where the table
+///              opened but has no rows.
+Result<TableFile> readTableFile(const TableKind &kind, const QString &path,
+                                const project::ProjectContext &project,
+                                const TableReading &reading);
 
 /// The line about format, coordinates and unit, in the chosen language. Only a dictionary's text
 /// takes the values in; the built-in English one has no places for them.

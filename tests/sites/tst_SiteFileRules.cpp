@@ -77,16 +77,13 @@ private Q_SLOTS:
                  QStringLiteral("File format is : %1\nCoordinates are %2 and are specified in %3"));
     }
 
-    void saysNothingOfAnEmptyPathAndWhyAFileDoesNotOpen()
+    void saysWhyAFileDoesNotOpen()
     {
-        QVERIFY(!readSiteFileInfo(QString(), {}).error);
+        const auto info = readSiteFileInfo(QStringLiteral("/nowhere/sites.csv"), {});
 
-        const SiteFileInfo info = readSiteFileInfo(QStringLiteral("/nowhere/sites.csv"), {});
-
-        QVERIFY(!info.valid);
-        QVERIFY(info.filePath.isEmpty());
-        QCOMPARE(info.error->key, QStringLiteral("MESS_ERR_OPEN_SITE"));
-        QVERIFY(!info.errorDetail.isEmpty());
+        QVERIFY(!info);
+        QCOMPARE(info.error().key, QStringLiteral("MESS_ERR_OPEN_SITE"));
+        QVERIFY(!info.error().detail.isEmpty());
     }
 };
 

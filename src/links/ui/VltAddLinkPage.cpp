@@ -51,14 +51,14 @@ vlt::tables::TablePageKind VltAddLinkPage::linkKind()
     return kind;
 }
 
-void VltAddLinkPage::readTable(const QString &path)
+std::optional<vlt::Error> VltAddLinkPage::readTable(const QString &path)
 {
-    m_file = waitForInfo(path, vlt::links::readLinkFileInfo);
+    return readInto(m_file, path, vlt::links::readLinkFileInfo);
 }
 
 void VltAddLinkPage::showDetails()
 {
-    m_panelDetails->showFile(m_file);
+    m_panelDetails->showFile(*m_file);
 }
 
 vlt::links::LinkLayerInput VltAddLinkPage::layerInput() const
@@ -66,7 +66,7 @@ vlt::links::LinkLayerInput VltAddLinkPage::layerInput() const
     vlt::links::LinkLayerInput input;
     fillInput(input);
     input.catalogues = m_panelPylons->catalogues();
-    input.file = m_file;
+    input.file = m_file.value_or(vlt::links::LinkFileInfo());
     input.pylons = m_panelPylons->representation();
     input.links = m_panelLinks->representation();
     return input;

@@ -25,8 +25,8 @@ private:
     static vlt::tables::TablePageKind linkKind();
     vlt::links::LinkLayerInput layerInput() const;
 
-    void readTable(const QString &path) override;
-    const vlt::tables::TableFileInfo &file() const override { return m_file; }
+    std::optional<vlt::Error> readTable(const QString &path) override;
+    const vlt::tables::TableFileInfo *file() const override { return m_file ? &*m_file : nullptr; }
     void showDetails() override;
     void checkRows() override;
     std::optional<vlt::Error> missingChoice() const override;
@@ -37,5 +37,5 @@ private:
     VltLinkProperties *m_panelLinks;
     VltSiteProperties *m_panelPylons;
     VltLinkDetails *m_panelDetails;
-    vlt::links::LinkFileInfo m_file;
+    std::optional<vlt::links::LinkFileInfo> m_file; ///< none while there is no table
 };

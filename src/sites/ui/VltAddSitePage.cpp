@@ -42,14 +42,14 @@ vlt::tables::TablePageKind VltAddSitePage::siteKind()
     return kind;
 }
 
-void VltAddSitePage::readTable(const QString &path)
+std::optional<vlt::Error> VltAddSitePage::readTable(const QString &path)
 {
-    m_file = waitForInfo(path, vlt::sites::readSiteFileInfo);
+    return readInto(m_file, path, vlt::sites::readSiteFileInfo);
 }
 
 void VltAddSitePage::showDetails()
 {
-    m_panelDetails->showFile(m_file);
+    m_panelDetails->showFile(*m_file);
 }
 
 vlt::sites::SiteLayerInput VltAddSitePage::layerInput() const
@@ -57,7 +57,7 @@ vlt::sites::SiteLayerInput VltAddSitePage::layerInput() const
     vlt::sites::SiteLayerInput input;
     fillInput(input);
     input.catalogues = m_panelPylons->catalogues();
-    input.file = m_file;
+    input.file = m_file.value_or(vlt::sites::SiteFileInfo());
     input.representation = m_panelPylons->representation();
     return input;
 }

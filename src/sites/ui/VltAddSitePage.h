@@ -24,8 +24,8 @@ private:
     static vlt::tables::TablePageKind siteKind();
     vlt::sites::SiteLayerInput layerInput() const;
 
-    void readTable(const QString &path) override;
-    const vlt::tables::TableFileInfo &file() const override { return m_file; }
+    std::optional<vlt::Error> readTable(const QString &path) override;
+    const vlt::tables::TableFileInfo *file() const override { return m_file ? &*m_file : nullptr; }
     void showDetails() override;
     void checkRows() override;
     std::optional<vlt::Error> missingChoice() const override;
@@ -35,5 +35,5 @@ private:
 
     VltSiteProperties *m_panelPylons;
     VltSiteDetails *m_panelDetails;
-    vlt::sites::SiteFileInfo m_file;
+    std::optional<vlt::sites::SiteFileInfo> m_file; ///< none while there is no table
 };

@@ -202,7 +202,7 @@ void VltTablePage::initializePage()
 
 bool VltTablePage::isComplete() const
 {
-    return BasePage::isComplete() && file().valid;
+    return BasePage::isComplete() && file();
 }
 
 QString VltTablePage::settingsKey(const QString &name) const
@@ -252,33 +252,33 @@ void VltTablePage::readFileInfo(const QString &path, bool quiet)
 void VltTablePage::readFile(const QString &path, bool quiet)
 {
     m_pathRead = path;
-    readTable(path);
-    if (!file().fileDir.isEmpty())
-        m_fileDir = file().fileDir;
+    m_refusal = readTable(path);
+    const bool isOpened = file() || (m_refusal && !m_refusal->path.isEmpty());
+    if (isOpened)
+        m_fileDir = QFileInfo(path).absolutePath();
     showFile();
-    if (file().error && !quiet)
-        vlt::messages::critical(this,
-                                {file().error->key, file().error->text, path, file().errorDetail},
+    if (m_refusal && !quiet)
+        vlt::messages::critical(this, {m_refusal->key, m_refusal->text, path, m_refusal->detail},
                                 vlt::messages::errorTitle(), vlt::messages::PathPlace::BelowText);
 }
 
 void VltTablePage::showFile()
 {
-    const vlt::tables::TableFileInfo &read = file();
-    if (!read.valid) {
+    const vlt::tables::TableFileInfo *read = file();
+    if (!read) {
         leaveLayer(fileReason());
         m_ui->m_pwGbPreview->leaveLayer();
         m_details->clear();
         m_ui->m_pwLblFileInfo->setText(m_kind.noFile);
         return;
     }
-    m_ui->m_pwLblFileInfo->setText(read.description);
-    m_ui->m_pwLeTable->setText(read.filePath);
-    if (!read.systems.source.isEmpty())
-        m_panelSrs->setSourceSrs(read.systems.source);
-    if (!read.systems.target.isEmpty())
-        m_panelSrs->setTargetSrs(read.systems.target);
-    m_panelSrs->setContext({read.projectSystems, read.terrainArea});
+    m_ui->m_pwLblFileInfo->setText(read->description);
+    m_ui->m_pwLeTable->setText(read->filePath);
+    if (!read->systems.source.isEmpty())
+        m_panelSrs->setSourceSrs(read->systems.source);
+    if (!read->systems.target.isEmpty())
+        m_panelSrs->setTargetSrs(read->systems.target);
+    m_panelSrs->setContext({read->projectSystems, read->terrainArea});
     showDetails();
 }
 
@@ -286,10 +286,10 @@ void VltTablePage::showFile()
 /// its file itself.
 QString VltTablePage::fileReason() const
 {
-    return file().errorDetail.isEmpty() ? QString()
-                                        : tr("%1: %2", "MESS_FILE_REASON")
-                                              .arg(QFileInfo(m_pathRead).fileName(),
-                                                   vlt::language::readerText(file().errorDetail));
+    if (!m_refusal || m_refusal->detail.isEmpty())
+        return {};
+    return tr("%1: %2", "MESS_FILE_REASON")
+        .arg(QFileInfo(m_pathRead).fileName(), vlt::language::readerText(m_refusal->detail));
 }
 
 /// Why there is no layer; an empty text where there is one or no table was chosen.
@@ -302,7 +302,9 @@ void VltTablePage::showReason(const QString &reason)
 /// Degrees tell where a table lies, metres only once their system is known.
 void VltTablePage::showArea(const vlt::geodata::SystemCheck &checked)
 {
-    const vlt::tables::TableFileInfo &read = file();
+    if (!file())
+        return;
+    const vlt::tables::TableFileInfo &read = *file();
     const bool isInDegrees = read.unit != QLatin1String("METERS") &&
                              checked.source.use == vlt::geodata::SrsUse::Geographic;
     if (isInDegrees && checked.extent)
@@ -311,7 +313,7 @@ void VltTablePage::showArea(const vlt::geodata::SystemCheck &checked)
 
 void VltTablePage::beginLayer()
 {
-    if (!file().valid)
+    if (!file())
         return;
     showDemonstration();
     checkRows();
@@ -319,7 +321,7 @@ void VltTablePage::beginLayer()
 
 std::optional<QString> VltTablePage::obstacle() const
 {
-    if (!file().valid)
+    if (!file())
         return fileReason();
     std::optional<vlt::Error> error = missingChoice();
     if (!error)

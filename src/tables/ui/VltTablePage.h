@@ -7,6 +7,7 @@
 #include "wizard/base/VltResultPage.h"
 #include "wizard/project/ProjectContext.h"
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -60,19 +61,29 @@ protected:
     /// @param panels   of values, from top to bottom
     void setParts(VltTableDetails *details, const QList<VltParameterPanel *> &panels);
 
-    /// Reads a table on another thread; an empty value where the user stops it, or where the page
-    /// was not shown yet and it takes longer than a moment.
+    /// Reads a table into `file`, on another thread: why it was refused. `file` is empty then, for
+    /// an empty path, and where the user stops it, or where the page was not shown yet and it takes
+    /// longer than a moment.
     template<typename Info>
-    Info waitForInfo(const QString &path,
-                     Info (*read)(const QString &, const vlt::project::ProjectContext &))
+    std::optional<vlt::Error>
+    readInto(std::optional<Info> &file, const QString &path,
+             vlt::Result<Info> (*read)(const QString &, const vlt::project::ProjectContext &))
     {
-        const std::function<Info()> work = [path, read, project = m_project] {
+        using Read = vlt::Result<Info>;
+        file.reset();
+        if (path.isEmpty())
+            return std::nullopt;
+        const std::function<Read()> work = [path, read, project = m_project] {
             return read(path, project);
         };
-        const std::optional<Info> info =
-            isShown() ? vlt::wizard::waitForValue<Info>(this, m_kind.reading, work)
-                      : vlt::wizard::valueWithinMoment<Info>(work);
-        return info.value_or(Info());
+        const std::optional<Read> info =
+            isShown() ? vlt::wizard::waitForValue<Read>(this, m_kind.reading, work)
+                      : vlt::wizard::valueWithinMoment<Read>(work);
+        if (info && !*info)
+            return info->error();
+        if (info)
+            file = info->value();
+        return std::nullopt;
     }
 
     /// The part of a layer's input that all kinds have.
@@ -91,11 +102,11 @@ protected:
     vlt::geodata::SystemPair systems() const;
 
 private:
-    /// Reads the table and keeps what it is.
-    virtual void readTable(const QString &path) = 0;
-    /// What the table is that was read last.
-    virtual const vlt::tables::TableFileInfo &file() const = 0;
-    /// Shows the details of a valid table, without those of its rows.
+    /// Reads the table and keeps what it is, by readInto(): why it was refused.
+    virtual std::optional<vlt::Error> readTable(const QString &path) = 0;
+    /// The table that was read last; null for none.
+    virtual const vlt::tables::TableFileInfo *file() const = 0;
+    /// Shows the details of the table, without those of its rows.
     virtual void showDetails() = 0;
     /// Starts to check the rows of the table.
     virtual void checkRows() = 0;
@@ -134,5 +145,6 @@ private:
     VltTableDetails *m_details = nullptr;
     vlt::project::ProjectContext m_project;
     QString m_fileDir;
-    QString m_pathRead; ///< what readFileInfo() was last given
+    QString m_pathRead;                  ///< what readFileInfo() was last given
+    std::optional<vlt::Error> m_refusal; ///< of that table
 };

@@ -39,11 +39,11 @@ FileKind kindOfFile(const QString &path)
                                                QStringLiteral("xlsx"), QStringLiteral("xml")});
     if (!isNamedTable && isBuildingSource(path))
         return FileKind::BuildingSource;
-    if (links::readLinkFileInfo(path, {}).valid)
+    if (links::readLinkFileInfo(path, {}))
         return FileKind::LinkTable;
     // the page itself tells why a table cannot be read
-    return isNamedTable || sites::readSiteFileInfo(path, {}).valid ? FileKind::SiteTable
-                                                                   : FileKind::Unknown;
+    return isNamedTable || sites::readSiteFileInfo(path, {}) ? FileKind::SiteTable
+                                                             : FileKind::Unknown;
 }
 
 } // namespace vlt::wizard
