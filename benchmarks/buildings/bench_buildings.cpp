@@ -1,5 +1,6 @@
-// Makes a town of so many buildings on a hilly terrain, or reads one with GDAL alone and prints
-// "milliseconds peakKilobytes buildings points", to be compared with the scene's own loading.
+// Makes a town with a given number of buildings on a hilly terrain, or reads one with GDAL alone
+// and prints "milliseconds peakKilobytes buildings vertices" for comparison with the loading of the
+// scene.
 #include <gdal_priv.h>
 #include <ogrsf_frmts.h>
 
@@ -15,7 +16,7 @@
 
 namespace {
 
-constexpr double SpacingM = 36; ///< of the streets' grid
+constexpr double SpacingM = 36; ///< between buildings, in both directions
 constexpr double MiddleX = 650000;
 constexpr double MiddleY = 6860000;
 constexpr double PixelM = 25;
@@ -31,7 +32,7 @@ OGRSpatialReference lambert()
     return srs;
 }
 
-/// Shapes by their corners in units of half a building; the last has a courtyard.
+/// Vertices of the shapes, in units of half a building; the last shape has a courtyard.
 const std::vector<std::vector<std::pair<double, double>>> Outlines = {
     {{-1, -1}, {1, -1}, {1, 1}, {-1, 1}},
     {{-1, -1}, {1, -1}, {1, 0}, {0, 0}, {0, 1}, {-1, 1}},
@@ -126,7 +127,7 @@ void makeTerrain(const std::string &file, int buildings)
     }
 }
 
-/// Every footprint with its height and the points of its rings, into arrays.
+/// Reads every footprint, its height and the vertices of its rings into arrays.
 int readAlone(const std::string &file)
 {
     const Clock::time_point start = Clock::now();

@@ -1,5 +1,5 @@
-// Loads a layer through the scene library's loader, turns around it off screen and prints what that
-// took, as "name value" lines.
+// Loads a layer through the scene library's loader, draws it off screen from all sides and prints
+// the times and the memory as lines "name value".
 #include <osg/ComputeBoundsVisitor>
 #include <osg/GraphicsContext>
 #include <osgDB/ReadFile>
@@ -21,7 +21,7 @@ namespace {
 
 constexpr int Width = 1280;
 constexpr int Height = 800;
-constexpr int Frames = 72; ///< of one turn
+constexpr int Frames = 72; ///< per turn
 
 using Clock = std::chrono::steady_clock;
 
@@ -30,7 +30,7 @@ double millisecondsSince(Clock::time_point start)
     return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
 }
 
-/// Highest resident memory until now.
+/// Maximum resident memory so far.
 double peakMegabytes()
 {
     rusage usage = {};
@@ -63,7 +63,7 @@ struct View
     const char *name;
     osg::Vec3d centre;
     double distanceM;
-    double riseDeg; ///< of the eye above the horizon
+    double riseDeg; ///< elevation of the camera above the horizon
 };
 
 void look(osgViewer::Viewer &viewer, const View &view, double turnDeg)
@@ -76,7 +76,7 @@ void look(osgViewer::Viewer &viewer, const View &view, double turnDeg)
                                               osg::Z_AXIS);
 }
 
-/// Waits until the picture is drawn: the renderer works on after a frame has been handed over.
+/// Waits until the frame is drawn: the renderer still works after it has received a frame.
 double frameMilliseconds(osgViewer::Viewer &viewer)
 {
     const Clock::time_point start = Clock::now();
@@ -103,7 +103,7 @@ void measure(osgViewer::Viewer &viewer, const View &view, const std::string &pic
     look(viewer, view, 0);
     std::printf("%s_first_ms %.1f\n", view.name, frameMilliseconds(viewer));
     std::vector<double> times;
-    for (int turn : {0, 1}) { // what comes into sight for the first time counts in the first turn
+    for (int turn : {0, 1}) { // the first turn includes creating what becomes visible
         times.clear();
         for (int i = 0; i < Frames; ++i) {
             look(viewer, view, 360.0 * i / Frames);

@@ -11,9 +11,10 @@ enum class ExpatTask {
     RowsAndTexts ///< also take the characters of every Data element
 };
 
-/// One pass of a bare expat parser over a SpreadsheetML file: the least a reader that is built on
-/// it can take. Counts all Row elements, the header's included. With RowsAndTexts the fields are
-/// the Data elements of the widest row and the checksum is the number of their bytes.
+/// One pass of a plain expat parser over a SpreadsheetML file: a lower bound for the time of
+/// readers that use expat. Counts all Row elements, including the header. With RowsAndTexts, the
+/// number of fields is the number of Data elements in the widest row, and the checksum the sum of
+/// their bytes.
 /// @par Errors   std::runtime_error when the file cannot be read or is not well-formed.
 Measurement expatPass(const std::string &path, ExpatTask task);
 

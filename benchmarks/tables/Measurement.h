@@ -5,16 +5,16 @@
 
 namespace vlt::benchmarks {
 
-/// What one timed task found and how long it took.
+/// Results of one timed task.
 struct Measurement
 {
-    double milliseconds = 0; ///< from the start of the task until its answer was known
+    double milliseconds = 0; ///< from the start of the task to its result
     std::int64_t rows = 0;   ///< features, or Row elements
-    int fields = 0;          ///< attribute fields of the layer; 0 where the task does not look
-    double checksum = 0;     ///< equal for two readers that saw the same values in the same order
+    int fields = 0;          ///< attribute fields of the layer; 0 if the task does not count them
+    double checksum = 0;     ///< equal for two readers that found the same values in the same order
 };
 
-/// Wall clock that starts when it is made.
+/// Wall clock that starts when the object is created.
 class Stopwatch
 {
 public:

@@ -8,7 +8,7 @@ namespace vlt::benchmarks {
 
 namespace {
 
-/// Small generator of well mixed numbers (SplitMix64): the same on every machine and library.
+/// Small generator of pseudo-random numbers (SplitMix64) with the same results on every machine.
 class Dice
 {
 public:
@@ -29,7 +29,7 @@ private:
     std::uint64_t m_state;
 };
 
-/// scaled / 10^decimals without trailing zeros, as a spreadsheet shows and stores a number.
+/// The number scaled / 10^decimals without trailing zeros, as a spreadsheet shows and stores it.
 Cell number(std::int64_t scaled, int decimals)
 {
     std::int64_t scale = 1;

@@ -6,7 +6,7 @@
 
 namespace vlt::benchmarks {
 
-/// One cell as every writer needs it: numbers in their shortest decimal text, texts in UTF-8.
+/// One cell for any writer: a number as its shortest decimal text, a text in UTF-8.
 struct Cell
 {
     std::string text;
@@ -21,7 +21,7 @@ using Row = std::array<Cell, ColumnCount>;
 /// sector id, height, azimuth and tilt of ten transmitters.
 Row siteHeader();
 
-/// Row of the site with this number (from 1). The same number always gives the same row.
+/// The row of the site with this number (from 1). It depends on nothing else.
 Row siteRow(std::int64_t number);
 
 } // namespace vlt::benchmarks

@@ -28,7 +28,7 @@ std::string xmlEscaped(const std::string &text)
     return escaped;
 }
 
-/// A text file that is written in large pieces.
+/// A text file that is written in large blocks.
 class TextFile
 {
 public:

@@ -7,7 +7,7 @@
 
 namespace vlt::benchmarks {
 
-/// Writes one table row after row, as the programs that people make such tables with write it.
+/// Writes a table row by row in the form that common spreadsheet programs write.
 class TableWriter
 {
 public:
@@ -18,8 +18,8 @@ public:
 
 /// A writer for "csv" (commas, UTF-8, CRLF), "xlsx" (shared strings, references on rows and cells)
 /// or "xml" (SpreadsheetML 2003).
-/// @param rowCount   rows to come, the header included
-/// @return           nothing for any other format
+/// @param rowCount   number of rows, including the header
+/// @return           null for any other format
 /// @par Errors       Writers throw std::runtime_error when the file cannot be written.
 std::unique_ptr<TableWriter> makeTableWriter(const std::string &format, const std::string &path,
                                              std::int64_t rowCount);

@@ -9,8 +9,8 @@
 
 namespace vlt::benchmarks {
 
-/// Writes a ZIP archive entry after entry, deflated at level 6, sizes in the local headers. No
-/// entry and no archive may reach 4 GiB.
+/// Writes a ZIP archive entry by entry, deflated at level 6, with sizes in the local headers.
+/// Entries and archive must be smaller than 4 GiB.
 /// @par Errors   std::runtime_error when the file cannot be written.
 class ZipWriter
 {
@@ -24,10 +24,10 @@ public:
     void write(std::string_view bytes);
     void endEntry();
 
-    /// A whole entry at once.
+    /// Writes a whole entry.
     void addEntry(const std::string &name, std::string_view bytes);
 
-    /// Writes the central directory. Nothing may follow.
+    /// Writes the central directory. This must be the last call.
     void finish();
 
 private:

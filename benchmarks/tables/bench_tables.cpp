@@ -1,4 +1,4 @@
-// Times one task on one table in a process of its own; benchmarks/run starts it over and over.
+// Times one task on one table; benchmarks/run starts a new process for each measurement.
 #include "ExpatPass.h"
 #include "TableAccess.h"
 
@@ -70,8 +70,8 @@ std::optional<Arguments> parse(int count, char **values)
     return arguments;
 }
 
-// The highest resident size so far. Not getrusage(): its value survives exec, so it can be the
-// parent's.
+// Maximum resident size so far. getrusage() is not used because its value survives exec and may
+// therefore be that of the parent process.
 long peakKilobytes()
 {
     std::ifstream status("/proc/self/status");
@@ -107,7 +107,7 @@ int main(int count, char **values)
             std::fputs(Usage, stderr);
             return 2;
         }
-        // An expat pass is measured as what a program without GDAL would do.
+        // An expat pass stands for a program without GDAL.
         if (arguments->task != "expat")
             GDALAllRegister();
         const long baseline = peakKilobytes();

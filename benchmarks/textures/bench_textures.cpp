@@ -1,5 +1,5 @@
-// Lists texture images as the textured page does, or by opening every one of them by itself, and
-// prints milliseconds, images and a checksum over their heights; or makes such images.
+// Lists texture images as the textured page does, or by opening each of them, and prints
+// milliseconds, images and a checksum over their heights. Can also make such images.
 #include "buildings/TextureFolders.h"
 
 #include <QDir>
@@ -22,10 +22,10 @@ namespace {
 namespace fs = std::filesystem;
 using vlt::buildings::DataStructure;
 
-constexpr int HeightEvery = 10;   ///< image with a metadata file that states its height
-constexpr int WorldFileEvery = 7; ///< image with a world file
+constexpr int HeightEvery = 10;   ///< every tenth image has a metadata file with its height
+constexpr int WorldFileEvery = 7; ///< every seventh image has a world file
 
-/// Equal for two that saw the same heights of the same images, in whatever order.
+/// The checksum is equal if the same heights of the same images were found, in any order.
 struct Seen
 {
     long images = 0;
