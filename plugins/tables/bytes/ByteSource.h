@@ -12,7 +12,7 @@ public:
 
     /// Reads up to `size` bytes into `to`; 0 means the end. Throws RefusedFile where the input is
     /// damaged.
-    virtual size_t read(char *to, size_t size) = 0;
+    virtual std::size_t read(char *to, std::size_t size) = 0;
 };
 
 } // namespace vlt::driver

@@ -21,14 +21,14 @@ namespace vlt::driver {
 
 namespace {
 
-constexpr size_t ChunkSize = size_t{256} << 10;
+constexpr std::size_t ChunkSize = std::size_t{256} << 10;
 /// Room before a chunk for the tail of the one before.
-constexpr size_t Headroom = size_t{32} << 10;
+constexpr std::size_t Headroom = std::size_t{32} << 10;
 /// What a look at the header needs.
-constexpr size_t FirstChunkSize = size_t{64} << 10;
-constexpr size_t BuffersAhead = 3;
+constexpr std::size_t FirstChunkSize = std::size_t{64} << 10;
+constexpr std::size_t BuffersAhead = 3;
 constexpr int SpinTurns = 2000;
-constexpr size_t LongestRow = size_t{256} << 20;
+constexpr std::size_t LongestRow = std::size_t{256} << 20;
 
 void relax()
 {
@@ -68,7 +68,7 @@ int currentCore()
 struct ChunkedInput::Buffer
 {
     std::unique_ptr<char[]> bytes = std::make_unique_for_overwrite<char[]>(Headroom + ChunkSize);
-    size_t size = 0;
+    std::size_t size = 0;
     bool last = false;
 
     char *data() { return bytes.get() + Headroom; }
@@ -127,11 +127,11 @@ private:
         return m_thread.joinable();
     }
 
-    void fill(Buffer &buffer, size_t size)
+    void fill(Buffer &buffer, std::size_t size)
     {
         buffer.size = 0;
         while (buffer.size < size) {
-            const size_t got = m_source->read(buffer.data() + buffer.size, size - buffer.size);
+            const std::size_t got = m_source->read(buffer.data() + buffer.size, size - buffer.size);
             if (got == 0)
                 break;
             buffer.size += got;
@@ -207,7 +207,7 @@ private:
     std::condition_variable m_filled;
     std::condition_variable m_roomFreed;
     std::deque<std::unique_ptr<Buffer>> m_ready;
-    std::atomic<size_t> m_readyCount = 0; ///< size of m_ready, readable without the lock
+    std::atomic<std::size_t> m_readyCount = 0; ///< size of m_ready, readable without the lock
     std::vector<std::unique_ptr<Buffer>> m_spares;
     std::exception_ptr m_failure;
     bool m_stop = false;
@@ -233,7 +233,7 @@ bool ChunkedInput::more(const char *keepFrom)
 
 void ChunkedInput::takeOver(std::unique_ptr<Buffer> next, const char *keepFrom)
 {
-    const size_t tail = static_cast<size_t>(m_end - keepFrom);
+    const std::size_t tail = static_cast<std::size_t>(m_end - keepFrom);
     if (tail > LongestRow)
         throw RefusedFile(Refusal::Malformed, "MESS_TAB_LONG_ROW");
     if (tail <= Headroom) {

@@ -9,15 +9,15 @@ namespace vlt::driver {
 
 namespace {
 
-constexpr size_t HeaderSize = 512;
-constexpr size_t EntrySize = 128;
+constexpr std::size_t HeaderSize = 512;
+constexpr std::size_t EntrySize = 128;
 constexpr uint32_t LastRegularSector = 0xFFFFFFFA;
-constexpr size_t HeaderTableSectors = 109;
+constexpr std::size_t HeaderTableSectors = 109;
 constexpr int MiniShift = 6;
 constexpr uint64_t LargestMiniStream = 4096; ///< the only cutoff that [MS-CFB] allows
 constexpr char RootType = 5;
 constexpr char StreamType = 2;
-constexpr size_t MostEntries = 65536;
+constexpr std::size_t MostEntries = 65536;
 
 [[noreturn]] void refuse()
 {
@@ -36,9 +36,9 @@ CompoundFile::CompoundFile(std::shared_ptr<const InputFile> file) : m_file(std::
     m_miniCutoff = std::min<uint64_t>(u32(header + 56), LargestMiniStream);
     readAllocationTable(header);
     for (const uint32_t sector : chain(m_table, u32(header + 60))) {
-        std::vector<char> bytes(size_t{1} << m_sectorShift);
+        std::vector<char> bytes(std::size_t{1} << m_sectorShift);
         m_file->readExactly(sectorOffset(sector), bytes.data(), bytes.size());
-        for (size_t at = 0; at < bytes.size(); at += 4)
+        for (std::size_t at = 0; at < bytes.size(); at += 4)
             m_miniTable.push_back(u32(bytes.data() + at));
     }
     readDirectory(u32(header + 48));
@@ -46,26 +46,26 @@ CompoundFile::CompoundFile(std::shared_ptr<const InputFile> file) : m_file(std::
 
 void CompoundFile::readAllocationTable(const char *header)
 {
-    const size_t sectorSize = size_t{1} << m_sectorShift;
-    const size_t mostSectors = static_cast<size_t>(m_file->size() >> m_sectorShift) + 1;
+    const std::size_t sectorSize = std::size_t{1} << m_sectorShift;
+    const std::size_t mostSectors = static_cast<std::size_t>(m_file->size() >> m_sectorShift) + 1;
     std::vector<uint32_t> tableSectors;
-    for (size_t i = 0; i < HeaderTableSectors; ++i)
+    for (std::size_t i = 0; i < HeaderTableSectors; ++i)
         tableSectors.push_back(u32(header + 76 + 4 * i));
     std::vector<char> bytes(sectorSize);
     uint32_t next = u32(header + 68);
-    for (size_t guard = 0; next < LastRegularSector; ++guard) {
+    for (std::size_t guard = 0; next < LastRegularSector; ++guard) {
         if (guard > mostSectors)
             refuse();
         m_file->readExactly(sectorOffset(next), bytes.data(), sectorSize);
-        for (size_t at = 0; at + 4 < sectorSize; at += 4)
+        for (std::size_t at = 0; at + 4 < sectorSize; at += 4)
             tableSectors.push_back(u32(bytes.data() + at));
         next = u32(bytes.data() + sectorSize - 4);
     }
     for (const uint32_t sector : tableSectors) {
         if (sector >= LastRegularSector)
             continue;
-        const size_t got = m_file->readAt(sectorOffset(sector), bytes.data(), sectorSize);
-        for (size_t at = 0; at + 4 <= got; at += 4)
+        const std::size_t got = m_file->readAt(sectorOffset(sector), bytes.data(), sectorSize);
+        for (std::size_t at = 0; at + 4 <= got; at += 4)
             m_table.push_back(u32(bytes.data() + at));
         if (m_table.size() > mostSectors + sectorSize)
             break;
@@ -85,15 +85,15 @@ std::vector<uint32_t> CompoundFile::chain(const std::vector<uint32_t> &table, ui
 
 void CompoundFile::readDirectory(uint32_t firstSector)
 {
-    std::vector<char> bytes(size_t{1} << m_sectorShift);
-    size_t count = 0;
+    std::vector<char> bytes(std::size_t{1} << m_sectorShift);
+    std::size_t count = 0;
     for (const uint32_t sector : chain(m_table, firstSector)) {
         m_file->readExactly(sectorOffset(sector), bytes.data(), bytes.size());
-        for (size_t at = 0; at < bytes.size() && ++count < MostEntries; at += EntrySize) {
+        for (std::size_t at = 0; at < bytes.size() && ++count < MostEntries; at += EntrySize) {
             const char *entry = bytes.data() + at;
-            const size_t nameSize = std::min<size_t>(u16(entry + 64), 64);
+            const std::size_t nameSize = std::min<std::size_t>(u16(entry + 64), 64);
             std::string name; // the names that matter are ASCII in UTF-16
-            for (size_t i = 0; i + 2 < nameSize; i += 2)
+            for (std::size_t i = 0; i + 2 < nameSize; i += 2)
                 name += entry[i];
             // version 3 files may leave rubbish in the upper half of the size
             const uint64_t size = m_sectorShift == 9 ? u32(entry + 120) : u64(entry + 120);
@@ -140,7 +140,7 @@ std::vector<Extent> CompoundFile::extents(const std::string &name) const
         const uint64_t part = std::min(uint64_t{1} << MiniShift, size);
         if (part == 0)
             break;
-        size_t at = 0;
+        std::size_t at = 0;
         while (at < container.size() && offset >= container[at].size)
             offset -= container[at++].size;
         if (at == container.size())

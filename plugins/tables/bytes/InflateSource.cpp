@@ -9,7 +9,7 @@ namespace vlt::driver {
 
 namespace {
 
-constexpr size_t InputSize = size_t{64} << 10;
+constexpr std::size_t InputSize = std::size_t{64} << 10;
 
 } // namespace
 
@@ -24,13 +24,13 @@ InflateSource::InflateSource(std::unique_ptr<ByteSource> compressed, uint32_t ex
 
 InflateSource::~InflateSource() = default;
 
-size_t InflateSource::read(char *to, size_t size)
+std::size_t InflateSource::read(char *to, std::size_t size)
 {
     m_state->next_out = reinterpret_cast<uint8_t *>(to);
     m_state->avail_out = static_cast<uint32_t>(size);
     while (m_state->avail_out == size && m_state->block_state != ISAL_BLOCK_FINISH) {
         if (m_state->avail_in == 0 && !m_inputEnded) {
-            const size_t got = m_compressed->read(m_input.data(), m_input.size());
+            const std::size_t got = m_compressed->read(m_input.data(), m_input.size());
             m_inputEnded = got == 0;
             m_state->next_in = reinterpret_cast<uint8_t *>(m_input.data());
             m_state->avail_in = static_cast<uint32_t>(got);
@@ -42,7 +42,7 @@ size_t InflateSource::read(char *to, size_t size)
         if (stuck && m_state->block_state != ISAL_BLOCK_FINISH)
             throw RefusedFile(Refusal::Malformed, "MESS_TAB_DATA_CUT");
     }
-    const size_t got = size - m_state->avail_out;
+    const std::size_t got = size - m_state->avail_out;
     m_crc = crc32_gzip_refl(m_crc, reinterpret_cast<const uint8_t *>(to), got);
     if (got == 0 && m_crc != m_expectedCrc)
         throw RefusedFile(Refusal::Malformed, "MESS_TAB_CHECK_SUM");

@@ -19,7 +19,7 @@ public:
     InflateSource(std::unique_ptr<ByteSource> compressed, uint32_t expectedCrc);
     ~InflateSource() override;
 
-    size_t read(char *to, size_t size) override;
+    std::size_t read(char *to, std::size_t size) override;
 
 private:
     std::unique_ptr<ByteSource> m_compressed;

@@ -75,9 +75,9 @@ InputFile::~InputFile()
     close(m_descriptor);
 }
 
-size_t InputFile::readAt(uint64_t offset, char *to, size_t size) const
+std::size_t InputFile::readAt(uint64_t offset, char *to, std::size_t size) const
 {
-    size_t done = 0;
+    std::size_t done = 0;
     while (done < size) {
         const ssize_t got =
             pread(m_descriptor, to + done, size - done, static_cast<off_t>(offset + done));
@@ -87,20 +87,20 @@ size_t InputFile::readAt(uint64_t offset, char *to, size_t size) const
             refuseBySystem();
         if (got == 0)
             break;
-        done += static_cast<size_t>(got);
+        done += static_cast<std::size_t>(got);
     }
     return done;
 }
 
-void InputFile::readExactly(uint64_t offset, char *to, size_t size) const
+void InputFile::readExactly(uint64_t offset, char *to, std::size_t size) const
 {
     if (readAt(offset, to, size) != size)
         throw RefusedFile(Refusal::Malformed, "MESS_TAB_FILE_CUT");
 }
 
-std::string InputFile::head(size_t size) const
+std::string InputFile::head(std::size_t size) const
 {
-    std::string bytes(static_cast<size_t>(std::min<uint64_t>(size, this->size())), '\0');
+    std::string bytes(static_cast<std::size_t>(std::min<uint64_t>(size, this->size())), '\0');
     bytes.resize(readAt(0, bytes.data(), bytes.size()));
     return bytes;
 }
@@ -110,14 +110,14 @@ FileSource::FileSource(std::shared_ptr<const InputFile> file, std::vector<Extent
     , m_extents(std::move(extents))
 {}
 
-size_t FileSource::read(char *to, size_t size)
+std::size_t FileSource::read(char *to, std::size_t size)
 {
-    size_t done = 0;
+    std::size_t done = 0;
     while (done < size && m_current < m_extents.size()) {
         const Extent &extent = m_extents[m_current];
-        const size_t wanted =
-            static_cast<size_t>(std::min<uint64_t>(size - done, extent.size - m_done));
-        const size_t got = m_file->readAt(extent.offset + m_done, to + done, wanted);
+        const std::size_t wanted =
+            static_cast<std::size_t>(std::min<uint64_t>(size - done, extent.size - m_done));
+        const std::size_t got = m_file->readAt(extent.offset + m_done, to + done, wanted);
         done += got;
         m_done += got;
         if (got < wanted) // what a compound file announces but does not hold

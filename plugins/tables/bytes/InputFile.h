@@ -41,11 +41,11 @@ public:
     const FileIdentity &identity() const { return m_identity; }
 
     /// Reads up to `size` bytes at `offset`; fewer only at the end of the file.
-    size_t readAt(uint64_t offset, char *to, size_t size) const;
+    std::size_t readAt(uint64_t offset, char *to, std::size_t size) const;
     /// Reads exactly `size` bytes; throws RefusedFile (Malformed) where the file ends before.
-    void readExactly(uint64_t offset, char *to, size_t size) const;
+    void readExactly(uint64_t offset, char *to, std::size_t size) const;
     /// The first bytes of the file, at most `size`.
-    std::string head(size_t size) const;
+    std::string head(std::size_t size) const;
 
 private:
     InputFile(int descriptor, const FileIdentity &identity)
@@ -70,12 +70,12 @@ class FileSource : public ByteSource
 public:
     FileSource(std::shared_ptr<const InputFile> file, std::vector<Extent> extents);
 
-    size_t read(char *to, size_t size) override;
+    std::size_t read(char *to, std::size_t size) override;
 
 private:
     std::shared_ptr<const InputFile> m_file;
     std::vector<Extent> m_extents;
-    size_t m_current = 0;
+    std::size_t m_current = 0;
     uint64_t m_done = 0; ///< bytes of the current extent that were read
 };
 

@@ -12,10 +12,10 @@ namespace vlt::driver {
 
 namespace {
 
-constexpr size_t EdgeSize = 16; ///< room for any character
-constexpr size_t InputSize = size_t{64} << 10;
+constexpr std::size_t EdgeSize = 16; ///< room for any character
+constexpr std::size_t InputSize = std::size_t{64} << 10;
 constexpr char Replacement[] = "\xEF\xBF\xBD";
-constexpr size_t LongestMeaningful =
+constexpr std::size_t LongestMeaningful =
     8; ///< bytes of the longest sequence that stands for one character
 
 class MemorySource : public ByteSource
@@ -23,16 +23,16 @@ class MemorySource : public ByteSource
 public:
     explicit MemorySource(const std::string &text) : m_text(text) {}
 
-    size_t read(char *to, size_t size) override
+    std::size_t read(char *to, std::size_t size) override
     {
-        const size_t got = m_text.copy(to, size, m_at);
+        const std::size_t got = m_text.copy(to, size, m_at);
         m_at += got;
         return got;
     }
 
 private:
     const std::string &m_text;
-    size_t m_at = 0;
+    std::size_t m_at = 0;
 };
 
 } // namespace
@@ -61,14 +61,15 @@ void RecodeSource::fillInput()
     std::memmove(m_input.data(), m_input.data() + m_inputBegin, m_inputEnd - m_inputBegin);
     m_inputEnd -= m_inputBegin;
     m_inputBegin = 0;
-    const size_t got = m_source->read(m_input.data() + m_inputEnd, m_input.size() - m_inputEnd);
+    const std::size_t got =
+        m_source->read(m_input.data() + m_inputEnd, m_input.size() - m_inputEnd);
     m_inputEnded = got == 0;
     m_inputEnd += got;
 }
 
 /// A room as small as the end of a chunk may be shorter than the next character, which is then
 /// handed out in pieces: 0 would mean the end.
-size_t RecodeSource::read(char *to, size_t size)
+std::size_t RecodeSource::read(char *to, std::size_t size)
 {
     if (m_edgeBegin == m_edge.size() && size >= EdgeSize)
         return convert(to, size);
@@ -77,28 +78,28 @@ size_t RecodeSource::read(char *to, size_t size)
         m_edge.resize(EdgeSize);
         m_edge.resize(convert(m_edge.data(), EdgeSize));
     }
-    const size_t got = m_edge.copy(to, size, m_edgeBegin);
+    const std::size_t got = m_edge.copy(to, size, m_edgeBegin);
     m_edgeBegin += got;
     return got;
 }
 
 /// Fills a room that holds any character; 0 at the end.
-size_t RecodeSource::convert(char *to, size_t size)
+std::size_t RecodeSource::convert(char *to, std::size_t size)
 {
     char *out = to;
-    size_t room = size;
+    std::size_t room = size;
     while (room == size) {
         if (!m_inputEnded && m_inputEnd - m_inputBegin < LongestMeaningful)
             fillInput();
         if (m_inputBegin == m_inputEnd)
             break;
         char *in = m_input.data() + m_inputBegin;
-        size_t left = m_inputEnd - m_inputBegin;
-        const size_t leftBefore = left;
-        const size_t result = iconv(m_converter, &in, &left, &out, &room);
-        m_inputBegin = static_cast<size_t>(in - m_input.data());
-        const bool cutShort = result == static_cast<size_t>(-1) && errno == EINVAL;
-        const bool unknown = result == static_cast<size_t>(-1) && errno == EILSEQ;
+        std::size_t left = m_inputEnd - m_inputBegin;
+        const std::size_t leftBefore = left;
+        const std::size_t result = iconv(m_converter, &in, &left, &out, &room);
+        m_inputBegin = static_cast<std::size_t>(in - m_input.data());
+        const bool cutShort = result == static_cast<std::size_t>(-1) && errno == EINVAL;
+        const bool unknown = result == static_cast<std::size_t>(-1) && errno == EILSEQ;
         if (cutShort && m_inputEnded)
             m_inputBegin = m_inputEnd; // half a character at the end of the file
         else if (unknown && room >= sizeof Replacement) {
@@ -115,12 +116,12 @@ size_t RecodeSource::convert(char *to, size_t size)
     return size - room;
 }
 
-std::string encodingOfMark(const std::string &head, size_t &markSize)
+std::string encodingOfMark(const std::string &head, std::size_t &markSize)
 {
     static constexpr struct
     {
         const char *mark;
-        size_t size;
+        std::size_t size;
         const char *encoding;
     } Marks[] = {{"\xEF\xBB\xBF", 3, "UTF-8"},
                  {"\xFF\xFE\0\0", 4, "UTF-32LE"},
@@ -141,7 +142,7 @@ std::string recoded(const std::string &text, const std::string &encoding)
     RecodeSource source(std::make_unique<MemorySource>(text), encoding);
     std::string result;
     char piece[4096];
-    while (const size_t got = source.read(piece, sizeof piece))
+    while (const std::size_t got = source.read(piece, sizeof piece))
         result.append(piece, got);
     return result;
 }

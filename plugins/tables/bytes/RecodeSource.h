@@ -17,26 +17,26 @@ public:
     RecodeSource(std::unique_ptr<ByteSource> source, const std::string &encoding);
     ~RecodeSource() override;
 
-    size_t read(char *to, size_t size) override;
+    std::size_t read(char *to, std::size_t size) override;
 
 private:
     void fillInput();
-    size_t convert(char *to, size_t size);
+    std::size_t convert(char *to, std::size_t size);
 
     std::unique_ptr<ByteSource> m_source;
     void *m_converter;
     std::vector<char> m_input;
-    size_t m_inputBegin = 0;
-    size_t m_inputEnd = 0;
+    std::size_t m_inputBegin = 0;
+    std::size_t m_inputEnd = 0;
     std::string m_edge; ///< characters that the caller had no room for as a whole
-    size_t m_edgeBegin = 0;
-    size_t m_unit = 1; ///< bytes to step over after a sequence that means nothing
+    std::size_t m_edgeBegin = 0;
+    std::size_t m_unit = 1; ///< bytes to step over after a sequence that means nothing
     bool m_inputEnded = false;
 };
 
 /// Name of the encoding that a byte order mark at the start of `head` tells, else empty; `markSize`
 /// is its length.
-std::string encodingOfMark(const std::string &head, size_t &markSize);
+std::string encodingOfMark(const std::string &head, std::size_t &markSize);
 
 /// One text in UTF-8.
 std::string recoded(const std::string &text, const std::string &encoding);

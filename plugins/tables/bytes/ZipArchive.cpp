@@ -16,12 +16,12 @@ constexpr uint32_t End64Signature = 0x06064b50;
 constexpr uint32_t Locator64Signature = 0x07064b50;
 constexpr uint32_t MemberSignature = 0x02014b50;
 constexpr uint32_t LocalSignature = 0x04034b50;
-constexpr size_t EndSize = 22;
-constexpr size_t End64Size = 56;
-constexpr size_t LocatorSize = 20;
-constexpr size_t MemberSize = 46;
-constexpr size_t LocalSize = 30;
-constexpr size_t LongestComment = 65535;
+constexpr std::size_t EndSize = 22;
+constexpr std::size_t End64Size = 56;
+constexpr std::size_t LocatorSize = 20;
+constexpr std::size_t MemberSize = 46;
+constexpr std::size_t LocalSize = 30;
+constexpr std::size_t LongestComment = 65535;
 constexpr uint64_t LargestDirectory = uint64_t{64} << 20;
 constexpr uint16_t EncryptedFlag = 1;
 constexpr uint32_t Marker32 = 0xffffffff;
@@ -44,11 +44,11 @@ std::string lowered(std::string text)
 ZipArchive::ZipArchive(std::shared_ptr<const InputFile> file) : m_file(std::move(file))
 {
     const uint64_t fileSize = m_file->size();
-    const size_t tailSize =
-        static_cast<size_t>(std::min<uint64_t>(fileSize, EndSize + LongestComment));
+    const std::size_t tailSize =
+        static_cast<std::size_t>(std::min<uint64_t>(fileSize, EndSize + LongestComment));
     std::string tail(tailSize, '\0');
     m_file->readExactly(fileSize - tailSize, tail.data(), tailSize);
-    for (size_t at = tailSize < EndSize ? 0 : tailSize - EndSize + 1; at-- > 0;) {
+    for (std::size_t at = tailSize < EndSize ? 0 : tailSize - EndSize + 1; at-- > 0;) {
         const char *end = tail.data() + at;
         if (u32(end) != EndSignature)
             continue;
@@ -79,15 +79,15 @@ void ZipArchive::readDirectory(uint64_t offset, uint64_t size)
 {
     if (size > LargestDirectory)
         refuse("MESS_TAB_DIRECTORY_DAMAGED");
-    std::vector<char> bytes(static_cast<size_t>(size));
+    std::vector<char> bytes(static_cast<std::size_t>(size));
     m_file->readExactly(offset, bytes.data(), bytes.size());
     const char *at = bytes.data();
     const char *end = at + bytes.size();
-    while (static_cast<size_t>(end - at) >= MemberSize && u32(at) == MemberSignature) {
-        const size_t nameSize = u16(at + 28);
-        const size_t extraSize = u16(at + 30);
-        const size_t whole = MemberSize + nameSize + extraSize + u16(at + 32);
-        if (static_cast<size_t>(end - at) < whole)
+    while (static_cast<std::size_t>(end - at) >= MemberSize && u32(at) == MemberSignature) {
+        const std::size_t nameSize = u16(at + 28);
+        const std::size_t extraSize = u16(at + 30);
+        const std::size_t whole = MemberSize + nameSize + extraSize + u16(at + 32);
+        if (static_cast<std::size_t>(end - at) < whole)
             refuse("MESS_TAB_DIRECTORY_DAMAGED");
         Member member = {u32(at + 42), u32(at + 20), u32(at + 16), u16(at + 10), u16(at + 8)};
         uint64_t inflatedSize = u32(at + 24);
@@ -139,17 +139,17 @@ std::unique_ptr<ByteSource> ZipArchive::open(const std::string &name) const
     return std::make_unique<InflateSource>(std::move(bytes), member->crc);
 }
 
-std::string ZipArchive::readAll(const std::string &name, size_t limit) const
+std::string ZipArchive::readAll(const std::string &name, std::size_t limit) const
 {
     const std::unique_ptr<ByteSource> source = open(name);
     std::string text;
-    constexpr size_t Step = size_t{64} << 10;
+    constexpr std::size_t Step = std::size_t{64} << 10;
     for (;;) {
-        const size_t before = text.size();
+        const std::size_t before = text.size();
         if (before > limit)
             refuse("MESS_TAB_PART_TOO_LARGE");
         text.resize(before + Step);
-        const size_t got = source->read(text.data() + before, Step);
+        const std::size_t got = source->read(text.data() + before, Step);
         text.resize(before + got);
         if (got == 0)
             return text;

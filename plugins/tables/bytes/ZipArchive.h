@@ -24,7 +24,7 @@ public:
     /// or damaged, Encrypted, NotSupportedFormat for another compression method.
     std::unique_ptr<ByteSource> open(const std::string &name) const;
     /// A whole member as text, at most `limit` bytes (Malformed beyond).
-    std::string readAll(const std::string &name, size_t limit) const;
+    std::string readAll(const std::string &name, std::size_t limit) const;
 
 private:
     struct Member

@@ -16,7 +16,7 @@ namespace {
 const char *findPairPlain(const char *begin, const char *end, char first, char second)
 {
     while (end - begin >= 2) {
-        const void *found = std::memchr(begin, first, static_cast<size_t>(end - begin - 1));
+        const void *found = std::memchr(begin, first, static_cast<std::size_t>(end - begin - 1));
         if (!found)
             break;
         begin = static_cast<const char *>(found);
@@ -109,7 +109,7 @@ const char *findText(const char *begin, const char *end, std::string_view text)
 {
     for (;;) {
         begin = findPair(begin, end, text[0], text[1]);
-        if (begin == end || static_cast<size_t>(end - begin) < text.size())
+        if (begin == end || static_cast<std::size_t>(end - begin) < text.size())
             return end;
         if (std::memcmp(begin, text.data(), text.size()) == 0)
             return begin;

@@ -10,14 +10,14 @@ namespace vlt::driver {
 namespace {
 
 constexpr std::string_view Blanks(" \t\r\n\v\f\0", 7);
-constexpr size_t ShortText = 256; ///< which any cell may have, however long the others are
+constexpr std::size_t ShortText = 256; ///< which any cell may have, however long the others are
 constexpr std::string_view NoBreakSpace = "\xC2\xA0";
 
 } // namespace
 
 void Row::addMissingText(int column, std::string_view textNumber)
 {
-    constexpr size_t LongestNumber = 20;
+    constexpr std::size_t LongestNumber = 20;
     faults.push_back({column, contract::formatted("MESS_TAB_MISSING_TEXT",
                                                   {textNumber.substr(0, LongestNumber)})});
 }
@@ -37,7 +37,7 @@ void Row::addMended(Cell cell)
         std::erase(plain, '\0');
         cell.text = keep(std::move(plain));
     }
-    const size_t room =
+    const std::size_t room =
         std::clamp(LongestRowText - std::min(m_textSize, LongestRowText), ShortText, LongestText);
     const std::string_view first = firstCharacters(cell.text, room);
     if (isTooLong || first.size() < cell.text.size()) {
@@ -52,11 +52,11 @@ void Row::addMended(Cell cell)
         cells.push_back(cell);
 }
 
-std::string_view firstCharacters(std::string_view text, size_t count)
+std::string_view firstCharacters(std::string_view text, std::size_t count)
 {
     if (text.size() <= count)
         return text;
-    size_t at = 0;
+    std::size_t at = 0;
     for (; at < text.size(); ++at)
         if ((text[at] & 0xC0) != 0x80 && count-- == 0)
             break;
@@ -66,7 +66,7 @@ std::string_view firstCharacters(std::string_view text, size_t count)
 std::string_view trimmedSlowly(std::string_view text)
 {
     for (;;) {
-        const size_t first = text.find_first_not_of(Blanks);
+        const std::size_t first = text.find_first_not_of(Blanks);
         if (first == std::string_view::npos)
             return {};
         text = text.substr(first, text.find_last_not_of(Blanks) - first + 1);

@@ -27,9 +27,9 @@ struct Cell
 };
 
 /// Most characters of a text: what a cell of a workbook holds.
-constexpr size_t LongestText = 32767;
+constexpr std::size_t LongestText = 32767;
 /// Most bytes of all texts of a row, short ones apart.
-constexpr size_t LongestRowText = size_t{16} << 20;
+constexpr std::size_t LongestRowText = std::size_t{16} << 20;
 
 /// What a cell holds in the file and could not be read.
 struct CellFault
@@ -82,12 +82,12 @@ private:
     void addMended(Cell cell);
 
     std::deque<std::string> m_kept;
-    size_t m_textSize = 0; ///< of the cells so far
+    std::size_t m_textSize = 0; ///< of the cells so far
     bool m_holdsZeros = false;
 };
 
 /// The first characters of a UTF-8 text, `count` at most.
-std::string_view firstCharacters(std::string_view text, size_t count);
+std::string_view firstCharacters(std::string_view text, std::size_t count);
 
 /// What trimmed() does, without its short cut.
 std::string_view trimmedSlowly(std::string_view text);

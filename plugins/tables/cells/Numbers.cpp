@@ -26,7 +26,7 @@ std::optional<double> parseAnyNumber(std::string_view text, DecimalMark mark)
 {
     std::string plain;
     plain.reserve(text.size());
-    for (size_t at = text.starts_with('+') ? 1 : 0; at < text.size(); ++at) {
+    for (std::size_t at = text.starts_with('+') ? 1 : 0; at < text.size(); ++at) {
         const char c = text[at];
         const bool sign = c == '-' || c == '+';
         if (c == static_cast<char>(mark))
@@ -70,20 +70,21 @@ std::optional<double> parseNumber(std::string_view text, DecimalMark mark)
     }
     if (at != end || count == 0 || count > ExactDigits)
         return count == 0 ? std::nullopt : parseAnyNumber(text, mark);
-    const double value = static_cast<double>(digits) / PowersOfTen[static_cast<size_t>(fraction)];
+    const double value =
+        static_cast<double>(digits) / PowersOfTen[static_cast<std::size_t>(fraction)];
     return negative ? -value : value;
 }
 
 NumberShape numberShape(std::string_view text)
 {
     NumberShape shape;
-    size_t at = 0;
+    std::size_t at = 0;
     const bool plus = text.starts_with('+');
     if (plus || text.starts_with('-'))
         ++at;
-    const size_t first = at;
-    size_t whole = 0;
-    size_t digits = 0;
+    const std::size_t first = at;
+    std::size_t whole = 0;
+    std::size_t digits = 0;
     for (; at < text.size() && isDigit(text[at]); ++at)
         ++whole;
     digits = whole;
@@ -98,7 +99,7 @@ NumberShape numberShape(std::string_view text)
         return {};
     if (at < text.size() && (text[at] == 'e' || text[at] == 'E')) {
         // 12E3 is as likely the name of a cell; 1.2E3 and 12E+03 are numbers.
-        const size_t exponent = at + 1;
+        const std::size_t exponent = at + 1;
         const bool sign =
             exponent < text.size() && (text[exponent] == '+' || text[exponent] == '-');
         at = exponent + (sign ? 1 : 0);

@@ -19,7 +19,7 @@ constexpr int64_t SecondsPerDay = 86400;
 bool isDateFormat(std::string_view format)
 {
     bool quoted = false;
-    for (size_t at = 0; at < format.size(); ++at) {
+    for (std::size_t at = 0; at < format.size(); ++at) {
         const char c = format[at];
         if (c == '"')
             quoted = !quoted;
@@ -28,7 +28,7 @@ bool isDateFormat(std::string_view format)
         else if (c == '\\' || c == '_' || c == '*')
             ++at;
         else if (c == '[') {
-            const size_t close = format.find(']', at);
+            const std::size_t close = format.find(']', at);
             if (close == std::string_view::npos)
                 return false;
             const char inside = at + 1 < close ? format[at + 1] : '\0';

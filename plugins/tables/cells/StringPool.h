@@ -13,9 +13,9 @@ namespace vlt::driver {
 class StringPool
 {
 public:
-    size_t size() const { return m_places.size(); }
+    std::size_t size() const { return m_places.size(); }
 
-    std::string_view operator[](size_t index) const
+    std::string_view operator[](std::size_t index) const
     {
         const Place &place = m_places[index];
         return {m_blocks[place.block].get() + place.offset, place.size};
@@ -38,7 +38,7 @@ public:
     void clear() { *this = {}; }
 
 private:
-    static constexpr size_t BlockSize = size_t{256} << 10;
+    static constexpr std::size_t BlockSize = std::size_t{256} << 10;
 
     struct Place
     {
@@ -49,8 +49,8 @@ private:
 
     std::vector<std::unique_ptr<char[]>> m_blocks;
     std::vector<Place> m_places;
-    size_t m_used = 0;
-    size_t m_capacity = 0;
+    std::size_t m_used = 0;
+    std::size_t m_capacity = 0;
 };
 
 } // namespace vlt::driver

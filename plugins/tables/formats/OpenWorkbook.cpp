@@ -11,7 +11,7 @@ namespace vlt::driver {
 
 namespace {
 
-constexpr size_t HeadSize = 512;
+constexpr std::size_t HeadSize = 512;
 
 /// Whether an ASCII text of any character width starts with "<" behind marks and white space.
 bool startsWithTag(const std::string &head)

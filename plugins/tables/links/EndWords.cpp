@@ -35,14 +35,14 @@ LinkEndId numberedEnd(std::string_view word, EndStyle style)
                                         : LinkEndId::None;
 }
 
-constexpr size_t NotThere = std::string::npos;
+constexpr std::size_t NotThere = std::string::npos;
 
 /// Where the word that names the end stands: in front ("Site A X"), second ("X A"),
 /// else anywhere.
-size_t findNamed(const std::vector<std::string> &words)
+std::size_t findNamed(const std::vector<std::string> &words)
 {
-    size_t last = NotThere;
-    for (size_t at = 0; at < words.size(); ++at) {
+    std::size_t last = NotThere;
+    for (std::size_t at = 0; at < words.size(); ++at) {
         if (namedEnd(words[at]) == LinkEndId::None)
             continue;
         if (!isIn(WeakWords, words[at]))
@@ -53,9 +53,9 @@ size_t findNamed(const std::vector<std::string> &words)
 }
 
 /// The last digit that stands alone: "TX1 (MHz) 2", "Azimuth (deg 1) 2".
-size_t findNumber(const std::vector<std::string> &words, EndStyle style)
+std::size_t findNumber(const std::vector<std::string> &words, EndStyle style)
 {
-    for (size_t at = words.size(); at-- > 0;)
+    for (std::size_t at = words.size(); at-- > 0;)
         if (numberedEnd(words[at], style) != LinkEndId::None)
             return at;
     return NotThere;
@@ -68,10 +68,10 @@ EndWords readEndWords(const std::string &name, EndStyle style)
     EndWords result;
     result.words = linkWordsOf(name);
     std::vector<std::string> &words = result.words;
-    const size_t named = findNamed(words);
-    const size_t number = findNumber(words, style);
+    const std::size_t named = findNamed(words);
+    const std::size_t number = findNumber(words, style);
     result.isNumbered = number != NotThere && (named == NotThere || style != EndStyle::Names);
-    const size_t at = result.isNumbered ? number : named;
+    const std::size_t at = result.isNumbered ? number : named;
     if (at == NotThere)
         return result;
     result.end = result.isNumbered ? numberedEnd(words[at], style) : namedEnd(words[at]);

@@ -144,7 +144,7 @@ int bestFit(const Names &names, LinkEndId end, Fit (*fitOf)(const EndWords &name
 {
     int best = -1;
     Fit bestFit = 0;
-    for (size_t i = 0; i < names.size(); ++i)
+    for (std::size_t i = 0; i < names.size(); ++i)
         if (const Fit fit = names[i].end == end ? fitOf(names[i]) : 0; fit > bestFit) {
             best = static_cast<int>(i);
             bestFit = fit;
@@ -168,7 +168,7 @@ Names readNames(const TableProfile &table, EndStyle style)
 PointFields findEnd(const Names &names, LinkEndId end, const std::vector<Field> &fields)
 {
     FieldWords words(names.size());
-    for (size_t i = 0; i < names.size(); ++i)
+    for (std::size_t i = 0; i < names.size(); ++i)
         if (names[i].end == end)
             words[i] = names[i].words;
     return findPoint(words, fields);
@@ -192,8 +192,8 @@ FoundEnds findEnds(const TableProfile &table, EndStyle style)
     ends.a = findEnd(ends.names, LinkEndId::A, table.fields);
     ends.b = findEnd(ends.names, LinkEndId::B, table.fields);
     ends.areNumbered = ends.found() &&
-                       ends.names[static_cast<size_t>(ends.a.xField())].isNumbered &&
-                       ends.names[static_cast<size_t>(ends.b.xField())].isNumbered;
+                       ends.names[static_cast<std::size_t>(ends.a.xField())].isNumbered &&
+                       ends.names[static_cast<std::size_t>(ends.b.xField())].isNumbered;
     return ends;
 }
 
@@ -236,8 +236,8 @@ std::string findFormat(const TableProfile &table, bool numbered)
 
 QuantityField quantityField(int field, UnitOf unitOf, const std::vector<Field> &fields)
 {
-    return {field,
-            field < 0 ? std::nullopt : unitInName(fields[static_cast<size_t>(field)].name, unitOf)};
+    return {field, field < 0 ? std::nullopt
+                             : unitInName(fields[static_cast<std::size_t>(field)].name, unitOf)};
 }
 
 LinkEndFields endFields(const Names &names, LinkEndId end, const PointFields &point,

@@ -40,7 +40,8 @@ double LinkPlacer::offsetM(int64_t row, const QuantityField &offset,
         return 0;
     const auto metres = readLengthM(text, offset.unit.value_or(1));
     if (!metres)
-        problems.push_back({row, m_table->fields[static_cast<size_t>(offset.field)].name, false,
+        problems.push_back({row, m_table->fields[static_cast<std::size_t>(offset.field)].name,
+                            false,
                             contract::formatted("MESS_TAB_OFFSET_UNREADABLE", {quotation(text)})});
     return metres.value_or(0);
 }
@@ -68,7 +69,7 @@ std::array<Position, 2> LinkPlacer::place(int64_t row, const std::vector<const C
                                           std::vector<RowProblem> &problems) const
 {
     std::array<Position, 2> positions;
-    for (size_t end = 0; end < positions.size(); ++end) {
+    for (std::size_t end = 0; end < positions.size(); ++end) {
         const LinkEndFields &fields = m_layout->ends[end];
         positions[end] = m_placers[end].place(row, cells, problems);
         const double eastM = offsetM(row, fields.dx, cells, problems);

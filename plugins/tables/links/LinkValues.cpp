@@ -35,7 +35,7 @@ LinkValueReader::LinkValueReader(const TableProfile &table, const LinkLayout &la
 
 const std::string &LinkValueReader::nameOf(int field) const
 {
-    return m_table->fields[static_cast<size_t>(field)].name;
+    return m_table->fields[static_cast<std::size_t>(field)].name;
 }
 
 std::optional<double> LinkValueReader::heightM(const Place &place,
@@ -85,12 +85,12 @@ void LinkValueReader::readFrequencies(const Place &place, LinkValues &values) co
 {
     bool isUnreadable = false;
     int column = m_layout->band.field;
-    for (size_t end = values.ends.size(); end-- > 0;)
+    for (std::size_t end = values.ends.size(); end-- > 0;)
         if (m_layout->ends[end].frequency.found())
             column = m_layout->ends[end].frequency.field;
     if (column < 0)
         return;
-    for (size_t end = 0; end < values.ends.size(); ++end)
+    for (std::size_t end = 0; end < values.ends.size(); ++end)
         values.ends[end].frequencyMHz =
             frequencyMHz(place, m_layout->ends[end].frequency, isUnreadable);
     std::optional<double> &a = values.ends[0].frequencyMHz;
@@ -111,7 +111,7 @@ LinkValues LinkValueReader::read(int64_t row, const std::vector<const Cell *> &c
     const Place place = {row, cells, problems};
     LinkValues values;
     values.name = fieldText(cells, m_layout->name);
-    for (size_t end = 0; end < values.ends.size(); ++end) {
+    for (std::size_t end = 0; end < values.ends.size(); ++end) {
         const LinkEndFields &fields = m_layout->ends[end];
         LinkEndValues &of = values.ends[end];
         of.identifier = fieldText(cells, fields.identifier);

@@ -65,18 +65,18 @@ struct LeadingNumber
 
 /// Size of a number whose thousands are grouped, such as 11,485.5; 0 where the text starts with
 /// none. Only a point behind the groups shows that the commas are no decimal marks.
-size_t groupedSize(std::string_view text)
+std::size_t groupedSize(std::string_view text)
 {
-    const auto digitsAt = [text](size_t at) {
-        size_t count = 0;
+    const auto digitsAt = [text](std::size_t at) {
+        std::size_t count = 0;
         while (at + count < text.size() && isDigit(text[at + count]))
             ++count;
         return count;
     };
-    size_t at = digitsAt(0);
+    std::size_t at = digitsAt(0);
     if (at == 0 || at > 3)
         return 0;
-    size_t groups = 0;
+    std::size_t groups = 0;
     for (; at < text.size() && text[at] == ',' && digitsAt(at + 1) == 3; at += 4)
         ++groups;
     const bool fraction = at < text.size() && text[at] == '.' && digitsAt(at + 1) > 0;
@@ -85,16 +85,16 @@ size_t groupedSize(std::string_view text)
 
 std::optional<LeadingNumber> leadingNumber(std::string_view text)
 {
-    size_t begin = !text.empty() && (text[0] == '-' || text[0] == '+') ? 1 : 0;
+    std::size_t begin = !text.empty() && (text[0] == '-' || text[0] == '+') ? 1 : 0;
     const bool negative = text.starts_with('-');
     std::string_view digits = text.substr(begin);
     std::string plain;
-    size_t size = groupedSize(digits);
+    std::size_t size = groupedSize(digits);
     if (size > 0) {
         plain = digits.substr(0, size);
         plain.erase(std::remove(plain.begin(), plain.end(), ','), plain.end());
     } else {
-        const size_t end = digits.find_first_not_of("0123456789.,eE+-");
+        const std::size_t end = digits.find_first_not_of("0123456789.,eE+-");
         size = end == std::string_view::npos ? digits.size() : end;
         // 1.15e10 is one number; of 6123.1, 6200.2 or 18-23 the first one counts.
         if (!numberShape(digits.substr(0, size)).isNumber) {
@@ -160,7 +160,7 @@ std::optional<double> readDegrees(std::string_view text)
 
 std::optional<double> readFrequencyMHz(std::string_view text, std::optional<double> unitMHz)
 {
-    const size_t begin = std::min(text.find_first_not_of(" \t['\"("), text.size());
+    const std::size_t begin = std::min(text.find_first_not_of(" \t['\"("), text.size());
     const auto leading = leadingNumber(trimmed(text.substr(begin)));
     if (!leading)
         return std::nullopt;

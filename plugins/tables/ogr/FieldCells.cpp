@@ -8,18 +8,19 @@ namespace vlt::driver {
 
 FieldCells::FieldCells(const TableProfile &table)
     : m_table(&table)
-    , m_fieldOfColumn(static_cast<size_t>(table.lastColumn) + 1, -1)
+    , m_fieldOfColumn(static_cast<std::size_t>(table.lastColumn) + 1, -1)
     , m_cells(table.fields.size())
     , m_numbers(table.fields.size())
     , m_null(table.fields.size())
 {
-    for (size_t field = 0; field < table.fields.size(); ++field)
-        m_fieldOfColumn[static_cast<size_t>(table.fields[field].column)] = static_cast<int>(field);
+    for (std::size_t field = 0; field < table.fields.size(); ++field)
+        m_fieldOfColumn[static_cast<std::size_t>(table.fields[field].column)] =
+            static_cast<int>(field);
 }
 
 namespace {
 
-constexpr size_t ExactDigits = 15;
+constexpr std::size_t ExactDigits = 15;
 
 /// Whether a text is a number only at first sight: the digits of a name, of which some would be
 /// lost.
@@ -43,11 +44,11 @@ void FieldCells::takeFaults(int64_t row, const std::vector<CellFault> &faults,
         if (fault.column > m_table->lastColumn)
             continue; // that the row goes on there is a problem of its own
         const int field =
-            fault.column < 0 ? -1 : m_fieldOfColumn[static_cast<size_t>(fault.column)];
+            fault.column < 0 ? -1 : m_fieldOfColumn[static_cast<std::size_t>(fault.column)];
         if (field < 0 && fault.column >= 0)
             continue; // nobody reads the column
         const std::string column =
-            field < 0 ? std::string() : m_table->fields[static_cast<size_t>(field)].name;
+            field < 0 ? std::string() : m_table->fields[static_cast<std::size_t>(field)].name;
         problems.push_back({row, column, false, fault.text});
     }
 }
@@ -66,10 +67,10 @@ void FieldCells::take(const Row &row, std::vector<RowProblem> &problems)
                                                               std::to_string(cell.column + 1)})});
             break;
         }
-        const int field = m_fieldOfColumn[static_cast<size_t>(cell.column)];
+        const int field = m_fieldOfColumn[static_cast<std::size_t>(cell.column)];
         if (field < 0)
             continue;
-        const auto at = static_cast<size_t>(field);
+        const auto at = static_cast<std::size_t>(field);
         const Field &of = m_table->fields[at];
         m_cells[at] = &cell;
         m_null[at] = 0;

@@ -22,8 +22,8 @@ public:
     /// The cell of each field, null where it is empty.
     const std::vector<const Cell *> &cells() const { return m_cells; }
     /// The number of a field of numeric type; only where its cell is not null.
-    double number(size_t field) const { return m_numbers[field]; }
-    bool isNull(size_t field) const { return m_null[field]; }
+    double number(std::size_t field) const { return m_numbers[field]; }
+    bool isNull(std::size_t field) const { return m_null[field]; }
 
 private:
     const TableProfile *m_table;

@@ -68,27 +68,27 @@ void LinkEndLayer::mergeInto(OGREnvelope &extent) const
 
 void LinkEndLayer::placeFeature(OGRFeature &feature, int part) const
 {
-    const Position &end = m_reader.row().placed[static_cast<size_t>(part)];
+    const Position &end = m_reader.row().placed[static_cast<std::size_t>(part)];
     if (end.found)
         setGeometry(feature, std::make_unique<OGRPoint>(end.x, end.y));
 }
 
 void LinkEndLayer::set(OGRFeature &feature, int field, const std::string &text) const
 {
-    if (!text.empty() && !isIgnored(static_cast<size_t>(field)))
+    if (!text.empty() && !isIgnored(static_cast<std::size_t>(field)))
         feature.SetField(field, text.c_str());
 }
 
 void LinkEndLayer::set(OGRFeature &feature, int field, const std::optional<double> &number) const
 {
-    if (number && !isIgnored(static_cast<size_t>(field)))
+    if (number && !isIgnored(static_cast<std::size_t>(field)))
         feature.SetField(field, *number);
 }
 
 void LinkEndLayer::fillFeature(OGRFeature &feature, int part) const
 {
     const LinkRow &row = m_reader.row();
-    const auto end = static_cast<size_t>(part);
+    const auto end = static_cast<std::size_t>(part);
     const LinkEndValues &values = row.values.ends[end];
     const Position &position = row.inFile[end];
     set(feature, SiteName, values.identifier);

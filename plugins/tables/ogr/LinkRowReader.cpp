@@ -44,8 +44,8 @@ void LinkRowReader::read(int64_t row, const std::vector<const Cell *> &cells,
 {
     m_row.inFile = m_placer.place(row, cells, problems);
     m_row.placed = m_row.inFile;
-    for (size_t end = 0; end < m_row.placed.size(); ++end) {
-        const size_t before = problems.size();
+    for (std::size_t end = 0; end < m_row.placed.size(); ++end) {
+        const std::size_t before = problems.size();
         m_systems->transform(row, m_row.placed[end], problems);
         if (problems.size() > before) // which of the ends it is
             problems.back().column = fieldName(m_facts->links().ends[end].point.xField());
@@ -56,10 +56,10 @@ void LinkRowReader::read(int64_t row, const std::vector<const Cell *> &cells,
 
 const std::string &LinkRowReader::fieldName(int field) const
 {
-    return m_facts->table.fields[static_cast<size_t>(field)].name;
+    return m_facts->table.fields[static_cast<std::size_t>(field)].name;
 }
 
-linkpath::LinkEnd LinkRowReader::endOf(size_t end) const
+linkpath::LinkEnd LinkRowReader::endOf(std::size_t end) const
 {
     return {m_row.inFile[end].x, m_row.inFile[end].y, {}};
 }
@@ -88,7 +88,7 @@ void LinkRowReader::measure(int64_t row, std::vector<RowProblem> &problems)
                    {numberText(std::round(*stated)), numberText(std::round(*m_row.lengthM))})});
 }
 
-std::optional<double> LinkRowReader::azimuthDeg(size_t end) const
+std::optional<double> LinkRowReader::azimuthDeg(std::size_t end) const
 {
     if (m_row.values.ends[end].azimuthDeg)
         return m_row.values.ends[end].azimuthDeg;

@@ -29,12 +29,12 @@ public:
     void read(int64_t row, const std::vector<const Cell *> &cells,
               std::vector<RowProblem> &problems);
     /// Azimuth of an end (0 or 1) as the table has it, else that of the other end seen from it.
-    std::optional<double> azimuthDeg(size_t end) const;
+    std::optional<double> azimuthDeg(std::size_t end) const;
     void addFileProblems(ProblemList &problems) const;
 
 private:
     const std::string &fieldName(int field) const;
-    linkpath::LinkEnd endOf(size_t end) const;
+    linkpath::LinkEnd endOf(std::size_t end) const;
     void measure(int64_t row, std::vector<RowProblem> &problems);
 
     const TableFacts *m_facts;

@@ -11,7 +11,7 @@ namespace vlt::driver {
 class ProblemList
 {
 public:
-    static constexpr size_t MostKept = 1000;
+    static constexpr std::size_t MostKept = 1000;
 
     void add(RowProblem problem)
     {
@@ -25,11 +25,11 @@ public:
             add(std::move(problem));
     }
 
-    size_t count() const { return m_count; }
+    std::size_t count() const { return m_count; }
     const std::vector<RowProblem> &kept() const { return m_kept; }
 
 private:
-    size_t m_count = 0;
+    std::size_t m_count = 0;
     std::vector<RowProblem> m_kept;
 };
 

@@ -10,7 +10,7 @@ namespace {
 
 using contract::formatted;
 
-constexpr size_t MostWarnings = 50;
+constexpr std::size_t MostWarnings = 50;
 
 /// The text of a problem as it is shown: row and column first.
 std::string describe(const RowProblem &problem)

@@ -17,7 +17,7 @@ public:
 
 private:
     std::set<int64_t> m_rows;
-    size_t m_count = 0;
+    std::size_t m_count = 0;
     bool m_areOmitted = false; ///< there were more than are said
 };
 

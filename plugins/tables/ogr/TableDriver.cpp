@@ -32,8 +32,9 @@ public:
     int GetLayerCount() override { return static_cast<int>(m_layers.size()); }
     OGRLayer *GetLayer(int index) override
     {
-        return index >= 0 && index < GetLayerCount() ? m_layers[static_cast<size_t>(index)].get()
-                                                     : nullptr;
+        return index >= 0 && index < GetLayerCount()
+                   ? m_layers[static_cast<std::size_t>(index)].get()
+                   : nullptr;
     }
 
     char **GetFileList() override { return CSLAddString(nullptr, m_file.c_str()); }

@@ -9,7 +9,7 @@ namespace vlt::driver {
 
 namespace {
 
-constexpr size_t TablesRemembered = 16;
+constexpr std::size_t TablesRemembered = 16;
 
 struct Remembered
 {
@@ -59,9 +59,9 @@ Memory &memory()
 
 std::string baseName(const std::string &path)
 {
-    const size_t slash = path.rfind('/');
+    const std::size_t slash = path.rfind('/');
     const std::string file = slash == std::string::npos ? path : path.substr(slash + 1);
-    const size_t dot = file.rfind('.');
+    const std::size_t dot = file.rfind('.');
     return dot == std::string::npos || dot == 0 ? file : file.substr(0, dot);
 }
 

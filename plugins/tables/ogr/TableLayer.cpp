@@ -118,7 +118,7 @@ void TableLayer::ResetReading()
 std::unique_ptr<DataRows> TableLayer::startWalk()
 {
     for (int field = 0; field < m_definition->GetFieldCount(); ++field)
-        m_ignored[static_cast<size_t>(field)] =
+        m_ignored[static_cast<std::size_t>(field)] =
             m_definition->GetFieldDefn(field)->IsIgnored() ? 1 : 0;
     return m_source.file->rows();
 }
@@ -127,7 +127,7 @@ void TableLayer::setColumns(OGRFeature &feature) const
 {
     const std::vector<Field> &fields = facts().table.fields;
     const std::vector<const Cell *> &cells = m_cells.cells();
-    for (size_t i = 0; i < fields.size(); ++i) {
+    for (std::size_t i = 0; i < fields.size(); ++i) {
         const Cell *cell = cells[i];
         if (!cell || isIgnored(i))
             continue;
@@ -363,7 +363,7 @@ char **TableLayer::problemsMetadata()
         problems = std::move(found);
     }
     m_problemsItems.SetNameValue("COUNT", std::to_string(problems->count()).c_str());
-    size_t number = 0;
+    std::size_t number = 0;
     for (const RowProblem &problem : problems->kept()) {
         const std::string row = problem.row > 0 ? std::to_string(problem.row) : std::string();
         const std::string value = "PROBLEM_" + std::to_string(++number) + '=' + row + '|' +

@@ -56,7 +56,7 @@ protected:
     const TableFacts &facts() const { return m_source.facts(); }
     const TableSystems &systems() const { return *m_source.systems; }
     const FieldCells &cells() const { return m_cells; }
-    bool isIgnored(size_t field) const { return m_ignored[field]; }
+    bool isIgnored(std::size_t field) const { return m_ignored[field]; }
 
     /// Fields of the layer: the columns of the table, for setColumns(), or others.
     void defineColumns();

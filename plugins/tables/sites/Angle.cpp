@@ -113,7 +113,7 @@ Angle assemble(const Parts &parts, bool negative, int sign)
 {
     std::array<double, 3> values = {};
     for (int i = 0; i < parts.count; ++i) {
-        const std::string_view text = parts.texts[static_cast<size_t>(i)];
+        const std::string_view text = parts.texts[static_cast<std::size_t>(i)];
         const std::optional<double> value = number(text);
         if (!value)
             return fault("MESS_TAB_NOT_A_NUMBER");
@@ -121,7 +121,7 @@ Angle assemble(const Parts &parts, bool negative, int sign)
             return fault("MESS_TAB_FRACTION");
         if (i > 0 && *value >= MinutesPerDegree)
             return fault("MESS_TAB_BELOW_60");
-        values[static_cast<size_t>(i)] = *value;
+        values[static_cast<std::size_t>(i)] = *value;
     }
     if (negative && sign != 0)
         return fault("MESS_TAB_SIGN_AND_LETTER");
@@ -142,16 +142,16 @@ Angle readAngle(std::string_view text, Axis axis)
     int sign = 0;
     bool negative = false;
     bool unitLetters = false; ///< as in 48d51m24s: an s behind them is no hemisphere
-    for (size_t at = 0; at < text.size();) {
+    for (std::size_t at = 0; at < text.size();) {
         const Mark *mark = markAt(text.substr(at));
         const char c = mark ? mark->meaning : text[at];
         if (isNumberByte(c)) {
-            const size_t begin = at;
+            const std::size_t begin = at;
             while (at < text.size() && isNumberByte(text[at]))
                 ++at;
             if (parts.count == 3)
                 return fault("MESS_TAB_MANY_PARTS");
-            parts.texts[static_cast<size_t>(parts.count++)] = text.substr(begin, at - begin);
+            parts.texts[static_cast<std::size_t>(parts.count++)] = text.substr(begin, at - begin);
             continue;
         }
         if (c == '-' || c == '+') {

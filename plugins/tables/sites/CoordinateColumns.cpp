@@ -102,7 +102,7 @@ int strongest(const std::vector<Role> &roles, Axis axis, const std::string *rest
 {
     int best = -1;
     int bestScore = 0;
-    for (size_t i = 0; i < roles.size(); ++i) {
+    for (std::size_t i = 0; i < roles.size(); ++i) {
         const bool usable =
             roles[i].part == Role::Part::Whole || roles[i].part == Role::Part::Degrees;
         const int score = 2 * roles[i].strength + (rest && roles[i].rest == *rest ? 5 : 0);
@@ -131,9 +131,9 @@ CoordinateFields coordinateFields(const std::vector<Role> &roles, const std::vec
     fields.value = value;
     if (value < 0)
         return fields;
-    const Role &degrees = roles[static_cast<size_t>(value)];
+    const Role &degrees = roles[static_cast<std::size_t>(value)];
     const bool inParts = degrees.part == Role::Part::Degrees;
-    for (size_t i = 0; i < roles.size(); ++i) {
+    for (std::size_t i = 0; i < roles.size(); ++i) {
         if (roles[i].axis != degrees.axis)
             continue;
         if (!inParts &&
@@ -152,10 +152,10 @@ CoordinateFields coordinateFields(const std::vector<Role> &roles, const std::vec
 /// A field whose cells hold both coordinates, for tables without columns for each.
 int findPair(const FieldWords &words, const std::vector<Field> &fields)
 {
-    for (size_t i = 0; i < fields.size(); ++i) {
+    for (std::size_t i = 0; i < fields.size(); ++i) {
         if (!words[i])
             continue;
-        size_t good = 0;
+        std::size_t good = 0;
         for (const std::string &text : fields[i].samples)
             good += readCoordinatePair(text).fault ? 0 : 1;
         if (good > 0 && good * 10 >= fields[i].samples.size() * 8)
@@ -174,9 +174,9 @@ bool saysMeters(const std::string &name)
 
 CoordinateUnit unitOfSamples(const Field &field, Axis axis)
 {
-    size_t inParts = 0;
-    size_t large = 0;
-    size_t readable = 0;
+    std::size_t inParts = 0;
+    std::size_t large = 0;
+    std::size_t readable = 0;
     for (const std::string &text : field.samples) {
         const std::string_view value = trimmed(text);
         const NumberShape shape = numberShape(value);
@@ -202,7 +202,8 @@ PointFields findPoint(const FieldWords &words, const std::vector<Field> &fields)
     PointFields point;
     const std::vector<Role> roles = rolesOf(words);
     const int x = strongest(roles, Axis::X, nullptr);
-    const int y = strongest(roles, Axis::Y, x >= 0 ? &roles[static_cast<size_t>(x)].rest : nullptr);
+    const int y =
+        strongest(roles, Axis::Y, x >= 0 ? &roles[static_cast<std::size_t>(x)].rest : nullptr);
     if (x >= 0 && y >= 0) {
         point.x = coordinateFields(roles, fields, x);
         point.y = coordinateFields(roles, fields, y);
@@ -214,7 +215,8 @@ PointFields findPoint(const FieldWords &words, const std::vector<Field> &fields)
 CoordinateUnit findUnit(const PointFields &point, const std::vector<Field> &fields)
 {
     if (point.pair >= 0) {
-        const std::vector<std::string> &samples = fields[static_cast<size_t>(point.pair)].samples;
+        const std::vector<std::string> &samples =
+            fields[static_cast<std::size_t>(point.pair)].samples;
         const bool dms = std::any_of(samples.begin(), samples.end(), [](const std::string &text) {
             return readCoordinatePair(text).inParts;
         });
@@ -224,8 +226,8 @@ CoordinateUnit findUnit(const PointFields &point, const std::vector<Field> &fiel
         return CoordinateUnit::Degrees;
     if (point.x.inParts() || point.y.inParts())
         return CoordinateUnit::Dms;
-    const Field &x = fields[static_cast<size_t>(point.x.value)];
-    const Field &y = fields[static_cast<size_t>(point.y.value)];
+    const Field &x = fields[static_cast<std::size_t>(point.x.value)];
+    const Field &y = fields[static_cast<std::size_t>(point.y.value)];
     const CoordinateUnit ofX = unitOfSamples(x, Axis::X);
     const CoordinateUnit ofY = unitOfSamples(y, Axis::Y);
     if (ofX == CoordinateUnit::Dms || ofY == CoordinateUnit::Dms)

@@ -33,15 +33,15 @@ CoordinatePair readCoordinatePair(std::string_view text)
     char separator = text.find(';') != std::string_view::npos ? ';' : ',';
     const bool isPoint = text.size() > 6 && lowerCase(text.substr(0, 5)) == "point";
     if (isPoint) {
-        const size_t open = text.find('(');
-        const size_t close = text.rfind(')');
+        const std::size_t open = text.find('(');
+        const std::size_t close = text.rfind(')');
         if (open == std::string_view::npos || close == std::string_view::npos || close < open)
             return {0, 0, false, TableTextId("MESS_TAB_NOT_A_POSITION")};
         text = trimmed(text.substr(open + 1, close - open - 1));
         separator = ' ';
         longitudeFirst = true;
     }
-    const size_t cut = text.find(separator);
+    const std::size_t cut = text.find(separator);
     if (cut == std::string_view::npos || cut == 0)
         return {0, 0, false, TableTextId("MESS_TAB_NOT_A_POSITION")};
     const std::string_view first = text.substr(0, cut);

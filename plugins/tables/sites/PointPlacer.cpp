@@ -29,14 +29,14 @@ std::string withHemisphere(std::string text, const std::string &hemisphere)
 
 std::string fieldText(const std::vector<const Cell *> &cells, int field)
 {
-    const Cell *cell = field >= 0 ? cells[static_cast<size_t>(field)] : nullptr;
+    const Cell *cell = field >= 0 ? cells[static_cast<std::size_t>(field)] : nullptr;
     return cell ? std::string(trimmed(cellText(*cell))) : std::string();
 }
 
 RowProblem PointPlacer::problem(int64_t row, int field, const std::string &value,
                                 TableTextId why) const
 {
-    const Field &of = m_table->fields[static_cast<size_t>(field)];
+    const Field &of = m_table->fields[static_cast<std::size_t>(field)];
     return {row, of.name, true,
             value.empty() ? contract::formatted("MESS_TAB_NO_COORDINATE")
                           : contract::formatted(why, {quotation(value)})};
@@ -46,7 +46,7 @@ bool PointPlacer::readAxis(int64_t row, const CoordinateFields &fields, Axis axi
                            const std::vector<const Cell *> &cells, double &value,
                            std::vector<RowProblem> &problems) const
 {
-    const Cell *cell = cells[static_cast<size_t>(fields.value)];
+    const Cell *cell = cells[static_cast<std::size_t>(fields.value)];
     const std::string hemisphere = fields.hemisphere >= 0 && m_unit != CoordinateUnit::Meters
                                        ? fieldText(cells, fields.hemisphere)
                                        : std::string();
@@ -55,7 +55,7 @@ bool PointPlacer::readAxis(int64_t row, const CoordinateFields &fields, Axis axi
         std::optional<double> number = cell->number;
         if (!cell->text.empty())
             number = parseNumber(trimmed(cell->text),
-                                 m_table->fields[static_cast<size_t>(fields.value)].mark);
+                                 m_table->fields[static_cast<std::size_t>(fields.value)].mark);
         if (number) {
             value = *number;
             return true;

@@ -15,7 +15,7 @@ std::string recogniseFormat(const std::vector<Field> &fields)
             words[1].find_first_not_of("0123456789") != std::string::npos)
             continue;
         std::string rest = words[2];
-        for (size_t i = 3; i < words.size(); ++i)
+        for (std::size_t i = 3; i < words.size(); ++i)
             rest += ' ' + words[i];
         asset = asset || rest == "ant index" || rest == "down tilt";
         atoll = atoll || rest == "transmitter";

@@ -12,8 +12,9 @@ namespace {
 std::string epsgIn(const std::string &text)
 {
     const std::string lower = lowerCase(text);
-    for (size_t at = lower.find("epsg"); at != std::string::npos; at = lower.find("epsg", at + 1)) {
-        size_t digit = lower.find_first_not_of(" :=#/", at + 4);
+    for (std::size_t at = lower.find("epsg"); at != std::string::npos;
+         at = lower.find("epsg", at + 1)) {
+        std::size_t digit = lower.find_first_not_of(" :=#/", at + 4);
         std::string code;
         while (digit < lower.size() && lower[digit] >= '0' && lower[digit] <= '9')
             code += lower[digit++];
@@ -46,7 +47,7 @@ std::string findEpsg(const TableProfile &table, const PointFields &point, Coordi
                        : epsgIn("epsg:" + field.samples.front());
     }
     if (unit != CoordinateUnit::Meters && point.x.found() &&
-        lowerCase(table.fields[static_cast<size_t>(point.x.value)].name).find("wgs84") !=
+        lowerCase(table.fields[static_cast<std::size_t>(point.x.value)].name).find("wgs84") !=
             std::string::npos)
         return "4326";
     return {};

@@ -11,7 +11,7 @@ namespace vlt::driver {
 
 namespace {
 
-constexpr size_t LongestSample = 100; ///< characters; no coordinate is longer
+constexpr std::size_t LongestSample = 100; ///< characters; no coordinate is longer
 constexpr double LargestExactWhole = 1e15;
 constexpr double Largest32 = std::numeric_limits<int32_t>::max();
 
@@ -24,7 +24,7 @@ bool isMissingWord(std::string_view text)
            std::find(Words.begin(), Words.end(), lowerCase(text)) != Words.end();
 }
 
-void ColumnStatistics::add(const Cell &cell, size_t samplesKept)
+void ColumnStatistics::add(const Cell &cell, std::size_t samplesKept)
 {
     ++m_filled;
     const std::string_view text = trimmed(cell.text);

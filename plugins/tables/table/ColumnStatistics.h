@@ -21,7 +21,7 @@ class ColumnStatistics
 {
 public:
     /// Of the first `samplesKept` cells the text is kept.
-    void add(const Cell &cell, size_t samplesKept);
+    void add(const Cell &cell, std::size_t samplesKept);
 
     /// The type that every sampled cell fits. `allRows` tells that no row was left out; otherwise
     /// whole numbers become Real, so that a fraction further down is not cut off.
@@ -29,17 +29,17 @@ public:
     /// Whether a text was met that is no number: further ones change nothing.
     bool isText() const { return m_texts > 0; }
     DecimalMark mark() const { return m_commas > 0 ? DecimalMark::Comma : DecimalMark::Point; }
-    size_t filled() const { return m_filled; }
+    std::size_t filled() const { return m_filled; }
     /// Some of the texts of the column, as many as decide a question about it.
     const std::vector<std::string> &samples() const { return m_samples; }
 
 private:
-    size_t m_filled = 0;
-    size_t m_texts = 0;
-    size_t m_numbers = 0;
-    size_t m_fractions = 0;
-    size_t m_commas = 0;
-    size_t m_points = 0;
+    std::size_t m_filled = 0;
+    std::size_t m_texts = 0;
+    std::size_t m_numbers = 0;
+    std::size_t m_fractions = 0;
+    std::size_t m_commas = 0;
+    std::size_t m_points = 0;
     bool m_beyond32 = false;
     std::vector<std::string> m_samples;
 };

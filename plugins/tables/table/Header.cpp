@@ -14,11 +14,11 @@ namespace {
 constexpr int RowsLookedAt = 50;
 constexpr int FewestWords = 2;
 constexpr int NumbersPerHeader = 5; ///< at most one cell in so many may be a number, such as a year
-constexpr size_t LongestName = 256; ///< characters
-constexpr size_t LongestTitle = 1000;
+constexpr std::size_t LongestName = 256; ///< characters
+constexpr std::size_t LongestTitle = 1000;
 
 /// The start of a cell's text.
-std::string startOf(const Cell &cell, size_t characters)
+std::string startOf(const Cell &cell, std::size_t characters)
 {
     Cell start = cell;
     start.text = firstCharacters(trimmed(cell.text), characters);
@@ -63,7 +63,7 @@ bool isValue(const Cell &cell)
 
 } // namespace
 
-std::optional<Header> findHeader(const Sheet &sheet, contract::TableKind kind, size_t &widest)
+std::optional<Header> findHeader(const Sheet &sheet, contract::TableKind kind, std::size_t &widest)
 {
     std::optional<Header> best;
     std::optional<Header> firstWide; ///< the first row with two cells or more
@@ -87,7 +87,7 @@ std::optional<Header> findHeader(const Sheet &sheet, contract::TableKind kind, s
             values += isValue(cell) ? 1 : 0;
             if (!isValue(cell) && isTableWord(name, kind))
                 tableNames.insert(lowerCase(name));
-            if (titles.size() < static_cast<size_t>(RowsLookedAt) * 8)
+            if (titles.size() < static_cast<std::size_t>(RowsLookedAt) * 8)
                 titles.push_back(startOf(cell, LongestTitle));
         }
         header.wordCount = static_cast<int>(tableNames.size());

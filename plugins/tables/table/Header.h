@@ -27,7 +27,7 @@ struct Header
 /// kind, two at least; else the first row with two cells or more, if none of its cells is a number,
 /// a date or the like. Nothing when there is none. `widest` grows to the number of cells of the
 /// widest row that was looked at.
-std::optional<Header> findHeader(const Sheet &sheet, contract::TableKind kind, size_t &widest);
+std::optional<Header> findHeader(const Sheet &sheet, contract::TableKind kind, std::size_t &widest);
 
 /// Whether a row repeats the header, as lists that were joined or printed page by page do.
 bool repeatsHeader(const Row &row, const Header &header);

@@ -42,7 +42,7 @@ constexpr std::array FusedEnds = {"start", "end", "from", "to", "tx", "rx",
                                   "a",     "b",   "0",    "1",  "2"};
 
 /// How many bytes of a word come before the end that it is written together with; 0 without one.
-size_t sizeBeforeEnd(std::string_view word)
+std::size_t sizeBeforeEnd(std::string_view word)
 {
     for (const std::string_view end : FusedEnds) {
         if (word.size() <= end.size() || !word.ends_with(end))
@@ -88,7 +88,7 @@ std::vector<std::string> linkWordsOf(std::string_view name)
 {
     std::vector<std::string> words;
     for (const std::string &word : wordsOf(name)) {
-        const size_t cut = sizeBeforeEnd(word);
+        const std::size_t cut = sizeBeforeEnd(word);
         if (cut > 0)
             words.push_back(word.substr(0, cut));
         words.push_back(word.substr(cut));

@@ -4,10 +4,10 @@ namespace vlt::driver {
 
 std::string quotation(std::string_view value)
 {
-    constexpr size_t Longest = 60;
+    constexpr std::size_t Longest = 60;
     if (value.size() <= Longest)
         return std::string(value);
-    size_t cut = Longest;
+    std::size_t cut = Longest;
     while (cut > 0 && (value[cut] & 0xC0) == 0x80) // not inside a character
         --cut;
     return std::string(value.substr(0, cut)) + "...";

@@ -10,11 +10,11 @@ namespace vlt::driver {
 namespace {
 
 constexpr uint64_t RowsSampledFirst = 1000;
-constexpr size_t SamplesPerColumn = 200;
-constexpr size_t SamplesPerTable = 200000; ///< but ten of each column
-constexpr uint64_t SampleEvery = 256;      ///< of the rows behind the first ones
+constexpr std::size_t SamplesPerColumn = 200;
+constexpr std::size_t SamplesPerTable = 200000; ///< but ten of each column
+constexpr uint64_t SampleEvery = 256;           ///< of the rows behind the first ones
 constexpr uint64_t RowsPerMark = 4096;
-constexpr size_t MostSheetsLookedAt = 64;
+constexpr std::size_t MostSheetsLookedAt = 64;
 constexpr double FullShare =
     0.9; ///< a column behind the header counts when this share of the rows fills it
 
@@ -45,8 +45,8 @@ Candidate chooseSheet(Workbook &workbook, const TableHints &hints)
 {
     Candidate best;
     bool anySheet = false;
-    size_t widest = 0;
-    for (size_t seen = 0; seen < MostSheetsLookedAt; ++seen) {
+    std::size_t widest = 0;
+    for (std::size_t seen = 0; seen < MostSheetsLookedAt; ++seen) {
         const std::shared_ptr<Sheet> sheet = workbook.nextSheet();
         if (!sheet)
             break;
@@ -77,17 +77,18 @@ Candidate chooseSheet(Workbook &workbook, const TableHints &hints)
 struct Sample
 {
     std::vector<ColumnStatistics> columns;
-    size_t rows = 0;
+    std::size_t rows = 0;
 
     void add(const Row &row)
     {
         ++rows;
-        if (!row.cells.empty() && static_cast<size_t>(row.cells.back().column) >= columns.size())
-            columns.resize(static_cast<size_t>(row.cells.back().column) + 1);
-        const size_t kept = std::clamp<size_t>(
-            SamplesPerTable / std::max<size_t>(columns.size(), 1), 10, SamplesPerColumn);
+        if (!row.cells.empty() &&
+            static_cast<std::size_t>(row.cells.back().column) >= columns.size())
+            columns.resize(static_cast<std::size_t>(row.cells.back().column) + 1);
+        const std::size_t kept = std::clamp<std::size_t>(
+            SamplesPerTable / std::max<std::size_t>(columns.size(), 1), 10, SamplesPerColumn);
         for (const Cell &cell : row.cells)
-            columns[static_cast<size_t>(cell.column)].add(cell, kept);
+            columns[static_cast<std::size_t>(cell.column)].add(cell, kept);
     }
 
     /// The columns that are text whatever else is in them.
@@ -130,9 +131,9 @@ void makeFields(TableProfile &profile, const Sample &sample, const TableHints &h
     const int width = std::max(lastNamed + 1, static_cast<int>(sample.columns.size()));
     for (int column = 0; column < width; ++column) {
         const auto named = profile.header.names.find(column);
-        const bool hasSample = static_cast<size_t>(column) < sample.columns.size();
+        const bool hasSample = static_cast<std::size_t>(column) < sample.columns.size();
         const ColumnStatistics statistics =
-            hasSample ? sample.columns[static_cast<size_t>(column)] : ColumnStatistics();
+            hasSample ? sample.columns[static_cast<std::size_t>(column)] : ColumnStatistics();
         const bool within = column < lastNamed && statistics.filled() > 0;
         const bool common = static_cast<double>(statistics.filled()) >=
                                 FullShare * static_cast<double>(sample.rows) &&
@@ -187,7 +188,7 @@ Table readTable(Workbook &workbook, const TableHints &hints)
         scan(*chosen.sheet, profile, sample);
         settled = chosen.sheet->settleEncoding();
         if (!settled) {
-            size_t widest = 0;
+            std::size_t widest = 0;
             chosen.header = findHeader(*chosen.sheet, hints.kind, widest).value_or(chosen.header);
         } else if (profile->rowCount == 0)
             throw RefusedFile(Refusal::Empty, "MESS_TAB_NO_ROW",

@@ -17,12 +17,12 @@ namespace {
 
 constexpr char Western[] = "WINDOWS-1252";
 constexpr char Cyrillic[] = "WINDOWS-1251";
-constexpr size_t BlockSize = size_t{1} << 20;
-constexpr size_t SampleSize = size_t{64} << 10;
-constexpr size_t CharactersPerBadByte = 2; ///< at least so many, or the text is not UTF-8
+constexpr std::size_t BlockSize = std::size_t{1} << 20;
+constexpr std::size_t SampleSize = std::size_t{64} << 10;
+constexpr std::size_t CharactersPerBadByte = 2; ///< at least so many, or the text is not UTF-8
 constexpr double ClearlyBetter = 0.1;
 constexpr double Negligible = 1e-9;
-constexpr size_t FewAccents = 8;
+constexpr std::size_t FewAccents = 8;
 
 struct DetectorRelease
 {
@@ -40,10 +40,11 @@ struct Census
         const Utf8Count count = countUtf8(lines);
         utf8.characters += count.characters;
         utf8.badBytes += count.badBytes;
-        for (size_t at = skipAscii(lines, 0); at < lines.size() && sample.size() < SampleSize;) {
-            const size_t before = lines.find_last_of("\r\n", at);
-            const size_t begin = before == std::string_view::npos ? 0 : before + 1;
-            const size_t end = std::min(lines.find_first_of("\r\n", at), lines.size());
+        for (std::size_t at = skipAscii(lines, 0);
+             at < lines.size() && sample.size() < SampleSize;) {
+            const std::size_t before = lines.find_last_of("\r\n", at);
+            const std::size_t begin = before == std::string_view::npos ? 0 : before + 1;
+            const std::size_t end = std::min(lines.find_first_of("\r\n", at), lines.size());
             sample.append(lines.substr(begin, std::min(end - begin, SampleSize)));
             sample += '\n';
             at = skipAscii(lines, end);
@@ -56,13 +57,13 @@ Census censusOf(const std::shared_ptr<const InputFile> &file)
     Census census;
     FileSource source(file, {{0, file->size()}});
     std::string block;
-    size_t kept = 0; ///< of a line that goes on behind the block
+    std::size_t kept = 0; ///< of a line that goes on behind the block
     for (;;) {
         block.resize(kept + BlockSize);
-        const size_t got = source.read(block.data() + kept, BlockSize);
+        const std::size_t got = source.read(block.data() + kept, BlockSize);
         block.resize(kept + got);
-        const size_t lineEnd = got > 0 ? block.find_last_of("\r\n") : std::string::npos;
-        const size_t whole = lineEnd == std::string::npos ? block.size() : lineEnd + 1;
+        const std::size_t lineEnd = got > 0 ? block.find_last_of("\r\n") : std::string::npos;
+        const std::size_t whole = lineEnd == std::string::npos ? block.size() : lineEnd + 1;
         census.add(std::string_view(block).substr(0, whole));
         block.erase(0, whole);
         kept = block.size();

@@ -83,7 +83,7 @@ char32_t smallLetter(char32_t code)
 std::u32string codesOf(std::string_view text)
 {
     std::u32string codes;
-    for (size_t at = 0; at < text.size();) {
+    for (std::size_t at = 0; at < text.size();) {
         const auto lead = static_cast<unsigned char>(text[at++]);
         char32_t code = lead < 0x80   ? lead
                         : lead < 0xE0 ? lead & 0x1FU
@@ -97,11 +97,11 @@ std::u32string codesOf(std::string_view text)
 }
 
 /// Letters that the alphabet with the most of them has.
-size_t inOneAlphabet(const std::map<char32_t, size_t> &letters)
+std::size_t inOneAlphabet(const std::map<char32_t, std::size_t> &letters)
 {
-    size_t most = 0;
+    std::size_t most = 0;
     for (const std::u32string_view alphabet : Alphabets) {
-        size_t known = 0;
+        std::size_t known = 0;
         for (const auto &[letter, count] : letters)
             known += alphabet.find(letter) != std::u32string_view::npos ? count : 0;
         most = std::max(most, known);
@@ -114,10 +114,10 @@ size_t inOneAlphabet(const std::map<char32_t, size_t> &letters)
 double plausibility(std::string_view text)
 {
     const std::u32string codes = codesOf(text);
-    std::map<char32_t, size_t> latin;
-    size_t good = 0;
-    size_t all = 0;
-    for (size_t at = 0; at < codes.size(); ++at) {
+    std::map<char32_t, std::size_t> latin;
+    std::size_t good = 0;
+    std::size_t all = 0;
+    for (std::size_t at = 0; at < codes.size(); ++at) {
         const char32_t code = codes[at];
         const char32_t before = at > 0 ? codes[at - 1] : U' ';
         const char32_t after = at + 1 < codes.size() ? codes[at + 1] : U' ';

@@ -14,26 +14,26 @@ namespace vlt::driver {
 
 namespace {
 
-constexpr size_t SampleLines = 200;
+constexpr std::size_t SampleLines = 200;
 constexpr std::string_view Delimiters =
     ";\t|,"; ///< the earlier wins between equals: commas are decimal marks, too
-constexpr size_t ControlShare = 200; ///< one control character in so many is still a text
-constexpr size_t FewControls = 3;    ///< which a short one may have
+constexpr std::size_t ControlShare = 200; ///< one control character in so many is still a text
+constexpr std::size_t FewControls = 3;    ///< which a short one may have
 
 /// Encoding of a text without a byte order mark whose characters are two or four bytes wide: mostly
 /// zeros in a regular pattern. Empty for other texts.
 std::string wideEncoding(std::string_view text)
 {
-    size_t zeros[4] = {};
-    const size_t units = text.size() / 4;
-    for (size_t at = 0; at < units * 4; ++at)
+    std::size_t zeros[4] = {};
+    const std::size_t units = text.size() / 4;
+    for (std::size_t at = 0; at < units * 4; ++at)
         zeros[at % 4] += text[at] == '\0' ? 1 : 0;
-    const auto most = [units](size_t count) { return units > 0 && count * 10 >= units * 7; };
+    const auto most = [units](std::size_t count) { return units > 0 && count * 10 >= units * 7; };
     if (most(zeros[1]) && most(zeros[2]) && most(zeros[3]) && !most(zeros[0]))
         return "UTF-32LE";
     if (most(zeros[0]) && most(zeros[1]) && most(zeros[2]) && !most(zeros[3]))
         return "UTF-32BE";
-    const auto few = [units](size_t count) { return count * 10 <= units; };
+    const auto few = [units](std::size_t count) { return count * 10 <= units; };
     if (most(zeros[1]) && most(zeros[3]) && few(zeros[0]) && few(zeros[2]))
         return "UTF-16LE";
     if (most(zeros[0]) && most(zeros[2]) && few(zeros[1]) && few(zeros[3]))
@@ -76,8 +76,8 @@ public:
     /// What a character is judged by.
     struct State
     {
-        size_t lines = 0; ///< that have ended
-        size_t fields = 1;
+        std::size_t lines = 0; ///< that have ended
+        std::size_t fields = 1;
         bool quoted = false;
         bool fieldStart = true;
         bool lineStart = true;
@@ -90,24 +90,24 @@ public:
         m_state = state;
         m_counts.resize(state.lines);
     }
-    const std::vector<size_t> &counts() const { return m_counts; }
+    const std::vector<std::size_t> &counts() const { return m_counts; }
 
 private:
     char m_delimiter;
-    std::vector<size_t> m_counts;
+    std::vector<std::size_t> m_counts;
     State m_state;
 };
 
 /// Number of fields of each line when cut at `delimiter`. As for the reader of the rows a mark that
 /// is never closed opens nothing.
-std::vector<size_t> fieldCounts(std::string_view text, char delimiter, bool isWhole)
+std::vector<std::size_t> fieldCounts(std::string_view text, char delimiter, bool isWhole)
 {
     constexpr int MostUnclosed = 8;
     FieldCounter counter(delimiter);
     FieldCounter::State beforeMark;
-    size_t mark = 0;
+    std::size_t mark = 0;
     int unclosed = 0;
-    for (size_t at = 0; at < text.size() && counter.counts().size() < SampleLines; ++at) {
+    for (std::size_t at = 0; at < text.size() && counter.counts().size() < SampleLines; ++at) {
         if (counter.opens(text[at])) {
             beforeMark = counter.state();
             mark = at;
@@ -128,14 +128,14 @@ std::vector<size_t> fieldCounts(std::string_view text, char delimiter, bool isWh
 /// The most common number of fields, more than one, and how many lines have it.
 struct UsualCount
 {
-    size_t fields = 0;
-    size_t lines = 0;
+    std::size_t fields = 0;
+    std::size_t lines = 0;
 };
 
-UsualCount usualCount(const std::vector<size_t> &counts)
+UsualCount usualCount(const std::vector<std::size_t> &counts)
 {
-    std::map<size_t, size_t> lines;
-    for (const size_t count : counts)
+    std::map<std::size_t, std::size_t> lines;
+    for (const std::size_t count : counts)
         ++lines[count];
     UsualCount usual;
     for (const auto &[fields, number] : lines)
@@ -146,15 +146,16 @@ UsualCount usualCount(const std::vector<size_t> &counts)
 
 /// How well a delimiter explains the lines: the share of lines with the most common number of
 /// fields (more than one), weighted gently by that number.
-double score(const std::vector<size_t> &counts)
+double score(const std::vector<std::size_t> &counts)
 {
     const UsualCount usual = usualCount(counts);
     if (usual.fields < 2)
         return 0;
     // In prose few lines have a comma; in a table every line below the titles has delimiters.
     const auto first =
-        std::find_if(counts.begin(), counts.end(), [](size_t count) { return count > 1; });
-    const auto cut = std::count_if(first, counts.end(), [](size_t count) { return count > 1; });
+        std::find_if(counts.begin(), counts.end(), [](std::size_t count) { return count > 1; });
+    const auto cut =
+        std::count_if(first, counts.end(), [](std::size_t count) { return count > 1; });
     if (cut * 10 < (counts.end() - first) * 7)
         return 0;
     return static_cast<double>(usual.lines) / static_cast<double>(counts.size()) *
@@ -189,7 +190,7 @@ bool looksLikeJson(std::string_view text)
 {
     if (text[0] != '{' && text[0] != '[')
         return false;
-    const size_t inner = text.find_first_not_of(" \t\r\n", 1);
+    const std::size_t inner = text.find_first_not_of(" \t\r\n", 1);
     return inner != std::string_view::npos &&
            std::string_view("{[\"").find(text[inner]) != std::string_view::npos;
 }
@@ -204,7 +205,7 @@ void refuseOtherKinds(std::string_view text)
         throw RefusedFile(Refusal::NotSupportedFormat, "MESS_TAB_JSON");
     if (start.starts_with("ID;P"))
         throw RefusedFile(Refusal::NotSupportedFormat, "MESS_TAB_SYLK");
-    size_t controls = 0; // zeros do no harm in a cell, and loggers pad with them
+    std::size_t controls = 0; // zeros do no harm in a cell, and loggers pad with them
     for (const char c : text)
         controls += static_cast<unsigned char>(c) < 0x20 &&
                             std::string_view("\n\r\t\f\0", 5).find(c) == std::string_view::npos
@@ -220,7 +221,7 @@ TextFormat findTextFormat(const std::shared_ptr<const InputFile> &file, const Te
 {
     TextFormat format;
     const std::string head = file->head(TextSampleSize);
-    size_t markSize = 0;
+    std::size_t markSize = 0;
     format.encoding = encodingOfMark(head, markSize);
     format.start = markSize;
     std::string text = head.substr(markSize);
@@ -240,7 +241,7 @@ TextFormat findTextFormat(const std::shared_ptr<const InputFile> &file, const Te
     if ((text.starts_with("sep=") || text.starts_with("SEP=")) && text.size() > 5 &&
         (text[5] == '\r' || text[5] == '\n')) {
         format.delimiter = text[4];
-        const size_t lineSize = text.substr(5, 2) == "\r\n" ? 7 : 6;
+        const std::size_t lineSize = text.substr(5, 2) == "\r\n" ? 7 : 6;
         text.erase(0, lineSize);
         if (format.isUtf8()) { // in wider encodings the line is read as a title row
             format.start += lineSize;

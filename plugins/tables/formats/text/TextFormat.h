@@ -9,7 +9,7 @@
 namespace vlt::driver {
 
 /// Bytes at the start of a file from which its format is guessed.
-constexpr size_t TextSampleSize = size_t{64} << 10;
+constexpr std::size_t TextSampleSize = std::size_t{64} << 10;
 
 /// How a text table is written.
 struct TextFormat
@@ -17,9 +17,9 @@ struct TextFormat
     std::string encoding;  ///< as iconv calls it; UTF-8 for plain ASCII, too
     bool isStated = false; ///< by a byte order mark, a pattern of zeros or the user
     char delimiter = ',';
-    uint64_t start = 0;    ///< bytes before the first row: a byte order mark
-    int64_t firstRow = 1;  ///< number of the first row: 2 behind a line "sep=;"
-    size_t fieldCount = 0; ///< of most rows; 0 where it is not known
+    uint64_t start = 0;         ///< bytes before the first row: a byte order mark
+    int64_t firstRow = 1;       ///< number of the first row: 2 behind a line "sep=;"
+    std::size_t fieldCount = 0; ///< of most rows; 0 where it is not known
 
     bool isUtf8() const { return encoding == "UTF-8"; }
 };

@@ -19,7 +19,7 @@ constexpr std::ptrdiff_t LongestQuoted = std::ptrdiff_t{8} << 20;
 const char *find(const char *begin, const char *end, char wanted)
 {
     const void *found =
-        begin < end ? std::memchr(begin, wanted, static_cast<size_t>(end - begin)) : nullptr;
+        begin < end ? std::memchr(begin, wanted, static_cast<std::size_t>(end - begin)) : nullptr;
     return found ? static_cast<const char *>(found) : end;
 }
 
@@ -45,10 +45,10 @@ TextField readField(const char *at, const char *rowEnd, char delimiter, Row *row
         }
         if (mark != rowEnd) {
             const char *end = find(mark + 1, rowEnd, delimiter);
-            std::string_view text = {at + 1, static_cast<size_t>(mark - at - 1)};
+            std::string_view text = {at + 1, static_cast<std::size_t>(mark - at - 1)};
             if (row && (doubled || end != mark + 1)) {
                 std::string whole;
-                for (size_t i = 0; i < text.size(); ++i) {
+                for (std::size_t i = 0; i < text.size(); ++i) {
                     whole += text[i];
                     i += text[i] == '"' ? 1 : 0;
                 }
@@ -61,14 +61,14 @@ TextField readField(const char *at, const char *rowEnd, char delimiter, Row *row
     const char *end = at;
     while (end < rowEnd && *end != delimiter)
         ++end;
-    return {{at, static_cast<size_t>(end - at)}, end, false};
+    return {{at, static_cast<std::size_t>(end - at)}, end, false};
 }
 
 /// How many times each line of a text holds the delimiter.
-std::vector<size_t> delimitersPerLine(std::string_view text, char delimiter)
+std::vector<std::size_t> delimitersPerLine(std::string_view text, char delimiter)
 {
-    std::vector<size_t> counts = {0};
-    for (size_t at = 0; at < text.size(); ++at) {
+    std::vector<std::size_t> counts = {0};
+    for (std::size_t at = 0; at < text.size(); ++at) {
         const bool ends = text[at] == '\n' || (text[at] == '\r' && text.substr(at + 1, 1) != "\n");
         if (ends)
             counts.push_back(0);
@@ -83,18 +83,19 @@ std::vector<size_t> delimitersPerLine(std::string_view text, char delimiter)
 ///
 /// @param before  delimiters before the field in its row
 /// @param behind  delimiters behind it
-size_t swallowedRows(std::string_view text, size_t before, size_t behind, char delimiter,
-                     size_t fieldCount)
+std::size_t swallowedRows(std::string_view text, std::size_t before, std::size_t behind,
+                          char delimiter, std::size_t fieldCount)
 {
-    constexpr size_t FewestFields = 3;
+    constexpr std::size_t FewestFields = 3;
     if (fieldCount < FewestFields)
         return 0;
-    std::vector<size_t> lines = delimitersPerLine(text, delimiter);
+    std::vector<std::size_t> lines = delimitersPerLine(text, delimiter);
     lines.front() += before;
     lines.back() += behind;
     const auto whole = std::count(lines.begin() + 1, lines.end(), fieldCount - 1);
-    const size_t below = lines.size() - 1;
-    return lines.front() == fieldCount - 1 && static_cast<size_t>(whole) * 2 > below ? below : 0;
+    const std::size_t below = lines.size() - 1;
+    return lines.front() == fieldCount - 1 && static_cast<std::size_t>(whole) * 2 > below ? below
+                                                                                          : 0;
 }
 
 /// Whether the field is anything but blanks.
@@ -206,7 +207,7 @@ uint64_t TextRows::fingerprint()
 {
     uint64_t start = 0;
     std::memcpy(&start, m_row,
-                std::min<size_t>(sizeof start, static_cast<size_t>(m_rowEnd - m_row)));
+                std::min<std::size_t>(sizeof start, static_cast<std::size_t>(m_rowEnd - m_row)));
     return start;
 }
 
@@ -214,8 +215,8 @@ uint64_t TextRows::fingerprint()
 std::string_view TextRows::readable(Row &row) const
 {
     constexpr std::string_view Replacement = "\xEF\xBF\xBD";
-    std::string_view line(m_row, static_cast<size_t>(m_rowEnd - m_row));
-    size_t unreadable = 0;
+    std::string_view line(m_row, static_cast<std::size_t>(m_rowEnd - m_row));
+    std::size_t unreadable = 0;
     if (m_encoding == Utf8) {
         unreadable = countUtf8(line).badBytes;
         if (unreadable > 0)
@@ -234,7 +235,7 @@ void TextRows::cells(Row &row)
 {
     row.clear();
     row.number = m_number;
-    std::string_view line(m_row, static_cast<size_t>(m_rowEnd - m_row));
+    std::string_view line(m_row, static_cast<std::size_t>(m_rowEnd - m_row));
     if (skipAscii(line, 0) < line.size())
         line = readable(row);
     const char *at = line.data();
@@ -254,7 +255,7 @@ void TextRows::cells(Row &row)
             const char *stop = at;
             while (stop < end && *stop != delimiter)
                 ++stop;
-            field = {{at, static_cast<size_t>(stop - at)}, stop, false};
+            field = {{at, static_cast<std::size_t>(stop - at)}, stop, false};
         }
         if (isFilled(field.text))
             row.add({column, Cell::Kind::Text, field.text, 0});
@@ -267,11 +268,11 @@ void TextRows::cells(Row &row)
             break;
         at = field.end + 1;
     }
-    const size_t swallowed =
-        columnOfLines < 0
-            ? 0
-            : swallowedRows(lines.text, static_cast<size_t>(columnOfLines),
-                            static_cast<size_t>(column - columnOfLines), m_delimiter, m_fieldCount);
+    const std::size_t swallowed =
+        columnOfLines < 0 ? 0
+                          : swallowedRows(lines.text, static_cast<std::size_t>(columnOfLines),
+                                          static_cast<std::size_t>(column - columnOfLines),
+                                          m_delimiter, m_fieldCount);
     if (swallowed > 0)
         row.faults.push_back({columnOfLines, contract::formatted("MESS_TAB_SWALLOWED_ROWS",
                                                                  {std::to_string(swallowed)})});

@@ -38,7 +38,7 @@ private:
     ChunkedInput m_input;
     char m_delimiter;
     std::string m_encoding;
-    size_t m_fieldCount;
+    std::size_t m_fieldCount;
     uint64_t m_windowPosition;
     int64_t m_number;
     const char *m_row = nullptr;    ///< the current row

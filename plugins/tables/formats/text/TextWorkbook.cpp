@@ -21,9 +21,9 @@ public:
         , m_notUtf8(notUtf8)
     {}
 
-    size_t read(char *to, size_t size) override
+    std::size_t read(char *to, std::size_t size) override
     {
-        const size_t got = m_source->read(to, size);
+        const std::size_t got = m_source->read(to, size);
         if (!m_notUtf8.load(std::memory_order_relaxed) && !goesOnAsUtf8({to, got}))
             m_notUtf8.store(true, std::memory_order_relaxed);
         return got;
@@ -35,7 +35,7 @@ private:
     {
         const std::string seam = m_tail + (piece.empty() ? "\n" : std::string(piece.substr(0, 3)));
         const std::string_view end = piece.size() < 3 ? std::string_view(seam) : piece;
-        m_tail = end.substr(end.size() - std::min<size_t>(end.size(), 3));
+        m_tail = end.substr(end.size() - std::min<std::size_t>(end.size(), 3));
         return isUtf8Piece(piece) && isUtf8Piece(seam);
     }
 

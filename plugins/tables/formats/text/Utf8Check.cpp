@@ -14,21 +14,21 @@ constexpr std::string_view Replacement = "\xEF\xBF\xBD";
 /// What stands at a byte above ASCII.
 struct Sequence
 {
-    size_t length = 0; ///< 0: no character
+    std::size_t length = 0; ///< 0: no character
     bool isCut = false;
 };
 
-Sequence sequenceAt(std::string_view text, size_t at)
+Sequence sequenceAt(std::string_view text, std::size_t at)
 {
-    const auto byte = [text, at](size_t next) {
+    const auto byte = [text, at](std::size_t next) {
         return static_cast<unsigned char>(text[at + next]);
     };
     const unsigned lead = byte(0);
-    const size_t length = lead >= 0xC2 && lead <= 0xDF   ? 2
-                          : lead >= 0xE0 && lead <= 0xEF ? 3
-                          : lead >= 0xF0 && lead <= 0xF4 ? 4
-                                                         : 0;
-    for (size_t next = 1; next < length; ++next) {
+    const std::size_t length = lead >= 0xC2 && lead <= 0xDF   ? 2
+                               : lead >= 0xE0 && lead <= 0xEF ? 3
+                               : lead >= 0xF0 && lead <= 0xF4 ? 4
+                                                              : 0;
+    for (std::size_t next = 1; next < length; ++next) {
         if (at + next == text.size())
             return {next, true};
         // The second byte also rules out overlong forms, halves of pairs and codes out of range.
@@ -48,10 +48,10 @@ Sequence sequenceAt(std::string_view text, size_t at)
 
 } // namespace
 
-size_t skipAscii(std::string_view text, size_t at)
+std::size_t skipAscii(std::string_view text, std::size_t at)
 {
     constexpr uint64_t HighBits = 0x8080808080808080U;
-    constexpr size_t Word = sizeof(uint64_t);
+    constexpr std::size_t Word = sizeof(uint64_t);
     uint64_t words[4];
     for (; at + sizeof words <= text.size(); at += sizeof words) {
         std::memcpy(words, text.data() + at, sizeof words);
@@ -61,7 +61,7 @@ size_t skipAscii(std::string_view text, size_t at)
     for (; at + Word <= text.size(); at += Word) {
         std::memcpy(words, text.data() + at, Word);
         if (const uint64_t high = words[0] & HighBits)
-            return at + static_cast<size_t>(std::countr_zero(high)) / 8;
+            return at + static_cast<std::size_t>(std::countr_zero(high)) / 8;
     }
     while (at < text.size() && (text[at] & 0x80) == 0)
         ++at;
@@ -71,7 +71,7 @@ size_t skipAscii(std::string_view text, size_t at)
 Utf8Count countUtf8(std::string_view text)
 {
     Utf8Count count;
-    for (size_t at = skipAscii(text, 0); at < text.size(); at = skipAscii(text, at)) {
+    for (std::size_t at = skipAscii(text, 0); at < text.size(); at = skipAscii(text, at)) {
         const Sequence found = sequenceAt(text, at);
         const bool isGood = found.length > 0 && !found.isCut;
         ++(isGood ? count.characters : count.badBytes);
@@ -82,7 +82,7 @@ Utf8Count countUtf8(std::string_view text)
 
 bool isUtf8(std::string_view text)
 {
-    for (size_t at = skipAscii(text, 0); at < text.size(); at = skipAscii(text, at)) {
+    for (std::size_t at = skipAscii(text, 0); at < text.size(); at = skipAscii(text, at)) {
         const Sequence found = sequenceAt(text, at);
         if (found.length == 0)
             return false;
@@ -103,8 +103,8 @@ bool isUtf8Piece(std::string_view piece)
 std::string mendedUtf8(std::string_view text)
 {
     std::string mended;
-    size_t done = 0;
-    for (size_t at = skipAscii(text, 0); at < text.size(); at = skipAscii(text, at)) {
+    std::size_t done = 0;
+    for (std::size_t at = skipAscii(text, 0); at < text.size(); at = skipAscii(text, at)) {
         const Sequence found = sequenceAt(text, at);
         if (found.length > 0 && !found.isCut) {
             at += found.length;

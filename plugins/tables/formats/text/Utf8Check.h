@@ -9,8 +9,8 @@ namespace vlt::driver {
 /// What bytes read as UTF-8 are.
 struct Utf8Count
 {
-    size_t characters = 0; ///< above ASCII
-    size_t badBytes = 0;   ///< that belong to no character
+    std::size_t characters = 0; ///< above ASCII
+    std::size_t badBytes = 0;   ///< that belong to no character
 };
 
 /// Counts characters and bytes that belong to none; a character that is cut at the end is bad.
@@ -26,6 +26,6 @@ bool isUtf8Piece(std::string_view piece);
 std::string mendedUtf8(std::string_view text);
 
 /// The first byte above ASCII at or behind `at`; the size of the text when there is none.
-size_t skipAscii(std::string_view text, size_t at);
+std::size_t skipAscii(std::string_view text, std::size_t at);
 
 } // namespace vlt::driver

@@ -21,7 +21,7 @@ void appendXlsCharacters(std::string &to, std::string_view bytes, bool wide, uin
             appendUtf8(to, static_cast<unsigned char>(c));
         return;
     }
-    for (size_t at = 0; at + 2 <= bytes.size(); at += 2) {
+    for (std::size_t at = 0; at + 2 <= bytes.size(); at += 2) {
         const uint32_t unit = u16(bytes.data() + at);
         if (unit >= 0xD800 && unit < 0xDC00)
             surrogate = unit;
@@ -36,10 +36,10 @@ void appendXlsCharacters(std::string &to, std::string_view bytes, bool wide, uin
 
 std::string xlsText(std::string_view data, const XlsContext &context, bool shortLength)
 {
-    const size_t lengthSize = shortLength ? 1 : 2;
+    const std::size_t lengthSize = shortLength ? 1 : 2;
     if (data.size() < lengthSize)
         return {};
-    size_t count = shortLength ? static_cast<unsigned char>(data[0]) : u16(data.data());
+    std::size_t count = shortLength ? static_cast<unsigned char>(data[0]) : u16(data.data());
     data.remove_prefix(lengthSize);
     if (!context.isBiff8)
         return recoded(std::string(data.substr(0, count)), context.codePage);
@@ -66,7 +66,7 @@ std::vector<Extent> extentsFrom(const std::vector<Extent> &stream, uint64_t posi
 
 bool XlsStrings::start()
 {
-    constexpr size_t CountsSize = 8;
+    constexpr std::size_t CountsSize = 8;
     if (m_position == 0)
         return false;
     m_records = std::make_unique<XlsRecords>(
@@ -78,7 +78,7 @@ bool XlsStrings::start()
 }
 
 /// Takes bytes that a following record simply goes on with.
-bool XlsStrings::bytes(void *to, size_t size)
+bool XlsStrings::bytes(void *to, std::size_t size)
 {
     auto *out = static_cast<char *>(to);
     while (size > 0) {
@@ -88,7 +88,7 @@ bool XlsStrings::bytes(void *to, size_t size)
             m_rest = m_records->data();
             continue;
         }
-        const size_t part = std::min(size, m_rest.size());
+        const std::size_t part = std::min(size, m_rest.size());
         if (out) {
             std::memcpy(out, m_rest.data(), part);
             out += part;
@@ -99,13 +99,13 @@ bool XlsStrings::bytes(void *to, size_t size)
     return true;
 }
 
-bool XlsStrings::skip(size_t size)
+bool XlsStrings::skip(std::size_t size)
 {
     return bytes(nullptr, size);
 }
 
 /// Takes characters; a record in between tells their width anew.
-bool XlsStrings::readCharacters(size_t count, bool wide)
+bool XlsStrings::readCharacters(std::size_t count, bool wide)
 {
     uint32_t surrogate = 0;
     while (count > 0) {
@@ -118,8 +118,8 @@ bool XlsStrings::readCharacters(size_t count, bool wide)
             wide = static_cast<unsigned char>(m_rest[0]) & WideFlag;
             m_rest.remove_prefix(1);
         }
-        const size_t width = wide ? 2 : 1;
-        const size_t part = std::min(count, m_rest.size() / width);
+        const std::size_t width = wide ? 2 : 1;
+        const std::size_t part = std::min(count, m_rest.size() / width);
         if (part == 0)
             return false;
         appendXlsCharacters(m_text, m_rest.substr(0, part * width), wide, surrogate);
@@ -134,11 +134,11 @@ bool XlsStrings::readString()
     char head[3];
     if (!bytes(head, sizeof head))
         return false;
-    const size_t count = u16(head);
+    const std::size_t count = u16(head);
     const auto flags = static_cast<unsigned char>(head[2]);
     char number[4] = {};
-    size_t runs = 0;
-    size_t extension = 0;
+    std::size_t runs = 0;
+    std::size_t extension = 0;
     if (flags & RichFlag) {
         if (!bytes(number, 2))
             return false;

@@ -32,9 +32,9 @@ public:
 private:
     bool start();
     bool readString();
-    bool bytes(void *to, size_t size);
-    bool skip(size_t size);
-    bool readCharacters(size_t count, bool wide);
+    bool bytes(void *to, std::size_t size);
+    bool skip(std::size_t size);
+    bool readCharacters(std::size_t count, bool wide);
 
     std::shared_ptr<const InputFile> m_file;
     std::vector<Extent> m_stream;

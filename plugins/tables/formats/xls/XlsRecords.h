@@ -22,7 +22,7 @@ public:
         if (!ensure(HeaderSize))
             return false;
         m_type = static_cast<uint16_t>(byte(0) | byte(1) << 8);
-        const size_t size = byte(2) | byte(3) << 8;
+        const std::size_t size = byte(2) | byte(3) << 8;
         if (!ensure(HeaderSize + size))
             return false;
         m_data = {m_at + HeaderSize, size};
@@ -42,13 +42,13 @@ public:
     uint64_t position() const { return m_position; }
 
 private:
-    static constexpr size_t HeaderSize = 4;
+    static constexpr std::size_t HeaderSize = 4;
 
-    unsigned byte(size_t at) const { return static_cast<unsigned char>(m_at[at]); }
+    unsigned byte(std::size_t at) const { return static_cast<unsigned char>(m_at[at]); }
 
-    bool ensure(size_t size)
+    bool ensure(std::size_t size)
     {
-        while (static_cast<size_t>(m_input.end() - m_at) < size) {
+        while (static_cast<std::size_t>(m_input.end() - m_at) < size) {
             const bool more = m_input.more(m_at);
             if (!more)
                 return false;

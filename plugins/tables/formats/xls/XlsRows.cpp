@@ -10,7 +10,7 @@ namespace vlt::driver {
 
 namespace {
 
-constexpr size_t CellHead = 6; ///< row, column, style
+constexpr std::size_t CellHead = 6; ///< row, column, style
 
 bool holdsZero(const std::string &text)
 {
@@ -95,7 +95,7 @@ void XlsRows::readMulRk(std::string_view data)
         return;
     std::vector<RawCell> &cells = cellsOf(u16(data.data()));
     uint16_t column = u16(data.data() + 2);
-    for (size_t at = 4; at + 6 + 2 <= data.size(); at += 6)
+    for (std::size_t at = 4; at + 6 + 2 <= data.size(); at += 6)
         cells.push_back({column++, u16(data.data() + at), RawCell::Kind::Number, 0,
                          rkNumber(u32(data.data() + at + 2))});
 }

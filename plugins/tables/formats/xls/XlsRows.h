@@ -42,7 +42,7 @@ private:
     std::shared_ptr<const XlsContext> m_context;
     const std::vector<char> *m_leftOut = nullptr;
 
-    bool leavesOut(size_t column) const
+    bool leavesOut(std::size_t column) const
     {
         return m_leftOut && column < m_leftOut->size() && (*m_leftOut)[column];
     }

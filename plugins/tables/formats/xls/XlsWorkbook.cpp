@@ -142,7 +142,7 @@ private:
     std::vector<SheetEntry> m_sheets;
     std::map<int, bool> m_formats; ///< own number formats: whether they show dates
     std::vector<int> m_styleFormats;
-    size_t m_next = 0;
+    std::size_t m_next = 0;
 };
 
 std::vector<Extent> workbookStream(const std::shared_ptr<const InputFile> &file)

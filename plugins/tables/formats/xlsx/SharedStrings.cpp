@@ -13,17 +13,18 @@ namespace vlt::driver {
 
 namespace {
 
-constexpr size_t EscapeSize = 7;                 ///< _xHHHH_
-constexpr size_t LongestItem = size_t{16} << 20; ///< bytes of an element that are looked at
+constexpr std::size_t EscapeSize = 7; ///< _xHHHH_
+/// Maximum size of an element in bytes; a longer one is cut.
+constexpr std::size_t MaxItemSize = std::size_t{16} << 20;
 
 /// Replaces _xHHHH_ by the control character it stands for.
 void replaceEscapes(std::string &text)
 {
-    size_t at = text.find("_x");
+    std::size_t at = text.find("_x");
     if (at == std::string::npos)
         return;
     std::string plain;
-    size_t done = 0;
+    std::size_t done = 0;
     for (; at != std::string::npos; at = text.find("_x", std::max(at + 1, done))) {
         unsigned code = 0;
         if (at + EscapeSize > text.size() || text[at + EscapeSize - 1] != '_')
@@ -56,17 +57,17 @@ std::string richText(std::string_view markup)
         else if (tag.name == "t" && tag.kind == XmlTag::Kind::Open)
             open = tag.end;
         else if (tag.kind == XmlTag::Kind::CharacterData && open && phonetic == 0) {
-            text += decodeXml({open, static_cast<size_t>(tag.begin - open)});
+            text += decodeXml({open, static_cast<std::size_t>(tag.begin - open)});
             text += tag.attributes;
             open = tag.end;
         } else if (tag.closes("t") && open) {
             if (phonetic == 0)
-                text += decodeXml({open, static_cast<size_t>(tag.begin - open)});
+                text += decodeXml({open, static_cast<std::size_t>(tag.begin - open)});
             open = nullptr;
         }
     }
     if (open && phonetic == 0) {
-        const std::string_view rest(open, static_cast<size_t>(markup.end() - open));
+        const std::string_view rest(open, static_cast<std::size_t>(markup.end() - open));
         text += decodeXml(rest.substr(0, rest.find('<')));
     }
     replaceEscapes(text);
@@ -118,15 +119,15 @@ private:
             if (found != m_input.end()) {
                 inside = m_start;
                 if (m_start.empty())
-                    inside = {begin, static_cast<size_t>(found - 1 - begin)};
+                    inside = {begin, static_cast<std::size_t>(found - 1 - begin)};
                 m_at = found + m_closing.size();
                 return true;
             }
-            if (m_start.empty() && static_cast<size_t>(m_input.end() - begin) > LongestItem)
-                m_start.assign(begin, LongestItem);
+            if (m_start.empty() && static_cast<std::size_t>(m_input.end() - begin) > MaxItemSize)
+                m_start.assign(begin, MaxItemSize);
             if (!m_start.empty()) // the rest is only searched for its end
                 begin = m_input.end() - m_closing.size();
-            const size_t seen = static_cast<size_t>(m_input.end() - begin);
+            const std::size_t seen = static_cast<std::size_t>(m_input.end() - begin);
             if (!m_input.more(begin))
                 throw RefusedFile(Refusal::Malformed, "MESS_TAB_TEXTS_CUT");
             begin = m_input.begin();
@@ -204,12 +205,12 @@ void SharedStrings::readUpTo(uint64_t index)
 
 std::optional<std::string_view> SharedStrings::at(uint64_t index)
 {
-    size_t place = static_cast<size_t>(index);
+    std::size_t place = static_cast<std::size_t>(index);
     if (!m_wanted.empty()) {
         const auto found = std::lower_bound(m_wanted.begin(), m_wanted.end(), index);
         if (found == m_wanted.end() || *found != index)
             return std::nullopt;
-        place = static_cast<size_t>(found - m_wanted.begin());
+        place = static_cast<std::size_t>(found - m_wanted.begin());
     }
     if (place >= m_texts.size())
         readUpTo(index);

@@ -104,7 +104,7 @@ const char *readCellAttributes(const char *p, const char *end, XlsxRawCell &cell
         p = value;
         while (p < end && *p != quote)
             ++p;
-        const std::string_view text(value, static_cast<size_t>(p - value));
+        const std::string_view text(value, static_cast<std::size_t>(p - value));
         ++p;
         if (*name == 'r' && name[1] == '=') {
             if (const int column = columnOf(text); column >= 0)
@@ -135,7 +135,7 @@ const char *readCellContent(const char *p, const char *end, XlsxRawCell &cell)
         const char *nameEnd = name;
         while (nameEnd < end && *nameEnd != '>' && *nameEnd != '/' && !isBlank(*nameEnd))
             ++nameEnd;
-        const std::string_view local(name, static_cast<size_t>(nameEnd - name));
+        const std::string_view local(name, static_cast<std::size_t>(nameEnd - name));
         const char *close = skipTo(nameEnd, end, '>');
         if (closing && local == "c")
             return std::min(close + 1, end);
@@ -149,7 +149,7 @@ const char *readCellContent(const char *p, const char *end, XlsxRawCell &cell)
                 p = tag.end;
                 stop = skipTo(p, end, '<');
             }
-            cell.value = {p, static_cast<size_t>(stop - p)};
+            cell.value = {p, static_cast<std::size_t>(stop - p)};
             p = stop;
         } else if (local == "is") {
             const char *stop = p;
@@ -162,7 +162,7 @@ const char *readCellContent(const char *p, const char *end, XlsxRawCell &cell)
             const char *open = stop;
             while (open > p && *open != '<')
                 --open;
-            cell.value = {p, static_cast<size_t>(open - p)};
+            cell.value = {p, static_cast<std::size_t>(open - p)};
             p = stop;
         }
     }
@@ -202,9 +202,9 @@ bool nextXlsxCell(const char *&at, const char *end, int column, XlsxRawCell &cel
                 p += Value.size();
                 stop = skipTo(p, end, '<');
             }
-            if (stop && static_cast<size_t>(end - stop) >= Closing.size() &&
+            if (stop && static_cast<std::size_t>(end - stop) >= Closing.size() &&
                 std::memcmp(stop, Closing.data(), Closing.size()) == 0) {
-                cell.value = {p, static_cast<size_t>(stop - p)};
+                cell.value = {p, static_cast<std::size_t>(stop - p)};
                 p = stop + Closing.size();
             } else
                 p = readCellContent(stop ? p - Value.size() : p, end, cell);
@@ -278,7 +278,7 @@ bool XlsxRows::convert(const XlsxRawCell &raw, Cell &cell, Row &row) const
     cell = {raw.column, Cell::Kind::Text, raw.value, 0};
     switch (raw.type) {
     case 's':
-        if (leavesOut(static_cast<size_t>(raw.column)))
+        if (leavesOut(static_cast<std::size_t>(raw.column)))
             return false;
         if (const auto text = sharedText(*m_context, raw.value))
             cell.text = *text;
@@ -308,8 +308,8 @@ bool XlsxRows::convert(const XlsxRawCell &raw, Cell &cell, Row &row) const
         break;
     default:
         cell.kind = Cell::Kind::Number;
-        if (static_cast<size_t>(raw.style) < m_context->dateStyles.size() &&
-            m_context->dateStyles[static_cast<size_t>(raw.style)])
+        if (static_cast<std::size_t>(raw.style) < m_context->dateStyles.size() &&
+            m_context->dateStyles[static_cast<std::size_t>(raw.style)])
             if (const auto serial = parseNumber(raw.value))
                 if (std::string date = isoDate(*serial, m_context->datesFrom1904); !date.empty()) {
                     cell.kind = Cell::Kind::Date;

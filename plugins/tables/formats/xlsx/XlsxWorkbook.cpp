@@ -14,8 +14,8 @@ namespace vlt::driver {
 
 namespace {
 
-constexpr size_t LargestPart = size_t{64}
-                               << 20; ///< of the small parts: workbook, relations, styles
+/// Maximum size in bytes of the small parts: workbook, relations, styles.
+constexpr std::size_t MaxPartSize = std::size_t{64} << 20;
 constexpr uint64_t FewStrings = 4096; ///< a sheet that uses fewer is searched for them first
 
 /// How the parts of a package refer to each other.
@@ -27,7 +27,7 @@ struct Relation
 
 std::string directoryOf(const std::string &part)
 {
-    const size_t slash = part.rfind('/');
+    const std::size_t slash = part.rfind('/');
     return slash == std::string::npos ? std::string() : part.substr(0, slash + 1);
 }
 
@@ -37,8 +37,8 @@ std::string resolved(const std::string &part, const std::string &target)
     const std::string whole =
         target.starts_with('/') ? target.substr(1) : directoryOf(part) + target;
     std::vector<std::string> steps;
-    for (size_t at = 0; at <= whole.size();) {
-        const size_t slash = std::min(whole.find('/', at), whole.size());
+    for (std::size_t at = 0; at <= whole.size();) {
+        const std::size_t slash = std::min(whole.find('/', at), whole.size());
         const std::string step = whole.substr(at, slash - at);
         if (step == ".." && !steps.empty())
             steps.pop_back();
@@ -59,7 +59,7 @@ std::map<std::string, Relation> readRelations(const ZipArchive &archive, const s
     const std::string name = directory + "_rels/" + part.substr(directory.size()) + ".rels";
     if (!archive.contains(name))
         return relations;
-    const std::string text = archive.readAll(name, LargestPart);
+    const std::string text = archive.readAll(name, MaxPartSize);
     XmlCursor cursor(text);
     XmlTag tag;
     while (cursor.next(tag)) {
@@ -145,8 +145,8 @@ private:
     std::unique_ptr<ByteSource> openPart() const
     {
         char mark[2] = {};
-        const size_t got = m_archive->open(m_part)->read(mark, sizeof mark);
-        size_t markSize = 0;
+        const std::size_t got = m_archive->open(m_part)->read(mark, sizeof mark);
+        std::size_t markSize = 0;
         const std::string encoding = encodingOfMark(std::string(mark, got), markSize);
         std::unique_ptr<ByteSource> part = m_archive->open(m_part);
         if (!encoding.starts_with("UTF-16"))
@@ -176,12 +176,12 @@ public:
                 strings = relation.target;
             else if (relation.type == "styles" && m_archive->contains(relation.target))
                 context->dateStyles =
-                    readDateStyles(m_archive->readAll(relation.target, LargestPart));
+                    readDateStyles(m_archive->readAll(relation.target, MaxPartSize));
         }
         if (!strings.empty() && !m_archive->contains(strings))
             strings.clear();
         context->strings = std::make_shared<SharedStrings>(m_archive, strings);
-        readSheets(m_archive->readAll(main, LargestPart), relations, context);
+        readSheets(m_archive->readAll(main, MaxPartSize), relations, context);
     }
 
     std::shared_ptr<Sheet> nextSheet() override
@@ -231,7 +231,7 @@ private:
 
     std::shared_ptr<const ZipArchive> m_archive;
     std::vector<std::shared_ptr<Sheet>> m_sheets;
-    size_t m_next = 0;
+    std::size_t m_next = 0;
 };
 
 } // namespace

@@ -41,12 +41,12 @@ std::string dataText(std::string_view markup)
     const char *end = at + markup.size();
     XmlTag tag;
     while (nextTag(at, end, tag)) {
-        text += decodeXml({at, static_cast<size_t>(tag.begin - at)});
+        text += decodeXml({at, static_cast<std::size_t>(tag.begin - at)});
         if (tag.kind == XmlTag::Kind::CharacterData)
             text += tag.attributes;
         at = tag.end;
     }
-    return text + decodeXml({at, static_cast<size_t>(end - at)});
+    return text + decodeXml({at, static_cast<std::size_t>(end - at)});
 }
 
 /// Walks over the cells of a row's markup.
@@ -92,7 +92,7 @@ private:
         const char *p = m_at;
         while (p < m_end && (*p == ' ' || *p == '\n' || *p == '\r' || *p == '\t'))
             ++p;
-        if (static_cast<size_t>(m_end - p) < Open.size() + Close.size() ||
+        if (static_cast<std::size_t>(m_end - p) < Open.size() + Close.size() ||
             std::memcmp(p, Open.data(), Open.size()) != 0)
             return false;
         p += Open.size();
@@ -105,12 +105,12 @@ private:
         p = text;
         while (p < m_end && *p != '<')
             ++p;
-        if (static_cast<size_t>(m_end - p) < Close.size() ||
+        if (static_cast<std::size_t>(m_end - p) < Close.size() ||
             std::memcmp(p, Close.data(), Close.size()) != 0)
             return false;
         m_at = p + Close.size();
         m_column = m_nextColumn++;
-        cell = {m_column, type, {text, static_cast<size_t>(p - text)}};
+        cell = {m_column, type, {text, static_cast<std::size_t>(p - text)}};
         return m_column < MostColumns;
     }
 
@@ -135,7 +135,7 @@ private:
                 cell.type = type && !type->empty() ? type->front() : 'S';
                 inside = tag.end;
             } else if (comment == 0 && tag.closes("Data") && inside) {
-                cell.markup = {inside, static_cast<size_t>(tag.begin - inside)};
+                cell.markup = {inside, static_cast<std::size_t>(tag.begin - inside)};
                 found = true;
                 inside = nullptr;
             }

@@ -13,7 +13,7 @@ namespace vlt::driver {
 
 namespace {
 
-constexpr size_t HeadSize = 4096;
+constexpr std::size_t HeadSize = 4096;
 constexpr std::ptrdiff_t LongestTagName = 256;
 constexpr std::string_view Namespace = "urn:schemas-microsoft-com:office:spreadsheet";
 
@@ -21,7 +21,7 @@ constexpr std::string_view Namespace = "urn:schemas-microsoft-com:office:spreads
 struct XmlFile
 {
     std::shared_ptr<const InputFile> file;
-    size_t markSize = 0;
+    std::size_t markSize = 0;
     std::string encoding; ///< empty for UTF-8
 
     bool canJump() const { return encoding.empty(); }
@@ -34,10 +34,11 @@ struct XmlFile
         if (canJump())
             return bytes;
         auto decoded = std::make_unique<RecodeSource>(std::move(bytes), encoding);
-        std::vector<char> skipped(size_t{64} << 10);
+        std::vector<char> skipped(std::size_t{64} << 10);
         while (offset > 0) {
-            const size_t got = decoded->read(
-                skipped.data(), static_cast<size_t>(std::min<uint64_t>(offset, skipped.size())));
+            const std::size_t got =
+                decoded->read(skipped.data(),
+                              static_cast<std::size_t>(std::min<uint64_t>(offset, skipped.size())));
             if (got == 0)
                 break;
             offset -= got;
@@ -172,8 +173,8 @@ std::unique_ptr<Workbook> openSpreadsheetMl(const std::shared_ptr<const InputFil
         xml.encoding = encoding;
     std::string start(HeadSize, '\0');
     const std::unique_ptr<ByteSource> source = xml.from(0);
-    size_t size = 0;
-    while (const size_t got =
+    std::size_t size = 0;
+    while (const std::size_t got =
                size < start.size() ? source->read(start.data() + size, start.size() - size) : 0)
         size += got;
     start.resize(size);

@@ -92,7 +92,7 @@ void XmlRowFramer::findRowEnd(const XmlTag &tag)
     }
     m_rowPosition = m_windowOffset + static_cast<uint64_t>(tag.begin - m_input.begin());
     const char *row = tag.begin;
-    const size_t openingSize = static_cast<size_t>(tag.end - tag.begin);
+    const std::size_t openingSize = static_cast<std::size_t>(tag.end - tag.begin);
     const char *from = tag.end;
     for (;;) {
         // "/r" is rarer than "</", which every cell has
@@ -108,20 +108,20 @@ void XmlRowFramer::findRowEnd(const XmlTag &tag)
             m_at = after; // before the ">": text between tags is skipped
             return;
         }
-        const size_t seen = static_cast<size_t>(m_input.end() - row);
+        const std::size_t seen = static_cast<std::size_t>(m_input.end() - row);
         m_windowOffset += static_cast<uint64_t>(row - m_input.begin());
         if (!m_input.more(row))
             throw RefusedFile(Refusal::Malformed, "MESS_TAB_FILE_CUT_IN_ROW",
                               {std::to_string(m_rowNumber)});
         row = m_input.begin();
-        const size_t overlap = m_closing.size();
+        const std::size_t overlap = m_closing.size();
         from = row + std::max(openingSize, seen > overlap ? seen - overlap : 0);
     }
 }
 
 std::string_view XmlRowFramer::inside() const
 {
-    return {m_inside, static_cast<size_t>(m_rowEnd - m_inside)};
+    return {m_inside, static_cast<std::size_t>(m_rowEnd - m_inside)};
 }
 
 } // namespace vlt::driver

@@ -13,7 +13,7 @@ namespace vlt::driver {
 namespace {
 
 constexpr uint32_t LastCodePoint = 0x10FFFF;
-constexpr size_t LongestEntity = 16; ///< "&#x0010FFFF;" and some more zeros
+constexpr std::size_t LongestEntity = 16; ///< "&#x0010FFFF;" and some more zeros
 
 bool isBlank(char c)
 {
@@ -49,7 +49,7 @@ bool appendEntity(std::string &to, std::string_view name)
 /// Reads a piece that starts with "<!" or "<?"; false when it is incomplete.
 bool readSpecial(const char *end, XmlTag &tag)
 {
-    const std::string_view rest(tag.begin, static_cast<size_t>(end - tag.begin));
+    const std::string_view rest(tag.begin, static_cast<std::size_t>(end - tag.begin));
     std::string_view closing = ">";
     if (rest.starts_with("<!--"))
         closing = "-->";
@@ -59,7 +59,7 @@ bool readSpecial(const char *end, XmlTag &tag)
         closing = "?>";
     else if (rest.starts_with("<!DOCTYPE"))
         throw RefusedFile(Refusal::DocumentType, "MESS_TAB_DOCUMENT_TYPE");
-    const size_t stop = rest.find(closing, 2);
+    const std::size_t stop = rest.find(closing, 2);
     if (stop == std::string_view::npos || (rest.size() < 9 && rest.starts_with("<!")))
         return false;
     tag.kind = rest.starts_with("<![CDATA[") ? XmlTag::Kind::CharacterData : XmlTag::Kind::Other;
@@ -73,7 +73,8 @@ bool readSpecial(const char *end, XmlTag &tag)
 
 bool nextTag(const char *at, const char *end, XmlTag &tag)
 {
-    const void *found = at < end ? std::memchr(at, '<', static_cast<size_t>(end - at)) : nullptr;
+    const void *found =
+        at < end ? std::memchr(at, '<', static_cast<std::size_t>(end - at)) : nullptr;
     tag.begin = found ? static_cast<const char *>(found) : end;
     const char *p = tag.begin + 1;
     if (!found || p >= end)
@@ -93,8 +94,8 @@ bool nextTag(const char *at, const char *end, XmlTag &tag)
             local = p + 1;
         ++p;
     }
-    tag.prefix = {name, static_cast<size_t>(local - name)};
-    tag.name = {local, static_cast<size_t>(p - local)};
+    tag.prefix = {name, static_cast<std::size_t>(local - name)};
+    tag.name = {local, static_cast<std::size_t>(p - local)};
     const char *attributes = p;
     char quote = 0;
     for (; p < end && (quote || *p != '>'); ++p)
@@ -102,7 +103,7 @@ bool nextTag(const char *at, const char *end, XmlTag &tag)
             quote = quote ? '\0' : *p;
     if (p >= end)
         return false;
-    tag.attributes = {attributes, static_cast<size_t>(p - attributes)};
+    tag.attributes = {attributes, static_cast<std::size_t>(p - attributes)};
     if (tag.kind == XmlTag::Kind::Open && p[-1] == '/') {
         tag.kind = XmlTag::Kind::Empty;
         if (!tag.attributes.empty())
@@ -114,7 +115,7 @@ bool nextTag(const char *at, const char *end, XmlTag &tag)
 
 void refuseEndlessMarkup(const char *begin, const char *end)
 {
-    if (static_cast<size_t>(end - begin) > LongestMarkup)
+    if (static_cast<std::size_t>(end - begin) > LongestMarkup)
         throw RefusedFile(Refusal::Malformed, "MESS_TAB_LONG_TAG");
 }
 
@@ -131,7 +132,7 @@ std::optional<std::string_view> attribute(std::string_view attributes, std::stri
                 local = p + 1;
             ++p;
         }
-        std::string_view name(local, static_cast<size_t>(p - local));
+        std::string_view name(local, static_cast<std::size_t>(p - local));
         while (!name.empty() && isBlank(name.back()))
             name.remove_suffix(1);
         while (p < end && *p != '"' && *p != '\'')
@@ -139,12 +140,12 @@ std::optional<std::string_view> attribute(std::string_view attributes, std::stri
         if (p >= end)
             return std::nullopt;
         const char *value = p + 1;
-        const void *close = std::memchr(value, *p, static_cast<size_t>(end - value));
+        const void *close = std::memchr(value, *p, static_cast<std::size_t>(end - value));
         if (!close)
             return std::nullopt;
         p = static_cast<const char *>(close);
         if (name == localName)
-            return std::string_view(value, static_cast<size_t>(p - value));
+            return std::string_view(value, static_cast<std::size_t>(p - value));
         ++p;
     }
 }
@@ -158,8 +159,8 @@ std::string decodeXml(std::string_view text)
 {
     std::string result;
     result.reserve(text.size());
-    for (size_t at = 0; at < text.size(); ++at) {
-        const size_t length =
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        const std::size_t length =
             text[at] == '&' ? text.substr(at, LongestEntity).find(';') : std::string_view::npos;
         if (length != std::string_view::npos &&
             appendEntity(result, text.substr(at + 1, length - 1)))
