@@ -128,11 +128,12 @@ std::string encodingOfMark(const std::string &head, std::size_t &markSize)
                  {"\0\0\xFE\xFF", 4, "UTF-32BE"},
                  {"\xFF\xFE", 2, "UTF-16LE"},
                  {"\xFE\xFF", 2, "UTF-16BE"}};
-    for (const auto &mark : Marks)
+    for (const auto &mark : Marks) {
         if (head.compare(0, mark.size, std::string(mark.mark, mark.size)) == 0) {
             markSize = mark.size;
             return mark.encoding;
         }
+    }
     markSize = 0;
     return {};
 }

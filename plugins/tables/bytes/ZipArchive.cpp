@@ -97,12 +97,15 @@ void ZipArchive::readDirectory(uint64_t offset, uint64_t size)
             const char *valueEnd = value + u16(extra + 2);
             if (valueEnd > extraEnd)
                 break;
-            if (u16(extra) == Zip64Field)
-                for (uint64_t *wide : {&inflatedSize, &member.compressedSize, &member.headerOffset})
+            if (u16(extra) == Zip64Field) {
+                for (uint64_t *wide :
+                     {&inflatedSize, &member.compressedSize, &member.headerOffset}) {
                     if (*wide == Marker32 && valueEnd - value >= 8) {
                         *wide = u64(value);
                         value += 8;
                     }
+                }
+            }
             extra = valueEnd;
         }
         m_members.emplace(lowered(std::string(at + MemberSize, nameSize)), member);

@@ -57,9 +57,10 @@ std::string_view firstCharacters(std::string_view text, std::size_t count)
     if (text.size() <= count)
         return text;
     std::size_t at = 0;
-    for (; at < text.size(); ++at)
+    for (; at < text.size(); ++at) {
         if ((text[at] & 0xC0) != 0x80 && count-- == 0)
             break;
+    }
     return text.substr(0, at);
 }
 
@@ -88,9 +89,10 @@ std::string cellText(const Cell &cell)
 {
     if (cell.kind == Cell::Kind::Number && cell.text.empty())
         return numberText(cell.number);
-    if (isOverlong(cell))
+    if (isOverlong(cell)) {
         if (const auto number = parseNumber(trimmed(cell.text)))
             return numberText(*number);
+    }
     return std::string(cell.text);
 }
 

@@ -16,10 +16,11 @@ constexpr std::size_t HeadSize = 512;
 /// Whether an ASCII text of any character width starts with "<" behind marks and white space.
 bool startsWithTag(const std::string &head)
 {
-    for (const char c : head)
+    for (const char c : head) {
         if (static_cast<unsigned char>(c) < 0x80 && c != '\0' && c != ' ' && c != '\t' &&
             c != '\r' && c != '\n')
             return c == '<';
+    }
     return false;
 }
 

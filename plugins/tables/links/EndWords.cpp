@@ -55,9 +55,10 @@ std::size_t findNamed(const std::vector<std::string> &words)
 /// The last digit that stands alone: "TX1 (MHz) 2", "Azimuth (deg 1) 2".
 std::size_t findNumber(const std::vector<std::string> &words, EndStyle style)
 {
-    for (std::size_t at = words.size(); at-- > 0;)
+    for (std::size_t at = words.size(); at-- > 0;) {
         if (numberedEnd(words[at], style) != LinkEndId::None)
             return at;
+    }
     return NotThere;
 }
 

@@ -144,11 +144,12 @@ int bestFit(const Names &names, LinkEndId end, Fit (*fitOf)(const EndWords &name
 {
     int best = -1;
     Fit bestFit = 0;
-    for (std::size_t i = 0; i < names.size(); ++i)
+    for (std::size_t i = 0; i < names.size(); ++i) {
         if (const Fit fit = names[i].end == end ? fitOf(names[i]) : 0; fit > bestFit) {
             best = static_cast<int>(i);
             bestFit = fit;
         }
+    }
     return best;
 }
 
@@ -168,9 +169,10 @@ Names readNames(const TableProfile &table, EndStyle style)
 PointFields findEnd(const Names &names, LinkEndId end, const std::vector<Field> &fields)
 {
     FieldWords words(names.size());
-    for (std::size_t i = 0; i < names.size(); ++i)
+    for (std::size_t i = 0; i < names.size(); ++i) {
         if (names[i].end == end)
             words[i] = names[i].words;
+    }
     return findPoint(words, fields);
 }
 
@@ -200,12 +202,14 @@ FoundEnds findEnds(const TableProfile &table, EndStyle style)
 FoundEnds findEnds(const TableProfile &table)
 {
     FoundEnds ends = findEnds(table, EndStyle::Names);
-    if (!ends.found())
+    if (!ends.found()) {
         if (FoundEnds zero = findEnds(table, EndStyle::Zero); zero.found())
             return zero;
-    if (!ends.found() || ends.areNumbered)
+    }
+    if (!ends.found() || ends.areNumbered) {
         if (FoundEnds numbered = findEnds(table, EndStyle::Numbers); numbered.found())
             return numbered;
+    }
     return ends;
 }
 
@@ -227,9 +231,10 @@ std::string findFormat(const TableProfile &table, bool numbered)
     texts.push_back(table.sheet);
     for (const std::string &text : texts) {
         const Words words = wordsOf(text);
-        for (const char *tool : {"asset", "atoll"})
+        for (const char *tool : {"asset", "atoll"}) {
             if (std::find(words.begin(), words.end(), tool) != words.end())
                 return tool;
+        }
     }
     return numbered ? "generic (numbered ends)" : "generic (ends side by side)";
 }
@@ -263,9 +268,10 @@ LinkEndFields endFields(const Names &names, LinkEndId end, const PointFields &po
 /// The coarser way of writing: an easting near the false origin may look like degrees.
 CoordinateUnit commonUnit(CoordinateUnit a, CoordinateUnit b)
 {
-    for (const CoordinateUnit unit : {CoordinateUnit::Meters, CoordinateUnit::Dms})
+    for (const CoordinateUnit unit : {CoordinateUnit::Meters, CoordinateUnit::Dms}) {
         if (a == unit || b == unit)
             return unit;
+    }
     return CoordinateUnit::Degrees;
 }
 

@@ -85,9 +85,10 @@ void LinkValueReader::readFrequencies(const Place &place, LinkValues &values) co
 {
     bool isUnreadable = false;
     int column = m_layout->band.field;
-    for (std::size_t end = values.ends.size(); end-- > 0;)
+    for (std::size_t end = values.ends.size(); end-- > 0;) {
         if (m_layout->ends[end].frequency.found())
             column = m_layout->ends[end].frequency.field;
+    }
     if (column < 0)
         return;
     for (std::size_t end = 0; end < values.ends.size(); ++end)

@@ -132,10 +132,12 @@ std::optional<double> megahertzPer(std::string_view word)
 std::optional<double> unitInName(std::string_view name, UnitOf unitOf)
 {
     // in lower case, too, since "kHz" would be cut in two
-    for (const std::string &text : {lowerCase(name), std::string(name)})
-        for (const std::string &word : wordsOf(text))
+    for (const std::string &text : {lowerCase(name), std::string(name)}) {
+        for (const std::string &word : wordsOf(text)) {
             if (const auto unit = unitOf(word))
                 return unit;
+        }
+    }
     return std::nullopt;
 }
 

@@ -61,9 +61,10 @@ void LinkEndLayer::readRow(int64_t row, std::vector<RowProblem> &problems)
 
 void LinkEndLayer::mergeInto(OGREnvelope &extent) const
 {
-    for (const Position &end : m_reader.row().placed)
+    for (const Position &end : m_reader.row().placed) {
         if (end.found)
             extent.Merge(end.x, end.y);
+    }
 }
 
 void LinkEndLayer::placeFeature(OGRFeature &feature, int part) const

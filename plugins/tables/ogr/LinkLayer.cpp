@@ -22,9 +22,10 @@ bool LinkLayer::isPlaced() const
 
 void LinkLayer::mergeInto(OGREnvelope &extent) const
 {
-    for (const Position &end : m_reader.row().placed)
+    for (const Position &end : m_reader.row().placed) {
         if (isPlaced())
             extent.Merge(end.x, end.y);
+    }
 }
 
 void LinkLayer::placeFeature(OGRFeature &feature, int) const

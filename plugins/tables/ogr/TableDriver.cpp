@@ -49,9 +49,10 @@ char delimiterOf(const std::string &word)
 {
     constexpr std::pair<const char *, char> Words[] = {
         {"COMMA", ','}, {"SEMICOLON", ';'}, {"TAB", '\t'}, {"BAR", '|'}};
-    for (const auto &[name, delimiter] : Words)
+    for (const auto &[name, delimiter] : Words) {
         if (EQUAL(word.c_str(), name))
             return delimiter;
+    }
     return 0;
 }
 

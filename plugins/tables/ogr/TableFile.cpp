@@ -27,11 +27,12 @@ public:
                                            const TableOptions &options)
     {
         const std::lock_guard lock(m_mutex);
-        for (auto entry = m_entries.begin(); entry != m_entries.end(); ++entry)
+        for (auto entry = m_entries.begin(); entry != m_entries.end(); ++entry) {
             if (entry->path == path && entry->identity == identity && entry->options == options) {
                 m_entries.splice(m_entries.begin(), m_entries, entry);
                 return entry->facts;
             }
+        }
         return nullptr;
     }
 

@@ -60,9 +60,10 @@ Role roleOf(const Words &words)
 {
     Role role;
     // Words that belong to an antenna, a far end or a camera, never to the position of the site.
-    for (const std::string &word : words)
+    for (const std::string &word : words) {
         if (isOneOf(word, {"transmitter", "offset", "dx", "dy"}))
             return {};
+    }
     Role::Part part = Role::Part::Whole;
     bool axisFound = false;
     for (const std::string &word : words) {

@@ -28,12 +28,14 @@ std::string epsgIn(const std::string &text)
 
 std::string findEpsg(const TableProfile &table, const PointFields &point, CoordinateUnit unit)
 {
-    for (const std::string &title : table.header.titles)
+    for (const std::string &title : table.header.titles) {
         if (std::string code = epsgIn(title); !code.empty())
             return code;
-    for (const Field &field : table.fields)
+    }
+    for (const Field &field : table.fields) {
         if (std::string code = epsgIn(field.name); !code.empty())
             return code;
+    }
     for (const Field &field : table.fields) {
         const std::string name = lowerCase(field.name);
         if ((name != "epsg" && name != "srid" && name != "epsg code") || field.samples.empty())

@@ -29,11 +29,12 @@ std::string startOf(const Cell &cell, std::size_t characters)
 std::string nameOf(const Cell &cell)
 {
     std::string name;
-    for (const char c : startOf(cell, LongestName))
+    for (const char c : startOf(cell, LongestName)) {
         if (c != '\n' && c != '\r')
             name += c;
         else if (!name.empty() && name.back() != ' ')
             name += ' ';
+    }
     return name;
 }
 

@@ -204,9 +204,10 @@ Table readTable(Workbook &workbook, const TableHints &hints)
 
 std::shared_ptr<Sheet> findSheet(Workbook &workbook, const std::string &name)
 {
-    while (std::shared_ptr<Sheet> sheet = workbook.nextSheet())
+    while (std::shared_ptr<Sheet> sheet = workbook.nextSheet()) {
         if (sheet->name() == name)
             return sheet;
+    }
     throw RefusedFile(Refusal::Malformed, "MESS_TAB_FILE_CHANGED");
 }
 
@@ -233,9 +234,10 @@ bool DataRows::isData()
 
 bool DataRows::advance()
 {
-    while (m_rows->advance())
+    while (m_rows->advance()) {
         if (isData())
             return true;
+    }
     return false;
 }
 
@@ -249,9 +251,10 @@ bool DataRows::seek(int64_t row)
     if (behind != marks.begin())
         there = m_sheet->rowsFrom(std::prev(behind)->position, std::prev(behind)->row);
     m_rows = there ? std::move(there) : m_sheet->rows();
-    while (advance())
+    while (advance()) {
         if (rowNumber() >= row)
             return true;
+    }
     return false;
 }
 

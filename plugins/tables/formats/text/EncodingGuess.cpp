@@ -93,9 +93,10 @@ constexpr std::array<std::array<const char *, 2>, 7> Relatives = {{{"ISO-8859-2"
 /// What the detector may mean.
 std::vector<std::string> candidates(const std::string &answer)
 {
-    for (const auto &[standard, windows] : Relatives)
+    for (const auto &[standard, windows] : Relatives) {
         if (answer == standard || answer == windows)
             return {windows, standard};
+    }
     if (answer.empty())
         return {};
     return {answer};

@@ -138,9 +138,10 @@ UsualCount usualCount(const std::vector<std::size_t> &counts)
     for (const std::size_t count : counts)
         ++lines[count];
     UsualCount usual;
-    for (const auto &[fields, number] : lines)
+    for (const auto &[fields, number] : lines) {
         if (fields > 1 && number >= usual.lines)
             usual = {fields, number};
+    }
     return usual;
 }
 
@@ -166,12 +167,13 @@ char findDelimiter(std::string_view text, bool isWhole)
 {
     char best = 0;
     double bestScore = 0;
-    for (const char delimiter : Delimiters)
+    for (const char delimiter : Delimiters) {
         if (const double value = score(fieldCounts(text, delimiter, isWhole));
             value > bestScore + 1e-9) {
             best = delimiter;
             bestScore = value;
         }
+    }
     if (best == 0)
         throw RefusedFile(Refusal::OneColumn, "MESS_TAB_NO_DELIMITER");
     return best;

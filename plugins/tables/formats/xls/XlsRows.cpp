@@ -234,12 +234,13 @@ void XlsRows::cells(Row &row)
         case RawCell::Kind::Number:
             cell.kind = Cell::Kind::Number;
             cell.number = raw.number;
-            if (raw.style < m_context->dateStyles.size() && m_context->dateStyles[raw.style])
+            if (raw.style < m_context->dateStyles.size() && m_context->dateStyles[raw.style]) {
                 if (std::string date = isoDate(raw.number, m_context->datesFrom1904);
                     !date.empty()) {
                     cell.kind = Cell::Kind::Date;
                     cell.text = row.keep(std::move(date));
                 }
+            }
             break;
         case RawCell::Kind::SharedText:
             if (leavesOut(raw.column))

@@ -150,9 +150,10 @@ std::vector<Extent> workbookStream(const std::shared_ptr<const InputFile> &file)
     const CompoundFile compound(file);
     if (compound.contains("EncryptedPackage"))
         throw RefusedFile(Refusal::Encrypted, "MESS_TAB_PASSWORD");
-    for (const char *name : {"Workbook", "Book", "WORKBOOK", "BOOK"})
+    for (const char *name : {"Workbook", "Book", "WORKBOOK", "BOOK"}) {
         if (compound.contains(name))
             return compound.extents(name);
+    }
     throw RefusedFile(Refusal::NotSupportedFormat, "MESS_TAB_OFFICE_DOCUMENT");
 }
 

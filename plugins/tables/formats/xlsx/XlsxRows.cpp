@@ -72,9 +72,10 @@ char typeOf(std::string_view text)
 const char *localName(const char *p, const char *end)
 {
     const char *name = p;
-    while (p < end && *p != '>' && *p != '/' && !isBlank(*p))
+    while (p < end && *p != '>' && *p != '/' && !isBlank(*p)) {
         if (*p++ == ':')
             name = p;
+    }
     return name;
 }
 
@@ -309,12 +310,14 @@ bool XlsxRows::convert(const XlsxRawCell &raw, Cell &cell, Row &row) const
     default:
         cell.kind = Cell::Kind::Number;
         if (static_cast<std::size_t>(raw.style) < m_context->dateStyles.size() &&
-            m_context->dateStyles[static_cast<std::size_t>(raw.style)])
-            if (const auto serial = parseNumber(raw.value))
+            m_context->dateStyles[static_cast<std::size_t>(raw.style)]) {
+            if (const auto serial = parseNumber(raw.value)) {
                 if (std::string date = isoDate(*serial, m_context->datesFrom1904); !date.empty()) {
                     cell.kind = Cell::Kind::Date;
                     cell.text = row.keep(std::move(date));
                 }
+            }
+        }
         return true;
     }
     return !trimmed(cell.text).empty();

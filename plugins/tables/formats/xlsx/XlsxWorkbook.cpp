@@ -192,7 +192,7 @@ public:
 private:
     std::string mainPart() const
     {
-        for (const auto &[id, relation] : readRelations(*m_archive, ""))
+        for (const auto &[id, relation] : readRelations(*m_archive, "")) {
             if (relation.type == "officeDocument") {
                 if (!relation.target.ends_with(".xml")) // .xlsb keeps binary parts
                     throw RefusedFile(Refusal::NotSupportedFormat, "MESS_TAB_XLSB");
@@ -200,6 +200,7 @@ private:
                     break;
                 return relation.target;
             }
+        }
         if (m_archive->contains("xl/workbook.xml"))
             return "xl/workbook.xml";
         if (m_archive->contains("mimetype") && m_archive->contains("content.xml"))

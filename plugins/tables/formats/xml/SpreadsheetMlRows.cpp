@@ -171,9 +171,10 @@ bool SpreadsheetMlRows::hasContent(int lastColumn)
 {
     CellCursor cursor(m_framer.inside());
     RawCell cell;
-    while (cursor.next(cell))
+    while (cursor.next(cell)) {
         if (cell.column <= lastColumn && !isBlankMarkup(cell.markup))
             return true;
+    }
     return false;
 }
 

@@ -28,11 +28,12 @@ bool appendEntity(std::string &to, std::string_view name)
         std::string_view name;
         char character;
     } Known[] = {{"amp", '&'}, {"lt", '<'}, {"gt", '>'}, {"quot", '"'}, {"apos", '\''}};
-    for (const auto &entity : Known)
+    for (const auto &entity : Known) {
         if (entity.name == name) {
             to += entity.character;
             return true;
         }
+    }
     if (name.size() < 2 || name[0] != '#')
         return false;
     const bool hex = name[1] == 'x' || name[1] == 'X';
@@ -98,9 +99,10 @@ bool nextTag(const char *at, const char *end, XmlTag &tag)
     tag.name = {local, static_cast<std::size_t>(p - local)};
     const char *attributes = p;
     char quote = 0;
-    for (; p < end && (quote || *p != '>'); ++p)
+    for (; p < end && (quote || *p != '>'); ++p) {
         if (quote ? *p == quote : (*p == '"' || *p == '\''))
             quote = quote ? '\0' : *p;
+    }
     if (p >= end)
         return false;
     tag.attributes = {attributes, static_cast<std::size_t>(p - attributes)};
