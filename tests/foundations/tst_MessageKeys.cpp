@@ -1,10 +1,10 @@
 #include "contract/SceneTexts.h"
 #include "contract/TableTexts.h"
 #include "language/Dictionary.h"
+#include "support/Files.h"
 
 #include <QDir>
 #include <QDirIterator>
-#include <QFile>
 #include <QRegularExpression>
 #include <QSet>
 #include <QTest>
@@ -28,10 +28,8 @@ QSet<QString> usedKeys()
     QDirIterator files(Source.filePath(u"src"_s), {u"*.cpp"_s, u"*.h"_s, u"*.ui"_s}, QDir::Files,
                        QDirIterator::Subdirectories);
     while (files.hasNext()) {
-        QFile file(files.next());
-        if (!file.open(QIODevice::ReadOnly))
-            continue;
-        for (auto matches = key.globalMatch(QString::fromUtf8(file.readAll())); matches.hasNext();)
+        const QString text = QString::fromUtf8(readFile(files.next()));
+        for (auto matches = key.globalMatch(text); matches.hasNext();)
             keys.insert(matches.next().captured());
     }
     return keys;
