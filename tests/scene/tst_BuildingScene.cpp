@@ -334,7 +334,7 @@ private Q_SLOTS:
                   "<OGRVRTDataSource><OGRVRTLayer name=\"Town\"><SrcDataSource>town.gpkg"
                   "</SrcDataSource></OGRVRTLayer></OGRVRTDataSource>");
         const std::map<std::string, QByteArray> documents = {
-            {"no building document", "<x/>"},
+            {"not a building document", "<x/>"},
             {"\"no.shp\"", document("no.shp")},
             {"/vsicurl", document("/vsicurl/http://localhost:9/a.shp")},
             {"http:", document("http://localhost:9/a")},

@@ -130,9 +130,10 @@ private Q_SLOTS:
             QTest::newRow(name) << text << named;
         };
         const QByteArray good = document({});
-        row("nothing", {}, "no building document");
-        row("another root", "<veltaroLayer/>", "no building");
-        row("only its name in a comment", "<!-- <veltaroTexturedBuildings> --><x/>", "no building");
+        row("nothing", {}, "not a building document");
+        row("another root", "<veltaroLayer/>", "not a building");
+        row("only its name in a comment", "<!-- <veltaroTexturedBuildings> --><x/>",
+            "not a building");
         row("no end of a comment", "<veltaroTexturedBuildings><!-- " + good, "footprints");
         row("no footprints", "<veltaroTexturedBuildings></veltaroTexturedBuildings>", "footprints");
         row("no field", QByteArray(good).replace("hfield", "field"), "field of heights");

@@ -151,11 +151,7 @@ class tst_TexturedTile : public QObject
     static std::unique_ptr<TextureImage> openImage(const std::string &path, const char *srs = "",
                                                    bool isKeptOpen = true)
     {
-        std::string reason;
-        auto image = TextureImage::open(path, srs, isKeptOpen, &reason);
-        if (!image)
-            qFatal("%s", reason.c_str());
-        return image;
+        return TextureImage::open(path, srs, isKeptOpen);
     }
 
 private Q_SLOTS:
@@ -361,9 +357,9 @@ private Q_SLOTS:
 
         QCOMPARE(images->levels().size(), 1U);
         const std::vector<std::string> reasons = {
-            "unplaced.tif\" is not shown (it has no place)",
+            "unplaced.tif\" is not shown (it is not georeferenced)",
             "\"absent.tif\" is not shown (there is no such local file)",
-            "3.tif\" is not shown (another one has the same height)",
+            "3.tif\" is not shown (another image has the same height)",
             "\"http://localhost/a.tif\" is not shown (there is no such local file"};
         QCOMPARE(notices.size(), reasons.size());
         for (std::size_t i = 0; i < reasons.size(); ++i)

@@ -1,6 +1,7 @@
 #include "LayerScenes.h"
 #include "TownTesting.h"
 #include "plugins/scene/buildings/TownColors.h"
+#include "plugins/scene/reading/Stopped.h"
 
 #include <QTemporaryDir>
 
@@ -141,7 +142,7 @@ private Q_SLOTS:
               "IMAGE;a.tif;map.txt;average;absolute;sometimes;-99",
               "cmap:datasource=a.tif;cmap=map.txt;stretchcmap=TRUE;interpolatecmap=TRUE;"
               "band=2;type=minimum"})
-            row(text, "tells no colors of buildings");
+            row(text, "does not describe colors of buildings");
         row("IMAGE;x.tif;map.txt;average;absolute;interpolation",
             "\"x.tif\" cannot be used for colors (there is no such local file)");
         row("IMAGE;text.tif;map.txt;average;absolute;interpolation", "not recognized");
@@ -203,7 +204,7 @@ private Q_SLOTS:
         QCOMPARE(colors().size(), 3U);
         QVERIFY(std::is_sorted(shares.begin(), shares.end()) && shares.size() == 2);
         for (stopAt = 1; stopAt <= 2; ++stopAt)
-            QVERIFY(colors().empty());
+            QVERIFY_EXCEPTION_THROWN(colors(), Stopped);
     }
 };
 

@@ -1,7 +1,6 @@
 #include "plugins/scene/buildings/BuildingScene.h"
 
 #include "contract/FileSearch.h"
-#include "contract/ReaderOptions.h"
 #include "plugins/scene/buildings/DocumentFiles.h"
 #include "plugins/scene/buildings/FootprintReader.h"
 #include "plugins/scene/buildings/GroundHeights.h"
@@ -77,16 +76,19 @@ std::size_t countOf(const LeftOut &leftOut)
 void tellLeftOut(const LeftOut &leftOut, const std::string &heightField, std::size_t features,
                  Notices &notices)
 {
-    const std::string field = " the field \"" + heightField + '"';
-    const std::pair<std::size_t, std::string> reasons[] = {
-        {leftOut.noHeight, "no height in" + field},
-        {leftOut.notPositive, "a height of zero or less in" + field},
-        {leftOut.noShape, "no polygon with an area"},
-        {leftOut.noPlace, "their place is none of their coordinate system"}};
-    for (const auto &[count, reason] : reasons) {
+    struct Reason
+    {
+        std::size_t count;
+        contract::SceneTextId text;
+    };
+    const Reason reasons[] = {{leftOut.noHeight, "MESS_SCENE_NO_HEIGHT"},
+                              {leftOut.notPositive, "MESS_SCENE_ZERO_HEIGHT"},
+                              {leftOut.noShape, "MESS_SCENE_NO_POLYGON"},
+                              {leftOut.noPlace, "MESS_SCENE_NO_PLACE"}};
+    for (const auto &[count, text] : reasons) {
         if (count > 0)
-            notices.push_back(std::to_string(count) + " of " + std::to_string(features) +
-                              " buildings are left out: " + reason);
+            notices.push_back(contract::formatted(
+                text, {std::to_string(count), std::to_string(features), heightField}));
     }
 }
 
@@ -120,7 +122,7 @@ Town readTown(const BuildingDocument &document, const Directories &directories, 
     const BuildingFootprints &footprints = document.footprints;
     const std::string file = locateDataset(footprints.file, directories);
     if (file.empty())
-        throw BadLayer("there is no local file of footprints \"" + footprints.file + '"');
+        throw BadLayer("MESS_SCENE_NO_FOOTPRINTS", {footprints.file});
     ReadFootprints read = readFootprints({file, footprints.layer, footprints.heightField}, notices,
                                          part(progress, 0, 0.5));
     const OGRSpatialReference *srs = read.srs ? &*read.srs : nullptr;
@@ -131,8 +133,8 @@ Town readTown(const BuildingDocument &document, const Directories &directories, 
     place(town, srs);
     tellLeftOut(town.leftOut, footprints.heightField, read.features, notices);
     if (const std::size_t count = countCoincident(town); count > 0)
-        notices.push_back(std::to_string(count) + " of " + std::to_string(read.features) +
-                          " buildings have the same outline as another one");
+        notices.push_back(contract::formatted(
+            "MESS_SCENE_COINCIDENT", {std::to_string(count), std::to_string(read.features)}));
     const GroundSource terrain{document.terrain.file,
                                locateDataset(document.terrain.file, directories),
                                document.terrain.noData};
@@ -140,26 +142,15 @@ Town readTown(const BuildingDocument &document, const Directories &directories, 
     return town;
 }
 
-std::vector<colormaps::Rgba> colorsOf(const Town &town, const std::string &colorText,
-                                      const Directories &directories, Notices &notices,
-                                      const Progress &progress)
-{
-    std::vector<colormaps::Rgba> colors =
-        townColors(town, colorText, directories, notices, progress);
-    if (colors.size() != town.footprints.buildings.size())
-        throw BadLayer(contract::StoppedText);
-    return colors;
-}
-
 void colour(Town &town, const BuildingFootprints &footprints, const Directories &directories,
             Notices &notices, const Progress &progress)
 {
     const bool isOne = footprints.roofColor.empty() || footprints.roofColor == footprints.wallColor;
-    town.wallColors = colorsOf(town, footprints.wallColor, directories, notices,
-                               part(progress, 0.6, isOne ? 0.8 : 0.7));
+    town.wallColors = townColors(town, footprints.wallColor, directories, notices,
+                                 part(progress, 0.6, isOne ? 0.8 : 0.7));
     town.roofColors = isOne ? town.wallColors
-                            : colorsOf(town, footprints.roofColor, directories, notices,
-                                       part(progress, 0.7, 0.8));
+                            : townColors(town, footprints.roofColor, directories, notices,
+                                         part(progress, 0.7, 0.8));
 }
 
 /// What makes tiles with images; empty where the document has none that can be used.
@@ -171,8 +162,6 @@ TexturedMaker texturedMaker(const std::shared_ptr<const Town> &town,
         return {};
     const std::shared_ptr<TextureImages> images =
         TextureImages::open(*town, *document.textures, directories, notices, progress);
-    if (!images)
-        throw BadLayer(contract::StoppedText);
     if (images->isEmpty())
         return {};
     return [town, images, textures = *document.textures, skirtM = document.footprints.skirtHeightM](

@@ -13,8 +13,8 @@ namespace vlt::scene {
 ///
 /// @param document  path of the document
 /// @param project   path of the project file, for relative names; may be empty
-/// @throws BadLayer  naming what is missing or wrong; the text contract::StoppedText where
-///                   `progress` stopped it
+/// @throws BadLayer  naming what is missing or wrong
+/// @throws Stopped   by `progress`
 osg::ref_ptr<osg::Group> readBuildingScene(const std::string &document, const std::string &project,
                                            Notices &notices, const Progress &progress);
 

@@ -30,11 +30,11 @@ std::string locateDocument(const std::string &source, const std::string &layer,
 {
     constexpr std::string_view Start = contract::BuildingSourcePrefix;
     if (!EQUALN(source.c_str(), Start.data(), Start.size()))
-        throw BadLayer("the source \"" + source.substr(0, 60) + "\" does not start with \"TEXB:\"");
+        throw BadLayer("MESS_SCENE_OTHER_SOURCE", {source.substr(0, 60), Start});
     const std::string name = source.substr(Start.size());
     std::string path = locateDataset(name, contract::searchDirectories(layer, project));
     if (path.empty())
-        throw BadLayer("the building document \"" + name + "\" does not exist");
+        throw BadLayer("MESS_SCENE_NO_DOCUMENT", {name});
     return path;
 }
 

@@ -1,11 +1,11 @@
 #include "plugins/scene/buildings/FootprintReader.h"
 
-#include "contract/ReaderOptions.h"
 #include "localfiles/LocalFormats.h"
 #include "localfiles/NoNetwork.h"
 #include "localfiles/OpenLocal.h"
 #include "plugins/scene/buildings/RoofTriangles.h"
 #include "plugins/scene/reading/BadLayer.h"
+#include "plugins/scene/reading/Stopped.h"
 #include "plugins/scene/reading/TableReading.h"
 
 #include <cpl_error.h>
@@ -121,11 +121,11 @@ private:
 GDALDatasetUniquePtr openFootprints(const std::string &file)
 {
     if (!localfiles::isLocalDataset(file))
-        throw BadLayer("there is no local file of footprints \"" + file + '"');
+        throw BadLayer("MESS_SCENE_NO_FOOTPRINTS", {file});
     CPLErrorReset();
     GDALDatasetUniquePtr dataset = localfiles::openVector(file);
     if (!dataset)
-        throw BadLayer("the footprints \"" + file + "\" cannot be read: " + CPLGetLastErrorMsg());
+        throw BadLayer("MESS_SCENE_BAD_FOOTPRINTS", {file, CPLGetLastErrorMsg()});
     return dataset;
 }
 
@@ -140,7 +140,7 @@ OGRLayer &findLayer(GDALDataset &dataset, const std::string &name)
             found = layer;
     }
     if (!found)
-        throw BadLayer("the footprints have no layer \"" + name + '"');
+        throw BadLayer("MESS_SCENE_NO_LAYER", {name});
     return *found;
 }
 
@@ -156,10 +156,10 @@ int findHeightField(const OGRLayer &layer, const std::string &name)
             break;
     }
     if (found < 0)
-        throw BadLayer("the footprints have no field \"" + name + '"');
+        throw BadLayer("MESS_SCENE_NO_FIELD", {name});
     const OGRFieldType type = definition.GetFieldDefn(found)->GetType();
     if (type != OFTInteger && type != OFTInteger64 && type != OFTReal && type != OFTString)
-        throw BadLayer("the field \"" + name + "\" of the footprints holds no numbers");
+        throw BadLayer("MESS_SCENE_NO_NUMBERS", {name});
     return found;
 }
 
@@ -194,8 +194,8 @@ OGRFeatureUniquePtr nextReadable(OGRLayer &layer, std::size_t features, Notices 
     } catch (const BadLayer &fault) {
         if (features == 0)
             throw;
-        notices.push_back("only the first " + std::to_string(features) +
-                          " footprints can be read: " + fault.what());
+        notices.push_back(contract::formatted("MESS_SCENE_READ_PARTLY",
+                                              {std::to_string(features), fault.what()}));
     }
     return nullptr;
 }
@@ -207,14 +207,14 @@ void readFeatures(OGRLayer &layer, int heightField, ReadFootprints &read, Notice
     FootprintBuilder builder(read.footprints);
     while (const OGRFeatureUniquePtr feature = nextReadable(layer, read.features, notices)) {
         if (read.footprints.places.size() > MostPlaces) {
-            notices.push_back("only the first " + std::to_string(read.features) +
-                              " footprints are shown: there are too many");
+            notices.push_back(
+                contract::formatted("MESS_SCENE_SHOWN_PARTLY", {std::to_string(read.features)}));
             return;
         }
         take(*feature, heightField, builder, read.leftOut);
         if (++read.features % FeaturesPerReport == 0 &&
             !progress(std::min(static_cast<double>(read.features) / expected, 1.0)))
-            throw BadLayer(contract::StoppedText);
+            throw Stopped{};
     }
 }
 

@@ -39,7 +39,7 @@ struct ReadFootprints
 ///
 /// @param notices  takes that reading ended before the end of the file, with the reason
 /// @throws BadLayer  no such file, layer or field, a field of no numbers; nothing can be read;
-///                   stopped by `progress`
+/// @throws Stopped   by `progress`
 ReadFootprints readFootprints(const FootprintSource &source, Notices &notices,
                               const Progress &progress);
 

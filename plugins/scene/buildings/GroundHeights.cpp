@@ -1,9 +1,9 @@
 #include "plugins/scene/buildings/GroundHeights.h"
 
-#include "contract/ReaderOptions.h"
 #include "linkpath/TerrainRaster.h"
 #include "localfiles/NoNetwork.h"
 #include "plugins/scene/reading/BadLayer.h"
+#include "plugins/scene/reading/Stopped.h"
 
 #include <cpl_error.h>
 
@@ -33,25 +33,22 @@ std::optional<double> numberIn(std::string text)
 class Ground
 {
 public:
-    /// @param reason  takes why there is none
-    static std::optional<Ground> open(const GroundSource &source, const OGRSpatialReference *srs,
-                                      std::string &reason)
+    /// @throws BadLayer  naming why the terrain cannot be used
+    Ground(const GroundSource &source, const OGRSpatialReference *srs)
     {
         OGRSpatialReference plane;
         plane.SetLocalCS("plane");
-        Ground ground;
-        ground.m_raster = linkpath::TerrainRaster::open(
-            source.path, &reason, {numberIn(source.noData), srs ? srs : &plane});
-        if (!ground.m_raster)
-            return std::nullopt;
-        const OGRSpatialReference &own = ground.m_raster->srs();
+        std::string reason;
+        m_raster = linkpath::TerrainRaster::open(source.path, &reason,
+                                                 {numberIn(source.noData), srs ? srs : &plane});
+        if (!m_raster)
+            throw BadLayer(LibraryWords{reason});
+        const OGRSpatialReference &own = m_raster->srs();
         if (srs && !srs->IsSame(&own)) {
-            ground.m_toRaster.reset(OGRCreateCoordinateTransformation(srs, &own));
-            reason = "there is no way to its coordinate system";
-            if (!ground.m_toRaster)
-                return std::nullopt;
+            m_toRaster.reset(OGRCreateCoordinateTransformation(srs, &own));
+            if (!m_toRaster)
+                throw BadLayer("MESS_SCENE_NO_TRANSFORMATION");
         }
-        return ground;
     }
 
     /// NaN where no point has a height.
@@ -101,9 +98,26 @@ void fillIn(std::vector<float> &heights, Notices &notices)
         heights.begin(), heights.end(), [](float height) { return std::isnan(height); },
         isAll ? 0.0F : lowest);
     notices.push_back(
-        isAll ? "the terrain has no height under any building; they stand at height 0"
-              : std::to_string(missing) + " of " + std::to_string(heights.size()) +
-                    " buildings stand on the lowest ground: there is no terrain height under them");
+        isAll ? contract::formatted("MESS_SCENE_NO_GROUND")
+              : contract::formatted("MESS_SCENE_LOWEST_GROUND",
+                                    {std::to_string(missing), std::to_string(heights.size())}));
+}
+
+/// The terrain of a document; nothing, with a notice, where there is none.
+std::optional<Ground> openGround(const GroundSource &source, const OGRSpatialReference *srs,
+                                 Notices &notices)
+{
+    if (source.file.empty()) {
+        notices.push_back(contract::formatted("MESS_SCENE_NO_TERRAIN"));
+        return std::nullopt;
+    }
+    try {
+        return Ground(source, srs);
+    } catch (const BadLayer &fault) {
+        notices.push_back(
+            contract::formatted("MESS_SCENE_BAD_TERRAIN", {source.file, fault.what()}));
+    }
+    return std::nullopt;
 }
 
 } // namespace
@@ -115,21 +129,13 @@ std::vector<float> groundUnder(const Footprints &footprints, const OGRSpatialRef
     const CPLErrorHandlerPusher quiet(CPLQuietErrorHandler);
     const localfiles::NoNetwork offline;
     std::vector<float> heights(footprints.buildings.size(), 0);
-    if (source.file.empty()) {
-        notices.push_back("the document names no terrain; the buildings stand at height 0");
+    std::optional<Ground> ground = openGround(source, srs, notices);
+    if (!ground)
         return heights;
-    }
-    std::string reason;
-    std::optional<Ground> ground = Ground::open(source, srs, reason);
-    if (!ground) {
-        notices.push_back("the terrain \"" + source.file + "\" cannot be used (" + reason +
-                          "); the buildings stand at height 0");
-        return heights;
-    }
     for (std::size_t i = 0; i < heights.size(); ++i) {
         if (i % BuildingsPerReport == 0 &&
             !progress(static_cast<double>(i) / static_cast<double>(heights.size())))
-            throw BadLayer(contract::StoppedText);
+            throw Stopped{};
         const Footprints::Ring &ring = footprints.rings[footprints.buildings[i].ringBegin];
         heights[i] = ground->meanUnder(footprints.placesOf(ring));
     }

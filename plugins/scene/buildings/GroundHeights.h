@@ -20,7 +20,7 @@ struct GroundSource
 ///
 /// @param srs  of the footprints; null: that of the terrain
 /// @return     parallel to footprints.buildings, metres above sea level
-/// @throws BadLayer  stopped by `progress`
+/// @throws Stopped  by `progress`
 std::vector<float> groundUnder(const Footprints &footprints, const OGRSpatialReference *srs,
                                const GroundSource &source, Notices &notices,
                                const Progress &progress);

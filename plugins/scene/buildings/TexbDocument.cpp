@@ -86,7 +86,7 @@ Attributes takeAttributes(std::string_view &text, References references)
         while (end != None && !endsElement(text.substr(end + 1)) && !goesOn(text.substr(end + 1)))
             end = text.find(quote, end + 1);
         if (end == None)
-            throw BadLayer("the value of " + std::string(name) + " does not end");
+            throw BadLayer("MESS_SCENE_NO_VALUE_END", {name});
         attributes.emplace_back(name, unescaped(text.substr(0, end), references));
         text.remove_prefix(end + 1);
     }
@@ -114,8 +114,9 @@ double numberOf(const Attributes &attributes, std::string_view name, double abse
     const auto [end, fault] = std::from_chars(digits.data(), last, number);
     const bool isWhole = withoutBlanks({end, static_cast<std::size_t>(last - end)}).empty();
     if (fault != std::errc() || !isWhole || !std::isfinite(number) || number < minimum)
-        throw BadLayer("the " + std::string(name) + " \"" + text.substr(0, 40) + "\" is no number" +
-                       (minimum < 0 ? "" : " of zero or more"));
+        throw BadLayer(minimum < 0 ? contract::SceneTextId("MESS_SCENE_NO_NUMBER")
+                                   : contract::SceneTextId("MESS_SCENE_BAD_NUMBER"),
+                       {name, text.substr(0, 40)});
     return std::min(number, MaxNumber);
 }
 
@@ -147,8 +148,7 @@ TextureMode modeNamed(const std::string &name)
 {
     const auto mode = valueOf<TextureMode>(TextureModeWords, name);
     if (!mode)
-        throw BadLayer("the texture mode \"" + name.substr(0, 40) +
-                       "\" is none of roofs, walls and storeys");
+        throw BadLayer("MESS_SCENE_BAD_MODE", {name.substr(0, 40)});
     return *mode;
 }
 
@@ -210,11 +210,11 @@ std::string_view takeElementName(std::string_view &text)
 void check(const BuildingFootprints &footprints)
 {
     if (footprints.file.empty())
-        throw BadLayer("the document names no file of footprints");
+        throw BadLayer("MESS_SCENE_UNNAMED_FOOTPRINTS");
     if (footprints.heightField.empty())
-        throw BadLayer("the document names no field of heights");
+        throw BadLayer("MESS_SCENE_UNNAMED_FIELD");
     if (footprints.tileSizeM <= 0)
-        throw BadLayer("the tileSize is not more than zero");
+        throw BadLayer("MESS_SCENE_NO_TILES");
 }
 
 } // namespace
@@ -223,8 +223,7 @@ BuildingDocument parseTexbDocument(std::string_view text)
 {
     std::string_view name = takeElementName(text);
     if (name != texb::RootElement)
-        throw BadLayer("it is no building document: it does not start with the element "
-                       "veltaroTexturedBuildings");
+        throw BadLayer("MESS_SCENE_OTHER_DOCUMENT");
     // whoever writes documents line by line escapes nothing: a path may hold "&#233;" then
     const bool isPlain = text.find("<vector \n") != None;
     const References references = isPlain ? References::Kept : References::Taken;

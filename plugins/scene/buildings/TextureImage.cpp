@@ -3,6 +3,7 @@
 #include "coverage/LocalRaster.h"
 #include "localfiles/NoNetwork.h"
 #include "plugins/scene/buildings/Dilatation.h"
+#include "plugins/scene/reading/BadLayer.h"
 
 #include <cpl_error.h>
 
@@ -74,40 +75,37 @@ TextureImage::TextureImage(std::string name, const std::string &srs, GDALDataset
 {}
 
 std::unique_ptr<TextureImage> TextureImage::open(const std::string &name, const std::string &srs,
-                                                 bool isKeptOpen, std::string *reason)
+                                                 bool isKeptOpen)
 {
     const CPLErrorHandlerPusher quiet(CPLQuietErrorHandler);
     const localfiles::NoNetwork offline;
+    std::string reason;
     GDALDatasetUniquePtr dataset =
-        coverage::openLocalRaster(name, coverage::RasterUse::Picture, reason);
+        coverage::openLocalRaster(name, coverage::RasterUse::Picture, &reason);
     if (!dataset)
-        return nullptr;
+        throw BadLayer(LibraryWords{reason});
     std::unique_ptr<TextureImage> image(new TextureImage(name, srs, std::move(dataset)));
-    if (const char *fault = image->prepare()) {
-        *reason = fault;
-        return nullptr;
-    }
+    image->prepare();
     if (!isKeptOpen)
         image->m_dataset.reset();
     return image;
 }
 
-const char *TextureImage::prepare()
+void TextureImage::prepare()
 {
     std::array<double, 6> toPlace{};
     if (m_dataset->GetRasterCount() < 1)
-        return "it has no bands";
+        throw BadLayer("MESS_SCENE_NO_BANDS");
     if (m_dataset->GetGeoTransform(toPlace.data()) != CE_None ||
         !GDALInvGeoTransform(toPlace.data(), m_toPixel.data()))
-        return "it has no place";
+        throw BadLayer("MESS_SCENE_NOT_PLACED");
     if (!m_transform.isUsable())
-        return "there is no way from the buildings' coordinate system to its own";
+        throw BadLayer("MESS_SCENE_NO_TRANSFORMATION_FROM");
     m_columns = m_dataset->GetRasterXSize();
     m_rows = m_dataset->GetRasterYSize();
     chooseBands();
     if (m_palette.empty())
         findLevels();
-    return nullptr;
 }
 
 void TextureImage::chooseBands()

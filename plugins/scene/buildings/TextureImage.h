@@ -39,11 +39,10 @@ public:
     /// @param name        absolute, or the library's name of a part of a local file
     /// @param srs         WKT of the places that are looked up; may be empty
     /// @param isKeptOpen  else it is opened anew for each part
-    /// @param reason      takes why there is none
-    /// @return            null where it cannot be opened, has no place or there is no way to its
-    ///                    system
+    /// @throws BadLayer   it cannot be opened, is not georeferenced, or there is no transformation
+    ///                    to its system
     static std::unique_ptr<TextureImage> open(const std::string &name, const std::string &srs,
-                                              bool isKeptOpen, std::string *reason);
+                                              bool isKeptOpen);
 
     /// Turns places into pixels from the image's first corner; NaN where there is no way.
     void toPixels(std::vector<osg::Vec2d> &places);
@@ -64,7 +63,7 @@ private:
     using Values = std::vector<float>;
 
     TextureImage(std::string name, const std::string &srs, GDALDatasetUniquePtr dataset);
-    const char *prepare(); ///< the reason of a refusal, else null
+    void prepare();
     void chooseBands();
     void findLevels();
     std::optional<Window> windowOf(const std::vector<osg::Vec2d> &pixels, double margin,

@@ -2,6 +2,8 @@
 
 #include "coverage/LocalRaster.h"
 #include "plugins/scene/buildings/TownMesh.h"
+#include "plugins/scene/reading/BadLayer.h"
+#include "plugins/scene/reading/Stopped.h"
 
 #include <osg/LineWidth>
 #include <osg/PolygonOffset>
@@ -100,26 +102,27 @@ std::shared_ptr<TextureImages> TextureImages::open(const Town &town,
     std::size_t refused = 0;
     for (const contract::BuildingImage &one : textures.images) {
         if (!progress(static_cast<double>(done++) / static_cast<double>(textures.images.size())))
-            return nullptr;
-        const auto hasItsHeight = [&one](const Level &level) {
-            return level.heightM == one.heightM;
-        };
-        std::string reason;
-        std::unique_ptr<TextureImage> image;
-        if (!std::isfinite(one.heightM))
-            reason = "it has no height";
-        else if (std::any_of(levels.begin(), levels.end(), hasItsHeight))
-            reason = "another one has the same height";
-        else
-            image = TextureImage::open(coverage::locateRaster(one.path, directories), town.srs,
-                                       levels.size() < MostOpenFiles, &reason);
-        if (image)
-            levels.push_back({one.heightM, std::move(image)});
-        else if (++refused <= MostNotices)
-            notices.push_back("the image \"" + one.path + "\" is not shown (" + reason + ")");
+            throw Stopped{};
+        try {
+            const auto hasItsHeight = [&one](const Level &level) {
+                return level.heightM == one.heightM;
+            };
+            if (!std::isfinite(one.heightM))
+                throw BadLayer("MESS_SCENE_WITHOUT_HEIGHT");
+            if (std::any_of(levels.begin(), levels.end(), hasItsHeight))
+                throw BadLayer("MESS_SCENE_SAME_HEIGHT");
+            levels.push_back(
+                {one.heightM, TextureImage::open(coverage::locateRaster(one.path, directories),
+                                                 town.srs, levels.size() < MostOpenFiles)});
+        } catch (const BadLayer &fault) {
+            if (++refused <= MostNotices)
+                notices.push_back(
+                    contract::formatted("MESS_SCENE_BAD_IMAGE", {one.path, fault.what()}));
+        }
     }
     if (refused > MostNotices)
-        notices.push_back(std::to_string(refused - MostNotices) + " more images are not shown");
+        notices.push_back(
+            contract::formatted("MESS_SCENE_MORE_IMAGES", {std::to_string(refused - MostNotices)}));
     std::sort(levels.begin(), levels.end(),
               [](const Level &a, const Level &b) { return a.heightM < b.heightM; });
     return all;

@@ -23,11 +23,12 @@ public:
     };
 
     /// Opens the images that can be used; a notice names each of the first others with the reason,
-    /// one more counts the rest. Images without a place, and those whose system has no way to that
-    /// of the footprints, are none that can be used; of several at one height the first one is.
+    /// one more counts the rest. Images that are not georeferenced, and those to whose system there
+    /// is no transformation from that of the footprints, cannot be used; of several at one height
+    /// only the first one can.
     ///
     /// @param directories  where files of relative names are looked for, in this order
-    /// @return             null where `progress` stopped it
+    /// @throws Stopped     by `progress`
     static std::shared_ptr<TextureImages> open(const Town &town,
                                                const contract::BuildingTextures &textures,
                                                const std::vector<std::string> &directories,

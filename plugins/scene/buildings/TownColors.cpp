@@ -5,6 +5,8 @@
 #include "coverage/LocalRaster.h"
 #include "plugins/scene/buildings/ColorText.h"
 #include "plugins/scene/buildings/PlaceTransform.h"
+#include "plugins/scene/reading/BadLayer.h"
+#include "plugins/scene/reading/Stopped.h"
 #include "plugins/scene/reading/TableLocation.h"
 
 #include <cpl_error.h>
@@ -27,46 +29,29 @@ constexpr Rgba WithoutValue{200, 200, 200, 255};
 constexpr std::size_t BuildingsPerReport = 100; // each may cover millions of pixels
 constexpr double RangeShare = 0.5;              ///< of the work, where the whole raster is read
 
-/// Names and reasons of what cannot be used end the work with a notice.
-struct Unusable
-{
-    std::string notice;
-};
-
-std::string count(std::size_t number, std::size_t all)
-{
-    return std::to_string(number) + " of " + std::to_string(all) + " buildings";
-}
-
-/// Nothing where `progress` stopped it.
-std::optional<ColorMap> loadMap(const RasterColors &colors,
-                                const std::vector<std::string> &directories, CoverageRaster &raster,
-                                const Progress &progress)
+ColorMap loadMap(const RasterColors &colors, const std::vector<std::string> &directories,
+                 CoverageRaster &raster, const Progress &progress)
 {
     const std::string path = locateFile(colors.map, directories);
     if (path.empty())
-        throw Unusable{"the color map \"" + colors.map + "\" does not exist"};
+        throw BadLayer("MESS_SCENE_NO_MAP", {colors.map});
     const CPLErrorHandlerPusher quiet(CPLQuietErrorHandler);
     CPLErrorReset();
     ColorMap map;
     bool isLoaded = false;
     if (colors.isStretched) {
-        bool isStopped = false;
-        const std::optional<coverage::ValueRange> range = raster.range([&](double share) {
-            isStopped = !progress(share * RangeShare);
-            return !isStopped;
-        });
-        if (isStopped)
-            return std::nullopt;
+        const std::optional<coverage::ValueRange> range = raster.range(
+            [&](double share) { return progress(share * RangeShare) ? true : throw Stopped{}; });
         if (!range)
-            throw Unusable{"the raster \"" + colors.raster + "\" has no values"};
+            throw BadLayer("MESS_SCENE_EMPTY_RASTER", {colors.raster});
         isLoaded = map.load(path, range->minimum, range->maximum);
     } else
         isLoaded = map.load(path);
     if (!isLoaded) {
         const std::string why = CPLGetLastErrorMsg();
-        throw Unusable{"the color map \"" + colors.map + "\" cannot be used (" +
-                       (why.empty() ? "it is none" : why) + ")"};
+        throw BadLayer(
+            "MESS_SCENE_BAD_MAP",
+            {colors.map, why.empty() ? contract::formatted("MESS_SCENE_NOT_A_MAP") : why});
     }
     return map;
 }
@@ -78,10 +63,9 @@ std::unique_ptr<CoverageRaster> openRaster(const RasterColors &colors,
     auto raster = CoverageRaster::open(coverage::locateRaster(colors.raster, directories),
                                        colors.noData, &reason);
     if (raster && !raster->isPlaced())
-        reason = "it has no place";
+        reason = contract::formatted("MESS_SCENE_NOT_PLACED");
     if (!reason.empty())
-        throw Unusable{"the raster \"" + colors.raster + "\" cannot be used for colors (" + reason +
-                       ")"};
+        throw BadLayer("MESS_SCENE_BAD_RASTER", {colors.raster, reason});
     return raster;
 }
 
@@ -167,12 +151,9 @@ std::vector<Rgba> rasterColors(const Town &town, const RasterColors &colors,
     const std::unique_ptr<CoverageRaster> raster = openRaster(colors, directories);
     const PlaceTransform transform(town.srs, raster->srs());
     if (!transform.isUsable())
-        throw Unusable{"the raster \"" + colors.raster +
-                       "\" cannot be used for colors (there is no way from the buildings' "
-                       "coordinate system to its own)"};
-    const std::optional<ColorMap> map = loadMap(colors, directories, *raster, progress);
-    if (!map)
-        return {};
+        throw BadLayer("MESS_SCENE_BAD_RASTER",
+                       {colors.raster, contract::formatted("MESS_SCENE_NO_TRANSFORMATION_FROM")});
+    const ColorMap map = loadMap(colors, directories, *raster, progress);
 
     const auto interpretation = colors.isInterpolated ? colormaps::Interpretation::Interpolation
                                                       : colormaps::Interpretation::ColorRanges;
@@ -186,14 +167,15 @@ std::vector<Rgba> rasterColors(const Town &town, const RasterColors &colors,
     for (const std::size_t i : inRows(footprints)) {
         const double share = static_cast<double>(done) / static_cast<double>(number);
         if (done++ % BuildingsPerReport == 0 && !progress(before + share * (1 - before)))
-            return {};
+            throw Stopped{};
         const double value = values.under(footprints.buildings[i]);
         without += std::isnan(value) ? 1 : 0;
-        found[i] = colorOf(*map, value, interpretation).value_or(WithoutValue);
+        found[i] = colorOf(map, value, interpretation).value_or(WithoutValue);
     }
     if (without > 0)
-        notices.push_back(count(without, number) + " have no value in the raster \"" +
-                          colors.raster + "\"");
+        notices.push_back(
+            contract::formatted("MESS_SCENE_NO_VALUE",
+                                {std::to_string(without), std::to_string(number), colors.raster}));
     return found;
 }
 
@@ -211,10 +193,10 @@ std::vector<Rgba> townColors(const Town &town, const std::string &colorText,
     try {
         const std::optional<RasterColors> colors = contract::parseRasterColors(colorText);
         if (!colors)
-            throw Unusable{"\"" + colorText + "\" tells no colors of buildings"};
+            throw BadLayer("MESS_SCENE_NO_COLORS", {colorText});
         return rasterColors(town, *colors, directories, notices, progress);
-    } catch (const Unusable &fault) {
-        notices.push_back(fault.notice);
+    } catch (const BadLayer &fault) {
+        notices.push_back(fault.what());
     }
     return std::vector<Rgba>(number, WithoutValue);
 }

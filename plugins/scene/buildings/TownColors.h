@@ -16,7 +16,8 @@ namespace vlt::scene {
 /// (raster, map, system) leaves all buildings in that grey, with a notice that names it.
 ///
 /// @param directories  where files of relative names are looked for, in this order
-/// @return             parallel to town.footprints.buildings; empty where `progress` stopped it
+/// @return             parallel to town.footprints.buildings
+/// @throws Stopped     by `progress`
 std::vector<colormaps::Rgba> townColors(const Town &town, const std::string &colorText,
                                         const std::vector<std::string> &directories,
                                         Notices &notices, const Progress &progress);

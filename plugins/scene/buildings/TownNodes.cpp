@@ -1,11 +1,10 @@
 #include "plugins/scene/buildings/TownNodes.h"
 
-#include "contract/ReaderOptions.h"
 #include "plugins/scene/buildings/TownMesh.h"
 #include "plugins/scene/buildings/TownTree.h"
 #include "plugins/scene/mesh/DeferredNode.h"
 #include "plugins/scene/mesh/MovedNode.h"
-#include "plugins/scene/reading/BadLayer.h"
+#include "plugins/scene/reading/Stopped.h"
 
 #include <osg/Geode>
 #include <osg/LOD>
@@ -200,7 +199,7 @@ private:
         m_done += tree.buildings.size();
         if (!m_progress(static_cast<double>(m_done) /
                         static_cast<double>(m_content->town->footprints.buildings.size())))
-            throw BadLayer(contract::StoppedText);
+            throw Stopped{};
         return lod;
     }
 

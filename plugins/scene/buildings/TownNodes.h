@@ -41,7 +41,7 @@ inline constexpr double LargestBoxAmongDotsM = 70;
 /// extruded buildings up to theirs, nothing beyond. Where pixels are coarse, thousands of buildings
 /// are one drawable.
 ///
-/// @throws BadLayer  stopped by `progress`
+/// @throws Stopped  by `progress`
 osg::ref_ptr<osg::Group> buildTown(const std::shared_ptr<const Town> &town, const TownLook &look,
                                    const Progress &progress);
 

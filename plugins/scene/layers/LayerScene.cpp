@@ -2,6 +2,7 @@
 
 #include "contract/FileSearch.h"
 #include "contract/QueryOptions.h"
+#include "contract/SceneTexts.h"
 #include "plugins/scene/layers/LinkLayerScene.h"
 #include "plugins/scene/layers/LinkLayerStyle.h"
 #include "plugins/scene/layers/LinkRecords.h"
@@ -24,14 +25,11 @@ std::shared_ptr<linkpath::TerrainRaster> openTerrain(const contract::ConnectionS
     const std::string named = table.option(contract::query::TerrainFile);
     if (named.empty())
         return nullptr;
-    const std::string path = locateFile(named, directories);
-    std::string reason = "there is no such local file";
-    std::shared_ptr<linkpath::TerrainRaster> terrain;
-    if (!path.empty())
-        terrain = linkpath::TerrainRaster::open(path, &reason);
+    std::string reason;
+    std::shared_ptr<linkpath::TerrainRaster> terrain =
+        linkpath::TerrainRaster::open(locateFile(named, directories), &reason);
     if (!terrain)
-        notices.push_back("the terrain \"" + named + "\" cannot be used (" + reason +
-                          "); the links stand at height 0");
+        notices.push_back(contract::formatted("MESS_SCENE_LINK_TERRAIN", {named, reason}));
     return terrain;
 }
 
@@ -53,9 +51,9 @@ osg::ref_ptr<osg::Group> readLinks(const LayerFile &file, const Directories &dir
     const linkpath::PathProfiler profiler(terrain, links.srs.IsEmpty() ? nullptr : &links.srs);
     LinkRecords records = placeLinks(links, style, profiler);
     if (terrain && records.groundless > 0)
-        notices.push_back(std::to_string(records.groundless) + " of " +
-                          std::to_string(records.pylons.sites.size()) +
-                          " pylons stand at height 0: there is no terrain height under them");
+        notices.push_back(contract::formatted(
+            "MESS_SCENE_LINK_GROUND",
+            {std::to_string(records.groundless), std::to_string(records.pylons.sites.size())}));
     osg::ref_ptr<osg::Node> surface;
     if (request.withTerrain)
         surface = buildTerrainSurface(profiler, *links.frame.local, extentOf(records.pylons));
@@ -64,7 +62,7 @@ osg::ref_ptr<osg::Group> readLinks(const LayerFile &file, const Directories &dir
     if (surface)
         scene->addChild(surface);
     else if (request.withTerrain)
-        notices.push_back("no terrain is shown: there are no heights under the links");
+        notices.push_back(contract::formatted("MESS_SCENE_NO_SURFACE"));
     return scene;
 }
 

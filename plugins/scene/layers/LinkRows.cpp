@@ -41,8 +41,8 @@ public:
         , m_ends(*layer.GetLayerDefn(), siteFieldOf(layer, siteField))
     {
         if (!m_ends.isComplete())
-            throw BadLayer(std::string("the layer of link ends has no field \"") +
-                           contract::LinkRowField + "\" or \"" + contract::LinkEndField + '"');
+            throw BadLayer("MESS_SCENE_NO_END_FIELDS",
+                           {contract::LinkRowField, contract::LinkEndField});
         const auto fields = m_ends.fields();
         readOnlyFields(m_layer, {fields.begin(), fields.end()});
     }
@@ -118,11 +118,10 @@ LinkRows readLinkRows(const contract::ConnectionString &table, const LayerFile &
     if (!ends)
         ends = dataset->GetLayer(contract::LinkEndLayerIndex);
     if (!ends)
-        throw BadLayer(table.path + ": it has no layer of link ends");
+        throw BadLayer("MESS_SCENE_NO_END_LAYER", {table.path});
     LinkRows links = Reader(*ends, layer.siteField).read();
     if (links.rows.empty())
-        throw BadLayer(table.path + ": none of " + std::to_string(links.unplaced) +
-                       " links has a position");
+        throw BadLayer("MESS_SCENE_UNPLACED_LINKS", {std::to_string(links.unplaced), table.path});
     return links;
 }
 

@@ -149,8 +149,7 @@ SiteRecords readSiteRecords(const contract::ConnectionString &table, const Layer
         sites = dataset->GetLayer(0);
     SiteRecords records = Reader(*sites, layer, style).read();
     if (records.sites.empty())
-        throw BadLayer(table.path + ": none of " + std::to_string(records.unplaced) +
-                       " sites has a position");
+        throw BadLayer("MESS_SCENE_UNPLACED_SITES", {std::to_string(records.unplaced), table.path});
     return records;
 }
 

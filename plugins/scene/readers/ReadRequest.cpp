@@ -1,6 +1,7 @@
 #include "plugins/scene/readers/ReadRequest.h"
 
 #include "contract/ReaderOptions.h"
+#include "plugins/scene/reading/Stopped.h"
 
 #include <osg/Notify>
 #include <osgDB/FileNameUtils>
@@ -71,9 +72,10 @@ ReadResult readLocalScene(
         const osg::ref_ptr<osg::Group> scene = read(path, readRequestOf(options), notices);
         tell(path, notices, scene->getDescriptions());
         return scene.get();
+    } catch (const Stopped &) {
+        return ReadResult(contract::StoppedText);
     } catch (const std::exception &fault) { // BadLayer, BadQuery, or out of memory
-        const std::string text = fault.what();
-        return ReadResult(text == contract::StoppedText ? text : path + ": " + text);
+        return ReadResult(path + ": " + fault.what());
     }
 }
 

@@ -31,7 +31,8 @@ ReadRequest readRequestOf(const osgDB::Options *options);
 ///
 /// @param name  as the caller has it; looked for where the scene library looks for files
 /// @param read  makes the scene of the path that was found and adds notices; what it throws is the
-///              reader's message, after the path, but for contract::StoppedText, which is all
+///              reader's message, after the path; where the caller stopped it,
+///              contract::StoppedText
 osgDB::ReaderWriter::ReadResult readLocalScene(
     const std::string &name, const osgDB::Options *options,
     const std::function<osg::ref_ptr<osg::Group>(const std::string &path, const ReadRequest &,

@@ -52,13 +52,13 @@ std::string takeValue(std::string_view &rest, const std::string &name)
                !startsAfterBlanks(inside.substr(close + SectionEnd.size()), endTag))
             close = inside.find(SectionEnd, close + 1);
         if (close == None)
-            throw BadLayer("the element " + name + " does not end");
+            throw BadLayer("MESS_SCENE_NO_END", {name});
         value = trimmed(inside.substr(0, close));
         end = begin + SectionStart.size() + close;
     } else if (end != None)
         value = unescaped(trimmed(rest.substr(0, end)));
     if (end == None)
-        throw BadLayer("the element " + name + " does not end");
+        throw BadLayer("MESS_SCENE_NO_END", {name});
     rest.remove_prefix(std::min(rest.find('>', rest.find(endTag, end)), rest.size()));
     return value;
 }
@@ -93,9 +93,8 @@ LayerKind kindNamed(const std::string &name)
             return kind;
     }
     if (name.empty())
-        throw BadLayer("the kind of the layer is missing");
-    throw BadLayer("layers of the kind \"" + name +
-                   "\" cannot be shown, only \"sites\", \"links\" and \"buildings\"");
+        throw BadLayer("MESS_SCENE_NO_KIND");
+    throw BadLayer("MESS_SCENE_BAD_KIND", {name});
 }
 
 } // namespace
@@ -110,7 +109,7 @@ LayerFile parseLayerFile(std::string_view text)
         root = rest.find('<');
     }
     if (root == None)
-        throw BadLayer("there is no element veltaroLayer");
+        throw BadLayer("MESS_SCENE_NO_ROOT");
     rest.remove_prefix(root);
 
     LayerFile file;
@@ -143,9 +142,9 @@ LayerFile parseLayerFile(std::string_view text)
         }
     }
     if (file.source.empty())
-        throw BadLayer("the element source is missing or empty");
+        throw BadLayer("MESS_SCENE_NO_SOURCE");
     if (file.source.size() > MaxSourceSize)
-        throw BadLayer("the element source is unreasonably long");
+        throw BadLayer("MESS_SCENE_LONG_SOURCE");
     return file;
 }
 

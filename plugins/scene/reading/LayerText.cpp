@@ -16,15 +16,15 @@ std::string readLayerText(const std::string &path)
 {
     std::error_code error;
     if (!std::filesystem::is_regular_file(path, error))
-        throw BadLayer("it is no file");
+        throw BadLayer("MESS_SCENE_NO_FILE");
     std::ifstream stream(path, std::ios::binary);
     std::string text(MaxLayerFileSize + 1, '\0');
     stream.read(text.data(), static_cast<std::streamsize>(text.size()));
     text.resize(static_cast<std::size_t>(stream.gcount()));
     if (stream.bad() || (text.empty() && !stream.is_open()))
-        throw BadLayer("it cannot be read");
+        throw BadLayer("MESS_SCENE_UNREADABLE");
     if (text.size() > MaxLayerFileSize)
-        throw BadLayer("it is too large for a file of its kind");
+        throw BadLayer("MESS_SCENE_LARGE_FILE");
     return asUtf8(std::move(text));
 }
 

@@ -67,7 +67,7 @@ LocalFrame::LocalFrame(const OGRSpatialReference *srs, const std::vector<osg::Ve
         return;
     }
     if (srs && !srs->IsProjected() && !srs->IsLocal())
-        throw BadLayer("the coordinate system of the layer is neither projected nor geographic");
+        throw BadLayer("MESS_SCENE_NO_FRAME");
     m_unitM = srs ? srs->GetLinearUnits() : 1;
     if (srs && countsWestAndSouth(*srs))
         m_unitM = -m_unitM;
@@ -91,7 +91,7 @@ void LocalFrame::projectAround(const OGRSpatialReference &srs,
     m_toPlane.reset(OGRCreateCoordinateTransformation(&geographic, &plane));
     m_fromPlane.reset(OGRCreateCoordinateTransformation(&plane, &geographic));
     if (!m_toPlane || !m_fromPlane)
-        throw BadLayer("the coordinate system of the layer cannot be projected");
+        throw BadLayer("MESS_SCENE_NO_PROJECTION");
 }
 
 osg::Vec2d LocalFrame::toFrame(const osg::Vec2d &place) const

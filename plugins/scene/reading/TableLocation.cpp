@@ -26,10 +26,10 @@ contract::ConnectionString locateTable(const std::string &source, LayerKind kind
         kind == LayerKind::Links ? contract::TableKind::Links : contract::TableKind::Sites;
     const auto plain = contract::parseConnection(source);
     if (!plain || plain->kind != tableKind)
-        throw BadLayer("the source \"" + source.substr(0, 60) + "\" does not start with \"" +
-                       std::string(contract::connectionPrefix(tableKind)) + "\"");
+        throw BadLayer("MESS_SCENE_OTHER_SOURCE",
+                       {source.substr(0, 60), contract::connectionPrefix(tableKind)});
     if (plain->path.empty())
-        throw BadLayer("the source names no table");
+        throw BadLayer("MESS_SCENE_UNNAMED_TABLE");
     for (const std::string &directory : directories) {
         auto connection = contract::parseConnection(source, directory);
         const std::string path = fileIn(directory, connection->path);
@@ -38,12 +38,12 @@ contract::ConnectionString locateTable(const std::string &source, LayerKind kind
         connection->path = path;
         return *connection;
     }
-    std::string text = "the table \"" + plain->path + "\" does not exist";
-    if (plain->path.front() != '/') {
-        for (std::size_t i = 0; i < directories.size(); ++i)
-            text += (i == 0 ? "; looked for in " : ", ") + directories[i];
-    }
-    throw BadLayer(text);
+    if (plain->path.starts_with('/'))
+        throw BadLayer("MESS_SCENE_NO_TABLE", {plain->path});
+    std::string searched;
+    for (const std::string &directory : directories)
+        searched += (searched.empty() ? "" : ", ") + directory;
+    throw BadLayer("MESS_SCENE_NO_TABLE_IN", {plain->path, searched});
 }
 
 std::string locateFile(const std::string &path, const std::vector<std::string> &directories)

@@ -74,15 +74,14 @@ GDALDatasetUniquePtr openTable(const contract::ConnectionString &table)
 {
     registerTableDrivers();
     if (!GDALGetDriverByName(contract::TableDriver))
-        throw BadLayer(std::string("the table driver ") + contract::TableDriver +
-                       " is not there; GDAL_DRIVER_PATH has to name its directory");
+        throw BadLayer("MESS_SCENE_NO_DRIVER", {contract::TableDriver});
     CPLErrorReset();
     const char *const drivers[] = {contract::TableDriver, nullptr};
     GDALDatasetUniquePtr dataset(
         GDALDataset::Open(contract::composeConnection(table).c_str(),
                           GDAL_OF_VECTOR | GDAL_OF_READONLY | GDAL_OF_VERBOSE_ERROR, drivers));
     if (!dataset)
-        throw BadLayer(CPLGetLastErrorMsg());
+        throw BadLayer(LibraryWords{CPLGetLastErrorMsg()});
     return dataset;
 }
 
@@ -118,7 +117,7 @@ OGRFeatureUniquePtr nextFeature(OGRLayer &layer)
     CPLErrorReset(); // a row that could not be placed is no reason to stop
     OGRFeatureUniquePtr feature(layer.GetNextFeature());
     if (!feature && CPLGetLastErrorType() == CE_Failure)
-        throw BadLayer(CPLGetLastErrorMsg());
+        throw BadLayer(LibraryWords{CPLGetLastErrorMsg()});
     return feature;
 }
 

@@ -48,20 +48,20 @@
         <translation>the building document "%1" does not exist</translation>
     </message>
     <message id="MESS_SCENE_OTHER_DOCUMENT">
-        <source>it is no building document: it does not start with the element veltaroTexturedBuildings</source>
-        <translation>it is no building document: it does not start with the element veltaroTexturedBuildings</translation>
+        <source>it is not a building document: it does not start with the element veltaroTexturedBuildings</source>
+        <translation>it is not a building document: it does not start with the element veltaroTexturedBuildings</translation>
     </message>
     <message id="MESS_SCENE_NO_VALUE_END">
         <source>the value of %1 does not end</source>
         <translation>the value of %1 does not end</translation>
     </message>
     <message id="MESS_SCENE_BAD_NUMBER">
-        <source>the %1 "%2" is no number of zero or more</source>
-        <translation>the %1 "%2" is no number of zero or more</translation>
+        <source>the %1 "%2" is not a number of zero or more</source>
+        <translation>the %1 "%2" is not a number of zero or more</translation>
     </message>
     <message id="MESS_SCENE_NO_NUMBER">
-        <source>the %1 "%2" is no number</source>
-        <translation>the %1 "%2" is no number</translation>
+        <source>the %1 "%2" is not a number</source>
+        <translation>the %1 "%2" is not a number</translation>
     </message>
     <message id="MESS_SCENE_BAD_MODE">
         <source>the texture mode "%1" is none of roofs, walls and storeys</source>
@@ -76,8 +76,8 @@
         <translation>the document names no field of heights</translation>
     </message>
     <message id="MESS_SCENE_NO_TILES">
-        <source>the tileSize is not more than zero</source>
-        <translation>the tileSize is not more than zero</translation>
+        <source>the tileSize is not greater than zero</source>
+        <translation>the tileSize is not greater than zero</translation>
     </message>
     <message id="MESS_SCENE_UNNAMED_TABLE">
         <source>the source names no table</source>
@@ -100,8 +100,8 @@
         <translation>the table "%1" has no layer of link ends</translation>
     </message>
     <message id="MESS_SCENE_NO_END_FIELDS">
-        <source>the layer of link ends has no field "Link row" or "End"</source>
-        <translation>the layer of link ends has no field "Link row" or "End"</translation>
+        <source>the layer of link ends has no field "%1" or "%2"</source>
+        <translation>the layer of link ends has no field "%1" or "%2"</translation>
     </message>
     <message id="MESS_SCENE_UNPLACED_LINKS">
         <source>none of %1 links of the table "%2" has a position</source>
@@ -164,8 +164,8 @@
         <translation>%1 of %2 buildings are left out: no polygon with an area</translation>
     </message>
     <message id="MESS_SCENE_NO_PLACE">
-        <source>%1 of %2 buildings are left out: their place is none of their coordinate system</source>
-        <translation>%1 of %2 buildings are left out: their place is none of their coordinate system</translation>
+        <source>%1 of %2 buildings are left out: their position lies outside their coordinate system</source>
+        <translation>%1 of %2 buildings are left out: their position lies outside their coordinate system</translation>
     </message>
     <message id="MESS_SCENE_COINCIDENT">
         <source>%1 of %2 buildings have the same outline as another one</source>
@@ -188,8 +188,8 @@
         <translation>the terrain "%1" cannot be used (%2); the buildings stand at height 0</translation>
     </message>
     <message id="MESS_SCENE_NO_GROUND">
-        <source>the terrain has no height under any building; they stand at height 0</source>
-        <translation>the terrain has no height under any building; they stand at height 0</translation>
+        <source>there is no terrain height under the buildings; they stand at height 0</source>
+        <translation>there is no terrain height under the buildings; they stand at height 0</translation>
     </message>
     <message id="MESS_SCENE_LOWEST_GROUND">
         <source>%1 of %2 buildings stand on the lowest ground: there is no terrain height under them</source>
@@ -216,8 +216,8 @@
         <translation>%1 of %2 buildings have no value in the raster "%3"</translation>
     </message>
     <message id="MESS_SCENE_NO_COLORS">
-        <source>"%1" tells no colors of buildings</source>
-        <translation>"%1" tells no colors of buildings</translation>
+        <source>"%1" does not describe colors of buildings</source>
+        <translation>"%1" does not describe colors of buildings</translation>
     </message>
     <message id="MESS_SCENE_BAD_IMAGE">
         <source>the image "%1" is not shown (%2)</source>
@@ -259,13 +259,17 @@
         <source>it is stored in blocks that are too large</source>
         <translation>it is stored in blocks that are too large</translation>
     </message>
-    <message id="MESS_SCENE_NO_WAY">
-        <source>there is no way to its coordinate system</source>
-        <translation>there is no way to its coordinate system</translation>
+    <message id="MESS_SCENE_NO_TRANSFORMATION">
+        <source>there is no transformation to its coordinate system</source>
+        <translation>there is no transformation to its coordinate system</translation>
     </message>
-    <message id="MESS_SCENE_NO_WAY_FROM">
-        <source>there is no way from the buildings' coordinate system to its own</source>
-        <translation>there is no way from the buildings' coordinate system to its own</translation>
+    <message id="MESS_SCENE_NO_TRANSFORMATION_FROM">
+        <source>there is no transformation from the buildings' coordinate system to its own</source>
+        <translation>there is no transformation from the buildings' coordinate system to its own</translation>
+    </message>
+    <message id="MESS_SCENE_NOT_A_MAP">
+        <source>it is not a color map</source>
+        <translation>it is not a color map</translation>
     </message>
     <message id="MESS_SCENE_NO_MAP_IN">
         <source>No color association found in %1</source>
@@ -300,8 +304,8 @@
         <translation>the no-data value "%1" is not a number</translation>
     </message>
     <message id="MESS_SCENE_NOT_PLACED">
-        <source>it has no place</source>
-        <translation>it has no place</translation>
+        <source>it is not georeferenced</source>
+        <translation>it is not georeferenced</translation>
     </message>
     <message id="MESS_SCENE_NO_BANDS">
         <source>it has no bands</source>
@@ -312,8 +316,8 @@
         <translation>it has no height</translation>
     </message>
     <message id="MESS_SCENE_SAME_HEIGHT">
-        <source>another one has the same height</source>
-        <translation>another one has the same height</translation>
+        <source>another image has the same height</source>
+        <translation>another image has the same height</translation>
     </message>
     <message id="MESS_SCENE_NO_FORMAT">
         <source>`%1' not recognized as a supported file format.</source>

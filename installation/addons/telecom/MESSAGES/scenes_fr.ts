@@ -13,7 +13,7 @@
     </message>
     <message id="MESS_SCENE_LARGE_FILE">
         <source>it is too large for a file of its kind</source>
-        <translation>trop grand pour un fichier de ce genre</translation>
+        <translation>trop grand pour un fichier de ce type</translation>
     </message>
     <message id="MESS_SCENE_NO_ROOT">
         <source>there is no element veltaroLayer</source>
@@ -21,11 +21,11 @@
     </message>
     <message id="MESS_SCENE_NO_KIND">
         <source>the kind of the layer is missing</source>
-        <translation>le genre de la couche manque</translation>
+        <translation>le type de la couche manque</translation>
     </message>
     <message id="MESS_SCENE_BAD_KIND">
         <source>layers of the kind "%1" cannot be shown, only "sites", "links" and "buildings"</source>
-        <translation>les couches du genre «&#xa0;%1&#xa0;» ne peuvent pas être affichées, seulement «&#xa0;sites&#xa0;», «&#xa0;links&#xa0;» et «&#xa0;buildings&#xa0;»</translation>
+        <translation>les couches du type «&#xa0;%1&#xa0;» ne peuvent pas être affichées, seulement «&#xa0;sites&#xa0;», «&#xa0;links&#xa0;» et «&#xa0;buildings&#xa0;»</translation>
     </message>
     <message id="MESS_SCENE_NO_SOURCE">
         <source>the element source is missing or empty</source>
@@ -48,7 +48,7 @@
         <translation>le document de bâtiments «&#xa0;%1&#xa0;» n'existe pas</translation>
     </message>
     <message id="MESS_SCENE_OTHER_DOCUMENT">
-        <source>it is no building document: it does not start with the element veltaroTexturedBuildings</source>
+        <source>it is not a building document: it does not start with the element veltaroTexturedBuildings</source>
         <translation>ce n'est pas un document de bâtiments&#xa0;: il ne commence pas par l'élément veltaroTexturedBuildings</translation>
     </message>
     <message id="MESS_SCENE_NO_VALUE_END">
@@ -56,11 +56,11 @@
         <translation>la valeur de %1 ne se termine pas</translation>
     </message>
     <message id="MESS_SCENE_BAD_NUMBER">
-        <source>the %1 "%2" is no number of zero or more</source>
+        <source>the %1 "%2" is not a number of zero or more</source>
         <translation>la valeur de %1, «&#xa0;%2&#xa0;», n'est pas un nombre supérieur ou égal à zéro</translation>
     </message>
     <message id="MESS_SCENE_NO_NUMBER">
-        <source>the %1 "%2" is no number</source>
+        <source>the %1 "%2" is not a number</source>
         <translation>la valeur de %1, «&#xa0;%2&#xa0;», n'est pas un nombre</translation>
     </message>
     <message id="MESS_SCENE_BAD_MODE">
@@ -76,7 +76,7 @@
         <translation>le document n'indique pas de champ de hauteurs</translation>
     </message>
     <message id="MESS_SCENE_NO_TILES">
-        <source>the tileSize is not more than zero</source>
+        <source>the tileSize is not greater than zero</source>
         <translation>tileSize n'est pas supérieur à zéro</translation>
     </message>
     <message id="MESS_SCENE_UNNAMED_TABLE">
@@ -100,8 +100,8 @@
         <translation>le tableau «&#xa0;%1&#xa0;» n'a pas de couche des extrémités de liaisons</translation>
     </message>
     <message id="MESS_SCENE_NO_END_FIELDS">
-        <source>the layer of link ends has no field "Link row" or "End"</source>
-        <translation>la couche des extrémités de liaisons n'a pas de champ «&#xa0;Link row&#xa0;» ou «&#xa0;End&#xa0;»</translation>
+        <source>the layer of link ends has no field "%1" or "%2"</source>
+        <translation>la couche des extrémités de liaisons n'a pas de champ «&#xa0;%1&#xa0;» ou «&#xa0;%2&#xa0;»</translation>
     </message>
     <message id="MESS_SCENE_UNPLACED_LINKS">
         <source>none of %1 links of the table "%2" has a position</source>
@@ -164,7 +164,7 @@
         <translation>bâtiments omis, sans polygone ayant une surface&#xa0;: %1 sur %2</translation>
     </message>
     <message id="MESS_SCENE_NO_PLACE">
-        <source>%1 of %2 buildings are left out: their place is none of their coordinate system</source>
+        <source>%1 of %2 buildings are left out: their position lies outside their coordinate system</source>
         <translation>bâtiments omis, de position hors de leur système de coordonnées&#xa0;: %1 sur %2</translation>
     </message>
     <message id="MESS_SCENE_COINCIDENT">
@@ -173,11 +173,11 @@
     </message>
     <message id="MESS_SCENE_READ_PARTLY">
         <source>only the first %1 footprints can be read: %2</source>
-        <translation>emprises lues avant que le fichier ne fasse défaut&#xa0;: %1 (%2)</translation>
+        <translation>seules les premières emprises peuvent être lues, au nombre de %1&#xa0;: %2</translation>
     </message>
     <message id="MESS_SCENE_SHOWN_PARTLY">
         <source>only the first %1 footprints are shown: there are too many</source>
-        <translation>il y a trop d'emprises, seules les premières sont affichées&#xa0;: %1</translation>
+        <translation>seules les premières emprises sont affichées, au nombre de %1&#xa0;: il y en a trop</translation>
     </message>
     <message id="MESS_SCENE_NO_TERRAIN">
         <source>the document names no terrain; the buildings stand at height 0</source>
@@ -188,8 +188,8 @@
         <translation>le terrain «&#xa0;%1&#xa0;» ne peut pas être utilisé (%2)&#xa0;; les bâtiments sont à l'altitude 0</translation>
     </message>
     <message id="MESS_SCENE_NO_GROUND">
-        <source>the terrain has no height under any building; they stand at height 0</source>
-        <translation>le terrain n'a d'altitude sous aucun bâtiment&#xa0;; ils sont à l'altitude 0</translation>
+        <source>there is no terrain height under the buildings; they stand at height 0</source>
+        <translation>le terrain n'a pas d'altitudes sous les bâtiments&#xa0;; ils sont à l'altitude 0</translation>
     </message>
     <message id="MESS_SCENE_LOWEST_GROUND">
         <source>%1 of %2 buildings stand on the lowest ground: there is no terrain height under them</source>
@@ -216,8 +216,8 @@
         <translation>bâtiments sans valeur dans le raster «&#xa0;%3&#xa0;»&#xa0;: %1 sur %2</translation>
     </message>
     <message id="MESS_SCENE_NO_COLORS">
-        <source>"%1" tells no colors of buildings</source>
-        <translation>«&#xa0;%1&#xa0;» n'indique pas de couleurs de bâtiments</translation>
+        <source>"%1" does not describe colors of buildings</source>
+        <translation>«&#xa0;%1&#xa0;» ne décrit pas de couleurs de bâtiments</translation>
     </message>
     <message id="MESS_SCENE_BAD_IMAGE">
         <source>the image "%1" is not shown (%2)</source>
@@ -259,13 +259,17 @@
         <source>it is stored in blocks that are too large</source>
         <translation>il est enregistré en blocs trop grands</translation>
     </message>
-    <message id="MESS_SCENE_NO_WAY">
-        <source>there is no way to its coordinate system</source>
-        <translation>aucun passage ne mène à son système de coordonnées</translation>
+    <message id="MESS_SCENE_NO_TRANSFORMATION">
+        <source>there is no transformation to its coordinate system</source>
+        <translation>il n'existe pas de transformation vers son système de coordonnées</translation>
     </message>
-    <message id="MESS_SCENE_NO_WAY_FROM">
-        <source>there is no way from the buildings' coordinate system to its own</source>
-        <translation>aucun passage ne mène du système de coordonnées des bâtiments au sien</translation>
+    <message id="MESS_SCENE_NO_TRANSFORMATION_FROM">
+        <source>there is no transformation from the buildings' coordinate system to its own</source>
+        <translation>il n'existe pas de transformation du système de coordonnées des bâtiments vers le sien</translation>
+    </message>
+    <message id="MESS_SCENE_NOT_A_MAP">
+        <source>it is not a color map</source>
+        <translation>ce n'est pas une palette</translation>
     </message>
     <message id="MESS_SCENE_NO_MAP_IN">
         <source>No color association found in %1</source>
@@ -300,8 +304,8 @@
         <translation>la valeur d'absence de données «&#xa0;%1&#xa0;» n'est pas un nombre</translation>
     </message>
     <message id="MESS_SCENE_NOT_PLACED">
-        <source>it has no place</source>
-        <translation>pas d'emplacement</translation>
+        <source>it is not georeferenced</source>
+        <translation>pas de géoréférencement</translation>
     </message>
     <message id="MESS_SCENE_NO_BANDS">
         <source>it has no bands</source>
@@ -312,8 +316,8 @@
         <translation>pas de hauteur</translation>
     </message>
     <message id="MESS_SCENE_SAME_HEIGHT">
-        <source>another one has the same height</source>
-        <translation>une autre a la même hauteur</translation>
+        <source>another image has the same height</source>
+        <translation>une autre image a la même hauteur</translation>
     </message>
     <message id="MESS_SCENE_NO_FORMAT">
         <source>`%1' not recognized as a supported file format.</source>
