@@ -6,7 +6,7 @@ namespace vlt::driver {
 
 namespace {
 
-/// In the order of the layer.
+/// The fields, in their order in the layer.
 enum FieldNumber {
     SiteName,
     X,
@@ -22,7 +22,7 @@ enum FieldNumber {
     LengthM,
 };
 
-/// The name of a site as the sites' tables of the same tool have it.
+/// The column for the name of a site in the site tables of the same planning tool.
 const char *siteField(const std::string &format)
 {
     return format.starts_with("atoll")   ? "NAME"
@@ -53,23 +53,23 @@ LinkEndLayer::LinkEndLayer(const TableSource &source)
     setGeometryType(wkbPoint);
 }
 
-void LinkEndLayer::readRow(int64_t row, std::vector<RowProblem> &problems)
+RowMeaning LinkEndLayer::readRow(int64_t row, const FieldCells &cells,
+                                 std::vector<RowProblem> &problems) const
 {
-    m_row = row;
-    m_reader.read(row, cells().cells(), problems);
+    return m_reader.read(row, cells.cells(), problems);
 }
 
-void LinkEndLayer::mergeInto(OGREnvelope &extent) const
+void LinkEndLayer::mergeInto(OGREnvelope &extent, const TableRow &row) const
 {
-    for (const Position &end : m_reader.row().placed) {
+    for (const Position &end : row.link().placed) {
         if (end.found)
             extent.Merge(end.x, end.y);
     }
 }
 
-void LinkEndLayer::placeFeature(OGRFeature &feature, int part) const
+void LinkEndLayer::placeFeature(OGRFeature &feature, const TableRow &row, int part) const
 {
-    const Position &end = m_reader.row().placed[static_cast<std::size_t>(part)];
+    const Position &end = row.link().placed[static_cast<std::size_t>(part)];
     if (end.found)
         setGeometry(feature, std::make_unique<OGRPoint>(end.x, end.y));
 }
@@ -86,26 +86,26 @@ void LinkEndLayer::set(OGRFeature &feature, int field, const std::optional<doubl
         feature.SetField(field, *number);
 }
 
-void LinkEndLayer::fillFeature(OGRFeature &feature, int part) const
+void LinkEndLayer::fillFeature(OGRFeature &feature, const TableRow &row, int part) const
 {
-    const LinkRow &row = m_reader.row();
+    const LinkRow &link = row.link();
     const auto end = static_cast<std::size_t>(part);
-    const LinkEndValues &values = row.values.ends[end];
-    const Position &position = row.inFile[end];
+    const LinkEndValues &values = link.values.ends[end];
+    const Position &position = link.inFile[end];
     set(feature, SiteName, values.identifier);
     set(feature, X, position.found ? std::optional(position.x) : std::nullopt);
     set(feature, Y, position.found ? std::optional(position.y) : std::nullopt);
-    set(feature, SectorId, row.values.name);
+    set(feature, SectorId, link.values.name);
     set(feature, HeightM, values.heightM);
-    set(feature, AzimuthDeg, m_reader.azimuthDeg(end));
+    set(feature, AzimuthDeg, m_reader.azimuthDeg(link, end));
     set(feature, TiltDeg, values.tiltDeg);
     set(feature, LinkName,
-        row.values.name.empty() ? "row " + std::to_string(m_row) : row.values.name);
+        link.values.name.empty() ? "row " + std::to_string(row.number) : link.values.name);
     if (!isIgnored(LinkRowNumber))
-        feature.SetField(LinkRowNumber, static_cast<GIntBig>(m_row));
+        feature.SetField(LinkRowNumber, static_cast<GIntBig>(row.number));
     set(feature, EndName, part == 0 ? contract::EndA : contract::EndB);
     set(feature, FrequencyMHz, values.frequencyMHz);
-    set(feature, LengthM, row.lengthM);
+    set(feature, LengthM, link.lengthM);
 }
 
 void LinkEndLayer::addFileProblems(ProblemList &problems) const

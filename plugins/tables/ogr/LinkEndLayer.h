@@ -13,17 +13,17 @@ public:
     explicit LinkEndLayer(const TableSource &source);
 
 private:
-    void readRow(int64_t row, std::vector<RowProblem> &problems) override;
-    void mergeInto(OGREnvelope &extent) const override;
-    void placeFeature(OGRFeature &feature, int part) const override;
-    void fillFeature(OGRFeature &feature, int part) const override;
+    RowMeaning readRow(int64_t row, const FieldCells &cells,
+                       std::vector<RowProblem> &problems) const override;
+    void mergeInto(OGREnvelope &extent, const TableRow &row) const override;
+    void placeFeature(OGRFeature &feature, const TableRow &row, int part) const override;
+    void fillFeature(OGRFeature &feature, const TableRow &row, int part) const override;
     void addFileProblems(ProblemList &problems) const override;
     bool listsProblems() const override { return false; }
     void set(OGRFeature &feature, int field, const std::string &text) const;
     void set(OGRFeature &feature, int field, const std::optional<double> &number) const;
 
     LinkRowReader m_reader;
-    int64_t m_row = 0; ///< that was read
 };
 
 } // namespace vlt::driver

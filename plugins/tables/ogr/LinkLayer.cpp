@@ -2,6 +2,15 @@
 
 namespace vlt::driver {
 
+namespace {
+
+bool isPlaced(const LinkRow &link)
+{
+    return link.placed[0].found && link.placed[1].found;
+}
+
+} // namespace
+
 LinkLayer::LinkLayer(const TableSource &source)
     : TableLayer(source, source.facts().table.sheet, 1)
     , m_reader(source)
@@ -10,37 +19,33 @@ LinkLayer::LinkLayer(const TableSource &source)
     setGeometryType(wkbLineString);
 }
 
-void LinkLayer::readRow(int64_t row, std::vector<RowProblem> &problems)
+RowMeaning LinkLayer::readRow(int64_t row, const FieldCells &cells,
+                              std::vector<RowProblem> &problems) const
 {
-    m_reader.read(row, cells().cells(), problems);
+    return m_reader.read(row, cells.cells(), problems);
 }
 
-bool LinkLayer::isPlaced() const
+void LinkLayer::mergeInto(OGREnvelope &extent, const TableRow &row) const
 {
-    return m_reader.row().placed[0].found && m_reader.row().placed[1].found;
+    if (!isPlaced(row.link()))
+        return;
+    for (const Position &end : row.link().placed)
+        extent.Merge(end.x, end.y);
 }
 
-void LinkLayer::mergeInto(OGREnvelope &extent) const
+void LinkLayer::placeFeature(OGRFeature &feature, const TableRow &row, int) const
 {
-    for (const Position &end : m_reader.row().placed) {
-        if (isPlaced())
-            extent.Merge(end.x, end.y);
-    }
-}
-
-void LinkLayer::placeFeature(OGRFeature &feature, int) const
-{
-    if (!isPlaced())
+    if (!isPlaced(row.link()))
         return;
     auto line = std::make_unique<OGRLineString>();
-    for (const Position &end : m_reader.row().placed)
+    for (const Position &end : row.link().placed)
         line->addPoint(end.x, end.y);
     setGeometry(feature, std::move(line));
 }
 
-void LinkLayer::fillFeature(OGRFeature &feature, int) const
+void LinkLayer::fillFeature(OGRFeature &feature, const TableRow &row, int) const
 {
-    setColumns(feature);
+    setColumns(feature, row);
 }
 
 void LinkLayer::addFileProblems(ProblemList &problems) const

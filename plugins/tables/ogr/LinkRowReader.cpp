@@ -10,9 +10,15 @@ namespace {
 
 using contract::formatted;
 
-constexpr double LeastLengthM = 1;
-constexpr double MostDeviation = 0.05; ///< of a stated length
-constexpr double MostDeviationM = 100;
+constexpr double MinLengthM = 1;
+/// Maximum deviations of a stated length; it is wrong if it exceeds both.
+constexpr double MaxDeviationShare = 0.05;
+constexpr double MaxDeviationM = 100;
+
+linkpath::LinkEnd endOf(const LinkRow &link, std::size_t end)
+{
+    return {link.inFile[end].x, link.inFile[end].y, {}};
+}
 
 OffsetScale scaleOf(const OGRSpatialReference *srs, CoordinateUnit unit)
 {
@@ -39,19 +45,21 @@ LinkRowReader::LinkRowReader(const TableSource &source)
     , m_path(nullptr, m_systems->file())
 {}
 
-void LinkRowReader::read(int64_t row, const std::vector<const Cell *> &cells,
-                         std::vector<RowProblem> &problems)
+LinkRow LinkRowReader::read(int64_t row, const std::vector<const Cell *> &cells,
+                            std::vector<RowProblem> &problems) const
 {
-    m_row.inFile = m_placer.place(row, cells, problems);
-    m_row.placed = m_row.inFile;
-    for (std::size_t end = 0; end < m_row.placed.size(); ++end) {
+    LinkRow link;
+    link.inFile = m_placer.place(row, cells, problems);
+    link.placed = link.inFile;
+    for (std::size_t end = 0; end < link.placed.size(); ++end) {
         const std::size_t before = problems.size();
-        m_systems->transform(row, m_row.placed[end], problems);
-        if (problems.size() > before) // which of the ends it is
+        m_systems->transform(row, link.placed[end], problems);
+        if (problems.size() > before) // the column identifies the end
             problems.back().column = fieldName(m_facts->links().ends[end].point.xField());
     }
-    m_row.values = m_values.read(row, cells, problems);
-    measure(row, problems);
+    link.values = m_values.read(row, cells, problems);
+    measure(row, link, problems);
+    return link;
 }
 
 const std::string &LinkRowReader::fieldName(int field) const
@@ -59,42 +67,37 @@ const std::string &LinkRowReader::fieldName(int field) const
     return m_facts->table.fields[static_cast<std::size_t>(field)].name;
 }
 
-linkpath::LinkEnd LinkRowReader::endOf(std::size_t end) const
+/// Sets the length of the link and compares the stated one with it.
+void LinkRowReader::measure(int64_t row, LinkRow &link, std::vector<RowProblem> &problems) const
 {
-    return {m_row.inFile[end].x, m_row.inFile[end].y, {}};
-}
-
-void LinkRowReader::measure(int64_t row, std::vector<RowProblem> &problems)
-{
-    m_row.lengthM.reset();
-    if (!m_row.inFile[0].found || !m_row.inFile[1].found)
+    if (!link.inFile[0].found || !link.inFile[1].found)
         return;
-    m_row.lengthM = m_path.lengthM(endOf(0), endOf(1));
-    if (!m_row.lengthM)
+    link.lengthM = m_path.lengthM(endOf(link, 0), endOf(link, 1));
+    if (!link.lengthM)
         return;
-    if (*m_row.lengthM < LeastLengthM) {
+    if (*link.lengthM < MinLengthM) {
         problems.push_back({row, {}, false, formatted("MESS_TAB_ENDS_COINCIDE")});
         return;
     }
-    const std::optional<double> stated = m_row.values.lengthM;
+    const std::optional<double> stated = link.values.lengthM;
     if (!stated)
         return;
-    const double deviation = std::abs(*stated - *m_row.lengthM);
-    if (deviation <= MostDeviationM || deviation <= MostDeviation * *m_row.lengthM)
+    const double deviationM = std::abs(*stated - *link.lengthM);
+    if (deviationM <= MaxDeviationM || deviationM <= MaxDeviationShare * *link.lengthM)
         return;
     problems.push_back(
         {row, fieldName(m_facts->links().length.field), false,
          formatted("MESS_TAB_LENGTH_DIFFERS",
-                   {numberText(std::round(*stated)), numberText(std::round(*m_row.lengthM))})});
+                   {numberText(std::round(*stated)), numberText(std::round(*link.lengthM))})});
 }
 
-std::optional<double> LinkRowReader::azimuthDeg(std::size_t end) const
+std::optional<double> LinkRowReader::azimuthDeg(const LinkRow &link, std::size_t end) const
 {
-    if (m_row.values.ends[end].azimuthDeg)
-        return m_row.values.ends[end].azimuthDeg;
-    if (!m_row.lengthM || *m_row.lengthM < LeastLengthM)
+    if (link.values.ends[end].azimuthDeg)
+        return link.values.ends[end].azimuthDeg;
+    if (!link.lengthM || *link.lengthM < MinLengthM)
         return std::nullopt;
-    return m_path.azimuthDeg(endOf(end), endOf(1 - end));
+    return m_path.azimuthDeg(endOf(link, end), endOf(link, 1 - end));
 }
 
 void LinkRowReader::addFileProblems(ProblemList &problems) const

@@ -8,7 +8,7 @@ namespace vlt::driver {
 
 namespace {
 
-/// Half a turn in the unit of a geographic system; 0 for others and for none.
+/// Half a turn in the unit of a geographic system; 0 for any other system and without one.
 double halfTurn(const OGRSpatialReference *srs)
 {
     return srs && srs->IsGeographic() ? M_PI / srs->GetAngularUnits() : 0;
@@ -25,27 +25,29 @@ SiteLayer::SiteLayer(const TableSource &source)
     setGeometryType(facts().sites().point.found() ? wkbPoint : wkbNone);
 }
 
-void SiteLayer::readRow(int64_t row, std::vector<RowProblem> &problems)
+RowMeaning SiteLayer::readRow(int64_t row, const FieldCells &cells,
+                              std::vector<RowProblem> &problems) const
 {
-    m_position = m_placer.place(row, cells().cells(), problems);
-    systems().transform(row, m_position, problems);
+    Position position = m_placer.place(row, cells.cells(), problems);
+    systems().transform(row, position, problems);
+    return position;
 }
 
-void SiteLayer::mergeInto(OGREnvelope &extent) const
+void SiteLayer::mergeInto(OGREnvelope &extent, const TableRow &row) const
 {
-    if (m_position.found)
-        extent.Merge(m_position.x, m_position.y);
+    if (row.position().found)
+        extent.Merge(row.position().x, row.position().y);
 }
 
-void SiteLayer::placeFeature(OGRFeature &feature, int) const
+void SiteLayer::placeFeature(OGRFeature &feature, const TableRow &row, int) const
 {
-    if (m_position.found)
-        setGeometry(feature, std::make_unique<OGRPoint>(m_position.x, m_position.y));
+    if (row.position().found)
+        setGeometry(feature, std::make_unique<OGRPoint>(row.position().x, row.position().y));
 }
 
-void SiteLayer::fillFeature(OGRFeature &feature, int) const
+void SiteLayer::fillFeature(OGRFeature &feature, const TableRow &row, int) const
 {
-    setColumns(feature);
+    setColumns(feature, row);
 }
 
 void SiteLayer::addFileProblems(ProblemList &problems) const

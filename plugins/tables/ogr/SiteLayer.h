@@ -12,14 +12,14 @@ public:
     explicit SiteLayer(const TableSource &source);
 
 private:
-    void readRow(int64_t row, std::vector<RowProblem> &problems) override;
-    void mergeInto(OGREnvelope &extent) const override;
-    void placeFeature(OGRFeature &feature, int part) const override;
-    void fillFeature(OGRFeature &feature, int part) const override;
+    RowMeaning readRow(int64_t row, const FieldCells &cells,
+                       std::vector<RowProblem> &problems) const override;
+    void mergeInto(OGREnvelope &extent, const TableRow &row) const override;
+    void placeFeature(OGRFeature &feature, const TableRow &row, int part) const override;
+    void fillFeature(OGRFeature &feature, const TableRow &row, int part) const override;
     void addFileProblems(ProblemList &problems) const override;
 
     PointPlacer m_placer;
-    Position m_position; ///< of the row that was read
 };
 
 } // namespace vlt::driver

@@ -46,7 +46,6 @@ TableLayer::TableLayer(TableSource source, const std::string &name, int partCoun
     : m_source(std::move(source))
     , m_definition(new OGRFeatureDefn(name.c_str()))
     , m_partCount(partCount)
-    , m_cells(m_source.facts().table)
 {
     m_definition->Reference();
     m_definition->SetGeomType(wkbNone);
@@ -90,12 +89,14 @@ void TableLayer::setGeometry(OGRFeature &feature, std::unique_ptr<OGRGeometry> g
     feature.SetGeometryDirectly(geometry.release());
 }
 
-/// Turns a damaged file met while reading into the library's error.
+/// Runs an action that reads the file. If the file turns out to be damaged, reports it as an error
+/// of the library and returns false.
 template<typename Action>
-auto TableLayer::guarded(Action action) -> decltype(action())
+bool TableLayer::guarded(Action action)
 {
     try {
-        return action();
+        action();
+        return true;
     } catch (const RefusedFile &refused) {
         CPLError(CE_Failure, CPLE_FileIO, "%s: %s", GetDescription(), refused.what());
     } catch (const std::bad_alloc &) {
@@ -103,39 +104,37 @@ auto TableLayer::guarded(Action action) -> decltype(action())
                  formatted("MESS_TAB_OUT_OF_MEMORY").c_str());
     }
     m_failed = true;
-    return {};
+    return false;
 }
 
 void TableLayer::ResetReading()
 {
-    m_rows.reset();
-    m_nextPart = 0;
-    m_walked.reset();
+    m_walk.reset();
     m_failed = false;
 }
 
-/// Fields may be ignored at any time before a walk.
-std::unique_ptr<DataRows> TableLayer::startWalk()
+/// The caller may change the ignored fields at any time before a walk.
+TableLayer::Walk TableLayer::startWalk()
 {
     for (int field = 0; field < m_definition->GetFieldCount(); ++field)
         m_ignored[static_cast<std::size_t>(field)] =
             m_definition->GetFieldDefn(field)->IsIgnored() ? 1 : 0;
-    return m_source.file->rows();
+    return {m_source.file->rows(), TableRow(facts().table), 0, std::nullopt};
 }
 
-void TableLayer::setColumns(OGRFeature &feature) const
+void TableLayer::setColumns(OGRFeature &feature, const TableRow &row) const
 {
     const std::vector<Field> &fields = facts().table.fields;
-    const std::vector<const Cell *> &cells = m_cells.cells();
+    const std::vector<const Cell *> &cells = row.cells.cells();
     for (std::size_t i = 0; i < fields.size(); ++i) {
         const Cell *cell = cells[i];
         if (!cell || isIgnored(i))
             continue;
         const int index = static_cast<int>(i);
         if (fields[i].type != FieldType::Text) {
-            if (m_cells.isNull(i))
+            if (row.cells.isNull(i))
                 continue;
-            const double number = m_cells.number(i);
+            const double number = row.cells.number(i);
             if (fields[i].type == FieldType::Real)
                 feature.SetFieldSameTypeUnsafe(index, number);
             else if (fields[i].type == FieldType::Integer)
@@ -154,64 +153,70 @@ void TableLayer::setColumns(OGRFeature &feature) const
     }
 }
 
-void TableLayer::takeRow(std::vector<RowProblem> &problems)
+/// Reads the row at which the walk is.
+std::vector<RowProblem> TableLayer::takeRow(Walk &walk) const
 {
-    m_cells.take(m_rows->cells(), problems);
-    readRow(m_rows->rowNumber(), problems);
+    std::vector<RowProblem> problems;
+    TableRow &row = walk.row;
+    row.number = walk.rows->rowNumber();
+    row.cells.take(walk.rows->cells(), problems);
+    row.meaning = readRow(row.number, row.cells, problems);
+    return problems;
 }
 
-std::unique_ptr<OGRFeature> TableLayer::makeFeature(int part)
+std::unique_ptr<OGRFeature> TableLayer::makeFeature(const TableRow &row, int part)
 {
     auto feature = std::make_unique<OGRFeature>(m_definition);
-    feature->SetFID(m_rows->rowNumber() * m_partCount + part);
+    feature->SetFID(row.number * m_partCount + part);
     if (m_definition->GetGeomFieldCount() > 0 &&
         (m_poFilterGeom || !m_definition->IsGeometryIgnored()))
-        placeFeature(*feature, part);
-    fillFeature(*feature, part);
+        placeFeature(*feature, row, part);
+    fillFeature(*feature, row, part);
     return feature;
 }
 
-/// Goes to the next row and reads it; false behind the last one.
+/// Goes to the next row of m_walk and reads it; false after the last one.
 bool TableLayer::nextRow()
 {
-    if (!m_rows) {
-        m_rows = startWalk();
-        if (!*m_source.problems)
-            m_walked = fileProblems();
-    }
-    if (!m_rows->advance()) {
-        if (m_walked)
-            *m_source.problems = std::move(m_walked);
-        m_walked.reset();
+    if (!m_walk->rows->advance()) {
+        if (m_walk->problems)
+            *m_source.problems = std::move(m_walk->problems);
+        m_walk->problems.reset();
         return false;
     }
-    std::vector<RowProblem> problems;
-    takeRow(problems);
-    m_source.warnings->warn(m_source.facts().table.sheet, problems);
-    if (m_walked)
-        m_walked->add(std::move(problems));
+    std::vector<RowProblem> problems = takeRow(*m_walk);
+    m_source.warnings->warn(facts().table.sheet, problems);
+    if (m_walk->problems)
+        m_walk->problems->add(std::move(problems));
     return true;
 }
 
-OGRFeature *TableLayer::readFeature()
+/// The next feature, whatever the filters are; null after the last one.
+std::unique_ptr<OGRFeature> TableLayer::readFeature()
 {
-    if (m_nextPart == 0 && !nextRow())
+    if (!m_walk) {
+        m_walk = startWalk();
+        if (!*m_source.problems)
+            m_walk->problems = fileProblems();
+    }
+    if (m_walk->nextPart == 0 && !nextRow())
         return nullptr;
-    const int part = m_nextPart;
-    m_nextPart = (part + 1) % m_partCount;
-    return makeFeature(part).release();
+    const int part = m_walk->nextPart;
+    m_walk->nextPart = (part + 1) % m_partCount;
+    return makeFeature(m_walk->row, part);
 }
 
 OGRFeature *TableLayer::GetNextFeature()
 {
     while (!m_failed) {
-        std::unique_ptr<OGRFeature> feature(guarded([this] { return readFeature(); }));
+        std::unique_ptr<OGRFeature> feature;
+        guarded([&] { feature = readFeature(); });
         if (!feature)
             break;
         ++m_nFeaturesRead;
         if ((!m_poFilterGeom || FilterGeometry(feature->GetGeometryRef())) &&
             (!m_poAttrQuery || m_poAttrQuery->Evaluate(feature.get()))) {
-            if (m_definition->IsGeometryIgnored()) // it was there for the filter
+            if (m_definition->IsGeometryIgnored()) // only the filter needed it
                 feature->SetGeometryDirectly(nullptr);
             return feature.release();
         }
@@ -224,22 +229,22 @@ OGRErr TableLayer::SetNextByIndex(GIntBig index)
     if (m_poFilterGeom || m_poAttrQuery)
         return OGRLayer::SetNextByIndex(index);
     ResetReading();
-    const GIntBig before = index / m_partCount; ///< rows to leave out
+    const GIntBig before = index / m_partCount; ///< rows to skip
     if (index < 0 || static_cast<uint64_t>(before) >= facts().table.rowCount) {
         m_failed = true;
         return OGRERR_FAILURE;
     }
-    const bool there = guarded([&] {
-        m_rows = startWalk();
+    bool found = false;
+    guarded([&] {
+        m_walk = startWalk();
         GIntBig at = 0;
-        while (at < before && m_rows->advance())
+        while (at < before && m_walk->rows->advance())
             ++at;
         const int part = static_cast<int>(index % m_partCount);
-        const bool found = at == before && (part == 0 || nextRow());
-        m_nextPart = part;
-        return found;
+        found = at == before && (part == 0 || nextRow());
+        m_walk->nextPart = part;
     });
-    return there ? OGRERR_NONE : OGRERR_FAILURE;
+    return found ? OGRERR_NONE : OGRERR_FAILURE;
 }
 
 OGRFeature *TableLayer::GetFeature(GIntBig fid)
@@ -247,20 +252,15 @@ OGRFeature *TableLayer::GetFeature(GIntBig fid)
     const GIntBig row = fid / m_partCount;
     if (row <= 0)
         return nullptr;
-    // A walk of its own: reading one after another goes on where it was.
-    std::unique_ptr<DataRows> walk = guarded([this] { return startWalk(); });
-    m_rows.swap(walk);
-    OGRFeature *feature = guarded([&]() -> OGRFeature * {
-        if (!m_rows || !m_rows->seek(row) || m_rows->rowNumber() != row)
-            return nullptr;
-        std::vector<RowProblem> problems;
-        takeRow(problems);
-        m_source.warnings->warn(facts().table.sheet, problems);
-        return makeFeature(static_cast<int>(fid % m_partCount)).release();
+    std::unique_ptr<OGRFeature> feature;
+    guarded([&] {
+        Walk walk = startWalk();
+        if (!walk.rows->seek(row) || walk.rows->rowNumber() != row)
+            return;
+        m_source.warnings->warn(facts().table.sheet, takeRow(walk));
+        feature = makeFeature(walk.row, static_cast<int>(fid % m_partCount));
     });
-    m_rows.swap(walk);
-    retakeRow();
-    return feature;
+    return feature.release();
 }
 
 GIntBig TableLayer::GetFeatureCount(int force)
@@ -270,40 +270,20 @@ GIntBig TableLayer::GetFeatureCount(int force)
     return static_cast<GIntBig>(facts().table.rowCount) * m_partCount;
 }
 
-/// Goes through all rows, apart from the walk that may be going on. False where the file turns out
-/// to be damaged; what was found until then is there.
+/// Reads all rows. If the file turns out to be damaged, returns false; `extent` and `found` then
+/// cover the rows before the damage.
 bool TableLayer::survey(bool warns, OGREnvelope &extent, ProblemList &found)
 {
-    std::unique_ptr<DataRows> walk = guarded([this] { return startWalk(); });
-    if (!walk)
-        return false;
-    m_rows.swap(walk);
-    const bool whole = guarded([&] {
-        std::vector<RowProblem> problems;
-        while (m_rows->advance()) {
-            takeRow(problems);
-            mergeInto(extent);
+    return guarded([&] {
+        Walk walk = startWalk();
+        while (walk.rows->advance()) {
+            std::vector<RowProblem> problems = takeRow(walk);
+            mergeInto(extent, walk.row);
             if (warns)
                 m_source.warnings->warn(facts().table.sheet, problems);
             found.add(std::move(problems));
-            problems.clear();
         }
-        return true;
     });
-    m_rows.swap(walk);
-    retakeRow();
-    return whole;
-}
-
-/// After another row was read: a walk that stands within a row needs that row again.
-void TableLayer::retakeRow()
-{
-    std::vector<RowProblem> known;
-    if (m_nextPart > 0)
-        guarded([&] {
-            takeRow(known);
-            return true;
-        });
 }
 
 OGRErr TableLayer::GetExtent(OGREnvelope *extent, int force)
@@ -340,7 +320,8 @@ ProblemList TableLayer::fileProblems() const
         problems.add(
             {0, {}, false, formatted("MESS_TAB_ENCODING_GUESSED", {facts().table.encoding.name})});
     std::vector<RowProblem> ofHeader;
-    m_cells.takeFaults(facts().table.header.row, facts().table.header.faults, ofHeader);
+    FieldCells(facts().table)
+        .takeFaults(facts().table.header.row, facts().table.header.faults, ofHeader);
     problems.add(std::move(ofHeader));
     return problems;
 }
@@ -350,7 +331,7 @@ bool TableLayer::isProblemsDomain(const char *domain) const
     return listsProblems() && domain && EQUAL(domain, ProblemsDomain);
 }
 
-/// A walk that went through all rows has found the problems; otherwise they are looked for.
+/// The problems are known if all rows were read once; otherwise they are read now.
 char **TableLayer::problemsMetadata()
 {
     if (m_problemsItems.Count() > 0)

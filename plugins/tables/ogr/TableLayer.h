@@ -1,9 +1,9 @@
 #pragma once
 
-#include "plugins/tables/ogr/FieldCells.h"
 #include "plugins/tables/ogr/ProblemList.h"
 #include "plugins/tables/ogr/RowWarnings.h"
 #include "plugins/tables/ogr/TableFile.h"
+#include "plugins/tables/ogr/TableRow.h"
 #include "plugins/tables/ogr/TableSystems.h"
 
 #include <ogrsf_frmts.h>
@@ -18,16 +18,16 @@ struct TableSource
 {
     std::shared_ptr<TableFile> file;
     std::shared_ptr<const TableSystems> systems;
-    std::shared_ptr<RowWarnings> warnings; ///< a row is warned of once, whichever layer meets it
-    /// Of all rows, once a layer has gone through them: whichever does meets the same ones.
+    std::shared_ptr<RowWarnings> warnings; ///< each row is reported once, by the first layer
+    /// The problems of all rows, once one of the layers has read them; they are the same for both.
     std::shared_ptr<std::optional<ProblemList>> problems;
 
     const TableFacts &facts() const { return file->facts(); }
 };
 
-/// A layer over the rows of a table: walks, filters, extents and problems; what a row becomes is
-/// for its kinds to say. A row gives the same number of features, whatever is in it: `part` 0 ..
-/// partCount - 1; FIDs are row * partCount + part.
+/// A layer over the rows of a table: sequential and random reading, filters, extents and problems.
+/// Derived classes define what a row becomes. Every row has the same number of features, numbered
+/// by `part` from 0 to partCount - 1; FIDs are row * partCount + part.
 class TableLayer : public OGRLayer
 {
 public:
@@ -55,53 +55,59 @@ protected:
 
     const TableFacts &facts() const { return m_source.facts(); }
     const TableSystems &systems() const { return *m_source.systems; }
-    const FieldCells &cells() const { return m_cells; }
     bool isIgnored(std::size_t field) const { return m_ignored[field]; }
 
-    /// Fields of the layer: the columns of the table, for setColumns(), or others.
+    /// Defines the columns of the table as the fields of the layer; setColumns() sets them.
     void defineColumns();
     void defineField(const char *name, OGRFieldType type);
     void setGeometryType(OGRwkbGeometryType type);
-    /// Sets the fields of defineColumns() from the row that was read.
-    void setColumns(OGRFeature &feature) const;
-    /// Gives `geometry` the layer's system and hands it to the feature.
+    void setColumns(OGRFeature &feature, const TableRow &row) const;
+    /// Assigns the layer's coordinate system to the geometry and moves it into the feature.
     void setGeometry(OGRFeature &feature, std::unique_ptr<OGRGeometry> geometry) const;
 
 private:
-    /// Makes what it can of the row whose cells() are there.
-    virtual void readRow(int64_t row, std::vector<RowProblem> &problems) = 0;
-    /// Widens an envelope by the geometries of the row that was read.
-    virtual void mergeInto(OGREnvelope &extent) const = 0;
-    virtual void placeFeature(OGRFeature &feature, int part) const = 0;
-    virtual void fillFeature(OGRFeature &feature, int part) const = 0;
-    /// What is wrong with the table as a whole, the coordinate systems apart.
+    /// The meaning of a row with these cells, as far as it can be read.
+    virtual RowMeaning readRow(int64_t row, const FieldCells &cells,
+                               std::vector<RowProblem> &problems) const = 0;
+    /// Extends an envelope by the geometries of a row.
+    virtual void mergeInto(OGREnvelope &extent, const TableRow &row) const = 0;
+    virtual void placeFeature(OGRFeature &feature, const TableRow &row, int part) const = 0;
+    virtual void fillFeature(OGRFeature &feature, const TableRow &row, int part) const = 0;
+    /// Adds the problems of the table as a whole, except those of the coordinate systems.
     virtual void addFileProblems(ProblemList &problems) const = 0;
-    /// Whether the domain "problems" is this layer's.
+    /// Whether this layer has the domain "problems".
     virtual bool listsProblems() const { return true; }
 
-    std::unique_ptr<DataRows> startWalk();
-    std::unique_ptr<OGRFeature> makeFeature(int part);
-    OGRFeature *readFeature();
+    /// Reading the rows one after the other. Several can be under way: GetFeature() and survey()
+    /// use their own, so that sequential reading continues at its row.
+    struct Walk
+    {
+        std::unique_ptr<DataRows> rows;
+        TableRow row;     ///< the last row that was read
+        int nextPart = 0; ///< of `row`; 0 if the next row has to be read
+        /// The problems so far, if the walk began at the first row and the source lacks them.
+        std::optional<ProblemList> problems;
+    };
+
+    Walk startWalk();
+    std::unique_ptr<OGRFeature> makeFeature(const TableRow &row, int part);
+    std::unique_ptr<OGRFeature> readFeature();
     bool nextRow();
-    void retakeRow();
-    void takeRow(std::vector<RowProblem> &problems);
+    std::vector<RowProblem> takeRow(Walk &walk) const;
     bool survey(bool warns, OGREnvelope &extent, ProblemList &found);
     ProblemList fileProblems() const;
     bool isProblemsDomain(const char *domain) const;
     char **problemsMetadata();
     template<typename Action>
-    auto guarded(Action action) -> decltype(action());
+    bool guarded(Action action);
 
     TableSource m_source;
     OGRFeatureDefn *m_definition;
     const int m_partCount;
-    FieldCells m_cells;
     std::vector<char> m_ignored; ///< by field
-    std::unique_ptr<DataRows> m_rows;
-    int m_nextPart = 0; ///< of the row that was read last; 0: the next row is due
+    std::optional<Walk> m_walk;  ///< sequential reading; empty before the first row
     bool m_failed = false;
-    std::optional<ProblemList> m_walked; ///< what the walk that is going on has met since the start
-    CPLStringList m_problemsItems;       ///< the problems of all rows as metadata
+    CPLStringList m_problemsItems; ///< the problems of all rows as metadata
     OGREnvelope m_extent;
 };
 

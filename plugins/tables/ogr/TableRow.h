@@ -1,0 +1,38 @@
+#pragma once
+
+#include "plugins/tables/links/LinkValues.h"
+#include "plugins/tables/ogr/FieldCells.h"
+#include "plugins/tables/sites/PointPlacer.h"
+
+#include <array>
+#include <optional>
+#include <variant>
+
+namespace vlt::driver {
+
+/// A link as read from a row.
+struct LinkRow
+{
+    LinkValues values;
+    std::array<Position, 2> inFile; ///< ends in the file's system, offsets applied
+    std::array<Position, 2> placed; ///< ends in the target system
+    std::optional<double> lengthM;  ///< between the ends, on the earth's surface
+};
+
+/// The meaning of a row: the position of a site in the target system, or a link.
+using RowMeaning = std::variant<Position, LinkRow>;
+
+/// A row of a table. Valid until the walk that read it goes on.
+struct TableRow
+{
+    int64_t number = 0; ///< in the file, from 1
+    FieldCells cells;
+    RowMeaning meaning;
+
+    explicit TableRow(const TableProfile &table) : cells(table) {}
+
+    const Position &position() const { return std::get<Position>(meaning); }
+    const LinkRow &link() const { return std::get<LinkRow>(meaning); }
+};
+
+} // namespace vlt::driver
