@@ -41,46 +41,50 @@ Angle fault(TableTextId why)
     return {0, 0, why};
 }
 
-/// Sign of a hemisphere letter: 0 none, 2 no hemisphere, 3 ambiguous, 4 of the other axis.
-int hemisphereSign(char letter, Axis axis)
+/// A hemisphere letter: the sign of its angles, or the reason why it is refused.
+struct Hemisphere
 {
+    int sign = 0;
+    std::optional<TableTextId> fault;
+};
+
+Hemisphere readHemisphere(char letter, Axis axis)
+{
+    const auto hemisphere = [axis](Axis own, int sign) {
+        return axis == own ? Hemisphere{sign, std::nullopt}
+                           : Hemisphere{0, TableTextId("MESS_TAB_OTHER_AXIS")};
+    };
     switch (letter & ~0x20) {
     case 'N':
-        return axis == Axis::Y ? 1 : 4;
+        return hemisphere(Axis::Y, 1);
     case 'S':
-        return axis == Axis::Y ? -1 : 4;
+        return hemisphere(Axis::Y, -1);
     case 'E':
-        return axis == Axis::X ? 1 : 4;
+        return hemisphere(Axis::X, 1);
     case 'W':
-        return axis == Axis::X ? -1 : 4;
+        return hemisphere(Axis::X, -1);
     case 'O':
-        return 3;
+        return {0, TableTextId("MESS_TAB_LETTER_O")};
     default:
-        return 2;
+        return {0, TableTextId("MESS_TAB_NO_HEMISPHERE")};
     }
 }
 
-TableTextId signFault(int sign)
-{
-    return sign == 3   ? TableTextId("MESS_TAB_LETTER_O")
-           : sign == 4 ? TableTextId("MESS_TAB_OTHER_AXIS")
-                       : TableTextId("MESS_TAB_NO_HEMISPHERE");
-}
-
-/// A sign above ASCII that a text starts with.
+/// A character above ASCII that can occur in an angle.
 struct Mark
 {
     std::string_view bytes;
-    char meaning; ///< '-' a minus sign, ' ' one that only separates
+    char meaning; ///< '-' for a minus sign, ' ' for a separator
 };
 
-/// Degree signs, primes, quotation marks and dashes; null for any other character.
+/// The mark at the start of a text: a degree sign, prime, quotation mark or dash. Null for any
+/// other character.
 const Mark *markAt(std::string_view text)
 {
     static constexpr std::array<Mark, 18> Marks = {{
         {"\xC2\xB0", ' '},     // degree sign
-        {"\xC2\xBA", ' '},     // masculine ordinal, typed for it
-        {"\xCB\x9A", ' '},     // ring above, typed for it
+        {"\xC2\xBA", ' '},     // masculine ordinal indicator, used as a degree sign
+        {"\xCB\x9A", ' '},     // ring above, used as a degree sign
         {"\xC2\xB4", ' '},     // acute accent
         {"\xC2\xA0", ' '},     // no-break space
         {"\xE2\x80\xAF", ' '}, // narrow no-break space
@@ -141,7 +145,7 @@ Angle readAngle(std::string_view text, Axis axis)
     Parts parts;
     int sign = 0;
     bool negative = false;
-    bool unitLetters = false; ///< as in 48d51m24s: an s behind them is no hemisphere
+    bool unitLetters = false; ///< as in 48d51m24s, where the s is not a hemisphere
     for (std::size_t at = 0; at < text.size();) {
         const Mark *mark = markAt(text.substr(at));
         const char c = mark ? mark->meaning : text[at];
@@ -163,12 +167,12 @@ Angle readAngle(std::string_view text, Axis axis)
                                                         (unitLetters && c == 's'));
             unitLetters = unitLetters || unitLetter;
             if (!unitLetter) {
-                const int letter = hemisphereSign(c, axis);
-                if (letter > 1)
-                    return fault(signFault(letter));
+                const Hemisphere letter = readHemisphere(c, axis);
+                if (letter.fault)
+                    return fault(*letter.fault);
                 if (sign != 0)
                     return fault("MESS_TAB_TWO_LETTERS");
-                sign = letter;
+                sign = letter.sign;
             }
         } else if (std::string_view(" \t'\":*").find(c) == std::string_view::npos)
             return fault("MESS_TAB_NOT_AN_ANGLE");
@@ -189,12 +193,9 @@ Angle joinAngle(std::string_view degrees, std::string_view minutes, std::string_
                    !seconds.empty()   ? 3
                    : !minutes.empty() ? 2
                                       : 1};
-    int sign = 0;
-    if (!hemisphere.empty())
-        sign = hemisphereSign(hemisphere[0], axis);
-    if (sign > 1)
-        return fault(signFault(sign));
-    return assemble(parts, negative, sign);
+    const Hemisphere letter =
+        hemisphere.empty() ? Hemisphere() : readHemisphere(hemisphere[0], axis);
+    return letter.fault ? fault(*letter.fault) : assemble(parts, negative, letter.sign);
 }
 
 } // namespace vlt::driver
