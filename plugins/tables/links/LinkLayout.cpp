@@ -6,6 +6,7 @@
 #include "plugins/tables/table/HeaderWords.h"
 
 #include <algorithm>
+#include <functional>
 #include <initializer_list>
 
 namespace vlt::driver {
@@ -18,8 +19,12 @@ using WordList = std::initializer_list<std::string_view>;
 const WordList FrequencyWords = {"frequency",  "freq",      "fréquence", "frequence",
                                  "frecuencia", "frequenza", "frequenz",  "f"};
 const WordList HeightWords = {"height", "hauteur", "höhe", "hoehe", "altura", "altezza", "agl"};
+const WordList AzimuthWords = {"azimuth", "azimut", "azi"};
+const WordList TiltWords = {"tilt"};
+const WordList DxWords = {"dx"};
+const WordList DyWords = {"dy"};
 const WordList SeaLevelWords = {"npm", "amsl", "asl", "msl", "sea", "ngf"};
-/// Heights of something else than the antenna.
+/// Words of heights that are not those of the antenna.
 const WordList OtherHeightWords = {"terrain", "ground",    "tower",   "mast",
                                    "pylon",   "structure", "building"};
 
@@ -39,15 +44,17 @@ bool startsWith(const Words &words, WordList list)
     return !words.empty() && isIn(list, words.front());
 }
 
-/// How well a column fits: the best one is taken, among equals the first; 0 does not fit at all.
+/// How well a column fits; 0 if it does not. The column with the highest value is used, the first
+/// one among equals.
 using Fit = int;
+using FitOf = std::function<Fit(const EndWords &name)>;
 
 Fit fitOfIdentifier(const EndWords &name)
 {
     static const std::vector<Words> Accepted = {{"site"},         {"name"},     {"id"},
                                                 {"nom"},          {"station"},  {"node"},
                                                 {"call", "sign"}, {"callsign"}, {"end"}};
-    // a bare "End" or "Start" is as likely a date
+    // "End" or "Start" alone may also be a date
     if (name.words.empty())
         return name.isNumbered || isIn({"start", "end"}, name.endWord) ? 0 : 1;
     const bool antenna = name.words == Words{"antenna"} && name.endPlace == 1 && !name.isNumbered;
@@ -88,21 +95,13 @@ Fit fitOfFrequency(const EndWords &name)
     return !other && (holds(name.words, FrequencyWords) || startsWith(name.words, {"tx2"})) ? 1 : 0;
 }
 
-template<const char *...First>
-Fit fitOfFirstWord(const EndWords &name)
+/// Prefers columns that start with a word of the list to those that only contain one.
+FitOf fitOfWords(WordList list)
 {
-    return (... || (!name.words.empty() && name.words.front() == First)) ? 2
-           : (... || (std::find(name.words.begin(), name.words.end(), First) != name.words.end()))
-               ? 1
-               : 0;
+    return [list](const EndWords &name) {
+        return startsWith(name.words, list) ? 2 : holds(name.words, list) ? 1 : 0;
+    };
 }
-
-constexpr char Azimuth[] = "azimuth";
-constexpr char Azimut[] = "azimut";
-constexpr char Azi[] = "azi";
-constexpr char Tilt[] = "tilt";
-constexpr char Dx[] = "dx";
-constexpr char Dy[] = "dy";
 
 Fit fitOfLinkName(const EndWords &name)
 {
@@ -137,10 +136,11 @@ Fit fitOfLength(const EndWords &name)
                                                                       : 0;
 }
 
-/// All column names, taken apart.
+/// All column names, split into words.
 using Names = std::vector<EndWords>;
 
-int bestFit(const Names &names, LinkEndId end, Fit (*fitOf)(const EndWords &name))
+/// The field of an end that fits best; -1 if none fits.
+int bestFit(const Names &names, LinkEndId end, const FitOf &fitOf)
 {
     int best = -1;
     Fit bestFit = 0;
@@ -153,7 +153,8 @@ int bestFit(const Names &names, LinkEndId end, Fit (*fitOf)(const EndWords &name
     return best;
 }
 
-/// Of names as the header has them: the number that makes a second "Name" unique is no end.
+/// Reads the names in the header instead of those of the fields, because the number that makes the
+/// name of a field unique does not name an end.
 Names readNames(const TableProfile &table, EndStyle style)
 {
     Names names;
@@ -176,7 +177,7 @@ PointFields findEnd(const Names &names, LinkEndId end, const std::vector<Field> 
     return findPoint(words, fields);
 }
 
-/// Where the ends are, and the names as the table's way to tell ends apart has them.
+/// The coordinates of both ends, and the column names as read in the style of the table.
 struct FoundEnds
 {
     Names names;
@@ -248,7 +249,7 @@ QuantityField quantityField(int field, UnitOf unitOf, const std::vector<Field> &
 LinkEndFields endFields(const Names &names, LinkEndId end, const PointFields &point,
                         const std::vector<Field> &all)
 {
-    const auto lengths = [&](Fit (*fitOf)(const EndWords &)) {
+    const auto lengths = [&](const FitOf &fitOf) {
         return quantityField(bestFit(names, end, fitOf), metresPer, all);
     };
     LinkEndFields fields;
@@ -258,14 +259,15 @@ LinkEndFields endFields(const Names &names, LinkEndId end, const PointFields &po
     if (!fields.height.found())
         fields.seaLevelHeight = bestFit(names, end, fitOfSeaLevelHeight);
     fields.frequency = quantityField(bestFit(names, end, fitOfFrequency), megahertzPer, all);
-    fields.azimuth = bestFit(names, end, fitOfFirstWord<Azimuth, Azimut, Azi>);
-    fields.tilt = bestFit(names, end, fitOfFirstWord<Tilt>);
-    fields.dx = lengths(fitOfFirstWord<Dx>);
-    fields.dy = lengths(fitOfFirstWord<Dy>);
+    fields.azimuth = bestFit(names, end, fitOfWords(AzimuthWords));
+    fields.tilt = bestFit(names, end, fitOfWords(TiltWords));
+    fields.dx = lengths(fitOfWords(DxWords));
+    fields.dy = lengths(fitOfWords(DyWords));
     return fields;
 }
 
-/// The coarser way of writing: an easting near the false origin may look like degrees.
+/// The common unit of both ends. Metres have priority because a small easting, near the false
+/// origin, can also be read as degrees.
 CoordinateUnit commonUnit(CoordinateUnit a, CoordinateUnit b)
 {
     for (const CoordinateUnit unit : {CoordinateUnit::Meters, CoordinateUnit::Dms}) {
@@ -283,7 +285,7 @@ LinkLayout recogniseLinkLayout(const TableProfile &table)
     if (!ends.found())
         refuse(ends, table.fields);
     LinkLayout layout;
-    const auto ofLink = [&](Fit (*fitOf)(const EndWords &)) {
+    const auto ofLink = [&](const FitOf &fitOf) {
         return bestFit(ends.names, LinkEndId::None, fitOf);
     };
     layout.ends = {endFields(ends.names, LinkEndId::A, ends.a, table.fields),
