@@ -28,11 +28,11 @@ siteOptions=(--source-srs 4326 --target-srs 2154 --sector-height 12.5 --sector-r
     --sector-colors Pastel --pylon-type 5)
 linkOptions=("${siteOptions[@]}" --link-style tube --link-color 11223344 --color-by-clearance --fresnel-color 00ff80
     --link-width 3.5 --fresnel-zone 2 --fresnel-share 80 --fresnel-transparency 25 --k-factor 0.9)
-buildingOptions=(--check-clockwise --distance 3000 --tile-size 125.5 --skirt 2.5 --cache-capacity 7
-    --cache all --delayed-write --dtm-nodata -5)
+buildingOptions=(--check-clockwise --distance 3000 --tile-size 125.5 --skirt 2.5 --dtm-nodata -5)
+cacheOptions=(--cache all --delayed-write --cache-capacity 7)
 colorOptions=(--absolute --color-ranges --mode most-represented --image-nodata -1)
-textureOptions=(--textured-distance 700 --buffer 1.5 --dilatation 3 --wall-color 112233 --roof-color colormap --edge-color red --force-edges
-    --no-complex-buildings --compression dxt3 --magnify linear)
+textureOptions=(--textured-distance 700 --buffer 1.5 --dilatation 3 --wall-color 112233 --roof-color colormap
+    --edge-color red --force-edges --no-complex-buildings --compression dxt3 --magnify linear)
 
 # keep NAME COMMAND...: keeps in out/NAME what a command prints, its exit status and the files that it writes.
 keep() {
@@ -88,7 +88,7 @@ sampleBuildings() {
     local set=(--textures "$samples/textures/same_folder/coverage_6m.tif")
     layers "buildings" buildings "${project[@]}"
     layers "buildings, no project" buildings "$samples/vectors/buildings.shp" --dtm "$samples/terrain/lorient_dem.tif"
-    layers "buildings, all options" buildings "${project[@]}" "${buildingOptions[@]}" --layer buildings
+    layers "buildings, all options" buildings "${project[@]}" "${buildingOptions[@]}" "${cacheOptions[@]}" --layer buildings
     layers "colored" buildings "${project[@]}" "${image[@]}"
     layers "colored, all options" buildings "${project[@]}" "${image[@]}" "${buildingOptions[@]}" "${colorOptions[@]}"
     for map in "$tree"/addons/telecom/colormaps/*/*.txt; do
@@ -97,7 +97,7 @@ sampleBuildings() {
     for where in roofs walls storeys; do
         layers "textured, $where" buildings "${project[@]}" "${set[@]}" --texture-on $where
         layers "textured, $where, all options" buildings "${project[@]}" "${set[@]}" "${image[@]}" --texture-on $where \
-            "${buildingOptions[@]}" "${colorOptions[@]}" "${textureOptions[@]}"
+            "${buildingOptions[@]}" "${cacheOptions[@]}" "${colorOptions[@]}" "${textureOptions[@]}"
     done
     layers "textured, one image" buildings "${project[@]}" --texture "$samples/textures/storeys.tif=3.5"
     layers "textured, sibling folders" buildings "${project[@]}" --structure sibling-folders \
