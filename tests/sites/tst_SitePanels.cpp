@@ -105,8 +105,8 @@ private Q_SLOTS:
         QTest::newRow("not a number") << u"nan"_s << 20.0 << 10000;
         QTest::newRow("infinite") << u"-inf"_s << 20.0 << 10000;
         QTest::newRow("beyond every number") << u"1e400"_s << 20.0 << 10000;
-        QTest::newRow("above the range") << u"1e12"_s << 1e8 << 1000000000;
-        QTest::newRow("below the range") << u"-7"_s << 0.01 << 0;
+        QTest::newRow("above the range") << u"1e12"_s << 20.0 << 10000;
+        QTest::newRow("below the range") << u"-7"_s << 20.0 << 10000;
     }
 
     void takesTheFirstRunsValueForOneThatIsNone()

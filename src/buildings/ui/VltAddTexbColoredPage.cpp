@@ -16,7 +16,7 @@ VltAddTexbColoredPage::VltAddTexbColoredPage(QWidget *wizard, SharedParameters &
     setFocusProxy(m_ui->m_pwTabs); // the first stop: Tab would never reach what stands before it
     setDropHighlightWidgets(m_ui->m_pwColoring->dropLabels());
     m_ui->m_pwColoring->setInstallDir(installDir);
-    m_ui->m_pwExtrusion->setDistanceRemembered(false);
+    m_ui->m_pwExtrusion->forgetDistance();
     addPanel(m_ui->m_pwColoring);
     addPanel(m_ui->m_pwExtrusion);
     setForm(m_ui->m_pwGbPreview, m_ui->m_ptHbDrag, m_ui->m_pwLblDragText);

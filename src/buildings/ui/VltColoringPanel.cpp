@@ -64,6 +64,11 @@ VltColoringPanel::VltColoringPanel(QWidget *parent)
     m_ui->m_pwCbCmap->setIconSize(buildings::ColorMapSwatchSize);
     m_ui->m_pwCbSubdatsets->view()->setTextElideMode(Qt::ElideLeft); // a path stands in front
     wizard::guardAgainstStrayWheel(this);
+    // image, part and colour map are remembered apart: their lists depend on files
+    remember({{QStringLiteral("Mode"), m_ui->m_pwCbMode},
+              {QStringLiteral("NoData"), m_ui->m_pwLeNoData},
+              {QStringLiteral("Stretch"), m_ui->m_pwCbStretch},
+              {QStringLiteral("ColorInterpMode"), m_ui->m_pwCBColorInterp}});
     connectWidgets();
 }
 
@@ -352,7 +357,6 @@ void VltColoringPanel::loadSettings(const QString &prefix)
         return settings->value(prefix + QLatin1Char('/') + key, absent);
     };
     m_lastUsedDir = settings->value(LastUsedDirKey).toString();
-    restoreIndex(m_ui->m_pwCbMode, value(QStringLiteral("Mode"), 0));
     openImage(value(QStringLiteral("Image"), QString()).toString(), true);
     {
         const QSignalBlocker once(m_ui->m_pwCbSubdatsets);
@@ -360,9 +364,7 @@ void VltColoringPanel::loadSettings(const QString &prefix)
     }
     if (m_ui->m_pwCbSubdatsets->currentIndex() > 0)
         judgeSubdataset(true);
-    m_ui->m_pwLeNoData->setText(value(QStringLiteral("NoData"), QString()).toString());
-    m_ui->m_pwCbStretch->setChecked(value(QStringLiteral("Stretch"), true).toBool());
-    restoreIndex(m_ui->m_pwCBColorInterp, value(QStringLiteral("ColorInterpMode"), 1));
+    VltParameterPanel::loadSettings(prefix);
 
     // a damaged count must not keep the page busy for ever
     const int count = qMin(value(QStringLiteral("UserColormapCount"), 0).toInt(),
@@ -385,12 +387,9 @@ void VltColoringPanel::saveSettings(const QString &prefix)
     };
     if (!m_lastUsedDir.isEmpty())
         settings->setValue(LastUsedDirKey, m_lastUsedDir);
-    save(QStringLiteral("Mode"), m_ui->m_pwCbMode->currentIndex());
+    VltParameterPanel::saveSettings(prefix);
     save(QStringLiteral("Image"), m_openedImage);
     save(QStringLiteral("IdxSubdataset"), qMax(0, m_ui->m_pwCbSubdatsets->currentIndex()));
-    save(QStringLiteral("NoData"), m_ui->m_pwLeNoData->text());
-    save(QStringLiteral("Stretch"), m_ui->m_pwCbStretch->isChecked());
-    save(QStringLiteral("ColorInterpMode"), m_ui->m_pwCBColorInterp->currentIndex());
     const QComboBox *maps = m_ui->m_pwCbCmap;
     const int userCount = maps->count() - m_installedCount;
     save(QStringLiteral("UserColormapCount"), userCount);

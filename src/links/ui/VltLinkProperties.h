@@ -19,17 +19,14 @@ public:
     explicit VltLinkProperties(QWidget *parent = nullptr);
     ~VltLinkProperties() override;
 
-    void loadSettings(const QString &prefix) override;
-    void saveSettings(const QString &prefix) override;
     void setStacked(bool stacked) override;
 
     /// The values as they stand.
     vlt::links::LinkRepresentation representation() const;
 
 private:
-    void offerNumbers();
+    void offerFirstRun();
     void connectWidgets();
-    void setValues(const vlt::links::LinkRepresentation &values);
     void showWidthUnit();
     void showTransparency(int percent);
 

@@ -1,64 +1,12 @@
 #include "sites/ui/VltSiteProperties.h"
 
-#include "platform/Settings.h"
 #include "sites/PylonQuery.h"
 #include "tables/ui/PanelParts.h"
 #include "ui_SiteProperties.h"
+#include "wizard/base/OfferedNumber.h"
 #include "wizard/base/WheelGuard.h"
 
-#include <QSettings>
-
-#include <algorithm>
-#include <cmath>
-#include <functional>
-#include <limits>
-#include <vector>
-
-namespace {
-
 using vlt::sites::SiteRepresentation;
-
-/// A remembered value: its key and how it is carried to and from the settings. What does not read
-/// as a number leaves the representation as it is.
-struct Remembered
-{
-    QString key;
-    std::function<void(SiteRepresentation &, const QVariant &)> read;
-    std::function<QVariant(const SiteRepresentation &)> write;
-};
-
-template<typename Number>
-Remembered remembered(const char *key, Number SiteRepresentation::*member)
-{
-    return {QString::fromLatin1(key),
-            [member](SiteRepresentation &to, const QVariant &value) {
-                constexpr double Most = std::numeric_limits<Number>::max();
-                bool isNumber = false;
-                const double number = value.toDouble(&isNumber);
-                if (isNumber && std::isfinite(number))
-                    to.*member = static_cast<Number>(std::clamp(number, -Most, Most));
-            },
-            [member](const SiteRepresentation &from) { return QVariant(from.*member); }};
-}
-
-const std::vector<Remembered> &rememberedValues()
-{
-    static const std::vector<Remembered> values = {
-        remembered("SectorHeight", &SiteRepresentation::sectorHeightM),
-        remembered("SectorRadius", &SiteRepresentation::sectorRadiusM),
-        remembered("SectorSpacing", &SiteRepresentation::sectorSpacingM),
-        remembered("ColorMenuEntry", &SiteRepresentation::colorSet),
-        remembered("SymbolicDistance", &SiteRepresentation::symbolicDistanceM),
-        remembered("PylonMenuEntry", &SiteRepresentation::pylonType),
-        remembered("RealisticDistance", &SiteRepresentation::realisticDistanceM),
-        remembered("GlobalTransparency", &SiteRepresentation::transparencyPercent),
-        remembered("PylonWidth", &SiteRepresentation::pylonWidthM),
-        remembered("AntennaSize", &SiteRepresentation::antennaScalePercent),
-    };
-    return values;
-}
-
-} // namespace
 
 VltSiteProperties::VltSiteProperties(const QString &installDir, const QString &language,
                                      QWidget *parent)
@@ -71,6 +19,16 @@ VltSiteProperties::VltSiteProperties(const QString &installDir, const QString &l
     offerNumbers();
     vlt::tables::narrowSpinBoxes(this);
     fillCombos();
+    remember({{QStringLiteral("SectorHeight"), m_ui->m_pwSbSectorHeight},
+              {QStringLiteral("SectorRadius"), m_ui->m_pwSbSectorRadius},
+              {QStringLiteral("SectorSpacing"), m_ui->m_pwSbSectorSpacing},
+              {QStringLiteral("ColorMenuEntry"), m_ui->m_pwCbSectorColors},
+              {QStringLiteral("SymbolicDistance"), m_ui->m_pwSbSymbolicDistance},
+              {QStringLiteral("PylonMenuEntry"), m_ui->m_pwCbPylonType},
+              {QStringLiteral("RealisticDistance"), m_ui->m_pwSbRealisticDistance},
+              {QStringLiteral("GlobalTransparency"), m_ui->m_pwSlTransparency},
+              {QStringLiteral("PylonWidth"), m_ui->m_pwSbPylonWidth},
+              {QStringLiteral("AntennaSize"), m_ui->m_pwSbAntennaSize}});
     connectWidgets();
 }
 
@@ -79,14 +37,14 @@ VltSiteProperties::~VltSiteProperties() = default;
 void VltSiteProperties::offerNumbers()
 {
     namespace query = vlt::contract::query;
-    vlt::tables::offer(m_ui->m_pwSbSectorHeight, query::SectorHeightM);
-    vlt::tables::offer(m_ui->m_pwSbSectorRadius, query::SectorRadiusM);
-    vlt::tables::offer(m_ui->m_pwSbSectorSpacing, query::SectorSpacingM);
-    vlt::tables::offer(m_ui->m_pwSlTransparency, query::TransparencyPercent);
-    vlt::tables::offer(m_ui->m_pwSbSymbolicDistance, query::SymbolicDistanceM);
-    vlt::tables::offer(m_ui->m_pwSbPylonWidth, query::PylonWidthM);
-    vlt::tables::offer(m_ui->m_pwSbAntennaSize, query::AntennaScalePercent);
-    vlt::tables::offer(m_ui->m_pwSbRealisticDistance, query::RealisticDistanceM);
+    vlt::wizard::offer(m_ui->m_pwSbSectorHeight, query::SectorHeightM);
+    vlt::wizard::offer(m_ui->m_pwSbSectorRadius, query::SectorRadiusM);
+    vlt::wizard::offer(m_ui->m_pwSbSectorSpacing, query::SectorSpacingM);
+    vlt::wizard::offer(m_ui->m_pwSlTransparency, query::TransparencyPercent);
+    vlt::wizard::offer(m_ui->m_pwSbSymbolicDistance, query::SymbolicDistanceM);
+    vlt::wizard::offer(m_ui->m_pwSbPylonWidth, query::PylonWidthM);
+    vlt::wizard::offer(m_ui->m_pwSbAntennaSize, query::AntennaScalePercent);
+    vlt::wizard::offer(m_ui->m_pwSbRealisticDistance, query::RealisticDistanceM);
 }
 
 void VltSiteProperties::fillCombos()
@@ -122,36 +80,6 @@ void VltSiteProperties::connectWidgets()
 void VltSiteProperties::setStacked(bool stacked)
 {
     m_ui->m_ptHbMain->setDirection(stacked ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
-}
-
-void VltSiteProperties::loadSettings(const QString &prefix)
-{
-    const auto settings = vlt::platform::wizardSettings();
-    SiteRepresentation values;
-    for (const Remembered &value : rememberedValues())
-        value.read(values,
-                   settings->value(prefix + QLatin1Char('/') + value.key, value.write(values)));
-
-    const bool wereBlocked = blockSignals(true);
-    m_ui->m_pwSbSectorHeight->setValue(values.sectorHeightM);
-    m_ui->m_pwSbSectorRadius->setValue(values.sectorRadiusM);
-    m_ui->m_pwSbSectorSpacing->setValue(values.sectorSpacingM);
-    vlt::tables::selectEntry(m_ui->m_pwCbSectorColors, values.colorSet);
-    m_ui->m_pwSbSymbolicDistance->setValue(values.symbolicDistanceM);
-    vlt::tables::selectEntry(m_ui->m_pwCbPylonType, values.pylonType);
-    m_ui->m_pwSbRealisticDistance->setValue(values.realisticDistanceM);
-    m_ui->m_pwSlTransparency->setValue(values.transparencyPercent);
-    m_ui->m_pwSbPylonWidth->setValue(values.pylonWidthM);
-    m_ui->m_pwSbAntennaSize->setValue(values.antennaScalePercent);
-    blockSignals(wereBlocked);
-}
-
-void VltSiteProperties::saveSettings(const QString &prefix)
-{
-    const auto settings = vlt::platform::wizardSettings();
-    const SiteRepresentation values = representation();
-    for (const Remembered &value : rememberedValues())
-        settings->setValue(prefix + QLatin1Char('/') + value.key, value.write(values));
 }
 
 QString VltSiteProperties::buildPreviewPylonUrl(vlt::contract::TableKind kind) const

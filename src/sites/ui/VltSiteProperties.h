@@ -21,8 +21,6 @@ public:
                       QWidget *parent = nullptr);
     ~VltSiteProperties() override;
 
-    void loadSettings(const QString &prefix) override;
-    void saveSettings(const QString &prefix) override;
     void setStacked(bool stacked) override;
 
     /// The name under which the scene library loads one demonstration site with these values; empty

@@ -30,9 +30,4 @@ void showWholeTexts(QComboBox *combo)
     tell();
 }
 
-void selectEntry(QComboBox *combo, int index)
-{
-    combo->setCurrentIndex(index >= 0 && index < combo->count() ? index : 0);
-}
-
 } // namespace vlt::tables

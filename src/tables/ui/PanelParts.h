@@ -1,7 +1,5 @@
 #pragma once
 
-#include "contract/ChosenNumber.h"
-
 #include <QComboBox>
 #include <QSpinBox>
 #include <QWidget>
@@ -15,17 +13,6 @@ void narrowSpinBoxes(QWidget *panel);
 /// For texts that are longer than the closed box: its list is wide enough for them, and its tool
 /// tip tells the chosen one.
 void showWholeTexts(QComboBox *combo);
-
-/// Chooses an entry, or the first one where there is no such entry.
-void selectEntry(QComboBox *combo, int index);
-
-/// Gives a spin box or slider the range of a number and its first-run value.
-template<typename Box, typename Number>
-void offer(Box *box, const contract::ChosenNumber<Number> &number)
-{
-    box->setRange(number.minimum, number.maximum);
-    box->setValue(number.firstRun);
-}
 
 /// Connects every spin box and combo of a panel to its signal parameterChanged().
 template<typename Panel>
