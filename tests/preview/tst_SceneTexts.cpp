@@ -195,6 +195,14 @@ private Q_SLOTS:
               {u"b.texb"_s, u"TEXB:"_s});
         layer("<veltaroLayer kind=\"buildings\"><source>TEXB:b.texb</source>",
               "MESS_SCENE_NO_DOCUMENT", {u"b.texb"_s});
+        layer("<veltaroLayer kind=\"sites\"><source>site:/gone/s.csv</source>",
+              "MESS_SCENE_NO_TABLE", {u"/gone/s.csv"_s});
+        layer("<veltaroLayer kind=\"links\"><source>link:map.txt</source>", "MESS_SCENE_NO_OPTION",
+              {u"pylon_type"_s});
+        layer("<veltaroLayer kind=\"sites\">"
+              "<source>site:pylon_type=wood_panel,pylon_width=wide,map.txt</source>",
+              "MESS_QUERY_NO_NUMBER",
+              {u"pylon_width"_s, told("MESS_QUANTITY_WIDTH", {}), u"wide"_s});
     }
 
     void translatesRefusals()

@@ -20,8 +20,7 @@ inline const std::string Demonstration =
 /// The pylon of that query, of another type.
 inline PylonDesign demonstration(const char *type)
 {
-    const PylonOrFault read = parsePylonQuery(replaced(Demonstration, "monopole_panel", type));
-    return std::get<PylonObject>(read).design;
+    return parsePylonQuery(replaced(Demonstration, "monopole_panel", type)).design;
 }
 
 /// One row for each type.

@@ -32,7 +32,7 @@ const std::string Demonstration =
 
 LinkSceneQuery demonstration()
 {
-    return std::get<LinkSceneQuery>(parseLinkQuery(Demonstration));
+    return parseLinkQuery(Demonstration);
 }
 
 LinkLook lookOf(LinkStyle style, double width)
@@ -164,10 +164,10 @@ private Q_SLOTS:
             {"&link=0 0 23 200 0 23 200&link=0 0 20 9 9 9 0 010203ff", "", "link is missing"},
             {"200 0 23 200", "nan 0 23 200", "link 1: the x \"nan\" is not a number"},
             {"200 0 23 200", "200 0 1e10 200", "link 1: the z \"1e10\" is not within"},
-            {"200 0 23 200", "0 0 23 200", "link 1: both ends are at the same place"},
+            {"200 0 23 200", "0 0 23 200", "link 1: both ends have the same position"},
             {"200 0 23 200", "200 0 23 -1", "link 1: the frequency \"-1\" is not within"},
             {"200 0 23 200", "200 0 23 .01", "link 1: the frequency \".01\" is neither 0 nor"},
-            {"010203ff", "010203", "link 2: the colour \"010203\" is not rrggbbaa"},
+            {"010203ff", "010203", "link 2: the color \"010203\" is not rrggbbaa"},
             {"=TUBE", "=tube", "link_style: the style \"tube\" is unknown"},
             {"&link_width=4", "&link_width=0", "link_width: the width \"0\" is not within"},
             {"&link_width=4", "&link_width=4&link_width=4", "link_width is given more than once"},

@@ -150,8 +150,8 @@ private Q_SLOTS:
             {"=23 240 -5", "=23 240 --5", "transmitter 3: the tilt \"--5\" is not a number"},
             {"+5 0 0", "+5 361 0", "transmitter 5: the beam width \"361\""},
             {"+5 0 0", "+5 0 31", "transmitter 5: the antenna length \"31\""},
-            {"00ff00ff", "00ff00", "transmitter 2: the colour \"00ff00\" is not rrggbbaa"},
-            {"00ff00ff", "00ff00+f", "the colour \"00ff00+f\" is not rrggbbaa"},
+            {"00ff00ff", "00ff00", "transmitter 2: the color \"00ff00\" is not rrggbbaa"},
+            {"00ff00ff", "00ff00+f", "the color \"00ff00+f\" is not rrggbbaa"},
         });
     }
     void refusesWhatCannotBeDrawn() { compareRefusal(Demonstration, parsePylonQuery); }

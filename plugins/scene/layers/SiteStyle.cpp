@@ -16,7 +16,7 @@ namespace {
 
 struct Number
 {
-    std::string_view name;
+    contract::SceneTextId name;
     contract::Range range;
     double *value;
 };
@@ -37,7 +37,7 @@ std::string styleOption(const contract::ConnectionString &source, std::string_vi
 {
     std::string value = source.option(key);
     if (value.empty())
-        throw BadQuery(std::string(key) + " is missing in the layer's source");
+        throw BadQuery("MESS_SCENE_NO_OPTION", {key});
     return value;
 }
 
@@ -46,24 +46,25 @@ SiteStyle readSiteStyle(const contract::ConnectionString &source)
     SiteStyle style;
     PylonDesign &pylon = style.pylon;
     pylon.type = readPylonType(styleOption(source, keys::PylonType));
-    readNumbers(source, keys::PylonWidth, "WIDTH", {{"width", limits::PylonWidthM, &pylon.widthM}});
+    readNumbers(source, keys::PylonWidth, "WIDTH",
+                {{"MESS_QUANTITY_WIDTH", limits::PylonWidthM, &pylon.widthM}});
     readNumbers(source, keys::SectorProperties, "RADIUS HEIGHT SPACING",
-                {{"radius", limits::SectorSizeM, &pylon.sectorRadiusM},
-                 {"height", limits::SectorSizeM, &pylon.sectorHeightM},
-                 {"spacing", limits::SectorSpacingM, &pylon.sectorSpacingM}});
+                {{"MESS_QUANTITY_RADIUS", limits::SectorSizeM, &pylon.sectorRadiusM},
+                 {"MESS_QUANTITY_HEIGHT", limits::SectorSizeM, &pylon.sectorHeightM},
+                 {"MESS_QUANTITY_SPACING", limits::SectorSpacingM, &pylon.sectorSpacingM}});
     double percent = 0;
     readNumbers(source, keys::TransmitterScale, "PERCENT",
-                {{"scale", limits::AntennaScalePercent, &percent}});
+                {{"MESS_QUANTITY_SCALE", limits::AntennaScalePercent, &percent}});
     pylon.antennaScale = percent / 100;
     readNumbers(source, keys::Lods, "SYMBOLIC REALISTIC",
-                {{"symbolic distance", limits::DistanceM, &pylon.symbolicDistanceM},
-                 {"realistic distance", limits::DistanceM, &pylon.realisticDistanceM}});
+                {{"MESS_QUANTITY_SYMBOLIC", limits::DistanceM, &pylon.symbolicDistanceM},
+                 {"MESS_QUANTITY_REALISTIC", limits::DistanceM, &pylon.realisticDistanceM}});
     const std::string colors = styleOption(source, keys::SectorColors);
     Words words(keys::SectorColors, colors);
     while (style.colors.size() < words.count())
         style.colors.push_back(words.color());
     if (style.colors.empty())
-        throw BadQuery("sector_colors is missing in the layer's source");
+        throw BadQuery("MESS_SCENE_NO_OPTION", {keys::SectorColors});
     return style;
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "contract/SceneTexts.h"
+
 #include <stdexcept>
 
 namespace vlt::scene {
@@ -8,7 +10,9 @@ namespace vlt::scene {
 class BadQuery : public std::runtime_error
 {
 public:
-    using std::runtime_error::runtime_error;
+    BadQuery(contract::SceneTextId text, std::initializer_list<std::string_view> values = {})
+        : std::runtime_error(contract::formatted(text, values))
+    {}
 };
 
 } // namespace vlt::scene

@@ -14,7 +14,7 @@ Words wordsOf(const ItemText &item, const std::string &key, std::string &text)
     return {key, text};
 }
 
-double readNumber(const ItemText &item, const std::string &key, std::string_view name,
+double readNumber(const ItemText &item, const std::string &key, contract::SceneTextId name,
                   const contract::Range &range)
 {
     std::string text;
@@ -28,7 +28,7 @@ LinkStyle readStyle(const ItemText &item)
     const std::string text = item(keys::LinkStyle);
     const auto style = contract::linkStyleOf(text);
     if (!style)
-        Words(keys::LinkStyle, text).refuse("style", text, "is unknown");
+        Words(keys::LinkStyle, text).refuseUnknown("MESS_QUANTITY_STYLE", text);
     return *style;
 }
 
@@ -39,24 +39,25 @@ LinkLook readLinkLook(const ItemText &item, ClearanceWord clearance)
     LinkLook look;
     std::string text;
     look.style = readStyle(item);
-    look.width = readNumber(item, keys::LinkWidth, "width", keys::LinkWidthPixelsOrM);
+    look.width = readNumber(item, keys::LinkWidth, "MESS_QUANTITY_WIDTH", keys::LinkWidthPixelsOrM);
     Words color = wordsOf(item, keys::LinkColor, text);
     look.colorByClearance = clearance == ClearanceWord::Accepted && color.count() > 1;
     color.expect(look.colorByClearance ? 2 : 1, "rrggbbaa");
     look.color = color.color();
     if (const std::string_view word = color.word();
         look.colorByClearance && word != keys::ClearanceWord)
-        color.refuse("word", word, "is unknown");
+        color.refuseUnknown("MESS_QUANTITY_WORD", word);
     Words zone = wordsOf(item, keys::FresnelZone, text);
     zone.expect(1, "NUMBER");
-    look.fresnelZone =
-        zone.wholeNumber("zone", {keys::NoFresnelZone, keys::FresnelZoneNumber.maximum});
+    look.fresnelZone = zone.wholeNumber("MESS_QUANTITY_ZONE",
+                                        {keys::NoFresnelZone, keys::FresnelZoneNumber.maximum});
     look.fresnelShare =
-        readNumber(item, keys::FresnelShare, "share", keys::FresnelSharePercent) / 100;
+        readNumber(item, keys::FresnelShare, "MESS_QUANTITY_SHARE", keys::FresnelSharePercent) /
+        100;
     Words fresnelColor = wordsOf(item, keys::FresnelColor, text);
     fresnelColor.expect(1, "rrggbbaa");
     look.fresnelColor = fresnelColor.color();
-    look.kFactor = readNumber(item, keys::KFactor, "factor", keys::KFactorNumber);
+    look.kFactor = readNumber(item, keys::KFactor, "MESS_QUANTITY_K_FACTOR", keys::KFactorNumber);
     return look;
 }
 

@@ -18,11 +18,11 @@ LinkObject readLink(const std::string &item, std::string_view text)
     link.a = readPlace(words);
     link.b = readPlace(words);
     if (link.a == link.b)
-        throw BadQuery(item + ": both ends are at the same place");
+        throw BadQuery("MESS_QUERY_SAME_POSITION", {item});
     const std::string_view frequency = words.next();
-    link.frequencyMHz = words.number("frequency", {0, HighestMHz});
+    link.frequencyMHz = words.number("MESS_QUANTITY_FREQUENCY", {0, HighestMHz});
     if (link.frequencyMHz > 0 && link.frequencyMHz < LowestMHz)
-        words.refuse("frequency", frequency, "is neither 0 nor 1 MHz or more");
+        throw BadQuery("MESS_QUERY_LOW_FREQUENCY", {item, shown(frequency)});
     if (hasColor)
         link.color = words.color();
     return link;
@@ -40,7 +40,7 @@ void readPylons(const ParametricQuery &query, LinkSceneQuery &scene)
         } else if (key == "transmitter" || key == "dish") {
             const std::string item = std::string(key) + " " + std::to_string(++transmitters);
             if (scene.pylons.empty())
-                throw BadQuery(item + " stands before the first pylon");
+                throw BadQuery("MESS_QUERY_BEFORE_PYLON", {item});
             scene.pylons.back().design.transmitters.push_back(
                 key == "dish" ? readDish(item, value) : readTransmitter(item, value));
         }
@@ -51,11 +51,12 @@ void checkCount(const ParametricQuery &query, std::string_view key, std::size_t 
 {
     const std::size_t count = query.all(key).size();
     if (count > most)
-        throw BadQuery(std::to_string(count) + " items \"" + std::string(key) +
-                       "\" are more than " + std::to_string(most));
+        throw BadQuery("MESS_QUERY_MANY_ITEMS", {std::to_string(count), key, std::to_string(most)});
 }
 
-LinkSceneQuery readLinkQuery(std::string_view url)
+} // namespace
+
+LinkSceneQuery parseLinkQuery(std::string_view url)
 {
     const ParametricQuery query(url, {"object", keys::DataFolder, keys::PylonType, "pylon",
                                       "transmitter", "dish", keys::TransmitterScale, "lod", "link",
@@ -64,7 +65,7 @@ LinkSceneQuery readLinkQuery(std::string_view url)
                                       keys::KFactor});
     const std::string_view object = query.single("object");
     if (object != "link")
-        Words("object", object).refuse("kind", object, "is unknown");
+        Words("object", object).refuseUnknown("MESS_QUANTITY_KIND", object);
     checkCount(query, "pylon", MaxQueryPylons);
     checkCount(query, "link", MaxQueryLinks);
     checkTransmitterCount(query.all("transmitter").size() + query.all("dish").size());
@@ -73,21 +74,10 @@ LinkSceneQuery readLinkQuery(std::string_view url)
     for (const std::string_view text : query.all("link"))
         scene.links.push_back(readLink("link " + std::to_string(scene.links.size() + 1), text));
     if (scene.links.empty())
-        throw BadQuery("link is missing");
+        throw BadQuery("MESS_QUERY_NO_ITEM", {"link"});
     const auto item = [&query](std::string_view key) { return std::string(query.single(key)); };
     scene.look = readLinkLook(item, ClearanceWord::Refused);
     return scene;
-}
-
-} // namespace
-
-LinkSceneOrFault parseLinkQuery(std::string_view url)
-{
-    try {
-        return readLinkQuery(url);
-    } catch (const BadQuery &fault) {
-        return std::string(fault.what());
-    }
 }
 
 } // namespace vlt::scene

@@ -4,9 +4,7 @@
 #include "plugins/scene/parametric/PylonObject.h"
 
 #include <cstddef>
-#include <string>
 #include <string_view>
-#include <variant>
 #include <vector>
 
 namespace vlt::scene {
@@ -22,9 +20,6 @@ struct LinkSceneQuery
 inline constexpr std::size_t MaxQueryPylons = 500;
 inline constexpr std::size_t MaxQueryLinks = 10000;
 
-/// A scene, or a text that names the item that cannot be used and its value.
-using LinkSceneOrFault = std::variant<LinkSceneQuery, std::string>;
-
 /// Reads the query of links:
 ///
 ///     inline://parametric/query?object=link&data_folder=PATH&pylon_type=TYPE
@@ -39,6 +34,8 @@ using LinkSceneOrFault = std::variant<LinkSceneQuery, std::string>;
 /// Transmitters and dishes belong to the pylon before them, MaxTransmitters in all; else the items
 /// may stand in any order. Metres, degrees, per cent; a diameter of 0 stands for the usual one, a
 /// frequency of 0 for an unknown one. The data folder is accepted and not needed.
-LinkSceneOrFault parseLinkQuery(std::string_view url);
+///
+/// @throws BadQuery  naming the item that cannot be used and its value
+LinkSceneQuery parseLinkQuery(std::string_view url);
 
 } // namespace vlt::scene

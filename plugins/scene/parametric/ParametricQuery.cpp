@@ -18,15 +18,6 @@ constexpr std::string_view Start = "inline://parametric/query?";
 constexpr std::string_view PathKey = contract::query::DataFolder;
 constexpr std::size_t LongestQuote = 60;
 
-/// A value as messages show it: short, without control characters.
-std::string quoted(std::string_view value)
-{
-    std::string text = "\"" + std::string(value.substr(0, LongestQuote));
-    std::replace_if(
-        text.begin(), text.end(), [](unsigned char c) { return c < ' ' || c == 127; }, '?');
-    return text + (value.size() > LongestQuote ? "...\"" : "\"");
-}
-
 std::string decimal(double number)
 {
     std::ostringstream text;
@@ -51,7 +42,7 @@ ParametricQuery::ParametricQuery(std::string_view url, std::initializer_list<std
 {
     std::string_view rest = withoutExtension(m_text);
     if (!rest.starts_with(Start))
-        throw BadQuery(quoted(url) + " is not a query \"" + std::string(Start) + "...\"");
+        throw BadQuery("MESS_QUERY_OTHER_FORM", {shown(url)});
     rest.remove_prefix(Start.size());
     while (!rest.empty()) {
         const std::string_view item = rest.substr(0, rest.find('&'));
@@ -67,7 +58,7 @@ ParametricQuery::ParametricQuery(std::string_view url, std::initializer_list<std
             const auto length = static_cast<std::size_t>(item.data() + item.size() - begin);
             m_items.back().second = std::string_view(begin, length);
         } else
-            throw BadQuery("the item " + quoted(item) + " is unknown");
+            throw BadQuery("MESS_QUERY_UNKNOWN_ITEM", {shown(item)});
     }
 }
 
@@ -75,10 +66,9 @@ std::string_view ParametricQuery::single(std::string_view key) const
 {
     const std::vector<std::string_view> values = all(key);
     if (values.empty())
-        throw BadQuery(std::string(key) + " is missing");
+        throw BadQuery("MESS_QUERY_NO_ITEM", {key});
     if (values.size() > 1)
-        throw BadQuery(std::string(key) + " is given more than once: " + quoted(values[0]) + ", " +
-                       quoted(values[1]));
+        throw BadQuery("MESS_QUERY_TWO_ITEMS", {key, shown(values[0]), shown(values[1])});
     return values.front();
 }
 
@@ -96,6 +86,14 @@ void ParametricQuery::atMostOnce(std::string_view key) const
 {
     if (all(key).size() > 1)
         single(key);
+}
+
+std::string shown(std::string_view value)
+{
+    std::string text(value.substr(0, LongestQuote));
+    std::replace_if(
+        text.begin(), text.end(), [](unsigned char c) { return c < ' ' || c == 127; }, '?');
+    return text + (value.size() > LongestQuote ? "..." : "");
 }
 
 bool asksFor(std::string_view url, std::string_view object)
@@ -131,10 +129,10 @@ void Words::expect(std::size_t count, std::string_view meaning) const
     std::string text;
     for (const std::string_view &word : m_words)
         text += (text.empty() ? "" : " ") + std::string(word);
-    throw BadQuery(m_item + ": " + quoted(text) + " is not \"" + std::string(meaning) + "\"");
+    throw BadQuery("MESS_QUERY_OTHER_WORDS", {m_item, shown(text), meaning});
 }
 
-double Words::number(std::string_view name, const contract::Range &range)
+double Words::number(contract::SceneTextId name, const contract::Range &range)
 {
     const std::string_view text = word();
     std::string_view digits = text;
@@ -144,19 +142,19 @@ double Words::number(std::string_view name, const contract::Range &range)
     const auto [end, fault] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
     if (fault == std::errc::invalid_argument || end != digits.data() + digits.size() ||
         (fault == std::errc() && !std::isfinite(value)))
-        refuse(name, text, "is not a number");
+        throw BadQuery("MESS_QUERY_NO_NUMBER", {m_item, contract::formatted(name), shown(text)});
     if (fault != std::errc() || !range.contains(value))
-        refuse(name, text,
-               "is not within " + decimal(range.minimum) + " to " + decimal(range.maximum));
+        throw BadQuery("MESS_QUERY_OUT_OF_RANGE", {m_item, contract::formatted(name), shown(text),
+                                                   decimal(range.minimum), decimal(range.maximum)});
     return value;
 }
 
-int Words::wholeNumber(std::string_view name, const contract::Range &range)
+int Words::wholeNumber(contract::SceneTextId name, const contract::Range &range)
 {
     const std::string_view text = next();
     const double value = number(name, range);
     if (value != std::floor(value))
-        refuse(name, text, "is not a whole number");
+        throw BadQuery("MESS_QUERY_NOT_WHOLE", {m_item, contract::formatted(name), shown(text)});
     return static_cast<int>(value);
 }
 
@@ -171,7 +169,7 @@ Color Words::color()
         good = fault == std::errc() && end == begin + 2;
     }
     if (!good)
-        refuse("colour", text, "is not rrggbbaa");
+        throw BadQuery("MESS_QUERY_NO_COLOR", {m_item, shown(text)});
     return color;
 }
 
@@ -185,10 +183,9 @@ std::string_view Words::next() const
     return m_next < m_words.size() ? m_words[m_next] : std::string_view();
 }
 
-void Words::refuse(std::string_view name, std::string_view word, std::string_view why) const
+void Words::refuseUnknown(contract::SceneTextId name, std::string_view word) const
 {
-    throw BadQuery(m_item + ": the " + std::string(name) + " " + quoted(word) + " " +
-                   std::string(why));
+    throw BadQuery("MESS_QUERY_UNKNOWN_WORD", {m_item, contract::formatted(name), shown(word)});
 }
 
 } // namespace vlt::scene

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "contract/ChosenNumber.h"
+#include "contract/SceneTexts.h"
 #include "plugins/scene/mesh/Mesh.h"
 
 #include <initializer_list>
@@ -43,6 +44,9 @@ private:
     std::vector<Item> m_items;
 };
 
+/// A value as messages show it: short, without control characters.
+std::string shown(std::string_view value);
+
 /// Whether a query asks for an object: "object=link" stands in it. All else is for its reader to
 /// judge.
 bool asksFor(std::string_view url, std::string_view object);
@@ -59,12 +63,12 @@ public:
 
     /// The next word as a number.
     ///
-    /// @param name  how messages name it: "azimuth"
+    /// @param name  the quantity, for messages
     /// @throws BadQuery  no finite decimal number, or one outside the range
-    double number(std::string_view name, const contract::Range &range);
+    double number(contract::SceneTextId name, const contract::Range &range);
 
     /// The next word as a whole number. @throws BadQuery  as number() does
-    int wholeNumber(std::string_view name, const contract::Range &range);
+    int wholeNumber(contract::SceneTextId name, const contract::Range &range);
 
     /// The next word as a colour. @throws BadQuery  unless it is rrggbbaa
     Color color();
@@ -78,9 +82,8 @@ public:
     /// The word that comes next, which stays there.
     std::string_view next() const;
 
-    /// Tells that a word cannot be used. @throws BadQuery  always
-    [[noreturn]] void refuse(std::string_view name, std::string_view word,
-                             std::string_view why) const;
+    /// Refuses a word that has no meaning there. @throws BadQuery  always
+    [[noreturn]] void refuseUnknown(contract::SceneTextId name, std::string_view word) const;
 
 private:
     std::string m_item;

@@ -13,9 +13,9 @@ namespace {
 Transmitter readDirection(Words &words)
 {
     Transmitter transmitter;
-    transmitter.heightM = words.number("height", limits::AntennaHeightM);
-    transmitter.azimuthDeg = words.number("azimuth", limits::AzimuthDeg);
-    transmitter.tiltDeg = words.number("tilt", limits::TiltDeg);
+    transmitter.heightM = words.number("MESS_QUANTITY_HEIGHT", limits::AntennaHeightM);
+    transmitter.azimuthDeg = words.number("MESS_QUANTITY_AZIMUTH", limits::AzimuthDeg);
+    transmitter.tiltDeg = words.number("MESS_QUANTITY_TILT", limits::TiltDeg);
     return transmitter;
 }
 
@@ -24,9 +24,9 @@ Transmitter readDirection(Words &words)
 osg::Vec3d readPlace(Words &words)
 {
     osg::Vec3d place;
-    place.x() = words.number("x", limits::PlaceM);
-    place.y() = words.number("y", limits::PlaceM);
-    place.z() = words.number("z", limits::PlaceM);
+    place.x() = words.number("MESS_QUANTITY_X", limits::PlaceM);
+    place.y() = words.number("MESS_QUANTITY_Y", limits::PlaceM);
+    place.z() = words.number("MESS_QUANTITY_Z", limits::PlaceM);
     return place;
 }
 
@@ -34,7 +34,7 @@ PylonType readPylonType(std::string_view text)
 {
     const std::optional<PylonType> type = pylonTypeNamed(text);
     if (!type)
-        Words(keys::PylonType, text).refuse("type", text, "is unknown");
+        Words(keys::PylonType, text).refuseUnknown("MESS_QUANTITY_TYPE", text);
     return *type;
 }
 
@@ -45,11 +45,11 @@ PylonDesign readCommonDesign(const ParametricQuery &query)
     design.type = readPylonType(query.single(keys::PylonType));
     Words scale(keys::TransmitterScale, query.single(keys::TransmitterScale));
     scale.expect(1, "PERCENT");
-    design.antennaScale = scale.number("scale", limits::AntennaScalePercent) / 100;
+    design.antennaScale = scale.number("MESS_QUANTITY_SCALE", limits::AntennaScalePercent) / 100;
     Words distances("lod", query.single("lod"));
     distances.expect(2, "SYMBOLIC REALISTIC");
-    design.symbolicDistanceM = distances.number("symbolic distance", limits::DistanceM);
-    design.realisticDistanceM = distances.number("realistic distance", limits::DistanceM);
+    design.symbolicDistanceM = distances.number("MESS_QUANTITY_SYMBOLIC", limits::DistanceM);
+    design.realisticDistanceM = distances.number("MESS_QUANTITY_REALISTIC", limits::DistanceM);
     return design;
 }
 
@@ -60,11 +60,11 @@ PylonObject readPylon(const std::string &item, std::string_view text, const Pylo
     PylonObject pylon{{}, common};
     pylon.foot = readPlace(words);
     PylonDesign &design = pylon.design;
-    design.heightM = words.number("height", limits::MastHeightM);
-    design.widthM = words.number("width", limits::PylonWidthM);
-    design.sectorRadiusM = words.number("sector radius", limits::SectorSizeM);
-    design.sectorHeightM = words.number("sector height", limits::SectorSizeM);
-    design.sectorSpacingM = words.number("sector spacing", limits::SectorSpacingM);
+    design.heightM = words.number("MESS_QUANTITY_HEIGHT", limits::MastHeightM);
+    design.widthM = words.number("MESS_QUANTITY_WIDTH", limits::PylonWidthM);
+    design.sectorRadiusM = words.number("MESS_QUANTITY_SECTOR_RADIUS", limits::SectorSizeM);
+    design.sectorHeightM = words.number("MESS_QUANTITY_SECTOR_HEIGHT", limits::SectorSizeM);
+    design.sectorSpacingM = words.number("MESS_QUANTITY_SECTOR_SPACING", limits::SectorSpacingM);
     return pylon;
 }
 
@@ -73,8 +73,9 @@ Transmitter readTransmitter(const std::string &item, std::string_view text)
     Words words(item, text);
     words.expect(6, "HEIGHT AZIMUTH TILT BEAMWIDTH ANTENNALENGTH rrggbbaa");
     Transmitter transmitter = readDirection(words);
-    transmitter.beamWidthDeg = words.number("beam width", limits::BeamWidthDeg);
-    transmitter.antennaLengthM = words.number("antenna length", limits::AntennaLengthM);
+    transmitter.beamWidthDeg = words.number("MESS_QUANTITY_BEAM_WIDTH", limits::BeamWidthDeg);
+    transmitter.antennaLengthM =
+        words.number("MESS_QUANTITY_ANTENNA_LENGTH", limits::AntennaLengthM);
     transmitter.color = words.color();
     return transmitter;
 }
@@ -85,7 +86,7 @@ Transmitter readDish(const std::string &item, std::string_view text)
     words.expect(5, "HEIGHT AZIMUTH TILT DIAMETER rrggbbaa");
     Transmitter dish = readDirection(words);
     dish.kind = AntennaKind::Dish;
-    dish.antennaLengthM = words.number("diameter", limits::AntennaLengthM);
+    dish.antennaLengthM = words.number("MESS_QUANTITY_DIAMETER", limits::AntennaLengthM);
     dish.color = words.color();
     return dish;
 }
@@ -93,8 +94,8 @@ Transmitter readDish(const std::string &item, std::string_view text)
 void checkTransmitterCount(std::size_t count)
 {
     if (count > MaxTransmitters)
-        throw BadQuery(std::to_string(count) + " transmitters are more than " +
-                       std::to_string(MaxTransmitters));
+        throw BadQuery("MESS_QUERY_MANY_ITEMS",
+                       {std::to_string(count), "transmitter", std::to_string(MaxTransmitters)});
 }
 
 } // namespace vlt::scene

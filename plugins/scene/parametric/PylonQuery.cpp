@@ -5,16 +5,14 @@
 
 namespace vlt::scene {
 
-namespace {
-
-PylonObject readPylonQuery(std::string_view url)
+PylonObject parsePylonQuery(std::string_view url)
 {
     const ParametricQuery query(url,
                                 {"object", contract::query::DataFolder, contract::query::PylonType,
                                  "pylon", "transmitter", contract::query::TransmitterScale, "lod"});
     const std::string_view object = query.single("object");
     if (object != "pylon")
-        Words("object", object).refuse("kind", object, "is unknown");
+        Words("object", object).refuseUnknown("MESS_QUANTITY_KIND", object);
     PylonObject pylon = readPylon("pylon", query.single("pylon"), readCommonDesign(query));
     const std::vector<std::string_view> texts = query.all("transmitter");
     checkTransmitterCount(texts.size());
@@ -23,17 +21,6 @@ PylonObject readPylonQuery(std::string_view url)
         transmitters.push_back(
             readTransmitter("transmitter " + std::to_string(transmitters.size() + 1), text));
     return pylon;
-}
-
-} // namespace
-
-PylonOrFault parsePylonQuery(std::string_view url)
-{
-    try {
-        return readPylonQuery(url);
-    } catch (const BadQuery &fault) {
-        return std::string(fault.what());
-    }
 }
 
 } // namespace vlt::scene

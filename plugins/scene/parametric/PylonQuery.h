@@ -2,14 +2,9 @@
 
 #include "plugins/scene/parametric/PylonObject.h"
 
-#include <string>
 #include <string_view>
-#include <variant>
 
 namespace vlt::scene {
-
-/// A pylon, or a text that names the item that cannot be used and its value.
-using PylonOrFault = std::variant<PylonObject, std::string>;
 
 /// Reads the query of one pylon:
 ///
@@ -20,6 +15,8 @@ using PylonOrFault = std::variant<PylonObject, std::string>;
 ///
 /// The items may stand in any order; metres, degrees, per cent. A beam width or antenna length of 0
 /// stands for the usual one. The data folder is accepted and not needed.
-PylonOrFault parsePylonQuery(std::string_view url);
+///
+/// @throws BadQuery  naming the item that cannot be used and its value
+PylonObject parsePylonQuery(std::string_view url);
 
 } // namespace vlt::scene

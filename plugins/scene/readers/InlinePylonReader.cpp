@@ -1,4 +1,5 @@
 #include "plugins/scene/link/LinkScene.h"
+#include "plugins/scene/parametric/BadQuery.h"
 #include "plugins/scene/parametric/LinkQuery.h"
 #include "plugins/scene/parametric/ParametricQuery.h"
 #include "plugins/scene/parametric/PylonQuery.h"
@@ -30,21 +31,13 @@ public:
     {
         if (!acceptsExtension(osgDB::getLowerCaseFileExtension(name)))
             return ReadResult::FILE_NOT_HANDLED;
-        if (asksFor(name, "link"))
-            return readLinks(name);
-        const PylonOrFault pylon = parsePylonQuery(name);
-        if (const auto *fault = std::get_if<std::string>(&pylon))
-            return ReadResult(*fault);
-        return buildPylon(std::get<PylonObject>(pylon)).get();
-    }
-
-private:
-    static ReadResult readLinks(const std::string &name)
-    {
-        const LinkSceneOrFault scene = parseLinkQuery(name);
-        if (const auto *fault = std::get_if<std::string>(&scene))
-            return ReadResult(*fault);
-        return buildLinkScene(std::get<LinkSceneQuery>(scene)).get();
+        try {
+            if (asksFor(name, "link"))
+                return buildLinkScene(parseLinkQuery(name)).get();
+            return buildPylon(parsePylonQuery(name)).get();
+        } catch (const BadQuery &fault) {
+            return ReadResult(fault.what());
+        }
     }
 };
 

@@ -95,6 +95,10 @@
         <source>the table driver %1 was not found; GDAL_DRIVER_PATH must name its folder</source>
         <translation>the table driver %1 was not found; GDAL_DRIVER_PATH must name its folder</translation>
     </message>
+    <message id="MESS_SCENE_NO_OPTION">
+        <source>the option %1 is missing in the layer's source</source>
+        <translation>the option %1 is missing in the layer's source</translation>
+    </message>
     <message id="MESS_SCENE_NO_END_LAYER">
         <source>the table "%1" has no layer of link ends</source>
         <translation>the table "%1" has no layer of link ends</translation>
@@ -322,6 +326,166 @@
     <message id="MESS_SCENE_NO_FORMAT">
         <source>`%1' not recognized as a supported file format.</source>
         <translation>`%1' not recognized as a supported file format.</translation>
+    </message>
+    <message id="MESS_QUERY_OTHER_FORM">
+        <source>"%1" is not a query "inline://parametric/query?..."</source>
+        <translation>"%1" is not a query "inline://parametric/query?..."</translation>
+    </message>
+    <message id="MESS_QUERY_UNKNOWN_ITEM">
+        <source>the item "%1" is unknown</source>
+        <translation>the item "%1" is unknown</translation>
+    </message>
+    <message id="MESS_QUERY_NO_ITEM">
+        <source>the item %1 is missing</source>
+        <translation>the item %1 is missing</translation>
+    </message>
+    <message id="MESS_QUERY_TWO_ITEMS">
+        <source>the item %1 is given more than once: "%2", "%3"</source>
+        <translation>the item %1 is given more than once: "%2", "%3"</translation>
+    </message>
+    <message id="MESS_QUERY_MANY_ITEMS">
+        <source>there are %1 items "%2": no more than %3 are allowed</source>
+        <translation>there are %1 items "%2": no more than %3 are allowed</translation>
+    </message>
+    <message id="MESS_QUERY_BEFORE_PYLON">
+        <source>%1 stands before the first pylon</source>
+        <translation>%1 stands before the first pylon</translation>
+    </message>
+    <message id="MESS_QUERY_SAME_POSITION">
+        <source>%1: both ends have the same position</source>
+        <translation>%1: both ends have the same position</translation>
+    </message>
+    <message id="MESS_QUERY_OTHER_WORDS">
+        <source>%1: "%2" is not "%3"</source>
+        <translation>%1: "%2" is not "%3"</translation>
+    </message>
+    <message id="MESS_QUERY_NO_NUMBER">
+        <source>%1: the %2 "%3" is not a number</source>
+        <translation>%1: the %2 "%3" is not a number</translation>
+    </message>
+    <message id="MESS_QUERY_NOT_WHOLE">
+        <source>%1: the %2 "%3" is not a whole number</source>
+        <translation>%1: the %2 "%3" is not a whole number</translation>
+    </message>
+    <message id="MESS_QUERY_OUT_OF_RANGE">
+        <source>%1: the %2 "%3" is not within %4 to %5</source>
+        <translation>%1: the %2 "%3" is not within %4 to %5</translation>
+    </message>
+    <message id="MESS_QUERY_LOW_FREQUENCY">
+        <source>%1: the frequency "%2" is neither 0 nor 1 MHz or more</source>
+        <translation>%1: the frequency "%2" is neither 0 nor 1 MHz or more</translation>
+    </message>
+    <message id="MESS_QUERY_NO_COLOR">
+        <source>%1: the color "%2" is not rrggbbaa</source>
+        <translation>%1: the color "%2" is not rrggbbaa</translation>
+    </message>
+    <message id="MESS_QUERY_UNKNOWN_WORD">
+        <source>%1: the %2 "%3" is unknown</source>
+        <translation>%1: the %2 "%3" is unknown</translation>
+    </message>
+    <message id="MESS_QUANTITY_X">
+        <source>x</source>
+        <translation>x</translation>
+    </message>
+    <message id="MESS_QUANTITY_Y">
+        <source>y</source>
+        <translation>y</translation>
+    </message>
+    <message id="MESS_QUANTITY_Z">
+        <source>z</source>
+        <translation>z</translation>
+    </message>
+    <message id="MESS_QUANTITY_HEIGHT">
+        <source>height</source>
+        <translation>height</translation>
+    </message>
+    <message id="MESS_QUANTITY_WIDTH">
+        <source>width</source>
+        <translation>width</translation>
+    </message>
+    <message id="MESS_QUANTITY_RADIUS">
+        <source>radius</source>
+        <translation>radius</translation>
+    </message>
+    <message id="MESS_QUANTITY_SPACING">
+        <source>spacing</source>
+        <translation>spacing</translation>
+    </message>
+    <message id="MESS_QUANTITY_SECTOR_RADIUS">
+        <source>sector radius</source>
+        <translation>sector radius</translation>
+    </message>
+    <message id="MESS_QUANTITY_SECTOR_HEIGHT">
+        <source>sector height</source>
+        <translation>sector height</translation>
+    </message>
+    <message id="MESS_QUANTITY_SECTOR_SPACING">
+        <source>sector spacing</source>
+        <translation>sector spacing</translation>
+    </message>
+    <message id="MESS_QUANTITY_AZIMUTH">
+        <source>azimuth</source>
+        <translation>azimuth</translation>
+    </message>
+    <message id="MESS_QUANTITY_TILT">
+        <source>tilt</source>
+        <translation>tilt</translation>
+    </message>
+    <message id="MESS_QUANTITY_BEAM_WIDTH">
+        <source>beam width</source>
+        <translation>beam width</translation>
+    </message>
+    <message id="MESS_QUANTITY_ANTENNA_LENGTH">
+        <source>antenna length</source>
+        <translation>antenna length</translation>
+    </message>
+    <message id="MESS_QUANTITY_DIAMETER">
+        <source>diameter</source>
+        <translation>diameter</translation>
+    </message>
+    <message id="MESS_QUANTITY_FREQUENCY">
+        <source>frequency</source>
+        <translation>frequency</translation>
+    </message>
+    <message id="MESS_QUANTITY_SCALE">
+        <source>scale</source>
+        <translation>scale</translation>
+    </message>
+    <message id="MESS_QUANTITY_SYMBOLIC">
+        <source>symbolic distance</source>
+        <translation>symbolic distance</translation>
+    </message>
+    <message id="MESS_QUANTITY_REALISTIC">
+        <source>realistic distance</source>
+        <translation>realistic distance</translation>
+    </message>
+    <message id="MESS_QUANTITY_ZONE">
+        <source>zone</source>
+        <translation>zone</translation>
+    </message>
+    <message id="MESS_QUANTITY_SHARE">
+        <source>share</source>
+        <translation>share</translation>
+    </message>
+    <message id="MESS_QUANTITY_K_FACTOR">
+        <source>factor</source>
+        <translation>factor</translation>
+    </message>
+    <message id="MESS_QUANTITY_KIND">
+        <source>kind</source>
+        <translation>kind</translation>
+    </message>
+    <message id="MESS_QUANTITY_TYPE">
+        <source>type</source>
+        <translation>type</translation>
+    </message>
+    <message id="MESS_QUANTITY_STYLE">
+        <source>style</source>
+        <translation>style</translation>
+    </message>
+    <message id="MESS_QUANTITY_WORD">
+        <source>word</source>
+        <translation>word</translation>
     </message>
 </context>
 </TS>

@@ -95,6 +95,10 @@
         <source>the table driver %1 was not found; GDAL_DRIVER_PATH must name its folder</source>
         <translation>le pilote de tableaux %1 est introuvable&#xa0;; GDAL_DRIVER_PATH doit indiquer son dossier</translation>
     </message>
+    <message id="MESS_SCENE_NO_OPTION">
+        <source>the option %1 is missing in the layer's source</source>
+        <translation>l'option %1 manque dans la source de la couche</translation>
+    </message>
     <message id="MESS_SCENE_NO_END_LAYER">
         <source>the table "%1" has no layer of link ends</source>
         <translation>le tableau «&#xa0;%1&#xa0;» n'a pas de couche des extrémités de liaisons</translation>
@@ -322,6 +326,166 @@
     <message id="MESS_SCENE_NO_FORMAT">
         <source>`%1' not recognized as a supported file format.</source>
         <translation>le format de «&#xa0;%1&#xa0;» n'est pas connu</translation>
+    </message>
+    <message id="MESS_QUERY_OTHER_FORM">
+        <source>"%1" is not a query "inline://parametric/query?..."</source>
+        <translation>«&#xa0;%1&#xa0;» n'est pas une requête «&#xa0;inline://parametric/query?...&#xa0;»</translation>
+    </message>
+    <message id="MESS_QUERY_UNKNOWN_ITEM">
+        <source>the item "%1" is unknown</source>
+        <translation>l'élément «&#xa0;%1&#xa0;» est inconnu</translation>
+    </message>
+    <message id="MESS_QUERY_NO_ITEM">
+        <source>the item %1 is missing</source>
+        <translation>l'élément %1 manque</translation>
+    </message>
+    <message id="MESS_QUERY_TWO_ITEMS">
+        <source>the item %1 is given more than once: "%2", "%3"</source>
+        <translation>l'élément %1 est indiqué plus d'une fois&#xa0;: «&#xa0;%2&#xa0;», «&#xa0;%3&#xa0;»</translation>
+    </message>
+    <message id="MESS_QUERY_MANY_ITEMS">
+        <source>there are %1 items "%2": no more than %3 are allowed</source>
+        <translation>il y a %1 éléments «&#xa0;%2&#xa0;»&#xa0;: %3 au plus sont admis</translation>
+    </message>
+    <message id="MESS_QUERY_BEFORE_PYLON">
+        <source>%1 stands before the first pylon</source>
+        <translation>%1 précède le premier pylône</translation>
+    </message>
+    <message id="MESS_QUERY_SAME_POSITION">
+        <source>%1: both ends have the same position</source>
+        <translation>%1&#xa0;: les deux extrémités ont la même position</translation>
+    </message>
+    <message id="MESS_QUERY_OTHER_WORDS">
+        <source>%1: "%2" is not "%3"</source>
+        <translation>%1&#xa0;: «&#xa0;%2&#xa0;» n'a pas la forme «&#xa0;%3&#xa0;»</translation>
+    </message>
+    <message id="MESS_QUERY_NO_NUMBER">
+        <source>%1: the %2 "%3" is not a number</source>
+        <translation>%1&#xa0;: la valeur «&#xa0;%3&#xa0;» n'est pas un nombre (%2)</translation>
+    </message>
+    <message id="MESS_QUERY_NOT_WHOLE">
+        <source>%1: the %2 "%3" is not a whole number</source>
+        <translation>%1&#xa0;: la valeur «&#xa0;%3&#xa0;» n'est pas un nombre entier (%2)</translation>
+    </message>
+    <message id="MESS_QUERY_OUT_OF_RANGE">
+        <source>%1: the %2 "%3" is not within %4 to %5</source>
+        <translation>%1&#xa0;: la valeur «&#xa0;%3&#xa0;» n'est pas comprise entre %4 et %5 (%2)</translation>
+    </message>
+    <message id="MESS_QUERY_LOW_FREQUENCY">
+        <source>%1: the frequency "%2" is neither 0 nor 1 MHz or more</source>
+        <translation>%1&#xa0;: la fréquence «&#xa0;%2&#xa0;» n'est ni 0, ni supérieure ou égale à 1 MHz</translation>
+    </message>
+    <message id="MESS_QUERY_NO_COLOR">
+        <source>%1: the color "%2" is not rrggbbaa</source>
+        <translation>%1&#xa0;: la couleur «&#xa0;%2&#xa0;» n'a pas la forme rrggbbaa</translation>
+    </message>
+    <message id="MESS_QUERY_UNKNOWN_WORD">
+        <source>%1: the %2 "%3" is unknown</source>
+        <translation>%1&#xa0;: la valeur «&#xa0;%3&#xa0;» est inconnue (%2)</translation>
+    </message>
+    <message id="MESS_QUANTITY_X">
+        <source>x</source>
+        <translation>x</translation>
+    </message>
+    <message id="MESS_QUANTITY_Y">
+        <source>y</source>
+        <translation>y</translation>
+    </message>
+    <message id="MESS_QUANTITY_Z">
+        <source>z</source>
+        <translation>z</translation>
+    </message>
+    <message id="MESS_QUANTITY_HEIGHT">
+        <source>height</source>
+        <translation>hauteur</translation>
+    </message>
+    <message id="MESS_QUANTITY_WIDTH">
+        <source>width</source>
+        <translation>largeur</translation>
+    </message>
+    <message id="MESS_QUANTITY_RADIUS">
+        <source>radius</source>
+        <translation>rayon</translation>
+    </message>
+    <message id="MESS_QUANTITY_SPACING">
+        <source>spacing</source>
+        <translation>espacement</translation>
+    </message>
+    <message id="MESS_QUANTITY_SECTOR_RADIUS">
+        <source>sector radius</source>
+        <translation>rayon des secteurs</translation>
+    </message>
+    <message id="MESS_QUANTITY_SECTOR_HEIGHT">
+        <source>sector height</source>
+        <translation>hauteur des secteurs</translation>
+    </message>
+    <message id="MESS_QUANTITY_SECTOR_SPACING">
+        <source>sector spacing</source>
+        <translation>espacement des secteurs</translation>
+    </message>
+    <message id="MESS_QUANTITY_AZIMUTH">
+        <source>azimuth</source>
+        <translation>azimut</translation>
+    </message>
+    <message id="MESS_QUANTITY_TILT">
+        <source>tilt</source>
+        <translation>inclinaison</translation>
+    </message>
+    <message id="MESS_QUANTITY_BEAM_WIDTH">
+        <source>beam width</source>
+        <translation>ouverture du faisceau</translation>
+    </message>
+    <message id="MESS_QUANTITY_ANTENNA_LENGTH">
+        <source>antenna length</source>
+        <translation>longueur de l'antenne</translation>
+    </message>
+    <message id="MESS_QUANTITY_DIAMETER">
+        <source>diameter</source>
+        <translation>diamètre</translation>
+    </message>
+    <message id="MESS_QUANTITY_FREQUENCY">
+        <source>frequency</source>
+        <translation>fréquence</translation>
+    </message>
+    <message id="MESS_QUANTITY_SCALE">
+        <source>scale</source>
+        <translation>échelle</translation>
+    </message>
+    <message id="MESS_QUANTITY_SYMBOLIC">
+        <source>symbolic distance</source>
+        <translation>distance symbolique</translation>
+    </message>
+    <message id="MESS_QUANTITY_REALISTIC">
+        <source>realistic distance</source>
+        <translation>distance réaliste</translation>
+    </message>
+    <message id="MESS_QUANTITY_ZONE">
+        <source>zone</source>
+        <translation>zone</translation>
+    </message>
+    <message id="MESS_QUANTITY_SHARE">
+        <source>share</source>
+        <translation>part</translation>
+    </message>
+    <message id="MESS_QUANTITY_K_FACTOR">
+        <source>factor</source>
+        <translation>facteur</translation>
+    </message>
+    <message id="MESS_QUANTITY_KIND">
+        <source>kind</source>
+        <translation>type d'objet</translation>
+    </message>
+    <message id="MESS_QUANTITY_TYPE">
+        <source>type</source>
+        <translation>type</translation>
+    </message>
+    <message id="MESS_QUANTITY_STYLE">
+        <source>style</source>
+        <translation>style</translation>
+    </message>
+    <message id="MESS_QUANTITY_WORD">
+        <source>word</source>
+        <translation>mot</translation>
     </message>
 </context>
 </TS>
