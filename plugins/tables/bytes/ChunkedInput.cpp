@@ -28,7 +28,7 @@ constexpr std::size_t Headroom = std::size_t{32} << 10;
 constexpr std::size_t FirstChunkSize = std::size_t{64} << 10;
 constexpr std::size_t BuffersAhead = 3;
 constexpr int SpinTurns = 2000;
-constexpr std::size_t LongestRow = std::size_t{256} << 20;
+constexpr std::size_t MaxRowSize = std::size_t{256} << 20;
 
 void relax()
 {
@@ -234,7 +234,7 @@ bool ChunkedInput::more(const char *keepFrom)
 void ChunkedInput::takeOver(std::unique_ptr<Buffer> next, const char *keepFrom)
 {
     const std::size_t tail = static_cast<std::size_t>(m_end - keepFrom);
-    if (tail > LongestRow)
+    if (tail > MaxRowSize)
         throw RefusedFile(Refusal::Malformed, "MESS_TAB_LONG_ROW");
     if (tail <= Headroom) {
         char *start = next->data() - tail;

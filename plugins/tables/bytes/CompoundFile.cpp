@@ -14,10 +14,10 @@ constexpr std::size_t EntrySize = 128;
 constexpr uint32_t LastRegularSector = 0xFFFFFFFA;
 constexpr std::size_t HeaderTableSectors = 109;
 constexpr int MiniShift = 6;
-constexpr uint64_t LargestMiniStream = 4096; ///< the only cutoff that [MS-CFB] allows
+constexpr uint64_t MaxMiniStreamSize = 4096; ///< the only cutoff that [MS-CFB] allows
 constexpr char RootType = 5;
 constexpr char StreamType = 2;
-constexpr std::size_t MostEntries = 65536;
+constexpr std::size_t MaxEntries = 65536;
 
 [[noreturn]] void refuse()
 {
@@ -33,7 +33,7 @@ CompoundFile::CompoundFile(std::shared_ptr<const InputFile> file) : m_file(std::
     m_sectorShift = u16(header + 30);
     if (m_sectorShift != 9 && m_sectorShift != 12)
         refuse();
-    m_miniCutoff = std::min<uint64_t>(u32(header + 56), LargestMiniStream);
+    m_miniCutoff = std::min<uint64_t>(u32(header + 56), MaxMiniStreamSize);
     readAllocationTable(header);
     for (const uint32_t sector : chain(m_table, u32(header + 60))) {
         std::vector<char> bytes(std::size_t{1} << m_sectorShift);
@@ -89,7 +89,7 @@ void CompoundFile::readDirectory(uint32_t firstSector)
     std::size_t count = 0;
     for (const uint32_t sector : chain(m_table, firstSector)) {
         m_file->readExactly(sectorOffset(sector), bytes.data(), bytes.size());
-        for (std::size_t at = 0; at < bytes.size() && ++count < MostEntries; at += EntrySize) {
+        for (std::size_t at = 0; at < bytes.size() && ++count < MaxEntries; at += EntrySize) {
             const char *entry = bytes.data() + at;
             const std::size_t nameSize = std::min<std::size_t>(u16(entry + 64), 64);
             std::string name; // the names that matter are ASCII in UTF-16

@@ -15,7 +15,7 @@ namespace {
 constexpr std::size_t EdgeSize = 16; ///< room for any character
 constexpr std::size_t InputSize = std::size_t{64} << 10;
 constexpr char Replacement[] = "\xEF\xBF\xBD";
-constexpr std::size_t LongestMeaningful =
+constexpr std::size_t MaxSequenceSize =
     8; ///< bytes of the longest sequence that stands for one character
 
 class MemorySource : public ByteSource
@@ -89,7 +89,7 @@ std::size_t RecodeSource::convert(char *to, std::size_t size)
     char *out = to;
     std::size_t room = size;
     while (room == size) {
-        if (!m_inputEnded && m_inputEnd - m_inputBegin < LongestMeaningful)
+        if (!m_inputEnded && m_inputEnd - m_inputBegin < MaxSequenceSize)
             fillInput();
         if (m_inputBegin == m_inputEnd)
             break;

@@ -21,8 +21,8 @@ constexpr std::size_t End64Size = 56;
 constexpr std::size_t LocatorSize = 20;
 constexpr std::size_t MemberSize = 46;
 constexpr std::size_t LocalSize = 30;
-constexpr std::size_t LongestComment = 65535;
-constexpr uint64_t LargestDirectory = uint64_t{64} << 20;
+constexpr std::size_t MaxCommentSize = 65535;
+constexpr uint64_t MaxDirectorySize = uint64_t{64} << 20;
 constexpr uint16_t EncryptedFlag = 1;
 constexpr uint32_t Marker32 = 0xffffffff;
 constexpr uint16_t Zip64Field = 1;
@@ -45,7 +45,7 @@ ZipArchive::ZipArchive(std::shared_ptr<const InputFile> file) : m_file(std::move
 {
     const uint64_t fileSize = m_file->size();
     const std::size_t tailSize =
-        static_cast<std::size_t>(std::min<uint64_t>(fileSize, EndSize + LongestComment));
+        static_cast<std::size_t>(std::min<uint64_t>(fileSize, EndSize + MaxCommentSize));
     std::string tail(tailSize, '\0');
     m_file->readExactly(fileSize - tailSize, tail.data(), tailSize);
     for (std::size_t at = tailSize < EndSize ? 0 : tailSize - EndSize + 1; at-- > 0;) {
@@ -77,7 +77,7 @@ ZipArchive::ZipArchive(std::shared_ptr<const InputFile> file) : m_file(std::move
 
 void ZipArchive::readDirectory(uint64_t offset, uint64_t size)
 {
-    if (size > LargestDirectory)
+    if (size > MaxDirectorySize)
         refuse("MESS_TAB_DIRECTORY_DAMAGED");
     std::vector<char> bytes(static_cast<std::size_t>(size));
     m_file->readExactly(offset, bytes.data(), bytes.size());

@@ -17,17 +17,17 @@ constexpr std::string_view NoBreakSpace = "\xC2\xA0";
 
 void Row::addMissingText(int column, std::string_view textNumber)
 {
-    constexpr std::size_t LongestNumber = 20;
+    constexpr std::size_t MaxNumberSize = 20;
     faults.push_back({column, contract::formatted("MESS_TAB_MISSING_TEXT",
-                                                  {textNumber.substr(0, LongestNumber)})});
+                                                  {textNumber.substr(0, MaxNumberSize)})});
 }
 
-void Row::addMended(Cell cell)
+void Row::addRepaired(Cell cell)
 {
     m_textSize -= cell.text.size();
     // What is cut off is not looked at: a text of megabytes may stand in thousands of cells.
-    const std::string_view whole = cell.text.size() > LongestText ? trimmed(cell.text) : cell.text;
-    cell.text = firstCharacters(whole, LongestText);
+    const std::string_view whole = cell.text.size() > MaxTextSize ? trimmed(cell.text) : cell.text;
+    cell.text = firstCharacters(whole, MaxTextSize);
     const bool isTooLong = cell.text.size() < whole.size();
     if (cell.text.find('\0') != std::string_view::npos) {
         // At the ends they are padding; inside, programs that take them for the end would cut.
@@ -38,7 +38,7 @@ void Row::addMended(Cell cell)
         cell.text = keep(std::move(plain));
     }
     const std::size_t room =
-        std::clamp(LongestRowText - std::min(m_textSize, LongestRowText), ShortText, LongestText);
+        std::clamp(MaxRowTextSize - std::min(m_textSize, MaxRowTextSize), ShortText, MaxTextSize);
     const std::string_view first = firstCharacters(cell.text, room);
     if (isTooLong || first.size() < cell.text.size()) {
         const auto isStart = [](char c) { return (c & 0xC0) != 0x80; };

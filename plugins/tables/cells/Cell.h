@@ -27,9 +27,9 @@ struct Cell
 };
 
 /// Most characters of a text: what a cell of a workbook holds.
-constexpr std::size_t LongestText = 32767;
+constexpr std::size_t MaxTextSize = 32767;
 /// Most bytes of all texts of a row, short ones apart.
-constexpr std::size_t LongestRowText = std::size_t{16} << 20;
+constexpr std::size_t MaxRowTextSize = std::size_t{16} << 20;
 
 /// What a cell holds in the file and could not be read.
 struct CellFault
@@ -60,8 +60,8 @@ struct Row
     void add(const Cell &cell)
     {
         m_textSize += cell.text.size();
-        if (m_holdsZeros || cell.text.size() > LongestText || m_textSize > LongestRowText)
-            addMended(cell);
+        if (m_holdsZeros || cell.text.size() > MaxTextSize || m_textSize > MaxRowTextSize)
+            addRepaired(cell);
         else
             cells.push_back(cell);
     }
@@ -79,7 +79,7 @@ struct Row
     }
 
 private:
-    void addMended(Cell cell);
+    void addRepaired(Cell cell);
 
     std::deque<std::string> m_kept;
     std::size_t m_textSize = 0; ///< of the cells so far
@@ -107,8 +107,8 @@ bool isOverlong(const Cell &cell);
 std::string cellText(const Cell &cell);
 
 /// Most columns that a table may have: the width of an XLSX sheet.
-constexpr int MostColumns = 16384;
+constexpr int MaxColumns = 16384;
 /// Most columns of a text table, which has no such width.
-constexpr int MostTextColumns = 65536;
+constexpr int MaxTextColumns = 65536;
 
 } // namespace vlt::driver

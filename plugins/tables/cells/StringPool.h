@@ -13,12 +13,12 @@ namespace vlt::driver {
 class StringPool
 {
 public:
-    std::size_t size() const { return m_places.size(); }
+    std::size_t size() const { return m_locations.size(); }
 
     std::string_view operator[](std::size_t index) const
     {
-        const Place &place = m_places[index];
-        return {m_blocks[place.block].get() + place.offset, place.size};
+        const Location &location = m_locations[index];
+        return {m_blocks[location.block].get() + location.offset, location.size};
     }
 
     void add(std::string_view text)
@@ -30,8 +30,8 @@ public:
         }
         if (!text.empty())
             std::memcpy(m_blocks.back().get() + m_used, text.data(), text.size());
-        m_places.push_back({static_cast<uint32_t>(m_blocks.size() - 1),
-                            static_cast<uint32_t>(m_used), static_cast<uint32_t>(text.size())});
+        m_locations.push_back({static_cast<uint32_t>(m_blocks.size() - 1),
+                               static_cast<uint32_t>(m_used), static_cast<uint32_t>(text.size())});
         m_used += text.size();
     }
 
@@ -40,7 +40,7 @@ public:
 private:
     static constexpr std::size_t BlockSize = std::size_t{256} << 10;
 
-    struct Place
+    struct Location
     {
         uint32_t block;
         uint32_t offset;
@@ -48,7 +48,7 @@ private:
     };
 
     std::vector<std::unique_ptr<char[]>> m_blocks;
-    std::vector<Place> m_places;
+    std::vector<Location> m_locations;
     std::size_t m_used = 0;
     std::size_t m_capacity = 0;
 };

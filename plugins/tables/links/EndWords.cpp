@@ -77,7 +77,7 @@ EndWords readEndWords(const std::string &name, EndStyle style)
         return result;
     result.end = result.isNumbered ? numberedEnd(words[at], style) : namedEnd(words[at]);
     result.endWord = words[at];
-    result.endPlace = at;
+    result.endIndex = at;
     words.erase(words.begin() + static_cast<std::ptrdiff_t>(at));
     const auto isHelper = [](const std::string &word) {
         return word == "site" || isIn(WeakWords, word);

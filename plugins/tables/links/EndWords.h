@@ -26,7 +26,7 @@ struct EndWords
     LinkEndId end = LinkEndId::None;
     bool isNumbered = false;        ///< a digit told the end
     std::string endWord;            ///< what told it
-    std::size_t endPlace = 0;       ///< its place among the words, from 0
+    std::size_t endIndex = 0;       ///< its place among the words, from 0
     std::vector<std::string> words; ///< the others; "site", "end" only where they stand alone
 };
 

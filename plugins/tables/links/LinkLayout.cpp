@@ -57,7 +57,7 @@ Fit fitOfIdentifier(const EndWords &name)
     // "End" or "Start" alone may also be a date
     if (name.words.empty())
         return name.isNumbered || isIn({"start", "end"}, name.endWord) ? 0 : 1;
-    const bool antenna = name.words == Words{"antenna"} && name.endPlace == 1 && !name.isNumbered;
+    const bool antenna = name.words == Words{"antenna"} && name.endIndex == 1 && !name.isNumbered;
     const bool accepted = std::find(Accepted.begin(), Accepted.end(), name.words) != Accepted.end();
     return accepted || antenna ? 1 : 0;
 }

@@ -10,7 +10,7 @@ using contract::formatted;
 using contract::TableTextId;
 
 /// The row that is read, and where its problems go.
-struct LinkValueReader::Place
+struct LinkValueReader::RowContext
 {
     int64_t row;
     const std::vector<const Cell *> &cells;
@@ -38,50 +38,51 @@ const std::string &LinkValueReader::nameOf(int field) const
     return m_table->fields[static_cast<std::size_t>(field)].name;
 }
 
-std::optional<double> LinkValueReader::heightM(const Place &place,
+std::optional<double> LinkValueReader::heightM(const RowContext &context,
                                                const QuantityField &height) const
 {
     if (!height.found())
         return std::nullopt;
-    const std::string text = place.text(height.field);
+    const std::string text = context.text(height.field);
     const auto metres = readLengthM(text, height.unit.value_or(1));
     if (text.empty())
-        place.warn(nameOf(height.field), formatted("MESS_TAB_NO_HEIGHT"));
+        context.warn(nameOf(height.field), formatted("MESS_TAB_NO_HEIGHT"));
     else if (!metres)
-        place.warn(nameOf(height.field),
-                   formatted("MESS_TAB_HEIGHT_UNREADABLE", {quotation(text)}));
+        context.warn(nameOf(height.field),
+                     formatted("MESS_TAB_HEIGHT_UNREADABLE", {quotation(text)}));
     return metres;
 }
 
-std::optional<double> LinkValueReader::degrees(const Place &place, int field, TableTextId why) const
+std::optional<double> LinkValueReader::degrees(const RowContext &context, int field,
+                                               TableTextId why) const
 {
-    const std::string text = place.text(field);
+    const std::string text = context.text(field);
     const auto angle = readDegrees(text);
     if (!angle && !text.empty())
-        place.warn(nameOf(field), formatted(why, {quotation(text)}));
+        context.warn(nameOf(field), formatted(why, {quotation(text)}));
     return angle;
 }
 
 /// A frequency of one field; one that is there and no use gets a problem.
-std::optional<double> LinkValueReader::frequencyMHz(const Place &place,
+std::optional<double> LinkValueReader::frequencyMHz(const RowContext &context,
                                                     const QuantityField &frequency,
                                                     bool &isUnreadable) const
 {
-    const std::string text = place.text(frequency.field);
+    const std::string text = context.text(frequency.field);
     if (text.empty())
         return std::nullopt;
     const auto megahertz = readFrequencyMHz(text, frequency.unit);
     if (megahertz && *megahertz > 0)
         return megahertz;
     isUnreadable = true;
-    place.warn(nameOf(frequency.field),
-               megahertz ? formatted("MESS_TAB_FREQUENCY_NOT_POSITIVE", {quotation(text)})
-                         : formatted("MESS_TAB_FREQUENCY_UNREADABLE", {quotation(text)}));
+    context.warn(nameOf(frequency.field),
+                 megahertz ? formatted("MESS_TAB_FREQUENCY_NOT_POSITIVE", {quotation(text)})
+                           : formatted("MESS_TAB_FREQUENCY_UNREADABLE", {quotation(text)}));
     return std::nullopt;
 }
 
 /// An end without a frequency has that of the other one, and both that of the band.
-void LinkValueReader::readFrequencies(const Place &place, LinkValues &values) const
+void LinkValueReader::readFrequencies(const RowContext &context, LinkValues &values) const
 {
     bool isUnreadable = false;
     int column = m_layout->band.field;
@@ -93,36 +94,36 @@ void LinkValueReader::readFrequencies(const Place &place, LinkValues &values) co
         return;
     for (std::size_t end = 0; end < values.ends.size(); ++end)
         values.ends[end].frequencyMHz =
-            frequencyMHz(place, m_layout->ends[end].frequency, isUnreadable);
+            frequencyMHz(context, m_layout->ends[end].frequency, isUnreadable);
     std::optional<double> &a = values.ends[0].frequencyMHz;
     std::optional<double> &b = values.ends[1].frequencyMHz;
     if (!a && !b)
-        a = frequencyMHz(place, m_layout->band, isUnreadable);
+        a = frequencyMHz(context, m_layout->band, isUnreadable);
     if (!a)
         a = b;
     if (!b)
         b = a;
     if (!a && !isUnreadable)
-        place.warn(nameOf(column), formatted("MESS_TAB_NO_FREQUENCY"));
+        context.warn(nameOf(column), formatted("MESS_TAB_NO_FREQUENCY"));
 }
 
 LinkValues LinkValueReader::read(int64_t row, const std::vector<const Cell *> &cells,
                                  std::vector<RowProblem> &problems) const
 {
-    const Place place = {row, cells, problems};
+    const RowContext context = {row, cells, problems};
     LinkValues values;
     values.name = fieldText(cells, m_layout->name);
     for (std::size_t end = 0; end < values.ends.size(); ++end) {
         const LinkEndFields &fields = m_layout->ends[end];
         LinkEndValues &of = values.ends[end];
         of.identifier = fieldText(cells, fields.identifier);
-        of.heightM = heightM(place, fields.height);
-        of.azimuthDeg = degrees(place, fields.azimuth, "MESS_TAB_AZIMUTH_UNREADABLE");
-        of.tiltDeg = degrees(place, fields.tilt, "MESS_TAB_TILT_UNREADABLE");
+        of.heightM = heightM(context, fields.height);
+        of.azimuthDeg = degrees(context, fields.azimuth, "MESS_TAB_AZIMUTH_UNREADABLE");
+        of.tiltDeg = degrees(context, fields.tilt, "MESS_TAB_TILT_UNREADABLE");
     }
-    readFrequencies(place, values);
+    readFrequencies(context, values);
     // a cell may name a unit where the header does not: a number of no unit is not compared
-    if (const std::string text = place.text(m_layout->length.field); !text.empty())
+    if (const std::string text = context.text(m_layout->length.field); !text.empty())
         values.lengthM = readLengthM(text, m_layout->length.unit.value_or(0));
     if (values.lengthM && *values.lengthM <= 0)
         values.lengthM.reset();

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "plugins/tables/links/LinkLayout.h"
-#include "plugins/tables/sites/PointPlacer.h"
+#include "plugins/tables/sites/PositionReader.h"
 
 #include <array>
 #include <optional>
@@ -39,12 +39,13 @@ public:
     std::vector<RowProblem> tableProblems() const;
 
 private:
-    struct Place;
-    std::optional<double> frequencyMHz(const Place &place, const QuantityField &frequency,
+    struct RowContext;
+    std::optional<double> frequencyMHz(const RowContext &context, const QuantityField &frequency,
                                        bool &isUnreadable) const;
-    void readFrequencies(const Place &place, LinkValues &values) const;
-    std::optional<double> heightM(const Place &place, const QuantityField &height) const;
-    std::optional<double> degrees(const Place &place, int field, contract::TableTextId why) const;
+    void readFrequencies(const RowContext &context, LinkValues &values) const;
+    std::optional<double> heightM(const RowContext &context, const QuantityField &height) const;
+    std::optional<double> degrees(const RowContext &context, int field,
+                                  contract::TableTextId why) const;
     const std::string &nameOf(int field) const;
 
     const TableProfile *m_table;

@@ -14,8 +14,8 @@ namespace {
 
 constexpr double MetresPerFoot = 0.3048;
 constexpr double MetresPerMile = 1609.344;
-constexpr double MostGHz = 200;
-constexpr double FewestHz = 1e6;
+constexpr double MaxGHz = 200;
+constexpr double MinHz = 1e6;
 
 struct Unit
 {
@@ -173,9 +173,9 @@ std::optional<double> readFrequencyMHz(std::string_view text, std::optional<doub
     const auto unit = own ? own : unitMHz;
     if (unit)
         return leading->number * *unit;
-    return leading->number < MostGHz     ? leading->number * 1e3
-           : leading->number >= FewestHz ? leading->number * 1e-6
-                                         : leading->number;
+    return leading->number < MaxGHz   ? leading->number * 1e3
+           : leading->number >= MinHz ? leading->number * 1e-6
+                                      : leading->number;
 }
 
 } // namespace vlt::driver

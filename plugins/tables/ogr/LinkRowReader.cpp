@@ -40,7 +40,8 @@ OffsetScale scaleOf(const OGRSpatialReference *srs, CoordinateUnit unit)
 LinkRowReader::LinkRowReader(const TableSource &source)
     : m_facts(&source.facts())
     , m_systems(source.systems)
-    , m_placer(m_facts->table, m_facts->links(), scaleOf(m_systems->file(), m_facts->links().unit))
+    , m_positions(m_facts->table, m_facts->links(),
+                  scaleOf(m_systems->file(), m_facts->links().unit))
     , m_values(m_facts->table, m_facts->links())
     , m_path(nullptr, m_systems->file())
 {}
@@ -49,7 +50,7 @@ LinkRow LinkRowReader::read(int64_t row, const std::vector<const Cell *> &cells,
                             std::vector<RowProblem> &problems) const
 {
     LinkRow link;
-    link.inFile = m_placer.place(row, cells, problems);
+    link.inFile = m_positions.read(row, cells, problems);
     link.placed = link.inFile;
     for (std::size_t end = 0; end < link.placed.size(); ++end) {
         const std::size_t before = problems.size();

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "linkpath/PathProfiler.h"
-#include "plugins/tables/links/LinkPlacer.h"
+#include "plugins/tables/links/LinkPositionReader.h"
 #include "plugins/tables/links/LinkValues.h"
 #include "plugins/tables/ogr/TableLayer.h"
 
@@ -29,7 +29,7 @@ private:
 
     const TableFacts *m_facts;
     std::shared_ptr<const TableSystems> m_systems;
-    LinkPlacer m_placer;
+    LinkPositionReader m_positions;
     LinkValueReader m_values;
     /// Works in the file's system, so that no transformation reduces the accuracy.
     linkpath::PathProfiler m_path;

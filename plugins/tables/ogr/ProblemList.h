@@ -11,12 +11,12 @@ namespace vlt::driver {
 class ProblemList
 {
 public:
-    static constexpr std::size_t MostKept = 1000;
+    static constexpr std::size_t MaxKept = 1000;
 
     void add(RowProblem problem)
     {
         ++m_count;
-        if (m_kept.size() < MostKept)
+        if (m_kept.size() < MaxKept)
             m_kept.push_back(std::move(problem));
     }
     void add(std::vector<RowProblem> &&problems)

@@ -10,7 +10,7 @@ namespace {
 
 using contract::formatted;
 
-constexpr std::size_t MostWarnings = 50;
+constexpr std::size_t MaxWarnings = 50;
 
 /// The text of a problem as it is shown: row and column first.
 std::string describe(const RowProblem &problem)
@@ -33,7 +33,7 @@ void RowWarnings::warn(const std::string &table, const std::vector<RowProblem> &
     for (const RowProblem &problem : problems) {
         if (!isNew || m_areOmitted)
             break;
-        m_areOmitted = ++m_count > MostWarnings;
+        m_areOmitted = ++m_count > MaxWarnings;
         if (!m_areOmitted) {
             CPLError(CE_Warning, CPLE_AppDefined, "%s, %s", table.c_str(),
                      describe(problem).c_str());

@@ -18,8 +18,8 @@ double halfTurn(const OGRSpatialReference *srs)
 
 SiteLayer::SiteLayer(const TableSource &source)
     : TableLayer(source, source.facts().table.sheet, 1)
-    , m_placer(source.facts().table, source.facts().sites().point, source.facts().sites().unit,
-               halfTurn(source.systems->file()))
+    , m_positions(source.facts().table, source.facts().sites().point, source.facts().sites().unit,
+                  halfTurn(source.systems->file()))
 {
     defineColumns();
     setGeometryType(facts().sites().point.found() ? wkbPoint : wkbNone);
@@ -28,7 +28,7 @@ SiteLayer::SiteLayer(const TableSource &source)
 RowMeaning SiteLayer::readRow(int64_t row, const FieldCells &cells,
                               std::vector<RowProblem> &problems) const
 {
-    Position position = m_placer.place(row, cells.cells(), problems);
+    Position position = m_positions.read(row, cells.cells(), problems);
     systems().transform(row, position, problems);
     return position;
 }

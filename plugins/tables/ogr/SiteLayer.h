@@ -19,7 +19,7 @@ private:
     void fillFeature(OGRFeature &feature, const TableRow &row, int part) const override;
     void addFileProblems(ProblemList &problems) const override;
 
-    PointPlacer m_placer;
+    PositionReader m_positions;
 };
 
 } // namespace vlt::driver

@@ -2,7 +2,7 @@
 
 #include "plugins/tables/links/LinkValues.h"
 #include "plugins/tables/ogr/FieldCells.h"
-#include "plugins/tables/sites/PointPlacer.h"
+#include "plugins/tables/sites/PositionReader.h"
 
 #include <array>
 #include <optional>

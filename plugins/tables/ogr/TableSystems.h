@@ -1,7 +1,7 @@
 #pragma once
 
 #include "plugins/tables/ogr/ProblemList.h"
-#include "plugins/tables/sites/PointPlacer.h"
+#include "plugins/tables/sites/PositionReader.h"
 #include "plugins/tables/sites/TableDeclaration.h"
 
 #include <ogr_spatialref.h>

@@ -13,7 +13,7 @@ namespace {
 
 using Words = std::vector<std::string>;
 
-constexpr double LargestDegrees = 360;
+constexpr double MaxDegrees = 360;
 
 bool isOneOf(const std::string &word, std::initializer_list<const char *> words)
 {
@@ -185,7 +185,7 @@ CoordinateUnit unitOfSamples(const Field &field, Axis axis)
             ++readable;
             const auto number =
                 parseNumber(value, shape.usesComma ? DecimalMark::Comma : DecimalMark::Point);
-            large += number && std::abs(*number) > LargestDegrees ? 1 : 0;
+            large += number && std::abs(*number) > MaxDegrees ? 1 : 0;
         } else if (const Angle angle = readAngle(value, axis); !angle.fault) {
             ++readable;
             inParts += angle.parts > 1 ? 1 : 0;

@@ -12,14 +12,14 @@ namespace {
 
 using contract::TableTextId;
 
-constexpr double MostLongitude = 180;
-constexpr double MostLatitude = 90;
+constexpr double MaxLongitude = 180;
+constexpr double MaxLatitude = 90;
 
 CoordinatePair checked(const Angle &x, const Angle &y)
 {
     if (x.fault || y.fault)
         return {0, 0, false, x.fault ? x.fault : y.fault};
-    if (std::abs(x.degrees) > MostLongitude || std::abs(y.degrees) > MostLatitude)
+    if (std::abs(x.degrees) > MaxLongitude || std::abs(y.degrees) > MaxLatitude)
         return {0, 0, false, TableTextId("MESS_TAB_OUTSIDE_GLOBE")};
     return {x.degrees, y.degrees, x.parts > 1 || y.parts > 1, std::nullopt};
 }

@@ -11,8 +11,8 @@ namespace vlt::driver {
 
 namespace {
 
-constexpr std::size_t LongestSample = 100; ///< characters; no coordinate is longer
-constexpr double LargestExactWhole = 1e15;
+constexpr std::size_t MaxSampleSize = 100; ///< characters; no coordinate is longer
+constexpr double MaxExactWhole = 1e15;
 constexpr double Largest32 = std::numeric_limits<int32_t>::max();
 
 } // namespace
@@ -31,11 +31,11 @@ void ColumnStatistics::add(const Cell &cell, std::size_t samplesKept)
     if (m_samples.size() < samplesKept)
         m_samples.push_back(cell.text.empty() || isOverlong(cell)
                                 ? cellText(cell)
-                                : std::string(firstCharacters(text, LongestSample)));
+                                : std::string(firstCharacters(text, MaxSampleSize)));
     if (cell.kind == Cell::Kind::Number && text.empty()) {
         ++m_numbers;
         const bool whole =
-            std::floor(cell.number) == cell.number && std::abs(cell.number) < LargestExactWhole;
+            std::floor(cell.number) == cell.number && std::abs(cell.number) < MaxExactWhole;
         m_fractions += whole ? 0 : 1;
         m_beyond32 = m_beyond32 || std::abs(cell.number) > Largest32;
         return;

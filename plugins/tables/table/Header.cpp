@@ -12,10 +12,10 @@ namespace vlt::driver {
 namespace {
 
 constexpr int RowsLookedAt = 50;
-constexpr int FewestWords = 2;
+constexpr int MinWords = 2;
 constexpr int NumbersPerHeader = 5; ///< at most one cell in so many may be a number, such as a year
-constexpr std::size_t LongestName = 256; ///< characters
-constexpr std::size_t LongestTitle = 1000;
+constexpr std::size_t MaxNameSize = 256; ///< characters
+constexpr std::size_t MaxTitleSize = 1000;
 
 /// The start of a cell's text.
 std::string startOf(const Cell &cell, std::size_t characters)
@@ -29,7 +29,7 @@ std::string startOf(const Cell &cell, std::size_t characters)
 std::string nameOf(const Cell &cell)
 {
     std::string name;
-    for (const char c : startOf(cell, LongestName)) {
+    for (const char c : startOf(cell, MaxNameSize)) {
         if (c != '\n' && c != '\r')
             name += c;
         else if (!name.empty() && name.back() != ' ')
@@ -45,15 +45,16 @@ std::vector<CellFault> faultsOf(const Row &row)
     std::set<int> cutColumns;
     for (const Cell &cell : row.cells) {
         const std::string_view text = trimmed(cell.text);
-        if (firstCharacters(text, LongestName).size() == text.size())
+        if (firstCharacters(text, MaxNameSize).size() == text.size())
             continue;
         cutColumns.insert(cell.column);
         faults.push_back(
-            {cell.column, contract::formatted("MESS_TAB_TEXT_CUT", {std::to_string(LongestName)})});
+            {cell.column, contract::formatted("MESS_TAB_TEXT_CUT", {std::to_string(MaxNameSize)})});
     }
-    for (const CellFault &fault : row.faults) // a text that is cut twice is reported once
-        if (!cutColumns.contains(fault.column))
+    for (const CellFault &fault : row.faults) {
+        if (!cutColumns.contains(fault.column)) // a text that is cut twice is reported once
             faults.push_back(fault);
+    }
     return faults;
 }
 
@@ -73,7 +74,7 @@ std::optional<Header> findHeader(const Sheet &sheet, contract::TableKind kind, s
     const std::unique_ptr<RowReader> rows = sheet.rows();
     Row row;
     for (int seen = 0; seen < RowsLookedAt && rows->advance();) {
-        if (!rows->hasContent(MostColumns))
+        if (!rows->hasContent(MaxColumns))
             continue;
         ++seen;
         rows->cells(row);
@@ -89,7 +90,7 @@ std::optional<Header> findHeader(const Sheet &sheet, contract::TableKind kind, s
             if (!isValue(cell) && isTableWord(name, kind))
                 tableNames.insert(lowerCase(name));
             if (titles.size() < static_cast<std::size_t>(RowsLookedAt) * 8)
-                titles.push_back(startOf(cell, LongestTitle));
+                titles.push_back(startOf(cell, MaxTitleSize));
         }
         header.wordCount = static_cast<int>(tableNames.size());
         widest = std::max(widest, row.cells.size());
@@ -97,7 +98,7 @@ std::optional<Header> findHeader(const Sheet &sheet, contract::TableKind kind, s
             best->hasRowsBelow = true;
         if (firstWide)
             firstWide->hasRowsBelow = true;
-        const bool wordy = header.wordCount >= FewestWords &&
+        const bool wordy = header.wordCount >= MinWords &&
                            values * NumbersPerHeader <= static_cast<int>(row.cells.size());
         const bool better = wordy && (!best || header.wordCount > best->wordCount);
         if (better || (!firstWide && row.cells.size() >= 2))

@@ -14,7 +14,7 @@ constexpr std::size_t SamplesPerColumn = 200;
 constexpr std::size_t SamplesPerTable = 200000; ///< but ten of each column
 constexpr uint64_t SampleEvery = 256;           ///< of the rows behind the first ones
 constexpr uint64_t RowsPerMark = 4096;
-constexpr std::size_t MostSheetsLookedAt = 64;
+constexpr std::size_t MaxSheetsRead = 64;
 constexpr double FullShare =
     0.9; ///< a column behind the header counts when this share of the rows fills it
 
@@ -46,7 +46,7 @@ Candidate chooseSheet(Workbook &workbook, const TableHints &hints)
     Candidate best;
     bool anySheet = false;
     std::size_t widest = 0;
-    for (std::size_t seen = 0; seen < MostSheetsLookedAt; ++seen) {
+    for (std::size_t seen = 0; seen < MaxSheetsRead; ++seen) {
         const std::shared_ptr<Sheet> sheet = workbook.nextSheet();
         if (!sheet)
             break;

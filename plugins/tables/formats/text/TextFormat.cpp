@@ -102,7 +102,7 @@ private:
 /// is never closed opens nothing.
 std::vector<std::size_t> fieldCounts(std::string_view text, char delimiter, bool isWhole)
 {
-    constexpr int MostUnclosed = 8;
+    constexpr int MaxUnclosed = 8;
     FieldCounter counter(delimiter);
     FieldCounter::State beforeMark;
     std::size_t mark = 0;
@@ -114,7 +114,7 @@ std::vector<std::size_t> fieldCounts(std::string_view text, char delimiter, bool
         }
         counter.add(text[at]);
         const bool isUnclosed = isWhole && at + 1 == text.size() && counter.state().quoted;
-        if (isUnclosed && ++unclosed <= MostUnclosed) {
+        if (isUnclosed && ++unclosed <= MaxUnclosed) {
             counter.goBack(beforeMark);
             counter.add(text[mark], true);
             at = mark;
@@ -126,31 +126,31 @@ std::vector<std::size_t> fieldCounts(std::string_view text, char delimiter, bool
 }
 
 /// The most common number of fields, more than one, and how many lines have it.
-struct UsualCount
+struct CommonCount
 {
     std::size_t fields = 0;
     std::size_t lines = 0;
 };
 
-UsualCount usualCount(const std::vector<std::size_t> &counts)
+CommonCount commonCount(const std::vector<std::size_t> &counts)
 {
     std::map<std::size_t, std::size_t> lines;
     for (const std::size_t count : counts)
         ++lines[count];
-    UsualCount usual;
+    CommonCount common;
     for (const auto &[fields, number] : lines) {
-        if (fields > 1 && number >= usual.lines)
-            usual = {fields, number};
+        if (fields > 1 && number >= common.lines)
+            common = {fields, number};
     }
-    return usual;
+    return common;
 }
 
 /// How well a delimiter explains the lines: the share of lines with the most common number of
 /// fields (more than one), weighted gently by that number.
 double score(const std::vector<std::size_t> &counts)
 {
-    const UsualCount usual = usualCount(counts);
-    if (usual.fields < 2)
+    const CommonCount common = commonCount(counts);
+    if (common.fields < 2)
         return 0;
     // In prose few lines have a comma; in a table every line below the titles has delimiters.
     const auto first =
@@ -159,8 +159,8 @@ double score(const std::vector<std::size_t> &counts)
         std::count_if(first, counts.end(), [](std::size_t count) { return count > 1; });
     if (cut * 10 < (counts.end() - first) * 7)
         return 0;
-    return static_cast<double>(usual.lines) / static_cast<double>(counts.size()) *
-           (1 + 0.1 * std::log2(static_cast<double>(usual.fields)));
+    return static_cast<double>(common.lines) / static_cast<double>(counts.size()) *
+           (1 + 0.1 * std::log2(static_cast<double>(common.fields)));
 }
 
 char findDelimiter(std::string_view text, bool isWhole)
@@ -238,7 +238,7 @@ TextFormat findTextFormat(const std::shared_ptr<const InputFile> &file, const Te
         const bool isWhole = head.size() < TextSampleSize;
         format.encoding = isUtf8(isWhole ? text + '\n' : text) ? Utf8 : guessEncoding(file);
     }
-    text = format.isUtf8() ? mendedUtf8(text) : recoded(text, format.encoding);
+    text = format.isUtf8() ? repairedUtf8(text) : recoded(text, format.encoding);
     refuseOtherKinds(text);
     if ((text.starts_with("sep=") || text.starts_with("SEP=")) && text.size() > 5 &&
         (text[5] == '\r' || text[5] == '\n')) {
@@ -253,7 +253,7 @@ TextFormat findTextFormat(const std::shared_ptr<const InputFile> &file, const Te
         format.delimiter =
             hints.delimiter ? hints.delimiter : findDelimiter(text, head.size() < TextSampleSize);
     format.fieldCount =
-        usualCount(fieldCounts(text, format.delimiter, head.size() < TextSampleSize)).fields;
+        commonCount(fieldCounts(text, format.delimiter, head.size() < TextSampleSize)).fields;
     return format;
 }
 

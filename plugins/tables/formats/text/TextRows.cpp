@@ -14,7 +14,7 @@ namespace vlt::driver {
 namespace {
 
 /// A quoted field this long was never meant to be one.
-constexpr std::ptrdiff_t LongestQuoted = std::ptrdiff_t{8} << 20;
+constexpr std::ptrdiff_t MaxQuotedSize = std::ptrdiff_t{8} << 20;
 
 const char *find(const char *begin, const char *end, char wanted)
 {
@@ -86,8 +86,8 @@ std::vector<std::size_t> delimitersPerLine(std::string_view text, char delimiter
 std::size_t swallowedRows(std::string_view text, std::size_t before, std::size_t behind,
                           char delimiter, std::size_t fieldCount)
 {
-    constexpr std::size_t FewestFields = 3;
-    if (fieldCount < FewestFields)
+    constexpr std::size_t MinFields = 3;
+    if (fieldCount < MinFields)
         return 0;
     std::vector<std::size_t> lines = delimitersPerLine(text, delimiter);
     lines.front() += before;
@@ -151,7 +151,7 @@ const char *TextRows::closingQuote(const char *field)
         const char *mark = find(m_row + at, m_input.end(), '"');
         if (mark == m_input.end() || mark + 1 == m_input.end()) {
             at = mark - m_row;
-            if (at - start > LongestQuoted || !more())
+            if (at - start > MaxQuotedSize || !more())
                 return mark == m_input.end() ? nullptr : mark;
             continue;
         }
@@ -220,7 +220,7 @@ std::string_view TextRows::readable(Row &row) const
     if (m_encoding == Utf8) {
         unreadable = countUtf8(line).badBytes;
         if (unreadable > 0)
-            line = row.keep(mendedUtf8(line));
+            line = row.keep(repairedUtf8(line));
     } else // replaced already
         for (const char *at = findText(m_row, m_rowEnd, Replacement); at != m_rowEnd;
              at = findText(at + 1, m_rowEnd, Replacement))
@@ -247,7 +247,7 @@ void TextRows::cells(Row &row)
     int columnOfLines = -1;
     const char delimiter = m_delimiter;
     int column = 0;
-    for (; column < MostTextColumns; ++column) {
+    for (; column < MaxTextColumns; ++column) {
         TextField field; // nearly every one has no quotes
         if (at < end && *at == '"')
             field = readField(at, end, m_delimiter, &row);

@@ -100,7 +100,7 @@ bool isUtf8Piece(std::string_view piece)
     return isUtf8(piece);
 }
 
-std::string mendedUtf8(std::string_view text)
+std::string repairedUtf8(std::string_view text)
 {
     std::string mended;
     std::size_t done = 0;

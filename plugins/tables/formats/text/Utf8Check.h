@@ -23,7 +23,7 @@ bool isUtf8(std::string_view text);
 bool isUtf8Piece(std::string_view piece);
 
 /// The text with U+FFFD in place of each bad byte.
-std::string mendedUtf8(std::string_view text);
+std::string repairedUtf8(std::string_view text);
 
 /// The first byte above ASCII at or behind `at`; the size of the text when there is none.
 std::size_t skipAscii(std::string_view text, std::size_t at);

@@ -161,7 +161,7 @@ void SharedStrings::keepOnly(std::vector<uint64_t> wanted)
 void SharedStrings::keepText(std::string_view text)
 {
     m_holdZeros = m_holdZeros || text.find('\0') != std::string_view::npos;
-    m_texts.add(firstCharacters(text, LongestText + 1));
+    m_texts.add(firstCharacters(text, MaxTextSize + 1));
 }
 
 void SharedStrings::readUpTo(uint64_t index)
@@ -205,18 +205,18 @@ void SharedStrings::readUpTo(uint64_t index)
 
 std::optional<std::string_view> SharedStrings::at(uint64_t index)
 {
-    std::size_t place = static_cast<std::size_t>(index);
+    std::size_t position = static_cast<std::size_t>(index);
     if (!m_wanted.empty()) {
         const auto found = std::lower_bound(m_wanted.begin(), m_wanted.end(), index);
         if (found == m_wanted.end() || *found != index)
             return std::nullopt;
-        place = static_cast<std::size_t>(found - m_wanted.begin());
+        position = static_cast<std::size_t>(found - m_wanted.begin());
     }
-    if (place >= m_texts.size())
+    if (position >= m_texts.size())
         readUpTo(index);
-    if (place >= m_texts.size())
+    if (position >= m_texts.size())
         return std::nullopt;
-    return m_texts[place];
+    return m_texts[position];
 }
 
 } // namespace vlt::driver

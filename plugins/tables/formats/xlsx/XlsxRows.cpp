@@ -54,7 +54,7 @@ int columnOf(std::string_view reference)
     int column = 0;
     for (const char c : reference) {
         const auto letter = static_cast<unsigned>((c & ~0x20) - 'A');
-        if (letter >= 26 || column > MostColumns)
+        if (letter >= 26 || column > MaxColumns)
             break;
         column = column * 26 + static_cast<int>(letter) + 1;
     }
@@ -211,7 +211,7 @@ bool nextXlsxCell(const char *&at, const char *end, int column, XlsxRawCell &cel
                 p = readCellContent(stop ? p - Value.size() : p, end, cell);
         }
         at = p;
-        if (!cell.value.empty() && cell.column < MostColumns)
+        if (!cell.value.empty() && cell.column < MaxColumns)
             return true;
     }
 }

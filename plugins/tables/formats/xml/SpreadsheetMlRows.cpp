@@ -26,7 +26,7 @@ int wholeNumber(std::optional<std::string_view> text, int otherwise)
         return otherwise;
     int value = 0;
     for (const char c : *text) {
-        if (c < '0' || c > '9' || value > MostColumns)
+        if (c < '0' || c > '9' || value > MaxColumns)
             return otherwise;
         value = value * 10 + (c - '0');
     }
@@ -111,7 +111,7 @@ private:
         m_at = p + Close.size();
         m_column = m_nextColumn++;
         cell = {m_column, type, {text, static_cast<std::size_t>(p - text)}};
-        return m_column < MostColumns;
+        return m_column < MaxColumns;
     }
 
     /// Looks for the Data child of an open Cell; comments have Data of their own. True with one
@@ -141,7 +141,7 @@ private:
             }
         }
         cell.column = m_column;
-        return found && !cell.markup.empty() && m_column >= 0 && m_column < MostColumns;
+        return found && !cell.markup.empty() && m_column >= 0 && m_column < MaxColumns;
     }
 
     const char *m_at;

@@ -14,7 +14,7 @@ namespace vlt::driver {
 namespace {
 
 constexpr std::size_t HeadSize = 4096;
-constexpr std::ptrdiff_t LongestTagName = 256;
+constexpr std::ptrdiff_t MaxTagNameSize = 256;
 constexpr std::string_view Namespace = "urn:schemas-microsoft-com:office:spreadsheet";
 
 /// The file's bytes as UTF-8 from a place on. Places count decoded bytes.
@@ -79,7 +79,7 @@ private:
 /// tag's name. Looks back to `from` at most.
 const char *tagStart(const char *from, const char *name)
 {
-    const char *limit = name - from > LongestTagName ? name - LongestTagName : from;
+    const char *limit = name - from > MaxTagNameSize ? name - MaxTagNameSize : from;
     for (const char *at = name; at-- > limit;) {
         if (*at == '<')
             return at;
@@ -122,7 +122,7 @@ public:
             const std::ptrdiff_t window = input.end() - input.begin();
             const char *keep = found != input.end()
                                    ? open
-                                   : input.end() - std::min<std::ptrdiff_t>(window, LongestTagName);
+                                   : input.end() - std::min<std::ptrdiff_t>(window, MaxTagNameSize);
             refuseEndlessMarkup(open, input.end());
             windowOffset += static_cast<uint64_t>(keep - input.begin());
             if (!input.more(keep))

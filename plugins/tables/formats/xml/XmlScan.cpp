@@ -13,7 +13,7 @@ namespace vlt::driver {
 namespace {
 
 constexpr uint32_t LastCodePoint = 0x10FFFF;
-constexpr std::size_t LongestEntity = 16; ///< "&#x0010FFFF;" and some more zeros
+constexpr std::size_t MaxEntitySize = 16; ///< "&#x0010FFFF;" and some more zeros
 
 bool isBlank(char c)
 {
@@ -117,7 +117,7 @@ bool nextTag(const char *at, const char *end, XmlTag &tag)
 
 void refuseEndlessMarkup(const char *begin, const char *end)
 {
-    if (static_cast<std::size_t>(end - begin) > LongestMarkup)
+    if (static_cast<std::size_t>(end - begin) > MaxMarkupSize)
         throw RefusedFile(Refusal::Malformed, "MESS_TAB_LONG_TAG");
 }
 
@@ -163,7 +163,7 @@ std::string decodeXml(std::string_view text)
     result.reserve(text.size());
     for (std::size_t at = 0; at < text.size(); ++at) {
         const std::size_t length =
-            text[at] == '&' ? text.substr(at, LongestEntity).find(';') : std::string_view::npos;
+            text[at] == '&' ? text.substr(at, MaxEntitySize).find(';') : std::string_view::npos;
         if (length != std::string_view::npos &&
             appendEntity(result, text.substr(at + 1, length - 1)))
             at += length;

@@ -41,7 +41,7 @@ struct XmlTag
 bool nextTag(const char *at, const char *end, XmlTag &tag);
 
 /// Longest piece of markup in a stream: an incomplete one is looked through again with each chunk.
-constexpr std::size_t LongestMarkup = std::size_t{4} << 20;
+constexpr std::size_t MaxMarkupSize = std::size_t{4} << 20;
 
 /// Throws RefusedFile (Malformed) where an incomplete piece is already longer than that.
 void refuseEndlessMarkup(const char *begin, const char *end);

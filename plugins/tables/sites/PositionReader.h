@@ -21,12 +21,12 @@ struct Position
 
 /// Reads the position of each row. Nothing that cannot be read becomes 0: the row gets a problem
 /// instead.
-class PointPlacer
+class PositionReader
 {
 public:
     /// @param halfTurn  of the file's coordinate system where it is geographic, in its unit; else 0
-    PointPlacer(const TableProfile &table, const PointFields &fields, CoordinateUnit unit,
-                double halfTurn = 0)
+    PositionReader(const TableProfile &table, const PointFields &fields, CoordinateUnit unit,
+                   double halfTurn = 0)
         : m_table(&table)
         , m_fields(fields)
         , m_unit(unit)
@@ -35,8 +35,8 @@ public:
 
     /// `cells` holds the cell of each field, null where it is empty. A problem is appended where
     /// there is one.
-    Position place(int64_t row, const std::vector<const Cell *> &cells,
-                   std::vector<RowProblem> &problems) const;
+    Position read(int64_t row, const std::vector<const Cell *> &cells,
+                  std::vector<RowProblem> &problems) const;
 
 private:
     std::optional<contract::TableTextId> outsideGlobe(double value, Axis axis) const;

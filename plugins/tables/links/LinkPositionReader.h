@@ -1,7 +1,7 @@
 #pragma once
 
 #include "plugins/tables/links/LinkLayout.h"
-#include "plugins/tables/sites/PointPlacer.h"
+#include "plugins/tables/sites/PositionReader.h"
 
 #include <geodesic.h>
 
@@ -19,14 +19,15 @@ struct OffsetScale
 };
 
 /// Reads the positions of both ends of a link as those of sites are read, with their offsets.
-class LinkPlacer
+class LinkPositionReader
 {
 public:
-    LinkPlacer(const TableProfile &table, const LinkLayout &layout, const OffsetScale &scale);
+    LinkPositionReader(const TableProfile &table, const LinkLayout &layout,
+                       const OffsetScale &scale);
 
-    /// Positions of A and B in the file's system; `cells` and `problems` as for PointPlacer.
-    std::array<Position, 2> place(int64_t row, const std::vector<const Cell *> &cells,
-                                  std::vector<RowProblem> &problems) const;
+    /// Positions of A and B in the file's system; `cells` and `problems` as for PositionReader.
+    std::array<Position, 2> read(int64_t row, const std::vector<const Cell *> &cells,
+                                 std::vector<RowProblem> &problems) const;
 
 private:
     double offsetM(int64_t row, const QuantityField &offset, const std::vector<const Cell *> &cells,
@@ -35,7 +36,7 @@ private:
 
     const TableProfile *m_table;
     const LinkLayout *m_layout;
-    std::array<PointPlacer, 2> m_placers;
+    std::array<PositionReader, 2> m_readers;
     OffsetScale m_scale;
     geod_geodesic m_earth = {};
 };

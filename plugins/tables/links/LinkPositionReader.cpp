@@ -1,4 +1,4 @@
-#include "plugins/tables/links/LinkPlacer.h"
+#include "plugins/tables/links/LinkPositionReader.h"
 
 #include "contract/TableTexts.h"
 #include "plugins/tables/links/Quantity.h"
@@ -19,21 +19,21 @@ double halfTurn(const OffsetScale &scale)
 
 } // namespace
 
-LinkPlacer::LinkPlacer(const TableProfile &table, const LinkLayout &layout,
-                       const OffsetScale &scale)
+LinkPositionReader::LinkPositionReader(const TableProfile &table, const LinkLayout &layout,
+                                       const OffsetScale &scale)
     : m_table(&table)
     , m_layout(&layout)
-    , m_placers{PointPlacer(table, layout.ends[0].point, layout.unit, halfTurn(scale)),
-                PointPlacer(table, layout.ends[1].point, layout.unit, halfTurn(scale))}
+    , m_readers{PositionReader(table, layout.ends[0].point, layout.unit, halfTurn(scale)),
+                PositionReader(table, layout.ends[1].point, layout.unit, halfTurn(scale))}
     , m_scale(scale)
 {
     if (scale.isOnEarth)
         geod_init(&m_earth, scale.semiMajorM, scale.flattening);
 }
 
-double LinkPlacer::offsetM(int64_t row, const QuantityField &offset,
-                           const std::vector<const Cell *> &cells,
-                           std::vector<RowProblem> &problems) const
+double LinkPositionReader::offsetM(int64_t row, const QuantityField &offset,
+                                   const std::vector<const Cell *> &cells,
+                                   std::vector<RowProblem> &problems) const
 {
     const std::string text = fieldText(cells, offset.field);
     if (text.empty() || isMissingWord(text))
@@ -46,7 +46,7 @@ double LinkPlacer::offsetM(int64_t row, const QuantityField &offset,
     return metres.value_or(0);
 }
 
-void LinkPlacer::move(Position &position, double eastM, double northM) const
+void LinkPositionReader::move(Position &position, double eastM, double northM) const
 {
     if (eastM == 0 && northM == 0)
         return;
@@ -65,13 +65,14 @@ void LinkPlacer::move(Position &position, double eastM, double northM) const
     position.y = latitude / m_scale.unit;
 }
 
-std::array<Position, 2> LinkPlacer::place(int64_t row, const std::vector<const Cell *> &cells,
-                                          std::vector<RowProblem> &problems) const
+std::array<Position, 2> LinkPositionReader::read(int64_t row,
+                                                 const std::vector<const Cell *> &cells,
+                                                 std::vector<RowProblem> &problems) const
 {
     std::array<Position, 2> positions;
     for (std::size_t end = 0; end < positions.size(); ++end) {
         const LinkEndFields &fields = m_layout->ends[end];
-        positions[end] = m_placers[end].place(row, cells, problems);
+        positions[end] = m_readers[end].read(row, cells, problems);
         const double eastM = offsetM(row, fields.dx, cells, problems);
         const double northM = offsetM(row, fields.dy, cells, problems);
         if (positions[end].found)

@@ -1,4 +1,4 @@
-#include "plugins/tables/sites/PointPlacer.h"
+#include "plugins/tables/sites/PositionReader.h"
 
 #include "contract/TableTexts.h"
 #include "plugins/tables/sites/Angle.h"
@@ -33,8 +33,8 @@ std::string fieldText(const std::vector<const Cell *> &cells, int field)
     return cell ? std::string(trimmed(cellText(*cell))) : std::string();
 }
 
-RowProblem PointPlacer::problem(int64_t row, int field, const std::string &value,
-                                TableTextId why) const
+RowProblem PositionReader::problem(int64_t row, int field, const std::string &value,
+                                   TableTextId why) const
 {
     const Field &of = m_table->fields[static_cast<std::size_t>(field)];
     return {row, of.name, true,
@@ -42,9 +42,9 @@ RowProblem PointPlacer::problem(int64_t row, int field, const std::string &value
                           : contract::formatted(why, {quotation(value)})};
 }
 
-bool PointPlacer::readAxis(int64_t row, const CoordinateFields &fields, Axis axis,
-                           const std::vector<const Cell *> &cells, double &value,
-                           std::vector<RowProblem> &problems) const
+bool PositionReader::readAxis(int64_t row, const CoordinateFields &fields, Axis axis,
+                              const std::vector<const Cell *> &cells, double &value,
+                              std::vector<RowProblem> &problems) const
 {
     const Cell *cell = cells[static_cast<std::size_t>(fields.value)];
     const std::string hemisphere = fields.hemisphere >= 0 && m_unit != CoordinateUnit::Meters
@@ -86,7 +86,7 @@ bool PointPlacer::readAxis(int64_t row, const CoordinateFields &fields, Axis axi
     return !angle.fault;
 }
 
-std::optional<TableTextId> PointPlacer::outsideGlobe(double value, Axis axis) const
+std::optional<TableTextId> PositionReader::outsideGlobe(double value, Axis axis) const
 {
     constexpr double Precision = 1e-9; // of a factor between units
     double halfTurn = m_halfTurn;
@@ -100,8 +100,8 @@ std::optional<TableTextId> PointPlacer::outsideGlobe(double value, Axis axis) co
     return axis == Axis::X ? TableTextId("MESS_TAB_LONGITUDE") : TableTextId("MESS_TAB_LATITUDE");
 }
 
-Position PointPlacer::place(int64_t row, const std::vector<const Cell *> &cells,
-                            std::vector<RowProblem> &problems) const
+Position PositionReader::read(int64_t row, const std::vector<const Cell *> &cells,
+                              std::vector<RowProblem> &problems) const
 {
     Position position;
     if (!m_fields.found())
