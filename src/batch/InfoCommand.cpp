@@ -96,7 +96,7 @@ InfoReport linkReport(const links::LinkFileInfo &file)
 }
 
 /// Adds what only the rows tell.
-Result<InfoReport> withRows(InfoReport report, const QString &kind)
+Result<InfoReport> withRows(InfoReport report, contract::TableKind kind)
 {
     // never stopped
     const Result<geodata::SiteCheck> check = *geodata::readSiteCheck(
@@ -115,10 +115,10 @@ Result<InfoReport> readTable(const QString &path, bool isLinks, const tables::Ta
 {
     if (isLinks) {
         const auto file = links::readLinkFileInfoAs(path, project, reading);
-        return file ? withRows(linkReport(file.value()), QStringLiteral("link:")) : file.error();
+        return file ? withRows(linkReport(file.value()), contract::TableKind::Links) : file.error();
     }
     const auto file = sites::readSiteFileInfoAs(path, project, reading);
-    return file ? withRows(siteReport(file.value()), QStringLiteral("site:")) : file.error();
+    return file ? withRows(siteReport(file.value()), contract::TableKind::Sites) : file.error();
 }
 
 /// Several tables as one object, in which those that are refused have an error.

@@ -8,9 +8,9 @@ namespace vlt::links {
 
 namespace {
 
-tables::TableKind linkTable()
+tables::TableFileType linkTable()
 {
-    return {QStringLiteral("link:"),
+    return {contract::TableKind::Links,
             {QStringLiteral("MESS_ERR_OPEN_LINK"),
              QStringLiteral("This file can't be open as a link file"),
              {}},
@@ -42,7 +42,7 @@ Result<LinkFileInfo> readLinkFileInfoAs(const QString &path, const project::Proj
     info.linkNameField = info.columns.name;
     info.nameField = linkEndNameField(info.format);
     const Result<geodata::LayerInfo> ends = geodata::readLayerInfo(
-        reading.connection(QStringLiteral("link:"), path), contract::LinkEndLayerIndex);
+        reading.connection(contract::TableKind::Links, path), contract::LinkEndLayerIndex);
     if (ends) {
         info.endLayerName = ends.value().layerName;
         info.hasNameField = ends.value().fields.contains(info.nameField, Qt::CaseInsensitive);

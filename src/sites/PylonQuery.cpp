@@ -104,8 +104,8 @@ QString buildPylonQuery(const PylonQuery &query, const SiteRepresentation &repre
 
 QString placingConnection(const PylonQuery &query)
 {
-    return query.reading.connection(prefix(query.kind) + systemsPart(query),
-                                    QFileInfo(query.dataFile).absoluteFilePath());
+    return query.reading.connection(query.kind, QFileInfo(query.dataFile).absoluteFilePath(),
+                                    systemsPart(query));
 }
 
 QStringList sectorProperties(const SiteRepresentation &representation)

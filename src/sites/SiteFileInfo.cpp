@@ -7,9 +7,9 @@ namespace vlt::sites {
 
 namespace {
 
-tables::TableKind siteTable()
+tables::TableFileType siteTable()
 {
-    return {QStringLiteral("site:"),
+    return {contract::TableKind::Sites,
             {QStringLiteral("MESS_ERR_OPEN_SITE"),
              QStringLiteral("This file can't be open as a site file"),
              {}},
@@ -21,8 +21,8 @@ tables::TableKind siteTable()
 bool isLinkTable(const SiteFileInfo &info)
 {
     return info.columns.x.isEmpty() && info.columns.y.isEmpty() &&
-           geodata::readLayerInfo(info.reading.connection(QStringLiteral("link:"), info.filePath),
-                                  0)
+           geodata::readLayerInfo(
+               info.reading.connection(contract::TableKind::Links, info.filePath), 0)
                .ok();
 }
 

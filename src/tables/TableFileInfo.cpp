@@ -62,19 +62,19 @@ QString describeTableFile(const QString &format, const QString &unit)
          {QStringLiteral("_U_"), unitWord(unit)}});
 }
 
-Result<TableFile> readTableFile(const TableKind &kind, const QString &path,
+Result<TableFile> readTableFile(const TableFileType &type, const QString &path,
                                 const project::ProjectContext &project, const TableReading &reading)
 {
     const Result<geodata::LayerInfo> opened =
-        geodata::readLayerInfo(reading.connection(kind.prefix, path), 0);
+        geodata::readLayerInfo(reading.connection(type.kind, path), 0);
     if (!opened) {
-        Error error = isEmptyTable(opened.error().detail) ? kind.empty : kind.unreadable;
+        Error error = isEmptyTable(opened.error().detail) ? type.empty : type.unreadable;
         error.detail = opened.error().detail;
         return error;
     }
     const geodata::LayerInfo &layer = opened.value();
     if (!layer.present || layer.featureCount == 0)
-        return Error{kind.empty.key, kind.empty.text, path};
+        return Error{type.empty.key, type.empty.text, path};
 
     TableFileInfo info;
     info.reading = reading;

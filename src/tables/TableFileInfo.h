@@ -37,10 +37,10 @@ struct TableFile
     QStringList fields;
 };
 
-/// How tables of one kind are opened, and what is said of those that cannot be used.
-struct TableKind
+/// A kind of tables, and the errors of those that cannot be used.
+struct TableFileType
 {
-    QString prefix; ///< of the table connection: "site:" or "link:"
+    contract::TableKind kind;
     Error unreadable;
     Error empty;
 };
@@ -49,7 +49,7 @@ struct TableKind
 ///
 /// @par Errors  those of the kind: with the driver's reason, or with the path where the table
 ///              opened but has no rows.
-Result<TableFile> readTableFile(const TableKind &kind, const QString &path,
+Result<TableFile> readTableFile(const TableFileType &type, const QString &path,
                                 const project::ProjectContext &project,
                                 const TableReading &reading);
 

@@ -22,10 +22,12 @@ QString TableReading::parameters() const
     return parts.join(QLatin1Char(','));
 }
 
-QString TableReading::connection(const QString &prefix, const QString &path) const
+QString TableReading::connection(contract::TableKind kind, const QString &path,
+                                 const QString &systems) const
 {
     const QString how = parameters();
-    return prefix + (how.isEmpty() ? how : how + QLatin1Char(',')) + path;
+    return QLatin1String(contract::connectionPrefix(kind).data()) + systems +
+           (how.isEmpty() ? how : how + QLatin1Char(',')) + path;
 }
 
 } // namespace vlt::tables

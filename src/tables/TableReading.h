@@ -1,5 +1,7 @@
 #pragma once
 
+#include "contract/TableKind.h"
+
 #include <QString>
 
 namespace vlt::tables {
@@ -17,8 +19,9 @@ struct TableReading
 
     /// The connection that reads a table so.
     ///
-    /// @param prefix  "site:" or "link:"
-    QString connection(const QString &prefix, const QString &path) const;
+    /// @param systems  options that stand before the others, with a comma at their end
+    QString connection(contract::TableKind kind, const QString &path,
+                       const QString &systems = {}) const;
 };
 
 } // namespace vlt::tables

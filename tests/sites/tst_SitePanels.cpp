@@ -158,7 +158,7 @@ private Q_SLOTS:
                                                    u"+proj=utm +zone=30 +datum=WGS84"_s);
         vlt::platform::builderSettings()->setValue(u"LastUsedSrsList/1_ALIAS"_s, u"Mine"_s);
         vlt::platform::wizardSettings()->setValue(u"P/TargetSrs"_s, stored);
-        VltSrsSettings panel(u"site"_s);
+        VltSrsSettings panel(vlt::contract::TableKind::Sites);
         const QSignalSpy changes(&panel, &VltSrsSettings::parameterChanged);
 
         panel.loadSettings(u"P"_s);
@@ -194,7 +194,7 @@ private Q_SLOTS:
             settings->setValue(listed.arg(number).arg(u"ALIAS"_s), alias);
             settings->setValue(listed.arg(number).arg(u"IS_USER_DEF"_s), isOwn);
         }
-        VltSrsSettings panel(u"site"_s);
+        VltSrsSettings panel(vlt::contract::TableKind::Sites);
         auto *combo = panel.findChild<QComboBox *>(u"m_pCBSrs"_s);
 
         panel.setSourceSrs(set);
@@ -233,7 +233,7 @@ private Q_SLOTS:
             writeFile(path);
         else
             makeDataset(path, srs);
-        VltSrsSettings panel(u"site"_s);
+        VltSrsSettings panel(vlt::contract::TableKind::Sites);
         panel.setTargetSrs(u"4171"_s);
         QSignalSpy changes(&panel, &VltSrsSettings::parameterChanged);
         AnsweredBoxes boxes;

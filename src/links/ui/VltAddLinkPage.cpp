@@ -28,7 +28,7 @@ vlt::tables::TablePageKind VltAddLinkPage::linkKind()
                         QStringLiteral("m_pwPbLink")};
     kind.settingsPrefix = QStringLiteral("AddLinkPage");
     kind.fileKey = QStringLiteral("LinkFile");
-    kind.srsKind = QStringLiteral("link");
+    kind.kind = vlt::contract::TableKind::Links;
     kind.layerBaseName = QStringLiteral("links");
     kind.looksAtMiddle = true;
     kind.nearDistanceM = 80;

@@ -20,7 +20,7 @@ vlt::tables::TablePageKind VltAddSitePage::siteKind()
                         QStringLiteral("m_pwPbSite")};
     kind.settingsPrefix = QStringLiteral("AddSitePage");
     kind.fileKey = QStringLiteral("SiteFile");
-    kind.srsKind = QStringLiteral("site");
+    kind.kind = vlt::contract::TableKind::Sites;
     kind.layerBaseName = QStringLiteral("sites");
     kind.nearDistanceM = 50;
     kind.nearHeightM = 13;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "contract/TableKind.h"
 #include "tables/ui/VltLayerPreview.h"
 
 #include <QString>
@@ -20,9 +21,9 @@ struct TablePageKind
     };
 
     ObjectNames objectNames;
-    QString settingsPrefix;     ///< of the remembered values
-    QString fileKey;            ///< under which the table is remembered, below the prefix
-    QString srsKind;            ///< as VltSrsSettings takes it
+    QString settingsPrefix; ///< of the remembered values
+    QString fileKey;        ///< under which the table is remembered, below the prefix
+    contract::TableKind kind = contract::TableKind::Sites;
     QString layerBaseName;      ///< of the temporary layer file
     bool looksAtMiddle = false; ///< of the demonstration from afar, instead of at its origin
     double nearDistanceM = 0;   ///< of the camera from the demonstration, for the near view

@@ -25,11 +25,11 @@ QLabel *nameLabel(const VltSrsChooser &chooser)
 
 } // namespace
 
-VltSrsSettings::VltSrsSettings(const QString &kind, QWidget *parent)
+VltSrsSettings::VltSrsSettings(vlt::contract::TableKind kind, QWidget *parent)
     : VltParameterPanel(parent)
     , m_pwSource(
           new VltSrsChooser(this,
-                            kind == QLatin1String("link")
+                            kind == vlt::contract::TableKind::Links
                                 ? tr("Cartographic system of the link file", "MESS_SRS_LINK_FILE")
                                 : tr("Cartographic system of the site file", "MESS_SRS_SITE_FILE"),
                             true, true))
@@ -38,7 +38,7 @@ VltSrsSettings::VltSrsSettings(const QString &kind, QWidget *parent)
     , m_pwPbReadSrs(
           new QPushButton(tr("Read system from a datasource...", "MESS_READ_SRS_FROM_DS"), this))
 {
-    if (kind == QLatin1String("link"))
+    if (kind == vlt::contract::TableKind::Links)
         m_pwSource->setToolTip(tr("Projection of the file", "MESS_PROJ_OF_THE_FILE"));
     m_pwPbReadSrs->setToolTip(
         tr("Take the target system from a raster or vector file", "MESS_TIP_READ_SRS"));

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "contract/TableKind.h"
 #include "srs/SrsPreferences.h"
 #include "wizard/base/VltParameterPanel.h"
 
@@ -12,8 +13,8 @@ class VltSrsSettings : public VltParameterPanel
     Q_OBJECT
 
 public:
-    /// @param kind  "site" or "link": what the table holds
-    explicit VltSrsSettings(const QString &kind, QWidget *parent = nullptr);
+    /// @param kind  of the table
+    explicit VltSrsSettings(vlt::contract::TableKind kind, QWidget *parent = nullptr);
 
     /// Chooses a system by its EPSG number ("2154") or by any other text that names one. Emits
     /// nothing.

@@ -95,7 +95,7 @@ void VltTablePage::nameWidgets()
 
 void VltTablePage::createPanels()
 {
-    m_panelSrs = new VltSrsSettings(m_kind.srsKind, m_ui->m_pwGbSrs);
+    m_panelSrs = new VltSrsSettings(m_kind.kind, m_ui->m_pwGbSrs);
     m_ui->m_ptVbSrs->addWidget(m_panelSrs);
     addPanel(m_panelSrs);
     setResult({m_ui->m_ptHbDrag, m_ui->m_pwLblDragText, m_kind.dragName,
