@@ -3,6 +3,7 @@
 #include "batch/BuildingsOptions.h"
 #include "batch/ColorText.h"
 #include "batch/OutputFiles.h"
+#include "contract/NoDataText.h"
 #include "language/VltLanguageManager.h"
 
 namespace vlt::batch {
@@ -63,10 +64,8 @@ Result<QString> readColor(const QCommandLineParser &parser, const QString &optio
 /// A text that stands for missing values: a number, or empty.
 std::optional<Error> checkNoData(const QCommandLineParser &parser, const QString &option)
 {
-    bool isNumber = false;
     const QString value = parser.value(option);
-    value.toDouble(&isNumber);
-    if (value.isEmpty() || isNumber)
+    if (contract::isNoDataText(value.toStdString()))
         return std::nullopt;
     return wrongValue(option, dico_label("MESS_USE_ANY_NUMBER", "a number"), value);
 }

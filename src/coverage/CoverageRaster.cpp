@@ -1,5 +1,6 @@
 #include "coverage/CoverageRaster.h"
 
+#include "contract/NoDataText.h"
 #include "contract/SceneTexts.h"
 #include "coverage/LocalRaster.h"
 #include "coverage/RasterBlocks.h"
@@ -12,7 +13,6 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <cmath>
 #include <string_view>
 #include <utility>
@@ -20,26 +20,6 @@
 namespace vlt::coverage {
 
 namespace {
-
-/// A typed number in the C locale.
-std::optional<double> numberOf(std::string_view text)
-{
-    constexpr std::string_view Blanks = " \t";
-    text.remove_prefix(std::min(text.find_first_not_of(Blanks), text.size()));
-    text = text.substr(0, text.find_last_not_of(Blanks) + 1);
-    if (text.starts_with('+'))
-        text.remove_prefix(1);
-    double value = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (error != std::errc() || end != text.data() + text.size())
-        return std::nullopt;
-    return value;
-}
-
-bool isEmpty(std::string_view text)
-{
-    return text.find_first_not_of(" \t") == std::string_view::npos;
-}
 
 /// The middle of the area of a ring, or of its points where it has none; the first point near zero.
 Place middleOf(const std::vector<Place> &ring)
@@ -131,14 +111,14 @@ std::unique_ptr<CoverageRaster> CoverageRaster::open(const std::string &path,
 {
     const CPLErrorHandlerPusher quiet(CPLQuietErrorHandler);
     const localfiles::NoNetwork offline;
-    const std::optional<double> typed = numberOf(noData);
+    const std::optional<double> typed = contract::noDataNumber(noData);
     std::string why;
     GDALDatasetUniquePtr dataset = openLocalRaster(path, RasterUse::Values, &why);
     if (dataset && dataset->GetRasterCount() != 1)
         why = contract::formatted("MESS_SCENE_NOT_ONE_BAND");
     else if (dataset && GDALDataTypeIsComplex(dataset->GetRasterBand(1)->GetRasterDataType()))
         why = contract::formatted("MESS_SCENE_COMPLEX");
-    else if (dataset && !typed && !isEmpty(noData))
+    else if (dataset && !contract::isNoDataText(noData))
         why = contract::formatted("MESS_SCENE_BAD_NODATA", {noData});
     if (why.empty())
         return std::unique_ptr<CoverageRaster>(

@@ -292,7 +292,7 @@ private Q_SLOTS:
                                   PatienceMs);
         QVERIFY(!page.icon()->isEnabled()); // else the layer of former values could be dragged
         QVERIFY(!page.validatePage());
-        type(u"m_pwLeNoData"_s, u"1"_s);
+        type(u"m_pwLeNoData"_s, u"-99,5"_s);
         QTRY_VERIFY_WITH_TIMEOUT(page.icon()->isEnabled(), PatienceMs);
 
         type(u"m_pwLeImage"_s, path(u"other"_s));

@@ -1,3 +1,4 @@
+#include "contract/NoDataText.h"
 #include "coverage/CoverageRaster.h"
 #include "coverage/LocalRaster.h"
 #include "support/Files.h"
@@ -322,6 +323,17 @@ private Q_SLOTS:
         QVERIFY(openListedPart("GTIFF_DIR:1:" + path));
     }
 
+    void readsTypedValuesOfNoData()
+    {
+        using vlt::contract::noDataNumber;
+        for (const char *text : {"-99.5", "-99,5", " -99,5\t", "-995e-1"})
+            QCOMPARE(noDataNumber(text), std::optional(-99.5));
+        QCOMPARE(noDataNumber("+7"), std::optional(7.));
+        for (const char *text : {"", " ", "-", "ten", "1.5 m", "1,000.5", "1 000", "0x10"})
+            QVERIFY2(!noDataNumber(text), text);
+        QVERIFY(vlt::contract::isNoDataText(" ") && !vlt::contract::isNoDataText("ten"));
+    }
+
     void refusesOthers_data()
     {
         QTest::addColumn<QString>("name");
@@ -330,7 +342,7 @@ private Q_SLOTS:
         QTest::newRow("bands") << u"three.tif"_s << QString()
                                << u"it does not have exactly one band"_s;
         QTest::newRow("no number")
-            << u"one.tif"_s << u"-1,5"_s << u"the no-data value \"-1,5\" is not a number"_s;
+            << u"one.tif"_s << u"1.5 m"_s << u"the no-data value \"1.5 m\" is not a number"_s;
         QTest::newRow("absent") << u"absent.tif"_s << QString() << u"there is no such local file"_s;
         QTest::newRow("more marks of paths than can be tried")
             << u":/"_s.repeated(50000) << QString() << u"there is no such local file"_s;

@@ -1,5 +1,6 @@
 #include "plugins/scene/buildings/GroundHeights.h"
 
+#include "contract/NoDataText.h"
 #include "linkpath/TerrainRaster.h"
 #include "localfiles/NoNetwork.h"
 #include "plugins/scene/reading/BadLayer.h"
@@ -8,7 +9,6 @@
 #include <cpl_error.h>
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 #include <limits>
 
@@ -18,16 +18,6 @@ namespace {
 
 constexpr float NoGround = std::numeric_limits<float>::quiet_NaN();
 constexpr std::size_t BuildingsPerReport = 4096;
-
-std::optional<double> numberIn(std::string text)
-{
-    std::replace(text.begin(), text.end(), ',', '.');
-    const std::size_t begin = std::min(text.find_first_not_of(" \t+"), text.size());
-    double number = 0;
-    const auto [end, fault] =
-        std::from_chars(text.data() + begin, text.data() + text.size(), number);
-    return fault == std::errc() ? std::optional(number) : std::nullopt;
-}
 
 /// The terrain as the footprints' system sees it.
 class Ground
@@ -39,8 +29,8 @@ public:
         OGRSpatialReference plane;
         plane.SetLocalCS("plane");
         std::string reason;
-        m_raster = linkpath::TerrainRaster::open(source.path, &reason,
-                                                 {numberIn(source.noData), srs ? srs : &plane});
+        m_raster = linkpath::TerrainRaster::open(
+            source.path, &reason, {contract::noDataNumber(source.noData), srs ? srs : &plane});
         if (!m_raster)
             throw BadLayer(LibraryWords{reason});
         const OGRSpatialReference &own = m_raster->srs();

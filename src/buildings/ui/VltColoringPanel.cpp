@@ -8,6 +8,7 @@
 #include "buildings/ui/RasterMessages.h"
 #include "colormaps/ColorMapList.h"
 #include "colormaps/OpenColorMap.h"
+#include "contract/NoDataText.h"
 #include "platform/Settings.h"
 #include "wizard/base/BusyWait.h"
 #include "wizard/base/Messages.h"
@@ -41,14 +42,6 @@ bool isColorMapName(const QString &path)
 {
     const QString suffix = QFileInfo(path).suffix().toLower();
     return suffix == QLatin1String("txt") || suffix == QLatin1String("cmap");
-}
-
-/// As the readers of a document understand it.
-bool isNumber(const QString &text)
-{
-    bool isOne = false;
-    QLocale::c().toDouble(text, &isOne);
-    return isOne;
 }
 
 } // namespace
@@ -164,8 +157,7 @@ QString VltColoringPanel::missingText() const
         return tr("Choose the image that colors the buildings.", "MESS_NEED_COLOR_IMAGE");
     if (!m_isUsable)
         return tr("Choose an image of one band.", "MESS_NEED_ONE_BAND");
-    const QString noData = m_ui->m_pwLeNoData->text();
-    if (!noData.isEmpty() && !isNumber(noData))
+    if (!contract::isNoDataText(m_ui->m_pwLeNoData->text().toStdString()))
         return tr("The no-data value is not a number.", "MESS_NODATA_NO_NUMBER");
     if (m_ui->m_pwCbCmap->currentIndex() < 0)
         return tr("Add a colormap.", "MESS_NEED_CMAP");
