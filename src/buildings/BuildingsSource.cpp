@@ -1,22 +1,40 @@
 #include "buildings/BuildingsSource.h"
 
+#include <utility>
+
 namespace vlt::buildings {
+
+namespace {
+
+constexpr std::pair<const char *, QString BuildingsSource::*> Texts[] = {
+    {"Buildings", &BuildingsSource::file},
+    {"Layer", &BuildingsSource::layer},
+    {"Height", &BuildingsSource::heightField},
+    {"Dtm", &BuildingsSource::terrainFile},
+    {"Nodata", &BuildingsSource::terrainNoData}};
+
+constexpr std::pair<const char *, double BuildingsSource::*> Coordinates[] = {
+    {"CenterX", &BuildingsSource::xCenter}, {"CenterY", &BuildingsSource::yCenter}};
+
+} // namespace
 
 BuildingsSource readBuildingsSource(const QVariantMap &parameters)
 {
-    const auto textOf = [&parameters](const char *key) {
-        return parameters.value(QLatin1String(key)).toString();
-    };
     BuildingsSource source;
-    source.file = textOf("Buildings");
-    source.layer = textOf("Layer");
-    source.heightField = textOf("Height");
-    source.terrainFile = textOf("Dtm");
-    source.terrainNoData = textOf("Nodata");
-    source.xCenter = parameters.value(QStringLiteral("CenterX")).toDouble();
-    source.yCenter = parameters.value(QStringLiteral("CenterY")).toDouble();
-    source.project = textOf("ProjectName");
+    for (const auto &[key, member] : Texts)
+        source.*member = parameters.value(QLatin1String(key)).toString();
+    for (const auto &[key, member] : Coordinates)
+        source.*member = parameters.value(QLatin1String(key)).toDouble();
+    source.project = parameters.value(QStringLiteral("ProjectName")).toString();
     return source;
+}
+
+void publishBuildingsSource(const BuildingsSource &source, QVariantMap &parameters)
+{
+    for (const auto &[key, member] : Texts)
+        parameters.insert(QLatin1String(key), source.*member);
+    for (const auto &[key, member] : Coordinates)
+        parameters.insert(QLatin1String(key), source.*member);
 }
 
 } // namespace vlt::buildings

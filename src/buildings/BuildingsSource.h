@@ -22,4 +22,7 @@ struct BuildingsSource
 /// "CenterX", "CenterY", "ProjectName".
 BuildingsSource readBuildingsSource(const QVariantMap &parameters);
 
+/// Into the same parameters, but for the project, which another page chooses.
+void publishBuildingsSource(const BuildingsSource &source, QVariantMap &parameters);
+
 } // namespace vlt::buildings

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "geodata/PolygonSource.h"
-#include "geodata/RasterSource.h"
+#include "buildings/BuildingsSource.h"
+#include "platform/Result.h"
 #include "wizard/base/BasePage.h"
 
 #include <memory>
@@ -10,6 +10,10 @@
 namespace Ui {
 class AddTexbFirstPage;
 }
+class FootprintPicker;
+class PathPicker;
+class QLineEdit;
+class TerrainPicker;
 
 /// The page on which building footprints, the field of their heights and the terrain are chosen.
 ///
@@ -44,6 +48,8 @@ public:
 
 public Q_SLOTS:
     void openBuildings();
+
+    /// Like typeChanged() of no effect: field and kind are read when the page is left.
     void heightChanged(int index);
 
     /// Offers the fields of a layer after those already offered, and finds out where it lies.
@@ -59,36 +65,26 @@ public Q_SLOTS:
     void openVector(const QString &path) { openVector(path, false); }
 
 private:
-    using TerrainResult = vlt::Result<vlt::geodata::RasterSummary>;
-
     void describeWidgets();
     void connectWidgets();
+    void connectLine(const QLineEdit *line, const PathPicker *picker);
     void takeProjectFiles();
-    void clearVector();
-    void showVector(const QString &path);
-    void readExtent(int layer);
-    std::optional<TerrainResult> readTerrain(const QString &path);
     void openTerrain(const QString &path);
-    void showTerrain(const QString &path, const TerrainResult &terrain);
-    void takeTypedBuildings();
-    void takeTypedDtm();
-    bool isReadableBuildings();
-    bool isReadableDtm();
-    bool isNoDataNumber();
+    void takeTyped(const PathPicker *picker);
+
+    /// Warns the user of a reason not to go on; true where there is none.
+    bool accepts(const std::optional<vlt::Error> &refusal);
     bool isPlaced();
+    vlt::buildings::BuildingsSource chosenSource() const;
     void showSummaries();
     QString pick(const QString &title, const QString &files);
-    const vlt::geodata::PolygonLayer *currentLayer() const;
 
     std::unique_ptr<Ui::AddTexbFirstPage> m_ui;
     int m_coloredPageId = 999; ///< 999: not set yet
     int m_texturedPageId = 999;
     QString m_lastUsedDir;
-    std::shared_ptr<vlt::geodata::PolygonSource> m_source; ///< null when none is open
-    std::optional<vlt::geodata::Extent> m_extent; ///< of the selected layer; none while not known
-    std::optional<vlt::geodata::RasterSummary> m_terrain;
-    QString m_projectName;     ///< that the page last took its guess from
-    QString m_openedBuildings; ///< what the line edits held when their files were opened
-    QString m_openedDtm;
-    bool m_isBusy = false;
+    FootprintPicker *m_footprints = nullptr;
+    TerrainPicker *m_terrain = nullptr;
+    QString m_projectName; ///< that the page last took its guess from
+    bool m_isBusy = false; ///< a file is being read
 };

@@ -1,0 +1,121 @@
+#include "buildings/ui/FootprintPicker.h"
+
+#include "buildings/HeightGuess.h"
+#include "buildings/SourceSummary.h"
+#include "wizard/base/BusyWait.h"
+#include "wizard/base/Messages.h"
+
+#include <QComboBox>
+#include <QScopedValueRollback>
+#include <QSignalBlocker>
+
+using namespace vlt;
+
+FootprintPicker::FootprintPicker(QWidget *page, const Widgets &widgets, bool &isBusy)
+    : PathPicker(page, widgets.path, isBusy,
+                 {QStringLiteral("MESS_ERR_OPEN_VECTORDS"),
+                  QStringLiteral("This file can't be open as a vector file")})
+    , m_widgets(widgets)
+{}
+
+void FootprintPicker::clear()
+{
+    m_source.reset();
+    m_extent.reset();
+    showPath({});
+    m_widgets.layer->clear();
+    m_widgets.height->clear();
+    Q_EMIT changed();
+}
+
+void FootprintPicker::open(const QString &path, bool silent)
+{
+    if (m_isBusy)
+        return;
+    const QScopedValueRollback busy(m_isBusy, true);
+    using Opened = Result<std::shared_ptr<geodata::PolygonSource>>;
+    // closing may take a moment as well where the features are kept in memory
+    const auto previous = std::make_shared<std::shared_ptr<geodata::PolygonSource>>(m_source);
+    clear();
+    if (path.isEmpty())
+        return;
+    const auto opened = wizard::waitForValue<Opened>(
+        page(), tr("Reading the buildings...", "MESS_READING_BUILDINGS"), [path, previous] {
+            previous->reset();
+            return geodata::PolygonSource::open(path);
+        });
+    if (!opened)
+        return;
+    if (!*opened) {
+        if (!silent)
+            messages::critical(page(), opened->error(), messages::errorTitle(),
+                               messages::PathPlace::BelowText);
+        return;
+    }
+    if (opened->value()->layers().isEmpty()) {
+        messages::critical(page(),
+                           {QStringLiteral("MESS_ERR_NOPOLY_LAY"),
+                            QStringLiteral("This datasource doesn't contain any polygon layer")});
+        return;
+    }
+    m_source = opened->value();
+    offerLayers(path);
+}
+
+void FootprintPicker::offerLayers(const QString &path)
+{
+    {
+        const QSignalBlocker quiet(m_widgets.layer); // the first entry would choose itself
+        for (const geodata::PolygonLayer &layer : m_source->layers())
+            m_widgets.layer->addItem(layer.name, layer.name);
+        m_widgets.layer->setCurrentIndex(-1);
+    }
+    m_widgets.layer->setCurrentIndex(0);
+    showPath(path);
+}
+
+const geodata::PolygonLayer *FootprintPicker::layer() const
+{
+    const int index = m_widgets.layer->currentIndex();
+    return m_source && index >= 0 && index < m_source->layers().size()
+               ? &m_source->layers().at(index)
+               : nullptr;
+}
+
+void FootprintPicker::chooseLayer(int index)
+{
+    if (index < 0) {
+        if (m_widgets.layer->count() > 0) // not where clearing the list brought this here
+            m_widgets.layer->clear();
+        return;
+    }
+    const geodata::PolygonLayer *chosen = layer();
+    if (chosen == nullptr)
+        return;
+    for (const geodata::VectorField &field : chosen->fields) {
+        if (const QString caption = buildings::heightCaption(field); !caption.isEmpty())
+            m_widgets.height->addItem(caption, field.name);
+    }
+    m_widgets.height->setCurrentIndex(buildings::guessedHeightField(chosen->fields));
+    readExtent(index);
+}
+
+void FootprintPicker::readExtent(int index)
+{
+    const QScopedValueRollback busy(m_isBusy, true);
+    m_extent.reset();
+    const std::shared_ptr<geodata::PolygonSource> source = m_source;
+    const auto extent = wizard::waitForValue<geodata::Extent>(
+        page(), tr("Looking where the buildings are...", "MESS_READING_EXTENT"),
+        [source, index] { return source->extent(index); });
+    if (m_source == source && m_widgets.layer->currentIndex() == index)
+        m_extent = extent;
+    Q_EMIT changed();
+}
+
+bool FootprintPicker::locate()
+{
+    if (!m_extent)
+        readExtent(m_widgets.layer->currentIndex());
+    return m_extent.has_value();
+}

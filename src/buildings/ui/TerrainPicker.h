@@ -1,0 +1,52 @@
+#pragma once
+
+#include "buildings/ui/PathPicker.h"
+#include "geodata/RasterSource.h"
+
+class QProgressBar;
+
+/// The terrain of the source page: its raster and the value of no data.
+class TerrainPicker : public PathPicker
+{
+    Q_OBJECT
+
+public:
+    using Summary = vlt::Result<vlt::geodata::RasterSummary>;
+
+    struct Widgets
+    {
+        QLineEdit *path = nullptr;
+        QLineEdit *noData = nullptr;
+        QProgressBar *progress = nullptr; ///< shown while the value of no data is guessed
+    };
+
+    TerrainPicker(QWidget *page, const Widgets &widgets, bool &isBusy);
+
+    /// Opens a raster; an empty path only closes what was open. A box tells where it cannot be
+    /// used.
+    void open(const QString &path);
+
+    /// Reads a raster without taking it; nothing where the user stopped it.
+    std::optional<Summary> read(const QString &path);
+
+    /// Takes a raster that was read.
+    void show(const QString &path, const Summary &terrain);
+
+    void guessNoData();
+
+    /// Why the value of no data cannot be used; nothing where it can.
+    std::optional<vlt::Error> wrongNoData() const;
+
+    /// Nothing where no usable raster is open.
+    const std::optional<vlt::geodata::RasterSummary> &summary() const { return m_summary; }
+
+Q_SIGNALS:
+    /// A raster cannot be opened; after changed().
+    ///
+    /// @param reason  for the user, with the name of the file
+    void failed(const QString &reason);
+
+private:
+    Widgets m_widgets;
+    std::optional<vlt::geodata::RasterSummary> m_summary;
+};
