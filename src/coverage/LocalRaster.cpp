@@ -14,7 +14,7 @@ namespace vlt::coverage {
 
 namespace {
 
-constexpr double MostBlockPixels = 1 << 27; ///< of the file's own blocks, which are read whole
+constexpr double MaxBlockPixels = 1 << 27; ///< of the file's own blocks, which are read whole
 
 /// What in a name may be the path of a file: between a colon, comma or quotation mark and another
 /// one after it.
@@ -83,7 +83,7 @@ bool hasLargeBlocks(GDALDataset &dataset)
         int width = 0;
         int height = 0;
         dataset.GetRasterBand(i)->GetBlockSize(&width, &height);
-        if (static_cast<double>(width) * height > MostBlockPixels)
+        if (static_cast<double>(width) * height > MaxBlockPixels)
             return true;
     }
     return false;

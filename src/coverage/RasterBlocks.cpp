@@ -13,7 +13,7 @@ namespace vlt::coverage {
 namespace {
 
 constexpr int BlockSide = 256;
-constexpr std::size_t MostBlocks = 256; ///< 128 MiB
+constexpr std::size_t MaxBlocks = 256; ///< 128 MiB
 
 std::optional<double> declaredNoData(GDALRasterBand &band)
 {
@@ -87,7 +87,7 @@ const RasterBlocks::Block &RasterBlocks::block(int column, int row)
         m_recent.splice(m_recent.begin(), m_recent, found->second.place);
         return found->second;
     }
-    if (m_blocks.size() >= MostBlocks) {
+    if (m_blocks.size() >= MaxBlocks) {
         m_blocks.erase(m_recent.back());
         m_recent.pop_back();
     }

@@ -7,10 +7,10 @@ namespace vlt::coverage {
 
 namespace {
 
-constexpr std::size_t MostWaiting = 1 << 18;
+constexpr std::size_t MaxWaiting = 1 << 18;
 
 // Beyond this many different values those that came only once are given up, to bound the memory.
-constexpr std::size_t MostCounts = 1 << 22;
+constexpr std::size_t MaxCounts = 1 << 22;
 
 } // namespace
 
@@ -31,7 +31,7 @@ void ValueReducer::count(double value)
     if (m_reduction != Reduction::MostRepresented)
         return;
     m_waiting.push_back(value);
-    if (m_waiting.size() >= MostWaiting)
+    if (m_waiting.size() >= MaxWaiting)
         gather();
 }
 
@@ -54,7 +54,7 @@ void ValueReducer::gather()
     for (; known != m_counts.end(); ++known)
         add(known->first, known->second);
     m_waiting.clear();
-    if (counts.size() > MostCounts)
+    if (counts.size() > MaxCounts)
         std::erase_if(counts, [](const auto &one) { return one.second == 1; });
     m_counts = std::move(counts);
 }

@@ -197,14 +197,14 @@ private Q_SLOTS:
             if (!tree.isTile())
                 continue;
             ++tileCount;
-            QVERIFY(tree.buildings.size() <= MostBuildingsPerTile);
+            QVERIFY(tree.buildings.size() <= MaxBuildingsPerTile);
             for (const std::uint32_t building : tree.buildings)
                 ++found[building];
             QVERIFY(tree.bound.xMax() - tree.bound.xMin() - 8 <= widest);
             QVERIFY(tree.bound.yMax() - tree.bound.yMin() - 8 <= widest);
         }
         QCOMPARE(found, std::vector<int>(Side * Side, 1));
-        QVERIFY(tileCount <= MostTiles);
+        QVERIFY(tileCount <= MaxTiles);
     }
 
     void aTownMayBeEmptyOrOnePlace()

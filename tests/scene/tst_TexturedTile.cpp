@@ -297,9 +297,9 @@ private Q_SLOTS:
             [](int column, int, int) { return column < Side / 2 ? 0 : 200; },
             [](GDALDataset &image) { image.GetRasterBand(1)->SetNoDataValue(0); });
 
-        const ImageCrop crop = openImage(path)->crop({{0, 0}, {Side, Side}}, 100, MostCropPixels);
+        const ImageCrop crop = openImage(path)->crop({{0, 0}, {Side, Side}}, 100, MaxCropPixels);
 
-        QCOMPARE(std::max(crop.image->s(), crop.image->t()), MostCropPixels);
+        QCOMPARE(std::max(crop.image->s(), crop.image->t()), MaxCropPixels);
         const auto opacityAt = [&crop](double column) {
             return colorAt(*crop.image, crop.coordinates({column, 1000.5}))[3];
         };
@@ -311,7 +311,7 @@ private Q_SLOTS:
         Town town = townOf({square(10, 10, 10 * Side - 20)}, 9);
         BuildingTextures look;
         look.images = {{path, 9}};
-        QCOMPARE(Tile(town, look, *open(town, look)).imageColumns, MostCropPixels);
+        QCOMPARE(Tile(town, look, *open(town, look)).imageColumns, MaxCropPixels);
         town.footprints.buildings.resize(100000);
         const int columns = Tile(town, look, *open(town, look)).imageColumns;
         QVERIFY(columns > 0 && columns <= 64);

@@ -20,7 +20,7 @@ namespace {
 
 constexpr double Endless = std::numeric_limits<double>::infinity();
 constexpr std::size_t FeaturesPerReport = 2000;
-constexpr double LeastAreaShare = 1e-9; ///< of the square of a ring's extent
+constexpr double MinAreaShare = 1e-9; ///< of the square of a ring's extent
 constexpr int DeepestCollection = 8;
 
 /// Adds the polygons of one feature after the other to the flat arrays.
@@ -98,7 +98,7 @@ private:
             extent = std::max({extent, std::abs(at.x()), std::abs(at.y())});
             before = at;
         }
-        const double least = LeastAreaShare * extent * extent;
+        const double least = MinAreaShare * extent * extent;
         return std::abs(doubled) > least || crossedArea(ring) * 2 > least;
     }
 
@@ -206,7 +206,7 @@ void readFeatures(OGRLayer &layer, int heightField, ReadFootprints &read, Notice
     const auto expected = static_cast<double>(std::max<GIntBig>(layer.GetFeatureCount(FALSE), 1));
     FootprintBuilder builder(read.footprints);
     while (const OGRFeatureUniquePtr feature = nextReadable(layer, read.features, notices)) {
-        if (read.footprints.places.size() > MostPlaces) {
+        if (read.footprints.places.size() > MaxPlaces) {
             notices.push_back(
                 contract::formatted("MESS_SCENE_SHOWN_PARTLY", {std::to_string(read.features)}));
             return;

@@ -9,7 +9,7 @@
 namespace vlt::scene {
 
 /// Most points of all footprints that are read: half a gigabyte, most towns have a hundredth of it.
-inline constexpr std::size_t MostPlaces = 30'000'000;
+inline constexpr std::size_t MaxPlaces = 30'000'000;
 
 /// Highest building; what claims to be higher has no height but some mark that there is none.
 inline constexpr double HighestBuildingM = 10000;

@@ -57,11 +57,11 @@ void ImageFaces::addWall(const Wall &wall, double bottom, double top, const osg:
 
 osg::ref_ptr<osg::Geometry> ImageFaces::geometry(TextureImage &image,
                                                  const contract::BuildingTextures &textures,
-                                                 const osg::StateSet &state, int mostSide) const
+                                                 const osg::StateSet &state, int maxSide) const
 {
     std::vector<osg::Vec2d> pixels = m_looked;
     image.toPixels(pixels);
-    const ImageCrop crop = image.crop(pixels, textures.dilatationPixels.value_or(0), mostSide);
+    const ImageCrop crop = image.crop(pixels, textures.dilatationPixels.value_or(0), maxSide);
 
     const auto size = static_cast<unsigned>(m_vertices.size());
     osg::ref_ptr<osg::Geometry> geometry = new osg::Geometry;

@@ -40,10 +40,10 @@ public:
     /// The drawable with the part of the image that it needs.
     ///
     /// @param state     what all such faces have in common
-    /// @param mostSide  of the part of the image, in pixels: TextureImage::crop()
+    /// @param maxSide  of the part of the image, in pixels: TextureImage::crop()
     osg::ref_ptr<osg::Geometry> geometry(TextureImage &image,
                                          const contract::BuildingTextures &textures,
-                                         const osg::StateSet &state, int mostSide) const;
+                                         const osg::StateSet &state, int maxSide) const;
 
 private:
     std::uint32_t vertex(const osg::Vec2d &place, double z, const osg::Vec3 &normal,

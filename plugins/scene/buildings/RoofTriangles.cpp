@@ -9,8 +9,8 @@ namespace vlt::scene {
 
 namespace {
 
-constexpr std::size_t MostFanCentres = 12; ///< tried, of a ring that has not more points
-constexpr double AreaTolerance = 1e-6;     ///< of the whole area
+constexpr std::size_t MaxFanCentres = 12; ///< tried, of a ring that has not more points
+constexpr double AreaTolerance = 1e-6;    ///< of the whole area
 constexpr double WholeTurn = 2 * 3.14159265358979324;
 
 double cross(const osg::Vec2d &a, const osg::Vec2d &b)
@@ -153,7 +153,7 @@ double RoofTriangles::area() const
 bool RoofTriangles::cutAsFan()
 {
     const std::size_t size = m_points.size();
-    const std::size_t centres = size > MostFanCentres ? 1 : size;
+    const std::size_t centres = size > MaxFanCentres ? 1 : size;
     for (std::size_t centre = 0; centre < centres; ++centre) {
         if (fanFrom(centre))
             return true;

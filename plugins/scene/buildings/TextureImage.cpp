@@ -15,7 +15,7 @@ namespace vlt::scene {
 namespace {
 
 constexpr double Opaque = 255;
-constexpr double MostDilatation = 256;
+constexpr double MaxDilatation = 256;
 
 /// With its rims; compressed textures consist of blocks of four by four.
 int sideFor(int pixels)
@@ -154,7 +154,7 @@ void TextureImage::toPixels(std::vector<osg::Vec2d> &places)
 }
 
 std::optional<TextureImage::Window> TextureImage::windowOf(const std::vector<osg::Vec2d> &pixels,
-                                                           double margin, int mostSide) const
+                                                           double margin, int maxSide) const
 {
     osg::Vec2d least(HUGE_VAL, HUGE_VAL);
     osg::Vec2d most(-HUGE_VAL, -HUGE_VAL);
@@ -175,8 +175,8 @@ std::optional<TextureImage::Window> TextureImage::windowOf(const std::vector<osg
     if (window.width <= 0 || window.height <= 0)
         return std::nullopt;
     constexpr int Rims = 2;
-    window.readWidth = std::min(window.width, mostSide - Rims);
-    window.readHeight = std::min(window.height, mostSide - Rims);
+    window.readWidth = std::min(window.width, maxSide - Rims);
+    window.readHeight = std::min(window.height, maxSide - Rims);
     return window;
 }
 
@@ -236,11 +236,11 @@ void TextureImage::read(GDALDataset &dataset, const Window &window, osg::Image &
     }
 }
 
-ImageCrop TextureImage::crop(const std::vector<osg::Vec2d> &pixels, double dilatation, int mostSide)
+ImageCrop TextureImage::crop(const std::vector<osg::Vec2d> &pixels, double dilatation, int maxSide)
 {
     constexpr double Margin = 2; // what filters mix in
-    const double grown = std::clamp(dilatation, 0.0, MostDilatation);
-    const std::optional<Window> window = windowOf(pixels, Margin + grown, mostSide);
+    const double grown = std::clamp(dilatation, 0.0, MaxDilatation);
+    const std::optional<Window> window = windowOf(pixels, Margin + grown, maxSide);
     if (!window)
         return {seeThrough(sideFor(1), sideFor(1)), {}, {}};
     const osg::Vec2d scale(static_cast<double>(window->readWidth) / window->width,

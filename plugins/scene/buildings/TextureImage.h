@@ -18,7 +18,7 @@
 namespace vlt::scene {
 
 /// Most pixels of a part along either side; larger ones are read coarser.
-inline constexpr int MostCropPixels = 1024;
+inline constexpr int MaxCropPixels = 1024;
 
 /// A part of an image as a texture: red, green, blue and opacity, between a rim of pixels that are
 /// see-through. Its first row is the image's upper one.
@@ -54,9 +54,9 @@ public:
     ///
     /// @param pixels      the places, from toPixels()
     /// @param dilatation  pixels that colours grow into empty ones
-    /// @param mostSide    2 .. MostCropPixels
+    /// @param maxSide     2 .. MaxCropPixels
     /// @return            see-through where the image does not reach them or cannot be read
-    ImageCrop crop(const std::vector<osg::Vec2d> &pixels, double dilatation, int mostSide);
+    ImageCrop crop(const std::vector<osg::Vec2d> &pixels, double dilatation, int maxSide);
 
 private:
     struct Window;
@@ -67,7 +67,7 @@ private:
     void chooseBands();
     void findLevels();
     std::optional<Window> windowOf(const std::vector<osg::Vec2d> &pixels, double margin,
-                                   int mostSide) const;
+                                   int maxSide) const;
     void read(GDALDataset &dataset, const Window &window, osg::Image &image) const;
     Values opacity(GDALDataset &dataset, const Window &window) const;
 

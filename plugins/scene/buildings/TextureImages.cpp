@@ -16,8 +16,8 @@ namespace vlt::scene {
 
 namespace {
 
-constexpr std::size_t MostOpenFiles = 128;
-constexpr std::size_t MostNotices = 10;
+constexpr std::size_t MaxOpenFiles = 128;
+constexpr std::size_t MaxNotices = 10;
 
 // Level faces have the colours of the legend; walls are a little darker the less they face the
 // viewer, so that one sees their corners.
@@ -113,16 +113,16 @@ std::shared_ptr<TextureImages> TextureImages::open(const Town &town,
                 throw BadLayer("MESS_SCENE_SAME_HEIGHT");
             levels.push_back(
                 {one.heightM, TextureImage::open(coverage::locateRaster(one.path, directories),
-                                                 town.srs, levels.size() < MostOpenFiles)});
+                                                 town.srs, levels.size() < MaxOpenFiles)});
         } catch (const BadLayer &fault) {
-            if (++refused <= MostNotices)
+            if (++refused <= MaxNotices)
                 notices.push_back(
                     contract::formatted("MESS_SCENE_BAD_IMAGE", {one.path, fault.what()}));
         }
     }
-    if (refused > MostNotices)
+    if (refused > MaxNotices)
         notices.push_back(
-            contract::formatted("MESS_SCENE_MORE_IMAGES", {std::to_string(refused - MostNotices)}));
+            contract::formatted("MESS_SCENE_MORE_IMAGES", {std::to_string(refused - MaxNotices)}));
     std::sort(levels.begin(), levels.end(),
               [](const Level &a, const Level &b) { return a.heightM < b.heightM; });
     return all;

@@ -17,9 +17,9 @@ namespace {
 
 using Places = std::vector<osg::Vec2d>;
 
-constexpr double MostPixelsPerTile = 1 << 21; ///< 8 MiB, of all images together
-constexpr double MostPixelsPerTown = 1 << 27; ///< tiles stay once they are made
-constexpr int LeastSide = 64;
+constexpr double MaxPixelsPerTile = 1 << 21; ///< 8 MiB, of all images together
+constexpr double MaxPixelsPerTown = 1 << 27; ///< tiles stay once they are made
+constexpr int MinSide = 64;
 
 osg::Vec4ub opaque(const colormaps::Rgba &color)
 {
@@ -75,7 +75,7 @@ public:
         const bool isRoofs = m_textures.mode == contract::TextureMode::Roofs;
         addPlain(*geode, m_plain, Plain::All);
         addPlain(*geode, m_rest, isRoofs ? Plain::Walls : Plain::Roofs);
-        const int side = mostSide();
+        const int side = maxSide();
         for (std::size_t i = 0; i < m_faces.size(); ++i) {
             if (!m_faces[i].isEmpty())
                 geode->addDrawable(m_faces[i].geometry(*m_images.levels()[i].image, m_textures,
@@ -114,15 +114,15 @@ private:
     }
 
     /// Of the part of each image: the tile has as much of the town's memory as of its buildings.
-    int mostSide() const
+    int maxSide() const
     {
         const double share =
             static_cast<double>(m_count) / static_cast<double>(m_town.footprints.buildings.size());
         const auto images = std::count_if(m_faces.begin(), m_faces.end(),
                                           [](const ImageFaces &faces) { return !faces.isEmpty(); });
-        const double pixels = std::min(MostPixelsPerTile, share * MostPixelsPerTown) /
+        const double pixels = std::min(MaxPixelsPerTile, share * MaxPixelsPerTown) /
                               static_cast<double>(std::max<std::ptrdiff_t>(images, 1));
-        return std::clamp(static_cast<int>(std::sqrt(pixels)), LeastSide, MostCropPixels);
+        return std::clamp(static_cast<int>(std::sqrt(pixels)), MinSide, MaxCropPixels);
     }
 
     /// Above the origin.

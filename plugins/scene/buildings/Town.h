@@ -24,7 +24,8 @@ struct Footprints
     {
         std::uint32_t begin = 0; ///< in `places`
         std::uint32_t end = 0;
-        bool isHole = false; ///< in the part that the last ring before it which is none begins
+        bool isHole =
+            false; ///< of the part whose outline is the last ring before it that is no hole
     };
 
     struct Building

@@ -117,7 +117,7 @@ public:
     TownBuilder(std::shared_ptr<const Content> content, const Progress &progress)
         : m_content(std::move(content))
         , m_progress(progress)
-        , m_isDeferred(m_content->town->places.size() > MostPlacesAtOnce)
+        , m_isDeferred(m_content->town->places.size() > MaxPlacesAtOnce)
     {}
 
     osg::ref_ptr<osg::Node> branch(const TownTree &tree, bool isInBlock)

@@ -24,7 +24,7 @@ struct TownLook
 };
 
 /// Where a town has more points, its tiles are made when they are drawn for the first time.
-inline constexpr std::size_t MostPlacesAtOnce = 3'000'000;
+inline constexpr std::size_t MaxPlacesAtOnce = 3'000'000;
 
 /// From where on buildings are simpler: a pixel is as wide as so many metres or more. Those larger
 /// than some pixels stay as they were.

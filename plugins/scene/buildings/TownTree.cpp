@@ -9,7 +9,7 @@ namespace vlt::scene {
 namespace {
 
 constexpr unsigned LevelsInTile = 6; ///< by which a tile can be quartered
-constexpr double MostCells = 1 << 30;
+constexpr double MaxCells = 1 << 30;
 
 /// Spreads the bits of a number, every other one zero.
 std::uint64_t spread(std::uint64_t bits)
@@ -64,8 +64,8 @@ public:
             most.set(std::max(most.x(), at.x()), std::max(most.y(), at.y()));
         }
         const double extent = std::max({most.x() - least.x(), most.y() - least.y(), 1.0});
-        tileSizeM = std::clamp(tileSizeM, extent / MostCells, extent);
-        const double cell = std::max(tileSizeM / (1 << LevelsInTile), extent / MostCells);
+        tileSizeM = std::clamp(tileSizeM, extent / MaxCells, extent);
+        const double cell = std::max(tileSizeM / (1 << LevelsInTile), extent / MaxCells);
         // tiles begin at the middle of the town, whatever its extent
         const osg::Vec2d corner(std::floor(least.x() / tileSizeM) * tileSizeM,
                                 std::floor(least.y() / tileSizeM) * tileSizeM);
@@ -77,7 +77,7 @@ public:
         std::sort(order.begin(), order.end(), [this](std::uint32_t a, std::uint32_t b) {
             return m_codes[a] != m_codes[b] ? m_codes[a] < m_codes[b] : a < b;
         });
-        while (countTiles() > MostTiles)
+        while (countTiles() > MaxTiles)
             m_tileShift += 2;
     }
 
@@ -108,7 +108,7 @@ private:
             shift -= 2;
         auto tree = std::make_unique<TownTree>();
         tree->buildings = buildings;
-        if (shift == 0 || (shift <= m_tileShift && buildings.size() <= MostBuildingsPerTile)) {
+        if (shift == 0 || (shift <= m_tileShift && buildings.size() <= MaxBuildingsPerTile)) {
             for (const std::uint32_t building : buildings)
                 tree->bound.expandBy(boundOf(m_town, building));
             return tree;

@@ -9,10 +9,10 @@
 namespace vlt::scene {
 
 /// Most buildings of a tile: where more are in one, it is quartered.
-inline constexpr std::size_t MostBuildingsPerTile = 2048;
+inline constexpr std::size_t MaxBuildingsPerTile = 2048;
 
 /// Most tiles of a town: where the size asks for more, it is doubled until there are fewer.
-inline constexpr std::size_t MostTiles = 16384;
+inline constexpr std::size_t MaxTiles = 16384;
 
 /// The buildings of a town in square tiles, four neighbouring branches in one.
 struct TownTree

@@ -106,11 +106,11 @@ void VltBuildingPreview::setAutoRefresh(bool on)
 
 void VltBuildingPreview::showMessage(const QString &text)
 {
-    constexpr int MostLines = 3;
+    constexpr int MaxLines = 3;
     const QStringList lines = text.split(QLatin1Char('\n'));
-    m_ui->m_pwLblScene->setText(lines.mid(0, MostLines).join(QLatin1Char('\n')));
-    m_ui->m_pwLblScene->setToolTip(lines.size() > MostLines ? vlt::text::asRichText(text)
-                                                            : QString());
+    m_ui->m_pwLblScene->setText(lines.mid(0, MaxLines).join(QLatin1Char('\n')));
+    m_ui->m_pwLblScene->setToolTip(lines.size() > MaxLines ? vlt::text::asRichText(text)
+                                                           : QString());
 }
 
 void VltBuildingPreview::showLayer(const QString &path, const QString &project)

@@ -38,11 +38,11 @@ void VltLegendView::fit()
         return;
     }
     constexpr double PixelsPerUnit = 2; // legends are drawn for fine screens
-    constexpr double LeastShare = 0.75;
+    constexpr double MinShare = 0.75;
     const int textHeight = 2 * fontMetrics().lineSpacing();
     const QSizeF size = QSizeF(m_legend.size()) / PixelsPerUnit;
     const double share = (height() - textHeight) / size.height();
-    const QSize shown = (size * qBound(LeastShare, share, 1.0)).toSize();
+    const QSize shown = (size * qBound(MinShare, share, 1.0)).toSize();
 
     // a label would leave out pixels of an image that is too large
     QByteArray png;
