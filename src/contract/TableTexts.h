@@ -22,11 +22,11 @@ inline constexpr auto TableTexts = std::to_array<Text>({
 
     // files of another kind
     {"MESS_TAB_EMPTY_FILE", "the file is empty"},
-    {"MESS_TAB_BLANK_FILE", "there is nothing but white space in the file"},
+    {"MESS_TAB_BLANK_FILE", "the file holds only white space"},
     {"MESS_TAB_BINARY_FILE", "this is neither a text nor a workbook"},
     {"MESS_TAB_ENCODING", "the encoding \"%1\" is not known"},
     {"MESS_TAB_PDF", "this is a PDF document, not a table"},
-    {"MESS_TAB_JSON", "this looks like JSON, not like a table"},
+    {"MESS_TAB_JSON", "this is JSON, not a table"},
     {"MESS_TAB_SYLK", "this is a SYLK file: save it as .xlsx or .csv"},
     {"MESS_TAB_WEB_PAGE", "this is a web page, not a workbook: save it as .xlsx or .csv"},
     {"MESS_TAB_OPEN_DOCUMENT", "this is an OpenDocument file: save it as .xlsx or .csv"},
@@ -37,7 +37,7 @@ inline constexpr auto TableTexts = std::to_array<Text>({
     {"MESS_TAB_OTHER_XML",
      "this XML file is not a SpreadsheetML 2003 workbook: its root element is <%1>"},
     {"MESS_TAB_DOCUMENT_TYPE",
-     "the XML file declares a document type, which tables do not need and attacks do"},
+     "the XML file declares a document type, which tables do not need and attacks use"},
     {"MESS_TAB_PASSWORD", "the workbook is protected by a password"},
 
     // damaged files
@@ -52,13 +52,13 @@ inline constexpr auto TableTexts = std::to_array<Text>({
     {"MESS_TAB_SHEET_MISPLACED", "the workbook is damaged: a sheet is not where it should be"},
     {"MESS_TAB_TEXTS_CUT", "the workbook is damaged: its texts are cut short"},
     {"MESS_TAB_NO_PART", "the workbook lacks its part %1"},
-    {"MESS_TAB_PART_TOO_LARGE", "a part of the workbook is unreasonably large"},
-    {"MESS_TAB_COMPRESSION", "the workbook is packed by an unusual compression method"},
+    {"MESS_TAB_PART_TOO_LARGE", "a part of the workbook is too large"},
+    {"MESS_TAB_COMPRESSION", "the compression method of the workbook is not supported"},
     {"MESS_TAB_DATA_DAMAGED", "the compressed data of the workbook are damaged"},
     {"MESS_TAB_DATA_CUT", "the compressed data of the workbook are cut short"},
-    {"MESS_TAB_CHECK_SUM", "the compressed data of the workbook fail their check sum"},
+    {"MESS_TAB_CHECK_SUM", "the compressed data of the workbook do not match their checksum"},
     {"MESS_TAB_NO_ROOT_ELEMENT", "the XML file has no root element"},
-    {"MESS_TAB_LONG_TAG", "a tag or comment in the XML is unreasonably long"},
+    {"MESS_TAB_LONG_TAG", "a tag or comment in the XML is too long"},
     {"MESS_TAB_LONG_ROW", "a single row is longer than 256 MiB"},
 
     // files that hold no table of sites
@@ -82,7 +82,7 @@ inline constexpr auto TableTexts = std::to_array<Text>({
     {"MESS_TAB_UNKNOWN_SRS", "the coordinate system \"%1\" is not known"},
     {"MESS_TAB_NOT_HORIZONTAL", "the coordinate system \"%1\" is vertical or geocentric: it has "
                                 "no horizontal coordinates"},
-    {"MESS_TAB_NO_WAY", "there is no way from the coordinate system \"%1\" to \"%2\""},
+    {"MESS_TAB_NO_WAY", "there is no transformation from the coordinate system \"%1\" to \"%2\""},
     {"MESS_TAB_UNKNOWN_EPSG",
      "the file declares the coordinate system EPSG:%1, which is not known"},
     {"MESS_TAB_NO_SOURCE_SRS",
@@ -93,16 +93,17 @@ inline constexpr auto TableTexts = std::to_array<Text>({
     // rows that cannot be read in full
     {"MESS_TAB_FURTHER_PROBLEMS",
      "further problems are listed in the layer's metadata domain \"problems\""},
-    {"MESS_TAB_ENCODING_GUESSED", "the file does not tell its encoding: its texts are read as %1"},
+    {"MESS_TAB_ENCODING_GUESSED",
+     "the file does not declare its encoding: its texts are read as %1"},
     {"MESS_TAB_NO_COORDINATES", "no columns with coordinates were recognised"},
     {"MESS_TAB_BEHIND_LAST",
-     "the row goes on behind the last column: \"%1\" in column %2 has no header"},
+     "the row continues after the last column: \"%1\" in column %2 has no header"},
     {"MESS_TAB_MISSING_TEXT",
      "the text of the cell is lost: the workbook has no text number \"%1\""},
-    {"MESS_TAB_SWALLOWED_ROWS", "a quotation mark opens here and swallows the rows below, %1 in "
+    {"MESS_TAB_SWALLOWED_ROWS", "a quotation mark opens here and takes in the rows below, %1 in "
                                 "number: one is missing or too many"},
     {"MESS_TAB_UNREADABLE_BYTES",
-     "bytes that mean nothing in the encoding %1 were replaced: %2 in this row"},
+     "bytes that are not valid in the encoding %1 were replaced: %2 in this row"},
     {"MESS_TAB_TEXT_CUT", "the text is too long: only its first characters are kept, %1 in number"},
     {"MESS_TAB_ZEROS", "zero bytes inside the text were taken out"},
     {"MESS_TAB_LOST_VALUE", "the value \"%1\" is lost: the column holds numbers"},
@@ -146,7 +147,7 @@ inline constexpr auto TableTexts = std::to_array<Text>({
      "the coordinate \"%1\" cannot be read: it has both a minus sign and a hemisphere letter"},
     {"MESS_TAB_TWO_LETTERS", "the coordinate \"%1\" cannot be read: it has two hemisphere letters"},
     {"MESS_TAB_NO_HEMISPHERE",
-     "the coordinate \"%1\" cannot be read: it has a letter that is no hemisphere"},
+     "the coordinate \"%1\" cannot be read: it has a letter that is not a hemisphere"},
     {"MESS_TAB_OTHER_AXIS", "the coordinate \"%1\" cannot be read: the hemisphere letter belongs "
                             "to the other coordinate"},
     {"MESS_TAB_LETTER_O", "the coordinate \"%1\" cannot be read: the letter O may mean west "

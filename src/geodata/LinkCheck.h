@@ -42,8 +42,8 @@ struct LinkCheck
 };
 
 /// The one text of LinkCheck::terrainProblem that is not a reason why the file cannot be read.
-inline const QString TerrainElsewhere =
-    QStringLiteral("no way leads from the coordinate system of the links to that of the terrain");
+inline const QString TerrainElsewhere = QStringLiteral(
+    "there is no transformation from the coordinate system of the links to that of the terrain");
 
 /// Why a file cannot serve as terrain; empty where it can.
 QString terrainProblem(const QString &terrainFile);

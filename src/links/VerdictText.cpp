@@ -64,8 +64,9 @@ QString reasonText(const QString &reason)
 QString terrainProblemText(const QString &problem)
 {
     if (problem == geodata::TerrainElsewhere)
-        return dico_label("MESS_TERRAIN_ELSEWHERE", "no way leads from the coordinate system of "
-                                                    "the links to that of the terrain");
+        return dico_label("MESS_TERRAIN_ELSEWHERE",
+                          "there is no transformation from the coordinate system of "
+                          "the links to that of the terrain");
     return dico_label("MESS_TERRAIN_UNREADABLE",
                       "the terrain file cannot be read as a georeferenced raster") +
            QStringLiteral(" (") + reasonText(problem) + QLatin1Char(')');

@@ -95,7 +95,8 @@ private Q_SLOTS:
         for (const char *text :
              {"", "%1", "the file is empty.", "The file is empty", "sites: the file is empty",
               "the coordinate \"1\" cannot be read: it is late", "the workbook lacks its part",
-              "there is no way from the coordinate system \"4326\" at all", "le fichier est vide"})
+              "there is no transformation from the coordinate system \"4326\" at all",
+              "le fichier est vide"})
             QTest::newRow(*text ? text : "nothing") << QByteArray(text);
     }
     void leavesOtherTextsAlone()

@@ -24,7 +24,7 @@ def encodings(m):
     m.open("odd_utf16.csv", usual.encode("utf-16") + b"\n", "half a character at the end of UTF-16")
 
     accents = lines(with_sectors(lambda i: "\u00e9")).encode()
-    unreadable = "|bytes that mean nothing in the encoding UTF-8 were replaced: "
+    unreadable = "|bytes that are not valid in the encoding UTF-8 were replaced: "
     m.open("bad_byte.csv", accents.replace(b"S0007;", b"S0007\xe9;"), "one byte of Latin-1 in UTF-8",
            problems="1|8|" + unreadable + "1 in this row")
     m.open("bom_bad_byte.csv", b"\xef\xbb\xbf" + usual.encode().replace(b"S0007;", b"S0007\xe9;"),
@@ -59,7 +59,7 @@ def quotes(m):
     usual = lines(table())
     swallowing = usual.replace("S0003", '"S0003').replace("S0009", '"S0009')
     m.open("swallowed_rows.csv", swallowing, "stray quotes in two rows", rows=34,
-           problems="1|4|Site ID|a quotation mark opens here and swallows the rows below, 6 in number: "
+           problems="1|4|Site ID|a quotation mark opens here and takes in the rows below, 6 in number: "
                     "one is missing or too many")
     m.open("addresses.csv", lines(with_sectors(lambda i: '"Mill Lane, Ely, CB7\nUK, EU"'), ","),
            "as many commas as make a row up to the line break, but not behind it", problems="0|0||")

@@ -117,7 +117,7 @@ private Q_SLOTS:
                            "holds numbers"),
             QStringLiteral("PROBLEM_5=1402|Lon|Error|the coordinate \"east\" cannot be read: it "
                            "holds no number"),
-            QStringLiteral("PROBLEM_6=1403||Warning|the row goes on behind the last column: "
+            QStringLiteral("PROBLEM_6=1403||Warning|the row continues after the last column: "
                            "\"more\" in column 5 has no header")};
         const auto walked = open("w.csv");
         OGRLayer *layer = walked->GetLayer(0);
@@ -316,8 +316,9 @@ private Q_SLOTS:
         QCOMPARE(read.join(';'), names);
         const QStringList guess = {
             QStringLiteral("COUNT=1"),
-            QStringLiteral("PROBLEM_1=||Warning|the file does not tell its encoding: its texts are "
-                           "read as ") +
+            QStringLiteral(
+                "PROBLEM_1=||Warning|the file does not declare its encoding: its texts are "
+                "read as ") +
                 QString::fromUtf8(encoding)};
         QCOMPARE(problemsOf(*layer), isGuess ? guess : QStringList{QStringLiteral("COUNT=0")});
     }

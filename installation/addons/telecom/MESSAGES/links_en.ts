@@ -52,8 +52,8 @@
         <translation>its format is not a known raster format</translation>
     </message>
     <message id="MESS_TERRAIN_ELSEWHERE">
-        <source>no way leads from the coordinate system of the links to that of the terrain</source>
-        <translation>no way leads from the coordinate system of the links to that of the terrain</translation>
+        <source>there is no transformation from the coordinate system of the links to that of the terrain</source>
+        <translation>there is no transformation from the coordinate system of the links to that of the terrain</translation>
     </message>
 </context>
 <context>

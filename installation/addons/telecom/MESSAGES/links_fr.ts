@@ -52,8 +52,8 @@
         <translation>son format n'est pas un format d'image connu</translation>
     </message>
     <message id="MESS_TERRAIN_ELSEWHERE">
-        <source>no way leads from the coordinate system of the links to that of the terrain</source>
-        <translation>aucun passage ne mène du système de coordonnées des liaisons à celui du terrain</translation>
+        <source>there is no transformation from the coordinate system of the links to that of the terrain</source>
+        <translation>il n'existe pas de transformation du système de coordonnées des liaisons vers celui du terrain</translation>
     </message>
 </context>
 <context>

@@ -48,8 +48,8 @@
         <translation>the file is empty</translation>
     </message>
     <message id="MESS_TAB_BLANK_FILE">
-        <source>there is nothing but white space in the file</source>
-        <translation>there is nothing but white space in the file</translation>
+        <source>the file holds only white space</source>
+        <translation>the file holds only white space</translation>
     </message>
     <message id="MESS_TAB_BINARY_FILE">
         <source>this is neither a text nor a workbook</source>
@@ -64,8 +64,8 @@
         <translation>this is a PDF document, not a table</translation>
     </message>
     <message id="MESS_TAB_JSON">
-        <source>this looks like JSON, not like a table</source>
-        <translation>this looks like JSON, not like a table</translation>
+        <source>this is JSON, not a table</source>
+        <translation>this is JSON, not a table</translation>
     </message>
     <message id="MESS_TAB_SYLK">
         <source>this is a SYLK file: save it as .xlsx or .csv</source>
@@ -100,8 +100,8 @@
         <translation>this XML file is not a SpreadsheetML 2003 workbook: its root element is &lt;%1&gt;</translation>
     </message>
     <message id="MESS_TAB_DOCUMENT_TYPE">
-        <source>the XML file declares a document type, which tables do not need and attacks do</source>
-        <translation>the XML file declares a document type, which tables do not need and attacks do</translation>
+        <source>the XML file declares a document type, which tables do not need and attacks use</source>
+        <translation>the XML file declares a document type, which tables do not need and attacks use</translation>
     </message>
     <message id="MESS_TAB_PASSWORD">
         <source>the workbook is protected by a password</source>
@@ -152,12 +152,12 @@
         <translation>the workbook lacks its part %1</translation>
     </message>
     <message id="MESS_TAB_PART_TOO_LARGE">
-        <source>a part of the workbook is unreasonably large</source>
-        <translation>a part of the workbook is unreasonably large</translation>
+        <source>a part of the workbook is too large</source>
+        <translation>a part of the workbook is too large</translation>
     </message>
     <message id="MESS_TAB_COMPRESSION">
-        <source>the workbook is packed by an unusual compression method</source>
-        <translation>the workbook is packed by an unusual compression method</translation>
+        <source>the compression method of the workbook is not supported</source>
+        <translation>the compression method of the workbook is not supported</translation>
     </message>
     <message id="MESS_TAB_DATA_DAMAGED">
         <source>the compressed data of the workbook are damaged</source>
@@ -168,16 +168,16 @@
         <translation>the compressed data of the workbook are cut short</translation>
     </message>
     <message id="MESS_TAB_CHECK_SUM">
-        <source>the compressed data of the workbook fail their check sum</source>
-        <translation>the compressed data of the workbook fail their check sum</translation>
+        <source>the compressed data of the workbook do not match their checksum</source>
+        <translation>the compressed data of the workbook do not match their checksum</translation>
     </message>
     <message id="MESS_TAB_NO_ROOT_ELEMENT">
         <source>the XML file has no root element</source>
         <translation>the XML file has no root element</translation>
     </message>
     <message id="MESS_TAB_LONG_TAG">
-        <source>a tag or comment in the XML is unreasonably long</source>
-        <translation>a tag or comment in the XML is unreasonably long</translation>
+        <source>a tag or comment in the XML is too long</source>
+        <translation>a tag or comment in the XML is too long</translation>
     </message>
     <message id="MESS_TAB_LONG_ROW">
         <source>a single row is longer than 256 MiB</source>
@@ -232,8 +232,8 @@
         <translation>the coordinate system "%1" is vertical or geocentric: it has no horizontal coordinates</translation>
     </message>
     <message id="MESS_TAB_NO_WAY">
-        <source>there is no way from the coordinate system "%1" to "%2"</source>
-        <translation>there is no way from the coordinate system "%1" to "%2"</translation>
+        <source>there is no transformation from the coordinate system "%1" to "%2"</source>
+        <translation>there is no transformation from the coordinate system "%1" to "%2"</translation>
     </message>
     <message id="MESS_TAB_UNKNOWN_EPSG">
         <source>the file declares the coordinate system EPSG:%1, which is not known</source>
@@ -252,28 +252,28 @@
         <translation>further problems are listed in the layer's metadata domain "problems"</translation>
     </message>
     <message id="MESS_TAB_ENCODING_GUESSED">
-        <source>the file does not tell its encoding: its texts are read as %1</source>
-        <translation>the file does not tell its encoding: its texts are read as %1</translation>
+        <source>the file does not declare its encoding: its texts are read as %1</source>
+        <translation>the file does not declare its encoding: its texts are read as %1</translation>
     </message>
     <message id="MESS_TAB_NO_COORDINATES">
         <source>no columns with coordinates were recognised</source>
         <translation>no columns with coordinates were recognised</translation>
     </message>
     <message id="MESS_TAB_BEHIND_LAST">
-        <source>the row goes on behind the last column: "%1" in column %2 has no header</source>
-        <translation>the row goes on behind the last column: "%1" in column %2 has no header</translation>
+        <source>the row continues after the last column: "%1" in column %2 has no header</source>
+        <translation>the row continues after the last column: "%1" in column %2 has no header</translation>
     </message>
     <message id="MESS_TAB_MISSING_TEXT">
         <source>the text of the cell is lost: the workbook has no text number "%1"</source>
         <translation>the text of the cell is lost: the workbook has no text number "%1"</translation>
     </message>
     <message id="MESS_TAB_SWALLOWED_ROWS">
-        <source>a quotation mark opens here and swallows the rows below, %1 in number: one is missing or too many</source>
-        <translation>a quotation mark opens here and swallows the rows below, %1 in number: one is missing or too many</translation>
+        <source>a quotation mark opens here and takes in the rows below, %1 in number: one is missing or too many</source>
+        <translation>a quotation mark opens here and takes in the rows below, %1 in number: one is missing or too many</translation>
     </message>
     <message id="MESS_TAB_UNREADABLE_BYTES">
-        <source>bytes that mean nothing in the encoding %1 were replaced: %2 in this row</source>
-        <translation>bytes that mean nothing in the encoding %1 were replaced: %2 in this row</translation>
+        <source>bytes that are not valid in the encoding %1 were replaced: %2 in this row</source>
+        <translation>bytes that are not valid in the encoding %1 were replaced: %2 in this row</translation>
     </message>
     <message id="MESS_TAB_TEXT_CUT">
         <source>the text is too long: only its first characters are kept, %1 in number</source>
@@ -392,8 +392,8 @@
         <translation>the coordinate "%1" cannot be read: it has two hemisphere letters</translation>
     </message>
     <message id="MESS_TAB_NO_HEMISPHERE">
-        <source>the coordinate "%1" cannot be read: it has a letter that is no hemisphere</source>
-        <translation>the coordinate "%1" cannot be read: it has a letter that is no hemisphere</translation>
+        <source>the coordinate "%1" cannot be read: it has a letter that is not a hemisphere</source>
+        <translation>the coordinate "%1" cannot be read: it has a letter that is not a hemisphere</translation>
     </message>
     <message id="MESS_TAB_OTHER_AXIS">
         <source>the coordinate "%1" cannot be read: the hemisphere letter belongs to the other coordinate</source>

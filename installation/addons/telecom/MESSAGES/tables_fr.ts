@@ -48,7 +48,7 @@
         <translation>le fichier est vide</translation>
     </message>
     <message id="MESS_TAB_BLANK_FILE">
-        <source>there is nothing but white space in the file</source>
+        <source>the file holds only white space</source>
         <translation>le fichier ne contient que des espaces et des lignes vides</translation>
     </message>
     <message id="MESS_TAB_BINARY_FILE">
@@ -64,8 +64,8 @@
         <translation>c'est un document PDF, pas un tableau</translation>
     </message>
     <message id="MESS_TAB_JSON">
-        <source>this looks like JSON, not like a table</source>
-        <translation>cela ressemble à du JSON, pas à un tableau</translation>
+        <source>this is JSON, not a table</source>
+        <translation>c'est du JSON, pas un tableau</translation>
     </message>
     <message id="MESS_TAB_SYLK">
         <source>this is a SYLK file: save it as .xlsx or .csv</source>
@@ -100,7 +100,7 @@
         <translation>ce fichier XML n'est pas un classeur SpreadsheetML 2003&#xa0;: son élément racine est &lt;%1&gt;</translation>
     </message>
     <message id="MESS_TAB_DOCUMENT_TYPE">
-        <source>the XML file declares a document type, which tables do not need and attacks do</source>
+        <source>the XML file declares a document type, which tables do not need and attacks use</source>
         <translation>le fichier XML déclare un type de document&#xa0;: les tableaux n'en ont pas besoin, les attaques si</translation>
     </message>
     <message id="MESS_TAB_PASSWORD">
@@ -152,12 +152,12 @@
         <translation>il manque au classeur la partie %1</translation>
     </message>
     <message id="MESS_TAB_PART_TOO_LARGE">
-        <source>a part of the workbook is unreasonably large</source>
-        <translation>une partie du classeur est démesurément grande</translation>
+        <source>a part of the workbook is too large</source>
+        <translation>une partie du classeur est trop grande</translation>
     </message>
     <message id="MESS_TAB_COMPRESSION">
-        <source>the workbook is packed by an unusual compression method</source>
-        <translation>le classeur est compressé selon une méthode inhabituelle</translation>
+        <source>the compression method of the workbook is not supported</source>
+        <translation>la méthode de compression du classeur n'est pas prise en charge</translation>
     </message>
     <message id="MESS_TAB_DATA_DAMAGED">
         <source>the compressed data of the workbook are damaged</source>
@@ -168,7 +168,7 @@
         <translation>les données compressées du classeur sont tronquées</translation>
     </message>
     <message id="MESS_TAB_CHECK_SUM">
-        <source>the compressed data of the workbook fail their check sum</source>
+        <source>the compressed data of the workbook do not match their checksum</source>
         <translation>la somme de contrôle des données compressées du classeur est fausse</translation>
     </message>
     <message id="MESS_TAB_NO_ROOT_ELEMENT">
@@ -176,8 +176,8 @@
         <translation>le fichier XML n'a pas d'élément racine</translation>
     </message>
     <message id="MESS_TAB_LONG_TAG">
-        <source>a tag or comment in the XML is unreasonably long</source>
-        <translation>une balise ou un commentaire du XML est démesurément long</translation>
+        <source>a tag or comment in the XML is too long</source>
+        <translation>une balise ou un commentaire du XML est trop long</translation>
     </message>
     <message id="MESS_TAB_LONG_ROW">
         <source>a single row is longer than 256 MiB</source>
@@ -232,7 +232,7 @@
         <translation>le système de coordonnées «&#xa0;%1&#xa0;» est vertical ou géocentrique&#xa0;: il n'a pas de coordonnées horizontales</translation>
     </message>
     <message id="MESS_TAB_NO_WAY">
-        <source>there is no way from the coordinate system "%1" to "%2"</source>
+        <source>there is no transformation from the coordinate system "%1" to "%2"</source>
         <translation>il n'existe pas de transformation du système de coordonnées «&#xa0;%1&#xa0;» vers «&#xa0;%2&#xa0;»</translation>
     </message>
     <message id="MESS_TAB_UNKNOWN_EPSG">
@@ -252,7 +252,7 @@
         <translation>les problèmes suivants figurent dans le domaine de métadonnées «&#xa0;problems&#xa0;» de la couche</translation>
     </message>
     <message id="MESS_TAB_ENCODING_GUESSED">
-        <source>the file does not tell its encoding: its texts are read as %1</source>
+        <source>the file does not declare its encoding: its texts are read as %1</source>
         <translation>le fichier n'indique pas son encodage&#xa0;: ses textes sont lus en %1</translation>
     </message>
     <message id="MESS_TAB_NO_COORDINATES">
@@ -260,7 +260,7 @@
         <translation>aucune colonne de coordonnées n'a été reconnue</translation>
     </message>
     <message id="MESS_TAB_BEHIND_LAST">
-        <source>the row goes on behind the last column: "%1" in column %2 has no header</source>
+        <source>the row continues after the last column: "%1" in column %2 has no header</source>
         <translation>la ligne continue après la dernière colonne&#xa0;: «&#xa0;%1&#xa0;», dans la colonne %2, n'a pas d'en-tête</translation>
     </message>
     <message id="MESS_TAB_MISSING_TEXT">
@@ -268,12 +268,12 @@
         <translation>le texte de la cellule est perdu&#xa0;: le classeur n'a pas de texte numéro «&#xa0;%1&#xa0;»</translation>
     </message>
     <message id="MESS_TAB_SWALLOWED_ROWS">
-        <source>a quotation mark opens here and swallows the rows below, %1 in number: one is missing or too many</source>
-        <translation>un guillemet s'ouvre ici et avale les lignes suivantes, au nombre de %1&#xa0;: un guillemet manque ou est de trop</translation>
+        <source>a quotation mark opens here and takes in the rows below, %1 in number: one is missing or too many</source>
+        <translation>un guillemet s'ouvre ici et englobe les lignes suivantes, au nombre de %1&#xa0;: un guillemet manque ou est de trop</translation>
     </message>
     <message id="MESS_TAB_UNREADABLE_BYTES">
-        <source>bytes that mean nothing in the encoding %1 were replaced: %2 in this row</source>
-        <translation>des octets sans signification dans l'encodage %1 ont été remplacés&#xa0;: %2 dans cette ligne</translation>
+        <source>bytes that are not valid in the encoding %1 were replaced: %2 in this row</source>
+        <translation>des octets non valides dans l'encodage %1 ont été remplacés&#xa0;: %2 dans cette ligne</translation>
     </message>
     <message id="MESS_TAB_TEXT_CUT">
         <source>the text is too long: only its first characters are kept, %1 in number</source>
@@ -392,7 +392,7 @@
         <translation>la coordonnée «&#xa0;%1&#xa0;» ne peut pas être lue&#xa0;: elle a deux lettres d'hémisphère</translation>
     </message>
     <message id="MESS_TAB_NO_HEMISPHERE">
-        <source>the coordinate "%1" cannot be read: it has a letter that is no hemisphere</source>
+        <source>the coordinate "%1" cannot be read: it has a letter that is not a hemisphere</source>
         <translation>la coordonnée «&#xa0;%1&#xa0;» ne peut pas être lue&#xa0;: elle contient une lettre qui ne désigne pas un hémisphère</translation>
     </message>
     <message id="MESS_TAB_OTHER_AXIS">
