@@ -10,8 +10,8 @@ class ByteSource
 public:
     virtual ~ByteSource() = default;
 
-    /// Reads up to `size` bytes into `to`; 0 means the end. Throws RefusedFile where the input is
-    /// damaged.
+    /// Reads up to `size` bytes into `to` and returns their number; 0 means the end. Throws
+    /// RefusedFile if the input is damaged.
     virtual std::size_t read(char *to, std::size_t size) = 0;
 };
 

@@ -22,9 +22,9 @@ namespace vlt::driver {
 namespace {
 
 constexpr std::size_t ChunkSize = std::size_t{256} << 10;
-/// Room before a chunk for the tail of the one before.
+/// Space before a chunk for the unread end of the previous one.
 constexpr std::size_t Headroom = std::size_t{32} << 10;
-/// What a look at the header needs.
+/// Enough to find the header, so that only tables that are read further need larger chunks.
 constexpr std::size_t FirstChunkSize = std::size_t{64} << 10;
 constexpr std::size_t BuffersAhead = 3;
 constexpr int SpinTurns = 2000;
@@ -39,8 +39,9 @@ void relax()
 #endif
 }
 
-/// Moves the new thread off the core of the one that started it, where the scheduler would leave it
-/// for as long as a whole table takes; from then on it may run anywhere again.
+/// Moves the new thread to another core. The scheduler would otherwise leave both threads on one
+/// core for about as long as it takes to read a table. Afterwards the thread may run on any core
+/// again.
 void leaveCore([[maybe_unused]] int core)
 {
 #if defined(__linux__)
@@ -74,7 +75,8 @@ struct ChunkedInput::Buffer
     char *data() { return bytes.get() + Headroom; }
 };
 
-/// Fills buffers from the source, the first ones in the caller's thread, later ones ahead of it.
+/// Fills buffers from the source: the first ones in the caller's thread, the others in advance in a
+/// second thread.
 class ChunkedInput::Fetcher
 {
 public:
@@ -91,7 +93,7 @@ public:
             m_thread.join();
     }
 
-    /// The next buffer; null at the end. `spare` is given back for reuse.
+    /// The next buffer; null at the end. `spare` is a used buffer that can be filled again.
     std::unique_ptr<Buffer> next(std::unique_ptr<Buffer> spare)
     {
         if (m_finished)
@@ -113,7 +115,7 @@ public:
     }
 
 private:
-    /// Where the system gives no thread the caller's goes on fetching.
+    /// If the system cannot start a thread, the caller's thread continues to fetch.
     bool startThread()
     {
         try {
@@ -145,7 +147,7 @@ private:
             const std::lock_guard lock(m_mutex);
             m_spares.push_back(std::move(spare));
         }
-        // A chunk takes less time than waking a sleeping thread.
+        // Fetching a chunk takes less time than waking a sleeping thread.
         for (int turn = 0; turn < SpinTurns && m_readyCount.load(std::memory_order_acquire) == 0;
              ++turn)
             relax();
@@ -200,7 +202,7 @@ private:
     }
 
     std::unique_ptr<ByteSource> m_source;
-    int m_synchronous = 2; ///< buffers still to be filled in the caller's thread
+    int m_synchronous = 2; ///< number of buffers left to fill in the caller's thread
     bool m_finished = false;
     std::thread m_thread;
     std::mutex m_mutex;
@@ -252,7 +254,7 @@ void ChunkedInput::takeOver(std::unique_ptr<Buffer> next, const char *keepFrom)
         m_begin = m_spill.data();
         m_end = m_spill.data() + m_spill.size();
     }
-    m_spare = std::move(m_current); // its bytes were copied: free for the next chunk but one
+    m_spare = std::move(m_current); // its bytes were copied, so it can be reused
     m_current = std::move(next);
 }
 

@@ -8,10 +8,11 @@
 
 namespace vlt::driver {
 
-/// A window over a byte stream that slides forward: whole records lie in it side by side.
+/// A window that moves forward over a byte stream. A record is contiguous in the window, even if it
+/// crosses the boundary of a chunk.
 ///
-/// A second thread fetches (reads, inflates, recodes) the next chunk while the caller works on this
-/// one; it starts only when the stream is longer than one chunk.
+/// A second thread fetches (reads, inflates, recodes) the next chunk while the caller uses the
+/// current one. It starts only if the stream is longer than the first chunks.
 class ChunkedInput
 {
 public:
@@ -23,10 +24,10 @@ public:
     const char *begin() const { return m_begin; }
     const char *end() const { return m_end; }
 
-    /// Drops what lies before `keepFrom` and appends the next chunk behind end(). Pointers into the
-    /// window move: keepFrom is then begin(). False at the end of the stream, with the window as it
-    /// was. Throws RefusedFile where the stream is damaged or a record outgrows the limit of one
-    /// row.
+    /// Drops the bytes before `keepFrom` and appends the next chunk. All pointers into the window
+    /// become invalid; the byte at `keepFrom` is then at begin(). Returns false and leaves the
+    /// window unchanged at the end of the stream. Throws RefusedFile if the stream is damaged or a
+    /// record is larger than the maximum of a row.
     bool more(const char *keepFrom);
 
 private:
@@ -38,7 +39,7 @@ private:
     std::unique_ptr<Fetcher> m_fetcher;
     std::unique_ptr<Buffer> m_current;
     std::unique_ptr<Buffer> m_spare;
-    /// Holds the window while a record is longer than a chunk's headroom.
+    /// The window while a record is longer than the headroom of a buffer; empty otherwise.
     std::vector<char> m_spill;
     const char *m_begin = nullptr;
     const char *m_end = nullptr;

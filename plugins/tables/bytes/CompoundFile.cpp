@@ -14,7 +14,7 @@ constexpr std::size_t EntrySize = 128;
 constexpr uint32_t LastRegularSector = 0xFFFFFFFA;
 constexpr std::size_t HeaderTableSectors = 109;
 constexpr int MiniShift = 6;
-constexpr uint64_t MaxMiniStreamSize = 4096; ///< the only cutoff that [MS-CFB] allows
+constexpr uint64_t MaxMiniStreamSize = 4096; ///< the only cutoff size in [MS-CFB]
 constexpr char RootType = 5;
 constexpr char StreamType = 2;
 constexpr std::size_t MaxEntries = 65536;
@@ -76,7 +76,7 @@ std::vector<uint32_t> CompoundFile::chain(const std::vector<uint32_t> &table, ui
 {
     std::vector<uint32_t> sectors;
     for (uint32_t sector = first; sector < LastRegularSector; sector = table[sector]) {
-        if (sector >= table.size() || sectors.size() > table.size()) // a circle or a cut file
+        if (sector >= table.size() || sectors.size() > table.size()) // a cycle or a truncated file
             refuse();
         sectors.push_back(sector);
     }
@@ -92,10 +92,10 @@ void CompoundFile::readDirectory(uint32_t firstSector)
         for (std::size_t at = 0; at < bytes.size() && ++count < MaxEntries; at += EntrySize) {
             const char *entry = bytes.data() + at;
             const std::size_t nameSize = std::min<std::size_t>(u16(entry + 64), 64);
-            std::string name; // the names that matter are ASCII in UTF-16
+            std::string name; // all names used here are ASCII characters in UTF-16
             for (std::size_t i = 0; i + 2 < nameSize; i += 2)
                 name += entry[i];
-            // version 3 files may leave rubbish in the upper half of the size
+            // in version 3 the upper half of the size is undefined
             const uint64_t size = m_sectorShift == 9 ? u32(entry + 120) : u64(entry + 120);
             if (entry[66] == RootType)
                 m_root = {u32(entry + 116), size};

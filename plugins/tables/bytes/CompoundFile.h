@@ -20,8 +20,8 @@ public:
     explicit CompoundFile(std::shared_ptr<const InputFile> file);
 
     bool contains(const std::string &name) const { return m_entries.count(name) != 0; }
-    /// Where the bytes of a stream lie in the file, in order. Throws RefusedFile when it is missing
-    /// or damaged.
+    /// The extents of a stream in the file, in the order of its bytes. Throws RefusedFile if the
+    /// stream is missing or damaged.
     std::vector<Extent> extents(const std::string &name) const;
 
 private:

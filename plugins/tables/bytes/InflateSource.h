@@ -10,9 +10,9 @@ struct inflate_state;
 
 namespace vlt::driver {
 
-/// Inflates a raw deflate stream and checks it against the CRC that the archive's directory gives.
+/// Inflates a raw deflate stream and checks it against the CRC in the directory of the archive.
 ///
-/// Nothing is allocated by announced sizes; the stream ends where the deflate data ends.
+/// The sizes in the archive are not used: the stream ends where the deflate data ends.
 class InflateSource : public ByteSource
 {
 public:

@@ -25,7 +25,7 @@ FileIdentity identityOf(const struct stat &status)
 {
     if (S_ISDIR(status.st_mode))
         throw RefusedFile(Refusal::CannotRead, "MESS_TAB_FOLDER");
-    if (!S_ISREG(status.st_mode)) // a pipe or a device could block or never end
+    if (!S_ISREG(status.st_mode)) // reading a pipe or a device could block or never end
         throw RefusedFile(Refusal::CannotRead, "MESS_TAB_DEVICE");
     return {static_cast<uint64_t>(status.st_dev), static_cast<uint64_t>(status.st_ino),
             status.st_size, nanoseconds(status.st_mtim), nanoseconds(status.st_ctim)};
@@ -36,7 +36,7 @@ FileIdentity identityOf(const struct stat &status)
     const int code = errno;
     if (code == ENOENT)
         throw RefusedFile(Refusal::CannotRead, "MESS_TAB_NO_FILE");
-    if (code == EACCES) // of the system's reasons the one that users meet
+    if (code == EACCES) // the most frequent reason has a text of its own
         throw RefusedFile(Refusal::CannotRead, "MESS_TAB_NO_PERMISSION");
     throw RefusedFile(Refusal::CannotRead, "MESS_TAB_UNREADABLE", {std::strerror(code)});
 }
@@ -53,7 +53,7 @@ FileIdentity InputFile::identify(const std::string &path)
 
 std::shared_ptr<const InputFile> InputFile::open(const std::string &path)
 {
-    identify(path); // before open(), which would wait on a pipe
+    identify(path); // checked first, because open() would block on a pipe
     const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
     if (descriptor < 0)
         refuseBySystem();
@@ -120,7 +120,7 @@ std::size_t FileSource::read(char *to, std::size_t size)
         const std::size_t got = m_file->readAt(extent.offset + m_done, to + done, wanted);
         done += got;
         m_done += got;
-        if (got < wanted) // what a compound file announces but does not hold
+        if (got < wanted) // the extent of a damaged compound file goes beyond the end
             m_current = m_extents.size();
         else if (m_done == extent.size) {
             ++m_current;

@@ -9,7 +9,7 @@
 
 namespace vlt::driver {
 
-/// What tells one state of a file from another.
+/// Identifies one state of a file: it differs if the file is changed or replaced.
 struct FileIdentity
 {
     uint64_t device = 0;
@@ -23,14 +23,14 @@ struct FileIdentity
 
 /// A local file opened for reading at any offset. Safe to share between threads.
 ///
-/// Files are read, not mapped: a table that shrinks while it is read gives an error instead of a
-/// crash.
+/// Files are read, not mapped, so that a table that becomes shorter while it is read causes an
+/// error instead of a crash.
 class InputFile
 {
 public:
     /// Throws RefusedFile (CannotRead) with the system's reason.
     static std::shared_ptr<const InputFile> open(const std::string &path);
-    /// Identity of the file at `path`; throws as open() does.
+    /// Identity of the file at `path`. Throws the same as open().
     static FileIdentity identify(const std::string &path);
 
     ~InputFile();
@@ -42,7 +42,7 @@ public:
 
     /// Reads up to `size` bytes at `offset`; fewer only at the end of the file.
     std::size_t readAt(uint64_t offset, char *to, std::size_t size) const;
-    /// Reads exactly `size` bytes; throws RefusedFile (Malformed) where the file ends before.
+    /// Reads exactly `size` bytes. Throws RefusedFile (Malformed) if the file ends before.
     void readExactly(uint64_t offset, char *to, std::size_t size) const;
     /// The first bytes of the file, at most `size`.
     std::string head(std::size_t size) const;
@@ -57,14 +57,14 @@ private:
     FileIdentity m_identity;
 };
 
-/// One stretch of a file.
+/// A contiguous part of a file.
 struct Extent
 {
     uint64_t offset = 0;
     uint64_t size = 0;
 };
 
-/// The bytes of stretches of a file, one after another.
+/// The bytes of several extents of a file, one after the other.
 class FileSource : public ByteSource
 {
 public:
@@ -76,7 +76,7 @@ private:
     std::shared_ptr<const InputFile> m_file;
     std::vector<Extent> m_extents;
     std::size_t m_current = 0;
-    uint64_t m_done = 0; ///< bytes of the current extent that were read
+    uint64_t m_done = 0; ///< bytes of the current extent read so far
 };
 
 } // namespace vlt::driver

@@ -12,11 +12,10 @@ namespace vlt::driver {
 
 namespace {
 
-constexpr std::size_t EdgeSize = 16; ///< room for any character
+constexpr std::size_t EdgeSize = 16; ///< enough for any character
 constexpr std::size_t InputSize = std::size_t{64} << 10;
 constexpr char Replacement[] = "\xEF\xBF\xBD";
-constexpr std::size_t MaxSequenceSize =
-    8; ///< bytes of the longest sequence that stands for one character
+constexpr std::size_t MaxSequenceSize = 8; ///< bytes of the longest sequence for one character
 
 class MemorySource : public ByteSource
 {
@@ -46,7 +45,7 @@ RecodeSource::RecodeSource(std::unique_ptr<ByteSource> source, const std::string
         m_unit = 2;
     else if (encoding.starts_with("UTF-32"))
         m_unit = 4;
-    // NOLINTNEXTLINE(performance-no-int-to-ptr): how iconv_open() says that it failed
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): the error value of iconv_open()
     if (m_converter == reinterpret_cast<iconv_t>(-1))
         throw RefusedFile(Refusal::NotSupportedFormat, "MESS_TAB_ENCODING", {encoding});
 }
@@ -67,8 +66,8 @@ void RecodeSource::fillInput()
     m_inputEnd += got;
 }
 
-/// A room as small as the end of a chunk may be shorter than the next character, which is then
-/// handed out in pieces: 0 would mean the end.
+/// The caller's buffer may be the end of a chunk and smaller than the next character. That
+/// character is then returned in parts, because a result of 0 would mean the end.
 std::size_t RecodeSource::read(char *to, std::size_t size)
 {
     if (m_edgeBegin == m_edge.size() && size >= EdgeSize)
@@ -83,7 +82,7 @@ std::size_t RecodeSource::read(char *to, std::size_t size)
     return got;
 }
 
-/// Fills a room that holds any character; 0 at the end.
+/// Converts into a buffer that has space for any character; 0 at the end.
 std::size_t RecodeSource::convert(char *to, std::size_t size)
 {
     char *out = to;
@@ -101,7 +100,7 @@ std::size_t RecodeSource::convert(char *to, std::size_t size)
         const bool cutShort = result == static_cast<std::size_t>(-1) && errno == EINVAL;
         const bool unknown = result == static_cast<std::size_t>(-1) && errno == EILSEQ;
         if (cutShort && m_inputEnded)
-            m_inputBegin = m_inputEnd; // half a character at the end of the file
+            m_inputBegin = m_inputEnd; // an incomplete character at the end of the file
         else if (unknown && room >= sizeof Replacement) {
             std::memcpy(out, Replacement, sizeof Replacement - 1);
             out += sizeof Replacement - 1;
@@ -111,7 +110,7 @@ std::size_t RecodeSource::convert(char *to, std::size_t size)
         } else if (cutShort)
             fillInput();
         else if (room == size && left == leftBefore)
-            break; // the caller's room is smaller than one character
+            break; // the buffer is smaller than one character
     }
     return size - room;
 }

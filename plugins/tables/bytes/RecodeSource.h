@@ -8,12 +8,12 @@
 
 namespace vlt::driver {
 
-/// Turns a stream of any encoding into UTF-8. A leading byte order mark is dropped; a sequence that
-/// the encoding does not know becomes U+FFFD.
+/// Converts a stream of any encoding to UTF-8. Removes a byte order mark at the start. A sequence
+/// that is invalid in the encoding becomes U+FFFD.
 class RecodeSource : public ByteSource
 {
 public:
-    /// Throws RefusedFile (NotSupportedFormat) for an encoding that the system does not know.
+    /// Throws RefusedFile (NotSupportedFormat) if the system does not support the encoding.
     RecodeSource(std::unique_ptr<ByteSource> source, const std::string &encoding);
     ~RecodeSource() override;
 
@@ -28,17 +28,17 @@ private:
     std::vector<char> m_input;
     std::size_t m_inputBegin = 0;
     std::size_t m_inputEnd = 0;
-    std::string m_edge; ///< characters that the caller had no room for as a whole
+    std::string m_edge; ///< converted characters that did not fit into the caller's buffer
     std::size_t m_edgeBegin = 0;
-    std::size_t m_unit = 1; ///< bytes to step over after a sequence that means nothing
+    std::size_t m_unit = 1; ///< bytes to skip at an invalid sequence
     bool m_inputEnded = false;
 };
 
-/// Name of the encoding that a byte order mark at the start of `head` tells, else empty; `markSize`
-/// is its length.
+/// Name of the encoding whose byte order mark is at the start of `head`, empty without a mark. Sets
+/// `markSize` to the size of the mark in bytes.
 std::string encodingOfMark(const std::string &head, std::size_t &markSize);
 
-/// One text in UTF-8.
+/// A text converted to UTF-8.
 std::string recoded(const std::string &text, const std::string &encoding);
 
 } // namespace vlt::driver

@@ -7,25 +7,24 @@
 
 namespace vlt::driver {
 
-/// Why a file is not read as a table.
+/// Reasons why a file cannot be read as a table.
 enum class Refusal {
     CannotRead,         ///< missing, a directory, no permission, input error
-    Empty,              ///< nothing in it, or a header without rows
+    Empty,              ///< no content, or a header without rows
     NotATable,          ///< neither text nor a workbook
-    NotSupportedFormat, ///< a known format of another kind
+    NotSupportedFormat, ///< a known format that is not supported
     Encrypted,          ///< protected by a password
-    DocumentType,       ///< XML with a document type declaration: entities are never resolved
-    Malformed,          ///< damaged or cut short
+    DocumentType,       ///< XML with a document type declaration, whose entities could be an attack
+    Malformed,          ///< damaged or truncated
     OneColumn,          ///< text without a delimiter
     NoHeader,           ///< no row names the columns
-    NoLinks,            ///< a table, but not one of links
+    NoLinks,            ///< a table, but not of links
     BadOption,          ///< an option of the connection string or an open option cannot be used
 };
 
 using contract::TableTextId;
 
-/// Thrown inside the reader, caught where the file was opened; the text names the reason for the
-/// user.
+/// Thrown by readers and caught where the file was opened. The text is the reason for the user.
 class RefusedFile : public std::runtime_error
 {
 public:

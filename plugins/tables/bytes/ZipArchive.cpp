@@ -68,7 +68,7 @@ ZipArchive::ZipArchive(std::shared_ptr<const InputFile> file) : m_file(std::move
             offset = u64(end64 + 48);
         }
         if (offset > fileSize || size > fileSize - offset)
-            continue; // a signature inside the comment
+            continue; // the bytes of the signature occur in the comment
         readDirectory(offset, size);
         return;
     }

@@ -16,14 +16,14 @@ namespace vlt::driver {
 class ZipArchive
 {
 public:
-    /// Throws RefusedFile (Malformed) where there is no usable central directory.
+    /// Throws RefusedFile (Malformed) if there is no usable central directory.
     explicit ZipArchive(std::shared_ptr<const InputFile> file);
 
     bool contains(const std::string &name) const { return find(name) != nullptr; }
-    /// The bytes of a member, stored or deflated. Throws RefusedFile: Malformed when it is missing
-    /// or damaged, Encrypted, NotSupportedFormat for another compression method.
+    /// The bytes of a member, stored or deflated. Throws RefusedFile: Malformed if it is missing or
+    /// damaged, Encrypted, NotSupportedFormat for another compression method.
     std::unique_ptr<ByteSource> open(const std::string &name) const;
-    /// A whole member as text, at most `limit` bytes (Malformed beyond).
+    /// A whole member as text. Throws RefusedFile (Malformed) if it has more than `limit` bytes.
     std::string readAll(const std::string &name, std::size_t limit) const;
 
 private:
@@ -40,8 +40,8 @@ private:
     const Member *find(const std::string &name) const;
 
     std::shared_ptr<const InputFile> m_file;
-    std::map<std::string, Member>
-        m_members; ///< by lower-case name: part names compare so in office packages
+    /// By lower-case name, because office packages do not distinguish case in names of parts.
+    std::map<std::string, Member> m_members;
 };
 
 } // namespace vlt::driver

@@ -4,14 +4,14 @@
 
 namespace vlt::driver {
 
-/// First place in [begin, end - 1) where `first` is followed by `second`; `end` when there is none.
-/// Uses the widest registers of the machine it runs on.
+/// First position in [begin, end - 1) where `first` is followed by `second`; `end` if there is
+/// none. Uses the widest vector registers of the machine.
 const char *findPair(const char *begin, const char *end, char first, char second);
 
-/// First place in [begin, end) that holds one of three bytes; `end` when there is none.
+/// First position in [begin, end) with one of three bytes; `end` if there is none.
 const char *findAnyOf(const char *begin, const char *end, char a, char b, char c);
 
-/// First place of `text` (two bytes at least) in [begin, end); `end` when there is none.
+/// First position of `text` (at least two bytes) in [begin, end); `end` if there is none.
 const char *findText(const char *begin, const char *end, std::string_view text);
 
 } // namespace vlt::driver

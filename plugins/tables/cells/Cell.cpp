@@ -10,7 +10,7 @@ namespace vlt::driver {
 namespace {
 
 constexpr std::string_view Blanks(" \t\r\n\v\f\0", 7);
-constexpr std::size_t ShortText = 256; ///< which any cell may have, however long the others are
+constexpr std::size_t ShortText = 256; ///< characters that a cell keeps beyond the limit of the row
 constexpr std::string_view NoBreakSpace = "\xC2\xA0";
 
 } // namespace
@@ -25,12 +25,12 @@ void Row::addMissingText(int column, std::string_view textNumber)
 void Row::addRepaired(Cell cell)
 {
     m_textSize -= cell.text.size();
-    // What is cut off is not looked at: a text of megabytes may stand in thousands of cells.
+    // The part that is cut off is not read: thousands of cells may refer to one text of megabytes.
     const std::string_view whole = cell.text.size() > MaxTextSize ? trimmed(cell.text) : cell.text;
     cell.text = firstCharacters(whole, MaxTextSize);
     const bool isTooLong = cell.text.size() < whole.size();
     if (cell.text.find('\0') != std::string_view::npos) {
-        // At the ends they are padding; inside, programs that take them for the end would cut.
+        // Zero bytes at the ends are padding. Inside, many programs would take them for the end.
         if (trimmed(cell.text).find('\0') != std::string_view::npos)
             faults.push_back({cell.column, contract::formatted("MESS_TAB_ZEROS")});
         std::string plain(cell.text);

@@ -8,13 +8,13 @@
 
 namespace vlt::driver {
 
-/// One cell of a table that holds something. Views point into the row's own memory or the
-/// workbook's strings and live until the next row is read.
+/// A cell that is not empty. Its text belongs to the row or to the strings of the workbook and is
+/// valid until the next row is read.
 struct Cell
 {
     enum class Kind : uint8_t {
         Text,
-        Number,  ///< `text` is its decimal form, or empty when only `number` is known
+        Number,  ///< `text` is its decimal form, or empty if only `number` is known
         Boolean, ///< text TRUE or FALSE
         Date,    ///< text in ISO 8601 form
         Error,   ///< text such as #N/A
@@ -23,40 +23,40 @@ struct Cell
     int column = 0; ///< from 0
     Kind kind = Kind::Text;
     std::string_view text;
-    double number = 0; ///< meaningful for Number with an empty text
+    double number = 0; ///< value of a Number whose text is empty
 };
 
-/// Most characters of a text: what a cell of a workbook holds.
+/// Maximum number of characters of a text: the limit of a cell in a workbook.
 constexpr std::size_t MaxTextSize = 32767;
-/// Most bytes of all texts of a row, short ones apart.
+/// Maximum number of bytes of all texts of a row; a short text is kept beyond it.
 constexpr std::size_t MaxRowTextSize = std::size_t{16} << 20;
 
-/// What a cell holds in the file and could not be read.
+/// A value in the file that could not be read in full.
 struct CellFault
 {
-    int column = -1;  ///< from 0; -1 for the row as a whole
-    std::string text; ///< English, of the table of texts
+    int column = -1;  ///< from 0; -1 for the whole row
+    std::string text; ///< English, from contract/TableTexts.h
 };
 
-/// The non-empty cells of one row, by ascending column.
+/// The non-empty cells of a row, by ascending column.
 struct Row
 {
-    int64_t number = 0; ///< row of the file as a spreadsheet counts it, from 1
+    int64_t number = 0; ///< number of the row in the file, from 1
     std::vector<Cell> cells;
     std::vector<CellFault> faults;
 
-    /// Keeps a text that lies nowhere else for the life of this row.
+    /// Stores a text that no other object holds, for the lifetime of this row.
     std::string_view keep(std::string text)
     {
         m_kept.push_back(std::move(text));
         return m_kept.back();
     }
 
-    /// Says that a cell refers to a text that the workbook does not hold.
+    /// Reports a cell that refers to a text which the workbook does not have.
     void addMissingText(int column, std::string_view textNumber);
 
-    /// Appends a cell. A text that is too long is cut, and zeros are taken out of it; both are
-    /// listed among the faults.
+    /// Appends a cell. Cuts a text that is too long and removes zero bytes from it; both are listed
+    /// in `faults`.
     void add(const Cell &cell)
     {
         m_textSize += cell.text.size();
@@ -65,7 +65,7 @@ struct Row
         else
             cells.push_back(cell);
     }
-    /// Says that there are zeros in texts of this row.
+    /// Announces that texts of this row may contain zero bytes; add() checks for them only then.
     void expectZeros() { m_holdsZeros = true; }
 
     void clear()
@@ -82,17 +82,17 @@ private:
     void addRepaired(Cell cell);
 
     std::deque<std::string> m_kept;
-    std::size_t m_textSize = 0; ///< of the cells so far
+    std::size_t m_textSize = 0; ///< total of the cells so far
     bool m_holdsZeros = false;
 };
 
-/// The first characters of a UTF-8 text, `count` at most.
+/// The first characters of a UTF-8 text, at most `count`.
 std::string_view firstCharacters(std::string_view text, std::size_t count);
 
-/// What trimmed() does, without its short cut.
+/// The general case of trimmed().
 std::string_view trimmedSlowly(std::string_view text);
 
-/// White space at either end of `text` taken off (spaces, tabs, line ends, no-break spaces, zeros).
+/// `text` without white space at both ends (spaces, tabs, line ends, no-break spaces, zero bytes).
 inline std::string_view trimmed(std::string_view text)
 {
     const auto isPlain = [](char c) { return c > ' ' && c < '\x7F'; };
@@ -100,15 +100,15 @@ inline std::string_view trimmed(std::string_view text)
                                                                           : trimmedSlowly(text);
 }
 
-/// Whether a number is written with all the digits of its binary form, 0.10000000000000001 for 0.1.
+/// Whether a number has all the digits of its binary form, such as 0.10000000000000001 for 0.1.
 bool isOverlong(const Cell &cell);
 
-/// Text of a cell, a number in its shortest decimal form of at most 15 significant digits.
+/// Text of a cell; a number in its shortest decimal form with at most 15 significant digits.
 std::string cellText(const Cell &cell);
 
-/// Most columns that a table may have: the width of an XLSX sheet.
+/// Maximum number of columns of a table: the width of an XLSX sheet.
 constexpr int MaxColumns = 16384;
-/// Most columns of a text table, which has no such width.
+/// Maximum number of columns of a text table, whose format has no limit.
 constexpr int MaxTextColumns = 65536;
 
 } // namespace vlt::driver

@@ -9,7 +9,7 @@ namespace vlt::driver {
 
 namespace {
 
-constexpr int ExactDigits = 15; ///< a decimal of so many digits is an exact double
+constexpr int ExactDigits = 15; ///< decimal digits that a double always preserves
 constexpr int MaxPhoneDigits = 6;
 
 constexpr std::array<double, 23> PowersOfTen = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
@@ -21,7 +21,7 @@ bool isDigit(char c)
     return c >= '0' && c <= '9';
 }
 
-/// The general case, exact but slower.
+/// The general case: exact but slower.
 std::optional<double> parseAnyNumber(std::string_view text, DecimalMark mark)
 {
     std::string plain;
@@ -92,13 +92,13 @@ NumberShape numberShape(std::string_view text)
         (text[at] == ',' ? shape.usesComma : shape.usesPoint) = true;
         for (++at; at < text.size() && isDigit(text[at]); ++at)
             ++digits;
-        if (digits == whole && shape.usesComma) // "12," is a list or a slip, not a number
+        if (digits == whole && shape.usesComma) // "12," is a list or a mistake, not a number
             return {};
     }
     if (digits == 0)
         return {};
     if (at < text.size() && (text[at] == 'e' || text[at] == 'E')) {
-        // 12E3 is as likely the name of a cell; 1.2E3 and 12E+03 are numbers.
+        // 12E3 may also be the name of a radio cell; 1.2E3 and 12E+03 are numbers.
         const std::size_t exponent = at + 1;
         const bool sign =
             exponent < text.size() && (text[exponent] == '+' || text[exponent] == '-');

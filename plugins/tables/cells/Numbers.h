@@ -6,29 +6,29 @@
 
 namespace vlt::driver {
 
-/// How a table writes fractions.
+/// The decimal mark of a table.
 enum class DecimalMark : char {
     Point = '.',
     Comma = ',',
 };
 
-/// A decimal number that fills the whole text: sign, digits, at most one decimal mark, exponent. No
-/// white space, no digit grouping, neither infinity nor NaN, whatever the process locale. Correctly
-/// rounded.
+/// The decimal number that is the whole text: sign, digits, at most one decimal mark, exponent.
+/// White space, digit grouping, infinity and NaN are refused. The result is rounded correctly and
+/// does not depend on the locale of the process.
 std::optional<double> parseNumber(std::string_view text, DecimalMark mark = DecimalMark::Point);
 
-/// What a text is when it stands for a number.
+/// The form of a text that may be a number.
 struct NumberShape
 {
     bool isNumber = false;
     bool isWhole = false;   ///< neither decimal mark nor exponent
     bool usesComma = false; ///< a comma is the decimal mark
     bool usesPoint = false; ///< a point is the decimal mark
-    bool isIdentifier =
-        false; ///< digits that a number would lose: leading zeros, over 15 digits, a phone number
+    /// A number would lose some of its characters: leading zeros, over 15 digits, a phone number.
+    bool isIdentifier = false;
 };
 
-/// Tells what a trimmed text looks like; either decimal mark is accepted.
+/// The form of a trimmed text; either decimal mark is accepted.
 NumberShape numberShape(std::string_view text);
 
 /// Shortest decimal form with at most 15 significant digits: 0.1, 30, 1e-07.

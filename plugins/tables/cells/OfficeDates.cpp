@@ -39,7 +39,7 @@ bool isDateFormat(std::string_view format)
                 return true;
             at = close;
         } else if (c == ';' || format.substr(at).starts_with("General"))
-            return false; // the first section is that of positive numbers
+            return false; // the first section is for positive numbers
         else if (std::string_view("ymdhsYMDHS").find(c) != std::string_view::npos)
             return true;
     }

@@ -5,10 +5,10 @@
 
 namespace vlt::driver {
 
-/// Whether a number format shows a date or a time: it holds y, m, d, h or s outside quotes,
+/// Whether a number format is for dates or times: it contains y, m, d, h or s outside quotes,
 /// brackets and escapes.
 bool isDateFormat(std::string_view format);
-/// The same for the formats that have a number but no text (ECMA-376, 18.8.30).
+/// The same for the built-in formats, which have a number but no text (ECMA-376, 18.8.30).
 bool isDateFormatId(int id);
 
 /// ISO 8601 text of a spreadsheet's day count: "2014-01-31", with a time of day

@@ -9,10 +9,10 @@
 
 namespace vlt::driver {
 
-/// Walks over the rows of a table from the first to the last.
+/// Reads the rows of a table from the first to the last.
 ///
-/// Framing a row is cheap, so that rows are counted without their cells being built.
-/// Every operation throws RefusedFile where the file is damaged.
+/// advance() only finds the limits of a row, so that counting rows does not decode their cells.
+/// Every function throws RefusedFile if the file is damaged.
 class RowReader
 {
 public:
@@ -20,28 +20,27 @@ public:
 
     /// Goes to the next row of the file; false at its end.
     virtual bool advance() = 0;
-    /// Row of the file as a spreadsheet counts it, from 1.
+    /// Number of the row in the file, from 1.
     virtual int64_t rowNumber() const = 0;
-    /// Whether a cell of this row in the columns 0 .. lastColumn holds more than white space.
+    /// Whether one of the columns 0 .. lastColumn of this row holds more than white space.
     virtual bool hasContent(int lastColumn) = 0;
-    /// A number that equals that of another row when both begin with the same value; cheap, and may
-    /// collide.
+    /// A number that is equal for two rows that begin with the same value. It takes little time and
+    /// may be equal by chance.
     virtual uint64_t fingerprint() = 0;
-    /// The cells of this row that hold more than white space; texts are untrimmed.
+    /// Gets the cells of this row that hold more than white space; their texts are not trimmed.
     virtual void cells(Row &row) = 0;
-    /// From now on cells() may leave out texts of these columns that would have to be looked up
-    /// elsewhere in the file; null for none. Counting a large sheet then does without its list of
-    /// texts.
+    /// From now on, cells() may omit texts of these columns that are stored elsewhere in the file;
+    /// null for no columns. A large sheet can then be counted without reading its list of texts.
     virtual void leaveOutTexts(const std::vector<char> *columns) { static_cast<void>(columns); }
-    /// Where this row starts, for Sheet::rowsFrom(); 0 where the format cannot say.
+    /// Position of this row for Sheet::rowsFrom(); 0 if the format does not support it.
     virtual uint64_t position() const { return 0; }
 };
 
-/// How the characters of a text are written.
+/// The character encoding of a text.
 struct TextEncoding
 {
     std::string name;
-    bool isGuess = false; ///< it only is the likeliest
+    bool isGuess = false; ///< the file does not state it
 };
 
 /// One table of a file.
@@ -54,20 +53,20 @@ public:
     virtual bool hidden() const { return false; }
     /// Rows from the first one.
     virtual std::unique_ptr<RowReader> rows() const = 0;
-    /// Rows from the row that starts at `position` and has `rowNumber`; null where the format
-    /// cannot jump.
+    /// Rows from the one at `position`, whose number is `rowNumber`; null if the format does not
+    /// support it.
     virtual std::unique_ptr<RowReader> rowsFrom(uint64_t position, int64_t rowNumber) const
     {
         static_cast<void>(position);
         static_cast<void>(rowNumber);
         return nullptr;
     }
-    /// Called after all rows were framed: false when they showed that the encoding is another one.
-    /// Rows read from now on come in the right one.
+    /// To be called after all rows were read once. Returns false if they showed that the encoding
+    /// is another one; rows that are read from now on have the correct one.
     virtual bool settleEncoding() { return true; }
-    /// Called once before the rows are read with their cells; `rowCount` is how many there are.
+    /// To be called once before the cells of `rowCount` rows are read.
     virtual void prepareStrings(uint64_t rowCount) const { static_cast<void>(rowCount); }
-    /// The encoding of a text; nameless for other formats.
+    /// The encoding of a text table; its name is empty for other formats.
     virtual TextEncoding encoding() const { return {}; }
 };
 
@@ -77,12 +76,11 @@ class Workbook
 public:
     virtual ~Workbook() = default;
 
-    /// The next table that was not yet given out; null after the last. Tables come in the file's
-    /// order.
+    /// The next table, in the order of the file; null after the last.
     virtual std::shared_ptr<Sheet> nextSheet() = 0;
 };
 
-/// Fingerprint of the raw form of a row's first value.
+/// Fingerprint of a row whose first value has this raw form.
 inline uint64_t fingerprintOf(std::string_view value)
 {
     return std::hash<std::string_view>()(value);

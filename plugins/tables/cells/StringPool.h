@@ -9,7 +9,7 @@
 
 namespace vlt::driver {
 
-/// Many texts in few blocks of memory; the texts never move.
+/// Stores many texts in few blocks of memory; the texts never move.
 class StringPool
 {
 public:

@@ -45,8 +45,7 @@ void ColumnStatistics::add(const Cell &cell, std::size_t samplesKept)
     NumberShape shape;
     if (cell.kind == Cell::Kind::Number || cell.kind == Cell::Kind::Text)
         shape = numberShape(text);
-    if (cell.kind == Cell::Kind::Number &&
-        !shape.isNumber) // 1E5 is a number where the cell says so
+    if (cell.kind == Cell::Kind::Number && !shape.isNumber) // 1E5 is a number if the cell is one
     {
         shape.isNumber = parseNumber(text).has_value();
         shape.usesPoint = true;

@@ -8,7 +8,7 @@
 
 namespace vlt::driver {
 
-/// How the values of a column are kept.
+/// Type of the values of a column.
 enum class FieldType {
     Text,
     Integer, ///< 32 bits
@@ -16,21 +16,21 @@ enum class FieldType {
     Real,
 };
 
-/// What the sampled cells of a column are.
+/// Statistics of the sampled cells of a column.
 class ColumnStatistics
 {
 public:
-    /// Of the first `samplesKept` cells the text is kept.
+    /// Counts a cell and keeps its text if it is one of the first `samplesKept` cells.
     void add(const Cell &cell, std::size_t samplesKept);
 
-    /// The type that every sampled cell fits. `allRows` tells that no row was left out; otherwise
-    /// whole numbers become Real, so that a fraction further down is not cut off.
+    /// The type that fits every sampled cell. Without `allRows`, some rows were not sampled; whole
+    /// numbers then become Real, so that fractions in these rows are kept.
     FieldType type(bool allRows) const;
-    /// Whether a text was met that is no number: further ones change nothing.
+    /// Whether one of the cells is a text and not a number; further cells then have no influence.
     bool isText() const { return m_texts > 0; }
     DecimalMark mark() const { return m_commas > 0 ? DecimalMark::Comma : DecimalMark::Point; }
     std::size_t filled() const { return m_filled; }
-    /// Some of the texts of the column, as many as decide a question about it.
+    /// Texts of the first cells.
     const std::vector<std::string> &samples() const { return m_samples; }
 
 private:
@@ -44,7 +44,7 @@ private:
     std::vector<std::string> m_samples;
 };
 
-/// Whether a text says that there is no value: NA, N/A, -, --, null, nan, #N/A.
+/// Whether a text means that there is no value: NA, N/A, -, --, null, nan, #N/A.
 bool isMissingWord(std::string_view text);
 
 } // namespace vlt::driver

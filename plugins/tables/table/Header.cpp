@@ -13,11 +13,11 @@ namespace {
 
 constexpr int RowsLookedAt = 50;
 constexpr int MinWords = 2;
-constexpr int NumbersPerHeader = 5; ///< at most one cell in so many may be a number, such as a year
+constexpr int NumbersPerHeader = 5; ///< at most one cell in five may be a number, such as a year
 constexpr std::size_t MaxNameSize = 256; ///< characters
 constexpr std::size_t MaxTitleSize = 1000;
 
-/// The start of a cell's text.
+/// The first characters of a cell's text.
 std::string startOf(const Cell &cell, std::size_t characters)
 {
     Cell start = cell;
@@ -25,7 +25,7 @@ std::string startOf(const Cell &cell, std::size_t characters)
     return cellText(start);
 }
 
-/// A header cell on one line; a long one is cut.
+/// The text of a header cell on one line, cut if too long.
 std::string nameOf(const Cell &cell)
 {
     std::string name;
@@ -38,7 +38,7 @@ std::string nameOf(const Cell &cell)
     return name;
 }
 
-/// What could not be read in the row of the header.
+/// The faults in the row of the header.
 std::vector<CellFault> faultsOf(const Row &row)
 {
     std::vector<CellFault> faults;
@@ -68,7 +68,7 @@ bool isValue(const Cell &cell)
 std::optional<Header> findHeader(const Sheet &sheet, contract::TableKind kind, std::size_t &widest)
 {
     std::optional<Header> best;
-    std::optional<Header> firstWide; ///< the first row with two cells or more
+    std::optional<Header> firstWide; ///< the first row with at least two cells
     bool firstWideIsText = false;
     std::vector<std::string> titles;
     const std::unique_ptr<RowReader> rows = sheet.rows();

@@ -17,7 +17,7 @@ bool isWordByte(char c)
     return (c >= 'a' && c <= 'z') || isUpper(c) || (c >= '0' && c <= '9') || (c & 0x80) != 0;
 }
 
-/// Column names in English, French, German, Spanish and Italian tables.
+/// Words in the column names of English, French, German, Spanish and Italian tables.
 constexpr std::array SiteWords = {
     "site",     "sites",       "name",        "nom",         "id",          "x",
     "y",        "lon",         "long",        "lng",         "longitude",   "longitud",
@@ -27,13 +27,13 @@ constexpr std::array SiteWords = {
     "secteur",  "antenna",     "antenne",     "antena",      "easting",     "northing",
     "cellname", "coordinates", "longitudine", "site_id",     "gps"};
 
-/// Those that tables of links have besides.
+/// Further words in tables of links.
 constexpr std::array LinkWords = {
     "link", "links",  "liaison",  "hop",       "tx",        "rx",       "frequency", "freq",
     "band", "length", "distance", "longueur",  "path",      "callsign", "call",      "dx",
     "dy",   "dł",     "sz",       "fréquence", "frequence", "frequenz", "länge"};
 
-/// What an end may be written together with.
+/// Words that the name of an end can follow without a separator.
 constexpr std::array WordsWithEnd = {"x",         "y",      "lon",      "long",      "lng",
                                      "longitude", "lat",    "latitude", "easting",   "northing",
                                      "azimuth",   "height", "tilt",     "dx",        "dy",
@@ -41,7 +41,7 @@ constexpr std::array WordsWithEnd = {"x",         "y",      "lon",      "long", 
 constexpr std::array FusedEnds = {"start", "end", "from", "to", "tx", "rx",
                                   "a",     "b",   "0",    "1",  "2"};
 
-/// How many bytes of a word come before the end that it is written together with; 0 without one.
+/// The number of bytes before the name of an end at the end of a word; 0 without such a name.
 std::size_t sizeBeforeEnd(std::string_view word)
 {
     for (const std::string_view end : FusedEnds) {

@@ -8,7 +8,7 @@ std::string quotation(std::string_view value)
     if (value.size() <= Longest)
         return std::string(value);
     std::size_t cut = Longest;
-    while (cut > 0 && (value[cut] & 0xC0) == 0x80) // not inside a character
+    while (cut > 0 && (value[cut] & 0xC0) == 0x80) // never inside a character
         --cut;
     return std::string(value.substr(0, cut)) + "...";
 }

@@ -6,16 +6,16 @@
 
 namespace vlt::driver {
 
-/// One thing in a row that keeps it from being read in full.
+/// A reason why a row cannot be read in full.
 struct RowProblem
 {
-    int64_t row = 0;     ///< number in the file; 0 for the table as a whole
-    std::string column;  ///< name of the field; empty for the row as a whole
-    bool isError = true; ///< something has no position; otherwise only a value is lost
-    std::string text;    ///< English, of the table of texts
+    int64_t row = 0;     ///< number in the file; 0 for the whole table
+    std::string column;  ///< name of the field; empty for the whole row
+    bool isError = true; ///< a position is missing; otherwise only a value is lost
+    std::string text;    ///< English, from contract/TableTexts.h
 };
 
-/// A value as a problem quotes it: the start of a long one.
+/// A value as quoted in the text of a problem; a long one is cut.
 std::string quotation(std::string_view value);
 
 } // namespace vlt::driver

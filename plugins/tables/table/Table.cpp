@@ -11,12 +11,13 @@ namespace {
 
 constexpr uint64_t RowsSampledFirst = 1000;
 constexpr std::size_t SamplesPerColumn = 200;
-constexpr std::size_t SamplesPerTable = 200000; ///< but ten of each column
-constexpr uint64_t SampleEvery = 256;           ///< of the rows behind the first ones
+constexpr std::size_t SamplesPerTable = 200000; ///< but at least ten of each column
+constexpr uint64_t SampleEvery = 256;           ///< one in 256 of the rows after the first ones
 constexpr uint64_t RowsPerMark = 4096;
 constexpr std::size_t MaxSheetsRead = 64;
-constexpr double FullShare =
-    0.9; ///< a column behind the header counts when this share of the rows fills it
+/// A column without a name after the last named one counts if this share of the rows has a value in
+/// it.
+constexpr double FullShare = 0.9;
 
 struct Candidate
 {
@@ -30,8 +31,8 @@ bool isConvincing(const Header &header, const TableHints &hints)
            header.hasRowsBelow;
 }
 
-/// Visible sheets before hidden ones, then those that are wanted, then the one with more words of
-/// its kind, then the earlier.
+/// Prefers visible sheets, then wanted ones, then those with rows, then the one with more words of
+/// its kind, then the earlier one.
 bool isBetter(const Candidate &candidate, const Candidate &best, const TableHints &hints)
 {
     const auto rank = [&hints](const Candidate &c) {
@@ -73,7 +74,7 @@ Candidate chooseSheet(Workbook &workbook, const TableHints &hints)
     throw RefusedFile(Refusal::NoHeader, "MESS_TAB_NO_HEADER");
 }
 
-/// Statistics of the columns, and how many rows were looked at for them.
+/// Statistics of the columns, and the number of rows that they are based on.
 struct Sample
 {
     std::vector<ColumnStatistics> columns;
@@ -91,7 +92,7 @@ struct Sample
             columns[static_cast<std::size_t>(cell.column)].add(cell, kept);
     }
 
-    /// The columns that are text whatever else is in them.
+    /// The columns that are already known to be texts.
     std::vector<char> textColumns() const
     {
         std::vector<char> text(columns.size());
@@ -101,8 +102,9 @@ struct Sample
     }
 };
 
-/// The name of a column as a field. Exports mark mandatory columns by an asterisk behind the name,
-/// of which the library's SQL makes all columns again and again without end.
+/// The name of a column as a field. Some exports mark mandatory columns by an asterisk at the end,
+/// which the SQL of the library would expand to all columns, endlessly because that column is one
+/// of them.
 std::string fieldName(const Header &header, int column)
 {
     const auto named = header.names.find(column);
@@ -111,7 +113,7 @@ std::string fieldName(const Header &header, int column)
     return name.empty() ? "Column " + std::to_string(column + 1) : name;
 }
 
-/// `taken` holds the names given so far with the number that the next one like it is tried with.
+/// `taken` holds the names so far, each with the number to try next for an equal one.
 std::string uniqueName(const std::string &name, std::map<std::string, int> &taken)
 {
     const auto [first, isNew] = taken.emplace(name, 2);
@@ -151,7 +153,7 @@ void makeFields(TableProfile &profile, const Sample &sample, const TableHints &h
     profile.lastColumn = profile.fields.back().column;
 }
 
-/// Looks at all rows: counts them, marks places, takes samples.
+/// Reads all rows once: counts them, marks positions and takes samples.
 void scan(const Sheet &sheet, const std::shared_ptr<TableProfile> &profile, Sample &sample)
 {
     profile->rowCount = 0;
@@ -220,13 +222,14 @@ DataRows::DataRows(const Sheet &sheet, std::shared_ptr<const TableProfile> profi
 bool DataRows::isData()
 {
     m_parsed = false;
-    // Not the last field's column: fields without a name join only after the rows were counted.
+    // Columns without a name become fields only after the rows were counted, so they do not count
+    // here.
     const int lastNamed = m_profile->header.names.rbegin()->first;
     if (m_rows->rowNumber() <= m_profile->header.row || !m_rows->hasContent(lastNamed))
         return false;
     if (m_rows->fingerprint() != m_profile->header.fingerprint)
         return true;
-    m_rows->leaveOutTexts(nullptr); // names are texts, too
+    m_rows->leaveOutTexts(nullptr); // the names in the header are texts too
     const bool repeated = repeatsHeader(cells(), m_profile->header);
     m_rows->leaveOutTexts(m_leftOut);
     return !repeated;

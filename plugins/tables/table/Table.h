@@ -13,8 +13,8 @@ namespace vlt::driver {
 /// One column of a table.
 struct Field
 {
-    /// As in the header without asterisks at its end; made unique by a number where it is there
-    /// twice.
+    /// As in the header, without asterisks at the end. A number makes the name unique if it occurs
+    /// more than once.
     std::string name;
     int column = 0; ///< from 0
     FieldType type = FieldType::Text;
@@ -22,15 +22,15 @@ struct Field
     std::vector<std::string> samples; ///< texts of some of its cells
 };
 
-/// Where a row starts, to go there without reading those before.
+/// Position of a row, which can be read from there without reading the rows before.
 struct RowMark
 {
     int64_t row = 0; ///< number in the file
     uint64_t position = 0;
 };
 
-/// What is known about a table without its rows being kept: what an open needs, small enough to
-/// remember.
+/// The properties of a table without its rows. Opening an unchanged file again needs no more than
+/// this, and it is small enough to be kept in memory.
 struct TableProfile
 {
     std::string sheet;
@@ -43,31 +43,32 @@ struct TableProfile
     std::vector<RowMark> marks; ///< every few thousand rows, ascending
 };
 
-/// What the user says about the table; empty members are found out.
+/// What the caller states about the table; empty members are found automatically.
 struct TableHints
 {
     contract::TableKind kind = contract::TableKind::Sites;
     std::string sheet;
-    bool textOnly = false; ///< keep every column as text
-    /// Whether a header is that of the wanted table: a sheet with such a header is preferred.
+    bool textOnly = false; ///< all columns are texts
+    /// Whether a header belongs to the wanted table; a sheet with such a header is preferred.
     bool (*isWanted)(const Header &header) = [](const Header &) { return true; };
 };
 
-/// A table: the sheet of a workbook that holds one, and what is known about it.
+/// A table: the sheet of a workbook, and its properties.
 struct Table
 {
     std::shared_ptr<Sheet> sheet;
     std::shared_ptr<const TableProfile> profile;
 };
 
-/// Finds the sheet whose header is the most convincing and looks at all its rows once.
-/// Throws RefusedFile (NoHeader, OneColumn, Empty, BadOption).
+/// Finds the sheet with the best header and reads all its rows once. Throws RefusedFile (NoHeader,
+/// OneColumn, Empty, BadOption).
 Table readTable(Workbook &workbook, const TableHints &hints);
 
-/// The sheet that a profile is about, in a workbook that was opened again.
+/// The sheet of a profile, in a workbook that was opened again.
 std::shared_ptr<Sheet> findSheet(Workbook &workbook, const std::string &name);
 
-/// The rows of a table that hold data: below the header, not empty, not the header once more.
+/// The rows of a table that hold data: those below the header that are not empty and do not repeat
+/// it.
 class DataRows
 {
 public:
@@ -75,7 +76,7 @@ public:
 
     /// Goes to the next row of data; false after the last.
     bool advance();
-    /// Goes to the row with that number, or to the next one behind it; false when there is none.
+    /// Goes to the row with that number, or else to the next one after it; false if there is none.
     bool seek(int64_t row);
     int64_t rowNumber() const { return m_rows->rowNumber(); }
     uint64_t position() const { return m_rows->position(); }
@@ -85,7 +86,7 @@ public:
         m_leftOut = columns;
         m_rows->leaveOutTexts(columns);
     }
-    /// The cells of the row; views live until the next row.
+    /// The cells of the row, valid until the next row.
     const Row &cells();
 
 private:
