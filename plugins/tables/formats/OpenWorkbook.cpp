@@ -13,7 +13,8 @@ namespace {
 
 constexpr std::size_t HeadSize = 512;
 
-/// Whether an ASCII text of any character width starts with "<" behind marks and white space.
+/// Whether a text starts with "<", apart from byte order marks, white space and the zero bytes of
+/// wide encodings.
 bool startsWithTag(const std::string &head)
 {
     for (const char c : head) {

@@ -6,8 +6,8 @@
 
 namespace vlt::driver {
 
-/// Opens a file of tables; what is in it decides how, not what it is called. `name` is that of the
-/// only sheet of a text. Throws RefusedFile.
+/// Opens a file of tables. Its content decides the format, not its suffix. `name` becomes the name
+/// of the only sheet of a text. Throws RefusedFile.
 std::unique_ptr<Workbook> openWorkbook(std::shared_ptr<const InputFile> file,
                                        const std::string &name, const TextHints &hints);
 

@@ -19,7 +19,7 @@ constexpr char Western[] = "WINDOWS-1252";
 constexpr char Cyrillic[] = "WINDOWS-1251";
 constexpr std::size_t BlockSize = std::size_t{1} << 20;
 constexpr std::size_t SampleSize = std::size_t{64} << 10;
-constexpr std::size_t CharactersPerBadByte = 2; ///< at least so many, or the text is not UTF-8
+constexpr std::size_t CharactersPerBadByte = 2; ///< minimum for a text in UTF-8
 constexpr double ClearlyBetter = 0.1;
 constexpr double Negligible = 1e-9;
 constexpr std::size_t FewAccents = 8;
@@ -29,11 +29,11 @@ struct DetectorRelease
     void operator()(uchardet *detector) const { uchardet_delete(detector); }
 };
 
-/// What the bytes of a file show.
+/// The bytes of a file that matter for its encoding.
 struct Census
 {
     Utf8Count utf8;
-    std::string sample; ///< lines with bytes above ASCII
+    std::string sample; ///< lines that contain bytes above ASCII
 
     void add(std::string_view lines)
     {
@@ -57,7 +57,7 @@ Census censusOf(const std::shared_ptr<const InputFile> &file)
     Census census;
     FileSource source(file, {{0, file->size()}});
     std::string block;
-    std::size_t kept = 0; ///< of a line that goes on behind the block
+    std::size_t kept = 0; ///< bytes of a line that continues in the next block
     for (;;) {
         block.resize(kept + BlockSize);
         const std::size_t got = source.read(block.data() + kept, BlockSize);
@@ -81,7 +81,8 @@ std::string detected(const std::string &sample)
     return uchardet_get_charset(detector.get());
 }
 
-/// Standards and what Windows made of them, which the detector mixes up.
+/// Standard encodings and the similar ones of Windows, which the detector does not distinguish
+/// well.
 constexpr std::array<std::array<const char *, 2>, 7> Relatives = {{{"ISO-8859-2", "WINDOWS-1250"},
                                                                    {"ISO-8859-7", "WINDOWS-1253"},
                                                                    {"ISO-8859-8", "WINDOWS-1255"},
@@ -90,7 +91,7 @@ constexpr std::array<std::array<const char *, 2>, 7> Relatives = {{{"ISO-8859-2"
                                                                    {"ISO-8859-4", "WINDOWS-1257"},
                                                                    {"TIS-620", "WINDOWS-874"}}};
 
-/// What the detector may mean.
+/// The encodings that an answer of the detector may stand for.
 std::vector<std::string> candidates(const std::string &answer)
 {
     for (const auto &[standard, windows] : Relatives) {
@@ -107,7 +108,7 @@ double plausibilityOf(const std::string &sample, const std::string &encoding)
     try {
         return plausibility(recoded(sample, encoding));
     } catch (const RefusedFile &) {
-        return 0; // the system does not know it
+        return 0; // the system does not support the encoding
     }
 }
 
@@ -120,7 +121,7 @@ std::string guessEncoding(const std::shared_ptr<const InputFile> &file)
         return Utf8;
     const std::string answer = detected(census.sample);
     const std::vector<std::string> meant = candidates(answer);
-    // From some accents on the detector hardly takes a western language for another one.
+    // With several accents, the detector rarely mistakes a western language for another one.
     const bool isSure = meant.size() > 1 && census.utf8.badBytes >= FewAccents;
     std::string best = Western;
     double most = plausibilityOf(census.sample, Western) + (isSure ? -Negligible : ClearlyBetter);
@@ -131,7 +132,7 @@ std::string guessEncoding(const std::shared_ptr<const InputFile> &file)
             most = plausible;
         }
     }
-    // The detector does not know every language that is written in it.
+    // The detector does not know every language with Cyrillic letters.
     const bool isCyrillic = answer.empty() && plausibilityOf(census.sample, Cyrillic) > most;
     return isCyrillic ? Cyrillic : best;
 }

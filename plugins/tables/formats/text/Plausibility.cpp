@@ -10,8 +10,8 @@ namespace vlt::driver {
 
 namespace {
 
-/// Small letters above ASCII, of languages or of the languages of a country. Icelandic goes without
-/// two that Turkish has in their places.
+/// Small letters above ASCII of one language, or of the languages of one country. Icelandic lacks
+/// two letters (ý, þ), which have the same codes as two Turkish ones.
 constexpr std::array<std::u32string_view, 16> Alphabets = {
     U"àâæçéèêëîïôœùûüÿäöß",  // French, German, Luxembourgish
     U"àèéìíîòóùúäöüßâêôç",   // Italian, Rhaeto-Romance, German
@@ -30,7 +30,7 @@ constexpr std::array<std::u32string_view, 16> Alphabets = {
     U"āčēģīķļņšūžõäöü",      // Latvian, Estonian
     U"ăâđêôơưáàảãạéèẻẽẹíìỉĩịóòỏõọúùủũụýỳỷỹỵấầẩẫậắằẳẵặếềểễệốồổỗộớờởỡợứừửữự"};
 
-/// Signs that also stand between two letters.
+/// Signs that can occur between two letters.
 constexpr std::u32string_view SignsInWords = U"’‘–—·´°\u00A0\u00AD";
 
 enum class Kind { Ascii, SmallAscii, Latin, OtherLetter, Sign, Unreadable };
@@ -49,7 +49,7 @@ Kind kindOf(char32_t code)
     if ((isBetween(code, 0xC0, 0x24F) && code != 0xD7 && code != 0xF7) ||
         isBetween(code, 0x1E00, 0x1EFF))
         return Kind::Latin;
-    // Greek to Georgian; the East Asian scripts with their own punctuation and wide forms
+    // Greek to Georgian, and the East Asian scripts with their punctuation and wide forms
     return isBetween(code, 0x370, 0x10FF) || isBetween(code, 0x3000, 0xD7AF) ||
                    isBetween(code, 0xF900, 0xFAFF) || isBetween(code, 0xFF00, 0xFFEF)
                ? Kind::OtherLetter
@@ -63,7 +63,7 @@ bool isLetter(char32_t code)
            isBetween(code, 'A', 'Z');
 }
 
-/// Small letter of the alphabets above.
+/// The small letter, for the letters of the alphabets above.
 char32_t smallLetter(char32_t code)
 {
     if (isBetween(code, 0xC0, 0xDE))
@@ -79,7 +79,7 @@ char32_t smallLetter(char32_t code)
     return isPaired && code != 0x131 ? code | 1 : code;
 }
 
-/// The text, which is UTF-8, as code points.
+/// The code points of a text in UTF-8.
 std::u32string codesOf(std::string_view text)
 {
     std::u32string codes;
@@ -96,7 +96,7 @@ std::u32string codesOf(std::string_view text)
     return codes;
 }
 
-/// Letters that the alphabet with the most of them has.
+/// The number of letters that the best fitting alphabet contains.
 std::size_t inOneAlphabet(const std::map<char32_t, std::size_t> &letters)
 {
     std::size_t most = 0;
@@ -126,7 +126,7 @@ double plausibility(std::string_view text)
             continue;
         if (kind == Kind::Sign && (SignsInWords.find(code) != std::u32string_view::npos ||
                                    !isLetter(before) || !isLetter(after)))
-            continue; // they tell nothing
+            continue; // no evidence
         ++all;
         if (kind == Kind::Latin)
             ++latin[smallLetter(code)];

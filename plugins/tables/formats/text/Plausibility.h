@@ -4,13 +4,12 @@
 
 namespace vlt::driver {
 
-/// How much a UTF-8 text that was decoded by a guess looks like something people write: the share
-/// of its characters above ASCII that make sense where they stand, 0 .. 1; 1 for a text without
-/// any.
+/// How plausible a text in UTF-8 is after it was decoded from a guessed encoding: the share of
+/// plausible characters among those above ASCII, 0 .. 1; 1 for a text without such characters.
 ///
-/// Accented Latin letters make sense as far as one language, or a pair that shares a country, has
-/// them; letters of other scripts do where no small Latin letter touches them; other signs do
-/// unless they stand inside a word.
+/// Accented Latin letters are plausible if they belong to the language, or to the languages of one
+/// country, that has the largest number of them. Letters of other scripts are plausible if no small
+/// Latin letter is next to them, and other signs if they are not inside a word.
 double plausibility(std::string_view text);
 
 } // namespace vlt::driver

@@ -15,13 +15,14 @@ namespace vlt::driver {
 namespace {
 
 constexpr std::size_t SampleLines = 200;
-constexpr std::string_view Delimiters =
-    ";\t|,"; ///< the earlier wins between equals: commas are decimal marks, too
-constexpr std::size_t ControlShare = 200; ///< one control character in so many is still a text
-constexpr std::size_t FewControls = 3;    ///< which a short one may have
+/// By priority: the comma is the last one because it is a decimal mark too.
+constexpr std::string_view Delimiters = ";\t|,";
+/// A text has at most this number of control characters, or one among 200 characters.
+constexpr std::size_t FewControls = 3;
+constexpr std::size_t CharactersPerControl = 200;
 
-/// Encoding of a text without a byte order mark whose characters are two or four bytes wide: mostly
-/// zeros in a regular pattern. Empty for other texts.
+/// Encoding of a text without a byte order mark whose characters have two or four bytes. It is
+/// found by a regular pattern of zero bytes. Empty for other texts.
 std::string wideEncoding(std::string_view text)
 {
     std::size_t zeros[4] = {};
@@ -41,7 +42,7 @@ std::string wideEncoding(std::string_view text)
     return {};
 }
 
-/// Counts the fields of each line, quotes heeded.
+/// Counts the fields of each line and respects quotes.
 class FieldCounter
 {
 public:
@@ -50,7 +51,7 @@ public:
     /// Whether a character opens a quoted field.
     bool opens(char c) const { return c == '"' && m_state.fieldStart && !m_state.quoted; }
 
-    /// Takes a character; with `isPlain` a quotation mark is like any other.
+    /// Adds a character; with `isPlain` a quotation mark is an ordinary character.
     void add(char c, bool isPlain = false)
     {
         const bool reopens = m_state.closed && c == '"';
@@ -73,15 +74,15 @@ public:
         m_state.lines = m_counts.size();
     }
 
-    /// What a character is judged by.
+    /// The state between two characters, to which goBack() can return.
     struct State
     {
-        std::size_t lines = 0; ///< that have ended
+        std::size_t lines = 0; ///< number of complete lines
         std::size_t fields = 1;
         bool quoted = false;
         bool fieldStart = true;
         bool lineStart = true;
-        bool closed = false; ///< the character before closed a quoted field, or was the first of a
+        bool closed = false; ///< the previous character closed a quoted field or began a
                              ///< doubled mark
     };
     const State &state() const { return m_state; }
@@ -98,8 +99,8 @@ private:
     State m_state;
 };
 
-/// Number of fields of each line when cut at `delimiter`. As for the reader of the rows a mark that
-/// is never closed opens nothing.
+/// Number of fields of each line if cut at `delimiter`. As in TextRows, a quotation mark that is
+/// never closed is an ordinary character.
 std::vector<std::size_t> fieldCounts(std::string_view text, char delimiter, bool isWhole)
 {
     constexpr int MaxUnclosed = 8;
@@ -125,7 +126,7 @@ std::vector<std::size_t> fieldCounts(std::string_view text, char delimiter, bool
     return counter.counts();
 }
 
-/// The most common number of fields, more than one, and how many lines have it.
+/// The most frequent number of fields above one, and the number of lines with it.
 struct CommonCount
 {
     std::size_t fields = 0;
@@ -145,14 +146,14 @@ CommonCount commonCount(const std::vector<std::size_t> &counts)
     return common;
 }
 
-/// How well a delimiter explains the lines: the share of lines with the most common number of
-/// fields (more than one), weighted gently by that number.
+/// How well a delimiter fits the lines: the share of lines with the most frequent number of fields
+/// above one, slightly increased by that number.
 double score(const std::vector<std::size_t> &counts)
 {
     const CommonCount common = commonCount(counts);
     if (common.fields < 2)
         return 0;
-    // In prose few lines have a comma; in a table every line below the titles has delimiters.
+    // In prose, few lines have a comma; in a table, every line below the titles has delimiters.
     const auto first =
         std::find_if(counts.begin(), counts.end(), [](std::size_t count) { return count > 1; });
     const auto cut =
@@ -207,13 +208,13 @@ void refuseOtherKinds(std::string_view text)
         throw RefusedFile(Refusal::NotSupportedFormat, "MESS_TAB_JSON");
     if (start.starts_with("ID;P"))
         throw RefusedFile(Refusal::NotSupportedFormat, "MESS_TAB_SYLK");
-    std::size_t controls = 0; // zeros do no harm in a cell, and loggers pad with them
+    std::size_t controls = 0; // zero bytes are accepted, because some loggers pad with them
     for (const char c : text)
         controls += static_cast<unsigned char>(c) < 0x20 &&
                             std::string_view("\n\r\t\f\0", 5).find(c) == std::string_view::npos
                         ? 1
                         : 0;
-    if (controls > FewControls && controls * ControlShare > text.size())
+    if (controls > FewControls && controls * CharactersPerControl > text.size())
         throw RefusedFile(Refusal::NotATable, "MESS_TAB_BINARY_FILE");
 }
 
@@ -233,8 +234,7 @@ TextFormat findTextFormat(const std::shared_ptr<const InputFile> &file, const Te
         format.encoding = wideEncoding(text);
     format.isStated = !format.encoding.empty();
     if (!format.isStated) {
-        // A character cut at the end of the sample goes on behind it, but not at the end of the
-        // file.
+        // At the end of the sample a character may be incomplete, but not at the end of the file.
         const bool isWhole = head.size() < TextSampleSize;
         format.encoding = isUtf8(isWhole ? text + '\n' : text) ? Utf8 : guessEncoding(file);
     }
@@ -245,7 +245,7 @@ TextFormat findTextFormat(const std::shared_ptr<const InputFile> &file, const Te
         format.delimiter = text[4];
         const std::size_t lineSize = text.substr(5, 2) == "\r\n" ? 7 : 6;
         text.erase(0, lineSize);
-        if (format.isUtf8()) { // in wider encodings the line is read as a title row
+        if (format.isUtf8()) { // in wide encodings the line is read as a title row
             format.start += lineSize;
             format.firstRow = 2;
         }

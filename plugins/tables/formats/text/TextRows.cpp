@@ -13,7 +13,7 @@ namespace vlt::driver {
 
 namespace {
 
-/// A quoted field this long was never meant to be one.
+/// Maximum size of a quoted field in bytes; beyond it, the quotation mark is an ordinary character.
 constexpr std::ptrdiff_t MaxQuotedSize = std::ptrdiff_t{8} << 20;
 
 const char *find(const char *begin, const char *end, char wanted)
@@ -23,16 +23,16 @@ const char *find(const char *begin, const char *end, char wanted)
     return found ? static_cast<const char *>(found) : end;
 }
 
-/// One field of a row.
+/// A field of a row.
 struct TextField
 {
     std::string_view text;
-    const char *end = nullptr; ///< the delimiter behind it, or the row's end
+    const char *end = nullptr; ///< the delimiter after it, or the end of the row
     bool isQuoted = false;
 };
 
-/// Reads the field at `at` of a row that ends at `rowEnd`. Without a row to keep the text, doubled
-/// quotes stay doubled.
+/// Reads the field at `at` of a row that ends at `rowEnd`. Without `row`, which stores texts,
+/// doubled quotation marks stay doubled.
 TextField readField(const char *at, const char *rowEnd, char delimiter, Row *row)
 {
     if (at < rowEnd && *at == '"') {
@@ -64,7 +64,7 @@ TextField readField(const char *at, const char *rowEnd, char delimiter, Row *row
     return {{at, static_cast<std::size_t>(end - at)}, end, false};
 }
 
-/// How many times each line of a text holds the delimiter.
+/// The number of delimiters in each line of a text.
 std::vector<std::size_t> delimitersPerLine(std::string_view text, char delimiter)
 {
     std::vector<std::size_t> counts = {0};
@@ -78,11 +78,12 @@ std::vector<std::size_t> delimitersPerLine(std::string_view text, char delimiter
     return counts;
 }
 
-/// How many lines a quoted field reaches over that look like rows of the table. In an address on
-/// several lines, or a remark, they do not.
+/// The number of lines in a quoted field that are probably rows of the table, because a quotation
+/// mark is missing: those with as many delimiters as a row. The lines of an address or a remark
+/// have fewer.
 ///
-/// @param before  delimiters before the field in its row
-/// @param behind  delimiters behind it
+/// @param before  number of delimiters before the field in its row
+/// @param behind  number of delimiters after it
 std::size_t swallowedRows(std::string_view text, std::size_t before, std::size_t behind,
                           char delimiter, std::size_t fieldCount)
 {
@@ -98,7 +99,7 @@ std::size_t swallowedRows(std::string_view text, std::size_t before, std::size_t
                                                                                           : 0;
 }
 
-/// Whether the field is anything but blanks.
+/// Whether the field holds more than blanks.
 bool isFilled(std::string_view field)
 {
     return !field.empty() &&
@@ -119,7 +120,7 @@ TextRows::TextRows(std::unique_ptr<ByteSource> stream, const TextFormat &format,
     m_row = m_rowEnd = m_next = m_input.begin();
 }
 
-/// Appends to the window, keeping the current row.
+/// Appends to the window and keeps the current row.
 bool TextRows::more()
 {
     const uint64_t dropped = static_cast<uint64_t>(m_row - m_input.begin());
@@ -141,8 +142,8 @@ bool TextRows::advance()
     return findRowEnd();
 }
 
-/// The place of the mark that closes the quoted field starting at `field`, or null when none does.
-/// The window may grow and move; `field` is then m_row plus its old distance.
+/// The mark that closes the quoted field at `field`, or null. The window may move, so `field` is
+/// invalid afterwards; its distance from m_row stays the same.
 const char *TextRows::closingQuote(const char *field)
 {
     const std::ptrdiff_t start = field - m_row;
@@ -211,7 +212,7 @@ uint64_t TextRows::fingerprint()
     return start;
 }
 
-/// The row with U+FFFD for every byte that is no character, which is counted.
+/// The row with U+FFFD for every byte that is not part of a character. Their number is reported.
 std::string_view TextRows::readable(Row &row) const
 {
     constexpr std::string_view Replacement = "\xEF\xBF\xBD";
@@ -221,7 +222,7 @@ std::string_view TextRows::readable(Row &row) const
         unreadable = countUtf8(line).badBytes;
         if (unreadable > 0)
             line = row.keep(repairedUtf8(line));
-    } else // replaced already
+    } else // RecodeSource has replaced them
         for (const char *at = findText(m_row, m_rowEnd, Replacement); at != m_rowEnd;
              at = findText(at + 1, m_rowEnd, Replacement))
             ++unreadable;
@@ -243,12 +244,12 @@ void TextRows::cells(Row &row)
     if (find(at, end, '\0') != end)
         row.expectZeros();
     const bool hasLines = findAnyOf(at, end, '\n', '\r', '\n') != end;
-    TextField lines; ///< the first field that holds several
+    TextField lines; ///< the first field with more than one line
     int columnOfLines = -1;
     const char delimiter = m_delimiter;
     int column = 0;
     for (; column < MaxTextColumns; ++column) {
-        TextField field; // nearly every one has no quotes
+        TextField field; // nearly all fields have no quotes
         if (at < end && *at == '"')
             field = readField(at, end, m_delimiter, &row);
         else {

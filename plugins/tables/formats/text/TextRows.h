@@ -8,14 +8,15 @@ namespace vlt::driver {
 
 /// Rows of a delimited text (RFC 4180, read leniently).
 ///
-/// A quotation mark opens a quoted field only at the start of a field, so that inches and seconds
-/// of arc stand as they are. One that is never closed is an ordinary character. Lines end in LF, CR
-/// LF or CR; blank lines count as rows in the numbering.
+/// A quotation mark opens a quoted field only at the start of a field, so that marks of inches and
+/// seconds of arc are kept. A mark that is never closed is an ordinary character. Lines end in LF,
+/// CR LF or CR; blank lines count in the numbers of the rows.
 class TextRows : public RowReader
 {
 public:
-    /// The stream, which is recoded to UTF-8 already, starts at a row, which is number `firstRow`,
-    /// `position` bytes into the file.
+    /// @param stream    the rows in UTF-8
+    /// @param firstRow  number of the row at the start of the stream
+    /// @param position  offset of that row in the file, in bytes
     TextRows(std::unique_ptr<ByteSource> stream, const TextFormat &format, int64_t firstRow,
              uint64_t position);
 
@@ -44,7 +45,7 @@ private:
     const char *m_row = nullptr;    ///< the current row
     const char *m_rowEnd = nullptr; ///< its line end
     const char *m_next = nullptr;   ///< the row after it
-    bool m_atEnd = false;           ///< the window reaches to the end of the stream
+    bool m_atEnd = false;           ///< the window includes the end of the stream
 };
 
 } // namespace vlt::driver

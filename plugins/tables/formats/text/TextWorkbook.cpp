@@ -12,7 +12,7 @@ namespace vlt::driver {
 
 namespace {
 
-/// Passes bytes on and notices when they are not UTF-8; works where the bytes are fetched.
+/// Passes bytes on and checks whether they are UTF-8, in the thread that fetches them.
 class WatchedSource : public ByteSource
 {
 public:
@@ -30,7 +30,7 @@ public:
     }
 
 private:
-    /// A character may be cut between two pieces, but then the second has to complete it.
+    /// A character may be divided between two blocks; the second one then has to complete it.
     bool goesOnAsUtf8(std::string_view piece)
     {
         const std::string seam = m_tail + (piece.empty() ? "\n" : std::string(piece.substr(0, 3)));
@@ -39,7 +39,7 @@ private:
         return isUtf8Piece(piece) && isUtf8Piece(seam);
     }
 
-    std::string m_tail; ///< the last bytes of the piece before
+    std::string m_tail; ///< the last bytes of the previous block
     std::unique_ptr<ByteSource> m_source;
     std::atomic<bool> &m_notUtf8;
 };
@@ -96,7 +96,7 @@ private:
     std::shared_ptr<const InputFile> m_file;
     std::string m_name;
     TextFormat m_format;
-    bool m_isWatched; ///< UTF-8 as far as the start tells
+    bool m_isWatched; ///< the start is UTF-8, so the other bytes have to be checked
     mutable std::atomic<bool> m_notUtf8 = false;
 };
 

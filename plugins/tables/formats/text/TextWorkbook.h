@@ -6,7 +6,7 @@
 
 namespace vlt::driver {
 
-/// Opens a delimited text as a workbook of one sheet called `name`. Throws RefusedFile.
+/// Opens a delimited text as a workbook with one sheet, whose name is `name`. Throws RefusedFile.
 std::unique_ptr<Workbook> openText(std::shared_ptr<const InputFile> file, const std::string &name,
                                    const TextHints &hints);
 

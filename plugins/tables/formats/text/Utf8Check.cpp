@@ -11,10 +11,10 @@ namespace {
 
 constexpr std::string_view Replacement = "\xEF\xBF\xBD";
 
-/// What stands at a byte above ASCII.
+/// The character at a byte above ASCII.
 struct Sequence
 {
-    std::size_t length = 0; ///< 0: no character
+    std::size_t length = 0; ///< in bytes; 0 for a bad byte
     bool isCut = false;
 };
 
@@ -31,7 +31,7 @@ Sequence sequenceAt(std::string_view text, std::size_t at)
     for (std::size_t next = 1; next < length; ++next) {
         if (at + next == text.size())
             return {next, true};
-        // The second byte also rules out overlong forms, halves of pairs and codes out of range.
+        // The second byte also excludes overlong forms, surrogates and codes out of range.
         const unsigned least = next > 1       ? 0x80U
                                : lead == 0xE0 ? 0xA0U
                                : lead == 0xF0 ? 0x90U

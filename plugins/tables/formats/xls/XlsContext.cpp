@@ -77,7 +77,7 @@ bool XlsStrings::start()
     return true;
 }
 
-/// Takes bytes that a following record simply goes on with.
+/// Reads bytes that may continue in the next record.
 bool XlsStrings::bytes(void *to, std::size_t size)
 {
     auto *out = static_cast<char *>(to);
@@ -104,13 +104,13 @@ bool XlsStrings::skip(std::size_t size)
     return bytes(nullptr, size);
 }
 
-/// Takes characters; a record in between tells their width anew.
+/// Reads characters. A record in which they continue states their width again.
 bool XlsStrings::readCharacters(std::size_t count, bool wide)
 {
     uint32_t surrogate = 0;
     while (count > 0) {
         if (m_rest.empty()) {
-            do { // some writers put empty records in between
+            do { // some writers insert empty records
                 if (m_records->peek() != XlsContinue || !m_records->next())
                     return false;
             } while (m_records->data().empty());

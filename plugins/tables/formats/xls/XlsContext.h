@@ -10,7 +10,7 @@
 
 namespace vlt::driver {
 
-/// The shared string table of a workbook, read as far as it is asked for.
+/// The shared string table of a workbook. It is read only as far as needed.
 class XlsStrings
 {
 public:
@@ -19,14 +19,14 @@ public:
         , m_stream(std::move(stream))
     {}
 
-    /// Where the table's record starts in the stream.
+    /// Sets the position of the table's record in the stream.
     void setPosition(uint64_t position) { m_position = position; }
 
-    /// The text with that number; nothing when there is none, or where the table is damaged before
-    /// it. Stays valid for the life of this object.
+    /// The text with that number, valid as long as this object. Nothing if it does not exist or the
+    /// table is damaged before it.
     std::optional<std::string_view> at(uint32_t index);
 
-    /// Whether a text that was read so far holds a zero.
+    /// Whether a text read so far contains a zero byte.
     bool holdZeros() const { return m_holdZeros; }
 
 private:
@@ -40,32 +40,32 @@ private:
     std::vector<Extent> m_stream;
     uint64_t m_position = 0;
     std::unique_ptr<XlsRecords> m_records;
-    std::string_view m_rest; ///< of the current record
+    std::string_view m_rest; ///< unread part of the current record
     std::string m_text;
     StringPool m_texts;
     bool m_ended = false;
     bool m_holdZeros = false;
 };
 
-/// What the rows of an XLS workbook refer to.
+/// The data of an XLS workbook that its rows refer to.
 struct XlsContext
 {
     std::shared_ptr<XlsStrings> strings;
-    std::vector<bool> dateStyles; ///< by XF number
+    std::vector<bool> dateStyles; ///< whether an XF number is a date format
     bool datesFrom1904 = false;
     bool isBiff8 = true;
-    std::string codePage = "CP1252"; ///< of 8-bit texts before BIFF8
+    std::string codePage = "CP1252"; ///< encoding of the 8-bit texts before BIFF8
 };
 
-/// The part of a stream that starts at `position`.
+/// The part of a stream from `position` to its end.
 std::vector<Extent> extentsFrom(const std::vector<Extent> &stream, uint64_t position);
 
-/// Text of a string with a 16-bit length at `data` (8-bit length with `shortLength`); empty when it
-/// is cut.
+/// The string at the start of `data`, after its length in 16 bits (8 bits with `shortLength`).
+/// Empty if it is incomplete.
 std::string xlsText(std::string_view data, const XlsContext &context, bool shortLength = false);
 
-/// Appends UTF-16 (wide) or Latin-1 characters to a UTF-8 text. `surrogate` carries the first half
-/// of a pair over.
+/// Appends UTF-16 (wide) or Latin-1 characters to a UTF-8 text. `surrogate` holds the first half of
+/// a surrogate pair between two calls.
 void appendXlsCharacters(std::string &to, std::string_view bytes, bool wide, uint32_t &surrogate);
 
 } // namespace vlt::driver

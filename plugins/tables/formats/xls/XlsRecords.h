@@ -7,7 +7,7 @@
 
 namespace vlt::driver {
 
-/// The records of a BIFF stream, one after another. Source of the format: [MS-XLS].
+/// The records of a BIFF stream, in their order. Source of the format: [MS-XLS].
 class XlsRecords
 {
 public:
@@ -16,7 +16,8 @@ public:
         , m_at(m_input.begin())
     {}
 
-    /// Goes to the next record; false at the end of the stream. Data of the one before are lost.
+    /// Goes to the next record; false at the end of the stream. The data of the previous one become
+    /// invalid.
     bool next()
     {
         if (!ensure(HeaderSize))
@@ -30,7 +31,7 @@ public:
         m_position += HeaderSize + size;
         return true;
     }
-    /// The type of the record that would come next; 0 at the end. Data of the current one are lost.
+    /// The type of the next record; 0 at the end. The data of the current one become invalid.
     uint16_t peek()
     {
         return ensure(HeaderSize) ? static_cast<uint16_t>(byte(0) | byte(1) << 8) : 0;
@@ -38,7 +39,7 @@ public:
 
     uint16_t type() const { return m_type; }
     std::string_view data() const { return m_data; }
-    /// Where the next record starts, counted from the start of the stream that was given.
+    /// Position of the next record from the start of the stream, in bytes.
     uint64_t position() const { return m_position; }
 
 private:
@@ -64,7 +65,7 @@ private:
     std::string_view m_data;
 };
 
-/// Record types that matter here.
+/// The record types that are used here.
 enum XlsRecordType : uint16_t {
     XlsFormula = 0x0006,
     XlsEof = 0x000A,
@@ -81,7 +82,7 @@ enum XlsRecordType : uint16_t {
     XlsNumber = 0x0203,
     XlsLabel = 0x0204,
     XlsBoolErr = 0x0205,
-    XlsFormula3 = 0x0206, ///< of BIFF3; up to the result all three are alike
+    XlsFormula3 = 0x0206, ///< of BIFF3; the three formula records are equal up to the result
     XlsString = 0x0207,
     XlsRk = 0x027E,
     XlsFormula4 = 0x0406,

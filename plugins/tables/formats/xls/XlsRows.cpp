@@ -59,8 +59,8 @@ XlsRows::XlsRows(std::unique_ptr<ByteSource> sheet, std::shared_ptr<const XlsCon
         throw RefusedFile(Refusal::Malformed, "MESS_TAB_SHEET_MISPLACED");
 }
 
-/// Cells of a row that is being read: the current one, or the next one when a cell of it ends the
-/// current.
+/// The list for a cell of this row: that of the current row, or that of the next row, whose first
+/// cell ends the current one.
 std::vector<XlsRows::RawCell> &XlsRows::cellsOf(int row)
 {
     if (m_row < 0 || (m_cells.empty() && m_nextRow < 0))
@@ -107,7 +107,7 @@ void XlsRows::readBoolErr(std::string_view data)
             static_cast<unsigned char>(data[CellHead]));
 }
 
-/// A formula shows its last result; a text result follows in a record of its own.
+/// A formula has its last result as value. If that is a text, it follows in the next record.
 void XlsRows::readFormula(std::string_view data)
 {
     if (data.size() < CellHead + 8)
@@ -124,7 +124,7 @@ void XlsRows::readFormula(std::string_view data)
         addText(data, {});
 }
 
-/// Reads one record; false when a cell of another row was met or the sheet ended.
+/// Reads one record; false if it is a cell of another row or the sheet ends.
 bool XlsRows::readRecord()
 {
     if (!m_records.next())
@@ -155,7 +155,7 @@ bool XlsRows::readRecord()
         readBoolErr(data);
         break;
     case XlsFormula:
-    case XlsFormula3: // some writers mix the versions
+    case XlsFormula3: // some writers use records of several versions
     case XlsFormula4:
         readFormula(data);
         break;
@@ -164,7 +164,7 @@ bool XlsRows::readRecord()
             !texts.empty())
             texts.back() = xlsText(data, *m_context);
         break;
-    case XlsBof: // of a chart inside the sheet
+    case XlsBof: // a chart inside the sheet
         while (m_records.next() && m_records.type() != XlsEof)
             continue;
         break;
@@ -189,7 +189,7 @@ bool XlsRows::advance()
     }
     while (!m_ended && readRecord())
         continue;
-    // Rows ascend: a number that goes back would name two sites alike.
+    // Numbers of rows have to increase, because they identify the features.
     m_rowNumber = std::max<int64_t>(m_row, m_rowNumber) + 1;
     return !m_cells.empty();
 }
@@ -212,7 +212,7 @@ bool XlsRows::hasContent(int lastColumn)
     if (!suspect)
         return false;
     const auto text = m_context->strings->at(suspect->index);
-    return !text || !trimmed(*text).empty(); // a text that is missing was not blank
+    return !text || !trimmed(*text).empty(); // a missing text was not blank
 }
 
 uint64_t XlsRows::fingerprint()

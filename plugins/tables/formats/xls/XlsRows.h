@@ -7,7 +7,7 @@
 
 namespace vlt::driver {
 
-/// Rows of one worksheet stream. Cells are expected row by row, as every writer puts them.
+/// Rows of one worksheet stream. The cells are expected row by row, as all writers order them.
 class XlsRows : public RowReader
 {
 public:
@@ -26,7 +26,7 @@ private:
         uint16_t column;
         uint16_t style;
         enum class Kind : uint8_t { Number, SharedText, OwnText, Boolean, Error } kind;
-        uint32_t index; ///< of the shared or own text; the boolean or error code
+        uint32_t index; ///< number of the shared or own text; or the boolean or error code
         double number;
     };
 
@@ -46,12 +46,12 @@ private:
     {
         return m_leftOut && column < m_leftOut->size() && (*m_leftOut)[column];
     }
-    int m_row = -1; ///< as its cells say
+    int m_row = -1; ///< of the cells in m_cells, from 0
     int64_t m_rowNumber = 0;
     std::vector<RawCell> m_cells;
     std::vector<std::string> m_texts; ///< own texts of this row
     int m_nextRow = -1;               ///< row of the cells in m_nextCells
-    std::vector<RawCell> m_nextCells; ///< the record that showed that the row is over
+    std::vector<RawCell> m_nextCells; ///< first cells of the next row, which end this one
     std::vector<std::string> m_nextTexts;
     bool m_ended = false;
 };

@@ -44,7 +44,7 @@ private:
     std::shared_ptr<const XlsContext> m_context;
 };
 
-/// iconv's name of a Windows code page number.
+/// The name of a Windows code page for iconv.
 std::string codePageName(uint16_t number)
 {
     switch (number) {
@@ -140,7 +140,7 @@ private:
     std::vector<Extent> m_stream;
     std::shared_ptr<XlsContext> m_context;
     std::vector<SheetEntry> m_sheets;
-    std::map<int, bool> m_formats; ///< own number formats: whether they show dates
+    std::map<int, bool> m_formats; ///< the workbook's number formats: whether they are for dates
     std::vector<int> m_styleFormats;
     std::size_t m_next = 0;
 };

@@ -13,11 +13,11 @@ namespace vlt::driver {
 
 namespace {
 
-constexpr std::size_t EscapeSize = 7; ///< _xHHHH_
+constexpr std::size_t EscapeSize = 7; ///< of "_xHHHH_"
 /// Maximum size of an element in bytes; a longer one is cut.
 constexpr std::size_t MaxItemSize = std::size_t{16} << 20;
 
-/// Replaces _xHHHH_ by the control character it stands for.
+/// Replaces each _xHHHH_ by its control character.
 void replaceEscapes(std::string &text)
 {
     std::size_t at = text.find("_x");
@@ -74,7 +74,7 @@ std::string richText(std::string_view markup)
     return text;
 }
 
-/// Cuts the part into its si elements.
+/// Reads the si elements of the part.
 class SharedStrings::Stream
 {
 public:
@@ -83,7 +83,7 @@ public:
         , m_at(m_input.begin())
     {}
 
-    /// The markup inside the next si element; false at the end.
+    /// Gets the markup inside the next si element; false at the end.
     bool next(std::string_view &inside)
     {
         XmlTag tag;
@@ -125,7 +125,7 @@ private:
             }
             if (m_start.empty() && static_cast<std::size_t>(m_input.end() - begin) > MaxItemSize)
                 m_start.assign(begin, MaxItemSize);
-            if (!m_start.empty()) // the rest is only searched for its end
+            if (!m_start.empty()) // only the end of the element is needed
                 begin = m_input.end() - m_closing.size();
             const std::size_t seen = static_cast<std::size_t>(m_input.end() - begin);
             if (!m_input.more(begin))
@@ -138,7 +138,7 @@ private:
     ChunkedInput m_input;
     const char *m_at;
     std::string m_closing;
-    std::string m_start; ///< of an element that is too long to be kept
+    std::string m_start; ///< start of an element that is too long to be kept
 };
 
 SharedStrings::SharedStrings(std::shared_ptr<const ZipArchive> archive, std::string member)
@@ -157,7 +157,7 @@ void SharedStrings::keepOnly(std::vector<uint64_t> wanted)
     m_ended = false;
 }
 
-/// One character more than a cell may have shows that there were more.
+/// Keeps one character more than the maximum of a cell, so that the text is reported as cut.
 void SharedStrings::keepText(std::string_view text)
 {
     m_holdZeros = m_holdZeros || text.find('\0') != std::string_view::npos;
@@ -182,14 +182,14 @@ void SharedStrings::readUpTo(uint64_t index)
         const uint64_t number = m_count++;
         if (!m_wanted.empty()) {
             if (m_texts.size() == m_wanted.size()) {
-                m_ended = true; // what follows is not wanted
+                m_ended = true; // the remaining texts are not wanted
                 m_stream.reset();
                 break;
             }
             if (m_wanted[m_texts.size()] != number)
                 continue;
         }
-        // <t>text</t> alone is what nearly every element holds
+        // nearly all elements hold only <t>text</t>
         constexpr std::string_view Open = "<t>";
         constexpr std::string_view Close = "</t>";
         const bool plain = inside.starts_with(Open) && inside.ends_with(Close);

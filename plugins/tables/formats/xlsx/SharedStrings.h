@@ -12,24 +12,23 @@
 
 namespace vlt::driver {
 
-/// The texts that the sheets of an XLSX workbook refer to by number, read as far as they are asked
-/// for.
+/// The texts that the sheets of an XLSX workbook refer to by number. They are read only as far as
+/// needed.
 class SharedStrings
 {
 public:
-    /// `member` is the archive's part that holds the texts; empty when the workbook has none.
+    /// `member` is the name of the part with the texts; empty if the workbook has none.
     SharedStrings(std::shared_ptr<const ZipArchive> archive, std::string member);
     ~SharedStrings();
 
-    /// The text with that number; nothing when there is none. Views stay valid for the life of this
-    /// object.
+    /// The text with that number, valid as long as this object; nothing if it does not exist.
     std::optional<std::string_view> at(uint64_t index);
 
-    /// Keeps only the texts with these numbers (sorted): for sheets that use few of many. Forgets
-    /// what was read.
+    /// From now on, keeps only the texts with these numbers (sorted), and drops the texts read so
+    /// far. For sheets that use only a small part of the texts.
     void keepOnly(std::vector<uint64_t> wanted);
 
-    /// Whether a text that was read so far holds a zero.
+    /// Whether a text read so far contains a zero byte.
     bool holdZeros() const { return m_holdZeros; }
 
 private:
@@ -41,16 +40,16 @@ private:
     std::shared_ptr<const ZipArchive> m_archive;
     std::string m_member;
     std::unique_ptr<Stream> m_stream;
-    StringPool m_texts;             ///< by number, or by position in m_wanted
+    StringPool m_texts;             ///< by number, or by index in m_wanted
     std::vector<uint64_t> m_wanted; ///< empty: all
-    uint64_t m_count = 0;           ///< texts that were read
+    uint64_t m_count = 0;           ///< number of texts read so far
     bool m_ended = false;
     bool m_holdZeros = false;
 };
 
-/// Text of a rich-text element (shared string or inline string): its runs joined, phonetic hints
-/// left out, _xHHHH_ escapes replaced; the markup may be cut at its end. Source: ECMA-376, 18.4.8
-/// and 22.9.2.19.
+/// Text of a rich-text element (shared string or inline string): its runs joined, without phonetic
+/// hints, with _xHHHH_ escapes replaced. The markup may be incomplete at its end. Source: ECMA-376,
+/// 18.4.8 and 22.9.2.19.
 std::string richText(std::string_view markup);
 
 } // namespace vlt::driver

@@ -31,7 +31,7 @@ uint64_t wholeNumber(std::string_view text)
     return value;
 }
 
-/// Number of a shared string; nothing where a damaged or careless file holds no such number.
+/// The number of a shared string; nothing if the text is not a number.
 std::optional<uint64_t> stringNumber(std::string_view value)
 {
     const std::string_view text = trimmed(value);
@@ -48,7 +48,7 @@ std::optional<std::string_view> sharedText(const XlsxContext &context, std::stri
     return number ? context.strings->at(*number) : std::nullopt;
 }
 
-/// Column of a cell reference such as AB12, from 0; -1 when it is none.
+/// Column of a cell reference such as AB12, from 0; -1 if the text is not a reference.
 int columnOf(std::string_view reference)
 {
     int column = 0;
@@ -68,7 +68,7 @@ char typeOf(std::string_view text)
     return text.empty() ? 'n' : text[0]; // s, n, b, e, d, inlineStr
 }
 
-/// Local name of the tag that starts at `p` (behind "<" or "</"); prefixes are skipped.
+/// Start of the local name of a tag whose name starts at `p`, after a prefix.
 const char *localName(const char *p, const char *end)
 {
     const char *name = p;
@@ -79,8 +79,8 @@ const char *localName(const char *p, const char *end)
     return name;
 }
 
-/// Reads the attributes of a c element; returns the place behind its ">", or null. `empty` tells
-/// "/>".
+/// Reads the attributes of a c element; returns the position behind its ">", or null if the tag is
+/// incomplete. Sets `empty` for an empty element ("/>").
 const char *readCellAttributes(const char *p, const char *end, XlsxRawCell &cell, bool &empty)
 {
     empty = false;
@@ -124,7 +124,7 @@ const char *skipTo(const char *p, const char *end, char wanted)
     return p;
 }
 
-/// Reads the children of a c element up to its closing tag; returns the place behind it.
+/// Reads the children of a c element up to its closing tag; returns the position behind that tag.
 const char *readCellContent(const char *p, const char *end, XlsxRawCell &cell)
 {
     for (;;) {
@@ -144,7 +144,7 @@ const char *readCellContent(const char *p, const char *end, XlsxRawCell &cell)
         if (closing || close >= end || close[-1] == '/')
             continue;
         if (local == "v") {
-            XmlTag tag; // comments and the like may stand before the value
+            XmlTag tag; // comments may precede the value
             const char *stop = skipTo(p, end, '<');
             while (stop == p && nextTag(p, end, tag) && tag.kind == XmlTag::Kind::Other) {
                 p = tag.end;
@@ -171,6 +171,8 @@ const char *readCellContent(const char *p, const char *end, XlsxRawCell &cell)
 
 } // namespace
 
+/// Scans the bytes itself instead of using XmlCursor, because every cell of a sheet passes through
+/// here and reading them takes the larger part of the time.
 bool nextXlsxCell(const char *&at, const char *end, int column, XlsxRawCell &cell)
 {
     for (;;) {
@@ -199,6 +201,7 @@ bool nextXlsxCell(const char *&at, const char *end, int column, XlsxRawCell &cel
             constexpr std::string_view Value = "<v>";
             constexpr std::string_view Closing = "</v></c>";
             const char *stop = nullptr;
+            // Common writers store <v>value</v></c> without prefixes; other forms take longer.
             if (end - p > 11 && std::memcmp(p, Value.data(), Value.size()) == 0) {
                 p += Value.size();
                 stop = skipTo(p, end, '<');
@@ -223,8 +226,8 @@ XlsxRows::XlsxRows(std::unique_ptr<ByteSource> sheet, std::shared_ptr<const Xlsx
 
 bool XlsxRows::hasContent(int lastColumn)
 {
-    // A shared string that is empty is told from others without reading them all: a row of nothing
-    // but empty texts refers to one and the same string, every other row shows a second value soon.
+    // Shared strings are not read to find empty ones: a row in which all texts are empty refers to
+    // only one string, and any other row has a second value after few cells.
     const std::string_view inside = m_framer.inside();
     const char *at = inside.data();
     const char *end = at + inside.size();
@@ -249,7 +252,7 @@ bool XlsxRows::hasContent(int lastColumn)
     if (suspect.empty())
         return false;
     const auto text = sharedText(*m_context, suspect);
-    return !text || !trimmed(*text).empty(); // a text that is missing was not blank
+    return !text || !trimmed(*text).empty(); // a missing text was not blank
 }
 
 uint64_t XlsxRows::fingerprint()
@@ -294,7 +297,7 @@ bool XlsxRows::convert(const XlsxRawCell &raw, Cell &cell, Row &row) const
     case 't':
         if (raw.value.find_first_of("&\r_") != std::string_view::npos)
             cell.text = row.keep(richText("<t>" + std::string(raw.value) + "</t>"));
-        if (cell.text.find('\0') != std::string_view::npos) // _x0000_
+        if (cell.text.find('\0') != std::string_view::npos) // from _x0000_
             row.expectZeros();
         break;
     case 'b':

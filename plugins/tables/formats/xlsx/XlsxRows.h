@@ -6,29 +6,32 @@
 
 namespace vlt::driver {
 
-/// What the cells of an XLSX workbook refer to.
+/// The data of an XLSX workbook that its cells refer to.
 struct XlsxContext
 {
     std::shared_ptr<SharedStrings> strings;
-    std::vector<bool> dateStyles; ///< by cell style number
+    std::vector<bool> dateStyles; ///< whether a cell style is a date format
     bool datesFrom1904 = false;
 };
 
-/// One c element of a sheet, before its text is looked up.
+/// A c element of a sheet, without its shared text.
 struct XlsxRawCell
 {
     int column = 0;
     char type = 'n'; ///< n number, s shared string, t formula text, i inline string, b boolean, e
                      ///< error, d date
     int style = 0;
-    std::string_view value; ///< text of v, or the markup inside is
+    std::string_view value; ///< text of the element v, or markup of the element is
 };
 
-/// Reads the next c element in [at, end) that has a value. `column` is that of the cell before (-1
-/// at first). False when there is none.
+/// Reads the next c element with a value in [at, end) and moves `at` behind it; false if there is
+/// none.
+///
+/// @param column  column of the previous cell, -1 for the first one: a cell without a reference has
+///                the next column
 bool nextXlsxCell(const char *&at, const char *end, int column, XlsxRawCell &cell);
 
-/// Rows of one sheet part.
+/// Rows of a sheet part.
 class XlsxRows : public RowReader
 {
 public:

@@ -16,12 +16,12 @@ namespace {
 
 /// Maximum size in bytes of the small parts: workbook, relations, styles.
 constexpr std::size_t MaxPartSize = std::size_t{64} << 20;
-constexpr uint64_t FewStrings = 4096; ///< a sheet that uses fewer is searched for them first
+constexpr uint64_t FewStrings = 4096; ///< a sheet that uses fewer keeps only these
 
-/// How the parts of a package refer to each other.
+/// A reference from one part of a package to another.
 struct Relation
 {
-    std::string type; ///< last word of the type's URL
+    std::string type; ///< last part of the type's URL
     std::string target;
 };
 
@@ -31,7 +31,7 @@ std::string directoryOf(const std::string &part)
     return slash == std::string::npos ? std::string() : part.substr(0, slash + 1);
 }
 
-/// Part name of a relation's target as seen from `part`; "." and ".." resolved.
+/// Part name of a relation's target, relative to `part`, with "." and ".." resolved.
 std::string resolved(const std::string &part, const std::string &target)
 {
     const std::string whole =
@@ -81,7 +81,7 @@ int number(std::optional<std::string_view> text)
     return value;
 }
 
-/// Which cell styles show dates.
+/// Whether each cell style is a date format.
 std::vector<bool> readDateStyles(const std::string &text)
 {
     std::map<int, bool> ownFormats;
@@ -124,8 +124,7 @@ public:
         return std::make_unique<XlsxRows>(openPart(), m_context);
     }
 
-    /// A small sheet may come with a huge list of texts, of which it uses few: only those are then
-    /// kept.
+    /// A small sheet may use only few texts of a very long list; only these are then kept.
     void prepareStrings(uint64_t rowCount) const override
     {
         if (rowCount > FewStrings)
@@ -141,7 +140,7 @@ public:
     }
 
 private:
-    /// The part as UTF-8; the standard allows UTF-16, too.
+    /// The part in UTF-8; the standard also allows UTF-16.
     std::unique_ptr<ByteSource> openPart() const
     {
         char mark[2] = {};
@@ -194,7 +193,7 @@ private:
     {
         for (const auto &[id, relation] : readRelations(*m_archive, "")) {
             if (relation.type == "officeDocument") {
-                if (!relation.target.ends_with(".xml")) // .xlsb keeps binary parts
+                if (!relation.target.ends_with(".xml")) // .xlsb has binary parts
                     throw RefusedFile(Refusal::NotSupportedFormat, "MESS_TAB_XLSB");
                 if (relation.target.starts_with("word/") || relation.target.starts_with("ppt/"))
                     break;

@@ -12,7 +12,7 @@ namespace {
 constexpr XmlRowFramer::Names TableNames = {"Worksheet", "Table", "Row", "Index"};
 constexpr std::string_view MidnightSuffix = "T00:00:00.000";
 
-/// A Cell element that holds a Data element.
+/// A Cell element with a Data element.
 struct RawCell
 {
     int column = 0;
@@ -33,7 +33,7 @@ int wholeNumber(std::optional<std::string_view> text, int otherwise)
     return value;
 }
 
-/// Text of a Data element: the characters between its tags, rich-text tags dropped.
+/// Text of a Data element: its characters without rich-text tags.
 std::string dataText(std::string_view markup)
 {
     std::string text;
@@ -49,7 +49,7 @@ std::string dataText(std::string_view markup)
     return text + decodeXml({at, static_cast<std::size_t>(end - at)});
 }
 
-/// Walks over the cells of a row's markup.
+/// Reads the cells in the markup of a row.
 class CellCursor
 {
 public:
@@ -84,7 +84,7 @@ private:
         m_nextColumn = m_column + 1 + wholeNumber(attribute(attributes, "MergeAcross"), 0);
     }
 
-    /// The form that nearly every cell has: <Cell><Data ss:Type="T">text</Data></Cell>.
+    /// Reads a cell of the most frequent form: <Cell><Data ss:Type="T">text</Data></Cell>.
     bool readPlain(RawCell &cell)
     {
         constexpr std::string_view Open = "<Cell><Data ss:Type=\"";
@@ -114,8 +114,8 @@ private:
         return m_column < MaxColumns;
     }
 
-    /// Looks for the Data child of an open Cell; comments have Data of their own. True with one
-    /// that is not empty.
+    /// Reads the Data element of a Cell; those inside comments do not count. False if it is missing
+    /// or empty.
     bool findData(RawCell &cell)
     {
         XmlTag tag;

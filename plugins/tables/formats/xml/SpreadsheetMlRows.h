@@ -9,8 +9,9 @@ namespace vlt::driver {
 class SpreadsheetMlRows : public RowReader
 {
 public:
-    /// The stream starts at `streamOffset`: before the worksheet's Table, or with `insideTable` at
-    /// a row, which is then number `firstRow`.
+    /// @param insideTable   the stream starts at a row; otherwise before the Table of the worksheet
+    /// @param firstRow      number of that row
+    /// @param streamOffset  position of the start of the stream, see Sheet::rowsFrom()
     SpreadsheetMlRows(std::unique_ptr<ByteSource> stream, bool insideTable, int64_t firstRow,
                       uint64_t streamOffset);
 

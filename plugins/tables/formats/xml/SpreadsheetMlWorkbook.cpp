@@ -17,7 +17,7 @@ constexpr std::size_t HeadSize = 4096;
 constexpr std::ptrdiff_t MaxTagNameSize = 256;
 constexpr std::string_view Namespace = "urn:schemas-microsoft-com:office:spreadsheet";
 
-/// The file's bytes as UTF-8 from a place on. Places count decoded bytes.
+/// The content of the file in UTF-8 from a position on. Positions count bytes of the UTF-8 text.
 struct XmlFile
 {
     std::shared_ptr<const InputFile> file;
@@ -71,12 +71,12 @@ public:
 
 private:
     XmlFile m_file;
-    uint64_t m_offset; ///< behind the Worksheet tag
+    uint64_t m_offset; ///< position behind the Worksheet tag
     std::string m_name;
 };
 
-/// Where the tag starts whose name ends in the word at `name`; null when the word is not part of a
-/// tag's name. Looks back to `from` at most.
+/// Start of the tag whose name ends with the word at `name`; null if the word is not in the name of
+/// a tag. Does not read before `from`.
 const char *tagStart(const char *from, const char *name)
 {
     const char *limit = name - from > MaxTagNameSize ? name - MaxTagNameSize : from;
@@ -89,7 +89,7 @@ const char *tagStart(const char *from, const char *name)
     return nullptr;
 }
 
-/// Finds the worksheets one after another: the first is usually the only one that anybody asks for.
+/// Finds the worksheets one by one, because the first one is normally sufficient.
 class SpreadsheetMlWorkbook : public Workbook
 {
 public:
@@ -104,7 +104,7 @@ public:
             XmlTag tag;
             const char *found = findText(at, input.end(), "Worksheet");
             const char *open = found == input.end() ? found : tagStart(at, found);
-            if (found != input.end() && !open) { // the word stands in a text
+            if (found != input.end() && !open) { // the word is part of a text
                 at = found + 1;
                 continue;
             }
@@ -136,7 +136,7 @@ private:
     uint64_t m_offset = 0;
 };
 
-/// Encoding that the XML declaration names; empty when it names none.
+/// Encoding in the XML declaration; empty if there is none.
 std::string declaredEncoding(std::string_view head)
 {
     if (!head.starts_with("<?xml"))
@@ -166,7 +166,7 @@ std::unique_ptr<Workbook> openSpreadsheetMl(const std::shared_ptr<const InputFil
         encoding = "UTF-16BE";
     else if (encoding.empty())
         encoding = uppercase(declaredEncoding(head));
-    // SpreadsheetML written under Windows says ISO-8859-1 and means its superset.
+    // SpreadsheetML from Windows declares ISO-8859-1 for its superset Windows-1252.
     if (encoding == "ISO-8859-1")
         encoding = "CP1252";
     if (encoding != "UTF-8" && encoding != "US-ASCII" && encoding != "ASCII")

@@ -5,8 +5,7 @@
 
 namespace vlt::driver {
 
-/// Opens a SpreadsheetML 2003 file in any encoding. Throws RefusedFile, also for XML of another
-/// kind.
+/// Opens a SpreadsheetML 2003 file in any encoding. Throws RefusedFile, also for any other XML.
 std::unique_ptr<Workbook> openSpreadsheetMl(const std::shared_ptr<const InputFile> &file);
 
 } // namespace vlt::driver

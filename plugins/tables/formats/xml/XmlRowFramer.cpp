@@ -42,7 +42,7 @@ bool XmlRowFramer::enterContainer()
 {
     XmlTag tag;
     while (readTag(tag)) {
-        if (tag.closes(m_names.sheet)) // the rows further on are those of another sheet
+        if (tag.closes(m_names.sheet)) // the following rows belong to another sheet
             return false;
         if (tag.opens(m_names.container)) {
             m_entered = true;
@@ -70,7 +70,7 @@ bool XmlRowFramer::advance()
         if (const auto text = attribute(tag.attributes, m_names.number)) {
             int64_t said = 0;
             std::from_chars(text->data(), text->data() + text->size(), said);
-            // Rows ascend: a number that goes back would name two sites alike.
+            // Numbers of rows have to increase, because they identify the features.
             if (said >= m_nextRow && said <= LastRowNumber)
                 number = said;
         }
@@ -95,7 +95,7 @@ void XmlRowFramer::findRowEnd(const XmlTag &tag)
     const std::size_t openingSize = static_cast<std::size_t>(tag.end - tag.begin);
     const char *from = tag.end;
     for (;;) {
-        // "/r" is rarer than "</", which every cell has
+        // "/r" is less frequent than "</", which every cell contains
         const char *found = findText(from, m_input.end(), std::string_view(m_closing).substr(1));
         const char *after = found + m_closing.size() - 1;
         if (found != m_input.end() && after < m_input.end()) {
@@ -105,7 +105,7 @@ void XmlRowFramer::findRowEnd(const XmlTag &tag)
                 continue; // </rowBreaks>
             m_inside = row + openingSize;
             m_rowEnd = found - 1;
-            m_at = after; // before the ">": text between tags is skipped
+            m_at = after; // before the ">", because text between tags is skipped
             return;
         }
         const std::size_t seen = static_cast<std::size_t>(m_input.end() - row);

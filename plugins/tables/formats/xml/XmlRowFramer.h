@@ -9,21 +9,22 @@
 
 namespace vlt::driver {
 
-/// Finds the row elements of a sheet in a stream of XML without looking into them.
+/// Finds the row elements of a sheet in a stream of XML without reading their content.
 class XmlRowFramer
 {
 public:
-    /// What the elements are called (local names) and which attribute gives a row's number.
+    /// Local names of the elements, and the attribute with the number of a row.
     struct Names
     {
-        std::string_view sheet;     ///< holds the container, if there is one
-        std::string_view container; ///< holds the rows
+        std::string_view sheet;     ///< element around the container
+        std::string_view container; ///< element around the rows
         std::string_view row;
         std::string_view number;
     };
 
-    /// With `insideContainer` the stream starts among the rows, the first of which is number
-    /// `firstRow` unless it says otherwise; otherwise it starts somewhere before the container.
+    /// @param insideContainer  the stream starts at a row; otherwise before the container
+    /// @param firstRow         number of the first row, unless the row states another one
+    /// @param streamOffset     is added to all positions
     XmlRowFramer(std::unique_ptr<ByteSource> source, const Names &names, bool insideContainer,
                  int64_t firstRow, uint64_t streamOffset);
 
@@ -32,9 +33,9 @@ public:
     int64_t rowNumber() const { return m_rowNumber; }
     /// Markup between the row's opening and closing tags.
     std::string_view inside() const;
-    /// Where the row's opening tag starts, counted from the start of the stream plus streamOffset.
+    /// Position of the row's opening tag in the stream, plus streamOffset.
     uint64_t position() const { return m_rowPosition; }
-    /// Prefix of the row's elements with its colon, or empty.
+    /// Prefix of the row's element with its colon, or empty.
     const std::string &prefix() const { return m_prefix; }
 
 private:
@@ -45,7 +46,7 @@ private:
     ChunkedInput m_input;
     Names m_names;
     uint64_t m_windowOffset; ///< stream position of the window's first byte
-    const char *m_at;        ///< where the search goes on
+    const char *m_at;        ///< where the search continues
     const char *m_inside = nullptr;
     const char *m_rowEnd = nullptr;
     uint64_t m_rowPosition = 0;

@@ -13,14 +13,14 @@ namespace vlt::driver {
 namespace {
 
 constexpr uint32_t LastCodePoint = 0x10FFFF;
-constexpr std::size_t MaxEntitySize = 16; ///< "&#x0010FFFF;" and some more zeros
+constexpr std::size_t MaxEntitySize = 16; ///< bytes: "&#x0010FFFF;" with some more zeros
 
 bool isBlank(char c)
 {
     return c == ' ' || c == '\t' || c == '\n' || c == '\r';
 }
 
-/// Appends what &name; stands for; false when the name is not known.
+/// Appends the character of &name; or returns false if the name is not known.
 bool appendEntity(std::string &to, std::string_view name)
 {
     static constexpr struct
@@ -47,7 +47,7 @@ bool appendEntity(std::string &to, std::string_view name)
     return true;
 }
 
-/// Reads a piece that starts with "<!" or "<?"; false when it is incomplete.
+/// Reads a piece that starts with "<!" or "<?"; false if it is incomplete.
 bool readSpecial(const char *end, XmlTag &tag)
 {
     const std::string_view rest(tag.begin, static_cast<std::size_t>(end - tag.begin));

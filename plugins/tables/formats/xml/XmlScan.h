@@ -7,7 +7,7 @@
 
 namespace vlt::driver {
 
-/// One piece of markup. Names are local names: office files differ in their prefixes.
+/// A piece of markup. Names are local names, because prefixes differ between office programs.
 struct XmlTag
 {
     enum class Kind {
@@ -19,11 +19,11 @@ struct XmlTag
     };
 
     Kind kind = Kind::Other;
-    std::string_view prefix; ///< with its colon, or empty
+    std::string_view prefix; ///< with its colon; may be empty
     std::string_view name;
     std::string_view attributes;
     const char *begin = nullptr;
-    const char *end = nullptr; ///< behind the closing ">"
+    const char *end = nullptr; ///< position behind the closing ">"
 
     bool opens(std::string_view localName) const
     {
@@ -35,27 +35,28 @@ struct XmlTag
     }
 };
 
-/// Reads the next piece of markup at or after `at`. False when none is complete before `end`;
-/// tag.begin is then where the incomplete one starts, or `end`. Throws RefusedFile (DocumentType)
-/// at a document type declaration: entities are never defined, let alone fetched.
+/// Reads the next piece of markup at or after `at`. Returns false if there is no complete one
+/// before `end`; tag.begin is then the start of an incomplete one, or `end`. Throws RefusedFile
+/// (DocumentType) at a document type declaration, so that entities are never defined or fetched.
 bool nextTag(const char *at, const char *end, XmlTag &tag);
 
-/// Longest piece of markup in a stream: an incomplete one is looked through again with each chunk.
+/// Maximum size of a piece of markup in bytes. It is limited because an incomplete piece is read
+/// again with each chunk.
 constexpr std::size_t MaxMarkupSize = std::size_t{4} << 20;
 
-/// Throws RefusedFile (Malformed) where an incomplete piece is already longer than that.
+/// Throws RefusedFile (Malformed) if an incomplete piece is larger than the maximum.
 void refuseEndlessMarkup(const char *begin, const char *end);
 
-/// Value of an attribute by its local name, entities undecoded; nothing when it is not there.
+/// Value of an attribute by its local name, with entities not yet decoded; nothing if it is
+/// missing.
 std::optional<std::string_view> attribute(std::string_view attributes, std::string_view localName);
 
-/// Whether a text holds something that decodeXml() would change.
+/// Whether decodeXml() would change a text.
 bool needsDecoding(std::string_view text);
-/// A text with the predefined entities and character references replaced, line ends normalised to
-/// LF.
+/// A text with predefined entities and character references replaced, and with LF as line end.
 std::string decodeXml(std::string_view text);
 
-/// Walks over the tags of a whole document part in memory.
+/// Reads the tags of a whole document part in memory.
 class XmlCursor
 {
 public:
