@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::array WordsOfA = {"a", "tx", "near", "from", "start", "transmitter"};
 constexpr std::array WordsOfB = {"b", "rx", "far", "to", "end", "receiver"};
-/// They name an end only where no other word does: near end, end A, TX (transmitter).
+/// These words name an end only if no other word does: near end, end A, TX (transmitter).
 constexpr std::array WeakWords = {"end", "transmitter", "receiver"};
 
 bool isIn(const auto &list, std::string_view word)
@@ -37,8 +37,8 @@ LinkEndId numberedEnd(std::string_view word, EndStyle style)
 
 constexpr std::size_t NotThere = std::string::npos;
 
-/// Where the word that names the end stands: in front ("Site A X"), second ("X A"),
-/// else anywhere.
+/// The index of the word that names the end: the first one ("Site A X", "X A"), but a weak word
+/// only if there is no other one.
 std::size_t findNamed(const std::vector<std::string> &words)
 {
     std::size_t last = NotThere;
@@ -52,7 +52,7 @@ std::size_t findNamed(const std::vector<std::string> &words)
     return last;
 }
 
-/// The last digit that stands alone: "TX1 (MHz) 2", "Azimuth (deg 1) 2".
+/// The index of the last digit that is a word: "TX1 (MHz) 2", "Azimuth (deg 1) 2".
 std::size_t findNumber(const std::vector<std::string> &words, EndStyle style)
 {
     for (std::size_t at = words.size(); at-- > 0;) {

@@ -6,31 +6,31 @@
 
 namespace vlt::driver {
 
-/// Which end of its link a column is about.
+/// The end of the link that a column belongs to.
 enum class LinkEndId {
     None,
     A,
     B,
 };
 
-/// By what the ends of a table are told apart.
+/// How the columns of a table distinguish the ends.
 enum class EndStyle {
-    Names,   ///< A and B, TX and RX ...: a digit counts only where there is no such word
+    Names,   ///< A and B, TX and RX ...; a digit counts only without such a word
     Numbers, ///< 1 and 2: TX and RX mean transmitting and receiving
     Zero,    ///< the same with 0 and 1
 };
 
-/// A column name without the words that tell the end.
+/// A column name without the words that name the end.
 struct EndWords
 {
     LinkEndId end = LinkEndId::None;
-    bool isNumbered = false;        ///< a digit told the end
-    std::string endWord;            ///< what told it
-    std::size_t endIndex = 0;       ///< its place among the words, from 0
-    std::vector<std::string> words; ///< the others; "site", "end" only where they stand alone
+    bool isNumbered = false;        ///< a digit names the end
+    std::string endWord;            ///< the word that names the end
+    std::size_t endIndex = 0;       ///< index of that word in the name, from 0
+    std::vector<std::string> words; ///< the others; "site" and "end" only if they are alone
 };
 
-/// Takes a column name of a table of links apart.
+/// Splits a column name of a table of links.
 EndWords readEndWords(const std::string &name, EndStyle style);
 
 } // namespace vlt::driver

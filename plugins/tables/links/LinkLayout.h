@@ -12,19 +12,19 @@ namespace vlt::driver {
 /// A column of lengths or frequencies.
 struct QuantityField
 {
-    int field = -1;             ///< -1 where there is none
-    std::optional<double> unit; ///< metres or MHz per unit that its name tells
+    int field = -1;             ///< -1 for none
+    std::optional<double> unit; ///< metres or MHz per unit in its name
 
     bool found() const { return field >= 0; }
 };
 
-/// The columns of one end of a link: field numbers, -1 where there is none.
+/// The columns of one end of a link: field numbers, -1 for none.
 struct LinkEndFields
 {
     PointFields point;
     int identifier = -1;
     QuantityField height;    ///< of the antenna above ground
-    int seaLevelHeight = -1; ///< a height that is above sea level, where `height` is not there
+    int seaLevelHeight = -1; ///< of the antenna above sea level, if `height` is missing
     QuantityField frequency;
     int azimuth = -1;
     int tilt = -1;
@@ -32,19 +32,19 @@ struct LinkEndFields
     QuantityField dy;
 };
 
-/// What a table of links tells about itself. The format is asset, atoll, "generic (numbered ends)"
-/// or "generic (ends side by side)".
+/// Properties of a table of links. The format is asset, atoll, "generic (numbered ends)" or
+/// "generic (ends side by side)".
 struct LinkLayout : TableDeclaration
 {
     std::array<LinkEndFields, 2> ends; ///< A and B
     int name = -1;
-    QuantityField band; ///< frequency of the whole link
+    QuantityField band; ///< frequency for both ends
     QuantityField length;
 };
 
-/// Recognises the fields of a table of links: ends called A and B, TX and RX, 1 and 2 (0 and 1),
-/// start and end, near and far, in front of what they have or behind it.
-/// Throws RefusedFile (NoLinks) where the coordinates of both ends are not found.
+/// Recognises the fields of a table of links. The ends are named A and B, TX and RX, 1 and 2 (0 and
+/// 1), start and end, near and far, at the start or at the end of the column name. Throws
+/// RefusedFile (NoLinks) if the coordinates of both ends are not found.
 LinkLayout recogniseLinkLayout(const TableProfile &table);
 
 /// Whether a header has columns of both ends.

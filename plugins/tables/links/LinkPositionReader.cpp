@@ -10,7 +10,7 @@ namespace vlt::driver {
 
 namespace {
 
-/// Half a turn in the unit of longitudes and latitudes; 0 for other coordinates.
+/// 180 degrees in the unit of the coordinates; 0 if they are not longitudes and latitudes.
 double halfTurn(const OffsetScale &scale)
 {
     constexpr double HalfTurnDegrees = 180;

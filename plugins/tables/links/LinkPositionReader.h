@@ -9,23 +9,23 @@
 
 namespace vlt::driver {
 
-/// How metres of an offset become coordinates.
+/// Conversion of offsets in metres to coordinates.
 struct OffsetScale
 {
     bool isOnEarth = false; ///< coordinates are longitudes and latitudes
     double unit = 1;        ///< metres or degrees per unit of the coordinates
-    double semiMajorM = 0;  ///< of the ellipsoid
+    double semiMajorM = 0;  ///< semi-major axis of the ellipsoid
     double flattening = 0;
 };
 
-/// Reads the positions of both ends of a link as those of sites are read, with their offsets.
+/// Reads the positions of both ends of a link and adds their offsets.
 class LinkPositionReader
 {
 public:
     LinkPositionReader(const TableProfile &table, const LinkLayout &layout,
                        const OffsetScale &scale);
 
-    /// Positions of A and B in the file's system; `cells` and `problems` as for PositionReader.
+    /// Positions of A and B in the file's system; `cells` and `problems` as in PositionReader.
     std::array<Position, 2> read(int64_t row, const std::vector<const Cell *> &cells,
                                  std::vector<RowProblem> &problems) const;
 

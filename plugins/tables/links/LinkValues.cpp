@@ -9,14 +9,14 @@ namespace vlt::driver {
 using contract::formatted;
 using contract::TableTextId;
 
-/// The row that is read, and where its problems go.
+/// The row that is read, and the list of its problems.
 struct LinkValueReader::RowContext
 {
     int64_t row;
     const std::vector<const Cell *> &cells;
     std::vector<RowProblem> &problems;
 
-    /// Text of a field, empty where it says that there is no value.
+    /// Text of a field, empty if it means that there is no value.
     std::string text(int field) const
     {
         std::string text = fieldText(cells, field);
@@ -63,7 +63,7 @@ std::optional<double> LinkValueReader::degrees(const RowContext &context, int fi
     return angle;
 }
 
-/// A frequency of one field; one that is there and no use gets a problem.
+/// The frequency in a field. A value that cannot be used is reported.
 std::optional<double> LinkValueReader::frequencyMHz(const RowContext &context,
                                                     const QuantityField &frequency,
                                                     bool &isUnreadable) const
@@ -81,7 +81,7 @@ std::optional<double> LinkValueReader::frequencyMHz(const RowContext &context,
     return std::nullopt;
 }
 
-/// An end without a frequency has that of the other one, and both that of the band.
+/// Sets the frequencies. An end without one gets that of the other end, else that of the band.
 void LinkValueReader::readFrequencies(const RowContext &context, LinkValues &values) const
 {
     bool isUnreadable = false;
@@ -122,7 +122,7 @@ LinkValues LinkValueReader::read(int64_t row, const std::vector<const Cell *> &c
         of.tiltDeg = degrees(context, fields.tilt, "MESS_TAB_TILT_UNREADABLE");
     }
     readFrequencies(context, values);
-    // a cell may name a unit where the header does not: a number of no unit is not compared
+    // without a unit in the header or in the cell, the length cannot be compared
     if (const std::string text = context.text(m_layout->length.field); !text.empty())
         values.lengthM = readLengthM(text, m_layout->length.unit.value_or(0));
     if (values.lengthM && *values.lengthM <= 0)

@@ -9,25 +9,25 @@
 
 namespace vlt::driver {
 
-/// What a row tells of one end of its link, the position apart.
+/// The values of one end of a link, without its position.
 struct LinkEndValues
 {
-    std::string identifier;        ///< empty where the table has none
-    std::optional<double> heightM; ///< of the antenna above ground
+    std::string identifier;        ///< empty if the table has none
+    std::optional<double> heightM; ///< antenna above ground
     std::optional<double> frequencyMHz;
     std::optional<double> azimuthDeg;
     std::optional<double> tiltDeg;
 };
 
-/// What a row tells of its link.
+/// The values of a link.
 struct LinkValues
 {
-    std::string name; ///< empty where the table has none
+    std::string name; ///< empty if the table has none
     std::array<LinkEndValues, 2> ends;
-    std::optional<double> lengthM; ///< as stated; nothing where its unit is not known
+    std::optional<double> lengthM; ///< as stated; nothing if its unit is not known
 };
 
-/// Reads the values of links and says what is wrong with them.
+/// Reads the values of links and reports those that cannot be used.
 class LinkValueReader
 {
 public:
@@ -35,7 +35,7 @@ public:
 
     LinkValues read(int64_t row, const std::vector<const Cell *> &cells,
                     std::vector<RowProblem> &problems) const;
-    /// What the table lacks as a whole.
+    /// Problems of the whole table.
     std::vector<RowProblem> tableProblems() const;
 
 private:

@@ -56,15 +56,15 @@ bool isDigit(char c)
     return c >= '0' && c <= '9';
 }
 
-/// A number at the start of a text, and the text behind it.
+/// A number at the start of a text, and the text after it.
 struct LeadingNumber
 {
     double number = 0;
     std::string_view rest;
 };
 
-/// Size of a number whose thousands are grouped, such as 11,485.5; 0 where the text starts with
-/// none. Only a point behind the groups shows that the commas are no decimal marks.
+/// Size of a number with grouped thousands at the start of a text, such as 11,485.5; 0 without one.
+/// Only a point after the groups shows that the commas are not decimal marks.
 std::size_t groupedSize(std::string_view text)
 {
     const auto digitsAt = [text](std::size_t at) {
@@ -96,7 +96,7 @@ std::optional<LeadingNumber> leadingNumber(std::string_view text)
     } else {
         const std::size_t end = digits.find_first_not_of("0123456789.,eE+-");
         size = end == std::string_view::npos ? digits.size() : end;
-        // 1.15e10 is one number; of 6123.1, 6200.2 or 18-23 the first one counts.
+        // 1.15e10 is one number; in "6123.1, 6200.2" or "18-23" the first one counts.
         if (!numberShape(digits.substr(0, size)).isNumber) {
             size = 0;
             bool mark = false;
@@ -131,7 +131,7 @@ std::optional<double> megahertzPer(std::string_view word)
 
 std::optional<double> unitInName(std::string_view name, UnitOf unitOf)
 {
-    // in lower case, too, since "kHz" would be cut in two
+    // also in lower case, because wordsOf() splits "kHz" into two words
     for (const std::string &text : {lowerCase(name), std::string(name)}) {
         for (const std::string &word : wordsOf(text)) {
             if (const auto unit = unitOf(word))
@@ -166,7 +166,7 @@ std::optional<double> readFrequencyMHz(std::string_view text, std::optional<doub
     const auto leading = leadingNumber(trimmed(text.substr(begin)));
     if (!leading)
         return std::nullopt;
-    // "11 485" is a grouped number, of which the first part would be wrong
+    // "11 485" is a grouped number, and its first part alone would be wrong
     if (!leading->rest.empty() && (isDigit(leading->rest[0]) || (leading->rest[0] & 0x80) != 0))
         return std::nullopt;
     const auto own = unitInName(leading->rest, megahertzPer);

@@ -22,8 +22,7 @@ namespace {
 
 constexpr std::size_t ExactDigits = 15;
 
-/// Whether a text is a number only at first sight: the digits of a name, of which some would be
-/// lost.
+/// Whether a text consists of the digits of a name and would lose some of them as a number.
 bool losesDigits(const Cell &cell, std::string_view text)
 {
     const bool mayLose = text.size() > ExactDigits ||
@@ -42,11 +41,11 @@ void FieldCells::takeFaults(int64_t row, const std::vector<CellFault> &faults,
 {
     for (const CellFault &fault : faults) {
         if (fault.column > m_table->lastColumn)
-            continue; // that the row goes on there is a problem of its own
+            continue; // cells behind the last column are reported by take()
         const int field =
             fault.column < 0 ? -1 : m_fieldOfColumn[static_cast<std::size_t>(fault.column)];
         if (field < 0 && fault.column >= 0)
-            continue; // nobody reads the column
+            continue; // the column is not a field
         const std::string column =
             field < 0 ? std::string() : m_table->fields[static_cast<std::size_t>(field)].name;
         problems.push_back({row, column, false, fault.text});

@@ -7,21 +7,22 @@
 
 namespace vlt::driver {
 
-/// The fields of a row by field number, and what is wrong with their values.
+/// The cells of a row by field number, with the numbers in them.
 class FieldCells
 {
 public:
     explicit FieldCells(const TableProfile &table);
 
-    /// Takes the cells of a row; values that do not fit the type of their column are null and get a
-    /// problem, as do cells behind the last column. Views live as long as the row.
+    /// Takes the cells of a row, which must exist as long as they are used here. A value that does
+    /// not fit the type of its column is null and gets a problem; a cell behind the last column
+    /// gets one too.
     void take(const Row &row, std::vector<RowProblem> &problems);
-    /// Makes problems of what could not be read in a row, as take() does; for the header, too.
+    /// Adds a problem for each fault of a row; take() does it for its row. Also for the header.
     void takeFaults(int64_t row, const std::vector<CellFault> &faults,
                     std::vector<RowProblem> &problems) const;
-    /// The cell of each field, null where it is empty.
+    /// The cell of each field, null if it is empty.
     const std::vector<const Cell *> &cells() const { return m_cells; }
-    /// The number of a field of numeric type; only where its cell is not null.
+    /// The number in a field of numeric type whose cell is not null.
     double number(std::size_t field) const { return m_numbers[field]; }
     bool isNull(std::size_t field) const { return m_null[field]; }
 

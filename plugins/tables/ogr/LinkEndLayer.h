@@ -5,8 +5,8 @@
 
 namespace vlt::driver {
 
-/// The layer of link ends: two points per row of the table, end A and end B, as sites with one
-/// antenna each.
+/// The layer of link ends: two points per row of the table, end A and end B, in the form of sites
+/// with one antenna each.
 class LinkEndLayer final : public TableLayer
 {
 public:

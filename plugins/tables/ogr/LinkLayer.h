@@ -5,8 +5,8 @@
 
 namespace vlt::driver {
 
-/// The layer of links: one line per row of the table, from end A to end B; the fields are the
-/// columns, the FID is the number of the row in the file.
+/// The layer of links: one line per row of the table, from end A to end B. The fields are the
+/// columns, and the FID is the number of the row in the file.
 class LinkLayer final : public TableLayer
 {
 public:

@@ -6,7 +6,7 @@
 
 namespace vlt::driver {
 
-/// The problems of a table in the order in which they are met: all are counted, the first ones
+/// The problems of a table in the order of reading. All of them are counted, the first ones are
 /// kept.
 class ProblemList
 {

@@ -12,7 +12,7 @@ using contract::formatted;
 
 constexpr std::size_t MaxWarnings = 50;
 
-/// The text of a problem as it is shown: row and column first.
+/// The text of a warning: row and column, then the problem.
 std::string describe(const RowProblem &problem)
 {
     std::string text;

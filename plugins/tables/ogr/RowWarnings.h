@@ -8,8 +8,8 @@
 
 namespace vlt::driver {
 
-/// Gives the problems of rows out as the library's warnings: a row is read more than once, but
-/// warned of once, and only the first problems are said.
+/// Reports problems of rows as warnings of the library. Each row is reported once, even if it is
+/// read more than once, and only a limited number of problems is reported.
 class RowWarnings
 {
 public:
@@ -18,7 +18,7 @@ public:
 private:
     std::set<int64_t> m_rows;
     std::size_t m_count = 0;
-    bool m_areOmitted = false; ///< there were more than are said
+    bool m_areOmitted = false; ///< the limit was reached
 };
 
 } // namespace vlt::driver

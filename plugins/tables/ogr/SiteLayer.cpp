@@ -8,7 +8,7 @@ namespace vlt::driver {
 
 namespace {
 
-/// Half a turn in the unit of a geographic system; 0 for any other system and without one.
+/// 180 degrees in the unit of a geographic system; 0 for any other system and without one.
 double halfTurn(const OGRSpatialReference *srs)
 {
     return srs && srs->IsGeographic() ? M_PI / srs->GetAngularUnits() : 0;

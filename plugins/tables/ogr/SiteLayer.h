@@ -4,8 +4,8 @@
 
 namespace vlt::driver {
 
-/// The layer of sites: one point feature per row of the table, its FID the number of the row in the
-/// file.
+/// The layer of sites: one point feature per row of the table. The FID is the number of the row in
+/// the file.
 class SiteLayer final : public TableLayer
 {
 public:

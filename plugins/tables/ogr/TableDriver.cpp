@@ -44,7 +44,8 @@ private:
     std::vector<std::unique_ptr<TableLayer>> m_layers;
 };
 
-/// The delimiter that a word names; 0 where it is to be found out, as for any other word.
+/// The delimiter with a name; 0 for any other word, which means that the driver finds the
+/// delimiter.
 char delimiterOf(const std::string &word)
 {
     constexpr std::pair<const char *, char> Words[] = {
@@ -56,8 +57,8 @@ char delimiterOf(const std::string &word)
     return 0;
 }
 
-/// How the table is read: as the open options say, else as the connection says, which is how a
-/// layer keeps what its maker chose.
+/// The options for reading the table: the open options, else those in the connection string, with
+/// which a layer stores the choice of its author.
 TableOptions optionsOf(const GDALOpenInfo &info, const contract::ConnectionString &connection)
 {
     const auto text = [&info](const char *name) {
@@ -82,7 +83,7 @@ int identify(GDALOpenInfo *info)
     return contract::connectionKind(info->pszFilename).has_value();
 }
 
-/// Names that GDAL's other file systems would fetch or unpack are refused: tables are local files.
+/// Refuses the names of GDAL's virtual file systems, because tables are local files.
 void refuseRemote(const std::string &path)
 {
     if (path.empty())
@@ -102,7 +103,7 @@ GDALDataset *open(GDALOpenInfo *info)
     if (!identify(info))
         return nullptr;
     const auto connection = contract::parseConnection(info->pszFilename);
-    if (info->eAccess == GA_Update) // programs try this first and then read: no word about it
+    if (info->eAccess == GA_Update) // no error: programs try this before they open for reading
         return nullptr;
     try {
         refuseRemote(connection->path);
@@ -145,7 +146,7 @@ constexpr char OpenOptions[] = "<OpenOptionList>"
 
 } // namespace vlt::driver
 
-// NOLINTNEXTLINE(readability-identifier-naming): the loader derives this name from the file's
+// NOLINTNEXTLINE(readability-identifier-naming): the loader derives this name from the file name
 extern "C" CPL_DLL void RegisterOGRVltTables();
 
 void RegisterOGRVltTables()
@@ -160,7 +161,7 @@ void RegisterOGRVltTables()
                             "XLSX, XLS and SpreadsheetML 2003");
     driver->SetMetadataItem(GDAL_DCAP_VECTOR, "YES");
     driver->SetMetadataItem(GDAL_DCAP_OPEN, "YES");
-    // the library has room for one prefix
+    // the library can store only one prefix
     driver->SetMetadataItem(
         GDAL_DMD_CONNECTION_PREFIX,
         vlt::contract::connectionPrefix(vlt::contract::TableKind::Sites).data());

@@ -19,7 +19,7 @@ struct Remembered
     std::shared_ptr<const TableFacts> facts;
 };
 
-/// What was found out about files that were opened lately; the newest first.
+/// The properties of recently opened tables, newest first.
 class Memory
 {
 public:
@@ -86,7 +86,7 @@ std::shared_ptr<TableFile> TableFile::open(const std::string &path, const TableO
         facts->layout = recogniseLinkLayout(*read.profile);
     else
         facts->layout = recogniseSiteLayout(*read.profile);
-    for (Field &field : facts->table.fields) // they have told what they had to
+    for (Field &field : facts->table.fields) // the samples are not needed any more
         field.samples = {};
     table->m_sheet = read.sheet;
     table->m_facts = facts;
@@ -96,7 +96,7 @@ std::shared_ptr<TableFile> TableFile::open(const std::string &path, const TableO
 
 std::unique_ptr<Workbook> TableFile::openFile() const
 {
-    // An encoding that only the whole file told is not looked for again.
+    // An encoding that was found by reading the whole file is not searched again.
     const bool known = m_options.encoding.empty() && m_facts;
     return openWorkbook(
         m_file, m_name,

@@ -11,7 +11,7 @@
 
 namespace vlt::driver {
 
-/// What the caller says about a table file; empty members are found out.
+/// What the caller states about a table file; empty members are found automatically.
 struct TableOptions
 {
     contract::TableKind kind = contract::TableKind::Sites;
@@ -23,8 +23,7 @@ struct TableOptions
     bool operator==(const TableOptions &) const = default;
 };
 
-/// What is known about a table. Never changes once made, so that datasets and threads
-/// share it.
+/// All properties of a table. They never change, so that datasets and threads can share them.
 struct TableFacts
 {
     TableProfile table;
@@ -43,12 +42,12 @@ struct TableFacts
 class TableFile
 {
 public:
-    /// Opens a table; an unchanged file that was open before is known already and is not read
-    /// again. Throws RefusedFile.
+    /// Opens a table. An unchanged file that was open recently is not read again. Throws
+    /// RefusedFile.
     static std::shared_ptr<TableFile> open(const std::string &path, const TableOptions &options);
 
     const TableFacts &facts() const { return *m_facts; }
-    /// A new walk over the rows.
+    /// Starts reading the rows from the first one.
     std::unique_ptr<DataRows> rows();
 
 private:

@@ -10,26 +10,27 @@ namespace vlt::driver {
 
 using contract::formatted;
 
-/// A system from a code, a WKT or whatever the library understands; bare digits are EPSG codes.
+/// A system from a code, a WKT or another text that the library accepts; digits alone are an EPSG
+/// code.
 TableSystems::Srs TableSystems::make(const std::string &text)
 {
     Srs srs(new OGRSpatialReference());
     srs->SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
-    // The system of most tables needs no look into the database, which costs more than a table's
-    // header.
+    // Most tables use this system. Reading it from the database would take longer than reading the
+    // header of the table.
     if (text == "4326" || text == "EPSG:4326") {
         srs->importFromWkt(SRS_WKT_WGS84_LAT_LONG);
         return srs;
     }
     const bool digits = text.find_first_not_of("0123456789") == std::string::npos;
-    // Only texts: a coordinate system is never fetched nor read from a file.
+    // The limitations exclude URLs and names of files.
     const OGRErr error =
         digits ? srs->importFromEPSG(atoi(text.c_str()))
                : srs->SetFromUserInput(text.c_str(),
                                        OGRSpatialReference::SET_FROM_USER_INPUT_LIMITATIONS_get());
     if (error != OGRERR_NONE)
         throw RefusedFile(Refusal::BadOption, "MESS_TAB_UNKNOWN_SRS", {text});
-    // Heights alone place nothing, and a geocentric system has no horizontal plane.
+    // A vertical system has no positions, and a geocentric one has no horizontal plane.
     if (srs->IsGeocentric() || (srs->IsVertical() && !srs->IsCompound()))
         throw RefusedFile(Refusal::BadOption, "MESS_TAB_NOT_HORIZONTAL", {text});
     return srs;
@@ -57,8 +58,8 @@ TableSystems::TableSystems(const TableDeclaration &table, const std::string &sou
         if (!m_transformation)
             throw RefusedFile(Refusal::BadOption, "MESS_TAB_NO_WAY", {source, targetSrs});
     }
-    // Where the file's system is not known its numbers are taken as the target's, which is said
-    // among the problems.
+    // If the file's system is not known, its coordinates are used as those of the target system,
+    // and a problem reports it.
     m_isUnreachable = m_target && !m_file;
 }
 
@@ -67,7 +68,7 @@ void TableSystems::transform(int64_t row, Position &position,
 {
     if (!position.found || !m_transformation)
         return;
-    const CPLErrorHandlerPusher quiet(CPLQuietErrorHandler); // it becomes a problem of the row
+    const CPLErrorHandlerPusher quiet(CPLQuietErrorHandler); // the row gets a problem instead
     if (m_transformation->Transform(1, &position.x, &position.y) && std::isfinite(position.x) &&
         std::isfinite(position.y))
         return;

@@ -11,25 +11,26 @@
 
 namespace vlt::driver {
 
-/// The coordinate systems of a table and of who reads it, and the way from one to the other.
+/// The coordinate system of a table, that of the result, and the transformation between them.
 class TableSystems
 {
 public:
-    /// Systems as the caller gave them, empty where he gave none. Throws RefusedFile (BadOption).
+    /// `sourceSrs` and `targetSrs` are empty if the caller gives none. Throws RefusedFile
+    /// (BadOption).
     TableSystems(const TableDeclaration &table, const std::string &sourceSrs,
                  const std::string &targetSrs);
 
-    /// System of the file; null where it is not known.
+    /// System of the file; null if it is not known.
     const OGRSpatialReference *file() const { return m_file.get(); }
-    /// System of the positions that are given out; null where it is not known.
+    /// System of the resulting positions; null if it is not known.
     OGRSpatialReference *target() const { return m_target ? m_target.get() : m_file.get(); }
-    /// The code that the file declares, empty where nobody knows it.
+    /// The code that the file declares; empty if the library does not know it.
     const std::string &knownEpsg() const { return m_knownEpsg; }
 
-    /// Takes a position of the file to the target system; one that has no place there gets a
-    /// problem.
+    /// Transforms a position from the file's system to the target system. If that is not possible,
+    /// the row has no position and gets a problem.
     void transform(int64_t row, Position &position, std::vector<RowProblem> &problems) const;
-    /// What is wrong with the systems.
+    /// Adds the problems with the systems.
     void addProblems(ProblemList &problems) const;
 
 private:
@@ -45,9 +46,9 @@ private:
     Srs m_target;
     std::unique_ptr<OGRCoordinateTransformation> m_transformation;
     std::string m_knownEpsg;
-    std::string m_unknownEpsg; ///< the file declares a system that nobody knows
-    bool m_isUnreachable =
-        false; ///< a target system was asked for, but that of the file is not known
+    std::string m_unknownEpsg; ///< code in the file that the library does not know
+    /// A target system is given, but the system of the file is not known.
+    bool m_isUnreachable = false;
 };
 
 } // namespace vlt::driver

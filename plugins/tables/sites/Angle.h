@@ -16,18 +16,19 @@ enum class Axis {
 struct Angle
 {
     double degrees = 0; ///< west and south negative
-    int parts =
-        0; ///< numbers that make it up: 1 decimal degrees, 2 degrees and minutes, 3 with seconds
-    std::optional<contract::TableTextId> fault; ///< why there is none; empty when there is one
+    /// Number of its parts: 1 for decimal degrees, 2 for degrees and minutes, 3 with seconds.
+    int parts = 0;
+    std::optional<contract::TableTextId> fault; ///< reason why there is no angle
 };
 
-/// Reads decimal degrees or degrees, minutes and seconds in the usual spellings: 48.85, 48,85,
-/// -3.37, 48.85 N, 48°51'24"N, 48 51 24.0 N, N48 51.4, 48d51m24s, 48:51:24. Minutes and seconds lie
-/// below 60 and only the last number has a fraction. The hemisphere letter has to fit the axis; O
-/// is refused, since it stands for west in French, Spanish and Italian and for east in German.
+/// Reads decimal degrees or degrees, minutes and seconds in the common spellings: 48.85, 48,85,
+/// -3.37, 48.85 N, 48°51'24"N, 48 51 24.0 N, N48 51.4, 48d51m24s, 48:51:24. Minutes and seconds
+/// must be below 60, and only the last number may have a fraction. The hemisphere letter has to fit
+/// the axis. O is refused, because it means west in French, Spanish and Italian, but east in
+/// German.
 Angle readAngle(std::string_view text, Axis axis);
 
-/// Degrees from parts in columns of their own; `hemisphere` N, S, E, W or empty.
+/// The angle from parts in separate columns. `hemisphere` is N, S, E, W or empty.
 Angle joinAngle(std::string_view degrees, std::string_view minutes, std::string_view seconds,
                 std::string_view hemisphere, Axis axis);
 

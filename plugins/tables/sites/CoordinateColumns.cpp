@@ -32,15 +32,15 @@ bool isYWord(const std::string &word)
                           "breite", "hochwert", "sz"});
 }
 
-/// What a column name says about coordinates.
+/// The meaning of a column name for coordinates.
 struct Role
 {
     enum class Part { None, Whole, Degrees, Minutes, Seconds, Hemisphere };
 
     Part part = Part::None;
     Axis axis = Axis::X;
-    int strength = 0; ///< the plainer the name, the stronger
-    std::string rest; ///< its other words, the same for both coordinates of one position
+    int strength = 0; ///< higher for a name with fewer other words
+    std::string rest; ///< the other words, which are the same for both coordinates of a position
 };
 
 Role::Part partOf(const std::string &word)
@@ -59,7 +59,7 @@ Role::Part partOf(const std::string &word)
 Role roleOf(const Words &words)
 {
     Role role;
-    // Words that belong to an antenna, a far end or a camera, never to the position of the site.
+    // These words belong to an antenna or to an offset, not to the position of the site.
     for (const std::string &word : words) {
         if (isOneOf(word, {"transmitter", "offset", "dx", "dy"}))
             return {};
@@ -98,7 +98,8 @@ std::vector<Role> rolesOf(const FieldWords &words)
     return roles;
 }
 
-/// First field with the strongest role for an axis; among equals one whose other words are `rest`.
+/// First field with the strongest role for an axis. Fields whose other words are `rest` are
+/// preferred.
 int strongest(const std::vector<Role> &roles, Axis axis, const std::string *rest)
 {
     int best = -1;
@@ -115,7 +116,7 @@ int strongest(const std::vector<Role> &roles, Axis axis, const std::string *rest
     return best;
 }
 
-/// Whether the cells hold hemispheres of an axis: letters or words that start with them.
+/// Whether all samples are hemispheres of an axis: letters, or words that start with them.
 bool holdsHemispheres(const Field &field, Axis axis)
 {
     const std::string_view letters = axis == Axis::X ? "EWew" : "NSns";
@@ -150,7 +151,7 @@ CoordinateFields coordinateFields(const std::vector<Role> &roles, const std::vec
     return fields;
 }
 
-/// A field whose cells hold both coordinates, for tables without columns for each.
+/// A field with both coordinates, for tables without separate columns.
 int findPair(const FieldWords &words, const std::vector<Field> &fields)
 {
     for (std::size_t i = 0; i < fields.size(); ++i) {
@@ -233,7 +234,7 @@ CoordinateUnit findUnit(const PointFields &point, const std::vector<Field> &fiel
     const CoordinateUnit ofY = unitOfSamples(y, Axis::Y);
     if (ofX == CoordinateUnit::Dms || ofY == CoordinateUnit::Dms)
         return CoordinateUnit::Dms;
-    // An easting near the false origin may look like degrees; the other axis then does not.
+    // A small easting, near the false origin, can also be read as degrees, but not the northing.
     if (ofX == CoordinateUnit::Meters || ofY == CoordinateUnit::Meters ||
         (saysMeters(x.name) && saysMeters(y.name)))
         return CoordinateUnit::Meters;

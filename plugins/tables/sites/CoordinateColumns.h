@@ -8,17 +8,17 @@
 
 namespace vlt::driver {
 
-/// How the coordinates of a table are written.
+/// The unit of the coordinates of a table.
 enum class CoordinateUnit {
     Degrees, ///< decimal degrees
     Dms,     ///< degrees, minutes, seconds
     Meters,  ///< a projected system
 };
 
-/// Where a coordinate of a point stands: field numbers, -1 where there is none.
+/// The fields of a coordinate: field numbers, -1 for none.
 struct CoordinateFields
 {
-    int value = -1; ///< the only field, or degrees where there are parts
+    int value = -1; ///< the only field, or the degrees if the coordinate is in parts
     int minutes = -1;
     int seconds = -1;
     int hemisphere = -1;
@@ -27,26 +27,26 @@ struct CoordinateFields
     bool inParts() const { return minutes >= 0; }
 };
 
-/// Where a point stands in a table.
+/// The fields of a position.
 struct PointFields
 {
     CoordinateFields x;
     CoordinateFields y;
-    int pair = -1; ///< field that holds both coordinates
+    int pair = -1; ///< field with both coordinates
 
     bool found() const { return pair >= 0 || (x.found() && y.found()); }
-    /// The field to name when something is wrong with a coordinate.
+    /// The field that is reported if a coordinate cannot be used.
     int xField() const { return pair >= 0 ? pair : x.value; }
     int yField() const { return pair >= 0 ? pair : y.value; }
 };
 
-/// The words by which each field of a table is judged; nothing for a field that is left out.
+/// The words in the name of each field of a table; nothing for a field that is not considered.
 using FieldWords = std::vector<std::optional<std::vector<std::string>>>;
 
-/// Recognises the fields of a point among those that have words.
+/// Recognises the fields of a position among those that have words.
 PointFields findPoint(const FieldWords &words, const std::vector<Field> &fields);
 
-/// How the coordinates of a point are written, by their names and samples.
+/// The unit of the coordinates of a position, from the names and samples of its fields.
 CoordinateUnit findUnit(const PointFields &point, const std::vector<Field> &fields);
 
 } // namespace vlt::driver

@@ -46,8 +46,8 @@ CoordinatePair readCoordinatePair(std::string_view text)
         return {0, 0, false, TableTextId("MESS_TAB_NOT_A_POSITION")};
     const std::string_view first = text.substr(0, cut);
     const std::string_view second = text.substr(cut + 1);
-    // "48,85" alone is a number with a decimal comma: a position shows a point, a degree or a
-    // letter somewhere.
+    // "48,85" alone is a number with a decimal comma. A position has a point, a degree sign or a
+    // letter as well.
     if (separator == ',' && (second.find(',') != std::string_view::npos ||
                              text.find_first_of(".NSEWnsew\xC2") == std::string_view::npos))
         return {0, 0, false, TableTextId("MESS_TAB_NOT_A_POSITION")};

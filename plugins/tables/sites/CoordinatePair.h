@@ -12,11 +12,11 @@ struct CoordinatePair
 {
     double x = 0;
     double y = 0;
-    bool inParts = false;                       ///< written in degrees, minutes and seconds
-    std::optional<contract::TableTextId> fault; ///< why there is none
+    bool inParts = false;                       ///< in degrees, minutes and seconds
+    std::optional<contract::TableTextId> fault; ///< reason why there is no position
 };
 
-/// Reads a cell that holds a whole position: "48.85,2.35" or "48,85;2,35" (latitude first),
+/// Reads both coordinates from one cell: "48.85,2.35" or "48,85;2,35" (latitude first),
 /// 49°11'23.10"N,16°32'13.38"E, POINT(2.27 48.85) (longitude first).
 CoordinatePair readCoordinatePair(std::string_view text);
 

@@ -14,8 +14,9 @@ using contract::TableTextId;
 
 constexpr double HalfTurnDegrees = 180;
 
-/// A coordinate with the hemisphere from a column of its own; one with a sign has its own already,
-/// which must not contradict.
+/// Appends the hemisphere of a separate column to a coordinate that has no letter. A minus sign
+/// together with S or W means the same twice, so nothing is appended; with N or E it is a
+/// contradiction, which readAngle() reports.
 std::string withHemisphere(std::string text, const std::string &hemisphere)
 {
     const bool hasLetter = text.find_first_of("NSEWnsew") != std::string::npos;
@@ -50,6 +51,7 @@ bool PositionReader::readAxis(int64_t row, const CoordinateFields &fields, Axis 
     const std::string hemisphere = fields.hemisphere >= 0 && m_unit != CoordinateUnit::Meters
                                        ? fieldText(cells, fields.hemisphere)
                                        : std::string();
+    // Nearly all coordinates are plain numbers; this avoids making a text of them.
     if (cell && !fields.inParts() && hemisphere.empty() &&
         (cell->kind == Cell::Kind::Number || cell->kind == Cell::Kind::Text)) {
         std::optional<double> number = cell->number;
@@ -62,6 +64,7 @@ bool PositionReader::readAxis(int64_t row, const CoordinateFields &fields, Axis 
         }
     }
     if (!fields.inParts() && cell && m_unit == CoordinateUnit::Meters) {
+        // A cell may have another decimal mark than its column.
         const std::string text = fieldText(cells, fields.value);
         const NumberShape shape = numberShape(text);
         const auto number = shape.isNumber ? parseNumber(text, shape.usesComma ? DecimalMark::Comma
@@ -88,13 +91,15 @@ bool PositionReader::readAxis(int64_t row, const CoordinateFields &fields, Axis 
 
 std::optional<TableTextId> PositionReader::outsideGlobe(double value, Axis axis) const
 {
-    constexpr double Precision = 1e-9; // of a factor between units
+    constexpr double Precision = 1e-9; // relative; the factors between angular units are rounded
     double halfTurn = m_halfTurn;
     if (halfTurn == 0 && m_unit != CoordinateUnit::Meters)
         halfTurn = HalfTurnDegrees;
-    const double most = (axis == Axis::X ? halfTurn : halfTurn / 2) * (1 + Precision);
-    if (halfTurn == 0 || std::abs(value) <= most)
+    const double maximum = (axis == Axis::X ? halfTurn : halfTurn / 2) * (1 + Precision);
+    if (halfTurn == 0 || std::abs(value) <= maximum)
         return std::nullopt;
+    // The texts for longitudes and latitudes name limits in degrees; other units have a general
+    // text.
     if (std::abs(halfTurn / HalfTurnDegrees - 1) > Precision)
         return TableTextId("MESS_TAB_OUTSIDE_GLOBE");
     return axis == Axis::X ? TableTextId("MESS_TAB_LONGITUDE") : TableTextId("MESS_TAB_LATITUDE");
@@ -124,7 +129,7 @@ Position PositionReader::read(int64_t row, const std::vector<const Cell *> &cell
     int field = m_fields.xField();
     if (!std::isfinite(position.x) || !std::isfinite(position.y))
         why = TableTextId("MESS_TAB_NOT_FINITE");
-    else if (position.x == 0 && position.y == 0)
+    else if (position.x == 0 && position.y == 0) // exports write it for an unknown position
         why = TableTextId("MESS_TAB_ZERO_ZERO");
     else {
         why = outsideGlobe(position.x, Axis::X);

@@ -19,12 +19,13 @@ struct Position
     double y = 0;
 };
 
-/// Reads the position of each row. Nothing that cannot be read becomes 0: the row gets a problem
-/// instead.
+/// Reads the position of each row. If a coordinate cannot be read, the row has no position and gets
+/// a problem; it is never positioned at 0.
 class PositionReader
 {
 public:
-    /// @param halfTurn  of the file's coordinate system where it is geographic, in its unit; else 0
+    /// @param halfTurn  180 degrees in the unit of the file's coordinate system if that is
+    ///                  geographic; else 0
     PositionReader(const TableProfile &table, const PointFields &fields, CoordinateUnit unit,
                    double halfTurn = 0)
         : m_table(&table)
@@ -33,8 +34,8 @@ public:
         , m_halfTurn(halfTurn)
     {}
 
-    /// `cells` holds the cell of each field, null where it is empty. A problem is appended where
-    /// there is one.
+    /// @param cells     the cell of each field, null if it is empty
+    /// @param problems  gets the reason if there is no position
     Position read(int64_t row, const std::vector<const Cell *> &cells,
                   std::vector<RowProblem> &problems) const;
 
@@ -52,7 +53,7 @@ private:
     double m_halfTurn;
 };
 
-/// Text of the cell of a field, trimmed; empty where there is none (also for field -1).
+/// Trimmed text of the cell of a field; empty for an empty cell and for field -1.
 std::string fieldText(const std::vector<const Cell *> &cells, int field);
 
 } // namespace vlt::driver

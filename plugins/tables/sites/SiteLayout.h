@@ -7,16 +7,16 @@
 
 namespace vlt::driver {
 
-/// What a table of sites tells about itself; its format is asset, atoll, mentum or generic.
+/// Properties of a table of sites. Its format is asset, atoll, mentum or generic.
 struct SiteLayout : TableDeclaration
 {
     PointFields point;
 };
 
-/// Recognises the fields of a table that tell where its sites are.
+/// Recognises the fields with the positions of the sites.
 SiteLayout recogniseSiteLayout(const TableProfile &table);
 
-/// The planning tool that names columns so.
+/// The planning tool that uses these names of columns.
 std::string recogniseFormat(const std::vector<Field> &fields);
 
 } // namespace vlt::driver

@@ -8,7 +8,7 @@ namespace vlt::driver {
 
 namespace {
 
-/// The digits behind "EPSG" in a text, such as EPSG:2154, epsg 4326 or (EPSG=27572).
+/// The digits after "EPSG" in a text, such as EPSG:2154, epsg 4326 or (EPSG=27572).
 std::string epsgIn(const std::string &text)
 {
     const std::string lower = lowerCase(text);

@@ -6,16 +6,16 @@
 
 namespace vlt::driver {
 
-/// What a table tells about itself, whatever its rows are.
+/// Properties that tables of sites and of links have in common.
 struct TableDeclaration
 {
     CoordinateUnit unit = CoordinateUnit::Degrees;
     std::string format; ///< starts with the planning tool that wrote the table, or with generic
-    std::string epsg;   ///< code that the file declares; empty when it declares none
+    std::string epsg;   ///< code that the file declares; empty without a declaration
 };
 
-/// The code that the titles of a table, its names or a column of codes declare; `point` is where
-/// its coordinates are.
+/// The EPSG code that is declared by the titles of a table, by the names of the coordinate columns
+/// or by a column of codes.
 std::string findEpsg(const TableProfile &table, const PointFields &point, CoordinateUnit unit);
 
 } // namespace vlt::driver
