@@ -15,7 +15,7 @@ namespace vlt::scene {
 namespace {
 
 constexpr double UnitLength = 32767; ///< of a normal
-constexpr double LeastAreaM2 = 1e-6;
+constexpr double MinAreaM2 = 1e-6;
 const osg::Vec2d Upwards; ///< a normal's part in the plane
 
 osg::Vec4ub opaque(const colormaps::Rgba &color)
@@ -147,7 +147,7 @@ void TownMesh::addBoxes(std::uint32_t building)
             const double size = std::abs(doubledArea(placesOf(ring, true))) / 2;
             area += ring.isHole ? -size : size;
         }
-        if (area < LeastAreaM2) { // a line that cuts itself: its lobes cancel out
+        if (area < MinAreaM2) { // a line that cuts itself: its lobes cancel out
             m_roof.clear();
             for (const Footprints::Ring &ring : part)
                 m_roof.addRing(placesOf(ring, true));
