@@ -4,8 +4,8 @@
 
 namespace vlt::geodata {
 
-/// Value of a configuration option of the geodata library, which also answers with the environment
-/// variable of that name; empty where neither is set.
+/// Value of a configuration option of the geodata library, or of the environment variable of that
+/// name; empty if neither is set.
 QString configurationOption(const char *name);
 
 } // namespace vlt::geodata

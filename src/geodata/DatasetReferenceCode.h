@@ -5,10 +5,10 @@
 namespace vlt::geodata {
 
 /// The EPSG code of the coordinate system that a raster or vector file declares, as text ("2154"):
-/// a raster's own, or that of a vector file's first layer. Local files only.
+/// that of the raster, or of the first layer of the vector file. Local files only.
 ///
 /// @par Errors   MESS_ERR_NO_SRS_DSR for a raster without such a system; MESS_ERR_NO_SRS_DSV for a
-///               vector file without one, and for what is neither.
+///               vector file without one, and for a file that is neither raster nor vector.
 Result<QString> datasetReferenceCode(const QString &path);
 
 } // namespace vlt::geodata

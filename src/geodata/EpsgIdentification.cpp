@@ -6,7 +6,7 @@ namespace vlt::geodata {
 
 namespace {
 
-/// From here on a match describes the same system, under another name at most.
+/// A match of this confidence or more describes the same system; at most its name differs.
 constexpr int EquivalentConfidence = 90;
 
 QString epsgCode(const OGRSpatialReference &system)
@@ -17,8 +17,8 @@ QString epsgCode(const OGRSpatialReference &system)
                                                                  : QString();
 }
 
-/// Looks the definition up among all of EPSG's: systems that come without a code, as in .prj files
-/// beside rasters, are mostly found only so.
+/// Compares the definition with all of EPSG's. Most systems without a code, as in .prj files beside
+/// rasters, are found only by this comparison.
 QString bestMatch(OGRSpatialReference &system)
 {
     int count = 0;

@@ -6,8 +6,8 @@
 
 namespace vlt::geodata {
 
-/// While it lives, what the geodata library reports on this thread goes here and not to the error
-/// output.
+/// Collects the errors and warnings of the geodata library on this thread as long as it exists; the
+/// library then prints nothing.
 class ErrorCollector
 {
 public:
@@ -16,8 +16,8 @@ public:
     ErrorCollector(const ErrorCollector &) = delete;
     ErrorCollector &operator=(const ErrorCollector &) = delete;
 
-    /// The last failure reported, the one that knows what was being done, or `otherwise` when the
-    /// library gave no reason.
+    /// The last failure reported, which names the failed operation, or `otherwise` if the library
+    /// gave no reason.
     QString failure(const QString &otherwise) const;
 
 private:

@@ -20,7 +20,8 @@ namespace vlt::geodata {
 
 namespace {
 
-/// Only these are tried before all others: no other format takes a file that begins as theirs do.
+/// Only these formats may be tried first: no other format accepts a file that starts with the same
+/// bytes.
 constexpr std::array FormatsOfOwnFiles = {"GTiff", "PNG", "JPEG", "BMP", "GIF", "WEBP", "HFA"};
 
 QByteArray startOf(const QByteArray &name)
@@ -28,7 +29,7 @@ QByteArray startOf(const QByteArray &name)
     return name.left(name.indexOf('.', 1));
 }
 
-/// An option of the geodata library on this thread, while it lives.
+/// Sets an option of the geodata library on this thread as long as it exists.
 class ThreadOption
 {
 public:
@@ -113,13 +114,14 @@ ImageFile ImageFileReader::read(const QString &path)
         return {};
     const localfiles::NoNetwork offline;
     const ErrorCollector errors;
-    // side files are asked for one by one, and nobody wants to know where the image lies
+    // The folder is not listed, so side files are tested one by one; the georeference is not
+    // needed.
     const ThreadOption unlisted("GDAL_DISABLE_READDIR_ON_OPEN", "TRUE");
     const ThreadOption unplaced("GDAL_GEOREF_SOURCES", "PAM");
 
     GDALDatasetUniquePtr dataset;
     if (!m_lastFormat.isEmpty()) {
-        // with its own name only it need not even be asked for side files
+        // With its own name as the only one of the folder, no side file is tested at all.
         const std::array<const char *, 2> itself = {name.constData(), nullptr};
         dataset = openAs(m_lastFormat, file.constData(), isAlone ? itself.data() : nullptr);
     }

@@ -11,37 +11,37 @@
 
 namespace vlt::geodata {
 
-/// What an image file states of itself: nothing where the geodata library cannot read it.
+/// Height and parts that an image file declares; empty if the geodata library cannot read it.
 struct ImageFile
 {
-    /// An image in a file that holds several, with a height of its own where it states one.
+    /// An image in a file that holds several, with its own height if it declares one.
     struct Part
     {
         Subdataset subdataset;
         std::optional<double> height;
     };
 
-    std::optional<double> height; ///< metadata item HEIGHT, where it is a number
+    std::optional<double> height; ///< metadata item HEIGHT, if it is a number
     QList<Part> parts;            ///< empty for a plain image
 };
 
-/// The names of everything in a folder, listed once for the reading of many of its files: what the
-/// geodata library would otherwise find out by listing the folder at every open.
+/// The names of all entries of a folder, listed once before many of its files are read. Without
+/// them the geodata library would list the folder each time it opens a file.
 class FolderNames
 {
 public:
-    /// @param names  in bytes of the file system
+    /// @param names  in the encoding of the file system
     explicit FolderNames(const QList<QByteArray> &names);
 
-    /// Whether no other name is the same up to its first dot: the file has no side files.
+    /// Whether no other name is the same up to its first dot; if so, the file has no side files.
     bool isAlone(const QByteArray &name) const;
 
 private:
-    QHash<QByteArray, int> m_starts; ///< how many names start so
+    QHash<QByteArray, int> m_starts; ///< number of names by their text up to the first dot
 };
 
 /// Reads many image files of one folder, with the same result as if each were opened by itself.
-/// One reader for one thread.
+/// Each thread needs a reader of its own.
 class ImageFileReader
 {
 public:
@@ -53,7 +53,7 @@ public:
 
 private:
     const FolderNames &m_names;
-    QByteArray m_lastFormat; ///< a format that is known by its first bytes, or empty
+    QByteArray m_lastFormat; ///< the last format, if its first bytes identify it; else empty
 };
 
 } // namespace vlt::geodata

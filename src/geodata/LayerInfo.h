@@ -7,10 +7,10 @@
 
 namespace vlt::geodata {
 
-/// What a layer says of itself, without its features.
+/// Properties of a layer, without its features.
 struct LayerInfo
 {
-    bool present = false; ///< whether the dataset has a layer of the asked index
+    bool present = false; ///< whether the dataset has a layer of the requested index
     QString layerName;
     qint64 featureCount = 0;
     QStringList fields;              ///< in the layer's order, decoded from UTF-8 or else Latin-1

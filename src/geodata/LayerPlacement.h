@@ -6,7 +6,7 @@
 
 namespace vlt::geodata {
 
-/// How many features of a layer have a place.
+/// Number of features of a layer that have a position.
 struct LayerPlacement
 {
     qint64 features = 0;

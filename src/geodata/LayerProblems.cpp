@@ -12,7 +12,7 @@ namespace vlt::geodata {
 
 namespace {
 
-/// Only geometries are asked for; a driver that can leave out the attributes may do so.
+/// Only geometries are needed, so a driver may leave out the attributes.
 void ignoreAttributes(OGRLayer &layer)
 {
     if (!layer.TestCapability(OLCIgnoreFields))

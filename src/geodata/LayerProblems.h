@@ -10,15 +10,14 @@ class OGRLayer;
 
 namespace vlt::geodata {
 
-/// What a table's driver skipped or mended.
+/// Rows and values that a table's driver skipped or repaired.
 struct LayerProblems
 {
-    qint64 count = 0; ///< all of them
-    QList<Problem>
-        listed; ///< the first of them: a driver may stop listing when there are very many
+    qint64 count = 0;      ///< all of them
+    QList<Problem> listed; ///< the first of them; a driver may list only a limited number
 };
 
-/// What all rows of a site table tell.
+/// Result of reading all rows of a site table.
 struct SiteCheck
 {
     LayerProblems problems;
@@ -26,23 +25,23 @@ struct SiteCheck
     SystemCheck systems;
 };
 
-/// Reads layer 0 of a table connection once, from its first row to its last: how many features have
-/// a place, and its "problems" metadata domain, an item COUNT and items PROBLEM_1, PROBLEM_2 ... in
-/// this order, of the form row|column|severity|text. A layer without the domain has no problems, a
-/// dataset without layers gives an empty value.
+/// Reads layer 0 of a table connection once, from its first row to its last: the number of features
+/// with a position, and the "problems" metadata domain. The domain has an item COUNT and then items
+/// PROBLEM_1, PROBLEM_2 ... of the form row|column|severity|text. A layer without the domain has no
+/// problems; a dataset without layers gives an empty value.
 ///
-/// @param progress  may be empty; asked some fifty times in a second. Opening a table that was not
-///                  open before, and the texts of a large XLSX file, take their time without a
-///                  question.
-/// @param systems   with which the positions are compared
+/// @param progress  may be empty; called about fifty times per second. It is not called while a
+///                  table is opened for the first time, nor while the texts of a large XLSX file
+///                  are read.
+/// @param systems   the positions are compared with the areas of these systems
 /// @par Errors   the driver's reason as detail.
 Stoppable<SiteCheck> readSiteCheck(const QString &connection, const Progress &progress,
                                    const SystemPair &systems = {});
 
-/// The problems that a layer's driver found; complete only after all its features were read.
+/// The problems that a layer's driver found; complete only after all its features have been read.
 LayerProblems problemsOf(OGRLayer &layer);
 
-/// One item of the problems domain. Row and column may be empty; the text may hold further bars.
+/// Parses one item of the problems domain. Row and column may be empty; the text may contain bars.
 Problem parseProblem(const QString &item);
 
 } // namespace vlt::geodata

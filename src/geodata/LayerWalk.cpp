@@ -8,10 +8,10 @@ namespace vlt::geodata {
 
 namespace {
 
-constexpr qint64 FeaturesPerLook = 16; ///< at the clock: rows of thousands of columns take long
+constexpr qint64 FeaturesPerLook = 16; ///< per reading of the clock; wide rows are slow
 constexpr qint64 MillisecondsPerReport = 20;
 
-/// A driver names the layer before the reason why its rows end too early.
+/// Removes the layer's name, which a driver puts before the reason for an early end of the rows.
 QString withoutName(const QString &reason, OGRLayer &layer)
 {
     const QString name = platform::decodeText(layer.GetDescription()) + QStringLiteral(": ");

@@ -8,13 +8,13 @@
 
 namespace vlt::geodata {
 
-/// Hands every feature of a layer to `visit`, from the first to the last.
+/// Calls `visit` with every feature of a layer, from the first to the last.
 ///
-/// @param progress  may be empty; asked before the first feature and then some fifty times in a
+/// @param progress  may be empty; called before the first feature and then about fifty times per
 ///                  second
-/// @param errors    what the driver said since the layer was opened
-/// @return          how many features there were
-/// @par Errors      the driver's reason why the features end too early, as detail.
+/// @param errors    the driver's errors since the layer was opened
+/// @return          number of features
+/// @par Errors      the driver's reason for an early end of the features, as detail.
 Stoppable<qint64> walkFeatures(OGRLayer &layer, const Progress &progress,
                                const ErrorCollector &errors,
                                const std::function<void(const OGRFeature &)> &visit);

@@ -4,7 +4,7 @@
 
 namespace vlt::geodata {
 
-/// The geodata library and the library of coordinate systems, each with its version: "GDAL 3.6.2".
+/// Name and version of the geodata library ("GDAL 3.6.2") and of the library of coordinate systems.
 QStringList libraryVersions();
 
 } // namespace vlt::geodata

@@ -29,7 +29,7 @@ std::shared_ptr<linkpath::TerrainRaster> openTerrain(const QString &file, QStrin
     return terrain;
 }
 
-/// Measures links as they come and keeps what is reported of each.
+/// Computes length and clearance of each link that is read, and keeps the reports.
 class LinkCollector
 {
 public:

@@ -11,7 +11,7 @@
 
 namespace vlt::geodata {
 
-/// One link of a table, measured and judged.
+/// One link of a table with its length and its clearance.
 struct LinkReport
 {
     qint64 row = 0; ///< in the file, from 1
@@ -24,34 +24,34 @@ struct LinkReport
     linkpath::Clearance clearance;
 };
 
-/// By what links are judged.
+/// Terrain and rule for the clearance of links.
 struct LinkJudging
 {
-    QString terrainFile; ///< absolute path; empty: nothing is judged
+    QString terrainFile; ///< absolute path; if empty, no clearance is computed
     linkpath::ClearanceRule rule;
 };
 
-/// What all rows of a link table tell.
+/// Result of reading all rows of a link table.
 struct LinkCheck
 {
     LayerProblems problems;
     LayerPlacement placement; ///< of the links
     QList<LinkReport> links;  ///< in the order of the file
     SystemCheck systems;      ///< of the positions of the ends
-    QString terrainProblem;   ///< why the terrain file cannot be used; empty where it can
+    QString terrainProblem;   ///< why the terrain file cannot be used; empty if it can
 };
 
-/// The one text of LinkCheck::terrainProblem that is not a reason why the file cannot be read.
+/// The only text of LinkCheck::terrainProblem that does not explain why the file cannot be read.
 inline const QString TerrainElsewhere = QStringLiteral(
     "there is no transformation from the coordinate system of the links to that of the terrain");
 
-/// Why a file cannot serve as terrain; empty where it can.
+/// Why a file cannot be used as terrain; empty if it can.
 QString terrainProblem(const QString &terrainFile);
 
 /// Reads a link table once, from its first row to its last.
 ///
 /// @param progress  as for readSiteCheck()
-/// @param systems   with which the positions are compared
+/// @param systems   the positions are compared with the areas of these systems
 /// @par Errors   the driver's reason as detail.
 Stoppable<LinkCheck> readLinkCheck(const QString &connection, const LinkJudging &judging,
                                    const Progress &progress, const SystemPair &systems = {});

@@ -8,11 +8,12 @@
 
 namespace vlt::geodata {
 
-/// Opens a file or folder of the local disk for reading, through its formats; of rasters band 1
-/// holds the values. The caller collects the library's errors and keeps it off the network.
+/// Opens a file or folder of the local disk for reading, with the formats for local files; band 1
+/// of a raster holds the values. The caller collects the library's errors and keeps the library off
+/// the network.
 ///
 /// @param kind  GDAL_OF_RASTER or GDAL_OF_VECTOR
-/// @return      null where it cannot be opened
+/// @return      null if it cannot be opened
 GDALDatasetUniquePtr openLocalDataset(const QString &path, unsigned kind);
 
 /// The same for one of the images in a raster that holds several.

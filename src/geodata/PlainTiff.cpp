@@ -29,7 +29,7 @@ public:
 
     bool isTiff() const { return m_isBigEndian || m_start.startsWith(QByteArray("II*\0", 4)); }
 
-    /// Fewer than asked for where the file ends.
+    /// The bytes at an offset; fewer than `count` at the end of the file.
     QByteArray at(qint64 offset, qsizetype count)
     {
         if (offset + count <= m_start.size())

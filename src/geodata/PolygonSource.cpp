@@ -55,7 +55,8 @@ QList<VectorField> fieldsOf(OGRLayer &layer)
     return fields;
 }
 
-/// Identifying a system may take a moment; the layers of a dataset mostly share one.
+/// Keeps the identified systems: identification is slow, and the layers of a dataset often share a
+/// system.
 class SystemInfos
 {
 public:

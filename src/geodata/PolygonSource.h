@@ -13,7 +13,7 @@ class OGRLayer;
 
 namespace vlt::geodata {
 
-/// What a field of a vector layer holds, as far as heights of buildings may stand in it.
+/// Type of a field of a vector layer, as far as it matters for heights of buildings.
 enum class FieldKind { Integer, Real, String, Other };
 
 struct VectorField
@@ -22,7 +22,7 @@ struct VectorField
     FieldKind kind = FieldKind::Other;
 };
 
-/// Bounds in the coordinate system of their layer; not finite where nothing has a place.
+/// Bounds in the coordinate system of their layer; not finite if nothing has a position.
 struct Extent
 {
     double minX = 0;
@@ -37,12 +37,12 @@ struct Extent
     bool isPlaced() const;
 };
 
-/// What is shown of a coordinate system.
+/// The properties of a coordinate system that are shown.
 struct SystemInfo
 {
     QString name; ///< "EPSG:2154", else the name of the system, empty for none
     bool isGeographic = false;
-    double unitM = 0;   ///< metres in a unit of a projected system; 0 for others
+    double unitM = 0;   ///< metres per unit of a projected system; 0 for others
     QString definition; ///< WKT; empty for none
 };
 
@@ -51,16 +51,16 @@ struct PolygonLayer
     QString name;
     QList<VectorField> fields; ///< all of them, in the order of the layer
     SystemInfo system;
-    qint64 featureCount = -1; ///< -1 where the format would have to count
+    qint64 featureCount = -1; ///< -1 if the format would have to read all features to count them
 };
 
 /// The layers of a local vector dataset that may hold building footprints: those of polygons,
-/// multipolygons and of no declared geometry. The dataset stays open while this lives. Any thread
-/// may use it.
+/// multipolygons and of no declared geometry. The dataset stays open as long as the source exists.
+/// Any thread may use it.
 class PolygonSource
 {
 public:
-    /// Opens a file or folder through the formats of the local disk.
+    /// Opens a file or folder with the formats for local files.
     ///
     /// @return      the source; its list of layers may be empty
     /// @par Errors  MESS_ERR_OPEN_VECTORDS, with the path and the library's reason
@@ -69,7 +69,7 @@ public:
 
     const QList<PolygonLayer> &layers() const { return m_layers; }
 
-    /// Bounds of a layer of layers(); reads every feature where the format does not keep them.
+    /// Bounds of a layer of layers(); reads every feature if the format does not store the bounds.
     Extent extent(int layer);
 
 private:
@@ -78,7 +78,7 @@ private:
     std::unique_ptr<GDALDataset> m_dataset;
     QList<PolygonLayer> m_layers;
     QList<OGRLayer *> m_handles; ///< of m_layers, owned by the dataset
-    std::mutex m_reading;        ///< of the features
+    std::mutex m_reading;        ///< held while features are read
 };
 
 } // namespace vlt::geodata

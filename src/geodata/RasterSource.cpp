@@ -18,7 +18,7 @@ namespace vlt::geodata {
 
 namespace {
 
-// Beyond these a statistic is no height on the ground but what stands for missing values.
+// A minimum or maximum beyond these is no height of terrain: it marks missing values.
 constexpr double LowestHeightM = -100;
 constexpr double HighestHeightM = 9000;
 constexpr double UsualNoData = -32768;
@@ -51,7 +51,7 @@ Error cannotOpen(const ErrorCollector &errors, const QString &path)
             errors.failure({})};
 }
 
-/// The library would keep what it found out in a side file.
+/// Without this the library would store the statistics in a side file.
 void keepFromSaving(GDALDataset &dataset)
 {
     if (auto *keeping = dynamic_cast<GDALPamDataset *>(&dataset))
@@ -115,7 +115,7 @@ Stoppable<double> guessedNoData(const QString &path, const Progress &progress, c
     double min = 0;
     double max = 0;
     if (band->ComputeStatistics(true, &min, &max, nullptr, nullptr, tellProgress, &told) != CE_None)
-        min = max = 0; // nothing but missing values
+        min = max = 0; // the band has only missing values
     if (isStopped)
         return std::nullopt;
     if (min < LowestHeightM)

@@ -12,31 +12,31 @@
 
 namespace vlt::geodata {
 
-/// What is known of a raster without reading its pixels.
+/// Properties of a raster that are known without reading its pixels.
 struct RasterSummary
 {
     int columns = 0;
     int rows = 0;
     int bandCount = 0;
     std::optional<double> noData; ///< of band 1
-    bool holdsColors = false;     ///< band 1 is a part of a picture
+    bool holdsColors = false;     ///< band 1 is a colour component or has a palette
     SystemInfo system;
-    std::optional<Extent> extent; ///< in that system; none where the raster has no place
+    std::optional<Extent> extent; ///< in that system; none if the raster has no position
     QList<Subdataset> subdatasets;
 };
 
-/// Whether a local file is a virtual raster: it only names other files and is not opened.
+/// Whether a local file is a virtual raster. Such a file only names other files and is not opened.
 bool isVirtualRaster(const QString &path);
 
-/// Opens a local raster (file or folder) through the formats of the local disk and closes it again.
+/// Reads the summary of a local raster (file or folder) with the formats for local files.
 ///
 /// @param part  name of one of its images, as the raster lists it; empty for the raster itself
 /// @par Errors  MESS_ERR_OPEN_RASTERDS, with the path and the library's reason
 Result<RasterSummary> readRasterSummary(const QString &path, const QString &part = {});
 
-/// What stands for missing values in band 1 of a raster, from its approximate statistics: the
-/// minimum where it is below -100, else the maximum where it reaches 9000, else the band's own
-/// value, else -32768. Nothing is written beside the raster.
+/// The value that marks missing data in band 1 of a raster, by its approximate statistics: the
+/// minimum if it is below -100, else the maximum if it is at least 9000, else the value that the
+/// band declares, else -32768. No file is written beside the raster.
 ///
 /// @param progress  may be empty; false stops the work
 /// @param part      name of one of its images; empty for the raster itself

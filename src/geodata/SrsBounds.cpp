@@ -6,7 +6,7 @@ namespace {
 
 constexpr double FullTurn = 360;
 
-/// How far east of an area's western edge a meridian lies, 0 .. 360 degrees.
+/// The distance of a meridian to the east of an area's western edge, 0 .. 360 degrees.
 double eastOf(double west, double longitude)
 {
     double turned = longitude - west;

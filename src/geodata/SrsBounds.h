@@ -2,7 +2,7 @@
 
 namespace vlt::geodata {
 
-/// Degrees; `west` is greater than `east` where the area lies across the 180th meridian.
+/// Bounds in degrees; `west` is greater than `east` if the area crosses the 180th meridian.
 struct SrsBounds
 {
     double west = 0;
@@ -13,10 +13,10 @@ struct SrsBounds
     friend bool operator==(const SrsBounds &, const SrsBounds &) = default;
 };
 
-/// Whether a place lies in an area or within a margin of so many degrees around it.
+/// Whether a position lies in an area or at most `margin` degrees outside it.
 bool isInside(const SrsBounds &area, double longitude, double latitude, double margin = 0);
 
-/// Whether an area holds the whole of another one.
+/// Whether an area contains all of another one.
 bool holds(const SrsBounds &area, const SrsBounds &other);
 
 } // namespace vlt::geodata

@@ -37,7 +37,8 @@ SrsKind kindOf(OSRCRSType type)
     }
 }
 
-/// Newer databases name every country of the world there, so that any of them would find WGS 84.
+/// Newer databases list every country of the world in the area, so a search for any country would
+/// find WGS 84.
 QString areaOf(const char *name)
 {
     const QString area = QString::fromUtf8(name);
@@ -78,7 +79,7 @@ void addArea(SrsRecord &record, const SrsRecord &again)
            std::max(all.east, more.east), std::max(all.north, more.north)};
 }
 
-/// EPSG first; numbers by value and before other codes.
+/// EPSG is first. Numeric codes are sorted by value, before the other codes.
 auto sortKey(const SrsRecord &record)
 {
     bool isNumber = false;

@@ -15,7 +15,7 @@ enum class SrsKind {
     Geographic3D,
     Projected,
     Compound, ///< a horizontal system together with heights
-    Other     ///< of bodies that no spheroid describes
+    Other     ///< for example, systems of bodies that no spheroid describes
 };
 
 /// A coordinate system as the PROJ database lists it.
@@ -26,24 +26,24 @@ struct SrsRecord
     QString name;
     SrsKind kind = SrsKind::Other;
     bool isDeprecated = false;
-    QString area; ///< where it may be used, in English; several areas with "; " between them
+    QString area; ///< area of use, in English; several areas are separated by "; "
     std::optional<SrsBounds> bounds;
-    QString projectionMethod; ///< of projected systems, may be empty
+    QString projectionMethod; ///< of projected systems; may be empty
 
-    /// The code as it is handed on: "EPSG:2154".
+    /// Authority and code: "EPSG:2154".
     QString key() const { return authority + QLatin1Char(':') + code; }
 };
 
-/// Every coordinate system of the PROJ database that can place points on a map, each once: EPSG's
-/// first, then the other authorities' by name, the codes of each in the order of their numbers.
-/// Systems of heights alone and geocentric ones are left out. Takes about 0.1 s; may run on any
-/// thread.
+/// Every coordinate system of the PROJ database that can give points a position on a map, each
+/// once. EPSG's systems come first, then the other authorities by name; the codes of an authority
+/// are in numerical order. Vertical and geocentric systems are left out. Takes about 0.1 s; may run
+/// on any thread.
 ///
-/// @par Errors   the database is not there; the library's reason as detail.
+/// @par Errors   the database is missing; the library's reason as detail.
 Result<QList<SrsRecord>> readSrsCatalogue();
 
 /// The whole definition (WKT 2, several lines) of a code or of any other text that defines a
-/// system; empty where there is none.
+/// system; empty if there is none.
 QString srsDefinitionText(const QString &codeOrDefinition);
 
 } // namespace vlt::geodata

@@ -17,7 +17,7 @@ SrsUse useOf(const OGRSpatialReference &system)
         return SrsUse::Projected;
     if (system.IsGeocentric())
         return SrsUse::Geocentric;
-    // a compound one counts as vertical too
+    // IsVertical() is true for compound systems too.
     return system.IsVertical() && !system.IsCompound() ? SrsUse::Heights : SrsUse::Unknown;
 }
 
@@ -30,7 +30,7 @@ SrsFacts srsFacts(const OGRSpatialReference &system)
     if (const char *name = system.GetName())
         facts.name = QString::fromUtf8(name);
     SrsBounds area;
-    // a system without an area has 1000 degrees at all sides
+    // The library gives -1000 as the bounds of a system without an area.
     if (system.GetAreaOfUse(&area.west, &area.south, &area.east, &area.north, nullptr) &&
         area.west >= -180)
         facts.area = area;

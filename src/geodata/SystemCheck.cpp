@@ -16,7 +16,7 @@ namespace {
 constexpr std::size_t PositionsAtOnce = 1024;
 constexpr double MarginDeg = 0.5;
 
-/// Degrees of WGS 84 from a system; null where no way leads there.
+/// The transformation of a table's positions to degrees of WGS 84; null if there is none.
 OGRCoordinateTransformation *wayToDegrees(const SystemPair &systems,
                                           const OGRSpatialReference *placed)
 {

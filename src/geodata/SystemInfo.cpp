@@ -26,7 +26,7 @@ QString definitionOf(const OGRSpatialReference &system)
     return definition;
 }
 
-/// Axis order: x (east, longitude) first. Null for none.
+/// The system with the axis order x (east, longitude) first; null if there is none.
 SystemPtr systemOf(const SystemInfo &info)
 {
     SystemPtr system = std::make_unique<OGRSpatialReference>();

@@ -8,12 +8,12 @@ class OGRSpatialReference;
 
 namespace vlt::geodata {
 
-/// What is shown of a coordinate system; null for none.
+/// The properties of a coordinate system that are shown.
 SystemInfo systemInfo(const OGRSpatialReference *system);
 
-/// An extent as another system sees it.
+/// Transforms an extent to another system.
 ///
-/// @return  nothing where a system is not known or there is no way between the two
+/// @return  none if a system is not known or there is no transformation between the two
 std::optional<Extent> extentIn(const SystemInfo &to, const Extent &extent, const SystemInfo &from);
 
 } // namespace vlt::geodata

@@ -9,7 +9,7 @@ namespace vlt::geodata {
 
 namespace {
 
-/// The reason without the table's path at its start: who shows it names the file himself.
+/// The reason without the table's path at its start: messages name the file separately.
 QString withoutPath(const QString &reason, const QString &connection)
 {
     const QLatin1String mark(": ");
@@ -27,7 +27,7 @@ Result<GDALDatasetUniquePtr> openTable(const QString &connection, const ErrorCol
     if (!contract::connectionKind(connection.toStdString()))
         return Error{QString(), QStringLiteral("not a site or link table"), connection};
 
-    // The path at the end has the file system's encoding; the options before it are ASCII.
+    // The path at the end is in the file system's encoding; the options before it are ASCII.
     GDALDatasetUniquePtr dataset(
         GDALDataset::Open(QFile::encodeName(connection).constData(), GDAL_OF_VECTOR));
     if (!dataset) {

@@ -9,7 +9,7 @@
 namespace vlt::geodata {
 
 /// Opens a table connection ("site:..." or "link:...") for reading. Other names are refused before
-/// any driver sees them, so that no text out of a user's file reaches a driver that would open a
+/// any driver gets them, so that no text from a user's file reaches a driver that would open a
 /// network connection.
 ///
 /// @par Errors   the driver's reason, without the path, as detail.
