@@ -33,14 +33,14 @@ CommandLine readCommandLine(const QStringList &arguments)
         else if (isOver || !argument.startsWith(QLatin1Char('-')))
             files << argument;
         else if (asksFor(argument, "--help", "-h"))
-            line.wish = CommandLine::Wish::Help;
+            line.action = CommandLine::Action::Help;
         else if (asksFor(argument, "--version", "-v"))
-            line.wish = CommandLine::Wish::Version;
-        else if (line.mistake.isEmpty())
-            line.mistake = unknownOption(argument);
+            line.action = CommandLine::Action::Version;
+        else if (line.error.isEmpty())
+            line.error = unknownOption(argument);
     }
-    if (files.size() > 1 && line.mistake.isEmpty())
-        line.mistake = dico_label("MESS_APP_ONE_FILE", "more than one file is named");
+    if (files.size() > 1 && line.error.isEmpty())
+        line.error = dico_label("MESS_APP_ONE_FILE", "more than one file is named");
     line.file = files.value(0);
     return line;
 }

@@ -5,27 +5,27 @@
 
 namespace vlt::app {
 
-/// What the wizard's command line asks for.
+/// The contents of the wizard's command line.
 struct CommandLine
 {
-    enum class Wish { Window, Help, Version };
+    enum class Action { Window, Help, Version };
 
-    Wish wish = Wish::Window;
-    QString file;    ///< to open in the window; empty for none
-    QString mistake; ///< why the line cannot be used, in the chosen language; else empty
+    Action action = Action::Window;
+    QString file;  ///< to open in the window; empty for none
+    QString error; ///< reason why the line is refused, in the chosen language; empty if it is not
 };
 
-/// Reads what the toolkit left of the command line: it takes its own options away, among them
-/// -stylesheet. "--" ends the options.
+/// Reads the arguments that the toolkit does not use itself; it removes its own options, for
+/// example -stylesheet. "--" ends the options.
 ///
 /// @param arguments  without the program's name
 CommandLine readCommandLine(const QStringList &arguments);
 
-/// Whether the line asks for a text only: that needs no display. The toolkit's own options may
-/// still be there.
+/// Whether the command line only requests a text (help or version), which needs no display. The
+/// arguments may still include the toolkit's options.
 bool asksForText(const QStringList &arguments);
 
-/// What --help prints, in the chosen language.
+/// The text for --help, in the chosen language.
 QString helpText();
 
 } // namespace vlt::app

@@ -11,8 +11,8 @@ namespace vlt::app {
 namespace {
 
 std::function<QString(const QString &)> explainEnd;
-QStringList said;
-QString reason; ///< the first thing that was said of displays
+QStringList messages;
+QString reason; ///< the first message about displays
 bool isExplaining = false;
 
 void print(const QString &line)
@@ -22,10 +22,10 @@ void print(const QString &line)
 
 void keepOrEnd(QtMsgType type, const QMessageLogContext &context, const QString &text)
 {
-    if (isExplaining) // the application object is half made: it may have more to say
+    if (isExplaining) // the application object, only partly created, may send more messages
         return;
     if (type != QtFatalMsg) {
-        said << text;
+        messages << text;
         if (reason.isEmpty() && QLatin1String(context.category).startsWith(QLatin1String("qt.qpa")))
             reason = text.trimmed();
         return;
@@ -47,9 +47,9 @@ DisplayGuard::DisplayGuard(std::function<QString(const QString &)> explain)
 DisplayGuard::~DisplayGuard()
 {
     qInstallMessageHandler(nullptr);
-    for (const QString &line : std::as_const(said))
+    for (const QString &line : std::as_const(messages))
         print(line);
-    said.clear();
+    messages.clear();
 }
 
 } // namespace vlt::app

@@ -6,16 +6,16 @@
 
 namespace vlt::app {
 
-/// While it lives, the toolkit's end for want of a display is an ordinary one: one line on the
-/// error output and exit status 1, instead of an abort. For the time in which the application
-/// object is made; there is at most one.
+/// Makes the program end with one line on the error output and exit status 1, instead of an abort,
+/// if the toolkit finds no display. To exist while the application object is created; only one at a
+/// time.
 class DisplayGuard
 {
 public:
-    /// @param explain  the line that is printed, from the toolkit's own reason, which may be empty
+    /// @param explain  makes the printed line from the toolkit's reason, which may be empty
     explicit DisplayGuard(std::function<QString(const QString &)> explain);
 
-    /// Prints what the toolkit said meanwhile.
+    /// Prints the toolkit's messages of the meantime.
     ~DisplayGuard();
 
     DisplayGuard(const DisplayGuard &) = delete;

@@ -17,7 +17,7 @@ EnvironmentValues geodataEnvironment(const QString &installDir, platform::PathSt
     const QChar listMark = platform::listSeparator(style);
 
     QByteArray path = QFile::encodeName(installDir);
-    // in a POSIX list an empty last entry would stand for the working directory
+    // in a POSIX list, an empty last entry would mean the working directory
     if (!previousPath.isEmpty() || style == platform::PathStyle::Windows)
         path += QString(listMark).toLatin1() + previousPath;
     const QByteArray drivers =

@@ -12,7 +12,7 @@ namespace vlt::app {
 
 namespace {
 
-// Newer versions of the library no longer have the driver that is left out, and warn of it at every
+// Newer versions of the library do not have the excluded driver and warn about its name at each
 // start.
 void CPL_STDCALL dropSkipWarning(CPLErr severity, CPLErrorNum number, const char *text)
 {

@@ -4,12 +4,12 @@
 
 namespace vlt::app {
 
-/// Registers every driver of the geodata library but SEGY, with the plug-ins of the driver path,
-/// and takes the network's file systems away from it; to be called once, after the environment is
-/// exported.
+/// Registers all drivers of the geodata library except SEGY, including the plug-ins of the driver
+/// path, and removes the library's network file systems. To be called once, after the environment
+/// is exported.
 void registerGeodataDrivers();
 
-/// One line for each dataset that the geodata library still holds open, counted from 1:
+/// A line for each dataset that is still open in the geodata library, numbered from 1:
 /// "Open Dataset 1/2 : <description>".
 QStringList listOpenDatasets();
 

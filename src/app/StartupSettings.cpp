@@ -12,7 +12,7 @@ namespace vlt::app {
 
 namespace {
 
-/// What the ini file says: values and, where they lie elsewhere, references "application/key".
+/// Contents of the ini file: values, or references "application/key" to values elsewhere.
 struct IniSettings
 {
     StartupSettings values;
@@ -37,19 +37,19 @@ IniSettings readIniSettings(const platform::IniFile &ini, const QString &executa
         found.languageReference = ini.value(references, QStringLiteral("VltRegKey_Language"));
 
     found.values.installDir = ini.value(direct, QStringLiteral("INSTALL_DIR"));
-    if (QDir::isRelativePath(found.values.installDir)) // an empty one too
+    if (QDir::isRelativePath(found.values.installDir)) // also if it is empty
         found.values.installDir = executableDir;
     if (found.values.installDir.isEmpty())
         found.installDirReference = ini.value(references, QStringLiteral("VltRegKey_InstallDir"));
 
-    // VltRegKey_MessagesDir is not followed: without MESSAGES_DIR the fallback holds
+    // VltRegKey_MessagesDir is not used: without MESSAGES_DIR there is the default
     if (wantMessagesDir)
         found.values.messagesDir = ini.value(direct, QStringLiteral("MESSAGES_DIR"));
     return found;
 }
 
-/// Value behind a reference: application name up to the first "/", then the key, which may hold
-/// more of them.
+/// The value of a reference: the name of the application, "/" and the key, which may also contain
+/// "/".
 QString referencedValue(const QString &reference, const QString &defaultValue)
 {
     const QString application = reference.section(QLatin1Char('/'), 0, 0);

@@ -5,26 +5,25 @@
 
 namespace vlt::app {
 
-/// What is worked out once, before anything else runs.
+/// Settings that are determined once at the start.
 struct StartupSettings
 {
-    QString language;    ///< as the language manager understands it: "FRENCH", "fr" ...
+    QString language;    ///< in a form that the language manager accepts: "FRENCH", "fr" ...
     QString installDir;  ///< root of addons/, driver/, share/
-    QString messagesDir; ///< relative to installDir; empty unless it was asked for
+    QString messagesDir; ///< relative to installDir; empty unless requested
 };
 
-/// The environment ini file of an executable: its path, less ".exe" in any case, followed by
-/// "_env.ini"; where that file does not exist, "setup_env.ini" in the executable's directory,
-/// whether or not that one exists.
+/// The environment ini file of an executable: its path without ".exe" (in upper or lower case),
+/// followed by "_env.ini". If that file does not exist, "setup_env.ini" in the directory of the
+/// executable, even if that one does not exist either.
 QString environmentIniPath(const QString &executablePath);
 
 /// FRENCH for a French locale, ENGLISH for any other.
 QString systemLanguage(const QLocale &locale);
 
-/// Reads the start-up settings from the environment ini file and the per-user settings it refers
-/// to, and exports VLT_BIN_HOME = installDir to the process environment. Whatever is missing takes
-/// its fallback: the system's language, the executable's directory, "MESSAGES"; nothing is
-/// reported.
+/// Reads the start-up settings from the environment ini file and from the user's settings to which
+/// it refers, and sets VLT_BIN_HOME = installDir in the process environment. Missing values have
+/// defaults, without a report: the system's language, the executable's directory, "MESSAGES".
 ///
 /// @param executablePath   full path of the running program
 /// @param wantMessagesDir  whether to fill messagesDir

@@ -43,7 +43,7 @@ void installToolkitTexts(const QString &languageCode)
     QCoreApplication *application = QCoreApplication::instance();
     QCoreApplication::installTranslator(new ToolkitTexts(application));
 
-    // the one installed last is asked first
+    // the translator that was installed last has priority
     auto *own = new QTranslator(application);
     if (own->load(QStringLiteral("qtbase_") + languageCode,
                   QLibraryInfo::path(QLibraryInfo::TranslationsPath)))

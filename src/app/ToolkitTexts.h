@@ -4,8 +4,8 @@
 
 namespace vlt::app {
 
-/// Answers the lookups of Qt's standard buttons ("&Yes", "Cancel" ...) from the dictionaries, so
-/// that boxes speak the chosen language on systems without Qt's own translations, too.
+/// Translates the texts of Qt's standard buttons ("&Yes", "Cancel" ...) with the dictionaries, so
+/// that message boxes are in the chosen language also on systems without Qt's translations.
 class ToolkitTexts : public QTranslator
 {
 public:
@@ -14,12 +14,13 @@ public:
     QString translate(const char *context, const char *sourceText, const char *disambiguation,
                       int n) const override;
 
-    /// Never: Qt leaves translators out that say they are empty.
+    /// Always false: Qt does not use an empty translator.
     bool isEmpty() const override { return false; }
 };
 
-/// Has Qt's own texts translated: by Qt's translations where the system has them for the language,
-/// else by ToolkitTexts. Needs the application object; to be called once, after loadMessages().
+/// Installs the translation of Qt's own texts: Qt's translation if the system has it for the
+/// language, else ToolkitTexts. Needs the application object; to be called once, after
+/// loadMessages().
 ///
 /// @param languageCode  "fr", "en" ...
 void installToolkitTexts(const QString &languageCode);

@@ -37,7 +37,7 @@ bool asksForStyleSheet(int argc, char **argv)
     return false;
 }
 
-/// Without the program's name.
+/// The arguments without the name of the program.
 QStringList textsOf(int argc, char **argv)
 {
     QStringList texts;
@@ -48,7 +48,7 @@ QStringList textsOf(int argc, char **argv)
 
 void setAppearance(QApplication &application, bool keepStyle)
 {
-    registerResources(); // the style sheets are among them
+    registerResources(); // they include the style sheets
     if (!keepStyle)
         QApplication::setStyle(QStringLiteral("Fusion"));
     application.setStyleSheet(app::startupStyleSheet(application.styleSheet()));
@@ -69,7 +69,7 @@ void setUpLanguage(const QString &installDir, const app::StartupSettings &settin
     app::loadMessages(installDir, settings.messagesDir, settings.language);
     const VltLanguageManager &manager = VltLanguageManager::getInstance();
     app::installToolkitTexts(manager.getCurrentLanguage().text);
-    // numbers and dates as the language of the texts writes them
+    // numbers and dates in the format of the language of the texts
     const QLocale spoken(manager.getCurrentLanguage().text);
     if (QLocale().language() != spoken.language())
         QLocale::setDefault(spoken);
@@ -82,7 +82,7 @@ void print(std::FILE *to, const QString &line)
     std::fprintf(to, "%s\n", line.toLocal8Bit().constData());
 }
 
-/// Help or version, for which no window is opened.
+/// Prints the help or the version without opening a window.
 int printText(int &argc, char **argv)
 {
     const QCoreApplication application(argc, argv);
@@ -90,13 +90,13 @@ int printText(int &argc, char **argv)
         app::resolveStartupSettings(QCoreApplication::applicationFilePath(), true);
     app::loadTexts(settings.installDir, settings.messagesDir, settings.language);
     const app::CommandLine line = app::readCommandLine(QCoreApplication::arguments().mid(1));
-    print(stdout, line.wish == app::CommandLine::Wish::Version
+    print(stdout, line.action == app::CommandLine::Action::Version
                       ? QStringLiteral("VltTelecomLayers " VLT_VERSION)
                       : app::helpText());
     return 0;
 }
 
-/// @param reason  the toolkit's, may be empty
+/// @param reason  given by the toolkit; may be empty
 QString noDisplayText(const QString &reason)
 {
     const app::StartupSettings settings =
@@ -115,9 +115,9 @@ std::unique_ptr<QApplication> makeApplication(int &argc, char **argv)
     return std::make_unique<QApplication>(argc, argv);
 }
 
-int refuse(const QString &mistake)
+int refuse(const QString &error)
 {
-    print(stderr, QStringLiteral("VltTelecomLayers: ") + mistake);
+    print(stderr, QStringLiteral("VltTelecomLayers: ") + error);
     print(stderr, dico_label("MESS_APP_TRY_HELP", "try 'VltTelecomLayers --help'"));
     return 2;
 }
@@ -139,9 +139,9 @@ int main(int argc, char **argv)
 {
     if (app::asksForText(textsOf(argc, argv)))
         return printText(argc, argv);
-    const bool styleSheetGiven = asksForStyleSheet(argc, argv); // Qt takes the option away
+    const bool styleSheetGiven = asksForStyleSheet(argc, argv); // Qt removes the option
     const std::unique_ptr<QApplication> application = makeApplication(argc, argv);
-    // The application object takes the whole of the user's locale; numbers keep the C one.
+    // The application object sets the user's locale for the process; numbers need that of C.
     std::setlocale(LC_NUMERIC, "C");
     setAppearance(*application, styleSheetGiven);
     setIdentity();
@@ -150,20 +150,20 @@ int main(int argc, char **argv)
         app::resolveStartupSettings(QCoreApplication::applicationFilePath(), true);
     const QString installDir = QFileInfo(settings.installDir).absoluteFilePath();
     setUpLanguage(installDir, settings);
-    const app::CommandLine wish = app::readCommandLine(QCoreApplication::arguments().mid(1));
-    if (!wish.mistake.isEmpty())
-        return refuse(wish.mistake);
+    const app::CommandLine line = app::readCommandLine(QCoreApplication::arguments().mid(1));
+    if (!line.error.isEmpty())
+        return refuse(line.error);
 
     app::exportGeodataEnvironment(installDir, platform::nativePathStyle(), stdout);
     std::fflush(stdout);
     app::registerGeodataDrivers();
 
-    const int result = runWizard(installDir, wish.file);
-    if (wizard::isWorkRunning()) { // a read that the user gave up; it would be torn apart below
+    const int result = runWizard(installDir, line.file);
+    if (wizard::isWorkRunning()) { // a cancelled read still uses what is destroyed below
         std::fflush(nullptr);
         std::_Exit(result);
     }
-    for (const QString &line : app::listOpenDatasets())
-        qDebug().noquote() << line;
+    for (const QString &dataset : app::listOpenDatasets())
+        qDebug().noquote() << dataset;
     return result;
 }
