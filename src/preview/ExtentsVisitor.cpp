@@ -32,9 +32,9 @@ void ExtentsVisitor::apply(osg::Transform &transform)
 
 void ExtentsVisitor::apply(osg::Drawable &drawable)
 {
-    if (dynamic_cast<const osgText::TextBase *>(&drawable)) // as large as the screen wants it
+    if (dynamic_cast<const osgText::TextBase *>(&drawable)) // its size is constant on the screen
         return;
-    // not getBoundingBox(): it may be widened for culling
+    // not getBoundingBox(), which may be larger for culling
     const osg::BoundingBox box = drawable.computeBoundingBox();
     for (unsigned corner = 0; box.valid() && corner < 8; ++corner)
         m_extents.expandBy(box.corner(corner) * m_matrices.back());

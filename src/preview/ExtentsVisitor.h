@@ -6,9 +6,9 @@
 
 #include <vector>
 
-/// Walks a scene and finds the extents of what is drawn, in the frame of the node that it is given
-/// to, in metres. Of levels of detail all are counted; what makes its content when drawn counts
-/// with its bound.
+/// Finds the extents of the visible geometry of a scene in metres, in the frame of the node that
+/// accepts the visitor. All levels of detail count. A node that creates its content only when drawn
+/// counts with its bound.
 class ExtentsVisitor : public osg::NodeVisitor
 {
 public:

@@ -8,10 +8,10 @@
 
 namespace {
 
-class LeastEnd : public osg::NodeVisitor
+class NearestLimit : public osg::NodeVisitor
 {
 public:
-    LeastEnd() : osg::NodeVisitor(TRAVERSE_ALL_CHILDREN) {}
+    NearestLimit() : osg::NodeVisitor(TRAVERSE_ALL_CHILDREN) {}
 
     void apply(osg::LOD &levels) override
     {
@@ -34,7 +34,7 @@ private:
 
 double visibleDistanceM(osg::Node &scene)
 {
-    LeastEnd end;
-    scene.accept(end);
-    return end.distanceM();
+    NearestLimit nearest;
+    scene.accept(nearest);
+    return nearest.distanceM();
 }

@@ -2,8 +2,8 @@
 
 #include <osg/Node>
 
-/// Distance of the eye, in metres, within which everything of a scene is drawn at its best: the
-/// least end of its levels of detail. Where buildings have images up to some distance and plain
-/// colours beyond it, that of the images. Levels by size on the screen do not count. Infinity where
-/// there are none.
+/// Maximum distance of the camera in metres at which a whole scene is drawn in full detail: the
+/// smallest far limit of its levels of detail. For buildings with images up to some distance and
+/// plain colours beyond it, the distance of the images. Levels by size on the screen do not count.
+/// Infinity without levels of detail.
 double visibleDistanceM(osg::Node &scene);

@@ -10,7 +10,7 @@ VltPreviewPane::VltPreviewPane(QWidget *parent) : QWidget(parent)
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     if (W_simpleOSGViewer::isAvailable()) {
-        m_viewer = new W_simpleOSGViewer(W_simpleOSGViewer::usualFormat(), this);
+        m_viewer = new W_simpleOSGViewer(W_simpleOSGViewer::defaultFormat(), this);
         m_viewer->setObjectName(QStringLiteral("m_pwViewer"));
         m_viewer->setAccessibleName(tr("3D preview", "MESS_3D_PREVIEW"));
         m_viewer->setToolTip(tr("Drag to turn, middle button to move, wheel to come nearer; left "
@@ -41,16 +41,16 @@ void VltPreviewPane::placeCamera(double distanceM, double heightM)
         m_viewer->placeCamera(distanceM, heightM);
 }
 
-void VltPreviewPane::lookAtMiddle(double leastM)
+void VltPreviewPane::lookAtMiddle(double minDistanceM)
 {
     if (m_viewer)
-        m_viewer->lookAtMiddle(leastM);
+        m_viewer->lookAtMiddle(minDistanceM);
 }
 
-void VltPreviewPane::setFarthestM(double farthestM)
+void VltPreviewPane::setMaxDistanceM(double maxDistanceM)
 {
     if (m_viewer)
-        m_viewer->setFarthestM(farthestM);
+        m_viewer->setMaxDistanceM(maxDistanceM);
 }
 
 void VltPreviewPane::setElevationDeg(double elevationDeg)

@@ -6,8 +6,8 @@
 
 class W_simpleOSGViewer;
 
-/// The frame in which a page previews scenes: a 3D view, or a sentence where the system has none.
-/// Pages work the same with both.
+/// The frame for the preview of scenes on a page: a 3D view, or a text if the system does not
+/// support one. Pages use both in the same manner.
 class VltPreviewPane : public QWidget
 {
     Q_OBJECT
@@ -18,23 +18,24 @@ public:
     /// Whether there is a 3D view.
     bool hasView() const { return m_viewer != nullptr; }
 
-    /// Replaces the scene. The first one also places the camera on the whole of it.
+    /// Replaces the scene. For the first one, the camera then shows the whole scene.
     void showScene(osg::Node *scene);
 
     /// Looks at the point `heightM` above the origin from `distanceM` metres.
     void placeCamera(double distanceM, double heightM);
 
-    /// Looks at the middle of the scene, from `leastM` metres or as far as the whole needs.
-    void lookAtMiddle(double leastM);
+    /// Looks at the centre of the scene from the distance at which it is visible as a whole, but at
+    /// least from `minDistanceM`.
+    void lookAtMiddle(double minDistanceM);
 
-    /// From how far centerView() looks at most.
-    void setFarthestM(double farthestM);
+    /// Sets the maximum distance of the camera for centerView().
+    void setMaxDistanceM(double maxDistanceM);
 
-    /// How high centerView() puts the eye, in degrees above the horizon, whatever the scene's
-    /// shape.
+    /// Sets the elevation of the camera above the horizon for centerView(), in degrees. Without it,
+    /// the elevation depends on the shape of the scene.
     void setElevationDeg(double elevationDeg);
 
-    /// The camera on the whole scene.
+    /// Shows the whole scene.
     void centerView();
 
     QSize sizeHint() const override;

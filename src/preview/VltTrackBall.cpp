@@ -5,34 +5,34 @@
 
 namespace {
 
-const double DemoTurnPerSecond = osg::PI / 9; // 18 s for a whole turn
-constexpr double LongestStepS = 0.1;          // a hidden view does not jump when it comes back
-constexpr double SouthWestDeg = 215.5;        // azimuth of the eye
-constexpr double NearestM = 0.5;
-constexpr double FarthestM = 1e8;
+const double DemoTurnPerSecond = osg::PI / 9; // a turn takes 18 s
+constexpr double MaxStepS = 0.1; // otherwise a hidden view would jump when it is visible again
+constexpr double SouthWestDeg = 215.5; // azimuth of the camera
+constexpr double MinDistanceM = 0.5;
+constexpr double MaxDistanceM = 1e8;
 constexpr double ZoomPerNotch = 0.12;
-constexpr double Notch = 120; // an eighth of a degree each
+constexpr double Notch = 120; // one notch of the wheel, in eighths of a degree
 
 } // namespace
 
 VltTrackBall::VltTrackBall()
 {
-    setAllowThrow(false); // the scene stands still when the mouse is let go
+    setAllowThrow(false); // the scene stops when the mouse button is released
     setVerticalAxisFixed(true);
 }
 
-void VltTrackBall::lookAt(const osg::Vec3d &center, double distance, double elevationDeg)
+void VltTrackBall::lookAt(const osg::Vec3d &center, double distanceM, double elevationDeg)
 {
     const double azimuth = osg::DegreesToRadians(SouthWestDeg);
     const double elevation = osg::DegreesToRadians(elevationDeg);
     const osg::Vec3d direction(std::sin(azimuth) * std::cos(elevation),
                                std::cos(azimuth) * std::cos(elevation), std::sin(elevation));
-    setTransformation(center + direction * distance, center, osg::Z_AXIS);
+    setTransformation(center + direction * distanceM, center, osg::Z_AXIS);
 }
 
 void VltTrackBall::zoomBy(double factor)
 {
-    setDistance(std::clamp(getDistance() * factor, NearestM, FarthestM));
+    setDistance(std::clamp(getDistance() * factor, MinDistanceM, MaxDistanceM));
 }
 
 bool VltTrackBall::handleMouseWheel(const osgGA::GUIEventAdapter &event,
@@ -48,7 +48,7 @@ bool VltTrackBall::handleMouseWheel(const osgGA::GUIEventAdapter &event,
 bool VltTrackBall::handleFrame(const osgGA::GUIEventAdapter &event, osgGA::GUIActionAdapter &view)
 {
     const double now = event.getTime();
-    const double step = m_lastFrameS < 0 ? 0 : std::clamp(now - m_lastFrameS, 0.0, LongestStepS);
+    const double step = m_lastFrameS < 0 ? 0 : std::clamp(now - m_lastFrameS, 0.0, MaxStepS);
     m_lastFrameS = now;
     if (m_isTurning) {
         setRotation(getRotation() * osg::Quat(DemoTurnPerSecond * step, osg::Z_AXIS));

@@ -2,8 +2,8 @@
 
 #include <osgGA/TrackballManipulator>
 
-/// A trackball that can turn the scene by itself, around the vertical through its centre, as a
-/// demonstration.
+/// A trackball that can also turn the scene automatically around the vertical axis through its
+/// centre, as a demonstration.
 class VltTrackBall : public osgGA::TrackballManipulator
 {
 public:
@@ -15,17 +15,19 @@ public:
 
     /// Looks at `center` from the south-west.
     ///
-    /// @param distance      metres from the eye to the centre
-    /// @param elevationDeg  degrees of the eye above the horizon
-    void lookAt(const osg::Vec3d &center, double distance, double elevationDeg = UsualElevationDeg);
+    /// @param distanceM     from the camera to the centre
+    /// @param elevationDeg  of the camera above the horizon
+    void lookAt(const osg::Vec3d &center, double distanceM,
+                double elevationDeg = DefaultElevationDeg);
 
-    static constexpr double UsualElevationDeg = 18;
+    static constexpr double DefaultElevationDeg = 18;
 
-    /// Goes so many times as far from the centre, within sensible limits.
+    /// Multiplies the distance from the centre by `factor`, within limits.
     void zoomBy(double factor);
 
 protected:
-    /// Takes scrolls in two dimensions, which the library's own leaves alone: up comes nearer.
+    /// Handles scroll events in two dimensions, which the library's function ignores; up moves
+    /// closer.
     bool handleMouseWheel(const osgGA::GUIEventAdapter &event,
                           osgGA::GUIActionAdapter &view) override;
     bool handleFrame(const osgGA::GUIEventAdapter &event, osgGA::GUIActionAdapter &view) override;

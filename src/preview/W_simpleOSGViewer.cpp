@@ -16,16 +16,17 @@
 namespace {
 
 constexpr int RefreshMs = 10;
-/// What a frame asks for, such as another level of detail, shows in those that follow.
+/// Number of frames after a change: what one frame requests, such as another level of detail, is
+/// visible only in the next ones.
 constexpr int SettlingFrames = 3;
 constexpr int DepthBits = 24;
 constexpr int SamplesPerPixel = 4;
-constexpr double ClickTolerance = 4; ///< pixels that the mouse may move in a click
-constexpr double LeastRadiusM = 20;  // of what is looked at: a lone site is but a point at first
+constexpr double ClickTolerance = 4; ///< maximum movement of the mouse in a click, in pixels
+constexpr double MinRadiusM = 20;    ///< of the visible part: a single site has no extent at first
 constexpr double FlatShare = 0.2;
 constexpr double FlatElevationDeg = 50;
-constexpr double Margin = 1.15; ///< room around a centred node
-const osg::Vec4 SkyColour(0.2F, 0.4F, 0.8F, 1.0F);
+constexpr double Margin = 1.15; ///< factor for the space around a centred node
+const osg::Vec4 SkyColor(0.2F, 0.4F, 0.8F, 1.0F);
 
 unsigned buttonNumber(Qt::MouseButton button)
 {
@@ -43,7 +44,7 @@ unsigned buttonNumber(Qt::MouseButton button)
 
 } // namespace
 
-QSurfaceFormat W_simpleOSGViewer::usualFormat()
+QSurfaceFormat W_simpleOSGViewer::defaultFormat()
 {
     QSurfaceFormat format;
     format.setVersion(2, 1);
@@ -56,15 +57,15 @@ QSurfaceFormat W_simpleOSGViewer::usualFormat()
 bool W_simpleOSGViewer::isAvailable()
 {
     static const bool available = [] {
-        // these platforms end the program as soon as an OpenGL widget is shown
+        // on these platforms the program ends when an OpenGL widget is shown
         const QString platform = QGuiApplication::platformName();
         if (platform == QLatin1String("offscreen") ||
             platform.startsWith(QLatin1String("minimal")) || platform == QLatin1String("vnc"))
             return false;
         QOpenGLContext context;
-        context.setFormat(usualFormat());
+        context.setFormat(defaultFormat());
         QOffscreenSurface surface;
-        surface.setFormat(usualFormat());
+        surface.setFormat(defaultFormat());
         surface.create();
         return context.create() && context.makeCurrent(&surface);
     }();
@@ -76,12 +77,12 @@ W_simpleOSGViewer::W_simpleOSGViewer(const QSurfaceFormat &format, QWidget *pare
     : QOpenGLWidget(parent, flags)
     , m_trackBall(new VltTrackBall)
 {
-    ref(); // owned by the parent widget: the scene library must never delete it
+    ref(); // the parent widget owns it, so the scene library must never delete it
     setFormat(format);
     setThreadingModel(SingleThreaded);
     setKeyEventSetsDone(0);
     setCameraManipulator(m_trackBall);
-    getCamera()->setClearColor(SkyColour);
+    getCamera()->setClearColor(SkyColor);
     makeGraphicsWindow(shareContext);
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
@@ -97,8 +98,8 @@ W_simpleOSGViewer::~W_simpleOSGViewer()
     m_refresh.stop();
     osg::State *state = m_graphicsWindow->getState();
     if (QOpenGLContext *current = QOpenGLWidget::context()) {
-        disconnect(current, nullptr, this,
-                   nullptr); // it tells of its end after the viewer's part is gone
+        // its signal of destruction would arrive when this object is partly destroyed
+        disconnect(current, nullptr, this, nullptr);
         QOpenGLWidget::makeCurrent();
         if (getSceneData())
             getSceneData()->releaseGLObjects(state);
@@ -106,8 +107,8 @@ W_simpleOSGViewer::~W_simpleOSGViewer()
         osg::flushAllDeletedGLObjects(state->getContextID());
         QOpenGLWidget::doneCurrent();
     }
-    // The viewer's part would ask for OpenGL's functions once more, with no context to ask: whoever
-    // gets the number of this context next would find none.
+    // The destructor of the viewer would look for OpenGL's functions without a context, and the
+    // next context with this number would then have no functions.
     const unsigned contextId = state->getContextID();
     osg::discardAllGLObjects(contextId);
     m_graphicsWindow->setState(nullptr);
@@ -138,7 +139,7 @@ void W_simpleOSGViewer::makeGraphicsWindow(osg::GraphicsContext *shareContext)
 void W_simpleOSGViewer::applySize(const QSize &pixels)
 {
     m_framesToDraw = SettlingFrames;
-    if (pixels.height() > 0) // it would make the projection infinitely wide
+    if (pixels.height() > 0) // a height of 0 would make the projection infinitely wide
         m_graphicsWindow->resized(0, 0, pixels.width(), pixels.height());
     events().windowResize(0, 0, pixels.width(), pixels.height());
     getCamera()->setViewport(0, 0, pixels.width(), pixels.height());
@@ -157,7 +158,8 @@ void W_simpleOSGViewer::applySize(const QSize &pixels)
 void W_simpleOSGViewer::initializeGL()
 {
     QOpenGLWidget::initializeGL();
-    // In another window the widget gets another context: what was made in the old one is gone.
+    // In another window the widget has another context, and the objects of the old one do not exist
+    // any more.
     if (m_wasInitialised) {
         if (getSceneData())
             getSceneData()->releaseGLObjects();
@@ -172,7 +174,7 @@ void W_simpleOSGViewer::resizeGL(int width, int height)
     applySize((QSizeF(width, height) * devicePixelRatioF()).toSize());
 }
 
-/// Whether the next picture may be another one.
+/// Whether the next frame may differ from the last one.
 bool W_simpleOSGViewer::needsFrame()
 {
     if (!isVisible())
@@ -189,7 +191,8 @@ void W_simpleOSGViewer::paintGL()
 {
     const osg::Viewport *viewport = getCamera()->getViewport();
     const QSize pixels = sizeInPixels();
-    if (QSizeF(viewport->width(), viewport->height()) != QSizeF(pixels)) // on a denser screen now
+    // after a change of the screen, the pixel density may be another one
+    if (QSizeF(viewport->width(), viewport->height()) != QSizeF(pixels))
         applySize(pixels);
     m_graphicsWindow->setDefaultFboId(defaultFramebufferObject());
     frame();
@@ -201,7 +204,7 @@ void W_simpleOSGViewer::paintGL()
 
 void W_simpleOSGViewer::showScene(osg::Node *scene)
 {
-    // without an own context the old scene's objects would be kept for good
+    // the graphics objects of the old scene can only be released in the context of this view
     if (osg::Node *old = getSceneData(); old && old != scene && QOpenGLWidget::context()) {
         QOpenGLWidget::makeCurrent();
         old->releaseGLObjects(m_graphicsWindow->getState());
@@ -211,7 +214,7 @@ void W_simpleOSGViewer::showScene(osg::Node *scene)
     osg::Vec3d center;
     osg::Vec3d up;
     m_trackBall->getTransformation(eye, center, up);
-    setSceneData(scene); // this takes the camera home
+    setSceneData(scene); // this moves the camera to its home position
     if (m_wasShown)
         m_trackBall->setTransformation(eye, center, up);
     else if (scene)
@@ -227,13 +230,13 @@ void W_simpleOSGViewer::placeCamera(double distanceM, double heightM)
     m_trackBall->lookAt(osg::Vec3d(0, 0, heightM), distanceM);
 }
 
-void W_simpleOSGViewer::lookAtMiddle(double leastM)
+void W_simpleOSGViewer::lookAtMiddle(double minDistanceM)
 {
     const osg::BoundingBox box = extentsOf(getSceneData());
     if (!box.valid())
         return;
     m_isUserCamera = true;
-    m_trackBall->lookAt(box.center(), std::max(leastM, distanceToSee(box)));
+    m_trackBall->lookAt(box.center(), std::max(minDistanceM, distanceToSee(box)));
 }
 
 void W_simpleOSGViewer::centerView()
@@ -241,14 +244,14 @@ void W_simpleOSGViewer::centerView()
     centerView(getSceneData());
 }
 
-/// In the scene's own coordinates; not valid for a null or empty node.
+/// Extents of a node in the coordinates of the scene; not valid for a null or empty node.
 osg::BoundingBox W_simpleOSGViewer::extentsOf(osg::Node *node)
 {
     if (!node)
         return {};
     ExtentsVisitor visitor;
     node->accept(visitor);
-    osg::Matrix toScene; // the visitor counted the node's own matrix already
+    osg::Matrix toScene; // without the matrix of the node, which the visitor has applied
     if (osg::NodePathList paths = node->getParentalNodePaths(getSceneData()); !paths.empty()) {
         paths.front().pop_back();
         toScene = osg::computeLocalToWorld(paths.front());
@@ -259,7 +262,7 @@ osg::BoundingBox W_simpleOSGViewer::extentsOf(osg::Node *node)
     return box;
 }
 
-/// From which the whole of a box is in view.
+/// Distance in metres from which a whole box is visible.
 double W_simpleOSGViewer::distanceToSee(const osg::BoundingBox &box) const
 {
     double fieldOfView = 30;
@@ -268,7 +271,7 @@ double W_simpleOSGViewer::distanceToSee(const osg::BoundingBox &box) const
     double farPlane = 0;
     getCamera()->getProjectionMatrixAsPerspective(fieldOfView, aspect, nearPlane, farPlane);
     const double half = osg::DegreesToRadians(fieldOfView) / 2 * std::min(aspect, 1.0);
-    const double radius = std::max<double>(box.radius(), LeastRadiusM);
+    const double radius = std::max<double>(box.radius(), MinRadiusM);
     return Margin * radius / std::sin(half);
 }
 
@@ -278,11 +281,11 @@ void W_simpleOSGViewer::centerView(osg::Node *node)
     if (!box.valid())
         return;
     m_isUserCamera = true;
-    // a flat scene, such as the sites of a town, is seen best from higher up
+    // a flat scene, such as the sites of a town, needs a higher camera
     const bool isFlat = box.zMax() - box.zMin() < FlatShare * box.radius();
-    const double usualDeg = isFlat ? FlatElevationDeg : VltTrackBall::UsualElevationDeg;
-    m_trackBall->lookAt(box.center(), std::min(m_farthestM, distanceToSee(box)),
-                        m_elevationDeg.value_or(usualDeg));
+    const double defaultDeg = isFlat ? FlatElevationDeg : VltTrackBall::DefaultElevationDeg;
+    m_trackBall->lookAt(box.center(), std::min(m_maxDistanceM, distanceToSee(box)),
+                        m_elevationDeg.value_or(defaultDeg));
 }
 
 void W_simpleOSGViewer::startDemo()
@@ -343,7 +346,7 @@ void W_simpleOSGViewer::wheelEvent(QWheelEvent *event)
     event->accept();
 }
 
-/// What the mouse does, for who has none.
+/// Turns and zooms with the keyboard, as with the mouse.
 void W_simpleOSGViewer::keyPressEvent(QKeyEvent *event)
 {
     const double turnStep = osg::PI / 36;
@@ -374,7 +377,7 @@ void W_simpleOSGViewer::keyPressEvent(QKeyEvent *event)
 
 void W_simpleOSGViewer::pick(const QPointF &position)
 {
-    // pixels of the viewport count upwards
+    // in the viewport, y increases upwards
     const double y = getCamera()->getViewport()->height() - position.y();
     osg::ref_ptr<osgUtil::LineSegmentIntersector> line =
         new osgUtil::LineSegmentIntersector(osgUtil::Intersector::WINDOW, position.x(), y);

@@ -15,14 +15,14 @@
 
 class VltTrackBall;
 
-/// A small 3D view: an OpenGL widget that is at the same time a scene viewer. It draws the scene
-/// that a page hands it as scene data, and moves the camera by a trackball.
+/// A small 3D view: an OpenGL widget and a scene viewer in one object. It draws the scene of a page
+/// and moves the camera with a trackball.
 ///
-/// A timer looks a hundred times a second whether another picture is due: the scene or the camera
-/// is another one, there are events, the scene animates itself or has loaded something. A change
-/// within a scene that says nothing of itself is to be told by requestRedraw().
+/// A timer checks a hundred times a second whether a new frame is necessary: another scene or
+/// camera, events, an animation, or content that was loaded. Any other change inside a scene needs
+/// a call of requestRedraw().
 ///
-/// Everything happens on the thread of the interface. The widget is owned by its parent.
+/// All work is done in the thread of the interface. The parent owns the widget.
 // NOLINTNEXTLINE(readability-identifier-naming): the widget's established name
 class W_simpleOSGViewer : public QOpenGLWidget, public osgViewer::Viewer
 {
@@ -30,55 +30,57 @@ class W_simpleOSGViewer : public QOpenGLWidget, public osgViewer::Viewer
 
 public:
     /// @param shareContext  scene context to share objects with; may be null
-    explicit W_simpleOSGViewer(const QSurfaceFormat &format = usualFormat(),
+    explicit W_simpleOSGViewer(const QSurfaceFormat &format = defaultFormat(),
                                QWidget *parent = nullptr,
                                osg::GraphicsContext *shareContext = nullptr,
                                Qt::WindowFlags flags = {});
     ~W_simpleOSGViewer() override;
 
-    /// Compatibility profile, depth buffer, four samples a pixel.
-    static QSurfaceFormat usualFormat();
+    /// Compatibility profile, depth buffer, four samples per pixel.
+    static QSurfaceFormat defaultFormat();
 
-    /// Whether this system can show such a widget; where it cannot, none may be made.
+    /// Whether this system supports such a widget. If not, no object may be created.
     static bool isAvailable();
 
-    /// Replaces the scene; the first one that is shown also places the camera on the whole of it.
+    /// Replaces the scene. For the first one, the camera then shows the whole scene.
     void showScene(osg::Node *scene);
 
     /// Looks at the point `heightM` above the origin from `distanceM` metres.
     void placeCamera(double distanceM, double heightM);
 
-    /// Looks at the middle of the whole scene, from `leastM` metres or as far as it needs.
-    void lookAtMiddle(double leastM);
+    /// Looks at the centre of the scene from the distance at which it is visible as a whole, but at
+    /// least from `minDistanceM`.
+    void lookAtMiddle(double minDistanceM);
 
-    /// From how far centerView() looks at most: scenes may draw nothing that is farther away.
-    void setFarthestM(double farthestM) { m_farthestM = farthestM; }
+    /// Sets the maximum distance of the camera for centerView(), because scenes may not be drawn
+    /// from a larger one.
+    void setMaxDistanceM(double maxDistanceM) { m_maxDistanceM = maxDistanceM; }
 
-    /// How high centerView() puts the eye, in degrees above the horizon, whatever the scene's
-    /// shape.
+    /// Sets the elevation of the camera above the horizon for centerView(), in degrees. Without it,
+    /// the elevation depends on the shape of the scene.
     void setElevationDeg(double elevationDeg) { m_elevationDeg = elevationDeg; }
 
-    /// Detail that the view can show, from its height in pixels and the camera's distance; 10 until
-    /// a frame was drawn.
+    /// Height of the view in pixels divided by the distance of the camera; 10 before the first
+    /// frame.
     double levelOfDetail() const { return m_levelOfDetail; }
 
 public Q_SLOTS:
-    /// The camera on the whole scene.
+    /// Shows the whole scene.
     void centerView();
-    /// The camera on a node of the scene.
+    /// Shows a node of the scene.
     void centerView(osg::Node *node);
     /// Turns the scene slowly until a mouse button is pressed.
     void startDemo();
     void stopDemo();
 
 Q_SIGNALS:
-    /// The mouse moved with no button pressed.
+    /// The mouse moved without a pressed button.
     // NOLINTBEGIN(readability-identifier-naming): established names of the signals
     void emitMouseMoved(QMouseEvent *event);
-    /// A button was pressed: a demonstration ends.
+    /// A mouse button was pressed, which ends a demonstration.
     void emitStopDemo();
-    /// The left button was clicked without a drag: what lies under the point, nearest first; empty
-    /// beside the scene.
+    /// The left button was clicked without a drag. `intersections` are the parts of the scene at
+    /// that point, nearest first; empty beside the scene.
     void emitSelection(osgUtil::LineSegmentIntersector::Intersections intersections);
     // NOLINTEND(readability-identifier-naming)
 
@@ -107,9 +109,9 @@ private:
     osg::ref_ptr<osgViewer::GraphicsWindowEmbedded> m_graphicsWindow;
     QTimer m_refresh;
     osg::ref_ptr<VltTrackBall> m_trackBall;
-    bool m_isUserCamera = true; ///< until the mouse takes the camera
+    bool m_isUserCamera = true; ///< false after the mouse moved the camera
     double m_levelOfDetail = 10;
-    double m_farthestM = std::numeric_limits<double>::infinity();
+    double m_maxDistanceM = std::numeric_limits<double>::infinity();
     std::optional<double> m_elevationDeg;
     bool m_wasInitialised = false;
     bool m_wasShown = false;

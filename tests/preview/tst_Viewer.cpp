@@ -132,12 +132,12 @@ private Q_SLOTS:
 
     void looksFromNoFartherThanItMay()
     {
-        m_viewer->setFarthestM(50);
+        m_viewer->setMaxDistanceM(50);
         m_viewer->showScene(ballAt({300, 200, 100}));
         waitForFrames();
         QVERIFY(std::abs((eye() - osg::Vec3d(300, 200, 100)).length() - 50) < 0.1);
 
-        m_viewer->setFarthestM(1e6);
+        m_viewer->setMaxDistanceM(1e6);
         m_viewer->centerView();
         waitForFrames();
         const double distanceM = (eye() - osg::Vec3d(300, 200, 100)).length();

@@ -146,7 +146,7 @@ void VltBuildingPreview::showScene(const vlt::snapshot::Scene &scene, const QStr
     showMessage({});
     if (!scene)
         return;
-    m_ui->m_pwPreview->setFarthestM(NearShare * visibleDistanceM(*scene));
+    m_ui->m_pwPreview->setMaxDistanceM(NearShare * visibleDistanceM(*scene));
     const std::string place = fact(*scene, "centre");
     if (place != m_place)
         resetView();
