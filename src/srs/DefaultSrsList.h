@@ -4,13 +4,13 @@
 
 namespace vlt::srs {
 
-/// The systems that the installation offers, in the order of its ini file: "SrsCode_n" and
-/// "SrsShortName_n" of section VltDefaultSrs, n = 1, 2 ... The first n without a code ends the
-/// list.
+/// The default systems of the installation, in the order of its ini file: "SrsCode_n" and
+/// "SrsShortName_n" in the section VltDefaultSrs, n = 1, 2 ... The list ends at the first n without
+/// a code.
 class DefaultSrsList final : public SrsEntryList
 {
 public:
-    /// Reads the ini file; without one, the list is empty.
+    /// Reads the ini file; if it is missing, the list is empty.
     DefaultSrsList();
 };
 

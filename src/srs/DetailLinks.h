@@ -8,18 +8,18 @@
 
 namespace vlt::srs {
 
-/// A page that tells more about a coordinate system.
+/// A web page with details of a coordinate system.
 struct DetailLink
 {
-    QString text; ///< of the menu entry
-    QString url;  ///< template: "%1" stands for the system's code
+    QString text; ///< text of the menu entry
+    QString url;  ///< template with "%1" for the code of the system
 };
 
-/// The links of the installation's ini file, in its order: "MenuEntry_n" and "Url_n" of section
-/// VltGetSrsDetail, n = 1, 2 ... The first n that lacks either ends the list.
+/// The links in the installation's ini file, in its order: "MenuEntry_n" and "Url_n" in the section
+/// VltGetSrsDetail, n = 1, 2 ... The list ends at the first n without one of them.
 QList<DetailLink> loadDetailLinks();
 
-/// Address of the page about a system.
+/// Address of the page for a system.
 QUrl detailUrl(const DetailLink &link, const SrsEntry &entry);
 
 } // namespace vlt::srs

@@ -21,7 +21,7 @@ QString numbered(QLatin1String key, int number)
 LastUsedSrsList::LastUsedSrsList()
 {
     const auto settings = platform::builderSettings();
-    for (int number = 1; number <= MaximumCount; ++number) {
+    for (int number = 1; number <= MaxCount; ++number) {
         SrsEntry entry;
         entry.code = settings->value(numbered(CodeKey, number)).toString();
         entry.alias = settings->value(numbered(AliasKey, number)).toString();
@@ -37,7 +37,7 @@ void LastUsedSrsList::use(const SrsEntry &entry)
     if (known >= 0) {
         entries().move(known, 0);
     } else {
-        if (count() >= MaximumCount)
+        if (count() >= MaxCount)
             entries().removeLast();
         entries().prepend(entry);
     }

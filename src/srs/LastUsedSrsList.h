@@ -4,21 +4,21 @@
 
 namespace vlt::srs {
 
-/// The systems chosen last, newest first, ten at most.
+/// The last used systems, newest first, at most ten.
 ///
-/// Stored as "LastUsedSrsList/n_CODE", "n_ALIAS" and "n_IS_USER_DEF", n = 1 .. 10. Numbers whose
-/// code or alias is missing are passed over; without the flag, an entry counts as user-defined.
+/// Stored as "LastUsedSrsList/n_CODE", "n_ALIAS" and "n_IS_USER_DEF", n = 1 .. 10. Numbers without
+/// a code or an alias are skipped; without the flag, an entry counts as user-defined.
 class LastUsedSrsList final : public StoredSrsList
 {
 public:
-    static constexpr int MaximumCount = 10;
+    static constexpr int MaxCount = 10;
 
     /// Reads the builder's settings.
     LastUsedSrsList();
 
-    /// Notes that a system was chosen, then saves. A system whose code is listed already goes to
-    /// the front as it is stored: its old alias and flag stay. A new one displaces the oldest of a
-    /// full list.
+    /// Adds a system that was chosen, then saves. If its code is already in the list, the stored
+    /// entry is moved to the front, with its old alias and flag. In a full list, a new entry
+    /// replaces the oldest.
     void use(const SrsEntry &entry);
 
     void save() const override;

@@ -6,21 +6,22 @@
 
 namespace vlt::srs {
 
-/// The systems that a chooser shows, one per row, and which of the rows is taken as chosen.
+/// The systems of a chooser, one per row, and the chosen row.
 class ShownSrsList final : public SrsEntryList
 {
 public:
-    /// Makes the list anew: everything used lately, then the defaults that are not among it.
+    /// Replaces the list by the last used systems, followed by the defaults that are not among
+    /// them.
     void fill(const LastUsedSrsList &lastUsed);
     void fill(const LastUsedSrsList &lastUsed, const DefaultSrsList &defaults);
 
-    /// Puts an entry in front of the one at `index`, 0 .. count().
+    /// Inserts an entry before `index`, 0 .. count().
     void insert(int index, const SrsEntry &entry) { entries().insert(index, entry); }
 
-    /// Puts an entry in place of the one at `index`, 0 .. count() - 1.
+    /// Replaces the entry at `index`, 0 .. count() - 1.
     void replace(int index, const SrsEntry &entry) { entries()[index] = entry; }
 
-    /// Row taken as chosen; -1 for none. It may be a row of the chooser that holds no system.
+    /// The chosen row; -1 for none. It may be a row of the chooser without a system.
     int currentIndex() const { return m_currentIndex; }
     void setCurrentIndex(int index) { m_currentIndex = index; }
 

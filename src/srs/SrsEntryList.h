@@ -6,8 +6,8 @@
 
 namespace vlt::srs {
 
-/// An ordered list of coordinate systems, for reading; the kinds of lists differ in where they
-/// come from and in how they change.
+/// An ordered list of coordinate systems for reading. Derived classes differ in the source of the
+/// entries and in the changes that they allow.
 class SrsEntryList
 {
 public:
@@ -16,7 +16,7 @@ public:
     /// The entry at an index 0 .. count() - 1.
     const SrsEntry &at(int index) const { return m_entries.at(index); }
 
-    /// Index of the first entry with exactly this code; -1 where there is none.
+    /// Index of the first entry with exactly this code; -1 if there is none.
     int indexOfCode(const QString &code) const;
 
     bool isIndex(int index) const { return index >= 0 && index < count(); }

@@ -10,18 +10,18 @@
 
 namespace vlt::srs {
 
-/// What is known of the data that a system is chosen for.
+/// Properties of the data for which a system is chosen.
 struct SrsContext
 {
     QStringList projectSystems;             ///< codes such as "EPSG:2154" or "2154"
-    std::optional<geodata::SrsBounds> area; ///< where the data lie
+    std::optional<geodata::SrsBounds> area; ///< bounds of the data
 };
 
-/// Which systems are likelier to be wanted than others that a search finds as well: first those
-/// named here, in their order, then those whose area holds that of the data, then the defaults.
+/// The systems that a search prefers among equally good results: first those in `first`, in their
+/// order, then those whose area contains that of the data, then the defaults.
 struct SrsPreferences
 {
-    QList<SrsEntry> first; ///< used lately, or the project's
+    QList<SrsEntry> first; ///< last used systems and those of the project
     std::optional<geodata::SrsBounds> area;
     QList<SrsEntry> defaults;
 };

@@ -17,7 +17,7 @@ using geodata::SrsRecord;
 
 namespace {
 
-/// In the order in which the found systems are shown.
+/// Quality of a match, best first.
 enum Rank {
     CodeTyped,
     NameTyped,
@@ -28,12 +28,12 @@ enum Rank {
     WordsAnywhere
 };
 
-/// Words this short, and numbers, are taken as they were typed.
-constexpr qsizetype ShortestNearWord = 3;
-/// What was typed of a longer word may be its start.
-constexpr qsizetype ShortestNearStart = 4;
+/// Minimum length of a word that may be replaced by a similar one; numbers are never replaced.
+constexpr qsizetype MinNearWord = 3;
+/// Minimum length of a word that may also be similar to the start of a longer one.
+constexpr qsizetype MinNearStart = 4;
 
-/// Whether a system places points in a plane or by longitude and latitude, as maps mostly want it.
+/// Whether a system is projected or two-dimensional geographic, as maps normally need.
 bool isHorizontal(const SrsRecord &system)
 {
     return system.kind == geodata::SrsKind::Projected ||
@@ -45,7 +45,7 @@ bool isNumber(const QString &code)
     return std::all_of(code.begin(), code.end(), [](QChar c) { return c.isDigit(); });
 }
 
-/// Letters that do not decompose into a plain one and an accent.
+/// Basic letters for a letter that Unicode does not decompose into a basic letter and an accent.
 QString plainLetter(QChar letter)
 {
     switch (letter.unicode()) {
@@ -68,8 +68,8 @@ QString plainLetter(QChar letter)
     }
 }
 
-/// Words without case, accents and punctuation, each after a blank; digits that follow a letter
-/// start a word of their own.
+/// The words of a text without case, accents and punctuation, each after a blank. Digits after a
+/// letter are a separate word.
 QString folded(const QString &text)
 {
     const QString plain = text.toCaseFolded().normalized(QString::NormalizationForm_KD);
@@ -94,7 +94,7 @@ QStringList wordsOf(const QString &folded)
     return folded.split(u' ', Qt::SkipEmptyParts);
 }
 
-/// Datums that are known all over the world, or all over Europe.
+/// Whether the datum is used worldwide or all over Europe.
 bool isWorldwideName(const QString &foldedName)
 {
     const QString name = foldedName + u' ';
@@ -102,7 +102,7 @@ bool isWorldwideName(const QString &foldedName)
            name.startsWith(QLatin1String(" etrs 89 "));
 }
 
-/// A folded text and its words, as they are looked for.
+/// The folded text of a query and its words.
 struct Wanted
 {
     explicit Wanted(const QString &folded) : text(folded), words(wordsOf(folded)) {}
@@ -140,7 +140,7 @@ struct Wanted
 
 } // namespace
 
-/// How one system is preferred.
+/// The preferences for a system.
 struct SrsSearch::Preferred
 {
     int first = std::numeric_limits<int>::max();
@@ -161,7 +161,7 @@ SrsSearch::SrsSearch(QList<SrsRecord> systems) : m_systems(std::move(systems))
         texts.all = texts.name + u'\n' + texts.key + u'\n' + folded(system.area);
         texts.isWorldwide = isWorldwideName(texts.name);
         for (const QString &word : wordsOf(QString(texts.all).replace(u'\n', u' '))) {
-            if (word.size() >= ShortestNearWord && !isNumber(word))
+            if (word.size() >= MinNearWord && !isNumber(word))
                 ++m_words[word];
         }
         m_folded.push_back(std::move(texts));
@@ -173,14 +173,14 @@ QHash<qsizetype, SrsSearch::Preferred>
 SrsSearch::preferredSystems(const SrsPreferences &preferences) const
 {
     QHash<qsizetype, Preferred> preferred;
-    const auto add = [&](const QList<SrsEntry> &entries, int Preferred::*place) {
+    const auto add = [&](const QList<SrsEntry> &entries, int Preferred::*rank) {
         for (int i = 0; i < entries.size(); ++i) {
             const QString key = geodata::listedCode(entries.at(i).code).toCaseFolded();
             const auto index = m_indexOfKey.constFind(key);
             if (index == m_indexOfKey.constEnd())
                 continue;
             Preferred &system = preferred[*index];
-            system.*place = std::min(system.*place, i);
+            system.*rank = std::min(system.*rank, i);
             system.aliases << folded(entries.at(i).alias);
         }
     };
@@ -196,9 +196,9 @@ std::vector<int> SrsSearch::find(const SrsQuery &query, const SrsPreferences &pr
     const QHash<qsizetype, Preferred> preferred = preferredSystems(preferences);
     const Preferred other;
 
-    // by rank, horizontal systems first, then by preference
-    using Place = std::tuple<int, bool, int, bool, int, bool, int>;
-    std::vector<Place> found;
+    // rank, kind, order in the preferences, area, order in the defaults, datum, index
+    using SortKey = std::tuple<int, bool, int, bool, int, bool, int>;
+    std::vector<SortKey> found;
     for (int i = 0; i < m_systems.size(); ++i) {
         const SrsRecord &system = m_systems.at(i);
         const Folded &texts = m_folded[static_cast<size_t>(i)];
@@ -228,8 +228,8 @@ std::vector<int> SrsSearch::find(const SrsQuery &query, const SrsPreferences &pr
 
     std::vector<int> inOrder;
     inOrder.reserve(found.size());
-    for (const Place &place : found)
-        inOrder.push_back(std::get<6>(place));
+    for (const SortKey &key : found)
+        inOrder.push_back(std::get<6>(key));
     return inOrder;
 }
 
@@ -245,10 +245,10 @@ QString SrsSearch::nearWord(const QString &word) const
     for (auto known = m_words.constBegin(); known != m_words.constEnd(); ++known) {
         bool isNear = differsByOneLetter(word, known.key());
         for (const qsizetype length : {word.size() - 1, word.size(), word.size() + 1})
-            isNear = isNear || (word.size() >= ShortestNearStart && known.key().size() > length &&
+            isNear = isNear || (word.size() >= MinNearStart && known.key().size() > length &&
                                 differsByOneLetter(word, QStringView(known.key()).left(length)));
-        const bool isBetter =
-            *known > bestCount || (*known == bestCount && known.key() < best); // never by chance
+        // equal words are compared because the order in the hash is random
+        const bool isBetter = *known > bestCount || (*known == bestCount && known.key() < best);
         if (isNear && isBetter) {
             best = known.key();
             bestCount = *known;
@@ -262,7 +262,7 @@ QString SrsSearch::nearText(const QString &text) const
     QStringList words = wordsOf(folded(text));
     bool isChanged = false;
     for (QString &word : words) {
-        if (word.size() < ShortestNearWord || isNumber(word) ||
+        if (word.size() < MinNearWord || isNumber(word) ||
             std::any_of(m_folded.begin(), m_folded.end(),
                         [&word](const Folded &texts) { return texts.all.contains(word); }))
             continue;

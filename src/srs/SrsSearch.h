@@ -15,17 +15,17 @@
 
 namespace vlt::srs {
 
-/// What is looked for among the systems.
+/// A search query.
 struct SrsQuery
 {
     QString text;
-    std::optional<geodata::SrsKind> kind; ///< none: every kind
+    std::optional<geodata::SrsKind> kind; ///< nothing for all kinds
     bool withDeprecated = false;
 };
 
-/// Finds systems by words. Case, accents and punctuation do not count, nor does the order of the
-/// words; "wgs84" is the same as "WGS 84". A word may stand anywhere in the name, the code (with
-/// or without its authority) or the area of use.
+/// Finds systems by words. Case, accents, punctuation and the order of the words have no influence;
+/// "wgs84" is equal to "WGS 84". A word may occur anywhere in the name, the code (with or without
+/// its authority) or the area of use.
 class SrsSearch
 {
 public:
@@ -33,27 +33,27 @@ public:
 
     const QList<geodata::SrsRecord> &systems() const { return m_systems; }
 
-    /// Indices into systems(): first a system whose code was typed, with its authority or as a
-    /// mere number, then names that are, start with or hold the text, then names that hold every
-    /// word (at the start of words before elsewhere), then the rest. A preferred system is found by
-    /// its alias as by its name, and where words of its name, alias or area start with all of the
-    /// text's it is as if its name did.
+    /// Indices into systems(), in this order: the system with the typed code (with its authority or
+    /// as a number), names equal to the text, names that start with it, names that contain it,
+    /// names with words that start with the typed words, names that contain all typed words, other
+    /// results. The alias of a preferred system counts as its name. If words of its name, alias or
+    /// area start with the typed words, it is ranked like a name that starts with the text.
     ///
-    /// Of those alike, systems in a plane or by longitude and latitude come first, then it is the
-    /// order of the preferences, then WGS 84 and ETRS89 come before all others, then it is the
-    /// order of systems(). A text without words finds every system. Deprecated systems are left
-    /// out, unless asked for or typed as a code.
+    /// Equal results are ordered as follows: projected and two-dimensional geographic systems
+    /// before others, then the order of the preferences, then WGS 84 and ETRS89 before others, then
+    /// the order of systems(). A text without words finds all systems. Deprecated systems are only
+    /// found by their code, or if the query includes them.
     std::vector<int> find(const SrsQuery &query, const SrsPreferences &preferences = {}) const;
 
-    /// Whether a text has anything to look for: a letter or a digit.
+    /// Whether a text contains a letter or a digit.
     static bool hasWords(const QString &text);
 
-    /// The text with each unknown word replaced by the most frequent known one that differs from it
-    /// in one letter, missing, added, wrong or swapped with its neighbour ("wsg84" becomes "wgs
-    /// 84"). Empty where no word is unknown, or where nothing is near to one of them.
+    /// The text with each unknown word replaced by the most frequent known word that differs in one
+    /// letter: missing, added, wrong or swapped with its neighbour ("wsg84" becomes "wgs 84").
+    /// Empty if all words are known, or if an unknown one has no similar word.
     QString nearText(const QString &text) const;
 
-    /// The system of a code such as "EPSG:2154", whatever its case; null where there is none.
+    /// The system with a code such as "EPSG:2154", in upper or lower case; null if there is none.
     const geodata::SrsRecord *systemOf(const QString &key) const;
 
 private:
@@ -61,7 +61,7 @@ private:
     {
         QString name;
         QString key;    ///< authority and code
-        QString number; ///< the code, where it is one
+        QString number; ///< the code, if it is a number
         QString all;    ///< name, key and area
         bool isWorldwide = false;
     };
@@ -71,18 +71,19 @@ private:
     QString nearWord(const QString &word) const;
 
     QList<geodata::SrsRecord> m_systems;
-    std::vector<Folded> m_folded; ///< of m_systems, same order
+    std::vector<Folded> m_folded; ///< texts of m_systems, in the same order
     QHash<QString, qsizetype> m_indexOfKey;
-    QHash<QString, int> m_words; ///< of all names, authorities and areas, with how often they occur
+    QHash<QString, int> m_words; ///< frequency of the words in all names, authorities and areas
 };
 
-/// The entry that stands for a system once it is chosen; the alias of a deprecated one says so.
+/// The entry of a system that was chosen. The alias of a deprecated system states that it is
+/// deprecated.
 SrsEntry entryOf(const geodata::SrsRecord &system);
 
 using SharedSrsSearch = std::shared_ptr<const SrsSearch>;
 
-/// The search over the PROJ database, which is read once for the whole program, on a thread of its
-/// own that the first call starts. Its result is null where the database cannot be read.
+/// The search in the PROJ database. The first call starts a thread that reads the database, once
+/// for the program. The result is null if the database cannot be read.
 QFuture<SharedSrsSearch> sharedSrsSearch();
 
 } // namespace vlt::srs

@@ -4,11 +4,11 @@
 
 namespace vlt::srs {
 
-/// Path of VltSrsUtils.ini, whether it is there or not.
+/// Path of VltSrsUtils.ini, even if the file does not exist.
 QString srsUtilitiesPath();
 
-/// VltSrsUtils.ini of the builder's installation, whose place is the value INSTALL_DIR of the
-/// builder's settings; an ini file without entries where it is missing or unreadable.
+/// VltSrsUtils.ini of the builder's installation, whose directory is the value INSTALL_DIR in the
+/// builder's settings. An ini file without entries if it is missing or cannot be read.
 platform::IniFile srsUtilitiesFile();
 
 } // namespace vlt::srs

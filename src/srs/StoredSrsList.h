@@ -4,18 +4,18 @@
 
 namespace vlt::srs {
 
-/// A list that is kept in the builder's settings. Every change is written through at once; what
-/// others write meanwhile is seen by lists that are made afterwards.
+/// A list that is stored in the builder's settings. Each change is saved immediately. Changes by
+/// other programs are visible only in objects that are created later.
 class StoredSrsList : public SrsEntryList
 {
 public:
-    /// Takes an entry out, then saves. An index out of range changes nothing.
+    /// Removes an entry, then saves. An index out of range has no effect.
     void removeAt(int index);
 
-    /// Puts an entry in place of another, then saves. An index out of range changes nothing.
+    /// Replaces an entry, then saves. An index out of range has no effect.
     void replaceAt(int index, const SrsEntry &entry);
 
-    /// Writes the whole list in place of what is stored, numbered from 1 without gaps.
+    /// Replaces the stored list by this one, numbered from 1 without gaps.
     virtual void save() const = 0;
 
 protected:

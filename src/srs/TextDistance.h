@@ -4,8 +4,8 @@
 
 namespace vlt::srs {
 
-/// Whether two words are the same but for one letter that is missing, added, another one, or
-/// swapped with its neighbour. Equal words are not.
+/// Whether two words differ in exactly one letter: missing, added, replaced, or swapped with its
+/// neighbour.
 bool differsByOneLetter(QStringView a, QStringView b);
 
 } // namespace vlt::srs

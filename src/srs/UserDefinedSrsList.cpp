@@ -11,8 +11,8 @@ namespace {
 
 const QLatin1String Group("UserDefinedSrsList");
 
-/// The first code key that belongs to an alias key; empty where there is none. Keys belong together
-/// by what stands before their first "_", which is taken as the pattern that it is.
+/// The first code key for an alias key; empty if there is none. The part of the alias key before
+/// its first "_" is used as a pattern for the start of the code key.
 QString codeKeyFor(const QString &aliasKey, const QStringList &codeKeys)
 {
     const QString prefix = aliasKey.section(QLatin1Char('_'), 0, 0);

@@ -17,7 +17,7 @@
 
 namespace {
 
-/// Longer definitions are cut in the popup and in the tool tip.
+/// Maximum lengths of definitions; longer ones are cut.
 constexpr int PopupCharacters = 90;
 constexpr qsizetype ToolTipCharacters = 800;
 
@@ -25,24 +25,24 @@ constexpr qsizetype ToolTipCharacters = 800;
 
 SrsComboBox::SrsComboBox(QWidget *parent) : QComboBox(parent)
 {
-    setFocusPolicy(Qt::StrongFocus); // the default takes the focus, and the turn, from any wheel
+    setFocusPolicy(Qt::StrongFocus); // by default, the wheel would give it the focus
 }
 
 void SrsComboBox::showPopup()
 {
-    const QRect place = screen()->availableGeometry();
+    const QRect available = screen()->availableGeometry();
     const int letter = fontMetrics().averageCharWidth();
     const int readable =
         view()->sizeHintForColumn(0) + 2 * letter + view()->verticalScrollBar()->sizeHint().width();
-    view()->setMinimumWidth(std::min({readable, PopupCharacters * letter, place.width()}));
+    view()->setMinimumWidth(std::min({readable, PopupCharacters * letter, available.width()}));
     QComboBox::showPopup();
-    // The list may still stand where it was left by Escape, and Return would take that row.
+    // After Escape, the list keeps its last row, and Return would choose that row.
     view()->setCurrentIndex(model()->index(currentIndex(), modelColumn(), rootModelIndex()));
 
     QWidget *popup = view()->window();
-    const int beyond = popup->geometry().right() - place.right();
+    const int beyond = popup->geometry().right() - available.right();
     if (popup != window() && beyond > 0)
-        popup->move(std::max(place.left(), popup->x() - beyond), popup->y());
+        popup->move(std::max(available.left(), popup->x() - beyond), popup->y());
 }
 
 bool SrsComboBox::event(QEvent *event)
@@ -56,8 +56,8 @@ bool SrsComboBox::event(QEvent *event)
 void SrsComboBox::focusInEvent(QFocusEvent *event)
 {
     QComboBox::focusInEvent(event);
-    if (isEditable() &&
-        event->reason() == Qt::MouseFocusReason) // the click itself is still to come
+    // queued, because the click that follows would remove the selection
+    if (isEditable() && event->reason() == Qt::MouseFocusReason)
         QMetaObject::invokeMethod(lineEdit(), &QLineEdit::selectAll, Qt::QueuedConnection);
 }
 
@@ -77,10 +77,10 @@ void SrsComboBox::keyPressEvent(QKeyEvent *event)
 
 void SrsComboBox::wheelEvent(QWheelEvent *event)
 {
-    event->ignore(); // whatever lies around the box may scroll
+    event->ignore(); // a widget around the box may scroll
 }
 
-/// Whether a key would choose another row of the closed box.
+/// Whether a key would change the row of the closed box.
 bool SrsComboBox::goesToAnotherRow(const QKeyEvent &event) const
 {
     if (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier))
@@ -94,7 +94,7 @@ bool SrsComboBox::goesToAnotherRow(const QKeyEvent &event) const
     case Qt::Key_Home:
     case Qt::Key_End:
         return !isEditable();
-    case Qt::Key_Space: // opens the list by itself
+    case Qt::Key_Space: // the base class opens the list
         return false;
     default:
         return !isEditable() && !event.text().isEmpty() && event.text().at(0).isPrint();

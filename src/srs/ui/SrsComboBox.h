@@ -2,23 +2,23 @@
 
 #include <QComboBox>
 
-/// The combo box of a chooser of coordinate systems: narrow when closed, wide enough to read when
-/// open; what does not fit stands in the tool tip.
+/// The combo box of a chooser of coordinate systems: narrow if closed, and wide enough for its
+/// texts if open. The tool tip has the whole text.
 ///
-/// A row is chosen in the open list only: the wheel does nothing, and keys that go to another row
-/// of the closed box open it. Return in the edited text belongs to the box and presses no button of
-/// the window around it.
+/// A row can be chosen only in the open list: the wheel has no effect, and keys that would go to
+/// another row of the closed box open it. Return in the edited text does not press a button of the
+/// window.
 class SrsComboBox : public QComboBox
 {
     Q_OBJECT
 
 public:
-    /// Item data: what a row stands for, as plain text, where the row does not say it itself.
+    /// Item data: the definition of a row as plain text, if it is not in the row's own text.
     static constexpr int DefinitionRole = Qt::UserRole + 1;
 
     explicit SrsComboBox(QWidget *parent = nullptr);
 
-    /// Tool tip of the text while it can be edited.
+    /// Sets the tool tip of the editable text.
     void setEditTip(const QString &text) { m_editTip = text; }
 
     void showPopup() override;

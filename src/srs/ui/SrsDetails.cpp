@@ -13,13 +13,13 @@ namespace {
 
 constexpr int DefinitionLines = 11;
 
-/// Definitions are long, and an area of use may list every country of the world.
-constexpr int LongestFact = 160;
+/// Maximum length of a text; areas of use may list very many countries.
+constexpr int MaxTextSize = 160;
 
 void showFact(QLabel *title, QLabel *fact, const QString &text)
 {
-    const bool isLong = text.size() > LongestFact;
-    fact->setText(isLong ? text.left(LongestFact) + QChar(0x2026) : text);
+    const bool isLong = text.size() > MaxTextSize;
+    fact->setText(isLong ? text.left(MaxTextSize) + QChar(0x2026) : text);
     fact->setToolTip(isLong ? vlt::text::asRichText(text) : QString());
     title->setHidden(text.isEmpty());
     fact->setHidden(text.isEmpty());
@@ -32,7 +32,7 @@ QString kindOf(const geodata::SrsRecord &system)
                                              : kind + QLatin1String(", ") + system.projectionMethod;
 }
 
-/// As numbers are written in the interface's language.
+/// A number in the format of the interface's language.
 QString degrees(double value)
 {
     return QLocale().toString(value, 'f', 2);

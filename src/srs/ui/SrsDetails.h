@@ -13,7 +13,7 @@ class SrsDetails;
 
 namespace vlt::srs {
 
-/// Tells what is known of one coordinate system, down to its definition.
+/// Shows the details of a coordinate system, including its definition.
 class SrsDetails : public QGroupBox
 {
     Q_OBJECT
@@ -22,10 +22,10 @@ public:
     explicit SrsDetails(QWidget *parent = nullptr);
     ~SrsDetails() override;
 
-    /// @param system  what the catalogue knows of it; null where that is nothing
+    /// @param system  the record in the catalogue; null if there is none
     void describe(const SrsEntry &entry, const geodata::SrsRecord *system);
 
-    /// Shows nothing.
+    /// Shows no system.
     void clear();
 
 private:

@@ -8,7 +8,7 @@
 
 namespace vlt::srs {
 
-/// The entries of a list of systems.
+/// The entries of a list of systems as rows.
 class SrsListModel final : public SrsTableModel
 {
     Q_OBJECT
@@ -18,10 +18,10 @@ public:
 
     SrsListModel(Titles titles, QObject *parent);
 
-    /// Where kinds and areas of use come from; until then they are blank.
+    /// Sets the source of kinds and areas of use; without it, these are blank.
     void setSearch(SharedSrsSearch search);
 
-    /// Shows a copy of the list as it is now.
+    /// Shows a copy of the list.
     void setEntries(const SrsEntryList &list);
 
     SrsEntry entryAt(int row) const override;

@@ -7,7 +7,7 @@
 
 namespace vlt::srs {
 
-/// The systems that a search has found.
+/// The results of a search as rows.
 class SrsSearchModel final : public SrsTableModel
 {
     Q_OBJECT
@@ -15,19 +15,19 @@ class SrsSearchModel final : public SrsTableModel
 public:
     using SrsTableModel::SrsTableModel;
 
-    /// What is searched from now on (may be null); nothing is found yet.
+    /// Sets the search (may be null) and clears the results.
     void setSearch(SharedSrsSearch search);
 
-    /// Shows what a query finds; where that is nothing, what a text near to it finds.
+    /// Shows the results of a query or, if there are none, those of a similar text.
     void find(const SrsQuery &query, const SrsPreferences &preferences);
 
-    /// Shows nothing.
+    /// Clears the results.
     void clear();
 
-    /// The text that was looked for in place of one that finds nothing; empty otherwise.
+    /// The similar text whose results are shown; empty if they are those of the query.
     QString nearText() const { return m_nearText; }
 
-    /// Row of a system that has been found; -1 for any other code.
+    /// Row of the system with a code; -1 if it is not among the results.
     int rowOfCode(const QString &code) const;
 
     SrsEntry entryAt(int row) const override;

@@ -85,7 +85,7 @@ void SrsTable::contextMenuEvent(QContextMenuEvent *event)
 
 void SrsTable::keyPressEvent(QKeyEvent *event)
 {
-    // the menu key arrives as a context menu event, its usual substitute does not
+    // the menu key causes a context menu event; its substitute, Shift+F10, does not
     if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier)
         openMenuAtSelection();
     else

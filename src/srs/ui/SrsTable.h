@@ -11,8 +11,8 @@ namespace vlt::srs {
 
 class SrsTableModel;
 
-/// Coordinate systems to choose one from. Its context menu offers pages that tell more about the
-/// selected one, its code for the clipboard, and the actions that were added to the table.
+/// A table for choosing a coordinate system. Its context menu has links to pages with details of
+/// the selected system, copies its code, and has the actions that were added to the table.
 class SrsTable : public QTreeView
 {
     Q_OBJECT
@@ -20,11 +20,11 @@ class SrsTable : public QTreeView
 public:
     explicit SrsTable(QWidget *parent = nullptr);
 
-    /// Shows the rows of a model that lives at least as long as the table.
+    /// Sets the model, which must exist as long as the table.
     void setSystems(SrsTableModel *model);
     const SrsTableModel *systems() const { return m_model; }
 
-    /// Text that stands in the table while it has no row.
+    /// Sets the text that is shown in the table while it has no rows.
     void setEmptyText(const QString &text) { m_emptyText = text; }
 
     void setDetailLinks(const QList<DetailLink> &links) { m_links = links; }
@@ -33,13 +33,13 @@ public:
     int currentRow() const;
     std::optional<SrsEntry> currentEntry() const;
 
-    /// Selects a row and shows it; none for a row that does not exist.
+    /// Selects a row and makes it visible; clears the selection for a row that does not exist.
     void selectRow(int row);
 
     void reset() override;
 
 Q_SIGNALS:
-    /// Another row is selected, or none any more.
+    /// The selected row changed; there may be none now.
     void selectionMoved();
 
 protected:

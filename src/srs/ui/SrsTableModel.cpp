@@ -54,7 +54,7 @@ QVariant SrsTableModel::data(const QModelIndex &index, int role) const
     switch (role) {
     case Qt::DisplayRole:
         return textOf(index);
-    case Qt::ToolTipRole: // as rich text it is wrapped, and what stands in it stays plain
+    case Qt::ToolTipRole: // only rich text is wrapped; the text in it is escaped
         return vlt::text::asRichText(textOf(index));
     case Qt::FontRole: {
         const geodata::SrsRecord *system = systemAt(index.row());

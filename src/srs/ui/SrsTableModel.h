@@ -17,17 +17,17 @@ public:
 
     using QAbstractTableModel::QAbstractTableModel;
 
-    /// What choosing a row yields.
+    /// The entry for choosing a row.
     virtual SrsEntry entryAt(int row) const = 0;
 
-    /// What the catalogue knows of a row; null for systems that are not in it.
+    /// The record of a row in the catalogue; null if the system is not in it.
     virtual const geodata::SrsRecord *systemAt(int row) const = 0;
 
     int columnCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
-    /// A kind in the chosen language.
+    /// Name of a kind in the chosen language.
     static QString kindText(geodata::SrsKind kind);
 
 private:

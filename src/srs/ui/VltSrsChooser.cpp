@@ -19,11 +19,11 @@ using vlt::srs::SrsEntry;
 
 namespace {
 
-constexpr QColor LastUsedColour(255, 255, 255);
-constexpr QColor DefaultColour(208, 208, 208);
-constexpr QColor OtherColour(160, 160, 160);
-constexpr QColor SelectedFromOutsideColour(255, 208, 208);
-constexpr QColor RowTextColour(0, 0, 0); // all of them are light, whatever the palette
+constexpr QColor LastUsedColor(255, 255, 255);
+constexpr QColor DefaultColor(208, 208, 208);
+constexpr QColor OtherColor(160, 160, 160);
+constexpr QColor SelectedFromOutsideColor(255, 208, 208);
+constexpr QColor RowTextColor(0, 0, 0); // the row colours are light in every palette
 
 } // namespace
 
@@ -64,15 +64,15 @@ void VltSrsChooser::populate()
     for (int row = 0; row < m_shown.count(); ++row) {
         combo->addItem(rowText(m_shown.at(row)));
         describeRow(row);
-        colourRow(row, row < m_lastUsed.count() ? LastUsedColour : DefaultColour);
+        colorRow(row, row < m_lastUsed.count() ? LastUsedColor : DefaultColor);
     }
     if (m_withOther) {
         const int row = combo->count();
         combo->addItem(tr("Other...", "MESS_AUTRE..."));
-        colourRow(row, OtherColour);
+        colorRow(row, OtherColor);
     }
 
-    // "Other..." as the current row could not be picked any more
+    // if "Other..." were the current row, it could not be chosen
     if (m_withOther && m_shown.count() == 0)
         enterUndefinedState(OnReturn::Validates);
     else
@@ -100,7 +100,7 @@ void VltSrsChooser::setSrsText(const QString &text)
     }
     selectRow(-1);
     Q_EMIT SrsSelected(currentCode());
-    enterUndefinedState(OnReturn::StaysAsItIs);
+    enterUndefinedState(OnReturn::HasNoEffect);
 }
 
 void VltSrsChooser::setSrsCode(const QString &code)
@@ -121,10 +121,10 @@ void VltSrsChooser::setSystem(const QString &systemText)
     const int row = m_shown.indexOfCode(code);
     if (row < 0) {
         setSrsCode(code);
-    } else { // by the row's system: other rows may have the code within their texts
+    } else { // not selectEntry(): the texts of other rows may contain the code
         setReference(m_shown.at(row));
         selectRow(row);
-        colourRow(row, SelectedFromOutsideColour);
+        colorRow(row, SelectedFromOutsideColor);
     }
     m_referenceText = systemText;
     m_isAsGiven = !systemText.isEmpty();
@@ -142,12 +142,13 @@ void VltSrsChooser::selectEntry(const std::optional<SrsEntry> &entry)
         enterUndefinedState(OnReturn::Validates);
         return;
     }
-    // a user-defined system says nothing of its code: one that is listed already ends up as row 0
+    // the text of a user-defined system does not contain its code; if it is in the list, row 0 is
+    // used
     const int row = std::max(findRow(m_reference.code, Qt::MatchContains), 0);
     if (m_shown.indexOfCode(m_reference.code) < 0)
         insertRow(row, m_reference);
     selectRow(row);
-    colourRow(row, SelectedFromOutsideColour);
+    colorRow(row, SelectedFromOutsideColor);
 }
 
 void VltSrsChooser::slot_onSelectSrs(int row)
@@ -180,7 +181,7 @@ void VltSrsChooser::slot_resetSrs()
 
 void VltSrsChooser::slot_OnValidateEditedSrs()
 {
-    if (!m_ui->m_pCBSrs->isEditable()) // the combo box knew the text and picked its row already
+    if (!m_ui->m_pCBSrs->isEditable()) // the combo box has already selected the row with this text
         return;
     const QString text = m_ui->m_pCBSrs->currentText();
     if (text.isEmpty())
@@ -221,10 +222,10 @@ void VltSrsChooser::describeRow(int row)
         m_ui->m_pCBSrs->setItemData(row, m_shown.at(row).code, SrsComboBox::DefinitionRole);
 }
 
-void VltSrsChooser::colourRow(int row, const QColor &background)
+void VltSrsChooser::colorRow(int row, const QColor &background)
 {
     m_ui->m_pCBSrs->setItemData(row, background, Qt::BackgroundRole);
-    m_ui->m_pCBSrs->setItemData(row, RowTextColour, Qt::ForegroundRole);
+    m_ui->m_pCBSrs->setItemData(row, RowTextColor, Qt::ForegroundRole);
 }
 
 void VltSrsChooser::selectRow(int row)
@@ -242,11 +243,11 @@ void VltSrsChooser::enterUndefinedState(OnReturn onReturn)
     selectRow(-1);
     SrsComboBox *combo = m_ui->m_pCBSrs;
     combo->setEditable(true);
-    combo->lineEdit()->setAcceptDrops(false); // files dropped here belong to the page
-    combo->setCompleter(nullptr);             // a definition is taken as it was typed
+    combo->lineEdit()->setAcceptDrops(false); // the page accepts dropped files
+    combo->setCompleter(nullptr);             // a definition is not to be completed
     combo->setEditText(tr("Undefined", "MESS_NDEF"));
     combo->lineEdit()->setAccessibleName(combo->accessibleName());
-    if (onReturn == OnReturn::StaysAsItIs) {
+    if (onReturn == OnReturn::HasNoEffect) {
         combo->setEditTip(chooseInListText());
         return;
     }
@@ -254,14 +255,14 @@ void VltSrsChooser::enterUndefinedState(OnReturn onReturn)
                          "\"Other...\" in the list searches all systems",
                          "MESS_SRS_TYPE_TIP"));
     combo->lineEdit()->setPlaceholderText(tr("EPSG code, PROJ text or WKT", "MESS_SRS_TYPE_HERE"));
-    // the line edit may be the one of the last time
+    // the line edit may already be connected
     connect(combo->lineEdit(), &QLineEdit::returnPressed, this,
             &VltSrsChooser::slot_OnValidateEditedSrs, Qt::UniqueConnection);
     connect(combo->lineEdit(), &QLineEdit::textEdited, this, &VltSrsChooser::clearHint,
             Qt::UniqueConnection);
 }
 
-/// What is left to do where a text that is typed is not looked at.
+/// The hint for a state in which typed texts have no effect.
 QString VltSrsChooser::chooseInListText()
 {
     return tr("Choose a system in the list; \"Other...\", tab \"User-defined\", takes a definition "
@@ -269,7 +270,7 @@ QString VltSrsChooser::chooseInListText()
               "MESS_SRS_CHOOSE_IN_LIST");
 }
 
-/// Tells below the row why nothing happens, or what to do; nothing for an empty text.
+/// Shows below the row why there is no result or what to do; hides the line for an empty text.
 void VltSrsChooser::showHint(const QString &text)
 {
     m_ui->m_pLHint->setText(text);
@@ -278,7 +279,7 @@ void VltSrsChooser::showHint(const QString &text)
     m_ui->m_pCBSrs->setAccessibleDescription(text);
 }
 
-/// What follows when the user settled on an entry of the rows.
+/// Stores and announces the entry that the user has chosen.
 void VltSrsChooser::choose(const SrsEntry &entry)
 {
     m_lastUsed.use(entry);
@@ -292,17 +293,17 @@ void VltSrsChooser::chooseFromDialog()
     if (m_shown.isIndex(m_shown.currentIndex()))
         current = m_shown.at(m_shown.currentIndex());
     dialogVltSrsChooser dialog(m_parentWidget, current, m_context);
-    dialog.setWindowTitle(m_ui->m_pLSrsLabel->text()); // which of the systems it is about
+    dialog.setWindowTitle(m_ui->m_pLSrsLabel->text()); // the role of the system
     std::optional<SrsEntry> chosen;
     if (dialog.exec() == QDialog::Accepted)
         chosen = dialog.chosenEntry();
-    m_lastUsed = vlt::srs::LastUsedSrsList(); // entries can be taken out of it in the dialog
+    m_lastUsed = vlt::srs::LastUsedSrsList(); // the dialog may have removed entries
 
     if (!chosen) {
         if (m_shown.currentIndex() >= 0) {
             m_ui->m_pCBSrs->setCurrentIndex(m_shown.currentIndex());
         } else {
-            enterUndefinedState(OnReturn::StaysAsItIs);
+            enterUndefinedState(OnReturn::HasNoEffect);
             m_ui->m_pPBResetSrs->setEnabled(false);
             showHint(chooseInListText());
         }
@@ -313,7 +314,7 @@ void VltSrsChooser::chooseFromDialog()
     if (row < 0) {
         row = 0;
         insertRow(row, *chosen);
-    } else if (chosen->isUserDefined) { // it may have got another alias in the dialog
+    } else if (chosen->isUserDefined) { // the dialog may have changed its alias
         m_shown.replace(row, *chosen);
         m_ui->m_pCBSrs->setItemText(row, rowText(*chosen));
     }
@@ -321,7 +322,7 @@ void VltSrsChooser::chooseFromDialog()
     choose(m_shown.at(row));
 }
 
-/// Keeps a definition under an alias that the user is asked for; false if the user cancels.
+/// Asks the user for an alias and stores the definition under it; false if the user cancels.
 bool VltSrsChooser::addUserDefined(const QString &definition)
 {
     dialogToEditAlias dialog(this);

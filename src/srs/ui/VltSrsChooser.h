@@ -16,60 +16,60 @@ namespace Ui {
 class WidgetVltSrsChooser;
 }
 
-/// Lets the user pick one coordinate system: a label, a combo box of the systems used lately and of
-/// the installation's defaults, and a button that goes back to the system it started with.
+/// Lets the user choose one coordinate system: a label, a combo box with the last used systems and
+/// the defaults of the installation, and a button that returns to the initial system.
 ///
-/// A row "Other..." opens the search among all systems. While no system is chosen, the combo box
-/// says "Undefined" and takes a definition: Return stores a valid one under an alias that the user
-/// gives; an invalid one stays as it is, and a line below tells why. Whatever the user settles on
-/// goes into the list of the last used systems at once.
+/// The row "Other..." opens the search for all systems. If no system is chosen, the combo box shows
+/// "Undefined" and accepts a definition: Return stores a valid one under an alias that the user
+/// gives; for an invalid one, a line below shows the reason. The choice of the user is added to the
+/// last used systems immediately.
 class VltSrsChooser : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// An empty chooser, to be filled by populate().
+    /// Creates an empty chooser; populate() fills it.
     ///
-    /// @param parent        also parent of the dialogs that the chooser opens
-    /// @param withDefaults  list the installation's default systems too
-    /// @param withOther     offer "Other..."; a chooser without it neither announces nor records
-    ///                      the rows that the user picks
+    /// @param parent        is also the parent of the dialogs
+    /// @param withDefaults  include the default systems of the installation
+    /// @param withOther     include "Other..."; without it, the chooser neither announces nor
+    ///                      stores the rows that the user chooses
     VltSrsChooser(QWidget *parent, const QString &labelText, bool withDefaults, bool withOther);
     ~VltSrsChooser() override;
 
-    /// Fills the combo box and selects its first row; without any system to show, the choice is
+    /// Fills the combo box and selects its first row; if there are no systems, the choice is
     /// undefined. Emits nothing.
     void populate();
 
-    /// The system of the current row, if it stands for one.
+    /// The system of the current row, if it has one.
     std::optional<vlt::srs::SrsEntry> currentEntry() const;
 
     /// Code of the current row's system; empty for none.
     QString currentCode() const;
 
-    /// Selects the first row that contains a text, whatever its case, or no row; an empty text
-    /// makes the choice undefined. Emits SrsSelected.
+    /// Selects the first row that contains a text, in upper or lower case, or no row. With an empty
+    /// text, the choice is undefined. Emits SrsSelected.
     void setSrsText(const QString &text);
 
-    /// Selects the listed system with a code, or lists a system of that code alone; an empty code
-    /// makes the choice undefined. Reset comes back to it. Emits nothing.
+    /// Selects the system with a code, and adds it to the rows if necessary. With an empty code,
+    /// the choice is undefined. The button returns to this system. Emits nothing.
     void setSrsCode(const QString &code);
 
-    /// Selects the row of a system that is given by a bare EPSG number, another code or a
-    /// definition, or lists it; an empty text makes the choice undefined. Reset comes back to it.
-    /// Emits nothing.
+    /// Selects the system with an EPSG number, another code or a definition, and adds it to the
+    /// rows if necessary. With an empty text, the choice is undefined. The button returns to this
+    /// system. Emits nothing.
     void setSystem(const QString &systemText);
 
-    /// What the system is chosen for: the search lists what fits it first.
+    /// Sets the data for which the system is chosen; the search prefers systems that fit them.
     void setContext(const vlt::srs::SrsContext &context) { m_context = context; }
 
-    /// The chosen system: the text that setSystem() was given, until the user chooses; else
+    /// The chosen system: the argument of setSystem() until the user chooses another one, else
     /// currentCode().
     QString currentSystem() const;
 
-    /// Shows and selects a system, which is added to the rows where its code is not among them;
-    /// none, or one without code, makes the choice undefined. Reset comes back to it. Emits
-    /// nothing.
+    /// Selects a system, and adds it to the rows if its code is not among them. Without a system,
+    /// or with one that has no code, the choice is undefined. The button returns to this system.
+    /// Emits nothing.
     void selectEntry(const std::optional<vlt::srs::SrsEntry> &entry);
 
 Q_SIGNALS:
@@ -85,12 +85,12 @@ public Q_SLOTS:
     // NOLINTEND(readability-identifier-naming)
 
 private:
-    enum class OnReturn { Validates, StaysAsItIs };
+    enum class OnReturn { Validates, HasNoEffect };
 
     void setReference(const vlt::srs::SrsEntry &entry);
     int findRow(const QString &text, Qt::MatchFlags match) const;
     void insertRow(int row, const vlt::srs::SrsEntry &entry);
-    void colourRow(int row, const QColor &background);
+    void colorRow(int row, const QColor &background);
     void describeRow(int row);
     void selectRow(int row);
     void enterUndefinedState(OnReturn onReturn);
@@ -106,9 +106,9 @@ private:
     vlt::srs::ShownSrsList m_shown;
     vlt::srs::LastUsedSrsList m_lastUsed;
     vlt::srs::SrsContext m_context;
-    vlt::srs::SrsEntry m_reference; ///< where the reset button goes back to
-    QString m_referenceText;        ///< as setSystem() was given it; empty where it was not
-    bool m_isAsGiven = false;       ///< whether the choice is that of m_referenceText
+    vlt::srs::SrsEntry m_reference; ///< system to which the reset button returns
+    QString m_referenceText;        ///< argument of setSystem(); empty if it was not called
+    bool m_isAsGiven = false;       ///< the choice is m_referenceText
     bool m_withDefaults;
     bool m_withOther;
 };

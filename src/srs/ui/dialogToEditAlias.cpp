@@ -13,7 +13,7 @@ using vlt::srs::SrsEntry;
 
 namespace {
 
-constexpr int FieldWidth = 65; ///< in letters
+constexpr int FieldWidth = 65; ///< in average letters
 constexpr int DefinitionLines = 6;
 
 bool isSameAlias(const QString &a, const QString &b)

@@ -10,27 +10,27 @@ namespace Ui {
 class dialogToEditAlias;
 }
 
-/// Asks for the alias of a user-defined coordinate system, and where wanted for its definition.
-/// An alias that the user has given to another system is refused with a message box; case does
-/// not distinguish aliases.
+/// Asks for the alias of a user-defined coordinate system and, if requested, for its definition. A
+/// message box refuses an alias that another system has; upper and lower case are not
+/// distinguished.
 // NOLINTNEXTLINE(readability-identifier-naming): the dialog's established name
 class dialogToEditAlias : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// Asks for the alias of a new system whose definition is known.
+    /// Asks for the alias of a new system with a known definition.
     explicit dialogToEditAlias(QWidget *parent = nullptr);
     ~dialogToEditAlias() override;
 
-    /// Asks for the definition too, and starts with what a system has now: it may keep its alias.
-    /// An empty entry asks for both of a new system.
+    /// Asks for the definition too, and starts with the values of a system, which may keep its
+    /// alias. With an empty entry, asks for both values of a new system.
     void editSystem(const vlt::srs::SrsEntry &entry);
 
-    /// Without blanks around it.
+    /// The alias without blanks around it.
     QString alias() const;
 
-    /// In one line; empty where only the alias was asked for.
+    /// The definition in one line; empty if only the alias was requested.
     QString definition() const;
 
 public Q_SLOTS:

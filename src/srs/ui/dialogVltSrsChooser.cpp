@@ -27,10 +27,10 @@ using vlt::geodata::SrsKind;
 namespace {
 
 const QString GeometryKey = QStringLiteral("SrsDialog/Geometry");
-constexpr int FirstWidth = 165; ///< in letters
+constexpr int FirstWidth = 165; ///< in average letters
 constexpr int FirstHeight = 46; ///< in lines
 
-/// PROJ texts and WKT have signs that words to look for do not have.
+/// Whether a text is a PROJ text or WKT, by characters that search words do not have.
 bool isMeantAsDefinition(const QString &text)
 {
     return text.contains(u'=') || text.contains(u'[');
@@ -141,7 +141,8 @@ void dialogVltSrsChooser::createActions()
                    &dialogVltSrsChooser::removeUserDefined);
 }
 
-/// Offers what a button does to the selected row in the table's menu and by a key too.
+/// Adds the action of a button for the selected row to the context menu of the table, with a
+/// shortcut.
 void dialogVltSrsChooser::addTableAction(SrsTable *table, QAbstractButton *button,
                                          const QKeySequence &shortcut,
                                          void (dialogVltSrsChooser::*slot)())
@@ -211,7 +212,7 @@ void dialogVltSrsChooser::showLoadedSystems()
     showSelection();
 }
 
-/// Shows what is found now; the selected system stays selected if it is among it.
+/// Searches and shows the results. The selected system stays selected if it is among them.
 void dialogVltSrsChooser::search()
 {
     const std::optional<SrsEntry> selected = m_ui->m_pwTvFound->currentEntry();
@@ -229,7 +230,7 @@ void dialogVltSrsChooser::search()
         m_ui->m_pwTvFound->selectRow(m_found->rowOfCode(selected->code));
 }
 
-/// Tells how many systems are found, or what to do about a text that finds none.
+/// Shows the number of results or, if there are none, what to do.
 void dialogVltSrsChooser::showState()
 {
     const QString text = m_ui->m_pwLeSearch->text();
@@ -258,8 +259,7 @@ void dialogVltSrsChooser::showState()
     m_ui->m_pwLblState->setText(state);
 }
 
-/// The best match of a text is selected at once, so that Return takes it; without a text it is the
-/// system to start at.
+/// Selects the best match of a text, so that Return chooses it; without a text, the initial system.
 void dialogVltSrsChooser::searchText()
 {
     m_ui->m_pwTvFound->clearSelection();
@@ -271,7 +271,7 @@ void dialogVltSrsChooser::searchText()
         m_ui->m_pwTvFound->selectRow(m_found->rowOfCode(vlt::geodata::listedCode(m_current.code)));
 }
 
-/// A system that the search does not know may be one of the user's own.
+/// If the search does not know the initial system, it may be a user-defined one.
 void dialogVltSrsChooser::selectCurrent()
 {
     const int row = m_userDefined.indexOfCode(m_current.code);
@@ -284,7 +284,7 @@ void dialogVltSrsChooser::selectCurrent()
 void dialogVltSrsChooser::showEvent(QShowEvent *event)
 {
     QDialog::showEvent(event);
-    SrsTable *table = currentTable(); // its size is known only now
+    SrsTable *table = currentTable(); // its size is not known before
     if (table->currentIndex().isValid())
         table->scrollTo(table->currentIndex(), QAbstractItemView::PositionAtCenter);
 }
@@ -344,7 +344,7 @@ void dialogVltSrsChooser::addTypedDefinition()
     define({{}, {}, m_ui->m_pwLeSearch->text().simplified(), true});
 }
 
-/// Asks for a system of the user's own and selects it.
+/// Asks for a user-defined system and selects it.
 void dialogVltSrsChooser::define(const SrsEntry &start)
 {
     dialogToEditAlias dialog(this);
@@ -396,7 +396,7 @@ void dialogVltSrsChooser::removeLastUsed()
     m_ui->m_pwTvLastUsed->selectRow(std::min(row, m_lastUsed.count() - 1));
 }
 
-/// Where a user-defined system stands among the last used ones; -1 if it does not.
+/// Index of a user-defined system among the last used ones; -1 if it is not among them.
 int dialogVltSrsChooser::lastUsedIndex(const SrsEntry &userDefined) const
 {
     const int index = m_lastUsed.indexOfCode(userDefined.code);

@@ -25,26 +25,25 @@ class SrsSearchModel;
 class SrsTable;
 } // namespace vlt::srs
 
-/// Lets the user choose one coordinate system: found by words among all systems of the PROJ
-/// database, or taken from the default, the last used or the user-defined ones. The two latter
-/// lists are kept here too; their changes are saved at once, however the dialog is closed.
+/// Lets the user choose one coordinate system: by a search in the PROJ database, or from the
+/// default, the last used or the user-defined systems. The two latter lists can be edited here;
+/// their changes are saved immediately, even if the dialog is cancelled.
 ///
-/// A PROJ text or WKT in place of words is offered as a definition of the user's own. Searching is
-/// possible while the database is still being read; what was typed is then found as
-/// soon as it is there.
+/// A PROJ text or WKT instead of words can be added as a user-defined system. The user can type
+/// while the database is being read; the results appear afterwards.
 // NOLINTNEXTLINE(readability-identifier-naming): the dialog's established name
 class dialogVltSrsChooser : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// @param current  the system to start at; an empty code for none
-    /// @param context  what the system is chosen for: what fits it is listed first
+    /// @param current  the initially selected system; an empty code for none
+    /// @param context  the data for which the system is chosen; systems that fit them come first
     explicit dialogVltSrsChooser(QWidget *parent = nullptr, const vlt::srs::SrsEntry &current = {},
                                  const vlt::srs::SrsContext &context = {});
     ~dialogVltSrsChooser() override;
 
-    /// The system that the dialog was accepted with; none after it was cancelled.
+    /// The chosen system; nothing if the dialog was cancelled.
     std::optional<vlt::srs::SrsEntry> chosenEntry() const;
 
 public Q_SLOTS:
