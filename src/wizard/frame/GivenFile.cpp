@@ -41,7 +41,7 @@ FileKind kindOfFile(const QString &path)
         return FileKind::BuildingSource;
     if (links::readLinkFileInfo(path, {}))
         return FileKind::LinkTable;
-    // the page itself tells why a table cannot be read
+    // the page reports why a table cannot be read
     return isNamedTable || sites::readSiteFileInfo(path, {}) ? FileKind::SiteTable
                                                              : FileKind::Unknown;
 }

@@ -4,19 +4,19 @@
 
 namespace vlt::wizard {
 
-/// What a file is to the wizard.
+/// Kind of a file for the wizard.
 enum class FileKind {
-    Missing,        ///< there is no such file or folder
-    Project,        ///< ".gvw" in any case of letters
-    Layer,          ///< ".lay" or ".texb": what the wizard makes
-    SiteTable,      ///< a table, but not one of links
-    LinkTable,      ///< a table that can be read as one of links
+    Missing,        ///< the file or folder does not exist
+    Project,        ///< suffix ".gvw", in upper or lower case
+    Layer,          ///< suffix ".lay" or ".texb": a result of the wizard
+    SiteTable,      ///< a table, but not of links
+    LinkTable,      ///< a table of links
     BuildingSource, ///< footprints of buildings, or a raster
     Unknown
 };
 
-/// Tells what a file or folder is, by its suffix where that is enough, else by what can be read.
-/// May take as long as opening the file does.
+/// Finds the kind of a file or folder by its suffix or, if that is not sufficient, by opening it.
+/// This may take as long as opening a table.
 FileKind kindOfFile(const QString &path);
 
 } // namespace vlt::wizard

@@ -6,10 +6,10 @@
 namespace {
 
 constexpr int Padding = 12;
-constexpr int Gap = 16; ///< between picture and text
+constexpr int Gap = 16; ///< between icon and text, in pixels
 constexpr int LineGap = 6;
-constexpr int UsualCharacters = 60;
-constexpr int FewestCharacters = 30;
+constexpr int DefaultCharacters = 60;
+constexpr int MinCharacters = 30;
 constexpr double TitleScale = 1.15;
 constexpr int TextFlags = Qt::AlignLeft | Qt::TextWordWrap;
 
@@ -42,15 +42,15 @@ int LayerKindButton::heightForWidth(int width) const
 
 QSize LayerKindButton::sizeHint() const
 {
-    const int width =
-        iconSize().width() + Gap + 2 * Padding + UsualCharacters * fontMetrics().averageCharWidth();
+    const int width = iconSize().width() + Gap + 2 * Padding +
+                      DefaultCharacters * fontMetrics().averageCharWidth();
     return {width, heightForWidth(width)};
 }
 
 QSize LayerKindButton::minimumSizeHint() const
 {
-    const int width = iconSize().width() + Gap + 2 * Padding +
-                      FewestCharacters * fontMetrics().averageCharWidth();
+    const int width =
+        iconSize().width() + Gap + 2 * Padding + MinCharacters * fontMetrics().averageCharWidth();
     return {width, iconSize().height() + 2 * Padding};
 }
 

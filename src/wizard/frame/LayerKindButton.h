@@ -2,8 +2,8 @@
 
 #include <QCommandLinkButton>
 
-/// A large button with a picture, a title and a description below it. Unlike the toolkit's own it
-/// takes the fonts of the system and keeps room for the picture.
+/// A large button with an icon, a title and a description below the title. Unlike the toolkit's
+/// button, it uses the fonts of the system and reserves space for the icon.
 class LayerKindButton : public QCommandLinkButton
 {
     Q_OBJECT

@@ -42,7 +42,7 @@ void VltFirstPage::addTexbClicked()
 
 void VltFirstPage::leadTo(int id, QWidget *chosen)
 {
-    setFocusProxy(chosen); // for who comes back
+    setFocusProxy(chosen); // for a return to this page
     m_nextId = m_ids.project;
     Q_EMIT nextPageSelected(id);
     wizard()->next();

@@ -8,14 +8,14 @@ namespace Ui {
 class FirstPage;
 }
 
-/// The page on which the user chooses the kind of layer with one of three buttons, which at once
-/// lead on to the project page. The wizard's Next button does not.
+/// The page on which the user chooses the kind of layer. Each of its three buttons opens the
+/// project page immediately; the wizard's Next button does not.
 class VltFirstPage : public QWizardPage
 {
     Q_OBJECT
 
 public:
-    /// Wizard ids of the pages that the buttons lead to.
+    /// Wizard ids of the pages that the buttons open.
     struct PageIds
     {
         int project = -1;
@@ -38,7 +38,7 @@ public Q_SLOTS:
     void addTexbClicked();
 
 Q_SIGNALS:
-    /// The page that is to follow the project page.
+    /// The page that follows the project page was chosen.
     void nextPageSelected(int id);
 
 private:

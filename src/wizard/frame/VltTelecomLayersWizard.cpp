@@ -26,9 +26,9 @@ namespace {
 
 const QString GeometryKey = QStringLiteral("mainGeometry");
 
-// Room for the settings of a result page beside its preview.
+// Enough for the settings of a result page and its preview.
 constexpr QSize ComfortableSize(1180, 680);
-// What a window manager may put around a window, roughly.
+// Approximate size of the window frame.
 constexpr QSize FrameAllowance(20, 60);
 
 } // namespace
@@ -42,12 +42,12 @@ VltTelecomLayersWizard::VltTelecomLayersWizard(const QString &installDir, const 
     setWindowTitle(tr("Add sites, links and predictions wizard", "MESS_TELECOM_LAYERS"));
     setWindowFlag(Qt::WindowMinMaxButtonsHint);
     setWizardStyle(QWizard::ModernStyle);
-    restorePlace();
+    restoreWindowGeometry();
     setOption(QWizard::NoBackButtonOnStartPage);
     setOption(QWizard::NoDefaultButton);
     setUpButtons();
     addPages();
-    // queued: the page is not visible yet when it becomes the current one
+    // queued, because the page becomes visible after it becomes the current one
     connect(this, &QWizard::currentIdChanged, this, &VltTelecomLayersWizard::focusPage,
             Qt::QueuedConnection);
     connect(this, &QWizard::currentIdChanged, this, &VltTelecomLayersWizard::openOnPage,
@@ -55,21 +55,21 @@ VltTelecomLayersWizard::VltTelecomLayersWizard(const QString &installDir, const 
     restart();
 }
 
-void VltTelecomLayersWizard::restorePlace()
+void VltTelecomLayersWizard::restoreWindowGeometry()
 {
-    const QByteArray place = vlt::platform::wizardSettings()->value(GeometryKey).toByteArray();
-    const bool restored = restoreGeometry(place);
+    const QByteArray stored = vlt::platform::wizardSettings()->value(GeometryKey).toByteArray();
+    const bool restored = restoreGeometry(stored);
     const QRect available = screen()->availableGeometry();
     const QSize room = available.size() - FrameAllowance;
     if (!restored) {
         resize(ComfortableSize.boundedTo(room));
-    } else if (!isMaximized() && size() != size().boundedTo(room)) { // left by a larger screen
+    } else if (!isMaximized() && size() != size().boundedTo(room)) { // stored with a larger screen
         resize(size().boundedTo(room));
         move(available.topLeft());
     }
 }
 
-void VltTelecomLayersWizard::savePlace() const
+void VltTelecomLayersWizard::saveWindowGeometry() const
 {
     vlt::platform::wizardSettings()->setValue(GeometryKey, saveGeometry());
 }
@@ -114,7 +114,7 @@ void VltTelecomLayersWizard::addPageAs(LogicalPage logical, QWizardPage *page)
     m_pageIds[static_cast<std::size_t>(logical)] = addPage(page);
 }
 
-/// In the order of the wizard ids, which is not that of the logical pages.
+/// Adds the pages in the order of their wizard ids, which is not that of the logical pages.
 void VltTelecomLayersWizard::addBuildingPages()
 {
     auto *source = new VltAddTexbFirstPage(this, m_parameters, m_installDir, m_language);
@@ -137,7 +137,8 @@ void VltTelecomLayersWizard::setNextIdOfSecondPage(int id)
     second->selectFirstProject();
 }
 
-/// A page that needs more room than the ones before makes the window grow to the right.
+/// Moves the window back on the screen: a page that needs more space than the previous ones extends
+/// it to the right and downwards.
 void VltTelecomLayersWizard::keepOnScreen()
 {
     const QRect available = screen()->availableGeometry();
@@ -149,7 +150,7 @@ void VltTelecomLayersWizard::keepOnScreen()
              qMax(available.top(), pos().y() - beyondBottom));
 }
 
-/// Puts the keyboard where the page wants it: its focus proxy.
+/// Gives the keyboard focus to the focus proxy of the page.
 void VltTelecomLayersWizard::focusPage()
 {
     keepOnScreen();
@@ -161,14 +162,14 @@ void VltTelecomLayersWizard::openFile(const QString &path)
 {
     using vlt::wizard::FileKind;
     const QString file = QFileInfo(vlt::project::typedPath(path)).absoluteFilePath();
-    const auto kind = vlt::wizard::waitForValue<FileKind>(
-        this, tr("Looking at the file...", "MESS_LOOKING_AT_FILE"),
-        [file] { return vlt::wizard::kindOfFile(file); });
-    const auto tell = [this, &file](const char *key, const char *text) {
+    const auto kind =
+        vlt::wizard::waitForValue<FileKind>(this, tr("Reading the file...", "MESS_LOOKING_AT_FILE"),
+                                            [file] { return vlt::wizard::kindOfFile(file); });
+    const auto warn = [this, &file](const char *key, const char *text) {
         vlt::messages::warning(this, {QString::fromLatin1(key), QString::fromUtf8(text), file},
                                tr("Warning", "MESS_ATTENTION"));
     };
-    if (!kind) // the user stopped it
+    if (!kind) // cancelled by the user
         return;
     switch (*kind) {
     case FileKind::Project:
@@ -181,12 +182,12 @@ void VltTelecomLayersWizard::openFile(const QString &path)
     case FileKind::BuildingSource:
         return leadToPageOf(LogicalPage::BuildingsSource, file);
     case FileKind::Layer:
-        return tell("MESS_FILE_IS_LAYER",
+        return warn("MESS_FILE_IS_LAYER",
                     "This layer is finished: drag its file into Veltaro Builder");
     case FileKind::Missing:
-        return tell("MESS_FILE_IS_MISSING", "This file does not exist");
+        return warn("MESS_FILE_IS_MISSING", "This file does not exist");
     case FileKind::Unknown:
-        return tell("MESS_FILE_IS_UNKNOWN", "This file is neither a project nor a table of sites "
+        return warn("MESS_FILE_IS_UNKNOWN", "This file is neither a project nor a table of sites "
                                             "or links, footprints of buildings or a raster");
     }
 }
@@ -202,11 +203,11 @@ void VltTelecomLayersWizard::leadToPageOf(LogicalPage logical, const QString &pa
         first->addLinkClicked();
     else
         first->addTexbClicked();
-    if (currentPage()->isComplete()) // else the user chooses a project first
+    if (currentPage()->isComplete()) // otherwise the user has to choose a project first
         next();
 }
 
-/// The page takes the file as if it were dropped on it.
+/// Opens the file on the page as if it were dropped on it.
 void VltTelecomLayersWizard::openOnPage()
 {
     if (currentId() != m_pageToOpenIt || m_fileToOpen.isEmpty())
@@ -217,13 +218,13 @@ void VltTelecomLayersWizard::openOnPage()
 
 void VltTelecomLayersWizard::closeEvent(QCloseEvent *event)
 {
-    savePlace();
+    saveWindowGeometry();
     QWizard::closeEvent(event);
 }
 
 void VltTelecomLayersWizard::done(int result)
 {
-    savePlace();
+    saveWindowGeometry();
     QWizard::done(result);
 }
 

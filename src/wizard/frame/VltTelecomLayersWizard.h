@@ -7,14 +7,14 @@
 
 #include <array>
 
-/// The program's window: owns all pages, decides their order, remembers its place on the screen and
+/// The program's window: owns all pages, defines their order, stores its position on the screen and
 /// asks before it closes.
 class VltTelecomLayersWizard : public QWizard
 {
     Q_OBJECT
 
 public:
-    /// The pages as the program speaks of them. Their wizard ids differ: see pageId().
+    /// The pages by their meaning. Their wizard ids are different, see pageId().
     enum class LogicalPage {
         First,
         Project,
@@ -34,26 +34,26 @@ public:
     /// Wizard id of a page; those of the coloured and the textured buildings are 6 and 5.
     int pageId(LogicalPage page) const { return m_pageIds[static_cast<std::size_t>(page)]; }
 
-    /// Takes a file that was named when the program was started: a project is offered first on the
-    /// project page; a table, a raster or footprints lead to their page, with the first recent
-    /// project where there is one. A box names the reason for any other file.
+    /// Opens the file of the command line. A project becomes the first one on the project page. A
+    /// table, a raster or footprints are opened on their page, with the first recent project if
+    /// there is one. For any other file, a message box gives the reason.
     void openFile(const QString &path);
 
 public Q_SLOTS:
-    /// Sets what follows the project page and offers the first recent project there.
+    /// Sets the page that follows the project page and selects the first recent project there.
     void setNextIdOfSecondPage(int id);
 
     void done(int result) override;
 
-    /// Asks whether to quit; on No nothing happens.
+    /// Asks whether to quit; No has no effect.
     void reject() override;
 
 protected:
     void closeEvent(QCloseEvent *event) override;
 
 private:
-    void restorePlace();
-    void savePlace() const;
+    void restoreWindowGeometry();
+    void saveWindowGeometry() const;
     void setUpButtons();
     void addPages();
     void addPageAs(LogicalPage logical, QWizardPage *page);
@@ -67,6 +67,6 @@ private:
     QString m_installDir;
     QString m_language;
     SharedParameters m_parameters;
-    QString m_fileToOpen; ///< as soon as m_pageToOpenIt is shown
+    QString m_fileToOpen; ///< when the page m_pageToOpenIt is shown
     int m_pageToOpenIt = -1;
 };

@@ -15,8 +15,8 @@ namespace vlt::project {
 
 namespace {
 
-/// Bytes; more is no project but something else that was chosen.
-constexpr qint64 LargestProject = 16 << 20;
+/// Maximum size in bytes; a larger file is not a project.
+constexpr qint64 MaxProjectSize = 16 << 20;
 constexpr QLatin1String TerrainSection("DEM Layers");
 constexpr QLatin1String TerrainFiles("Files :");
 constexpr QLatin1String Projection("Reference Projection :");
@@ -31,12 +31,12 @@ Result<QString> readProject(const QString &path)
             QStringLiteral("MESS_ERR_NOM_FICHIER"), QStringLiteral("Invalid file name"), {}};
 
     QFile file(path);
-    // only regular files: reading a pipe or a device might never end
+    // only regular files, because reading a pipe or a device may never end
     if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
         return Error{QStringLiteral("MESS_OUV_PRJ_IMP"), QStringLiteral("Cannot open project"),
                      path};
-    const QByteArray bytes = file.read(LargestProject);
-    // editors of some systems save texts in UTF-16, with a mark at the start
+    const QByteArray bytes = file.read(MaxProjectSize);
+    // some editors save texts in UTF-16 with a byte order mark
     const auto encoding = QStringConverter::encodingForData(bytes);
     return encoding && *encoding != QStringConverter::Utf8
                ? QString(QStringDecoder(*encoding).decode(bytes))
@@ -49,7 +49,8 @@ QString restOfLine(const QString &text, qsizetype from)
     return text.mid(from, end < 0 ? -1 : end - from).trimmed();
 }
 
-/// A project may come from a system that writes "a\b": there both separators mean the same.
+/// Absolute path of a file in a project. A project may come from a system that writes "a\b", where
+/// both separators are equivalent.
 QString absoluteBesideProject(const QString &file, const QString &projectPath)
 {
     if (file.isEmpty())
@@ -69,8 +70,8 @@ qsizetype afterTerrainLabel(const QString &text)
     return label < 0 ? -1 : label + TerrainFiles.size();
 }
 
-/// Position after the first `label`, in any case, that stands after a line feed at or after `from`
-/// with nothing but white space between; or -1.
+/// Position after the first `label` at or after `from`, in upper or lower case, that is at the
+/// start of a line apart from white space; or -1.
 qsizetype afterLineLabel(const QString &text, QLatin1String label, qsizetype from)
 {
     for (qsizetype at = text.indexOf(label, from, Qt::CaseInsensitive); at >= 0;
@@ -98,11 +99,11 @@ QString firstBuildingFile(const QString &text)
     while (true) {
         const qsizetype layer = text.indexOf(VectorLayer, from);
         const qsizetype fileAt = layer < 0 ? -1 : afterLineLabel(text, LayerFile, layer);
-        if (fileAt < 0) // a layer without a file label would be found again for ever
+        if (fileAt < 0) // otherwise this layer would be found again endlessly
             return {};
         QString file = restOfLine(text, fileAt);
         const qsizetype nameAt = afterLineLabel(text, LayerName, fileAt);
-        if (nameAt < 0) // nor can a later layer have a name
+        if (nameAt < 0) // no later layer has a name either
             return {};
         if (!file.isEmpty() && looksLikeBuildings(restOfLine(text, nameAt)))
             return file;
@@ -140,7 +141,7 @@ QString referenceProjection(const QString &projectPath)
     const qsizetype label = section < 0 ? -1 : text.indexOf(Projection, section);
     if (label < 0)
         return {};
-    // the value also ends where the label is repeated on the same line
+    // the value also ends at a second label on the same line
     return restOfLine(text, label + Projection.size()).section(Projection, 0, 0).trimmed();
 }
 

@@ -5,14 +5,14 @@
 
 namespace vlt::project {
 
-/// Paths of the projects that can be offered, existing files only: the builder's current one, then
-/// the ten that the builder's settings remember, latest first, each once.
+/// Paths of the recent projects that exist, without repetition: the builder's current one, then the
+/// ten in the builder's settings, latest first.
 ///
-/// @param currentProject  the project open in the builder, may be empty
+/// @param currentProject  the project that is open in the builder; may be empty
 QStringList recentProjects(const QString &currentProject);
 
-/// What a list shows of a project: the file's base name, and day ("dd/MM/yyyy") and time ("hh:mm")
-/// of its last change, on a line each.
+/// The text for a project in a list: base name, day ("dd/MM/yyyy") and time ("hh:mm") of the last
+/// change, on three lines.
 QString projectCaption(const QString &path);
 
 } // namespace vlt::project

@@ -48,8 +48,8 @@
         <translation>no window can be opened here%1; vltlayers makes the same layers without one</translation>
     </message>
     <message id="MESS_LOOKING_AT_FILE">
-        <source>Looking at the file...</source>
-        <translation>Looking at the file...</translation>
+        <source>Reading the file...</source>
+        <translation>Reading the file...</translation>
     </message>
     <message id="MESS_FILE_IS_LAYER">
         <source>This layer is finished: drag its file into Veltaro Builder</source>

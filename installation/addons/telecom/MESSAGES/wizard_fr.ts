@@ -48,8 +48,8 @@
         <translation>aucune fenêtre ne peut être ouverte ici%1&#xa0;; vltlayers produit les mêmes couches sans fenêtre</translation>
     </message>
     <message id="MESS_LOOKING_AT_FILE">
-        <source>Looking at the file...</source>
-        <translation>Examen du fichier...</translation>
+        <source>Reading the file...</source>
+        <translation>Lecture du fichier...</translation>
     </message>
     <message id="MESS_FILE_IS_LAYER">
         <source>This layer is finished: drag its file into Veltaro Builder</source>

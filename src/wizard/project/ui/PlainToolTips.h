@@ -2,8 +2,8 @@
 
 #include <QStyledItemDelegate>
 
-/// Shows the tool tips of a list's items as they stand: they are paths, and a path may look like a
-/// text with tags.
+/// Shows the tool tips of list items as plain text, because a path may contain characters that look
+/// like tags.
 class PlainToolTips : public QStyledItemDelegate
 {
     Q_OBJECT

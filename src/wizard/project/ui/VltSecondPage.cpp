@@ -23,7 +23,7 @@ const QString LastUsedDir = QStringLiteral("LastUsedDir");
 
 bool isReadableFile(const QString &path)
 {
-    // only regular files: opening a pipe might never end
+    // only regular files, because opening a pipe may never end
     return QFileInfo(path).isFile() && QFile(path).open(QIODevice::ReadOnly);
 }
 
@@ -103,7 +103,8 @@ QString VltSecondPage::typedProject() const
     return project::typedPath(m_ui->m_pwLeProjectName->text());
 }
 
-/// Any file may be chosen; one in which nothing is found is most likely another one than was meant.
+/// Shows a notice for a file without any project data. It can be chosen, but is probably the wrong
+/// one.
 void VltSecondPage::showNotice()
 {
     const QString path = typedProject();
@@ -115,7 +116,7 @@ void VltSecondPage::showNotice()
                 .arg(QFileInfo(path).fileName(), project::namesNothingText()));
 }
 
-/// Only the project of the line edit is shown as selected.
+/// Shows an item as selected only if its project is the one in the line edit.
 void VltSecondPage::showWhichProject(const QString &path)
 {
     QListWidget *list = m_ui->m_pwLwRecentProjects;

@@ -10,8 +10,8 @@ namespace Ui {
 class SecondPage;
 }
 
-/// The page on which the user picks the builder project that the layer will be loaded into: from
-/// the recent ones, with a file dialog, by typing or by dropping it. Publishes "ProjectName".
+/// The page on which the user chooses the builder project for the layer: from the recent ones, with
+/// a file dialog, by typing a path or by dropping a file. Publishes "ProjectName".
 class VltSecondPage : public BasePage
 {
     Q_OBJECT
@@ -23,24 +23,24 @@ public:
 
     int nextId() const override { return m_nextId; }
 
-    /// Sets the page that follows; -1 for none.
+    /// Sets the id of the next page; -1 for none.
     void setNextId(int id) { m_nextId = id; }
 
-    /// Puts a project before the recent ones and chooses it.
+    /// Adds a project before the recent ones and selects it.
     void offerProject(const QString &path);
 
-    /// Makes the first recent project the current one, where there is one.
+    /// Selects the first recent project, if there is one.
     void selectFirstProject();
 
-    /// Refuses, with a message, a project that is no regular file or cannot be read; a pasted text
-    /// becomes the path that it stands for.
+    /// Refuses, with a message, a project that is not a regular file or cannot be read. Replaces a
+    /// pasted text by its path.
     bool validatePage() override;
 
-    /// Remembers the last used directory and publishes the project.
+    /// Stores the last used directory and publishes the project.
     void saveSettings() override;
     void restoreSettings() override;
 
-    /// Takes files with the suffix "gvw", in this very case.
+    /// Accepts files with the suffix "gvw" in lower case.
     void droppedFile(const QString &path) override;
 
 public Q_SLOTS:
@@ -49,7 +49,7 @@ public Q_SLOTS:
     void projectDoubleClicked(QListWidgetItem *item);
 
 protected:
-    /// Enter in the list or the line edit goes on, like Next.
+    /// Enter in the list or in the line edit continues, like Next.
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
