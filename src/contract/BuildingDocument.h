@@ -18,24 +18,24 @@ inline constexpr ChosenNumber<int> CacheCapacity{1, 1000000, 100}; ///< elements
 inline constexpr ChosenNumber<double> TextureBufferM{0, 1000, 1};
 inline constexpr ChosenNumber<int> TextureDilatationPixels{1, 100, 1};
 
-/// Colours of a first run.
+/// Colours that a first run offers.
 inline constexpr char FirstWallColor[] = "#d9d4c7";
 inline constexpr char FirstRoofColor[] = "#b5634c";
 inline constexpr char FirstEdgeColor[] = "#404040";
 
-/// What a builder keeps of the buildings that it has made.
+/// Which of the buildings that it has made a builder keeps.
 enum class CacheMode { None, All, Textured, Extruded };
 inline constexpr const char *CacheModeWords[] = {"none", "all", "textured", "extruded"};
 
-/// Which part of a building has the image.
+/// The part of a building that an image covers.
 enum class TextureMode { Roofs, Walls, Storeys };
 inline constexpr const char *TextureModeWords[] = {"roofs", "walls", "storeys"};
 
-/// How images lie in graphics memory.
+/// How images are compressed in graphics memory.
 enum class TextureCompression { None, Arb, Dxt1, Dxt3, Dxt5 };
 inline constexpr const char *TextureCompressionWords[] = {"none", "arb", "dxt1", "dxt3", "dxt5"};
 
-/// How pixels are drawn from near: as squares, or blended.
+/// How the pixels of an image are drawn at a short distance: as squares, or blended.
 enum class MagFilter { None, Linear };
 inline constexpr const char *MagFilterWords[] = {"none", "linear"};
 
@@ -44,23 +44,24 @@ struct BuildingCache
 {
     CacheMode mode = CacheMode::None;
     bool delayedWrite = false;
-    int capacity = CacheCapacity.firstRun; ///< elements that wait for being written
+    int capacity = CacheCapacity.firstRun; ///< elements that may wait to be written
 
     bool operator==(const BuildingCache &) const = default;
 };
 
-/// The element "vector": the footprints and how they are extruded. A document that says nothing of
-/// a number has the value that stands here.
+/// The element "vector": the footprints and how they are extruded. A number that a document leaves
+/// out has the default given here.
 struct BuildingFootprints
 {
     std::string file;  ///< vector dataset
-    std::string layer; ///< empty: the first
+    std::string layer; ///< empty: the first layer
     std::string heightField;
     double tileSizeM = TileSizeM.firstRun;
-    double extrudedVisibilityM = ExtrudedVisibilityM.firstRun; ///< up to which they are shown
-    double texturedVisibilityM = 0;                            ///< up to which images are shown
-    std::string wallColor; ///< "#RRGGBB" or a text of RasterColors.h; empty: the reader's own
-    std::string roofColor; ///< the same; empty: that of the walls
+    double extrudedVisibilityM =
+        ExtrudedVisibilityM.firstRun; ///< distance up to which they are shown
+    double texturedVisibilityM = 0;   ///< the same for their images
+    std::string wallColor; ///< "#RRGGBB" or a text of RasterColors.h; empty: the reader's default
+    std::string roofColor; ///< the same; empty: the colour of the walls
     double skirtHeightM = 0;
     bool checkClockwise = false;
 
@@ -79,22 +80,23 @@ struct BuildingTerrain
 /// An element "texture": a georeferenced image at a height above ground.
 struct BuildingImage
 {
-    std::string path; ///< or the geodata library's name of a part of a file
+    std::string path; ///< of a file, or the geodata library's name of a part of one
     double heightM = 0;
 
     bool operator==(const BuildingImage &) const = default;
 };
 
-/// The element "textures": how images lie on the buildings.
+/// The element "textures": how images are put on the buildings.
 struct BuildingTextures
 {
     TextureMode mode = TextureMode::Roofs;
-    std::string edgeColor; ///< "#RRGGBB"; empty: none
+    std::string edgeColor; ///< "#RRGGBB"; empty: no colour
     bool forceEdgeCreation = false;
     bool processComplexBuildings = false;
-    TextureCompression compression = TextureCompression::None; ///< none is not written
-    std::optional<double> bufferM;          ///< how far from a wall its image is taken
-    std::optional<double> dilatationPixels; ///< how far colours grow into pixels that have none
+    TextureCompression compression = TextureCompression::None; ///< None is not written
+    std::optional<double> bufferM; ///< distance from a wall at which its image is taken
+    std::optional<double>
+        dilatationPixels; ///< distance by which colours grow into pixels without one
     MagFilter magFilter = MagFilter::None;
     std::vector<BuildingImage> images;
 
@@ -107,14 +109,14 @@ struct BuildingDocument
     BuildingCache cache;
     BuildingFootprints footprints;
     BuildingTerrain terrain;
-    std::optional<BuildingTextures> textures; ///< none: no images
+    std::optional<BuildingTextures> textures; ///< nothing: no images
 
     bool operator==(const BuildingDocument &) const = default;
 };
 
 inline constexpr char BuildingDocumentSuffix[] = ".texb";
 
-/// What the source of a layer of buildings starts with, before the path of its document.
+/// Start of the source of a layer of buildings; the path of the document follows.
 inline constexpr char BuildingSourcePrefix[] = "TEXB:";
 
 /// Names of the elements and attributes. Values stand in a document as they are, without escaping.
@@ -126,14 +128,15 @@ inline constexpr char DelayedCacheWrite[] = "delayedCacheWrite";
 inline constexpr char DelayedCacheWriteCapacity[] = "delayedCacheWriteCapacity";
 
 inline constexpr char VectorElement[] = "vector";
-inline constexpr char FileName[] = "filename"; ///< also of "elevation" and "texture"
+inline constexpr char FileName[] = "filename"; ///< also in "elevation" and "texture"
 inline constexpr char Layer[] = "layer";
 inline constexpr char HeightField[] = "hfield";
 inline constexpr char TileSize[] = "tileSize";
 inline constexpr char ExtrudedVisibility[] = "extrudedVisibility";
-inline constexpr char TexturedVisibility[] = "texturedVisibility"; ///< not where a raster colours
+inline constexpr char TexturedVisibility[] =
+    "texturedVisibility"; ///< absent where a raster colours
 inline constexpr char WallColor[] = "wallColor";
-inline constexpr char RoofColor[] = "roofColor"; ///< not where a raster colours
+inline constexpr char RoofColor[] = "roofColor"; ///< absent where a raster colours
 inline constexpr char SkirtHeight[] = "skirtHeight";
 inline constexpr char CheckClockwise[] = "checkClockwise";
 

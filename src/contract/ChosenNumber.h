@@ -11,7 +11,7 @@ struct Range
     constexpr bool contains(double number) const { return number >= minimum && number <= maximum; }
 };
 
-/// A number that a user may choose, and what a first run offers.
+/// The range of a number that a user chooses, and its default in a first run.
 template<typename Number>
 struct ChosenNumber
 {

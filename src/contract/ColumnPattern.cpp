@@ -9,7 +9,7 @@ namespace vlt::contract {
 
 namespace {
 
-/// Nobody names a column so; what a hostile file makes a pattern try stays cheap.
+/// Real names are shorter. The limit keeps matching cheap for hostile files.
 constexpr std::size_t MaxNameBytes = 1000;
 
 struct MatchRelease
@@ -60,7 +60,7 @@ bool ColumnPattern::matches(std::string_view name) const
 
 std::string plainColumnName(std::string_view name)
 {
-    static const ColumnPattern anyText(".*"); // only what is not UTF-8 does not match
+    static const ColumnPattern anyText(".*"); // matches all valid UTF-8
     constexpr std::string_view NoBreakSpace = "\u00a0";
     std::string plain = anyText.matches(name) ? std::string(name) : fromLatin1(name);
     for (std::size_t at = plain.find(NoBreakSpace); at != std::string::npos;

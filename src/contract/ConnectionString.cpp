@@ -10,7 +10,7 @@ namespace vlt::contract {
 
 namespace {
 
-constexpr size_t MaxPathSize = 4096; ///< bytes; no file has a longer name
+constexpr size_t MaxPathSize = 4096; ///< bytes; longer names of files do not exist
 
 using Keys = std::set<std::string_view>;
 
@@ -22,7 +22,7 @@ bool exists(const std::string &path, const std::string &baseDirectory)
     return std::filesystem::exists(std::filesystem::path(baseDirectory) / path, error);
 }
 
-/// The key of the option that starts `text`; empty where none does.
+/// The key of the option at the start of `text`; empty where `text` starts with no option.
 std::string_view keyAt(std::string_view text)
 {
     for (const QueryOption &option : QueryOptions)
@@ -32,10 +32,10 @@ std::string_view keyAt(std::string_view text)
     return {};
 }
 
-/// Where the value of `key` that starts `text` ends because another option follows; npos where none
-/// does.
+/// End of the value of `key`, which starts `text`, where another option follows; npos where no
+/// option follows.
 ///
-/// @param seen  keys that have occurred; no option follows a second time
+/// @param seen  keys that have occurred; none of them counts as an option again
 size_t endBeforeNextOption(std::string_view text, std::string_view key, const Keys &seen)
 {
     if (key == query::TerrainFile) // always the last option
@@ -44,7 +44,7 @@ size_t endBeforeNextOption(std::string_view text, std::string_view key, const Ke
          comma = text.find(',', comma + 1)) {
         const std::string_view next = keyAt(text.substr(comma + 1));
         const bool follows = !next.empty() && seen.count(next) == 0;
-        if (key == query::Lods) // only the terrain follows: other commas belong to the path
+        if (key == query::Lods) // only the terrain can follow: other commas belong to the path
             return follows && next == query::TerrainFile ? comma : std::string_view::npos;
         if (follows)
             return comma;
@@ -52,8 +52,8 @@ size_t endBeforeNextOption(std::string_view text, std::string_view key, const Ke
     return std::string_view::npos;
 }
 
-/// Where the value that starts `text` may end: at commas outside brackets and quotation marks, as
-/// WKT has them.
+/// Positions where the value that starts `text` may end: the commas outside brackets and quotation
+/// marks, because a WKT text has commas within these.
 std::vector<size_t> valueEnds(std::string_view text)
 {
     std::vector<size_t> ends;
@@ -70,19 +70,19 @@ std::vector<size_t> valueEnds(std::string_view text)
         else if (c == ',' && !quoted && depth <= 0)
             ends.push_back(at);
     }
-    if (ends.empty()) // brackets that never close
+    if (ends.empty()) // for instance because a bracket is never closed
         for (size_t at = text.find(','); at != std::string_view::npos; at = text.find(',', at + 1))
             ends.push_back(at);
     return ends;
 }
 
-/// Where the value of the last option, which starts `text`, ends before the path of the table.
+/// End of the value of the last option, which starts `text`; the path of the table follows.
 size_t endBeforePath(std::string_view text, std::string_view key, const std::string &baseDirectory)
 {
     const std::vector<size_t> ends = valueEnds(text);
     if (ends.empty())
         return text.size();
-    if (key == query::TerrainFile) // itself a path that may hold commas
+    if (key == query::TerrainFile) // a path, which may contain commas
         for (const size_t end : ends)
             if (text.size() - end <= MaxPathSize &&
                 exists(std::string(text.substr(end + 1)), baseDirectory))
@@ -110,7 +110,7 @@ std::optional<ConnectionString> parseConnection(std::string_view text,
     connection.kind = *kind;
     std::string_view rest = text.substr(connectionPrefix(*kind).size());
     Keys seen;
-    // A file may be called "lods=1.csv": what names a file as it stands is a path.
+    // A file may be called "lods=1.csv": the name of an existing file is the path.
     while (!exists(std::string(rest), baseDirectory)) {
         const std::string_view key = keyAt(rest);
         if (key.empty() || !seen.insert(key).second)

@@ -10,40 +10,43 @@
 
 namespace vlt::contract {
 
-/// A query of sites or links taken apart: "site:key=value,key=value,path". It is at the same time
-/// the connection string from which the table driver reads. QueryOptions.h has the keys.
+/// The parts of a query of sites or links: "site:key=value,key=value,path". The query is also the
+/// connection string of the table driver. QueryOptions.h has the keys.
 ///
-/// Nothing in it is escaped. A value reaches up to the next known key, so that commas inside a
-/// coordinate system's WKT stay; the path is what follows the last known option, with all its
-/// commas, "=" and "%".
+/// Nothing in it is escaped. A value reaches up to the next known key, so that the commas in the
+/// WKT of a coordinate system belong to the value. The path is all that follows the last known
+/// option, with its commas, "=" and "%".
 struct ConnectionString
 {
     TableKind kind = TableKind::Sites;
     std::vector<std::pair<std::string, std::string>> options;
-    std::string path; ///< bytes of the file name, perhaps relative to the project's directory
+    std::string path; ///< as bytes of the file system; may be relative to the project's directory
 
-    /// Value of an option; empty when it is not there.
+    /// Value of an option; empty where the option is missing.
     std::string option(std::string_view key) const;
 };
 
-/// Takes a connection string apart. Reading from the left,
-/// - what names an existing file as it stands is the path, even if it looks like an option;
+/// Splits a connection string into its parts. From left to right:
+/// - if the whole rest names an existing file, it is the path, even if it starts like an option;
 /// - the value of an option ends before the next known key that has not occurred yet;
-/// - without one it ends at the first comma outside brackets and quotation marks, and the path
-///   follows. "dem_file", a path itself, ends at a comma behind which an existing file is named;
-/// - behind "lods" only "dem_file" can follow, so that a path may hold texts like options;
-/// - a key that nobody knows, or that occurs again, starts the path.
+/// - if no such key follows, the value ends at the first comma outside brackets and quotation
+/// marks,
+///   and the path follows. The value of "dem_file", itself a path, ends at the first comma after
+///   which an existing file is named;
+/// - after "lods" only "dem_file" can follow, so that a path may contain texts like options;
+/// - an unknown key, or one that occurs again, starts the path.
 ///
-/// @param baseDirectory  where relative paths start; the working directory where it is empty
+/// @param baseDirectory  directory to which paths are relative; empty: the working directory
 /// @return  nothing where the text starts with neither "site:" nor "link:", in any case of letters
 std::optional<ConnectionString> parseConnection(std::string_view text,
                                                 const std::string &baseDirectory = {});
 
-/// Puts the parts together again.
+/// The text of a connection string with these parts.
 std::string composeConnection(const ConnectionString &connection);
 
-/// The same connection with relative paths, of the table and of "dem_file", made absolute against
-/// `baseDirectory`; unchanged when it is none.
+/// The same connection string with the paths of the table and of "dem_file" made absolute:
+/// relative ones start at `baseDirectory`. Unchanged where `text` is not a connection string or
+/// `baseDirectory` is empty.
 std::string resolvedConnection(std::string_view text, const std::string &baseDirectory);
 
 } // namespace vlt::contract

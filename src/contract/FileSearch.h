@@ -8,9 +8,10 @@ namespace vlt::contract {
 /// Environment variable with the path of the project that is open in the builder.
 inline constexpr char CurrentProjectVariable[] = "VLT_CURRENT_PROJECT";
 
-/// The folders in which a file of a relative name is looked for that a layer or a building document
-/// names, absolute, in their order: of the project file that the caller names, of the project in
-/// CurrentProjectVariable, of the layer or document itself, and the working directory.
+/// The absolute paths of the folders to which a relative path in a layer or a building document may
+/// refer, in the order of the search: the folder of the project file given by the caller, the
+/// folder of the project in CurrentProjectVariable, the folder of the layer or document itself, the
+/// working directory.
 ///
 /// @param file     path of the layer or document
 /// @param project  path of a project file; may be empty

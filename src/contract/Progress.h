@@ -4,8 +4,8 @@
 
 namespace vlt {
 
-/// What long work calls now and then with the share that is done (0..1), on any of its threads;
-/// false stops it. Empty where nobody listens.
+/// Callback of a long operation, called repeatedly with the share that is done (0..1), on any of
+/// the operation's threads. It returns false to stop the operation. It may be empty.
 using Progress = std::function<bool(double)>;
 
 } // namespace vlt

@@ -9,39 +9,42 @@
 #include <string_view>
 
 /// The options of the query that a layer of sites or of links carries ("site:key=value,...,path",
-/// see ConnectionString.h): their keys, the numbers and words in their values, and what a first run
-/// offers. The wizard and the command line write them, the scene readers and the table driver read
-/// them. The scene's readers accept wider ranges of some numbers: they have reasons of their own.
+/// see ConnectionString.h): their keys, the numbers and words in their values, and the defaults of
+/// a first run. The wizard and the command line write them, the scene readers and the table driver
+/// read them. The scene readers accept wider ranges of some numbers, because they also read queries
+/// that other versions or programs wrote.
 namespace vlt::contract {
 
-// Keys. The numbers of an option stand below its key; an option of several numbers has them in this
-// order, with blanks between them.
+// Keys, each followed by the numbers of its option. The value of an option with several numbers has
+// them in this order, separated by blanks.
 namespace query {
 
-inline constexpr char SourceSystem[] = "s_srs"; ///< system of the table; not where it is unknown
-inline constexpr char TargetSystem[] = "t_srs"; ///< system of the project; not where it is unknown
+inline constexpr char SourceSystem[] = "s_srs";     ///< system of the table; absent if unknown
+inline constexpr char TargetSystem[] = "t_srs";     ///< system of the project; absent if unknown
 inline constexpr char DataFolder[] = "data_folder"; ///< always PylonFolder of Installation.h
 inline constexpr char PylonType[] = "pylon_type";   ///< a type of the pylon catalogue
 
 inline constexpr char PylonWidth[] = "pylon_width";
 inline constexpr ChosenNumber<double> PylonWidthM{0.1, 150, 2.5};
 
-/// One colour or more, "rrggbbaa", with blanks between them. The transparency goes into the alphas.
+/// One or more colours "rrggbbaa", separated by blanks. The transparency determines their alpha.
 inline constexpr char SectorColors[] = "sector_colors";
 inline constexpr ChosenNumber<int> TransparencyPercent{0, 100, 0};
 
 inline constexpr char SectorProperties[] = "sector_properties";
-inline constexpr ChosenNumber<double> SectorRadiusM{0.01, 1e8, 200}; ///< its whole part is written
+inline constexpr ChosenNumber<double> SectorRadiusM{0.01, 1e8,
+                                                    200}; ///< only its integer part is written
 inline constexpr ChosenNumber<double> SectorHeightM{0.01, 1e8, 20};
 inline constexpr ChosenNumber<double> SectorSpacingM{0, 1e9, 2}; ///< vertical
 
-/// How the line of sight is drawn: a word of LinkStyleWords.
+/// One of LinkStyleWords: how the line of sight is drawn.
 inline constexpr char LinkStyle[] = "link_style";
 
 inline constexpr char LinkWidth[] = "link_width";
-inline constexpr ChosenNumber<double> LinkWidthPixelsOrM{0.1, 1000, 2}; ///< see contract::LinkStyle
+inline constexpr ChosenNumber<double> LinkWidthPixelsOrM{
+    0.1, 1000, 2}; ///< the unit depends on contract::LinkStyle
 
-/// "rrggbbaa"; in layers ClearanceWord stands behind it where the clearance of a link gives its
+/// "rrggbbaa". In a layer ClearanceWord follows it if the clearance of each link determines its
 /// colour.
 inline constexpr char LinkColor[] = "link_color";
 inline constexpr char FirstLinkColor[] = "#e0218a";
@@ -49,13 +52,13 @@ inline constexpr char ClearanceWord[] = "clearance";
 
 inline constexpr char FresnelZone[] = "fresnel_zone";
 inline constexpr ChosenNumber<int> FresnelZoneNumber{1, 10, 1};
-inline constexpr int NoFresnelZone = 0; ///< written where no ellipsoid is drawn
+inline constexpr int NoFresnelZone = 0; ///< number that is written if no ellipsoid is drawn
 
-/// Share of the radius that is drawn, and that the terrain has to leave free.
+/// Share of the zone's radius that is drawn, and that has to be free of terrain.
 inline constexpr char FresnelShare[] = "fresnel_share";
 inline constexpr ChosenNumber<int> FresnelSharePercent{1, 100, 60};
 
-/// "rrggbbaa"; the transparency goes into the alpha.
+/// "rrggbbaa"; the transparency determines the alpha.
 inline constexpr char FresnelColor[] = "fresnel_color";
 inline constexpr char FirstFresnelColor[] = "#ffa500";
 inline constexpr ChosenNumber<int> FresnelTransparencyPercent{0, 100, 60};
@@ -64,7 +67,7 @@ inline constexpr ChosenNumber<int> FresnelTransparencyPercent{0, 100, 60};
 inline constexpr char KFactor[] = "k_factor";
 inline constexpr ChosenNumber<double> KFactorNumber{0.1, 100, 1.33333};
 
-// how the table is read; not where its reader finds out
+// how the table is read; absent if its reader detects it
 inline constexpr char Sheet[] = "sheet";
 inline constexpr char Encoding[] = "encoding";
 inline constexpr char Delimiter[] = "delimiter";
@@ -77,18 +80,18 @@ inline constexpr char Lods[] = "lods";
 inline constexpr ChosenNumber<int> SymbolicDistanceM{0, 1000000000, 10000};
 inline constexpr ChosenNumber<int> RealisticDistanceM{0, 1000000000, 1000};
 
-/// Path of the terrain, relative to the project's directory; of links only, not without a terrain.
+/// Path of the terrain, relative to the project's directory; links only, absent without a terrain.
 inline constexpr char TerrainFile[] = "dem_file";
 
 } // namespace query
 
-/// What an option is about, and with it who reads it.
+/// The subject of an option, which determines its reader.
 enum class OptionPurpose {
-    Placing, ///< systems of coordinates: the table driver
-    Reading, ///< how the table is read: the table driver
-    Pylons,  ///< appearance of pylons: the scene readers, of sites as of links
-    Links,   ///< appearance and clearance of links: the scene readers, of links
-    Heights, ///< the terrain: the scene readers, of links
+    Placing, ///< coordinate systems; read by the table driver
+    Reading, ///< how the table is read; read by the table driver
+    Pylons,  ///< appearance of pylons; read by the scene readers of sites and of links
+    Links,   ///< appearance and clearance of links; read by the scene reader of links
+    Heights, ///< the terrain; read by the scene reader of links
 };
 
 /// An option of queries.
@@ -98,7 +101,7 @@ struct QueryOption
 
     std::string_view key;
     OptionPurpose purpose = OptionPurpose::Pylons;
-    /// What a user may choose for the numbers of the value.
+    /// Ranges from which a user chooses the numbers of the value.
     std::array<std::optional<Range>, MaxNumbers> numbers = {};
 };
 
@@ -130,9 +133,9 @@ inline constexpr auto QueryOptions = std::to_array<QueryOption>({
 
 /// How the line of sight of a link is drawn.
 enum class LinkStyle {
-    Line,      ///< width in pixels, the same from everywhere
+    Line,      ///< width in pixels, the same at every distance
     Tube,      ///< width in metres, round
-    Billboard, ///< width in metres, a flat band that turns about the link to the viewer
+    Billboard, ///< width in metres, a flat band that rotates about the link to face the viewer
 };
 
 /// The words of the styles in queries, in the order of the enumeration.
@@ -144,7 +147,7 @@ constexpr std::string_view linkStyleWord(LinkStyle style)
     return LinkStyleWords[static_cast<std::size_t>(style)];
 }
 
-/// Nothing for any other word.
+/// The style of a word; nothing for any other word.
 constexpr std::optional<LinkStyle> linkStyleOf(std::string_view word)
 {
     const auto found = std::find(LinkStyleWords.begin(), LinkStyleWords.end(), word);
@@ -153,7 +156,7 @@ constexpr std::optional<LinkStyle> linkStyleOf(std::string_view word)
     return static_cast<LinkStyle>(found - LinkStyleWords.begin());
 }
 
-/// Heights above ground of a mast and of an antenna of which nothing is known.
+/// Heights above ground of a mast and of an antenna whose heights are unknown.
 inline constexpr double DefaultPylonHeightM = 25;
 inline constexpr double DefaultAntennaHeightM = 23;
 

@@ -6,7 +6,7 @@ namespace vlt::contract {
 
 namespace {
 
-/// The words of yes and of no.
+/// The words for true and for false.
 using Choice = const char *const[2];
 constexpr Choice Stretch = {"stretched", "absolute"};
 constexpr Choice Interpolation = {"interpolation", "colorrange"};
@@ -19,7 +19,7 @@ constexpr char MapKey[] = ";cmap=";
 constexpr char StretchKey[] = ";stretchcmap=";
 constexpr char InterpolationKey[] = ";interpolatecmap=";
 constexpr char BandKey[] = ";band=";
-constexpr char Band[] = "1"; ///< the only one
+constexpr char Band[] = "1"; ///< no other band is supported
 constexpr char ReductionKey[] = ";type=";
 
 const char *chosen(const Choice &words, bool isYes)
@@ -34,7 +34,8 @@ std::optional<bool> choice(const Choice &words, std::string_view word)
     return isSameWord(words[1], word) ? std::optional(false) : std::nullopt;
 }
 
-/// Takes what follows the last `mark` off the end of a text; nothing where there is no mark.
+/// Removes the last `mark` and all that follows it from a text, and returns what followed; nothing
+/// if there is no mark.
 std::optional<std::string> takeFromEnd(std::string_view &text, std::string_view mark)
 {
     const std::size_t at = text.rfind(mark);

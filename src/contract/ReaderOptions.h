@@ -2,19 +2,23 @@
 
 namespace vlt::contract {
 
-/// What a caller hands to the scene readers, as data of the plug-ins by these names: the path of
-/// the project file, "1" for the surface of the terrain under a scene that knows one, "1" from a
-/// caller that does nothing with the scene but draw it, and the address of a ReadProgress.
+// Names of the plug-in data that a caller passes to the scene readers.
+
+/// Path of the project file.
 inline constexpr char ProjectDatum[] = "vlt.project";
+/// "1" to add the surface of the terrain to a scene that has one.
 inline constexpr char TerrainDatum[] = "vlt.terrain";
+/// "1" from a caller that only draws the scene.
 inline constexpr char DrawnDatum[] = "vlt.drawn";
+/// Address of a ReadProgress.
 inline constexpr char ProgressDatum[] = "vlt.progress";
 
-/// How a reader tells how far it is. Plain, for it goes from one module to another.
+/// Callback with which a reader reports its progress. A plain struct, because it passes from one
+/// module to another.
 struct ReadProgress
 {
-    /// Takes the share that is done (0..1), on the thread that reads; false stops the reader, which
-    /// then fails with the text StoppedText.
+    /// Receives the share that is done (0..1), on the thread that reads. It returns false to stop
+    /// the reader, which then fails with the text StoppedText.
     bool (*report)(void *context, double share) = nullptr;
     void *context = nullptr;
 };

@@ -6,7 +6,7 @@
 
 namespace vlt::contract {
 
-/// What the readers of scenes report to their user.
+/// The messages of the scene readers.
 inline constexpr auto SceneTexts = [] {
     using enum ValueKind;
     return std::to_array<Text>({
@@ -68,7 +68,7 @@ inline constexpr auto SceneTexts = [] {
         {"MESS_SCENE_NO_FIELD", "the footprints have no field \"%1\""},
         {"MESS_SCENE_NO_NUMBERS", "the field \"%1\" of the footprints holds no numbers"},
 
-        // buildings that are left out, or stand elsewhere
+        // buildings that are left out or moved
         {"MESS_SCENE_NO_HEIGHT",
          "%1 of %2 buildings are left out: no height in the field \"%3\"",
          {Count, Count, Name}},
@@ -199,7 +199,7 @@ inline constexpr auto SceneTexts = [] {
 
 using SceneTextId = TextIdOf<SceneTexts>;
 
-/// The English text with the values in its places.
+/// The English text with the values in place of its placeholders.
 inline std::string formatted(SceneTextId id, std::initializer_list<std::string_view> values = {})
 {
     return formatted(id.text(), values);

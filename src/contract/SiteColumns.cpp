@@ -35,8 +35,9 @@ const std::array<SingleColumn, 4> &singleColumns()
     return columns;
 }
 
-// The mentum and generic layouts keep the slot of the degree sign unfilled: only a header that
-// holds "(%1" itself matches them. The asset and mentum tilts are cases of the others.
+// In the azimuth patterns of the mentum and generic layouts the "%1" for the degree sign is not
+// replaced: they match only headers that contain "(%1" literally. The patterns of the other tilts
+// cover those of asset and mentum.
 const std::array<ColumnList, 4> &columnLists()
 {
     static const std::array<ColumnList, 4> lists = {{
@@ -84,7 +85,8 @@ std::optional<int> transmitterOfColumn(std::string_view fieldName)
     const std::size_t digits = name.find('-') + 1;
     int number = 0;
     const auto read = std::from_chars(name.data() + digits, name.data() + name.size(), number);
-    return read.ec == std::errc() ? std::optional(number) : std::nullopt; // digits of other scripts
+    return read.ec == std::errc() ? std::optional(number)
+                                  : std::nullopt; // nothing for digits of other scripts
 }
 
 } // namespace vlt::contract

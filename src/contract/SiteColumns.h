@@ -7,9 +7,9 @@
 
 namespace vlt::contract {
 
-/// The columns of a site table that information pages show and scenes draw, by their index among
-/// the fields; -1 where none was recognised. The lists are in field order and independent of each
-/// other; "transmitter" stands for the antenna of one sector.
+/// The columns of a site table that information pages show and scenes draw, as indices of fields;
+/// -1 for a column that was not recognised. The lists are in the order of the fields and
+/// independent of each other; "transmitter" means the antenna of one sector.
 struct SiteColumns
 {
     int name = -1;
@@ -22,12 +22,12 @@ struct SiteColumns
     std::vector<int> tilts;
 };
 
-/// Recognises columns by their whole name, without regard to case. Of the single columns the first
-/// match is kept; a field may be several of them.
+/// Recognises columns by their whole names, in any case of letters. For a single column the first
+/// matching field is taken; one field may match several columns.
 SiteColumns recogniseColumns(const std::vector<std::string> &fieldNames);
 
-/// The number of the transmitter to which a column belongs: 2 for "Transmitter-2 Azimuth"; none for
-/// a column of the site or a number of more than six digits.
+/// The number of the transmitter to which a column belongs: 2 for "Transmitter-2 Azimuth"; nothing
+/// for a column of the site and for a number of more than six digits.
 std::optional<int> transmitterOfColumn(std::string_view fieldName);
 
 } // namespace vlt::contract

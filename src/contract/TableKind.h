@@ -8,14 +8,14 @@ namespace vlt::contract {
 /// What the rows of a table are.
 enum class TableKind { Sites, Links };
 
-/// How connection strings of a kind start, as a literal.
+/// Prefix of the connection strings of a kind.
 constexpr std::string_view connectionPrefix(TableKind kind)
 {
     return kind == TableKind::Links ? "link:" : "site:";
 }
 
-/// The kind by whose prefix a connection string starts, in any case of letters; nothing where it
-/// starts with neither.
+/// The kind whose prefix a connection string has, in any case of letters; nothing if it has no such
+/// prefix.
 constexpr std::optional<TableKind> connectionKind(std::string_view connection)
 {
     for (const TableKind kind : {TableKind::Sites, TableKind::Links}) {

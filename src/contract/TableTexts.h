@@ -6,7 +6,7 @@
 
 namespace vlt::contract {
 
-/// What the readers of tables report to their user.
+/// The messages of the table readers.
 inline constexpr auto TableTexts = std::to_array<Text>({
     // files that cannot be read
     {"MESS_TAB_NO_FILE_NAME", "no file is named"},
@@ -163,7 +163,7 @@ inline constexpr auto TableTexts = std::to_array<Text>({
 
 using TableTextId = TextIdOf<TableTexts>;
 
-/// The English text with the values in its places.
+/// The English text with the values in place of its placeholders.
 inline std::string formatted(TableTextId id, std::initializer_list<std::string_view> values = {})
 {
     return formatted(id.text(), values);

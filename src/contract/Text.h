@@ -6,29 +6,30 @@
 
 namespace vlt::contract {
 
-/// What a value of a text is.
+/// The kind of a value in a text.
 enum class ValueKind {
-    Name,   ///< any text: a file, a field, what stands in a cell
+    Name,   ///< any text, such as the name of a file or field or the content of a cell
     Count,  ///< digits
-    Item,   ///< a word of a format, perhaps with a number: "transmitter 3"
-    Nested, ///< a text of the tables itself, or the words of a library
+    Item,   ///< a word of a format that may have a number: "transmitter 3"
+    Nested, ///< another text of the tables of texts, or a message of a library
 };
 
 inline constexpr std::size_t MaxTextValues = 5;
 
-/// A text that a reader of tables or scenes gives its user.
+/// A message of the table readers or the scene readers.
 ///
-/// The pattern is the English text with the places "%1", "%2" ... of its values, in this order. It
-/// starts with words, a count or an item, and words that no value holds stand between two places,
-/// so that a finished text can be taken apart again.
+/// The pattern is the English text with the placeholders "%1", "%2" ... for its values, in this
+/// order. It starts with words, a count or an item, and between two placeholders it has words that
+/// no value contains, so that the values can be found again in a finished text.
 struct Text
 {
     const char *key; ///< message key of the translations
     const char *pattern;
-    std::array<ValueKind, MaxTextValues> kinds{}; ///< of the values, in their order
+    std::array<ValueKind, MaxTextValues> kinds{}; ///< of the values, in the same order
 };
 
-/// Names a text of a table by its key; a key that is not in it does not compile.
+/// Refers to a text in a table of texts by its key; a key that is not in the table does not
+/// compile.
 template<const auto &Table>
 class TextIdOf
 {

@@ -10,9 +10,9 @@ namespace vlt::contract {
 
 namespace {
 
-constexpr size_t PlaceSize = 2; ///< of "%1"
+constexpr size_t PlaceSize = 2; ///< length of "%1"
 
-/// A pattern cut at its places: n places lie between n + 1 pieces of words.
+/// A pattern cut at its placeholders: n placeholders lie between n + 1 pieces of words.
 struct CutPattern
 {
     const Text *text = nullptr;
@@ -71,10 +71,10 @@ bool fits(ValueKind kind, std::string_view value)
     return !value.empty() && value.find_first_not_of(letters) == std::string_view::npos;
 }
 
-/// Takes the values from a place on. Words behind a place are looked for from the end: a cell's
-/// text, which may hold anything, is never the last value.
+/// Finds the values from a placeholder on. The words after a placeholder are searched from the end:
+/// the content of a cell, which may be any text, is never the last value.
 ///
-/// @param rest  what stands from the place up to the last words
+/// @param rest  the message from the placeholder up to the last words
 bool takeValues(const CutPattern &pattern, std::string_view rest,
                 std::vector<std::string_view> &values)
 {

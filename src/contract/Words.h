@@ -7,7 +7,7 @@
 
 namespace vlt::contract {
 
-/// Whether two words are the same but for the case of their (ASCII) letters.
+/// Whether two words are equal apart from the case of their ASCII letters.
 constexpr bool isSameWord(std::string_view one, std::string_view other)
 {
     const auto lowered = [](char c) { return c >= 'A' && c <= 'Z' ? char(c - 'A' + 'a') : c; };
@@ -15,14 +15,14 @@ constexpr bool isSameWord(std::string_view one, std::string_view other)
                       [lowered](char a, char b) { return lowered(a) == lowered(b); });
 }
 
-/// The word of a value; `words` stand in the order of the enumeration.
+/// The word for a value; `words` are in the order of the enumeration.
 template<typename Value, std::size_t N>
 constexpr const char *wordOf(const char *const (&words)[N], Value value)
 {
     return words[static_cast<std::size_t>(value)];
 }
 
-/// The value of a word, in any case of its letters; nothing for other words.
+/// The value for a word, in any case of its letters; nothing for other words.
 template<typename Value, std::size_t N>
 constexpr std::optional<Value> valueOf(const char *const (&words)[N], std::string_view word)
 {
