@@ -23,7 +23,7 @@ inline constexpr char FirstWallColor[] = "#d9d4c7";
 inline constexpr char FirstRoofColor[] = "#b5634c";
 inline constexpr char FirstEdgeColor[] = "#404040";
 
-/// Which of the buildings that it has made a builder keeps.
+/// The buildings that a builder keeps after it has made them.
 enum class CacheMode { None, All, Textured, Extruded };
 inline constexpr const char *CacheModeWords[] = {"none", "all", "textured", "extruded"};
 
@@ -57,9 +57,8 @@ struct BuildingFootprints
     std::string layer; ///< empty: the first layer
     std::string heightField;
     double tileSizeM = TileSizeM.firstRun;
-    double extrudedVisibilityM =
-        ExtrudedVisibilityM.firstRun; ///< distance up to which they are shown
-    double texturedVisibilityM = 0;   ///< the same for their images
+    double extrudedVisibilityM = ExtrudedVisibilityM.firstRun; ///< maximum distance to the viewer
+    double texturedVisibilityM = 0;                            ///< the same for their images
     std::string wallColor; ///< "#RRGGBB" or a text of RasterColors.h; empty: the reader's default
     std::string roofColor; ///< the same; empty: the colour of the walls
     double skirtHeightM = 0;
@@ -94,9 +93,8 @@ struct BuildingTextures
     bool forceEdgeCreation = false;
     bool processComplexBuildings = false;
     TextureCompression compression = TextureCompression::None; ///< None is not written
-    std::optional<double> bufferM; ///< distance from a wall at which its image is taken
-    std::optional<double>
-        dilatationPixels; ///< distance by which colours grow into pixels without one
+    std::optional<double> bufferM;          ///< distance from a wall at which its image is taken
+    std::optional<double> dilatationPixels; ///< how far colours grow into pixels without one
     MagFilter magFilter = MagFilter::None;
     std::vector<BuildingImage> images;
 
@@ -133,10 +131,9 @@ inline constexpr char Layer[] = "layer";
 inline constexpr char HeightField[] = "hfield";
 inline constexpr char TileSize[] = "tileSize";
 inline constexpr char ExtrudedVisibility[] = "extrudedVisibility";
-inline constexpr char TexturedVisibility[] =
-    "texturedVisibility"; ///< absent where a raster colours
+inline constexpr char TexturedVisibility[] = "texturedVisibility"; ///< absent if a raster colours
 inline constexpr char WallColor[] = "wallColor";
-inline constexpr char RoofColor[] = "roofColor"; ///< absent where a raster colours
+inline constexpr char RoofColor[] = "roofColor"; ///< absent if a raster colours
 inline constexpr char SkirtHeight[] = "skirtHeight";
 inline constexpr char CheckClockwise[] = "checkClockwise";
 

@@ -18,8 +18,7 @@ public:
     /// @throws std::invalid_argument  `pattern` is not a regular expression
     explicit ColumnPattern(const std::string &pattern);
 
-    /// @param name  UTF-8; other bytes never match, and neither does a name of more than 1,000
-    /// bytes
+    /// @param name  UTF-8; any other text and any name of more than 1,000 bytes do not match
     bool matches(std::string_view name) const;
 
 private:

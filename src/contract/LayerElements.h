@@ -11,11 +11,9 @@ inline constexpr char Links[] = "links";
 inline constexpr char Buildings[] = "buildings";
 
 inline constexpr char Title[] = "title";
-inline constexpr char Source[] = "source"; ///< a query, or "TEXB:" and the path of a document
-inline constexpr char SourceLayer[] =
-    "layer"; ///< sites only: the layer of the source with the sites
-inline constexpr char EndLayer[] =
-    "endLayer"; ///< links only: the layer of the source with their ends
+inline constexpr char Source[] = "source";       ///< a query, or "TEXB:" and the path of a document
+inline constexpr char SourceLayer[] = "layer";   ///< sites only: their layer in the source
+inline constexpr char EndLayer[] = "endLayer";   ///< links only: the layer with their ends
 inline constexpr char NameField[] = "siteField"; ///< sites only: the field with their names
 
 } // namespace vlt::contract::layer

@@ -32,8 +32,7 @@ inline constexpr char SectorColors[] = "sector_colors";
 inline constexpr ChosenNumber<int> TransparencyPercent{0, 100, 0};
 
 inline constexpr char SectorProperties[] = "sector_properties";
-inline constexpr ChosenNumber<double> SectorRadiusM{0.01, 1e8,
-                                                    200}; ///< only its integer part is written
+inline constexpr ChosenNumber<double> SectorRadiusM{0.01, 1e8, 200}; ///< written as an integer
 inline constexpr ChosenNumber<double> SectorHeightM{0.01, 1e8, 20};
 inline constexpr ChosenNumber<double> SectorSpacingM{0, 1e9, 2}; ///< vertical
 
@@ -41,8 +40,7 @@ inline constexpr ChosenNumber<double> SectorSpacingM{0, 1e9, 2}; ///< vertical
 inline constexpr char LinkStyle[] = "link_style";
 
 inline constexpr char LinkWidth[] = "link_width";
-inline constexpr ChosenNumber<double> LinkWidthPixelsOrM{
-    0.1, 1000, 2}; ///< the unit depends on contract::LinkStyle
+inline constexpr ChosenNumber<double> LinkWidthPixelsOrM{0.1, 1000, 2}; ///< unit: see LinkStyle
 
 /// "rrggbbaa". In a layer ClearanceWord follows it if the clearance of each link determines its
 /// colour.

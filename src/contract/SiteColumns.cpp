@@ -85,8 +85,7 @@ std::optional<int> transmitterOfColumn(std::string_view fieldName)
     const std::size_t digits = name.find('-') + 1;
     int number = 0;
     const auto read = std::from_chars(name.data() + digits, name.data() + name.size(), number);
-    return read.ec == std::errc() ? std::optional(number)
-                                  : std::nullopt; // nothing for digits of other scripts
+    return read.ec == std::errc() ? std::optional(number) : std::nullopt; // digits of other scripts
 }
 
 } // namespace vlt::contract
