@@ -4,8 +4,8 @@
 
 namespace vlt::text {
 
-/// A plain text for places that take rich text, such as tool tips: it is shown as it stands, tags
-/// and all, wrapped where it is long, with its line feeds kept.
+/// A plain text as rich text, for widgets that expect rich text, such as tool tips. It is shown
+/// literally, including anything like a tag. Long lines are wrapped, line feeds are kept.
 QString asRichText(const QString &plain);
 
 } // namespace vlt::text

@@ -8,17 +8,16 @@
 
 namespace vlt::text {
 
-/// Fills the numbered slots "%1" .. "%99" of a pattern one value after another: each value takes
-/// every occurrence of the lowest number that is still there. A value that itself holds "%2" is
-/// therefore filled again by the next one. Values for which no slot is left are dropped without a
-/// word.
+/// Fills the numbered slots "%1" .. "%99" of a pattern with one value after another: each value
+/// replaces all occurrences of the lowest number that is left. A slot within a value, such as "%2",
+/// is therefore filled by a later value. Values without a slot are ignored.
 QString fillSlots(const QString &pattern, const QStringList &values);
 
-/// A placeholder such as "__NAME__" and the text that takes its place.
+/// A placeholder such as "__NAME__" and the text that replaces it.
 using Replacement = std::pair<QString, QString>;
 
-/// Replaces every occurrence of each placeholder, case-sensitively, in the given order; a value
-/// that holds a later placeholder is replaced in its turn. An empty placeholder is passed over.
+/// Replaces every occurrence of each placeholder, case-sensitively, in the given order. Within a
+/// value, later placeholders are replaced as well. An empty placeholder is ignored.
 QString replacePlaceholders(QString text, const std::vector<Replacement> &inOrder);
 
 } // namespace vlt::text
