@@ -4,9 +4,10 @@
 
 namespace vlt::language {
 
-/// A text that a reader of tables or scenes gave (a problem of a row, a notice, the reason of a
-/// refusal) in the user's language: "FILE: 3 of 277 buildings are left out: ...". The file in front
-/// and the names in it stay as they are, and so does any other text.
+/// Translates a message of the table readers or the scene readers (a problem of a row, a notice,
+/// the reason why a file is refused) into the user's language. A file name before the message, as
+/// in "FILE: 3 of 277 buildings are left out: ...", and the names within it are kept. Any other
+/// text is returned unchanged.
 QString readerText(const QString &english);
 
 } // namespace vlt::language

@@ -9,7 +9,7 @@ bool isNamed(QLocale::Language language, const QString &name)
 {
     if (name.compare(QLocale::languageToString(language), Qt::CaseInsensitive) == 0)
         return true;
-    const QLocale locale(language); // the default locale for a language that Qt has no data of
+    const QLocale locale(language); // the default locale if Qt does not know the language
     return locale.language() == language &&
            name.compare(locale.nativeLanguageName(), Qt::CaseInsensitive) == 0;
 }

@@ -9,8 +9,8 @@ struct VltLanguage
     QString text = QStringLiteral("en");
     bool rightToLeft = false;
 
-    /// The language called `name`: its English name, its own name or its code, with or without a
-    /// country ("FRENCH", "français", "fr", "fr_FR"), in any case. English where no language is
-    /// called so.
+    /// The language with a name: the English name, the language's own name or its code, with or
+    /// without a country ("FRENCH", "français", "fr", "fr_FR"), in any case of letters. English for
+    /// an unknown name.
     static VltLanguage named(const QString &name);
 };

@@ -25,7 +25,7 @@ void VltLanguageManager::findAndSetupAddOnsMessages(const QString &addOnMessages
 
 void VltLanguageManager::load(const QString &directory)
 {
-    if (directory.isEmpty()) // QDir would take it for the working directory
+    if (directory.isEmpty()) // QDir would use the working directory
         return;
     const QDir messages(directory);
     const QStringList names = messages.entryList({QStringLiteral("*_%1.ts").arg(m_language.text)},

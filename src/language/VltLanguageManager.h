@@ -9,32 +9,32 @@
 
 /// The texts of the user interface in the chosen language.
 ///
-/// Set up once at start-up: defaultSetup(), then findAndSetupAddOnsMessages(). Afterwards it is
-/// only read. Dictionaries are the files "<anything>_<code>.ts" of a directory, taken in the order
-/// of their names; of a key that several give, the text read last holds, so an add-on can put its
-/// own word for one of the builder's.
+/// It is set up once, at start-up: defaultSetup(), then findAndSetupAddOnsMessages(). Afterwards it
+/// does not change. Dictionaries are the files "<anything>_<code>.ts" of a directory, in the order
+/// of their names. If several have the same key, the text read last is used, so that an add-on can
+/// replace texts of the builder.
 class VltLanguageManager
 {
 public:
     static VltLanguageManager &getInstance();
 
-    /// Chooses the language (as VltLanguage::named() understands it) and loads its dictionaries
-    /// from a directory, in place of everything loaded before. A directory that is missing gives no
-    /// texts. `reserved` is empty.
+    /// Sets the language (a name for VltLanguage::named()) and loads its dictionaries from a
+    /// directory. These replace everything loaded before. A missing directory gives no texts.
+    /// `reserved` is empty.
     void defaultSetup(const QString &messagesPath, const QString &language,
                       const QString &reserved);
 
-    /// Adds the dictionaries of the chosen language that lie in an add-on's directory itself.
-    /// `reserved` is empty.
+    /// Adds the dictionaries of the chosen language from an add-on's directory, not from folders
+    /// below it. `reserved` is empty.
     void findAndSetupAddOnsMessages(const QString &addOnMessagesPath, const QString &reserved);
 
     bool currentLanguageNeedsReversedLayout() const { return m_language.rightToLeft; }
     const VltLanguage &getCurrentLanguage() const { return m_language; }
 
-    /// Text of a message key in the chosen language; a null text where no dictionary has one.
+    /// Text of a message key in the chosen language; null if no dictionary has the key.
     QString text(const QString &key) const { return m_texts.value(key); }
 
-    /// The dictionaries that were passed over since defaultSetup(), and why.
+    /// The dictionaries that could not be read since defaultSetup(), with the reasons.
     const QList<vlt::Error> &skippedDictionaries() const { return m_skipped; }
 
 private:
@@ -46,6 +46,6 @@ private:
     QList<vlt::Error> m_skipped;
 };
 
-/// Text of a message key in the chosen language, or the English text given with it (UTF-8).
+/// Text of a message key in the chosen language; `defaultText` (English, UTF-8) if it has none.
 // NOLINTNEXTLINE(readability-identifier-naming): the language library's established name
 QString dico_label(const char *key, const char *defaultText);

@@ -2,8 +2,8 @@
 
 #include <QTranslator>
 
-/// Answers Qt's translation lookups from the language manager: the disambiguation is the message
-/// key. A lookup without one, or with a key that no dictionary has, gets a null text, so that Qt
+/// Makes Qt's translation functions use the language manager: the disambiguation is the message
+/// key. Without a key, or with one that no dictionary has, the translation is null, so that Qt
 /// shows the source text.
 class VltTranslator : public QTranslator
 {
@@ -13,6 +13,6 @@ public:
     QString translate(const char *context, const char *sourceText, const char *disambiguation,
                       int n) const override;
 
-    /// Never: Qt leaves translators out that say they are empty.
+    /// Always false, because Qt ignores translators that are empty.
     bool isEmpty() const override { return false; }
 };
