@@ -23,7 +23,7 @@ constexpr QFile::Permissions UserMode = QFile::ReadOwner | QFile::WriteOwner;
 constexpr QFile::Permissions EveryonesMode =
     UserMode | QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther;
 
-// Independent of the target's name, so that a name of full length still has room beside it.
+// Independent of the target's name, which may already have the maximum length.
 QString temporaryNameBeside(const QFileInfo &target)
 {
     const quint64 random = QRandomGenerator::system()->generate64();
@@ -36,24 +36,24 @@ std::optional<QString> flushToDisk(QFile &file)
     if (!file.flush())
         return file.errorString();
 #ifdef Q_OS_UNIX
-    // EINVAL: a file system that has no notion of flushing
+    // EINVAL: the file system does not support flushing
     if (::fsync(file.handle()) != 0 && errno != EINVAL)
         return QString::fromStdString(std::generic_category().message(errno));
 #endif
     return std::nullopt;
 }
 
-/// Names of the process's own open files, such as the link behind /dev/stdout: a rename would put
-/// another file in the place of what is open.
+/// Whether the path is a name of one of the process's own open files, such as the target of
+/// /dev/stdout. A rename would replace that name, and the open file would not get the bytes.
 bool namesOpenFile(const QFileInfo &file)
 {
     return file.absoluteDir().canonicalPath().startsWith(QLatin1String("/proc/"));
 }
 
-/// The file that the name `path` stands for; it may not exist. Nothing when the links do not end.
+/// The file at the end of the symbolic links of `path`; it need not exist. Nothing for a loop.
 std::optional<QFileInfo> behindLinks(const QString &path)
 {
-    constexpr int MaxLinks = 40; // as the kernel's own limit
+    constexpr int MaxLinks = 40; // the kernel's limit
     QFileInfo file(path);
     for (int links = 0; file.isSymbolicLink(); ++links) {
         if (links == MaxLinks || namesOpenFile(file))
@@ -76,7 +76,7 @@ Result<QString> writtenFile(const QString &path, Access access)
     const std::optional<QFileInfo> target = behindLinks(path);
     if (!target || (target->exists() && !target->isFile()))
         return failed(QStringLiteral("Not a regular file"));
-    // a rename would go over it without asking
+    // a rename would replace it all the same
     if (access == Access::Shared && target->isFile() && !target->isWritable())
         return failed(QStringLiteral("The file is write-protected"));
     return target->absoluteFilePath();

@@ -7,31 +7,33 @@
 
 namespace vlt::platform {
 
-/// Who may read a file that is written, and what becomes of a symbolic link at its name.
+/// The mode of a file that is written, and the treatment of a symbolic link at its path.
 enum class Access {
-    /// Mode 0600, for the program's own files in a directory of several users: a link that somebody
-    /// planted is replaced, not followed.
+    /// For the program's own files in a directory that several users share: mode 0600. A link is
+    /// replaced, not followed, because another user may have created it.
     UserOnly,
-    /// The mode of the file that is replaced, or what the process's umask leaves of 0666, for names
-    /// that the user gave: a link is followed, and stays.
+    /// For paths that the user gave: the mode of the file that is replaced, for a new file 0666
+    /// less the process's umask. A link is followed and kept.
     Shared
 };
 
-/// The file that writeWhole(path, ..., access) would replace or make: `path` itself, or where its
-/// symbolic links lead.
+/// The file that writeWhole(path, ..., access) would replace or create: `path` itself, or the
+/// target of its symbolic links.
 ///
-/// @par Errors  an empty path; links without end; a target that exists and is no regular file
-///              (directory, device, pipe, the process's own output), or is write-protected (not for
-///              Access::UserOnly). The detail is the reason, the path is `path`.
+/// @par Errors  The path is empty; its links form a loop; the target exists and is not a regular
+///              file (but a directory, device, pipe or the process's own output), or is
+///              write-protected (not for Access::UserOnly). The detail is the reason, the path is
+///              `path`.
 Result<QString> writtenFile(const QString &path, Access access);
 
-/// Puts `bytes` at `path`: afterwards the file is the old one or the whole new one, never a part.
+/// Writes `bytes` to `path`. Afterwards the file is the old one or the complete new one, never a
+/// part of it.
 ///
-/// The bytes go to a new file beside writtenFile(), are flushed to the disk and take its name by a
-/// rename. After a failure the old file is untouched and nothing is left behind.
+/// The bytes are written to a new file beside writtenFile() and flushed to the disk; then the new
+/// file is renamed. After a failure the old file is unchanged and the new one is removed.
 ///
-/// @par Errors  those of writtenFile(); a directory that is missing or cannot be written; a full
-///              device. The detail is the system's reason, the path is `path`.
+/// @par Errors  those of writtenFile(); a directory that is missing or not writable; a full device.
+///              The detail is the system's reason, the path is `path`.
 Result<Done> writeWhole(const QString &path, const QByteArray &bytes, Access access);
 
 } // namespace vlt::platform

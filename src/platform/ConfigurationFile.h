@@ -6,7 +6,7 @@
 
 namespace vlt::platform {
 
-/// Reads a file of the installation whole.
+/// Reads a whole file of the installation.
 ///
 /// @par Errors   MESS_MISSING_CONF_FILE with the path.
 Result<QString> readConfigurationFile(const QString &path);

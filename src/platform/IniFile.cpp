@@ -23,8 +23,8 @@ using Dictionary = std::unique_ptr<dictionary, DictionaryRelease>;
 
 const QByteArray ByteOrderMark("\xEF\xBB\xBF");
 
-/// What editors put before UTF-8 texts is a syntax error to the ini library, which reads files
-/// only.
+/// Loads a file without its byte order mark, which is a syntax error for the ini library. The
+/// library reads files only, hence the copy.
 Dictionary loadWithoutMark(const QString &path)
 {
     QFile file(path);
@@ -48,7 +48,7 @@ Result<IniFile> IniFile::open(const QString &path)
         return Error{{}, QStringLiteral("Not a readable ini file"), path};
 
     IniFile file;
-    // counted by a signed type in one version of the library, by an unsigned one in another
+    // signed in one version of the library, unsigned in another
     const auto size = static_cast<std::size_t>(entries->size);
     for (std::size_t i = 0; i < size; ++i) {
         if (entries->key[i] != nullptr && entries->val[i] != nullptr)

@@ -7,20 +7,20 @@
 
 namespace vlt::platform {
 
-/// The values of an ini file, copied out of it; the file is closed again once it is read.
+/// The values of an ini file, as a copy: the file is closed after reading.
 ///
-/// Sections and keys are compared without regard to case; of a key given twice the last value
-/// holds. ';' and '#' start a comment, also inside a value that is not quoted. Texts are UTF-8
-/// where valid, else Latin-1; a byte order mark before them is passed over.
+/// Names of sections and keys match in any case of letters; if a key occurs twice, its last value
+/// is used. ';' and '#' start a comment, also within a value that is not quoted. Texts are UTF-8 if
+/// valid, else Latin-1; a byte order mark is skipped.
 class IniFile
 {
 public:
-    /// @par Errors  a path that names no regular file; a file with a syntax error or a line
-    ///              of 1024 characters, of which nothing is kept (the ini library names it on
-    ///              stderr).
+    /// @par Errors  The path does not lead to a regular file; the file has a syntax error or a line
+    ///              of 1024 characters, which the ini library also reports on stderr. Nothing of
+    ///              such a file is used.
     static Result<IniFile> open(const QString &path);
 
-    /// Value of a key; empty where the section or the key is missing.
+    /// Value of a key; empty if the section or the key is missing.
     QString value(const QString &section, const QString &key) const;
 
 private:

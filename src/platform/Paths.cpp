@@ -42,7 +42,7 @@ QString installedFile(const QString &installDir, const char *folder, const QStri
 QString systemTempDirectory()
 {
     const QString directory = QDir::tempPath() + QLatin1Char('/');
-    // Qt answers with the root where there is no such directory
+    // Qt returns the root if there is no such directory
     if (directory.size() > MaxTempDirectoryLength || QDir(directory).isRoot())
         return QStringLiteral(".");
     return withSeparators(directory, nativePathStyle());

@@ -11,16 +11,16 @@ enum class PathStyle {
     Posix    ///< "a/b", lists with ":"
 };
 
-/// The style of the system that the program runs on.
+/// The style of the operating system.
 PathStyle nativePathStyle();
 
-/// Between two directories of a path.
+/// The separator between two directories of a path.
 QChar separator(PathStyle style);
 
-/// Between two paths of a list such as PATH.
+/// The separator between two paths of a list such as PATH.
 QChar listSeparator(PathStyle style);
 
-/// The path with each "/" written as the style has it.
+/// The path with the style's separator for each "/".
 QString withSeparators(QString path, PathStyle style);
 
 /// The path of a file in a folder of the installation.
@@ -28,8 +28,8 @@ QString withSeparators(QString path, PathStyle style);
 /// @param folder  below the install directory, such as contract::PylonFolder
 QString installedFile(const QString &installDir, const char *folder, const QString &name);
 
-/// The system's directory for temporary files, ending with a separator; "." where there is no such
-/// directory or its text, separator included, is longer than 259 characters.
+/// The system's directory for temporary files, with a separator at the end; "." if there is no such
+/// directory or its path with the separator is longer than 259 characters.
 QString systemTempDirectory();
 
 } // namespace vlt::platform

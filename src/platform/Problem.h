@@ -4,7 +4,7 @@
 
 namespace vlt {
 
-/// One thing in a user's file that was skipped or mended.
+/// A part of a user's file that was skipped or corrected.
 struct Problem
 {
     enum class Severity { Warning, Error };
@@ -12,8 +12,8 @@ struct Problem
     Severity severity = Severity::Warning;
     QString text;
     QString file;
-    int row = 0;    ///< row of the file as a spreadsheet counts it, from 1; 0 where no row is meant
-    QString column; ///< name of the column as in the header; empty where no column is meant
+    int row = 0;    ///< row of the file as a spreadsheet counts it, from 1; 0: no row
+    QString column; ///< name of the column as in the header; empty: no column
 };
 
 } // namespace vlt

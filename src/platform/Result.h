@@ -11,23 +11,23 @@
 
 namespace vlt {
 
-/// Why an operation gave no value.
+/// The reason why an operation has no value.
 ///
-/// `text` is in English where `key` is the message key of its translation, else as it is shown.
-/// `detail` is the reason that a library gave, in its own words; it stands alone, without a text,
-/// where nothing else is known. All but one of text and detail may be empty.
+/// With a `key`, the message key of its translation, `text` is in English; without one it is shown
+/// as it is. `detail` is the reason in the words of a library. At least one of `text` and `detail`
+/// is not empty.
 struct Error
 {
     QString key;
     QString text;
-    QString path = {}; ///< of the file concerned
+    QString path = {}; ///< path of the file concerned
     QString detail = {};
 
-    /// Text and path as they are shown to the user: the path follows after a line feed.
+    /// Text and path as shown to the user, with a line feed between them.
     QString display() const { return path.isEmpty() ? text : text + QLatin1Char('\n') + path; }
 };
 
-/// A value, or the reason why there is none. Asking for what is not there throws std::logic_error.
+/// A value, or the reason why there is none. Access to the missing one throws std::logic_error.
 template<typename T>
 class [[nodiscard]] Result
 {
@@ -66,12 +66,12 @@ private:
     std::variant<T, Error> m_state;
 };
 
-/// The result of an operation that gives nothing but success.
+/// The value of an operation that only succeeds or fails.
 struct Done
 {
 };
 
-/// What work gives that the user can stop: nothing where that happened.
+/// The result of an operation that the user can stop; nothing if it was stopped.
 template<typename T>
 using Stoppable = std::optional<Result<T>>;
 
