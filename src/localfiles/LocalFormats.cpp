@@ -14,8 +14,8 @@ namespace vlt::localfiles {
 
 namespace {
 
-// Formats whose files describe sources that lie elsewhere, services, databases that are reached
-// through a server, and what runs other programs.
+// Formats whose files refer to other sources, web services, databases on a server, and formats that
+// run other programs.
 constexpr std::array Refused = {"VRT",
                                 "OGR_VRT",
                                 "DERIVED",
@@ -70,7 +70,7 @@ constexpr std::array Refused = {"VRT",
                                 "TileDB",
                                 contract::TableDriver};
 
-/// Names of formats, null at the end; as long-lived as the program.
+/// Names of formats with a null at the end. They exist as long as the program runs.
 class FormatList
 {
 public:
@@ -106,7 +106,7 @@ bool isVirtual(const std::string &path)
                       [](char a, char b) { return a == (b >= 'A' && b <= 'Z' ? b + 32 : b); });
 }
 
-/// What lies there, links followed; none for what is no path of the local disk.
+/// Type of the file at a path, links followed; none if it is not a path of the local disk.
 std::filesystem::file_type kindOf(const std::string &absolutePath)
 {
     std::error_code error;

@@ -40,7 +40,7 @@ NoNetwork::NoNetwork()
     if (const char *allowed = CPLGetThreadLocalConfigOption(AllowedNetworkFile, nullptr))
         m_allowedBefore = allowed;
     CPLHTTPPushFetchCallback(refuse, nullptr);
-    // no file of the network's file systems has this name
+    // No file of a network file system has this name.
     CPLSetThreadLocalConfigOption(AllowedNetworkFile, "none");
 }
 
@@ -69,7 +69,7 @@ void closeNetworkFileSystems()
                                      "/vsiswift_streaming/",
                                      "/vsiwebhdfs/",
                                      "/vsihdfs/"};
-    // the library forgets those that are replaced: files that are open may still need them
+    // The library does not keep the handlers that are replaced, but open files may need them.
     static std::array<const VSIFilesystemHandler *, Prefixes.size()> replaced = {};
     if (replaced.front())
         return;

@@ -5,8 +5,8 @@
 
 namespace vlt::localfiles {
 
-/// While it lives, nothing that the geodata library opens on this thread fetches anything over the
-/// network: some formats of local files may name addresses, for instance of a coordinate system.
+/// Keeps the geodata library off the network on this thread, as long as the object exists. Local
+/// files of some formats may contain addresses, for instance of a coordinate system.
 class NoNetwork
 {
 public:
@@ -19,8 +19,8 @@ private:
     std::optional<std::string> m_allowedBefore;
 };
 
-/// Takes the network's file systems (/vsicurl/, /vsis3/ ...) away from the geodata library for the
-/// whole program and for good: files of some formats name other files, which may lie there.
+/// Removes the network file systems (/vsicurl/, /vsis3/ ...) from the geodata library, permanently
+/// and for all threads. Files of some formats refer to other files, which might be there.
 void closeNetworkFileSystems();
 
 } // namespace vlt::localfiles

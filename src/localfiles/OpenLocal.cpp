@@ -13,7 +13,7 @@ namespace vlt::localfiles {
 
 namespace {
 
-/// Whether an XML element begins near the start of a file.
+/// Whether an XML element begins within the first bytes of a file.
 bool startsWithElement(const std::string &name, std::string_view element)
 {
     std::array<char, 1024> start{};
@@ -45,7 +45,7 @@ GDALDatasetUniquePtr openRaster(const std::string &name, const char *const *opti
 
 GDALDatasetUniquePtr openRasterValues(const std::string &name)
 {
-    // "@": formats that do not know the option are not asked
+    // "@" hides the option from formats that do not support it.
     constexpr std::array<const char *, 2> Options = {"@BAND_COUNT=1", nullptr};
     return openRaster(name, Options.data());
 }

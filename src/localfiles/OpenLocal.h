@@ -6,20 +6,20 @@
 
 namespace vlt::localfiles {
 
-// Files are opened through the formats of the local disk; null where they cannot be. The caller has
-// checked the name, keeps the library off the network and collects its errors. Names are in bytes
-// of the file system.
+// These functions use the formats of LocalFormats.h only and return null if a file cannot be
+// opened. The caller has checked the name, keeps the library off the network and collects its
+// errors. Names are in bytes of the file system.
 
-/// A raster for its values, which band 1 holds: formats that put a picture of the values before
-/// them (Northwood grids do) are asked for the values alone.
+/// Opens a raster so that band 1 holds its values. Some formats (Northwood grids) otherwise give
+/// the bands of a picture of the values before them.
 GDALDatasetUniquePtr openRasterValues(const std::string &name);
 
-/// A raster for the picture that it shows.
+/// Opens a raster with the bands of its picture.
 GDALDatasetUniquePtr openRasterPicture(const std::string &name);
 
 GDALDatasetUniquePtr openVector(const std::string &name);
 
-/// Whether band 1 of a raster is a colour of a picture or an index of colours, which no terrain is.
+/// Whether band 1 of a raster holds a colour component or colour indices, hence no heights.
 bool holdsColors(GDALDataset &raster);
 
 /// Whether a file is a virtual raster.
