@@ -21,7 +21,8 @@ namespace vlt::coverage {
 
 namespace {
 
-/// The middle of the area of a ring, or of its points where it has none; the first point near zero.
+/// Centroid of a ring, or the mean of its vertices if its area is zero. It is computed relative to
+/// the first vertex, to keep the precision of large coordinates.
 Place middleOf(const std::vector<Place> &ring)
 {
     const Place origin = ring.front();
@@ -64,10 +65,10 @@ public:
         }
     }
 
-    /// The rings in pixels; false where a place is none or out of all reach.
+    /// Converts the rings to pixels; false if a position is not finite or too far from the raster.
     bool take(std::span<const Ring> places)
     {
-        constexpr double Farthest = 1e15; // differences of pixels stay finite
+        constexpr double Farthest = 1e15; // pixels; keeps computed differences finite
         rings.resize(places.size());
         bool isNear = true;
         for (std::size_t i = 0; i < places.size(); ++i) {
@@ -98,7 +99,7 @@ public:
     OGRSpatialReference srs;
     bool isPlaced = false;
     std::array<double, 6> toPixel{};
-    std::vector<std::vector<Place>> rings; ///< of the building at hand, in pixels
+    std::vector<std::vector<Place>> rings; ///< of the current building, in pixels
     RowRuns runs;
 };
 

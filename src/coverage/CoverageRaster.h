@@ -21,7 +21,7 @@ struct Place
     double y = 0;
 };
 
-/// A ring of a footprint, closed or not, of either direction.
+/// A ring of a footprint in either direction, closed or not.
 using Ring = std::span<const Place>;
 
 struct ValueRange
@@ -30,40 +30,42 @@ struct ValueRange
     double maximum = 0;
 };
 
-/// A local one-band raster of values such as levels, in whatever unit. Not for two threads at once.
+/// A local one-band raster of values in any unit, such as signal levels. Not for two threads at
+/// once.
 class CoverageRaster
 {
 public:
-    /// Opens a local raster file, or a part of one by its name as the library lists it.
+    /// Opens a local raster file, or a part of one by the name under which the library lists it.
     ///
     /// @param path    absolute (see locateRaster()), in bytes of the file system
-    /// @param noData  as typed: the value that pixels without a value have, besides the file's own;
-    ///                may be empty
-    /// @param reason  takes why there is none
-    /// @return        null where it cannot be opened, has not one band, or `noData` is no number
+    /// @param noData  as typed: a "no data" value in addition to the file's own; may be empty
+    /// @param reason  receives the reason of a failure
+    /// @return        null if it cannot be opened, does not have exactly one band, or `noData` is
+    ///                not a number
     static std::unique_ptr<CoverageRaster> open(const std::string &path, const std::string &noData,
                                                 std::string *reason);
     ~CoverageRaster();
 
-    /// Least and greatest value of all pixels that have one (scale and offset applied); nothing
-    /// where none has, and where `progress` (may be empty) stopped it.
+    /// Minimum and maximum of all pixels that have a value, with scale and offset applied; nothing
+    /// if no pixel has a value, and if `progress` (may be empty) stopped the function.
     std::optional<ValueRange> range(const Progress &progress = {});
 
-    /// System of the raster, x before y; null where it states none.
+    /// System of the raster, x before y; null if the file does not declare one.
     const OGRSpatialReference *srs() const;
 
-    /// Whether pixels can be told by places.
+    /// Whether the raster is georeferenced, so that positions determine pixels.
     bool isPlaced() const;
 
-    /// The value under a building: of the pixels whose centre lies within its rings (even-odd: a
-    /// ring within another is a hole), or, where there is none, of the pixel under the middle of
-    /// its first ring. Pixels without a value, among them those that are not finite, do not count.
+    /// The value under a building. It is computed from the pixels whose centres lie within its
+    /// rings (even-odd: a ring within another is a hole); if there are none, from the pixel under
+    /// the centre of its first ring. Pixels without a value, or with one that is not finite, are
+    /// ignored.
     ///
-    /// Of several most represented values the least is taken. Average: of the pixels' values, each
-    /// with the same weight.
+    /// If several values are most represented, the smallest of them is returned. In an average all
+    /// pixels have the same weight.
     ///
     /// @param rings  in the system of the raster
-    /// @return       nothing where no pixel with a value is under it
+    /// @return       nothing if no pixel under the building has a value
     std::optional<double> valueUnder(std::span<const Ring> rings, Reduction reduction);
 
 private:

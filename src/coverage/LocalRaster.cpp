@@ -14,15 +14,15 @@ namespace vlt::coverage {
 
 namespace {
 
-constexpr double MaxBlockPixels = 1 << 27; ///< of the file's own blocks, which are read whole
+constexpr double MaxBlockPixels = 1 << 27; ///< of a block of the file, which is read whole
 
-/// What in a name may be the path of a file: between a colon, comma or quotation mark and another
-/// one after it.
+/// Visits the parts of a name that may be the path of a file: they lie between two marks (colon,
+/// comma, quotation mark) or between a mark and the end.
 ///
-/// @param use  takes where it begins and its length; true ends the search
+/// @param use  receives the start and length of a part; it returns true to end the search
 bool forEachPath(std::string_view name, const std::function<bool(std::size_t, std::size_t)> &use)
 {
-    constexpr std::size_t Most = 64; // a document may name whatever it likes
+    constexpr std::size_t Most = 64; // keeps the search short for hostile names
     constexpr std::string_view Marks = ":\",";
     std::vector<std::size_t> marks;
     for (std::size_t at = name.find_first_of(Marks); at != std::string_view::npos;
@@ -50,7 +50,7 @@ std::string localPathIn(const std::string &directory, std::string_view path)
 
 bool lists(GDALDataset &file, const std::string &part)
 {
-    // all at once: some formats do not tell single items
+    // the whole list, because some formats do not give single items
     for (char **item = file.GetMetadata("SUBDATASETS"); item && *item; ++item) {
         const std::string_view text = *item; // SUBDATASET_1_NAME=...
         const std::size_t equals = text.find('=');
@@ -118,7 +118,7 @@ GDALDatasetUniquePtr openListedPart(const std::string &name)
         return begin == slash && localfiles::isLocalDataset(name.substr(begin, length));
     });
     if (isLocal && name.compare(slash, 2, "//") != 0)
-        return localfiles::openRasterPicture(name); // not always that of the file
+        return localfiles::openRasterPicture(name); // its format may differ from the file's
     CPLError(CE_Failure, CPLE_OpenFailed, "%s",
              contract::formatted("MESS_SCENE_NOT_IN_FILE").c_str());
     return nullptr;

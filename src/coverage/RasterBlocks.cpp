@@ -28,7 +28,7 @@ std::optional<double> declaredNoData(GDALRasterBand &band)
     return isDeclared ? std::optional(value) : std::nullopt;
 }
 
-/// As the band can store it.
+/// The value after rounding to the band's data type.
 double stored(const GDALRasterBand &band, double value)
 {
     const bool isSingle = const_cast<GDALRasterBand &>(band).GetRasterDataType() == GDT_Float32;
@@ -64,7 +64,7 @@ void RasterBlocks::applyMask(int left, int top, int width, int height, std::vect
 void RasterBlocks::readWindow(int left, int top, int width, int height, std::vector<double> &values)
 {
     constexpr double None = std::numeric_limits<double>::quiet_NaN();
-    const CPLErrorHandlerPusher quiet(CPLQuietErrorHandler); // a damaged part has no values
+    const CPLErrorHandlerPusher quiet(CPLQuietErrorHandler); // damaged parts have no values
     const localfiles::NoNetwork offline;
     values.resize(static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
     if (m_band.RasterIO(GF_Read, left, top, width, height, values.data(), width, height,
@@ -119,7 +119,7 @@ void RasterBlocks::read(int row, int begin, int end,
 bool RasterBlocks::readAll(const std::function<void(std::span<const double>)> &use,
                            const Progress &progress)
 {
-    constexpr int Width = 4096; // wide: a file of whole rows is read once
+    constexpr int Width = 4096; // wide, so that a file stored in whole rows is read once
     std::vector<double> values;
     for (int top = 0; top < rows(); top += BlockSide) {
         for (int left = 0; left < columns(); left += Width) {

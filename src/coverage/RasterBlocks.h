@@ -15,14 +15,14 @@
 
 namespace vlt::coverage {
 
-/// The values of a band, read in squares as they are needed; the latest are kept, 128 MiB at most.
-/// Pixels without a value, masked ones and those that cannot be read, are NaN. Not for two threads
-/// at once.
+/// The values of a band, read in square blocks when they are needed. The blocks used last are kept,
+/// up to 128 MiB. Pixels that have no value, are masked or cannot be read are NaN. Not for two
+/// threads at once.
 class RasterBlocks
 {
 public:
-    /// @param band     outlives this
-    /// @param noData   the stored value of pixels without a value, besides the band's own
+    /// @param band     must exist longer than this object
+    /// @param noData   a stored "no data" value in addition to the band's own
     RasterBlocks(GDALRasterBand &band, std::optional<double> noData);
 
     int columns() const { return m_band.GetXSize(); }
@@ -31,10 +31,10 @@ public:
     /// The values of a part of a row, with scale and offset applied, piece by piece.
     void read(int row, int begin, int end, const std::function<void(std::span<const double>)> &use);
 
-    /// All values, piece by piece, past what is kept.
+    /// All values, piece by piece, without use of the kept blocks.
     ///
-    /// @param progress  told before each piece; may be empty
-    /// @return          false where `progress` stopped it
+    /// @param progress  called before each piece; may be empty
+    /// @return          false if `progress` stopped the function
     bool readAll(const std::function<void(std::span<const double>)> &use, const Progress &progress);
 
 private:
@@ -54,7 +54,7 @@ private:
     double m_scale = 1;
     double m_offset = 0;
     std::unordered_map<std::int64_t, Block> m_blocks;
-    std::list<std::int64_t> m_recent; ///< numbers of the blocks, the latest first
+    std::list<std::int64_t> m_recent; ///< numbers of the blocks, the last used one first
 };
 
 } // namespace vlt::coverage

@@ -7,7 +7,7 @@ namespace vlt::coverage {
 
 namespace {
 
-/// The first pixel whose centre is not before `at`, within 0 .. count.
+/// The first pixel whose centre is at `at` or after it, within 0 .. count.
 int firstFrom(double at, int count)
 {
     return static_cast<int>(std::clamp(std::ceil(at - 0.5), 0.0, static_cast<double>(count)));

@@ -7,19 +7,20 @@
 
 namespace vlt::coverage {
 
-/// Finds the pixels whose centre lies within the rings of a footprint, row by row. Keeps its memory
-/// from one footprint to the next. Not for two threads at once.
+/// Finds the pixels whose centres lie within the rings of a footprint, row by row. It keeps its
+/// memory from one footprint to the next. Not for two threads at once.
 class RowRuns
 {
 public:
-    /// Takes a row and the columns begin .. end - 1 of it.
+    /// Receives a row and its columns begin .. end - 1.
     using Use = std::function<void(int row, int begin, int end)>;
 
-    /// By even-odd: a ring within another is a hole. A centre that lies on an edge belongs to the
-    /// footprint on one side of it only, so that footprints that touch share no pixel.
+    /// Finds the pixels by the even-odd rule: a ring within another is a hole. A pixel centre on an
+    /// edge belongs to the footprint on one side of it only, so that adjacent footprints share no
+    /// pixel.
     ///
     /// @param rings          in pixels from the raster's first corner; finite
-    /// @param columns, rows  of the raster; nothing beyond is found
+    /// @param columns, rows  size of the raster; pixels outside it are not found
     void find(const std::vector<std::vector<Place>> &rings, int columns, int rows, const Use &use);
 
 private:
@@ -35,7 +36,7 @@ private:
     void useRow(int row, int columns, const Use &use);
 
     std::vector<Edge> m_edges;
-    std::vector<std::size_t> m_active; ///< edges that cross the row
+    std::vector<std::size_t> m_active; ///< edges that cross the current row
     std::vector<double> m_crossings;
 };
 

@@ -9,7 +9,8 @@ namespace {
 
 constexpr std::size_t MaxWaiting = 1 << 18;
 
-// Beyond this many different values those that came only once are given up, to bound the memory.
+// Above this number of different values, those that occurred only once are discarded, to bound the
+// memory.
 constexpr std::size_t MaxCounts = 1 << 22;
 
 } // namespace
@@ -77,7 +78,7 @@ std::optional<double> ValueReducer::result()
         return m_least;
     case Reduction::Maximum:
         return m_most;
-    case Reduction::Average: // rounding may lead a little beyond
+    case Reduction::Average: // rounding may exceed the range slightly
         return std::clamp(m_sum / static_cast<double>(m_number), m_least, m_most);
     case Reduction::MostRepresented:
         break;

@@ -10,16 +10,16 @@
 
 namespace vlt::coverage {
 
-/// Makes one value of many.
+/// Computes one value from many, by a Reduction.
 class ValueReducer
 {
 public:
     explicit ValueReducer(Reduction reduction) : m_reduction(reduction) {}
 
-    /// Adds values; those that are not finite are none.
+    /// Adds values; those that are not finite are ignored.
     void add(std::span<const double> values);
 
-    /// Nothing where there was no value.
+    /// The value of all that were added; nothing if there were none.
     std::optional<double> result();
 
 private:
