@@ -9,36 +9,36 @@
 
 namespace vlt::linkpath {
 
-/// What the terrain leaves of a link's path.
+/// The class of a path's clearance.
 enum class Verdict {
-    Unknown,    ///< no terrain, no frequency or no antenna height
-    Clear,      ///< the wanted share of the first Fresnel zone is free all along
-    Marginal,   ///< the line of sight is free, the wanted share is not
-    Obstructed, ///< the terrain cuts the line of sight
+    Unknown,    ///< the terrain, the frequency or an antenna height is missing
+    Clear,      ///< the required share of the first Fresnel zone is free along the whole path
+    Marginal,   ///< the line of sight is free, the required share is not
+    Obstructed, ///< the terrain obstructs the line of sight
 };
 
-/// What a link lacks that cannot be judged.
+/// The reason why the clearance of a link is unknown.
 enum class Lack {
-    Nothing,
-    Place, ///< of an end
-    Terrain,
-    HeightA, ///< of the antenna at end A, or at both
-    HeightB,
-    Frequency,
-    TerrainOfPath, ///< a part of the path's
-    Length,        ///< the ends stand in one place
+    Nothing,       ///< the clearance is known
+    Place,         ///< the position of an end is missing
+    Terrain,       ///< the terrain is missing
+    HeightA,       ///< the antenna height at end A is missing, or both are
+    HeightB,       ///< the antenna height at end B is missing
+    Frequency,     ///< the frequency is missing or not positive
+    TerrainOfPath, ///< the terrain of a part of the path is missing
+    Length,        ///< the ends have the same position
 };
 
-/// Red, green, blue of a verdict, for lines and marks; told apart by those who do not see red or
-/// green.
+/// Red, green and blue of a class of clearance, for lines and marks. Readers who cannot distinguish
+/// red from green can distinguish these colours.
 std::array<std::uint8_t, 3> verdictColor(Verdict verdict);
 
-/// What clearance is asked for; the values are those of a first run.
+/// The required clearance; the defaults are those of a first run.
 struct ClearanceRule
 {
-    /// Of the first zone's radius, to be free; 0 .. 1 and more.
+    /// Share of the first zone's radius that has to be free; 0 .. 1 and more.
     double share = contract::query::FresnelSharePercent.firstRun / 100.0;
-    /// Of the earth's radius.
+    /// Factor of the earth's radius.
     double kFactor = contract::query::KFactorNumber.firstRun;
 };
 
@@ -49,29 +49,29 @@ struct ProfilePoint
     double terrainM = 0;  ///< height above sea level
 };
 
-/// The point where the least share of the first Fresnel zone is free.
+/// The point of a path where the free share of the first Fresnel zone has its minimum.
 struct WorstPoint
 {
     double distanceM = 0;  ///< from end A
     double terrainM = 0;   ///< height of the terrain above sea level
     double lineM = 0;      ///< height of the straight line between the antennas above sea level
-    double bulgeM = 0;     ///< how much the earth's curvature raises the terrain
-    double radiusM = 0;    ///< of the first Fresnel zone
-    double clearanceM = 0; ///< line - terrain - bulge; negative: the line is cut
+    double bulgeM = 0;     ///< rise of the terrain by the earth's curvature
+    double radiusM = 0;    ///< radius of the first Fresnel zone
+    double clearanceM = 0; ///< line - terrain - bulge; negative: the line is obstructed
     double freeShare() const { return clearanceM / radiusM; }
 };
 
-/// A judged link.
+/// The clearance of a link.
 struct Clearance
 {
     Verdict verdict = Verdict::Unknown;
-    Lack lack = Lack::Place;         ///< why there is no verdict; Nothing where there is one
-    std::optional<WorstPoint> worst; ///< of the part of the path whose terrain is known
+    Lack lack = Lack::Place;         ///< the reason for Verdict::Unknown, else Nothing
+    std::optional<WorstPoint> worst; ///< within the part of the path whose terrain is known
 };
 
-/// Judges a path by its profile.
+/// Computes the clearance of a path from its profile.
 ///
-/// @param profile        from end A to end B, both ends included; two points at least
+/// @param profile        from end A to end B, both ends included; at least two points
 /// @param antennaAM      height of the antenna's centre at end A above sea level
 /// @param antennaBM      the same at end B
 /// @param frequencyMHz   positive

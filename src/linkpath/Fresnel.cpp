@@ -13,7 +13,7 @@ double wavelengthM(double frequencyMHz)
 FresnelEllipsoid fresnelEllipsoid(int zone, double frequencyMHz, double distanceM)
 {
     const double detourM = zone * wavelengthM(frequencyMHz) / 2;
-    // sqrt(a^2 - (D/2)^2) written so that the nearly equal squares do not cancel
+    // sqrt(a^2 - (D/2)^2) without the cancellation of the nearly equal squares
     return {(distanceM + detourM) / 2, std::sqrt(detourM * (2 * distanceM + detourM)) / 2};
 }
 

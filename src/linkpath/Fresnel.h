@@ -11,24 +11,24 @@ inline constexpr double EarthRadiusM = 6371008.8;
 /// Wavelength in metres of a frequency in MHz.
 double wavelengthM(double frequencyMHz);
 
-/// An ellipsoid of revolution whose foci are the two antennas: half axes in metres.
+/// An ellipsoid of revolution whose foci are the two antennas: its semi-axes in metres.
 struct FresnelEllipsoid
 {
-    double semiMajorM = 0; ///< along the link; from the middle to a tip behind an antenna
-    double semiMinorM = 0; ///< across the link, at its middle
+    double semiMajorM = 0; ///< along the link, from its centre to a point behind an antenna
+    double semiMinorM = 0; ///< across the link, at its centre
 };
 
-/// The boundary of Fresnel zone `zone` (1 or more) of a link of `distanceM` metres: all points by
-/// way of which the path is zone half wavelengths longer than the straight one (Rec. ITU-R P.526,
-/// "Fresnel ellipsoids"). a = (D + n lambda/2)/2, b = sqrt(a^2 - (D/2)^2).
+/// The boundary of Fresnel zone n = `zone` (1 or more) of a link of D = `distanceM` metres: all
+/// points for which the path through the point is n half wavelengths longer than the straight path
+/// (Rec. ITU-R P.526, "Fresnel ellipsoids"). a = (D + n lambda/2)/2, b = sqrt(a^2 - (D/2)^2).
 FresnelEllipsoid fresnelEllipsoid(int zone, double frequencyMHz, double distanceM);
 
-/// Radius of a Fresnel zone `d1M` metres from one antenna and `d2M` from the other:
+/// Radius of a Fresnel zone at `d1M` metres from one antenna and `d2M` metres from the other:
 /// sqrt(n lambda d1 d2/(d1 + d2)) (Rec. ITU-R P.526).
 double fresnelRadiusM(int zone, double frequencyMHz, double d1M, double d2M);
 
-/// How far the earth's surface rises above the chord between two points, `d1M` and `d2M` metres
-/// from them, on an earth of k times its radius: d1 d2/(2 k R).
+/// Height of the earth's surface above the chord between two points, at `d1M` and `d2M` metres from
+/// them, for an earth radius multiplied by k: d1 d2/(2 k R).
 double earthBulgeM(double d1M, double d2M, double kFactor);
 
 } // namespace vlt::linkpath

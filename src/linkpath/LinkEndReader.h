@@ -11,49 +11,49 @@
 
 namespace vlt::linkpath {
 
-/// A link put together from its two rows in the layer of link ends. Texts are as the layer has
-/// them.
+/// A link with the values of its two rows in the layer of link ends. Texts are as in the layer.
 struct PairedLink
 {
     struct End
     {
         std::string site;
-        LinkEnd place;         ///< without a meaning unless `isPlaced`
+        LinkEnd place;         ///< valid only if `isPlaced`
         bool isPlaced = false; ///< whether the row has a position
         std::optional<double> frequencyMHz;
     };
 
-    std::int64_t row = 0; ///< in the file, from 1
-    std::string name;     ///< empty where the table names no links
+    std::int64_t row = 0; ///< row of the file, from 1
+    std::string name;     ///< empty if the table has no names of links
     std::optional<double> lengthM;
     std::array<End, 2> ends; ///< A, B
 
     bool isPlaced() const { return ends[0].isPlaced && ends[1].isPlaced; }
 
-    /// Of end A, else of end B.
+    /// The frequency of end A, else of end B.
     std::optional<double> frequencyMHz() const
     {
         return ends[0].frequencyMHz ? ends[0].frequencyMHz : ends[1].frequencyMHz;
     }
 };
 
-/// Puts links together while the layer of their ends is read from its first row to its last.
+/// Combines the rows of the layer of link ends into links. The rows are added from the first to the
+/// last.
 class LinkEndReader
 {
 public:
-    /// @param siteField  index of the field that names the site of an end; negative: none does
+    /// @param siteField  index of the field with the site of an end; negative: there is none
     LinkEndReader(const OGRFeatureDefn &ends, int siteField);
 
-    /// Whether the layer has the fields by which ends belong together.
+    /// Whether the layer has the fields that assign ends to links.
     bool isComplete() const { return m_row >= 0 && m_end >= 0; }
 
-    /// The fields that are read, by their index; negative ones are not there.
+    /// Indices of the fields that are read; negative for a missing field.
     std::array<int, 7> fields() const;
 
-    /// Takes the next row. @return the link before it, where the row starts another one
+    /// Adds the next row. @return the previous link, if the row starts another one
     std::optional<PairedLink> add(const OGRFeature &feature);
 
-    /// The last link, after all rows.
+    /// Returns the last link, after all rows were added.
     std::optional<PairedLink> finish();
 
 private:
@@ -66,7 +66,7 @@ private:
     int m_height;
     int m_frequency;
     int m_length;
-    std::optional<PairedLink> m_link; ///< whose ends are being read
+    std::optional<PairedLink> m_link; ///< the link whose ends are being read
 };
 
 } // namespace vlt::linkpath

@@ -11,7 +11,7 @@ namespace vlt::linkpath {
 namespace {
 
 constexpr double DegreesPerRadian = 180 / M_PI;
-constexpr double SamplesPerPixel = 4; ///< a straight line cuts the surface of a pixel in a curve
+constexpr double SamplesPerPixel = 4; ///< heights along a line within a pixel form a curve
 constexpr double FewestSamples = 64;
 constexpr double MostSamples = 50000;
 
@@ -23,7 +23,7 @@ struct Arc
     double azimuthDeg = 0;
 };
 
-/// The system of longitudes and latitudes that `srs` is based on.
+/// The geographic system on which `srs` is based.
 OGRSpatialReference geographicBase(const OGRSpatialReference &srs)
 {
     OGRSpatialReference base;
@@ -34,7 +34,8 @@ OGRSpatialReference geographicBase(const OGRSpatialReference &srs)
 
 } // namespace
 
-/// Ends in longitude and latitude, or in metres on a plane where no system is known.
+/// The terrain and the transformations. Ends are converted to longitude and latitude; without a
+/// known system they lie on a plane.
 class PathProfiler::Parts
 {
 public:
@@ -92,8 +93,8 @@ public:
         return m_terrain->heightM(x, y);
     }
 
-    /// Terrain heights at equal steps from a to b; those that are not known are left out, except
-    /// that `whole` becomes false.
+    /// Terrain heights at equal steps from a to b. Unknown heights are left out; `whole` is false
+    /// then.
     std::vector<ProfilePoint> profile(const LinkEnd &a, const Arc &arc, bool &whole) const
     {
         const auto from = base(a);
@@ -149,8 +150,8 @@ private:
 
     std::shared_ptr<TerrainRaster> m_terrain;
     bool m_isOnEarth = false;
-    double m_unitM = 1;   ///< of a plane
-    double m_unitDeg = 1; ///< of longitudes and latitudes
+    double m_unitM = 1;   ///< unit of coordinates on a plane
+    double m_unitDeg = 1; ///< unit of longitudes and latitudes
     geod_geodesic m_earth{};
     Transformation m_toBase;
     Transformation m_toTerrain;

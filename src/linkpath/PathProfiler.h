@@ -13,23 +13,23 @@ struct LinkEnd
 {
     double x = 0; ///< east or longitude, in the links' system
     double y = 0;
-    std::optional<double> heightM; ///< of the antenna's centre above ground
+    std::optional<double> heightM; ///< height of the antenna's centre above ground
 };
 
-/// Cuts profiles out of a terrain and judges links by them. Not for two threads at once.
+/// Takes profiles from a terrain and computes the clearance of links. Not for two threads at once.
 class PathProfiler
 {
 public:
-    /// @param terrain  may be null: then lengths are known, verdicts are not
-    /// @param srs      system of the ends; null: that of the terrain, or metres without one
+    /// @param terrain  may be null: lengths are known then, clearances are not
+    /// @param srs      system of the ends; null: that of the terrain, or metres without a terrain
     PathProfiler(std::shared_ptr<TerrainRaster> terrain, const OGRSpatialReference *srs);
     ~PathProfiler();
 
-    /// Whether there is a way from the links' system to the terrain's.
+    /// Whether there is a terrain, and a transformation to its system from that of the links.
     bool hasTerrain() const;
 
-    /// Distance of the ends on the earth's surface (geodesic) in metres; nothing where their system
-    /// does not tell.
+    /// Distance of the ends on the earth's surface (geodesic) in metres; nothing if their positions
+    /// cannot be transformed.
     std::optional<double> lengthM(const LinkEnd &a, const LinkEnd &b) const;
 
     /// Azimuth of b seen from a, degrees from true north, clockwise.
@@ -38,8 +38,9 @@ public:
     /// Terrain height under a point of the links' system.
     std::optional<double> groundM(double x, double y) const;
 
-    /// Judges a link; Unknown where a height, the frequency (not positive) or a part of the terrain
-    /// is missing. A cut line of sight is Obstructed even where another part is missing.
+    /// Computes the clearance of a link. Its class is Unknown if a height, the frequency (also one
+    /// that is not positive) or a part of the terrain is missing. If the known terrain obstructs
+    /// the line of sight, it is Obstructed even if another part is missing.
     Clearance judge(const LinkEnd &a, const LinkEnd &b, double frequencyMHz,
                     const ClearanceRule &rule) const;
 

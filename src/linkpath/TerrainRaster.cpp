@@ -18,12 +18,12 @@ namespace {
 
 constexpr int BlockSide = 256;
 constexpr std::size_t MostBlocks = 256;     ///< 128 MiB
-constexpr double MostBlockPixels = 1 << 27; ///< of the file's own blocks, which are read whole
+constexpr double MostBlockPixels = 1 << 27; ///< of a block of the file, which is read whole
 constexpr double MetresPerDegree = 111320;
 constexpr double MetresPerFoot = 0.3048;
 constexpr double MetresPerSurveyFoot = 1200.0 / 3937;
-constexpr double FarthestFromSeaLevelM = 12000; ///< no ground is higher or deeper
-constexpr double EdgePixels = 1e-6; ///< by which rounding may move a place beyond the edge
+constexpr double FarthestFromSeaLevelM = 12000; ///< larger than any height on earth
+constexpr double EdgePixels = 1e-6; ///< how far rounding may move a position beyond the edge
 
 constexpr const char *NotPlaced = contract::SceneTextId("MESS_TERRAIN_NOT_PLACED").text().pattern;
 constexpr const char *TooLarge = contract::SceneTextId("MESS_TERRAIN_TOO_LARGE").text().pattern;
@@ -134,7 +134,7 @@ std::optional<double> TerrainRaster::pixelM(int column, int row)
         const int height = std::min(BlockSide, m_band->GetYSize() - top);
         Block block;
         block.values.assign(static_cast<std::size_t>(BlockSide) * BlockSide, std::nan(""));
-        const CPLErrorHandlerPusher quiet(CPLQuietErrorHandler); // a damaged part has no heights
+        const CPLErrorHandlerPusher quiet(CPLQuietErrorHandler); // damaged parts have no heights
         if (m_band->RasterIO(GF_Read, left, top, width, height, block.values.data(), width, height,
                              GDT_Float64, sizeof(double),
                              static_cast<GSpacing>(BlockSide) * sizeof(double), nullptr) != CE_None)
@@ -169,7 +169,7 @@ std::optional<TerrainRaster::Pixel> TerrainRaster::pixelAt(double x, double y) c
 std::optional<double> TerrainRaster::heightM(double x, double y)
 {
     std::optional<Pixel> pixel = pixelAt(x, y);
-    for (const double turn : {m_wholeTurn, -m_wholeTurn}) { // longitudes go on at the date line
+    for (const double turn : {m_wholeTurn, -m_wholeTurn}) { // longitudes jump at the date line
         if (!pixel && turn != 0)
             pixel = pixelAt(x + turn, y);
     }

@@ -12,32 +12,32 @@
 
 namespace vlt::linkpath {
 
-/// What a caller knows of a terrain file better than the file itself.
+/// Properties of a terrain file that the file itself may lack.
 struct TerrainHints
 {
-    std::optional<double> noData;                    ///< besides the file's own
-    const OGRSpatialReference *assumedSrs = nullptr; ///< where the file states none; x before y
+    std::optional<double> noData;                    ///< in addition to the file's own
+    const OGRSpatialReference *assumedSrs = nullptr; ///< for a file without one; x before y
 };
 
-/// Heights of a terrain file, band 1, read as they are needed. Not for two threads at once.
+/// Heights of a terrain file, from band 1, read when they are needed. Not for two threads at once.
 class TerrainRaster
 {
 public:
-    /// Opens a local raster file; null where it cannot be opened, is not georeferenced or has no
-    /// coordinate system, neither its own nor an assumed one. `reason` takes why: a text of
-    /// contract/SceneTexts.h, else GDAL's words.
+    /// Opens a local raster file. Null if it cannot be opened, is not georeferenced or has no
+    /// coordinate system, neither its own nor an assumed one. `reason` receives the reason: a text
+    /// of contract/SceneTexts.h or a message of GDAL.
     static std::unique_ptr<TerrainRaster> open(const std::string &path, std::string *reason,
                                                const TerrainHints &hints = {});
 
-    /// Height above sea level in metres, between the centres of the four pixels around the point;
-    /// nothing outside the raster and where one of them has no data or tells no height of this
-    /// earth. x, y in the raster's system, x being east or longitude, of which a whole turn more or
-    /// less is the same.
+    /// Height above sea level in metres, interpolated between the centres of the four pixels around
+    /// the point. Nothing outside the raster, and if one of the pixels has no data or a height that
+    /// does not occur on earth. x and y are in the raster's system, x is east or longitude; a
+    /// longitude may be larger or smaller by 360 degrees.
     std::optional<double> heightM(double x, double y);
 
-    /// Axis order: x (east, longitude) first.
+    /// The raster's system, with x (east, longitude) before y.
     const OGRSpatialReference &srs() const { return m_srs; }
-    /// The smaller side of a pixel in metres, about.
+    /// Approximate length of the shorter side of a pixel in metres.
     double pixelSizeM() const { return m_pixelSizeM; }
 
 private:
@@ -47,7 +47,7 @@ private:
         std::list<std::int64_t>::iterator place;
     };
 
-    /// Counted from the centre of the first one.
+    /// Position in pixels, from the centre of the first one.
     struct Pixel
     {
         double column;
@@ -56,22 +56,22 @@ private:
 
     explicit TerrainRaster(GDALDatasetUniquePtr dataset) : m_dataset(std::move(dataset)) {}
     const char *prepare(const TerrainHints &hints); ///< the reason of a refusal, else null
-    double asStored(double value) const;            ///< as the band can hold it
+    double asStored(double value) const;            ///< rounded to the band's data type
     std::optional<double> pixelM(int column, int row);
-    std::optional<Pixel> pixelAt(double x, double y) const; ///< nothing outside
+    std::optional<Pixel> pixelAt(double x, double y) const; ///< nothing outside the raster
 
     GDALDatasetUniquePtr m_dataset;
     GDALRasterBand *m_band = nullptr;
     OGRSpatialReference m_srs;
     double m_toPixel[6] = {};
     double m_pixelSizeM = 0;
-    double m_wholeTurn = 0; ///< in the unit of longitudes; 0: a projected system
+    double m_wholeTurn = 0; ///< 360 degrees in the unit of longitudes; 0: a projected system
     double m_scale = 1;     ///< metres per stored unit
     double m_offset = 0;    ///< metres
     std::optional<double> m_noData;
     std::optional<double> m_alsoNoData;
     std::unordered_map<std::int64_t, Block> m_blocks;
-    std::list<std::int64_t> m_recent; ///< numbers of the blocks, the latest first
+    std::list<std::int64_t> m_recent; ///< numbers of the blocks, the last used one first
 };
 
 } // namespace vlt::linkpath
