@@ -7,7 +7,7 @@
 
 namespace vlt::snapshot {
 
-// Nodes make deferred content for visitors that choose what is drawn.
+// Nodes make their deferred content for cull visitors only.
 DrawnExtents::DrawnExtents(Deferred deferred, const std::optional<osg::Vec3d> &eye,
                            const osg::Matrix &toScene)
     : osg::NodeVisitor(deferred == Deferred::Made ? CULL_VISITOR : NODE_VISITOR,
@@ -32,7 +32,7 @@ void DrawnExtents::apply(osg::Node &node)
 void DrawnExtents::apply(osg::Drawable &drawable)
 {
     if (dynamic_cast<const osgText::TextBase *>(&drawable))
-        return; // its size may count in pixels
+        return; // its size may be in pixels
     const osg::BoundingBox &box = drawable.getBoundingBox();
     for (unsigned corner = 0; box.valid() && corner < 8; ++corner)
         m_extents.expandBy(osg::Vec3d(box.corner(corner)) * m_toScene.back());
@@ -47,7 +47,7 @@ void DrawnExtents::apply(osg::Transform &transform)
     m_toScene.pop_back();
 }
 
-/// Cameras within a scene draw overlays or pictures of their own.
+/// Cameras within a scene draw overlays or other pictures.
 void DrawnExtents::apply(osg::Camera & /*camera*/) {}
 
 void DrawnExtents::apply(osg::LOD &levels)

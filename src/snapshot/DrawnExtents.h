@@ -9,18 +9,18 @@
 
 namespace vlt::snapshot {
 
-/// Walks a scene and finds the extents of what is drawn for a certain eye: of levels of detail only
-/// those count whose range holds the eye's distance. Texts do not count. Metres.
+/// Visits a scene and finds the extents, in metres, of all that is drawn for an eye position. A
+/// level of detail counts only if its range contains the eye's distance. Texts do not count.
 class DrawnExtents : public osg::NodeVisitor
 {
 public:
     enum class Deferred {
-        ByBound, ///< a node that makes its content when drawn counts with its bound
-        Made     ///< and here it makes its content now
+        ByBound, ///< a node that makes its content when it is drawn counts with its bound
+        Made     ///< such a node makes its content now
     };
 
-    /// @param eye      in the scene's frame; without one every level counts
-    /// @param toScene  from the frame of the node that is walked to the scene's
+    /// @param eye      in the scene's frame; nothing: every level counts
+    /// @param toScene  transformation from the frame of the visited node to the scene's frame
     explicit DrawnExtents(Deferred deferred, const std::optional<osg::Vec3d> &eye = {},
                           const osg::Matrix &toScene = {});
 
@@ -30,7 +30,7 @@ public:
     void apply(osg::Camera &camera) override;
     void apply(osg::LOD &levels) override;
 
-    /// In the scene's frame; invalid where nothing is drawn.
+    /// In the scene's frame; invalid if nothing is drawn.
     const osg::BoundingBoxd &extents() const { return m_extents; }
 
 private:

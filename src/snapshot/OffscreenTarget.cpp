@@ -14,7 +14,7 @@ constexpr int WantedSamples = 4;
 
 void forgetErrors()
 {
-    constexpr int mostKept = 16; // a context that is lost goes on telling of errors
+    constexpr int mostKept = 16; // a lost context reports errors without end
     for (int i = 0; i < mostKept && glGetError() != GL_NO_ERROR; ++i)
         ;
 }

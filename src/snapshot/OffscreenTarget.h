@@ -7,21 +7,21 @@
 
 namespace vlt::snapshot {
 
-/// A place in the graphics memory to draw a picture of any size into. Every function is called with
-/// the same context current, which also takes all of it along when it goes.
+/// A frame buffer in graphics memory for a picture of any size. All functions have to be called
+/// with the same current context, which also releases the memory when it is destroyed.
 class OffscreenTarget
 {
 public:
     explicit OffscreenTarget(const osg::GLExtensions &functions) : m_functions(functions) {}
 
-    /// Makes the place, with four samples a pixel where the system has them. False where it has
-    /// no room for the size.
+    /// Creates the frame buffer, with four samples a pixel if the system supports it. False if
+    /// there is not enough memory for the size.
     bool create(const QSize &size);
 
-    /// What drawing has to be directed to.
+    /// The frame buffer to draw into.
     unsigned int frameBuffer() const { return m_drawn; }
 
-    /// What was drawn; null where it cannot be read.
+    /// The picture that was drawn; null if it cannot be read.
     QImage read() const;
 
 private:
@@ -29,7 +29,7 @@ private:
 
     const osg::GLExtensions &m_functions;
     QSize m_size;
-    unsigned int m_drawn = 0;    ///< with depth, perhaps with samples
+    unsigned int m_drawn = 0;    ///< with depth, one or more samples a pixel
     unsigned int m_resolved = 0; ///< one sample a pixel
 };
 

@@ -5,7 +5,7 @@
 
 namespace vlt::snapshot {
 
-/// A line may come in pieces, and readers may work on threads of their own.
+/// Receives the messages: a line may come in pieces, and readers may run on several threads.
 class SceneNotices::Collector : public osg::NotifyHandler
 {
 public:

@@ -7,8 +7,8 @@
 
 namespace vlt::snapshot {
 
-/// Collects what the scene library and its readers tell, which otherwise goes to the standard
-/// streams, as long as the object lives. One object at a time.
+/// Collects the messages of the scene library and its readers, as long as the object exists;
+/// otherwise they go to the standard streams. Only one object may exist at a time.
 class SceneNotices
 {
 public:
@@ -17,7 +17,7 @@ public:
     SceneNotices(const SceneNotices &) = delete;
     SceneNotices &operator=(const SceneNotices &) = delete;
 
-    /// The lines told since the last call; debugging texts are left out.
+    /// The lines received since the last call, without debugging messages.
     QStringList take();
 
 private:

@@ -18,7 +18,7 @@ namespace {
 
 using ReadResult = osgDB::ReaderWriter::ReadResult;
 
-/// Keeps readers from following a scene's references out of this computer.
+/// Keeps readers from following a scene's references to other computers.
 class LocalFilesOnly : public osgDB::ReadFileCallback
 {
 public:
@@ -56,7 +56,7 @@ bool report(void *progress, double share)
     return (*static_cast<const Progress *>(progress))(share);
 }
 
-/// The reader's words without the file's name, which the error has beside them.
+/// The reader's message without the file's name, which the error has as its path.
 Error asError(ReadResult &read, const std::string &source, const QString &name)
 {
     if (read.status() == ReadResult::FILE_NOT_HANDLED || read.message().empty())
@@ -98,7 +98,7 @@ Stoppable<Scene> readScene(const QString &name, const QString &project, TerrainS
     const osg::ref_ptr<osgDB::Options> options =
         registry->getOptions() ? registry->getOptions()->cloneOptions() : new osgDB::Options;
     options->setReadFileCallback(new LocalFilesOnly);
-    if (!registry->getReadFileCallback()) // for what a scene loads later, while it is drawn
+    if (!registry->getReadFileCallback()) // for parts that a scene loads while it is drawn
         registry->setReadFileCallback(new LocalFilesOnly);
     if (!project.isEmpty())
         options->setPluginStringData(

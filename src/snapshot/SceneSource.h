@@ -9,34 +9,33 @@
 
 namespace vlt::snapshot {
 
-/// A loaded scene; null for none.
+/// A loaded scene; null: no scene.
 using Scene = osg::ref_ptr<osg::Node>;
 
-/// Whether the surface of the terrain is shown under a scene that knows one.
+/// Whether the surface of the terrain is shown under a scene that has one.
 enum class TerrainSurface { Hidden, Shown };
 
-/// Loads a scene through the scene library's readers: a regular file of this computer, or a
-/// parametric object "inline://parametric/query?...". Nothing is fetched over a network, neither
-/// the scene nor what it refers to.
+/// Loads a scene with the scene library's readers: a regular file of this computer, or a parametric
+/// object "inline://parametric/query?...". Neither the scene nor the files to which it refers are
+/// fetched over a network.
 ///
-/// @param project  file of the project that the scene belongs to, handed to the readers; may be
-///                 empty
-/// @par Errors     MESS_SNAP_NOT_LOCAL for a name of another kind, MESS_SNAP_NO_FILE; the reader's
-///                 reason as detail.
+/// @param project  file of the project to which the scene belongs, for the readers; may be empty
+/// @par Errors     MESS_SNAP_NOT_LOCAL for any other kind of name, MESS_SNAP_NO_FILE, or the
+///                 reader's reason as detail.
 Result<Scene> readScene(const QString &name, const QString &project = {},
                         TerrainSurface terrain = TerrainSurface::Hidden);
 
-/// The same with the progress of readers that take long.
+/// The same, with the progress of readers that take a long time.
 Stoppable<Scene> readScene(const QString &name, const QString &project, TerrainSurface terrain,
                            const Progress &progress);
 
 /// Whether the name is that of a parametric object.
 bool isParametricName(const QString &name);
 
-/// The scene library with its version: "OpenSceneGraph 3.6.5".
+/// Name and version of the scene library: "OpenSceneGraph 3.6.5".
 QString libraryVersion();
 
-/// Puts the installation's plug-ins first among the scene library's readers.
+/// Makes the scene library search the installation's plug-ins before all others.
 void addInstalledReaders(const QString &installDir);
 
 } // namespace vlt::snapshot

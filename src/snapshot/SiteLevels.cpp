@@ -23,8 +23,8 @@ struct Place
 class SiteFinder : public osg::NodeVisitor
 {
 public:
-    /// @param type     CULL_VISITOR to have nodes make what they make only when drawn
-    /// @param toScene  from the frame of the node that is walked to the scene's
+    /// @param type     CULL_VISITOR: nodes make the content that they make only when drawn
+    /// @param toScene  transformation from the frame of the visited node to the scene's frame
     explicit SiteFinder(VisitorType type, const osg::Matrix &toScene = {})
         : osg::NodeVisitor(type, TRAVERSE_ALL_CHILDREN)
         , m_toScene{toScene}
@@ -91,7 +91,7 @@ std::optional<SiteLevels> findMiddleSite(osg::Node &scene)
         return std::nullopt;
     const osg::Vec3d mean = meanOf(finder.places());
     Place site = nearestTo(mean, finder.places());
-    // Large scenes make their sites tile by tile; only the middle one's are needed.
+    // Large scenes make their sites tile by tile; only those of the middle tile are needed.
     SiteFinder inTile(osg::NodeVisitor::CULL_VISITOR, site.toScene);
     for (unsigned child = 0; child < site.levels->getNumChildren(); ++child)
         site.levels->getChild(child)->accept(inTile);

@@ -16,7 +16,7 @@ namespace {
 constexpr double SmallestShownPixels = 0.5;
 constexpr int LongestLoadingMs = 60000;
 
-/// Directs a frame to a place of its own.
+/// Makes a camera draw into a frame buffer.
 class DrawInto : public osg::Camera::DrawCallback
 {
 public:
@@ -36,7 +36,7 @@ osg::ref_ptr<osg::GraphicsContext> makeContext()
 {
     osg::ref_ptr<osg::GraphicsContext::Traits> traits = new osg::GraphicsContext::Traits;
     traits->readDISPLAY();
-    // Only the context is needed: the picture has a place of its own.
+    // Only the context is needed, not its size: the picture has a frame buffer of its own.
     traits->width = 1;
     traits->height = 1;
     traits->pbuffer = true;
@@ -57,7 +57,7 @@ void setUpCamera(osg::Camera &camera, const ViewPoint &point, const QSize &size)
     camera.setSmallFeatureCullingPixelSize(SmallestShownPixels);
 }
 
-/// Draws until all that this view needs is loaded and drawn.
+/// Draws frames until everything that the view needs is loaded, and then the last one.
 void drawAll(osgViewer::Viewer &viewer)
 {
     QElapsedTimer since;
@@ -67,7 +67,7 @@ void drawAll(osgViewer::Viewer &viewer)
         viewer.frame(0);
     } while (pager && (pager->getRequestsInProgress() || pager->requiresUpdateSceneGraph()) &&
              since.elapsed() < LongestLoadingMs);
-    viewer.frame(0); // what the last one has loaded
+    viewer.frame(0); // draws what the frame before has loaded
 }
 
 } // namespace
@@ -91,7 +91,7 @@ Result<QImage> renderSnapshot(osg::Node &scene, const QSize &size, SceneView vie
                        {}};
     if (!target.create(size))
         return noRoom;
-    // what cameras within the scene come back to
+    // Cameras within the scene return to this frame buffer.
     context->setDefaultFboId(target.frameBuffer());
     context->releaseContext();
 

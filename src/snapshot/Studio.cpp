@@ -17,7 +17,7 @@ const osg::Vec4 SkyTop(0.52F, 0.68F, 0.86F, 1);
 const osg::Vec4 SkyBottom(0.93F, 0.955F, 0.975F, 1);
 constexpr int BehindAll = -1000; ///< render bin
 
-/// Parallel light that comes from `direction`.
+/// Parallel light from `direction`.
 osg::ref_ptr<osg::LightSource> makeLight(int number, const osg::Vec3 &direction,
                                          const osg::Vec4 &color, const osg::Vec4 &highlight)
 {

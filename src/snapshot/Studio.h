@@ -4,12 +4,12 @@
 
 namespace vlt::snapshot {
 
-/// The scene under light: a headlight, the sun over the viewer's shoulder, soft light from the sky
-/// all around. The viewer's own light has to be off.
+/// The scene with three lights: one at the eye, a sun behind an eye in the south-west, a soft light
+/// from the sky. The viewer's own light has to be off.
 osg::ref_ptr<osg::Group> underLight(osg::Node *scene);
 
-/// Something to put behind a scene: a light sky, brighter towards the ground. It fills the picture
-/// whatever the camera does.
+/// The background of a scene: a pale sky, brighter towards the ground. It fills the picture for
+/// every camera.
 osg::ref_ptr<osg::Node> makeSky();
 
 } // namespace vlt::snapshot

@@ -70,7 +70,7 @@ ViewPoint Subject::from(double distance, double fieldDeg) const
     return {centre() + m_axes.back * distance, centre(), fieldDeg};
 }
 
-/// Half the picture's height that a point needs beside the centre.
+/// Half the height in metres of a picture that just contains a point, given relative to the centre.
 double Subject::half(const osg::Vec3d &at) const
 {
     return std::max(std::abs(at * m_axes.up), std::abs(at * m_axes.right) / m_aspect);

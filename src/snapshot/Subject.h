@@ -8,10 +8,9 @@ namespace vlt::snapshot {
 
 inline constexpr double UsualFieldDeg = 30;
 inline constexpr double WidestFieldDeg = 70;
-inline constexpr double UsualMargin = 1.08; ///< room around what is to be seen
+inline constexpr double UsualMargin = 1.08; ///< size of a picture / size of its subject
 
-/// From where a picture is taken: the picture's axes to the right, up, and from the target to the
-/// eye.
+/// The direction of a picture: unit vectors to its right, upwards, and from the target to the eye.
 struct Axes
 {
     osg::Vec3d right;
@@ -19,13 +18,13 @@ struct Axes
     osg::Vec3d back;
 };
 
-/// From the south-west, a little above, as the wizard's preview shows scenes.
+/// The axes for an eye in the south-west, slightly above the scene, as in the wizard's preview.
 const Axes &usualAxes();
 
-/// From the south-west, so far above that one looks into streets.
+/// The axes for an eye in the south-west, so high above that streets are visible.
 const Axes &steepAxes();
 
-/// A box as it is seen along axes.
+/// A box that a picture with certain axes shows.
 class Subject
 {
 public:
@@ -39,7 +38,7 @@ public:
     /// Distance in metres from the centre at which the box fills a field of view.
     double distance(double fieldDeg) const;
 
-    /// Field of view that the box fills from a distance in metres.
+    /// Field of view that the box fills at a distance in metres.
     double fieldDeg(double distance) const;
 
     ViewPoint from(double distance, double fieldDeg) const;

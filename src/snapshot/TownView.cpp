@@ -16,7 +16,8 @@ namespace {
 
 using Deferred = DrawnExtents::Deferred;
 
-/// Towns with more buildings are not made to be measured: the bounds of their tiles serve.
+/// For towns with more buildings the bounds of the tiles are used, because it would take too long
+/// to make all buildings only to measure them.
 constexpr qint64 MostMeasured = 20000;
 
 osg::BoundingBoxd extentsFrom(osg::Node &scene, Deferred deferred,
@@ -27,7 +28,7 @@ osg::BoundingBoxd extentsFrom(osg::Node &scene, Deferred deferred,
     return drawn.extents();
 }
 
-/// Finds out whether something is not drawn for an eye because it is too far.
+/// Finds out whether a part of the scene is not drawn because it is too far from the eye.
 class HiddenParts : public osg::NodeVisitor
 {
 public:
@@ -99,7 +100,7 @@ Result<ViewPoint> viewOfTown(osg::Node &scene, qint64 buildings, double aspect)
         field += fieldStepDeg;
     }
     constexpr double nearer = 0.85;
-    constexpr double beyondMiddle = 0.6; // of the way there, so that something lies behind it
+    constexpr double beyondMiddle = 0.6; // of the distance: shows buildings behind the centre
     constexpr double nearestM = 10;
     double distance = subject.distance(UsualFieldDeg);
     while (distance > nearestM) {

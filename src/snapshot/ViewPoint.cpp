@@ -12,8 +12,8 @@ namespace vlt::snapshot {
 
 namespace {
 
-constexpr double SectorsMargin = 1.25; ///< more of it, for the neighbours
-constexpr double RangeMargin = 0.05;   ///< kept away from the distances where levels change
+constexpr double SectorsMargin = 1.25; ///< larger, to show the neighbouring sites
+constexpr double RangeMargin = 0.05;   ///< relative, to the distances where levels change
 
 Result<ViewPoint> viewOfAll(osg::Node &scene, double aspect)
 {
@@ -23,7 +23,7 @@ Result<ViewPoint> viewOfAll(osg::Node &scene, double aspect)
         return Error{QStringLiteral("MESS_SNAP_EMPTY"), QStringLiteral("the scene is empty"), {}};
     osg::BoundingBoxd box = everything.extents();
     double distance = Subject(box, aspect).distance(UsualFieldDeg);
-    // Nearer by, other levels of other extents may be drawn.
+    // At a smaller distance, other levels with other extents may be drawn.
     constexpr int attempts = 4;
     for (int attempt = 0; attempt < attempts; ++attempt) {
         const Subject subject(box, aspect);
@@ -43,7 +43,7 @@ Result<ViewPoint> viewOfAll(osg::Node &scene, double aspect)
     return Subject(box, aspect).from(distance, UsualFieldDeg);
 }
 
-/// The part of a slender mast where its antennas are; all of anything else.
+/// The part of a slender mast with its antennas; the whole of any other object.
 Level headOf(Level mast)
 {
     constexpr double share = 0.55;
@@ -63,7 +63,7 @@ Result<ViewPoint> viewOfLevel(const osg::Vec3d &centre, const Level &level, doub
                      QStringLiteral("its sites are never drawn that way"),
                      {}};
     const Subject subject(level.extents, aspect, margin);
-    // Levels change by the distance from the site's centre, which is not quite the box's.
+    // Levels depend on the distance from the site's centre, which differs from that of the box.
     const double aside = (subject.centre() - centre).length();
     const double least = level.fromM > 0 ? level.fromM * (1 + RangeMargin) + aside : 0;
     const double most = level.toM * (1 - RangeMargin) - aside;

@@ -8,12 +8,12 @@
 namespace vlt::snapshot {
 
 enum class SceneView {
-    All,      ///< everything, from the south-west, a little above
-    Symbolic, ///< sectors of the middle site, from where sites are drawn as symbols
-    Precise   ///< mast and antennas of the middle site, from where they are drawn as they are
+    All,      ///< everything, from the south-west, slightly above
+    Symbolic, ///< sectors of the middle site, at a distance at which sites are drawn as symbols
+    Precise   ///< mast and antennas of the middle site, at a distance at which they are drawn
 };
 
-/// Where a picture is taken from; up is the z axis.
+/// The eye and the target of a picture; the z axis points up.
 struct ViewPoint
 {
     osg::Vec3d eye;
@@ -21,14 +21,14 @@ struct ViewPoint
     double fieldOfViewDeg = 30; ///< vertical
 };
 
-/// Places the eye for a view. Levels of detail keep their distances: where these forbid to go near,
-/// the field of view gets narrower instead.
+/// Determines the eye for a view. The distances of levels of detail are respected: if the eye must
+/// not come nearer, the field of view gets narrower instead.
 ///
 /// @param aspect  width of the picture / its height
-/// @par Errors    MESS_SNAP_EMPTY for a scene in which nothing is drawn; MESS_SNAP_TOO_FAR where
-///                everything can only be in view from where nothing is drawn any more;
-///                MESS_SNAP_NO_SITES and MESS_SNAP_NO_LEVEL for a view of a representation that the
-///                scene lacks.
+/// @par Errors    MESS_SNAP_EMPTY for a scene in which nothing is drawn; MESS_SNAP_TOO_FAR if
+///                nothing is drawn any more at the distance at which everything is in view;
+///                MESS_SNAP_NO_SITES and MESS_SNAP_NO_LEVEL if the scene lacks the representation
+///                of the view.
 Result<ViewPoint> findViewPoint(osg::Node &scene, SceneView view, double aspect);
 
 } // namespace vlt::snapshot
