@@ -12,7 +12,7 @@ std::uint8_t mixed(std::uint8_t from, std::uint8_t to, double share)
     return static_cast<std::uint8_t>(std::lround(from + (to - from) * share));
 }
 
-/// Of `value`, which lies above the one and not above the other.
+/// The colour of `value`, which is above `below.value` and at most `above.value`.
 Rgba mixture(const ColorAssociation &below, const ColorAssociation &above, double value)
 {
     const double scale = std::isfinite(above.value - below.value) ? 1 : 0.5;
@@ -35,7 +35,7 @@ std::optional<Rgba> colorOf(const ColorMap &map, double value, Interpretation in
         return map.noDataColor();
 
     const bool isRange = interpretation == Interpretation::ColorRanges;
-    // the first one that the value does not reach; of a mixture also the one that it is
+    // The first association above the value; for interpolation it may also be at the value.
     const auto next =
         std::partition_point(all.begin(), all.end(), [&](const ColorAssociation &one) {
             return one.value < value || (isRange && one.value == value);

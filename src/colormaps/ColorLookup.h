@@ -4,21 +4,21 @@
 
 namespace vlt::colormaps {
 
-/// How values between those of a map are coloured.
+/// The colour of a value between two values of a map.
 enum class Interpretation {
-    ColorRanges,  ///< with the colour of the next lower one: each colour holds up to the next value
-    Interpolation ///< with a mixture of the two beside it, in proportion
+    ColorRanges,  ///< the colour of the lower one: each colour applies up to the next value
+    Interpolation ///< a mixture of both colours, in proportion
 };
 
 /// The colour of a value.
 ///
-/// Values outside the map have the colour of the nearer end. Where the map has several colours for
-/// one value, mixtures change from the first to the last of them just above the value; the range
-/// that begins there has the last one.
+/// Values outside the map have the colour of the nearer end. If the map has several colours for a
+/// value, interpolation uses the first of them up to this value and the last of them above it; the
+/// colour range that begins there has the last one.
 ///
-/// @param value  NaN for none
-/// @return       for NaN the map's colour of what has no value; none where there is none, or no
-///               colour at all
+/// @param value  NaN: no value
+/// @return       for NaN the map's "no data" colour; nothing if that is missing, or if the map has
+///               no colours
 std::optional<Rgba> colorOf(const ColorMap &map, double value, Interpretation interpretation);
 
 } // namespace vlt::colormaps

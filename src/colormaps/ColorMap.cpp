@@ -30,7 +30,7 @@ bool endsIn(std::string_view path, std::string_view lowerCaseEnd)
                       lowerCaseEnd.begin(), isSame);
 }
 
-/// The bytes of a regular file, one more than MaxFileSize at most; none where it cannot be read.
+/// The bytes of a regular file, at most MaxFileSize + 1; nothing if it cannot be read.
 std::optional<std::string> readFile(const std::string &path)
 {
     std::error_code error;
@@ -119,7 +119,7 @@ void ColorMap::stretch()
         return;
     }
 
-    // halves, where values lie so far apart that their difference is no number
+    // halves, if the difference of the values is too large for a number
     const double scale = std::isfinite(last - first) ? 1 : 0.5;
     const double span = last * scale - first * scale;
     const double range = m_maximum - m_minimum;

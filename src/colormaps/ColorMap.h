@@ -18,59 +18,59 @@ struct Rgba
     friend bool operator==(const Rgba &, const Rgba &) = default;
 };
 
-/// A value of a coverage, in whatever unit that has, and its colour.
+/// A value of a coverage, in the coverage's unit, and its colour.
 struct ColorAssociation
 {
     double value = 0;
     Rgba color;
 };
 
-/// The colours that a file gives, before they are stretched.
+/// The colours of a file before stretching.
 struct ColorTable
 {
-    std::vector<ColorAssociation> associations; ///< ascending; of equal values the file's order
-    std::optional<Rgba> noDataColor;            ///< of the "nv" line
+    std::vector<ColorAssociation> associations; ///< ascending; equal values in the file's order
+    std::optional<Rgba> noDataColor;            ///< from the "nv" line
 };
 
-/// Puts the associations in ascending order; those of equal values keep theirs.
+/// Sorts the associations in ascending order of their values; equal values keep their order.
 void sortByValue(ColorTable &table);
 
-/// One colour map file, laid over a range of values.
+/// A colour map file, applied to a range of values.
 class ColorMap
 {
 public:
-    /// An end of the range that is left to the file.
+    /// For an end of the range that the file determines.
     static constexpr double Unset = std::numeric_limits<double>::max();
 
     /// Largest file that is read, in bytes.
     static constexpr std::size_t MaxFileSize = 16 << 20;
 
-    /// Reads a colour map file of the local disk in place of what was there before.
+    /// Reads a colour map file of the local disk, which replaces the former content.
     ///
-    /// With both ends given, the file's own values, absolute ones too, are stretched onto
-    /// minimum .. maximum: its first value becomes the minimum, its last one the maximum. Where the
-    /// file has only one value, all become the minimum. A minimum above the maximum turns the map
-    /// round. With an end left out (or not finite), both become the file's own.
+    /// With both ends given, the file's own values, including absolute ones, are stretched to
+    /// minimum .. maximum: its first value becomes the minimum, its last one the maximum. If the
+    /// file has only one value, all become the minimum. A minimum above the maximum reverses the
+    /// map. With one end unset (or not finite), both are those of the file.
     ///
-    /// ".txt" and ".cmap" are texts (ColorMapText.h), ".tc" is a palette (PaletteFile.h), whatever
-    /// the case. Other files, and those whose name ends in "index.txt", are no colour maps.
+    /// ".txt" and ".cmap" are texts (ColorMapText.h), ".tc" is a palette (PaletteFile.h), in any
+    /// case of letters. Other files, and those whose names end in "index.txt", are not colour maps.
     ///
     /// @param path  in bytes of the file system
-    /// @return      whether there are colours. What is wrong with a text is told once, as a failure
-    ///              of the geodata library with the application's own number; nothing is said of
-    ///              other files.
+    /// @return      whether there are colours. A fault of a text is reported once, as an error of
+    ///              the geodata library with CPLE_AppDefined; faults of other files are not
+    ///              reported.
     bool load(const std::string &path, double minimum = Unset, double maximum = Unset);
 
-    /// Whether both ends are set; always so after a load that succeeded.
+    /// Whether both ends are set; always true after a successful load().
     bool hasRange() const;
 
     double minimum() const { return m_minimum; }
     double maximum() const { return m_maximum; }
 
-    /// Colour of what has no value.
+    /// Colour for "no data".
     const std::optional<Rgba> &noDataColor() const { return m_colors.noDataColor; }
 
-    /// Ascending; of equal values the file's order.
+    /// The values and colours, ascending; equal values in the file's order.
     const std::vector<ColorAssociation> &associations() const { return m_colors.associations; }
 
 private:

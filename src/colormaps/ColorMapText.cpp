@@ -16,9 +16,9 @@ namespace {
 
 constexpr std::string_view Separators = " ,\t:";
 constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
-constexpr std::size_t MaxShownToken = 256; // a damaged file may hold one of megabytes
+constexpr std::size_t MaxShownToken = 256; // a damaged file may have one of megabytes
 
-/// The first words of a line; what follows the fifth one has no meaning.
+/// The first words of a line; words after the fifth one have no meaning.
 struct Tokens
 {
     std::array<std::string_view, 5> text;
@@ -80,8 +80,8 @@ Tokens tokensOf(std::string_view line)
     return tokens;
 }
 
-/// The decimal number that the token begins with, in the C locale. The geodata library would also
-/// read words such as "inf" and "1.#QNAN".
+/// The decimal number at the start of the token, in the C locale. Its end is searched here, because
+/// the geodata library would also read words such as "inf" and "1.#QNAN".
 double leadingNumber(std::string_view token)
 {
     std::size_t at = 0;
@@ -151,7 +151,7 @@ public:
         , m_hasRange(minimum != ColorMap::Unset && maximum != ColorMap::Unset)
     {}
 
-    /// False where the line spoils the file.
+    /// Reads a line; false if it is invalid, so that the whole file is.
     bool take(std::string_view line)
     {
         const Tokens tokens = tokensOf(line);

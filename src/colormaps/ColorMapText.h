@@ -10,17 +10,17 @@ namespace vlt::colormaps {
 ///
 ///     value      name [alpha]                 5 red
 ///     value      red green blue [alpha]       5 255 0 0 128
-///     50%        ...                          half way from minimum to maximum
-///     nv         ...                          what has no value
+///     50%        ...                          the mean of minimum and maximum
+///     nv         ...                          no data
 ///
-/// Words lie between blanks, tabs, commas and colons; names and "nv" in any case. Lines that begin
-/// with "#" or "/" and those of one word are passed over, and so are percentages where an end of
-/// the range is left out. Numbers are read as far as they go: "12px" is 12, "px" is 0; colours are
-/// kept within 0 .. 255.
+/// Words are separated by blanks, tabs, commas and colons; names and "nv" are in any case of
+/// letters. Lines that begin with "#" or "/" and lines of one word are ignored, and so are
+/// percentages if an end of the range is unset. Of a number the leading digits are read: "12px" is
+/// 12, "px" is 0. Colours are limited to 0 .. 255.
 ///
-/// @param minimum,maximum  the range, ColorMap::Unset for an end that is left out
-/// @return                 none after a line that spoils the file (a percentage outside 0 .. 100,
-///                         an unknown colour), which is told as a failure of the geodata library
+/// @param minimum,maximum  the range; ColorMap::Unset for an end that is not set
+/// @return                 nothing if a line is invalid (a percentage outside 0 .. 100, an unknown
+///                         colour), which is reported as an error of the geodata library
 std::optional<ColorTable> parseColorMapText(std::string_view text, double minimum, double maximum);
 
 } // namespace vlt::colormaps

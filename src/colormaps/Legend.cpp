@@ -16,7 +16,7 @@ namespace vlt::colormaps {
 
 namespace {
 
-/// Lengths in pixels of the screen, times the scale.
+/// Lengths in pixels of the image: pixels of the screen times the scale.
 struct Measures
 {
     explicit Measures(int scale)
@@ -35,10 +35,10 @@ struct Measures
     {}
 
     int line, margin, barWidth, tick, gap, check, swatch;
-    int rangeHeight; ///< of a colour range, where there is room
-    int jointHeight; ///< between two values of a gradient, where there is room
-    int leastHeight; ///< of a gradient
-    int mostHeight;
+    int rangeHeight; ///< height of a colour range, if there is room
+    int jointHeight; ///< height between two values of a gradient, if there is room
+    int leastHeight; ///< minimum height of a gradient
+    int mostHeight;  ///< its maximum height
     int fontSize;
 };
 
@@ -57,7 +57,7 @@ QString noDataText()
     return dico_label("MESS_CMAP_NO_DATA", "No data");
 }
 
-/// Whole pixels for every colour range, as far as that goes.
+/// Height of the bar of colours; a whole number of pixels for every colour range, if possible.
 int barHeight(const LegendScale &scale, Interpretation interpretation, const Measures &in)
 {
     if (interpretation == Interpretation::Interpolation)
@@ -67,7 +67,7 @@ int barHeight(const LegendScale &scale, Interpretation interpretation, const Mea
     return scale.count() * std::min(in.rangeHeight, in.mostHeight / scale.count());
 }
 
-/// Which values have a label: all, or as many as there is room for, evenly, both ends among them.
+/// Indices of the values that get a label: all, or an even selection that fits, with both ends.
 QList<int> labelledIndexes(int count, int height, int lineHeight)
 {
     const int room = std::max(1, height / lineHeight);
@@ -118,7 +118,7 @@ public:
     }
 
 private:
-    /// Pixels of the screen, not parts of one, or the image would be blurred where it is shown.
+    /// Rounds up to whole pixels of the screen; otherwise the image would be blurred when shown.
     int wholePixels(int length) const
     {
         const int pixel = m_in.line;
@@ -204,7 +204,7 @@ private:
 
 QImage drawLegend(const ColorMap &map, Interpretation interpretation, int scale)
 {
-    // a program without fonts would end at the first text
+    // Without QGuiApplication there are no fonts, and drawing a text would end the program.
     if (map.associations().empty() || !qobject_cast<QGuiApplication *>(qApp))
         return {};
     return LegendPainter(map, interpretation, std::max(1, scale)).draw();

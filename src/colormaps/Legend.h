@@ -8,23 +8,23 @@
 
 namespace vlt::colormaps {
 
-/// The legend of a colour map as an image on a white ground: the colours with the lowest value
-/// below, beside them the values, below them the colour of what has no value where the map has one.
-/// See-through colours lie over a chequered ground.
+/// The legend of a colour map as an image with a white background: the colours, with the lowest
+/// value at the bottom, the values beside them, and under them the "no data" colour if the map has
+/// one. Transparent colours have a chequered background.
 ///
-/// Texts are drawn with the fonts of the application, so a QGuiApplication must be there.
+/// Texts are drawn with the fonts of the application, so a QGuiApplication has to exist.
 ///
-/// @param scale  pixels of the image for one of the screen, 1 or more
-/// @return       null for a map without colours, and where there is no QGuiApplication
+/// @param scale  pixels of the image for one pixel of the screen, 1 or more
+/// @return       null for a map without colours, and if there is no QGuiApplication
 QImage drawLegend(const ColorMap &map, Interpretation interpretation, int scale = 1);
 
-/// Path of the legend of a colour map: "<name>_gradient.png".
+/// Path of the legend of a colour map: "<name>_gradient.png" in `directory`.
 QString legendPath(const QString &directory, const QString &colorMapName);
 
 /// Writes a legend to its path.
 ///
 /// @return      the file's path
-/// @par Errors  an image that is null, a file that cannot be written; with the path
+/// @par Errors  The image is null or the file cannot be written; the path is the file's.
 Result<QString> writeLegend(const QImage &legend, const QString &directory,
                             const QString &colorMapName, platform::Access access);
 

@@ -7,24 +7,24 @@
 
 namespace vlt::colormaps {
 
-/// The scale of a legend: each value of a map takes the same room, however unevenly they lie, so
-/// that every colour of the map is seen.
+/// The scale of a legend. All values of a map have the same distance in it, even if they are
+/// unevenly distributed, so that every colour of the map is visible.
 class LegendScale
 {
 public:
     LegendScale(const ColorMap &map, Interpretation interpretation);
 
-    /// Number of distinct values: of labels beside the ends and joints of a gradient, of rows of
-    /// colour ranges.
+    /// Number of distinct values: the number of labels of a gradient (at its ends and joints), or
+    /// of colour ranges.
     int count() const { return static_cast<int>(m_values.size()); }
 
-    /// Colour at a share 0 .. 1 of the height, from below.
+    /// Colour at a share 0 .. 1 of the height, from the bottom.
     Rgba colorAt(double share) const;
 
-    /// Text beside the value at an index, from below. Of colour ranges it tells both ends.
+    /// Text beside the value at an index, from the bottom. For colour ranges it has both ends.
     QString label(int index) const;
 
-    /// Where that text belongs, as a share of the height from below.
+    /// Position of that text, as a share of the height from the bottom.
     double labelShare(int index) const;
 
 private:
@@ -35,8 +35,8 @@ private:
     QList<double> m_values;
 };
 
-/// A number with as many decimals as tell it from another one that is `gap` away, in the C locale.
-/// A gap that is not above 0 asks for 6 significant digits.
+/// A number in the C locale, with enough decimals to distinguish it from another one that differs
+/// by `gap`. If `gap` is not above 0, it has 6 significant digits.
 QString numberForGap(double value, double gap);
 
 } // namespace vlt::colormaps

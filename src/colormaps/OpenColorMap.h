@@ -7,9 +7,9 @@
 
 namespace vlt::colormaps {
 
-/// ColorMap::load() as a value; nothing goes to the error output.
+/// ColorMap::load() with a Result; nothing is written to the error output.
 ///
-/// @par Errors  MESS_ERR_OPEN_CMAP with the path and the loader's reason where it gave one
+/// @par Errors  MESS_ERR_OPEN_CMAP with the path, and the reason if load() reported one
 Result<ColorMap> openColorMap(const QString &path, double minimum = ColorMap::Unset,
                               double maximum = ColorMap::Unset);
 
