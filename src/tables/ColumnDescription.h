@@ -5,11 +5,11 @@
 
 namespace vlt::tables {
 
-/// What a recognised column means, in the chosen language, and which columns of the table it is.
+/// The meaning of a recognised column, in the chosen language, and its names in the table.
 struct ColumnDescription
 {
     QString meaning;
-    QStringList columns; ///< empty where none was recognised
+    QStringList columns; ///< empty if none was recognised
 };
 
 } // namespace vlt::tables

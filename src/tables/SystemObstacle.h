@@ -4,8 +4,8 @@
 
 namespace vlt::tables {
 
-/// Why no layer can be made with two systems: systemRefusal(), or one of them is not known; in the
-/// chosen language then. None where both can be used; an empty one can.
+/// Why no layer can be made with two systems: systemRefusal(), or an error in the chosen language
+/// if one of them is not known. None if both can be used; an empty system can be used.
 std::optional<Error> systemObstacle(const geodata::SystemPair &systems);
 
 } // namespace vlt::tables

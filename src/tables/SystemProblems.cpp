@@ -25,7 +25,7 @@ Problem warning(const QString &text)
     return problem;
 }
 
-/// A table in metres of a system in degrees, or the other way round; empty where they agree.
+/// The warning for a table in metres with a system in degrees, or vice versa; empty if they agree.
 QString unitProblem(const QString &unit, const QString &source, const SrsFacts &facts)
 {
     const bool inMeters = unit == QLatin1String("METERS");
@@ -65,7 +65,7 @@ QList<Problem> systemProblems(const QString &unit, const geodata::SystemPair &sy
     QList<Problem> problems = refusals(systems, check);
     if (const QString text = unitProblem(unit, systems.source, check.source); !text.isEmpty())
         problems << warning(text);
-    if (!problems.isEmpty()) // where the positions lie is no news then
+    if (!problems.isEmpty()) // positions outside the area would only follow from these problems
         return problems;
 
     const auto addOutside = [&](qint64 outside, const QString &system, const SrsFacts &facts) {

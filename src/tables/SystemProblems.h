@@ -8,16 +8,16 @@
 
 namespace vlt::tables {
 
-/// What does not fit between a table, the systems by which it is placed and its positions, one
-/// warning each, in the user's language: a unit that the table's system does not count in, a system
-/// that cannot place points, positions outside the area of use.
+/// Contradictions between a table, its coordinate systems and its positions, one warning each, in
+/// the user's language: a unit that does not fit the table's system, a system that cannot give
+/// points a position on a map, positions outside the area of use.
 ///
 /// @param unit  of the table: "METERS", "DMS", else decimal degrees
 QList<Problem> systemProblems(const QString &unit, const geodata::SystemPair &systems,
                               const geodata::SystemCheck &check);
 
-/// Why one of two systems cannot place points on a map, with the system's text as path; none where
-/// both can.
+/// Why one of two systems cannot give points a position on a map, with the system's text as path;
+/// none if both can.
 std::optional<Error> systemRefusal(const geodata::SystemPair &systems);
 
 } // namespace vlt::tables

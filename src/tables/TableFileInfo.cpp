@@ -28,7 +28,7 @@ QString unitWord(const QString &unit)
     return dico_label("MESS_DEC_DEGREES", "decimal degrees");
 }
 
-/// Whether a reader refused a file because there is nothing in it, or a header without rows.
+/// Whether a reader refused a file because it is empty or has a header but no rows.
 bool isEmptyTable(const QString &reason)
 {
     const std::string text = reason.toStdString();

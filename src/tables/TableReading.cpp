@@ -14,7 +14,7 @@ QString TableReading::parameters() const
     };
     if (!sheet.isEmpty())
         add(contract::query::Sheet, sheet);
-    // a sheet's name may hold commas: then it reaches up to the next key
+    // The name of a sheet may contain commas; the parser then needs a key after it to find its end.
     if (!encoding.isEmpty() || (sheet.contains(QLatin1Char(',')) && delimiter.isEmpty()))
         add(contract::query::Encoding, encoding);
     if (!delimiter.isEmpty())

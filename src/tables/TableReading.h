@@ -6,20 +6,21 @@
 
 namespace vlt::tables {
 
-/// How a table is to be read, where its reader is not to find out by itself; each empty for that.
+/// Options that the user sets for the read of a table; for an empty one the reader decides by
+/// itself.
 struct TableReading
 {
     QString sheet;     ///< of a workbook
     QString encoding;  ///< of a text file, such as "CP1250"; without a comma
     QString delimiter; ///< of a text file: "comma", "semicolon", "tab" or "bar"
 
-    /// As connections and queries carry it: "sheet=Sites,encoding=CP1250", without a comma at the
-    /// end; empty where nothing is given.
+    /// The options as text for connections and queries: "sheet=Sites,encoding=CP1250", without a
+    /// comma at the end; empty if no option is set.
     QString parameters() const;
 
-    /// The connection that reads a table so.
+    /// The connection that reads a table with these options.
     ///
-    /// @param systems  options that stand before the others, with a comma at their end
+    /// @param systems  options of the coordinate systems, which come first, with a comma at the end
     QString connection(contract::TableKind kind, const QString &path,
                        const QString &systems = {}) const;
 };

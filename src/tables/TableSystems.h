@@ -6,18 +6,18 @@
 
 namespace vlt::tables {
 
-/// What is known about coordinate systems when a table is opened; each may be empty.
+/// The unit and the coordinate systems that are known when a table is opened; each may be empty.
 struct KnownSystems
 {
     QString unit;        ///< of the file: "METERS", "DMS", else decimal degrees
-    QString fileEpsg;    ///< code that the file declares; "0" stands for none as well
+    QString fileEpsg;    ///< code that the file declares; "0" also means none
     QString projectEpsg; ///< reference projection of the target project
     QString terrainEpsg; ///< code of the project's terrain
 };
 
-/// The systems to offer; an empty one leaves the user's choice as it is. Source: the file's own
-/// code, else WGS 84 for degrees, else the terrain's. Target: the project's, else the terrain's,
-/// else WGS 84 for degrees, else the file's own.
+/// The systems to suggest; an empty one does not change the user's choice. The source is that of
+/// the file, else WGS 84 for degrees, else that of the terrain. The target is that of the project,
+/// else that of the terrain, else WGS 84 for degrees, else that of the file.
 geodata::SystemPair chooseSystems(const KnownSystems &known);
 
 } // namespace vlt::tables

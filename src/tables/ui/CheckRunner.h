@@ -13,14 +13,15 @@
 
 namespace vlt::tables {
 
-/// Reads the rows of a table on a thread of its own. One check at a time: a new one stops the one
-/// before and begins when that has stopped; of several that wait only the last is done.
+/// Reads the rows of a table on a thread of its own. Only one check runs at a time: a new check
+/// stops the running one and starts after it. If several checks wait, only the last one is done.
 class CheckRunner : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Work of the thread. It gives what is to be done with its outcome on the runner's thread.
+    /// The work of the thread. It returns a function that handles the result and is called on the
+    /// runner's thread.
     using Work = std::function<std::function<void()>(const Progress &)>;
 
     using QObject::QObject;
@@ -28,10 +29,10 @@ public:
 
     void start(Work work);
 
-    /// Stops the check, without an outcome.
+    /// Stops the check; there is no result then.
     void cancel();
 
-    /// The work that reads a value and hands it, or the failure, on.
+    /// Work that reads a value and calls `finished` with it, or `failed` with the error.
     template<typename T>
     static Work reading(std::function<Stoppable<T>(const Progress &)> read,
                         std::function<void(const T &)> finished,
@@ -55,7 +56,7 @@ private:
     void ended(const std::function<void()> &tell);
 
     std::thread m_thread;
-    std::shared_ptr<std::atomic<bool>> m_cancelled; ///< of the check that runs; null for none
+    std::shared_ptr<std::atomic<bool>> m_cancelled; ///< of the running check; null for none
     Work m_next;
 };
 

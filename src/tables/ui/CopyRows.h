@@ -4,8 +4,9 @@ class QTableView;
 
 namespace vlt::tables {
 
-/// Lets the user copy the selected rows of a table, or all of them where none is selected, as lines
-/// of tab-separated texts below a line with the headers: by Ctrl+C and from a context menu.
+/// Lets the user copy the selected rows of a table, or all rows if none is selected, with Ctrl+C or
+/// from a context menu. The copy has a line of headers, then a line of tab-separated texts for each
+/// row.
 void makeRowsCopyable(QTableView *table);
 
 } // namespace vlt::tables

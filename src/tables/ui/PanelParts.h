@@ -6,12 +6,12 @@
 
 namespace vlt::tables {
 
-/// Makes the spin boxes below a panel as wide as usual values need: boxes as wide as the largest
-/// number of a range that reaches far beyond those would not fit beside each other.
+/// Makes the spin boxes of a panel as wide as common values need. Boxes as wide as the largest
+/// number of their range would not fit beside each other.
 void narrowSpinBoxes(QWidget *panel);
 
-/// For texts that are longer than the closed box: its list is wide enough for them, and its tool
-/// tip tells the chosen one.
+/// Makes the list of a combo box wide enough for its longest text and shows the chosen text as tool
+/// tip: texts may be longer than the closed box.
 void showWholeTexts(QComboBox *combo);
 
 /// Connects every spin box and combo of a panel to its signal parameterChanged().

@@ -7,10 +7,10 @@
 
 namespace vlt::tables {
 
-/// What tells the page for one kind of table from that for another.
+/// The differences between the pages for the kinds of tables.
 struct TablePageKind
 {
-    /// Object names of the page and of the widgets by which its table is chosen.
+    /// Object names of the page and of the widgets that choose its table.
     struct ObjectNames
     {
         QString page;
@@ -22,14 +22,14 @@ struct TablePageKind
 
     ObjectNames objectNames;
     QString settingsPrefix; ///< of the remembered values
-    QString fileKey;        ///< under which the table is remembered, below the prefix
+    QString fileKey;        ///< key of the remembered table, below the prefix
     contract::TableKind kind = contract::TableKind::Sites;
     QString layerBaseName;      ///< of the temporary layer file
-    bool looksAtMiddle = false; ///< of the demonstration from afar, instead of at its origin
-    double nearDistanceM = 0;   ///< of the camera from the demonstration, for the near view
-    double nearHeightM = 0;     ///< what it looks at
+    bool looksAtMiddle = false; ///< whether the far view is centred on the middle
+    double nearDistanceM = 0;   ///< distance of the camera from the demonstration in the near view
+    double nearHeightM = 0;     ///< height of the point at the centre of the near view
 
-    // words in the chosen language
+    // texts in the chosen language
     QString title;
     QString fileGroup;
     QString fileLabel;

@@ -32,7 +32,7 @@ VltLayerPreview::VltLayerPreview(QWidget *parent)
 
 VltLayerPreview::~VltLayerPreview() = default;
 
-/// The view itself cannot show that it has the keyboard.
+/// Draws the focus frame: the view itself cannot show that it has the keyboard.
 void VltLayerPreview::paintEvent(QPaintEvent *event)
 {
     constexpr int RingWidth = 2;
@@ -94,7 +94,7 @@ void VltLayerPreview::lookAtDemonstration(double leastM)
     m_ui->m_pwPreview->lookAtMiddle(leastM);
 }
 
-/// The layer or the demonstration, whose place the camera of the buttons is made for.
+/// Shows the layer or the demonstration; the cameras of the buttons fit only the demonstration.
 void VltLayerPreview::chooseScene(bool ownLayer)
 {
     const bool isShown = ownLayer && showLayer();
@@ -123,12 +123,12 @@ bool VltLayerPreview::showLayer()
     return false;
 }
 
-/// After a change: the layer is another one, the camera stays where the user put it.
+/// Loads the layer again after a change; the camera stays at the user's position.
 void VltLayerPreview::refreshLayer()
 {
     if (!m_ui->m_pwPbOwn->isChecked())
         return;
-    if (QApplication::activeModalWidget()) // a box, or a wait: the layer may change once more
+    if (QApplication::activeModalWidget()) // a dialog is open, so the layer may change again
         m_refreshTimer.start();
     else if (!m_layerFile.isEmpty() && !showLayer())
         chooseScene(false);

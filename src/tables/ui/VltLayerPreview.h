@@ -12,13 +12,13 @@ class LayerPreview;
 }
 
 /// The 3D view beside the settings of a layer: a demonstration of them, or the layer just written,
-/// and a button for each way to look at them.
+/// and a button for each view of them.
 class VltLayerPreview : public QGroupBox
 {
     Q_OBJECT
 
 public:
-    /// The words for the button of the layer.
+    /// Texts and icon for the button of the layer.
     struct OwnLayer
     {
         QString objectName;
@@ -33,27 +33,29 @@ public:
 
     void setOwnLayer(const OwnLayer &words);
 
-    /// Whether there is a view at all; without one no scene is needed.
+    /// Whether the preview has a 3D view; without one no scene is needed.
     bool hasView() const;
 
-    /// Takes another demonstration; the first one is shown from where the whole of it is seen.
+    /// Sets the demonstration; the camera shows all of the first one.
     void setDemonstration(const vlt::snapshot::Scene &scene);
 
-    /// Takes a layer file, to be loaded when the user wants to see it, or none for an empty path.
+    /// Sets the layer file, which is loaded when the user wants to see it; an empty path means
+    /// none.
     ///
-    /// @param project  file of the project that the layer belongs to; may be empty
+    /// @param project  file of the layer's project; may be empty
     void setLayerFile(const QString &path, const QString &project);
 
-    /// Shows the demonstration instead of the layer, if that is what is shown.
+    /// Shows the demonstration if the layer is shown.
     void leaveLayer();
 
-    /// Looks at the demonstration's point `heightM` above its origin.
+    /// Shows the demonstration from the distance; the camera points `heightM` above its origin.
     void lookAtDemonstration(double distanceM, double heightM);
-    /// Looks at the middle of the demonstration, from `leastM` metres or as far as the whole needs.
+    /// Shows the middle of the demonstration, from `leastM` metres or from as far as needed to show
+    /// all of it.
     void lookAtDemonstration(double leastM);
 
 Q_SIGNALS:
-    /// The user wants to see the demonstration from afar, or from near.
+    /// The user wants to see the demonstration from far or from near.
     void symbolicWanted();
     void preciseWanted();
 
@@ -70,5 +72,5 @@ private:
     vlt::snapshot::Scene m_demonstration; ///< null until one could be loaded
     QString m_layerFile;
     QString m_project;
-    QTimer m_refreshTimer; ///< gathers quick changes into one load of the layer
+    QTimer m_refreshTimer; ///< combines quick changes into one load of the layer
 };

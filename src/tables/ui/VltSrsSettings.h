@@ -16,16 +16,16 @@ public:
     /// @param kind  of the table
     explicit VltSrsSettings(vlt::contract::TableKind kind, QWidget *parent = nullptr);
 
-    /// Chooses a system by its EPSG number ("2154") or by any other text that names one. Emits
+    /// Chooses a system by its EPSG number ("2154") or by any other text that defines one. Emits
     /// nothing.
     void setSourceSrs(const QString &systemText);
     void setTargetSrs(const QString &systemText);
 
-    /// What the systems are chosen for: a search lists what fits it first.
+    /// Sets the context of the choice: a search lists the systems that fit it first.
     void setContext(const vlt::srs::SrsContext &context);
 
-    /// The chosen system as layers carry it: the text that it was set by, or the code of the row
-    /// that the user chose; empty where none is chosen.
+    /// The chosen system as text for layers: the text given to setSourceSrs(), or the code of the
+    /// row that the user chose; empty if none is chosen.
     QString sourceSrs() const;
     QString targetSrs() const;
 
@@ -34,8 +34,8 @@ public:
     void saveSettings(const QString &prefix) override;
 
 public Q_SLOTS:
-    /// Asks for a raster or vector file and takes its system as the target. A file without one is
-    /// told of and changes nothing.
+    /// Asks for a raster or vector file and takes its system as the target. For a file without a
+    /// system a message is shown and nothing changes.
     void getTargetEpsgCodeFromDataSource();
 
 private:

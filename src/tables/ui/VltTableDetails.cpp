@@ -45,7 +45,8 @@ QModelIndex longestText(const QAbstractItemModel &model, int column)
     return model.index(longest, column);
 }
 
-/// The view measures only so many rows; of longer tables the longest texts are measured too.
+/// The view measures only a limited number of rows, so the longest texts of longer tables are
+/// measured separately.
 void fitColumns(QTableView *table)
 {
     table->resizeColumnsToContents();
@@ -264,7 +265,7 @@ void VltTableDetails::showSummary(const QString &rows, bool warns)
     m_pwLblWarning->setVisible(warns);
 }
 
-/// Whatever the check came to: nothing of it goes on.
+/// Ends the check, whatever its result.
 void VltTableDetails::endCheck()
 {
     m_runner.cancel();
@@ -297,7 +298,7 @@ void VltTableDetails::showOutcome(const vlt::geodata::LayerProblems &problems,
                 count > 0);
     if (count > 0 && !m_pwTwDetails->isVisible())
         m_pwTwDetails->setCurrentWidget(m_pwTvProblems);
-    if (isNonePlaced) // the layer would be empty: the reason must not stay folded away
+    if (isNonePlaced) // the layer would be empty, so the reason must be visible
         unfoldProblems();
 }
 

@@ -18,8 +18,8 @@ class QTabWidget;
 class QTableView;
 class QToolButton;
 
-/// What was understood of a table: the recognised columns and the rows with problems, folded away
-/// until the user asks for them. The rows are checked in the background; the user may cancel that.
+/// The recognised columns of a table and its rows with problems, folded until the user unfolds
+/// them. The rows are checked in the background; the user may cancel the check.
 class VltTableDetails : public QWidget
 {
     Q_OBJECT
@@ -27,25 +27,25 @@ class VltTableDetails : public QWidget
 public:
     explicit VltTableDetails(QWidget *parent = nullptr);
 
-    /// Shows nothing and hides; a running check ends.
+    /// Removes all contents and hides; stops a running check.
     void clear();
 
 Q_SIGNALS:
-    /// The rows were checked; the positions lie so to the systems by which they were placed.
+    /// The rows were checked; `systems` has the areas and how many positions lie outside them.
     void checked(const vlt::geodata::SystemCheck &systems);
 
 protected:
-    /// Shows what is known of a table without reading its rows.
+    /// Shows the properties that are known without reading the table's rows.
     ///
-    /// @param unit  of the table's coordinates, as TableFileInfo has it
+    /// @param unit  of the table's coordinates, as in TableFileInfo
     void showTable(const QString &unit, const QList<vlt::tables::ColumnDescription> &columns,
                    const QList<vlt::Problem> &problems);
 
-    /// Starts to check the rows of the table shown, unless the same check was started already.
+    /// Starts to check the rows of the shown table, unless the same check was started before.
     ///
-    /// @param what      tells one check from another
-    /// @param read      runs on another thread and must own all that it uses
-    /// @param finished  takes the outcome
+    /// @param what      identifies the check
+    /// @param read      runs on another thread and must own all data that it uses
+    /// @param finished  called with the result
     template<typename Check>
     void checkOnce(const QString &what,
                    std::function<vlt::Stoppable<Check>(const vlt::Progress &)> read,
@@ -57,9 +57,9 @@ protected:
                 [this](const vlt::Error &error) { checkFailed(error); }));
     }
 
-    /// What all checks tell; ends the check.
+    /// Shows the results that all checks have; ends the check.
     ///
-    /// @param systems  with which systems the rows were placed
+    /// @param systems  the systems of the rows and of the project
     template<typename Check>
     void showOutcome(const Check &check, const vlt::geodata::SystemPair &systems)
     {
@@ -68,22 +68,22 @@ protected:
         Q_EMIT checked(check.systems);
     }
 
-    /// A further tab with a table of its own.
+    /// Adds a tab with a table.
     QTableView *addTable(QAbstractItemModel *model, const QString &objectName, const QString &name);
-    /// Tells how many entries a table has, after a change of them.
+    /// Shows the number of a table's entries after they changed.
     void setTableCount(QTableView *table, const QString &name, qint64 count);
 
-    /// What is folded away, for the tool tip of the button that unfolds it.
+    /// Sets the tool tip of the button that unfolds: the list of the contents.
     void setContentsTip(const QString &text);
 
-    /// A line that stays visible while the tables are folded away; nothing for an empty text.
+    /// Shows a line that stays visible while the tables are folded; an empty text hides it.
     void showRemark(const QString &text);
 
     /// Shows the tab of the problems and unfolds.
     void unfoldProblems();
 
 private:
-    /// Nothing is known of the rows any more.
+    /// Removes all results of reading the rows.
     virtual void forgetRows() {}
     virtual QString nonePlacedText() const = 0;
     /// "sites placed: %1 of %2"
@@ -105,7 +105,7 @@ private:
     void checkFailed(const vlt::Error &error);
 
     vlt::tables::CheckRunner m_runner;
-    QTimer m_patience; ///< a check that ends within it shows no progress
+    QTimer m_patience; ///< a check that ends before it expires shows no progress
     QToolButton *m_pwTbFold;
     QLabel *m_pwLblWarning;
     QProgressBar *m_pwPrChecking;
@@ -116,8 +116,8 @@ private:
     QStandardItemModel *m_problemModel;
     QTableView *m_pwTvColumns = nullptr;
     QTableView *m_pwTvProblems = nullptr;
-    QList<vlt::Problem> m_fileProblems; ///< those known without reading the rows
+    QList<vlt::Problem> m_fileProblems; ///< known without reading the rows
     QString m_unit;
     int m_recognised = 0;
-    QString m_checked; ///< what the last check was of
+    QString m_checked; ///< identifies the last check
 };

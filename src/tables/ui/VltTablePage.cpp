@@ -21,8 +21,9 @@ namespace {
 
 const QString LastUsedDirKey = QStringLiteral("LastUsedDir");
 
-/// Parts whose focus is that of the whole, such as the lines of spin boxes and combos and the
-/// inside of tables. Shift+Tab comes to the whole by them, so that they have to stand behind it.
+/// The parts of a widget that share its focus, such as the line edits of spin boxes and combos and
+/// the viewports of tables. Shift+Tab reaches the widget through them, so they must follow it in
+/// the focus order.
 QWidgetList partsThatStandFor(const QWidget &stop)
 {
     QWidgetList parts;
@@ -36,9 +37,10 @@ QWidgetList partsThatStandFor(const QWidget &stop)
     return parts;
 }
 
-/// Each widget after the one before. The toolkit would move a stop together with all that stands
-/// between it and a part of it, which may be anywhere, and would leave out what takes no focus;
-/// without proxies, and with focus for a moment, it moves single widgets.
+/// Puts the widgets in this focus order. The toolkit moves a widget together with all widgets
+/// between it and a part that shares its focus, which may be anywhere, and leaves out widgets that
+/// take no focus. Therefore the proxies are removed, and all widgets take focus, while the order is
+/// set.
 void putInOrder(const QWidgetList &widgets)
 {
     QWidgetList proxies;
@@ -69,7 +71,7 @@ VltTablePage::VltTablePage(QWidget *wizard, SharedParameters &parameters, const 
     , m_ui(std::make_unique<Ui::TablePage>())
 {
     m_ui->setupUi(this);
-    setFocusProxy(m_ui->m_pwLeTable); // where the keyboard starts
+    setFocusProxy(m_ui->m_pwLeTable); // the line gets the keyboard first
     setTitle(m_kind.title);
     nameWidgets();
     createPanels();
@@ -147,10 +149,11 @@ void VltTablePage::setStacked(bool stacked)
         panel->setStacked(stacked);
 }
 
-/// Tab goes through the groups as they lie on the page, whatever the order they were made in.
+/// Makes Tab go through the groups in the order in which they lie on the page, not that of their
+/// creation.
 ///
-/// A frame that hands the keyboard to one of its parts counts as a stop of its own, wherever it
-/// stands: Tab would come back to the part for ever. Only the parts take the keyboard here.
+/// A frame with one of its parts as focus proxy is a stop of its own, and Tab would return to that
+/// part forever. Therefore only the parts take the keyboard.
 void VltTablePage::orderFocus()
 {
     for (QWidget *frame : findChildren<QWidget *>()) {
@@ -174,7 +177,8 @@ void VltTablePage::orderFocus()
     putInOrder(ordered);
 }
 
-/// The input side scrolls upwards and downwards only, unless the screen is too narrow for it.
+/// Gives the input side a width at which it scrolls only vertically, unless the screen is too
+/// narrow.
 void VltTablePage::fitInputWidth()
 {
     constexpr double ComfortableShare = 0.57;
@@ -243,7 +247,7 @@ void VltTablePage::openTable()
 
 void VltTablePage::readFileInfo(const QString &path, bool quiet)
 {
-    if (isMaking()) // a box took the focus out of the line
+    if (isMaking()) // a message box took the focus from the line
         return;
     makeLayer([&] { readFile(path, quiet); });
     Q_EMIT completeChanged();
@@ -282,8 +286,8 @@ void VltTablePage::showFile()
     showDetails();
 }
 
-/// Why the table was refused. A refused drop leaves the path of the line as it was: the text names
-/// its file itself.
+/// Why the table was refused. A refused drop does not change the path in the line, so the text
+/// names the file.
 QString VltTablePage::fileReason() const
 {
     if (!m_refusal || m_refusal->detail.isEmpty())
@@ -292,14 +296,15 @@ QString VltTablePage::fileReason() const
         .arg(QFileInfo(m_pathRead).fileName(), vlt::language::readerText(m_refusal->detail));
 }
 
-/// Why there is no layer; an empty text where there is one or no table was chosen.
+/// Shows why there is no layer; the text is empty if there is one or no table was chosen.
 void VltTablePage::showReason(const QString &reason)
 {
     m_ui->m_pwLblReason->setText(reason);
     m_ui->m_pwLblReason->setVisible(!reason.isEmpty());
 }
 
-/// Degrees tell where a table lies, metres only once their system is known.
+/// Passes the area of a table in degrees to the choosers of systems. Metres give an area only with
+/// the right system, which the user may still be choosing.
 void VltTablePage::showArea(const vlt::geodata::SystemCheck &checked)
 {
     if (!file())

@@ -17,10 +17,10 @@ class TablePage;
 class VltSrsSettings;
 class VltTableDetails;
 
-/// A page on which a table becomes a layer: the table and what was understood of it, its coordinate
-/// systems and panels of values. The layer is written anew after every change.
+/// A page that makes a layer from a table. It shows the table with its recognised columns, its
+/// coordinate systems and panels of values. The layer is written again after every change.
 ///
-/// A page of a kind of table ends its constructor with setParts().
+/// The constructor of a derived page ends with setParts().
 class VltTablePage : public VltResultPage
 {
     Q_OBJECT
@@ -32,38 +32,39 @@ public:
 
     void initializePage() override;
 
-    /// Whether a layer can be made of the table.
+    /// Whether a layer can be made from the table.
     bool isComplete() const override;
 
     void saveSettings() override;
     void restoreSettings() override;
     void droppedFile(const QString &path) override;
 
-    /// Opens a table, shows what it is and makes the layer of it.
+    /// Opens a table, shows its properties and makes the layer.
     ///
     /// @param quiet  without message boxes
     void readFileInfo(const QString &path, bool quiet);
 
 public Q_SLOTS:
-    /// Asks for a table.
+    /// Asks the user for a table.
     void openTable();
 
-    /// The demonstration from beyond the distance of the precise representation.
+    /// Shows the demonstration from beyond the distance of the precise representation.
     void previewSymbolic();
-    /// The demonstration from near.
+    /// Shows the demonstration from near.
     void previewPrecise();
 
 protected:
-    /// Takes the parts of the page that depend on the kind of table; restores the settings then and
-    /// reads the remembered table, without a box. To be called once, last in the constructor.
+    /// Takes the parts of the page that depend on the kind of table, then restores the settings and
+    /// reads the remembered table, without message boxes. To be called once, at the end of the
+    /// constructor.
     ///
-    /// @param details  shows what was understood of the table
-    /// @param panels   of values, from top to bottom
+    /// @param details  shows the recognised columns and the problems of the table
+    /// @param panels   panels of values, from top to bottom
     void setParts(VltTableDetails *details, const QList<VltParameterPanel *> &panels);
 
-    /// Reads a table into `file`, on another thread: why it was refused. `file` is empty then, for
-    /// an empty path, and where the user stops it, or where the page was not shown yet and it takes
-    /// longer than a moment.
+    /// Reads a table into `file` on another thread and returns why it was refused. `file` is empty
+    /// after a refusal, for an empty path, if the user stops the read, and if the page is not
+    /// visible yet and the read takes longer than a moment.
     template<typename Info>
     std::optional<vlt::Error>
     readInto(std::optional<Info> &file, const QString &path,
@@ -86,7 +87,7 @@ protected:
         return std::nullopt;
     }
 
-    /// The part of a layer's input that all kinds have.
+    /// Fills the part of a layer's input that all kinds have.
     template<typename Input>
     void fillInput(Input &input) const
     {
@@ -102,7 +103,7 @@ protected:
     vlt::geodata::SystemPair systems() const;
 
 private:
-    /// Reads the table and keeps what it is, by readInto(): why it was refused.
+    /// Reads the table with readInto() and returns why it was refused.
     virtual std::optional<vlt::Error> readTable(const QString &path) = 0;
     /// The table that was read last; null for none.
     virtual const vlt::tables::TableFileInfo *file() const = 0;
@@ -110,12 +111,12 @@ private:
     virtual void showDetails() = 0;
     /// Starts to check the rows of the table.
     virtual void checkRows() = 0;
-    /// Why the values make no layer; none where they do.
+    /// Why no layer can be made from the values; none if one can.
     virtual std::optional<vlt::Error> missingChoice() const = 0;
     virtual vlt::Result<vlt::tables::TableLayer> composeLayer() const = 0;
-    /// Name under which the scene library loads the demonstration.
+    /// Name by which the scene library loads the demonstration.
     virtual QString demonstrationUrl() const = 0;
-    /// How far away masts and antennas are still drawn, metres.
+    /// Maximum distance at which masts and antennas are drawn, metres.
     virtual double preciseDistanceM() const = 0;
 
     void nameWidgets();
@@ -145,6 +146,6 @@ private:
     VltTableDetails *m_details = nullptr;
     vlt::project::ProjectContext m_project;
     QString m_fileDir;
-    QString m_pathRead;                  ///< what readFileInfo() was last given
+    QString m_pathRead;                  ///< the last path given to readFileInfo()
     std::optional<vlt::Error> m_refusal; ///< of that table
 };
