@@ -5,8 +5,8 @@
 
 namespace vlt::sites {
 
-/// The descriptions of an entry of a catalogue ("description_en" ...) in every language that it
-/// has, by language code, each once.
+/// The descriptions of a catalogue's entry ("description_en" ...) in all its languages, in the
+/// order of the language codes, each once.
 QStringList catalogueNames(const QDomElement &entry);
 
 } // namespace vlt::sites

@@ -15,7 +15,7 @@ namespace keys = contract::query;
 
 constexpr int PreviewTransmitters = 6;
 
-/// "key=value,", or nothing without a value.
+/// "key=value,", or an empty text for an empty value.
 QString option(const char *key, const QString &value)
 {
     return value.isEmpty() ? QString()
@@ -28,7 +28,7 @@ QString systemsPart(const PylonQuery &query)
            option(keys::TargetSystem, query.targetSrs);
 }
 
-/// What stands behind the sectors: the links' own parameters, then how the table is read.
+/// The part after the sectors: the parameters of links, then the options of the table.
 QString extraPart(const PylonQuery &query)
 {
     QStringList parts = {query.extra, query.reading.parameters()};
@@ -42,7 +42,7 @@ QString prefix(contract::TableKind kind)
     return QLatin1String(contract::connectionPrefix(kind).data());
 }
 
-/// A query whose values are slots, which are filled in this order.
+/// A query with placeholders, which are filled in this order.
 QString queryTemplate()
 {
     return QStringLiteral("%1%2") + option(keys::DataFolder, QStringLiteral("%3")) +
@@ -54,7 +54,7 @@ QString queryTemplate()
            option(keys::Lods, QStringLiteral("%12 %13")) + QStringLiteral("%14%15");
 }
 
-/// The same for a demonstration: a mast with three antennas above three.
+/// The same for a demonstration: a mast with three antennas above three others.
 QString previewTemplate()
 {
     const QString mastM = text::g6(contract::DefaultPylonHeightM);

@@ -5,9 +5,9 @@
 
 namespace vlt::sites {
 
-/// The columns of a site table that the information page shows. A text is empty and a list is short
-/// or empty where no column was recognised; the lists are in field order and independent of each
-/// other.
+/// The columns of a site table that the information page shows. A text is empty if no column was
+/// recognised, a list has only the recognised columns. The lists are in field order and independent
+/// of each other.
 struct SiteColumnSet
 {
     QString name;
@@ -28,9 +28,10 @@ SiteColumnSet recogniseSiteColumns(const QStringList &fieldNames);
 /// The same for the fields of a table connection: layer 0, or layer 1 (the link ends) of a "link:"
 /// connection.
 ///
-/// @param connection        "site:" or "link:", options and path, as the layer file carries it
-/// @param projectDirectory  what a relative path in it is relative to; empty: the working directory
-/// @return                  an empty set where the table cannot be opened
+/// @param connection        "site:" or "link:", options and path, as in the layer file
+/// @param projectDirectory  base of a relative path in the connection; empty for the working
+///                          directory
+/// @return                  an empty set if the table cannot be opened
 SiteColumnSet recogniseSiteColumns(const QString &connection, const QString &projectDirectory);
 
 /// The connection with the path at its end made absolute, for an open in this process.

@@ -16,8 +16,8 @@ tables::TableFileType siteTable()
             {QStringLiteral("MESS_ERR_EMPTY_SITE"), QStringLiteral("This site file is empty"), {}}};
 }
 
-/// A table whose only coordinates are those of both ends of links could be read as sites at one of
-/// the ends.
+/// Whether the only coordinates of a table are those of both ends of links. Such a table could be
+/// read as sites at one of the ends.
 bool isLinkTable(const SiteFileInfo &info)
 {
     return info.columns.x.isEmpty() && info.columns.y.isEmpty() &&
@@ -73,7 +73,7 @@ Result<SiteFileInfo> readSiteFileInfoAs(const QString &path, const project::Proj
                                 "those of both ends of links")};
     }
     info.nameField = siteNameField(info.format);
-    // as the geodata library looks fields up
+    // The geodata library finds fields without regard to case.
     info.hasNameField = fields.contains(info.nameField, Qt::CaseInsensitive);
     return info;
 }

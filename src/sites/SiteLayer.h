@@ -7,7 +7,7 @@
 
 namespace vlt::sites {
 
-/// Everything that a site layer is made of.
+/// All inputs of a site layer.
 struct SiteLayerInput
 {
     SiteFileInfo file;
@@ -23,11 +23,11 @@ struct SiteLayerInput
 /// The query of the layer, buildPylonQuery() for a site table.
 QString siteQuery(const SiteLayerInput &input);
 
-/// The connection by which the sites of a layer are read and placed, without their look; its path
-/// is absolute.
+/// The connection that reads the sites of a layer with their coordinate systems, without the
+/// options of their representation; its path is absolute.
 QString placingConnection(const SiteLayerInput &input);
 
-/// The text of the layer file, out of the installation's "template_sites.lay".
+/// Makes the text of the layer file from the installation's "template_sites.lay".
 ///
 /// @par Errors   those of missingChoice(); MESS_MISSING_CONF_FILE with the template's path.
 Result<tables::TableLayer> makeSiteLayer(const SiteLayerInput &input);

@@ -9,22 +9,22 @@
 
 namespace vlt::sites {
 
-/// How sites are drawn; the values are those of a first run. QueryOptions.h has the ranges.
+/// The representation of sites, with the values of a first run. QueryOptions.h has the ranges.
 struct SiteRepresentation
 {
     double sectorHeightM = contract::query::SectorHeightM.firstRun;
     double sectorRadiusM = contract::query::SectorRadiusM.firstRun;
-    /// Between two sectors, vertically.
+    /// Vertical distance between two sectors.
     double sectorSpacingM = contract::query::SectorSpacingM.firstRun;
     /// Index into the colour sets; -1 for none.
     int colorSet = 0;
-    /// Up to which the sectors are drawn.
+    /// Maximum distance at which sectors are drawn.
     int symbolicDistanceM = contract::query::SymbolicDistanceM.firstRun;
     /// Index into the pylon types; -1 for none.
     int pylonType = 0;
-    /// Up to which mast and antennas are drawn.
+    /// Maximum distance at which mast and antennas are drawn.
     int realisticDistanceM = contract::query::RealisticDistanceM.firstRun;
-    /// Of the sectors.
+    /// Transparency of the sectors.
     int transparencyPercent = contract::query::TransparencyPercent.firstRun;
     double pylonWidthM = contract::query::PylonWidthM.firstRun;
     int antennaScalePercent = contract::query::AntennaScalePercent.firstRun;
@@ -40,15 +40,15 @@ struct SiteCatalogues
 /// Both catalogues of an installation.
 SiteCatalogues loadSiteCatalogues(const QString &installDir, const QString &language);
 
-/// The chosen entry; null where the index is not one of the catalogue's.
+/// The chosen entry; null if the catalogue has no entry of that index.
 const PylonType *chosenPylonType(const SiteRepresentation &representation,
                                  const SiteCatalogues &catalogues);
 const SectorColorSet *chosenColorSet(const SiteRepresentation &representation,
                                      const SiteCatalogues &catalogues);
 
-/// Why no site can be drawn; none where a pylon type and a colour set are chosen.
+/// Why no site can be drawn; none if a pylon type and a colour set are chosen.
 ///
-/// @return  MESS_MISSING_CONF_FILE with the path of a catalogue that has nothing to choose from, or
+/// @return  MESS_MISSING_CONF_FILE with the path of a catalogue without entries, or
 ///          MESS_NO_LOOK_CHOSEN
 std::optional<Error> missingChoice(const SiteRepresentation &representation,
                                    const SiteCatalogues &catalogues, const QString &installDir);

@@ -6,7 +6,7 @@
 class VltSiteDetails;
 class VltSiteProperties;
 
-/// The page on which a table of sites becomes a site layer.
+/// The page that makes a site layer from a table of sites.
 class VltAddSitePage : public VltTablePage
 {
     Q_OBJECT
@@ -35,5 +35,5 @@ private:
 
     VltSiteProperties *m_panelPylons;
     VltSiteDetails *m_panelDetails;
-    std::optional<vlt::sites::SiteFileInfo> m_file; ///< none while there is no table
+    std::optional<vlt::sites::SiteFileInfo> m_file; ///< none if no table is open
 };

@@ -11,13 +11,13 @@ class VltSiteDetails : public VltTableDetails
 public:
     using VltTableDetails::VltTableDetails;
 
-    /// Shows what is known of a table without reading its rows.
+    /// Shows the properties that are known without reading the table's rows.
     void showFile(const vlt::sites::SiteFileInfo &file);
 
-    /// Starts to check the rows of the table shown, unless that was done already.
+    /// Starts to check the rows of the shown table, unless that was done before.
     ///
     /// @param connection  the table with its coordinate systems and an absolute path
-    /// @param systems     the same systems
+    /// @param systems     the same coordinate systems
     void check(const QString &connection, const vlt::geodata::SystemPair &systems);
 
 private:

@@ -49,7 +49,7 @@ void VltSiteProperties::offerNumbers()
 
 void VltSiteProperties::fillCombos()
 {
-    // swatches are drawn for a dense screen and shown at half their size
+    // The swatches are drawn for screens of high density and shown at half their size.
     constexpr qreal Density = 2;
     QSize iconSize(0, 0);
     for (const vlt::sites::SectorColorSet &set : m_catalogues.colorSets) {

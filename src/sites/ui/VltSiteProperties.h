@@ -10,7 +10,7 @@ namespace Ui {
 class SiteProperties;
 }
 
-/// The panel with the look of pylons and sectors.
+/// The panel with the representation of pylons and sectors.
 class VltSiteProperties : public VltParameterPanel
 {
     Q_OBJECT
@@ -23,13 +23,14 @@ public:
 
     void setStacked(bool stacked) override;
 
-    /// The name under which the scene library loads one demonstration site with these values; empty
-    /// where no pylon type or colour set is chosen.
+    /// The name by which the scene library loads one demonstration site with these values; empty if
+    /// no pylon type or colour set is chosen.
     ///
-    /// @param kind  sites; empty for links, whose demonstration has other parts too
+    /// @param kind  sites; for links the result is empty, because their demonstration has other
+    ///              parts too
     QString buildPreviewPylonUrl(vlt::contract::TableKind kind) const;
 
-    /// The values as they stand; an index is -1 where the catalogue is empty.
+    /// The current values; an index is -1 if the catalogue is empty.
     vlt::sites::SiteRepresentation representation() const;
     const vlt::sites::SiteCatalogues &catalogues() const { return m_catalogues; }
 
