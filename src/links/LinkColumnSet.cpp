@@ -19,16 +19,16 @@ struct Column
     std::function<QString &(LinkColumnSet &)> member;
 };
 
-/// How the ends of a link are marked in column names.
+/// The marks of one end of a link in column names.
 struct EndMarks
 {
-    QString number; ///< of the numbered layout
-    QString words;  ///< of the layouts with names
+    QString number; ///< in the layout with numbers
+    QString words;  ///< in the layouts with names
     LinkEndColumns LinkColumnSet::*end;
 };
 
-/// A quantity of one end: `numbered` in the numbered layout, else `name` after or before the end's
-/// mark, and then anything after a blank.
+/// Pattern for a quantity of one end: `numbered` in the layout with numbers; else `name` after or
+/// before the end's mark, followed by nothing or by a blank and any text, such as the unit.
 QString quantity(const QString &numbered, const QString &name)
 {
     return QLatin1Char('(') + numbered + QStringLiteral(R"()|(((Site\s+)?(%2)(\s+|\.))") + name +
@@ -36,8 +36,8 @@ QString quantity(const QString &numbered, const QString &name)
            QStringLiteral(R"(\s+(%2)))(\s+.*)?)");
 }
 
-/// The names of one quantity, by its place in the set; "%1" stands for the end's number, "%2" for
-/// its words.
+/// Member of the set and pattern of the names for one quantity; "%1" stands for the end's number,
+/// "%2" for its words.
 struct EndPattern
 {
     QString LinkEndColumns::*member;
@@ -93,7 +93,7 @@ std::vector<Column> makeColumns()
     return columns;
 }
 
-/// The unit that stands first in a name; of two that start at the same place, the longer one.
+/// The first unit in a name; if two start at the same character, the longer one.
 QString unitIn(const QString &name, const QString &unitsLongestFirst)
 {
     return QRegularExpression(unitsLongestFirst).match(name).captured();

@@ -5,7 +5,7 @@
 
 namespace vlt::links {
 
-/// The columns of one end of a link; each empty where none was recognised.
+/// The columns of one end of a link; each is empty if none was recognised.
 struct LinkEndColumns
 {
     QString identifier;
@@ -22,7 +22,7 @@ struct LinkEndColumns
 };
 
 /// The columns of a link table that the information page shows, and the units of two of them; each
-/// empty where nothing was recognised.
+/// is empty if none was recognised.
 struct LinkColumnSet
 {
     QString name;
@@ -30,20 +30,21 @@ struct LinkColumnSet
     QString length; ///< path length
     LinkEndColumns tx;
     LinkEndColumns rx;
-    QString frequencyUnit; ///< Hz, KHz, MHz, GHz or THz, as the name of the band column has it
-    QString lengthUnit;    ///< m, km, feet or miles, as the name of the length column has it
+    QString frequencyUnit; ///< Hz, KHz, MHz, GHz or THz, from the name of the band column
+    QString lengthUnit;    ///< m, km, feet or miles, from the name of the length column
 
     bool operator==(const LinkColumnSet &) const = default;
 };
 
-/// Recognises columns by their whole name, without regard to case; the first match is kept, and a
-/// field may fill several members. Units are looked for in the two names, with regard to case.
+/// Recognises columns by their whole name, in upper or lower case. The first match is kept, and a
+/// field may fill several members. Units in the two names must have the exact case.
 LinkColumnSet recogniseLinkColumns(const QStringList &fieldNames);
 
 /// The same for the fields of layer 0 of a "link:" connection.
 ///
-/// @param projectDirectory  what a relative path in it is relative to; empty: the working directory
-/// @return                  an empty set where the table cannot be opened
+/// @param projectDirectory  base of a relative path in the connection; empty for the working
+///                          directory
+/// @return                  an empty set if the table cannot be opened
 LinkColumnSet recogniseLinkColumns(const QString &connection, const QString &projectDirectory);
 
 } // namespace vlt::links

@@ -21,7 +21,7 @@ tables::TableFileType linkTable()
 
 QString linkEndNameField(const QString &format)
 {
-    // the links of this tool name the column otherwise than its sites
+    // In the exports of this tool the column has another name for links than for sites.
     return format.toLower().startsWith(QLatin1String("mentum")) ? QStringLiteral("Site ID")
                                                                 : sites::siteNameField(format);
 }

@@ -5,25 +5,25 @@
 
 namespace vlt::links {
 
-/// What the add-link page knows of the table that the user picked.
+/// Properties of the link table that the user picked.
 struct LinkFileInfo : tables::TableFileInfo
 {
     QString endLayerName;  ///< layer of the link ends
-    QString linkNameField; ///< column whose value names a link; empty where there is none
-    LinkColumnSet columns; ///< those that were recognised
+    QString linkNameField; ///< column with the names of the links; empty for none
+    LinkColumnSet columns; ///< the recognised columns
 };
 
-/// Opens `path` as a link table and tells what it holds and which systems go with it in the
-/// project; `nameField` is the column of the ends' layer: "Site name", "NAME" or "Site ID".
+/// Opens `path` as a link table, reads its properties and suggests coordinate systems for it in the
+/// project. `nameField` is the column of the ends' layer: "Site name", "NAME" or "Site ID".
 ///
 /// @par Errors  MESS_ERR_OPEN_LINK or MESS_ERR_EMPTY_LINK, as tables::readTableFile()
 Result<LinkFileInfo> readLinkFileInfo(const QString &path, const project::ProjectContext &project);
 
-/// The same for a table that is read as the user says.
+/// The same for a table that is read with the user's options.
 Result<LinkFileInfo> readLinkFileInfoAs(const QString &path, const project::ProjectContext &project,
                                         const tables::TableReading &reading);
 
-/// The column of the link ends that names a site, by the format of the table.
+/// The column with the site names of link ends in a table of this format.
 QString linkEndNameField(const QString &format);
 
 } // namespace vlt::links

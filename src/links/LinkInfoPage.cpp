@@ -32,7 +32,7 @@ constexpr std::array<EndRow, 9> EndRows = {{
     {"__DY__", &LinkEndColumns::dy, u"DY", u"DY"},
 }};
 
-/// A value of the whole link as a cell: its label, the field reference and the unit.
+/// A cell with a value of the whole link: its label, the field reference and the unit.
 QString linkCell(const QString &label, const QString &column, const QString &unit)
 {
     if (column.isEmpty())
@@ -42,8 +42,8 @@ QString linkCell(const QString &label, const QString &column, const QString &uni
            tables::fieldReference(column) + unitText + QStringLiteral("</td>");
 }
 
-/// The unit that a column's name has in parentheses, such as "m" in "Antenna height (m) 1"; not the
-/// end, as in "Height (A)".
+/// The unit in parentheses in a column's name, such as "m" in "Antenna height (m) 1". The name of
+/// an end, as in "Height (A)", is not a unit.
 QString unitIn(const QString &column)
 {
     static const QRegularExpression unit(QStringLiteral(R"(\((?!(?:A|B|TX|RX)\))([^()\d]+)\))"),
@@ -51,7 +51,7 @@ QString unitIn(const QString &column)
     return unit.match(column).captured(1);
 }
 
-/// The head of a row of the two ends, with their unit where they have the same.
+/// The head of a row of the two ends, with the unit if both have the same.
 QString rowHead(const QString &label, const QString &tx, const QString &rx)
 {
     const QString unit = unitIn(tx.isEmpty() ? rx : tx);
@@ -59,7 +59,7 @@ QString rowHead(const QString &label, const QString &tx, const QString &rx)
     return isCommon ? label + QStringLiteral(" (") + unit + QLatin1Char(')') : label;
 }
 
-/// What stands for a link in the heading: its name, else its ends.
+/// The heading of a link: its name, else its ends.
 QString heading(const LinkColumnSet &columns)
 {
     QStringList references;

@@ -9,13 +9,13 @@ namespace vlt::links {
 /// otherwise) with the table's recognised columns as field references, a column name in square
 /// brackets, and their units.
 ///
-/// @param connection        table connection; where it cannot be opened no column is recognised
-/// @param projectDirectory  what a relative path in the connection is relative to
+/// @param connection        table connection; if it cannot be opened, no column is recognised
+/// @param projectDirectory  base of a relative path in the connection
 /// @par Errors   MESS_MISSING_CONF_FILE with the template's path.
 Result<QString> buildLinkInfoHtml(const QString &connection, const QString &language,
                                   const QString &installDir, const QString &projectDirectory);
 
-/// The same with columns that are known already: no table is opened.
+/// The same with known columns: no table is opened.
 ///
 /// @par Errors   as above.
 Result<QString> buildLinkInfoHtml(const LinkColumnSet &columns, const QString &language,

@@ -14,21 +14,22 @@ namespace vlt::links {
 
 namespace {
 
-/// A pylon of the demonstration, metres.
+/// Position of a pylon of the demonstration, metres.
 struct DemoPylon
 {
     int x;
     int y;
-    double azimuthDeg; ///< in which the next one is seen
+    double azimuthDeg; ///< direction of the next pylon
 };
 
-// 800 m from one to the next, sides of 640 and 480 m: further than sectors usually reach.
+// The distance between two pylons is 800 m (640 m east, 480 m north or south), which is more than
+// the common radius of sectors.
 constexpr std::array<DemoPylon, 3> DemoPylons = {
     {{0, 0, 53.1301}, {640, 480, 126.87}, {1280, 0, 0}}};
-/// Of the antennas of each link.
+/// Height of both antennas of each link.
 constexpr std::array<double, 2> DemoHeightsM = {contract::DefaultAntennaHeightM, 20};
-/// Over so short a distance the zone of a microwave is as thin as the line: at this frequency the
-/// first one is 24 m wide to either side.
+/// Over this short distance the Fresnel zone at microwave frequencies is as thin as the line. At
+/// this frequency the first zone has a radius of 24 m.
 constexpr int DemoFrequencyMHz = 100;
 
 sites::PylonQuery queryOf(const LinkLayerInput &input)
@@ -66,8 +67,8 @@ QString demoPylons(const sites::SiteRepresentation &look, const sites::SectorCol
     return text;
 }
 
-/// With the colours of clearance the first link shows that of a free path, the second one that of a
-/// path which is cut.
+/// The links of the demonstration. If the clearance gives the colour, the first link has the colour
+/// of a clear path and the second one that of an obstructed path.
 QString demoLinks(const LinkRepresentation &links)
 {
     constexpr std::array<linkpath::Verdict, 2> Verdicts = {linkpath::Verdict::Clear,

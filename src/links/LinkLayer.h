@@ -6,7 +6,7 @@
 
 namespace vlt::links {
 
-/// Everything that a link layer is made of.
+/// All inputs of a link layer.
 struct LinkLayerInput
 {
     LinkFileInfo file;
@@ -20,20 +20,20 @@ struct LinkLayerInput
     QString language; ///< language code
 };
 
-/// The query of the layer; empty where no pylon type or no colour set is chosen.
+/// The query of the layer; empty if no pylon type or no colour set is chosen.
 QString linkQuery(const LinkLayerInput &input);
 
-/// The connection by which the links of a layer are read and placed, without their look; its path
-/// is absolute.
+/// The connection that reads the links of a layer with their coordinate systems, without the
+/// options of their representation; its path is absolute.
 QString placingConnection(const LinkLayerInput &input);
 
-/// The text of the layer file, out of the installation's "template_links.lay".
+/// Makes the text of the layer file from the installation's "template_links.lay".
 ///
 /// @par Errors   those of sites::missingChoice(); MESS_MISSING_CONF_FILE with the template's path.
 Result<tables::TableLayer> makeLinkLayer(const LinkLayerInput &input);
 
-/// The name under which the scene library loads the demonstration: three pylons, two links with
-/// their Fresnel ellipsoids. Empty where no pylon type or no colour set is chosen.
+/// The name by which the scene library loads the demonstration: three pylons, two links with their
+/// Fresnel ellipsoids. Empty if no pylon type or no colour set is chosen.
 QString buildPreviewLinkUrl(const sites::SiteRepresentation &pylons,
                             const LinkRepresentation &links,
                             const sites::SiteCatalogues &catalogues, const QString &installDir);

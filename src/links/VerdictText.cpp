@@ -54,7 +54,7 @@ namespace {
 
 QString reasonText(const QString &reason)
 {
-    if (reason.contains(QLatin1String("not recognized as"))) // the library's words
+    if (reason.contains(QLatin1String("not recognized as"))) // text of the geodata library
         return dico_label("MESS_TERRAIN_NO_RASTER", "its format is not a known raster format");
     return language::readerText(reason);
 }

@@ -7,17 +7,18 @@
 
 namespace vlt::links {
 
-/// A verdict in a word or two, in the chosen language.
+/// Name of a class of clearance, in the chosen language.
 QString verdictText(linkpath::Verdict verdict);
 
-/// What a link lacks to be judged, in the chosen language; empty for Lack::Nothing.
+/// The input that is missing for the clearance of a link, in the chosen language; empty for
+/// Lack::Nothing.
 QString lackText(linkpath::Lack lack);
 
-/// The colour that stands for a verdict.
+/// The colour of a class of clearance.
 QColor colorOfVerdict(linkpath::Verdict verdict);
 
-/// LinkCheck::terrainProblem as a sentence in the chosen language; what a library says of the file
-/// stays in its words, behind it.
+/// LinkCheck::terrainProblem as a sentence in the chosen language. A library's reason follows it,
+/// not translated.
 QString terrainProblemText(const QString &problem);
 
 } // namespace vlt::links

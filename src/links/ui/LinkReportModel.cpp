@@ -23,7 +23,7 @@ constexpr double HzPerMHz = 1e6;
 QIcon verdictIcon(linkpath::Verdict verdict)
 {
     constexpr int Size = 12;
-    constexpr int Density = 2; // sharp on dense screens too
+    constexpr int Density = 2; // pixels per unit, for screens of high density
     QPixmap picture(Size * Density, Size * Density);
     picture.setDevicePixelRatio(Density);
     picture.fill(Qt::transparent);
@@ -35,7 +35,7 @@ QIcon verdictIcon(linkpath::Verdict verdict)
     return picture;
 }
 
-/// What numbers are sorted by; what is not known comes after all that is.
+/// The number by which a column is sorted; unknown values come after all others.
 double number(const geodata::LinkReport &link, int column)
 {
     constexpr double Unknown = std::numeric_limits<double>::infinity();
@@ -47,7 +47,7 @@ double number(const geodata::LinkReport &link, int column)
     case LinkReportModel::Frequency:
         return link.frequencyMHz.value_or(Unknown);
     case LinkReportModel::Verdict:
-        return -static_cast<double>(link.clearance.verdict); // the worst first
+        return -static_cast<double>(link.clearance.verdict); // the worst class first
     default:
         return link.clearance.worst ? link.clearance.worst->freeShare() : Unknown;
     }
@@ -120,7 +120,7 @@ QVariant LinkReportModel::text(const geodata::LinkReport &link, int column) cons
         return link.lengthM ? m_locale.toString(*link.lengthM / MetresPerKm, 'f', KmDecimals)
                             : QString();
     case Frequency:
-        // in whole hertz: 6.0292 GHz are 6029.2 MHz, not 6029.200000000001
+        // Rounded to hertz: 6.0292 GHz are 6029.2 MHz, not 6029.200000000001.
         return link.frequencyMHz
                    ? m_locale.toString(std::round(*link.frequencyMHz * HzPerMHz) / HzPerMHz, 'f',
                                        QLocale::FloatingPointShortest)
@@ -161,7 +161,7 @@ QVariant LinkReportModel::headerData(int section, Qt::Orientation orientation, i
 {
     if (orientation != Qt::Horizontal || (role != Qt::DisplayRole && role != Qt::ToolTipRole))
         return {};
-    const bool isWhole = role == Qt::ToolTipRole; // short heads leave room for the worst points
+    const bool isWhole = role == Qt::ToolTipRole; // short headers leave space for the worst points
     switch (section) {
     case Row:
         return tr("Row", "MESS_ROW");
@@ -189,7 +189,8 @@ void LinkReportModel::sort(int column, Qt::SortOrder order)
     arrange(m_links);
 }
 
-/// The same links, perhaps judged otherwise or in another order: what is selected stays selected.
+/// Replaces the links with the same links in another order or with another clearance; the selection
+/// stays.
 void LinkReportModel::arrange(const QList<geodata::LinkReport> &links)
 {
     Q_EMIT layoutAboutToBeChanged({}, VerticalSortHint);

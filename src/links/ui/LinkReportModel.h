@@ -7,8 +7,8 @@
 
 namespace vlt::links {
 
-/// The links of a table, one a row: the name, what was found of the path, and what the table tells.
-/// Sorts by what the texts stand for; what is selected stays selected.
+/// The links of a table, one per row: the name, the clearance of the path and values of the table.
+/// Sorts by the values, not by their texts; the selection stays.
 class LinkReportModel : public QAbstractTableModel
 {
     Q_OBJECT
@@ -18,8 +18,9 @@ public:
 
     using QAbstractTableModel::QAbstractTableModel;
 
-    /// Takes the links in the order of the file; they are shown in the order last asked for. As
-    /// many as before are the same links, judged again. Another table's come after none.
+    /// Sets the links, in the order of the file; they are shown in the last requested order. A list
+    /// of the same size is taken as the same links with a new clearance, so clear the model before
+    /// the links of another table.
     void setLinks(const QList<geodata::LinkReport> &links);
 
     int rowCount(const QModelIndex &parent = {}) const override;

@@ -7,7 +7,7 @@ class VltLinkDetails;
 class VltLinkProperties;
 class VltSiteProperties;
 
-/// The page on which a table of microwave links becomes a link layer.
+/// The page that makes a link layer from a table of microwave links.
 class VltAddLinkPage : public VltTablePage
 {
     Q_OBJECT
@@ -37,5 +37,5 @@ private:
     VltLinkProperties *m_panelLinks;
     VltSiteProperties *m_panelPylons;
     VltLinkDetails *m_panelDetails;
-    std::optional<vlt::links::LinkFileInfo> m_file; ///< none while there is no table
+    std::optional<vlt::links::LinkFileInfo> m_file; ///< none if no table is open
 };

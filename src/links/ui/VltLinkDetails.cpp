@@ -15,7 +15,8 @@ using vlt::linkpath::Verdict;
 
 namespace {
 
-/// A longer name does not push the verdict out of view.
+/// Maximum width of the column of names, so that a long name does not move the clearance out of
+/// view.
 constexpr int MostNameCharacters = 24;
 
 } // namespace
@@ -28,7 +29,7 @@ VltLinkDetails::VltLinkDetails(QWidget *parent)
     setContentsTip(tr("Show the recognised columns, the rows with problems and the clearance of "
                       "every link",
                       "MESS_TIP_LINK_DETAILS"));
-    // the worst points are long texts: they are scrolled to rather than cut
+    // The texts of the worst points are long; the user scrolls to them, so they need not be cut.
     m_pwTvLinks->horizontalHeader()->setStretchLastSection(false);
     m_pwTvLinks->setSortingEnabled(true);
     m_pwTvLinks->sortByColumn(vlt::links::LinkReportModel::Row, Qt::AscendingOrder);

@@ -8,8 +8,7 @@ namespace vlt::links {
 class LinkReportModel;
 }
 
-/// The details of a table of links, with a table of the links and how much the terrain leaves of
-/// their paths.
+/// The details of a table of links, with a list of the links and the clearance of their paths.
 class VltLinkDetails : public VltTableDetails
 {
     Q_OBJECT
@@ -17,13 +16,14 @@ class VltLinkDetails : public VltTableDetails
 public:
     explicit VltLinkDetails(QWidget *parent = nullptr);
 
-    /// Shows what is known of a table without reading its rows.
+    /// Shows the properties that are known without reading the table's rows.
     void showFile(const vlt::links::LinkFileInfo &file);
 
-    /// Starts to read and judge the links of the table shown, unless that was done already.
+    /// Starts to read the links of the shown table and compute their clearance, unless that was
+    /// done before.
     ///
     /// @param connection  the table with its coordinate systems and an absolute path
-    /// @param systems     the same systems
+    /// @param systems     the same coordinate systems
     void check(const QString &connection, const vlt::geodata::SystemPair &systems,
                const vlt::geodata::LinkJudging &judging);
 

@@ -9,8 +9,8 @@ namespace Ui {
 class LinkProperties;
 }
 
-/// The panel with the look of links and of their Fresnel zones, and with the rule that judges their
-/// clearance.
+/// The panel with the representation of links and of their Fresnel zones, and with the rule for
+/// their clearance.
 class VltLinkProperties : public VltParameterPanel
 {
     Q_OBJECT
@@ -21,7 +21,7 @@ public:
 
     void setStacked(bool stacked) override;
 
-    /// The values as they stand.
+    /// The current values.
     vlt::links::LinkRepresentation representation() const;
 
 private:
