@@ -8,28 +8,27 @@
 
 namespace vlt::buildings {
 
-/// What a layer of buildings shows.
+/// The representation of buildings in a layer.
 enum class TexbSubtype { Colored, Roofs, Walls, Storeys };
 
 /// The values of a building layer.
 struct TexbLayer
 {
     QString title;
-    QString url; ///< texbUrl()
-    double xCenter =
-        0; ///< of the extent of the buildings, in their system; both written with 9 digits
+    QString url;        ///< texbUrl()
+    double xCenter = 0; ///< centre of the buildings' extent, in their system; written with 9 digits
     double yCenter = 0;
     TexbSubtype subtype = TexbSubtype::Colored;
     QString description;
 };
 
-/// What a layer shows whose images lie on this part of the buildings.
+/// The representation of a layer with images on this part of the buildings.
 TexbSubtype subtypeOf(contract::TextureMode mode);
 
 /// "rf_colored_buildings", "rf_roofs", "rf_walls", "rf_storeys".
 QString subtypeName(TexbSubtype subtype);
 
-/// By which a layer names its document.
+/// The URL of the document in a layer.
 ///
 /// @param documentPath  without the extension ".texb"
 QString texbUrl(const QString &documentPath);
@@ -37,9 +36,10 @@ QString texbUrl(const QString &documentPath);
 /// The layer template of an installation.
 QString texbTemplatePath(const QString &installDir);
 
-/// Writes the layer file out of a template: afterwards it is the old one or the whole new one.
+/// Writes the layer file from a template. Afterwards the file is the whole new one or, after an
+/// error, the old one.
 ///
-/// @par Errors  MESS_MISSING_CONF_FILE with the template's path, nothing is written then;
+/// @par Errors  MESS_MISSING_CONF_FILE with the template's path, and nothing is written;
 ///              MESS_CANT_CREATE_LAYER with the output's path and the system's reason
 Result<Done> createTexbLayerFile(const QString &outputPath, const QString &templatePath,
                                  const TexbLayer &layer, platform::Access access);

@@ -17,18 +17,18 @@ namespace vlt::buildings {
 
 namespace {
 
-/// Pixels of the legend for one of the screen: it stays crisp on screens of fine pixels.
+/// Pixels of the legend per unit of the screen, so that it is sharp on screens of high density.
 constexpr int LegendScale = 2;
 
 constexpr QLatin1String DocumentSuffix(contract::BuildingDocumentSuffix);
 
-/// Name of a legend that no other layer has.
+/// Name of a legend that starts with the document's name, which no other layer has.
 QString ownLegendName(const QString &document, const QString &colorMapName)
 {
     return QFileInfo(document).completeBaseName() + QLatin1Char('_') + colorMapName;
 }
 
-/// What stood at a path before it was written.
+/// The content of a file before it is written.
 class FormerFile
 {
 public:
@@ -42,7 +42,8 @@ public:
             m_bytes = file.readAll();
     }
 
-    /// As far as that goes: the failure that led here is what the user is told.
+    /// Restores the content if possible. A failure is only logged: the user sees the error that
+    /// made this necessary.
     void restore() const
     {
         if (!m_isThere)
@@ -58,7 +59,7 @@ private:
     QByteArray m_bytes;
 };
 
-/// Writes the files of one layer, that which names the others last.
+/// Writes the files of one layer; the file that names the others is the last.
 class FilesWriter
 {
 public:
@@ -68,7 +69,7 @@ public:
         , m_files(filesOf(layerPath, input))
     {}
 
-    /// @param description  asked once the legend is there
+    /// @param description  called after the legend is written
     template<typename Description>
     Result<BuildingLayerFiles> write(const QString &document, TexbSubtype subtype,
                                      const Description &description)
@@ -100,9 +101,8 @@ private:
         return written;
     }
 
-    /// Its name may be taken: by the same colours over other values, which another layer shows, or
-    /// in a directory of several users by somebody else's file. It gets the layer's name in front
-    /// then.
+    /// Writes the legend. If its name is used already, by the legend of another layer with other
+    /// values or by another user's file, the name starts with the layer's name.
     Result<Done> writeLegend(const LegendInput &legend)
     {
         const QImage image = colormaps::drawLegend(legend.map, legend.interpretation, LegendScale);
@@ -132,7 +132,7 @@ private:
         return Done{};
     }
 
-    /// The colour map's name over its legend; empty where there is none.
+    /// The name of the colour map above its legend; empty if there is no legend.
     QString legendText() const
     {
         return m_input.legend
@@ -152,11 +152,11 @@ private:
     const BuildingLayerInput &m_input;
     platform::Access m_access;
     BuildingLayerFiles m_files;
-    std::vector<FormerFile> m_former; ///< of what is written
-    QSize m_legendSize;               ///< as it is shown
+    std::vector<FormerFile> m_former; ///< of the files written so far
+    QSize m_legendSize;               ///< in the layer's description
 };
 
-/// What both kinds of documents say.
+/// The content that both kinds of documents have.
 contract::BuildingDocument documentOf(const BuildingLayerInput &input)
 {
     const BuildingsSource &source = input.source;

@@ -11,51 +11,50 @@
 
 namespace vlt::buildings {
 
-/// The files of a layer of buildings, beside each other.
+/// The files of a layer of buildings, in one folder.
 struct BuildingLayerFiles
 {
     QString layer;    ///< "NAME.lay"
     QString document; ///< "NAME.texb"
-    /// "MAP_gradient.png", or "NAME_MAP_gradient.png" where the first is somebody else's or shows
-    /// other values; empty where no colour map is used
+    /// "MAP_gradient.png", or "NAME_MAP_gradient.png" if the first belongs to another user or shows
+    /// other values; empty if no colour map is used
     QString legend;
 };
 
-/// A colour map as the legend of a layer shows it.
+/// A colour map with its name for the legend of a layer.
 struct LegendInput
 {
-    QString name;            ///< of the colour map, as the user knows it
-    colormaps::ColorMap map; ///< laid over the values that it is used for
+    QString name;            ///< name of the colour map that the user sees
+    colormaps::ColorMap map; ///< stretched to the values that it is used for
     colormaps::Interpretation interpretation = colormaps::Interpretation::Interpolation;
 };
 
-/// What both kinds of layers of buildings are made of.
+/// The inputs of both kinds of layers of buildings.
 struct BuildingLayerInput
 {
     BuildingsSource source;
-    contract::BuildingFootprints footprints; ///< the source names file, layer and field
+    contract::BuildingFootprints footprints; ///< with file, layer and field of the source
     QString installDir;
     std::optional<LegendInput> legend;
 };
 
-/// What the files of a layer of this input will be called; a suffix ".lay" is left out of the
-/// document's name.
+/// The names of the files of a layer; the document's name has no suffix ".lay".
 BuildingLayerFiles filesOf(const QString &layerPath, const BuildingLayerInput &input);
 
-/// All paths that writing such a layer may write to.
+/// All files that may be written for such a layer.
 QStringList possibleFilesOf(const QString &layerPath, const BuildingLayerInput &input);
 
-/// Writes a layer of buildings that a raster colours: document, legend, layer, in this order. After
-/// a failure the files are as they were.
+/// Writes a layer of buildings with colours from a raster: document, legend, layer, in this order.
+/// After a failure the files have their former content.
 ///
-/// @param layerPath  of the layer file; the document gets its name
-/// @par Errors       those of createTexbLayerFile(), MESS_CANT_CREATE_LAYER also for the document
-///                   and the legend; with the path and the system's reason
+/// @param layerPath  of the layer file; the document has the same name
+/// @par Errors       those of createTexbLayerFile(), and MESS_CANT_CREATE_LAYER for the document
+///                   and the legend, with the path and the system's reason
 Result<BuildingLayerFiles> writeColoredLayer(const QString &layerPath,
                                              const BuildingLayerInput &input,
                                              const RasterColoring &walls, platform::Access access);
 
-/// The looks of a layer of buildings with images.
+/// Colours and images of the buildings of a layer.
 struct TexturedLook
 {
     contract::BuildingCache cache;
@@ -63,8 +62,9 @@ struct TexturedLook
     QString wallColor; ///< "#RRGGBB" or colorMapColor()
     QString roofColor;
     contract::TextureMode mode = contract::TextureMode::Roofs;
-    std::optional<contract::BuildingTextures> textures; ///< the members beside it name mode, images
-    QList<FileEntry> images;                            ///< those that are used are written
+    std::optional<contract::BuildingTextures>
+        textures;            ///< without mode and images, which are the other members
+    QList<FileEntry> images; ///< only those in use are written
 };
 
 /// The same for the full document.

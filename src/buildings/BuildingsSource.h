@@ -5,24 +5,24 @@
 
 namespace vlt::buildings {
 
-/// What the source page hands to the pages after it.
+/// The choices of the source page for the pages after it.
 struct BuildingsSource
 {
     QString file;
     QString layer;
     QString heightField;
     QString terrainFile;
-    QString terrainNoData; ///< as typed; may be empty
-    double xCenter = 0;    ///< of the extent of the buildings, in their system
+    QString terrainNoData; ///< as the user typed it; may be empty
+    double xCenter = 0;    ///< centre of the buildings' extent, in their system
     double yCenter = 0;
     QString project; ///< path of the project file; may be empty
 };
 
-/// Out of the wizard's shared parameters: "Buildings", "Layer", "Height", "Dtm", "Nodata",
-/// "CenterX", "CenterY", "ProjectName".
+/// Reads the choices from the wizard's shared parameters: "Buildings", "Layer", "Height", "Dtm",
+/// "Nodata", "CenterX", "CenterY", "ProjectName".
 BuildingsSource readBuildingsSource(const QVariantMap &parameters);
 
-/// Into the same parameters, but for the project, which another page chooses.
+/// Writes the choices to the same parameters, except the project, which another page chooses.
 void publishBuildingsSource(const BuildingsSource &source, QVariantMap &parameters);
 
 } // namespace vlt::buildings

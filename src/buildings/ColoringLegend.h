@@ -6,18 +6,18 @@
 
 namespace vlt::buildings {
 
-/// Least and greatest value of a raster, which is read whole.
+/// Minimum and maximum of a raster; the whole raster is read.
 ///
-/// @param noData    as typed, may be empty
+/// @param noData    as the user typed it; may be empty
 /// @param progress  may be empty; false stops the work
-/// @return          nothing where no pixel has a value
+/// @return          none if no pixel has a value
 /// @par Errors      MESS_ERR_OPEN_RASTERDS with the path and the reason
 Stoppable<std::optional<coverage::ValueRange>>
 readCoverageRange(const QString &raster, const QString &noData, const Progress &progress = {});
 
-/// The legend of a colouring.
+/// Makes the legend of a colouring.
 ///
-/// @param range  of the raster: where the colouring is stretched, the colour map is laid over it
+/// @param range  of the raster; a stretched colouring lays the colour map over this range
 /// @par Errors   those of colormaps::openColorMap()
 Result<LegendInput> legendOf(const RasterColoring &coloring,
                              const std::optional<coverage::ValueRange> &range);

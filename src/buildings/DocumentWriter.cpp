@@ -47,7 +47,7 @@ std::string endTag(const char *element)
 std::string rootStart(const BuildingCache &cache, Variant variant)
 {
     const std::string mode = attribute(texb::Cache, wordOf(CacheModeWords, cache.mode));
-    if (variant == Variant::Colored) // on one line
+    if (variant == Variant::Colored) // one line, without line feeds between attributes
         return std::string("<").append(texb::RootElement) + ' ' + mode + ">\n";
     std::string start = startOf(texb::RootElement) + "  " + mode;
     if (cache.mode != CacheMode::None)
@@ -95,7 +95,7 @@ std::string texturesElement(const BuildingTextures &textures)
     element += line(texb::EdgeColor, textures.edgeColor);
     element += line(texb::ForceEdgeCreation, trueOrFalse(textures.forceEdgeCreation));
     element += line(texb::ProcessComplexBuildings, trueOrFalse(textures.processComplexBuildings));
-    if (textures.compression != TextureCompression::None) // three blanks: readers know the line so
+    if (textures.compression != TextureCompression::None) // readers expect three blanks
         element +=
             "   " +
             attribute(texb::Compression, wordOf(TextureCompressionWords, textures.compression)) +

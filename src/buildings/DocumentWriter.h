@@ -6,12 +6,12 @@
 
 namespace vlt::buildings {
 
-/// The text of a document of buildings that a raster colours: without a cache, a distance for
-/// images, colours of roofs and images. In both documents values stand as they are, without
-/// escaping; numbers have 6 significant digits.
+/// The text of a document for buildings with colours from a raster. It has no cache, no distance
+/// for images, no colours of roofs and no images. Values are not escaped in either kind of
+/// document; numbers have 6 significant digits.
 QString writeColoredTexbDocument(const contract::BuildingDocument &document);
 
-/// The text of the full document.
+/// The text of the full document, for buildings with images.
 QString writeTexbDocument(const contract::BuildingDocument &document);
 
 } // namespace vlt::buildings

@@ -8,7 +8,7 @@ namespace vlt::buildings {
 
 EmptyFileListModel::EmptyFileListModel(QObject *parent) : QStandardItemModel(parent)
 {
-    // French by default; the English dictionary has the English text
+    // The built-in text is French; the English dictionary has the English text.
     auto *hint = new QStandardItem(
         dico_label("MESS_NEED_TEX_IMG",
                    "Vous devez sélectionner une ou plusieurs images pour texturer les bâtiments"));

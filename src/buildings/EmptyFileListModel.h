@@ -4,7 +4,7 @@
 
 namespace vlt::buildings {
 
-/// Stands in the table of textures while there is none: one red cell that says what to do.
+/// The model of the table of textures as long as it is empty: one red cell with a hint.
 class EmptyFileListModel : public QStandardItemModel
 {
     Q_OBJECT

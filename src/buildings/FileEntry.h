@@ -10,8 +10,8 @@ namespace vlt::buildings {
 /// A texture image, or one of the images of a file that holds several.
 struct FileEntry
 {
-    static constexpr int Metres = 0;       ///< unit: the name states metres
-    static constexpr int UnstatedUnit = 1; ///< unit: the name has a number without a unit
+    static constexpr int Metres = 0;       ///< `unit` of a name with metres
+    static constexpr int UnstatedUnit = 1; ///< `unit` of a name with a number without unit
 
     FileEntry() = default;
     FileEntry(const QString &fullPath, double imageHeight, int heightUnit,
@@ -29,15 +29,14 @@ struct FileEntry
     FileEntry &operator=(FileEntry &&) = default;
     virtual ~FileEntry() = default;
 
-    /// Name of the file on the disk, also where `file` is the name of an image in it.
+    /// Name of the file on the disk, even if `file` is the name of an image in it.
     QString fileName() const;
 
-    QFileInfo file;    ///< of the full path, which may be the name of an image in a file
-    QString shortName; ///< folder as the list shows it
-    bool used = true;  ///< ticked by the user
-    double height =
-        0; ///< the height or storey that the image is for, metres unless `unit` says otherwise
-    int unit = Metres;   ///< kept and saved as found
+    QFileInfo file;      ///< has the full path, which may be the name of an image in a file
+    QString shortName;   ///< folder in the list
+    bool used = true;    ///< ticked by the user
+    double height = 0;   ///< height or storey of the image; metres if `unit` is Metres
+    int unit = Metres;   ///< saved unchanged
     QString description; ///< of an image in a file that holds several
 };
 

@@ -7,8 +7,8 @@
 
 namespace vlt::buildings {
 
-/// The texture images as a table: used or not, file, height, folder. A filter decides which of
-/// them are rows.
+/// The texture images as a table: used or not, file, height, folder. The rows are the images that
+/// match a filter.
 class FileListModel : public QAbstractTableModel
 {
     Q_OBJECT
@@ -21,7 +21,7 @@ public:
     /// Replaces the list; the filter stays.
     void setEntries(QList<FileEntry> entries);
 
-    /// All images, whatever the filter shows.
+    /// All images, including those that do not match the filter.
     const QList<FileEntry> &entries() const { return m_entries; }
     int selectedCount() const { return m_selected; }
 
@@ -33,16 +33,17 @@ public:
     bool setData(const QModelIndex &index, const QVariant &value, int role) override;
     Qt::ItemFlags flags(const QModelIndex &index) const override;
 
-    /// Ticks or unticks several rows at once; updated() follows once.
+    /// Ticks or unticks several rows together and emits updated() once.
     void setUsed(const QModelIndexList &rows, bool used);
 
 public Q_SLOTS:
-    /// Shows the images whose file name, folder, description or height matches; all of them where
-    /// the pattern is empty.
+    /// Shows the images whose file name, folder, description or height matches; an empty pattern
+    /// shows all.
     void setFilter(const QString &pattern);
 
 Q_SIGNALS:
-    /// After every change of the list, the filter or a tick: images, rows, ticked images.
+    /// The list, the filter or a tick has changed; the numbers of images, of rows and of ticked
+    /// images.
     void updated(int total, int matching, int selected);
 
 private:
@@ -51,7 +52,7 @@ private:
     void tellCounts();
 
     QList<FileEntry> m_entries;
-    QList<int> m_rows; ///< place in m_entries of each row
+    QList<int> m_rows; ///< index in m_entries of each row
     int m_selected = 0;
     QString m_filter;
 };

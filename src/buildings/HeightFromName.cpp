@@ -18,7 +18,8 @@ QRegularExpression pattern(const QString &text)
                                         QRegularExpression::UseUnicodePropertiesOption);
 }
 
-/// In the order in which they are tried. \z: "$" would also match before a line feed.
+/// The patterns, in the order in which they are tried. They end in \z because "$" also matches
+/// before a line feed.
 const std::array<QRegularExpression, 5> &patterns()
 {
     static const std::array<QRegularExpression, 5> Patterns = {

@@ -6,10 +6,10 @@
 
 namespace vlt::buildings {
 
-/// A height that the name of an image states.
+/// A height in the name of an image.
 struct NamedHeight
 {
-    double height = 0; ///< 0 where the name states none
+    double height = 0; ///< 0 if the name has none
     bool inMetres = false;
 };
 

@@ -8,15 +8,15 @@ namespace vlt::buildings {
 
 using contract::Reduction;
 
-/// Colours that come from a raster through a colour map, as the user has chosen them.
+/// The user's choice of colours from a raster and a colour map.
 struct RasterColoring
 {
     QString rasterFile;
     QString colorMap; ///< path of the colour map file
     Reduction reduction = Reduction::Minimum;
-    bool stretched = true;    ///< the map is laid over the raster's minimum and maximum
-    bool interpolated = true; ///< else ranges of colours
-    QString noData;           ///< as typed, may be empty
+    bool stretched = true;    ///< the map is stretched from the raster's minimum to its maximum
+    bool interpolated = true; ///< false for ranges of one colour
+    QString noData;           ///< as the user typed it; may be empty
 };
 
 /// The colour of walls in the document of coloured buildings: "IMAGE;raster;map;...".

@@ -7,19 +7,22 @@
 
 namespace vlt::buildings {
 
-/// What a field is called where the height is chosen, "HEIGHT (Real)"; empty for kinds that are not
-/// offered.
+/// The text of a field in the choice of the height, "HEIGHT (Real)"; empty for kinds that cannot be
+/// chosen.
 QString heightCaption(const geodata::VectorField &field);
 
-/// One line on a layer of buildings: how many, in which system, how large an area.
+/// One line about a layer of buildings: their number, their coordinate system, the size of the
+/// area.
 ///
-/// @param extent  nothing where it is not known
+/// @param extent  none if it is not known
 QString layerSummary(const geodata::PolygonLayer &layer,
                      const std::optional<geodata::Extent> &extent);
 
-/// One line on a terrain: its pixels, its system, whether it covers the buildings.
+/// One line about a terrain: its size in pixels, its coordinate system, whether it covers the
+/// buildings.
 ///
-/// @param layer   of the buildings; null for none. It is not compared where a system is not known.
+/// @param layer   of the buildings; null for none. It is not compared if a coordinate system is not
+///                known.
 /// @param extent  of the layer
 QString terrainSummary(const geodata::RasterSummary &terrain, const geodata::PolygonLayer *layer,
                        const std::optional<geodata::Extent> &extent);

@@ -12,7 +12,7 @@ QString heightText(double height)
     return QString::number(height, 'g', SignificantDigits);
 }
 
-/// What is compared with the pattern of the filter.
+/// Compares texts and heights with the pattern of the filter.
 class Filter
 {
 public:
@@ -29,7 +29,7 @@ public:
     }
 
 private:
-    /// A decimal comma or point stands for itself.
+    /// The pattern as a regular expression in which a comma or point is an ordinary character.
     static QString asExpression(QString pattern)
     {
         pattern.replace(u',', u'.');

@@ -4,11 +4,11 @@
 
 namespace vlt::buildings {
 
-/// Places in the list of the images whose file name, folder, description or height matches a
-/// filter; of all of them where it is empty.
+/// Indexes of the images whose file name, folder, description or height matches a filter; all
+/// indexes if the filter is empty.
 ///
-/// @param pattern  a part of the text, with the case of its letters; for the height a regular
-///                 expression, in which a comma or point stands for the decimal point
+/// @param pattern  a part of the text, with the same case; for the height a regular expression in
+///                 which a comma or point means the decimal point
 QList<int> matchingTextures(const QList<FileEntry> &images, const QString &pattern);
 
 } // namespace vlt::buildings

@@ -21,7 +21,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// A folder that is read, and what the list calls it.
+/// A folder to be read, and its name in the list.
 struct Folder
 {
     QString path;
@@ -36,13 +36,13 @@ struct Image
     std::shared_ptr<const geodata::FolderNames> beside;
 };
 
-/// Tells how far the work is, not more often than somebody can see.
+/// Reports the progress, but not more often than a user can see.
 class Teller
 {
 public:
     explicit Teller(const Progress &progress) : m_progress(progress) {}
 
-    /// False once the work is to stop.
+    /// Reports the progress; false if the work must stop.
     bool goesOn(double share)
     {
         constexpr int PauseMs = 20;
@@ -65,15 +65,16 @@ bool isBefore(const QString &a, const QString &b)
     return order == 0 ? a < b : order < 0;
 }
 
-/// Without links and "..", with a slash at the end; empty where it is gone.
+/// The path of a folder without links and "..", with a slash at the end; empty if the folder does
+/// not exist.
 QString canonical(const QString &folder)
 {
     const QString path = QFileInfo(folder).canonicalFilePath();
     return path.isEmpty() || path.endsWith(u'/') ? path : path + u'/';
 }
 
-/// The folders in a folder that are to be read, by name. `seen` holds those read before: a folder
-/// that several links lead to is taken once, under its own name where that is among them.
+/// The subfolders to be read, sorted by name. `seen` has the folders read before, so that a folder
+/// with several links is read only once, by its own name if possible.
 QList<Folder> subfolders(const Folder &parent, QSet<QString> &seen)
 {
     const QDir dir(parent.path);
@@ -87,7 +88,7 @@ QList<Folder> subfolders(const Folder &parent, QSet<QString> &seen)
     QList<Folder> folders;
     for (const QFileInfo &folder : std::as_const(found)) {
         const QString place = canonical(folder.filePath());
-        const bool isCircle = here.startsWith(place); // also where it is gone
+        const bool isCircle = here.startsWith(place); // true too for a folder that does not exist
         if (isCircle || seen.contains(place))
             continue;
         seen.insert(place);
@@ -120,7 +121,8 @@ QList<Folder> foldersOf(DataStructure structure, const QString &templateDir)
     }
 }
 
-/// Names of a folder in bytes; `files` gets those of the regular files that are not hidden.
+/// Names of all entries of a folder, in the encoding of the file system. `files` receives the names
+/// of the regular files that are not hidden.
 QList<QByteArray> namesIn(const QString &folder, QList<QByteArray> &files)
 {
     QList<QByteArray> names;
@@ -180,14 +182,14 @@ QList<FileEntry> entriesOf(const Image &image, const geodata::ImageFile &content
     return entries;
 }
 
-/// The images shared out over several threads, this one among them, which alone tells how far they
-/// are.
+/// Reads the images on several threads. One of them is the caller's, and only that one reports the
+/// progress.
 class Reading
 {
 public:
     explicit Reading(QList<Image> images) : m_images(std::move(images)), m_read(m_images.size()) {}
 
-    /// Nothing when it was stopped.
+    /// The images; none if the work was stopped.
     std::optional<QList<FileEntry>> run(Teller &teller)
     {
         std::vector<std::thread> others;
@@ -234,7 +236,8 @@ private:
     }
 
     const QList<Image> m_images;
-    std::vector<QList<FileEntry>> m_read; ///< as m_images; each place is written by one thread
+    std::vector<QList<FileEntry>>
+        m_read; ///< in the order of m_images; each element is written by one thread
     std::atomic<qsizetype> m_next = 0;
     std::atomic<bool> m_isStopped = false;
 };

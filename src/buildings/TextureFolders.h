@@ -10,23 +10,22 @@
 
 namespace vlt::buildings {
 
-/// How the images of a set of textures lie in folders, seen from one of them. The values are those
-/// of the page's list and of the settings.
+/// Folders of a set of texture images, relative to the folder of the template image. The values are
+/// those of the page's list and of the settings.
 enum class DataStructure {
     SameFolder,     ///< all in the folder of the template
     SiblingFolders, ///< in the folders beside the template's
     TwoLevels       ///< in the folders of the folders beside the parent of the template's
 };
 
-/// The images of a set of textures: those with the template's suffix (in any case of letters; all
-/// files where it has none) in the folders that the structure names. Hidden folders are left out, a
-/// folder that links lead to twice is read once. Safe to call on any thread; it reads with several
-/// of its own.
+/// The images of a set of textures: the files with the template's suffix, in upper or lower case,
+/// in the folders of the structure. Hidden folders are left out, and a folder with several links is
+/// read once. May be called on any thread; it starts threads of its own.
 ///
 /// @param templateDir  absolute path of the template image's folder
 /// @param suffix       "png"; empty for all files
 /// @param progress     may be empty; false stops the work
-/// @return             by folder and name; nothing when `progress` stopped it
+/// @return             sorted by folder and name; none if `progress` stopped it
 std::optional<QList<FileEntry>> findTextures(DataStructure structure, const QString &templateDir,
                                              const QString &suffix, const Progress &progress);
 

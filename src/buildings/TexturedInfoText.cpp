@@ -10,7 +10,7 @@ namespace vlt::buildings {
 
 namespace {
 
-/// Of more heights only the first and the last are listed.
+/// Maximum number of heights that are listed; of more heights only the first and the last are.
 constexpr int MaxHeights = 12;
 
 QString whereOf(contract::TextureMode mode)
@@ -26,7 +26,7 @@ QString whereOf(contract::TextureMode mode)
     return dico_label("MESS_TEX_ROOFS", "Roofs");
 }
 
-/// Of the language of the text.
+/// The locale for the language of the text.
 QLocale spoken()
 {
     return QLocale(VltLanguageManager::getInstance().getCurrentLanguage().text);
@@ -49,7 +49,7 @@ QString heightsText(const std::set<double> &heights)
 QString texturedInfoText(contract::TextureMode mode, const QList<FileEntry> &images)
 {
     int count = 0;
-    std::set<double> heights; // several images may be for one height
+    std::set<double> heights; // several images may have the same height
     for (const FileEntry &image : images) {
         if (!image.used)
             continue;

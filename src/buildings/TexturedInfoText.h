@@ -5,10 +5,10 @@
 
 namespace vlt::buildings {
 
-/// What a layer of buildings with images says of itself, as rich text: where on the buildings the
-/// images are, how many there are, the heights that they are for.
+/// Description of a layer of buildings with images, as rich text: the part of the buildings that
+/// has images, the number of images, their heights.
 ///
-/// @param images  those that are used count
+/// @param images  only those in use are counted
 QString texturedInfoText(contract::TextureMode mode, const QList<FileEntry> &images);
 
 } // namespace vlt::buildings

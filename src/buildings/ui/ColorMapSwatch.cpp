@@ -9,7 +9,7 @@ namespace vlt::buildings {
 
 namespace {
 
-constexpr int Density = 2; // drawn for a dense screen, shown at half its size
+constexpr int Density = 2; // drawn for screens of high density, shown at half its size
 
 } // namespace
 

@@ -34,7 +34,8 @@ void FootprintPicker::open(const QString &path, bool silent)
         return;
     const QScopedValueRollback busy(m_isBusy, true);
     using Opened = Result<std::shared_ptr<geodata::PolygonSource>>;
-    // closing may take a moment as well where the features are kept in memory
+    // The previous source is closed on the other thread too: that is slow if its features are in
+    // memory.
     const auto previous = std::make_shared<std::shared_ptr<geodata::PolygonSource>>(m_source);
     clear();
     if (path.isEmpty())
@@ -65,7 +66,7 @@ void FootprintPicker::open(const QString &path, bool silent)
 void FootprintPicker::offerLayers(const QString &path)
 {
     {
-        const QSignalBlocker quiet(m_widgets.layer); // the first entry would choose itself
+        const QSignalBlocker quiet(m_widgets.layer); // the list would choose its first entry
         for (const geodata::PolygonLayer &layer : m_source->layers())
             m_widgets.layer->addItem(layer.name, layer.name);
         m_widgets.layer->setCurrentIndex(-1);
@@ -85,7 +86,7 @@ const geodata::PolygonLayer *FootprintPicker::layer() const
 void FootprintPicker::chooseLayer(int index)
 {
     if (index < 0) {
-        if (m_widgets.layer->count() > 0) // not where clearing the list brought this here
+        if (m_widgets.layer->count() > 0) // clear() calls this function again
             m_widgets.layer->clear();
         return;
     }

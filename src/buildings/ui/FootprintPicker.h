@@ -7,7 +7,8 @@
 
 class QComboBox;
 
-/// The buildings of the source page: the vector file, its layer, the field of the heights.
+/// The choice of the buildings on the source page: the vector file, its layer, the field of the
+/// heights.
 class FootprintPicker : public PathPicker
 {
     Q_OBJECT
@@ -22,23 +23,23 @@ public:
 
     FootprintPicker(QWidget *page, const Widgets &widgets, bool &isBusy);
 
-    /// Opens a vector file; an empty path only closes what was open. A box tells where it cannot be
-    /// used.
+    /// Opens a vector file; an empty path only closes the current one. A message box reports a file
+    /// that cannot be used.
     ///
-    /// @param silent  without a box where the file cannot be opened
+    /// @param silent  without a box if the file cannot be opened
     void open(const QString &path, bool silent);
 
-    /// Offers the fields of a layer after those already offered, and finds out where it lies. A
-    /// negative index empties the list of layers.
+    /// Adds the fields of a layer to the list of fields and finds its extent. A negative index
+    /// empties the list of layers.
     void chooseLayer(int index);
 
-    /// Finds out where the layer lies unless that is known; false where the user stops it.
+    /// Finds the extent of the layer unless it is known; false if the user stops it.
     bool locate();
 
-    /// Null where none is chosen.
+    /// The chosen layer; null if none is chosen.
     const vlt::geodata::PolygonLayer *layer() const;
 
-    /// Nothing where it is not known.
+    /// The extent of the chosen layer; none if it is not known.
     const std::optional<vlt::geodata::Extent> &extent() const { return m_extent; }
 
 private:
@@ -47,6 +48,6 @@ private:
     void readExtent(int index);
 
     Widgets m_widgets;
-    std::shared_ptr<vlt::geodata::PolygonSource> m_source; ///< null when none is open
+    std::shared_ptr<vlt::geodata::PolygonSource> m_source; ///< null if none is open
     std::optional<vlt::geodata::Extent> m_extent;          ///< of the chosen layer
 };

@@ -17,7 +17,7 @@ public:
                           const QModelIndex &index) const override;
     void setEditorData(QWidget *editor, const QModelIndex &index) const override;
 
-    /// What is no number changes nothing.
+    /// Sets the typed number; any other text changes nothing.
     void setModelData(QWidget *editor, QAbstractItemModel *model,
                       const QModelIndex &index) const override;
 };

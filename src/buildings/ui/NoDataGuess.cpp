@@ -22,7 +22,8 @@ namespace {
 
 constexpr int PollMs = 50;
 
-/// While it lives, a page cannot be used nor left, apart from quitting; the keyboard is given back.
+/// Disables a page and its buttons Next and Back as long as it exists; then the page gets the focus
+/// back.
 class PageLock
 {
 public:
@@ -60,8 +61,8 @@ private:
     QList<QPointer<QWidget>> m_locked;
 };
 
-/// Runs the guess on another thread and keeps the interface alive until it ends; no value where the
-/// page was closed meanwhile.
+/// Guesses on another thread while the user interface stays responsive; no value if the page was
+/// closed during the guess.
 Stoppable<double> guessBeside(const QPointer<QWidget> &page, const QString &path,
                               const QString &part, const QPointer<QProgressBar> &bar)
 {
@@ -94,7 +95,7 @@ Stoppable<double> guessBeside(const QPointer<QWidget> &page, const QString &path
             loop.quit();
     });
     poll.start(PollMs);
-    loop.exec(); // also ends with the program
+    loop.exec(); // the end of the program ends this loop too
     isAbandoned = true;
     worker.join();
     const bool isClosed = !page || (wasVisible && !page->window()->isVisible());

@@ -7,13 +7,13 @@ class QWidget;
 
 namespace vlt::buildings {
 
-/// Guesses what stands for missing values in a raster, with the bar shown meanwhile. The interface
-/// stays alive; `disabled` cannot be used while it runs, so that nothing begins twice.
+/// Guesses the value that marks missing data in a raster and shows the bar during the guess. The
+/// user interface stays responsive; `disabled` is disabled, so that no work starts twice.
 ///
 /// @param path      local raster; empty does nothing
-/// @param disabled  what is disabled meanwhile: the page
+/// @param disabled  the page, which is disabled during the guess
 /// @param part      name of one of its images, as the raster lists it; empty for the raster itself
-/// @return          the value with six decimals; empty where nothing was guessed, after a warning
+/// @return          the value with six decimals; empty if there is none, after a warning
 QString guessNoData(QWidget *disabled, const QString &path, QProgressBar *bar,
                     const QString &part = {});
 

@@ -6,7 +6,7 @@
 
 namespace {
 
-/// Regular files and folders only: opening a pipe might never end.
+/// Whether a path is a readable file or folder. Pipes are excluded: opening one may never end.
 bool isReadable(const QString &path)
 {
     const QFileInfo file(path);

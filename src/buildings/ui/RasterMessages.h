@@ -6,15 +6,15 @@ class QWidget;
 
 namespace vlt::buildings {
 
-/// Why a raster is of no use, or of doubtful use.
+/// Why a raster cannot be used or probably should not be.
 enum class RasterProblem { CannotOpen, NoBands, NotOneBand, HoldsColors };
 
-/// What a box tells of it.
+/// The text of the message box for a problem.
 QString textOf(RasterProblem problem);
 
-/// A box with the title "Warning" that names the file.
+/// Opens a message box with the title "Warning" that names the file.
 ///
-/// @param reason  the library's; may be empty
+/// @param reason  the library's reason; may be empty
 void warnOfRaster(QWidget *parent, RasterProblem problem, const QString &path,
                   const QString &reason = {});
 

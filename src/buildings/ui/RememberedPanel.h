@@ -2,7 +2,8 @@
 
 #include "wizard/base/VltParameterPanel.h"
 
-/// Base of the panels of building layers: each of their values is remembered and announced.
+/// Base of the panels of building layers: each of their values is remembered, and its changes are
+/// signalled.
 class RememberedPanel : public VltParameterPanel
 {
     Q_OBJECT
@@ -11,7 +12,8 @@ public:
     using VltParameterPanel::VltParameterPanel;
 
 protected:
-    /// Takes widgets as the base does, and emits parameterChanged() when the user changes them.
+    /// Registers widgets like the base class, and emits parameterChanged() when the user changes
+    /// them.
     void remember(const QList<Remembered> &values);
 
 private:

@@ -47,7 +47,7 @@ void TerrainPicker::show(const QString &path, const Summary &terrain)
     const QScopedValueRollback busy(m_isBusy, true);
     const bool isUsable = terrain && terrain.value().bandCount > 0;
     m_summary = isUsable ? std::optional(terrain.value()) : std::nullopt;
-    showPath(terrain ? path : QString()); // also where it has no bands: the user may know why
+    showPath(terrain ? path : QString()); // a raster without bands is shown too
     const std::optional<double> noData = isUsable ? terrain.value().noData : std::nullopt;
     m_widgets.noData->setText(noData ? text::f6(*noData) : QString());
     Q_EMIT changed();
@@ -67,7 +67,7 @@ void TerrainPicker::guessNoData()
     if (m_isBusy)
         return;
     m_isBusy = true;
-    const QPointer<TerrainPicker> self(this); // its window may be closed meanwhile
+    const QPointer<TerrainPicker> self(this); // its window may be closed during the guess
     const QString guess = buildings::guessNoData(page(), path(), m_widgets.progress);
     if (!self)
         return;

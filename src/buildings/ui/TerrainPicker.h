@@ -5,7 +5,7 @@
 
 class QProgressBar;
 
-/// The terrain of the source page: its raster and the value of no data.
+/// The choice of the terrain on the source page: its raster and the value of no data.
 class TerrainPicker : public PathPicker
 {
     Q_OBJECT
@@ -22,26 +22,26 @@ public:
 
     TerrainPicker(QWidget *page, const Widgets &widgets, bool &isBusy);
 
-    /// Opens a raster; an empty path only closes what was open. A box tells where it cannot be
-    /// used.
+    /// Opens a raster; an empty path only closes the current one. A message box reports a raster
+    /// that cannot be used.
     void open(const QString &path);
 
-    /// Reads a raster without taking it; nothing where the user stopped it.
+    /// Reads a raster without choosing it; none if the user stopped it.
     std::optional<Summary> read(const QString &path);
 
-    /// Takes a raster that was read.
+    /// Chooses a raster that was read.
     void show(const QString &path, const Summary &terrain);
 
     void guessNoData();
 
-    /// Why the value of no data cannot be used; nothing where it can.
+    /// Why the value of no data cannot be used; none if it can.
     std::optional<vlt::Error> wrongNoData() const;
 
-    /// Nothing where no usable raster is open.
+    /// The chosen raster; none if no usable raster is open.
     const std::optional<vlt::geodata::RasterSummary> &summary() const { return m_summary; }
 
 Q_SIGNALS:
-    /// A raster cannot be opened; after changed().
+    /// A raster cannot be opened; emitted after changed().
     ///
     /// @param reason  for the user, with the name of the file
     void failed(const QString &reason);

@@ -49,7 +49,7 @@ TextureSettings readTextureSettings(QSettings &settings)
     TextureSettings textures;
     textures.dataStructure = settings.value(DataStructureKey, 0).toInt();
     textures.filter = settings.value(FilterKey).toString();
-    // a damaged count must not keep the page busy for ever
+    // A damaged count must not block the page.
     const qsizetype count =
         std::min<qsizetype>(settings.value(FileCountKey, 0).toInt(), settings.childKeys().size());
     for (qsizetype n = 0; n < count; ++n) {

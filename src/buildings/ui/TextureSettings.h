@@ -6,7 +6,7 @@
 
 namespace vlt::buildings {
 
-/// What the textured page remembers, below "AddTexbTexturedPage".
+/// The remembered values of the textured page, below "AddTexbTexturedPage".
 struct TextureSettings
 {
     int dataStructure = 0; ///< position in the page's list
@@ -14,10 +14,10 @@ struct TextureSettings
     QList<FileEntry> files;
 };
 
-/// Images without a path are left out.
+/// Reads the values; images without a path are left out.
 TextureSettings readTextureSettings(QSettings &settings);
 
-/// Nothing of a longer list that was remembered before stays.
+/// Writes the values; entries of a longer old list are removed.
 void writeTextureSettings(QSettings &settings, const TextureSettings &textures);
 
 } // namespace vlt::buildings

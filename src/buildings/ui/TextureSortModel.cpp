@@ -7,7 +7,8 @@ namespace vlt::buildings {
 
 namespace {
 
-/// The C locale compares bytes, whatever is asked for.
+/// The system's locale, but never the C locale, which compares bytes and ignores the collator's
+/// options.
 QLocale collatingLocale()
 {
     return QLocale() == QLocale::c() ? QLocale(QLocale::English) : QLocale();

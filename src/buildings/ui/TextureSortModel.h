@@ -5,9 +5,9 @@
 
 namespace vlt::buildings {
 
-/// The rows of a FileListModel in the order that the headers of a table ask for: heights as
-/// numbers, names and folders with the numbers in them in natural order, images in use apart. A row
-/// stays where it is when it is edited. Texts that a column may cut are tool tips too.
+/// The rows of a FileListModel, sorted by a column: heights as numbers, names and folders in
+/// natural order of the numbers in them, images in use together. An edited row keeps its position.
+/// Texts that may be cut are tool tips too.
 class TextureSortModel : public QSortFilterProxyModel
 {
     Q_OBJECT

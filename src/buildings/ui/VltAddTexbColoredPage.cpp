@@ -13,7 +13,7 @@ VltAddTexbColoredPage::VltAddTexbColoredPage(QWidget *wizard, SharedParameters &
 {
     m_ui->setupUi(this);
     setTitle(tr("Colored buildings", "MESS_PAGE_COLORED"));
-    setFocusProxy(m_ui->m_pwTabs); // the first stop: Tab would never reach what stands before it
+    setFocusProxy(m_ui->m_pwTabs); // Tab cannot reach widgets before it
     setDropHighlightWidgets(m_ui->m_pwColoring->dropLabels());
     m_ui->m_pwColoring->setInstallDir(installDir);
     m_ui->m_pwExtrusion->forgetDistance();

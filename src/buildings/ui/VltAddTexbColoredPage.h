@@ -8,7 +8,7 @@ namespace Ui {
 class AddTexbColoredPage;
 }
 
-/// The page on which buildings are coloured from a raster.
+/// The page that colours buildings from a raster.
 class VltAddTexbColoredPage : public VltBuildingLayerPage
 {
     Q_OBJECT
@@ -18,7 +18,7 @@ public:
                           const QString &language);
     ~VltAddTexbColoredPage() override;
 
-    /// A text of colours becomes a colour map, anything else the image.
+    /// Takes a colour map file as colour map and any other file as the image.
     void droppedFile(const QString &path) override;
 
 public Q_SLOTS:
@@ -34,5 +34,5 @@ private:
     void layerWritten(const vlt::buildings::BuildingLayerFiles &files) override;
 
     std::unique_ptr<Ui::AddTexbColoredPage> m_ui;
-    QString m_colorMapName; ///< of the layer written last
+    QString m_colorMapName; ///< of the last layer
 };

@@ -30,7 +30,7 @@ QString settingsKey(const char *name)
     return QStringLiteral("AddTexbFirstPage/") + QLatin1String(name);
 }
 
-/// Title of the boxes on Next.
+/// Title of the message boxes after Next.
 QString refusalTitle()
 {
     return dico_label("MESS_ERREUR", "Error !!!");
@@ -49,7 +49,7 @@ VltAddTexbFirstPage::VltAddTexbFirstPage(QWidget *wizard, SharedParameters &para
     m_terrain = new TerrainPicker(
         this, {m_ui->m_pwLeDtm, m_ui->m_pwLeNoData, m_ui->m_pwNoDataProgress}, m_isBusy);
     setTitle(tr("Buildings", "MESS_PAGE_BUILDINGS"));
-    setFocusProxy(m_ui->m_pwLeBuildings); // where the keyboard starts
+    setFocusProxy(m_ui->m_pwLeBuildings); // the line gets the keyboard first
     setDropHighlightWidgets({m_ui->m_pwLblBuildings, m_ui->m_pwLblDtm});
     describeWidgets();
     connectWidgets();
@@ -64,7 +64,7 @@ VltAddTexbFirstPage::VltAddTexbFirstPage(QWidget *wizard, SharedParameters &para
 
 VltAddTexbFirstPage::~VltAddTexbFirstPage() = default;
 
-/// What the form cannot say.
+/// Sets the properties of widgets that a form cannot set.
 void VltAddTexbFirstPage::describeWidgets()
 {
     m_ui->m_pwRbTextured->setIcon(QIcon(QStringLiteral(":/images/textured-buildings.png")));
@@ -73,11 +73,11 @@ void VltAddTexbFirstPage::describeWidgets()
     m_ui->m_pwRbColored->setAccessibleDescription(
         QTextDocumentFragment::fromHtml(m_ui->m_pwLblColored->text()).toPlainText());
 
-    // else the whole page flashes grey while it is disabled for a moment
+    // Otherwise the whole page is grey for a moment whenever it is disabled.
     m_ui->m_pwSaInput->viewport()->setAutoFillBackground(false);
     m_ui->m_pwInput->setAutoFillBackground(false);
 
-    // one column of labels through both groups
+    // The labels of both groups form one column.
     int width = 0;
     const QWidgetList labels{m_ui->m_pwLblBuildings, m_ui->m_pwLblLayer, m_ui->m_pwLblDtm,
                              m_ui->m_pwLblNoData};
@@ -108,8 +108,8 @@ void VltAddTexbFirstPage::connectWidgets()
     connectLine(m_ui->m_pwLeDtm, m_terrain);
 }
 
-/// A typed path is taken on Return, which names the file that cannot be read, and when the line is
-/// left: a path that is not finished is no reason for a message then.
+/// Opens a typed path on Return, with a message if the file cannot be read, and when the line loses
+/// the focus, without a message for an unreadable path, which may be unfinished.
 void VltAddTexbFirstPage::connectLine(const QLineEdit *line, const PathPicker *picker)
 {
     connect(line, &QLineEdit::returnPressed, this, [this, line, picker] {
@@ -136,7 +136,7 @@ void VltAddTexbFirstPage::takeProjectFiles()
 {
     const Result<QString> buildings = project::buildingVectorFile(m_projectName);
     const Result<QString> terrain = project::terrainFile(m_projectName);
-    if (!buildings) { // the same goes for the terrain
+    if (!buildings) { // the terrain then has the same error
         if (buildings.error().path.isEmpty())
             messages::critical(this, buildings.error(), refusalTitle());
         else
@@ -220,7 +220,8 @@ bool VltAddTexbFirstPage::accepts(const std::optional<Error> &refusal)
     return !refusal;
 }
 
-/// Whether it is known where the buildings are; else the user is warned, unless they stopped it.
+/// Whether the extent of the buildings is known. If not, a warning is shown, unless the user
+/// stopped the search.
 bool VltAddTexbFirstPage::isPlaced()
 {
     if (!m_footprints->locate())
@@ -290,7 +291,7 @@ void VltAddTexbFirstPage::droppedFile(const QString &path)
     if (*terrain) {
         m_lastUsedDir = QFileInfo(path).absolutePath();
         m_terrain->show(path, *terrain);
-    } else if (geodata::isVirtualRaster(path)) // no reason to close the buildings
+    } else if (geodata::isVirtualRaster(path)) // keep the buildings open
         buildings::warnOfRaster(this, buildings::RasterProblem::CannotOpen, path,
                                 terrain->error().detail);
     else

@@ -15,10 +15,10 @@ class PathPicker;
 class QLineEdit;
 class TerrainPicker;
 
-/// The page on which building footprints, the field of their heights and the terrain are chosen.
+/// The page for the choice of building footprints, the field of their heights and the terrain.
 ///
-/// Files are opened on other threads, with an event loop of their own meanwhile: what is dropped or
-/// picked before one is done is left aside.
+/// Files are opened on other threads while an event loop runs; a file that is dropped or picked
+/// during this time is ignored.
 class VltAddTexbFirstPage : public BasePage
 {
     Q_OBJECT
@@ -28,39 +28,39 @@ public:
                         const QString &language);
     ~VltAddTexbFirstPage() override;
 
-    /// Wizard ids of the pages that may follow.
+    /// Sets the wizard id of a page that may follow.
     void setColoredPageId(int id) { m_coloredPageId = id; }
     void setTexturedPageId(int id) { m_texturedPageId = id; }
 
-    /// Takes the files of a project that is new to the page; the remembered ones the first time.
+    /// Opens the files of the project if it has changed, and the remembered files the first time.
     void initializePage() override;
 
-    /// Refuses, with a message, files that cannot be read, a value of no data that is no number and
-    /// buildings without a place.
+    /// Refuses, with a message, files that cannot be read, a value of no data that is not a number,
+    /// and buildings without an extent.
     bool validatePage() override;
     int nextId() const override;
 
     void saveSettings() override;
     void restoreSettings() override;
 
-    /// A raster becomes the terrain, anything else the buildings.
+    /// Takes a raster as the terrain and any other file as the buildings.
     void droppedFile(const QString &path) override;
 
 public Q_SLOTS:
     void openBuildings();
 
-    /// Like typeChanged() of no effect: field and kind are read when the page is left.
+    /// Has no effect, like typeChanged(): field and kind are read when the user leaves the page.
     void heightChanged(int index);
 
-    /// Offers the fields of a layer after those already offered, and finds out where it lies.
+    /// Adds the fields of a layer to the list of fields and finds its extent.
     void layerChanged(int index);
     void openDtm();
     void guessNoData();
     void typeChanged();
 
-    /// Opens the buildings; an empty path only closes what was open.
+    /// Opens the buildings; an empty path only closes the current ones.
     ///
-    /// @param silent  without a message where the file cannot be opened
+    /// @param silent  without a message if the file cannot be opened
     void openVector(const QString &path, bool silent);
     void openVector(const QString &path) { openVector(path, false); }
 
@@ -72,7 +72,7 @@ private:
     void openTerrain(const QString &path);
     void takeTyped(const PathPicker *picker);
 
-    /// Warns the user of a reason not to go on; true where there is none.
+    /// Shows a warning if there is a refusal; true if there is none.
     bool accepts(const std::optional<vlt::Error> &refusal);
     bool isPlaced();
     vlt::buildings::BuildingsSource chosenSource() const;
@@ -85,6 +85,6 @@ private:
     QString m_lastUsedDir;
     FootprintPicker *m_footprints = nullptr;
     TerrainPicker *m_terrain = nullptr;
-    QString m_projectName; ///< that the page last took its guess from
+    QString m_projectName; ///< the project whose files were suggested last
     bool m_isBusy = false; ///< a file is being read
 };

@@ -43,7 +43,7 @@ void VltAddTexbPreviewPage::initializePage()
     showInformation();
 }
 
-/// The first tabs scroll upwards and downwards only.
+/// Gives the first tabs a width at which they scroll only vertically.
 void VltAddTexbPreviewPage::fitWidth()
 {
     for (QScrollArea *area : {m_ui->m_pwSaDisplay, m_ui->m_pwSaAdvanced}) {
@@ -60,7 +60,7 @@ void VltAddTexbPreviewPage::updatePreview()
     VltBuildingLayerPage::updatePreview();
 }
 
-/// The tab of the colour map is there while something is coloured by it.
+/// Shows the tab of the colour map if walls or roofs use it.
 void VltAddTexbPreviewPage::showColoring()
 {
     m_ui->m_pwTabs->setTabVisible(m_ui->m_pwTabs->indexOf(m_ui->m_pwTabColoring),
@@ -116,7 +116,7 @@ VltAddTexbPreviewPage::writeFiles(const QString &layerPath, vlt::platform::Acces
     std::optional<vlt::buildings::LegendInput> legend;
     if (m_ui->m_pwColors->usesColorMap()) {
         legend = m_ui->m_pwColoring->legend();
-        coloring = m_ui->m_pwColoring->coloring(); // the legend may have taken the user's time
+        coloring = m_ui->m_pwColoring->coloring(); // read after legend(), which may wait
         if (!legend || !coloring)
             return std::nullopt;
     }

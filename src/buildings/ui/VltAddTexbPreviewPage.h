@@ -8,7 +8,7 @@ namespace Ui {
 class AddTexbPreviewPage;
 }
 
-/// The page on which it is chosen how buildings with images are shown.
+/// The page for the representation of buildings with images.
 class VltAddTexbPreviewPage : public VltBuildingLayerPage
 {
     Q_OBJECT
@@ -20,7 +20,7 @@ public:
 
     void initializePage() override;
 
-    /// The image that colours come from or a colour map, where walls or roofs are coloured so.
+    /// Takes a colour map or the image of the colours, if walls or roofs use a colour map.
     void droppedFile(const QString &path) override;
 
 public Q_SLOTS:
@@ -38,6 +38,6 @@ private:
     vlt::buildings::TexturedLook look(const vlt::buildings::RasterColoring &coloring) const;
 
     std::unique_ptr<Ui::AddTexbPreviewPage> m_ui;
-    QList<vlt::buildings::FileEntry> m_images; ///< those that are ticked on the page before
-    QString m_colorMapName;                    ///< of the layer
+    QList<vlt::buildings::FileEntry> m_images; ///< the ticked images of the previous page
+    QString m_colorMapName;                    ///< name of the layer's colour map
 };

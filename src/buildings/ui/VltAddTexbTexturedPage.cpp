@@ -30,7 +30,7 @@ const QString LastUsedDirKey = QStringLiteral("LastUsedDir");
 const QString FileListKey = QStringLiteral("FileList");
 
 constexpr int RowMargin = 6;
-/// The files take no more than this of the table's width: the folders must be seen too.
+/// Maximum share of the column of files in the table's width, so that the folders stay visible.
 constexpr double FileShare = 0.55;
 
 bool isUsed(const QModelIndex &index)
@@ -106,7 +106,7 @@ bool VltAddTexbTexturedPage::isComplete() const
 
 bool VltAddTexbTexturedPage::validatePage()
 {
-    m_ui->m_pwFiles->setFocus(); // takes a height that is being typed
+    m_ui->m_pwFiles->setFocus(); // stores a height that is being typed
     saveSettings();
     return true;
 }
@@ -188,7 +188,7 @@ bool VltAddTexbTexturedPage::isListShown() const
     return m_ui->m_pwFiles->model() == m_sorted;
 }
 
-/// The images, or what to do where there is none; the filter may hide all of them.
+/// Shows the images, or a hint if there are none; the filter may hide all images.
 void VltAddTexbTexturedPage::showList()
 {
     QTableView *table = m_ui->m_pwFiles;
@@ -199,7 +199,7 @@ void VltAddTexbTexturedPage::showList()
     if (table->model() != shown) {
         table->setModel(shown);
         table->horizontalHeader()->setVisible(hasImages);
-        // the last section's own stretching forgets itself while the header is hidden
+        // The header loses the stretching of its last section while it is hidden.
         table->horizontalHeader()->setSectionResizeMode(QHeaderView::Interactive);
         table->horizontalHeader()->setSectionResizeMode(shown->columnCount() - 1,
                                                         QHeaderView::Stretch);
@@ -230,7 +230,7 @@ void VltAddTexbTexturedPage::setShownUsed(bool used)
     m_model->setUsed(rows, used);
 }
 
-/// Unticks the selected rows where all of them are ticked.
+/// Unticks the selected rows if all of them are ticked, else ticks them.
 void VltAddTexbTexturedPage::toggleSelected()
 {
     if (!isListShown())

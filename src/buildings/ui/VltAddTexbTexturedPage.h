@@ -14,8 +14,8 @@ class TextureSortModel;
 } // namespace vlt::buildings
 class QMenu;
 
-/// The page on which the images that texture the buildings are listed and chosen. Publishes
-/// "FileList": a QList<vlt::buildings::FileEntry> of all images, ticked or not.
+/// The page for the choice of the images on buildings. Publishes "FileList": a
+/// QList<vlt::buildings::FileEntry> of all images, ticked or not.
 class VltAddTexbTexturedPage : public BasePage
 {
     Q_OBJECT
@@ -25,7 +25,7 @@ public:
                            const QString &language);
     ~VltAddTexbTexturedPage() override;
 
-    /// Wizard id of the page that follows.
+    /// Sets the wizard id of the next page.
     void setNextId(int id) { m_nextId = id; }
 
     bool isComplete() const override;
@@ -44,7 +44,7 @@ public Q_SLOTS:
     // NOLINTNEXTLINE(readability-identifier-naming): established name of the slot
     void tablev_customContextMenu(const QPoint &point);
 
-    /// The selected rows, or all of them where none is selected, as tab-separated text.
+    /// Copies the selected rows, or all rows if none is selected, as tab-separated text.
     void copyToClipboard();
 
 protected:

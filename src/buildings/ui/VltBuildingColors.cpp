@@ -8,7 +8,7 @@ namespace {
 
 using vlt::buildings::RasterColoring;
 
-/// The lists' second entry.
+/// Whether the second entry of a list is chosen: colours from a colour map.
 bool isFromColorMap(const QComboBox *kind)
 {
     return kind->currentIndex() == 1;

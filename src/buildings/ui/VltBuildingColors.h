@@ -9,7 +9,7 @@ namespace Ui {
 class BuildingColors;
 }
 
-/// The colours of walls and roofs: one colour each, or from a raster through a colour map.
+/// The colours of walls and roofs: one colour each, or colours from a raster and a colour map.
 class VltBuildingColors : public RememberedPanel
 {
     Q_OBJECT
@@ -18,12 +18,12 @@ public:
     explicit VltBuildingColors(QWidget *parent = nullptr);
     ~VltBuildingColors() override;
 
-    /// Whether walls or roofs are coloured through a colour map.
+    /// Whether walls or roofs use a colour map.
     bool usesColorMap() const;
 
-    /// As the document has them.
+    /// The colour as text for the document.
     ///
-    /// @param coloring  what is taken where a colour map is chosen
+    /// @param coloring  used if a colour map is chosen
     QString wallColor(const vlt::buildings::RasterColoring &coloring) const;
     QString roofColor(const vlt::buildings::RasterColoring &coloring) const;
 

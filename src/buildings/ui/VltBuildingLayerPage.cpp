@@ -31,8 +31,8 @@ void VltBuildingLayerPage::setForm(VltBuildingPreview *preview, QBoxLayout *drag
                   "files are temporary: Ctrl+S saves it for good, with its document and legend "
                   "beside it.",
                   "MESS_TIP_DRAG_TEXB")});
-    // the temporary files go with this process or the next start of the machine; a saved layer
-    // names files of its own
+    // The temporary files are deleted at the end of this process or at the next start of the
+    // machine. Therefore a saved layer gets its own files.
     dragIcon()->setSaver([this](const QString &target) {
         return writeLayer(target, vlt::platform::Access::Shared);
     });
@@ -49,7 +49,7 @@ VltBuildingLayerPage::layerInput(const vlt::contract::BuildingFootprints &footpr
     return {m_source, footprints, installDir(), legend};
 }
 
-/// The page is not shown yet: what may take long or open a box waits for that.
+/// The page is not visible yet. Work that may be slow or open a message box waits until it is.
 void VltBuildingLayerPage::initializePage()
 {
     VltResultPage::initializePage();

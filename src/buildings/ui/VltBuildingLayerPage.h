@@ -7,11 +7,11 @@
 
 class VltBuildingPreview;
 
-/// A page on which buildings become a layer. The files are made on entering and soon after a
-/// change. Where auto refresh is off they are made on Refresh, or when the user takes hold of the
+/// A page that makes a layer from buildings. The files are written when the page is shown and soon
+/// after a change. If auto refresh is off, they are written on Refresh or when the user drags the
 /// icon.
 ///
-/// A page of a kind sets its form up in its constructor, adds its panels and calls setForm().
+/// The constructor of a derived page sets up its form, adds its panels and calls setForm().
 class VltBuildingLayerPage : public VltResultPage
 {
     Q_OBJECT
@@ -23,14 +23,14 @@ public:
     void initializePage() override;
     void cleanupPage() override;
 
-    /// Saves the settings and makes the layer where it is not the one of the settings.
+    /// Saves the settings and makes the layer if it is not up to date.
     bool validatePage() override;
 
     void saveSettings() override;
     void restoreSettings() override;
 
 public Q_SLOTS:
-    /// A value changed: the layer is made again, soon, or on Refresh.
+    /// Makes the layer again after a change: soon, or on Refresh.
     void updatePreview() override;
     void resetView();
     void autoRefreshChanged(int state);
@@ -44,21 +44,21 @@ protected:
 
     const vlt::buildings::BuildingsSource &source() const { return m_source; }
 
-    /// What both kinds of layers need of source and installation.
+    /// The inputs that both kinds of layers take from source and installation.
     vlt::buildings::BuildingLayerInput
     layerInput(const vlt::contract::BuildingFootprints &footprints,
                const std::optional<vlt::buildings::LegendInput> &legend) const;
 
-    /// Why the choices make no layer, for the user; empty where they make one.
+    /// Why no layer can be made from the choices, as text for the user; empty if one can.
     virtual QString missingText() const = 0;
 
 private:
-    /// @param layerPath  of the layer file, which the other files lie beside
-    /// @return           nothing where there is none and the user knows why
+    /// @param layerPath  of the layer file; the other files are in the same folder
+    /// @return           none if no layer was made and the user knows the reason
     virtual vlt::Stoppable<vlt::buildings::BuildingLayerFiles>
     writeFiles(const QString &layerPath, vlt::platform::Access access) = 0;
 
-    /// Shows what belongs to the layer that was just written; no files where there is none any
+    /// Shows the files of the layer that was just written; they are empty if there is no layer any
     /// more.
     virtual void layerWritten(const vlt::buildings::BuildingLayerFiles & /*files*/) {}
 
@@ -73,7 +73,7 @@ private:
 
     QString m_settingsGroup;
     vlt::buildings::BuildingsSource m_source;
-    vlt::buildings::BuildingLayerFiles m_files; ///< those written last
+    vlt::buildings::BuildingLayerFiles m_files; ///< of the last layer
     VltBuildingPreview *m_preview = nullptr;
-    QTimer m_delay; ///< folds quick changes into one layer
+    QTimer m_delay; ///< combines quick changes into one layer
 };

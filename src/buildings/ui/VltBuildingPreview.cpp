@@ -17,12 +17,13 @@
 
 namespace {
 
-/// From farther away than this share of the visibility too little would be seen.
+/// Maximum distance of the camera as a share of the distance of visibility: farther away, too few
+/// buildings are visible.
 constexpr double NearShare = 0.85;
-/// High enough for roofs and what lies behind tall buildings, low enough for walls.
+/// High enough to show roofs and buildings behind tall ones, low enough to show walls.
 constexpr double ElevationDeg = 40;
 
-/// The value of a line "key=value" among those that tell what a scene holds.
+/// The value of a line "key=value" in the description of a scene.
 std::string fact(const osg::Node &scene, const std::string &key)
 {
     for (const std::string &line : scene.getDescriptions()) {
@@ -37,8 +38,8 @@ int count(const osg::Node &scene, const std::string &key)
     return QString::fromStdString(fact(scene, key)).toInt();
 }
 
-/// What readers tell, in the user's language. The page knows the layer, which they name first, and
-/// where the files that they name lie.
+/// A notice of a reader, in the user's language, without the layer at its start and without the
+/// folders of files: the user knows both.
 QString shortNotice(const QString &notice, const QString &layerPath)
 {
     static const QRegularExpression folder(QStringLiteral("\"/[^\"]*/"));
@@ -60,8 +61,8 @@ struct Reading
     QStringList notices;
 };
 
-/// One reading at a time: one that was cancelled may still be on its way to its end, and notices of
-/// two would be mixed up.
+/// Reads a layer. The mutex makes it wait for a cancelled read that still runs; otherwise the
+/// notices of both would be mixed.
 Reading readLayer(const QString &path, const QString &project, const vlt::Progress &progress)
 {
     static std::mutex mutex;
@@ -83,7 +84,7 @@ VltBuildingPreview::VltBuildingPreview(QWidget *parent)
     m_ui->setupUi(this);
     m_ui->m_pwPbExt->setEnabled(false);
     m_ui->m_pwPreview->setElevationDeg(ElevationDeg);
-    // a second line of text must not change the size of the view
+    // A second line of text must not change the size of the view.
     m_ui->m_pwLblScene->setMinimumHeight(2 * fontMetrics().lineSpacing());
     connect(m_ui->m_pwChbAutoRefresh, &QCheckBox::toggled, this,
             [this](bool on) { Q_EMIT autoRefreshChanged(on ? Qt::Checked : Qt::Unchecked); });

@@ -11,7 +11,7 @@ class BuildingPreview;
 }
 
 /// The 3D view of a layer of buildings just written, with auto refresh, refresh and reset of the
-/// view. Layers are read on another thread, with a bar and a way to cancel.
+/// view. Layers are read on another thread, with a progress bar and a button to cancel.
 class VltBuildingPreview : public QGroupBox
 {
     Q_OBJECT
@@ -23,17 +23,17 @@ public:
     bool isAutoRefresh() const;
     void setAutoRefresh(bool on);
 
-    /// Reads a layer file and shows it, the camera where the user put it; an empty path empties the
-    /// view.
+    /// Reads a layer file and shows it; the camera stays at the user's position. An empty path
+    /// empties the view.
     ///
-    /// @param project  file of the project that the layer belongs to; may be empty
+    /// @param project  file of the layer's project; may be empty
     void showLayer(const QString &path, const QString &project);
 
-    /// Tells something in the line below the view until the next layer.
+    /// Shows a text in the line below the view until the next layer.
     void showMessage(const QString &text);
 
 public Q_SLOTS:
-    /// The camera on all buildings, near enough to see some of them.
+    /// Points the camera at all buildings, near enough to see some of them.
     void resetView();
 
 Q_SIGNALS:
@@ -44,5 +44,5 @@ private:
     void showScene(const vlt::snapshot::Scene &scene, const QStringList &notices);
 
     std::unique_ptr<Ui::BuildingPreview> m_ui;
-    std::string m_place; ///< of the scene that was shown last
+    std::string m_place; ///< centre of the last scene
 };

@@ -9,7 +9,7 @@ namespace Ui {
 class CachePanel;
 }
 
-/// What the builder keeps of buildings that it has made.
+/// The panel with the builder's cache of buildings.
 class VltCachePanel : public RememberedPanel
 {
     Q_OBJECT

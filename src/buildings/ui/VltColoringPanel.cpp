@@ -55,9 +55,9 @@ VltColoringPanel::VltColoringPanel(QWidget *parent)
     m_ui->m_pwSubdatasetsFrame->hide();
     m_ui->m_pwNoDataProgress->hide();
     m_ui->m_pwCbCmap->setIconSize(buildings::ColorMapSwatchSize);
-    m_ui->m_pwCbSubdatsets->view()->setTextElideMode(Qt::ElideLeft); // a path stands in front
+    m_ui->m_pwCbSubdatsets->view()->setTextElideMode(Qt::ElideLeft); // names start with a path
     wizard::guardAgainstStrayWheel(this);
-    // image, part and colour map are remembered apart: their lists depend on files
+    // Image, part and colour map are remembered separately because their lists depend on files.
     remember({{QStringLiteral("Mode"), m_ui->m_pwCbMode},
               {QStringLiteral("NoData"), m_ui->m_pwLeNoData},
               {QStringLiteral("Stretch"), m_ui->m_pwCbStretch},
@@ -86,7 +86,8 @@ void VltColoringPanel::connectWidgets()
         connect(combo, &QComboBox::currentIndexChanged, this, &VltColoringPanel::parameterChanged);
 }
 
-/// A path that is not finished is no reason for a message when the line is left.
+/// Opens the typed path when the line loses the focus, without a message for a path that may be
+/// unfinished.
 void VltColoringPanel::takeTypedImage()
 {
     const QString path = m_ui->m_pwLeImage->text();
@@ -105,11 +106,11 @@ QWidget *VltColoringPanel::page()
 
 int VltColoringPanel::addToList(const QString &name, const QString &path)
 {
-    const auto map = colormaps::openColorMap(path); // a file may be gone: its place stays
+    const auto map = colormaps::openColorMap(path); // the entry stays if its file is missing
     QComboBox *maps = m_ui->m_pwCbCmap;
     maps->addItem(map ? buildings::colorMapSwatch(map.value()) : QIcon(), name, path);
     maps->setItemData(maps->count() - 1, path, Qt::ToolTipRole);
-    // names often differ at their ends only: the open list is as wide as they are
+    // Many names differ only at their ends, so the open list is as wide as the longest one.
     maps->view()->setMinimumWidth(maps->view()->sizeHintForColumn(0) +
                                   style()->pixelMetric(QStyle::PM_ScrollBarExtent));
     return maps->count() - 1;
@@ -248,8 +249,8 @@ void VltColoringPanel::openImage(const QString &path, bool quiet)
     Q_EMIT parameterChanged();
 }
 
-/// Takes an image as usable or not. A plain one that is not is left again: nothing else of the file
-/// could be chosen.
+/// Sets whether an image is usable and warns of an unusable one. A plain unusable image is closed,
+/// because the file has no other image to choose.
 void VltColoringPanel::judge(const std::optional<Summary> &summary, const QString &name, bool quiet)
 {
     const bool isOpen = summary && summary->ok();
@@ -258,7 +259,7 @@ void VltColoringPanel::judge(const std::optional<Summary> &summary, const QStrin
         m_openedImage.clear();
         m_ui->m_pwLeImage->clear();
     }
-    if (m_isUsable || quiet || !summary) // none: the user did not want to wait
+    if (m_isUsable || quiet || !summary) // without a summary: the user stopped the read
         return;
     const QScopedValueRollback busy(m_isBusy, true);
     if (!isOpen)
@@ -297,7 +298,7 @@ void VltColoringPanel::guessNoData()
     if (m_isBusy)
         return;
     m_isBusy = true;
-    const QPointer<VltColoringPanel> self(this); // its window may be closed meanwhile
+    const QPointer<VltColoringPanel> self(this); // its window may be closed during the guess
     const QString guess =
         buildings::guessNoData(page(), m_openedImage, m_ui->m_pwNoDataProgress, subdataset());
     if (!self)
@@ -358,7 +359,7 @@ void VltColoringPanel::loadSettings(const QString &prefix)
         judgeSubdataset(true);
     VltParameterPanel::loadSettings(prefix);
 
-    // a damaged count must not keep the page busy for ever
+    // A damaged count must not block the page.
     const int count = qMin(value(QStringLiteral("UserColormapCount"), 0).toInt(),
                            static_cast<int>(settings->allKeys().size()));
     for (int n = 0; n < count; ++n) {

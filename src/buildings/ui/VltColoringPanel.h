@@ -14,11 +14,11 @@ namespace Ui {
 class ColoringPanel;
 }
 
-/// The raster that buildings are coloured from and how: image, its part, value of no data, colour
-/// map, stretching, interpretation, reduction.
+/// The panel for colours from a raster: image, its part, value of no data, colour map, stretching,
+/// interpretation, reduction.
 ///
-/// Rasters are opened on other threads, with an event loop of their own meanwhile: what is dropped
-/// or picked before one is done is left aside.
+/// Rasters are opened on other threads while an event loop runs; a file that is dropped or picked
+/// during this time is ignored.
 class VltColoringPanel : public VltParameterPanel
 {
     Q_OBJECT
@@ -30,36 +30,38 @@ public:
     /// Lists the colour maps of an installation before those that the user added.
     void setInstallDir(const QString &installDir);
 
-    /// What is chosen; nothing without an image of one band or without a colour map, while the path
-    /// of another image is being typed, or while the value of no data is no number.
+    /// The chosen values. None without an image of one band or a colour map, while the path of
+    /// another image is being typed, or if the value of no data is not a number.
     std::optional<vlt::buildings::RasterColoring> coloring() const;
 
-    /// What coloring() is missing, for the user; empty where it is complete.
+    /// The choice that coloring() still needs, as text for the user; empty if it is complete.
     QString missingText() const;
 
-    /// The legend of what is chosen, laid over the raster's least and greatest value where that is
-    /// wanted; waits for these where they are not known yet, with a bar. Nothing where raster or
-    /// colour map cannot be read, after a message, and where the user does not want to wait.
+    /// The legend of the chosen values, stretched to the raster's minimum and maximum if that is
+    /// chosen; their computation shows a progress bar. None if the raster or the colour map cannot
+    /// be read, after a message, and if the user stops the computation.
     std::optional<vlt::buildings::LegendInput> legend();
 
-    /// Path of the image file, absolute; empty where none is open.
+    /// Absolute path of the image file; empty if none is open.
     QString imagePath() const;
 
-    /// Opens an image: a box tells where it cannot be used. An empty path closes it.
+    /// Opens an image; a message box reports an image that cannot be used. An empty path closes the
+    /// current one.
     ///
     /// @param quiet  without a box
     void openImage(const QString &path, bool quiet);
 
-    /// Adds a colour map file to the list and selects it: a box tells where it is none.
+    /// Adds a colour map file to the list and selects it; a message box reports a file that is not
+    /// a colour map.
     void openColorMap(const QString &path);
 
-    /// Takes a dropped file: a text of colours becomes a colour map, anything else the image.
+    /// Takes a dropped colour map file as colour map and any other file as the image.
     void openDropped(const QString &path);
 
-    /// What a file that is dropped is for.
+    /// The labels of the widgets that take a dropped file.
     QList<QWidget *> dropLabels() const;
 
-    /// The settings of the coloured page, and the folder in which dialogs begin, which all pages
+    /// Reads the settings of the coloured page and the start folder of dialogs, which all pages
     /// share.
     void loadSettings(const QString &prefix) override;
     void saveSettings(const QString &prefix) override;
@@ -73,7 +75,7 @@ public Q_SLOTS:
 private:
     using Summary = vlt::Result<vlt::geodata::RasterSummary>;
 
-    /// Least and greatest value of a raster, as long as its file stays the same.
+    /// Minimum and maximum of a raster, valid as long as its file stays the same.
     struct KnownRange
     {
         QString raster;
@@ -95,9 +97,9 @@ private:
 
     std::unique_ptr<Ui::ColoringPanel> m_ui;
     QString m_lastUsedDir;
-    QString m_openedImage; ///< absolute path
+    QString m_openedImage; ///< absolute path of the image file
     bool m_isUsable = false;
     bool m_isBusy = false;
-    int m_installedCount = 0; ///< colour maps of the installation: the first of the list
+    int m_installedCount = 0; ///< the installation's colour maps, first in the list
     std::optional<KnownRange> m_range;
 };

@@ -12,7 +12,7 @@ VltExtrusionPanel::VltExtrusionPanel(QWidget *parent)
     vlt::wizard::offer(m_ui->m_pwSbDistance, vlt::contract::ExtrudedVisibilityM);
     vlt::wizard::offer(m_ui->m_pwSbTileSize, vlt::contract::TileSizeM);
     vlt::wizard::offer(m_ui->m_pwSbSkirtSize, vlt::contract::SkirtHeightM);
-    alignTo(m_ui->m_pwSbTileSize->sizeHint().width()); // one column through both groups
+    alignTo(m_ui->m_pwSbTileSize->sizeHint().width()); // one column for both groups
     remember({{QStringLiteral("TileSize"), m_ui->m_pwSbTileSize},
               {QStringLiteral("SkirtSize"), m_ui->m_pwSbSkirtSize},
               {QStringLiteral("CheckGeom"), m_ui->m_pwCbCheckGeom},

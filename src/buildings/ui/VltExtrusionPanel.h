@@ -9,7 +9,8 @@ namespace Ui {
 class ExtrusionPanel;
 }
 
-/// How footprints become bodies: distance of visibility, tile size, skirt, check of directions.
+/// The panel for the extrusion of footprints: distance of visibility, tile size, skirt, check of
+/// directions.
 class VltExtrusionPanel : public RememberedPanel
 {
     Q_OBJECT
@@ -18,13 +19,13 @@ public:
     explicit VltExtrusionPanel(QWidget *parent = nullptr);
     ~VltExtrusionPanel() override;
 
-    /// The measures; file, layer and field are empty.
+    /// The values; file, layer and field are empty.
     vlt::contract::BuildingFootprints settings() const;
 
-    /// Leaves the distance of visibility out of the remembered values.
+    /// Removes the distance of visibility from the remembered values.
     void forgetDistance();
 
-    /// Widens the column of the values, in pixels, to that of a panel below.
+    /// Widens the column of values to that of the panel below, in pixels.
     void alignTo(int columnWidth);
 
 private:

@@ -37,14 +37,14 @@ void VltLegendView::fit()
         m_text->clear();
         return;
     }
-    constexpr double PixelsPerUnit = 2; // legends are drawn for fine screens
+    constexpr double PixelsPerUnit = 2; // legends are drawn for screens of high density
     constexpr double MinShare = 0.75;
     const int textHeight = 2 * fontMetrics().lineSpacing();
     const QSizeF size = QSizeF(m_legend.size()) / PixelsPerUnit;
     const double share = (height() - textHeight) / size.height();
     const QSize shown = (size * qBound(MinShare, share, 1.0)).toSize();
 
-    // a label would leave out pixels of an image that is too large
+    // The image is scaled here because a label that shrinks an image skips pixels.
     QByteArray png;
     QBuffer buffer(&png);
     m_legend.scaled(shown * devicePixelRatio(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation)

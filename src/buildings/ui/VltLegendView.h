@@ -5,8 +5,8 @@
 
 class QLabel;
 
-/// The legend of a colour map under its name: as large as there is room for, down to what can still
-/// be read, then it is scrolled.
+/// The legend of a colour map under its name. It is as large as the space allows; below a readable
+/// size it is scrolled.
 class VltLegendView : public QScrollArea
 {
     Q_OBJECT
@@ -14,7 +14,7 @@ class VltLegendView : public QScrollArea
 public:
     explicit VltLegendView(QWidget *parent = nullptr);
 
-    /// @param imagePath  as written beside the layer; empty for no legend
+    /// @param imagePath  file in the layer's folder; empty for no legend
     void showLegend(const QString &colorMapName, const QString &imagePath);
 
 protected:

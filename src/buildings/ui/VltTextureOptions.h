@@ -9,7 +9,7 @@ namespace Ui {
 class TextureOptions;
 }
 
-/// What happens to the pixels of images: compression, buffer, dilatation, resampling.
+/// The panel for the pixels of images: compression, buffer, dilatation, resampling.
 class VltTextureOptions : public RememberedPanel
 {
     Q_OBJECT
@@ -18,7 +18,7 @@ public:
     explicit VltTextureOptions(QWidget *parent = nullptr);
     ~VltTextureOptions() override;
 
-    /// Sets what the panel holds; the rest stays.
+    /// Sets the values of the panel and leaves the others unchanged.
     void fill(vlt::contract::BuildingTextures &textures) const;
 
 private:

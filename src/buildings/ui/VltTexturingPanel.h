@@ -9,7 +9,8 @@ namespace Ui {
 class TexturingPanel;
 }
 
-/// How images are shown on buildings: on which part, up to which distance, with which edges.
+/// The panel for images on buildings: the part of the buildings, the distance of visibility, the
+/// edges.
 class VltTexturingPanel : public RememberedPanel
 {
     Q_OBJECT
@@ -21,7 +22,7 @@ public:
     vlt::contract::TextureMode mode() const;
     double visibilityM() const;
 
-    /// Sets what the panel holds of edges and complex buildings; the rest stays.
+    /// Sets the values for edges and complex buildings and leaves the others unchanged.
     void fill(vlt::contract::BuildingTextures &textures) const;
 
 private:
