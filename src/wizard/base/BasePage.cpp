@@ -54,7 +54,7 @@ void BasePage::keyPressEvent(QKeyEvent *event)
 
 void BasePage::dragEnterEvent(QDragEnterEvent *event)
 {
-    // the layer on its way out of this very window
+    // A layer that is dragged out of this window is not a dropped file.
     if (const auto *source = qobject_cast<QWidget *>(event->source());
         source && source->window() == window()) {
         event->ignore();

@@ -5,48 +5,49 @@
 #include <QVariantMap>
 #include <QWizardPage>
 
-/// Values that the pages hand to each other by key: texts, numbers and lists.
+/// Values that the pages share, by key: texts, numbers and lists.
 using SharedParameters = QVariantMap;
 
-/// Base of every page of the wizard but the first. Restores the page's remembered values when it
-/// is shown for the first time and takes files that are dropped on it.
+/// Base of all pages of the wizard except the first. Restores the page's remembered values when it
+/// is shown for the first time, and takes files that are dropped on it.
 class BasePage : public QWizardPage
 {
     Q_OBJECT
 
 public:
-    /// @param parameters  the wizard's map; outlives the page
+    /// @param parameters  the wizard's map; must outlive the page
     /// @param installDir  root of the installation, absolute
     /// @param language    language code ("fr", "en")
     BasePage(QWidget *wizard, SharedParameters &parameters, const QString &installDir,
              const QString &language);
 
-    /// Restores the settings the first time. Pages that override it call it first.
+    /// Restores the settings the first time. An override must call this function first.
     void initializePage() override;
 
-    /// Keeps what was entered for who comes back to the page.
+    /// Does nothing, so that the entered values are still there when the user returns to the page.
     void cleanupPage() override {}
 
-    /// Writes the page's remembered values and publishes what later pages need.
+    /// Writes the page's remembered values and publishes the values for later pages.
     virtual void saveSettings();
 
     /// Reads the remembered values.
     virtual void restoreSettings();
 
-    /// Takes one file that was dropped on the page; each page decides what it accepts.
+    /// Takes a file that was dropped on the page; each page decides which files it accepts.
     ///
     /// @param path  local file
     virtual void droppedFile(const QString &path);
 
 protected:
-    /// Return takes a typed value and goes no further: the wizard would press one of its buttons.
+    /// Ends the handling of Return, which only confirms a typed value; otherwise the wizard would
+    /// press one of its buttons.
     void keyPressEvent(QKeyEvent *event) override;
 
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dragLeaveEvent(QDragLeaveEvent *event) override;
     void dropEvent(QDropEvent *event) override;
 
-    /// Widgets whose text is underlined while something is dragged over the page.
+    /// Sets the widgets whose text is underlined while a file is dragged over the page.
     void setDropHighlightWidgets(const QList<QWidget *> &widgets);
 
     SharedParameters &parameters() { return m_parameters; }

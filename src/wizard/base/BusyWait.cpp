@@ -12,7 +12,7 @@ namespace vlt::wizard {
 
 namespace {
 
-/// Work that ends within this time ends without a dialog flashing up.
+/// Work that ends within this time shows no dialog.
 constexpr int PatienceMs = 250;
 constexpr int PollMs = 20;
 constexpr int UsualCharacters = 50;
@@ -20,7 +20,7 @@ constexpr double PerCent = 100;
 
 std::atomic<int> runningWorks = 0;
 
-/// What the thread of a work and the one that waits for it share.
+/// Data that the working thread and the waiting thread share.
 struct Job
 {
     QSemaphore ended;
@@ -40,7 +40,8 @@ std::shared_ptr<Job> start(const std::function<void(Job &)> &work)
     return job;
 }
 
-/// @param bar  set by hand: the dialog's own setValue() would run events within the poll
+/// @param bar  updated directly, because the dialog's setValue() would run events inside the
+///             timer's slot
 bool waitWithDialog(QWidget *parent, const QString &text, QProgressBar *bar, Job &job)
 {
     QProgressDialog dialog(parent);
@@ -58,7 +59,7 @@ bool waitWithDialog(QWidget *parent, const QString &text, QProgressBar *bar, Job
             bar->setValue(static_cast<int>(job.share * PerCent));
             return;
         }
-        poll.stop(); // another event loop may keep exec() from returning for a while
+        poll.stop(); // exec() may return later because of another event loop
         isDone = true;
         dialog.accept();
     });
@@ -71,7 +72,7 @@ bool waitForJob(QWidget *parent, const QString &text, int barMaximum, Job &job)
 {
     if (job.ended.tryAcquire(1, PatienceMs))
         return true;
-    auto *bar = new QProgressBar; // the dialog's from here on
+    auto *bar = new QProgressBar; // owned by the dialog
     bar->setRange(0, barMaximum);
     const bool isDone = waitWithDialog(parent, text, bar, job);
     job.stopped = !isDone;

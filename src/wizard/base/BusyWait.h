@@ -12,18 +12,18 @@ class QWidget;
 
 namespace vlt::wizard {
 
-/// Runs `work` on another thread and returns when it has ended; true then. Where it takes longer
-/// than a moment a modal dialog with `text`, a busy bar and a Cancel button is shown meanwhile, and
-/// the interface stays alive. False when the user cancelled: the work then goes on unseen, so it
-/// must own everything that it uses.
+/// Runs `work` on another thread and returns true when it has ended. If it takes longer than a
+/// moment, a modal dialog shows `text`, a busy bar and a Cancel button, and the user interface
+/// stays responsive. Returns false if the user cancels; the work then continues in the background,
+/// so it must own all data that it uses.
 bool waitFor(QWidget *parent, const QString &text, const std::function<void()> &work);
 
-/// The same for work that tells how far it is: the bar shows the per cent. It is told to stop when
-/// the user cancels, but not waited for.
+/// The same for work that reports its progress, which the bar shows in per cent. If the user
+/// cancels, the next report asks the work to stop, and this function does not wait for its end.
 bool waitFor(QWidget *parent, const QString &text,
              const std::function<void(const Progress &)> &work);
 
-/// The same for work that gives a value; nothing when the user cancelled.
+/// The same for work that returns a value; none if the user cancels.
 template<typename T>
 std::optional<T> waitForValue(QWidget *parent, const QString &text, const std::function<T()> &work)
 {
@@ -33,7 +33,7 @@ std::optional<T> waitForValue(QWidget *parent, const QString &text, const std::f
     return std::move(*value);
 }
 
-/// The same for work that gives a value and tells how far it is.
+/// The same for work that returns a value and reports its progress.
 template<typename T>
 std::optional<T> waitForValue(QWidget *parent, const QString &text,
                               const std::function<T(const Progress &)> &work)
@@ -45,11 +45,11 @@ std::optional<T> waitForValue(QWidget *parent, const QString &text,
     return std::move(*value);
 }
 
-/// Runs `work` on another thread and waits a moment for it, without any dialog. False where it
-/// takes longer: the work then goes on unseen, as above.
+/// Runs `work` on another thread and waits a moment for it, without a dialog. False if it takes
+/// longer; the work then continues in the background, as with waitFor().
 bool waitForMoment(const std::function<void()> &work);
 
-/// The same for work that gives a value; nothing where it takes longer.
+/// The same for work that returns a value; none if it takes longer.
 template<typename T>
 std::optional<T> valueWithinMoment(const std::function<T()> &work)
 {
@@ -59,8 +59,8 @@ std::optional<T> valueWithinMoment(const std::function<T()> &work)
     return std::move(*value);
 }
 
-/// Whether work goes on that the user cancelled, or that nobody waits for any more. A program that
-/// ends meanwhile must end at once, without taking down what the work uses.
+/// Whether work still runs that was cancelled or took too long. If so, the program must end at
+/// once, without destroying data that the work uses.
 bool isWorkRunning();
 
 } // namespace vlt::wizard

@@ -12,7 +12,7 @@ QIcon swatch(const QColor &color, const QColor &frame, qreal density)
 {
     QPixmap picture(QSizeF(SwatchWidth * density, SwatchHeight * density).toSize());
     picture.setDevicePixelRatio(density);
-    picture.fill(Qt::white); // what a translucent colour lets through
+    picture.fill(Qt::white); // the background of a translucent colour
     QPainter painter(&picture);
     painter.setPen(frame);
     painter.setBrush(color);

@@ -3,7 +3,7 @@
 #include <QColor>
 #include <QPushButton>
 
-/// A button that shows a colour and asks for another one when it is pressed.
+/// A button that shows a colour and opens a dialog for another one.
 class ColorButton : public QPushButton
 {
     Q_OBJECT
@@ -12,13 +12,14 @@ public:
     explicit ColorButton(QWidget *parent = nullptr);
 
     const QColor &color() const { return m_color; }
-    /// Emits nothing.
+    /// Sets the colour; emits nothing.
     void setColor(const QColor &color);
 
-    /// What the colour is for: title of the dialog and, with the colour, the accessible name.
+    /// Sets the purpose of the colour: the title of the dialog and, with the colour, the accessible
+    /// name.
     void setPurpose(const QString &purpose);
 
-    /// Whether the user may choose a translucent colour.
+    /// Sets whether the user may choose a translucent colour.
     void setAlphaOffered(bool offered) { m_isAlphaOffered = offered; }
 
 Q_SIGNALS:

@@ -2,8 +2,8 @@
 
 #include <QDoubleSpinBox>
 
-/// A spin box for decimals that takes the point as well as the comma, whichever of them the
-/// language writes: in the toolkit's own the other one is a group separator and lost.
+/// A spin box for decimals that accepts both point and comma, in every language. The toolkit's spin
+/// box ignores the one that the language does not use, because it is a group separator.
 class DecimalSpinBox : public QDoubleSpinBox
 {
     Q_OBJECT

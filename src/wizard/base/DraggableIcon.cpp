@@ -23,7 +23,8 @@ namespace {
 constexpr int DragImageSize = 48;
 constexpr int AttentionMs = 1000;
 
-/// Enter, the space bar, and Shift+F10 for keyboards without a menu key.
+/// Whether a key opens the menu: Enter, the space bar, and Shift+F10 for keyboards without a menu
+/// key.
 bool asksForMenu(const QKeyEvent &event)
 {
     const int key = event.key();
@@ -78,7 +79,7 @@ void DraggableIcon::playAttention()
 
 QPixmap DraggableIcon::dragImage(const QPixmap &pixmap)
 {
-    // the size on the screen, whatever the pixel density is
+    // The size on the screen does not depend on the pixel density.
     const int length = qRound(DragImageSize * pixmap.devicePixelRatio());
     return pixmap.height() <= pixmap.width()
                ? pixmap.scaledToWidth(length, Qt::FastTransformation)
@@ -88,7 +89,7 @@ QPixmap DraggableIcon::dragImage(const QPixmap &pixmap)
 QMimeData *DraggableIcon::layerData() const
 {
     auto *layer = new QMimeData;
-    // who takes it may stand in another folder
+    // The path is absolute: the receiver may have another working directory.
     layer->setUrls({QUrl::fromLocalFile(QDir::current().absoluteFilePath(m_layerFile))});
     return layer;
 }

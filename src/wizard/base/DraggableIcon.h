@@ -11,10 +11,10 @@
 
 class QMimeData;
 
-/// The icon from which the user drags the finished layer file into the builder. Disabled until
+/// The icon of the finished layer file, which the user drags into the builder. It is disabled until
 /// there is a file; a new file makes it bounce.
 ///
-/// Who has no mouse copies the file with Ctrl+C or from the context menu.
+/// Users without a mouse copy the file with Ctrl+C or from the context menu.
 class DraggableIcon : public QLabel
 {
     Q_OBJECT
@@ -29,20 +29,20 @@ public:
     void setLayerFile(const QString &path);
     const QString &layerFile() const { return m_layerFile; }
 
-    /// Writes the layer for good, with all files that it names.
+    /// Saves the layer with all files that it names.
     ///
-    /// @param target  of the layer file
-    /// @return        nothing where there is none and the user knows why
+    /// @param target  path of the layer file
+    /// @return        none if nothing was saved and the user knows the reason
     using Saver = std::function<vlt::Stoppable<vlt::Done>(const QString &target)>;
 
-    /// Without one "Save as" copies the layer file: then it must name no file that will not stay.
+    /// Sets the function for "Save as". Without one the layer file is copied, which is right only
+    /// if it names no temporary files.
     void setSaver(Saver saver) { m_saver = std::move(saver); }
 
     int radius() const { return m_radius; }
     void setRadius(int radius);
 
-    /// The picture that hangs on the pointer while the icon is dragged: the longer side 48 pixels,
-    /// or the width where both are equal.
+    /// The image at the pointer while the icon is dragged; its longer side has 48 pixels.
     static QPixmap dragImage(const QPixmap &pixmap);
 
 protected:

@@ -28,10 +28,10 @@ void show(QMessageBox::Icon icon, QWidget *parent, const Error &error, const QSt
     box.exec();
 }
 
-/// Temporary names hold a doubled separator, which looks like a mistake.
+/// The path without the doubled separator of temporary names, which users may take for an error.
 QString shownPath(const QString &path)
 {
-    const bool isVirtual = path.startsWith(QLatin1String("/vsi")); // may hold an address
+    const bool isVirtual = path.startsWith(QLatin1String("/vsi")); // may contain a URL with "//"
     return path.startsWith(QLatin1Char('/')) && !isVirtual ? QDir::cleanPath(path) : path;
 }
 
@@ -71,7 +71,7 @@ bool confirmed(QWidget *parent, const QString &question)
     QMessageBox box(QMessageBox::Question, QString(), question, QMessageBox::Yes | QMessageBox::No,
                     parent);
     box.setTextFormat(Qt::PlainText);
-    // without a default button the toolkit gives the keyboard to Yes
+    // Without a default button the toolkit gives the focus to Yes.
     box.button(QMessageBox::No)->setFocus();
     return box.exec() == QMessageBox::Yes;
 }

@@ -6,32 +6,32 @@
 
 class QWidget;
 
-/// The one gate to message boxes: modal, plain text, in the chosen language.
+/// All message boxes of the wizard: modal, plain text, in the chosen language.
 namespace vlt::messages {
 
 /// Text of an error in the chosen language, the path after a line feed.
 QString textOf(const Error &error);
 
-/// Title of the boxes that tell of a failure: "Error".
+/// Title of the boxes that report a failure: "Error".
 QString errorTitle();
 
-/// What an error says apart from its path: the text, or the detail where there is no text.
+/// The text of an error without its path, or its detail if it has no text.
 QString reasonOf(const Error &error);
 
-/// Where a box names the path of an error: behind its text after a line feed, or below it in
-/// smaller letters.
+/// Position of an error's path in a box: after its text and a line feed, or below it in smaller
+/// letters.
 enum class PathPlace { BehindText, BelowText };
 
-/// A critical box with one OK button; the error's detail stands below the text.
+/// Shows a critical box with one OK button; the error's detail is below the text.
 void critical(QWidget *parent, const Error &error, const QString &title = errorTitle(),
               PathPlace place = PathPlace::BehindText);
 
-/// A warning with one OK button.
+/// Shows a warning with one OK button.
 void warning(QWidget *parent, const Error &error, const QString &title,
              PathPlace place = PathPlace::BehindText);
 
-/// A question box with an empty title, the buttons Yes and No and no default button; true on Yes.
-/// The keyboard is on No: who presses Return without looking changes nothing.
+/// Shows a question box with an empty title, the buttons Yes and No and no default button; true for
+/// Yes. No has the focus, so that Return without reading changes nothing.
 bool confirmed(QWidget *parent, const QString &question);
 
 } // namespace vlt::messages

@@ -4,7 +4,7 @@
 
 namespace vlt::wizard {
 
-/// Gives a spin box or slider the range of a number and, as its value, what a first run offers.
+/// Gives a spin box or slider the range of a number and, as its value, the first-run value.
 template<typename Box, typename Number>
 void offer(Box *box, const contract::ChosenNumber<Number> &number)
 {

@@ -37,7 +37,7 @@ public:
 
 private:
     QTimer m_idle;
-    int m_flashTime; ///< as the desktop has it
+    int m_flashTime; ///< setting of the desktop
 };
 
 } // namespace

@@ -4,10 +4,11 @@ class QObject;
 
 namespace vlt::wizard {
 
-/// Keeps text cursors steady, but visible, while nobody uses keyboard or mouse: each blink has the
-/// toolkit put a window with a 3D view together anew. They blink again with the next key or click.
+/// Stops the blinking of text cursors while keyboard and mouse are not used: at each blink the
+/// toolkit composes a window with a 3D view again. They stay visible and blink again after the next
+/// key or click.
 ///
-/// @param owner  lives as long as the application and owns the filter
+/// @param owner  owns the filter; must live as long as the application
 void restTextCursors(QObject *owner);
 
 } // namespace vlt::wizard

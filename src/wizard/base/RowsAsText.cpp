@@ -9,7 +9,7 @@ namespace vlt::wizard {
 
 namespace {
 
-/// One line; a tab or line feed within a text would tear it apart.
+/// One line of texts; tabs and line feeds in a text are replaced, because they would split it.
 template<typename TextOf>
 QString line(int columns, const TextOf &textOf)
 {
@@ -19,7 +19,7 @@ QString line(int columns, const TextOf &textOf)
     return texts.join(QLatin1Char('\t')) + QLatin1Char('\n');
 }
 
-/// In the order of the table.
+/// The rows to copy, in the order of the table.
 QList<int> rowsToCopy(const QTableView &table)
 {
     QList<int> rows;
@@ -42,7 +42,7 @@ QString cellText(const QModelIndex &cell, QLocale locale)
                                                                     : QString();
     if (shown.userType() != QMetaType::Double)
         return shown.toString();
-    locale.setNumberOptions(QLocale::OmitGroupSeparator); // other programs may not take them
+    locale.setNumberOptions(QLocale::OmitGroupSeparator); // other programs may not read them
     return locale.toString(shown.toDouble(), 'g', QLocale::FloatingPointShortest);
 }
 

@@ -8,7 +8,7 @@ namespace vlt::wizard {
 
 QString temporaryLayerFileName(const QString &name)
 {
-    // the three arguments in one call: a directory called "%2" stays what it is
+    // One call of arg() for all three, so that a directory named "%2" is not replaced.
     const QString path = QStringLiteral("%1/tempLayer_%2_%3.lay")
                              .arg(platform::systemTempDirectory(), name,
                                   QString::number(QCoreApplication::applicationPid()));

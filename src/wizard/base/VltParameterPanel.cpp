@@ -33,7 +33,7 @@ QVariant valueOf(const QWidget *widget, QColor::NameFormat colorFormat)
     return widget->property("value");
 }
 
-/// The number that is remembered, if it is one of the range and, where that is asked, whole.
+/// The remembered number, if it lies in the range and, for `isWhole`, is an integer.
 std::optional<double> numberOf(const QVariant &value, double minimum, double maximum, bool isWhole)
 {
     bool isNumber = false;
@@ -91,7 +91,7 @@ bool setText(QLineEdit *line, const QVariant &value)
     return value.isValid();
 }
 
-/// Whether the widget has taken the value; it stays as it is where it cannot have that one.
+/// Sets the value of a widget; false, without a change, for a value that the widget cannot have.
 bool setValue(QWidget *widget, const QVariant &value)
 {
     if (auto *combo = qobject_cast<QComboBox *>(widget))

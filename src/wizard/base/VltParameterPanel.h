@@ -6,7 +6,7 @@
 #include <QVariant>
 #include <QWidget>
 
-/// A panel of values by which a layer is drawn.
+/// A panel of values for the representation of a layer.
 class VltParameterPanel : public QWidget
 {
     Q_OBJECT
@@ -14,8 +14,8 @@ class VltParameterPanel : public QWidget
 public:
     using QWidget::QWidget;
 
-    /// Reads the values remembered under "<prefix>/..."; the first-run value stands for one that is
-    /// missing or damaged. Emits nothing.
+    /// Reads the values remembered under "<prefix>/..."; a missing or damaged value becomes the
+    /// first-run value. Emits nothing.
     virtual void loadSettings(const QString &prefix);
     virtual void saveSettings(const QString &prefix);
 
@@ -27,22 +27,22 @@ Q_SIGNALS:
     void parameterChanged();
 
 protected:
-    /// A value that is remembered: its key, and the widget that has it.
+    /// A remembered value: its key and its widget.
     struct Remembered
     {
         QString key;
         QWidget *widget = nullptr;
-        QColor::NameFormat colorFormat = QColor::HexRgb; ///< of a colour button
+        QColor::NameFormat colorFormat = QColor::HexRgb; ///< for a colour button
     };
 
-    /// Takes the widgets that loadSettings() and saveSettings() carry: spin boxes, sliders, check
-    /// boxes, checkable groups, lines of text, colour buttons, and combos, by the data of their
-    /// entries where these have any, else by their index. A value that the widget cannot have, out
-    /// of its range for example, is damaged. The values that the widgets have now are those of a
-    /// first run.
+    /// Registers the widgets that loadSettings() and saveSettings() use: spin boxes, sliders, check
+    /// boxes, checkable groups, line edits, colour buttons, and combos, with the data of their
+    /// entries if they have any, else with their index. A value that the widget cannot have, for
+    /// example because it is out of range, counts as damaged. The current values of the widgets
+    /// become the first-run values.
     void remember(const QList<Remembered> &values);
 
-    /// Takes a widget out again.
+    /// Removes a widget from those registered.
     void forget(const QWidget *widget);
 
 private:

@@ -11,7 +11,8 @@
 
 namespace {
 
-/// What begins a drag, copies the file or opens the icon's menu; not what only moves the focus.
+/// Whether an event starts a drag, copies the file or opens the icon's menu; events that only move
+/// the focus do not count.
 bool takesHold(const QEvent &event)
 {
     if (event.type() == QEvent::KeyPress) {
@@ -79,7 +80,7 @@ void VltResultPage::updatePreview()
     makeLayer();
 }
 
-/// A change that is not in the layer yet goes into it before the user has it.
+/// Makes an outdated layer again before the user drags or copies it.
 bool VltResultPage::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == m_dragIcon && takesHold(*event) && isOutdated() && m_dragIcon->isEnabled() &&

@@ -11,7 +11,7 @@ class QBoxLayout;
 class QLabel;
 class VltParameterPanel;
 
-/// A page on which values become a layer: panels of values, a preview, and the icon of the finished
+/// A page that makes a layer from values: panels of values, a preview, and the icon of the finished
 /// layer. No layer is made before the page is shown.
 class VltResultPage : public BasePage
 {
@@ -27,23 +27,23 @@ public:
     VltResultPage(QWidget *wizard, SharedParameters &parameters, const QString &installDir,
                   const QString &language, const Names &names);
 
-    /// From now on layers are made.
+    /// Allows the making of layers.
     void initializePage() override;
 
-    /// Asks whether the wizard may end.
+    /// Asks the user whether the wizard may end.
     bool validatePage() override;
     int nextId() const override { return -1; }
 
-    /// The values of the panels.
+    /// Saves the values of the panels.
     void saveSettings() override;
     void restoreSettings() override;
 
 public Q_SLOTS:
-    /// A value has changed: the layer is made again.
+    /// Makes the layer again after a change of a value.
     virtual void updatePreview();
 
 protected:
-    /// The result side of a page's form, with the words of its icon.
+    /// The result side of a page's form, with the texts of its icon.
     struct ResultSide
     {
         QBoxLayout *dragRow = nullptr; ///< takes the icon
@@ -62,19 +62,19 @@ protected:
     DraggableIcon *dragIcon() const { return m_dragIcon; }
     void setLayerFile(const QString &path);
 
-    /// Makes the layer, and once more for changes that arrive meanwhile from below a message box.
-    /// Whether there is a layer.
+    /// Makes the layer; a change during this work, while a message box is open, makes it once more.
+    /// Returns whether there is a layer.
     ///
-    /// @param readInput  reads what the layer is made of, as the first step; also done while the
-    ///                   page was not shown yet. Not called while another layer is being made.
+    /// @param readInput  first step: reads the inputs of the layer, even if the page was not shown
+    ///                   yet. It is not called while another layer is being made.
     bool makeLayer(const std::function<void()> &readInput = {});
 
-    /// There is no layer any more.
+    /// Removes the layer.
     ///
-    /// @param why  for the user; empty where a box told of it
+    /// @param why  reason for the user; empty if a message box showed it
     void leaveLayer(const QString &why);
 
-    /// The layer is not that of the values any more.
+    /// Marks the layer as outdated: the values have changed.
     void outdate();
     bool isShown() const { return m_state != State::Hidden; }
     bool isMaking() const { return m_state == State::Making || m_state == State::MakingOutdated; }
@@ -83,36 +83,36 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    /// How far the page is with its layer.
+    /// State of the page's layer.
     enum class State {
         Hidden,         ///< the page was not shown yet
-        Outdated,       ///< the layer is not that of the values
+        Outdated,       ///< the layer does not have the current values
         Making,         ///< the layer is being made
-        MakingOutdated, ///< the same, and a value has changed since it began
-        Current         ///< the layer is that of the values, or it is known why there is none
+        MakingOutdated, ///< the layer is being made, and a value has changed since its start
+        Current         ///< the layer has the current values, or cannot be made from them
     };
 
-    /// The first step of a layer, also where the values make none.
+    /// First step of making a layer, even if no layer can be made from the values.
     virtual void beginLayer() {}
 
-    /// Why the values make no layer, for the user; nothing where they make one. An empty text where
-    /// there is nothing to say.
+    /// Why no layer can be made from the values, as text for the user, which may be empty; none if
+    /// one can.
     virtual std::optional<QString> obstacle() const = 0;
 
     /// Writes the layer.
     ///
-    /// @param path  of the layer file, which its other files lie beside
-    /// @return      nothing where there is none and the user knows why
+    /// @param path  of the layer file; its other files are in the same folder
+    /// @return      none if no layer was written and the user knows the reason
     virtual vlt::Stoppable<vlt::Done> writeLayer(const QString &path,
                                                  vlt::platform::Access access) = 0;
 
-    /// Whether a change that arrives while a layer is made is followed by another layer.
+    /// Whether a change while a layer is made causes another layer.
     virtual bool followsChanges() const { return true; }
 
     /// Shows the layer that was just written.
     virtual void showLayer(const QString &path) = 0;
 
-    /// Shows that there is none; `why` as above.
+    /// Shows that there is no layer; `why` as in leaveLayer().
     virtual void showNoLayer(const QString &why) = 0;
 
     bool makeOnce();

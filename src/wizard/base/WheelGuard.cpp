@@ -19,7 +19,7 @@ public:
         const auto *widget = qobject_cast<QWidget *>(watched);
         if (event->type() != QEvent::Wheel || !widget || widget->hasFocus())
             return false;
-        event->ignore(); // the page scrolls
+        event->ignore(); // the page scrolls instead
         return true;
     }
 };
