@@ -7,10 +7,10 @@ namespace vlt::batch {
 namespace {
 
 constexpr qsizetype LineWidth = 80;
-/// Names that are longer have a line of their own.
+/// Longer names have a line of their own.
 constexpr qsizetype LongestName = 26;
 
-/// Words in lines; all but the first one begin with `indent` blanks.
+/// The text broken into lines between words; all lines except the first start with `indent` blanks.
 QString wrappedWords(const QString &text, qsizetype indent)
 {
     QString lines;
@@ -28,7 +28,7 @@ QString wrappedWords(const QString &text, qsizetype indent)
     return lines;
 }
 
-/// The values one after another, in further lines below the first where they are many.
+/// The values one after another; if they do not fit in one line, they continue in the lines below.
 QString wrapped(const QStringList &values, qsizetype indent)
 {
     QString text;

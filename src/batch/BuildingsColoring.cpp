@@ -21,7 +21,7 @@ namespace {
 
 using buildings::RasterColoring;
 
-/// The colour map of a name in the installation's list, or of a file.
+/// The colour map with this name in the installation's list, or from the file of this name.
 Result<colormaps::ColorMapEntry> chosenColorMap(const QString &wanted, const QString &installDir)
 {
     const QList<colormaps::ColorMapEntry> maps = colormaps::listColorMaps(installDir, false);
@@ -39,8 +39,7 @@ Result<colormaps::ColorMapEntry> chosenColorMap(const QString &wanted, const QSt
                 wanted);
 }
 
-/// Why a raster of several bands, or of none, does not serve; with the names of those that it
-/// holds.
+/// The error for a raster with several bands or none, with the names of the images in its file.
 Error notOneBand(const geodata::RasterSummary &raster, const QString &path)
 {
     QString text = raster.bandCount == 0
@@ -57,7 +56,7 @@ Error notOneBand(const geodata::RasterSummary &raster, const QString &path)
     return told(text, path);
 }
 
-/// Opens the raster that colours come from; its absolute name into `coloring`.
+/// Opens the raster of the colours and stores its absolute name in `coloring`.
 Result<std::shared_ptr<coverage::CoverageRaster>> openRaster(RasterColoring &coloring)
 {
     const QString given = coloring.rasterFile;
@@ -72,7 +71,7 @@ Result<std::shared_ptr<coverage::CoverageRaster>> openRaster(RasterColoring &col
         return onFile(summary.error(), given);
     if (summary.value().bandCount != 1)
         return notOneBand(summary.value(), given);
-    const geodata::ErrorCollector errors; // they come back as reasons
+    const geodata::ErrorCollector errors; // errors are returned as reasons, not printed
     std::string reason;
     std::shared_ptr<coverage::CoverageRaster> raster =
         coverage::CoverageRaster::open(QFile::encodeName(coloring.rasterFile).toStdString(),

@@ -4,11 +4,11 @@
 
 namespace vlt::batch {
 
-/// Looks at the image and the colour map that the command line names, whose absolute names
-/// `coloring` takes.
+/// Reads the image and the colour map of the command line and stores their absolute names in
+/// `coloring`.
 ///
-/// @param quiet  without a line on the terminal about long work
-/// @return       the legend, laid over the values that the colour map is used for
+/// @param quiet  without a progress line on the terminal
+/// @return       the legend, stretched to the values that the colour map is used for
 /// @par Errors   in the language in use, with the file that cannot be used
 Result<buildings::LegendInput> readColoring(buildings::RasterColoring &coloring,
                                             const QString &installDir, bool quiet);

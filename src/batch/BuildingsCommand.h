@@ -4,8 +4,8 @@
 
 namespace vlt::batch {
 
-/// "buildings VECTOR -o OUT.lay": makes a layer of colored or textured buildings. Legends are
-/// drawn, so a QGuiApplication must be there.
+/// "buildings VECTOR -o OUT.lay": makes a layer of colored or textured buildings. It draws legends
+/// and needs a QGuiApplication.
 Command buildingsCommand();
 
 } // namespace vlt::batch

@@ -39,7 +39,8 @@ Result<int> chosenLayer(const QList<geodata::PolygonLayer> &layers, const QStrin
     return static_cast<int>(index);
 }
 
-/// The field that is asked for, else the one that looks like it, of those that may hold heights.
+/// The requested field, else the one that guessedHeightField() finds, among the fields that may
+/// have heights.
 Result<QString> chosenField(const geodata::PolygonLayer &layer, const QString &wanted,
                             const QString &path)
 {
@@ -68,7 +69,7 @@ Result<QString> chosenField(const geodata::PolygonLayer &layer, const QString &w
     return guess;
 }
 
-/// File, layer, field and place of the buildings; their number into `count`.
+/// Reads file, layer, field and extent of the buildings, and stores their number in `count`.
 Result<BuildingsSource> readVector(const BuildingsRequest &request, const QString &path,
                                    qint64 &count)
 {
@@ -97,9 +98,9 @@ Result<BuildingsSource> readVector(const BuildingsRequest &request, const QStrin
     return source;
 }
 
-/// The terrain's value of no data: the one that is given, else the file's own, else empty.
+/// The terrain's value of no data: the given one, else that of the file, else empty.
 ///
-/// @param warning  takes what is odd about the terrain
+/// @param warning  receives the warning about a suspicious terrain
 Result<QString> readTerrain(const QString &path, const std::optional<QString> &noData,
                             QString &warning)
 {
@@ -119,7 +120,7 @@ Result<QString> readTerrain(const QString &path, const std::optional<QString> &n
     return noData.value_or(own ? text::f6(*own) : QString());
 }
 
-/// The vector file that is given, else the project's.
+/// The given vector file, else that of the project.
 Result<QString> vectorFile(const QString &given, const QString &project)
 {
     if (!given.isEmpty() || project.isEmpty())

@@ -5,20 +5,21 @@
 
 namespace vlt::batch {
 
-/// What a layer of buildings is written from, every file looked at.
+/// The inputs of a layer of buildings; all files have been checked.
 struct BuildingsInputs
 {
     buildings::BuildingLayerInput layer;
-    buildings::RasterColoring coloring; ///< without a raster where none is asked for
-    buildings::TexturedLook look;       ///< of the request, with images where it has textures
-    qint64 buildingCount = -1;          ///< -1 where the format would have to count
-    QString terrainWarning;             ///< of a terrain that looks like none; else empty
-    QStringList files;                  ///< all that are read, none of which may be written
+    buildings::RasterColoring coloring; ///< without a raster if none is requested
+    buildings::TexturedLook look;       ///< of the request, with images if it has textures
+    qint64 buildingCount = -1; ///< -1 if the format would have to read all features to count them
+    QString terrainWarning;    ///< about a raster that is probably no terrain; else empty
+    QStringList files;         ///< all files that are read and so must not be written
 };
 
-/// Opens what the request and the project name and fills in what they leave open.
+/// Opens the files of the request and the project, and chooses the values that the request leaves
+/// open.
 ///
-/// @param quiet  without a line on the terminal about long work
+/// @param quiet  without a progress line on the terminal
 /// @par Errors   in the language in use, with the file that cannot be used
 Result<BuildingsInputs> readBuildingsInputs(const BuildingsRequest &request,
                                             const Surroundings &surroundings, bool quiet);

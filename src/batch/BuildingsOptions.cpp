@@ -7,7 +7,7 @@ namespace vlt::batch {
 
 namespace {
 
-/// Words as a value's name.
+/// Words as the name of an option's value: "one|two".
 template<std::size_t N>
 QString choiceOf(const char *const (&words)[N])
 {

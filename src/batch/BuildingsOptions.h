@@ -13,19 +13,18 @@ namespace vlt::batch {
 /// The numbers of a layer of buildings, with their first-run values.
 struct BuildingsMeasures
 {
-    int distanceM = contract::ExtrudedVisibilityM.firstRun; ///< up to which buildings are shown
+    int distanceM = contract::ExtrudedVisibilityM.firstRun; ///< maximum for buildings
     double tileSizeM = contract::TileSizeM.firstRun;
     double skirtM = contract::SkirtHeightM.firstRun;
-    int texturedDistanceM =
-        contract::TexturedVisibilityM.firstRun;           ///< up to which images are shown
-    int cacheCapacity = contract::CacheCapacity.firstRun; ///< elements
+    int texturedDistanceM = contract::TexturedVisibilityM.firstRun; ///< maximum for images
+    int cacheCapacity = contract::CacheCapacity.firstRun;           ///< elements
     double bufferM = contract::TextureBufferM.firstRun;
     int dilatationPixels = contract::TextureDilatationPixels.firstRun;
 };
 
 const std::vector<NumberOption<BuildingsMeasures>> &buildingsNumbers();
 
-/// What stands for a colour that comes from the raster.
+/// The value of a colour option for colours from the raster.
 inline constexpr char ColorMapWord[] = "colormap";
 
 /// Words of the command line, in the order of buildings::DataStructure.

@@ -15,7 +15,7 @@ using contract::BuildingCache;
 using contract::BuildingTextures;
 using contract::Reduction;
 
-/// Options that make no sense without another one.
+/// Options that are allowed only with another option.
 const QStringList OfImage = {QStringLiteral("image-nodata"), QStringLiteral("colormap"),
                              QStringLiteral("absolute"), QStringLiteral("color-ranges"),
                              QStringLiteral("mode")};
@@ -29,7 +29,7 @@ const QStringList OfTextures = {
 const QStringList OfLook = {QStringLiteral("cache"), QStringLiteral("delayed-write"),
                             QStringLiteral("cache-capacity")};
 
-/// Position of an option's value among the words; the first where it is not given.
+/// Index of an option's value among the words; 0 if the option is not given.
 Result<int> readWord(const QCommandLineParser &parser, const QString &option,
                      const QStringList &words)
 {
@@ -41,7 +41,7 @@ Result<int> readWord(const QCommandLineParser &parser, const QString &option,
                      : Result<int>(index);
 }
 
-/// An option that tells a colour, as "#rrggbb"; or ColorMapWord where that is allowed.
+/// Reads the colour of an option as "#rrggbb", or ColorMapWord if that is allowed.
 Result<QString> readColor(const QCommandLineParser &parser, const QString &option,
                           const char *firstRun, bool mayBeFromMap)
 {
@@ -61,7 +61,7 @@ Result<QString> readColor(const QCommandLineParser &parser, const QString &optio
     return color->name();
 }
 
-/// A text that stands for missing values: a number, or empty.
+/// Checks an option for the value of missing data: a number or an empty text.
 std::optional<Error> checkNoData(const QCommandLineParser &parser, const QString &option)
 {
     const QString value = parser.value(option);
@@ -75,7 +75,7 @@ bool hasTextures(const QCommandLineParser &parser)
     return parser.isSet(QStringLiteral("texture")) || parser.isSet(QStringLiteral("textures"));
 }
 
-/// Whether the buildings have a look of their own, not only the image's colours.
+/// Whether the options give the buildings more than the image's colours.
 bool hasLook(const QCommandLineParser &parser)
 {
     return hasTextures(parser) || !parser.isSet(QStringLiteral("image")) ||
@@ -177,7 +177,7 @@ Result<BuildingTextures> readTextures(const QCommandLineParser &parser,
     return textures;
 }
 
-/// The look without its textures.
+/// Reads the look without its textures.
 Result<buildings::TexturedLook> readLook(const QCommandLineParser &parser,
                                          const BuildingsMeasures &measures)
 {
@@ -209,7 +209,7 @@ Result<buildings::TexturedLook> readLook(const QCommandLineParser &parser,
     return look;
 }
 
-/// Where the images are and how they are laid.
+/// Reads where the images are and how they are placed on the buildings.
 std::optional<Error> readTextureChoice(const QCommandLineParser &parser,
                                        const BuildingsMeasures &measures, BuildingsRequest &request)
 {

@@ -9,35 +9,36 @@
 
 namespace vlt::batch {
 
-/// Where the images on buildings are found.
+/// The files of the images on buildings.
 struct TextureChoice
 {
-    QStringList files;    ///< "FILE" or "FILE=HEIGHT"; empty: by the template
-    QString templateFile; ///< empty where there are no images
+    QStringList files;    ///< "FILE" or "FILE=HEIGHT"; empty if the template gives them
+    QString templateFile; ///< empty if there are no images
     buildings::DataStructure structure = buildings::DataStructure::SameFolder;
     QString filter;
 };
 
-/// What the command line of a layer of buildings asks for.
+/// The values of a command line for a layer of buildings.
 struct BuildingsRequest
 {
-    QString vector; ///< as given; empty: the project's
+    QString vector; ///< as given; empty for that of the project
     QString output;
-    QString layer;       ///< empty: the first one
-    QString heightField; ///< empty: the one that looks like it
-    QString terrain;     ///< empty: the project's
+    QString layer;       ///< empty for the first one
+    QString heightField; ///< empty for the one that guessedHeightField() finds
+    QString terrain;     ///< empty for that of the project
     std::optional<QString> terrainNoData;
     contract::BuildingFootprints footprints;
     std::optional<buildings::RasterColoring> image; ///< image and colour map as given
-    /// None: buildings that the image colours. Without textures: plain ones. Its textures have no
-    /// images yet, its colours may be ColorMapWord.
+    /// None for buildings with the image's colours; without textures for plain buildings. The
+    /// textures have no images yet, and the colours may be ColorMapWord.
     std::optional<buildings::TexturedLook> look;
     TextureChoice textures; ///< of a look with textures
 };
 
-/// The request that the options describe; what is not given has its first-run value.
+/// The request of the options; options that are not given have their first-run values.
 ///
-/// @par Errors   no key; which option has which wrong value, or lacks its companion.
+/// @par Errors   no key; the text names the option with a wrong value or without the option that it
+///               needs.
 Result<BuildingsRequest> readBuildingsRequest(const QCommandLineParser &parser);
 
 } // namespace vlt::batch

@@ -20,10 +20,10 @@ using buildings::DataStructure;
 using buildings::FileEntry;
 using Images = Result<QList<FileEntry>>;
 
-/// An image and the height that is given for it.
+/// An image with the height given for it.
 struct GivenImage
 {
-    QString name; ///< of a file or dataset, as given
+    QString name; ///< name of a file or dataset, as given
     std::optional<double> height;
 };
 
@@ -32,7 +32,7 @@ Error badHeight(const QString &image)
     return told(dico_label("MESS_CLI_BAD_HEIGHT", "the height is no number"), image);
 }
 
-/// "FILE=HEIGHT" where there is no file of that very name.
+/// Splits "FILE=HEIGHT", unless a file has this whole name.
 GivenImage splitHeight(const QString &given)
 {
     const qsizetype sign = given.lastIndexOf(QLatin1Char('='));

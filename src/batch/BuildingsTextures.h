@@ -4,9 +4,9 @@
 
 namespace vlt::batch {
 
-/// The images that the command line names, all of them used.
+/// The images of the command line, all of them in use.
 ///
-/// @param quiet  without a line on the terminal about the search
+/// @param quiet  without a progress line on the terminal
 /// @par Errors   in the language in use, with the file that cannot be used
 Result<QList<buildings::FileEntry>> readTextures(const TextureChoice &choice, bool quiet);
 

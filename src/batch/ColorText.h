@@ -7,10 +7,10 @@
 
 namespace vlt::batch {
 
-/// A color as options take it: RRGGBB with or without "#" in front, or one of the SVG names
-/// ("red"), all in any case; nothing where it is none of them.
+/// The colour of an option's text: RRGGBB with or without "#" in front, or an SVG name ("red"), in
+/// upper or lower case; none for any other text.
 ///
-/// @param withAlpha  whether RRGGBBAA is taken, too
+/// @param withAlpha  whether RRGGBBAA is accepted too
 std::optional<QColor> colorFrom(const QString &text, bool withAlpha = false);
 
 } // namespace vlt::batch

@@ -8,25 +8,25 @@
 
 namespace vlt::batch {
 
-/// What the command line of one command looks like; its texts are those of the language in use.
+/// The syntax of one command's command line, with texts in the language in use.
 struct CommandSyntax
 {
-    QString name;    ///< empty: the program without a command
-    QString usage;   ///< what follows the name: "TABLE -o OUT.lay"
-    QString summary; ///< a line in the list of commands
+    QString name;    ///< empty for the program without a command
+    QString usage;   ///< text after the name: "TABLE -o OUT.lay"
+    QString summary; ///< line in the list of commands
     QString description;
     Inputs inputs;
-    QList<QCommandLineOption> options;           ///< its own, without those of every command
-    QStringList repeatable;                      ///< those of them that may be given several times
-    QString examples;                            ///< a command line in each line
-    std::function<QString(const Place &)> lists; ///< what the help ends with; may be empty
+    QList<QCommandLineOption> options; ///< options of this command only
+    QStringList repeatable;            ///< names of options that may be given several times
+    QString examples;                  ///< one command line per line
+    std::function<QString(const Place &)> lists; ///< end of the help; may be empty
 };
 
 /// A command of the program.
 struct Command
 {
     CommandSyntax (*syntax)();
-    /// @param parser  has parsed its command line without an error
+    /// @param parser  after parsing the command line without an error
     ExitStatus (*run)(const QCommandLineParser &parser, const GlobalOptions &options);
 };
 

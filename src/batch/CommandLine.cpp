@@ -32,7 +32,7 @@ QString dashed(const QString &name)
     return QLatin1String(name.size() == 1 ? "-" : "--") + name;
 }
 
-/// The option as it was typed: an unknown "-frob" comes back as its first letter.
+/// The option as it was typed: the parser reports only the first letter of an unknown "-frob".
 QString typed(const QString &name, const QStringList &arguments)
 {
     for (const QString &argument : arguments.mid(1)) {
@@ -57,7 +57,7 @@ Error unknownOption(const QString &name, const CommandSyntax &syntax, const QStr
     return wrongUsage(text + didYouMean(given, known));
 }
 
-/// Why the parser did not understand the arguments.
+/// The error for arguments that the parser did not understand.
 Error misunderstood(const QCommandLineParser &parser, const CommandSyntax &syntax,
                     const QStringList &arguments)
 {
@@ -71,7 +71,7 @@ Error misunderstood(const QCommandLineParser &parser, const CommandSyntax &synta
                           .arg(option));
 }
 
-/// An option with a value that is given twice: only one of the values could be taken.
+/// The error for an option with a value that is given twice: only one value could be used.
 std::optional<Error> repeated(const QCommandLineParser &parser, const CommandSyntax &syntax)
 {
     const QStringList given = parser.optionNames();

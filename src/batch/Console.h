@@ -7,7 +7,8 @@
 
 namespace vlt::batch {
 
-/// Writes to standard output as it is. False when it did not arrive whole (full disk, closed pipe).
+/// Writes a text unchanged to the standard output; false if not all of it was written (full disk,
+/// closed pipe).
 bool printOut(const QString &text);
 
 /// Writes bytes in the same way.
@@ -16,32 +17,33 @@ bool printBytes(const QByteArray &bytes);
 /// Writes a line to the error output, after the program's name.
 void printError(const QString &text);
 
-/// How this run of the program tells errors.
+/// How this run of the program reports errors.
 struct ErrorStyle
 {
-    QString command;   ///< whose help is named; empty: the program's
-    bool json = false; ///< also as an object on the standard output
+    QString command;   ///< command whose help the message names; empty for that of the program
+    bool json = false; ///< errors are also objects on the standard output
 };
 
 /// To be set once, before the first error is printed.
 void setErrorStyle(const ErrorStyle &style);
 const ErrorStyle &errorStyle();
 
-/// Tells an error on the error output, as refuse() does; for programs, with its exit status.
+/// Prints an error on the error output, like refuse(); in JSON style also as an object with the
+/// exit status.
 void tellError(const Error &error, ExitStatus status);
 
-/// Tells why an input is refused, with the file it is about, in the chosen language.
+/// Prints why an input is refused, with its file, in the chosen language.
 ///
 /// @return  ExitStatus::Refused, for the caller to return
 ExitStatus refuse(const Error &error);
 
-/// The error's text in the chosen language, after the file it is about and with its detail behind.
+/// The file of an error, its text in the chosen language and its detail.
 QString explain(const Error &error);
 
-/// The same for programs: "error", "file" (null where it is about none) and "exit".
+/// The same for programs: "error", "file" (null for an error without a file) and "exit".
 QJsonObject errorJson(const Error &error, ExitStatus status);
 
-/// Text out of a user's file as one line that cannot steer a terminal: control characters become
+/// Text from a user's file as one line that cannot control the terminal: control characters become
 /// spaces.
 QString oneLine(QString text);
 

@@ -9,18 +9,19 @@ namespace vlt::batch {
 
 namespace {
 
-/// Names that begin with a colon are those of the application's own resources.
+/// Whether a file exists. Names with a colon at the start are excluded: they are resources of the
+/// application.
 bool isThere(const QString &file)
 {
     return !file.startsWith(QLatin1Char(':')) && QFileInfo::exists(file);
 }
 
-/// Start, file and end of a dataset's name: one that exists, or "FORMAT:", perhaps with a number or
-/// a quote, before one and perhaps something behind it.
+/// The parts of a dataset's name: an existing file, or "FORMAT:", optionally a number or a quote,
+/// an existing file, optionally a part of it.
 struct DatasetName
 {
     QString before;
-    QString file; ///< empty where no file of this computer is in it
+    QString file; ///< empty if the name has no local file
     QString after;
 };
 

@@ -6,16 +6,16 @@
 
 namespace vlt::batch {
 
-/// The whole help of a command, in the language in use.
+/// The help of a command, in the language in use.
 QString helpText(const CommandSyntax &syntax, const Place &place);
 
 /// The help of the program, which lists its commands.
 QString programHelpText();
 
-/// Versions of the program and of the libraries that it works with, a line each.
+/// Versions of the program and of its libraries, one per line.
 QString versionText();
 
-/// Says what is wrong with the command line and where help is.
+/// Prints the fault of the command line and the command that prints the help.
 ExitStatus refuseUsage(const QString &text);
 
 } // namespace vlt::batch

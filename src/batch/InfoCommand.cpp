@@ -95,10 +95,10 @@ InfoReport linkReport(const links::LinkFileInfo &file)
     return report;
 }
 
-/// Adds what only the rows tell.
+/// Adds the results of reading the rows.
 Result<InfoReport> withRows(InfoReport report, contract::TableKind kind)
 {
-    // never stopped
+    // The progress line never stops the work, so there is a value.
     const Result<geodata::SiteCheck> check = *geodata::readSiteCheck(
         report.file.reading.connection(kind, report.file.filePath), {}, report.file.systems);
     if (!check)
@@ -121,7 +121,7 @@ Result<InfoReport> readTable(const QString &path, bool isLinks, const tables::Ta
     return file ? withRows(siteReport(file.value()), contract::TableKind::Sites) : file.error();
 }
 
-/// Several tables as one object, in which those that are refused have an error.
+/// Prints several tables as one object; refused tables have an error in it.
 ExitStatus tellAsJson(const QList<Result<InfoReport>> &outcomes)
 {
     QJsonArray tables;

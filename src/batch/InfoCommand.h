@@ -4,7 +4,7 @@
 
 namespace vlt::batch {
 
-/// "vltlayers info [--link] TABLE": what a table holds and what of it cannot be used.
+/// "vltlayers info [--link] TABLE": prints the properties and the problems of a table.
 Command infoCommand();
 
 } // namespace vlt::batch

@@ -8,7 +8,7 @@
 
 namespace vlt::batch {
 
-/// Something that only one kind of table has to tell.
+/// A property that only one kind of table has.
 struct InfoEntry
 {
     QString key;   ///< in JSON
@@ -16,25 +16,25 @@ struct InfoEntry
     QString value;
 };
 
-/// What "vltlayers info" tells of a table.
+/// The report of "vltlayers info" about a table.
 struct InfoReport
 {
     tables::TableFileInfo file;
-    QString countLabel;  ///< of the number of rows, in the chosen language
-    QString systemLabel; ///< of the table's coordinate system
+    QString countLabel;  ///< label of the number of rows, in the chosen language
+    QString systemLabel; ///< label of the table's coordinate system
     QList<InfoEntry> further;
-    QList<tables::ColumnDescription> columns; ///< recognised ones, for people
-    QJsonObject columnNames;                  ///< the same, for programs
+    QList<tables::ColumnDescription> columns; ///< recognised columns, for the text
+    QJsonObject columnNames;                  ///< the same, for JSON
     geodata::LayerProblems problems;
 };
 
-/// One problem in one line, row and column first.
+/// A problem as one line, with row and column first.
 QString problemText(const Problem &problem);
 
-/// For people: labelled lines in the chosen language.
+/// The report as text: lines with labels in the chosen language.
 QString reportText(const InfoReport &report);
 
-/// For programs.
+/// The report as JSON.
 QJsonObject reportJson(const InfoReport &report);
 
 } // namespace vlt::batch

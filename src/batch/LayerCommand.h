@@ -12,7 +12,7 @@
 
 namespace vlt::batch {
 
-/// What the commands that make a layer of a table have in common.
+/// Values of the command line that all commands for layers of tables have.
 struct LayerRequest
 {
     QString table;  ///< as given
@@ -22,44 +22,44 @@ struct LayerRequest
     tables::TableReading reading;
 };
 
-/// How many rows come out without a place, one counting once however many problems it has.
+/// Number of rows without a position; a row with several problems counts once.
 qint64 unplacedRows(const geodata::LayerPlacement &placement,
                     const geodata::LayerProblems &problems);
 
-/// How the rows of a table come out in the layer.
+/// Result of reading the rows of a table for its layer.
 struct LayerOutcome
 {
     qint64 placed = 0;
     qint64 unplacedRows = 0;
-    QList<Problem> systemProblems; ///< what does not fit about the coordinate systems
+    QList<Problem> systemProblems; ///< contradictions between the table and the coordinate systems
 };
 
-/// The output, the coordinate systems and the look of pylons.
+/// The options for the output, the coordinate systems and the representation of pylons.
 QList<QCommandLineOption> layerOptions();
 
-/// Takes the common part of the command line, or refuses it and gives the exit status.
+/// Reads the common part of the command line, or refuses it and returns the exit status.
 ///
-/// @param inputs  files besides the table that the layer must not overwrite; empty names are none
+/// @param inputs  further files that the layer must not overwrite; empty names are ignored
 std::variant<LayerRequest, ExitStatus> readLayerRequest(const QCommandLineParser &parser,
                                                         const Surroundings &surroundings,
                                                         const QStringList &inputs);
 
-/// The systems that the options name, as they stand there, else those that go with the table.
+/// The systems of the options, unchanged, else those suggested for the table.
 geodata::SystemPair chosenSystems(const QCommandLineParser &parser,
                                   const geodata::SystemPair &otherwise);
 
-/// --sheet, --encoding and --delimiter.
+/// The options --sheet, --encoding and --delimiter.
 QList<QCommandLineOption> readingOptions();
 
-/// How the options say that tables are read.
+/// Reads these options.
 ///
-/// @par Errors   no key; which option has which wrong value.
+/// @par Errors   no key; the text names the option and its wrong value.
 Result<tables::TableReading> readReading(const QCommandLineParser &parser);
 
-/// The outcome of a check, a row counting once however many problems it has.
+/// The result of a check; a row with several problems counts once.
 ///
-/// @param unit     of the table's coordinates, as TableFileInfo has it
-/// @param systems  with which the rows were placed
+/// @param unit     of the table's coordinates, as in TableFileInfo
+/// @param systems  coordinate systems of the rows and of the project
 template<typename Check>
 LayerOutcome layerOutcome(const Check &check, const QString &unit,
                           const geodata::SystemPair &systems)
@@ -68,21 +68,22 @@ LayerOutcome layerOutcome(const Check &check, const QString &unit,
             tables::systemProblems(unit, systems, check.systems)};
 }
 
-/// Writes a finished layer, "-" being the standard output, and warns where its page is missing; the
-/// exit status where that fails.
+/// Writes a finished layer, for "-" to the standard output, and warns if its page is missing.
+/// Returns an exit status only after a failure.
 std::optional<ExitStatus> writeLayer(const QString &path, const Result<tables::TableLayer> &layer);
 
-/// Prints what does not fit about the coordinate systems to the error output.
+/// Prints the warnings about the coordinate systems on the error output.
 void warnOfSystems(const LayerOutcome &outcome);
 
-/// Warns of rows without a place, and of unfit or missing coordinate systems, on the error output.
+/// Warns of rows without a position, and of wrong or missing coordinate systems, on the error
+/// output.
 void warnOfLayer(const LayerOutcome &outcome, const geodata::SystemPair &systems);
 
-/// What programs are told of every layer.
+/// The part of the JSON output that all layers have.
 QJsonObject layerJson(const LayerRequest &request, const LayerOutcome &outcome,
                       const geodata::SystemPair &systems);
 
-/// Prints a finished text; refused where it does not arrive.
+/// Prints a finished text; refused if it cannot be written.
 ExitStatus printResult(const QString &text);
 
 } // namespace vlt::batch

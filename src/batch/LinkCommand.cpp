@@ -19,11 +19,11 @@ namespace vlt::batch {
 
 namespace {
 
-/// The command's own part of the command line.
+/// Values of the options that only this command has.
 struct LinkRequest
 {
     links::LinkRepresentation look;
-    std::optional<QString> terrain; ///< as given; empty for none at all
+    std::optional<QString> terrain; ///< as given; an empty text for no terrain
     bool report = false;
 };
 
@@ -79,7 +79,7 @@ Result<LinkRequest> readLinkRequest(const QCommandLineParser &parser)
     return request;
 }
 
-/// Reads the links through the very connection that the layer carries; judges them for a report.
+/// Reads the links through the same connection as the layer; computes their clearance for a report.
 Result<geodata::LinkCheck> readLinks(const links::LinkLayerInput &input, const LinkRequest &wanted,
                                      bool quiet)
 {
@@ -90,7 +90,7 @@ Result<geodata::LinkCheck> readLinks(const links::LinkLayerInput &input, const L
     ProgressLine line(dico_label("MESS_CLI_READING_LINKS", "Reading the links"), !quiet);
     const QString connection =
         sites::resolvedConnection(links::linkQuery(input), input.project.directory());
-    // never stopped
+    // The progress line never stops the work, so there is a value.
     return *geodata::readLinkCheck(connection, judging, line.progress(),
                                    {input.sourceSrs, input.targetSrs});
 }

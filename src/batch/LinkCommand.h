@@ -4,7 +4,8 @@
 
 namespace vlt::batch {
 
-/// "vltlayers link TABLE -o OUT.lay": makes a link layer of a table, judges its links, or both.
+/// "vltlayers link TABLE -o OUT.lay": makes a link layer from a table, reports the clearance of its
+/// links, or both.
 Command linkCommand();
 
 } // namespace vlt::batch

@@ -58,7 +58,7 @@ std::optional<LinkStyle> styleOf(const QString &text)
     return contract::linkStyleOf(text.toUpper().toStdString());
 }
 
-/// Takes a colour that is given; RRGGBBAA only where an alpha is wanted.
+/// Reads the colour of an option, if it is given; RRGGBBAA only if alpha values are allowed.
 std::optional<Error> readColor(const QCommandLineParser &parser, const QString &option,
                                bool withAlpha, QColor &color)
 {

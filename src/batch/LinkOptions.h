@@ -10,9 +10,9 @@ namespace vlt::batch {
 /// One option for each value of the link representation.
 QList<QCommandLineOption> linkOptions();
 
-/// The representation that the options describe; what is not given has its first-run value.
+/// The representation of the options; options that are not given have their first-run values.
 ///
-/// @par Errors   no key; which option has which wrong value.
+/// @par Errors   no key; the text names the option and its wrong value.
 Result<links::LinkRepresentation> readLinkOptions(const QCommandLineParser &parser);
 
 } // namespace vlt::batch

@@ -17,11 +17,11 @@ using linkpath::Verdict;
 
 constexpr std::array<Verdict, 4> Verdicts = {Verdict::Clear, Verdict::Marginal, Verdict::Obstructed,
                                              Verdict::Unknown};
-/// Columns of the table up to here hold text.
+/// The first column with numbers; those before it have texts.
 constexpr qsizetype FirstNumber = 5;
 constexpr qsizetype NumberCount = 5;
 
-/// The verdict for programs.
+/// The class of clearance in JSON.
 QString verdictKey(Verdict verdict)
 {
     switch (verdict) {
@@ -37,7 +37,7 @@ QString verdictKey(Verdict verdict)
     return QStringLiteral("unknown");
 }
 
-/// What a link lacks, for programs.
+/// The missing input of a link in JSON.
 QJsonValue lackKey(linkpath::Lack lack)
 {
     switch (lack) {

@@ -6,10 +6,11 @@
 
 namespace vlt::batch {
 
-/// For people: a line for each link and how many have which verdict, in the chosen language.
+/// The report as text in the chosen language: a line for each link, and the number of links in each
+/// class of clearance.
 QString linkReportText(const geodata::LinkCheck &check);
 
-/// For programs: the same as "links" and "verdicts".
+/// The same in JSON, as "links" and "verdicts".
 QJsonObject linkReportJson(const geodata::LinkCheck &check);
 
 } // namespace vlt::batch

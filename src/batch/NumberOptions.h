@@ -14,7 +14,7 @@
 
 namespace vlt::batch {
 
-/// One number of a representation as an option of the command line.
+/// An option of the command line for a number of a representation.
 template<typename Representation>
 struct NumberOption
 {
@@ -22,18 +22,18 @@ struct NumberOption
     QString meaning;
     std::variant<double Representation::*, int Representation::*> member;
     contract::Range range;
-    bool hasDefault = true; ///< else it is not used unless given
+    bool hasDefault = true; ///< if not, the number is used only if it is given
 
     bool isInteger() const { return std::holds_alternative<int Representation::*>(member); }
 };
 
-/// A number as the help shows it.
+/// The text of a number in the help.
 inline QString plainNumber(double value)
 {
     return QString::number(value, 'f', QLocale::FloatingPointShortest);
 }
 
-/// The options for the parser; the defaults in their help are those of a first run.
+/// The options for the parser; their help has the first-run values as defaults.
 template<typename Representation>
 QList<QCommandLineOption> numberOptionList(const std::vector<NumberOption<Representation>> &options)
 {
@@ -57,7 +57,7 @@ QList<QCommandLineOption> numberOptionList(const std::vector<NumberOption<Repres
     return list;
 }
 
-/// Error text about a value that is not one of the option's numbers.
+/// The error for a value that is not a number of the option's range.
 template<typename Representation>
 Error notInRange(const NumberOption<Representation> &option, const QString &text)
 {
@@ -69,8 +69,8 @@ Error notInRange(const NumberOption<Representation> &option, const QString &text
         wanted.arg(plainNumber(option.range.minimum), plainNumber(option.range.maximum)), text);
 }
 
-/// Takes the numbers that are given into `representation`; the first that is no number or out of
-/// its range as an error.
+/// Stores the given numbers in `representation`; an error for the first value that is not a number
+/// or is out of range.
 template<typename Representation>
 std::optional<Error> readNumberOptions(const QCommandLineParser &parser,
                                        const std::vector<NumberOption<Representation>> &options,

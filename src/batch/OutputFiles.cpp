@@ -6,7 +6,7 @@ namespace vlt::batch {
 
 namespace {
 
-/// Where a file really is.
+/// The path of a file without links.
 QString realPath(const QString &path)
 {
     const QString canonical = QFileInfo(path).canonicalFilePath();

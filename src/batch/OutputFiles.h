@@ -6,14 +6,14 @@
 
 namespace vlt::batch {
 
-/// Whether a file that is to be written is one of those that are read; two names of one file are
-/// seen to be one, empty names are none.
+/// Whether a file to be written is one of the files that are read, even under another name. Empty
+/// names are ignored.
 bool isOneOf(const QString &output, const QStringList &inputs);
 
 /// Whether the output is "-", the program's own standard output.
 bool isStandardOutput(const QString &output);
 
-/// What is told of such a file.
+/// The error for such a file.
 Error outputIsInput(const QString &output);
 
 } // namespace vlt::batch

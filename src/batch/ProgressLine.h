@@ -7,8 +7,8 @@
 
 namespace vlt::batch {
 
-/// A line on the terminal that tells the share done of long work; nothing where the error output is
-/// no terminal, or the work is over at once. The line is gone when the object goes.
+/// A line on the terminal with the progress of long work. There is none if the error output is not
+/// a terminal or if the work ends soon. The destructor removes the line.
 class ProgressLine
 {
 public:
@@ -17,7 +17,8 @@ public:
     ProgressLine(const ProgressLine &) = delete;
     ProgressLine &operator=(const ProgressLine &) = delete;
 
-    /// Shows the share of work, which it never stops. Valid as long as the line.
+    /// The function that shows the progress; it never stops the work and is valid as long as this
+    /// object.
     Progress progress();
 
 private:

@@ -37,14 +37,14 @@ CommandSyntax syntax()
     return syntax;
 }
 
-/// Reads the sites through the very connection that the layer carries.
+/// Reads the sites through the same connection as the layer.
 Result<LayerOutcome> placeSites(const sites::SiteLayerInput &input, bool quiet)
 {
     const geodata::SystemPair systems{input.sourceSrs, input.targetSrs};
     const QString connection =
         sites::resolvedConnection(sites::siteQuery(input), input.project.directory());
     ProgressLine line(dico_label("MESS_CLI_READING", "Reading the sites"), !quiet);
-    // never stopped
+    // The progress line never stops the work, so there is a value.
     const Result<geodata::SiteCheck> check =
         *geodata::readSiteCheck(connection, line.progress(), systems);
     if (!check)

@@ -4,7 +4,7 @@
 
 namespace vlt::batch {
 
-/// "vltlayers site TABLE -o OUT.lay": makes the layer that the wizard makes of the table.
+/// "vltlayers site TABLE -o OUT.lay": makes the same layer from the table as the wizard.
 Command siteCommand();
 
 } // namespace vlt::batch

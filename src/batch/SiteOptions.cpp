@@ -43,10 +43,10 @@ const std::vector<NumberOption<SiteRepresentation>> &numberOptions()
     return options;
 }
 
-/// What an entry of a catalogue may be called, besides its number.
+/// The names of a catalogue's entry that an option accepts, besides its number.
 struct Choice
 {
-    QString shown; ///< in lists of what there is
+    QString shown; ///< name in lists of the entries
     QStringList names;
 };
 
@@ -66,7 +66,7 @@ QList<Choice> choicesOf(const QList<sites::SectorColorSet> &sets)
     return choices;
 }
 
-/// Index of the entry that is called `wanted`, in any case of letters, else of the entry of that
+/// Index of the entry with the name `wanted`, in upper or lower case, else of the entry with this
 /// number; -1 for none.
 int find(const QList<Choice> &choices, const QString &wanted)
 {

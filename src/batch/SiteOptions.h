@@ -10,19 +10,19 @@ namespace vlt::batch {
 /// One option for each value of the site representation.
 QList<QCommandLineOption> siteOptions();
 
-/// The catalogues that --sector-colors and --pylon-type choose from, for the help.
+/// The entries of the catalogues for --sector-colors and --pylon-type, for the help.
 QString catalogueLists(const Place &place);
 
-/// The representation that the options describe; what is not given has its first-run value.
+/// The representation of the options; options that are not given have their first-run values.
 ///
-/// Pylon types are named by type, both catalogues' entries by their number, from 1, or by their
-/// description in any language; letters in any case.
+/// A pylon type is given by its type, and an entry of either catalogue by its number, from 1, or by
+/// its description in any language, in upper or lower case.
 ///
-/// @par Errors   no key; which option has which wrong value.
+/// @par Errors   no key; the text names the option and its wrong value.
 Result<sites::SiteRepresentation> readSiteOptions(const QCommandLineParser &parser,
                                                   const sites::SiteCatalogues &catalogues);
 
-/// Checks the numbers apart from the catalogues, which are known only after start-up.
+/// Reads and checks only the numbers: the catalogues are known only after start-up.
 Result<sites::SiteRepresentation> readSiteNumbers(const QCommandLineParser &parser);
 
 } // namespace vlt::batch

@@ -26,7 +26,7 @@ namespace {
 
 using snapshot::SceneView;
 
-/// What the command line asks for.
+/// The values of the command line.
 struct Request
 {
     QString layer;
@@ -146,7 +146,7 @@ void tellNotices(const QStringList &notices, const GlobalOptions &options)
     }
 }
 
-/// What the scene's reader says of it: lines "key=value".
+/// The scene's description, which has lines "key=value".
 QJsonObject descriptionOf(const osg::Node &scene)
 {
     QJsonObject object;
@@ -172,7 +172,7 @@ bool tell(const Request &request, const osg::Node &scene)
     return printOut(QString::fromUtf8(QJsonDocument(object).toJson()));
 }
 
-/// The error, with the layer as the file that it is about where it names none.
+/// Refuses the layer; an error without a file gets the layer as its file.
 ExitStatus refuseLayer(Error error, const Request &request)
 {
     if (error.path.isEmpty())
@@ -183,12 +183,12 @@ ExitStatus refuseLayer(Error error, const Request &request)
 Result<snapshot::Scene> readScene(const Request &request, const GlobalOptions &options)
 {
     ProgressLine line(dico_label("MESS_CLI_READING_SCENE", "Reading the scene"), !options.quiet);
-    // never stopped
+    // The progress line never stops the work, so there is a value.
     return *snapshot::readScene(request.layer, options.projectPath, request.terrain,
                                 line.progress());
 }
 
-/// The exit status where that fails.
+/// Writes the picture; returns an exit status only after a failure.
 std::optional<ExitStatus> writePicture(const QString &output, const QByteArray &bytes)
 {
     QString reason;
@@ -204,7 +204,7 @@ std::optional<ExitStatus> writePicture(const QString &output, const QByteArray &
                    QStringLiteral("the picture cannot be written"), output, reason});
 }
 
-/// Tables become scenes by way of layers only.
+/// Whether the file is a table: only layers of tables can be shown, not the tables.
 bool isTable(const QString &layer)
 {
     static const QStringList suffixes = {QStringLiteral("csv"), QStringLiteral("xls"),
@@ -218,7 +218,7 @@ ExitStatus makePicture(const Request &request, const GlobalOptions &options)
     snapshot::SceneNotices notices;
     const Result<snapshot::Scene> scene = readScene(request, options);
     if (!scene) {
-        notices.take(); // the same reason in other words
+        notices.take(); // they repeat the error's reason
         return refuseLayer(scene.error(), request);
     }
     tellNotices(notices.take(), options);

@@ -4,7 +4,7 @@
 
 namespace vlt::batch {
 
-/// "vltlayers snapshot LAYER -o PICTURE.png": a picture of a layer, or of any scene.
+/// "vltlayers snapshot LAYER -o PICTURE.png": draws a picture of a layer or of any scene.
 Command snapshotCommand();
 
 } // namespace vlt::batch

@@ -5,7 +5,7 @@
 
 namespace vlt::batch {
 
-/// What a command works in.
+/// Installation, language and project of a command.
 struct Surroundings
 {
     QString installDir; ///< absolute
@@ -13,14 +13,14 @@ struct Surroundings
     project::ProjectContext project;
 };
 
-/// Settles install directory and language and loads the messages; the directory need not be there.
+/// Chooses install directory and language and loads the dictionaries; the directory need not exist.
 Place settlePlace(const SplitArguments &arguments);
 
-/// Sets the geodata library up and reads the project. Warns on the error output of a project
-/// that names nothing.
+/// Sets the geodata library up and reads the project. Warns on the error output of a project that
+/// names neither files nor a coordinate system.
 ///
-/// @par Errors   MESS_OUV_PRJ_IMP for a project that cannot be read; an install directory that is
-/// not there.
+/// @par Errors   MESS_OUV_PRJ_IMP for a project that cannot be read; MESS_CLI_NO_INSTALL_DIR for a
+///               missing install directory.
 Result<Surroundings> startUp(const GlobalOptions &options);
 
 } // namespace vlt::batch

@@ -9,10 +9,10 @@ namespace vlt::batch {
 
 namespace {
 
-/// A letter more, less or another one for each so many letters is a slip.
+/// One typing error is accepted per this many letters.
 constexpr qsizetype LettersPerSlip = 4;
 
-/// How many letters have to be added, left out, replaced or swapped with their neighbour.
+/// Number of letters to insert, remove, replace or swap with their neighbour.
 qsizetype distance(const QString &from, const QString &to)
 {
     std::vector<std::vector<qsizetype>> cost(

@@ -42,7 +42,7 @@ ExitStatus refuseCommand(const QString &name)
                        didYouMean(name, names));
 }
 
-/// Deals with --help, --version and a wrong command line; none where the command has to run.
+/// Handles --help, --version and a wrong command line; none if the command must run.
 std::optional<ExitStatus> answerHelp(const QCommandLineParser &parser,
                                      const Result<GlobalOptions> &options,
                                      const std::function<QString()> &help)
@@ -66,7 +66,7 @@ ExitStatus runCommand(const Command &command, const QStringList &arguments, cons
     return command.run(parser, options.value());
 }
 
-/// "help", "help COMMAND", or no command at all.
+/// Handles "help", "help COMMAND" and a command line without a command.
 ExitStatus runWithoutCommand(const SplitArguments &split, const Place &place)
 {
     const bool isHelp = split.command == HelpCommand;
@@ -90,7 +90,7 @@ ExitStatus runWithoutCommand(const SplitArguments &split, const Place &place)
     return command ? answer(helpText(command->syntax(), place)) : refuseCommand(name);
 }
 
-/// @param damaged  an argument whose bytes are no text; empty for none
+/// @param damaged  an argument whose bytes are not valid text; empty for none
 ExitStatus run(const SplitArguments &split, const QString &damaged)
 {
     const Place place = settlePlace(split);
@@ -107,11 +107,12 @@ ExitStatus run(const SplitArguments &split, const QString &damaged)
     return refuseCommand(split.command);
 }
 
-/// The application object; with fonts where texts are drawn, which takes no display here.
+/// The application object. With fonts it can draw texts; it needs no display.
 std::unique_ptr<QCoreApplication> makeApplication(char **argv, bool withFonts)
 {
     static int ownNameOnly = 1;
-    // the toolkit warns of a missing desktop, and of a locale that is not UTF-8
+    // The toolkit warns of a missing desktop and of a locale that is not UTF-8; these warnings are
+    // not shown.
     const QtMessageHandler usual =
         qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
     std::unique_ptr<QCoreApplication> application;
@@ -138,10 +139,10 @@ int main(int argc, char **argv)
     }
 
     const SplitArguments split = splitCommand(arguments);
-    // what the wizard's log has is not for the terminal
+    // Entries of the wizard's log do not appear on the terminal.
     QLoggingCategory::setFilterRules(QStringLiteral("default.info=false"));
     const auto application = makeApplication(argv, split.command == QLatin1String("buildings"));
-    // The application object takes the whole of the user's locale; numbers keep the C one.
+    // The application object sets all categories of the user's locale; numbers keep the C locale.
     std::setlocale(LC_NUMERIC, "C");
     return static_cast<int>(run(split, damaged));
 }
