@@ -20,7 +20,7 @@ namespace {
 /// Pixels of the legend per unit of the screen, so that it is sharp on screens of high density.
 constexpr int LegendScale = 2;
 
-constexpr QLatin1String DocumentSuffix(contract::BuildingDocumentSuffix);
+const QLatin1String DocumentSuffix(contract::BuildingDocumentSuffix);
 
 /// Name of a legend that starts with the document's name, which no other layer has.
 QString ownLegendName(const QString &document, const QString &colorMapName)
