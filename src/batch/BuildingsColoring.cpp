@@ -72,15 +72,13 @@ Result<std::shared_ptr<coverage::CoverageRaster>> openRaster(RasterColoring &col
     if (summary.value().bandCount != 1)
         return notOneBand(summary.value(), given);
     const geodata::ErrorCollector errors; // errors are returned as reasons, not printed
-    std::string reason;
-    std::shared_ptr<coverage::CoverageRaster> raster =
-        coverage::CoverageRaster::open(QFile::encodeName(coloring.rasterFile).toStdString(),
-                                       coloring.noData.toStdString(), &reason);
+    auto raster = coverage::CoverageRaster::open(
+        QFile::encodeName(coloring.rasterFile).toStdString(), coloring.noData.toStdString());
     if (!raster)
         return Error{QStringLiteral("MESS_ERR_OPEN_RASTERDS"),
                      QStringLiteral("This file can't be open as a raster dataset"), given,
-                     QString::fromLocal8Bit(reason.c_str())};
-    return raster;
+                     QString::fromLocal8Bit(raster.reason.c_str())};
+    return std::shared_ptr(std::move(raster.file));
 }
 
 std::optional<coverage::ValueRange> rangeOf(coverage::CoverageRaster &raster, bool quiet)

@@ -14,13 +14,12 @@ Stoppable<std::optional<coverage::ValueRange>>
 readCoverageRange(const QString &raster, const QString &noData, const Progress &progress)
 {
     const geodata::ErrorCollector errors;
-    std::string reason;
     const auto opened = coverage::CoverageRaster::open(QFile::encodeName(raster).toStdString(),
-                                                       noData.toStdString(), &reason);
+                                                       noData.toStdString());
     if (!opened)
         return Error{QStringLiteral("MESS_ERR_OPEN_RASTERDS"),
                      QStringLiteral("This file can't be open as a raster dataset"), raster,
-                     QString::fromLocal8Bit(reason.c_str())};
+                     QString::fromLocal8Bit(opened.reason.c_str())};
     bool isStopped = false;
     const std::optional<coverage::ValueRange> range = opened->range([&](double share) {
         isStopped = progress && !progress(share);

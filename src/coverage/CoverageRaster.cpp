@@ -107,14 +107,13 @@ CoverageRaster::CoverageRaster(std::unique_ptr<Parts> parts) : m_parts(std::move
 
 CoverageRaster::~CoverageRaster() = default;
 
-std::unique_ptr<CoverageRaster> CoverageRaster::open(const std::string &path,
-                                                     const std::string &noData, std::string *reason)
+contract::Opened<std::unique_ptr<CoverageRaster>> CoverageRaster::open(const std::string &path,
+                                                                       const std::string &noData)
 {
     const CPLErrorHandlerPusher quiet(CPLQuietErrorHandler);
     const localfiles::NoNetwork offline;
     const std::optional<double> typed = contract::noDataNumber(noData);
-    std::string why;
-    GDALDatasetUniquePtr dataset = openLocalRaster(path, RasterUse::Values, &why);
+    auto [dataset, why] = openLocalRaster(path, RasterUse::Values);
     if (dataset && dataset->GetRasterCount() != 1)
         why = contract::formatted("MESS_SCENE_NOT_ONE_BAND");
     else if (dataset && GDALDataTypeIsComplex(dataset->GetRasterBand(1)->GetRasterDataType()))
@@ -122,11 +121,9 @@ std::unique_ptr<CoverageRaster> CoverageRaster::open(const std::string &path,
     else if (dataset && !contract::isNoDataText(noData))
         why = contract::formatted("MESS_SCENE_BAD_NODATA", {noData});
     if (why.empty())
-        return std::unique_ptr<CoverageRaster>(
-            new CoverageRaster(std::make_unique<Parts>(std::move(dataset), typed)));
-    if (reason)
-        *reason = why;
-    return nullptr;
+        return {std::unique_ptr<CoverageRaster>(
+            new CoverageRaster(std::make_unique<Parts>(std::move(dataset), typed)))};
+    return {nullptr, why};
 }
 
 std::optional<ValueRange> CoverageRaster::range(const Progress &progress)

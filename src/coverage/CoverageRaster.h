@@ -1,5 +1,6 @@
 #pragma once
 
+#include "contract/Opened.h"
 #include "contract/Progress.h"
 #include "contract/RasterColors.h"
 
@@ -39,11 +40,10 @@ public:
     ///
     /// @param path    absolute (see locateRaster()), in bytes of the file system
     /// @param noData  as typed: a "no data" value in addition to the file's own; may be empty
-    /// @param reason  receives the reason of a failure
-    /// @return        null if it cannot be opened, does not have exactly one band, or `noData` is
+    /// @return        none if it cannot be opened, does not have exactly one band, or `noData` is
     ///                not a number
-    static std::unique_ptr<CoverageRaster> open(const std::string &path, const std::string &noData,
-                                                std::string *reason);
+    static contract::Opened<std::unique_ptr<CoverageRaster>> open(const std::string &path,
+                                                                  const std::string &noData);
     ~CoverageRaster();
 
     /// Minimum and maximum of all pixels that have a value, with scale and offset applied; nothing

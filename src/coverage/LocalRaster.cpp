@@ -124,7 +124,7 @@ GDALDatasetUniquePtr openListedPart(const std::string &name)
     return nullptr;
 }
 
-GDALDatasetUniquePtr openLocalRaster(const std::string &name, RasterUse use, std::string *reason)
+contract::Opened<GDALDatasetUniquePtr> openLocalRaster(const std::string &name, RasterUse use)
 {
     CPLErrorReset();
     const bool isFile = localfiles::isLocalDataset(name);
@@ -134,18 +134,12 @@ GDALDatasetUniquePtr openLocalRaster(const std::string &name, RasterUse use, std
     else
         dataset = use == RasterUse::Values ? localfiles::openRasterValues(name)
                                            : localfiles::openRasterPicture(name);
-    std::string why;
-    if (!dataset) {
-        why = CPLGetLastErrorMsg();
-        if (why.empty())
-            why = contract::formatted("MESS_TERRAIN_NOT_LOCAL");
-    } else if (hasLargeBlocks(*dataset)) {
-        why = contract::formatted("MESS_TERRAIN_TOO_LARGE");
-        dataset.reset();
-    }
-    if (reason && !dataset)
-        *reason = why;
-    return dataset;
+    if (dataset && hasLargeBlocks(*dataset))
+        return {nullptr, contract::formatted("MESS_TERRAIN_TOO_LARGE")};
+    if (dataset)
+        return {std::move(dataset)};
+    const std::string why = CPLGetLastErrorMsg();
+    return {nullptr, why.empty() ? contract::formatted("MESS_TERRAIN_NOT_LOCAL") : why};
 }
 
 } // namespace vlt::coverage

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "contract/Opened.h"
+
 #include <gdal_priv.h>
 
 #include <string>
@@ -23,10 +25,8 @@ enum class RasterUse { Values, Picture };
 ///
 /// The caller keeps the library off the network and quiet.
 ///
-/// @param name    with an absolute path
-/// @param reason  receives the reason of a failure; may be null
-/// @return        null if it cannot be opened
-GDALDatasetUniquePtr openLocalRaster(const std::string &name, RasterUse use, std::string *reason);
+/// @param name  with an absolute path
+contract::Opened<GDALDatasetUniquePtr> openLocalRaster(const std::string &name, RasterUse use);
 
 /// Opens a part by the name under which a local file lists it. The first path in the name has to be
 /// the absolute path of a local file, because a file may list any name, even a network address.

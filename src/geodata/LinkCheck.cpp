@@ -21,12 +21,9 @@ std::shared_ptr<linkpath::TerrainRaster> openTerrain(const QString &file, QStrin
 {
     if (file.isEmpty())
         return nullptr;
-    std::string reason;
-    std::shared_ptr<linkpath::TerrainRaster> terrain =
-        linkpath::TerrainRaster::open(QFile::encodeName(file).toStdString(), &reason);
-    if (!terrain)
-        problem = platform::decodeText(QByteArray::fromStdString(reason));
-    return terrain;
+    auto terrain = linkpath::TerrainRaster::open(QFile::encodeName(file).toStdString());
+    problem = platform::decodeText(QByteArray::fromStdString(terrain.reason));
+    return std::move(terrain.file);
 }
 
 /// Computes length and clearance of each link that is read, and keeps the reports.

@@ -49,30 +49,21 @@ double metresPerUnit(const char *unit)
 
 } // namespace
 
-std::unique_ptr<TerrainRaster> TerrainRaster::open(const std::string &path, std::string *reason,
-                                                   const TerrainHints &hints)
+contract::Opened<std::unique_ptr<TerrainRaster>> TerrainRaster::open(const std::string &path,
+                                                                     const TerrainHints &hints)
 {
     const CPLErrorHandlerPusher quiet(CPLQuietErrorHandler);
     CPLErrorReset();
     const localfiles::NoNetwork offline;
-    std::string why;
     if (!localfiles::isLocalFile(path))
-        why = contract::formatted("MESS_TERRAIN_NOT_LOCAL");
-    std::unique_ptr<TerrainRaster> raster;
-    if (why.empty()) {
-        GDALDatasetUniquePtr dataset = localfiles::openRasterValues(path);
-        if (!dataset)
-            why = CPLGetLastErrorMsg();
-        else
-            raster.reset(new TerrainRaster(std::move(dataset)));
-    }
-    if (const char *fault = raster ? raster->prepare(hints) : nullptr) {
-        why = fault;
-        raster.reset();
-    }
-    if (!raster && reason)
-        *reason = why;
-    return raster;
+        return {nullptr, contract::formatted("MESS_TERRAIN_NOT_LOCAL")};
+    GDALDatasetUniquePtr dataset = localfiles::openRasterValues(path);
+    if (!dataset)
+        return {nullptr, CPLGetLastErrorMsg()};
+    std::unique_ptr<TerrainRaster> raster(new TerrainRaster(std::move(dataset)));
+    if (const char *fault = raster->prepare(hints))
+        return {nullptr, fault};
+    return {std::move(raster)};
 }
 
 double TerrainRaster::asStored(double value) const

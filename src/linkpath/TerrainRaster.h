@@ -1,5 +1,7 @@
 #pragma once
 
+#include "contract/Opened.h"
+
 #include <gdal_priv.h>
 #include <ogr_spatialref.h>
 
@@ -23,11 +25,10 @@ struct TerrainHints
 class TerrainRaster
 {
 public:
-    /// Opens a local raster file. Null if it cannot be opened, is not georeferenced or has no
-    /// coordinate system, neither its own nor an assumed one. `reason` receives the reason: a text
-    /// of contract/SceneTexts.h or a message of GDAL.
-    static std::unique_ptr<TerrainRaster> open(const std::string &path, std::string *reason,
-                                               const TerrainHints &hints = {});
+    /// Opens a local raster file. There is none if it cannot be opened, is not georeferenced or has
+    /// no coordinate system, neither its own nor an assumed one.
+    static contract::Opened<std::unique_ptr<TerrainRaster>> open(const std::string &path,
+                                                                 const TerrainHints &hints = {});
 
     /// Height above sea level in metres, interpolated between the centres of the four pixels around
     /// the point. Nothing outside the raster, and if one of the pixels has no data or a height that

@@ -140,7 +140,7 @@ private Q_SLOTS:
                                           : std::round(-60 - i % Columns / 40.0 - noise / 4.0));
         }
         const auto raster =
-            CoverageRaster::open(fileOf("town.tif", Columns, values, placing), "-77", nullptr);
+            CoverageRaster::open(fileOf("town.tif", Columns, values, placing), "-77");
         QVERIFY(raster);
         const GDALDatasetUniquePtr town(GDALDataset::Open(VLT_TOWN, GDAL_OF_VECTOR));
         QVERIFY(town);
@@ -169,7 +169,7 @@ private Q_SLOTS:
             }
             if (within.empty())
                 continue;
-            const auto found = valueUnder(*raster, ringsOf(*shape->toPolygon()), reduction);
+            const auto found = valueUnder(*raster.file, ringsOf(*shape->toPolygon()), reduction);
             QVERIFY(found);
             QCOMPARE(*found, reduced(within, reduction));
             ++compared;
@@ -218,14 +218,15 @@ private Q_SLOTS:
         const std::string path =
             fileOf("few.tif", 4, {10, 20, 30, 40, 50, 60, FileNoData, 80, 90, 60, TypedNoData, 30},
                    {0, 10, 0, 30, 0, -10});
-        const auto raster = CoverageRaster::open(path, " -77 ", nullptr);
+        const auto raster = CoverageRaster::open(path, " -77 ");
         QVERIFY(raster);
         const OGRGeometryUniquePtr shape = polygonOf(wkt);
         QVERIFY(shape);
 
-        QCOMPARE(valueUnder(*raster, ringsOf(*shape->toPolygon()), static_cast<Reduction>(mode))
-                     .value_or(NaN),
-                 expected);
+        QCOMPARE(
+            valueUnder(*raster.file, ringsOf(*shape->toPolygon()), static_cast<Reduction>(mode))
+                .value_or(NaN),
+            expected);
     }
 
     void scalesValuesAndFindsTheirRange()
@@ -239,13 +240,14 @@ private Q_SLOTS:
             file->GetRasterBand(1)->SetScale(0.5);
             file->GetRasterBand(1)->SetOffset(-100);
         }
-        const auto plain = CoverageRaster::open(path, "", nullptr);
-        const auto typed = CoverageRaster::open(path, "-77", nullptr);
+        const auto plain = CoverageRaster::open(path, "");
+        const auto typed = CoverageRaster::open(path, "-77");
 
         QCOMPARE(plain->range()->minimum, -138.5);
         QCOMPARE(typed->range()->minimum, -99.5);
         QCOMPARE(typed->range()->maximum, -96.5);
-        QCOMPARE(valueUnder(*typed, {{{0, 0}, {3, 0}, {3, 2}, {0, 2}}}, Reduction::Average), -98.);
+        QCOMPARE(valueUnder(*typed.file, {{{0, 0}, {3, 0}, {3, 2}, {0, 2}}}, Reduction::Average),
+                 -98.);
         QVERIFY(!typed->range([](double) { return false; }));
         {
             const GDALDatasetUniquePtr file(
@@ -256,9 +258,8 @@ private Q_SLOTS:
                          GF_Write, 0, 0, 3, 2, isSeen.data(), 3, 2, GDT_Byte, 0, 0, nullptr),
                      CE_None);
         }
-        QCOMPARE(CoverageRaster::open(path, "-77", nullptr)->range()->maximum, -99.5);
-        QVERIFY(
-            !CoverageRaster::open(fileOf("none.tif", 1, {FileNoData}, {}), "", nullptr)->range());
+        QCOMPARE(CoverageRaster::open(path, "-77")->range()->maximum, -99.5);
+        QVERIFY(!CoverageRaster::open(fileOf("none.tif", 1, {FileNoData}, {}), "")->range());
     }
 
     /// Such a grid shows itself as three colours before its values.
@@ -273,13 +274,12 @@ private Q_SLOTS:
                     grid.c_str(), plain.get(), false, nullptr, nullptr, nullptr)));
         }
 
-        const auto raster = CoverageRaster::open(grid, "", nullptr);
+        const auto raster = CoverageRaster::open(grid, "");
 
         QVERIFY(raster && raster->range());
         QVERIFY(std::abs(raster->range()->minimum + 120) < 0.1); // it keeps steps of the range
         QVERIFY(std::abs(raster->range()->maximum + 60) < 0.1);
-        std::string reason;
-        const auto picture = openLocalRaster(grid, RasterUse::Picture, &reason);
+        const auto picture = openLocalRaster(grid, RasterUse::Picture);
         QCOMPARE(picture->GetRasterBand(1)->GetColorInterpretation(), GCI_RedBand);
     }
 
@@ -300,7 +300,7 @@ private Q_SLOTS:
         for (const std::string name : names) {
             const std::string located =
                 locateRaster(name, {"/nowhere", m_dir.path().toStdString()});
-            const auto raster = CoverageRaster::open(located, "", nullptr);
+            const auto raster = CoverageRaster::open(located, "");
             QVERIFY2(raster, located.c_str());
             QCOMPARE(raster->range()->minimum, 2.);
         }
@@ -313,9 +313,9 @@ private Q_SLOTS:
         const std::string named = "NETCDF:\"http://localhost:9/a.nc\":" + path;
         GDALDatasetUniquePtr(GDALDataset::Open(path.c_str(), GDAL_OF_RASTER | GDAL_OF_UPDATE))
             ->SetMetadataItem("SUBDATASET_1_NAME", named.c_str(), "SUBDATASETS");
-        std::string reason;
-        QVERIFY(!CoverageRaster::open(named, "", &reason));
-        QCOMPARE(reason, "not in a file of this computer");
+        const auto opened = CoverageRaster::open(named, "");
+        QVERIFY(!opened);
+        QCOMPARE(opened.reason, "not in a file of this computer");
         for (const std::string &name :
              {std::string("NETCDF:http://localhost:9/a.nc:z"), "NETCDF:http:/" + path + ":z",
               std::string("GTIFF_DIR:1:/vsicurl/http://localhost:9/a.tif")})
@@ -367,10 +367,10 @@ private Q_SLOTS:
         GDALDriver *tiff = GetGDALDriverManager()->GetDriverByName("GTiff");
         QVERIFY(tiff->CopyFiles("/vsimem/one.tif", path.c_str()) == CE_None);
 
-        std::string why;
         const std::string located = locateRaster(name.toStdString(), {m_dir.path().toStdString()});
-        QVERIFY(!CoverageRaster::open(located, noData.toStdString(), &why));
-        QVERIFY2(QString::fromStdString(why).contains(reason), why.c_str());
+        const auto opened = CoverageRaster::open(located, noData.toStdString());
+        QVERIFY(!opened);
+        QVERIFY2(QString::fromStdString(opened.reason).contains(reason), opened.reason.c_str());
     }
 };
 

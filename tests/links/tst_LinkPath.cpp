@@ -52,7 +52,7 @@ std::shared_ptr<TerrainRaster> terrain(const QString &path, double wallM, int ot
                                              GDT_Float32, 0, 0, nullptr) != CE_None)
             return nullptr;
     file.reset(); // writes it
-    return TerrainRaster::open(path.toLocal8Bit().toStdString(), nullptr);
+    return TerrainRaster::open(path.toLocal8Bit().toStdString()).file;
 }
 
 } // namespace
@@ -258,7 +258,7 @@ void tst_LinkPath::heights()
              CE_None);
     file.reset();
 
-    const auto read = TerrainRaster::open(path.toStdString(), nullptr)->heightM(place[0], place[1]);
+    const auto read = TerrainRaster::open(path.toStdString())->heightM(place[0], place[1]);
 
     QCOMPARE(read.has_value(), std::isfinite(height));
     QVERIFY(!read || std::abs(*read - height) < 1e-3);
@@ -276,7 +276,7 @@ void tst_LinkPath::heightsBehindAPicture()
             grid.constData(), file.get(), false, nullptr, nullptr, nullptr)));
     }
 
-    const auto read = TerrainRaster::open(grid.toStdString(), nullptr);
+    const auto read = TerrainRaster::open(grid.toStdString());
 
     QVERIFY(read);
     for (const double x : {WestM + 2.5 * PixelM, WestM + Columns / 2 * PixelM})
@@ -309,9 +309,9 @@ void tst_LinkPath::refusedTerrain_data()
 void tst_LinkPath::refusedTerrain()
 {
     QFETCH(QString, path);
-    std::string reason;
-    QVERIFY(!TerrainRaster::open(path.toStdString(), &reason));
-    QVERIFY(!reason.empty());
+    const auto opened = TerrainRaster::open(path.toStdString());
+    QVERIFY(!opened);
+    QVERIFY(!opened.reason.empty());
 }
 
 QTEST_MAIN(tst_LinkPath)

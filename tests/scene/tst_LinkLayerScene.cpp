@@ -313,9 +313,8 @@ private:
         const auto table =
             locateTable(source.toStdString(), LayerKind::Links, {m_folder.path().toStdString()});
         const LinkRows rows = readLinkRows(table, {});
-        std::string reason;
         const vlt::linkpath::PathProfiler profiler(
-            vlt::linkpath::TerrainRaster::open(path("dem.tif").toStdString(), &reason), &rows.srs);
+            vlt::linkpath::TerrainRaster::open(path("dem.tif").toStdString()).file, &rows.srs);
         return placeLinks(rows, readLinkLayerStyle(table), profiler);
     }
 

@@ -28,11 +28,11 @@ public:
     {
         OGRSpatialReference plane;
         plane.SetLocalCS("plane");
-        std::string reason;
-        m_raster = linkpath::TerrainRaster::open(
-            source.path, &reason, {contract::noDataNumber(source.noData), srs ? srs : &plane});
-        if (!m_raster)
+        auto [raster, reason] = linkpath::TerrainRaster::open(
+            source.path, {contract::noDataNumber(source.noData), srs ? srs : &plane});
+        if (!raster)
             throw BadLayer(LibraryWords{reason});
+        m_raster = std::move(raster);
         const OGRSpatialReference &own = m_raster->srs();
         if (srs && !srs->IsSame(&own)) {
             m_toRaster.reset(OGRCreateCoordinateTransformation(srs, &own));

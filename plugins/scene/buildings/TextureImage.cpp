@@ -79,9 +79,7 @@ std::unique_ptr<TextureImage> TextureImage::open(const std::string &name, const 
 {
     const CPLErrorHandlerPusher quiet(CPLQuietErrorHandler);
     const localfiles::NoNetwork offline;
-    std::string reason;
-    GDALDatasetUniquePtr dataset =
-        coverage::openLocalRaster(name, coverage::RasterUse::Picture, &reason);
+    auto [dataset, reason] = coverage::openLocalRaster(name, coverage::RasterUse::Picture);
     if (!dataset)
         throw BadLayer(LibraryWords{reason});
     std::unique_ptr<TextureImage> image(new TextureImage(name, srs, std::move(dataset)));
@@ -253,7 +251,7 @@ ImageCrop TextureImage::crop(const std::vector<osg::Vec2d> &pixels, double dilat
         const localfiles::NoNetwork offline;
         const GDALDatasetUniquePtr anew =
             m_dataset ? nullptr
-                      : coverage::openLocalRaster(m_name, coverage::RasterUse::Picture, nullptr);
+                      : coverage::openLocalRaster(m_name, coverage::RasterUse::Picture).file;
         if (GDALDataset *dataset = m_dataset ? m_dataset.get() : anew.get())
             read(*dataset, *window, *crop.image);
     }

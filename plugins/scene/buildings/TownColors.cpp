@@ -59,14 +59,13 @@ ColorMap loadMap(const RasterColors &colors, const std::vector<std::string> &dir
 std::unique_ptr<CoverageRaster> openRaster(const RasterColors &colors,
                                            const std::vector<std::string> &directories)
 {
-    std::string reason;
-    auto raster = CoverageRaster::open(coverage::locateRaster(colors.raster, directories),
-                                       colors.noData, &reason);
+    auto [raster, reason] =
+        CoverageRaster::open(coverage::locateRaster(colors.raster, directories), colors.noData);
     if (raster && !raster->isPlaced())
         reason = contract::formatted("MESS_SCENE_NOT_PLACED");
     if (!reason.empty())
         throw BadLayer("MESS_SCENE_BAD_RASTER", {colors.raster, reason});
-    return raster;
+    return std::move(raster);
 }
 
 /// The buildings in an order in which neighbours follow each other, so that a raster is read once.

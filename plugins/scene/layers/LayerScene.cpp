@@ -25,12 +25,10 @@ std::shared_ptr<linkpath::TerrainRaster> openTerrain(const contract::ConnectionS
     const std::string named = table.option(contract::query::TerrainFile);
     if (named.empty())
         return nullptr;
-    std::string reason;
-    std::shared_ptr<linkpath::TerrainRaster> terrain =
-        linkpath::TerrainRaster::open(locateFile(named, directories), &reason);
+    auto [terrain, reason] = linkpath::TerrainRaster::open(locateFile(named, directories));
     if (!terrain)
         notices.push_back(contract::formatted("MESS_SCENE_LINK_TERRAIN", {named, reason}));
-    return terrain;
+    return std::move(terrain);
 }
 
 osg::BoundingBoxd extentOf(const PylonRecords &pylons)
