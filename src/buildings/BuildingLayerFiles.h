@@ -62,9 +62,8 @@ struct TexturedLook
     QString wallColor; ///< "#RRGGBB" or colorMapColor()
     QString roofColor;
     contract::TextureMode mode = contract::TextureMode::Roofs;
-    std::optional<contract::BuildingTextures>
-        textures;            ///< without mode and images, which are the other members
-    QList<FileEntry> images; ///< only those in use are written
+    std::optional<contract::BuildingTextures> textures; ///< without mode and images
+    QList<FileEntry> images;                            ///< only those in use are written
 };
 
 /// The same for the full document.

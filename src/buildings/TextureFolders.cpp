@@ -236,8 +236,7 @@ private:
     }
 
     const QList<Image> m_images;
-    std::vector<QList<FileEntry>>
-        m_read; ///< in the order of m_images; each element is written by one thread
+    std::vector<QList<FileEntry>> m_read; ///< as m_images; one thread writes each
     std::atomic<qsizetype> m_next = 0;
     std::atomic<bool> m_isStopped = false;
 };
