@@ -9,8 +9,8 @@
 
 namespace vlt::scene {
 
-/// A node whose content is made when it is about to be drawn for the first time. Its bound is known
-/// from the start, so that nothing above it changes then; several threads may cull it.
+/// A node that makes its content when it is culled for the first time. Its bound is given from the
+/// start, so that the nodes above it do not change then. Several threads may cull it.
 class DeferredNode : public osg::Node
 {
 public:

@@ -13,8 +13,8 @@ namespace vlt::scene {
 /// Red, green, blue, opacity; 0 .. 255 each.
 using Color = osg::Vec4ub;
 
-/// Triangles or line segments with a normal and a colour per vertex, collected before they become
-/// one drawable. Metres; front faces are counter-clockwise.
+/// Triangles or line segments that will become one drawable, with a normal and a colour per vertex.
+/// Metres; front faces are counter-clockwise.
 class Mesh
 {
 public:
@@ -29,7 +29,7 @@ public:
     void quad(unsigned a, unsigned b, unsigned c, unsigned d);
     void line(unsigned a, unsigned b);
 
-    /// Adds another mesh of the same kind, moved and turned by a matrix that does not scale.
+    /// Adds another mesh of the same kind, transformed by a matrix that does not scale.
     void append(const Mesh &other, const osg::Matrixd &placing);
 
     bool empty() const { return m_indices.empty(); }
@@ -38,8 +38,8 @@ public:
     const std::vector<osg::Vec3> &normals() const { return m_normals; }
     const std::vector<unsigned> &indices() const { return m_indices; }
 
-    /// Puts the vertices into a geometry, for buffer objects: no display lists. Lines carry no
-    /// normals.
+    /// Puts the vertices into a geometry that uses buffer objects, not display lists. Lines have no
+    /// normals in it.
     void fill(osg::Geometry &geometry) const;
 
 private:
@@ -50,10 +50,10 @@ private:
     std::vector<unsigned> m_indices;
 };
 
-/// What one object is made of, one mesh per material.
+/// The parts of an object: one mesh per material.
 struct Meshes
 {
-    Mesh metal; ///< steel: shines a little
+    Mesh metal; ///< steel, slightly shiny
     Mesh matt;  ///< concrete, wood, plastics
 };
 

@@ -4,8 +4,9 @@
 
 namespace vlt::scene {
 
-/// A node whose vertices are relative to `origin`, in its place. Vertices of single precision stay
-/// small; optimisers must not write the place into them.
+/// Moves a node, whose vertices are relative to `origin`, to its position. Vertices in single
+/// precision need small coordinates; the transform is therefore protected against optimisers, which
+/// would apply it to the vertices.
 osg::ref_ptr<osg::MatrixTransform> moved(const osg::ref_ptr<osg::Node> &node,
                                          const osg::Vec3d &origin);
 

@@ -7,14 +7,14 @@ namespace vlt::scene {
 
 namespace {
 
-constexpr double SmoothCosine = 0.79; ///< corners of less than 38 degrees are not seen as edges
+constexpr double SmoothCosine = 0.79; ///< of 38 degrees: corners with smaller angles are smoothed
 
 osg::Vec3d pointAt(const osg::Vec2d &at, double azimuthDeg)
 {
     return towards(azimuthDeg) * at.x() + osg::Vec3d(0, 0, at.y());
 }
 
-/// Normal of an outline's or a profile's edge, on its right hand side.
+/// Normal of an edge of an outline or a profile, to its right.
 osg::Vec2d outward(const osg::Vec2d &from, const osg::Vec2d &to)
 {
     osg::Vec2d normal(to.y() - from.y(), from.x() - to.x());
@@ -185,7 +185,7 @@ void addRevolved(Mesh &mesh, const Profile &profile, int segments, const Color &
         const unsigned first = faces == Faces::Round ? addEdge(0, 0) : 0;
         unsigned right = first;
         for (int k = 0; k < segments; ++k) {
-            // azimuths run clockwise: the later one is on the left for who looks at the body
+            // Azimuths are clockwise: seen from outside, the larger one is on the left.
             const double next = (k + 1) * step;
             unsigned left = first;
             if (faces == Faces::Flat) {
@@ -213,7 +213,7 @@ void addSpheroid(Mesh &mesh, const osg::Vec3d &centre, const osg::Vec3d &along, 
     const unsigned tip = mesh.vertex(centre + along, axis, color);
     const unsigned first = tip + 1;
     for (int i = 1; i < steps; ++i) {
-        // even steps of this angle are short ones at the tips
+        // Equal steps of this angle are short pieces near the tips.
         const double angle = osg::PI * i / steps;
         for (int k = 0; k < around; ++k) {
             const double turn = 2 * osg::PI * k / around;

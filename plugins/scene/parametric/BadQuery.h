@@ -6,7 +6,7 @@
 
 namespace vlt::scene {
 
-/// Thrown where a query cannot be drawn; the text names the item and its value for the user.
+/// Thrown if a query cannot be drawn. The text is for the user and names the item and its value.
 class BadQuery : public std::runtime_error
 {
 public:

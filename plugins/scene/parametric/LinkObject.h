@@ -14,21 +14,21 @@ namespace vlt::scene {
 
 using contract::LinkStyle;
 
-/// How links look. LinkFactory.h draws them.
+/// The appearance of links, which LinkFactory.h draws.
 struct LinkLook
 {
     LinkStyle style = LinkStyle::Line;
     double width = 1; ///< pixels or metres, see LinkStyle
     Color color;
-    bool colorByClearance = false; ///< whoever knows the verdicts sets the links' own colours
+    bool colorByClearance = false; ///< the class of a link's clearance sets LinkObject::color
     int fresnelZone = 0;           ///< number of the zone; 0: no ellipsoid
-    double fresnelShare = 1;       ///< of the ellipsoid's half axis across the link
-    Color fresnelColor;            ///< its opacity counts for a look through both walls
-    /// Of the earth's radius; for the clearance, the drawing is straight.
+    double fresnelShare = 1;       ///< share of the ellipsoid's semi-axis across the link
+    Color fresnelColor;            ///< with the opacity of both walls together
+    /// Factor of the earth's radius, for the clearance; links are drawn straight.
     double kFactor = contract::query::KFactorNumber.firstRun;
 };
 
-inline constexpr double LowestMHz = 1;    ///< below, ellipsoids are balls of hundreds of metres
+inline constexpr double LowestMHz = 1;    ///< at lower ones ellipsoids are hundreds of metres wide
 inline constexpr double HighestMHz = 1e6; ///< 1 THz
 
 /// A link between the centres of two antennas; x east, y north, z up, metres.
@@ -37,19 +37,21 @@ struct LinkObject
     osg::Vec3d a;
     osg::Vec3d b;
     double frequencyMHz = 0;    ///< 0: unknown, no ellipsoid
-    std::optional<Color> color; ///< of the line of sight, instead of the look's
+    std::optional<Color> color; ///< of the line of sight, instead of LinkLook::color
 };
 
-/// Gives the text of an item ("link_style"). @throws BadQuery  missing or doubled
+/// Returns the text of an item, such as "link_style". @throws BadQuery  it is missing or occurs
+/// twice
 using ItemText = std::function<std::string(std::string_view key)>;
 
-/// What " clearance" behind the colour of links stands for.
+/// Whether " clearance" may follow the colour of links.
 enum class ClearanceWord { Refused, Accepted };
 
-/// Reads link_style ("LINE", "TUBE", "BILLBOARD"), link_width, link_color ("rrggbbaa", perhaps
-/// "rrggbbaa clearance"), fresnel_zone, fresnel_share (per cent), fresnel_color and k_factor.
+/// Reads link_style ("LINE", "TUBE", "BILLBOARD"), link_width, link_color ("rrggbbaa" or, if
+/// accepted, "rrggbbaa clearance"), fresnel_zone, fresnel_share (per cent), fresnel_color and
+/// k_factor.
 ///
-/// @throws BadQuery  naming the item that is missing or cannot be used
+/// @throws BadQuery  An item is missing or invalid; the text names it.
 LinkLook readLinkLook(const ItemText &item, ClearanceWord clearance);
 
 } // namespace vlt::scene

@@ -28,7 +28,7 @@ LinkObject readLink(const std::string &item, std::string_view text)
     return link;
 }
 
-/// Reads the items whose order matters.
+/// Reads the pylons with their antennas: the only items whose order is relevant.
 void readPylons(const ParametricQuery &query, LinkSceneQuery &scene)
 {
     const PylonDesign common = readCommonDesign(query);

@@ -31,11 +31,11 @@ inline constexpr std::size_t MaxQueryLinks = 10000;
 ///     &link_style=TUBE&link_width=4&link_color=rrggbbaa
 ///     &fresnel_zone=1&fresnel_share=60&fresnel_color=rrggbbaa&k_factor=1.33333.inlinepylonurl
 ///
-/// Transmitters and dishes belong to the pylon before them, MaxTransmitters in all; else the items
-/// may stand in any order. Metres, degrees, per cent; a diameter of 0 stands for the usual one, a
-/// frequency of 0 for an unknown one. The data folder is accepted and not needed.
+/// A transmitter or dish belongs to the pylon before it; there may be MaxTransmitters of them in
+/// all. The other items may be in any order. Units are metres, degrees and per cent. A diameter of
+/// 0 means the default, a frequency of 0 an unknown one. The data folder is accepted but not used.
 ///
-/// @throws BadQuery  naming the item that cannot be used and its value
+/// @throws BadQuery  An item is invalid; the text names it and its value.
 LinkSceneQuery parseLinkQuery(std::string_view url);
 
 } // namespace vlt::scene

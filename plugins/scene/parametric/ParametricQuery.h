@@ -12,10 +12,10 @@
 
 namespace vlt::scene {
 
-/// A query "inline://parametric/query?key=value&key=value.inlinepylonurl" taken apart.
+/// The parts of a query "inline://parametric/query?key=value&key=value.inlinepylonurl".
 ///
-/// Nothing in it is escaped. The only value that may hold any text is the path "data_folder": it
-/// reaches up to the next known key.
+/// Nothing in it is escaped. Only the value of "data_folder", a path, may be any text: it reaches
+/// up to the next known key.
 class ParametricQuery
 {
 public:
@@ -23,20 +23,20 @@ public:
     using Item = std::pair<std::string_view, std::string_view>;
 
     /// @param keys  the known keys
-    /// @throws BadQuery  another form, an unknown key
+    /// @throws BadQuery  the text has another form or an unknown key
     ParametricQuery(std::string_view url, std::initializer_list<std::string_view> keys);
 
-    /// The value of an item that is there exactly once.
-    /// @throws BadQuery  missing or doubled
+    /// The value of an item that has to occur exactly once.
+    /// @throws BadQuery  it is missing or occurs twice
     std::string_view single(std::string_view key) const;
 
     /// All values of an item that may be repeated, in their order.
     std::vector<std::string_view> all(std::string_view key) const;
 
-    /// All items, for queries in which their order matters.
+    /// All items, for queries in which their order is relevant.
     const std::vector<Item> &items() const { return m_items; }
 
-    /// Refuses what need not be there but is there twice. @throws BadQuery  doubled
+    /// Checks that an optional item does not occur twice. @throws BadQuery  it does
     void atMostOnce(std::string_view key) const;
 
 private:
@@ -44,45 +44,45 @@ private:
     std::vector<Item> m_items;
 };
 
-/// A value as messages show it: short, without control characters.
+/// A value for use in messages: cut short, without control characters.
 std::string shown(std::string_view value);
 
-/// Whether a query asks for an object: "object=link" stands in it. All else is for its reader to
-/// judge.
+/// Whether a query is for a kind of object, that is, contains "object=link" or the like. Nothing
+/// else is checked.
 bool asksFor(std::string_view url, std::string_view object);
 
-/// Numbers and other words that stand in one value, with blanks between them.
+/// The numbers and other words of one value, which are separated by blanks.
 class Words
 {
 public:
-    /// @param item  how messages name the value: "transmitter 3"
+    /// @param item  name of the value in messages: "transmitter 3"
     Words(std::string item, std::string_view value);
 
-    /// @throws BadQuery  unless there are so many words
+    /// @throws BadQuery  the number of words is not `count`
     void expect(std::size_t count, std::string_view meaning) const;
 
     /// The next word as a number.
     ///
     /// @param name  the quantity, for messages
-    /// @throws BadQuery  no finite decimal number, or one outside the range
+    /// @throws BadQuery  it is not a finite decimal number, or outside the range
     double number(contract::SceneTextId name, const contract::Range &range);
 
-    /// The next word as a whole number. @throws BadQuery  as number() does
+    /// The next word as an integer. @throws BadQuery  as number()
     int wholeNumber(contract::SceneTextId name, const contract::Range &range);
 
-    /// The next word as a colour. @throws BadQuery  unless it is rrggbbaa
+    /// The next word as a colour. @throws BadQuery  it is not of the form rrggbbaa
     Color color();
 
-    /// How many words there are.
+    /// Number of all words.
     std::size_t count() const { return m_words.size(); }
 
-    /// The next word as it is; empty behind the last one.
+    /// The next word unchanged; empty after the last one.
     std::string_view word();
 
-    /// The word that comes next, which stays there.
+    /// The word that word() would return, without moving to the one after it.
     std::string_view next() const;
 
-    /// Refuses a word that has no meaning there. @throws BadQuery  always
+    /// Reports an unknown word. @throws BadQuery  always
     [[noreturn]] void refuseUnknown(contract::SceneTextId name, std::string_view word) const;
 
 private:

@@ -8,17 +8,17 @@ namespace vlt::scene {
 /// Reads the next three words as x, y and z.
 osg::Vec3d readPlace(Words &words);
 
-/// @throws BadQuery  no pylon type has that name
+/// @throws BadQuery  there is no pylon type of this name
 PylonType readPylonType(std::string_view text);
 
 /// Reads the items pylon_type, transmitter_scale and lod, which all pylons of a query share, and
-/// looks at data_folder.
+/// checks data_folder.
 PylonDesign readCommonDesign(const ParametricQuery &query);
 
 /// Reads "X Y Z HEIGHT WIDTH RADIUS SECTORHEIGHT SPACING".
 ///
-/// @param item  how messages name the value
-/// @param common  what the pylon has of all
+/// @param item    name of the value in messages
+/// @param common  the values that all pylons share
 PylonObject readPylon(const std::string &item, std::string_view text, const PylonDesign &common);
 
 /// Reads "HEIGHT AZIMUTH TILT BEAMWIDTH ANTENNALENGTH rrggbbaa".

@@ -13,7 +13,7 @@
 
 namespace vlt::scene {
 
-/// The kinds of mast, as the pylon catalogue lists them.
+/// The types of the pylon catalogue.
 enum class PylonType {
     MonopolePanel,
     MonopoleCylinder,
@@ -27,20 +27,20 @@ enum class PylonType {
     WaterTowerPanel,
 };
 
-/// The type that queries name so ("monopole_panel"); nothing for any other text.
+/// The type with a name in queries ("monopole_panel"); nothing for any other text.
 std::optional<PylonType> pylonTypeNamed(std::string_view name);
 
 enum class AntennaKind {
-    Usual, ///< a panel or a cylinder, as the mast's type has them
-    Dish,  ///< of a microwave link
+    Usual, ///< a panel or a cylinder, depending on the type of the mast
+    Dish,  ///< the antenna of a microwave link
 };
 
-/// One transmitter: an antenna in the precise representation, a sector in the symbolic one.
+/// A transmitter: an antenna in the precise representation, a sector in the symbolic one.
 struct Transmitter
 {
     double heightM = 0;        ///< centre of the antenna above the foot
     double azimuthDeg = 0;     ///< 0 is north, clockwise
-    double tiltDeg = 0;        ///< positive: beam below the horizon
+    double tiltDeg = 0;        ///< positive: the beam points below the horizon
     double beamWidthDeg = 0;   ///< horizontal; 0: UsualBeamWidthDeg or UsualDishBeamDeg
     double antennaLengthM = 0; ///< before scaling; 0: UsualAntennaLengthM or UsualDishDiameterM
     Color color;               ///< of the sector and of the antenna's mark
@@ -52,22 +52,22 @@ struct Transmitter
 
 inline constexpr double UsualBeamWidthDeg = 65;
 inline constexpr double UsualAntennaLengthM = 2;
-inline constexpr double UsualDishBeamDeg = 20; ///< of its sector; a real beam would not be seen
+inline constexpr double UsualDishBeamDeg = 20; ///< of its sector; the real beam is hardly visible
 inline constexpr double UsualDishDiameterM = 0.9;
 
-/// Everything about a pylon but its place: pylons of equal design share their geometry.
+/// Everything about a pylon except its position: pylons of equal design share their geometry.
 struct PylonDesign
 {
     PylonType type = PylonType::MonopolePanel;
     double heightM = 0; ///< of the mast, without its lightning rod
-    double widthM = 0;  ///< of the whole mast; MastSection.h tells what each type makes of it
+    double widthM = 0;  ///< of the mast; MastSection.h gives its meaning for each type
     double sectorRadiusM = 0;
     double sectorHeightM = 0;  ///< thickness of a sector
-    double sectorSpacingM = 0; ///< gap between sectors of which one lies above the other
+    double sectorSpacingM = 0; ///< vertical gap between stacked sectors
     double antennaScale = 1;   ///< 0: no antennas
-    /// The pylon is seen up to here.
+    /// The pylon is drawn up to this distance.
     double symbolicDistanceM = contract::query::SymbolicDistanceM.firstRun;
-    /// The precise representation is seen up to here.
+    /// The precise representation is drawn up to this distance.
     double realisticDistanceM = contract::query::RealisticDistanceM.firstRun;
     std::vector<Transmitter> transmitters;
 
@@ -75,7 +75,7 @@ struct PylonDesign
     std::partial_ordering operator<=>(const PylonDesign &) const = default;
 };
 
-/// A pylon at its place: x east, y north, z up, metres.
+/// A pylon with its position: x east, y north, z up, metres.
 struct PylonObject
 {
     osg::Vec3d foot;

@@ -13,10 +13,10 @@ namespace vlt::scene {
 ///     &transmitter=HEIGHT AZIMUTH TILT BEAMWIDTH ANTENNALENGTH rrggbbaa   (0 to MaxTransmitters)
 ///     &transmitter_scale=PERCENT&lod=SYMBOLIC REALISTIC.inlinepylonurl
 ///
-/// The items may stand in any order; metres, degrees, per cent. A beam width or antenna length of 0
-/// stands for the usual one. The data folder is accepted and not needed.
+/// The items may be in any order. Units are metres, degrees and per cent. A beam width or antenna
+/// length of 0 means the default. The data folder is accepted but not used.
 ///
-/// @throws BadQuery  naming the item that cannot be used and its value
+/// @throws BadQuery  An item is invalid; the text names it and its value.
 PylonObject parsePylonQuery(std::string_view url);
 
 } // namespace vlt::scene

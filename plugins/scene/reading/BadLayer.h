@@ -7,14 +7,14 @@
 
 namespace vlt::scene {
 
-/// A reason that a library gave.
+/// A reason in the words of a library.
 struct LibraryWords
 {
     std::string text;
 };
 
-/// Thrown where a layer cannot be shown, or a file that it names cannot be used; the text names for
-/// the user what is missing or wrong.
+/// Thrown if a layer cannot be shown or a file that it names cannot be used. The text is for the
+/// user and names what is missing or wrong.
 class BadLayer : public std::runtime_error
 {
 public:

@@ -37,7 +37,8 @@ bool startsAfterBlanks(std::string_view text, std::string_view start)
     return begin != None && text.substr(begin).starts_with(start);
 }
 
-/// The value of an element whose start tag has been read; `rest` moves behind its end tag.
+/// Reads the value of an element whose start tag has been read. `rest` is the text after its end
+/// tag then.
 std::string takeValue(std::string_view &rest, const std::string &name)
 {
     const std::string endTag = "</" + name;

@@ -7,30 +7,30 @@ namespace vlt::scene {
 
 enum class LayerKind { Sites, Links, Buildings };
 
-/// What a layer file says. Its page of information, and the field that names a link there, are of
-/// no use to a scene.
+/// The content of a layer file, without the parts that scenes do not use: its information page and
+/// the field with the names of links.
 struct LayerFile
 {
     LayerKind kind = LayerKind::Sites;
     std::string title;
-    /// Pylon query: where the table is, how pylons and links look; of buildings "TEXB:" and the
-    /// path of their document.
+    /// The query, with the path of the table and the appearance of pylons and links; for buildings
+    /// "TEXB:" and the path of their document.
     std::string source;
-    std::string layer; ///< of sites: their layer of the source; empty: the first
-    std::string
-        endLayer; ///< of links: layer of the source that holds their ends; empty: the second
-    std::string siteField; ///< field that names a site; empty: the one that is called so
+    std::string layer;     ///< sites: their layer in the source; empty: the first
+    std::string endLayer;  ///< links: the layer with their ends; empty: the second
+    std::string siteField; ///< field with the names of sites; empty: the field for which a column
+                           ///< of site names is recognised
 };
 
-/// Reads the text of a layer file. Values are taken as they are: in CDATA sections, which may hold
-/// anything but their own end before the closing tag, or as text that may be escaped or not.
+/// Reads the text of a layer file. A value is a CDATA section, which may contain any text except
+/// its own end followed by the closing tag, or a text, escaped or not.
 ///
-/// @throws BadLayer  no layer file, another kind of layer, no source
+/// @throws BadLayer  the text is not a layer file, its kind is unknown or it has no source
 LayerFile parseLayerFile(std::string_view text);
 
 /// The same for a local file.
 ///
-/// @throws BadLayer  also where it cannot be read or is too large (LayerText.h)
+/// @throws BadLayer  also if it cannot be read or is too large (LayerText.h)
 LayerFile readLayerFile(const std::string &path);
 
 } // namespace vlt::scene

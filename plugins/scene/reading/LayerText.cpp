@@ -30,7 +30,8 @@ std::string readLayerText(const std::string &path)
 
 namespace {
 
-/// The character that a text starts with a reference to, in UTF-8, and the reference's length.
+/// The character, in UTF-8, of the reference at the start of a text, and the reference's length;
+/// empty and 0 if there is none.
 std::pair<std::string, std::size_t> referenceAt(std::string_view text)
 {
     constexpr std::size_t Longest = sizeof("&#x10FFFF;");

@@ -23,9 +23,10 @@ osg::Vec2d middleOf(const std::vector<osg::Vec2d> &places)
     return (least + most) / 2;
 }
 
-/// Places on both sides of the date line get longitudes that go on beyond it.
+/// Centre of positions in a geographic system. If they are on both sides of the date line, western
+/// longitudes are increased by 360 degrees first.
 ///
-/// @param wholeTurn  in the unit of the places
+/// @param wholeTurn  360 degrees in the unit of the positions
 osg::Vec2d geographicMiddle(std::vector<osg::Vec2d> places, double wholeTurn)
 {
     const auto [west, east] =
@@ -48,7 +49,7 @@ osg::Vec2d transformed(OGRCoordinateTransformation &transformation, osg::Vec2d p
     return place;
 }
 
-/// As South African grids do.
+/// Whether the axes of a system point to the west and south, as in South African grids.
 bool countsWestAndSouth(const OGRSpatialReference &srs)
 {
     OGRAxisOrientation first = OAO_Other;

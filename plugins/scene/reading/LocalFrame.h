@@ -9,34 +9,34 @@
 
 namespace vlt::scene {
 
-/// Metres around the middle of some places, x east, y north.
+/// A local frame in metres whose origin is the centre of some positions, x east, y north.
 ///
-/// Places of a projected system are shifted and taken from its unit to metres. Those of a
-/// geographic one are projected by azimuthal equidistant projection about the middle on the
-/// system's own ellipsoid: true distances and directions from the middle, lengths across within
-/// 1e-4 up to 150 km from it. Without a system the numbers are taken as metres.
+/// Positions in a projected system are shifted and converted from its unit to metres. Those in a
+/// geographic system are projected with an azimuthal equidistant projection about the centre, on
+/// the system's ellipsoid: distances and directions from the centre are exact, lengths across these
+/// directions have errors below 1e-4 up to 150 km from it. Without a system, the unit is metres.
 class LocalFrame
 {
 public:
-    /// @param srs  of the places, x before y; may be null
-    /// @throws BadLayer  a system that is neither projected nor geographic
+    /// @param srs  system of the positions, x before y; may be null
+    /// @throws BadLayer  the system is neither projected nor geographic
     LocalFrame(const OGRSpatialReference *srs, const std::vector<osg::Vec2d> &places);
 
-    /// The middle, in `srs`: of the rectangle around all places.
+    /// Centre of the rectangle around all positions, in `srs`.
     const osg::Vec2d &centre() const { return m_centre; }
 
-    /// A place of `srs` in the frame; NaN where it cannot be projected.
+    /// Transforms a position from `srs` to the frame; NaN if it cannot be projected.
     osg::Vec2d toFrame(const osg::Vec2d &place) const;
 
-    /// The way back.
+    /// Transforms a position from the frame to `srs`.
     osg::Vec2d fromFrame(const osg::Vec2d &place) const;
 
 private:
     void projectAround(const OGRSpatialReference &srs, const std::vector<osg::Vec2d> &places);
 
     osg::Vec2d m_centre;
-    double m_unitM = 1; ///< of a plane; negative where it counts to the west and south
-    std::unique_ptr<OGRCoordinateTransformation> m_toPlane; ///< of a geographic system
+    double m_unitM = 1; ///< of a projected system; negative for axes to the west and south
+    std::unique_ptr<OGRCoordinateTransformation> m_toPlane; ///< for a geographic system
     std::unique_ptr<OGRCoordinateTransformation> m_fromPlane;
 };
 

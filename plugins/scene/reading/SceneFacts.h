@@ -8,13 +8,15 @@
 
 namespace vlt::scene {
 
-/// Tells with a scene where its origin is: "centre=X Y" in the table's system, and "srs=...".
+// These functions add a fact to the descriptions of a scene.
+
+/// Adds the position of the scene's origin: "centre=X Y" in the table's system, and "srs=...".
 void tellFrame(osg::Group &scene, const SceneFrame &frame);
 
-/// Tells a number with a scene, "key=N".
+/// Adds a number: "key=N".
 void tellCount(osg::Group &scene, std::string_view key, std::size_t count);
 
-/// Tells that the table holds more than is shown.
+/// Adds that the table has more rows than are shown: "cut".
 void tellCut(osg::Group &scene);
 
 } // namespace vlt::scene

@@ -7,12 +7,11 @@
 
 namespace vlt::scene {
 
-/// Where a scene lies.
+/// The local frame of a scene and the system from which its positions come.
 struct SceneFrame
 {
     std::shared_ptr<const LocalFrame> local;
-    std::string
-        srs; ///< name of the table's system: "EPSG:2154", or as it calls itself; empty: unknown
+    std::string srs; ///< "EPSG:2154", or the name of the system; empty: unknown
 };
 
 } // namespace vlt::scene

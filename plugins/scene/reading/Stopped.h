@@ -2,7 +2,7 @@
 
 namespace vlt::scene {
 
-/// Thrown where the caller stopped the work, which is no fault.
+/// Thrown if the caller stopped the work, which is not an error.
 struct Stopped
 {
 };

@@ -38,7 +38,7 @@ void registerTableDrivers()
         CPLSetConfigOption("GDAL_DRIVER_PATH", beside.c_str());
     if (GDALGetDriverCount() == 0)
         GDALAllRegister();
-    else // another reader of this program has registered what it needs
+    else // other parts of the program have registered their drivers
         GetGDALDriverManager()->AutoLoadDrivers();
     if (!beside.empty())
         CPLSetConfigOption("GDAL_DRIVER_PATH", nullptr);

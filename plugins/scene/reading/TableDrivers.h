@@ -2,8 +2,8 @@
 
 namespace vlt::scene {
 
-/// Registers GDAL's drivers where the process has none yet. Without GDAL_DRIVER_PATH the table
-/// driver is looked for beside the binary that holds this function.
+/// Registers GDAL's drivers if the process has none yet. Without GDAL_DRIVER_PATH the table driver
+/// is searched for in the folder of the binary that contains this function.
 void registerTableDrivers();
 
 } // namespace vlt::scene

@@ -10,14 +10,14 @@ namespace vlt::scene {
 
 /// Finds the table of a layer.
 ///
-/// @param source  pylon query "site:options,path" or "link:options,path"
-/// @param directories  where a relative path may start; the first in which the file exists counts
-/// @return  the query taken apart, with an absolute path of a local file
-/// @throws BadLayer  no query of the layer's kind, no such file
+/// @param source       query "site:options,path" or "link:options,path"
+/// @param directories  searched for a relative path, in this order
+/// @return             the parts of the query, with the absolute path of a local file
+/// @throws BadLayer    it is not a query of the layer's kind, or there is no such file
 contract::ConnectionString locateTable(const std::string &source, LayerKind kind,
                                        const std::vector<std::string> &directories);
 
-/// The absolute path of a file that stands in a query; empty where there is no such local file.
+/// The absolute path of a file named in a query; empty if there is no such local file.
 std::string locateFile(const std::string &path, const std::vector<std::string> &directories);
 
 } // namespace vlt::scene

@@ -16,7 +16,7 @@ namespace vlt::scene {
 
 namespace {
 
-constexpr double FarthestM = 3e7; ///< from the middle: no two places of the earth lie further apart
+constexpr double FarthestM = 3e7; ///< from the median; more than half the earth's circumference
 
 std::optional<double> numberIn(std::string_view text)
 {
@@ -37,8 +37,8 @@ double medianOf(std::vector<double> values)
     return *middle;
 }
 
-/// Those in the midst of which a frame is laid: not such as a slip of the pen puts beyond the
-/// earth, from where the others would be out of reach.
+/// The positions that determine the centre of a frame. A mistyped position far outside the earth is
+/// left out, because a frame that included it would be too far from all others.
 std::vector<osg::Vec2d> likely(const std::vector<osg::Vec2d> &places, double unitM)
 {
     if (places.empty())
@@ -114,7 +114,7 @@ void readOnlyFields(OGRLayer &layer, const std::vector<int> &fields)
 
 OGRFeatureUniquePtr nextFeature(OGRLayer &layer)
 {
-    CPLErrorReset(); // a row that could not be placed is no reason to stop
+    CPLErrorReset(); // clears errors of rows without a position, which are not failures
     OGRFeatureUniquePtr feature(layer.GetNextFeature());
     if (!feature && CPLGetLastErrorType() == CE_Failure)
         throw BadLayer(LibraryWords{CPLGetLastErrorMsg()});

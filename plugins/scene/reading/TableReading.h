@@ -14,36 +14,36 @@ namespace vlt::scene {
 
 /// Opens a table with the table driver.
 ///
-/// @param table  with the absolute path of a file
-/// @throws BadLayer  the driver is not there, or cannot open it
+/// @param table      with the absolute path of a file
+/// @throws BadLayer  the driver is missing or cannot open the table
 GDALDatasetUniquePtr openTable(const contract::ConnectionString &table);
 
 /// Names of the fields of a layer, in their order.
 std::vector<std::string> fieldNamesOf(OGRLayer &layer);
 
-/// Makes a layer leave out all other fields: most columns of a wide table are of no use to a scene.
+/// Makes a layer read the given fields only, because a scene uses few columns of a wide table.
 ///
-/// @param fields  by their index; negative ones are no fields
+/// @param fields  their indices; negative ones are ignored
 void readOnlyFields(OGRLayer &layer, const std::vector<int> &fields);
 
-/// The next feature, null behind the last. @throws BadLayer  it cannot be read
+/// The next feature; null after the last one. @throws BadLayer  it cannot be read
 OGRFeatureUniquePtr nextFeature(OGRLayer &layer);
 
-/// The place of a feature, x before y, in the layer's system; nothing where it has none.
+/// The position of a feature, x before y, in the layer's system; nothing if it has none.
 std::optional<osg::Vec2d> placeOf(const OGRFeature &feature);
 
-/// The number in a field, which may be a text with a decimal comma; nothing where there is none, or
-/// none within `least` and `most`.
+/// The number in a field, which may be a text with a decimal comma. Nothing if there is no number,
+/// and for a number outside `least` .. `most`.
 std::optional<double> numberAt(const OGRFeature &feature, int field, double least, double most);
 
-/// The text in a field, UTF-8; empty where there is none.
+/// The text in a field, in UTF-8; empty if there is none.
 std::string textAt(const OGRFeature &feature, int field);
 
-/// Moves places of a layer's system into the frame around them; x is NaN where a place is none of
-/// the earth's.
+/// Transforms positions from a layer's system to a frame around them. The x of a position that is
+/// not on the earth becomes NaN.
 SceneFrame moveToFrame(OGRLayer &layer, std::vector<osg::Vec2d> &places);
 
-/// The same for places of a system, x before y; null where it is not known.
+/// The same for positions in a system, x before y; null: unknown.
 SceneFrame moveToFrame(const OGRSpatialReference *srs, std::vector<osg::Vec2d> &places);
 
 } // namespace vlt::scene

@@ -16,13 +16,14 @@ namespace vlt::scene {
 
 namespace {
 
-constexpr double Margin = 0.1; ///< of the longer side, on all sides
+constexpr double Margin = 0.1; ///< on all sides, as a share of the longer side
 constexpr double NarrowestM = 500;
-constexpr double Relief = 4;   ///< by which slopes look steeper in their shading
-constexpr double Shadow = 0.5; ///< light where no sun is
+constexpr double Relief = 4;   ///< factor of slopes in their shading
+constexpr double Shadow = 0.5; ///< brightness without sunlight
 constexpr std::size_t NoVertex = static_cast<std::size_t>(-1);
 
-/// From the lowest to the highest ground; pale and without green, which verdicts may have.
+/// Colours from the lowest to the highest ground. They are pale and without green, which is a
+/// colour of clearances.
 constexpr std::array<std::array<double, 3>, 4> Earth = {
     {{214, 208, 188}, {206, 190, 154}, {188, 164, 128}, {226, 218, 206}}};
 
@@ -122,7 +123,7 @@ private:
         return {least, most};
     }
 
-    /// Rise per metre between two neighbours of a point; level where one is not known.
+    /// Slope (metres per metre) between two neighbours of a point; 0 if a height is unknown.
     double slope(std::size_t before, std::size_t after, std::size_t steps) const
     {
         if (!m_heights[before] || !m_heights[after] || steps == 0)
@@ -130,7 +131,7 @@ private:
         return (*m_heights[after] - *m_heights[before]) / (static_cast<double>(steps) * m_stepM);
     }
 
-    /// How bright a point is in the light of a sun in the north-west, as maps have it.
+    /// Brightness of a point with a sun in the north-west, as in the hill shading of maps.
     double light(std::size_t column, std::size_t row) const
     {
         const std::size_t west = column > 0 ? column - 1 : column;
@@ -147,7 +148,7 @@ private:
         return Shadow + (1 - Shadow) * std::max(0.0, normal * sun);
     }
 
-    /// Level ground that is not above the sea.
+    /// Whether a point is on level ground that is not above sea level.
     bool isWater(std::size_t column, std::size_t row) const
     {
         const std::size_t i = row * m_columns + column;
@@ -175,7 +176,7 @@ private:
     double m_stepM = 1;
     std::size_t m_columns = 0;
     std::size_t m_rows = 0;
-    std::vector<std::optional<double>> m_heights; ///< row by row from the south
+    std::vector<std::optional<double>> m_heights; ///< row by row, from the south
 };
 
 } // namespace
@@ -192,10 +193,11 @@ osg::ref_ptr<osg::Node> buildTerrainSurface(const linkpath::PathProfiler &profil
     osg::ref_ptr<osg::Geometry> surface = new osg::Geometry;
     mesh.fill(*surface);
     osg::StateSet *state = surface->getOrCreateStateSet();
-    // a line is drawn up to half a pixel beside its place: less of it may not sink into a slope
+    // Lines may be drawn half a pixel beside their position. The offset keeps the surface from
+    // hiding them on slopes.
     state->setAttributeAndModes(new osg::PolygonOffset(0.5F, 1));
     state->setMode(GL_CULL_FACE, osg::StateAttribute::OFF);
-    state->setMode(GL_LIGHTING, osg::StateAttribute::OFF); // its shades are in the colours
+    state->setMode(GL_LIGHTING, osg::StateAttribute::OFF); // the colours include the shading
     osg::ref_ptr<osg::Geode> geode = new osg::Geode;
     geode->setName("terrain");
     geode->addDrawable(surface);

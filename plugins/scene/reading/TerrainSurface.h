@@ -8,14 +8,14 @@
 
 namespace vlt::scene {
 
-/// Most points of a surface along either side.
+/// Maximum number of points of a surface along each side.
 inline constexpr unsigned MostSurfacePoints = 300;
 
-/// The terrain's surface under a scene, in colours of earth that go by height, shaded as on maps;
-/// what is level and not above the sea is water. Where the terrain has no height there is a hole.
+/// The surface of the terrain under a scene, in earth colours by height, with hill shading. Level
+/// ground that is not above sea level is water. Where the terrain has no height, there is a hole.
 ///
-/// @param extent  of the scene in the frame; the surface goes a little beyond it
-/// @return  null where there is no terrain at all
+/// @param extent  of the scene in the frame; the surface is slightly larger
+/// @return        null if there is no terrain
 osg::ref_ptr<osg::Node> buildTerrainSurface(const linkpath::PathProfiler &profiler,
                                             const LocalFrame &frame,
                                             const osg::BoundingBoxd &extent);

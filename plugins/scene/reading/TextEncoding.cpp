@@ -43,7 +43,7 @@ std::string fromUtf16(std::string_view bytes, bool isBigEndian)
     return text;
 }
 
-/// What the XML declaration names; empty where it names none.
+/// The encoding in the XML declaration; empty if it has none.
 std::string declaredEncoding(std::string_view text)
 {
     constexpr std::string_view Start = "<?xml";
@@ -62,12 +62,12 @@ std::string declaredEncoding(std::string_view text)
                : std::string();
 }
 
-/// Nothing where the encoding is not known or the bytes are none of it.
+/// The text converted to UTF-8; nothing if the encoding is unknown or the bytes are invalid in it.
 std::optional<std::string> converted(std::string bytes, const std::string &encoding)
 {
     constexpr std::size_t MostBytesOfALetter = 4;
     const iconv_t way = iconv_open("UTF-8", encoding.c_str());
-    // NOLINTNEXTLINE(performance-no-int-to-ptr): how iconv_open() says that it failed
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): the value that iconv_open() returns on failure
     if (way == reinterpret_cast<iconv_t>(-1))
         return std::nullopt;
     std::string text(bytes.size() * MostBytesOfALetter, '\0');

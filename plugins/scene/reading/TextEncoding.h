@@ -4,11 +4,11 @@
 
 namespace vlt::scene {
 
-/// The text of an XML file in UTF-8, without a byte order mark. A text of an encoding that is not
-/// known stays as it is.
+/// The text of an XML file in UTF-8, without a byte order mark. A text in an unknown encoding is
+/// not converted.
 std::string asUtf8(std::string bytes);
 
-/// Whether a number is that of a Unicode character; surrogates are none.
+/// Whether a number is the code of a Unicode character; a surrogate is not a character.
 bool isCharacter(char32_t letter);
 
 /// @param letter  a character
