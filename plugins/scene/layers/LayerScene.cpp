@@ -17,7 +17,7 @@ namespace {
 using Directories = std::vector<std::string>;
 using Notices = std::vector<std::string>;
 
-/// The terrain under links; null where the layer has none, or none that can be used.
+/// The terrain under links; null if the layer has none or the terrain cannot be used.
 std::shared_ptr<linkpath::TerrainRaster> openTerrain(const contract::ConnectionString &table,
                                                      const Directories &directories,
                                                      Notices &notices)

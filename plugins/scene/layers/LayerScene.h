@@ -10,19 +10,19 @@
 
 namespace vlt::scene {
 
-/// What a caller wants of a layer.
+/// The options of readLayerScene().
 struct LayerRequest
 {
-    std::string project;      ///< path of the project file that the layer belongs to; may be empty
-    bool withTerrain = false; ///< also the terrain's surface under links, where there is one
+    std::string project;      ///< path of the project file to which the layer belongs; may be empty
+    bool withTerrain = false; ///< adds the surface of the terrain under links, if there is one
     TileContent content = TileContent::WhenDrawn;
 };
 
 /// Makes the scene of a layer of sites or of links: SiteScene.h, LinkLayerScene.h.
 ///
-/// @param path     of the layer file
-/// @param notices  takes what the user has to know of a scene that is not whole, one line each
-/// @throws BadLayer, BadQuery  naming what is missing or wrong
+/// @param path     path of the layer file
+/// @param notices  receives a line for the user for each incomplete part of the scene
+/// @throws BadLayer, BadQuery  with a text that names what is missing or wrong
 osg::ref_ptr<osg::Group> readLayerScene(const LayerFile &file, const std::string &path,
                                         const LayerRequest &request,
                                         std::vector<std::string> &notices);

@@ -8,13 +8,13 @@
 
 namespace vlt::scene {
 
-/// The links of a layer as a group: metres around the middle of their ends, x east, y north, z up.
+/// The links of a layer as a group, in metres around the centre of their ends: x east, y north, z
+/// up. PylonTiles.h and LinkFactory.h describe how pylons and links are drawn. The earth's
+/// curvature is not drawn: a link that only the curvature obstructs is above the ground here.
 ///
-/// Its descriptions tell what it holds: "centre=X Y" (in the table's system), "srs=...",
-/// "links=N", "pylons=N", "unplaced=N" (links), where links were judged "clear=N", "marginal=N",
-/// "obstructed=N" and "unknown=N", and "cut" where the table has more links than MaxLinks.
-/// PylonTiles.h and LinkFactory.h tell how pylons and links are drawn. The earth's curvature is
-/// not: a link that only it obstructs runs above the ground here.
+/// Its descriptions are "centre=X Y" (in the table's system), "srs=...", "links=N", "pylons=N" and
+/// "unplaced=N" (links); with clearances "clear=N", "marginal=N", "obstructed=N" and "unknown=N";
+/// and "cut" if the table has more links than MaxLinks.
 osg::ref_ptr<osg::Group> buildLinkLayerScene(const LinkRows &rows, LinkRecords records,
                                              const LinkLook &look, const std::string &title,
                                              TileContent content);

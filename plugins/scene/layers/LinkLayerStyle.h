@@ -6,7 +6,8 @@
 
 namespace vlt::scene {
 
-/// How the links of a layer and the pylons at their ends look, and by what they are judged.
+/// The appearance of the links of a layer and of the pylons at their ends, and the required
+/// clearance.
 struct LinkLayerStyle
 {
     SiteStyle pylons;
@@ -17,7 +18,7 @@ struct LinkLayerStyle
 
 /// Reads the options of readSiteStyle() and readLinkLook().
 ///
-/// @throws BadQuery  naming an option that is missing or a value that cannot be used
+/// @throws BadQuery  An option is missing or invalid; the text names it.
 LinkLayerStyle readLinkLayerStyle(const contract::ConnectionString &source);
 
 } // namespace vlt::scene

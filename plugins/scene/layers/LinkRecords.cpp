@@ -11,7 +11,7 @@ namespace {
 
 constexpr double DegreesPerRadian = 57.29577951308232;
 
-/// A dish that looks along a way.
+/// A dish that faces in a direction.
 Transmitter dishAlong(const osg::Vec3d &way, double heightM, const Color &color)
 {
     Transmitter dish;
@@ -48,7 +48,7 @@ private:
     using Cell = std::pair<std::int64_t, std::int64_t>;
     using Pylons = std::array<std::uint32_t, 2>;
 
-    /// The ends at one pylon.
+    /// The ends at a pylon.
     struct Ends
     {
         std::string site;

@@ -11,28 +11,28 @@
 
 namespace vlt::scene {
 
-/// Height of an antenna of which the table tells none, metres above ground.
+/// Default height of an antenna in metres above ground, if the table has none.
 inline constexpr double UsualLinkAntennaM = 30;
 
-/// Ends of links that are no further apart stand on one pylon: tables may tell where on it each
-/// antenna hangs.
+/// Ends of links within this distance share a pylon, because tables may have the positions of the
+/// antennas rather than of the pylon.
 inline constexpr double SamePylonM = 5;
 
-/// What is drawn of a layer of links.
+/// The pylons and links of a layer, as they are drawn.
 struct LinkRecords
 {
-    PylonRecords pylons; ///< one for each place, with a dish for each link that ends there
+    PylonRecords pylons; ///< one at each position, with a dish for each link that ends there
     std::vector<LinkObject> links;
-    std::map<linkpath::Verdict, std::size_t> verdicts; ///< empty where nobody asked for them
+    std::map<linkpath::Verdict, std::size_t> verdicts; ///< empty unless colours depend on them
     std::size_t groundless = 0;                        ///< pylons without terrain under them
 };
 
-/// Puts links onto the terrain, or onto height 0 where it is not known.
+/// Places links on the terrain, or at height 0 where its height is unknown.
 ///
-/// A pylon stands in the middle of the ends that it carries and is a little higher than its highest
-/// dish. Lines of sight run between the places of the ends themselves; dishes look along them.
+/// A pylon is at the mean position of its ends and slightly higher than its highest dish. Lines of
+/// sight connect the exact positions of the ends; dishes face along them.
 ///
-/// @param profiler  of the links' system
+/// @param profiler  with the system of the links
 LinkRecords placeLinks(const LinkRows &links, const LinkLayerStyle &style,
                        const linkpath::PathProfiler &profiler);
 

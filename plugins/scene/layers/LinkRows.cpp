@@ -18,7 +18,7 @@ namespace {
 
 constexpr double HighestAntennaM = 2000;
 
-/// The field that names the sites of the ends, by its index; -1 where there is none.
+/// Index of the field with the names of the ends' sites; -1 if there is none.
 int siteFieldOf(OGRLayer &ends, const std::string &siteField)
 {
     const std::vector<std::string> names = fieldNamesOf(ends);
@@ -27,7 +27,7 @@ int siteFieldOf(OGRLayer &ends, const std::string &siteField)
                                 : contract::recogniseColumns(names).name;
 }
 
-/// The number, unless it lies out of a range.
+/// The number; nothing if it is outside the range.
 std::optional<double> within(std::optional<double> number, double min, double max)
 {
     return number && *number >= min && *number <= max ? number : std::nullopt;
@@ -86,7 +86,7 @@ private:
         m_links.rows.push_back(std::move(row));
     }
 
-    /// Gives the ends their places in the frame; links that have none go.
+    /// Transforms the ends to the frame, and removes links that have no position there.
     void placeRows()
     {
         std::vector<osg::Vec2d> places;
@@ -112,7 +112,7 @@ private:
 
 LinkRows readLinkRows(const contract::ConnectionString &table, const LayerFile &layer)
 {
-    const CPLErrorHandlerPusher quiet(CPLQuietErrorHandler); // rows without a place are counted
+    const CPLErrorHandlerPusher quiet(CPLQuietErrorHandler); // rows without a position are counted
     const GDALDatasetUniquePtr dataset = openTable(table);
     OGRLayer *ends = dataset->GetLayerByName(layer.endLayer.c_str());
     if (!ends)

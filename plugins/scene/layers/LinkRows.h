@@ -14,13 +14,13 @@
 
 namespace vlt::scene {
 
-/// Most links that a layer shows; further rows are left out.
+/// Maximum number of links that a layer shows; further rows are left out.
 inline constexpr std::size_t MaxLinks = 200000;
 
-/// One end of a link as the table has it.
+/// An end of a link, with the values of the table.
 struct LinkRowEnd
 {
-    std::string site; ///< its name, UTF-8
+    std::string site; ///< name of the site, UTF-8
     linkpath::LinkEnd end;
     osg::Vec2d place; ///< metres in the local frame
 };
@@ -31,20 +31,20 @@ struct LinkRow
     double frequencyMHz = 0;        ///< of end A, else of end B; 0: unknown
 };
 
-/// The links of a table both of whose ends have places.
+/// The links of a table whose ends both have a position.
 struct LinkRows
 {
     std::vector<LinkRow> rows;
     SceneFrame frame;
-    OGRSpatialReference srs;  ///< of the ends; empty: unknown
-    std::size_t unplaced = 0; ///< rows of which an end has no place
-    bool isCut = false;       ///< the table holds more than MaxLinks
+    OGRSpatialReference srs;  ///< system of the ends; empty: unknown
+    std::size_t unplaced = 0; ///< rows in which an end has no position
+    bool isCut = false;       ///< the table has more links than MaxLinks
 };
 
 /// Reads all links of a table from the layer of their ends.
 ///
-/// @param table  with the absolute path of a file
-/// @throws BadLayer  the table cannot be opened, has no such layer, or none of its rows has places
+/// @param table      with the absolute path of a file
+/// @throws BadLayer  the table cannot be opened, has no such layer or no row with positions
 LinkRows readLinkRows(const contract::ConnectionString &table, const LayerFile &layer);
 
 } // namespace vlt::scene

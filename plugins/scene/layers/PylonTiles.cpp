@@ -21,17 +21,17 @@ namespace vlt::scene {
 
 namespace {
 
-constexpr std::size_t SitesPerBlock = 4096; ///< that become one drawable from afar
+constexpr std::size_t SitesPerBlock = 4096; ///< maximum in one drawable of dots
 constexpr double CoarseArcDeg = 40;
-constexpr double LabelRoom = 7; ///< a name is seen from so many times the way to its neighbour
+constexpr double LabelRoom = 7; ///< distance up to which a name is visible / that to its neighbour
 constexpr double LabelGapM = 4;
-constexpr double RodM = 4; ///< more than anything stands out above a mast
-/// Precise pylons of a scene: where thousands stand at one place, or are to be seen precisely from
-/// afar, the others stay coarse, so that time and memory are bounded.
+constexpr double RodM = 4; ///< more than the height of any part above a mast
+/// Maximum number of precise pylons in a scene. If thousands are at one position, or the realistic
+/// distance is large, all further ones are coarse, to bound time and memory.
 constexpr std::size_t MostPrecisePylons = 2000;
 constexpr std::size_t MostPreciseDesigns = 800;
 constexpr float DotPixels = 4;
-constexpr double DotPad = 0.01; ///< of the distance at which dots begin
+constexpr double DotPad = 0.01; ///< share of the distance at which dots begin
 constexpr float Endless = std::numeric_limits<float>::max();
 const Color Dot{255, 150, 40, 255};
 
@@ -43,7 +43,7 @@ osg::ref_ptr<osg::StateSet> makeDotState()
     return state;
 }
 
-/// What the tiles of a scene share, for as long as one of them is there.
+/// The data that the tiles of a scene share, as long as one of them exists.
 struct Content
 {
     Content(PylonRecords &&all, TileContent made)
@@ -66,7 +66,7 @@ struct Content
     std::vector<bool> designIsMade; ///< by design
     std::size_t designsMade = 0;
 
-    /// Takes so many of the budget of precise pylons; false where it is spent.
+    /// Counts these sites as precise pylons; false if that would exceed the maximum.
     bool takeBudget(const std::vector<std::uint32_t> &sites)
     {
         designIsMade.resize(records.designs.size());
@@ -94,7 +94,7 @@ struct Content
 using ContentPtr = std::shared_ptr<Content>;
 using Sites = std::vector<std::uint32_t>;
 
-/// Top of a pylon with its sectors, above its foot.
+/// Height of the top of a pylon with its sectors above its foot, in metres.
 double topOf(const PylonDesign &design)
 {
     double top = design.heightM + RodM;
@@ -103,7 +103,7 @@ double topOf(const PylonDesign &design)
     return top;
 }
 
-/// @param padM  by which the bound is wider than the points: culling drops what looks small
+/// @param padM  how much larger the bound is than the points, because small objects are culled
 osg::ref_ptr<osg::Geometry> makeDots(const osg::ref_ptr<osg::Vec3Array> &points, double padM,
                                      osg::StateSet *state)
 {
@@ -127,7 +127,7 @@ osg::ref_ptr<osg::Geometry> makeDots(const osg::ref_ptr<osg::Vec3Array> &points,
 osg::ref_ptr<osg::Node> makeLabels(Content &content, const Sites &sites, const osg::Vec3d &origin,
                                    double visibleM)
 {
-    const std::lock_guard lock(content.guard); // fonts make their glyphs one at a time
+    const std::lock_guard lock(content.guard); // a font is not safe for several threads
     osg::ref_ptr<osg::Group> group = new osg::Group;
     for (const std::uint32_t site : sites) {
         const SiteRecord &record = content.records.sites[site];
@@ -148,8 +148,8 @@ void addDrawable(osg::Geode &geode, const Mesh &mesh, osg::StateSet *state)
     geode.addDrawable(geometry);
 }
 
-/// From afar only the near walls of a translucent sector are drawn, which have to be as opaque as
-/// both walls together.
+/// The colour of a translucent sector at large distances, where only its near walls are drawn. They
+/// need the opacity of both walls together.
 Color forOneWall(Color color)
 {
     const double through = 1 - color.a() / 255.0;
@@ -157,7 +157,7 @@ Color forOneWall(Color color)
     return color;
 }
 
-/// Masts as lines and coarse sectors, few drawables for a whole tile.
+/// Masts as lines and coarse sectors, in few drawables for a whole tile.
 osg::ref_ptr<osg::Node> makeCoarse(const Content &content, const Sites &sites,
                                    const osg::Vec3d &origin)
 {
@@ -186,8 +186,10 @@ osg::ref_ptr<osg::Node> makeCoarse(const Content &content, const Sites &sites,
     return geode;
 }
 
-/// Whole pylons. Where a tile is so wide that some of its pylons are beyond their symbolic distance
-/// while others are near, a dot stands for those.
+/// Whole pylons.
+///
+/// @param withDots  adds dots for pylons beyond their symbolic distance: a wide tile may have such
+///                  pylons while others are near
 osg::ref_ptr<osg::Node> makePylons(Content &content, const Sites &sites, const osg::Vec3d &origin,
                                    bool withDots)
 {
@@ -222,14 +224,14 @@ public:
     {
         for (const PylonDesign &design : content->records.designs) {
             m_top = std::max(m_top, topOf(design));
-            m_symbolicM = design.symbolicDistanceM; // all designs have the layer's
+            m_symbolicM = design.symbolicDistanceM; // the same for all designs
             m_realisticM = design.realisticDistanceM;
             m_reach = std::max({m_reach, design.sectorRadiusM, design.heightM + RodM});
         }
     }
 
-    /// A branch. From beyond the symbolic distance it is drawn as dots as soon as it is small
-    /// enough for one drawable.
+    /// The node of a branch. If it has few enough sites for one drawable, it is drawn as dots
+    /// beyond the symbolic distance.
     osg::ref_ptr<osg::Node> branch(const SiteTree &tree, bool isInBlock)
     {
         const bool isBlock = !isInBlock && tree.siteCount <= SitesPerBlock;
@@ -291,7 +293,7 @@ private:
         return moved(makeDots(points, m_content->dotPadM(), m_content->dotState), origin);
     }
 
-    /// A leaf: its three representations and its names.
+    /// The node of a leaf: its three representations and its names.
     osg::ref_ptr<osg::Node> tile(const SiteTree &tree) const
     {
         const osg::BoundingSphere bound = boundOf(tree);

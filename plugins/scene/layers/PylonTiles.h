@@ -6,22 +6,23 @@
 
 namespace vlt::scene {
 
-/// Most sites of one tile of a scene.
+/// Maximum number of sites in a tile of a scene.
 inline constexpr std::size_t SitesPerTile = 64;
 
-/// When the content of tiles is made. Programs that write a scene elsewhere find only what is
-/// there; for them pylons and names of up to MostSitesAtOnce sites are made at once, and masts and
-/// coarse sectors of up to MostCoarseSitesAtOnce.
+/// The time at which the content of tiles is made. Programs that convert a scene use only content
+/// that has been made. AtOnce is for them: pylons and names of up to MostSitesAtOnce sites, masts
+/// and coarse sectors of up to MostCoarseSitesAtOnce sites are made at once.
 enum class TileContent { WhenDrawn, AtOnce };
 
 inline constexpr std::size_t MostSitesAtOnce = 2000;
 inline constexpr std::size_t MostCoarseSitesAtOnce = 50000; ///< about 200 MiB
 
-/// The pylons of a layer with the names of their sites, one site at least.
+/// The pylons of a layer, at least one, with the names of their sites.
 ///
-/// Sites lie in tiles of neighbours. A tile holds whole pylons up to the realistic distance; masts
-/// as lines and coarse sectors, few drawables for all, up to the symbolic distance; beyond it one
-/// dot for each site. Names are seen from where there is room between the sites to read them.
+/// The sites are divided into tiles of neighbours. A tile shows whole pylons up to the realistic
+/// distance; masts as lines and coarse sectors, in few drawables, up to the symbolic distance; and
+/// a dot for each site at larger distances. Names are visible at distances at which there is room
+/// for them between the sites.
 osg::ref_ptr<osg::Node> buildPylonTiles(PylonRecords records, TileContent content);
 
 } // namespace vlt::scene

@@ -13,7 +13,7 @@ constexpr float SizePixels = 16;
 constexpr unsigned GlyphPixels = 32;
 constexpr int AfterTranslucentBins = 20;
 
-/// A font with the letters of most languages; the built-in one knows few.
+/// A font with the letters of most languages; the built-in one has few.
 osg::ref_ptr<osgText::Font> findFont()
 {
     for (const char *file :
@@ -61,7 +61,7 @@ osg::ref_ptr<osg::Node> SiteLabels::make(const std::string &name, const osg::Vec
     osg::ref_ptr<osg::LOD> near = new osg::LOD;
     near->setCenterMode(osg::LOD::USER_DEFINED_CENTER);
     near->setCenter(foot);
-    near->setStateSet(m_state); // a text has one of its own, with its shaders
+    near->setStateSet(m_state); // on this node, because a text has a state of its own
     near->addChild(text, 0, static_cast<float>(visibleM));
     return near;
 }

@@ -7,16 +7,16 @@
 
 namespace vlt::scene {
 
-/// Makes names of sites that share font and state.
+/// Makes the names of sites, which share a font and a state.
 class SiteLabels
 {
 public:
     SiteLabels();
 
-    /// A name that stands on a point, turns to the viewer and is as large as the picture asks for.
+    /// A name above a point, which faces the viewer and has the same size at every distance.
     ///
-    /// @param name  UTF-8; cut where it is too long to be read
-    /// @param visibleM  it is seen up to this distance
+    /// @param name      UTF-8; a long one is cut
+    /// @param visibleM  distance up to which it is visible
     osg::ref_ptr<osg::Node> make(const std::string &name, const osg::Vec3d &foot,
                                  double visibleM) const;
 

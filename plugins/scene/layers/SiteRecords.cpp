@@ -109,7 +109,7 @@ private:
         return design;
     }
 
-    /// Gives the sites their places in the frame; those that have none go.
+    /// Transforms the sites to the frame, and removes those that have no position there.
     void placeSites()
     {
         std::size_t kept = 0;
@@ -142,7 +142,7 @@ private:
 SiteRecords readSiteRecords(const contract::ConnectionString &table, const LayerFile &layer,
                             const SiteStyle &style)
 {
-    const CPLErrorHandlerPusher quiet(CPLQuietErrorHandler); // rows without a place are counted
+    const CPLErrorHandlerPusher quiet(CPLQuietErrorHandler); // rows without a position are counted
     const GDALDatasetUniquePtr dataset = openTable(table);
     OGRLayer *sites = dataset->GetLayerByName(layer.layer.c_str());
     if (!sites)

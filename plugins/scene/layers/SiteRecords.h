@@ -12,10 +12,10 @@
 
 namespace vlt::scene {
 
-/// Most sites that a layer shows; further rows are left out.
+/// Maximum number of sites that a layer shows; further rows are left out.
 inline constexpr std::size_t MaxSites = 1000000;
 
-inline constexpr double AboveAntennasM = 2; ///< what a mast rises above its highest antenna
+inline constexpr double AboveAntennasM = 2; ///< height of a mast above its highest antenna
 
 struct SiteRecord
 {
@@ -24,7 +24,7 @@ struct SiteRecord
     std::uint32_t design = 0;
 };
 
-/// Pylons at their places. Equal pylons are one design.
+/// Pylons with their positions. Equal pylons share a design.
 struct PylonRecords
 {
     std::vector<SiteRecord> sites;
@@ -36,17 +36,18 @@ struct SiteRecords : PylonRecords
 {
     SceneFrame frame;
     std::size_t unplaced = 0; ///< rows without a position
-    bool isCut = false;       ///< the table holds more than MaxSites
+    bool isCut = false;       ///< the table has more sites than MaxSites
 };
 
 /// Reads all sites of a table.
 ///
-/// A mast is a little higher than its highest antenna. A transmitter without height has the usual
-/// one, one without tilt none, one without azimuth radiates all around; one with neither height nor
-/// azimuth does not exist. The ground is at the terrain height, or at 0 where it is unknown.
+/// A mast is slightly higher than its highest antenna. A transmitter without a height has the
+/// default height, one without a tilt has tilt 0, one without an azimuth radiates in all
+/// directions. One with neither height nor azimuth is ignored. The foot is at the terrain height,
+/// or at 0 where that is unknown.
 ///
-/// @param table  with the absolute path of a file
-/// @throws BadLayer  the table cannot be opened, or none of its rows has a position
+/// @param table      with the absolute path of a file
+/// @throws BadLayer  the table cannot be opened or has no row with a position
 SiteRecords readSiteRecords(const contract::ConnectionString &table, const LayerFile &layer,
                             const SiteStyle &style);
 

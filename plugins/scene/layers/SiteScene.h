@@ -6,11 +6,11 @@
 
 namespace vlt::scene {
 
-/// The sites of a layer as a group: metres around the middle of the sites, x east, y north, z up.
+/// The sites of a layer as a group, in metres around the centre of the sites: x east, y north, z
+/// up. PylonTiles.h describes how sites are drawn.
 ///
-/// Its descriptions tell what it holds: "centre=X Y" (in the table's system), "srs=...",
-/// "sites=N", "unplaced=N", and "cut" where the table has more sites than MaxSites.
-/// PylonTiles.h tells how sites are drawn.
+/// Its descriptions are "centre=X Y" (in the table's system), "srs=...", "sites=N", "unplaced=N",
+/// and "cut" if the table has more sites than MaxSites.
 osg::ref_ptr<osg::Group> buildSiteScene(SiteRecords records, const std::string &title,
                                         TileContent content);
 

@@ -10,20 +10,20 @@
 
 namespace vlt::scene {
 
-/// Sites cut into halves along their longer extent, again and again, so that neighbours lie
-/// together whatever their density.
+/// A tree of sites. Each branch divides its sites into halves across their longer extent, so that
+/// neighbours are together, independently of their density.
 struct SiteTree
 {
     osg::BoundingBoxd feet;
     std::vector<std::uint32_t> sites; ///< of a leaf
     std::size_t siteCount = 0;        ///< of the whole branch
-    std::unique_ptr<SiteTree> low;    ///< both or none
+    std::unique_ptr<SiteTree> low;    ///< null, like `high`, for a leaf
     std::unique_ptr<SiteTree> high;
 
     bool isLeaf() const { return !low; }
 };
 
-/// @param largestLeaf  most sites of a leaf, at least 1
+/// @param largestLeaf  maximum number of sites in a leaf, at least 1
 std::unique_ptr<SiteTree> growSiteTree(const std::vector<SiteRecord> &sites,
                                        std::size_t largestLeaf);
 

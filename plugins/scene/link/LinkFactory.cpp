@@ -19,12 +19,12 @@ namespace vlt::scene {
 
 namespace {
 
-constexpr std::size_t EllipsoidVertices = 2000000; ///< of a scene of usual size
-constexpr std::size_t FewLinks = 2000;             ///< whose tubes are rounder
-constexpr double PointLength = 3;                  ///< of lines of sight, in their breadths
-constexpr double PointM = 0.1;                     ///< breadth at the very end
+constexpr std::size_t EllipsoidVertices = 2000000; ///< maximum for up to 10000 links
+constexpr std::size_t FewLinks = 2000;             ///< up to this number tubes are rounder
+constexpr double PointLength = 3;                  ///< of a pointed end, in widths of the line
+constexpr double PointM = 0.1;                     ///< width at the end point
 
-/// Circles and pieces of an ellipsoid.
+/// Number of vertices around an ellipsoid, and of pieces along it.
 struct Fineness
 {
     int around;
@@ -43,9 +43,9 @@ Fineness finenessFor(std::size_t links)
     return Finest.back();
 }
 
-// distances in half widths of an ellipsoid
-constexpr double Afar = 400;     ///< it is a few pixels wide
-constexpr double Unseen = 10000; ///< it is less than one pixel wide, also in large pictures
+// distances, in half widths of an ellipsoid
+constexpr double Afar = 400;     ///< the ellipsoid is a few pixels wide there
+constexpr double Unseen = 10000; ///< it is less than one pixel wide there, also in large pictures
 
 Fineness finenessFromAfar(std::size_t links)
 {
@@ -53,7 +53,7 @@ Fineness finenessFromAfar(std::size_t links)
     return links <= Many ? Fineness{6, 10} : Fineness{4, 6};
 }
 
-/// The opacity of one wall, where a look through two of them has the given one.
+/// The colour of one wall, so that two walls together have the opacity of `color`.
 Color forOneOfTwoWalls(Color color)
 {
     const double through = std::sqrt(1 - color.a() / 255.0);
@@ -66,11 +66,11 @@ Opacity opacityOf(const Color &color)
     return color.a() < 255 ? Opacity::Translucent : Opacity::Opaque;
 }
 
-/// Without the fineness of its drawing; in a tile's coordinates.
+/// The shape of an ellipsoid, in the coordinates of a tile.
 struct Ellipsoid
 {
     osg::Vec3d centre;
-    osg::Vec3d along; ///< to a tip
+    osg::Vec3d along; ///< vector from the centre to a tip
     double halfWidth;
 };
 
@@ -91,7 +91,7 @@ osg::ref_ptr<osg::Node> drawn(const Ellipsoids &ellipsoids, Fineness fineness, c
     return geode;
 }
 
-/// A mesh of lines of sight; bands need a way from the middle line with each vertex.
+/// A mesh of lines of sight. Bands also have a vector from their centre line to each vertex.
 struct LineMesh
 {
     explicit LineMesh(LinkStyle style)
@@ -101,14 +101,14 @@ struct LineMesh
     osg::ref_ptr<osg::Vec4Array> asides = new osg::Vec4Array;
 };
 
-/// A point of a line of sight, and how broad it is there.
+/// A point of a line of sight, and the width of the line there.
 struct Station
 {
     osg::Vec3d at;
     double breadth;
 };
 
-/// Broad lines are pointed, or they would hide the antennas between which they run.
+/// The points of a line of sight with pointed ends. A wide line would hide the antennas otherwise.
 std::array<Station, 4> stationsOf(const osg::Vec3d &a, const osg::Vec3d &b, double breadth)
 {
     osg::Vec3d axis = b - a;
@@ -145,7 +145,7 @@ void addPointedTube(Mesh &mesh, const std::array<Station, 4> &stations, int side
                 stations[i + 1].breadth / 2, sides, color, i == 1 ? Ends::Open : Ends::Closed);
 }
 
-/// Builds a scene's tiles.
+/// Builds the tiles of a scene.
 class LinkBuilder
 {
 public:
@@ -164,7 +164,7 @@ public:
 
     using Picked = std::vector<const LinkObject *>;
 
-    /// Halves the links across until they fit into tiles.
+    /// Divides the links into halves, across their longer extent, until each part fits into a tile.
     void addTiles(osg::Group &group, Picked links) const
     {
         if (links.size() <= LinksPerTile) {
@@ -197,7 +197,7 @@ private:
         const osg::Vec3d origin = ends.center();
         osg::ref_ptr<osg::Geode> geode = new osg::Geode;
         addLines(*geode, links, origin);
-        // vertices of single precision stay small: optimisers must not write the place into them
+        // Vertices in single precision need small coordinates: optimisers must keep the transform.
         osg::ref_ptr<osg::MatrixTransform> place =
             new osg::MatrixTransform(osg::Matrixd::translate(origin));
         place->setDataVariance(osg::Object::DYNAMIC);
@@ -259,8 +259,8 @@ private:
         return ellipsoids;
     }
 
-    /// Many links have coarser ellipsoids in tiles that are far away, and fine ones from when they
-    /// are first seen near by.
+    /// Adds the ellipsoids of a tile. If there are many links, distant tiles have coarse
+    /// ellipsoids, and fine ones are made when a tile is near the viewer for the first time.
     void addEllipsoids(osg::Group &place, const Ellipsoids &ellipsoids) const
     {
         if (ellipsoids.empty())
@@ -281,7 +281,7 @@ private:
         osg::BoundingSphere bound = coarse->getBound();
         bound.radius() += static_cast<float>(widest);
         const auto near = static_cast<float>(bound.radius() + Afar * widest);
-        // with lines of sight to be seen by, what is less than a pixel need not be drawn
+        // Ellipsoids smaller than a pixel are not needed if the lines of sight are visible.
         const double far = m_look.color.a() > 0 ? bound.radius() + Unseen * widest
                                                 : std::numeric_limits<float>::max();
         const osg::ref_ptr<DeferredNode> fine =
@@ -290,7 +290,7 @@ private:
         place.addChild(seenFrom(near, static_cast<float>(far), coarse, bound));
     }
 
-    /// A level of its own: nodes with several are those of pylons.
+    /// A node with one level of detail, because a node with several is taken for a pylon.
     static osg::ref_ptr<osg::Node> seenFrom(float nearM, float farM, osg::Node *what,
                                             const osg::BoundingSphere &bound)
     {

@@ -9,17 +9,18 @@
 
 namespace vlt::scene {
 
-/// Links that share drawables: neighbours, so that the renderer can leave out what is not seen.
+/// Maximum number of links in a tile. They are neighbours and share drawables, so that the renderer
+/// can skip tiles outside the view.
 inline constexpr std::size_t LinksPerTile = 256;
 
-/// Builds lines of sight, seen from everywhere, and Fresnel ellipsoids of all links.
+/// Builds the lines of sight, visible at every distance, and the Fresnel ellipsoids of all links.
 ///
-/// There are at most five drawables for LinksPerTile / 2 links or more, below a transform that
-/// keeps their coordinates small. The more links, the coarser their ellipsoids: up to 990 links
-/// have 32 x 64 faces each, and up to 10000 links have 2 million vertices at most; those of far
-/// tiles are coarser still or left out where they are less than a pixel wide, and fine ones are
-/// made only for tiles that are seen near by. What is invisible (opacity 0) is left out, and so are
-/// links whose ends coincide.
+/// A tile has at most five drawables, below a transform that keeps their coordinates small; of more
+/// than LinksPerTile links each tile has at least LinksPerTile / 2. With more links the ellipsoids
+/// are coarser: those of up to 990 links have 32 x 64 faces each, those of up to 10000 links have
+/// at most 2 million vertices together. Ellipsoids in distant tiles are coarser still, or left out
+/// if less than a pixel wide; fine ones are made only for tiles near the viewer. Invisible parts
+/// (opacity 0) and links whose ends coincide are left out.
 osg::ref_ptr<osg::Group> buildLinks(const std::vector<LinkObject> &links, const LinkLook &look);
 
 } // namespace vlt::scene

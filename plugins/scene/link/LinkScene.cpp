@@ -7,7 +7,7 @@ namespace vlt::scene {
 
 namespace {
 
-constexpr std::size_t FewPylons = 16; ///< that may be made at once, to be converted or measured
+constexpr std::size_t FewPylons = 16; ///< made at once, so that programs can convert them
 
 } // namespace
 

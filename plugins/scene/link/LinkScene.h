@@ -6,7 +6,7 @@
 
 namespace vlt::scene {
 
-/// Builds the links of a query and the pylons that carry them.
+/// Builds the links of a query and the pylons with their antennas.
 osg::ref_ptr<osg::Group> buildLinkScene(const LinkSceneQuery &scene);
 
 } // namespace vlt::scene

@@ -10,8 +10,8 @@ namespace vlt::scene {
 
 namespace {
 
-// The way from the eye to any point of a link differs along the link only: all its vertices find
-// the same sideward direction, also those behind the viewer.
+// The vectors from the eye to the points of a link differ in the link's direction only. Hence all
+// its vertices, also those behind the viewer, compute the same sideways direction.
 constexpr const char *BandVertices = R"(#version 120
 void main()
 {
@@ -29,7 +29,7 @@ void main()
 }
 )";
 
-// For both: how much a surface faces the viewer.
+// The vertex shader of tubes and ellipsoids: their colours depend on the angle to the view.
 constexpr const char *FacingVertices = R"(#version 120
 varying vec3 normal;
 varying vec3 look;
@@ -44,7 +44,7 @@ void main()
 }
 )";
 
-// Round to look at in any light, and never darker than the legend's colour is known by.
+// Shades a tube as round without lights, and never so dark that its colour differs from the legend.
 constexpr const char *RoundFragments = R"(#version 120
 varying vec3 normal;
 varying vec3 look;
@@ -55,7 +55,7 @@ void main()
 }
 )";
 
-// As opaque as asked from everywhere, also along a link; the rim is a little darker.
+// The opacity is the same in all directions, also along the link; the rim is slightly darker.
 constexpr const char *ShellFragments = R"(#version 120
 varying vec3 normal;
 varying vec3 look;
@@ -89,7 +89,8 @@ void blend(osg::StateSet &state)
     state.setAttributeAndModes(new osg::Depth(osg::Depth::LEQUAL, 0, 1, false));
 }
 
-/// Zones that are as thin as a line would dash it: what lies in one is drawn over its near wall.
+/// Draws a line after the zone around it, over its near wall. Otherwise a zone that is as thin as
+/// the line would hide parts of the line.
 void drawAfterZones(osg::StateSet &state)
 {
     constexpr int AfterTranslucentBin = 11;
@@ -135,7 +136,7 @@ osg::ref_ptr<osg::StateSet> makeEllipsoidState(Opacity opacity)
     const bool isOpaque = opacity == Opacity::Opaque;
     state->setAttributeAndModes(
         makeProgram(FacingVertices, isOpaque ? RoundFragments : ShellFragments));
-    // layers of one colour may be blended in any order: walls need no sorting, nor do neighbours
+    // Walls of one colour can be blended in any order, so that they need not be sorted.
     if (!isOpaque) {
         blend(*state);
         state->setRenderingHint(osg::StateSet::TRANSPARENT_BIN);

@@ -7,21 +7,22 @@
 
 namespace vlt::scene {
 
-/// With how much of a drawable the background mixes.
+/// Whether the background is visible through a drawable.
 enum class Opacity { Opaque, Translucent };
 
-/// How lines of sight are drawn; colours come from the vertices. They are drawn after zones that
-/// let look through, and seen at their full strength within them.
+/// The state of lines of sight; their colours are those of the vertices. They are drawn after
+/// translucent zones, so that a zone does not change the colour of a line within it.
 ///
-/// Bands turn to the viewer on the graphics card: a vertex carries the way from the middle line to
-/// itself (x, y, z) and on which side of it it lies (-1 or 1) as its texture coordinates, and the
-/// direction of the link as its normal. Without shaders they lie level.
+/// The graphics card rotates bands to face the viewer. For this purpose the texture coordinates of
+/// a vertex are the vector from the centre line to the vertex (x, y, z) and its side (-1 or 1), and
+/// its normal is the direction of the link. Without shaders bands are horizontal.
 osg::ref_ptr<osg::StateSet> makeLineState(const LinkLook &look, Opacity opacity);
 
-/// How the hairlines in tubes and bands are drawn, which are seen from where those are too thin.
+/// The state of the hairlines within tubes and bands, which are visible at distances at which tubes
+/// and bands are too thin.
 osg::ref_ptr<osg::StateSet> makeHairlineState();
 
-/// How Fresnel ellipsoids are drawn, which all have one colour.
+/// The state of Fresnel ellipsoids, which all have the same colour.
 osg::ref_ptr<osg::StateSet> makeEllipsoidState(Opacity opacity);
 
 } // namespace vlt::scene

@@ -13,10 +13,10 @@ namespace {
 
 constexpr double SameDirectionDeg = 15;
 constexpr double PipeRoomM = 0.05;    ///< the pipe's radius
-constexpr double OutsideRailM = 0.08; ///< from a platform's corners to the pipes
+constexpr double OutsideRailM = 0.08; ///< distance from a platform's corners to the pipes
 constexpr double WidestRowM = 3;
-constexpr double FarthestDishM = 2.5; ///< from the axis, where there is no platform
-constexpr double DishRoom = 0.55;     ///< to either side, of the diameter
+constexpr double FarthestDishM = 2.5; ///< maximum distance from the axis without a platform
+constexpr double DishRoom = 0.55;     ///< free space on each side / diameter
 
 double standoff(const AntennaSize &size, double scale, double tiltDeg)
 {
@@ -24,7 +24,7 @@ double standoff(const AntennaSize &size, double scale, double tiltDeg)
     return std::max(0.28 * scale, PipeRoomM + size.depth / 2 + swing);
 }
 
-/// From the mast's outline to the pipes on types without platforms.
+/// Distance from the mast's outline to the pipes, for types without platforms.
 double armLength(PylonType type)
 {
     switch (type) {
@@ -38,7 +38,7 @@ double armLength(PylonType type)
     }
 }
 
-/// The floor that an antenna stands above; null where it has none.
+/// Height of the platform's floor below an antenna; null if there is no platform below it.
 const double *deckBelow(const MastDesign &mast, double antennaBottom)
 {
     const double *found = nullptr;
@@ -49,7 +49,7 @@ const double *deckBelow(const MastDesign &mast, double antennaBottom)
     return found && antennaBottom - *found < RailingM + 1.2 ? found : nullptr;
 }
 
-/// Sideward steps that keep antennas of nearly one direction and height apart, in -n .. n.
+/// Sideways shifts, in metres, that separate antennas of nearly the same azimuth and height.
 std::vector<double> rowSteps(const PylonDesign &pylon)
 {
     const std::vector<Transmitter> &all = pylon.transmitters;
@@ -86,7 +86,7 @@ std::vector<double> rowSteps(const PylonDesign &pylon)
     return steps;
 }
 
-/// How far from the axis a dish has to be to keep off its neighbours of other directions.
+/// Distance from the axis at which a dish does not touch neighbours with other azimuths.
 double roomyDistance(const PylonDesign &pylon, const Transmitter &dish)
 {
     if (dish.kind != AntennaKind::Dish)
@@ -104,7 +104,7 @@ double roomyDistance(const PylonDesign &pylon, const Transmitter &dish)
     return std::min(distance, FarthestDishM);
 }
 
-/// Sets the pipe's place and the points that hold it.
+/// Sets the position of the pipe and the points that hold it.
 void hang(AntennaPlace &place, const PylonDesign &pylon, const MastDesign &mast, double step,
           double leastDistance)
 {

@@ -10,7 +10,7 @@ namespace vlt::scene {
 
 namespace {
 
-/// Horizontal section of a radome that faces +y: flat back, bowed front; or a circle.
+/// Horizontal section of a radome that faces +y: a flat back and a curved front, or a circle.
 Outline radomeOutline(const AntennaSize &size, bool cylinder, int steps)
 {
     Outline outline;
@@ -44,7 +44,7 @@ Outline shrunk(Outline outline, double share)
     return outline;
 }
 
-/// The radome about the origin, facing +y, with its coloured mark below the upper end.
+/// A radome about the origin that faces +y, with a coloured mark below its upper end.
 void addRadome(Mesh &matt, const AntennaPlace &place, bool cylinder, bool detailed)
 {
     const AntennaSize &size = place.size;
@@ -74,7 +74,7 @@ osg::Matrixd antennaMatrix(const AntennaPlace &place)
            turnedTo(place.azimuthDeg) * osg::Matrixd::translate(place.centre);
 }
 
-/// Where the two clamps hold an antenna's back.
+/// The points on the back of an antenna where its two clamps are.
 std::vector<osg::Vec3d> backPoints(const AntennaPlace &place)
 {
     std::vector<osg::Vec3d> points;
@@ -86,7 +86,7 @@ std::vector<osg::Vec3d> backPoints(const AntennaPlace &place)
     return points;
 }
 
-/// Pipe, two clamps that follow the tilt, and arms to the mast or a stand on the roof.
+/// The pipe, two clamps that follow the tilt, and arms to the mast or a stand on the roof.
 void addBracket(Mesh &metal, const AntennaPlace &place, bool detailed)
 {
     const double radius = 0.04;

@@ -5,10 +5,10 @@
 
 namespace vlt::scene {
 
-/// Adds antennas with their brackets. Where one mast carries more than MostDetailed of them, they
-/// are drawn without connectors and with fewer corners.
+/// Adds antennas with their brackets. If a mast has more than MostDetailed antennas, they are drawn
+/// without connectors and with fewer corners.
 ///
-/// @param cylinders  whether antennas that are no dishes are cylinders instead of panels
+/// @param cylinders  whether antennas other than dishes are cylinders instead of panels
 void addAntennas(Meshes &meshes, const std::vector<AntennaPlace> &places, bool cylinders);
 
 inline constexpr std::size_t MostDetailed = 64;

@@ -5,14 +5,14 @@
 
 namespace vlt::scene {
 
-/// A translucent convex body seen from all sides: its far walls are drawn before its near ones. Its
-/// state culls back faces.
+/// A translucent convex solid that is visible from all sides: its far walls are drawn before its
+/// near ones. Its state set has to cull back faces.
 class BothSidesGeometry : public osg::Geometry
 {
 public:
     BothSidesGeometry()
     {
-        // optimisers leave drawables with user data alone; merged, these could not be sorted
+        // Optimisers do not merge drawables with user data. A merged one could not be sorted.
         setUserData(m_hideFar);
     }
     BothSidesGeometry(const BothSidesGeometry &other, const osg::CopyOp &how)

@@ -7,14 +7,14 @@ namespace vlt::scene {
 
 namespace {
 
-// lengths along the axis as parts of the diameter, from the hub to the cover; DishDepth in all
+// Lengths along the axis in diameters, from the hub to the cover; their sum is DishDepth.
 constexpr double Hub = 0.1;
 constexpr double Reflector = 0.2;
 constexpr double Shroud = 0.11;
 constexpr double Cover = DishDepth - Hub - Reflector - Shroud;
 constexpr double Rim = 0.015; ///< thickness
 
-/// A profile in diameters, by metres along the axis from the hub.
+/// Converts a profile from diameters to metres and centres it along the axis.
 Profile scaled(Profile profile, const AntennaSize &size)
 {
     for (osg::Vec2d &point : profile) {
@@ -24,7 +24,7 @@ Profile scaled(Profile profile, const AntennaSize &size)
     return profile;
 }
 
-/// A part of a paraboloid's or a cap's section, from the axis outwards.
+/// Rise of a paraboloid at a distance from its axis; `depth` is the rise at its edge.
 double bow(double depth, double fromAxis)
 {
     return depth * 4 * fromAxis * fromAxis;
@@ -59,7 +59,7 @@ void addDish(Mesh &matt, const AntennaPlace &place, bool detailed)
         {0.5, foot - Rim}, {0.5 + Rim, foot - Rim}, {0.5 + Rim, foot + Rim}, {0.5, foot + Rim}};
     const Profile lid = {
         {0.5, top - Rim}, {0.5 + Rim / 2, top - Rim}, {0.5 + Rim / 2, top}, {0.5, top}};
-    Mesh body; // about z
+    Mesh body; // about the z axis
     const auto add = [&](const Profile &profile, const Color &color) {
         addRevolved(body, scaled(profile, place.size), segments, color);
     };

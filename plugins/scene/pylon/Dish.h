@@ -6,13 +6,13 @@
 namespace vlt::scene {
 
 /// Adds a microwave antenna about the origin that faces +y: reflector, rim, shroud with a coloured
-/// mark, and a cover over the feed.
+/// mark, and a cover in front of the feed.
 void addDish(Mesh &matt, const AntennaPlace &place, bool detailed);
 
-/// Place of the reflector's back along y, so far from its axis; metres.
+/// The y of the reflector's back at a distance from its axis, in metres.
 double dishBack(const AntennaSize &size, double fromAxis);
 
-/// Of the part behind the reflector, metres.
+/// Radius of the hub behind the reflector, in metres.
 double dishHubRadius(const AntennaSize &size);
 
 } // namespace vlt::scene

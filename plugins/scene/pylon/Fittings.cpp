@@ -10,7 +10,7 @@ namespace vlt::scene {
 
 namespace {
 
-constexpr double TallM = 45; ///< masts from here on carry aviation marking
+constexpr double TallM = 45; ///< masts of at least this height have aviation marking
 constexpr int Bands = 7;
 constexpr int MostRungs = 160;
 
@@ -45,7 +45,7 @@ void addRail(Mesh &metal, double radius, int corners, double heightM, double rai
              const Color &color)
 {
     const double step = 360.0 / corners;
-    const double phase = step / 2; // a face towards north, as the sections of masts have it
+    const double phase = step / 2; // a face towards north, as in MastSection
     for (int i = 0; i < corners; ++i) {
         const osg::Vec3d up(0, 0, heightM);
         addTube(metal, towards(phase + i * step) * radius + up,

@@ -5,38 +5,38 @@
 
 namespace vlt::scene {
 
-/// Two points between which something straight is fixed to a mast.
+/// The ends of a straight fitting on a mast.
 struct Span
 {
     osg::Vec3d bottom;
     osg::Vec3d top;
 };
 
-/// A ladder whose rails run along a span; its rungs are parallel to `right`.
+/// Adds a ladder with its rails along a span and its rungs parallel to `right`.
 void addLadder(Mesh &metal, const Span &span, const osg::Vec3d &right);
 
-/// Feeder cables, side by side along a span.
+/// Adds feeder cables, side by side along a span.
 void addCables(Mesh &matt, const Span &span, const osg::Vec3d &right, int count);
 
-/// A closed rail around a regular polygon of the given circumradius.
+/// Adds a closed rail along a regular polygon with the given circumradius.
 void addRail(Mesh &metal, double radius, int corners, double heightM, double railRadius,
              const Color &color);
 
-/// Floor, toe board and railing of a platform; brackets below it reach the body of the mast.
+/// Adds the floor, toe board and railing of a platform, and the brackets below it.
 ///
-/// @param bodyRadius  where the brackets start, from the axis
+/// @param bodyRadius  distance in metres from the axis to the start of the brackets
 void addPlatform(Mesh &metal, const MastDesign &mast, double deckM, double bodyRadius);
 
-/// A lightning rod on top of something. Its tip is RodM above.
+/// Adds a lightning rod whose tip is RodM above `foot`.
 void addRod(Mesh &metal, const osg::Vec3d &foot);
 
 inline constexpr double RodM = 1.2;
 inline constexpr double FoundationDepthM = 0.5; ///< below the foot, for ground that is not level
 
-/// Alternating red and white from this height on, grey below.
+/// Colour of a mast at a height: alternating red and white for tall masts, else `plain`.
 Color bandColor(const MastDesign &mast, double heightM, const Color &plain);
 
-/// Heights at which bandColor() changes, with 0 and the top.
+/// Heights at which bandColor() changes, including 0 and the top.
 std::vector<double> bandHeights(const MastDesign &mast);
 
 } // namespace vlt::scene

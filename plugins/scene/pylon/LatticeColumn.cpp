@@ -14,7 +14,7 @@ namespace {
 
 constexpr int MostBays = 64;
 
-/// Heights between the bays; each bay is about as high as its face is wide.
+/// Heights of the ends of the bays. A bay is about as high as its face is wide.
 std::vector<double> bayHeights(const MastDesign &mast, double bottom, double top)
 {
     const double foot = mastSection(mast, bottom).inradiusM;

@@ -5,11 +5,11 @@
 
 namespace vlt::scene {
 
-/// Legs, horizontals and crossed diagonals of a lattice between two heights, along the sections of
-/// the mast, with a frame at each of the mast's frame heights.
+/// Adds the legs, horizontals and crossed diagonals of a lattice between two heights, with the
+/// sections of the mast and a frame at each of its frame heights.
 void addLatticeColumn(Mesh &metal, const MastDesign &mast, double bottom, double top);
 
-/// Radius of a leg, metres.
+/// Radius of a leg, in metres.
 double legRadius(const MastDesign &mast);
 
 /// A corner of the mast's section at a height.

@@ -11,7 +11,7 @@ namespace vlt::scene {
 
 namespace {
 
-constexpr double PlinthM = 0.3; ///< concrete above the ground
+constexpr double PlinthM = 0.3; ///< height of concrete above the ground
 
 void addPlinth(Mesh &matt, const osg::Vec3d &at, double half, double top)
 {
@@ -19,8 +19,8 @@ void addPlinth(Mesh &matt, const osg::Vec3d &at, double half, double top)
            palette::Concrete);
 }
 
-/// Ladder behind a face and cables: beside the ladder in square towers, along the axis in
-/// triangular ones, which have no room beside it.
+/// Adds a ladder behind a face, and cables: beside the ladder in square towers, along the axis in
+/// triangular ones, where there is no room beside the ladder.
 void addClimb(Meshes &meshes, const MastDesign &mast, double bottom, double top)
 {
     const bool square = mast.type == PylonType::LatticePanel;
@@ -35,11 +35,11 @@ void addClimb(Meshes &meshes, const MastDesign &mast, double bottom, double top)
     };
     addLadder(meshes.metal, line(0.82, 0), right);
     Span cables = square ? line(0.82, 0.31) : line(0, 0);
-    cables.bottom.z() = -0.05; // they go on below the ground
+    cables.bottom.z() = -0.05; // down to below the ground
     addCables(meshes.matt, cables, right, 3);
 }
 
-/// A plate on top that carries the lightning rod.
+/// Adds a plate on top with the lightning rod.
 void addHead(Meshes &meshes, const MastDesign &mast)
 {
     const double top = mast.heightM;
@@ -104,7 +104,7 @@ void addGuyedMast(Meshes &meshes, const MastDesign &mast)
     const double half = 0.2 * mast.widthM + 0.2;
     const double plinth = std::min(PlinthM, bottom / 2);
     addPlinth(meshes.matt, {}, half, plinth);
-    for (int corner = 0; corner < 3; ++corner) // the legs meet in a point that lets the mast swing
+    for (int corner = 0; corner < 3; ++corner) // the legs meet in a hinge
         addTube(meshes.metal, {0, 0, plinth}, latticeCorner(mast, corner, bottom), legRadius(mast),
                 legRadius(mast), 8, palette::Galvanised);
     addLatticeColumn(meshes.metal, mast, bottom, mast.heightM);

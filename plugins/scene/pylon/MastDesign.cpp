@@ -7,10 +7,10 @@ namespace vlt::scene {
 
 namespace {
 
-constexpr double BelowAntennaM = 0.1; ///< from a floor up to the lowest antenna above it
-constexpr double HeadroomM = 2.2;     ///< between two floors
-constexpr double LowestDeckM = 3;     ///< nobody needs a platform below
-constexpr double ParapetM = 1;        ///< from a roof up to the lowest antenna on it
+constexpr double BelowAntennaM = 0.1; ///< from a floor to the lowest antenna above it
+constexpr double HeadroomM = 2.2;     ///< minimum between two floors
+constexpr double LowestDeckM = 3;     ///< below this height no platform is needed
+constexpr double ParapetM = 1;        ///< from a roof to the lowest antenna on it
 constexpr std::size_t MostDecks = 24;
 constexpr std::size_t MostFrames = 128;
 
@@ -32,7 +32,7 @@ std::vector<double> floorHeights(const std::vector<double> &antennaBottoms)
     return decks;
 }
 
-/// The gallery of a water tower runs around the top of its wall.
+/// Height of the gallery of a water tower, which is at the top of its wall.
 double galleryHeight(double towerHeight)
 {
     return centimetres(std::max(0.86 * towerHeight, towerHeight - 5));

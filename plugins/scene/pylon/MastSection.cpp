@@ -11,8 +11,8 @@ namespace vlt::scene {
 
 namespace {
 
-constexpr double WalkwayM = 0.75; ///< free breadth of a platform
-// what still carries an antenna, whatever the width
+constexpr double WalkwayM = 0.75; ///< free width of a platform
+// minimum sizes of a mast with antennas, for every width of the design
 constexpr double ThinnestTubeM = 0.06;
 constexpr double NarrowestFaceM = 0.25;
 constexpr double SmallestRoofM = 1.5;
@@ -23,13 +23,13 @@ double narrowing(const MastDesign &mast, double heightM, double foot, double top
     return mast.widthM * (foot + (top - foot) * share);
 }
 
-/// A tube by its radius.
+/// The section of a tube with a radius.
 MastSection tube(double radius)
 {
     return {0, std::max(radius, ThinnestTubeM)};
 }
 
-/// A regular polygon by the length of a face.
+/// A regular polygon with the width of a face.
 MastSection polygon(int sides, double face)
 {
     return {sides, std::max(face, NarrowestFaceM) / 2 / std::tan(osg::PI / sides)};

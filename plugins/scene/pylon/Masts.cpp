@@ -12,7 +12,7 @@ namespace {
 
 constexpr int PlainSides = 12;
 
-/// Cone's pieces, or a pyramid's, of the mast's own sections.
+/// Adds a mast as truncated cones or pyramids with the sections of the mast.
 void addPlainBody(Mesh &mesh, const MastDesign &mast)
 {
     const int corners = mastSection(mast, 0).sides;

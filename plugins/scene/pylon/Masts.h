@@ -5,13 +5,13 @@
 
 namespace vlt::scene {
 
-/// Adds a mast with its platforms, in its precise representation: foot at the origin, z up.
+/// Adds a mast with its platforms in the precise representation: its foot at the origin, z up.
 void addMast(Meshes &meshes, const MastDesign &mast);
 
-/// The mast as a plain body, for far away. @return height of its top, metres
+/// Adds a mast as a simple solid, for large distances. @return height of its top in metres
 double addPlainMast(Meshes &meshes, const MastDesign &mast);
 
-// The families of masts.
+// The groups of types that addMast() draws.
 void addTubeMast(Meshes &meshes, const MastDesign &mast);
 void addWoodenPole(Meshes &meshes, const MastDesign &mast);
 void addLatticeMast(Meshes &meshes, const MastDesign &mast);

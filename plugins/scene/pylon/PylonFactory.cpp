@@ -38,7 +38,7 @@ osg::ref_ptr<osg::Geode> drawn(const Meshes &meshes, const SceneMaterials &mater
     return geode;
 }
 
-/// A ball around the precise representation, without making it.
+/// A sphere that contains the precise representation, computed without making that.
 osg::BoundingSphere preciseBound(const PylonDesign &pylon, const MastDesign &mast)
 {
     double reach = 0.6 * mast.heightM + 2.5 * mast.widthM + 3;
@@ -53,11 +53,11 @@ osg::BoundingSphere preciseBound(const PylonDesign &pylon, const MastDesign &mas
 
 } // namespace
 
-/// What the nodes of a factory share, also after its end.
+/// The parts that the nodes of a factory share, also after its destruction.
 class PylonFactory::Parts : public osg::Referenced
 {
 public:
-    /// The mast's drawables; the same node for equal masts. Called by any thread that draws.
+    /// The mast's drawables; the same node for equal masts. Any drawing thread may call it.
     osg::ref_ptr<osg::Node> mast(const MastDesign &design)
     {
         const std::lock_guard lock(m_guard);
@@ -113,7 +113,7 @@ osg::ref_ptr<osg::Node> PylonFactory::symbolic(const PylonDesign &pylon)
     double top = mastTop;
     for (const Sector &sector : sectors)
         top = std::max(top, sector.bottomM + sector.heightM);
-    if (top > mastTop) { // a thin axis carries sectors that are stacked above the mast
+    if (top > mastTop) { // a thin axis for sectors above the mast
         const double radius = 0.04 * pylon.widthM;
         addTube(plain.metal, {0, 0, mastTop}, {0, 0, top}, radius, radius, 8, palette::Galvanised,
                 Ends::Closed);
@@ -122,7 +122,7 @@ osg::ref_ptr<osg::Node> PylonFactory::symbolic(const PylonDesign &pylon)
 
     Mesh edges(Mesh::Kind::Lines);
     for (const Sector &sector : sectors) {
-        // one drawable each: the renderer sorts translucent ones by their distance
+        // A drawable for each sector, because the renderer sorts translucent drawables by distance.
         Mesh fill;
         addSector(fill, edges, sector, {});
         if (sector.color.a() < 255)

@@ -12,22 +12,22 @@
 
 namespace vlt::scene {
 
-/// Largest number of vertices of a pylon, both representations together.
+/// Maximum number of vertices of a pylon in both representations together.
 inline constexpr std::size_t MaxPylonVertices = 700000;
 
-/// When the precise representation is made.
+/// The time at which the precise representation is made.
 enum class PreciseModel {
     AtOnce,
-    WhenNeeded, ///< once somebody is near enough to see it: for thousands of pylons
+    WhenNeeded, ///< when it is drawn for the first time: for thousands of pylons
 };
 
-/// Builds pylons that share what is equal: states, masts, whole pylons. Nodes may outlive their
-/// factory. One thread at a time calls it; its nodes may be drawn by any.
+/// Builds pylons that share equal parts: states, masts, whole pylons. Nodes may exist longer than
+/// their factory. Only one thread at a time may call the factory; any thread may draw its nodes.
 ///
 /// A pylon is a transform to its foot (x east, y north, z up, metres) above an osg::LOD with two
-/// children: the precise representation from 0 to the realistic distance and the symbolic one from
-/// there to the symbolic distance; none of both beyond. The distances count from half the mast's
-/// height.
+/// children: the precise representation from 0 to the realistic distance, and the symbolic one from
+/// there to the symbolic distance. At larger distances nothing is drawn. The distances are measured
+/// from half the mast's height.
 class PylonFactory
 {
 public:
@@ -36,17 +36,17 @@ public:
     PylonFactory(const PylonFactory &) = delete;
     PylonFactory &operator=(const PylonFactory &) = delete;
 
-    /// A pylon at its place. Pylons of equal design share all below their transforms.
+    /// A pylon at its position. Pylons of equal design share everything below their transforms.
     osg::ref_ptr<osg::Node> build(const PylonObject &pylon);
 
-    /// The pylon with its foot at the origin; the same node for equal designs.
+    /// A pylon with its foot at the origin; the same node for equal designs.
     osg::ref_ptr<osg::Node> design(const PylonDesign &pylon);
 
-    /// One of the representations alone, foot at the origin.
+    /// One representation only, with the foot at the origin.
     osg::ref_ptr<osg::Node> precise(const PylonDesign &pylon);
     osg::ref_ptr<osg::Node> symbolic(const PylonDesign &pylon);
 
-    /// The states, for readers that put sectors of many pylons into one drawable.
+    /// The states, for readers that combine sectors of many pylons in one drawable.
     const SceneMaterials &materials() const;
 
 private:
@@ -56,7 +56,7 @@ private:
     std::map<PylonDesign, osg::ref_ptr<osg::Node>> m_designs;
 };
 
-/// A single pylon at its place.
+/// A single pylon at its position.
 osg::ref_ptr<osg::Node> buildPylon(const PylonObject &pylon);
 
 } // namespace vlt::scene

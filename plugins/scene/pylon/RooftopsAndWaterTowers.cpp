@@ -15,7 +15,7 @@ constexpr double StoreyM = 3;
 constexpr int MostStoreys = 40;
 constexpr int TowerSides = 48;
 
-/// Rows of windows on the four walls, a little in front of them.
+/// Adds rows of windows slightly in front of the four walls.
 void addWindows(Mesh &matt, double half, double roof)
 {
     const int storeys = std::clamp(static_cast<int>(roof / StoreyM), 0, MostStoreys);
@@ -42,7 +42,7 @@ void addParapet(Mesh &matt, double half, double roof)
     const double height = std::min(0.45, roof);
     for (const double azimuth : {0, 90, 180, 270}) {
         const osg::Vec3d out = towards(azimuth);
-        // every wall reaches over one corner, so that no two share a face
+        // Each wall covers one corner, so that no two walls share a face.
         addBox(matt,
                out * (half - Thickness / 2 + 0.04) + rightOf(azimuth) * (Thickness / 2) +
                    osg::Vec3d(0, 0, roof + height / 2 - 0.05),
@@ -63,7 +63,7 @@ void addRooftop(Meshes &meshes, const MastDesign &mast)
     addBox(meshes.matt, {-felt, -felt, roof - 0.07}, {felt, felt, roof}, palette::RoofFelt);
     addWindows(meshes.matt, half, roof);
     addParapet(meshes.matt, half, roof);
-    // equipment cabinets, and the pole in the middle with the lightning rod
+    // equipment cabinets, and the pole with the lightning rod at the centre
     const double cabinet = std::min(0.45, 0.2 * half);
     for (const double x : {-1.3, 0.0, 1.3})
         addBox(meshes.metal, {x * cabinet * 1.9 - cabinet, -0.75 * half, roof},
@@ -86,7 +86,7 @@ void addWaterTower(Meshes &meshes, const MastDesign &mast)
     wall.insert(wall.begin(), {wall.front().x(), -FoundationDepthM});
     addRevolved(meshes.matt, wall, TowerSides, palette::Concrete);
     addRevolved(meshes.matt, waterTowerRoof(mast), TowerSides, palette::Plaster);
-    // a band around the tank's foot, and a door
+    // a band around the foot of the tank, and a door
     const double tank = 1.5 * mast.widthM;
     const double foot = waterTowerTankFoot(mast);
     addRevolved(meshes.matt,

@@ -25,7 +25,8 @@ osg::ref_ptr<osg::StateSet> lit(float shine, float shininess)
     return state;
 }
 
-/// Not lit; a little behind the edges, which lie in the same planes.
+/// The state of a sector: without lighting, and slightly behind its edges, which are in the same
+/// planes.
 osg::ref_ptr<osg::StateSet> sector()
 {
     osg::ref_ptr<osg::StateSet> state = new osg::StateSet;

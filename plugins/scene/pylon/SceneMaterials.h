@@ -6,8 +6,8 @@
 
 namespace vlt::scene {
 
-/// The few states with which everything is drawn; colours come from the vertices. Drawables share
-/// them, so that the renderer changes state rarely. There are no lights: the viewer has its own.
+/// The state sets of all pylons. Drawables share them, so that the renderer changes its state
+/// rarely. Colours are those of the vertices; lights are left to the viewer.
 struct SceneMaterials : osg::Referenced
 {
     SceneMaterials();
@@ -15,7 +15,7 @@ struct SceneMaterials : osg::Referenced
     osg::ref_ptr<osg::StateSet> metal;
     osg::ref_ptr<osg::StateSet> matt;
     osg::ref_ptr<osg::StateSet> opaqueSector;
-    osg::ref_ptr<osg::StateSet> translucentSector; ///< for geometries that draw both their sides
+    osg::ref_ptr<osg::StateSet> translucentSector; ///< for BothSidesGeometry
     osg::ref_ptr<osg::StateSet> sectorEdges;
 
 private:

@@ -10,7 +10,7 @@ namespace vlt::scene {
 namespace {
 
 constexpr double WholeTurnDeg = 360;
-constexpr double TouchingDeg = 0.1; ///< neighbours that only share an edge do not overlap
+constexpr double TouchingDeg = 0.1; ///< sectors that only share an edge do not overlap
 constexpr double TouchingM = 1e-6;
 
 double beamWidth(const Transmitter &transmitter)
@@ -35,10 +35,10 @@ Color scaled(const Color &color, double share)
     return {part(color.r()), part(color.g()), part(color.b()), color.a()};
 }
 
-/// Corners of a wedge's outline: the arc clockwise; the whole circle ends where it starts.
+/// Corners of the arc of a wedge, clockwise; those of a full circle end with the first one.
 std::vector<osg::Vec3d> arcOf(const Sector &sector, double arcStepDeg)
 {
-    // an even number, so that a corner lies at the azimuth itself
+    // an even number, so that there is a corner at the azimuth
     const int steps =
         2 * std::max(1, static_cast<int>(std::ceil(sector.beamWidthDeg / arcStepDeg / 2)));
     std::vector<osg::Vec3d> arc;
@@ -57,7 +57,7 @@ struct Wedge
     bool whole;
 };
 
-/// Top or bottom.
+/// Adds the top or the bottom.
 void addFan(Mesh &fill, const Wedge &wedge, bool top, const Color &color)
 {
     const osg::Vec3d normal(0, 0, top ? 1 : -1);
@@ -74,7 +74,7 @@ void addFan(Mesh &fill, const Wedge &wedge, bool top, const Color &color)
     }
 }
 
-/// The arc's wall.
+/// Adds the wall along the arc.
 void addWall(Mesh &fill, const Wedge &wedge, const Color &color)
 {
     unsigned last = 0;
@@ -89,7 +89,7 @@ void addWall(Mesh &fill, const Wedge &wedge, const Color &color)
     }
 }
 
-/// One of the two straight walls; `left` as seen from the mast.
+/// Adds one of the two straight walls; `left` as seen from the mast.
 void addSide(Mesh &fill, const Wedge &wedge, bool left, const Color &color)
 {
     const osg::Vec3d &arm = left ? wedge.arc.front() : wedge.arc.back();
@@ -146,7 +146,7 @@ std::vector<Sector> stackSectors(const PylonDesign &pylon)
     std::stable_sort(rising.begin(), rising.end(), [](const Transmitter *a, const Transmitter *b) {
         return a->heightM < b->heightM;
     });
-    std::vector<Sector> placed; // by bottom, so that one walk upwards finds the first free place
+    std::vector<Sector> placed; // by bottom: one pass upwards finds free space
     const double thickness = pylon.sectorHeightM;
     for (const Transmitter *transmitter : rising) {
         Sector sector{transmitter->azimuthDeg,
@@ -172,7 +172,7 @@ std::vector<Sector> stackSectors(const PylonDesign &pylon)
 void addSector(Mesh &fill, Mesh &edges, const Sector &sector, const osg::Vec3d &foot,
                double arcStepDeg)
 {
-    // whoever looks through a wedge looks through two walls: both together are as opaque as asked
+    // A view through a wedge passes two walls, which together have the opacity of the colour.
     Color color = sector.color;
     const double through = std::sqrt(1 - color.a() / 255.0);
     color.a() = static_cast<unsigned char>(std::lround(255 * (1 - through)));

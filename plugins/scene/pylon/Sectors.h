@@ -7,10 +7,10 @@
 
 namespace vlt::scene {
 
-/// One sector as a wedge: a slice of a flat disc about the mast's axis.
+/// A sector as a wedge: a slice of a flat disc about the mast's axis.
 struct Sector
 {
-    double azimuthDeg = 0; ///< of its middle
+    double azimuthDeg = 0; ///< of its centre
     double beamWidthDeg = 0;
     double radiusM = 0;
     double bottomM = 0; ///< above the foot
@@ -18,21 +18,21 @@ struct Sector
     Color color;
 };
 
-/// The sectors of a pylon, one for each transmitter that is to be seen (radius, height and opacity
-/// above 0), from the lowest antenna to the highest.
+/// The sectors of a pylon, one for each visible transmitter (radius, height and opacity above 0),
+/// in ascending order of their bottoms.
 ///
-/// A wedge has its middle at the antenna's height, but never lies below the foot. Where it would
-/// run into one that has its place already, or come closer to it than the sector spacing, it
-/// is lifted above that one by the spacing. Tilt does not turn wedges: they are a plan of azimuths.
+/// The centre of a wedge is at the antenna's height, but no part is below the foot. If it would
+/// overlap a wedge that has been placed before, or be closer to it than the sector spacing, it is
+/// moved up to the spacing above that one. Wedges are not tilted, because they show azimuths.
 std::vector<Sector> stackSectors(const PylonDesign &pylon);
 
-/// Adds a wedge and the lines along its edges. Neither takes part in lighting: faces have the
-/// sector's colour, a shade darker on the sides, so that legends match.
+/// Adds a wedge and the lines along its edges. They have no lighting: faces have the sector's
+/// colour, slightly darker on the sides, so that they match legends.
 ///
-/// @param foot  of the mast, in the frame of the meshes
-/// @param arcStepDeg  longest piece of the arc: a wedge of 65 degrees has 70 vertices at 5 degrees
-///     and 38 at 15
-/// @param fill, edges  solids and lines, for the states of SceneMaterials
+/// @param fill, edges  receive solids and lines, for the states of SceneMaterials
+/// @param foot         foot of the mast, in the frame of the meshes
+/// @param arcStepDeg   maximum length of a piece of the arc: a wedge of 65 degrees has 70 vertices
+///                     at 5 degrees and 38 at 15
 void addSector(Mesh &fill, Mesh &edges, const Sector &sector, const osg::Vec3d &foot,
                double arcStepDeg = 5);
 

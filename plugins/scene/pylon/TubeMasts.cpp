@@ -18,7 +18,7 @@ double radiusAt(const MastDesign &mast, double height)
     return mastSection(mast, height).inradiusM;
 }
 
-/// A straight line along the tube's surface, some way in front of it.
+/// A straight line along the tube, with a gap to its surface.
 Span alongTube(const MastDesign &mast, double azimuthDeg, double bottom, double top, double gap)
 {
     const osg::Vec3d out = towards(azimuthDeg);
@@ -40,7 +40,7 @@ void addStandoffs(Mesh &metal, const MastDesign &mast, double azimuthDeg, double
     }
 }
 
-/// The tube itself: a collar where two lengths meet, colours by band.
+/// Adds the tube: pieces with a collar at each joint, in the colours of the bands.
 void addTubeBody(Mesh &metal, const MastDesign &mast)
 {
     const std::vector<double> heights = bandHeights(mast);
@@ -108,7 +108,7 @@ void addWoodenPole(Meshes &meshes, const MastDesign &mast)
         {{radiusAt(mast, 0), -FoundationDepthM}, {radiusAt(mast, top), top - 0.04}, {0, top}}, 16,
         palette::Wood);
     addRod(meshes.metal, {0, 0, top});
-    // steps for the climber, left and right in turn
+    // climbing steps, alternately on the left and on the right
     const int steps = std::clamp(static_cast<int>((top - 5) / 0.45), 0, 200);
     for (int i = 0; i < steps; ++i) {
         const double height = 3.2 + (top - 5) * i / std::max(1, steps);

@@ -13,7 +13,7 @@ Profile waterTowerWall(const MastDesign &mast)
     const double wallFoot = waterTowerTankFoot(mast);
     const double flareFoot = std::max(0.5 * gallery, wallFoot - 1.3 * tank);
     Profile wall = {{shaft * 1.12, 0}, {shaft, 0.04 * gallery}};
-    constexpr int Steps = 7; // the flare is a quarter of an ellipse from the upright shaft
+    constexpr int Steps = 7; // from the shaft to the tank the wall is a quarter of an ellipse
     for (int i = 0; i <= Steps; ++i) {
         const double angle = osg::PI_2 * 0.94 * i / Steps;
         const double out = 1 - std::cos(angle);
@@ -43,7 +43,7 @@ Profile waterTowerRoof(const MastDesign &mast)
 double waterTowerTankFoot(const MastDesign &mast)
 {
     const double gallery = mast.decksM.front();
-    return std::max(0.72 * gallery, gallery - 3 * mast.widthM); // no higher than the tank is wide
+    return std::max(0.72 * gallery, gallery - 3 * mast.widthM); // height <= width of the tank
 }
 
 double waterTowerRadius(const MastDesign &mast, double heightM)

@@ -5,15 +5,15 @@
 
 namespace vlt::scene {
 
-/// Outer wall of a water tower from the ground to the gallery, and its roof from the gallery to the
-/// top.
+/// Profiles of a water tower: its outer wall from the ground to the gallery, and its roof from the
+/// gallery to the top.
 Profile waterTowerWall(const MastDesign &mast);
 Profile waterTowerRoof(const MastDesign &mast);
 
-/// Height where the tank's upright wall begins.
+/// Height in metres at which the vertical wall of the tank begins.
 double waterTowerTankFoot(const MastDesign &mast);
 
-/// From the axis to the outer wall or roof at a height, metres.
+/// Distance in metres from the axis to the outer wall or roof at a height.
 double waterTowerRadius(const MastDesign &mast, double heightM);
 
 } // namespace vlt::scene

@@ -12,9 +12,9 @@ namespace {
 
 using namespace vlt::scene;
 
-/// Opens "inline://parametric/query?object=pylon&...inlinepylonurl", and the same of object=link,
-/// in any program of the scene library. It claims no protocol: names that it does not read would
-/// then go to the network.
+/// Opens "inline://parametric/query?object=pylon&...inlinepylonurl", and the same with object=link,
+/// in any program of the scene library. It does not register the protocol, because the library
+/// would then look up other names of this protocol on the network.
 class InlinePylonReader : public osgDB::ReaderWriter
 {
 public:

@@ -9,16 +9,16 @@
 
 namespace vlt::scene {
 
-/// How programs that list the readers' options tell of the project file.
+/// The option for the project file, for programs that list the options of readers.
 inline constexpr char ProjectOption[] = "project=<file>";
 inline constexpr char ProjectOptionText[] =
     "The project file that the layer belongs to: relative paths start from its folder";
 
-/// What a caller of a layer reader asks for.
+/// The options that a caller passes to a reader.
 struct ReadRequest
 {
-    /// The project file that the caller names: the plug-in datum contract::ProjectDatum, or what
-    /// follows "project=" in the option string, in quotation marks or up to its end.
+    /// The project file: the plug-in datum contract::ProjectDatum, or the text after "project=" in
+    /// the option string, in quotation marks or up to the end.
     std::string project;
     bool withTerrain = false;             ///< the plug-in datum contract::TerrainDatum is "1"
     bool isOnlyDrawn = false;             ///< the plug-in datum contract::DrawnDatum is "1"
@@ -29,10 +29,10 @@ ReadRequest readRequestOf(const osgDB::Options *options);
 
 /// Reads a local file with the extension of a reader.
 ///
-/// @param name  as the caller has it; looked for where the scene library looks for files
-/// @param read  makes the scene of the path that was found and adds notices; what it throws is the
-///              reader's message, after the path; where the caller stopped it,
-///              contract::StoppedText
+/// @param name  searched for in the folders of the scene library
+/// @param read  makes the scene for the path that was found and adds notices. The text of an
+///              exception becomes the reader's message, after the path; if the caller stopped the
+///              reader, the message is contract::StoppedText
 osgDB::ReaderWriter::ReadResult readLocalScene(
     const std::string &name, const osgDB::Options *options,
     const std::function<osg::ref_ptr<osg::Group>(const std::string &path, const ReadRequest &,

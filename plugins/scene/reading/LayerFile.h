@@ -18,8 +18,7 @@ struct LayerFile
     std::string source;
     std::string layer;     ///< sites: their layer in the source; empty: the first
     std::string endLayer;  ///< links: the layer with their ends; empty: the second
-    std::string siteField; ///< field with the names of sites; empty: the field for which a column
-                           ///< of site names is recognised
+    std::string siteField; ///< field with the names of sites; empty: the recognised one
 };
 
 /// Reads the text of a layer file. A value is a CDATA section, which may contain any text except
