@@ -27,7 +27,7 @@ using contract::BuildingDocument;
 using contract::BuildingFootprints;
 using Directories = std::vector<std::string>;
 
-/// A stretch of the whole work.
+/// The progress of a part of the work, from one share of the whole to another.
 Progress part(const Progress &whole, double from, double to)
 {
     return [&whole, from, to](double share) { return whole(from + share * (to - from)); };
@@ -56,7 +56,8 @@ bool isPlaced(const Town &town, const Footprints::Building &building)
     return true;
 }
 
-/// Lays the frame and leaves out what is not in it.
+/// Determines the frame, transforms the buildings to it and leaves out those that have no position
+/// in it.
 void place(Town &town, const OGRSpatialReference *srs)
 {
     const CPLErrorHandlerPusher quiet(CPLQuietErrorHandler);
@@ -92,10 +93,11 @@ void tellLeftOut(const LeftOut &leftOut, const std::string &heightField, std::si
     }
 }
 
-/// Buildings whose outline another one has, too: walls and roofs flicker where they coincide.
+/// Number of buildings with the same outline as another one. The user is informed about them,
+/// because walls and roofs flicker if they coincide.
 std::size_t countCoincident(const Town &town)
 {
-    using Outline = std::array<double, 5>; // extent and number of points
+    using Outline = std::array<double, 5>; // extent and number of vertices
     std::vector<Outline> outlines;
     for (const Footprints::Building &building : town.footprints.buildings) {
         const Footprints::Ring &ring = town.footprints.rings[building.ringBegin];
@@ -153,7 +155,7 @@ void colour(Town &town, const BuildingFootprints &footprints, const Directories 
                                          part(progress, 0.7, 0.8));
 }
 
-/// What makes tiles with images; empty where the document has none that can be used.
+/// The function that makes tiles with images; empty if the document has no usable images.
 TexturedMaker texturedMaker(const std::shared_ptr<const Town> &town,
                             const BuildingDocument &document, const Directories &directories,
                             Notices &notices, const Progress &progress)

@@ -6,15 +6,15 @@
 
 namespace vlt::scene {
 
-/// Reads a building document and makes the scene of it: metres around the middle of the buildings,
-/// x east, y north, z up, tiles of the document's size with levels of detail.
+/// Reads a building document and makes its scene, in metres around the centre of the buildings: x
+/// east, y north, z up. It consists of tiles with levels of detail; the document gives their size.
 ///
-/// Its descriptions tell what it holds: "centre=X Y", "srs=...", "buildings=N", "leftOut=N".
+/// Its descriptions are "centre=X Y", "srs=...", "buildings=N" and "leftOut=N".
 ///
-/// @param document  path of the document
-/// @param project   path of the project file, for relative names; may be empty
-/// @throws BadLayer  naming what is missing or wrong
-/// @throws Stopped   by `progress`
+/// @param document   path of the document
+/// @param project    path of the project file, for relative paths; may be empty
+/// @throws BadLayer  with a text that names what is missing or wrong
+/// @throws Stopped   `progress` stopped the function
 osg::ref_ptr<osg::Group> readBuildingScene(const std::string &document, const std::string &project,
                                            Notices &notices, const Progress &progress);
 

@@ -7,7 +7,7 @@
 
 namespace vlt::scene {
 
-/// "#RRGGBB"; nothing for other texts.
+/// The colour of a text "#RRGGBB"; nothing for other texts.
 std::optional<colormaps::Rgba> parseColor(const std::string &text);
 
 } // namespace vlt::scene

@@ -10,7 +10,7 @@ namespace vlt::scene {
 
 namespace {
 
-/// Nearer ones first.
+/// Steps to the neighbours of a pixel, those with the smaller distance first.
 constexpr std::array<std::pair<int, int>, 8> Neighbours = {
     {{0, -1}, {-1, 0}, {1, 0}, {0, 1}, {-1, -1}, {1, -1}, {-1, 1}, {1, 1}}};
 
@@ -33,12 +33,12 @@ public:
         }
     }
 
-    /// Colours beside the latest ones.
+    /// Colours the pixels beside those that were coloured last.
     ///
-    /// @param rim  pixels along the sides that get none
+    /// @param rim  width in pixels of the border of the image that gets no colours
     void grow(int rim)
     {
-        std::vector<std::pair<Pixel, Pixel>> grown; // with where its colour is from
+        std::vector<std::pair<Pixel, Pixel>> grown; // with the pixel that gives its colour
         for (const Pixel &source : m_latest) {
             for (const auto &[right, down] : Neighbours) {
                 const Pixel pixel{source.column + right, source.row + down};
@@ -82,7 +82,7 @@ private:
                pixel.row < m_rows - rim;
     }
 
-    /// Whether it has a colour and one of its neighbours has none.
+    /// Whether a pixel has a colour and one of its neighbours has none.
     bool isEdge(const Pixel &pixel) const
     {
         return color(pixel)[3] > 0 &&
@@ -106,7 +106,7 @@ private:
     int m_columns;
     int m_rows;
     std::vector<bool> m_isTaken;
-    std::vector<Pixel> m_latest; ///< those with colours from which they may grow
+    std::vector<Pixel> m_latest; ///< coloured pixels that may have uncoloured neighbours
 };
 
 } // namespace

@@ -4,13 +4,13 @@
 
 namespace vlt::scene {
 
-/// Lets the colours of an image grow into its see-through pixels, each taking one of its
-/// neighbours' as it is, so that no colour appears that was not there. Around that the colours grow
-/// by one pixel more which stays see-through: filters that mix it in find no strange colour. The
-/// pixels along the four sides stay see-through.
+/// Extends the colours of an image into its transparent pixels. Each pixel gets the colour of one
+/// of its neighbours, so that there are no new colours. One more pixel around these gets a colour
+/// but stays transparent, so that filters at the border mix in no other colour. The pixels along
+/// the four sides of the image stay transparent.
 ///
 /// @param image   red, green, blue, opacity in bytes
-/// @param pixels  how far
+/// @param pixels  distance by which the colours are extended
 void dilate(osg::Image &image, int pixels);
 
 } // namespace vlt::scene

@@ -5,14 +5,14 @@
 
 namespace vlt::scene {
 
-/// The absolute path of a file or folder of the local disk; empty where there is none of this name.
+/// The absolute path of a file or folder of the local disk; empty if there is none of this name.
 std::string locateDataset(const std::string &name, const std::vector<std::string> &directories);
 
 /// The absolute path of the document of a layer.
 ///
-/// @param source   of the layer: "TEXB:" and the path of the document
-/// @param layer    path of the layer file
-/// @throws BadLayer  another source, no such file
+/// @param source     of the layer: "TEXB:" and the path of the document
+/// @param layer      path of the layer file
+/// @throws BadLayer  the source has another form, or there is no such file
 std::string locateDocument(const std::string &source, const std::string &layer,
                            const std::string &project);
 

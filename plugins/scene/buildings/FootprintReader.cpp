@@ -20,16 +20,17 @@ namespace {
 
 constexpr double Endless = std::numeric_limits<double>::infinity();
 constexpr std::size_t FeaturesPerReport = 2000;
-constexpr double MinAreaShare = 1e-9; ///< of the square of a ring's extent
+constexpr double MinAreaShare = 1e-9; ///< as a share of the square of a ring's extent
 constexpr int DeepestCollection = 8;
 
-/// Adds the polygons of one feature after the other to the flat arrays.
+/// Adds the polygons of features to the arrays of Footprints.
 class FootprintBuilder
 {
 public:
     explicit FootprintBuilder(Footprints &footprints) : m_footprints(footprints) {}
 
-    /// False where the geometry holds no polygon with an area; then nothing is added.
+    /// Adds a building; false, without adding anything, if the geometry has no polygon with an
+    /// area.
     bool add(const OGRGeometry &geometry, float heightM)
     {
         const auto ringBegin = static_cast<std::uint32_t>(m_footprints.rings.size());
@@ -102,7 +103,7 @@ private:
         return std::abs(doubled) > least || crossedArea(ring) * 2 > least;
     }
 
-    /// The lobes of a line that cuts itself may run in both directions and cancel out.
+    /// Area of a ring that may cross itself: the signed areas of its parts may cancel out.
     double crossedArea(std::span<const osg::Vec2d> ring)
     {
         std::vector<osg::Vec2d> near(ring.begin(), ring.end());
@@ -163,7 +164,7 @@ int findHeightField(const OGRLayer &layer, const std::string &name)
     return found;
 }
 
-/// Counts the feature in where it is a building, else in what is left out.
+/// Adds a feature if it is a building, else counts it as left out.
 void take(const OGRFeature &feature, int heightField, FootprintBuilder &builder, LeftOut &leftOut)
 {
     const std::optional<double> heightM = numberAt(feature, heightField, -Endless, Endless);
@@ -186,7 +187,7 @@ void take(const OGRFeature &feature, int heightField, FootprintBuilder &builder,
         ++leftOut.noShape;
 }
 
-/// The next feature; null behind the last, and where a notice tells that the rest cannot be read.
+/// The next feature; null after the last one, and if the rest cannot be read, which adds a notice.
 OGRFeatureUniquePtr nextReadable(OGRLayer &layer, std::size_t features, Notices &notices)
 {
     try {

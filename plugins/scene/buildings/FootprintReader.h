@@ -8,38 +8,39 @@
 
 namespace vlt::scene {
 
-/// Most points of all footprints that are read: half a gigabyte, most towns have a hundredth of it.
+/// Maximum number of vertices of all footprints: half a gigabyte, a hundred times a typical town.
 inline constexpr std::size_t MaxPlaces = 30'000'000;
 
-/// Highest building; what claims to be higher has no height but some mark that there is none.
+/// Maximum height of a building. A larger number is taken for a mark of a missing height.
 inline constexpr double HighestBuildingM = 10000;
 
-/// Where footprints are.
+/// The source of footprints.
 struct FootprintSource
 {
     std::string file;  ///< absolute path of a file or folder
-    std::string layer; ///< empty: the first
+    std::string layer; ///< empty: the first layer
     std::string heightField;
 };
 
 struct ReadFootprints
 {
     Footprints footprints;
-    std::optional<OGRSpatialReference> srs; ///< x before y; nothing where none is stated
-    LeftOut leftOut;                        ///< but for noPlace
-    std::size_t features = 0;               ///< read from the source
+    std::optional<OGRSpatialReference> srs; ///< x before y; nothing if the source declares none
+    LeftOut leftOut;                        ///< without noPlace
+    std::size_t features = 0;               ///< number of features read from the source
 };
 
-/// Reads the polygons of a layer: with holes, of several parts, within collections, curved ones as
-/// lines, heights of their points ignored. Layer and field are found by their exact names, else
-/// whatever the case.
+/// Reads the polygons of a layer: also those with holes, with several parts and in collections.
+/// Curves become lines; the z of vertices is ignored. Layer and field are found by their exact
+/// names, else in any case of letters.
 ///
-/// Heights are numbers or texts that hold one, maybe with a decimal comma, in metres. Points that
-/// repeat the one before or are not finite, and rings without an area, are left out.
+/// The height field has heights in metres as numbers or as texts, which may have a decimal comma.
+/// Repeated vertices, vertices that are not finite and rings without an area are left out.
 ///
-/// @param notices  takes that reading ended before the end of the file, with the reason
-/// @throws BadLayer  no such file, layer or field, a field of no numbers; nothing can be read;
-/// @throws Stopped   by `progress`
+/// @param notices    receives a notice with the reason if a part of the file cannot be read
+/// @throws BadLayer  there is no such file, layer or field, the field has no numbers, or nothing
+///                   can be read
+/// @throws Stopped   `progress` stopped the function
 ReadFootprints readFootprints(const FootprintSource &source, Notices &notices,
                               const Progress &progress);
 

@@ -19,11 +19,11 @@ namespace {
 constexpr float NoGround = std::numeric_limits<float>::quiet_NaN();
 constexpr std::size_t BuildingsPerReport = 4096;
 
-/// The terrain as the footprints' system sees it.
+/// The terrain with the transformation from the footprints' system.
 class Ground
 {
 public:
-    /// @throws BadLayer  naming why the terrain cannot be used
+    /// @throws BadLayer  with the reason why the terrain cannot be used
     Ground(const GroundSource &source, const OGRSpatialReference *srs)
     {
         OGRSpatialReference plane;
@@ -41,7 +41,7 @@ public:
         }
     }
 
-    /// NaN where no point has a height.
+    /// Mean of the heights under positions; NaN if none of them has a height.
     float meanUnder(std::span<const osg::Vec2d> places)
     {
         m_x.resize(places.size());
@@ -72,7 +72,7 @@ private:
     std::vector<int> m_isThere;
 };
 
-/// Puts buildings without ground on the lowest that there is.
+/// Gives buildings without a ground height the minimum of all others.
 void fillIn(std::vector<float> &heights, Notices &notices)
 {
     float lowest = std::numeric_limits<float>::infinity();
@@ -93,7 +93,7 @@ void fillIn(std::vector<float> &heights, Notices &notices)
                                     {std::to_string(missing), std::to_string(heights.size())}));
 }
 
-/// The terrain of a document; nothing, with a notice, where there is none.
+/// The terrain of a document; nothing, with a notice, if there is none or it cannot be used.
 std::optional<Ground> openGround(const GroundSource &source, const OGRSpatialReference *srs,
                                  Notices &notices)
 {

@@ -6,21 +6,21 @@
 
 namespace vlt::scene {
 
-/// The terrain that a document names.
+/// The terrain of a document.
 struct GroundSource
 {
-    std::string file;   ///< as the document has it; empty: none
-    std::string path;   ///< absolute; empty where there is no such local file
-    std::string noData; ///< as typed: the value that has no height, besides the file's own
+    std::string file;   ///< as in the document; empty: no terrain
+    std::string path;   ///< absolute; empty if there is no such local file
+    std::string noData; ///< as typed: a "no data" value in addition to the file's own
 };
 
-/// The height on which each building stands: the mean ground height under the points of its first
-/// ring that have one. Buildings without such a point stand on the lowest ground that another one
-/// has, and all at 0 where none has; a notice tells so.
+/// The ground height of each building: the mean terrain height under the vertices of its first ring
+/// that have one. Buildings without such a vertex get the minimum of all others, or 0 if there is
+/// no ground height at all; a notice reports this.
 ///
-/// @param srs  of the footprints; null: that of the terrain
-/// @return     parallel to footprints.buildings, metres above sea level
-/// @throws Stopped  by `progress`
+/// @param srs       system of the footprints; null: that of the terrain
+/// @return          parallel to footprints.buildings, metres above sea level
+/// @throws Stopped  `progress` stopped the function
 std::vector<float> groundUnder(const Footprints &footprints, const OGRSpatialReference *srs,
                                const GroundSource &source, Notices &notices,
                                const Progress &progress);

@@ -16,8 +16,8 @@ osg::ref_ptr<osg::Texture2D> textureOf(osg::Image &image, const contract::Buildi
     texture->setFilter(osg::Texture::MAG_FILTER, look.magFilter == contract::MagFilter::Linear
                                                      ? osg::Texture::LINEAR
                                                      : osg::Texture::NEAREST);
-    if (look.compression != contract::TextureCompression::None) // where the hardware has none of
-                                                                // it, they stay as they are
+    // Hardware without this compression ignores it.
+    if (look.compression != contract::TextureCompression::None)
         texture->setInternalFormatMode(osg::Texture::USE_S3TC_DXT5_COMPRESSION);
     return texture;
 }

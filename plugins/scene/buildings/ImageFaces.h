@@ -12,24 +12,24 @@
 
 namespace vlt::scene {
 
-/// A wall over the line between two places.
+/// A wall along the line between two positions.
 struct Wall
 {
     osg::Vec2d from; ///< metres from the origin of the vertices
     osg::Vec2d to;
     osg::Vec2d normal;     ///< outwards, of length 1
-    osg::Vec2d lookedFrom; ///< where in the image, in the footprints' system
-    osg::Vec2d lookedTo;
+    osg::Vec2d lookedFrom; ///< position in the image for `from`, in the footprints' system
+    osg::Vec2d lookedTo;   ///< the same for `to`
 };
 
-/// Faces of buildings that show one image, collected before they become one drawable.
+/// Faces of buildings with the same image, which will become one drawable.
 class ImageFaces
 {
 public:
-    /// A level face.
+    /// Adds a horizontal face.
     ///
-    /// @param looked  where in the image, in the footprints' system; parallel to roof.points()
-    /// @param color   where the image has none
+    /// @param looked  positions in the image, in the footprints' system; parallel to roof.points()
+    /// @param color   colour where the image has none
     void addFloor(const RoofTriangles &roof, const std::vector<osg::Vec2d> &looked, double z,
                   const osg::Vec4ub &color);
 
@@ -37,10 +37,10 @@ public:
 
     bool isEmpty() const { return m_indices.empty(); }
 
-    /// The drawable with the part of the image that it needs.
+    /// The drawable, with the part of the image that it needs.
     ///
-    /// @param state     what all such faces have in common
-    /// @param maxSide  of the part of the image, in pixels: TextureImage::crop()
+    /// @param state    the state set that all faces with images share
+    /// @param maxSide  maximum side of the part of the image in pixels: TextureImage::crop()
     osg::ref_ptr<osg::Geometry> geometry(TextureImage &image,
                                          const contract::BuildingTextures &textures,
                                          const osg::StateSet &state, int maxSide) const;

@@ -10,21 +10,21 @@
 
 namespace vlt::scene {
 
-/// The way from the system of footprints to that of a raster, x before y in both. Not for two
-/// threads at once.
+/// The transformation from the system of footprints to that of a raster, x before y in both. Not
+/// for two threads at once.
 class PlaceTransform
 {
 public:
-    /// Where one of the systems is not known, both are taken as the same.
+    /// If one of the systems is unknown, both are assumed to be the same.
     ///
     /// @param from  WKT; may be empty
     /// @param to    may be null
     PlaceTransform(const std::string &from, const OGRSpatialReference *to);
 
-    /// Whether there is one.
+    /// Whether there is a transformation.
     bool isUsable() const { return m_isUsable; }
 
-    /// Places that cannot be transformed become NaN.
+    /// Transforms positions; those that cannot be transformed become NaN.
     void apply(std::span<osg::Vec2d> places) const;
 
 private:

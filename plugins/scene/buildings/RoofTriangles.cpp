@@ -9,8 +9,8 @@ namespace vlt::scene {
 
 namespace {
 
-constexpr std::size_t MaxFanCentres = 12; ///< tried, of a ring that has not more points
-constexpr double AreaTolerance = 1e-6;    ///< of the whole area
+constexpr std::size_t MaxFanCentres = 12; ///< with more vertices only one centre is tried
+constexpr double AreaTolerance = 1e-6;    ///< as a share of the whole area
 constexpr double WholeTurn = 2 * 3.14159265358979324;
 
 double cross(const osg::Vec2d &a, const osg::Vec2d &b)
@@ -28,7 +28,7 @@ double doubledArea(std::span<const osg::Vec2d> ring)
     return doubled;
 }
 
-/// The scene library's tessellator for whatever is no fan.
+/// The scene library's tessellator, for polygons that are not fans.
 class RoofTriangles::Cutter
 {
 public:
@@ -37,7 +37,7 @@ public:
         using Function = osg::_GLUfuncptr;
         osg::gluTessCallback(m_tess, GLU_TESS_VERTEX_DATA, reinterpret_cast<Function>(takeVertex));
         osg::gluTessCallback(m_tess, GLU_TESS_COMBINE_DATA, reinterpret_cast<Function>(combine));
-        // with it there are only triangles, no fans and strips
+        // With this callback the tessellator returns triangles only, no fans and strips.
         osg::gluTessCallback(m_tess, GLU_TESS_EDGE_FLAG, reinterpret_cast<Function>(ignoreEdge));
         osg::gluTessProperty(m_tess, GLU_TESS_WINDING_RULE, GLU_TESS_WINDING_ODD);
         osg::gluTessNormal(m_tess, 0, 0, 1);
@@ -101,7 +101,7 @@ private:
 
     osg::GLUtesselator *m_tess;
     RoofTriangles *m_roof = nullptr;
-    std::deque<Vertex> m_vertices; ///< stay where they are
+    std::deque<Vertex> m_vertices; ///< a deque, because their addresses must not change
     std::vector<std::uint32_t> m_corners;
 };
 
@@ -130,7 +130,7 @@ void RoofTriangles::cut()
     m_triangles.clear();
     if (!m_cutter)
         m_cutter = std::make_unique<Cutter>();
-    double expected = 0; // of outer ring less holes, where no line cuts another
+    double expected = 0; // area of the outer ring less the holes, if no edges cross
     std::size_t begin = 0;
     for (const std::size_t end : m_ringEnds) {
         const double area = std::abs(doubledArea(std::span(m_points).subspan(begin, end - begin)));
@@ -161,8 +161,9 @@ bool RoofTriangles::cutAsFan()
     return false;
 }
 
-/// Whether all triangles around a point of the ring are on the same side and go less than once
-/// round: then they are the polygon.
+/// Makes the triangles from one vertex of the ring to all edges. They cover the polygon exactly if
+/// all have the same direction and their angles at the vertex are less than 360 degrees together;
+/// false otherwise.
 bool RoofTriangles::fanFrom(std::size_t centre)
 {
     m_triangles.clear();

@@ -10,11 +10,12 @@
 
 namespace vlt::scene {
 
-/// Twice the area within a ring, positive where it runs counter-clockwise.
+/// Twice the area within a ring; positive for a counter-clockwise one.
 double doubledArea(std::span<const osg::Vec2d> ring);
 
-/// Cuts polygons with holes into triangles. Whatever the rings are like (either direction, points
-/// twice, lines that touch or cross), what an odd number of them goes around is covered once.
+/// Divides polygons with holes into triangles. The triangles cover, exactly once, the area that an
+/// odd number of rings encloses. Rings may have either direction, repeated vertices and edges that
+/// touch or cross.
 class RoofTriangles
 {
 public:
@@ -23,27 +24,27 @@ public:
     RoofTriangles(const RoofTriangles &) = delete;
     RoofTriangles &operator=(const RoofTriangles &) = delete;
 
-    /// Starts a polygon: forgets the points and triangles of the one before.
+    /// Starts a polygon: removes the points and triangles of the previous one.
     void clear();
 
-    /// Adds a ring; the first is the outer one. Points near the origin keep their precision.
+    /// Adds a ring; the first is the outer one. The precision is best near the origin.
     void addRing(std::span<const osg::Vec2d> ring);
 
     /// Makes the triangles.
     void cut();
 
-    /// Those of the rings in their order, then some that lie where lines cross.
+    /// The vertices of the rings in their order, then those where edges cross.
     const std::vector<osg::Vec2d> &points() const { return m_points; }
 
     using Triangle = std::array<std::uint32_t, 3>;
 
-    /// Indices into points(), counter-clockwise, none without an area.
+    /// Indices into points(), counter-clockwise; no triangle has an area of 0.
     const std::vector<Triangle> &triangles() const { return m_triangles; }
 
-    /// Of all triangles.
+    /// Area of all triangles.
     double area() const;
 
-    /// Whether a line of the polygon cuts another.
+    /// Whether edges of the polygon cross.
     bool isCrossed() const { return m_isCrossed; }
 
 private:

@@ -18,7 +18,7 @@ using namespace contract;
 
 constexpr std::string_view Blanks = " \t\r\n";
 constexpr auto None = std::string_view::npos;
-/// Limit for hostile input, in metres or pixels: more makes no difference to what is seen.
+/// Limit for hostile input, in metres or pixels. Larger numbers would not change the scene.
 constexpr double MaxNumber = 1e9;
 
 std::string_view withoutBlanks(std::string_view text)
@@ -26,7 +26,7 @@ std::string_view withoutBlanks(std::string_view text)
     return text.substr(std::min(text.find_first_not_of(Blanks), text.size()));
 }
 
-/// The name at the start of a text; empty where there is none.
+/// The name at the start of a text; empty if there is none.
 std::string_view nameAt(std::string_view text)
 {
     std::size_t length = 0;
@@ -37,7 +37,8 @@ std::string_view nameAt(std::string_view text)
     return text.substr(0, length);
 }
 
-/// Takes `name = "` and moves behind the quotation mark; an empty name where it is none.
+/// Reads `name = "`. `text` is the rest after the quotation mark then. Returns an empty name, and
+/// leaves `text` unchanged, if the text starts differently.
 std::string_view takeAttributeName(std::string_view &text, char &quote)
 {
     std::string_view rest = withoutBlanks(text);
@@ -75,7 +76,7 @@ bool goesOn(std::string_view text)
 
 using Attributes = std::vector<std::pair<std::string, std::string>>;
 
-/// Takes the attributes of an element; `text` moves to what ends it.
+/// Reads the attributes of an element. `text` is the rest from the end of the element then.
 Attributes takeAttributes(std::string_view &text, References references)
 {
     Attributes attributes;
@@ -152,7 +153,8 @@ TextureMode modeNamed(const std::string &name)
     return *mode;
 }
 
-/// A word that is not known stands for whatever compression there is.
+/// The compression for a name. An unknown name means Arb, the compression that the graphics card
+/// selects.
 TextureCompression compressionNamed(const std::string &name)
 {
     return name.empty() ? TextureCompression::None
@@ -189,7 +191,7 @@ void takeElement(BuildingDocument &document, std::string_view name, const Attrib
                                              numberOf(attributes, texb::Height, 0, -MaxNumber)});
 }
 
-/// Moves to the next start of an element and takes its name; an empty one behind the last.
+/// Reads up to the next start tag and returns its name; empty after the last one.
 std::string_view takeElementName(std::string_view &text)
 {
     for (std::size_t at = text.find('<'); at != None; at = text.find('<')) {
@@ -224,7 +226,7 @@ BuildingDocument parseTexbDocument(std::string_view text)
     std::string_view name = takeElementName(text);
     if (name != texb::RootElement)
         throw BadLayer("MESS_SCENE_OTHER_DOCUMENT");
-    // whoever writes documents line by line escapes nothing: a path may hold "&#233;" then
+    // A document with one attribute per line is not escaped: "&#233;" may be a part of a path then.
     const bool isPlain = text.find("<vector \n") != None;
     const References references = isPlain ? References::Kept : References::Taken;
     BuildingDocument document;

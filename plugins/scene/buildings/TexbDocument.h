@@ -6,11 +6,12 @@
 
 namespace vlt::scene {
 
-/// Reads the text of a building document. Values are taken as they stand, whether somebody escaped
-/// them or not: a value ends at a quotation mark behind which the element goes on as such. What it
-/// says of a cache is for builders that keep what they make: it is left out.
+/// Reads the text of a building document. Values may be escaped or not; therefore a value ends at a
+/// quotation mark that another attribute or the end of the element follows. The attributes of the
+/// cache are ignored: they are for builders that keep buildings.
 ///
-/// @throws BadLayer  no building document, no footprints, no height field, a number that is none
+/// @throws BadLayer  the text is not a building document, the footprints or the height field are
+///                   missing, or a number is invalid
 contract::BuildingDocument parseTexbDocument(std::string_view text);
 
 /// The same for a local file.

@@ -17,7 +17,8 @@ namespace {
 constexpr double Opaque = 255;
 constexpr double MaxDilatation = 256;
 
-/// With its rims; compressed textures consist of blocks of four by four.
+/// Side of a texture in pixels, with its borders: a multiple of four, because compressed textures
+/// consist of blocks of four by four pixels.
 int sideFor(int pixels)
 {
     constexpr int Rims = 2;
@@ -33,7 +34,7 @@ osg::ref_ptr<osg::Image> seeThrough(int width, int height)
     return image;
 }
 
-/// 0 for what is no number.
+/// The value rounded and limited to 0 .. 255; 0 for NaN.
 std::uint8_t byteOf(double value)
 {
     return static_cast<std::uint8_t>(std::floor(std::min(std::max(0.0, value), Opaque) + 0.5));
@@ -41,7 +42,7 @@ std::uint8_t byteOf(double value)
 
 } // namespace
 
-/// A part of the image, and the size in which it is read.
+/// A part of the image, and the size at which it is read.
 struct TextureImage::Window
 {
     int left = 0;
@@ -178,7 +179,7 @@ std::optional<TextureImage::Window> TextureImage::windowOf(const std::vector<osg
     return window;
 }
 
-/// 0 .. 255 a pixel; empty where all are opaque.
+/// The opacity of each pixel, 0 .. 255; empty if all pixels are opaque.
 TextureImage::Values TextureImage::opacity(GDALDataset &dataset, const Window &window) const
 {
     Values opacity;
@@ -187,7 +188,7 @@ TextureImage::Values TextureImage::opacity(GDALDataset &dataset, const Window &w
             opacity.clear();
         return opacity;
     }
-    // a colour is none only where all its parts are
+    // A pixel has no data only if all its components have none.
     for (const int i : m_bands) {
         GDALRasterBand &band = *dataset.GetRasterBand(i);
         Values mask;
@@ -236,7 +237,7 @@ void TextureImage::read(GDALDataset &dataset, const Window &window, osg::Image &
 
 ImageCrop TextureImage::crop(const std::vector<osg::Vec2d> &pixels, double dilatation, int maxSide)
 {
-    constexpr double Margin = 2; // what filters mix in
+    constexpr double Margin = 2; // the neighbours that filters use
     const double grown = std::clamp(dilatation, 0.0, MaxDilatation);
     const std::optional<Window> window = windowOf(pixels, Margin + grown, maxSide);
     if (!window)

@@ -17,45 +17,46 @@
 
 namespace vlt::scene {
 
-/// Most pixels of a part along either side; larger ones are read coarser.
+/// Maximum number of pixels along each side of a part; larger parts are read at a lower resolution.
 inline constexpr int MaxCropPixels = 1024;
 
-/// A part of an image as a texture: red, green, blue and opacity, between a rim of pixels that are
-/// see-through. Its first row is the image's upper one.
+/// A part of an image as a texture: red, green, blue and opacity, with a border of transparent
+/// pixels. Its first row is the upper one of the image.
 struct ImageCrop
 {
     osg::ref_ptr<osg::Image> image;
-    osg::Vec2d corner; ///< in pixels of the whole image: where the part begins
-    osg::Vec2d scale;  ///< pixels of the part per pixel of the whole
+    osg::Vec2d corner; ///< first corner of the part, in pixels of the whole image
+    osg::Vec2d scale;  ///< pixels of the part per pixel of the whole image
 
-    /// Texture coordinates of a place in pixels of the whole image; on the rim for what is none.
+    /// Texture coordinates of a position in pixels of the whole image; for NaN a position on the
+    /// border.
     osg::Vec2 coordinates(const osg::Vec2d &pixel) const;
 };
 
-/// A georeferenced image of the local disk. May be used by several threads.
+/// A georeferenced image of the local disk. Several threads may use it.
 class TextureImage
 {
 public:
     /// @param name        absolute, or the library's name of a part of a local file
-    /// @param srs         WKT of the places that are looked up; may be empty
-    /// @param isKeptOpen  else it is opened anew for each part
+    /// @param srs         system of the positions, as WKT; may be empty
+    /// @param isKeptOpen  false: the file is opened again for each part
     /// @throws BadLayer   it cannot be opened, is not georeferenced, or there is no transformation
     ///                    to its system
     static std::unique_ptr<TextureImage> open(const std::string &name, const std::string &srs,
                                               bool isKeptOpen);
 
-    /// Turns places into pixels from the image's first corner; NaN where there is no way.
+    /// Converts positions to pixels from the image's first corner; NaN if that is not possible.
     void toPixels(std::vector<osg::Vec2d> &places);
 
-    /// The part of the image that covers places.
+    /// The part of the image that covers positions.
     ///
-    /// Empty are pixels without data and those that are see-through. Single bands without a palette
-    /// are grey, and values beyond bytes are laid over 0..255 from the least to the greatest.
+    /// Transparent pixels and those without data are empty. A single band without a palette is
+    /// grey. Values that are not bytes are scaled from their minimum and maximum to 0..255.
     ///
-    /// @param pixels      the places, from toPixels()
-    /// @param dilatation  pixels that colours grow into empty ones
+    /// @param pixels      the positions, from toPixels()
+    /// @param dilatation  number of pixels by which colours are extended into empty pixels
     /// @param maxSide     2 .. MaxCropPixels
-    /// @return            see-through where the image does not reach them or cannot be read
+    /// @return            transparent where the image does not cover it or cannot be read
     ImageCrop crop(const std::vector<osg::Vec2d> &pixels, double dilatation, int maxSide);
 
 private:
@@ -77,7 +78,7 @@ private:
     std::array<double, 6> m_toPixel{};
     int m_columns = 0;
     int m_rows = 0;
-    std::array<int, 3> m_bands{}; ///< of red, green and blue
+    std::array<int, 3> m_bands{}; ///< numbers of the bands of red, green and blue
     int m_opacityBand = 0;        ///< 0: none
     std::vector<GDALColorEntry> m_palette;
     double m_black = 0;

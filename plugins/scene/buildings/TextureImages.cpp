@@ -19,8 +19,8 @@ namespace {
 constexpr std::size_t MaxOpenFiles = 128;
 constexpr std::size_t MaxNotices = 10;
 
-// Level faces have the colours of the legend; walls are a little darker the less they face the
-// viewer, so that one sees their corners.
+// Horizontal faces have exactly the colours of the legend. Walls are darker the less they face the
+// viewer, so that their corners are visible.
 constexpr const char *Vertices = R"(#version 120
 varying vec2 place;
 varying float light;
@@ -57,7 +57,7 @@ osg::ref_ptr<osg::StateSet> makeFaceState()
     program->addShader(new osg::Shader(osg::Shader::FRAGMENT, Fragments));
     state->setAttributeAndModes(program);
     state->addUniform(new osg::Uniform("picture", 0));
-    state->setMode(GL_CULL_FACE, osg::StateAttribute::OFF); // floors are seen from below too
+    state->setMode(GL_CULL_FACE, osg::StateAttribute::OFF); // floors are also visible from below
     state->setAttributeAndModes(new osg::PolygonOffset(1, 1));
     return state;
 }
@@ -84,7 +84,8 @@ TextureImages::TextureImages(const Town &town)
     , m_plainState(makePlainState())
     , m_edgeState(makeEdgeState())
 {
-    // the same everywhere in a town, to well within a pixel over the few metres of a buffer
+    // The vectors are nearly the same in all parts of a town: over the few metres of a buffer, the
+    // difference is much less than a pixel.
     const LocalFrame &frame = *town.frame.local;
     const osg::Vec2d middle = frame.fromFrame({0, 0});
     m_right = frame.fromFrame({1, 0}) - middle;

@@ -12,7 +12,8 @@
 
 namespace vlt::scene {
 
-/// The images of a document, opened, and how they are drawn. May be used by several threads.
+/// The opened images of a document, and the state sets for drawing them. Several threads may use
+/// it.
 class TextureImages
 {
 public:
@@ -22,13 +23,13 @@ public:
         std::unique_ptr<TextureImage> image;
     };
 
-    /// Opens the images that can be used; a notice names each of the first others with the reason,
-    /// one more counts the rest. Images that are not georeferenced, and those to whose system there
-    /// is no transformation from that of the footprints, cannot be used; of several at one height
-    /// only the first one can.
+    /// Opens the usable images. For each of the first others a notice gives the reason; one more
+    /// notice gives the number of the rest. An image is not usable if it is not georeferenced, if
+    /// there is no transformation from the system of the footprints to its system, or if a previous
+    /// one has the same height.
     ///
-    /// @param directories  where files of relative names are looked for, in this order
-    /// @throws Stopped     by `progress`
+    /// @param directories  searched for relative paths, in this order
+    /// @throws Stopped     `progress` stopped the function
     static std::shared_ptr<TextureImages> open(const Town &town,
                                                const contract::BuildingTextures &textures,
                                                const std::vector<std::string> &directories,
@@ -36,17 +37,17 @@ public:
 
     bool isEmpty() const { return m_levels.empty(); }
 
-    /// From the lowest one upwards.
+    /// The images in ascending order of their heights.
     const std::vector<Level> &levels() const { return m_levels; }
 
-    /// The index of the level next in height; of two as near the lower one.
+    /// Index of the level with the nearest height; of two equally near ones the lower.
     std::size_t nearest(double heightM) const;
 
-    /// A way in the town's frame, in metres, as one in the footprints' system.
+    /// Converts a vector from the town's frame, in metres, to the footprints' system.
     osg::Vec2d inSystem(const osg::Vec2d &way) const;
 
-    /// For faces with an image on unit 0: the image where it has something, else the colour of the
-    /// vertices.
+    /// For faces with an image on texture unit 0: the image, and the colour of the vertices where
+    /// it is transparent.
     const osg::ref_ptr<osg::StateSet> &faceState() const { return m_faceState; }
     /// For faces in the colours of their vertices.
     const osg::ref_ptr<osg::StateSet> &plainState() const { return m_plainState; }
@@ -56,8 +57,8 @@ private:
     explicit TextureImages(const Town &town);
 
     std::vector<Level> m_levels;
-    osg::Vec2d m_right; ///< a metre to the east in the footprints' system
-    osg::Vec2d m_up;
+    osg::Vec2d m_right; ///< a metre to the east, in the footprints' system
+    osg::Vec2d m_up;    ///< a metre to the north
     osg::ref_ptr<osg::StateSet> m_faceState;
     osg::ref_ptr<osg::StateSet> m_plainState;
     osg::ref_ptr<osg::StateSet> m_edgeState;

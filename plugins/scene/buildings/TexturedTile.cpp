@@ -17,8 +17,8 @@ namespace {
 
 using Places = std::vector<osg::Vec2d>;
 
-constexpr double MaxPixelsPerTile = 1 << 21; ///< 8 MiB, of all images together
-constexpr double MaxPixelsPerTown = 1 << 27; ///< tiles stay once they are made
+constexpr double MaxPixelsPerTile = 1 << 21; ///< 8 MiB, for all images together
+constexpr double MaxPixelsPerTown = 1 << 27; ///< all tiles together, because tiles are kept
 constexpr int MinSide = 64;
 
 osg::Vec4ub opaque(const colormaps::Rgba &color)
@@ -26,7 +26,7 @@ osg::Vec4ub opaque(const colormaps::Rgba &color)
     return {color.red, color.green, color.blue, 255};
 }
 
-/// Which faces of whole buildings are drawn in their colours.
+/// The faces of buildings that are drawn in the town's colours.
 enum class Plain { All, Walls, Roofs };
 
 class TileBuilder
@@ -113,7 +113,8 @@ private:
         return within;
     }
 
-    /// Of the part of each image: the tile has as much of the town's memory as of its buildings.
+    /// Maximum side in pixels of the part of each image: the tile's share of the memory is its
+    /// share of the buildings.
     int maxSide() const
     {
         const double share =
@@ -125,14 +126,14 @@ private:
         return std::clamp(static_cast<int>(std::sqrt(pixels)), MinSide, MaxCropPixels);
     }
 
-    /// Above the origin.
+    /// Height of a building's base above the origin.
     double baseM(std::uint32_t building) const { return m_town.baseM[building] - m_origin.z(); }
     double heightM(std::uint32_t building) const
     {
         return m_town.footprints.buildings[building].heightM;
     }
 
-    /// In the frame, from the origin; the direction is the stored one.
+    /// A ring in the frame, relative to the origin, in its original direction.
     Places outlineOf(const Footprints::Ring &ring) const
     {
         Places places(m_town.places.begin() + ring.begin, m_town.places.begin() + ring.end);
@@ -141,14 +142,14 @@ private:
         return places;
     }
 
-    /// Level faces with images, each at its height above the base.
+    /// Adds horizontal faces with images, each at its height above the base.
     void addFloors(std::uint32_t building,
                    const std::vector<std::pair<std::size_t, double>> &levels)
     {
         const Footprints &footprints = m_town.footprints;
         const osg::Vec4ub color = opaque(m_town.roofColors[building]);
         for (const auto &part : partsOf(footprints.ringsOf(footprints.buildings[building]))) {
-            Places looked; // where in the image, parallel to the points
+            Places looked; // positions in the image, parallel to the points
             m_roof.clear();
             for (const Footprints::Ring &ring : part) {
                 const auto places = footprints.placesOf(ring);
@@ -162,7 +163,7 @@ private:
         }
     }
 
-    /// Points that the cutting added.
+    /// Adds the positions in the image for the points that m_roof.cut() added.
     void lookUpCrossings(const Footprints::Ring &ring, Places &looked) const
     {
         const osg::Vec2d first = m_roof.points().front();
@@ -193,7 +194,7 @@ private:
         for (const Footprints::Ring &ring : footprints.ringsOf(footprints.buildings[building])) {
             const Places outline = outlineOf(ring);
             const auto places = footprints.placesOf(ring);
-            // outside is to the right of a ring that runs counter-clockwise, to the left in a hole
+            // The outside is to the right of a counter-clockwise ring, and to the left of a hole.
             const double side = (doubledArea(outline) > 0) != ring.isHole ? 1 : -1;
             for (std::size_t i = 0; i < outline.size(); ++i) {
                 const std::size_t next = (i + 1) % outline.size();
@@ -209,7 +210,8 @@ private:
         }
     }
 
-    /// A wall, the image of each level from half-way below it to half-way above it.
+    /// Adds a wall. The image of a level covers it from the mean height of this level and the one
+    /// below to the mean height of this level and the one above.
     void addBands(std::uint32_t building, const Wall &wall)
     {
         const auto &levels = m_images.levels();
@@ -294,7 +296,7 @@ private:
     std::size_t m_count = 0;         ///< buildings added
     std::vector<ImageFaces> m_faces; ///< parallel to the images
     TownMesh m_plain;                ///< buildings without an image
-    TownMesh m_rest;                 ///< buildings of which one part has images: the others
+    TownMesh m_rest;                 ///< faces without images of buildings that have images
     RoofTriangles m_roof;
     Mesh m_edges{Mesh::Kind::Lines};
 };

@@ -11,18 +11,22 @@
 
 namespace vlt::scene {
 
-/// Some buildings of a town with the images laid on them. Vertices are relative to `origin`.
+/// Makes the node of some buildings of a town with images. Vertices are relative to `origin`.
 ///
-/// Roofs: each roof shows the image whose height is next to the building's. Walls: bands, each with
-/// the image next in height, the colour that it has `bufferM` outside the wall. Storeys: a floor
-/// with its image at each height that is within the building, between outlines in the edge colour.
-/// Parts that have no image have the town's colours. Buildings with holes or several parts take
-/// part only where the document says so, or are drawn in their colours; so are those that no image
-/// is within, of storeys. Storeys have the outline of the whole building too; roofs and walls have
-/// outlines where edges are asked for. Several threads may build tiles at a time.
+/// - Roofs: each roof shows the image whose height is nearest to that of the building.
+/// - Walls: they are divided into horizontal bands. Each shows the image with the nearest height,
+/// in
+///   the colours that this has at a distance of `bufferM` outside the wall.
+/// - Storeys: at the height of each image within the building there is a floor with this image,
+///   and an outline in the edge colour.
+///
+/// All parts without an image have the town's colours. So has a whole building with holes or
+/// several parts, unless the document includes these buildings, and one without any image within
+/// its height in the mode Storeys. That mode also draws the outlines of whole buildings; the others
+/// do so if the document requests edges. Several threads may build tiles at the same time.
 ///
 /// @param buildings  indices into town.footprints.buildings
-/// @return           null where nothing is to be drawn
+/// @return           null if nothing has to be drawn
 osg::ref_ptr<osg::Node> buildTexturedTile(const Town &town,
                                           const contract::BuildingTextures &textures,
                                           TextureImages &images,

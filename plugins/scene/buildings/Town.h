@@ -13,26 +13,26 @@
 
 namespace vlt::scene {
 
-/// Takes what the user has to know of a scene that is not whole, one line each.
+/// Lines for the user, one for each incomplete part of a scene.
 using Notices = std::vector<std::string>;
 
-/// Building footprints, all points in one array.
+/// Building footprints, with all vertices in one array.
 struct Footprints
 {
-    /// A closed line that does not repeat its first point; three points at least.
+    /// A closed line of at least three vertices, without the first one repeated at the end. A hole
+    /// follows the outline of its part, perhaps after other holes of it.
     struct Ring
     {
         std::uint32_t begin = 0; ///< in `places`
         std::uint32_t end = 0;
-        bool isHole =
-            false; ///< of the part whose outline is the last ring before it that is no hole
+        bool isHole = false;
     };
 
     struct Building
     {
         std::uint32_t ringBegin = 0; ///< in `rings`
         std::uint32_t ringEnd = 0;
-        float heightM = 0; ///< above its base; finite, positive
+        float heightM = 0; ///< above its base; finite and positive
     };
 
     std::vector<osg::Vec2d> places; ///< in the system of the footprints, x before y
@@ -49,21 +49,21 @@ struct Footprints
     }
 };
 
-/// How many features of the source are no building of a scene, by reason.
+/// Numbers of the features of a source that are not shown as buildings, by reason.
 struct LeftOut
 {
-    std::size_t noHeight = 0; ///< no value, no number, not finite
-    std::size_t notPositive = 0;
-    std::size_t noShape = 0; ///< no polygon with an area
-    std::size_t noPlace = 0; ///< cannot be brought into the frame
+    std::size_t noHeight = 0;    ///< the height is missing, not a number or not finite
+    std::size_t notPositive = 0; ///< the height is not positive
+    std::size_t noShape = 0;     ///< there is no polygon with an area
+    std::size_t noPlace = 0;     ///< the polygon cannot be transformed to the frame
 };
 
-/// The buildings of a document, placed in a frame; what is parallel to an array of `footprints` has
-/// as many elements.
+/// The buildings of a document in a local frame. An array that is parallel to another one has the
+/// same number of elements in the same order.
 struct Town
 {
     Footprints footprints;
-    std::string srs; ///< WKT of the footprints' system; empty where it states none
+    std::string srs; ///< WKT of the footprints' system; empty: unknown
     SceneFrame frame;
     std::vector<osg::Vec2d> places; ///< parallel to footprints.places, in the frame, metres
     std::vector<float> baseM;       ///< parallel to footprints.buildings

@@ -26,8 +26,8 @@ using contract::RasterColors;
 using coverage::CoverageRaster;
 
 constexpr Rgba WithoutValue{200, 200, 200, 255};
-constexpr std::size_t BuildingsPerReport = 100; // each may cover millions of pixels
-constexpr double RangeShare = 0.5;              ///< of the work, where the whole raster is read
+constexpr std::size_t BuildingsPerReport = 100; // few, because one may cover millions of pixels
+constexpr double RangeShare = 0.5;              ///< of the work, if the whole raster is read
 
 ColorMap loadMap(const RasterColors &colors, const std::vector<std::string> &directories,
                  CoverageRaster &raster, const Progress &progress)
@@ -68,7 +68,8 @@ std::unique_ptr<CoverageRaster> openRaster(const RasterColors &colors,
     return std::move(raster);
 }
 
-/// The buildings in an order in which neighbours follow each other, so that a raster is read once.
+/// The buildings in an order with neighbours close together, so that each block of a raster is read
+/// once.
 std::vector<std::size_t> inRows(const Footprints &footprints)
 {
     constexpr double Rows = 64;
@@ -100,7 +101,7 @@ std::vector<std::size_t> inRows(const Footprints &footprints)
     return order;
 }
 
-/// Values of a raster under the buildings of a town, one after the other.
+/// Determines the values of a raster under the buildings of a town.
 class Values
 {
 public:
@@ -112,7 +113,7 @@ public:
         , m_reduction(reduction)
     {}
 
-    /// NaN where there is none.
+    /// The value under a building; NaN if there is none.
     double under(const Footprints::Building &building)
     {
         m_places.clear();

@@ -7,17 +7,17 @@
 
 namespace vlt::scene {
 
-/// The colours of buildings by a text of a document.
+/// The colours of buildings for a colour text of a document.
 ///
-/// "#RRGGBB" is one colour for all; a text of contract/RasterColors.h takes each building's value
-/// from a raster and its colour from a colour map.
+/// "#RRGGBB" is one colour for all buildings. A text of contract/RasterColors.h names a raster with
+/// the values of buildings and a colour map with the colours of values.
 ///
-/// Buildings without a value get the map's colour for those, else a light grey. What cannot be used
-/// (raster, map, system) leaves all buildings in that grey, with a notice that names it.
+/// Buildings without a value get the map's "no data" colour, else a light grey. If the raster, the
+/// map or the system cannot be used, all buildings get that grey, and a notice gives the reason.
 ///
-/// @param directories  where files of relative names are looked for, in this order
+/// @param directories  searched for relative paths, in this order
 /// @return             parallel to town.footprints.buildings
-/// @throws Stopped     by `progress`
+/// @throws Stopped     `progress` stopped the function
 std::vector<colormaps::Rgba> townColors(const Town &town, const std::string &colorText,
                                         const std::vector<std::string> &directories,
                                         Notices &notices, const Progress &progress);

@@ -14,9 +14,9 @@ namespace vlt::scene {
 
 namespace {
 
-constexpr double UnitLength = 32767; ///< of a normal
+constexpr double UnitLength = 32767; ///< length of a normal
 constexpr double MinAreaM2 = 1e-6;
-const osg::Vec2d Upwards; ///< a normal's part in the plane
+const osg::Vec2d Upwards; ///< horizontal components of a vertical normal
 
 osg::Vec4ub opaque(const colormaps::Rgba &color)
 {
@@ -76,7 +76,7 @@ osg::ref_ptr<osg::StateSet> plainFaceState()
     material->setDiffuse(osg::Material::FRONT_AND_BACK, osg::Vec4(1, 1, 1, 1));
     osg::ref_ptr<osg::StateSet> state = new osg::StateSet;
     state->setAttributeAndModes(material);
-    // more than usual comes from all sides: colours are to be told by the legend
+    // More ambient light than the default, so that colours match the legend.
     osg::ref_ptr<osg::LightModel> light = new osg::LightModel;
     light->setAmbientIntensity(osg::Vec4(0.36F, 0.36F, 0.36F, 1));
     state->setAttributeAndModes(light);
@@ -109,7 +109,7 @@ void TownMesh::addPart(std::span<const Footprints::Ring> rings, std::uint32_t bu
         addWalls(outline, base - skirtM, top, wallColor);
         if (!m_roof.isCrossed())
             continue;
-        std::reverse(outline.begin(), outline.end()); // outside is on either side
+        std::reverse(outline.begin(), outline.end()); // both sides may be outside
         addWalls(outline, base - skirtM, top, wallColor);
     }
     addRoof(top, opaque(m_town.roofColors[building]));
@@ -147,7 +147,7 @@ void TownMesh::addBoxes(std::uint32_t building)
             const double size = std::abs(doubledArea(placesOf(ring, true))) / 2;
             area += ring.isHole ? -size : size;
         }
-        if (area < MinAreaM2) { // a line that cuts itself: its lobes cancel out
+        if (area < MinAreaM2) { // parts of a ring that crosses itself cancel out
             m_roof.clear();
             for (const Footprints::Ring &ring : part)
                 m_roof.addRing(placesOf(ring, true));
@@ -200,7 +200,7 @@ void TownMesh::addBox(const Places &ring, double area, std::uint32_t building)
     for (const osg::Vec2d &place : corners)
         vertex(place, top, Upwards, roofColor);
     const std::uint32_t t = b + 4;
-    // a flat face has the light and colour of the last vertex of its triangles
+    // With flat shading a face has the normal and colour of the last vertex of its triangles.
     for (std::uint32_t i = 0; i < 4; ++i) {
         const std::uint32_t next = (i + 1) % 4;
         m_indices.insert(m_indices.end(), {b + next, t + next, b + i, t + next, t + i, b + i});

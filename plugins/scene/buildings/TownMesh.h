@@ -11,25 +11,25 @@
 
 namespace vlt::scene {
 
-/// Buildings as triangles, collected before they become one drawable: no vertex belongs to two
-/// faces, so that each face has its own light and colour.
+/// Buildings as triangles that will become one drawable. Faces share no vertices, so that each has
+/// its own normal and colour.
 class TownMesh
 {
 public:
     /// @param origin  in the town's frame; vertices are relative to it
     TownMesh(const Town &town, const osg::Vec3d &origin) : m_town(town), m_origin(origin) {}
 
-    /// A building as it is: walls from `skirtM` under its base up to its height, around courtyards
-    /// too, and the roof. All faces look outwards, whatever the direction of the rings.
+    /// Adds a building in full detail: its walls from `skirtM` below its base to its height, also
+    /// around courtyards, and its roof. All faces face outwards for every direction of the rings.
     void addBuilding(std::uint32_t building, double skirtM);
 
-    /// A box of the same height and floor area in the place of each part of a building: for what is
-    /// a few pixels large. Its faces share vertices and get their light and colour only where they
-    /// are drawn flat.
+    /// Adds a box with the same height and floor area for each part of a building: for buildings
+    /// that are a few pixels large. Its faces share vertices; their normals and colours are correct
+    /// with flat shading only.
     void addBoxes(std::uint32_t building);
 
-    /// A point in the middle of the roof, for what is a pixel or two large; of a mesh that holds
-    /// nothing else.
+    /// Adds a point at the centre of the roof, for a building of one or two pixels. A mesh with
+    /// points must not have anything else.
     void addDot(std::uint32_t building);
 
     bool isEmpty() const { return m_vertices.empty(); }
@@ -38,8 +38,8 @@ public:
     const std::vector<osg::Vec4ub> &colors() const { return m_colors; }
     const std::vector<std::uint32_t> &indices() const { return m_indices; } ///< of triangles
 
-    /// The drawable of triangles, or of points where there are none; for buffer objects: no display
-    /// lists.
+    /// The drawable of the triangles, or of the points if there are no triangles. It uses buffer
+    /// objects, not display lists.
     osg::ref_ptr<osg::Geometry> geometry() const;
 
 private:
@@ -62,10 +62,11 @@ private:
     std::vector<std::uint32_t> m_indices;
 };
 
-/// How faces of a mesh are drawn: lit, in the colours of their vertices, from outside only.
+/// The state set of the faces of a mesh: with lighting, in the colours of their vertices, visible
+/// from outside only.
 osg::ref_ptr<osg::StateSet> plainFaceState();
 
-/// The parts of a building: an outer ring with its holes each.
+/// The parts of a building: each an outer ring with its holes.
 std::vector<std::span<const Footprints::Ring>> partsOf(std::span<const Footprints::Ring> rings);
 
 } // namespace vlt::scene

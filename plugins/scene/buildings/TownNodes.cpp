@@ -18,8 +18,8 @@ namespace vlt::scene {
 
 namespace {
 
-constexpr std::size_t BuildingsPerBlock = 8192; ///< that become one drawable from afar
-constexpr double BlockWidthShare = 0.5;         ///< of the distance of visibility, at most
+constexpr std::size_t BuildingsPerBlock = 8192; ///< maximum in one drawable of simple buildings
+constexpr double BlockWidthShare = 0.5;         ///< maximum width / distance of visibility
 constexpr float DotPixels = 2;
 constexpr float Endless = std::numeric_limits<float>::max();
 
@@ -33,7 +33,7 @@ osg::ref_ptr<osg::StateSet> makeState()
     return state;
 }
 
-/// What the tiles of a town share, for as long as one of them is there.
+/// The data that the tiles of a town share, as long as one of them exists.
 struct Content
 {
     std::shared_ptr<const Town> town;
@@ -160,7 +160,7 @@ private:
         return lod;
     }
 
-    /// @param make  makes the node of the branch's buildings around an origin
+    /// @param make  makes the node of a branch's buildings, relative to an origin
     template<typename Maker>
     osg::ref_ptr<osg::Node> content(const TownTree &tree, bool isDeferred, const Maker &make) const
     {
@@ -203,7 +203,7 @@ private:
         return lod;
     }
 
-    /// A branch whose buildings become simpler where a pixel is coarse.
+    /// The node of a branch whose buildings are simpler at low resolutions.
     osg::ref_ptr<osg::Node> block(const TownTree &tree, const osg::ref_ptr<osg::Node> &inner) const
     {
         using Buildings = std::span<const std::uint32_t>;
@@ -224,7 +224,7 @@ private:
         return byPixels;
     }
 
-    /// What is seen of a branch up to the distance of visibility.
+    /// A node of a branch that is visible up to the distance of visibility.
     template<typename Maker>
     osg::ref_ptr<osg::Node> visible(const TownTree &tree, const Maker &make) const
     {

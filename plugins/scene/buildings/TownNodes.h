@@ -9,39 +9,38 @@
 
 namespace vlt::scene {
 
-/// Makes the node of some buildings with images; vertices are relative to `origin`.
+/// Makes the node of some buildings with images. Vertices are relative to `origin`.
 using TexturedMaker = std::function<osg::ref_ptr<osg::Node>(
     std::span<const std::uint32_t> buildings, const osg::Vec3d &origin)>;
 
-/// How a town is drawn.
+/// The options for drawing a town.
 struct TownLook
 {
     double tileSizeM = 250;
-    double extrudedVisibilityM = 2000; ///< from the eye to the middle of a tile, less its radius
+    double extrudedVisibilityM = 2000; ///< from the eye to the centre of a tile, less its radius
     double texturedVisibilityM = 0;
     double skirtM = 0;
     TexturedMaker makeTextured; ///< empty: no images
 };
 
-/// Where a town has more points, its tiles are made when they are drawn for the first time.
+/// If a town has more vertices, its tiles are made when they are drawn for the first time.
 inline constexpr std::size_t MaxPlacesAtOnce = 3'000'000;
 
-/// From where on buildings are simpler: a pixel is as wide as so many metres or more. Those larger
-/// than some pixels stay as they were.
+/// A level with simpler buildings. Larger buildings are not simplified.
 struct CoarseLevel
 {
-    double pixelM;
-    double largestM; ///< width or depth
+    double pixelM;   ///< minimum width of a pixel, in metres on the ground, for this level
+    double largestM; ///< maximum width and depth of a simplified building
 };
 inline constexpr CoarseLevel Boxes{4, 40};
 inline constexpr CoarseLevel Dots{7, 28};
 inline constexpr double LargestBoxAmongDotsM = 70;
 
-/// The buildings of a town in tiles, each with its levels of detail: images up to their distance,
-/// extruded buildings up to theirs, nothing beyond. Where pixels are coarse, thousands of buildings
-/// are one drawable.
+/// The buildings of a town in tiles with levels of detail: buildings with images up to their
+/// maximum distance, extruded buildings up to theirs, nothing at larger distances. At low
+/// resolutions, thousands of buildings are one drawable.
 ///
-/// @throws Stopped  by `progress`
+/// @throws Stopped  `progress` stopped the function
 osg::ref_ptr<osg::Group> buildTown(const std::shared_ptr<const Town> &town, const TownLook &look,
                                    const Progress &progress);
 

@@ -8,10 +8,10 @@ namespace vlt::scene {
 
 namespace {
 
-constexpr unsigned LevelsInTile = 6; ///< by which a tile can be quartered
+constexpr unsigned LevelsInTile = 6; ///< how often a tile can be divided into quarters
 constexpr double MaxCells = 1 << 30;
 
-/// Spreads the bits of a number, every other one zero.
+/// Inserts a zero bit between the bits of a number.
 std::uint64_t spread(std::uint64_t bits)
 {
     bits = (bits | bits << 16) & 0x0000FFFF0000FFFF;
@@ -44,8 +44,8 @@ osg::Vec2d middleOf(const Town &town, std::uint32_t building)
     return {bound.center().x(), bound.center().y()};
 }
 
-/// Buildings in the order of a curve that keeps neighbours together: two bits of a code tell the
-/// quarter of a square, the next two the quarter of that, and so on.
+/// Sorts buildings along a curve that keeps neighbours together (Z-order): the first two bits of a
+/// code are the quarter of a square, the next two the quarter of this quarter, and so on.
 class TreeGrower
 {
 public:
@@ -66,7 +66,7 @@ public:
         const double extent = std::max({most.x() - least.x(), most.y() - least.y(), 1.0});
         tileSizeM = std::clamp(tileSizeM, extent / MaxCells, extent);
         const double cell = std::max(tileSizeM / (1 << LevelsInTile), extent / MaxCells);
-        // tiles begin at the middle of the town, whatever its extent
+        // A corner of tiles is at the centre of the town, independently of its extent.
         const osg::Vec2d corner(std::floor(least.x() / tileSizeM) * tileSizeM,
                                 std::floor(least.y() / tileSizeM) * tileSizeM);
         for (const std::uint32_t building : order) {
@@ -98,11 +98,11 @@ private:
         return count;
     }
 
-    /// @param shift  the branch's buildings have the same code above so many bits
+    /// @param shift  the codes of the branch's buildings differ only in this number of lowest bits
     std::unique_ptr<TownTree> grow(std::span<const std::uint32_t> buildings, unsigned shift) const
     {
         const auto codeOf = [this](std::uint32_t building) { return m_codes[building]; };
-        // levels on which all are in one quarter are no branches
+        // A level with all buildings in one quarter is skipped.
         while (shift > 0 &&
                codeOf(buildings.front()) >> (shift - 2) == codeOf(buildings.back()) >> (shift - 2))
             shift -= 2;

@@ -8,30 +8,31 @@
 
 namespace vlt::scene {
 
-/// Most buildings of a tile: where more are in one, it is quartered.
+/// Maximum number of buildings in a tile; a tile with more is divided into quarters.
 inline constexpr std::size_t MaxBuildingsPerTile = 2048;
 
-/// Most tiles of a town: where the size asks for more, it is doubled until there are fewer.
+/// Maximum number of tiles of a town; if there are more, the tile size is doubled until they fit.
 inline constexpr std::size_t MaxTiles = 16384;
 
-/// The buildings of a town in square tiles, four neighbouring branches in one.
+/// A tree of the buildings of a town: a branch has up to four neighbouring branches, or is a square
+/// tile.
 struct TownTree
 {
     osg::BoundingBoxd bound;                         ///< of the buildings, with their heights
     std::span<const std::uint32_t> buildings;        ///< of the whole branch
-    std::vector<std::unique_ptr<TownTree>> branches; ///< none: it is a tile
+    std::vector<std::unique_ptr<TownTree>> branches; ///< empty for a tile
 
     bool isTile() const { return branches.empty(); }
 };
 
-/// A town's tree and the array that its branches look into.
+/// The tree of a town, and the array to which the spans of its branches refer.
 struct TownTiles
 {
     std::vector<std::uint32_t> order; ///< indices of buildings
-    std::unique_ptr<TownTree> root;   ///< null where there are no buildings
+    std::unique_ptr<TownTree> root;   ///< null if there are no buildings
 };
 
-/// Puts each building into the tile in which its first ring has its middle.
+/// Assigns each building to the tile that contains the centre of its first ring.
 ///
 /// @param tileSizeM  positive
 TownTiles growTownTree(const Town &town, double tileSizeM);
