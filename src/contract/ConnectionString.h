@@ -43,8 +43,8 @@ std::optional<ConnectionString> parseConnection(std::string_view text,
 /// The text of a connection string with these parts.
 std::string composeConnection(const ConnectionString &connection);
 
-/// The same connection string with the paths of the table and of "dem_file" made absolute:
-/// relative ones start at `baseDirectory`. Unchanged where `text` is not a connection string or
+/// The same connection string with the paths of the table and of "dem_file" made absolute: relative
+/// ones start at `baseDirectory`. Unchanged where `text` is not a connection string or
 /// `baseDirectory` is empty.
 std::string resolvedConnection(std::string_view text, const std::string &baseDirectory);
 

@@ -51,8 +51,8 @@ Texts readRoot(QXmlStreamReader &xml)
         else
             xml.skipCurrentElement();
     }
-    // All that follows the root must be well-formed as well; an input that cannot be read on has
-    // an error and never an end.
+    // All that follows the root must be well-formed as well; an input that cannot be read on has an
+    // error and never an end.
     while (!xml.atEnd() && !xml.hasError())
         xml.readNext();
     return texts;

@@ -14,16 +14,15 @@ namespace vlt::scene {
 /// Makes the node of some buildings of a town with images. Vertices are relative to `origin`.
 ///
 /// - Roofs: each roof shows the image whose height is nearest to that of the building.
-/// - Walls: they are divided into horizontal bands. Each shows the image with the nearest height,
-/// in
-///   the colours that this has at a distance of `bufferM` outside the wall.
+/// - Walls: each is divided into horizontal bands. A band shows the image with the nearest height,
+///   in the colours that the image has at a distance of `bufferM` outside the wall.
 /// - Storeys: at the height of each image within the building there is a floor with this image,
 ///   and an outline in the edge colour.
 ///
-/// All parts without an image have the town's colours. So has a whole building with holes or
-/// several parts, unless the document includes these buildings, and one without any image within
-/// its height in the mode Storeys. That mode also draws the outlines of whole buildings; the others
-/// do so if the document requests edges. Several threads may build tiles at the same time.
+/// All parts without an image have the town's colours. In these colours are also buildings with
+/// holes or several parts, unless the document includes them, and, in the mode Storeys, buildings
+/// without an image within their height. This mode also draws the outlines of whole buildings; the
+/// others do so if the document requests edges. Several threads may build tiles at the same time.
 ///
 /// @param buildings  indices into town.footprints.buildings
 /// @return           null if nothing has to be drawn
