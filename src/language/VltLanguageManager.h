@@ -46,6 +46,7 @@ private:
     QList<vlt::Error> m_skipped;
 };
 
-/// Text of a message key in the chosen language; `defaultText` (English, UTF-8) if it has none.
+/// Text of a message key in the chosen language; `defaultText` (English, UTF-8) if no dictionary
+/// has the key.
 // NOLINTNEXTLINE(readability-identifier-naming): the language library's established name
 QString dico_label(const char *key, const char *defaultText);

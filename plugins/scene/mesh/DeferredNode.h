@@ -9,8 +9,8 @@
 
 namespace vlt::scene {
 
-/// A node that makes its content when it is culled for the first time. Its bound is given from the
-/// start, so that the nodes above it do not change then. Several threads may cull it.
+/// A node that makes its content just before it is drawn for the first time. Its bound is given
+/// from the start, so that the nodes above it do not change then. Several threads may draw it.
 class DeferredNode : public osg::Node
 {
 public:

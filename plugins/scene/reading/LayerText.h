@@ -10,7 +10,7 @@ namespace vlt::scene {
 inline constexpr std::size_t MaxLayerFileSize = 16 << 20;
 
 /// The text of a local file in UTF-8, converted from UTF-16 or from the encoding in its XML
-/// declaration. Bytes that are valid UTF-8 are not converted, whatever the declaration says,
+/// declaration. Bytes that are valid UTF-8 are not converted, even with another declaration,
 /// because programs often fill in templates with UTF-8 without changing the declaration.
 ///
 /// @throws BadLayer  it is not a file, cannot be read or is larger than MaxLayerFileSize
