@@ -7,7 +7,7 @@ namespace vlt::scene {
 
 namespace {
 
-constexpr std::size_t FewPylons = 16; ///< made at once, so that programs can convert them
+constexpr std::size_t FewPylons = 16; ///< up to this number they are made at once
 
 } // namespace
 

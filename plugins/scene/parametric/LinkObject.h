@@ -40,8 +40,8 @@ struct LinkObject
     std::optional<Color> color; ///< of the line of sight, instead of LinkLook::color
 };
 
-/// Returns the text of an item, such as "link_style". @throws BadQuery  it is missing or occurs
-/// twice
+/// Returns the text of an item, such as "link_style".
+/// @throws BadQuery  the item is missing or occurs twice
 using ItemText = std::function<std::string(std::string_view key)>;
 
 /// Whether " clearance" may follow the colour of links.

@@ -27,7 +27,7 @@ enum class PylonType {
     WaterTowerPanel,
 };
 
-/// The type with a name in queries ("monopole_panel"); nothing for any other text.
+/// The type with the given name in queries ("monopole_panel"); nothing for any other text.
 std::optional<PylonType> pylonTypeNamed(std::string_view name);
 
 enum class AntennaKind {

@@ -26,8 +26,8 @@ struct AntennaPlace
 };
 
 /// The positions of the antennas, in the order of the transmitters. The height of the centre is
-/// exactly the transmitter's; antennas that would overlap are moved sideways. Empty at a scale of
-/// 0.
+/// exactly the transmitter's; antennas that would overlap are moved sideways. There are none at a
+/// scale of 0.
 std::vector<AntennaPlace> placeAntennas(const PylonDesign &pylon, const MastDesign &mast);
 
 } // namespace vlt::scene

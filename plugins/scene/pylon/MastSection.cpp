@@ -23,13 +23,13 @@ double narrowing(const MastDesign &mast, double heightM, double foot, double top
     return mast.widthM * (foot + (top - foot) * share);
 }
 
-/// The section of a tube with a radius.
+/// The section of a tube with the given radius.
 MastSection tube(double radius)
 {
     return {0, std::max(radius, ThinnestTubeM)};
 }
 
-/// A regular polygon with the width of a face.
+/// A regular polygon whose faces have the given width.
 MastSection polygon(int sides, double face)
 {
     return {sides, std::max(face, NarrowestFaceM) / 2 / std::tan(osg::PI / sides)};

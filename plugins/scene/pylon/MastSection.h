@@ -23,7 +23,7 @@ struct MastSection
 ///   the foot and 0.16 at the top (slim: 0.16 and 0.1)
 /// - lattice towers: the width of a face at the foot; at the top it is 0.4 of that
 /// - guyed masts: 10/3 of the width of a face
-/// - rooftops: a third of the roof's length and breadth
+/// - rooftops: a third of the side of the roof
 /// - wooden poles: seven times the diameter of the foot
 /// - water towers: the diameter of the shaft; that of the tank is three times the width.
 MastSection mastSection(const MastDesign &mast, double heightM);

@@ -38,7 +38,7 @@ osg::ref_ptr<osg::Geode> drawn(const Meshes &meshes, const SceneMaterials &mater
     return geode;
 }
 
-/// A sphere that contains the precise representation, computed without making that.
+/// A sphere that contains the precise representation, which need not have been made.
 osg::BoundingSphere preciseBound(const PylonDesign &pylon, const MastDesign &mast)
 {
     double reach = 0.6 * mast.heightM + 2.5 * mast.widthM + 3;
