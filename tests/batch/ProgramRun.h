@@ -8,7 +8,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-/// How a run of the program ended.
+/// Result of a run of the program.
 struct Run
 {
     int status = -1; ///< -1 after a crash
@@ -16,7 +16,7 @@ struct Run
     QByteArray errors;
 };
 
-/// What stands between two marks of a layer file.
+/// The text of an element of a layer file.
 inline QByteArray element(const QByteArray &layer, const QByteArray &name)
 {
     const QByteArray open = '<' + name + "><![CDATA[";
@@ -24,12 +24,12 @@ inline QByteArray element(const QByteArray &layer, const QByteArray &name)
     return layer.mid(start, layer.indexOf("]]></" + name + '>') - start);
 }
 
-/// Columns of a table of command lines that are refused.
+/// Adds the columns of a table of refused command lines.
 inline void addRefusalColumns()
 {
     QTest::addColumn<QString>("arguments");
     QTest::addColumn<int>("status");
-    QTest::addColumn<QString>("message"); ///< a part of it
+    QTest::addColumn<QString>("message"); ///< a part of the message
 }
 
 inline void addRefusal(const char *arguments, int status, const char *message)
@@ -38,8 +38,7 @@ inline void addRefusal(const char *arguments, int status, const char *message)
                              << QString::fromUtf8(message);
 }
 
-/// A private installation ("install dir") and the program, run in a directory apart from all its
-/// files ("elsewhere").
+/// A private installation ("install dir") and the program, run in another directory ("elsewhere").
 class ProgramRun
 {
 public:
@@ -75,7 +74,7 @@ public:
     /// The same; no argument has a blank.
     Run start(const QString &arguments) const { return start(split(arguments)); }
 
-    /// What holds for every row of a table of refusals: the program says why and changes no file.
+    /// Checks a row of a table of refusals: the program reports the reason and changes no file.
     void checkRefusal(
         const QStringList &arguments,
         const QProcessEnvironment &environment = QProcessEnvironment::systemEnvironment()) const
@@ -101,7 +100,8 @@ private:
         return arguments.split(QLatin1Char(' '), Qt::SkipEmptyParts);
     }
 
-    /// Every file that a run may reach, with its content; not what the installation links to.
+    /// All files that a run may change, with their contents, except those that the installation
+    /// links to.
     QMap<QString, QByteArray> files() const
     {
         QMap<QString, QByteArray> files;

@@ -20,7 +20,7 @@ const QByteArray Houses =
 {"type":"Feature","properties":{"id":3,"USE":"barn","height":null},"geometry":{"type":"Polygon",
 "coordinates":[[[2.002,45],[2.0025,45],[2.0025,45.001],[2.002,45]]]}}]})";
 
-/// Four by four cells around the houses, one of them without a value.
+/// Four by four cells around the houses; one of them has no value.
 const QByteArray Grid = "ncols 4\nnrows 4\nxllcorner 1.99\nyllcorner 44.99\ncellsize 0.01\n"
                         "NODATA_value -9999\n"
                         "-120 -110 -100 -9999\n-90 -80 -70 -60\n-90 -80 -70 -60\n-90 -80 -70 -60\n";
@@ -60,7 +60,7 @@ private Q_SLOTS:
     void writesDocuments_data()
     {
         QTest::addColumn<QString>("options");
-        QTest::addColumn<QStringList>("fragments"); ///< "@" stands for the folder of the inputs
+        QTest::addColumn<QStringList>("fragments"); ///< "@" means the folder of the inputs
 
         QTest::newRow("coloured, first run")
             << u"--image ../level.asc"_s
@@ -158,7 +158,7 @@ private Q_SLOTS:
     void refusesAndWritesNothing_data()
     {
         addRefusalColumns();
-        const auto row = addRefusal; // after "buildings ", "%" stands for the two inputs
+        const auto row = addRefusal; // text after "buildings "; "%" means the two inputs
         row("../no.shp --dtm ../dem.asc --image ../level.asc", 1,
             "../no.shp: This file can't be open as a vector file");
         row("../houses.geojson --dtm ../own.txt --image ../level.asc", 1,
@@ -236,7 +236,7 @@ private Q_SLOTS:
     }
 
 private:
-    /// Rows of documents in which buildings have more than the image's colours.
+    /// Adds rows with documents in which buildings have more than the image's colours.
     static void addRowsWithLook()
     {
         QTest::newRow("textured, first run")

@@ -19,7 +19,7 @@ const QByteArray Geographic =
     "GEOGCS[\"WGS 84\",DATUM[\"WGS_1984\",SPHEROID[\"WGS 84\",6378137,298.257223563]],"
     "PRIMEM[\"Greenwich\",0],UNIT[\"degree\",0.0174532925199433]]";
 
-/// Ground at 100 m with a ridge across the middle of the first link, 0.01 degrees wide.
+/// Terrain at 100 m with a ridge across the middle of the first link, 0.01 degrees wide.
 QByteArray terrain(int ridgeM)
 {
     QByteArray grid = "ncols 100\nnrows 100\nxllcorner 1.98\nyllcorner 44.98\ncellsize 0.001\n"
@@ -55,12 +55,13 @@ private Q_SLOTS:
         QTest::addColumn<QString>("verdict");
         QTest::addColumn<double>("clearance");
 
-        // In the middle the earth bulges 0.454 m (2778.5 m squared over 2 * 4/3 * 6371 km) and the
-        // zone's radius at 6 GHz is 8.33 m (half the root of 0.049965 m * 5557 m).
+        // In the middle the bulge of the earth is 0.454 m (2778.5 m squared over 2 * 4/3 * 6371
+        // km), and the zone's radius at 6 GHz is 8.33 m (half the root of 0.049965 m * 5557 m).
         QTest::newRow("more than the radius") << 120 << u""_s << u"clear"_s << 9.546;
         QTest::newRow("19 % of the radius") << 128 << u""_s << u"marginal"_s << 1.546;
         QTest::newRow("less is asked for") << 128 << u"--fresnel-share 18"_s << u"clear"_s << 1.546;
-        // 6.058 m of bulge; at the ridge's southern edge 556 m from the middle only 5.82 m
+        // The bulge is 6.058 m in the middle and 5.82 m at the ridge's southern edge, 556 m from
+        // it.
         QTest::newRow("a small earth") << 120 << u"--k-factor 0.1"_s << u"marginal"_s << 3.942;
         QTest::newRow("the line is cut") << 131 << u""_s << u"obstructed"_s << qQNaN();
     }

@@ -9,17 +9,18 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A mast of 30 m with sectors of 200 m around it, near up to 1000 m.
+/// A mast of 30 m with sectors of 200 m; the precise representation is visible up to 1000 m.
 const QString Pylon =
     u"inline://parametric/query?object=pylon&pylon_type=monopole_panel&pylon=0 0 0 30 2.5 200 20 2"
     "&transmitter=28 0 3 65 2 ff0000ff&transmitter=28 120 3 65 2 00ff00ff"
     "&transmitter=28 240 3 65 2 0000ffff&transmitter_scale=100&lod=10000 1000.inlinepylonurl"_s;
 
-/// A scene that draws nothing.
+/// A scene without drawables.
 const QByteArray EmptyScene = "#Ascii Scene\n#Version 162\n#Generator OpenSceneGraph 3.6.5\n\n"
                               "osg::Group {\n  UniqueID 1\n}\n";
 
-/// Pixels of a column that differ from the left edge's of the same row, where only the sky is.
+/// Number of pixels of a column that differ from the sky, which is the pixel at the left edge of
+/// the row.
 int drawnPixels(const QImage &picture, int x)
 {
     int count = 0;
@@ -28,7 +29,7 @@ int drawnPixels(const QImage &picture, int x)
     return count;
 }
 
-/// Rows from the first to the last with anything on them, as a share of the height.
+/// Distance from the first drawn row to the last one, as a share of the height.
 double drawnShare(const QImage &picture)
 {
     int first = picture.height();
@@ -45,7 +46,7 @@ double drawnShare(const QImage &picture)
     return static_cast<double>(last - first + 1) / picture.height();
 }
 
-/// Whether much is of the third sector's pure blue; its antenna has but a small mark of it.
+/// Whether many pixels have the pure blue of the third sector; its antenna has only few of them.
 bool showsBlueSector(const QImage &picture)
 {
     int count = 0;

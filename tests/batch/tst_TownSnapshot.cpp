@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Red houses of 12 m by 12 m by 8 m, `side` by `side` of them on a square of so many metres.
+/// Red houses of 12 m by 12 m by 8 m, `side` by `side` of them, on a square with a side of `townM`.
 QByteArray houses(double townM, int side)
 {
     QByteArray text = R"({"type":"FeatureCollection","name":"t","crs":{"type":"name","properties":)"
@@ -46,7 +46,7 @@ bool isRed(const QColor &color)
     return color.red() > 2 * color.green() && color.red() > 2 * color.blue();
 }
 
-/// What is red and hangs together.
+/// The bounds of the connected red areas.
 QList<QRect> redParts(QImage picture)
 {
     QList<QRect> parts;
@@ -116,7 +116,7 @@ private Q_SLOTS:
             red |= part;
         QVERIFY(red.width() > 0.6 * picture.width());
         QVERIFY(red.contains(picture.rect().center()));
-        QFETCH(bool, isWhole); // then each house stands for itself
+        QFETCH(bool, isWhole); // if so, the houses are separate
         if (isWhole)
             QCOMPARE(parts.size(), side * side);
         QCOMPARE(picture.rect().adjusted(1, 1, -1, -1).contains(red), isWhole);

@@ -67,7 +67,7 @@ private Q_SLOTS:
         const QByteArray layer = readFile(path(u"elsewhere/out %2.lay"_s));
         QCOMPARE(element(layer, "source"),
                  "site:s_srs=4326,t_srs=2154," + FirstRun + inLayer.toUtf8());
-        // The columns can only be there when the relative path was found from the project.
+        // The page has columns only if the relative path was resolved with the project.
         QVERIFY(element(layer, "description")
                     .contains("<tr><td>Azimuth</td><td>[Transmitter-1 Azimuth (\xc2\xb0)]</td>"
                               "<td>[Transmitter-2 Azimuth (\xc2\xb0)]</td></tr>"));
@@ -133,7 +133,7 @@ private Q_SLOTS:
 
     void readsTablesAsTheUserSays()
     {
-        // "Ясенево" in code page 1251, and a comma that is no delimiter
+        // "Ясенево" in code page 1251, and a comma that is not a delimiter
         const QByteArray name = "\xdf\xf1\xe5\xed\xe5\xe2\xee";
         writeFile(path(u"s.csv"_s), "Site ID|a, b|Longitude|Latitude\n" + name + "|1|37,5|55,6\n");
         const QString how = u" --encoding CP1251 --delimiter BAR"_s;
@@ -235,7 +235,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<QByteArray>("table");
         QTest::addColumn<QString>("arguments");
-        QTest::addColumn<QByteArray>("warning"); // empty: none
+        QTest::addColumn<QByteArray>("warning"); // empty for none
 
         const QByteArray meters = "Site ID,X,Y\nA,222300,6756000\n"; // Brittany in Lambert-93
         const auto row = [](const QByteArray &table, const char *arguments, const char *warning) {

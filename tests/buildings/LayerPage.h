@@ -18,7 +18,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-/// What the tests of the pages share on which buildings become a layer.
+/// Helpers for the tests of the pages that make layers of buildings.
 namespace layerpage {
 
 using namespace Qt::StringLiterals;
@@ -26,7 +26,7 @@ using namespace Qt::StringLiterals;
 inline const QByteArray Grid = "ncols 2\nnrows 2\nxllcorner 0\nyllcorner 0\ncellsize 10\n"
                                "NODATA_value -9999\n1 2\n3 4\n";
 
-/// "key=value key=value ..."
+/// The values of a text "key=value key=value ...".
 inline QVariantMap values(const QString &text)
 {
     QVariantMap map;
@@ -42,7 +42,7 @@ inline void remember(const QString &group, const QVariantMap &values)
         settings->setValue(group + u'/' + value.key(), value.value());
 }
 
-/// What the settings hold of a group otherwise than expected, "key=value" each.
+/// The settings of a group that differ from the expected ones, as "key=value".
 inline QStringList otherThan(const QString &group, const QVariantMap &expected)
 {
     const auto settings = vlt::platform::wizardSettings();
@@ -56,7 +56,7 @@ inline QStringList otherThan(const QString &group, const QVariantMap &expected)
     return others;
 }
 
-/// All attributes of a document in their order, "name=value name=value ...".
+/// All attributes of a document in their order, as "name=value name=value ...".
 inline QString attributes(const QString &document)
 {
     QStringList attributes;
@@ -65,7 +65,7 @@ inline QString attributes(const QString &document)
     return attributes.join(u' ');
 }
 
-/// A page as it is when it is entered from the page before.
+/// A page as it is after the previous page.
 template<typename Base>
 class Page : public Base
 {

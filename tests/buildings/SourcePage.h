@@ -13,7 +13,7 @@
 #include <QTest>
 #include <QWizard>
 
-/// What the tests of the source page share.
+/// Helpers for the tests of the source page.
 namespace sourcetest {
 
 using namespace Qt::StringLiterals;
@@ -34,7 +34,7 @@ inline QByteArray features(const QList<QByteArray> &geometries,
     return R"({"type":"FeatureCollection","features":[)" + all.join(',') + "]}";
 }
 
-/// A wizard with the page, id 1, between an empty one and the two that may follow.
+/// A wizard with the page, id 1, between an empty page and the two that may follow.
 struct Host
 {
     explicit Host(const QString &project = {})

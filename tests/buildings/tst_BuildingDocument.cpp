@@ -12,14 +12,14 @@ using namespace vlt::contract;
 
 namespace {
 
-// Values are written as they are.
+// Values are written without escaping.
 const BuildingFootprints Town{"/a&b/\"c\".shp", "%2 %1",   "<h>%9", 0.5, 1234567, 800.5,
                               "#C0C0C0",        "#A05030", 0.1,     true};
 const BuildingTerrain Terrain{"/data/dem.tif", "-32768"};
 const RasterColoring Signal{u"/c/dbm.tif"_s,    u"/maps/signal.txt"_s, Reduction::Maximum,
                             /*stretched*/ true, /*interpolated*/ true, {}};
 
-// "~" at the end of a line stands for the blank there.
+// "~" at the end of a line means a blank.
 const QString Root = uR"(<?xml version="1.0" encoding="UTF-8"?><veltaroTexturedBuildings)"_s;
 const QString FirstLines = uR"(  <vector~
     filename="/a&b/"c".shp"
@@ -118,7 +118,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, actual);
         QFETCH(QString, wanted);
-        QCOMPARE(actual.split(u'\n'), wanted.split(u'\n')); // names the line that differs
+        QCOMPARE(actual.split(u'\n'), wanted.split(u'\n')); // reports the line that differs
     }
 
     void namesColorsOfARaster()
@@ -126,7 +126,7 @@ private Q_SLOTS:
         const auto colors = [](Reduction reduction, bool stretched, bool interpolated,
                                const QString &noData) {
             const RasterColoring c{u"r"_s, u"%1"_s, reduction, stretched, interpolated, noData};
-            for (const QString &text : {imageColor(c), colorMapColor(c)}) { // as readers take it
+            for (const QString &text : {imageColor(c), colorMapColor(c)}) { // read back
                 const auto read = vlt::contract::parseRasterColors(text.toStdString());
                 if (!read || read->raster != "r" || read->map != "%1" ||
                     read->reduction != reduction || read->isStretched != stretched ||

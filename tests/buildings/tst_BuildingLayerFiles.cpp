@@ -74,7 +74,7 @@ private Q_SLOTS:
         QCOMPARE(readFile(path(u"out.texb"_s)), writeColoredTexbDocument(expected).toUtf8());
         const QImage legend(path(u"two & more_gradient.png"_s));
         QVERIFY(legend.width() > 100 && legend.width() % 2 == 0 &&
-                legend.height() % 2 == 0); // twice as fine as it is shown
+                legend.height() % 2 == 0); // two pixels per unit
         const QString text =
             u"Buildings (quarter)|rf_colored_buildings|TEXB:%1/out.texb|651234.568|6758252|<p>"
             "Colored: <span style=\"font-weight:600; text-decoration:underline;\">two &amp; more"
@@ -97,7 +97,7 @@ private Q_SLOTS:
         QVERIFY(files);
         const QByteArray document = readFile(files.value().document);
         QVERIFY(document.contains(" mode=\"storeys\"\n"));
-        QCOMPARE(document.count("<texture "), 2); // of the images that are used
+        QCOMPARE(document.count("<texture "), 2); // only of images in use
         const QByteArray layer = readFile(path(u"out.lay"_s));
         QVERIFY2(layer.startsWith("Buildings (quarter)|rf_storeys|TEXB:"), layer.constData());
         QVERIFY2(layer.contains("underline;\">Storeys</span><br/>Images: 2<br/>"
@@ -161,7 +161,7 @@ private Q_SLOTS:
 
     void leavesFilesAsTheyWereAfterAFailure_data()
     {
-        QTest::addColumn<QString>("blocked"); ///< a folder takes the place of this file
+        QTest::addColumn<QString>("blocked"); ///< a folder has the name of this file
         QTest::addColumn<QString>("text");
 
         const QString cannot = u"Can't create the layer file\n"_s;
@@ -211,13 +211,13 @@ private Q_SLOTS:
         const QByteArray former = readFile(legend);
         QVERIFY(m_input.legend->map.load(path(u"two.txt"_s).toStdString(), -120, -60));
 
-        for (const Access access : {Access::Shared, Access::UserOnly}) { // of another layer
+        for (const Access access : {Access::Shared, Access::UserOnly}) { // another layer's
             QCOMPARE(write(u"b.lay"_s, access), path(u"b_two & more_gradient.png"_s));
             QCOMPARE(readFile(legend), former);
         }
         QVERIFY(readFile(path(u"b.lay"_s)).contains("/b_two &amp; more_gradient.png\""));
 
-        // That of somebody else can be replaced as little as a folder.
+        // Another user's file cannot be replaced; a folder has the same effect.
         QVERIFY(QFile::remove(legend) && QDir().mkpath(legend));
         const QString own = write(u"c.lay"_s, Access::UserOnly);
         QCOMPARE(own, path(u"c_two & more_gradient.png"_s));

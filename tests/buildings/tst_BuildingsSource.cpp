@@ -13,7 +13,7 @@ class tst_BuildingsSource : public QObject, SourceFiles
 {
     Q_OBJECT
 
-    /// Layers "one" (a, b) and "two" (c, HEIGHT), a line layer between them.
+    /// A file with the layers "one" (a, b) and "two" (c, HEIGHT) and a line layer between them.
     QString twoLayers() const
     {
         const QString path = file(u"two.gpkg"_s);
@@ -50,7 +50,7 @@ private Q_SLOTS:
         QTest::addColumn<QString>("name");
         QTest::addColumn<QByteArray>("contents");
         QTest::addColumn<bool>("silent");
-        QTest::addColumn<QString>("message"); ///< empty: opened, "-": not opened without a word
+        QTest::addColumn<QString>("message"); ///< empty: opened; "-": not opened, without a message
 
         const auto row = [](const char *name, const QString &file, const QByteArray &contents,
                             bool silent, const QString &message) {
@@ -139,7 +139,7 @@ private Q_SLOTS:
     {
         Host host;
         host.page->openVector(twoLayers());
-        QCOMPARE(host.layer()->count(), 2); // not the lines, nor polygons with measures
+        QCOMPARE(host.layer()->count(), 2); // without the lines and the polygons with measures
         QCOMPARE(host.height()->count(), 2);
         QCOMPARE(host.height()->currentIndex(), 1);
 
@@ -147,7 +147,7 @@ private Q_SLOTS:
 
         QCOMPARE(host.height()->count(), 4);
         QCOMPARE(host.height()->itemData(3).toString(), u"HEIGHT"_s);
-        QCOMPARE(host.height()->currentIndex(), 1); // of "two", among those of "one"
+        QCOMPARE(host.height()->currentIndex(), 1); // field of "two" after those of "one"
         QVERIFY2(host.info(u"Buildings"_s).startsWith(u"Buildings: 1"_s),
                  qPrintable(host.info(u"Buildings"_s)));
         host.page->layerChanged(-1);
@@ -303,7 +303,7 @@ private Q_SLOTS:
         QVERIFY2(host.info(u"Dtm"_s).startsWith(u"2 \u00d7 2 pixels"_s),
                  qPrintable(host.info(u"Dtm"_s)));
 
-        host.buildings()->setText(file(u"gone.shp"_s)); // not finished: no message
+        host.buildings()->setText(file(u"gone.shp"_s)); // unfinished path: no message
         host.noData()->setFocus();
         QCOMPARE(host.wizard.currentId(), 1);
         QTest::keyClick(host.buildings(), Qt::Key_Return);
@@ -313,7 +313,7 @@ private Q_SLOTS:
         QTest::keyClick(host.buildings(), Qt::Key_Return);
         QCOMPARE(host.layer()->count(), 2);
         host.buildings()->setText(plain());
-        host.wizard.next(); // opened on the way
+        host.wizard.next(); // Next opens the typed file
         QCOMPARE(host.wizard.currentId(), 2);
         QCOMPARE(host.parameters.value(u"Layer"_s).toString(), u"plain é"_s);
     }

@@ -13,7 +13,7 @@ namespace {
 const QString Group = u"AddTexbColoredPage"_s;
 const QString OnlyGray = u"The image-based coloring mode works only with one-band grey images"_s;
 
-/// The page as it is when it is entered from the source page.
+/// The page as it is after the source page.
 class ColoredPage : public Page<VltAddTexbColoredPage>
 {
 public:
@@ -35,7 +35,7 @@ class tst_ColoredPage : public QObject
 
     QString path(const QString &name) const { return m_dir.filePath(name); }
 
-    /// An image of its own, or one more in the file.
+    /// Writes an image, or adds it to the file.
     void writeTiff(const QString &name, int bandCount, bool append = false) const
     {
         char appending[] = "APPEND_SUBDATASET=YES";
@@ -87,14 +87,14 @@ private Q_SLOTS:
 
         dropFiles(&page, {path(u"grid.asc"_s)});
         QVERIFY(page.validatePage());
-        QCOMPARE(boxes.seen.size(), 1); // whether to quit
+        QCOMPARE(boxes.seen.size(), 1); // the question whether to quit
         QVERIFY(page.icon()->isEnabled());
     }
 
     void writesWhatIsChosen_data()
     {
         QTest::addColumn<QVariantMap>("values");
-        QTest::addColumn<QString>("wanted"); // DIR stands for the folder of the test
+        QTest::addColumn<QString>("wanted"); // DIR means the folder of the test
         QTest::addColumn<QString>("map");
 
         const QString usual =
@@ -178,7 +178,7 @@ private Q_SLOTS:
         QCOMPARE(boxes.seen.constFirst().text, text);
         QVERIFY(!page.icon()->isEnabled());
         QCOMPARE(page.line(u"m_pwLeImage"_s)->text(), QString());
-        QTest::qWait(600); // no further box when the change is taken
+        QTest::qWait(600); // applying the change opens no other box
         QCOMPARE(boxes.seen.size(), 1);
     }
 
@@ -247,7 +247,7 @@ private Q_SLOTS:
         page.press(u"m_pwPbRefresh"_s);
         QTRY_VERIFY_WITH_TIMEOUT(page.document().contains(u";maximum;"_s), PatienceMs);
         page.choose(u"m_pwCbMode"_s, 2);
-        QTest::mouseClick(page.icon(), Qt::LeftButton); // takes hold of it
+        QTest::mouseClick(page.icon(), Qt::LeftButton); // makes the layer
         QTRY_VERIFY_WITH_TIMEOUT(page.document().contains(u";average;"_s), PatienceMs);
         page.choose(u"m_pwCbMode"_s, 3);
         page.check(u"m_pwChbAutoRefresh"_s, true);
@@ -264,7 +264,7 @@ private Q_SLOTS:
         page.choose(u"m_pwCbMode"_s, 1);
         page.child<QDoubleSpinBox>(u"m_pwSbTileSize"_s)->setValue(300);
 
-        QVERIFY(!page.icon()->isEnabled()); // the old layer is none any more
+        QVERIFY(!page.icon()->isEnabled()); // the old layer is not valid any more
         QVERIFY(!QFile::exists(layer));
         QTRY_VERIFY_WITH_TIMEOUT(page.icon()->isEnabled(), PatienceMs);
         QVERIFY(page.document().contains(u";maximum;"_s));
@@ -290,7 +290,7 @@ private Q_SLOTS:
         type(u"m_pwLeNoData"_s, u"-"_s);
         QTRY_COMPARE_WITH_TIMEOUT(page.message(), u"The no-data value is not a number."_s,
                                   PatienceMs);
-        QVERIFY(!page.icon()->isEnabled()); // else the layer of former values could be dragged
+        QVERIFY(!page.icon()->isEnabled()); // otherwise an outdated layer could be dragged
         QVERIFY(!page.validatePage());
         type(u"m_pwLeNoData"_s, u"-99,5"_s);
         QTRY_VERIFY_WITH_TIMEOUT(page.icon()->isEnabled(), PatienceMs);
@@ -308,7 +308,7 @@ private Q_SLOTS:
     {
         AnsweredBoxes boxes;
 
-        ColoredPage page(path(u"bare"_s)); // no template in it
+        ColoredPage page(path(u"bare"_s)); // without a template
 
         QTRY_COMPARE_WITH_TIMEOUT(boxes.seen.size(), 1, PatienceMs);
         QCOMPARE(boxes.seen.constFirst().icon, QMessageBox::Critical);

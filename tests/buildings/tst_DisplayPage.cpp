@@ -25,7 +25,7 @@ const QVariantMap AllOptions = values(
     "RoofColor=#00ff00 Distance=3000 TileSize=125.5 CheckGeom=true SkirtSize=7.5 CacheMode=2 "
     "DelayedCacheWrite=true CacheCapacity=64 AutoRefresh=false"_s);
 
-/// The attributes of a document without images and of the images.
+/// The attributes of a document without images, then those of the images.
 const QString Plain =
     u"version=1.0 encoding=UTF-8 cache=none filename=/town/b.shp layer=b hfield=H tileSize=250 "
     "extrudedVisibility=2000 texturedVisibility=2000 wallColor=#d9d4c7 roofColor=#b5634c "
@@ -50,12 +50,12 @@ enum Images { None, Ticked };
 class DisplayPage : public Page<VltAddTexbPreviewPage>
 {
 public:
-    /// @param images  whether two of the three images are ticked, or none
+    /// @param images  whether two or none of the three images are ticked
     explicit DisplayPage(Images images = Ticked)
         : Page(QStringLiteral(VLT_INSTALLATION), published(images == Ticked))
     {}
 
-    /// The attributes of the layer that is made now; empty where none is.
+    /// Makes the layer and returns its attributes; empty if there is none.
     QString made()
     {
         refreshRequested();

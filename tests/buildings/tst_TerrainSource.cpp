@@ -14,7 +14,7 @@ class tst_TerrainSource : public QObject, SourceFiles
 {
     Q_OBJECT
 
-    /// An image that only holds other images.
+    /// A file with images but no bands of its own.
     QString withoutBands() const
     {
         const QString path = file(u"tables.gpkg"_s);
@@ -29,7 +29,7 @@ class tst_TerrainSource : public QObject, SourceFiles
         return path;
     }
 
-    /// An orthophoto, and an image of indices of colours.
+    /// An orthophoto, or an image with a palette.
     QString picture(int bands) const
     {
         const QString path = file(u"picture%1.tif"_s.arg(bands));
@@ -103,7 +103,7 @@ private Q_SLOTS:
 
     void comparesSystems_data()
     {
-        QTest::addColumn<double>("west"); ///< of 1,200 km in Web Mercator
+        QTest::addColumn<double>("west"); ///< western edge of 1,200 km in Web Mercator
         QTest::addColumn<QString>("told");
 
         QTest::newRow("around") << 0.0 << u"covers the buildings"_s;
@@ -175,7 +175,7 @@ private Q_SLOTS:
 
         QCOMPARE(meanwhile, QStringList());
         QCOMPARE(host.noData()->text(), guess);
-        QCOMPARE(host.buildings()->text(), QString()); // the drop came at the wrong time
+        QCOMPARE(host.buildings()->text(), QString()); // the drop during the guess was ignored
         QCOMPARE(values, QList<int>{1});
         QVERIFY(bar->isHidden() && host.page->isEnabled());
         QVERIFY(host.wizard.button(QWizard::BackButton)->isEnabled());

@@ -24,7 +24,7 @@ void writeHeight(const QString &path, const QByteArray &height)
                         "</MDI></Metadata></PAMDataset>");
 }
 
-/// A black image; `height` goes where the format keeps metadata, in the file or beside it.
+/// Makes a black image; `height` becomes metadata, in the file or in its side file.
 void makeImage(const char *format, const QString &path, const char *height = nullptr,
                CSLConstList options = nullptr, int bands = 1)
 {
@@ -44,7 +44,7 @@ QList<FileEntry> found(const QString &dir, const QString &suffix,
     return findTextures(structure, dir, suffix, {}).value();
 }
 
-/// "wall.png 2.5 m", with the unit where it is metres.
+/// Name and height of an image, "wall.png 2.5 m", with the unit if it is metres.
 QString stated(const FileEntry &entry)
 {
     const QString text = entry.fileName() + u' ' + QString::number(entry.height);
@@ -110,7 +110,7 @@ private Q_SLOTS:
         row("none of the suffix", SameFolder, "jpg", "");
         row("same level", SiblingFolders, "png",
             "Extern/x.png|Nord/B.PNG|Nord/b[1].png|Nord/roof_1.png|Sud/linked.png|Sud/s.png");
-        // Sud is read once although a folder of village leads to it too
+        // Sud is read once, although a link in village leads to it too.
         row("two levels", TwoLevels, "png",
             "town/Extern/x.png|town/Nord/B.PNG|town/Nord/b[1].png|town/Nord/roof_1.png|"
             "town/Sud/linked.png|town/Sud/s.png|village/Ost/o.png");
@@ -149,7 +149,7 @@ private Q_SLOTS:
         makeImage("GTiff", at(u"in the file 6m.t"_s), nullptr, bigEndian);
         const char *const big[] = {"BIGTIFF=YES", nullptr};
         makeImage("GTiff", at(u"in the file 7.t"_s), "2.75", big);
-        // a later change moves what describes the image to the end of the file
+        // A later change moves the description of the image to the end of the file.
         GDALDatasetUniquePtr(
             GDALDataset::Open(qPrintable(at(u"in the file 5.t"_s)), GDAL_OF_UPDATE))
             ->SetMetadataItem("HEIGHT", "1.5");
@@ -158,7 +158,7 @@ private Q_SLOTS:
         makeImage("PNG", at(u"infinite 3.t"_s), "inf");
         makeImage("JPEG", at(u"none 3 m.t"_s));
         writeFile(at(u"broken 4m.t"_s));
-        writeHeight(at(u"broken 4m.t.aux.xml"_s), "9"); // of no use without an image
+        writeHeight(at(u"broken 4m.t.aux.xml"_s), "9"); // ignored without an image
         writeFile(at(u"virtual 6.t"_s), R"(<VRTDataset rasterXSize="1" rasterYSize="1"><Metadata>
               <MDI key="HEIGHT">9</MDI></Metadata><VRTRasterBand band="1"/></VRTDataset>)");
         makeImage("GSAG", at(u"grid 7m.grd"_s), "9");
@@ -194,7 +194,7 @@ private Q_SLOTS:
 
         QCOMPARE(entries.size(), 4);
         QCOMPARE(stated(entries.at(0)), u"one 5.tif 5"_s);
-        const QList<double> heights = {2, 7.5, 2}; // the last page has the height of the file
+        const QList<double> heights = {2, 7.5, 2}; // the last page has no height of its own
         for (int i = 0; i < 3; ++i) {
             const FileEntry &entry = entries.at(i + 1);
             QCOMPARE(entry.file.filePath(), u"GTIFF_DIR:%1:%2"_s.arg(i + 1).arg(file));
@@ -204,7 +204,7 @@ private Q_SLOTS:
         }
     }
 
-    /// The file is of one format, its images are of another.
+    /// The file has one format, its images have another.
     void takesTheHeightsOfPartsOfAnotherFormat()
     {
         const QString dir = path(u"parts"_s);
@@ -225,8 +225,8 @@ private Q_SLOTS:
         QCOMPARE(entries[1].height, 7.5);
     }
 
-    /// Formats in turn under one suffix, side files in both cases of letters: whatever is tried
-    /// first, each file gives what it gives when it is opened alone.
+    /// Files with one suffix have different formats and side files in upper and lower case. The
+    /// format that is tried first does not change the result.
     void readsWhatOpeningEachFileAloneGives()
     {
         const QString dir = path(u"mixed"_s);
@@ -257,7 +257,7 @@ private Q_SLOTS:
             QVERIFY2(qFuzzyCompare(1 + entry.height, 1 + expected), qPrintable(entry.fileName()));
             stated += height != nullptr;
         }
-        QCOMPARE(stated, 15); // 17 lie beside their images, of which two are damaged
+        QCOMPARE(stated, 15); // 17 are in side files; two of their images are damaged
     }
 
     void tellsHowFarItIsAndStops_data()

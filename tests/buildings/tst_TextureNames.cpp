@@ -24,23 +24,23 @@ private Q_SLOTS:
         row(u"roof 12."_s, 12, false);
         row(u"roof,5"_s, 0.5, false);
         row(u"roof3,25"_s, 3.25, false);
-        row(u"1.2.3"_s, 2.3, false); // "1.2.3" is no number at the end, "2.3" is
-        row(u"m 12"_s, 12, false);   // the letter is not in what matched
+        row(u"1.2.3"_s, 2.3, false); // "1.2.3" is not a number, but "2.3" is
+        row(u"m 12"_s, 12, false);   // the letter is not in the match
         row(u"5"_s, 5, false);
         // a number and the letter at the end
         row(u"wall 3,5m"_s, 3.5, true);
-        row(u"wall_4 M"_s, 4, false); // a capital tells the height, not its unit
+        row(u"wall_4 M"_s, 4, false); // a capital letter is not the unit
         row(u"wall 4.(m)"_s, 4, true);
         row(u"2m_wall_7(M)"_s, 7, false);
-        row(u"wall 4  m"_s, 1.5, true); // one blank at most; the letter alone is left
-        // the letter alone at the end
+        row(u"wall 4  m"_s, 1.5, true); // at most one blank; only the letter matches
+        // only the letter, at the end
         row(u"facade(m)"_s, 1.5, true);
         row(u"beam"_s, 1.5, true);
         row(u"3 m facade M"_s, 1.5, false);
         // a number and the letter in brackets
         row(u"a(2.5 m)b"_s, 2.5, true);
         row(u"1m (2,5(m)) b"_s, 2.5, true);
-        row(u"7m (8m"_s, 8, true); // not closed: the end comes first
+        row(u"7m (8m"_s, 8, true); // no closing bracket; the end is tried first
         row(u"9m (8) b"_s, 9, true);
         // anywhere
         row(u"h12m_wall"_s, 12, true);
@@ -52,7 +52,7 @@ private Q_SLOTS:
         row(QString(), 0, false);
         row(u"wall (2.5) b"_s, 0, false);
         row(u"12\n"_s, 0, false);
-        // digits of another script are no number that can be used
+        // digits of another script are not read as a number
         row(u"wall \u0663"_s, 0, false);
         row(u"5m wall \u0663"_s, 5, true);
     }

@@ -35,7 +35,7 @@ public:
 
     QModelIndex cell(int row, int column) { return table()->model()->index(row, column); }
 
-    /// The names of the files in the order of the table, ticked ones with a star.
+    /// The names of the files in the order of the table; ticked ones have a star.
     QStringList files()
     {
         QStringList names;
@@ -115,7 +115,7 @@ private Q_SLOTS:
         QCOMPARE(completeChanged.isEmpty(), count == 0);
         QCOMPARE(page.isHintShown(), count == 0);
         QVERIFY(page.status().contains(u"Images: %1 "_s.arg(count)));
-        page.structure()->setCurrentIndex(1 - structure / 2); // alone it changes nothing
+        page.structure()->setCurrentIndex(1 - structure / 2); // the structure alone changes nothing
         QVERIFY(page.status().contains(u"Images: %1 "_s.arg(count)));
         QVERIFY(page.validatePage());
         QCOMPARE(vlt::platform::wizardSettings()->value(u"LastUsedDir"_s).toString(),
@@ -132,7 +132,7 @@ private Q_SLOTS:
         };
 
         QCOMPARE(page->status(), status.arg(3));
-        QCOMPARE(typed('r'), status.arg(3)); // the folder
+        QCOMPARE(typed('r'), status.arg(3)); // the folder matches
         page->filter()->clear();
         QCOMPARE(typed('3'), status.arg(1));
         QVERIFY(!page->isHintShown());
@@ -188,7 +188,7 @@ private Q_SLOTS:
         QCOMPARE(QGuiApplication::clipboard()->text(), header + wall + roof);
 
         page->filter()->setText(u"none such"_s);
-        actions.constFirst()->trigger(); // nothing to copy
+        actions.constFirst()->trigger(); // nothing is selected
         QCOMPARE(QGuiApplication::clipboard()->text(), header + wall + roof);
     }
 
@@ -219,7 +219,7 @@ private Q_SLOTS:
         QVERIFY(editor);
         QCOMPARE(editor->selectedText(), u"2"_s);
         QTest::keyClicks(editor, typed);
-        page->validatePage(); // without Return
+        page->validatePage(); // takes the typed height without Return
 
         QCOMPARE(cell.data().toDouble(), height);
         const QList<FileEntry> published = page->published();

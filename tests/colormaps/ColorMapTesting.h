@@ -10,7 +10,7 @@
 
 #include <cpl_error.h>
 
-/// Keeps what the geodata library is told while it lives.
+/// Collects the errors reported to the geodata library as long as it exists.
 class ToldErrors
 {
 public:
@@ -19,7 +19,7 @@ public:
     ToldErrors(const ToldErrors &) = delete;
     ToldErrors &operator=(const ToldErrors &) = delete;
 
-    /// Failures with the application's number; others carry a mark.
+    /// The texts; failures without the application's number have a mark.
     const QStringList &texts() const { return m_texts; }
 
 private:
@@ -42,7 +42,7 @@ inline QString written(const vlt::colormaps::Rgba &color)
         .arg(color.alpha);
 }
 
-/// "value r,g,b,a; ..."
+/// The associations as "value r,g,b,a; ...".
 inline QString written(const vlt::colormaps::ColorMap &map)
 {
     QStringList texts;
@@ -51,7 +51,7 @@ inline QString written(const vlt::colormaps::ColorMap &map)
     return texts.join(QStringLiteral("; "));
 }
 
-/// A file of the given name, as the loader takes it.
+/// Writes a file and returns its path.
 inline std::string fileWith(const QTemporaryDir &dir, const QString &name, const QByteArray &bytes)
 {
     return QFile::encodeName(writeFile(dir.filePath(name), bytes)).toStdString();

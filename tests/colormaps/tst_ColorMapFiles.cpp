@@ -37,7 +37,7 @@ std::string bytesOf(const QString &path)
     return QFile::encodeName(path).toStdString();
 }
 
-/// The colours that GDAL's own colour relief gives, four bytes a value. Empty where it fails.
+/// The colours of GDAL's own colour relief, four bytes per value; empty if it fails.
 std::vector<std::uint8_t> reliefColors(const std::vector<float> &values, const std::string &mapPath)
 {
     const int width = static_cast<int>(values.size());
@@ -64,7 +64,7 @@ std::vector<std::uint8_t> reliefColors(const std::vector<float> &values, const s
     return colors;
 }
 
-/// Below, at, between and above the values of a map.
+/// Values below, at, between and above those of a map.
 std::vector<float> valuesAround(const ColorMap &map)
 {
     const std::vector<ColorAssociation> &all = map.associations();
@@ -86,7 +86,7 @@ int largestDifference(const Rgba &color, const std::uint8_t *other)
                      std::abs(color.blue - other[2]), std::abs(color.alpha - other[3])});
 }
 
-/// How light a colour is to every kind of colour vision, about.
+/// Approximate lightness of a colour, for every kind of colour vision.
 double lightness(const Rgba &color)
 {
     const auto linear = [](std::uint8_t part) { return std::pow(part / 255.0, 2.2); };
@@ -114,7 +114,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("path");
         QStringList paths = m_shipped + filesUnder(QStringLiteral(VLT_SAMPLES));
-        if (qEnvironmentVariableIsSet("VLT_MORE_COLOR_MAPS")) // a folder of further ones
+        if (qEnvironmentVariableIsSet("VLT_MORE_COLOR_MAPS")) // a folder with more maps
             paths += filesUnder(qEnvironmentVariable("VLT_MORE_COLOR_MAPS"));
         for (const QString &path : paths)
             QTest::newRow(qPrintable(QFileInfo(path).fileName())) << path;
@@ -130,7 +130,7 @@ private Q_SLOTS:
         ColorMap map;
         QVERIFY(isRelative ? map.load(copy, 0, 1000) : map.load(copy));
 
-        // percentages are those of the raster's range there
+        // GDAL computes percentages from the raster's range.
         std::vector<float> values =
             isRelative ? std::vector<float>{0, 1, 99, 250, 333, 500, 640, 801, 999, 1000}
                        : valuesAround(map);
@@ -162,7 +162,7 @@ private Q_SLOTS:
         }
     }
 
-    /// Lightness is what every kind of colour vision shares, so it alone has to tell the order.
+    /// Every kind of colour vision sees lightness, so lightness alone must show the order.
     void colorblindMapsChangeSteadilyInLightness()
     {
         const QStringList maps = m_shipped.filter(u"_colorblind"_s);

@@ -137,7 +137,7 @@ private Q_SLOTS:
         const QImage image = drawLegend(mapOf("0 black\n1 128 128 128\n1000000 white"),
                                         Interpretation::Interpolation);
 
-        QList<int> bar; // grey of the rows between the two frames, from above
+        QList<int> bar; // grey values from top to bottom, between the frames
         for (int y = 0; y < image.height(); ++y) {
             const QColor color = image.pixelColor(20, y);
             if (image.pixelColor(30, y) == color && color != QColor(Qt::white))

@@ -52,7 +52,7 @@ OGRGeometryUniquePtr polygonOf(const QByteArray &wkt)
     return OGRGeometryUniquePtr(geometry);
 }
 
-/// Reduces values in the words of the definition.
+/// Reduces values directly by the definition.
 double reduced(const std::vector<double> &values, Reduction reduction)
 {
     std::map<double, int> counts;
@@ -84,7 +84,7 @@ class tst_Coverage : public QObject
 
     QTemporaryDir m_dir;
 
-    /// A GeoTIFF of the given values, row by row from its first one.
+    /// Writes a GeoTIFF with the values, row by row.
     std::string fileOf(const char *name, int columns, const std::vector<double> &values,
                        const Placing &placing, int bands = 1, const char *append = "NO")
     {
@@ -124,7 +124,7 @@ private Q_SLOTS:
         }
     }
 
-    /// Against the geometry library's point in polygon for every pixel of the raster.
+    /// Compares with the geometry library's point-in-polygon test of every pixel.
     void agreesWithGeometryOverTheTown()
     {
         QFETCH(const Placing, placing);
@@ -262,7 +262,7 @@ private Q_SLOTS:
         QVERIFY(!CoverageRaster::open(fileOf("none.tif", 1, {FileNoData}, {}), "")->range());
     }
 
-    /// Such a grid shows itself as three colours before its values.
+    /// The format presents such a grid as three colour bands before the band of its values.
     void readsValuesBehindAPicture()
     {
         const std::string path = fileOf("level.tif", 2, {-120, -90, -70, -60}, {0, 1, 0, 2, 0, -1});
@@ -277,7 +277,7 @@ private Q_SLOTS:
         const auto raster = CoverageRaster::open(grid, "");
 
         QVERIFY(raster && raster->range());
-        QVERIFY(std::abs(raster->range()->minimum + 120) < 0.1); // it keeps steps of the range
+        QVERIFY(std::abs(raster->range()->minimum + 120) < 0.1); // stored in steps
         QVERIFY(std::abs(raster->range()->maximum + 60) < 0.1);
         const auto picture = openLocalRaster(grid, RasterUse::Picture);
         QCOMPARE(picture->GetRasterBand(1)->GetColorInterpretation(), GCI_RedBand);
@@ -306,7 +306,7 @@ private Q_SLOTS:
         }
     }
 
-    /// Whatever a file lists: some formats look for such names on the network themselves.
+    /// Even if a file lists such a name: some formats then use the network themselves.
     void opensNoPartElsewhere()
     {
         const std::string path = fileOf("liar.tif", 1, {1}, {0, 1, 0, 1, 0, -1});

@@ -45,10 +45,10 @@ std::vector<std::string> keysOf(const ConnectionString &query)
 bool isRead(const QueryOption &option)
 {
     return (option.purpose == OptionPurpose::Pylons || option.purpose == OptionPurpose::Links) &&
-           option.key != query::DataFolder; // the scene makes its pylons itself
+           option.key != query::DataFolder; // the scene makes its pylons without it
 }
 
-/// What the scene says of a query; empty where it can draw it.
+/// The scene's error for a query; empty if it can draw it.
 std::string faultOf(const ConnectionString &query)
 {
     try {
@@ -135,7 +135,7 @@ private Q_SLOTS:
 
         QVERIFY(keysOf(linkQuery()) == all);
         QVERIFY(keysOf(*siteQuery) == ofSites);
-        for (const auto &[key, value] : linkQuery().options) // no option hides in another's value
+        for (const auto &[key, value] : linkQuery().options) // no value contains another option
             QVERIFY2(!value.empty() && value.find(',') == std::string::npos, key.c_str());
         QCOMPARE(linkQuery().path, std::string("t.csv"));
         QCOMPARE(faultOf(linkQuery()), std::string());

@@ -42,7 +42,7 @@ private Q_SLOTS:
     void writesWithTheModeThatIsAskedFor_data()
     {
         QTest::addColumn<Access>("access");
-        QTest::addColumn<int>("oldMode"); // 0: no file before
+        QTest::addColumn<int>("oldMode"); // 0 for no file before
         QTest::addColumn<int>("expectedMode");
 
         QTest::newRow("user only, new") << Access::UserOnly << 0 << 0600;
@@ -109,7 +109,7 @@ private Q_SLOTS:
         const QTemporaryDir dir;
         const QString path = dir.filePath(u"layer"_s);
         writeFile(path, "old");
-        // as if full: files of this process may not grow beyond
+        // Simulates a full disk by a limit for the size of this process's files.
         rlimit limit = {};
         ::getrlimit(RLIMIT_FSIZE, &limit);
         const rlimit full = {4096, limit.rlim_max};
@@ -132,13 +132,13 @@ private Q_SLOTS:
         writeFile(path, "old");
         ::chmod(QFile::encodeName(path).constData(), 0444);
         ::chmod(QFile::encodeName(dir.path()).constData(), 0777);
-        // root may write everywhere: be somebody else meanwhile
+        // Root may write everywhere, so the test changes to another user.
         constexpr uid_t nobody = 65534;
         const bool switched = ::geteuid() == 0 && ::setresuid(nobody, nobody, 0) == 0;
         const auto written = writeWhole(path, "new", Access::Shared);
         if (switched && ::setresuid(0, 0, 0) != 0)
             qFatal("root's rights did not come back");
-        ::prctl(PR_SET_DUMPABLE, 1); // lost with the switch; leak checkers need it
+        ::prctl(PR_SET_DUMPABLE, 1); // the change of user resets it; leak checkers need it
 
         QVERIFY(!written.ok());
         QVERIFY(written.error().detail.contains(u"write-protected"_s));
@@ -157,13 +157,13 @@ private Q_SLOTS:
         QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
         QVERIFY(QFile::link(u"pipe"_s, toPipe));
         QVERIFY(QFile::link(u"loop"_s, loop));
-        // as /dev/stdout leads to what the process has open, here a regular file
+        // Like /dev/stdout, this link leads to an open file of the process, here a regular one.
         QFile open(dir.filePath(u"open"_s));
         QVERIFY(open.open(QIODevice::WriteOnly));
         QVERIFY(QFile::link(u"/proc/self/fd/%1"_s.arg(open.handle()), output));
         const QStringList names = namesIn(dir.path());
 
-        // nobody may write in /proc, root included
+        // No user may write in /proc, not even root.
         for (const QString &path : {QString(), directory, pipe, toPipe, loop, output,
                                     dir.filePath(u"gone/layer"_s), u"/proc/layer"_s}) {
             const vlt::Result<vlt::Done> written = writeWhole(path, "new", Access::Shared);

@@ -62,7 +62,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<QByteArray>("ini");
         QTest::addColumn<QString>("language");
-        QTest::addColumn<QString>("installDir"); // "." stands for the executable's directory
+        QTest::addColumn<QString>("installDir"); // "." means the executable's directory
         QTest::addColumn<QString>("messagesDir");
         const auto row = [](const char *name, const QByteArray &ini, const QString &language) {
             QTest::newRow(name) << ini << language << u"."_s << u"MESSAGES"_s;

@@ -23,7 +23,7 @@ void putDictionary(const QDir &dir, const QString &name, const QByteArray &messa
               "<TS version=\"2.1\"><context><name/>" + messages + "</context></TS>");
 }
 
-/// A dictionary on a disk that fails behind what could be read.
+/// A dictionary on a disk that fails after the first bytes.
 class FailingDisk : public QIODevice
 {
 public:
@@ -109,7 +109,7 @@ private Q_SLOTS:
 
         manager.defaultSetup(messages.path(), u"en"_s, QString());
         QCOMPARE(dico_label("K_BASE", "d"), u"basic"_s);
-        QCOMPARE(dico_label("K_DRAFT", "d"), u"d"_s); // nothing of the former language stays
+        QCOMPARE(dico_label("K_DRAFT", "d"), u"d"_s); // no text of the former language is left
     }
 
     void passesOverBrokenDictionaries_data()

@@ -18,7 +18,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Opens as the product does, and reads what the dataset refers to.
+/// Opens a dataset as the product does, and reads all data that it refers to.
 GDALDatasetUniquePtr openedLocally(const QString &path)
 {
     const vlt::localfiles::NoNetwork offline;
@@ -53,7 +53,7 @@ class tst_LocalFormats : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        CPLSetConfigOption("GDAL_HTTP_TIMEOUT", "1"); // where something does ask the server
+        CPLSetConfigOption("GDAL_HTTP_TIMEOUT", "1"); // if anything contacts the server
         GDALAllRegister();
     }
 
@@ -110,7 +110,7 @@ private Q_SLOTS:
     void noFileLeadsToTheNetwork_data()
     {
         QTest::addColumn<QByteArray>("content"); // %1: the server's address
-        QTest::addColumn<bool>("closed");        // the network's file systems, for the program
+        QTest::addColumn<bool>("closed"); // closed: the network file systems, for the program
 
         QTest::newRow("virtual raster")
             << QByteArray("<VRTDataset rasterXSize=\"2\" rasterYSize=\"2\"><VRTRasterBand "
@@ -158,7 +158,7 @@ private Q_SLOTS:
         const QString path = dir.filePath(content.startsWith('{') ? u"t.geojson"_s : u"t.xml"_s);
         writeFile(path, content.replace("%1", address));
 
-        static_cast<void>(openedLocally(path)); // whatever it makes of it
+        static_cast<void>(openedLocally(path)); // the result does not matter
         QVERIFY(!server.waitForNewConnection(100));
     }
 

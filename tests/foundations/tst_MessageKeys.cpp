@@ -20,7 +20,7 @@ namespace {
 
 const QDir Source(QStringLiteral(VLT_SOURCE_DIR));
 
-/// Every message key that stands in the sources or forms.
+/// Every message key in the sources and forms.
 QSet<QString> usedKeys()
 {
     static const QRegularExpression key(u"\\bMESS_[A-Z0-9_]+(?:\\.\\.\\.)?"_s);
@@ -66,7 +66,7 @@ QSet<QString> keysOf(const Texts &texts)
     return {keys.begin(), keys.end()};
 }
 
-/// "%1", "_F_", "__NAME__" ..., sorted, each as often as it stands there.
+/// The placeholders "%1", "_F_", "__NAME__" ... of a text, sorted, with repetitions.
 QStringList placeholders(const QString &text)
 {
     static const QRegularExpression mark(
@@ -99,7 +99,7 @@ private Q_SLOTS:
 
     void everyKeyHasAText()
     {
-        // places that share this key have each their own English title
+        // The uses of this key have different English titles.
         QCOMPARE(listed(m_used - keysOf(m_english)), u"MESS_ERREUR"_s);
         QCOMPARE(listed(m_used - keysOf(m_french)), QString());
     }
@@ -110,13 +110,13 @@ private Q_SLOTS:
         QCOMPARE(listed(keysOf(m_french) - m_used), QString());
     }
 
-    /// A reader writes its text in English, which is no other one in the dictionary.
+    /// The English text that a reader writes is the one in the dictionary.
     void readersWriteWhatTheDictionaryHas()
     {
         QSet<QString> done;
         const auto check = [&](const vlt::contract::Text &text) {
             const QString key = QString::fromUtf8(text.key);
-            if (!done.contains(key)) // the first of several forms
+            if (!done.contains(key)) // only the first of several forms
                 QCOMPARE(m_english.value(key), QString::fromUtf8(text.pattern));
             done.insert(key);
         };

@@ -31,7 +31,7 @@ class tst_ProjectReaders : public QObject
         QTest::newRow(name) << text << QString::fromLatin1(expected);
     }
 
-    /// "%D/" at the start of an expected path stands for the project's directory.
+    /// The expected path, in which "%D/" at the start means the project's directory.
     QString inDir(const QString &expected) const
     {
         return QString(expected).replace(u"%D"_s, m_dir.path());

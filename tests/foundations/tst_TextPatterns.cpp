@@ -44,7 +44,7 @@ std::string_view valueFor(ValueKind kind, std::string_view name)
 
 } // namespace
 
-/// The texts of the readers: each of them is found again in what it becomes.
+/// Texts of the readers with values in them: each is recognised from the finished text.
 class tst_TextPatterns : public QObject
 {
     Q_OBJECT

@@ -50,7 +50,7 @@ private Q_SLOTS:
         QCOMPARE(text, u"1 __a__ __B__ 1 1"_s);
     }
 
-    // as printf writes them in the C locale
+    // The expected texts are those of printf in the C locale.
     void writesNumbersInTheCLocale_data()
     {
         QTest::addColumn<double>("value");
@@ -97,7 +97,7 @@ private Q_SLOTS:
     void namesTemporaryLayerFiles_data()
     {
         QTest::addColumn<QString>("below");
-        QTest::addColumn<QString>("expected"); // "%T" the temporary directory, "%P" the process id
+        QTest::addColumn<QString>("expected"); // "%T": temporary directory, "%P": process id
 
         QTest::newRow("plain") << u"t"_s << u"%T/t//tempLayer_sites_%P.lay"_s;
         QTest::newRow("directory that looks like a slot")

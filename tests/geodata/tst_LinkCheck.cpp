@@ -11,7 +11,7 @@
 using namespace Qt::StringLiterals;
 using namespace vlt::geodata;
 
-/// One walk over the links of a table, as the program makes it.
+/// Reading all links of a table, as the program does.
 class tst_LinkCheck : public QObject
 {
     Q_OBJECT
@@ -46,7 +46,7 @@ private Q_SLOTS:
         const LinkReport &link = check.links.at(1001);
         QCOMPARE(link.row, 1003); // the header is row 1
         QCOMPARE(link.name + link.endA + link.endB, u"L1001AB"_s);
-        QCOMPARE(link.frequencyMHz, std::optional<double>(7000)); // of either end
+        QCOMPARE(link.frequencyMHz, std::optional<double>(7000)); // of both ends
         QVERIFY(!check.links.at(1000).frequencyMHz);
         QVERIFY(!check.links.at(1007).isPlaced && !check.links.at(1007).lengthM);
         QVERIFY(std::any_of(check.problems.listed.begin(), check.problems.listed.end(),

@@ -9,7 +9,7 @@
 
 using namespace vlt::geodata;
 
-/// One walk over the rows of a table, as the program makes it.
+/// Reading all rows of a table, as the program does.
 class tst_SiteCheck : public QObject
 {
     Q_OBJECT
@@ -61,7 +61,7 @@ private Q_SLOTS:
         QCOMPARE(asked, question);
     }
 
-    /// A workbook that is cut while it is read must not pass for one with fewer sites.
+    /// A workbook that is truncated during the read must not be taken as one with fewer sites.
     void tellsThatTheFileWasDamagedOnTheWay()
     {
         const QString copy = m_folder.filePath(QStringLiteral("cut.xlsx"));

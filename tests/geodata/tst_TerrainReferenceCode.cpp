@@ -87,7 +87,7 @@ private Q_SLOTS:
         writeFile(linking, "{\"type\":\"FeatureCollection\",\"crs\":{\"type\":\"link\","
                            "\"properties\":{\"href\":\"" +
                                url.toUtf8() + "\",\"type\":\"ogcwkt\"}},\"features\":[]}");
-        static_cast<void>(vlt::geodata::datasetReferenceCode(linking)); // whatever it makes of it
+        static_cast<void>(vlt::geodata::datasetReferenceCode(linking)); // any result
         QVERIFY(!server.waitForNewConnection(100));
     }
 

@@ -5,7 +5,7 @@
 #include <QMessageBox>
 #include <QTimer>
 
-/// What a message box said.
+/// The texts of a message box.
 struct SeenBox
 {
     QMessageBox::Icon icon = QMessageBox::NoIcon;
@@ -13,11 +13,11 @@ struct SeenBox
     QString text;
     QMessageBox::StandardButtons buttons;
     bool hasDefaultButton = false;
-    QString focusedButton; ///< its text
+    QString focusedButton; ///< text of the button with the focus
 };
 
-/// While it lives, presses `answer` on every message box that opens and keeps what it said. A box
-/// without that button is closed by its first one.
+/// Presses `answer` in every message box that opens as long as it exists, and keeps the texts. In a
+/// box without that button it presses the first one.
 class AnsweredBoxes
 {
 public:

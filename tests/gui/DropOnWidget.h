@@ -8,7 +8,7 @@
 #include <QUrl>
 #include <QWidget>
 
-/// Drags `data` over the middle of a widget; returns whether it would take a drop.
+/// Drags `data` over the middle of a widget; returns whether the widget would accept a drop.
 inline bool dragOver(QWidget *widget, const QMimeData &data)
 {
     QDragEnterEvent enter(widget->rect().center(), Qt::CopyAction | Qt::LinkAction, &data,
@@ -17,14 +17,14 @@ inline bool dragOver(QWidget *widget, const QMimeData &data)
     return enter.isAccepted();
 }
 
-/// Leaves it again without a drop.
+/// Leaves the widget without a drop.
 inline void dragAway(QWidget *widget)
 {
     QDragLeaveEvent leave;
     QApplication::sendEvent(widget, &leave);
 }
 
-/// Drags `data` onto a widget and lets it go.
+/// Drops `data` on a widget.
 inline void dropOn(QWidget *widget, const QMimeData &data)
 {
     if (!dragOver(widget, data))

@@ -5,8 +5,8 @@
 #include <QLineEdit>
 #include <QTimer>
 
-/// While it lives, answers every file dialog that opens with a path, or cancels it where the path
-/// is empty, and keeps what the dialog said.
+/// Answers every file dialog with a path as long as it exists, or cancels it if the path is empty,
+/// and keeps the dialog's texts.
 class FileDialogAnswer
 {
 public:

@@ -24,7 +24,7 @@ void addEnd(QStringList &filled, const QString &mark, const LinkEndColumns &end)
     }
 }
 
-/// The members that have a column.
+/// The names of the members that have a column.
 QString filledMembers(const LinkColumnSet &set)
 {
     QStringList filled;

@@ -17,7 +17,7 @@ vlt::sites::SiteCatalogues catalogues()
     return {{{u"T"_s, {}, {}}}, {twoColors}};
 }
 
-/// "<key>=" up to the next "&", as often as it stands there.
+/// The values of all "<key>=" in a URL, each up to the next "&".
 QStringList values(const QString &url, const QString &key)
 {
     QStringList found;
@@ -114,7 +114,7 @@ private Q_SLOTS:
         input.file.endLayerName = u"L ends"_s;
         input.file.linkNameField = u"Name"_s;
         input.file.nameField = u"Site ID"_s;
-        input.file.columns.name = u"Name"_s; // known since the table was opened; it is gone by now
+        input.file.columns.name = u"Name"_s; // known; the file is missing now
 
         QCOMPARE(makeLinkLayer(input).error().path, pylons + u"template_links.lay"_s);
 
@@ -195,7 +195,7 @@ private Q_SLOTS:
                              "fresnel_share=60&fresnel_color=ffa50066&"
                              "k_factor=1.33333.inlinepylonurl"_s));
         QCOMPARE(values(url, u"pylon"_s).size(), 3);
-        // a slope of 3 by 4 is 53.13 degrees
+        // The direction of 3 by 4 is 53.13 degrees.
         QCOMPARE(values(url, u"dish"_s),
                  (QStringList{u"23 53.1301 0 0 ff0000ff"_s, u"23 233.13 0 0 00ff00ff"_s,
                               u"20 126.87 0 0 ff0000ff"_s, u"20 306.87 0 0 00ff00ff"_s}));

@@ -26,7 +26,7 @@ private Q_SLOTS:
     void remembersEveryValueUnderItsKey_data()
     {
         QTest::addColumn<QVariant>("stored");
-        QTest::addColumn<QString>("query"); // where the value shows in the query of links
+        QTest::addColumn<QString>("query"); // the part of the query of links with the value
         QTest::addColumn<QVariant>("damaged");
 
         const auto row = [](const char *key, const QVariant &stored, const QString &query,
@@ -89,13 +89,13 @@ private Q_SLOTS:
 
         QCOMPARE(changes.count(), 6);
         QCOMPARE(width->suffix(), u" m"_s);
-        QVERIFY(panel.findChild<QWidget *>(u"m_pwSbFresnelShare"_s)->isEnabled()); // judges still
+        QVERIFY(panel.findChild<QWidget *>(u"m_pwSbFresnelShare"_s)->isEnabled()); // still used
         QVERIFY(!panel.findChild<QWidget *>(u"m_pwSbFresnelZone"_s)->isEnabled());
     }
 
     void asksForAColourByKeyboard_data()
     {
-        QTest::addColumn<QColor>("chosen"); // not valid: cancelled
+        QTest::addColumn<QColor>("chosen"); // invalid if cancelled
         QTest::addColumn<QString>("told");
         QTest::newRow("taken") << QColor(1, 2, 3) << u"#010203"_s;
         QTest::newRow("translucent") << QColor(255, 0, 0, 127) << u"#FF0000, 50 % transparent"_s;

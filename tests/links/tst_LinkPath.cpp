@@ -13,7 +13,7 @@ namespace {
 constexpr int Columns = 400;
 constexpr int Rows = 20;
 constexpr double PixelM = 30;
-constexpr double WestM = 494000; // the ends lie on both sides of the zone's middle, at 500000
+constexpr double WestM = 494000; // the middle of the zone, at 500000, is between the ends
 constexpr double NorthM = 5400300;
 constexpr double PlainM = 100;
 constexpr double NoDataM = -9999;
@@ -79,7 +79,7 @@ private:
     QTemporaryDir m_dir;
 };
 
-// By the usual engineering form, 17.31 sqrt(n d1 d2/(f d)) with km and GHz.
+// The expected radii are those of the common formula 17.31 sqrt(n d1 d2/(f d)) with km and GHz.
 void tst_LinkPath::radii_data()
 {
     QTest::addColumn<int>("zone");
@@ -104,7 +104,7 @@ void tst_LinkPath::radii()
     QVERIFY(std::abs(fresnelRadiusM(zone, frequencyMHz, d1, d2) - radius) < 0.0007 * radius);
 }
 
-// A point of the surface has a way that is zone half wavelengths longer; 0.05 m is 6 GHz.
+// The path over a point of the surface is longer by `zone` half wavelengths; 0.05 m is 6 GHz.
 void tst_LinkPath::ellipsoidsTouchTheRadius()
 {
     for (const double distance : {10.0, 3000.0, 80000.0}) {
@@ -116,8 +116,8 @@ void tst_LinkPath::ellipsoidsTouchTheRadius()
 }
 
 // 10 km at 6 GHz, antennas 150 m above the sea, a wall in the middle. There the first zone has a
-// radius of sqrt(0.04997 * 5000 * 5000/10000) = 11.18 m, and the earth rises by
-// 5000 * 5000/(2 * 4/3 * 6371009) = 1.47 m.
+// radius of sqrt(0.04997 * 5000 * 5000/10000) = 11.18 m, and the bulge of the earth is 5000 *
+// 5000/(2 * 4/3 * 6371009) = 1.47 m.
 void tst_LinkPath::verdicts_data()
 {
     QTest::addColumn<double>("wall");
@@ -157,8 +157,8 @@ void tst_LinkPath::verdicts()
     }
 }
 
-// Flinders Peak to Buninyong, as published for the geodetic datum of Australia: 54972.271 m towards
-// 306 degrees 52' 05.37". On a plane without a system: 3, 4, 5.
+// Flinders Peak to Buninyong, as published for the geodetic datum of Australia: 54972.271 m in the
+// direction 306 degrees 52' 05.37". On a plane without a system: 3, 4, 5.
 void tst_LinkPath::distances()
 {
     OGRSpatialReference australia;
@@ -203,9 +203,9 @@ void tst_LinkPath::heights_data()
     QTest::addColumn<QList<double>>("placing");
     QTest::addColumn<double>("last");
     QTest::addColumn<QString>("unit");
-    QTest::addColumn<QList<double>>("scaling"); // factor, summand
+    QTest::addColumn<QList<double>>("scaling"); // factor and offset
     QTest::addColumn<QList<double>>("place");
-    QTest::addColumn<double>("height"); // not finite: none
+    QTest::addColumn<double>("height"); // not finite for none
     const auto row = [](const char *name, double height, const QList<double> &place,
                         double last = 40, const char *unit = "m",
                         const QList<double> &scaling = {1, 0}, int epsg = 2154,
@@ -264,7 +264,7 @@ void tst_LinkPath::heights()
     QVERIFY(!read || std::abs(*read - height) < 1e-3);
 }
 
-/// Such a grid shows itself as three colours before its heights.
+/// The format presents such a grid as three colour bands before the band of its heights.
 void tst_LinkPath::heightsBehindAPicture()
 {
     const auto plain = terrain(m_dir.filePath(QStringLiteral("plain.tif")), 300);

@@ -15,7 +15,8 @@ using vlt::snapshot::TerrainSurface;
 
 namespace {
 
-/// Reads files of its own suffix as a scene: tells quarters, and what else it was handed.
+/// Reads files of its own suffix as a scene. It reports progress in quarters; the scene's
+/// description has the reader's options.
 class ProbeReader : public osgDB::ReaderWriter
 {
 public:

@@ -29,7 +29,7 @@ QByteArray townOf(const QByteArrayList &features)
     return R"({"type":"FeatureCollection","features":[)" + features.join(',') + "]}";
 }
 
-/// 2 x 2 pixels from 5 degrees east, 45 north.
+/// A grid of 2 x 2 pixels from 5 degrees east, 45 degrees north.
 QByteArray grid(const char *pixels, const char *side = "0.01")
 {
     return QByteArray("ncols 2\nnrows 2\nxllcorner 5\nyllcorner 45\ncellsize ") + side +
@@ -49,7 +49,7 @@ class tst_SceneTexts : public QObject
         return writeFile(m_dir.filePath(name), content);
     }
 
-    /// The text of a key, which the dictionary has.
+    /// The dictionary's text for a key, with its values.
     static QString told(const char *key, const QStringList &values)
     {
         QString text = dico_label(key, "?");
@@ -213,7 +213,7 @@ private Q_SLOTS:
         QFETCH(QStringList, values);
         values.replaceInStrings(u"%1"_s, m_dir.filePath(u"text.tif"_s));
 
-        const vlt::snapshot::SceneNotices notices; // quiet
+        const vlt::snapshot::SceneNotices notices; // keeps the output quiet
         const auto scene = vlt::snapshot::readScene(write(name, content), {}, {});
 
         QVERIFY(!scene);

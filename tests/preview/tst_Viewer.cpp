@@ -35,7 +35,7 @@ osg::ref_ptr<osg::Node> ballAt(const osg::Vec3 &center)
     return place;
 }
 
-/// Keeps what the viewer's event queue hands on.
+/// Records the events of the viewer's queue.
 class Recorder : public osgGA::GUIEventHandler
 {
 public:
@@ -52,7 +52,7 @@ public:
     float scrolled = 0;
 };
 
-/// What the scene library says meanwhile.
+/// Collects the notices of the scene library.
 class Notices : public osg::NotifyHandler
 {
 public:
@@ -122,7 +122,7 @@ private Q_SLOTS:
 
         QVERIFY(!centerIsSky());
         const osg::Vec3d before = eye();
-        m_viewer->showScene(ballAt({0, 0, 0})); // the user's camera stays
+        m_viewer->showScene(ballAt({0, 0, 0})); // the camera stays at the user's position
         waitForFrames();
         QVERIFY((eye() - before).length() < 1e-6);
         m_viewer->centerView();
@@ -147,7 +147,7 @@ private Q_SLOTS:
     void knowsHowFarAllIsDrawnAtItsBest_data()
     {
         using Ranges = QList<QPair<float, float>>;
-        QTest::addColumn<Ranges>("near"); // of a tile
+        QTest::addColumn<Ranges>("near"); // ranges of a tile
         QTest::addColumn<Ranges>("other");
         QTest::addColumn<double>("distanceM");
 
@@ -214,7 +214,7 @@ private Q_SLOTS:
                           Qt::NoModifier, Qt::NoScrollPhase, false);
         QApplication::sendEvent(m_viewer, &wheel);
 
-        // the scene library's own numbers of its left, middle and right button
+        // the scene library's numbers of the left, middle and right button
         QTRY_COMPARE_WITH_TIMEOUT(recorder->pushed, QList<int>({1, 2, 4}), PatienceMs);
         QTRY_COMPARE_WITH_TIMEOUT(recorder->scrolled, 120, PatienceMs);
         QVERIFY(m_viewer->getCameraManipulator()->getInverseMatrix() != before); // nearer
@@ -268,7 +268,7 @@ private Q_SLOTS:
     {
         using Change = std::function<void(W_simpleOSGViewer &)>;
         QTest::addColumn<Change>("change");
-        QTest::addColumn<bool>("once"); // or on and on
+        QTest::addColumn<bool>("once"); // false for repeatedly
 
         QTest::newRow("wheel") << Change([](W_simpleOSGViewer &view) {
             QWheelEvent wheel({5, 5}, view.mapToGlobal(QPointF(5, 5)), {}, {0, 120}, Qt::NoButton,

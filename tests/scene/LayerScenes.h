@@ -16,7 +16,7 @@
 #include <set>
 #include <string>
 
-/// What the tests of layers share.
+/// Helpers for the tests of layers.
 namespace layertest {
 
 inline const char *const PylonLook =
@@ -45,14 +45,15 @@ inline Opened open(const QString &path, const osgDB::Options *options = nullptr)
     return {read.getNode() ? read.getNode()->asGroup() : nullptr, read.message()};
 }
 
-/// Counts what a reader finds while files of one relative name, with ever more objects, appear in
-/// the folders where it is looked for, from the last of these folders to the first.
+/// Finds the order in which a reader searches folders for a relative file name. Files of this name,
+/// each with one object more, are written to these folders from the last one to the first; the
+/// reader counts the objects each time.
 ///
-/// @param layer    path of the layer or document that names the file; it exists
-/// @param content  of a file with so many objects
-/// @param fact     that counts the objects
-/// @return         "1 2 3 4 4" where the order is kept: the working directory, the layer's folder,
-///                 that of VLT_CURRENT_PROJECT, and twice that of the project the caller names
+/// @param layer    path of the existing layer or document that names the file
+/// @param content  content of a file with this number of objects
+/// @param fact     key of the number of objects
+/// @return         "1 2 3 4 4" for the right order: the working directory, the layer's folder, that
+///                 of VLT_CURRENT_PROJECT, and twice that of the caller's project
 inline QString foundInOrder(const QString &layer, const QString &name,
                             const std::function<QByteArray(int)> &content, const char *fact)
 {
@@ -89,8 +90,7 @@ inline QString foundInOrder(const QString &layer, const QString &name,
     return found.join(u' ');
 }
 
-/// Draws nothing, but goes where the renderer would go, at every distance: this makes what is made
-/// when it is needed.
+/// Visits all nodes that the renderer visits at any distance, so that nodes made on demand exist.
 struct Everything : osg::NodeVisitor
 {
     Everything() : osg::NodeVisitor(CULL_VISITOR, TRAVERSE_ALL_CHILDREN) {}

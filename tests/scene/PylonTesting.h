@@ -4,7 +4,7 @@
 
 #include "plugins/scene/parametric/PylonQuery.h"
 
-/// What the tests of pylons share.
+/// Helpers for the tests of pylons.
 namespace pylontest {
 
 using namespace querytest;
@@ -17,13 +17,13 @@ inline const std::string Demonstration =
     "&transmitter=20 20 0 0 0 00ff00ff&transmitter=20 140 +5 0 0 ff000080"
     "&transmitter=20 260 0 0 0 00ff00ff&transmitter_scale=100&lod=10000 1000.inlinepylonurl";
 
-/// The pylon of that query, of another type.
+/// The pylon of that query with another type.
 inline PylonDesign demonstration(const char *type)
 {
     return parsePylonQuery(replaced(Demonstration, "monopole_panel", type)).design;
 }
 
-/// One row for each type.
+/// Adds a row for each type.
 inline void addTypes()
 {
     QTest::addColumn<QByteArray>("type");

@@ -8,7 +8,7 @@
 #include <initializer_list>
 #include <string>
 
-/// What the tests of queries share.
+/// Helpers for the tests of queries.
 namespace querytest {
 
 inline std::string replaced(std::string text, const std::string &what, const std::string &with)
@@ -17,7 +17,7 @@ inline std::string replaced(std::string text, const std::string &what, const std
     return at == std::string::npos ? text : text.replace(at, what.size(), with);
 }
 
-/// Rows: a part of a good query, what stands there instead, a part of what is told then.
+/// Adds rows: a part of a good query, its replacement, a part of the error's text.
 inline void addRefusals(std::initializer_list<std::array<const char *, 3>> rows)
 {
     QTest::addColumn<QByteArray>("what");
@@ -27,7 +27,7 @@ inline void addRefusals(std::initializer_list<std::array<const char *, 3>> rows)
         QTest::newRow(told) << QByteArray(what) << QByteArray(with) << QByteArray(told);
 }
 
-/// Compares the current row with what becomes of the good query.
+/// Applies the current row to the good query and checks the error.
 ///
 /// @param parse  throws BadQuery
 template<typename Parse>

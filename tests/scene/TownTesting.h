@@ -10,7 +10,7 @@
 #include <functional>
 #include <vector>
 
-/// What the tests of towns share.
+/// Helpers for the tests of towns.
 namespace towntest {
 
 using namespace vlt::scene;
@@ -20,7 +20,7 @@ using Rings = std::vector<Ring>;
 
 constexpr float BaseM = 30;
 
-/// Adds a building; rings but the first are its holes.
+/// Adds a building; all rings except the first are holes.
 inline void add(Town &town, const Rings &rings, float heightM = 12)
 {
     Footprints &shapes = town.footprints;
@@ -56,9 +56,9 @@ struct Image
     int rows = 1;
     int bands = 1;
     GDALDataType type = GDT_Byte;
-    osg::Vec2d corner;       ///< of the lowest, leftmost pixel
+    osg::Vec2d corner;       ///< lower left corner
     double pixel = 10;       ///< its width and height
-    const char *system = ""; ///< empty: none
+    const char *system = ""; ///< empty for none
     std::function<double(int column, int row, int band)> value = {};
     std::function<void(GDALDataset &)> finish = {}; ///< before the values; may be empty
 };

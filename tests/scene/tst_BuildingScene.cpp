@@ -81,7 +81,7 @@ QByteArray document(const QByteArray &file = "town.gpkg", const QByteArray &more
            "\" /></veltaroTexturedBuildings>";
 }
 
-/// What a scene draws from near by, in its frame.
+/// The drawables of a scene that are visible from near, in its frame.
 struct Drawn : layertest::Everything
 {
     explicit Drawn(const osg::ref_ptr<osg::Group> &scene) { scene->accept(*this); }
@@ -210,7 +210,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<OGRFieldType>("type");
         QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<double>("height"); ///< 0: left out
+        QTest::addColumn<double>("height"); ///< 0 if left out
         QTest::addColumn<QByteArray>("notice");
         const auto row = [](const char *name, OGRFieldType type, const QByteArray &text,
                             double height, const QByteArray &notice = {}) {
@@ -242,7 +242,7 @@ private Q_SLOTS:
         makeFootprints(path("town.gpkg"),
                        {{Square, "40"}, {"POLYGON((20 0,30 0,30 10,20 0))", text}}, type);
 
-        // layer and field whatever the case
+        // Layer and field are found in any case.
         const Drawn drawn(
             read(document().replace("\"Height", "\"height").replace("\"Town", "\"TOWN")));
 
@@ -252,8 +252,8 @@ private Q_SLOTS:
         QVERIFY(notice.isEmpty() || told(notice));
     }
 
-    /// The terrain rises to the east by 1 in 10 from 100 m at East. A square of 10 m stands in the
-    /// mean of its corners, 0.5 m above that of its western side.
+    /// The terrain rises to the east by 1 in 10 from 100 m at East. A square of 10 m has the mean
+    /// height of its corners, 0.5 m above its western side.
     void standsOnTheGround_data()
     {
         QTest::addColumn<QByteArray>("terrain");
@@ -293,7 +293,7 @@ private Q_SLOTS:
         makeTerrain("dem.tif", -50, 10, slope);
         makeTerrain("bare.tif", -50, 10, slope, "");
         makeTerrain("far.tif", 5000, 10, slope);
-        // the square's western corners are between two columns of -5
+        // The western corners of the square lie between two columns of -5.
         makeTerrain("steps.tif", -8, 4, [](int column, int, int) { return column < 3 ? -5 : 101; });
         towntest::make(
             path("degrees.tif"),
@@ -321,7 +321,7 @@ private Q_SLOTS:
         const Drawn drawn(
             read(document("town.gpkg", "tileSize=\"400\" extrudedVisibility=\"700\"")));
 
-        QVERIFY(drawn.farthest.size() >= 5); // a kilometre and nine tenths in tiles of 400 m
+        QVERIFY(drawn.farthest.size() >= 5); // 1.9 km in tiles of 400 m
         for (const float distance : drawn.farthest)
             QVERIFY(std::abs(distance - 700) < 0.01);
     }
@@ -339,7 +339,7 @@ private Q_SLOTS:
             {"/vsicurl", document("/vsicurl/http://localhost:9/a.shp")},
             {"http:", document("http://localhost:9/a")},
             {"PG:", document("PG:host=localhost")},
-            {"town.vrt\" cannot be read", document("town.vrt")}, // points to elsewhere
+            {"town.vrt\" cannot be read", document("town.vrt")}, // refers to another file
             {"t.texb\" cannot be read", document("t.texb")},
             {"\"City\"", document().replace("Town", "City")},
             {"\"H\"", document().replace("Height", "H")},
@@ -413,13 +413,13 @@ private Q_SLOTS:
     {
         makeFootprints(path("town.gpkg"), {{Square, "5"}});
         writeFile(path("docs/t.texb"), document("../town.gpkg"));
-        writeFile(path("layers/beside.texb"), document("town.gpkg")); // beside the project
+        writeFile(path("layers/beside.texb"), document("town.gpkg")); // not in the project's folder
         const osg::ref_ptr<osgDB::Options> options = new osgDB::Options;
         options->setPluginStringData(contract::ProjectDatum, path("p.gvw").toStdString());
         const std::map<QByteArray, bool> sources = {
             {"TEXB:" + path("docs/t.texb").toUtf8(), true},
             {"texb:beside.texb", true}, // in the layer's folder
-            {"TEXB:docs/t.texb", true}, // in the project's
+            {"TEXB:docs/t.texb", true}, // in the project's folder
             {"TEXB:no.texb", false},
             {"site:t.csv", false}};
         for (const auto &[source, isFound] : sources) {
@@ -444,7 +444,7 @@ private:
         return m_folder.filePath(QString::fromUtf8(name));
     }
 
-    /// Ten by ten pixels.
+    /// Writes a terrain of ten by ten pixels.
     void makeTerrain(const char *name, double x, double pixel,
                      const decltype(towntest::Image::value) &heightM,
                      const char *system = "EPSG:2154") const

@@ -12,7 +12,7 @@ using namespace towntest;
 
 namespace {
 
-/// A curve that goes round `turns` times in so many points, from 5 to 10 from its middle.
+/// A spiral of `turns` turns and this number of points, with radii from 5 to 10.
 Ring spiral(int turns, int points)
 {
     Ring ring;
@@ -120,7 +120,7 @@ private Q_SLOTS:
         QFETCH(int, walls);
         QFETCH(bool, isCrossed);
         RoofTriangles roof;
-        roof.addRing(BowTie); // nothing of the one before may stay
+        roof.addRing(BowTie); // cleared before the next roof
         roof.cut();
         roof.clear();
         for (const Ring &ring : rings)
@@ -249,7 +249,7 @@ private:
                 QVERIFY(z == BaseM + 12 || (!face.isRoof() && z == BaseM - 5));
             }
         }
-        for (std::size_t i = 0; i < mesh.indices().size(); ++i) // none belongs to two planes
+        for (std::size_t i = 0; i < mesh.indices().size(); ++i) // no vertex belongs to two planes
             QVERIFY((normalAt(mesh, mesh.indices()[i]) - faces[i / 3].normal()).length() < 1e-4);
         QCOMPARE(wallFaces, 2 * walls);
         QVERIFY(std::abs(roofArea - area) < 1e-3);

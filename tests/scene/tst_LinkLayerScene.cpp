@@ -17,8 +17,8 @@ using namespace layertest;
 using namespace vlt::scene;
 using vlt::linkpath::Verdict;
 
-// Places in RGF93: in Lambert-93 A is (650000, 6860000), a1 one metre north of it, B 3000 east and
-// 4000 north of A, C 4000 east of A.
+// Positions in RGF93. In Lambert-93 A is (650000, 6860000), A1 is one metre north of it, B 3000 m
+// east and 4000 m north of A, C 4000 m east of A.
 const QByteArray A = "48.838110123,2.318790597";
 const QByteArray A1 = "48.838119116,2.318790479";
 const QByteArray B = "48.874307556,2.359219079";
@@ -51,7 +51,7 @@ QByteArray layerText(const QByteArray &source)
 }
 
 /// The height of the test's terrain in Lambert-93: a plane that rises to the east by 1 in 100, with
-/// a hill across the way from A to C.
+/// a hill across the path from A to C.
 double terrainM(double x, double y)
 {
     const bool isHill = std::abs(x - 652000) < 150 && std::abs(y - 6860000) < 500;
@@ -104,7 +104,7 @@ private Q_SLOTS:
         QTest::addColumn<double>("azimuthDeg");
 
         QTest::newRow("metres") << QByteArray("2154") << 5000.0 << 36.87;
-        // along the geodesic, and by its azimuth half way between its ends' ones
+        // Along the geodesic, with the mean of the azimuths at its ends.
         QTest::newRow("degrees") << QByteArray("4171") << 5000.54 << 36.39;
         // UTM 31 in feet: A is (1476422.2, 17748304.5), B (1486266.3, 17761421.3)
         QTest::newRow("feet") << QByteArray("+proj=utm +zone=31 +ellps=GRS80 +units=ft") << 4998.68
@@ -119,7 +119,7 @@ private Q_SLOTS:
 
         const LinkRecords records = recordsOf(linkSource(system));
 
-        QCOMPARE(records.pylons.sites.size(), std::size_t{3}); // A and A1 are one
+        QCOMPARE(records.pylons.sites.size(), std::size_t{3}); // A and A1 are one site
         const std::array<double, 3> groundM{100, 130, 140};
         const std::array<double, 3> mastsM{32, 42, 32};
         for (std::size_t i = 0; i < 3; ++i) {
@@ -156,8 +156,8 @@ private Q_SLOTS:
 
         QCOMPARE(records.links.size(), std::size_t{3});
         QVERIFY((records.links[0].a - osg::Vec3d(-1500, -2000, 120)).length() < 1);
-        QCOMPARE(records.links[2].frequencyMHz, 0.0); // none that a microwave has
-        // the mast carries the height of a link from one of its sides to the other, too
+        QCOMPARE(records.links[2].frequencyMHz, 0.0); // not a microwave frequency
+        // The mast is also high enough for a link between two of its own antennas.
         QCOMPARE(records.pylons.designs[0].heightM, 92.0);
     }
 
@@ -165,7 +165,8 @@ private Q_SLOTS:
     {
         const LinkRecords records = recordsOf(linkSource());
 
-        // Halfway B - C the first zone has 3.66 m, of which 2 m less 0.25 m of curvature are free.
+        // Halfway between B and C the radius of the first zone is 3.66 m; 2 m less 0.25 m of
+        // curvature are free.
         const std::array<Verdict, 3> expected{Verdict::Clear, Verdict::Obstructed,
                                               Verdict::Marginal};
         QCOMPARE(records.links.size(), std::size_t{4});
@@ -196,7 +197,7 @@ private Q_SLOTS:
             QVERIFY2(opened.fact(fact) == value, fact);
         QCOMPARE(found.labels.size(), std::size_t{3});
         QVERIFY(std::abs(found.feet["C"].z() - 140) < 0.05);
-        // the middle of A and B is the origin's height below B's mast
+        // The origin is the middle of A and B.
         QVERIFY((found.feet["A"] + found.feet["B"] - osg::Vec3d(-1000, 0, 230)).length() < 1.5);
     }
 
@@ -249,7 +250,8 @@ private Q_SLOTS:
         float highest = 0;
         for (const osg::Vec3 &point : *points) {
             highest = std::max(highest, point.z());
-            // away from the hill, whose foot is 100 m wide: the middle is at (652000, 6862000)
+            // Points outside the hill, whose foot is 100 m wide; the middle is at (652000,
+            // 6862000).
             if (std::abs(point.x()) > 260 || std::abs(point.y() + 2000) > 610)
                 QVERIFY(std::abs(point.z() - 120 - point.x() / 100) < 0.05);
         }

@@ -44,7 +44,7 @@ LinkLook lookOf(LinkStyle style, double width)
     return look;
 }
 
-/// What a visit of all drawables finds; places in the scene's own coordinates.
+/// Collects the properties of all drawables; positions are in the scene's coordinates.
 struct Finder : osg::NodeVisitor
 {
     Finder() : osg::NodeVisitor(TRAVERSE_ALL_CHILDREN) {}
@@ -69,7 +69,7 @@ struct Finder : osg::NodeVisitor
     std::vector<osg::Vec3d> normals;
     int drawables = 0;
     int sorted = 0;
-    unsigned levels = 0; ///< most of one node
+    unsigned levels = 0; ///< maximum number of levels in one node
 };
 
 Finder found(osg::Node &node)
@@ -89,8 +89,8 @@ osg::ref_ptr<osg::GraphicsContext> openContext(int side)
     return osg::GraphicsContext::createGraphicsContext(traits);
 }
 
-/// A picture, 301 x 301, of what an eye sees that looks at the origin; null without a screen. Black
-/// where there is nothing.
+/// A picture of 301 x 301 pixels from an eye that looks at the origin, with a black background;
+/// null without a screen.
 osg::ref_ptr<osg::Image> picture(osg::Node *scene, const osg::Vec3d &eye, bool isParallel)
 {
     constexpr int Side = 301;
@@ -127,7 +127,7 @@ class tst_Links : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        m_screen = openContext(1); // a server whose last client goes is away for a while
+        m_screen = openContext(1); // the X server restarts when its last client disconnects
     }
     void cleanupTestCase() { m_screen = nullptr; }
 
@@ -200,7 +200,7 @@ private Q_SLOTS:
         QVERIFY(node && node->asGroup()->getNumChildren() == 3);
         const auto *pylon = node->asGroup()->getChild(0)->asGroup()->getChild(0);
         QCOMPARE(dynamic_cast<const osg::LOD &>(*pylon).getMaxRange(1), 10000.F);
-        // tubes, their hairlines, the ellipsoid of the one link that has a frequency
+        // Tubes, their thin lines, and the ellipsoid of the only link with a frequency.
         const Finder links = found(*node->asGroup()->getChild(2));
         QCOMPARE(links.drawables, 3);
         QCOMPARE(links.sorted, 1);
@@ -208,7 +208,7 @@ private Q_SLOTS:
 
     void drawsTheExactZone_data()
     {
-        QTest::addColumn<QList<double>>("way"); // from one antenna to the other
+        QTest::addColumn<QList<double>>("way"); // vector from one antenna to the other
         QTest::addColumn<double>("frequencyMHz");
         QTest::addColumn<int>("zone");
         QTest::addColumn<double>("share");
@@ -267,7 +267,7 @@ private Q_SLOTS:
         QTest::addColumn<double>("width");
         QTest::addColumn<QList<double>>("eye");
         QTest::addColumn<bool>("isParallel");
-        QTest::addColumn<int>("pixels"); // across; 1000 m from an eye of 60 degrees: 0.2607 a metre
+        QTest::addColumn<int>("pixels"); // width; 0.2607 per metre at 1000 m, for 60 degrees
         const auto row = [](const char *what, LinkStyle style, double width,
                             const QList<double> &eye, int pixels, bool isParallel = false) {
             QTest::newRow(what) << int(style) << width << eye << isParallel << pixels;
@@ -311,7 +311,7 @@ private Q_SLOTS:
         };
         row("two walls: 0.4", {0, -1000, 0}, 102);
         row("from inside, one wall: 1 - sqrt(0.6)", {0, -10, 0}, 57);
-        // through walls that face the eye by 0.198 and are darker by 1 - 0.75 - 0.25 * 0.198
+        // The walls face the eye by 0.198 and are darker by 1 - 0.75 - 0.25 * 0.198.
         row("flat along it: 0.4", {-1700, -150, 0}, 82);
     }
     void letsTheZoneShineThrough()
@@ -336,7 +336,7 @@ private Q_SLOTS:
     void drawsTheLineOverItsZone_data()
     {
         QTest::addColumn<int>("style");
-        QTest::addColumn<double>("eye"); // from afar a zone is as thin as its line
+        QTest::addColumn<double>("eye"); // from far away a zone is as thin as its line
         for (const auto &[name, style] : {std::pair("line", LinkStyle::Line),
                                           {"tube", LinkStyle::Tube},
                                           {"band", LinkStyle::Billboard}}) {
@@ -404,7 +404,7 @@ private Q_SLOTS:
         const std::vector<AntennaPlace> places = placeAntennas(design, mast);
         addAntennas(meshes, places, false);
 
-        // its rim is 0.9 m wide and a little more; its cover faces east and 10 degrees downwards
+        // Its rim is a little wider than 0.9 m; its cover faces east and 10 degrees downwards.
         const osg::Vec3d faced(0.984808, 0, -0.173648);
         double widest = 0;
         double foremost = 0;
@@ -418,7 +418,7 @@ private Q_SLOTS:
         QVERIFY(std::abs(foremost - 0.2025) < 0.001);
         QCOMPARE(stackSectors(design)[0].beamWidthDeg, 20.0);
 
-        // 60 degrees between two dishes on a thin pole
+        // Two dishes on a thin pole, at an angle of 60 degrees.
         design.type = PylonType::MonopoleSlim;
         design.transmitters.push_back(design.transmitters[0]);
         design.transmitters[1].azimuthDeg = 150;

@@ -17,8 +17,8 @@ bool near(const osg::Vec3d &one, const osg::Vec3d &other, double tolerance = 0.0
     return (one - other).length() <= tolerance;
 }
 
-/// The first thing that is wrong with a mesh: a triangle whose front is not where its normals
-/// point, a normal that is no unit vector, a vertex that is not finite.
+/// The first fault of a mesh: a triangle whose front side is opposite to its normals, a normal that
+/// is not a unit vector, a vertex that is not finite.
 std::string faultOf(const Mesh &mesh)
 {
     const std::vector<unsigned> &indices = mesh.indices();
@@ -96,7 +96,7 @@ private Q_SLOTS:
     void tiltsDownwardsWhenPositive_data()
     {
         QTest::addColumn<double>("tilt");
-        QTest::addColumn<double>("lean"); // of a point 1 m above the centre: sin of the tilt
+        QTest::addColumn<double>("lean"); // shift of a point 1 m above the centre: sin of the tilt
         QTest::newRow("+5") << 5.0 << 0.0872;
         QTest::newRow("-5") << -5.0 << -0.0872;
     }
@@ -113,7 +113,7 @@ private Q_SLOTS:
 
         addAntennas(meshes, {place}, false);
 
-        // the highest point belongs to the upper lid, within its half depth of the middle line
+        // The highest point belongs to the upper lid, at most half its depth from the middle line.
         const auto &points = meshes.matt.positions();
         const osg::Vec3d top =
             *std::max_element(points.begin(), points.end(),
@@ -131,7 +131,7 @@ private Q_SLOTS:
 
         const std::vector<AntennaPlace> places = placeAntennas(design, mastDesign(design));
 
-        // 1.4 widths of 0.3 m between them, to the east and west
+        // The distance between them is 1.4 widths of 0.3 m, in the direction east-west.
         QVERIFY(near(places[0].centre - places[1].centre, {-0.42, 0, 0}));
         QVERIFY(near(places[2].centre - places[1].centre, {0.42, 0, 0}));
     }
@@ -169,7 +169,7 @@ private Q_SLOTS:
     void stacksSectorsThatWouldCollide_data()
     {
         QTest::addColumn<QList<double>>("transmitters"); // height, azimuth, beam width
-        QTest::addColumn<QList<double>>("bottoms");      // 20 m high, 2 m apart; rising
+        QTest::addColumn<QList<double>>("bottoms"); // sectors 20 m high, 2 m apart, in rising order
         const auto row = [](const char *what, const QList<double> &transmitters,
                             const QList<double> &bottoms) {
             QTest::newRow(what) << transmitters << bottoms;
@@ -206,7 +206,7 @@ private Q_SLOTS:
     void buildsEachMastToMeasure_data()
     {
         QTest::addColumn<QByteArray>("type");
-        QTest::addColumn<double>("reach"); // largest distance of anything from the axis
+        QTest::addColumn<double>("reach"); // maximum distance of a vertex from the axis
         const auto row = [](const char *type, double reach) {
             QTest::newRow(type) << QByteArray(type) << reach;
         };

@@ -18,7 +18,7 @@ using namespace pylontest;
 
 namespace {
 
-/// Counts what a visit of all children reaches.
+/// Counts the nodes that a visit of all children reaches.
 struct Counter : osg::NodeVisitor
 {
     explicit Counter(VisitorType type = NODE_VISITOR)
@@ -42,7 +42,7 @@ Counter counted(osg::Node &node)
     return counter;
 }
 
-/// Keeps what the scene library tells.
+/// Collects the notices of the scene library.
 struct Listener : osg::NotifyHandler
 {
     void notify(osg::NotifySeverity, const char *message) override { text += message; }
@@ -193,7 +193,7 @@ private Q_SLOTS:
 
         QCOMPARE(below({4, 5, 6}, design).get(), first.get());
         QVERIFY(first != second);
-        // the precise representation comes with the first drawing; its bound does not change then
+        // The first drawing adds the precise representation and does not change the bound.
         const osg::BoundingSphere before = first->getBound();
         const std::size_t symbolic = counted(*first).drawables;
         Counter drawing(osg::NodeVisitor::CULL_VISITOR);
@@ -213,7 +213,7 @@ private Q_SLOTS:
     void survivesOptimisers_data()
     {
         QTest::addColumn<int>("opacity");
-        QTest::addColumn<int>("translucent"); // drawables of their own, to be sorted
+        QTest::addColumn<int>("translucent"); // drawables of translucent parts, which are sorted
         QTest::newRow("translucent") << 128 << 6;
         QTest::newRow("opaque") << 255 << 0;
     }

@@ -49,7 +49,7 @@ private Q_SLOTS:
         QTest::addColumn<double>("north");
         QTest::addColumn<double>("tolerance");
 
-        // The middle of A and B is the origin; east and north are A's way to C.
+        // The origin is the middle of A and B; east and north give the vector from A to C.
         QTest::newRow("metres") << QByteArray("A,650000,6860000,100,30,0,,\nB,651000,6862000,0,30,"
                                               "0,,\nC,650300,6860400,120,30,0,,\n")
                                 << QByteArray("2154") << 300.0 << 400.0 << 0.001;
@@ -119,7 +119,8 @@ private Q_SLOTS:
         QVERIFY(above.z() > 40 && above.z() < 60); // the sector reaches from 20 to 40
     }
 
-    /// Sectors of the symbolic representation, by the direction of their tips' far corners.
+    /// Sectors of the symbolic representation, distinguished by the direction of their outer
+    /// corners.
     void colorsTransmittersInTurn()
     {
         writeFile(path(QStringLiteral("t.csv")), Header + "A,650000,6860000,0,30,90,30,270\n");
@@ -127,7 +128,7 @@ private Q_SLOTS:
         Everything found;
         open(path(QStringLiteral("t.lay"))).scene->accept(found);
 
-        std::map<bool, double> reach; // by "is red": farthest x
+        std::map<bool, double> reach; // farthest x of the red and of the other drawables
         for (const osg::ref_ptr<const osg::Drawable> &drawable : found.drawables) {
             const auto *points =
                 dynamic_cast<const osg::Vec3Array *>(drawable->asGeometry()->getVertexArray());
@@ -166,11 +167,11 @@ private Q_SLOTS:
 
         QCOMPARE(oneFoot, std::size_t{1});
         QCOMPARE(feet, std::size_t{1000});
-        // 16 tiles of 63 sites, each with masts, opaque sectors and dots of its own, and one block
+        // 16 tiles of 63 sites, each with its masts, opaque sectors and dots, and one block.
         QVERIFY2(thousand <= one + std::size_t{16} * 3 + 1, std::to_string(thousand).c_str());
     }
 
-    /// A file that another program could read has the masts, whatever it writes them to.
+    /// A written scene has the masts, because it cannot make them on demand.
     void isWholeForWhoWritesIt()
     {
         writeFile(path(QStringLiteral("t.csv")), Header + "A,650000,6860000,0,30,90,30,270\n");
@@ -186,7 +187,7 @@ private Q_SLOTS:
             Everything found;
             osgDB::readRefNodeFile(file)->accept(found);
 
-            QCOMPARE(found.drawables.size() > 5, options == nullptr); // else its dot alone
+            QCOMPARE(found.drawables.size() > 5, options == nullptr); // otherwise only its dot
             QCOMPARE(found.labels.size(), std::size_t(options ? 0 : 1));
         }
     }

@@ -10,7 +10,7 @@ using namespace vlt::scene;
 
 namespace {
 
-/// A document with these attributes of its vector element besides the necessary ones.
+/// A document with these additional attributes of its vector element.
 QByteArray document(const QByteArray &attributes, const QByteArray &rest = {})
 {
     return "<?xml version=\"1.0\" encoding=\"UTF-8\"?><veltaroTexturedBuildings cache=\"none\">\n"
@@ -105,7 +105,7 @@ private Q_SLOTS:
 
         const QString text = vlt::buildings::writeTexbDocument(document);
 
-        document.cache = {}; // of no use to a scene
+        document.cache = {}; // not used by scenes
         QVERIFY2(parseTexbDocument(text.toStdString()) == document, qPrintable(text));
     }
 
@@ -164,7 +164,7 @@ private Q_SLOTS:
         QVERIFY2(fault.contains(named), fault);
     }
 
-    /// A mark in each place of a large document: cutting it anywhere ends in a result or a refusal.
+    /// A document cut at any position is read or refused.
     void survivesWhateverIsCutOff()
     {
         const std::string whole =

@@ -21,14 +21,14 @@ using namespace vlt::contract;
 using namespace vlt::scene;
 using namespace towntest;
 using Places = Ring;
-using Shown = std::map<int, std::set<double>>; ///< heights above the ground by those of images
+using Shown = std::map<int, std::set<double>>; ///< heights above the ground, by height of the image
 
 constexpr double SkirtM = 2;
 const osg::Vec3d Origin(10, 20, 1);
-const Places Square = square(25, 25, 20); ///< corners in middles of pixels
+const Places Square = square(25, 25, 20); ///< the corners are centres of pixels
 const Places Courtyard = square(15, 15, 70);
 
-/// A building of some rings, the first of which is the outer one, in a plane of metres.
+/// A building with these rings, the outer one first, in a system in metres.
 Town townOf(const Rings &rings, float heightM)
 {
     Town town;
@@ -39,13 +39,13 @@ Town townOf(const Rings &rings, float heightM)
     return town;
 }
 
-/// A corner of a face that shows an image.
+/// A vertex of a face with an image.
 struct Corner
 {
     osg::Vec2d place; ///< in the town's system
     double z;         ///< above the ground
     osg::Vec3 normal;
-    std::array<int, 4> color; ///< of the image there
+    std::array<int, 4> color; ///< colour of the image at the vertex
 };
 
 std::array<int, 4> colorAt(const osg::Image &image, const osg::Vec2 &at)
@@ -60,7 +60,7 @@ struct Tile
 {
     std::vector<Corner> corners;
     int imageColumns = 0;
-    std::set<double> plainLevels; ///< of faces in the town's colours
+    std::set<double> plainLevels; ///< heights of faces in the town's colours
     unsigned edges = 0;
 
     Tile(const Town &town, const BuildingTextures &look, TextureImages &images)
@@ -109,7 +109,7 @@ class tst_TexturedTile : public QObject
 
     QTemporaryDir m_dir;
 
-    /// Its lower left corner is the town's origin.
+    /// Writes an image whose lower left corner is the town's origin.
     std::string imageOf(const char *name, int side, int bands, GDALDataType type,
                         const decltype(Image::value) &value,
                         const decltype(Image::finish) &finish = {})
@@ -118,7 +118,7 @@ class tst_TexturedTile : public QObject
                     {side, side, bands, type, {}, 10, "", value, finish});
     }
 
-    /// Red tells the column, green the row, blue the height.
+    /// The red value is the column, the green one the row, the blue one the height.
     BuildingTextures lookOf(TextureMode mode, const std::vector<double> &heights)
     {
         BuildingTextures look;
@@ -164,7 +164,7 @@ private Q_SLOTS:
         QTest::addColumn<float>("heightM");
         QTest::addColumn<unsigned>("corners");
         QTest::addColumn<Shown>("shown");
-        QTest::addColumn<std::set<double>>("plain"); ///< levels of faces in the town's colours
+        QTest::addColumn<std::set<double>>("plain"); ///< heights of faces in the town's colours
         QTest::addColumn<unsigned>("edges");
         const auto row = [](const char *name, TextureMode mode, const Rings &rings, float height,
                             unsigned corners, const Shown &shown, const std::set<double> &plain,
@@ -177,12 +177,12 @@ private Q_SLOTS:
         row("beyond half-way", Roofs, {Square}, 6.5, 6, {{9, {6.5}}}, {-SkirtM, 6.5});
         row("above all", Roofs, {Square}, 99, 6, {{21, {99}}}, {-SkirtM, 99});
         row("a complex one stays as it is", Roofs, {Courtyard, Square}, 10, 0, {}, {-SkirtM, 10});
-        // borders half-way between 3 and 9; two bands of eight walls
+        // The border is halfway between 3 and 9; two bands of eight walls.
         const Shown bands = {{3, {-SkirtM, 6}}, {9, {6, 12}}};
         row("walls", Walls, {Courtyard, Square}, 12, 2 * 8 * 6, bands, {12});
         row("clockwise walls", Walls, {turned(Courtyard), turned(Square)}, 12, 2 * 8 * 6, bands,
             {12});
-        // edges of the whole, and around each floor
+        // Edges of the building and around each storey.
         row("two of three storeys", Storeys, {Square}, 12, 12, {{3, {3}}, {9, {9}}}, {},
             12 + 2 * 4);
         row("one just at the top", Storeys, {Square}, 3, 6, {{3, {3}}}, {}, 12 + 4);
@@ -214,7 +214,8 @@ private Q_SLOTS:
                 corner.place + osg::Vec2d(corner.normal.x(), corner.normal.y()) * *look.bufferM;
             QCOMPARE(corner.color, expectedAt(beside, corner.color[2]));
             found[corner.color[2]].insert(corner.z);
-            // outside is away from the middle around the building, towards it in the courtyard
+            // The outside of the building is away from the middle; in the courtyard it is towards
+            // the middle.
             const bool isHole = (corner.place - osg::Vec2d(35, 35)).length() < 15;
             const osg::Vec2d middle = isHole ? osg::Vec2d(35, 35) : osg::Vec2d(50, 50);
             if (mode == TextureMode::Walls)
@@ -236,7 +237,7 @@ private Q_SLOTS:
         QTest::addColumn<int>("bands");
         QTest::addColumn<GDALDataType>("type");
         QTest::addColumn<Finish>("finish");
-        QTest::addColumn<QList<int>>("expected"); ///< of a pixel whose band b is 50 * b
+        QTest::addColumn<QList<int>>("expected"); ///< colour of a pixel whose band b has 50 * b
         const Finish noData = [](GDALDataset &image) {
             for (int i = 1; i <= image.GetRasterCount(); ++i)
                 image.GetRasterBand(i)->SetNoDataValue(50);
@@ -307,7 +308,7 @@ private Q_SLOTS:
         QCOMPARE(opacityAt(Side / 2 - 95), 255);
         QCOMPARE(opacityAt(Side / 2 - 105), 0);
 
-        // a building of a large town has little of the memory for all
+        // In a large town each building has only a small share of the memory.
         Town town = townOf({square(10, 10, 10 * Side - 20)}, 9);
         BuildingTextures look;
         look.images = {{path, 9}};
@@ -319,7 +320,7 @@ private Q_SLOTS:
 
     void transformsToTheSystemOfTheImage()
     {
-        // pixels of 0.0001 degrees by the third meridian; the town's metres in UTM 31
+        // Pixels of 0.0001 degrees near the third meridian; the town is in UTM 31.
         const std::string path =
             make(m_dir.filePath(QStringLiteral("degrees.tif")),
                  {100, 100, 1, GDT_Byte, {2.995, 47.995}, 1e-4, "EPSG:4326", [](int, int, int) {
@@ -331,7 +332,8 @@ private Q_SLOTS:
         utm.exportToWkt(&wkt);
         const auto image = openImage(path, wkt);
         CPLFree(wkt);
-        // on the zone's middle: easting 500000, northing 0.9996 of the meridian's arc to 48 north
+        // In the middle of the zone: easting 500000, northing 0.9996 of the meridian's arc to 48
+        // degrees north.
         Places places = {{500000, 5316300.4}, {NAN, 0}};
 
         image->toPixels(places);

@@ -12,9 +12,9 @@ namespace {
 using namespace vlt::scene;
 using vlt::colormaps::Rgba;
 
-const QString Grey = QStringLiteral("c8c8c8"); ///< of what has no colour of its own
+const QString Grey = QStringLiteral("c8c8c8"); ///< colour of buildings without a value
 
-/// Triangles about the middles of pixels of 10 by 10, the list from east to west.
+/// Triangles around the centres of pixels of 10 by 10, in order from east to west.
 Town townOf(int buildings)
 {
     Town town;
@@ -47,7 +47,7 @@ class tst_TownColors : public QObject
         writeFile(m_dir.filePath(QLatin1String(name)), content);
     }
 
-    /// Values in one row.
+    /// Writes a raster with the values in one row.
     void makeRaster(const char *name, const std::vector<double> &values, osg::Vec2d corner = {},
                     const char *system = "")
     {
@@ -80,7 +80,8 @@ private Q_SLOTS:
 
     void colorsBuildings_data()
     {
-        // a.tif from west to east: 0 25 50 and -99; the buildings from east to west
+        // a.tif has 0, 25, 50 and -99 from west to east; the buildings are in order from east to
+        // west.
         QTest::addColumn<QByteArray>("colorText");
         QTest::addColumn<QString>("colors");
         const auto row = [](const char *name, const QByteArray &text, const char *colors) {
@@ -120,7 +121,7 @@ private Q_SLOTS:
         Notices notices;
 
         QCOMPARE(colorsOf(townOf(4), colorText, notices), colors);
-        const auto grey = colors.count(Grey) % 4; // not those of the plain colour
+        const auto grey = colors.count(Grey) % 4; // without the buildings of the plain colour
         const bool isPartial = grey > 0 || colors.contains(QStringLiteral("010203"));
         QCOMPARE(notices.size(), isPartial ? 1U : 0U);
         if (isPartial)
@@ -168,7 +169,7 @@ private Q_SLOTS:
 
     void transformsPlaces()
     {
-        // 221505, 221515 and 221525 by 6758005, as gdaltransform tells them
+        // 221505, 221515 and 221525 by 6758005, transformed with gdaltransform.
         constexpr std::array<std::pair<double, double>, 3> Middles = {
             {{-3.3925193, 47.7480247}, {-3.3923863, 47.7480320}, {-3.3922533, 47.7480393}}};
         Town town = townOf(3);
@@ -185,7 +186,7 @@ private Q_SLOTS:
         QVERIFY(notices.empty());
     }
 
-    /// While the raster's range is read too.
+    /// Also while the raster's range is read.
     void stops()
     {
         std::vector<double> shares;

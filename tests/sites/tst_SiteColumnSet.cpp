@@ -8,7 +8,7 @@ using vlt::sites::SiteColumnSet;
 
 namespace {
 
-/// Which members a single field fills, one letter each: name, x, y, terrain height, sector id,
+/// The members that a single field fills, one letter each: name, x, y, terrain height, sector id,
 /// height, azimuth, tilt.
 QString filledMembers(const SiteColumnSet &set)
 {

@@ -71,7 +71,7 @@ private Q_SLOTS:
         input.language = QStringLiteral("de");
         input.file.layerName = QStringLiteral("__SITE_FIELD__");
         input.file.nameField = QStringLiteral("NAME");
-        // known since the table was opened; it may be gone by now
+        // The columns are known since the table was opened; the file may be missing now.
         input.file.filePath = QStringLiteral("/nowhere/sites.csv");
         input.file.columns.heights = {QStringLiteral("H1")};
 

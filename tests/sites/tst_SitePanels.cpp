@@ -22,7 +22,7 @@ namespace {
 
 const QString Installation = QStringLiteral(VLT_INSTALLATION);
 
-/// @param srs  empty for a raster (.tif) or vector dataset that tells none
+/// @param srs  empty for a raster (.tif) or vector dataset without a system
 void makeDataset(const QString &path, const QByteArray &srs)
 {
     const bool isRaster = path.endsWith(u".tif"_s);
@@ -153,7 +153,7 @@ private Q_SLOTS:
     void remembersTheTargetSystem()
     {
         QFETCH(QString, stored);
-        // one of the user's own systems shows its alias only
+        // A user-defined system is shown only with its alias.
         vlt::platform::builderSettings()->setValue(u"LastUsedSrsList/1_CODE"_s,
                                                    u"+proj=utm +zone=30 +datum=WGS84"_s);
         vlt::platform::builderSettings()->setValue(u"LastUsedSrsList/1_ALIAS"_s, u"Mine"_s);
@@ -171,7 +171,7 @@ private Q_SLOTS:
         QCOMPARE(vlt::platform::wizardSettings()->value(u"Q/TargetSrs"_s).toString(), stored);
     }
 
-    /// Rows of other systems stand before it, and one of the user's own hides its code.
+    /// Rows of other systems are before it, and a user-defined system does not show its code.
     void takesTheVerySystemThatIsSet_data()
     {
         QTest::addColumn<QString>("set");
@@ -212,13 +212,13 @@ private Q_SLOTS:
     void readsTheTargetSystemFromADataset_data()
     {
         QTest::addColumn<QByteArray>("srs");
-        QTest::addColumn<QString>("target"); // empty: stays, with a warning
+        QTest::addColumn<QString>("target"); // empty: no change, with a warning
 
         QTest::newRow("raster.tif") << QByteArray("EPSG:32630") << u"EPSG:32630"_s;
         QTest::newRow("raster_without.tif") << QByteArray() << QString();
         QTest::newRow("vector.shp") << QByteArray("EPSG:27572") << u"EPSG:27572"_s;
         QTest::newRow("vector_without.shp") << QByteArray() << QString();
-        // on the ellipsoid of WGS 84, which must not pass for WGS 84 itself
+        // A system on the ellipsoid of WGS 84, which must not be taken for WGS 84.
         QTest::newRow("nameless.shp")
             << QByteArray("+proj=laea +lat_0=47 +datum=WGS84") << QString();
         QTest::newRow("no_dataset.txt") << QByteArray() << QString();

@@ -43,7 +43,7 @@ struct Shown
         QVERIFY(QTest::qWaitForWindowActive(&window, PatienceMs));
     }
 
-    /// As a user does it: opens the list, goes to the row, presses Return.
+    /// Chooses a row like a user: opens the list, goes to the row, presses Return.
     void pick(int row)
     {
         combo->showPopup();
@@ -79,8 +79,8 @@ struct Shown
     QSignalSpy selected;
 };
 
-/// While it lives, types the answer into each dialog and accepts it once that is possible; cancels
-/// it where there is no answer.
+/// Types the answer into each dialog and accepts it as soon as possible, as long as it exists;
+/// cancels the dialog without an answer.
 class DialogAnswers : public QTimer
 {
 public:
@@ -130,7 +130,7 @@ private Q_SLOTS:
 
         Shown withoutOther(true, false);
         QCOMPARE(withoutOther.rows(), used + defaults);
-        withoutOther.pick(2); // neither announced nor recorded
+        withoutOther.pick(2); // neither signalled nor recorded
         QCOMPARE(withoutOther.chooser->currentCode(), u"EPSG:4326"_s);
         QCOMPARE(withoutOther.announced(), QStringList());
         QCOMPARE(LastUsedSrsList().at(0).code, u"EPSG:2154"_s);
@@ -153,7 +153,8 @@ private Q_SLOTS:
         QCOMPARE(shown.announced(), QStringList{u"EPSG:2154"_s});
     }
 
-    /// The list of the last used systems is the builder's too: no row on the way counts as chosen.
+    /// Rows that the user passes in the open list are not chosen, because the builder shares the
+    /// list of the last used systems.
     void choosesInTheOpenListOnly()
     {
         Shown shown;
@@ -247,7 +248,7 @@ private Q_SLOTS:
         const bool added = !alias.isEmpty();
         Shown shown;
         const DialogAnswers answers(alias);
-        for (int i = 0; i < 3; ++i) // one Return is one reaction all the same
+        for (int i = 0; i < 3; ++i) // Return still has one reaction after repeated calls
             shown.chooser->setSrsCode({});
 
         shown.combo->lineEdit()->clear();
@@ -296,7 +297,7 @@ private Q_SLOTS:
         shown.pick(0);
         QCOMPARE(shown.combo->currentText(), u"Undefined"_s);
         QTest::keyClicks(shown.combo, u"EPSG:4326"_s);
-        QTest::keyClick(shown.combo, Qt::Key_Return); // nothing is done with it, which is told
+        QTest::keyClick(shown.combo, Qt::Key_Return); // the text is not used; a hint is shown
         QVERIFY(shown.chooser->findChild<QLabel *>(u"m_pLHint"_s)->isVisible());
     }
 };

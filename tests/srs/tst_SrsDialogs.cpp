@@ -32,7 +32,7 @@ QPushButton *okButton(const QDialog &dialog)
 
 enum Tab { Search, Default, LastUsed, UserDefined };
 
-/// The dialog, opened, with a row of a tab selected.
+/// The open dialog with a selected row of a tab.
 struct Chooser
 {
     explicit Chooser(Tab tab, int row = 0)
@@ -200,7 +200,7 @@ private Q_SLOTS:
 
         QVERIFY(chooser.dialog.chosenEntry() == south);
         QVERIFY(UserDefinedSrsList().at(0) == south && UserDefinedSrsList().at(2) == works);
-        QVERIFY(LastUsedSrsList().at(0) == works); // follows
+        QVERIFY(LastUsedSrsList().at(0) == works); // changes too
     }
 
     void refusesAliasesInUse()

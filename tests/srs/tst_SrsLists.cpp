@@ -16,7 +16,7 @@ namespace {
 const QString LastUsed = u"LastUsedSrsList"_s;
 const QString UserDefined = u"UserDefinedSrsList"_s;
 
-/// "alias|code; alias|code|U ...", U for a user-defined system.
+/// The list as "alias|code; alias|code|U ...", with U for a user-defined system.
 QString listed(const SrsEntryList &list)
 {
     QStringList entries;
@@ -30,7 +30,7 @@ qsizetype storedCount()
     return vlt::platform::builderSettings()->allKeys().filter(u"SrsList/"_s).size();
 }
 
-/// Stores "key=value key=value ..." and nothing else.
+/// Stores "key=value key=value ..." as the only values of a group.
 void store(const QString &group, const QString &pairs)
 {
     vlt::platform::builderSettings()->clear();
@@ -59,7 +59,7 @@ private Q_SLOTS:
 
     void readsTheInstalledFile()
     {
-        QCOMPARE(DefaultSrsList().count(), 0); // there is none
+        QCOMPARE(DefaultSrsList().count(), 0); // the group is missing
 
         m_settings.reset(
             "[vltdefaultsrs]\n"
@@ -93,7 +93,7 @@ private Q_SLOTS:
         store(UserDefined, u"2_ALIAS=two 2_CODE=c2 10_Alias=ten 10_cODE=c10"_s);
         QCOMPARE(listed(UserDefinedSrsList()), u"ten|c10|U; two|c2|U"_s);
 
-        // a match inside the alias key will do, the code key has to match as a whole
+        // An alias key may contain more text, a code key must match as a whole.
         store(UserDefined, u"1_ALIAS_2=a 1_CODE=c x2_ALIAS=b x2_CODE=d"_s);
         QCOMPARE(listed(UserDefinedSrsList()), u"a|c|U; b|d|U"_s);
         store(UserDefined, u"1_ALIAS=a 1_CODE_2=c 11_CODE=d A_ALIAS=b A_CODE=e"_s);

@@ -17,7 +17,7 @@ class tst_SrsSearch : public QObject
     Q_OBJECT
 
     const vlt::srs::SharedSrsSearch m_search = vlt::srs::sharedSrsSearch().result();
-    vlt::srs::SrsPreferences m_preferences; ///< with the defaults of the installation
+    vlt::srs::SrsPreferences m_preferences; ///< with the installation's default systems
 
     QString firstFound(const vlt::srs::SrsQuery &query) const
     {
@@ -40,10 +40,11 @@ private Q_SLOTS:
     {
         QCOMPARE(m_search->systems().constFirst().key(), u"EPSG:2000"_s); // Anguilla 1957
         QVERIFY(m_search->systemOf(u"epsg:4979"_s));
-        QVERIFY(!m_search->systemOf(u"EPSG:5773"_s)); // EGM96 height: no place on a map
+        QVERIFY(!m_search->systemOf(u"EPSG:5773"_s)); // EGM96 height: not a system of a map
         QVERIFY(vlt::geodata::srsDefinitionText(u"EPSG:2154"_s).startsWith(u"PROJCRS[\"RGF93"));
 
-        // two areas of use: 25.5 .. 28.51 degrees of longitude, and the whole country
+        // This system has two areas of use: 25.5 .. 28.51 degrees of longitude, and the whole
+        // country.
         const auto found = m_search->find({u"KKJ / Finland Uniform"_s, SrsKind::Projected, true});
         QCOMPARE(found.size(), size_t{1});
         const SrsRecord &finland = m_search->systems().at(found.front());
@@ -58,7 +59,7 @@ private Q_SLOTS:
         QCOMPARE(firstFound({u" epsg  2154 "_s, {}, false}), u"EPSG:2154"_s);
         QCOMPARE(firstFound({u"93 Lambert RGF93"_s, {}, false}), u"EPSG:2154"_s);
         QCOMPARE(firstFound({u"lambert-93 metropolitaine"_s, {}, false}), u"EPSG:2154"_s);
-        QCOMPARE(firstFound({u"27582"_s, {}, false}), u"EPSG:27582"_s); // a deprecated one
+        QCOMPARE(firstFound({u"27582"_s, {}, false}), u"EPSG:27582"_s); // a deprecated system
         QCOMPARE(firstFound({u"wgs84"_s, {}, false}), u"EPSG:4326"_s);  // also a code of IGNF's
         QCOMPARE(firstFound({u"lambert nowhere"_s, {}, false}), QString());
     }
@@ -72,14 +73,14 @@ private Q_SLOTS:
             QTest::newRow(text) << QString::fromUtf8(text) << u"EPSG:%1"_s.arg(code);
         };
         row("utm 30", 25830);
-        row("utm 60", 32660); // no default: WGS 84 before others
+        row("utm 60", 32660); // not a default; WGS 84 before others
         row("wgs", 4326);
         row("etrs", 4258);
         row("etrs89 utm 30", 25830);
         row("british", 27700);
         row("france", 2154);
         row("mercator", 3857);
-        row("lambert", 31370);      // used lately
+        row("lambert", 31370);      // recently used
         row("gauss kruger", 31469); // the project's
         row("new zealand", 2193);
         for (const vlt::srs::SrsEntry &entry : m_preferences.defaults)
@@ -107,7 +108,7 @@ private Q_SLOTS:
         const SrsBounds fijiGrid{176.81, -20.81, -178.15, -12.42};
 
         QCOMPARE(first(u"british"_s, {-1, 51, 0, 52}), u"EPSG:27700"_s);
-        QCOMPARE(first(u"lambert zone"_s, brittany), u"EPSG:27572"_s); // zone I lies further north
+        QCOMPARE(first(u"lambert zone"_s, brittany), u"EPSG:27572"_s); // zone I is further north
         QCOMPARE(first(u"map grid"_s, fiji), u"EPSG:3460"_s);
         QVERIFY(holds(fijiGrid, fiji) && !holds(fiji, fijiGrid) && !holds(fijiGrid, brittany));
         QVERIFY(isInside(fijiGrid, -179, -18) && !isInside(fijiGrid, -178, -18));
@@ -135,7 +136,7 @@ private Q_SLOTS:
     void filtersByKindAndDeprecation()
     {
         const QString withdrawn = u"NTF (Paris) / France II"_s;
-        QVERIFY(!m_search->systemOf(u"EPSG:4978"_s)); // geocentric: no place on a map
+        QVERIFY(!m_search->systemOf(u"EPSG:4978"_s)); // geocentric: not a system of a map
         QCOMPARE(firstFound({u"2154"_s, SrsKind::Compound, false}), QString());
         QVERIFY(firstFound({withdrawn, {}, false}) != u"EPSG:27582");
         QCOMPARE(firstFound({withdrawn, {}, true}), u"EPSG:27582"_s);

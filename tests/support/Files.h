@@ -7,10 +7,10 @@
 #include <QProcess>
 #include <QString>
 
-// Files that tests make and compare. A test cannot go on without a file that it needs: it ends
-// there.
+// Files that tests make and compare. A test that cannot write or read a file that it needs ends at
+// once.
 
-/// Writes a file, the folders above it included.
+/// Writes a file and creates its folders.
 ///
 /// @return  the path
 inline QString writeFile(const QString &path, const QByteArray &content = {})
@@ -22,7 +22,7 @@ inline QString writeFile(const QString &path, const QByteArray &content = {})
     return path;
 }
 
-/// The content of a file. "(cannot be read)" where there is none, so that it does not pass for an
+/// The content of a file; "(cannot be read)" for a missing file, so that it is not taken for an
 /// empty one.
 inline QByteArray readFile(const QString &path)
 {
@@ -31,7 +31,7 @@ inline QByteArray readFile(const QString &path)
     return isOpen ? file.readAll() : QByteArray("(cannot be read)");
 }
 
-/// Copies what lies in a folder into another one.
+/// Copies the contents of a folder to another one.
 inline void copyFolder(const QString &from, const QString &to)
 {
     if (QProcess::execute(QStringLiteral("cp"),

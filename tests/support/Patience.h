@@ -1,4 +1,4 @@
 #pragma once
 
-/// How long a test waits for something that is sure to come: on a busy machine it may take long.
+/// Maximum wait of a test for an event that is sure to happen; a busy machine may be slow.
 constexpr int PatienceMs = 120000;

@@ -5,8 +5,8 @@
 
 #include <QTemporaryDir>
 
-/// While it lives, the settings lie in a directory of its own, and the installation with its ini
-/// file as well.
+/// Keeps the settings, and the installation with its ini file, in a private directory as long as it
+/// exists.
 class PrivateSettings
 {
 public:
@@ -16,7 +16,8 @@ public:
         QDir().mkpath(m_install);
     }
 
-    /// No settings but the install directory, and this in its ini file; no file without any.
+    /// Removes all settings except the install directory and writes its ini file; no file if `ini`
+    /// is empty.
     void reset(const QByteArray &ini = {})
     {
         const auto settings = vlt::platform::builderSettings();

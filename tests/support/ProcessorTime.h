@@ -2,8 +2,8 @@
 
 #include <ctime>
 
-/// The time of the processor that this program uses from here on. Other programs of a busy machine
-/// do not count, as they would on the clock.
+/// Measures the processor time of this program from its construction. Unlike the time of the clock,
+/// it does not include other programs of a busy machine.
 class ProcessorTime
 {
 public:

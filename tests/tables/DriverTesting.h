@@ -12,7 +12,7 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
-/// Warnings that the library gave while this lives.
+/// Collects the warnings of the library as long as it exists.
 class Warnings
 {
 public:
@@ -36,7 +36,7 @@ inline QStringList problemsOf(OGRLayer &layer)
     return items;
 }
 
-/// Tables in a folder of their own.
+/// A private folder with tables.
 class TableFolder
 {
 public:
@@ -49,7 +49,7 @@ public:
     {
         writeFile(m_folder.filePath(QLatin1String(name)), text);
     }
-    /// `prefix` is "site:" or "link:", with options or without.
+    /// Opens a table; `prefix` is "site:" or "link:", with or without options.
     GDALDatasetUniquePtr open(const QByteArray &prefix, const char *name) const
     {
         return GDALDatasetUniquePtr(

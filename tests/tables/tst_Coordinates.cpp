@@ -7,7 +7,7 @@
 
 using namespace vlt::driver;
 
-/// How positions are written in tables.
+/// Notations of positions in tables.
 class tst_Coordinates : public QObject
 {
     Q_OBJECT

@@ -7,7 +7,7 @@
 
 namespace {
 
-/// All fields of a feature, numbers with at most `digits` behind the point; "-" for none.
+/// All fields of a feature, numbers with at most `digits` decimals; "-" for none.
 QString valuesOf(const OGRFeature &feature, int digits)
 {
     QStringList values;
@@ -32,7 +32,7 @@ QString lineOf(const OGRGeometry *geometry)
     return numbers.join(QLatin1Char(' '));
 }
 
-/// A header of end A as that of end B.
+/// The header of end B for a header of end A.
 QByteArray otherEnd(const QByteArray &header)
 {
     QString text = QString::fromUtf8(header);
@@ -57,7 +57,7 @@ constexpr char SideBySide[] =
 
 } // namespace
 
-/// Tables of links as any GDAL program sees them.
+/// Tables of links, read with the GDAL library like in any program.
 class tst_LinkLayer : public QObject
 {
     Q_OBJECT
@@ -416,7 +416,7 @@ private Q_SLOTS:
         const OGRFeatureUniquePtr first(ends->GetNextFeature());
         const OGRFeatureUniquePtr last(ends->GetFeature(9));
         OGREnvelope extent;
-        QCOMPARE(ends->GetExtent(&extent), OGRERR_NONE); // walks, too
+        QCOMPARE(ends->GetExtent(&extent), OGRERR_NONE); // reads all features too
         const OGRFeatureUniquePtr second(ends->GetNextFeature());
 
         QCOMPARE(first->GetFID(), 6);
@@ -442,7 +442,7 @@ private Q_SLOTS:
         const auto dataset = m_folder.open("link:t_srs=3857,", "f.csv");
         OGRLayer *links = dataset->GetLayer(0);
         OGRLayer *ends = dataset->GetLayer(1);
-        const double x = 6378137 * 10 * M_PI / 180; // of 10 degrees east in EPSG:3857
+        const double x = 6378137 * 10 * M_PI / 180; // 10 degrees east in EPSG:3857
         const char *ignored[] = {"Link", "Transmitter-1 Height (m)", nullptr};
 
         QCOMPARE(ends->SetIgnoredFields(ignored), OGRERR_NONE);

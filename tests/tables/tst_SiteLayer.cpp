@@ -14,7 +14,7 @@ constexpr char Table[] = "Site ID;Longitude;Latitude;Height (m);Phone;Note\n"
 
 } // namespace
 
-/// The driver as any GDAL program sees it.
+/// The driver, used with the GDAL library like in any program.
 class tst_SiteLayer : public QObject
 {
     Q_OBJECT
@@ -65,7 +65,7 @@ private Q_SLOTS:
             }
         }
 
-        QCOMPARE(ids, (QList<qint64>{2, 4, 5, 2, 4, 5})); // rows of the file, blank ones counted
+        QCOMPARE(ids, (QList<qint64>{2, 4, 5, 2, 4, 5})); // rows of the file, including blank ones
         QCOMPARE(placed, 4);
         QCOMPARE(warnings.texts.size(), 1);
         QVERIFY(warnings.texts.first().contains(QStringLiteral("row 4, column \"Longitude\"")));
@@ -79,7 +79,7 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("filter");
         QTest::addColumn<bool>("ignoresFields");
         QTest::addColumn<int>("firstRow");
-        QTest::addColumn<int>("rows"); // -1: to the end
+        QTest::addColumn<int>("rows"); // -1 for all
         QTest::addColumn<bool>("keeps");
         QTest::newRow("whole") << QByteArray() << false << 0 << -1 << true;
         QTest::newRow("without fields") << QByteArray() << true << 0 << -1 << true;
@@ -87,7 +87,8 @@ private Q_SLOTS:
         QTest::newRow("the first rows") << QByteArray() << false << 0 << 1400 << false;
         QTest::newRow("the last rows") << QByteArray() << false << 1300 << -1 << false;
     }
-    /// What was met on the way is there even when the file is gone; otherwise it is looked for.
+    /// After a full read the problems are known even if the file is deleted; otherwise the file is
+    /// read for them.
     void keepsTheProblemsOfAWholeWalk()
     {
         QFETCH(QByteArray, filter);
@@ -96,7 +97,7 @@ private Q_SLOTS:
         QFETCH(int, rows);
         QFETCH(bool, keeps);
         const Warnings warnings;
-        // Types come from the first 1000 rows, so that "n/k" in row 1202 of the file is lost.
+        // The first 1000 rows determine the types, so "n/k" in row 1202 of the file is lost.
         QByteArray text = "EPSG:999999\nSite ID;Lon;Lat;Height\n";
         for (int i = 1; i <= 1500; ++i)
             text += QByteArray::number(i) + (i == 1400 ? ";east;47;" : ";2.5;47;") +
@@ -160,7 +161,7 @@ private Q_SLOTS:
         QVERIFY(layer->SetNextByIndex(3) != OGRERR_NONE);
     }
 
-    /// The library's SQL takes a name that ends in an asterisk for all columns, again and again.
+    /// The library's SQL expands every name that ends in an asterisk to all columns.
     void namesFieldsWithoutTheMarkOfMandatoryColumns()
     {
         const Warnings warnings;
@@ -203,7 +204,7 @@ private Q_SLOTS:
         QByteArray latin1 = header;
         for (int i = 0; i < 9000; ++i)
             latin1 += QByteArray::number(i) + ";2.5;48;\xE9\xE8\xE9\xE8\xE9 Kergu\xE9len\n";
-        for (int shift = 0; shift < 3; ++shift) // characters fall on the edges of chunks
+        for (int shift = 0; shift < 3; ++shift) // moves characters across the borders of chunks
             QTest::addRow("Latin-1, shifted by %d", shift)
                 << QByteArray(latin1).prepend("A;").replace(0, 2, QByteArray(shift, 'T') + "\n")
                 << 9000;
@@ -287,7 +288,7 @@ private Q_SLOTS:
         row("the user knows it", "CP850", "Orléans;Besançon;Évreux", "CP850", "ENCODING=CP850");
         row("the user says UTF-8", "UTF-8", "Orléans", "UTF-8", "ENCODING=utf8");
     }
-    /// A guess, "?", is told among the problems.
+    /// A guess, marked "?", is one of the problems.
     void findsTheEncoding()
     {
         QFETCH(QByteArray, written);
@@ -399,7 +400,7 @@ private Q_SLOTS:
             QVERIFY2(!open(refused, "t.csv"), refused);
     }
 
-    // A layer carries how its maker had the table read; an open option goes before it.
+    // A layer has the options with which its table was read; an open option overrides them.
     void readsAsTheConnectionSays()
     {
         const Warnings warnings;
@@ -446,7 +447,7 @@ private Q_SLOTS:
         QVERIFY(!warnings.texts.isEmpty());
     }
 
-    // Programs that would like to write try that first, and then read.
+    // Programs that can also write first try to open the file for update.
     void declinesToWriteWithoutAWord()
     {
         const Warnings warnings;

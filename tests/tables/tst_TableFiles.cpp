@@ -28,7 +28,7 @@ QString fromUtf8(const std::string &text)
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
-/// What came of opening a file, in the words of a manifest.
+/// The result of opening a file, in the words of a manifest.
 struct Outcome
 {
     QString verdict;
@@ -41,7 +41,7 @@ struct Outcome
     bool rowsAscend = true;
     std::vector<RowProblem> problems;
 
-    /// How many problems there are and the first of them.
+    /// The number of problems and the first of them.
     QString problemSummary() const
     {
         const RowProblem first = problems.empty() ? RowProblem() : problems.front();
@@ -88,7 +88,7 @@ Outcome openTable(const QString &path)
     return outcome;
 }
 
-/// Lines of a manifest as rows of a test table, columns by their names.
+/// Reads the lines of a manifest as rows of a test table.
 void readManifest(const QString &path, const QStringList &folders)
 {
     for (const char *column :
@@ -109,8 +109,7 @@ void readManifest(const QString &path, const QStringList &folders)
             if (const QString candidate = folder + QLatin1Char('/') + cell("path");
                 found.isEmpty() && QFile::exists(candidate))
                 found = candidate;
-        if (found.isEmpty()) // a file that may not be passed on: only there where VLT_MORE_TABLES
-                             // says
+        if (found.isEmpty()) // not distributed; needs VLT_MORE_TABLES
             continue;
         const bool opens = (cell("verdict") + cell("kind")) == QLatin1String("open");
         const QString others =
@@ -149,8 +148,8 @@ void compare()
 
 } // namespace
 
-/// Real tables of many programs against what independent readers found in them, and small legal
-/// files that hurt.
+/// Real tables of many programs, compared with the results of independent readers, and small valid
+/// files that are hard to read.
 class tst_TableFiles : public QObject
 {
     Q_OBJECT

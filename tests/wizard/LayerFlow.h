@@ -14,13 +14,13 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-/// What the tests of the pages share that make a layer of a table.
+/// Helpers for the tests of the pages that make a layer from a table.
 namespace layerflow {
 
 inline const QString Samples = QStringLiteral(VLT_SAMPLES);
 inline const QString SampleProject = Samples + QStringLiteral("/city.gvw");
 
-/// An installation of one's own, with the drivers of the build.
+/// A private installation with the drivers of the build.
 inline QString installation()
 {
     static const QTemporaryDir dir;
@@ -41,7 +41,7 @@ inline void forgetSettings()
     vlt::platform::builderSettings()->setValue(QStringLiteral("INSTALL_DIR"), installation());
 }
 
-/// The layer that the command line makes of a table of the sample project.
+/// The layer that the command line makes from a table of the sample project.
 ///
 /// @param command  "site" or "link"
 inline QByteArray layerOfCommandLine(const QString &command, const QString &table,
@@ -60,7 +60,7 @@ inline QByteArray layerOfCommandLine(const QString &command, const QString &tabl
     return process.exitCode() == 0 ? readFile(layer) : process.readAllStandardError();
 }
 
-/// The real wizard in English, led to a result page.
+/// The real wizard in English, on a result page.
 class WizardOnPage
 {
 public:

@@ -1,5 +1,5 @@
-// A driver plug-in that drives nothing: when the program registers its drivers, it writes the
-// environment that they find into the file that PROBE_OUTPUT names.
+// A driver plug-in without a driver. When the program registers its drivers, the plug-in writes the
+// environment to the file that PROBE_OUTPUT names.
 
 #include <cstdio>
 #include <cstdlib>

@@ -50,7 +50,7 @@ private Q_SLOTS:
     void makesTheLayerOfTheCommandLine_data()
     {
         QTest::addColumn<QString>("table");
-        QTest::addColumn<QString>("widget"); // set to `value`, as the option does
+        QTest::addColumn<QString>("widget"); // the widget is set to `value`, like the option
         QTest::addColumn<double>("value");
         QTest::addColumn<QStringList>("options");
 
@@ -141,10 +141,10 @@ private Q_SLOTS:
         table->setFocus();
         QTest::keyClick(table, Qt::Key_C, Qt::ControlModifier);
         const QStringList lines = QGuiApplication::clipboard()->text().split(u'\n');
-        QCOMPARE(lines.size(), 3); // headers, the row, the line feed behind it
+        QCOMPARE(lines.size(), 3); // headers, the row, the line feed after it
         QVERIFY(lines[1].startsWith(u"21\tMW-20\tmarginal\t"_s));
 
-        for (const int percent : {5, 4, 3, 2, 1}) // the last one counts
+        for (const int percent : {5, 4, 3, 2, 1}) // only the last one is used
             flow.widget<QSpinBox>(u"m_pwSbFresnelShare"_s)->setValue(percent);
         QTRY_COMPARE_WITH_TIMEOUT(flow.remark(), u"20 clear, 0 marginal, 1 obstructed"_s,
                                   PatienceMs);
@@ -224,8 +224,8 @@ private Q_SLOTS:
         viewer->getCameraManipulator()->getInverseMatrix().getLookAt(eye, center, up, 1);
         const osg::BoundingSphere whole = demonstration->getBound();
         const osg::Vec3d toMiddle = osg::Vec3d(whole.center()) - eye;
-        QVERIFY((toMiddle ^ (center - eye)).length() < 50); // beside the line of view
-        QVERIFY(toMiddle.length() > 3 * whole.radius());    // all three pylons are in it
+        QVERIFY((toMiddle ^ (center - eye)).length() < 50); // distance from the line of view
+        QVERIFY(toMiddle.length() > 3 * whole.radius());    // all three pylons are visible
     }
 };
 

@@ -40,7 +40,7 @@ public:
     QStringList dropped;
 };
 
-/// Values change while it writes, as from below a message box.
+/// A page whose values change while it writes, as they can while a message box is open.
 class ProbeResultPage : public VltResultPage
 {
 public:
@@ -67,7 +67,7 @@ private:
     void showNoLayer(const QString & /*why*/) override {}
 };
 
-/// Takes links and keeps what came.
+/// Accepts dropped links and keeps them.
 class LinkTarget : public QWidget
 {
 public:
@@ -87,7 +87,7 @@ protected:
     }
 };
 
-/// Cancels the progress dialog as soon as it shows the share, in per cent; -1: any.
+/// Cancels the progress dialog as soon as it shows the share, in per cent; -1 for any share.
 class CancelWhenShown
 {
 public:
@@ -231,9 +231,9 @@ private Q_SLOTS:
 
         QMouseEvent hover(QEvent::MouseMove, QPointF(50, 50), icon.mapToGlobal(QPointF(50, 50)),
                           Qt::NoButton, Qt::NoButton, Qt::NoModifier);
-        QApplication::sendEvent(&icon, &hover); // would block for good if it started a drag
+        QApplication::sendEvent(&icon, &hover); // a drag would block forever
 
-        // the drag blocks: what follows happens from timers
+        // The drag blocks, so timers do the next steps.
         QTimer::singleShot(300, &target, [&] {
             QTest::mouseMove(target.windowHandle(), {90, 90});
             QTest::mouseMove(target.windowHandle(), {100, 100});
@@ -252,7 +252,7 @@ private Q_SLOTS:
         QTest::keySequence(&icon, QKeySequence::Copy);
         QCOMPARE(QGuiApplication::clipboard()->mimeData()->urls(), expected);
 
-        icon.setLayerFile(u"./c.lay"_s); // as where no temporary directory is known
+        icon.setLayerFile(u"./c.lay"_s); // relative, as without a temporary directory
         QTest::keySequence(&icon, QKeySequence::Copy);
         QCOMPARE(QGuiApplication::clipboard()->mimeData()->urls(),
                  QList<QUrl>{QUrl::fromLocalFile(QDir::currentPath() + u"/./c.lay"_s)});

@@ -160,13 +160,13 @@ private Q_SLOTS:
         QCOMPARE(host.path()->text(), QString());
         dropFiles(host.page, {file(u"b.v2.gvw"_s)});
         QCOMPARE(host.path()->text(), file(u"b.v2.gvw"_s));
-        // the line edit would take the file's address for text
+        // The line edit would insert the file's URL as text.
         QVERIFY(!host.path()->acceptDrops());
     }
 
     void takesPastedPaths_data()
     {
-        QTest::addColumn<QString>("pasted"); // %1 stands for the path
+        QTest::addColumn<QString>("pasted"); // %1 means the path
         QTest::newRow("address") << u"file://%1"_s;
         QTest::newRow("blanks and quotes") << u" \"%1\"\n"_s;
         QTest::newRow("home") << u"~/%1"_s;
@@ -198,7 +198,7 @@ private Q_SLOTS:
         Host host;
         auto *notice = host.child<QLabel>(u"m_pwLblProjectNotice"_s);
 
-        host.path()->setText(file(u"a.gvw"_s)); // empty
+        host.path()->setText(file(u"a.gvw"_s)); // an empty file
         QCOMPARE(notice->text(), u"a.gvw: the project names neither a reference system nor a "
                                  "terrain nor buildings"_s);
         QVERIFY(notice->isVisible());
@@ -208,7 +208,7 @@ private Q_SLOTS:
         host.wizard.next();
         host.path()->setText(file(u"a.gvw"_s));
         host.wizard.next();
-        QCOMPARE(host.wizard.currentId(), 2); // it may be one all the same
+        QCOMPARE(host.wizard.currentId(), 2); // it may still be a project
     }
 
     void refusesWhatCannotBeRead()

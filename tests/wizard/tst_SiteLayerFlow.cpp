@@ -158,7 +158,7 @@ private Q_SLOTS:
         QVERIFY(QDir().rmdir(layer));
 
         QVERIFY(QFile::remove(pylons + u"sites_infos_en.html"_s));
-        for (int i = 0; i < 2; ++i) { // with every layer that comes without its page
+        for (int i = 0; i < 2; ++i) { // every layer without its page has a message
             QCOMPARE(toldWhenDropped(), u"Error !!!|A configuration file is missing"_s);
             QVERIFY(flow.icon->isEnabled());
         }
@@ -214,7 +214,7 @@ private Q_SLOTS:
         flow.widget<QAbstractButton>(u"m_pwPbOwnSites"_s)->click();
         const osg::Node *sites = viewer->getSceneData();
         QVERIFY(sites != pylon);
-        QVERIFY(sites->getBound().radius() > 1000); // the town's sites lie kilometres apart
+        QVERIFY(sites->getBound().radius() > 1000); // the town's sites are kilometres apart
 
         flow.widget<QAbstractButton>(u"m_pwPbPrecise"_s)->click();
         QCOMPARE(viewer->getSceneData(), pylon);
@@ -274,7 +274,7 @@ private Q_SLOTS:
         QTest::addColumn<QString>("file");
         QTest::addColumn<bool>("hasProject");
         QTest::addColumn<int>("page");
-        QTest::addColumn<QString>("line"); // that shows it
+        QTest::addColumn<QString>("line"); // the line edit that shows the file
         QTest::addColumn<QString>("box");
 
         const QString none;
@@ -319,7 +319,7 @@ private Q_SLOTS:
         QCOMPARE(boxes.seen.size(), box.isEmpty() ? 0 : 1);
         if (!box.isEmpty())
             QCOMPARE(boxes.seen.constFirst().text, box + u'\n' + own.filePath(file));
-        if (page == 1) { // the user chooses one first
+        if (page == 1) { // the user first chooses a project
             wizard.findChild<QLineEdit *>(u"m_pwLeProjectName"_s)->setText(SampleProject);
             wizard.next();
         }

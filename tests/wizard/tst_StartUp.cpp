@@ -71,7 +71,7 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("arguments");
         QTest::addColumn<QString>("display");
         QTest::addColumn<int>("status");
-        QTest::addColumn<QByteArray>("output"); // how it starts
+        QTest::addColumn<QByteArray>("output"); // start of the output
         QTest::addColumn<QByteArray>("errors");
 
         const QString here = QString::fromLocal8Bit(qgetenv("DISPLAY"));
@@ -103,7 +103,7 @@ private Q_SLOTS:
         QProcess process;
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(u"DISPLAY"_s, display);
-        environment.insert(u"XDG_RUNTIME_DIR"_s, m_dir.path()); // else the toolkit tells of it
+        environment.insert(u"XDG_RUNTIME_DIR"_s, m_dir.path()); // prevents a warning
         process.setProcessEnvironment(environment);
 
         process.start(QStringLiteral(VLT_PROGRAM), arguments);
@@ -125,7 +125,7 @@ private Q_SLOTS:
         QVERIFY(QFile::copy(QStringLiteral(VLT_PROGRAM), program));
         QVERIFY(
             QFile::copy(QStringLiteral(VLT_PROBE), tree + u"/driver/ogr_EnvironmentProbe.so"_s));
-        // relative: the executable's own directory
+        // A relative path is replaced by the executable's directory.
         writeFile(tree + u"/Prog_env.ini"_s, "[VltDirectSettings]\nINSTALL_DIR=elsewhere\n");
 
         QProcess process;

@@ -23,7 +23,7 @@ public:
 
     void click(const QString &button) { findChild<QAbstractButton *>(button)->click(); }
 
-    /// Where the keyboard can be, in any order.
+    /// The widgets that can have the focus, in any order.
     QString stops() const
     {
         QStringList names;
@@ -36,7 +36,7 @@ public:
         return names.join(QLatin1Char(' '));
     }
 
-    /// What the key leads to, one after the other, until it is back where it started.
+    /// The widgets that a key reaches one after the other, until the first one has the focus again.
     QString walk(Qt::Key key)
     {
         constexpr int Endless = 200;
@@ -183,7 +183,7 @@ private Q_SLOTS:
         QVERIFY(QTest::qWaitForWindowExposed(&wizard, PatienceMs));
         wizard.activateWindow();
         if (auto *fold = wizard.currentPage()->findChild<QAbstractButton *>(u"m_pwTbFold"_s)) {
-            fold->parentWidget()->show(); // as with a table
+            fold->parentWidget()->show(); // like with a table
             fold->click();
         }
         QTest::qWait(300);
@@ -215,7 +215,7 @@ private Q_SLOTS:
             QCOMPARE(box.focusedButton, u"No"_s);
             QCOMPARE(wizard.isVisible(), answer == QMessageBox::No);
             QCOMPARE(wizard.currentId(), answer == QMessageBox::No ? 1 : -1);
-            wizard.resize(1000, 600); // between the questions: only leaving can save it
+            wizard.resize(1000, 600); // saved only at the end of the wizard
         }
         QCOMPARE(finished.size(), 1);
         QCOMPARE(finished.constFirst().constFirst().toInt(), int(QDialog::Rejected));
