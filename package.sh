@@ -1,5 +1,5 @@
 #!/bin/bash
-# Builds the programs and makes the Debian package of them.
+# Builds the programs and makes their Debian package.
 set -euo pipefail
 cd "$(dirname "$0")"
 source tools/prepare.sh

@@ -1,5 +1,5 @@
 #!/bin/bash
-# Builds the programs, lays the installation tree and opens the wizard on the sample project.
+# Builds the programs, makes the installation tree and opens the wizard on the sample project.
 set -euo pipefail
 cd "$(dirname "$0")"
 source tools/prepare.sh
@@ -35,17 +35,17 @@ runLong "$log" cmake --preset release
 runLong "$log" cmake --build --preset release --target programs
 runLong "$log" cmake --install build/release --prefix "$install"
 
-# The builder's settings, where programs look for the installation; the user's own are not touched.
+# Settings of the builder that name the installation; those of the user are not changed.
 mkdir -p build/xdg/VELTARO
 printf '[General]\nINSTALL_DIR=%s\n' "$install" >build/xdg/VELTARO/Veltaro.conf
 export XDG_CONFIG_DIRS=$PWD/build/xdg:${XDG_CONFIG_DIRS:-/etc/xdg}
 
-# Pictures are drawn by OpenGL, which wants a display, be it one that nobody sees.
+# Pictures are drawn by OpenGL, which needs a display; a virtual one is enough.
 onDisplay() {
     if [[ -n ${DISPLAY:-} ]]; then "$@"; else xvfb-run -a -s "-screen 0 1280x960x24 +extension GLX" "$@"; fi
 }
 
-# Makes a layer and its picture: name of the files, then the command and what it takes.
+# Makes a layer and its picture. Arguments: name of the files, then the command and its arguments.
 makeLayer() {
     local name=$layers/$1
     shift

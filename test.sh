@@ -42,7 +42,7 @@ runTests() {
 }
 
 case $preset in
-    tidy) build tidy -- -k 0 ;; # every finding, not only the first
+    tidy) build tidy -- -k 0 ;; # reports all findings, not only the first
     asan)
         build asan
         runTests asan

@@ -1,17 +1,18 @@
-# One declarative call per target. The three kinds and what they may reach, directly or through others:
+# One declarative call per target: the kinds of targets, and the libraries that they must not reach, directly or through
+# others.
 #   vlt_add_module(name [LOGIC|PLAIN] ...)   static library vlt::name
 #       LOGIC  rules, parsing, file formats: no Qt Widgets
 #       PLAIN  shared with the plug-ins: no Qt at all
 #   vlt_add_plugin(name ...)                 loadable module <name>.so: no Qt at all
 #   vlt_add_program(name [LOGIC] ...)        executable
-#   vlt_add_test(file.cpp [GUI] LIBS ...)    one test program per tst_*.cpp, named after its file
-#       GUI      on an X server of its own, as large as a small laptop's screen
-#       HOSTILE  near to what reads files of other people: ./test.sh runs it under the sanitizers as well
-# vlt_check_architecture() walks the finished link graph and stops the configure step on a breach.
+#   vlt_add_test(file.cpp [GUI] LIBS ...)    one test program per tst_*.cpp, with the name of the file
+#       GUI      on an X server of its own, with the screen size of a small laptop
+#       HOSTILE  tests readers of files from unknown sources: ./test.sh runs it under the sanitizers too
+# vlt_check_architecture() checks the complete link graph and stops the configure step on a breach.
 
-# What an installation tree needs, without the tests.
+# All targets of an installation tree, without the tests.
 add_custom_target(programs)
-# The tests that are marked HOSTILE.
+# The tests marked HOSTILE.
 add_custom_target(hostile_tests)
 
 function(vlt_apply_defaults target)
@@ -27,7 +28,7 @@ function(vlt_apply_defaults target)
     target_compile_options(${target} PRIVATE -fsanitize=address,undefined -fno-sanitize-recover=undefined
                                              -fno-omit-frame-pointer)
     target_link_options(${target} PRIVATE -fsanitize=address,undefined)
-  else() # what is installed reads files of other people
+  else() # installed programs read files from unknown sources
     set(optimised $<CONFIG:Release,RelWithDebInfo,MinSizeRel>)
     target_compile_options(${target} PRIVATE
       "$<${optimised}:-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=2;-fstack-protector-strong>")
@@ -82,7 +83,7 @@ function(vlt_add_program name)
   install(TARGETS ${name} RUNTIME DESTINATION .)
 endfunction()
 
-# Under the sanitizers: libraries stay loaded, so that leaks in them have names.
+# Under the sanitizers libraries stay loaded, so that reports of leaks have function names.
 function(vlt_need_loaded_libraries)
   if(NOT TARGET vlt_keep_loaded)
     file(WRITE ${PROJECT_BINARY_DIR}/keep_loaded.cpp "extern \"C\" int dlclose(void *) { return 0; }\n")
@@ -95,7 +96,7 @@ function(vlt_need_loaded_libraries)
   endif()
 endfunction()
 
-# A test that hangs ends. A busy machine takes long for one that does not.
+# The limit ends a test that hangs. It is high because a busy machine is slow.
 set(VLT_TEST_TIMEOUT_S 600)
 
 # Tests run under a German locale (decimal comma) and with settings in a private directory.
@@ -113,7 +114,7 @@ function(vlt_add_test file)
   if(T_GUI AND VLT_XVFB_RUN)
     set(platform xcb)
     set(preload "")
-    if(VLT_SANITIZE) # the graphics driver goes before the leak check could name what it keeps
+    if(VLT_SANITIZE) # the graphics driver is unloaded before the leak check could name its functions
       vlt_need_loaded_libraries()
       set(preload env "LD_PRELOAD=${VLT_ASAN_RUNTIME}:$<TARGET_FILE:vlt_keep_loaded>")
     endif()

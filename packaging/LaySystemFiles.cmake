@@ -1,5 +1,5 @@
-# Run by cpack on the tree that goes into the package: lays what the system looks for outside of /opt, as part of the
-# package, so that dpkg itself takes it back.
+# Run by cpack on the tree of the package: adds the files that the system needs outside of /opt. They are part of the
+# package, so dpkg removes them.
 set(root ${CPACK_TEMPORARY_DIRECTORY})
 set(tree ${CPACK_PACKAGING_INSTALL_PREFIX})
 

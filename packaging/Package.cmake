@@ -1,5 +1,5 @@
-# cpack -G DEB in the build folder makes a Debian package: the installation tree under /opt, and what the system has to
-# find where it looks for it (LaySystemFiles.cmake). ./package.sh does all of it.
+# cpack -G DEB in the build folder makes a Debian package: the installation tree under /opt, and the files that the
+# system needs in its own folders (LaySystemFiles.cmake). ./package.sh does all of this.
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME vlttelecomlayers)
 set(CPACK_PACKAGE_CONTACT "VltTelecomLayers maintainers <maintainers@vlttelecomlayers.example>")

@@ -1,6 +1,6 @@
 # The newest section of CHANGELOG.md in the form of a Debian changelog. Values: package, version, contact, now.
 
-# Writes the bullet that is collected, in lines of less than 80 characters.
+# Prints the collected list item, in lines of less than 80 characters.
 function flush_bullet(    words, count, i, line) {
     count = split(bullet, words, " ")
     line = "  *"

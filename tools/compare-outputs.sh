@@ -1,5 +1,5 @@
 #!/bin/bash
-# Makes the outputs of the command line and of the table driver with two installed trees and compares them.
+# Makes the outputs of the command line and of the table driver with two installed trees, and compares them.
 set -euo pipefail
 
 usage="usage: tools/compare-outputs.sh OLD_TREE NEW_TREE [DATA]
@@ -16,7 +16,7 @@ Prints what differs. Exit status: 0 nothing differs, 1 something does, 2 wrong u
 
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
-run=$work/run # the trees take turns at this path, so that outputs with paths are equal
+run=$work/run # each tree is copied to this path in turn, so that outputs with paths are equal
 tree=$run/tree
 samples=$run/examples/lorient
 data=$run/data
@@ -34,7 +34,7 @@ colorOptions=(--absolute --color-ranges --mode most-represented --image-nodata -
 textureOptions=(--textured-distance 700 --buffer 1.5 --dilatation 3 --wall-color 112233 --roof-color colormap
     --edge-color red --force-edges --no-complex-buildings --compression dxt3 --magnify linear)
 
-# keep NAME COMMAND...: keeps in out/NAME what a command prints, its exit status and the files that it writes.
+# keep NAME COMMAND...: stores a command's output, its exit status and the files that it writes in out/NAME.
 keep() {
     local folder=$run/out/${1//\//_}
     shift
@@ -47,7 +47,7 @@ keep() {
     } &
 }
 
-# layers NAME ARGUMENT...: what a command for a layer makes, in either language.
+# layers NAME ARGUMENT...: stores the outputs of a command for a layer, in both languages.
 layers() {
     local name=$1
     shift
@@ -55,7 +55,7 @@ layers() {
     keep "$name, fr" "$tree/vltlayers" "$@" -o layer.lay --language fr --json
 }
 
-# table NAME FILE: what is made of a table whose kind is not known.
+# table NAME FILE: stores the outputs for a table of unknown kind.
 table() {
     keep "info $1" "$tree/vltlayers" info "$2"
     keep "info --link $1" "$tree/vltlayers" info --link --json --language fr "$2"
@@ -67,7 +67,7 @@ table() {
     keep "driver link $1" ogrinfo -al "link:$2"
 }
 
-# The same of the sample project's tables, which have a project and a terrain.
+# The same for the sample project's tables, which have a project and a terrain.
 sampleTable() {
     local file=$samples/$1 project=(--project "$samples/city.gvw")
     table "$1" "$file"
@@ -106,7 +106,7 @@ sampleBuildings() {
         --textures "$samples/textures/folders_per_operator/Armor Mobile/4G/coverage(12m).tif"
 }
 
-# Help, and what is said about values that cannot be, of every option that takes one.
+# The help, and the errors for wrong values of every option with a value.
 usageTexts() {
     local command option value
     for command in info site link buildings snapshot; do
@@ -143,7 +143,7 @@ faultsOf() {
     done
 }
 
-# The scenes of layers, and what the program says when it makes their pictures.
+# The scenes of layers, and the program's messages when it makes their pictures.
 scenes() {
     local name layer
     for name in "site sites.csv, project" "site sites_mentum.xls, project and all options" "link links.csv, project" \

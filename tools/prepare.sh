@@ -1,5 +1,5 @@
-# Sourced by run.sh, test.sh and package.sh: installs the Debian packages that are missing, sets up the compiler cache
-# and runs what takes long. Asks for rights only when something is missing.
+# Sourced by run.sh, test.sh and package.sh: installs missing Debian packages, sets up the compiler cache and runs long
+# commands. Asks for root rights only if packages are missing.
 
 vltRoot=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 
@@ -8,20 +8,20 @@ buildPackages=(g++ cmake ninja-build ccache pkg-config
     libgdal-dev libproj-dev libiniparser-dev libisal-dev libuchardet-dev libpcre2-dev libopenscenegraph-dev)
 packagingPackages=(file dpkg-dev)
 testPackages=(gdal-bin openscenegraph python3-xlwt locales xvfb xauth desktop-file-utils appstream "${packagingPackages[@]}")
-formatPackages=(clang-format-14) # not in every Debian
+formatPackages=(clang-format-14) # not in every Debian release
 
-# Packages that are installed, and the names that they provide; one in each line.
+# Prints the installed packages and the names that they provide, one per line.
 installedPackages() {
     dpkg-query -W -f='${db:Status-Status}\t${Package}, ${Provides}\n' |
         sed -n 's/^installed\t//p' | tr ',' '\n' | sed 's/(.*//; s/[ \t]//g'
 }
 
-# The packages out of PACKAGE... that are not there.
+# missingPackages PACKAGE...: prints those that are not installed.
 missingPackages() {
     comm -23 <(printf '%s\n' "$@" | LC_ALL=C sort -u) <(installedPackages | LC_ALL=C sort -u)
 }
 
-# The packages out of PACKAGE... that could be installed.
+# offeredPackages PACKAGE...: prints those that can be installed.
 offeredPackages() {
     local package
     for package in "$@"; do
@@ -30,7 +30,7 @@ offeredPackages() {
     return 0
 }
 
-# Reads what apt or ninja write and tells how far they are: one line that changes on a terminal, else one for each tenth.
+# Reads the output of apt or ninja and prints the progress: on a terminal one line that changes, else a line per 10 %.
 showProgress() {
     local line what percent shown='' last=0
     while IFS= read -r line; do
@@ -53,7 +53,7 @@ showProgress() {
     [[ ! -t 1 || -z $shown ]] || echo
 }
 
-# runLong LOG COMMAND...: shows how far the command is, and the errors in its log where it fails.
+# runLong LOG COMMAND...: runs the command and shows its progress, or the errors in its log if it fails.
 runLong() {
     local log=$1
     shift
@@ -65,12 +65,12 @@ runLong() {
     return 1
 }
 
-# Runs a command with the rights to install packages.
+# asRoot COMMAND...: runs the command with root rights.
 asRoot() {
     if ((EUID == 0)); then "$@"; else sudo "$@"; fi
 }
 
-# prepare PACKAGE...: makes sure that the packages are there.
+# prepare PACKAGE...: installs those that are missing.
 prepare() {
     local missing log=$vltRoot/build/packages.log
     mapfile -t missing < <(missingPackages "$@")
@@ -89,7 +89,7 @@ prepare() {
     export CCACHE_DIR=${CCACHE_DIR:-$vltRoot/build/ccache}
 }
 
-# prepareWhereOffered PACKAGE...: the same for packages that not every Debian has; tells the ones that are left out.
+# prepareWhereOffered PACKAGE...: the same for packages that not every Debian release has; prints those left out.
 prepareWhereOffered() {
     local missing offered
     mapfile -t missing < <(missingPackages "$@")

@@ -1,5 +1,5 @@
 #!/bin/bash
-# Installs the build, moves the tree to a folder with an awkward name, leaves the project's directory and works there:
+# Installs the build, moves the tree to a folder with special characters in its name and works in another directory:
 # layers of the same table in four formats, layers of buildings, GDAL's own programs with the driver.
 set -euo pipefail
 cmake=$1
@@ -24,14 +24,15 @@ samples=$tree/examples/lorient
 for kind in csv xlsx xls xml; do
     "$tree/vltlayers" site "$samples/sites.$kind" --project "$samples/city.gvw" -o "$work/$kind.lay" --quiet ||
         fail "no layer of sites.$kind"
-    # Spreadsheets call the layer by the sheet, texts by the file; nothing else may differ.
+    # The layer of a spreadsheet has the name of the sheet, that of a text file the name of the file; nothing else may
+    # differ.
     sed -E "s/sites\.$kind/sites.TABLE/; s#<layer><!\[CDATA\[[^]]*#<layer><![CDATA[NAME#" "$work/$kind.lay" >"$work/$kind.same"
     cmp "$work/csv.same" "$work/$kind.same" || fail "the layer of sites.$kind differs"
 done
 grep -qF 'transmitter_scale=100,lods=10000 1000,sites.csv' "$work/csv.lay" || fail "the query does not end in the table"
 grep -qF '[Site ID]' "$work/csv.lay" || fail "the information page lacks the table's columns"
 
-# Without a display: nothing that draws texts may ask for one.
+# Without a display: commands that draw texts must not need one.
 env -u DISPLAY "$tree/vltlayers" buildings --project "$samples/city.gvw" --image "$samples/coverage/signal_level_dBm.tif" \
     --colormap signal_level_dBm --absolute -o "$work/town.lay" --quiet || fail "no layer of coloured buildings"
 grep -qF "<source><![CDATA[TEXB:$work/town.texb]]>" "$work/town.lay" || fail "the layer does not name its document"
@@ -41,7 +42,8 @@ grep -qF "$samples/vectors/buildings.shp" "$work/town.texb" || fail "the documen
     --texture-on storeys -o "$work/storeys.lay" --quiet || fail "no layer of textured buildings"
 [[ $(grep -c '<texture $' "$work/storeys.texb") == 4 ]] || fail "the document does not name four images"
 
-# Scene plug-ins that are reached by links, as the package lays them, find the table driver beside the files themselves.
+# The package has links to the scene plug-ins. Plug-ins loaded through links find the table driver in the folder of the
+# real files.
 mkdir "$work/osg"
 ln -s "$tree"/driver/osgdb_*.so "$work/osg"
 OSG_LIBRARY_PATH=$work/osg VLT_CURRENT_PROJECT=$samples/city.gvw osgconv "$work/csv.lay" "$work/sites.osgt" >"$work/osgconv.log" 2>&1 &&

@@ -1,6 +1,6 @@
 #!/bin/bash
-# Makes the Debian package of a build and looks into it: what the system finds by its place, what it depends on, and
-# whether all that tells a version tells the same one.
+# Makes the Debian package of a build and checks its contents: the files in folders of the system, the dependencies, and
+# whether all version numbers are equal.
 set -euo pipefail
 cpack=$1
 build=$2
