@@ -1,29 +1,29 @@
 #!/usr/bin/env python3
 """Checks the includes of a source tree against the table of folders in its CONTRIBUTING.md.
 
-A row of the table grants one or more folders what stands in its last column: project folders in backticks, as
-includes name them, and libraries by name. Folders use only folders of rows above their own, so that there is no circle.
-Prints each breach; exit status 1 where there is one.
+The last column of a row lists what its folders may use: project folders in backticks, with their names in includes, and
+libraries by name. Folders use only folders of rows above their own, so that there is no circle. Prints each breach; the
+exit status is 1 if there is one.
 """
 import collections
 import pathlib
 import re
 import sys
 
-# What of a library's headers gives it away, and the library as the table names it.
+# The name of a library in the table, and the pattern of its headers.
 LIBRARIES = {
     "GDAL": re.compile(r"(gdal|ogr|cpl)[\w.]*\.h"),
     "OpenSceneGraph": re.compile(r"osg\w*/"),
     "Qt": re.compile(r"Q[A-Z]\w*$"),
 }
-# Headers that one file alone includes.
+# Headers that only one file may include.
 ALONE = {"QMessageBox": "src/wizard/base/Messages.cpp"}
 
 Row = collections.namedtuple("Row", "number uses libraries")
 
 
 def folder_of_include(name):
-    """The folder of a project header as the table names it."""
+    """The folder of a project header, with its name in the table."""
     return name.rpartition("/")[0]
 
 

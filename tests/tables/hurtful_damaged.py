@@ -1,4 +1,4 @@
-"""Damaged workbooks, and things that are no tables."""
+"""Damaged workbooks, and files that are not tables."""
 import json
 import random
 import struct

@@ -1,11 +1,11 @@
-"""The table that every hurtful file carries: 40 sites, 6 columns."""
+"""The table in all these files: 40 sites, 6 columns."""
 import os
 
 HEADER = ["Site ID", "Longitude", "Latitude", "Transmitter-1 Sector ID", "Transmitter-1 Height (m)",
           "Transmitter-1 Azimuth (\u00b0)"]
 WIDE_HEADER = HEADER[:3] + ["C%d" % i for i in range(4, 16385)]
 COUNT = 40
-# Entities that unfold to ten thousand million letters.
+# Entities that expand to ten thousand million letters.
 LAUGHS = "".join('<!ENTITY e%d "%s">' % (i, ("&e%d;" % (i - 1)) * 10 if i else "ha") for i in range(10))
 
 
@@ -25,7 +25,7 @@ def with_sectors(sector):
 
 
 class Manifest:
-    """Writes files and keeps what each holds, known because the file was built so."""
+    """Writes files and collects the known contents of each."""
 
     COLUMNS = ("path", "kind", "rows", "columns", "header", "first_id", "last_id", "reason", "note",
                "problems")
@@ -36,7 +36,7 @@ class Manifest:
         self.lines = [self.COLUMNS]
 
     def put(self, name, data):
-        """Writes a file; None makes a folder."""
+        """Writes a file; makes a folder for None."""
         path = os.path.join(self.folder, name)
         if data is None:
             os.makedirs(path, exist_ok=True)
@@ -46,7 +46,7 @@ class Manifest:
 
     def open(self, name, data, note="", rows=COUNT, columns=len(HEADER), header=HEADER,
              first="S0001", last="S0040", problems=""):
-        """`problems`: how many cells cannot be read and the first of them, COUNT|ROW|COLUMN|TEXT."""
+        """`problems`: the number of cells that cannot be read and the first of them, COUNT|ROW|COLUMN|TEXT."""
         self.put(name, data)
         self.lines.append((name, "open", rows, columns, "|".join(header[:6]), first, last, "", note,
                            problems))

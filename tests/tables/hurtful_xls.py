@@ -1,4 +1,4 @@
-"""XLS files: through xlwt, and small BIFF streams in containers written by hand."""
+"""XLS files: some made with xlwt, others with small BIFF streams in containers of this module."""
 import io
 import struct
 
@@ -25,7 +25,7 @@ def entry(name, kind, start, size, right=FREE, child=FREE):
 
 
 def lay(blocks, chain, pieces):
-    """Adds sectors and the chain through them; the number of the first."""
+    """Adds sectors and their chain; returns the number of the first."""
     start = len(blocks)
     blocks += pieces
     chain += [*range(start + 1, start + len(pieces)), END]
@@ -33,7 +33,7 @@ def lay(blocks, chain, pieces):
 
 
 def container(streams):
-    """An OLE2 file; streams under 4,096 bytes go to the mini stream."""
+    """An OLE2 file; streams of less than 4,096 bytes are in the mini stream."""
     blocks, chain, mini, mini_chain, entries = [], [], [], [], b""
     names = sorted(streams, key=lambda n: (len(n), n.upper()))
     for sibling, name in enumerate(names, 2):
@@ -63,7 +63,7 @@ def record(number, data=b""):
 
 
 def stream(version, before, after, cells):
-    """A workbook stream with one sheet; records before and after the one that names the sheet."""
+    """A workbook stream with one sheet; `before` and `after` are records around the one that names the sheet."""
     new = version == 0x0600
 
     def begin(kind):
@@ -85,7 +85,7 @@ def biff5(rows):
             at = struct.pack("<HHH", r, c, 0)
             if isinstance(v, str):
                 cells += record(0x0204, at + struct.pack("<H", len(v)) + v.encode("cp1252"))
-            elif c % 2:  # an integer that is to be divided by 100
+            elif c % 2:  # an integer with the mark to divide it by 100
                 cells += record(0x027E, at + struct.pack("<i", (round(v * 100) << 2) | 3))
             else:
                 cells += record(0x0203, at + struct.pack("<d", v))
@@ -93,7 +93,7 @@ def biff5(rows):
 
 
 def whole_strings(texts, claimed=None):
-    """A string table; `claimed` is the size that it states."""
+    """A string table; `claimed` is the size in its header."""
     count = claimed or len(texts)
     listed = b"".join(struct.pack("<HB", len(t), 1) + t.encode("utf-16-le") for t in texts)
     return record(0x00FC, struct.pack("<II", count, count) + listed)
@@ -125,7 +125,7 @@ def parted_strings(texts):
 
 
 def formula_cells(number):
-    """The table as results of formulas, of the version of BIFF that has this record number."""
+    """The table as results of formulas, in the version of BIFF with this record number."""
     cells = b""
     for r, row in enumerate(table()):
         for c, v in enumerate(row):
@@ -138,7 +138,7 @@ def formula_cells(number):
 
 
 def biff8(before=b"", strings=whole_strings, place=lambda r: r):
-    """`place` tells the number of a row."""
+    """A BIFF8 workbook stream with the table; `place` gives the number of a row."""
     texts, cells = [], b""
     for r, row in zip(map(place, range(COUNT + 1)), table()):
         for c, v in enumerate(row):

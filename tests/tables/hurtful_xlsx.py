@@ -1,4 +1,4 @@
-"""XLSX files that are legal, or nearly, and hurt."""
+"""XLSX files that are valid, or almost, and hard to read."""
 import io
 import re
 import zipfile
@@ -93,7 +93,7 @@ def content_types(workbook=BOOK, sheets=(SHEET,), strings=STRINGS):
 
 
 def parts(rows=None, text=None, **options):
-    """The parts of a usual workbook with one sheet, by name; the rows default to the 40 sites."""
+    """The parts of a common workbook with one sheet, by name; the default rows are the 40 sites."""
     strings = Strings()
     sheet = sheet_xml(rows or table(), text or strings.cell)
     return {
@@ -122,7 +122,7 @@ def package(files, method=zipfile.ZIP_DEFLATED, zip64=False, out=None):
 
 
 class Pipe(io.BytesIO):
-    """A sink that cannot seek: zipfile then writes data descriptors behind each entry."""
+    """An output that cannot seek; zipfile then writes a data descriptor after each entry."""
 
     def seek(self, *_):
         raise io.UnsupportedOperation
@@ -133,7 +133,7 @@ def plain(rows=None, text=None, **options):
 
 
 def inserted(before, xml):
-    """A usual workbook with more XML in its sheet."""
+    """A common workbook with additional XML in its sheet."""
     files = parts()
     files[SHEET] = files[SHEET].replace(before, xml + before, 1)
     return package(files)
@@ -185,7 +185,7 @@ def values(m):
     rich = "".join('<si><r><rPr><b/></rPr><t>S</t></r><r><t xml:space="preserve">%04d</t></r>'
                    '<rPh sb="0" eb="1"><t>wrong</t></rPh><phoneticPr fontId="0"/></si>' % i
                    for i in range(1, 41))
-    fixed = len(HEADER) + 1  # the header's strings and the sector name come first
+    fixed = len(HEADER) + 1  # the strings of the header and the sector name are first
     rows = [[('t="s"', "<v>%d</v>" % (fixed + i))] + r[1:] for i, r in enumerate(sites())]
     m.open("rich_phonetic.xlsx", plain([HEADER] + rows, more=rich), "two runs; phonetic runs are no text")
 
@@ -261,7 +261,7 @@ def packaging(m):
 
 
 def second_sheet(first, *listed):
-    """A workbook whose second sheet holds the sites."""
+    """A workbook with the sites in its second sheet."""
     strings = Strings()
     files = parts()
     files[SHEET], files[SHEET_2] = (sheet_xml(rows, strings.cell) for rows in (first, table()))

@@ -1,11 +1,11 @@
 #!/usr/bin/python3
-"""Writes small legal files that hurt a table reader, and damaged ones, with a manifest.
+"""Writes small valid files that are hard to read, and damaged ones, with a manifest.
 
     make_hurtful.py FOLDER
 
-FOLDER/manifest.tsv says of each: kind (open or refused), rows, columns, the first header fields,
-the first and last site id, and what cannot be read in it, or the reason of the refusal. The files are the same on every run.
-A note that starts with "or=word,word:" names reasons that are as good. Needs python3-xlwt.
+FOLDER/manifest.tsv lists for each file: kind (open or refused), rows, columns, the first header fields, the first and
+last site id, and the problems, or the reason of the refusal. The files are the same on every run. A note that starts
+with "or=word,word:" names reasons that are also right. Needs python3-xlwt.
 """
 import sys
 
