@@ -1,6 +1,7 @@
 #include "colormaps/ColorMapText.h"
 
 #include "contract/SceneTexts.h"
+#include "contract/Words.h"
 
 #include <cpl_conv.h>
 #include <cpl_error.h>
@@ -53,13 +54,6 @@ constexpr std::array<NamedColor, 16> NamedColors = {{
 bool isDigit(char c)
 {
     return c >= '0' && c <= '9';
-}
-
-bool isSameWord(std::string_view a, std::string_view b)
-{
-    const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? char(c - 'A' + 'a') : c; };
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                      [lower](char x, char y) { return lower(x) == lower(y); });
 }
 
 void report(contract::SceneTextId text, std::string_view token)
@@ -119,7 +113,7 @@ std::optional<Rgba> readColor(const Tokens &tokens)
 
     const auto named =
         std::find_if(NamedColors.begin(), NamedColors.end(), [&tokens](const NamedColor &one) {
-            return isSameWord(one.name, tokens.text[1]);
+            return contract::isSameWord(one.name, tokens.text[1]);
         });
     if (named == NamedColors.end()) {
         report("MESS_SCENE_NO_COLOR", tokens.text[1]);
@@ -158,7 +152,7 @@ public:
         const std::string_view first = tokens.text.front();
         if (tokens.count < 2 || first.front() == '#' || first.front() == '/')
             return true;
-        if (isSameWord(first, "nv")) {
+        if (contract::isSameWord(first, "nv")) {
             m_table.noDataColor = readColor(tokens);
             return m_table.noDataColor.has_value();
         }
