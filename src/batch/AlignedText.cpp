@@ -8,7 +8,7 @@ namespace {
 
 constexpr qsizetype LineWidth = 80;
 /// Longer names have a line of their own.
-constexpr qsizetype LongestName = 26;
+constexpr qsizetype MaxNameCharacters = 26;
 
 /// The text broken into lines between words; all lines except the first start with `indent` blanks.
 QString wrappedWords(const QString &text, qsizetype indent)
@@ -74,7 +74,7 @@ QString entryList(const QList<Entry> &entries)
     constexpr qsizetype Before = 2;
     qsizetype width = 0;
     for (const Entry &entry : entries) {
-        if (entry.name.size() <= LongestName)
+        if (entry.name.size() <= MaxNameCharacters)
             width = qMax(width, entry.name.size());
     }
     const qsizetype indent = Before + width + 2;

@@ -60,8 +60,8 @@ CommandSyntax syntax()
         {QStringLiteral("size"),
          dico_label("MESS_OPT_SIZE", "Width and height in pixels, %1 to %2 each (default "
                                      "1280x960).")
-             .arg(snapshot::LeastSide)
-             .arg(snapshot::LargestSide),
+             .arg(snapshot::MinSidePx)
+             .arg(snapshot::MaxSidePx),
          QStringLiteral("WxH"), QStringLiteral("1280x960")},
         {QStringLiteral("view"),
          dico_label("MESS_OPT_VIEW",
@@ -87,7 +87,7 @@ std::optional<QSize> sizeFrom(const QString &text)
     const QRegularExpressionMatch match = form.match(text);
     const QSize size(match.captured(1).toInt(), match.captured(2).toInt());
     const auto fits = [](int side) {
-        return side >= snapshot::LeastSide && side <= snapshot::LargestSide;
+        return side >= snapshot::MinSidePx && side <= snapshot::MaxSidePx;
     };
     if (!match.hasMatch() || !fits(size.width()) || !fits(size.height()))
         return std::nullopt;
@@ -123,8 +123,8 @@ Result<Request> readRequest(const QCommandLineParser &parser)
     if (!size)
         return wrongValue(QStringLiteral("size"),
                           dico_label("MESS_USE_SIZE", "WxH, each of %1 to %2 pixels")
-                              .arg(snapshot::LeastSide)
-                              .arg(snapshot::LargestSide),
+                              .arg(snapshot::MinSidePx)
+                              .arg(snapshot::MaxSidePx),
                           parser.value(QStringLiteral("size")));
     request.size = *size;
     request.viewName = parser.value(QStringLiteral("view"));

@@ -86,8 +86,8 @@ double leadingNumber(std::string_view token)
     if (at >= token.size() || !isDigit(token[at]))
         return 0;
     const std::string number(token.substr(0, token.find_first_not_of("+-.0123456789eE")));
-    constexpr double Largest = std::numeric_limits<double>::max();
-    return std::clamp(CPLAtof(number.c_str()), -Largest, Largest);
+    constexpr double MaxValue = std::numeric_limits<double>::max();
+    return std::clamp(CPLAtof(number.c_str()), -MaxValue, MaxValue);
 }
 
 std::uint8_t leadingByte(std::string_view token)

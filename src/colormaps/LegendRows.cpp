@@ -59,11 +59,11 @@ QString LegendScale::numberAt(int index) const
 
 QString numberForGap(double value, double gap)
 {
-    constexpr int MostDecimals = 6;
-    constexpr double LargestInFull = 1e9;
-    if (gap > 0 && std::abs(value) < LargestInFull) {
+    constexpr int MaxDecimals = 6;
+    constexpr double MaxInFull = 1e9;
+    if (gap > 0 && std::abs(value) < MaxInFull) {
         double unit = 1;
-        for (int decimals = 0; decimals <= MostDecimals; ++decimals, unit /= 10) {
+        for (int decimals = 0; decimals <= MaxDecimals; ++decimals, unit /= 10) {
             const double rounded = std::round(value / unit) * unit;
             if (std::abs(rounded - value) <= gap / 100)
                 return QString::number(rounded == 0 ? 0 : value, 'f', decimals);

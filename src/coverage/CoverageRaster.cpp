@@ -68,7 +68,7 @@ public:
     /// Converts the rings to pixels; false if a position is not finite or too far from the raster.
     bool take(std::span<const Ring> places)
     {
-        constexpr double Farthest = 1e15; // pixels; keeps computed differences finite
+        constexpr double MaxDistancePx = 1e15; // pixels; keeps computed differences finite
         rings.resize(places.size());
         bool isNear = true;
         for (std::size_t i = 0; i < places.size(); ++i) {
@@ -76,7 +76,8 @@ public:
             for (const Place &place : places[i]) {
                 const Place pixel{toPixel[0] + toPixel[1] * place.x + toPixel[2] * place.y,
                                   toPixel[3] + toPixel[4] * place.x + toPixel[5] * place.y};
-                isNear = isNear && std::abs(pixel.x) <= Farthest && std::abs(pixel.y) <= Farthest;
+                isNear = isNear && std::abs(pixel.x) <= MaxDistancePx &&
+                         std::abs(pixel.y) <= MaxDistancePx;
                 rings[i].push_back(pixel);
             }
         }

@@ -8,7 +8,7 @@ namespace vlt::geodata {
 
 namespace {
 
-constexpr qint64 FeaturesPerLook = 16; ///< per reading of the clock; wide rows are slow
+constexpr qint64 FeaturesPerClockReading = 16; ///< per reading of the clock; wide rows are slow
 constexpr qint64 MillisecondsPerReport = 20;
 
 /// Removes the layer's name, which a driver puts before the reason for an early end of the rows.
@@ -33,7 +33,7 @@ Stoppable<qint64> walkFeatures(OGRLayer &layer, const Progress &progress,
     sinceReport.start();
     for (const OGRFeatureUniquePtr &feature : layer) {
         visit(*feature);
-        if (++visited % FeaturesPerLook != 0 || !progress ||
+        if (++visited % FeaturesPerClockReading != 0 || !progress ||
             !sinceReport.hasExpired(MillisecondsPerReport))
             continue;
         if (!progress(static_cast<double>(visited) / static_cast<double>(expected)))

@@ -19,9 +19,9 @@ namespace vlt::geodata {
 namespace {
 
 // A minimum or maximum beyond these is no height of terrain: it marks missing values.
-constexpr double LowestHeightM = -100;
-constexpr double HighestHeightM = 9000;
-constexpr double UsualNoData = -32768;
+constexpr double MinHeightM = -100;
+constexpr double MaxHeightM = 9000;
+constexpr double DefaultNoData = -32768;
 
 std::optional<double> declaredNoData(GDALRasterBand &band)
 {
@@ -118,11 +118,11 @@ Stoppable<double> guessedNoData(const QString &path, const Progress &progress, c
         min = max = 0; // the band has only missing values
     if (isStopped)
         return std::nullopt;
-    if (min < LowestHeightM)
+    if (min < MinHeightM)
         return min;
-    if (max >= HighestHeightM)
+    if (max >= MaxHeightM)
         return max;
-    return declaredNoData(*band).value_or(UsualNoData);
+    return declaredNoData(*band).value_or(DefaultNoData);
 }
 
 } // namespace vlt::geodata

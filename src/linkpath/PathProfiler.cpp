@@ -13,7 +13,7 @@ namespace {
 constexpr double DegreesPerRadian = 180 / M_PI;
 constexpr double SamplesPerPixel = 4; ///< heights along a line within a pixel form a curve
 constexpr double FewestSamples = 64;
-constexpr double MostSamples = 50000;
+constexpr double MaxSamples = 50000;
 
 using Transformation = std::unique_ptr<OGRCoordinateTransformation>;
 
@@ -100,7 +100,7 @@ public:
         const auto from = base(a);
         const int steps = static_cast<int>(
             std::clamp(std::ceil(SamplesPerPixel * arc.lengthM / m_terrain->pixelSizeM()),
-                       FewestSamples, MostSamples));
+                       FewestSamples, MaxSamples));
         std::vector<double> x(static_cast<std::size_t>(steps) + 1);
         std::vector<double> y(x.size());
         std::vector<int> done(x.size());

@@ -17,13 +17,13 @@ namespace vlt::linkpath {
 namespace {
 
 constexpr int BlockSide = 256;
-constexpr std::size_t MostBlocks = 256;     ///< 128 MiB
-constexpr double MostBlockPixels = 1 << 27; ///< of a block of the file, which is read whole
+constexpr std::size_t MaxBlocks = 256;     ///< 128 MiB
+constexpr double MaxBlockPixels = 1 << 27; ///< of a block of the file, which is read whole
 constexpr double MetresPerDegree = 111320;
 constexpr double MetresPerFoot = 0.3048;
 constexpr double MetresPerSurveyFoot = 1200.0 / 3937;
-constexpr double FarthestFromSeaLevelM = 12000; ///< larger than any height on earth
-constexpr double EdgePixels = 1e-6; ///< how far rounding may move a position beyond the edge
+constexpr double MaxFromSeaLevelM = 12000; ///< larger than any height on earth
+constexpr double EdgePixels = 1e-6;        ///< how far rounding may move a position beyond the edge
 
 constexpr const char *NotPlaced = contract::SceneTextId("MESS_TERRAIN_NOT_PLACED").text().pattern;
 constexpr const char *TooLarge = contract::SceneTextId("MESS_TERRAIN_TOO_LARGE").text().pattern;
@@ -89,7 +89,7 @@ const char *TerrainRaster::prepare(const TerrainHints &hints)
     int blockWidth = 0;
     int blockHeight = 0;
     m_band->GetBlockSize(&blockWidth, &blockHeight);
-    if (static_cast<double>(blockWidth) * blockHeight > MostBlockPixels)
+    if (static_cast<double>(blockWidth) * blockHeight > MaxBlockPixels)
         return TooLarge;
     if (srs->IsGeographic())
         m_wholeTurn = 2 * M_PI / srs->GetAngularUnits();
@@ -115,7 +115,7 @@ std::optional<double> TerrainRaster::pixelM(int column, int row)
         static_cast<std::int64_t>(row / BlockSide) << 32 | column / BlockSide;
     auto found = m_blocks.find(number);
     if (found == m_blocks.end()) {
-        if (m_blocks.size() >= MostBlocks) {
+        if (m_blocks.size() >= MaxBlocks) {
             m_blocks.erase(m_recent.back());
             m_recent.pop_back();
         }
@@ -139,8 +139,7 @@ std::optional<double> TerrainRaster::pixelM(int column, int row)
                     static_cast<std::size_t>(column % BlockSide);
     const double value = found->second.values[at];
     const double aboveSeaM = value * m_scale + m_offset;
-    if (!(std::abs(aboveSeaM) <= FarthestFromSeaLevelM) || value == m_noData ||
-        value == m_alsoNoData)
+    if (!(std::abs(aboveSeaM) <= MaxFromSeaLevelM) || value == m_noData || value == m_alsoNoData)
         return std::nullopt;
     return aboveSeaM;
 }

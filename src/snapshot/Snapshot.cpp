@@ -13,8 +13,8 @@ namespace vlt::snapshot {
 
 namespace {
 
-constexpr double SmallestShownPixels = 0.5;
-constexpr int LongestLoadingMs = 60000;
+constexpr double MinShownPx = 0.5;
+constexpr int MaxLoadingMs = 60000;
 
 /// Makes a camera draw into a frame buffer.
 class DrawInto : public osg::Camera::DrawCallback
@@ -54,7 +54,7 @@ void setUpCamera(osg::Camera &camera, const ViewPoint &point, const QSize &size)
         point.fieldOfViewDeg, static_cast<double>(size.width()) / size.height(), 1, 1000);
     camera.setViewMatrixAsLookAt(point.eye, point.target, osg::Z_AXIS);
     camera.setLODScale(1);
-    camera.setSmallFeatureCullingPixelSize(SmallestShownPixels);
+    camera.setSmallFeatureCullingPixelSize(MinShownPx);
 }
 
 /// Draws frames until everything that the view needs is loaded, and then the last one.
@@ -66,7 +66,7 @@ void drawAll(osgViewer::Viewer &viewer)
     do {
         viewer.frame(0);
     } while (pager && (pager->getRequestsInProgress() || pager->requiresUpdateSceneGraph()) &&
-             since.elapsed() < LongestLoadingMs);
+             since.elapsed() < MaxLoadingMs);
     viewer.frame(0); // draws what the frame before has loaded
 }
 

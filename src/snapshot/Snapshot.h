@@ -11,13 +11,13 @@
 namespace vlt::snapshot {
 
 /// Minimum and maximum of the width and height of a picture, in pixels.
-inline constexpr int LeastSide = 16;
-inline constexpr int LargestSide = 8192;
+inline constexpr int MinSidePx = 16;
+inline constexpr int MaxSidePx = 8192;
 
 /// Draws a scene off screen. Levels of detail are chosen by their real distances from the eye.
 ///
 /// @param scene  x east, y north, z up, metres
-/// @param size   width and height in pixels, both LeastSide .. LargestSide
+/// @param size   width and height in pixels, both MinSidePx .. MaxSidePx
 /// @par Errors   MESS_SNAP_NO_DISPLAY without an X server that can draw, MESS_SNAP_NO_ROOM for a
 ///               picture too large for its memory; those of findViewPoint().
 Result<QImage> renderSnapshot(osg::Node &scene, const QSize &size, SceneView view);

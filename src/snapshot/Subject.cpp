@@ -8,7 +8,7 @@ namespace vlt::snapshot {
 namespace {
 
 constexpr double NarrowestFieldDeg = 0.5;
-constexpr double NearestM = 1;
+constexpr double MinDistanceM = 1;
 
 Axes axesFromSouthWest(double rise)
 {
@@ -23,7 +23,7 @@ Axes axesFromSouthWest(double rise)
 
 } // namespace
 
-const Axes &usualAxes()
+const Axes &defaultAxes()
 {
     static const Axes axes = axesFromSouthWest(0.32);
     return axes;
@@ -45,7 +45,7 @@ Subject::Subject(const osg::BoundingBoxd &box, double aspect, double margin, con
 double Subject::distance(double fieldDeg) const
 {
     const double slope = std::tan(osg::DegreesToRadians(fieldDeg) / 2) / m_margin;
-    double distance = NearestM;
+    double distance = MinDistanceM;
     for (unsigned corner = 0; corner < 8; ++corner) {
         const osg::Vec3d at = m_box.corner(corner) - centre();
         distance = std::max(distance, at * m_axes.back + half(at) / slope);
@@ -58,11 +58,10 @@ double Subject::fieldDeg(double distance) const
     double slope = 0;
     for (unsigned corner = 0; corner < 8; ++corner) {
         const osg::Vec3d at = m_box.corner(corner) - centre();
-        const double depth = std::max(distance - at * m_axes.back, NearestM);
+        const double depth = std::max(distance - at * m_axes.back, MinDistanceM);
         slope = std::max(slope, m_margin * half(at) / depth);
     }
-    return std::clamp(osg::RadiansToDegrees(2 * std::atan(slope)), NarrowestFieldDeg,
-                      WidestFieldDeg);
+    return std::clamp(osg::RadiansToDegrees(2 * std::atan(slope)), NarrowestFieldDeg, MaxFieldDeg);
 }
 
 ViewPoint Subject::from(double distance, double fieldDeg) const

@@ -6,9 +6,9 @@
 
 namespace vlt::snapshot {
 
-inline constexpr double UsualFieldDeg = 30;
-inline constexpr double WidestFieldDeg = 70;
-inline constexpr double UsualMargin = 1.08; ///< size of a picture / size of its subject
+inline constexpr double DefaultFieldDeg = 30;
+inline constexpr double MaxFieldDeg = 70;
+inline constexpr double DefaultMargin = 1.08; ///< size of a picture / size of its subject
 
 /// The direction of a picture: unit vectors to its right, upwards, and from the target to the eye.
 struct Axes
@@ -19,7 +19,7 @@ struct Axes
 };
 
 /// The axes for an eye in the south-west, slightly above the scene, as in the wizard's preview.
-const Axes &usualAxes();
+const Axes &defaultAxes();
 
 /// The axes for an eye in the south-west, so high above that streets are visible.
 const Axes &steepAxes();
@@ -30,8 +30,8 @@ class Subject
 public:
     /// @param aspect  width of the picture / its height
     /// @param margin  width of the picture / that of the box in it, 1 or more
-    Subject(const osg::BoundingBoxd &box, double aspect, double margin = UsualMargin,
-            const Axes &axes = usualAxes());
+    Subject(const osg::BoundingBoxd &box, double aspect, double margin = DefaultMargin,
+            const Axes &axes = defaultAxes());
 
     osg::Vec3d centre() const { return m_box.center(); }
 

@@ -18,7 +18,7 @@ using Deferred = DrawnExtents::Deferred;
 
 /// For towns with more buildings the bounds of the tiles are used, because it would take too long
 /// to make all buildings only to measure them.
-constexpr qint64 MostMeasured = 20000;
+constexpr qint64 MaxMeasured = 20000;
 
 osg::BoundingBoxd extentsFrom(osg::Node &scene, Deferred deferred,
                               const std::optional<osg::Vec3d> &eye)
@@ -86,14 +86,14 @@ std::optional<qint64> buildingCount(const osg::Node &scene)
 
 Result<ViewPoint> viewOfTown(osg::Node &scene, qint64 buildings, double aspect)
 {
-    const Deferred deferred = buildings > MostMeasured ? Deferred::ByBound : Deferred::Made;
+    const Deferred deferred = buildings > MaxMeasured ? Deferred::ByBound : Deferred::Made;
     const osg::BoundingBoxd town = extentsFrom(scene, deferred, std::nullopt);
     if (!town.valid())
         return Error{QStringLiteral("MESS_SNAP_EMPTY"), QStringLiteral("the scene is empty"), {}};
-    const Subject subject(town, aspect, UsualMargin, steepAxes());
+    const Subject subject(town, aspect, DefaultMargin, steepAxes());
     constexpr double fieldStepDeg = 8;
-    double field = UsualFieldDeg;
-    while (field <= WidestFieldDeg) {
+    double field = DefaultFieldDeg;
+    while (field <= MaxFieldDeg) {
         const ViewPoint view = subject.from(subject.distance(field), field);
         if (isWhole(scene, view.eye))
             return view;
@@ -102,11 +102,11 @@ Result<ViewPoint> viewOfTown(osg::Node &scene, qint64 buildings, double aspect)
     constexpr double nearer = 0.85;
     constexpr double beyondMiddle = 0.6; // of the distance: shows buildings behind the centre
     constexpr double nearestM = 10;
-    double distance = subject.distance(UsualFieldDeg);
+    double distance = subject.distance(DefaultFieldDeg);
     while (distance > nearestM) {
-        const ViewPoint view = subject.from(distance, UsualFieldDeg);
+        const ViewPoint view = subject.from(distance, DefaultFieldDeg);
         if (reachesMiddle(extentsFrom(scene, deferred, view.eye), view.target))
-            return subject.from(distance * beyondMiddle, UsualFieldDeg);
+            return subject.from(distance * beyondMiddle, DefaultFieldDeg);
         distance *= nearer;
     }
     return Error{QStringLiteral("MESS_SNAP_TOO_FAR"),

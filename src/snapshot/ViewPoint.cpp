@@ -22,25 +22,26 @@ Result<ViewPoint> viewOfAll(osg::Node &scene, double aspect)
     if (!everything.extents().valid())
         return Error{QStringLiteral("MESS_SNAP_EMPTY"), QStringLiteral("the scene is empty"), {}};
     osg::BoundingBoxd box = everything.extents();
-    double distance = Subject(box, aspect).distance(UsualFieldDeg);
+    double distance = Subject(box, aspect).distance(DefaultFieldDeg);
     // At a smaller distance, other levels with other extents may be drawn.
     constexpr int attempts = 4;
     for (int attempt = 0; attempt < attempts; ++attempt) {
         const Subject subject(box, aspect);
-        DrawnExtents drawn(DrawnExtents::Deferred::Made, subject.from(distance, UsualFieldDeg).eye);
+        DrawnExtents drawn(DrawnExtents::Deferred::Made,
+                           subject.from(distance, DefaultFieldDeg).eye);
         scene.accept(drawn);
         if (!drawn.extents().valid())
             return Error{QStringLiteral("MESS_SNAP_TOO_FAR"),
                          QStringLiteral("all is in view only from where nothing is drawn any more; "
                                         "a longer apparition distance or --view symbolic helps"),
                          {}};
-        const double next = Subject(drawn.extents(), aspect).distance(UsualFieldDeg);
+        const double next = Subject(drawn.extents(), aspect).distance(DefaultFieldDeg);
         if (next >= distance)
             break;
         box = drawn.extents();
         distance = next;
     }
-    return Subject(box, aspect).from(distance, UsualFieldDeg);
+    return Subject(box, aspect).from(distance, DefaultFieldDeg);
 }
 
 /// The part of a slender mast with its antennas; the whole of any other object.
@@ -67,7 +68,7 @@ Result<ViewPoint> viewOfLevel(const osg::Vec3d &centre, const Level &level, doub
     const double aside = (subject.centre() - centre).length();
     const double least = level.fromM > 0 ? level.fromM * (1 + RangeMargin) + aside : 0;
     const double most = level.toM * (1 - RangeMargin) - aside;
-    double distance = subject.distance(UsualFieldDeg);
+    double distance = subject.distance(DefaultFieldDeg);
     distance = std::max(std::min(distance, most), least);
     if (distance - aside >= level.toM || distance <= 0)
         distance = (level.fromM + level.toM) / 2;
@@ -88,7 +89,7 @@ Result<ViewPoint> findViewPoint(osg::Node &scene, SceneView view, double aspect)
                      {}};
     return view == SceneView::Symbolic
                ? viewOfLevel(site->centre, site->symbolic, aspect, SectorsMargin)
-               : viewOfLevel(site->centre, headOf(site->precise), aspect, UsualMargin);
+               : viewOfLevel(site->centre, headOf(site->precise), aspect, DefaultMargin);
 }
 
 } // namespace vlt::snapshot

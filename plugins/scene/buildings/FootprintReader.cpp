@@ -168,7 +168,7 @@ int findHeightField(const OGRLayer &layer, const std::string &name)
 void take(const OGRFeature &feature, int heightField, FootprintBuilder &builder, LeftOut &leftOut)
 {
     const std::optional<double> heightM = numberAt(feature, heightField, -Endless, Endless);
-    if (!heightM || std::abs(*heightM) > HighestBuildingM) {
+    if (!heightM || std::abs(*heightM) > MaxBuildingHeightM) {
         ++leftOut.noHeight;
         return;
     }

@@ -12,7 +12,7 @@ namespace vlt::scene {
 inline constexpr std::size_t MaxPlaces = 30'000'000;
 
 /// Maximum height of a building. A larger number is taken for a mark of a missing height.
-inline constexpr double HighestBuildingM = 10000;
+inline constexpr double MaxBuildingHeightM = 10000;
 
 /// The source of footprints.
 struct FootprintSource

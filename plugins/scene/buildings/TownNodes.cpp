@@ -81,7 +81,7 @@ struct Content
         TownMesh small(*town, origin);
         for (const std::uint32_t building : buildings) {
             if (extentM(building) > Dots.largestM)
-                addBoxOrMore(large, building, LargestBoxAmongDotsM);
+                addBoxOrMore(large, building, MaxBoxAmongDotsM);
             else
                 small.addDot(building);
         }

@@ -34,7 +34,7 @@ struct CoarseLevel
 };
 inline constexpr CoarseLevel Boxes{4, 40};
 inline constexpr CoarseLevel Dots{7, 28};
-inline constexpr double LargestBoxAmongDotsM = 70;
+inline constexpr double MaxBoxAmongDotsM = 70;
 
 /// The buildings of a town in tiles with levels of detail: buildings with images up to their
 /// maximum distance, extruded buildings up to theirs, nothing at larger distances. At low

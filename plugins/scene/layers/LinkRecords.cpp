@@ -104,7 +104,7 @@ private:
         std::array<double, 2> heightsM{};
         std::array<osg::Vec3d, 2> centres;
         for (std::size_t i = 0; i < 2; ++i) {
-            heightsM[i] = row.ends[i].end.heightM.value_or(UsualLinkAntennaM);
+            heightsM[i] = row.ends[i].end.heightM.value_or(DefaultLinkAntennaM);
             centres[i].set(row.ends[i].place.x(), row.ends[i].place.y(),
                            m_records.pylons.sites[pylons[i]].foot.z() + heightsM[i]);
             double &mastM = m_records.pylons.designs[pylons[i]].heightM;

@@ -12,7 +12,7 @@
 namespace vlt::scene {
 
 /// Default height of an antenna in metres above ground, if the table has none.
-inline constexpr double UsualLinkAntennaM = 30;
+inline constexpr double DefaultLinkAntennaM = 30;
 
 /// Ends of links within this distance share a pylon, because tables may have the positions of the
 /// antennas rather than of the pylon.

@@ -16,7 +16,7 @@ namespace vlt::scene {
 
 namespace {
 
-constexpr double HighestAntennaM = 2000;
+constexpr double MaxAntennaHeightM = 2000;
 
 /// Index of the field with the names of the ends' sites; -1 if there is none.
 int siteFieldOf(OGRLayer &ends, const std::string &siteField)
@@ -77,10 +77,10 @@ private:
         LinkRow row;
         for (std::size_t i = 0; i < row.ends.size(); ++i) {
             linkpath::PairedLink::End &end = link->ends[i];
-            end.frequencyMHz = within(end.frequencyMHz, LowestMHz, HighestMHz);
+            end.frequencyMHz = within(end.frequencyMHz, MinMHz, MaxMHz);
             row.ends[i].site = std::move(end.site);
             row.ends[i].end = end.place;
-            row.ends[i].end.heightM = within(end.place.heightM, 0, HighestAntennaM);
+            row.ends[i].end.heightM = within(end.place.heightM, 0, MaxAntennaHeightM);
         }
         row.frequencyMHz = link->frequencyMHz().value_or(0.0);
         m_links.rows.push_back(std::move(row));

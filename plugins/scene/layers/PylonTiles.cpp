@@ -28,8 +28,8 @@ constexpr double LabelGapM = 4;
 constexpr double RodM = 4; ///< more than the height of any part above a mast
 /// Maximum number of precise pylons in a scene. If thousands are at one position, or the realistic
 /// distance is large, all further ones are coarse, to bound time and memory.
-constexpr std::size_t MostPrecisePylons = 2000;
-constexpr std::size_t MostPreciseDesigns = 800;
+constexpr std::size_t MaxPrecisePylons = 2000;
+constexpr std::size_t MaxPreciseDesigns = 800;
 constexpr float DotPixels = 4;
 constexpr double DotPad = 0.01; ///< share of the distance at which dots begin
 constexpr float Endless = std::numeric_limits<float>::max();
@@ -48,9 +48,9 @@ struct Content
 {
     Content(PylonRecords &&all, TileContent made)
         : records(std::move(all))
-        , isWholeAtOnce(made == TileContent::AtOnce && records.sites.size() <= MostSitesAtOnce)
+        , isWholeAtOnce(made == TileContent::AtOnce && records.sites.size() <= MaxSitesAtOnce)
         , isCoarseAtOnce(made == TileContent::AtOnce &&
-                         records.sites.size() <= MostCoarseSitesAtOnce)
+                         records.sites.size() <= MaxCoarseSitesAtOnce)
         , factory(isWholeAtOnce ? PreciseModel::AtOnce : PreciseModel::WhenNeeded)
     {}
 
@@ -73,8 +73,7 @@ struct Content
         std::size_t fresh = 0;
         for (const std::uint32_t site : sites)
             fresh += designIsMade[records.sites[site].design] ? 0 : 1;
-        if (pylonsMade + sites.size() > MostPrecisePylons ||
-            designsMade + fresh > MostPreciseDesigns)
+        if (pylonsMade + sites.size() > MaxPrecisePylons || designsMade + fresh > MaxPreciseDesigns)
             return false;
         pylonsMade += sites.size();
         designsMade += fresh;

@@ -10,12 +10,12 @@ namespace vlt::scene {
 inline constexpr std::size_t SitesPerTile = 64;
 
 /// The time at which the content of tiles is made. Programs that convert a scene use only content
-/// that has been made. AtOnce is for them: pylons and names of up to MostSitesAtOnce sites, masts
-/// and coarse sectors of up to MostCoarseSitesAtOnce sites are made at once.
+/// that has been made. AtOnce is for them: pylons and names of up to MaxSitesAtOnce sites, masts
+/// and coarse sectors of up to MaxCoarseSitesAtOnce sites are made at once.
 enum class TileContent { WhenDrawn, AtOnce };
 
-inline constexpr std::size_t MostSitesAtOnce = 2000;
-inline constexpr std::size_t MostCoarseSitesAtOnce = 50000; ///< about 200 MiB
+inline constexpr std::size_t MaxSitesAtOnce = 2000;
+inline constexpr std::size_t MaxCoarseSitesAtOnce = 50000; ///< about 200 MiB
 
 /// The pylons of a layer, at least one, with the names of their sites.
 ///

@@ -8,7 +8,7 @@ namespace vlt::scene {
 
 namespace {
 
-constexpr unsigned LongestName = 60; ///< characters
+constexpr unsigned MaxNameCharacters = 60;
 constexpr float SizePixels = 16;
 constexpr unsigned GlyphPixels = 32;
 constexpr int AfterTranslucentBins = 20;
@@ -44,8 +44,8 @@ osg::ref_ptr<osg::Node> SiteLabels::make(const std::string &name, const osg::Vec
     text->setFont(m_font);
     text->setFontResolution(GlyphPixels, GlyphPixels);
     osgText::String shown(name, osgText::String::ENCODING_UTF8);
-    if (shown.size() > LongestName) {
-        shown.resize(LongestName - 1);
+    if (shown.size() > MaxNameCharacters) {
+        shown.resize(MaxNameCharacters - 1);
         shown.push_back(0x2026); // ellipsis
     }
     text->setText(shown);

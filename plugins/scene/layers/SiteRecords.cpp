@@ -17,9 +17,9 @@ namespace vlt::scene {
 
 namespace {
 
-constexpr double LowestM = -500; ///< ground
-constexpr double HighestM = 10000;
-constexpr double SteepestDeg = 90;
+constexpr double MinHeightM = -500; ///< ground
+constexpr double MaxHeightM = 10000;
+constexpr double MaxTiltDeg = 90;
 constexpr double WholeTurnDeg = 360;
 
 class Reader
@@ -72,7 +72,8 @@ private:
         }
         SiteRecord site;
         site.name = textAt(feature, m_columns.name);
-        site.foot.z() = numberAt(feature, m_columns.terrainHeight, LowestM, HighestM).value_or(0.0);
+        site.foot.z() =
+            numberAt(feature, m_columns.terrainHeight, MinHeightM, MaxHeightM).value_or(0.0);
         const auto [design, isNew] = m_designs.try_emplace(
             designOf(feature), static_cast<std::uint32_t>(m_records.designs.size()));
         if (isNew)
@@ -99,7 +100,7 @@ private:
             transmitter.azimuthDeg = std::fmod(azimuth.value_or(0.0), WholeTurnDeg);
             transmitter.beamWidthDeg = azimuth ? 0 : WholeTurnDeg;
             transmitter.tiltDeg =
-                numberAt(feature, columns.tilt, -SteepestDeg, SteepestDeg).value_or(0.0);
+                numberAt(feature, columns.tilt, -MaxTiltDeg, MaxTiltDeg).value_or(0.0);
             transmitter.color = m_style.colors[i % m_style.colors.size()];
             top = std::max(top, transmitter.heightM);
             design.transmitters.push_back(transmitter);

@@ -28,8 +28,8 @@ struct LinkLook
     double kFactor = contract::query::KFactorNumber.firstRun;
 };
 
-inline constexpr double LowestMHz = 1;    ///< at lower ones ellipsoids are hundreds of metres wide
-inline constexpr double HighestMHz = 1e6; ///< 1 THz
+inline constexpr double MinMHz = 1;   ///< at lower ones ellipsoids are hundreds of metres wide
+inline constexpr double MaxMHz = 1e6; ///< 1 THz
 
 /// A link between the centres of two antennas; x east, y north, z up, metres.
 struct LinkObject

@@ -20,8 +20,8 @@ LinkObject readLink(const std::string &item, std::string_view text)
     if (link.a == link.b)
         throw BadQuery("MESS_QUERY_SAME_POSITION", {item});
     const std::string_view frequency = words.next();
-    link.frequencyMHz = words.number("MESS_QUANTITY_FREQUENCY", {0, HighestMHz});
-    if (link.frequencyMHz > 0 && link.frequencyMHz < LowestMHz)
+    link.frequencyMHz = words.number("MESS_QUANTITY_FREQUENCY", {0, MaxMHz});
+    if (link.frequencyMHz > 0 && link.frequencyMHz < MinMHz)
         throw BadQuery("MESS_QUERY_LOW_FREQUENCY", {item, shown(frequency)});
     if (hasColor)
         link.color = words.color();

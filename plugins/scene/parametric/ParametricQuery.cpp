@@ -16,7 +16,7 @@ namespace {
 
 constexpr std::string_view Start = "inline://parametric/query?";
 constexpr std::string_view PathKey = contract::query::DataFolder;
-constexpr std::size_t LongestQuote = 60;
+constexpr std::size_t MaxQuoteCharacters = 60;
 
 std::string decimal(double number)
 {
@@ -90,10 +90,10 @@ void ParametricQuery::atMostOnce(std::string_view key) const
 
 std::string shown(std::string_view value)
 {
-    std::string text(value.substr(0, LongestQuote));
+    std::string text(value.substr(0, MaxQuoteCharacters));
     std::replace_if(
         text.begin(), text.end(), [](unsigned char c) { return c < ' ' || c == 127; }, '?');
-    return text + (value.size() > LongestQuote ? "..." : "");
+    return text + (value.size() > MaxQuoteCharacters ? "..." : "");
 }
 
 bool asksFor(std::string_view url, std::string_view object)

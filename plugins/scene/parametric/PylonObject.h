@@ -41,8 +41,8 @@ struct Transmitter
     double heightM = 0;        ///< centre of the antenna above the foot
     double azimuthDeg = 0;     ///< 0 is north, clockwise
     double tiltDeg = 0;        ///< positive: the beam points below the horizon
-    double beamWidthDeg = 0;   ///< horizontal; 0: UsualBeamWidthDeg or UsualDishBeamDeg
-    double antennaLengthM = 0; ///< before scaling; 0: UsualAntennaLengthM or UsualDishDiameterM
+    double beamWidthDeg = 0;   ///< horizontal; 0: DefaultBeamWidthDeg or DefaultDishBeamDeg
+    double antennaLengthM = 0; ///< before scaling; 0: DefaultAntennaLengthM or DefaultDishDiameterM
     Color color;               ///< of the sector and of the antenna's mark
     AntennaKind kind = AntennaKind::Usual;
 
@@ -50,10 +50,10 @@ struct Transmitter
     std::partial_ordering operator<=>(const Transmitter &) const = default;
 };
 
-inline constexpr double UsualBeamWidthDeg = 65;
-inline constexpr double UsualAntennaLengthM = 2;
-inline constexpr double UsualDishBeamDeg = 20; ///< of its sector; the real beam is hardly visible
-inline constexpr double UsualDishDiameterM = 0.9;
+inline constexpr double DefaultBeamWidthDeg = 65;
+inline constexpr double DefaultAntennaLengthM = 2;
+inline constexpr double DefaultDishBeamDeg = 20; ///< of its sector; the real beam is hardly visible
+inline constexpr double DefaultDishDiameterM = 0.9;
 
 /// Everything about a pylon except its position: pylons of equal design share their geometry.
 struct PylonDesign

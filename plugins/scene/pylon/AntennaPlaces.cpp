@@ -14,9 +14,9 @@ namespace {
 constexpr double SameDirectionDeg = 15;
 constexpr double PipeRoomM = 0.05;    ///< the pipe's radius
 constexpr double OutsideRailM = 0.08; ///< distance from a platform's corners to the pipes
-constexpr double WidestRowM = 3;
-constexpr double FarthestDishM = 2.5; ///< maximum distance from the axis without a platform
-constexpr double DishRoom = 0.55;     ///< free space on each side / diameter
+constexpr double MaxRowWidthM = 3;
+constexpr double MaxDishDistanceM = 2.5; ///< maximum distance from the axis without a platform
+constexpr double DishRoom = 0.55;        ///< free space on each side / diameter
 
 double standoff(const AntennaSize &size, double scale, double tiltDeg)
 {
@@ -76,7 +76,7 @@ std::vector<double> rowSteps(const PylonDesign &pylon)
                    std::remainder(all[b].azimuthDeg - first.azimuthDeg, 360);
         });
         const double middle = (static_cast<double>(row.size()) - 1) / 2;
-        const double room = middle > 0 ? WidestRowM / (2 * middle) : 0;
+        const double room = middle > 0 ? MaxRowWidthM / (2 * middle) : 0;
         for (std::size_t k = 0; k < row.size(); ++k) {
             const double width = antennaSize(pylon, all[row[k]]).width * 1.4;
             steps[row[k]] = (static_cast<double>(k) - middle) * std::min(width, room);
@@ -101,7 +101,7 @@ double roomyDistance(const PylonDesign &pylon, const Transmitter &dish)
             distance =
                 std::max(distance, DishRoom * room / std::sin(osg::DegreesToRadians(between / 2)));
     }
-    return std::min(distance, FarthestDishM);
+    return std::min(distance, MaxDishDistanceM);
 }
 
 /// Sets the position of the pipe and the points that hold it.

@@ -129,7 +129,7 @@ void addBracket(Mesh &metal, const AntennaPlace &place, bool detailed)
 
 void addAntennas(Meshes &meshes, const std::vector<AntennaPlace> &places, bool cylinders)
 {
-    const bool detailed = places.size() <= MostDetailed;
+    const bool detailed = places.size() <= MaxDetailed;
     for (const AntennaPlace &place : places) {
         Mesh body;
         if (place.kind == AntennaKind::Dish)

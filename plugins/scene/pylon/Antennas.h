@@ -5,12 +5,12 @@
 
 namespace vlt::scene {
 
-/// Adds antennas with their brackets. If a mast has more than MostDetailed antennas, they are drawn
+/// Adds antennas with their brackets. If a mast has more than MaxDetailed antennas, they are drawn
 /// without connectors and with fewer corners.
 ///
 /// @param cylinders  whether antennas other than dishes are cylinders instead of panels
 void addAntennas(Meshes &meshes, const std::vector<AntennaPlace> &places, bool cylinders);
 
-inline constexpr std::size_t MostDetailed = 64;
+inline constexpr std::size_t MaxDetailed = 64;
 
 } // namespace vlt::scene

@@ -12,7 +12,7 @@ namespace {
 
 constexpr double TallM = 45; ///< masts of at least this height have aviation marking
 constexpr int Bands = 7;
-constexpr int MostRungs = 160;
+constexpr int MaxRungs = 160;
 
 } // namespace
 
@@ -23,7 +23,7 @@ void addLadder(Mesh &metal, const Span &span, const osg::Vec3d &right)
         addTube(metal, span.bottom + right * side, span.top + right * side, 0.025, 0.025, 4,
                 palette::DarkSteel, Ends::Closed);
     const osg::Vec3d way = span.top - span.bottom;
-    const int rungs = std::min(MostRungs, static_cast<int>(way.length() / 0.3));
+    const int rungs = std::min(MaxRungs, static_cast<int>(way.length() / 0.3));
     for (int i = 1; i <= rungs; ++i) {
         const osg::Vec3d at = span.bottom + way * ((i - 0.5) / rungs);
         addTube(metal, at - right * HalfWidth, at + right * HalfWidth, 0.014, 0.014, 4,

@@ -12,7 +12,7 @@ namespace vlt::scene {
 
 namespace {
 
-constexpr int MostBays = 64;
+constexpr int MaxBays = 64;
 
 /// Heights of the ends of the bays. A bay is about as high as its face is wide.
 std::vector<double> bayHeights(const MastDesign &mast, double bottom, double top)
@@ -22,7 +22,7 @@ std::vector<double> bayHeights(const MastDesign &mast, double bottom, double top
     const MastSection middle = mastSection(mast, (bottom + top) / 2);
     const double face = 2 * middle.inradiusM * std::tan(osg::PI / middle.sides);
     const int bays =
-        static_cast<int>(std::clamp((top - bottom) / (1.1 * face), 3.0, 1.0 * MostBays));
+        static_cast<int>(std::clamp((top - bottom) / (1.1 * face), 3.0, 1.0 * MaxBays));
     const double ratio = std::pow(head / foot, 1.0 / bays);
     std::vector<double> heights = {bottom};
     double whole = 0;

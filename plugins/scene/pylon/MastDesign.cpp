@@ -9,10 +9,10 @@ namespace {
 
 constexpr double BelowAntennaM = 0.1; ///< from a floor to the lowest antenna above it
 constexpr double HeadroomM = 2.2;     ///< minimum between two floors
-constexpr double LowestDeckM = 3;     ///< below this height no platform is needed
+constexpr double MinDeckHeightM = 3;  ///< below this height no platform is needed
 constexpr double ParapetM = 1;        ///< from a roof to the lowest antenna on it
-constexpr std::size_t MostDecks = 24;
-constexpr std::size_t MostFrames = 128;
+constexpr std::size_t MaxDecks = 24;
+constexpr std::size_t MaxFrames = 128;
 
 double centimetres(double metres)
 {
@@ -24,11 +24,11 @@ std::vector<double> floorHeights(const std::vector<double> &antennaBottoms)
     std::vector<double> decks;
     for (const double bottom : antennaBottoms) {
         const double deck = centimetres(bottom - BelowAntennaM);
-        if (deck >= LowestDeckM && (decks.empty() || deck >= decks.back() + HeadroomM))
+        if (deck >= MinDeckHeightM && (decks.empty() || deck >= decks.back() + HeadroomM))
             decks.push_back(deck);
     }
-    if (decks.size() > MostDecks)
-        decks.erase(decks.begin(), decks.end() - MostDecks);
+    if (decks.size() > MaxDecks)
+        decks.erase(decks.begin(), decks.end() - MaxDecks);
     return decks;
 }
 
@@ -66,7 +66,7 @@ bool hasCylindricalAntennas(PylonType type)
 AntennaSize antennaSize(const PylonDesign &pylon, const Transmitter &transmitter)
 {
     const bool isDish = transmitter.kind == AntennaKind::Dish;
-    const double usual = isDish ? UsualDishDiameterM : UsualAntennaLengthM;
+    const double usual = isDish ? DefaultDishDiameterM : DefaultAntennaLengthM;
     const double length =
         (transmitter.antennaLengthM > 0 ? transmitter.antennaLengthM : usual) * pylon.antennaScale;
     if (isDish)
@@ -102,7 +102,7 @@ MastDesign mastDesign(const PylonDesign &pylon)
     if (pylon.antennaScale <= 0)
         bottoms.clear();
     if (pylon.antennaScale <= 0 || !isLattice(pylon.type) || hasPlatforms(pylon.type) ||
-        mast.framesM.size() > MostFrames)
+        mast.framesM.size() > MaxFrames)
         mast.framesM.clear();
     if (hasPlatforms(pylon.type))
         mast.decksM = floorHeights(bottoms);

@@ -15,7 +15,7 @@ constexpr double WalkwayM = 0.75; ///< free width of a platform
 // minimum sizes of a mast with antennas, for every width of the design
 constexpr double ThinnestTubeM = 0.06;
 constexpr double NarrowestFaceM = 0.25;
-constexpr double SmallestRoofM = 1.5;
+constexpr double MinRoofM = 1.5;
 
 double narrowing(const MastDesign &mast, double heightM, double foot, double top)
 {
@@ -67,7 +67,7 @@ MastSection mastSection(const MastDesign &mast, double heightM)
         return polygon(3, 0.3 * mast.widthM);
     case PylonType::RooftopPanel:
     case PylonType::RooftopCylinder:
-        return {4, std::max(1.5 * mast.widthM, SmallestRoofM)};
+        return {4, std::max(1.5 * mast.widthM, MinRoofM)};
     case PylonType::WoodPanel:
         return tube(narrowing(mast, heightM, 0.07, 0.05));
     case PylonType::WaterTowerPanel:

@@ -12,13 +12,13 @@ namespace vlt::scene {
 namespace {
 
 constexpr double StoreyM = 3;
-constexpr int MostStoreys = 40;
+constexpr int MaxStoreys = 40;
 constexpr int TowerSides = 48;
 
 /// Adds rows of windows slightly in front of the four walls.
 void addWindows(Mesh &matt, double half, double roof)
 {
-    const int storeys = std::clamp(static_cast<int>(roof / StoreyM), 0, MostStoreys);
+    const int storeys = std::clamp(static_cast<int>(roof / StoreyM), 0, MaxStoreys);
     const int columns = std::clamp(static_cast<int>(2 * half / 2.2), 1, 8);
     const double storey = roof / std::max(1, storeys);
     const double pitch = 2 * half / columns;

@@ -17,7 +17,7 @@ double beamWidth(const Transmitter &transmitter)
 {
     if (transmitter.beamWidthDeg > 0)
         return transmitter.beamWidthDeg;
-    return transmitter.kind == AntennaKind::Dish ? UsualDishBeamDeg : UsualBeamWidthDeg;
+    return transmitter.kind == AntennaKind::Dish ? DefaultDishBeamDeg : DefaultBeamWidthDeg;
 }
 
 bool overlap(const Sector &one, const Sector &other)

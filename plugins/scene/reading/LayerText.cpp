@@ -34,8 +34,8 @@ namespace {
 /// empty and 0 if there is none.
 std::pair<std::string, std::size_t> referenceAt(std::string_view text)
 {
-    constexpr std::size_t Longest = sizeof("&#x10FFFF;");
-    const std::size_t end = text.substr(0, Longest).find(';');
+    constexpr std::size_t MaxLength = sizeof("&#x10FFFF;");
+    const std::size_t end = text.substr(0, MaxLength).find(';');
     if (!text.starts_with("&#") || end == std::string_view::npos)
         return {};
     const bool isHex = text.substr(2).starts_with('x');

@@ -16,7 +16,7 @@ namespace vlt::scene {
 
 namespace {
 
-constexpr double FarthestM = 3e7; ///< from the median; more than half the earth's circumference
+constexpr double MaxDistanceM = 3e7; ///< from the median; more than half the earth's circumference
 
 std::optional<double> numberIn(std::string_view text)
 {
@@ -53,7 +53,7 @@ std::vector<osg::Vec2d> likely(const std::vector<osg::Vec2d> &places, double uni
     std::vector<osg::Vec2d> near;
     std::copy_if(
         places.begin(), places.end(), std::back_inserter(near),
-        [&](const osg::Vec2d &place) { return (place - midst).length() * unitM <= FarthestM; });
+        [&](const osg::Vec2d &place) { return (place - midst).length() * unitM <= MaxDistanceM; });
     return near;
 }
 
@@ -158,7 +158,7 @@ SceneFrame moveToFrame(const OGRSpatialReference *srs, std::vector<osg::Vec2d> &
     SceneFrame frame{std::make_shared<LocalFrame>(srs, likely(places, unitM)), nameOf(srs)};
     for (osg::Vec2d &place : places) {
         place = frame.local->toFrame(place);
-        if (!(place.length() <= FarthestM))
+        if (!(place.length() <= MaxDistanceM))
             place.x() = std::numeric_limits<double>::quiet_NaN();
     }
     return frame;

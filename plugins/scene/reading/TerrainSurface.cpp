@@ -61,7 +61,7 @@ public:
         const double margin = std::max(Margin * std::max(width, depth), NarrowestM);
         m_least.set(extent.xMin() - margin, extent.yMin() - margin);
         const double longer = std::max(width, depth) + 2 * margin;
-        m_stepM = longer / (MostSurfacePoints - 1);
+        m_stepM = longer / (MaxSurfacePoints - 1);
         m_columns = pointsOver(width + 2 * margin);
         m_rows = pointsOver(depth + 2 * margin);
         m_heights.reserve(m_columns * m_rows);
@@ -102,7 +102,7 @@ private:
     std::size_t pointsOver(double lengthM) const
     {
         return std::min<std::size_t>(static_cast<std::size_t>(std::lround(lengthM / m_stepM)) + 1,
-                                     MostSurfacePoints);
+                                     MaxSurfacePoints);
     }
 
     osg::Vec2d at(std::size_t column, std::size_t row) const

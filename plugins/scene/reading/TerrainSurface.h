@@ -9,7 +9,7 @@
 namespace vlt::scene {
 
 /// Maximum number of points of a surface along each side.
-inline constexpr unsigned MostSurfacePoints = 300;
+inline constexpr unsigned MaxSurfacePoints = 300;
 
 /// The surface of the terrain under a scene, in earth colours by height, with hill shading. Level
 /// ground that is not above sea level is water. Where the terrain has no height, there is a hole.

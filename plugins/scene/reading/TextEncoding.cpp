@@ -65,12 +65,12 @@ std::string declaredEncoding(std::string_view text)
 /// The text converted to UTF-8; nothing if the encoding is unknown or the bytes are invalid in it.
 std::optional<std::string> converted(std::string bytes, const std::string &encoding)
 {
-    constexpr std::size_t MostBytesOfALetter = 4;
+    constexpr std::size_t MaxBytesPerCharacter = 4;
     const iconv_t way = iconv_open("UTF-8", encoding.c_str());
     // NOLINTNEXTLINE(performance-no-int-to-ptr): the value that iconv_open() returns on failure
     if (way == reinterpret_cast<iconv_t>(-1))
         return std::nullopt;
-    std::string text(bytes.size() * MostBytesOfALetter, '\0');
+    std::string text(bytes.size() * MaxBytesPerCharacter, '\0');
     char *from = bytes.data();
     char *to = text.data();
     std::size_t bytesLeft = bytes.size();

@@ -17,7 +17,7 @@ namespace {
 
 /// Maximum width of the column of names, so that a long name does not move the clearance out of
 /// view.
-constexpr int MostNameCharacters = 24;
+constexpr int MaxNameCharacters = 24;
 
 } // namespace
 
@@ -63,7 +63,7 @@ void VltLinkDetails::showLinks(const QList<LinkReport> &links)
 {
     m_linkModel->setLinks(links);
     setTableCount(m_pwTvLinks, tr("Links", "MESS_LINKS"), links.size());
-    const int longName = MostNameCharacters * m_pwTvLinks->fontMetrics().averageCharWidth();
+    const int longName = MaxNameCharacters * m_pwTvLinks->fontMetrics().averageCharWidth();
     constexpr int Name = vlt::links::LinkReportModel::Name;
     m_pwTvLinks->setColumnWidth(Name, qMin(longName, m_pwTvLinks->columnWidth(Name)));
 }

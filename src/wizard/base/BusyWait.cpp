@@ -15,7 +15,7 @@ namespace {
 /// Work that ends within this time shows no dialog.
 constexpr int PatienceMs = 250;
 constexpr int PollMs = 20;
-constexpr int UsualCharacters = 50;
+constexpr int DefaultCharacters = 50;
 constexpr double PerCent = 100;
 
 std::atomic<int> runningWorks = 0;
@@ -47,7 +47,7 @@ bool waitWithDialog(QWidget *parent, const QString &text, QProgressBar *bar, Job
     QProgressDialog dialog(parent);
     dialog.setWindowModality(Qt::WindowModal);
     dialog.setLabelText(text);
-    dialog.setMinimumWidth(dialog.fontMetrics().averageCharWidth() * UsualCharacters);
+    dialog.setMinimumWidth(dialog.fontMetrics().averageCharWidth() * DefaultCharacters);
     if (parent)
         dialog.setWindowTitle(parent->window()->windowTitle());
     dialog.setBar(bar);
