@@ -9,8 +9,8 @@
 #include "batch/ProgressLine.h"
 #include "batch/SiteOptions.h"
 #include "language/VltLanguageManager.h"
+#include "links/ClearanceText.h"
 #include "links/LinkLayer.h"
-#include "links/VerdictText.h"
 
 #include <QFileInfo>
 #include <QJsonDocument>
@@ -83,15 +83,15 @@ Result<LinkRequest> readLinkRequest(const QCommandLineParser &parser)
 Result<geodata::LinkCheck> readLinks(const links::LinkLayerInput &input, const LinkRequest &wanted,
                                      bool quiet)
 {
-    geodata::LinkJudging judging;
-    judging.rule = {wanted.look.fresnelSharePercent / 100.0, wanted.look.kFactor};
+    geodata::LinkCheckInput input;
+    input.rule = {wanted.look.fresnelSharePercent / 100.0, wanted.look.kFactor};
     if (wanted.report)
-        judging.terrainFile = input.project.terrainFile;
+        input.terrainFile = input.project.terrainFile;
     ProgressLine line(dico_label("MESS_CLI_READING_LINKS", "Reading the links"), !quiet);
     const QString connection =
         sites::resolvedConnection(links::linkQuery(input), input.project.directory());
     // The progress line never stops the work, so there is a value.
-    return *geodata::readLinkCheck(connection, judging, line.progress(),
+    return *geodata::readLinkCheck(connection, input, line.progress(),
                                    {input.sourceSrs, input.targetSrs});
 }
 

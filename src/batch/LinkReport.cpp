@@ -2,7 +2,7 @@
 
 #include "batch/AlignedText.h"
 #include "language/VltLanguageManager.h"
-#include "links/VerdictText.h"
+#include "links/ClearanceText.h"
 #include "text/Numbers.h"
 
 #include <QJsonArray>
@@ -13,25 +13,26 @@ namespace vlt::batch {
 
 namespace {
 
-using linkpath::Verdict;
+using linkpath::ClearanceStatus;
 
-constexpr std::array<Verdict, 4> Verdicts = {Verdict::Clear, Verdict::Marginal, Verdict::Obstructed,
-                                             Verdict::Unknown};
+constexpr std::array<ClearanceStatus, 4> Statuses = {
+    ClearanceStatus::Clear, ClearanceStatus::Marginal, ClearanceStatus::Obstructed,
+    ClearanceStatus::Unknown};
 /// The first column with numbers; those before it have texts.
 constexpr qsizetype FirstNumber = 5;
 constexpr qsizetype NumberCount = 5;
 
 /// The class of clearance in JSON.
-QString verdictKey(Verdict verdict)
+QString clearanceKey(ClearanceStatus status)
 {
-    switch (verdict) {
-    case Verdict::Clear:
+    switch (status) {
+    case ClearanceStatus::Clear:
         return QStringLiteral("clear");
-    case Verdict::Marginal:
+    case ClearanceStatus::Marginal:
         return QStringLiteral("marginal");
-    case Verdict::Obstructed:
+    case ClearanceStatus::Obstructed:
         return QStringLiteral("obstructed");
-    case Verdict::Unknown:
+    case ClearanceStatus::Unknown:
         break;
     }
     return QStringLiteral("unknown");
@@ -61,11 +62,11 @@ QJsonValue lackKey(linkpath::Lack lack)
     return QJsonValue(QJsonValue::Null);
 }
 
-qint64 countOf(const geodata::LinkCheck &check, Verdict verdict)
+qint64 countOf(const geodata::LinkCheck &check, ClearanceStatus status)
 {
     return std::count_if(
         check.links.begin(), check.links.end(),
-        [verdict](const geodata::LinkReport &link) { return link.clearance.verdict == verdict; });
+        [status](const geodata::LinkReport &link) { return link.clearance.status == status; });
 }
 
 QString fixed(double value, int decimals)
@@ -100,7 +101,7 @@ QStringList tableRow(const geodata::LinkReport &link)
             orDash(link.name),
             orDash(link.endA),
             orDash(link.endB),
-            link.isPlaced ? links::verdictText(link.clearance.verdict)
+            link.isPlaced ? links::clearanceText(link.clearance.status)
                           : dico_label("MESS_CLI_NOT_PLACED", "not placed"),
             orDash(link.lengthM ? fixed(*link.lengthM / 1000, 3) : QString()),
             orDash(link.frequencyMHz ? text::g9(*link.frequencyMHz) : QString()),
@@ -137,7 +138,7 @@ QJsonObject linkJson(const geodata::LinkReport &link)
             {QStringLiteral("placed"), link.isPlaced},
             {QStringLiteral("lengthM"), orNull(link.lengthM)},
             {QStringLiteral("frequencyMHz"), orNull(link.frequencyMHz)},
-            {QStringLiteral("verdict"), verdictKey(link.clearance.verdict)},
+            {QStringLiteral("verdict"), clearanceKey(link.clearance.status)},
             {QStringLiteral("why"), lackKey(link.clearance.lack)},
             {QStringLiteral("worst"), worstJson(link.clearance.worst)}};
 }
@@ -151,8 +152,8 @@ QString linkReportText(const geodata::LinkCheck &check)
         rows << tableRow(link);
     QList<Line> counts = {{dico_label("MESS_CLI_LINK_COUNT", "Number of links"),
                            {QString::number(check.placement.features)}}};
-    for (const Verdict verdict : Verdicts)
-        counts << Line{links::verdictText(verdict), {QString::number(countOf(check, verdict))}};
+    for (const ClearanceStatus status : Statuses)
+        counts << Line{links::clearanceText(status), {QString::number(countOf(check, status))}};
     return alignedTable(rows, FirstNumber, NumberCount) + QLatin1Char('\n') + aligned(counts);
 }
 
@@ -162,8 +163,8 @@ QJsonObject linkReportJson(const geodata::LinkCheck &check)
     for (const geodata::LinkReport &link : check.links)
         list.append(linkJson(link));
     QJsonObject counts;
-    for (const Verdict verdict : Verdicts)
-        counts.insert(verdictKey(verdict), countOf(check, verdict));
+    for (const ClearanceStatus status : Statuses)
+        counts.insert(clearanceKey(status), countOf(check, status));
     return {{QStringLiteral("links"), list}, {QStringLiteral("verdicts"), counts}};
 }
 

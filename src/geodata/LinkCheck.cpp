@@ -49,7 +49,7 @@ public:
         report.isPlaced = link->isPlaced();
         if (report.isPlaced) {
             ++m_placed;
-            report.clearance = m_profiler.judge(link->ends[0].place, link->ends[1].place,
+            report.clearance = m_profiler.check(link->ends[0].place, link->ends[1].place,
                                                 report.frequencyMHz.value_or(0), m_rule);
         }
         m_links << report;
@@ -74,7 +74,7 @@ QString terrainProblem(const QString &terrainFile)
     return problem;
 }
 
-Stoppable<LinkCheck> readLinkCheck(const QString &connection, const LinkJudging &judging,
+Stoppable<LinkCheck> readLinkCheck(const QString &connection, const LinkCheckInput &input,
                                    const Progress &progress, const SystemPair &systems)
 {
     const ErrorCollector errors;
@@ -87,12 +87,12 @@ Stoppable<LinkCheck> readLinkCheck(const QString &connection, const LinkJudging 
     if (!links || !ends)
         return check;
 
-    const auto terrain = openTerrain(judging.terrainFile, check.terrainProblem);
+    const auto terrain = openTerrain(input.terrainFile, check.terrainProblem);
     const linkpath::PathProfiler profiler(terrain, ends->GetSpatialRef());
     if (terrain && !profiler.hasTerrain())
         check.terrainProblem = TerrainElsewhere;
     linkpath::LinkEndReader reader(*ends->GetLayerDefn(), contract::LinkEndSiteField);
-    LinkCollector collector(judging.rule, profiler);
+    LinkCollector collector(input.rule, profiler);
     SystemChecker positions(systems, ends->GetSpatialRef());
     const Stoppable<qint64> walked =
         walkFeatures(*ends, progress, errors, [&](const OGRFeature &feature) {

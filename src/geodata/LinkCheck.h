@@ -25,7 +25,7 @@ struct LinkReport
 };
 
 /// Terrain and rule for the clearance of links.
-struct LinkJudging
+struct LinkCheckInput
 {
     QString terrainFile; ///< absolute path; if empty, no clearance is computed
     linkpath::ClearanceRule rule;
@@ -53,7 +53,7 @@ QString terrainProblem(const QString &terrainFile);
 /// @param progress  as for readSiteCheck()
 /// @param systems   the positions are compared with the areas of these systems
 /// @par Errors   the driver's reason as detail.
-Stoppable<LinkCheck> readLinkCheck(const QString &connection, const LinkJudging &judging,
+Stoppable<LinkCheck> readLinkCheck(const QString &connection, const LinkCheckInput &input,
                                    const Progress &progress, const SystemPair &systems = {});
 
 } // namespace vlt::geodata

@@ -4,22 +4,22 @@
 
 namespace vlt::linkpath {
 
-std::array<std::uint8_t, 3> verdictColor(Verdict verdict)
+std::array<std::uint8_t, 3> clearanceColor(ClearanceStatus status)
 {
-    switch (verdict) {
-    case Verdict::Clear:
+    switch (status) {
+    case ClearanceStatus::Clear:
         return {0, 158, 115};
-    case Verdict::Marginal:
+    case ClearanceStatus::Marginal:
         return {240, 180, 0};
-    case Verdict::Obstructed:
+    case ClearanceStatus::Obstructed:
         return {204, 30, 60};
-    case Verdict::Unknown:
+    case ClearanceStatus::Unknown:
         break;
     }
     return {128, 128, 128};
 }
 
-Clearance judgeProfile(const std::vector<ProfilePoint> &profile, double antennaAM, double antennaBM,
+Clearance checkProfile(const std::vector<ProfilePoint> &profile, double antennaAM, double antennaBM,
                        double frequencyMHz, const ClearanceRule &rule)
 {
     Clearance clearance;
@@ -43,9 +43,9 @@ Clearance judgeProfile(const std::vector<ProfilePoint> &profile, double antennaA
     if (!clearance.worst)
         return clearance;
     const double free = clearance.worst->freeShare();
-    clearance.verdict = free < 0            ? Verdict::Obstructed
-                        : free < rule.share ? Verdict::Marginal
-                                            : Verdict::Clear;
+    clearance.status = free < 0            ? ClearanceStatus::Obstructed
+                       : free < rule.share ? ClearanceStatus::Marginal
+                                           : ClearanceStatus::Clear;
     return clearance;
 }
 

@@ -10,7 +10,7 @@
 namespace vlt::linkpath {
 
 /// The class of a path's clearance.
-enum class Verdict {
+enum class ClearanceStatus {
     Unknown,    ///< the terrain, the frequency or an antenna height is missing
     Clear,      ///< the required share of the first Fresnel zone is free along the whole path
     Marginal,   ///< the line of sight is free, the required share is not
@@ -31,7 +31,7 @@ enum class Lack {
 
 /// Red, green and blue of a class of clearance, for lines and marks. Readers who cannot distinguish
 /// red from green can distinguish these colours.
-std::array<std::uint8_t, 3> verdictColor(Verdict verdict);
+std::array<std::uint8_t, 3> clearanceColor(ClearanceStatus status);
 
 /// The required clearance; the defaults are those of a first run.
 struct ClearanceRule
@@ -64,8 +64,8 @@ struct WorstPoint
 /// The clearance of a link.
 struct Clearance
 {
-    Verdict verdict = Verdict::Unknown;
-    Lack lack = Lack::Place;         ///< the reason for Verdict::Unknown, else Nothing
+    ClearanceStatus status = ClearanceStatus::Unknown;
+    Lack lack = Lack::Place;         ///< the reason for ClearanceStatus::Unknown, else Nothing
     std::optional<WorstPoint> worst; ///< within the part of the path whose terrain is known
 };
 
@@ -75,7 +75,7 @@ struct Clearance
 /// @param antennaAM      height of the antenna's centre at end A above sea level
 /// @param antennaBM      the same at end B
 /// @param frequencyMHz   positive
-Clearance judgeProfile(const std::vector<ProfilePoint> &profile, double antennaAM, double antennaBM,
+Clearance checkProfile(const std::vector<ProfilePoint> &profile, double antennaAM, double antennaBM,
                        double frequencyMHz, const ClearanceRule &rule);
 
 } // namespace vlt::linkpath

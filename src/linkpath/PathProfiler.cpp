@@ -188,28 +188,28 @@ std::optional<double> PathProfiler::groundM(double x, double y) const
     return m_parts->groundM(x, y);
 }
 
-Clearance PathProfiler::judge(const LinkEnd &a, const LinkEnd &b, double frequencyMHz,
+Clearance PathProfiler::check(const LinkEnd &a, const LinkEnd &b, double frequencyMHz,
                               const ClearanceRule &rule) const
 {
-    const auto unjudged = [](Lack lack) { return Clearance{Verdict::Unknown, lack, {}}; };
+    const auto unchecked = [](Lack lack) { return Clearance{ClearanceStatus::Unknown, lack, {}}; };
     if (!hasTerrain())
-        return unjudged(Lack::Terrain);
+        return unchecked(Lack::Terrain);
     if (!a.heightM || !b.heightM)
-        return unjudged(a.heightM ? Lack::HeightB : Lack::HeightA);
+        return unchecked(a.heightM ? Lack::HeightB : Lack::HeightA);
     if (!(frequencyMHz > 0))
-        return unjudged(Lack::Frequency);
+        return unchecked(Lack::Frequency);
     const std::optional<Arc> arc = m_parts->arc(a, b);
     if (!arc)
-        return unjudged(Lack::Place);
+        return unchecked(Lack::Place);
     const std::optional<double> groundA = groundM(a.x, a.y);
     const std::optional<double> groundB = groundM(b.x, b.y);
     if (!groundA || !groundB)
-        return unjudged(Lack::TerrainOfPath);
+        return unchecked(Lack::TerrainOfPath);
     bool whole = false;
-    Clearance clearance = judgeProfile(m_parts->profile(a, *arc, whole), *groundA + *a.heightM,
+    Clearance clearance = checkProfile(m_parts->profile(a, *arc, whole), *groundA + *a.heightM,
                                        *groundB + *b.heightM, frequencyMHz, rule);
-    if (!whole && clearance.verdict != Verdict::Obstructed) {
-        clearance.verdict = Verdict::Unknown;
+    if (!whole && clearance.status != ClearanceStatus::Obstructed) {
+        clearance.status = ClearanceStatus::Unknown;
         clearance.lack = Lack::TerrainOfPath;
     }
     return clearance;

@@ -41,7 +41,7 @@ public:
     /// Computes the clearance of a link. Its class is Unknown if a height, the frequency (also one
     /// that is not positive) or a part of the terrain is missing. If the known terrain obstructs
     /// the line of sight, it is Obstructed even if another part is missing.
-    Clearance judge(const LinkEnd &a, const LinkEnd &b, double frequencyMHz,
+    Clearance check(const LinkEnd &a, const LinkEnd &b, double frequencyMHz,
                     const ClearanceRule &rule) const;
 
 private:

@@ -2,8 +2,8 @@
 
 #include "contract/Installation.h"
 #include "language/VltLanguageManager.h"
+#include "links/ClearanceText.h"
 #include "links/LinkInfoPage.h"
-#include "links/VerdictText.h"
 #include "text/Numbers.h"
 
 #include <QDir>
@@ -71,8 +71,8 @@ QString demoPylons(const sites::SiteRepresentation &look, const sites::SectorCol
 /// of a clear path and the second one that of an obstructed path.
 QString demoLinks(const LinkRepresentation &links)
 {
-    constexpr std::array<linkpath::Verdict, 2> Verdicts = {linkpath::Verdict::Clear,
-                                                           linkpath::Verdict::Obstructed};
+    constexpr std::array<linkpath::ClearanceStatus, 2> Statuses = {
+        linkpath::ClearanceStatus::Clear, linkpath::ClearanceStatus::Obstructed};
     QString text;
     for (std::size_t i = 0; i < DemoHeightsM.size(); ++i) {
         const DemoPylon &from = DemoPylons[i];
@@ -85,7 +85,7 @@ QString demoLinks(const LinkRepresentation &links)
                     .arg(to.y)
                     .arg(DemoFrequencyMHz);
         if (links.colorByClearance) {
-            QColor color = colorOfVerdict(Verdicts[i]);
+            QColor color = colorOfClearance(Statuses[i]);
             color.setAlpha(links.color.alpha());
             text += QLatin1Char(' ') + sites::colorText(color, 0);
         }

@@ -48,7 +48,7 @@ private Q_SLOTS:
         writeFile(path(u"elsewhere/old.lay"_s), "old");
     }
 
-    void judgesLinksOverATerrain_data()
+    void checksLinksOverATerrain_data()
     {
         QTest::addColumn<int>("ridge");
         QTest::addColumn<QString>("options");
@@ -66,7 +66,7 @@ private Q_SLOTS:
         QTest::newRow("the line is cut") << 131 << u""_s << u"obstructed"_s << qQNaN();
     }
 
-    void judgesLinksOverATerrain()
+    void checksLinksOverATerrain()
     {
         QFETCH(int, ridge);
         QFETCH(QString, options);

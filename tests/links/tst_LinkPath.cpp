@@ -65,10 +65,10 @@ private Q_SLOTS:
     void radii_data();
     void radii();
     void ellipsoidsTouchTheRadius();
-    void verdicts_data();
-    void verdicts();
+    void statuses_data();
+    void statuses();
     void distances();
-    void whatCannotBeJudged();
+    void whatCannotBeChecked();
     void heights_data();
     void heights();
     void heightsBehindAPicture();
@@ -118,42 +118,42 @@ void tst_LinkPath::ellipsoidsTouchTheRadius()
 // 10 km at 6 GHz, antennas 150 m above the sea, a wall in the middle. There the first zone has a
 // radius of sqrt(0.04997 * 5000 * 5000/10000) = 11.18 m, and the bulge of the earth is 5000 *
 // 5000/(2 * 4/3 * 6371009) = 1.47 m.
-void tst_LinkPath::verdicts_data()
+void tst_LinkPath::statuses_data()
 {
     QTest::addColumn<double>("wall");
     QTest::addColumn<double>("share");
     QTest::addColumn<double>("k");
     QTest::addColumn<int>("verdict");
     QTest::addColumn<double>("clearance");
-    const auto row = [](const char *name, double wall, double share, double k, Verdict verdict,
-                        double clearance) {
-        QTest::newRow(name) << wall << share << k << static_cast<int>(verdict) << clearance;
+    const auto row = [](const char *name, double wall, double share, double k,
+                        ClearanceStatus status, double clearance) {
+        QTest::newRow(name) << wall << share << k << static_cast<int>(status) << clearance;
     };
-    row("60 % of 11.18 m are free", 140, 0.6, 4.0 / 3, Verdict::Clear, 8.53);
-    row("all of it is not", 140, 1, 4.0 / 3, Verdict::Marginal, 8.53);
-    row("near miss", 147.9, 0.6, 4.0 / 3, Verdict::Marginal, 0.63);
-    row("cut by the curvature alone", 149, 0.6, 4.0 / 3, Verdict::Obstructed, -0.47);
-    row("flat earth", 149, 0.6, 1e6, Verdict::Marginal, 1);
-    row("bent downwards", 147.9, 0.6, 0.6, Verdict::Obstructed, 2.1 - 3.27);
-    row("hill", 180, 0.6, 4.0 / 3, Verdict::Obstructed, -31.47);
+    row("60 % of 11.18 m are free", 140, 0.6, 4.0 / 3, ClearanceStatus::Clear, 8.53);
+    row("all of it is not", 140, 1, 4.0 / 3, ClearanceStatus::Marginal, 8.53);
+    row("near miss", 147.9, 0.6, 4.0 / 3, ClearanceStatus::Marginal, 0.63);
+    row("cut by the curvature alone", 149, 0.6, 4.0 / 3, ClearanceStatus::Obstructed, -0.47);
+    row("flat earth", 149, 0.6, 1e6, ClearanceStatus::Marginal, 1);
+    row("bent downwards", 147.9, 0.6, 0.6, ClearanceStatus::Obstructed, 2.1 - 3.27);
+    row("hill", 180, 0.6, 4.0 / 3, ClearanceStatus::Obstructed, -31.47);
 }
 
-void tst_LinkPath::verdicts()
+void tst_LinkPath::statuses()
 {
     QFETCH(double, wall);
     QFETCH(double, share);
     QFETCH(double, k);
-    QFETCH(int, verdict);
+    QFETCH(int, status);
     QFETCH(double, clearance);
     const PathProfiler profiler(terrain(m_dir.filePath(QStringLiteral("terrain.tif")), wall),
                                 utm().get());
     for (const bool swapped : {false, true}) {
-        const Clearance judged = profiler.judge(swapped ? EastEnd : WestEnd,
-                                                swapped ? WestEnd : EastEnd, 6000, {share, k});
-        QCOMPARE(static_cast<int>(judged.verdict), verdict);
-        QVERIFY(std::abs(judged.worst->clearanceM - clearance) < 0.02);
-        QVERIFY(std::abs(judged.worst->radiusM - 11.18) < 0.01);
-        QVERIFY(std::abs(judged.worst->distanceM - 5000) < 80); // the wall is 150 m wide
+        const Clearance checked = profiler.check(swapped ? EastEnd : WestEnd,
+                                                 swapped ? WestEnd : EastEnd, 6000, {share, k});
+        QCOMPARE(static_cast<int>(checked.status), status);
+        QVERIFY(std::abs(checked.worst->clearanceM - clearance) < 0.02);
+        QVERIFY(std::abs(checked.worst->radiusM - 11.18) < 0.01);
+        QVERIFY(std::abs(checked.worst->distanceM - 5000) < 80); // the wall is 150 m wide
     }
 }
 
@@ -176,23 +176,23 @@ void tst_LinkPath::distances()
     QVERIFY(std::abs(*plane.azimuthDeg({100, 100, {}}, {97, 104, {}}) - 323.13) < 0.01);
 }
 
-void tst_LinkPath::whatCannotBeJudged()
+void tst_LinkPath::whatCannotBeChecked()
 {
-    const auto judged = [this](double wall, int otherColumn, double otherM, LinkEnd a, double f) {
+    const auto checked = [this](double wall, int otherColumn, double otherM, LinkEnd a, double f) {
         const PathProfiler profiler(
             terrain(m_dir.filePath(QStringLiteral("holes.tif")), wall, otherColumn, otherM),
             utm().get());
-        const Clearance clearance = profiler.judge(a, EastEnd, f, {});
-        return std::pair(clearance.verdict, clearance.lack);
+        const Clearance clearance = profiler.check(a, EastEnd, f, {});
+        return std::pair(clearance.status, clearance.lack);
     };
-    const auto unknown = [](Lack lack) { return std::pair(Verdict::Unknown, lack); };
-    QCOMPARE(judged(110, -1, 0, WestEnd, 6000), std::pair(Verdict::Clear, Lack::Nothing));
-    QCOMPARE(judged(110, -1, 0, WestEnd, 0), unknown(Lack::Frequency));
-    QCOMPARE(judged(110, -1, 0, {WestEnd.x, WestEnd.y, {}}, 6000), unknown(Lack::HeightA));
-    QCOMPARE(judged(110, 100, NoDataM, WestEnd, 6000), unknown(Lack::TerrainOfPath));
-    QCOMPARE(judged(160, 100, NoDataM, WestEnd, 6000),
-             std::pair(Verdict::Obstructed, Lack::Nothing));
-    QCOMPARE(judged(110, -1, 0, {WestM - 500, WestEnd.y, 50.0}, 6000),
+    const auto unknown = [](Lack lack) { return std::pair(ClearanceStatus::Unknown, lack); };
+    QCOMPARE(checked(110, -1, 0, WestEnd, 6000), std::pair(ClearanceStatus::Clear, Lack::Nothing));
+    QCOMPARE(checked(110, -1, 0, WestEnd, 0), unknown(Lack::Frequency));
+    QCOMPARE(checked(110, -1, 0, {WestEnd.x, WestEnd.y, {}}, 6000), unknown(Lack::HeightA));
+    QCOMPARE(checked(110, 100, NoDataM, WestEnd, 6000), unknown(Lack::TerrainOfPath));
+    QCOMPARE(checked(160, 100, NoDataM, WestEnd, 6000),
+             std::pair(ClearanceStatus::Obstructed, Lack::Nothing));
+    QCOMPARE(checked(110, -1, 0, {WestM - 500, WestEnd.y, 50.0}, 6000),
              unknown(Lack::TerrainOfPath));
 }
 

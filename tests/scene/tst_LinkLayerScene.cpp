@@ -15,7 +15,7 @@ namespace {
 
 using namespace layertest;
 using namespace vlt::scene;
-using vlt::linkpath::Verdict;
+using vlt::linkpath::ClearanceStatus;
 
 // Positions in RGF93. In Lambert-93 A is (650000, 6860000), A1 is one metre north of it, B 3000 m
 // east and 4000 m north of A, C 4000 m east of A.
@@ -161,17 +161,17 @@ private Q_SLOTS:
         QCOMPARE(records.pylons.designs[0].heightM, 92.0);
     }
 
-    void colorsLinksByTheirVerdicts()
+    void colorsLinksByTheirClearance()
     {
         const LinkRecords records = recordsOf(linkSource());
 
         // Halfway between B and C the radius of the first zone is 3.66 m; 2 m less 0.25 m of
         // curvature are free.
-        const std::array<Verdict, 3> expected{Verdict::Clear, Verdict::Obstructed,
-                                              Verdict::Marginal};
+        const std::array<ClearanceStatus, 3> expected{
+            ClearanceStatus::Clear, ClearanceStatus::Obstructed, ClearanceStatus::Marginal};
         QCOMPARE(records.links.size(), std::size_t{4});
         for (std::size_t i = 0; i < expected.size(); ++i) {
-            const auto rgb = vlt::linkpath::verdictColor(expected[i]);
+            const auto rgb = vlt::linkpath::clearanceColor(expected[i]);
             QVERIFY(records.links[i].color == Color(rgb[0], rgb[1], rgb[2], 0x80));
         }
         QVERIFY(!records.links[3].color && records.links[3].frequencyMHz == 0);

@@ -116,7 +116,7 @@ private Q_SLOTS:
         QVERIFY(!flow.icon->isEnabled());
     }
 
-    void judgesTheLinksAgainAfterAChange()
+    void checksTheLinksAgainAfterAChange()
     {
         WizardOnLinkPage flow;
         dropFiles(flow.page, {Links});
@@ -127,10 +127,10 @@ private Q_SLOTS:
             return table->model()->index(row, column).data().toString();
         };
 
-        table->selectRow(19);                                     // MW-20
-        table->sortByColumn(Column::Verdict, Qt::AscendingOrder); // the worst first
+        table->selectRow(19);                                             // MW-20
+        table->sortByColumn(Column::ClearanceStatus, Qt::AscendingOrder); // the worst first
         QCOMPARE(cell(0, Column::Name), u"MW-21"_s);
-        QCOMPARE(cell(0, Column::Verdict), u"obstructed"_s);
+        QCOMPARE(cell(0, Column::ClearanceStatus), u"obstructed"_s);
         QVERIFY(cell(0, Column::Worst).contains(u"above the line"_s));
         table->sortByColumn(Column::Length, Qt::DescendingOrder); // the longest first
         QCOMPARE(cell(0, Column::Name), u"MW-19"_s);
@@ -153,7 +153,7 @@ private Q_SLOTS:
         QCOMPARE(selected.value(0).data(), u"MW-20"_s);
     }
 
-    void showsLongTextsWithoutHidingTheVerdict()
+    void showsLongTextsWithoutHidingTheStatus()
     {
         const QString path =
             writeFile(m_dir.filePath(u"long.csv"_s),
@@ -193,7 +193,7 @@ private Q_SLOTS:
         QCOMPARE(passed, stops);
     }
 
-    void tellsWhyNothingIsJudged()
+    void saysWhyNothingIsChecked()
     {
         WizardOnLinkPage flow(writeFile(m_dir.filePath(u"flat.gvw"_s)));
 
@@ -201,7 +201,7 @@ private Q_SLOTS:
 
         QTRY_COMPARE_WITH_TIMEOUT(
             flow.remark(), u"The links are not judged: the project has no terrain"_s, PatienceMs);
-        QCOMPARE(flow.table()->model()->index(0, Column::Verdict).data(), u"not judged"_s);
+        QCOMPARE(flow.table()->model()->index(0, Column::ClearanceStatus).data(), u"not judged"_s);
     }
 
     void showsTheDemonstrationOrTheLinksOfTheLayer()

@@ -18,15 +18,15 @@ osg::ref_ptr<osg::Group> buildLinkLayerScene(const LinkRows &rows, LinkRecords r
     tellCount(*group, "links", records.links.size());
     tellCount(*group, "pylons", records.pylons.sites.size());
     tellCount(*group, "unplaced", rows.unplaced);
-    static constexpr std::array<std::pair<const char *, linkpath::Verdict>, 4> Verdicts = {{
-        {"clear", linkpath::Verdict::Clear},
-        {"marginal", linkpath::Verdict::Marginal},
-        {"obstructed", linkpath::Verdict::Obstructed},
-        {"unknown", linkpath::Verdict::Unknown},
+    static constexpr std::array<std::pair<const char *, linkpath::ClearanceStatus>, 4> Statuses = {{
+        {"clear", linkpath::ClearanceStatus::Clear},
+        {"marginal", linkpath::ClearanceStatus::Marginal},
+        {"obstructed", linkpath::ClearanceStatus::Obstructed},
+        {"unknown", linkpath::ClearanceStatus::Unknown},
     }};
-    for (const auto &[name, verdict] : Verdicts) {
-        if (!records.verdicts.empty())
-            tellCount(*group, name, records.verdicts[verdict]);
+    for (const auto &[name, status] : Statuses) {
+        if (!records.statuses.empty())
+            tellCount(*group, name, records.statuses[status]);
     }
     if (rows.isCut)
         tellCut(*group);

@@ -116,7 +116,7 @@ private:
         }
         LinkObject link{centres[0], centres[1], row.frequencyMHz, {}};
         if (m_style.look.colorByClearance)
-            judge(row, link);
+            check(row, link);
         m_records.links.push_back(link);
     }
 
@@ -130,15 +130,15 @@ private:
         design.transmitters.push_back(dishAlong(way, heightM, colors[count % colors.size()]));
     }
 
-    void judge(const LinkRow &row, LinkObject &link)
+    void check(const LinkRow &row, LinkObject &link)
     {
-        const linkpath::Verdict verdict =
-            m_profiler.judge(row.ends[0].end, row.ends[1].end, row.frequencyMHz, m_style.rule())
-                .verdict;
-        ++m_records.verdicts[verdict];
-        if (verdict == linkpath::Verdict::Unknown)
+        const linkpath::ClearanceStatus status =
+            m_profiler.check(row.ends[0].end, row.ends[1].end, row.frequencyMHz, m_style.rule())
+                .status;
+        ++m_records.statuses[status];
+        if (status == linkpath::ClearanceStatus::Unknown)
             return;
-        const std::array<std::uint8_t, 3> rgb = linkpath::verdictColor(verdict);
+        const std::array<std::uint8_t, 3> rgb = linkpath::clearanceColor(status);
         link.color = Color(rgb[0], rgb[1], rgb[2], m_style.look.color.a());
     }
 

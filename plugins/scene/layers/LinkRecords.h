@@ -23,8 +23,9 @@ struct LinkRecords
 {
     PylonRecords pylons; ///< one at each position, with a dish for each link that ends there
     std::vector<LinkObject> links;
-    std::map<linkpath::Verdict, std::size_t> verdicts; ///< empty unless colours depend on them
-    std::size_t groundless = 0;                        ///< pylons without terrain under them
+    std::map<linkpath::ClearanceStatus, std::size_t>
+        statuses;               ///< empty unless colours depend on them
+    std::size_t groundless = 0; ///< pylons without terrain under them
 };
 
 /// Places links on the terrain, or at height 0 where its height is unknown.

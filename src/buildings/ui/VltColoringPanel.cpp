@@ -244,14 +244,14 @@ void VltColoringPanel::openImage(const QString &path, bool quiet)
         if (m_ui->m_pwCbSubdatsets->count() > 0)
             judgeSubdataset(quiet);
         else
-            judge(summary, absolute, quiet);
+            check(summary, absolute, quiet);
     }
     Q_EMIT parameterChanged();
 }
 
 /// Sets whether an image is usable and warns of an unusable one. A plain unusable image is closed,
 /// because the file has no other image to choose.
-void VltColoringPanel::judge(const std::optional<Summary> &summary, const QString &name, bool quiet)
+void VltColoringPanel::check(const std::optional<Summary> &summary, const QString &name, bool quiet)
 {
     const bool isOpen = summary && summary->ok();
     m_isUsable = isOpen && summary->value().bandCount == 1;
@@ -273,7 +273,7 @@ void VltColoringPanel::judge(const std::optional<Summary> &summary, const QStrin
 
 void VltColoringPanel::judgeSubdataset(bool quiet)
 {
-    judge(readSummary(m_openedImage, subdataset()), subdataset(), quiet);
+    check(readSummary(m_openedImage, subdataset()), subdataset(), quiet);
 }
 
 void VltColoringPanel::currentDatasetChanged()

@@ -88,7 +88,7 @@ private:
     void takeTypedImage();
     void showSubdatasets(const QList<vlt::geodata::Subdataset> &subdatasets);
     std::optional<Summary> readSummary(const QString &path, const QString &part);
-    void judge(const std::optional<Summary> &summary, const QString &name, bool quiet);
+    void check(const std::optional<Summary> &summary, const QString &name, bool quiet);
     void judgeSubdataset(bool quiet);
     bool readRange(const vlt::buildings::RasterColoring &coloring);
     QString subdataset() const;

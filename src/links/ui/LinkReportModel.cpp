@@ -1,6 +1,6 @@
 #include "links/ui/LinkReportModel.h"
 
-#include "links/VerdictText.h"
+#include "links/ClearanceText.h"
 #include "text/RichText.h"
 
 #include <QHash>
@@ -20,7 +20,7 @@ constexpr double MetresPerKm = 1000;
 constexpr int PerCent = 100;
 constexpr double HzPerMHz = 1e6;
 
-QIcon verdictIcon(linkpath::Verdict verdict)
+QIcon clearanceIcon(linkpath::ClearanceStatus status)
 {
     constexpr int Size = 12;
     constexpr int Density = 2; // pixels per unit, for screens of high density
@@ -30,7 +30,7 @@ QIcon verdictIcon(linkpath::Verdict verdict)
     QPainter painter(&picture);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(colorOfVerdict(verdict));
+    painter.setBrush(colorOfClearance(status));
     painter.drawEllipse(0, 0, Size, Size);
     return picture;
 }
@@ -46,8 +46,8 @@ double number(const geodata::LinkReport &link, int column)
         return link.lengthM.value_or(Unknown);
     case LinkReportModel::Frequency:
         return link.frequencyMHz.value_or(Unknown);
-    case LinkReportModel::Verdict:
-        return -static_cast<double>(link.clearance.verdict); // the worst class first
+    case LinkReportModel::ClearanceStatus:
+        return -static_cast<double>(link.clearance.status); // the worst class first
     default:
         return link.clearance.worst ? link.clearance.worst->freeShare() : Unknown;
     }
@@ -100,7 +100,8 @@ QVariant LinkReportModel::data(const QModelIndex &index, int role) const
     case Qt::ToolTipRole:
         return toolTip(link, column);
     case Qt::DecorationRole:
-        return column == Verdict ? QVariant(verdictIcon(link.clearance.verdict)) : QVariant();
+        return column == ClearanceStatus ? QVariant(clearanceIcon(link.clearance.status))
+                                         : QVariant();
     case Qt::TextAlignmentRole:
         return QVariant(
             Qt::AlignVCenter |
@@ -125,8 +126,8 @@ QVariant LinkReportModel::text(const geodata::LinkReport &link, int column) cons
                    ? m_locale.toString(std::round(*link.frequencyMHz * HzPerMHz) / HzPerMHz, 'f',
                                        QLocale::FloatingPointShortest)
                    : QString();
-    case Verdict:
-        return verdictText(link.clearance.verdict);
+    case ClearanceStatus:
+        return clearanceText(link.clearance.status);
     case Worst:
         return link.clearance.worst ? worstText(*link.clearance.worst)
                                     : lackText(link.clearance.lack);
@@ -138,8 +139,8 @@ QVariant LinkReportModel::text(const geodata::LinkReport &link, int column) cons
 QVariant LinkReportModel::toolTip(const geodata::LinkReport &link, int column) const
 {
     QString tip = text(link, column).toString();
-    const bool isUnjudged = link.clearance.verdict == linkpath::Verdict::Unknown;
-    if (isUnjudged && (column == Verdict || column == Worst))
+    const bool isUnchecked = link.clearance.status == linkpath::ClearanceStatus::Unknown;
+    if (isUnchecked && (column == ClearanceStatus || column == Worst))
         tip = lackText(link.clearance.lack) + QLatin1Char('\n') +
               tr("A link is judged by the places and the antenna heights of both ends, a frequency "
                  "and the terrain under the whole path",
@@ -175,7 +176,7 @@ QVariant LinkReportModel::headerData(int section, Qt::Orientation orientation, i
         return isWhole ? tr("Length (km)", "MESS_LENGTH_KM") : QStringLiteral("km");
     case Frequency:
         return isWhole ? tr("Frequency (MHz)", "MESS_FREQUENCY_MHZ") : QStringLiteral("MHz");
-    case Verdict:
+    case ClearanceStatus:
         return tr("Verdict", "MESS_VERDICT");
     default:
         return tr("Worst point", "MESS_WORST_POINT");

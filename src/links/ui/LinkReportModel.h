@@ -14,7 +14,7 @@ class LinkReportModel : public QAbstractTableModel
     Q_OBJECT
 
 public:
-    enum Column { Row, Name, Verdict, Worst, EndA, EndB, Length, Frequency, ColumnCount };
+    enum Column { Row, Name, ClearanceStatus, Worst, EndA, EndB, Length, Frequency, ColumnCount };
 
     using QAbstractTableModel::QAbstractTableModel;
 

@@ -1,7 +1,7 @@
 #include "links/ui/VltLinkDetails.h"
 
+#include "links/ClearanceText.h"
 #include "links/LinkColumnDescription.h"
-#include "links/VerdictText.h"
 #include "links/ui/LinkReportModel.h"
 
 #include <QHeaderView>
@@ -11,7 +11,7 @@
 
 using vlt::geodata::LinkCheck;
 using vlt::geodata::LinkReport;
-using vlt::linkpath::Verdict;
+using vlt::linkpath::ClearanceStatus;
 
 namespace {
 
@@ -41,18 +41,18 @@ void VltLinkDetails::showFile(const vlt::links::LinkFileInfo &file)
 }
 
 void VltLinkDetails::check(const QString &connection, const vlt::geodata::SystemPair &systems,
-                           const vlt::geodata::LinkJudging &judging)
+                           const vlt::geodata::LinkCheckInput &input)
 {
     const QString what = QStringLiteral("%1 %2\n")
-                             .arg(judging.rule.share)
-                             .arg(judging.rule.kFactor, 0, 'g', QLocale::FloatingPointShortest) +
-                         judging.terrainFile + QLatin1Char('\n') + connection;
+                             .arg(input.rule.share)
+                             .arg(input.rule.kFactor, 0, 'g', QLocale::FloatingPointShortest) +
+                         input.terrainFile + QLatin1Char('\n') + connection;
     checkOnce<LinkCheck>(
         what,
-        [connection, systems, judging](const vlt::Progress &progress) {
-            return vlt::geodata::readLinkCheck(connection, judging, progress, systems);
+        [connection, systems, input](const vlt::Progress &progress) {
+            return vlt::geodata::readLinkCheck(connection, input, progress, systems);
         },
-        [this, systems, hasTerrain = !judging.terrainFile.isEmpty()](const LinkCheck &check) {
+        [this, systems, hasTerrain = !input.terrainFile.isEmpty()](const LinkCheck &check) {
             showLinks(check.links);
             showOutcome(check, systems);
             showClearance(check, hasTerrain);
@@ -85,16 +85,16 @@ void VltLinkDetails::showClearance(const LinkCheck &check, bool hasTerrain)
     }
     std::array<int, 4> counts = {};
     for (const LinkReport &link : check.links)
-        ++counts[static_cast<std::size_t>(link.clearance.verdict)];
-    const auto count = [&counts](Verdict verdict) {
-        return counts[static_cast<std::size_t>(verdict)];
+        ++counts[static_cast<std::size_t>(link.clearance.status)];
+    const auto count = [&counts](ClearanceStatus status) {
+        return counts[static_cast<std::size_t>(status)];
     };
     QString text = tr("%1 clear, %2 marginal, %3 obstructed", "MESS_VERDICT_COUNTS")
-                       .arg(count(Verdict::Clear))
-                       .arg(count(Verdict::Marginal))
-                       .arg(count(Verdict::Obstructed));
-    if (count(Verdict::Unknown) > 0)
-        text += tr(", %1 not judged", "MESS_UNJUDGED_COUNT").arg(count(Verdict::Unknown));
+                       .arg(count(ClearanceStatus::Clear))
+                       .arg(count(ClearanceStatus::Marginal))
+                       .arg(count(ClearanceStatus::Obstructed));
+    if (count(ClearanceStatus::Unknown) > 0)
+        text += tr(", %1 not judged", "MESS_UNJUDGED_COUNT").arg(count(ClearanceStatus::Unknown));
     showRemark(text);
 }
 

@@ -25,7 +25,7 @@ public:
     /// @param connection  the table with its coordinate systems and an absolute path
     /// @param systems     the same coordinate systems
     void check(const QString &connection, const vlt::geodata::SystemPair &systems,
-               const vlt::geodata::LinkJudging &judging);
+               const vlt::geodata::LinkCheckInput &input);
 
 private:
     void forgetRows() override;

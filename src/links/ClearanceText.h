@@ -8,14 +8,14 @@
 namespace vlt::links {
 
 /// Name of a class of clearance, in the chosen language.
-QString verdictText(linkpath::Verdict verdict);
+QString clearanceText(linkpath::ClearanceStatus status);
 
 /// The input that is missing for the clearance of a link, in the chosen language; empty for
 /// Lack::Nothing.
 QString lackText(linkpath::Lack lack);
 
 /// The colour of a class of clearance.
-QColor colorOfVerdict(linkpath::Verdict verdict);
+QColor colorOfClearance(linkpath::ClearanceStatus status);
 
 /// LinkCheck::terrainProblem as a sentence in the chosen language. A library's reason follows it,
 /// not translated.

@@ -1,4 +1,4 @@
-#include "links/VerdictText.h"
+#include "links/ClearanceText.h"
 
 #include "geodata/LinkCheck.h"
 #include "language/ReaderText.h"
@@ -6,16 +6,16 @@
 
 namespace vlt::links {
 
-QString verdictText(linkpath::Verdict verdict)
+QString clearanceText(linkpath::ClearanceStatus status)
 {
-    switch (verdict) {
-    case linkpath::Verdict::Clear:
+    switch (status) {
+    case linkpath::ClearanceStatus::Clear:
         return dico_label("MESS_CLEAR", "clear");
-    case linkpath::Verdict::Marginal:
+    case linkpath::ClearanceStatus::Marginal:
         return dico_label("MESS_MARGINAL", "marginal");
-    case linkpath::Verdict::Obstructed:
+    case linkpath::ClearanceStatus::Obstructed:
         return dico_label("MESS_OBSTRUCTED", "obstructed");
-    case linkpath::Verdict::Unknown:
+    case linkpath::ClearanceStatus::Unknown:
         break;
     }
     return dico_label("MESS_UNJUDGED", "not judged");
@@ -44,9 +44,9 @@ QString lackText(linkpath::Lack lack)
     return {};
 }
 
-QColor colorOfVerdict(linkpath::Verdict verdict)
+QColor colorOfClearance(linkpath::ClearanceStatus status)
 {
-    const auto [red, green, blue] = linkpath::verdictColor(verdict);
+    const auto [red, green, blue] = linkpath::clearanceColor(status);
     return QColor(red, green, blue);
 }
 
