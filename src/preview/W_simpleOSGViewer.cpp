@@ -281,7 +281,7 @@ void W_simpleOSGViewer::centerView(osg::Node *node)
     if (!box.valid())
         return;
     m_isUserCamera = true;
-    // a flat scene, such as the sites of a town, needs a higher camera
+    // a flat scene, such as the sites of a city, needs a higher camera
     const bool isFlat = box.zMax() - box.zMin() < FlatShare * box.radius();
     const double defaultDeg = isFlat ? FlatElevationDeg : VltTrackBall::DefaultElevationDeg;
     m_trackBall->lookAt(box.center(), std::min(m_maxDistanceM, distanceToSee(box)),

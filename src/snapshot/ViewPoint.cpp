@@ -1,9 +1,9 @@
 #include "snapshot/ViewPoint.h"
 
+#include "snapshot/CityView.h"
 #include "snapshot/DrawnExtents.h"
 #include "snapshot/SiteLevels.h"
 #include "snapshot/Subject.h"
-#include "snapshot/TownView.h"
 
 #include <algorithm>
 #include <cmath>
@@ -81,7 +81,7 @@ Result<ViewPoint> findViewPoint(osg::Node &scene, SceneView view, double aspect)
 {
     const std::optional<qint64> buildings = buildingCount(scene);
     if (view == SceneView::All)
-        return buildings ? viewOfTown(scene, *buildings, aspect) : viewOfAll(scene, aspect);
+        return buildings ? viewOfCity(scene, *buildings, aspect) : viewOfAll(scene, aspect);
     const std::optional<SiteLevels> site = buildings ? std::nullopt : findMiddleSite(scene);
     if (!site)
         return Error{QStringLiteral("MESS_SNAP_NO_SITES"),

@@ -13,8 +13,8 @@ using namespace vlt::contract;
 namespace {
 
 // Values are written without escaping.
-const BuildingFootprints Town{"/a&b/\"c\".shp", "%2 %1",   "<h>%9", 0.5, 1234567, 800.5,
-                              "#C0C0C0",        "#A05030", 0.1,     true};
+const BuildingFootprints CityModel{"/a&b/\"c\".shp", "%2 %1",   "<h>%9", 0.5, 1234567, 800.5,
+                                   "#C0C0C0",        "#A05030", 0.1,     true};
 const BuildingTerrain Terrain{"/data/dem.tif", "-32768"};
 const RasterColoring Signal{u"/c/dbm.tif"_s,    u"/maps/signal.txt"_s, Reduction::Maximum,
                             /*stretched*/ true, /*interpolated*/ true, {}};
@@ -89,12 +89,12 @@ private Q_SLOTS:
         const auto row = [](const char *name, const QString &actual, QString wanted) {
             QTest::newRow(name) << actual << wanted.replace(u"~\n"_s, u" \n"_s);
         };
-        BuildingDocument document{{}, Town, Terrain, {}};
+        BuildingDocument document{{}, CityModel, Terrain, {}};
         row("plain", writeTexbDocument(document), PlainText);
         document.footprints.wallColor = imageColor(Signal).toStdString();
         row("coloured", writeColoredTexbDocument(document), ColoredText);
 
-        document = {{CacheMode::Textured, true, 1000000}, Town, Terrain, {}};
+        document = {{CacheMode::Textured, true, 1000000}, CityModel, Terrain, {}};
         document.textures =
             BuildingTextures{TextureMode::Storeys,
                              "#000000",

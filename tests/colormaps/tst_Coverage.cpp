@@ -110,7 +110,7 @@ class tst_Coverage : public QObject
 private Q_SLOTS:
     void initTestCase() { GDALAllRegister(); }
 
-    void agreesWithGeometryOverTheTown_data()
+    void agreesWithGeometryOverTheCity_data()
     {
         QTest::addColumn<Placing>("placing");
         QTest::addColumn<int>("mode");
@@ -125,7 +125,7 @@ private Q_SLOTS:
     }
 
     /// Compares with the geometry library's point-in-polygon test of every pixel.
-    void agreesWithGeometryOverTheTown()
+    void agreesWithGeometryOverTheCity()
     {
         QFETCH(const Placing, placing);
         QFETCH(const int, mode);
@@ -142,12 +142,12 @@ private Q_SLOTS:
         const auto raster =
             CoverageRaster::open(fileOf("town.tif", Columns, values, placing), "-77");
         QVERIFY(raster);
-        const GDALDatasetUniquePtr town(GDALDataset::Open(VLT_TOWN, GDAL_OF_VECTOR));
-        QVERIFY(town);
+        const GDALDatasetUniquePtr city(GDALDataset::Open(VLT_TOWN, GDAL_OF_VECTOR));
+        QVERIFY(city);
 
         int compared = 0;
         int pixels = 0;
-        for (const OGRFeatureUniquePtr &feature : *town->GetLayer(0)) {
+        for (const OGRFeatureUniquePtr &feature : *city->GetLayer(0)) {
             const OGRGeometry *shape = feature->GetGeometryRef();
             if (wkbFlatten(shape->getGeometryType()) != wkbPolygon || compared == 50)
                 continue;

@@ -34,9 +34,9 @@ grep -qF '[Site ID]' "$work/csv.lay" || fail "the information page lacks the tab
 
 # Without a display: commands that draw texts must not need one.
 env -u DISPLAY "$tree/vltlayers" buildings --project "$samples/city.gvw" --image "$samples/coverage/signal_level_dBm.tif" \
-    --colormap signal_level_dBm --absolute -o "$work/town.lay" --quiet || fail "no layer of coloured buildings"
-grep -qF "<source><![CDATA[TEXB:$work/town.texb]]>" "$work/town.lay" || fail "the layer does not name its document"
-grep -qF "$samples/vectors/buildings.shp" "$work/town.texb" || fail "the document does not name the buildings"
+    --colormap signal_level_dBm --absolute -o "$work/city.lay" --quiet || fail "no layer of coloured buildings"
+grep -qF "<source><![CDATA[TEXB:$work/city.texb]]>" "$work/city.lay" || fail "the layer does not name its document"
+grep -qF "$samples/vectors/buildings.shp" "$work/city.texb" || fail "the document does not name the buildings"
 [[ $(od -An -N4 -tx1 "$work/signal_level_dBm_gradient.png") == " 89 50 4e 47" ]] || fail "no legend"
 "$tree/vltlayers" buildings --project "$samples/city.gvw" --textures "$samples/textures/same_folder/coverage_6m.tif" \
     --texture-on storeys -o "$work/storeys.lay" --quiet || fail "no layer of textured buildings"

@@ -1,5 +1,5 @@
+#include "CityTesting.h"
 #include "LayerScenes.h"
-#include "TownTesting.h"
 #include "contract/ReaderOptions.h"
 #include "plugins/scene/buildings/BuildingScene.h"
 #include "plugins/scene/reading/BadLayer.h"

@@ -1,7 +1,7 @@
-#include "TownTesting.h"
+#include "CityTesting.h"
+#include "plugins/scene/buildings/CityMesh.h"
+#include "plugins/scene/buildings/CityTree.h"
 #include "plugins/scene/buildings/RoofTriangles.h"
-#include "plugins/scene/buildings/TownMesh.h"
-#include "plugins/scene/buildings/TownTree.h"
 
 #include <QtTest>
 
@@ -53,13 +53,13 @@ struct Face
     bool isRoof() const { return normal().z() > 0.5; }
 };
 
-osg::Vec3d normalAt(const TownMesh &mesh, std::uint32_t index)
+osg::Vec3d normalAt(const CityMesh &mesh, std::uint32_t index)
 {
     const osg::Vec3s normal = mesh.normals().at(index);
     return osg::Vec3d(normal.x(), normal.y(), normal.z()) / 32767;
 }
 
-std::vector<Face> facesOf(const TownMesh &mesh)
+std::vector<Face> facesOf(const CityMesh &mesh)
 {
     std::vector<Face> faces;
     const auto &indices = mesh.indices();
@@ -145,10 +145,10 @@ private Q_SLOTS:
 
     void boxesKeepAreaHeightAndLight()
     {
-        Town town;
-        add(town, {Ell, square(1, 1, 2)}); // 75 - 4
-        add(town, {{{0, 0}, {5, 5}, {10, 10}}});
-        TownMesh mesh(town, {});
+        CityModel city;
+        add(city, {Ell, square(1, 1, 2)}); // 75 - 4
+        add(city, {{{0, 0}, {5, 5}, {10, 10}}});
+        CityMesh mesh(city, {});
 
         mesh.addBoxes(0);
 
@@ -180,17 +180,17 @@ private Q_SLOTS:
         QFETCH(double, tileSize);
         QFETCH(double, widest);
         constexpr int Side = 160;
-        Town town;
+        CityModel city;
         for (int i = 0; i < Side * Side; ++i)
-            add(town, {square(20 * (i % Side), 20 * (i / Side), 8)});
+            add(city, {square(20 * (i % Side), 20 * (i / Side), 8)});
 
-        const TownTiles tiles = growTownTree(town, tileSize);
+        const CityTiles tiles = growCityTree(city, tileSize);
 
-        std::vector<const TownTree *> left = {tiles.root.get()};
+        std::vector<const CityTree *> left = {tiles.root.get()};
         std::vector<int> found(Side * Side);
         std::size_t tileCount = 0;
         while (!left.empty()) {
-            const TownTree &tree = *left.back();
+            const CityTree &tree = *left.back();
             left.pop_back();
             for (const auto &branch : tree.branches)
                 left.push_back(branch.get());
@@ -207,14 +207,14 @@ private Q_SLOTS:
         QVERIFY(tileCount <= MaxTiles);
     }
 
-    void aTownMayBeEmptyOrOnePlace()
+    void aCityMayBeEmptyOrOnePlace()
     {
-        Town town;
-        QVERIFY(!growTownTree(town, 250).root);
+        CityModel city;
+        QVERIFY(!growCityTree(city, 250).root);
 
         for (int i = 0; i < 3000; ++i)
-            add(town, {square(0, 0, 10)});
-        const TownTiles tiles = growTownTree(town, 250);
+            add(city, {square(0, 0, 10)});
+        const CityTiles tiles = growCityTree(city, 250);
         QVERIFY(tiles.root->isTile());
         QCOMPARE(tiles.root->buildings.size(), std::size_t{3000});
     }
@@ -222,10 +222,10 @@ private Q_SLOTS:
 private:
     static void looksOutwards(const Rings &rings, double area, int walls, bool isCrossed)
     {
-        Town town;
-        add(town, rings);
+        CityModel city;
+        add(city, rings);
         const osg::Vec3d origin(100, -50, 7);
-        TownMesh mesh(town, origin);
+        CityMesh mesh(city, origin);
 
         mesh.addBuilding(0, 5);
 

@@ -1,4 +1,4 @@
-#include "TownTesting.h"
+#include "CityTesting.h"
 #include "plugins/scene/buildings/TexturedTile.h"
 
 #include <osg/Geode>
@@ -29,20 +29,20 @@ const Places Square = square(25, 25, 20); ///< the corners are centres of pixels
 const Places Courtyard = square(15, 15, 70);
 
 /// A building with these rings, the outer one first, in a system in metres.
-Town townOf(const Rings &rings, float heightM)
+CityModel townOf(const Rings &rings, float heightM)
 {
-    Town town;
-    add(town, rings, heightM);
-    town.frame.local = std::make_shared<LocalFrame>(nullptr, town.places);
-    for (osg::Vec2d &place : town.places)
-        place = town.frame.local->toFrame(place);
-    return town;
+    CityModel city;
+    add(city, rings, heightM);
+    city.frame.local = std::make_shared<LocalFrame>(nullptr, city.places);
+    for (osg::Vec2d &place : city.places)
+        place = city.frame.local->toFrame(place);
+    return city;
 }
 
 /// A vertex of a face with an image.
 struct Corner
 {
-    osg::Vec2d place; ///< in the town's system
+    osg::Vec2d place; ///< in the city's system
     double z;         ///< above the ground
     osg::Vec3 normal;
     std::array<int, 4> color; ///< colour of the image at the vertex
@@ -60,20 +60,20 @@ struct Tile
 {
     std::vector<Corner> corners;
     int imageColumns = 0;
-    std::set<double> plainLevels; ///< heights of faces in the town's colours
+    std::set<double> plainLevels; ///< heights of faces in the city's colours
     unsigned edges = 0;
 
-    Tile(const Town &town, const BuildingTextures &look, TextureImages &images)
+    Tile(const CityModel &city, const BuildingTextures &look, TextureImages &images)
     {
         const std::array<std::uint32_t, 1> all = {0};
         const osg::ref_ptr<osg::Node> node =
-            buildTexturedTile(town, look, images, all, Origin, SkirtM);
+            buildTexturedTile(city, look, images, all, Origin, SkirtM);
         auto *geode = dynamic_cast<osg::Geode *>(node.get());
         for (unsigned i = 0; geode && i < geode->getNumDrawables(); ++i)
-            take(town, *geode->getDrawable(i)->asGeometry());
+            take(city, *geode->getDrawable(i)->asGeometry());
     }
 
-    void take(const Town &town, const osg::Geometry &geometry)
+    void take(const CityModel &city, const osg::Geometry &geometry)
     {
         const osg::PrimitiveSet &drawn = *geometry.getPrimitiveSet(0);
         if (drawn.getMode() == GL_LINES) {
@@ -94,7 +94,7 @@ struct Tile
             }
             const auto &normals = static_cast<const osg::Vec3Array &>(*geometry.getNormalArray());
             const auto &where = static_cast<const osg::Vec2Array &>(*geometry.getTexCoordArray(0));
-            const osg::Vec2d place = town.frame.local->fromFrame({vertex.x(), vertex.y()});
+            const osg::Vec2d place = city.frame.local->fromFrame({vertex.x(), vertex.y()});
             corners.push_back(
                 {place, vertex.z(), normals[at], colorAt(*texture->getImage(), where[at])});
         }
@@ -109,7 +109,7 @@ class tst_TexturedTile : public QObject
 
     QTemporaryDir m_dir;
 
-    /// Writes an image whose lower left corner is the town's origin.
+    /// Writes an image whose lower left corner is the city's origin.
     std::string imageOf(const char *name, int side, int bands, GDALDataType type,
                         const decltype(Image::value) &value,
                         const decltype(Image::finish) &finish = {})
@@ -141,10 +141,10 @@ class tst_TexturedTile : public QObject
 
     static bool goOn(double) { return true; }
 
-    static std::shared_ptr<TextureImages> open(const Town &town, const BuildingTextures &look)
+    static std::shared_ptr<TextureImages> open(const CityModel &city, const BuildingTextures &look)
     {
         Notices notices;
-        const auto images = TextureImages::open(town, look, {"/"}, notices, goOn);
+        const auto images = TextureImages::open(city, look, {"/"}, notices, goOn);
         return notices.empty() ? images : nullptr;
     }
 
@@ -164,7 +164,7 @@ private Q_SLOTS:
         QTest::addColumn<float>("heightM");
         QTest::addColumn<unsigned>("corners");
         QTest::addColumn<Shown>("shown");
-        QTest::addColumn<std::set<double>>("plain"); ///< heights of faces in the town's colours
+        QTest::addColumn<std::set<double>>("plain"); ///< heights of faces in the city's colours
         QTest::addColumn<unsigned>("edges");
         const auto row = [](const char *name, TextureMode mode, const Rings &rings, float height,
                             unsigned corners, const Shown &shown, const std::set<double> &plain,
@@ -198,14 +198,14 @@ private Q_SLOTS:
         QFETCH(const Shown, shown);
         QFETCH(const std::set<double>, plain);
         QFETCH(const unsigned, edges);
-        const Town town = townOf(rings, heightM);
+        const CityModel city = townOf(rings, heightM);
         BuildingTextures look = lookOf(mode, {21, 3, 9});
         look.bufferM = 10;
         look.processComplexBuildings = mode == TextureMode::Walls;
-        const auto images = open(town, look);
+        const auto images = open(city, look);
         QVERIFY(images);
 
-        const Tile tile(town, look, *images);
+        const Tile tile(city, look, *images);
 
         QCOMPARE(tile.corners.size(), corners);
         Shown found;
@@ -228,7 +228,7 @@ private Q_SLOTS:
         QCOMPARE(tile.edges, edges);
         look.forceEdgeCreation = true;
         if (mode == TextureMode::Roofs)
-            QCOMPARE(Tile(town, look, *images).edges, shown.empty() ? 0U : 12U);
+            QCOMPARE(Tile(city, look, *images).edges, shown.empty() ? 0U : 12U);
     }
 
     void readsAllKindsOfPixels_data()
@@ -308,19 +308,19 @@ private Q_SLOTS:
         QCOMPARE(opacityAt(Side / 2 - 95), 255);
         QCOMPARE(opacityAt(Side / 2 - 105), 0);
 
-        // In a large town each building has only a small share of the memory.
-        Town town = townOf({square(10, 10, 10 * Side - 20)}, 9);
+        // In a large city each building has only a small share of the memory.
+        CityModel city = townOf({square(10, 10, 10 * Side - 20)}, 9);
         BuildingTextures look;
         look.images = {{path, 9}};
-        QCOMPARE(Tile(town, look, *open(town, look)).imageColumns, MaxCropPixels);
-        town.footprints.buildings.resize(100000);
-        const int columns = Tile(town, look, *open(town, look)).imageColumns;
+        QCOMPARE(Tile(city, look, *open(city, look)).imageColumns, MaxCropPixels);
+        city.footprints.buildings.resize(100000);
+        const int columns = Tile(city, look, *open(city, look)).imageColumns;
         QVERIFY(columns > 0 && columns <= 64);
     }
 
     void transformsToTheSystemOfTheImage()
     {
-        // Pixels of 0.0001 degrees near the third meridian; the town is in UTM 31.
+        // Pixels of 0.0001 degrees near the third meridian; the city is in UTM 31.
         const std::string path =
             make(m_dir.filePath(QStringLiteral("degrees.tif")),
                  {100, 100, 1, GDT_Byte, {2.995, 47.995}, 1e-4, "EPSG:4326", [](int, int, int) {
@@ -370,14 +370,14 @@ private Q_SLOTS:
 
     void servesSeveralThreads()
     {
-        const Town town = townOf({Square}, 12);
+        const CityModel city = townOf({Square}, 12);
         const BuildingTextures look = lookOf(TextureMode::Walls, {3, 9});
-        const auto images = open(town, look);
+        const auto images = open(city, look);
         std::atomic<unsigned> right = 0;
         std::vector<std::jthread> threads;
         for (int i = 0; i < 8; ++i) {
             threads.emplace_back([&] {
-                const Tile tile(town, look, *images);
+                const Tile tile(city, look, *images);
                 for (const Corner &corner : tile.corners)
                     right += corner.color == expectedAt(corner.place, corner.color[2]) ? 1 : 0;
             });

@@ -214,7 +214,7 @@ private Q_SLOTS:
         flow.widget<QAbstractButton>(u"m_pwPbOwnSites"_s)->click();
         const osg::Node *sites = viewer->getSceneData();
         QVERIFY(sites != pylon);
-        QVERIFY(sites->getBound().radius() > 1000); // the town's sites are kilometres apart
+        QVERIFY(sites->getBound().radius() > 1000); // the city's sites are kilometres apart
 
         flow.widget<QAbstractButton>(u"m_pwPbPrecise"_s)->click();
         QCOMPARE(viewer->getSceneData(), pylon);

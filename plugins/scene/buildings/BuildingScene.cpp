@@ -1,13 +1,13 @@
 #include "plugins/scene/buildings/BuildingScene.h"
 
 #include "contract/FileSearch.h"
+#include "plugins/scene/buildings/CityColors.h"
+#include "plugins/scene/buildings/CityNodes.h"
 #include "plugins/scene/buildings/DocumentFiles.h"
 #include "plugins/scene/buildings/FootprintReader.h"
 #include "plugins/scene/buildings/GroundHeights.h"
 #include "plugins/scene/buildings/TexbDocument.h"
 #include "plugins/scene/buildings/TexturedTile.h"
-#include "plugins/scene/buildings/TownColors.h"
-#include "plugins/scene/buildings/TownNodes.h"
 #include "plugins/scene/reading/BadLayer.h"
 #include "plugins/scene/reading/SceneFacts.h"
 #include "plugins/scene/reading/TableReading.h"
@@ -45,11 +45,11 @@ std::string wktOf(const std::optional<OGRSpatialReference> &srs)
     return wkt;
 }
 
-bool isPlaced(const Town &town, const Footprints::Building &building)
+bool isPlaced(const CityModel &city, const Footprints::Building &building)
 {
-    for (const Footprints::Ring &ring : town.footprints.ringsOf(building)) {
+    for (const Footprints::Ring &ring : city.footprints.ringsOf(building)) {
         for (std::uint32_t i = ring.begin; i < ring.end; ++i) {
-            if (!std::isfinite(town.places[i].x()) || !std::isfinite(town.places[i].y()))
+            if (!std::isfinite(city.places[i].x()) || !std::isfinite(city.places[i].y()))
                 return false;
         }
     }
@@ -58,14 +58,14 @@ bool isPlaced(const Town &town, const Footprints::Building &building)
 
 /// Determines the frame, transforms the buildings to it and leaves out those that have no position
 /// in it.
-void place(Town &town, const OGRSpatialReference *srs)
+void place(CityModel &city, const OGRSpatialReference *srs)
 {
     const CPLErrorHandlerPusher quiet(CPLQuietErrorHandler);
-    town.places = town.footprints.places;
-    town.frame = moveToFrame(srs, town.places);
-    town.leftOut.noPlace =
-        std::erase_if(town.footprints.buildings, [&town](const Footprints::Building &building) {
-            return !isPlaced(town, building);
+    city.places = city.footprints.places;
+    city.frame = moveToFrame(srs, city.places);
+    city.leftOut.noPlace =
+        std::erase_if(city.footprints.buildings, [&city](const Footprints::Building &building) {
+            return !isPlaced(city, building);
         });
 }
 
@@ -95,15 +95,15 @@ void tellLeftOut(const LeftOut &leftOut, const std::string &heightField, std::si
 
 /// Number of buildings with the same outline as another one. The user is informed about them,
 /// because walls and roofs flicker if they coincide.
-std::size_t countCoincident(const Town &town)
+std::size_t countCoincident(const CityModel &city)
 {
     using Outline = std::array<double, 5>; // extent and number of vertices
     std::vector<Outline> outlines;
-    for (const Footprints::Building &building : town.footprints.buildings) {
-        const Footprints::Ring &ring = town.footprints.rings[building.ringBegin];
+    for (const Footprints::Building &building : city.footprints.buildings) {
+        const Footprints::Ring &ring = city.footprints.rings[building.ringBegin];
         Outline outline{HUGE_VAL, HUGE_VAL, -HUGE_VAL, -HUGE_VAL,
                         static_cast<double>(ring.end - ring.begin)};
-        for (const osg::Vec2d &place : town.footprints.placesOf(ring)) {
+        for (const osg::Vec2d &place : city.footprints.placesOf(ring)) {
             outline[0] = std::min(outline[0], place.x());
             outline[1] = std::min(outline[1], place.y());
             outline[2] = std::max(outline[2], place.x());
@@ -118,8 +118,8 @@ std::size_t countCoincident(const Town &town)
     return count;
 }
 
-Town readTown(const BuildingDocument &document, const Directories &directories, Notices &notices,
-              const Progress &progress)
+CityModel readCity(const BuildingDocument &document, const Directories &directories,
+                   Notices &notices, const Progress &progress)
 {
     const BuildingFootprints &footprints = document.footprints;
     const std::string file = locateDataset(footprints.file, directories);
@@ -128,47 +128,47 @@ Town readTown(const BuildingDocument &document, const Directories &directories, 
     ReadFootprints read = readFootprints({file, footprints.layer, footprints.heightField}, notices,
                                          part(progress, 0, 0.5));
     const OGRSpatialReference *srs = read.srs ? &*read.srs : nullptr;
-    Town town;
-    town.footprints = std::move(read.footprints);
-    town.srs = wktOf(read.srs);
-    town.leftOut = read.leftOut;
-    place(town, srs);
-    tellLeftOut(town.leftOut, footprints.heightField, read.features, notices);
-    if (const std::size_t count = countCoincident(town); count > 0)
+    CityModel city;
+    city.footprints = std::move(read.footprints);
+    city.srs = wktOf(read.srs);
+    city.leftOut = read.leftOut;
+    place(city, srs);
+    tellLeftOut(city.leftOut, footprints.heightField, read.features, notices);
+    if (const std::size_t count = countCoincident(city); count > 0)
         notices.push_back(contract::formatted(
             "MESS_SCENE_COINCIDENT", {std::to_string(count), std::to_string(read.features)}));
     const GroundSource terrain{document.terrain.file,
                                locateDataset(document.terrain.file, directories),
                                document.terrain.noData};
-    town.baseM = groundUnder(town.footprints, srs, terrain, notices, part(progress, 0.5, 0.6));
-    return town;
+    city.baseM = groundUnder(city.footprints, srs, terrain, notices, part(progress, 0.5, 0.6));
+    return city;
 }
 
-void colour(Town &town, const BuildingFootprints &footprints, const Directories &directories,
+void colour(CityModel &city, const BuildingFootprints &footprints, const Directories &directories,
             Notices &notices, const Progress &progress)
 {
     const bool isOne = footprints.roofColor.empty() || footprints.roofColor == footprints.wallColor;
-    town.wallColors = townColors(town, footprints.wallColor, directories, notices,
+    city.wallColors = townColors(city, footprints.wallColor, directories, notices,
                                  part(progress, 0.6, isOne ? 0.8 : 0.7));
-    town.roofColors = isOne ? town.wallColors
-                            : townColors(town, footprints.roofColor, directories, notices,
+    city.roofColors = isOne ? city.wallColors
+                            : townColors(city, footprints.roofColor, directories, notices,
                                          part(progress, 0.7, 0.8));
 }
 
 /// The function that makes tiles with images; empty if the document has no usable images.
-TexturedMaker texturedMaker(const std::shared_ptr<const Town> &town,
+TexturedMaker texturedMaker(const std::shared_ptr<const CityModel> &city,
                             const BuildingDocument &document, const Directories &directories,
                             Notices &notices, const Progress &progress)
 {
     if (!document.textures || document.footprints.texturedVisibilityM <= 0)
         return {};
     const std::shared_ptr<TextureImages> images =
-        TextureImages::open(*town, *document.textures, directories, notices, progress);
+        TextureImages::open(*city, *document.textures, directories, notices, progress);
     if (images->isEmpty())
         return {};
-    return [town, images, textures = *document.textures, skirtM = document.footprints.skirtHeightM](
+    return [city, images, textures = *document.textures, skirtM = document.footprints.skirtHeightM](
                std::span<const std::uint32_t> buildings, const osg::Vec3d &origin) {
-        return buildTexturedTile(*town, textures, *images, buildings, origin, skirtM);
+        return buildTexturedTile(*city, textures, *images, buildings, origin, skirtM);
     };
 }
 
@@ -180,15 +180,15 @@ osg::ref_ptr<osg::Group> readBuildingScene(const std::string &document, const st
     const BuildingDocument texb = readTexbDocument(document);
     const Directories directories = contract::searchDirectories(document, project);
     const BuildingFootprints &footprints = texb.footprints;
-    const auto town = std::make_shared<Town>(readTown(texb, directories, notices, progress));
-    colour(*town, footprints, directories, notices, progress);
-    const TownLook look{footprints.tileSizeM, footprints.extrudedVisibilityM,
-                        footprints.texturedVisibilityM, footprints.skirtHeightM,
-                        texturedMaker(town, texb, directories, notices, part(progress, 0.8, 0.9))};
-    osg::ref_ptr<osg::Group> scene = buildTown(town, look, part(progress, 0.9, 1));
-    tellFrame(*scene, town->frame);
-    tellCount(*scene, "buildings", town->footprints.buildings.size());
-    tellCount(*scene, "leftOut", countOf(town->leftOut));
+    const auto city = std::make_shared<CityModel>(readCity(texb, directories, notices, progress));
+    colour(*city, footprints, directories, notices, progress);
+    const CityStyle look{footprints.tileSizeM, footprints.extrudedVisibilityM,
+                         footprints.texturedVisibilityM, footprints.skirtHeightM,
+                         texturedMaker(city, texb, directories, notices, part(progress, 0.8, 0.9))};
+    osg::ref_ptr<osg::Group> scene = buildCity(city, look, part(progress, 0.9, 1));
+    tellFrame(*scene, city->frame);
+    tellCount(*scene, "buildings", city->footprints.buildings.size());
+    tellCount(*scene, "leftOut", countOf(city->leftOut));
     return scene;
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "plugins/scene/buildings/Town.h"
+#include "plugins/scene/buildings/CityModel.h"
 
 #include <ogr_spatialref.h>
 
@@ -8,7 +8,7 @@
 
 namespace vlt::scene {
 
-/// Maximum number of vertices of all footprints: half a gigabyte, a hundred times a typical town.
+/// Maximum number of vertices of all footprints: half a gigabyte, a hundred times a typical city.
 inline constexpr std::size_t MaxPlaces = 30'000'000;
 
 /// Maximum height of a building. A larger number is taken for a mark of a missing height.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "plugins/scene/buildings/Town.h"
+#include "plugins/scene/buildings/CityModel.h"
 
 #include <ogr_spatialref.h>
 

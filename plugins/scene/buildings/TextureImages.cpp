@@ -1,7 +1,7 @@
 #include "plugins/scene/buildings/TextureImages.h"
 
 #include "coverage/LocalRaster.h"
-#include "plugins/scene/buildings/TownMesh.h"
+#include "plugins/scene/buildings/CityMesh.h"
 #include "plugins/scene/reading/BadLayer.h"
 #include "plugins/scene/reading/Stopped.h"
 
@@ -79,25 +79,25 @@ osg::ref_ptr<osg::StateSet> makeEdgeState()
 
 } // namespace
 
-TextureImages::TextureImages(const Town &town)
+TextureImages::TextureImages(const CityModel &city)
     : m_faceState(makeFaceState())
     , m_plainState(makePlainState())
     , m_edgeState(makeEdgeState())
 {
-    // The vectors are nearly the same in all parts of a town: over the few metres of a buffer, the
+    // The vectors are nearly the same in all parts of a city: over the few metres of a buffer, the
     // difference is much less than a pixel.
-    const LocalFrame &frame = *town.frame.local;
+    const LocalFrame &frame = *city.frame.local;
     const osg::Vec2d middle = frame.fromFrame({0, 0});
     m_right = frame.fromFrame({1, 0}) - middle;
     m_up = frame.fromFrame({0, 1}) - middle;
 }
 
-std::shared_ptr<TextureImages> TextureImages::open(const Town &town,
+std::shared_ptr<TextureImages> TextureImages::open(const CityModel &city,
                                                    const contract::BuildingTextures &textures,
                                                    const std::vector<std::string> &directories,
                                                    Notices &notices, const Progress &progress)
 {
-    std::shared_ptr<TextureImages> all(new TextureImages(town));
+    std::shared_ptr<TextureImages> all(new TextureImages(city));
     std::vector<Level> &levels = all->m_levels;
     std::size_t done = 0;
     std::size_t refused = 0;
@@ -114,7 +114,7 @@ std::shared_ptr<TextureImages> TextureImages::open(const Town &town,
                 throw BadLayer("MESS_SCENE_SAME_HEIGHT");
             levels.push_back(
                 {one.heightM, TextureImage::open(coverage::locateRaster(one.path, directories),
-                                                 town.srs, levels.size() < MaxOpenFiles)});
+                                                 city.srs, levels.size() < MaxOpenFiles)});
         } catch (const BadLayer &fault) {
             if (++refused <= MaxNotices)
                 notices.push_back(

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "contract/BuildingDocument.h"
+#include "plugins/scene/buildings/CityModel.h"
 #include "plugins/scene/buildings/TextureImage.h"
-#include "plugins/scene/buildings/Town.h"
 
 #include <osg/StateSet>
 
@@ -30,7 +30,7 @@ public:
     ///
     /// @param directories  searched for relative paths, in this order
     /// @throws Stopped     `progress` stopped the function
-    static std::shared_ptr<TextureImages> open(const Town &town,
+    static std::shared_ptr<TextureImages> open(const CityModel &city,
                                                const contract::BuildingTextures &textures,
                                                const std::vector<std::string> &directories,
                                                Notices &notices, const Progress &progress);
@@ -43,7 +43,7 @@ public:
     /// Index of the level with the nearest height; of two equally near ones the lower.
     std::size_t nearest(double heightM) const;
 
-    /// Converts a vector from the town's frame, in metres, to the footprints' system.
+    /// Converts a vector from the city's frame, in metres, to the footprints' system.
     osg::Vec2d inSystem(const osg::Vec2d &way) const;
 
     /// For faces with an image on texture unit 0: the image, and the colour of the vertices where
@@ -54,7 +54,7 @@ public:
     const osg::ref_ptr<osg::StateSet> &edgeState() const { return m_edgeState; }
 
 private:
-    explicit TextureImages(const Town &town);
+    explicit TextureImages(const CityModel &city);
 
     std::vector<Level> m_levels;
     osg::Vec2d m_right; ///< a metre to the east, in the footprints' system

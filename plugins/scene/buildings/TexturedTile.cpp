@@ -1,8 +1,8 @@
 #include "plugins/scene/buildings/TexturedTile.h"
 
+#include "plugins/scene/buildings/CityMesh.h"
 #include "plugins/scene/buildings/ColorText.h"
 #include "plugins/scene/buildings/ImageFaces.h"
-#include "plugins/scene/buildings/TownMesh.h"
 #include "plugins/scene/mesh/Mesh.h"
 
 #include <osg/Geode>
@@ -18,7 +18,7 @@ namespace {
 using Places = std::vector<osg::Vec2d>;
 
 constexpr double MaxPixelsPerTile = 1 << 21; ///< 8 MiB, for all images together
-constexpr double MaxPixelsPerTown = 1 << 27; ///< all tiles together, because tiles are kept
+constexpr double MaxPixelsPerCity = 1 << 27; ///< all tiles together, because tiles are kept
 constexpr int MinSide = 64;
 
 osg::Vec4ub opaque(const colormaps::Rgba &color)
@@ -26,23 +26,23 @@ osg::Vec4ub opaque(const colormaps::Rgba &color)
     return {color.red, color.green, color.blue, 255};
 }
 
-/// The faces of buildings that are drawn in the town's colours.
+/// The faces of buildings that are drawn in the city's colours.
 enum class Plain { All, Walls, Roofs };
 
 class TileBuilder
 {
 public:
-    TileBuilder(const Town &town, const contract::BuildingTextures &textures, TextureImages &images,
-                const osg::Vec3d &origin, double skirtM)
-        : m_town(town)
+    TileBuilder(const CityModel &city, const contract::BuildingTextures &textures,
+                TextureImages &images, const osg::Vec3d &origin, double skirtM)
+        : m_city(city)
         , m_textures(textures)
         , m_images(images)
         , m_origin(origin)
         , m_skirtM(skirtM)
         , m_edgeColor(parseColor(textures.edgeColor))
         , m_faces(images.levels().size())
-        , m_plain(town, origin)
-        , m_rest(town, origin)
+        , m_plain(city, origin)
+        , m_rest(city, origin)
     {}
 
     void add(std::uint32_t building)
@@ -94,7 +94,7 @@ public:
 private:
     bool hasImage(std::uint32_t building) const
     {
-        const Footprints::Building &one = m_town.footprints.buildings[building];
+        const Footprints::Building &one = m_city.footprints.buildings[building];
         const bool isComplex = one.ringEnd - one.ringBegin > 1;
         if (m_images.isEmpty() || (isComplex && !m_textures.processComplexBuildings))
             return false;
@@ -118,25 +118,25 @@ private:
     int maxSide() const
     {
         const double share =
-            static_cast<double>(m_count) / static_cast<double>(m_town.footprints.buildings.size());
+            static_cast<double>(m_count) / static_cast<double>(m_city.footprints.buildings.size());
         const auto images = std::count_if(m_faces.begin(), m_faces.end(),
                                           [](const ImageFaces &faces) { return !faces.isEmpty(); });
-        const double pixels = std::min(MaxPixelsPerTile, share * MaxPixelsPerTown) /
+        const double pixels = std::min(MaxPixelsPerTile, share * MaxPixelsPerCity) /
                               static_cast<double>(std::max<std::ptrdiff_t>(images, 1));
         return std::clamp(static_cast<int>(std::sqrt(pixels)), MinSide, MaxCropPixels);
     }
 
     /// Height of a building's base above the origin.
-    double baseM(std::uint32_t building) const { return m_town.baseM[building] - m_origin.z(); }
+    double baseM(std::uint32_t building) const { return m_city.baseM[building] - m_origin.z(); }
     double heightM(std::uint32_t building) const
     {
-        return m_town.footprints.buildings[building].heightM;
+        return m_city.footprints.buildings[building].heightM;
     }
 
     /// A ring in the frame, relative to the origin, in its original direction.
     Places outlineOf(const Footprints::Ring &ring) const
     {
-        Places places(m_town.places.begin() + ring.begin, m_town.places.begin() + ring.end);
+        Places places(m_city.places.begin() + ring.begin, m_city.places.begin() + ring.end);
         for (osg::Vec2d &place : places)
             place -= osg::Vec2d(m_origin.x(), m_origin.y());
         return places;
@@ -146,8 +146,8 @@ private:
     void addFloors(std::uint32_t building,
                    const std::vector<std::pair<std::size_t, double>> &levels)
     {
-        const Footprints &footprints = m_town.footprints;
-        const osg::Vec4ub color = opaque(m_town.roofColors[building]);
+        const Footprints &footprints = m_city.footprints;
+        const osg::Vec4ub color = opaque(m_city.roofColors[building]);
         for (const auto &part : partsOf(footprints.ringsOf(footprints.buildings[building]))) {
             Places looked; // positions in the image, parallel to the points
             m_roof.clear();
@@ -167,7 +167,7 @@ private:
     void lookUpCrossings(const Footprints::Ring &ring, Places &looked) const
     {
         const osg::Vec2d first = m_roof.points().front();
-        const osg::Vec2d firstLooked = m_town.footprints.places[ring.begin];
+        const osg::Vec2d firstLooked = m_city.footprints.places[ring.begin];
         for (std::size_t i = looked.size(); i < m_roof.points().size(); ++i)
             looked.push_back(firstLooked + m_images.inSystem(m_roof.points()[i] - first));
     }
@@ -190,7 +190,7 @@ private:
 
     void addWalls(std::uint32_t building)
     {
-        const Footprints &footprints = m_town.footprints;
+        const Footprints &footprints = m_city.footprints;
         for (const Footprints::Ring &ring : footprints.ringsOf(footprints.buildings[building])) {
             const Places outline = outlineOf(ring);
             const auto places = footprints.placesOf(ring);
@@ -215,7 +215,7 @@ private:
     void addBands(std::uint32_t building, const Wall &wall)
     {
         const auto &levels = m_images.levels();
-        const osg::Vec4ub color = opaque(m_town.wallColors[building]);
+        const osg::Vec4ub color = opaque(m_city.wallColors[building]);
         const double height = heightM(building);
         double bottom = -m_skirtM;
         for (std::size_t i = 0; i < levels.size() && bottom < height; ++i) {
@@ -237,7 +237,7 @@ private:
         addRings(building, top);
         if (!m_edgeColor)
             return;
-        const Footprints &footprints = m_town.footprints;
+        const Footprints &footprints = m_city.footprints;
         for (const Footprints::Ring &ring : footprints.ringsOf(footprints.buildings[building])) {
             for (const osg::Vec2d &place : outlineOf(ring))
                 m_edges.line(edge(place, base), edge(place, top));
@@ -248,7 +248,7 @@ private:
     {
         if (!m_edgeColor)
             return;
-        const Footprints &footprints = m_town.footprints;
+        const Footprints &footprints = m_city.footprints;
         for (const Footprints::Ring &ring : footprints.ringsOf(footprints.buildings[building])) {
             const Places outline = outlineOf(ring);
             unsigned before = edge(outline.front(), z);
@@ -268,7 +268,7 @@ private:
                               opaque(*m_edgeColor));
     }
 
-    void addPlain(osg::Geode &geode, const TownMesh &mesh, Plain plain) const
+    void addPlain(osg::Geode &geode, const CityMesh &mesh, Plain plain) const
     {
         if (mesh.isEmpty())
             return;
@@ -287,7 +287,7 @@ private:
         geode.addDrawable(geometry);
     }
 
-    const Town &m_town;
+    const CityModel &m_city;
     const contract::BuildingTextures &m_textures;
     TextureImages &m_images;
     osg::Vec3d m_origin;
@@ -295,21 +295,21 @@ private:
     std::optional<colormaps::Rgba> m_edgeColor;
     std::size_t m_count = 0;         ///< buildings added
     std::vector<ImageFaces> m_faces; ///< parallel to the images
-    TownMesh m_plain;                ///< buildings without an image
-    TownMesh m_rest;                 ///< faces without images of buildings that have images
+    CityMesh m_plain;                ///< buildings without an image
+    CityMesh m_rest;                 ///< faces without images of buildings that have images
     RoofTriangles m_roof;
     Mesh m_edges{Mesh::Kind::Lines};
 };
 
 } // namespace
 
-osg::ref_ptr<osg::Node> buildTexturedTile(const Town &town,
+osg::ref_ptr<osg::Node> buildTexturedTile(const CityModel &city,
                                           const contract::BuildingTextures &textures,
                                           TextureImages &images,
                                           std::span<const std::uint32_t> buildings,
                                           const osg::Vec3d &origin, double skirtM)
 {
-    TileBuilder builder(town, textures, images, origin, skirtM);
+    TileBuilder builder(city, textures, images, origin, skirtM);
     for (const std::uint32_t building : buildings)
         builder.add(building);
     return builder.node();

@@ -60,7 +60,7 @@ struct LeftOut
 
 /// The buildings of a document in a local frame. An array that is parallel to another one has the
 /// same number of elements in the same order.
-struct Town
+struct CityModel
 {
     Footprints footprints;
     std::string srs; ///< WKT of the footprints' system; empty: unknown

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "plugins/scene/buildings/Town.h"
+#include "plugins/scene/buildings/CityModel.h"
 
 #include <osg/BoundingBox>
 
@@ -11,30 +11,30 @@ namespace vlt::scene {
 /// Maximum number of buildings in a tile; a tile with more is divided into quarters.
 inline constexpr std::size_t MaxBuildingsPerTile = 2048;
 
-/// Maximum number of tiles of a town; if there are more, the tile size is doubled until they fit.
+/// Maximum number of tiles of a city; if there are more, the tile size is doubled until they fit.
 inline constexpr std::size_t MaxTiles = 16384;
 
-/// A tree of the buildings of a town: a branch has up to four neighbouring branches, or is a square
+/// A tree of the buildings of a city: a branch has up to four neighbouring branches, or is a square
 /// tile.
-struct TownTree
+struct CityTree
 {
     osg::BoundingBoxd bound;                         ///< of the buildings, with their heights
     std::span<const std::uint32_t> buildings;        ///< of the whole branch
-    std::vector<std::unique_ptr<TownTree>> branches; ///< empty for a tile
+    std::vector<std::unique_ptr<CityTree>> branches; ///< empty for a tile
 
     bool isTile() const { return branches.empty(); }
 };
 
-/// The tree of a town, and the array to which the spans of its branches refer.
-struct TownTiles
+/// The tree of a city, and the array to which the spans of its branches refer.
+struct CityTiles
 {
     std::vector<std::uint32_t> order; ///< indices of buildings
-    std::unique_ptr<TownTree> root;   ///< null if there are no buildings
+    std::unique_ptr<CityTree> root;   ///< null if there are no buildings
 };
 
 /// Assigns each building to the tile that contains the centre of its first ring.
 ///
 /// @param tileSizeM  positive
-TownTiles growTownTree(const Town &town, double tileSizeM);
+CityTiles growCityTree(const CityModel &city, double tileSizeM);
 
 } // namespace vlt::scene

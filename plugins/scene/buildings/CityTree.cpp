@@ -1,4 +1,4 @@
-#include "plugins/scene/buildings/TownTree.h"
+#include "plugins/scene/buildings/CityTree.h"
 
 #include <algorithm>
 #include <cmath>
@@ -21,26 +21,26 @@ std::uint64_t spread(std::uint64_t bits)
     return (bits | bits << 1) & 0x5555555555555555;
 }
 
-osg::BoundingBoxd boundOf(const Town &town, std::uint32_t building)
+osg::BoundingBoxd boundOf(const CityModel &city, std::uint32_t building)
 {
-    const Footprints::Building &shape = town.footprints.buildings[building];
-    const double base = town.baseM[building];
+    const Footprints::Building &shape = city.footprints.buildings[building];
+    const double base = city.baseM[building];
     osg::BoundingBoxd bound;
-    for (const Footprints::Ring &ring : town.footprints.ringsOf(shape)) {
+    for (const Footprints::Ring &ring : city.footprints.ringsOf(shape)) {
         for (std::uint32_t i = ring.begin; i < ring.end; ++i)
-            bound.expandBy(town.places[i].x(), town.places[i].y(), base);
+            bound.expandBy(city.places[i].x(), city.places[i].y(), base);
     }
     bound.zMax() += shape.heightM;
     return bound;
 }
 
-osg::Vec2d middleOf(const Town &town, std::uint32_t building)
+osg::Vec2d middleOf(const CityModel &city, std::uint32_t building)
 {
-    const Footprints &footprints = town.footprints;
+    const Footprints &footprints = city.footprints;
     const Footprints::Ring &ring = footprints.rings[footprints.buildings[building].ringBegin];
     osg::BoundingBoxd bound;
     for (std::uint32_t i = ring.begin; i < ring.end; ++i)
-        bound.expandBy(town.places[i].x(), town.places[i].y(), 0);
+        bound.expandBy(city.places[i].x(), city.places[i].y(), 0);
     return {bound.center().x(), bound.center().y()};
 }
 
@@ -49,8 +49,8 @@ osg::Vec2d middleOf(const Town &town, std::uint32_t building)
 class TreeGrower
 {
 public:
-    TreeGrower(const Town &town, double tileSizeM, std::vector<std::uint32_t> &order)
-        : m_town(town)
+    TreeGrower(const CityModel &city, double tileSizeM, std::vector<std::uint32_t> &order)
+        : m_city(city)
         , m_order(order)
         , m_codes(order.size())
     {
@@ -58,7 +58,7 @@ public:
         osg::Vec2d least;
         osg::Vec2d most;
         for (const std::uint32_t building : order) {
-            middles[building] = middleOf(town, building);
+            middles[building] = middleOf(city, building);
             const osg::Vec2d &at = middles[building];
             least.set(std::min(least.x(), at.x()), std::min(least.y(), at.y()));
             most.set(std::max(most.x(), at.x()), std::max(most.y(), at.y()));
@@ -66,7 +66,7 @@ public:
         const double extent = std::max({most.x() - least.x(), most.y() - least.y(), 1.0});
         tileSizeM = std::clamp(tileSizeM, extent / MaxCells, extent);
         const double cell = std::max(tileSizeM / (1 << LevelsInTile), extent / MaxCells);
-        // A corner of tiles is at the centre of the town, independently of its extent.
+        // A corner of tiles is at the centre of the city, independently of its extent.
         const osg::Vec2d corner(std::floor(least.x() / tileSizeM) * tileSizeM,
                                 std::floor(least.y() / tileSizeM) * tileSizeM);
         for (const std::uint32_t building : order) {
@@ -81,7 +81,7 @@ public:
             m_tileShift += 2;
     }
 
-    std::unique_ptr<TownTree> grow() const { return grow(m_order, RootShift); }
+    std::unique_ptr<CityTree> grow() const { return grow(m_order, RootShift); }
 
 private:
     static constexpr unsigned RootShift = 62;
@@ -99,18 +99,18 @@ private:
     }
 
     /// @param shift  the codes of the branch's buildings differ only in this number of lowest bits
-    std::unique_ptr<TownTree> grow(std::span<const std::uint32_t> buildings, unsigned shift) const
+    std::unique_ptr<CityTree> grow(std::span<const std::uint32_t> buildings, unsigned shift) const
     {
         const auto codeOf = [this](std::uint32_t building) { return m_codes[building]; };
         // A level with all buildings in one quarter is skipped.
         while (shift > 0 &&
                codeOf(buildings.front()) >> (shift - 2) == codeOf(buildings.back()) >> (shift - 2))
             shift -= 2;
-        auto tree = std::make_unique<TownTree>();
+        auto tree = std::make_unique<CityTree>();
         tree->buildings = buildings;
         if (shift == 0 || (shift <= m_tileShift && buildings.size() <= MaxBuildingsPerTile)) {
             for (const std::uint32_t building : buildings)
-                tree->bound.expandBy(boundOf(m_town, building));
+                tree->bound.expandBy(boundOf(m_city, building));
             return tree;
         }
         while (!buildings.empty()) {
@@ -127,7 +127,7 @@ private:
         return tree;
     }
 
-    const Town &m_town;
+    const CityModel &m_city;
     const std::vector<std::uint32_t> &m_order;
     std::vector<std::uint64_t> m_codes; ///< by building
     unsigned m_tileShift = 2 * LevelsInTile;
@@ -135,13 +135,13 @@ private:
 
 } // namespace
 
-TownTiles growTownTree(const Town &town, double tileSizeM)
+CityTiles growCityTree(const CityModel &city, double tileSizeM)
 {
-    TownTiles tiles;
-    tiles.order.resize(town.footprints.buildings.size());
+    CityTiles tiles;
+    tiles.order.resize(city.footprints.buildings.size());
     std::iota(tiles.order.begin(), tiles.order.end(), 0);
     if (!tiles.order.empty())
-        tiles.root = TreeGrower(town, tileSizeM, tiles.order).grow();
+        tiles.root = TreeGrower(city, tileSizeM, tiles.order).grow();
     return tiles;
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "plugins/scene/buildings/Town.h"
+#include "plugins/scene/buildings/CityModel.h"
 
 #include <gdal_priv.h>
 
@@ -21,21 +21,21 @@ using Rings = std::vector<Ring>;
 constexpr float BaseM = 30;
 
 /// Adds a building; all rings except the first are holes.
-inline void add(Town &town, const Rings &rings, float heightM = 12)
+inline void add(CityModel &city, const Rings &rings, float heightM = 12)
 {
-    Footprints &shapes = town.footprints;
+    Footprints &shapes = city.footprints;
     const auto begin = static_cast<std::uint32_t>(shapes.rings.size());
     for (const Ring &ring : rings) {
         const auto first = static_cast<std::uint32_t>(shapes.places.size());
         shapes.places.insert(shapes.places.end(), ring.begin(), ring.end());
-        town.places.insert(town.places.end(), ring.begin(), ring.end());
+        city.places.insert(city.places.end(), ring.begin(), ring.end());
         shapes.rings.push_back(
             {first, static_cast<std::uint32_t>(shapes.places.size()), shapes.rings.size() > begin});
     }
     shapes.buildings.push_back({begin, static_cast<std::uint32_t>(shapes.rings.size()), heightM});
-    town.baseM.push_back(BaseM);
-    town.wallColors.push_back({10, 20, 30, 0});
-    town.roofColors.push_back({200, 100, 50, 255});
+    city.baseM.push_back(BaseM);
+    city.wallColors.push_back({10, 20, 30, 0});
+    city.roofColors.push_back({200, 100, 50, 255});
 }
 
 inline Ring square(double x, double y, double side)

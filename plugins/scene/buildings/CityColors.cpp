@@ -1,4 +1,4 @@
-#include "plugins/scene/buildings/TownColors.h"
+#include "plugins/scene/buildings/CityColors.h"
 
 #include "contract/RasterColors.h"
 #include "coverage/CoverageRaster.h"
@@ -101,7 +101,7 @@ std::vector<std::size_t> inRows(const Footprints &footprints)
     return order;
 }
 
-/// Determines the values of a raster under the buildings of a town.
+/// Determines the values of a raster under the buildings of a city.
 class Values
 {
 public:
@@ -144,12 +144,12 @@ private:
     std::vector<coverage::Ring> m_rings;
 };
 
-std::vector<Rgba> rasterColors(const Town &town, const RasterColors &colors,
+std::vector<Rgba> rasterColors(const CityModel &city, const RasterColors &colors,
                                const std::vector<std::string> &directories, Notices &notices,
                                const Progress &progress)
 {
     const std::unique_ptr<CoverageRaster> raster = openRaster(colors, directories);
-    const PlaceTransform transform(town.srs, raster->srs());
+    const PlaceTransform transform(city.srs, raster->srs());
     if (!transform.isUsable())
         throw BadLayer("MESS_SCENE_BAD_RASTER",
                        {colors.raster, contract::formatted("MESS_SCENE_NO_TRANSFORMATION_FROM")});
@@ -157,7 +157,7 @@ std::vector<Rgba> rasterColors(const Town &town, const RasterColors &colors,
 
     const auto interpretation = colors.isInterpolated ? colormaps::Interpretation::Interpolation
                                                       : colormaps::Interpretation::ColorRanges;
-    const Footprints &footprints = town.footprints;
+    const Footprints &footprints = city.footprints;
     const std::size_t number = footprints.buildings.size();
     std::vector<Rgba> found(number, WithoutValue);
     Values values(footprints, transform, *raster, colors.reduction);
@@ -181,11 +181,11 @@ std::vector<Rgba> rasterColors(const Town &town, const RasterColors &colors,
 
 } // namespace
 
-std::vector<Rgba> townColors(const Town &town, const std::string &colorText,
+std::vector<Rgba> townColors(const CityModel &city, const std::string &colorText,
                              const std::vector<std::string> &directories, Notices &notices,
                              const Progress &progress)
 {
-    const std::size_t number = town.footprints.buildings.size();
+    const std::size_t number = city.footprints.buildings.size();
     if (colorText.empty())
         return std::vector<Rgba>(number, WithoutValue);
     if (const std::optional<Rgba> plain = parseColor(colorText))
@@ -194,7 +194,7 @@ std::vector<Rgba> townColors(const Town &town, const std::string &colorText,
         const std::optional<RasterColors> colors = contract::parseRasterColors(colorText);
         if (!colors)
             throw BadLayer("MESS_SCENE_NO_COLORS", {colorText});
-        return rasterColors(town, *colors, directories, notices, progress);
+        return rasterColors(city, *colors, directories, notices, progress);
     } catch (const BadLayer &fault) {
         notices.push_back(fault.what());
     }

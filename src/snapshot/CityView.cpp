@@ -1,4 +1,4 @@
-#include "snapshot/TownView.h"
+#include "snapshot/CityView.h"
 
 #include "snapshot/DrawnExtents.h"
 #include "snapshot/Subject.h"
@@ -84,13 +84,13 @@ std::optional<qint64> buildingCount(const osg::Node &scene)
     return std::nullopt;
 }
 
-Result<ViewPoint> viewOfTown(osg::Node &scene, qint64 buildings, double aspect)
+Result<ViewPoint> viewOfCity(osg::Node &scene, qint64 buildings, double aspect)
 {
     const Deferred deferred = buildings > MaxMeasured ? Deferred::ByBound : Deferred::Made;
-    const osg::BoundingBoxd town = extentsFrom(scene, deferred, std::nullopt);
-    if (!town.valid())
+    const osg::BoundingBoxd city = extentsFrom(scene, deferred, std::nullopt);
+    if (!city.valid())
         return Error{QStringLiteral("MESS_SNAP_EMPTY"), QStringLiteral("the scene is empty"), {}};
-    const Subject subject(town, aspect, DefaultMargin, steepAxes());
+    const Subject subject(city, aspect, DefaultMargin, steepAxes());
     constexpr double fieldStepDeg = 8;
     double field = DefaultFieldDeg;
     while (field <= MaxFieldDeg) {

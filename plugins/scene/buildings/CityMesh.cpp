@@ -1,4 +1,4 @@
-#include "plugins/scene/buildings/TownMesh.h"
+#include "plugins/scene/buildings/CityMesh.h"
 
 #include <osg/BoundingBox>
 #include <osg/CullFace>
@@ -85,19 +85,19 @@ osg::ref_ptr<osg::StateSet> plainFaceState()
     return state;
 }
 
-void TownMesh::addBuilding(std::uint32_t building, double skirtM)
+void CityMesh::addBuilding(std::uint32_t building, double skirtM)
 {
-    const Footprints &footprints = m_town.footprints;
+    const Footprints &footprints = m_city.footprints;
     for (const auto &part : partsOf(footprints.ringsOf(footprints.buildings[building])))
         addPart(part, building, skirtM);
 }
 
-void TownMesh::addPart(std::span<const Footprints::Ring> rings, std::uint32_t building,
+void CityMesh::addPart(std::span<const Footprints::Ring> rings, std::uint32_t building,
                        double skirtM)
 {
-    const double base = m_town.baseM[building] - m_origin.z();
-    const double top = base + m_town.footprints.buildings[building].heightM;
-    const osg::Vec4ub wallColor = opaque(m_town.wallColors[building]);
+    const double base = m_city.baseM[building] - m_origin.z();
+    const double top = base + m_city.footprints.buildings[building].heightM;
+    const osg::Vec4ub wallColor = opaque(m_city.wallColors[building]);
     std::vector<Places> outlines;
     m_roof.clear();
     for (const Footprints::Ring &ring : rings) {
@@ -112,10 +112,10 @@ void TownMesh::addPart(std::span<const Footprints::Ring> rings, std::uint32_t bu
         std::reverse(outline.begin(), outline.end()); // both sides may be outside
         addWalls(outline, base - skirtM, top, wallColor);
     }
-    addRoof(top, opaque(m_town.roofColors[building]));
+    addRoof(top, opaque(m_city.roofColors[building]));
 }
 
-void TownMesh::addWalls(const Places &ring, double bottom, double top, const osg::Vec4ub &color)
+void CityMesh::addWalls(const Places &ring, double bottom, double top, const osg::Vec4ub &color)
 {
     osg::Vec2d from = ring.back();
     for (const osg::Vec2d &to : ring) {
@@ -129,7 +129,7 @@ void TownMesh::addWalls(const Places &ring, double bottom, double top, const osg
     }
 }
 
-void TownMesh::addRoof(double top, const osg::Vec4ub &color)
+void CityMesh::addRoof(double top, const osg::Vec4ub &color)
 {
     const auto first = static_cast<std::uint32_t>(m_vertices.size());
     for (const osg::Vec2d &place : m_roof.points())
@@ -138,9 +138,9 @@ void TownMesh::addRoof(double top, const osg::Vec4ub &color)
         m_indices.insert(m_indices.end(), {first + a, first + b, first + c});
 }
 
-void TownMesh::addBoxes(std::uint32_t building)
+void CityMesh::addBoxes(std::uint32_t building)
 {
-    const Footprints &footprints = m_town.footprints;
+    const Footprints &footprints = m_city.footprints;
     for (const auto &part : partsOf(footprints.ringsOf(footprints.buildings[building]))) {
         double area = 0;
         for (const Footprints::Ring &ring : part) {
@@ -158,19 +158,19 @@ void TownMesh::addBoxes(std::uint32_t building)
     }
 }
 
-void TownMesh::addDot(std::uint32_t building)
+void CityMesh::addDot(std::uint32_t building)
 {
-    const Footprints &footprints = m_town.footprints;
+    const Footprints &footprints = m_city.footprints;
     const Footprints::Building &shape = footprints.buildings[building];
     osg::BoundingBoxd bound;
     for (const osg::Vec2d &place : placesOf(footprints.rings[shape.ringBegin], true))
         bound.expandBy(place.x(), place.y(), 0);
     const osg::Vec3d middle = bound.center();
-    vertex({middle.x(), middle.y()}, m_town.baseM[building] - m_origin.z() + shape.heightM, Upwards,
-           opaque(m_town.roofColors[building]));
+    vertex({middle.x(), middle.y()}, m_city.baseM[building] - m_origin.z() + shape.heightM, Upwards,
+           opaque(m_city.roofColors[building]));
 }
 
-void TownMesh::addBox(const Places &ring, double area, std::uint32_t building)
+void CityMesh::addBox(const Places &ring, double area, std::uint32_t building)
 {
     const osg::Vec2d along = mainDirection(ring);
     const osg::Vec2d across(-along.y(), along.x());
@@ -190,10 +190,10 @@ void TownMesh::addBox(const Places &ring, double area, std::uint32_t building)
     };
     const std::array<osg::Vec2d, 4> corners = {corner(-1, -1), corner(1, -1), corner(1, 1),
                                                corner(-1, 1)};
-    const double base = m_town.baseM[building] - m_origin.z();
-    const double top = base + m_town.footprints.buildings[building].heightM;
-    const osg::Vec4ub wallColor = opaque(m_town.wallColors[building]);
-    const osg::Vec4ub roofColor = opaque(m_town.roofColors[building]);
+    const double base = m_city.baseM[building] - m_origin.z();
+    const double top = base + m_city.footprints.buildings[building].heightM;
+    const osg::Vec4ub wallColor = opaque(m_city.wallColors[building]);
+    const osg::Vec4ub roofColor = opaque(m_city.roofColors[building]);
     const auto b = static_cast<std::uint32_t>(m_vertices.size());
     for (std::size_t i = 0; i < 4; ++i)
         vertex(corners[i], base, outwards(corners[(i + 1) % 4] - corners[i]), wallColor);
@@ -208,7 +208,7 @@ void TownMesh::addBox(const Places &ring, double area, std::uint32_t building)
     m_indices.insert(m_indices.end(), {t + 1, t + 2, t, t + 2, t + 3, t});
 }
 
-std::uint32_t TownMesh::vertex(const osg::Vec2d &place, double z, const osg::Vec2d &normal,
+std::uint32_t CityMesh::vertex(const osg::Vec2d &place, double z, const osg::Vec2d &normal,
                                const osg::Vec4ub &color)
 {
     const auto component = [](double value) {
@@ -222,9 +222,9 @@ std::uint32_t TownMesh::vertex(const osg::Vec2d &place, double z, const osg::Vec
     return static_cast<std::uint32_t>(m_vertices.size() - 1);
 }
 
-TownMesh::Places TownMesh::placesOf(const Footprints::Ring &ring, bool counterClockwise) const
+CityMesh::Places CityMesh::placesOf(const Footprints::Ring &ring, bool counterClockwise) const
 {
-    Places places(m_town.places.begin() + ring.begin, m_town.places.begin() + ring.end);
+    Places places(m_city.places.begin() + ring.begin, m_city.places.begin() + ring.end);
     for (osg::Vec2d &place : places)
         place -= osg::Vec2d(m_origin.x(), m_origin.y());
     if ((doubledArea(places) > 0) != counterClockwise)
@@ -232,7 +232,7 @@ TownMesh::Places TownMesh::placesOf(const Footprints::Ring &ring, bool counterCl
     return places;
 }
 
-osg::ref_ptr<osg::Geometry> TownMesh::geometry() const
+osg::ref_ptr<osg::Geometry> CityMesh::geometry() const
 {
     const auto size = static_cast<unsigned>(m_vertices.size());
     osg::ref_ptr<osg::Geometry> geometry = new osg::Geometry;

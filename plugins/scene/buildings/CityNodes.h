@@ -1,6 +1,6 @@
 #pragma once
 
-#include "plugins/scene/buildings/Town.h"
+#include "plugins/scene/buildings/CityModel.h"
 
 #include <osg/Group>
 
@@ -13,8 +13,8 @@ namespace vlt::scene {
 using TexturedMaker = std::function<osg::ref_ptr<osg::Node>(
     std::span<const std::uint32_t> buildings, const osg::Vec3d &origin)>;
 
-/// The options for drawing a town.
-struct TownLook
+/// The options for drawing a city.
+struct CityStyle
 {
     double tileSizeM = 250;
     double extrudedVisibilityM = 2000; ///< from the eye to the centre of a tile, less its radius
@@ -23,7 +23,7 @@ struct TownLook
     TexturedMaker makeTextured; ///< empty: no images
 };
 
-/// If a town has more vertices, its tiles are made when they are drawn for the first time.
+/// If a city has more vertices, its tiles are made when they are drawn for the first time.
 inline constexpr std::size_t MaxPlacesAtOnce = 3'000'000;
 
 /// A level with simpler buildings. Larger buildings are not simplified.
@@ -36,12 +36,12 @@ inline constexpr CoarseLevel Boxes{4, 40};
 inline constexpr CoarseLevel Dots{7, 28};
 inline constexpr double MaxBoxAmongDotsM = 70;
 
-/// The buildings of a town in tiles with levels of detail: buildings with images up to their
+/// The buildings of a city in tiles with levels of detail: buildings with images up to their
 /// maximum distance, extruded buildings up to theirs, nothing at larger distances. At low
 /// resolutions, thousands of buildings are one drawable.
 ///
 /// @throws Stopped  `progress` stopped the function
-osg::ref_ptr<osg::Group> buildTown(const std::shared_ptr<const Town> &town, const TownLook &look,
-                                   const Progress &progress);
+osg::ref_ptr<osg::Group> buildCity(const std::shared_ptr<const CityModel> &city,
+                                   const CityStyle &look, const Progress &progress);
 
 } // namespace vlt::scene

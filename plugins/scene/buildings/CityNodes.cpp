@@ -1,7 +1,7 @@
-#include "plugins/scene/buildings/TownNodes.h"
+#include "plugins/scene/buildings/CityNodes.h"
 
-#include "plugins/scene/buildings/TownMesh.h"
-#include "plugins/scene/buildings/TownTree.h"
+#include "plugins/scene/buildings/CityMesh.h"
+#include "plugins/scene/buildings/CityTree.h"
 #include "plugins/scene/mesh/DeferredNode.h"
 #include "plugins/scene/mesh/MovedNode.h"
 #include "plugins/scene/reading/Stopped.h"
@@ -33,14 +33,14 @@ osg::ref_ptr<osg::StateSet> makeState()
     return state;
 }
 
-/// The data that the tiles of a town share, as long as one of them exists.
+/// The data that the tiles of a city share, as long as one of them exists.
 struct Content
 {
-    std::shared_ptr<const Town> town;
-    TownLook look;
+    std::shared_ptr<const CityModel> city;
+    CityStyle look;
     osg::ref_ptr<osg::StateSet> state = makeState();
 
-    void add(osg::Geode &geode, const TownMesh &mesh) const
+    void add(osg::Geode &geode, const CityMesh &mesh) const
     {
         if (mesh.isEmpty())
             return;
@@ -49,7 +49,7 @@ struct Content
         geode.addDrawable(geometry);
     }
 
-    osg::ref_ptr<osg::Node> asNode(const TownMesh &mesh) const
+    osg::ref_ptr<osg::Node> asNode(const CityMesh &mesh) const
     {
         osg::ref_ptr<osg::Geode> geode = new osg::Geode;
         add(*geode, mesh);
@@ -59,7 +59,7 @@ struct Content
     osg::ref_ptr<osg::Node> extruded(std::span<const std::uint32_t> buildings,
                                      const osg::Vec3d &origin) const
     {
-        TownMesh mesh(*town, origin);
+        CityMesh mesh(*city, origin);
         for (const std::uint32_t building : buildings)
             mesh.addBuilding(building, look.skirtM);
         return asNode(mesh);
@@ -68,7 +68,7 @@ struct Content
     osg::ref_ptr<osg::Node> boxes(std::span<const std::uint32_t> buildings,
                                   const osg::Vec3d &origin) const
     {
-        TownMesh mesh(*town, origin);
+        CityMesh mesh(*city, origin);
         for (const std::uint32_t building : buildings)
             addBoxOrMore(mesh, building, Boxes.largestM);
         return asNode(mesh);
@@ -77,8 +77,8 @@ struct Content
     osg::ref_ptr<osg::Node> dots(std::span<const std::uint32_t> buildings,
                                  const osg::Vec3d &origin) const
     {
-        TownMesh large(*town, origin);
-        TownMesh small(*town, origin);
+        CityMesh large(*city, origin);
+        CityMesh small(*city, origin);
         for (const std::uint32_t building : buildings) {
             if (extentM(building) > Dots.largestM)
                 addBoxOrMore(large, building, MaxBoxAmongDotsM);
@@ -86,12 +86,12 @@ struct Content
                 small.addDot(building);
         }
         osg::ref_ptr<osg::Geode> geode = new osg::Geode;
-        for (const TownMesh *mesh : {&large, &small})
+        for (const CityMesh *mesh : {&large, &small})
             add(*geode, *mesh);
         return geode;
     }
 
-    void addBoxOrMore(TownMesh &mesh, std::uint32_t building, double largestM) const
+    void addBoxOrMore(CityMesh &mesh, std::uint32_t building, double largestM) const
     {
         if (extentM(building) > largestM)
             mesh.addBuilding(building, 0);
@@ -102,25 +102,25 @@ struct Content
     double extentM(std::uint32_t building) const
     {
         osg::BoundingBoxd bound;
-        const Footprints &footprints = town->footprints;
+        const Footprints &footprints = city->footprints;
         for (const Footprints::Ring &ring : footprints.ringsOf(footprints.buildings[building])) {
             for (std::uint32_t i = ring.begin; i < ring.end; ++i)
-                bound.expandBy(town->places[i].x(), town->places[i].y(), 0);
+                bound.expandBy(city->places[i].x(), city->places[i].y(), 0);
         }
         return std::max(bound.xMax() - bound.xMin(), bound.yMax() - bound.yMin());
     }
 };
 
-class TownBuilder
+class CityBuilder
 {
 public:
-    TownBuilder(std::shared_ptr<const Content> content, const Progress &progress)
+    CityBuilder(std::shared_ptr<const Content> content, const Progress &progress)
         : m_content(std::move(content))
         , m_progress(progress)
-        , m_isDeferred(m_content->town->places.size() > MaxPlacesAtOnce)
+        , m_isDeferred(m_content->city->places.size() > MaxPlacesAtOnce)
     {}
 
-    osg::ref_ptr<osg::Node> branch(const TownTree &tree, bool isInBlock)
+    osg::ref_ptr<osg::Node> branch(const CityTree &tree, bool isInBlock)
     {
         const bool isBlock = !isInBlock && (tree.isTile() || fitsBlock(tree));
         osg::ref_ptr<osg::Node> inner;
@@ -136,7 +136,7 @@ public:
     }
 
 private:
-    bool fitsBlock(const TownTree &tree) const
+    bool fitsBlock(const CityTree &tree) const
     {
         const double widthM =
             std::max(tree.bound.xMax() - tree.bound.xMin(), tree.bound.yMax() - tree.bound.yMin());
@@ -144,7 +144,7 @@ private:
                widthM <= BlockWidthShare * m_content->look.extrudedVisibilityM;
     }
 
-    osg::BoundingSphere boundOf(const TownTree &tree) const
+    osg::BoundingSphere boundOf(const CityTree &tree) const
     {
         osg::BoundingBoxd bound = tree.bound;
         bound.zMin() -= m_content->look.skirtM;
@@ -162,7 +162,7 @@ private:
 
     /// @param make  makes the node of a branch's buildings, relative to an origin
     template<typename Maker>
-    osg::ref_ptr<osg::Node> content(const TownTree &tree, bool isDeferred, const Maker &make) const
+    osg::ref_ptr<osg::Node> content(const CityTree &tree, bool isDeferred, const Maker &make) const
     {
         const osg::BoundingSphere bound = boundOf(tree);
         const osg::Vec3d origin = bound.center();
@@ -175,10 +175,10 @@ private:
         return moved(new DeferredNode(later, osg::BoundingSphere({}, bound.radius())), origin);
     }
 
-    osg::ref_ptr<osg::Node> tile(const TownTree &tree)
+    osg::ref_ptr<osg::Node> tile(const CityTree &tree)
     {
         using Buildings = std::span<const std::uint32_t>;
-        const TownLook &look = m_content->look;
+        const CityStyle &look = m_content->look;
         const osg::BoundingSphere bound = boundOf(tree);
         const float texturedM =
             look.makeTextured ? static_cast<float>(look.texturedVisibilityM) + bound.radius() : 0;
@@ -198,13 +198,13 @@ private:
                           texturedM, extrudedM);
         m_done += tree.buildings.size();
         if (!m_progress(static_cast<double>(m_done) /
-                        static_cast<double>(m_content->town->footprints.buildings.size())))
+                        static_cast<double>(m_content->city->footprints.buildings.size())))
             throw Stopped{};
         return lod;
     }
 
     /// The node of a branch whose buildings are simpler at low resolutions.
-    osg::ref_ptr<osg::Node> block(const TownTree &tree, const osg::ref_ptr<osg::Node> &inner) const
+    osg::ref_ptr<osg::Node> block(const CityTree &tree, const osg::ref_ptr<osg::Node> &inner) const
     {
         using Buildings = std::span<const std::uint32_t>;
         const float width = 2 * boundOf(tree).radius();
@@ -226,7 +226,7 @@ private:
 
     /// A node of a branch that is visible up to the distance of visibility.
     template<typename Maker>
-    osg::ref_ptr<osg::Node> visible(const TownTree &tree, const Maker &make) const
+    osg::ref_ptr<osg::Node> visible(const CityTree &tree, const Maker &make) const
     {
         const osg::BoundingSphere bound = boundOf(tree);
         osg::ref_ptr<osg::LOD> lod = levels(bound);
@@ -243,13 +243,13 @@ private:
 
 } // namespace
 
-osg::ref_ptr<osg::Group> buildTown(const std::shared_ptr<const Town> &town, const TownLook &look,
-                                   const Progress &progress)
+osg::ref_ptr<osg::Group> buildCity(const std::shared_ptr<const CityModel> &city,
+                                   const CityStyle &look, const Progress &progress)
 {
     osg::ref_ptr<osg::Group> group = new osg::Group;
-    const TownTiles tiles = growTownTree(*town, look.tileSizeM);
+    const CityTiles tiles = growCityTree(*city, look.tileSizeM);
     if (tiles.root)
-        group->addChild(TownBuilder(std::make_shared<Content>(Content{town, look}), progress)
+        group->addChild(CityBuilder(std::make_shared<Content>(Content{city, look}), progress)
                             .branch(*tiles.root, false));
     return group;
 }

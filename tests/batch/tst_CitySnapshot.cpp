@@ -70,7 +70,7 @@ QList<QRect> redParts(QImage picture)
 
 } // namespace
 
-class tst_TownSnapshot : public QObject
+class tst_CitySnapshot : public QObject
 {
     Q_OBJECT
 
@@ -82,7 +82,7 @@ private Q_SLOTS:
                                        "cellsize 10000\n3 3\n3 3\n");
     }
 
-    void showsTheTown_data()
+    void showsTheCity_data()
     {
         QTest::addColumn<double>("townM");
         QTest::addColumn<int>("side");
@@ -95,7 +95,7 @@ private Q_SLOTS:
         QTest::newRow("seen only from among the houses") << 4000. << 81 << 100 << false;
     }
 
-    void showsTheTown()
+    void showsTheCity()
     {
         QFETCH(double, townM);
         QFETCH(int, side);
@@ -142,5 +142,5 @@ private:
     std::unique_ptr<ProgramRun> m_program;
 };
 
-QTEST_GUILESS_MAIN(tst_TownSnapshot)
-#include "tst_TownSnapshot.moc"
+QTEST_GUILESS_MAIN(tst_CitySnapshot)
+#include "tst_CitySnapshot.moc"

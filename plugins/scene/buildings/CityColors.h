@@ -1,6 +1,6 @@
 #pragma once
 
-#include "plugins/scene/buildings/Town.h"
+#include "plugins/scene/buildings/CityModel.h"
 
 #include <string>
 #include <vector>
@@ -16,9 +16,9 @@ namespace vlt::scene {
 /// map or the system cannot be used, all buildings get that grey, and a notice gives the reason.
 ///
 /// @param directories  searched for relative paths, in this order
-/// @return             parallel to town.footprints.buildings
+/// @return             parallel to city.footprints.buildings
 /// @throws Stopped     `progress` stopped the function
-std::vector<colormaps::Rgba> townColors(const Town &town, const std::string &colorText,
+std::vector<colormaps::Rgba> townColors(const CityModel &city, const std::string &colorText,
                                         const std::vector<std::string> &directories,
                                         Notices &notices, const Progress &progress);
 

@@ -1,6 +1,6 @@
+#include "CityTesting.h"
 #include "LayerScenes.h"
-#include "TownTesting.h"
-#include "plugins/scene/buildings/TownColors.h"
+#include "plugins/scene/buildings/CityColors.h"
 #include "plugins/scene/reading/Stopped.h"
 
 #include <QTemporaryDir>
@@ -15,14 +15,14 @@ using vlt::colormaps::Rgba;
 const QString Grey = QStringLiteral("c8c8c8"); ///< colour of buildings without a value
 
 /// Triangles around the centres of pixels of 10 by 10, in order from east to west.
-Town townOf(int buildings)
+CityModel townOf(int buildings)
 {
-    Town town;
+    CityModel city;
     for (int i = 0; i < buildings; ++i) {
         const double x = 10 * (buildings - 1 - i);
-        towntest::add(town, {{{x + 2, 2}, {x + 8, 2}, {x + 5, 9}}});
+        towntest::add(city, {{{x + 2, 2}, {x + 8, 2}, {x + 5, 9}}});
     }
-    return town;
+    return city;
 }
 
 QString hex(const std::vector<Rgba> &colors)
@@ -36,7 +36,7 @@ QString hex(const std::vector<Rgba> &colors)
 
 } // namespace
 
-class tst_TownColors : public QObject
+class tst_CityColors : public QObject
 {
     Q_OBJECT
 
@@ -56,10 +56,10 @@ class tst_TownColors : public QObject
                        {int(values.size()), 1, 1, GDT_Float32, corner, 10, system, value});
     }
 
-    QString colorsOf(const Town &town, const QByteArray &colorText, Notices &notices)
+    QString colorsOf(const CityModel &city, const QByteArray &colorText, Notices &notices)
     {
         const std::vector<std::string> directories = {"/nowhere", m_dir.path().toStdString()};
-        return hex(townColors(town, colorText.toStdString(), directories, notices,
+        return hex(townColors(city, colorText.toStdString(), directories, notices,
                               [](double) { return true; }));
     }
 
@@ -172,16 +172,16 @@ private Q_SLOTS:
         // 221505, 221515 and 221525 by 6758005, transformed with gdaltransform.
         constexpr std::array<std::pair<double, double>, 3> Middles = {
             {{-3.3925193, 47.7480247}, {-3.3923863, 47.7480320}, {-3.3922533, 47.7480393}}};
-        Town town = townOf(3);
-        for (std::size_t i = 0; i < town.footprints.places.size(); ++i) {
+        CityModel city = townOf(3);
+        for (std::size_t i = 0; i < city.footprints.places.size(); ++i) {
             const auto &[x, y] = Middles[2 - i / 3];
-            town.footprints.places[i] = {x + (i % 3 == 1 ? 2e-5 : 0), y + (i % 3 == 2 ? 2e-5 : 0)};
+            city.footprints.places[i] = {x + (i % 3 == 1 ? 2e-5 : 0), y + (i % 3 == 2 ? 2e-5 : 0)};
         }
-        town.srs = SRS_WKT_WGS84_LAT_LONG;
+        city.srs = SRS_WKT_WGS84_LAT_LONG;
         Notices notices;
 
         QCOMPARE(
-            colorsOf(town, "IMAGE;lambert.tif;map.txt;average;absolute;interpolation;-99", notices),
+            colorsOf(city, "IMAGE;lambert.tif;map.txt;average;absolute;interpolation;-99", notices),
             QStringLiteral("640000 320000 000000"));
         QVERIFY(notices.empty());
     }
@@ -209,5 +209,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_TownColors)
-#include "tst_TownColors.moc"
+QTEST_GUILESS_MAIN(tst_CityColors)
+#include "tst_CityColors.moc"

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "plugins/scene/buildings/CityModel.h"
 #include "plugins/scene/buildings/RoofTriangles.h"
-#include "plugins/scene/buildings/Town.h"
 
 #include <osg/Array>
 #include <osg/Geometry>
@@ -13,11 +13,11 @@ namespace vlt::scene {
 
 /// Buildings as triangles that will become one drawable. Faces share no vertices, so that each has
 /// its own normal and colour.
-class TownMesh
+class CityMesh
 {
 public:
-    /// @param origin  in the town's frame; vertices are relative to it
-    TownMesh(const Town &town, const osg::Vec3d &origin) : m_town(town), m_origin(origin) {}
+    /// @param origin  in the city's frame; vertices are relative to it
+    CityMesh(const CityModel &city, const osg::Vec3d &origin) : m_city(city), m_origin(origin) {}
 
     /// Adds a building in full detail: its walls from `skirtM` below its base to its height, also
     /// around courtyards, and its roof. All faces face outwards for every direction of the rings.
@@ -53,7 +53,7 @@ private:
                          const osg::Vec4ub &color);
     Places placesOf(const Footprints::Ring &ring, bool counterClockwise) const;
 
-    const Town &m_town;
+    const CityModel &m_city;
     osg::Vec3d m_origin;
     RoofTriangles m_roof;
     std::vector<osg::Vec3> m_vertices;
