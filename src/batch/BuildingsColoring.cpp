@@ -33,10 +33,10 @@ Result<colormaps::ColorMapEntry> chosenColorMap(const QString &wanted, const QSt
         return maps.at(index);
     if (!wanted.isEmpty() && QFileInfo(wanted).isFile())
         return colormaps::colorMapEntry(absolutePath(wanted));
-    return told(dico_label("MESS_CLI_NO_SUCH_CMAP",
-                           "no color map has this name, nor any file; there are: %1")
-                    .arg(names.join(QStringLiteral(", "))),
-                wanted);
+    return reported(dico_label("MESS_CLI_NO_SUCH_CMAP",
+                               "no color map has this name, nor any file; there are: %1")
+                        .arg(names.join(QStringLiteral(", "))),
+                    wanted);
 }
 
 /// The error for a raster with several bands or none, with the names of the images in its file.
@@ -53,7 +53,7 @@ Error notOneBand(const geodata::RasterSummary &raster, const QString &path)
         text += QStringLiteral("; ") +
                 dico_label("MESS_CLI_SUBDATASETS", "it holds several images, each with a name: %1")
                     .arg(parts.join(QStringLiteral(", ")));
-    return told(text, path);
+    return reported(text, path);
 }
 
 /// Opens the raster of the colours and stores its absolute name in `coloring`.
@@ -106,7 +106,7 @@ Result<buildings::LegendInput> readColoring(RasterColoring &coloring, const QStr
     const std::optional<coverage::ValueRange> range =
         coloring.stretched ? rangeOf(*raster.value(), quiet) : std::nullopt;
     if (coloring.stretched && !range)
-        return told(dico_label("MESS_CLI_NO_VALUES", "none of its pixels has a value"), image);
+        return reported(dico_label("MESS_CLI_NO_VALUES", "none of its pixels has a value"), image);
     auto legend = buildings::legendOf(coloring, range);
     if (!legend)
         return onFile(legend.error(), coloring.colorMap);

@@ -32,10 +32,10 @@ Result<int> chosenLayer(const QList<geodata::PolygonLayer> &layers, const QStrin
         names << layer.name;
     const qsizetype index = indexOfName(names, wanted);
     if (index < 0)
-        return told(dico_label("MESS_CLI_NO_SUCH_LAYER",
-                               "no layer of polygons has the name \"%1\"; there are: %2")
-                        .arg(wanted, names.join(QStringLiteral(", "))),
-                    path);
+        return reported(dico_label("MESS_CLI_NO_SUCH_LAYER",
+                                   "no layer of polygons has the name \"%1\"; there are: %2")
+                            .arg(wanted, names.join(QStringLiteral(", "))),
+                        path);
     return static_cast<int>(index);
 }
 
@@ -56,16 +56,16 @@ Result<QString> chosenField(const geodata::PolygonLayer &layer, const QString &w
         const qsizetype index = indexOfName(names, wanted);
         if (index >= 0)
             return names.at(index);
-        return told(dico_label("MESS_CLI_NO_SUCH_FIELD",
-                               "no field of heights has the name \"%1\"; there are: %2")
-                        .arg(wanted, names.join(QStringLiteral(", "))),
-                    path);
+        return reported(dico_label("MESS_CLI_NO_SUCH_FIELD",
+                                   "no field of heights has the name \"%1\"; there are: %2")
+                            .arg(wanted, names.join(QStringLiteral(", "))),
+                        path);
     }
     const QString guess = names.value(buildings::guessedHeightField(offered));
     if (guess.isEmpty())
-        return told(dico_label("MESS_CLI_NO_HEIGHT_FIELD",
-                               "which field holds the heights? --height-field tells"),
-                    path);
+        return reported(dico_label("MESS_CLI_NO_HEIGHT_FIELD",
+                                   "which field holds the heights? --height-field tells"),
+                        path);
     return guess;
 }
 
@@ -127,9 +127,9 @@ Result<QString> vectorFile(const QString &given, const QString &project)
         return given;
     Result<QString> found = project::buildingVectorFile(project);
     if (found && found.value().isEmpty())
-        return told(dico_label("MESS_CLI_NO_BUILDINGS", "the project names no buildings: give "
-                                                        "their file"),
-                    project);
+        return reported(dico_label("MESS_CLI_NO_BUILDINGS", "the project names no buildings: give "
+                                                            "their file"),
+                        project);
     return found;
 }
 
@@ -147,8 +147,8 @@ Result<BuildingsInputs> readFiles(const BuildingsRequest &request, const Surroun
     const QString dtm =
         request.terrain.isEmpty() ? surroundings.project.terrainFile : request.terrain;
     if (dtm.isEmpty())
-        return told(dico_label("MESS_CLI_NO_DTM", "the project names no terrain: give --dtm"),
-                    project);
+        return reported(dico_label("MESS_CLI_NO_DTM", "the project names no terrain: give --dtm"),
+                        project);
     const auto noData = readTerrain(dtm, request.terrainNoData, inputs.terrainWarning);
     if (!noData)
         return noData.error();

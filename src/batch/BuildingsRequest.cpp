@@ -26,8 +26,8 @@ const QStringList OfTextures = {
     QStringLiteral("compression"), QStringLiteral("no-complex-buildings"),
     QStringLiteral("buffer"),      QStringLiteral("dilatation"),
     QStringLiteral("magnify")};
-const QStringList OfLook = {QStringLiteral("cache"), QStringLiteral("delayed-write"),
-                            QStringLiteral("cache-capacity")};
+const QStringList TexturingOptions = {QStringLiteral("cache"), QStringLiteral("delayed-write"),
+                                      QStringLiteral("cache-capacity")};
 
 /// Index of an option's value among the words; 0 if the option is not given.
 Result<int> readWord(const QCommandLineParser &parser, const QString &option,
@@ -76,7 +76,7 @@ bool hasTextures(const QCommandLineParser &parser)
 }
 
 /// Whether the options give the buildings more than the image's colours.
-bool hasLook(const QCommandLineParser &parser)
+bool hasTexturingOptions(const QCommandLineParser &parser)
 {
     return hasTextures(parser) || !parser.isSet(QStringLiteral("image")) ||
            parser.isSet(QStringLiteral("wall-color")) || parser.isSet(QStringLiteral("roof-color"));
@@ -103,9 +103,10 @@ std::optional<Error> checkCompanions(const QCommandLineParser &parser)
     if (!error && !hasTextures(parser))
         error = refused(OfTextures, dico_label("MESS_USE_ONLY_TEXTURES",
                                                "%1 is only for --texture and --textures"));
-    if (!error && !hasLook(parser))
-        error = refused(OfLook, dico_label("MESS_USE_NOT_IMAGE",
-                                           "%1 is not for buildings that --image colors alone"));
+    if (!error && !hasTexturingOptions(parser))
+        error = refused(
+            TexturingOptions,
+            dico_label("MESS_USE_NOT_IMAGE", "%1 is not for buildings that --image colors alone"));
     return error;
 }
 
@@ -178,8 +179,8 @@ Result<BuildingTextures> readTextures(const QCommandLineParser &parser,
 }
 
 /// Reads the look without its textures.
-Result<buildings::TexturedLook> readLook(const QCommandLineParser &parser,
-                                         const BuildingsMeasures &measures)
+Result<buildings::TexturingParameters> readTexturingParameters(const QCommandLineParser &parser,
+                                                               const BuildingsMeasures &measures)
 {
     const Result<QString> walls =
         readColor(parser, QStringLiteral("wall-color"), contract::FirstWallColor, true);
@@ -201,7 +202,7 @@ Result<buildings::TexturedLook> readLook(const QCommandLineParser &parser,
         return wrongUsage(dico_label("MESS_USE_NEEDS_COLORMAP",
                                      "--image colors these buildings only with --wall-color "
                                      "colormap or --roof-color colormap"));
-    buildings::TexturedLook look;
+    buildings::TexturingParameters look;
     look.cache = cache.value();
     look.texturedVisibilityM = measures.texturedDistanceM;
     look.wallColor = walls.value();
@@ -274,9 +275,9 @@ Result<BuildingsRequest> readBuildingsRequest(const QCommandLineParser &parser)
             return image.error();
         request.image = image.value();
     }
-    if (!hasLook(parser))
+    if (!hasTexturingOptions(parser))
         return request;
-    const Result<buildings::TexturedLook> look = readLook(parser, measures);
+    const Result<buildings::TexturingParameters> look = readTexturingParameters(parser, measures);
     if (!look)
         return look.error();
     request.look = look.value();

@@ -31,7 +31,7 @@ struct BuildingsRequest
     std::optional<buildings::RasterColoring> image; ///< image and colour map as given
     /// None for buildings with the image's colours; without textures for plain buildings. The
     /// textures have no images yet, and the colours may be ColorMapWord.
-    std::optional<buildings::TexturedLook> look;
+    std::optional<buildings::TexturingParameters> look;
     TextureChoice textures; ///< of a look with textures
 };
 

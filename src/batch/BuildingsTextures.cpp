@@ -29,7 +29,7 @@ struct GivenImage
 
 Error badHeight(const QString &image)
 {
-    return told(dico_label("MESS_CLI_BAD_HEIGHT", "the height is no number"), image);
+    return reported(dico_label("MESS_CLI_BAD_HEIGHT", "the height is no number"), image);
 }
 
 /// Splits "FILE=HEIGHT", unless a file has this whole name.
@@ -50,7 +50,7 @@ Images entriesOf(const GivenImage &given)
     if (file.filePath().isEmpty() && sign > 0 && QFileInfo(given.name.left(sign)).isFile())
         return badHeight(given.name);
     if (file.filePath().isEmpty())
-        return told(dico_label("MESS_SNAP_NO_FILE", "no such file"), given.name);
+        return reported(dico_label("MESS_SNAP_NO_FILE", "no such file"), given.name);
     const QString path = file.absoluteFilePath();
     const QString name = absoluteDatasetName(given.name);
     const bool isPart = name != path;
@@ -72,9 +72,9 @@ Images entriesOf(const GivenImage &given)
     const bool isWithout = std::any_of(entries.cbegin(), entries.cend(),
                                        [](const FileEntry &entry) { return entry.height == 0; });
     if (isWithout || entries.isEmpty())
-        return told(dico_label("MESS_CLI_TEXTURE_HEIGHT",
-                               "for which height is this image? --texture FILE=HEIGHT tells"),
-                    given.name);
+        return reported(dico_label("MESS_CLI_TEXTURE_HEIGHT",
+                                   "for which height is this image? --texture FILE=HEIGHT tells"),
+                        given.name);
     return entries;
 }
 
@@ -94,7 +94,7 @@ Images foundImages(const TextureChoice &choice, bool quiet)
 {
     const QFileInfo file(choice.templateFile);
     if (!file.isFile())
-        return told(dico_label("MESS_SNAP_NO_FILE", "no such file"), choice.templateFile);
+        return reported(dico_label("MESS_SNAP_NO_FILE", "no such file"), choice.templateFile);
     ProgressLine line(dico_label("MESS_LOOKING_FOR_IMAGES", "Looking for images..."), !quiet);
     const auto found = buildings::findTextures(choice.structure, file.absolutePath(), file.suffix(),
                                                line.progress());
@@ -102,8 +102,8 @@ Images foundImages(const TextureChoice &choice, bool quiet)
     for (const int place : buildings::matchingTextures(*found, choice.filter))
         images << found->at(place);
     if (images.isEmpty())
-        return told(dico_label("MESS_CLI_NO_TEXTURES", "no image is found by it"),
-                    choice.templateFile);
+        return reported(dico_label("MESS_CLI_NO_TEXTURES", "no image is found by it"),
+                        choice.templateFile);
     return images;
 }
 

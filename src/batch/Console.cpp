@@ -46,7 +46,7 @@ const ErrorStyle &errorStyle()
     return styleOfRun();
 }
 
-void tellError(const Error &error, ExitStatus status)
+void reportError(const Error &error, ExitStatus status)
 {
     printError(explain(error));
     if (errorStyle().json)
@@ -55,7 +55,7 @@ void tellError(const Error &error, ExitStatus status)
 
 ExitStatus refuse(const Error &error)
 {
-    tellError(error, ExitStatus::Refused);
+    reportError(error, ExitStatus::Refused);
     return ExitStatus::Refused;
 }
 

@@ -30,7 +30,7 @@ const ErrorStyle &errorStyle();
 
 /// Prints an error on the error output, like refuse(); in JSON style also as an object with the
 /// exit status.
-void tellError(const Error &error, ExitStatus status);
+void reportError(const Error &error, ExitStatus status);
 
 /// Prints why an input is refused, with its file, in the chosen language.
 ///

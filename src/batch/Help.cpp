@@ -108,7 +108,7 @@ QString versionText()
 ExitStatus refuseUsage(const QString &text)
 {
     const QString command = errorStyle().command;
-    tellError({{}, text}, ExitStatus::WrongUsage);
+    reportError({{}, text}, ExitStatus::WrongUsage);
     printError(dico_label("MESS_USE_TRY", "try '%1'")
                    .arg(QStringList{Program, command, QStringLiteral("--help")}
                             .join(QLatin1Char(' '))

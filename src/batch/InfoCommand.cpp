@@ -122,7 +122,7 @@ Result<InfoReport> readTable(const QString &path, bool isLinks, const tables::Ta
 }
 
 /// Prints several tables as one object; refused tables have an error in it.
-ExitStatus tellAsJson(const QList<Result<InfoReport>> &outcomes)
+ExitStatus printJson(const QList<Result<InfoReport>> &outcomes)
 {
     QJsonArray tables;
     ExitStatus status = ExitStatus::Done;
@@ -189,12 +189,12 @@ ExitStatus run(const QCommandLineParser &parser, const GlobalOptions &options)
         outcomes << (report ? report : Result<InfoReport>(onFile(report.error(), table)));
     }
     if (options.json && outcomes.size() > 1)
-        return tellAsJson(outcomes);
+        return printJson(outcomes);
 
     ExitStatus status = ExitStatus::Done;
     for (const Result<InfoReport> &outcome : outcomes) {
-        if (const ExitStatus told = tell(outcome, options.json); told != ExitStatus::Done)
-            status = told;
+        if (const ExitStatus reported = tell(outcome, options.json); reported != ExitStatus::Done)
+            status = reported;
         if (&outcome != &outcomes.constLast())
             printOut(QStringLiteral("\n"));
     }

@@ -9,7 +9,7 @@ QString absolutePath(const QString &path)
     return QFileInfo(path).absoluteFilePath();
 }
 
-Error told(const QString &text, const QString &path)
+Error reported(const QString &text, const QString &path)
 {
     return {QString(), text, path};
 }

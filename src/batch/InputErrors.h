@@ -9,7 +9,7 @@ namespace vlt::batch {
 QString absolutePath(const QString &path);
 
 /// An error whose text is already in the language in use.
-Error told(const QString &text, const QString &path);
+Error reported(const QString &text, const QString &path);
 
 /// The error with the file name that the user gave.
 Error onFile(Error error, const QString &path);

@@ -83,15 +83,15 @@ Result<LinkRequest> readLinkRequest(const QCommandLineParser &parser)
 Result<geodata::LinkCheck> readLinks(const links::LinkLayerInput &input, const LinkRequest &wanted,
                                      bool quiet)
 {
-    geodata::LinkCheckInput input;
-    input.rule = {wanted.look.fresnelSharePercent / 100.0, wanted.look.kFactor};
+    geodata::LinkCheckInput check;
+    check.rule = {wanted.look.fresnelSharePercent / 100.0, wanted.look.kFactor};
     if (wanted.report)
-        input.terrainFile = input.project.terrainFile;
+        check.terrainFile = input.project.terrainFile;
     ProgressLine line(dico_label("MESS_CLI_READING_LINKS", "Reading the links"), !quiet);
     const QString connection =
         sites::resolvedConnection(links::linkQuery(input), input.project.directory());
     // The progress line never stops the work, so there is a value.
-    return *geodata::readLinkCheck(connection, input, line.progress(),
+    return *geodata::readLinkCheck(connection, check, line.progress(),
                                    {input.sourceSrs, input.targetSrs});
 }
 

@@ -138,7 +138,7 @@ Result<Request> readRequest(const QCommandLineParser &parser)
     return request;
 }
 
-void tellNotices(const QStringList &notices, const GlobalOptions &options)
+void printNotices(const QStringList &notices, const GlobalOptions &options)
 {
     for (const QString &notice : notices) {
         if (!options.quiet)
@@ -221,7 +221,7 @@ ExitStatus makePicture(const Request &request, const GlobalOptions &options)
         notices.take(); // they repeat the error's reason
         return refuseLayer(scene.error(), request);
     }
-    tellNotices(notices.take(), options);
+    printNotices(notices.take(), options);
     const Result<QImage> picture =
         snapshot::renderSnapshot(*scene.value(), request.size, request.view);
     if (!picture)

@@ -79,8 +79,8 @@ ExitStatus runWithoutCommand(const SplitArguments &split, const Place &place)
     if (!isHelp) {
         if (!split.json)
             printOut(programHelpText());
-        tellError(wrongUsage(dico_label("MESS_USE_COMMAND_MISSING", "no command given")),
-                  ExitStatus::WrongUsage);
+        reportError(wrongUsage(dico_label("MESS_USE_COMMAND_MISSING", "no command given")),
+                    ExitStatus::WrongUsage);
         return ExitStatus::WrongUsage;
     }
     const QString name = parser.positionalArguments().value(0, HelpCommand);

@@ -217,7 +217,8 @@ Result<BuildingLayerFiles> writeColoredLayer(const QString &layerPath,
 
 Result<BuildingLayerFiles> writeTexturedLayer(const QString &layerPath,
                                               const BuildingLayerInput &input,
-                                              const TexturedLook &look, platform::Access access)
+                                              const TexturingParameters &look,
+                                              platform::Access access)
 {
     contract::BuildingDocument document = documentOf(input);
     document.cache = look.cache;

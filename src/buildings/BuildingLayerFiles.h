@@ -55,7 +55,7 @@ Result<BuildingLayerFiles> writeColoredLayer(const QString &layerPath,
                                              const RasterColoring &walls, platform::Access access);
 
 /// Colours and images of the buildings of a layer.
-struct TexturedLook
+struct TexturingParameters
 {
     contract::BuildingCache cache;
     double texturedVisibilityM = 0;
@@ -69,6 +69,7 @@ struct TexturedLook
 /// The same for the full document.
 Result<BuildingLayerFiles> writeTexturedLayer(const QString &layerPath,
                                               const BuildingLayerInput &input,
-                                              const TexturedLook &look, platform::Access access);
+                                              const TexturingParameters &look,
+                                              platform::Access access);
 
 } // namespace vlt::buildings

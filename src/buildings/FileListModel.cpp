@@ -49,7 +49,7 @@ void FileListModel::showMatching()
     beginResetModel();
     m_rows = matchingTextures(m_entries, m_filter);
     endResetModel();
-    tellCounts();
+    emitCounts();
 }
 
 void FileListModel::countSelected()
@@ -58,7 +58,7 @@ void FileListModel::countSelected()
                                                 [](const FileEntry &entry) { return entry.used; }));
 }
 
-void FileListModel::tellCounts()
+void FileListModel::emitCounts()
 {
     Q_EMIT updated(static_cast<int>(m_entries.size()), static_cast<int>(m_rows.size()), m_selected);
 }
@@ -136,7 +136,7 @@ bool FileListModel::setData(const QModelIndex &index, const QVariant &value, int
     } else {
         entry.used = role == Qt::CheckStateRole ? value.toInt() == Qt::Checked : value.toBool();
         countSelected();
-        tellCounts();
+        emitCounts();
     }
     Q_EMIT dataChanged(index, index);
     return true;
@@ -165,7 +165,7 @@ void FileListModel::setUsed(const QModelIndexList &rows, bool used)
         return;
     countSelected();
     Q_EMIT dataChanged(index(first, UseColumn), index(last, UseColumn));
-    tellCounts();
+    emitCounts();
 }
 
 } // namespace vlt::buildings

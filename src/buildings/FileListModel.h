@@ -49,7 +49,7 @@ Q_SIGNALS:
 private:
     void showMatching();
     void countSelected();
-    void tellCounts();
+    void emitCounts();
 
     QList<FileEntry> m_entries;
     QList<int> m_rows; ///< index in m_entries of each row

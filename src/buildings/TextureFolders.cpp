@@ -37,10 +37,10 @@ struct Image
 };
 
 /// Reports the progress, but not more often than a user can see.
-class Teller
+class ProgressReporter
 {
 public:
-    explicit Teller(const Progress &progress) : m_progress(progress) {}
+    explicit ProgressReporter(const Progress &progress) : m_progress(progress) {}
 
     /// Reports the progress; false if the work must stop.
     bool goesOn(double share)
@@ -190,12 +190,12 @@ public:
     explicit Reading(QList<Image> images) : m_images(std::move(images)), m_read(m_images.size()) {}
 
     /// The images; none if the work was stopped.
-    std::optional<QList<FileEntry>> run(Teller &teller)
+    std::optional<QList<FileEntry>> run(ProgressReporter &reporter)
     {
         std::vector<std::thread> others;
         for (qsizetype i = 1; i < threadCount(); ++i)
             others.emplace_back([this] { readSome(nullptr); });
-        readSome(&teller);
+        readSome(&reporter);
         for (std::thread &other : others)
             other.join();
         if (m_isStopped)
@@ -215,7 +215,7 @@ private:
                          m_images.size() / WorthAThread + 1});
     }
 
-    void readSome(Teller *teller)
+    void readSome(ProgressReporter *reporter)
     {
         std::unique_ptr<geodata::ImageFileReader> reader;
         const geodata::FolderNames *folder = nullptr;
@@ -230,7 +230,7 @@ private:
             }
             m_read[static_cast<std::size_t>(place)] = entriesOf(image, reader->read(image.path));
             const double share = static_cast<double>(place + 1);
-            if (teller && !teller->goesOn(share / static_cast<double>(m_images.size())))
+            if (reporter && !reporter->goesOn(share / static_cast<double>(m_images.size())))
                 m_isStopped = true;
         }
     }
@@ -246,14 +246,14 @@ private:
 std::optional<QList<FileEntry>> findTextures(DataStructure structure, const QString &templateDir,
                                              const QString &suffix, const Progress &progress)
 {
-    Teller teller(progress);
+    ProgressReporter reporter(progress);
     QList<Image> images;
     for (const Folder &folder : foldersOf(structure, templateDir)) {
-        if (!teller.goesOn(0))
+        if (!reporter.goesOn(0))
             return std::nullopt;
         images += imagesIn(folder, suffix);
     }
-    return Reading(std::move(images)).run(teller);
+    return Reading(std::move(images)).run(reporter);
 }
 
 } // namespace vlt::buildings

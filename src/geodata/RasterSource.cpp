@@ -58,7 +58,7 @@ void keepFromSaving(GDALDataset &dataset)
         keeping->SetPamFlags(keeping->GetPamFlags() | GPF_NOSAVE);
 }
 
-int CPL_STDCALL tellProgress(double share, const char * /*message*/, void *progress)
+int CPL_STDCALL reportProgress(double share, const char * /*message*/, void *progress)
 {
     return (*static_cast<const Progress *>(progress))(share) ? TRUE : FALSE;
 }
@@ -108,13 +108,14 @@ Stoppable<double> guessedNoData(const QString &path, const Progress &progress, c
                      {}};
 
     bool isStopped = false;
-    Progress told = [&](double share) {
+    Progress reported = [&](double share) {
         isStopped = progress && !progress(share);
         return !isStopped;
     };
     double min = 0;
     double max = 0;
-    if (band->ComputeStatistics(true, &min, &max, nullptr, nullptr, tellProgress, &told) != CE_None)
+    if (band->ComputeStatistics(true, &min, &max, nullptr, nullptr, reportProgress, &reported) !=
+        CE_None)
         min = max = 0; // the band has only missing values
     if (isStopped)
         return std::nullopt;

@@ -107,9 +107,9 @@ Stoppable<Scene> readScene(const QString &name, const QString &project, TerrainS
     if (terrain == TerrainSurface::Shown)
         options->setPluginStringData(contract::TerrainDatum, "1");
     options->setPluginStringData(contract::DrawnDatum, "1");
-    Progress told = progress;
-    contract::ReadProgress listener{report, &told};
-    if (told)
+    Progress reported = progress;
+    contract::ReadProgress listener{report, &reported};
+    if (reported)
         options->setPluginData(contract::ProgressDatum, &listener);
     const std::string path = QFile::encodeName(source).toStdString();
     ReadResult read = registry->readNode(path, options.get());

@@ -81,7 +81,7 @@ private Q_SLOTS:
         QTest::newRow("colour map of the user, empty no-data")
             << u"--image ../level.asc --colormap ../own.txt --mode mostRepresented --dtm-nodata="_s
             << QStringList{u"level.asc;@/own.txt;mostRepresented;stretched;"_s, u"nodata=\"\""_s};
-        addRowsWithLook();
+        addRowsWithStyle();
     }
 
     void writesDocuments()
@@ -100,23 +100,23 @@ private Q_SLOTS:
         }
     }
 
-    void tellsWhatItWrote()
+    void reportsWhatItWrote()
     {
         const Run run = start(
             u"buildings --project ../city.gvw --image ../level.asc -o o.lay --json --language fr"_s);
 
-        const QJsonObject told = QJsonDocument::fromJson(run.output).object();
+        const QJsonObject reported = QJsonDocument::fromJson(run.output).object();
         const QString folder = path(u"elsewhere/"_s);
-        QCOMPARE(told.value(u"layer"_s).toString(), folder + u"o.lay"_s);
-        QCOMPARE(told.value(u"document"_s).toString(), folder + u"o.texb"_s);
-        QCOMPARE(told.value(u"subtype"_s).toString(), u"rf_colored_buildings"_s);
-        QCOMPARE(told.value(u"vector"_s).toString(), path(u"houses.geojson"_s));
-        QCOMPARE(told.value(u"buildings"_s).toInt(), 3);
-        QVERIFY(!told.contains(u"textures"_s));
+        QCOMPARE(reported.value(u"layer"_s).toString(), folder + u"o.lay"_s);
+        QCOMPARE(reported.value(u"document"_s).toString(), folder + u"o.texb"_s);
+        QCOMPARE(reported.value(u"subtype"_s).toString(), u"rf_colored_buildings"_s);
+        QCOMPARE(reported.value(u"vector"_s).toString(), path(u"houses.geojson"_s));
+        QCOMPARE(reported.value(u"buildings"_s).toInt(), 3);
+        QVERIFY(!reported.contains(u"textures"_s));
         const QByteArray layer = readFile(folder + u"o.lay"_s);
         QCOMPARE(element(layer, "source"), "TEXB:" + folder.toUtf8() + "o.texb");
         QVERIFY(layer.contains("<xCenter>2.002</xCenter>\n  <yCenter>45.0005</yCenter>"));
-        const QString legend = told.value(u"legend"_s).toString();
+        const QString legend = reported.value(u"legend"_s).toString();
         QCOMPARE(legend, folder + u"first_gradient.png"_s);
         QVERIFY(element(layer, "description").contains(legend.toUtf8()));
         const QImage image(legend);
@@ -237,7 +237,7 @@ private Q_SLOTS:
 
 private:
     /// Adds rows with documents in which buildings have more than the image's colours.
-    static void addRowsWithLook()
+    static void addRowsWithStyle()
     {
         QTest::newRow("textured, first run")
             << u"--textures ../t/c_6m.asc --filter m"_s

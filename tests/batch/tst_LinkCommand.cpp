@@ -76,8 +76,8 @@ private Q_SLOTS:
         const Run run = start(u"link ../l.csv --terrain ../hills.asc --report --json "_s + options);
 
         QCOMPARE(run.errors, QByteArray("vltlayers: rows that could not be placed: 1\n"));
-        const QJsonObject told = QJsonDocument::fromJson(run.output).object();
-        const QJsonArray links = told.value(u"links"_s).toArray();
+        const QJsonObject reported = QJsonDocument::fromJson(run.output).object();
+        const QJsonArray links = reported.value(u"links"_s).toArray();
         QCOMPARE(links.size(), 3);
         const QJsonObject north = links.at(0).toObject();
         QCOMPARE(north.value(u"row"_s).toInt(), 2);
@@ -94,7 +94,7 @@ private Q_SLOTS:
         QCOMPARE(links.at(1).toObject().value(u"verdict"_s).toString(), u"unknown"_s);
         QCOMPARE(links.at(1).toObject().value(u"why"_s).toString(), u"heightA"_s);
         QCOMPARE(links.at(2).toObject().value(u"placed"_s).toBool(true), false);
-        QCOMPARE(told.value(u"verdicts"_s).toObject().value(u"unknown"_s).toInt(), 2);
+        QCOMPARE(reported.value(u"verdicts"_s).toObject().value(u"unknown"_s).toInt(), 2);
     }
 
     void printsAReportForPeopleBesideTheLayer()
@@ -136,9 +136,9 @@ private Q_SLOTS:
         QVERIFY(element(layer, "description")
                     .contains("<tr><td>Height (m)</td><td>[A Height (m)]</td>"
                               "<td>[B Height (m)]</td></tr>"));
-        const QJsonObject told = QJsonDocument::fromJson(run.output).object();
-        QCOMPARE(told.value(u"placedLinks"_s).toInt(), 2);
-        QVERIFY(!told.contains(u"links"_s));
+        const QJsonObject reported = QJsonDocument::fromJson(run.output).object();
+        QCOMPARE(reported.value(u"placedLinks"_s).toInt(), 2);
+        QVERIFY(!reported.contains(u"links"_s));
 
         start(u"link ../l.csv --project ../c.gvw --terrain= -o o.lay --fresnel-zone 0"_s);
         const QByteArray plain = element(readFile(path(u"elsewhere/o.lay"_s)), "source");
@@ -168,7 +168,7 @@ private Q_SLOTS:
         QVERIFY2(source.contains("link_color=" + inLayer + ','), source.constData());
     }
 
-    void tellsWhatALinkTableHolds()
+    void reportsWhatALinkTableHolds()
     {
         const Run text = start(u"info --link ../l.csv"_s);
         const Run json = start(u"info --link ../l.csv --json"_s);
@@ -176,13 +176,13 @@ private Q_SLOTS:
         QVERIFY(text.output.contains("Number of links                           : 3\n"));
         QVERIFY(text.output.contains("Height of end B     : B Height (m)\n"));
         QVERIFY(text.output.contains("row 4, column B Longitude: "));
-        const QJsonObject told = QJsonDocument::fromJson(json.output).object();
-        QCOMPARE(told.value(u"frequencyUnit"_s).toString(), u"GHz"_s);
-        QCOMPARE(told.value(u"linkField"_s).toString(), u"Name"_s);
-        const QJsonObject columns = told.value(u"columns"_s).toObject();
+        const QJsonObject reported = QJsonDocument::fromJson(json.output).object();
+        QCOMPARE(reported.value(u"frequencyUnit"_s).toString(), u"GHz"_s);
+        QCOMPARE(reported.value(u"linkField"_s).toString(), u"Name"_s);
+        const QJsonObject columns = reported.value(u"columns"_s).toObject();
         QCOMPARE(columns.value(u"endB"_s).toObject().value(u"longitude"_s).toString(),
                  u"B Longitude"_s);
-        QVERIFY(columns.value(u"name"_s).isString() && told.contains(u"problems"_s));
+        QVERIFY(columns.value(u"name"_s).isString() && reported.contains(u"problems"_s));
     }
 
     void refusesAndWritesNothing_data()

@@ -83,8 +83,8 @@ private Q_SLOTS:
 
             QCOMPARE(run.errors, QByteArray());
             QCOMPARE(run.status, 0);
-            const QJsonObject told = QJsonDocument::fromJson(run.output).object();
-            QCOMPARE(told.value(u"picture"_s).toString(), name);
+            const QJsonObject reported = QJsonDocument::fromJson(run.output).object();
+            QCOMPARE(reported.value(u"picture"_s).toString(), name);
             const QImage picture(name);
             QCOMPARE(picture.size(), QSize(321, 240));
             // the mast stands in the middle

@@ -93,9 +93,9 @@ private Q_SLOTS:
                      path(u"s.csv"_s).toUtf8());
         QCOMPARE(element(layer, "title"), QByteArray("Relais \xc3\xa9lev\xc3\xa9s"));
         QVERIFY(element(layer, "description").contains("<tr><td>Hauteur</td>"));
-        const QJsonObject told = QJsonDocument::fromJson(run.output).object();
-        QCOMPARE(told.value(u"sites"_s).toInt(), 2);
-        QCOMPARE(told.value(u"layer"_s).toString(), path(u"elsewhere/o.lay"_s));
+        const QJsonObject reported = QJsonDocument::fromJson(run.output).object();
+        QCOMPARE(reported.value(u"sites"_s).toInt(), 2);
+        QCOMPARE(reported.value(u"layer"_s).toString(), path(u"elsewhere/o.lay"_s));
     }
 
     void takesNamesOfEveryLanguage_data()
@@ -144,8 +144,8 @@ private Q_SLOTS:
         const Run sheet =
             start(QStringList{u"site"_s, u"../s.csv"_s, u"-oo.lay"_s, u"--sheet"_s, u"A, b"_s});
 
-        const QJsonObject told = QJsonDocument::fromJson(info.output).object();
-        QCOMPARE(told.value(u"encoding"_s).toString(), u"CP1251"_s);
+        const QJsonObject reported = QJsonDocument::fromJson(info.output).object();
+        QCOMPARE(reported.value(u"encoding"_s).toString(), u"CP1251"_s);
         QCOMPARE(site.errors, QByteArray());
         const QByteArray source = element(readFile(path(u"elsewhere/o.lay"_s)), "source");
         QVERIFY2(source.contains("=200 20 2,encoding=CP1251,delimiter=bar,transmitter_scale=100,"),
@@ -180,8 +180,8 @@ private Q_SLOTS:
 
         const Run run = start(arguments + u" ../s.csv --language fr"_s);
 
-        const QByteArray told = run.output + run.errors;
-        QVERIFY2(told.contains(text.toUtf8()), told.constData());
+        const QByteArray reported = run.output + run.errors;
+        QVERIFY2(reported.contains(text.toUtf8()), reported.constData());
     }
 
     void warnsOfRowsWithoutAPlaceAndOfMissingNames()
@@ -194,9 +194,9 @@ private Q_SLOTS:
         const Run quiet = start(u"--quiet site ../s.csv -oo.lay"_s);
 
         QCOMPARE(info.status, 0);
-        const QJsonObject told = QJsonDocument::fromJson(info.output).object();
+        const QJsonObject reported = QJsonDocument::fromJson(info.output).object();
         QList<int> rows;
-        for (const QJsonValue problem : told.value(u"problems"_s).toArray())
+        for (const QJsonValue problem : reported.value(u"problems"_s).toArray())
             rows << problem.toObject().value(u"row"_s).toInt();
         QCOMPARE(rows.mid(rows.size() - 2), (QList<int>{3, 4}));
         QCOMPARE(site.status, 0);
@@ -337,7 +337,7 @@ private Q_SLOTS:
         QCOMPARE(output.output, readFile(path(u"elsewhere/o.lay"_s)));
     }
 
-    void tellsErrorsToPrograms()
+    void reportsErrorsToPrograms()
     {
         writeFile(path(u"s.csv"_s), Table);
 

@@ -28,7 +28,7 @@ FileEntry image(const QString &path, double height, bool used = true)
     return {path, height, 0, {}, used, {}};
 }
 
-TexturedLook storeys()
+TexturingParameters storeys()
 {
     const QList<FileEntry> images{image(u"/t/h6.tif"_s, 6), image(u"/t/no.tif"_s, 3, false),
                                   image(u"/t/h1.tif"_s, 1.5)};
@@ -111,7 +111,7 @@ private Q_SLOTS:
         QVERIFY(!readFile(path(u"plain.lay"_s)).contains("<img"));
     }
 
-    void tellsWhatImagesThereAre_data()
+    void reportsWhatImagesThereAre_data()
     {
         QTest::addColumn<QList<double>>("heights");
         QTest::addColumn<QString>("wanted");
@@ -126,7 +126,7 @@ private Q_SLOTS:
                                  << u"Images: 13<br/>Heights above the ground: 4 – 40 m</p>"_s;
     }
 
-    void tellsWhatImagesThereAre()
+    void reportsWhatImagesThereAre()
     {
         QFETCH(QList<double>, heights);
         QFETCH(QString, wanted);

@@ -234,7 +234,7 @@ private Q_SLOTS:
                      u"Cannot open project\n"_s + file(u"gone.gvw"_s));
     }
 
-    void tellsOnceOfFilesThatAreGone()
+    void reportsOnceOfFilesThatAreGone()
     {
         const QString project = write(u"old.gvw"_s, "DEM Layers\nFiles : gone.asc\nVector layer\n "
                                                     "File : gone.shp\n Layer name : BATI\n");

@@ -304,7 +304,7 @@ private Q_SLOTS:
         QVERIFY(boxes.seen.isEmpty());
     }
 
-    void tellsOnceWhyThereIsNoLayer()
+    void reportsOnceWhyThereIsNoLayer()
     {
         AnsweredBoxes boxes;
 

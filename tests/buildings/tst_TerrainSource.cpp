@@ -84,7 +84,7 @@ private Q_SLOTS:
         QCOMPARE(host.noData()->text(), noData);
     }
 
-    void tellsHowToConvertVirtualRasters()
+    void reportsHowToConvertVirtualRasters()
     {
         const QString path = write(u"mosaic.vrt"_s, "<VRTDataset rasterXSize=\"2\" "
                                                     "rasterYSize=\"2\"></VRTDataset>");
@@ -113,7 +113,7 @@ private Q_SLOTS:
     void comparesSystems()
     {
         QFETCH(double, west);
-        QFETCH(QString, told);
+        QFETCH(QString, reported);
         const QString path = file(u"mercator.tif"_s);
         {
             const GDALDatasetUniquePtr made(
@@ -130,7 +130,7 @@ private Q_SLOTS:
 
         host.page->openVector(plain()); // from 2 to 6 degrees east, 4 to 12 north
 
-        QVERIFY2(host.info(u"Dtm"_s).endsWith(u' ' + told), qPrintable(host.info(u"Dtm"_s)));
+        QVERIFY2(host.info(u"Dtm"_s).endsWith(u' ' + reported), qPrintable(host.info(u"Dtm"_s)));
     }
 
     void guessesWhatIsMissing_data()

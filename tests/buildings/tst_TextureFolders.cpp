@@ -260,14 +260,14 @@ private Q_SLOTS:
         QCOMPARE(stated, 15); // 17 are in side files; two of their images are damaged
     }
 
-    void tellsHowFarItIsAndStops_data()
+    void reportsHowFarItIsAndStops_data()
     {
         QTest::addColumn<int>("callsUntilStop");
         QTest::newRow("to the end") << -1;
         QTest::newRow("at once") << 1;
         QTest::newRow("on the way") << 2;
     }
-    void tellsHowFarItIsAndStops()
+    void reportsHowFarItIsAndStops()
     {
         const QString dir = path(u"many"_s);
         for (int i = 0; i < 3000 && !QFile::exists(dir + u"/2999.txt"_s); ++i)

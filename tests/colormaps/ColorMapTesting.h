@@ -11,13 +11,13 @@
 #include <cpl_error.h>
 
 /// Collects the errors reported to the geodata library as long as it exists.
-class ToldErrors
+class ReportedErrors
 {
 public:
-    ToldErrors() { CPLPushErrorHandlerEx(keep, &m_texts); }
-    ~ToldErrors() { CPLPopErrorHandler(); }
-    ToldErrors(const ToldErrors &) = delete;
-    ToldErrors &operator=(const ToldErrors &) = delete;
+    ReportedErrors() { CPLPushErrorHandlerEx(keep, &m_texts); }
+    ~ReportedErrors() { CPLPopErrorHandler(); }
+    ReportedErrors(const ReportedErrors &) = delete;
+    ReportedErrors &operator=(const ReportedErrors &) = delete;
 
     /// The texts; failures without the application's number have a mark.
     const QStringList &texts() const { return m_texts; }

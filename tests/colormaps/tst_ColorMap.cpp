@@ -84,7 +84,7 @@ private Q_SLOTS:
     void readsTexts()
     {
         QFETCH(QByteArray, text);
-        ToldErrors errors;
+        ReportedErrors errors;
         ColorMap map;
 
         QVERIFY(map.load(fileWith(m_dir, u"a.txt"_s, text)));
@@ -187,15 +187,15 @@ private Q_SLOTS:
         ColorMap map;
         QVERIFY(map.load(fileWith(m_dir, u"good.TXT"_s, "nv red\n1 red")));
         const std::string path = fileWith(m_dir, name, text);
-        ToldErrors errors;
+        ReportedErrors errors;
 
         const bool isLoaded = map.load(path, 0, 10);
 
         QVERIFY(!isLoaded);
         QVERIFY(map.associations().empty() && !map.noDataColor());
-        const QString told =
+        const QString reported =
             message.contains(u"%1"_s) ? message.arg(QString::fromStdString(path)) : message;
-        QCOMPARE(errors.texts(), told.isEmpty() ? QStringList() : QStringList{told});
+        QCOMPARE(errors.texts(), reported.isEmpty() ? QStringList() : QStringList{reported});
         QVERIFY(!colorOf(map, 1, Interpretation::Interpolation));
     }
 
@@ -206,7 +206,7 @@ private Q_SLOTS:
         std::filesystem::create_symlink("/dev/zero", dir / "endless.txt");
         for (const char *name : {"missing.txt", "folder.txt", "endless.txt", "missing.tc"}) {
             const std::string path = dir / name;
-            ToldErrors errors;
+            ReportedErrors errors;
             ColorMap map;
             QVERIFY(!map.load(path));
             QCOMPARE(errors.texts().join(u'|'),
@@ -240,7 +240,7 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, bytes);
         QFETCH(QString, expected);
-        ToldErrors errors;
+        ReportedErrors errors;
         ColorMap map;
 
         QCOMPARE(map.load(fileWith(m_dir, u"a.Tc"_s, bytes)), !expected.isEmpty());

@@ -126,7 +126,7 @@ private Q_SLOTS:
         const QTemporaryDir dir;
         const std::string copy = fileWith(dir, u"a.txt"_s, readFile(path));
         const bool isRelative = readFile(path).contains('%');
-        ToldErrors errors;
+        ReportedErrors errors;
         ColorMap map;
         QVERIFY(isRelative ? map.load(copy, 0, 1000) : map.load(copy));
 
@@ -153,7 +153,7 @@ private Q_SLOTS:
     void shippedMapsServeAbsoluteAndStretched()
     {
         for (const QString &path : std::as_const(m_shipped)) {
-            ToldErrors errors;
+            ReportedErrors errors;
             ColorMap map;
             QVERIFY2(map.load(bytesOf(path)) && map.minimum() < map.maximum(), qPrintable(path));
             QVERIFY2(map.load(bytesOf(path), 0, 1), qPrintable(path));

@@ -62,7 +62,7 @@ private Q_SLOTS:
     }
 
     /// A workbook that is truncated during the read must not be taken as one with fewer sites.
-    void tellsThatTheFileWasDamagedOnTheWay()
+    void reportsThatTheFileWasDamagedOnTheWay()
     {
         const QString copy = m_folder.filePath(QStringLiteral("cut.xlsx"));
         QVERIFY(QFile::copy(qEnvironmentVariable("VLT_WORKBOOK"), copy));

@@ -105,7 +105,7 @@ private Q_SLOTS:
     void asksForAColourByKeyboard()
     {
         QFETCH(QColor, chosen);
-        QFETCH(QString, told);
+        QFETCH(QString, reported);
         VltLinkProperties panel;
         panel.show();
         auto *button = panel.findChild<ColorButton *>(u"m_pwPbLinkColor"_s);
@@ -121,7 +121,7 @@ private Q_SLOTS:
         QCOMPARE(changes.count(), chosen.isValid() ? 1 : 0);
         QCOMPARE(panel.representation().color,
                  chosen.isValid() ? chosen : LinkRepresentation().color);
-        QCOMPARE(button->accessibleName(), u"Color of the links: "_s + told);
+        QCOMPARE(button->accessibleName(), u"Color of the links: "_s + reported);
     }
 };
 

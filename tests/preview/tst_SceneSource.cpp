@@ -68,7 +68,7 @@ private Q_SLOTS:
         QCOMPARE(read.value()->getDescription(1), std::string("1"));
     }
 
-    void tellsHowFarTheReaderIs()
+    void reportsHowFarTheReaderIs()
     {
         QList<double> shares;
 

@@ -50,7 +50,7 @@ class tst_SceneTexts : public QObject
     }
 
     /// The dictionary's text for a key, with its values.
-    static QString told(const char *key, const QStringList &values)
+    static QString reported(const char *key, const QStringList &values)
     {
         QString text = dico_label(key, "?");
         for (qsizetype i = 0; i < values.size(); ++i)
@@ -95,23 +95,23 @@ private Q_SLOTS:
         row("flat.asc", "hollow.asc", "MESS_SCENE_NO_GROUND");
         row("town", "apart", "MESS_SCENE_LOWEST_GROUND", {u"1"_s, u"2"_s});
         row("flat.asc", "gone %1.asc", "MESS_SCENE_BAD_TERRAIN",
-            {u"gone %1.asc"_s, told("MESS_TERRAIN_NOT_LOCAL", {})});
+            {u"gone %1.asc"_s, reported("MESS_TERRAIN_NOT_LOCAL", {})});
         row("flat.asc", "text.tif", "MESS_SCENE_BAD_TERRAIN",
-            {u"text.tif"_s, told("MESS_SCENE_NO_FORMAT", {m_dir.filePath(u"text.tif"_s)})});
+            {u"text.tif"_s, reported("MESS_SCENE_NO_FORMAT", {m_dir.filePath(u"text.tif"_s)})});
 
         const auto colors = [&row](const char *words, const char *key, const QStringList &values) {
             row("#808080", words, key, values);
         };
         colors("IMAGE;no.asc;map.txt;minimum;absolute;interpolation", "MESS_SCENE_BAD_RASTER",
-               {u"no.asc"_s, told("MESS_TERRAIN_NOT_LOCAL", {})});
+               {u"no.asc"_s, reported("MESS_TERRAIN_NOT_LOCAL", {})});
         colors("IMAGE;flat.asc;map.txt;minimum;absolute;interpolation;x", "MESS_SCENE_BAD_RASTER",
-               {u"flat.asc"_s, told("MESS_SCENE_BAD_NODATA", {u"x"_s})});
+               {u"flat.asc"_s, reported("MESS_SCENE_BAD_NODATA", {u"x"_s})});
         colors("IMAGE;flat.asc;no.txt;minimum;absolute;interpolation", "MESS_SCENE_NO_MAP",
                {u"no.txt"_s});
         colors("IMAGE;flat.asc;bad.txt;minimum;absolute;interpolation", "MESS_SCENE_BAD_MAP",
-               {u"bad.txt"_s, told("MESS_SCENE_NO_COLOR", {u"pink"_s})});
+               {u"bad.txt"_s, reported("MESS_SCENE_NO_COLOR", {u"pink"_s})});
         colors("IMAGE;flat.asc;void.txt;minimum;absolute;interpolation", "MESS_SCENE_BAD_MAP",
-               {u"void.txt"_s, told("MESS_SCENE_NO_MAP_IN", {m_dir.filePath(u"void.txt"_s)})});
+               {u"void.txt"_s, reported("MESS_SCENE_NO_MAP_IN", {m_dir.filePath(u"void.txt"_s)})});
         colors("IMAGE;hollow.asc;map.txt;minimum;stretched;interpolation",
                "MESS_SCENE_EMPTY_RASTER", {u"hollow.asc"_s});
         colors("IMAGE;hollow.asc;map.txt;minimum;absolute;interpolation", "MESS_SCENE_NO_VALUE",
@@ -119,7 +119,7 @@ private Q_SLOTS:
         colors("pinkish", "MESS_SCENE_NO_COLORS", {u"pinkish"_s});
 
         const auto images = [&row](const char *list, const char *reason) {
-            row("</textures>", list, "MESS_SCENE_BAD_IMAGE", {u"flat.asc"_s, told(reason, {})});
+            row("</textures>", list, "MESS_SCENE_BAD_IMAGE", {u"flat.asc"_s, reported(reason, {})});
         };
         QByteArray many;
         for (int height = 1; height <= 12; ++height)
@@ -146,7 +146,7 @@ private Q_SLOTS:
             texts << readerText(notice);
 
         QVERIFY2(scene, scene ? "" : qPrintable(scene.error().detail));
-        const QString expected = path + u": "_s + told(key, values);
+        const QString expected = path + u": "_s + reported(key, values);
         QVERIFY2(texts.contains(expected), qPrintable(texts.join(u'\n') + u"\n# "_s + expected));
     }
 
@@ -164,7 +164,7 @@ private Q_SLOTS:
         document("town.geojson", "no \"town\".shp", "MESS_SCENE_NO_FOOTPRINTS",
                  {u"no \"town\".shp"_s});
         document("town.geojson", "text.tif", "MESS_SCENE_BAD_FOOTPRINTS",
-                 {u"%1"_s, told("MESS_SCENE_NO_FORMAT", {u"%1"_s})});
+                 {u"%1"_s, reported("MESS_SCENE_NO_FORMAT", {u"%1"_s})});
         document("layer=\"\"", "layer=\"L\"", "MESS_SCENE_NO_LAYER", {u"L"_s});
         document("hfield=\"H\"", "hfield=\"G\"", "MESS_SCENE_NO_FIELD", {u"G"_s});
         document("hfield=\"H\"", "hfield=\"Day\"", "MESS_SCENE_NO_NUMBERS", {u"Day"_s});
@@ -202,7 +202,7 @@ private Q_SLOTS:
         layer("<veltaroLayer kind=\"sites\">"
               "<source>site:pylon_type=wood_panel,pylon_width=wide,map.txt</source>",
               "MESS_QUERY_NO_NUMBER",
-              {u"pylon_width"_s, told("MESS_QUANTITY_WIDTH", {}), u"wide"_s});
+              {u"pylon_width"_s, reported("MESS_QUANTITY_WIDTH", {}), u"wide"_s});
     }
 
     void translatesRefusals()
@@ -217,7 +217,7 @@ private Q_SLOTS:
         const auto scene = vlt::snapshot::readScene(write(name, content), {}, {});
 
         QVERIFY(!scene);
-        QCOMPARE(readerText(scene.error().detail), told(key, values));
+        QCOMPARE(readerText(scene.error().detail), reported(key, values));
     }
 
     void knowsTheLibraryInEveryVersion()
@@ -225,7 +225,7 @@ private Q_SLOTS:
         for (const char *form : {"`%1' not recognized as a supported file format.",
                                  "`%1' not recognized as being in a supported file format."})
             QCOMPARE(readerText(QString::fromUtf8(form).arg(u"a.tif"_s)),
-                     told("MESS_SCENE_NO_FORMAT", {u"a.tif"_s}));
+                     reported("MESS_SCENE_NO_FORMAT", {u"a.tif"_s}));
     }
 
     void passesOtherTextsOn()

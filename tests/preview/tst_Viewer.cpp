@@ -321,7 +321,7 @@ private Q_SLOTS:
         QTRY_COMPARE_WITH_TIMEOUT(framesOfAWhile() == 0, once, PatienceMs);
     }
 
-    void tellsWhatAClickMeets()
+    void reportsWhatAClickMeets()
     {
         m_viewer->showScene(ballAt({}));
         waitForFrames();

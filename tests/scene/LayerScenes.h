@@ -19,7 +19,7 @@
 /// Helpers for the tests of layers.
 namespace layertest {
 
-inline const char *const PylonLook =
+inline const char *const PylonStyle =
     "pylon_type=monopole_panel,pylon_width=2.5,sector_colors=ff0000ff 00ff00ff,"
     "sector_properties=200 20 2,transmitter_scale=100,";
 

@@ -23,8 +23,8 @@ inline void addRefusals(std::initializer_list<std::array<const char *, 3>> rows)
     QTest::addColumn<QByteArray>("what");
     QTest::addColumn<QByteArray>("with");
     QTest::addColumn<QByteArray>("told");
-    for (const auto &[what, with, told] : rows)
-        QTest::newRow(told) << QByteArray(what) << QByteArray(with) << QByteArray(told);
+    for (const auto &[what, with, reported] : rows)
+        QTest::newRow(reported) << QByteArray(what) << QByteArray(with) << QByteArray(reported);
 }
 
 /// Applies the current row to the good query and checks the error.
@@ -35,7 +35,7 @@ void compareRefusal(const std::string &query, Parse parse)
 {
     QFETCH(QByteArray, what);
     QFETCH(QByteArray, with);
-    QFETCH(QByteArray, told);
+    QFETCH(QByteArray, reported);
 
     std::string text;
     try {
@@ -44,7 +44,7 @@ void compareRefusal(const std::string &query, Parse parse)
         text = fault.what();
     }
 
-    QVERIFY2(text.find(told.toStdString()) != std::string::npos, text.c_str());
+    QVERIFY2(text.find(reported.toStdString()) != std::string::npos, text.c_str());
 }
 
 } // namespace querytest

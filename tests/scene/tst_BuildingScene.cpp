@@ -182,7 +182,7 @@ private Q_SLOTS:
         QVERIFY2(std::abs(drawn.roofArea - area) < 1e-3, QByteArray::number(drawn.roofArea));
         QCOMPARE(m_opened.fact("buildings"), std::string(walls > 0 ? "1" : "0"));
         QCOMPARE(m_opened.fact("leftOut"), std::string(walls > 0 ? "0" : "1"));
-        QCOMPARE(told("no polygon with an area"), walls == 0);
+        QCOMPARE(reported("no polygon with an area"), walls == 0);
         QCOMPARE(m_opened.fact("srs"), std::string("EPSG:2154"));
         if (area == 100)
             QCOMPARE(m_opened.fact("centre"), std::string("650005 6860005"));
@@ -196,14 +196,14 @@ private Q_SLOTS:
         QVERIFY(std::abs(drawn.roofArea - 100 * M_PI) < 1); // more than 45 sides
     }
 
-    void tellsOfEqualOutlines()
+    void reportsOfEqualOutlines()
     {
         makeFootprints(path("town.gpkg"),
                        {{Square, "5"}, {Square, "6"}, {"POLYGON((20 0,30 0,30 10,20 0))", "6"}});
 
         read(document());
 
-        QVERIFY(told("1 of 3 buildings have the same outline as another one"));
+        QVERIFY(reported("1 of 3 buildings have the same outline as another one"));
     }
 
     void readsHeights_data()
@@ -249,7 +249,7 @@ private Q_SLOTS:
         const std::set<double> tops = height > 0 ? std::set{height, 40.0} : std::set{40.0};
         QCOMPARE(drawn.tops, tops);
         QCOMPARE(m_opened.fact("leftOut"), std::string(height > 0 ? "0" : "1"));
-        QVERIFY(notice.isEmpty() || told(notice));
+        QVERIFY(notice.isEmpty() || reported(notice));
     }
 
     /// The terrain rises to the east by 1 in 10 from 100 m at East. A square of 10 m has the mean
@@ -306,7 +306,7 @@ private Q_SLOTS:
                  QByteArray::number(*drawn.tops.begin()));
         QVERIFY(std::abs(drawn.bottom - (base - 3)) < 1e-3);
         QCOMPARE(m_notices.empty(), notice.isEmpty());
-        QVERIFY(notice.isEmpty() || told(notice));
+        QVERIFY(notice.isEmpty() || reported(notice));
     }
 
     void isSeenUpToItsDistance()
@@ -352,7 +352,7 @@ private Q_SLOTS:
         }
     }
 
-    void tellsHowFarItIsAndStops()
+    void reportsHowFarItIsAndStops()
     {
         Features features;
         for (int i = 0; i < 5000; ++i)
@@ -462,7 +462,7 @@ private:
         return m_opened.scene;
     }
 
-    bool told(const QByteArray &text) const
+    bool reported(const QByteArray &text) const
     {
         return std::any_of(m_notices.begin(), m_notices.end(), [&](const std::string &notice) {
             return QByteArray::fromStdString(notice).contains(text);

@@ -44,7 +44,7 @@ bool isInside(const Rings &rings, double x, double y)
 struct Face
 {
     osg::Vec3d a, b, c;
-    osg::Vec3d told; ///< normal of the last vertex
+    osg::Vec3d reported; ///< normal of the last vertex
     osg::Vec4ub color;
     osg::Vec3d cross() const { return (b - a) ^ (c - a); }
     double area() const { return cross().length() / 2; }
@@ -155,7 +155,7 @@ private Q_SLOTS:
         QCOMPARE(mesh.vertices().size(), std::size_t{8});
         double roof = 0;
         for (const Face &face : facesOf(mesh)) {
-            QVERIFY((face.normal() - face.told).length() < 1e-4);
+            QVERIFY((face.normal() - face.reported).length() < 1e-4);
             QVERIFY(face.normal() * (face.middle() - osg::Vec3d(5, 5, 36)) > 0);
             roof += face.isRoof() ? face.area() : 0;
         }

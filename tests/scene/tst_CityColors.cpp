@@ -130,7 +130,7 @@ private Q_SLOTS:
                      notices.front().c_str());
     }
 
-    void tellsWhatCannotBeUsed_data()
+    void reportsWhatCannotBeUsed_data()
     {
         QTest::addColumn<QByteArray>("colorText");
         QTest::addColumn<QByteArray>("notice");
@@ -155,7 +155,7 @@ private Q_SLOTS:
         row("IMAGE;void.tif;map.txt;average;stretched;interpolation;-99", "has no values");
     }
 
-    void tellsWhatCannotBeUsed()
+    void reportsWhatCannotBeUsed()
     {
         QFETCH(const QByteArray, colorText);
         QFETCH(const QByteArray, notice);

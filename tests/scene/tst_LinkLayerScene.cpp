@@ -34,13 +34,13 @@ const QByteArray Rows = "clear,A," + A + ",30,23000,B," + B + ",40,23000\n" +   
                         "unknown,B," + B + ",30,,C," + C + ",30,\n" +               //
                         "unplaced,A,,,30,23000,B," + B + ",30,23000\n";
 
-const QByteArray LinkLook = "link_style=TUBE,link_width=4,link_color=1f6feb80 clearance,"
-                            "fresnel_zone=1,fresnel_share=60,fresnel_color=ffa50066,"
-                            "k_factor=1.33333,";
+const QByteArray LinkAppearance = "link_style=TUBE,link_width=4,link_color=1f6feb80 clearance,"
+                                  "fresnel_zone=1,fresnel_share=60,fresnel_color=ffa50066,"
+                                  "k_factor=1.33333,";
 
 QByteArray linkSource(const QByteArray &system = "2154", const QByteArray &terrain = "dem.tif")
 {
-    return "link:s_srs=4171,t_srs=" + system + ",data_folder=d," + PylonLook + LinkLook +
+    return "link:s_srs=4171,t_srs=" + system + ",data_folder=d," + PylonStyle + LinkAppearance +
            "lods=100000 1000,dem_file=" + terrain + ",t.csv";
 }
 

@@ -35,9 +35,9 @@ LinkSceneQuery demonstration()
     return parseLinkQuery(Demonstration);
 }
 
-LinkLook lookOf(LinkStyle style, double width)
+LinkAppearance lookOf(LinkStyle style, double width)
 {
-    LinkLook look;
+    LinkAppearance look;
     look.style = style;
     look.width = width;
     look.color = Color(0, 255, 0, 255);
@@ -140,7 +140,7 @@ private Q_SLOTS:
         QCOMPARE(scene.pylons[1].design.transmitters.size(), std::size_t{1});
         const Transmitter &dish = scene.pylons[1].design.transmitters[0];
         QVERIFY(dish.kind == AntennaKind::Dish && dish.antennaLengthM == 1.2);
-        QVERIFY(scene.pylons[0].design.transmitters[1].kind == AntennaKind::Usual);
+        QVERIFY(scene.pylons[0].design.transmitters[1].kind == AntennaKind::Default);
         QCOMPARE(scene.links.size(), std::size_t{2});
         QVERIFY(scene.links[0].b == osg::Vec3d(200, 0, 23) && !scene.links[0].color);
         QCOMPARE(scene.links[0].frequencyMHz, 200.0);
@@ -189,7 +189,7 @@ private Q_SLOTS:
                                : key == "fresnel_color" ? "00000000"
                                                         : "1");
         };
-        const LinkLook look = readLinkLook(item, ClearanceWord::Accepted);
+        const LinkAppearance look = readLinkAppearance(item, ClearanceWord::Accepted);
         QVERIFY(look.colorByClearance && look.color == Color(0x1f, 0x6f, 0xeb, 0x80));
     }
 
@@ -233,7 +233,7 @@ private Q_SLOTS:
         QFETCH(double, detour);
         const osg::Vec3d a(652000.25, 983000.5, 120);
         const osg::Vec3d axis(way[0], way[1], way[2]);
-        LinkLook look = lookOf(LinkStyle::Line, 1);
+        LinkAppearance look = lookOf(LinkStyle::Line, 1);
         look.color = Color(0, 0, 0, 0);
         look.fresnelZone = zone;
         look.fresnelShare = share;
@@ -318,7 +318,7 @@ private Q_SLOTS:
     {
         QFETCH(QList<double>, eye);
         QFETCH(int, red);
-        LinkLook look = lookOf(LinkStyle::Line, 1);
+        LinkAppearance look = lookOf(LinkStyle::Line, 1);
         look.color = Color(0, 0, 0, 0);
         look.fresnelZone = 1;
         look.fresnelColor = Color(255, 165, 0, 102);
@@ -348,7 +348,7 @@ private Q_SLOTS:
     {
         QFETCH(int, style);
         QFETCH(double, eye);
-        LinkLook look = lookOf(static_cast<LinkStyle>(style), 3);
+        LinkAppearance look = lookOf(static_cast<LinkStyle>(style), 3);
         look.fresnelZone = 1;
         look.fresnelColor = Color(255, 0, 0, 200);
 
@@ -368,7 +368,7 @@ private Q_SLOTS:
 
     void keepsManyLinksSmall()
     {
-        LinkLook look = lookOf(LinkStyle::Tube, 4);
+        LinkAppearance look = lookOf(LinkStyle::Tube, 4);
         look.fresnelZone = 1;
         look.fresnelColor = Color(255, 165, 0, 102);
         std::vector<LinkObject> links;
@@ -394,7 +394,7 @@ private Q_SLOTS:
     {
         PylonDesign design = demonstration().pylons[0].design;
         PylonDesign panels = design;
-        panels.transmitters[0].kind = AntennaKind::Usual;
+        panels.transmitters[0].kind = AntennaKind::Default;
         QVERIFY(design != panels);
         design.transmitters.resize(1);
         design.transmitters[0].tiltDeg = 10;

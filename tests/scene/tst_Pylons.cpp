@@ -87,7 +87,7 @@ private Q_SLOTS:
         QVERIFY(!osgDB::containsServerAddress(Demonstration));
     }
 
-    void tellsARefusalOnce()
+    void reportsARefusalOnce()
     {
         const osg::ref_ptr<osg::NotifyHandler> before = osg::getNotifyHandler();
         const osg::ref_ptr<Listener> listener = new Listener;
@@ -97,10 +97,10 @@ private Q_SLOTS:
         osg::setNotifyHandler(before);
 
         QVERIFY(!node);
-        const std::string told = "transmitter_scale: the scale \"1e4\" is not within 0 to 1000";
-        const std::size_t at = listener->text.find(told);
+        const std::string reported = "transmitter_scale: the scale \"1e4\" is not within 0 to 1000";
+        const std::size_t at = listener->text.find(reported);
         QVERIFY2(at != std::string::npos, listener->text.c_str());
-        QCOMPARE(listener->text.find(told, at + 1), std::string::npos);
+        QCOMPARE(listener->text.find(reported, at + 1), std::string::npos);
     }
 
     void readsTheRecord()
@@ -169,7 +169,7 @@ private Q_SLOTS:
         for (std::size_t i = 0; i < MaxTransmitters; ++i)
             design.transmitters.push_back(
                 {2000.0 * static_cast<double>(i) / MaxTransmitters, static_cast<double>(i % 360), 0,
-                 360, 30, Color(9, 9, 9, 9), i % 2 ? AntennaKind::Dish : AntennaKind::Usual});
+                 360, 30, Color(9, 9, 9, 9), i % 2 ? AntennaKind::Dish : AntennaKind::Default});
         const Counter worst = counted(*PylonFactory().design(design));
 
         QVERIFY(usual.vertices > 2000 && usual.vertices < 25000);

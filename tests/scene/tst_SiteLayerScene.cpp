@@ -30,7 +30,7 @@ QByteArray layerText(const std::string &source, const char *siteField = "Site ID
 
 std::string siteSource(const std::string &table, const std::string &srs = "2154")
 {
-    return "site:s_srs=" + srs + ",t_srs=" + srs + ",data_folder=d," + PylonLook +
+    return "site:s_srs=" + srs + ",t_srs=" + srs + ",data_folder=d," + PylonStyle +
            "lods=10000 1000," + table;
 }
 

@@ -270,7 +270,7 @@ private Q_SLOTS:
         QVERIFY(!cancelled);
     }
 
-    void tellsCancelledWorkToStop()
+    void reportsCancelledWorkToStop()
     {
         const auto stopped = std::make_shared<QSemaphore>();
         const CancelWhenShown cancel(42);

@@ -135,14 +135,14 @@ private Q_SLOTS:
         QCOMPARE(flow.description(), NoSites);
     }
 
-    void tellsWhatKeepsALayerFromBeingWritten()
+    void reportsWhatKeepsALayerFromBeingWritten()
     {
         const QTemporaryDir own;
         copyFolder(installation(), own.path());
         const QString pylons = own.path() + u"/addons/telecom/pylons/"_s;
         const QString layer = vlt::wizard::temporaryLayerFileName(u"sites"_s);
         WizardOnSitePage flow(own.path());
-        const auto toldWhenDropped = [&flow] {
+        const auto reportedWhenDropped = [&flow] {
             AnsweredBoxes boxes;
             dropFiles(flow.page, {Samples + u"/sites.csv"_s});
             return boxes.seen.size() == 1
@@ -152,24 +152,25 @@ private Q_SLOTS:
 
         QFile::remove(layer);
         QVERIFY(QDir().mkdir(layer));
-        QCOMPARE(toldWhenDropped(),
+        QCOMPARE(reportedWhenDropped(),
                  u"Error|Can't create the layer file\n"_s + QDir::cleanPath(layer));
         QVERIFY(!flow.icon->isEnabled());
         QVERIFY(QDir().rmdir(layer));
 
         QVERIFY(QFile::remove(pylons + u"sites_infos_en.html"_s));
         for (int i = 0; i < 2; ++i) { // every layer without its page has a message
-            QCOMPARE(toldWhenDropped(), u"Error !!!|A configuration file is missing"_s);
+            QCOMPARE(reportedWhenDropped(), u"Error !!!|A configuration file is missing"_s);
             QVERIFY(flow.icon->isEnabled());
         }
 
         const QString layerTemplate = pylons + u"template_sites.lay"_s;
         QVERIFY(QFile::remove(layerTemplate));
-        QCOMPARE(toldWhenDropped(), u"Error|A configuration file is missing\n"_s + layerTemplate);
+        QCOMPARE(reportedWhenDropped(),
+                 u"Error|A configuration file is missing\n"_s + layerTemplate);
         QVERIFY(!flow.icon->isEnabled());
     }
 
-    void tellsOfAPylonThatCannotBeShown_data()
+    void reportsOfAPylonThatCannotBeShown_data()
     {
         QTest::addColumn<QByteArray>("catalogue");
         QTest::addColumn<bool>("hasLayer");
@@ -179,7 +180,7 @@ private Q_SLOTS:
         QTest::newRow("nothing to choose from") << QByteArray("<pylons/>") << false;
     }
 
-    void tellsOfAPylonThatCannotBeShown()
+    void reportsOfAPylonThatCannotBeShown()
     {
         QFETCH(QByteArray, catalogue);
         QFETCH(bool, hasLayer);
@@ -192,10 +193,10 @@ private Q_SLOTS:
 
         dropFiles(flow.page, {Samples + u"/sites.csv"_s});
 
-        QStringList told;
+        QStringList reported;
         for (const SeenBox &box : std::as_const(boxes.seen))
-            told << box.title + u'|' + box.text;
-        QCOMPARE(told, QStringList{u"Error|The pylon url didn't return a valid node !"_s});
+            reported << box.title + u'|' + box.text;
+        QCOMPARE(reported, QStringList{u"Error|The pylon url didn't return a valid node !"_s});
         QCOMPARE(flow.icon->isEnabled(), hasLayer);
         const auto *reason = flow.widget<QLabel>(u"m_pwLblReason"_s);
         QCOMPARE(reason->isVisible(), !hasLayer);

@@ -131,12 +131,12 @@ private Q_SLOTS:
         QProcess process;
         qputenv("PROBE_OUTPUT", QFile::encodeName(output));
         process.start(program, {});
-        const bool told =
+        const bool reported =
             QTest::qWaitFor([&] { return readFile(output).endsWith("end\n"); }, PatienceMs);
         process.kill();
         process.waitForFinished(-1);
 
-        QVERIFY2(told, process.readAllStandardError().constData());
+        QVERIFY2(reported, process.readAllStandardError().constData());
         const QByteArray dir = tree.toUtf8();
         const QByteArray drivers = dir + "/driver:" + dir + "/driver/qt4";
         QCOMPARE(readFile(output), drivers + "\n1.5=1.5\nend\n");

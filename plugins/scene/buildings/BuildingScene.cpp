@@ -74,8 +74,8 @@ std::size_t countOf(const LeftOut &leftOut)
     return leftOut.noHeight + leftOut.notPositive + leftOut.noShape + leftOut.noPlace;
 }
 
-void tellLeftOut(const LeftOut &leftOut, const std::string &heightField, std::size_t features,
-                 Notices &notices)
+void reportLeftOut(const LeftOut &leftOut, const std::string &heightField, std::size_t features,
+                   Notices &notices)
 {
     struct Reason
     {
@@ -133,7 +133,7 @@ CityModel readCity(const BuildingDocument &document, const Directories &director
     city.srs = wktOf(read.srs);
     city.leftOut = read.leftOut;
     place(city, srs);
-    tellLeftOut(city.leftOut, footprints.heightField, read.features, notices);
+    reportLeftOut(city.leftOut, footprints.heightField, read.features, notices);
     if (const std::size_t count = countCoincident(city); count > 0)
         notices.push_back(contract::formatted(
             "MESS_SCENE_COINCIDENT", {std::to_string(count), std::to_string(read.features)}));
@@ -186,9 +186,9 @@ osg::ref_ptr<osg::Group> readBuildingScene(const std::string &document, const st
                          footprints.texturedVisibilityM, footprints.skirtHeightM,
                          texturedMaker(city, texb, directories, notices, part(progress, 0.8, 0.9))};
     osg::ref_ptr<osg::Group> scene = buildCity(city, look, part(progress, 0.9, 1));
-    tellFrame(*scene, city->frame);
-    tellCount(*scene, "buildings", city->footprints.buildings.size());
-    tellCount(*scene, "leftOut", countOf(city->leftOut));
+    setFrame(*scene, city->frame);
+    setCount(*scene, "buildings", city->footprints.buildings.size());
+    setCount(*scene, "leftOut", countOf(city->leftOut));
     return scene;
 }
 

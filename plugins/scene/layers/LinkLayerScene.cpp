@@ -9,15 +9,15 @@
 namespace vlt::scene {
 
 osg::ref_ptr<osg::Group> buildLinkLayerScene(const LinkRows &rows, LinkRecords records,
-                                             const LinkLook &look, const std::string &title,
+                                             const LinkAppearance &look, const std::string &title,
                                              TileContent content)
 {
     osg::ref_ptr<osg::Group> group = new osg::Group;
     group->setName(title);
-    tellFrame(*group, rows.frame);
-    tellCount(*group, "links", records.links.size());
-    tellCount(*group, "pylons", records.pylons.sites.size());
-    tellCount(*group, "unplaced", rows.unplaced);
+    setFrame(*group, rows.frame);
+    setCount(*group, "links", records.links.size());
+    setCount(*group, "pylons", records.pylons.sites.size());
+    setCount(*group, "unplaced", rows.unplaced);
     static constexpr std::array<std::pair<const char *, linkpath::ClearanceStatus>, 4> Statuses = {{
         {"clear", linkpath::ClearanceStatus::Clear},
         {"marginal", linkpath::ClearanceStatus::Marginal},
@@ -26,10 +26,10 @@ osg::ref_ptr<osg::Group> buildLinkLayerScene(const LinkRows &rows, LinkRecords r
     }};
     for (const auto &[name, status] : Statuses) {
         if (!records.statuses.empty())
-            tellCount(*group, name, records.statuses[status]);
+            setCount(*group, name, records.statuses[status]);
     }
     if (rows.isCut)
-        tellCut(*group);
+        setCut(*group);
     group->addChild(buildPylonTiles(std::move(records.pylons), content));
     group->addChild(buildLinks(records.links, look));
     return group;

@@ -5,7 +5,7 @@ namespace vlt::scene {
 LinkLayerStyle readLinkLayerStyle(const contract::ConnectionString &source)
 {
     const ItemText option = [&source](std::string_view key) { return styleOption(source, key); };
-    return {readSiteStyle(source), readLinkLook(option, ClearanceWord::Accepted)};
+    return {readSiteStyle(source), readLinkAppearance(option, ClearanceWord::Accepted)};
 }
 
 } // namespace vlt::scene

@@ -11,12 +11,12 @@ namespace vlt::scene {
 struct LinkLayerStyle
 {
     SiteStyle pylons;
-    LinkLook look;
+    LinkAppearance look;
 
     linkpath::ClearanceRule rule() const { return {look.fresnelShare, look.kFactor}; }
 };
 
-/// Reads the options of readSiteStyle() and readLinkLook().
+/// Reads the options of readSiteStyle() and readLinkAppearance().
 ///
 /// @throws BadQuery  An option is missing or invalid; the text names it.
 LinkLayerStyle readLinkLayerStyle(const contract::ConnectionString &source);

@@ -9,11 +9,11 @@ osg::ref_ptr<osg::Group> buildSiteScene(SiteRecords records, const std::string &
 {
     osg::ref_ptr<osg::Group> group = new osg::Group;
     group->setName(title);
-    tellFrame(*group, records.frame);
-    tellCount(*group, "sites", records.sites.size());
-    tellCount(*group, "unplaced", records.unplaced);
+    setFrame(*group, records.frame);
+    setCount(*group, "sites", records.sites.size());
+    setCount(*group, "unplaced", records.unplaced);
     if (records.isCut)
-        tellCut(*group);
+        setCut(*group);
     if (!records.sites.empty())
         group->addChild(buildPylonTiles(std::move(records), content));
     return group;

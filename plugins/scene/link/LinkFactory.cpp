@@ -149,7 +149,7 @@ void addPointedTube(Mesh &mesh, const std::array<Station, 4> &stations, int side
 class LinkBuilder
 {
 public:
-    LinkBuilder(const std::vector<LinkObject> &links, const LinkLook &look)
+    LinkBuilder(const std::vector<LinkObject> &links, const LinkAppearance &look)
         : m_links(links)
         , m_look(look)
         , m_fineness(finenessFor(links.size()))
@@ -322,7 +322,7 @@ private:
     }
 
     const std::vector<LinkObject> &m_links;
-    const LinkLook &m_look;
+    const LinkAppearance &m_look;
     Fineness m_fineness;
     Color m_zoneColor;
     osg::ref_ptr<osg::StateSet> m_hairlines;
@@ -332,7 +332,8 @@ private:
 
 } // namespace
 
-osg::ref_ptr<osg::Group> buildLinks(const std::vector<LinkObject> &links, const LinkLook &look)
+osg::ref_ptr<osg::Group> buildLinks(const std::vector<LinkObject> &links,
+                                    const LinkAppearance &look)
 {
     LinkBuilder::Picked drawn;
     for (const LinkObject &link : links) {

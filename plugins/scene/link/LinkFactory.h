@@ -21,6 +21,7 @@ inline constexpr std::size_t LinksPerTile = 256;
 /// at most 2 million vertices together. Ellipsoids in distant tiles are coarser still, or left out
 /// if less than a pixel wide; fine ones are made only for tiles near the viewer. Invisible parts
 /// (opacity 0) and links whose ends coincide are left out.
-osg::ref_ptr<osg::Group> buildLinks(const std::vector<LinkObject> &links, const LinkLook &look);
+osg::ref_ptr<osg::Group> buildLinks(const std::vector<LinkObject> &links,
+                                    const LinkAppearance &look);
 
 } // namespace vlt::scene

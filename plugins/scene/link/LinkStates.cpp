@@ -99,7 +99,7 @@ void drawAfterZones(osg::StateSet &state)
 
 } // namespace
 
-osg::ref_ptr<osg::StateSet> makeLineState(const LinkLook &look, Opacity opacity)
+osg::ref_ptr<osg::StateSet> makeLineState(const LinkAppearance &look, Opacity opacity)
 {
     osg::ref_ptr<osg::StateSet> state = unlit();
     switch (look.style) {

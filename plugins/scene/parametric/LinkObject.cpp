@@ -34,9 +34,9 @@ LinkStyle readStyle(const ItemText &item)
 
 } // namespace
 
-LinkLook readLinkLook(const ItemText &item, ClearanceWord clearance)
+LinkAppearance readLinkAppearance(const ItemText &item, ClearanceWord clearance)
 {
-    LinkLook look;
+    LinkAppearance look;
     std::string text;
     look.style = readStyle(item);
     look.width = readNumber(item, keys::LinkWidth, "MESS_QUANTITY_WIDTH", keys::LinkWidthPixelsOrM);

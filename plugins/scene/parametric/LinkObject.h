@@ -15,7 +15,7 @@ namespace vlt::scene {
 using contract::LinkStyle;
 
 /// The appearance of links, which LinkFactory.h draws.
-struct LinkLook
+struct LinkAppearance
 {
     LinkStyle style = LinkStyle::Line;
     double width = 1; ///< pixels or metres, see LinkStyle
@@ -37,7 +37,7 @@ struct LinkObject
     osg::Vec3d a;
     osg::Vec3d b;
     double frequencyMHz = 0;    ///< 0: unknown, no ellipsoid
-    std::optional<Color> color; ///< of the line of sight, instead of LinkLook::color
+    std::optional<Color> color; ///< of the line of sight, instead of LinkAppearance::color
 };
 
 /// Returns the text of an item, such as "link_style".
@@ -52,6 +52,6 @@ enum class ClearanceWord { Refused, Accepted };
 /// k_factor.
 ///
 /// @throws BadQuery  An item is missing or invalid; the text names it.
-LinkLook readLinkLook(const ItemText &item, ClearanceWord clearance);
+LinkAppearance readLinkAppearance(const ItemText &item, ClearanceWord clearance);
 
 } // namespace vlt::scene

@@ -76,7 +76,7 @@ LinkSceneQuery parseLinkQuery(std::string_view url)
     if (scene.links.empty())
         throw BadQuery("MESS_QUERY_NO_ITEM", {"link"});
     const auto item = [&query](std::string_view key) { return std::string(query.single(key)); };
-    scene.look = readLinkLook(item, ClearanceWord::Refused);
+    scene.look = readLinkAppearance(item, ClearanceWord::Refused);
     return scene;
 }
 

@@ -14,7 +14,7 @@ struct LinkSceneQuery
 {
     std::vector<PylonObject> pylons;
     std::vector<LinkObject> links;
-    LinkLook look;
+    LinkAppearance look;
 };
 
 inline constexpr std::size_t MaxQueryPylons = 500;

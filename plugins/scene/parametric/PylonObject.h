@@ -31,8 +31,8 @@ enum class PylonType {
 std::optional<PylonType> pylonTypeNamed(std::string_view name);
 
 enum class AntennaKind {
-    Usual, ///< a panel or a cylinder, depending on the type of the mast
-    Dish,  ///< the antenna of a microwave link
+    Default, ///< a panel or a cylinder, depending on the type of the mast
+    Dish,    ///< the antenna of a microwave link
 };
 
 /// A transmitter: an antenna in the precise representation, a sector in the symbolic one.
@@ -44,7 +44,7 @@ struct Transmitter
     double beamWidthDeg = 0;   ///< horizontal; 0: DefaultBeamWidthDeg or DefaultDishBeamDeg
     double antennaLengthM = 0; ///< before scaling; 0: DefaultAntennaLengthM or DefaultDishDiameterM
     Color color;               ///< of the sector and of the antenna's mark
-    AntennaKind kind = AntennaKind::Usual;
+    AntennaKind kind = AntennaKind::Default;
 
     // NOLINTNEXTLINE(modernize-use-nullptr): the check mistakes the comparison's own 0
     std::partial_ordering operator<=>(const Transmitter &) const = default;

@@ -11,7 +11,7 @@ namespace vlt::scene {
 /// The position of an antenna on a pylon, in metres in the pylon's own frame.
 struct AntennaPlace
 {
-    AntennaKind kind = AntennaKind::Usual;
+    AntennaKind kind = AntennaKind::Default;
     osg::Vec3d centre;
     double azimuthDeg = 0; ///< direction that the antenna faces
     double tiltDeg = 0;

@@ -7,7 +7,7 @@
 
 namespace vlt::scene {
 
-void tellFrame(osg::Group &scene, const SceneFrame &frame)
+void setFrame(osg::Group &scene, const SceneFrame &frame)
 {
     const osg::Vec2d &centre = frame.local->centre();
     std::ostringstream text;
@@ -17,12 +17,12 @@ void tellFrame(osg::Group &scene, const SceneFrame &frame)
     scene.addDescription("srs=" + frame.srs);
 }
 
-void tellCount(osg::Group &scene, std::string_view key, std::size_t count)
+void setCount(osg::Group &scene, std::string_view key, std::size_t count)
 {
     scene.addDescription(std::string(key) + '=' + std::to_string(count));
 }
 
-void tellCut(osg::Group &scene)
+void setCut(osg::Group &scene)
 {
     scene.addDescription("cut");
 }

@@ -11,12 +11,12 @@ namespace vlt::scene {
 // These functions add a fact to the descriptions of a scene.
 
 /// Adds the position of the scene's origin: "centre=X Y" in the table's system, and "srs=...".
-void tellFrame(osg::Group &scene, const SceneFrame &frame);
+void setFrame(osg::Group &scene, const SceneFrame &frame);
 
 /// Adds a number: "key=N".
-void tellCount(osg::Group &scene, std::string_view key, std::size_t count);
+void setCount(osg::Group &scene, std::string_view key, std::size_t count);
 
 /// Adds that the table has more rows than are shown: "cut".
-void tellCut(osg::Group &scene);
+void setCut(osg::Group &scene);
 
 } // namespace vlt::scene

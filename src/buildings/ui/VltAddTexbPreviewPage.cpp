@@ -91,10 +91,10 @@ QString VltAddTexbPreviewPage::missingText() const
     return m_ui->m_pwColors->usesColorMap() ? m_ui->m_pwColoring->missingText() : QString();
 }
 
-vlt::buildings::TexturedLook
+vlt::buildings::TexturingParameters
 VltAddTexbPreviewPage::look(const vlt::buildings::RasterColoring &coloring) const
 {
-    vlt::buildings::TexturedLook look;
+    vlt::buildings::TexturingParameters look;
     look.cache = m_ui->m_pwCache->cache();
     look.texturedVisibilityM = m_ui->m_pwTexturing->visibilityM();
     look.mode = m_ui->m_pwTexturing->mode();

@@ -242,7 +242,7 @@ void VltColoringPanel::openImage(const QString &path, bool quiet)
             showSubdatasets(summary->value().subdatasets);
         }
         if (m_ui->m_pwCbSubdatsets->count() > 0)
-            judgeSubdataset(quiet);
+            checkSubdataset(quiet);
         else
             check(summary, absolute, quiet);
     }
@@ -271,7 +271,7 @@ void VltColoringPanel::check(const std::optional<Summary> &summary, const QStrin
         buildings::warnOfRaster(this, buildings::RasterProblem::NotOneBand, name);
 }
 
-void VltColoringPanel::judgeSubdataset(bool quiet)
+void VltColoringPanel::checkSubdataset(bool quiet)
 {
     check(readSummary(m_openedImage, subdataset()), subdataset(), quiet);
 }
@@ -280,7 +280,7 @@ void VltColoringPanel::currentDatasetChanged()
 {
     if (m_isBusy || subdataset().isEmpty())
         return;
-    judgeSubdataset(false);
+    checkSubdataset(false);
     Q_EMIT parameterChanged();
 }
 
@@ -356,7 +356,7 @@ void VltColoringPanel::loadSettings(const QString &prefix)
         restoreIndex(m_ui->m_pwCbSubdatsets, value(QStringLiteral("IdxSubdataset"), 0));
     }
     if (m_ui->m_pwCbSubdatsets->currentIndex() > 0)
-        judgeSubdataset(true);
+        checkSubdataset(true);
     VltParameterPanel::loadSettings(prefix);
 
     // A damaged count must not block the page.

@@ -89,7 +89,7 @@ private:
     void showSubdatasets(const QList<vlt::geodata::Subdataset> &subdatasets);
     std::optional<Summary> readSummary(const QString &path, const QString &part);
     void check(const std::optional<Summary> &summary, const QString &name, bool quiet);
-    void judgeSubdataset(bool quiet);
+    void checkSubdataset(bool quiet);
     bool readRange(const vlt::buildings::RasterColoring &coloring);
     QString subdataset() const;
     int addToList(const QString &name, const QString &path);

@@ -75,11 +75,11 @@ vlt::links::LinkLayerInput VltAddLinkPage::layerInput() const
 void VltAddLinkPage::checkRows()
 {
     const vlt::links::LinkLayerInput input = layerInput();
-    vlt::geodata::LinkCheckInput input;
-    input.terrainFile = project().terrainFile;
-    input.rule.share = input.links.fresnelSharePercent / PerCent;
-    input.rule.kFactor = input.links.kFactor;
-    m_panelDetails->check(vlt::links::placingConnection(input), systems(), input);
+    vlt::geodata::LinkCheckInput check;
+    check.terrainFile = project().terrainFile;
+    check.rule.share = input.links.fresnelSharePercent / PerCent;
+    check.rule.kFactor = input.links.kFactor;
+    m_panelDetails->check(vlt::links::placingConnection(input), systems(), check);
 }
 
 std::optional<vlt::Error> VltAddLinkPage::missingChoice() const

@@ -32,16 +32,16 @@ ColorButton::ColorButton(QWidget *parent) : QPushButton(parent)
 void ColorButton::setColor(const QColor &color)
 {
     m_color = color;
-    tellColor();
+    updateColor();
 }
 
 void ColorButton::setPurpose(const QString &purpose)
 {
     m_purpose = purpose;
-    tellColor();
+    updateColor();
 }
 
-void ColorButton::tellColor()
+void ColorButton::updateColor()
 {
     QString name = m_color.name().toUpper();
     if (const int transparent = qRound((1 - m_color.alphaF()) * 100); transparent > 0)

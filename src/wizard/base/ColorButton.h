@@ -28,7 +28,7 @@ Q_SIGNALS:
 
 private:
     void chooseColor();
-    void tellColor();
+    void updateColor();
 
     QColor m_color;
     QString m_purpose;
