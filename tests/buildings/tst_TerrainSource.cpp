@@ -104,7 +104,7 @@ private Q_SLOTS:
     void comparesSystems_data()
     {
         QTest::addColumn<double>("west"); ///< western edge of 1,200 km in Web Mercator
-        QTest::addColumn<QString>("told");
+        QTest::addColumn<QString>("reported");
 
         QTest::newRow("around") << 0.0 << u"covers the buildings"_s;
         QTest::newRow("elsewhere") << 1e7 << u"does not cover the buildings"_s;

@@ -96,7 +96,7 @@ private Q_SLOTS:
     void asksForAColourByKeyboard_data()
     {
         QTest::addColumn<QColor>("chosen"); // invalid if cancelled
-        QTest::addColumn<QString>("told");
+        QTest::addColumn<QString>("reported");
         QTest::newRow("taken") << QColor(1, 2, 3) << u"#010203"_s;
         QTest::newRow("translucent") << QColor(255, 0, 0, 127) << u"#FF0000, 50 % transparent"_s;
         QTest::newRow("cancelled") << QColor() << u"#E0218A"_s;

@@ -123,7 +123,7 @@ void tst_LinkPath::statuses_data()
     QTest::addColumn<double>("wall");
     QTest::addColumn<double>("share");
     QTest::addColumn<double>("k");
-    QTest::addColumn<int>("verdict");
+    QTest::addColumn<int>("status");
     QTest::addColumn<double>("clearance");
     const auto row = [](const char *name, double wall, double share, double k,
                         ClearanceStatus status, double clearance) {

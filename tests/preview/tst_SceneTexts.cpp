@@ -13,7 +13,7 @@ using vlt::language::readerText;
 namespace {
 
 const QByteArray Document =
-    R"(<veltaroTexturedBuildings cache="none"><vector filename="city.geojson" layer="" hfield="H"
+    R"(<veltaroTexturedBuildings cache="none"><vector filename="town.geojson" layer="" hfield="H"
  tileSize="250" wallColor="#808080" texturedVisibility="500"/><elevation source="dtm" filename="flat.asc" nodata=""/>
 <textures mode="roofs" magFilter="none"></textures></veltaroTexturedBuildings>)";
 

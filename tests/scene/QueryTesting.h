@@ -22,7 +22,7 @@ inline void addRefusals(std::initializer_list<std::array<const char *, 3>> rows)
 {
     QTest::addColumn<QByteArray>("what");
     QTest::addColumn<QByteArray>("with");
-    QTest::addColumn<QByteArray>("told");
+    QTest::addColumn<QByteArray>("reported");
     for (const auto &[what, with, reported] : rows)
         QTest::newRow(reported) << QByteArray(what) << QByteArray(with) << QByteArray(reported);
 }

@@ -31,7 +31,7 @@ QString fromUtf8(const std::string &text)
 /// The result of opening a file, in the words of a manifest.
 struct Outcome
 {
-    QString status;
+    QString verdict;
     qint64 rows = -1;
     qint64 columns = -1;
     QString header;
@@ -58,7 +58,7 @@ Outcome openTable(const QString &path)
     try {
         const auto table = TableFile::open(QFile::encodeName(path).toStdString(), {});
         const TableProfile &profile = table->facts().table;
-        outcome.status = QStringLiteral("open");
+        outcome.verdict = QStringLiteral("open");
         outcome.rows = static_cast<qint64>(profile.rowCount);
         outcome.columns = static_cast<qint64>(profile.fields.size());
         QStringList names;
@@ -81,7 +81,7 @@ Outcome openTable(const QString &path)
                 outcome.firstId = outcome.lastId;
         }
     } catch (const RefusedFile &refused) {
-        outcome.status = ReasonWords.at(refused.reason());
+        outcome.verdict = ReasonWords.at(refused.reason());
         if (qEnvironmentVariableIsSet("VLT_SHOW_REASONS"))
             qInfo("%s: %s", qPrintable(path), refused.what());
     }
@@ -126,7 +126,7 @@ void readManifest(const QString &path, const QStringList &folders)
 void compare()
 {
     QFETCH(QString, file);
-    QFETCH(QString, status);
+    QFETCH(QString, verdict);
     QFETCH(QString, header);
     QFETCH(QString, otherReasons);
     QFETCH(qint64, rows);
@@ -134,9 +134,9 @@ void compare()
 
     const Outcome outcome = openTable(file);
 
-    if (!otherReasons.split(QLatin1Char(',')).contains(outcome.status))
-        QCOMPARE(outcome.status, status);
-    if (outcome.status != QLatin1String("open"))
+    if (!otherReasons.split(QLatin1Char(',')).contains(outcome.verdict))
+        QCOMPARE(outcome.verdict, verdict);
+    if (outcome.verdict != QLatin1String("open"))
         return;
     QCOMPARE(outcome.columns, columns);
     if (!header.isEmpty())
