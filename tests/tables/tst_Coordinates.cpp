@@ -1,5 +1,5 @@
-#include "plugins/tables/sites/Angle.h"
-#include "plugins/tables/sites/CoordinatePair.h"
+#include "plugins/tables/values/Angle.h"
+#include "plugins/tables/values/CoordinatePair.h"
 
 #include <QtTest>
 

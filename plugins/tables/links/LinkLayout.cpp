@@ -2,8 +2,8 @@
 
 #include "plugins/tables/bytes/Refusal.h"
 #include "plugins/tables/links/EndWords.h"
-#include "plugins/tables/links/Quantity.h"
 #include "plugins/tables/table/HeaderWords.h"
+#include "plugins/tables/values/Quantity.h"
 
 #include <algorithm>
 #include <functional>

@@ -1,22 +1,13 @@
 #pragma once
 
 #include "plugins/tables/sites/TableDeclaration.h"
+#include "plugins/tables/values/Quantity.h"
 
 #include <array>
-#include <optional>
 #include <string>
 #include <vector>
 
 namespace vlt::driver {
-
-/// A column of lengths or frequencies.
-struct QuantityField
-{
-    int field = -1;             ///< -1 for none
-    std::optional<double> unit; ///< metres or MHz per unit in its name
-
-    bool found() const { return field >= 0; }
-};
 
 /// The columns of one end of a link: field numbers, -1 for none.
 struct LinkEndFields

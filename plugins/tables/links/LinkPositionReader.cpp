@@ -1,8 +1,8 @@
 #include "plugins/tables/links/LinkPositionReader.h"
 
 #include "contract/TableTexts.h"
-#include "plugins/tables/links/Quantity.h"
 #include "plugins/tables/table/ColumnStatistics.h"
+#include "plugins/tables/values/Quantity.h"
 
 #include <cmath>
 

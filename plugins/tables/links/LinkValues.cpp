@@ -1,8 +1,8 @@
 #include "plugins/tables/links/LinkValues.h"
 
 #include "contract/TableTexts.h"
-#include "plugins/tables/links/Quantity.h"
 #include "plugins/tables/table/ColumnStatistics.h"
+#include "plugins/tables/values/Quantity.h"
 
 namespace vlt::driver {
 

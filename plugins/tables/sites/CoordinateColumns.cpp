@@ -1,8 +1,8 @@
 #include "plugins/tables/sites/CoordinateColumns.h"
 
-#include "plugins/tables/sites/Angle.h"
-#include "plugins/tables/sites/CoordinatePair.h"
 #include "plugins/tables/table/HeaderWords.h"
+#include "plugins/tables/values/Angle.h"
+#include "plugins/tables/values/CoordinatePair.h"
 
 #include <algorithm>
 #include <cmath>

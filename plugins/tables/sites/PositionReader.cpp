@@ -1,8 +1,8 @@
 #include "plugins/tables/sites/PositionReader.h"
 
 #include "contract/TableTexts.h"
-#include "plugins/tables/sites/Angle.h"
-#include "plugins/tables/sites/CoordinatePair.h"
+#include "plugins/tables/values/Angle.h"
+#include "plugins/tables/values/CoordinatePair.h"
 
 #include <cmath>
 

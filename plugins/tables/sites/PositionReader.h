@@ -1,9 +1,9 @@
 #pragma once
 
-#include "plugins/tables/sites/Angle.h"
 #include "plugins/tables/sites/CoordinateColumns.h"
 #include "plugins/tables/table/RowProblem.h"
 #include "plugins/tables/table/Table.h"
+#include "plugins/tables/values/Angle.h"
 
 #include <optional>
 #include <string>

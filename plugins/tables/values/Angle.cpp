@@ -1,4 +1,4 @@
-#include "plugins/tables/sites/Angle.h"
+#include "plugins/tables/values/Angle.h"
 
 #include "plugins/tables/cells/Cell.h"
 #include "plugins/tables/cells/Numbers.h"

@@ -1,8 +1,8 @@
-#include "plugins/tables/sites/CoordinatePair.h"
+#include "plugins/tables/values/CoordinatePair.h"
 
 #include "plugins/tables/cells/Cell.h"
-#include "plugins/tables/sites/Angle.h"
 #include "plugins/tables/table/HeaderWords.h"
+#include "plugins/tables/values/Angle.h"
 
 #include <cmath>
 

@@ -13,6 +13,15 @@ std::optional<double> megahertzPer(std::string_view word);
 
 using UnitOf = std::optional<double> (*)(std::string_view word);
 
+/// A column of lengths or frequencies.
+struct QuantityField
+{
+    int field = -1;             ///< -1 for none
+    std::optional<double> unit; ///< metres or MHz per unit in its name
+
+    bool found() const { return field >= 0; }
+};
+
 /// The first unit in a column name or at the end of a value.
 std::optional<double> unitInName(std::string_view name, UnitOf unitOf);
 

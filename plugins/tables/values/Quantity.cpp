@@ -1,4 +1,4 @@
-#include "plugins/tables/links/Quantity.h"
+#include "plugins/tables/values/Quantity.h"
 
 #include "plugins/tables/cells/Cell.h"
 #include "plugins/tables/cells/Numbers.h"
