@@ -13,7 +13,8 @@ fail() { echo "FAILED: $*" >&2; exit 1; }
 tree="$work/moved, 100% d'été"
 mv "$work/first" "$tree"
 for part in VltTelecomLayers vltlayers driver/ogr_VltTables.so addons/telecom/pylons/list.xml addons/telecom/MESSAGES/telecom_fr.ts \
-    addons/telecom/template/template_texb.lay addons/telecom/colormaps/signal/signal_level_dBm.txt driver/osgdb_lay.so \
+    addons/telecom/template/template_texb.lay addons/telecom/colormaps/signal/signal_level_dBm.txt \
+    addons/telecom/tables/vocabulary.json driver/osgdb_lay.so \
     driver/osgdb_texb.so examples/lorient/coverage/signal_level_dBm.tif MESSAGES/veltaro_en.ts VltSrsUtils.ini setup_env.ini examples/lorient/city.gvw share/man/man1/vltlayers.1 \
     share/man/man1/VltTelecomLayers.1 share/applications/org.veltaro.VltTelecomLayers.desktop; do
     [[ -f $tree/$part ]] || fail "$part is not installed"
