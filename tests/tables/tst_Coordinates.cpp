@@ -1,3 +1,6 @@
+#include "plugins/tables/cells/GroupedNumber.h"
+#include "plugins/tables/sites/PositionReader.h"
+#include "plugins/tables/sites/SiteLayout.h"
 #include "plugins/tables/values/Angle.h"
 #include "plugins/tables/values/CoordinatePair.h"
 
@@ -6,6 +9,46 @@
 #include <cmath>
 
 using namespace vlt::driver;
+
+namespace {
+
+/// A table with these texts in the cells of its columns.
+TableProfile tableOf(const QList<QPair<QByteArray, QList<QByteArray>>> &columns)
+{
+    TableProfile table;
+    for (const auto &[name, texts] : columns) {
+        Field field;
+        field.name = name.toStdString();
+        for (const QByteArray &text : texts)
+            field.samples.push_back(text.toStdString());
+        table.fields.push_back(field);
+    }
+    return table;
+}
+
+/// The positions of the rows as "x y", or the reason why there is none.
+QStringList positionsOf(const TableProfile &table, const SiteLayout &layout)
+{
+    const PositionReader reader(table, layout.point, layout.unit);
+    QStringList positions;
+    for (std::size_t row = 0; row < table.fields.front().samples.size(); ++row) {
+        std::vector<Cell> cells(table.fields.size());
+        std::vector<const Cell *> ofFields;
+        for (std::size_t i = 0; i < cells.size(); ++i) {
+            cells[i].text = table.fields[i].samples[row];
+            ofFields.push_back(&cells[i]);
+        }
+        std::vector<RowProblem> problems;
+        const Position position = reader.read(1, ofFields, problems);
+        positions +=
+            position.found
+                ? QStringLiteral("%1 %2").arg(position.x, 0, 'g', 12).arg(position.y, 0, 'g', 12)
+                : QString::fromStdString(problems.front().text);
+    }
+    return positions;
+}
+
+} // namespace
 
 /// Notations of positions in tables.
 class tst_Coordinates : public QObject
@@ -58,6 +101,75 @@ private Q_SLOTS:
         QFETCH(QByteArray, text);
 
         QVERIFY(readAngle(text.toStdString(), Axis::Y).fault);
+    }
+
+    void readsGroupedThousands_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<double>("number"); // 0: none
+        const auto row = [](const char *text, double number) {
+            QTest::newRow(text) << QByteArray(text) << number;
+        };
+        row("652 000,5", 652000.5);
+        row("652,000.5", 652000.5);
+        row("-652.000,5", -652000.5);
+        row("6 862 000", 6862000);
+        row("6,862,000", 6862000);
+        row("1'234.5", 1234.5);
+        row("1’234", 1234);
+        row("6\u00A0862\u00A0000,25", 6862000.25);
+        row("652\u202F000", 652000);
+        row("652,000", 0); // a decimal comma
+        row("652.000", 0);
+        row("652000.5", 0); // not grouped
+        row("48 51", 0);
+        row("48 51 24.5", 0);
+        row("0 030.5", 0);
+        row("1 234 56", 0);
+        row("1 234,567.5", 0); // three marks
+        row("1234 567", 0);
+        row("652 000,", 0);
+    }
+    void readsGroupedThousands()
+    {
+        QFETCH(QByteArray, text);
+        QFETCH(double, number);
+
+        QCOMPARE(parseGroupedNumber(text.toStdString()).value_or(0), number);
+    }
+
+    void readsColumns_data()
+    {
+        QTest::addColumn<QList<QByteArray>>("x");
+        QTest::addColumn<QList<QByteArray>>("y");
+        QTest::addColumn<int>("unit");
+        QTest::addColumn<QStringList>("positions");
+        const auto row = [](const char *name, const QList<QByteArray> &x,
+                            const QList<QByteArray> &y, CoordinateUnit unit,
+                            const QStringList &positions) {
+            QTest::newRow(name) << x << y << static_cast<int>(unit) << positions;
+        };
+        row("blanks between thousands", {"652 000,5", "9 500"},
+            {"6 862 000", "6\u00A0862\u00A0001,25"}, CoordinateUnit::Meters,
+            {QStringLiteral("652000.5 6862000"), QStringLiteral("9500 6862001.25")});
+        row("marks between thousands", {"652,000.5", "652.000,5"}, {"6862000", "6,862,000"},
+            CoordinateUnit::Meters,
+            {QStringLiteral("652000.5 6862000"), QStringLiteral("652000.5 6862000")});
+        row("degrees and minutes", {"2 30", "102 45,5"}, {"48 15", "48 30.5"}, CoordinateUnit::Dms,
+            {QStringLiteral("2.5 48.25"), QStringLiteral("102.758333333 48.5083333333")});
+    }
+    void readsColumns()
+    {
+        QFETCH(QList<QByteArray>, x);
+        QFETCH(QList<QByteArray>, y);
+        QFETCH(int, unit);
+        QFETCH(QStringList, positions);
+        const TableProfile table = tableOf({{"X", x}, {"Y", y}});
+
+        const SiteLayout layout = recogniseSiteLayout(table);
+
+        QCOMPARE(static_cast<int>(layout.unit), unit);
+        QCOMPARE(positionsOf(table, layout), positions);
     }
 
     void readsPairs_data()

@@ -75,6 +75,14 @@ std::optional<double> parseNumber(std::string_view text, DecimalMark mark)
     return negative ? -value : value;
 }
 
+std::optional<double> parseEitherNumber(std::string_view text)
+{
+    const NumberShape shape = numberShape(text);
+    return shape.isNumber
+               ? parseNumber(text, shape.usesComma ? DecimalMark::Comma : DecimalMark::Point)
+               : std::nullopt;
+}
+
 NumberShape numberShape(std::string_view text)
 {
     NumberShape shape;

@@ -17,6 +17,10 @@ enum class DecimalMark : char {
 /// does not depend on the locale of the process.
 std::optional<double> parseNumber(std::string_view text, DecimalMark mark = DecimalMark::Point);
 
+/// The decimal number that is the whole text, with a point or a comma as its mark, as
+/// numberShape() accepts it.
+std::optional<double> parseEitherNumber(std::string_view text);
+
 /// The form of a text that may be a number.
 struct NumberShape
 {

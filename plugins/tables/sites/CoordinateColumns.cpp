@@ -1,5 +1,6 @@
 #include "plugins/tables/sites/CoordinateColumns.h"
 
+#include "plugins/tables/cells/GroupedNumber.h"
 #include "plugins/tables/table/HeaderWords.h"
 #include "plugins/tables/values/Angle.h"
 #include "plugins/tables/values/CoordinatePair.h"
@@ -181,12 +182,12 @@ CoordinateUnit unitOfSamples(const Field &field, Axis axis)
     std::size_t readable = 0;
     for (const std::string &text : field.samples) {
         const std::string_view value = trimmed(text);
-        const NumberShape shape = numberShape(value);
-        if (shape.isNumber) {
+        std::optional<double> number = parseEitherNumber(value);
+        if (!number) // always beyond the degrees: "652 000,5" would also be degrees and minutes
+            number = parseGroupedNumber(value);
+        if (number) {
             ++readable;
-            const auto number =
-                parseNumber(value, shape.usesComma ? DecimalMark::Comma : DecimalMark::Point);
-            large += number && std::abs(*number) > MaxDegrees ? 1 : 0;
+            large += std::abs(*number) > MaxDegrees ? 1 : 0;
         } else if (const Angle angle = readAngle(value, axis); !angle.fault) {
             ++readable;
             inParts += angle.parts > 1 ? 1 : 0;

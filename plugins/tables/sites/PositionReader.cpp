@@ -1,6 +1,7 @@
 #include "plugins/tables/sites/PositionReader.h"
 
 #include "contract/TableTexts.h"
+#include "plugins/tables/cells/GroupedNumber.h"
 #include "plugins/tables/values/Angle.h"
 #include "plugins/tables/values/CoordinatePair.h"
 
@@ -66,10 +67,9 @@ bool PositionReader::readAxis(int64_t row, const CoordinateFields &fields, Axis 
     if (!fields.inParts() && cell && m_unit == CoordinateUnit::Meters) {
         // A cell may have another decimal mark than its column.
         const std::string text = fieldText(cells, fields.value);
-        const NumberShape shape = numberShape(text);
-        const auto number = shape.isNumber ? parseNumber(text, shape.usesComma ? DecimalMark::Comma
-                                                                               : DecimalMark::Point)
-                                           : std::nullopt;
+        std::optional<double> number = parseEitherNumber(text);
+        if (!number)
+            number = parseGroupedNumber(text);
         if (number)
             value = *number;
         else

@@ -30,10 +30,9 @@ bool isLetter(char c)
 
 std::optional<double> number(std::string_view text)
 {
-    const NumberShape shape = numberShape(text);
-    if (text.empty() || text.find_first_not_of("0123456789.,") != std::string_view::npos)
-        return std::nullopt;
-    return parseNumber(text, shape.usesComma ? DecimalMark::Comma : DecimalMark::Point);
+    return text.find_first_not_of("0123456789.,") == std::string_view::npos
+               ? parseEitherNumber(text)
+               : std::nullopt;
 }
 
 Angle fault(TableTextId why)

@@ -1,6 +1,7 @@
 #include "plugins/tables/values/Quantity.h"
 
 #include "plugins/tables/cells/Cell.h"
+#include "plugins/tables/cells/GroupedNumber.h"
 #include "plugins/tables/cells/Numbers.h"
 #include "plugins/tables/table/HeaderWords.h"
 
@@ -61,60 +62,34 @@ struct LeadingNumber
 {
     double number = 0;
     std::string_view rest;
+    bool mayBeList = false; ///< see GroupedNumber
 };
-
-/// Size of a number with grouped thousands at the start of a text, such as 11,485.5; 0 without one.
-/// Only a point after the groups shows that the commas are not decimal marks.
-std::size_t groupedSize(std::string_view text)
-{
-    const auto digitsAt = [text](std::size_t at) {
-        std::size_t count = 0;
-        while (at + count < text.size() && isDigit(text[at + count]))
-            ++count;
-        return count;
-    };
-    std::size_t at = digitsAt(0);
-    if (at == 0 || at > 3)
-        return 0;
-    std::size_t groups = 0;
-    for (; at < text.size() && text[at] == ',' && digitsAt(at + 1) == 3; at += 4)
-        ++groups;
-    const bool fraction = at < text.size() && text[at] == '.' && digitsAt(at + 1) > 0;
-    return groups > 0 && fraction ? at + 1 + digitsAt(at + 1) : 0;
-}
 
 std::optional<LeadingNumber> leadingNumber(std::string_view text)
 {
-    std::size_t begin = !text.empty() && (text[0] == '-' || text[0] == '+') ? 1 : 0;
-    const bool negative = text.starts_with('-');
-    std::string_view digits = text.substr(begin);
-    std::string plain;
-    std::size_t size = groupedSize(digits);
-    if (size > 0) {
-        plain = digits.substr(0, size);
-        plain.erase(std::remove(plain.begin(), plain.end(), ','), plain.end());
-    } else {
-        const std::size_t end = digits.find_first_not_of("0123456789.,eE+-");
-        size = end == std::string_view::npos ? digits.size() : end;
-        // 1.15e10 is one number; in "6123.1, 6200.2" or "18-23" the first one counts.
-        if (!numberShape(digits.substr(0, size)).isNumber) {
-            size = 0;
-            bool mark = false;
-            while (size < digits.size() &&
-                   (isDigit(digits[size]) ||
-                    (!mark && (digits[size] == '.' || digits[size] == ',') &&
-                     size + 1 < digits.size() && isDigit(digits[size + 1])))) {
-                mark = mark || !isDigit(digits[size]);
-                ++size;
-            }
+    if (const auto grouped = leadingGroupedNumber(text))
+        return LeadingNumber{grouped->number, trimmed(text.substr(grouped->size)),
+                             grouped->mayBeList};
+    const std::size_t sign = text.starts_with('-') || text.starts_with('+') ? 1 : 0;
+    std::size_t size = std::min(text.find_first_not_of("0123456789.,eE+-", sign), text.size());
+    // 1.15e10 is one number; in "6123.1, 6200.2" or "18-23" the first one counts.
+    if (!numberShape(text.substr(0, size)).isNumber) {
+        const auto digitFollows = [text](std::size_t at) {
+            return at + 1 < text.size() && isDigit(text[at + 1]);
+        };
+        size = sign;
+        bool mark = false;
+        while (size < text.size() &&
+               (isDigit(text[size]) ||
+                (!mark && (text[size] == '.' || text[size] == ',') && digitFollows(size)))) {
+            mark = mark || !isDigit(text[size]);
+            ++size;
         }
-        plain = digits.substr(0, size);
-        std::replace(plain.begin(), plain.end(), ',', '.');
     }
-    const std::optional<double> number = parseNumber(plain);
+    const auto number = parseEitherNumber(text.substr(0, size));
     if (!number)
         return std::nullopt;
-    return LeadingNumber{negative ? -*number : *number, trimmed(digits.substr(size))};
+    return LeadingNumber{*number, trimmed(text.substr(size)), false};
 }
 
 } // namespace
@@ -166,8 +141,9 @@ std::optional<double> readFrequencyMHz(std::string_view text, std::optional<doub
     const auto leading = leadingNumber(trimmed(text.substr(begin)));
     if (!leading)
         return std::nullopt;
-    // "11 485" is a grouped number, and its first part alone would be wrong
-    if (!leading->rest.empty() && (isDigit(leading->rest[0]) || (leading->rest[0] & 0x80) != 0))
+    // "11 485" may be one frequency or two
+    if (leading->mayBeList ||
+        (!leading->rest.empty() && (isDigit(leading->rest[0]) || (leading->rest[0] & 0x80) != 0)))
         return std::nullopt;
     const auto own = unitInName(leading->rest, megahertzPer);
     const auto unit = own ? own : unitMHz;
