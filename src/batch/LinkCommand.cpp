@@ -33,11 +33,10 @@ CommandSyntax syntax()
     syntax.name = QStringLiteral("link");
     syntax.usage = QStringLiteral("TABLE [-o OUT.lay] [--report]");
     syntax.summary =
-        dico_label("MESS_HELP_LINK_SUMMARY", "make a layer of links, tell which of them are free");
-    syntax.description =
-        dico_label("MESS_HELP_LINK", "Makes a layer of a table of microwave links, the same that "
-                                     "the wizard makes, and tells which of the links have a free "
-                                     "path over the terrain.");
+        dico_label("MESS_HELP_LINK_SUMMARY", "make a layer of links, check their clearance");
+    syntax.description = dico_label(
+        "MESS_HELP_LINK", "Makes the same layer from a table of microwave links as the wizard, and "
+                          "checks the clearance of each link over the terrain.");
     syntax.inputs = {1, 1, QStringLiteral("TABLE"),
                      dico_label("MESS_HELP_LINK_TABLE", "Link table (.xls .xlsx .xml .csv)."),
                      dico_label("MESS_USE_NO_TABLE", "no table given")};
@@ -49,8 +48,8 @@ CommandSyntax syntax()
                         "Terrain file under the links (default: the project's; empty: none)."),
              QStringLiteral("FILE")},
             {QStringLiteral("report"),
-             dico_label("MESS_OPT_REPORT", "Print length, frequency, verdict and worst point of "
-                                           "every link. The layer may be left out then.")},
+             dico_label("MESS_OPT_REPORT", "Print length, frequency, clearance and worst point of "
+                                           "each link. The layer file is then optional.")},
         };
     syntax.examples =
         QStringLiteral("  vltlayers link links.xlsx -o links.lay\n"
@@ -98,8 +97,8 @@ Result<geodata::LinkCheck> readLinks(const links::LinkLayerInput &input, const L
 void warnOfTerrain(const geodata::LinkCheck &check, const QString &terrain)
 {
     if (terrain.isEmpty())
-        printError(dico_label("MESS_CLI_NO_TERRAIN",
-                              "no terrain is known, so that no link is judged: give --terrain"));
+        printError(dico_label("MESS_CLI_NO_TERRAIN", "no terrain is known, so the clearance of the "
+                                                     "links cannot be computed: give --terrain"));
     else if (!check.terrainProblem.isEmpty())
         printError(oneLine(terrain + QStringLiteral(": ") +
                            links::terrainProblemText(check.terrainProblem)));
@@ -130,8 +129,8 @@ ExitStatus makeLayer(const links::LinkLayerInput &input, const LayerRequest &req
     if (outcome.placed == 0) {
         warnOfSystems(outcome);
         return refuse({QStringLiteral("MESS_CLI_NO_LINK_PLACED"),
-                       QStringLiteral("none of its links can be placed; \"vltlayers info --link\" "
-                                      "tells why"),
+                       QStringLiteral(
+                           "none of its links has a position; \"vltlayers info --link\" shows why"),
                        request.table});
     }
     if (!request.output.isEmpty()) {

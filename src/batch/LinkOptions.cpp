@@ -25,16 +25,16 @@ const std::vector<NumberOption<LinkRepresentation>> &numberOptions()
          {query::NoFresnelZone, query::FresnelZoneNumber.maximum}},
         {QStringLiteral("fresnel-share"),
          dico_label("MESS_OPT_FRESNEL_SHARE",
-                    "Share of the zone's radius that is drawn, and of the first zone's that has to "
-                    "be free, in per cent"),
+                    "Share of the zone's radius that is drawn, and share of the first zone's "
+                    "radius that must be free, in per cent"),
          &LinkRepresentation::fresnelSharePercent, query::FresnelSharePercent},
         {QStringLiteral("fresnel-transparency"),
          dico_label("MESS_OPT_FRESNEL_TRANSPARENCY",
                     "Transparency of the Fresnel zone in per cent"),
          &LinkRepresentation::fresnelTransparencyPercent, query::FresnelTransparencyPercent},
         {QStringLiteral("k-factor"),
-         dico_label("MESS_OPT_K_FACTOR",
-                    "Factor of the earth's radius, 1.33333 being that of a usual atmosphere"),
+         dico_label("MESS_OPT_K_FACTOR", "Effective radius of the earth divided by its real "
+                                         "radius, 1.33333 for a standard atmosphere"),
          &LinkRepresentation::kFactor, query::KFactorNumber},
     };
     return options;
@@ -92,7 +92,7 @@ QList<QCommandLineOption> linkOptions()
                 QStringLiteral("RRGGBB[AA]|NAME")},
                {QStringLiteral("color-by-clearance"),
                 dico_label("MESS_OPT_COLOR_BY_CLEARANCE",
-                           "Judged links take the color of their verdict.")},
+                           "Color each link by its clearance, if it can be computed.")},
                {QStringLiteral("fresnel-color"),
                 dico_label("MESS_OPT_FRESNEL_COLOR", "Color of the Fresnel zone (default %1).")
                     .arg(firstRun.fresnelColor.name().mid(1)),

@@ -44,8 +44,8 @@ QJsonValue lackKey(linkpath::Lack lack)
     switch (lack) {
     case linkpath::Lack::Nothing:
         break;
-    case linkpath::Lack::Place:
-        return QStringLiteral("place");
+    case linkpath::Lack::Position:
+        return QStringLiteral("position");
     case linkpath::Lack::Terrain:
         return QStringLiteral("terrain");
     case linkpath::Lack::HeightA:
@@ -85,7 +85,7 @@ QStringList tableHead()
             dico_label("MESS_CLI_LINK", "link"),
             dico_label("MESS_CLI_END_A", "end A"),
             dico_label("MESS_CLI_END_B", "end B"),
-            dico_label("MESS_CLI_VERDICT", "verdict"),
+            dico_label("MESS_CLI_VERDICT", "clearance"),
             QStringLiteral("km"),
             QStringLiteral("MHz"),
             dico_label("MESS_CLI_WORST_KM", "worst at km"),
@@ -138,7 +138,7 @@ QJsonObject linkJson(const geodata::LinkReport &link)
             {QStringLiteral("placed"), link.isPlaced},
             {QStringLiteral("lengthM"), orNull(link.lengthM)},
             {QStringLiteral("frequencyMHz"), orNull(link.frequencyMHz)},
-            {QStringLiteral("verdict"), clearanceKey(link.clearance.status)},
+            {QStringLiteral("clearanceStatus"), clearanceKey(link.clearance.status)},
             {QStringLiteral("why"), lackKey(link.clearance.lack)},
             {QStringLiteral("worst"), worstJson(link.clearance.worst)}};
 }
@@ -165,7 +165,7 @@ QJsonObject linkReportJson(const geodata::LinkCheck &check)
     QJsonObject counts;
     for (const ClearanceStatus status : Statuses)
         counts.insert(clearanceKey(status), countOf(check, status));
-    return {{QStringLiteral("links"), list}, {QStringLiteral("verdicts"), counts}};
+    return {{QStringLiteral("links"), list}, {QStringLiteral("statusCounts"), counts}};
 }
 
 } // namespace vlt::batch

@@ -10,7 +10,7 @@ namespace vlt::batch {
 /// class of clearance.
 QString linkReportText(const geodata::LinkCheck &check);
 
-/// The same in JSON, as "links" and "verdicts".
+/// The same in JSON, as "links" and "statusCounts".
 QJsonObject linkReportJson(const geodata::LinkCheck &check);
 
 } // namespace vlt::batch

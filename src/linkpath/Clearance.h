@@ -20,7 +20,7 @@ enum class ClearanceStatus {
 /// The reason why the clearance of a link is unknown.
 enum class Lack {
     Nothing,       ///< the clearance is known
-    Place,         ///< the position of an end is missing
+    Position,      ///< the position of an end is missing
     Terrain,       ///< the terrain is missing
     HeightA,       ///< the antenna height at end A is missing, or both are
     HeightB,       ///< the antenna height at end B is missing
@@ -65,7 +65,7 @@ struct WorstPoint
 struct Clearance
 {
     ClearanceStatus status = ClearanceStatus::Unknown;
-    Lack lack = Lack::Place;         ///< the reason for ClearanceStatus::Unknown, else Nothing
+    Lack lack = Lack::Position;      ///< the reason for ClearanceStatus::Unknown, else Nothing
     std::optional<WorstPoint> worst; ///< within the part of the path whose terrain is known
 };
 

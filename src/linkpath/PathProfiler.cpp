@@ -200,7 +200,7 @@ Clearance PathProfiler::check(const LinkEnd &a, const LinkEnd &b, double frequen
         return unchecked(Lack::Frequency);
     const std::optional<Arc> arc = m_parts->arc(a, b);
     if (!arc)
-        return unchecked(Lack::Place);
+        return unchecked(Lack::Position);
     const std::optional<double> groundA = groundM(a.x, a.y);
     const std::optional<double> groundB = groundM(b.x, b.y);
     if (!groundA || !groundB)

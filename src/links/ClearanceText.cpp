@@ -18,7 +18,7 @@ QString clearanceText(linkpath::ClearanceStatus status)
     case linkpath::ClearanceStatus::Unknown:
         break;
     }
-    return dico_label("MESS_UNJUDGED", "not judged");
+    return dico_label("MESS_UNJUDGED", "unknown");
 }
 
 QString lackText(linkpath::Lack lack)
@@ -26,8 +26,8 @@ QString lackText(linkpath::Lack lack)
     switch (lack) {
     case linkpath::Lack::Nothing:
         break;
-    case linkpath::Lack::Place:
-        return dico_label("MESS_LACK_PLACE", "an end has no place");
+    case linkpath::Lack::Position:
+        return dico_label("MESS_LACK_PLACE", "an end has no position");
     case linkpath::Lack::Terrain:
         return dico_label("MESS_LACK_TERRAIN", "no terrain");
     case linkpath::Lack::HeightA:
@@ -39,7 +39,7 @@ QString lackText(linkpath::Lack lack)
     case linkpath::Lack::TerrainOfPath:
         return dico_label("MESS_LACK_PATH", "the terrain does not cover the whole path");
     case linkpath::Lack::Length:
-        return dico_label("MESS_LACK_LENGTH", "both ends stand in one place");
+        return dico_label("MESS_LACK_LENGTH", "both ends have the same position");
     }
     return {};
 }

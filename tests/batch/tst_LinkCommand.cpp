@@ -52,7 +52,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<int>("ridge");
         QTest::addColumn<QString>("options");
-        QTest::addColumn<QString>("verdict");
+        QTest::addColumn<QString>("clearanceStatus");
         QTest::addColumn<double>("clearance");
 
         // In the middle the bulge of the earth is 0.454 m (2778.5 m squared over 2 * 4/3 * 6371
@@ -84,17 +84,17 @@ private Q_SLOTS:
         QCOMPARE(north.value(u"endB"_s).toString(), u"Beta"_s);
         QCOMPARE_LE(std::abs(north.value(u"lengthM"_s).toDouble() - 5557), 1.0);
         QCOMPARE(north.value(u"frequencyMHz"_s).toDouble(), 6000.0);
-        QTEST(north.value(u"verdict"_s).toString(), "verdict");
+        QTEST(north.value(u"clearanceStatus"_s).toString(), "clearanceStatus");
         const QJsonObject worst = north.value(u"worst"_s).toObject();
         QCOMPARE_LE(std::abs(worst.value(u"distanceM"_s).toDouble() - 2778), 560.0);
         if (!qIsNaN(clearance)) {
             QCOMPARE_LE(std::abs(worst.value(u"clearanceM"_s).toDouble() - clearance), 0.02);
             QCOMPARE_LE(std::abs(worst.value(u"freeShare"_s).toDouble() - clearance / 8.33), 0.005);
         }
-        QCOMPARE(links.at(1).toObject().value(u"verdict"_s).toString(), u"unknown"_s);
+        QCOMPARE(links.at(1).toObject().value(u"clearanceStatus"_s).toString(), u"unknown"_s);
         QCOMPARE(links.at(1).toObject().value(u"why"_s).toString(), u"heightA"_s);
         QCOMPARE(links.at(2).toObject().value(u"placed"_s).toBool(true), false);
-        QCOMPARE(reported.value(u"verdicts"_s).toObject().value(u"unknown"_s).toInt(), 2);
+        QCOMPARE(reported.value(u"statusCounts"_s).toObject().value(u"unknown"_s).toInt(), 2);
     }
 
     void printsAReportForPeopleBesideTheLayer()
@@ -107,7 +107,7 @@ private Q_SLOTS:
                  QByteArray("2 North Alpha Beta marginal 5.557 6000 2.778 1.5 19"));
         QVERIFY(lines.at(2).endsWith(" -  no antenna height at end A"));
         QCOMPARE(lines.at(3).simplified(),
-                 QByteArray("4 Lost Alpha Delta not placed - 6000 - - - an end has no place"));
+                 QByteArray("4 Lost Alpha Delta not placed - 6000 - - - an end has no position"));
         QVERIFY(lines.contains("marginal        : 1"));
         const QByteArray layer = readFile(path(u"elsewhere/o.lay"_s));
         QVERIFY(layer.contains("<veltaroLayer kind=\"links\" version=\"1\">"));
@@ -191,7 +191,7 @@ private Q_SLOTS:
         const auto row = addRefusal;
         row("link ../no.csv -o old.lay", 1, "../no.csv: This file can't be open as a link file (");
         row("info --link ../empty.csv", 1, "../empty.csv: This link file is empty");
-        row("link ../lost.csv -o old.lay", 1, "../lost.csv: none of its links can be placed");
+        row("link ../lost.csv -o old.lay", 1, "../lost.csv: none of its links has a position");
         row("link ../l.csv -o old.lay --terrain ../l.csv", 1,
             "../l.csv: the terrain file cannot be read as a georeferenced raster (its format is "
             "not a known raster format)");

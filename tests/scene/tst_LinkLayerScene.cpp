@@ -268,7 +268,7 @@ private Q_SLOTS:
         QTest::newRow("style") << Bytes("=TUBE") << Bytes("=ROPE") << Bytes("link_style");
         QTest::newRow("no width") << Bytes("link_width=4,") << Bytes() << Bytes("link_width");
         QTest::newRow("colour") << Bytes("1f6feb80") << Bytes("1f6feb") << Bytes("link_color");
-        QTest::newRow("word") << Bytes(" clearance") << Bytes(" verdict") << Bytes("\"verdict\"");
+        QTest::newRow("word") << Bytes(" clearance") << Bytes(" tilt") << Bytes("\"tilt\"");
         QTest::newRow("zone") << Bytes("zone=1") << Bytes("zone=1.5") << Bytes("fresnel_zone");
         QTest::newRow("share") << Bytes("share=60") << Bytes("share=nan") << Bytes("fresnel_share");
         QTest::newRow("zone's colour")

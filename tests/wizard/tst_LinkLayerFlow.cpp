@@ -200,8 +200,9 @@ private Q_SLOTS:
         dropFiles(flow.page, {Links});
 
         QTRY_COMPARE_WITH_TIMEOUT(
-            flow.remark(), u"The links are not judged: the project has no terrain"_s, PatienceMs);
-        QCOMPARE(flow.table()->model()->index(0, Column::ClearanceStatus).data(), u"not judged"_s);
+            flow.remark(), u"The clearance of the links is not known: the project has no terrain"_s,
+            PatienceMs);
+        QCOMPARE(flow.table()->model()->index(0, Column::ClearanceStatus).data(), u"unknown"_s);
     }
 
     void showsTheDemonstrationOrTheLinksOfTheLayer()

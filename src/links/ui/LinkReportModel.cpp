@@ -142,8 +142,8 @@ QVariant LinkReportModel::toolTip(const geodata::LinkReport &link, int column) c
     const bool isUnchecked = link.clearance.status == linkpath::ClearanceStatus::Unknown;
     if (isUnchecked && (column == ClearanceStatus || column == Worst))
         tip = lackText(link.clearance.lack) + QLatin1Char('\n') +
-              tr("A link is judged by the places and the antenna heights of both ends, a frequency "
-                 "and the terrain under the whole path",
+              tr("The clearance of a link needs the positions and antenna heights of both ends, a "
+                 "frequency and the terrain under the whole path",
                  "MESS_TIP_UNJUDGED");
     return vlt::text::asRichText(tip);
 }
@@ -177,7 +177,7 @@ QVariant LinkReportModel::headerData(int section, Qt::Orientation orientation, i
     case Frequency:
         return isWhole ? tr("Frequency (MHz)", "MESS_FREQUENCY_MHZ") : QStringLiteral("MHz");
     case ClearanceStatus:
-        return tr("Verdict", "MESS_VERDICT");
+        return tr("Clearance", "MESS_VERDICT");
     default:
         return tr("Worst point", "MESS_WORST_POINT");
     }

@@ -80,7 +80,8 @@ void VltLinkDetails::showClearance(const LinkCheck &check, bool hasTerrain)
         const QString reason =
             hasTerrain ? vlt::links::terrainProblemText(check.terrainProblem)
                        : tr("the project has no terrain", "MESS_PROJECT_WITHOUT_TERRAIN");
-        showRemark(tr("The links are not judged: %1", "MESS_LINKS_NOT_JUDGED").arg(reason));
+        showRemark(
+            tr("The clearance of the links is not known: %1", "MESS_LINKS_NOT_JUDGED").arg(reason));
         return;
     }
     std::array<int, 4> counts = {};
@@ -94,7 +95,7 @@ void VltLinkDetails::showClearance(const LinkCheck &check, bool hasTerrain)
                        .arg(count(ClearanceStatus::Marginal))
                        .arg(count(ClearanceStatus::Obstructed));
     if (count(ClearanceStatus::Unknown) > 0)
-        text += tr(", %1 not judged", "MESS_UNJUDGED_COUNT").arg(count(ClearanceStatus::Unknown));
+        text += tr(", %1 unknown", "MESS_UNJUDGED_COUNT").arg(count(ClearanceStatus::Unknown));
     showRemark(text);
 }
 

@@ -388,12 +388,12 @@
         <translation>the name of an encoding</translation>
     </message>
     <message id="MESS_HELP_LINK_SUMMARY">
-        <source>make a layer of links, tell which of them are free</source>
-        <translation>make a layer of links, tell which of them are free</translation>
+        <source>make a layer of links, check their clearance</source>
+        <translation>make a layer of links, check their clearance</translation>
     </message>
     <message id="MESS_HELP_LINK">
-        <source>Makes a layer of a table of microwave links, the same that the wizard makes, and tells which of the links have a free path over the terrain.</source>
-        <translation>Makes a layer of a table of microwave links, the same that the wizard makes, and tells which of the links have a free path over the terrain.</translation>
+        <source>Makes the same layer from a table of microwave links as the wizard, and checks the clearance of each link over the terrain.</source>
+        <translation>Makes the same layer from a table of microwave links as the wizard, and checks the clearance of each link over the terrain.</translation>
     </message>
     <message id="MESS_HELP_LINK_TABLE">
         <source>Link table (.xls .xlsx .xml .csv).</source>
@@ -404,8 +404,8 @@
         <translation>Terrain file under the links (default: the project's; empty: none).</translation>
     </message>
     <message id="MESS_OPT_REPORT">
-        <source>Print length, frequency, verdict and worst point of every link. The layer may be left out then.</source>
-        <translation>Print length, frequency, verdict and worst point of every link. The layer may be left out then.</translation>
+        <source>Print length, frequency, clearance and worst point of each link. The layer file is then optional.</source>
+        <translation>Print length, frequency, clearance and worst point of each link. The layer file is then optional.</translation>
     </message>
     <message id="MESS_USE_NO_OUTPUT_NOR_REPORT">
         <source>no output file given (-o OUT.lay), and no --report</source>
@@ -420,16 +420,16 @@
         <translation>Number of the Fresnel zone that is drawn, 0 for none</translation>
     </message>
     <message id="MESS_OPT_FRESNEL_SHARE">
-        <source>Share of the zone's radius that is drawn, and of the first zone's that has to be free, in per cent</source>
-        <translation>Share of the zone's radius that is drawn, and of the first zone's that has to be free, in per cent</translation>
+        <source>Share of the zone's radius that is drawn, and share of the first zone's radius that must be free, in per cent</source>
+        <translation>Share of the zone's radius that is drawn, and share of the first zone's radius that must be free, in per cent</translation>
     </message>
     <message id="MESS_OPT_FRESNEL_TRANSPARENCY">
         <source>Transparency of the Fresnel zone in per cent</source>
         <translation>Transparency of the Fresnel zone in per cent</translation>
     </message>
     <message id="MESS_OPT_K_FACTOR">
-        <source>Factor of the earth's radius, 1.33333 being that of a usual atmosphere</source>
-        <translation>Factor of the earth's radius, 1.33333 being that of a usual atmosphere</translation>
+        <source>Effective radius of the earth divided by its real radius, 1.33333 for a standard atmosphere</source>
+        <translation>Effective radius of the earth divided by its real radius, 1.33333 for a standard atmosphere</translation>
     </message>
     <message id="MESS_USE_COLOR_ALPHA">
         <source>RRGGBB, RRGGBBAA or a name such as red</source>
@@ -444,8 +444,8 @@
         <translation>Color of the links (default %1).</translation>
     </message>
     <message id="MESS_OPT_COLOR_BY_CLEARANCE">
-        <source>Judged links take the color of their verdict.</source>
-        <translation>Judged links take the color of their verdict.</translation>
+        <source>Color each link by its clearance, if it can be computed.</source>
+        <translation>Color each link by its clearance, if it can be computed.</translation>
     </message>
     <message id="MESS_OPT_FRESNEL_COLOR">
         <source>Color of the Fresnel zone (default %1).</source>

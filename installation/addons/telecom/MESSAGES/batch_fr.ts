@@ -388,12 +388,12 @@
         <translation>le nom d'un encodage</translation>
     </message>
     <message id="MESS_HELP_LINK_SUMMARY">
-        <source>make a layer of links, tell which of them are free</source>
-        <translation>créer une couche de liaisons, dire lesquelles sont dégagées</translation>
+        <source>make a layer of links, check their clearance</source>
+        <translation>créer une couche de liaisons, vérifier leur dégagement</translation>
     </message>
     <message id="MESS_HELP_LINK">
-        <source>Makes a layer of a table of microwave links, the same that the wizard makes, and tells which of the links have a free path over the terrain.</source>
-        <translation>Crée une couche à partir d'un tableau de liaisons hertziennes, la même que celle de l'assistant, et indique lesquelles ont un trajet dégagé au-dessus du terrain.</translation>
+        <source>Makes the same layer from a table of microwave links as the wizard, and checks the clearance of each link over the terrain.</source>
+        <translation>Crée la même couche que l'assistant à partir d'un tableau de liaisons hertziennes, et vérifie le dégagement de chaque liaison au-dessus du terrain.</translation>
     </message>
     <message id="MESS_HELP_LINK_TABLE">
         <source>Link table (.xls .xlsx .xml .csv).</source>
@@ -404,8 +404,8 @@
         <translation>Fichier du terrain sous les liaisons (par défaut&#xa0;: celui du projet&#xa0;; vide&#xa0;: aucun).</translation>
     </message>
     <message id="MESS_OPT_REPORT">
-        <source>Print length, frequency, verdict and worst point of every link. The layer may be left out then.</source>
-        <translation>Afficher la longueur, la fréquence, le verdict et le pire point de chaque liaison. La couche peut alors être omise.</translation>
+        <source>Print length, frequency, clearance and worst point of each link. The layer file is then optional.</source>
+        <translation>Afficher la longueur, la fréquence, le dégagement et le point le plus défavorable de chaque liaison. Le fichier de couche est alors facultatif.</translation>
     </message>
     <message id="MESS_USE_NO_OUTPUT_NOR_REPORT">
         <source>no output file given (-o OUT.lay), and no --report</source>
@@ -420,16 +420,16 @@
         <translation>Numéro de la zone de Fresnel qui est tracée, 0 pour aucune</translation>
     </message>
     <message id="MESS_OPT_FRESNEL_SHARE">
-        <source>Share of the zone's radius that is drawn, and of the first zone's that has to be free, in per cent</source>
-        <translation>Part du rayon de la zone qui est tracée, et de celui de la première zone qui doit être libre, en pour cent</translation>
+        <source>Share of the zone's radius that is drawn, and share of the first zone's radius that must be free, in per cent</source>
+        <translation>Part du rayon de la zone qui est tracée, et part du rayon de la première zone qui doit être libre, en pour cent</translation>
     </message>
     <message id="MESS_OPT_FRESNEL_TRANSPARENCY">
         <source>Transparency of the Fresnel zone in per cent</source>
         <translation>Transparence de la zone de Fresnel en pour cent</translation>
     </message>
     <message id="MESS_OPT_K_FACTOR">
-        <source>Factor of the earth's radius, 1.33333 being that of a usual atmosphere</source>
-        <translation>Facteur du rayon terrestre, 1.33333 étant celui d'une atmosphère habituelle</translation>
+        <source>Effective radius of the earth divided by its real radius, 1.33333 for a standard atmosphere</source>
+        <translation>Rayon effectif de la Terre divisé par son rayon réel, 1.33333 pour une atmosphère standard</translation>
     </message>
     <message id="MESS_USE_COLOR_ALPHA">
         <source>RRGGBB, RRGGBBAA or a name such as red</source>
@@ -444,8 +444,8 @@
         <translation>Couleur des liaisons (par défaut %1).</translation>
     </message>
     <message id="MESS_OPT_COLOR_BY_CLEARANCE">
-        <source>Judged links take the color of their verdict.</source>
-        <translation>Les liaisons jugées prennent la couleur de leur verdict.</translation>
+        <source>Color each link by its clearance, if it can be computed.</source>
+        <translation>Colorer chaque liaison selon son dégagement, s'il peut être calculé.</translation>
     </message>
     <message id="MESS_OPT_FRESNEL_COLOR">
         <source>Color of the Fresnel zone (default %1).</source>

@@ -93,7 +93,7 @@ to add the link layer
     </message>
     <message id="MESS_STYLE_LINE">
         <source>Line</source>
-        <extracomment>As wide from everywhere, in pixels.</extracomment>
+        <extracomment>Same width in pixels at every distance.</extracomment>
         <translation>Line</translation>
     </message>
     <message id="MESS_STYLE_TUBE">
@@ -123,8 +123,8 @@ to add the link layer
         <translation>&amp;Color</translation>
     </message>
     <message id="MESS_TIP_LINK_COLOR">
-        <source>Color of the line, also of links that cannot be judged</source>
-        <translation>Color of the line, also of links that cannot be judged</translation>
+        <source>Color of the line, also of links with an unknown clearance</source>
+        <translation>Color of the line, also of links with an unknown clearance</translation>
     </message>
     <message id="MESS_PURPOSE_LINK_COLOR">
         <source>Color of the links</source>
@@ -135,8 +135,8 @@ to add the link layer
         <translation>&amp;Fresnel zone</translation>
     </message>
     <message id="MESS_TIP_FRESNEL_ZONE">
-        <source>Draw an ellipsoid about the line of sight</source>
-        <translation>Draw an ellipsoid about the line of sight</translation>
+        <source>Draw an ellipsoid around the line of sight</source>
+        <translation>Draw an ellipsoid around the line of sight</translation>
     </message>
     <message id="MESS_ZONE_NUMBER">
         <source>&amp;Number of the zone</source>
@@ -183,16 +183,16 @@ to add the link layer
         <translation>&amp;k factor</translation>
     </message>
     <message id="MESS_TIP_K_FACTOR">
-        <source>Effective radius of the earth over its real one: how far refraction bends the ray. 4/3 is usual, smaller values are more careful</source>
-        <translation>Effective radius of the earth over its real one: how far refraction bends the ray. 4/3 is usual, smaller values are more careful</translation>
+        <source>Effective radius of the earth divided by its real radius: the effect of refraction on the ray. 4/3 is the value of a standard atmosphere, smaller values are more cautious</source>
+        <translation>Effective radius of the earth divided by its real radius: the effect of refraction on the ray. 4/3 is the value of a standard atmosphere, smaller values are more cautious</translation>
     </message>
     <message id="MESS_COLOR_BY_CLEARANCE">
         <source>Color the lines by clear&amp;ance</source>
         <translation>Color the lines by clear&amp;ance</translation>
     </message>
     <message id="MESS_TIP_COLOR_BY_CLEARANCE">
-        <source>Clear, marginal and obstructed links take a color each; the target project needs a terrain for that</source>
-        <translation>Clear, marginal and obstructed links take a color each; the target project needs a terrain for that</translation>
+        <source>Clear, marginal and obstructed links each have their own color; the target project must have a terrain</source>
+        <translation>Clear, marginal and obstructed links each have their own color; the target project must have a terrain</translation>
     </message>
 </context>
 <context>
@@ -218,8 +218,8 @@ to add the link layer
         <translation>Frequency (MHz)</translation>
     </message>
     <message id="MESS_VERDICT">
-        <source>Verdict</source>
-        <translation>Verdict</translation>
+        <source>Clearance</source>
+        <translation>Clearance</translation>
     </message>
     <message id="MESS_WORST_POINT">
         <source>Worst point</source>
@@ -227,7 +227,7 @@ to add the link layer
     </message>
     <message id="MESS_WORST_FREE">
         <source>%1 km from A, %2 m free (%3 %)</source>
-        <extracomment>Place, free height, share of the zone.</extracomment>
+        <extracomment>Distance, free height, share of the zone.</extracomment>
         <translation>%1 km from A, %2 m free (%3 %)</translation>
     </message>
     <message id="MESS_WORST_CUT">
@@ -235,21 +235,21 @@ to add the link layer
         <translation>%1 km from A, terrain %2 m above the line</translation>
     </message>
     <message id="MESS_TIP_UNJUDGED">
-        <source>A link is judged by the places and the antenna heights of both ends, a frequency and the terrain under the whole path</source>
-        <translation>A link is judged by the places and the antenna heights of both ends, a frequency and the terrain under the whole path</translation>
+        <source>The clearance of a link needs the positions and antenna heights of both ends, a frequency and the terrain under the whole path</source>
+        <translation>The clearance of a link needs the positions and antenna heights of both ends, a frequency and the terrain under the whole path</translation>
     </message>
     <message id="MESS_VERDICT_COUNTS">
         <source>%1 clear, %2 marginal, %3 obstructed</source>
         <translation>%1 clear, %2 marginal, %3 obstructed</translation>
     </message>
     <message id="MESS_UNJUDGED_COUNT">
-        <source>, %1 not judged</source>
+        <source>, %1 unknown</source>
         <extracomment>Follows MESS_VERDICT_COUNTS.</extracomment>
-        <translation>, %1 not judged</translation>
+        <translation>, %1 unknown</translation>
     </message>
     <message id="MESS_LINKS_NOT_JUDGED">
-        <source>The links are not judged: %1</source>
-        <translation>The links are not judged: %1</translation>
+        <source>The clearance of the links is not known: %1</source>
+        <translation>The clearance of the links is not known: %1</translation>
     </message>
     <message id="MESS_PROJECT_WITHOUT_TERRAIN">
         <source>the project has no terrain</source>

@@ -93,7 +93,7 @@ pour ajouter la couche de liaisons
     </message>
     <message id="MESS_STYLE_LINE">
         <source>Line</source>
-        <extracomment>As wide from everywhere, in pixels.</extracomment>
+        <extracomment>Same width in pixels at every distance.</extracomment>
         <translation>Trait</translation>
     </message>
     <message id="MESS_STYLE_TUBE">
@@ -123,8 +123,8 @@ pour ajouter la couche de liaisons
         <translation>&amp;Couleur</translation>
     </message>
     <message id="MESS_TIP_LINK_COLOR">
-        <source>Color of the line, also of links that cannot be judged</source>
-        <translation>Couleur de la ligne, y compris pour les liaisons qui ne peuvent pas être jugées</translation>
+        <source>Color of the line, also of links with an unknown clearance</source>
+        <translation>Couleur de la ligne, y compris pour les liaisons dont le dégagement est inconnu</translation>
     </message>
     <message id="MESS_PURPOSE_LINK_COLOR">
         <source>Color of the links</source>
@@ -135,7 +135,7 @@ pour ajouter la couche de liaisons
         <translation>Zone de &amp;Fresnel</translation>
     </message>
     <message id="MESS_TIP_FRESNEL_ZONE">
-        <source>Draw an ellipsoid about the line of sight</source>
+        <source>Draw an ellipsoid around the line of sight</source>
         <translation>Dessiner un ellipsoïde autour de la ligne de visée</translation>
     </message>
     <message id="MESS_ZONE_NUMBER">
@@ -183,15 +183,15 @@ pour ajouter la couche de liaisons
         <translation>Facteur &amp;k</translation>
     </message>
     <message id="MESS_TIP_K_FACTOR">
-        <source>Effective radius of the earth over its real one: how far refraction bends the ray. 4/3 is usual, smaller values are more careful</source>
-        <translation>Rayon effectif de la Terre rapporté à son rayon réel&#xa0;: courbure du rayon par la réfraction. 4/3 est courant, une valeur plus faible est plus prudente</translation>
+        <source>Effective radius of the earth divided by its real radius: the effect of refraction on the ray. 4/3 is the value of a standard atmosphere, smaller values are more cautious</source>
+        <translation>Rayon effectif de la Terre divisé par son rayon réel : effet de la réfraction sur le faisceau. 4/3 correspond à une atmosphère standard, une valeur plus faible est plus prudente</translation>
     </message>
     <message id="MESS_COLOR_BY_CLEARANCE">
         <source>Color the lines by clear&amp;ance</source>
         <translation>Colorer les lignes selon le dég&amp;agement</translation>
     </message>
     <message id="MESS_TIP_COLOR_BY_CLEARANCE">
-        <source>Clear, marginal and obstructed links take a color each; the target project needs a terrain for that</source>
+        <source>Clear, marginal and obstructed links each have their own color; the target project must have a terrain</source>
         <translation>Les liaisons dégagées, limites et obstruées prennent chacune leur couleur&#xa0;; le projet cible doit comporter un terrain</translation>
     </message>
 </context>
@@ -218,8 +218,8 @@ pour ajouter la couche de liaisons
         <translation>Fréquence (MHz)</translation>
     </message>
     <message id="MESS_VERDICT">
-        <source>Verdict</source>
-        <translation>Verdict</translation>
+        <source>Clearance</source>
+        <translation>Dégagement</translation>
     </message>
     <message id="MESS_WORST_POINT">
         <source>Worst point</source>
@@ -227,7 +227,7 @@ pour ajouter la couche de liaisons
     </message>
     <message id="MESS_WORST_FREE">
         <source>%1 km from A, %2 m free (%3 %)</source>
-        <extracomment>Place, free height, share of the zone.</extracomment>
+        <extracomment>Distance, free height, share of the zone.</extracomment>
         <translation>à %1 km de A, %2 m dégagés (%3&#xa0;%)</translation>
     </message>
     <message id="MESS_WORST_CUT">
@@ -235,21 +235,21 @@ pour ajouter la couche de liaisons
         <translation>à %1 km de A, visée %2 m sous le terrain</translation>
     </message>
     <message id="MESS_TIP_UNJUDGED">
-        <source>A link is judged by the places and the antenna heights of both ends, a frequency and the terrain under the whole path</source>
-        <translation>Pour juger une liaison, il faut la position et la hauteur d'antenne des deux extrémités, une fréquence et le terrain sous tout le trajet</translation>
+        <source>The clearance of a link needs the positions and antenna heights of both ends, a frequency and the terrain under the whole path</source>
+        <translation>Le dégagement d'une liaison se calcule avec la position et la hauteur d'antenne des deux extrémités, une fréquence et le terrain sous tout le trajet</translation>
     </message>
     <message id="MESS_VERDICT_COUNTS">
         <source>%1 clear, %2 marginal, %3 obstructed</source>
         <translation>trajets dégagés&#xa0;: %1, limites&#xa0;: %2, obstrués&#xa0;: %3</translation>
     </message>
     <message id="MESS_UNJUDGED_COUNT">
-        <source>, %1 not judged</source>
+        <source>, %1 unknown</source>
         <extracomment>Follows MESS_VERDICT_COUNTS.</extracomment>
-        <translation>, non jugés&#xa0;: %1</translation>
+        <translation>, inconnus : %1</translation>
     </message>
     <message id="MESS_LINKS_NOT_JUDGED">
-        <source>The links are not judged: %1</source>
-        <translation>Les liaisons ne sont pas jugées&#xa0;: %1</translation>
+        <source>The clearance of the links is not known: %1</source>
+        <translation>Le dégagement des liaisons est inconnu : %1</translation>
     </message>
     <message id="MESS_PROJECT_WITHOUT_TERRAIN">
         <source>the project has no terrain</source>

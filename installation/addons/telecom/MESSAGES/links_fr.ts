@@ -21,26 +21,26 @@
     </message>
 </context>
 <context>
-    <name>Verdicts</name>
+    <name>Clearance</name>
     <message id="MESS_CLEAR">
         <source>clear</source>
-        <extracomment>Verdict: the path of a link over the terrain.</extracomment>
+        <extracomment>Class of clearance of a link over the terrain.</extracomment>
         <translation>dégagé</translation>
     </message>
     <message id="MESS_MARGINAL">
         <source>marginal</source>
-        <extracomment>Verdict: the path of a link over the terrain.</extracomment>
+        <extracomment>Class of clearance of a link over the terrain.</extracomment>
         <translation>limite</translation>
     </message>
     <message id="MESS_OBSTRUCTED">
         <source>obstructed</source>
-        <extracomment>Verdict: the path of a link over the terrain.</extracomment>
+        <extracomment>Class of clearance of a link over the terrain.</extracomment>
         <translation>obstrué</translation>
     </message>
     <message id="MESS_UNJUDGED">
-        <source>not judged</source>
-        <extracomment>Verdict: the path of a link over the terrain.</extracomment>
-        <translation>non jugé</translation>
+        <source>unknown</source>
+        <extracomment>Class of clearance of a link over the terrain.</extracomment>
+        <translation>inconnu</translation>
     </message>
     <message id="MESS_TERRAIN_UNREADABLE">
         <source>the terrain file cannot be read as a georeferenced raster</source>
@@ -143,57 +143,57 @@
         <translation>Unité de la longueur</translation>
     </message>
     <message id="MESS_CLI_NO_LINK_PLACED">
-        <source>none of its links can be placed; "vltlayers info --link" tells why</source>
+        <source>none of its links has a position; "vltlayers info --link" shows why</source>
         <extracomment>Follows the name of the table.</extracomment>
-        <translation>aucune de ses liaisons ne peut être placée&#xa0;; «&#xa0;vltlayers info --link&#xa0;» dit pourquoi</translation>
+        <translation>aucune de ses liaisons n'a de position ; « vltlayers info --link » indique pourquoi</translation>
     </message>
     <message id="MESS_CLI_NO_TERRAIN">
-        <source>no terrain is known, so that no link is judged: give --terrain</source>
+        <source>no terrain is known, so the clearance of the links cannot be computed: give --terrain</source>
         <extracomment>Keep the option.</extracomment>
-        <translation>aucun terrain n'est connu et aucune liaison n'est jugée&#xa0;: indiquez --terrain</translation>
+        <translation>aucun terrain n'est connu, le dégagement des liaisons ne peut pas être calculé : indiquez --terrain</translation>
     </message>
     <message id="MESS_CLI_LINK">
         <source>link</source>
-        <extracomment>Head of a column.</extracomment>
+        <extracomment>Column header.</extracomment>
         <translation>liaison</translation>
     </message>
     <message id="MESS_CLI_END_A">
         <source>end A</source>
-        <extracomment>Head of a column.</extracomment>
+        <extracomment>Column header.</extracomment>
         <translation>extrémité A</translation>
     </message>
     <message id="MESS_CLI_END_B">
         <source>end B</source>
-        <extracomment>Head of a column.</extracomment>
+        <extracomment>Column header.</extracomment>
         <translation>extrémité B</translation>
     </message>
     <message id="MESS_CLI_VERDICT">
-        <source>verdict</source>
-        <extracomment>Head of a column.</extracomment>
-        <translation>verdict</translation>
+        <source>clearance</source>
+        <extracomment>Column header.</extracomment>
+        <translation>dégagement</translation>
     </message>
     <message id="MESS_CLI_NOT_PLACED">
         <source>not placed</source>
-        <extracomment>In the place of a verdict.</extracomment>
+        <extracomment>In place of the clearance, of a link without positions.</extracomment>
         <translation>non placée</translation>
     </message>
     <message id="MESS_CLI_WORST_KM">
         <source>worst at km</source>
-        <extracomment>Head of a column: where the least of the Fresnel zone is free, from end A.</extracomment>
+        <extracomment>Column header: distance from end A to the point with the smallest free share of the Fresnel zone.</extracomment>
         <translation>pire au km</translation>
     </message>
     <message id="MESS_CLI_CLEARANCE_M">
         <source>clearance m</source>
-        <extracomment>Head of a column: height of the line of sight over the ground.</extracomment>
+        <extracomment>Column header: height of the line of sight over the ground.</extracomment>
         <translation>dégagement m</translation>
     </message>
     <message id="MESS_CLI_CLEARANCE_SHARE">
         <source>% of zone 1</source>
-        <extracomment>Head of a column: the same in shares of the first Fresnel zone.</extracomment>
+        <extracomment>Column header: the same as a share of the first Fresnel zone.</extracomment>
         <translation>% de la zone 1</translation>
     </message>
     <message id="MESS_LACK_PLACE">
-        <source>an end has no place</source>
+        <source>an end has no position</source>
         <translation>une extrémité n'a pas de position</translation>
     </message>
     <message id="MESS_LACK_TERRAIN">
@@ -217,8 +217,8 @@
         <translation>le terrain ne couvre pas tout le trajet</translation>
     </message>
     <message id="MESS_LACK_LENGTH">
-        <source>both ends stand in one place</source>
-        <translation>les deux extrémités sont au même endroit</translation>
+        <source>both ends have the same position</source>
+        <translation>les deux extrémités ont la même position</translation>
     </message>
 </context>
 </TS>
