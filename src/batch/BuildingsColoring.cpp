@@ -33,10 +33,11 @@ Result<colormaps::ColorMapEntry> chosenColorMap(const QString &wanted, const QSt
         return maps.at(index);
     if (!wanted.isEmpty() && QFileInfo(wanted).isFile())
         return colormaps::colorMapEntry(absolutePath(wanted));
-    return reported(dico_label("MESS_CLI_NO_SUCH_CMAP",
-                               "no color map has this name, nor any file; there are: %1")
-                        .arg(names.join(QStringLiteral(", "))),
-                    wanted);
+    return reported(
+        dico_label("MESS_CLI_NO_SUCH_CMAP",
+                   "there is no color map and no file with this name; the color maps are: %1")
+            .arg(names.join(QStringLiteral(", "))),
+        wanted);
 }
 
 /// The error for a raster with several bands or none, with the names of the images in its file.
@@ -51,7 +52,8 @@ Error notOneBand(const geodata::RasterSummary &raster, const QString &path)
         parts << part.name;
     if (!parts.isEmpty())
         text += QStringLiteral("; ") +
-                dico_label("MESS_CLI_SUBDATASETS", "it holds several images, each with a name: %1")
+                dico_label("MESS_CLI_SUBDATASETS",
+                           "it holds several images; give the name of one of them: %1")
                     .arg(parts.join(QStringLiteral(", ")));
     return reported(text, path);
 }

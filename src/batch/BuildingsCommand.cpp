@@ -26,11 +26,10 @@ CommandSyntax syntax()
     syntax.name = QStringLiteral("buildings");
     syntax.usage = QStringLiteral("[VECTOR] -o OUT.lay");
     syntax.summary = dico_label("MESS_HELP_BUILDINGS_SUMMARY", "make a layer of buildings");
-    syntax.description =
-        dico_label("MESS_HELP_BUILDINGS",
-                   "Makes a layer of 3D buildings, the same that the wizard makes: colored from a "
-                   "raster (--image), with images on roofs, walls or storeys (--texture, "
-                   "--textures), or plain.");
+    syntax.description = dico_label(
+        "MESS_HELP_BUILDINGS",
+        "Makes a layer of 3D buildings, like the wizard: colored from a raster (--image), with "
+        "images on roofs, walls or storeys (--texture, --textures), or plain.");
     syntax.inputs = {0, 1, QStringLiteral("VECTOR"),
                      dico_label("MESS_HELP_BUILDINGS_VECTOR",
                                 "Vector file with the outlines of the buildings (default: the "
@@ -64,8 +63,9 @@ void warnOfImages(const BuildingsInputs &inputs)
 {
     if (!inputs.look.textures) {
         if (inputs.coloring.rasterFile.isEmpty())
-            printError(dico_label("MESS_CLI_PLAIN", "no image lies on the buildings: neither "
-                                                    "--texture nor --textures is given"));
+            printError(dico_label(
+                "MESS_CLI_PLAIN",
+                "the buildings have no images: neither --texture nor --textures is given"));
         return;
     }
     const QList<buildings::FileEntry> &images = inputs.look.images;
@@ -74,7 +74,7 @@ void warnOfImages(const BuildingsInputs &inputs)
                       [](const buildings::FileEntry &image) { return image.height == 0; });
     if (count > 0)
         printError(
-            dico_label("MESS_CLI_NO_HEIGHTS", "images that state no height, 0 m is taken: %1")
+            dico_label("MESS_CLI_NO_HEIGHTS", "images without a stated height, 0 m is used: %1")
                 .arg(count));
 }
 

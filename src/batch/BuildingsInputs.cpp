@@ -33,7 +33,7 @@ Result<int> chosenLayer(const QList<geodata::PolygonLayer> &layers, const QStrin
     const qsizetype index = indexOfName(names, wanted);
     if (index < 0)
         return reported(dico_label("MESS_CLI_NO_SUCH_LAYER",
-                                   "no layer of polygons has the name \"%1\"; there are: %2")
+                                   "there is no layer of polygons \"%1\"; the layers are: %2")
                             .arg(wanted, names.join(QStringLiteral(", "))),
                         path);
     return static_cast<int>(index);
@@ -57,15 +57,16 @@ Result<QString> chosenField(const geodata::PolygonLayer &layer, const QString &w
         if (index >= 0)
             return names.at(index);
         return reported(dico_label("MESS_CLI_NO_SUCH_FIELD",
-                                   "no field of heights has the name \"%1\"; there are: %2")
+                                   "there is no field of heights \"%1\"; the fields are: %2")
                             .arg(wanted, names.join(QStringLiteral(", "))),
                         path);
     }
     const QString guess = names.value(buildings::guessedHeightField(offered));
     if (guess.isEmpty())
-        return reported(dico_label("MESS_CLI_NO_HEIGHT_FIELD",
-                                   "which field holds the heights? --height-field tells"),
-                        path);
+        return reported(
+            dico_label("MESS_CLI_NO_HEIGHT_FIELD",
+                       "no field with the heights was found: give its name with --height-field"),
+            path);
     return guess;
 }
 

@@ -18,14 +18,12 @@ QList<QCommandLineOption> coloredOptions()
 {
     return {
         {QStringLiteral("image"),
-         dico_label("MESS_OPT_IMAGE",
-                    "Raster of one band that the buildings are colored from: a file, or the "
-                    "name of one of its subdatasets."),
+         dico_label("MESS_OPT_IMAGE", "Raster of one band whose values color the buildings: a "
+                                      "file, or the name of an image in a file."),
          QStringLiteral("FILE")},
         {QStringLiteral("image-nodata"),
-         dico_label("MESS_OPT_IMAGE_NODATA",
-                    "Value of the image's pixels without a value, besides those that the file "
-                    "states (default none)."),
+         dico_label("MESS_OPT_IMAGE_NODATA", "Value of pixels without data, in addition to the "
+                                             "value that the file declares (default none)."),
          QStringLiteral("NUMBER")},
         {QStringLiteral("colormap"),
          dico_label("MESS_OPT_COLORMAP",
@@ -34,15 +32,15 @@ QList<QCommandLineOption> coloredOptions()
          QStringLiteral("NAME|PATH")},
         {QStringLiteral("absolute"),
          dico_label("MESS_OPT_ABSOLUTE",
-                    "Take the color map's own values (default: it is stretched over the "
-                    "image's least and greatest value).")},
+                    "Use the color map's own values (default: the map is stretched between the "
+                    "image's minimum and maximum value).")},
         {QStringLiteral("color-ranges"),
          dico_label("MESS_OPT_COLOR_RANGES",
-                    "Color ranges of values (default: colors between two values of the map "
-                    "are interpolated).")},
+                    "Use one color for each range of values (default: colors between two values of "
+                    "the map are interpolated).")},
         {QStringLiteral("mode"),
          dico_label("MESS_OPT_MODE",
-                    "Which of the values under a building colors it (default minimum)."),
+                    "Value under a building that determines its color (default minimum)."),
          reductionWords().join(QLatin1Char('|'))},
     };
 }
@@ -52,27 +50,27 @@ QList<QCommandLineOption> texturedOptions()
     return {
         {QStringLiteral("texture"),
          dico_label("MESS_OPT_TEXTURE",
-                    "Image for the height above the ground that is given, or that it or its "
-                    "name states. May be given several times."),
+                    "Image for a height in metres above the ground: the given height, else the "
+                    "height in the image's metadata or name. May be given several times."),
          QStringLiteral("FILE[=HEIGHT]")},
         {QStringLiteral("textures"),
-         dico_label("MESS_OPT_TEXTURES", "One image of a set; the others are found by it."),
+         dico_label("MESS_OPT_TEXTURES",
+                    "One image of a set; the others are those with the same suffix."),
          QStringLiteral("TEMPLATE")},
         {QStringLiteral("structure"),
          dico_label("MESS_OPT_STRUCTURE",
-                    "Where they are: in the template's folder (default), in the folders "
-                    "beside it, or in the folders of the folders beside its parent."),
+                    "Folders of the set: the image's folder (default), its sibling folders, or the "
+                    "folders in the sibling folders of its parent."),
          choiceOf(StructureWords)},
         {QStringLiteral("filter"),
-         dico_label("MESS_OPT_FILTER",
-                    "Of the set only images with this in their file name, folder, description "
-                    "or height."),
+         dico_label("MESS_OPT_FILTER", "Use only images of the set with this text in their file "
+                                       "name, folder, description or height."),
          QStringLiteral("TEXT")},
         {QStringLiteral("texture-on"),
-         dico_label("MESS_OPT_TEXTURE_ON",
-                    "Where the images go: roofs take the one nearest to their height, walls "
-                    "have a band for each, storeys are floors at the images' heights (default "
-                    "roofs)."),
+         dico_label(
+             "MESS_OPT_TEXTURE_ON",
+             "Position of the images: roofs show the image with the nearest height, walls have a "
+             "band for each image, storeys are floors at the images' heights (default roofs)."),
          choiceOf(contract::TextureModeWords)},
         {QStringLiteral("wall-color"),
          dico_label("MESS_OPT_WALL_COLOR",
@@ -90,25 +88,23 @@ QList<QCommandLineOption> texturedOptions()
          dico_label("MESS_OPT_EDGE_COLOR", "Color of edges (default %1).")
              .arg(QLatin1String(contract::FirstEdgeColor)),
          QStringLiteral("RRGGBB|NAME")},
-        {QStringLiteral("force-edges"),
-         dico_label("MESS_OPT_FORCE_EDGES", "Draw edges in any case.")},
+        {QStringLiteral("force-edges"), dico_label("MESS_OPT_FORCE_EDGES", "Always draw edges.")},
         {QStringLiteral("no-complex-buildings"),
          dico_label("MESS_OPT_NO_COMPLEX_BUILDINGS",
                     "No images on buildings with courtyards or many corners.")},
         {QStringLiteral("cache"),
-         dico_label("MESS_OPT_CACHE",
-                    "What the builder keeps of the finished buildings (default none)."),
+         dico_label("MESS_OPT_CACHE", "Finished buildings that the builder stores (default none)."),
          choiceOf(contract::CacheModeWords)},
         {QStringLiteral("delayed-write"),
          dico_label("MESS_OPT_DELAYED_WRITE",
-                    "Write to the cache only when --cache-capacity elements wait.")},
+                    "Write to the cache only when --cache-capacity elements are waiting.")},
         {QStringLiteral("compression"),
          dico_label("MESS_OPT_COMPRESSION",
                     "Compression of the images in graphics memory (default none)."),
          choiceOf(contract::TextureCompressionWords)},
         {QStringLiteral("magnify"),
          dico_label("MESS_OPT_MAGNIFY",
-                    "How pixels are drawn from near: as squares (default), or blended."),
+                    "Drawing of pixels at a short distance: as squares (default), or blended."),
          choiceOf(contract::MagFilterWords)},
     };
 }
@@ -122,11 +118,10 @@ const std::vector<NumberOption<BuildingsMeasures>> &buildingsNumbers()
          dico_label("MESS_OPT_DISTANCE", "Distance in metres up to which the buildings are shown"),
          &BuildingsMeasures::distanceM, contract::ExtrudedVisibilityM},
         {QStringLiteral("tile-size"),
-         dico_label("MESS_OPT_TILE_SIZE",
-                    "Side in metres of the tiles that the buildings are shared out to"),
+         dico_label("MESS_OPT_TILE_SIZE", "Side of the tiles of buildings in metres"),
          &BuildingsMeasures::tileSizeM, contract::TileSizeM},
         {QStringLiteral("skirt"),
-         dico_label("MESS_OPT_SKIRT", "Metres that walls go down below the ground"),
+         dico_label("MESS_OPT_SKIRT", "Depth of the walls below the ground in metres"),
          &BuildingsMeasures::skirtM, contract::SkirtHeightM},
         {QStringLiteral("textured-distance"),
          dico_label("MESS_OPT_TEXTURED_DISTANCE",
@@ -134,14 +129,16 @@ const std::vector<NumberOption<BuildingsMeasures>> &buildingsNumbers()
          &BuildingsMeasures::texturedDistanceM, contract::TexturedVisibilityM},
         {QStringLiteral("cache-capacity"),
          dico_label("MESS_OPT_CACHE_CAPACITY",
-                    "Elements that wait before they are written to the cache"),
+                    "Number of elements that wait before they are written to the cache"),
          &BuildingsMeasures::cacheCapacity, contract::CacheCapacity},
         {QStringLiteral("buffer"),
-         dico_label("MESS_OPT_BUFFER", "Metres outside a wall at which its colors are taken"),
+         dico_label(
+             "MESS_OPT_BUFFER",
+             "Distance in metres from a wall to the positions of its colors, outside the building"),
          &BuildingsMeasures::bufferM, contract::TextureBufferM, false},
         {QStringLiteral("dilatation"),
          dico_label("MESS_OPT_DILATATION",
-                    "Pixels by which the colors of an image grow into empty ones"),
+                    "Number of pixels by which the colors of an image grow into empty pixels"),
          &BuildingsMeasures::dilatationPixels, contract::TextureDilatationPixels, false},
     };
     return options;
@@ -160,16 +157,14 @@ QList<QCommandLineOption> buildingsOptions()
         {{QStringLiteral("o"), QStringLiteral("output")},
          dico_label("MESS_OPT_TOWN_OUTPUT",
                     "Layer file to write; the building document is written beside it as OUT.texb, "
-                    "the legend of a color map as NAME_gradient.png."),
+                    "and the legend of a color map as NAME_gradient.png."),
          QStringLiteral("OUT.lay")},
         {QStringLiteral("dtm"),
-         dico_label("MESS_OPT_DTM",
-                    "Terrain raster that the buildings stand on (default: the project's)."),
+         dico_label("MESS_OPT_DTM", "Terrain raster under the buildings (default: the project's)."),
          QStringLiteral("FILE")},
         {QStringLiteral("dtm-nodata"),
-         dico_label("MESS_OPT_DTM_NODATA",
-                    "Value of the terrain where its height is not known (default: what the "
-                    "file states)."),
+         dico_label("MESS_OPT_DTM_NODATA", "Value of the terrain for unknown heights (default: the "
+                                           "value that the file declares)."),
          QStringLiteral("NUMBER")},
         {QStringLiteral("layer"),
          dico_label("MESS_OPT_VECTOR_LAYER",
@@ -181,7 +176,7 @@ QList<QCommandLineOption> buildingsOptions()
                     "COLOR, else the second one)."),
          QStringLiteral("NAME")},
         {QStringLiteral("check-clockwise"),
-         dico_label("MESS_OPT_CHECK_CLOCKWISE", "Have the directions of the outlines checked.")},
+         dico_label("MESS_OPT_CHECK_CLOCKWISE", "Check the directions of the outlines.")},
     };
     return inputs + numberOptionList(buildingsNumbers()) + coloredOptions() + texturedOptions();
 }

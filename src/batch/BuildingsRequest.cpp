@@ -94,19 +94,19 @@ std::optional<Error> checkCompanions(const QCommandLineParser &parser)
     const bool hasFolders = parser.isSet(QStringLiteral("textures"));
     if (hasFolders && parser.isSet(QStringLiteral("texture")))
         return wrongUsage(
-            dico_label("MESS_USE_BOTH_TEXTURES", "--texture and --textures do not go together"));
+            dico_label("MESS_USE_BOTH_TEXTURES", "--texture and --textures cannot be combined"));
     std::optional<Error> error;
     if (!parser.isSet(QStringLiteral("image")))
-        error = refused(OfImage, dico_label("MESS_USE_ONLY_IMAGE", "%1 is only for --image"));
+        error = refused(OfImage, dico_label("MESS_USE_ONLY_IMAGE", "%1 needs --image"));
     if (!error && !hasFolders)
-        error = refused(OfFolders, dico_label("MESS_USE_ONLY_SET", "%1 is only for --textures"));
+        error = refused(OfFolders, dico_label("MESS_USE_ONLY_SET", "%1 needs --textures"));
     if (!error && !hasTextures(parser))
-        error = refused(OfTextures, dico_label("MESS_USE_ONLY_TEXTURES",
-                                               "%1 is only for --texture and --textures"));
+        error = refused(OfTextures,
+                        dico_label("MESS_USE_ONLY_TEXTURES", "%1 needs --texture or --textures"));
     if (!error && !hasTexturingOptions(parser))
-        error = refused(
-            TexturingOptions,
-            dico_label("MESS_USE_NOT_IMAGE", "%1 is not for buildings that --image colors alone"));
+        error = refused(TexturingOptions,
+                        dico_label("MESS_USE_NOT_IMAGE",
+                                   "%1 cannot be used when --image alone colors the buildings"));
     return error;
 }
 
@@ -144,7 +144,7 @@ Result<BuildingCache> readCache(const QCommandLineParser &parser, const Building
                              parser.isSet(QStringLiteral("delayed-write")), measures.cacheCapacity};
     for (const char *option : {"delayed-write", "cache-capacity"}) {
         if (parser.isSet(QLatin1String(option)))
-            return wrongUsage(dico_label("MESS_USE_NEEDS_CACHE", "--%1 needs a --cache")
+            return wrongUsage(dico_label("MESS_USE_NEEDS_CACHE", "--%1 needs --cache")
                                   .arg(QLatin1String(option)));
     }
     return BuildingCache();
@@ -197,11 +197,11 @@ Result<buildings::TexturingParameters> readTexturingParameters(const QCommandLin
                          roofs.value() == QLatin1String(ColorMapWord);
     const bool hasImage = parser.isSet(QStringLiteral("image"));
     if (usesMap && !hasImage)
-        return wrongUsage(dico_label("MESS_USE_NEEDS_IMAGE", "colormap as a color needs --image"));
+        return wrongUsage(dico_label("MESS_USE_NEEDS_IMAGE", "the color colormap needs --image"));
     if (hasImage && !usesMap)
-        return wrongUsage(dico_label("MESS_USE_NEEDS_COLORMAP",
-                                     "--image colors these buildings only with --wall-color "
-                                     "colormap or --roof-color colormap"));
+        return wrongUsage(dico_label(
+            "MESS_USE_NEEDS_COLORMAP",
+            "--image needs --wall-color colormap or --roof-color colormap for these buildings"));
     buildings::TexturingParameters look;
     look.cache = cache.value();
     look.texturedVisibilityM = measures.texturedDistanceM;
@@ -250,8 +250,8 @@ Result<BuildingsRequest> readBuildingsRequest(const QCommandLineParser &parser)
         return wrongUsage(dico_label("MESS_USE_NO_OUTPUT", "no output file given (-o OUT.lay)"));
     if (isStandardOutput(request.output))
         return wrongUsage(dico_label("MESS_USE_NO_STANDARD_OUTPUT",
-                                     "'-o -': a layer of buildings lies beside its document, it "
-                                     "has to be a file"));
+                                     "'-o -': a layer of buildings must be a file, because its "
+                                     "document is written beside it"));
     request.layer = parser.value(QStringLiteral("layer"));
     request.heightField = parser.value(QStringLiteral("height-field"));
     request.terrain = parser.value(QStringLiteral("dtm"));

@@ -29,7 +29,7 @@ struct GivenImage
 
 Error badHeight(const QString &image)
 {
-    return reported(dico_label("MESS_CLI_BAD_HEIGHT", "the height is no number"), image);
+    return reported(dico_label("MESS_CLI_BAD_HEIGHT", "the height is not a number"), image);
 }
 
 /// Splits "FILE=HEIGHT", unless a file has this whole name.
@@ -72,9 +72,10 @@ Images entriesOf(const GivenImage &given)
     const bool isWithout = std::any_of(entries.cbegin(), entries.cend(),
                                        [](const FileEntry &entry) { return entry.height == 0; });
     if (isWithout || entries.isEmpty())
-        return reported(dico_label("MESS_CLI_TEXTURE_HEIGHT",
-                                   "for which height is this image? --texture FILE=HEIGHT tells"),
-                        given.name);
+        return reported(
+            dico_label("MESS_CLI_TEXTURE_HEIGHT",
+                       "the height of this image is not known: give --texture FILE=HEIGHT"),
+            given.name);
     return entries;
 }
 
@@ -102,7 +103,7 @@ Images foundImages(const TextureChoice &choice, bool quiet)
     for (const int place : buildings::matchingTextures(*found, choice.filter))
         images << found->at(place);
     if (images.isEmpty())
-        return reported(dico_label("MESS_CLI_NO_TEXTURES", "no image is found by it"),
+        return reported(dico_label("MESS_CLI_NO_TEXTURES", "no image of its set was found"),
                         choice.templateFile);
     return images;
 }

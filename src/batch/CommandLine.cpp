@@ -97,7 +97,7 @@ std::optional<Error> checkInputs(const QStringList &given, const Inputs &inputs)
             dico_label("MESS_USE_TOO_MANY", "too many arguments: %1").arg(given.at(inputs.most)));
     if (given.contains(QLatin1String("-")))
         return wrongUsage(dico_label("MESS_USE_NO_INPUT",
-                                     "'-': the standard input is not read, inputs are files"));
+                                     "'-': inputs are files, the standard input is not read"));
     return std::nullopt;
 }
 
@@ -147,20 +147,20 @@ QList<QCommandLineOption> globalOptions()
 {
     return {
         {Install,
-         dico_label("MESS_OPT_INSTALL", "Root of the installation (default: where the program's "
-                                        "settings say, else the program's own directory)."),
+         dico_label("MESS_OPT_INSTALL", "Root of the installation (default: the directory in the "
+                                        "program's settings, else the program's own directory)."),
          QStringLiteral("DIR")},
         {Project,
          dico_label("MESS_OPT_PROJECT",
-                    "Target project: its reference system and terrain choose the coordinate "
-                    "systems, and the layer names the table relative to it; buildings: its "
-                    "buildings and terrain are the defaults."),
+                    "Target project: its reference system and terrain determine the default "
+                    "coordinate systems, and the path of the table in the layer is relative to its "
+                    "directory. For buildings, its buildings and terrain are the defaults."),
          QStringLiteral("P.gvw")},
         {Language, dico_label("MESS_OPT_LANGUAGE", "Language of messages and of the layer."),
          QStringLiteral("fr|en")},
-        {Json, dico_label("MESS_OPT_JSON", "Print one JSON object (UTF-8); errors, too.")},
+        {Json, dico_label("MESS_OPT_JSON", "Print one JSON object (UTF-8), also for errors.")},
         {QStringLiteral("quiet"),
-         dico_label("MESS_OPT_QUIET", "Tell nothing on the error output but errors.")},
+         dico_label("MESS_OPT_QUIET", "Print only errors on the error output.")},
         {{QStringLiteral("h"), QStringLiteral("help")},
          dico_label("MESS_OPT_HELP", "Show this help.")},
         {QStringLiteral("version"),
@@ -200,10 +200,10 @@ std::optional<Error> checkStandardOutput(const QCommandLineParser &parser,
         return std::nullopt;
     for (const QString &name : printing) {
         if (parser.isSet(name))
-            return wrongUsage(dico_label("MESS_USE_TWO_OUTPUTS",
-                                         "'-o -' and %1 do not go together: both write to the "
-                                         "standard output")
-                                  .arg(dashed(name)));
+            return wrongUsage(
+                dico_label("MESS_USE_TWO_OUTPUTS",
+                           "'-o -' and %1 cannot be combined: both write to the standard output")
+                    .arg(dashed(name)));
     }
     return std::nullopt;
 }

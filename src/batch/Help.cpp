@@ -88,11 +88,11 @@ QString programHelpText()
         examples += syntax.examples.section(QLatin1Char('\n'), 0, 0) + QLatin1Char('\n');
     }
     entries << Entry{dico_label("MESS_HELP_HELP", "help [COMMAND]"),
-                     dico_label("MESS_HELP_HELP_SUMMARY", "the options of a command")};
+                     dico_label("MESS_HELP_HELP_SUMMARY", "show the options of a command")};
     return usageText(dico_label("MESS_HELP_PROGRAM_USAGE", "COMMAND [OPTION]...")) +
-           wrappedText(dico_label("MESS_HELP_PROGRAM",
-                                  "Makes layers of telecom tables and of buildings for a 3D "
-                                  "project.")) +
+           wrappedText(
+               dico_label("MESS_HELP_PROGRAM",
+                          "Makes layers of a 3D project from telecom tables and buildings.")) +
            heading("MESS_HELP_COMMANDS", "Commands:") + entryList(entries) + generalOptionsText() +
            examplesText(examples) + exitText();
 }

@@ -152,11 +152,11 @@ CommandSyntax syntax()
     CommandSyntax syntax;
     syntax.name = QStringLiteral("info");
     syntax.usage = QStringLiteral("TABLE...");
-    syntax.summary = dico_label("MESS_HELP_INFO_SUMMARY", "what tables hold");
+    syntax.summary = dico_label("MESS_HELP_INFO_SUMMARY", "show the properties of tables");
     syntax.description =
-        dico_label("MESS_HELP_INFO", "Tells what a table of sites or links holds: format, unit, "
-                                     "coordinate systems, recognised columns, and the rows that "
-                                     "cannot be used.");
+        dico_label("MESS_HELP_INFO",
+                   "Shows the properties of tables of sites or links: format, unit, coordinate "
+                   "systems, recognised columns, and the rows that cannot be used.");
     syntax.inputs = {1, std::numeric_limits<int>::max(), QStringLiteral("TABLE"),
                      dico_label("MESS_HELP_INFO_TABLE",
                                 "Site or link table (.xls .xlsx .xml .csv); one or more."),

@@ -39,8 +39,8 @@ QList<QCommandLineOption> layerOptions()
                 QStringLiteral("OUT.lay")},
                {QStringLiteral("source-srs"),
                 dico_label("MESS_OPT_SOURCE_SRS",
-                           "Coordinate system of the table (default: what the table declares, else "
-                           "4326 for degrees, else the terrain's)."),
+                           "Coordinate system of the table (default: the one that the table "
+                           "declares, else 4326 for degrees, else the terrain's)."),
                 QStringLiteral("SRS")},
                {QStringLiteral("target-srs"),
                 dico_label("MESS_OPT_TARGET_SRS",
@@ -55,16 +55,16 @@ QList<QCommandLineOption> readingOptions()
 {
     return {
         {QStringLiteral("sheet"),
-         dico_label("MESS_OPT_SHEET", "Sheet of a workbook (default: the one whose header names "
-                                      "sites or links)."),
+         dico_label("MESS_OPT_SHEET",
+                    "Sheet of a workbook (default: the sheet with a header of sites or links)."),
          QStringLiteral("NAME")},
         {QStringLiteral("encoding"),
-         dico_label("MESS_OPT_ENCODING", "Encoding of a text file, such as CP1250 (default: found "
-                                         "from its bytes)."),
+         dico_label("MESS_OPT_ENCODING", "Encoding of a text file, such as CP1250 (default: the "
+                                         "encoding that fits its bytes)."),
          QStringLiteral("NAME")},
         {QStringLiteral("delimiter"),
-         dico_label("MESS_OPT_DELIMITER",
-                    "What separates the columns of a text file (default: found from its lines)."),
+         dico_label("MESS_OPT_DELIMITER", "Separator of the columns of a text file (default: the "
+                                          "separator that fits its lines)."),
          Delimiters.join(QLatin1Char('|'))},
     };
 }

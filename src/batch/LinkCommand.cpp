@@ -35,7 +35,7 @@ CommandSyntax syntax()
     syntax.summary =
         dico_label("MESS_HELP_LINK_SUMMARY", "make a layer of links, check their clearance");
     syntax.description = dico_label(
-        "MESS_HELP_LINK", "Makes the same layer from a table of microwave links as the wizard, and "
+        "MESS_HELP_LINK", "Makes a layer from a table of microwave links, like the wizard, and "
                           "checks the clearance of each link over the terrain.");
     syntax.inputs = {1, 1, QStringLiteral("TABLE"),
                      dico_label("MESS_HELP_LINK_TABLE", "Link table (.xls .xlsx .xml .csv)."),

@@ -16,7 +16,8 @@ const std::vector<NumberOption<LinkRepresentation>> &numberOptions()
 {
     static const std::vector<NumberOption<LinkRepresentation>> options = {
         {QStringLiteral("link-width"),
-         dico_label("MESS_OPT_LINK_WIDTH", "Width of the links, pixels for lines, else metres"),
+         dico_label("MESS_OPT_LINK_WIDTH",
+                    "Width of the links, in pixels for lines, else in metres"),
          &LinkRepresentation::width, query::LinkWidthPixelsOrM},
         {QStringLiteral("fresnel-zone"),
          dico_label("MESS_OPT_FRESNEL_ZONE",
@@ -83,7 +84,7 @@ QList<QCommandLineOption> linkOptions()
     const LinkRepresentation firstRun;
     return QList<QCommandLineOption>{
                {QStringLiteral("link-style"),
-                dico_label("MESS_OPT_LINK_STYLE", "How links are drawn (default %1).")
+                dico_label("MESS_OPT_LINK_STYLE", "Representation of the links (default %1).")
                     .arg(styleName(firstRun.style)),
                 styleNames(), styleName(firstRun.style)},
                {QStringLiteral("link-color"),

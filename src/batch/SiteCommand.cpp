@@ -22,8 +22,8 @@ CommandSyntax syntax()
     syntax.name = QStringLiteral("site");
     syntax.usage = QStringLiteral("TABLE -o OUT.lay");
     syntax.summary = dico_label("MESS_HELP_SITE_SUMMARY", "make a layer of sites");
-    syntax.description = dico_label(
-        "MESS_HELP_SITE", "Makes a site layer of a table, the same that the wizard makes.");
+    syntax.description =
+        dico_label("MESS_HELP_SITE", "Makes a site layer from a table, like the wizard.");
     syntax.inputs = {1, 1, QStringLiteral("TABLE"),
                      dico_label("MESS_HELP_SITE_TABLE", "Site table (.xls .xlsx .xml .csv)."),
                      dico_label("MESS_USE_NO_TABLE", "no table given")};
@@ -62,7 +62,7 @@ ExitStatus makeLayer(const sites::SiteLayerInput &input, const LayerRequest &req
         warnOfSystems(outcome.value());
         return refuse(
             {QStringLiteral("MESS_CLI_NONE_PLACED"),
-             QStringLiteral("none of its sites can be placed; \"vltlayers info\" tells why"),
+             QStringLiteral("none of its sites has a position; \"vltlayers info\" shows why"),
              request.table});
     }
     if (const auto failed = writeLayer(request.output, sites::makeSiteLayer(input)))

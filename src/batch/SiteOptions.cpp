@@ -101,8 +101,8 @@ QList<QCommandLineOption> siteOptions()
            QList<QCommandLineOption>{
                {QStringLiteral("sector-colors"),
                 dico_label("MESS_OPT_SECTOR_COLORS",
-                           "Sector colors: a set's number in the catalogue, from 1, or its name in "
-                           "any language (default 1)."),
+                           "Sector colors: the number of a set in the catalogue, from 1, or its "
+                           "name in any language (default 1)."),
                 QStringLiteral("N|NAME"), QStringLiteral("1")},
                {QStringLiteral("pylon-type"),
                 dico_label("MESS_OPT_PYLON_TYPE",

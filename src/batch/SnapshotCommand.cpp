@@ -43,10 +43,9 @@ CommandSyntax syntax()
     syntax.name = QStringLiteral("snapshot");
     syntax.usage = QStringLiteral("LAYER -o PICTURE.png");
     syntax.summary = dico_label("MESS_HELP_SNAPSHOT_SUMMARY", "make a picture of a layer");
-    syntax.description =
-        dico_label("MESS_HELP_SNAPSHOT", "Makes a picture (PNG) of a layer or of another scene "
-                                         "file. It needs an X server; without a screen xvfb-run "
-                                         "gives one.");
+    syntax.description = dico_label(
+        "MESS_HELP_SNAPSHOT", "Makes a picture (PNG) of a layer or of another scene file. It needs "
+                              "an X server; xvfb-run provides one on a computer without a screen.");
     syntax.inputs = {
         1, 1, QStringLiteral("LAYER"),
         dico_label("MESS_HELP_SNAPSHOT_LAYER",
@@ -70,7 +69,7 @@ CommandSyntax syntax()
          QStringLiteral("all|symbolic|precise"), QStringLiteral("all")},
         {QStringLiteral("terrain"),
          dico_label("MESS_OPT_SHOW_TERRAIN",
-                    "Links: show the surface of the project's terrain, too.")},
+                    "For links: show the surface of the project's terrain too.")},
     };
     syntax.examples =
         QStringLiteral("  vltlayers snapshot sites.lay -o sites.png\n"
@@ -118,7 +117,7 @@ Result<Request> readRequest(const QCommandLineParser &parser)
     if (!isStandardOutput(request.output) &&
         !request.output.endsWith(QLatin1String(".png"), Qt::CaseInsensitive))
         return wrongUsage(
-            dico_label("MESS_USE_PNG", "the picture is a PNG: its name has to end in .png"));
+            dico_label("MESS_USE_PNG", "the picture is in PNG format: its name must end in .png"));
     const std::optional<QSize> size = sizeFrom(parser.value(QStringLiteral("size")));
     if (!size)
         return wrongValue(QStringLiteral("size"),
@@ -255,8 +254,8 @@ ExitStatus run(const QCommandLineParser &parser, const GlobalOptions &options)
         return refuse(outputIsInput(output));
     if (isTable(request.value().layer))
         return refuse({QStringLiteral("MESS_CLI_TABLE_NO_SCENE"),
-                       QStringLiteral("a table becomes a layer first, by \"vltlayers site\" or "
-                                      "\"vltlayers link\""),
+                       QStringLiteral("this is a table: make a layer of it with \"vltlayers site\" "
+                                      "or \"vltlayers link\" first"),
                        request.value().layer});
     snapshot::addInstalledReaders(surroundings.value().installDir);
     return makePicture(request.value(), options);

@@ -35,7 +35,8 @@ Result<Surroundings> startUp(const GlobalOptions &options)
     surroundings.language = options.place.language;
     if (!QFileInfo(surroundings.installDir).isDir())
         return Error{QStringLiteral("MESS_CLI_NO_INSTALL_DIR"),
-                     QStringLiteral("no such install directory"), surroundings.installDir};
+                     QStringLiteral("this install directory does not exist"),
+                     surroundings.installDir};
 
     app::exportGeodataEnvironment(surroundings.installDir, platform::nativePathStyle(), nullptr);
     app::registerGeodataDrivers();

@@ -38,7 +38,7 @@ ExitStatus refuseCommand(const QString &name)
     QStringList names = {HelpCommand};
     for (const Command &command : commands())
         names << command.syntax().name;
-    return refuseUsage(dico_label("MESS_USE_NO_COMMAND", "no such command: %1").arg(name) +
+    return refuseUsage(dico_label("MESS_USE_NO_COMMAND", "unknown command: %1").arg(name) +
                        didYouMean(name, names));
 }
 
@@ -98,8 +98,7 @@ ExitStatus run(const SplitArguments &split, const QString &damaged)
     setErrorStyle({command ? split.command : QString(), split.json});
     if (!damaged.isEmpty())
         return refuse({QStringLiteral("MESS_CLI_NAME_NOT_UTF8"),
-                       QStringLiteral("this name is not in UTF-8: give the file another one"),
-                       damaged});
+                       QStringLiteral("this name is not in UTF-8: rename the file"), damaged});
     if (command)
         return runCommand(*command, split.others, place);
     if (split.command.isEmpty() || split.command == HelpCommand)

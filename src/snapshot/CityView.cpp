@@ -110,8 +110,8 @@ Result<ViewPoint> viewOfCity(osg::Node &scene, qint64 buildings, double aspect)
         distance *= nearer;
     }
     return Error{QStringLiteral("MESS_SNAP_TOO_FAR"),
-                 QStringLiteral("all is in view only from where nothing is drawn any more; "
-                                "a longer apparition distance or --view symbolic helps"),
+                 QStringLiteral("the whole scene is only in view from beyond the apparition "
+                                "distance: increase this distance or use --view symbolic"),
                  {}};
 }
 

@@ -60,8 +60,8 @@ bool report(void *progress, double share)
 Error asError(ReadResult &read, const std::string &source, const QString &name)
 {
     if (read.status() == ReadResult::FILE_NOT_HANDLED || read.message().empty())
-        return {QStringLiteral("MESS_SNAP_UNREADABLE"), QStringLiteral("no scene that can be read"),
-                name};
+        return {QStringLiteral("MESS_SNAP_UNREADABLE"),
+                QStringLiteral("it cannot be read as a scene"), name};
     std::string text = read.message();
     if (const std::string file = source + ": "; text.starts_with(file))
         text.erase(0, file.size());

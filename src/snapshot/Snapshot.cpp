@@ -87,7 +87,7 @@ Result<QImage> renderSnapshot(osg::Node &scene, const QSize &size, SceneView vie
                      {}};
     OffscreenTarget target(*context->getState()->get<osg::GLExtensions>());
     const Error noRoom{QStringLiteral("MESS_SNAP_NO_ROOM"),
-                       QStringLiteral("the display has no room for a picture of this size"),
+                       QStringLiteral("the display cannot hold a picture of this size"),
                        {}};
     if (!target.create(size))
         return noRoom;

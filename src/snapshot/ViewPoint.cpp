@@ -31,10 +31,11 @@ Result<ViewPoint> viewOfAll(osg::Node &scene, double aspect)
                            subject.from(distance, DefaultFieldDeg).eye);
         scene.accept(drawn);
         if (!drawn.extents().valid())
-            return Error{QStringLiteral("MESS_SNAP_TOO_FAR"),
-                         QStringLiteral("all is in view only from where nothing is drawn any more; "
-                                        "a longer apparition distance or --view symbolic helps"),
-                         {}};
+            return Error{
+                QStringLiteral("MESS_SNAP_TOO_FAR"),
+                QStringLiteral("the whole scene is only in view from beyond the apparition "
+                               "distance: increase this distance or use --view symbolic"),
+                {}};
         const double next = Subject(drawn.extents(), aspect).distance(DefaultFieldDeg);
         if (next >= distance)
             break;
@@ -61,7 +62,7 @@ Result<ViewPoint> viewOfLevel(const osg::Vec3d &centre, const Level &level, doub
 {
     if (!level.extents.valid() || level.toM <= level.fromM)
         return Error{QStringLiteral("MESS_SNAP_NO_LEVEL"),
-                     QStringLiteral("its sites are never drawn that way"),
+                     QStringLiteral("its sites do not have this representation"),
                      {}};
     const Subject subject(level.extents, aspect, margin);
     // Levels depend on the distance from the site's centre, which differs from that of the box.
@@ -85,7 +86,7 @@ Result<ViewPoint> findViewPoint(osg::Node &scene, SceneView view, double aspect)
     const std::optional<SiteLevels> site = buildings ? std::nullopt : findMiddleSite(scene);
     if (!site)
         return Error{QStringLiteral("MESS_SNAP_NO_SITES"),
-                     QStringLiteral("there are no sites in it: only --view all can be made of it"),
+                     QStringLiteral("it contains no sites: only --view all is possible"),
                      {}};
     return view == SceneView::Symbolic
                ? viewOfLevel(site->centre, site->symbolic, aspect, SectorsMargin)

@@ -133,9 +133,9 @@ private Q_SLOTS:
 
         QTest::newRow("one without height")
             << u"--textures ../t/c.asc"_s
-            << QByteArray("vltlayers: images that state no height, 0 m is taken: 1\n") << 3;
+            << QByteArray("vltlayers: images without a stated height, 0 m is used: 1\n") << 3;
         QTest::newRow("none") << QString()
-                              << QByteArray("vltlayers: no image lies on the buildings: neither "
+                              << QByteArray("vltlayers: the buildings have no images: neither "
                                             "--texture nor --textures is given\n")
                               << 0;
     }
@@ -164,38 +164,39 @@ private Q_SLOTS:
         row("../houses.geojson --dtm ../own.txt --image ../level.asc", 1,
             "../own.txt: Cannot open DTM");
         row("--project ../bare.gvw --image ../level.asc", 1, "the project names no buildings");
-        row("% --image ../level.asc --layer streets", 1, "\"streets\"; there are: houses");
-        row("% --image ../level.asc --height-field AGL", 1, "\"AGL\"; there are: id, USE, height");
+        row("% --image ../level.asc --layer streets", 1, "\"streets\"; the layers are: houses");
+        row("% --image ../level.asc --height-field AGL", 1,
+            "\"AGL\"; the fields are: id, USE, height");
         row("% --image ../own.txt", 1, "../own.txt: This file can't be open as a raster dataset (");
         row("% --image /vsicurl/http://example.org/a.tif", 1, "a.tif: no such file");
         row("% --image ../rgb.ppm", 1, "works only with one-band grey images");
         row("% --image ../level.asc --colormap nice", 1,
-            "nice: no color map has this name, nor any file; there are: first, level_dBm");
+            "nice: there is no color map and no file with this name; the color maps are: first, "
+            "level_dBm");
         row("% --image ../level.asc --colormap ../broken.txt", 1, "Unknown color : pink");
-        row("% --texture ../t/c.asc", 1, "../t/c.asc: for which height is this image?");
+        row("% --texture ../t/c.asc", 1, "../t/c.asc: the height of this image is not known");
         row("% --texture ../t/no.asc=5", 1, "../t/no.asc: no such file");
         row("% --texture ../own.txt=5", 1, "can't be open as a raster dataset");
-        row("% --texture ../t/c.asc=abc", 1, "../t/c.asc=abc: the height is no number");
-        row("% --image ../level.asc -o -", 2, "it has to be a file");
-        row("% --texture ../t/c.asc=nan", 1, "../t/c.asc: the height is no number");
+        row("% --texture ../t/c.asc=abc", 1, "../t/c.asc=abc: the height is not a number");
+        row("% --image ../level.asc -o -", 2, "must be a file");
+        row("% --texture ../t/c.asc=nan", 1, "../t/c.asc: the height is not a number");
         row("% --textures ../t/no.asc", 1, "../t/no.asc: no such file");
-        row("% --textures ../t/c.asc --filter xyz", 1, "../t/c.asc: no image is found by it");
+        row("% --textures ../t/c.asc --filter xyz", 1, "../t/c.asc: no image of its set was found");
         row("% --image ../level.asc -o ../houses.geojson", 1, "one of the input files");
         row("% --image ../level.asc -o no/o.lay", 1, "Can't create the layer file");
         row("../houses.geojson --image ../level.asc", 2, "no terrain given (--dtm)");
         row("--dtm ../dem.asc --image ../level.asc", 2, "no vector file given");
         row("% --wall-color colormap", 2, "needs --image");
         row("% --image ../level.asc --roof-color fff000", 2, "--roof-color colormap");
-        row("% --image ../level.asc --cache all", 2, "--cache is not for buildings that --image");
-        row("% --textured-distance 500", 2, "--textured-distance is only for --texture");
-        row("% --mode average --textures ../t/c.asc", 2, "--mode is only for --image");
-        row("% --image ../level.asc --texture-on walls", 2, "--texture-on is only for --texture");
-        row("% --texture ../t/c.asc=1 --structure two-levels", 2,
-            "--structure is only for --textures");
-        row("% --texture ../t/c.asc=1 --textures ../t/c.asc", 2, "do not go together");
+        row("% --image ../level.asc --cache all", 2, "--cache cannot be used when --image");
+        row("% --textured-distance 500", 2, "--textured-distance needs --texture");
+        row("% --mode average --textures ../t/c.asc", 2, "--mode needs --image");
+        row("% --image ../level.asc --texture-on walls", 2, "--texture-on needs --texture");
+        row("% --texture ../t/c.asc=1 --structure two-levels", 2, "--structure needs --textures");
+        row("% --texture ../t/c.asc=1 --textures ../t/c.asc", 2, "cannot be combined");
         row("% --texture ../t/c.asc=1 --wall-color colormap", 2, "needs --image");
         row("% --texture ../t/c.asc=1 --image ../level.asc", 2, "--roof-color colormap");
-        row("% --texture ../t/c.asc=1 --delayed-write", 2, "--delayed-write needs a --cache");
+        row("% --texture ../t/c.asc=1 --delayed-write", 2, "--delayed-write needs --cache");
         row("% --texture ../t/c.asc=1 --wall-color reddish", 2, "red or the word colormap");
         row("% --texture ../t/c.asc=1 --edge-color colormap", 2, "--edge-color is RRGGBB or");
         row("% --texture ../t/c.asc=1 --magnify cubic", 2, "none|linear");

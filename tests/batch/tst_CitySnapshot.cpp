@@ -131,7 +131,7 @@ private Q_SLOTS:
             const Run run = m_program->start(u"snapshot ../t.texb -o t.png --view "_s + view);
 
             QCOMPARE(run.status, 1);
-            QVERIFY2(run.errors.contains("no sites in it: only --view all"),
+            QVERIFY2(run.errors.contains("it contains no sites: only --view all"),
                      run.errors.constData());
         }
     }

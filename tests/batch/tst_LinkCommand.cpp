@@ -197,7 +197,7 @@ private Q_SLOTS:
             "not a known raster format)");
         row("link ../l.csv -o old.lay --terrain no.tif", 1, "(there is no such local file)");
         row("link ../l.csv -o ../hills.asc --terrain ../hills.asc", 1, "one of the input files");
-        row("link ../l.csv -o - --report", 2, "'-o -' and --report do not go together");
+        row("link ../l.csv -o - --report", 2, "'-o -' and --report cannot be combined");
         row("link ../l.csv", 2, "no output file given (-o OUT.lay), and no --report");
         row("link ../l.csv -o old.lay --link-style rope", 2, "line|tube|billboard");
         row("link ../l.csv -o old.lay --link-color bluish", 2, "not \"bluish\"");

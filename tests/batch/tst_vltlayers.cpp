@@ -249,8 +249,8 @@ private Q_SLOTS:
             "(2154) counts in meters or feet");
         row(meters, "--source-srs 4326 --target-srs EPSG:4326",
             "the coordinates of the table are in meters, but its system WGS 84 (4326) counts in "
-            "degrees\nvltlayers: ../s.csv: none of its sites can be placed; \"vltlayers info\" "
-            "tells why");
+            "degrees\nvltlayers: ../s.csv: none of its sites has a position; \"vltlayers info\" "
+            "shows why");
         row(Table, "--target-srs 2193",
             "2 of 2 positions lie outside the area of use of NZGD2000 / New Zealand Transverse "
             "Mercator 2000 (2193)");
@@ -283,7 +283,7 @@ private Q_SLOTS:
         row("site ../s.csv -o ../s.csv", 1, "one of the input files");
         row("site ../s.csv -o ../c.gvw --project ../c.gvw", 1, "one of the input files");
         row("site ../s.csv -o old.lay --project ../no.gvw", 1, "../no.gvw: Cannot open project");
-        row("site ../s.csv -o old.lay --install ../no", 1, "no such install directory");
+        row("site ../s.csv -o old.lay --install ../no", 1, "this install directory does not exist");
         row("site ../s.csv -o old.lay --source-srs no-such-system", 1,
             "../s.csv: the coordinate system \"no-such-system\" is not known");
         row("site ../s.csv -o old.lay --target-srs EPSG:5720", 1,
@@ -306,9 +306,9 @@ private Q_SLOTS:
             "unknown option '--sector-radiu'; did you mean '--sector-radius'?\n"
             "vltlayers: try 'vltlayers site --help'\n");
         row("site ../s.csv -o old.lay --json=1", 2, "--json takes no value");
-        row("snapshot ../s.csv -o a.png", 1, "../s.csv: a table becomes a layer first");
+        row("snapshot ../s.csv -o a.png", 1, "../s.csv: this is a table: make a layer");
         row("site - -o old.lay", 2, "the standard input is not read");
-        row("paint ../s.csv", 2, "no such command: paint\nvltlayers: try 'vltlayers --help'\n");
+        row("paint ../s.csv", 2, "unknown command: paint\nvltlayers: try 'vltlayers --help'\n");
         row("sites ../s.csv", 2, "; did you mean 'site'?");
         row("help stie", 2, "; did you mean 'site'?");
     }

@@ -12,8 +12,8 @@
         <translation>make a layer of buildings</translation>
     </message>
     <message id="MESS_HELP_BUILDINGS">
-        <source>Makes a layer of 3D buildings, the same that the wizard makes: colored from a raster (--image), with images on roofs, walls or storeys (--texture, --textures), or plain.</source>
-        <translation>Makes a layer of 3D buildings, the same that the wizard makes: colored from a raster (--image), with images on roofs, walls or storeys (--texture, --textures), or plain.</translation>
+        <source>Makes a layer of 3D buildings, like the wizard: colored from a raster (--image), with images on roofs, walls or storeys (--texture, --textures), or plain.</source>
+        <translation>Makes a layer of 3D buildings, like the wizard: colored from a raster (--image), with images on roofs, walls or storeys (--texture, --textures), or plain.</translation>
     </message>
     <message id="MESS_HELP_BUILDINGS_VECTOR">
         <source>Vector file with the outlines of the buildings (default: the project's).</source>
@@ -36,48 +36,48 @@
         <translation>the output cannot be written</translation>
     </message>
     <message id="MESS_OPT_IMAGE">
-        <source>Raster of one band that the buildings are colored from: a file, or the name of one of its subdatasets.</source>
-        <translation>Raster of one band that the buildings are colored from: a file, or the name of one of its subdatasets.</translation>
+        <source>Raster of one band whose values color the buildings: a file, or the name of an image in a file.</source>
+        <translation>Raster of one band whose values color the buildings: a file, or the name of an image in a file.</translation>
     </message>
     <message id="MESS_OPT_IMAGE_NODATA">
-        <source>Value of the image's pixels without a value, besides those that the file states (default none).</source>
-        <translation>Value of the image's pixels without a value, besides those that the file states (default none).</translation>
+        <source>Value of pixels without data, in addition to the value that the file declares (default none).</source>
+        <translation>Value of pixels without data, in addition to the value that the file declares (default none).</translation>
     </message>
     <message id="MESS_OPT_COLORMAP">
         <source>Color map: one of the installation's by its name, or a file (default: the installation's first one).</source>
         <translation>Color map: one of the installation's by its name, or a file (default: the installation's first one).</translation>
     </message>
     <message id="MESS_OPT_ABSOLUTE">
-        <source>Take the color map's own values (default: it is stretched over the image's least and greatest value).</source>
-        <translation>Take the color map's own values (default: it is stretched over the image's least and greatest value).</translation>
+        <source>Use the color map's own values (default: the map is stretched between the image's minimum and maximum value).</source>
+        <translation>Use the color map's own values (default: the map is stretched between the image's minimum and maximum value).</translation>
     </message>
     <message id="MESS_OPT_COLOR_RANGES">
-        <source>Color ranges of values (default: colors between two values of the map are interpolated).</source>
-        <translation>Color ranges of values (default: colors between two values of the map are interpolated).</translation>
+        <source>Use one color for each range of values (default: colors between two values of the map are interpolated).</source>
+        <translation>Use one color for each range of values (default: colors between two values of the map are interpolated).</translation>
     </message>
     <message id="MESS_OPT_MODE">
-        <source>Which of the values under a building colors it (default minimum).</source>
-        <translation>Which of the values under a building colors it (default minimum).</translation>
+        <source>Value under a building that determines its color (default minimum).</source>
+        <translation>Value under a building that determines its color (default minimum).</translation>
     </message>
     <message id="MESS_OPT_TEXTURE">
-        <source>Image for the height above the ground that is given, or that it or its name states. May be given several times.</source>
-        <translation>Image for the height above the ground that is given, or that it or its name states. May be given several times.</translation>
+        <source>Image for a height in metres above the ground: the given height, else the height in the image's metadata or name. May be given several times.</source>
+        <translation>Image for a height in metres above the ground: the given height, else the height in the image's metadata or name. May be given several times.</translation>
     </message>
     <message id="MESS_OPT_TEXTURES">
-        <source>One image of a set; the others are found by it.</source>
-        <translation>One image of a set; the others are found by it.</translation>
+        <source>One image of a set; the others are those with the same suffix.</source>
+        <translation>One image of a set; the others are those with the same suffix.</translation>
     </message>
     <message id="MESS_OPT_STRUCTURE">
-        <source>Where they are: in the template's folder (default), in the folders beside it, or in the folders of the folders beside its parent.</source>
-        <translation>Where they are: in the template's folder (default), in the folders beside it, or in the folders of the folders beside its parent.</translation>
+        <source>Folders of the set: the image's folder (default), its sibling folders, or the folders in the sibling folders of its parent.</source>
+        <translation>Folders of the set: the image's folder (default), its sibling folders, or the folders in the sibling folders of its parent.</translation>
     </message>
     <message id="MESS_OPT_FILTER">
-        <source>Of the set only images with this in their file name, folder, description or height.</source>
-        <translation>Of the set only images with this in their file name, folder, description or height.</translation>
+        <source>Use only images of the set with this text in their file name, folder, description or height.</source>
+        <translation>Use only images of the set with this text in their file name, folder, description or height.</translation>
     </message>
     <message id="MESS_OPT_TEXTURE_ON">
-        <source>Where the images go: roofs take the one nearest to their height, walls have a band for each, storeys are floors at the images' heights (default roofs).</source>
-        <translation>Where the images go: roofs take the one nearest to their height, walls have a band for each, storeys are floors at the images' heights (default roofs).</translation>
+        <source>Position of the images: roofs show the image with the nearest height, walls have a band for each image, storeys are floors at the images' heights (default roofs).</source>
+        <translation>Position of the images: roofs show the image with the nearest height, walls have a band for each image, storeys are floors at the images' heights (default roofs).</translation>
     </message>
     <message id="MESS_OPT_WALL_COLOR">
         <source>Color of walls without an image, or colormap: from --image (default %1).</source>
@@ -92,68 +92,68 @@
         <translation>Color of edges (default %1).</translation>
     </message>
     <message id="MESS_OPT_FORCE_EDGES">
-        <source>Draw edges in any case.</source>
-        <translation>Draw edges in any case.</translation>
+        <source>Always draw edges.</source>
+        <translation>Always draw edges.</translation>
     </message>
     <message id="MESS_OPT_NO_COMPLEX_BUILDINGS">
         <source>No images on buildings with courtyards or many corners.</source>
         <translation>No images on buildings with courtyards or many corners.</translation>
     </message>
     <message id="MESS_OPT_CACHE">
-        <source>What the builder keeps of the finished buildings (default none).</source>
-        <translation>What the builder keeps of the finished buildings (default none).</translation>
+        <source>Finished buildings that the builder stores (default none).</source>
+        <translation>Finished buildings that the builder stores (default none).</translation>
     </message>
     <message id="MESS_OPT_DELAYED_WRITE">
-        <source>Write to the cache only when --cache-capacity elements wait.</source>
-        <translation>Write to the cache only when --cache-capacity elements wait.</translation>
+        <source>Write to the cache only when --cache-capacity elements are waiting.</source>
+        <translation>Write to the cache only when --cache-capacity elements are waiting.</translation>
     </message>
     <message id="MESS_OPT_COMPRESSION">
         <source>Compression of the images in graphics memory (default none).</source>
         <translation>Compression of the images in graphics memory (default none).</translation>
     </message>
     <message id="MESS_OPT_MAGNIFY">
-        <source>How pixels are drawn from near: as squares (default), or blended.</source>
-        <translation>How pixels are drawn from near: as squares (default), or blended.</translation>
+        <source>Drawing of pixels at a short distance: as squares (default), or blended.</source>
+        <translation>Drawing of pixels at a short distance: as squares (default), or blended.</translation>
     </message>
     <message id="MESS_OPT_DISTANCE">
         <source>Distance in metres up to which the buildings are shown</source>
         <translation>Distance in metres up to which the buildings are shown</translation>
     </message>
     <message id="MESS_OPT_TILE_SIZE">
-        <source>Side in metres of the tiles that the buildings are shared out to</source>
-        <translation>Side in metres of the tiles that the buildings are shared out to</translation>
+        <source>Side of the tiles of buildings in metres</source>
+        <translation>Side of the tiles of buildings in metres</translation>
     </message>
     <message id="MESS_OPT_SKIRT">
-        <source>Metres that walls go down below the ground</source>
-        <translation>Metres that walls go down below the ground</translation>
+        <source>Depth of the walls below the ground in metres</source>
+        <translation>Depth of the walls below the ground in metres</translation>
     </message>
     <message id="MESS_OPT_TEXTURED_DISTANCE">
         <source>Distance in metres up to which the images are shown</source>
         <translation>Distance in metres up to which the images are shown</translation>
     </message>
     <message id="MESS_OPT_CACHE_CAPACITY">
-        <source>Elements that wait before they are written to the cache</source>
-        <translation>Elements that wait before they are written to the cache</translation>
+        <source>Number of elements that wait before they are written to the cache</source>
+        <translation>Number of elements that wait before they are written to the cache</translation>
     </message>
     <message id="MESS_OPT_BUFFER">
-        <source>Metres outside a wall at which its colors are taken</source>
-        <translation>Metres outside a wall at which its colors are taken</translation>
+        <source>Distance in metres from a wall to the positions of its colors, outside the building</source>
+        <translation>Distance in metres from a wall to the positions of its colors, outside the building</translation>
     </message>
     <message id="MESS_OPT_DILATATION">
-        <source>Pixels by which the colors of an image grow into empty ones</source>
-        <translation>Pixels by which the colors of an image grow into empty ones</translation>
+        <source>Number of pixels by which the colors of an image grow into empty pixels</source>
+        <translation>Number of pixels by which the colors of an image grow into empty pixels</translation>
     </message>
     <message id="MESS_OPT_TOWN_OUTPUT">
-        <source>Layer file to write; the building document is written beside it as OUT.texb, the legend of a color map as NAME_gradient.png.</source>
-        <translation>Layer file to write; the building document is written beside it as OUT.texb, the legend of a color map as NAME_gradient.png.</translation>
+        <source>Layer file to write; the building document is written beside it as OUT.texb, and the legend of a color map as NAME_gradient.png.</source>
+        <translation>Layer file to write; the building document is written beside it as OUT.texb, and the legend of a color map as NAME_gradient.png.</translation>
     </message>
     <message id="MESS_OPT_DTM">
-        <source>Terrain raster that the buildings stand on (default: the project's).</source>
-        <translation>Terrain raster that the buildings stand on (default: the project's).</translation>
+        <source>Terrain raster under the buildings (default: the project's).</source>
+        <translation>Terrain raster under the buildings (default: the project's).</translation>
     </message>
     <message id="MESS_OPT_DTM_NODATA">
-        <source>Value of the terrain where its height is not known (default: what the file states).</source>
-        <translation>Value of the terrain where its height is not known (default: what the file states).</translation>
+        <source>Value of the terrain for unknown heights (default: the value that the file declares).</source>
+        <translation>Value of the terrain for unknown heights (default: the value that the file declares).</translation>
     </message>
     <message id="MESS_OPT_VECTOR_LAYER">
         <source>Layer of the vector file (default: the first one of polygons).</source>
@@ -164,8 +164,8 @@
         <translation>Field with the heights of the buildings (default: AGL, H, HEIGHT or COLOR, else the second one).</translation>
     </message>
     <message id="MESS_OPT_CHECK_CLOCKWISE">
-        <source>Have the directions of the outlines checked.</source>
-        <translation>Have the directions of the outlines checked.</translation>
+        <source>Check the directions of the outlines.</source>
+        <translation>Check the directions of the outlines.</translation>
     </message>
     <message id="MESS_USE_COLOR_OR_MAP">
         <source>RRGGBB, a name such as red or the word colormap</source>
@@ -180,40 +180,40 @@
         <translation>a number</translation>
     </message>
     <message id="MESS_USE_BOTH_TEXTURES">
-        <source>--texture and --textures do not go together</source>
-        <translation>--texture and --textures do not go together</translation>
+        <source>--texture and --textures cannot be combined</source>
+        <translation>--texture and --textures cannot be combined</translation>
     </message>
     <message id="MESS_USE_ONLY_IMAGE">
-        <source>%1 is only for --image</source>
-        <translation>%1 is only for --image</translation>
+        <source>%1 needs --image</source>
+        <translation>%1 needs --image</translation>
     </message>
     <message id="MESS_USE_ONLY_SET">
-        <source>%1 is only for --textures</source>
-        <translation>%1 is only for --textures</translation>
+        <source>%1 needs --textures</source>
+        <translation>%1 needs --textures</translation>
     </message>
     <message id="MESS_USE_ONLY_TEXTURES">
-        <source>%1 is only for --texture and --textures</source>
-        <translation>%1 is only for --texture and --textures</translation>
+        <source>%1 needs --texture or --textures</source>
+        <translation>%1 needs --texture or --textures</translation>
     </message>
     <message id="MESS_USE_NOT_IMAGE">
-        <source>%1 is not for buildings that --image colors alone</source>
-        <translation>%1 is not for buildings that --image colors alone</translation>
+        <source>%1 cannot be used when --image alone colors the buildings</source>
+        <translation>%1 cannot be used when --image alone colors the buildings</translation>
     </message>
     <message id="MESS_USE_NO_VALUE">
         <source>%1 needs a value</source>
         <translation>%1 needs a value</translation>
     </message>
     <message id="MESS_USE_NEEDS_CACHE">
-        <source>--%1 needs a --cache</source>
-        <translation>--%1 needs a --cache</translation>
+        <source>--%1 needs --cache</source>
+        <translation>--%1 needs --cache</translation>
     </message>
     <message id="MESS_USE_NEEDS_IMAGE">
-        <source>colormap as a color needs --image</source>
-        <translation>colormap as a color needs --image</translation>
+        <source>the color colormap needs --image</source>
+        <translation>the color colormap needs --image</translation>
     </message>
     <message id="MESS_USE_NEEDS_COLORMAP">
-        <source>--image colors these buildings only with --wall-color colormap or --roof-color colormap</source>
-        <translation>--image colors these buildings only with --wall-color colormap or --roof-color colormap</translation>
+        <source>--image needs --wall-color colormap or --roof-color colormap for these buildings</source>
+        <translation>--image needs --wall-color colormap or --roof-color colormap for these buildings</translation>
     </message>
     <message id="MESS_USE_TEXTURES_EMPTY">
         <source>--texture and --textures need a value</source>
@@ -224,8 +224,8 @@
         <translation>no output file given (-o OUT.lay)</translation>
     </message>
     <message id="MESS_USE_NO_STANDARD_OUTPUT">
-        <source>'-o -': a layer of buildings lies beside its document, it has to be a file</source>
-        <translation>'-o -': a layer of buildings lies beside its document, it has to be a file</translation>
+        <source>'-o -': a layer of buildings must be a file, because its document is written beside it</source>
+        <translation>'-o -': a layer of buildings must be a file, because its document is written beside it</translation>
     </message>
     <message id="MESS_USE_UNKNOWN_OPTION">
         <source>unknown option '%1'</source>
@@ -244,28 +244,28 @@
         <translation>too many arguments: %1</translation>
     </message>
     <message id="MESS_USE_NO_INPUT">
-        <source>'-': the standard input is not read, inputs are files</source>
-        <translation>'-': the standard input is not read, inputs are files</translation>
+        <source>'-': inputs are files, the standard input is not read</source>
+        <translation>'-': inputs are files, the standard input is not read</translation>
     </message>
     <message id="MESS_OPT_INSTALL">
-        <source>Root of the installation (default: where the program's settings say, else the program's own directory).</source>
-        <translation>Root of the installation (default: where the program's settings say, else the program's own directory).</translation>
+        <source>Root of the installation (default: the directory in the program's settings, else the program's own directory).</source>
+        <translation>Root of the installation (default: the directory in the program's settings, else the program's own directory).</translation>
     </message>
     <message id="MESS_OPT_PROJECT">
-        <source>Target project: its reference system and terrain choose the coordinate systems, and the layer names the table relative to it; buildings: its buildings and terrain are the defaults.</source>
-        <translation>Target project: its reference system and terrain choose the coordinate systems, and the layer names the table relative to it; buildings: its buildings and terrain are the defaults.</translation>
+        <source>Target project: its reference system and terrain determine the default coordinate systems, and the path of the table in the layer is relative to its directory. For buildings, its buildings and terrain are the defaults.</source>
+        <translation>Target project: its reference system and terrain determine the default coordinate systems, and the path of the table in the layer is relative to its directory. For buildings, its buildings and terrain are the defaults.</translation>
     </message>
     <message id="MESS_OPT_LANGUAGE">
         <source>Language of messages and of the layer.</source>
         <translation>Language of messages and of the layer.</translation>
     </message>
     <message id="MESS_OPT_JSON">
-        <source>Print one JSON object (UTF-8); errors, too.</source>
-        <translation>Print one JSON object (UTF-8); errors, too.</translation>
+        <source>Print one JSON object (UTF-8), also for errors.</source>
+        <translation>Print one JSON object (UTF-8), also for errors.</translation>
     </message>
     <message id="MESS_OPT_QUIET">
-        <source>Tell nothing on the error output but errors.</source>
-        <translation>Tell nothing on the error output but errors.</translation>
+        <source>Print only errors on the error output.</source>
+        <translation>Print only errors on the error output.</translation>
     </message>
     <message id="MESS_OPT_HELP">
         <source>Show this help.</source>
@@ -276,8 +276,8 @@
         <translation>Show the versions of the program and of its libraries.</translation>
     </message>
     <message id="MESS_USE_TWO_OUTPUTS">
-        <source>'-o -' and %1 do not go together: both write to the standard output</source>
-        <translation>'-o -' and %1 do not go together: both write to the standard output</translation>
+        <source>'-o -' and %1 cannot be combined: both write to the standard output</source>
+        <translation>'-o -' and %1 cannot be combined: both write to the standard output</translation>
     </message>
     <message id="MESS_USE_WRONG_VALUE">
         <source>--%1 is %2, not "%3"</source>
@@ -316,16 +316,16 @@
         <translation>help [COMMAND]</translation>
     </message>
     <message id="MESS_HELP_HELP_SUMMARY">
-        <source>the options of a command</source>
-        <translation>the options of a command</translation>
+        <source>show the options of a command</source>
+        <translation>show the options of a command</translation>
     </message>
     <message id="MESS_HELP_PROGRAM_USAGE">
         <source>COMMAND [OPTION]...</source>
         <translation>COMMAND [OPTION]...</translation>
     </message>
     <message id="MESS_HELP_PROGRAM">
-        <source>Makes layers of telecom tables and of buildings for a 3D project.</source>
-        <translation>Makes layers of telecom tables and of buildings for a 3D project.</translation>
+        <source>Makes layers of a 3D project from telecom tables and buildings.</source>
+        <translation>Makes layers of a 3D project from telecom tables and buildings.</translation>
     </message>
     <message id="MESS_HELP_COMMANDS">
         <source>Commands:</source>
@@ -336,12 +336,12 @@
         <translation>try '%1'</translation>
     </message>
     <message id="MESS_HELP_INFO_SUMMARY">
-        <source>what tables hold</source>
-        <translation>what tables hold</translation>
+        <source>show the properties of tables</source>
+        <translation>show the properties of tables</translation>
     </message>
     <message id="MESS_HELP_INFO">
-        <source>Tells what a table of sites or links holds: format, unit, coordinate systems, recognised columns, and the rows that cannot be used.</source>
-        <translation>Tells what a table of sites or links holds: format, unit, coordinate systems, recognised columns, and the rows that cannot be used.</translation>
+        <source>Shows the properties of tables of sites or links: format, unit, coordinate systems, recognised columns, and the rows that cannot be used.</source>
+        <translation>Shows the properties of tables of sites or links: format, unit, coordinate systems, recognised columns, and the rows that cannot be used.</translation>
     </message>
     <message id="MESS_HELP_INFO_TABLE">
         <source>Site or link table (.xls .xlsx .xml .csv); one or more.</source>
@@ -364,24 +364,24 @@
         <translation>Layer file to write; - for the standard output.</translation>
     </message>
     <message id="MESS_OPT_SOURCE_SRS">
-        <source>Coordinate system of the table (default: what the table declares, else 4326 for degrees, else the terrain's).</source>
-        <translation>Coordinate system of the table (default: what the table declares, else 4326 for degrees, else the terrain's).</translation>
+        <source>Coordinate system of the table (default: the one that the table declares, else 4326 for degrees, else the terrain's).</source>
+        <translation>Coordinate system of the table (default: the one that the table declares, else 4326 for degrees, else the terrain's).</translation>
     </message>
     <message id="MESS_OPT_TARGET_SRS">
         <source>Coordinate system of the project (default: the project's, else the terrain's, else 4326 for degrees, else the table's).</source>
         <translation>Coordinate system of the project (default: the project's, else the terrain's, else 4326 for degrees, else the table's).</translation>
     </message>
     <message id="MESS_OPT_SHEET">
-        <source>Sheet of a workbook (default: the one whose header names sites or links).</source>
-        <translation>Sheet of a workbook (default: the one whose header names sites or links).</translation>
+        <source>Sheet of a workbook (default: the sheet with a header of sites or links).</source>
+        <translation>Sheet of a workbook (default: the sheet with a header of sites or links).</translation>
     </message>
     <message id="MESS_OPT_ENCODING">
-        <source>Encoding of a text file, such as CP1250 (default: found from its bytes).</source>
-        <translation>Encoding of a text file, such as CP1250 (default: found from its bytes).</translation>
+        <source>Encoding of a text file, such as CP1250 (default: the encoding that fits its bytes).</source>
+        <translation>Encoding of a text file, such as CP1250 (default: the encoding that fits its bytes).</translation>
     </message>
     <message id="MESS_OPT_DELIMITER">
-        <source>What separates the columns of a text file (default: found from its lines).</source>
-        <translation>What separates the columns of a text file (default: found from its lines).</translation>
+        <source>Separator of the columns of a text file (default: the separator that fits its lines).</source>
+        <translation>Separator of the columns of a text file (default: the separator that fits its lines).</translation>
     </message>
     <message id="MESS_USE_ENCODING">
         <source>the name of an encoding</source>
@@ -392,8 +392,8 @@
         <translation>make a layer of links, check their clearance</translation>
     </message>
     <message id="MESS_HELP_LINK">
-        <source>Makes the same layer from a table of microwave links as the wizard, and checks the clearance of each link over the terrain.</source>
-        <translation>Makes the same layer from a table of microwave links as the wizard, and checks the clearance of each link over the terrain.</translation>
+        <source>Makes a layer from a table of microwave links, like the wizard, and checks the clearance of each link over the terrain.</source>
+        <translation>Makes a layer from a table of microwave links, like the wizard, and checks the clearance of each link over the terrain.</translation>
     </message>
     <message id="MESS_HELP_LINK_TABLE">
         <source>Link table (.xls .xlsx .xml .csv).</source>
@@ -412,8 +412,8 @@
         <translation>no output file given (-o OUT.lay), and no --report</translation>
     </message>
     <message id="MESS_OPT_LINK_WIDTH">
-        <source>Width of the links, pixels for lines, else metres</source>
-        <translation>Width of the links, pixels for lines, else metres</translation>
+        <source>Width of the links, in pixels for lines, else in metres</source>
+        <translation>Width of the links, in pixels for lines, else in metres</translation>
     </message>
     <message id="MESS_OPT_FRESNEL_ZONE">
         <source>Number of the Fresnel zone that is drawn, 0 for none</source>
@@ -436,8 +436,8 @@
         <translation>RRGGBB, RRGGBBAA or a name such as red</translation>
     </message>
     <message id="MESS_OPT_LINK_STYLE">
-        <source>How links are drawn (default %1).</source>
-        <translation>How links are drawn (default %1).</translation>
+        <source>Representation of the links (default %1).</source>
+        <translation>Representation of the links (default %1).</translation>
     </message>
     <message id="MESS_OPT_LINK_COLOR">
         <source>Color of the links (default %1).</source>
@@ -472,8 +472,8 @@
         <translation>make a layer of sites</translation>
     </message>
     <message id="MESS_HELP_SITE">
-        <source>Makes a site layer of a table, the same that the wizard makes.</source>
-        <translation>Makes a site layer of a table, the same that the wizard makes.</translation>
+        <source>Makes a site layer from a table, like the wizard.</source>
+        <translation>Makes a site layer from a table, like the wizard.</translation>
     </message>
     <message id="MESS_HELP_SITE_TABLE">
         <source>Site table (.xls .xlsx .xml .csv).</source>
@@ -516,8 +516,8 @@
         <translation>--%1: no "%2" (%3)</translation>
     </message>
     <message id="MESS_OPT_SECTOR_COLORS">
-        <source>Sector colors: a set's number in the catalogue, from 1, or its name in any language (default 1).</source>
-        <translation>Sector colors: a set's number in the catalogue, from 1, or its name in any language (default 1).</translation>
+        <source>Sector colors: the number of a set in the catalogue, from 1, or its name in any language (default 1).</source>
+        <translation>Sector colors: the number of a set in the catalogue, from 1, or its name in any language (default 1).</translation>
     </message>
     <message id="MESS_OPT_PYLON_TYPE">
         <source>Type of pylons, or its number in the catalogue, from 1, or its name in any language (default 1).</source>
@@ -536,8 +536,8 @@
         <translation>make a picture of a layer</translation>
     </message>
     <message id="MESS_HELP_SNAPSHOT">
-        <source>Makes a picture (PNG) of a layer or of another scene file. It needs an X server; without a screen xvfb-run gives one.</source>
-        <translation>Makes a picture (PNG) of a layer or of another scene file. It needs an X server; without a screen xvfb-run gives one.</translation>
+        <source>Makes a picture (PNG) of a layer or of another scene file. It needs an X server; xvfb-run provides one on a computer without a screen.</source>
+        <translation>Makes a picture (PNG) of a layer or of another scene file. It needs an X server; xvfb-run provides one on a computer without a screen.</translation>
     </message>
     <message id="MESS_HELP_SNAPSHOT_LAYER">
         <source>Layer (.lay), building document (.texb), any scene file that the scene library reads, or a parametric object inline://parametric/query?...</source>
@@ -560,44 +560,44 @@
         <translation>all: everything, from the south-west (default); symbolic: the sectors of the site in the middle; precise: its mast and antennas.</translation>
     </message>
     <message id="MESS_OPT_SHOW_TERRAIN">
-        <source>Links: show the surface of the project's terrain, too.</source>
-        <translation>Links: show the surface of the project's terrain, too.</translation>
+        <source>For links: show the surface of the project's terrain too.</source>
+        <translation>For links: show the surface of the project's terrain too.</translation>
     </message>
     <message id="MESS_USE_NO_PICTURE">
         <source>no output file given (-o PICTURE.png)</source>
         <translation>no output file given (-o PICTURE.png)</translation>
     </message>
     <message id="MESS_USE_PNG">
-        <source>the picture is a PNG: its name has to end in .png</source>
-        <translation>the picture is a PNG: its name has to end in .png</translation>
+        <source>the picture is in PNG format: its name must end in .png</source>
+        <translation>the picture is in PNG format: its name must end in .png</translation>
     </message>
     <message id="MESS_USE_SIZE">
         <source>WxH, each of %1 to %2 pixels</source>
         <translation>WxH, each of %1 to %2 pixels</translation>
     </message>
     <message id="MESS_CLI_TABLE_NO_SCENE">
-        <source>a table becomes a layer first, by "vltlayers site" or "vltlayers link"</source>
-        <translation>a table becomes a layer first, by "vltlayers site" or "vltlayers link"</translation>
+        <source>this is a table: make a layer of it with "vltlayers site" or "vltlayers link" first</source>
+        <translation>this is a table: make a layer of it with "vltlayers site" or "vltlayers link" first</translation>
     </message>
     <message id="MESS_CLI_NO_INSTALL_DIR">
-        <source>no such install directory</source>
-        <translation>no such install directory</translation>
+        <source>this install directory does not exist</source>
+        <translation>this install directory does not exist</translation>
     </message>
     <message id="MESS_USE_DID_YOU_MEAN">
         <source>; did you mean '%1'?</source>
         <translation>; did you mean '%1'?</translation>
     </message>
     <message id="MESS_USE_NO_COMMAND">
-        <source>no such command: %1</source>
-        <translation>no such command: %1</translation>
+        <source>unknown command: %1</source>
+        <translation>unknown command: %1</translation>
     </message>
     <message id="MESS_USE_COMMAND_MISSING">
         <source>no command given</source>
         <translation>no command given</translation>
     </message>
     <message id="MESS_CLI_NAME_NOT_UTF8">
-        <source>this name is not in UTF-8: give the file another one</source>
-        <translation>this name is not in UTF-8: give the file another one</translation>
+        <source>this name is not in UTF-8: rename the file</source>
+        <translation>this name is not in UTF-8: rename the file</translation>
     </message>
 </context>
 </TS>

@@ -12,8 +12,8 @@
         <translation>créer une couche de bâtiments</translation>
     </message>
     <message id="MESS_HELP_BUILDINGS">
-        <source>Makes a layer of 3D buildings, the same that the wizard makes: colored from a raster (--image), with images on roofs, walls or storeys (--texture, --textures), or plain.</source>
-        <translation>Crée une couche de bâtiments 3D, la même que celle de l'assistant&#xa0;: colorés d'après un raster (--image), avec des images sur les toits, les murs ou les étages (--texture, --textures), ou unis.</translation>
+        <source>Makes a layer of 3D buildings, like the wizard: colored from a raster (--image), with images on roofs, walls or storeys (--texture, --textures), or plain.</source>
+        <translation>Crée une couche de bâtiments 3D, comme l'assistant : colorés d'après un raster (--image), avec des images sur les toits, les murs ou les étages (--texture, --textures), ou unis.</translation>
     </message>
     <message id="MESS_HELP_BUILDINGS_VECTOR">
         <source>Vector file with the outlines of the buildings (default: the project's).</source>
@@ -36,48 +36,48 @@
         <translation>la sortie ne peut pas être écrite</translation>
     </message>
     <message id="MESS_OPT_IMAGE">
-        <source>Raster of one band that the buildings are colored from: a file, or the name of one of its subdatasets.</source>
-        <translation>Raster à une bande d'après lequel les bâtiments sont colorés&#xa0;: un fichier, ou le nom de l'une des images qu'il contient.</translation>
+        <source>Raster of one band whose values color the buildings: a file, or the name of an image in a file.</source>
+        <translation>Raster à une bande dont les valeurs colorent les bâtiments : un fichier, ou le nom d'une image d'un fichier.</translation>
     </message>
     <message id="MESS_OPT_IMAGE_NODATA">
-        <source>Value of the image's pixels without a value, besides those that the file states (default none).</source>
-        <translation>Valeur des pixels de l'image sans donnée, en plus de celles que le fichier indique (par défaut&#xa0;: aucune).</translation>
+        <source>Value of pixels without data, in addition to the value that the file declares (default none).</source>
+        <translation>Valeur des pixels sans donnée, en plus de celle que le fichier déclare (par défaut : aucune).</translation>
     </message>
     <message id="MESS_OPT_COLORMAP">
         <source>Color map: one of the installation's by its name, or a file (default: the installation's first one).</source>
         <translation>Palette de couleurs&#xa0;: l'une de celles de l'installation, par son nom, ou un fichier (par défaut&#xa0;: la première de l'installation).</translation>
     </message>
     <message id="MESS_OPT_ABSOLUTE">
-        <source>Take the color map's own values (default: it is stretched over the image's least and greatest value).</source>
-        <translation>Prendre les valeurs propres de la palette (par défaut, elle est étirée entre la plus petite et la plus grande valeur de l'image).</translation>
+        <source>Use the color map's own values (default: the map is stretched between the image's minimum and maximum value).</source>
+        <translation>Utiliser les valeurs propres de la palette (par défaut, elle est étirée entre les valeurs minimale et maximale de l'image).</translation>
     </message>
     <message id="MESS_OPT_COLOR_RANGES">
-        <source>Color ranges of values (default: colors between two values of the map are interpolated).</source>
-        <translation>Colorer des plages de valeurs (par défaut, les couleurs entre deux valeurs de la palette sont interpolées).</translation>
+        <source>Use one color for each range of values (default: colors between two values of the map are interpolated).</source>
+        <translation>Utiliser une seule couleur par plage de valeurs (par défaut, les couleurs entre deux valeurs de la palette sont interpolées).</translation>
     </message>
     <message id="MESS_OPT_MODE">
-        <source>Which of the values under a building colors it (default minimum).</source>
-        <translation>Celle des valeurs sous un bâtiment qui lui donne sa couleur (par défaut minimum).</translation>
+        <source>Value under a building that determines its color (default minimum).</source>
+        <translation>Valeur sous un bâtiment qui détermine sa couleur (par défaut minimum).</translation>
     </message>
     <message id="MESS_OPT_TEXTURE">
-        <source>Image for the height above the ground that is given, or that it or its name states. May be given several times.</source>
-        <translation>Image pour la hauteur au-dessus du sol qui est indiquée, ou que l'image ou son nom donne. Peut être répétée.</translation>
+        <source>Image for a height in metres above the ground: the given height, else the height in the image's metadata or name. May be given several times.</source>
+        <translation>Image pour une hauteur en mètres au-dessus du sol : la hauteur indiquée, sinon celle des métadonnées ou du nom de l'image. Peut être répétée.</translation>
     </message>
     <message id="MESS_OPT_TEXTURES">
-        <source>One image of a set; the others are found by it.</source>
-        <translation>Une image d'un ensemble&#xa0;; les autres sont trouvées d'après elle.</translation>
+        <source>One image of a set; the others are those with the same suffix.</source>
+        <translation>Une image d'un ensemble ; les autres sont celles de même extension.</translation>
     </message>
     <message id="MESS_OPT_STRUCTURE">
-        <source>Where they are: in the template's folder (default), in the folders beside it, or in the folders of the folders beside its parent.</source>
-        <translation>Où elles se trouvent&#xa0;: dans le dossier du modèle (par défaut), dans les dossiers voisins, ou dans les dossiers des dossiers voisins de son parent.</translation>
+        <source>Folders of the set: the image's folder (default), its sibling folders, or the folders in the sibling folders of its parent.</source>
+        <translation>Dossiers de l'ensemble : le dossier de l'image (par défaut), les dossiers voisins, ou les dossiers des dossiers voisins de son parent.</translation>
     </message>
     <message id="MESS_OPT_FILTER">
-        <source>Of the set only images with this in their file name, folder, description or height.</source>
-        <translation>De l'ensemble, seulement les images avec ce texte dans le nom, le dossier, la description ou la hauteur.</translation>
+        <source>Use only images of the set with this text in their file name, folder, description or height.</source>
+        <translation>N'utiliser que les images de l'ensemble avec ce texte dans le nom de fichier, le dossier, la description ou la hauteur.</translation>
     </message>
     <message id="MESS_OPT_TEXTURE_ON">
-        <source>Where the images go: roofs take the one nearest to their height, walls have a band for each, storeys are floors at the images' heights (default roofs).</source>
-        <translation>Où vont les images&#xa0;: les toits (roofs) prennent la plus proche de leur hauteur, les murs (walls) ont une bande pour chacune, les étages (storeys) sont des planchers à leurs hauteurs (par défaut roofs).</translation>
+        <source>Position of the images: roofs show the image with the nearest height, walls have a band for each image, storeys are floors at the images' heights (default roofs).</source>
+        <translation>Position des images : les toits (roofs) prennent l'image de hauteur la plus proche, les murs (walls) ont une bande pour chaque image, les étages (storeys) sont des planchers aux hauteurs des images (par défaut roofs).</translation>
     </message>
     <message id="MESS_OPT_WALL_COLOR">
         <source>Color of walls without an image, or colormap: from --image (default %1).</source>
@@ -92,68 +92,68 @@
         <translation>Couleur des arêtes (par défaut %1).</translation>
     </message>
     <message id="MESS_OPT_FORCE_EDGES">
-        <source>Draw edges in any case.</source>
-        <translation>Tracer les arêtes dans tous les cas.</translation>
+        <source>Always draw edges.</source>
+        <translation>Toujours tracer les arêtes.</translation>
     </message>
     <message id="MESS_OPT_NO_COMPLEX_BUILDINGS">
         <source>No images on buildings with courtyards or many corners.</source>
         <translation>Pas d'image sur les bâtiments avec des cours ou beaucoup d'angles.</translation>
     </message>
     <message id="MESS_OPT_CACHE">
-        <source>What the builder keeps of the finished buildings (default none).</source>
-        <translation>Ce que l'outil 3D garde des bâtiments terminés (par défaut none, rien).</translation>
+        <source>Finished buildings that the builder stores (default none).</source>
+        <translation>Bâtiments terminés que l'outil 3D conserve (par défaut none, aucun).</translation>
     </message>
     <message id="MESS_OPT_DELAYED_WRITE">
-        <source>Write to the cache only when --cache-capacity elements wait.</source>
-        <translation>N'écrire dans le cache que lorsque --cache-capacity éléments attendent.</translation>
+        <source>Write to the cache only when --cache-capacity elements are waiting.</source>
+        <translation>N'écrire dans le cache que lorsque --cache-capacity éléments sont en attente.</translation>
     </message>
     <message id="MESS_OPT_COMPRESSION">
         <source>Compression of the images in graphics memory (default none).</source>
         <translation>Compression des images en mémoire graphique (par défaut none, aucune).</translation>
     </message>
     <message id="MESS_OPT_MAGNIFY">
-        <source>How pixels are drawn from near: as squares (default), or blended.</source>
-        <translation>Affichage des pixels de près&#xa0;: en carrés (par défaut), ou fondus.</translation>
+        <source>Drawing of pixels at a short distance: as squares (default), or blended.</source>
+        <translation>Affichage des pixels à courte distance : en carrés (par défaut), ou fondus.</translation>
     </message>
     <message id="MESS_OPT_DISTANCE">
         <source>Distance in metres up to which the buildings are shown</source>
         <translation>Distance en mètres jusqu'à laquelle les bâtiments sont affichés</translation>
     </message>
     <message id="MESS_OPT_TILE_SIZE">
-        <source>Side in metres of the tiles that the buildings are shared out to</source>
-        <translation>Côté en mètres des tuiles entre lesquelles les bâtiments sont répartis</translation>
+        <source>Side of the tiles of buildings in metres</source>
+        <translation>Côté des tuiles de bâtiments en mètres</translation>
     </message>
     <message id="MESS_OPT_SKIRT">
-        <source>Metres that walls go down below the ground</source>
-        <translation>Mètres dont les murs descendent sous le sol</translation>
+        <source>Depth of the walls below the ground in metres</source>
+        <translation>Profondeur des murs sous le sol en mètres</translation>
     </message>
     <message id="MESS_OPT_TEXTURED_DISTANCE">
         <source>Distance in metres up to which the images are shown</source>
         <translation>Distance en mètres jusqu'à laquelle les images sont affichées</translation>
     </message>
     <message id="MESS_OPT_CACHE_CAPACITY">
-        <source>Elements that wait before they are written to the cache</source>
+        <source>Number of elements that wait before they are written to the cache</source>
         <translation>Nombre d'éléments qui attendent avant l'écriture dans le cache</translation>
     </message>
     <message id="MESS_OPT_BUFFER">
-        <source>Metres outside a wall at which its colors are taken</source>
-        <translation>Mètres à l'extérieur d'un mur où ses couleurs sont prises</translation>
+        <source>Distance in metres from a wall to the positions of its colors, outside the building</source>
+        <translation>Distance en mètres d'un mur aux positions de ses couleurs, à l'extérieur du bâtiment</translation>
     </message>
     <message id="MESS_OPT_DILATATION">
-        <source>Pixels by which the colors of an image grow into empty ones</source>
-        <translation>Pixels dont les couleurs d'une image débordent sur les pixels vides</translation>
+        <source>Number of pixels by which the colors of an image grow into empty pixels</source>
+        <translation>Nombre de pixels dont les couleurs d'une image débordent sur les pixels vides</translation>
     </message>
     <message id="MESS_OPT_TOWN_OUTPUT">
-        <source>Layer file to write; the building document is written beside it as OUT.texb, the legend of a color map as NAME_gradient.png.</source>
+        <source>Layer file to write; the building document is written beside it as OUT.texb, and the legend of a color map as NAME_gradient.png.</source>
         <translation>Fichier de couche à écrire&#xa0;; le document des bâtiments est écrit à côté sous le nom OUT.texb, la légende d'une palette sous le nom NOM_gradient.png.</translation>
     </message>
     <message id="MESS_OPT_DTM">
-        <source>Terrain raster that the buildings stand on (default: the project's).</source>
-        <translation>Raster du terrain sur lequel les bâtiments se dressent (par défaut&#xa0;: celui du projet).</translation>
+        <source>Terrain raster under the buildings (default: the project's).</source>
+        <translation>Raster du terrain sous les bâtiments (par défaut : celui du projet).</translation>
     </message>
     <message id="MESS_OPT_DTM_NODATA">
-        <source>Value of the terrain where its height is not known (default: what the file states).</source>
-        <translation>Valeur du terrain là où sa hauteur n'est pas connue (par défaut&#xa0;: celle que le fichier indique).</translation>
+        <source>Value of the terrain for unknown heights (default: the value that the file declares).</source>
+        <translation>Valeur du terrain pour les altitudes inconnues (par défaut : celle que le fichier déclare).</translation>
     </message>
     <message id="MESS_OPT_VECTOR_LAYER">
         <source>Layer of the vector file (default: the first one of polygons).</source>
@@ -164,8 +164,8 @@
         <translation>Champ des hauteurs des bâtiments (par défaut&#xa0;: AGL, H, HEIGHT ou COLOR, sinon le deuxième).</translation>
     </message>
     <message id="MESS_OPT_CHECK_CLOCKWISE">
-        <source>Have the directions of the outlines checked.</source>
-        <translation>Faire vérifier le sens des contours.</translation>
+        <source>Check the directions of the outlines.</source>
+        <translation>Vérifier le sens des contours.</translation>
     </message>
     <message id="MESS_USE_COLOR_OR_MAP">
         <source>RRGGBB, a name such as red or the word colormap</source>
@@ -180,40 +180,40 @@
         <translation>un nombre</translation>
     </message>
     <message id="MESS_USE_BOTH_TEXTURES">
-        <source>--texture and --textures do not go together</source>
-        <translation>--texture et --textures ne vont pas ensemble</translation>
+        <source>--texture and --textures cannot be combined</source>
+        <translation>--texture et --textures ne peuvent pas être combinées</translation>
     </message>
     <message id="MESS_USE_ONLY_IMAGE">
-        <source>%1 is only for --image</source>
+        <source>%1 needs --image</source>
         <translation>%1 ne va qu'avec --image</translation>
     </message>
     <message id="MESS_USE_ONLY_SET">
-        <source>%1 is only for --textures</source>
+        <source>%1 needs --textures</source>
         <translation>%1 ne va qu'avec --textures</translation>
     </message>
     <message id="MESS_USE_ONLY_TEXTURES">
-        <source>%1 is only for --texture and --textures</source>
-        <translation>%1 ne va qu'avec --texture et --textures</translation>
+        <source>%1 needs --texture or --textures</source>
+        <translation>%1 ne va qu'avec --texture ou --textures</translation>
     </message>
     <message id="MESS_USE_NOT_IMAGE">
-        <source>%1 is not for buildings that --image colors alone</source>
-        <translation>%1 n'est pas pour les bâtiments que --image seule colore</translation>
+        <source>%1 cannot be used when --image alone colors the buildings</source>
+        <translation>%1 ne peut pas être utilisée lorsque --image seule colore les bâtiments</translation>
     </message>
     <message id="MESS_USE_NO_VALUE">
         <source>%1 needs a value</source>
         <translation>%1 attend une valeur</translation>
     </message>
     <message id="MESS_USE_NEEDS_CACHE">
-        <source>--%1 needs a --cache</source>
+        <source>--%1 needs --cache</source>
         <translation>--%1 ne va qu'avec --cache</translation>
     </message>
     <message id="MESS_USE_NEEDS_IMAGE">
-        <source>colormap as a color needs --image</source>
-        <translation>colormap comme couleur ne va qu'avec --image</translation>
+        <source>the color colormap needs --image</source>
+        <translation>la couleur colormap ne va qu'avec --image</translation>
     </message>
     <message id="MESS_USE_NEEDS_COLORMAP">
-        <source>--image colors these buildings only with --wall-color colormap or --roof-color colormap</source>
-        <translation>--image ne colore ces bâtiments qu'avec --wall-color colormap ou --roof-color colormap</translation>
+        <source>--image needs --wall-color colormap or --roof-color colormap for these buildings</source>
+        <translation>pour ces bâtiments, --image ne va qu'avec --wall-color colormap ou --roof-color colormap</translation>
     </message>
     <message id="MESS_USE_TEXTURES_EMPTY">
         <source>--texture and --textures need a value</source>
@@ -224,8 +224,8 @@
         <translation>aucun fichier de sortie n'est indiqué (-o OUT.lay)</translation>
     </message>
     <message id="MESS_USE_NO_STANDARD_OUTPUT">
-        <source>'-o -': a layer of buildings lies beside its document, it has to be a file</source>
-        <translation>'-o -'&#xa0;: une couche de bâtiments se trouve à côté de son document, elle doit être un fichier</translation>
+        <source>'-o -': a layer of buildings must be a file, because its document is written beside it</source>
+        <translation>'-o -' : une couche de bâtiments doit être un fichier, car son document est écrit à côté</translation>
     </message>
     <message id="MESS_USE_UNKNOWN_OPTION">
         <source>unknown option '%1'</source>
@@ -244,28 +244,28 @@
         <translation>trop d'arguments&#xa0;: %1</translation>
     </message>
     <message id="MESS_USE_NO_INPUT">
-        <source>'-': the standard input is not read, inputs are files</source>
-        <translation>«&#xa0;-&#xa0;»&#xa0;: l'entrée standard n'est pas lue, les entrées sont des fichiers</translation>
+        <source>'-': inputs are files, the standard input is not read</source>
+        <translation>« - » : les entrées sont des fichiers, l'entrée standard n'est pas lue</translation>
     </message>
     <message id="MESS_OPT_INSTALL">
-        <source>Root of the installation (default: where the program's settings say, else the program's own directory).</source>
-        <translation>Racine de l'installation (par défaut&#xa0;: là où les réglages du programme l'indiquent, sinon le dossier du programme).</translation>
+        <source>Root of the installation (default: the directory in the program's settings, else the program's own directory).</source>
+        <translation>Racine de l'installation (par défaut : le dossier indiqué par les réglages du programme, sinon celui du programme).</translation>
     </message>
     <message id="MESS_OPT_PROJECT">
-        <source>Target project: its reference system and terrain choose the coordinate systems, and the layer names the table relative to it; buildings: its buildings and terrain are the defaults.</source>
-        <translation>Projet cible&#xa0;: son système de référence et son terrain choisissent les systèmes de coordonnées, et la couche nomme le tableau par rapport à lui&#xa0;; bâtiments&#xa0;: les siens et son terrain sont pris par défaut.</translation>
+        <source>Target project: its reference system and terrain determine the default coordinate systems, and the path of the table in the layer is relative to its directory. For buildings, its buildings and terrain are the defaults.</source>
+        <translation>Projet cible : son système de référence et son terrain déterminent les systèmes de coordonnées par défaut, et le chemin du tableau dans la couche est relatif à son dossier. Pour les bâtiments, les siens et son terrain sont pris par défaut.</translation>
     </message>
     <message id="MESS_OPT_LANGUAGE">
         <source>Language of messages and of the layer.</source>
         <translation>Langue des messages et de la couche.</translation>
     </message>
     <message id="MESS_OPT_JSON">
-        <source>Print one JSON object (UTF-8); errors, too.</source>
+        <source>Print one JSON object (UTF-8), also for errors.</source>
         <translation>Afficher un objet JSON (UTF-8), pour les erreurs aussi.</translation>
     </message>
     <message id="MESS_OPT_QUIET">
-        <source>Tell nothing on the error output but errors.</source>
-        <translation>Ne rien dire d'autre que les erreurs sur la sortie d'erreur.</translation>
+        <source>Print only errors on the error output.</source>
+        <translation>N'afficher que les erreurs sur la sortie d'erreur.</translation>
     </message>
     <message id="MESS_OPT_HELP">
         <source>Show this help.</source>
@@ -276,8 +276,8 @@
         <translation>Afficher les versions du programme et de ses bibliothèques.</translation>
     </message>
     <message id="MESS_USE_TWO_OUTPUTS">
-        <source>'-o -' and %1 do not go together: both write to the standard output</source>
-        <translation>'-o -' et %1 ne vont pas ensemble&#xa0;: les deux écrivent sur la sortie standard</translation>
+        <source>'-o -' and %1 cannot be combined: both write to the standard output</source>
+        <translation>'-o -' et %1 ne peuvent pas être combinées : les deux écrivent sur la sortie standard</translation>
     </message>
     <message id="MESS_USE_WRONG_VALUE">
         <source>--%1 is %2, not "%3"</source>
@@ -316,15 +316,15 @@
         <translation>help [COMMANDE]</translation>
     </message>
     <message id="MESS_HELP_HELP_SUMMARY">
-        <source>the options of a command</source>
-        <translation>les options d'une commande</translation>
+        <source>show the options of a command</source>
+        <translation>afficher les options d'une commande</translation>
     </message>
     <message id="MESS_HELP_PROGRAM_USAGE">
         <source>COMMAND [OPTION]...</source>
         <translation>COMMANDE [OPTION]...</translation>
     </message>
     <message id="MESS_HELP_PROGRAM">
-        <source>Makes layers of telecom tables and of buildings for a 3D project.</source>
+        <source>Makes layers of a 3D project from telecom tables and buildings.</source>
         <translation>Crée des couches d'un projet 3D à partir de tableaux télécom et de bâtiments.</translation>
     </message>
     <message id="MESS_HELP_COMMANDS">
@@ -336,12 +336,12 @@
         <translation>essayez '%1'</translation>
     </message>
     <message id="MESS_HELP_INFO_SUMMARY">
-        <source>what tables hold</source>
-        <translation>ce que des tableaux contiennent</translation>
+        <source>show the properties of tables</source>
+        <translation>afficher les propriétés de tableaux</translation>
     </message>
     <message id="MESS_HELP_INFO">
-        <source>Tells what a table of sites or links holds: format, unit, coordinate systems, recognised columns, and the rows that cannot be used.</source>
-        <translation>Indique ce que contient un tableau de sites ou de liaisons&#xa0;: format, unité, systèmes de coordonnées, colonnes reconnues, et les lignes qui ne peuvent pas être utilisées.</translation>
+        <source>Shows the properties of tables of sites or links: format, unit, coordinate systems, recognised columns, and the rows that cannot be used.</source>
+        <translation>Affiche les propriétés de tableaux de sites ou de liaisons : format, unité, systèmes de coordonnées, colonnes reconnues, et les lignes qui ne peuvent pas être utilisées.</translation>
     </message>
     <message id="MESS_HELP_INFO_TABLE">
         <source>Site or link table (.xls .xlsx .xml .csv); one or more.</source>
@@ -364,24 +364,24 @@
         <translation>Fichier de couche à écrire&#xa0;; - pour la sortie standard.</translation>
     </message>
     <message id="MESS_OPT_SOURCE_SRS">
-        <source>Coordinate system of the table (default: what the table declares, else 4326 for degrees, else the terrain's).</source>
-        <translation>Système de coordonnées du tableau (par défaut&#xa0;: ce que le tableau déclare, sinon 4326 pour des degrés, sinon celui du terrain).</translation>
+        <source>Coordinate system of the table (default: the one that the table declares, else 4326 for degrees, else the terrain's).</source>
+        <translation>Système de coordonnées du tableau (par défaut : celui que le tableau déclare, sinon 4326 pour des degrés, sinon celui du terrain).</translation>
     </message>
     <message id="MESS_OPT_TARGET_SRS">
         <source>Coordinate system of the project (default: the project's, else the terrain's, else 4326 for degrees, else the table's).</source>
         <translation>Système de coordonnées du projet (par défaut&#xa0;: celui du projet, sinon celui du terrain, sinon 4326 pour des degrés, sinon celui du tableau).</translation>
     </message>
     <message id="MESS_OPT_SHEET">
-        <source>Sheet of a workbook (default: the one whose header names sites or links).</source>
-        <translation>Feuille d'un classeur (par défaut&#xa0;: celle dont l'en-tête nomme des sites ou des liaisons).</translation>
+        <source>Sheet of a workbook (default: the sheet with a header of sites or links).</source>
+        <translation>Feuille d'un classeur (par défaut : celle dont l'en-tête correspond à des sites ou des liaisons).</translation>
     </message>
     <message id="MESS_OPT_ENCODING">
-        <source>Encoding of a text file, such as CP1250 (default: found from its bytes).</source>
-        <translation>Encodage d'un fichier texte, tel que CP1250 (par défaut&#xa0;: trouvé d'après ses octets).</translation>
+        <source>Encoding of a text file, such as CP1250 (default: the encoding that fits its bytes).</source>
+        <translation>Encodage d'un fichier texte, tel que CP1250 (par défaut : celui qui correspond à ses octets).</translation>
     </message>
     <message id="MESS_OPT_DELIMITER">
-        <source>What separates the columns of a text file (default: found from its lines).</source>
-        <translation>Ce qui sépare les colonnes d'un fichier texte (par défaut&#xa0;: trouvé d'après ses lignes).</translation>
+        <source>Separator of the columns of a text file (default: the separator that fits its lines).</source>
+        <translation>Séparateur des colonnes d'un fichier texte (par défaut : celui qui correspond à ses lignes).</translation>
     </message>
     <message id="MESS_USE_ENCODING">
         <source>the name of an encoding</source>
@@ -392,8 +392,8 @@
         <translation>créer une couche de liaisons, vérifier leur dégagement</translation>
     </message>
     <message id="MESS_HELP_LINK">
-        <source>Makes the same layer from a table of microwave links as the wizard, and checks the clearance of each link over the terrain.</source>
-        <translation>Crée la même couche que l'assistant à partir d'un tableau de liaisons hertziennes, et vérifie le dégagement de chaque liaison au-dessus du terrain.</translation>
+        <source>Makes a layer from a table of microwave links, like the wizard, and checks the clearance of each link over the terrain.</source>
+        <translation>Crée une couche à partir d'un tableau de liaisons hertziennes, comme l'assistant, et vérifie le dégagement de chaque liaison au-dessus du terrain.</translation>
     </message>
     <message id="MESS_HELP_LINK_TABLE">
         <source>Link table (.xls .xlsx .xml .csv).</source>
@@ -412,7 +412,7 @@
         <translation>ni fichier de sortie (-o OUT.lay) ni --report ne sont indiqués</translation>
     </message>
     <message id="MESS_OPT_LINK_WIDTH">
-        <source>Width of the links, pixels for lines, else metres</source>
+        <source>Width of the links, in pixels for lines, else in metres</source>
         <translation>Largeur des liaisons, en pixels pour les lignes, sinon en mètres</translation>
     </message>
     <message id="MESS_OPT_FRESNEL_ZONE">
@@ -436,8 +436,8 @@
         <translation>RRGGBB, RRGGBBAA ou un nom tel que red</translation>
     </message>
     <message id="MESS_OPT_LINK_STYLE">
-        <source>How links are drawn (default %1).</source>
-        <translation>Manière de tracer les liaisons (par défaut %1).</translation>
+        <source>Representation of the links (default %1).</source>
+        <translation>Représentation des liaisons (par défaut %1).</translation>
     </message>
     <message id="MESS_OPT_LINK_COLOR">
         <source>Color of the links (default %1).</source>
@@ -472,8 +472,8 @@
         <translation>créer une couche de sites</translation>
     </message>
     <message id="MESS_HELP_SITE">
-        <source>Makes a site layer of a table, the same that the wizard makes.</source>
-        <translation>Crée une couche de sites à partir d'un tableau, la même que celle de l'assistant.</translation>
+        <source>Makes a site layer from a table, like the wizard.</source>
+        <translation>Crée une couche de sites à partir d'un tableau, comme l'assistant.</translation>
     </message>
     <message id="MESS_HELP_SITE_TABLE">
         <source>Site table (.xls .xlsx .xml .csv).</source>
@@ -516,7 +516,7 @@
         <translation>--%1&#xa0;: «&#xa0;%2&#xa0;» n'existe pas (%3)</translation>
     </message>
     <message id="MESS_OPT_SECTOR_COLORS">
-        <source>Sector colors: a set's number in the catalogue, from 1, or its name in any language (default 1).</source>
+        <source>Sector colors: the number of a set in the catalogue, from 1, or its name in any language (default 1).</source>
         <translation>Couleurs des secteurs&#xa0;: le numéro d'un jeu dans le catalogue, à partir de 1, ou son nom dans n'importe quelle langue (par défaut 1).</translation>
     </message>
     <message id="MESS_OPT_PYLON_TYPE">
@@ -536,7 +536,7 @@
         <translation>créer une image d'une couche</translation>
     </message>
     <message id="MESS_HELP_SNAPSHOT">
-        <source>Makes a picture (PNG) of a layer or of another scene file. It needs an X server; without a screen xvfb-run gives one.</source>
+        <source>Makes a picture (PNG) of a layer or of another scene file. It needs an X server; xvfb-run provides one on a computer without a screen.</source>
         <translation>Crée une image (PNG) d'une couche ou d'un autre fichier de scène. Un serveur X est nécessaire&#xa0;; sans écran, xvfb-run en fournit un.</translation>
     </message>
     <message id="MESS_HELP_SNAPSHOT_LAYER">
@@ -560,27 +560,27 @@
         <translation>all&#xa0;: l'ensemble, depuis le sud-ouest (par défaut)&#xa0;; symbolic&#xa0;: les secteurs du site du milieu&#xa0;; precise&#xa0;: son mât et ses antennes.</translation>
     </message>
     <message id="MESS_OPT_SHOW_TERRAIN">
-        <source>Links: show the surface of the project's terrain, too.</source>
-        <translation>Liaisons&#xa0;: montrer aussi la surface du terrain du projet.</translation>
+        <source>For links: show the surface of the project's terrain too.</source>
+        <translation>Pour les liaisons : montrer aussi la surface du terrain du projet.</translation>
     </message>
     <message id="MESS_USE_NO_PICTURE">
         <source>no output file given (-o PICTURE.png)</source>
         <translation>aucun fichier de sortie n'est indiqué (-o PICTURE.png)</translation>
     </message>
     <message id="MESS_USE_PNG">
-        <source>the picture is a PNG: its name has to end in .png</source>
-        <translation>l'image est un PNG&#xa0;: son nom doit finir par .png</translation>
+        <source>the picture is in PNG format: its name must end in .png</source>
+        <translation>l'image est au format PNG : son nom doit finir par .png</translation>
     </message>
     <message id="MESS_USE_SIZE">
         <source>WxH, each of %1 to %2 pixels</source>
         <translation>LxH, de %1 à %2 pixels chacune</translation>
     </message>
     <message id="MESS_CLI_TABLE_NO_SCENE">
-        <source>a table becomes a layer first, by "vltlayers site" or "vltlayers link"</source>
-        <translation>un tableau devient d'abord une couche, par «&#xa0;vltlayers site&#xa0;» ou «&#xa0;vltlayers link&#xa0;»</translation>
+        <source>this is a table: make a layer of it with "vltlayers site" or "vltlayers link" first</source>
+        <translation>c'est un tableau : faites-en d'abord une couche avec « vltlayers site » ou « vltlayers link »</translation>
     </message>
     <message id="MESS_CLI_NO_INSTALL_DIR">
-        <source>no such install directory</source>
+        <source>this install directory does not exist</source>
         <translation>ce dossier d'installation n'existe pas</translation>
     </message>
     <message id="MESS_USE_DID_YOU_MEAN">
@@ -588,7 +588,7 @@
         <translation>&#xa0;; vouliez-vous dire '%1'&#xa0;?</translation>
     </message>
     <message id="MESS_USE_NO_COMMAND">
-        <source>no such command: %1</source>
+        <source>unknown command: %1</source>
         <translation>commande inconnue&#xa0;: %1</translation>
     </message>
     <message id="MESS_USE_COMMAND_MISSING">
@@ -596,8 +596,8 @@
         <translation>aucune commande n'est indiquée</translation>
     </message>
     <message id="MESS_CLI_NAME_NOT_UTF8">
-        <source>this name is not in UTF-8: give the file another one</source>
-        <translation>ce nom n'est pas en UTF-8&#xa0;: donnez-en un autre au fichier</translation>
+        <source>this name is not in UTF-8: rename the file</source>
+        <translation>ce nom n'est pas en UTF-8 : renommez le fichier</translation>
     </message>
 </context>
 </TS>

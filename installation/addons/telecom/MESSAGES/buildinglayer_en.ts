@@ -40,25 +40,25 @@
         <translation>the project names no terrain: give --dtm</translation>
     </message>
     <message id="MESS_CLI_NO_SUCH_LAYER">
-        <source>no layer of polygons has the name "%1"; there are: %2</source>
-        <translation>no layer of polygons has the name "%1"; there are: %2</translation>
+        <source>there is no layer of polygons "%1"; the layers are: %2</source>
+        <translation>there is no layer of polygons "%1"; the layers are: %2</translation>
     </message>
     <message id="MESS_CLI_NO_SUCH_FIELD">
-        <source>no field of heights has the name "%1"; there are: %2</source>
-        <translation>no field of heights has the name "%1"; there are: %2</translation>
+        <source>there is no field of heights "%1"; the fields are: %2</source>
+        <translation>there is no field of heights "%1"; the fields are: %2</translation>
     </message>
     <message id="MESS_CLI_NO_HEIGHT_FIELD">
-        <source>which field holds the heights? --height-field tells</source>
+        <source>no field with the heights was found: give its name with --height-field</source>
         <extracomment>Keep the option.</extracomment>
-        <translation>which field holds the heights? --height-field tells</translation>
+        <translation>no field with the heights was found: give its name with --height-field</translation>
     </message>
     <message id="MESS_CLI_NO_SUCH_CMAP">
-        <source>no color map has this name, nor any file; there are: %1</source>
-        <translation>no color map has this name, nor any file; there are: %1</translation>
+        <source>there is no color map and no file with this name; the color maps are: %1</source>
+        <translation>there is no color map and no file with this name; the color maps are: %1</translation>
     </message>
     <message id="MESS_CLI_SUBDATASETS">
-        <source>it holds several images, each with a name: %1</source>
-        <translation>it holds several images, each with a name: %1</translation>
+        <source>it holds several images; give the name of one of them: %1</source>
+        <translation>it holds several images; give the name of one of them: %1</translation>
     </message>
     <message id="MESS_CLI_NO_VALUES">
         <source>none of its pixels has a value</source>
@@ -66,28 +66,28 @@
         <translation>none of its pixels has a value</translation>
     </message>
     <message id="MESS_CLI_TEXTURE_HEIGHT">
-        <source>for which height is this image? --texture FILE=HEIGHT tells</source>
+        <source>the height of this image is not known: give --texture FILE=HEIGHT</source>
         <extracomment>Keep the option.</extracomment>
-        <translation>for which height is this image? --texture FILE=HEIGHT tells</translation>
+        <translation>the height of this image is not known: give --texture FILE=HEIGHT</translation>
     </message>
     <message id="MESS_CLI_BAD_HEIGHT">
-        <source>the height is no number</source>
+        <source>the height is not a number</source>
         <extracomment>Follows the name of an image.</extracomment>
-        <translation>the height is no number</translation>
+        <translation>the height is not a number</translation>
     </message>
     <message id="MESS_CLI_PLAIN">
-        <source>no image lies on the buildings: neither --texture nor --textures is given</source>
+        <source>the buildings have no images: neither --texture nor --textures is given</source>
         <extracomment>Keep the options.</extracomment>
-        <translation>no image lies on the buildings: neither --texture nor --textures is given</translation>
+        <translation>the buildings have no images: neither --texture nor --textures is given</translation>
     </message>
     <message id="MESS_CLI_NO_TEXTURES">
-        <source>no image is found by it</source>
+        <source>no image of its set was found</source>
         <extracomment>Follows the name of an image.</extracomment>
-        <translation>no image is found by it</translation>
+        <translation>no image of its set was found</translation>
     </message>
     <message id="MESS_CLI_NO_HEIGHTS">
-        <source>images that state no height, 0 m is taken: %1</source>
-        <translation>images that state no height, 0 m is taken: %1</translation>
+        <source>images without a stated height, 0 m is used: %1</source>
+        <translation>images without a stated height, 0 m is used: %1</translation>
     </message>
     <message id="MESS_TIP_DRAG_TEXB">
         <source>Drag the layer file into the builder; Ctrl+C copies it to be pasted there.

@@ -40,25 +40,25 @@
         <translation>le projet n'indique pas de terrain&#xa0;: donnez --dtm</translation>
     </message>
     <message id="MESS_CLI_NO_SUCH_LAYER">
-        <source>no layer of polygons has the name "%1"; there are: %2</source>
-        <translation>aucune couche de polygones ne porte le nom «&#xa0;%1&#xa0;»&#xa0;; il y a&#xa0;: %2</translation>
+        <source>there is no layer of polygons "%1"; the layers are: %2</source>
+        <translation>il n'y a pas de couche de polygones « %1 » ; les couches sont : %2</translation>
     </message>
     <message id="MESS_CLI_NO_SUCH_FIELD">
-        <source>no field of heights has the name "%1"; there are: %2</source>
-        <translation>aucun champ de hauteurs ne porte le nom «&#xa0;%1&#xa0;»&#xa0;; il y a&#xa0;: %2</translation>
+        <source>there is no field of heights "%1"; the fields are: %2</source>
+        <translation>il n'y a pas de champ de hauteurs « %1 » ; les champs sont : %2</translation>
     </message>
     <message id="MESS_CLI_NO_HEIGHT_FIELD">
-        <source>which field holds the heights? --height-field tells</source>
+        <source>no field with the heights was found: give its name with --height-field</source>
         <extracomment>Keep the option.</extracomment>
-        <translation>quel champ contient les hauteurs&#xa0;? --height-field le dit</translation>
+        <translation>aucun champ de hauteurs n'a été trouvé : indiquez-le avec --height-field</translation>
     </message>
     <message id="MESS_CLI_NO_SUCH_CMAP">
-        <source>no color map has this name, nor any file; there are: %1</source>
-        <translation>aucune palette ni aucun fichier ne porte ce nom&#xa0;; il y a&#xa0;: %1</translation>
+        <source>there is no color map and no file with this name; the color maps are: %1</source>
+        <translation>aucune palette ni aucun fichier ne porte ce nom ; les palettes sont : %1</translation>
     </message>
     <message id="MESS_CLI_SUBDATASETS">
-        <source>it holds several images, each with a name: %1</source>
-        <translation>il contient plusieurs images, chacune avec un nom&#xa0;: %1</translation>
+        <source>it holds several images; give the name of one of them: %1</source>
+        <translation>il contient plusieurs images ; indiquez le nom de l'une d'elles : %1</translation>
     </message>
     <message id="MESS_CLI_NO_VALUES">
         <source>none of its pixels has a value</source>
@@ -66,28 +66,28 @@
         <translation>aucun de ses pixels n'a de valeur</translation>
     </message>
     <message id="MESS_CLI_TEXTURE_HEIGHT">
-        <source>for which height is this image? --texture FILE=HEIGHT tells</source>
+        <source>the height of this image is not known: give --texture FILE=HEIGHT</source>
         <extracomment>Keep the option.</extracomment>
-        <translation>pour quelle hauteur est cette image&#xa0;? --texture FILE=HEIGHT le dit</translation>
+        <translation>la hauteur de cette image est inconnue : indiquez --texture FILE=HEIGHT</translation>
     </message>
     <message id="MESS_CLI_BAD_HEIGHT">
-        <source>the height is no number</source>
+        <source>the height is not a number</source>
         <extracomment>Follows the name of an image.</extracomment>
-        <translation>la hauteur n'est pas un nombre supérieur ou égal à 0</translation>
+        <translation>la hauteur n'est pas un nombre</translation>
     </message>
     <message id="MESS_CLI_PLAIN">
-        <source>no image lies on the buildings: neither --texture nor --textures is given</source>
+        <source>the buildings have no images: neither --texture nor --textures is given</source>
         <extracomment>Keep the options.</extracomment>
-        <translation>aucune image n'est posée sur les bâtiments&#xa0;: ni --texture ni --textures n'est donné</translation>
+        <translation>les bâtiments n'ont pas d'image : ni --texture ni --textures n'est indiquée</translation>
     </message>
     <message id="MESS_CLI_NO_TEXTURES">
-        <source>no image is found by it</source>
+        <source>no image of its set was found</source>
         <extracomment>Follows the name of an image.</extracomment>
-        <translation>elle ne mène à aucune image</translation>
+        <translation>aucune image de son ensemble n'a été trouvée</translation>
     </message>
     <message id="MESS_CLI_NO_HEIGHTS">
-        <source>images that state no height, 0 m is taken: %1</source>
-        <translation>images qui n'indiquent pas de hauteur, prises pour 0 m&#xa0;: %1</translation>
+        <source>images without a stated height, 0 m is used: %1</source>
+        <translation>images sans hauteur indiquée, 0 m est utilisé : %1</translation>
     </message>
     <message id="MESS_TIP_DRAG_TEXB">
         <source>Drag the layer file into the builder; Ctrl+C copies it to be pasted there.

@@ -12,32 +12,32 @@
         <translation>no such file</translation>
     </message>
     <message id="MESS_SNAP_UNREADABLE">
-        <source>no scene that can be read</source>
-        <translation>no scene that can be read</translation>
+        <source>it cannot be read as a scene</source>
+        <translation>it cannot be read as a scene</translation>
     </message>
     <message id="MESS_SNAP_EMPTY">
         <source>the scene is empty</source>
         <translation>the scene is empty</translation>
     </message>
     <message id="MESS_SNAP_TOO_FAR">
-        <source>all is in view only from where nothing is drawn any more; a longer apparition distance or --view symbolic helps</source>
-        <translation>all is in view only from where nothing is drawn any more; a longer apparition distance or --view symbolic helps</translation>
+        <source>the whole scene is only in view from beyond the apparition distance: increase this distance or use --view symbolic</source>
+        <translation>the whole scene is only in view from beyond the apparition distance: increase this distance or use --view symbolic</translation>
     </message>
     <message id="MESS_SNAP_NO_SITES">
-        <source>there are no sites in it: only --view all can be made of it</source>
-        <translation>there are no sites in it: only --view all can be made of it</translation>
+        <source>it contains no sites: only --view all is possible</source>
+        <translation>it contains no sites: only --view all is possible</translation>
     </message>
     <message id="MESS_SNAP_NO_LEVEL">
-        <source>its sites are never drawn that way</source>
-        <translation>its sites are never drawn that way</translation>
+        <source>its sites do not have this representation</source>
+        <translation>its sites do not have this representation</translation>
     </message>
     <message id="MESS_SNAP_NO_DISPLAY">
         <source>no OpenGL display; run under xvfb-run</source>
         <translation>no OpenGL display; run under xvfb-run</translation>
     </message>
     <message id="MESS_SNAP_NO_ROOM">
-        <source>the display has no room for a picture of this size</source>
-        <translation>the display has no room for a picture of this size</translation>
+        <source>the display cannot hold a picture of this size</source>
+        <translation>the display cannot hold a picture of this size</translation>
     </message>
     <message id="MESS_SNAP_NOT_WRITTEN">
         <source>the picture cannot be written</source>

@@ -12,32 +12,32 @@
         <translation>ce fichier n'existe pas</translation>
     </message>
     <message id="MESS_SNAP_UNREADABLE">
-        <source>no scene that can be read</source>
-        <translation>ce n'est pas une scène qui puisse être lue</translation>
+        <source>it cannot be read as a scene</source>
+        <translation>ce fichier ne peut pas être lu comme une scène</translation>
     </message>
     <message id="MESS_SNAP_EMPTY">
         <source>the scene is empty</source>
         <translation>la scène est vide</translation>
     </message>
     <message id="MESS_SNAP_TOO_FAR">
-        <source>all is in view only from where nothing is drawn any more; a longer apparition distance or --view symbolic helps</source>
+        <source>the whole scene is only in view from beyond the apparition distance: increase this distance or use --view symbolic</source>
         <translation>l'ensemble n'entre dans l'image que de plus loin que la distance d'apparition ; augmentez cette distance ou choisissez --view symbolic</translation>
     </message>
     <message id="MESS_SNAP_NO_SITES">
-        <source>there are no sites in it: only --view all can be made of it</source>
+        <source>it contains no sites: only --view all is possible</source>
         <translation>elle ne contient pas de site : seule la vue --view all est possible</translation>
     </message>
     <message id="MESS_SNAP_NO_LEVEL">
-        <source>its sites are never drawn that way</source>
-        <translation>ses sites ne sont jamais représentés ainsi</translation>
+        <source>its sites do not have this representation</source>
+        <translation>ses sites n'ont pas cette représentation</translation>
     </message>
     <message id="MESS_SNAP_NO_DISPLAY">
         <source>no OpenGL display; run under xvfb-run</source>
         <translation>aucun affichage OpenGL ; lancez la commande sous xvfb-run</translation>
     </message>
     <message id="MESS_SNAP_NO_ROOM">
-        <source>the display has no room for a picture of this size</source>
-        <translation>l'affichage n'a pas la place pour une image de cette taille</translation>
+        <source>the display cannot hold a picture of this size</source>
+        <translation>l'affichage ne peut pas contenir une image de cette taille</translation>
     </message>
     <message id="MESS_SNAP_NOT_WRITTEN">
         <source>the picture cannot be written</source>

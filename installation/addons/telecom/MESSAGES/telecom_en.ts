@@ -171,9 +171,9 @@ Coordinates are _C_ and are specified in _U_</translation>
         <translation>no coordinate system is known: give --source-srs and --target-srs</translation>
     </message>
     <message id="MESS_CLI_NONE_PLACED">
-        <source>none of its sites can be placed; "vltlayers info" tells why</source>
+        <source>none of its sites has a position; "vltlayers info" shows why</source>
         <extracomment>Follows the name of the table.</extracomment>
-        <translation>none of its sites can be placed; "vltlayers info" tells why</translation>
+        <translation>none of its sites has a position; "vltlayers info" shows why</translation>
     </message>
     <message id="MESS_CLI_OUTPUT_IS_INPUT">
         <source>the output is one of the input files</source>

@@ -171,9 +171,9 @@ Les coordonnées sont _C_ et exprimées en _U_</translation>
         <translation>aucun système de coordonnées n'est connu&#xa0;: indiquez --source-srs et --target-srs</translation>
     </message>
     <message id="MESS_CLI_NONE_PLACED">
-        <source>none of its sites can be placed; "vltlayers info" tells why</source>
+        <source>none of its sites has a position; "vltlayers info" shows why</source>
         <extracomment>Follows the name of the table.</extracomment>
-        <translation>aucun de ses sites ne peut être placé&#xa0;; «&#xa0;vltlayers info&#xa0;» dit pourquoi</translation>
+        <translation>aucun de ses sites n'a de position ; « vltlayers info » indique pourquoi</translation>
     </message>
     <message id="MESS_CLI_OUTPUT_IS_INPUT">
         <source>the output is one of the input files</source>
