@@ -4,6 +4,7 @@
 #include "plugins/scene/layers/LinkLayerStyle.h"
 #include "plugins/scene/parametric/BadQuery.h"
 #include "sites/SiteLayer.h"
+#include "support/Cases.h"
 
 #include <QTest>
 
@@ -114,10 +115,7 @@ private Q_SLOTS:
 
     void drawsEveryNumberThatAUserMayChoose_data()
     {
-        QTest::addColumn<QByteArray>("key");
-        QTest::addColumn<int>("word");
-        QTest::addColumn<Range>("range");
-        QTest::addColumn<double>("tooLarge");
+        const Cases<QByteArray, int, Range, double> row({"key", "word", "range", "tooLarge"});
         for (const QueryOption &option : QueryOptions) {
             for (int i = 0; i < static_cast<int>(option.numbers.size()); ++i) {
                 const auto &range = option.numbers[static_cast<std::size_t>(i)];
@@ -125,9 +123,9 @@ private Q_SLOTS:
                     continue;
                 // pylons have wider limits in the scene
                 const bool isOfLinks = option.purpose == OptionPurpose::Links;
-                QTest::addRow("%s %d", option.key.data(), i)
-                    << QByteArray(option.key.data()) << i << *range
-                    << (isOfLinks ? range->maximum + 1 : 2e9);
+                const QByteArray key = option.key.data();
+                row((key + ' ' + QByteArray::number(i)).constData(), key, i, *range,
+                    isOfLinks ? range->maximum + 1 : 2e9);
             }
         }
     }

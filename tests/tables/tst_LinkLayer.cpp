@@ -1,4 +1,5 @@
 #include "DriverTesting.h"
+#include "support/Cases.h"
 
 #include <QRegularExpression>
 #include <QtTest>
@@ -71,51 +72,38 @@ private Q_SLOTS:
 
     void givesLinksAndTheirEnds_data()
     {
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<QString>("format");
-        QTest::addColumn<QString>("firstField");
-        QTest::addColumn<QStringList>("lines");
-        QTest::addColumn<QStringList>("ends");
+        const Cases<QByteArray, QString, QString, QStringList, QStringList> row(
+            {"text", "format", "firstField", "lines", "ends"});
         const QString line = QStringLiteral("10 0 10.1 0");
-        QTest::newRow("numbered ends")
-            << QByteArray(Numbered) << QStringLiteral("generic (numbered ends)")
-            << QStringLiteral("Site ID") << QStringList{line}
-            << QStringList{QStringLiteral("S1|10|0|L1|30|90|-1.5|L1|2|A|11485|11131.949"),
-                           QStringLiteral("S2|10.1|0|L1|35|270.5|-|L1|2|B|11605|11131.949")};
-        QTest::newRow("ends side by side")
-            << QByteArray(SideBySide) << QStringLiteral("atoll") << QStringLiteral("NAME")
-            << QStringList{line, QString()}
-            << QStringList{QStringLiteral("S1|10|0|L1|30.48|90|-|L1|3|A|7000|11131.949"),
-                           QStringLiteral("S2|10.1|0|L1|35|270|-|L1|3|B|7000|11131.949"),
-                           QStringLiteral("-|10|0|-|30.023|-|-|row 4|4|A|23000|-"),
-                           QStringLiteral("S3|-|-|-|-|-|-|row 4|4|B|23000|-")};
-        QTest::newRow("start and end")
-            << QByteArray("Frequency,PathLength,XStart,YStart,XEnd,YEnd,ID\n"
-                          "18.7,11.1,10,0,10.1,0,7\n")
-            << QStringLiteral("generic (ends side by side)") << QStringLiteral("Site ID")
-            << QStringList{line}
-            << QStringList{QStringLiteral("-|10|0|7|-|90|-|7|2|A|18700|11131.949"),
-                           QStringLiteral("-|10.1|0|7|-|270|-|7|2|B|18700|11131.949")};
-        QTest::newRow("names that are there twice")
-            << QByteArray("Name,Name,X A,Y A,X A,X B,Y B,Frequency\nL,M,10,0,11,10.1,0,7\n")
-            << QStringLiteral("generic (ends side by side)") << QStringLiteral("Site ID")
-            << QStringList{line}
-            << QStringList{QStringLiteral("-|10|0|L|-|90|-|L|2|A|7000|11131.949"),
-                           QStringLiteral("-|10.1|0|L|-|270|-|L|2|B|7000|11131.949")};
-        QTest::newRow("ends 0 and 1, transmitting and receiving")
-            << QByteArray("link,site_0_lat,site_0_lon,site_1_lat,site_1_lon,tx freq 0,rx freq 0,"
-                          "tx freq 1\n7,0,10,0,10.1,6000,6100,6200\n")
-            << QStringLiteral("generic (numbered ends)") << QStringLiteral("Site ID")
-            << QStringList{line}
-            << QStringList{QStringLiteral("-|10|0|7|-|90|-|7|2|A|6000|11131.949"),
-                           QStringLiteral("-|10.1|0|7|-|270|-|7|2|B|6200|11131.949")};
+        row("numbered ends", Numbered, "generic (numbered ends)", "Site ID", {line},
+            {QStringLiteral("S1|10|0|L1|30|90|-1.5|L1|2|A|11485|11131.949"),
+             QStringLiteral("S2|10.1|0|L1|35|270.5|-|L1|2|B|11605|11131.949")});
+        row("ends side by side", SideBySide, "atoll", "NAME", {line, QString()},
+            {QStringLiteral("S1|10|0|L1|30.48|90|-|L1|3|A|7000|11131.949"),
+             QStringLiteral("S2|10.1|0|L1|35|270|-|L1|3|B|7000|11131.949"),
+             QStringLiteral("-|10|0|-|30.023|-|-|row 4|4|A|23000|-"),
+             QStringLiteral("S3|-|-|-|-|-|-|row 4|4|B|23000|-")});
+        row("start and end",
+            "Frequency,PathLength,XStart,YStart,XEnd,YEnd,ID\n"
+            "18.7,11.1,10,0,10.1,0,7\n",
+            "generic (ends side by side)", "Site ID", {line},
+            {QStringLiteral("-|10|0|7|-|90|-|7|2|A|18700|11131.949"),
+             QStringLiteral("-|10.1|0|7|-|270|-|7|2|B|18700|11131.949")});
+        row("names that are there twice",
+            "Name,Name,X A,Y A,X A,X B,Y B,Frequency\nL,M,10,0,11,10.1,0,7\n",
+            "generic (ends side by side)", "Site ID", {line},
+            {QStringLiteral("-|10|0|L|-|90|-|L|2|A|7000|11131.949"),
+             QStringLiteral("-|10.1|0|L|-|270|-|L|2|B|7000|11131.949")});
+        row("ends 0 and 1, transmitting and receiving",
+            "link,site_0_lat,site_0_lon,site_1_lat,site_1_lon,tx freq 0,rx freq 0,"
+            "tx freq 1\n7,0,10,0,10.1,6000,6100,6200\n",
+            "generic (numbered ends)", "Site ID", {line},
+            {QStringLiteral("-|10|0|7|-|90|-|7|2|A|6000|11131.949"),
+             QStringLiteral("-|10.1|0|7|-|270|-|7|2|B|6200|11131.949")});
     }
     void givesLinksAndTheirEnds()
     {
         QFETCH(QByteArray, text);
-        QFETCH(QString, format);
-        QFETCH(QString, firstField);
-        QFETCH(QStringList, lines);
         QFETCH(QStringList, ends);
         const Warnings warnings;
         m_folder.write("l.csv", text);
@@ -136,22 +124,20 @@ private Q_SLOTS:
 
         QCOMPARE(dataset->GetLayerCount(), 2);
         QCOMPARE(endLayer->GetName(), "l_ends");
-        QCOMPARE(foundLines, lines);
+        QTEST(foundLines, "lines");
         QCOMPARE(foundEnds, ends);
         QCOMPARE(endLayer->GetFeatureCount(), ends.size());
-        QCOMPARE(QString::fromUtf8(endLayer->GetLayerDefn()->GetFieldDefn(0)->GetNameRef()),
-                 firstField);
+        QTEST(QString::fromUtf8(endLayer->GetLayerDefn()->GetFieldDefn(0)->GetNameRef()),
+              "firstField");
         for (OGRLayer *layer : {linkLayer, endLayer}) {
-            QCOMPARE(QString::fromUtf8(layer->GetMetadataItem("format")), format);
+            QTEST(QString::fromUtf8(layer->GetMetadataItem("format")), "format");
             QCOMPARE(layer->GetMetadataItem("unit"), "DEGREES");
         }
     }
 
     void recognisesColumns_data()
     {
-        QTest::addColumn<QByteArray>("header");
-        QTest::addColumn<QByteArray>("field");
-        QTest::addColumn<bool>("endA");
+        const Cases<QByteArray, QByteArray, bool> row({"header", "field", "endA"});
         const QList<std::pair<QByteArray, QByteArray>> headers = {
             {"Call sign 1|A|TX|Site A|Site  TX Name|A.ID|Name (A)|ID (TX)|Name TX|Antenna A",
              "Site ID"},
@@ -173,7 +159,7 @@ private Q_SLOTS:
         for (const auto &[list, field] : headers)
             for (const QByteArray &header : list.split('|'))
                 for (const QByteArray &name : {header, otherEnd(header)})
-                    QTest::newRow(name.constData()) << name << field << (name == header);
+                    row(name.constData(), name, field, (name == header));
     }
     void recognisesColumns()
     {
@@ -200,13 +186,10 @@ private Q_SLOTS:
 
     void readsQuantities_data()
     {
-        QTest::addColumn<QByteArray>("header");
-        QTest::addColumn<QByteArray>("cell");
-        QTest::addColumn<QByteArray>("value"); // empty: none
-        const auto row = [](const char *header, const char *cell, const char *value) {
-            QTest::newRow(qPrintable(QString::fromUtf8(header) + QStringLiteral(": ") +
-                                     QString::fromUtf8(cell)))
-                << QByteArray(header) << QByteArray(cell) << QByteArray(value);
+        // value: empty for none
+        const Cases<QByteArray, QByteArray, QByteArray> table({"header", "cell", "value"});
+        const auto row = [&table](const char *header, const char *cell, const char *value) {
+            table((QByteArray(header) + ": " + cell).constData(), header, cell, value);
         };
         row("Height A", "30,5", "30.5");
         row("Height A (feet)", "100", "30.48");
@@ -232,7 +215,6 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, header);
         QFETCH(QByteArray, cell);
-        QFETCH(QByteArray, value);
         const Warnings warnings;
         m_folder.write("q.csv",
                        "Link;X A;Y A;X B;Y B;" + header + "\nL;10;1;11;1;\"" + cell + "\"\n");
@@ -241,31 +223,23 @@ private Q_SLOTS:
 
         const OGRFeatureUniquePtr end(dataset->GetLayer(1)->GetFeature(4));
 
-        QCOMPARE(QByteArray(end->GetFieldAsString(
-                     header.startsWith("Height") ? "Transmitter-1 Height (m)" : "Frequency (MHz)")),
-                 value);
+        QTEST(QByteArray(end->GetFieldAsString(
+                  header.startsWith("Height") ? "Transmitter-1 Height (m)" : "Frequency (MHz)")),
+              "value");
     }
 
     void movesEndsByTheirOffsets_data()
     {
-        QTest::addColumn<QByteArray>("options");
-        QTest::addColumn<QByteArray>("row"); // X A, Y A, X B, Y B, DX A, DY A
-        QTest::addColumn<double>("east");
-        QTest::addColumn<double>("north");
+        // row: X A, Y A, X B, Y B, DX A, DY A
+        const Cases<QByteArray, QByteArray, double, double> row(
+            {"options", "row", "east", "north"});
         // WGS 84 at the equator: 100 m / 6378137 m and 100 m / 6335439.327 m in degrees
-        QTest::newRow("degrees, east")
-            << QByteArray() << QByteArray("10;0;11;0;100;") << 10.00089831528 << 0.0;
-        QTest::newRow("degrees, north")
-            << QByteArray() << QByteArray("10;0;11;0;NA;100 m") << 10.0 << 0.00090436947;
-        QTest::newRow("metres") << QByteArray("s_srs=2154,")
-                                << QByteArray("700000;6600000;710000;6600000;100;-50") << 700100.0
-                                << 6599950.0;
+        row("degrees, east", {}, "10;0;11;0;100;", 10.00089831528, 0);
+        row("degrees, north", {}, "10;0;11;0;NA;100 m", 10, 0.00090436947);
+        row("metres", "s_srs=2154,", "700000;6600000;710000;6600000;100;-50", 700100, 6599950);
         // a US survey foot is 1200/3937 m
-        QTest::newRow("feet") << QByteArray("s_srs=2229,")
-                              << QByteArray("6500000;1800000;6510000;1800000;1200;0") << 6503937.0
-                              << 1800000.0;
-        QTest::newRow("unreadable")
-            << QByteArray() << QByteArray("10;0;11;0;x;5 apples") << 10.0 << 0.0;
+        row("feet", "s_srs=2229,", "6500000;1800000;6510000;1800000;1200;0", 6503937, 1800000);
+        row("unreadable", {}, "10;0;11;0;x;5 apples", 10, 0);
     }
     void movesEndsByTheirOffsets()
     {
@@ -289,14 +263,9 @@ private Q_SLOTS:
 
     void saysWhatIsWrong_data()
     {
-        QTest::addColumn<QByteArray>("header");
-        QTest::addColumn<QByteArray>("row");
-        QTest::addColumn<QString>("problem"); // empty: none
+        // problem: empty: none
+        const Cases<QByteArray, QByteArray, QString> row({"header", "row", "problem"});
         const QByteArray usual = "Link;X A;Y A;X B;Y B;Height A;Height B;Frequency (GHz);Length";
-        const auto row = [](const char *name, const QByteArray &header, const char *text,
-                            const char *problem) {
-            QTest::newRow(name) << header << QByteArray(text) << QString::fromUtf8(problem);
-        };
         row("nothing", usual + " (km)", "L;10;0;10,1;0;30;30;7;11,6", "");
         row("an end without a place", usual, "L;10;0;x;0;30;30;7;",
             "2|X B|Error|the coordinate \"x\" cannot be read: it holds no number");
@@ -358,20 +327,17 @@ private Q_SLOTS:
 
     void refusesOtherTables_data()
     {
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<QString>("reason");
-        QTest::newRow("sites") << QByteArray("Site;Longitude;Latitude;Azimuth 1\nS;2;48;90\n")
-                               << QStringLiteral("this is a table of sites, not of links: no "
-                                                 "columns with coordinates of both ends");
-        QTest::newRow("one end") << QByteArray("Link;Longitude B;Latitude B\nL;2;48\n")
-                                 << QStringLiteral("those of end A are missing");
-        QTest::newRow("ends by name only")
-            << QByteArray("Link;A;B;Length (km)\nL;S1;S2;11\n")
-            << QStringLiteral("no columns with coordinates of both ends were recognised");
-        QTest::newRow("no header")
-            << QByteArray("3334173;Cancelled;41.59;-83.09306;176.0m;41.59;-83.4;185.3m;"
-                          "['006123.10', '006123.10']\n")
-            << QStringLiteral("no header was found");
+        const Cases<QByteArray, QString> row({"text", "reason"});
+        row("sites", "Site;Longitude;Latitude;Azimuth 1\nS;2;48;90\n",
+            "this is a table of sites, not of links: no "
+            "columns with coordinates of both ends");
+        row("one end", "Link;Longitude B;Latitude B\nL;2;48\n", "those of end A are missing");
+        row("ends by name only", "Link;A;B;Length (km)\nL;S1;S2;11\n",
+            "no columns with coordinates of both ends were recognised");
+        row("no header",
+            "3334173;Cancelled;41.59;-83.09306;176.0m;41.59;-83.4;185.3m;"
+            "['006123.10', '006123.10']\n",
+            "no header was found");
     }
     void refusesOtherTables()
     {

@@ -1,4 +1,5 @@
 #include "DriverTesting.h"
+#include "support/Cases.h"
 
 #include <QtTest>
 
@@ -76,16 +77,14 @@ private Q_SLOTS:
 
     void keepsTheProblemsOfAWholeWalk_data()
     {
-        QTest::addColumn<QByteArray>("filter");
-        QTest::addColumn<bool>("ignoresFields");
-        QTest::addColumn<int>("firstRow");
-        QTest::addColumn<int>("rows"); // -1 for all
-        QTest::addColumn<bool>("keeps");
-        QTest::newRow("whole") << QByteArray() << false << 0 << -1 << true;
-        QTest::newRow("without fields") << QByteArray() << true << 0 << -1 << true;
-        QTest::newRow("filtered") << QByteArray("Height = 3") << false << 0 << -1 << true;
-        QTest::newRow("the first rows") << QByteArray() << false << 0 << 1400 << false;
-        QTest::newRow("the last rows") << QByteArray() << false << 1300 << -1 << false;
+        // rows: -1 for all
+        const Cases<QByteArray, bool, int, int, bool> row(
+            {"filter", "ignoresFields", "firstRow", "rows", "keeps"});
+        row("whole", {}, false, 0, -1, true);
+        row("without fields", {}, true, 0, -1, true);
+        row("filtered", "Height = 3", false, 0, -1, true);
+        row("the first rows", {}, false, 0, 1400, false);
+        row("the last rows", {}, false, 1300, -1, false);
     }
     /// After a full read the problems are known even if the file is deleted; otherwise the file is
     /// read for them.
@@ -198,41 +197,39 @@ private Q_SLOTS:
 
     void countsWhatItReads_data()
     {
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<int>("rows");
+        const Cases<QByteArray, int> row({"text", "rows"});
         const QByteArray header = "Site ID;X;Y;Name\n";
         QByteArray latin1 = header;
         for (int i = 0; i < 9000; ++i)
             latin1 += QByteArray::number(i) + ";2.5;48;\xE9\xE8\xE9\xE8\xE9 Kergu\xE9len\n";
         for (int shift = 0; shift < 3; ++shift) // moves characters across the borders of chunks
-            QTest::addRow("Latin-1, shifted by %d", shift)
-                << QByteArray(latin1).prepend("A;").replace(0, 2, QByteArray(shift, 'T') + "\n")
-                << 9000;
+            row(("Latin-1, shifted by " + QByteArray::number(shift)).constData(),
+                QByteArray(shift, 'T') + "\n" + latin1, 9000);
         QByteArray repeated = header;
         for (int i = 0; i < 3000; ++i)
             repeated += QByteArray::number(i) + ";2.5;48;n\n" + (i == 2000 ? header : QByteArray());
-        QTest::newRow("the header once more far below") << repeated << 3000;
-        QTest::newRow("a row with nothing but an unnamed column")
-            << QByteArray("Site ID;X;Y;\n1;2;3;a\n2;3;4;b\n;;;c\n") << 2;
+        row("the header once more far below", repeated, 3000);
+        row("a row with nothing but an unnamed column", "Site ID;X;Y;\n1;2;3;a\n2;3;4;b\n;;;c\n",
+            2);
         const QByteArray ml =
             "<?xml version=\"1.0\"?><Workbook "
             "xmlns=\"urn:schemas-microsoft-com:office:spreadsheet\" "
             "xmlns:ss=\"urn:schemas-microsoft-com:office:spreadsheet\"><Title>My Worksheet</Title>"
             "<Worksheet ss:Name=\"Cover\"/><Worksheet ss:Name=\"S\"><Table>";
-        const auto row = [](const QByteArray &attributes, const QByteArray &id) {
-            return "<Row " + attributes + "><Cell><Data ss:Type=\"String\">" + id +
-                   "</Data></Cell><Cell><Data ss:Type=\"String\">X</Data></Cell><Cell><Data "
-                   "ss:Type=\"String\">Y"
-                   "</Data></Cell></Row>";
+        const auto site = [](const QByteArray &attributes, const QByteArray &id) {
+            const QByteArray cell = "<Cell><Data ss:Type=\"String\">";
+            const QByteArray end = "</Data></Cell>";
+            return "<Row " + attributes + ">" + cell + id + end + cell + "X" + end + cell + "Y" +
+                   end + "</Row>";
         };
-        QTest::newRow("a worksheet without a table, numbers out of order")
-            << ml + row("", "Site ID") + row("ss:Index=\"9\"", "a") + row("ss:Index=\"3\"", "b") +
-                   "</Table></Worksheet></Workbook>"
-            << 2;
-        QTest::newRow("30,000 equal names and 3 MB of ampersands")
-            << QByteArray("Site;X;").append(QByteArray("n;").repeated(30000)) + "\na;1;2;" +
-                   QByteArray(3000000, '&') + "\n"
-            << 1;
+        row("a worksheet without a table, numbers out of order",
+            ml + site("", "Site ID") + site("ss:Index=\"9\"", "a") + site("ss:Index=\"3\"", "b") +
+                "</Table></Worksheet></Workbook>",
+            2);
+        row("30,000 equal names and 3 MB of ampersands",
+            "Site;X;" + QByteArray("n;").repeated(30000) + "\na;1;2;" + QByteArray(3000000, '&') +
+                "\n",
+            1);
     }
     void countsWhatItReads()
     {
@@ -257,15 +254,8 @@ private Q_SLOTS:
 
     void findsTheEncoding_data()
     {
-        QTest::addColumn<QByteArray>("written");
-        QTest::addColumn<QByteArray>("names");
-        QTest::addColumn<QByteArray>("option");
-        QTest::addColumn<QByteArray>("found");
-        const auto row = [](const char *title, const char *written, const char *names,
-                            const char *found, const char *option = "") {
-            QTest::newRow(title) << QByteArray(written) << QByteArray(names) << QByteArray(option)
-                                 << QByteArray(found);
-        };
+        const Cases<QByteArray, QByteArray, QByteArray, QByteArray> row(
+            {"written", "names", "found", "option"});
         row("ASCII", "UTF-8", "Paris;Lyon", "UTF-8");
         row("UTF-8", "UTF-8", "Orléans;Łódź", "UTF-8");
         row("one accent", "CP1252", "Orléans;Paris;Lyon", "WINDOWS-1252?");
@@ -326,37 +316,24 @@ private Q_SLOTS:
 
     void placesSites_data()
     {
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<QString>("position");
-        QTest::addColumn<QByteArray>("systems");
-        const auto in = [](const char *title, const char *systems, const char *coordinates,
-                           const QString &position) {
-            QTest::newRow(title) << QByteArray("ID;X;Y\n1;") + coordinates + "\n"
-                                 << position << QByteArray(systems);
-        };
-        in("metres as degrees", "s_srs=4326,t_srs=4326,", "222300;6756000", QString());
-        in("metres as latitudes", "s_srs=4326,t_srs=4326,", "-3;6756000", QString());
-        in("metres", "s_srs=2154,t_srs=2154,", "222300;675600", QStringLiteral("222300 675600"));
-        in("grads", "s_srs=4807,t_srs=4807,", "-190;54", QStringLiteral("-190 54"));
-        in("more than half a turn of grads", "s_srs=4807,t_srs=4807,", "201;54", QString());
-        QTest::newRow("minus sign U+2212")
-            << QByteArray("ID;Lon;Lat\n1;−3.37;47\n") << QStringLiteral("-3.37 47") << QByteArray();
-        QTest::newRow("hemispheres beside degrees")
-            << QByteArray("ID;Lat;Lat Direction;Lon;Lon Direction\n1;12.5;S;77.25;W\n")
-            << QStringLiteral("-77.25 -12.5") << QByteArray();
-        QTest::newRow("hemisphere against a sign")
-            << QByteArray("ID;Lat;Lat Direction;Lon;Lon Direction\n1;-12.5;N;77.25;W\n")
-            << QString() << QByteArray();
-        QTest::newRow("lower-case south") << QByteArray("ID;Lat;Lon\n1;33 51 0.0 s;18 30 0 e\n")
-                                          << QStringLiteral("18.5 -33.85") << QByteArray();
-        QTest::newRow("degrees and decimal minutes")
-            << QByteArray("ID;Lat Deg;Lat Min;Lon Deg;Lon Min\n1;47;30.0;-3;15.0\n")
-            << QStringLiteral("-3.25 47.5") << QByteArray();
-        QTest::newRow("null island")
-            << QByteArray("ID;Lat;Lon\n1;0;0\n") << QString() << QByteArray();
-        QTest::newRow("unknown system in a title")
-            << QByteArray("EPSG:999999\nID;Lat;Lon\n1;47;-3\n") << QStringLiteral("-3 47")
-            << QByteArray();
+        const Cases<QByteArray, QString, QByteArray> row({"text", "position", "systems"});
+        const QByteArray degrees = "s_srs=4326,t_srs=4326,";
+        const QByteArray grads = "s_srs=4807,t_srs=4807,";
+        const QByteArray numbers = "ID;X;Y\n1;";
+        row("metres as degrees", numbers + "222300;6756000\n", {}, degrees);
+        row("metres as latitudes", numbers + "-3;6756000\n", {}, degrees);
+        row("metres", numbers + "222300;675600\n", "222300 675600", "s_srs=2154,t_srs=2154,");
+        row("grads", numbers + "-190;54\n", "-190 54", grads);
+        row("more than half a turn of grads", numbers + "201;54\n", {}, grads);
+        row("minus sign U+2212", "ID;Lon;Lat\n1;−3.37;47\n", "-3.37 47");
+        const QByteArray directed = "ID;Lat;Lat Direction;Lon;Lon Direction\n1;";
+        row("hemispheres beside degrees", directed + "12.5;S;77.25;W\n", "-77.25 -12.5");
+        row("hemisphere against a sign", directed + "-12.5;N;77.25;W\n", {});
+        row("lower-case south", "ID;Lat;Lon\n1;33 51 0.0 s;18 30 0 e\n", "18.5 -33.85");
+        row("degrees and decimal minutes",
+            "ID;Lat Deg;Lat Min;Lon Deg;Lon Min\n1;47;30.0;-3;15.0\n", "-3.25 47.5");
+        row("null island", "ID;Lat;Lon\n1;0;0\n", {});
+        row("unknown system in a title", "EPSG:999999\nID;Lat;Lon\n1;47;-3\n", "-3 47");
     }
     void placesSites()
     {
@@ -432,11 +409,11 @@ private Q_SLOTS:
 
     void refusesWhatIsNotALocalTable_data()
     {
-        QTest::addColumn<QByteArray>("name");
+        const Cases<QByteArray> row({"name"});
         for (const char *name :
              {"site:", "site:/vsicurl/http://127.0.0.1/a.csv", "site:http://127.0.0.1/a.csv",
               "site:/vsimem/a.csv", "site:/nonexistent/a.csv", "site:/dev/zero"})
-            QTest::newRow(name) << QByteArray(name);
+            row(name, name);
     }
     void refusesWhatIsNotALocalTable()
     {
