@@ -70,7 +70,7 @@ Result<std::shared_ptr<coverage::CoverageRaster>> openRaster(RasterColoring &col
     const bool isPart = coloring.rasterFile != path;
     const auto summary = geodata::readRasterSummary(path, isPart ? coloring.rasterFile : QString());
     if (!summary)
-        return onFile(summary.error(), given);
+        return summary.error().withPath(given);
     if (summary.value().bandCount != 1)
         return notOneBand(summary.value(), given);
     const geodata::ErrorCollector errors; // errors are returned as reasons, not printed
@@ -111,7 +111,7 @@ Result<buildings::LegendInput> readColoring(RasterColoring &coloring, const QStr
         return reported(dico_label("MESS_CLI_NO_VALUES", "none of its pixels has a value"), image);
     auto legend = buildings::legendOf(coloring, range);
     if (!legend)
-        return onFile(legend.error(), coloring.colorMap);
+        return legend.error().withPath(coloring.colorMap);
     return legend;
 }
 

@@ -76,7 +76,7 @@ Result<BuildingsSource> readVector(const BuildingsRequest &request, const QStrin
 {
     const auto opened = geodata::PolygonSource::open(absolutePath(path));
     if (!opened)
-        return onFile(opened.error(), path);
+        return opened.error().withPath(path);
     const QList<geodata::PolygonLayer> &layers = opened.value()->layers();
     const Result<int> index = chosenLayer(layers, request.layer, path);
     if (!index)

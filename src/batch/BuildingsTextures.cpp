@@ -55,7 +55,7 @@ Images entriesOf(const GivenImage &given)
     const QString name = absoluteDatasetName(given.name);
     const bool isPart = name != path;
     if (const auto image = geodata::readRasterSummary(path, isPart ? name : QString()); !image)
-        return onFile(image.error(), given.name);
+        return image.error().withPath(given.name);
     if (given.height && !std::isfinite(*given.height))
         return badHeight(given.name);
     if (given.height)

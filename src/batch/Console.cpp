@@ -1,7 +1,6 @@
 #include "batch/Console.h"
 
-#include "language/ReaderText.h"
-#include "language/VltLanguageManager.h"
+#include "language/ErrorText.h"
 
 #include <QJsonDocument>
 
@@ -61,7 +60,7 @@ ExitStatus refuse(const Error &error)
 
 QJsonObject errorJson(const Error &error, ExitStatus status)
 {
-    return {{QStringLiteral("error"), explain({error.key, error.text, {}, error.detail})},
+    return {{QStringLiteral("error"), explain(error.withPath({}))},
             {QStringLiteral("file"),
              error.path.isEmpty() ? QJsonValue(QJsonValue::Null) : QJsonValue(error.path)},
             {QStringLiteral("exit"), static_cast<int>(status)}};
@@ -69,17 +68,8 @@ QJsonObject errorJson(const Error &error, ExitStatus status)
 
 QString explain(const Error &error)
 {
-    const QString detail = language::readerText(error.detail);
-    QString text = error.key.isEmpty() ? error.text
-                                       : dico_label(error.key.toUtf8().constData(),
-                                                    error.text.toUtf8().constData());
-    if (text.isEmpty())
-        text = detail;
-    else if (!detail.isEmpty())
-        text += QStringLiteral(" (") + detail + QLatin1Char(')');
-    if (!error.path.isEmpty())
-        text = error.path + QStringLiteral(": ") + text;
-    return oneLine(text);
+    const QString file = error.path.isEmpty() ? QString() : error.path + QStringLiteral(": ");
+    return oneLine(file + language::explained(error));
 }
 
 QString oneLine(QString text)

@@ -37,7 +37,7 @@ void reportError(const Error &error, ExitStatus status);
 /// @return  ExitStatus::Refused, for the caller to return
 ExitStatus refuse(const Error &error);
 
-/// The file of an error, its text in the chosen language and its detail.
+/// The file of an error, its text in the chosen language and its detail, as one line.
 QString explain(const Error &error);
 
 /// The same for programs: "error", "file" (null for an error without a file) and "exit".

@@ -186,7 +186,7 @@ ExitStatus run(const QCommandLineParser &parser, const GlobalOptions &options)
     for (const QString &table : parser.positionalArguments()) {
         Result<InfoReport> report = readTable(QFileInfo(table).absoluteFilePath(), isLinks,
                                               reading.value(), surroundings.value().project);
-        outcomes << (report ? report : Result<InfoReport>(onFile(report.error(), table)));
+        outcomes << (report ? report : Result<InfoReport>(report.error().withPath(table)));
     }
     if (options.json && outcomes.size() > 1)
         return printJson(outcomes);

@@ -14,12 +14,6 @@ Error reported(const QString &text, const QString &path)
     return {QString(), text, path};
 }
 
-Error onFile(Error error, const QString &path)
-{
-    error.path = path;
-    return error;
-}
-
 qsizetype indexOfName(const QStringList &names, const QString &name)
 {
     const qsizetype index = names.indexOf(name);

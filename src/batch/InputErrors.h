@@ -11,9 +11,6 @@ QString absolutePath(const QString &path);
 /// An error whose text is already in the language in use.
 Error reported(const QString &text, const QString &path);
 
-/// The error with the file name that the user gave.
-Error onFile(Error error, const QString &path);
-
 /// Index of a name, else of one that differs only in case; -1 for none.
 qsizetype indexOfName(const QStringList &names, const QString &name);
 

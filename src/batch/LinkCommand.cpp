@@ -123,7 +123,7 @@ ExitStatus makeLayer(const links::LinkLayerInput &input, const LayerRequest &req
 {
     const Result<geodata::LinkCheck> check = readLinks(input, wanted, options.quiet);
     if (!check)
-        return refuse(onFile(check.error(), request.table));
+        return refuse(check.error().withPath(request.table));
     const geodata::SystemPair systems{input.sourceSrs, input.targetSrs};
     const LayerOutcome outcome = layerOutcome(check.value(), input.file.unit, systems);
     if (outcome.placed == 0) {
@@ -169,7 +169,7 @@ ExitStatus runParsed(const QCommandLineParser &parser, const LinkRequest &wanted
     const auto file = links::readLinkFileInfoAs(QFileInfo(request.table).absoluteFilePath(),
                                                 project, request.reading);
     if (!file)
-        return refuse(onFile(file.error(), request.table));
+        return refuse(file.error().withPath(request.table));
     input.file = file.value();
     const geodata::SystemPair systems = chosenSystems(parser, input.file.systems);
     if (const auto refusal = tables::systemRefusal(systems))

@@ -57,7 +57,7 @@ ExitStatus makeLayer(const sites::SiteLayerInput &input, const LayerRequest &req
 {
     const Result<LayerOutcome> outcome = placeSites(input, options.quiet);
     if (!outcome)
-        return refuse(onFile(outcome.error(), request.table));
+        return refuse(outcome.error().withPath(request.table));
     if (outcome.value().placed == 0) {
         warnOfSystems(outcome.value());
         return refuse(
@@ -93,7 +93,7 @@ ExitStatus runParsed(const QCommandLineParser &parser, const GlobalOptions &opti
     const auto file = sites::readSiteFileInfoAs(QFileInfo(request.table).absoluteFilePath(),
                                                 surroundings.project, request.reading);
     if (!file)
-        return refuse(onFile(file.error(), request.table));
+        return refuse(file.error().withPath(request.table));
     input.file = file.value();
     const geodata::SystemPair systems = chosenSystems(parser, input.file.systems);
     if (const auto refusal = tables::systemRefusal(systems))

@@ -23,8 +23,8 @@ struct Error
     QString path = {}; ///< path of the file concerned
     QString detail = {};
 
-    /// Text and path as shown to the user, with a line feed between them.
-    QString display() const { return path.isEmpty() ? text : text + QLatin1Char('\n') + path; }
+    /// The same error of another file, or of none.
+    Error withPath(const QString &other) const { return {key, text, other, detail}; }
 };
 
 /// A value, or the reason why there is none. Access to the missing one throws std::logic_error.

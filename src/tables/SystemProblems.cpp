@@ -1,6 +1,7 @@
 #include "tables/SystemProblems.h"
 
 #include "geodata/SrsDefinition.h"
+#include "language/ErrorText.h"
 #include "language/VltLanguageManager.h"
 
 namespace vlt::tables {
@@ -47,9 +48,8 @@ QList<Problem> refusals(const geodata::SystemPair &systems, const geodata::Syste
     QList<Problem> problems;
     const auto add = [&problems](const QString &system, const SrsFacts &facts) {
         if (const auto refusal = geodata::srsRefusal(facts))
-            problems << warning(
-                label(system, facts) + QStringLiteral(": ") +
-                dico_label(refusal->key.toUtf8().constData(), refusal->text.toUtf8().constData()));
+            problems << warning(label(system, facts) + QStringLiteral(": ") +
+                                language::reasonOf(*refusal));
     };
     add(systems.source, check.source);
     if (geodata::listedCode(systems.target) != geodata::listedCode(systems.source))

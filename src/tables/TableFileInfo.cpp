@@ -74,7 +74,7 @@ Result<TableFile> readTableFile(const TableFileType &type, const QString &path,
     }
     const geodata::LayerInfo &layer = opened.value();
     if (!layer.present || layer.featureCount == 0)
-        return Error{type.empty.key, type.empty.text, path};
+        return type.empty.withPath(path);
 
     TableFileInfo info;
     info.reading = reading;

@@ -190,7 +190,7 @@ private Q_SLOTS:
                 writeTexturedLayer(path(u"out.lay"_s), m_input, storeys(), Access::Shared);
 
             QVERIFY(!files);
-            QCOMPARE(files.error().display(), text + path(blocked));
+            QCOMPARE(files.error().text + u'\n' + files.error().path, text + path(blocked));
             QCOMPARE(files.error().detail.isEmpty(), blocked.contains(u"template"_s));
             QCOMPARE(QDir(m_dir->path()).entryList(), before);
             for (const QString &name : names)

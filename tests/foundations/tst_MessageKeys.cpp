@@ -47,7 +47,7 @@ Texts shippedTexts(const QString &code)
             if (read)
                 texts.insert(read.value());
             else
-                QTest::qFail(qPrintable(read.error().display()), __FILE__, __LINE__);
+                QTest::qFail(qPrintable(read.error().text), __FILE__, __LINE__);
         }
     }
     return texts;

@@ -41,7 +41,7 @@ std::optional<vlt::Error> PathPicker::unreadable() const
 {
     if (isReadable(path()))
         return std::nullopt;
-    return vlt::Error{m_unreadable.key, m_unreadable.text, path()};
+    return m_unreadable.withPath(path());
 }
 
 void PathPicker::showPath(const QString &path)

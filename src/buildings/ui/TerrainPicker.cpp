@@ -3,7 +3,7 @@
 #include "buildings/ui/NoDataGuess.h"
 #include "buildings/ui/RasterMessages.h"
 #include "contract/NoDataText.h"
-#include "language/ReaderText.h"
+#include "language/ErrorText.h"
 #include "text/Numbers.h"
 #include "wizard/base/BusyWait.h"
 
@@ -52,10 +52,9 @@ void TerrainPicker::show(const QString &path, const Summary &terrain)
     m_widgets.noData->setText(noData ? text::f6(*noData) : QString());
     Q_EMIT changed();
     if (!terrain) {
-        const QString &reason = terrain.error().detail;
         Q_EMIT failed(tr("%1: %2", "MESS_FILE_REASON")
-                          .arg(QFileInfo(path).fileName(), language::readerText(reason)));
-        buildings::warnOfRaster(page(), RasterProblem::CannotOpen, path, reason);
+                          .arg(QFileInfo(path).fileName(), language::detailOf(terrain.error())));
+        buildings::warnOfRaster(page(), RasterProblem::CannotOpen, path, terrain.error().detail);
     } else if (!isUsable)
         buildings::warnOfRaster(page(), RasterProblem::NoBands, path);
     else if (terrain.value().holdsColors)

@@ -2,12 +2,12 @@
 
 #include "ui_BuildingPreview.h"
 
+#include "language/ErrorText.h"
 #include "language/ReaderText.h"
 #include "preview/VisibleDistance.h"
 #include "snapshot/SceneNotices.h"
 #include "text/RichText.h"
 #include "wizard/base/BusyWait.h"
-#include "wizard/base/Messages.h"
 
 #include <QFileInfo>
 #include <QLocale>
@@ -51,7 +51,7 @@ QString shortNotice(const QString &notice, const QString &layerPath)
 
 QString reasonIn(const vlt::Error &error, const QString &layerPath)
 {
-    return error.detail.isEmpty() ? vlt::messages::reasonOf(error)
+    return error.detail.isEmpty() ? vlt::language::reasonOf(error)
                                   : shortNotice(error.detail, layerPath);
 }
 

@@ -1,6 +1,8 @@
 #include "tables/ui/VltLayerPreview.h"
 
 #include "ui_LayerPreview.h"
+
+#include "language/ErrorText.h"
 #include "wizard/base/BusyWait.h"
 #include "wizard/base/Messages.h"
 
@@ -119,7 +121,7 @@ bool VltLayerPreview::showLayer()
     if (read)
         vlt::messages::critical(this, {QStringLiteral("MESS_CANT_SHOW_LAYER"),
                                        QStringLiteral("The layer cannot be shown"), m_layerFile,
-                                       vlt::messages::reasonOf(read->error())});
+                                       vlt::language::reasonOf(read->error())});
     return false;
 }
 

@@ -1,9 +1,9 @@
 #include "tables/ui/VltTableDetails.h"
 
+#include "language/ErrorText.h"
 #include "language/ReaderText.h"
 #include "tables/ui/CopyRows.h"
 #include "text/RichText.h"
-#include "wizard/base/Messages.h"
 
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -308,7 +308,7 @@ void VltTableDetails::checkFailed(const vlt::Error &error)
     forgetRows();
     vlt::Problem problem;
     problem.severity = vlt::Problem::Severity::Error;
-    problem.text = vlt::messages::reasonOf(error);
+    problem.text = vlt::language::reasonOf(error);
     const QList<vlt::Problem> all = m_fileProblems + QList<vlt::Problem>{problem};
     showProblems(all, all.size());
     showSummary(nonePlacedText(), true);

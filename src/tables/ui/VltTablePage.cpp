@@ -1,6 +1,6 @@
 #include "tables/ui/VltTablePage.h"
 
-#include "language/ReaderText.h"
+#include "language/ErrorText.h"
 #include "platform/LayerFile.h"
 #include "platform/Settings.h"
 #include "tables/SystemObstacle.h"
@@ -262,8 +262,8 @@ void VltTablePage::readFile(const QString &path, bool quiet)
         m_fileDir = QFileInfo(path).absolutePath();
     showFile();
     if (m_refusal && !quiet)
-        vlt::messages::critical(this, {m_refusal->key, m_refusal->text, path, m_refusal->detail},
-                                vlt::messages::errorTitle(), vlt::messages::PathPlace::BelowText);
+        vlt::messages::critical(this, m_refusal->withPath(path), vlt::messages::errorTitle(),
+                                vlt::messages::PathPlace::BelowText);
 }
 
 void VltTablePage::showFile()
@@ -293,7 +293,7 @@ QString VltTablePage::fileReason() const
     if (!m_refusal || m_refusal->detail.isEmpty())
         return {};
     return tr("%1: %2", "MESS_FILE_REASON")
-        .arg(QFileInfo(m_pathRead).fileName(), vlt::language::readerText(m_refusal->detail));
+        .arg(QFileInfo(m_pathRead).fileName(), vlt::language::detailOf(*m_refusal));
 }
 
 /// Shows why there is no layer; the text is empty if there is one or no table was chosen.
@@ -341,7 +341,7 @@ vlt::Stoppable<vlt::Done> VltTablePage::writeLayer(const QString &path,
     if (!layer)
         return layer.error();
     if (layer.value().warning)
-        vlt::messages::warning(this, {layer.value().warning->key, layer.value().warning->text, {}},
+        vlt::messages::warning(this, layer.value().warning->withPath({}),
                                tr("Error !!!", "MESS_ERREUR"));
     return vlt::platform::writeLayerFile(path, layer.value().text, access);
 }

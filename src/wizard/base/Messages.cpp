@@ -1,6 +1,6 @@
 #include "wizard/base/Messages.h"
 
-#include "language/ReaderText.h"
+#include "language/ErrorText.h"
 #include "language/VltLanguageManager.h"
 #include "text/RichText.h"
 
@@ -16,14 +16,14 @@ void show(QMessageBox::Icon icon, QWidget *parent, const Error &error, const QSt
           PathPlace place)
 {
     const bool isBelow = place == PathPlace::BelowText;
-    QMessageBox box(icon, title, isBelow ? reasonOf(error) : textOf(error), QMessageBox::Ok,
-                    parent);
+    QMessageBox box(icon, title, isBelow ? language::reasonOf(error) : textOf(error),
+                    QMessageBox::Ok, parent);
     box.setTextFormat(Qt::PlainText);
     QStringList below;
     if (isBelow)
         below << error.path;
-    if (!error.text.isEmpty() && !error.detail.isEmpty())
-        below << language::readerText(error.detail);
+    if (const QString detail = language::detailOf(error); !detail.isEmpty())
+        below << detail;
     box.setInformativeText(text::asRichText(below.join(QLatin1Char('\n'))));
     box.exec();
 }
@@ -39,16 +39,8 @@ QString shownPath(const QString &path)
 
 QString textOf(const Error &error)
 {
-    return Error{{}, reasonOf(error), shownPath(error.path)}.display();
-}
-
-QString reasonOf(const Error &error)
-{
-    if (error.text.isEmpty())
-        return language::readerText(error.detail);
-    return error.key.isEmpty()
-               ? error.text
-               : dico_label(error.key.toUtf8().constData(), error.text.toUtf8().constData());
+    const QString reason = language::reasonOf(error);
+    return error.path.isEmpty() ? reason : reason + QLatin1Char('\n') + shownPath(error.path);
 }
 
 QString errorTitle()

@@ -15,9 +15,6 @@ QString textOf(const Error &error);
 /// Title of the boxes that report a failure: "Error".
 QString errorTitle();
 
-/// The text of an error without its path, or its detail if it has no text.
-QString reasonOf(const Error &error);
-
 /// Position of an error's path in a box: after its text and a line feed, or below it in smaller
 /// letters.
 enum class PathPlace { BehindText, BelowText };
