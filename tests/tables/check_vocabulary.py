@@ -10,8 +10,11 @@ import unicodedata
 
 # Words with two meanings, between which the values or the other columns of a table decide.
 TWO_ROLES = [
-    {"siteName", "sectorId"},       # a cell name can be the name of the site
-    {"longitude", "length"},        # both are one word in German, Dutch, Polish, Czech, Greek and Hebrew
+    {"siteId", "siteName"},  # "Site" and "Standort" head codes as well as names
+    {"siteId", "linkName"},  # "id" and "name" alone belong to whatever a row is
+    {"siteName", "linkName"},
+    {"siteName", "sectorId"},  # a cell name can be the name of the site
+    {"longitude", "length"},  # both are one word in German, Dutch, Polish, Czech, Greek and Hebrew
     {"groundHeight", "antennaHeight"},  # "alt" abbreviates altitude and Spanish "altura"
 ]
 PARTS_IN_LAYOUTS = {axis + part for axis in ("lat", "lon") for part in ("Degrees", "Minutes", "Seconds", "Hemisphere")}
