@@ -5,7 +5,7 @@ vltRoot=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 
 buildPackages=(g++ cmake ninja-build ccache pkg-config
     qt6-base-dev qt6-svg-dev libqt6opengl6-dev qt6-translations-l10n
-    libgdal-dev libproj-dev libiniparser-dev libisal-dev libuchardet-dev libpcre2-dev libopenscenegraph-dev)
+    libgdal-dev libproj-dev libiniparser-dev libisal-dev libuchardet-dev libutf8proc-dev nlohmann-json3-dev libpcre2-dev libopenscenegraph-dev)
 packagingPackages=(file dpkg-dev)
 testPackages=(gdal-bin openscenegraph python3-xlwt locales xvfb xauth desktop-file-utils appstream "${packagingPackages[@]}")
 formatPackages=(clang-format-14) # not in every Debian release

@@ -11,6 +11,12 @@ inline constexpr char BuildingTemplateFolder[] = "addons/telecom/template";
 inline constexpr char ColorMapFolder[] = "addons/telecom/colormaps";
 /// The dictionaries of layers; those of the programs lie in "MESSAGES".
 inline constexpr char LayerMessageFolder[] = "addons/telecom/MESSAGES";
+/// What the readers of tables need.
+inline constexpr char TableFolder[] = "addons/telecom/tables";
+/// The words of column names, in TableFolder; a user's own are in UserTableFolder.
+inline constexpr char VocabularyFile[] = "vocabulary.json";
+/// Below the user's folder of data.
+inline constexpr char UserTableFolder[] = "veltaro/telecom";
 /// The plug-ins of the geodata library and of the scene library.
 inline constexpr char PluginFolder[] = "driver";
 

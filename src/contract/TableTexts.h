@@ -157,6 +157,27 @@ inline constexpr auto TableTexts = std::to_array<Text>({
      "the coordinate \"%1\" cannot be read: a longitude lies between -180 and 180"},
     {"MESS_TAB_LATITUDE",
      "the coordinate \"%1\" cannot be read: a latitude lies between -90 and 90"},
+    {"MESS_TAB_NO_VOCABULARY",
+     "the installation is not complete: its vocabulary of column names is missing"},
+    {"MESS_TAB_BAD_VOCABULARY", "the vocabulary %1 cannot be read: %2"},
+
+    // transmitters of sites
+    {"MESS_TAB_SECTOR_HEIGHT",
+     "the antenna height \"%1\" cannot be used: the transmitter is left out"},
+    {"MESS_TAB_SECTOR_AZIMUTH", "the azimuth \"%1\" cannot be used: the transmitter is left out"},
+    {"MESS_TAB_SECTOR_TILT", "the tilt \"%1\" cannot be used: the transmitter is left out"},
+    {"MESS_TAB_SECTOR_BEAM_WIDTH",
+     "the beam width \"%1\" cannot be used: the transmitter is left out"},
+    {"MESS_TAB_SITE_ELSEWHERE", "the site \"%1\" lies %2 m away in row %3: this row makes a site "
+                                "of its own"},
+
+    // why a column has a role
+    {"MESS_TAB_EVIDENCE_EMPTY", "header \"%1\"; no values"},
+    {"MESS_TAB_EVIDENCE_TEXTS", "header \"%1\"; %2 texts, %3 of them different"},
+    {"MESS_TAB_EVIDENCE_WHOLE", "header \"%1\"; %2 whole numbers from %3 to %4"},
+    {"MESS_TAB_EVIDENCE_NUMBERS", "header \"%1\"; %2 numbers from %3 to %4"},
+    {"MESS_TAB_EVIDENCE_LISTS", "header \"%1\"; %2 lists of numbers from %3 to %4"},
+
     {"MESS_TAB_ZERO_ZERO",
      "the coordinate \"%1\" cannot be read: 0, 0 stands for an unknown position"},
 });

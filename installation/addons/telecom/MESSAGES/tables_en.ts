@@ -419,5 +419,53 @@
         <source>the coordinate "%1" cannot be read: 0, 0 stands for an unknown position</source>
         <translation>the coordinate "%1" cannot be read: 0, 0 stands for an unknown position</translation>
     </message>
+    <message id="MESS_TAB_NO_VOCABULARY">
+        <source>the installation is not complete: its vocabulary of column names is missing</source>
+        <translation>the installation is not complete: its vocabulary of column names is missing</translation>
+    </message>
+    <message id="MESS_TAB_BAD_VOCABULARY">
+        <source>the vocabulary %1 cannot be read: %2</source>
+        <translation>the vocabulary %1 cannot be read: %2</translation>
+    </message>
+    <message id="MESS_TAB_SECTOR_HEIGHT">
+        <source>the antenna height "%1" cannot be used: the transmitter is left out</source>
+        <translation>the antenna height "%1" cannot be used: the transmitter is left out</translation>
+    </message>
+    <message id="MESS_TAB_SECTOR_AZIMUTH">
+        <source>the azimuth "%1" cannot be used: the transmitter is left out</source>
+        <translation>the azimuth "%1" cannot be used: the transmitter is left out</translation>
+    </message>
+    <message id="MESS_TAB_SECTOR_TILT">
+        <source>the tilt "%1" cannot be used: the transmitter is left out</source>
+        <translation>the tilt "%1" cannot be used: the transmitter is left out</translation>
+    </message>
+    <message id="MESS_TAB_SECTOR_BEAM_WIDTH">
+        <source>the beam width "%1" cannot be used: the transmitter is left out</source>
+        <translation>the beam width "%1" cannot be used: the transmitter is left out</translation>
+    </message>
+    <message id="MESS_TAB_SITE_ELSEWHERE">
+        <source>the site "%1" lies %2 m away in row %3: this row makes a site of its own</source>
+        <translation>the site "%1" lies %2 m away in row %3: this row makes a site of its own</translation>
+    </message>
+    <message id="MESS_TAB_EVIDENCE_EMPTY">
+        <source>header "%1"; no values</source>
+        <translation>header "%1"; no values</translation>
+    </message>
+    <message id="MESS_TAB_EVIDENCE_TEXTS">
+        <source>header "%1"; %2 texts, %3 of them different</source>
+        <translation>header "%1"; %2 texts, %3 of them different</translation>
+    </message>
+    <message id="MESS_TAB_EVIDENCE_WHOLE">
+        <source>header "%1"; %2 whole numbers from %3 to %4</source>
+        <translation>header "%1"; %2 whole numbers from %3 to %4</translation>
+    </message>
+    <message id="MESS_TAB_EVIDENCE_NUMBERS">
+        <source>header "%1"; %2 numbers from %3 to %4</source>
+        <translation>header "%1"; %2 numbers from %3 to %4</translation>
+    </message>
+    <message id="MESS_TAB_EVIDENCE_LISTS">
+        <source>header "%1"; %2 lists of numbers from %3 to %4</source>
+        <translation>header "%1"; %2 lists of numbers from %3 to %4</translation>
+    </message>
 </context>
 </TS>

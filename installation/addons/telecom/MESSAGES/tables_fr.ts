@@ -419,5 +419,53 @@
         <source>the coordinate "%1" cannot be read: 0, 0 stands for an unknown position</source>
         <translation>la coordonnée «&#xa0;%1&#xa0;» ne peut pas être lue&#xa0;: 0, 0 désigne une position inconnue</translation>
     </message>
+    <message id="MESS_TAB_NO_VOCABULARY">
+        <source>the installation is not complete: its vocabulary of column names is missing</source>
+        <translation>l'installation n'est pas complète&#xa0;: son vocabulaire des noms de colonnes manque</translation>
+    </message>
+    <message id="MESS_TAB_BAD_VOCABULARY">
+        <source>the vocabulary %1 cannot be read: %2</source>
+        <translation>le vocabulaire %1 ne peut pas être lu&#xa0;: %2</translation>
+    </message>
+    <message id="MESS_TAB_SECTOR_HEIGHT">
+        <source>the antenna height "%1" cannot be used: the transmitter is left out</source>
+        <translation>la hauteur d'antenne «&#xa0;%1&#xa0;» n'est pas utilisable&#xa0;: l'émetteur est laissé de côté</translation>
+    </message>
+    <message id="MESS_TAB_SECTOR_AZIMUTH">
+        <source>the azimuth "%1" cannot be used: the transmitter is left out</source>
+        <translation>l'azimut «&#xa0;%1&#xa0;» n'est pas utilisable&#xa0;: l'émetteur est laissé de côté</translation>
+    </message>
+    <message id="MESS_TAB_SECTOR_TILT">
+        <source>the tilt "%1" cannot be used: the transmitter is left out</source>
+        <translation>l'inclinaison «&#xa0;%1&#xa0;» n'est pas utilisable&#xa0;: l'émetteur est laissé de côté</translation>
+    </message>
+    <message id="MESS_TAB_SECTOR_BEAM_WIDTH">
+        <source>the beam width "%1" cannot be used: the transmitter is left out</source>
+        <translation>l'ouverture «&#xa0;%1&#xa0;» n'est pas utilisable&#xa0;: l'émetteur est laissé de côté</translation>
+    </message>
+    <message id="MESS_TAB_SITE_ELSEWHERE">
+        <source>the site "%1" lies %2 m away in row %3: this row makes a site of its own</source>
+        <translation>le site «&#xa0;%1&#xa0;» se trouve à %2 m de là à la ligne %3&#xa0;: cette ligne forme un site à part</translation>
+    </message>
+    <message id="MESS_TAB_EVIDENCE_EMPTY">
+        <source>header "%1"; no values</source>
+        <translation>en-tête «&#xa0;%1&#xa0;»&#xa0;; aucune valeur</translation>
+    </message>
+    <message id="MESS_TAB_EVIDENCE_TEXTS">
+        <source>header "%1"; %2 texts, %3 of them different</source>
+        <translation>en-tête «&#xa0;%1&#xa0;»&#xa0;; %2 textes, dont %3 différents</translation>
+    </message>
+    <message id="MESS_TAB_EVIDENCE_WHOLE">
+        <source>header "%1"; %2 whole numbers from %3 to %4</source>
+        <translation>en-tête «&#xa0;%1&#xa0;»&#xa0;; %2 nombres entiers de %3 à %4</translation>
+    </message>
+    <message id="MESS_TAB_EVIDENCE_NUMBERS">
+        <source>header "%1"; %2 numbers from %3 to %4</source>
+        <translation>en-tête «&#xa0;%1&#xa0;»&#xa0;; %2 nombres de %3 à %4</translation>
+    </message>
+    <message id="MESS_TAB_EVIDENCE_LISTS">
+        <source>header "%1"; %2 lists of numbers from %3 to %4</source>
+        <translation>en-tête «&#xa0;%1&#xa0;»&#xa0;; %2 listes de nombres de %3 à %4</translation>
+    </message>
 </context>
 </TS>

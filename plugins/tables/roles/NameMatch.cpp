@@ -1,0 +1,275 @@
+#include "plugins/tables/roles/NameMatch.h"
+
+#include "plugins/tables/roles/NameWords.h"
+
+#include <algorithm>
+#include <charconv>
+
+namespace vlt::driver {
+
+namespace {
+
+constexpr std::size_t MinFusedSize = 4; ///< bytes of words that are written together
+constexpr int FullStrength = 100;
+constexpr int StrengthBesideKnown = 90;
+constexpr int StrengthBesideUnknown = 65;
+constexpr int StrengthPerUnknown = 10;
+constexpr int MinStrength = 25;
+constexpr int MaxSector = 99;
+
+bool isNumber(const std::string &word)
+{
+    return !word.empty() && word.find_first_not_of("0123456789") == std::string::npos;
+}
+
+/// Appends the parts of a word that is written together, if the vocabulary knows all of them.
+bool separate(const std::string &word, const Vocabulary &vocabulary, int depth,
+              std::vector<std::string> &parts)
+{
+    for (std::size_t cut = word.size() - 1; cut >= 2; --cut) {
+        const std::string before = word.substr(0, cut);
+        const WordMeaning *first = vocabulary.find(before);
+        if (!first || !(first->roles.any() || first->isSite || first->isSector || first->isEndA ||
+                        first->isEndB))
+            continue;
+        const std::string after = word.substr(cut);
+        const WordMeaning *second = vocabulary.find(after);
+        // a single letter is an end of a link only
+        const bool known =
+            second && (after.size() > 1 ? !second->isUnit() || second->roles.any()
+                                        : second->isEndA || second->isEndB);
+        if (known && (after.size() > 1 || before.size() > 2)) {
+            parts.push_back(before);
+            parts.push_back(after);
+            return true;
+        }
+        std::vector<std::string> further;
+        if (depth > 0 && after.size() >= MinFusedSize &&
+            separate(after, vocabulary, depth - 1, further)) {
+            parts.push_back(before);
+            parts.insert(parts.end(), further.begin(), further.end());
+            return true;
+        }
+    }
+    return false;
+}
+
+/// The words of a name without those of a phrase.
+class Remainder
+{
+public:
+    Remainder(const std::vector<std::string> &words, std::size_t first, std::size_t count,
+              const Vocabulary &vocabulary)
+        : m_words(words)
+        , m_first(first)
+        , m_end(first + count)
+        , m_vocabulary(vocabulary)
+        , m_isTaken(words.size())
+    {
+        std::fill(m_isTaken.begin() + static_cast<std::ptrdiff_t>(first),
+                  m_isTaken.begin() + static_cast<std::ptrdiff_t>(m_end), true);
+        findNeutral();
+    }
+
+    /// The number of a sector: a number beside a word for sectors or beside the phrase, or a
+    /// letter beside a word for sectors. -1 for none.
+    int takeSector()
+    {
+        for (std::size_t at = 0; at < m_words.size(); ++at) {
+            if (m_isTaken[at])
+                continue;
+            const bool besideWord = isSectorWord(at - 1) || isSectorWord(at + 1);
+            const bool besidePhrase = at + 1 == m_first || at == m_end;
+            const std::string &word = m_words[at];
+            int number = -1;
+            if (isNumber(word) && (besideWord || besidePhrase))
+                std::from_chars(word.data(), word.data() + word.size(), number);
+            else if (word.size() == 1 && word[0] >= 'a' && word[0] <= 'f' &&
+                     (isSectorWord(at - 1) || (besidePhrase && m_words.size() == 2)))
+                number = word[0] - 'a' + 1;
+            if (number < 0 || number > MaxSector)
+                continue;
+            m_isTaken[at] = true;
+            return number;
+        }
+        return -1;
+    }
+
+    CoordinatePart takePart()
+    {
+        for (std::size_t at = 0; at < m_words.size(); ++at) {
+            const WordMeaning *meaning = m_isTaken[at] ? nullptr : m_vocabulary.find(m_words[at]);
+            if (meaning && meaning->part) {
+                m_isTaken[at] = true;
+                return *meaning->part;
+            }
+        }
+        return CoordinatePart::Whole;
+    }
+
+    /// The number of words that are not understood.
+    int unknownWords() const
+    {
+        int count = 0;
+        for (std::size_t at = 0; at < m_words.size(); ++at)
+            count += !m_isTaken[at] && !m_isNeutral[at] ? 1 : 0;
+        return count;
+    }
+
+    bool isEmpty() const { return std::find(m_isTaken.begin(), m_isTaken.end(), false) == m_isTaken.end(); }
+
+    std::string text() const
+    {
+        std::string rest;
+        for (std::size_t at = 0; at < m_words.size(); ++at) {
+            const WordMeaning *meaning = m_vocabulary.find(m_words[at]);
+            if (!m_isTaken[at] && !(meaning && meaning->isUnit()))
+                rest += m_words[at] + ' ';
+        }
+        return rest;
+    }
+
+private:
+    bool isSectorWord(std::size_t at) const
+    {
+        if (at >= m_words.size() || m_isTaken[at])
+            return false;
+        const WordMeaning *meaning = m_vocabulary.find(m_words[at]);
+        return meaning && meaning->isSector;
+    }
+
+    /// Marks the words of sites, sectors and units; some of them are phrases.
+    void findNeutral()
+    {
+        constexpr std::size_t MaxWords = 4;
+        m_isNeutral.resize(m_words.size());
+        for (std::size_t first = 0; first < m_words.size(); ++first) {
+            std::string joined;
+            for (std::size_t at = first;
+                 at < m_words.size() && at < first + MaxWords && !m_isTaken[at]; ++at) {
+                joined += m_words[at];
+                const WordMeaning *meaning = m_vocabulary.find(joined);
+                if (meaning && (meaning->isSite || meaning->isSector || meaning->isUnit()))
+                    std::fill(m_isNeutral.begin() + static_cast<std::ptrdiff_t>(first),
+                              m_isNeutral.begin() + static_cast<std::ptrdiff_t>(at + 1), true);
+            }
+        }
+    }
+
+    const std::vector<std::string> &m_words;
+    std::size_t m_first;
+    std::size_t m_end;
+    const Vocabulary &m_vocabulary;
+    std::vector<bool> m_isTaken;
+    std::vector<bool> m_isNeutral;
+};
+
+bool isCoordinate(Role role)
+{
+    return role >= Role::Longitude && role <= Role::Y;
+}
+
+NameMatch matchOf(Role role, const std::vector<std::string> &words, std::size_t first,
+                  std::size_t count, const Vocabulary &vocabulary)
+{
+    NameMatch match;
+    match.role = role;
+    Remainder remainder(words, first, count, vocabulary);
+    match.sector = remainder.takeSector();
+    if (isCoordinate(role))
+        match.part = remainder.takePart();
+    const int unknown = remainder.unknownWords();
+    match.strength =
+        unknown > 0 ? std::max(MinStrength, StrengthBesideUnknown - StrengthPerUnknown * unknown)
+        : remainder.isEmpty() ? FullStrength
+                              : StrengthBesideKnown;
+    match.strength += static_cast<int>(count) - 1; // the longer phrase is the more precise one
+    match.rest = remainder.text();
+    return match;
+}
+
+} // namespace
+
+std::vector<std::string> separatedWords(std::string_view name, const Vocabulary &vocabulary)
+{
+    std::vector<std::string> words;
+    for (std::string &word : nameWords(name)) {
+        if (word.size() < MinFusedSize || vocabulary.find(word) ||
+            !separate(word, vocabulary, 1, words))
+            words.push_back(std::move(word));
+    }
+    return words;
+}
+
+namespace {
+
+/// A name that only says what the rows are, "Mast" or "Sector", is that of their names.
+std::optional<NameMatch> matchOfKind(const std::vector<std::string> &words,
+                                     const Vocabulary &vocabulary)
+{
+    bool areSites = !words.empty();
+    bool areSectors = !words.empty();
+    for (const std::string &word : words) {
+        const WordMeaning *meaning = vocabulary.find(word);
+        areSites = areSites && meaning && meaning->isSite;
+        areSectors = areSectors && meaning && meaning->isSector && word.size() > 1;
+    }
+    if (!areSites && !areSectors)
+        return std::nullopt;
+    NameMatch match;
+    match.role = areSectors ? Role::SectorId : Role::SiteName;
+    match.strength = StrengthBesideKnown;
+    match.sector = -1;
+    return match;
+}
+
+} // namespace
+
+std::vector<NameMatch> matchName(const std::vector<std::string> &words,
+                                 const Vocabulary &vocabulary)
+{
+    std::vector<NameMatch> matches;
+    for (std::size_t first = 0; first < words.size(); ++first) {
+        std::string joined;
+        for (std::size_t count = 1;
+             count <= vocabulary.longestPhrase() && first + count <= words.size(); ++count) {
+            joined += words[first + count - 1];
+            const WordMeaning *meaning = vocabulary.find(joined);
+            if (!meaning || meaning->roles.none())
+                continue;
+            for (int i = 1; i < RoleCount; ++i) {
+                const Role role = static_cast<Role>(i);
+                if (!meaning->roles[static_cast<std::size_t>(i)] ||
+                    vocabulary.forbids(role, words))
+                    continue;
+                NameMatch match = matchOf(role, words, first, count, vocabulary);
+                const auto same =
+                    std::find_if(matches.begin(), matches.end(),
+                                 [role](const NameMatch &other) { return other.role == role; });
+                if (same == matches.end())
+                    matches.push_back(std::move(match));
+                else if (match.strength > same->strength)
+                    *same = std::move(match);
+            }
+        }
+    }
+    if (matches.empty()) {
+        if (std::optional<NameMatch> ofKind = matchOfKind(words, vocabulary))
+            matches.push_back(std::move(*ofKind));
+    }
+    return matches;
+}
+
+std::optional<double> unitOfName(const std::vector<std::string> &words,
+                                 std::optional<double> WordMeaning::*unit,
+                                 const Vocabulary &vocabulary)
+{
+    for (const std::string &word : words) {
+        const WordMeaning *meaning = vocabulary.find(word);
+        if (meaning && meaning->*unit)
+            return meaning->*unit;
+    }
+    return std::nullopt;
+}
+
+} // namespace vlt::driver

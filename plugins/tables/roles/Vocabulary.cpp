@@ -1,0 +1,178 @@
+#include "plugins/tables/roles/Vocabulary.h"
+
+#include "plugins/tables/cells/Cell.h"
+#include "plugins/tables/roles/NameWords.h"
+
+#include <nlohmann/json.hpp>
+
+#include <algorithm>
+#include <array>
+#include <numbers>
+#include <stdexcept>
+
+namespace vlt::driver {
+
+namespace {
+
+using Json = nlohmann::json;
+
+struct Unit
+{
+    const char *name;
+    std::optional<double> WordMeaning::*member;
+    double size;
+};
+
+constexpr double FootM = 0.3048;
+constexpr double MileM = 1609.344;
+
+constexpr std::array Units = {
+    Unit{"m", &WordMeaning::metres, 1},
+    Unit{"km", &WordMeaning::metres, 1000},
+    Unit{"ft", &WordMeaning::metres, FootM},
+    Unit{"mi", &WordMeaning::metres, MileM},
+    Unit{"Hz", &WordMeaning::megahertz, 1e-6},
+    Unit{"kHz", &WordMeaning::megahertz, 1e-3},
+    Unit{"MHz", &WordMeaning::megahertz, 1},
+    Unit{"GHz", &WordMeaning::megahertz, 1000},
+    Unit{"THz", &WordMeaning::megahertz, 1e6},
+    Unit{"deg", &WordMeaning::degrees, 1},
+    Unit{"grad", &WordMeaning::degrees, 0.9},
+    Unit{"rad", &WordMeaning::degrees, 180 / std::numbers::pi},
+};
+
+constexpr std::array<std::pair<const char *, CoordinatePart>, 4> Parts = {{
+    {"degrees", CoordinatePart::Degrees},
+    {"minutes", CoordinatePart::Minutes},
+    {"seconds", CoordinatePart::Seconds},
+    {"hemisphere", CoordinatePart::Hemisphere},
+}};
+
+/// Calls an action with every text of a list, or of lists by language.
+template<typename Action>
+void forEachText(const Json &texts, Action action)
+{
+    if (texts.is_string()) {
+        action(texts.get_ref<const std::string &>());
+        return;
+    }
+    for (const Json &part : texts)
+        forEachText(part, action);
+}
+
+/// The member of an object; null if there is none.
+const Json *memberOf(const Json &object, const char *name)
+{
+    const auto found = object.find(name);
+    return found == object.end() ? nullptr : &*found;
+}
+
+} // namespace
+
+/// Changes the meaning of a phrase, whose words need not be separated.
+template<typename Change>
+void Vocabulary::addPhrase(const std::string &phrase, Change change)
+{
+    const std::vector<std::string> words = nameWords(phrase);
+    std::string joined;
+    for (const std::string &word : words)
+        joined += word;
+    if (joined.empty())
+        return;
+    change(m_phrases[joined]);
+    m_longestPhrase = std::max(m_longestPhrase, words.size());
+}
+
+void Vocabulary::add(std::string_view text)
+{
+    Json root;
+    try {
+        root = Json::parse(text);
+    } catch (const Json::exception &error) {
+        throw std::invalid_argument(error.what());
+    }
+    if (!root.is_object())
+        throw std::invalid_argument("not an object");
+    // a section that is missing is empty
+    const auto section = [&root](const char *name) {
+        const Json *found = memberOf(root, name);
+        return found && found->is_structured() ? *found : Json::object();
+    };
+    const Json roles = section("roles");
+    for (const auto &[name, texts] : roles.items()) {
+        const Role role = roleOfName(name);
+        if (role == Role::None)
+            throw std::invalid_argument("the role \"" + name + "\" is not known");
+        forEachText(texts, [&, isOf = role](const std::string &phrase) {
+            addPhrase(phrase, [isOf](WordMeaning &meaning) {
+                meaning.roles.set(static_cast<std::size_t>(isOf));
+            });
+        });
+    }
+    const Json exclusions = section("not");
+    for (const auto &[name, texts] : exclusions.items()) {
+        auto &forbidden = m_forbidden[roleOfName(name)];
+        forEachText(texts, [&forbidden](const std::string &phrase) {
+            std::string joined;
+            for (const std::string &word : nameWords(phrase))
+                joined += word;
+            forbidden.insert(joined);
+        });
+    }
+    const auto addTo = [&](const Json &texts, auto change) {
+        forEachText(texts, [&](const std::string &phrase) { addPhrase(phrase, change); });
+    };
+    const Json parts = section("parts");
+    for (const auto &[name, part] : Parts) {
+        if (const Json *texts = memberOf(parts, name))
+            addTo(*texts, [part = part](WordMeaning &meaning) { meaning.part = part; });
+    }
+    const Json ends = section("ends");
+    if (const Json *texts = memberOf(ends, "a"))
+        addTo(*texts, [](WordMeaning &meaning) { meaning.isEndA = true; });
+    if (const Json *texts = memberOf(ends, "b"))
+        addTo(*texts, [](WordMeaning &meaning) { meaning.isEndB = true; });
+    addTo(section("sector"), [](WordMeaning &meaning) { meaning.isSector = true; });
+    addTo(section("site"), [](WordMeaning &meaning) { meaning.isSite = true; });
+    const Json units = section("units");
+    for (const Unit &unit : Units) {
+        if (const Json *texts = memberOf(units, unit.name))
+            addTo(*texts, [&unit](WordMeaning &meaning) { meaning.*unit.member = unit.size; });
+    }
+    const auto addFolded = [&](const char *name, std::unordered_set<std::string> &to) {
+        forEachText(section(name), [&to](const std::string &t) { to.insert(folded(t)); });
+    };
+    addFolded("missing", m_missing);
+    addFolded("total", m_totals);
+    addFolded("omni", m_omni);
+}
+
+const WordMeaning *Vocabulary::find(std::string_view joinedWords) const
+{
+    const auto found = m_phrases.find(std::string(joinedWords));
+    return found == m_phrases.end() ? nullptr : &found->second;
+}
+
+bool Vocabulary::forbids(Role role, const std::vector<std::string> &words) const
+{
+    const auto found = m_forbidden.find(role);
+    if (found == m_forbidden.end())
+        return false;
+    for (std::size_t first = 0; first < words.size(); ++first) {
+        std::string joined;
+        for (std::size_t at = first; at < words.size() && at < first + 3; ++at) {
+            joined += words[at];
+            if (found->second.contains(joined))
+                return true;
+        }
+    }
+    return false;
+}
+
+bool Vocabulary::isIn(const std::unordered_set<std::string> &texts, std::string_view text)
+{
+    constexpr std::size_t MaxSize = 40; // longer texts are none of these
+    return text.size() <= MaxSize && texts.contains(folded(trimmed(text)));
+}
+
+} // namespace vlt::driver

@@ -1,0 +1,87 @@
+#pragma once
+
+#include "plugins/tables/roles/Role.h"
+
+#include <bitset>
+#include <cstddef>
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <unordered_set>
+#include <vector>
+
+namespace vlt::driver {
+
+/// A part of a coordinate that has a column of its own.
+enum class CoordinatePart { Whole, Degrees, Minutes, Seconds, Hemisphere };
+
+/// What a word or a phrase in a column name can mean; several may apply.
+struct WordMeaning
+{
+    std::bitset<RoleCount> roles;
+    std::optional<CoordinatePart> part;
+    bool isEndA = false; ///< of a link
+    bool isEndB = false;
+    bool isSector = false; ///< stands beside the number of a sector
+    bool isSite = false; ///< may stand beside any role of a site
+    std::optional<double> metres; ///< per unit of length of that name
+    std::optional<double> megahertz; ///< per unit of frequency of that name
+    std::optional<double> degrees; ///< per unit of angle of that name
+
+    bool isUnit() const { return metres || megahertz || degrees; }
+};
+
+/// The words by which columns and values of tables are recognised. They are data, not code: the
+/// installation has a file of them, and a user may add one of his own.
+class Vocabulary
+{
+public:
+    /// Adds the words of a vocabulary in JSON form. Throws std::invalid_argument with the reason.
+    void add(std::string_view json);
+
+    /// The meaning of folded words written together, such as "siteid"; null for unknown words.
+    const WordMeaning *find(std::string_view joinedWords) const;
+    /// Maximum number of words of a phrase.
+    std::size_t longestPhrase() const { return m_longestPhrase; }
+    /// Whether one of the words of a name rules out that it has a role.
+    bool forbids(Role role, const std::vector<std::string> &words) const;
+
+    /// Whether a text stands for no value: NA, N/A, -, --, #N/A.
+    bool isMissing(std::string_view text) const { return isIn(m_missing, text); }
+    /// Whether a text marks a row of sums.
+    bool isTotal(std::string_view text) const { return isIn(m_totals, text); }
+    /// Whether a text in a column of azimuths means all directions.
+    bool isOmni(std::string_view text) const { return isIn(m_omni, text); }
+
+private:
+    using Phrases = std::unordered_map<std::string, WordMeaning>;
+
+    static bool isIn(const std::unordered_set<std::string> &texts, std::string_view text);
+
+    template<typename Change>
+    void addPhrase(const std::string &phrase, Change change);
+
+    Phrases m_phrases;
+    std::map<Role, std::unordered_set<std::string>> m_forbidden;
+    std::unordered_set<std::string> m_missing; ///< folded
+    std::unordered_set<std::string> m_totals;
+    std::unordered_set<std::string> m_omni;
+    std::size_t m_longestPhrase = 1;
+};
+
+/// The vocabulary that readers use.
+struct InstalledVocabulary
+{
+    Vocabulary words;
+    std::string ownFault; ///< why the user's own file is left out; empty if it is not
+};
+
+/// The vocabulary of the installation with that of the user, read once. The latter is the file
+/// that the environment variable VLT_TABLE_VOCABULARY names, or else vocabulary.json in
+/// veltaro/telecom below the user's folder of data. Throws RefusedFile if the vocabulary of the
+/// installation cannot be read.
+const InstalledVocabulary &installedVocabulary();
+
+} // namespace vlt::driver
