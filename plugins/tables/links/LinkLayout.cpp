@@ -2,6 +2,7 @@
 
 #include "plugins/tables/bytes/Refusal.h"
 #include "plugins/tables/links/EndWords.h"
+#include "plugins/tables/roles/NameMatch.h"
 #include "plugins/tables/table/HeaderWords.h"
 #include "plugins/tables/values/Quantity.h"
 
@@ -167,14 +168,15 @@ Names readNames(const TableProfile &table, EndStyle style)
     return names;
 }
 
-PointFields findEnd(const Names &names, LinkEndId end, const std::vector<Field> &fields)
+PointFields findEnd(const Names &names, LinkEndId end, const std::vector<Field> &fields,
+                    const Vocabulary &vocabulary)
 {
     FieldWords words(names.size());
     for (std::size_t i = 0; i < names.size(); ++i) {
         if (names[i].end == end)
             words[i] = names[i].words;
     }
-    return findPoint(words, fields);
+    return findPoint(words, fields, vocabulary);
 }
 
 /// The coordinates of both ends, and the column names as read in the style of the table.
@@ -188,40 +190,41 @@ struct FoundEnds
     bool found() const { return a.found() && b.found(); }
 };
 
-FoundEnds findEnds(const TableProfile &table, EndStyle style)
+FoundEnds findEnds(const TableProfile &table, EndStyle style, const Vocabulary &vocabulary)
 {
     FoundEnds ends;
     ends.names = readNames(table, style);
-    ends.a = findEnd(ends.names, LinkEndId::A, table.fields);
-    ends.b = findEnd(ends.names, LinkEndId::B, table.fields);
+    ends.a = findEnd(ends.names, LinkEndId::A, table.fields, vocabulary);
+    ends.b = findEnd(ends.names, LinkEndId::B, table.fields, vocabulary);
     ends.areNumbered = ends.found() &&
                        ends.names[static_cast<std::size_t>(ends.a.xField())].isNumbered &&
                        ends.names[static_cast<std::size_t>(ends.b.xField())].isNumbered;
     return ends;
 }
 
-FoundEnds findEnds(const TableProfile &table)
+FoundEnds findEnds(const TableProfile &table, const Vocabulary &vocabulary)
 {
-    FoundEnds ends = findEnds(table, EndStyle::Names);
+    FoundEnds ends = findEnds(table, EndStyle::Names, vocabulary);
     if (!ends.found()) {
-        if (FoundEnds zero = findEnds(table, EndStyle::Zero); zero.found())
+        if (FoundEnds zero = findEnds(table, EndStyle::Zero, vocabulary); zero.found())
             return zero;
     }
     if (!ends.found() || ends.areNumbered) {
-        if (FoundEnds numbered = findEnds(table, EndStyle::Numbers); numbered.found())
+        if (FoundEnds numbered = findEnds(table, EndStyle::Numbers, vocabulary); numbered.found())
             return numbered;
     }
     return ends;
 }
 
-[[noreturn]] void refuse(const FoundEnds &ends, const std::vector<Field> &fields)
+[[noreturn]] void refuse(const FoundEnds &ends, const std::vector<Field> &fields,
+                         const Vocabulary &vocabulary)
 {
     if (ends.a.found() || ends.b.found())
         throw RefusedFile(Refusal::NoLinks, "MESS_TAB_ONE_END", {ends.a.found() ? "B" : "A"});
     FieldWords words;
     for (const Field &field : fields)
-        words.emplace_back(wordsOf(field.name));
-    if (findPoint(words, fields).found())
+        words.emplace_back(separatedWords(field.name, vocabulary));
+    if (findPoint(words, fields, vocabulary).found())
         throw RefusedFile(Refusal::NoLinks, "MESS_TAB_SITES_NOT_LINKS");
     throw RefusedFile(Refusal::NoLinks, "MESS_TAB_NO_ENDS");
 }
@@ -279,11 +282,11 @@ CoordinateUnit commonUnit(CoordinateUnit a, CoordinateUnit b)
 
 } // namespace
 
-LinkLayout recogniseLinkLayout(const TableProfile &table)
+LinkLayout recogniseLinkLayout(const TableProfile &table, const Vocabulary &vocabulary)
 {
-    const FoundEnds ends = findEnds(table);
+    const FoundEnds ends = findEnds(table, vocabulary);
     if (!ends.found())
-        refuse(ends, table.fields);
+        refuse(ends, table.fields, vocabulary);
     LinkLayout layout;
     const auto ofLink = [&](const FitOf &fitOf) {
         return bestFit(ends.names, LinkEndId::None, fitOf);
@@ -293,7 +296,8 @@ LinkLayout recogniseLinkLayout(const TableProfile &table)
     layout.name = ofLink(fitOfLinkName);
     layout.band = quantityField(ofLink(fitOfBand), megahertzPer, table.fields);
     layout.length = quantityField(ofLink(fitOfLength), metresPer, table.fields);
-    layout.unit = commonUnit(findUnit(ends.a, table.fields), findUnit(ends.b, table.fields));
+    layout.unit = commonUnit(findUnit(ends.a, table.fields, vocabulary),
+                             findUnit(ends.b, table.fields, vocabulary));
     layout.epsg = findEpsg(table, ends.a, layout.unit);
     layout.format = findFormat(table, ends.areNumbered);
     return layout;

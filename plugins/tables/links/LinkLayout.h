@@ -36,7 +36,7 @@ struct LinkLayout : TableDeclaration
 /// Recognises the fields of a table of links. The ends are named A and B, TX and RX, 1 and 2 (0 and
 /// 1), start and end, near and far, at the start or at the end of the column name. Throws
 /// RefusedFile (NoLinks) if the coordinates of both ends are not found.
-LinkLayout recogniseLinkLayout(const TableProfile &table);
+LinkLayout recogniseLinkLayout(const TableProfile &table, const Vocabulary &vocabulary);
 
 /// Whether a header has columns of both ends.
 bool namesBothEnds(const Header &header);

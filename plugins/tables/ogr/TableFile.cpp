@@ -1,6 +1,7 @@
 #include "plugins/tables/ogr/TableFile.h"
 
 #include "plugins/tables/formats/OpenWorkbook.h"
+#include "plugins/tables/roles/Vocabulary.h"
 
 #include <list>
 #include <mutex>
@@ -76,16 +77,17 @@ std::shared_ptr<TableFile> TableFile::open(const std::string &path, const TableO
     if (table->m_facts)
         return table;
     const std::unique_ptr<Workbook> workbook = table->openFile();
-    TableHints hints = {options.kind, options.sheet, options.textOnly};
+    const Vocabulary &vocabulary = installedVocabulary().words;
+    TableHints hints = {&vocabulary, options.kind, options.sheet, options.textOnly};
     const bool links = options.kind == contract::TableKind::Links;
     if (links)
         hints.isWanted = namesBothEnds;
     const Table read = readTable(*workbook, hints);
     auto facts = std::make_shared<TableFacts>(TableFacts{*read.profile, {}});
     if (links)
-        facts->layout = recogniseLinkLayout(*read.profile);
+        facts->layout = recogniseLinkLayout(*read.profile, vocabulary);
     else
-        facts->layout = recogniseSiteLayout(*read.profile);
+        facts->layout = recogniseSiteLayout(*read.profile, vocabulary);
     for (Field &field : facts->table.fields) // the samples are not needed any more
         field.samples = {};
     table->m_sheet = read.sheet;

@@ -2,6 +2,7 @@
 
 #include "contract/TableTexts.h"
 #include "plugins/tables/bytes/Refusal.h"
+#include "plugins/tables/roles/Vocabulary.h"
 
 #include <cpl_conv.h>
 #include <cpl_error.h>
@@ -316,6 +317,8 @@ ProblemList TableLayer::fileProblems() const
     ProblemList problems;
     systems().addProblems(problems);
     addFileProblems(problems);
+    if (const std::string &fault = installedVocabulary().ownFault; !fault.empty())
+        problems.add({0, {}, false, fault});
     if (facts().table.encoding.isGuess)
         problems.add(
             {0, {}, false, formatted("MESS_TAB_ENCODING_GUESSED", {facts().table.encoding.name})});

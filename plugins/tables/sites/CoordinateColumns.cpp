@@ -1,7 +1,7 @@
 #include "plugins/tables/sites/CoordinateColumns.h"
 
 #include "plugins/tables/cells/GroupedNumber.h"
-#include "plugins/tables/table/HeaderWords.h"
+#include "plugins/tables/roles/NameMatch.h"
 #include "plugins/tables/values/Angle.h"
 #include "plugins/tables/values/CoordinatePair.h"
 
@@ -16,102 +16,201 @@ using Words = std::vector<std::string>;
 
 constexpr double MaxDegrees = 360;
 
-bool isOneOf(const std::string &word, std::initializer_list<const char *> words)
-{
-    return std::find(words.begin(), words.end(), word) != words.end();
-}
-
-bool isXWord(const std::string &word)
-{
-    return isOneOf(word, {"x", "lon", "long", "lng", "longitude", "longitud", "longitudine",
-                          "easting", "abscisse", "laenge", "länge", "rechtswert", "dł"});
-}
-
-bool isYWord(const std::string &word)
-{
-    return isOneOf(word, {"y", "lat", "latitude", "latitud", "latitudine", "northing", "ordonnée",
-                          "breite", "hochwert", "sz"});
-}
-
 /// The meaning of a column name for coordinates.
-struct Role
+struct CoordinateName
 {
-    enum class Part { None, Whole, Degrees, Minutes, Seconds, Hemisphere };
+    enum class Family { None, Geographic, Projected, Bare };
 
-    Part part = Part::None;
+    Family family = Family::None;
     Axis axis = Axis::X;
+    CoordinatePart part = CoordinatePart::Whole;
     int strength = 0; ///< higher for a name with fewer other words
     std::string rest; ///< the other words, which are the same for both coordinates of a position
 };
 
-Role::Part partOf(const std::string &word)
+using Family = CoordinateName::Family;
+
+Family familyOf(Role role)
 {
-    if (isOneOf(word, {"degrees", "degree", "deg", "dg", "d"}))
-        return Role::Part::Degrees;
-    if (isOneOf(word, {"minutes", "minute", "min", "mn"}))
-        return Role::Part::Minutes;
-    if (isOneOf(word, {"seconds", "second", "sec", "sc"}))
-        return Role::Part::Seconds;
-    if (isOneOf(word, {"direction", "dir", "hemisphere", "hemi", "ns", "ew", "cd"}))
-        return Role::Part::Hemisphere;
-    return Role::Part::None;
+    switch (role) {
+    case Role::Longitude:
+    case Role::Latitude:
+        return Family::Geographic;
+    case Role::Easting:
+    case Role::Northing:
+        return Family::Projected;
+    case Role::X:
+    case Role::Y:
+        return Family::Bare;
+    default:
+        return Family::None;
+    }
 }
 
-Role roleOf(const Words &words)
+Axis axisOf(Role role)
 {
-    Role role;
-    // These words belong to an antenna or to an offset, not to the position of the site.
-    for (const std::string &word : words) {
-        if (isOneOf(word, {"transmitter", "offset", "dx", "dy"}))
-            return {};
+    return role == Role::Longitude || role == Role::Easting || role == Role::X ? Axis::X : Axis::Y;
+}
+
+/// Whether one of the words names a sector: its coordinates are not those of the site.
+bool namesSector(const Words &words, const Vocabulary &vocabulary)
+{
+    return std::any_of(words.begin(), words.end(), [&](const std::string &word) {
+        const WordMeaning *meaning = vocabulary.find(word);
+        return meaning && meaning->isSector && word.size() > 1;
+    });
+}
+
+CoordinateName readName(const Words &words, const Vocabulary &vocabulary)
+{
+    CoordinateName best;
+    for (const NameMatch &match : matchName(words, vocabulary)) {
+        const Family family = familyOf(match.role);
+        if (family == Family::None || match.strength <= best.strength ||
+            (match.sector >= 0 && namesSector(words, vocabulary)))
+            continue;
+        best = {family, axisOf(match.role), match.part, match.strength, match.rest};
     }
-    Role::Part part = Role::Part::Whole;
-    bool axisFound = false;
-    for (const std::string &word : words) {
-        const bool x = isXWord(word);
-        if (!axisFound && (x || isYWord(word))) {
-            axisFound = true;
-            role.axis = x ? Axis::X : Axis::Y;
-        } else if (const Role::Part found = partOf(word); found != Role::Part::None)
-            part = part == Role::Part::Whole ? found : part;
+    return best;
+}
+
+/// A column with the hemisphere of a coordinate needs no word for the coordinate: "N/S", "EW".
+std::optional<Axis> axisOfHemispheres(const Words &words)
+{
+    std::string joined;
+    for (const std::string &word : words)
+        joined += word;
+    return joined == "ns"   ? std::optional(Axis::Y)
+           : joined == "ew" ? std::optional(Axis::X)
+                            : std::nullopt;
+}
+
+std::vector<CoordinateName> readNames(const FieldWords &words, const Vocabulary &vocabulary)
+{
+    std::vector<CoordinateName> names(words.size());
+    for (std::size_t i = 0; i < words.size(); ++i) {
+        if (!words[i])
+            continue;
+        if (const std::optional<Axis> axis = axisOfHemispheres(*words[i]))
+            names[i] = {Family::Bare, *axis, CoordinatePart::Hemisphere, 1, {}};
         else
-            role.rest += word + ' ';
+            names[i] = readName(*words[i], vocabulary);
     }
-    if (words == Words{"ns"} || words == Words{"n", "s"} || words == Words{"ew"} ||
-        words == Words{"e", "w"}) {
-        axisFound = true;
-        role.axis = words[0][0] == 'n' ? Axis::Y : Axis::X;
-        part = Role::Part::Hemisphere;
-    }
-    if (!axisFound)
-        return {};
-    role.part = part;
-    role.strength = words.size() == 1 ? 3 : role.rest == "site " ? 2 : 1;
-    return role;
+    return names;
 }
 
-std::vector<Role> rolesOf(const FieldWords &words)
+/// What the samples of a column are as coordinates of an axis.
+struct SampledUnit
 {
-    std::vector<Role> roles;
-    roles.reserve(words.size());
-    for (const auto &ofField : words)
-        roles.push_back(ofField ? roleOf(*ofField) : Role());
-    return roles;
+    std::size_t readable = 0;
+    std::size_t inParts = 0;
+    std::size_t large = 0;   ///< too large for an angle
+    std::size_t outside = 0; ///< outside the range of the axis
+    bool isConstant = true;
+
+    CoordinateUnit unit() const
+    {
+        if (inParts * 2 > readable)
+            return CoordinateUnit::Dms;
+        return large * 2 > readable ? CoordinateUnit::Meters : CoordinateUnit::Degrees;
+    }
+};
+
+SampledUnit unitOfSamples(const Field &field, Axis axis)
+{
+    SampledUnit sampled;
+    const double limit = axis == Axis::X ? MaxDegrees / 2 : MaxDegrees / 4;
+    for (const std::string &text : field.samples) {
+        const std::string_view value = trimmed(text);
+        sampled.isConstant = sampled.isConstant && text == field.samples.front();
+        std::optional<double> number = parseEitherNumber(value);
+        if (!number) // always beyond the degrees: "652 000,5" would also be degrees and minutes
+            number = parseGroupedNumber(value);
+        if (number) {
+            ++sampled.readable;
+            sampled.large += std::abs(*number) > MaxDegrees ? 1 : 0;
+            sampled.outside += std::abs(*number) > limit ? 1 : 0;
+        } else if (const Angle angle = readAngle(value, axis); !angle.fault) {
+            ++sampled.readable;
+            sampled.inParts += angle.parts > 1 ? 1 : 0;
+        }
+    }
+    return sampled;
 }
 
-/// First field with the strongest role for an axis. Fields whose other words are `rest` are
-/// preferred.
-int strongest(const std::vector<Role> &roles, Axis axis, const std::string *rest)
+/// A column that may hold a coordinate.
+struct CoordinateColumn
 {
-    int best = -1;
-    int bestScore = 0;
-    for (std::size_t i = 0; i < roles.size(); ++i) {
-        const bool usable =
-            roles[i].part == Role::Part::Whole || roles[i].part == Role::Part::Degrees;
-        const int score = 2 * roles[i].strength + (rest && roles[i].rest == *rest ? 5 : 0);
-        if (usable && roles[i].axis == axis && score > bestScore) {
-            best = static_cast<int>(i);
-            bestScore = score;
+    std::size_t field = 0;
+    const CoordinateName *name = nullptr;
+    SampledUnit sampled;
+    bool isReadable = true;
+    std::size_t samples = 0;
+};
+
+/// The columns that may hold the coordinates of an axis, those with the strongest names.
+std::vector<CoordinateColumn> columnsOf(Axis axis, const std::vector<CoordinateName> &names,
+                                        const std::vector<Field> &fields)
+{
+    constexpr std::size_t MaxColumns = 24; // bounds the pairs that are compared
+    std::vector<CoordinateColumn> columns;
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        const CoordinateName &name = names[i];
+        if (name.family != Family::None && name.axis == axis &&
+            (name.part == CoordinatePart::Whole || name.part == CoordinatePart::Degrees))
+            columns.push_back({i, &name, {}, true, fields[i].samples.size()});
+    }
+    if (columns.size() > MaxColumns) {
+        std::stable_sort(columns.begin(), columns.end(), [](const auto &a, const auto &b) {
+            return a.name->strength > b.name->strength;
+        });
+        columns.resize(MaxColumns);
+    }
+    for (CoordinateColumn &column : columns) {
+        column.sampled = unitOfSamples(fields[column.field], axis);
+        column.isReadable = column.sampled.readable * 2 >= column.samples;
+    }
+    return columns;
+}
+
+/// How well two columns are a position: the more, the better.
+int pointsOf(const CoordinateColumn &x, const CoordinateColumn &y)
+{
+    constexpr int PointsOfSameRest = 80; ///< "Site X" goes with "Site Y"
+    constexpr int PointsOfSameFamily = 60;
+    constexpr int PointsOfDoubt = -150;
+    constexpr std::size_t MinConstant = 4; ///< the same value in so many rows is no position
+    int points = x.name->strength + y.name->strength;
+    points += x.name->rest == y.name->rest ? PointsOfSameRest : 0;
+    points += x.name->family == y.name->family ? PointsOfSameFamily : 0;
+    if (!x.isReadable || !y.isReadable)
+        points += PointsOfDoubt;
+    const auto isMostlyOutside = [](const SampledUnit &of) {
+        return of.unit() == CoordinateUnit::Degrees && of.outside * 2 > of.readable;
+    };
+    if (isMostlyOutside(x.sampled) || isMostlyOutside(y.sampled))
+        points += PointsOfDoubt;
+    if (x.sampled.isConstant && y.sampled.isConstant && x.samples >= MinConstant)
+        points += PointsOfDoubt;
+    return points;
+}
+
+/// The two fields that are a position best, the first ones among equals; -1 and -1 if there are
+/// none.
+std::pair<int, int> bestPosition(const std::vector<CoordinateName> &names,
+                                 const std::vector<Field> &fields)
+{
+    const std::vector<CoordinateColumn> columnsX = columnsOf(Axis::X, names, fields);
+    const std::vector<CoordinateColumn> columnsY = columnsOf(Axis::Y, names, fields);
+    std::pair<int, int> best{-1, -1};
+    int most = 0;
+    for (const CoordinateColumn &x : columnsX) {
+        for (const CoordinateColumn &y : columnsY) {
+            const int points = pointsOf(x, y);
+            if (best.first >= 0 && points <= most)
+                continue;
+            best = {static_cast<int>(x.field), static_cast<int>(y.field)};
+            most = points;
         }
     }
     return best;
@@ -127,25 +226,25 @@ bool holdsHemispheres(const Field &field, Axis axis)
            });
 }
 
-CoordinateFields coordinateFields(const std::vector<Role> &roles, const std::vector<Field> &table,
-                                  int value)
+CoordinateFields coordinateFields(const std::vector<CoordinateName> &names,
+                                  const std::vector<Field> &table, int value)
 {
     CoordinateFields fields;
     fields.value = value;
     if (value < 0)
         return fields;
-    const Role &degrees = roles[static_cast<std::size_t>(value)];
-    const bool inParts = degrees.part == Role::Part::Degrees;
-    for (std::size_t i = 0; i < roles.size(); ++i) {
-        if (roles[i].axis != degrees.axis)
+    const CoordinateName &degrees = names[static_cast<std::size_t>(value)];
+    const bool inParts = degrees.part == CoordinatePart::Degrees;
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        if (names[i].family == Family::None || names[i].axis != degrees.axis)
             continue;
-        if (!inParts &&
-            (roles[i].part != Role::Part::Hemisphere || !holdsHemispheres(table[i], degrees.axis)))
+        if (!inParts && (names[i].part != CoordinatePart::Hemisphere ||
+                         !holdsHemispheres(table[i], degrees.axis)))
             continue;
-        int *slot = roles[i].part == Role::Part::Minutes      ? &fields.minutes
-                    : roles[i].part == Role::Part::Seconds    ? &fields.seconds
-                    : roles[i].part == Role::Part::Hemisphere ? &fields.hemisphere
-                                                              : nullptr;
+        int *slot = names[i].part == CoordinatePart::Minutes      ? &fields.minutes
+                    : names[i].part == CoordinatePart::Seconds    ? &fields.seconds
+                    : names[i].part == CoordinatePart::Hemisphere ? &fields.hemisphere
+                                                                  : nullptr;
         if (slot && *slot < 0)
             *slot = static_cast<int>(i);
     }
@@ -167,55 +266,34 @@ int findPair(const FieldWords &words, const std::vector<Field> &fields)
     return -1;
 }
 
-bool saysMeters(const std::string &name)
+bool saysMeters(const std::string &name, const Vocabulary &vocabulary)
 {
-    const Words words = wordsOf(name);
-    return std::any_of(words.begin(), words.end(), [](const std::string &word) {
-        return isOneOf(word, {"easting", "northing", "m", "meters", "metres"});
+    const Words words = separatedWords(name, vocabulary);
+    return std::any_of(words.begin(), words.end(), [&](const std::string &word) {
+        const WordMeaning *meaning = vocabulary.find(word);
+        return meaning && (meaning->metres == 1 || meaning->roles[std::size_t(Role::Easting)] ||
+                           meaning->roles[std::size_t(Role::Northing)]);
     });
-}
-
-CoordinateUnit unitOfSamples(const Field &field, Axis axis)
-{
-    std::size_t inParts = 0;
-    std::size_t large = 0;
-    std::size_t readable = 0;
-    for (const std::string &text : field.samples) {
-        const std::string_view value = trimmed(text);
-        std::optional<double> number = parseEitherNumber(value);
-        if (!number) // always beyond the degrees: "652 000,5" would also be degrees and minutes
-            number = parseGroupedNumber(value);
-        if (number) {
-            ++readable;
-            large += std::abs(*number) > MaxDegrees ? 1 : 0;
-        } else if (const Angle angle = readAngle(value, axis); !angle.fault) {
-            ++readable;
-            inParts += angle.parts > 1 ? 1 : 0;
-        }
-    }
-    if (inParts * 2 > readable)
-        return CoordinateUnit::Dms;
-    return large * 2 > readable ? CoordinateUnit::Meters : CoordinateUnit::Degrees;
 }
 
 } // namespace
 
-PointFields findPoint(const FieldWords &words, const std::vector<Field> &fields)
+PointFields findPoint(const FieldWords &words, const std::vector<Field> &fields,
+                      const Vocabulary &vocabulary)
 {
     PointFields point;
-    const std::vector<Role> roles = rolesOf(words);
-    const int x = strongest(roles, Axis::X, nullptr);
-    const int y =
-        strongest(roles, Axis::Y, x >= 0 ? &roles[static_cast<std::size_t>(x)].rest : nullptr);
-    if (x >= 0 && y >= 0) {
-        point.x = coordinateFields(roles, fields, x);
-        point.y = coordinateFields(roles, fields, y);
+    const std::vector<CoordinateName> names = readNames(words, vocabulary);
+    const auto [x, y] = bestPosition(names, fields);
+    if (x >= 0) {
+        point.x = coordinateFields(names, fields, x);
+        point.y = coordinateFields(names, fields, y);
     } else
         point.pair = findPair(words, fields);
     return point;
 }
 
-CoordinateUnit findUnit(const PointFields &point, const std::vector<Field> &fields)
+CoordinateUnit findUnit(const PointFields &point, const std::vector<Field> &fields,
+                        const Vocabulary &vocabulary)
 {
     if (point.pair >= 0) {
         const std::vector<std::string> &samples =
@@ -231,13 +309,13 @@ CoordinateUnit findUnit(const PointFields &point, const std::vector<Field> &fiel
         return CoordinateUnit::Dms;
     const Field &x = fields[static_cast<std::size_t>(point.x.value)];
     const Field &y = fields[static_cast<std::size_t>(point.y.value)];
-    const CoordinateUnit ofX = unitOfSamples(x, Axis::X);
-    const CoordinateUnit ofY = unitOfSamples(y, Axis::Y);
+    const CoordinateUnit ofX = unitOfSamples(x, Axis::X).unit();
+    const CoordinateUnit ofY = unitOfSamples(y, Axis::Y).unit();
     if (ofX == CoordinateUnit::Dms || ofY == CoordinateUnit::Dms)
         return CoordinateUnit::Dms;
     // A small easting, near the false origin, can also be read as degrees, but not the northing.
     if (ofX == CoordinateUnit::Meters || ofY == CoordinateUnit::Meters ||
-        (saysMeters(x.name) && saysMeters(y.name)))
+        (saysMeters(x.name, vocabulary) && saysMeters(y.name, vocabulary)))
         return CoordinateUnit::Meters;
     return CoordinateUnit::Degrees;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "plugins/tables/roles/Vocabulary.h"
 #include "plugins/tables/table/Table.h"
 
 #include <optional>
@@ -25,6 +26,11 @@ struct CoordinateFields
 
     bool found() const { return value >= 0; }
     bool inParts() const { return minutes >= 0; }
+    bool uses(int field) const
+    {
+        return field >= 0 &&
+               (field == value || field == minutes || field == seconds || field == hemisphere);
+    }
 };
 
 /// The fields of a position.
@@ -35,6 +41,10 @@ struct PointFields
     int pair = -1; ///< field with both coordinates
 
     bool found() const { return pair >= 0 || (x.found() && y.found()); }
+    bool uses(int field) const
+    {
+        return field >= 0 && (field == pair || x.uses(field) || y.uses(field));
+    }
     /// The field that is reported if a coordinate cannot be used.
     int xField() const { return pair >= 0 ? pair : x.value; }
     int yField() const { return pair >= 0 ? pair : y.value; }
@@ -44,9 +54,11 @@ struct PointFields
 using FieldWords = std::vector<std::optional<std::vector<std::string>>>;
 
 /// Recognises the fields of a position among those that have words.
-PointFields findPoint(const FieldWords &words, const std::vector<Field> &fields);
+PointFields findPoint(const FieldWords &words, const std::vector<Field> &fields,
+                      const Vocabulary &vocabulary);
 
 /// The unit of the coordinates of a position, from the names and samples of its fields.
-CoordinateUnit findUnit(const PointFields &point, const std::vector<Field> &fields);
+CoordinateUnit findUnit(const PointFields &point, const std::vector<Field> &fields,
+                        const Vocabulary &vocabulary);
 
 } // namespace vlt::driver

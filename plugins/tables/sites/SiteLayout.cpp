@@ -1,5 +1,6 @@
 #include "plugins/tables/sites/SiteLayout.h"
 
+#include "plugins/tables/roles/NameMatch.h"
 #include "plugins/tables/table/HeaderWords.h"
 
 namespace vlt::driver {
@@ -24,15 +25,15 @@ std::string recogniseFormat(const std::vector<Field> &fields)
     return asset ? "asset" : atoll ? "atoll" : mentum ? "mentum" : "generic";
 }
 
-SiteLayout recogniseSiteLayout(const TableProfile &table)
+SiteLayout recogniseSiteLayout(const TableProfile &table, const Vocabulary &vocabulary)
 {
     SiteLayout layout;
     FieldWords words;
     for (const Field &field : table.fields)
-        words.emplace_back(wordsOf(field.name));
-    layout.point = findPoint(words, table.fields);
+        words.emplace_back(separatedWords(field.name, vocabulary));
+    layout.point = findPoint(words, table.fields, vocabulary);
     layout.format = recogniseFormat(table.fields);
-    layout.unit = findUnit(layout.point, table.fields);
+    layout.unit = findUnit(layout.point, table.fields, vocabulary);
     layout.epsg = findEpsg(table, layout.point, layout.unit);
     return layout;
 }

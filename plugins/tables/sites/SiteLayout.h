@@ -14,7 +14,7 @@ struct SiteLayout : TableDeclaration
 };
 
 /// Recognises the fields with the positions of the sites.
-SiteLayout recogniseSiteLayout(const TableProfile &table);
+SiteLayout recogniseSiteLayout(const TableProfile &table, const Vocabulary &vocabulary);
 
 /// The planning tool that uses these names of columns.
 std::string recogniseFormat(const std::vector<Field> &fields);

@@ -2,6 +2,7 @@
 
 #include "contract/TableTexts.h"
 #include "plugins/tables/cells/Numbers.h"
+#include "plugins/tables/roles/NameMatch.h"
 #include "plugins/tables/table/HeaderWords.h"
 
 #include <algorithm>
@@ -13,6 +14,7 @@ namespace {
 
 constexpr int RowsLookedAt = 50;
 constexpr int MinWords = 2;
+constexpr int MinStrength = 45; ///< of a name; a sentence has less
 constexpr int NumbersPerHeader = 5; ///< at most one cell in five may be a number, such as a year
 constexpr std::size_t MaxNameSize = 256; ///< characters
 constexpr std::size_t MaxTitleSize = 1000;
@@ -58,6 +60,22 @@ std::vector<CellFault> faultsOf(const Row &row)
     return faults;
 }
 
+/// Whether tables of that kind have columns with such a name.
+bool isTableName(const std::string &name, contract::TableKind kind, const Vocabulary &vocabulary)
+{
+    const std::vector<std::string> words = separatedWords(name, vocabulary);
+    const std::vector<NameMatch> matches = matchName(words, vocabulary);
+    const auto isOfKind = [kind](const NameMatch &match) {
+        return match.strength >= MinStrength &&
+               (kind == contract::TableKind::Links || match.role < Role::LinkName);
+    };
+    return std::any_of(matches.begin(), matches.end(), isOfKind) ||
+           std::any_of(words.begin(), words.end(), [&vocabulary](const std::string &word) {
+               const WordMeaning *meaning = vocabulary.find(word);
+               return meaning && meaning->isSector && word.size() > 1;
+           });
+}
+
 bool isValue(const Cell &cell)
 {
     return cell.kind != Cell::Kind::Text || numberShape(trimmed(cell.text)).isNumber;
@@ -65,7 +83,8 @@ bool isValue(const Cell &cell)
 
 } // namespace
 
-std::optional<Header> findHeader(const Sheet &sheet, contract::TableKind kind, std::size_t &widest)
+std::optional<Header> findHeader(const Sheet &sheet, contract::TableKind kind,
+                                 const Vocabulary &vocabulary, std::size_t &widest)
 {
     std::optional<Header> best;
     std::optional<Header> firstWide; ///< the first row with at least two cells
@@ -87,7 +106,7 @@ std::optional<Header> findHeader(const Sheet &sheet, contract::TableKind kind, s
         for (const Cell &cell : row.cells) {
             const std::string &name = header.names.emplace(cell.column, nameOf(cell)).first->second;
             values += isValue(cell) ? 1 : 0;
-            if (!isValue(cell) && isTableWord(name, kind))
+            if (!isValue(cell) && isTableName(name, kind, vocabulary))
                 tableNames.insert(lowerCase(name));
             if (titles.size() < static_cast<std::size_t>(RowsLookedAt) * 8)
                 titles.push_back(startOf(cell, MaxTitleSize));

@@ -2,6 +2,7 @@
 
 #include "contract/TableKind.h"
 #include "plugins/tables/cells/RowReader.h"
+#include "plugins/tables/roles/Vocabulary.h"
 
 #include <map>
 #include <optional>
@@ -27,7 +28,8 @@ struct Header
 /// tables of that kind, with two at least; else the first row with at least two cells, if none of
 /// them is a number, a date or another value. Nothing if there is none. `widest` is raised to the
 /// number of cells of the widest row that was read.
-std::optional<Header> findHeader(const Sheet &sheet, contract::TableKind kind, std::size_t &widest);
+std::optional<Header> findHeader(const Sheet &sheet, contract::TableKind kind,
+                                 const Vocabulary &vocabulary, std::size_t &widest);
 
 /// Whether a row repeats the header, as in tables that were joined or printed page by page.
 bool repeatsHeader(const Row &row, const Header &header);

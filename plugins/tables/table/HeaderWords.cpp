@@ -17,22 +17,6 @@ bool isWordByte(char c)
     return (c >= 'a' && c <= 'z') || isUpper(c) || (c >= '0' && c <= '9') || (c & 0x80) != 0;
 }
 
-/// Words in the column names of English, French, German, Spanish and Italian tables.
-constexpr std::array SiteWords = {
-    "site",     "sites",       "name",        "nom",         "id",          "x",
-    "y",        "lon",         "long",        "lng",         "longitude",   "longitud",
-    "lat",      "latitude",    "latitud",     "latitudine",  "breite",      "laenge",
-    "azimuth",  "azimut",      "azimutes",    "height",      "hauteur",     "altura",
-    "hoehe",    "tilt",        "downtilt",    "inclinaison", "transmitter", "sector",
-    "secteur",  "antenna",     "antenne",     "antena",      "easting",     "northing",
-    "cellname", "coordinates", "longitudine", "site_id",     "gps"};
-
-/// Further words in tables of links.
-constexpr std::array LinkWords = {
-    "link", "links",  "liaison",  "hop",       "tx",        "rx",       "frequency", "freq",
-    "band", "length", "distance", "longueur",  "path",      "callsign", "call",      "dx",
-    "dy",   "dł",     "sz",       "fréquence", "frequence", "frequenz", "länge"};
-
 /// Words that the name of an end can follow without a separator.
 constexpr std::array WordsWithEnd = {"x",         "y",      "lon",      "long",      "lng",
                                      "longitude", "lat",    "latitude", "easting",   "northing",
@@ -94,18 +78,6 @@ std::vector<std::string> linkWordsOf(std::string_view name)
         words.push_back(word.substr(cut));
     }
     return words;
-}
-
-bool isTableWord(std::string_view name, contract::TableKind kind)
-{
-    const auto isIn = [](const auto &list, const std::string &word) {
-        return std::find(list.begin(), list.end(), word) != list.end();
-    };
-    const bool links = kind == contract::TableKind::Links;
-    const std::vector<std::string> words = links ? linkWordsOf(name) : wordsOf(name);
-    return std::any_of(words.begin(), words.end(), [&](const std::string &word) {
-        return isIn(SiteWords, word) || (links && isIn(LinkWords, word));
-    });
 }
 
 } // namespace vlt::driver

@@ -17,9 +17,6 @@ std::vector<std::string> wordsOf(std::string_view name);
 /// separated from the word before it: "XStart" gives x, start; "lat1" gives lat, 1.
 std::vector<std::string> linkWordsOf(std::string_view name);
 
-/// Whether a column name contains a word that tables of that kind use.
-bool isTableWord(std::string_view name, contract::TableKind kind);
-
 /// The text with its ASCII letters in lower case.
 std::string lowerCase(std::string_view text);
 

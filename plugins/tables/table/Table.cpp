@@ -54,7 +54,7 @@ Candidate chooseSheet(Workbook &workbook, const TableHints &hints)
         if (!hints.sheet.empty() && sheet->name() != hints.sheet)
             continue;
         anySheet = true;
-        std::optional<Header> header = findHeader(*sheet, hints.kind, widest);
+        std::optional<Header> header = findHeader(*sheet, hints.kind, *hints.vocabulary, widest);
         if (!header)
             continue;
         Candidate candidate = {sheet, std::move(*header)};
@@ -191,7 +191,8 @@ Table readTable(Workbook &workbook, const TableHints &hints)
         settled = chosen.sheet->settleEncoding();
         if (!settled) {
             std::size_t widest = 0;
-            chosen.header = findHeader(*chosen.sheet, hints.kind, widest).value_or(chosen.header);
+            chosen.header = findHeader(*chosen.sheet, hints.kind, *hints.vocabulary, widest)
+                                .value_or(chosen.header);
         } else if (profile->rowCount == 0)
             throw RefusedFile(Refusal::Empty, "MESS_TAB_NO_ROW",
                               {std::to_string(profile->header.row)});

@@ -46,6 +46,7 @@ struct TableProfile
 /// What the caller states about the table; empty members are found automatically.
 struct TableHints
 {
+    const Vocabulary *vocabulary = nullptr; ///< must not be null
     contract::TableKind kind = contract::TableKind::Sites;
     std::string sheet;
     bool textOnly = false; ///< all columns are texts
