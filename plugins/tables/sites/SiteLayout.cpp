@@ -35,6 +35,7 @@ SiteLayout recogniseSiteLayout(const TableProfile &table, const Vocabulary &voca
     layout.format = recogniseFormat(table.fields);
     layout.unit = findUnit(layout.point, table.fields, vocabulary);
     layout.epsg = findEpsg(table, layout.point, layout.unit);
+    layout.roles = findSiteRoles(table, layout.point, vocabulary);
     return layout;
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "plugins/tables/sites/OfferedFields.h"
+#include "plugins/tables/sites/SiteRoles.h"
 #include "plugins/tables/sites/TableDeclaration.h"
 
 #include <string>
@@ -11,9 +13,12 @@ namespace vlt::driver {
 struct SiteLayout : TableDeclaration
 {
     PointFields point;
+    SiteRoles roles;
+    std::vector<OfferedField> offered; ///< fields before those of the source
 };
 
-/// Recognises the fields with the positions of the sites.
+/// Recognises the columns of a table of sites. `offered` is filled when the number of transmitters
+/// per site is known.
 SiteLayout recogniseSiteLayout(const TableProfile &table, const Vocabulary &vocabulary);
 
 /// The planning tool that uses these names of columns.

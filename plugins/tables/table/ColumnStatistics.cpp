@@ -17,6 +17,13 @@ constexpr double Largest32 = std::numeric_limits<int32_t>::max();
 
 } // namespace
 
+std::string sampleText(const Cell &cell)
+{
+    return cell.text.empty() || isOverlong(cell)
+               ? cellText(cell)
+               : std::string(firstCharacters(trimmed(cell.text), MaxSampleSize));
+}
+
 bool isMissingWord(std::string_view text)
 {
     static constexpr std::array Words = {"na", "n/a", "-", "--", "null", "nan", "#n/a", "none"};
@@ -29,9 +36,7 @@ void ColumnStatistics::add(const Cell &cell, std::size_t samplesKept)
     ++m_filled;
     const std::string_view text = trimmed(cell.text);
     if (m_samples.size() < samplesKept)
-        m_samples.push_back(cell.text.empty() || isOverlong(cell)
-                                ? cellText(cell)
-                                : std::string(firstCharacters(text, MaxSampleSize)));
+        m_samples.push_back(sampleText(cell));
     if (cell.kind == Cell::Kind::Number && text.empty()) {
         ++m_numbers;
         const bool whole =

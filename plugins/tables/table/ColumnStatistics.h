@@ -44,6 +44,9 @@ private:
     std::vector<std::string> m_samples;
 };
 
+/// The start of a cell's text, for samples.
+std::string sampleText(const Cell &cell);
+
 /// Whether a text means that there is no value: NA, N/A, -, --, null, nan, #N/A.
 bool isMissingWord(std::string_view text);
 

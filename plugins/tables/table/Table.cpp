@@ -79,6 +79,7 @@ struct Sample
 {
     std::vector<ColumnStatistics> columns;
     std::size_t rows = 0;
+    std::vector<std::vector<std::pair<int, std::string>>> firstRows; ///< columns and texts
 
     void add(const Row &row)
     {
@@ -90,6 +91,28 @@ struct Sample
             SamplesPerTable / std::max<std::size_t>(columns.size(), 1), 10, SamplesPerColumn);
         for (const Cell &cell : row.cells)
             columns[static_cast<std::size_t>(cell.column)].add(cell, kept);
+        if (firstRows.size() >= kept)
+            return;
+        firstRows.emplace_back();
+        for (const Cell &cell : row.cells)
+            firstRows.back().emplace_back(cell.column, sampleText(cell));
+    }
+
+    /// The texts of the first rows, in the columns that are fields.
+    std::vector<std::vector<std::string>> sampledColumns(const std::vector<Field> &fields) const
+    {
+        std::vector<std::vector<std::string>> texts(fields.size(),
+                                                    std::vector<std::string>(firstRows.size()));
+        for (std::size_t row = 0; row < firstRows.size(); ++row) {
+            std::size_t field = 0;
+            for (const auto &[column, text] : firstRows[row]) {
+                while (field < fields.size() && fields[field].column < column)
+                    ++field;
+                if (field < fields.size() && fields[field].column == column)
+                    texts[field][row] = text;
+            }
+        }
+        return texts;
     }
 
     /// The columns that are already known to be texts.
@@ -151,6 +174,7 @@ void makeFields(TableProfile &profile, const Sample &sample, const TableHints &h
         profile.fields.push_back(std::move(field));
     }
     profile.lastColumn = profile.fields.back().column;
+    profile.sampledColumns = sample.sampledColumns(profile.fields);
 }
 
 /// Reads all rows once: counts them, marks positions and takes samples.
@@ -177,6 +201,12 @@ void scan(const Sheet &sheet, const std::shared_ptr<TableProfile> &profile, Samp
 }
 
 } // namespace
+
+std::string TableProfile::nameInHeader(int field) const
+{
+    const auto named = header.names.find(fields[static_cast<std::size_t>(field)].column);
+    return named == header.names.end() ? std::string() : named->second;
+}
 
 Table readTable(Workbook &workbook, const TableHints &hints)
 {

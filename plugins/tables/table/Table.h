@@ -41,6 +41,11 @@ struct TableProfile
     uint64_t rowCount = 0;
     bool allRowsSampled = true;
     std::vector<RowMark> marks; ///< every few thousand rows, ascending
+    /// The texts of the cells of the first rows, by field and row; empty for empty cells.
+    std::vector<std::vector<std::string>> sampledColumns;
+
+    /// The name of a field in the header, without the number that makes it unique.
+    std::string nameInHeader(int field) const;
 };
 
 /// What the caller states about the table; empty members are found automatically.

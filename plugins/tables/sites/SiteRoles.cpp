@@ -1,0 +1,402 @@
+#include "plugins/tables/sites/SiteRoles.h"
+
+#include "plugins/tables/cells/Cell.h"
+#include "plugins/tables/roles/NameMatch.h"
+#include "plugins/tables/roles/RoleEvidence.h"
+
+#include <algorithm>
+#include <array>
+#include <map>
+#include <optional>
+#include <set>
+#include <tuple>
+
+namespace vlt::driver {
+
+namespace {
+
+constexpr double MinFit = 0.5;
+constexpr int PointsOfLevel = 30;
+
+bool isOfSite(Role role)
+{
+    return role == Role::SiteId || role == Role::SiteName || role == Role::GroundHeight ||
+           role == Role::SeaLevelHeight || role == Role::Operator;
+}
+
+bool isOfTransmitter(Role role)
+{
+    return role == Role::AntennaHeight || (role >= Role::SectorId && role <= Role::Technology);
+}
+
+/// Roles of which several columns, one per transmitter, make a table a numbered one.
+bool countsTransmitters(Role role)
+{
+    return role == Role::Azimuth || role == Role::AntennaHeight;
+}
+
+/// A role that a field may have.
+struct Candidate
+{
+    int field = 0;
+    Role role = Role::None;
+    int sector = -1;
+    double score = 0;
+};
+
+class Finder
+{
+public:
+    Finder(const TableProfile &table, const PointFields &point, const Vocabulary &vocabulary)
+        : m_table(table)
+        , m_point(point)
+        , m_vocabulary(vocabulary)
+        , m_words(table.fields.size())
+        , m_facts(table.fields.size())
+    {}
+
+    SiteRoles find()
+    {
+        readPlaces();
+        for (std::size_t field = 0; field < m_table.fields.size(); ++field) {
+            if (!m_point.uses(static_cast<int>(field)))
+                addCandidates(static_cast<int>(field));
+        }
+        useLevels();
+        numberRepeatedNames();
+        const bool isNumbered = dropNumbersOfOthers();
+        assign();
+        fill(isNumbered);
+        return std::move(m_roles);
+    }
+
+private:
+    const std::vector<std::string> &cellsOf(int field) const
+    {
+        return m_table.sampledColumns[static_cast<std::size_t>(field)];
+    }
+
+    const ColumnFacts &factsOfField(int field)
+    {
+        std::optional<ColumnFacts> &facts = m_facts[static_cast<std::size_t>(field)];
+        if (!facts)
+            facts = factsOf(cellsOf(field), m_vocabulary);
+        return *facts;
+    }
+
+    /// The texts of the position in each sampled row, together.
+    void readPlaces()
+    {
+        const std::size_t rows = m_table.sampledColumns.empty() ? 0 : cellsOf(0).size();
+        m_places.resize(rows);
+        for (std::size_t field = 0; field < m_table.fields.size(); ++field) {
+            if (!m_point.uses(static_cast<int>(field)))
+                continue;
+            for (std::size_t row = 0; row < rows; ++row)
+                m_places[row] += cellsOf(static_cast<int>(field))[row] + ' ';
+        }
+        for (std::string &place : m_places) {
+            if (place.find_first_not_of(' ') == std::string::npos)
+                place.clear();
+        }
+    }
+
+    void addCandidates(int field)
+    {
+        const auto at = static_cast<std::size_t>(field);
+        m_words[at] = separatedWords(m_table.nameInHeader(field), m_vocabulary);
+        for (const NameMatch &match : matchName(m_words[at], m_vocabulary)) {
+            if (!isOfSite(match.role) && !isOfTransmitter(match.role))
+                continue;
+            const double fit = fitOf(match.role, factsOfField(field));
+            if (fit < MinFit)
+                continue;
+            m_candidates.push_back({field, match.role, match.sector, match.strength * fit});
+        }
+    }
+
+    /// A name or an id belongs to sites or to sectors, whatever its column is called: the values
+    /// at each position decide.
+    void useLevels()
+    {
+        const bool hasAzimuths =
+            std::any_of(m_candidates.begin(), m_candidates.end(), [](const Candidate &candidate) {
+                return candidate.role == Role::Azimuth;
+            });
+        for (Candidate &candidate : m_candidates) {
+            if (isName(candidate))
+                adjustToLevel(candidate, hasAzimuths);
+        }
+        const bool namesSites =
+            std::any_of(m_candidates.begin(), m_candidates.end(), [](const Candidate &candidate) {
+                return isName(candidate) && candidate.role != Role::SectorId;
+            });
+        for (Candidate &candidate : m_candidates) {
+            if (!namesSites && candidate.role == Role::SectorId && candidate.sector < 0 &&
+                (!hasAzimuths || namesHoldSector(candidate.field)))
+                candidate.role = Role::SiteName;
+        }
+    }
+
+    static bool isName(const Candidate &candidate)
+    {
+        return candidate.role == Role::SiteId || candidate.role == Role::SiteName ||
+               candidate.role == Role::SectorId;
+    }
+
+    bool namesASite(int field) const
+    {
+        const std::vector<std::string> &words = m_words[static_cast<std::size_t>(field)];
+        return std::any_of(words.begin(), words.end(), [this](const std::string &word) {
+            const WordMeaning *meaning = m_vocabulary.find(word);
+            return meaning && meaning->isSite;
+        });
+    }
+
+    void adjustToLevel(Candidate &candidate, bool hasAzimuths)
+    {
+        const Level level = levelOf(cellsOf(candidate.field), m_places);
+        const bool ofSector = candidate.role == Role::SectorId;
+        if (level == Level::Area)
+            candidate.score -= ofSector ? 0 : PointsOfLevel;
+        else if (level == Level::Site && ofSector && candidate.sector < 0)
+            candidate.role = Role::SiteName;
+        else if (level == Level::Site)
+            candidate.score += PointsOfLevel;
+        else if (level == Level::Sector && !ofSector && hasAzimuths &&
+                 !namesASite(candidate.field) && !namesHoldSector(candidate.field))
+            candidate.role = Role::SectorId;
+    }
+
+    bool namesHoldSector(int field) const
+    {
+        std::vector<std::string> bases;
+        for (const std::string &cell : cellsOf(field))
+            bases.emplace_back(withoutSector(trimmed(cell)));
+        return levelOf(bases, m_places) == Level::Site;
+    }
+
+    /// Numbers columns of transmitters that have the same name in the header: Azimuth, Azimuth.
+    void numberRepeatedNames()
+    {
+        std::map<std::pair<Role, std::string>, std::vector<Candidate *>> byName;
+        for (Candidate &candidate : m_candidates) {
+            if (isOfTransmitter(candidate.role) && candidate.sector < 0)
+                byName[{candidate.role, m_table.nameInHeader(candidate.field)}].push_back(
+                    &candidate);
+        }
+        for (const auto &[name, same] : byName) {
+            if (same.size() < 2)
+                continue;
+            int number = 0;
+            for (Candidate *candidate : same)
+                candidate->sector = ++number;
+        }
+    }
+
+    /// Whether the columns are numbered by transmitter. If not, the numbers mean something else.
+    bool dropNumbersOfOthers()
+    {
+        std::map<Role, std::set<int>> numbers;
+        for (const Candidate &candidate : m_candidates) {
+            if (countsTransmitters(candidate.role) && candidate.sector >= 0)
+                numbers[candidate.role].insert(candidate.sector);
+        }
+        const bool isNumbered =
+            std::any_of(numbers.begin(), numbers.end(),
+                        [](const auto &ofRole) { return ofRole.second.size() > 1; }) ||
+            std::any_of(m_candidates.begin(), m_candidates.end(), [this](const Candidate &c) {
+                return c.sector >= 0 && countsTransmitters(c.role) && namesASector(c.field);
+            });
+        for (Candidate &candidate : m_candidates)
+            candidate.sector = isNumbered ? candidate.sector : -1;
+        return isNumbered;
+    }
+
+    bool namesASector(int field) const
+    {
+        const std::vector<std::string> &words = m_words[static_cast<std::size_t>(field)];
+        return std::any_of(words.begin(), words.end(), [this](const std::string &word) {
+            const WordMeaning *meaning = m_vocabulary.find(word);
+            return meaning && meaning->isSector;
+        });
+    }
+
+    /// Gives each field one role, and each role of the site or of a transmitter one field: the
+    /// strongest candidates first, then the columns on the left.
+    void assign()
+    {
+        std::stable_sort(m_candidates.begin(), m_candidates.end(),
+                         [](const Candidate &a, const Candidate &b) { return a.score > b.score; });
+        std::set<std::pair<Role, int>> taken;
+        std::set<int> used;
+        for (const Candidate &candidate : m_candidates) {
+            const int sector = isOfTransmitter(candidate.role) ? candidate.sector : -1;
+            if (used.contains(candidate.field) ||
+                !taken.emplace(candidate.role, sector).second)
+                continue;
+            used.insert(candidate.field);
+            m_roles.columns.push_back({candidate.field, candidate.role, sector, {}});
+        }
+        std::sort(m_roles.columns.begin(), m_roles.columns.end(),
+                  [](const ColumnRole &a, const ColumnRole &b) { return a.field < b.field; });
+        for (ColumnRole &column : m_roles.columns)
+            column.evidence = roleEvidence(m_table.nameInHeader(column.field),
+                                           factsOfField(column.field));
+    }
+
+    QuantityField quantity(int field, std::optional<double> WordMeaning::*unit) const
+    {
+        return {field, unitOfName(m_words[static_cast<std::size_t>(field)], unit, m_vocabulary)};
+    }
+
+    void fill(bool isNumbered)
+    {
+        std::map<int, TransmitterFields> transmitters;
+        for (const ColumnRole &column : m_roles.columns) {
+            if (column.role == Role::SiteId)
+                m_roles.siteId = column.field;
+            else if (column.role == Role::SiteName)
+                m_roles.siteName = column.field;
+            else if (column.role == Role::GroundHeight)
+                m_roles.groundHeight = quantity(column.field, &WordMeaning::metres);
+            else if (isOfTransmitter(column.role))
+                fillTransmitter(transmitters[column.sector], column);
+        }
+        if (isNumbered)
+            shareCommonColumns(transmitters);
+        m_roles.namesHoldSector = m_roles.siteName >= 0 &&
+                                  levelOf(cellsOf(m_roles.siteName), m_places) == Level::Sector;
+        for (auto &[number, fields] : transmitters) {
+            fields.number = number;
+            // heights alone are those of towers as well
+            if (fields.azimuth.found() ||
+                (fields.height.found() && (isNumbered || fields.sectorId >= 0)))
+                m_roles.transmitters.push_back(fields);
+        }
+        if (m_roles.transmitters.empty())
+            return;
+        const TransmitterFields &first = m_roles.transmitters.front();
+        m_roles.shape = isNumbered                                 ? SiteShape::Numbered
+                        : holdsLists(first.azimuth) || holdsLists(first.height) ? SiteShape::Lists
+                                                                   : SiteShape::Tall;
+    }
+
+    /// Columns without a number hold for all transmitters.
+    static void shareCommonColumns(std::map<int, TransmitterFields> &transmitters)
+    {
+        const auto common = transmitters.find(-1);
+        if (common == transmitters.end())
+            return;
+        const TransmitterFields shared = common->second;
+        transmitters.erase(common);
+        for (auto &[number, fields] : transmitters) {
+            for (QuantityField TransmitterFields::*member :
+                 {&TransmitterFields::height, &TransmitterFields::mechanicalTilt,
+                  &TransmitterFields::electricalTilt, &TransmitterFields::beamWidth,
+                  &TransmitterFields::frequency}) {
+                if (!(fields.*member).found())
+                    fields.*member = shared.*member;
+            }
+            if (fields.technology < 0)
+                fields.technology = shared.technology;
+        }
+    }
+
+    void fillTransmitter(TransmitterFields &fields, const ColumnRole &column)
+    {
+        switch (column.role) {
+        case Role::SectorId:
+            fields.sectorId = column.field;
+            break;
+        case Role::AntennaHeight:
+            fields.height = quantity(column.field, &WordMeaning::metres);
+            break;
+        case Role::Azimuth:
+            fields.azimuth = quantity(column.field, &WordMeaning::degrees);
+            break;
+        case Role::MechanicalTilt:
+            fields.mechanicalTilt = quantity(column.field, &WordMeaning::degrees);
+            break;
+        case Role::Tilt:
+            if (!fields.mechanicalTilt.found())
+                fields.mechanicalTilt = quantity(column.field, &WordMeaning::degrees);
+            break;
+        case Role::ElectricalTilt:
+            fields.electricalTilt = quantity(column.field, &WordMeaning::degrees);
+            break;
+        case Role::BeamWidth:
+            fields.beamWidth = quantity(column.field, &WordMeaning::degrees);
+            break;
+        case Role::Frequency:
+            fields.frequency = quantity(column.field, &WordMeaning::megahertz);
+            break;
+        case Role::Band:
+            fields.band = column.field;
+            break;
+        case Role::Technology:
+            fields.technology = column.field;
+            break;
+        default:
+            break;
+        }
+    }
+
+    bool holdsLists(const QuantityField &field)
+    {
+        if (!field.found())
+            return false;
+        const ColumnFacts &facts = factsOfField(field.field);
+        return facts.lists * 2 > facts.numeric;
+    }
+
+    const TableProfile &m_table;
+    const PointFields &m_point;
+    const Vocabulary &m_vocabulary;
+    std::vector<std::vector<std::string>> m_words; ///< of each field
+    std::vector<std::optional<ColumnFacts>> m_facts;
+    std::vector<std::string> m_places; ///< by sampled row
+    std::vector<Candidate> m_candidates;
+    SiteRoles m_roles;
+};
+
+bool isDigit(char c)
+{
+    return c >= '0' && c <= '9';
+}
+
+bool isLetter(char c)
+{
+    return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
+}
+
+} // namespace
+
+SiteRoles findSiteRoles(const TableProfile &table, const PointFields &point,
+                        const Vocabulary &vocabulary)
+{
+    return Finder(table, point, vocabulary).find();
+}
+
+std::string_view withoutSector(std::string_view name)
+{
+    std::size_t end = name.size();
+    std::size_t digits = 0;
+    while (end > 0 && digits < 2 && isDigit(name[end - 1])) {
+        --end;
+        ++digits;
+    }
+    // one letter, alone or before the digits
+    const bool hasLetter = end > 0 && isLetter(name[end - 1]);
+    if (hasLetter)
+        --end;
+    else if (digits == 0)
+        return name;
+    constexpr std::string_view Separators = " _-./";
+    const std::size_t last = name.substr(0, end).find_last_not_of(Separators);
+    if (last == std::string_view::npos || last + 1 == end)
+        return name; // the end is part of a word
+    return name.substr(0, last + 1);
+}
+
+} // namespace vlt::driver

@@ -1,0 +1,66 @@
+#pragma once
+
+#include "plugins/tables/roles/ColumnFacts.h"
+#include "plugins/tables/roles/Role.h"
+#include "plugins/tables/sites/CoordinateColumns.h"
+#include "plugins/tables/values/Quantity.h"
+
+#include <string>
+#include <vector>
+
+namespace vlt::driver {
+
+/// The columns of one transmitter: field numbers, -1 for none.
+struct TransmitterFields
+{
+    int number = 0; ///< in the names of its columns
+    int sectorId = -1;
+    QuantityField height;
+    QuantityField azimuth; ///< unit in degrees
+    QuantityField mechanicalTilt;
+    QuantityField electricalTilt;
+    QuantityField beamWidth;
+    QuantityField frequency;
+    int band = -1;
+    int technology = -1;
+};
+
+/// The role of a column, and why it has that role.
+struct ColumnRole
+{
+    int field = -1;
+    Role role = Role::None;
+    int sector = -1;      ///< number of the transmitter in its name; -1 for none
+    std::string evidence; ///< English, from contract/TableTexts.h
+};
+
+/// The shape of a table with values of transmitters.
+enum class SiteShape {
+    Own, ///< no columns of transmitters, or none but those that readers know
+    Numbered, ///< a row per site, columns numbered by transmitter
+    Lists, ///< a row per site, lists of values in the cells
+    Tall, ///< a row per transmitter
+};
+
+/// The columns of a table of sites, apart from those of the position.
+struct SiteRoles
+{
+    SiteShape shape = SiteShape::Own;
+    int siteId = -1;
+    int siteName = -1;
+    /// The names differ by the sector alone: "Gare A", "Gare B".
+    bool namesHoldSector = false;
+    QuantityField groundHeight;
+    std::vector<TransmitterFields> transmitters; ///< by number; one for Lists and Tall
+    std::vector<ColumnRole> columns; ///< by field
+};
+
+/// Finds the roles by the words of the header and by the sampled values.
+SiteRoles findSiteRoles(const TableProfile &table, const PointFields &point,
+                        const Vocabulary &vocabulary);
+
+/// The name of a site without the sector at its end: "Gare A", "GARE_2" and "Gare S3" give Gare,
+/// GARE and Gare. Other names are returned as they are.
+std::string_view withoutSector(std::string_view name);
+
+} // namespace vlt::driver
