@@ -1,12 +1,71 @@
 #include "plugins/tables/ogr/SiteLayer.h"
 
 #include "contract/TableTexts.h"
+#include "plugins/tables/roles/Vocabulary.h"
 
 #include <cmath>
 
 namespace vlt::driver {
 
 namespace {
+
+/// The values of a site from which those of the offered fields are taken.
+struct OfferedInput
+{
+    const std::vector<const Cell *> &cells;
+    const SiteRoles *roles;
+    const IndexedSite *indexed; ///< null if the site is a row
+    const Position *position;
+    const TransmitterValues *transmitter; ///< null for none
+};
+
+std::string offeredText(OfferedValue value, const OfferedInput &input)
+{
+    if (value == OfferedValue::SiteId) {
+        if (input.indexed)
+            return input.indexed->id;
+        const std::string id = fieldText(input.cells, input.roles->siteId);
+        return id.empty() ? fieldText(input.cells, input.roles->siteName) : id;
+    }
+    if (!input.transmitter)
+        return {};
+    return value == OfferedValue::SectorId ? input.transmitter->sectorId
+                                           : input.transmitter->technology;
+}
+
+std::optional<double> offeredNumber(OfferedValue value, const OfferedInput &input)
+{
+    switch (value) {
+    case OfferedValue::X:
+        return input.position->found ? std::optional(input.position->x) : std::nullopt;
+    case OfferedValue::Y:
+        return input.position->found ? std::optional(input.position->y) : std::nullopt;
+    case OfferedValue::GroundHeight:
+        return readLengthM(fieldText(input.cells, input.roles->groundHeight.field),
+                           input.roles->groundHeight.unit.value_or(1));
+    default:
+        break;
+    }
+    const TransmitterValues *transmitter = input.transmitter;
+    if (!transmitter)
+        return std::nullopt;
+    switch (value) {
+    case OfferedValue::Height:
+        return transmitter->heightM;
+    case OfferedValue::Azimuth:
+        return transmitter->azimuthDeg;
+    case OfferedValue::MechanicalTilt:
+        return transmitter->mechanicalTiltDeg;
+    case OfferedValue::ElectricalTilt:
+        return transmitter->electricalTiltDeg;
+    case OfferedValue::BeamWidth:
+        return transmitter->beamWidthDeg;
+    case OfferedValue::Frequency:
+        return transmitter->frequencyMHz;
+    default:
+        return std::nullopt;
+    }
+}
 
 /// 180 degrees in the unit of a geographic system; 0 for any other system and without one.
 double halfTurn(const OGRSpatialReference *srs)
@@ -20,34 +79,90 @@ SiteLayer::SiteLayer(const TableSource &source)
     : TableLayer(source, source.facts().table.sheet, 1)
     , m_positions(source.facts().table, source.facts().sites().point, source.facts().sites().unit,
                   halfTurn(source.systems->file()))
+    , m_transmitters(source.facts().table, source.facts().sites().roles,
+                     installedVocabulary().words)
 {
+    for (const OfferedField &field : facts().sites().offered)
+        defineField(field.name.c_str(), field.isText() ? OFTString : OFTReal);
     defineColumns();
     setGeometryType(facts().sites().point.found() ? wkbPoint : wkbNone);
+}
+
+bool SiteLayer::hasFeatures(int64_t row) const
+{
+    return !facts().siteIndex || facts().siteIndex->beginningIn(row);
+}
+
+GIntBig SiteLayer::rowsWithFeatures() const
+{
+    return static_cast<GIntBig>(facts().siteIndex ? facts().siteIndex->sites().size()
+                                                  : facts().table.rowCount);
 }
 
 RowMeaning SiteLayer::readRow(int64_t row, const FieldCells &cells,
                               std::vector<RowProblem> &problems) const
 {
-    Position position = m_positions.read(row, cells.cells(), problems);
-    systems().transform(row, position, problems);
-    return position;
+    SiteRow site;
+    site.inFile = m_positions.read(row, cells.cells(), problems);
+    site.transmitters = m_transmitters.read(row, cells.cells(), problems);
+    if (const auto &index = facts().siteIndex) {
+        index->addProblems(row, problems);
+        if (const IndexedSite *begun = index->beginningIn(row); begun && !site.inFile.found)
+            site.inFile = begun->position;
+    }
+    site.placed = site.inFile;
+    systems().transform(row, site.placed, problems);
+    return site;
 }
 
 void SiteLayer::mergeInto(OGREnvelope &extent, const TableRow &row) const
 {
-    if (row.position().found)
-        extent.Merge(row.position().x, row.position().y);
+    const Position &position = row.site().placed;
+    if (position.found && hasFeatures(row.number))
+        extent.Merge(position.x, position.y);
 }
 
 void SiteLayer::placeFeature(OGRFeature &feature, const TableRow &row, int) const
 {
-    if (row.position().found)
-        setGeometry(feature, std::make_unique<OGRPoint>(row.position().x, row.position().y));
+    const Position &position = row.site().placed;
+    if (position.found)
+        setGeometry(feature, std::make_unique<OGRPoint>(position.x, position.y));
 }
 
 void SiteLayer::fillFeature(OGRFeature &feature, const TableRow &row, int) const
 {
+    if (!facts().sites().offered.empty())
+        setOffered(feature, row);
     setColumns(feature, row);
+}
+
+/// Sets the fields before those of the source.
+void SiteLayer::setOffered(OGRFeature &feature, const TableRow &row) const
+{
+    const SiteLayout &layout = facts().sites();
+    const SiteRow &site = row.site();
+    const IndexedSite *indexed =
+        facts().siteIndex ? facts().siteIndex->beginningIn(row.number) : nullptr;
+    const auto transmitter = [&](std::size_t at) -> const TransmitterValues * {
+        if (indexed) {
+            const auto all = facts().siteIndex->transmittersOf(*indexed);
+            return at < all.size() ? &all[at] : nullptr;
+        }
+        return at < site.transmitters.size() && site.transmitters[at] ? &*site.transmitters[at]
+                                                                      : nullptr;
+    };
+    for (std::size_t i = 0; i < layout.offered.size(); ++i) {
+        if (isIgnored(i))
+            continue;
+        const OfferedField &field = layout.offered[i];
+        const OfferedInput input{row.cells.cells(), &layout.roles, indexed, &site.inFile,
+                                 transmitter(field.transmitter)};
+        if (field.isText()) {
+            if (const std::string text = offeredText(field.value, input); !text.empty())
+                feature.SetField(static_cast<int>(i), text.c_str());
+        } else if (const auto number = offeredNumber(field.value, input))
+            feature.SetField(static_cast<int>(i), *number);
+    }
 }
 
 void SiteLayer::addFileProblems(ProblemList &problems) const

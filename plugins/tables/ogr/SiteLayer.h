@@ -4,8 +4,8 @@
 
 namespace vlt::driver {
 
-/// The layer of sites: one point feature per row of the table. The FID is the number of the row in
-/// the file.
+/// The layer of sites: one point feature per site, which is one row of the table or begins in it.
+/// The FID is the number of that row in the file.
 class SiteLayer final : public TableLayer
 {
 public:
@@ -19,7 +19,12 @@ private:
     void fillFeature(OGRFeature &feature, const TableRow &row, int part) const override;
     void addFileProblems(ProblemList &problems) const override;
 
+    bool hasFeatures(int64_t row) const override;
+    GIntBig rowsWithFeatures() const override;
+    void setOffered(OGRFeature &feature, const TableRow &row) const;
+
     PositionReader m_positions;
+    TransmitterReader m_transmitters;
 };
 
 } // namespace vlt::driver

@@ -1,6 +1,7 @@
 #include "plugins/tables/ogr/TableFile.h"
 
 #include "plugins/tables/formats/OpenWorkbook.h"
+#include "plugins/tables/ogr/FieldCells.h"
 #include "plugins/tables/roles/Vocabulary.h"
 
 #include <list>
@@ -83,17 +84,53 @@ std::shared_ptr<TableFile> TableFile::open(const std::string &path, const TableO
     if (links)
         hints.isWanted = namesBothEnds;
     const Table read = readTable(*workbook, hints);
-    auto facts = std::make_shared<TableFacts>(TableFacts{*read.profile, {}});
+    auto facts = std::make_shared<TableFacts>(TableFacts{*read.profile, {}, {}});
     if (links)
         facts->layout = recogniseLinkLayout(*read.profile, vocabulary);
     else
         facts->layout = recogniseSiteLayout(*read.profile, vocabulary);
     for (Field &field : facts->table.fields) // the samples are not needed any more
         field.samples = {};
+    facts->table.sampledColumns = {};
     table->m_sheet = read.sheet;
     table->m_facts = facts;
+    if (!links)
+        table->readSites(*facts);
     memory().add({path, file->identity(), options, facts});
     return table;
+}
+
+/// Reads all rows if the number of transmitters or the rows of a site are not known before.
+void TableFile::readSites(TableFacts &facts)
+{
+    SiteLayout &layout = std::get<SiteLayout>(facts.layout);
+    const SiteRoles &roles = layout.roles;
+    std::size_t transmitters = roles.transmitters.size();
+    if (roles.shape == SiteShape::Lists || roles.shape == SiteShape::Tall) {
+        const TransmitterReader reader(facts.table, roles, installedVocabulary().words);
+        const PositionReader positions(facts.table, layout.point, layout.unit);
+        auto index = std::make_shared<SiteIndex>(facts.table, roles, layout.unit);
+        FieldCells cells(facts.table);
+        std::vector<RowProblem> problems; // they are reported when the rows are read again
+        const std::unique_ptr<DataRows> walk = rows();
+        while (walk->advance()) {
+            problems.clear();
+            cells.take(walk->cells(), problems);
+            const int64_t row = walk->rowNumber();
+            auto found = reader.read(row, cells.cells(), problems);
+            if (roles.shape == SiteShape::Lists)
+                transmitters = std::max(transmitters, found.size());
+            else
+                index->add(row, cells.cells(), positions.read(row, cells.cells(), problems),
+                           std::move(found));
+        }
+        index->finish();
+        if (roles.shape == SiteShape::Tall) {
+            transmitters = index->maxTransmitters();
+            facts.siteIndex = index;
+        }
+    }
+    layout.offered = offeredFields(facts.table, roles, layout.point, layout.unit, transmitters);
 }
 
 std::unique_ptr<Workbook> TableFile::openFile() const

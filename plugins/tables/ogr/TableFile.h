@@ -2,6 +2,7 @@
 
 #include "plugins/tables/bytes/InputFile.h"
 #include "plugins/tables/links/LinkLayout.h"
+#include "plugins/tables/sites/SiteIndex.h"
 #include "plugins/tables/sites/SiteLayout.h"
 #include "plugins/tables/table/Table.h"
 
@@ -28,6 +29,8 @@ struct TableFacts
 {
     TableProfile table;
     std::variant<SiteLayout, LinkLayout> layout;
+    /// The sites of a table with a row per transmitter; else null.
+    std::shared_ptr<const SiteIndex> siteIndex;
 
     const SiteLayout &sites() const { return std::get<SiteLayout>(layout); }
     const LinkLayout &links() const { return std::get<LinkLayout>(layout); }
@@ -51,6 +54,7 @@ public:
     std::unique_ptr<DataRows> rows();
 
 private:
+    void readSites(TableFacts &facts);
     TableFile(std::shared_ptr<const InputFile> file, std::string name, TableOptions options)
         : m_file(std::move(file))
         , m_name(std::move(name))

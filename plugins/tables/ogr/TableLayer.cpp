@@ -73,6 +73,7 @@ void TableLayer::defineField(const char *name, OGRFieldType type)
 
 void TableLayer::defineColumns()
 {
+    m_firstColumn = m_ignored.size();
     for (const Field &field : facts().table.fields)
         defineField(field.name.c_str(), ogrType(field.type));
 }
@@ -129,9 +130,9 @@ void TableLayer::setColumns(OGRFeature &feature, const TableRow &row) const
     const std::vector<const Cell *> &cells = row.cells.cells();
     for (std::size_t i = 0; i < fields.size(); ++i) {
         const Cell *cell = cells[i];
-        if (!cell || isIgnored(i))
+        if (!cell || isIgnored(m_firstColumn + i))
             continue;
-        const int index = static_cast<int>(i);
+        const int index = static_cast<int>(m_firstColumn + i);
         if (fields[i].type != FieldType::Text) {
             if (row.cells.isNull(i))
                 continue;
@@ -176,20 +177,21 @@ std::unique_ptr<OGRFeature> TableLayer::makeFeature(const TableRow &row, int par
     return feature;
 }
 
-/// Goes to the next row of m_walk and reads it; false after the last one.
+/// Goes to the next row of m_walk that has features; false after the last one. Reads the rows.
 bool TableLayer::nextRow()
 {
-    if (!m_walk->rows->advance()) {
+    while (m_walk->rows->advance()) {
+        std::vector<RowProblem> problems = takeRow(*m_walk);
+        m_source.warnings->warn(facts().table.sheet, problems);
         if (m_walk->problems)
-            *m_source.problems = std::move(m_walk->problems);
-        m_walk->problems.reset();
-        return false;
+            m_walk->problems->add(std::move(problems));
+        if (hasFeatures(m_walk->row.number))
+            return true;
     }
-    std::vector<RowProblem> problems = takeRow(*m_walk);
-    m_source.warnings->warn(facts().table.sheet, problems);
     if (m_walk->problems)
-        m_walk->problems->add(std::move(problems));
-    return true;
+        *m_source.problems = std::move(m_walk->problems);
+    m_walk->problems.reset();
+    return false;
 }
 
 /// The next feature, whatever the filters are; null after the last one.
@@ -231,7 +233,7 @@ OGRErr TableLayer::SetNextByIndex(GIntBig index)
         return OGRLayer::SetNextByIndex(index);
     ResetReading();
     const GIntBig before = index / m_partCount; ///< rows to skip
-    if (index < 0 || static_cast<uint64_t>(before) >= facts().table.rowCount) {
+    if (index < 0 || before >= rowsWithFeatures()) {
         m_failed = true;
         return OGRERR_FAILURE;
     }
@@ -240,7 +242,7 @@ OGRErr TableLayer::SetNextByIndex(GIntBig index)
         m_walk = startWalk();
         GIntBig at = 0;
         while (at < before && m_walk->rows->advance())
-            ++at;
+            at += hasFeatures(m_walk->rows->rowNumber()) ? 1 : 0;
         const int part = static_cast<int>(index % m_partCount);
         found = at == before && (part == 0 || nextRow());
         m_walk->nextPart = part;
@@ -256,7 +258,7 @@ OGRFeature *TableLayer::GetFeature(GIntBig fid)
     std::unique_ptr<OGRFeature> feature;
     guarded([&] {
         Walk walk = startWalk();
-        if (!walk.rows->seek(row) || walk.rows->rowNumber() != row)
+        if (!walk.rows->seek(row) || walk.rows->rowNumber() != row || !hasFeatures(row))
             return;
         m_source.warnings->warn(facts().table.sheet, takeRow(walk));
         feature = makeFeature(walk.row, static_cast<int>(fid % m_partCount));
@@ -268,7 +270,7 @@ GIntBig TableLayer::GetFeatureCount(int force)
 {
     if (m_poFilterGeom || m_poAttrQuery)
         return OGRLayer::GetFeatureCount(force);
-    return static_cast<GIntBig>(facts().table.rowCount) * m_partCount;
+    return rowsWithFeatures() * m_partCount;
 }
 
 /// Reads all rows. If the file turns out to be damaged, returns false; `extent` and `found` then

@@ -72,6 +72,16 @@ private:
     /// Extends an envelope by the geometries of a row.
     virtual void mergeInto(OGREnvelope &extent, const TableRow &row) const = 0;
     virtual void placeFeature(OGRFeature &feature, const TableRow &row, int part) const = 0;
+    /// Whether a row has features of its own; otherwise it adds to those of another row.
+    virtual bool hasFeatures(int64_t row) const
+    {
+        static_cast<void>(row);
+        return true;
+    }
+    virtual GIntBig rowsWithFeatures() const
+    {
+        return static_cast<GIntBig>(facts().table.rowCount);
+    }
     virtual void fillFeature(OGRFeature &feature, const TableRow &row, int part) const = 0;
     /// Adds the problems of the table as a whole, except those of the coordinate systems.
     virtual void addFileProblems(ProblemList &problems) const = 0;
@@ -104,8 +114,9 @@ private:
     TableSource m_source;
     OGRFeatureDefn *m_definition;
     const int m_partCount;
-    std::vector<char> m_ignored; ///< by field
-    std::optional<Walk> m_walk;  ///< sequential reading; empty before the first row
+    std::size_t m_firstColumn = 0; ///< number of fields before the columns of the table
+    std::vector<char> m_ignored;   ///< by field
+    std::optional<Walk> m_walk;    ///< sequential reading; empty before the first row
     bool m_failed = false;
     CPLStringList m_problemsItems; ///< the problems of all rows as metadata
     OGREnvelope m_extent;

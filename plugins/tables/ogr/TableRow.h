@@ -3,6 +3,7 @@
 #include "plugins/tables/links/LinkValues.h"
 #include "plugins/tables/ogr/FieldCells.h"
 #include "plugins/tables/sites/PositionReader.h"
+#include "plugins/tables/sites/TransmitterReader.h"
 
 #include <array>
 #include <optional>
@@ -19,8 +20,16 @@ struct LinkRow
     std::optional<double> lengthM;  ///< between the ends, on the earth's surface
 };
 
-/// The meaning of a row: the position of a site in the target system, or a link.
-using RowMeaning = std::variant<Position, LinkRow>;
+/// A site as read from a row.
+struct SiteRow
+{
+    Position inFile;                                            ///< in the file's system
+    Position placed;                                            ///< in the target system
+    std::vector<std::optional<TransmitterValues>> transmitters; ///< of this row
+};
+
+/// The meaning of a row.
+using RowMeaning = std::variant<SiteRow, LinkRow>;
 
 /// A row of a table. Valid until the walk that read it goes on.
 struct TableRow
@@ -31,7 +40,7 @@ struct TableRow
 
     explicit TableRow(const TableProfile &table) : cells(table) {}
 
-    const Position &position() const { return std::get<Position>(meaning); }
+    const SiteRow &site() const { return std::get<SiteRow>(meaning); }
     const LinkRow &link() const { return std::get<LinkRow>(meaning); }
 };
 

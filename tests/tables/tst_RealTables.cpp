@@ -1,0 +1,241 @@
+#include "DriverTesting.h"
+
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QMap>
+#include <QSet>
+#include <QTest>
+
+#include <algorithm>
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+/// Tables in the manner of real exports, with what their authors know of them.
+class tst_RealTables : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        GDALAllRegister();
+        const QJsonDocument document = QJsonDocument::fromJson(contentOf(u"expected.json"_s));
+        QVERIFY(document.isArray());
+        m_tables = document.array();
+        for (const QByteArray &line : contentOf(u"not_yet.txt"_s).split('\n')) {
+            if (!line.startsWith('#'))
+                m_notYet.insert(QString::fromUtf8(line));
+        }
+    }
+
+    void findsTheSites_data() { addTables(u"sites"_s); }
+    void findsTheSites()
+    {
+        QFETCH(QJsonObject, table);
+        const QString name = table.value(u"file"_s).toString();
+        const QString difference = differenceOfSites(table);
+        if (m_notYet.contains(name))
+            QEXPECT_FAIL("", "not yet understood", Continue);
+        QVERIFY2(difference.isEmpty(), qPrintable(difference));
+    }
+
+private:
+    static QString pathOf(const QString &name)
+    {
+        return QStringLiteral(VLT_REAL_TABLES) + u'/' + name;
+    }
+
+    static QByteArray contentOf(const QString &name)
+    {
+        QFile file(pathOf(name));
+        return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    void addTables(const QString &kind) const
+    {
+        QTest::addColumn<QJsonObject>("table");
+        for (const QJsonValue &table : m_tables) {
+            const QJsonObject object = table.toObject();
+            if (object.value(u"kind"_s) == kind)
+                QTest::newRow(qPrintable(object.value(u"file"_s).toString())) << object;
+        }
+    }
+
+    static GDALDatasetUniquePtr open(const QJsonObject &table, const char *prefix)
+    {
+        CPLStringList options;
+        const QJsonObject given = table.value(u"open"_s).toObject();
+        for (auto option = given.begin(); option != given.end(); ++option) {
+            const QString value = option.value().toString();
+            const bool isFile = QFile::exists(pathOf(value));
+            options.SetNameValue(qPrintable(option.key()),
+                                 (isFile ? pathOf(value) : value).toUtf8().constData());
+        }
+        const QByteArray path = prefix + pathOf(table.value(u"file"_s).toString()).toUtf8();
+        return GDALDatasetUniquePtr(
+            GDALDataset::Open(path.constData(), GDAL_OF_VECTOR, nullptr, options.List()));
+    }
+
+    /// The values of a transmitter that has any, by the keys of the expectations.
+    using Values = QMap<QString, QString>;
+
+    /// What the driver gives, in the form of the expectations.
+    struct Site
+    {
+        QString id;
+        double x = NAN;
+        double y = NAN;
+        QList<Values> transmitters;
+    };
+
+    static QString numberText(double number)
+    {
+        return QString::number(std::round(number * 1000) / 1000, 'g', 12);
+    }
+
+    static QString fieldText(const OGRFeature &feature, const QString &name)
+    {
+        const int field = feature.GetFieldIndex(name.toUtf8().constData());
+        if (field < 0 || !feature.IsFieldSetAndNotNull(field))
+            return {};
+        return plainText(QString::fromUtf8(feature.GetFieldAsString(field)));
+    }
+
+    /// The text in the first of the fields with a value.
+    static QString firstText(const OGRFeature &feature, const QString &prefix,
+                             const QStringList &names)
+    {
+        for (const QString &name : names) {
+            if (const QString text = fieldText(feature, prefix + name); !text.isEmpty())
+                return text;
+        }
+        return {};
+    }
+
+    static QList<Values> transmittersOf(const OGRFeature &feature)
+    {
+        static const QList<std::pair<QString, QStringList>> Fields = {
+            {u"id"_s, {u"Sector ID"_s, u"Transmitter"_s, u"ANT-INDEX"_s}},
+            {u"height"_s, {u"Height (m)"_s, u"HEIGHT"_s}},
+            {u"azimuth"_s, {u"Azimuth (°)"_s, u"AZIMUTH"_s}},
+            {u"tilt"_s, {u"Mechanical tilt"_s, u"DOWN-TILT"_s, u"Tilt (°)"_s}},
+            {u"electricalTilt"_s, {u"Electrical tilt (°)"_s}},
+            {u"beamWidth"_s, {u"Beam width (°)"_s}},
+            {u"frequencyMHz"_s, {u"Frequency (MHz)"_s}},
+            {u"technology"_s, {u"Technology"_s}},
+        };
+        QList<Values> transmitters;
+        for (int n = 1; n <= 40; ++n) {
+            Values values;
+            for (const auto &[key, names] : Fields) {
+                const QString text = firstText(feature, u"Transmitter-%1 "_s.arg(n), names);
+                if (!text.isEmpty())
+                    values.insert(key, text);
+            }
+            if (!values.isEmpty())
+                transmitters += values;
+        }
+        return transmitters;
+    }
+
+    static QString plainText(const QJsonValue &value)
+    {
+        const QString text = value.toString();
+        bool isNumber = value.isDouble();
+        const double number = isNumber ? value.toDouble() : text.toDouble(&isNumber);
+        return isNumber ? numberText(number) : text;
+    }
+
+    /// Whether a transmitter has all values that are expected.
+    static bool agree(const Values &found, const QJsonObject &expected)
+    {
+        for (auto value = expected.begin(); value != expected.end(); ++value) {
+            if (found.value(value.key()) != plainText(value.value()))
+                return false;
+        }
+        return true;
+    }
+
+    static bool agree(const QList<Values> &found, const QJsonArray &expected)
+    {
+        return std::equal(
+            found.begin(), found.end(), expected.begin(), expected.end(),
+            [](const Values &a, const QJsonValue &b) { return agree(a, b.toObject()); });
+    }
+
+    static QList<Site> sitesOf(OGRLayer &layer)
+    {
+        QList<Site> sites;
+        while (const OGRFeatureUniquePtr feature{layer.GetNextFeature()}) {
+            Site site;
+            site.id = fieldText(*feature, u"Site ID"_s);
+            if (const OGRGeometry *geometry = feature->GetGeometryRef()) {
+                site.x = geometry->toPoint()->getX();
+                site.y = geometry->toPoint()->getY();
+            }
+            site.transmitters = transmittersOf(*feature);
+            sites += site;
+        }
+        return sites;
+    }
+
+    static bool agree(double found, const QJsonValue &expected)
+    {
+        if (!expected.isDouble())
+            return std::isnan(found);
+        return std::abs(found - expected.toDouble()) <=
+               1e-5 * std::max(1.0, std::abs(expected.toDouble()));
+    }
+
+    /// The difference between a site as expected and those that were found; empty for none.
+    static QString differenceOf(const QJsonObject &expected, const QList<Site> &sites)
+    {
+        const QString id = plainText(expected.value(u"id"_s));
+        const QJsonArray transmitters = expected.value(u"transmitters"_s).toArray();
+        QString nearest = u"no site \"%1\""_s.arg(id);
+        for (const Site &site : sites) {
+            const bool isPlaced =
+                agree(site.x, expected.value(u"x"_s)) && agree(site.y, expected.value(u"y"_s));
+            if (isPlaced && (id.isEmpty() || site.id == id) &&
+                agree(site.transmitters, transmitters))
+                return {};
+            if (site.id != id && (!id.isEmpty() || !isPlaced))
+                continue;
+            nearest = u"site \"%1\" at %2 %3 with"_s.arg(site.id, QString::number(site.x, 'g', 9),
+                                                         QString::number(site.y, 'g', 9));
+            for (const Values &values : site.transmitters)
+                nearest += u" "_s + QStringList(values.values()).join(u'/');
+            nearest +=
+                u" instead of "_s +
+                QString::fromUtf8(QJsonDocument(transmitters).toJson(QJsonDocument::Compact));
+        }
+        return nearest;
+    }
+
+    static QString differenceOfSites(const QJsonObject &table)
+    {
+        const Warnings warnings;
+        const GDALDatasetUniquePtr dataset = open(table, "site:");
+        if (!dataset)
+            return u"cannot be opened: "_s + warnings.texts.join(u' ');
+        const QList<Site> sites = sitesOf(*dataset->GetLayer(0));
+        const int expected = table.value(u"counts"_s).toObject().value(u"sites"_s).toInt();
+        for (const QJsonValue &site : table.value(u"sites"_s).toArray()) {
+            const QString difference = differenceOf(site.toObject(), sites);
+            if (!difference.isEmpty())
+                return difference;
+        }
+        if (sites.size() != expected)
+            return u"%1 sites instead of %2"_s.arg(sites.size()).arg(expected);
+        return {};
+    }
+
+    QJsonArray m_tables;
+    QSet<QString> m_notYet;
+};
+
+QTEST_GUILESS_MAIN(tst_RealTables)
+#include "tst_RealTables.moc"
