@@ -1,6 +1,4 @@
 #include "plugins/tables/cells/GroupedNumber.h"
-#include "plugins/tables/sites/Angle.h"
-#include "plugins/tables/sites/CoordinatePair.h"
 #include "plugins/tables/sites/PositionReader.h"
 #include "plugins/tables/sites/SiteLayout.h"
 #include "plugins/tables/values/Angle.h"
