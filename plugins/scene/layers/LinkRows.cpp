@@ -2,6 +2,7 @@
 
 #include "contract/LinkEnds.h"
 #include "contract/SiteColumns.h"
+#include "contract/TransmitterRanges.h"
 #include "linkpath/LinkEndReader.h"
 #include "plugins/scene/parametric/LinkObject.h"
 #include "plugins/scene/reading/BadLayer.h"
@@ -15,8 +16,6 @@
 namespace vlt::scene {
 
 namespace {
-
-constexpr double MaxAntennaHeightM = 2000;
 
 /// Index of the field with the names of the ends' sites; -1 if there is none.
 int siteFieldOf(OGRLayer &ends, const std::string &siteField)
@@ -80,7 +79,8 @@ private:
             end.frequencyMHz = within(end.frequencyMHz, MinMHz, MaxMHz);
             row.ends[i].site = std::move(end.site);
             row.ends[i].end = end.place;
-            row.ends[i].end.heightM = within(end.place.heightM, 0, MaxAntennaHeightM);
+            row.ends[i].end.heightM = within(end.place.heightM, contract::AntennaHeightM.minimum,
+                                             contract::AntennaHeightM.maximum);
         }
         row.frequencyMHz = link->frequencyMHz().value_or(0.0);
         m_links.rows.push_back(std::move(row));

@@ -43,24 +43,24 @@ std::optional<double> LinkValueReader::heightM(const RowContext &context,
 {
     if (!height.found())
         return std::nullopt;
-    const std::string text = context.text(height.field);
-    const auto metres = readLengthM(text, height.unit.value_or(1));
-    if (text.empty())
+    const std::string text = fieldText(context.cells, height.field);
+    const TransmitterValue value = readAntennaHeightM(text, height.unit.value_or(1), m_words);
+    if (value.isAbsent())
         context.warn(nameOf(height.field), formatted("MESS_TAB_NO_HEIGHT"));
-    else if (!metres)
-        context.warn(nameOf(height.field),
-                     formatted("MESS_TAB_HEIGHT_UNREADABLE", {quotation(text)}));
-    return metres;
+    else if (value.fault)
+        context.warn(nameOf(height.field), formatted(*value.fault, {quotation(text)}));
+    return value.number;
 }
 
 std::optional<double> LinkValueReader::degrees(const RowContext &context, int field,
-                                               TableTextId why) const
+                                               ReadAngle readAngle,
+                                               std::optional<TableTextId> why) const
 {
-    const std::string text = context.text(field);
-    const auto angle = readDegrees(text);
-    if (!angle && !text.empty())
-        context.warn(nameOf(field), formatted(why, {quotation(text)}));
-    return angle;
+    const std::string text = fieldText(context.cells, field);
+    const TransmitterValue value = readAngle(text, 1, m_words);
+    if (value.fault)
+        context.warn(nameOf(field), formatted(why.value_or(*value.fault), {quotation(text)}));
+    return value.number;
 }
 
 /// The frequency in a field. A value that cannot be used is reported.
@@ -68,17 +68,13 @@ std::optional<double> LinkValueReader::frequencyMHz(const RowContext &context,
                                                     const QuantityField &frequency,
                                                     bool &isUnreadable) const
 {
-    const std::string text = context.text(frequency.field);
-    if (text.empty())
-        return std::nullopt;
-    const auto megahertz = readFrequencyMHz(text, frequency.unit);
-    if (megahertz && *megahertz > 0)
-        return megahertz;
-    isUnreadable = true;
-    context.warn(nameOf(frequency.field),
-                 megahertz ? formatted("MESS_TAB_FREQUENCY_NOT_POSITIVE", {quotation(text)})
-                           : formatted("MESS_TAB_FREQUENCY_UNREADABLE", {quotation(text)}));
-    return std::nullopt;
+    const std::string text = fieldText(context.cells, frequency.field);
+    const TransmitterValue value = readFrequency(text, frequency.unit, m_words);
+    if (value.fault) {
+        isUnreadable = true;
+        context.warn(nameOf(frequency.field), formatted(*value.fault, {quotation(text)}));
+    }
+    return value.number;
 }
 
 /// Sets the frequencies. An end without one gets that of the other end, else that of the band.
@@ -118,8 +114,9 @@ LinkValues LinkValueReader::read(int64_t row, const std::vector<const Cell *> &c
         LinkEndValues &of = values.ends[end];
         of.identifier = fieldText(cells, fields.identifier);
         of.heightM = heightM(context, fields.height);
-        of.azimuthDeg = degrees(context, fields.azimuth, "MESS_TAB_AZIMUTH_UNREADABLE");
-        of.tiltDeg = degrees(context, fields.tilt, "MESS_TAB_TILT_UNREADABLE");
+        of.azimuthDeg = degrees(context, fields.azimuth, readAzimuthDeg,
+                                TableTextId("MESS_TAB_AZIMUTH_UNREADABLE"));
+        of.tiltDeg = degrees(context, fields.tilt, readTiltDeg);
     }
     readFrequencies(context, values);
     // without a unit in the header or in the cell, the length cannot be compared

@@ -2,6 +2,7 @@
 
 #include "plugins/tables/links/LinkLayout.h"
 #include "plugins/tables/sites/PositionReader.h"
+#include "plugins/tables/values/TransmitterValues.h"
 
 #include <array>
 #include <optional>
@@ -40,16 +41,20 @@ public:
 
 private:
     struct RowContext;
+    using ReadAngle = TransmitterValue (*)(std::string_view text, double unitDeg,
+                                           const ValueWords &words);
     std::optional<double> frequencyMHz(const RowContext &context, const QuantityField &frequency,
                                        bool &isUnreadable) const;
     void readFrequencies(const RowContext &context, LinkValues &values) const;
     std::optional<double> heightM(const RowContext &context, const QuantityField &height) const;
-    std::optional<double> degrees(const RowContext &context, int field,
-                                  contract::TableTextId why) const;
+    /// @param why  the problem of a value that cannot be used, instead of its own
+    std::optional<double> degrees(const RowContext &context, int field, ReadAngle readAngle,
+                                  std::optional<contract::TableTextId> why = {}) const;
     const std::string &nameOf(int field) const;
 
     const TableProfile *m_table;
     const LinkLayout *m_layout;
+    ValueWords m_words;
 };
 
 } // namespace vlt::driver

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <array>
+#include <numbers>
 #include <string>
 
 namespace vlt::driver {
@@ -15,6 +16,8 @@ namespace {
 
 constexpr double MetresPerFoot = 0.3048;
 constexpr double MetresPerMile = 1609.344;
+constexpr double DegreesPerGon = 0.9;
+constexpr double DegreesPerRadian = 180 / std::numbers::pi;
 constexpr double MaxGHz = 200;
 constexpr double MinHz = 1e6;
 
@@ -35,11 +38,34 @@ constexpr std::array LengthUnits = {
     Unit{"kilometers", 1000},
     Unit{"kilometres", 1000},
     Unit{"ft", MetresPerFoot},
+    Unit{"'", MetresPerFoot},
+    Unit{"′", MetresPerFoot},
+    Unit{"’", MetresPerFoot},
     Unit{"foot", MetresPerFoot},
     Unit{"feet", MetresPerFoot},
     Unit{"mi", MetresPerMile},
     Unit{"mile", MetresPerMile},
     Unit{"miles", MetresPerMile},
+};
+constexpr std::array AngleUnits = {
+    Unit{"°", 1},
+    Unit{"º", 1}, // masculine ordinal indicator
+    Unit{"˚", 1}, // ring above
+    Unit{"deg", 1},
+    Unit{"degree", 1},
+    Unit{"degrees", 1},
+    Unit{"degré", 1},
+    Unit{"degrés", 1},
+    Unit{"grados", 1},
+    Unit{"gradi", 1},
+    Unit{"graus", 1},
+    Unit{"graden", 1},
+    Unit{"gon", DegreesPerGon},
+    Unit{"gons", DegreesPerGon},
+    Unit{"grad", DegreesPerGon},
+    Unit{"grads", DegreesPerGon},
+    Unit{"grades", DegreesPerGon},
+    Unit{"rad", DegreesPerRadian},
 };
 constexpr std::array FrequencyUnits = {Unit{"hz", 1e-6}, Unit{"khz", 1e-3}, Unit{"mhz", 1},
                                        Unit{"ghz", 1e3}, Unit{"thz", 1e6}};
@@ -92,11 +118,26 @@ std::optional<LeadingNumber> leadingNumber(std::string_view text)
     return LeadingNumber{*number, trimmed(text.substr(size)), false};
 }
 
+/// A number with or without a unit behind it.
+std::optional<double> readQuantity(std::string_view text, double unit, UnitOf unitOf)
+{
+    const auto leading = leadingNumber(trimmed(text));
+    if (!leading)
+        return std::nullopt;
+    const auto own = leading->rest.empty() ? std::optional(unit) : unitOf(leading->rest);
+    return own ? std::optional(leading->number * *own) : std::nullopt;
+}
+
 } // namespace
 
 std::optional<double> metresPer(std::string_view word)
 {
     return factorOf(LengthUnits, word);
+}
+
+std::optional<double> degreesPer(std::string_view word)
+{
+    return word == "Grad" ? std::optional(1.0) : factorOf(AngleUnits, word);
 }
 
 std::optional<double> megahertzPer(std::string_view word)
@@ -118,21 +159,12 @@ std::optional<double> unitInName(std::string_view name, UnitOf unitOf)
 
 std::optional<double> readLengthM(std::string_view text, double unitM)
 {
-    const auto leading = leadingNumber(trimmed(text));
-    if (!leading)
-        return std::nullopt;
-    if (leading->rest.empty())
-        return leading->number * unitM;
-    const auto own = leading->rest == "'" ? MetresPerFoot : metresPer(leading->rest);
-    return own ? std::optional(leading->number * *own) : std::nullopt;
+    return readQuantity(text, unitM, metresPer);
 }
 
-std::optional<double> readDegrees(std::string_view text)
+std::optional<double> readDegrees(std::string_view text, double unitDeg)
 {
-    const auto leading = leadingNumber(trimmed(text));
-    const bool whole = leading && (leading->rest.empty() || leading->rest == "\xC2\xB0" ||
-                                   lowerCase(leading->rest) == "deg");
-    return whole ? std::optional(leading->number) : std::nullopt;
+    return readQuantity(text, unitDeg, degreesPer);
 }
 
 std::optional<double> readFrequencyMHz(std::string_view text, std::optional<double> unitMHz)

@@ -11,6 +11,10 @@ std::optional<double> metresPer(std::string_view word);
 /// MHz per unit, for the name of a unit of frequency (Hz, kHz, MHz, GHz, THz).
 std::optional<double> megahertzPer(std::string_view word);
 
+/// Degrees per unit, for the name or the sign of a unit of angle (°, deg, gon, grad, rad, ...). The
+/// German "Grad" is a degree, "grad" a gon.
+std::optional<double> degreesPer(std::string_view word);
+
 using UnitOf = std::optional<double> (*)(std::string_view word);
 
 /// A column of lengths or frequencies.
@@ -30,8 +34,10 @@ std::optional<double> unitInName(std::string_view name, UnitOf unitOf);
 /// @param unitM  metres per unit of a number without a unit
 std::optional<double> readLengthM(std::string_view text, double unitM);
 
-/// An angle written as one number, with or without a degree sign.
-std::optional<double> readDegrees(std::string_view text);
+/// An angle written as one number, such as 120, 120° or 133,5 gon, in degrees.
+///
+/// @param unitDeg  degrees per unit of a number without a unit
+std::optional<double> readDegrees(std::string_view text, double unitDeg = 1);
 
 /// The number at the start of a text as a frequency in MHz. Examples: "23 GHz", "7/8 GHz",
 /// "['006123.10', '006123.10']".

@@ -1,0 +1,102 @@
+#include "plugins/tables/values/TransmitterValues.h"
+
+#include <QtTest>
+
+using namespace vlt::driver;
+
+/// Values of transmitters in tables.
+class tst_TransmitterValues : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void readsValues_data()
+    {
+        QTest::addColumn<QByteArray>("quantity");
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<double>("unit");
+        QTest::addColumn<QByteArray>("result"); // number, "absent", "omni" or key of the fault
+        const auto row = [](const char *quantity, const char *text, const char *result,
+                            double unit = 1) {
+            QTest::newRow(qPrintable(QStringLiteral("%1 \"%2\", unit %3")
+                                         .arg(QString::fromUtf8(quantity), QString::fromUtf8(text))
+                                         .arg(unit)))
+                << QByteArray(quantity) << QByteArray(text) << unit << QByteArray(result);
+        };
+        row("height", "30", "30");
+        row("height", "30 m", "30");
+        row("height", "30,5", "30.5");
+        row("height", "1 234,5", "1234.5");
+        row("height", "98.4 ft", "29.9923"); // 98.4 x 0.3048
+        row("height", "100'", "30.48");
+        row("height", "100", "30.48", 0.3048);
+        row("height", "30 m", "30", 0.3048);
+        row("height", "1.5 km", "1500");
+        row("height", "0", "0");
+        row("height", "2000", "2000");
+        row("height", "2000.1", "MESS_TAB_HEIGHT_RANGE");
+        row("height", "-5", "MESS_TAB_HEIGHT_RANGE");
+        row("height", "99999", "MESS_TAB_HEIGHT_RANGE");
+        row("height", "30 apples", "MESS_TAB_HEIGHT_UNREADABLE");
+        row("height", "--5", "MESS_TAB_HEIGHT_UNREADABLE");
+        row("height", "30/28", "MESS_TAB_HEIGHT_UNREADABLE");
+        row("height", " ", "absent");
+        row("height", "N/A", "absent");
+        row("height", "999999999", "absent");
+        row("height", "-9999.00", "absent");
+        row("azimuth", "120", "120");
+        row("azimuth", "120\u00B0", "120");
+        row("azimuth", "120 deg", "120");
+        row("azimuth", "133,5", "133.5");
+        row("azimuth", "100 gon", "90");
+        row("azimuth", "100", "90", 0.9);
+        row("azimuth", "100\u00B0", "100", 0.9);
+        row("azimuth", "100 Grad", "100");
+        row("azimuth", "400 grad", "0");
+        row("azimuth", "360", "0");
+        row("azimuth", "-360", "0");
+        row("azimuth", "-30", "330");
+        row("azimuth", "1200", "MESS_TAB_AZIMUTH_RANGE");
+        row("azimuth", "north", "MESS_TAB_AZIMUTH_NO_NUMBER");
+        row("azimuth", "#N/A", "absent");
+        row("azimuth", "Omni", "omni");
+        row("tilt", "-2,5\u00B0", "-2.5");
+        row("tilt", "95", "MESS_TAB_TILT_RANGE");
+        row("tilt", "Omni", "MESS_TAB_TILT_UNREADABLE");
+        row("beam width", "65", "65");
+        row("beam width", "360", "360");
+        row("beam width", "-65", "MESS_TAB_BEAM_WIDTH_RANGE");
+        row("beam width", "wide", "MESS_TAB_BEAM_WIDTH_UNREADABLE");
+        row("frequency", "1.8 GHz", "1800");
+        row("frequency", "0", "MESS_TAB_FREQUENCY_NOT_POSITIVE");
+        row("frequency", "700,800,900", "MESS_TAB_FREQUENCY_UNREADABLE");
+        row("frequency", "9999", "9999");
+    }
+    void readsValues()
+    {
+        QFETCH(QByteArray, quantity);
+        QFETCH(QByteArray, text);
+        QFETCH(double, unit);
+        QFETCH(QByteArray, result);
+        ValueWords words;
+        words.isOmni = [](std::string_view word) { return word == "Omni"; };
+        const std::string cell = text.toStdString();
+
+        const TransmitterValue value = quantity == "height" ? readAntennaHeightM(cell, unit, words)
+                                       : quantity == "azimuth" ? readAzimuthDeg(cell, unit, words)
+                                       : quantity == "tilt"    ? readTiltDeg(cell, unit, words)
+                                       : quantity == "beam width"
+                                           ? readBeamWidthDeg(cell, unit, words)
+                                           : readFrequency(cell, unit, words);
+
+        QCOMPARE(value.fault    ? QByteArray(value.fault->text().key)
+                 : value.isOmni ? QByteArray("omni")
+                 : value.number ? QByteArray::number(*value.number, 'g', 6)
+                                : QByteArray("absent"),
+                 result);
+        QCOMPARE(value.isAbsent(), result == "absent");
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_TransmitterValues)
+#include "tst_TransmitterValues.moc"
