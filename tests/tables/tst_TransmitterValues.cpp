@@ -1,4 +1,5 @@
 #include "plugins/tables/values/TransmitterValues.h"
+#include "plugins/tables/values/ValueList.h"
 
 #include <QtTest>
 
@@ -95,6 +96,49 @@ private Q_SLOTS:
                                 : QByteArray("absent"),
                  result);
         QCOMPARE(value.isAbsent(), result == "absent");
+    }
+
+    void splitsLists_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<QByteArray>("parts"); // separated by underscores
+        const auto row = [](const char *text, const char *parts) {
+            QTest::newRow(text) << QByteArray(text) << QByteArray(parts);
+        };
+        row("120", "120");
+        row("", "");
+        row("N/A", "N/A");
+        row("133,5", "133,5");
+        row("1,234.5", "1,234.5");
+        row("-30", "-30");
+        row("120/240/0", "120_240_0");
+        row("120\u00B0 / 240\u00B0 / 0\u00B0", "120\u00B0_240\u00B0_0\u00B0");
+        row("30; 28,5 ;30 m", "30_28,5_30 m");
+        row("0 | 120 |", "0_120_");
+        row("/120/240", "_120_240");
+        row("120;N/A;240", "120_N/A_240");
+        row("0\n120\n240", "0_120_240");
+        row("0-120-240", "0_120_240");
+        row("0\u00B0-120\u00B0", "0\u00B0_120\u00B0");
+        row("0 - 120 \u2013 240", "0_120_240");
+        row("-2 - -4", "-2_-4");
+        row("0,120,240", "0_120_240");
+        row("[0, 120]", "0_120");
+        row("2,5, 3,5", "2,5_3,5");
+        row("30.5,28.0", "30.5_28.0");
+        row("0,120,", "0_120_");
+    }
+    void splitsLists()
+    {
+        QFETCH(QByteArray, text);
+        QFETCH(QByteArray, parts);
+        const std::string cell = text.toStdString();
+
+        QByteArrayList found;
+        for (const std::string_view part : splitList(cell))
+            found += QByteArray(part.data(), static_cast<qsizetype>(part.size()));
+
+        QCOMPARE(found.join('_'), parts);
     }
 };
 
