@@ -3,6 +3,7 @@
 #include "contract/ReaderOptions.h"
 #include "plugins/scene/buildings/BuildingScene.h"
 #include "plugins/scene/reading/BadLayer.h"
+#include "support/Cases.h"
 
 #include <osg/Geometry>
 
@@ -132,16 +133,13 @@ private Q_SLOTS:
 
     void readsShapes_data()
     {
-        QTest::addColumn<QByteArray>("wkt");
-        QTest::addColumn<int>("walls");
-        QTest::addColumn<double>("area");
-        QTest::addColumn<QByteArray>("file");
-        QTest::addColumn<QByteArray>("format");
+        const Cases<QByteArray, int, double, QByteArray, QByteArray> table(
+            {"wkt", "walls", "area", "file", "format"});
         const QByteArray hole = "(3 3,3 7,7 7,7 3,3 3)";
-        const auto row = [](const char *name, const QByteArray &wkt, int walls, double area,
-                            const QByteArray &file = "town.gpkg",
-                            const QByteArray &format = "GPKG") {
-            QTest::newRow(name) << wkt << walls << area << file << format;
+        const auto row = [&table](const char *name, const QByteArray &wkt, int walls, double area,
+                                  const QByteArray &file = "town.gpkg",
+                                  const QByteArray &format = "GPKG") {
+            table(name, wkt, walls, area, file, format);
         };
         row("polygon", Square, 4, 100);
         row("with heights of its points", "POLYGON Z((0 0 5,10 0 6,10 10 7,0 10 8,0 0 5))", 4, 100);
@@ -208,14 +206,9 @@ private Q_SLOTS:
 
     void readsHeights_data()
     {
-        QTest::addColumn<OGRFieldType>("type");
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<double>("height"); ///< 0 if left out
-        QTest::addColumn<QByteArray>("notice");
-        const auto row = [](const char *name, OGRFieldType type, const QByteArray &text,
-                            double height, const QByteArray &notice = {}) {
-            QTest::newRow(name) << type << text << height << notice;
-        };
+        // height: 0 if left out
+        const Cases<OGRFieldType, QByteArray, double, QByteArray> row(
+            {"type", "text", "height", "notice"});
         const QByteArray none = "1 of 2 buildings are left out: no height in the field \"height\"";
         const QByteArray low = "1 of 2 buildings are left out: a height of zero or less";
         row("integer", OFTInteger, "12", 12);
@@ -256,14 +249,8 @@ private Q_SLOTS:
     /// height of its corners, 0.5 m above its western side.
     void standsOnTheGround_data()
     {
-        QTest::addColumn<QByteArray>("terrain");
-        QTest::addColumn<QByteArray>("noData");
-        QTest::addColumn<double>("base");
-        QTest::addColumn<QByteArray>("notice");
-        const auto row = [](const char *name, const QByteArray &terrain, double base,
-                            const QByteArray &notice = {}, const QByteArray &noData = {}) {
-            QTest::newRow(name) << terrain << noData << base << notice;
-        };
+        const Cases<QByteArray, double, QByteArray, QByteArray> row(
+            {"terrain", "base", "notice", "noData"});
         const QByteArray zero = "the buildings stand at height 0";
         row("the same system", "dem.tif", 100.5);
         row("its system is not known", "bare.tif", 100.5);

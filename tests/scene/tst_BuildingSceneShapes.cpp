@@ -2,6 +2,7 @@
 #include "plugins/scene/buildings/CityMesh.h"
 #include "plugins/scene/buildings/CityTree.h"
 #include "plugins/scene/buildings/RoofTriangles.h"
+#include "support/Cases.h"
 
 #include <QtTest>
 
@@ -80,14 +81,8 @@ class tst_BuildingSceneShapes : public QObject
 private Q_SLOTS:
     void coversRoofsAndLooksOutwards_data()
     {
-        QTest::addColumn<Rings>("rings");
-        QTest::addColumn<double>("area");
-        QTest::addColumn<int>("walls"); ///< 0: only the roof
-        QTest::addColumn<bool>("isCrossed");
-        const auto row = [](const char *name, const Rings &rings, double area, int walls = 0,
-                            bool crossed = false) {
-            QTest::newRow(name) << rings << area << walls << crossed;
-        };
+        // walls: 0: only the roof
+        const Cases<Rings, double, int, bool> row({"rings", "area", "walls", "isCrossed"});
         const Ring court = square(3, 3, 4);
         row("L: 10 x 10 - 5 x 5", {Ell}, 75, 6);
         row("clockwise L", {turned(Ell)}, 75, 6);
@@ -167,12 +162,12 @@ private Q_SLOTS:
 
     void tilesHoldEachBuildingOnce_data()
     {
-        QTest::addColumn<double>("tileSize");
-        QTest::addColumn<double>("widest"); ///< distance of two buildings in one tile
-        QTest::newRow("250 m") << 250.0 << 250.0;
-        QTest::newRow("as large as can be: quartered where there are many") << 1e300 << 3200.0;
-        QTest::newRow("small ones: doubled until they are few enough") << 1e-3 << 64.0;
-        QTest::newRow("smaller than numbers can be divided by") << 1e-310 << 64.0;
+        // widest: distance of two buildings in one tile
+        const Cases<double, double> row({"tileSize", "widest"});
+        row("250 m", 250, 250);
+        row("as large as can be: quartered where there are many", 1e300, 3200);
+        row("small ones: doubled until they are few enough", 1e-3, 64);
+        row("smaller than numbers can be divided by", 1e-310, 64);
     }
 
     void tilesHoldEachBuildingOnce()

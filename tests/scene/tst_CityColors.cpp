@@ -2,6 +2,7 @@
 #include "LayerScenes.h"
 #include "plugins/scene/buildings/CityColors.h"
 #include "plugins/scene/reading/Stopped.h"
+#include "support/Cases.h"
 
 #include <QTemporaryDir>
 
@@ -80,15 +81,11 @@ private Q_SLOTS:
 
     void colorsBuildings_data()
     {
+        const Cases<QByteArray, QString> row({"colorText", "colors"});
         // a.tif has 0, 25, 50 and -99 from west to east; the buildings are in order from east to
         // west.
-        QTest::addColumn<QByteArray>("colorText");
-        QTest::addColumn<QString>("colors");
-        const auto row = [](const char *name, const QByteArray &text, const char *colors) {
-            QTest::newRow(name) << text << QString::fromLatin1(colors);
-        };
         row("plain", "#1a2B3c", "1a2b3c 1a2b3c 1a2b3c 1a2b3c");
-        row("none", "", "c8c8c8 c8c8c8 c8c8c8 c8c8c8");
+        row("none", {}, "c8c8c8 c8c8c8 c8c8c8 c8c8c8");
         row("absolute, mixed: 25 is half of 100,0,0",
             "IMAGE;a.tif;map.txt;average;absolute;interpolation;-99",
             "010203 640000 320000 000000");
@@ -132,11 +129,7 @@ private Q_SLOTS:
 
     void reportsWhatCannotBeUsed_data()
     {
-        QTest::addColumn<QByteArray>("colorText");
-        QTest::addColumn<QByteArray>("notice");
-        const auto row = [](const QByteArray &text, const char *notice) {
-            QTest::newRow(text.constData()) << text << QByteArray(notice);
-        };
+        const Cases<QByteArray> row({"notice"});
         for (const char *text :
              {"#12345", "#1234567", "#12 456", "red", "IMAGE;a.tif", "IMAGE;;;;;",
               "IMAGE;a.tif;map.txt;mean;absolute;interpolation",
@@ -157,11 +150,10 @@ private Q_SLOTS:
 
     void reportsWhatCannotBeUsed()
     {
-        QFETCH(const QByteArray, colorText);
         QFETCH(const QByteArray, notice);
         Notices notices;
 
-        QCOMPARE(colorsOf(townOf(2), colorText, notices), Grey + u' ' + Grey);
+        QCOMPARE(colorsOf(townOf(2), QTest::currentDataTag(), notices), Grey + u' ' + Grey);
         QCOMPARE(notices.size(), 1U);
         QVERIFY2(notices.front().find(notice.toStdString()) != std::string::npos,
                  notices.front().c_str());

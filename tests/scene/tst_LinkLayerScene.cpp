@@ -2,6 +2,7 @@
 #include "plugins/scene/layers/LayerScene.h"
 #include "plugins/scene/layers/LinkRecords.h"
 #include "plugins/scene/reading/TableLocation.h"
+#include "support/Cases.h"
 
 #include <gdal_priv.h>
 
@@ -99,16 +100,12 @@ private Q_SLOTS:
 
     void putsLinksOntoTheTerrain_data()
     {
-        QTest::addColumn<QByteArray>("system");
-        QTest::addColumn<double>("lengthM");
-        QTest::addColumn<double>("azimuthDeg");
-
-        QTest::newRow("metres") << QByteArray("2154") << 5000.0 << 36.87;
+        const Cases<QByteArray, double, double> row({"system", "lengthM", "azimuthDeg"});
+        row("metres", "2154", 5000, 36.87);
         // Along the geodesic, with the mean of the azimuths at its ends.
-        QTest::newRow("degrees") << QByteArray("4171") << 5000.54 << 36.39;
+        row("degrees", "4171", 5000.54, 36.39);
         // UTM 31 in feet: A is (1476422.2, 17748304.5), B (1486266.3, 17761421.3)
-        QTest::newRow("feet") << QByteArray("+proj=utm +zone=31 +ellps=GRS80 +units=ft") << 4998.68
-                              << 36.89;
+        row("feet", "+proj=utm +zone=31 +ellps=GRS80 +units=ft", 4998.68, 36.89);
     }
 
     void putsLinksOntoTheTerrain()
@@ -203,12 +200,11 @@ private Q_SLOTS:
 
     void saysWhyThereIsNoTerrain_data()
     {
-        QTest::addColumn<QByteArray>("terrain");
-        QTest::addColumn<QByteArray>("said");
-        QTest::newRow("absent") << QByteArray("none.tif") << QByteArray("\"none.tif\"");
-        QTest::newRow("no raster") << QByteArray("t.csv") << QByteArray("\"t.csv\"");
-        QTest::newRow("remote") << QByteArray("/vsicurl/http://h/d.tif") << QByteArray("/vsicurl");
-        QTest::newRow("elsewhere") << QByteArray("far.asc") << QByteArray("3 of 3 pylons");
+        const Cases<QByteArray, QByteArray> row({"terrain", "said"});
+        row("absent", "none.tif", "\"none.tif\"");
+        row("no raster", "t.csv", "\"t.csv\"");
+        row("remote", "/vsicurl/http://h/d.tif", "/vsicurl");
+        row("elsewhere", "far.asc", "3 of 3 pylons");
     }
 
     void saysWhyThereIsNoTerrain()
@@ -260,25 +256,21 @@ private Q_SLOTS:
 
     void refusesByName_data()
     {
-        QTest::addColumn<QByteArray>("what");
-        QTest::addColumn<QByteArray>("with");
-        QTest::addColumn<QByteArray>("named");
         using Bytes = QByteArray;
-        QTest::newRow("query") << Bytes("link:") << Bytes("site:") << Bytes("link:");
-        QTest::newRow("style") << Bytes("=TUBE") << Bytes("=ROPE") << Bytes("link_style");
-        QTest::newRow("no width") << Bytes("link_width=4,") << Bytes() << Bytes("link_width");
-        QTest::newRow("colour") << Bytes("1f6feb80") << Bytes("1f6feb") << Bytes("link_color");
-        QTest::newRow("word") << Bytes(" clearance") << Bytes(" tilt") << Bytes("\"tilt\"");
-        QTest::newRow("zone") << Bytes("zone=1") << Bytes("zone=1.5") << Bytes("fresnel_zone");
-        QTest::newRow("share") << Bytes("share=60") << Bytes("share=nan") << Bytes("fresnel_share");
-        QTest::newRow("zone's colour")
-            << Bytes("ffa50066") << Bytes("red") << Bytes("fresnel_color");
-        QTest::newRow("factor") << Bytes("=1.33333") << Bytes("=0") << Bytes("k_factor");
-        QTest::newRow("pylon") << Bytes("monopole_panel") << Bytes("obelisk") << Bytes("obelisk");
-        QTest::newRow("table") << Bytes("t.csv") << Bytes("u.csv") << Bytes("u.csv");
-        QTest::newRow("no places")
-            << Bytes("t.csv") << Bytes("none.csv") << Bytes("none of 1 links");
-        QTest::newRow("system") << Bytes("t_srs=2154") << Bytes("t_srs=99") << Bytes("99");
+        const Cases<QByteArray, QByteArray, QByteArray> row({"what", "with", "named"});
+        row("query", Bytes("link:"), Bytes("site:"), Bytes("link:"));
+        row("style", Bytes("=TUBE"), Bytes("=ROPE"), Bytes("link_style"));
+        row("no width", Bytes("link_width=4,"), Bytes(), Bytes("link_width"));
+        row("colour", Bytes("1f6feb80"), Bytes("1f6feb"), Bytes("link_color"));
+        row("word", Bytes(" clearance"), Bytes(" tilt"), Bytes("\"tilt\""));
+        row("zone", Bytes("zone=1"), Bytes("zone=1.5"), Bytes("fresnel_zone"));
+        row("share", Bytes("share=60"), Bytes("share=nan"), Bytes("fresnel_share"));
+        row("zone's colour", Bytes("ffa50066"), Bytes("red"), Bytes("fresnel_color"));
+        row("factor", Bytes("=1.33333"), Bytes("=0"), Bytes("k_factor"));
+        row("pylon", Bytes("monopole_panel"), Bytes("obelisk"), Bytes("obelisk"));
+        row("table", Bytes("t.csv"), Bytes("u.csv"), Bytes("u.csv"));
+        row("no places", Bytes("t.csv"), Bytes("none.csv"), Bytes("none of 1 links"));
+        row("system", Bytes("t_srs=2154"), Bytes("t_srs=99"), Bytes("99"));
     }
 
     void refusesByName()

@@ -6,6 +6,7 @@
 #include "plugins/scene/pylon/Antennas.h"
 #include "plugins/scene/pylon/PylonFactory.h"
 #include "plugins/scene/pylon/Sectors.h"
+#include "support/Cases.h"
 
 #include <osg/ComputeBoundsVisitor>
 #include <osg/Geometry>
@@ -208,16 +209,11 @@ private Q_SLOTS:
 
     void drawsTheExactZone_data()
     {
-        QTest::addColumn<QList<double>>("way"); // vector from one antenna to the other
-        QTest::addColumn<double>("frequencyMHz");
-        QTest::addColumn<int>("zone");
-        QTest::addColumn<double>("share");
-        QTest::addColumn<double>("radius"); // in the middle: sqrt(d (2 D + d))/2, d = n lambda/2
-        QTest::addColumn<double>("detour"); // d
-        const auto row = [](const char *what, const QList<double> &way, double frequency, int zone,
-                            double share, double radius, double detour) {
-            QTest::newRow(what) << way << frequency << zone << share << radius << detour;
-        };
+        // way: vector from one antenna to the other
+        // radius: in the middle: sqrt(d (2 D + d))/2, d = n lambda/2
+        // detour: d
+        const Cases<QList<double>, double, int, double, double, double> row(
+            {"way", "frequencyMHz", "zone", "share", "radius", "detour"});
         row("40 km, 6 GHz", {40000, 0, 0}, 6000, 1, 1, 22.3530, 0.0249827);
         row("60 %", {24000, 32000, 0}, 6000, 1, 0.6, 13.4118, 0.0249827);
         row("vertical", {0, 0, -1000}, 200, 1, 1, 19.3618, 0.7494811);
@@ -263,15 +259,9 @@ private Q_SLOTS:
 
     void looksAsItsStyleWants_data()
     {
-        QTest::addColumn<int>("style");
-        QTest::addColumn<double>("width");
-        QTest::addColumn<QList<double>>("eye");
-        QTest::addColumn<bool>("isParallel");
-        QTest::addColumn<int>("pixels"); // width; 0.2607 per metre at 1000 m, for 60 degrees
-        const auto row = [](const char *what, LinkStyle style, double width,
-                            const QList<double> &eye, int pixels, bool isParallel = false) {
-            QTest::newRow(what) << int(style) << width << eye << isParallel << pixels;
-        };
+        // pixels: width; 0.2607 per metre at 1000 m, for 60 degrees
+        const Cases<LinkStyle, double, QList<double>, int, bool> row(
+            {"style", "width", "eye", "pixels", "isParallel"});
         row("line", LinkStyle::Line, 5, {0, -1000, 0}, 5);
         row("line from afar", LinkStyle::Line, 5, {0, -20000, 0}, 5);
         row("tube", LinkStyle::Tube, 100, {0, -1000, 0}, 26);
@@ -284,13 +274,13 @@ private Q_SLOTS:
     }
     void looksAsItsStyleWants()
     {
-        QFETCH(int, style);
+        QFETCH(LinkStyle, style);
         QFETCH(double, width);
         QFETCH(QList<double>, eye);
         QFETCH(bool, isParallel);
         QFETCH(int, pixels);
-        const osg::ref_ptr<osg::Group> scene = buildLinks(
-            {{{-9000, 0, 0}, {9000, 0, 0}, 0, {}}}, lookOf(static_cast<LinkStyle>(style), width));
+        const osg::ref_ptr<osg::Group> scene =
+            buildLinks({{{-9000, 0, 0}, {9000, 0, 0}, 0, {}}}, lookOf(style, width));
 
         const auto image = picture(scene, {eye[0], eye[1], eye[2]}, isParallel);
 
@@ -304,11 +294,7 @@ private Q_SLOTS:
 
     void letsTheZoneShineThrough_data()
     {
-        QTest::addColumn<QList<double>>("eye");
-        QTest::addColumn<int>("red");
-        const auto row = [](const char *what, const QList<double> &eye, int red) {
-            QTest::newRow(what) << eye << red;
-        };
+        const Cases<QList<double>, int> row({"eye", "red"});
         row("two walls: 0.4", {0, -1000, 0}, 102);
         row("from inside, one wall: 1 - sqrt(0.6)", {0, -10, 0}, 57);
         // The walls face the eye by 0.198 and are darker by 1 - 0.75 - 0.25 * 0.198.
@@ -335,20 +321,19 @@ private Q_SLOTS:
 
     void drawsTheLineOverItsZone_data()
     {
-        QTest::addColumn<int>("style");
-        QTest::addColumn<double>("eye"); // from far away a zone is as thin as its line
-        for (const auto &[name, style] : {std::pair("line", LinkStyle::Line),
-                                          {"tube", LinkStyle::Tube},
-                                          {"band", LinkStyle::Billboard}}) {
-            QTest::addRow("%s", name) << int(style) << -200.0;
-            QTest::addRow("%s from afar", name) << int(style) << -20000.0;
-        }
+        const Cases<LinkStyle, double> row({"style", "eye"});
+        row("line", LinkStyle::Line, -200);
+        row("tube", LinkStyle::Tube, -200);
+        row("band", LinkStyle::Billboard, -200);
+        row("line from afar", LinkStyle::Line, -20000); // the zone is as thin as its line
+        row("tube from afar", LinkStyle::Tube, -20000);
+        row("band from afar", LinkStyle::Billboard, -20000);
     }
     void drawsTheLineOverItsZone()
     {
-        QFETCH(int, style);
+        QFETCH(LinkStyle, style);
         QFETCH(double, eye);
-        LinkAppearance look = lookOf(static_cast<LinkStyle>(style), 3);
+        LinkAppearance look = lookOf(style, 3);
         look.fresnelZone = 1;
         look.fresnelColor = Color(255, 0, 0, 200);
 

@@ -4,6 +4,7 @@
 #include "plugins/scene/pylon/Antennas.h"
 #include "plugins/scene/pylon/Masts.h"
 #include "plugins/scene/pylon/Sectors.h"
+#include "support/Cases.h"
 
 #include <algorithm>
 #include <cmath>
@@ -50,28 +51,22 @@ class tst_PylonShapes : public QObject
 private Q_SLOTS:
     void placesAntennas_data()
     {
-        QTest::addColumn<QByteArray>("type");
-        QTest::addColumn<int>("index");
-        QTest::addColumn<double>("x");
-        QTest::addColumn<double>("y");
+        const Cases<QByteArray, int, double, double> row({"type", "index", "x", "y"});
         // platform 0.625 * 2.5, pipe 0.08 outside, antenna 0.28 before it: 1.9225 from the axis
-        const auto row = [](const char *type, int index, double x, double y, const char *how) {
-            QTest::newRow(how) << QByteArray(type) << index << x << y;
-        };
-        row("monopole_panel", 0, 0, 1.9225, "north");
-        row("monopole_panel", 1, 1.664934, -0.96125, "120");
-        row("monopole_panel", 2, -1.664934, -0.96125, "240, tilt -5");
-        row("monopole_panel", 4, 1.235759, -1.472720, "140, tilt +5");
+        row("north", "monopole_panel", 0, 0, 1.9225);
+        row("120", "monopole_panel", 1, 1.664934, -0.96125);
+        row("240, tilt -5", "monopole_panel", 2, -1.664934, -0.96125);
+        row("140, tilt +5", "monopole_panel", 4, 1.235759, -1.472720);
         // tube at the lower arm, 22.28 m: 2.5 * (0.08 - 0.03 * 22.28 / 25) = 0.13316; + 0.16 + 0.28
-        row("monopole_slim", 0, 0, 0.57316, "slim: 0.13316 + 0.44");
+        row("slim: 0.13316 + 0.44", "monopole_slim", 0, 0, 0.57316);
         // pipe on a square of half length 3.75 - 0.45; towards 120 at 3.3 / cos 30
-        row("rooftop_panel", 0, 0, 3.58, "roof, north");
-        row("rooftop_panel", 1, 3.542487, -2.045256, "roof, 120");
+        row("roof, north", "rooftop_panel", 0, 0, 3.58);
+        row("roof, 120", "rooftop_panel", 1, 3.542487, -2.045256);
         // face of the triangle at the lower arm: 2.5 * (1 - 0.6 * 22.28 / 25) = 1.1632, inradius
         // 0.335787; + 0.45 + 0.28
-        row("lattice_cylinder", 0, 0, 1.065787, "lattice: 0.335787 + 0.73");
+        row("lattice: 0.335787 + 0.73", "lattice_cylinder", 0, 0, 1.065787);
         // gallery 3.75 + 0.35, + 0.08 + 0.28
-        row("watertower_panel", 0, 0, 4.46, "water tower, gallery");
+        row("water tower, gallery", "watertower_panel", 0, 0, 4.46);
     }
     void placesAntennas()
     {
@@ -95,10 +90,10 @@ private Q_SLOTS:
 
     void tiltsDownwardsWhenPositive_data()
     {
-        QTest::addColumn<double>("tilt");
-        QTest::addColumn<double>("lean"); // shift of a point 1 m above the centre: sin of the tilt
-        QTest::newRow("+5") << 5.0 << 0.0872;
-        QTest::newRow("-5") << -5.0 << -0.0872;
+        // lean: shift of a point 1 m above the centre: sin of the tilt
+        const Cases<double, double> row({"tilt", "lean"});
+        row("+5", 5, 0.0872);
+        row("-5", -5, -0.0872);
     }
     void tiltsDownwardsWhenPositive()
     {
@@ -138,11 +133,11 @@ private Q_SLOTS:
 
     void drawsWedges_data()
     {
-        QTest::addColumn<double>("azimuth");
-        QTest::addColumn<QList<double>>("corners"); // x, y of the arc's ends: 32.5 degrees aside
-        QTest::newRow("north") << 0.0 << QList<double>{-107.4600, 168.6783, 107.4600, 168.6783};
-        QTest::newRow("120") << 120.0 << QList<double>{199.8096, 8.7239, 92.3497, -177.4022};
-        QTest::newRow("240") << 240.0 << QList<double>{-92.3497, -177.4022, -199.8096, 8.7239};
+        // corners: x, y of the arc's ends: 32.5 degrees aside
+        const Cases<double, QList<double>> row({"azimuth", "corners"});
+        row("north", 0, {-107.4600, 168.6783, 107.4600, 168.6783});
+        row("120", 120, {199.8096, 8.7239, 92.3497, -177.4022});
+        row("240", 240, {-92.3497, -177.4022, -199.8096, 8.7239});
     }
     void drawsWedges()
     {
@@ -168,12 +163,9 @@ private Q_SLOTS:
 
     void stacksSectorsThatWouldCollide_data()
     {
-        QTest::addColumn<QList<double>>("transmitters"); // height, azimuth, beam width
-        QTest::addColumn<QList<double>>("bottoms"); // sectors 20 m high, 2 m apart, in rising order
-        const auto row = [](const char *what, const QList<double> &transmitters,
-                            const QList<double> &bottoms) {
-            QTest::newRow(what) << transmitters << bottoms;
-        };
+        // transmitters: height, azimuth, beam width
+        // bottoms: sectors 20 m high, 2 m apart, in rising order
+        const Cases<QList<double>, QList<double>> row({"transmitters", "bottoms"});
         row("demonstration", {23, 0, 0, 23, 120, 0, 23, 240, 0, 20, 20, 0, 20, 140, 0, 20, 260, 0},
             {10, 10, 10, 32, 32, 32});
         row("one direction three times", {20, 50, 0, 20, 50, 0, 20, 50, 0}, {10, 32, 54});
@@ -189,7 +181,6 @@ private Q_SLOTS:
     void stacksSectorsThatWouldCollide()
     {
         QFETCH(QList<double>, transmitters);
-        QFETCH(QList<double>, bottoms);
         PylonDesign design = demonstration("wood_panel");
         design.transmitters.clear();
         for (qsizetype i = 0; i < transmitters.size(); i += 3)
@@ -200,16 +191,13 @@ private Q_SLOTS:
         for (const Sector &sector : stackSectors(design))
             found << sector.bottomM;
 
-        QCOMPARE(found, bottoms);
+        QTEST(found, "bottoms");
     }
 
     void buildsEachMastToMeasure_data()
     {
-        QTest::addColumn<QByteArray>("type");
-        QTest::addColumn<double>("reach"); // maximum distance of a vertex from the axis
-        const auto row = [](const char *type, double reach) {
-            QTest::newRow(type) << QByteArray(type) << reach;
-        };
+        // reach: maximum distance of a vertex from the axis
+        const Cases<double> row({"reach"});
         row("monopole_panel", 1.5625); // platform: 5/8 of the width
         row("monopole_cylinder", 1.5625);
         row("monopole_slim", 0.44);     // foundation: 2.2 * 0.08 * 2.5
@@ -223,9 +211,8 @@ private Q_SLOTS:
     }
     void buildsEachMastToMeasure()
     {
-        QFETCH(QByteArray, type);
         QFETCH(double, reach);
-        const PylonDesign design = demonstration(type.constData());
+        const PylonDesign design = demonstration(QTest::currentDataTag());
         Meshes meshes;
 
         addMast(meshes, mastDesign(design));

@@ -1,6 +1,7 @@
 #include "PylonTesting.h"
 
 #include "plugins/scene/pylon/PylonFactory.h"
+#include "support/Cases.h"
 
 #include <osg/ComputeBoundsVisitor>
 #include <osg/Geometry>
@@ -212,15 +213,14 @@ private Q_SLOTS:
 
     void survivesOptimisers_data()
     {
-        QTest::addColumn<int>("opacity");
-        QTest::addColumn<int>("translucent"); // drawables of translucent parts, which are sorted
-        QTest::newRow("translucent") << 128 << 6;
-        QTest::newRow("opaque") << 255 << 0;
+        // translucent: drawables of translucent parts, which are sorted
+        const Cases<int, int> row({"opacity", "translucent"});
+        row("translucent", 128, 6);
+        row("opaque", 255, 0);
     }
     void survivesOptimisers()
     {
         QFETCH(int, opacity);
-        QFETCH(int, translucent);
         PylonDesign design = demonstration("wood_panel");
         for (Transmitter &transmitter : design.transmitters)
             transmitter.color.a() = static_cast<unsigned char>(opacity);
@@ -242,7 +242,7 @@ private Q_SLOTS:
         } found;
         found.setTraversalMode(osg::NodeVisitor::TRAVERSE_ALL_CHILDREN);
         node->accept(found);
-        QCOMPARE(found.sorted, translucent);
+        QTEST(found.sorted, "translucent");
         QVERIFY(found.farthest < 201); // large coordinates stay in the transform
     }
 

@@ -1,5 +1,6 @@
 #include "LayerScenes.h"
 #include "plugins/scene/reading/LayerFile.h"
+#include "support/Cases.h"
 
 #include <osg/Geometry>
 #include <osgDB/WriteFile>
@@ -43,38 +44,38 @@ class tst_SiteLayerScene : public QObject
 private Q_SLOTS:
     void placesSitesAroundTheirMiddle_data()
     {
-        QTest::addColumn<QByteArray>("rows");
-        QTest::addColumn<QByteArray>("srs");
-        QTest::addColumn<double>("east");
-        QTest::addColumn<double>("north");
-        QTest::addColumn<double>("tolerance");
-
+        const Cases<QByteArray, QByteArray, double, double, double> row(
+            {"rows", "srs", "east", "north", "tolerance"});
         // The origin is the middle of A and B; east and north give the vector from A to C.
-        QTest::newRow("metres") << QByteArray("A,650000,6860000,100,30,0,,\nB,651000,6862000,0,30,"
-                                              "0,,\nC,650300,6860400,120,30,0,,\n")
-                                << QByteArray("2154") << 300.0 << 400.0 << 0.001;
+        row("metres",
+            "A,650000,6860000,100,30,0,,\nB,651000,6862000,0,30,"
+            "0,,\nC,650300,6860400,120,30,0,,\n",
+            "2154", 300, 400, 0.001);
         // US survey feet: 1200/3937 m
-        QTest::newRow("feet") << QByteArray("A,6000000,2000000,100,30,0,,\nB,6010000,2010000,0,30,"
-                                            "0,,\nC,6003937,2003937,120,30,0,,\n")
-                              << QByteArray("2227") << 1200.0 << 1200.0 << 0.001;
+        row("feet",
+            "A,6000000,2000000,100,30,0,,\nB,6010000,2010000,0,30,"
+            "0,,\nC,6003937,2003937,120,30,0,,\n",
+            "2227", 1200, 1200, 0.001);
         // WGS 84 at 60 degrees: 0.01 degree of longitude is 558.00 m, of latitude 1114.12 m
         // (radii of curvature N = 6394209.17 m, M = 6383453.86 m)
-        QTest::newRow("degrees") << QByteArray("A,10,60,100,30,0,,\nB,10.02,60.02,0,30,0,,\n"
-                                               "C,10.01,60.01,120,30,0,,\n")
-                                 << QByteArray("4326") << 558.00 << 1114.12 << 0.25;
+        row("degrees",
+            "A,10,60,100,30,0,,\nB,10.02,60.02,0,30,0,,\n"
+            "C,10.01,60.01,120,30,0,,\n",
+            "4326", 558.00, 1114.12, 0.25);
         // 0.01 grad on the ellipsoid of NTF: N = 6394584.6 m, M = 6383653.0 m
-        QTest::newRow("grads") << QByteArray("A,2,66.66666667,100,30,0,,\n"
-                                             "B,2.02,66.68666667,0,30,0,,\n"
-                                             "C,2.01,66.67666667,120,30,0,,\n")
-                               << QByteArray("4807") << 502.23 << 1002.74 << 0.25;
-        QTest::newRow("counted to the west and south")
-            << QByteArray("A,10000,2900000,100,30,0,,\nB,11000,2902000,0,30,0,,\n"
-                          "C,10300,2900400,120,30,0,,\n")
-            << QByteArray("2053") << -300.0 << -400.0 << 0.001;
-        QTest::newRow("both sides of the date line")
-            << QByteArray("A,179.99,60,100,30,0,,\nB,-179.99,60.02,0,30,0,,\n"
-                          "C,180,60.01,120,30,0,,\n")
-            << QByteArray("4326") << 558.00 << 1114.12 << 0.25;
+        row("grads",
+            "A,2,66.66666667,100,30,0,,\n"
+            "B,2.02,66.68666667,0,30,0,,\n"
+            "C,2.01,66.67666667,120,30,0,,\n",
+            "4807", 502.23, 1002.74, 0.25);
+        row("counted to the west and south",
+            "A,10000,2900000,100,30,0,,\nB,11000,2902000,0,30,0,,\n"
+            "C,10300,2900400,120,30,0,,\n",
+            "2053", -300, -400, 0.001);
+        row("both sides of the date line",
+            "A,179.99,60,100,30,0,,\nB,-179.99,60.02,0,30,0,,\n"
+            "C,180,60.01,120,30,0,,\n",
+            "4326", 558.00, 1114.12, 0.25);
     }
 
     void placesSitesAroundTheirMiddle()
@@ -228,30 +229,26 @@ private Q_SLOTS:
 
     void refusesByName_data()
     {
-        QTest::addColumn<QByteArray>("layer");
-        QTest::addColumn<QByteArray>("named");
-
+        const Cases<QByteArray, QByteArray> row({"layer", "named"});
         const QByteArray good = layerText(siteSource("t.csv"));
         const auto changed = [&good](const char *what, const char *with) {
             return QByteArray(good).replace(what, with);
         };
-        QTest::newRow("empty") << QByteArray() << QByteArray("veltaroLayer");
-        QTest::newRow("kind") << changed("=\"sites\"", "=\"towers\"") << QByteArray("\"towers\"");
-        QTest::newRow("kind of query")
-            << changed("=\"sites\"", "=\"links\"") << QByteArray("link:");
-        QTest::newRow("no kind") << changed("kind=\"sites\"", "") << QByteArray("kind");
-        QTest::newRow("no source") << changed("source", "sauce") << QByteArray("source");
-        QTest::newRow("no end") << good.left(good.indexOf("]]></source")) << QByteArray("source");
-        QTest::newRow("other driver") << changed("site:", "CSV:") << QByteArray("site:");
-        QTest::newRow("no table") << changed("t.csv]", "u.csv]") << QByteArray("u.csv");
-        QTest::newRow("remote") << changed("t.csv]", "/vsicurl/http://h/t.csv]")
-                                << QByteArray("/vsicurl");
-        QTest::newRow("no width") << changed("pylon_width=2.5,", "") << QByteArray("pylon_width");
-        QTest::newRow("endless radius") << changed("200 20 2", "inf 20 2") << QByteArray("radius");
-        QTest::newRow("type") << changed("monopole_panel", "obelisk") << QByteArray("obelisk");
-        QTest::newRow("colour") << changed("00ff00ff", "00ff00") << QByteArray("\"00ff00\"");
-        QTest::newRow("system") << changed("t_srs=2154", "t_srs=99") << QByteArray("99");
-        QTest::newRow("no places") << changed("t.csv]", "none.csv]") << QByteArray("none.csv");
+        row("empty", {}, "veltaroLayer");
+        row("kind", changed("=\"sites\"", "=\"towers\""), "\"towers\"");
+        row("kind of query", changed("=\"sites\"", "=\"links\""), "link:");
+        row("no kind", changed("kind=\"sites\"", ""), "kind");
+        row("no source", changed("source", "sauce"), "source");
+        row("no end", good.left(good.indexOf("]]></source")), "source");
+        row("other driver", changed("site:", "CSV:"), "site:");
+        row("no table", changed("t.csv]", "u.csv]"), "u.csv");
+        row("remote", changed("t.csv]", "/vsicurl/http://h/t.csv]"), "/vsicurl");
+        row("no width", changed("pylon_width=2.5,", ""), "pylon_width");
+        row("endless radius", changed("200 20 2", "inf 20 2"), "radius");
+        row("type", changed("monopole_panel", "obelisk"), "obelisk");
+        row("colour", changed("00ff00ff", "00ff00"), "\"00ff00\"");
+        row("system", changed("t_srs=2154", "t_srs=99"), "99");
+        row("no places", changed("t.csv]", "none.csv]"), "none.csv");
     }
 
     void refusesByName()
@@ -270,18 +267,15 @@ private Q_SLOTS:
 
     void readsEveryEncoding_data()
     {
-        QTest::addColumn<QByteArray>("bytes");
-
+        const Cases<QByteArray> row({"bytes"});
         const QString layer = QStringLiteral("<veltaroLayer kind='sites'><source>site:donn%1es/"
                                              "&#128225;.csv</source></veltaroLayer>");
         const QString declared = QStringLiteral("<?xml version='1.0' encoding='%1'?>");
         const QString wanted = layer.arg(QChar(0xe9));
-        QTest::newRow("references") << layer.arg(QStringLiteral("&#xE9;")).toUtf8();
-        QTest::newRow("mark") << "\xEF\xBB\xBF" + wanted.toUtf8();
-        QTest::newRow("declared")
-            << (declared.arg(QStringLiteral("iso-8859-1")) + wanted).toLatin1();
-        QTest::newRow("declared, and not so")
-            << (declared.arg(QStringLiteral("iso-8859-1")) + wanted).toUtf8();
+        row("references", layer.arg(QStringLiteral("&#xE9;")).toUtf8());
+        row("mark", "\xEF\xBB\xBF" + wanted.toUtf8());
+        row("declared", (declared.arg(QStringLiteral("iso-8859-1")) + wanted).toLatin1());
+        row("declared, and not so", (declared.arg(QStringLiteral("iso-8859-1")) + wanted).toUtf8());
         const QString wide = declared.arg(QStringLiteral("UTF-16")) + wanted;
         QByteArray little;
         QByteArray big;
@@ -289,8 +283,8 @@ private Q_SLOTS:
             little.append(char(unit.unicode() & 0xFF)).append(char(unit.unicode() >> 8));
             big.append(char(unit.unicode() >> 8)).append(char(unit.unicode() & 0xFF));
         }
-        QTest::newRow("UTF-16, no mark") << little;
-        QTest::newRow("UTF-16, mark") << "\xFE\xFF" + big;
+        row("UTF-16, no mark", little);
+        row("UTF-16, mark", "\xFE\xFF" + big);
     }
 
     void readsEveryEncoding()

@@ -1,6 +1,7 @@
 #include "buildings/DocumentWriter.h"
 #include "plugins/scene/buildings/TexbDocument.h"
 #include "plugins/scene/reading/BadLayer.h"
+#include "support/Cases.h"
 #include "support/ProcessorTime.h"
 
 #include <QtTest>
@@ -33,11 +34,7 @@ class tst_TexbDocument : public QObject
 private Q_SLOTS:
     void takesValuesAsTheyStand_data()
     {
-        QTest::addColumn<QByteArray>("written");
-        QTest::addColumn<QByteArray>("layer");
-        const auto row = [](const char *name, const QByteArray &written, const QByteArray &layer) {
-            QTest::newRow(name) << written << layer;
-        };
+        const Cases<QByteArray, QByteArray> row({"written", "layer"});
         row("plain", "layer=\"a b\"", "a b");
         row("ampersand", "layer=\"A & B\"", "A & B");
         row("escaped", "layer=\"A &amp; &quot;B&quot; &lt;C&gt;\"", "A & \"B\" <C>");
@@ -78,13 +75,12 @@ private Q_SLOTS:
 
     void readsWhatIsWritten_data()
     {
-        QTest::addColumn<BuildingDocument>("document");
-
+        const Cases<BuildingDocument> row({"document"});
         BuildingDocument document;
         document.footprints = {"/a&b/\"c\".shp", "%2 %1", "<h>%9", 0.5, 123456, 800.5,
                                "#C0C0C0",        "cmap:", 0.25,    true};
         document.terrain = {"/d/dem.tif", "-32768"};
-        QTest::newRow("without images") << document;
+        row("without images", document);
         document.textures = BuildingTextures{TextureMode::Storeys,
                                              "#0000FF",
                                              true,
@@ -94,9 +90,9 @@ private Q_SLOTS:
                                              3,
                                              MagFilter::Linear,
                                              {{"HDF5:\"/t/a.h5\"://b", 1.5}, {"cellar.png", -2}}};
-        QTest::newRow("with images") << document;
+        row("with images", document);
         document.cache = {CacheMode::All, true, 9};
-        QTest::newRow("with a cache") << document;
+        row("with a cache", document);
     }
 
     void readsWhatIsWritten()
@@ -124,11 +120,7 @@ private Q_SLOTS:
 
     void refusesOthers_data()
     {
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<QByteArray>("named");
-        const auto row = [](const char *name, const QByteArray &text, const QByteArray &named) {
-            QTest::newRow(name) << text << named;
-        };
+        const Cases<QByteArray, QByteArray> row({"text", "named"});
         const QByteArray good = document({});
         row("nothing", {}, "not a building document");
         row("another root", "<veltaroLayer/>", "not a building");

@@ -1,5 +1,6 @@
 #include "CityTesting.h"
 #include "plugins/scene/buildings/TexturedTile.h"
+#include "support/Cases.h"
 
 #include <osg/Geode>
 #include <osg/Geometry>
@@ -159,19 +160,10 @@ private Q_SLOTS:
 
     void showsImages_data()
     {
-        QTest::addColumn<TextureMode>("mode");
-        QTest::addColumn<Rings>("rings");
-        QTest::addColumn<float>("heightM");
-        QTest::addColumn<unsigned>("corners");
-        QTest::addColumn<Shown>("shown");
-        QTest::addColumn<std::set<double>>("plain"); ///< heights of faces in the city's colours
-        QTest::addColumn<unsigned>("edges");
-        const auto row = [](const char *name, TextureMode mode, const Rings &rings, float height,
-                            unsigned corners, const Shown &shown, const std::set<double> &plain,
-                            unsigned edges = 0) {
-            QTest::newRow(name) << mode << rings << height << corners << shown << plain << edges;
-        };
         using enum TextureMode;
+        // plain: heights of faces in the city's colours
+        const Cases<TextureMode, Rings, float, unsigned, Shown, std::set<double>, unsigned> row(
+            {"mode", "rings", "heightM", "corners", "shown", "plain", "edges"});
         row("a roof below all", Roofs, {Square}, 1.5, 6, {{3, {1.5}}}, {-SkirtM, 1.5});
         row("half-way: the lower one", Roofs, {Square}, 6, 6, {{3, {6}}}, {-SkirtM, 6});
         row("beyond half-way", Roofs, {Square}, 6.5, 6, {{9, {6.5}}}, {-SkirtM, 6.5});
@@ -196,7 +188,6 @@ private Q_SLOTS:
         QFETCH(const float, heightM);
         QFETCH(const unsigned, corners);
         QFETCH(const Shown, shown);
-        QFETCH(const std::set<double>, plain);
         QFETCH(const unsigned, edges);
         const CityModel city = townOf(rings, heightM);
         BuildingTextures look = lookOf(mode, {21, 3, 9});
@@ -224,7 +215,7 @@ private Q_SLOTS:
                 QCOMPARE(corner.normal, osg::Vec3(0, 0, 1));
         }
         QCOMPARE(found, shown);
-        QCOMPARE(tile.plainLevels, plain);
+        QTEST(tile.plainLevels, "plain");
         QCOMPARE(tile.edges, edges);
         look.forceEdgeCreation = true;
         if (mode == TextureMode::Roofs)
@@ -234,10 +225,9 @@ private Q_SLOTS:
     void readsAllKindsOfPixels_data()
     {
         using Finish = std::function<void(GDALDataset &)>;
-        QTest::addColumn<int>("bands");
-        QTest::addColumn<GDALDataType>("type");
-        QTest::addColumn<Finish>("finish");
-        QTest::addColumn<QList<int>>("expected"); ///< colour of a pixel whose band b has 50 * b
+        // expected: colour of a pixel whose band b has 50 * b
+        const Cases<int, GDALDataType, Finish, QList<int>> row(
+            {"bands", "type", "finish", "expected"});
         const Finish noData = [](GDALDataset &image) {
             for (int i = 1; i <= image.GetRasterCount(); ++i)
                 image.GetRasterBand(i)->SetNoDataValue(50);
@@ -250,10 +240,6 @@ private Q_SLOTS:
         };
         const Finish opacity = [](GDALDataset &image) {
             image.GetRasterBand(image.GetRasterCount())->SetColorInterpretation(GCI_AlphaBand);
-        };
-        const auto row = [](const char *name, int bands, GDALDataType type, const Finish &finish,
-                            const QList<int> &expected) {
-            QTest::newRow(name) << bands << type << finish << expected;
         };
         row("grey", 1, GDT_Byte, {}, {50, 50, 50, 255});
         row("grey without data", 1, GDT_Byte, noData, {0});
