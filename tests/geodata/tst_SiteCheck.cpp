@@ -1,4 +1,5 @@
 #include "geodata/LayerProblems.h"
+#include "support/Cases.h"
 #include "support/Files.h"
 
 #include <QtTest>
@@ -46,9 +47,9 @@ private Q_SLOTS:
 
     void stopsWhenAsked_data()
     {
-        QTest::addColumn<int>("question");
-        QTest::newRow("before the first row") << 1;
-        QTest::newRow("on the way") << 2;
+        const Cases<int> row({"question"});
+        row("before the first row", 1);
+        row("on the way", 2);
     }
     void stopsWhenAsked()
     {

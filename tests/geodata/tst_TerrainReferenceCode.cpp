@@ -2,6 +2,7 @@
 #include "geodata/DatasetReferenceCode.h"
 #include "geodata/LayerProblems.h"
 #include "geodata/TerrainReferenceCode.h"
+#include "support/Cases.h"
 #include "support/Files.h"
 
 #include <QTcpServer>
@@ -40,16 +41,11 @@ private Q_SLOTS:
 
     void identifiesTheSystemOfARaster_data()
     {
-        QTest::addColumn<QByteArray>("system");
-        QTest::addColumn<QString>("code");
-
-        QTest::newRow("UTM 31 north")
-            << projected("WGS_1984_UTM_Zone_31N", "Transverse_Mercator", 3)
-            << QStringLiteral("32631");
-        QTest::newRow("WGS 84") << Geographic << QStringLiteral("4326");
-        QTest::newRow("a projection of nobody's")
-            << projected("Local", "Transverse_Mercator", 3.21) << QString();
-        QTest::newRow("no system") << QByteArray() << QString();
+        const Cases<QByteArray, QString> row({"system", "code"});
+        row("UTM 31 north", projected("WGS_1984_UTM_Zone_31N", "Transverse_Mercator", 3), "32631");
+        row("WGS 84", Geographic, "4326");
+        row("a projection of nobody's", projected("Local", "Transverse_Mercator", 3.21), {});
+        row("no system", {}, {});
     }
 
     void identifiesTheSystemOfARaster()

@@ -1,4 +1,5 @@
 #include "links/LinkColumnSet.h"
+#include "support/Cases.h"
 
 #include <QTest>
 
@@ -48,12 +49,7 @@ class tst_LinkColumns : public QObject
 private Q_SLOTS:
     void recognisesAFieldByItsWholeName_data()
     {
-        QTest::addColumn<QString>("field");
-        QTest::addColumn<QString>("members");
-
-        const auto row = [](const char *field, const char *members) {
-            QTest::addRow("%s", field) << QString::fromUtf8(field) << QString::fromUtf8(members);
-        };
+        const Cases<QString> row({"members"});
         row("NAME", "name");
         row("Link Name", "");
         row("frequency band", "band");
@@ -102,7 +98,7 @@ private Q_SLOTS:
 
     void recognisesAFieldByItsWholeName()
     {
-        QFETCH(QString, field);
+        const QString field = QString::fromUtf8(QTest::currentDataTag());
 
         QTEST(filledMembers(recogniseLinkColumns(QStringList{field})), "members");
     }
@@ -121,18 +117,15 @@ private Q_SLOTS:
 
     void findsTheFirstAndLongestUnit_data()
     {
-        QTest::addColumn<QString>("field");
-        QTest::addColumn<QString>("frequency");
-        QTest::addColumn<QString>("length");
-
-        QTest::newRow("MHz, not the Hz in it") << u"Frequency Band (MHz)"_s << u"MHz"_s << u""_s;
-        QTest::newRow("letters of another case") << u"Frequency Band (kHz)"_s << u"Hz"_s << u""_s;
-        QTest::newRow("no unit at all") << u"FREQUENCY BAND (GHZ)"_s << u""_s << u""_s;
-        QTest::newRow("miles, not m") << u"Path Length (miles)"_s << u""_s << u"miles"_s;
-        QTest::newRow("km") << u"Length (km)"_s << u""_s << u"km"_s;
-        QTest::newRow("m at the start of a word") << u"Length (metres)"_s << u""_s << u"m"_s;
-        QTest::newRow("feet") << u"Length (feet)"_s << u""_s << u"feet"_s;
-        QTest::newRow("no such column") << u"Frequency (MHz)"_s << u""_s << u""_s;
+        const Cases<QString, QString, QString> row({"field", "frequency", "length"});
+        row("MHz, not the Hz in it", "Frequency Band (MHz)", "MHz", {});
+        row("letters of another case", "Frequency Band (kHz)", "Hz", {});
+        row("no unit at all", "FREQUENCY BAND (GHZ)", {}, {});
+        row("miles, not m", "Path Length (miles)", {}, "miles");
+        row("km", "Length (km)", {}, "km");
+        row("m at the start of a word", "Length (metres)", {}, "m");
+        row("feet", "Length (feet)", {}, "feet");
+        row("no such column", "Frequency (MHz)", {}, {});
     }
 
     void findsTheFirstAndLongestUnit()

@@ -1,5 +1,6 @@
 #include "links/LinkInfoPage.h"
 #include "links/LinkLayer.h"
+#include "support/Cases.h"
 #include "support/Files.h"
 
 #include <QRegularExpression>
@@ -36,12 +37,11 @@ class tst_LinkLayerFile : public QObject
 private Q_SLOTS:
     void namesTheEndsColumnByFormat_data()
     {
-        QTest::addColumn<QString>("format");
-        QTest::addColumn<QString>("column");
-        QTest::newRow("asset") << u"ASSET 3"_s << u"Site name"_s;
-        QTest::newRow("atoll") << u"Atoll"_s << u"NAME"_s;
-        QTest::newRow("not of sites only") << u"mentum"_s << u"Site ID"_s;
-        QTest::newRow("generic") << u"generic (numbered ends)"_s << u"Site ID"_s;
+        const Cases<QString, QString> row({"format", "column"});
+        row("asset", "ASSET 3", "Site name");
+        row("atoll", "Atoll", "NAME");
+        row("not of sites only", "mentum", "Site ID");
+        row("generic", "generic (numbered ends)", "Site ID");
     }
 
     void namesTheEndsColumnByFormat()
@@ -62,13 +62,10 @@ private Q_SLOTS:
 
     void writesTheLookOfLinksIntoTheQuery_data()
     {
-        QTest::addColumn<LinkRepresentation>("look");
-        QTest::addColumn<QString>("expected");
-
-        QTest::newRow("first run")
-            << LinkRepresentation()
-            << u"link_style=LINE,link_width=2,link_color=e0218aff,fresnel_zone=1,"
-               "fresnel_share=60,fresnel_color=ffa50066,k_factor=1.33333"_s;
+        const Cases<LinkRepresentation, QString> row({"look", "expected"});
+        row("first run", LinkRepresentation(),
+            "link_style=LINE,link_width=2,link_color=e0218aff,fresnel_zone=1,"
+            "fresnel_share=60,fresnel_color=ffa50066,k_factor=1.33333");
         LinkRepresentation look;
         look.style = LinkStyle::Line;
         look.width = 0.1234567;
@@ -79,17 +76,15 @@ private Q_SLOTS:
         look.fresnelSharePercent = 100;
         look.fresnelTransparencyPercent = 100;
         look.kFactor = 1;
-        QTest::newRow("everything else, no ellipsoid")
-            << look
-            << u"link_style=LINE,link_width=0.123457,link_color=01020380 clearance,fresnel_zone=0,"
-               "fresnel_share=100,fresnel_color=ffa50000,k_factor=1"_s;
+        row("everything else, no ellipsoid", look,
+            "link_style=LINE,link_width=0.123457,link_color=01020380 clearance,fresnel_zone=0,"
+            "fresnel_share=100,fresnel_color=ffa50000,k_factor=1");
         look.style = LinkStyle::Billboard;
         look.showFresnel = true;
         look.colorByClearance = false;
-        QTest::newRow("third zone")
-            << look
-            << u"link_style=BILLBOARD,link_width=0.123457,link_color=01020380,fresnel_zone=3,"
-               "fresnel_share=100,fresnel_color=ffa50000,k_factor=1"_s;
+        row("third zone", look,
+            "link_style=BILLBOARD,link_width=0.123457,link_color=01020380,fresnel_zone=3,"
+            "fresnel_share=100,fresnel_color=ffa50000,k_factor=1");
     }
 
     void writesTheLookOfLinksIntoTheQuery()
@@ -136,6 +131,7 @@ private Q_SLOTS:
 
     void fillsThePageAndLeavesOutRowsWithoutColumns_data()
     {
+        const Cases<LinkColumnSet, QString, QString> row({"columns", "language", "expected"});
         LinkColumnSet columns;
         columns.band = u"Frequency Band (GHz)"_s;
         columns.frequencyUnit = u"GHz"_s;
@@ -145,15 +141,12 @@ private Q_SLOTS:
         columns.rx.height = u"Height B"_s;
         LinkColumnSet named;
         named.name = u"Name"_s;
-        QTest::addColumn<LinkColumnSet>("columns");
-        QTest::addColumn<QString>("language");
-        QTest::addColumn<QString>("expected");
 
-        QTest::newRow("fr") << columns << u"fr"_s
-                            << u"[TX] \u2013 [RX]|<td><small>Bande de fr\u00e9quences</small> "
-                               "[Frequency Band (GHz)] GHz</td>|<td><small>Longueur</small> "
-                               "[Length]</td>|<tr><td>Site</td><td>[TX]</td><td>[RX]</td></tr>|"
-                               "<tr><td>Hauteur</td><td></td><td>[Height B]</td></tr>|||"_s;
+        row("fr", columns, "fr",
+            "[TX] \u2013 [RX]|<td><small>Bande de fr\u00e9quences</small> "
+            "[Frequency Band (GHz)] GHz</td>|<td><small>Longueur</small> "
+            "[Length]</td>|<tr><td>Site</td><td>[TX]</td><td>[RX]</td></tr>|"
+            "<tr><td>Hauteur</td><td></td><td>[Height B]</td></tr>|||");
         LinkColumnSet units;
         units.tx.height = u"Antenna height (m) 1"_s;
         units.rx.height = u"Antenna height (m) 2"_s;
@@ -161,13 +154,12 @@ private Q_SLOTS:
         units.tx.dx = u"DX (1) (m)"_s;
         units.rx.dx = u"RX DX (feet)"_s;
         units.rx.dy = u"RX DY (feet)"_s;
-        QTest::newRow("units that both ends have")
-            << units << u"en"_s
-            << u"||||<tr><td>Height (m)</td><td>[Antenna height (m) 1]</td><td>[Antenna height (m) "
-               "2]</td></tr>|<tr><td>Azimuth</td><td>[Azimuth (A)]</td><td></td></tr>|"
-               "<tr><td>DX</td><td>[DX (1) (m)]</td><td>[RX DX (feet)]</td></tr>|"
-               "<tr><td>DY (feet)</td><td></td><td>[RX DY (feet)]</td></tr>"_s;
-        QTest::newRow("another language, a name only") << named << u"de"_s << u"[Name]|||||||"_s;
+        row("units that both ends have", units, "en",
+            "||||<tr><td>Height (m)</td><td>[Antenna height (m) 1]</td><td>[Antenna height (m) "
+            "2]</td></tr>|<tr><td>Azimuth</td><td>[Azimuth (A)]</td><td></td></tr>|"
+            "<tr><td>DX</td><td>[DX (1) (m)]</td><td>[RX DX (feet)]</td></tr>|"
+            "<tr><td>DY (feet)</td><td></td><td>[RX DY (feet)]</td></tr>");
+        row("another language, a name only", named, "de", "[Name]|||||||");
     }
 
     void fillsThePageAndLeavesOutRowsWithoutColumns()

@@ -1,5 +1,6 @@
 #include "links/ui/VltLinkProperties.h"
 #include "platform/Settings.h"
+#include "support/Cases.h"
 #include "wizard/base/ColorButton.h"
 
 #include <QCheckBox>
@@ -25,24 +26,18 @@ private Q_SLOTS:
 
     void remembersEveryValueUnderItsKey_data()
     {
-        QTest::addColumn<QVariant>("stored");
-        QTest::addColumn<QString>("query"); // the part of the query of links with the value
-        QTest::addColumn<QVariant>("damaged");
-
-        const auto row = [](const char *key, const QVariant &stored, const QString &query,
-                            const QVariant &damaged) {
-            QTest::newRow(key) << stored << query << damaged;
-        };
-        row("LinkStyle", u"BILLBOARD"_s, u"link_style=BILLBOARD,"_s, u"ROPE"_s);
-        row("LinkWidth", 0.5, u"link_width=0.5,"_s, u"nan"_s);
-        row("LinkColor", u"#80102030"_s, u"link_color=10203080,"_s, u"#12345"_s);
-        row("ColorByClearance", true, u"e0218aff clearance,"_s, u"maybe"_s);
-        row("ShowFresnel", false, u"fresnel_zone=0,"_s, 7);
-        row("FresnelZone", 10, u"fresnel_zone=10,"_s, 0);
-        row("FresnelShare", 100, u"fresnel_share=100,"_s, 101);
-        row("FresnelColor", u"#ff00ff01"_s, u"fresnel_color=00ff01"_s, QByteArray("\0", 1));
-        row("FresnelTransparency", 0, u"fresnel_color=ffa500ff,"_s, -1);
-        row("KFactor", 0.66667, u"k_factor=0.66667"_s, 0);
+        // query: the part of the query of links with the value
+        const Cases<QVariant, QString, QVariant> row({"stored", "query", "damaged"});
+        row("LinkStyle", u"BILLBOARD"_s, "link_style=BILLBOARD,", u"ROPE"_s);
+        row("LinkWidth", 0.5, "link_width=0.5,", u"nan"_s);
+        row("LinkColor", u"#80102030"_s, "link_color=10203080,", u"#12345"_s);
+        row("ColorByClearance", true, "e0218aff clearance,", u"maybe"_s);
+        row("ShowFresnel", false, "fresnel_zone=0,", 7);
+        row("FresnelZone", 10, "fresnel_zone=10,", 0);
+        row("FresnelShare", 100, "fresnel_share=100,", 101);
+        row("FresnelColor", u"#ff00ff01"_s, "fresnel_color=00ff01", QByteArray("\0", 1));
+        row("FresnelTransparency", 0, "fresnel_color=ffa500ff,", -1);
+        row("KFactor", 0.66667, "k_factor=0.66667", 0);
     }
 
     void remembersEveryValueUnderItsKey()
@@ -95,11 +90,11 @@ private Q_SLOTS:
 
     void asksForAColourByKeyboard_data()
     {
-        QTest::addColumn<QColor>("chosen"); // invalid if cancelled
-        QTest::addColumn<QString>("reported");
-        QTest::newRow("taken") << QColor(1, 2, 3) << u"#010203"_s;
-        QTest::newRow("translucent") << QColor(255, 0, 0, 127) << u"#FF0000, 50 % transparent"_s;
-        QTest::newRow("cancelled") << QColor() << u"#E0218A"_s;
+        // chosen: invalid if cancelled
+        const Cases<QColor, QString> row({"chosen", "reported"});
+        row("taken", QColor(1, 2, 3), "#010203");
+        row("translucent", QColor(255, 0, 0, 127), "#FF0000, 50 % transparent");
+        row("cancelled", QColor(), "#E0218A");
     }
 
     void asksForAColourByKeyboard()

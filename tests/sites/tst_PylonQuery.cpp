@@ -1,4 +1,5 @@
 #include "sites/PylonQuery.h"
+#include "support/Cases.h"
 
 #include <QTest>
 
@@ -27,18 +28,8 @@ class tst_PylonQuery : public QObject
 private Q_SLOTS:
     void writesSystemsAndPaths_data()
     {
-        QTest::addColumn<QString>("sourceSrs");
-        QTest::addColumn<QString>("targetSrs");
-        QTest::addColumn<QString>("project");
-        QTest::addColumn<QString>("table");
-        QTest::addColumn<QString>("expected");
-
-        const auto row = [](const char *name, const char *source, const char *target,
-                            const char *project, const char *table, const QString &expected) {
-            QTest::newRow(name) << QString::fromUtf8(source) << QString::fromUtf8(target)
-                                << QString::fromUtf8(project) << QString::fromUtf8(table)
-                                << expected;
-        };
+        const Cases<QString, QString, QString, QString, QString> row(
+            {"sourceSrs", "targetSrs", "project", "table", "expected"});
         row("beside the project", "4326", "2154", "/p/a.gvw", "/p/sites.csv",
             QStringLiteral("site:s_srs=4326,t_srs=2154,") + FirstRun + QStringLiteral("sites.csv"));
         row("no system", "", "", "/p/a.gvw", "/p/data/sites.csv",
@@ -60,12 +51,11 @@ private Q_SLOTS:
         QFETCH(QString, targetSrs);
         QFETCH(QString, project);
         QFETCH(QString, table);
-        QFETCH(QString, expected);
 
         const QString query = buildPylonQuery({TableKind::Sites, sourceSrs, targetSrs, table, {}},
                                               SiteRepresentation(), catalogues(), {project, {}});
 
-        QCOMPARE(query, expected);
+        QTEST(query, "expected");
     }
 
     void writesNumbersInTheirShortestForm()

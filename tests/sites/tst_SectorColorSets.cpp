@@ -1,4 +1,5 @@
 #include "sites/SiteRepresentation.h"
+#include "support/Cases.h"
 #include "support/Files.h"
 
 #include <QTemporaryDir>
@@ -22,18 +23,12 @@ class tst_SectorColorSets : public QObject
 private Q_SLOTS:
     void writesColorTexts_data()
     {
-        QTest::addColumn<QColor>("color");
-        QTest::addColumn<int>("transparency");
-        QTest::addColumn<QString>("expected");
-
-        QTest::newRow("opaque") << QColor(1, 171, 255) << 0 << QStringLiteral("01abffff");
-        QTest::newRow("transparent") << QColor(1, 171, 255) << 100 << QStringLiteral("01abff00");
-        QTest::newRow("128 * 50 / 100 = 64")
-            << QColor(0, 0, 0, 128) << 50 << QStringLiteral("00000040");
-        QTest::newRow("255 * 99 / 100 = 252.45")
-            << QColor(0, 0, 0) << 1 << QStringLiteral("000000fc");
-        QTest::newRow("255 * 1 / 100 = 2.55")
-            << QColor(0, 0, 0) << 99 << QStringLiteral("00000002");
+        const Cases<QColor, int, QString> row({"color", "transparency", "expected"});
+        row("opaque", QColor(1, 171, 255), 0, "01abffff");
+        row("transparent", QColor(1, 171, 255), 100, "01abff00");
+        row("128 * 50 / 100 = 64", QColor(0, 0, 0, 128), 50, "00000040");
+        row("255 * 99 / 100 = 252.45", QColor(0, 0, 0), 1, "000000fc");
+        row("255 * 1 / 100 = 2.55", QColor(0, 0, 0), 99, "00000002");
     }
 
     void writesColorTexts()

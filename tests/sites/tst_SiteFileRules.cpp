@@ -1,4 +1,5 @@
 #include "sites/SiteFileInfo.h"
+#include "support/Cases.h"
 
 #include <QTest>
 
@@ -11,31 +12,19 @@ class tst_SiteFileRules : public QObject
 private Q_SLOTS:
     void choosesCoordinateSystems_data()
     {
-        QTest::addColumn<QString>("unit");
-        QTest::addColumn<QString>("file");
-        QTest::addColumn<QString>("project");
-        QTest::addColumn<QString>("terrain");
-        QTest::addColumn<QString>("source");
-        QTest::addColumn<QString>("target");
-
-        const auto row = [](const char *unit, const char *file, const char *project,
-                            const char *terrain, const char *source, const char *target) {
-            QTest::addRow("%s, file '%s', project '%s', terrain '%s'", unit, file, project, terrain)
-                << QString::fromLatin1(unit) << QString::fromLatin1(file)
-                << QString::fromLatin1(project) << QString::fromLatin1(terrain)
-                << QString::fromLatin1(source) << QString::fromLatin1(target);
-        };
-        row("DMS", "", "", "", "4326", "4326");
-        row("DMS", "", "2154", "32631", "4326", "2154");
-        row("DMS", "", "", "32631", "4326", "32631");
-        row("DEGREES", "4171", "", "", "4171", "4326");
-        row("", "0", "", "", "4326", "4326");
-        row("METERS", "0", "", "", "", "");
-        row("METERS", "", "", "32631", "32631", "32631");
-        row("METERS", "27572", "", "", "27572", "27572");
-        row("METERS", "27572", "", "32631", "27572", "32631");
-        row("METERS", "", "2154", "", "", "2154");
-        row("meters", "", "", "", "4326", "4326");
+        const Cases<QString, QString, QString, QString, QString, QString> row(
+            {"unit", "file", "project", "terrain", "source", "target"});
+        row("degrees", "DMS", {}, {}, {}, "4326", "4326");
+        row("degrees, project first", "DMS", {}, "2154", "32631", "4326", "2154");
+        row("degrees, terrain", "DMS", {}, {}, "32631", "4326", "32631");
+        row("degrees, declared", "DEGREES", "4171", {}, {}, "4171", "4326");
+        row("no unit", {}, "0", {}, {}, "4326", "4326");
+        row("metres", "METERS", "0", {}, {}, {}, {});
+        row("metres, terrain", "METERS", {}, {}, "32631", "32631", "32631");
+        row("metres, declared", "METERS", "27572", {}, {}, "27572", "27572");
+        row("metres, declared, terrain", "METERS", "27572", {}, "32631", "27572", "32631");
+        row("metres, project", "METERS", {}, "2154", {}, {}, "2154");
+        row("unknown unit", "meters", {}, {}, {}, "4326", "4326");
     }
 
     void choosesCoordinateSystems()
@@ -54,14 +43,12 @@ private Q_SLOTS:
 
     void namesTheSiteColumnByFormat_data()
     {
-        QTest::addColumn<QString>("format");
-        QTest::addColumn<QString>("column");
-
-        QTest::newRow("asset") << QStringLiteral("ASSET") << QStringLiteral("Site name");
-        QTest::newRow("atoll") << QStringLiteral("Atoll export") << QStringLiteral("NAME");
-        QTest::newRow("mentum") << QStringLiteral("mentum 5") << QStringLiteral("SITE ID");
-        QTest::newRow("generic") << QStringLiteral("an asset") << QStringLiteral("Site ID");
-        QTest::newRow("none") << QString() << QStringLiteral("Site ID");
+        const Cases<QString, QString> row({"format", "column"});
+        row("asset", "ASSET", "Site name");
+        row("atoll", "Atoll export", "NAME");
+        row("mentum", "mentum 5", "SITE ID");
+        row("generic", "an asset", "Site ID");
+        row("none", {}, "Site ID");
     }
 
     void namesTheSiteColumnByFormat()

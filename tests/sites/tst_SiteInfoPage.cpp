@@ -1,5 +1,6 @@
 #include "sites/SiteInfoPage.h"
 #include "sites/SiteLayer.h"
+#include "support/Cases.h"
 #include "support/Files.h"
 
 #include <QTemporaryDir>
@@ -22,6 +23,7 @@ class tst_SiteInfoPage : public QObject
 private Q_SLOTS:
     void fillsThePage_data()
     {
+        const Cases<SiteColumnSet, QString, QString> row({"columns", "language", "expected"});
         SiteColumnSet full;
         full.name = QStringLiteral("Site");
         full.x = QStringLiteral("X");
@@ -31,27 +33,21 @@ private Q_SLOTS:
         full.heights = {QStringLiteral("H1")};
         full.azimuths = {QStringLiteral("A2"), QStringLiteral("A1")};
         full.tilts = {QStringLiteral("T1")};
-        QTest::addColumn<SiteColumnSet>("columns");
-        QTest::addColumn<QString>("language");
-        QTest::addColumn<QString>("expected");
 
-        QTest::newRow("fr") << full << QStringLiteral("fr")
-                            << QStringLiteral(
-                                   "[Site] [X] [Y] Hauteur du Terrain: [H0]<br><br>|"
-                                   "<tr><td>Secteur ID</td><td>[S1]</td></tr>|"
-                                   "<tr><td>Hauteur</td><td>[H1]</td></tr>|"
-                                   "<tr><td>Azimuth</td><td>[A2]</td><td>[A1]</td></tr>|"
-                                   "<tr><td>Inclinaison</td><td>[T1]</td></tr> [Site] __name__");
-        QTest::newRow("another language")
-            << full << QStringLiteral("de")
-            << QStringLiteral("[Site] [X] [Y] Terrain Height: [H0]<br><br>|"
-                              "<tr><td>Sector ID</td><td>[S1]</td></tr>|"
-                              "<tr><td>Height</td><td>[H1]</td></tr>|"
-                              "<tr><td>Azimuth</td><td>[A2]</td><td>[A1]</td></tr>|"
-                              "<tr><td>Tilt</td><td>[T1]</td></tr> [Site] __name__");
-        QTest::newRow("nothing recognised")
-            << SiteColumnSet() << QStringLiteral("en")
-            << QStringLiteral("__NAME__ __LON__ __LAT__ |||| __NAME__ __name__");
+        row("fr", full, "fr",
+            "[Site] [X] [Y] Hauteur du Terrain: [H0]<br><br>|"
+            "<tr><td>Secteur ID</td><td>[S1]</td></tr>|"
+            "<tr><td>Hauteur</td><td>[H1]</td></tr>|"
+            "<tr><td>Azimuth</td><td>[A2]</td><td>[A1]</td></tr>|"
+            "<tr><td>Inclinaison</td><td>[T1]</td></tr> [Site] __name__");
+        row("another language", full, "de",
+            "[Site] [X] [Y] Terrain Height: [H0]<br><br>|"
+            "<tr><td>Sector ID</td><td>[S1]</td></tr>|"
+            "<tr><td>Height</td><td>[H1]</td></tr>|"
+            "<tr><td>Azimuth</td><td>[A2]</td><td>[A1]</td></tr>|"
+            "<tr><td>Tilt</td><td>[T1]</td></tr> [Site] __name__");
+        row("nothing recognised", SiteColumnSet(), "en",
+            "__NAME__ __LON__ __LAT__ |||| __NAME__ __name__");
     }
 
     void fillsThePage()

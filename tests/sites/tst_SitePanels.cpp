@@ -2,6 +2,7 @@
 #include "gui/FileDialogAnswer.h"
 #include "platform/Settings.h"
 #include "sites/ui/VltSiteProperties.h"
+#include "support/Cases.h"
 #include "support/Files.h"
 #include "tables/ui/VltSrsSettings.h"
 
@@ -53,23 +54,17 @@ private Q_SLOTS:
 
     void remembersEveryValueUnderItsKey_data()
     {
-        QTest::addColumn<QString>("widget");
-        QTest::addColumn<double>("firstRun");
-        QTest::addColumn<double>("remembered");
-
-        const auto row = [](const QString &widget, const char *key, double firstRun, double value) {
-            QTest::newRow(key) << widget << firstRun << value;
-        };
-        row(u"m_pwSbSectorHeight"_s, "SectorHeight", 20, 12.5);
-        row(u"m_pwSbSectorRadius"_s, "SectorRadius", 200, 199.9);
-        row(u"m_pwSbSectorSpacing"_s, "SectorSpacing", 2, 0);
-        row(u"m_pwCbSectorColors"_s, "ColorMenuEntry", 0, 2);
-        row(u"m_pwSbSymbolicDistance"_s, "SymbolicDistance", 10000, 1000000000);
-        row(u"m_pwCbPylonType"_s, "PylonMenuEntry", 0, 3);
-        row(u"m_pwSbRealisticDistance"_s, "RealisticDistance", 1000, 700);
-        row(u"m_pwSlTransparency"_s, "GlobalTransparency", 0, 40);
-        row(u"m_pwSbPylonWidth"_s, "PylonWidth", 2.5, 0.1);
-        row(u"m_pwSbAntennaSize"_s, "AntennaSize", 100, 300);
+        const Cases<QString, double, double> row({"widget", "firstRun", "remembered"});
+        row("SectorHeight", "m_pwSbSectorHeight", 20, 12.5);
+        row("SectorRadius", "m_pwSbSectorRadius", 200, 199.9);
+        row("SectorSpacing", "m_pwSbSectorSpacing", 2, 0);
+        row("ColorMenuEntry", "m_pwCbSectorColors", 0, 2);
+        row("SymbolicDistance", "m_pwSbSymbolicDistance", 10000, 1000000000);
+        row("PylonMenuEntry", "m_pwCbPylonType", 0, 3);
+        row("RealisticDistance", "m_pwSbRealisticDistance", 1000, 700);
+        row("GlobalTransparency", "m_pwSlTransparency", 0, 40);
+        row("PylonWidth", "m_pwSbPylonWidth", 2.5, 0.1);
+        row("AntennaSize", "m_pwSbAntennaSize", 100, 300);
     }
 
     void remembersEveryValueUnderItsKey()
@@ -97,16 +92,13 @@ private Q_SLOTS:
 
     void takesTheFirstRunsValueForOneThatIsNone_data()
     {
-        QTest::addColumn<QString>("value");
-        QTest::addColumn<double>("height");
-        QTest::addColumn<int>("distance");
-
-        QTest::newRow("no number") << u"abc"_s << 20.0 << 10000;
-        QTest::newRow("not a number") << u"nan"_s << 20.0 << 10000;
-        QTest::newRow("infinite") << u"-inf"_s << 20.0 << 10000;
-        QTest::newRow("beyond every number") << u"1e400"_s << 20.0 << 10000;
-        QTest::newRow("above the range") << u"1e12"_s << 20.0 << 10000;
-        QTest::newRow("below the range") << u"-7"_s << 20.0 << 10000;
+        const Cases<QString, double, int> row({"value", "height", "distance"});
+        row("no number", "abc", 20, 10000);
+        row("not a number", "nan", 20, 10000);
+        row("infinite", "-inf", 20, 10000);
+        row("beyond every number", "1e400", 20, 10000);
+        row("above the range", "1e12", 20, 10000);
+        row("below the range", "-7", 20, 10000);
     }
 
     void takesTheFirstRunsValueForOneThatIsNone()
@@ -143,11 +135,10 @@ private Q_SLOTS:
 
     void remembersTheTargetSystem_data()
     {
-        QTest::addColumn<QString>("stored");
-
+        const Cases<QString> row({"stored"});
         for (const char *stored : {"EPSG:2154", "2154", "EPSG:32198", "32198", "ESRI:102100",
                                    "+proj=utm +zone=30 +datum=WGS84"})
-            QTest::newRow(stored) << QString::fromLatin1(stored);
+            row(stored, stored);
     }
 
     void remembersTheTargetSystem()
@@ -174,10 +165,9 @@ private Q_SLOTS:
     /// Rows of other systems are before it, and a user-defined system does not show its code.
     void takesTheVerySystemThatIsSet_data()
     {
-        QTest::addColumn<QString>("set");
-
-        QTest::newRow("behind an alias") << u"4326"_s;
-        QTest::newRow("its digits in another row") << u"EPSG:2770"_s;
+        const Cases<QString> row({"set"});
+        row("behind an alias", "4326");
+        row("its digits in another row", "EPSG:2770");
     }
 
     void takesTheVerySystemThatIsSet()
@@ -211,17 +201,15 @@ private Q_SLOTS:
 
     void readsTheTargetSystemFromADataset_data()
     {
-        QTest::addColumn<QByteArray>("srs");
-        QTest::addColumn<QString>("target"); // empty: no change, with a warning
-
-        QTest::newRow("raster.tif") << QByteArray("EPSG:32630") << u"EPSG:32630"_s;
-        QTest::newRow("raster_without.tif") << QByteArray() << QString();
-        QTest::newRow("vector.shp") << QByteArray("EPSG:27572") << u"EPSG:27572"_s;
-        QTest::newRow("vector_without.shp") << QByteArray() << QString();
+        // target: empty: no change, with a warning
+        const Cases<QByteArray, QString> row({"srs", "target"});
+        row("raster.tif", "EPSG:32630", "EPSG:32630");
+        row("raster_without.tif", {}, {});
+        row("vector.shp", "EPSG:27572", "EPSG:27572");
+        row("vector_without.shp", {}, {});
         // A system on the ellipsoid of WGS 84, which must not be taken for WGS 84.
-        QTest::newRow("nameless.shp")
-            << QByteArray("+proj=laea +lat_0=47 +datum=WGS84") << QString();
-        QTest::newRow("no_dataset.txt") << QByteArray() << QString();
+        row("nameless.shp", "+proj=laea +lat_0=47 +datum=WGS84", {});
+        row("no_dataset.txt", {}, {});
     }
 
     void readsTheTargetSystemFromADataset()

@@ -1,6 +1,7 @@
 #include "srs/LastUsedSrsList.h"
 #include "srs/UserDefinedSrsList.h"
 #include "srs/ui/VltSrsChooser.h"
+#include "support/Cases.h"
 #include "support/Patience.h"
 #include "support/PrivateSettings.h"
 
@@ -195,16 +196,13 @@ private Q_SLOTS:
 
     void selectsByCodeAndGoesBackToIt_data()
     {
-        QTest::addColumn<QString>("code");
-        QTest::addColumn<int>("row");
-        QTest::addColumn<int>("rowCount");
-
-        QTest::newRow("listed") << u"EPSG:4326"_s << 2 << 5;
-        QTest::newRow("nowhere") << u"A:1"_s << 0 << 6;
-        QTest::newRow("inside another") << u"EPSG:43"_s << 2 << 6;
-        QTest::newRow("inside Other...") << u"ther"_s << 4 << 6;
-        QTest::newRow("behind an alias") << Utm << 0 << 5;
-        QTest::newRow("none") << QString() << -1 << 5;
+        const Cases<QString, int, int> row({"code", "row", "rowCount"});
+        row("listed", "EPSG:4326", 2, 5);
+        row("nowhere", "A:1", 0, 6);
+        row("inside another", "EPSG:43", 2, 6);
+        row("inside Other...", "ther", 4, 6);
+        row("behind an alias", Utm, 0, 5);
+        row("none", {}, -1, 5);
     }
     void selectsByCodeAndGoesBackToIt()
     {
@@ -228,17 +226,14 @@ private Q_SLOTS:
 
     void takesATypedDefinition_data()
     {
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<QString>("alias");
-        QTest::addColumn<QStringList>("announced");
-
+        const Cases<QString, QString, QStringList> row({"typed", "alias", "announced"});
         const QStringList code = {u"EPSG:4326"_s};
-        QTest::newRow("new, with alias") << code.first() << u"A"_s << code;
-        QTest::newRow("new, cancelled") << code.first() << QString() << QStringList();
-        QTest::newRow("a row") << Wgs84 << QString() << code;
-        QTest::newRow("not quite a row") << Wgs84.toLower() << QString() << QStringList{QString()};
-        QTest::newRow("heights") << u"EPSG:5720"_s << QString() << QStringList{QString()};
-        QTest::newRow("nothing") << QString() << QString() << QStringList();
+        row("new, with alias", code.first(), "A", code);
+        row("new, cancelled", code.first(), {}, {});
+        row("a row", Wgs84, {}, code);
+        row("not quite a row", Wgs84.toLower(), {}, {QString()});
+        row("heights", "EPSG:5720", {}, {QString()});
+        row("nothing", {}, {}, {});
     }
     void takesATypedDefinition()
     {

@@ -4,6 +4,7 @@
 #include "srs/ui/SrsTable.h"
 #include "srs/ui/dialogToEditAlias.h"
 #include "srs/ui/dialogVltSrsChooser.h"
+#include "support/Cases.h"
 #include "support/Patience.h"
 #include "support/PrivateSettings.h"
 
@@ -89,12 +90,10 @@ private Q_SLOTS:
 
     void startsAtTheCurrentSystem_data()
     {
-        QTest::addColumn<SrsEntry>("current");
-        QTest::addColumn<int>("tab");
-
-        QTest::newRow("of the database") << SrsEntry{{}, {}, u"EPSG:2193"_s} << int(Search);
-        QTest::newRow("its bare number") << SrsEntry{{}, {}, u"2193"_s} << int(Search);
-        QTest::newRow("the user's own") << Factory << int(UserDefined);
+        const Cases<SrsEntry, int> row({"current", "tab"});
+        row("of the database", SrsEntry{{}, {}, u"EPSG:2193"_s}, int(Search));
+        row("its bare number", SrsEntry{{}, {}, u"2193"_s}, int(Search));
+        row("the user's own", Factory, int(UserDefined));
     }
 
     void startsAtTheCurrentSystem()

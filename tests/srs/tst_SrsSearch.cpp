@@ -1,6 +1,7 @@
 #include "platform/Settings.h"
 #include "srs/DefaultSrsList.h"
 #include "srs/SrsSearch.h"
+#include "support/Cases.h"
 
 #include <QSettings>
 #include <QTest>
@@ -66,30 +67,25 @@ private Q_SLOTS:
 
     void findsTheLikelierSystemFirst_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("code");
-
-        const auto row = [](const char *text, int code) {
-            QTest::newRow(text) << QString::fromUtf8(text) << u"EPSG:%1"_s.arg(code);
-        };
-        row("utm 30", 25830);
-        row("utm 60", 32660); // not a default; WGS 84 before others
-        row("wgs", 4326);
-        row("etrs", 4258);
-        row("etrs89 utm 30", 25830);
-        row("british", 27700);
-        row("france", 2154);
-        row("mercator", 3857);
-        row("lambert", 31370);      // recently used
-        row("gauss kruger", 31469); // the project's
-        row("new zealand", 2193);
+        const Cases<QString> row({"code"});
+        row("utm 30", "EPSG:25830");
+        row("utm 60", "EPSG:32660"); // not a default; WGS 84 before others
+        row("wgs", "EPSG:4326");
+        row("etrs", "EPSG:4258");
+        row("etrs89 utm 30", "EPSG:25830");
+        row("british", "EPSG:27700");
+        row("france", "EPSG:2154");
+        row("mercator", "EPSG:3857");
+        row("lambert", "EPSG:31370");      // recently used
+        row("gauss kruger", "EPSG:31469"); // the project's
+        row("new zealand", "EPSG:2193");
         for (const vlt::srs::SrsEntry &entry : m_preferences.defaults)
-            QTest::newRow(qPrintable(entry.code)) << entry.alias << entry.code;
+            row(qPrintable(entry.alias), entry.code);
     }
 
     void findsTheLikelierSystemFirst()
     {
-        QFETCH(QString, text);
+        const QString text = QString::fromUtf8(QTest::currentDataTag());
 
         const std::vector<int> found = m_search->find({text, {}, false}, m_preferences);
 
@@ -118,14 +114,13 @@ private Q_SLOTS:
 
     void understandsAWordWithAWrongLetter_data()
     {
-        QTest::addColumn<QString>("nearText");
-
-        QTest::newRow("lambrt 93") << u"lambert 93"_s;
-        QTest::newRow("wsg84") << u"wgs 84"_s;
-        QTest::newRow("epgs:2154") << u"epsg 2154"_s;
-        QTest::newRow("Gau\u00dfs Kr\u00fcgr") << u"gauss kruger"_s;
-        QTest::newRow("lambert 93") << QString(); // nothing is wrong
-        QTest::newRow("xyzzy") << QString();
+        const Cases<QString> row({"nearText"});
+        row("lambrt 93", "lambert 93");
+        row("wsg84", "wgs 84");
+        row("epgs:2154", "epsg 2154");
+        row("Gau\u00dfs Kr\u00fcgr", "gauss kruger");
+        row("lambert 93", {}); // nothing is wrong
+        row("xyzzy", {});
     }
 
     void understandsAWordWithAWrongLetter()
