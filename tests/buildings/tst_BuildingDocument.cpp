@@ -1,6 +1,7 @@
 #include "buildings/BuildingLayer.h"
 #include "buildings/DocumentWriter.h"
 #include "buildings/RasterColoring.h"
+#include "support/Cases.h"
 #include "support/Files.h"
 
 #include <QTemporaryDir>
@@ -84,11 +85,7 @@ class tst_BuildingDocument : public QObject
 private Q_SLOTS:
     void writesDocuments_data()
     {
-        QTest::addColumn<QString>("actual");
-        QTest::addColumn<QString>("wanted");
-        const auto row = [](const char *name, const QString &actual, QString wanted) {
-            QTest::newRow(name) << actual << wanted.replace(u"~\n"_s, u" \n"_s);
-        };
+        const Cases<QString, QString> row({"actual", "wanted"}); // wanted: "~" means a blank
         BuildingDocument document{{}, CityModel, Terrain, {}};
         row("plain", writeTexbDocument(document), PlainText);
         document.footprints.wallColor = imageColor(Signal).toStdString();
@@ -118,6 +115,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, actual);
         QFETCH(QString, wanted);
+        wanted.replace(u"~\n"_s, u" \n"_s);
         QCOMPARE(actual.split(u'\n'), wanted.split(u'\n')); // reports the line that differs
     }
 

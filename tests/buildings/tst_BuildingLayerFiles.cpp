@@ -2,6 +2,7 @@
 #include "buildings/DocumentWriter.h"
 #include "buildings/TexturedInfoText.h"
 #include "language/VltLanguageManager.h"
+#include "support/Cases.h"
 #include "support/Files.h"
 
 #include <QDir>
@@ -113,17 +114,13 @@ private Q_SLOTS:
 
     void reportsWhatImagesThereAre_data()
     {
-        QTest::addColumn<QList<double>>("heights");
-        QTest::addColumn<QString>("wanted");
-
-        QTest::newRow("none") << QList<double>{} << u"<p>Images: 0</p>"_s;
-        QTest::newRow("one height of several networks")
-            << QList<double>{12, 1.5, 12}
-            << u">Walls</span><br/>Images: 3<br/>Heights above the ground: 1.5 · 12 m</p>"_s;
-        QTest::newRow("fr") << QList<double>{1.5, 2000}
-                            << u"Heights above the ground: 1,5 · 2\u202f000 m</p>"_s;
-        QTest::newRow("a tower") << QList<double>{40, 37, 34, 31, 28, 25, 22, 19, 16, 13, 10, 7, 4}
-                                 << u"Images: 13<br/>Heights above the ground: 4 – 40 m</p>"_s;
+        const Cases<QList<double>, QString> row({"heights", "wanted"});
+        row("none", {}, "<p>Images: 0</p>");
+        row("one height of several networks", {12, 1.5, 12},
+            ">Walls</span><br/>Images: 3<br/>Heights above the ground: 1.5 · 12 m</p>");
+        row("fr", {1.5, 2000}, "Heights above the ground: 1,5 · 2\u202f000 m</p>");
+        row("a tower", {40, 37, 34, 31, 28, 25, 22, 19, 16, 13, 10, 7, 4},
+            "Images: 13<br/>Heights above the ground: 4 – 40 m</p>");
     }
 
     void reportsWhatImagesThereAre()
@@ -143,14 +140,12 @@ private Q_SLOTS:
 
     void namesFilesAfterTheLayer_data()
     {
-        QTest::addColumn<QString>("layer");
-        QTest::addColumn<QString>("document");
-
-        QTest::newRow("usual") << u"/a/town.lay"_s << u"/a/town.texb"_s;
-        QTest::newRow("capitals") << u"/a/town.LAY"_s << u"/a/town.texb"_s;
-        QTest::newRow("no suffix") << u"/a.lay/town"_s << u"/a.lay/town.texb"_s;
-        QTest::newRow("other suffix") << u"/a/town.v2"_s << u"/a/town.v2.texb"_s;
-        QTest::newRow("relative") << u"town.lay"_s << QDir::current().filePath(u"town.texb"_s);
+        const Cases<QString, QString> row({"layer", "document"});
+        row("usual", "/a/town.lay", "/a/town.texb");
+        row("capitals", "/a/town.LAY", "/a/town.texb");
+        row("no suffix", "/a.lay/town", "/a.lay/town.texb");
+        row("other suffix", "/a/town.v2", "/a/town.v2.texb");
+        row("relative", "town.lay", QDir::current().filePath(u"town.texb"_s));
     }
 
     void namesFilesAfterTheLayer()
@@ -161,15 +156,14 @@ private Q_SLOTS:
 
     void leavesFilesAsTheyWereAfterAFailure_data()
     {
-        QTest::addColumn<QString>("blocked"); ///< a folder has the name of this file
-        QTest::addColumn<QString>("text");
-
+        // blocked: a folder has the name of this file
+        const Cases<QString, QString> row({"blocked", "text"});
         const QString cannot = u"Can't create the layer file\n"_s;
-        QTest::newRow("document") << u"out.texb"_s << cannot;
-        QTest::newRow("legend") << u"two & more_gradient.png"_s << cannot;
-        QTest::newRow("layer") << u"out.lay"_s << cannot;
-        QTest::newRow("template") << u"addons/telecom/template/template_texb.lay"_s
-                                  << u"A configuration file is missing\n"_s;
+        row("document", "out.texb", cannot);
+        row("legend", "two & more_gradient.png", cannot);
+        row("layer", "out.lay", cannot);
+        row("template", "addons/telecom/template/template_texb.lay",
+            "A configuration file is missing\n");
     }
 
     void leavesFilesAsTheyWereAfterAFailure()

@@ -1,6 +1,7 @@
 #include "SourcePage.h"
 #include "gui/DropOnWidget.h"
 #include "gui/FileDialogAnswer.h"
+#include "support/Cases.h"
 
 #include <QFileInfo>
 #include <QRadioButton>
@@ -47,28 +48,22 @@ private Q_SLOTS:
 
     void opensVectors_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QByteArray>("contents");
-        QTest::addColumn<bool>("silent");
-        QTest::addColumn<QString>("message"); ///< empty: opened; "-": not opened, without a message
-
-        const auto row = [](const char *name, const QString &file, const QByteArray &contents,
-                            bool silent, const QString &message) {
-            QTest::newRow(name) << file << contents << silent << message;
-        };
+        // message: empty: opened; "-": not opened, without a message
+        const Cases<QString, QByteArray, bool, QString> row(
+            {"name", "contents", "silent", "message"});
         const QString refused = u"This file can't be open as a vector file"_s;
         const QString noPolygons = u"This datasource doesn't contain any polygon layer"_s;
-        row("polygons", u"a.geojson"_s, features({Square}), false, {});
-        row("mixed, so of no declared kind", u"b.geojson"_s, features({Point, Square}), true, {});
-        row("points", u"c.geojson"_s, features({Point}), false, noPolygons);
-        row("points, silent", u"c.geojson"_s, features({Point}), true, noPolygons);
-        row("no vector", u"d.geojson"_s, "no", false, refused);
-        row("no vector, silent", u"d.geojson"_s, "no", true, u"-"_s);
-        row("empty path", {}, {}, false, u"-"_s);
+        row("polygons", "a.geojson", features({Square}), false, {});
+        row("mixed, so of no declared kind", "b.geojson", features({Point, Square}), true, {});
+        row("points", "c.geojson", features({Point}), false, noPolygons);
+        row("points, silent", "c.geojson", features({Point}), true, noPolygons);
+        row("no vector", "d.geojson", "no", false, refused);
+        row("no vector, silent", "d.geojson", "no", true, "-");
+        row("empty path", {}, {}, false, "-");
         for (const char *name :
              {"/gone/e.shp", "/vsicurl/http://127.0.0.1:9/a.geojson",
               "http://127.0.0.1:9/a.geojson", "PG:host=127.0.0.1", "/vsimem/a.geojson"})
-            row(name, QString::fromLatin1(name), {}, false, refused);
+            row(name, name, {}, false, refused);
     }
 
     void opensVectors()
@@ -97,13 +92,7 @@ private Q_SLOTS:
 
     void guessesTheHeight_data()
     {
-        QTest::addColumn<QByteArray>("properties");
-        QTest::addColumn<QString>("offered");
-        QTest::addColumn<int>("index");
-        const auto row = [](const char *name, const char *properties, const char *offered,
-                            int index) {
-            QTest::newRow(name) << QByteArray(properties) << QString::fromLatin1(offered) << index;
-        };
+        const Cases<QByteArray, QString, int> row({"properties", "offered", "index"});
         row("HEIGHT", R"({"ID":1,"NAME":"a","HEIGHT":2.5})",
             "ID (Integer)|NAME (String)|HEIGHT (Real)", 2);
         row("H before HEIGHT, any case", R"({"h":1,"HEIGHT":2})", "h (Integer)|HEIGHT (Integer)",
@@ -120,7 +109,6 @@ private Q_SLOTS:
     void guessesTheHeight()
     {
         QFETCH(QByteArray, properties);
-        QFETCH(QString, offered);
         QFETCH(int, index);
         Host host;
 
@@ -129,7 +117,7 @@ private Q_SLOTS:
         QStringList items;
         for (int i = 0; i < host.height()->count(); ++i)
             items << host.height()->itemText(i);
-        QCOMPARE(items.join(u'|'), offered);
+        QTEST(items.join(u'|'), "offered");
         QCOMPARE(host.height()->currentIndex(), index);
         host.dtm()->setText(u"x"_s);
         QCOMPARE(host.canGoOn(), index >= 0);
@@ -156,9 +144,9 @@ private Q_SLOTS:
 
     void publishesAndRemembers_data()
     {
-        QTest::addColumn<bool>("colored");
-        QTest::newRow("colored") << true;
-        QTest::newRow("textured") << false;
+        const Cases<bool> row({"colored"});
+        row("colored", true);
+        row("textured", false);
     }
 
     void publishesAndRemembers()
@@ -250,32 +238,27 @@ private Q_SLOTS:
 
     void refusesOnNext_data()
     {
-        QTest::addColumn<QByteArray>("contents");
-        QTest::addColumn<QString>("lost");
-        QTest::addColumn<QString>("message");
-        QTest::addColumn<QString>("noData");
-        const auto row = [](const char *name, const QByteArray &geometry, const QString &lost,
-                            const QString &message, const QString &noData = u" -9999,5 "_s) {
-            QTest::newRow(name) << features({geometry}) << lost << message << noData;
-        };
+        const Cases<QByteArray, QString, QString, QString> row(
+            {"geometry", "lost", "message", "noData"});
+        const QString number = u" -9999,5 "_s;
         const QString vector = u"n.geojson"_s;
         const QString dtm = u"grid.asc"_s;
         row("buildings gone", Square, vector,
-            u"This file can't be open as a vector file\n"_s + file(vector));
-        row("terrain gone", Square, dtm, u"Cannot open DTM\n"_s + file(dtm));
-        row("no number", Square, {}, u"The no-data value is not a number."_s, u"abc"_s);
-        row("no place", Nowhere, {}, u"No building of this layer has a place\nn"_s);
+            u"This file can't be open as a vector file\n"_s + file(vector), number);
+        row("terrain gone", Square, dtm, u"Cannot open DTM\n"_s + file(dtm), number);
+        row("no number", Square, {}, "The no-data value is not a number.", "abc");
+        row("no place", Nowhere, {}, "No building of this layer has a place\nn", number);
     }
 
     void refusesOnNext()
     {
-        QFETCH(QByteArray, contents);
+        QFETCH(QByteArray, geometry);
         QFETCH(QString, lost);
         QFETCH(QString, message);
         QFETCH(QString, noData);
         Host host;
         const AnsweredBoxes boxes;
-        host.page->openVector(write(u"n.geojson"_s, contents));
+        host.page->openVector(write(u"n.geojson"_s, features({geometry})));
         dropFiles(host.page, {grid(), plain()});
         QVERIFY(host.canGoOn());
         host.noData()->setText(noData);

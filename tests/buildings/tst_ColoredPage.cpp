@@ -1,6 +1,7 @@
 #include "LayerPage.h"
 #include "buildings/ui/VltAddTexbColoredPage.h"
 #include "gui/FileDialogAnswer.h"
+#include "support/Cases.h"
 #include "support/Patience.h"
 #include "support/PrivateSettings.h"
 
@@ -93,10 +94,8 @@ private Q_SLOTS:
 
     void writesWhatIsChosen_data()
     {
-        QTest::addColumn<QVariantMap>("values");
-        QTest::addColumn<QString>("wanted"); // DIR means the folder of the test
-        QTest::addColumn<QString>("map");
-
+        // wanted: DIR means the folder of the test
+        const Cases<QVariantMap, QString, QString> row({"values", "wanted", "map"});
         const QString usual =
             u"version=1.0 encoding=UTF-8 cache=none filename=buildings layer=layer hfield=height "
             "tileSize=250 extrudedVisibility=2000 wallColor=IMAGE;DIR/grid.asc;DIR/installation/"
@@ -107,13 +106,13 @@ private Q_SLOTS:
         other.replace(u"false"_s, u"true"_s).replace(u"first"_s, u"second"_s);
         other.replace(u"minimum;stretched;interpolation"_s,
                       u"mostRepresented;absolute;colorrange;-1.5"_s);
-        QTest::newRow("nothing remembered") << QVariantMap() << usual << u"first"_s;
-        QTest::newRow("all else") << values(u"Mode=3 NoData=-1.5 Stretch=false ColorInterpMode=0 "
-                                            "TileSize=512.5 CheckGeom=true SkirtSize=0 "
-                                            "CurrentColormap=1"_s)
-                                  << other << u"second"_s;
-        QTest::newRow("damaged") << values(u"Mode=9 TileSize=x CurrentColormap=-1"_s) << usual
-                                 << u"first"_s;
+        row("nothing remembered", {}, usual, "first");
+        row("all else",
+            values(u"Mode=3 NoData=-1.5 Stretch=false ColorInterpMode=0 "
+                   "TileSize=512.5 CheckGeom=true SkirtSize=0 "
+                   "CurrentColormap=1"_s),
+            other, "second");
+        row("damaged", values(u"Mode=9 TileSize=x CurrentColormap=-1"_s), usual, "first");
     }
 
     void writesWhatIsChosen()
@@ -153,13 +152,11 @@ private Q_SLOTS:
 
     void refusesImages_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("text");
-
-        QTest::newRow("three bands") << u"three.tif"_s << OnlyGray;
+        const Cases<QString, QString> row({"name", "text"});
+        row("three bands", "three.tif", OnlyGray);
         const QString noRaster = u"This file can't be open as a raster dataset"_s;
-        QTest::newRow("no raster") << u"text.tif"_s << noRaster;
-        QTest::newRow("no file") << u"nowhere.tif"_s << noRaster;
+        row("no raster", "text.tif", noRaster);
+        row("no file", "nowhere.tif", noRaster);
     }
 
     void refusesImages()

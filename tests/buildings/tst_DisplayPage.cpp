@@ -1,6 +1,7 @@
 #include "LayerPage.h"
 #include "buildings/FileEntry.h"
 #include "buildings/ui/VltAddTexbPreviewPage.h"
+#include "support/Cases.h"
 
 #include <QTabWidget>
 
@@ -95,23 +96,19 @@ private Q_SLOTS:
 
     void writesWhatIsChosen_data()
     {
-        QTest::addColumn<QVariantMap>("settings");
-        QTest::addColumn<QString>("expected");
-
-        QTest::newRow("roofs") << AllOptions << AllOptionsDocument;
-        QTest::newRow("walls") << values(u"TextureType=1"_s) << FirstRunDocument.arg(u"walls"_s);
-        QTest::newRow("storeys") << values(u"TextureType=2"_s)
-                                 << FirstRunDocument.arg(u"storeys"_s);
+        const Cases<QVariantMap, QString> row({"settings", "expected"});
+        row("roofs", AllOptions, AllOptionsDocument);
+        row("walls", values(u"TextureType=1"_s), FirstRunDocument.arg(u"walls"_s));
+        row("storeys", values(u"TextureType=2"_s), FirstRunDocument.arg(u"storeys"_s));
     }
 
     void writesWhatIsChosen()
     {
         QFETCH(QVariantMap, settings);
-        QFETCH(QString, expected);
         remember(Group, settings);
         DisplayPage page;
 
-        QCOMPARE(page.made(), expected);
+        QTEST(page.made(), "expected");
         QVERIFY(page.layer().contains(u"rf_"_s + QLatin1String(QTest::currentDataTag())));
     }
 
@@ -172,11 +169,9 @@ private Q_SLOTS:
 
     void remembersEveryValue_data()
     {
-        QTest::addColumn<QVariantMap>("stored");
-        QTest::addColumn<QVariantMap>("expected");
-
-        QTest::newRow("first run") << QVariantMap() << FirstRun;
-        QTest::newRow("all other values") << AllOptions << AllOptions;
+        const Cases<QVariantMap, QVariantMap> row({"stored", "expected"});
+        row("first run", {}, FirstRun);
+        row("all other values", AllOptions, AllOptions);
         QVariantMap damaged;
         for (const QString &key : FirstRun.keys())
             damaged.insert(key, u"?"_s);
@@ -184,7 +179,7 @@ private Q_SLOTS:
                         {u"CacheMode"_s, -1},
                         {u"Buffer"_s, u"nan"_s},
                         {u"TileSize"_s, 1e9}});
-        QTest::newRow("damaged") << damaged << FirstRun;
+        row("damaged", damaged, FirstRun);
     }
 
     void remembersEveryValue()

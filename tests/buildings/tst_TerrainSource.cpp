@@ -1,4 +1,5 @@
 #include "SourcePage.h"
+#include "support/Cases.h"
 #include "support/Files.h"
 
 #include <QDir>
@@ -47,21 +48,14 @@ private Q_SLOTS:
 
     void opensTerrains_data()
     {
-        QTest::addColumn<QString>("path");
-        QTest::addColumn<QString>("noData");
-        QTest::addColumn<QString>("message");
-
-        const auto row = [](const char *name, const QString &path, const QString &message,
-                            const QString &noData = {}) {
-            QTest::newRow(name) << path << noData << message;
-        };
+        const Cases<QString, QString, QString> row({"path", "message", "noData"});
         const QString refused = u"This file can't be open as a raster dataset"_s;
-        row("with missing values", grid(), {}, u"-9999.000000"_s);
+        row("with missing values", grid(), {}, "-9999.000000");
         row("without", write(u"full.asc"_s, GridHead + "1 2\n3 4\n"), {});
         row("no raster", plain(), refused);
         row("gone", file(u"gone.tif"_s), refused);
         row("elsewhere", u"/vsicurl/http://127.0.0.1:9/a.tif"_s, refused);
-        row("no band", withoutBands(), u"This image doesn't have any band"_s);
+        row("no band", withoutBands(), "This image doesn't have any band");
         const QString isPicture = u"This raster looks like a picture: its first band holds colors, "
                                   "which would be taken for heights"_s;
         row("orthophoto", picture(3), isPicture);
@@ -103,11 +97,10 @@ private Q_SLOTS:
 
     void comparesSystems_data()
     {
-        QTest::addColumn<double>("west"); ///< western edge of 1,200 km in Web Mercator
-        QTest::addColumn<QString>("reported");
-
-        QTest::newRow("around") << 0.0 << u"covers the buildings"_s;
-        QTest::newRow("elsewhere") << 1e7 << u"does not cover the buildings"_s;
+        // west: western edge of 1,200 km in Web Mercator
+        const Cases<double, QString> row({"west", "reported"});
+        row("around", 0, "covers the buildings");
+        row("elsewhere", 1e7, "does not cover the buildings");
     }
 
     void comparesSystems()
@@ -135,29 +128,23 @@ private Q_SLOTS:
 
     void guessesWhatIsMissing_data()
     {
-        QTest::addColumn<QByteArray>("contents");
-        QTest::addColumn<QString>("guess");
-
-        const auto row = [](const char *name, const QByteArray &contents, const QString &guess) {
-            QTest::newRow(name) << GridHead + contents << guess;
-        };
-        row("lowest", "1 2\n3 -100.5\n", u"-100.500000"_s);
+        const Cases<QByteArray, QString> row({"contents", "guess"});
+        row("lowest", "1 2\n3 -100.5\n", "-100.500000");
         row("lowest float", "1.5 2\n3 -3.4e38\n",
             u"-339999995214436424907732413799364296704.000000"_s);
-        row("low ground", "NODATA_value -9999\n1 -100\n3 -9999\n", u"-9999.000000"_s);
-        row("highest", "NODATA_value -5\n1 2\n3 9000\n", u"9000.000000"_s);
-        row("lowest before highest", "1 -101\n3 9000\n", u"-101.000000"_s);
-        row("ground only", "0 8999\n3 3000\n", u"-32768.000000"_s);
-        row("all missing", "NODATA_value 7\n7 7\n7 7\n", u"7.000000"_s);
+        row("low ground", "NODATA_value -9999\n1 -100\n3 -9999\n", "-9999.000000");
+        row("highest", "NODATA_value -5\n1 2\n3 9000\n", "9000.000000");
+        row("lowest before highest", "1 -101\n3 9000\n", "-101.000000");
+        row("ground only", "0 8999\n3 3000\n", "-32768.000000");
+        row("all missing", "NODATA_value 7\n7 7\n7 7\n", "7.000000");
     }
 
     void guessesWhatIsMissing()
     {
         QFETCH(QByteArray, contents);
-        QFETCH(QString, guess);
         const QTemporaryDir dir;
         Host host;
-        host.dtm()->setText(writeFile(dir.filePath(u"r.asc"_s), contents));
+        host.dtm()->setText(writeFile(dir.filePath(u"r.asc"_s), GridHead + contents));
         auto *bar = host.child<QProgressBar>(u"m_pwNoDataProgress"_s);
         QVERIFY(bar->isHidden());
         QList<int> values;
@@ -174,7 +161,7 @@ private Q_SLOTS:
         host.child<QPushButton>(u"m_pwPbNoData"_s)->click();
 
         QCOMPARE(meanwhile, QStringList());
-        QCOMPARE(host.noData()->text(), guess);
+        QTEST(host.noData()->text(), "guess");
         QCOMPARE(host.buildings()->text(), QString()); // the drop during the guess was ignored
         QCOMPARE(values, QList<int>{1});
         QVERIFY(bar->isHidden() && host.page->isEnabled());

@@ -1,4 +1,5 @@
 #include "buildings/TextureFolders.h"
+#include "support/Cases.h"
 #include "support/Files.h"
 
 #include <QDir>
@@ -93,15 +94,8 @@ private Q_SLOTS:
 
     void walksTheFoldersOfAStructure_data()
     {
-        QTest::addColumn<DataStructure>("structure");
-        QTest::addColumn<QString>("suffix");
-        QTest::addColumn<QString>("files");
-        const auto row = [](const char *name, DataStructure structure, const char *suffix,
-                            const char *files) {
-            QTest::newRow(name) << structure << QString::fromLatin1(suffix)
-                                << QString::fromLatin1(files);
-        };
         using enum DataStructure;
+        const Cases<DataStructure, QString, QString> row({"structure", "suffix", "files"});
         row("same folder", SameFolder, "png", "Nord/B.PNG|Nord/b[1].png|Nord/roof_1.png");
         row("capital suffix", SameFolder, "PNG", "Nord/B.PNG|Nord/b[1].png|Nord/roof_1.png");
         row("no suffix", SameFolder, "",
@@ -262,10 +256,10 @@ private Q_SLOTS:
 
     void reportsHowFarItIsAndStops_data()
     {
-        QTest::addColumn<int>("callsUntilStop");
-        QTest::newRow("to the end") << -1;
-        QTest::newRow("at once") << 1;
-        QTest::newRow("on the way") << 2;
+        const Cases<int> row({"callsUntilStop"});
+        row("to the end", -1);
+        row("at once", 1);
+        row("on the way", 2);
     }
     void reportsHowFarItIsAndStops()
     {

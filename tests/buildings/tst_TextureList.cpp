@@ -1,5 +1,6 @@
 #include "buildings/EmptyFileListModel.h"
 #include "buildings/FileListModel.h"
+#include "support/Cases.h"
 
 #include <QAbstractItemModelTester>
 #include <QColor>
@@ -64,15 +65,11 @@ private Q_SLOTS:
 
     void takesTicksAndHeightsOnly_data()
     {
-        QTest::addColumn<int>("column");
-        QTest::addColumn<int>("role");
-        QTest::addColumn<QVariant>("value");
-        QTest::addColumn<bool>("isTaken");
-        QTest::addColumn<bool>("used");
-        QTest::addColumn<double>("height");
-        const auto row = [](const char *name, int column, int role, const QVariant &value,
-                            bool isTaken, bool used = true, double height = 12) {
-            QTest::newRow(name) << column << role << value << isTaken << used << height;
+        const Cases<int, int, QVariant, bool, bool, double> table(
+            {"column", "role", "value", "isTaken", "used", "height"});
+        const auto row = [&table](const char *name, int column, int role, const QVariant &value,
+                                  bool isTaken, bool used = true, double height = 12) {
+            table(name, column, role, value, isTaken, used, height);
         };
         row("untick", 0, Qt::CheckStateRole, 0, true, false);
         row("tick", 0, Qt::CheckStateRole, 2, true);
@@ -113,24 +110,23 @@ private Q_SLOTS:
 
     void showsWhatTheFilterMatches_data()
     {
-        QTest::addColumn<QString>("filter");
-        QTest::addColumn<QList<int>>("shown");
         using Rows = QList<int>;
-        QTest::newRow("empty") << QString() << Rows{0, 1, 2};
-        QTest::newRow("decimal comma, name and height") << u"3,5"_s << Rows{0};
-        QTest::newRow("decimal point, height") << u"3.5"_s << Rows{0};
-        QTest::newRow("a point is no wildcard") << u"1.2"_s << Rows{2}; // 1.23457e+06
-        QTest::newRow("expression on the height") << u"^1[0-9]$"_s << Rows{1};
-        QTest::newRow("part of the height") << u"2"_s << Rows{1, 2};
-        QTest::newRow("six digits") << u"1,23457e"_s << Rows{2};
-        QTest::newRow("not the seventh") << u"1234567"_s << Rows{};
-        QTest::newRow("file") << u"roof_"_s << Rows{1};
-        QTest::newRow("folder") << u"Sud"_s << Rows{1, 2};
-        QTest::newRow("description") << u"Page"_s << Rows{2};
-        QTest::newRow("letters as typed") << u"page 2"_s << Rows{};
-        QTest::newRow("no expression for names") << u"r..f"_s << Rows{};
-        QTest::newRow("format of an image in a file") << u"GTIFF"_s << Rows{};
-        QTest::newRow("broken expression") << u"("_s << Rows{};
+        const Cases<QString, QList<int>> row({"filter", "shown"});
+        row("empty", {}, Rows{0, 1, 2});
+        row("decimal comma, name and height", "3,5", Rows{0});
+        row("decimal point, height", "3.5", Rows{0});
+        row("a point is no wildcard", "1.2", Rows{2}); // 1.23457e+06
+        row("expression on the height", "^1[0-9]$", Rows{1});
+        row("part of the height", "2", Rows{1, 2});
+        row("six digits", "1,23457e", Rows{2});
+        row("not the seventh", "1234567", Rows{});
+        row("file", "roof_", Rows{1});
+        row("folder", "Sud", Rows{1, 2});
+        row("description", "Page", Rows{2});
+        row("letters as typed", "page 2", Rows{});
+        row("no expression for names", "r..f", Rows{});
+        row("format of an image in a file", "GTIFF", Rows{});
+        row("broken expression", "(", Rows{});
     }
     void showsWhatTheFilterMatches()
     {

@@ -1,5 +1,6 @@
 #include "buildings/FileEntry.h"
 #include "buildings/HeightFromName.h"
+#include "support/Cases.h"
 
 #include <QTest>
 
@@ -13,54 +14,47 @@ class tst_TextureNames : public QObject
 private Q_SLOTS:
     void findsTheHeightInAName_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<double>("height");
-        QTest::addColumn<bool>("inMetres");
-        const auto row = [](const QString &name, double height, bool inMetres) {
-            QTest::newRow(qPrintable(name)) << name << height << inMetres;
-        };
+        const Cases<double, bool> row({"height", "inMetres"});
         // a number at the end
-        row(u"roof_12"_s, 12, false);
-        row(u"roof 12."_s, 12, false);
-        row(u"roof,5"_s, 0.5, false);
-        row(u"roof3,25"_s, 3.25, false);
-        row(u"1.2.3"_s, 2.3, false); // "1.2.3" is not a number, but "2.3" is
-        row(u"m 12"_s, 12, false);   // the letter is not in the match
-        row(u"5"_s, 5, false);
+        row("roof_12", 12, false);
+        row("roof 12.", 12, false);
+        row("roof,5", 0.5, false);
+        row("roof3,25", 3.25, false);
+        row("1.2.3", 2.3, false); // "1.2.3" is not a number, but "2.3" is
+        row("m 12", 12, false);   // the letter is not in the match
+        row("5", 5, false);
         // a number and the letter at the end
-        row(u"wall 3,5m"_s, 3.5, true);
-        row(u"wall_4 M"_s, 4, false); // a capital letter is not the unit
-        row(u"wall 4.(m)"_s, 4, true);
-        row(u"2m_wall_7(M)"_s, 7, false);
-        row(u"wall 4  m"_s, 1.5, true); // at most one blank; only the letter matches
+        row("wall 3,5m", 3.5, true);
+        row("wall_4 M", 4, false); // a capital letter is not the unit
+        row("wall 4.(m)", 4, true);
+        row("2m_wall_7(M)", 7, false);
+        row("wall 4  m", 1.5, true); // at most one blank; only the letter matches
         // only the letter, at the end
-        row(u"facade(m)"_s, 1.5, true);
-        row(u"beam"_s, 1.5, true);
-        row(u"3 m facade M"_s, 1.5, false);
+        row("facade(m)", 1.5, true);
+        row("beam", 1.5, true);
+        row("3 m facade M", 1.5, false);
         // a number and the letter in brackets
-        row(u"a(2.5 m)b"_s, 2.5, true);
-        row(u"1m (2,5(m)) b"_s, 2.5, true);
-        row(u"7m (8m"_s, 8, true); // no closing bracket; the end is tried first
-        row(u"9m (8) b"_s, 9, true);
+        row("a(2.5 m)b", 2.5, true);
+        row("1m (2,5(m)) b", 2.5, true);
+        row("7m (8m", 8, true); // no closing bracket; the end is tried first
+        row("9m (8) b", 9, true);
         // anywhere
-        row(u"h12m_wall"_s, 12, true);
-        row(u"h 1.25 m wall"_s, 1.25, true);
-        row(u"12 m 13 m x"_s, 12, true);
+        row("h12m_wall", 12, true);
+        row("h 1.25 m wall", 1.25, true);
+        row("12 m 13 m x", 12, true);
         // none
-        row(u"wall"_s, 0, false);
-        row(u"12 walls"_s, 0, false);
-        row(QString(), 0, false);
-        row(u"wall (2.5) b"_s, 0, false);
-        row(u"12\n"_s, 0, false);
+        row("wall", 0, false);
+        row("12 walls", 0, false);
+        row("", 0, false);
+        row("wall (2.5) b", 0, false);
+        row("12\n", 0, false);
         // digits of another script are not read as a number
-        row(u"wall \u0663"_s, 0, false);
-        row(u"5m wall \u0663"_s, 5, true);
+        row("wall \u0663", 0, false);
+        row("5m wall \u0663", 5, true);
     }
     void findsTheHeightInAName()
     {
-        QFETCH(const QString, name);
-
-        const NamedHeight named = heightFromName(name);
+        const NamedHeight named = heightFromName(QString::fromUtf8(QTest::currentDataTag()));
 
         QTEST(named.height, "height");
         QTEST(named.inMetres, "inMetres");
@@ -68,19 +62,18 @@ private Q_SLOTS:
 
     void namesTheFileOnTheDisk_data()
     {
-        QTest::addColumn<QString>("path");
-        QTest::addColumn<QString>("name");
-        QTest::newRow("plain") << u"/a/b 2.tif"_s << u"b 2.tif"_s;
-        QTest::newRow("odd letters") << u"/a/x\":y.tif"_s << u"x\":y.tif"_s;
-        QTest::newRow("page") << u"GTIFF_DIR:2:/a/b.tif"_s << u"b.tif"_s;
-        QTest::newRow("quoted") << u"NETCDF:\"/a/b.nc\":var"_s << u"b.nc"_s;
-        QTest::newRow("quotes in the folder") << u"GTIFF_DIR:1:/a/\"q\" b/c.tif"_s << u"c.tif"_s;
-        QTest::newRow("quoted, with quotes") << u"NETCDF:\"/a \"q\"/b.nc\":var"_s << u"b.nc"_s;
-        QTest::newRow("slashes behind") << u"HDF5:\"/a/b.h5\"://c/d"_s << u"b.h5"_s;
-        QTest::newRow("table") << u"GPKG:/a/b.gpkg:table"_s << u"b.gpkg"_s;
-        QTest::newRow("colon in the name") << u"GTIFF_DIR:1:/a/b:c.tif"_s << u"b:c.tif"_s;
-        QTest::newRow("quote left open") << u"NETCDF:\"/a/b.nc"_s << u"b.nc"_s;
-        QTest::newRow("none") << QString() << QString();
+        const Cases<QString, QString> row({"path", "name"});
+        row("plain", "/a/b 2.tif", "b 2.tif");
+        row("odd letters", "/a/x\":y.tif", "x\":y.tif");
+        row("page", "GTIFF_DIR:2:/a/b.tif", "b.tif");
+        row("quoted", "NETCDF:\"/a/b.nc\":var", "b.nc");
+        row("quotes in the folder", "GTIFF_DIR:1:/a/\"q\" b/c.tif", "c.tif");
+        row("quoted, with quotes", "NETCDF:\"/a \"q\"/b.nc\":var", "b.nc");
+        row("slashes behind", "HDF5:\"/a/b.h5\"://c/d", "b.h5");
+        row("table", "GPKG:/a/b.gpkg:table", "b.gpkg");
+        row("colon in the name", "GTIFF_DIR:1:/a/b:c.tif", "b:c.tif");
+        row("quote left open", "NETCDF:\"/a/b.nc", "b.nc");
+        row("none", {}, {});
     }
     void namesTheFileOnTheDisk()
     {

@@ -2,6 +2,7 @@
 #include "buildings/EmptyFileListModel.h"
 #include "buildings/ui/VltAddTexbTexturedPage.h"
 #include "gui/FileDialogAnswer.h"
+#include "support/Cases.h"
 #include "support/Patience.h"
 
 #include <QAction>
@@ -87,13 +88,11 @@ private Q_SLOTS:
 
     void listsTheImagesAroundATemplate_data()
     {
-        QTest::addColumn<int>("structure");
-        QTest::addColumn<int>("count");
-
-        QTest::newRow("same folder") << 0 << 3;
-        QTest::newRow("folders at the same level") << 1 << 4;
-        QTest::newRow("folders at two levels") << 2 << 5;
-        QTest::newRow("none chosen") << 0 << 0;
+        const Cases<int, int> row({"structure", "count"});
+        row("same folder", 0, 3);
+        row("folders at the same level", 1, 4);
+        row("folders at two levels", 2, 5);
+        row("none chosen", 0, 0);
     }
 
     void listsTheImagesAroundATemplate()
@@ -194,14 +193,12 @@ private Q_SLOTS:
 
     void takesTypedHeights_data()
     {
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<double>("height");
-
-        QTest::newRow("comma") << u"4,25"_s << 4.25;
-        QTest::newRow("point") << u"4.25"_s << 4.25;
-        QTest::newRow("basement") << u"-1"_s << -1.0;
-        QTest::newRow("a word") << u"abc"_s << 2.0;
-        QTest::newRow("no finite number") << u"inf"_s << 2.0;
+        const Cases<QString, double> row({"typed", "height"});
+        row("comma", "4,25", 4.25);
+        row("point", "4.25", 4.25);
+        row("basement", "-1", -1);
+        row("a word", "abc", 2);
+        row("no finite number", "inf", 2);
     }
 
     void takesTypedHeights()

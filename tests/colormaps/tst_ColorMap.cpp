@@ -1,6 +1,7 @@
 #include "ColorMapTesting.h"
 
 #include "colormaps/ColorLookup.h"
+#include "support/Cases.h"
 
 #include <QTest>
 
@@ -38,14 +39,7 @@ class tst_ColorMap : public QObject
 private Q_SLOTS:
     void readsTexts_data()
     {
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<QString>("expected");
-        QTest::addColumn<QString>("noData");
-        const auto row = [](const char *name, const char *text, const char *expected,
-                            const char *noData = "") {
-            QTest::newRow(name) << QByteArray(text) << QString::fromLatin1(expected)
-                                << QString::fromLatin1(noData);
-        };
+        const Cases<QByteArray, QString, QString> row({"text", "expected", "noData"});
         row("all separators, empty tokens", "1,2,3,4\n 2:\t5 : 6,,7 8", "1 2,3,4,255; 2 5,6,7,8");
         row("line ends", "1 red\r\n2 red\r3 red\n\n",
             "1 255,0,0,255; 2 255,0,0,255; 3 255,0,0,255");
@@ -99,35 +93,28 @@ private Q_SLOTS:
 
     void stretches_data()
     {
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<double>("minimum");
-        QTest::addColumn<double>("maximum");
-        QTest::addColumn<QString>("expected"); // values
-        const auto row = [](const char *name, const char *text, double minimum, double maximum,
-                            const char *expected) {
-            QTest::newRow(name) << QByteArray(text) << minimum << maximum
-                                << QString::fromLatin1(expected);
-        };
+        const Cases<QByteArray, double, double, QString> row(
+            {"text", "minimum", "maximum", "expected"});
         const char *const plain = "0 white\n100 0 0 255\n50 red";
-        row("percentage scaled twice", "0 white\n100 0 0 255\n50% red 128", 0., 10., "0 0.5 10");
-        row("absolute values", plain, -120., -60., "-120 -90 -60");
-        row("percentages only", "0% red\n25% red\n100% red", 10., 30., "10 15 30");
-        row("percentages that leave room", "20% red\n60% red", 0., 100., "0 100");
-        row("ends of the percentages", "0% red\n100% red", 1., 2., "1 2");
-        row("one value", "5 red", 3., 4., "3");
-        row("one value twice", "5 red\n5 blue", 3., 4., "3 3");
-        row("turned round", plain, 10., 0., "0 5 10");
-        row("no width", plain, 7., 7., "7 7 7");
-        row("only a minimum", plain, 7., Unset, "0 50 100");
-        row("only a maximum", plain, Unset, 7., "0 50 100");
-        row("no number", plain, NaN, 7., "0 50 100");
-        row("infinite", plain, 0., Infinity, "0 50 100");
-        row("file as wide as numbers go", "-1.5e308 red\n0 red\n1.5e308 red", 0., 8., "0 4 8");
-        row("beyond numbers", "-1e999 red\n1e999 red", 0., 8., "0 8");
+        row("percentage scaled twice", "0 white\n100 0 0 255\n50% red 128", 0, 10, "0 0.5 10");
+        row("absolute values", plain, -120, -60, "-120 -90 -60");
+        row("percentages only", "0% red\n25% red\n100% red", 10, 30, "10 15 30");
+        row("percentages that leave room", "20% red\n60% red", 0, 100, "0 100");
+        row("ends of the percentages", "0% red\n100% red", 1, 2, "1 2");
+        row("one value", "5 red", 3, 4, "3");
+        row("one value twice", "5 red\n5 blue", 3, 4, "3 3");
+        row("turned round", plain, 10, 0, "0 5 10");
+        row("no width", plain, 7, 7, "7 7 7");
+        row("only a minimum", plain, 7, Unset, "0 50 100");
+        row("only a maximum", plain, Unset, 7, "0 50 100");
+        row("no number", plain, NaN, 7, "0 50 100");
+        row("infinite", plain, 0, Infinity, "0 50 100");
+        row("file as wide as numbers go", "-1.5e308 red\n0 red\n1.5e308 red", 0, 8, "0 4 8");
+        row("beyond numbers", "-1e999 red\n1e999 red", 0, 8, "0 8");
         row("range as wide as numbers go", plain, -1.5e308, 1.5e308, "-1.5e+308 0 1.5e+308");
         row("percentage of such a range", "0% red\n50% red\n100% red", -1.5e308, 1.5e308,
             "-1.5e+308 0 1.5e+308");
-        row("percentage of a range nearly so wide", "0% red\n20% red\n100% red", 0., 1.5e308,
+        row("percentage of a range nearly so wide", "0% red\n20% red\n100% red", 0, 1.5e308,
             "0 3e+307 1.5e+308");
     }
 
@@ -157,36 +144,31 @@ private Q_SLOTS:
 
     void refusesAndTellsWhy_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<QString>("message"); // %1: path
-        const auto row = [](const char *what, const QByteArray &text, const QString &message,
-                            const char *name = "a.txt") {
-            QTest::newRow(what) << QString::fromLatin1(name) << text << message;
-        };
-        row("above 100 %", "1 red\n120% red", u"Wrong value for a percentage : 120%"_s);
-        row("below 0 %", "-1% red", u"Wrong value for a percentage : -1%"_s);
-        row("unknown colour", "nv red\n5 pink\n6 mauve", u"Unknown color : pink"_s);
-        row("too few numbers", "5 10 20", u"Unknown color : 10"_s);
-        row("unknown colour of no data", "1 red\nnv none", u"Unknown color : none"_s);
+        // message: "%1" means the path
+        const Cases<QByteArray, QString, QString> row({"text", "message", "otherName"});
+        row("above 100 %", "1 red\n120% red", "Wrong value for a percentage : 120%");
+        row("below 0 %", "-1% red", "Wrong value for a percentage : -1%");
+        row("unknown colour", "nv red\n5 pink\n6 mauve", "Unknown color : pink");
+        row("too few numbers", "5 10 20", "Unknown color : 10");
+        row("unknown colour of no data", "1 red\nnv none", "Unknown color : none");
         row("a token of a damaged file", "1 " + QByteArray(100'000, 'z'),
             u"Unknown color : "_s + QString(256, u'z'));
-        row("empty", {}, u"No color association found in %1"_s, "a.cmap");
-        row("no data only", "nv red\n# x y", u"No color association found in %1"_s);
-        row("huge", QByteArray((16 << 20) + 1, '\n'),
-            u"the file %1 is too large for a color map"_s);
+        row("empty", {}, "No color association found in %1", "a.cmap");
+        row("no data only", "nv red\n# x y", "No color association found in %1");
+        row("huge", QByteArray((16 << 20) + 1, '\n'), "the file %1 is too large for a color map");
         for (const char *name : {"myINDEX.txt", "a.clr", "a.txt.bak", "txt"})
             row(name, "1 red", {}, name);
     }
 
     void refusesAndTellsWhy()
     {
-        QFETCH(QString, name);
         QFETCH(QByteArray, text);
         QFETCH(QString, message);
+        QFETCH(QString, otherName);
         ColorMap map;
         QVERIFY(map.load(fileWith(m_dir, u"good.TXT"_s, "nv red\n1 red")));
-        const std::string path = fileWith(m_dir, name, text);
+        const std::string path =
+            fileWith(m_dir, otherName.isEmpty() ? u"a.txt"_s : otherName, text);
         ReportedErrors errors;
 
         const bool isLoaded = map.load(path, 0, 10);
@@ -217,23 +199,21 @@ private Q_SLOTS:
 
     void readsPalettes_data()
     {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<QString>("expected");
+        const Cases<QByteArray, QString> row({"bytes", "expected"});
         const QByteArray planes("\x01\x02\x0A\x0B\x64\xFF", 6);
         const QString two = u"7 1,10,100,255; 8 2,11,255,255"_s;
-        QTest::newRow("little-endian") << paletteHeader(7, 2) + planes << two;
-        QTest::newRow("big-endian") << paletteHeader(7, 2, true) + planes << two;
-        QTest::newRow("a byte too many") << paletteHeader(7, 2) + planes + "x" << two;
-        QTest::newRow("a fourth plane") << paletteHeader(7, 2) + planes + "xy" << QString();
-        QTest::newRow("a byte too few") << paletteHeader(7, 2) + planes.chopped(1) << QString();
-        QTest::newRow("first index too high") << paletteHeader(256, 2) + planes << QString();
-        QTest::newRow("last index beyond 255")
-            << paletteHeader(255, 2) + planes << u"255 1,10,100,255; 256 2,11,255,255"_s;
-        QTest::newRow("no colour") << paletteHeader(7, 0) + planes << QString();
-        QTest::newRow("too many colours")
-            << paletteHeader(0, 257) + QByteArray(3 * 257, 'x') << QString();
-        QTest::newRow("header cut") << paletteHeader(7, 2).chopped(1) << QString();
-        QTest::newRow("empty") << QByteArray() << QString();
+        row("little-endian", paletteHeader(7, 2) + planes, two);
+        row("big-endian", paletteHeader(7, 2, true) + planes, two);
+        row("a byte too many", paletteHeader(7, 2) + planes + "x", two);
+        row("a fourth plane", paletteHeader(7, 2) + planes + "xy", {});
+        row("a byte too few", paletteHeader(7, 2) + planes.chopped(1), {});
+        row("first index too high", paletteHeader(256, 2) + planes, {});
+        row("last index beyond 255", paletteHeader(255, 2) + planes,
+            "255 1,10,100,255; 256 2,11,255,255");
+        row("no colour", paletteHeader(7, 0) + planes, {});
+        row("too many colours", paletteHeader(0, 257) + QByteArray(3 * 257, 'x'), {});
+        row("header cut", paletteHeader(7, 2).chopped(1), {});
+        row("empty", {}, {});
     }
 
     void readsPalettes()
@@ -260,20 +240,18 @@ private Q_SLOTS:
 
     void findsColors_data()
     {
-        QTest::addColumn<double>("value");
-        QTest::addColumn<QString>("range");
-        QTest::addColumn<QString>("mixture");
+        const Cases<double, QString, QString> row({"value", "range", "mixture"});
         const QString first = u"0,0,0,0"_s;
         const QString last = u"9,9,9,9"_s;
-        QTest::newRow("below") << -Infinity << first << first;
-        QTest::newRow("first") << 0. << first << first;
-        QTest::newRow("quarter") << 2.5 << first << u"25,50,63,64"_s; // 62.5 and 63.75 rounded
-        QTest::newRow("up to the edge") << 10. - 1e-9 << first << u"100,200,250,255"_s;
-        QTest::newRow("at the edge") << 10. << u"4,4,4,255"_s << u"100,200,250,255"_s;
-        QTest::newRow("behind it") << 15. << u"4,4,4,255"_s << u"7,7,7,132"_s; // 6.5 rounded
-        QTest::newRow("last") << 20. << last << last;
-        QTest::newRow("above") << Infinity << last << last;
-        QTest::newRow("no value") << NaN << u"1,2,3,4"_s << u"1,2,3,4"_s;
+        row("below", -Infinity, first, first);
+        row("first", 0, first, first);
+        row("quarter", 2.5, first, "25,50,63,64"); // 62.5 and 63.75 rounded
+        row("up to the edge", 10. - 1e-9, first, "100,200,250,255");
+        row("at the edge", 10, "4,4,4,255", "100,200,250,255");
+        row("behind it", 15, "4,4,4,255", "7,7,7,132"); // 6.5 rounded
+        row("last", 20, last, last);
+        row("above", Infinity, last, last);
+        row("no value", NaN, "1,2,3,4", "1,2,3,4");
     }
 
     void findsColors()

@@ -2,6 +2,7 @@
 #include "support/Files.h"
 
 #include "colormaps/ColorLookup.h"
+#include "support/Cases.h"
 
 #include <QDirIterator>
 #include <QFileInfo>
@@ -112,12 +113,12 @@ private Q_SLOTS:
 
     void agreesWithTheColorRelief_data()
     {
-        QTest::addColumn<QString>("path");
+        const Cases<QString> row({"path"});
         QStringList paths = m_shipped + filesUnder(QStringLiteral(VLT_SAMPLES));
         if (qEnvironmentVariableIsSet("VLT_MORE_COLOR_MAPS")) // a folder with more maps
             paths += filesUnder(qEnvironmentVariable("VLT_MORE_COLOR_MAPS"));
         for (const QString &path : paths)
-            QTest::newRow(qPrintable(QFileInfo(path).fileName())) << path;
+            row(qPrintable(QFileInfo(path).fileName()), path);
     }
 
     void agreesWithTheColorRelief()

@@ -3,6 +3,7 @@
 #include "colormaps/Legend.h"
 #include "colormaps/LegendRows.h"
 #include "colormaps/OpenColorMap.h"
+#include "support/Cases.h"
 #include "support/Files.h"
 
 #include <QTemporaryDir>
@@ -66,18 +67,16 @@ private Q_SLOTS:
 
     void writesNumbersThatTellValuesApart_data()
     {
-        QTest::addColumn<double>("value");
-        QTest::addColumn<double>("gap");
-        QTest::addColumn<QString>("text");
-        QTest::newRow("whole") << -120. << 10. << u"-120"_s;
-        QTest::newRow("stretched") << -87.352941 << 10. << u"-87.4"_s;
-        QTest::newRow("near enough to whole") << 30.04 << 5. << u"30"_s;
-        QTest::newRow("fine") << 0.02 << 0.01 << u"0.02"_s;
-        QTest::newRow("large and fine") << 1234567.25 << 0.5 << u"1234567.25"_s;
-        QTest::newRow("no negative zero") << -0.001 << 1. << u"0"_s;
-        QTest::newRow("too fine") << 1.23456789 << 1e-9 << u"1.23457"_s;
-        QTest::newRow("too large") << 2.5e12 << 1e12 << u"2.5e+12"_s;
-        QTest::newRow("alone") << 12345.678 << 0. << u"12345.7"_s;
+        const Cases<double, double, QString> row({"value", "gap", "text"});
+        row("whole", -120, 10, "-120");
+        row("stretched", -87.352941, 10, "-87.4");
+        row("near enough to whole", 30.04, 5, "30");
+        row("fine", 0.02, 0.01, "0.02");
+        row("large and fine", 1234567.25, 0.5, "1234567.25");
+        row("no negative zero", -0.001, 1, "0");
+        row("too fine", 1.23456789, 1e-9, "1.23457");
+        row("too large", 2.5e12, 1e12, "2.5e+12");
+        row("alone", 12345.678, 0, "12345.7");
     }
 
     void writesNumbersThatTellValuesApart()
@@ -89,14 +88,10 @@ private Q_SLOTS:
 
     void labelsValuesAndRanges_data()
     {
-        QTest::addColumn<QByteArray>("map");
-        QTest::addColumn<QString>("gradient");
-        QTest::addColumn<QString>("ranges");
-        QTest::newRow("uneven") << QByteArray("0 red\n1 red\n1000 red") << u"0 1 1000"_s
-                                << u"< 1|1 \u2026 1000|\u2265 1000"_s;
-        QTest::newRow("equal values count once")
-            << QByteArray("0 red\n5 red\n5 blue") << u"0 5"_s << u"< 5|\u2265 5"_s;
-        QTest::newRow("one") << QByteArray("7 red") << u"7"_s << u"7"_s;
+        const Cases<QByteArray, QString, QString> row({"map", "gradient", "ranges"});
+        row("uneven", "0 red\n1 red\n1000 red", "0 1 1000", "< 1|1 \u2026 1000|\u2265 1000");
+        row("equal values count once", "0 red\n5 red\n5 blue", "0 5", "< 5|\u2265 5");
+        row("one", "7 red", "7", "7");
     }
 
     void labelsValuesAndRanges()

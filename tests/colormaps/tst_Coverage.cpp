@@ -1,6 +1,7 @@
 #include "contract/NoDataText.h"
 #include "coverage/CoverageRaster.h"
 #include "coverage/LocalRaster.h"
+#include "support/Cases.h"
 #include "support/Files.h"
 
 #include <QTemporaryDir>
@@ -112,15 +113,14 @@ private Q_SLOTS:
 
     void agreesWithGeometryOverTheCity_data()
     {
-        QTest::addColumn<Placing>("placing");
-        QTest::addColumn<int>("mode");
+        const Cases<Placing, int> row({"placing", "mode"});
         const double turn = 0.4;
         const Placing straight{221450, 3, 0, 6758660, 0, -3};
         const Placing rotated{221250,  3 * std::cos(turn), 3 * std::sin(turn),
                               6758500, 3 * std::sin(turn), -3 * std::cos(turn)};
         for (const int mode : {0, 1, 2, 3}) {
-            QTest::addRow("straight %d", mode) << straight << mode;
-            QTest::addRow("rotated %d", mode) << rotated << mode;
+            row(qPrintable(u"straight %1"_s.arg(mode)), straight, mode);
+            row(qPrintable(u"rotated %1"_s.arg(mode)), rotated, mode);
         }
     }
 
@@ -181,40 +181,30 @@ private Q_SLOTS:
 
     void takesTheRightPixels_data()
     {
+        const Cases<QByteArray, int, double> row({"wkt", "mode", "expected"});
         // 10 20 30 40
         // 50 60 no 80   pixels of 10 by 10, from (0, 30) to (40, 0)
         // 90 60 77 30
-        QTest::addColumn<QByteArray>("wkt");
-        QTest::addColumn<int>("mode");
-        QTest::addColumn<double>("expected");
-        QTest::newRow("smaller than a pixel: that under its middle")
-            << QByteArray("POLYGON((11 21,13 21,13 23,11 23))") << 0 << 20.;
-        QTest::newRow("the middle of an L, which is not that of its box")
-            << QByteArray("POLYGON((16 11,24 11,24 12,17 12,17 14,16 14))") << 0 << 60.;
-        QTest::newRow("outside") << QByteArray("POLYGON((-20 0,-10 0,-10 10))") << 0 << NaN;
-        QTest::newRow("partly outside") << QByteArray("POLYGON((-9 1,9 1,9 99,-9 99))") << 2 << 50.;
-        QTest::newRow("only what has no value")
-            << QByteArray("POLYGON((20 0,30 0,30 20,20 20))") << 1 << NaN;
-        QTest::newRow("no-data left out of the average: (60 + 80) / 2")
-            << QByteArray("POLYGON((10 10,40 10,40 20,10 20,10 10))") << 2 << 70.;
-        QTest::newRow("hole") << QByteArray(
-                                     "POLYGON((0 0,20 0,20 30,0 30),(1 11,19 11,19 19,1 19))")
-                              << 2 << 45.;
-        QTest::newRow("most represented")
-            << QByteArray("POLYGON((0 0,20 0,20 30,0 30))") << 3 << 60.;
-        QTest::newRow("all: two values twice, the lower one")
-            << QByteArray("POLYGON((-1 -1,99 -1,99 99,-1 99))") << 3 << 30.;
-        QTest::newRow("a place that is none")
-            << QByteArray("POLYGON((0 0,40 0,1e400 30,0 30))") << 0 << NaN;
-        QTest::newRow("a place out of reach")
-            << QByteArray("POLYGON((-1e308 0,1e308 1,40 30,0 30))") << 0 << NaN;
+        row("smaller than a pixel: that under its middle", "POLYGON((11 21,13 21,13 23,11 23))", 0,
+            20);
+        row("the middle of an L, which is not that of its box",
+            "POLYGON((16 11,24 11,24 12,17 12,17 14,16 14))", 0, 60);
+        row("outside", "POLYGON((-20 0,-10 0,-10 10))", 0, NaN);
+        row("partly outside", "POLYGON((-9 1,9 1,9 99,-9 99))", 2, 50);
+        row("only what has no value", "POLYGON((20 0,30 0,30 20,20 20))", 1, NaN);
+        row("no-data left out of the average: (60 + 80) / 2",
+            "POLYGON((10 10,40 10,40 20,10 20,10 10))", 2, 70);
+        row("hole", "POLYGON((0 0,20 0,20 30,0 30),(1 11,19 11,19 19,1 19))", 2, 45);
+        row("most represented", "POLYGON((0 0,20 0,20 30,0 30))", 3, 60);
+        row("all: two values twice, the lower one", "POLYGON((-1 -1,99 -1,99 99,-1 99))", 3, 30);
+        row("a place that is none", "POLYGON((0 0,40 0,1e400 30,0 30))", 0, NaN);
+        row("a place out of reach", "POLYGON((-1e308 0,1e308 1,40 30,0 30))", 0, NaN);
     }
 
     void takesTheRightPixels()
     {
         QFETCH(const QByteArray, wkt);
         QFETCH(const int, mode);
-        QFETCH(const double, expected);
         const std::string path =
             fileOf("few.tif", 4, {10, 20, 30, 40, 50, 60, FileNoData, 80, 90, 60, TypedNoData, 30},
                    {0, 10, 0, 30, 0, -10});
@@ -223,10 +213,9 @@ private Q_SLOTS:
         const OGRGeometryUniquePtr shape = polygonOf(wkt);
         QVERIFY(shape);
 
-        QCOMPARE(
-            valueUnder(*raster.file, ringsOf(*shape->toPolygon()), static_cast<Reduction>(mode))
-                .value_or(NaN),
-            expected);
+        QTEST(valueUnder(*raster.file, ringsOf(*shape->toPolygon()), static_cast<Reduction>(mode))
+                  .value_or(NaN),
+              "expected");
     }
 
     void scalesValuesAndFindsTheirRange()
@@ -336,24 +325,16 @@ private Q_SLOTS:
 
     void refusesOthers_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("noData");
-        QTest::addColumn<QString>("reason");
-        QTest::newRow("bands") << u"three.tif"_s << QString()
-                               << u"it does not have exactly one band"_s;
-        QTest::newRow("no number")
-            << u"one.tif"_s << u"1.5 m"_s << u"the no-data value \"1.5 m\" is not a number"_s;
-        QTest::newRow("absent") << u"absent.tif"_s << QString() << u"there is no such local file"_s;
-        QTest::newRow("more marks of paths than can be tried")
-            << u":/"_s.repeated(50000) << QString() << u"there is no such local file"_s;
-        QTest::newRow("part that is none")
-            << u"GTIFF_DIR:1:one.tif"_s << QString() << u"there is no such local file"_s;
-        QTest::newRow("memory") << u"/vsimem/one.tif"_s << QString()
-                                << u"there is no such local file"_s;
-        QTest::newRow("network") << u"/vsicurl/http://localhost/one.tif"_s << QString()
-                                 << u"there is no such local file"_s;
-        QTest::newRow("source elsewhere")
-            << u"source.vrt"_s << QString() << u"virtual rasters are not opened"_s;
+        const Cases<QString, QString, QString> row({"name", "noData", "reason"});
+        row("bands", "three.tif", {}, "it does not have exactly one band");
+        row("no number", "one.tif", "1.5 m", "the no-data value \"1.5 m\" is not a number");
+        row("absent", "absent.tif", {}, "there is no such local file");
+        row("more marks of paths than can be tried", u":/"_s.repeated(50000), {},
+            "there is no such local file");
+        row("part that is none", "GTIFF_DIR:1:one.tif", {}, "there is no such local file");
+        row("memory", "/vsimem/one.tif", {}, "there is no such local file");
+        row("network", "/vsicurl/http://localhost/one.tif", {}, "there is no such local file");
+        row("source elsewhere", "source.vrt", {}, "virtual rasters are not opened");
     }
 
     void refusesOthers()
