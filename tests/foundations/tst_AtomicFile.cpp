@@ -1,4 +1,5 @@
 #include "platform/AtomicFile.h"
+#include "support/Cases.h"
 #include "support/Files.h"
 
 #include <QDir>
@@ -41,14 +42,12 @@ private Q_SLOTS:
 
     void writesWithTheModeThatIsAskedFor_data()
     {
-        QTest::addColumn<Access>("access");
-        QTest::addColumn<int>("oldMode"); // 0 for no file before
-        QTest::addColumn<int>("expectedMode");
-
-        QTest::newRow("user only, new") << Access::UserOnly << 0 << 0600;
-        QTest::newRow("user only, over a public file") << Access::UserOnly << 0666 << 0600;
-        QTest::newRow("shared, new") << Access::Shared << 0 << 0644;
-        QTest::newRow("shared, over a private file") << Access::Shared << 0640 << 0640;
+        // oldMode: 0 for no file before
+        const Cases<Access, int, int> row({"access", "oldMode", "expectedMode"});
+        row("user only, new", Access::UserOnly, 0, 0600);
+        row("user only, over a public file", Access::UserOnly, 0666, 0600);
+        row("shared, new", Access::Shared, 0, 0644);
+        row("shared, over a private file", Access::Shared, 0640, 0640);
     }
 
     void writesWithTheModeThatIsAskedFor()

@@ -2,6 +2,7 @@
 #include "app/GeodataLibrary.h"
 #include "platform/IniFile.h"
 #include "platform/Settings.h"
+#include "support/Cases.h"
 #include "support/Files.h"
 
 #include <QFile>
@@ -60,46 +61,42 @@ private Q_SLOTS:
 
     void resolvesStartupSettings_data()
     {
-        QTest::addColumn<QByteArray>("ini");
-        QTest::addColumn<QString>("language");
-        QTest::addColumn<QString>("installDir"); // "." means the executable's directory
-        QTest::addColumn<QString>("messagesDir");
-        const auto row = [](const char *name, const QByteArray &ini, const QString &language) {
-            QTest::newRow(name) << ini << language << u"."_s << u"MESSAGES"_s;
-        };
+        // The executable's directory and "MESSAGES" stand where the others are left out.
+        const Cases<QByteArray, QString, QString, QString> row(
+            {"ini", "language", "installDir", "messagesDir"});
         const QByteArray direct = "[VltDirectSettings]\n";
         const QByteArray references = "[VltRegisterKeys]\n";
 
-        QTest::newRow("all given")
-            << direct + "LANGUAGE=FRENCH\nINSTALL_DIR=/opt/v\nMESSAGES_DIR=M\n"
-            << u"FRENCH"_s << u"/opt/v"_s << u"M"_s;
-        row("nothing configured, German system", "", u"ENGLISH"_s);
+        row("all given", direct + "LANGUAGE=FRENCH\nINSTALL_DIR=/opt/v\nMESSAGES_DIR=M\n", "FRENCH",
+            "/opt/v", "M");
+        row("nothing configured, German system", "", "ENGLISH");
         row("given language wins over its reference",
             direct + "LANGUAGE=Dutch\n" + references +
                 "VltRegKey_Language=Veltaro/General/UI/Language\n",
-            u"Dutch"_s);
+            "Dutch");
         row("referenced language, key with slashes",
-            references + "VltRegKey_Language=Veltaro/General/UI/Language\n", u"French"_s);
-        row("relative install directory", direct + "INSTALL_DIR=..\\\n", u"ENGLISH"_s);
+            references + "VltRegKey_Language=Veltaro/General/UI/Language\n", "French");
+        row("relative install directory", direct + "INSTALL_DIR=..\\\n", "ENGLISH");
         row("other references are not followed",
             references + "VltRegKey_InstallDir=Veltaro/INSTALL_DIR\n"
                          "VltRegKey_MessagesDir=Veltaro/MESSAGES_DIR\n",
-            u"ENGLISH"_s);
-        row("syntax error", direct + "LANGUAGE=FRENCH\nnonsense\n", u"ENGLISH"_s);
+            "ENGLISH");
+        row("syntax error", direct + "LANGUAGE=FRENCH\nnonsense\n", "ENGLISH");
     }
 
     void resolvesStartupSettings()
     {
         QFETCH(QByteArray, ini);
         QFETCH(QString, installDir);
+        QFETCH(QString, messagesDir);
         writeFile(m_dir.filePath(u"setup_env.ini"_s), ini);
         qputenv("LC_ALL", "de_DE.UTF-8");
 
         const StartupSettings settings = resolveStartupSettings(m_dir.filePath(u"program"_s), true);
 
         QTEST(settings.language, "language");
-        QCOMPARE(settings.installDir, installDir == u"."_s ? m_dir.path() : installDir);
-        QTEST(settings.messagesDir, "messagesDir");
+        QCOMPARE(settings.installDir, installDir.isEmpty() ? m_dir.path() : installDir);
+        QCOMPARE(settings.messagesDir, messagesDir.isEmpty() ? u"MESSAGES"_s : messagesDir);
         QCOMPARE(qgetenv("VLT_BIN_HOME"), QFile::encodeName(settings.installDir));
         QVERIFY(resolveStartupSettings(m_dir.filePath(u"program"_s), false).messagesDir.isEmpty());
     }

@@ -1,4 +1,5 @@
 #include "language/VltLanguageManager.h"
+#include "support/Cases.h"
 #include "support/Files.h"
 
 #include <QDir>
@@ -56,16 +57,13 @@ class tst_Language : public QObject
 private Q_SLOTS:
     void knowsALanguageByNameOrCode_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("code");
-        QTest::addColumn<bool>("reversed");
-
-        QTest::newRow("English name, capitals") << u"FRENCH"_s << u"fr"_s << false;
-        QTest::newRow("code with a country") << u"FR_be"_s << u"fr"_s << false;
-        QTest::newRow("own name") << u"Français"_s << u"fr"_s << false;
-        QTest::newRow("written from the right") << u"Arabic"_s << u"ar"_s << true;
-        QTest::newRow("none") << QString() << u"en"_s << false;
-        QTest::newRow("C locale") << u"C"_s << u"en"_s << false;
+        const Cases<QString, QString, bool> row({"name", "code", "reversed"});
+        row("English name, capitals", "FRENCH", "fr", false);
+        row("code with a country", "FR_be", "fr", false);
+        row("own name", "Français", "fr", false);
+        row("written from the right", "Arabic", "ar", true);
+        row("none", {}, "en", false);
+        row("C locale", "C", "en", false);
     }
 
     void knowsALanguageByNameOrCode()
@@ -114,11 +112,11 @@ private Q_SLOTS:
 
     void passesOverBrokenDictionaries_data()
     {
-        QTest::addColumn<QByteArray>("content");
+        const Cases<QByteArray> row({"content"});
         const QByteArray bad = message("K_BAD", "<translation>x</translation>");
-        QTest::newRow("cut short") << "<TS><context>" + bad;
-        QTest::newRow("other document") << "<html>" + bad + "</html>";
-        QTest::newRow("not UTF-8") << "<TS><context>" + bad + "\xE9</context></TS>";
+        row("cut short", "<TS><context>" + bad);
+        row("other document", "<html>" + bad + "</html>");
+        row("not UTF-8", "<TS><context>" + bad + "\xE9</context></TS>");
     }
 
     void passesOverBrokenDictionaries()

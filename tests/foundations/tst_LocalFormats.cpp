@@ -1,5 +1,6 @@
 #include "localfiles/LocalFormats.h"
 #include "localfiles/NoNetwork.h"
+#include "support/Cases.h"
 #include "support/Files.h"
 
 #include <QFile>
@@ -59,19 +60,17 @@ private Q_SLOTS:
 
     void opensFilesAndFolders_data()
     {
-        QTest::addColumn<QString>("driver");
-        QTest::addColumn<QString>("name");
-
-        QTest::newRow("GeoTIFF") << u"GTiff"_s << u"a.tif"_s;
-        QTest::newRow("Northwood grid") << u"NWT_GRD"_s << u"a.grd"_s;
-        QTest::newRow("Surfer grid") << u"GSBG"_s << u"b.grd"_s;
-        QTest::newRow("PCRaster map") << u"PCRaster"_s << u"a.map"_s;
-        QTest::newRow("shapefile") << u"ESRI Shapefile"_s << u"a.shp"_s;
-        QTest::newRow("folder of shapefiles") << u"ESRI Shapefile"_s << u"folder"_s;
-        QTest::newRow("file geodatabase, a folder") << u"OpenFileGDB"_s << u"a.gdb"_s;
-        QTest::newRow("GML") << u"GML"_s << u"a.gml"_s;
-        QTest::newRow("FlatGeobuf") << u"FlatGeobuf"_s << u"a.fgb"_s;
-        QTest::newRow("DXF") << u"DXF"_s << u"a.dxf"_s;
+        const Cases<QString, QString> row({"driver", "name"});
+        row("GeoTIFF", "GTiff", "a.tif");
+        row("Northwood grid", "NWT_GRD", "a.grd");
+        row("Surfer grid", "GSBG", "b.grd");
+        row("PCRaster map", "PCRaster", "a.map");
+        row("shapefile", "ESRI Shapefile", "a.shp");
+        row("folder of shapefiles", "ESRI Shapefile", "folder");
+        row("file geodatabase, a folder", "OpenFileGDB", "a.gdb");
+        row("GML", "GML", "a.gml");
+        row("FlatGeobuf", "FlatGeobuf", "a.fgb");
+        row("DXF", "DXF", "a.dxf");
     }
 
     void opensFilesAndFolders()
@@ -109,39 +108,36 @@ private Q_SLOTS:
 
     void noFileLeadsToTheNetwork_data()
     {
-        QTest::addColumn<QByteArray>("content"); // %1: the server's address
-        QTest::addColumn<bool>("closed"); // closed: the network file systems, for the program
-
-        QTest::newRow("virtual raster")
-            << QByteArray("<VRTDataset rasterXSize=\"2\" rasterYSize=\"2\"><VRTRasterBand "
-                          "dataType=\"Byte\" band=\"1\"><SimpleSource><SourceFilename>/vsicurl/%1"
-                          "</SourceFilename></SimpleSource></VRTRasterBand></VRTDataset>")
-            << false;
-        QTest::newRow("virtual vector")
-            << QByteArray("<OGRVRTDataSource><OGRVRTLayer name=\"t\"><SrcDataSource>/vsicurl/%1"
-                          "</SrcDataSource></OGRVRTLayer></OGRVRTDataSource>")
-            << false;
-        QTest::newRow("map service")
-            << QByteArray("<GDAL_WMS><Service name=\"TMS\"><ServerUrl>%1</ServerUrl></Service>"
-                          "<DataWindow><UpperLeftX>0</UpperLeftX><UpperLeftY>1</UpperLeftY>"
-                          "<LowerRightX>1</LowerRightX><LowerRightY>0</LowerRightY><SizeX>2</SizeX>"
-                          "<SizeY>2</SizeY></DataWindow></GDAL_WMS>")
-            << false;
-        QTest::newRow("feature service")
-            << QByteArray("<OGRWFSDataSource><URL>%1</URL></OGRWFSDataSource>") << false;
-        QTest::newRow("coordinate system behind a link")
-            << QByteArray(
-                   "{\"type\":\"FeatureCollection\",\"crs\":{\"type\":\"link\",\"properties\":"
-                   "{\"href\":\"%1\",\"type\":\"ogcwkt\"}},\"features\":[]}")
-            << false;
-        QTest::newRow("schema behind a link")
-            << QByteArray(
-                   "<c xmlns:gml=\"http://www.opengis.net/gml\" xmlns:xsi=\"http://www.w3.org/"
-                   "2001/XMLSchema-instance\" xsi:schemaLocation=\"a %1\"><gml:featureMember>"
-                   "<t fid=\"1\"/></gml:featureMember></c>")
-            << false;
-        QTest::newRow("image behind a link") << satelliteImageAt("/vsicurl/%1") << false;
-        QTest::newRow("image behind a stream") << satelliteImageAt("/vsicurl_streaming/%1") << true;
+        // content: "%1" means the server's address
+        // closed: the network file systems, for the program
+        const Cases<QByteArray, bool> row({"content", "closed"});
+        row("virtual raster",
+            "<VRTDataset rasterXSize=\"2\" rasterYSize=\"2\"><VRTRasterBand "
+            "dataType=\"Byte\" band=\"1\"><SimpleSource><SourceFilename>/vsicurl/%1"
+            "</SourceFilename></SimpleSource></VRTRasterBand></VRTDataset>",
+            false);
+        row("virtual vector",
+            "<OGRVRTDataSource><OGRVRTLayer name=\"t\"><SrcDataSource>/vsicurl/%1"
+            "</SrcDataSource></OGRVRTLayer></OGRVRTDataSource>",
+            false);
+        row("map service",
+            "<GDAL_WMS><Service name=\"TMS\"><ServerUrl>%1</ServerUrl></Service>"
+            "<DataWindow><UpperLeftX>0</UpperLeftX><UpperLeftY>1</UpperLeftY>"
+            "<LowerRightX>1</LowerRightX><LowerRightY>0</LowerRightY><SizeX>2</SizeX>"
+            "<SizeY>2</SizeY></DataWindow></GDAL_WMS>",
+            false);
+        row("feature service", "<OGRWFSDataSource><URL>%1</URL></OGRWFSDataSource>", false);
+        row("coordinate system behind a link",
+            "{\"type\":\"FeatureCollection\",\"crs\":{\"type\":\"link\",\"properties\":"
+            "{\"href\":\"%1\",\"type\":\"ogcwkt\"}},\"features\":[]}",
+            false);
+        row("schema behind a link",
+            "<c xmlns:gml=\"http://www.opengis.net/gml\" xmlns:xsi=\"http://www.w3.org/"
+            "2001/XMLSchema-instance\" xsi:schemaLocation=\"a %1\"><gml:featureMember>"
+            "<t fid=\"1\"/></gml:featureMember></c>",
+            false);
+        row("image behind a link", satelliteImageAt("/vsicurl/%1"), false);
+        row("image behind a stream", satelliteImageAt("/vsicurl_streaming/%1"), true);
     }
 
     void noFileLeadsToTheNetwork()
@@ -164,18 +160,15 @@ private Q_SLOTS:
 
     void isLocal_data()
     {
-        QTest::addColumn<QString>("path");
-        QTest::addColumn<bool>("dataset");
-        QTest::addColumn<bool>("file");
-
-        QTest::newRow("file") << u"%1/f"_s << true << true;
-        QTest::newRow("folder") << u"%1"_s << true << false;
-        QTest::newRow("missing") << u"%1/none"_s << false << false;
-        QTest::newRow("relative") << u"f"_s << false << false;
-        QTest::newRow("device") << u"/dev/null"_s << false << false;
-        QTest::newRow("virtual") << u"/vsicurl/http://127.0.0.1/f"_s << false << false;
-        QTest::newRow("virtual, capitals") << u"/VSIZIP/%1/f"_s << false << false;
-        QTest::newRow("database") << u"PG:dbname=f"_s << false << false;
+        const Cases<QString, bool, bool> row({"path", "dataset", "file"});
+        row("file", "%1/f", true, true);
+        row("folder", "%1", true, false);
+        row("missing", "%1/none", false, false);
+        row("relative", "f", false, false);
+        row("device", "/dev/null", false, false);
+        row("virtual", "/vsicurl/http://127.0.0.1/f", false, false);
+        row("virtual, capitals", "/VSIZIP/%1/f", false, false);
+        row("database", "PG:dbname=f", false, false);
     }
 
     void isLocal()

@@ -1,3 +1,4 @@
+#include "support/Cases.h"
 #include "support/Files.h"
 #include "support/ProcessorTime.h"
 #include "wizard/project/ProjectReaders.h"
@@ -20,17 +21,6 @@ class tst_ProjectReaders : public QObject
         return writeFile(m_dir.filePath(u"p.gvw"_s), text);
     }
 
-    static void addTexts()
-    {
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<QString>("expected");
-    }
-
-    static void row(const char *name, const QByteArray &text, const char *expected)
-    {
-        QTest::newRow(name) << text << QString::fromLatin1(expected);
-    }
-
     /// The expected path, in which "%D/" at the start means the project's directory.
     QString inDir(const QString &expected) const
     {
@@ -40,7 +30,7 @@ class tst_ProjectReaders : public QObject
 private Q_SLOTS:
     void findsTheFirstTerrainFile_data()
     {
-        addTexts();
+        const Cases<QByteArray, QString> row({"text", "expected"});
         row("absolute", "DEM Layers\nFiles : /d/dem.tif \nFiles : /d/two.tif\n", "/d/dem.tif");
         row("other files before the section",
             "Image Layers\nFiles : i.tif\nDEM Layers\n x\n\tFiles :dem.tif", "%D/dem.tif");
@@ -48,11 +38,8 @@ private Q_SLOTS:
         row("backslashes of another system", "DEM Layers\nFiles : relief\\dem.tif\n",
             "%D/relief/dem.tif");
         row("a backslash in a name", "DEM Layers\nFiles : other\\dem.tif\n", "%D/other\\dem.tif");
-        QTest::newRow("UTF-16") << QByteArray("\xFF\xFE", 2) +
-                                       QByteArray(
-                                           QStringEncoder(QStringConverter::Utf16LE)
-                                               .encode(u"DEM Layers\nFiles : d\u00e9m.tif\n"_s))
-                                << u"%D/d\u00e9m.tif"_s;
+        QStringEncoder utf16(QStringConverter::Utf16LE, QStringConverter::Flag::WriteBom);
+        row("UTF-16", utf16.encode(u"DEM Layers\nFiles : d\u00e9m.tif\n"_s), "%D/d\u00e9m.tif");
     }
 
     void findsTheFirstTerrainFile()
@@ -65,7 +52,7 @@ private Q_SLOTS:
 
     void findsTheBuildingLayer_data()
     {
-        addTexts();
+        const Cases<QByteArray, QString> row({"text", "expected"});
         const QByteArray roads = "Vector layer\n File : roads.shp\n Layer name : Roads\n";
         row("second layer, UTF-8",
             roads + "Vector layer\n File : b.shp\n Layer name : B\xC3\xA2timents\n", "%D/b.shp");
@@ -104,7 +91,7 @@ private Q_SLOTS:
 
     void readsTheReferenceProjection_data()
     {
-        addTexts();
+        const Cases<QByteArray, QString> row({"text", "expected"});
         row("plain",
             "Reference Projection : no\nDEM Layers\nFiles : d\n Reference Projection : EPSG:2154 "
             "\r\nReference Projection : other\n",
@@ -122,16 +109,12 @@ private Q_SLOTS:
 
     void knowsProjectsThatNameNothing_data()
     {
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<bool>("namesNothing");
-
-        QTest::newRow("another file") << QByteArray("not a project") << true;
-        QTest::newRow("empty section")
-            << QByteArray("DEM Layers\n Files :\nVector layer\n") << true;
-        QTest::newRow("terrain") << QByteArray("DEM Layers\n Files : d.tif\n") << false;
-        QTest::newRow("system") << QByteArray("DEM Layers\nReference Projection : 2154") << false;
-        QTest::newRow("buildings")
-            << QByteArray("Vector layer\n File : b.shp\n Layer name : bat\n") << false;
+        const Cases<QByteArray, bool> row({"text", "namesNothing"});
+        row("another file", "not a project", true);
+        row("empty section", "DEM Layers\n Files :\nVector layer\n", true);
+        row("terrain", "DEM Layers\n Files : d.tif\n", false);
+        row("system", "DEM Layers\nReference Projection : 2154", false);
+        row("buildings", "Vector layer\n File : b.shp\n Layer name : bat\n", false);
     }
 
     void knowsProjectsThatNameNothing()

@@ -1,5 +1,6 @@
 #include "contract/SceneTexts.h"
 #include "contract/TableTexts.h"
+#include "support/Cases.h"
 
 #include <QtTest>
 
@@ -52,21 +53,16 @@ class tst_TextPatterns : public QObject
 private Q_SLOTS:
     void recognisesEveryText_data()
     {
-        QTest::addColumn<QByteArray>("first");
-        QTest::addColumn<QByteArray>("second");
-        QTest::newRow("plain") << QByteArray("48.85") << QByteArray("7");
-        QTest::newRow("nothing") << QByteArray() << QByteArray();
-        QTest::newRow("quotes") << QByteArray("48°51'24\"\"N") << QByteArray("\"");
-        QTest::newRow("places") << QByteArray("100 %1 %2 %%") << QByteArray("%1");
-        QTest::newRow("words of the texts")
-            << QByteArray("x\" cannot be read: it is empty: \"y") << QByteArray("is not known");
-        QTest::newRow("the end of another text")
-            << QByteArray("\" cannot be read: it is not finite") << QByteArray("\" is not known");
-        QTest::newRow("words between the places")
-            << QByteArray("a\" to \"b\" in column 3 has no header") << QByteArray("9");
-        QTest::newRow("lines and bars") << QByteArray("a\nb|Error|c\t") << QByteArray("é: <a>");
-        QTest::newRow("WKT") << QByteArray("GEOGCS[\"WGS 84\",DATUM[\"W\",SPHEROID[\"W\",1,2]]]")
-                             << QByteArray("LOCAL_CS[\"a, b: 1\"]");
+        const Cases<QByteArray, QByteArray> row({"first", "second"});
+        row("plain", "48.85", "7");
+        row("nothing", {}, {});
+        row("quotes", "48°51'24\"\"N", "\"");
+        row("places", "100 %1 %2 %%", "%1");
+        row("words of the texts", "x\" cannot be read: it is empty: \"y", "is not known");
+        row("the end of another text", "\" cannot be read: it is not finite", "\" is not known");
+        row("words between the places", "a\" to \"b\" in column 3 has no header", "9");
+        row("lines and bars", "a\nb|Error|c\t", "é: <a>");
+        row("WKT", "GEOGCS[\"WGS 84\",DATUM[\"W\",SPHEROID[\"W\",1,2]]]", "LOCAL_CS[\"a, b: 1\"]");
     }
     void recognisesEveryText()
     {
@@ -91,13 +87,13 @@ private Q_SLOTS:
 
     void leavesOtherTextsAlone_data()
     {
-        QTest::addColumn<QByteArray>("text");
+        const Cases<QByteArray> row({"text"});
         for (const char *text :
              {"", "%1", "the file is empty.", "The file is empty", "sites: the file is empty",
               "the coordinate \"1\" cannot be read: it is late", "the workbook lacks its part",
               "there is no transformation from the coordinate system \"4326\" at all",
               "le fichier est vide"})
-            QTest::newRow(*text ? text : "nothing") << QByteArray(text);
+            row(*text ? text : "nothing", text);
     }
     void leavesOtherTextsAlone()
     {

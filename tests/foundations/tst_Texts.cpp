@@ -1,5 +1,6 @@
 #include "platform/Paths.h"
 #include "platform/TextDecoding.h"
+#include "support/Cases.h"
 #include "text/Numbers.h"
 #include "text/Templates.h"
 #include "wizard/base/TemporaryLayerFile.h"
@@ -19,17 +20,11 @@ private Q_SLOTS:
 
     void fillsSlotsOneAfterAnother_data()
     {
-        QTest::addColumn<QString>("pattern");
-        QTest::addColumn<QStringList>("values");
-        QTest::addColumn<QString>("expected");
-
-        QTest::newRow("lowest number first")
-            << u"%7-%3-%7"_s << QStringList{u"a"_s, u"b"_s} << u"b-a-b"_s;
-        QTest::newRow("value with a slot")
-            << u"%1 %2"_s << QStringList{u"%2"_s, u"b"_s} << u"b b"_s;
-        QTest::newRow("more values than slots") << u"%1"_s << QStringList{u"a"_s, u"b"_s} << u"a"_s;
-        QTest::newRow("percent sign, no slot")
-            << u"100% %x"_s << QStringList{u"a"_s} << u"100% %x"_s;
+        const Cases<QString, QStringList, QString> row({"pattern", "values", "expected"});
+        row("lowest number first", "%7-%3-%7", {u"a"_s, u"b"_s}, "b-a-b");
+        row("value with a slot", "%1 %2", {u"%2"_s, u"b"_s}, "b b");
+        row("more values than slots", "%1", {u"a"_s, u"b"_s}, "a");
+        row("percent sign, no slot", "100% %x", {u"a"_s}, "100% %x");
     }
 
     void fillsSlotsOneAfterAnother()
@@ -53,18 +48,13 @@ private Q_SLOTS:
     // The expected texts are those of printf in the C locale.
     void writesNumbersInTheCLocale_data()
     {
-        QTest::addColumn<double>("value");
-        QTest::addColumn<QString>("general6");
-        QTest::addColumn<QString>("general9");
-        QTest::addColumn<QString>("fixed6");
-
-        QTest::newRow("fraction") << 2.5 << u"2.5"_s << u"2.5"_s << u"2.500000"_s;
-        QTest::newRow("whole") << 3.0 << u"3"_s << u"3"_s << u"3.000000"_s;
-        QTest::newRow("exponent") << 1e8 << u"1e+08"_s << u"100000000"_s << u"100000000.000000"_s;
-        QTest::newRow("metres") << 512345.678 << u"512346"_s << u"512345.678"_s
-                                << u"512345.678000"_s;
-        QTest::newRow("small") << -0.00001234 << u"-1.234e-05"_s << u"-1.234e-05"_s
-                               << u"-0.000012"_s;
+        const Cases<double, QString, QString, QString> row(
+            {"value", "general6", "general9", "fixed6"});
+        row("fraction", 2.5, "2.5", "2.5", "2.500000");
+        row("whole", 3, "3", "3", "3.000000");
+        row("exponent", 1e8, "1e+08", "100000000", "100000000.000000");
+        row("metres", 512345.678, "512346", "512345.678", "512345.678000");
+        row("small", -0.00001234, "-1.234e-05", "-1.234e-05", "-0.000012");
     }
 
     void writesNumbersInTheCLocale()
@@ -77,15 +67,13 @@ private Q_SLOTS:
 
     void decodesEightBitText_data()
     {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<QString>("expected");
-
-        QTest::newRow("UTF-8") << QByteArray("b\xC3\xA2t \xE2\x82\xAC") << u"b\u00E2t \u20AC"_s;
-        QTest::newRow("Latin-1") << QByteArray("b\xE2t 5\xB0") << u"b\u00E2t 5\u00B0"_s;
-        QTest::newRow("byte order mark") << QByteArray("\xEF\xBB\xBF\xC3\xA9") << u"\u00E9"_s;
-        QTest::newRow("mark before Latin-1") << QByteArray("\xEF\xBB\xBF\xE9!") << u"\u00E9!"_s;
-        QTest::newRow("UTF-8 cut short") << QByteArray("a\xC3") << u"a\u00C3"_s;
-        QTest::newRow("nothing") << QByteArray() << QString();
+        const Cases<QByteArray, QString> row({"bytes", "expected"});
+        row("UTF-8", "b\xC3\xA2t \xE2\x82\xAC", "b\u00E2t \u20AC");
+        row("Latin-1", "b\xE2t 5\xB0", "b\u00E2t 5\u00B0");
+        row("byte order mark", "\xEF\xBB\xBF\xC3\xA9", "\u00E9");
+        row("mark before Latin-1", "\xEF\xBB\xBF\xE9!", "\u00E9!");
+        row("UTF-8 cut short", "a\xC3", "a\u00C3");
+        row("nothing", {}, {});
     }
 
     void decodesEightBitText()
@@ -96,15 +84,12 @@ private Q_SLOTS:
 
     void namesTemporaryLayerFiles_data()
     {
-        QTest::addColumn<QString>("below");
-        QTest::addColumn<QString>("expected"); // "%T": temporary directory, "%P": process id
-
-        QTest::newRow("plain") << u"t"_s << u"%T/t//tempLayer_sites_%P.lay"_s;
-        QTest::newRow("directory that looks like a slot")
-            << u"%2"_s << u"%T/%2//tempLayer_sites_%P.lay"_s;
-        QTest::newRow("no such directory") << QString() << u"./tempLayer_sites_%P.lay"_s;
-        QTest::newRow("too long") << QString(130, u'x') + u'/' + QString(130, u'y')
-                                  << u"./tempLayer_sites_%P.lay"_s;
+        // expected: "%T": temporary directory, "%P": process id
+        const Cases<QString, QString> row({"below", "expected"});
+        row("plain", "t", "%T/t//tempLayer_sites_%P.lay");
+        row("directory that looks like a slot", "%2", "%T/%2//tempLayer_sites_%P.lay");
+        row("no such directory", {}, "./tempLayer_sites_%P.lay");
+        row("too long", QString(130, u'x') + u'/' + QString(130, u'y'), "./tempLayer_sites_%P.lay");
     }
 
     void namesTemporaryLayerFiles()

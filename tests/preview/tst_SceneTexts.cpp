@@ -2,6 +2,7 @@
 #include "language/VltLanguageManager.h"
 #include "snapshot/SceneNotices.h"
 #include "snapshot/SceneSource.h"
+#include "support/Cases.h"
 #include "support/Files.h"
 
 #include <QTemporaryDir>
@@ -78,14 +79,12 @@ private Q_SLOTS:
 
     void translatesNotices_data()
     {
-        QTest::addColumn<QByteArray>("instead");
-        QTest::addColumn<QByteArray>("document");
-        QTest::addColumn<QByteArray>("key");
-        QTest::addColumn<QStringList>("values");
-        const auto row = [](const char *instead, const char *document, const char *key,
-                            const QStringList &values = {}) {
-            QTest::addRow("%s: %.60s", key, document)
-                << QByteArray(instead) << QByteArray(document) << QByteArray(key) << values;
+        const Cases<QByteArray, QByteArray, QByteArray, QStringList> table(
+            {"instead", "document", "key", "values"});
+        const auto row = [&table](const char *instead, const QByteArray &document, const char *key,
+                                  const QStringList &values = {}) {
+            const QByteArray name = QByteArray(key) + ": " + document.left(60);
+            table(name.constData(), instead, document, key, values);
         };
         const QStringList one{u"1"_s, u"4"_s, u"H"_s};
         row("town", "flawed", "MESS_SCENE_NO_HEIGHT", one);
@@ -124,7 +123,7 @@ private Q_SLOTS:
         QByteArray many;
         for (int height = 1; height <= 12; ++height)
             many += "<texture filename='no.tif' height='" + QByteArray::number(height) + "'/>";
-        row("</textures>", (many + "</textures>").constData(), "MESS_SCENE_MORE_IMAGES", {u"2"_s});
+        row("</textures>", many + "</textures>", "MESS_SCENE_MORE_IMAGES", {u"2"_s});
         images(R"(<texture filename="flat.asc" height="2"/><texture filename="flat.asc" height="2"/>
 </textures>)",
                "MESS_SCENE_SAME_HEIGHT");
@@ -152,14 +151,11 @@ private Q_SLOTS:
 
     void translatesRefusals_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QByteArray>("content");
-        QTest::addColumn<QByteArray>("key");
-        QTest::addColumn<QStringList>("values");
-        const auto document = [](const char *instead, const char *words, const char *key,
-                                 const QStringList &values = {}) {
-            QTest::newRow(key) << u"a.texb"_s << QByteArray(Document).replace(instead, words)
-                               << QByteArray(key) << values;
+        const Cases<QString, QByteArray, QByteArray, QStringList> row(
+            {"name", "content", "key", "values"});
+        const auto document = [&row](const char *instead, const char *words, const char *key,
+                                     const QStringList &values = {}) {
+            row(key, "a.texb", QByteArray(Document).replace(instead, words), key, values);
         };
         document("town.geojson", "no \"town\".shp", "MESS_SCENE_NO_FOOTPRINTS",
                  {u"no \"town\".shp"_s});
@@ -177,13 +173,12 @@ private Q_SLOTS:
         document("town.geojson", "", "MESS_SCENE_UNNAMED_FOOTPRINTS");
         document("hfield=\"H\"", "", "MESS_SCENE_UNNAMED_FIELD");
 
-        QTest::newRow("cut short")
-            << u"a.texb"_s << Document.left(Document.indexOf("own.geo"))
-            << QByteArray("MESS_SCENE_NO_VALUE_END") << QStringList{u"filename"_s};
+        row("cut short", "a.texb", Document.left(Document.indexOf("own.geo")),
+            "MESS_SCENE_NO_VALUE_END", {u"filename"_s});
 
-        const auto layer = [](const char *content, const char *key,
-                              const QStringList &values = {}) {
-            QTest::newRow(key) << u"a.lay"_s << QByteArray(content) << QByteArray(key) << values;
+        const auto layer = [&row](const char *content, const char *key,
+                                  const QStringList &values = {}) {
+            row(key, "a.lay", content, key, values);
         };
         layer("<a/>", "MESS_SCENE_NO_ROOT");
         layer("<veltaroLayer version=\"1\">", "MESS_SCENE_NO_KIND");

@@ -2,6 +2,7 @@
 #include "preview/VisibleDistance.h"
 #include "preview/VltTrackBall.h"
 #include "preview/W_simpleOSGViewer.h"
+#include "support/Cases.h"
 #include "support/Patience.h"
 
 #include <QMouseEvent>
@@ -147,17 +148,14 @@ private Q_SLOTS:
     void knowsHowFarAllIsDrawnAtItsBest_data()
     {
         using Ranges = QList<QPair<float, float>>;
-        QTest::addColumn<Ranges>("near"); // ranges of a tile
-        QTest::addColumn<Ranges>("other");
-        QTest::addColumn<double>("distanceM");
-
+        // near: ranges of a tile
+        const Cases<Ranges, Ranges, double> row({"near", "other", "distanceM"});
         const double endless = std::numeric_limits<double>::infinity();
-        QTest::newRow("no levels") << Ranges{} << Ranges{} << endless;
-        QTest::newRow("two tiles") << Ranges{{0, 2050}} << Ranges{{0, 2010}} << 2010.;
-        QTest::newRow("images end before plain colours")
-            << Ranges{{0, 500}, {500, 2050}} << Ranges{{0, 2010}} << 500.;
-        QTest::newRow("a level that is never drawn")
-            << Ranges{{0, 0}, {0, 2050}} << Ranges{} << 2050.;
+        row("no levels", Ranges{}, Ranges{}, endless);
+        row("two tiles", Ranges{{0, 2050}}, Ranges{{0, 2010}}, 2010);
+        row("images end before plain colours", Ranges{{0, 500}, {500, 2050}}, Ranges{{0, 2010}},
+            500);
+        row("a level that is never drawn", Ranges{{0, 0}, {0, 2050}}, Ranges{}, 2050);
     }
 
     void knowsHowFarAllIsDrawnAtItsBest()
@@ -267,38 +265,34 @@ private Q_SLOTS:
     void drawsOnlyWhatChanges_data()
     {
         using Change = std::function<void(W_simpleOSGViewer &)>;
-        QTest::addColumn<Change>("change");
-        QTest::addColumn<bool>("once"); // false for repeatedly
-
-        QTest::newRow("wheel") << Change([](W_simpleOSGViewer &view) {
-            QWheelEvent wheel({5, 5}, view.mapToGlobal(QPointF(5, 5)), {}, {0, 120}, Qt::NoButton,
-                              Qt::NoModifier, Qt::NoScrollPhase, false);
-            QApplication::sendEvent(&view, &wheel);
-        }) << true;
-        QTest::newRow("key") << Change([](W_simpleOSGViewer &view) {
-            QTest::keyClick(&view, Qt::Key_Left);
-        }) << true;
-        QTest::newRow("camera") << Change([](W_simpleOSGViewer &view) {
-            view.placeCamera(300, 20);
-        }) << true;
-        QTest::newRow("size") << Change([](W_simpleOSGViewer &view) {
-            view.window()->resize(330, 240);
-        }) << true;
-        QTest::newRow("scene") << Change([](W_simpleOSGViewer &view) {
-            view.showScene(ballAt({0, 0, 30}));
-        }) << true;
-        QTest::newRow("scene, as the library takes it") << Change([](W_simpleOSGViewer &view) {
-            view.setSceneData(ballAt({0, 0, 30}));
-        }) << true;
-        QTest::newRow("asked for")
-            << Change([](W_simpleOSGViewer &view) { view.requestRedraw(); }) << true;
-        QTest::newRow("demonstration")
-            << Change([](W_simpleOSGViewer &view) { view.startDemo(); }) << false;
-        QTest::newRow("scene that moves by itself") << Change([](W_simpleOSGViewer &view) {
-            osg::ref_ptr<osg::Node> ball = ballAt({});
-            ball->setUpdateCallback(new osg::NodeCallback);
-            view.showScene(ball);
-        }) << false;
+        // once: false for repeatedly
+        const Cases<Change, bool> row({"change", "once"});
+        row("wheel", Change([](W_simpleOSGViewer &view) {
+                QWheelEvent wheel({5, 5}, view.mapToGlobal(QPointF(5, 5)), {}, {0, 120},
+                                  Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+                QApplication::sendEvent(&view, &wheel);
+            }),
+            true);
+        row("key", Change([](W_simpleOSGViewer &view) { QTest::keyClick(&view, Qt::Key_Left); }),
+            true);
+        row("camera", Change([](W_simpleOSGViewer &view) { view.placeCamera(300, 20); }), true);
+        row("size", Change([](W_simpleOSGViewer &view) { view.window()->resize(330, 240); }), true);
+        row("scene", Change([](W_simpleOSGViewer &view) {
+                view.showScene(ballAt({0, 0, 30}));
+            }),
+            true);
+        row("scene, as the library takes it", Change([](W_simpleOSGViewer &view) {
+                view.setSceneData(ballAt({0, 0, 30}));
+            }),
+            true);
+        row("asked for", Change([](W_simpleOSGViewer &view) { view.requestRedraw(); }), true);
+        row("demonstration", Change([](W_simpleOSGViewer &view) { view.startDemo(); }), false);
+        row("scene that moves by itself", Change([](W_simpleOSGViewer &view) {
+                osg::ref_ptr<osg::Node> ball = ballAt({});
+                ball->setUpdateCallback(new osg::NodeCallback);
+                view.showScene(ball);
+            }),
+            false);
     }
 
     void drawsOnlyWhatChanges()

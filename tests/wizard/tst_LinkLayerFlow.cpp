@@ -3,6 +3,7 @@
 #include "gui/FileDialogAnswer.h"
 #include "links/ui/LinkReportModel.h"
 #include "preview/W_simpleOSGViewer.h"
+#include "support/Cases.h"
 #include "support/Files.h"
 #include "support/Patience.h"
 #include "wizard/LayerFlow.h"
@@ -49,19 +50,14 @@ private Q_SLOTS:
 
     void makesTheLayerOfTheCommandLine_data()
     {
-        QTest::addColumn<QString>("table");
-        QTest::addColumn<QString>("widget"); // the widget is set to `value`, like the option
-        QTest::addColumn<double>("value");
-        QTest::addColumn<QStringList>("options");
-
-        QTest::newRow("numbered ends") << u"links.csv"_s << QString() << 0.0 << QStringList();
-        QTest::newRow("k factor") << u"links.csv"_s << u"m_pwSbKFactor"_s << 0.75
-                                  << QStringList{u"--k-factor"_s, u"0.75"_s};
-        QTest::newRow("ends side by side, wide links")
-            << u"links_miles.xlsx"_s << u"m_pwSbLinkWidth"_s << 7.5
-            << QStringList{u"--link-width"_s, u"7.5"_s};
-        QTest::newRow("look of the pylons") << u"links.csv"_s << u"m_pwSbPylonWidth"_s << 4.0
-                                            << QStringList{u"--pylon-width"_s, u"4"_s};
+        // widget: the widget is set to `value`, like the option
+        const Cases<QString, QString, double, QStringList> row(
+            {"table", "widget", "value", "options"});
+        row("numbered ends", "links.csv", {}, 0, {});
+        row("k factor", "links.csv", "m_pwSbKFactor", 0.75, {u"--k-factor"_s, u"0.75"_s});
+        row("ends side by side, wide links", "links_miles.xlsx", "m_pwSbLinkWidth", 7.5,
+            {u"--link-width"_s, u"7.5"_s});
+        row("look of the pylons", "links.csv", "m_pwSbPylonWidth", 4, {u"--pylon-width"_s, u"4"_s});
     }
 
     void makesTheLayerOfTheCommandLine()
@@ -92,13 +88,10 @@ private Q_SLOTS:
 
     void refusesOtherFiles_data()
     {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<QString>("text");
-
-        QTest::newRow("no table") << QByteArray("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16)
-                                  << u"This file can't be open as a link file"_s;
-        QTest::newRow("header only")
-            << QByteArray("Name;Longitude 1;Latitude 1\n") << u"This link file is empty"_s;
+        const Cases<QByteArray, QString> row({"bytes", "text"});
+        row("no table", QByteArray("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16),
+            "This file can't be open as a link file");
+        row("header only", "Name;Longitude 1;Latitude 1\n", "This link file is empty");
     }
 
     void refusesOtherFiles()

@@ -1,4 +1,5 @@
 #include "gui/DropOnWidget.h"
+#include "support/Cases.h"
 #include "support/Patience.h"
 #include "wizard/base/BasePage.h"
 #include "wizard/base/BusyWait.h"
@@ -195,12 +196,10 @@ private Q_SLOTS:
 
     void takesThePointAndTheComma_data()
     {
-        QTest::addColumn<QLocale>("locale");
-        QTest::addColumn<QString>("typed");
-
-        QTest::newRow("comma in French") << QLocale(u"fr"_s) << u"1234,5"_s;
-        QTest::newRow("point in French") << QLocale(u"fr"_s) << u"1234.5"_s;
-        QTest::newRow("comma in English") << QLocale(u"en"_s) << u"1234,5"_s;
+        const Cases<QLocale, QString> row({"locale", "typed"});
+        row("comma in French", QLocale(u"fr"_s), "1234,5");
+        row("point in French", QLocale(u"fr"_s), "1234.5");
+        row("comma in English", QLocale(u"en"_s), "1234,5");
     }
 
     void takesThePointAndTheComma()

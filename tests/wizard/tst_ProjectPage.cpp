@@ -2,6 +2,7 @@
 #include "gui/DropOnWidget.h"
 #include "gui/FileDialogAnswer.h"
 #include "platform/Settings.h"
+#include "support/Cases.h"
 #include "support/Files.h"
 #include "support/Patience.h"
 #include "wizard/project/ui/VltSecondPage.h"
@@ -88,20 +89,13 @@ private Q_SLOTS:
 
     void offersRecentProjects_data()
     {
-        QTest::addColumn<QString>("current");
-        QTest::addColumn<QStringList>("remembered");
-        QTest::addColumn<QStringList>("expected");
-
-        QTest::newRow("none") << QString() << QStringList() << QStringList();
-        QTest::newRow("current first, once")
-            << u"c.gvw"_s << QStringList{u"b.v2.gvw"_s, u"a.gvw"_s, u"c.gvw"_s, u"a.gvw"_s}
-            << QStringList{u"c.gvw"_s, u"b.v2.gvw"_s, u"a.gvw"_s};
-        QTest::newRow("missing files and folders skipped")
-            << u"gone.gvw"_s << QStringList{u"lost.gvw"_s, u"folder.gvw"_s, u"a.gvw"_s}
-            << QStringList{u"a.gvw"_s};
-        QTest::newRow("ten at most")
-            << QString() << (QStringList(9, u"x"_s) << u"a.gvw"_s << u"c.gvw"_s)
-            << QStringList{u"a.gvw"_s};
+        const Cases<QString, QStringList, QStringList> row({"current", "remembered", "expected"});
+        row("none", {}, {}, {});
+        row("current first, once", "c.gvw", {u"b.v2.gvw"_s, u"a.gvw"_s, u"c.gvw"_s, u"a.gvw"_s},
+            {u"c.gvw"_s, u"b.v2.gvw"_s, u"a.gvw"_s});
+        row("missing files and folders skipped", "gone.gvw",
+            {u"lost.gvw"_s, u"folder.gvw"_s, u"a.gvw"_s}, {u"a.gvw"_s});
+        row("ten at most", {}, (QStringList(9, u"x"_s) << u"a.gvw"_s << u"c.gvw"_s), {u"a.gvw"_s});
     }
 
     void offersRecentProjects()
@@ -166,10 +160,11 @@ private Q_SLOTS:
 
     void takesPastedPaths_data()
     {
-        QTest::addColumn<QString>("pasted"); // %1 means the path
-        QTest::newRow("address") << u"file://%1"_s;
-        QTest::newRow("blanks and quotes") << u" \"%1\"\n"_s;
-        QTest::newRow("home") << u"~/%1"_s;
+        // pasted: %1 means the path
+        const Cases<QString> row({"pasted"});
+        row("address", "file://%1");
+        row("blanks and quotes", " \"%1\"\n");
+        row("home", "~/%1");
     }
 
     void takesPastedPaths()

@@ -2,6 +2,7 @@
 #include "gui/DropOnWidget.h"
 #include "gui/FileDialogAnswer.h"
 #include "preview/W_simpleOSGViewer.h"
+#include "support/Cases.h"
 #include "support/Files.h"
 #include "support/Patience.h"
 #include "wizard/LayerFlow.h"
@@ -43,13 +44,11 @@ private Q_SLOTS:
 
     void makesTheLayerOfTheCommandLine_data()
     {
-        QTest::addColumn<QString>("table");
-        QTest::addColumn<int>("transparency");
-
-        QTest::newRow("generic") << u"sites.csv"_s << 0;
-        QTest::newRow("atoll, translucent") << u"sites_atoll.csv"_s << 40;
-        QTest::newRow("asset") << u"sites_asset.xlsx"_s << 0;
-        QTest::newRow("mentum") << u"sites_mentum.xls"_s << 0;
+        const Cases<QString, int> row({"table", "transparency"});
+        row("generic", "sites.csv", 0);
+        row("atoll, translucent", "sites_atoll.csv", 40);
+        row("asset", "sites_asset.xlsx", 0);
+        row("mentum", "sites_mentum.xls", 0);
     }
 
     void makesTheLayerOfTheCommandLine()
@@ -103,12 +102,10 @@ private Q_SLOTS:
 
     void refusesAFileAndForgetsTheLayerBefore_data()
     {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<QString>("text");
-
-        QTest::newRow("no table") << QByteArray("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16)
-                                  << u"This file can't be open as a site file"_s;
-        QTest::newRow("header only") << QByteArray("Site ID;X;Y\n") << u"This site file is empty"_s;
+        const Cases<QByteArray, QString> row({"bytes", "text"});
+        row("no table", QByteArray("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16),
+            "This file can't be open as a site file");
+        row("header only", "Site ID;X;Y\n", "This site file is empty");
     }
 
     void refusesAFileAndForgetsTheLayerBefore()
@@ -172,12 +169,10 @@ private Q_SLOTS:
 
     void reportsOfAPylonThatCannotBeShown_data()
     {
-        QTest::addColumn<QByteArray>("catalogue");
-        QTest::addColumn<bool>("hasLayer");
-
-        QTest::newRow("type that cannot be drawn here")
-            << QByteArray("<pylons><pylon type=\"of another builder\"/></pylons>") << true;
-        QTest::newRow("nothing to choose from") << QByteArray("<pylons/>") << false;
+        const Cases<QByteArray, bool> row({"catalogue", "hasLayer"});
+        row("type that cannot be drawn here",
+            "<pylons><pylon type=\"of another builder\"/></pylons>", true);
+        row("nothing to choose from", "<pylons/>", false);
     }
 
     void reportsOfAPylonThatCannotBeShown()
@@ -243,15 +238,13 @@ private Q_SLOTS:
 
     void makesNoLayerForASystemThatPlacesNothing_data()
     {
-        QTest::addColumn<QByteArray>("system");
-        QTest::addColumn<QString>("reason");
-
-        QTest::newRow("unknown") << QByteArray("Lambert II of nowhere")
-                                 << u"No layer can be made: the coordinate system \"Lambert II of "
-                                    "nowhere\" is not known"_s;
-        QTest::newRow("heights") << QByteArray("EPSG:5720")
-                                 << u"This system gives heights only: it cannot place points on a "
-                                    "map\nEPSG:5720"_s;
+        const Cases<QByteArray, QString> row({"system", "reason"});
+        row("unknown", "Lambert II of nowhere",
+            "No layer can be made: the coordinate system \"Lambert II of "
+            "nowhere\" is not known");
+        row("heights", "EPSG:5720",
+            "This system gives heights only: it cannot place points on a "
+            "map\nEPSG:5720");
     }
 
     void makesNoLayerForASystemThatPlacesNothing()
@@ -272,29 +265,22 @@ private Q_SLOTS:
 
     void opensTheFileThatItWasStartedWith_data()
     {
-        QTest::addColumn<QString>("file");
-        QTest::addColumn<bool>("hasProject");
-        QTest::addColumn<int>("page");
-        QTest::addColumn<QString>("line"); // the line edit that shows the file
-        QTest::addColumn<QString>("box");
-
+        // line: the line edit that shows the file
+        const Cases<QString, bool, int, QString, QString> row(
+            {"file", "hasProject", "page", "line", "box"});
         const QString none;
-        QTest::newRow("sites") << u"sites.xlsx"_s << true << 2 << u"m_pwLeSite"_s << none;
-        QTest::newRow("links") << u"links.csv"_s << true << 3 << u"m_pwLeLink"_s << none;
-        QTest::newRow("links, no project known")
-            << u"links.csv"_s << false << 1 << u"m_pwLeLink"_s << none;
-        QTest::newRow("footprints")
-            << u"vectors/buildings.shp"_s << true << 4 << u"m_pwLeBuildings"_s << none;
-        QTest::newRow("raster") << u"coverage/signal_level_dBm.tif"_s << true << 4 << u"m_pwLeDtm"_s
-                                << none;
-        QTest::newRow("project") << u"city.gvw"_s << false << 0 << u"m_pwLeProjectName"_s << none;
-        QTest::newRow("layer") << u"made.lay"_s << true << 0 << none
-                               << u"This layer is finished: drag its file into Veltaro Builder"_s;
-        QTest::newRow("anything else") << u"textures"_s << true << 0 << none
-                                       << u"This file is neither a project nor a table of sites or "
-                                          "links, footprints of buildings or a raster"_s;
-        QTest::newRow("none") << u"gone.csv"_s << true << 0 << none
-                              << u"This file does not exist"_s;
+        row("sites", "sites.xlsx", true, 2, "m_pwLeSite", none);
+        row("links", "links.csv", true, 3, "m_pwLeLink", none);
+        row("links, no project known", "links.csv", false, 1, "m_pwLeLink", none);
+        row("footprints", "vectors/buildings.shp", true, 4, "m_pwLeBuildings", none);
+        row("raster", "coverage/signal_level_dBm.tif", true, 4, "m_pwLeDtm", none);
+        row("project", "city.gvw", false, 0, "m_pwLeProjectName", none);
+        row("layer", "made.lay", true, 0, none,
+            "This layer is finished: drag its file into Veltaro Builder");
+        row("anything else", "textures", true, 0, none,
+            "This file is neither a project nor a table of sites or "
+            "links, footprints of buildings or a raster");
+        row("none", "gone.csv", true, 0, none, "This file does not exist");
     }
 
     void opensTheFileThatItWasStartedWith()

@@ -2,6 +2,7 @@
 #include "app/StyleSheet.h"
 #include "app/ToolkitTexts.h"
 #include "resources/Resources.h"
+#include "support/Cases.h"
 #include "support/Files.h"
 #include "support/Patience.h"
 
@@ -68,31 +69,23 @@ private Q_SLOTS:
 
     void readsTheCommandLine_data()
     {
-        QTest::addColumn<QStringList>("arguments");
-        QTest::addColumn<QString>("display");
-        QTest::addColumn<int>("status");
-        QTest::addColumn<QByteArray>("output"); // start of the output
-        QTest::addColumn<QByteArray>("errors");
-
+        // output: start of the output
+        const Cases<QStringList, QString, int, QByteArray, QByteArray> row(
+            {"arguments", "display", "status", "output", "errors"});
         const QString here = QString::fromLocal8Bit(qgetenv("DISPLAY"));
         const QByteArray help = "Usage: VltTelecomLayers [options] [FILE]\n";
         const QByteArray hint = "try 'VltTelecomLayers --help'\n";
-        QTest::newRow("help") << QStringList{u"--help"_s} << here << 0 << help << QByteArray();
-        QTest::newRow("help without a display") << QStringList{u"-style"_s, u"Windows"_s, u"-h"_s}
-                                                << QString() << 0 << help << QByteArray();
-        QTest::newRow("version") << QStringList{u"--version"_s} << QString() << 0
-                                 << QByteArray("VltTelecomLayers 0.") << QByteArray();
-        QTest::newRow("unknown option beside the toolkit's own")
-            << QStringList{u"-style"_s, u"Windows"_s, u"-stylesheet"_s, u"my.qss"_s, u"--frob"_s}
-            << here << 2 << QByteArray()
-            << QByteArray("VltTelecomLayers: unknown option \"--frob\"\n" + hint);
-        QTest::newRow("two files")
-            << QStringList{u"a.csv"_s, u"--"_s, u"--help"_s} << here << 2 << QByteArray()
-            << QByteArray("VltTelecomLayers: more than one file is named\n" + hint);
-        QTest::newRow("no display")
-            << QStringList{u"a.csv"_s} << u":987654"_s << 1 << QByteArray()
-            << QByteArray("VltTelecomLayers: no window can be opened here (could not connect to "
-                          "display :987654); vltlayers makes the same layers without one\n");
+        row("help", {u"--help"_s}, here, 0, help, {});
+        row("help without a display", {u"-style"_s, u"Windows"_s, u"-h"_s}, {}, 0, help, {});
+        row("version", {u"--version"_s}, {}, 0, "VltTelecomLayers 0.", {});
+        row("unknown option beside the toolkit's own",
+            {u"-style"_s, u"Windows"_s, u"-stylesheet"_s, u"my.qss"_s, u"--frob"_s}, here, 2, {},
+            QByteArray("VltTelecomLayers: unknown option \"--frob\"\n" + hint));
+        row("two files", {u"a.csv"_s, u"--"_s, u"--help"_s}, here, 2, {},
+            QByteArray("VltTelecomLayers: more than one file is named\n" + hint));
+        row("no display", {u"a.csv"_s}, ":987654", 1, {},
+            "VltTelecomLayers: no window can be opened here (could not connect to "
+            "display :987654); vltlayers makes the same layers without one\n");
     }
 
     void readsTheCommandLine()

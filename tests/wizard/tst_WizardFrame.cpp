@@ -1,5 +1,6 @@
 #include "gui/AnsweredBoxes.h"
 #include "platform/Settings.h"
+#include "support/Cases.h"
 #include "support/Files.h"
 #include "support/Patience.h"
 #include "wizard/frame/VltTelecomLayersWizard.h"
@@ -166,11 +167,11 @@ private Q_SLOTS:
 
     void tabReachesEveryStopAndComesBack_data()
     {
-        QTest::addColumn<int>("page");
-        QTest::newRow("sites") << 2;
-        QTest::newRow("links") << 3;
-        QTest::newRow("coloured buildings") << 6;
-        QTest::newRow("display of buildings") << 7;
+        const Cases<int> row({"page"});
+        row("sites", 2);
+        row("links", 3);
+        row("coloured buildings", 6);
+        row("display of buildings", 7);
     }
 
     void tabReachesEveryStopAndComesBack()
