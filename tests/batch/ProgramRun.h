@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/Cases.h"
 #include "support/Files.h"
 
 #include <QDirIterator>
@@ -24,19 +25,11 @@ inline QByteArray element(const QByteArray &layer, const QByteArray &name)
     return layer.mid(start, layer.indexOf("]]></" + name + '>') - start);
 }
 
-/// Adds the columns of a table of refused command lines.
-inline void addRefusalColumns()
+/// A table of refused command lines; the name of a row is its arguments.
+struct Refusals : Cases<int, QByteArray>
 {
-    QTest::addColumn<QString>("arguments");
-    QTest::addColumn<int>("status");
-    QTest::addColumn<QString>("message"); ///< a part of the message
-}
-
-inline void addRefusal(const char *arguments, int status, const char *message)
-{
-    QTest::newRow(arguments) << QString::fromUtf8(arguments) << status
-                             << QString::fromUtf8(message);
-}
+    Refusals() : Cases({"status", "message"}) {} // message: a part of it
+};
 
 /// A private installation ("install dir") and the program, run in another directory ("elsewhere").
 class ProgramRun
@@ -80,19 +73,22 @@ public:
         const QProcessEnvironment &environment = QProcessEnvironment::systemEnvironment()) const
     {
         QFETCH(int, status);
-        QFETCH(QString, message);
+        QFETCH(QByteArray, message);
         const QMap<QString, QByteArray> before = files();
 
         const Run run = start(arguments, environment);
 
         QCOMPARE(run.status, status);
-        QVERIFY2(run.errors.contains(message.toUtf8()), run.errors.constData());
+        QVERIFY2(run.errors.contains(message), run.errors.constData());
         QCOMPARE(run.output, QByteArray());
         QVERIFY2(files() == before, "a file was written");
     }
 
-    /// The same; no argument has a blank.
-    void checkRefusal(const QString &arguments) const { checkRefusal(split(arguments)); }
+    /// The same with the name of the row as arguments; none of them has a blank.
+    void checkRefusal(const QString &arguments = QString::fromUtf8(QTest::currentDataTag())) const
+    {
+        checkRefusal(split(arguments));
+    }
 
 private:
     static QStringList split(const QString &arguments)

@@ -1,4 +1,5 @@
 #include "ProgramRun.h"
+#include "support/Cases.h"
 
 #include <QImage>
 #include <QJsonDocument>
@@ -59,29 +60,26 @@ private Q_SLOTS:
 
     void writesDocuments_data()
     {
-        QTest::addColumn<QString>("options");
-        QTest::addColumn<QStringList>("fragments"); ///< "@" means the folder of the inputs
-
-        QTest::newRow("coloured, first run")
-            << u"--image ../level.asc"_s
-            << QStringList{u"filename=\"@/houses.geojson\"\n    layer=\"houses\"\n"
-                           "    hfield=\"height\"\n    tileSize=\"250\"\n"
-                           "    extrudedVisibility=\"2000\"\n    wallColor=\"IMAGE;@/level.asc;"
-                           "@/install dir/addons/telecom/colormaps/a/first.txt;minimum;stretched;"
-                           "interpolation\"\n    skirtHeight=\"5\"\n    checkClockwise=\"false\""_s,
-                           u"filename=\"@/dem.asc\"\n    nodata=\"-9999.000000\"\n"_s};
-        QTest::newRow("coloured, all options")
-            << u"--image ../level.asc --image-nodata -60 --colormap LEVEL_dbm --absolute "
-               "--color-ranges --mode most-represented --layer HOUSES --height-field ID "
-               "--dtm-nodata 7 --distance 900 --tile-size 62.5 --skirt 0 --check-clockwise"_s
-            << QStringList{
-                   u"hfield=\"id\"\n    tileSize=\"62.5\"\n    extrudedVisibility=\"900\""_s,
-                   u"colormaps/b/level_dBm.cmap;mostRepresented;absolute;colorrange;-60\""_s,
-                   u"skirtHeight=\"0\"\n    checkClockwise=\"true\""_s, u"nodata=\"7\""_s};
-        QTest::newRow("colour map of the user, empty no-data")
-            << u"--image ../level.asc --colormap ../own.txt --mode mostRepresented --dtm-nodata="_s
-            << QStringList{u"level.asc;@/own.txt;mostRepresented;stretched;"_s, u"nodata=\"\""_s};
-        addRowsWithStyle();
+        // fragments: "@" means the folder of the inputs
+        const Cases<QString, QStringList> row({"options", "fragments"});
+        row("coloured, first run", "--image ../level.asc",
+            {u"filename=\"@/houses.geojson\"\n    layer=\"houses\"\n"
+             "    hfield=\"height\"\n    tileSize=\"250\"\n"
+             "    extrudedVisibility=\"2000\"\n    wallColor=\"IMAGE;@/level.asc;"
+             "@/install dir/addons/telecom/colormaps/a/first.txt;minimum;stretched;"
+             "interpolation\"\n    skirtHeight=\"5\"\n    checkClockwise=\"false\""_s,
+             u"filename=\"@/dem.asc\"\n    nodata=\"-9999.000000\"\n"_s});
+        row("coloured, all options",
+            "--image ../level.asc --image-nodata -60 --colormap LEVEL_dbm --absolute "
+            "--color-ranges --mode most-represented --layer HOUSES --height-field ID "
+            "--dtm-nodata 7 --distance 900 --tile-size 62.5 --skirt 0 --check-clockwise",
+            {u"hfield=\"id\"\n    tileSize=\"62.5\"\n    extrudedVisibility=\"900\""_s,
+             u"colormaps/b/level_dBm.cmap;mostRepresented;absolute;colorrange;-60\""_s,
+             u"skirtHeight=\"0\"\n    checkClockwise=\"true\""_s, u"nodata=\"7\""_s});
+        row("colour map of the user, empty no-data",
+            "--image ../level.asc --colormap ../own.txt --mode mostRepresented --dtm-nodata=",
+            {u"level.asc;@/own.txt;mostRepresented;stretched;"_s, u"nodata=\"\""_s});
+        addRowsWithStyle(row);
     }
 
     void writesDocuments()
@@ -127,17 +125,12 @@ private Q_SLOTS:
 
     void warnsOfImages_data()
     {
-        QTest::addColumn<QString>("options");
-        QTest::addColumn<QByteArray>("warning");
-        QTest::addColumn<int>("images");
-
-        QTest::newRow("one without height")
-            << u"--textures ../t/c.asc"_s
-            << QByteArray("vltlayers: images without a stated height, 0 m is used: 1\n") << 3;
-        QTest::newRow("none") << QString()
-                              << QByteArray("vltlayers: the buildings have no images: neither "
-                                            "--texture nor --textures is given\n")
-                              << 0;
+        const Cases<QString, QByteArray, int> row({"options", "warning", "images"});
+        row("one without height", "--textures ../t/c.asc",
+            "vltlayers: images without a stated height, 0 m is used: 1\n", 3);
+        row("none", {},
+            "vltlayers: the buildings have no images: neither --texture nor --textures is given\n",
+            0);
     }
 
     void warnsOfImages()
@@ -157,8 +150,8 @@ private Q_SLOTS:
 
     void refusesAndWritesNothing_data()
     {
-        addRefusalColumns();
-        const auto row = addRefusal; // text after "buildings "; "%" means the two inputs
+        // text after "buildings "; "%" means the two inputs
+        const Refusals row;
         row("../no.shp --dtm ../dem.asc --image ../level.asc", 1,
             "../no.shp: This file can't be open as a vector file");
         row("../houses.geojson --dtm ../own.txt --image ../level.asc", 1,
@@ -208,7 +201,7 @@ private Q_SLOTS:
 
     void refusesAndWritesNothing()
     {
-        QFETCH(QString, arguments);
+        QString arguments = QString::fromUtf8(QTest::currentDataTag());
         arguments.replace(u"%"_s, u"../houses.geojson --dtm ../dem.asc"_s);
         if (!arguments.contains(u" -o "_s))
             arguments += u" -o old.lay"_s;
@@ -218,10 +211,9 @@ private Q_SLOTS:
 
     void overwritesNoInputByDocumentOrLegend_data()
     {
-        QTest::addColumn<QString>("image");
-
-        QTest::newRow("document") << u"o.texb"_s;
-        QTest::newRow("legend") << u"first_gradient.png"_s;
+        const Cases<QString> row({"image"});
+        row("document", "o.texb");
+        row("legend", "first_gradient.png");
     }
 
     void overwritesNoInputByDocumentOrLegend()
@@ -238,51 +230,48 @@ private Q_SLOTS:
 
 private:
     /// Adds rows with documents in which buildings have more than the image's colours.
-    static void addRowsWithStyle()
+    static void addRowsWithStyle(const Cases<QString, QStringList> &row)
     {
-        QTest::newRow("textured, first run")
-            << u"--textures ../t/c_6m.asc --filter m"_s
-            << QStringList{u"<veltaroTexturedBuildings \n  cache=\"none\">"_s,
-                           u"texturedVisibility=\"2000\"\n    wallColor=\"#d9d4c7\"\n"
-                           "    roofColor=\"#b5634c\"\n"_s,
-                           u"mode=\"roofs\"\n    edgeColor=\"#404040\"\n"
-                           "    forceEdgeCreation=\"false\"\n"
-                           "    processComplexBuildings=\"true\"\n    magFilter=\"none\"\n  >\n"
-                           "    <texture \n      filename=\"@/t/c_1.5m.asc\"\n"
-                           "      height=\"1.5\"\n    />\n    <texture \n"
-                           "      filename=\"@/t/c_6m.asc\"\n      height=\"6\"\n    />\n"
-                           "  </textures>"_s};
+        row("textured, first run", "--textures ../t/c_6m.asc --filter m",
+            {u"<veltaroTexturedBuildings \n  cache=\"none\">"_s,
+             u"texturedVisibility=\"2000\"\n    wallColor=\"#d9d4c7\"\n"
+             "    roofColor=\"#b5634c\"\n"_s,
+             u"mode=\"roofs\"\n    edgeColor=\"#404040\"\n"
+             "    forceEdgeCreation=\"false\"\n"
+             "    processComplexBuildings=\"true\"\n    magFilter=\"none\"\n  >\n"
+             "    <texture \n      filename=\"@/t/c_1.5m.asc\"\n"
+             "      height=\"1.5\"\n    />\n    <texture \n"
+             "      filename=\"@/t/c_6m.asc\"\n      height=\"6\"\n    />\n"
+             "  </textures>"_s});
         const QString end = u"nodata=\"-9999.000000\"\n  />\n</veltaroTexturedBuildings>"_s;
-        QTest::newRow("plain") << u"--quiet --wall-color 010203 --cache all"_s
-                               << QStringList{u"  cache=\"all\" \n  delayedCacheWrite=\"false\""_s,
-                                              u"wallColor=\"#010203\"\n    roofColor=\"#b5634c\""_s,
-                                              end};
-        QTest::newRow("plain, roofs from the raster")
-            << u"--quiet --image ../level.asc --roof-color colormap"_s
-            << QStringList{u"roofColor=\"cmap:datasource=@/level.asc;cmap="_s, end};
-        QTest::newRow("textured, all options")
-            << u"--texture ../t/c.asc=3 --texture ../t/c_6m.asc --texture-on storeys "
-               "--textured-distance 300 --wall-color #A0b0C0 --roof-color colormap --image "
-               "../level.asc --image-nodata 5 --edge-color NAVY --force-edges "
-               "--no-complex-buildings --cache textured --delayed-write --cache-capacity 7 "
-               "--compression dxt5 --buffer 2.5 --dilatation 3 --magnify linear"_s
-            << QStringList{u"  cache=\"textured\" \n  delayedCacheWrite=\"true\" \n"
-                           "  delayedCacheWriteCapacity=\"7\">"_s,
-                           u"texturedVisibility=\"300\"\n    wallColor=\"#a0b0c0\"\n    "
-                           "roofColor=\"cmap:datasource=@/level.asc;nd=5;cmap=@/install dir/addons/"
-                           "telecom/colormaps/a/first.txt;stretchcmap=TRUE;interpolatecmap=TRUE;"
-                           "band=1;type=minimum\""_s,
-                           u"mode=\"storeys\"\n    edgeColor=\"#000080\"\n"
-                           "    forceEdgeCreation=\"true\"\n    processComplexBuildings=\"false\"\n"
-                           "   compression=\"dxt5\"\n    bufferValue=\"2.5\"\n"
-                           "    dilatationValue=\"3\"\n    magFilter=\"linear\""_s,
-                           u"filename=\"@/t/c.asc\"\n      height=\"3\""_s,
-                           u"filename=\"@/t/c_6m.asc\"\n      height=\"6\""_s};
-        QTest::newRow("images beside the template's folder")
-            << u"--textures ../t/net/c_9m.asc --structure sibling-folders --texture-on walls"_s
-            << QStringList{u"mode=\"walls\""_s, u"magFilter=\"none\"\n  >\n    <texture \n"
-                                                "      filename=\"@/t/net/c_9m.asc\"\n"
-                                                "      height=\"9\"\n    />\n  </textures>"_s};
+        row("plain", "--quiet --wall-color 010203 --cache all",
+            {u"  cache=\"all\" \n  delayedCacheWrite=\"false\""_s,
+             u"wallColor=\"#010203\"\n    roofColor=\"#b5634c\""_s, end});
+        row("plain, roofs from the raster", "--quiet --image ../level.asc --roof-color colormap",
+            {u"roofColor=\"cmap:datasource=@/level.asc;cmap="_s, end});
+        row("textured, all options",
+            "--texture ../t/c.asc=3 --texture ../t/c_6m.asc --texture-on storeys "
+            "--textured-distance 300 --wall-color #A0b0C0 --roof-color colormap --image "
+            "../level.asc --image-nodata 5 --edge-color NAVY --force-edges "
+            "--no-complex-buildings --cache textured --delayed-write --cache-capacity 7 "
+            "--compression dxt5 --buffer 2.5 --dilatation 3 --magnify linear",
+            {u"  cache=\"textured\" \n  delayedCacheWrite=\"true\" \n"
+             "  delayedCacheWriteCapacity=\"7\">"_s,
+             u"texturedVisibility=\"300\"\n    wallColor=\"#a0b0c0\"\n    "
+             "roofColor=\"cmap:datasource=@/level.asc;nd=5;cmap=@/install dir/addons/"
+             "telecom/colormaps/a/first.txt;stretchcmap=TRUE;interpolatecmap=TRUE;"
+             "band=1;type=minimum\""_s,
+             u"mode=\"storeys\"\n    edgeColor=\"#000080\"\n"
+             "    forceEdgeCreation=\"true\"\n    processComplexBuildings=\"false\"\n"
+             "   compression=\"dxt5\"\n    bufferValue=\"2.5\"\n"
+             "    dilatationValue=\"3\"\n    magFilter=\"linear\""_s,
+             u"filename=\"@/t/c.asc\"\n      height=\"3\""_s,
+             u"filename=\"@/t/c_6m.asc\"\n      height=\"6\""_s});
+        row("images beside the template's folder",
+            "--textures ../t/net/c_9m.asc --structure sibling-folders --texture-on walls",
+            {u"mode=\"walls\""_s, u"magFilter=\"none\"\n  >\n    <texture \n"
+                                  "      filename=\"@/t/net/c_9m.asc\"\n"
+                                  "      height=\"9\"\n    />\n  </textures>"_s});
     }
 
     QString path(const QString &name) const { return m_program->path(name); }

@@ -1,4 +1,5 @@
 #include "ProgramRun.h"
+#include "support/Cases.h"
 
 #include <QImage>
 #include <QJsonDocument>
@@ -84,15 +85,11 @@ private Q_SLOTS:
 
     void showsTheCity_data()
     {
-        QTest::addColumn<double>("townM");
-        QTest::addColumn<int>("side");
-        QTest::addColumn<int>("visibleM");
-        QTest::addColumn<bool>("isWhole");
-
-        QTest::newRow("seen as usual") << 400. << 9 << 2000 << true;
-        QTest::newRow("seen whole only from near") << 800. << 9 << 1500 << true;
-        QTest::newRow("larger than what is seen") << 8000. << 81 << 900 << false;
-        QTest::newRow("seen only from among the houses") << 4000. << 81 << 100 << false;
+        const Cases<double, int, int, bool> row({"townM", "side", "visibleM", "isWhole"});
+        row("seen as usual", 400, 9, 2000, true);
+        row("seen whole only from near", 800, 9, 1500, true);
+        row("larger than what is seen", 8000, 81, 900, false);
+        row("seen only from among the houses", 4000, 81, 100, false);
     }
 
     void showsTheCity()

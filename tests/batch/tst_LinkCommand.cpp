@@ -1,4 +1,5 @@
 #include "ProgramRun.h"
+#include "support/Cases.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -50,20 +51,17 @@ private Q_SLOTS:
 
     void checksLinksOverATerrain_data()
     {
-        QTest::addColumn<int>("ridge");
-        QTest::addColumn<QString>("options");
-        QTest::addColumn<QString>("clearanceStatus");
-        QTest::addColumn<double>("clearance");
-
+        const Cases<int, QString, QString, double> row(
+            {"ridge", "options", "clearanceStatus", "clearance"});
         // In the middle the bulge of the earth is 0.454 m (2778.5 m squared over 2 * 4/3 * 6371
         // km), and the zone's radius at 6 GHz is 8.33 m (half the root of 0.049965 m * 5557 m).
-        QTest::newRow("more than the radius") << 120 << u""_s << u"clear"_s << 9.546;
-        QTest::newRow("19 % of the radius") << 128 << u""_s << u"marginal"_s << 1.546;
-        QTest::newRow("less is asked for") << 128 << u"--fresnel-share 18"_s << u"clear"_s << 1.546;
+        row("more than the radius", 120, {}, "clear", 9.546);
+        row("19 % of the radius", 128, {}, "marginal", 1.546);
+        row("less is asked for", 128, "--fresnel-share 18", "clear", 1.546);
         // The bulge is 6.058 m in the middle and 5.82 m at the ridge's southern edge, 556 m from
         // it.
-        QTest::newRow("a small earth") << 120 << u"--k-factor 0.1"_s << u"marginal"_s << 3.942;
-        QTest::newRow("the line is cut") << 131 << u""_s << u"obstructed"_s << qQNaN();
+        row("a small earth", 120, "--k-factor 0.1", "marginal", 3.942);
+        row("the line is cut", 131, {}, "obstructed", qQNaN());
     }
 
     void checksLinksOverATerrain()
@@ -147,13 +145,11 @@ private Q_SLOTS:
 
     void takesColors_data()
     {
-        QTest::addColumn<QString>("given");
-        QTest::addColumn<QByteArray>("inLayer");
-
-        QTest::newRow("digits") << u"A0b0C0"_s << QByteArray("a0b0c0ff");
-        QTest::newRow("mark") << u"#A0b0C0"_s << QByteArray("a0b0c0ff");
-        QTest::newRow("mark and alpha") << u"#a0b0c040"_s << QByteArray("a0b0c040");
-        QTest::newRow("name") << u"DarkOrange"_s << QByteArray("ff8c00ff");
+        const Cases<QString, QByteArray> row({"given", "inLayer"});
+        row("digits", "A0b0C0", "a0b0c0ff");
+        row("mark", "#A0b0C0", "a0b0c0ff");
+        row("mark and alpha", "#a0b0c040", "a0b0c040");
+        row("name", "DarkOrange", "ff8c00ff");
     }
 
     void takesColors()
@@ -187,8 +183,7 @@ private Q_SLOTS:
 
     void refusesAndWritesNothing_data()
     {
-        addRefusalColumns();
-        const auto row = addRefusal;
+        const Refusals row;
         row("link ../no.csv -o old.lay", 1, "../no.csv: This file can't be open as a link file (");
         row("info --link ../empty.csv", 1, "../empty.csv: This link file is empty");
         row("link ../lost.csv -o old.lay", 1, "../lost.csv: none of its links has a position");
@@ -212,12 +207,11 @@ private Q_SLOTS:
 
     void refusesAndWritesNothing()
     {
-        QFETCH(QString, arguments);
         const QByteArray header = Table.left(Table.indexOf('\n') + 1);
         writeFile(path(u"empty.csv"_s), header);
         writeFile(path(u"lost.csv"_s), header + Table.mid(Table.indexOf("Lost")));
 
-        m_program->checkRefusal(arguments);
+        m_program->checkRefusal();
     }
 
 private:

@@ -1,4 +1,5 @@
 #include "ProgramRun.h"
+#include "support/Cases.h"
 
 #include <QImage>
 #include <QJsonDocument>
@@ -109,18 +110,8 @@ private Q_SLOTS:
 
     void refusesAndWritesNothing_data()
     {
-        QTest::addColumn<QStringList>("arguments");
-        QTest::addColumn<int>("status");
-        QTest::addColumn<QString>("message");
-        QTest::addColumn<bool>("hasDisplay");
-
-        const auto row = [](const char *name, const QStringList &arguments, int status,
-                            const char *message, bool hasDisplay = true) {
-            const QStringList usual =
-                arguments.contains(u"-o"_s) ? QStringList() : QStringList{u"-o"_s, u"old.png"_s};
-            QTest::newRow(name) << usual + arguments << status << QString::fromLatin1(message)
-                                << hasDisplay;
-        };
+        const Cases<QStringList, int, QByteArray, bool> row(
+            {"arguments", "status", "message", "hasNoDisplay"});
         const auto size = [](const char *text) {
             return QStringList{Pylon, u"--size"_s, QString::fromLatin1(text)};
         };
@@ -132,7 +123,7 @@ private Q_SLOTS:
         row("empty scene", {u"empty.osgt"_s}, 1, "empty.osgt: the scene is empty");
         row("scene without sites", {u"empty.osgt"_s, u"--view"_s, u"precise"_s}, 1, "no sites");
         row("bad query", {Pylon + u"&pylon=1.inlinepylonurl"_s}, 1, "pylon");
-        row("no display", {Pylon}, 1, "run under xvfb-run", false);
+        row("no display", {Pylon}, 1, "run under xvfb-run", true);
         row("no layer", {}, 2, "no layer");
         row("unknown view", {Pylon, u"--view"_s, u"top"_s}, 2, "--view");
         row("too small", size("15x100"), 2, "--size");
@@ -146,9 +137,11 @@ private Q_SLOTS:
     void refusesAndWritesNothing()
     {
         QFETCH(QStringList, arguments);
-        QFETCH(bool, hasDisplay);
+        QFETCH(bool, hasNoDisplay);
+        if (!arguments.contains(u"-o"_s))
+            arguments << u"-o"_s << u"old.png"_s;
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        if (!hasDisplay)
+        if (hasNoDisplay)
             environment.insert(u"DISPLAY"_s, u":4711"_s);
 
         m_program->checkRefusal(QStringList{u"snapshot"_s} + arguments, environment);

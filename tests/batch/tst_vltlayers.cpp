@@ -1,4 +1,5 @@
 #include "ProgramRun.h"
+#include "support/Cases.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -35,19 +36,11 @@ private Q_SLOTS:
 
     void makesALayerFromAnotherDirectory_data()
     {
-        QTest::addColumn<QString>("table");
-        QTest::addColumn<QString>("project");
-        QTest::addColumn<QString>("inLayer");
-
-        const auto row = [](const char *table, const char *project, const char *inLayer) {
-            QTest::addRow("%s, project %s", table, project)
-                << QString::fromUtf8(table) << QString::fromUtf8(project)
-                << QString::fromUtf8(inLayer);
-        };
-        row("sites.csv", "city.gvw", "sites.csv");
-        row("données brutes/mes sites é.csv", "a project/ville é.gvw",
+        const Cases<QString, QString, QString> row({"table", "project", "inLayer"});
+        row("beside the project", "sites.csv", "city.gvw", "sites.csv");
+        row("blanks and accents", "données brutes/mes sites é.csv", "a project/ville é.gvw",
             "../données brutes/mes sites é.csv");
-        row("it's \"50%\"/a,b=c %1 s&<t>.csv", "it's \"50%\"/c.gvw", "a,b=c %1 s&<t>.csv");
+        row("signs", "it's \"50%\"/a,b=c %1 s&<t>.csv", "it's \"50%\"/c.gvw", "a,b=c %1 s&<t>.csv");
     }
 
     void makesALayerFromAnotherDirectory()
@@ -100,19 +93,14 @@ private Q_SLOTS:
 
     void takesNamesOfEveryLanguage_data()
     {
-        QTest::addColumn<QStringList>("options");
-        QTest::addColumn<QByteArray>("inLayer");
-
-        QTest::newRow("French colors") << QStringList{u"--sector-colors"_s, u"tons FROIDS"_s}
-                                       << QByteArray("sector_colors=103880ff ");
-        QTest::newRow("English colors") << QStringList{u"--sector-colors=warm shades"_s}
-                                        << QByteArray("sector_colors=b21820ff ");
-        QTest::newRow("English mast")
-            << QStringList{u"--pylon-type=Slim tubular mast with cylindrical antennas, without "
-                           "platform"_s}
-            << QByteArray("pylon_type=monopole_slim,");
-        QTest::newRow("type in capitals")
-            << QStringList{u"--pylon-type=LATTICE_panel"_s} << QByteArray("=lattice_panel,");
+        const Cases<QStringList, QByteArray> row({"options", "inLayer"});
+        row("French colors", {u"--sector-colors"_s, u"tons FROIDS"_s}, "sector_colors=103880ff ");
+        row("English colors", {u"--sector-colors=warm shades"_s}, "sector_colors=b21820ff ");
+        row("English mast",
+            {u"--pylon-type=Slim tubular mast with cylindrical antennas, without "
+             "platform"_s},
+            "pylon_type=monopole_slim,");
+        row("type in capitals", {u"--pylon-type=LATTICE_panel"_s}, "=lattice_panel,");
     }
 
     void takesNamesOfEveryLanguage()
@@ -158,15 +146,12 @@ private Q_SLOTS:
 
     void speaksFrenchOfTables_data()
     {
-        QTest::addColumn<QString>("table");
-        QTest::addColumn<QString>("arguments");
-        QTest::addColumn<QString>("text");
-        QTest::newRow("a problem of a row")
-            << u"Site ID,Longitude,Latitude\nA,\"100%2 \"\"E\"\" %1\",45\nB,3,45\n"_s << u"info"_s
-            << u"la coordonnée «\u00a0100%2 \"E\" %1\u00a0» ne peut pas être lue\u00a0: "_s;
-        QTest::newRow("a system")
-            << u"Site ID,Longitude,Latitude\nA,2,45\n"_s << u"site -oo.lay --source-srs \"1\""_s
-            << u"s.csv: le système de coordonnées «\u00a0\"1\"\u00a0» est inconnu"_s;
+        const Cases<QString, QString, QString> row({"table", "arguments", "text"});
+        row("a problem of a row",
+            "Site ID,Longitude,Latitude\nA,\"100%2 \"\"E\"\" %1\",45\nB,3,45\n", "info",
+            "la coordonnée «\u00a0100%2 \"E\" %1\u00a0» ne peut pas être lue\u00a0: ");
+        row("a system", "Site ID,Longitude,Latitude\nA,2,45\n", "site -oo.lay --source-srs \"1\"",
+            "s.csv: le système de coordonnées «\u00a0\"1\"\u00a0» est inconnu");
     }
 
     void speaksFrenchOfTables()
@@ -233,47 +218,40 @@ private Q_SLOTS:
 
     void warnsOfSystemsThatDoNotFit_data()
     {
-        QTest::addColumn<QByteArray>("table");
-        QTest::addColumn<QString>("arguments");
-        QTest::addColumn<QByteArray>("warning"); // empty for none
-
+        // The name of a row is its arguments.
+        const Cases<QByteArray, QByteArray> row({"table", "warning"});
         const QByteArray meters = "Site ID,X,Y\nA,222300,6756000\n"; // Brittany in Lambert-93
-        const auto row = [](const QByteArray &table, const char *arguments, const char *warning) {
-            QTest::newRow(arguments)
-                << table << QString::fromLatin1(arguments)
-                << (*warning ? "vltlayers: " + QByteArray(warning) + '\n' : "");
-        };
-        row(Table, "--target-srs EPSG:2154", "");
-        row(Table, "--source-srs 2154 --target-srs 2154",
+        row("--target-srs EPSG:2154", Table, {});
+        row("--source-srs 2154 --target-srs 2154", Table,
             "the coordinates of the table are in degrees, but its system RGF93 v1 / Lambert-93 "
             "(2154) counts in meters or feet");
-        row(meters, "--source-srs 4326 --target-srs EPSG:4326",
+        row("--source-srs 4326 --target-srs EPSG:4326", meters,
             "the coordinates of the table are in meters, but its system WGS 84 (4326) counts in "
             "degrees\nvltlayers: ../s.csv: none of its sites has a position; \"vltlayers info\" "
             "shows why");
-        row(Table, "--target-srs 2193",
+        row("--target-srs 2193", Table,
             "2 of 2 positions lie outside the area of use of NZGD2000 / New Zealand Transverse "
             "Mercator 2000 (2193)");
-        row(meters, "--source-srs 32630 --target-srs EPSG:32630",
+        row("--source-srs 32630 --target-srs EPSG:32630", meters,
             "1 of 1 positions lie outside the area of use of WGS 84 / UTM zone 30N (32630)");
     }
 
     void warnsOfSystemsThatDoNotFit()
     {
         QFETCH(QByteArray, table);
-        QFETCH(QString, arguments);
+        QFETCH(QByteArray, warning);
         writeFile(path(u"s.csv"_s), table);
 
-        const Run run = start(u"site ../s.csv -o o.lay "_s + arguments);
+        const Run run =
+            start(u"site ../s.csv -o o.lay "_s + QString::fromLatin1(QTest::currentDataTag()));
 
-        QTEST(run.errors, "warning");
+        QCOMPARE(run.errors, warning.isEmpty() ? "" : "vltlayers: " + warning + '\n');
         QCOMPARE(run.status, run.errors.contains("none of its sites") ? 1 : 0);
     }
 
     void refusesAndWritesNothing_data()
     {
-        addRefusalColumns();
-        const auto row = addRefusal;
+        const Refusals row;
         row("site ../missing.csv -o old.lay", 1,
             "../missing.csv: This file can't be open as a site file (the file does not exist)");
         row("site ../unplaced.csv -o old.lay", 1, "../unplaced.csv: ");
@@ -315,7 +293,6 @@ private Q_SLOTS:
 
     void refusesAndWritesNothing()
     {
-        QFETCH(QString, arguments);
         writeFile(path(u"s.csv"_s), Table);
         writeFile(path(u"c.gvw"_s), "DEM Layers\n");
         writeFile(path(u"unplaced.csv"_s), "Site ID,Longitude,Latitude\nA,east,north\nB,,\n");
@@ -323,7 +300,7 @@ private Q_SLOTS:
                                         "A,1.5,45,1.6,45\n");
         writeFile(path(u"elsewhere/old.lay"_s), "old");
 
-        m_program->checkRefusal(arguments);
+        m_program->checkRefusal();
     }
 
     void writesLayersToTheStandardOutput()
