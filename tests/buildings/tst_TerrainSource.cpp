@@ -1,6 +1,7 @@
 #include "SourcePage.h"
 #include "support/Cases.h"
 #include "support/Files.h"
+#include "support/GeoTiff.h"
 
 #include <QDir>
 #include <QProgressBar>
@@ -36,9 +37,8 @@ class tst_TerrainSource : public QObject, SourceFiles
         const QString path = file(u"picture%1.tif"_s.arg(bands));
         const std::array<const char *, 2> options = {
             bands == 1 ? "PHOTOMETRIC=PALETTE" : "PHOTOMETRIC=RGB", nullptr};
-        const GDALDatasetUniquePtr made(GetGDALDriverManager()->GetDriverByName("GTiff")->Create(
-            path.toUtf8(), 4, 4, bands, GDT_Byte, options.data()));
-        return made ? path : QString();
+        makeGeoTiff(path, {.columns = 4, .rows = 4, .bands = bands, .options = options.data()});
+        return path;
     }
 
 private Q_SLOTS:
@@ -108,16 +108,7 @@ private Q_SLOTS:
         QFETCH(double, west);
         QFETCH(QString, reported);
         const QString path = file(u"mercator.tif"_s);
-        {
-            const GDALDatasetUniquePtr made(
-                GetGDALDriverManager()->GetDriverByName("GTiff")->Create(path.toUtf8(), 2, 2, 1,
-                                                                         GDT_Int16, nullptr));
-            std::array<double, 6> place = {west, 6e5, 0, 2.4e6, 0, -1.2e6};
-            OGRSpatialReference mercator;
-            mercator.importFromEPSG(3857);
-            made->SetGeoTransform(place.data());
-            made->SetSpatialRef(&mercator);
-        }
+        makeGeoTiff(path, {2, 2, 1, GDT_Int16, {west, 6e5, 0, 2.4e6, 0, -1.2e6}, "EPSG:3857"});
         remember(u"Dtm"_s, path);
         Host host;
 

@@ -3,6 +3,7 @@
 #include "coverage/LocalRaster.h"
 #include "support/Cases.h"
 #include "support/Files.h"
+#include "support/GeoTiff.h"
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -89,23 +90,19 @@ class tst_Coverage : public QObject
     std::string fileOf(const char *name, int columns, const std::vector<double> &values,
                        const Placing &placing, int bands = 1, const char *append = "NO")
     {
-        const std::string path = m_dir.filePath(QLatin1String(name)).toStdString();
         const char *options[] = {"TILED=YES", "BLOCKXSIZE=64", "BLOCKYSIZE=64",
                                  CSLTestBoolean(append) ? "APPEND_SUBDATASET=YES" : nullptr,
                                  nullptr};
         const int rows = int(values.size()) / columns;
-        const GDALDatasetUniquePtr made(GetGDALDriverManager()->GetDriverByName("GTiff")->Create(
-            path.c_str(), columns, rows, bands, GDT_Float32, const_cast<char **>(options)));
-        Placing copy = placing;
-        if (!made || made->SetGeoTransform(copy.data()) != CE_None)
-            qFatal("no raster");
-        GDALRasterBand &band = *made->GetRasterBand(1);
-        std::vector<double> written = values;
-        if (band.SetNoDataValue(FileNoData) != CE_None ||
-            band.RasterIO(GF_Write, 0, 0, columns, rows, written.data(), columns, rows, GDT_Float64,
-                          0, 0, nullptr) != CE_None)
-            qFatal("no values");
-        return path;
+        const auto value = [&](int column, int row, int) {
+            return values[std::size_t(row * columns + column)];
+        };
+        const auto finish = [](GDALDataset &made) {
+            made.GetRasterBand(1)->SetNoDataValue(FileNoData);
+        };
+        return makeGeoTiff(
+            m_dir.filePath(QLatin1String(name)),
+            {columns, rows, bands, GDT_Float32, placing, "", value, finish, options});
     }
 
 private Q_SLOTS:

@@ -1,6 +1,7 @@
 #include "linkpath/Fresnel.h"
 #include "linkpath/PathProfiler.h"
 #include "support/Cases.h"
+#include "support/GeoTiff.h"
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -33,27 +34,20 @@ std::shared_ptr<OGRSpatialReference> utm(int zone = 31)
 std::shared_ptr<TerrainRaster> terrain(const QString &path, double wallM, int otherColumn = -1,
                                        double otherM = 0)
 {
-    GDALAllRegister();
-    auto *driver = GetGDALDriverManager()->GetDriverByName("GTiff");
-    GDALDatasetUniquePtr file(
-        driver->Create(path.toLocal8Bit().constData(), Columns, Rows, 1, GDT_Float32, nullptr));
-    double place[6] = {WestM, PixelM, 0, NorthM, 0, -PixelM};
-    file->SetGeoTransform(place);
-    file->SetSpatialRef(utm().get());
-    file->GetRasterBand(1)->SetNoDataValue(NoDataM);
-    std::vector<float> row(Columns, PlainM);
-    const auto wall = [&row](int column, double heightM) {
-        for (int i = -2; i <= 2 && column >= 0; ++i)
-            row[static_cast<std::size_t>(column + i)] = static_cast<float>(heightM);
+    const auto heightM = [&](int column, int, int) {
+        const bool isOther = otherColumn >= 0 && std::abs(column - otherColumn) <= 2;
+        const bool isWall = std::abs(column - Columns / 2) <= 2;
+        return isOther ? otherM : isWall ? wallM : PlainM;
     };
-    wall(Columns / 2, wallM);
-    wall(otherColumn, otherM);
-    for (int i = 0; i < Rows; ++i)
-        if (file->GetRasterBand(1)->RasterIO(GF_Write, 0, i, Columns, 1, row.data(), Columns, 1,
-                                             GDT_Float32, 0, 0, nullptr) != CE_None)
-            return nullptr;
-    file.reset(); // writes it
-    return TerrainRaster::open(path.toLocal8Bit().toStdString()).file;
+    const auto finish = [](GDALDataset &file) { file.GetRasterBand(1)->SetNoDataValue(NoDataM); };
+    const GeoTiff image{.columns = Columns,
+                        .rows = Rows,
+                        .type = GDT_Float32,
+                        .placing = {WestM, PixelM, 0, NorthM, 0, -PixelM},
+                        .system = "EPSG:32631",
+                        .value = heightM,
+                        .finish = finish};
+    return TerrainRaster::open(makeGeoTiff(path, image)).file;
 }
 
 } // namespace

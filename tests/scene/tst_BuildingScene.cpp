@@ -4,6 +4,7 @@
 #include "plugins/scene/buildings/BuildingScene.h"
 #include "plugins/scene/reading/BadLayer.h"
 #include "support/Cases.h"
+#include "support/GeoTiff.h"
 
 #include <osg/Geometry>
 
@@ -282,9 +283,8 @@ private Q_SLOTS:
         makeTerrain("far.tif", 5000, 10, slope);
         // The western corners of the square lie between two columns of -5.
         makeTerrain("steps.tif", -8, 4, [](int column, int, int) { return column < 3 ? -5 : 101; });
-        towntest::make(
-            path("degrees.tif"),
-            {10, 10, 1, GDT_Byte, {2, 48}, 0.1, "EPSG:4326", [](int, int, int) { return 77; }});
+        makeGeoTiff(path("degrees.tif"), {10, 10, 1, GDT_Byte, northUp(2, 48, 0.1, 10), "EPSG:4326",
+                                          [](int, int, int) { return 77; }});
 
         const Drawn drawn(read(document("town.gpkg", "skirtHeight=\"3\"", terrain, noData)));
 
@@ -433,12 +433,11 @@ private:
 
     /// Writes a terrain of ten by ten pixels.
     void makeTerrain(const char *name, double x, double pixel,
-                     const decltype(towntest::Image::value) &heightM,
+                     const decltype(GeoTiff::value) &heightM,
                      const char *system = "EPSG:2154") const
     {
-        towntest::make(
-            path(name),
-            {10, 10, 1, GDT_Float32, {East + x, North - 5 * pixel}, pixel, system, heightM});
+        makeGeoTiff(path(name), {10, 10, 1, GDT_Float32,
+                                 northUp(East + x, North - 5 * pixel, pixel, 10), system, heightM});
     }
 
     osg::ref_ptr<osg::Group> read(const QByteArray &text)

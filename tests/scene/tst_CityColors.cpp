@@ -3,6 +3,7 @@
 #include "plugins/scene/buildings/CityColors.h"
 #include "plugins/scene/reading/Stopped.h"
 #include "support/Cases.h"
+#include "support/GeoTiff.h"
 
 #include <QTemporaryDir>
 
@@ -53,8 +54,9 @@ class tst_CityColors : public QObject
                     const char *system = "")
     {
         const auto value = [&values](int column, int, int) { return values[std::size_t(column)]; };
-        towntest::make(m_dir.filePath(QLatin1String(name)),
-                       {int(values.size()), 1, 1, GDT_Float32, corner, 10, system, value});
+        makeGeoTiff(m_dir.filePath(QLatin1String(name)),
+                    {int(values.size()), 1, 1, GDT_Float32, northUp(corner.x(), corner.y(), 10, 1),
+                     system, value});
     }
 
     QString colorsOf(const CityModel &city, const QByteArray &colorText, Notices &notices)

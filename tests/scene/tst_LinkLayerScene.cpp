@@ -3,8 +3,7 @@
 #include "plugins/scene/layers/LinkRecords.h"
 #include "plugins/scene/reading/TableLocation.h"
 #include "support/Cases.h"
-
-#include <gdal_priv.h>
+#include "support/GeoTiff.h"
 
 #include <QtTest>
 
@@ -59,27 +58,6 @@ double terrainM(double x, double y)
     return isHill ? 400 : 100 + (x - 650000) / 100;
 }
 
-bool writeTerrain(const QString &path)
-{
-    constexpr int Side = 80;
-    constexpr double StepM = 100;
-    constexpr double Left = 648000;
-    constexpr double Top = 6867000;
-    GDALAllRegister();
-    const GDALDatasetUniquePtr dataset(GetGDALDriverManager()->GetDriverByName("GTiff")->Create(
-        path.toLocal8Bit().constData(), Side, Side, 1, GDT_Float32, nullptr));
-    std::array<double, 6> placing{Left, StepM, 0, Top, 0, -StepM};
-    OGRSpatialReference srs;
-    std::vector<float> heights;
-    for (int i = 0; i < Side * Side; ++i)
-        heights.push_back(static_cast<float>(
-            terrainM(Left + (i % Side + 0.5) * StepM, Top - (i / Side + 0.5) * StepM)));
-    return dataset && dataset->SetGeoTransform(placing.data()) == CE_None &&
-           srs.importFromEPSG(2154) == OGRERR_NONE && dataset->SetSpatialRef(&srs) == CE_None &&
-           dataset->GetRasterBand(1)->RasterIO(GF_Write, 0, 0, Side, Side, heights.data(), Side,
-                                               Side, GDT_Float32, 0, 0, nullptr) == CE_None;
-}
-
 double turned(double azimuthDeg)
 {
     return std::fmod(azimuthDeg + 720, 360);
@@ -94,7 +72,12 @@ class tst_LinkLayerScene : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        QVERIFY(writeTerrain(path("dem.tif")));
+        const auto heightM = [](int column, int row, int) {
+            return terrainM(648050 + 100 * column, 6866950 - 100 * row);
+        };
+        makeGeoTiff(
+            path("dem.tif"),
+            {80, 80, 1, GDT_Float32, {648000, 100, 0, 6867000, 0, -100}, "EPSG:2154", heightM});
         writeFile(path("t.csv"), Header + Rows);
     }
 

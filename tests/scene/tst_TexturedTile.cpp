@@ -1,6 +1,7 @@
 #include "CityTesting.h"
 #include "plugins/scene/buildings/TexturedTile.h"
 #include "support/Cases.h"
+#include "support/GeoTiff.h"
 
 #include <osg/Geode>
 #include <osg/Geometry>
@@ -112,11 +113,11 @@ class tst_TexturedTile : public QObject
 
     /// Writes an image whose lower left corner is the city's origin.
     std::string imageOf(const char *name, int side, int bands, GDALDataType type,
-                        const decltype(Image::value) &value,
-                        const decltype(Image::finish) &finish = {})
+                        const decltype(GeoTiff::value) &value,
+                        const decltype(GeoTiff::finish) &finish = {})
     {
-        return make(m_dir.filePath(QLatin1String(name)),
-                    {side, side, bands, type, {}, 10, "", value, finish});
+        return makeGeoTiff(m_dir.filePath(QLatin1String(name)),
+                           {side, side, bands, type, northUp(0, 0, 10, side), "", value, finish});
     }
 
     /// The red value is the column, the green one the row, the blue one the height.
@@ -308,10 +309,8 @@ private Q_SLOTS:
     {
         // Pixels of 0.0001 degrees near the third meridian; the city is in UTM 31.
         const std::string path =
-            make(m_dir.filePath(QStringLiteral("degrees.tif")),
-                 {100, 100, 1, GDT_Byte, {2.995, 47.995}, 1e-4, "EPSG:4326", [](int, int, int) {
-                      return 1;
-                  }});
+            makeGeoTiff(m_dir.filePath(QStringLiteral("degrees.tif")),
+                        {100, 100, 1, GDT_Byte, northUp(2.995, 47.995, 1e-4, 100), "EPSG:4326"});
         OGRSpatialReference utm;
         utm.importFromEPSG(32631);
         char *wkt = nullptr;
