@@ -69,18 +69,6 @@ struct Host
     VltAddTexbFirstPage *page = nullptr;
 };
 
-inline void compareBoxes(const QList<SeenBox> &seen, QMessageBox::Icon icon, const QString &title,
-                         const QString &text)
-{
-    QCOMPARE(seen.size(), text.isEmpty() ? 0 : 1);
-    if (text.isEmpty())
-        return;
-    QCOMPARE(seen.constFirst().icon, icon);
-    QCOMPARE(seen.constFirst().title, title);
-    QCOMPARE(seen.constFirst().text, text);
-    QCOMPARE(seen.constFirst().buttons, QMessageBox::Ok);
-}
-
 /// The files of a test and the settings of the page.
 class SourceFiles
 {

@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QMessageBox>
+#include <QTest>
 #include <QTimer>
 
 /// The texts of a message box.
@@ -46,3 +47,16 @@ private:
 
     QTimer m_timer;
 };
+
+/// Checks that one box with an OK button opened; none if `text` is empty.
+inline void compareBoxes(const QList<SeenBox> &seen, QMessageBox::Icon icon, const QString &title,
+                         const QString &text)
+{
+    QCOMPARE(seen.size(), text.isEmpty() ? 0 : 1);
+    if (text.isEmpty())
+        return;
+    QCOMPARE(seen.constFirst().icon, icon);
+    QCOMPARE(seen.constFirst().title, title);
+    QCOMPARE(seen.constFirst().text, text);
+    QCOMPARE(seen.constFirst().buttons, QMessageBox::Ok);
+}

@@ -216,12 +216,8 @@ private Q_SLOTS:
 
         QCOMPARE(host.wizard.currentId(), 1);
         QVERIFY(host.parameters.isEmpty());
-        QCOMPARE(boxes.seen.size(), 1);
-        const SeenBox &box = boxes.seen.constFirst();
-        QCOMPARE(box.icon, QMessageBox::Warning);
-        QCOMPARE(box.title, u"Error !!!"_s);
-        QCOMPARE(box.text, u"Cannot open project\n"_s + file(u"folder.gvw"_s));
-        QCOMPARE(box.buttons, QMessageBox::Ok);
+        compareBoxes(boxes.seen, QMessageBox::Warning, u"Error !!!"_s,
+                     u"Cannot open project\n"_s + file(u"folder.gvw"_s));
     }
 
     void remembersTheDirectoryOfTheFileDialog()

@@ -123,10 +123,7 @@ private Q_SLOTS:
         edit->setText(path);
         QTest::keyClick(edit, Qt::Key_Return);
 
-        QCOMPARE(boxes.seen.size(), 1);
-        QCOMPARE(boxes.seen.constFirst().icon, QMessageBox::Critical);
-        QCOMPARE(boxes.seen.constFirst().title, u"Error"_s);
-        QCOMPARE(boxes.seen.constFirst().text, text);
+        compareBoxes(boxes.seen, QMessageBox::Critical, u"Error"_s, text);
         QVERIFY(!flow.icon->isEnabled());
         QVERIFY(!flow.wizard.currentPage()->isComplete());
         QCOMPARE(flow.description(), NoSites);
