@@ -73,11 +73,9 @@ private Q_SLOTS:
         write("map.txt", "nv 1 2 3\n0 0 0 0\n50 100 0 0\n100 200 0 255\n");
         write("plain.txt", "0 0 0 0\n100 200 0 0\n");
         write("cmap=.txt", "0 0 0 0\n100 200 0 0\n");
-        write("bad.txt", "5 pink\n");
         makeRaster("a.tif", {0, 25, 50, -99});
         makeRaster("a;nd=1.tif", {7});
         makeRaster("lambert.tif", {0, 25, 50, -99}, {221500, 6758000}, "EPSG:2154");
-        makeRaster("void.tif", {-99});
         write("text.tif", "no image");
     }
 
@@ -142,12 +140,6 @@ private Q_SLOTS:
         row("IMAGE;x.tif;map.txt;average;absolute;interpolation",
             "\"x.tif\" cannot be used for colors (there is no such local file)");
         row("IMAGE;text.tif;map.txt;average;absolute;interpolation", "not recognized");
-        row("IMAGE;a.tif;map.txt;average;absolute;interpolation;ten", "\"ten\" is not a number");
-        row("IMAGE;a.tif;x.txt;average;absolute;interpolation",
-            "the color map \"x.txt\" does not exist");
-        row("IMAGE;a.tif;bad.txt;average;absolute;interpolation",
-            "the color map \"bad.txt\" cannot be used (Unknown color : pink)");
-        row("IMAGE;void.tif;map.txt;average;stretched;interpolation;-99", "has no values");
     }
 
     void reportsWhatCannotBeUsed()

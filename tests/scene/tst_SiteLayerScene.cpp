@@ -235,15 +235,10 @@ private Q_SLOTS:
             return QByteArray(good).replace(what, with);
         };
         row("empty", {}, "veltaroLayer");
-        row("kind", changed("=\"sites\"", "=\"towers\""), "\"towers\"");
         row("kind of query", changed("=\"sites\"", "=\"links\""), "link:");
-        row("no kind", changed("kind=\"sites\"", ""), "kind");
-        row("no source", changed("source", "sauce"), "source");
         row("no end", good.left(good.indexOf("]]></source")), "source");
         row("other driver", changed("site:", "CSV:"), "site:");
-        row("no table", changed("t.csv]", "u.csv]"), "u.csv");
         row("remote", changed("t.csv]", "/vsicurl/http://h/t.csv]"), "/vsicurl");
-        row("no width", changed("pylon_width=2.5,", ""), "pylon_width");
         row("endless radius", changed("200 20 2", "inf 20 2"), "radius");
         row("type", changed("monopole_panel", "obelisk"), "obelisk");
         row("colour", changed("00ff00ff", "00ff00"), "\"00ff00\"");

@@ -123,22 +123,15 @@ private Q_SLOTS:
         const Cases<QByteArray, QByteArray> row({"text", "named"});
         const QByteArray good = document({});
         row("nothing", {}, "not a building document");
-        row("another root", "<veltaroLayer/>", "not a building");
         row("only its name in a comment", "<!-- <veltaroTexturedBuildings> --><x/>",
             "not a building");
         row("no end of a comment", "<veltaroTexturedBuildings><!-- " + good, "footprints");
         row("no footprints", "<veltaroTexturedBuildings></veltaroTexturedBuildings>", "footprints");
-        row("no field", QByteArray(good).replace("hfield", "field"), "field of heights");
-        row("a value without end", document("layer=\"x").left(150), "layer");
         row("no number", document("skirtHeight=\"5 m\""), "skirtHeight");
         row("decimal comma", document("tileSize=\"2,5\""), "tileSize");
         row("not finite", document("tileSize=\"inf\""), "tileSize");
         row("too great", document("tileSize=\"1e999\""), "tileSize");
-        row("no size", document("tileSize=\"0\""), "tileSize");
         row("negative", document("extrudedVisibility=\"-1\""), "extrudedVisibility");
-        row("unknown mode", textures({}).replace("walls", "doors"), "\"doors\"");
-        row("no height of an image", textures({}, "<texture filename=\"a\" height=\"low\"/>"),
-            "height");
     }
 
     void refusesOthers()
