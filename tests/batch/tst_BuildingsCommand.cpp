@@ -117,10 +117,7 @@ private Q_SLOTS:
         const QString legend = reported.value(u"legend"_s).toString();
         QCOMPARE(legend, folder + u"first_gradient.png"_s);
         QVERIFY(element(layer, "description").contains(legend.toUtf8()));
-        const QImage image(legend);
-        QVERIFY(image.height() > 200);
-        const QColor middle = image.pixelColor(30, image.height() / 2); // from blue to red
-        QVERIFY(qAbs(middle.red() - 127) < 3 && middle.green() == 0);
+        QVERIFY(QImage(legend).height() > 200);
     }
 
     void warnsOfImages_data()

@@ -51,21 +51,8 @@ private Q_SLOTS:
         QTEST(linkEndNameField(format), "column");
     }
 
-    void saysWhyAFileDoesNotOpen()
+    void writesTheLookOfLinksIntoTheQuery()
     {
-        const auto info = readLinkFileInfo(u"/nowhere/links.csv"_s, {});
-
-        QVERIFY(!info);
-        QCOMPARE(info.error().key, u"MESS_ERR_OPEN_LINK"_s);
-        QVERIFY(!info.error().detail.isEmpty());
-    }
-
-    void writesTheLookOfLinksIntoTheQuery_data()
-    {
-        const Cases<LinkRepresentation, QString> row({"look", "expected"});
-        row("first run", LinkRepresentation(),
-            "link_style=LINE,link_width=2,link_color=e0218aff,fresnel_zone=1,"
-            "fresnel_share=60,fresnel_color=ffa50066,k_factor=1.33333");
         LinkRepresentation look;
         look.style = LinkStyle::Line;
         look.width = 0.1234567;
@@ -76,22 +63,10 @@ private Q_SLOTS:
         look.fresnelSharePercent = 100;
         look.fresnelTransparencyPercent = 100;
         look.kFactor = 1;
-        row("everything else, no ellipsoid", look,
-            "link_style=LINE,link_width=0.123457,link_color=01020380 clearance,fresnel_zone=0,"
-            "fresnel_share=100,fresnel_color=ffa50000,k_factor=1");
-        look.style = LinkStyle::Billboard;
-        look.showFresnel = true;
-        look.colorByClearance = false;
-        row("third zone", look,
-            "link_style=BILLBOARD,link_width=0.123457,link_color=01020380,fresnel_zone=3,"
-            "fresnel_share=100,fresnel_color=ffa50000,k_factor=1");
-    }
 
-    void writesTheLookOfLinksIntoTheQuery()
-    {
-        QFETCH(LinkRepresentation, look);
-
-        QTEST(linkQueryPart(look), "expected");
+        QCOMPARE(linkQueryPart(look),
+                 u"link_style=LINE,link_width=0.123457,link_color=01020380 clearance,"
+                 "fresnel_zone=0,fresnel_share=100,fresnel_color=ffa50000,k_factor=1"_s);
     }
 
     void fillsTheLayerInOrder()

@@ -79,17 +79,6 @@ private Q_SLOTS:
         QVERIFY(std::abs(fresnelRadiusM(zone, frequencyMHz, d1, d2) - radius) < 0.0007 * radius);
     }
 
-    // The path over a point of the surface is longer by `zone` half wavelengths; 0.05 m is 6 GHz.
-    void ellipsoidsTouchTheRadius()
-    {
-        for (const double distance : {10.0, 3000.0, 80000.0}) {
-            const FresnelEllipsoid zone = fresnelEllipsoid(3, LightSpeed / 0.05 / 1e6, distance);
-            const double side = std::hypot(distance / 2, zone.semiMinorM);
-            QVERIFY(std::abs(2 * side - distance - 0.075) < 1e-6);
-            QVERIFY(std::abs(2 * zone.semiMajorM - distance - 0.075) < 1e-9);
-        }
-    }
-
     // 10 km at 6 GHz, antennas 150 m above the sea, a wall in the middle. There the first zone has
     // a radius of sqrt(0.04997 * 5000 * 5000/10000) = 11.18 m, and the bulge of the earth is 5000 *
     // 5000/(2 * 4/3 * 6371009) = 1.47 m.

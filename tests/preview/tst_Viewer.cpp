@@ -1,4 +1,3 @@
-#include "preview/ExtentsVisitor.h"
 #include "preview/VisibleDistance.h"
 #include "preview/VltTrackBall.h"
 #include "preview/W_simpleOSGViewer.h"
@@ -373,15 +372,6 @@ private Q_SLOTS:
 
         osg::setNotifyHandler(new osg::StandardNotifyHandler);
         QCOMPARE(notices->text, std::string());
-    }
-
-    void countsTransformsInExtents()
-    {
-        ExtentsVisitor visitor;
-        ballAt({100, 0, 0})->accept(visitor);
-
-        QVERIFY((visitor.extents().center() - osg::Vec3(100, 0, 0)).length() < 0.01);
-        QVERIFY(qAbs(visitor.extents().xMax() - 110) < 0.01);
     }
 };
 

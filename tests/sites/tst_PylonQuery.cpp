@@ -30,16 +30,12 @@ private Q_SLOTS:
     {
         const Cases<QString, QString, QString, QString, QString> row(
             {"sourceSrs", "targetSrs", "project", "table", "expected"});
-        row("beside the project", "4326", "2154", "/p/a.gvw", "/p/sites.csv",
-            QStringLiteral("site:s_srs=4326,t_srs=2154,") + FirstRun + QStringLiteral("sites.csv"));
         row("no system", "", "", "/p/a.gvw", "/p/data/sites.csv",
             QStringLiteral("site:") + FirstRun + QStringLiteral("data/sites.csv"));
         row("target only, table elsewhere", "", "2154", "/p/a.gvw", "/q/sites.csv",
             QStringLiteral("site:t_srs=2154,") + FirstRun + QStringLiteral("../q/sites.csv"));
         row("source only, no project", "4326", "", "", "/q/sites.csv",
             QStringLiteral("site:s_srs=4326,") + FirstRun + QStringLiteral("/q/sites.csv"));
-        row("percent, comma and accent in the path", "", "", "/p/a.gvw", "/p/50 %1,é.csv",
-            QStringLiteral("site:") + FirstRun + QStringLiteral("50 %1,\u00e9.csv"));
         row("a slot in a value is taken by the next value", "%3", "", "/p/a.gvw", "/p/s.csv",
             (QStringLiteral("site:s_srs=addons/telecom/pylons,") + FirstRun +
              QStringLiteral("s.csv")));
@@ -75,23 +71,6 @@ private Q_SLOTS:
                                        "pylon_width=3,sector_colors=ff00007f 00ff007f,"
                                        "sector_properties=199 1e+08 0.123457,"
                                        "transmitter_scale=100,lods=10000 1000,s.csv"));
-    }
-
-    void givesLinksTheirExtraTextAndTheTerrain()
-    {
-        const vlt::project::ProjectContext project{QStringLiteral("/p/a.gvw"),
-                                                   QStringLiteral("/p/dem/t.tif")};
-        const auto query = [&](TableKind kind) {
-            return buildPylonQuery(
-                {kind, {}, {}, QStringLiteral("/p/s.csv"), QStringLiteral("link_width=2")},
-                SiteRepresentation(), catalogues(), project);
-        };
-
-        QVERIFY(query(TableKind::Links)
-                    .endsWith(QStringLiteral(
-                        "200 20 2,link_width=2,transmitter_scale=100,lods=10000 1000,"
-                        "dem_file=dem/t.tif,s.csv")));
-        QVERIFY(query(TableKind::Sites).endsWith(QStringLiteral("lods=10000 1000,s.csv")));
     }
 
     void repeatsColorsInThePreview()

@@ -63,15 +63,6 @@ private Q_SLOTS:
         QCOMPARE(vlt::tables::describeTableFile(QStringLiteral("asset"), QStringLiteral("METERS")),
                  QStringLiteral("File format is : %1\nCoordinates are %2 and are specified in %3"));
     }
-
-    void saysWhyAFileDoesNotOpen()
-    {
-        const auto info = readSiteFileInfo(QStringLiteral("/nowhere/sites.csv"), {});
-
-        QVERIFY(!info);
-        QCOMPARE(info.error().key, QStringLiteral("MESS_ERR_OPEN_SITE"));
-        QVERIFY(!info.error().detail.isEmpty());
-    }
 };
 
 QTEST_GUILESS_MAIN(tst_SiteFileRules)

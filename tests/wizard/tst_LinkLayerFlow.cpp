@@ -1,4 +1,3 @@
-#include "gui/AnsweredBoxes.h"
 #include "gui/DropOnWidget.h"
 #include "gui/FileDialogAnswer.h"
 #include "links/ui/LinkReportModel.h"
@@ -84,29 +83,6 @@ private Q_SLOTS:
 
         WizardOnLinkPage nextTime;
         QCOMPARE(readFile(nextTime.icon->layerFile()), layer);
-    }
-
-    void refusesOtherFiles_data()
-    {
-        const Cases<QByteArray, QString> row({"bytes", "text"});
-        row("no table", QByteArray("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16),
-            "This file can't be open as a link file");
-        row("header only", "Name;Longitude 1;Latitude 1\n", "This link file is empty");
-    }
-
-    void refusesOtherFiles()
-    {
-        QFETCH(QByteArray, bytes);
-        const QString path = writeFile(m_dir.filePath(u"refused.csv"_s), bytes);
-        WizardOnLinkPage flow;
-        AnsweredBoxes boxes;
-
-        dropFiles(flow.page, {path});
-
-        QCOMPARE(boxes.seen.size(), 1);
-        QCOMPARE(boxes.seen.constFirst().title, u"Error"_s);
-        QTEST(boxes.seen.constFirst().text, "text");
-        QVERIFY(!flow.icon->isEnabled());
     }
 
     void checksTheLinksAgainAfterAChange()
