@@ -104,11 +104,7 @@ private Q_SLOTS:
 
     void readsGroupedThousands_data()
     {
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<double>("number"); // 0: none
-        const auto row = [](const char *text, double number) {
-            QTest::newRow(text) << QByteArray(text) << number;
-        };
+        const Cases<double> row({"number"}); // 0: none
         row("652 000,5", 652000.5);
         row("652,000.5", 652000.5);
         row("-652.000,5", -652000.5);
@@ -131,23 +127,13 @@ private Q_SLOTS:
     }
     void readsGroupedThousands()
     {
-        QFETCH(QByteArray, text);
-        QFETCH(double, number);
-
-        QCOMPARE(parseGroupedNumber(text.toStdString()).value_or(0), number);
+        QTEST(parseGroupedNumber(QTest::currentDataTag()).value_or(0), "number");
     }
 
     void readsColumns_data()
     {
-        QTest::addColumn<QList<QByteArray>>("x");
-        QTest::addColumn<QList<QByteArray>>("y");
-        QTest::addColumn<int>("unit");
-        QTest::addColumn<QStringList>("positions");
-        const auto row = [](const char *name, const QList<QByteArray> &x,
-                            const QList<QByteArray> &y, CoordinateUnit unit,
-                            const QStringList &positions) {
-            QTest::newRow(name) << x << y << static_cast<int>(unit) << positions;
-        };
+        using Cells = QList<QByteArray>;
+        const Cases<Cells, Cells, CoordinateUnit, QStringList> row({"x", "y", "unit", "positions"});
         row("blanks between thousands", {"652 000,5", "9 500"},
             {"6 862 000", "6\u00A0862\u00A0001,25"}, CoordinateUnit::Meters,
             {QStringLiteral("652000.5 6862000"), QStringLiteral("9500 6862001.25")});
@@ -161,14 +147,13 @@ private Q_SLOTS:
     {
         QFETCH(QList<QByteArray>, x);
         QFETCH(QList<QByteArray>, y);
-        QFETCH(int, unit);
-        QFETCH(QStringList, positions);
+        QFETCH(CoordinateUnit, unit);
         const TableProfile table = tableOf({{"X", x}, {"Y", y}});
 
         const SiteLayout layout = recogniseSiteLayout(table);
 
-        QCOMPARE(static_cast<int>(layout.unit), unit);
-        QCOMPARE(positionsOf(table, layout), positions);
+        QVERIFY(layout.unit == unit);
+        QTEST(positionsOf(table, layout), "positions");
     }
 
     void readsPairs_data()
