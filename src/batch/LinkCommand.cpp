@@ -9,7 +9,6 @@
 #include "batch/ProgressLine.h"
 #include "batch/SiteOptions.h"
 #include "language/VltLanguageManager.h"
-#include "links/ClearanceText.h"
 #include "links/LinkLayer.h"
 
 #include <QFileInfo>
@@ -99,9 +98,8 @@ void warnOfTerrain(const geodata::LinkCheck &check, const QString &terrain)
     if (terrain.isEmpty())
         printError(dico_label("MESS_CLI_NO_TERRAIN", "no terrain is known, so the clearance of the "
                                                      "links cannot be computed: give --terrain"));
-    else if (!check.terrainProblem.isEmpty())
-        printError(oneLine(terrain + QStringLiteral(": ") +
-                           links::terrainProblemText(check.terrainProblem)));
+    else if (check.terrainProblem)
+        printError(explain(*check.terrainProblem));
 }
 
 QString resultText(const geodata::LinkCheck &check, const LinkRequest &wanted, QJsonObject layer,
@@ -154,11 +152,11 @@ ExitStatus runParsed(const QCommandLineParser &parser, const LinkRequest &wanted
     if (wanted.terrain) {
         project.terrainFile =
             wanted.terrain->isEmpty() ? QString() : QFileInfo(*wanted.terrain).absoluteFilePath();
-        const QString problem = project.terrainFile.isEmpty()
-                                    ? QString()
-                                    : geodata::terrainProblem(project.terrainFile);
-        if (!problem.isEmpty())
-            return refuse({QString(), links::terrainProblemText(problem), *wanted.terrain});
+        const auto problem = project.terrainFile.isEmpty()
+                                 ? std::nullopt
+                                 : geodata::terrainProblem(project.terrainFile);
+        if (problem)
+            return refuse(problem->withPath(*wanted.terrain));
     }
     const auto read = readLayerRequest(parser, surroundings, {project.terrainFile});
     if (const ExitStatus *stopped = std::get_if<ExitStatus>(&read))

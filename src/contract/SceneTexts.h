@@ -121,6 +121,7 @@ inline constexpr auto SceneTexts = [] {
         {"MESS_SCENE_NOT_IN_FILE", "not in a file of this computer"},
         {"MESS_SCENE_NO_PART", "the file holds no such image"},
         {"MESS_TERRAIN_NOT_LOCAL", "there is no such local file"},
+        {"MESS_TERRAIN_NO_RASTER", "its format is not a known raster format"},
         {"MESS_TERRAIN_NOT_PLACED",
          "it has no band of heights, no georeference or no coordinate system"},
         {"MESS_TERRAIN_TOO_LARGE", "it is stored in blocks that are too large"},

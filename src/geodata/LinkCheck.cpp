@@ -1,6 +1,7 @@
 #include "geodata/LinkCheck.h"
 
 #include "contract/LinkEnds.h"
+#include "contract/SceneTexts.h"
 #include "geodata/LayerWalk.h"
 #include "geodata/TableDataset.h"
 #include "linkpath/LinkEndReader.h"
@@ -12,18 +13,49 @@ namespace vlt::geodata {
 
 namespace {
 
+constexpr std::string_view OtherFormat = contract::SceneTextId("MESS_SCENE_NO_FORMAT").text().key;
+
 QString text(const std::string &bytes)
 {
     return platform::decodeText(QByteArray::fromStdString(bytes));
 }
 
-std::shared_ptr<linkpath::TerrainRaster> openTerrain(const QString &file, QString &problem)
+/// A reason without the name of the file, which the error has as its path.
+std::string withoutName(const std::string &reason)
 {
-    if (file.isEmpty())
-        return nullptr;
+    const auto known = contract::recognised(reason);
+    const bool isOtherFormat = known && std::string_view(known->text->key) == OtherFormat;
+    return isOtherFormat ? contract::formatted("MESS_TERRAIN_NO_RASTER") : reason;
+}
+
+Result<std::shared_ptr<linkpath::TerrainRaster>> openTerrain(const QString &file)
+{
     auto terrain = linkpath::TerrainRaster::open(QFile::encodeName(file).toStdString());
-    problem = platform::decodeText(QByteArray::fromStdString(terrain.reason));
-    return std::move(terrain.file);
+    if (!terrain.file)
+        return Error{QStringLiteral("MESS_TERRAIN_UNREADABLE"),
+                     QStringLiteral("the terrain file cannot be read as a georeferenced raster"),
+                     file, text(withoutName(terrain.reason))};
+    return std::shared_ptr(std::move(terrain.file));
+}
+
+/// The terrain of an input; null, with the problem in `check`, if it cannot be used.
+std::shared_ptr<linkpath::TerrainRaster> terrainOf(const LinkCheckInput &input, LinkCheck &check)
+{
+    if (input.terrainFile.isEmpty())
+        return nullptr;
+    auto terrain = openTerrain(input.terrainFile);
+    if (terrain)
+        return std::move(terrain).value();
+    check.terrainProblem = terrain.error();
+    return nullptr;
+}
+
+Error noTransformationTo(const QString &terrainFile)
+{
+    return {QStringLiteral("MESS_TERRAIN_ELSEWHERE"),
+            QStringLiteral("there is no transformation from the coordinate system of the links to "
+                           "that of the terrain"),
+            terrainFile};
 }
 
 /// Computes length and clearance of each link that is read, and keeps the reports.
@@ -67,11 +99,10 @@ private:
 
 } // namespace
 
-QString terrainProblem(const QString &terrainFile)
+std::optional<Error> terrainProblem(const QString &terrainFile)
 {
-    QString problem;
-    openTerrain(terrainFile, problem);
-    return problem;
+    const auto terrain = openTerrain(terrainFile);
+    return terrain ? std::nullopt : std::optional(terrain.error());
 }
 
 Stoppable<LinkCheck> readLinkCheck(const QString &connection, const LinkCheckInput &input,
@@ -87,10 +118,10 @@ Stoppable<LinkCheck> readLinkCheck(const QString &connection, const LinkCheckInp
     if (!links || !ends)
         return check;
 
-    const auto terrain = openTerrain(input.terrainFile, check.terrainProblem);
+    const auto terrain = terrainOf(input, check);
     const linkpath::PathProfiler profiler(terrain, ends->GetSpatialRef());
     if (terrain && !profiler.hasTerrain())
-        check.terrainProblem = TerrainElsewhere;
+        check.terrainProblem = noTransformationTo(input.terrainFile);
     linkpath::LinkEndReader reader(*ends->GetLayerDefn(), contract::LinkEndSiteField);
     LinkCollector collector(input.rule, profiler);
     SystemChecker positions(systems, ends->GetSpatialRef());

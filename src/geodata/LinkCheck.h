@@ -35,18 +35,14 @@ struct LinkCheckInput
 struct LinkCheck
 {
     LayerProblems problems;
-    LayerPlacement placement; ///< of the links
-    QList<LinkReport> links;  ///< in the order of the file
-    SystemCheck systems;      ///< of the positions of the ends
-    QString terrainProblem;   ///< why the terrain file cannot be used; empty if it can
+    LayerPlacement placement;            ///< of the links
+    QList<LinkReport> links;             ///< in the order of the file
+    SystemCheck systems;                 ///< of the positions of the ends
+    std::optional<Error> terrainProblem; ///< why the terrain file cannot be used
 };
 
-/// The only text of LinkCheck::terrainProblem that does not explain why the file cannot be read.
-inline const QString TerrainElsewhere = QStringLiteral(
-    "there is no transformation from the coordinate system of the links to that of the terrain");
-
-/// Why a file cannot be used as terrain; empty if it can.
-QString terrainProblem(const QString &terrainFile);
+/// Why a file cannot be used as terrain; nothing if it can.
+std::optional<Error> terrainProblem(const QString &terrainFile);
 
 /// Reads a link table once, from its first row to its last.
 ///

@@ -1,7 +1,5 @@
 #include "links/ClearanceText.h"
 
-#include "geodata/LinkCheck.h"
-#include "language/ReaderText.h"
 #include "language/VltLanguageManager.h"
 
 namespace vlt::links {
@@ -48,28 +46,6 @@ QColor colorOfClearance(linkpath::ClearanceStatus status)
 {
     const auto [red, green, blue] = linkpath::clearanceColor(status);
     return QColor(red, green, blue);
-}
-
-namespace {
-
-QString reasonText(const QString &reason)
-{
-    if (reason.contains(QLatin1String("not recognized as"))) // text of the geodata library
-        return dico_label("MESS_TERRAIN_NO_RASTER", "its format is not a known raster format");
-    return language::readerText(reason);
-}
-
-} // namespace
-
-QString terrainProblemText(const QString &problem)
-{
-    if (problem == geodata::TerrainElsewhere)
-        return dico_label("MESS_TERRAIN_ELSEWHERE",
-                          "there is no transformation from the coordinate system of "
-                          "the links to that of the terrain");
-    return dico_label("MESS_TERRAIN_UNREADABLE",
-                      "the terrain file cannot be read as a georeferenced raster") +
-           QStringLiteral(" (") + reasonText(problem) + QLatin1Char(')');
 }
 
 } // namespace vlt::links

@@ -17,8 +17,4 @@ QString lackText(linkpath::Lack lack);
 /// The colour of a class of clearance.
 QColor colorOfClearance(linkpath::ClearanceStatus status);
 
-/// LinkCheck::terrainProblem as a sentence in the chosen language. A library's reason follows it,
-/// not translated.
-QString terrainProblemText(const QString &problem);
-
 } // namespace vlt::links

@@ -1,6 +1,6 @@
 #include "links/ui/VltLinkDetails.h"
 
-#include "links/ClearanceText.h"
+#include "language/ErrorText.h"
 #include "links/LinkColumnDescription.h"
 #include "links/ui/LinkReportModel.h"
 
@@ -76,9 +76,9 @@ void VltLinkDetails::forgetRows()
 
 void VltLinkDetails::showClearance(const LinkCheck &check, bool hasTerrain)
 {
-    if (!hasTerrain || !check.terrainProblem.isEmpty()) {
+    if (!hasTerrain || check.terrainProblem) {
         const QString reason =
-            hasTerrain ? vlt::links::terrainProblemText(check.terrainProblem)
+            hasTerrain ? vlt::language::explained(*check.terrainProblem)
                        : tr("the project has no terrain", "MESS_PROJECT_WITHOUT_TERRAIN");
         showRemark(
             tr("The clearance of the links is not known: %1", "MESS_LINKS_NOT_JUDGED").arg(reason));
