@@ -1,18 +1,19 @@
 #include "links/LinkLayer.h"
 
-#include "contract/Installation.h"
+#include "contract/ParametricKeys.h"
 #include "language/VltLanguageManager.h"
 #include "links/ClearanceText.h"
 #include "links/LinkInfoPage.h"
+#include "sites/Demonstration.h"
 #include "text/Numbers.h"
-
-#include <QDir>
 
 #include <array>
 
 namespace vlt::links {
 
 namespace {
+
+namespace parametric = contract::parametric;
 
 /// Position of a pylon of the demonstration, metres.
 struct DemoPylon
@@ -40,57 +41,48 @@ sites::PylonQuery queryOf(const LinkLayerInput &input)
 
 QString dish(double heightM, double azimuthDeg, const QString &color)
 {
-    return QStringLiteral("&dish=") + text::g6(heightM) + QLatin1Char(' ') + text::g6(azimuthDeg) +
-           QStringLiteral(" 0 0 ") + color;
+    return sites::queryItem(
+        parametric::Dish, {text::g6(heightM), text::g6(azimuthDeg), QStringLiteral("0 0"), color});
 }
 
-QString demoPylons(const sites::SiteRepresentation &look, const sites::SectorColorSet &colors)
+QStringList demoPylons(const sites::SiteRepresentation &look, const sites::SectorColorSet &colors)
 {
-    const QString properties = text::g6(look.pylonWidthM) + QLatin1Char(' ') +
-                               sites::sectorProperties(look).join(QLatin1Char(' '));
-    QString text;
+    QStringList items;
     int dishes = 0;
     const auto nextColor = [&] {
         return sites::colorText(colors, dishes++, look.transparencyPercent);
     };
     for (std::size_t i = 0; i < DemoPylons.size(); ++i) {
-        text += QStringLiteral("&pylon=%1 %2 0 %3 ")
-                    .arg(DemoPylons[i].x)
-                    .arg(DemoPylons[i].y)
-                    .arg(text::g6(contract::DefaultPylonHeightM)) +
-                properties;
+        items << sites::pylonItem(look, DemoPylons[i].x, DemoPylons[i].y);
         if (i > 0)
-            text += dish(DemoHeightsM[i - 1], DemoPylons[i - 1].azimuthDeg + 180, nextColor());
+            items << dish(DemoHeightsM[i - 1], DemoPylons[i - 1].azimuthDeg + 180, nextColor());
         if (i < DemoHeightsM.size())
-            text += dish(DemoHeightsM[i], DemoPylons[i].azimuthDeg, nextColor());
+            items << dish(DemoHeightsM[i], DemoPylons[i].azimuthDeg, nextColor());
     }
-    return text;
+    return items;
 }
 
 /// The links of the demonstration. If the clearance gives the colour, the first link has the colour
 /// of a clear path and the second one that of an obstructed path.
-QString demoLinks(const LinkRepresentation &links)
+QStringList demoLinks(const LinkRepresentation &links)
 {
     constexpr std::array<linkpath::ClearanceStatus, 2> Statuses = {
         linkpath::ClearanceStatus::Clear, linkpath::ClearanceStatus::Obstructed};
-    QString text;
+    QStringList items;
     for (std::size_t i = 0; i < DemoHeightsM.size(); ++i) {
-        const DemoPylon &from = DemoPylons[i];
-        const DemoPylon &to = DemoPylons[i + 1];
-        text += QStringLiteral("&link=%1 %2 %3 %4 %5 %3 %6")
-                    .arg(from.x)
-                    .arg(from.y)
-                    .arg(text::g6(DemoHeightsM[i]))
-                    .arg(to.x)
-                    .arg(to.y)
-                    .arg(DemoFrequencyMHz);
+        const QString heightM = text::g6(DemoHeightsM[i]);
+        QStringList words;
+        for (const DemoPylon &end : {DemoPylons[i], DemoPylons[i + 1]})
+            words << QString::number(end.x) << QString::number(end.y) << heightM;
+        words << QString::number(DemoFrequencyMHz);
         if (links.colorByClearance) {
             QColor color = colorOfClearance(Statuses[i]);
             color.setAlpha(links.color.alpha());
-            text += QLatin1Char(' ') + sites::colorText(color, 0);
+            words << sites::colorText(color, 0);
         }
+        items << sites::queryItem(parametric::Link, words);
     }
-    return text;
+    return items;
 }
 
 } // namespace
@@ -130,17 +122,10 @@ QString buildPreviewLinkUrl(const sites::SiteRepresentation &pylons,
     if (!type || !colors)
         return {};
 
-    return QStringLiteral("inline://parametric/query?object=link&data_folder=") +
-           QDir(installDir).absolutePath() + QLatin1Char('/') +
-           QLatin1String(contract::PylonFolder) + QStringLiteral("&pylon_type=") + type->type +
-           demoPylons(pylons, *colors) +
-           QStringLiteral("&transmitter_scale=%1&lod=%2 %3")
-               .arg(pylons.antennaScalePercent)
-               .arg(pylons.symbolicDistanceM)
-               .arg(pylons.realisticDistanceM) +
-           demoLinks(links) + QLatin1Char('&') +
-           linkOptionTexts(links, ClearanceWord::Never).join(QLatin1Char('&')) +
-           QStringLiteral(".inlinepylonurl");
+    return sites::demonstrationUrl(
+        {parametric::ObjectLink, demoPylons(pylons, *colors),
+         demoLinks(links) + linkOptionTexts(links, ClearanceWord::Never)},
+        pylons, *type, installDir);
 }
 
 } // namespace vlt::links

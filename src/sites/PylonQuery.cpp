@@ -1,11 +1,14 @@
 #include "sites/PylonQuery.h"
 
 #include "contract/Installation.h"
+#include "contract/ParametricKeys.h"
+#include "sites/Demonstration.h"
 #include "text/Numbers.h"
 #include "text/Templates.h"
 
-#include <QDir>
 #include <QFileInfo>
+
+#include <array>
 
 namespace vlt::sites {
 
@@ -13,7 +16,22 @@ namespace {
 
 namespace keys = contract::query;
 
-constexpr int PreviewTransmitters = 6;
+/// An antenna of the demonstration.
+struct DemoAntenna
+{
+    double heightM;
+    const char *azimuthAndTiltDeg;
+};
+
+/// Three antennas above three others.
+constexpr auto DemoAntennas = std::to_array<DemoAntenna>({
+    {contract::DefaultAntennaHeightM, "0 0"},
+    {contract::DefaultAntennaHeightM, "120 0"},
+    {contract::DefaultAntennaHeightM, "240 -5"},
+    {20, "20 0"},
+    {20, "140 +5"},
+    {20, "260 0"},
+});
 
 /// "key=value,", or an empty text for an empty value.
 QString option(const char *key, const QString &value)
@@ -52,20 +70,6 @@ QString queryTemplate()
            option(keys::SectorProperties, QStringLiteral("%7 %8 %9")) + QStringLiteral("%10") +
            option(keys::TransmitterScale, QStringLiteral("%11")) +
            option(keys::Lods, QStringLiteral("%12 %13")) + QStringLiteral("%14%15");
-}
-
-/// The same for a demonstration: a mast with three antennas above three others.
-QString previewTemplate()
-{
-    const QString mastM = text::g6(contract::DefaultPylonHeightM);
-    const QString antennaM = text::g6(contract::DefaultAntennaHeightM);
-    return QStringLiteral("inline://parametric/query?object=pylon&data_folder=%1&pylon_type=%2") +
-           QStringLiteral("&pylon=0 0 0 ") + mastM + QStringLiteral(" %3 %4 %5 %6&transmitter=") +
-           antennaM + QStringLiteral(" 0 0 0 0 %7&transmitter=") + antennaM +
-           QStringLiteral(" 120 0 0 0 %8&transmitter=") + antennaM +
-           QStringLiteral(" 240 -5 0 0 %9&transmitter=20 20 0 0 0 %10"
-                          "&transmitter=20 140 +5 0 0 %11&transmitter=20 260 0 0 0 %12"
-                          "&transmitter_scale=%13&lod=%14 %15.inlinepylonurl");
 }
 
 QString terrainPart(const PylonQuery &query, const project::ProjectContext &project)
@@ -122,16 +126,13 @@ QString buildPreviewPylonUrl(const SiteRepresentation &representation,
     if (!pylon || !colors)
         return {};
 
-    QStringList values = {QDir(installDir).absolutePath() + QLatin1Char('/') +
-                              QLatin1String(contract::PylonFolder),
-                          pylon->type, text::g6(representation.pylonWidthM)};
-    values << sectorProperties(representation);
-    for (int i = 0; i < PreviewTransmitters; ++i)
-        values << colorText(*colors, i, representation.transparencyPercent);
-    values << QString::number(representation.antennaScalePercent)
-           << QString::number(representation.symbolicDistanceM)
-           << QString::number(representation.realisticDistanceM);
-    return text::fillSlots(previewTemplate(), values);
+    Demonstration shown{contract::parametric::ObjectPylon, {pylonItem(representation)}};
+    for (int i = 0; const DemoAntenna &antenna : DemoAntennas)
+        shown.pylons << queryItem(contract::parametric::Transmitter,
+                                  {text::g6(antenna.heightM),
+                                   QLatin1String(antenna.azimuthAndTiltDeg), QStringLiteral("0 0"),
+                                   colorText(*colors, i++, representation.transparencyPercent)});
+    return demonstrationUrl(shown, representation, *pylon, installDir);
 }
 
 } // namespace vlt::sites

@@ -1,6 +1,7 @@
 #include "snapshot/SceneSource.h"
 
 #include "contract/Installation.h"
+#include "contract/ParametricKeys.h"
 #include "contract/ReaderOptions.h"
 
 #include <QDir>
@@ -72,7 +73,7 @@ Error asError(ReadResult &read, const std::string &source, const QString &name)
 
 bool isParametricName(const QString &name)
 {
-    return name.startsWith(QLatin1String("inline://parametric/query?"));
+    return name.startsWith(QLatin1String(contract::parametric::Start));
 }
 
 Result<Scene> readScene(const QString &name, const QString &project, TerrainSurface terrain)

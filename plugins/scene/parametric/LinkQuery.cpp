@@ -1,5 +1,7 @@
 #include "plugins/scene/parametric/LinkQuery.h"
 
+#include "contract/ParametricKeys.h"
+#include "contract/QueryOptions.h"
 #include "plugins/scene/parametric/BadQuery.h"
 #include "plugins/scene/parametric/PylonItems.h"
 
@@ -8,12 +10,13 @@ namespace vlt::scene {
 namespace {
 
 namespace keys = contract::query;
+namespace parametric = contract::parametric;
 
 LinkObject readLink(const std::string &item, std::string_view text)
 {
     Words words(item, text);
     const bool hasColor = words.count() == 8;
-    words.expect(hasColor ? 8 : 7, "X1 Y1 Z1 X2 Y2 Z2 FREQUENCYMHZ [rrggbbaa]");
+    words.expect(hasColor ? 8 : 7, parametric::LinkWords);
     LinkObject link;
     link.a = readPlace(words);
     link.b = readPlace(words);
@@ -34,15 +37,15 @@ void readPylons(const ParametricQuery &query, LinkSceneQuery &scene)
     const PylonDesign common = readCommonDesign(query);
     std::size_t transmitters = 0;
     for (const auto &[key, value] : query.items()) {
-        if (key == "pylon") {
-            const std::string number = std::to_string(scene.pylons.size() + 1);
-            scene.pylons.push_back(readPylon("pylon " + number, value, common));
-        } else if (key == "transmitter" || key == "dish") {
-            const std::string item = std::string(key) + " " + std::to_string(++transmitters);
+        if (key == parametric::Pylon) {
+            const std::string item = numbered(key, scene.pylons.size() + 1);
+            scene.pylons.push_back(readPylon(item, value, common));
+        } else if (key == parametric::Transmitter || key == parametric::Dish) {
+            const std::string item = numbered(key, ++transmitters);
             if (scene.pylons.empty())
                 throw BadQuery("MESS_QUERY_BEFORE_PYLON", {item});
             scene.pylons.back().design.transmitters.push_back(
-                key == "dish" ? readDish(item, value) : readTransmitter(item, value));
+                key == parametric::Dish ? readDish(item, value) : readTransmitter(item, value));
         }
     }
 }
@@ -58,23 +61,23 @@ void checkCount(const ParametricQuery &query, std::string_view key, std::size_t 
 
 LinkSceneQuery parseLinkQuery(std::string_view url)
 {
-    const ParametricQuery query(url, {"object", keys::DataFolder, keys::PylonType, "pylon",
-                                      "transmitter", "dish", keys::TransmitterScale, "lod", "link",
-                                      keys::LinkStyle, keys::LinkWidth, keys::LinkColor,
-                                      keys::FresnelZone, keys::FresnelShare, keys::FresnelColor,
-                                      keys::KFactor});
-    const std::string_view object = query.single("object");
-    if (object != "link")
-        Words("object", object).refuseUnknown("MESS_QUANTITY_KIND", object);
-    checkCount(query, "pylon", MaxQueryPylons);
-    checkCount(query, "link", MaxQueryLinks);
-    checkTransmitterCount(query.all("transmitter").size() + query.all("dish").size());
+    const ParametricQuery query(url, {parametric::Object, keys::DataFolder, keys::PylonType,
+                                      parametric::Pylon, parametric::Transmitter, parametric::Dish,
+                                      keys::TransmitterScale, parametric::Distances,
+                                      parametric::Link, keys::LinkStyle, keys::LinkWidth,
+                                      keys::LinkColor, keys::FresnelZone, keys::FresnelShare,
+                                      keys::FresnelColor, keys::KFactor});
+    expectObject(query, parametric::ObjectLink);
+    checkCount(query, parametric::Pylon, MaxQueryPylons);
+    checkCount(query, parametric::Link, MaxQueryLinks);
+    checkTransmitterCount(query.all(parametric::Transmitter).size() +
+                          query.all(parametric::Dish).size());
     LinkSceneQuery scene;
     readPylons(query, scene);
-    for (const std::string_view text : query.all("link"))
-        scene.links.push_back(readLink("link " + std::to_string(scene.links.size() + 1), text));
+    for (const std::string_view text : query.all(parametric::Link))
+        scene.links.push_back(readLink(numbered(parametric::Link, scene.links.size() + 1), text));
     if (scene.links.empty())
-        throw BadQuery("MESS_QUERY_NO_ITEM", {"link"});
+        throw BadQuery("MESS_QUERY_NO_ITEM", {parametric::Link});
     const auto item = [&query](std::string_view key) { return std::string(query.single(key)); };
     scene.look = readLinkAppearance(item, ClearanceWord::Refused);
     return scene;

@@ -1,5 +1,6 @@
 #include "plugins/scene/parametric/ParametricQuery.h"
 
+#include "contract/ParametricKeys.h"
 #include "contract/QueryOptions.h"
 #include "plugins/scene/parametric/BadQuery.h"
 
@@ -14,7 +15,7 @@ namespace vlt::scene {
 
 namespace {
 
-constexpr std::string_view Start = "inline://parametric/query?";
+constexpr std::string_view Start = contract::parametric::Start;
 constexpr std::string_view PathKey = contract::query::DataFolder;
 constexpr std::size_t MaxQuoteCharacters = 60;
 
@@ -30,7 +31,8 @@ std::string_view withoutExtension(std::string_view text)
 {
     const std::size_t dot = text.rfind('.');
     return dot != std::string_view::npos &&
-                   osgDB::equalCaseInsensitive(std::string(text.substr(dot + 1)), "inlinepylonurl")
+                   osgDB::equalCaseInsensitive(std::string(text.substr(dot + 1)),
+                                               contract::parametric::Extension)
                ? text.substr(0, dot)
                : text;
 }
@@ -100,7 +102,8 @@ bool asksFor(std::string_view url, std::string_view object)
 {
     std::string_view rest = withoutExtension(url);
     rest.remove_prefix(std::min(Start.size(), rest.size()));
-    const std::string wanted = "object=" + std::string(object);
+    const std::string wanted =
+        contract::parametric::Object + std::string("=") + std::string(object);
     while (!rest.empty()) {
         const std::string_view item = rest.substr(0, rest.find('&'));
         if (item == wanted)
@@ -108,6 +111,19 @@ bool asksFor(std::string_view url, std::string_view object)
         rest.remove_prefix(std::min(item.size() + 1, rest.size()));
     }
     return false;
+}
+
+void expectObject(const ParametricQuery &query, std::string_view object)
+{
+    constexpr const char *Key = contract::parametric::Object;
+    const std::string_view given = query.single(Key);
+    if (given != object)
+        Words(Key, given).refuseUnknown("MESS_QUANTITY_KIND", given);
+}
+
+std::string numbered(std::string_view key, std::size_t number)
+{
+    return std::string(key) + ' ' + std::to_string(number);
 }
 
 Words::Words(std::string item, std::string_view value) : m_item(std::move(item))

@@ -51,6 +51,12 @@ std::string shown(std::string_view value);
 /// else is checked.
 bool asksFor(std::string_view url, std::string_view object);
 
+/// Checks the kind of object of a query. @throws BadQuery  it is another one
+void expectObject(const ParametricQuery &query, std::string_view object);
+
+/// Name of a repeated item in messages: "transmitter 3".
+std::string numbered(std::string_view key, std::size_t number);
+
 /// The numbers and other words of one value, which are separated by blanks.
 class Words
 {

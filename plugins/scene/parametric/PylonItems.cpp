@@ -1,5 +1,6 @@
 #include "plugins/scene/parametric/PylonItems.h"
 
+#include "contract/ParametricKeys.h"
 #include "contract/QueryOptions.h"
 #include "plugins/scene/parametric/BadQuery.h"
 #include "plugins/scene/parametric/HostileLimits.h"
@@ -7,6 +8,7 @@
 namespace vlt::scene {
 
 namespace keys = contract::query;
+namespace parametric = contract::parametric;
 
 namespace {
 
@@ -46,8 +48,8 @@ PylonDesign readCommonDesign(const ParametricQuery &query)
     Words scale(keys::TransmitterScale, query.single(keys::TransmitterScale));
     scale.expect(1, "PERCENT");
     design.antennaScale = scale.number("MESS_QUANTITY_SCALE", limits::AntennaScalePercent) / 100;
-    Words distances("lod", query.single("lod"));
-    distances.expect(2, "SYMBOLIC REALISTIC");
+    Words distances(parametric::Distances, query.single(parametric::Distances));
+    distances.expect(2, parametric::DistancesWords);
     design.symbolicDistanceM = distances.number("MESS_QUANTITY_SYMBOLIC", limits::DistanceM);
     design.realisticDistanceM = distances.number("MESS_QUANTITY_REALISTIC", limits::DistanceM);
     return design;
@@ -56,7 +58,7 @@ PylonDesign readCommonDesign(const ParametricQuery &query)
 PylonObject readPylon(const std::string &item, std::string_view text, const PylonDesign &common)
 {
     Words words(item, text);
-    words.expect(8, "X Y Z HEIGHT WIDTH RADIUS SECTORHEIGHT SPACING");
+    words.expect(8, parametric::PylonWords);
     PylonObject pylon{{}, common};
     pylon.foot = readPlace(words);
     PylonDesign &design = pylon.design;
@@ -71,7 +73,7 @@ PylonObject readPylon(const std::string &item, std::string_view text, const Pylo
 Transmitter readTransmitter(const std::string &item, std::string_view text)
 {
     Words words(item, text);
-    words.expect(6, "HEIGHT AZIMUTH TILT BEAMWIDTH ANTENNALENGTH rrggbbaa");
+    words.expect(6, parametric::TransmitterWords);
     Transmitter transmitter = readDirection(words);
     transmitter.beamWidthDeg = words.number("MESS_QUANTITY_BEAM_WIDTH", limits::BeamWidthDeg);
     transmitter.antennaLengthM =
@@ -83,7 +85,7 @@ Transmitter readTransmitter(const std::string &item, std::string_view text)
 Transmitter readDish(const std::string &item, std::string_view text)
 {
     Words words(item, text);
-    words.expect(5, "HEIGHT AZIMUTH TILT DIAMETER rrggbbaa");
+    words.expect(5, parametric::DishWords);
     Transmitter dish = readDirection(words);
     dish.kind = AntennaKind::Dish;
     dish.antennaLengthM = words.number("MESS_QUANTITY_DIAMETER", limits::AntennaLengthM);
@@ -94,8 +96,8 @@ Transmitter readDish(const std::string &item, std::string_view text)
 void checkTransmitterCount(std::size_t count)
 {
     if (count > MaxTransmitters)
-        throw BadQuery("MESS_QUERY_MANY_ITEMS",
-                       {std::to_string(count), "transmitter", std::to_string(MaxTransmitters)});
+        throw BadQuery("MESS_QUERY_MANY_ITEMS", {std::to_string(count), parametric::Transmitter,
+                                                 std::to_string(MaxTransmitters)});
 }
 
 } // namespace vlt::scene

@@ -1,3 +1,4 @@
+#include "contract/ParametricKeys.h"
 #include "plugins/scene/link/LinkScene.h"
 #include "plugins/scene/parametric/BadQuery.h"
 #include "plugins/scene/parametric/LinkQuery.h"
@@ -11,6 +12,7 @@
 namespace {
 
 using namespace vlt::scene;
+namespace parametric = vlt::contract::parametric;
 
 /// Opens "inline://parametric/query?object=pylon&...inlinepylonurl", and the same with object=link,
 /// in any program of the scene library. It does not register the protocol, because the library
@@ -18,7 +20,7 @@ using namespace vlt::scene;
 class InlinePylonReader : public osgDB::ReaderWriter
 {
 public:
-    InlinePylonReader() { supportsExtension("inlinepylonurl", "Parametric pylons and links"); }
+    InlinePylonReader() { supportsExtension(parametric::Extension, "Parametric pylons and links"); }
 
     const char *className() const override { return "Parametric pylon reader"; }
 
@@ -32,7 +34,7 @@ public:
         if (!acceptsExtension(osgDB::getLowerCaseFileExtension(name)))
             return ReadResult::FILE_NOT_HANDLED;
         try {
-            if (asksFor(name, "link"))
+            if (asksFor(name, parametric::ObjectLink))
                 return buildLinkScene(parseLinkQuery(name)).get();
             return buildPylon(parsePylonQuery(name)).get();
         } catch (const BadQuery &fault) {
