@@ -1,7 +1,7 @@
 #include "batch/BuildingsColoring.h"
 
 #include "batch/DatasetNames.h"
-#include "batch/InputErrors.h"
+#include "batch/InputNames.h"
 #include "batch/ProgressLine.h"
 #include "buildings/ColoringLegend.h"
 #include "colormaps/ColorMapList.h"
@@ -33,7 +33,7 @@ Result<colormaps::ColorMapEntry> chosenColorMap(const QString &wanted, const QSt
         return maps.at(index);
     if (!wanted.isEmpty() && QFileInfo(wanted).isFile())
         return colormaps::colorMapEntry(absolutePath(wanted));
-    return reported(
+    return Error::asIs(
         dico_label("MESS_CLI_NO_SUCH_CMAP",
                    "there is no color map and no file with this name; the color maps are: %1")
             .arg(names.join(QStringLiteral(", "))),
@@ -55,7 +55,7 @@ Error notOneBand(const geodata::RasterSummary &raster, const QString &path)
                 dico_label("MESS_CLI_SUBDATASETS",
                            "it holds several images; give the name of one of them: %1")
                     .arg(parts.join(QStringLiteral(", ")));
-    return reported(text, path);
+    return Error::asIs(text, path);
 }
 
 /// Opens the raster of the colours and stores its absolute name in `coloring`.
@@ -108,7 +108,8 @@ Result<buildings::LegendInput> readColoring(RasterColoring &coloring, const QStr
     const std::optional<coverage::ValueRange> range =
         coloring.stretched ? rangeOf(*raster.value(), quiet) : std::nullopt;
     if (coloring.stretched && !range)
-        return reported(dico_label("MESS_CLI_NO_VALUES", "none of its pixels has a value"), image);
+        return Error::asIs(dico_label("MESS_CLI_NO_VALUES", "none of its pixels has a value"),
+                           image);
     auto legend = buildings::legendOf(coloring, range);
     if (!legend)
         return legend.error().withPath(coloring.colorMap);

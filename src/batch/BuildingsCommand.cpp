@@ -137,14 +137,14 @@ ExitStatus run(const QCommandLineParser &parser, const GlobalOptions &options)
 {
     const Result<BuildingsRequest> request = readBuildingsRequest(parser);
     if (!request)
-        return refuseUsage(request.error().text);
+        return refuseUsage(request.error());
     if (options.projectPath.isEmpty()) {
         if (request.value().vector.isEmpty())
-            return refuseUsage(dico_label("MESS_USE_NO_VECTOR_NOR_PROJECT",
-                                          "no vector file given, and no --project"));
+            return refuseUsage(wrongUsage(dico_label("MESS_USE_NO_VECTOR_NOR_PROJECT",
+                                                     "no vector file given, and no --project")));
         if (request.value().terrain.isEmpty())
-            return refuseUsage(dico_label("MESS_USE_NO_DTM_NOR_PROJECT",
-                                          "no terrain given (--dtm), and no --project"));
+            return refuseUsage(wrongUsage(dico_label(
+                "MESS_USE_NO_DTM_NOR_PROJECT", "no terrain given (--dtm), and no --project")));
     }
 
     const Result<Surroundings> surroundings = startUp(options);

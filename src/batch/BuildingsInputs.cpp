@@ -4,7 +4,7 @@
 #include "batch/BuildingsOptions.h"
 #include "batch/BuildingsTextures.h"
 #include "batch/DatasetNames.h"
-#include "batch/InputErrors.h"
+#include "batch/InputNames.h"
 #include "buildings/HeightGuess.h"
 #include "buildings/SourceSummary.h"
 #include "geodata/PolygonSource.h"
@@ -32,10 +32,10 @@ Result<int> chosenLayer(const QList<geodata::PolygonLayer> &layers, const QStrin
         names << layer.name;
     const qsizetype index = indexOfName(names, wanted);
     if (index < 0)
-        return reported(dico_label("MESS_CLI_NO_SUCH_LAYER",
-                                   "there is no layer of polygons \"%1\"; the layers are: %2")
-                            .arg(wanted, names.join(QStringLiteral(", "))),
-                        path);
+        return Error::asIs(dico_label("MESS_CLI_NO_SUCH_LAYER",
+                                      "there is no layer of polygons \"%1\"; the layers are: %2")
+                               .arg(wanted, names.join(QStringLiteral(", "))),
+                           path);
     return static_cast<int>(index);
 }
 
@@ -56,14 +56,14 @@ Result<QString> chosenField(const geodata::PolygonLayer &layer, const QString &w
         const qsizetype index = indexOfName(names, wanted);
         if (index >= 0)
             return names.at(index);
-        return reported(dico_label("MESS_CLI_NO_SUCH_FIELD",
-                                   "there is no field of heights \"%1\"; the fields are: %2")
-                            .arg(wanted, names.join(QStringLiteral(", "))),
-                        path);
+        return Error::asIs(dico_label("MESS_CLI_NO_SUCH_FIELD",
+                                      "there is no field of heights \"%1\"; the fields are: %2")
+                               .arg(wanted, names.join(QStringLiteral(", "))),
+                           path);
     }
     const QString guess = names.value(buildings::guessedHeightField(offered));
     if (guess.isEmpty())
-        return reported(
+        return Error::asIs(
             dico_label("MESS_CLI_NO_HEIGHT_FIELD",
                        "no field with the heights was found: give its name with --height-field"),
             path);
@@ -128,9 +128,9 @@ Result<QString> vectorFile(const QString &given, const QString &project)
         return given;
     Result<QString> found = project::buildingVectorFile(project);
     if (found && found.value().isEmpty())
-        return reported(dico_label("MESS_CLI_NO_BUILDINGS", "the project names no buildings: give "
-                                                            "their file"),
-                        project);
+        return Error::asIs(
+            dico_label("MESS_CLI_NO_BUILDINGS", "the project names no buildings: give their file"),
+            project);
     return found;
 }
 
@@ -148,8 +148,8 @@ Result<BuildingsInputs> readFiles(const BuildingsRequest &request, const Surroun
     const QString dtm =
         request.terrain.isEmpty() ? surroundings.project.terrainFile : request.terrain;
     if (dtm.isEmpty())
-        return reported(dico_label("MESS_CLI_NO_DTM", "the project names no terrain: give --dtm"),
-                        project);
+        return Error::asIs(
+            dico_label("MESS_CLI_NO_DTM", "the project names no terrain: give --dtm"), project);
     const auto noData = readTerrain(dtm, request.terrainNoData, inputs.terrainWarning);
     if (!noData)
         return noData.error();

@@ -1,7 +1,6 @@
 #include "batch/BuildingsTextures.h"
 
 #include "batch/DatasetNames.h"
-#include "batch/InputErrors.h"
 #include "batch/ProgressLine.h"
 #include "buildings/TextureFilter.h"
 #include "geodata/RasterSource.h"
@@ -29,7 +28,7 @@ struct GivenImage
 
 Error badHeight(const QString &image)
 {
-    return reported(dico_label("MESS_CLI_BAD_HEIGHT", "the height is not a number"), image);
+    return Error::asIs(dico_label("MESS_CLI_BAD_HEIGHT", "the height is not a number"), image);
 }
 
 /// Splits "FILE=HEIGHT", unless a file has this whole name.
@@ -50,7 +49,7 @@ Images entriesOf(const GivenImage &given)
     if (file.filePath().isEmpty() && sign > 0 && QFileInfo(given.name.left(sign)).isFile())
         return badHeight(given.name);
     if (file.filePath().isEmpty())
-        return reported(dico_label("MESS_SNAP_NO_FILE", "no such file"), given.name);
+        return Error::asIs(dico_label("MESS_SNAP_NO_FILE", "no such file"), given.name);
     const QString path = file.absoluteFilePath();
     const QString name = absoluteDatasetName(given.name);
     const bool isPart = name != path;
@@ -72,7 +71,7 @@ Images entriesOf(const GivenImage &given)
     const bool isWithout = std::any_of(entries.cbegin(), entries.cend(),
                                        [](const FileEntry &entry) { return entry.height == 0; });
     if (isWithout || entries.isEmpty())
-        return reported(
+        return Error::asIs(
             dico_label("MESS_CLI_TEXTURE_HEIGHT",
                        "the height of this image is not known: give --texture FILE=HEIGHT"),
             given.name);
@@ -95,7 +94,7 @@ Images foundImages(const TextureChoice &choice, bool quiet)
 {
     const QFileInfo file(choice.templateFile);
     if (!file.isFile())
-        return reported(dico_label("MESS_SNAP_NO_FILE", "no such file"), choice.templateFile);
+        return Error::asIs(dico_label("MESS_SNAP_NO_FILE", "no such file"), choice.templateFile);
     ProgressLine line(dico_label("MESS_LOOKING_FOR_IMAGES", "Looking for images..."), !quiet);
     const auto found = buildings::findTextures(choice.structure, file.absolutePath(), file.suffix(),
                                                line.progress());
@@ -103,8 +102,8 @@ Images foundImages(const TextureChoice &choice, bool quiet)
     for (const int place : buildings::matchingTextures(*found, choice.filter))
         images << found->at(place);
     if (images.isEmpty())
-        return reported(dico_label("MESS_CLI_NO_TEXTURES", "no image of its set was found"),
-                        choice.templateFile);
+        return Error::asIs(dico_label("MESS_CLI_NO_TEXTURES", "no image of its set was found"),
+                           choice.templateFile);
     return images;
 }
 

@@ -210,7 +210,7 @@ std::optional<Error> checkStandardOutput(const QCommandLineParser &parser,
 
 Error wrongUsage(const QString &text)
 {
-    return {QString(), text, {}};
+    return Error::asIs(text);
 }
 
 Error wrongValue(const QString &option, const QString &wanted, const QString &value)

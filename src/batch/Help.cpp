@@ -105,10 +105,10 @@ QString versionText()
     return lines.join(QLatin1Char('\n')) + QLatin1Char('\n');
 }
 
-ExitStatus refuseUsage(const QString &text)
+ExitStatus refuseUsage(const Error &fault)
 {
     const QString command = errorStyle().command;
-    reportError({{}, text}, ExitStatus::WrongUsage);
+    reportError(fault, ExitStatus::WrongUsage);
     printError(dico_label("MESS_USE_TRY", "try '%1'")
                    .arg(QStringList{Program, command, QStringLiteral("--help")}
                             .join(QLatin1Char(' '))

@@ -16,6 +16,6 @@ QString programHelpText();
 QString versionText();
 
 /// Prints the fault of the command line and the command that prints the help.
-ExitStatus refuseUsage(const QString &text);
+ExitStatus refuseUsage(const Error &fault);
 
 } // namespace vlt::batch

@@ -3,7 +3,6 @@
 #include "batch/Console.h"
 #include "batch/Help.h"
 #include "batch/InfoReport.h"
-#include "batch/InputErrors.h"
 #include "batch/LayerCommand.h"
 #include "batch/StartUp.h"
 #include "geodata/LayerProblems.h"
@@ -177,7 +176,7 @@ ExitStatus run(const QCommandLineParser &parser, const GlobalOptions &options)
 {
     const Result<tables::TableReading> reading = readReading(parser);
     if (!reading)
-        return refuseUsage(reading.error().text);
+        return refuseUsage(reading.error());
     const Result<Surroundings> surroundings = startUp(options);
     if (!surroundings)
         return refuse(surroundings.error());

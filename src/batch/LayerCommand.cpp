@@ -103,11 +103,11 @@ std::variant<LayerRequest, ExitStatus> readLayerRequest(const QCommandLineParser
         return refuse(*missing);
     const auto representation = readSiteOptions(parser, request.catalogues);
     if (!representation)
-        return refuseUsage(representation.error().text);
+        return refuseUsage(representation.error());
     request.pylons = representation.value();
     const auto reading = readReading(parser);
     if (!reading)
-        return refuseUsage(reading.error().text);
+        return refuseUsage(reading.error());
     request.reading = reading.value();
     if (!request.output.isEmpty() &&
         isOneOf(request.output,

@@ -2,7 +2,6 @@
 
 #include "batch/Console.h"
 #include "batch/Help.h"
-#include "batch/InputErrors.h"
 #include "batch/LayerCommand.h"
 #include "batch/LinkOptions.h"
 #include "batch/LinkReport.h"
@@ -187,12 +186,12 @@ ExitStatus run(const QCommandLineParser &parser, const GlobalOptions &options)
 {
     const Result<LinkRequest> wanted = readLinkRequest(parser);
     if (!wanted)
-        return refuseUsage(wanted.error().text);
+        return refuseUsage(wanted.error());
     if (const auto error =
             checkStandardOutput(parser, {QStringLiteral("json"), QStringLiteral("report")}))
-        return refuseUsage(error->text);
+        return refuseUsage(*error);
     if (const auto numbers = readSiteNumbers(parser); !numbers)
-        return refuseUsage(numbers.error().text);
+        return refuseUsage(numbers.error());
 
     const Result<Surroundings> surroundings = startUp(options);
     if (!surroundings)

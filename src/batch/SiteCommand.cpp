@@ -3,7 +3,6 @@
 #include "batch/Console.h"
 #include "batch/Help.h"
 #include "batch/InfoReport.h"
-#include "batch/InputErrors.h"
 #include "batch/LayerCommand.h"
 #include "batch/ProgressLine.h"
 #include "batch/SiteOptions.h"
@@ -111,11 +110,12 @@ ExitStatus runParsed(const QCommandLineParser &parser, const GlobalOptions &opti
 ExitStatus run(const QCommandLineParser &parser, const GlobalOptions &options)
 {
     if (parser.value(QStringLiteral("output")).isEmpty())
-        return refuseUsage(dico_label("MESS_USE_NO_OUTPUT", "no output file given (-o OUT.lay)"));
+        return refuseUsage(
+            wrongUsage(dico_label("MESS_USE_NO_OUTPUT", "no output file given (-o OUT.lay)")));
     if (const auto error = checkStandardOutput(parser, {QStringLiteral("json")}))
-        return refuseUsage(error->text);
+        return refuseUsage(*error);
     if (const auto numbers = readSiteNumbers(parser); !numbers)
-        return refuseUsage(numbers.error().text);
+        return refuseUsage(numbers.error());
 
     const Result<Surroundings> surroundings = startUp(options);
     if (!surroundings)

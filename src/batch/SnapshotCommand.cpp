@@ -244,7 +244,7 @@ ExitStatus run(const QCommandLineParser &parser, const GlobalOptions &options)
 {
     const Result<Request> request = readRequest(parser);
     if (!request)
-        return refuseUsage(request.error().text);
+        return refuseUsage(request.error());
 
     const Result<Surroundings> surroundings = startUp(options);
     if (!surroundings)

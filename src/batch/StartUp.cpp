@@ -47,7 +47,7 @@ Result<Surroundings> startUp(const GlobalOptions &options)
     if (!terrain)
         return terrain.error();
     if (!options.quiet && project::namesNothing(options.projectPath))
-        printError(explain({{}, project::namesNothingText(), options.projectPath}));
+        printError(explain(Error::asIs(project::namesNothingText(), options.projectPath)));
     surroundings.project = {options.projectPath, terrain.value()};
     return surroundings;
 }

@@ -38,8 +38,9 @@ ExitStatus refuseCommand(const QString &name)
     QStringList names = {HelpCommand};
     for (const Command &command : commands())
         names << command.syntax().name;
-    return refuseUsage(dico_label("MESS_USE_NO_COMMAND", "unknown command: %1").arg(name) +
-                       didYouMean(name, names));
+    return refuseUsage(
+        wrongUsage(dico_label("MESS_USE_NO_COMMAND", "unknown command: %1").arg(name) +
+                   didYouMean(name, names)));
 }
 
 /// Handles --help, --version and a wrong command line; none if the command must run.
@@ -48,7 +49,7 @@ std::optional<ExitStatus> answerHelp(const QCommandLineParser &parser,
                                      const std::function<QString()> &help)
 {
     if (!options)
-        return refuseUsage(options.error().text);
+        return refuseUsage(options.error());
     if (parser.isSet(QStringLiteral("help")))
         return answer(help());
     if (parser.isSet(QStringLiteral("version")))

@@ -222,7 +222,7 @@ Result<QString> writeLegend(const QImage &legend, const QString &directory,
     QByteArray bytes;
     QBuffer buffer(&bytes);
     if (!buffer.open(QIODevice::WriteOnly) || !legend.save(&buffer, "PNG"))
-        return Error{{}, {}, path, QStringLiteral("There is no legend to write")};
+        return Error::fromLibrary(QStringLiteral("There is no legend to write"), path);
     const Result<Done> written = platform::writeWhole(path, bytes, access);
     if (!written)
         return written.error();

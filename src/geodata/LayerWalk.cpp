@@ -41,7 +41,7 @@ Stoppable<qint64> walkFeatures(OGRLayer &layer, const Progress &progress,
         sinceReport.start();
     }
     if (visited < expected && !errors.failure({}).isEmpty())
-        return Error{{}, {}, {}, withoutName(errors.failure({}), layer)};
+        return Error::fromLibrary(withoutName(errors.failure({}), layer));
     return visited;
 }
 

@@ -97,7 +97,7 @@ Result<QList<SrsRecord>> readSrsCatalogue()
     const std::unique_ptr<OSRCRSInfo *[], ListRelease> list(
         OSRGetCRSInfoListFromDatabase(nullptr, nullptr, &count));
     if (!list || count == 0)
-        return Error{{}, QStringLiteral("no coordinate systems"), {}, errors.failure({})};
+        return Error::asIs(QStringLiteral("no coordinate systems"), {}, errors.failure({}));
 
     QList<SrsRecord> records;
     records.reserve(count);

@@ -25,14 +25,14 @@ QString withoutPath(const QString &reason, const QString &connection)
 Result<GDALDatasetUniquePtr> openTable(const QString &connection, const ErrorCollector &errors)
 {
     if (!contract::connectionKind(connection.toStdString()))
-        return Error{QString(), QStringLiteral("not a site or link table"), connection};
+        return Error::asIs(QStringLiteral("not a site or link table"), connection);
 
     // The path at the end is in the file system's encoding; the options before it are ASCII.
     GDALDatasetUniquePtr dataset(
         GDALDataset::Open(QFile::encodeName(connection).constData(), GDAL_OF_VECTOR));
     if (!dataset) {
         const QString noReader = QString::fromStdString(contract::formatted("MESS_TAB_NO_READER"));
-        return Error{{}, {}, {}, withoutPath(errors.failure(noReader), connection)};
+        return Error::fromLibrary(withoutPath(errors.failure(noReader), connection));
     }
     return dataset;
 }

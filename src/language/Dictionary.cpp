@@ -64,7 +64,7 @@ Result<Texts> readDictionary(const QString &path)
 {
     QFile file(path);
     if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
-        return Error{{}, QStringLiteral("Cannot open the dictionary"), path};
+        return Error::asIs(QStringLiteral("Cannot open the dictionary"), path);
 
     return readDictionary(file, path);
 }
@@ -74,8 +74,8 @@ Result<Texts> readDictionary(QIODevice &device, const QString &path)
     QXmlStreamReader xml(&device);
     Texts texts = readRoot(xml);
     if (xml.hasError())
-        return Error{
-            {}, QStringLiteral("Line %1: %2").arg(xml.lineNumber()).arg(xml.errorString()), path};
+        return Error::asIs(
+            QStringLiteral("Line %1: %2").arg(xml.lineNumber()).arg(xml.errorString()), path);
     return texts;
 }
 

@@ -67,7 +67,7 @@ std::optional<QFileInfo> behindLinks(const QString &path)
 
 Result<QString> writtenFile(const QString &path, Access access)
 {
-    const auto failed = [&path](const QString &reason) { return Error{{}, {}, path, reason}; };
+    const auto failed = [&path](const QString &reason) { return Error::fromLibrary(reason, path); };
     if (path.isEmpty())
         return failed(QStringLiteral("No file name"));
     const QFileInfo named(path);
@@ -84,7 +84,7 @@ Result<QString> writtenFile(const QString &path, Access access)
 
 Result<Done> writeWhole(const QString &path, const QByteArray &bytes, Access access)
 {
-    const auto failed = [&path](const QString &reason) { return Error{{}, {}, path, reason}; };
+    const auto failed = [&path](const QString &reason) { return Error::fromLibrary(reason, path); };
     const Result<QString> written = writtenFile(path, access);
     if (!written)
         return written.error();

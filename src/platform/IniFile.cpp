@@ -42,10 +42,10 @@ Dictionary loadWithoutMark(const QString &path)
 Result<IniFile> IniFile::open(const QString &path)
 {
     if (!QFileInfo(path).isFile())
-        return Error{{}, QStringLiteral("No such file"), path};
+        return Error::asIs(QStringLiteral("No such file"), path);
     const Dictionary entries = loadWithoutMark(path);
     if (!entries)
-        return Error{{}, QStringLiteral("Not a readable ini file"), path};
+        return Error::asIs(QStringLiteral("Not a readable ini file"), path);
 
     IniFile file;
     // signed in one version of the library, unsigned in another

@@ -11,20 +11,63 @@
 
 namespace vlt {
 
-/// The reason why an operation has no value.
-///
-/// With a `key`, the message key of its translation, `text` is in English; without one it is shown
-/// as it is. `detail` is the reason in the words of a library. At least one of `text` and `detail`
-/// is not empty.
+/// The reason why an operation has no value. The functions of language/ErrorText.h give its text as
+/// the user reads it.
 struct Error
 {
-    QString key;
-    QString text;
-    QString path = {}; ///< path of the file concerned
-    QString detail = {};
+    /// An error with a text of the dictionaries.
+    ///
+    /// @param messageKey  key of the translations; not empty
+    /// @param english     the text in English
+    /// @param concerned   path of the file concerned
+    /// @param reason      reason in the words of a library or of a reader
+    Error(const QString &messageKey, const QString &english, const QString &concerned = {},
+          const QString &reason = {})
+        : key(messageKey)
+        , text(english)
+        , path(concerned)
+        , detail(reason)
+    {
+        if (key.isEmpty())
+            throw std::logic_error("Error: a text without message key: " + text.toStdString());
+    }
+
+    /// An error whose text is shown as it is, because it is in the user's language already or has
+    /// no translation.
+    static Error asIs(const QString &text, const QString &path = {}, const QString &detail = {})
+    {
+        return {text, path, detail, NoKey()};
+    }
+
+    /// An error without a text of its own: the reason of a library or of a reader is all there is.
+    static Error fromLibrary(const QString &detail, const QString &path = {})
+    {
+        return {{}, path, detail, NoKey()};
+    }
 
     /// The same error of another file, or of none.
-    Error withPath(const QString &other) const { return {key, text, other, detail}; }
+    Error withPath(const QString &other) const
+    {
+        Error error = *this;
+        error.path = other;
+        return error;
+    }
+
+    QString key; ///< empty for asIs() and fromLibrary()
+    QString text;
+    QString path;
+    QString detail;
+
+private:
+    struct NoKey
+    {
+    };
+
+    Error(const QString &shown, const QString &concerned, const QString &reason, NoKey)
+        : text(shown)
+        , path(concerned)
+        , detail(reason)
+    {}
 };
 
 /// A value, or the reason why there is none. Access to the missing one throws std::logic_error.

@@ -66,7 +66,7 @@ Error asError(ReadResult &read, const std::string &source, const QString &name)
     std::string text = read.message();
     if (const std::string file = source + ": "; text.starts_with(file))
         text.erase(0, file.size());
-    return {{}, {}, name, QString::fromStdString(text)};
+    return Error::fromLibrary(QString::fromStdString(text), name);
 }
 
 } // namespace

@@ -20,11 +20,10 @@ std::optional<Error> systemObstacle(const geodata::SystemPair &systems)
         return refusal;
     for (const QString &system : {systems.source, systems.target}) {
         if (!system.isEmpty() && !isKnown(system))
-            return Error{{},
-                         dico_label("MESS_NO_LAYER_SRS", "No layer can be made: the coordinate "
-                                                         "system \"%1\" is not known")
-                             .arg(system),
-                         {}};
+            return Error::asIs(dico_label("MESS_NO_LAYER_SRS",
+                                          "No layer can be made: the coordinate "
+                                          "system \"%1\" is not known")
+                                   .arg(system));
     }
     return std::nullopt;
 }

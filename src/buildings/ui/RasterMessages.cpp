@@ -25,7 +25,7 @@ QString textOf(RasterProblem problem)
 void warnOfRaster(QWidget *parent, RasterProblem problem, const QString &path,
                   const QString &reason)
 {
-    messages::warning(parent, {{}, textOf(problem), path, reason},
+    messages::warning(parent, Error::asIs(textOf(problem), path, reason),
                       dico_label("MESS_ATTENTION", "Warning"), messages::PathPlace::BelowText);
 }
 

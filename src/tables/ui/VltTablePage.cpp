@@ -367,7 +367,7 @@ void VltTablePage::showDemonstration()
         m_ui->m_pwGbPreview->setDemonstration(scene.value());
     else
         vlt::messages::critical(
-            this, {{}, QStringLiteral("The pylon url didn't return a valid node !"), {}});
+            this, vlt::Error::asIs(QStringLiteral("The pylon url didn't return a valid node !")));
 }
 
 void VltTablePage::previewSymbolic()

@@ -1,15 +1,10 @@
 #pragma once
 
-#include "platform/Result.h"
-
 #include <QStringList>
 
 namespace vlt::batch {
 
 QString absolutePath(const QString &path);
-
-/// An error whose text is already in the language in use.
-Error reported(const QString &text, const QString &path);
 
 /// Index of a name, else of one that differs only in case; -1 for none.
 qsizetype indexOfName(const QStringList &names, const QString &name);

@@ -1,4 +1,4 @@
-#include "batch/InputErrors.h"
+#include "batch/InputNames.h"
 
 #include <QFileInfo>
 
@@ -7,11 +7,6 @@ namespace vlt::batch {
 QString absolutePath(const QString &path)
 {
     return QFileInfo(path).absoluteFilePath();
-}
-
-Error reported(const QString &text, const QString &path)
-{
-    return {QString(), text, path};
 }
 
 qsizetype indexOfName(const QStringList &names, const QString &name)
