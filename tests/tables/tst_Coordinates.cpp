@@ -1,4 +1,5 @@
 #include "plugins/tables/cells/GroupedNumber.h"
+#include "plugins/tables/roles/Vocabulary.h"
 #include "plugins/tables/sites/PositionReader.h"
 #include "plugins/tables/sites/SiteLayout.h"
 #include "plugins/tables/values/Angle.h"
@@ -73,6 +74,11 @@ private Q_SLOTS:
         row("colons", "48:51:24", false, 48.8566667);
         row("west", "3°22'05.12\"W", true, -3.3680889);
         row("seconds with a comma", "3°22'05,12\"w", true, -3.3680889);
+        row("word", "48°51'24\" Nord", false, 48.8566667);
+        row("word first", "SÜD 48.85", false, -48.85);
+        row("French west", "3.37 Ouest", true, -3.37);
+        row("German east", "3d22m5.12s Ost", true, 3.3680889);
+        row("Dutch east", "3.37° OL", true, 3.37);
         row("minus and parts", "-0 30 0", true, -0.5);
     }
     void readsAngles()
@@ -90,9 +96,9 @@ private Q_SLOTS:
     void refusesWhatIsNoAngle_data()
     {
         const Cases<QByteArray> row({"text"});
-        for (const char *text :
-             {"", "-", "north", "48.85 E", "48 61 00", "48 51 60", "48.5 30 N", "1 2 3 4", "3.37 O",
-              "-3.37 W", "48.8.5", "1e5x", "12/05/2020", "NaN", "10 N 20 S"})
+        for (const char *text : {"", "-", "north", "48.85 E", "48 61 00", "48 51 60", "48.5 30 N",
+                                 "1 2 3 4", "3.37 O", "-3.37 W", "3.37 Ouest", "48.85 noon",
+                                 "48.8.5", "1e5x", "12/05/2020", "NaN", "10 N 20 S"})
             row(*text ? text : "empty", text);
     }
     void refusesWhatIsNoAngle()
@@ -132,8 +138,17 @@ private Q_SLOTS:
 
     void readsColumns_data()
     {
-        using Cells = QList<QByteArray>;
-        const Cases<Cells, Cells, CoordinateUnit, QStringList> row({"x", "y", "unit", "positions"});
+        QTest::addColumn<QList<QByteArray>>("x");
+        QTest::addColumn<QList<QByteArray>>("y");
+        QTest::addColumn<QList<QByteArray>>("hemispheres"); // of x; empty without that column
+        QTest::addColumn<CoordinateUnit>("unit");
+        QTest::addColumn<QStringList>("positions");
+        const auto row = [](const char *name, const QList<QByteArray> &x,
+                            const QList<QByteArray> &y, CoordinateUnit unit,
+                            const QStringList &positions,
+                            const QList<QByteArray> &hemispheres = {}) {
+            QTest::newRow(name) << x << y << hemispheres << unit << positions;
+        };
         row("blanks between thousands", {"652 000,5", "9 500"},
             {"6 862 000", "6\u00A0862\u00A0001,25"}, CoordinateUnit::Meters,
             {QStringLiteral("652000.5 6862000"), QStringLiteral("9500 6862001.25")});
@@ -142,15 +157,29 @@ private Q_SLOTS:
             {QStringLiteral("652000.5 6862000"), QStringLiteral("652000.5 6862000")});
         row("degrees and minutes", {"2 30", "102 45,5"}, {"48 15", "48 30.5"}, CoordinateUnit::Dms,
             {QStringLiteral("2.5 48.25"), QStringLiteral("102.758333333 48.5083333333")});
+        row("O beside E is west", {"2°30' O", "2°30' E"}, {"48°15' N", "48°30' N"},
+            CoordinateUnit::Dms, {QStringLiteral("-2.5 48.25"), QStringLiteral("2.5 48.5")});
+        row("O beside W is east", {"2.5 O", "3.5W"}, {"48", "49"}, CoordinateUnit::Degrees,
+            {QStringLiteral("2.5 48"), QStringLiteral("-3.5 49")});
+        row("O beside Oeste is west", {"2.5", "3.5"}, {"48", "49"}, CoordinateUnit::Degrees,
+            {QStringLiteral("-2.5 48"), QStringLiteral("-3.5 49")}, {"O", "Oeste"});
+        row("O beside E and W", {"1", "2", "3"}, {"47", "48", "49"}, CoordinateUnit::Degrees,
+            {QStringLiteral("the coordinate \"1\" cannot be read: the letter O may mean west "
+                            "(Ouest, Oeste) or east (Ost): use W or E"),
+             QStringLiteral("2 48"), QStringLiteral("-3 49")},
+            {"O", "East", "Western"});
     }
     void readsColumns()
     {
         QFETCH(QList<QByteArray>, x);
         QFETCH(QList<QByteArray>, y);
+        QFETCH(QList<QByteArray>, hemispheres);
         QFETCH(CoordinateUnit, unit);
-        const TableProfile table = tableOf({{"X", x}, {"Y", y}});
+        TableProfile table = tableOf({{"X", x}, {"Y", y}, {"X direction", hemispheres}});
+        if (hemispheres.isEmpty())
+            table.fields.pop_back();
 
-        const SiteLayout layout = recogniseSiteLayout(table);
+        const SiteLayout layout = recogniseSiteLayout(table, installedVocabulary().words);
 
         QVERIFY(layout.unit == unit);
         QTEST(positionsOf(table, layout), "positions");

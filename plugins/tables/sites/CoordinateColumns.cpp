@@ -130,7 +130,7 @@ SampledUnit unitOfSamples(const Field &field, Axis axis)
             ++sampled.readable;
             sampled.large += std::abs(*number) > MaxDegrees ? 1 : 0;
             sampled.outside += std::abs(*number) > limit ? 1 : 0;
-        } else if (const Angle angle = readAngle(value, axis); !angle.fault) {
+        } else if (const Angle angle = readAngle(value, axis, LetterO::West); !angle.fault) {
             ++sampled.readable;
             sampled.inParts += angle.parts > 1 ? 1 : 0;
         }
@@ -219,10 +219,9 @@ std::pair<int, int> bestPosition(const std::vector<CoordinateName> &names,
 /// Whether all samples are hemispheres of an axis: letters, or words that start with them.
 bool holdsHemispheres(const Field &field, Axis axis)
 {
-    const std::string_view letters = axis == Axis::X ? "EWew" : "NSns";
     return !field.samples.empty() &&
            std::all_of(field.samples.begin(), field.samples.end(), [&](const std::string &text) {
-               return !text.empty() && letters.find(text[0]) != std::string_view::npos;
+               return !readHemisphere(text, axis, LetterO::West).fault;
            });
 }
 
@@ -279,7 +278,7 @@ bool saysMeters(const std::string &name, const Vocabulary &vocabulary)
 } // namespace
 
 PointFields findPoint(const FieldWords &words, const std::vector<Field> &fields,
-                      const Vocabulary &vocabulary)
+                      const Vocabulary &vocabulary, LetterO otherwise)
 {
     PointFields point;
     const std::vector<CoordinateName> names = readNames(words, vocabulary);
@@ -289,7 +288,20 @@ PointFields findPoint(const FieldWords &words, const std::vector<Field> &fields,
         point.y = coordinateFields(names, fields, y);
     } else
         point.pair = findPair(words, fields);
+    point.letterO = findLetterO(point, fields, otherwise);
     return point;
+}
+
+LetterO findLetterO(const PointFields &point, const std::vector<Field> &fields, LetterO otherwise)
+{
+    std::vector<std::string> texts;
+    for (const int field : {point.x.value, point.x.hemisphere, point.pair}) {
+        if (field < 0)
+            continue;
+        const std::vector<std::string> &samples = fields[static_cast<std::size_t>(field)].samples;
+        texts.insert(texts.end(), samples.begin(), samples.end());
+    }
+    return meaningOfO(texts, otherwise);
 }
 
 CoordinateUnit findUnit(const PointFields &point, const std::vector<Field> &fields,

@@ -2,6 +2,7 @@
 
 #include "plugins/tables/roles/Vocabulary.h"
 #include "plugins/tables/table/Table.h"
+#include "plugins/tables/values/Hemisphere.h"
 
 #include <optional>
 #include <string>
@@ -38,7 +39,8 @@ struct PointFields
 {
     CoordinateFields x;
     CoordinateFields y;
-    int pair = -1; ///< field with both coordinates
+    int pair = -1;                      ///< field with both coordinates
+    LetterO letterO = LetterO::Unknown; ///< in the longitudes
 
     bool found() const { return pair >= 0 || (x.found() && y.found()); }
     bool uses(int field) const
@@ -54,8 +56,13 @@ struct PointFields
 using FieldWords = std::vector<std::optional<std::vector<std::string>>>;
 
 /// Recognises the fields of a position among those that have words.
+///
+/// @param otherwise  the meaning of O in its longitudes if they do not show it
 PointFields findPoint(const FieldWords &words, const std::vector<Field> &fields,
-                      const Vocabulary &vocabulary);
+                      const Vocabulary &vocabulary, LetterO otherwise = LetterO::Unknown);
+
+/// The meaning of O in the longitudes of a position, from their samples; else `otherwise`.
+LetterO findLetterO(const PointFields &point, const std::vector<Field> &fields, LetterO otherwise);
 
 /// The unit of the coordinates of a position, from the names and samples of its fields.
 CoordinateUnit findUnit(const PointFields &point, const std::vector<Field> &fields,

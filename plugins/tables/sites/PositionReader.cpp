@@ -18,12 +18,13 @@ constexpr double HalfTurnDegrees = 180;
 /// Appends the hemisphere of a separate column to a coordinate that has no letter. A minus sign
 /// together with S or W means the same twice, so nothing is appended; with N or E it is a
 /// contradiction, which readAngle() reports.
-std::string withHemisphere(std::string text, const std::string &hemisphere)
+std::string withHemisphere(std::string text, const std::string &hemisphere, Axis axis,
+                           LetterO letterO)
 {
-    const bool hasLetter = text.find_first_of("NSEWnsew") != std::string::npos;
-    const bool southOrWest = std::string_view("SWsw").find(hemisphere[0]) != std::string_view::npos;
-    if (!hasLetter && !text.empty() && !(text[0] == '-' && southOrWest))
-        text += std::string(" ") + hemisphere[0];
+    const bool hasLetter = text.find_first_of("NSEWOnsewo") != std::string::npos;
+    const Hemisphere of = readHemisphere(hemisphere, axis, letterO);
+    if (!hasLetter && !text.empty() && !(text[0] == '-' && of.sign < 0))
+        text += " " + hemisphere.substr(0, of.size);
     return text;
 }
 
@@ -80,9 +81,11 @@ bool PositionReader::readAxis(int64_t row, const CoordinateFields &fields, Axis 
     Angle angle;
     if (fields.inParts())
         angle = joinAngle(text, fieldText(cells, fields.minutes), fieldText(cells, fields.seconds),
-                          hemisphere, axis);
+                          hemisphere, axis, m_fields.letterO);
     else
-        angle = readAngle(hemisphere.empty() ? text : withHemisphere(text, hemisphere), axis);
+        angle = readAngle(
+            hemisphere.empty() ? text : withHemisphere(text, hemisphere, axis, m_fields.letterO),
+            axis, m_fields.letterO);
     if (angle.fault)
         problems.push_back(problem(row, fields.value, text, *angle.fault));
     value = angle.degrees;

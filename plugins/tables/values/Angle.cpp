@@ -40,35 +40,6 @@ Angle fault(TableTextId why)
     return {0, 0, why};
 }
 
-/// A hemisphere letter: the sign of its angles, or the reason why it is refused.
-struct Hemisphere
-{
-    int sign = 0;
-    std::optional<TableTextId> fault;
-};
-
-Hemisphere readHemisphere(char letter, Axis axis)
-{
-    const auto hemisphere = [axis](Axis own, int sign) {
-        return axis == own ? Hemisphere{sign, std::nullopt}
-                           : Hemisphere{0, TableTextId("MESS_TAB_OTHER_AXIS")};
-    };
-    switch (letter & ~0x20) {
-    case 'N':
-        return hemisphere(Axis::Y, 1);
-    case 'S':
-        return hemisphere(Axis::Y, -1);
-    case 'E':
-        return hemisphere(Axis::X, 1);
-    case 'W':
-        return hemisphere(Axis::X, -1);
-    case 'O':
-        return {0, TableTextId("MESS_TAB_LETTER_O")};
-    default:
-        return {0, TableTextId("MESS_TAB_NO_HEMISPHERE")};
-    }
-}
-
 /// A character above ASCII that can occur in an angle.
 struct Mark
 {
@@ -134,7 +105,7 @@ Angle assemble(const Parts &parts, bool negative, int sign)
 
 } // namespace
 
-Angle readAngle(std::string_view text, Axis axis)
+Angle readAngle(std::string_view text, Axis axis, LetterO letterO)
 {
     text = trimmed(text);
     if (text.empty())
@@ -162,16 +133,19 @@ Angle readAngle(std::string_view text, Axis axis)
                 return fault("MESS_TAB_NOT_AN_ANGLE");
             negative = c == '-';
         } else if (isLetter(c)) {
-            const bool unitLetter = parts.count > 0 && ((c | 0x20) == 'd' || (c | 0x20) == 'm' ||
-                                                        (unitLetters && c == 's'));
+            const Hemisphere hemisphere = readHemisphere(text.substr(at), axis, letterO);
+            const bool unitLetter =
+                parts.count > 0 && hemisphere.size == 1 &&
+                ((c | 0x20) == 'd' || (c | 0x20) == 'm' || (unitLetters && c == 's'));
             unitLetters = unitLetters || unitLetter;
             if (!unitLetter) {
-                const Hemisphere letter = readHemisphere(c, axis);
-                if (letter.fault)
-                    return fault(*letter.fault);
+                if (hemisphere.fault)
+                    return fault(*hemisphere.fault);
                 if (sign != 0)
                     return fault("MESS_TAB_TWO_LETTERS");
-                sign = letter.sign;
+                sign = hemisphere.sign;
+                at += hemisphere.size;
+                continue;
             }
         } else if (std::string_view(" \t'\":*").find(c) == std::string_view::npos)
             return fault("MESS_TAB_NOT_AN_ANGLE");
@@ -181,7 +155,7 @@ Angle readAngle(std::string_view text, Axis axis)
 }
 
 Angle joinAngle(std::string_view degrees, std::string_view minutes, std::string_view seconds,
-                std::string_view hemisphere, Axis axis)
+                std::string_view hemisphere, Axis axis, LetterO letterO)
 {
     if (degrees.empty())
         return fault("MESS_TAB_PART_EMPTY");
@@ -193,7 +167,7 @@ Angle joinAngle(std::string_view degrees, std::string_view minutes, std::string_
                    : !minutes.empty() ? 2
                                       : 1};
     const Hemisphere letter =
-        hemisphere.empty() ? Hemisphere() : readHemisphere(hemisphere[0], axis);
+        hemisphere.empty() ? Hemisphere() : readHemisphere(hemisphere, axis, letterO);
     return letter.fault ? fault(*letter.fault) : assemble(parts, negative, letter.sign);
 }
 

@@ -1,16 +1,11 @@
 #pragma once
 
-#include "contract/TableTexts.h"
+#include "plugins/tables/values/Hemisphere.h"
 
 #include <optional>
 #include <string_view>
 
 namespace vlt::driver {
-
-enum class Axis {
-    X, ///< longitude or easting
-    Y, ///< latitude or northing
-};
 
 /// An angle read from a text.
 struct Angle
@@ -22,14 +17,13 @@ struct Angle
 };
 
 /// Reads decimal degrees or degrees, minutes and seconds in the common spellings: 48.85, 48,85,
-/// -3.37, 48.85 N, 48°51'24"N, 48 51 24.0 N, N48 51.4, 48d51m24s, 48:51:24. Minutes and seconds
-/// must be below 60, and only the last number may have a fraction. The hemisphere letter has to fit
-/// the axis. O is refused, because it means west in French, Spanish and Italian, but east in
-/// German.
-Angle readAngle(std::string_view text, Axis axis);
+/// -3.37, 48.85 N, 48°51'24"N, 48 51 24.0 N, N48 51.4, 48d51m24s, 48:51:24, 48.85 Nord. Minutes
+/// and seconds must be below 60, and only the last number may have a fraction. For the hemisphere
+/// see readHemisphere().
+Angle readAngle(std::string_view text, Axis axis, LetterO letterO = LetterO::Unknown);
 
-/// The angle from parts in separate columns. `hemisphere` is N, S, E, W or empty.
+/// The angle from parts in separate columns; `hemisphere` may be empty.
 Angle joinAngle(std::string_view degrees, std::string_view minutes, std::string_view seconds,
-                std::string_view hemisphere, Axis axis);
+                std::string_view hemisphere, Axis axis, LetterO letterO = LetterO::Unknown);
 
 } // namespace vlt::driver
