@@ -193,6 +193,29 @@ private Q_SLOTS:
         row("D/M/S", "49°11'24\"N,16°30'0\"E", true, 16.5, 49.19);
         row("letters turn it round", "16.5 E, 49.19 N", true, 16.5, 49.19);
         row("WKT has longitude first", "POINT (2.27 48.85)", true, 2.27, 48.85);
+        row("POINT(2.27 48.85)", "POINT(2.27 48.85)", true, 2.27, 48.85);
+        row("srid=4326;point z (2.27 48.85 35.0)", "srid=4326;point z (2.27 48.85 35.0)", true,
+            2.27, 48.85);
+        row("{'lon': 2.27, 'lat': 48.85}", "{'lon': 2.27, 'lat': 48.85}", true, 2.27, 48.85);
+        row("{\"latitude\":48.85,\"longitude\":\"2.27\",\"altitude\":35}",
+            "{\"latitude\":48.85,\"longitude\":\"2.27\",\"altitude\":35}", true, 2.27, 48.85);
+        row("{'y': 48.85, 'x': 2.27}", "{'y': 48.85, 'x': 2.27}", true, 2.27, 48.85);
+        row("{\"type\": \"Point\", \"coordinates\": [2.27, 48.85, 35]}",
+            "{\"type\": \"Point\", \"coordinates\": [2.27, 48.85, 35]}", true, 2.27, 48.85);
+        row("lat 48.85 lon 2.27", "lat 48.85 lon 2.27", true, 2.27, 48.85);
+        row("Lng=2,27; Lat=48,85", "Lng=2,27; Lat=48,85", true, 2.27, 48.85);
+        row("latitude: 48°51'00\"N, longitude: 2°16'12\"O",
+            "latitude: 48°51'00\"N, longitude: 2°16'12\"O", true, -2.27, 48.85);
+        row("(48.85, 2.27)", "(48.85, 2.27)", true, 2.27, 48.85);
+        row("48°51'0\"N 2°16'12\"E", "48°51'0\"N 2°16'12\"E", true, 2.27, 48.85);
+        row("N 48 51 E 2 16.2", "N 48 51 E 2 16.2", true, 2.27, 48.85);
+        row("48.85 Nord 2.27 Ost", "48.85 Nord 2.27 Ost", true, 2.27, 48.85);
+        row("POINT EMPTY", "POINT EMPTY", false, 0, 0);
+        row("LINESTRING (2 48, 3 49)", "LINESTRING (2 48, 3 49)", false, 0, 0);
+        row("Latimer Road 5, London", "Latimer Road 5, London", false, 0, 0);
+        row("{'lat': 48.85}", "{'lat': 48.85}", false, 0, 0);
+        row("{'lat': None, 'lon': None}", "{'lat': None, 'lon': None}", false, 0, 0);
+        row("48 51", "48 51", false, 0, 0);
         row("one number with a comma", "48,85", false, 0, 0);
         row("outside the globe", "95.0,12.0", false, 0, 0);
         row("three numbers", "2.27,48.85,35.0", false, 0, 0);
@@ -203,10 +226,46 @@ private Q_SLOTS:
         QFETCH(double, x);
         QFETCH(double, y);
 
-        const CoordinatePair pair = readCoordinatePair(text.toStdString());
+        const CoordinatePair pair =
+            readCoordinatePair(text.toStdString(), PairOrder::LatitudeFirst, LetterO::West);
 
         QTEST(!pair.fault, "good");
         QVERIFY(std::abs(pair.x - x) < 1e-9 && std::abs(pair.y - y) < 1e-9);
+    }
+
+    void findsTheOrderOfPairs_data()
+    {
+        QTest::addColumn<QByteArray>("column");
+        QTest::addColumn<QList<QByteArray>>("texts");
+        QTest::addColumn<QStringList>("positions");
+        const auto row = [](const char *name, const char *column, const QList<QByteArray> &texts,
+                            const QStringList &positions) {
+            QTest::newRow(name) << QByteArray(column) << texts << positions;
+        };
+        const QStringList apart = {QStringLiteral("103.8 1.3"), QStringLiteral("88.5 22.5")};
+        row("nothing says it", "Position", {"48.85, 2.27"}, {QStringLiteral("2.27 48.85")});
+        row("the values say longitude", "Position", {"103.8, 1.3", "88.5, 22.5"}, apart);
+        row("the values say latitude", "lon_lat", {"1.3, 103.8", "22.5, 88.5"}, apart);
+        row("the name says it", "Longitude/Latitude", {"2.27, 48.85"},
+            {QStringLiteral("2.27 48.85")});
+        row("a name in the cells", "lon,lat", {"lat=48.85 lon=2.27", "49°N 3°O", "49°N 3°E"},
+            {QStringLiteral("2.27 48.85"), QStringLiteral("-3 49"), QStringLiteral("3 49")});
+        QList<QByteArray> texts(29, "48.85, 2.27");
+        QStringList positions(29, QStringLiteral("2.27 48.85"));
+        texts += "148.85, 2.27";
+        positions += QStringLiteral(
+            "the coordinate \"148.85, 2.27\" cannot be read: it lies outside the globe");
+        row("one mistake", "Position", texts, positions);
+    }
+    void findsTheOrderOfPairs()
+    {
+        QFETCH(QByteArray, column);
+        QFETCH(QList<QByteArray>, texts);
+        QFETCH(QStringList, positions);
+        const TableProfile table = tableOf({{column, texts}});
+
+        QCOMPARE(positionsOf(table, recogniseSiteLayout(table, installedVocabulary().words)),
+                 positions);
     }
 };
 

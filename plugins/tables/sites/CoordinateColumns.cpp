@@ -251,15 +251,18 @@ CoordinateFields coordinateFields(const std::vector<CoordinateName> &names,
 }
 
 /// A field with both coordinates, for tables without separate columns.
-int findPair(const FieldWords &words, const std::vector<Field> &fields)
+int findPair(const FieldWords &words, const std::vector<Field> &fields, LetterO otherwise)
 {
     for (std::size_t i = 0; i < fields.size(); ++i) {
         if (!words[i])
             continue;
+        const std::vector<std::string> &samples = fields[i].samples;
+        const PairOrder order = findPairOrder(samples, fields[i].name);
+        const LetterO letterO = meaningOfO(samples, otherwise);
         std::size_t good = 0;
-        for (const std::string &text : fields[i].samples)
-            good += readCoordinatePair(text).fault ? 0 : 1;
-        if (good > 0 && good * 10 >= fields[i].samples.size() * 8)
+        for (const std::string &text : samples)
+            good += readCoordinatePair(text, order, letterO).fault ? 0 : 1;
+        if (good > 0 && good * 10 >= samples.size() * 8)
             return static_cast<int>(i);
     }
     return -1;
@@ -287,7 +290,11 @@ PointFields findPoint(const FieldWords &words, const std::vector<Field> &fields,
         point.x = coordinateFields(names, fields, x);
         point.y = coordinateFields(names, fields, y);
     } else
-        point.pair = findPair(words, fields);
+        point.pair = findPair(words, fields, otherwise);
+    if (point.pair >= 0) {
+        const Field &pair = fields[static_cast<std::size_t>(point.pair)];
+        point.pairOrder = findPairOrder(pair.samples, pair.name);
+    }
     point.letterO = findLetterO(point, fields, otherwise);
     return point;
 }
@@ -310,8 +317,8 @@ CoordinateUnit findUnit(const PointFields &point, const std::vector<Field> &fiel
     if (point.pair >= 0) {
         const std::vector<std::string> &samples =
             fields[static_cast<std::size_t>(point.pair)].samples;
-        const bool dms = std::any_of(samples.begin(), samples.end(), [](const std::string &text) {
-            return readCoordinatePair(text).inParts;
+        const bool dms = std::any_of(samples.begin(), samples.end(), [&](const std::string &text) {
+            return readCoordinatePair(text, point.pairOrder, point.letterO).inParts;
         });
         return dms ? CoordinateUnit::Dms : CoordinateUnit::Degrees;
     }

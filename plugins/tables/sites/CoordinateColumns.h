@@ -2,7 +2,7 @@
 
 #include "plugins/tables/roles/Vocabulary.h"
 #include "plugins/tables/table/Table.h"
-#include "plugins/tables/values/Hemisphere.h"
+#include "plugins/tables/values/CoordinatePair.h"
 
 #include <optional>
 #include <string>
@@ -39,7 +39,8 @@ struct PointFields
 {
     CoordinateFields x;
     CoordinateFields y;
-    int pair = -1;                      ///< field with both coordinates
+    int pair = -1; ///< field with both coordinates
+    PairOrder pairOrder = PairOrder::LatitudeFirst;
     LetterO letterO = LetterO::Unknown; ///< in the longitudes
 
     bool found() const { return pair >= 0 || (x.found() && y.found()); }

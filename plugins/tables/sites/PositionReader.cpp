@@ -116,7 +116,7 @@ Position PositionReader::read(int64_t row, const std::vector<const Cell *> &cell
         return position;
     if (m_fields.pair >= 0) {
         const std::string text = fieldText(cells, m_fields.pair);
-        const CoordinatePair pair = readCoordinatePair(text);
+        const CoordinatePair pair = readCoordinatePair(text, m_fields.pairOrder, m_fields.letterO);
         if (pair.fault)
             problems.push_back(problem(row, m_fields.pair, text, *pair.fault));
         else
