@@ -1,5 +1,6 @@
 #include "geodata/LayerProblems.h"
 
+#include "contract/TableMetadata.h"
 #include "geodata/LayerWalk.h"
 #include "geodata/TableDataset.h"
 #include "platform/TextDecoding.h"
@@ -30,11 +31,11 @@ void ignoreAttributes(OGRLayer &layer)
 
 Problem parseProblem(const QString &item)
 {
-    const QLatin1Char bar('|');
+    const QLatin1Char bar(contract::metadata::ProblemSeparator);
     Problem problem;
     problem.row = item.section(bar, 0, 0).toInt();
     problem.column = item.section(bar, 1, 1);
-    problem.severity = item.section(bar, 2, 2) == QLatin1String("Error")
+    problem.severity = item.section(bar, 2, 2) == QLatin1String(contract::metadata::ErrorSeverity)
                            ? Problem::Severity::Error
                            : Problem::Severity::Warning;
     problem.text = item.section(bar, 3);
@@ -44,13 +45,14 @@ Problem parseProblem(const QString &item)
 LayerProblems problemsOf(OGRLayer &layer)
 {
     LayerProblems problems;
-    char **items = layer.GetMetadata("problems");
+    char **items = layer.GetMetadata(contract::metadata::ProblemsDomain);
     for (char **item = items; item && *item; ++item) {
         const QByteArray text(*item);
-        if (text.startsWith("PROBLEM_"))
+        if (text.startsWith(contract::metadata::ProblemPrefix))
             problems.listed << parseProblem(platform::decodeText(text.mid(text.indexOf('=') + 1)));
     }
-    const qint64 declared = QByteArray(CSLFetchNameValueDef(items, "COUNT", "0")).toLongLong();
+    const qint64 declared =
+        QByteArray(CSLFetchNameValueDef(items, contract::metadata::ProblemCount, "0")).toLongLong();
     problems.count = qMax<qint64>(declared, problems.listed.size());
     return problems;
 }

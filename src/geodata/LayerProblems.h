@@ -26,9 +26,8 @@ struct SiteCheck
 };
 
 /// Reads layer 0 of a table connection once, from its first row to its last: the number of features
-/// with a position, and the "problems" metadata domain. The domain has an item COUNT and then items
-/// PROBLEM_1, PROBLEM_2 ... of the form row|column|severity|text. A layer without the domain has no
-/// problems; a dataset without layers gives an empty value.
+/// with a position, and the "problems" metadata domain (contract/TableMetadata.h). A layer without
+/// the domain has no problems; a dataset without layers gives an empty value.
 ///
 /// @param progress  may be empty; called about fifty times per second. It is not called while a
 ///                  table is opened for the first time, nor while the texts of a large XLSX file

@@ -1,5 +1,6 @@
 #include "tables/SystemProblems.h"
 
+#include "contract/TableMetadata.h"
 #include "geodata/SrsDefinition.h"
 #include "language/ErrorText.h"
 #include "language/VltLanguageManager.h"
@@ -29,7 +30,7 @@ Problem warning(const QString &text)
 /// The warning for a table in metres with a system in degrees, or vice versa; empty if they agree.
 QString unitProblem(const QString &unit, const QString &source, const SrsFacts &facts)
 {
-    const bool inMeters = unit == QLatin1String("METERS");
+    const bool inMeters = unit == QLatin1String(contract::metadata::Meters);
     if (inMeters && facts.use == SrsUse::Geographic)
         return dico_label("MESS_SRS_UNIT_METERS",
                           "the coordinates of the table are in meters, but its system %1 counts in "

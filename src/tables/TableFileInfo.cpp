@@ -1,5 +1,6 @@
 #include "tables/TableFileInfo.h"
 
+#include "contract/TableMetadata.h"
 #include "contract/TextPatterns.h"
 #include "geodata/LayerInfo.h"
 #include "geodata/TerrainReferenceCode.h"
@@ -13,17 +14,20 @@ namespace vlt::tables {
 
 namespace {
 
+namespace metadata = contract::metadata;
+
 QString coordinateKind(const QString &unit)
 {
-    return unit == QLatin1String("METERS") ? dico_label("MESS_CR_CARTOGRAPHIQUES", "cartographic")
-                                           : dico_label("MESS_CR_GEOGRAPHIQUES", "geographic");
+    return unit == QLatin1String(metadata::Meters)
+               ? dico_label("MESS_CR_CARTOGRAPHIQUES", "cartographic")
+               : dico_label("MESS_CR_GEOGRAPHIQUES", "geographic");
 }
 
 QString unitWord(const QString &unit)
 {
-    if (unit == QLatin1String("METERS"))
+    if (unit == QLatin1String(metadata::Meters))
         return dico_label("MESS_METERS", "meters");
-    if (unit == QLatin1String("DMS"))
+    if (unit == QLatin1String(metadata::Dms))
         return dico_label("MESS_DMS_FORM", "D/M/S form");
     return dico_label("MESS_DEC_DEGREES", "decimal degrees");
 }
@@ -81,10 +85,10 @@ Result<TableFile> readTableFile(const TableFileType &type, const QString &path,
     info.filePath = path;
     info.layerName = layer.layerName;
     info.rowCount = layer.featureCount;
-    info.format = layer.metadata.value(QStringLiteral("format"));
-    info.unit = layer.metadata.value(QStringLiteral("unit"));
-    info.epsg = layer.metadata.value(QStringLiteral("epsg"));
-    info.encoding = layer.metadata.value(QStringLiteral("encoding"));
+    info.format = layer.metadata.value(QLatin1String(metadata::Format));
+    info.unit = layer.metadata.value(QLatin1String(metadata::Unit));
+    info.epsg = layer.metadata.value(QLatin1String(metadata::Epsg));
+    info.encoding = layer.metadata.value(QLatin1String(metadata::Encoding));
     info.description = describeTableFile(info.format, info.unit);
     const KnownSystems known = knownSystems(info, project);
     info.systems = chooseSystems(known);

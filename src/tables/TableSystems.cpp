@@ -1,5 +1,7 @@
 #include "tables/TableSystems.h"
 
+#include "contract/TableMetadata.h"
+
 #include <QStringList>
 
 namespace vlt::tables {
@@ -20,8 +22,9 @@ QString firstGiven(const QStringList &candidates)
 geodata::SystemPair chooseSystems(const KnownSystems &known)
 {
     const QString declared = known.fileEpsg == QLatin1String("0") ? QString() : known.fileEpsg;
-    const QString degrees =
-        known.unit == QLatin1String("METERS") ? QString() : QStringLiteral("4326");
+    const QString degrees = known.unit == QLatin1String(contract::metadata::Meters)
+                                ? QString()
+                                : QStringLiteral("4326");
     return {firstGiven({declared, degrees, known.terrainEpsg}),
             firstGiven({known.projectEpsg, known.terrainEpsg, degrees, declared})};
 }

@@ -1,5 +1,6 @@
 #include "plugins/tables/ogr/TableLayer.h"
 
+#include "contract/TableMetadata.h"
 #include "contract/TableTexts.h"
 #include "plugins/tables/bytes/Refusal.h"
 #include "plugins/tables/roles/Vocabulary.h"
@@ -16,8 +17,7 @@ namespace vlt::driver {
 namespace {
 
 using contract::formatted;
-
-constexpr char ProblemsDomain[] = "problems";
+namespace metadata = contract::metadata;
 
 OGRFieldType ogrType(FieldType type)
 {
@@ -36,9 +36,9 @@ OGRFieldType ogrType(FieldType type)
 
 const char *unitName(CoordinateUnit unit)
 {
-    return unit == CoordinateUnit::Meters ? "METERS"
-           : unit == CoordinateUnit::Dms  ? "DMS"
-                                          : "DEGREES";
+    return unit == CoordinateUnit::Meters ? metadata::Meters
+           : unit == CoordinateUnit::Dms  ? metadata::Dms
+                                          : metadata::Degrees;
 }
 
 } // namespace
@@ -52,11 +52,11 @@ TableLayer::TableLayer(TableSource source, const std::string &name, int partCoun
     m_definition->SetGeomType(wkbNone);
     SetDescription(m_definition->GetName());
     const TableDeclaration &declaration = facts().declaration();
-    OGRLayer::SetMetadataItem("format", declaration.format.c_str());
-    OGRLayer::SetMetadataItem("unit", unitName(declaration.unit));
-    OGRLayer::SetMetadataItem("epsg", systems().knownEpsg().c_str());
+    OGRLayer::SetMetadataItem(metadata::Format, declaration.format.c_str());
+    OGRLayer::SetMetadataItem(metadata::Unit, unitName(declaration.unit));
+    OGRLayer::SetMetadataItem(metadata::Epsg, systems().knownEpsg().c_str());
     if (const std::string &encoding = facts().table.encoding.name; !encoding.empty())
-        OGRLayer::SetMetadataItem("encoding", encoding.c_str());
+        OGRLayer::SetMetadataItem(metadata::Encoding, encoding.c_str());
 }
 
 TableLayer::~TableLayer()
@@ -333,7 +333,7 @@ ProblemList TableLayer::fileProblems() const
 
 bool TableLayer::isProblemsDomain(const char *domain) const
 {
-    return listsProblems() && domain && EQUAL(domain, ProblemsDomain);
+    return listsProblems() && domain && EQUAL(domain, metadata::ProblemsDomain);
 }
 
 /// The problems are known if all rows were read once; otherwise they are read now.
@@ -348,13 +348,16 @@ char **TableLayer::problemsMetadata()
         survey(false, extent, found);
         problems = std::move(found);
     }
-    m_problemsItems.SetNameValue("COUNT", std::to_string(problems->count()).c_str());
+    m_problemsItems.SetNameValue(metadata::ProblemCount, std::to_string(problems->count()).c_str());
     std::size_t number = 0;
     for (const RowProblem &problem : problems->kept()) {
         const std::string row = problem.row > 0 ? std::to_string(problem.row) : std::string();
-        const std::string value = "PROBLEM_" + std::to_string(++number) + '=' + row + '|' +
-                                  problem.column + '|' + (problem.isError ? "Error" : "Warning") +
-                                  '|' + problem.text;
+        const char *severity =
+            problem.isError ? metadata::ErrorSeverity : metadata::WarningSeverity;
+        const std::string value = metadata::ProblemPrefix + std::to_string(++number) + '=' + row +
+                                  metadata::ProblemSeparator + problem.column +
+                                  metadata::ProblemSeparator + severity +
+                                  metadata::ProblemSeparator + problem.text;
         m_problemsItems.AddString(value.c_str());
     }
     return m_problemsItems.List();
@@ -376,8 +379,8 @@ char **TableLayer::GetMetadataDomainList()
 {
     if (!listsProblems())
         return OGRLayer::GetMetadataDomainList();
-    return BuildMetadataDomainList(OGRLayer::GetMetadataDomainList(), FALSE, ProblemsDomain,
-                                   nullptr);
+    return BuildMetadataDomainList(OGRLayer::GetMetadataDomainList(), FALSE,
+                                   metadata::ProblemsDomain, nullptr);
 }
 
 } // namespace vlt::driver

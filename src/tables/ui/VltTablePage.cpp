@@ -1,5 +1,6 @@
 #include "tables/ui/VltTablePage.h"
 
+#include "contract/TableMetadata.h"
 #include "language/ErrorText.h"
 #include "platform/LayerFile.h"
 #include "platform/Settings.h"
@@ -310,7 +311,7 @@ void VltTablePage::showArea(const vlt::geodata::SystemCheck &checked)
     if (!file())
         return;
     const vlt::tables::TableFileInfo &read = *file();
-    const bool isInDegrees = read.unit != QLatin1String("METERS") &&
+    const bool isInDegrees = read.unit != QLatin1String(vlt::contract::metadata::Meters) &&
                              checked.source.use == vlt::geodata::SrsUse::Geographic;
     if (isInDegrees && checked.extent)
         m_panelSrs->setContext({read.projectSystems, checked.extent});

@@ -1,0 +1,27 @@
+#pragma once
+
+/// The metadata of layers of tables: the table driver writes them, the wizard and the command line
+/// read them.
+namespace vlt::contract::metadata {
+
+// Items of the default domain.
+inline constexpr char Format[] = "format";     ///< kind of table: the program that wrote it
+inline constexpr char Unit[] = "unit";         ///< of the coordinates
+inline constexpr char Epsg[] = "epsg";         ///< system that the table declares; may be empty
+inline constexpr char Encoding[] = "encoding"; ///< of a text file
+
+// Values of Unit.
+inline constexpr char Meters[] = "METERS";
+inline constexpr char Dms[] = "DMS";         ///< degrees, minutes and seconds
+inline constexpr char Degrees[] = "DEGREES"; ///< decimal degrees
+
+// The domain of problems has an item with their number, and an item with a number in its name for
+// each problem that is listed: PROBLEM_1=row|column|severity|text.
+inline constexpr char ProblemsDomain[] = "problems";
+inline constexpr char ProblemCount[] = "COUNT";
+inline constexpr char ProblemPrefix[] = "PROBLEM_";
+inline constexpr char ProblemSeparator = '|';
+inline constexpr char ErrorSeverity[] = "Error";
+inline constexpr char WarningSeverity[] = "Warning";
+
+} // namespace vlt::contract::metadata
