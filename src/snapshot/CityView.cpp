@@ -1,6 +1,8 @@
 #include "snapshot/CityView.h"
 
+#include "contract/SceneFactKeys.h"
 #include "snapshot/DrawnExtents.h"
+#include "snapshot/SceneSource.h"
 #include "snapshot/Subject.h"
 
 #include <QString>
@@ -75,13 +77,8 @@ bool reachesMiddle(const osg::BoundingBoxd &drawn, const osg::Vec3d &middle)
 
 std::optional<qint64> buildingCount(const osg::Node &scene)
 {
-    const QString mark = QStringLiteral("buildings=");
-    for (const std::string &line : scene.getDescriptions()) {
-        const QString text = QString::fromStdString(line);
-        if (text.startsWith(mark))
-            return text.mid(mark.size()).toLongLong();
-    }
-    return std::nullopt;
+    const std::optional<QString> count = sceneFact(scene, contract::facts::Buildings);
+    return count ? std::optional(count->toLongLong()) : std::nullopt;
 }
 
 Result<ViewPoint> viewOfCity(osg::Node &scene, qint64 buildings, double aspect)

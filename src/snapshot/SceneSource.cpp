@@ -71,6 +71,16 @@ Error asError(ReadResult &read, const std::string &source, const QString &name)
 
 } // namespace
 
+std::optional<QString> sceneFact(const osg::Node &scene, const char *key)
+{
+    const std::string mark = key + std::string("=");
+    for (const std::string &line : scene.getDescriptions()) {
+        if (line.starts_with(mark))
+            return QString::fromStdString(line.substr(mark.size()));
+    }
+    return std::nullopt;
+}
+
 bool isParametricName(const QString &name)
 {
     return name.startsWith(QLatin1String(contract::parametric::Start));

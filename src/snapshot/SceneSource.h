@@ -7,6 +7,8 @@
 
 #include <osg/Node>
 
+#include <optional>
+
 namespace vlt::snapshot {
 
 /// A loaded scene; null: no scene.
@@ -28,6 +30,10 @@ Result<Scene> readScene(const QString &name, const QString &project = {},
 /// The same, with the progress of readers that take a long time.
 Stoppable<Scene> readScene(const QString &name, const QString &project, TerrainSurface terrain,
                            const Progress &progress);
+
+/// A fact that the readers state about a scene, by its key in contract/SceneFactKeys.h; nothing if
+/// they do not state it.
+std::optional<QString> sceneFact(const osg::Node &scene, const char *key);
 
 /// Whether the name is that of a parametric object.
 bool isParametricName(const QString &name);

@@ -1,6 +1,7 @@
 #include "plugins/scene/buildings/BuildingScene.h"
 
 #include "contract/FileSearch.h"
+#include "contract/SceneFactKeys.h"
 #include "plugins/scene/buildings/CityColors.h"
 #include "plugins/scene/buildings/CityNodes.h"
 #include "plugins/scene/buildings/DocumentFiles.h"
@@ -187,8 +188,8 @@ osg::ref_ptr<osg::Group> readBuildingScene(const std::string &document, const st
                          texturedMaker(city, texb, directories, notices, part(progress, 0.8, 0.9))};
     osg::ref_ptr<osg::Group> scene = buildCity(city, look, part(progress, 0.9, 1));
     setFrame(*scene, city->frame);
-    setCount(*scene, "buildings", city->footprints.buildings.size());
-    setCount(*scene, "leftOut", countOf(city->leftOut));
+    setCount(*scene, contract::facts::Buildings, city->footprints.buildings.size());
+    setCount(*scene, contract::facts::LeftOut, countOf(city->leftOut));
     return scene;
 }
 

@@ -1,5 +1,6 @@
 #include "plugins/scene/layers/LinkLayerScene.h"
 
+#include "contract/SceneFactKeys.h"
 #include "plugins/scene/link/LinkFactory.h"
 #include "plugins/scene/reading/SceneFacts.h"
 
@@ -15,9 +16,9 @@ osg::ref_ptr<osg::Group> buildLinkLayerScene(const LinkRows &rows, LinkRecords r
     osg::ref_ptr<osg::Group> group = new osg::Group;
     group->setName(title);
     setFrame(*group, rows.frame);
-    setCount(*group, "links", records.links.size());
-    setCount(*group, "pylons", records.pylons.sites.size());
-    setCount(*group, "unplaced", rows.unplaced);
+    setCount(*group, contract::facts::Links, records.links.size());
+    setCount(*group, contract::facts::Pylons, records.pylons.sites.size());
+    setCount(*group, contract::facts::Unplaced, rows.unplaced);
     static constexpr std::array<std::pair<const char *, linkpath::ClearanceStatus>, 4> Statuses = {{
         {"clear", linkpath::ClearanceStatus::Clear},
         {"marginal", linkpath::ClearanceStatus::Marginal},

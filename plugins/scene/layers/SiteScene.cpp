@@ -1,5 +1,6 @@
 #include "plugins/scene/layers/SiteScene.h"
 
+#include "contract/SceneFactKeys.h"
 #include "plugins/scene/reading/SceneFacts.h"
 
 namespace vlt::scene {
@@ -10,8 +11,8 @@ osg::ref_ptr<osg::Group> buildSiteScene(SiteRecords records, const std::string &
     osg::ref_ptr<osg::Group> group = new osg::Group;
     group->setName(title);
     setFrame(*group, records.frame);
-    setCount(*group, "sites", records.sites.size());
-    setCount(*group, "unplaced", records.unplaced);
+    setCount(*group, contract::facts::Sites, records.sites.size());
+    setCount(*group, contract::facts::Unplaced, records.unplaced);
     if (records.isCut)
         setCut(*group);
     if (!records.sites.empty())

@@ -1,5 +1,7 @@
 #include "plugins/scene/reading/SceneFacts.h"
 
+#include "contract/SceneFactKeys.h"
+
 #include <iomanip>
 #include <locale>
 #include <sstream>
@@ -7,14 +9,16 @@
 
 namespace vlt::scene {
 
+namespace facts = contract::facts;
+
 void setFrame(osg::Group &scene, const SceneFrame &frame)
 {
     const osg::Vec2d &centre = frame.local->centre();
     std::ostringstream text;
     text.imbue(std::locale::classic());
-    text << std::setprecision(12) << "centre=" << centre.x() << ' ' << centre.y();
+    text << std::setprecision(12) << facts::Centre << '=' << centre.x() << ' ' << centre.y();
     scene.addDescription(text.str());
-    scene.addDescription("srs=" + frame.srs);
+    scene.addDescription(facts::System + ('=' + frame.srs));
 }
 
 void setCount(osg::Group &scene, std::string_view key, std::size_t count)
@@ -24,7 +28,7 @@ void setCount(osg::Group &scene, std::string_view key, std::size_t count)
 
 void setCut(osg::Group &scene)
 {
-    scene.addDescription("cut");
+    scene.addDescription(facts::Cut);
 }
 
 } // namespace vlt::scene

@@ -8,7 +8,7 @@
 
 namespace vlt::scene {
 
-// These functions add a fact to the descriptions of a scene.
+// These functions add a fact of contract/SceneFactKeys.h to the descriptions of a scene.
 
 /// Adds the position of the scene's origin: "centre=X Y" in the table's system, and "srs=...".
 void setFrame(osg::Group &scene, const SceneFrame &frame);

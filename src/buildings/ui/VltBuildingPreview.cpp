@@ -2,6 +2,7 @@
 
 #include "ui_BuildingPreview.h"
 
+#include "contract/SceneFactKeys.h"
 #include "language/ErrorText.h"
 #include "language/ReaderText.h"
 #include "preview/VisibleDistance.h"
@@ -17,25 +18,18 @@
 
 namespace {
 
+namespace facts = vlt::contract::facts;
+
 /// Maximum distance of the camera as a share of the distance of visibility: farther away, too few
 /// buildings are visible.
 constexpr double NearShare = 0.85;
 /// High enough to show roofs and buildings behind tall ones, low enough to show walls.
 constexpr double ElevationDeg = 40;
 
-/// The value of a line "key=value" in the description of a scene.
-std::string fact(const osg::Node &scene, const std::string &key)
+/// A number in the facts about a scene; 0 if it is missing.
+int count(const osg::Node &scene, const char *fact)
 {
-    for (const std::string &line : scene.getDescriptions()) {
-        if (line.starts_with(key + '='))
-            return line.substr(key.size() + 1);
-    }
-    return {};
-}
-
-int count(const osg::Node &scene, const std::string &key)
-{
-    return QString::fromStdString(fact(scene, key)).toInt();
+    return vlt::snapshot::sceneFact(scene, fact).value_or(QString()).toInt();
 }
 
 /// A notice of a reader, in the user's language, without the layer at its start and without the
@@ -148,14 +142,14 @@ void VltBuildingPreview::showScene(const vlt::snapshot::Scene &scene, const QStr
     if (!scene)
         return;
     m_ui->m_pwPreview->setMaxDistanceM(NearShare * visibleDistanceM(*scene));
-    const std::string place = fact(*scene, "centre");
+    const QString place = vlt::snapshot::sceneFact(*scene, facts::Centre).value_or(QString());
     if (place != m_place)
         resetView();
     m_place = place;
 
     const QLocale numbers;
-    const int leftOut = count(*scene, "leftOut");
-    const QString shown = numbers.toString(count(*scene, "buildings"));
+    const int leftOut = count(*scene, facts::LeftOut);
+    const QString shown = numbers.toString(count(*scene, facts::Buildings));
     const QString counts = leftOut > 0
                                ? tr("Buildings: %1, left out: %2", "MESS_BUILDINGS_LEFT_OUT")
                                      .arg(shown, numbers.toString(leftOut))

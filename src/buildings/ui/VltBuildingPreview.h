@@ -44,5 +44,5 @@ private:
     void showScene(const vlt::snapshot::Scene &scene, const QStringList &notices);
 
     std::unique_ptr<Ui::BuildingPreview> m_ui;
-    std::string m_place; ///< centre of the last scene
+    QString m_place; ///< centre of the last scene
 };
