@@ -16,7 +16,7 @@ bool asksFor(const QString &argument, const char *longName, const char *shortNam
 QString unknownOption(const QString &option)
 {
     if (option == QLatin1String("-stylesheet") || option == QLatin1String("--stylesheet"))
-        return dico_label("MESS_APP_NO_SHEET", "%1 is not followed by a file").arg(option);
+        return dico_label("MESS_APP_NO_SHEET", "%1 needs a file").arg(option);
     return dico_label("MESS_APP_UNKNOWN_OPTION", "unknown option \"%1\"").arg(option);
 }
 
@@ -40,7 +40,7 @@ CommandLine readCommandLine(const QStringList &arguments)
             line.error = unknownOption(argument);
     }
     if (files.size() > 1 && line.error.isEmpty())
-        line.error = dico_label("MESS_APP_ONE_FILE", "more than one file is named");
+        line.error = dico_label("MESS_APP_ONE_FILE", "more than one file is given");
     line.file = files.value(0);
     return line;
 }
@@ -70,7 +70,7 @@ QString helpText()
         "\n"
         "  -h, --help          Prints this text.\n"
         "  -v, --version       Prints the version.\n"
-        "  -stylesheet SHEET   Takes a style sheet of one's own.\n"
+        "  -stylesheet SHEET   Uses this Qt style sheet.\n"
         "\n"
         "The options of every Qt program, such as -platform and -style, work too.\n"
         "vltlayers makes the same layers without a window.");

@@ -86,8 +86,7 @@ Result<std::shared_ptr<coverage::CoverageRaster>> openRaster(RasterColoring &col
 std::optional<coverage::ValueRange> rangeOf(coverage::CoverageRaster &raster, bool quiet)
 {
     ProgressLine line(
-        dico_label("MESS_READING_RANGE", "Looking for the least and the greatest value..."),
-        !quiet);
+        dico_label("MESS_READING_RANGE", "Computing the minimum and maximum value..."), !quiet);
     return raster.range(line.progress());
 }
 

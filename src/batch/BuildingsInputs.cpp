@@ -88,7 +88,7 @@ Result<BuildingsSource> readVector(const BuildingsRequest &request, const QStrin
     const geodata::Extent extent = opened.value()->extent(index.value());
     if (!extent.isPlaced())
         return Error{QStringLiteral("MESS_ERR_NO_EXTENT"),
-                     QStringLiteral("No building of this layer has a place"), path};
+                     QStringLiteral("No building of this layer has a position"), path};
     count = layer.featureCount;
     BuildingsSource source;
     source.file = absolutePath(path);
@@ -113,10 +113,10 @@ Result<QString> readTerrain(const QString &path, const std::optional<QString> &n
         return Error{QStringLiteral("MESS_ERR_NO_BANDS"),
                      QStringLiteral("This image doesn't have any band"), path};
     if (terrain.value().holdsColors)
-        warning = path + QStringLiteral(": ") +
-                  dico_label("MESS_DTM_IS_PICTURE",
-                             "This raster looks like a picture: its first band holds colors, which "
-                             "would be taken for heights");
+        warning =
+            path + QStringLiteral(": ") +
+            dico_label("MESS_DTM_IS_PICTURE", "This raster is probably a picture: its first band "
+                                              "holds colors, which would be read as heights");
     const std::optional<double> own = terrain.value().noData;
     return noData.value_or(own ? text::f6(*own) : QString());
 }

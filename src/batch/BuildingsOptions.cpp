@@ -115,7 +115,8 @@ const std::vector<NumberOption<BuildingsMeasures>> &buildingsNumbers()
 {
     static const std::vector<NumberOption<BuildingsMeasures>> options = {
         {QStringLiteral("distance"),
-         dico_label("MESS_OPT_DISTANCE", "Distance in metres up to which the buildings are shown"),
+         dico_label("MESS_OPT_DISTANCE",
+                    "Maximum distance in metres at which the buildings are shown"),
          &BuildingsMeasures::distanceM, contract::ExtrudedVisibilityM},
         {QStringLiteral("tile-size"),
          dico_label("MESS_OPT_TILE_SIZE", "Side of the tiles of buildings in metres"),
@@ -125,7 +126,7 @@ const std::vector<NumberOption<BuildingsMeasures>> &buildingsNumbers()
          &BuildingsMeasures::skirtM, contract::SkirtHeightM},
         {QStringLiteral("textured-distance"),
          dico_label("MESS_OPT_TEXTURED_DISTANCE",
-                    "Distance in metres up to which the images are shown"),
+                    "Maximum distance in metres at which the images are shown"),
          &BuildingsMeasures::texturedDistanceM, contract::TexturedVisibilityM},
         {QStringLiteral("cache-capacity"),
          dico_label("MESS_OPT_CACHE_CAPACITY",

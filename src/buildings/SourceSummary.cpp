@@ -37,7 +37,7 @@ QString lengthText(double length, const SystemInfo &system)
 QString sizeText(const Extent &extent, const SystemInfo &system)
 {
     if (!extent.isPlaced())
-        return dico_label("MESS_NO_BUILDING_PLACED", "no building has a place");
+        return dico_label("MESS_NO_BUILDING_PLACED", "no building has a position");
     return QStringLiteral("%1 \u00d7 %2")
         .arg(lengthText(extent.maxX - extent.minX, system),
              lengthText(extent.maxY - extent.minY, system));

@@ -9,7 +9,7 @@ namespace vlt::contract {
 /// The messages of the table readers.
 inline constexpr auto TableTexts = std::to_array<Text>({
     // files that cannot be read
-    {"MESS_TAB_NO_FILE_NAME", "no file is named"},
+    {"MESS_TAB_NO_FILE_NAME", "no file name is given"},
     {"MESS_TAB_NOT_LOCAL", "tables are read from local files only"},
     {"MESS_TAB_NO_READER", "no driver for it was found"},
     {"MESS_TAB_OUT_OF_MEMORY", "out of memory"},
@@ -37,7 +37,7 @@ inline constexpr auto TableTexts = std::to_array<Text>({
     {"MESS_TAB_OTHER_XML",
      "this XML file is not a SpreadsheetML 2003 workbook: its root element is <%1>"},
     {"MESS_TAB_DOCUMENT_TYPE",
-     "the XML file declares a document type, which tables do not need and attacks use"},
+     "the XML file declares a document type: tables do not need it, and attacks use it"},
     {"MESS_TAB_PASSWORD", "the workbook is protected by a password"},
 
     // damaged files
@@ -62,8 +62,8 @@ inline constexpr auto TableTexts = std::to_array<Text>({
     {"MESS_TAB_LONG_ROW", "a single row is longer than 256 MiB"},
 
     // files that hold no table of sites
-    {"MESS_TAB_NO_DELIMITER",
-     "no delimiter was found: neither semicolons nor tabs, bars or commas make columns of it"},
+    {"MESS_TAB_NO_DELIMITER", "no delimiter was found: semicolons, tabs, bars and commas do not "
+                              "separate columns in this file"},
     {"MESS_TAB_NO_SHEET", "there is no sheet called \"%1\""},
     {"MESS_TAB_NO_VALUE", "there is no cell with a value in the file"},
     {"MESS_TAB_FILE_OF_ONE_COLUMN", "the file has only one column"},
@@ -100,8 +100,8 @@ inline constexpr auto TableTexts = std::to_array<Text>({
      "the row continues after the last column: \"%1\" in column %2 has no header"},
     {"MESS_TAB_MISSING_TEXT",
      "the text of the cell is lost: the workbook has no text number \"%1\""},
-    {"MESS_TAB_SWALLOWED_ROWS", "a quotation mark opens here and takes in the rows below, %1 in "
-                                "number: one is missing or too many"},
+    {"MESS_TAB_SWALLOWED_ROWS", "a quotation mark opens here and its text includes the rows below, "
+                                "%1 in number: a quotation mark is missing or superfluous"},
     {"MESS_TAB_UNREADABLE_BYTES",
      "bytes that are not valid in the encoding %1 were replaced: %2 in this row"},
     {"MESS_TAB_TEXT_CUT", "the text is too long: only its first characters are kept, %1 in number"},
@@ -127,7 +127,7 @@ inline constexpr auto TableTexts = std::to_array<Text>({
      "the offset \"%1\" cannot be read: the position is taken without it"},
     {"MESS_TAB_ENDS_COINCIDE", "the ends of the link are less than a metre apart"},
     {"MESS_TAB_LENGTH_DIFFERS",
-     "the stated length of %1 m does not fit the distance of the ends, which is %2 m"},
+     "the stated length of %1 m does not match the distance between the ends, which is %2 m"},
 
     // values of transmitters that cannot be read
     {"MESS_TAB_HEIGHT_RANGE", "the antenna height \"%1\" cannot be used: an antenna height lies "

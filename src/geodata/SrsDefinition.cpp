@@ -21,9 +21,11 @@ std::optional<Error> definitionRefusal(const QString &text)
 {
     const QByteArray bytes = text.toLatin1();
     if (QString::fromLatin1(bytes) != text)
-        return Error{QStringLiteral("MESS_SRS_NOT_LATIN1"),
-                     QStringLiteral("A definition may have the characters of western Europe only"),
-                     {}};
+        return Error{
+            QStringLiteral("MESS_SRS_NOT_LATIN1"),
+            QStringLiteral(
+                "A definition may contain only the characters of Western European languages"),
+            {}};
 
     const ErrorCollector quiet;
     OGRSpatialReference system;

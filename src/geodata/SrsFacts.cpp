@@ -55,13 +55,13 @@ std::optional<Error> srsRefusal(const SrsFacts &facts)
     if (facts.use == SrsUse::Heights)
         return Error{
             QStringLiteral("MESS_SRS_HEIGHTS_ONLY"),
-            QStringLiteral("This system gives heights only: it cannot place points on a map"),
+            QStringLiteral("This system has heights only: it cannot define a position on a map"),
             {}};
     if (facts.use == SrsUse::Geocentric)
-        return Error{QStringLiteral("MESS_SRS_GEOCENTRIC"),
-                     QStringLiteral("This system counts from the centre of the earth: it cannot "
-                                    "place points on a map"),
-                     {}};
+        return Error{
+            QStringLiteral("MESS_SRS_GEOCENTRIC"),
+            QStringLiteral("This system is geocentric: it cannot define a position on a map"),
+            {}};
     return std::nullopt;
 }
 

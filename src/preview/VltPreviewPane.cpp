@@ -13,8 +13,8 @@ VltPreviewPane::VltPreviewPane(QWidget *parent) : QWidget(parent)
         m_viewer = new W_simpleOSGViewer(W_simpleOSGViewer::defaultFormat(), this);
         m_viewer->setObjectName(QStringLiteral("m_pwViewer"));
         m_viewer->setAccessibleName(tr("3D preview", "MESS_3D_PREVIEW"));
-        m_viewer->setToolTip(tr("Drag to turn, middle button to move, wheel to come nearer; left "
-                                "and right arrow, + and -, Home for the whole scene",
+        m_viewer->setToolTip(tr("Drag to rotate, middle button to move, wheel to zoom; left and "
+                                "right arrow, + and -, Home for the whole scene",
                                 "MESS_TIP_3D_PREVIEW"));
         layout->addWidget(m_viewer);
         setFocusProxy(m_viewer);

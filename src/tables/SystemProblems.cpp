@@ -32,14 +32,13 @@ QString unitProblem(const QString &unit, const QString &source, const SrsFacts &
 {
     const bool inMeters = unit == QLatin1String(contract::metadata::Meters);
     if (inMeters && facts.use == SrsUse::Geographic)
-        return dico_label("MESS_SRS_UNIT_METERS",
-                          "the coordinates of the table are in meters, but its system %1 counts in "
-                          "degrees")
+        return dico_label(
+                   "MESS_SRS_UNIT_METERS",
+                   "the coordinates of the table are in meters, but its system %1 uses degrees")
             .arg(label(source, facts));
     if (!inMeters && facts.use == SrsUse::Projected)
-        return dico_label("MESS_SRS_UNIT_DEGREES",
-                          "the coordinates of the table are in degrees, but its system %1 counts "
-                          "in meters or feet")
+        return dico_label("MESS_SRS_UNIT_DEGREES", "the coordinates of the table are in degrees, "
+                                                   "but its system %1 uses meters or feet")
             .arg(label(source, facts));
     return {};
 }

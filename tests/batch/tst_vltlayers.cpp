@@ -224,9 +224,9 @@ private Q_SLOTS:
         row("--target-srs EPSG:2154", Table, {});
         row("--source-srs 2154 --target-srs 2154", Table,
             "the coordinates of the table are in degrees, but its system RGF93 v1 / Lambert-93 "
-            "(2154) counts in meters or feet");
+            "(2154) uses meters or feet");
         row("--source-srs 4326 --target-srs EPSG:4326", meters,
-            "the coordinates of the table are in meters, but its system WGS 84 (4326) counts in "
+            "the coordinates of the table are in meters, but its system WGS 84 (4326) uses "
             "degrees\nvltlayers: ../s.csv: none of its sites has a position; \"vltlayers info\" "
             "shows why");
         row("--target-srs 2193", Table,
@@ -265,9 +265,8 @@ private Q_SLOTS:
         row("site ../s.csv -o old.lay --source-srs no-such-system", 1,
             "../s.csv: the coordinate system \"no-such-system\" is not known");
         row("site ../s.csv -o old.lay --target-srs EPSG:5720", 1,
-            "EPSG:5720: This system gives heights only");
-        row("site ../s.csv -o old.lay --source-srs 4978", 1,
-            "4978: This system counts from the centre of the earth");
+            "EPSG:5720: This system has heights only");
+        row("site ../s.csv -o old.lay --source-srs 4978", 1, "4978: This system is geocentric");
         row("site ../s.csv -o nowhere/o.lay", 1, "nowhere/o.lay: Can't create the layer file");
         row("site ../s.csv", 2, "-o OUT.lay");
         row("site -o old.lay", 2, "no table");

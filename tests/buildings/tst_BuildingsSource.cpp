@@ -247,7 +247,7 @@ private Q_SLOTS:
             u"This file can't be open as a vector file\n"_s + file(vector), number);
         row("terrain gone", Square, dtm, u"Cannot open DTM\n"_s + file(dtm), number);
         row("no number", Square, {}, "The no-data value is not a number.", "abc");
-        row("no place", Nowhere, {}, "No building of this layer has a place\nn", number);
+        row("no place", Nowhere, {}, "No building of this layer has a position\nn", number);
     }
 
     void refusesOnNext()

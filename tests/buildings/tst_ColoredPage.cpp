@@ -277,7 +277,8 @@ private Q_SLOTS:
         };
 
         QTRY_COMPARE_WITH_TIMEOUT(
-            page.message(), u"The file of the colormap is gone: choose another one."_s, PatienceMs);
+            page.message(),
+            u"The file of the colormap no longer exists: choose another colormap."_s, PatienceMs);
         page.choose(u"m_pwCbCmap"_s, 0);
         QTRY_VERIFY_WITH_TIMEOUT(page.icon()->isEnabled(), PatienceMs);
 
@@ -290,7 +291,7 @@ private Q_SLOTS:
         QTRY_VERIFY_WITH_TIMEOUT(page.icon()->isEnabled(), PatienceMs);
 
         type(u"m_pwLeImage"_s, path(u"other"_s));
-        QTRY_COMPARE_WITH_TIMEOUT(page.message(), u"Press Enter to open the image that is typed."_s,
+        QTRY_COMPARE_WITH_TIMEOUT(page.message(), u"Press Enter to open the image of this path."_s,
                                   PatienceMs);
         QVERIFY(!page.icon()->isEnabled());
         page.line(u"m_pwLeImage"_s)->clearFocus();

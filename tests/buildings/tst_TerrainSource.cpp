@@ -56,8 +56,9 @@ private Q_SLOTS:
         row("gone", file(u"gone.tif"_s), refused);
         row("elsewhere", u"/vsicurl/http://127.0.0.1:9/a.tif"_s, refused);
         row("no band", withoutBands(), "This image doesn't have any band");
-        const QString isPicture = u"This raster looks like a picture: its first band holds colors, "
-                                  "which would be taken for heights"_s;
+        const QString isPicture =
+            u"This raster is probably a picture: its first band holds colors, "
+            "which would be read as heights"_s;
         row("orthophoto", picture(3), isPicture);
         row("palette", picture(1), isPicture);
     }

@@ -59,8 +59,8 @@ def quotes(m):
     usual = lines(table())
     swallowing = usual.replace("S0003", '"S0003').replace("S0009", '"S0009')
     m.open("swallowed_rows.csv", swallowing, "stray quotes in two rows", rows=34,
-           problems="1|4|Site ID|a quotation mark opens here and takes in the rows below, 6 in number: "
-                    "one is missing or too many")
+           problems="1|4|Site ID|a quotation mark opens here and its text includes the rows below, "
+                    "6 in number: a quotation mark is missing or superfluous")
     m.open("addresses.csv", lines(with_sectors(lambda i: '"Mill Lane, Ely, CB7\nUK, EU"'), ","),
            "as many commas as make a row up to the line break, but not behind it", problems="0|0||")
     m.open("unclosed_early.csv", usual.replace("S0002", '"S0002'), "the quote in row 3 never closes")

@@ -284,8 +284,8 @@ private Q_SLOTS:
         row("a frequency of 0", usual, "L;10;0;11;0;30;30;0;",
             "2|Frequency (GHz)|Warning|the frequency \"0\" is not positive");
         row("a length in miles", usual + " (miles)", "L;10;0;10,1;0;30;30;7;10",
-            "2|Length (miles)|Warning|the stated length of 16093 m does not fit the distance of "
-            "the ends, which is 11132 m");
+            "2|Length (miles)|Warning|the stated length of 16093 m does not match the distance "
+            "between the ends, which is 11132 m");
         row("a length without a unit", usual, "L;10;0;10,1;0;30;30;7;10", "");
         row("a short link that is 90 m off", usual + " (m)", "L;10;0;10,01;0;30;30;7;1200", "");
         row("an offset", "X A;Y A;X B;Y B;Height A;Height B;Frequency;DX B",

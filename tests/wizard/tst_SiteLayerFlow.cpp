@@ -240,7 +240,7 @@ private Q_SLOTS:
             "No layer can be made: the coordinate system \"Lambert II of "
             "nowhere\" is not known");
         row("heights", "EPSG:5720",
-            "This system gives heights only: it cannot place points on a "
+            "This system has heights only: it cannot define a position on a "
             "map\nEPSG:5720");
     }
 

@@ -82,7 +82,7 @@ private Q_SLOTS:
             {u"-style"_s, u"Windows"_s, u"-stylesheet"_s, u"my.qss"_s, u"--frob"_s}, here, 2, {},
             QByteArray("VltTelecomLayers: unknown option \"--frob\"\n" + hint));
         row("two files", {u"a.csv"_s, u"--"_s, u"--help"_s}, here, 2, {},
-            QByteArray("VltTelecomLayers: more than one file is named\n" + hint));
+            QByteArray("VltTelecomLayers: more than one file is given\n" + hint));
         row("no display", {u"a.csv"_s}, ":987654", 1, {},
             "VltTelecomLayers: no window can be opened here (could not connect to "
             "display :987654); vltlayers makes the same layers without one\n");

@@ -107,7 +107,7 @@ void FootprintPicker::readExtent(int index)
     m_extent.reset();
     const std::shared_ptr<geodata::PolygonSource> source = m_source;
     const auto extent = wizard::waitForValue<geodata::Extent>(
-        page(), tr("Looking where the buildings are...", "MESS_READING_EXTENT"),
+        page(), tr("Computing the extent of the buildings...", "MESS_READING_EXTENT"),
         [source, index] { return source->extent(index); });
     if (m_source == source && m_widgets.layer->currentIndex() == index)
         m_extent = extent;

@@ -13,8 +13,9 @@ QString textOf(RasterProblem problem)
     case RasterProblem::NoBands:
         return dico_label("MESS_ERR_NO_BANDS", "This image doesn't have any band");
     case RasterProblem::HoldsColors:
-        return dico_label("MESS_DTM_IS_PICTURE", "This raster looks like a picture: its first band "
-                                                 "holds colors, which would be taken for heights");
+        return dico_label("MESS_DTM_IS_PICTURE",
+                          "This raster is probably a picture: its first band holds colors, which "
+                          "would be read as heights");
     case RasterProblem::NotOneBand:
         break;
     }

@@ -229,7 +229,7 @@ bool VltAddTexbFirstPage::isPlaced()
     if (m_footprints->extent()->isPlaced())
         return true;
     return accepts(Error{QStringLiteral("MESS_ERR_NO_EXTENT"),
-                         QStringLiteral("No building of this layer has a place"),
+                         QStringLiteral("No building of this layer has a position"),
                          m_ui->m_pwCbLayer->currentText()});
 }
 

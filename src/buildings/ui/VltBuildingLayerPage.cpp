@@ -28,8 +28,8 @@ void VltBuildingLayerPage::setForm(VltBuildingPreview *preview, QBoxLayout *drag
     setResult({dragRow, dragText,
                tr("Layer of buildings to drag into the builder", "MESS_DRAG_NAME_TEXB"),
                tr("Drag the layer file into the builder; Ctrl+C copies it to be pasted there.\nIts "
-                  "files are temporary: Ctrl+S saves it for good, with its document and legend "
-                  "beside it.",
+                  "files are temporary: Ctrl+S saves the layer permanently, together with its "
+                  "document and legend.",
                   "MESS_TIP_DRAG_TEXB")});
     // The temporary files are deleted at the end of this process or at the next start of the
     // machine. Therefore a saved layer gets its own files.
@@ -157,6 +157,6 @@ void VltBuildingLayerPage::showNoLayer(const QString &why)
 {
     layerWritten({});
     m_preview->showLayer({}, {});
-    m_preview->showMessage(why.isEmpty() ? tr("The layer has not been made.", "MESS_LAYER_NOT_MADE")
+    m_preview->showMessage(why.isEmpty() ? tr("The layer was not made.", "MESS_LAYER_NOT_MADE")
                                          : why);
 }

@@ -153,7 +153,7 @@ QString VltColoringPanel::missingText() const
 {
     const QString typed = m_ui->m_pwLeImage->text();
     if (!typed.isEmpty() && typed != m_openedImage)
-        return tr("Press Enter to open the image that is typed.", "MESS_IMAGE_NOT_OPENED");
+        return tr("Press Enter to open the image of this path.", "MESS_IMAGE_NOT_OPENED");
     if (typed.isEmpty())
         return tr("Choose the image that colors the buildings.", "MESS_NEED_COLOR_IMAGE");
     if (!m_isUsable)
@@ -163,7 +163,8 @@ QString VltColoringPanel::missingText() const
     if (m_ui->m_pwCbCmap->currentIndex() < 0)
         return tr("Add a colormap.", "MESS_NEED_CMAP");
     if (!QFileInfo::exists(m_ui->m_pwCbCmap->currentData().toString()))
-        return tr("The file of the colormap is gone: choose another one.", "MESS_CMAP_GONE");
+        return tr("The file of the colormap no longer exists: choose another colormap.",
+                  "MESS_CMAP_GONE");
     return {};
 }
 
@@ -176,7 +177,7 @@ bool VltColoringPanel::readRange(const buildings::RasterColoring &coloring)
     m_range.reset();
     using Range = Stoppable<std::optional<coverage::ValueRange>>;
     const auto read = wizard::waitForValue<Range>(
-        this, tr("Looking for the least and the greatest value...", "MESS_READING_RANGE"),
+        this, tr("Computing the minimum and maximum value...", "MESS_READING_RANGE"),
         [raster = coloring.rasterFile, noData = coloring.noData](const Progress &progress) {
             return buildings::readCoverageRange(raster, noData, progress);
         });

@@ -45,7 +45,7 @@ vlt::tables::TablePageKind VltAddLinkPage::linkKind()
         tr("Drag this icon into\nVeltaro Builder\nto add the link layer\n", "MESS_DRAG_ICON_LINK");
     kind.dragName = tr("Link layer to drag into the builder", "MESS_DRAG_NAME_LINK");
     kind.ownLayer = {QStringLiteral("m_pwPbOwnLinks"), tr("Links of the layer", "MESS_OWN_LINKS"),
-                     tr("Look at the links of the layer just written", "MESS_TIP_OWN_LINKS"),
+                     tr("Show the links of the layer just written", "MESS_TIP_OWN_LINKS"),
                      QStringLiteral(":/images/own-links.png"),
                      tr("Loading the links...", "MESS_LOADING_LINKS")};
     return kind;

@@ -36,7 +36,7 @@ vlt::tables::TablePageKind VltAddSitePage::siteKind()
         tr("Drag this icon into\nVeltaro Builder\nto add the site layer\n", "MESS_DRAG_ICON");
     kind.dragName = tr("Site layer to drag into the builder", "MESS_DRAG_NAME");
     kind.ownLayer = {QStringLiteral("m_pwPbOwnSites"), tr("Sites of the layer", "MESS_OWN_SITES"),
-                     tr("Look at the sites of the layer just written", "MESS_TIP_OWN_SITES"),
+                     tr("Show the sites of the layer just written", "MESS_TIP_OWN_SITES"),
                      QStringLiteral(":/images/own-sites.png"),
                      tr("Loading the sites...", "MESS_LOADING_SITES")};
     return kind;

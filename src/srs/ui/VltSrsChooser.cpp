@@ -251,8 +251,8 @@ void VltSrsChooser::enterUndefinedState(OnReturn onReturn)
         combo->setEditTip(chooseInListText());
         return;
     }
-    combo->setEditTip(tr("An EPSG code, a PROJ text or WKT, then Return; "
-                         "\"Other...\" in the list searches all systems",
+    combo->setEditTip(tr("An EPSG code, a PROJ text or WKT, then Return; \"Other...\" in the list "
+                         "opens the search of all systems",
                          "MESS_SRS_TYPE_TIP"));
     combo->lineEdit()->setPlaceholderText(tr("EPSG code, PROJ text or WKT", "MESS_SRS_TYPE_HERE"));
     // the line edit may already be connected
@@ -265,8 +265,8 @@ void VltSrsChooser::enterUndefinedState(OnReturn onReturn)
 /// The hint for a state in which typed texts have no effect.
 QString VltSrsChooser::chooseInListText()
 {
-    return tr("Choose a system in the list; \"Other...\", tab \"User-defined\", takes a definition "
-              "of your own",
+    return tr("Choose a system in the list; \"Other...\", tab \"User-defined\", accepts a "
+              "definition of your own",
               "MESS_SRS_CHOOSE_IN_LIST");
 }
 

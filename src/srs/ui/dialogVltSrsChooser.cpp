@@ -253,7 +253,7 @@ void dialogVltSrsChooser::showState()
         state = tr("No system matches; found for \"%1\": %2", "MESS_SRS_FOUND_NEAR")
                     .arg(m_found->nearText().toUpper(), QString::number(count));
     else if (m_preferences.area && !SrsSearch::hasWords(text))
-        state = tr("Systems: %1; those whose area of use holds your data come first",
+        state = tr("Systems: %1; systems whose area of use contains your data come first",
                    "MESS_SRS_FOUND_AREA")
                     .arg(count);
     m_ui->m_pwLblState->setText(state);

@@ -116,8 +116,8 @@
         <translation>Drawing of pixels at a short distance: as squares (default), or blended.</translation>
     </message>
     <message id="MESS_OPT_DISTANCE">
-        <source>Distance in metres up to which the buildings are shown</source>
-        <translation>Distance in metres up to which the buildings are shown</translation>
+        <source>Maximum distance in metres at which the buildings are shown</source>
+        <translation>Maximum distance in metres at which the buildings are shown</translation>
     </message>
     <message id="MESS_OPT_TILE_SIZE">
         <source>Side of the tiles of buildings in metres</source>
@@ -128,8 +128,8 @@
         <translation>Depth of the walls below the ground in metres</translation>
     </message>
     <message id="MESS_OPT_TEXTURED_DISTANCE">
-        <source>Distance in metres up to which the images are shown</source>
-        <translation>Distance in metres up to which the images are shown</translation>
+        <source>Maximum distance in metres at which the images are shown</source>
+        <translation>Maximum distance in metres at which the images are shown</translation>
     </message>
     <message id="MESS_OPT_CACHE_CAPACITY">
         <source>Number of elements that wait before they are written to the cache</source>

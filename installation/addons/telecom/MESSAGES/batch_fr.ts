@@ -116,8 +116,8 @@
         <translation>Affichage des pixels à courte distance : en carrés (par défaut), ou fondus.</translation>
     </message>
     <message id="MESS_OPT_DISTANCE">
-        <source>Distance in metres up to which the buildings are shown</source>
-        <translation>Distance en mètres jusqu'à laquelle les bâtiments sont affichés</translation>
+        <source>Maximum distance in metres at which the buildings are shown</source>
+        <translation>Distance maximale en mètres à laquelle les bâtiments sont affichés</translation>
     </message>
     <message id="MESS_OPT_TILE_SIZE">
         <source>Side of the tiles of buildings in metres</source>
@@ -128,8 +128,8 @@
         <translation>Profondeur des murs sous le sol en mètres</translation>
     </message>
     <message id="MESS_OPT_TEXTURED_DISTANCE">
-        <source>Distance in metres up to which the images are shown</source>
-        <translation>Distance en mètres jusqu'à laquelle les images sont affichées</translation>
+        <source>Maximum distance in metres at which the images are shown</source>
+        <translation>Distance maximale en mètres à laquelle les images sont affichées</translation>
     </message>
     <message id="MESS_OPT_CACHE_CAPACITY">
         <source>Number of elements that wait before they are written to the cache</source>

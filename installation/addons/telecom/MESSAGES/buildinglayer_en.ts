@@ -91,9 +91,9 @@
     </message>
     <message id="MESS_TIP_DRAG_TEXB">
         <source>Drag the layer file into the builder; Ctrl+C copies it to be pasted there.
-Its files are temporary: Ctrl+S saves it for good, with its document and legend beside it.</source>
+Its files are temporary: Ctrl+S saves the layer permanently, together with its document and legend.</source>
         <translation>Drag the layer file into the builder; Ctrl+C copies it to be pasted there.
-Its files are temporary: Ctrl+S saves it for good, with its document and legend beside it.</translation>
+Its files are temporary: Ctrl+S saves the layer permanently, together with its document and legend.</translation>
     </message>
 </context>
 </TS>

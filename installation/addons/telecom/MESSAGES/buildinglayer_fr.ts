@@ -91,9 +91,9 @@
     </message>
     <message id="MESS_TIP_DRAG_TEXB">
         <source>Drag the layer file into the builder; Ctrl+C copies it to be pasted there.
-Its files are temporary: Ctrl+S saves it for good, with its document and legend beside it.</source>
-        <translation>Faites glisser le fichier de couche dans Veltaro Builder&#xa0;; Ctrl+C le copie pour l'y coller.
-Ses fichiers sont temporaires&#xa0;: Ctrl+S l'enregistre durablement, avec son document et sa légende à côté.</translation>
+Its files are temporary: Ctrl+S saves the layer permanently, together with its document and legend.</source>
+        <translation>Faites glisser le fichier de couche dans Veltaro Builder ; Ctrl+C le copie pour l'y coller.
+Ses fichiers sont temporaires : Ctrl+S enregistre durablement la couche, avec son document et sa légende.</translation>
     </message>
 </context>
 </TS>

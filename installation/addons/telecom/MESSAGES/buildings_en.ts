@@ -99,32 +99,32 @@ raster images (ortho images, coverages plots, ...).</translation>
         <translation>Path of the vector file with the outlines of the buildings; press Enter after typing one, or drop a file on the page</translation>
     </message>
     <message id="MESS_TIP_BUILDINGS_LY">
-        <source>The layers of polygons of the file</source>
-        <translation>The layers of polygons of the file</translation>
+        <source>Layer of polygons with the outlines of the buildings</source>
+        <translation>Layer of polygons with the outlines of the buildings</translation>
     </message>
     <message id="MESS_TIP_HEIGHT_FIELD">
-        <source>The field that holds the height of each building above the ground</source>
-        <translation>The field that holds the height of each building above the ground</translation>
+        <source>Field with the height of each building above the ground</source>
+        <translation>Field with the height of each building above the ground</translation>
     </message>
     <message id="MESS_TIP_MNT_EXP">
         <source>Path of the raster with the heights of the ground; press Enter after typing one, or drop a file on the page</source>
         <translation>Path of the raster with the heights of the ground; press Enter after typing one, or drop a file on the page</translation>
     </message>
     <message id="MESS_TIP_NO_DATA">
-        <source>What stands in the raster where the height of the ground is not known; empty where it is known everywhere</source>
-        <translation>What stands in the raster where the height of the ground is not known; empty where it is known everywhere</translation>
+        <source>Value in the raster for an unknown height of the ground; empty if there is none</source>
+        <translation>Value in the raster for an unknown height of the ground; empty if there is none</translation>
     </message>
     <message id="MESS_TIP_GUESS_FROM_IMG">
-        <source>Take a value that is too low or too high for a height of the ground out of the raster</source>
-        <translation>Take a value that is too low or too high for a height of the ground out of the raster</translation>
+        <source>Search the raster for a value that is too low or too high for a height of the ground</source>
+        <translation>Search the raster for a value that is too low or too high for a height of the ground</translation>
     </message>
     <message id="MESS_READING_BUILDINGS">
         <source>Reading the buildings...</source>
         <translation>Reading the buildings...</translation>
     </message>
     <message id="MESS_READING_EXTENT">
-        <source>Looking where the buildings are...</source>
-        <translation>Looking where the buildings are...</translation>
+        <source>Computing the extent of the buildings...</source>
+        <translation>Computing the extent of the buildings...</translation>
     </message>
     <message id="MESS_READING_DTM">
         <source>Reading the terrain...</source>
@@ -142,8 +142,8 @@ raster images (ortho images, coverages plots, ...).</translation>
         <translation>no coordinate system</translation>
     </message>
     <message id="MESS_NO_BUILDING_PLACED">
-        <source>no building has a place</source>
-        <translation>no building has a place</translation>
+        <source>no building has a position</source>
+        <translation>no building has a position</translation>
     </message>
     <message id="MESS_PIXEL_COUNT">
         <source>%1 × %2 pixels</source>
@@ -185,12 +185,12 @@ raster images (ortho images, coverages plots, ...).</translation>
         <translation>Cannot open DTM</translation>
     </message>
     <message id="MESS_ERR_NO_EXTENT">
-        <source>No building of this layer has a place</source>
-        <translation>No building of this layer has a place</translation>
+        <source>No building of this layer has a position</source>
+        <translation>No building of this layer has a position</translation>
     </message>
     <message id="MESS_DTM_IS_PICTURE">
-        <source>This raster looks like a picture: its first band holds colors, which would be taken for heights</source>
-        <translation>This raster looks like a picture: its first band holds colors, which would be taken for heights</translation>
+        <source>This raster is probably a picture: its first band holds colors, which would be read as heights</source>
+        <translation>This raster is probably a picture: its first band holds colors, which would be read as heights</translation>
     </message>
 </context>
 </TS>

@@ -99,23 +99,23 @@ avec des images raster (orthophotos, cartes de couverture, ...).</translation>
         <translation>Chemin du fichier vectoriel des contours des bâtiments&#xa0;; appuyez sur Entrée après l'avoir saisi, ou déposez un fichier sur la page</translation>
     </message>
     <message id="MESS_TIP_BUILDINGS_LY">
-        <source>The layers of polygons of the file</source>
-        <translation>Les couches de polygones du fichier</translation>
+        <source>Layer of polygons with the outlines of the buildings</source>
+        <translation>Couche de polygones des contours des bâtiments</translation>
     </message>
     <message id="MESS_TIP_HEIGHT_FIELD">
-        <source>The field that holds the height of each building above the ground</source>
-        <translation>Le champ qui contient la hauteur de chaque bâtiment au-dessus du sol</translation>
+        <source>Field with the height of each building above the ground</source>
+        <translation>Champ de la hauteur de chaque bâtiment au-dessus du sol</translation>
     </message>
     <message id="MESS_TIP_MNT_EXP">
         <source>Path of the raster with the heights of the ground; press Enter after typing one, or drop a file on the page</source>
         <translation>Chemin du raster des altitudes du sol&#xa0;; appuyez sur Entrée après l'avoir saisi, ou déposez un fichier sur la page</translation>
     </message>
     <message id="MESS_TIP_NO_DATA">
-        <source>What stands in the raster where the height of the ground is not known; empty where it is known everywhere</source>
-        <translation>Ce que contient le raster là où l'altitude du sol est inconnue&#xa0;; vide si elle est connue partout</translation>
+        <source>Value in the raster for an unknown height of the ground; empty if there is none</source>
+        <translation>Valeur du raster pour une altitude du sol inconnue ; vide s'il n'y en a pas</translation>
     </message>
     <message id="MESS_TIP_GUESS_FROM_IMG">
-        <source>Take a value that is too low or too high for a height of the ground out of the raster</source>
+        <source>Search the raster for a value that is too low or too high for a height of the ground</source>
         <translation>Chercher dans le raster une valeur trop basse ou trop haute pour une altitude du sol</translation>
     </message>
     <message id="MESS_READING_BUILDINGS">
@@ -123,8 +123,8 @@ avec des images raster (orthophotos, cartes de couverture, ...).</translation>
         <translation>Lecture des bâtiments...</translation>
     </message>
     <message id="MESS_READING_EXTENT">
-        <source>Looking where the buildings are...</source>
-        <translation>Recherche de l'emplacement des bâtiments...</translation>
+        <source>Computing the extent of the buildings...</source>
+        <translation>Calcul de l'étendue des bâtiments...</translation>
     </message>
     <message id="MESS_READING_DTM">
         <source>Reading the terrain...</source>
@@ -142,8 +142,8 @@ avec des images raster (orthophotos, cartes de couverture, ...).</translation>
         <translation>sans système de coordonnées</translation>
     </message>
     <message id="MESS_NO_BUILDING_PLACED">
-        <source>no building has a place</source>
-        <translation>aucun bâtiment n'est localisé</translation>
+        <source>no building has a position</source>
+        <translation>aucun bâtiment n'a de position</translation>
     </message>
     <message id="MESS_PIXEL_COUNT">
         <source>%1 × %2 pixels</source>
@@ -185,12 +185,12 @@ avec des images raster (orthophotos, cartes de couverture, ...).</translation>
         <translation>Impossible d'ouvrir le MNT</translation>
     </message>
     <message id="MESS_ERR_NO_EXTENT">
-        <source>No building of this layer has a place</source>
-        <translation>Aucun bâtiment de cette couche n'est localisé</translation>
+        <source>No building of this layer has a position</source>
+        <translation>Aucun bâtiment de cette couche n'a de position</translation>
     </message>
     <message id="MESS_DTM_IS_PICTURE">
-        <source>This raster looks like a picture: its first band holds colors, which would be taken for heights</source>
-        <translation>Ce raster semble être une image&#xa0;: sa première bande contient des couleurs, qui seraient prises pour des altitudes</translation>
+        <source>This raster is probably a picture: its first band holds colors, which would be read as heights</source>
+        <translation>Ce raster est probablement une image : sa première bande contient des couleurs, qui seraient lues comme des altitudes</translation>
     </message>
 </context>
 </TS>

@@ -24,28 +24,28 @@
         <translation>Subdatasets</translation>
     </message>
     <message id="MESS_TIP_SUBDATASETS">
-        <source>The image of the file that is used</source>
-        <translation>The image of the file that is used</translation>
+        <source>Image of the file that is used</source>
+        <translation>Image of the file that is used</translation>
     </message>
     <message id="MESS_VLTR3D_NODATA">
         <source>No Data Value</source>
         <translation>No Data Value</translation>
     </message>
     <message id="MESS_TIP_COLOR_NODATA">
-        <source>Value of pixels that hold nothing, besides the one that the file states itself; may be empty</source>
-        <translation>Value of pixels that hold nothing, besides the one that the file states itself; may be empty</translation>
+        <source>Value of pixels without data, in addition to the value that the file declares; may be empty</source>
+        <translation>Value of pixels without data, in addition to the value that the file declares; may be empty</translation>
     </message>
     <message id="MESS_TIP_GUESS_COLOR_NODATA">
-        <source>Look in the image for a value that is far too low or too high</source>
-        <translation>Look in the image for a value that is far too low or too high</translation>
+        <source>Search the image for a value that is far too low or too high</source>
+        <translation>Search the image for a value that is far too low or too high</translation>
     </message>
     <message id="MESS_FICH_TC">
         <source>Colormap file</source>
         <translation>Colormap file</translation>
     </message>
     <message id="MESS_TIP_CMAP">
-        <source>The colors of the values: the colormaps of the installation, then your own</source>
-        <translation>The colors of the values: the colormaps of the installation, then your own</translation>
+        <source>Colors of the values: the colormaps of the installation, then your own</source>
+        <translation>Colors of the values: the colormaps of the installation, then your own</translation>
     </message>
     <message id="MESS_ADD_PPP">
         <source>Add...</source>
@@ -64,16 +64,16 @@
         <translation>Stretch on raster min/max</translation>
     </message>
     <message id="MESS_TIP_STRETCH_CMAP">
-        <source>Lay the colors over the least and the greatest value of the image; else they belong to the values that the colormap gives them</source>
-        <translation>Lay the colors over the least and the greatest value of the image; else they belong to the values that the colormap gives them</translation>
+        <source>Stretch the colors between the minimum and maximum value of the image; otherwise the values of the colormap apply</source>
+        <translation>Stretch the colors between the minimum and maximum value of the image; otherwise the values of the colormap apply</translation>
     </message>
     <message id="MESS_INTERP_COULEUR">
         <source>Color interpretation mode</source>
         <translation>Color interpretation mode</translation>
     </message>
     <message id="MESS_TIP_INTERP_COULEUR">
-        <source>Whether a value between two of the colormap has the color of the lower one or a mixture of both</source>
-        <translation>Whether a value between two of the colormap has the color of the lower one or a mixture of both</translation>
+        <source>Color of a value between two values of the colormap: the color of the lower one, or a mixture of both</source>
+        <translation>Color of a value between two values of the colormap: the color of the lower one, or a mixture of both</translation>
     </message>
     <message id="MESS_PLAGE_COULEURS">
         <source>Plage de couleurs</source>
@@ -88,8 +88,8 @@
         <translation>Compute mode</translation>
     </message>
     <message id="MESS_TIP_COMPUTE_MODE">
-        <source>How the values of all pixels that a building covers become one</source>
-        <translation>How the values of all pixels that a building covers become one</translation>
+        <source>How the values of all pixels under a building are combined into one</source>
+        <translation>How the values of all pixels under a building are combined into one</translation>
     </message>
     <message id="MESS_CM_MIN">
         <source>Minimum value</source>
@@ -116,8 +116,8 @@
         <translation>Reading the image...</translation>
     </message>
     <message id="MESS_READING_RANGE">
-        <source>Looking for the least and the greatest value...</source>
-        <translation>Looking for the least and the greatest value...</translation>
+        <source>Computing the minimum and maximum value...</source>
+        <translation>Computing the minimum and maximum value...</translation>
     </message>
     <message id="MESS_NEED_COLOR_IMAGE">
         <source>Choose the image that colors the buildings.</source>
@@ -132,12 +132,12 @@
         <translation>The no-data value is not a number.</translation>
     </message>
     <message id="MESS_IMAGE_NOT_OPENED">
-        <source>Press Enter to open the image that is typed.</source>
-        <translation>Press Enter to open the image that is typed.</translation>
+        <source>Press Enter to open the image of this path.</source>
+        <translation>Press Enter to open the image of this path.</translation>
     </message>
     <message id="MESS_CMAP_GONE">
-        <source>The file of the colormap is gone: choose another one.</source>
-        <translation>The file of the colormap is gone: choose another one.</translation>
+        <source>The file of the colormap no longer exists: choose another colormap.</source>
+        <translation>The file of the colormap no longer exists: choose another colormap.</translation>
     </message>
     <message id="MESS_NEED_CMAP">
         <source>Add a colormap.</source>
@@ -151,24 +151,24 @@
         <translation>Vector source</translation>
     </message>
     <message id="MESS_TIP_EXTRUDED_DISTANCE">
-        <source>Distance up to which the extruded buildings are drawn</source>
-        <translation>Distance up to which the extruded buildings are drawn</translation>
+        <source>Maximum distance at which the extruded buildings are drawn</source>
+        <translation>Maximum distance at which the extruded buildings are drawn</translation>
     </message>
     <message id="MESS_TILE_SIZE">
         <source>Tile size</source>
         <translation>Tile size</translation>
     </message>
     <message id="MESS_TIP_TILE_SIZE">
-        <source>Side of the squares in which the buildings are made and drawn</source>
-        <translation>Side of the squares in which the buildings are made and drawn</translation>
+        <source>Side of the square tiles of buildings</source>
+        <translation>Side of the square tiles of buildings</translation>
     </message>
     <message id="MESS_CHECK_GEOM_CW">
         <source>Check that geometries are clockwise</source>
         <translation>Check that geometries are clockwise</translation>
     </message>
     <message id="MESS_TIP_CHECK_GEOM_CW">
-        <source>For sources whose polygons run in either direction: some walls might else be lit from the wrong side. It is for the builder; the preview shows either direction alike.</source>
-        <translation>For sources whose polygons run in either direction: some walls might else be lit from the wrong side. It is for the builder; the preview shows either direction alike.</translation>
+        <source>For sources with polygons in both directions: without this check, some walls may be lit from the wrong side. The builder needs it; the preview shows both directions in the same manner.</source>
+        <translation>For sources with polygons in both directions: without this check, some walls may be lit from the wrong side. The builder needs it; the preview shows both directions in the same manner.</translation>
     </message>
     <message id="MESS_EXTRUSION">
         <source>Extrusion</source>
@@ -179,8 +179,8 @@
         <translation>Skirt size</translation>
     </message>
     <message id="MESS_TIP_SKIRT_SIZE">
-        <source>How far the walls go on below the ground, so that no gap is seen on slopes</source>
-        <translation>How far the walls go on below the ground, so that no gap is seen on slopes</translation>
+        <source>Depth of the walls below the ground, so that no gap is visible on slopes</source>
+        <translation>Depth of the walls below the ground, so that no gap is visible on slopes</translation>
     </message>
 </context>
 <context>
@@ -190,8 +190,8 @@
         <translation>Auto refresh</translation>
     </message>
     <message id="MESS_TIP_AUTO_REFRESH">
-        <source>Make and show the layer again after every change</source>
-        <translation>Make and show the layer again after every change</translation>
+        <source>Write and show the layer again after every change</source>
+        <translation>Write and show the layer again after every change</translation>
     </message>
     <message id="MESS_MAJ_VUE">
         <source>Refresh the view</source>
@@ -202,8 +202,8 @@
         <translation>Reset the view</translation>
     </message>
     <message id="MESS_TIP_RESET_VIEW">
-        <source>Look at all buildings, or at as many as can be seen at once</source>
-        <translation>Look at all buildings, or at as many as can be seen at once</translation>
+        <source>Show all buildings, or as many as the view can hold</source>
+        <translation>Show all buildings, or as many as the view can hold</translation>
     </message>
     <message id="MESS_LOADING_BUILDINGS">
         <source>Loading the buildings...</source>
@@ -230,8 +230,8 @@
         <translation>The settings have changed: refresh the view to see them.</translation>
     </message>
     <message id="MESS_LAYER_NOT_MADE">
-        <source>The layer has not been made.</source>
-        <translation>The layer has not been made.</translation>
+        <source>The layer was not made.</source>
+        <translation>The layer was not made.</translation>
     </message>
 </context>
 <context>

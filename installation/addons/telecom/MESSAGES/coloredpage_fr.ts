@@ -24,19 +24,19 @@
         <translation>Sous-jeux de données</translation>
     </message>
     <message id="MESS_TIP_SUBDATASETS">
-        <source>The image of the file that is used</source>
-        <translation>L'image du fichier qui est utilisée</translation>
+        <source>Image of the file that is used</source>
+        <translation>Image du fichier qui est utilisée</translation>
     </message>
     <message id="MESS_VLTR3D_NODATA">
         <source>No Data Value</source>
         <translation>Valeur d'absence de donnée</translation>
     </message>
     <message id="MESS_TIP_COLOR_NODATA">
-        <source>Value of pixels that hold nothing, besides the one that the file states itself; may be empty</source>
-        <translation>Valeur des pixels vides, en plus de celle que le fichier indique lui-même&#xa0;; facultative</translation>
+        <source>Value of pixels without data, in addition to the value that the file declares; may be empty</source>
+        <translation>Valeur des pixels sans donnée, en plus de celle que le fichier déclare ; facultative</translation>
     </message>
     <message id="MESS_TIP_GUESS_COLOR_NODATA">
-        <source>Look in the image for a value that is far too low or too high</source>
+        <source>Search the image for a value that is far too low or too high</source>
         <translation>Chercher dans l'image une valeur beaucoup trop basse ou trop haute</translation>
     </message>
     <message id="MESS_FICH_TC">
@@ -44,8 +44,8 @@
         <translation>Palette de couleurs</translation>
     </message>
     <message id="MESS_TIP_CMAP">
-        <source>The colors of the values: the colormaps of the installation, then your own</source>
-        <translation>Les couleurs des valeurs&#xa0;: les palettes de l'installation, puis les vôtres</translation>
+        <source>Colors of the values: the colormaps of the installation, then your own</source>
+        <translation>Couleurs des valeurs : les palettes de l'installation, puis les vôtres</translation>
     </message>
     <message id="MESS_ADD_PPP">
         <source>Add...</source>
@@ -64,16 +64,16 @@
         <translation>Étirer sur le min/max du raster</translation>
     </message>
     <message id="MESS_TIP_STRETCH_CMAP">
-        <source>Lay the colors over the least and the greatest value of the image; else they belong to the values that the colormap gives them</source>
-        <translation>Répartir les couleurs entre la plus petite et la plus grande valeur de l'image&#xa0;; sinon elles vont aux valeurs que la palette leur donne</translation>
+        <source>Stretch the colors between the minimum and maximum value of the image; otherwise the values of the colormap apply</source>
+        <translation>Répartir les couleurs entre les valeurs minimale et maximale de l'image ; sinon, les valeurs de la palette s'appliquent</translation>
     </message>
     <message id="MESS_INTERP_COULEUR">
         <source>Color interpretation mode</source>
         <translation>Interprétation des couleurs</translation>
     </message>
     <message id="MESS_TIP_INTERP_COULEUR">
-        <source>Whether a value between two of the colormap has the color of the lower one or a mixture of both</source>
-        <translation>Une valeur entre deux de la palette prend la couleur de la plus basse, ou un mélange des deux</translation>
+        <source>Color of a value between two values of the colormap: the color of the lower one, or a mixture of both</source>
+        <translation>Couleur d'une valeur située entre deux valeurs de la palette : celle de la plus basse, ou un mélange des deux</translation>
     </message>
     <message id="MESS_PLAGE_COULEURS">
         <source>Plage de couleurs</source>
@@ -88,8 +88,8 @@
         <translation>Mode de calcul</translation>
     </message>
     <message id="MESS_TIP_COMPUTE_MODE">
-        <source>How the values of all pixels that a building covers become one</source>
-        <translation>Comment les valeurs des pixels couverts par un bâtiment deviennent une seule</translation>
+        <source>How the values of all pixels under a building are combined into one</source>
+        <translation>Comment les valeurs de tous les pixels sous un bâtiment sont réduites à une seule</translation>
     </message>
     <message id="MESS_CM_MIN">
         <source>Minimum value</source>
@@ -116,8 +116,8 @@
         <translation>Lecture de l'image...</translation>
     </message>
     <message id="MESS_READING_RANGE">
-        <source>Looking for the least and the greatest value...</source>
-        <translation>Recherche de la plus petite et de la plus grande valeur...</translation>
+        <source>Computing the minimum and maximum value...</source>
+        <translation>Calcul des valeurs minimale et maximale...</translation>
     </message>
     <message id="MESS_NEED_COLOR_IMAGE">
         <source>Choose the image that colors the buildings.</source>
@@ -132,11 +132,11 @@
         <translation>La valeur d'absence de donnée n'est pas un nombre.</translation>
     </message>
     <message id="MESS_IMAGE_NOT_OPENED">
-        <source>Press Enter to open the image that is typed.</source>
-        <translation>Appuyez sur Entrée pour ouvrir l'image saisie.</translation>
+        <source>Press Enter to open the image of this path.</source>
+        <translation>Appuyez sur Entrée pour ouvrir l'image de ce chemin.</translation>
     </message>
     <message id="MESS_CMAP_GONE">
-        <source>The file of the colormap is gone: choose another one.</source>
+        <source>The file of the colormap no longer exists: choose another colormap.</source>
         <translation>Le fichier de la palette n'existe plus&#xa0;: choisissez-en une autre.</translation>
     </message>
     <message id="MESS_NEED_CMAP">
@@ -151,24 +151,24 @@
         <translation>Source vectorielle</translation>
     </message>
     <message id="MESS_TIP_EXTRUDED_DISTANCE">
-        <source>Distance up to which the extruded buildings are drawn</source>
-        <translation>Distance jusqu'à laquelle les bâtiments extrudés sont dessinés</translation>
+        <source>Maximum distance at which the extruded buildings are drawn</source>
+        <translation>Distance maximale à laquelle les bâtiments extrudés sont dessinés</translation>
     </message>
     <message id="MESS_TILE_SIZE">
         <source>Tile size</source>
         <translation>Taille des tuiles</translation>
     </message>
     <message id="MESS_TIP_TILE_SIZE">
-        <source>Side of the squares in which the buildings are made and drawn</source>
-        <translation>Côté des carrés par lesquels les bâtiments sont construits et dessinés</translation>
+        <source>Side of the square tiles of buildings</source>
+        <translation>Côté des tuiles carrées de bâtiments</translation>
     </message>
     <message id="MESS_CHECK_GEOM_CW">
         <source>Check that geometries are clockwise</source>
         <translation>Vérifier que les géométries tournent dans le sens horaire</translation>
     </message>
     <message id="MESS_TIP_CHECK_GEOM_CW">
-        <source>For sources whose polygons run in either direction: some walls might else be lit from the wrong side. It is for the builder; the preview shows either direction alike.</source>
-        <translation>Pour les sources dont les polygones tournent dans les deux sens&#xa0;: certains murs pourraient sinon être éclairés du mauvais côté. Cela sert à Veltaro Builder&#xa0;; l'aperçu montre les deux sens de la même façon.</translation>
+        <source>For sources with polygons in both directions: without this check, some walls may be lit from the wrong side. The builder needs it; the preview shows both directions in the same manner.</source>
+        <translation>Pour les sources dont les polygones tournent dans les deux sens : sans cette vérification, certains murs peuvent être éclairés du mauvais côté. Elle sert à Veltaro Builder ; l'aperçu montre les deux sens de la même façon.</translation>
     </message>
     <message id="MESS_EXTRUSION">
         <source>Extrusion</source>
@@ -179,8 +179,8 @@
         <translation>Taille de la jupe</translation>
     </message>
     <message id="MESS_TIP_SKIRT_SIZE">
-        <source>How far the walls go on below the ground, so that no gap is seen on slopes</source>
-        <translation>Prolongement des murs sous le sol, pour qu'aucun vide n'apparaisse dans les pentes</translation>
+        <source>Depth of the walls below the ground, so that no gap is visible on slopes</source>
+        <translation>Profondeur des murs sous le sol, pour qu'aucun vide n'apparaisse dans les pentes</translation>
     </message>
 </context>
 <context>
@@ -190,8 +190,8 @@
         <translation>Actualisation automatique</translation>
     </message>
     <message id="MESS_TIP_AUTO_REFRESH">
-        <source>Make and show the layer again after every change</source>
-        <translation>Refaire et afficher la couche après chaque changement</translation>
+        <source>Write and show the layer again after every change</source>
+        <translation>Récrire et afficher la couche après chaque changement</translation>
     </message>
     <message id="MESS_MAJ_VUE">
         <source>Refresh the view</source>
@@ -202,8 +202,8 @@
         <translation>Réinitialiser la vue</translation>
     </message>
     <message id="MESS_TIP_RESET_VIEW">
-        <source>Look at all buildings, or at as many as can be seen at once</source>
-        <translation>Regarder tous les bâtiments, ou autant qu'on peut en voir à la fois</translation>
+        <source>Show all buildings, or as many as the view can hold</source>
+        <translation>Afficher tous les bâtiments, ou autant que la vue peut en contenir</translation>
     </message>
     <message id="MESS_LOADING_BUILDINGS">
         <source>Loading the buildings...</source>
@@ -230,7 +230,7 @@
         <translation>Les réglages ont changé&#xa0;: actualisez la vue pour les voir.</translation>
     </message>
     <message id="MESS_LAYER_NOT_MADE">
-        <source>The layer has not been made.</source>
+        <source>The layer was not made.</source>
         <translation>La couche n'a pas été créée.</translation>
     </message>
 </context>

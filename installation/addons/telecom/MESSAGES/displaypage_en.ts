@@ -46,8 +46,8 @@ to add the building layer
         <translation>Shown up to</translation>
     </message>
     <message id="MESS_TIP_TEXTURED_DISTANCE">
-        <source>Distance up to which the images are shown; beyond it the buildings have their plain colors</source>
-        <translation>Distance up to which the images are shown; beyond it the buildings have their plain colors</translation>
+        <source>Maximum distance at which the images are shown; beyond it the buildings are plain</source>
+        <translation>Maximum distance at which the images are shown; beyond it the buildings are plain</translation>
     </message>
     <message id="MESS_EDGES">
         <source>Edges</source>
@@ -58,16 +58,16 @@ to add the building layer
         <translation>Color of the lines along the edges of the buildings and the storeys</translation>
     </message>
     <message id="MESS_TIP_FORCE_EDGES">
-        <source>Draws the edges also where the images would do without them</source>
-        <translation>Draws the edges also where the images would do without them</translation>
+        <source>Draw the edges also with images on roofs or walls</source>
+        <translation>Draw the edges also with images on roofs or walls</translation>
     </message>
     <message id="MESS_FORCE_EDGES">
         <source>Always draw edges</source>
         <translation>Always draw edges</translation>
     </message>
     <message id="MESS_TIP_COMPLEX_BUILDINGS">
-        <source>Buildings with courtyards or of many corners have images too, which takes longer</source>
-        <translation>Buildings with courtyards or of many corners have images too, which takes longer</translation>
+        <source>Put images also on buildings with courtyards or many corners, which takes longer</source>
+        <translation>Put images also on buildings with courtyards or many corners, which takes longer</translation>
     </message>
     <message id="MESS_COMPLEX_BUILDINGS">
         <source>Images on complex buildings too</source>
@@ -82,8 +82,8 @@ to add the building layer
         <translation>Compression</translation>
     </message>
     <message id="MESS_TIP_TEX_COMPRESSION">
-        <source>How the images are kept in the memory of the graphics card</source>
-        <translation>How the images are kept in the memory of the graphics card</translation>
+        <source>Format of the images in the memory of the graphics card</source>
+        <translation>Format of the images in the memory of the graphics card</translation>
     </message>
     <message id="MESS_TEX_UNCOMPRESSED">
         <source>Uncompressed</source>
@@ -94,8 +94,8 @@ to add the building layer
         <translation>Resampling</translation>
     </message>
     <message id="MESS_TIP_TEX_RESAMPLING">
-        <source>How an image looks from near: each pixel as it is, or blended with those beside it</source>
-        <translation>How an image looks from near: each pixel as it is, or blended with those beside it</translation>
+        <source>Drawing of an image at a short distance: each pixel as it is, or blended with its neighbours</source>
+        <translation>Drawing of an image at a short distance: each pixel as it is, or blended with its neighbours</translation>
     </message>
     <message id="MESS_RESAMPLING_NONE">
         <source>None</source>
@@ -106,16 +106,16 @@ to add the building layer
         <translation>Linear</translation>
     </message>
     <message id="MESS_TIP_TEX_BUFFER">
-        <source>Walls take the colors this far outside the building</source>
-        <translation>Walls take the colors this far outside the building</translation>
+        <source>Distance from a wall to the positions of its colors, outside the building</source>
+        <translation>Distance from a wall to the positions of its colors, outside the building</translation>
     </message>
     <message id="MESS_TEX_BUFFER">
         <source>Buffer</source>
         <translation>Buffer</translation>
     </message>
     <message id="MESS_TIP_TEX_DILATATION">
-        <source>The colors of an image grow by so many pixels into its empty ones</source>
-        <translation>The colors of an image grow by so many pixels into its empty ones</translation>
+        <source>Number of pixels by which the colors of an image grow into empty pixels</source>
+        <translation>Number of pixels by which the colors of an image grow into empty pixels</translation>
     </message>
     <message id="MESS_TEX_DILATATION">
         <source>Dilatation</source>
@@ -134,8 +134,8 @@ to add the building layer
         <translation>Keep</translation>
     </message>
     <message id="MESS_TIP_CACHE">
-        <source>What the builder keeps on the disk of the buildings once they are made</source>
-        <translation>What the builder keeps on the disk of the buildings once they are made</translation>
+        <source>Finished buildings that the builder stores on the disk</source>
+        <translation>Finished buildings that the builder stores on the disk</translation>
     </message>
     <message id="MESS_CACHE_NOTHING">
         <source>Nothing</source>
@@ -154,8 +154,8 @@ to add the building layer
         <translation>Extruded only</translation>
     </message>
     <message id="MESS_TIP_CACHE_DELAYED">
-        <source>Writes several elements together instead of each at once</source>
-        <translation>Writes several elements together instead of each at once</translation>
+        <source>Write several elements together instead of each one at once</source>
+        <translation>Write several elements together instead of each one at once</translation>
     </message>
     <message id="MESS_CACHE_DELAYED">
         <source>Write later</source>
@@ -166,8 +166,8 @@ to add the building layer
         <translation>Waiting elements</translation>
     </message>
     <message id="MESS_TIP_CACHE_CAPACITY">
-        <source>So many elements wait at most before they are written</source>
-        <translation>So many elements wait at most before they are written</translation>
+        <source>Number of elements that wait before they are written</source>
+        <translation>Number of elements that wait before they are written</translation>
     </message>
     <message id="MESS_EXTRUDED_REPR">
         <source>Colors of the extruded representation</source>
@@ -178,8 +178,8 @@ to add the building layer
         <translation>Walls</translation>
     </message>
     <message id="MESS_TIP_WALL_KIND">
-        <source>What colors the walls where they have no image</source>
-        <translation>What colors the walls where they have no image</translation>
+        <source>Source of the color of walls without an image</source>
+        <translation>Source of the color of walls without an image</translation>
     </message>
     <message id="MESS_COLOR_ONE">
         <source>One color</source>
@@ -198,12 +198,12 @@ to add the building layer
         <translation>Roofs</translation>
     </message>
     <message id="MESS_TIP_ROOF_KIND">
-        <source>What colors the roofs where they have no image</source>
-        <translation>What colors the roofs where they have no image</translation>
+        <source>Source of the color of roofs without an image</source>
+        <translation>Source of the color of roofs without an image</translation>
     </message>
     <message id="MESS_TIP_COLORING">
-        <source>Choose the image and the color map, for walls and roofs alike</source>
-        <translation>Choose the image and the color map, for walls and roofs alike</translation>
+        <source>Choose the image and the color map for both walls and roofs</source>
+        <translation>Choose the image and the color map for both walls and roofs</translation>
     </message>
     <message id="MESS_COLORING_ADD">
         <source>Image and color map...</source>

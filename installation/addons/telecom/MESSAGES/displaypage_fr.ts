@@ -46,8 +46,8 @@ ajouter la couche de bâtiments
         <translation>Visibles jusqu'à</translation>
     </message>
     <message id="MESS_TIP_TEXTURED_DISTANCE">
-        <source>Distance up to which the images are shown; beyond it the buildings have their plain colors</source>
-        <translation>Distance jusqu'à laquelle les images sont affichées&#xa0;; au-delà, les bâtiments ont leurs couleurs unies</translation>
+        <source>Maximum distance at which the images are shown; beyond it the buildings are plain</source>
+        <translation>Distance maximale à laquelle les images sont affichées ; au-delà, les bâtiments sont unis</translation>
     </message>
     <message id="MESS_EDGES">
         <source>Edges</source>
@@ -58,16 +58,16 @@ ajouter la couche de bâtiments
         <translation>Couleur des traits le long des arêtes des bâtiments et des étages</translation>
     </message>
     <message id="MESS_TIP_FORCE_EDGES">
-        <source>Draws the edges also where the images would do without them</source>
-        <translation>Trace les arêtes même là où les images s'en passent</translation>
+        <source>Draw the edges also with images on roofs or walls</source>
+        <translation>Tracer les arêtes même avec des images sur les toits ou les murs</translation>
     </message>
     <message id="MESS_FORCE_EDGES">
         <source>Always draw edges</source>
         <translation>Toujours tracées</translation>
     </message>
     <message id="MESS_TIP_COMPLEX_BUILDINGS">
-        <source>Buildings with courtyards or of many corners have images too, which takes longer</source>
-        <translation>Les bâtiments à cour ou à nombreux angles ont aussi des images, ce qui prend plus de temps</translation>
+        <source>Put images also on buildings with courtyards or many corners, which takes longer</source>
+        <translation>Poser aussi des images sur les bâtiments à cour ou à nombreux angles, ce qui prend plus de temps</translation>
     </message>
     <message id="MESS_COMPLEX_BUILDINGS">
         <source>Images on complex buildings too</source>
@@ -82,7 +82,7 @@ ajouter la couche de bâtiments
         <translation>Compression</translation>
     </message>
     <message id="MESS_TIP_TEX_COMPRESSION">
-        <source>How the images are kept in the memory of the graphics card</source>
+        <source>Format of the images in the memory of the graphics card</source>
         <translation>Format des images dans la mémoire de la carte graphique</translation>
     </message>
     <message id="MESS_TEX_UNCOMPRESSED">
@@ -94,8 +94,8 @@ ajouter la couche de bâtiments
         <translation>Rééchantillonnage</translation>
     </message>
     <message id="MESS_TIP_TEX_RESAMPLING">
-        <source>How an image looks from near: each pixel as it is, or blended with those beside it</source>
-        <translation>Aspect d'une image vue de près&#xa0;: chaque pixel tel quel, ou fondu avec ses voisins</translation>
+        <source>Drawing of an image at a short distance: each pixel as it is, or blended with its neighbours</source>
+        <translation>Aspect d'une image à courte distance : chaque pixel tel quel, ou fondu avec ses voisins</translation>
     </message>
     <message id="MESS_RESAMPLING_NONE">
         <source>None</source>
@@ -106,16 +106,16 @@ ajouter la couche de bâtiments
         <translation>Linéaire</translation>
     </message>
     <message id="MESS_TIP_TEX_BUFFER">
-        <source>Walls take the colors this far outside the building</source>
-        <translation>Les murs prennent les couleurs situées à cette distance hors du bâtiment</translation>
+        <source>Distance from a wall to the positions of its colors, outside the building</source>
+        <translation>Distance d'un mur aux positions de ses couleurs, à l'extérieur du bâtiment</translation>
     </message>
     <message id="MESS_TEX_BUFFER">
         <source>Buffer</source>
         <translation>Tampon</translation>
     </message>
     <message id="MESS_TIP_TEX_DILATATION">
-        <source>The colors of an image grow by so many pixels into its empty ones</source>
-        <translation>Les couleurs d'une image gagnent ce nombre de pixels sur les pixels vides</translation>
+        <source>Number of pixels by which the colors of an image grow into empty pixels</source>
+        <translation>Nombre de pixels dont les couleurs d'une image débordent sur les pixels vides</translation>
     </message>
     <message id="MESS_TEX_DILATATION">
         <source>Dilatation</source>
@@ -134,8 +134,8 @@ ajouter la couche de bâtiments
         <translation>Conserver</translation>
     </message>
     <message id="MESS_TIP_CACHE">
-        <source>What the builder keeps on the disk of the buildings once they are made</source>
-        <translation>Ce que Veltaro Builder garde sur le disque des bâtiments une fois créés</translation>
+        <source>Finished buildings that the builder stores on the disk</source>
+        <translation>Bâtiments terminés que Veltaro Builder conserve sur le disque</translation>
     </message>
     <message id="MESS_CACHE_NOTHING">
         <source>Nothing</source>
@@ -154,8 +154,8 @@ ajouter la couche de bâtiments
         <translation>Extrudés seulement</translation>
     </message>
     <message id="MESS_TIP_CACHE_DELAYED">
-        <source>Writes several elements together instead of each at once</source>
-        <translation>Écrit plusieurs éléments ensemble au lieu de chacun aussitôt</translation>
+        <source>Write several elements together instead of each one at once</source>
+        <translation>Écrire plusieurs éléments ensemble au lieu de chacun aussitôt</translation>
     </message>
     <message id="MESS_CACHE_DELAYED">
         <source>Write later</source>
@@ -166,8 +166,8 @@ ajouter la couche de bâtiments
         <translation>Éléments en attente</translation>
     </message>
     <message id="MESS_TIP_CACHE_CAPACITY">
-        <source>So many elements wait at most before they are written</source>
-        <translation>Nombre d'éléments qui attendent au plus avant d'être écrits</translation>
+        <source>Number of elements that wait before they are written</source>
+        <translation>Nombre d'éléments qui attendent avant d'être écrits</translation>
     </message>
     <message id="MESS_EXTRUDED_REPR">
         <source>Colors of the extruded representation</source>
@@ -178,8 +178,8 @@ ajouter la couche de bâtiments
         <translation>Murs</translation>
     </message>
     <message id="MESS_TIP_WALL_KIND">
-        <source>What colors the walls where they have no image</source>
-        <translation>D'où vient la couleur des murs sans image</translation>
+        <source>Source of the color of walls without an image</source>
+        <translation>Source de la couleur des murs sans image</translation>
     </message>
     <message id="MESS_COLOR_ONE">
         <source>One color</source>
@@ -198,11 +198,11 @@ ajouter la couche de bâtiments
         <translation>Toits</translation>
     </message>
     <message id="MESS_TIP_ROOF_KIND">
-        <source>What colors the roofs where they have no image</source>
-        <translation>D'où vient la couleur des toits sans image</translation>
+        <source>Source of the color of roofs without an image</source>
+        <translation>Source de la couleur des toits sans image</translation>
     </message>
     <message id="MESS_TIP_COLORING">
-        <source>Choose the image and the color map, for walls and roofs alike</source>
+        <source>Choose the image and the color map for both walls and roofs</source>
         <translation>Choisir l'image et la palette, communes aux murs et aux toits</translation>
     </message>
     <message id="MESS_COLORING_ADD">

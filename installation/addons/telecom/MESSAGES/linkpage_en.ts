@@ -69,8 +69,8 @@ to add the link layer
         <translation>Links of the layer</translation>
     </message>
     <message id="MESS_TIP_OWN_LINKS">
-        <source>Look at the links of the layer just written</source>
-        <translation>Look at the links of the layer just written</translation>
+        <source>Show the links of the layer just written</source>
+        <translation>Show the links of the layer just written</translation>
     </message>
     <message id="MESS_LOADING_LINKS">
         <source>Loading the links...</source>
@@ -88,8 +88,8 @@ to add the link layer
         <translation>Line &amp;style</translation>
     </message>
     <message id="MESS_TIP_LINK_STYLE">
-        <source>How the line between the two antennas is drawn</source>
-        <translation>How the line between the two antennas is drawn</translation>
+        <source>Representation of the line between the two antennas</source>
+        <translation>Representation of the line between the two antennas</translation>
     </message>
     <message id="MESS_STYLE_LINE">
         <source>Line</source>

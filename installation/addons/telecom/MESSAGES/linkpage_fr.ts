@@ -69,7 +69,7 @@ pour ajouter la couche de liaisons
         <translation>Liaisons de la couche</translation>
     </message>
     <message id="MESS_TIP_OWN_LINKS">
-        <source>Look at the links of the layer just written</source>
+        <source>Show the links of the layer just written</source>
         <translation>Voir les liaisons de la couche qui vient d'être écrite</translation>
     </message>
     <message id="MESS_LOADING_LINKS">
@@ -88,7 +88,7 @@ pour ajouter la couche de liaisons
         <translation>&amp;Style du trait</translation>
     </message>
     <message id="MESS_TIP_LINK_STYLE">
-        <source>How the line between the two antennas is drawn</source>
+        <source>Representation of the line between the two antennas</source>
         <translation>Dessin de la ligne entre les deux antennes</translation>
     </message>
     <message id="MESS_STYLE_LINE">

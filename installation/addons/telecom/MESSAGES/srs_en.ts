@@ -16,16 +16,16 @@
         <translation>Back to the initial coordinate system</translation>
     </message>
     <message id="MESS_SRS_TYPE_TIP">
-        <source>An EPSG code, a PROJ text or WKT, then Return; "Other..." in the list searches all systems</source>
-        <translation>An EPSG code, a PROJ text or WKT, then Return; "Other..." in the list searches all systems</translation>
+        <source>An EPSG code, a PROJ text or WKT, then Return; "Other..." in the list opens the search of all systems</source>
+        <translation>An EPSG code, a PROJ text or WKT, then Return; "Other..." in the list opens the search of all systems</translation>
     </message>
     <message id="MESS_SRS_TYPE_HERE">
         <source>EPSG code, PROJ text or WKT</source>
         <translation>EPSG code, PROJ text or WKT</translation>
     </message>
     <message id="MESS_SRS_CHOOSE_IN_LIST">
-        <source>Choose a system in the list; "Other...", tab "User-defined", takes a definition of your own</source>
-        <translation>Choose a system in the list; "Other...", tab "User-defined", takes a definition of your own</translation>
+        <source>Choose a system in the list; "Other...", tab "User-defined", accepts a definition of your own</source>
+        <translation>Choose a system in the list; "Other...", tab "User-defined", accepts a definition of your own</translation>
     </message>
 </context>
 <context>
@@ -79,8 +79,8 @@
         <translation>Deprecated &amp;too</translation>
     </message>
     <message id="MESS_SRS_DEPRECATED_TIP">
-        <source>Also list the systems that have been withdrawn; a code typed in full finds them always</source>
-        <translation>Also list the systems that have been withdrawn; a code typed in full finds them always</translation>
+        <source>Also list the systems that have been withdrawn; a complete code always finds them</source>
+        <translation>Also list the systems that have been withdrawn; a complete code always finds them</translation>
     </message>
     <message id="MESS_SRS_RESULTS">
         <source>Systems found</source>
@@ -217,8 +217,8 @@
         <translation>&amp;Alias:</translation>
     </message>
     <message id="MESS_SRS_ALIAS_TIP">
-        <source>The name under which the system is listed from now on</source>
-        <translation>The name under which the system is listed from now on</translation>
+        <source>Name of the system in the lists</source>
+        <translation>Name of the system in the lists</translation>
     </message>
     <message id="MESS_SRS_DEFINITION">
         <source>&amp;Definition:</source>
@@ -233,16 +233,16 @@
         <translation>This is not yet a definition of a coordinate system</translation>
     </message>
     <message id="MESS_SRS_NOT_LATIN1">
-        <source>A definition may have the characters of western Europe only</source>
-        <translation>A definition may have the characters of western Europe only</translation>
+        <source>A definition may contain only the characters of Western European languages</source>
+        <translation>A definition may contain only the characters of Western European languages</translation>
     </message>
     <message id="MESS_SRS_HEIGHTS_ONLY">
-        <source>This system gives heights only: it cannot place points on a map</source>
-        <translation>This system gives heights only: it cannot place points on a map</translation>
+        <source>This system has heights only: it cannot define a position on a map</source>
+        <translation>This system has heights only: it cannot define a position on a map</translation>
     </message>
     <message id="MESS_SRS_GEOCENTRIC">
-        <source>This system counts from the centre of the earth: it cannot place points on a map</source>
-        <translation>This system counts from the centre of the earth: it cannot place points on a map</translation>
+        <source>This system is geocentric: it cannot define a position on a map</source>
+        <translation>This system is geocentric: it cannot define a position on a map</translation>
     </message>
     <message id="MESS_SRS_NO_DEFAULT">
         <source>There are no default systems: the file %1 is missing, cannot be read or lists none</source>
@@ -265,27 +265,27 @@
         <translation>No system matches; found for "%1": %2</translation>
     </message>
     <message id="MESS_SRS_FOUND_AREA">
-        <source>Systems: %1; those whose area of use holds your data come first</source>
-        <translation>Systems: %1; those whose area of use holds your data come first</translation>
+        <source>Systems: %1; systems whose area of use contains your data come first</source>
+        <translation>Systems: %1; systems whose area of use contains your data come first</translation>
     </message>
     <message id="MESS_SRS_ADD_TYPED">
-        <source>Add it as a system of your o&amp;wn...</source>
-        <translation>Add it as a system of your o&amp;wn...</translation>
+        <source>Add it to your o&amp;wn systems...</source>
+        <translation>Add it to your o&amp;wn systems...</translation>
     </message>
     <message id="MESS_SRS_ADD_TYPED_TIP">
-        <source>Keep the definition under an alias, among the user-defined systems</source>
-        <translation>Keep the definition under an alias, among the user-defined systems</translation>
+        <source>Add the definition under an alias to the user-defined systems</source>
+        <translation>Add the definition under an alias to the user-defined systems</translation>
     </message>
 </context>
 <context>
     <name>Check of coordinate systems</name>
     <message id="MESS_SRS_UNIT_METERS">
-        <source>the coordinates of the table are in meters, but its system %1 counts in degrees</source>
-        <translation>the coordinates of the table are in meters, but its system %1 counts in degrees</translation>
+        <source>the coordinates of the table are in meters, but its system %1 uses degrees</source>
+        <translation>the coordinates of the table are in meters, but its system %1 uses degrees</translation>
     </message>
     <message id="MESS_SRS_UNIT_DEGREES">
-        <source>the coordinates of the table are in degrees, but its system %1 counts in meters or feet</source>
-        <translation>the coordinates of the table are in degrees, but its system %1 counts in meters or feet</translation>
+        <source>the coordinates of the table are in degrees, but its system %1 uses meters or feet</source>
+        <translation>the coordinates of the table are in degrees, but its system %1 uses meters or feet</translation>
     </message>
     <message id="MESS_SRS_OUTSIDE_AREA">
         <source>%1 of %2 positions lie outside the area of use of %3</source>

@@ -16,15 +16,15 @@
         <translation>Revenir au système de coordonnées initial</translation>
     </message>
     <message id="MESS_SRS_TYPE_TIP">
-        <source>An EPSG code, a PROJ text or WKT, then Return; "Other..." in the list searches all systems</source>
-        <translation>Un code EPSG, un texte PROJ ou WKT, puis Entrée&#xa0;; «&#xa0;Autre...&#xa0;» dans la liste cherche parmi tous les systèmes</translation>
+        <source>An EPSG code, a PROJ text or WKT, then Return; "Other..." in the list opens the search of all systems</source>
+        <translation>Un code EPSG, un texte PROJ ou WKT, puis Entrée ; « Autre... » dans la liste ouvre la recherche parmi tous les systèmes</translation>
     </message>
     <message id="MESS_SRS_TYPE_HERE">
         <source>EPSG code, PROJ text or WKT</source>
         <translation>Code EPSG, texte PROJ ou WKT</translation>
     </message>
     <message id="MESS_SRS_CHOOSE_IN_LIST">
-        <source>Choose a system in the list; "Other...", tab "User-defined", takes a definition of your own</source>
+        <source>Choose a system in the list; "Other...", tab "User-defined", accepts a definition of your own</source>
         <translation>Choisissez un système dans la liste&#xa0;; «&#xa0;Autre...&#xa0;», onglet «&#xa0;Définis par l'utilisateur&#xa0;», accepte votre propre définition</translation>
     </message>
 </context>
@@ -79,8 +79,8 @@
         <translation>&amp;Obsolètes aussi</translation>
     </message>
     <message id="MESS_SRS_DEPRECATED_TIP">
-        <source>Also list the systems that have been withdrawn; a code typed in full finds them always</source>
-        <translation>Lister aussi les systèmes retirés&#xa0;; un code saisi en entier les trouve toujours</translation>
+        <source>Also list the systems that have been withdrawn; a complete code always finds them</source>
+        <translation>Lister aussi les systèmes retirés ; un code complet les trouve toujours</translation>
     </message>
     <message id="MESS_SRS_RESULTS">
         <source>Systems found</source>
@@ -217,8 +217,8 @@
         <translation>&amp;Alias&#xa0;:</translation>
     </message>
     <message id="MESS_SRS_ALIAS_TIP">
-        <source>The name under which the system is listed from now on</source>
-        <translation>Le nom sous lequel le système figurera désormais dans les listes</translation>
+        <source>Name of the system in the lists</source>
+        <translation>Nom du système dans les listes</translation>
     </message>
     <message id="MESS_SRS_DEFINITION">
         <source>&amp;Definition:</source>
@@ -233,16 +233,16 @@
         <translation>Ceci n'est pas encore une définition de système de coordonnées</translation>
     </message>
     <message id="MESS_SRS_NOT_LATIN1">
-        <source>A definition may have the characters of western Europe only</source>
-        <translation>Une définition ne peut contenir que les caractères d'Europe de l'Ouest</translation>
+        <source>A definition may contain only the characters of Western European languages</source>
+        <translation>Une définition ne peut contenir que les caractères des langues d'Europe de l'Ouest</translation>
     </message>
     <message id="MESS_SRS_HEIGHTS_ONLY">
-        <source>This system gives heights only: it cannot place points on a map</source>
-        <translation>Ce système ne donne que des altitudes&#xa0;: il ne peut pas placer de points sur une carte</translation>
+        <source>This system has heights only: it cannot define a position on a map</source>
+        <translation>Ce système n'a que des altitudes : il ne peut pas définir une position sur une carte</translation>
     </message>
     <message id="MESS_SRS_GEOCENTRIC">
-        <source>This system counts from the centre of the earth: it cannot place points on a map</source>
-        <translation>Ce système compte depuis le centre de la Terre&#xa0;: il ne peut pas placer de points sur une carte</translation>
+        <source>This system is geocentric: it cannot define a position on a map</source>
+        <translation>Ce système est géocentrique : il ne peut pas définir une position sur une carte</translation>
     </message>
     <message id="MESS_SRS_NO_DEFAULT">
         <source>There are no default systems: the file %1 is missing, cannot be read or lists none</source>
@@ -265,27 +265,27 @@
         <translation>Aucun système ne correspond&#xa0;; trouvés pour «&#xa0;%1&#xa0;»&#xa0;: %2</translation>
     </message>
     <message id="MESS_SRS_FOUND_AREA">
-        <source>Systems: %1; those whose area of use holds your data come first</source>
+        <source>Systems: %1; systems whose area of use contains your data come first</source>
         <translation>Systèmes&#xa0;: %1&#xa0;; ceux dont la zone d'emploi contient vos données viennent en premier</translation>
     </message>
     <message id="MESS_SRS_ADD_TYPED">
-        <source>Add it as a system of your o&amp;wn...</source>
+        <source>Add it to your o&amp;wn systems...</source>
         <translation>Ajouter à &amp;vos systèmes...</translation>
     </message>
     <message id="MESS_SRS_ADD_TYPED_TIP">
-        <source>Keep the definition under an alias, among the user-defined systems</source>
-        <translation>Conserver la définition sous un alias, parmi les systèmes définis par l'utilisateur</translation>
+        <source>Add the definition under an alias to the user-defined systems</source>
+        <translation>Ajouter la définition, sous un alias, aux systèmes définis par l'utilisateur</translation>
     </message>
 </context>
 <context>
     <name>Check of coordinate systems</name>
     <message id="MESS_SRS_UNIT_METERS">
-        <source>the coordinates of the table are in meters, but its system %1 counts in degrees</source>
-        <translation>les coordonnées du tableau sont en mètres, mais son système %1 compte en degrés</translation>
+        <source>the coordinates of the table are in meters, but its system %1 uses degrees</source>
+        <translation>les coordonnées du tableau sont en mètres, mais son système %1 utilise des degrés</translation>
     </message>
     <message id="MESS_SRS_UNIT_DEGREES">
-        <source>the coordinates of the table are in degrees, but its system %1 counts in meters or feet</source>
-        <translation>les coordonnées du tableau sont en degrés, mais son système %1 compte en mètres ou en pieds</translation>
+        <source>the coordinates of the table are in degrees, but its system %1 uses meters or feet</source>
+        <translation>les coordonnées du tableau sont en degrés, mais son système %1 utilise des mètres ou des pieds</translation>
     </message>
     <message id="MESS_SRS_OUTSIDE_AREA">
         <source>%1 of %2 positions lie outside the area of use of %3</source>

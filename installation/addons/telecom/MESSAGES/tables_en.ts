@@ -4,8 +4,8 @@
 <context>
     <name>Site tables</name>
     <message id="MESS_TAB_NO_FILE_NAME">
-        <source>no file is named</source>
-        <translation>no file is named</translation>
+        <source>no file name is given</source>
+        <translation>no file name is given</translation>
     </message>
     <message id="MESS_TAB_NOT_LOCAL">
         <source>tables are read from local files only</source>
@@ -100,8 +100,8 @@
         <translation>this XML file is not a SpreadsheetML 2003 workbook: its root element is &lt;%1&gt;</translation>
     </message>
     <message id="MESS_TAB_DOCUMENT_TYPE">
-        <source>the XML file declares a document type, which tables do not need and attacks use</source>
-        <translation>the XML file declares a document type, which tables do not need and attacks use</translation>
+        <source>the XML file declares a document type: tables do not need it, and attacks use it</source>
+        <translation>the XML file declares a document type: tables do not need it, and attacks use it</translation>
     </message>
     <message id="MESS_TAB_PASSWORD">
         <source>the workbook is protected by a password</source>
@@ -184,8 +184,8 @@
         <translation>a single row is longer than 256 MiB</translation>
     </message>
     <message id="MESS_TAB_NO_DELIMITER">
-        <source>no delimiter was found: neither semicolons nor tabs, bars or commas make columns of it</source>
-        <translation>no delimiter was found: neither semicolons nor tabs, bars or commas make columns of it</translation>
+        <source>no delimiter was found: semicolons, tabs, bars and commas do not separate columns in this file</source>
+        <translation>no delimiter was found: semicolons, tabs, bars and commas do not separate columns in this file</translation>
     </message>
     <message id="MESS_TAB_NO_SHEET">
         <source>there is no sheet called "%1"</source>
@@ -268,8 +268,8 @@
         <translation>the text of the cell is lost: the workbook has no text number "%1"</translation>
     </message>
     <message id="MESS_TAB_SWALLOWED_ROWS">
-        <source>a quotation mark opens here and takes in the rows below, %1 in number: one is missing or too many</source>
-        <translation>a quotation mark opens here and takes in the rows below, %1 in number: one is missing or too many</translation>
+        <source>a quotation mark opens here and its text includes the rows below, %1 in number: a quotation mark is missing or superfluous</source>
+        <translation>a quotation mark opens here and its text includes the rows below, %1 in number: a quotation mark is missing or superfluous</translation>
     </message>
     <message id="MESS_TAB_UNREADABLE_BYTES">
         <source>bytes that are not valid in the encoding %1 were replaced: %2 in this row</source>
@@ -340,8 +340,8 @@
         <translation>the ends of the link are less than a metre apart</translation>
     </message>
     <message id="MESS_TAB_LENGTH_DIFFERS">
-        <source>the stated length of %1 m does not fit the distance of the ends, which is %2 m</source>
-        <translation>the stated length of %1 m does not fit the distance of the ends, which is %2 m</translation>
+        <source>the stated length of %1 m does not match the distance between the ends, which is %2 m</source>
+        <translation>the stated length of %1 m does not match the distance between the ends, which is %2 m</translation>
     </message>
     <message id="MESS_TAB_HEIGHT_RANGE">
         <source>the antenna height "%1" cannot be used: an antenna height lies between 0 and 2000 m above ground</source>

@@ -4,8 +4,8 @@
 <context>
     <name>Site tables</name>
     <message id="MESS_TAB_NO_FILE_NAME">
-        <source>no file is named</source>
-        <translation>aucun fichier n'est nommé</translation>
+        <source>no file name is given</source>
+        <translation>aucun nom de fichier n'est indiqué</translation>
     </message>
     <message id="MESS_TAB_NOT_LOCAL">
         <source>tables are read from local files only</source>
@@ -100,8 +100,8 @@
         <translation>ce fichier XML n'est pas un classeur SpreadsheetML 2003&#xa0;: son élément racine est &lt;%1&gt;</translation>
     </message>
     <message id="MESS_TAB_DOCUMENT_TYPE">
-        <source>the XML file declares a document type, which tables do not need and attacks use</source>
-        <translation>le fichier XML déclare un type de document&#xa0;: les tableaux n'en ont pas besoin, les attaques si</translation>
+        <source>the XML file declares a document type: tables do not need it, and attacks use it</source>
+        <translation>le fichier XML déclare un type de document : les tableaux n'en ont pas besoin, et des attaques s'en servent</translation>
     </message>
     <message id="MESS_TAB_PASSWORD">
         <source>the workbook is protected by a password</source>
@@ -184,8 +184,8 @@
         <translation>une seule ligne dépasse 256&#xa0;Mio</translation>
     </message>
     <message id="MESS_TAB_NO_DELIMITER">
-        <source>no delimiter was found: neither semicolons nor tabs, bars or commas make columns of it</source>
-        <translation>aucun séparateur n'a été trouvé&#xa0;: ni point-virgule, ni tabulation, ni barre, ni virgule n'en font des colonnes</translation>
+        <source>no delimiter was found: semicolons, tabs, bars and commas do not separate columns in this file</source>
+        <translation>aucun séparateur n'a été trouvé : ni point-virgule, ni tabulation, ni barre, ni virgule ne sépare de colonnes dans ce fichier</translation>
     </message>
     <message id="MESS_TAB_NO_SHEET">
         <source>there is no sheet called "%1"</source>
@@ -268,8 +268,8 @@
         <translation>le texte de la cellule est perdu&#xa0;: le classeur n'a pas de texte numéro «&#xa0;%1&#xa0;»</translation>
     </message>
     <message id="MESS_TAB_SWALLOWED_ROWS">
-        <source>a quotation mark opens here and takes in the rows below, %1 in number: one is missing or too many</source>
-        <translation>un guillemet s'ouvre ici et englobe les lignes suivantes, au nombre de %1&#xa0;: un guillemet manque ou est de trop</translation>
+        <source>a quotation mark opens here and its text includes the rows below, %1 in number: a quotation mark is missing or superfluous</source>
+        <translation>un guillemet s'ouvre ici et son texte englobe les lignes suivantes, au nombre de %1 : un guillemet manque ou est superflu</translation>
     </message>
     <message id="MESS_TAB_UNREADABLE_BYTES">
         <source>bytes that are not valid in the encoding %1 were replaced: %2 in this row</source>
@@ -340,8 +340,8 @@
         <translation>les extrémités de la liaison sont à moins d'un mètre l'une de l'autre</translation>
     </message>
     <message id="MESS_TAB_LENGTH_DIFFERS">
-        <source>the stated length of %1 m does not fit the distance of the ends, which is %2 m</source>
-        <translation>la longueur indiquée de %1 m ne correspond pas à la distance des extrémités, qui est de %2 m</translation>
+        <source>the stated length of %1 m does not match the distance between the ends, which is %2 m</source>
+        <translation>la longueur indiquée de %1 m ne correspond pas à la distance entre les extrémités, qui est de %2 m</translation>
     </message>
     <message id="MESS_TAB_HEIGHT_RANGE">
         <source>the antenna height "%1" cannot be used: an antenna height lies between 0 and 2000 m above ground</source>

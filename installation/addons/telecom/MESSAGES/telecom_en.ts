@@ -235,24 +235,24 @@ Coordinates are _C_ and are specified in _U_</translation>
         <translation>Sector radius</translation>
     </message>
     <message id="MESS_TIP_SECTOR_RADIUS">
-        <source>Radius of a sector wedge; the layer holds its whole part</source>
-        <translation>Radius of a sector wedge; the layer holds its whole part</translation>
+        <source>Radius of a sector wedge; the layer has its integer part</source>
+        <translation>Radius of a sector wedge; the layer has its integer part</translation>
     </message>
     <message id="MESS_SECTOR_SPACE">
         <source>Vertical spacing between sectors</source>
         <translation>Vertical spacing between sectors</translation>
     </message>
     <message id="MESS_TIP_SECTOR_SPACE">
-        <source>Distance in height between two sectors of a site</source>
-        <translation>Distance in height between two sectors of a site</translation>
+        <source>Vertical distance between two sectors of a site</source>
+        <translation>Vertical distance between two sectors of a site</translation>
     </message>
     <message id="MESS_SECTOR_COLORS">
         <source>Sector colors</source>
         <translation>Sector colors</translation>
     </message>
     <message id="MESS_TIP_SECTOR_COLORS">
-        <source>Colors that the sectors of a site take in turn</source>
-        <translation>Colors that the sectors of a site take in turn</translation>
+        <source>Colors of the sectors of a site, one after the other</source>
+        <translation>Colors of the sectors of a site, one after the other</translation>
     </message>
     <message id="MESS_OPAQUE">
         <source>Opaque</source>
@@ -275,8 +275,8 @@ Coordinates are _C_ and are specified in _U_</translation>
         <translation>Apparition distance</translation>
     </message>
     <message id="MESS_TIP_SYMBOLIC_DISTANCE">
-        <source>Distance from which the sectors are drawn</source>
-        <translation>Distance from which the sectors are drawn</translation>
+        <source>Maximum distance at which the sectors are drawn</source>
+        <translation>Maximum distance at which the sectors are drawn</translation>
     </message>
     <message id="MESS_PYLON_TYPE">
         <source>Type of pylons</source>
@@ -303,8 +303,8 @@ Coordinates are _C_ and are specified in _U_</translation>
         <translation>Size of the antennas; 100 % is their real size</translation>
     </message>
     <message id="MESS_TIP_REALISTIC_DISTANCE">
-        <source>Distance from which masts and antennas are drawn</source>
-        <translation>Distance from which masts and antennas are drawn</translation>
+        <source>Maximum distance at which masts and antennas are drawn</source>
+        <translation>Maximum distance at which masts and antennas are drawn</translation>
     </message>
 </context>
 <context>
@@ -365,8 +365,8 @@ Select the sites file to display.</translation>
         <translation>Preview</translation>
     </message>
     <message id="MESS_TIP_OWN_SITES">
-        <source>Look at the sites of the layer just written</source>
-        <translation>Look at the sites of the layer just written</translation>
+        <source>Show the sites of the layer just written</source>
+        <translation>Show the sites of the layer just written</translation>
     </message>
     <message id="MESS_OWN_SITES">
         <source>Sites of the layer</source>
@@ -385,20 +385,20 @@ Select the sites file to display.</translation>
         <translation>3D preview</translation>
     </message>
     <message id="MESS_TIP_3D_PREVIEW">
-        <source>Drag to turn, middle button to move, wheel to come nearer; left and right arrow, + and -, Home for the whole scene</source>
-        <translation>Drag to turn, middle button to move, wheel to come nearer; left and right arrow, + and -, Home for the whole scene</translation>
+        <source>Drag to rotate, middle button to move, wheel to zoom; left and right arrow, + and -, Home for the whole scene</source>
+        <translation>Drag to rotate, middle button to move, wheel to zoom; left and right arrow, + and -, Home for the whole scene</translation>
     </message>
     <message id="MESS_NO_3D_VIEW">
         <source>No 3D view is available on this system. The layer is complete without it.</source>
         <translation>No 3D view is available on this system. The layer is complete without it.</translation>
     </message>
     <message id="MESS_TIP_SYMBOLIC">
-        <source>Look at the symbolic representation, from afar</source>
-        <translation>Look at the symbolic representation, from afar</translation>
+        <source>Show the symbolic representation, from a long distance</source>
+        <translation>Show the symbolic representation, from a long distance</translation>
     </message>
     <message id="MESS_TIP_PRECISE">
-        <source>Look at the precise representation, from near</source>
-        <translation>Look at the precise representation, from near</translation>
+        <source>Show the precise representation, from a short distance</source>
+        <translation>Show the precise representation, from a short distance</translation>
     </message>
     <message id="MESS_DRAG_ICON">
         <source>Drag this icon into

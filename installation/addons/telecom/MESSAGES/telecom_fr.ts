@@ -235,7 +235,7 @@ Les coordonnées sont _C_ et exprimées en _U_</translation>
         <translation>Rayon des secteurs</translation>
     </message>
     <message id="MESS_TIP_SECTOR_RADIUS">
-        <source>Radius of a sector wedge; the layer holds its whole part</source>
+        <source>Radius of a sector wedge; the layer has its integer part</source>
         <translation>Rayon du dessin d'un secteur&#xa0;; la couche en retient la partie entière</translation>
     </message>
     <message id="MESS_SECTOR_SPACE">
@@ -243,16 +243,16 @@ Les coordonnées sont _C_ et exprimées en _U_</translation>
         <translation>Espacement vertical des secteurs</translation>
     </message>
     <message id="MESS_TIP_SECTOR_SPACE">
-        <source>Distance in height between two sectors of a site</source>
-        <translation>Distance en hauteur entre deux secteurs d'un site</translation>
+        <source>Vertical distance between two sectors of a site</source>
+        <translation>Distance verticale entre deux secteurs d'un site</translation>
     </message>
     <message id="MESS_SECTOR_COLORS">
         <source>Sector colors</source>
         <translation>Couleurs des secteurs</translation>
     </message>
     <message id="MESS_TIP_SECTOR_COLORS">
-        <source>Colors that the sectors of a site take in turn</source>
-        <translation>Couleurs que les secteurs d'un site prennent tour à tour</translation>
+        <source>Colors of the sectors of a site, one after the other</source>
+        <translation>Couleurs des secteurs d'un site, l'une après l'autre</translation>
     </message>
     <message id="MESS_OPAQUE">
         <source>Opaque</source>
@@ -275,8 +275,8 @@ Les coordonnées sont _C_ et exprimées en _U_</translation>
         <translation>Distance d'apparition</translation>
     </message>
     <message id="MESS_TIP_SYMBOLIC_DISTANCE">
-        <source>Distance from which the sectors are drawn</source>
-        <translation>Distance à partir de laquelle les secteurs sont dessinés</translation>
+        <source>Maximum distance at which the sectors are drawn</source>
+        <translation>Distance maximale à laquelle les secteurs sont dessinés</translation>
     </message>
     <message id="MESS_PYLON_TYPE">
         <source>Type of pylons</source>
@@ -303,8 +303,8 @@ Les coordonnées sont _C_ et exprimées en _U_</translation>
         <translation>Taille des antennes&#xa0;; 100&#xa0;% correspond à leur taille réelle</translation>
     </message>
     <message id="MESS_TIP_REALISTIC_DISTANCE">
-        <source>Distance from which masts and antennas are drawn</source>
-        <translation>Distance à partir de laquelle mâts et antennes sont dessinés</translation>
+        <source>Maximum distance at which masts and antennas are drawn</source>
+        <translation>Distance maximale à laquelle les mâts et les antennes sont dessinés</translation>
     </message>
 </context>
 <context>
@@ -365,7 +365,7 @@ Choisissez le fichier de sites à afficher.</translation>
         <translation>Aperçu</translation>
     </message>
     <message id="MESS_TIP_OWN_SITES">
-        <source>Look at the sites of the layer just written</source>
+        <source>Show the sites of the layer just written</source>
         <translation>Voir les sites de la couche qui vient d'être écrite</translation>
     </message>
     <message id="MESS_OWN_SITES">
@@ -385,19 +385,19 @@ Choisissez le fichier de sites à afficher.</translation>
         <translation>Aperçu 3D</translation>
     </message>
     <message id="MESS_TIP_3D_PREVIEW">
-        <source>Drag to turn, middle button to move, wheel to come nearer; left and right arrow, + and -, Home for the whole scene</source>
-        <translation>Faites glisser pour tourner, bouton du milieu pour déplacer, molette pour approcher&#xa0;; flèches gauche et droite, + et -, Origine pour toute la scène</translation>
+        <source>Drag to rotate, middle button to move, wheel to zoom; left and right arrow, + and -, Home for the whole scene</source>
+        <translation>Faites glisser pour tourner, bouton du milieu pour déplacer, molette pour zoomer ; flèches gauche et droite, + et -, Origine pour toute la scène</translation>
     </message>
     <message id="MESS_NO_3D_VIEW">
         <source>No 3D view is available on this system. The layer is complete without it.</source>
         <translation>Aucune vue 3D n'est disponible sur ce système. La couche est complète sans elle.</translation>
     </message>
     <message id="MESS_TIP_SYMBOLIC">
-        <source>Look at the symbolic representation, from afar</source>
+        <source>Show the symbolic representation, from a long distance</source>
         <translation>Voir la représentation symbolique, de loin</translation>
     </message>
     <message id="MESS_TIP_PRECISE">
-        <source>Look at the precise representation, from near</source>
+        <source>Show the precise representation, from a short distance</source>
         <translation>Voir la représentation précise, de près</translation>
     </message>
     <message id="MESS_DRAG_ICON">

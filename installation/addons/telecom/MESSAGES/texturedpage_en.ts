@@ -8,8 +8,8 @@
         <translation>Data structure</translation>
     </message>
     <message id="MESS_TIP_DATA_STRUCTURE">
-        <source>How the images lie in folders, seen from the template image; it counts when the next template is chosen</source>
-        <translation>How the images lie in folders, seen from the template image; it counts when the next template is chosen</translation>
+        <source>Folders of the images, relative to the template image; a change applies to the next choice of a template</source>
+        <translation>Folders of the images, relative to the template image; a change applies to the next choice of a template</translation>
     </message>
     <message id="MESS_DS_SAME_FOLDER">
         <source>All images are in the same folder</source>
@@ -28,16 +28,16 @@
         <translation>Define  the template image...</translation>
     </message>
     <message id="MESS_TIP_TEMPLATE">
-        <source>Choose one of the images; all images of its kind around it are listed. A file dropped on the page does the same</source>
-        <translation>Choose one of the images; all images of its kind around it are listed. A file dropped on the page does the same</translation>
+        <source>Choose one of the images; all images with the same suffix in these folders are listed. You can also drop a file on the page</source>
+        <translation>Choose one of the images; all images with the same suffix in these folders are listed. You can also drop a file on the page</translation>
     </message>
     <message id="MESS_FILTER_PATTERN">
         <source>Filter images with this pattern</source>
         <translation>Filter images with this pattern</translation>
     </message>
     <message id="MESS_TIP_TEXTURE_FILTER">
-        <source>Shows the images with this text in their file name, folder or description, or whose height matches it</source>
-        <translation>Shows the images with this text in their file name, folder or description, or whose height matches it</translation>
+        <source>Show only the images with this text in their file name, folder or description, or with a matching height</source>
+        <translation>Show only the images with this text in their file name, folder or description, or with a matching height</translation>
     </message>
     <message id="MESS_USE_ALL_SHOWN">
         <source>Use all shown</source>

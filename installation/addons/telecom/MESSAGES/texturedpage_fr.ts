@@ -8,8 +8,8 @@
         <translation>Structure des données</translation>
     </message>
     <message id="MESS_TIP_DATA_STRUCTURE">
-        <source>How the images lie in folders, seen from the template image; it counts when the next template is chosen</source>
-        <translation>Comment les images sont rangées en dossiers, vu de l'image modèle&#xa0;; pris en compte au prochain choix d'un modèle</translation>
+        <source>Folders of the images, relative to the template image; a change applies to the next choice of a template</source>
+        <translation>Dossiers des images, par rapport à l'image modèle ; un changement s'applique au prochain choix d'un modèle</translation>
     </message>
     <message id="MESS_DS_SAME_FOLDER">
         <source>All images are in the same folder</source>
@@ -28,16 +28,16 @@
         <translation>Définir l'image modèle...</translation>
     </message>
     <message id="MESS_TIP_TEMPLATE">
-        <source>Choose one of the images; all images of its kind around it are listed. A file dropped on the page does the same</source>
-        <translation>Choisissez l'une des images&#xa0;: toutes celles de même extension autour d'elle sont listées. Un fichier déposé sur la page a le même effet</translation>
+        <source>Choose one of the images; all images with the same suffix in these folders are listed. You can also drop a file on the page</source>
+        <translation>Choisissez l'une des images : toutes celles de même extension dans ces dossiers sont listées. Vous pouvez aussi déposer un fichier sur la page</translation>
     </message>
     <message id="MESS_FILTER_PATTERN">
         <source>Filter images with this pattern</source>
         <translation>Filtrer les images avec ce motif</translation>
     </message>
     <message id="MESS_TIP_TEXTURE_FILTER">
-        <source>Shows the images with this text in their file name, folder or description, or whose height matches it</source>
-        <translation>Affiche les images dont le nom de fichier, le dossier ou la description contient ce texte, ou dont la hauteur y correspond</translation>
+        <source>Show only the images with this text in their file name, folder or description, or with a matching height</source>
+        <translation>N'afficher que les images dont le nom de fichier, le dossier ou la description contient ce texte, ou dont la hauteur y correspond</translation>
     </message>
     <message id="MESS_USE_ALL_SHOWN">
         <source>Use all shown</source>

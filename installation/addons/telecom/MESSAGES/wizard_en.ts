@@ -28,16 +28,16 @@
 <context>
     <name>Start of the program</name>
     <message id="MESS_APP_NO_SHEET">
-        <source>%1 is not followed by a file</source>
-        <translation>%1 is not followed by a file</translation>
+        <source>%1 needs a file</source>
+        <translation>%1 needs a file</translation>
     </message>
     <message id="MESS_APP_UNKNOWN_OPTION">
         <source>unknown option "%1"</source>
         <translation>unknown option "%1"</translation>
     </message>
     <message id="MESS_APP_ONE_FILE">
-        <source>more than one file is named</source>
-        <translation>more than one file is named</translation>
+        <source>more than one file is given</source>
+        <translation>more than one file is given</translation>
     </message>
     <message id="MESS_APP_TRY_HELP">
         <source>try 'VltTelecomLayers --help'</source>
@@ -74,7 +74,7 @@ Opens the wizard that makes layers of telecom sites, links and buildings.
 
   -h, --help          Prints this text.
   -v, --version       Prints the version.
-  -stylesheet SHEET   Takes a style sheet of one's own.
+  -stylesheet SHEET   Uses this Qt style sheet.
 
 The options of every Qt program, such as -platform and -style, work too.
 vltlayers makes the same layers without a window.</source>
@@ -88,7 +88,7 @@ Opens the wizard that makes layers of telecom sites, links and buildings.
 
   -h, --help          Prints this text.
   -v, --version       Prints the version.
-  -stylesheet SHEET   Takes a style sheet of one's own.
+  -stylesheet SHEET   Uses this Qt style sheet.
 
 The options of every Qt program, such as -platform and -style, work too.
 vltlayers makes the same layers without a window.</translation>
@@ -142,8 +142,8 @@ Buildings can be colored or textured with images (ortho-images, coverage plots, 
         <translation>Recent projects</translation>
     </message>
     <message id="MESS_TIP_RECENT_PRJS">
-        <source>Select a project; a double click or Enter goes on with it</source>
-        <translation>Select a project; a double click or Enter goes on with it</translation>
+        <source>Select a project; a double click or Enter continues with it</source>
+        <translation>Select a project; a double click or Enter continues with it</translation>
     </message>
     <message id="MESS_NO_RECENT_PRJS">
         <source>There are no recent projects. Choose a project file below, or drop one here.</source>
@@ -158,8 +158,8 @@ Buildings can be colored or textured with images (ortho-images, coverage plots, 
         <translation>Project file (*.gvw)</translation>
     </message>
     <message id="MESS_TIP_PROJECT_PATH">
-        <source>The project file into which the layer goes; it can also be dropped on this page</source>
-        <translation>The project file into which the layer goes; it can also be dropped on this page</translation>
+        <source>Project file to which the layer will be added; it can also be dropped on this page</source>
+        <translation>Project file to which the layer will be added; it can also be dropped on this page</translation>
     </message>
     <message id="MESS_BROWSE">
         <source>&amp;Browse...</source>

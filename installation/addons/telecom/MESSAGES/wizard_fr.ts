@@ -28,16 +28,16 @@
 <context>
     <name>Start of the program</name>
     <message id="MESS_APP_NO_SHEET">
-        <source>%1 is not followed by a file</source>
-        <translation>%1 n'est pas suivi d'un fichier</translation>
+        <source>%1 needs a file</source>
+        <translation>%1 attend un fichier</translation>
     </message>
     <message id="MESS_APP_UNKNOWN_OPTION">
         <source>unknown option "%1"</source>
         <translation>option «&#xa0;%1&#xa0;» inconnue</translation>
     </message>
     <message id="MESS_APP_ONE_FILE">
-        <source>more than one file is named</source>
-        <translation>plusieurs fichiers sont nommés</translation>
+        <source>more than one file is given</source>
+        <translation>plusieurs fichiers sont indiqués</translation>
     </message>
     <message id="MESS_APP_TRY_HELP">
         <source>try 'VltTelecomLayers --help'</source>
@@ -74,7 +74,7 @@ Opens the wizard that makes layers of telecom sites, links and buildings.
 
   -h, --help          Prints this text.
   -v, --version       Prints the version.
-  -stylesheet SHEET   Takes a style sheet of one's own.
+  -stylesheet SHEET   Uses this Qt style sheet.
 
 The options of every Qt program, such as -platform and -style, work too.
 vltlayers makes the same layers without a window.</source>
@@ -89,7 +89,7 @@ Ouvre l'assistant qui produit des couches de sites, de liaisons et de bâtiments
 
   -h, --help          Affiche ce texte.
   -v, --version       Affiche la version.
-  -stylesheet FICHIER Emploie une feuille de style personnelle.
+  -stylesheet FICHIER Emploie cette feuille de style Qt.
 
 Les options de tout programme Qt, comme -platform et -style, sont acceptées.
 vltlayers produit les mêmes couches sans fenêtre.</translation>
@@ -143,7 +143,7 @@ Les bâtiments peuvent être colorés ou texturés avec des images (orthophotos,
         <translation>Projets récents</translation>
     </message>
     <message id="MESS_TIP_RECENT_PRJS">
-        <source>Select a project; a double click or Enter goes on with it</source>
+        <source>Select a project; a double click or Enter continues with it</source>
         <translation>Choisissez un projet&#xa0;; un double-clic ou la touche Entrée poursuit avec celui-ci</translation>
     </message>
     <message id="MESS_NO_RECENT_PRJS">
@@ -159,7 +159,7 @@ Les bâtiments peuvent être colorés ou texturés avec des images (orthophotos,
         <translation>Fichier de projet (*.gvw)</translation>
     </message>
     <message id="MESS_TIP_PROJECT_PATH">
-        <source>The project file into which the layer goes; it can also be dropped on this page</source>
+        <source>Project file to which the layer will be added; it can also be dropped on this page</source>
         <translation>Le fichier de projet qui recevra la couche&#xa0;; il peut aussi être déposé sur cette page</translation>
     </message>
     <message id="MESS_BROWSE">
