@@ -21,11 +21,11 @@ inline void add(CityModel &city, const Rings &rings, float heightM = 12)
     Footprints &shapes = city.footprints;
     const auto begin = static_cast<std::uint32_t>(shapes.rings.size());
     for (const Ring &ring : rings) {
-        const auto first = static_cast<std::uint32_t>(shapes.places.size());
-        shapes.places.insert(shapes.places.end(), ring.begin(), ring.end());
-        city.places.insert(city.places.end(), ring.begin(), ring.end());
-        shapes.rings.push_back(
-            {first, static_cast<std::uint32_t>(shapes.places.size()), shapes.rings.size() > begin});
+        const auto first = static_cast<std::uint32_t>(shapes.positions.size());
+        shapes.positions.insert(shapes.positions.end(), ring.begin(), ring.end());
+        city.positions.insert(city.positions.end(), ring.begin(), ring.end());
+        shapes.rings.push_back({first, static_cast<std::uint32_t>(shapes.positions.size()),
+                                shapes.rings.size() > begin});
     }
     shapes.buildings.push_back({begin, static_cast<std::uint32_t>(shapes.rings.size()), heightM});
     city.baseM.push_back(BaseM);

@@ -159,9 +159,10 @@ private Q_SLOTS:
         constexpr std::array<std::pair<double, double>, 3> Middles = {
             {{-3.3925193, 47.7480247}, {-3.3923863, 47.7480320}, {-3.3922533, 47.7480393}}};
         CityModel city = townOf(3);
-        for (std::size_t i = 0; i < city.footprints.places.size(); ++i) {
+        for (std::size_t i = 0; i < city.footprints.positions.size(); ++i) {
             const auto &[x, y] = Middles[2 - i / 3];
-            city.footprints.places[i] = {x + (i % 3 == 1 ? 2e-5 : 0), y + (i % 3 == 2 ? 2e-5 : 0)};
+            city.footprints.positions[i] = {x + (i % 3 == 1 ? 2e-5 : 0),
+                                            y + (i % 3 == 2 ? 2e-5 : 0)};
         }
         city.srs = SRS_WKT_WGS84_LAT_LONG;
         Notices notices;

@@ -245,7 +245,7 @@ private Q_SLOTS:
         row("share", "share=60", "share=nan", "fresnel_share");
         row("pylon", "monopole_panel", "obelisk", "obelisk");
         row("table", "t.csv", "u.csv", "u.csv");
-        row("no places", "t.csv", "none.csv", "none of 1 links");
+        row("no positions", "t.csv", "none.csv", "none of 1 links");
         row("system", "t_srs=2154", "t_srs=99", "99");
     }
 

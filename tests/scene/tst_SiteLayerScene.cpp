@@ -243,7 +243,7 @@ private Q_SLOTS:
         row("type", changed("monopole_panel", "obelisk"), "obelisk");
         row("colour", changed("00ff00ff", "00ff00"), "\"00ff00\"");
         row("system", changed("t_srs=2154", "t_srs=99"), "99");
-        row("no places", changed("t.csv]", "none.csv]"), "none.csv");
+        row("no positions", changed("t.csv]", "none.csv]"), "none.csv");
     }
 
     void refusesByName()

@@ -22,30 +22,30 @@ namespace {
 using namespace vlt::contract;
 using namespace vlt::scene;
 using namespace towntest;
-using Places = Ring;
+using Positions = Ring;
 using Shown = std::map<int, std::set<double>>; ///< heights above the ground, by height of the image
 
 constexpr double SkirtM = 2;
 const osg::Vec3d Origin(10, 20, 1);
-const Places Square = square(25, 25, 20); ///< the corners are centres of pixels
-const Places Courtyard = square(15, 15, 70);
+const Positions Square = square(25, 25, 20); ///< the corners are centres of pixels
+const Positions Courtyard = square(15, 15, 70);
 
 /// A building with these rings, the outer one first, in a system in metres.
 CityModel townOf(const Rings &rings, float heightM)
 {
     CityModel city;
     add(city, rings, heightM);
-    city.frame.local = std::make_shared<LocalFrame>(nullptr, city.places);
-    for (osg::Vec2d &place : city.places)
-        place = city.frame.local->toFrame(place);
+    city.frame.local = std::make_shared<LocalFrame>(nullptr, city.positions);
+    for (osg::Vec2d &position : city.positions)
+        position = city.frame.local->toFrame(position);
     return city;
 }
 
 /// A vertex of a face with an image.
 struct Corner
 {
-    osg::Vec2d place; ///< in the city's system
-    double z;         ///< above the ground
+    osg::Vec2d position; ///< in the city's system
+    double z;            ///< above the ground
     osg::Vec3 normal;
     std::array<int, 4> color; ///< colour of the image at the vertex
 };
@@ -96,9 +96,9 @@ struct Tile
             }
             const auto &normals = static_cast<const osg::Vec3Array &>(*geometry.getNormalArray());
             const auto &where = static_cast<const osg::Vec2Array &>(*geometry.getTexCoordArray(0));
-            const osg::Vec2d place = city.frame.local->fromFrame({vertex.x(), vertex.y()});
+            const osg::Vec2d position = city.frame.local->fromFrame({vertex.x(), vertex.y()});
             corners.push_back(
-                {place, vertex.z(), normals[at], colorAt(*texture->getImage(), where[at])});
+                {position, vertex.z(), normals[at], colorAt(*texture->getImage(), where[at])});
         }
     }
 };
@@ -136,9 +136,9 @@ class tst_TexturedTile : public QObject
         return look;
     }
 
-    static std::array<int, 4> expectedAt(const osg::Vec2d &place, int heightM)
+    static std::array<int, 4> expectedAt(const osg::Vec2d &position, int heightM)
     {
-        return {20 * int(place.x() / 10), 20 * int((100 - place.y()) / 10), heightM, 255};
+        return {20 * int(position.x() / 10), 20 * int((100 - position.y()) / 10), heightM, 255};
     }
 
     static bool goOn(double) { return true; }
@@ -203,15 +203,15 @@ private Q_SLOTS:
         Shown found;
         for (const Corner &corner : tile.corners) {
             const osg::Vec2d beside =
-                corner.place + osg::Vec2d(corner.normal.x(), corner.normal.y()) * *look.bufferM;
+                corner.position + osg::Vec2d(corner.normal.x(), corner.normal.y()) * *look.bufferM;
             QCOMPARE(corner.color, expectedAt(beside, corner.color[2]));
             found[corner.color[2]].insert(corner.z);
             // The outside of the building is away from the middle; in the courtyard it is towards
             // the middle.
-            const bool isHole = (corner.place - osg::Vec2d(35, 35)).length() < 15;
+            const bool isHole = (corner.position - osg::Vec2d(35, 35)).length() < 15;
             const osg::Vec2d middle = isHole ? osg::Vec2d(35, 35) : osg::Vec2d(50, 50);
             if (mode == TextureMode::Walls)
-                QCOMPARE((beside - middle).length() > (corner.place - middle).length(), !isHole);
+                QCOMPARE((beside - middle).length() > (corner.position - middle).length(), !isHole);
             else
                 QCOMPARE(corner.normal, osg::Vec3(0, 0, 1));
         }
@@ -262,13 +262,13 @@ private Q_SLOTS:
             [](int column, int, int band) { return column == 1 ? 50 * band : 125 * column; },
             finish);
         const auto image = openImage(path, "", false);
-        Places places = {{15, 15}};
-        image->toPixels(places);
-        QCOMPARE(places.front(), osg::Vec2d(1.5, 1.5));
+        Positions positions = {{15, 15}};
+        image->toPixels(positions);
+        QCOMPARE(positions.front(), osg::Vec2d(1.5, 1.5));
 
-        const ImageCrop crop = image->crop(places, 0, 64);
+        const ImageCrop crop = image->crop(positions, 0, 64);
 
-        const std::array<int, 4> found = colorAt(*crop.image, crop.coordinates(places.front()));
+        const std::array<int, 4> found = colorAt(*crop.image, crop.coordinates(positions.front()));
         if (expected.size() == 1)
             QCOMPARE(found[3], 0);
         else
@@ -319,13 +319,13 @@ private Q_SLOTS:
         CPLFree(wkt);
         // In the middle of the zone: easting 500000, northing 0.9996 of the meridian's arc to 48
         // degrees north.
-        Places places = {{500000, 5316300.4}, {NAN, 0}};
+        Positions positions = {{500000, 5316300.4}, {NAN, 0}};
 
-        image->toPixels(places);
+        image->toPixels(positions);
 
-        QVERIFY(std::abs(places[0].x() - 50) < 0.01);
-        QVERIFY(std::abs(places[0].y() - 50) < 0.1);
-        QCOMPARE(image->crop(places, 0, 64).coordinates(places[1]), osg::Vec2());
+        QVERIFY(std::abs(positions[0].x() - 50) < 0.01);
+        QVERIFY(std::abs(positions[0].y() - 50) < 0.1);
+        QCOMPARE(image->crop(positions, 0, 64).coordinates(positions[1]), osg::Vec2());
     }
 
     void namesImagesThatItCannotShow()
@@ -364,7 +364,7 @@ private Q_SLOTS:
             threads.emplace_back([&] {
                 const Tile tile(city, look, *images);
                 for (const Corner &corner : tile.corners)
-                    right += corner.color == expectedAt(corner.place, corner.color[2]) ? 1 : 0;
+                    right += corner.color == expectedAt(corner.position, corner.color[2]) ? 1 : 0;
             });
         }
         threads.clear();

@@ -50,7 +50,7 @@ bool isPlaced(const CityModel &city, const Footprints::Building &building)
 {
     for (const Footprints::Ring &ring : city.footprints.ringsOf(building)) {
         for (std::uint32_t i = ring.begin; i < ring.end; ++i) {
-            if (!std::isfinite(city.places[i].x()) || !std::isfinite(city.places[i].y()))
+            if (!std::isfinite(city.positions[i].x()) || !std::isfinite(city.positions[i].y()))
                 return false;
         }
     }
@@ -59,12 +59,12 @@ bool isPlaced(const CityModel &city, const Footprints::Building &building)
 
 /// Determines the frame, transforms the buildings to it and leaves out those that have no position
 /// in it.
-void place(CityModel &city, const OGRSpatialReference *srs)
+void position(CityModel &city, const OGRSpatialReference *srs)
 {
     const CPLErrorHandlerPusher quiet(CPLQuietErrorHandler);
-    city.places = city.footprints.places;
-    city.frame = moveToFrame(srs, city.places);
-    city.leftOut.noPlace =
+    city.positions = city.footprints.positions;
+    city.frame = moveToFrame(srs, city.positions);
+    city.leftOut.noPosition =
         std::erase_if(city.footprints.buildings, [&city](const Footprints::Building &building) {
             return !isPlaced(city, building);
         });
@@ -72,7 +72,7 @@ void place(CityModel &city, const OGRSpatialReference *srs)
 
 std::size_t countOf(const LeftOut &leftOut)
 {
-    return leftOut.noHeight + leftOut.notPositive + leftOut.noShape + leftOut.noPlace;
+    return leftOut.noHeight + leftOut.notPositive + leftOut.noShape + leftOut.noPosition;
 }
 
 void reportLeftOut(const LeftOut &leftOut, const std::string &heightField, std::size_t features,
@@ -86,7 +86,7 @@ void reportLeftOut(const LeftOut &leftOut, const std::string &heightField, std::
     const Reason reasons[] = {{leftOut.noHeight, "MESS_SCENE_NO_HEIGHT"},
                               {leftOut.notPositive, "MESS_SCENE_ZERO_HEIGHT"},
                               {leftOut.noShape, "MESS_SCENE_NO_POLYGON"},
-                              {leftOut.noPlace, "MESS_SCENE_NO_PLACE"}};
+                              {leftOut.noPosition, "MESS_SCENE_NO_PLACE"}};
     for (const auto &[count, text] : reasons) {
         if (count > 0)
             notices.push_back(contract::formatted(
@@ -104,11 +104,11 @@ std::size_t countCoincident(const CityModel &city)
         const Footprints::Ring &ring = city.footprints.rings[building.ringBegin];
         Outline outline{HUGE_VAL, HUGE_VAL, -HUGE_VAL, -HUGE_VAL,
                         static_cast<double>(ring.end - ring.begin)};
-        for (const osg::Vec2d &place : city.footprints.placesOf(ring)) {
-            outline[0] = std::min(outline[0], place.x());
-            outline[1] = std::min(outline[1], place.y());
-            outline[2] = std::max(outline[2], place.x());
-            outline[3] = std::max(outline[3], place.y());
+        for (const osg::Vec2d &position : city.footprints.positionsOf(ring)) {
+            outline[0] = std::min(outline[0], position.x());
+            outline[1] = std::min(outline[1], position.y());
+            outline[2] = std::max(outline[2], position.x());
+            outline[3] = std::max(outline[3], position.y());
         }
         outlines.push_back(outline);
     }
@@ -133,7 +133,7 @@ CityModel readCity(const BuildingDocument &document, const Directories &director
     city.footprints = std::move(read.footprints);
     city.srs = wktOf(read.srs);
     city.leftOut = read.leftOut;
-    place(city, srs);
+    position(city, srs);
     reportLeftOut(city.leftOut, footprints.heightField, read.features, notices);
     if (const std::size_t count = countCoincident(city); count > 0)
         notices.push_back(contract::formatted(

@@ -4,7 +4,7 @@
 #include "coverage/CoverageRaster.h"
 #include "coverage/LocalRaster.h"
 #include "plugins/scene/buildings/ColorText.h"
-#include "plugins/scene/buildings/PlaceTransform.h"
+#include "plugins/scene/buildings/PositionTransform.h"
 #include "plugins/scene/reading/BadLayer.h"
 #include "plugins/scene/reading/Stopped.h"
 #include "plugins/scene/reading/TableLocation.h"
@@ -75,9 +75,9 @@ std::vector<std::size_t> inRows(const Footprints &footprints)
     constexpr double Rows = 64;
     osg::Vec2d least(HUGE_VAL, HUGE_VAL);
     osg::Vec2d most(-HUGE_VAL, -HUGE_VAL);
-    for (const osg::Vec2d &place : footprints.places) {
-        least.set(std::min(least.x(), place.x()), std::min(least.y(), place.y()));
-        most.set(std::max(most.x(), place.x()), std::max(most.y(), place.y()));
+    for (const osg::Vec2d &position : footprints.positions) {
+        least.set(std::min(least.x(), position.x()), std::min(least.y(), position.y()));
+        most.set(std::max(most.x(), position.x()), std::max(most.y(), position.y()));
     }
     const double perRow = std::max((most.y() - least.y()) / Rows, 1e-9);
     struct Key
@@ -88,10 +88,11 @@ std::vector<std::size_t> inRows(const Footprints &footprints)
     std::vector<Key> keys;
     keys.reserve(footprints.buildings.size());
     for (const Footprints::Building &building : footprints.buildings) {
-        const osg::Vec2d &place = footprints.places[footprints.rings[building.ringBegin].begin];
-        const double row = std::floor((place.y() - least.y()) / perRow);
-        const bool isFinite = std::isfinite(row) && std::isfinite(place.x());
-        keys.push_back(isFinite ? Key{row, place.x()} : Key{});
+        const osg::Vec2d &position =
+            footprints.positions[footprints.rings[building.ringBegin].begin];
+        const double row = std::floor((position.y() - least.y()) / perRow);
+        const bool isFinite = std::isfinite(row) && std::isfinite(position.x());
+        keys.push_back(isFinite ? Key{row, position.x()} : Key{});
     }
     std::vector<std::size_t> order(keys.size());
     std::iota(order.begin(), order.end(), std::size_t{0});
@@ -105,7 +106,7 @@ std::vector<std::size_t> inRows(const Footprints &footprints)
 class Values
 {
 public:
-    Values(const Footprints &footprints, const PlaceTransform &transform, CoverageRaster &raster,
+    Values(const Footprints &footprints, const PositionTransform &transform, CoverageRaster &raster,
            coverage::Reduction reduction)
         : m_footprints(footprints)
         , m_transform(transform)
@@ -116,16 +117,16 @@ public:
     /// The value under a building; NaN if there is none.
     double under(const Footprints::Building &building)
     {
-        m_places.clear();
+        m_positions.clear();
         m_rings.clear();
         for (const Footprints::Ring &ring : m_footprints.ringsOf(building)) {
-            const auto places = m_footprints.placesOf(ring);
-            m_places.insert(m_places.end(), places.begin(), places.end());
+            const auto positions = m_footprints.positionsOf(ring);
+            m_positions.insert(m_positions.end(), positions.begin(), positions.end());
         }
-        m_transform.apply(m_places);
+        m_transform.apply(m_positions);
         m_points.clear();
-        for (const osg::Vec2d &place : m_places)
-            m_points.push_back({place.x(), place.y()});
+        for (const osg::Vec2d &position : m_positions)
+            m_points.push_back({position.x(), position.y()});
         std::span<const coverage::Place> rest = m_points;
         for (const Footprints::Ring &ring : m_footprints.ringsOf(building)) {
             m_rings.push_back(rest.first(ring.end - ring.begin));
@@ -136,10 +137,10 @@ public:
 
 private:
     const Footprints &m_footprints;
-    const PlaceTransform &m_transform;
+    const PositionTransform &m_transform;
     CoverageRaster &m_raster;
     coverage::Reduction m_reduction;
-    std::vector<osg::Vec2d> m_places;
+    std::vector<osg::Vec2d> m_positions;
     std::vector<coverage::Place> m_points;
     std::vector<coverage::Ring> m_rings;
 };
@@ -149,7 +150,7 @@ std::vector<Rgba> rasterColors(const CityModel &city, const RasterColors &colors
                                const Progress &progress)
 {
     const std::unique_ptr<CoverageRaster> raster = openRaster(colors, directories);
-    const PlaceTransform transform(city.srs, raster->srs());
+    const PositionTransform transform(city.srs, raster->srs());
     if (!transform.isUsable())
         throw BadLayer("MESS_SCENE_BAD_RASTER",
                        {colors.raster, contract::formatted("MESS_SCENE_NO_TRANSFORMATION_FROM")});

@@ -44,10 +44,10 @@ osg::Vec2d mainDirection(const std::vector<osg::Vec2d> &ring)
 {
     osg::Vec2d longest;
     osg::Vec2d before = ring.back();
-    for (const osg::Vec2d &place : ring) {
-        if ((place - before).length2() > longest.length2())
-            longest = place - before;
-        before = place;
+    for (const osg::Vec2d &position : ring) {
+        if ((position - before).length2() > longest.length2())
+            longest = position - before;
+        before = position;
     }
     const double length = longest.length();
     return length > 0 ? longest / length : osg::Vec2d(1, 0);
@@ -98,14 +98,14 @@ void CityMesh::addPart(std::span<const Footprints::Ring> rings, std::uint32_t bu
     const double base = m_city.baseM[building] - m_origin.z();
     const double top = base + m_city.footprints.buildings[building].heightM;
     const osg::Vec4ub wallColor = opaque(m_city.wallColors[building]);
-    std::vector<Places> outlines;
+    std::vector<Positions> outlines;
     m_roof.clear();
     for (const Footprints::Ring &ring : rings) {
-        outlines.push_back(placesOf(ring, !ring.isHole));
+        outlines.push_back(positionsOf(ring, !ring.isHole));
         m_roof.addRing(outlines.back());
     }
     m_roof.cut();
-    for (Places &outline : outlines) {
+    for (Positions &outline : outlines) {
         addWalls(outline, base - skirtM, top, wallColor);
         if (!m_roof.isCrossed())
             continue;
@@ -115,7 +115,7 @@ void CityMesh::addPart(std::span<const Footprints::Ring> rings, std::uint32_t bu
     addRoof(top, opaque(m_city.roofColors[building]));
 }
 
-void CityMesh::addWalls(const Places &ring, double bottom, double top, const osg::Vec4ub &color)
+void CityMesh::addWalls(const Positions &ring, double bottom, double top, const osg::Vec4ub &color)
 {
     osg::Vec2d from = ring.back();
     for (const osg::Vec2d &to : ring) {
@@ -132,8 +132,8 @@ void CityMesh::addWalls(const Places &ring, double bottom, double top, const osg
 void CityMesh::addRoof(double top, const osg::Vec4ub &color)
 {
     const auto first = static_cast<std::uint32_t>(m_vertices.size());
-    for (const osg::Vec2d &place : m_roof.points())
-        vertex(place, top, Upwards, color);
+    for (const osg::Vec2d &position : m_roof.points())
+        vertex(position, top, Upwards, color);
     for (const auto &[a, b, c] : m_roof.triangles())
         m_indices.insert(m_indices.end(), {first + a, first + b, first + c});
 }
@@ -144,17 +144,17 @@ void CityMesh::addBoxes(std::uint32_t building)
     for (const auto &part : partsOf(footprints.ringsOf(footprints.buildings[building]))) {
         double area = 0;
         for (const Footprints::Ring &ring : part) {
-            const double size = std::abs(doubledArea(placesOf(ring, true))) / 2;
+            const double size = std::abs(doubledArea(positionsOf(ring, true))) / 2;
             area += ring.isHole ? -size : size;
         }
         if (area < MinAreaM2) { // parts of a ring that crosses itself cancel out
             m_roof.clear();
             for (const Footprints::Ring &ring : part)
-                m_roof.addRing(placesOf(ring, true));
+                m_roof.addRing(positionsOf(ring, true));
             m_roof.cut();
             area = m_roof.area();
         }
-        addBox(placesOf(part.front(), true), std::max(area, 0.0), building);
+        addBox(positionsOf(part.front(), true), std::max(area, 0.0), building);
     }
 }
 
@@ -163,21 +163,21 @@ void CityMesh::addDot(std::uint32_t building)
     const Footprints &footprints = m_city.footprints;
     const Footprints::Building &shape = footprints.buildings[building];
     osg::BoundingBoxd bound;
-    for (const osg::Vec2d &place : placesOf(footprints.rings[shape.ringBegin], true))
-        bound.expandBy(place.x(), place.y(), 0);
+    for (const osg::Vec2d &position : positionsOf(footprints.rings[shape.ringBegin], true))
+        bound.expandBy(position.x(), position.y(), 0);
     const osg::Vec3d middle = bound.center();
     vertex({middle.x(), middle.y()}, m_city.baseM[building] - m_origin.z() + shape.heightM, Upwards,
            opaque(m_city.roofColors[building]));
 }
 
-void CityMesh::addBox(const Places &ring, double area, std::uint32_t building)
+void CityMesh::addBox(const Positions &ring, double area, std::uint32_t building)
 {
     const osg::Vec2d along = mainDirection(ring);
     const osg::Vec2d across(-along.y(), along.x());
     osg::Vec2d least = {ring.front() * along, ring.front() * across};
     osg::Vec2d most = least;
-    for (const osg::Vec2d &place : ring) {
-        const osg::Vec2d at(place * along, place * across);
+    for (const osg::Vec2d &position : ring) {
+        const osg::Vec2d at(position * along, position * across);
         least.set(std::min(least.x(), at.x()), std::min(least.y(), at.y()));
         most.set(std::max(most.x(), at.x()), std::max(most.y(), at.y()));
     }
@@ -197,8 +197,8 @@ void CityMesh::addBox(const Places &ring, double area, std::uint32_t building)
     const auto b = static_cast<std::uint32_t>(m_vertices.size());
     for (std::size_t i = 0; i < 4; ++i)
         vertex(corners[i], base, outwards(corners[(i + 1) % 4] - corners[i]), wallColor);
-    for (const osg::Vec2d &place : corners)
-        vertex(place, top, Upwards, roofColor);
+    for (const osg::Vec2d &position : corners)
+        vertex(position, top, Upwards, roofColor);
     const std::uint32_t t = b + 4;
     // With flat shading a face has the normal and colour of the last vertex of its triangles.
     for (std::uint32_t i = 0; i < 4; ++i) {
@@ -208,28 +208,28 @@ void CityMesh::addBox(const Places &ring, double area, std::uint32_t building)
     m_indices.insert(m_indices.end(), {t + 1, t + 2, t, t + 2, t + 3, t});
 }
 
-std::uint32_t CityMesh::vertex(const osg::Vec2d &place, double z, const osg::Vec2d &normal,
+std::uint32_t CityMesh::vertex(const osg::Vec2d &position, double z, const osg::Vec2d &normal,
                                const osg::Vec4ub &color)
 {
     const auto component = [](double value) {
         return static_cast<short>(std::lround(value * UnitLength));
     };
     const double up = normal == Upwards ? 1 : 0;
-    m_vertices.emplace_back(static_cast<float>(place.x()), static_cast<float>(place.y()),
+    m_vertices.emplace_back(static_cast<float>(position.x()), static_cast<float>(position.y()),
                             static_cast<float>(z));
     m_normals.emplace_back(component(normal.x()), component(normal.y()), component(up));
     m_colors.push_back(color);
     return static_cast<std::uint32_t>(m_vertices.size() - 1);
 }
 
-CityMesh::Places CityMesh::placesOf(const Footprints::Ring &ring, bool counterClockwise) const
+CityMesh::Positions CityMesh::positionsOf(const Footprints::Ring &ring, bool counterClockwise) const
 {
-    Places places(m_city.places.begin() + ring.begin, m_city.places.begin() + ring.end);
-    for (osg::Vec2d &place : places)
-        place -= osg::Vec2d(m_origin.x(), m_origin.y());
-    if ((doubledArea(places) > 0) != counterClockwise)
-        std::reverse(places.begin(), places.end());
-    return places;
+    Positions positions(m_city.positions.begin() + ring.begin, m_city.positions.begin() + ring.end);
+    for (osg::Vec2d &position : positions)
+        position -= osg::Vec2d(m_origin.x(), m_origin.y());
+    if ((doubledArea(positions) > 0) != counterClockwise)
+        std::reverse(positions.begin(), positions.end());
+    return positions;
 }
 
 osg::ref_ptr<osg::Geometry> CityMesh::geometry() const

@@ -43,15 +43,15 @@ public:
     osg::ref_ptr<osg::Geometry> geometry() const;
 
 private:
-    using Places = std::vector<osg::Vec2d>;
+    using Positions = std::vector<osg::Vec2d>;
 
     void addPart(std::span<const Footprints::Ring> rings, std::uint32_t building, double skirtM);
-    void addWalls(const Places &ring, double bottom, double top, const osg::Vec4ub &color);
+    void addWalls(const Positions &ring, double bottom, double top, const osg::Vec4ub &color);
     void addRoof(double top, const osg::Vec4ub &color);
-    void addBox(const Places &ring, double area, std::uint32_t building);
-    std::uint32_t vertex(const osg::Vec2d &place, double z, const osg::Vec2d &normal,
+    void addBox(const Positions &ring, double area, std::uint32_t building);
+    std::uint32_t vertex(const osg::Vec2d &position, double z, const osg::Vec2d &normal,
                          const osg::Vec4ub &color);
-    Places placesOf(const Footprints::Ring &ring, bool counterClockwise) const;
+    Positions positionsOf(const Footprints::Ring &ring, bool counterClockwise) const;
 
     const CityModel &m_city;
     osg::Vec3d m_origin;

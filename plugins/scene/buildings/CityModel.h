@@ -23,7 +23,7 @@ struct Footprints
     /// follows the outline of its part, perhaps after other holes of it.
     struct Ring
     {
-        std::uint32_t begin = 0; ///< in `places`
+        std::uint32_t begin = 0; ///< in `positions`
         std::uint32_t end = 0;
         bool isHole = false;
     };
@@ -35,7 +35,7 @@ struct Footprints
         float heightM = 0; ///< above its base; finite and positive
     };
 
-    std::vector<osg::Vec2d> places; ///< in the system of the footprints, x before y
+    std::vector<osg::Vec2d> positions; ///< in the system of the footprints, x before y
     std::vector<Ring> rings;
     std::vector<Building> buildings;
 
@@ -43,9 +43,9 @@ struct Footprints
     {
         return std::span(rings).subspan(building.ringBegin, building.ringEnd - building.ringBegin);
     }
-    std::span<const osg::Vec2d> placesOf(const Ring &ring) const
+    std::span<const osg::Vec2d> positionsOf(const Ring &ring) const
     {
-        return std::span(places).subspan(ring.begin, ring.end - ring.begin);
+        return std::span(positions).subspan(ring.begin, ring.end - ring.begin);
     }
 };
 
@@ -55,7 +55,7 @@ struct LeftOut
     std::size_t noHeight = 0;    ///< the height is missing, not a number or not finite
     std::size_t notPositive = 0; ///< the height is not positive
     std::size_t noShape = 0;     ///< there is no polygon with an area
-    std::size_t noPlace = 0;     ///< the polygon cannot be transformed to the frame
+    std::size_t noPosition = 0;  ///< the polygon cannot be transformed to the frame
 };
 
 /// The buildings of a document in a local frame. An array that is parallel to another one has the
@@ -65,8 +65,8 @@ struct CityModel
     Footprints footprints;
     std::string srs; ///< WKT of the footprints' system; empty: unknown
     SceneFrame frame;
-    std::vector<osg::Vec2d> places; ///< parallel to footprints.places, in the frame, metres
-    std::vector<float> baseM;       ///< parallel to footprints.buildings
+    std::vector<osg::Vec2d> positions; ///< parallel to footprints.positions, in the frame, metres
+    std::vector<float> baseM;          ///< parallel to footprints.buildings
     std::vector<colormaps::Rgba> wallColors; ///< parallel to footprints.buildings
     std::vector<colormaps::Rgba> roofColors;
     LeftOut leftOut;

@@ -105,7 +105,7 @@ struct Content
         const Footprints &footprints = city->footprints;
         for (const Footprints::Ring &ring : footprints.ringsOf(footprints.buildings[building])) {
             for (std::uint32_t i = ring.begin; i < ring.end; ++i)
-                bound.expandBy(city->places[i].x(), city->places[i].y(), 0);
+                bound.expandBy(city->positions[i].x(), city->positions[i].y(), 0);
         }
         return std::max(bound.xMax() - bound.xMin(), bound.yMax() - bound.yMin());
     }
@@ -117,7 +117,7 @@ public:
     CityBuilder(std::shared_ptr<const Content> content, const Progress &progress)
         : m_content(std::move(content))
         , m_progress(progress)
-        , m_isDeferred(m_content->city->places.size() > MaxPlacesAtOnce)
+        , m_isDeferred(m_content->city->positions.size() > MaxPositionsAtOnce)
     {}
 
     osg::ref_ptr<osg::Node> branch(const CityTree &tree, bool isInBlock)

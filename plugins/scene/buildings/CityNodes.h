@@ -24,7 +24,7 @@ struct CityStyle
 };
 
 /// If a city has more vertices, its tiles are made when they are drawn for the first time.
-inline constexpr std::size_t MaxPlacesAtOnce = 3'000'000;
+inline constexpr std::size_t MaxPositionsAtOnce = 3'000'000;
 
 /// A level with simpler buildings. Larger buildings are not simplified.
 struct CoarseLevel

@@ -66,23 +66,23 @@ private:
 
     bool addRing(const OGRLinearRing &ring, bool isHole)
     {
-        std::vector<osg::Vec2d> &places = m_footprints.places;
-        const std::size_t begin = places.size();
+        std::vector<osg::Vec2d> &positions = m_footprints.positions;
+        const std::size_t begin = positions.size();
         const int count = ring.getNumPoints();
         for (int i = 0; i < count; ++i) {
-            const osg::Vec2d place(ring.getX(i), ring.getY(i));
-            const bool isNew = places.size() == begin || place != places.back();
-            if (isNew && std::isfinite(place.x()) && std::isfinite(place.y()))
-                places.push_back(place);
+            const osg::Vec2d position(ring.getX(i), ring.getY(i));
+            const bool isNew = positions.size() == begin || position != positions.back();
+            if (isNew && std::isfinite(position.x()) && std::isfinite(position.y()))
+                positions.push_back(position);
         }
-        while (places.size() > begin + 1 && places.back() == places[begin])
-            places.pop_back();
-        if (!hasArea(std::span(places).subspan(begin))) {
-            places.resize(begin);
+        while (positions.size() > begin + 1 && positions.back() == positions[begin])
+            positions.pop_back();
+        if (!hasArea(std::span(positions).subspan(begin))) {
+            positions.resize(begin);
             return false;
         }
-        m_footprints.rings.push_back(
-            {static_cast<std::uint32_t>(begin), static_cast<std::uint32_t>(places.size()), isHole});
+        m_footprints.rings.push_back({static_cast<std::uint32_t>(begin),
+                                      static_cast<std::uint32_t>(positions.size()), isHole});
         return true;
     }
 
@@ -93,8 +93,8 @@ private:
         double doubled = 0;
         double extent = 0;
         osg::Vec2d before = ring.back() - ring.front();
-        for (const osg::Vec2d &place : ring) {
-            const osg::Vec2d at = place - ring.front();
+        for (const osg::Vec2d &position : ring) {
+            const osg::Vec2d at = position - ring.front();
             doubled += before.x() * at.y() - before.y() * at.x();
             extent = std::max({extent, std::abs(at.x()), std::abs(at.y())});
             before = at;
@@ -107,8 +107,8 @@ private:
     double crossedArea(std::span<const osg::Vec2d> ring)
     {
         std::vector<osg::Vec2d> near(ring.begin(), ring.end());
-        for (osg::Vec2d &place : near)
-            place -= ring.front();
+        for (osg::Vec2d &position : near)
+            position -= ring.front();
         m_roof.clear();
         m_roof.addRing(near);
         m_roof.cut();
@@ -207,7 +207,7 @@ void readFeatures(OGRLayer &layer, int heightField, ReadFootprints &read, Notice
     const auto expected = static_cast<double>(std::max<GIntBig>(layer.GetFeatureCount(FALSE), 1));
     FootprintBuilder builder(read.footprints);
     while (const OGRFeatureUniquePtr feature = nextReadable(layer, read.features, notices)) {
-        if (read.footprints.places.size() > MaxPlaces) {
+        if (read.footprints.positions.size() > MaxPositions) {
             notices.push_back(
                 contract::formatted("MESS_SCENE_SHOWN_PARTLY", {std::to_string(read.features)}));
             return;

@@ -9,7 +9,7 @@
 namespace vlt::scene {
 
 /// Maximum number of vertices of all footprints: half a gigabyte, a hundred times a typical city.
-inline constexpr std::size_t MaxPlaces = 30'000'000;
+inline constexpr std::size_t MaxPositions = 30'000'000;
 
 /// Maximum height of a building. A larger number is taken for a mark of a missing height.
 inline constexpr double MaxBuildingHeightM = 10000;
@@ -26,7 +26,7 @@ struct ReadFootprints
 {
     Footprints footprints;
     std::optional<OGRSpatialReference> srs; ///< x before y; nothing if the source declares none
-    LeftOut leftOut;                        ///< without noPlace
+    LeftOut leftOut;                        ///< without noPosition
     std::size_t features = 0;               ///< number of features read from the source
 };
 

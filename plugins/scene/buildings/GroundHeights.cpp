@@ -42,21 +42,21 @@ public:
     }
 
     /// Mean of the heights under positions; NaN if none of them has a height.
-    float meanUnder(std::span<const osg::Vec2d> places)
+    float meanUnder(std::span<const osg::Vec2d> positions)
     {
-        m_x.resize(places.size());
-        m_y.resize(places.size());
-        m_isThere.assign(places.size(), 1);
-        for (std::size_t i = 0; i < places.size(); ++i) {
-            m_x[i] = places[i].x();
-            m_y[i] = places[i].y();
+        m_x.resize(positions.size());
+        m_y.resize(positions.size());
+        m_isThere.assign(positions.size(), 1);
+        for (std::size_t i = 0; i < positions.size(); ++i) {
+            m_x[i] = positions[i].x();
+            m_y[i] = positions[i].y();
         }
         if (m_toRaster)
-            m_toRaster->Transform(static_cast<int>(places.size()), m_x.data(), m_y.data(), nullptr,
-                                  m_isThere.data());
+            m_toRaster->Transform(static_cast<int>(positions.size()), m_x.data(), m_y.data(),
+                                  nullptr, m_isThere.data());
         double sum = 0;
         int count = 0;
-        for (std::size_t i = 0; i < places.size(); ++i) {
+        for (std::size_t i = 0; i < positions.size(); ++i) {
             const auto height = m_isThere[i] ? m_raster->heightM(m_x[i], m_y[i]) : std::nullopt;
             sum += height.value_or(0);
             count += height ? 1 : 0;
@@ -127,7 +127,7 @@ std::vector<float> groundUnder(const Footprints &footprints, const OGRSpatialRef
             !progress(static_cast<double>(i) / static_cast<double>(heights.size())))
             throw Stopped{};
         const Footprints::Ring &ring = footprints.rings[footprints.buildings[i].ringBegin];
-        heights[i] = ground->meanUnder(footprints.placesOf(ring));
+        heights[i] = ground->meanUnder(footprints.positionsOf(ring));
     }
     fillIn(heights, notices);
     return heights;

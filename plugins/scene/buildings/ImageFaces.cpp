@@ -24,10 +24,10 @@ osg::ref_ptr<osg::Texture2D> textureOf(osg::Image &image, const contract::Buildi
 
 } // namespace
 
-std::uint32_t ImageFaces::vertex(const osg::Vec2d &place, double z, const osg::Vec3 &normal,
+std::uint32_t ImageFaces::vertex(const osg::Vec2d &position, double z, const osg::Vec3 &normal,
                                  const osg::Vec2d &looked, const osg::Vec4ub &color)
 {
-    m_vertices.emplace_back(static_cast<float>(place.x()), static_cast<float>(place.y()),
+    m_vertices.emplace_back(static_cast<float>(position.x()), static_cast<float>(position.y()),
                             static_cast<float>(z));
     m_normals.push_back(normal);
     m_colors.push_back(color);

@@ -46,7 +46,7 @@ public:
                                          const osg::StateSet &state, int maxSide) const;
 
 private:
-    std::uint32_t vertex(const osg::Vec2d &place, double z, const osg::Vec3 &normal,
+    std::uint32_t vertex(const osg::Vec2d &position, double z, const osg::Vec3 &normal,
                          const osg::Vec2d &looked, const osg::Vec4ub &color);
 
     std::vector<osg::Vec3> m_vertices;

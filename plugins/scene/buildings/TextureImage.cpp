@@ -92,11 +92,11 @@ std::unique_ptr<TextureImage> TextureImage::open(const std::string &name, const 
 
 void TextureImage::prepare()
 {
-    std::array<double, 6> toPlace{};
+    std::array<double, 6> toPosition{};
     if (m_dataset->GetRasterCount() < 1)
         throw BadLayer("MESS_SCENE_NO_BANDS");
-    if (m_dataset->GetGeoTransform(toPlace.data()) != CE_None ||
-        !GDALInvGeoTransform(toPlace.data(), m_toPixel.data()))
+    if (m_dataset->GetGeoTransform(toPosition.data()) != CE_None ||
+        !GDALInvGeoTransform(toPosition.data(), m_toPixel.data()))
         throw BadLayer("MESS_SCENE_NOT_PLACED");
     if (!m_transform.isUsable())
         throw BadLayer("MESS_SCENE_NO_TRANSFORMATION_FROM");
@@ -143,13 +143,13 @@ void TextureImage::findLevels()
     }
 }
 
-void TextureImage::toPixels(std::vector<osg::Vec2d> &places)
+void TextureImage::toPixels(std::vector<osg::Vec2d> &positions)
 {
     const std::lock_guard lock(m_mutex);
-    m_transform.apply(places);
-    for (osg::Vec2d &place : places)
-        place = {m_toPixel[0] + m_toPixel[1] * place.x() + m_toPixel[2] * place.y(),
-                 m_toPixel[3] + m_toPixel[4] * place.x() + m_toPixel[5] * place.y()};
+    m_transform.apply(positions);
+    for (osg::Vec2d &position : positions)
+        position = {m_toPixel[0] + m_toPixel[1] * position.x() + m_toPixel[2] * position.y(),
+                    m_toPixel[3] + m_toPixel[4] * position.x() + m_toPixel[5] * position.y()};
 }
 
 std::optional<TextureImage::Window> TextureImage::windowOf(const std::vector<osg::Vec2d> &pixels,

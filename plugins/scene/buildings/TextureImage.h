@@ -1,6 +1,6 @@
 #pragma once
 
-#include "plugins/scene/buildings/PlaceTransform.h"
+#include "plugins/scene/buildings/PositionTransform.h"
 
 #include <gdal_priv.h>
 
@@ -46,7 +46,7 @@ public:
                                               bool isKeptOpen);
 
     /// Converts positions to pixels from the image's first corner; NaN if that is not possible.
-    void toPixels(std::vector<osg::Vec2d> &places);
+    void toPixels(std::vector<osg::Vec2d> &positions);
 
     /// The part of the image that covers positions.
     ///
@@ -74,7 +74,7 @@ private:
 
     std::string m_name;
     GDALDatasetUniquePtr m_dataset; ///< null: not kept open
-    PlaceTransform m_transform;
+    PositionTransform m_transform;
     std::array<double, 6> m_toPixel{};
     int m_columns = 0;
     int m_rows = 0;

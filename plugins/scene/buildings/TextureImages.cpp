@@ -22,7 +22,7 @@ constexpr std::size_t MaxNotices = 10;
 // Horizontal faces have exactly the colours of the legend. Walls are darker the less they face the
 // viewer, so that their corners are visible.
 constexpr const char *Vertices = R"(#version 120
-varying vec2 place;
+varying vec2 position;
 varying float light;
 void main()
 {
@@ -31,7 +31,7 @@ void main()
     vec3 normal = gl_NormalMatrix * gl_Normal;
     bool isLevel = abs(gl_Normal.z) > 0.5;
     light = isLevel ? 1.0 : 0.7 + 0.3 * abs(dot(normalize(normal), normalize(look)));
-    place = gl_MultiTexCoord0.xy;
+    position = gl_MultiTexCoord0.xy;
     gl_FrontColor = gl_Color;
     gl_BackColor = gl_Color;
     gl_Position = gl_ModelViewProjectionMatrix * gl_Vertex;
@@ -40,11 +40,11 @@ void main()
 
 constexpr const char *Fragments = R"(#version 120
 uniform sampler2D picture;
-varying vec2 place;
+varying vec2 position;
 varying float light;
 void main()
 {
-    vec4 image = texture2D(picture, place);
+    vec4 image = texture2D(picture, position);
     gl_FragColor = vec4(mix(gl_Color.rgb, image.rgb, image.a) * light, 1.0);
 }
 )";

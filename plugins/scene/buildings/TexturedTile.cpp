@@ -15,7 +15,7 @@ namespace vlt::scene {
 
 namespace {
 
-using Places = std::vector<osg::Vec2d>;
+using Positions = std::vector<osg::Vec2d>;
 
 constexpr double MaxPixelsPerTile = 1 << 21; ///< 8 MiB, for all images together
 constexpr double MaxPixelsPerCity = 1 << 27; ///< all tiles together, because tiles are kept
@@ -134,12 +134,13 @@ private:
     }
 
     /// A ring in the frame, relative to the origin, in its original direction.
-    Places outlineOf(const Footprints::Ring &ring) const
+    Positions outlineOf(const Footprints::Ring &ring) const
     {
-        Places places(m_city.places.begin() + ring.begin, m_city.places.begin() + ring.end);
-        for (osg::Vec2d &place : places)
-            place -= osg::Vec2d(m_origin.x(), m_origin.y());
-        return places;
+        Positions positions(m_city.positions.begin() + ring.begin,
+                            m_city.positions.begin() + ring.end);
+        for (osg::Vec2d &position : positions)
+            position -= osg::Vec2d(m_origin.x(), m_origin.y());
+        return positions;
     }
 
     /// Adds horizontal faces with images, each at its height above the base.
@@ -149,11 +150,11 @@ private:
         const Footprints &footprints = m_city.footprints;
         const osg::Vec4ub color = opaque(m_city.roofColors[building]);
         for (const auto &part : partsOf(footprints.ringsOf(footprints.buildings[building]))) {
-            Places looked; // positions in the image, parallel to the points
+            Positions looked; // positions in the image, parallel to the points
             m_roof.clear();
             for (const Footprints::Ring &ring : part) {
-                const auto places = footprints.placesOf(ring);
-                looked.insert(looked.end(), places.begin(), places.end());
+                const auto positions = footprints.positionsOf(ring);
+                looked.insert(looked.end(), positions.begin(), positions.end());
                 m_roof.addRing(outlineOf(ring));
             }
             m_roof.cut();
@@ -164,10 +165,10 @@ private:
     }
 
     /// Adds the positions in the image for the points that m_roof.cut() added.
-    void lookUpCrossings(const Footprints::Ring &ring, Places &looked) const
+    void lookUpCrossings(const Footprints::Ring &ring, Positions &looked) const
     {
         const osg::Vec2d first = m_roof.points().front();
-        const osg::Vec2d firstLooked = m_city.footprints.places[ring.begin];
+        const osg::Vec2d firstLooked = m_city.footprints.positions[ring.begin];
         for (std::size_t i = looked.size(); i < m_roof.points().size(); ++i)
             looked.push_back(firstLooked + m_images.inSystem(m_roof.points()[i] - first));
     }
@@ -192,8 +193,8 @@ private:
     {
         const Footprints &footprints = m_city.footprints;
         for (const Footprints::Ring &ring : footprints.ringsOf(footprints.buildings[building])) {
-            const Places outline = outlineOf(ring);
-            const auto places = footprints.placesOf(ring);
+            const Positions outline = outlineOf(ring);
+            const auto positions = footprints.positionsOf(ring);
             // The outside is to the right of a counter-clockwise ring, and to the left of a hole.
             const double side = (doubledArea(outline) > 0) != ring.isHole ? 1 : -1;
             for (std::size_t i = 0; i < outline.size(); ++i) {
@@ -204,8 +205,8 @@ private:
                     continue;
                 normal *= side;
                 const osg::Vec2d aside = m_images.inSystem(normal * m_textures.bufferM.value_or(0));
-                addBands(building, {outline[i], outline[next], normal, places[i] + aside,
-                                    places[next] + aside});
+                addBands(building, {outline[i], outline[next], normal, positions[i] + aside,
+                                    positions[next] + aside});
             }
         }
     }
@@ -239,8 +240,8 @@ private:
             return;
         const Footprints &footprints = m_city.footprints;
         for (const Footprints::Ring &ring : footprints.ringsOf(footprints.buildings[building])) {
-            for (const osg::Vec2d &place : outlineOf(ring))
-                m_edges.line(edge(place, base), edge(place, top));
+            for (const osg::Vec2d &position : outlineOf(ring))
+                m_edges.line(edge(position, base), edge(position, top));
         }
     }
 
@@ -250,7 +251,7 @@ private:
             return;
         const Footprints &footprints = m_city.footprints;
         for (const Footprints::Ring &ring : footprints.ringsOf(footprints.buildings[building])) {
-            const Places outline = outlineOf(ring);
+            const Positions outline = outlineOf(ring);
             unsigned before = edge(outline.front(), z);
             const unsigned first = before;
             for (std::size_t i = 1; i < outline.size(); ++i) {
@@ -262,9 +263,9 @@ private:
         }
     }
 
-    unsigned edge(const osg::Vec2d &place, double z)
+    unsigned edge(const osg::Vec2d &position, double z)
     {
-        return m_edges.vertex(osg::Vec3d(place.x(), place.y(), z), osg::Z_AXIS,
+        return m_edges.vertex(osg::Vec3d(position.x(), position.y(), z), osg::Z_AXIS,
                               opaque(*m_edgeColor));
     }
 

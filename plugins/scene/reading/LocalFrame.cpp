@@ -12,13 +12,13 @@ namespace {
 constexpr double DegreesPerRadian = 57.29577951308232;
 constexpr double WholeTurnRad = 2 * 3.14159265358979324;
 
-osg::Vec2d middleOf(const std::vector<osg::Vec2d> &places)
+osg::Vec2d middleOf(const std::vector<osg::Vec2d> &positions)
 {
-    osg::Vec2d least = places.empty() ? osg::Vec2d() : places.front();
+    osg::Vec2d least = positions.empty() ? osg::Vec2d() : positions.front();
     osg::Vec2d most = least;
-    for (const osg::Vec2d &place : places) {
-        least.set(std::min(least.x(), place.x()), std::min(least.y(), place.y()));
-        most.set(std::max(most.x(), place.x()), std::max(most.y(), place.y()));
+    for (const osg::Vec2d &position : positions) {
+        least.set(std::min(least.x(), position.x()), std::min(least.y(), position.y()));
+        most.set(std::max(most.x(), position.x()), std::max(most.y(), position.y()));
     }
     return (least + most) / 2;
 }
@@ -27,26 +27,26 @@ osg::Vec2d middleOf(const std::vector<osg::Vec2d> &places)
 /// longitudes are increased by 360 degrees first.
 ///
 /// @param wholeTurn  360 degrees in the unit of the positions
-osg::Vec2d geographicMiddle(std::vector<osg::Vec2d> places, double wholeTurn)
+osg::Vec2d geographicMiddle(std::vector<osg::Vec2d> positions, double wholeTurn)
 {
     const auto [west, east] =
-        std::minmax_element(places.begin(), places.end(),
+        std::minmax_element(positions.begin(), positions.end(),
                             [](const osg::Vec2d &a, const osg::Vec2d &b) { return a.x() < b.x(); });
-    if (!places.empty() && east->x() - west->x() > wholeTurn / 2) {
-        for (osg::Vec2d &place : places)
-            place.x() += place.x() < 0 ? wholeTurn : 0;
+    if (!positions.empty() && east->x() - west->x() > wholeTurn / 2) {
+        for (osg::Vec2d &position : positions)
+            position.x() += position.x() < 0 ? wholeTurn : 0;
     }
-    osg::Vec2d middle = middleOf(places);
+    osg::Vec2d middle = middleOf(positions);
     if (middle.x() > wholeTurn / 2)
         middle.x() -= wholeTurn;
     return middle;
 }
 
-osg::Vec2d transformed(OGRCoordinateTransformation &transformation, osg::Vec2d place)
+osg::Vec2d transformed(OGRCoordinateTransformation &transformation, osg::Vec2d position)
 {
-    if (!transformation.Transform(1, &place.x(), &place.y()))
-        place.set(NAN, NAN);
-    return place;
+    if (!transformation.Transform(1, &position.x(), &position.y()))
+        position.set(NAN, NAN);
+    return position;
 }
 
 /// Whether the axes of a system point to the west and south, as in South African grids.
@@ -61,10 +61,10 @@ bool countsWestAndSouth(const OGRSpatialReference &srs)
 
 } // namespace
 
-LocalFrame::LocalFrame(const OGRSpatialReference *srs, const std::vector<osg::Vec2d> &places)
+LocalFrame::LocalFrame(const OGRSpatialReference *srs, const std::vector<osg::Vec2d> &positions)
 {
     if (srs && srs->IsGeographic()) {
-        projectAround(*srs, places);
+        projectAround(*srs, positions);
         return;
     }
     if (srs && !srs->IsProjected() && !srs->IsLocal())
@@ -72,15 +72,15 @@ LocalFrame::LocalFrame(const OGRSpatialReference *srs, const std::vector<osg::Ve
     m_unitM = srs ? srs->GetLinearUnits() : 1;
     if (srs && countsWestAndSouth(*srs))
         m_unitM = -m_unitM;
-    m_centre = middleOf(places);
+    m_centre = middleOf(positions);
 }
 
 void LocalFrame::projectAround(const OGRSpatialReference &srs,
-                               const std::vector<osg::Vec2d> &places)
+                               const std::vector<osg::Vec2d> &positions)
 {
     const double unitRad = srs.GetAngularUnits();
     const double unitDeg = unitRad * DegreesPerRadian;
-    m_centre = geographicMiddle(places, WholeTurnRad / unitRad);
+    m_centre = geographicMiddle(positions, WholeTurnRad / unitRad);
     OGRSpatialReference plane;
     plane.SetProjCS("around the places");
     plane.CopyGeogCSFrom(&srs);
@@ -95,14 +95,14 @@ void LocalFrame::projectAround(const OGRSpatialReference &srs,
         throw BadLayer("MESS_SCENE_NO_PROJECTION");
 }
 
-osg::Vec2d LocalFrame::toFrame(const osg::Vec2d &place) const
+osg::Vec2d LocalFrame::toFrame(const osg::Vec2d &position) const
 {
-    return m_toPlane ? transformed(*m_toPlane, place) : (place - m_centre) * m_unitM;
+    return m_toPlane ? transformed(*m_toPlane, position) : (position - m_centre) * m_unitM;
 }
 
-osg::Vec2d LocalFrame::fromFrame(const osg::Vec2d &place) const
+osg::Vec2d LocalFrame::fromFrame(const osg::Vec2d &position) const
 {
-    return m_fromPlane ? transformed(*m_fromPlane, place) : place / m_unitM + m_centre;
+    return m_fromPlane ? transformed(*m_fromPlane, position) : position / m_unitM + m_centre;
 }
 
 } // namespace vlt::scene

@@ -20,19 +20,19 @@ class LocalFrame
 public:
     /// @param srs  system of the positions, x before y; may be null
     /// @throws BadLayer  the system is neither projected nor geographic
-    LocalFrame(const OGRSpatialReference *srs, const std::vector<osg::Vec2d> &places);
+    LocalFrame(const OGRSpatialReference *srs, const std::vector<osg::Vec2d> &positions);
 
     /// Centre of the rectangle around all positions, in `srs`.
     const osg::Vec2d &centre() const { return m_centre; }
 
     /// Transforms a position from `srs` to the frame; NaN if it cannot be projected.
-    osg::Vec2d toFrame(const osg::Vec2d &place) const;
+    osg::Vec2d toFrame(const osg::Vec2d &position) const;
 
     /// Transforms a position from the frame to `srs`.
-    osg::Vec2d fromFrame(const osg::Vec2d &place) const;
+    osg::Vec2d fromFrame(const osg::Vec2d &position) const;
 
 private:
-    void projectAround(const OGRSpatialReference &srs, const std::vector<osg::Vec2d> &places);
+    void projectAround(const OGRSpatialReference &srs, const std::vector<osg::Vec2d> &positions);
 
     osg::Vec2d m_centre;
     double m_unitM = 1; ///< of a projected system; negative for axes to the west and south

@@ -39,21 +39,22 @@ double medianOf(std::vector<double> values)
 
 /// The positions that determine the centre of a frame. A mistyped position far outside the earth is
 /// left out, because a frame that included it would be too far from all others.
-std::vector<osg::Vec2d> likely(const std::vector<osg::Vec2d> &places, double unitM)
+std::vector<osg::Vec2d> likely(const std::vector<osg::Vec2d> &positions, double unitM)
 {
-    if (places.empty())
+    if (positions.empty())
         return {};
     std::vector<double> x;
     std::vector<double> y;
-    for (const osg::Vec2d &place : places) {
-        x.push_back(place.x());
-        y.push_back(place.y());
+    for (const osg::Vec2d &position : positions) {
+        x.push_back(position.x());
+        y.push_back(position.y());
     }
     const osg::Vec2d midst(medianOf(std::move(x)), medianOf(std::move(y)));
     std::vector<osg::Vec2d> near;
-    std::copy_if(
-        places.begin(), places.end(), std::back_inserter(near),
-        [&](const osg::Vec2d &place) { return (place - midst).length() * unitM <= MaxDistanceM; });
+    std::copy_if(positions.begin(), positions.end(), std::back_inserter(near),
+                 [&](const osg::Vec2d &position) {
+                     return (position - midst).length() * unitM <= MaxDistanceM;
+                 });
     return near;
 }
 
@@ -127,9 +128,9 @@ std::optional<osg::Vec2d> placeOf(const OGRFeature &feature)
     if (!geometry || wkbFlatten(geometry->getGeometryType()) != wkbPoint || geometry->IsEmpty())
         return std::nullopt;
     const OGRPoint &point = *geometry->toPoint();
-    const osg::Vec2d place(point.getX(), point.getY());
-    return std::isfinite(place.x()) && std::isfinite(place.y()) ? std::optional(place)
-                                                                : std::nullopt;
+    const osg::Vec2d position(point.getX(), point.getY());
+    return std::isfinite(position.x()) && std::isfinite(position.y()) ? std::optional(position)
+                                                                      : std::nullopt;
 }
 
 std::optional<double> numberAt(const OGRFeature &feature, int field, double least, double most)
@@ -147,19 +148,19 @@ std::string textAt(const OGRFeature &feature, int field)
     return field < 0 ? std::string() : feature.GetFieldAsString(field);
 }
 
-SceneFrame moveToFrame(OGRLayer &layer, std::vector<osg::Vec2d> &places)
+SceneFrame moveToFrame(OGRLayer &layer, std::vector<osg::Vec2d> &positions)
 {
-    return moveToFrame(layer.GetSpatialRef(), places);
+    return moveToFrame(layer.GetSpatialRef(), positions);
 }
 
-SceneFrame moveToFrame(const OGRSpatialReference *srs, std::vector<osg::Vec2d> &places)
+SceneFrame moveToFrame(const OGRSpatialReference *srs, std::vector<osg::Vec2d> &positions)
 {
     const double unitM = srs && srs->IsProjected() ? srs->GetLinearUnits() : 1;
-    SceneFrame frame{std::make_shared<LocalFrame>(srs, likely(places, unitM)), nameOf(srs)};
-    for (osg::Vec2d &place : places) {
-        place = frame.local->toFrame(place);
-        if (!(place.length() <= MaxDistanceM))
-            place.x() = std::numeric_limits<double>::quiet_NaN();
+    SceneFrame frame{std::make_shared<LocalFrame>(srs, likely(positions, unitM)), nameOf(srs)};
+    for (osg::Vec2d &position : positions) {
+        position = frame.local->toFrame(position);
+        if (!(position.length() <= MaxDistanceM))
+            position.x() = std::numeric_limits<double>::quiet_NaN();
     }
     return frame;
 }

@@ -41,9 +41,9 @@ std::string textAt(const OGRFeature &feature, int field);
 
 /// Transforms positions from a layer's system to a frame around them. The x of a position that is
 /// not on the earth becomes NaN.
-SceneFrame moveToFrame(OGRLayer &layer, std::vector<osg::Vec2d> &places);
+SceneFrame moveToFrame(OGRLayer &layer, std::vector<osg::Vec2d> &positions);
 
 /// The same for positions in a system, x before y; null: unknown.
-SceneFrame moveToFrame(const OGRSpatialReference *srs, std::vector<osg::Vec2d> &places);
+SceneFrame moveToFrame(const OGRSpatialReference *srs, std::vector<osg::Vec2d> &positions);
 
 } // namespace vlt::scene

@@ -67,8 +67,8 @@ public:
         m_heights.reserve(m_columns * m_rows);
         for (std::size_t row = 0; row < m_rows; ++row) {
             for (std::size_t column = 0; column < m_columns; ++column) {
-                const osg::Vec2d place = frame.fromFrame(at(column, row));
-                m_heights.push_back(profiler.groundM(place.x(), place.y()));
+                const osg::Vec2d position = frame.fromFrame(at(column, row));
+                m_heights.push_back(profiler.groundM(position.x(), position.y()));
             }
         }
     }
@@ -83,11 +83,11 @@ public:
                 const std::size_t i = row * m_columns + column;
                 if (!m_heights[i])
                     continue;
-                const osg::Vec2d place = at(column, row);
+                const osg::Vec2d position = at(column, row);
                 const double share = (*m_heights[i] - least) / std::max(most - least, 1.0);
                 const double bright = light(column, row);
                 vertices[i] =
-                    mesh.vertex(osg::Vec3d(place.x(), place.y(), *m_heights[i]), osg::Z_AXIS,
+                    mesh.vertex(osg::Vec3d(position.x(), position.y(), *m_heights[i]), osg::Z_AXIS,
                                 isWater(column, row) ? lit(Water, bright) : earthAt(share, bright));
             }
         }

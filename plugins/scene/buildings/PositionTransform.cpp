@@ -1,4 +1,4 @@
-#include "plugins/scene/buildings/PlaceTransform.h"
+#include "plugins/scene/buildings/PositionTransform.h"
 
 #include "localfiles/NoNetwork.h"
 
@@ -9,7 +9,7 @@
 
 namespace vlt::scene {
 
-PlaceTransform::PlaceTransform(const std::string &from, const OGRSpatialReference *to)
+PositionTransform::PositionTransform(const std::string &from, const OGRSpatialReference *to)
 {
     if (from.empty() || !to || to->IsEmpty())
         return;
@@ -29,23 +29,23 @@ PlaceTransform::PlaceTransform(const std::string &from, const OGRSpatialReferenc
     m_isUsable = m_transformation != nullptr;
 }
 
-void PlaceTransform::apply(std::span<osg::Vec2d> places) const
+void PositionTransform::apply(std::span<osg::Vec2d> positions) const
 {
-    if (!m_transformation || places.empty())
+    if (!m_transformation || positions.empty())
         return;
     const CPLErrorHandlerPusher quiet(CPLQuietErrorHandler);
-    const std::size_t count = places.size();
+    const std::size_t count = positions.size();
     std::vector<double> x;
     std::vector<double> y;
-    for (const osg::Vec2d &place : places) {
-        x.push_back(place.x());
-        y.push_back(place.y());
+    for (const osg::Vec2d &position : positions) {
+        x.push_back(position.x());
+        y.push_back(position.y());
     }
     std::vector<int> succeeded(count, FALSE);
     m_transformation->Transform(static_cast<int>(count), x.data(), y.data(), nullptr,
                                 succeeded.data());
     for (std::size_t i = 0; i < count; ++i)
-        places[i] = succeeded[i] ? osg::Vec2d(x[i], y[i]) : osg::Vec2d(NAN, NAN);
+        positions[i] = succeeded[i] ? osg::Vec2d(x[i], y[i]) : osg::Vec2d(NAN, NAN);
 }
 
 } // namespace vlt::scene
