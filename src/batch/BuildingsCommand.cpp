@@ -53,22 +53,22 @@ Result<BuildingLayerFiles> writeFiles(const BuildingsRequest &request,
                                       const BuildingsInputs &inputs)
 {
     constexpr auto access = platform::Access::Shared;
-    return request.look
-               ? buildings::writeTexturedLayer(request.output, inputs.layer, inputs.look, access)
-               : buildings::writeColoredLayer(request.output, inputs.layer, inputs.coloring,
-                                              access);
+    return request.texturing ? buildings::writeTexturedLayer(request.output, inputs.layer,
+                                                             inputs.texturing, access)
+                             : buildings::writeColoredLayer(request.output, inputs.layer,
+                                                            inputs.coloring, access);
 }
 
 void warnOfImages(const BuildingsInputs &inputs)
 {
-    if (!inputs.look.textures) {
+    if (!inputs.texturing.textures) {
         if (inputs.coloring.rasterFile.isEmpty())
             printError(dico_label(
                 "MESS_CLI_PLAIN",
                 "the buildings have no images: neither --texture nor --textures is given"));
         return;
     }
-    const QList<buildings::FileEntry> &images = inputs.look.images;
+    const QList<buildings::FileEntry> &images = inputs.texturing.images;
     const auto count =
         std::count_if(images.begin(), images.end(),
                       [](const buildings::FileEntry &image) { return image.height == 0; });
@@ -86,7 +86,7 @@ QString layerJson(const BuildingsRequest &request, const BuildingsInputs &inputs
         return text.isEmpty() ? QJsonValue(QJsonValue::Null) : QJsonValue(text);
     };
     const TexbSubtype subtype =
-        request.look ? buildings::subtypeOf(inputs.look.mode) : TexbSubtype::Colored;
+        request.texturing ? buildings::subtypeOf(inputs.texturing.mode) : TexbSubtype::Colored;
     QJsonObject object{{QStringLiteral("layer"), QFileInfo(files.layer).absoluteFilePath()},
                        {QStringLiteral("document"), files.document},
                        {QStringLiteral("legend"), textOrNull(files.legend)},
@@ -103,8 +103,8 @@ QString layerJson(const BuildingsRequest &request, const BuildingsInputs &inputs
                        {QStringLiteral("colormap"), textOrNull(inputs.coloring.colorMap)},
                        {QStringLiteral("xCenter"), source.xCenter},
                        {QStringLiteral("yCenter"), source.yCenter}};
-    if (request.look)
-        object.insert(QStringLiteral("textures"), inputs.look.images.size());
+    if (request.texturing)
+        object.insert(QStringLiteral("textures"), inputs.texturing.images.size());
     return QString::fromUtf8(QJsonDocument(object).toJson());
 }
 
@@ -124,7 +124,7 @@ ExitStatus runParsed(const BuildingsRequest &request, const GlobalOptions &optio
         return refuse(written.error());
     if (!inputs.value().terrainWarning.isEmpty() && !options.quiet)
         printError(inputs.value().terrainWarning);
-    if (request.look && !options.quiet)
+    if (request.texturing && !options.quiet)
         warnOfImages(inputs.value());
     if (options.json && !printOut(layerJson(request, inputs.value(), written.value())))
         return refuse({QStringLiteral("MESS_CLI_OUTPUT_FAILED"),

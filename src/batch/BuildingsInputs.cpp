@@ -180,20 +180,20 @@ Result<BuildingsInputs> readBuildingsInputs(const BuildingsRequest &request,
         inputs.layer.legend = legend.value();
         inputs.files += {fileOfDataset(inputs.coloring.rasterFile), inputs.coloring.colorMap};
     }
-    if (!request.look)
+    if (!request.texturing)
         return inputs;
 
-    inputs.look = *request.look;
-    for (QString *color : {&inputs.look.wallColor, &inputs.look.roofColor}) {
+    inputs.texturing = *request.texturing;
+    for (QString *color : {&inputs.texturing.wallColor, &inputs.texturing.roofColor}) {
         if (*color == QLatin1String(ColorMapWord))
             *color = buildings::colorMapColor(inputs.coloring);
     }
-    if (!inputs.look.textures)
+    if (!inputs.texturing.textures)
         return inputs;
     const auto images = readTextures(request.textures, quiet);
     if (!images)
         return images.error();
-    inputs.look.images = images.value();
+    inputs.texturing.images = images.value();
     for (const buildings::FileEntry &image : images.value())
         inputs.files += fileOfDataset(image.file.filePath());
     return inputs;

@@ -9,8 +9,8 @@ namespace vlt::batch {
 struct BuildingsInputs
 {
     buildings::BuildingLayerInput layer;
-    buildings::RasterColoring coloring;  ///< without a raster if none is requested
-    buildings::TexturingParameters look; ///< of the request, with images if it has textures
+    buildings::RasterColoring coloring;       ///< without a raster if none is requested
+    buildings::TexturingParameters texturing; ///< of the request, with images if it has textures
     qint64 buildingCount = -1; ///< -1 if the format would have to read all features to count them
     QString terrainWarning;    ///< about a raster that is probably no terrain; else empty
     QStringList files;         ///< all files that are read and so must not be written

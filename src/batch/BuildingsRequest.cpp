@@ -178,7 +178,7 @@ Result<BuildingTextures> readTextures(const QCommandLineParser &parser,
     return textures;
 }
 
-/// Reads the look without its textures.
+/// Reads the parameters without the textures.
 Result<buildings::TexturingParameters> readTexturingParameters(const QCommandLineParser &parser,
                                                                const BuildingsMeasures &measures)
 {
@@ -202,12 +202,12 @@ Result<buildings::TexturingParameters> readTexturingParameters(const QCommandLin
         return wrongUsage(dico_label(
             "MESS_USE_NEEDS_COLORMAP",
             "--image needs --wall-color colormap or --roof-color colormap for these buildings"));
-    buildings::TexturingParameters look;
-    look.cache = cache.value();
-    look.texturedVisibilityM = measures.texturedDistanceM;
-    look.wallColor = walls.value();
-    look.roofColor = roofs.value();
-    return look;
+    buildings::TexturingParameters texturing;
+    texturing.cache = cache.value();
+    texturing.texturedVisibilityM = measures.texturedDistanceM;
+    texturing.wallColor = walls.value();
+    texturing.roofColor = roofs.value();
+    return texturing;
 }
 
 /// Reads where the images are and how they are placed on the buildings.
@@ -234,8 +234,8 @@ std::optional<Error> readTextureChoice(const QCommandLineParser &parser,
     const Result<BuildingTextures> textures = readTextures(parser, measures);
     if (!textures)
         return textures.error();
-    request.look->mode = static_cast<contract::TextureMode>(part.value());
-    request.look->textures = textures.value();
+    request.texturing->mode = static_cast<contract::TextureMode>(part.value());
+    request.texturing->textures = textures.value();
     return std::nullopt;
 }
 
@@ -277,10 +277,11 @@ Result<BuildingsRequest> readBuildingsRequest(const QCommandLineParser &parser)
     }
     if (!hasTexturingOptions(parser))
         return request;
-    const Result<buildings::TexturingParameters> look = readTexturingParameters(parser, measures);
-    if (!look)
-        return look.error();
-    request.look = look.value();
+    const Result<buildings::TexturingParameters> texturing =
+        readTexturingParameters(parser, measures);
+    if (!texturing)
+        return texturing.error();
+    request.texturing = texturing.value();
     if (hasTextures(parser)) {
         if (const auto error = readTextureChoice(parser, measures, request))
             return *error;

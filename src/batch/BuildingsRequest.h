@@ -31,8 +31,8 @@ struct BuildingsRequest
     std::optional<buildings::RasterColoring> image; ///< image and colour map as given
     /// None for buildings with the image's colours; without textures for plain buildings. The
     /// textures have no images yet, and the colours may be ColorMapWord.
-    std::optional<buildings::TexturingParameters> look;
-    TextureChoice textures; ///< of a look with textures
+    std::optional<buildings::TexturingParameters> texturing;
+    TextureChoice textures; ///< for parameters with textures
 };
 
 /// The request of the options; options that are not given have their first-run values.

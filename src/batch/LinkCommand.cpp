@@ -20,7 +20,7 @@ namespace {
 /// Values of the options that only this command has.
 struct LinkRequest
 {
-    links::LinkRepresentation look;
+    links::LinkRepresentation representation;
     std::optional<QString> terrain; ///< as given; an empty text for no terrain
     bool report = false;
 };
@@ -62,10 +62,10 @@ CommandSyntax syntax()
 Result<LinkRequest> readLinkRequest(const QCommandLineParser &parser)
 {
     LinkRequest request;
-    const Result<links::LinkRepresentation> look = readLinkOptions(parser);
-    if (!look)
-        return look.error();
-    request.look = look.value();
+    const Result<links::LinkRepresentation> representation = readLinkOptions(parser);
+    if (!representation)
+        return representation.error();
+    request.representation = representation.value();
     const QString terrain = QStringLiteral("terrain");
     if (parser.isSet(terrain))
         request.terrain = parser.value(terrain);
@@ -81,7 +81,7 @@ Result<geodata::LinkCheck> readLinks(const links::LinkLayerInput &input, const L
                                      bool quiet)
 {
     geodata::LinkCheckInput check;
-    check.rule = {wanted.look.fresnelSharePercent / 100.0, wanted.look.kFactor};
+    check.rule = {wanted.representation.fresnelSharePercent / 100.0, wanted.representation.kFactor};
     if (wanted.report)
         check.terrainFile = input.project.terrainFile;
     ProgressLine line(dico_label("MESS_CLI_READING_LINKS", "Reading the links"), !quiet);
@@ -174,7 +174,7 @@ ExitStatus runParsed(const QCommandLineParser &parser, const LinkRequest &wanted
     input.sourceSrs = systems.source;
     input.targetSrs = systems.target;
     input.pylons = request.pylons;
-    input.links = wanted.look;
+    input.links = wanted.representation;
     input.catalogues = request.catalogues;
     input.project = project;
     input.installDir = surroundings.installDir;

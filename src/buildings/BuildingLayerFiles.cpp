@@ -217,22 +217,22 @@ Result<BuildingLayerFiles> writeColoredLayer(const QString &layerPath,
 
 Result<BuildingLayerFiles> writeTexturedLayer(const QString &layerPath,
                                               const BuildingLayerInput &input,
-                                              const TexturingParameters &look,
+                                              const TexturingParameters &texturing,
                                               platform::Access access)
 {
     contract::BuildingDocument document = documentOf(input);
-    document.cache = look.cache;
-    document.footprints.texturedVisibilityM = look.texturedVisibilityM;
-    document.footprints.wallColor = look.wallColor.toStdString();
-    document.footprints.roofColor = look.roofColor.toStdString();
-    document.textures = look.textures;
+    document.cache = texturing.cache;
+    document.footprints.texturedVisibilityM = texturing.texturedVisibilityM;
+    document.footprints.wallColor = texturing.wallColor.toStdString();
+    document.footprints.roofColor = texturing.roofColor.toStdString();
+    document.textures = texturing.textures;
     if (document.textures) {
-        document.textures->mode = look.mode;
-        document.textures->images = usedImages(look.images);
+        document.textures->mode = texturing.mode;
+        document.textures->images = usedImages(texturing.images);
     }
-    const QString images = texturedInfoText(look.mode, look.images);
+    const QString images = texturedInfoText(texturing.mode, texturing.images);
     return FilesWriter(layerPath, input, access)
-        .write(writeTexbDocument(document), subtypeOf(look.mode),
+        .write(writeTexbDocument(document), subtypeOf(texturing.mode),
                [&images](const QString &legend) { return QString(images + legend); });
 }
 

@@ -69,7 +69,7 @@ struct TexturingParameters
 /// The same for the full document.
 Result<BuildingLayerFiles> writeTexturedLayer(const QString &layerPath,
                                               const BuildingLayerInput &input,
-                                              const TexturingParameters &look,
+                                              const TexturingParameters &texturing,
                                               platform::Access access);
 
 } // namespace vlt::buildings

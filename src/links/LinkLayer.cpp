@@ -45,15 +45,16 @@ QString dish(double heightM, double azimuthDeg, const QString &color)
         parametric::Dish, {text::g6(heightM), text::g6(azimuthDeg), QStringLiteral("0 0"), color});
 }
 
-QStringList demoPylons(const sites::SiteRepresentation &look, const sites::SectorColorSet &colors)
+QStringList demoPylons(const sites::SiteRepresentation &representation,
+                       const sites::SectorColorSet &colors)
 {
     QStringList items;
     int dishes = 0;
     const auto nextColor = [&] {
-        return sites::colorText(colors, dishes++, look.transparencyPercent);
+        return sites::colorText(colors, dishes++, representation.transparencyPercent);
     };
     for (std::size_t i = 0; i < DemoPylons.size(); ++i) {
-        items << sites::pylonItem(look, DemoPylons[i].x, DemoPylons[i].y);
+        items << sites::pylonItem(representation, DemoPylons[i].x, DemoPylons[i].y);
         if (i > 0)
             items << dish(DemoHeightsM[i - 1], DemoPylons[i - 1].azimuthDeg + 180, nextColor());
         if (i < DemoHeightsM.size())

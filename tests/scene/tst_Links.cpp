@@ -36,13 +36,13 @@ LinkSceneQuery demonstration()
     return parseLinkQuery(Demonstration);
 }
 
-LinkAppearance lookOf(LinkStyle style, double width)
+LinkAppearance appearanceOf(LinkStyle style, double width)
 {
-    LinkAppearance look;
-    look.style = style;
-    look.width = width;
-    look.color = Color(0, 255, 0, 255);
-    return look;
+    LinkAppearance appearance;
+    appearance.style = style;
+    appearance.width = width;
+    appearance.color = Color(0, 255, 0, 255);
+    return appearance;
 }
 
 /// Collects the properties of all drawables; positions are in the scene's coordinates.
@@ -146,10 +146,10 @@ private Q_SLOTS:
         QVERIFY(scene.links[0].b == osg::Vec3d(200, 0, 23) && !scene.links[0].color);
         QCOMPARE(scene.links[0].frequencyMHz, 200.0);
         QVERIFY(scene.links[1].color == Color(1, 2, 3, 255));
-        QVERIFY(scene.look.style == LinkStyle::Tube && scene.look.width == 4);
-        QVERIFY(scene.look.fresnelZone == 1 && scene.look.fresnelShare == 0.6);
-        QVERIFY(scene.look.fresnelColor == Color(255, 165, 0, 102));
-        QCOMPARE(scene.look.kFactor, 1.33333);
+        QVERIFY(scene.appearance.style == LinkStyle::Tube && scene.appearance.width == 4);
+        QVERIFY(scene.appearance.fresnelZone == 1 && scene.appearance.fresnelShare == 0.6);
+        QVERIFY(scene.appearance.fresnelColor == Color(255, 165, 0, 102));
+        QCOMPARE(scene.appearance.kFactor, 1.33333);
     }
 
     void refusesWhatCannotBeDrawn_data()
@@ -190,8 +190,8 @@ private Q_SLOTS:
                                : key == "fresnel_color" ? "00000000"
                                                         : "1");
         };
-        const LinkAppearance look = readLinkAppearance(item, ClearanceWord::Accepted);
-        QVERIFY(look.colorByClearance && look.color == Color(0x1f, 0x6f, 0xeb, 0x80));
+        const LinkAppearance appearance = readLinkAppearance(item, ClearanceWord::Accepted);
+        QVERIFY(appearance.colorByClearance && appearance.color == Color(0x1f, 0x6f, 0xeb, 0x80));
     }
 
     void opensThroughTheLoader()
@@ -229,13 +229,13 @@ private Q_SLOTS:
         QFETCH(double, detour);
         const osg::Vec3d a(652000.25, 983000.5, 120);
         const osg::Vec3d axis(way[0], way[1], way[2]);
-        LinkAppearance look = lookOf(LinkStyle::Line, 1);
-        look.color = Color(0, 0, 0, 0);
-        look.fresnelZone = zone;
-        look.fresnelShare = share;
-        look.fresnelColor = Color(255, 165, 0, 102);
+        LinkAppearance appearance = appearanceOf(LinkStyle::Line, 1);
+        appearance.color = Color(0, 0, 0, 0);
+        appearance.fresnelZone = zone;
+        appearance.fresnelShare = share;
+        appearance.fresnelColor = Color(255, 165, 0, 102);
 
-        const Finder zones = found(*buildLinks({{a, a + axis, frequencyMHz, {}}}, look));
+        const Finder zones = found(*buildLinks({{a, a + axis, frequencyMHz, {}}}, appearance));
 
         QCOMPARE(zones.drawables, 1);
         const double tolerance = axis.length() > 10000 ? 0.005 : 0.001; // single precision
@@ -280,7 +280,7 @@ private Q_SLOTS:
         QFETCH(bool, isParallel);
         QFETCH(int, pixels);
         const osg::ref_ptr<osg::Group> scene =
-            buildLinks({{{-9000, 0, 0}, {9000, 0, 0}, 0, {}}}, lookOf(style, width));
+            buildLinks({{{-9000, 0, 0}, {9000, 0, 0}, 0, {}}}, appearanceOf(style, width));
 
         const auto image = picture(scene, {eye[0], eye[1], eye[2]}, isParallel);
 
@@ -304,12 +304,12 @@ private Q_SLOTS:
     {
         QFETCH(QList<double>, eye);
         QFETCH(int, red);
-        LinkAppearance look = lookOf(LinkStyle::Line, 1);
-        look.color = Color(0, 0, 0, 0);
-        look.fresnelZone = 1;
-        look.fresnelColor = Color(255, 165, 0, 102);
+        LinkAppearance appearance = appearanceOf(LinkStyle::Line, 1);
+        appearance.color = Color(0, 0, 0, 0);
+        appearance.fresnelZone = 1;
+        appearance.fresnelColor = Color(255, 165, 0, 102);
 
-        const auto image = picture(buildLinks({{{-500, 0, 0}, {500, 0, 0}, 30, {}}}, look),
+        const auto image = picture(buildLinks({{{-500, 0, 0}, {500, 0, 0}, 30, {}}}, appearance),
                                    {eye[0], eye[1], eye[2]}, false);
 
         if (!image)
@@ -333,12 +333,12 @@ private Q_SLOTS:
     {
         QFETCH(LinkStyle, style);
         QFETCH(double, eye);
-        LinkAppearance look = lookOf(style, 3);
-        look.fresnelZone = 1;
-        look.fresnelColor = Color(255, 0, 0, 200);
+        LinkAppearance appearance = appearanceOf(style, 3);
+        appearance.fresnelZone = 1;
+        appearance.fresnelColor = Color(255, 0, 0, 200);
 
-        const auto image = picture(buildLinks({{{-9000, 0, 0}, {9000, 0, 0}, 6000, {}}}, look),
-                                   {0, eye, 0}, false);
+        const auto image = picture(
+            buildLinks({{{-9000, 0, 0}, {9000, 0, 0}, 6000, {}}}, appearance), {0, eye, 0}, false);
 
         if (!image)
             QSKIP("no screen");
@@ -353,16 +353,16 @@ private Q_SLOTS:
 
     void keepsManyLinksSmall()
     {
-        LinkAppearance look = lookOf(LinkStyle::Tube, 4);
-        look.fresnelZone = 1;
-        look.fresnelColor = Color(255, 165, 0, 102);
+        LinkAppearance appearance = appearanceOf(LinkStyle::Tube, 4);
+        appearance.fresnelZone = 1;
+        appearance.fresnelColor = Color(255, 165, 0, 102);
         std::vector<LinkObject> links;
         for (int i = 0; i < 10000; ++i) {
             const osg::Vec3d a((i % 100) * 5000, (i / 100) * 5000, 100);
             links.push_back({a, a + osg::Vec3d(4000, 3000, 50), 18000, {}});
         }
 
-        const osg::ref_ptr<osg::Group> scene = buildLinks(links, look);
+        const osg::ref_ptr<osg::Group> scene = buildLinks(links, appearance);
 
         const Finder all = found(*scene);
         qInfo("%zu vertices, %d drawables", all.vertices.size(), all.drawables);

@@ -55,8 +55,8 @@ osg::ref_ptr<osg::Group> readLinks(const LayerFile &file, const Directories &dir
     osg::ref_ptr<osg::Node> surface;
     if (request.withTerrain)
         surface = buildTerrainSurface(profiler, *links.frame.local, extentOf(records.pylons));
-    osg::ref_ptr<osg::Group> scene =
-        buildLinkLayerScene(links, std::move(records), style.look, file.title, request.content);
+    osg::ref_ptr<osg::Group> scene = buildLinkLayerScene(
+        links, std::move(records), style.appearance, file.title, request.content);
     if (surface)
         scene->addChild(surface);
     else if (request.withTerrain)

@@ -10,8 +10,8 @@
 namespace vlt::scene {
 
 osg::ref_ptr<osg::Group> buildLinkLayerScene(const LinkRows &rows, LinkRecords records,
-                                             const LinkAppearance &look, const std::string &title,
-                                             TileContent content)
+                                             const LinkAppearance &appearance,
+                                             const std::string &title, TileContent content)
 {
     osg::ref_ptr<osg::Group> group = new osg::Group;
     group->setName(title);
@@ -32,7 +32,7 @@ osg::ref_ptr<osg::Group> buildLinkLayerScene(const LinkRows &rows, LinkRecords r
     if (rows.isCut)
         setCut(*group);
     group->addChild(buildPylonTiles(std::move(records.pylons), content));
-    group->addChild(buildLinks(records.links, look));
+    group->addChild(buildLinks(records.links, appearance));
     return group;
 }
 

@@ -16,7 +16,7 @@ namespace vlt::scene {
 /// "unplaced=N" (links); with clearances "clear=N", "marginal=N", "obstructed=N" and "unknown=N";
 /// and "cut" if the table has more links than MaxLinks.
 osg::ref_ptr<osg::Group> buildLinkLayerScene(const LinkRows &rows, LinkRecords records,
-                                             const LinkAppearance &look, const std::string &title,
-                                             TileContent content);
+                                             const LinkAppearance &appearance,
+                                             const std::string &title, TileContent content);
 
 } // namespace vlt::scene

@@ -11,9 +11,9 @@ namespace vlt::scene {
 struct LinkLayerStyle
 {
     SiteStyle pylons;
-    LinkAppearance look;
+    LinkAppearance appearance;
 
-    linkpath::ClearanceRule rule() const { return {look.fresnelShare, look.kFactor}; }
+    linkpath::ClearanceRule rule() const { return {appearance.fresnelShare, appearance.kFactor}; }
 };
 
 /// Reads the options of readSiteStyle() and readLinkAppearance().

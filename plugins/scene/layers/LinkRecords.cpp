@@ -115,7 +115,7 @@ private:
             hang(pylons[1], centres[0] - centres[1], heightsM[1]);
         }
         LinkObject link{centres[0], centres[1], row.frequencyMHz, {}};
-        if (m_style.look.colorByClearance)
+        if (m_style.appearance.colorByClearance)
             check(row, link);
         m_records.links.push_back(link);
     }
@@ -139,7 +139,7 @@ private:
         if (status == linkpath::ClearanceStatus::Unknown)
             return;
         const std::array<std::uint8_t, 3> rgb = linkpath::clearanceColor(status);
-        link.color = Color(rgb[0], rgb[1], rgb[2], m_style.look.color.a());
+        link.color = Color(rgb[0], rgb[1], rgb[2], m_style.appearance.color.a());
     }
 
     const LinkRows &m_links;

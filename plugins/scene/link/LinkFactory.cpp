@@ -149,15 +149,15 @@ void addPointedTube(Mesh &mesh, const std::array<Station, 4> &stations, int side
 class LinkBuilder
 {
 public:
-    LinkBuilder(const std::vector<LinkObject> &links, const LinkAppearance &look)
+    LinkBuilder(const std::vector<LinkObject> &links, const LinkAppearance &appearance)
         : m_links(links)
-        , m_look(look)
+        , m_appearance(appearance)
         , m_fineness(finenessFor(links.size()))
-        , m_zoneColor(forOneOfTwoWalls(look.fresnelColor))
+        , m_zoneColor(forOneOfTwoWalls(appearance.fresnelColor))
         , m_hairlines(makeHairlineState())
     {
         for (const Opacity opacity : {Opacity::Opaque, Opacity::Translucent}) {
-            m_lines[static_cast<std::size_t>(opacity)] = makeLineState(look, opacity);
+            m_lines[static_cast<std::size_t>(opacity)] = makeLineState(appearance, opacity);
             m_ellipsoids[static_cast<std::size_t>(opacity)] = makeEllipsoidState(opacity);
         }
     }
@@ -203,24 +203,25 @@ private:
         place->setDataVariance(osg::Object::DYNAMIC);
         if (geode->getNumDrawables() > 0)
             place->addChild(geode);
-        if (m_look.fresnelZone > 0 && m_look.fresnelColor.a() > 0)
+        if (m_appearance.fresnelZone > 0 && m_appearance.fresnelColor.a() > 0)
             addEllipsoids(*place, ellipsoidsOf(links, origin));
         return place;
     }
 
     void addLines(osg::Geode &geode, const Picked &links, const osg::Vec3d &origin) const
     {
-        std::array<LineMesh, 2> lines = {LineMesh(m_look.style), LineMesh(m_look.style)};
+        std::array<LineMesh, 2> lines = {LineMesh(m_appearance.style),
+                                         LineMesh(m_appearance.style)};
         Mesh hairlines(Mesh::Kind::Lines);
         for (const LinkObject *link : links) {
-            const Color color = link->color.value_or(m_look.color);
+            const Color color = link->color.value_or(m_appearance.color);
             if (color.a() == 0)
                 continue;
             const osg::Vec3d a = link->a - origin;
             const osg::Vec3d b = link->b - origin;
             const Opacity opacity = opacityOf(color);
             addLine(lines[static_cast<std::size_t>(opacity)], a, b, color);
-            if (m_look.style != LinkStyle::Line && opacity == Opacity::Opaque)
+            if (m_appearance.style != LinkStyle::Line && opacity == Opacity::Opaque)
                 hairlines.line(hairlines.vertex(a, {}, color), hairlines.vertex(b, {}, color));
         }
         for (std::size_t i = 0; i < lines.size(); ++i)
@@ -230,8 +231,8 @@ private:
 
     void addLine(LineMesh &line, const osg::Vec3d &a, const osg::Vec3d &b, const Color &color) const
     {
-        const auto stations = stationsOf(a, b, m_look.width);
-        switch (m_look.style) {
+        const auto stations = stationsOf(a, b, m_appearance.width);
+        switch (m_appearance.style) {
         case LinkStyle::Line:
             line.mesh.line(line.mesh.vertex(a, {}, color), line.mesh.vertex(b, {}, color));
             break;
@@ -252,9 +253,9 @@ private:
                 continue;
             osg::Vec3d axis = link->b - link->a;
             const linkpath::FresnelEllipsoid size = linkpath::fresnelEllipsoid(
-                m_look.fresnelZone, link->frequencyMHz, axis.normalize());
+                m_appearance.fresnelZone, link->frequencyMHz, axis.normalize());
             ellipsoids.push_back({(link->a + link->b) / 2 - origin, axis * size.semiMajorM,
-                                  size.semiMinorM * m_look.fresnelShare});
+                                  size.semiMinorM * m_appearance.fresnelShare});
         }
         return ellipsoids;
     }
@@ -266,7 +267,7 @@ private:
         if (ellipsoids.empty())
             return;
         const osg::ref_ptr<osg::StateSet> state =
-            m_ellipsoids[static_cast<std::size_t>(opacityOf(m_look.fresnelColor))];
+            m_ellipsoids[static_cast<std::size_t>(opacityOf(m_appearance.fresnelColor))];
         const auto make = [ellipsoids, state, color = m_zoneColor](Fineness fineness) {
             return drawn(ellipsoids, fineness, color, state);
         };
@@ -282,8 +283,8 @@ private:
         bound.radius() += static_cast<float>(widest);
         const auto near = static_cast<float>(bound.radius() + Afar * widest);
         // Ellipsoids smaller than a pixel are not needed if the lines of sight are visible.
-        const double far = m_look.color.a() > 0 ? bound.radius() + Unseen * widest
-                                                : std::numeric_limits<float>::max();
+        const double far = m_appearance.color.a() > 0 ? bound.radius() + Unseen * widest
+                                                      : std::numeric_limits<float>::max();
         const osg::ref_ptr<DeferredNode> fine =
             new DeferredNode([make, fineness = m_fineness] { return make(fineness); }, bound);
         place.addChild(seenFrom(0, near, fine, bound));
@@ -313,7 +314,7 @@ private:
         if (asides && !asides->empty()) {
             geometry->setTexCoordArray(0, asides);
             osg::BoundingBox turned = geometry->getBoundingBox();
-            const auto half = static_cast<float>(m_look.width / 2);
+            const auto half = static_cast<float>(m_appearance.width / 2);
             turned.expandBy(turned._min - osg::Vec3(half, half, half));
             turned.expandBy(turned._max + osg::Vec3(half, half, half));
             geometry->setInitialBound(turned);
@@ -322,7 +323,7 @@ private:
     }
 
     const std::vector<LinkObject> &m_links;
-    const LinkAppearance &m_look;
+    const LinkAppearance &m_appearance;
     Fineness m_fineness;
     Color m_zoneColor;
     osg::ref_ptr<osg::StateSet> m_hairlines;
@@ -333,7 +334,7 @@ private:
 } // namespace
 
 osg::ref_ptr<osg::Group> buildLinks(const std::vector<LinkObject> &links,
-                                    const LinkAppearance &look)
+                                    const LinkAppearance &appearance)
 {
     LinkBuilder::Picked drawn;
     for (const LinkObject &link : links) {
@@ -341,7 +342,7 @@ osg::ref_ptr<osg::Group> buildLinks(const std::vector<LinkObject> &links,
             drawn.push_back(&link);
     }
     osg::ref_ptr<osg::Group> group = new osg::Group;
-    LinkBuilder(links, look).addTiles(*group, std::move(drawn));
+    LinkBuilder(links, appearance).addTiles(*group, std::move(drawn));
     return group;
 }
 

@@ -22,6 +22,6 @@ inline constexpr std::size_t LinksPerTile = 256;
 /// if less than a pixel wide; fine ones are made only for tiles near the viewer. Invisible parts
 /// (opacity 0) and links whose ends coincide are left out.
 osg::ref_ptr<osg::Group> buildLinks(const std::vector<LinkObject> &links,
-                                    const LinkAppearance &look);
+                                    const LinkAppearance &appearance);
 
 } // namespace vlt::scene

@@ -18,7 +18,7 @@ osg::ref_ptr<osg::Group> buildLinkScene(const LinkSceneQuery &scene)
                                                           : PreciseModel::WhenNeeded);
     for (const PylonObject &pylon : scene.pylons)
         group->addChild(factory.build(pylon));
-    group->addChild(buildLinks(scene.links, scene.look));
+    group->addChild(buildLinks(scene.links, scene.appearance));
     return group;
 }
 

@@ -99,12 +99,12 @@ void drawAfterZones(osg::StateSet &state)
 
 } // namespace
 
-osg::ref_ptr<osg::StateSet> makeLineState(const LinkAppearance &look, Opacity opacity)
+osg::ref_ptr<osg::StateSet> makeLineState(const LinkAppearance &appearance, Opacity opacity)
 {
     osg::ref_ptr<osg::StateSet> state = unlit();
-    switch (look.style) {
+    switch (appearance.style) {
     case LinkStyle::Line:
-        state->setAttributeAndModes(new osg::LineWidth(static_cast<float>(look.width)));
+        state->setAttributeAndModes(new osg::LineWidth(static_cast<float>(appearance.width)));
         break;
     case LinkStyle::Tube:
         state->setAttributeAndModes(new osg::CullFace(osg::CullFace::BACK));

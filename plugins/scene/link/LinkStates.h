@@ -16,7 +16,7 @@ enum class Opacity { Opaque, Translucent };
 /// The graphics card rotates bands to face the viewer. For this purpose the texture coordinates of
 /// a vertex are the vector from the centre line to the vertex (x, y, z) and its side (-1 or 1), and
 /// its normal is the direction of the link. Without shaders bands are horizontal.
-osg::ref_ptr<osg::StateSet> makeLineState(const LinkAppearance &look, Opacity opacity);
+osg::ref_ptr<osg::StateSet> makeLineState(const LinkAppearance &appearance, Opacity opacity);
 
 /// The state of the hairlines within tubes and bands, which are visible at distances at which tubes
 /// and bands are too thin.

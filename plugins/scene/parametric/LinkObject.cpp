@@ -36,29 +36,31 @@ LinkStyle readStyle(const ItemText &item)
 
 LinkAppearance readLinkAppearance(const ItemText &item, ClearanceWord clearance)
 {
-    LinkAppearance look;
+    LinkAppearance appearance;
     std::string text;
-    look.style = readStyle(item);
-    look.width = readNumber(item, keys::LinkWidth, "MESS_QUANTITY_WIDTH", keys::LinkWidthPixelsOrM);
+    appearance.style = readStyle(item);
+    appearance.width =
+        readNumber(item, keys::LinkWidth, "MESS_QUANTITY_WIDTH", keys::LinkWidthPixelsOrM);
     Words color = wordsOf(item, keys::LinkColor, text);
-    look.colorByClearance = clearance == ClearanceWord::Accepted && color.count() > 1;
-    color.expect(look.colorByClearance ? 2 : 1, "rrggbbaa");
-    look.color = color.color();
+    appearance.colorByClearance = clearance == ClearanceWord::Accepted && color.count() > 1;
+    color.expect(appearance.colorByClearance ? 2 : 1, "rrggbbaa");
+    appearance.color = color.color();
     if (const std::string_view word = color.word();
-        look.colorByClearance && word != keys::ClearanceWord)
+        appearance.colorByClearance && word != keys::ClearanceWord)
         color.refuseUnknown("MESS_QUANTITY_WORD", word);
     Words zone = wordsOf(item, keys::FresnelZone, text);
     zone.expect(1, "NUMBER");
-    look.fresnelZone = zone.wholeNumber("MESS_QUANTITY_ZONE",
-                                        {keys::NoFresnelZone, keys::FresnelZoneNumber.maximum});
-    look.fresnelShare =
+    appearance.fresnelZone = zone.wholeNumber(
+        "MESS_QUANTITY_ZONE", {keys::NoFresnelZone, keys::FresnelZoneNumber.maximum});
+    appearance.fresnelShare =
         readNumber(item, keys::FresnelShare, "MESS_QUANTITY_SHARE", keys::FresnelSharePercent) /
         100;
     Words fresnelColor = wordsOf(item, keys::FresnelColor, text);
     fresnelColor.expect(1, "rrggbbaa");
-    look.fresnelColor = fresnelColor.color();
-    look.kFactor = readNumber(item, keys::KFactor, "MESS_QUANTITY_K_FACTOR", keys::KFactorNumber);
-    return look;
+    appearance.fresnelColor = fresnelColor.color();
+    appearance.kFactor =
+        readNumber(item, keys::KFactor, "MESS_QUANTITY_K_FACTOR", keys::KFactorNumber);
+    return appearance;
 }
 
 } // namespace vlt::scene

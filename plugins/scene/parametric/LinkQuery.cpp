@@ -79,7 +79,7 @@ LinkSceneQuery parseLinkQuery(std::string_view url)
     if (scene.links.empty())
         throw BadQuery("MESS_QUERY_NO_ITEM", {parametric::Link});
     const auto item = [&query](std::string_view key) { return std::string(query.single(key)); };
-    scene.look = readLinkAppearance(item, ClearanceWord::Refused);
+    scene.appearance = readLinkAppearance(item, ClearanceWord::Refused);
     return scene;
 }
 

@@ -14,7 +14,7 @@ struct LinkSceneQuery
 {
     std::vector<PylonObject> pylons;
     std::vector<LinkObject> links;
-    LinkAppearance look;
+    LinkAppearance appearance;
 };
 
 inline constexpr std::size_t MaxQueryPylons = 500;

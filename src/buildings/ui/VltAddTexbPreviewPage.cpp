@@ -92,21 +92,21 @@ QString VltAddTexbPreviewPage::missingText() const
 }
 
 vlt::buildings::TexturingParameters
-VltAddTexbPreviewPage::look(const vlt::buildings::RasterColoring &coloring) const
+VltAddTexbPreviewPage::texturing(const vlt::buildings::RasterColoring &coloring) const
 {
-    vlt::buildings::TexturingParameters look;
-    look.cache = m_ui->m_pwCache->cache();
-    look.texturedVisibilityM = m_ui->m_pwTexturing->visibilityM();
-    look.mode = m_ui->m_pwTexturing->mode();
-    look.wallColor = m_ui->m_pwColors->wallColor(coloring);
-    look.roofColor = m_ui->m_pwColors->roofColor(coloring);
+    vlt::buildings::TexturingParameters texturing;
+    texturing.cache = m_ui->m_pwCache->cache();
+    texturing.texturedVisibilityM = m_ui->m_pwTexturing->visibilityM();
+    texturing.mode = m_ui->m_pwTexturing->mode();
+    texturing.wallColor = m_ui->m_pwColors->wallColor(coloring);
+    texturing.roofColor = m_ui->m_pwColors->roofColor(coloring);
     if (!m_images.isEmpty()) {
-        look.textures.emplace();
-        m_ui->m_pwTexturing->fill(*look.textures);
-        m_ui->m_pwOptions->fill(*look.textures);
-        look.images = m_images;
+        texturing.textures.emplace();
+        m_ui->m_pwTexturing->fill(*texturing.textures);
+        m_ui->m_pwOptions->fill(*texturing.textures);
+        texturing.images = m_images;
     }
-    return look;
+    return texturing;
 }
 
 vlt::Stoppable<vlt::buildings::BuildingLayerFiles>
@@ -123,7 +123,7 @@ VltAddTexbPreviewPage::writeFiles(const QString &layerPath, vlt::platform::Acces
     m_colorMapName = legend ? legend->name : QString();
     return vlt::buildings::writeTexturedLayer(
         layerPath, layerInput(m_ui->m_pwExtrusion->settings(), legend),
-        look(coloring.value_or(vlt::buildings::RasterColoring())), access);
+        texturing(coloring.value_or(vlt::buildings::RasterColoring())), access);
 }
 
 void VltAddTexbPreviewPage::layerWritten(const vlt::buildings::BuildingLayerFiles &files)

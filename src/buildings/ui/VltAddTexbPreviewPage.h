@@ -35,7 +35,8 @@ private:
     void fitWidth();
     void showColoring();
     void showInformation();
-    vlt::buildings::TexturingParameters look(const vlt::buildings::RasterColoring &coloring) const;
+    vlt::buildings::TexturingParameters
+    texturing(const vlt::buildings::RasterColoring &coloring) const;
 
     std::unique_ptr<Ui::AddTexbPreviewPage> m_ui;
     QList<vlt::buildings::FileEntry> m_images; ///< the ticked images of the previous page
