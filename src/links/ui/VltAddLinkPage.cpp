@@ -12,7 +12,7 @@ constexpr double PerCent = 100;
 
 VltAddLinkPage::VltAddLinkPage(QWidget *wizard, SharedParameters &parameters,
                                const QString &installDir, const QString &language)
-    : VltTablePage(wizard, parameters, installDir, language, linkKind())
+    : VltTablePage(wizard, parameters, installDir, language, linkConfiguration())
     , m_panelLinks(new VltLinkProperties(this))
     , m_panelPylons(new VltSiteProperties(installDir, language, this))
     , m_panelDetails(new VltLinkDetails(this))
@@ -20,35 +20,35 @@ VltAddLinkPage::VltAddLinkPage(QWidget *wizard, SharedParameters &parameters,
     setParts(m_panelDetails, {m_panelLinks, m_panelPylons});
 }
 
-vlt::tables::TablePageKind VltAddLinkPage::linkKind()
+vlt::tables::TablePageConfiguration VltAddLinkPage::linkConfiguration()
 {
-    vlt::tables::TablePageKind kind;
-    kind.objectNames = {QStringLiteral("AddLinkPage"), QStringLiteral("m_pwGbLinks"),
-                        QStringLiteral("m_pwLblLink"), QStringLiteral("m_pwLeLink"),
-                        QStringLiteral("m_pwPbLink")};
-    kind.settingsPrefix = QStringLiteral("AddLinkPage");
-    kind.fileKey = QStringLiteral("LinkFile");
-    kind.kind = vlt::contract::TableKind::Links;
-    kind.layerBaseName = QStringLiteral("links");
-    kind.looksAtMiddle = true;
-    kind.nearDistanceM = 80;
-    kind.nearHeightM = 18;
-    kind.title = tr("Link layer", "MESS_LINK_LAYER_TITLE");
-    kind.fileGroup = tr("Link file", "MESS_LINK_FILE");
-    kind.fileLabel = tr("Links file to display", "MESS_LINK_FILE2");
-    kind.noFile =
+    vlt::tables::TablePageConfiguration configuration;
+    configuration.objectNames = {QStringLiteral("AddLinkPage"), QStringLiteral("m_pwGbLinks"),
+                                 QStringLiteral("m_pwLblLink"), QStringLiteral("m_pwLeLink"),
+                                 QStringLiteral("m_pwPbLink")};
+    configuration.settingsPrefix = QStringLiteral("AddLinkPage");
+    configuration.fileKey = QStringLiteral("LinkFile");
+    configuration.kind = vlt::contract::TableKind::Links;
+    configuration.layerBaseName = QStringLiteral("links");
+    configuration.looksAtMiddle = true;
+    configuration.nearDistanceM = 80;
+    configuration.nearHeightM = 18;
+    configuration.title = tr("Link layer", "MESS_LINK_LAYER_TITLE");
+    configuration.fileGroup = tr("Link file", "MESS_LINK_FILE");
+    configuration.fileLabel = tr("Links file to display", "MESS_LINK_FILE2");
+    configuration.noFile =
         tr("No links file defined.\nSelect the links file to display.", "MESS_NO_LINK_DEFINED");
-    kind.selectFile = tr("Select the link file to use", "MESS_SELECT_LINK_FILE");
-    kind.files = tr("Link files", "MESS_LINK_FILES");
-    kind.reading = tr("Reading the link file...", "MESS_READING_LINKS");
-    kind.dragText =
+    configuration.selectFile = tr("Select the link file to use", "MESS_SELECT_LINK_FILE");
+    configuration.files = tr("Link files", "MESS_LINK_FILES");
+    configuration.reading = tr("Reading the link file...", "MESS_READING_LINKS");
+    configuration.dragText =
         tr("Drag this icon into\nVeltaro Builder\nto add the link layer\n", "MESS_DRAG_ICON_LINK");
-    kind.dragName = tr("Link layer to drag into the builder", "MESS_DRAG_NAME_LINK");
-    kind.ownLayer = {QStringLiteral("m_pwPbOwnLinks"), tr("Links of the layer", "MESS_OWN_LINKS"),
-                     tr("Show the links of the layer just written", "MESS_TIP_OWN_LINKS"),
-                     QStringLiteral(":/images/own-links.png"),
-                     tr("Loading the links...", "MESS_LOADING_LINKS")};
-    return kind;
+    configuration.dragName = tr("Link layer to drag into the builder", "MESS_DRAG_NAME_LINK");
+    configuration.ownLayer = {
+        QStringLiteral("m_pwPbOwnLinks"), tr("Links of the layer", "MESS_OWN_LINKS"),
+        tr("Show the links of the layer just written", "MESS_TIP_OWN_LINKS"),
+        QStringLiteral(":/images/own-links.png"), tr("Loading the links...", "MESS_LOADING_LINKS")};
+    return configuration;
 }
 
 std::optional<vlt::Error> VltAddLinkPage::readTable(const QString &path)

@@ -22,7 +22,7 @@ public Q_SLOTS:
     void openLinks() { openTable(); }
 
 private:
-    static vlt::tables::TablePageKind linkKind();
+    static vlt::tables::TablePageConfiguration linkConfiguration();
     vlt::links::LinkLayerInput layerInput() const;
 
     std::optional<vlt::Error> readTable(const QString &path) override;

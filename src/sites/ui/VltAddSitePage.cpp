@@ -5,41 +5,41 @@
 
 VltAddSitePage::VltAddSitePage(QWidget *wizard, SharedParameters &parameters,
                                const QString &installDir, const QString &language)
-    : VltTablePage(wizard, parameters, installDir, language, siteKind())
+    : VltTablePage(wizard, parameters, installDir, language, siteConfiguration())
     , m_panelPylons(new VltSiteProperties(installDir, language, this))
     , m_panelDetails(new VltSiteDetails(this))
 {
     setParts(m_panelDetails, {m_panelPylons});
 }
 
-vlt::tables::TablePageKind VltAddSitePage::siteKind()
+vlt::tables::TablePageConfiguration VltAddSitePage::siteConfiguration()
 {
-    vlt::tables::TablePageKind kind;
-    kind.objectNames = {QStringLiteral("AddSitePage"), QStringLiteral("m_pwGbSites"),
-                        QStringLiteral("m_pwLblSite"), QStringLiteral("m_pwLeSite"),
-                        QStringLiteral("m_pwPbSite")};
-    kind.settingsPrefix = QStringLiteral("AddSitePage");
-    kind.fileKey = QStringLiteral("SiteFile");
-    kind.kind = vlt::contract::TableKind::Sites;
-    kind.layerBaseName = QStringLiteral("sites");
-    kind.nearDistanceM = 50;
-    kind.nearHeightM = 13;
-    kind.title = tr("Site layer", "MESS_SITE_LAYER_TITLE");
-    kind.fileGroup = tr("Site file", "MESS_SITE_FILE");
-    kind.fileLabel = tr("Sites file to display", "MESS_SITE_FILE2");
-    kind.noFile =
+    vlt::tables::TablePageConfiguration configuration;
+    configuration.objectNames = {QStringLiteral("AddSitePage"), QStringLiteral("m_pwGbSites"),
+                                 QStringLiteral("m_pwLblSite"), QStringLiteral("m_pwLeSite"),
+                                 QStringLiteral("m_pwPbSite")};
+    configuration.settingsPrefix = QStringLiteral("AddSitePage");
+    configuration.fileKey = QStringLiteral("SiteFile");
+    configuration.kind = vlt::contract::TableKind::Sites;
+    configuration.layerBaseName = QStringLiteral("sites");
+    configuration.nearDistanceM = 50;
+    configuration.nearHeightM = 13;
+    configuration.title = tr("Site layer", "MESS_SITE_LAYER_TITLE");
+    configuration.fileGroup = tr("Site file", "MESS_SITE_FILE");
+    configuration.fileLabel = tr("Sites file to display", "MESS_SITE_FILE2");
+    configuration.noFile =
         tr("No sites file defined.\nSelect the sites file to display.", "MESS_NO_SITE_DEFINED");
-    kind.selectFile = tr("Select the site file to use", "MESS_SELECT_SITE_FILE");
-    kind.files = tr("Site files", "MESS_SITE_FILES");
-    kind.reading = tr("Reading the site file...", "MESS_READING_SITES");
-    kind.dragText =
+    configuration.selectFile = tr("Select the site file to use", "MESS_SELECT_SITE_FILE");
+    configuration.files = tr("Site files", "MESS_SITE_FILES");
+    configuration.reading = tr("Reading the site file...", "MESS_READING_SITES");
+    configuration.dragText =
         tr("Drag this icon into\nVeltaro Builder\nto add the site layer\n", "MESS_DRAG_ICON");
-    kind.dragName = tr("Site layer to drag into the builder", "MESS_DRAG_NAME");
-    kind.ownLayer = {QStringLiteral("m_pwPbOwnSites"), tr("Sites of the layer", "MESS_OWN_SITES"),
-                     tr("Show the sites of the layer just written", "MESS_TIP_OWN_SITES"),
-                     QStringLiteral(":/images/own-sites.png"),
-                     tr("Loading the sites...", "MESS_LOADING_SITES")};
-    return kind;
+    configuration.dragName = tr("Site layer to drag into the builder", "MESS_DRAG_NAME");
+    configuration.ownLayer = {
+        QStringLiteral("m_pwPbOwnSites"), tr("Sites of the layer", "MESS_OWN_SITES"),
+        tr("Show the sites of the layer just written", "MESS_TIP_OWN_SITES"),
+        QStringLiteral(":/images/own-sites.png"), tr("Loading the sites...", "MESS_LOADING_SITES")};
+    return configuration;
 }
 
 std::optional<vlt::Error> VltAddSitePage::readTable(const QString &path)

@@ -21,7 +21,7 @@ public Q_SLOTS:
     void openSites() { openTable(); }
 
 private:
-    static vlt::tables::TablePageKind siteKind();
+    static vlt::tables::TablePageConfiguration siteConfiguration();
     vlt::sites::SiteLayerInput layerInput() const;
 
     std::optional<vlt::Error> readTable(const QString &path) override;

@@ -65,15 +65,16 @@ void putInOrder(const QWidgetList &widgets)
 } // namespace
 
 VltTablePage::VltTablePage(QWidget *wizard, SharedParameters &parameters, const QString &installDir,
-                           const QString &language, const vlt::tables::TablePageKind &kind)
+                           const QString &language,
+                           const vlt::tables::TablePageConfiguration &configuration)
     : VltResultPage(wizard, parameters, installDir, language,
-                    {kind.layerBaseName, kind.settingsPrefix})
-    , m_kind(kind)
+                    {configuration.layerBaseName, configuration.settingsPrefix})
+    , m_configuration(configuration)
     , m_ui(std::make_unique<Ui::TablePage>())
 {
     m_ui->setupUi(this);
     setFocusProxy(m_ui->m_pwLeTable); // the line gets the keyboard first
-    setTitle(m_kind.title);
+    setTitle(m_configuration.title);
     nameWidgets();
     createPanels();
     connectWidgets();
@@ -83,25 +84,25 @@ VltTablePage::~VltTablePage() = default;
 
 void VltTablePage::nameWidgets()
 {
-    setObjectName(m_kind.objectNames.page);
-    m_ui->m_pwGbTable->setObjectName(m_kind.objectNames.group);
-    m_ui->m_pwLblTable->setObjectName(m_kind.objectNames.label);
-    m_ui->m_pwLeTable->setObjectName(m_kind.objectNames.line);
-    m_ui->m_pwPbTable->setObjectName(m_kind.objectNames.button);
-    m_ui->m_pwGbTable->setTitle(m_kind.fileGroup);
-    m_ui->m_pwLblTable->setText(m_kind.fileLabel);
-    m_ui->m_pwPbTable->setToolTip(m_kind.selectFile);
-    m_ui->m_pwLblFileInfo->setText(m_kind.noFile);
-    m_ui->m_pwLblDragText->setText(m_kind.dragText);
-    m_ui->m_pwGbPreview->setOwnLayer(m_kind.ownLayer);
+    setObjectName(m_configuration.objectNames.page);
+    m_ui->m_pwGbTable->setObjectName(m_configuration.objectNames.group);
+    m_ui->m_pwLblTable->setObjectName(m_configuration.objectNames.label);
+    m_ui->m_pwLeTable->setObjectName(m_configuration.objectNames.line);
+    m_ui->m_pwPbTable->setObjectName(m_configuration.objectNames.button);
+    m_ui->m_pwGbTable->setTitle(m_configuration.fileGroup);
+    m_ui->m_pwLblTable->setText(m_configuration.fileLabel);
+    m_ui->m_pwPbTable->setToolTip(m_configuration.selectFile);
+    m_ui->m_pwLblFileInfo->setText(m_configuration.noFile);
+    m_ui->m_pwLblDragText->setText(m_configuration.dragText);
+    m_ui->m_pwGbPreview->setOwnLayer(m_configuration.ownLayer);
 }
 
 void VltTablePage::createPanels()
 {
-    m_panelSrs = new VltSrsSettings(m_kind.kind, m_ui->m_pwGbSrs);
+    m_panelSrs = new VltSrsSettings(m_configuration.kind, m_ui->m_pwGbSrs);
     m_ui->m_ptVbSrs->addWidget(m_panelSrs);
     addPanel(m_panelSrs);
-    setResult({m_ui->m_ptHbDrag, m_ui->m_pwLblDragText, m_kind.dragName,
+    setResult({m_ui->m_ptHbDrag, m_ui->m_pwLblDragText, m_configuration.dragName,
                tr("Drag the layer file into the builder; Ctrl+C copies it, Ctrl+S "
                   "saves it under another name",
                   "MESS_TIP_DRAG")});
@@ -212,14 +213,14 @@ bool VltTablePage::isComplete() const
 
 QString VltTablePage::settingsKey(const QString &name) const
 {
-    return m_kind.settingsPrefix + QLatin1Char('/') + name;
+    return m_configuration.settingsPrefix + QLatin1Char('/') + name;
 }
 
 void VltTablePage::restoreSettings()
 {
     const auto settings = vlt::platform::wizardSettings();
     m_fileDir = settings->value(LastUsedDirKey).toString();
-    m_ui->m_pwLeTable->setText(settings->value(settingsKey(m_kind.fileKey)).toString());
+    m_ui->m_pwLeTable->setText(settings->value(settingsKey(m_configuration.fileKey)).toString());
     VltResultPage::restoreSettings();
 }
 
@@ -228,7 +229,7 @@ void VltTablePage::saveSettings()
     const auto settings = vlt::platform::wizardSettings();
     if (!m_fileDir.isEmpty())
         settings->setValue(LastUsedDirKey, m_fileDir);
-    settings->setValue(settingsKey(m_kind.fileKey), m_ui->m_pwLeTable->text());
+    settings->setValue(settingsKey(m_configuration.fileKey), m_ui->m_pwLeTable->text());
     VltResultPage::saveSettings();
 }
 
@@ -240,8 +241,8 @@ void VltTablePage::droppedFile(const QString &path)
 void VltTablePage::openTable()
 {
     const QString path = QFileDialog::getOpenFileName(
-        this, m_kind.selectFile, m_fileDir,
-        QStringLiteral("%1 (*.xls *.xlsx *.xml *.csv)").arg(m_kind.files));
+        this, m_configuration.selectFile, m_fileDir,
+        QStringLiteral("%1 (*.xls *.xlsx *.xml *.csv)").arg(m_configuration.files));
     if (!path.isEmpty())
         readFileInfo(path, false);
 }
@@ -274,7 +275,7 @@ void VltTablePage::showFile()
         leaveLayer(fileReason());
         m_ui->m_pwGbPreview->leaveLayer();
         m_details->clear();
-        m_ui->m_pwLblFileInfo->setText(m_kind.noFile);
+        m_ui->m_pwLblFileInfo->setText(m_configuration.noFile);
         return;
     }
     m_ui->m_pwLblFileInfo->setText(read->description);
@@ -375,7 +376,7 @@ void VltTablePage::previewSymbolic()
 {
     constexpr double BeyondPrecise = 500;
     const double distanceM = preciseDistanceM() + BeyondPrecise;
-    if (m_kind.looksAtMiddle)
+    if (m_configuration.looksAtMiddle)
         m_ui->m_pwGbPreview->lookAtDemonstration(distanceM);
     else
         m_ui->m_pwGbPreview->lookAtDemonstration(distanceM, 0);
@@ -383,5 +384,6 @@ void VltTablePage::previewSymbolic()
 
 void VltTablePage::previewPrecise()
 {
-    m_ui->m_pwGbPreview->lookAtDemonstration(m_kind.nearDistanceM, m_kind.nearHeightM);
+    m_ui->m_pwGbPreview->lookAtDemonstration(m_configuration.nearDistanceM,
+                                             m_configuration.nearHeightM);
 }

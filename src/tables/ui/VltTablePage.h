@@ -2,7 +2,7 @@
 
 #include "tables/TableFileInfo.h"
 #include "tables/TableLayer.h"
-#include "tables/ui/TablePageKind.h"
+#include "tables/ui/TablePageConfiguration.h"
 #include "wizard/base/BusyWait.h"
 #include "wizard/base/VltResultPage.h"
 #include "wizard/project/ProjectContext.h"
@@ -27,7 +27,7 @@ class VltTablePage : public VltResultPage
 
 public:
     VltTablePage(QWidget *wizard, SharedParameters &parameters, const QString &installDir,
-                 const QString &language, const vlt::tables::TablePageKind &kind);
+                 const QString &language, const vlt::tables::TablePageConfiguration &configuration);
     ~VltTablePage() override;
 
     void initializePage() override;
@@ -78,7 +78,7 @@ protected:
             return read(path, project);
         };
         const std::optional<Read> info =
-            isShown() ? vlt::wizard::waitForValue<Read>(this, m_kind.reading, work)
+            isShown() ? vlt::wizard::waitForValue<Read>(this, m_configuration.reading, work)
                       : vlt::wizard::valueWithinMoment<Read>(work);
         if (info && !*info)
             return info->error();
@@ -140,7 +140,7 @@ private:
     void showNoLayer(const QString &why) override;
     QString settingsKey(const QString &name) const;
 
-    vlt::tables::TablePageKind m_kind;
+    vlt::tables::TablePageConfiguration m_configuration;
     std::unique_ptr<Ui::TablePage> m_ui;
     VltSrsSettings *m_panelSrs = nullptr;
     VltTableDetails *m_details = nullptr;

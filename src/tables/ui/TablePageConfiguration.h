@@ -8,7 +8,7 @@
 namespace vlt::tables {
 
 /// The differences between the pages for the kinds of tables.
-struct TablePageKind
+struct TablePageConfiguration
 {
     /// Object names of the page and of the widgets that choose its table.
     struct ObjectNames
