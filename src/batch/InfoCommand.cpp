@@ -138,7 +138,7 @@ ExitStatus printJson(const QList<Result<InfoReport>> &outcomes)
     return printed == ExitStatus::Done ? status : printed;
 }
 
-ExitStatus tell(const Result<InfoReport> &outcome, bool json)
+ExitStatus printReport(const Result<InfoReport> &outcome, bool json)
 {
     if (!outcome)
         return refuse(outcome.error());
@@ -192,7 +192,8 @@ ExitStatus run(const QCommandLineParser &parser, const GlobalOptions &options)
 
     ExitStatus status = ExitStatus::Done;
     for (const Result<InfoReport> &outcome : outcomes) {
-        if (const ExitStatus reported = tell(outcome, options.json); reported != ExitStatus::Done)
+        if (const ExitStatus reported = printReport(outcome, options.json);
+            reported != ExitStatus::Done)
             status = reported;
         if (&outcome != &outcomes.constLast())
             printOut(QStringLiteral("\n"));

@@ -157,7 +157,7 @@ QJsonObject descriptionOf(const osg::Node &scene)
     return object;
 }
 
-bool tell(const Request &request, const osg::Node &scene)
+bool printReport(const Request &request, const osg::Node &scene)
 {
     const bool isParametric = snapshot::isParametricName(request.layer);
     const QJsonObject object{
@@ -233,7 +233,7 @@ ExitStatus makePicture(const Request &request, const GlobalOptions &options)
                        QStringLiteral("the picture cannot be written"), request.output});
     if (const auto failed = writePicture(request.output, bytes))
         return *failed;
-    if (options.json && !tell(request, *scene.value()))
+    if (options.json && !printReport(request, *scene.value()))
         return refuse({QStringLiteral("MESS_CLI_OUTPUT_FAILED"),
                        QStringLiteral("the output cannot be written"),
                        {}});

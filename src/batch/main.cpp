@@ -113,7 +113,7 @@ std::unique_ptr<QCoreApplication> makeApplication(char **argv, bool withFonts)
     static int ownNameOnly = 1;
     // The toolkit warns of a missing desktop and of a locale that is not UTF-8; these warnings are
     // not shown.
-    const QtMessageHandler usual =
+    const QtMessageHandler previous =
         qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
     std::unique_ptr<QCoreApplication> application;
     if (withFonts) {
@@ -122,7 +122,7 @@ std::unique_ptr<QCoreApplication> makeApplication(char **argv, bool withFonts)
     } else {
         application = std::make_unique<QCoreApplication>(ownNameOnly, argv);
     }
-    qInstallMessageHandler(usual);
+    qInstallMessageHandler(previous);
     return application;
 }
 

@@ -86,7 +86,7 @@ private Q_SLOTS:
     void showsTheCity_data()
     {
         const Cases<double, int, int, bool> row({"townM", "side", "visibleM", "isWhole"});
-        row("seen as usual", 400, 9, 2000, true);
+        row("seen whole", 400, 9, 2000, true);
         row("seen whole only from near", 800, 9, 1500, true);
         row("larger than what is seen", 8000, 81, 900, false);
         row("seen only from among the houses", 4000, 81, 100, false);

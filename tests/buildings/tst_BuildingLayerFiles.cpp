@@ -141,7 +141,7 @@ private Q_SLOTS:
     void namesFilesAfterTheLayer_data()
     {
         const Cases<QString, QString> row({"layer", "document"});
-        row("usual", "/a/town.lay", "/a/town.texb");
+        row("suffix .lay", "/a/town.lay", "/a/town.texb");
         row("capitals", "/a/town.LAY", "/a/town.texb");
         row("no suffix", "/a.lay/town", "/a.lay/town.texb");
         row("other suffix", "/a/town.v2", "/a/town.v2.texb");

@@ -96,23 +96,23 @@ private Q_SLOTS:
     {
         // wanted: DIR means the folder of the test
         const Cases<QVariantMap, QString, QString> row({"values", "wanted", "map"});
-        const QString usual =
+        const QString firstRun =
             u"version=1.0 encoding=UTF-8 cache=none filename=buildings layer=layer hfield=height "
             "tileSize=250 extrudedVisibility=2000 wallColor=IMAGE;DIR/grid.asc;DIR/installation/"
             "addons/telecom/colormaps/some/first.txt;minimum;stretched;interpolation "
             "skirtHeight=5 checkClockwise=false source=dtm filename=dtm nodata=nodata"_s;
-        QString other = usual;
+        QString other = firstRun;
         other.replace(u"=250"_s, u"=512.5"_s).replace(u"=5 "_s, u"=0 "_s);
         other.replace(u"false"_s, u"true"_s).replace(u"first"_s, u"second"_s);
         other.replace(u"minimum;stretched;interpolation"_s,
                       u"mostRepresented;absolute;colorrange;-1.5"_s);
-        row("nothing remembered", {}, usual, "first");
+        row("nothing remembered", {}, firstRun, "first");
         row("all else",
             values(u"Mode=3 NoData=-1.5 Stretch=false ColorInterpMode=0 "
                    "TileSize=512.5 CheckGeom=true SkirtSize=0 "
                    "CurrentColormap=1"_s),
             other, "second");
-        row("damaged", values(u"Mode=9 TileSize=x CurrentColormap=-1"_s), usual, "first");
+        row("damaged", values(u"Mode=9 TileSize=x CurrentColormap=-1"_s), firstRun, "first");
     }
 
     void writesWhatIsChosen()

@@ -162,8 +162,9 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, type);
         PylonDesign design = demonstration(type.constData());
-        const Counter usual = counted(*PylonFactory().design(design));
-        qInfo("%s: %zu vertices, %zu drawables", type.constData(), usual.vertices, usual.drawables);
+        const Counter ordinary = counted(*PylonFactory().design(design));
+        qInfo("%s: %zu vertices, %zu drawables", type.constData(), ordinary.vertices,
+              ordinary.drawables);
 
         design.heightM = 2000;
         design.transmitters.clear();
@@ -173,10 +174,10 @@ private Q_SLOTS:
                  360, 30, Color(9, 9, 9, 9), i % 2 ? AntennaKind::Dish : AntennaKind::Default});
         const Counter worst = counted(*PylonFactory().design(design));
 
-        QVERIFY(usual.vertices > 2000 && usual.vertices < 25000);
-        QVERIFY(usual.drawables <= 4 + 6 + 3);
+        QVERIFY(ordinary.vertices > 2000 && ordinary.vertices < 25000);
+        QVERIFY(ordinary.drawables <= 4 + 6 + 3);
         QVERIFY2(worst.vertices <= MaxPylonVertices, qPrintable(QString::number(worst.vertices)));
-        QCOMPARE(usual.lists + worst.lists, 0);
+        QCOMPARE(ordinary.lists + worst.lists, 0);
     }
 
     void sharesWhatIsEqual()

@@ -265,29 +265,29 @@ private Q_SLOTS:
     {
         // problem: empty: none
         const Cases<QByteArray, QByteArray, QString> row({"header", "row", "problem"});
-        const QByteArray usual = "Link;X A;Y A;X B;Y B;Height A;Height B;Frequency (GHz);Length";
-        row("nothing", usual + " (km)", "L;10;0;10,1;0;30;30;7;11,6", "");
-        row("an end without a place", usual, "L;10;0;x;0;30;30;7;",
+        const QByteArray header = "Link;X A;Y A;X B;Y B;Height A;Height B;Frequency (GHz);Length";
+        row("nothing", header + " (km)", "L;10;0;10,1;0;30;30;7;11,6", "");
+        row("an end without a position", header, "L;10;0;x;0;30;30;7;",
             "2|X B|Error|the coordinate \"x\" cannot be read: it holds no number");
-        row("an end at null island", usual, "L;0;0;1;0;30;30;7;",
+        row("an end at null island", header, "L;0;0;1;0;30;30;7;",
             "2|X A|Error|the coordinate \"0\" cannot be read: 0, 0 stands for an unknown position");
-        row("one place", usual + " (km)", "L;10;0;10,000001;0;30;30;7;9",
+        row("one position", header + " (km)", "L;10;0;10,000001;0;30;30;7;9",
             "2||Warning|the ends of the link are less than a metre apart");
-        row("no height", usual, "L;10;0;11;0;30;;7;",
+        row("no height", header, "L;10;0;11;0;30;;7;",
             "2|Height B|Warning|the antenna height is empty");
-        row("an unreadable height", usual, "L;10;0;11;0;high;30;7;",
+        row("an unreadable height", header, "L;10;0;11;0;high;30;7;",
             "2|Height A|Warning|the antenna height \"high\" cannot be read");
-        row("no frequency", usual, "L;10;0;11;0;30;30;n/a;",
+        row("no frequency", header, "L;10;0;11;0;30;30;n/a;",
             "2|Frequency (GHz)|Warning|the frequency is empty");
-        row("an unreadable frequency", usual, "L;10;0;11;0;30;30;E-band;",
+        row("an unreadable frequency", header, "L;10;0;11;0;30;30;E-band;",
             "2|Frequency (GHz)|Warning|the frequency \"E-band\" cannot be read");
-        row("a frequency of 0", usual, "L;10;0;11;0;30;30;0;",
+        row("a frequency of 0", header, "L;10;0;11;0;30;30;0;",
             "2|Frequency (GHz)|Warning|the frequency \"0\" is not positive");
-        row("a length in miles", usual + " (miles)", "L;10;0;10,1;0;30;30;7;10",
+        row("a length in miles", header + " (miles)", "L;10;0;10,1;0;30;30;7;10",
             "2|Length (miles)|Warning|the stated length of 16093 m does not match the distance "
             "between the ends, which is 11132 m");
-        row("a length without a unit", usual, "L;10;0;10,1;0;30;30;7;10", "");
-        row("a short link that is 90 m off", usual + " (m)", "L;10;0;10,01;0;30;30;7;1200", "");
+        row("a length without a unit", header, "L;10;0;10,1;0;30;30;7;10", "");
+        row("a short link that is 90 m off", header + " (m)", "L;10;0;10,01;0;30;30;7;1200", "");
         row("an offset", "X A;Y A;X B;Y B;Height A;Height B;Frequency;DX B",
             "10;0;11;0;30;30;7;5 apples",
             "2|DX B|Warning|the offset \"5 apples\" cannot be read: the position is taken without "

@@ -66,9 +66,10 @@ bool hasCylindricalAntennas(PylonType type)
 AntennaSize antennaSize(const PylonDesign &pylon, const Transmitter &transmitter)
 {
     const bool isDish = transmitter.kind == AntennaKind::Dish;
-    const double usual = isDish ? DefaultDishDiameterM : DefaultAntennaLengthM;
+    const double defaultLengthM = isDish ? DefaultDishDiameterM : DefaultAntennaLengthM;
     const double length =
-        (transmitter.antennaLengthM > 0 ? transmitter.antennaLengthM : usual) * pylon.antennaScale;
+        (transmitter.antennaLengthM > 0 ? transmitter.antennaLengthM : defaultLengthM) *
+        pylon.antennaScale;
     if (isDish)
         return {length, length, DishDepth * length};
     const bool round = hasCylindricalAntennas(pylon.type);
@@ -109,9 +110,9 @@ MastDesign mastDesign(const PylonDesign &pylon)
     else if (pylon.type == PylonType::WaterTowerPanel)
         mast.decksM = {galleryHeight(mast.heightM)};
     if (isRooftop(pylon.type)) {
-        const double usual = std::max(0.8 * mast.heightM, mast.heightM - 5);
-        const double lowest = bottoms.empty() ? usual : bottoms.front() - ParapetM;
-        mast.roofM = centimetres(std::max(0.25, std::min(usual, lowest)));
+        const double defaultM = std::max(0.8 * mast.heightM, mast.heightM - 5);
+        const double lowest = bottoms.empty() ? defaultM : bottoms.front() - ParapetM;
+        mast.roofM = centimetres(std::max(0.25, std::min(defaultM, lowest)));
     }
     return mast;
 }

@@ -27,8 +27,8 @@ std::string projectOf(const osgDB::Options &options)
     return value.starts_with('"') ? value.substr(1, value.find('"', 1) - 1) : value;
 }
 
-void tell(const std::string &path, const std::vector<std::string> &notices,
-          const std::vector<std::string> &facts)
+void reportScene(const std::string &path, const std::vector<std::string> &notices,
+                 const std::vector<std::string> &facts)
 {
     for (const std::string &notice : notices)
         OSG_WARN << path << ": " << notice << std::endl;
@@ -70,7 +70,7 @@ ReadResult readLocalScene(
     try {
         std::vector<std::string> notices;
         const osg::ref_ptr<osg::Group> scene = read(path, readRequestOf(options), notices);
-        tell(path, notices, scene->getDescriptions());
+        reportScene(path, notices, scene->getDescriptions());
         return scene.get();
     } catch (const Stopped &) {
         return ReadResult(contract::StoppedText);

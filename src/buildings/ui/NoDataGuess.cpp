@@ -80,11 +80,11 @@ Stoppable<double> guessBeside(const QPointer<QWidget> &page, const QString &path
             Qt::QueuedConnection);
     };
     std::thread worker([&] {
-        const auto tell = [&](double share) {
+        const auto report = [&](double share) {
             showShare(share);
             return !isAbandoned;
         };
-        guessed = geodata::guessedNoData(path, tell, part);
+        guessed = geodata::guessedNoData(path, report, part);
         QMetaObject::invokeMethod(&loop, &QEventLoop::quit, Qt::QueuedConnection);
     });
 

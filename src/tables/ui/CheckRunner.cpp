@@ -39,11 +39,11 @@ void CheckRunner::run(const Work &work)
             });
             return !cancelled->load();
         });
-        post([this, outcome] { ended(outcome); });
+        post([this, outcome] { finish(outcome); });
     });
 }
 
-void CheckRunner::ended(const std::function<void()> &tell)
+void CheckRunner::finish(const std::function<void()> &report)
 {
     m_thread.join();
     const bool isWanted = !m_cancelled->load();
@@ -51,7 +51,7 @@ void CheckRunner::ended(const std::function<void()> &tell)
     if (const Work next = std::exchange(m_next, nullptr))
         run(next);
     else if (isWanted)
-        tell();
+        report();
 }
 
 } // namespace vlt::tables

@@ -53,7 +53,7 @@ Q_SIGNALS:
 
 private:
     void run(const Work &work);
-    void ended(const std::function<void()> &tell);
+    void finish(const std::function<void()> &report);
 
     std::thread m_thread;
     std::shared_ptr<std::atomic<bool>> m_cancelled; ///< of the running check; null for none

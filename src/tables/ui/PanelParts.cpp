@@ -9,9 +9,9 @@ namespace vlt::tables {
 
 void narrowSpinBoxes(QWidget *panel)
 {
-    const int usual = panel->fontMetrics().horizontalAdvance(QStringLiteral("1000000.00 m"));
+    const int textWidthPx = panel->fontMetrics().horizontalAdvance(QStringLiteral("1000000.00 m"));
     for (auto *box : panel->findChildren<QAbstractSpinBox *>()) {
-        box->setMinimumWidth(usual + box->sizeHint().height());
+        box->setMinimumWidth(textWidthPx + box->sizeHint().height());
         box->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     }
 }
@@ -21,13 +21,13 @@ void showWholeTexts(QComboBox *combo)
     combo->view()->setMinimumWidth(combo->view()->sizeHintForColumn(0) +
                                    combo->style()->pixelMetric(QStyle::PM_ScrollBarExtent));
     const QString purpose = combo->toolTip();
-    const auto tell = [combo, purpose] {
+    const auto showChosen = [combo, purpose] {
         const QString chosen = combo->currentText();
         combo->setToolTip(text::asRichText(
             chosen.isEmpty() ? purpose : chosen + QStringLiteral("\n\n") + purpose));
     };
-    QObject::connect(combo, &QComboBox::currentIndexChanged, combo, tell);
-    tell();
+    QObject::connect(combo, &QComboBox::currentIndexChanged, combo, showChosen);
+    showChosen();
 }
 
 } // namespace vlt::tables
