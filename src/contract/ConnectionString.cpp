@@ -10,7 +10,7 @@ namespace vlt::contract {
 
 namespace {
 
-constexpr size_t MaxPathSize = 4096; ///< bytes; longer names of files do not exist
+constexpr std::size_t MaxPathSize = 4096; ///< bytes; longer names of files do not exist
 
 using Keys = std::set<std::string_view>;
 
@@ -36,11 +36,11 @@ std::string_view keyAt(std::string_view text)
 /// option follows.
 ///
 /// @param seen  keys that have occurred; none of them counts as an option again
-size_t endBeforeNextOption(std::string_view text, std::string_view key, const Keys &seen)
+std::size_t endBeforeNextOption(std::string_view text, std::string_view key, const Keys &seen)
 {
     if (key == query::TerrainFile) // always the last option
         return std::string_view::npos;
-    for (size_t comma = text.find(','); comma != std::string_view::npos;
+    for (std::size_t comma = text.find(','); comma != std::string_view::npos;
          comma = text.find(',', comma + 1)) {
         const std::string_view next = keyAt(text.substr(comma + 1));
         const bool follows = !next.empty() && seen.count(next) == 0;
@@ -54,12 +54,12 @@ size_t endBeforeNextOption(std::string_view text, std::string_view key, const Ke
 
 /// Positions where the value that starts `text` may end: the commas outside brackets and quotation
 /// marks, because a WKT text has commas within these.
-std::vector<size_t> valueEnds(std::string_view text)
+std::vector<std::size_t> valueEnds(std::string_view text)
 {
-    std::vector<size_t> ends;
+    std::vector<std::size_t> ends;
     int depth = 0;
     bool quoted = false;
-    for (size_t at = 0; at < text.size(); ++at) {
+    for (std::size_t at = 0; at < text.size(); ++at) {
         const char c = text[at];
         if (c == '"')
             quoted = !quoted;
@@ -71,19 +71,21 @@ std::vector<size_t> valueEnds(std::string_view text)
             ends.push_back(at);
     }
     if (ends.empty()) // for instance because a bracket is never closed
-        for (size_t at = text.find(','); at != std::string_view::npos; at = text.find(',', at + 1))
+        for (std::size_t at = text.find(','); at != std::string_view::npos;
+             at = text.find(',', at + 1))
             ends.push_back(at);
     return ends;
 }
 
 /// End of the value of the last option, which starts `text`; the path of the table follows.
-size_t endBeforePath(std::string_view text, std::string_view key, const std::string &baseDirectory)
+std::size_t endBeforePath(std::string_view text, std::string_view key,
+                          const std::string &baseDirectory)
 {
-    const std::vector<size_t> ends = valueEnds(text);
+    const std::vector<std::size_t> ends = valueEnds(text);
     if (ends.empty())
         return text.size();
     if (key == query::TerrainFile) // a path, which may contain commas
-        for (const size_t end : ends)
+        for (const std::size_t end : ends)
             if (text.size() - end <= MaxPathSize &&
                 exists(std::string(text.substr(end + 1)), baseDirectory))
                 return end;
@@ -116,7 +118,7 @@ std::optional<ConnectionString> parseConnection(std::string_view text,
         if (key.empty() || !seen.insert(key).second)
             break;
         rest.remove_prefix(key.size() + 1);
-        size_t end = endBeforeNextOption(rest, key, seen);
+        std::size_t end = endBeforeNextOption(rest, key, seen);
         if (end == std::string_view::npos)
             end = endBeforePath(rest, key, baseDirectory);
         connection.options.emplace_back(key, rest.substr(0, end));

@@ -10,19 +10,19 @@ namespace vlt::contract {
 
 namespace {
 
-constexpr size_t PlaceSize = 2; ///< length of "%1"
+constexpr std::size_t PlaceSize = 2; ///< length of "%1"
 
 /// A pattern cut at its placeholders: n placeholders lie between n + 1 pieces of words.
 struct CutPattern
 {
     const Text *text = nullptr;
     std::vector<std::string_view> words;
-    size_t wordsSize = 0;
+    std::size_t wordsSize = 0;
 };
 
-size_t findPlace(std::string_view pattern, size_t from)
+std::size_t findPlace(std::string_view pattern, std::size_t from)
 {
-    size_t at = pattern.find('%', from);
+    std::size_t at = pattern.find('%', from);
     while (at != std::string_view::npos &&
            (at + 1 == pattern.size() || pattern[at + 1] < '1' || pattern[at + 1] > '9'))
         at = pattern.find('%', at + 1);
@@ -34,8 +34,8 @@ CutPattern cut(const Text &text)
     const std::string_view pattern = text.pattern;
     CutPattern result;
     result.text = &text;
-    size_t begin = 0;
-    for (size_t place = findPlace(pattern, 0); place != std::string_view::npos;
+    std::size_t begin = 0;
+    for (std::size_t place = findPlace(pattern, 0); place != std::string_view::npos;
          place = findPlace(pattern, begin)) {
         result.words.push_back(pattern.substr(begin, place - begin));
         begin = place + PlaceSize;
@@ -83,9 +83,9 @@ bool takeValues(const CutPattern &pattern, std::string_view rest,
         values.push_back(rest);
         return fits(kind, rest);
     }
-    const size_t number = values.size();
+    const std::size_t number = values.size();
     const std::string_view words = pattern.words[number + 1];
-    for (size_t at = rest.rfind(words); at != std::string_view::npos;
+    for (std::size_t at = rest.rfind(words); at != std::string_view::npos;
          at = at > 0 ? rest.rfind(words, at - 1) : std::string_view::npos) {
         values.resize(number);
         values.push_back(rest.substr(0, at));
@@ -117,11 +117,11 @@ bool matches(const CutPattern &pattern, std::string_view english,
 std::string filled(std::string_view pattern, std::span<const std::string_view> values)
 {
     std::string result;
-    size_t begin = 0;
-    for (size_t place = findPlace(pattern, 0); place != std::string_view::npos;
+    std::size_t begin = 0;
+    for (std::size_t place = findPlace(pattern, 0); place != std::string_view::npos;
          place = findPlace(pattern, begin)) {
         result += pattern.substr(begin, place - begin);
-        const auto number = static_cast<size_t>(pattern[place + 1] - '1');
+        const auto number = static_cast<std::size_t>(pattern[place + 1] - '1');
         if (number < values.size())
             result += values[number];
         begin = place + PlaceSize;
