@@ -67,7 +67,7 @@ private Q_SLOTS:
         QVERIFY(!check.links.at(1007).isPlaced && !check.links.at(1007).lengthM);
         QVERIFY(std::any_of(check.problems.listed.begin(), check.problems.listed.end(),
                             [](const vlt::Problem &problem) { return problem.row == 1009; }));
-        QVERIFY(!check.terrainProblem.isEmpty());
+        QVERIFY(check.terrainProblem);
         compareShares();
     }
 

@@ -141,7 +141,8 @@ private Q_SLOTS:
     void recognisesDefinitions()
     {
         const auto refusal = [](const QString &text) {
-            return vlt::geodata::definitionRefusal(text).value_or(vlt::Error()).key;
+            const std::optional<vlt::Error> error = vlt::geodata::definitionRefusal(text);
+            return error ? error->key : QString();
         };
         QString wkt = u"GEOGCS[\"Rep\u00e8re\",DATUM[\"D\",SPHEROID[\"S\",6378137,298.25]],"
                       "PRIMEM[\"Greenwich\",0],UNIT[\"degree\",0.0174532925199433]]"_s;
