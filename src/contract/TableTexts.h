@@ -132,14 +132,8 @@ inline constexpr auto TableTexts = std::to_array<Text>({
     // values of transmitters that cannot be read
     {"MESS_TAB_HEIGHT_RANGE", "the antenna height \"%1\" cannot be used: an antenna height lies "
                               "between 0 and 2000 m above ground"},
-    {"MESS_TAB_AZIMUTH_NO_NUMBER", "the azimuth \"%1\" cannot be read"},
-    {"MESS_TAB_AZIMUTH_RANGE",
-     "the azimuth \"%1\" cannot be used: an azimuth lies between -360 and 360 degrees"},
     {"MESS_TAB_TILT_RANGE",
      "the tilt \"%1\" cannot be used: a tilt lies between -90 and 90 degrees"},
-    {"MESS_TAB_BEAM_WIDTH_UNREADABLE", "the beam width \"%1\" cannot be read"},
-    {"MESS_TAB_BEAM_WIDTH_RANGE",
-     "the beam width \"%1\" cannot be used: a beam width lies between 0 and 360 degrees"},
 
     // coordinates that cannot be read
     {"MESS_TAB_NO_COORDINATE", "the coordinate is empty"},

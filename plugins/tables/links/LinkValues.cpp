@@ -9,6 +9,15 @@ namespace vlt::driver {
 using contract::formatted;
 using contract::TableTextId;
 
+namespace {
+
+bool isOutOfRange(const TransmitterValue &value)
+{
+    return value.fault == ValueFault::OutOfRange;
+}
+
+} // namespace
+
 /// The row that is read, and the list of its problems.
 struct LinkValueReader::RowContext
 {
@@ -48,18 +57,22 @@ std::optional<double> LinkValueReader::heightM(const RowContext &context,
     if (value.isAbsent())
         context.warn(nameOf(height.field), formatted("MESS_TAB_NO_HEIGHT"));
     else if (value.fault)
-        context.warn(nameOf(height.field), formatted(*value.fault, {quotation(text)}));
+        context.warn(nameOf(height.field),
+                     formatted(isOutOfRange(value) ? TableTextId("MESS_TAB_HEIGHT_RANGE")
+                                                   : TableTextId("MESS_TAB_HEIGHT_UNREADABLE"),
+                               {quotation(text)}));
     return value.number;
 }
 
 std::optional<double> LinkValueReader::degrees(const RowContext &context, int field,
-                                               ReadAngle readAngle,
-                                               std::optional<TableTextId> why) const
+                                               ReadAngle readAngle, TableTextId unreadable,
+                                               TableTextId outOfRange) const
 {
     const std::string text = fieldText(context.cells, field);
     const TransmitterValue value = readAngle(text, 1, m_words);
     if (value.fault)
-        context.warn(nameOf(field), formatted(why.value_or(*value.fault), {quotation(text)}));
+        context.warn(nameOf(field),
+                     formatted(isOutOfRange(value) ? outOfRange : unreadable, {quotation(text)}));
     return value.number;
 }
 
@@ -72,7 +85,10 @@ std::optional<double> LinkValueReader::frequencyMHz(const RowContext &context,
     const TransmitterValue value = readFrequency(text, frequency.unit, m_words);
     if (value.fault) {
         isUnreadable = true;
-        context.warn(nameOf(frequency.field), formatted(*value.fault, {quotation(text)}));
+        context.warn(nameOf(frequency.field),
+                     formatted(isOutOfRange(value) ? TableTextId("MESS_TAB_FREQUENCY_NOT_POSITIVE")
+                                                   : TableTextId("MESS_TAB_FREQUENCY_UNREADABLE"),
+                               {quotation(text)}));
     }
     return value.number;
 }
@@ -115,8 +131,9 @@ LinkValues LinkValueReader::read(int64_t row, const std::vector<const Cell *> &c
         of.identifier = fieldText(cells, fields.identifier);
         of.heightM = heightM(context, fields.height);
         of.azimuthDeg = degrees(context, fields.azimuth, readAzimuthDeg,
-                                TableTextId("MESS_TAB_AZIMUTH_UNREADABLE"));
-        of.tiltDeg = degrees(context, fields.tilt, readTiltDeg);
+                                "MESS_TAB_AZIMUTH_UNREADABLE", "MESS_TAB_AZIMUTH_UNREADABLE");
+        of.tiltDeg = degrees(context, fields.tilt, readTiltDeg, "MESS_TAB_TILT_UNREADABLE",
+                             "MESS_TAB_TILT_RANGE");
     }
     readFrequencies(context, values);
     // without a unit in the header or in the cell, the length cannot be compared

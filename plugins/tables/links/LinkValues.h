@@ -47,9 +47,9 @@ private:
                                        bool &isUnreadable) const;
     void readFrequencies(const RowContext &context, LinkValues &values) const;
     std::optional<double> heightM(const RowContext &context, const QuantityField &height) const;
-    /// @param why  the problem of a value that cannot be used, instead of its own
     std::optional<double> degrees(const RowContext &context, int field, ReadAngle readAngle,
-                                  std::optional<contract::TableTextId> why = {}) const;
+                                  contract::TableTextId unreadable,
+                                  contract::TableTextId outOfRange) const;
     const std::string &nameOf(int field) const;
 
     const TableProfile *m_table;

@@ -2,6 +2,7 @@
 
 #include "plugins/tables/cells/Cell.h"
 #include "plugins/tables/cells/Numbers.h"
+#include "plugins/tables/cells/ValueList.h"
 
 #include <algorithm>
 #include <cmath>
@@ -16,7 +17,6 @@ namespace vlt::driver {
 namespace {
 
 constexpr std::size_t MaxUnitSize = 12; ///< bytes
-constexpr std::string_view ListMarks = "/;|";
 
 /// The number at the start of a text, with at most a unit behind it.
 std::optional<double> leadingNumber(std::string_view text)
@@ -41,16 +41,13 @@ std::optional<double> leadingNumber(std::string_view text)
 std::vector<double> numbersIn(std::string_view text)
 {
     std::vector<double> numbers;
-    for (;;) {
-        const std::size_t mark = text.find_first_of(ListMarks);
-        const std::optional<double> number = leadingNumber(text.substr(0, mark));
+    for (const std::string_view part : splitList(text)) {
+        const std::optional<double> number = leadingNumber(part);
         if (!number)
             return {};
         numbers.push_back(*number);
-        if (mark == std::string_view::npos)
-            return numbers;
-        text.remove_prefix(mark + 1);
     }
+    return numbers;
 }
 
 /// The range of values that a role can have.
@@ -131,12 +128,14 @@ double fitOf(Role role, const ColumnFacts &facts)
     if (role == Role::Azimuth && looksLikeRadians(facts))
         return 0;
     const double readable = static_cast<double>(facts.numeric + facts.omni);
-    const auto inside = std::count_if(
-        facts.numbers.begin(), facts.numbers.end(),
-        [&](double number) { return number >= range->first && number <= range->second; });
+    const auto inside =
+        std::count_if(facts.numbers.begin(), facts.numbers.end(), [&](double number) {
+            return number >= range->first && number <= range->second;
+        });
     const double insideShare =
-        facts.numbers.empty() ? 1
-                              : static_cast<double>(inside) / static_cast<double>(facts.numbers.size());
+        facts.numbers.empty()
+            ? 1
+            : static_cast<double>(inside) / static_cast<double>(facts.numbers.size());
     return readable / static_cast<double>(facts.filled) * insideShare;
 }
 

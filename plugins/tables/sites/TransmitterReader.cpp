@@ -1,11 +1,10 @@
 #include "plugins/tables/sites/TransmitterReader.h"
 
 #include "contract/TableTexts.h"
-#include "plugins/tables/cells/Cell.h"
+#include "plugins/tables/cells/ValueList.h"
 #include "plugins/tables/sites/PositionReader.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace vlt::driver {
 
@@ -14,37 +13,14 @@ namespace {
 using contract::TableTextId;
 
 constexpr double WholeTurnDeg = 360;
-constexpr double MaxHeightM = 2000;
-constexpr double MaxTiltDeg = 90;
 constexpr std::size_t MaxListed = 100; ///< items of a list
-constexpr std::string_view ListMarks = "/;|";
 
 /// The item of a list; the whole text if it is no list.
-std::string_view itemOf(std::string_view text, std::size_t index)
+std::string_view itemOf(const std::vector<std::string_view> &parts, std::size_t index)
 {
-    if (text.find_first_of(ListMarks) == std::string_view::npos)
-        return text;
-    for (; index > 0; --index) {
-        const std::size_t mark = text.find_first_of(ListMarks);
-        if (mark == std::string_view::npos)
-            return {};
-        text.remove_prefix(mark + 1);
-    }
-    return trimmed(text.substr(0, text.find_first_of(ListMarks)));
-}
-
-std::size_t itemsIn(std::string_view text)
-{
-    const auto marks = std::count_if(text.begin(), text.end(), [](char c) {
-        return ListMarks.find(c) != std::string_view::npos;
-    });
-    return text.empty() ? 0 : std::min<std::size_t>(static_cast<std::size_t>(marks) + 1, MaxListed);
-}
-
-/// Whether a text consists of nines, which fill numbers that are not known.
-bool isFiller(std::string_view text)
-{
-    return text.size() >= 4 && text.find_first_not_of("9.,") == std::string_view::npos;
+    return parts.size() == 1      ? parts.front()
+           : index < parts.size() ? parts[index]
+                                  : std::string_view();
 }
 
 } // namespace
@@ -53,8 +29,8 @@ bool isFiller(std::string_view text)
 class TransmitterReader::RowContext
 {
 public:
-    RowContext(const TransmitterReader &reader, int64_t row,
-               const std::vector<const Cell *> &cells, std::vector<RowProblem> &problems)
+    RowContext(const TransmitterReader &reader, int64_t row, const std::vector<const Cell *> &cells,
+               std::vector<RowProblem> &problems)
         : m_reader(reader)
         , m_row(row)
         , m_cells(cells)
@@ -67,16 +43,15 @@ public:
         m_isOmni = false;
         m_isUsable = true;
         TransmitterValues values;
-        values.heightM = number(fields.height, 0, MaxHeightM, "MESS_TAB_SECTOR_HEIGHT");
-        values.azimuthDeg = number(fields.azimuth, -WholeTurnDeg, WholeTurnDeg,
-                                   "MESS_TAB_SECTOR_AZIMUTH");
+        values.heightM = number(fields.height, readAntennaHeightM, "MESS_TAB_SECTOR_HEIGHT");
+        values.azimuthDeg = number(fields.azimuth, readAzimuthDeg, "MESS_TAB_SECTOR_AZIMUTH");
         values.beamWidthDeg =
-            number(fields.beamWidth, 0, WholeTurnDeg, "MESS_TAB_SECTOR_BEAM_WIDTH");
+            number(fields.beamWidth, readBeamWidthDeg, "MESS_TAB_SECTOR_BEAM_WIDTH");
         const bool isUsable = m_isUsable;
-        values.mechanicalTiltDeg = number(fields.mechanicalTilt, -MaxTiltDeg, MaxTiltDeg,
-                                          "MESS_TAB_SECTOR_TILT");
-        values.electricalTiltDeg = number(fields.electricalTilt, -MaxTiltDeg, MaxTiltDeg,
-                                          "MESS_TAB_SECTOR_TILT");
+        values.mechanicalTiltDeg =
+            number(fields.mechanicalTilt, readTiltDeg, "MESS_TAB_SECTOR_TILT");
+        values.electricalTiltDeg =
+            number(fields.electricalTilt, readTiltDeg, "MESS_TAB_SECTOR_TILT");
         if (!isUsable || !m_isUsable)
             return std::nullopt;
         const bool isEmpty = !values.heightM && !values.azimuthDeg && !values.mechanicalTiltDeg &&
@@ -86,12 +61,11 @@ public:
             return std::nullopt;
         if (values.azimuthDeg && (m_isOmni || values.beamWidthDeg == WholeTurnDeg))
             values.azimuthDeg.reset();
-        if (values.azimuthDeg)
-            values.azimuthDeg = std::fmod(*values.azimuthDeg + WholeTurnDeg, WholeTurnDeg);
         values.sectorId = text(fields.sectorId);
         values.technology = text(fields.technology);
-        if (const std::string frequency = text(fields.frequency.field); !isAbsent(frequency))
-            values.frequencyMHz = readFrequencyMHz(frequency, fields.frequency.unit);
+        values.frequencyMHz = readFrequency(itemText(fields.frequency.field, splitList),
+                                            fields.frequency.unit, m_reader.m_words)
+                                  .number;
         return values;
     }
 
@@ -99,47 +73,40 @@ public:
     {
         std::size_t count = 1;
         for (const int field : {fields.azimuth.field, fields.height.field})
-            count = std::max(count, itemsIn(fieldText(m_cells, field)));
-        return count;
+            count = std::max(count, splitList(fieldText(m_cells, field)).size());
+        return std::min(count, MaxListed);
     }
 
 private:
-    bool isAbsent(std::string_view text) const
-    {
-        return text.empty() || m_reader.m_vocabulary->isMissing(text) || isFiller(text);
-    }
+    using Split = std::vector<std::string_view> (*)(std::string_view text);
+    using ReadValue = TransmitterValue (*)(std::string_view text, double unit,
+                                           const ValueWords &words);
 
-    std::string text(int field) const
+    /// The text of the transmitter in a field.
+    std::string itemText(int field, Split split) const
     {
         const std::string whole = fieldText(m_cells, field);
-        return m_reader.m_roles->shape == SiteShape::Lists ? std::string(itemOf(whole, m_item))
-                                                           : whole;
+        return m_reader.m_roles->shape == SiteShape::Lists
+                   ? std::string(itemOf(split(whole), m_item))
+                   : whole;
     }
+    std::string text(int field) const { return itemText(field, splitNames); }
 
-    /// A number in metres or degrees; reports one that cannot be read or is out of range.
-    std::optional<double> number(const QuantityField &of, double minimum, double maximum,
-                                 TableTextId why)
+    /// A number in metres or degrees; reports one that cannot be used.
+    std::optional<double> number(const QuantityField &of, ReadValue readValue, TableTextId why)
     {
         if (!of.found())
             return std::nullopt;
-        const std::string value = text(of.field);
-        if (isAbsent(value))
-            return std::nullopt;
-        if (m_reader.m_vocabulary->isOmni(value)) {
-            m_isOmni = true;
-            return std::nullopt;
+        const std::string item = itemText(of.field, splitList);
+        const TransmitterValue value = readValue(item, of.unit.value_or(1), m_reader.m_words);
+        m_isOmni = m_isOmni || value.isOmni;
+        if (value.fault) {
+            m_isUsable = false;
+            m_problems.push_back({m_row,
+                                  m_reader.m_table->fields[static_cast<std::size_t>(of.field)].name,
+                                  false, contract::formatted(why, {quotation(item)})});
         }
-        const bool isLength = maximum == MaxHeightM;
-        std::optional<double> read =
-            isLength ? readLengthM(value, of.unit.value_or(1)) : readDegrees(value);
-        if (read && !isLength)
-            *read *= of.unit.value_or(1);
-        if (read && *read >= minimum && *read <= maximum)
-            return read;
-        m_isUsable = false;
-        m_problems.push_back({m_row, m_reader.m_table->fields[static_cast<std::size_t>(of.field)].name,
-                              false, contract::formatted(why, {quotation(value)})});
-        return std::nullopt;
+        return value.number;
     }
 
     const TransmitterReader &m_reader;
@@ -150,6 +117,15 @@ private:
     bool m_isUsable = true;
     bool m_isOmni = false;
 };
+
+TransmitterReader::TransmitterReader(const TableProfile &table, const SiteRoles &roles,
+                                     const Vocabulary &vocabulary)
+    : m_table(&table)
+    , m_roles(&roles)
+{
+    m_words.isMissing = [&vocabulary](std::string_view text) { return vocabulary.isMissing(text); };
+    m_words.isOmni = [&vocabulary](std::string_view text) { return vocabulary.isOmni(text); };
+}
 
 std::vector<std::optional<TransmitterValues>>
 TransmitterReader::read(int64_t row, const std::vector<const Cell *> &cells,

@@ -2,6 +2,7 @@
 
 #include "plugins/tables/sites/SiteRoles.h"
 #include "plugins/tables/table/RowProblem.h"
+#include "plugins/tables/values/TransmitterValues.h"
 
 #include <optional>
 #include <string>
@@ -28,11 +29,7 @@ class TransmitterReader
 {
 public:
     TransmitterReader(const TableProfile &table, const SiteRoles &roles,
-                      const Vocabulary &vocabulary)
-        : m_table(&table)
-        , m_roles(&roles)
-        , m_vocabulary(&vocabulary)
-    {}
+                      const Vocabulary &vocabulary);
 
     /// One entry for each transmitter that the row has columns for, or for each item of its lists;
     /// empty for one that is left out or has no values.
@@ -45,7 +42,7 @@ private:
 
     const TableProfile *m_table;
     const SiteRoles *m_roles;
-    const Vocabulary *m_vocabulary;
+    ValueWords m_words;
 };
 
 } // namespace vlt::driver

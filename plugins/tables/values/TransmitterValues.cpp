@@ -12,7 +12,6 @@ namespace vlt::driver {
 namespace {
 
 using contract::Range;
-using contract::TableTextId;
 
 /// Whether a text is a number of nines only, which programs write for an unknown value. A height of
 /// 99999 m or a frequency of 9999 MHz is short enough to be a mistake or a value.
@@ -37,14 +36,25 @@ std::string_view valueText(std::string_view text, const ValueWords &words)
     return text.empty() || isFiller(text) || words.isMissing(text) ? std::string_view() : text;
 }
 
-TransmitterValue checked(std::optional<double> number, const Range &range, TableTextId unreadable,
-                         TableTextId outOfRange)
+TransmitterValue checked(std::optional<double> number, const Range &range)
 {
     if (!number)
-        return {std::nullopt, unreadable};
+        return {std::nullopt, ValueFault::Unreadable};
     if (!range.contains(*number))
-        return {std::nullopt, outOfRange};
+        return {std::nullopt, ValueFault::OutOfRange};
     return {number, std::nullopt};
+}
+
+/// An angle, or a word for all directions.
+TransmitterValue readDirection(std::string_view text, double unitDeg, const ValueWords &words,
+                               const Range &range)
+{
+    text = valueText(text, words);
+    if (text.empty())
+        return {};
+    if (words.isOmni(text))
+        return {std::nullopt, std::nullopt, true};
+    return checked(readDegrees(text, unitDeg), range);
 }
 
 double wholeTurnsRemoved(double degrees)
@@ -59,21 +69,13 @@ double wholeTurnsRemoved(double degrees)
 TransmitterValue readAntennaHeightM(std::string_view text, double unitM, const ValueWords &words)
 {
     text = valueText(text, words);
-    if (text.empty())
-        return {};
-    return checked(readLengthM(text, unitM), contract::AntennaHeightM, "MESS_TAB_HEIGHT_UNREADABLE",
-                   "MESS_TAB_HEIGHT_RANGE");
+    return text.empty() ? TransmitterValue()
+                        : checked(readLengthM(text, unitM), contract::AntennaHeightM);
 }
 
 TransmitterValue readAzimuthDeg(std::string_view text, double unitDeg, const ValueWords &words)
 {
-    text = valueText(text, words);
-    if (text.empty())
-        return {};
-    if (words.isOmni(text))
-        return {std::nullopt, std::nullopt, true};
-    TransmitterValue azimuth = checked(readDegrees(text, unitDeg), contract::AzimuthDeg,
-                                       "MESS_TAB_AZIMUTH_NO_NUMBER", "MESS_TAB_AZIMUTH_RANGE");
+    TransmitterValue azimuth = readDirection(text, unitDeg, words, contract::AzimuthDeg);
     if (azimuth.number)
         azimuth.number = wholeTurnsRemoved(*azimuth.number);
     return azimuth;
@@ -82,19 +84,13 @@ TransmitterValue readAzimuthDeg(std::string_view text, double unitDeg, const Val
 TransmitterValue readTiltDeg(std::string_view text, double unitDeg, const ValueWords &words)
 {
     text = valueText(text, words);
-    if (text.empty())
-        return {};
-    return checked(readDegrees(text, unitDeg), contract::TiltDeg, "MESS_TAB_TILT_UNREADABLE",
-                   "MESS_TAB_TILT_RANGE");
+    return text.empty() ? TransmitterValue()
+                        : checked(readDegrees(text, unitDeg), contract::TiltDeg);
 }
 
 TransmitterValue readBeamWidthDeg(std::string_view text, double unitDeg, const ValueWords &words)
 {
-    text = valueText(text, words);
-    if (text.empty())
-        return {};
-    return checked(readDegrees(text, unitDeg), contract::BeamWidthDeg,
-                   "MESS_TAB_BEAM_WIDTH_UNREADABLE", "MESS_TAB_BEAM_WIDTH_RANGE");
+    return readDirection(text, unitDeg, words, contract::BeamWidthDeg);
 }
 
 TransmitterValue readFrequency(std::string_view text, std::optional<double> unitMHz,
@@ -105,9 +101,9 @@ TransmitterValue readFrequency(std::string_view text, std::optional<double> unit
         return {};
     const auto megahertz = readFrequencyMHz(text, unitMHz);
     if (!megahertz)
-        return {std::nullopt, TableTextId("MESS_TAB_FREQUENCY_UNREADABLE")};
+        return {std::nullopt, ValueFault::Unreadable};
     if (*megahertz <= 0)
-        return {std::nullopt, TableTextId("MESS_TAB_FREQUENCY_NOT_POSITIVE")};
+        return {std::nullopt, ValueFault::OutOfRange};
     return {megahertz, std::nullopt};
 }
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "contract/TableTexts.h"
 #include "plugins/tables/table/ColumnStatistics.h"
 
 #include <functional>
@@ -13,8 +12,14 @@ namespace vlt::driver {
 struct ValueWords
 {
     std::function<bool(std::string_view)> isMissing = isMissingWord; ///< stands for no value
-    /// Stands for all directions, in a column of azimuths.
+    /// Stands for all directions, in columns of azimuths and of beam widths.
     std::function<bool(std::string_view)> isOmni = [](std::string_view) { return false; };
+};
+
+/// Why a value cannot be used.
+enum class ValueFault {
+    Unreadable,
+    OutOfRange, ///< of contract/TransmitterRanges.h, or a frequency that is not positive
 };
 
 /// The value of a transmitter in a cell. Without a number and without a fault the cell holds no
@@ -22,7 +27,7 @@ struct ValueWords
 struct TransmitterValue
 {
     std::optional<double> number;
-    std::optional<contract::TableTextId> fault; ///< reason why there is none; %1 is the cell's text
+    std::optional<ValueFault> fault;
     bool isOmni = false; ///< the cell says that the antenna radiates in all directions
 
     bool isAbsent() const { return !number && !fault && !isOmni; }

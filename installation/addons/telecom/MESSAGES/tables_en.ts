@@ -347,25 +347,9 @@
         <source>the antenna height "%1" cannot be used: an antenna height lies between 0 and 2000 m above ground</source>
         <translation>the antenna height "%1" cannot be used: an antenna height lies between 0 and 2000 m above ground</translation>
     </message>
-    <message id="MESS_TAB_AZIMUTH_NO_NUMBER">
-        <source>the azimuth "%1" cannot be read</source>
-        <translation>the azimuth "%1" cannot be read</translation>
-    </message>
-    <message id="MESS_TAB_AZIMUTH_RANGE">
-        <source>the azimuth "%1" cannot be used: an azimuth lies between -360 and 360 degrees</source>
-        <translation>the azimuth "%1" cannot be used: an azimuth lies between -360 and 360 degrees</translation>
-    </message>
     <message id="MESS_TAB_TILT_RANGE">
         <source>the tilt "%1" cannot be used: a tilt lies between -90 and 90 degrees</source>
         <translation>the tilt "%1" cannot be used: a tilt lies between -90 and 90 degrees</translation>
-    </message>
-    <message id="MESS_TAB_BEAM_WIDTH_UNREADABLE">
-        <source>the beam width "%1" cannot be read</source>
-        <translation>the beam width "%1" cannot be read</translation>
-    </message>
-    <message id="MESS_TAB_BEAM_WIDTH_RANGE">
-        <source>the beam width "%1" cannot be used: a beam width lies between 0 and 360 degrees</source>
-        <translation>the beam width "%1" cannot be used: a beam width lies between 0 and 360 degrees</translation>
     </message>
     <message id="MESS_TAB_NO_COORDINATE">
         <source>the coordinate is empty</source>

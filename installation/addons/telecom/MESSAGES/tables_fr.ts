@@ -347,25 +347,9 @@
         <source>the antenna height "%1" cannot be used: an antenna height lies between 0 and 2000 m above ground</source>
         <translation>la hauteur d'antenne «&#xa0;%1&#xa0;» ne peut pas être utilisée&#xa0;: une hauteur d'antenne est comprise entre 0 et 2000 m au-dessus du sol</translation>
     </message>
-    <message id="MESS_TAB_AZIMUTH_NO_NUMBER">
-        <source>the azimuth "%1" cannot be read</source>
-        <translation>l'azimut «&#xa0;%1&#xa0;» ne peut pas être lu</translation>
-    </message>
-    <message id="MESS_TAB_AZIMUTH_RANGE">
-        <source>the azimuth "%1" cannot be used: an azimuth lies between -360 and 360 degrees</source>
-        <translation>l'azimut «&#xa0;%1&#xa0;» ne peut pas être utilisé&#xa0;: un azimut est compris entre -360 et 360 degrés</translation>
-    </message>
     <message id="MESS_TAB_TILT_RANGE">
         <source>the tilt "%1" cannot be used: a tilt lies between -90 and 90 degrees</source>
         <translation>l'inclinaison «&#xa0;%1&#xa0;» ne peut pas être utilisée&#xa0;: une inclinaison est comprise entre -90 et 90 degrés</translation>
-    </message>
-    <message id="MESS_TAB_BEAM_WIDTH_UNREADABLE">
-        <source>the beam width "%1" cannot be read</source>
-        <translation>l'ouverture du faisceau «&#xa0;%1&#xa0;» ne peut pas être lue</translation>
-    </message>
-    <message id="MESS_TAB_BEAM_WIDTH_RANGE">
-        <source>the beam width "%1" cannot be used: a beam width lies between 0 and 360 degrees</source>
-        <translation>l'ouverture du faisceau «&#xa0;%1&#xa0;» ne peut pas être utilisée&#xa0;: une ouverture de faisceau est comprise entre 0 et 360 degrés</translation>
     </message>
     <message id="MESS_TAB_NO_COORDINATE">
         <source>the coordinate is empty</source>

@@ -1,10 +1,11 @@
-#include "plugins/tables/values/ValueList.h"
+#include "plugins/tables/cells/ValueList.h"
 
 #include "plugins/tables/cells/Cell.h"
 #include "plugins/tables/cells/GroupedNumber.h"
 
 #include <algorithm>
 #include <cstddef>
+#include <initializer_list>
 
 namespace vlt::driver {
 
@@ -98,21 +99,37 @@ bool isCommaList(std::string_view text)
     return !isBetweenDigits || text.find('.') != std::string_view::npos;
 }
 
+/// The parts at the first of the separators that occurs; nothing if none does.
+std::vector<std::string_view> cutAtFirst(std::string_view text,
+                                         std::initializer_list<SeparatorAt> separators)
+{
+    for (const SeparatorAt separatorAt : separators) {
+        if (auto parts = partsOf(text, separatorAt); parts.size() > 1)
+            return parts;
+    }
+    return {};
+}
+
 } // namespace
+
+std::vector<std::string_view> splitNames(std::string_view text)
+{
+    text = withoutBrackets(text);
+    auto parts =
+        cutAtFirst(text, {characterAt<';'>, characterAt<'|'>, characterAt<'\n'>, characterAt<'/'>});
+    return parts.empty() ? std::vector{text} : parts;
+}
 
 std::vector<std::string_view> splitList(std::string_view text)
 {
     text = withoutBrackets(text);
-    if (hasDigit(text)) { // "N/A" is no list
-        for (const SeparatorAt separatorAt : {characterAt<';'>, characterAt<'|'>, characterAt<'\n'>,
-                                              characterAt<'/'>, commaAndBlankAt, dashAt}) {
-            if (auto parts = partsOf(text, separatorAt); parts.size() > 1)
-                return parts;
-        }
-        if (isCommaList(text))
-            return partsOf(text, characterAt<','>);
-    }
-    return {text};
+    if (!hasDigit(text)) // "N/A" is no list
+        return {text};
+    if (auto parts = splitNames(text); parts.size() > 1)
+        return parts;
+    if (auto parts = cutAtFirst(text, {commaAndBlankAt, dashAt}); !parts.empty())
+        return parts;
+    return isCommaList(text) ? partsOf(text, characterAt<','>) : std::vector{text};
 }
 
 } // namespace vlt::driver

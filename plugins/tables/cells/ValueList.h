@@ -11,4 +11,7 @@ namespace vlt::driver {
 /// "133,5", is a decimal mark.
 std::vector<std::string_view> splitList(std::string_view text);
 
+/// The same for names: commas and dashes are parts of them.
+std::vector<std::string_view> splitNames(std::string_view text);
+
 } // namespace vlt::driver
