@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <array>
 #include <numbers>
+#include <numeric>
 #include <stdexcept>
 
 namespace vlt::driver {
@@ -60,6 +61,23 @@ void forEachText(const Json &texts, Action action)
         forEachText(part, action);
 }
 
+/// Calls an action with language and text of every text in the lists by language of `groups`.
+template<typename Action>
+void forEachLanguage(const Json &groups, Action action)
+{
+    for (const Json &group : groups) {
+        if (!group.is_object())
+            continue;
+        for (const auto &[language, texts] : group.items())
+            forEachText(texts, [&, of = language](const std::string &t) { action(of, t); });
+    }
+}
+
+std::string joined(const std::vector<std::string> &words)
+{
+    return std::accumulate(words.begin(), words.end(), std::string());
+}
+
 /// The member of an object; null if there is none.
 const Json *memberOf(const Json &object, const char *name)
 {
@@ -74,13 +92,38 @@ template<typename Change>
 void Vocabulary::addPhrase(const std::string &phrase, Change change)
 {
     const std::vector<std::string> words = nameWords(phrase);
-    std::string joined;
-    for (const std::string &word : words)
-        joined += word;
-    if (joined.empty())
+    if (words.empty())
         return;
-    change(m_phrases[joined]);
+    change(m_phrases[joined(words)]);
     m_longestPhrase = std::max(m_longestPhrase, words.size());
+}
+
+/// The bit of a language; none for "any", and beyond the number of bits.
+std::uint32_t Vocabulary::languageBit(const std::string &language)
+{
+    constexpr std::size_t MaxLanguages = 32;
+    if (language == "any")
+        return 0;
+    auto found = std::find(m_languages.begin(), m_languages.end(), language);
+    if (found == m_languages.end() && m_languages.size() < MaxLanguages)
+        found = m_languages.insert(found, language);
+    return found == m_languages.end() ? 0 : std::uint32_t{1} << (found - m_languages.begin());
+}
+
+void Vocabulary::addLanguages(const Json &roles, const Json &hemispheres)
+{
+    forEachLanguage(roles, [this](const std::string &language, const std::string &phrase) {
+        const std::uint32_t bit = languageBit(language);
+        if (bit != 0)
+            addPhrase(phrase, [bit](WordMeaning &meaning) { meaning.languages |= bit; });
+    });
+    for (const auto &[name, mask] : {std::pair("west", &m_westO), std::pair("east", &m_eastO)}) {
+        const auto addO = [this, to = mask](const std::string &language, const std::string &word) {
+            *to |= word == "O" ? languageBit(language) : 0;
+        };
+        if (const Json *texts = memberOf(hemispheres, name))
+            forEachLanguage(Json::array({*texts}), addO);
+    }
 }
 
 void Vocabulary::add(std::string_view text)
@@ -109,14 +152,12 @@ void Vocabulary::add(std::string_view text)
             });
         });
     }
+    addLanguages(roles, section("hemispheres"));
     const Json exclusions = section("not");
     for (const auto &[name, texts] : exclusions.items()) {
         auto &forbidden = m_forbidden[roleOfName(name)];
         forEachText(texts, [&forbidden](const std::string &phrase) {
-            std::string joined;
-            for (const std::string &word : nameWords(phrase))
-                joined += word;
-            forbidden.insert(joined);
+            forbidden.insert(joined(nameWords(phrase)));
         });
     }
     const auto addTo = [&](const Json &texts, auto change) {
@@ -159,14 +200,39 @@ bool Vocabulary::forbids(Role role, const std::vector<std::string> &words) const
     if (found == m_forbidden.end())
         return false;
     for (std::size_t first = 0; first < words.size(); ++first) {
-        std::string joined;
+        std::string phrase;
         for (std::size_t at = first; at < words.size() && at < first + 3; ++at) {
-            joined += words[at];
-            if (found->second.contains(joined))
+            phrase += words[at];
+            if (found->second.contains(phrase))
                 return true;
         }
     }
     return false;
+}
+
+int Vocabulary::signOfO(const std::vector<std::vector<std::string>> &names) const
+{
+    std::vector<std::size_t> counts(m_languages.size());
+    for (const std::vector<std::string> &words : names) {
+        std::uint32_t languages = 0;
+        for (std::size_t first = 0; first < words.size(); ++first) {
+            std::string phrase;
+            for (std::size_t at = first; at < words.size() && at < first + m_longestPhrase; ++at) {
+                phrase += words[at];
+                if (const WordMeaning *meaning = find(phrase))
+                    languages |= meaning->languages;
+            }
+        }
+        for (std::size_t bit = 0; bit < counts.size(); ++bit)
+            counts[bit] += languages >> bit & 1;
+    }
+    const auto best = std::max_element(counts.begin(), counts.end());
+    if (best == counts.end() || *best == 0)
+        return 0;
+    std::uint32_t likely = 0;
+    for (std::size_t bit = 0; bit < counts.size(); ++bit)
+        likely |= counts[bit] == *best ? std::uint32_t{1} << bit : 0;
+    return (likely & ~m_westO) == 0 ? -1 : (likely & ~m_eastO) == 0 ? 1 : 0;
 }
 
 bool Vocabulary::isIn(const std::unordered_set<std::string> &texts, std::string_view text)

@@ -2,8 +2,11 @@
 
 #include "plugins/tables/roles/Role.h"
 
+#include <nlohmann/json_fwd.hpp>
+
 #include <bitset>
 #include <cstddef>
+#include <cstdint>
 #include <map>
 #include <optional>
 #include <string>
@@ -24,11 +27,12 @@ struct WordMeaning
     std::optional<CoordinatePart> part;
     bool isEndA = false; ///< of a link
     bool isEndB = false;
-    bool isSector = false; ///< stands beside the number of a sector
-    bool isSite = false; ///< may stand beside any role of a site
-    std::optional<double> metres; ///< per unit of length of that name
+    bool isSector = false;           ///< stands beside the number of a sector
+    bool isSite = false;             ///< may stand beside any role of a site
+    std::optional<double> metres;    ///< per unit of length of that name
     std::optional<double> megahertz; ///< per unit of frequency of that name
-    std::optional<double> degrees; ///< per unit of angle of that name
+    std::optional<double> degrees;   ///< per unit of angle of that name
+    std::uint32_t languages = 0;     ///< bits of those in which it names a role
 
     bool isUnit() const { return metres || megahertz || degrees; }
 };
@@ -55,6 +59,12 @@ public:
     /// Whether a text in a column of azimuths means all directions.
     bool isOmni(std::string_view text) const { return isIn(m_omni, text); }
 
+    /// The sign of longitudes with the letter O, in the languages to which the most column names
+    /// belong: -1 for west, 1 for east, 0 if these languages differ or have no such letter.
+    ///
+    /// @param names  the folded words of each name
+    int signOfO(const std::vector<std::vector<std::string>> &names) const;
+
 private:
     using Phrases = std::unordered_map<std::string, WordMeaning>;
 
@@ -62,12 +72,17 @@ private:
 
     template<typename Change>
     void addPhrase(const std::string &phrase, Change change);
+    std::uint32_t languageBit(const std::string &language);
+    void addLanguages(const nlohmann::json &roles, const nlohmann::json &hemispheres);
 
     Phrases m_phrases;
     std::map<Role, std::unordered_set<std::string>> m_forbidden;
     std::unordered_set<std::string> m_missing; ///< folded
     std::unordered_set<std::string> m_totals;
     std::unordered_set<std::string> m_omni;
+    std::vector<std::string> m_languages; ///< in the order of their bits
+    std::uint32_t m_westO = 0;            ///< languages in which O is west
+    std::uint32_t m_eastO = 0;
     std::size_t m_longestPhrase = 1;
 };
 

@@ -268,6 +268,18 @@ int findPair(const FieldWords &words, const std::vector<Field> &fields, LetterO 
     return -1;
 }
 
+/// The meaning of O in the language of column names.
+LetterO letterOOf(const FieldWords &words, const Vocabulary &vocabulary)
+{
+    std::vector<Words> names;
+    for (const auto &ofField : words) {
+        if (ofField)
+            names.push_back(*ofField);
+    }
+    const int sign = vocabulary.signOfO(names);
+    return sign < 0 ? LetterO::West : sign > 0 ? LetterO::East : LetterO::Unknown;
+}
+
 bool saysMeters(const std::string &name, const Vocabulary &vocabulary)
 {
     const Words words = separatedWords(name, vocabulary);
@@ -281,9 +293,10 @@ bool saysMeters(const std::string &name, const Vocabulary &vocabulary)
 } // namespace
 
 PointFields findPoint(const FieldWords &words, const std::vector<Field> &fields,
-                      const Vocabulary &vocabulary, LetterO otherwise)
+                      const Vocabulary &vocabulary)
 {
     PointFields point;
+    const LetterO otherwise = letterOOf(words, vocabulary);
     const std::vector<CoordinateName> names = readNames(words, vocabulary);
     const auto [x, y] = bestPosition(names, fields);
     if (x >= 0) {

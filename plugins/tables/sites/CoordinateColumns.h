@@ -57,10 +57,8 @@ struct PointFields
 using FieldWords = std::vector<std::optional<std::vector<std::string>>>;
 
 /// Recognises the fields of a position among those that have words.
-///
-/// @param otherwise  the meaning of O in its longitudes if they do not show it
 PointFields findPoint(const FieldWords &words, const std::vector<Field> &fields,
-                      const Vocabulary &vocabulary, LetterO otherwise = LetterO::Unknown);
+                      const Vocabulary &vocabulary);
 
 /// The meaning of O in the longitudes of a position, from their samples; else `otherwise`.
 LetterO findLetterO(const PointFields &point, const std::vector<Field> &fields, LetterO otherwise);
