@@ -28,8 +28,7 @@ std::optional<std::string> contentOf(const fs::path &file)
 fs::path ownFolder()
 {
     Dl_info info;
-    if (dladdr(reinterpret_cast<const void *>(&installedVocabulary), &info) == 0 ||
-        !info.dli_fname)
+    if (dladdr(reinterpret_cast<const void *>(&installedVocabulary), &info) == 0 || !info.dli_fname)
         return {};
     std::error_code error;
     return fs::canonical(info.dli_fname, error).parent_path();
@@ -82,8 +81,8 @@ InstalledVocabulary readVocabulary()
         both.add(*own);
         vocabulary.words = std::move(both);
     } catch (const std::invalid_argument &fault) {
-        vocabulary.ownFault = contract::formatted("MESS_TAB_BAD_VOCABULARY",
-                                                  {ownFile().string(), fault.what()});
+        vocabulary.ownFault =
+            contract::formatted("MESS_TAB_BAD_VOCABULARY", {ownFile().string(), fault.what()});
     }
     return vocabulary;
 }

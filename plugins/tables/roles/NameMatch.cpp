@@ -35,9 +35,8 @@ bool separate(const std::string &word, const Vocabulary &vocabulary, int depth,
         const std::string after = word.substr(cut);
         const WordMeaning *second = vocabulary.find(after);
         // a single letter is an end of a link only
-        const bool known =
-            second && (after.size() > 1 ? !second->isUnit() || second->roles.any()
-                                        : second->isEndA || second->isEndB);
+        const bool known = second && (after.size() > 1 ? !second->isUnit() || second->roles.any()
+                                                       : second->isEndA || second->isEndB);
         if (known && (after.size() > 1 || before.size() > 2)) {
             parts.push_back(before);
             parts.push_back(after);
@@ -116,7 +115,10 @@ public:
         return count;
     }
 
-    bool isEmpty() const { return std::find(m_isTaken.begin(), m_isTaken.end(), false) == m_isTaken.end(); }
+    bool isEmpty() const
+    {
+        return std::find(m_isTaken.begin(), m_isTaken.end(), false) == m_isTaken.end();
+    }
 
     std::string text() const
     {
@@ -239,8 +241,7 @@ std::vector<NameMatch> matchName(const std::vector<std::string> &words,
                 continue;
             for (int i = 1; i < RoleCount; ++i) {
                 const Role role = static_cast<Role>(i);
-                if (!meaning->roles[static_cast<std::size_t>(i)] ||
-                    vocabulary.forbids(role, words))
+                if (!meaning->roles[static_cast<std::size_t>(i)] || vocabulary.forbids(role, words))
                     continue;
                 NameMatch match = matchOf(role, words, first, count, vocabulary);
                 const auto same =

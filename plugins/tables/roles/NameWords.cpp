@@ -53,9 +53,9 @@ public:
     {
         for (std::size_t at = 0; at < m_name.size();) {
             utf8proc_int32_t character = 0;
-            const auto size = utf8proc_iterate(
-                reinterpret_cast<const utf8proc_uint8_t *>(m_name.data()) + at,
-                static_cast<utf8proc_ssize_t>(m_name.size() - at), &character);
+            const auto size =
+                utf8proc_iterate(reinterpret_cast<const utf8proc_uint8_t *>(m_name.data()) + at,
+                                 static_cast<utf8proc_ssize_t>(m_name.size() - at), &character);
             const std::size_t bytes = size > 0 ? static_cast<std::size_t>(size) : 1;
             take(m_name.substr(at, bytes), size > 0 ? character : 0);
             at += bytes;
@@ -70,8 +70,8 @@ private:
         const bool isAsciiByte = bytes.size() == 1;
         const bool isCapital = utf8proc_category(character) == UTF8PROC_CATEGORY_LU;
         const char c = isAsciiByte ? bytes[0] : isCapital ? 'A' : 'a';
-        const bool isWord = isAsciiByte ? isUpper(c) || isDigit(c) || (c >= 'a' && c <= 'z')
-                                        : isLetter(character);
+        const bool isWord =
+            isAsciiByte ? isUpper(c) || isDigit(c) || (c >= 'a' && c <= 'z') : isLetter(character);
         if (!isWord) {
             endWord();
             return;

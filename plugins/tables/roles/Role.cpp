@@ -7,13 +7,35 @@ namespace vlt::driver {
 
 namespace {
 
-constexpr std::array<std::string_view, RoleCount> Names = {
-    "",             "siteId",        "siteName",       "longitude",      "latitude", "easting",
-    "northing",     "x",             "y",              "pair",           "groundHeight",
-    "antennaHeight", "seaLevelHeight", "sectorId",      "azimuth",        "mechanicalTilt",
-    "electricalTilt", "tilt",         "beamWidth",      "band",           "frequency",
-    "technology",   "operator",      "offsetX",        "offsetY",        "linkName", "length",
-    "diameter",     "repeater"};
+constexpr std::array<std::string_view, RoleCount> Names = {"",
+                                                           "siteId",
+                                                           "siteName",
+                                                           "longitude",
+                                                           "latitude",
+                                                           "easting",
+                                                           "northing",
+                                                           "x",
+                                                           "y",
+                                                           "pair",
+                                                           "groundHeight",
+                                                           "antennaHeight",
+                                                           "seaLevelHeight",
+                                                           "sectorId",
+                                                           "azimuth",
+                                                           "mechanicalTilt",
+                                                           "electricalTilt",
+                                                           "tilt",
+                                                           "beamWidth",
+                                                           "band",
+                                                           "frequency",
+                                                           "technology",
+                                                           "operator",
+                                                           "offsetX",
+                                                           "offsetY",
+                                                           "linkName",
+                                                           "length",
+                                                           "diameter",
+                                                           "repeater"};
 
 } // namespace
 

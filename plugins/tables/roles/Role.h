@@ -13,17 +13,17 @@ enum class Role {
     Latitude,
     Easting,
     Northing,
-    X, ///< named by a bare x or the like: a longitude or an easting
-    Y, ///< a latitude or a northing
+    X,    ///< named by a bare x or the like: a longitude or an easting
+    Y,    ///< a latitude or a northing
     Pair, ///< both coordinates in one cell
     GroundHeight,
-    AntennaHeight, ///< above ground
+    AntennaHeight,  ///< above ground
     SeaLevelHeight, ///< of an antenna
     SectorId,
     Azimuth,
     MechanicalTilt,
     ElectricalTilt,
-    Tilt, ///< not said which of both
+    Tilt,      ///< not said which of both
     BeamWidth, ///< horizontal
     Band,
     Frequency,
@@ -32,7 +32,7 @@ enum class Role {
     OffsetX,
     OffsetY,
     LinkName,
-    Length, ///< of a link
+    Length,   ///< of a link
     Diameter, ///< of a dish
     Repeater,
 };

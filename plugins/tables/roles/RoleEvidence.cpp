@@ -11,8 +11,8 @@ std::string roleEvidence(const std::string &name, const ColumnFacts &facts)
     if (facts.filled == 0)
         return formatted("MESS_TAB_EVIDENCE_EMPTY", {name});
     if (facts.numeric * 2 <= facts.filled)
-        return formatted("MESS_TAB_EVIDENCE_TEXTS", {name, std::to_string(facts.filled),
-                                                     std::to_string(facts.distinct)});
+        return formatted("MESS_TAB_EVIDENCE_TEXTS",
+                         {name, std::to_string(facts.filled), std::to_string(facts.distinct)});
     const std::string count = std::to_string(facts.numeric);
     const std::string least = numberText(facts.minimum);
     const std::string greatest = numberText(facts.maximum);

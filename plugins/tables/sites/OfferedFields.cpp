@@ -39,9 +39,9 @@ private:
     void add(std::string name, OfferedValue value, std::size_t transmitter = 0)
     {
         const std::string wanted = folded(name);
-        const bool exists = std::any_of(
-            m_table.fields.begin(), m_table.fields.end(),
-            [&wanted](const Field &field) { return folded(field.name) == wanted; });
+        const bool exists =
+            std::any_of(m_table.fields.begin(), m_table.fields.end(),
+                        [&wanted](const Field &field) { return folded(field.name) == wanted; });
         if (!exists)
             m_fields.push_back({std::move(name), value, transmitter});
     }
@@ -84,10 +84,9 @@ private:
         quantity(&Fields::height, "Height (m)", OfferedValue::Height, !m_own.heights.empty());
         quantity(&Fields::azimuth, "Azimuth (\u00B0)", OfferedValue::Azimuth,
                  !m_own.azimuths.empty());
-        quantity(&Fields::mechanicalTilt, "Mechanical tilt", OfferedValue::MechanicalTilt,
+        quantity(&Fields::mechanicalTilt, "Mechanical tilt", OfferedValue::MechanicalTilt, isKnown);
+        quantity(&Fields::electricalTilt, "Electrical tilt (\u00B0)", OfferedValue::ElectricalTilt,
                  isKnown);
-        quantity(&Fields::electricalTilt, "Electrical tilt (\u00B0)",
-                 OfferedValue::ElectricalTilt, isKnown);
         quantity(&Fields::beamWidth, "Beam width (\u00B0)", OfferedValue::BeamWidth, isKnown);
         quantity(&Fields::frequency, "Frequency (MHz)", OfferedValue::Frequency, isKnown);
         text(&Fields::technology, "Technology", OfferedValue::Technology, isKnown);

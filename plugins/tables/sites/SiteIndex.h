@@ -15,7 +15,7 @@ namespace vlt::driver {
 struct IndexedSite
 {
     int64_t firstRow = 0;
-    std::string id; ///< empty if the table names no sites
+    std::string id;    ///< empty if the table names no sites
     Position position; ///< in the file's system, of the first row that has one
     std::size_t firstTransmitter = 0;
     std::size_t transmitterCount = 0;

@@ -120,9 +120,8 @@ private:
     void useLevels()
     {
         const bool hasAzimuths =
-            std::any_of(m_candidates.begin(), m_candidates.end(), [](const Candidate &candidate) {
-                return candidate.role == Role::Azimuth;
-            });
+            std::any_of(m_candidates.begin(), m_candidates.end(),
+                        [](const Candidate &candidate) { return candidate.role == Role::Azimuth; });
         for (Candidate &candidate : m_candidates) {
             if (isName(candidate))
                 adjustToLevel(candidate, hasAzimuths);
@@ -232,8 +231,7 @@ private:
         std::set<int> used;
         for (const Candidate &candidate : m_candidates) {
             const int sector = isOfTransmitter(candidate.role) ? candidate.sector : -1;
-            if (used.contains(candidate.field) ||
-                !taken.emplace(candidate.role, sector).second)
+            if (used.contains(candidate.field) || !taken.emplace(candidate.role, sector).second)
                 continue;
             used.insert(candidate.field);
             m_roles.columns.push_back({candidate.field, candidate.role, sector, {}});
@@ -241,8 +239,8 @@ private:
         std::sort(m_roles.columns.begin(), m_roles.columns.end(),
                   [](const ColumnRole &a, const ColumnRole &b) { return a.field < b.field; });
         for (ColumnRole &column : m_roles.columns)
-            column.evidence = roleEvidence(m_table.nameInHeader(column.field),
-                                           factsOfField(column.field));
+            column.evidence =
+                roleEvidence(m_table.nameInHeader(column.field), factsOfField(column.field));
     }
 
     QuantityField quantity(int field, std::optional<double> WordMeaning::*unit) const
@@ -265,8 +263,8 @@ private:
         }
         if (isNumbered)
             shareCommonColumns(transmitters);
-        m_roles.namesHoldSector = m_roles.siteName >= 0 &&
-                                  levelOf(cellsOf(m_roles.siteName), m_places) == Level::Sector;
+        m_roles.namesHoldSector =
+            m_roles.siteName >= 0 && levelOf(cellsOf(m_roles.siteName), m_places) == Level::Sector;
         for (auto &[number, fields] : transmitters) {
             fields.number = number;
             // heights alone are those of towers as well
@@ -277,9 +275,9 @@ private:
         if (m_roles.transmitters.empty())
             return;
         const TransmitterFields &first = m_roles.transmitters.front();
-        m_roles.shape = isNumbered                                 ? SiteShape::Numbered
+        m_roles.shape = isNumbered ? SiteShape::Numbered
                         : holdsLists(first.azimuth) || holdsLists(first.height) ? SiteShape::Lists
-                                                                   : SiteShape::Tall;
+                                                                                : SiteShape::Tall;
     }
 
     /// Columns without a number hold for all transmitters.

@@ -36,10 +36,10 @@ struct ColumnRole
 
 /// The shape of a table with values of transmitters.
 enum class SiteShape {
-    Own, ///< no columns of transmitters, or none but those that readers know
+    Own,      ///< no columns of transmitters, or none but those that readers know
     Numbered, ///< a row per site, columns numbered by transmitter
-    Lists, ///< a row per site, lists of values in the cells
-    Tall, ///< a row per transmitter
+    Lists,    ///< a row per site, lists of values in the cells
+    Tall,     ///< a row per transmitter
 };
 
 /// The columns of a table of sites, apart from those of the position.
@@ -52,7 +52,7 @@ struct SiteRoles
     bool namesHoldSector = false;
     QuantityField groundHeight;
     std::vector<TransmitterFields> transmitters; ///< by number; one for Lists and Tall
-    std::vector<ColumnRole> columns; ///< by field
+    std::vector<ColumnRole> columns;             ///< by field
 };
 
 /// Finds the roles by the words of the header and by the sampled values.

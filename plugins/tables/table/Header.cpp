@@ -14,7 +14,7 @@ namespace {
 
 constexpr int RowsLookedAt = 50;
 constexpr int MinWords = 2;
-constexpr int MinStrength = 45; ///< of a name; a sentence has less
+constexpr int MinStrength = 45;     ///< of a name; a sentence has less
 constexpr int NumbersPerHeader = 5; ///< at most one cell in five may be a number, such as a year
 constexpr std::size_t MaxNameSize = 256; ///< characters
 constexpr std::size_t MaxTitleSize = 1000;
