@@ -84,7 +84,7 @@ public:
             if (isNumber(word) && (besideWord || besidePhrase))
                 std::from_chars(word.data(), word.data() + word.size(), number);
             else if (word.size() == 1 && word[0] >= 'a' && word[0] <= 'f' &&
-                     (isSectorWord(at - 1) || (besidePhrase && m_words.size() == 2)))
+                     (isSectorWord(at - 1) || (besidePhrase && at == lastPlainWord())))
                 number = word[0] - 'a' + 1;
             if (number < 0 || number > MaxSector)
                 continue;
@@ -132,6 +132,15 @@ public:
     }
 
 private:
+    /// The index of the last word that is no unit.
+    std::size_t lastPlainWord() const
+    {
+        std::size_t last = m_words.size() - 1;
+        while (last > 0 && m_isUnit[last])
+            --last;
+        return last;
+    }
+
     bool isSectorWord(std::size_t at) const
     {
         if (at >= m_words.size() || m_isTaken[at])
@@ -145,12 +154,15 @@ private:
     {
         constexpr std::size_t MaxWords = 4;
         m_isNeutral.resize(m_words.size());
+        m_isUnit.resize(m_words.size());
         for (std::size_t first = 0; first < m_words.size(); ++first) {
             std::string joined;
             for (std::size_t at = first;
                  at < m_words.size() && at < first + MaxWords && !m_isTaken[at]; ++at) {
                 joined += m_words[at];
                 const WordMeaning *meaning = m_vocabulary.find(joined);
+                if (meaning && meaning->isUnit())
+                    m_isUnit[at] = true;
                 if (meaning && (meaning->isSite || meaning->isSector || meaning->isUnit()))
                     std::fill(m_isNeutral.begin() + static_cast<std::ptrdiff_t>(first),
                               m_isNeutral.begin() + static_cast<std::ptrdiff_t>(at + 1), true);
@@ -164,6 +176,7 @@ private:
     const Vocabulary &m_vocabulary;
     std::vector<bool> m_isTaken;
     std::vector<bool> m_isNeutral;
+    std::vector<bool> m_isUnit; ///< also the last word of a phrase that is one
 };
 
 bool isCoordinate(Role role)
@@ -194,38 +207,17 @@ NameMatch matchOf(Role role, const std::vector<std::string> &words, std::size_t 
 
 std::vector<std::string> separatedWords(std::string_view name, const Vocabulary &vocabulary)
 {
+    constexpr std::size_t MaxWords = 24; // bounds the work for names of thousands of columns
     std::vector<std::string> words;
     for (std::string &word : nameWords(name)) {
+        if (words.size() >= MaxWords)
+            break;
         if (word.size() < MinFusedSize || vocabulary.find(word) ||
             !separate(word, vocabulary, 1, words))
             words.push_back(std::move(word));
     }
     return words;
 }
-
-namespace {
-
-/// A name that only says what the rows are, "Mast" or "Sector", is that of their names.
-std::optional<NameMatch> matchOfKind(const std::vector<std::string> &words,
-                                     const Vocabulary &vocabulary)
-{
-    bool areSites = !words.empty();
-    bool areSectors = !words.empty();
-    for (const std::string &word : words) {
-        const WordMeaning *meaning = vocabulary.find(word);
-        areSites = areSites && meaning && meaning->isSite;
-        areSectors = areSectors && meaning && meaning->isSector && word.size() > 1;
-    }
-    if (!areSites && !areSectors)
-        return std::nullopt;
-    NameMatch match;
-    match.role = areSectors ? Role::SectorId : Role::SiteName;
-    match.strength = StrengthBesideKnown;
-    match.sector = -1;
-    return match;
-}
-
-} // namespace
 
 std::vector<NameMatch> matchName(const std::vector<std::string> &words,
                                  const Vocabulary &vocabulary)
@@ -254,11 +246,26 @@ std::vector<NameMatch> matchName(const std::vector<std::string> &words,
             }
         }
     }
-    if (matches.empty()) {
-        if (std::optional<NameMatch> ofKind = matchOfKind(words, vocabulary))
-            matches.push_back(std::move(*ofKind));
-    }
     return matches;
+}
+
+std::optional<NameMatch> matchKindOfRows(const std::vector<std::string> &words,
+                                         const Vocabulary &vocabulary)
+{
+    bool areSites = !words.empty();
+    bool areSectors = !words.empty();
+    for (const std::string &word : words) {
+        const WordMeaning *meaning = vocabulary.find(word);
+        areSites = areSites && meaning && meaning->isSite;
+        areSectors = areSectors && meaning && meaning->isSector && word.size() > 1;
+    }
+    if (!areSites && !areSectors)
+        return std::nullopt;
+    NameMatch match;
+    match.role = areSectors ? Role::SectorId : Role::SiteName;
+    match.strength = StrengthBesideKnown;
+    match.sector = -1;
+    return match;
 }
 
 std::optional<double> unitOfName(const std::vector<std::string> &words,

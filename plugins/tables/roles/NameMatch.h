@@ -2,6 +2,7 @@
 
 #include "plugins/tables/roles/Vocabulary.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -28,6 +29,11 @@ std::vector<std::string> separatedWords(std::string_view name, const Vocabulary 
 /// The roles that a name can mean, each once with its best match.
 std::vector<NameMatch> matchName(const std::vector<std::string> &words,
                                  const Vocabulary &vocabulary);
+
+/// The role of a name that only says what the rows are, such as "Mast" or "Sector": it is the
+/// column of their names.
+std::optional<NameMatch> matchKindOfRows(const std::vector<std::string> &words,
+                                         const Vocabulary &vocabulary);
 
 /// The size of the unit in a name: the first word that is a unit of that kind.
 std::optional<double> unitOfName(const std::vector<std::string> &words,

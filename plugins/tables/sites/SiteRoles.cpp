@@ -105,7 +105,12 @@ private:
     {
         const auto at = static_cast<std::size_t>(field);
         m_words[at] = separatedWords(m_table.nameInHeader(field), m_vocabulary);
-        for (const NameMatch &match : matchName(m_words[at], m_vocabulary)) {
+        std::vector<NameMatch> matches = matchName(m_words[at], m_vocabulary);
+        if (matches.empty()) {
+            if (const auto ofRows = matchKindOfRows(m_words[at], m_vocabulary))
+                matches.push_back(*ofRows);
+        }
+        for (const NameMatch &match : matches) {
             if (!isOfSite(match.role) && !isOfTransmitter(match.role))
                 continue;
             const double fit = fitOf(match.role, factsOfField(field));

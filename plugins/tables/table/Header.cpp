@@ -63,6 +63,10 @@ std::vector<CellFault> faultsOf(const Row &row)
 /// Whether tables of that kind have columns with such a name.
 bool isTableName(const std::string &name, contract::TableKind kind, const Vocabulary &vocabulary)
 {
+    constexpr std::size_t MaxSize = 100; // bytes; longer texts are sentences
+    const bool isLetter = name.size() == 1 && name.find_first_of("xyXY") == std::string::npos;
+    if (name.size() > MaxSize || isLetter)
+        return false;
     const std::vector<std::string> words = separatedWords(name, vocabulary);
     const std::vector<NameMatch> matches = matchName(words, vocabulary);
     const auto isOfKind = [kind](const NameMatch &match) {
