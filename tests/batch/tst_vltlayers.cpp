@@ -171,7 +171,7 @@ private Q_SLOTS:
 
     void warnsOfRowsWithoutAPlaceAndOfMissingNames()
     {
-        writeFile(path(u"s.csv"_s), "Name,Longitude,Latitude\nA,1.5,45\nB,east,45\nC,3,91\n");
+        writeFile(path(u"s.csv"_s), "Note,Longitude,Latitude\nA,1.5,45\nB,east,45\nC,3,91\n");
         const QByteArray noName = "column Site ID: the table has no such column";
 
         const Run info = start(u"info ../s.csv --json"_s);

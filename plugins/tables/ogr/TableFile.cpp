@@ -130,6 +130,8 @@ void TableFile::readSites(TableFacts &facts)
             facts.siteIndex = index;
         }
     }
+    if (layout.isLinkEnd) // readers are to see that this is no table of sites
+        return;
     layout.offered = offeredFields(facts.table, roles, layout.point, layout.unit, transmitters);
 }
 

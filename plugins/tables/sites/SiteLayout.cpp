@@ -3,6 +3,8 @@
 #include "plugins/tables/roles/NameMatch.h"
 #include "plugins/tables/table/HeaderWords.h"
 
+#include <algorithm>
+
 namespace vlt::driver {
 
 std::string recogniseFormat(const std::vector<Field> &fields)
@@ -25,6 +27,35 @@ std::string recogniseFormat(const std::vector<Field> &fields)
     return asset ? "asset" : atoll ? "atoll" : mentum ? "mentum" : "generic";
 }
 
+namespace {
+
+/// Whether a name has a word that stands for an end of a link, A or B.
+bool namesEnd(const std::vector<std::string> &words, bool WordMeaning::*end,
+              const Vocabulary &vocabulary)
+{
+    return std::any_of(words.begin(), words.end(), [&](const std::string &word) {
+        const WordMeaning *meaning = vocabulary.find(word);
+        return meaning && meaning->*end && meaning->roles.none();
+    });
+}
+
+/// Whether the columns of a position name one end of a link, and others the other end.
+bool isLinkEnd(const PointFields &point, const FieldWords &words, const Vocabulary &vocabulary)
+{
+    if (!point.x.found())
+        return false;
+    const auto &name = words[static_cast<std::size_t>(point.x.value)];
+    const bool isA = namesEnd(*name, &WordMeaning::isEndA, vocabulary);
+    if (!isA && !namesEnd(*name, &WordMeaning::isEndB, vocabulary))
+        return false;
+    const auto other = isA ? &WordMeaning::isEndB : &WordMeaning::isEndA;
+    return std::any_of(words.begin(), words.end(), [&](const auto &ofField) {
+        return ofField && namesEnd(*ofField, other, vocabulary);
+    });
+}
+
+} // namespace
+
 SiteLayout recogniseSiteLayout(const TableProfile &table, const Vocabulary &vocabulary)
 {
     SiteLayout layout;
@@ -32,6 +63,7 @@ SiteLayout recogniseSiteLayout(const TableProfile &table, const Vocabulary &voca
     for (const Field &field : table.fields)
         words.emplace_back(separatedWords(field.name, vocabulary));
     layout.point = findPoint(words, table.fields, vocabulary);
+    layout.isLinkEnd = isLinkEnd(layout.point, words, vocabulary);
     layout.format = recogniseFormat(table.fields);
     layout.unit = findUnit(layout.point, table.fields, vocabulary);
     layout.epsg = findEpsg(table, layout.point, layout.unit);

@@ -13,6 +13,7 @@ namespace vlt::driver {
 struct SiteLayout : TableDeclaration
 {
     PointFields point;
+    bool isLinkEnd = false; ///< the position is that of one end of a link, named like the other one
     SiteRoles roles;
     std::vector<OfferedField> offered; ///< fields before those of the source
 };
