@@ -24,4 +24,12 @@ inline constexpr char ProblemSeparator = '|';
 inline constexpr char ErrorSeverity[] = "Error";
 inline constexpr char WarningSeverity[] = "Warning";
 
+// The domain of roles says how the columns were understood: the shape of the table in words, and an
+// item for each column that has a role, ROLE_1=role|number of the transmitter or
+// nothing|column|why.
+inline constexpr char RolesDomain[] = "roles";
+inline constexpr char ShapeItem[] = "SHAPE";
+inline constexpr char RolePrefix[] = "ROLE_";
+inline constexpr char RoleSeparator = '|';
+
 } // namespace vlt::contract::metadata

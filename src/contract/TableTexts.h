@@ -177,6 +177,14 @@ inline constexpr auto TableTexts = std::to_array<Text>({
     {"MESS_TAB_SITE_ELSEWHERE", "the site \"%1\" lies %2 m away in row %3: this row makes a site "
                                 "of its own"},
 
+    // shapes of tables
+    {"MESS_TAB_SHAPE_ROWS", "%1 rows, each of them a site"},
+    {"MESS_TAB_SHAPE_NUMBERED", "%1 rows, each of them a site with up to %2 transmitters"},
+    {"MESS_TAB_SHAPE_LISTS", "%1 rows, each of them a site with up to %2 transmitters in lists"},
+    {"MESS_TAB_SHAPE_TALL",
+     "%1 rows: %2 sites with %3 transmitters each, grouped by \"%4\" and position"},
+    {"MESS_TAB_SHAPE_PLACES", "%1 rows: %2 sites with %3 transmitters each, grouped by position"},
+
     // why a column has a role
     {"MESS_TAB_EVIDENCE_EMPTY", "header \"%1\"; no values"},
     {"MESS_TAB_EVIDENCE_TEXTS", "header \"%1\"; %2 texts, %3 of them different"},

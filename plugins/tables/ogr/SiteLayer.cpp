@@ -1,5 +1,6 @@
 #include "plugins/tables/ogr/SiteLayer.h"
 
+#include "contract/TableMetadata.h"
 #include "contract/TableTexts.h"
 #include "plugins/tables/roles/Vocabulary.h"
 
@@ -8,6 +9,31 @@
 namespace vlt::driver {
 
 namespace {
+
+/// The shape of a table in words.
+std::string shapeText(const TableFacts &facts)
+{
+    using contract::formatted;
+    const SiteLayout &layout = facts.sites();
+    const std::string rows = std::to_string(facts.table.rowCount);
+    const std::string most = std::to_string(layout.maxTransmitters);
+    if (facts.siteIndex) {
+        const std::string sites = std::to_string(facts.siteIndex->sites().size());
+        std::string range = std::to_string(facts.siteIndex->transmitterRange().first);
+        if (range != most)
+            range += "\u2013" + most;
+        const int named = layout.roles.siteId >= 0 ? layout.roles.siteId : layout.roles.siteName;
+        return named < 0 ? formatted("MESS_TAB_SHAPE_PLACES", {rows, sites, range})
+                         : formatted("MESS_TAB_SHAPE_TALL",
+                                     {rows, sites, range,
+                                      facts.table.fields[static_cast<std::size_t>(named)].name});
+    }
+    if (layout.roles.shape == SiteShape::Own)
+        return formatted("MESS_TAB_SHAPE_ROWS", {rows});
+    return layout.roles.shape == SiteShape::Lists
+               ? formatted("MESS_TAB_SHAPE_LISTS", {rows, most})
+               : formatted("MESS_TAB_SHAPE_NUMBERED", {rows, most});
+}
 
 /// The values of a site from which those of the offered fields are taken.
 struct OfferedInput
@@ -163,6 +189,26 @@ void SiteLayer::setOffered(OGRFeature &feature, const TableRow &row) const
         } else if (const auto number = offeredNumber(field.value, input))
             feature.SetField(static_cast<int>(i), *number);
     }
+}
+
+CPLStringList SiteLayer::rolesMetadata() const
+{
+    namespace metadata = contract::metadata;
+    const SiteLayout &layout = facts().sites();
+    CPLStringList items;
+    items.SetNameValue(metadata::ShapeItem, shapeText(facts()).c_str());
+    int number = 0;
+    for (const ColumnRole &column : layout.roles.columns) {
+        const std::string sector = column.sector < 0 ? "" : std::to_string(column.sector);
+        std::string value;
+        for (const std::string &part :
+             {std::string(roleName(column.role)), sector,
+              facts().table.fields[static_cast<std::size_t>(column.field)].name})
+            value += part + metadata::RoleSeparator;
+        items.SetNameValue((metadata::RolePrefix + std::to_string(++number)).c_str(),
+                           (value + column.evidence).c_str());
+    }
+    return items;
 }
 
 void SiteLayer::addFileProblems(ProblemList &problems) const

@@ -21,6 +21,7 @@ private:
 
     bool hasFeatures(int64_t row) const override;
     GIntBig rowsWithFeatures() const override;
+    CPLStringList rolesMetadata() const override;
     void setOffered(OGRFeature &feature, const TableRow &row) const;
 
     PositionReader m_positions;

@@ -126,10 +126,11 @@ void TableFile::readSites(TableFacts &facts)
         }
         index->finish();
         if (roles.shape == SiteShape::Tall) {
-            transmitters = index->maxTransmitters();
+            transmitters = index->transmitterRange().second;
             facts.siteIndex = index;
         }
     }
+    layout.maxTransmitters = transmitters;
     if (layout.isLinkEnd) // readers are to see that this is no table of sites
         return;
     layout.offered = offeredFields(facts.table, roles, layout.point, layout.unit, transmitters);

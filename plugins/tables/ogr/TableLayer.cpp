@@ -363,24 +363,38 @@ char **TableLayer::problemsMetadata()
     return m_problemsItems.List();
 }
 
+std::optional<char **> TableLayer::ownMetadata(const char *domain)
+{
+    if (isProblemsDomain(domain))
+        return problemsMetadata();
+    if (!domain || !EQUAL(domain, metadata::RolesDomain))
+        return std::nullopt;
+    if (!m_rolesItems)
+        m_rolesItems = rolesMetadata();
+    return m_rolesItems->List();
+}
+
 char **TableLayer::GetMetadata(const char *domain)
 {
-    return isProblemsDomain(domain) ? problemsMetadata() : OGRLayer::GetMetadata(domain);
+    const auto own = ownMetadata(domain);
+    return own ? *own : OGRLayer::GetMetadata(domain);
 }
 
 const char *TableLayer::GetMetadataItem(const char *name, const char *domain)
 {
-    if (isProblemsDomain(domain))
-        return CSLFetchNameValue(problemsMetadata(), name);
-    return OGRLayer::GetMetadataItem(name, domain);
+    const auto own = ownMetadata(domain);
+    return own ? CSLFetchNameValue(*own, name) : OGRLayer::GetMetadataItem(name, domain);
 }
 
 char **TableLayer::GetMetadataDomainList()
 {
-    if (!listsProblems())
-        return OGRLayer::GetMetadataDomainList();
-    return BuildMetadataDomainList(OGRLayer::GetMetadataDomainList(), FALSE,
-                                   metadata::ProblemsDomain, nullptr);
+    char **list = OGRLayer::GetMetadataDomainList();
+    const char *problems = listsProblems() ? metadata::ProblemsDomain : nullptr;
+    const char *roles =
+        ownMetadata(metadata::RolesDomain).value_or(nullptr) ? metadata::RolesDomain : nullptr;
+    if (problems)
+        list = BuildMetadataDomainList(list, FALSE, problems, nullptr);
+    return roles ? BuildMetadataDomainList(list, FALSE, roles, nullptr) : list;
 }
 
 } // namespace vlt::driver

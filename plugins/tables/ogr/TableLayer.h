@@ -85,6 +85,8 @@ private:
     virtual void fillFeature(OGRFeature &feature, const TableRow &row, int part) const = 0;
     /// Adds the problems of the table as a whole, except those of the coordinate systems.
     virtual void addFileProblems(ProblemList &problems) const = 0;
+    /// The items of the domain "roles"; none if the layer does not have it.
+    virtual CPLStringList rolesMetadata() const { return {}; }
     /// Whether this layer has the domain "problems".
     virtual bool listsProblems() const { return true; }
 
@@ -108,6 +110,8 @@ private:
     ProblemList fileProblems() const;
     bool isProblemsDomain(const char *domain) const;
     char **problemsMetadata();
+    /// The items of a domain that this layer makes itself; nothing for another one.
+    std::optional<char **> ownMetadata(const char *domain);
     template<typename Action>
     bool guarded(Action action);
 
@@ -118,6 +122,7 @@ private:
     std::vector<char> m_ignored;   ///< by field
     std::optional<Walk> m_walk;    ///< sequential reading; empty before the first row
     bool m_failed = false;
+    std::optional<CPLStringList> m_rolesItems;
     CPLStringList m_problemsItems; ///< the problems of all rows as metadata
     OGREnvelope m_extent;
 };

@@ -145,12 +145,14 @@ const IndexedSite *SiteIndex::beginningIn(int64_t row) const
     return found != m_sites.end() && found->firstRow == row ? &*found : nullptr;
 }
 
-std::size_t SiteIndex::maxTransmitters() const
+std::pair<std::size_t, std::size_t> SiteIndex::transmitterRange() const
 {
-    std::size_t maximum = 0;
-    for (const IndexedSite &site : m_sites)
-        maximum = std::max(maximum, site.transmitterCount);
-    return maximum;
+    const auto [fewest, most] = std::minmax_element(
+        m_sites.begin(), m_sites.end(), [](const IndexedSite &a, const IndexedSite &b) {
+            return a.transmitterCount < b.transmitterCount;
+        });
+    return fewest == m_sites.end() ? std::pair<std::size_t, std::size_t>()
+                                   : std::pair(fewest->transmitterCount, most->transmitterCount);
 }
 
 void SiteIndex::addProblems(int64_t row, std::vector<RowProblem> &problems) const

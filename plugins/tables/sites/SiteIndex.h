@@ -7,6 +7,7 @@
 #include <span>
 #include <string>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace vlt::driver {
@@ -42,7 +43,8 @@ public:
     {
         return std::span(m_transmitters).subspan(site.firstTransmitter, site.transmitterCount);
     }
-    std::size_t maxTransmitters() const;
+    /// The smallest and the largest number of transmitters of a site.
+    std::pair<std::size_t, std::size_t> transmitterRange() const;
     /// Adds the contradictions between a row and the site that has its id.
     void addProblems(int64_t row, std::vector<RowProblem> &problems) const;
 

@@ -15,6 +15,7 @@ struct SiteLayout : TableDeclaration
     PointFields point;
     bool isLinkEnd = false; ///< the position is that of one end of a link, named like the other one
     SiteRoles roles;
+    std::size_t maxTransmitters = 0;   ///< of a site
     std::vector<OfferedField> offered; ///< fields before those of the source
 };
 

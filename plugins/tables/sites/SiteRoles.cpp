@@ -67,6 +67,7 @@ public:
         const bool isNumbered = dropNumbersOfOthers();
         assign();
         fill(isNumbered);
+        addCoordinates();
         return std::move(m_roles);
     }
 
@@ -246,6 +247,25 @@ private:
         for (ColumnRole &column : m_roles.columns)
             column.evidence =
                 roleEvidence(m_table.nameInHeader(column.field), factsOfField(column.field));
+    }
+
+    /// Adds the columns of the position to the list of roles.
+    void addCoordinates()
+    {
+        std::vector<ColumnRole> columns;
+        const auto add = [&](int field, Role role) {
+            if (field >= 0)
+                columns.push_back({field, role, -1,
+                                   roleEvidence(m_table.nameInHeader(field), factsOfField(field))});
+        };
+        for (const auto &[fields, role] :
+             {std::pair(m_point.x, Role::X), std::pair(m_point.y, Role::Y)}) {
+            for (const int field :
+                 {fields.value, fields.minutes, fields.seconds, fields.hemisphere})
+                add(field, role);
+        }
+        add(m_point.pair, Role::Pair);
+        m_roles.columns.insert(m_roles.columns.begin(), columns.begin(), columns.end());
     }
 
     QuantityField quantity(int field, std::optional<double> WordMeaning::*unit) const

@@ -475,5 +475,97 @@
         <source>header "%1"; %2 lists of numbers from %3 to %4</source>
         <translation>header "%1"; %2 lists of numbers from %3 to %4</translation>
     </message>
+    <message id="MESS_ROLE_SITE_ID">
+        <source>Site ID</source>
+        <translation>Site ID</translation>
+    </message>
+    <message id="MESS_ROLE_SITE_NAME">
+        <source>Site name</source>
+        <translation>Site name</translation>
+    </message>
+    <message id="MESS_ROLE_X">
+        <source>X coordinate</source>
+        <translation>X coordinate</translation>
+    </message>
+    <message id="MESS_ROLE_Y">
+        <source>Y coordinate</source>
+        <translation>Y coordinate</translation>
+    </message>
+    <message id="MESS_ROLE_PAIR">
+        <source>Coordinates in one cell</source>
+        <translation>Coordinates in one cell</translation>
+    </message>
+    <message id="MESS_ROLE_GROUND_HEIGHT">
+        <source>Ground height</source>
+        <translation>Ground height</translation>
+    </message>
+    <message id="MESS_ROLE_ANTENNA_HEIGHT">
+        <source>Antenna height</source>
+        <translation>Antenna height</translation>
+    </message>
+    <message id="MESS_ROLE_SEA_LEVEL_HEIGHT">
+        <source>Antenna height above sea level</source>
+        <translation>Antenna height above sea level</translation>
+    </message>
+    <message id="MESS_ROLE_SECTOR_ID">
+        <source>Sector</source>
+        <translation>Sector</translation>
+    </message>
+    <message id="MESS_ROLE_AZIMUTH">
+        <source>Azimuth</source>
+        <translation>Azimuth</translation>
+    </message>
+    <message id="MESS_ROLE_MECHANICAL_TILT">
+        <source>Mechanical tilt</source>
+        <translation>Mechanical tilt</translation>
+    </message>
+    <message id="MESS_ROLE_ELECTRICAL_TILT">
+        <source>Electrical tilt</source>
+        <translation>Electrical tilt</translation>
+    </message>
+    <message id="MESS_ROLE_TILT">
+        <source>Tilt</source>
+        <translation>Tilt</translation>
+    </message>
+    <message id="MESS_ROLE_BEAM_WIDTH">
+        <source>Beam width</source>
+        <translation>Beam width</translation>
+    </message>
+    <message id="MESS_ROLE_BAND">
+        <source>Frequency band</source>
+        <translation>Frequency band</translation>
+    </message>
+    <message id="MESS_ROLE_FREQUENCY">
+        <source>Frequency</source>
+        <translation>Frequency</translation>
+    </message>
+    <message id="MESS_ROLE_TECHNOLOGY">
+        <source>Technology</source>
+        <translation>Technology</translation>
+    </message>
+    <message id="MESS_ROLE_OPERATOR">
+        <source>Operator</source>
+        <translation>Operator</translation>
+    </message>
+    <message id="MESS_TAB_SHAPE_ROWS">
+        <source>%1 rows, each of them a site</source>
+        <translation>%1 rows, each of them a site</translation>
+    </message>
+    <message id="MESS_TAB_SHAPE_NUMBERED">
+        <source>%1 rows, each of them a site with up to %2 transmitters</source>
+        <translation>%1 rows, each of them a site with up to %2 transmitters</translation>
+    </message>
+    <message id="MESS_TAB_SHAPE_LISTS">
+        <source>%1 rows, each of them a site with up to %2 transmitters in lists</source>
+        <translation>%1 rows, each of them a site with up to %2 transmitters in lists</translation>
+    </message>
+    <message id="MESS_TAB_SHAPE_TALL">
+        <source>%1 rows: %2 sites with %3 transmitters each, grouped by "%4" and position</source>
+        <translation>%1 rows: %2 sites with %3 transmitters each, grouped by "%4" and position</translation>
+    </message>
+    <message id="MESS_TAB_SHAPE_PLACES">
+        <source>%1 rows: %2 sites with %3 transmitters each, grouped by position</source>
+        <translation>%1 rows: %2 sites with %3 transmitters each, grouped by position</translation>
+    </message>
 </context>
 </TS>

@@ -475,5 +475,97 @@
         <source>header "%1"; %2 lists of numbers from %3 to %4</source>
         <translation>en-tête «&#xa0;%1&#xa0;»&#xa0;; %2 listes de nombres de %3 à %4</translation>
     </message>
+    <message id="MESS_ROLE_SITE_ID">
+        <source>Site ID</source>
+        <translation>Identifiant du site</translation>
+    </message>
+    <message id="MESS_ROLE_SITE_NAME">
+        <source>Site name</source>
+        <translation>Nom du site</translation>
+    </message>
+    <message id="MESS_ROLE_X">
+        <source>X coordinate</source>
+        <translation>Coordonnée X</translation>
+    </message>
+    <message id="MESS_ROLE_Y">
+        <source>Y coordinate</source>
+        <translation>Coordonnée Y</translation>
+    </message>
+    <message id="MESS_ROLE_PAIR">
+        <source>Coordinates in one cell</source>
+        <translation>Coordonnées dans une cellule</translation>
+    </message>
+    <message id="MESS_ROLE_GROUND_HEIGHT">
+        <source>Ground height</source>
+        <translation>Altitude du sol</translation>
+    </message>
+    <message id="MESS_ROLE_ANTENNA_HEIGHT">
+        <source>Antenna height</source>
+        <translation>Hauteur d'antenne</translation>
+    </message>
+    <message id="MESS_ROLE_SEA_LEVEL_HEIGHT">
+        <source>Antenna height above sea level</source>
+        <translation>Altitude de l'antenne</translation>
+    </message>
+    <message id="MESS_ROLE_SECTOR_ID">
+        <source>Sector</source>
+        <translation>Secteur</translation>
+    </message>
+    <message id="MESS_ROLE_AZIMUTH">
+        <source>Azimuth</source>
+        <translation>Azimut</translation>
+    </message>
+    <message id="MESS_ROLE_MECHANICAL_TILT">
+        <source>Mechanical tilt</source>
+        <translation>Tilt mécanique</translation>
+    </message>
+    <message id="MESS_ROLE_ELECTRICAL_TILT">
+        <source>Electrical tilt</source>
+        <translation>Tilt électrique</translation>
+    </message>
+    <message id="MESS_ROLE_TILT">
+        <source>Tilt</source>
+        <translation>Tilt</translation>
+    </message>
+    <message id="MESS_ROLE_BEAM_WIDTH">
+        <source>Beam width</source>
+        <translation>Ouverture horizontale</translation>
+    </message>
+    <message id="MESS_ROLE_BAND">
+        <source>Frequency band</source>
+        <translation>Bande de fréquences</translation>
+    </message>
+    <message id="MESS_ROLE_FREQUENCY">
+        <source>Frequency</source>
+        <translation>Fréquence</translation>
+    </message>
+    <message id="MESS_ROLE_TECHNOLOGY">
+        <source>Technology</source>
+        <translation>Technologie</translation>
+    </message>
+    <message id="MESS_ROLE_OPERATOR">
+        <source>Operator</source>
+        <translation>Opérateur</translation>
+    </message>
+    <message id="MESS_TAB_SHAPE_ROWS">
+        <source>%1 rows, each of them a site</source>
+        <translation>%1 lignes, chacune un site</translation>
+    </message>
+    <message id="MESS_TAB_SHAPE_NUMBERED">
+        <source>%1 rows, each of them a site with up to %2 transmitters</source>
+        <translation>%1 lignes, chacune un site avec au plus %2 émetteurs</translation>
+    </message>
+    <message id="MESS_TAB_SHAPE_LISTS">
+        <source>%1 rows, each of them a site with up to %2 transmitters in lists</source>
+        <translation>%1 lignes, chacune un site avec au plus %2 émetteurs dans des listes</translation>
+    </message>
+    <message id="MESS_TAB_SHAPE_TALL">
+        <source>%1 rows: %2 sites with %3 transmitters each, grouped by "%4" and position</source>
+        <translation>%1 lignes&#xa0;: %2 sites de %3 émetteurs chacun, groupées par «&#xa0;%4&#xa0;» et par position</translation>
+    </message>
+    <message id="MESS_TAB_SHAPE_PLACES">
+        <source>%1 rows: %2 sites with %3 transmitters each, grouped by position</source>
+        <translation>%1 lignes&#xa0;: %2 sites de %3 émetteurs chacun, groupées par position</translation>
+    </message>
 </context>
 </TS>
