@@ -4,6 +4,7 @@
 #include "batch/Console.h"
 #include "language/ReaderText.h"
 #include "language/VltLanguageManager.h"
+#include "tables/ColumnRoles.h"
 
 #include <QJsonArray>
 
@@ -38,6 +39,32 @@ QList<Line> columnLines(const QList<tables::ColumnDescription> &columns)
     for (const tables::ColumnDescription &entry : columns)
         lines.append({entry.meaning, entry.columns});
     return lines;
+}
+
+/// The columns by role, each with the evidence for it.
+QString rolesText(const tables::TableFileInfo &file)
+{
+    if (file.roles.isEmpty())
+        return {};
+    QList<Line> lines;
+    for (const geodata::ColumnRole &role : file.roles)
+        lines.append({tables::roleText(role), {language::readerText(role.evidence)}});
+    return language::readerText(file.shape) + QLatin1Char('\n') + aligned(lines) +
+           QLatin1Char('\n');
+}
+
+QJsonArray rolesJson(const QList<geodata::ColumnRole> &roles)
+{
+    QJsonArray array;
+    for (const geodata::ColumnRole &role : roles) {
+        QJsonObject object{{QStringLiteral("role"), role.role},
+                           {QStringLiteral("column"), role.column},
+                           {QStringLiteral("evidence"), language::readerText(role.evidence)}};
+        if (!role.sector.isEmpty())
+            object.insert(QStringLiteral("transmitter"), role.sector.toInt());
+        array.append(object);
+    }
+    return array;
 }
 
 QString problemsText(const geodata::LayerProblems &problems)
@@ -86,7 +113,7 @@ QString reportText(const InfoReport &report)
 {
     return aligned(fileLines(report)) + QLatin1Char('\n') + report.file.description +
            QStringLiteral("\n\n") + aligned(columnLines(report.columns)) + QLatin1Char('\n') +
-           problemsText(report.problems);
+           rolesText(report.file) + problemsText(report.problems);
 }
 
 QJsonObject reportJson(const InfoReport &report)
@@ -107,6 +134,10 @@ QJsonObject reportJson(const InfoReport &report)
                        {QStringLiteral("problems"), problemsJson(report.problems)}};
     if (!file.encoding.isEmpty())
         object.insert(QStringLiteral("encoding"), file.encoding);
+    if (!file.roles.isEmpty()) {
+        object.insert(QStringLiteral("shape"), language::readerText(file.shape));
+        object.insert(QStringLiteral("roles"), rolesJson(file.roles));
+    }
     for (const InfoEntry &entry : report.further)
         object.insert(entry.key, entry.value);
     return object;

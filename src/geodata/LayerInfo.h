@@ -2,10 +2,20 @@
 
 #include "platform/Result.h"
 
+#include <QList>
 #include <QMap>
 #include <QStringList>
 
 namespace vlt::geodata {
+
+/// What the driver takes a column of a table for.
+struct ColumnRole
+{
+    QString role;   ///< as in the vocabulary: siteId, azimuth ...
+    QString sector; ///< number of the transmitter in the name of the column; empty for none
+    QString column;
+    QString evidence; ///< why, in English
+};
 
 /// Properties of a layer, without its features.
 struct LayerInfo
@@ -15,6 +25,8 @@ struct LayerInfo
     qint64 featureCount = 0;
     QStringList fields;              ///< in the layer's order, decoded from UTF-8 or else Latin-1
     QMap<QString, QString> metadata; ///< default domain; keys in lower case
+    QString shape;           ///< of the table, in English; empty if the driver does not say it
+    QList<ColumnRole> roles; ///< of the columns that have one
 };
 
 /// Opens a table connection and reads the layer of index `layerIndex` (from 0). A dataset without

@@ -89,6 +89,8 @@ Result<TableFile> readTableFile(const TableFileType &type, const QString &path,
     info.unit = layer.metadata.value(QLatin1String(metadata::Unit));
     info.epsg = layer.metadata.value(QLatin1String(metadata::Epsg));
     info.encoding = layer.metadata.value(QLatin1String(metadata::Encoding));
+    info.shape = layer.shape;
+    info.roles = layer.roles;
     info.description = describeTableFile(info.format, info.unit);
     const KnownSystems known = knownSystems(info, project);
     info.systems = chooseSystems(known);

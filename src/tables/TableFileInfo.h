@@ -1,5 +1,6 @@
 #pragma once
 
+#include "geodata/LayerInfo.h"
 #include "platform/Result.h"
 #include "tables/TableReading.h"
 #include "tables/TableSystems.h"
@@ -17,13 +18,15 @@ struct TableFileInfo
     TableReading reading; ///< options of the read
     QString filePath;     ///< as picked
     QString layerName;
-    QString nameField;           ///< column with the names of the sites
-    bool hasNameField = false;   ///< whether the table has it, in upper or lower case
-    QString description;         ///< translated text for the file label
-    QString format;              ///< tool that exported the file, as the driver recognised it
-    QString unit;                ///< "METERS", "DMS", else decimal degrees
-    QString epsg;                ///< code that the file declares; "0" or empty for none
-    QString encoding;            ///< of a text file; empty for others
+    QString nameField;         ///< column with the names of the sites
+    bool hasNameField = false; ///< whether the table has it, in upper or lower case
+    QString description;       ///< translated text for the file label
+    QString format;            ///< tool that exported the file, as the driver recognised it
+    QString unit;              ///< "METERS", "DMS", else decimal degrees
+    QString epsg;              ///< code that the file declares; "0" or empty for none
+    QString encoding;          ///< of a text file; empty for others
+    QString shape;             ///< of the table, in English, for language::readerText()
+    QList<geodata::ColumnRole> roles;
     qint64 rowCount = 0;         ///< sites or links
     geodata::SystemPair systems; ///< suggested systems for the choosers
     QStringList projectSystems;  ///< those of the project and of its terrain, if known
