@@ -205,10 +205,18 @@ private Q_SLOTS:
         for (int shift = 0; shift < 3; ++shift) // moves characters across the borders of chunks
             row(("Latin-1, shifted by " + QByteArray::number(shift)).constData(),
                 QByteArray(shift, 'T') + "\n" + latin1, 9000);
-        QByteArray repeated = header;
-        for (int i = 0; i < 3000; ++i)
-            repeated += QByteArray::number(i) + ";2.5;48;n\n" + (i == 2000 ? header : QByteArray());
-        row("the header once more far below", repeated, 3000);
+        const QList<std::pair<const char *, QByteArray>> repetitions = {
+            {"the header once more far below", header},
+            {"the header in capital letters", header.toUpper()},
+            {"the header without its last columns", "Site ID;X;;\n"},
+        };
+        for (const auto &[name, repetition] : repetitions) {
+            QByteArray repeated = header;
+            for (int i = 0; i < 3000; ++i)
+                repeated += QByteArray::number(i) + ";2.5;48;n\n" +
+                            (i % 1000 == 500 ? repetition : QByteArray());
+            row(name, repeated, 3000);
+        }
         row("a row with nothing but an unnamed column", "Site ID;X;Y;\n1;2;3;a\n2;3;4;b\n;;;c\n",
             2);
         const QByteArray ml =

@@ -24,8 +24,8 @@ public:
     virtual int64_t rowNumber() const = 0;
     /// Whether one of the columns 0 .. lastColumn of this row holds more than white space.
     virtual bool hasContent(int lastColumn) = 0;
-    /// A number that is equal for two rows that begin with the same value. It takes little time and
-    /// may be equal by chance.
+    /// A number that is equal for two rows that begin with the same value, in text tables also if
+    /// its capital letters differ. It takes little time and may be equal by chance.
     virtual uint64_t fingerprint() = 0;
     /// Gets the cells of this row that hold more than white space; their texts are not trimmed.
     virtual void cells(Row &row) = 0;

@@ -1,7 +1,5 @@
 #include "plugins/tables/table/Header.h"
 
-#include "contract/TableTexts.h"
-#include "plugins/tables/cells/Numbers.h"
 #include "plugins/tables/roles/NameMatch.h"
 #include "plugins/tables/table/HeaderWords.h"
 
@@ -12,56 +10,18 @@ namespace vlt::driver {
 
 namespace {
 
-constexpr int RowsLookedAt = 50;
+using contract::TableKind;
+
+constexpr std::size_t RowsRead = 50;
 constexpr int MinWords = 2;
-constexpr int MinStrength = 45;     ///< of a name; a sentence has less
-constexpr int NumbersPerHeader = 5; ///< at most one cell in five may be a number, such as a year
-constexpr std::size_t MaxNameSize = 256; ///< characters
+constexpr int MinStrength = 45; ///< of a name; a sentence has less
+/// At most one cell in so many may be a number, such as a year.
+constexpr std::size_t CellsPerNumber = 5;
 constexpr std::size_t MaxTitleSize = 1000;
-
-/// The first characters of a cell's text.
-std::string startOf(const Cell &cell, std::size_t characters)
-{
-    Cell start = cell;
-    start.text = firstCharacters(trimmed(cell.text), characters);
-    return cellText(start);
-}
-
-/// The text of a header cell on one line, cut if too long.
-std::string nameOf(const Cell &cell)
-{
-    std::string name;
-    for (const char c : startOf(cell, MaxNameSize)) {
-        if (c != '\n' && c != '\r')
-            name += c;
-        else if (!name.empty() && name.back() != ' ')
-            name += ' ';
-    }
-    return name;
-}
-
-/// The faults in the row of the header.
-std::vector<CellFault> faultsOf(const Row &row)
-{
-    std::vector<CellFault> faults;
-    std::set<int> cutColumns;
-    for (const Cell &cell : row.cells) {
-        const std::string_view text = trimmed(cell.text);
-        if (firstCharacters(text, MaxNameSize).size() == text.size())
-            continue;
-        cutColumns.insert(cell.column);
-        faults.push_back(
-            {cell.column, contract::formatted("MESS_TAB_TEXT_CUT", {std::to_string(MaxNameSize)})});
-    }
-    for (const CellFault &fault : row.faults) {
-        if (!cutColumns.contains(fault.column)) // a text that is cut twice is reported once
-            faults.push_back(fault);
-    }
-    return faults;
-}
+constexpr std::size_t MaxTitles = RowsRead * 8;
 
 /// Whether tables of that kind have columns with such a name.
-bool isTableName(const std::string &name, contract::TableKind kind, const Vocabulary &vocabulary)
+bool isTableName(const std::string &name, TableKind kind, const Vocabulary &vocabulary)
 {
     constexpr std::size_t MaxSize = 100; // bytes; longer texts are sentences
     const bool isLetter = name.size() == 1 && name.find_first_of("xyXY") == std::string::npos;
@@ -71,7 +31,7 @@ bool isTableName(const std::string &name, contract::TableKind kind, const Vocabu
     const std::vector<NameMatch> matches = matchName(words, vocabulary);
     const auto isOfKind = [kind](const NameMatch &match) {
         return match.strength >= MinStrength &&
-               (kind == contract::TableKind::Links || match.role < Role::LinkName);
+               (kind == TableKind::Links || match.role < Role::LinkName);
     };
     return std::any_of(matches.begin(), matches.end(), isOfKind) ||
            std::any_of(words.begin(), words.end(), [&vocabulary](const std::string &word) {
@@ -80,71 +40,106 @@ bool isTableName(const std::string &name, contract::TableKind kind, const Vocabu
            });
 }
 
-bool isValue(const Cell &cell)
+/// The number of different names that tables of that kind have.
+int countTableNames(const HeaderRow &row, TableKind kind, const Vocabulary &vocabulary)
 {
-    return cell.kind != Cell::Kind::Text || numberShape(trimmed(cell.text)).isNumber;
+    std::set<std::string> names;
+    for (const auto &[column, text] : row.texts) {
+        if (!row.values.contains(column) && isTableName(text, kind, vocabulary))
+            names.insert(lowerCase(text));
+    }
+    return static_cast<int>(names.size());
 }
+
+/// The first rows of a sheet, of which one is the header.
+class HeaderSearch
+{
+public:
+    HeaderSearch(TableKind kind, const Vocabulary &vocabulary)
+        : m_kind(kind)
+        , m_vocabulary(vocabulary)
+    {}
+
+    void add(const Row &row, uint64_t fingerprint)
+    {
+        for (std::optional<Candidate> *candidate : {&m_best, &m_firstWide}) {
+            if (*candidate)
+                (*candidate)->hasRowsBelow = true;
+        }
+        const HeaderRow read = readHeaderRow(row, fingerprint);
+        const int wordCount = countTableNames(read, m_kind, m_vocabulary);
+        const bool isWordy =
+            wordCount >= MinWords && read.values.size() * CellsPerNumber <= read.texts.size();
+        const auto candidate = [&] {
+            return Candidate{read, wordCount, false, headerFaults(row), m_titles.size()};
+        };
+        if (isWordy && (!m_best || wordCount > m_best->wordCount))
+            m_best = candidate();
+        if (!m_firstWide && row.cells.size() >= 2)
+            m_firstWide = candidate();
+        addTitles(row);
+    }
+
+    std::optional<Header> header()
+    {
+        const bool isNamed = m_best || (m_firstWide && m_firstWide->row.values.empty());
+        if (!isNamed)
+            return std::nullopt;
+        Candidate &found = m_best ? *m_best : *m_firstWide;
+        Header header;
+        header.row = found.row.number;
+        header.names = found.row.texts;
+        header.rows = {std::move(found.row)};
+        m_titles.resize(found.titleCount);
+        header.titles = std::move(m_titles);
+        header.wordCount = found.wordCount;
+        header.hasRowsBelow = found.hasRowsBelow;
+        header.faults = std::move(found.faults);
+        return header;
+    }
+
+private:
+    struct Candidate
+    {
+        HeaderRow row;
+        int wordCount = 0;
+        bool hasRowsBelow = false;
+        std::vector<CellFault> faults;
+        std::size_t titleCount = 0; ///< titles in the rows above
+    };
+
+    void addTitles(const Row &row)
+    {
+        for (const Cell &cell : row.cells) {
+            if (m_titles.size() < MaxTitles)
+                m_titles.push_back(startOfText(cell, MaxTitleSize));
+        }
+    }
+
+    TableKind m_kind;
+    const Vocabulary &m_vocabulary;
+    std::optional<Candidate> m_best;
+    std::optional<Candidate> m_firstWide; ///< the first row with at least two cells
+    std::vector<std::string> m_titles;
+};
 
 } // namespace
 
-std::optional<Header> findHeader(const Sheet &sheet, contract::TableKind kind,
-                                 const Vocabulary &vocabulary, std::size_t &widest)
+std::optional<Header> findHeader(const Sheet &sheet, TableKind kind, const Vocabulary &vocabulary,
+                                 std::size_t &widest)
 {
-    std::optional<Header> best;
-    std::optional<Header> firstWide; ///< the first row with at least two cells
-    bool firstWideIsText = false;
-    std::vector<std::string> titles;
+    HeaderSearch search(kind, vocabulary);
     const std::unique_ptr<RowReader> rows = sheet.rows();
     Row row;
-    for (int seen = 0; seen < RowsLookedAt && rows->advance();) {
+    for (std::size_t seen = 0; seen < RowsRead && rows->advance();) {
         if (!rows->hasContent(MaxColumns))
             continue;
         ++seen;
         rows->cells(row);
-        Header header;
-        header.row = row.number;
-        header.fingerprint = rows->fingerprint();
-        header.titles = titles;
-        int values = 0;
-        std::set<std::string> tableNames;
-        for (const Cell &cell : row.cells) {
-            const std::string &name = header.names.emplace(cell.column, nameOf(cell)).first->second;
-            values += isValue(cell) ? 1 : 0;
-            if (!isValue(cell) && isTableName(name, kind, vocabulary))
-                tableNames.insert(lowerCase(name));
-            if (titles.size() < static_cast<std::size_t>(RowsLookedAt) * 8)
-                titles.push_back(startOf(cell, MaxTitleSize));
-        }
-        header.wordCount = static_cast<int>(tableNames.size());
         widest = std::max(widest, row.cells.size());
-        if (best)
-            best->hasRowsBelow = true;
-        if (firstWide)
-            firstWide->hasRowsBelow = true;
-        const bool wordy = header.wordCount >= MinWords &&
-                           values * NumbersPerHeader <= static_cast<int>(row.cells.size());
-        const bool better = wordy && (!best || header.wordCount > best->wordCount);
-        if (better || (!firstWide && row.cells.size() >= 2))
-            header.faults = faultsOf(row);
-        if (!firstWide && row.cells.size() >= 2) {
-            firstWide = header;
-            firstWideIsText = values == 0;
-        }
-        if (better)
-            best = std::move(header);
+        search.add(row, rows->fingerprint());
     }
-    if (best)
-        return best;
-    return firstWideIsText ? firstWide : std::nullopt;
-}
-
-bool repeatsHeader(const Row &row, const Header &header)
-{
-    return row.cells.size() == header.names.size() &&
-           std::all_of(row.cells.begin(), row.cells.end(), [&header](const Cell &cell) {
-               const auto name = header.names.find(cell.column);
-               return name != header.names.end() && name->second == nameOf(cell);
-           });
+    return search.header();
 }
 
 } // namespace vlt::driver

@@ -3,6 +3,7 @@
 #include "contract/TableKind.h"
 #include "plugins/tables/cells/RowReader.h"
 #include "plugins/tables/roles/Vocabulary.h"
+#include "plugins/tables/table/HeaderRow.h"
 
 #include <map>
 #include <optional>
@@ -11,17 +12,20 @@
 
 namespace vlt::driver {
 
-/// The row that names the columns, and the rows above it.
+/// The rows that name the columns, and the rows above them.
 struct Header
 {
-    int64_t row = 0; ///< number in the file, from 1
+    int64_t row = 0; ///< number in the file, from 1: the one with the names of most columns
+    std::vector<HeaderRow> rows; ///< from the top
     /// By column; trimmed, with spaces for line breaks, cut if too long.
     std::map<int, std::string> names;
     std::vector<std::string> titles; ///< texts of the rows above
     int wordCount = 0;               ///< number of names that tables of that kind use
-    uint64_t fingerprint = 0;        ///< of the row, to find its repetitions
     bool hasRowsBelow = false;
     std::vector<CellFault> faults; ///< of the row
+
+    /// Number of the last row of the header in the file; the data begin below it.
+    int64_t lastRow() const { return rows.empty() ? 0 : rows.back().number; }
 };
 
 /// Finds the header in the first rows of a sheet: the row with the largest number of words of
@@ -30,8 +34,5 @@ struct Header
 /// number of cells of the widest row that was read.
 std::optional<Header> findHeader(const Sheet &sheet, contract::TableKind kind,
                                  const Vocabulary &vocabulary, std::size_t &widest);
-
-/// Whether a row repeats the header, as in tables that were joined or printed page by page.
-bool repeatsHeader(const Row &row, const Header &header);
 
 } // namespace vlt::driver

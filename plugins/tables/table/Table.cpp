@@ -256,14 +256,23 @@ bool DataRows::isData()
     // Columns without a name become fields only after the rows were counted, so they do not count
     // here.
     const int lastNamed = m_profile->header.names.rbegin()->first;
-    if (m_rows->rowNumber() <= m_profile->header.row || !m_rows->hasContent(lastNamed))
+    const Header &header = m_profile->header;
+    if (m_rows->rowNumber() <= header.lastRow() || !m_rows->hasContent(lastNamed))
         return false;
-    if (m_rows->fingerprint() != m_profile->header.fingerprint)
-        return true;
-    m_rows->leaveOutTexts(nullptr); // the names in the header are texts too
-    const bool repeated = repeatsHeader(cells(), m_profile->header);
+    const uint64_t fingerprint = m_rows->fingerprint();
+    return std::none_of(header.rows.begin(), header.rows.end(), [&](const HeaderRow &row) {
+        return row.fingerprint == fingerprint && repeats(cellsWithTexts(), row);
+    });
+}
+
+/// The cells of the row with the texts of all columns.
+const Row &DataRows::cellsWithTexts()
+{
+    m_parsed = m_parsed && !m_leftOut;
+    m_rows->leaveOutTexts(nullptr);
+    const Row &row = cells();
     m_rows->leaveOutTexts(m_leftOut);
-    return !repeated;
+    return row;
 }
 
 bool DataRows::advance()

@@ -97,6 +97,7 @@ public:
 
 private:
     bool isData();
+    const Row &cellsWithTexts();
 
     const Sheet *m_sheet;
     std::shared_ptr<const TableProfile> m_profile;

@@ -206,10 +206,11 @@ bool TextRows::hasContent(int lastColumn)
 
 uint64_t TextRows::fingerprint()
 {
+    constexpr uint64_t SmallLetters = 0x2020202020202020;
     uint64_t start = 0;
     std::memcpy(&start, m_row,
                 std::min<std::size_t>(sizeof start, static_cast<std::size_t>(m_rowEnd - m_row)));
-    return start;
+    return start | SmallLetters;
 }
 
 /// The row with U+FFFD for every byte that is not part of a character. Their number is reported.
