@@ -9,6 +9,7 @@ inline constexpr char Format[] = "format";     ///< kind of table: the program t
 inline constexpr char Unit[] = "unit";         ///< of the coordinates
 inline constexpr char Epsg[] = "epsg";         ///< system that the table declares; may be empty
 inline constexpr char Encoding[] = "encoding"; ///< of a text file
+inline constexpr char HeaderRows[] = "header_rows"; ///< rows with names: "2,3"; empty for none
 
 // Values of Unit.
 inline constexpr char Meters[] = "METERS";

@@ -215,12 +215,24 @@ private:
         return nearest;
     }
 
+    static QString differenceOfHeader(const QJsonObject &table, OGRLayer &layer)
+    {
+        QStringList expected;
+        for (const QJsonValue &row : table.value(u"headerRows"_s).toArray())
+            expected += QString::number(row.toInt());
+        const QString found = QString::fromUtf8(layer.GetMetadataItem("header_rows"));
+        return found == expected.join(u',') ? QString() : u"the header is in rows "_s + found;
+    }
+
     static QString differenceOfSites(const QJsonObject &table)
     {
         const Warnings warnings;
         const GDALDatasetUniquePtr dataset = open(table, "site:");
         if (!dataset)
             return u"cannot be opened: "_s + warnings.texts.join(u' ');
+        if (const QString difference = differenceOfHeader(table, *dataset->GetLayer(0));
+            !difference.isEmpty())
+            return difference;
         const QList<Site> sites = sitesOf(*dataset->GetLayer(0));
         const int expected = table.value(u"counts"_s).toObject().value(u"sites"_s).toInt();
         for (const QJsonValue &site : table.value(u"sites"_s).toArray()) {

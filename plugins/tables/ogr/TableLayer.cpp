@@ -41,6 +41,15 @@ const char *unitName(CoordinateUnit unit)
                                           : metadata::Degrees;
 }
 
+/// The numbers of the rows that name the columns: 1,2.
+std::string headerRows(const Header &header)
+{
+    std::string numbers;
+    for (const HeaderRow &row : header.rows)
+        numbers += (numbers.empty() ? "" : ",") + std::to_string(row.number);
+    return numbers;
+}
+
 } // namespace
 
 TableLayer::TableLayer(TableSource source, const std::string &name, int partCount)
@@ -55,6 +64,7 @@ TableLayer::TableLayer(TableSource source, const std::string &name, int partCoun
     OGRLayer::SetMetadataItem(metadata::Format, declaration.format.c_str());
     OGRLayer::SetMetadataItem(metadata::Unit, unitName(declaration.unit));
     OGRLayer::SetMetadataItem(metadata::Epsg, systems().knownEpsg().c_str());
+    OGRLayer::SetMetadataItem(metadata::HeaderRows, headerRows(facts().table.header).c_str());
     if (const std::string &encoding = facts().table.encoding.name; !encoding.empty())
         OGRLayer::SetMetadataItem(metadata::Encoding, encoding.c_str());
 }

@@ -187,7 +187,7 @@ private:
         std::map<std::pair<Role, std::string>, std::vector<Candidate *>> byName;
         for (Candidate &candidate : m_candidates) {
             if (isOfTransmitter(candidate.role) && candidate.sector < 0)
-                byName[{candidate.role, m_table.nameInHeader(candidate.field)}].push_back(
+                byName[{candidate.role, m_table.nameInGroup(candidate.field)}].push_back(
                     &candidate);
         }
         for (const auto &[name, same] : byName) {

@@ -1,6 +1,7 @@
 #include "plugins/tables/table/Header.h"
 
 #include "plugins/tables/roles/NameMatch.h"
+#include "plugins/tables/table/HeaderBlock.h"
 #include "plugins/tables/table/HeaderWords.h"
 
 #include <algorithm>
@@ -62,22 +63,25 @@ public:
 
     void add(const Row &row, uint64_t fingerprint)
     {
-        for (std::optional<Candidate> *candidate : {&m_best, &m_firstWide}) {
-            if (*candidate)
-                (*candidate)->hasRowsBelow = true;
-        }
         const HeaderRow read = readHeaderRow(row, fingerprint);
+        for (std::optional<Candidate> *candidate : {&m_best, &m_firstWide}) {
+            if (*candidate && (*candidate)->below.size() < RowsBelowNames)
+                (*candidate)->below.push_back(read);
+        }
         const int wordCount = countTableNames(read, m_kind, m_vocabulary);
         const bool isWordy =
             wordCount >= MinWords && read.values.size() * CellsPerNumber <= read.texts.size();
         const auto candidate = [&] {
-            return Candidate{read, wordCount, false, headerFaults(row), m_titles.size()};
+            return Candidate{m_above, read, {}, wordCount, headerFaults(row), m_titles.size()};
         };
         if (isWordy && (!m_best || wordCount > m_best->wordCount))
             m_best = candidate();
         if (!m_firstWide && row.cells.size() >= 2)
             m_firstWide = candidate();
         addTitles(row);
+        m_above.push_back(read);
+        if (m_above.size() >= MaxNameRows)
+            m_above.erase(m_above.begin());
     }
 
     std::optional<Header> header()
@@ -86,14 +90,15 @@ public:
         if (!isNamed)
             return std::nullopt;
         Candidate &found = m_best ? *m_best : *m_firstWide;
+        HeaderBlock block = joinHeader(found.above, found.row, found.below, m_vocabulary);
         Header header;
         header.row = found.row.number;
-        header.names = found.row.texts;
-        header.rows = {std::move(found.row)};
+        header.names = std::move(block.names);
+        header.rows = std::move(block.rows);
         m_titles.resize(found.titleCount);
         header.titles = std::move(m_titles);
         header.wordCount = found.wordCount;
-        header.hasRowsBelow = found.hasRowsBelow;
+        header.hasRowsBelow = found.below.size() + 1 > header.rows.size();
         header.faults = std::move(found.faults);
         return header;
     }
@@ -101,9 +106,10 @@ public:
 private:
     struct Candidate
     {
+        std::vector<HeaderRow> above; ///< the last ones before the row
         HeaderRow row;
+        std::vector<HeaderRow> below; ///< the first ones behind it
         int wordCount = 0;
-        bool hasRowsBelow = false;
         std::vector<CellFault> faults;
         std::size_t titleCount = 0; ///< titles in the rows above
     };
@@ -121,6 +127,7 @@ private:
     std::optional<Candidate> m_best;
     std::optional<Candidate> m_firstWide; ///< the first row with at least two cells
     std::vector<std::string> m_titles;
+    std::vector<HeaderRow> m_above; ///< the last rows before the next one
 };
 
 } // namespace

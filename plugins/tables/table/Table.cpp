@@ -208,6 +208,13 @@ std::string TableProfile::nameInHeader(int field) const
     return named == header.names.end() ? std::string() : named->second;
 }
 
+std::string TableProfile::nameInGroup(int field) const
+{
+    const std::map<int, std::string> &lowest = header.rows.back().texts;
+    const auto named = lowest.find(fields[static_cast<std::size_t>(field)].column);
+    return named == lowest.end() ? nameInHeader(field) : named->second;
+}
+
 Table readTable(Workbook &workbook, const TableHints &hints)
 {
     Candidate chosen = chooseSheet(workbook, hints);

@@ -46,6 +46,8 @@ struct TableProfile
 
     /// The name of a field in the header, without the number that makes it unique.
     std::string nameInHeader(int field) const;
+    /// That name without the groups above it: Azimuth for "Sector 1 Azimuth".
+    std::string nameInGroup(int field) const;
 };
 
 /// What the caller states about the table; empty members are found automatically.

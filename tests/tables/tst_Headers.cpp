@@ -1,0 +1,98 @@
+#include "DriverTesting.h"
+#include "support/Cases.h"
+
+#include <QtTest>
+
+/// The rows of a table that name its columns, and those that are no data.
+class tst_Headers : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        GDALAllRegister();
+        QVERIFY(m_folder.isValid());
+    }
+
+    void joinsTheRowsOfAHeader_data()
+    {
+        const Cases<QByteArray, QString, QString, int, QByteArray> row(
+            {"text", "rows", "names", "features", "prefix"});
+        row("groups in the first of their columns",
+            "Site;;Sector 1;;Sector 2;;\n"
+            "ID;X;Azimuth;Height;Azimuth;Height;Remarks\n"
+            "a;1;0;30;120;31;good\n",
+            "1,2",
+            "Site ID|Site X|Sector 1 Azimuth|Sector 1 Height|Sector 2 Azimuth|Sector 2 Height|"
+            "Remarks",
+            1);
+        row("groups in each of their columns, unknown ones",
+            "Alpha;Alpha;Beta;Beta;;\nAzimuth;Height;Azimuth;Height;X;Y\n0;30;120;31;1;2\n", "1,2",
+            "Alpha Azimuth|Alpha Height|Beta Azimuth|Beta Height|X|Y", 1);
+        row("names merged with the cells below them",
+            "Site ID;Longitude;Latitude;Sector 1;;Sector 2;\n"
+            ";;;Azimuth;Height;Azimuth;Height\n"
+            "a;2;48;0;30;120;31\nb;3;48;0;30;120;31\n",
+            "1,2",
+            "Site ID|Longitude|Latitude|Sector 1 Azimuth|Sector 1 Height|Sector 2 Azimuth|"
+            "Sector 2 Height",
+            2);
+        row("sectors below their values, merged names repeated",
+            "Site;Lon;Lat;Azimuth;;Height;\nSite;Lon;Lat;Sector 1;Sector 2;Sector 1;Sector 2\n"
+            "a;2;48;0;120;30;31\n",
+            "1,2", "Site|Lon|Lat|Azimuth Sector 1|Azimuth Sector 2|Height Sector 1|Height Sector 2",
+            1);
+        row("ends of links",
+            ";Near end;;Far end;;Path\nLink;Longitude;Latitude;Longitude;Latitude;Length (km)\n"
+            "L1;2;48;3;48;74\n",
+            "1,2",
+            "Link|Near end Longitude|Near end Latitude|Far end Longitude|Far end Latitude|"
+            "Path Length (km)",
+            1, "link:");
+        row("a title of two cells", "Network north;;;Edition 7\nSite;X;Y;Azimuth\na;1;2;3\n", "2",
+            "Site|X|Y|Azimuth", 1);
+        row("a title beside equal names", "Network north;;;\nname;X;Y;name\na;1;2;b\n", "2",
+            "name|X|Y|name_2", 1);
+        row("a row of data that could be names",
+            "Site;X;Y;Tower;;Owner\nMast;;;Pole;Site;Station\nb;1;2;c;d;e\n", "1",
+            "Site|X|Y|Tower|Column 5|Owner", 2);
+        row("groups over a layout that is known",
+            "Site;;;Sector;;\n"
+            "Site ID;Longitude;Latitude;Transmitter-1 Azimuth;Transmitter-2 Azimuth\n"
+            "a;2;48;0;120\n",
+            "2", "Site ID|Longitude|Latitude|Transmitter-1 Azimuth|Transmitter-2 Azimuth", 1);
+    }
+    void joinsTheRowsOfAHeader()
+    {
+        QFETCH(QByteArray, text);
+        QFETCH(QString, rows);
+        QFETCH(QString, names);
+        QFETCH(int, features);
+        QFETCH(QByteArray, prefix);
+        m_folder.write("t.csv", text);
+        const GDALDatasetUniquePtr dataset =
+            m_folder.open(prefix.isEmpty() ? "site:" : prefix, "t.csv");
+        QVERIFY(dataset);
+        OGRLayer *layer = dataset->GetLayer(0);
+        QCOMPARE(QString::fromUtf8(layer->GetMetadataItem("header_rows")), rows);
+        const QStringList found = fieldNames(*layer);
+        QCOMPARE(found.mid(found.size() - names.count(u'|') - 1).join(u'|'), names);
+        QCOMPARE(layer->GetFeatureCount(), features);
+    }
+
+private:
+    static QStringList fieldNames(OGRLayer &layer)
+    {
+        QStringList names;
+        const OGRFeatureDefn *definition = layer.GetLayerDefn();
+        for (int i = 0; i < definition->GetFieldCount(); ++i)
+            names += QString::fromUtf8(definition->GetFieldDefn(i)->GetNameRef());
+        return names;
+    }
+
+    TableFolder m_folder;
+};
+
+QTEST_GUILESS_MAIN(tst_Headers)
+#include "tst_Headers.moc"
