@@ -81,6 +81,39 @@ private Q_SLOTS:
         QCOMPARE(layer->GetFeatureCount(), features);
     }
 
+    void readsTheRowOfUnits_data()
+    {
+        const Cases<QByteArray, int, double> row({"text", "features", "height"});
+        const QByteArray header = "Site ID;Longitude;Latitude;Azimuth;Height;EIRP\n";
+        const QByteArray data = "a;2;48;0;100;63\nb;3;48;120;50;63\n";
+        row("feet", header + ";deg;deg;deg;ft;dBm\n" + data, 2, 30.48);
+        row("in brackets, with the surface",
+            header + ";(\u00B0);(\u00B0);[\u00B0];[ft AGL];\n" + data, 2, 30.48);
+        row("repeated with the header",
+            header + ";deg;deg;deg;ft;dBm\n" + data + header +
+                ";deg;deg;deg;ft;dBm\nc;4;48;0;50;63\n",
+            3, 30.48);
+        row("metres", header + ";WGS84 deg;deg;deg;m;\n" + data, 2, 100);
+        row("a row of data", header + "a;2;48;0;100;m\n", 1, 100);
+        row("below groups",
+            "Site;;;Sector 1;;\nID;Lon;Lat;Azimuth;Height;EIRP\n;\u00B0;\u00B0;\u00B0;ft;dBm\n" +
+                data,
+            2, 30.48);
+    }
+    void readsTheRowOfUnits()
+    {
+        QFETCH(QByteArray, text);
+        QFETCH(int, features);
+        QFETCH(double, height);
+        m_folder.write("t.csv", text);
+        const GDALDatasetUniquePtr dataset = m_folder.open("site:", "t.csv");
+        QVERIFY(dataset);
+        OGRLayer *layer = dataset->GetLayer(0);
+        QCOMPARE(layer->GetFeatureCount(), features);
+        const OGRFeatureUniquePtr feature{layer->GetNextFeature()};
+        QCOMPARE(feature->GetFieldAsDouble("Transmitter-1 Height (m)"), height);
+    }
+
 private:
     static QStringList fieldNames(OGRLayer &layer)
     {

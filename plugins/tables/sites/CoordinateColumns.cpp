@@ -347,7 +347,7 @@ CoordinateUnit findUnit(const PointFields &point, const std::vector<Field> &fiel
         return CoordinateUnit::Dms;
     // A small easting, near the false origin, can also be read as degrees, but not the northing.
     if (ofX == CoordinateUnit::Meters || ofY == CoordinateUnit::Meters ||
-        (saysMeters(x.name, vocabulary) && saysMeters(y.name, vocabulary)))
+        (saysMeters(nameWithUnit(x), vocabulary) && saysMeters(nameWithUnit(y), vocabulary)))
         return CoordinateUnit::Meters;
     return CoordinateUnit::Degrees;
 }

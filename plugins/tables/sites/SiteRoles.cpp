@@ -105,7 +105,7 @@ private:
     void addCandidates(int field)
     {
         const auto at = static_cast<std::size_t>(field);
-        m_words[at] = separatedWords(m_table.nameInHeader(field), m_vocabulary);
+        m_words[at] = separatedWords(m_table.nameWithUnit(field), m_vocabulary);
         std::vector<NameMatch> matches = matchName(m_words[at], m_vocabulary);
         if (matches.empty()) {
             if (const auto ofRows = matchKindOfRows(m_words[at], m_vocabulary))

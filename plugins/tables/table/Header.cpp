@@ -95,10 +95,14 @@ public:
         header.row = found.row.number;
         header.names = std::move(block.names);
         header.rows = std::move(block.rows);
+        header.unitRow = std::move(block.unitRow);
+        header.units = std::move(block.units);
         m_titles.resize(found.titleCount);
         header.titles = std::move(m_titles);
         header.wordCount = found.wordCount;
-        header.hasRowsBelow = found.below.size() + 1 > header.rows.size();
+        header.hasRowsBelow = std::any_of(
+            found.below.begin(), found.below.end(),
+            [last = header.lastRow()](const HeaderRow &row) { return row.number > last; });
         header.faults = std::move(found.faults);
         return header;
     }

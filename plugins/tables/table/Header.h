@@ -16,16 +16,21 @@ namespace vlt::driver {
 struct Header
 {
     int64_t row = 0; ///< number in the file, from 1: the one with the names of most columns
-    std::vector<HeaderRow> rows; ///< from the top
+    std::vector<HeaderRow> rows;      ///< those that name the columns, from the top
+    std::optional<HeaderRow> unitRow; ///< the row below them, if it holds their units
     /// By column; trimmed, with spaces for line breaks, cut if too long.
     std::map<int, std::string> names;
-    std::vector<std::string> titles; ///< texts of the rows above
-    int wordCount = 0;               ///< number of names that tables of that kind use
+    std::map<int, std::string> units; ///< by column, as far as the vocabulary knows them
+    std::vector<std::string> titles;  ///< texts of the rows above
+    int wordCount = 0;                ///< number of names that tables of that kind use
     bool hasRowsBelow = false;
     std::vector<CellFault> faults; ///< of the row
 
     /// Number of the last row of the header in the file; the data begin below it.
-    int64_t lastRow() const { return rows.empty() ? 0 : rows.back().number; }
+    int64_t lastRow() const
+    {
+        return unitRow ? unitRow->number : rows.empty() ? 0 : rows.back().number;
+    }
 };
 
 /// Finds the header in the first rows of a sheet: the row with the largest number of words of

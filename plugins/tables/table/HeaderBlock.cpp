@@ -189,6 +189,32 @@ Texts joinedNames(const std::vector<HeaderRow> &rows)
     return names;
 }
 
+/// Whether a text is a unit, in brackets or not: "[m]", "(ft AGL)", "\u00B0". Its first word
+/// decides.
+bool isUnit(const std::string &text, const Vocabulary &vocabulary)
+{
+    constexpr std::size_t MaxSize = 24; // bytes; a longer text is a description
+    if (text.size() > MaxSize)
+        return false;
+    const std::vector<std::string> words = nameWords(text);
+    if (words.empty())
+        return text.find("\u00B0") != std::string::npos || text.find("\u00BA") != std::string::npos;
+    const WordMeaning *meaning = vocabulary.find(words.front());
+    return meaning && meaning->isUnit();
+}
+
+/// The units in a row, by column; nothing unless they are at least half of its cells. The others
+/// may be units that no column needs, such as dBm.
+Texts unitsIn(const HeaderRow &row, const Vocabulary &vocabulary)
+{
+    Texts units;
+    for (const auto &[column, text] : row.texts) {
+        if (isUnit(text, vocabulary))
+            units.emplace(column, text);
+    }
+    return row.values.empty() && units.size() * 2 >= row.texts.size() ? units : Texts();
+}
+
 } // namespace
 
 HeaderBlock joinHeader(const std::vector<HeaderRow> &above, const HeaderRow &row,
@@ -213,6 +239,14 @@ HeaderBlock joinHeader(const std::vector<HeaderRow> &above, const HeaderRow &row
         block.rows.insert(block.rows.begin(), *before);
     }
     block.names = joinedNames(block.rows);
+    const auto next = std::find_if(below.begin(), below.end(), [&block](const HeaderRow &other) {
+        return other.number > block.rows.back().number;
+    });
+    if (next == below.end())
+        return block;
+    block.units = unitsIn(*next, vocabulary);
+    if (!block.units.empty())
+        block.unitRow = *next;
     return block;
 }
 

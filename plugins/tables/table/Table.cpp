@@ -168,6 +168,8 @@ void makeFields(TableProfile &profile, const Sample &sample, const TableHints &h
         Field field;
         field.name = uniqueName(fieldName(profile.header, column), taken);
         field.column = column;
+        if (const auto unit = profile.header.units.find(column); unit != profile.header.units.end())
+            field.unit = unit->second;
         field.mark = statistics.mark();
         field.type = hints.textOnly ? FieldType::Text : statistics.type(profile.allRowsSampled);
         field.samples = statistics.samples();
@@ -213,6 +215,17 @@ std::string TableProfile::nameInGroup(int field) const
     const std::map<int, std::string> &lowest = header.rows.back().texts;
     const auto named = lowest.find(fields[static_cast<std::size_t>(field)].column);
     return named == lowest.end() ? nameInHeader(field) : named->second;
+}
+
+std::string TableProfile::nameWithUnit(int field) const
+{
+    const std::string &unit = fields[static_cast<std::size_t>(field)].unit;
+    return unit.empty() ? nameInHeader(field) : nameInHeader(field) + ' ' + unit;
+}
+
+std::string nameWithUnit(const Field &field)
+{
+    return field.unit.empty() ? field.name : field.name + ' ' + field.unit;
 }
 
 Table readTable(Workbook &workbook, const TableHints &hints)
@@ -267,9 +280,11 @@ bool DataRows::isData()
     if (m_rows->rowNumber() <= header.lastRow() || !m_rows->hasContent(lastNamed))
         return false;
     const uint64_t fingerprint = m_rows->fingerprint();
-    return std::none_of(header.rows.begin(), header.rows.end(), [&](const HeaderRow &row) {
+    const auto isRepeated = [&](const HeaderRow &row) {
         return row.fingerprint == fingerprint && repeats(cellsWithTexts(), row);
-    });
+    };
+    return std::none_of(header.rows.begin(), header.rows.end(), isRepeated) &&
+           !(header.unitRow && isRepeated(*header.unitRow));
 }
 
 /// The cells of the row with the texts of all columns.

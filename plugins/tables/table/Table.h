@@ -16,11 +16,15 @@ struct Field
     /// As in the header, without asterisks at the end. A number makes the name unique if it occurs
     /// more than once.
     std::string name;
-    int column = 0; ///< from 0
+    int column = 0;   ///< from 0
+    std::string unit; ///< in the row of units below the header; empty for none
     FieldType type = FieldType::Text;
     DecimalMark mark = DecimalMark::Point;
     std::vector<std::string> samples; ///< texts of some of its cells
 };
+
+/// The name of a field with the unit below it, as one text.
+std::string nameWithUnit(const Field &field);
 
 /// Position of a row, which can be read from there without reading the rows before.
 struct RowMark
@@ -48,6 +52,8 @@ struct TableProfile
     std::string nameInHeader(int field) const;
     /// That name without the groups above it: Azimuth for "Sector 1 Azimuth".
     std::string nameInGroup(int field) const;
+    /// The name in the header with the unit below it, as one text.
+    std::string nameWithUnit(int field) const;
 };
 
 /// What the caller states about the table; empty members are found automatically.
