@@ -147,6 +147,40 @@ private Q_SLOTS:
         QVERIFY(std::abs(reach[false] + 200) < 0.01);
     }
 
+    void drawsOnlyWhatCanBeRead_data()
+    {
+        const Cases<QByteArray, QByteArray, bool, bool> row({"height", "azimuth", "east", "west"});
+        row("numbers", "30", "90", true, false);
+        row("units", "98.4 ft", "90\u00b0", true, false);
+        row("units in words", "30 m", "90 deg", true, false);
+        row("no azimuth", "30", "", true, true);
+        row("azimuth not known", "30", "N/A", true, true);
+        row("a list", "30", "90/270", false, false);
+        row("beyond a turn", "30", "1200", false, false);
+        row("too high", "99999", "90", false, false);
+    }
+    void drawsOnlyWhatCanBeRead()
+    {
+        QFETCH(QByteArray, height);
+        QFETCH(QByteArray, azimuth);
+        // the second site has a text in each column, which are texts therefore
+        writeFile(path(QStringLiteral("t.csv")),
+                  Header + "A,650000,6860000,0," + height + ',' + azimuth + ",,\nB,,,0,x,x,,\n");
+        writeFile(path(QStringLiteral("t.lay")), layerText(siteSource("t.csv")));
+        Everything found;
+        open(path(QStringLiteral("t.lay"))).scene->accept(found);
+
+        double east = 0;
+        double west = 0;
+        for (const osg::ref_ptr<const osg::Drawable> &drawable : found.drawables) {
+            const osg::BoundingBox box = drawable->getBoundingBox();
+            east = std::max<double>(east, box.xMax());
+            west = std::min<double>(west, box.xMin());
+        }
+        QTEST(east > 100, "east");
+        QTEST(west < -100, "west");
+    }
+
     void sharesEqualPylons()
     {
         const auto count = [this](int sites) {

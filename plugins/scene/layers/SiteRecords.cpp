@@ -89,18 +89,21 @@ private:
         double top = 0;
         for (std::size_t i = 0; i < m_columns.transmitters.size(); ++i) {
             const TransmitterColumns &columns = m_columns.transmitters[i];
-            const auto height =
-                numberAt(feature, columns.height, 0, limits::MastHeightM.maximum - AboveAntennasM);
+            const auto height = quantityAt(feature, columns.height, 0,
+                                           limits::MastHeightM.maximum - AboveAntennasM);
             const auto azimuth =
-                numberAt(feature, columns.azimuth, -2 * WholeTurnDeg, 2 * WholeTurnDeg);
-            if (!height && !azimuth)
+                quantityAt(feature, columns.azimuth, -2 * WholeTurnDeg, 2 * WholeTurnDeg);
+            // a value that is there and cannot be used must not become a transmitter to all sides
+            const bool isUnusable = (!height && hasValue(feature, columns.height)) ||
+                                    (!azimuth && hasValue(feature, columns.azimuth));
+            if (isUnusable || (!height && !azimuth))
                 continue;
             Transmitter transmitter;
             transmitter.heightM = height.value_or(contract::DefaultAntennaHeightM);
             transmitter.azimuthDeg = std::fmod(azimuth.value_or(0.0), WholeTurnDeg);
             transmitter.beamWidthDeg = azimuth ? 0 : WholeTurnDeg;
             transmitter.tiltDeg =
-                numberAt(feature, columns.tilt, -MaxTiltDeg, MaxTiltDeg).value_or(0.0);
+                quantityAt(feature, columns.tilt, -MaxTiltDeg, MaxTiltDeg).value_or(0.0);
             transmitter.color = m_style.colors[i % m_style.colors.size()];
             top = std::max(top, transmitter.heightM);
             design.transmitters.push_back(transmitter);

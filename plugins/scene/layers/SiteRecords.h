@@ -43,7 +43,8 @@ struct SiteRecords : PylonRecords
 ///
 /// A mast is slightly higher than its highest antenna. A transmitter without a height has the
 /// default height, one without a tilt has tilt 0, one without an azimuth radiates in all
-/// directions. One with neither height nor azimuth is ignored. The foot is at the terrain height,
+/// directions. One with neither height nor azimuth is ignored, and so is one whose height or
+/// azimuth cannot be used. The foot is at the terrain height,
 /// or at 0 where that is unknown.
 ///
 /// @param table      with the absolute path of a file

@@ -18,7 +18,24 @@ namespace {
 
 constexpr double MaxDistanceM = 3e7; ///< from the median; more than half the earth's circumference
 
-std::optional<double> numberIn(std::string_view text)
+/// Metres or degrees per unit behind a number; 1 without a unit, nothing for any other text.
+std::optional<double> unitIn(std::string_view text)
+{
+    constexpr double FootM = 0.3048;
+    constexpr std::pair<std::string_view, double> Known[] = {
+        {"", 1}, {"m", 1}, {"\u00B0", 1}, {"deg", 1}, {"ft", FootM}};
+    text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
+    text.remove_suffix(text.size() - (text.find_last_not_of(' ') + 1));
+    for (const auto &[name, size] : Known) {
+        if (text == name)
+            return size;
+    }
+    return std::nullopt;
+}
+
+enum class Units { None, Accepted };
+
+std::optional<double> numberIn(std::string_view text, Units units)
 {
     std::string plain(text);
     std::replace(plain.begin(), plain.end(), ',', '.');
@@ -26,8 +43,23 @@ std::optional<double> numberIn(std::string_view text)
     const char *last = plain.data() + plain.size();
     double value = 0;
     const auto [end, fault] = std::from_chars(plain.data() + begin, last, value);
-    const bool whole = std::all_of(end, last, [](char c) { return c == ' '; });
-    return fault == std::errc() && whole ? std::optional(value) : std::nullopt;
+    if (fault != std::errc())
+        return std::nullopt;
+    const std::optional<double> unit = unitIn({end, static_cast<std::size_t>(last - end)});
+    const bool isPlain = std::all_of(end, last, [](char c) { return c == ' '; });
+    return unit && (isPlain || units == Units::Accepted) ? std::optional(value * *unit)
+                                                         : std::nullopt;
+}
+
+std::optional<double> valueAt(const OGRFeature &feature, int field, double least, double most,
+                              Units units)
+{
+    if (field < 0 || !feature.IsFieldSetAndNotNull(field))
+        return std::nullopt;
+    const bool isText = feature.GetFieldDefnRef(field)->GetType() == OFTString;
+    const std::optional<double> value = isText ? numberIn(feature.GetFieldAsString(field), units)
+                                               : std::optional(feature.GetFieldAsDouble(field));
+    return value && *value >= least && *value <= most ? value : std::nullopt;
 }
 
 double medianOf(std::vector<double> values)
@@ -135,12 +167,24 @@ std::optional<osg::Vec2d> placeOf(const OGRFeature &feature)
 
 std::optional<double> numberAt(const OGRFeature &feature, int field, double least, double most)
 {
+    return valueAt(feature, field, least, most, Units::None);
+}
+
+std::optional<double> quantityAt(const OGRFeature &feature, int field, double least, double most)
+{
+    return valueAt(feature, field, least, most, Units::Accepted);
+}
+
+bool hasValue(const OGRFeature &feature, int field)
+{
     if (field < 0 || !feature.IsFieldSetAndNotNull(field))
-        return std::nullopt;
-    const bool isText = feature.GetFieldDefnRef(field)->GetType() == OFTString;
-    const std::optional<double> value = isText ? numberIn(feature.GetFieldAsString(field))
-                                               : std::optional(feature.GetFieldAsDouble(field));
-    return value && *value >= least && *value <= most ? value : std::nullopt;
+        return false;
+    static constexpr std::string_view Missing[] = {"",     "-",    "--",   "NA", "N/A",
+                                                   "#N/A", "null", "NULL", "NaN"};
+    std::string_view text = feature.GetFieldAsString(field);
+    text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
+    text.remove_suffix(text.size() - (text.find_last_not_of(' ') + 1));
+    return std::find(std::begin(Missing), std::end(Missing), text) == std::end(Missing);
 }
 
 std::string textAt(const OGRFeature &feature, int field)

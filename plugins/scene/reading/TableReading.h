@@ -36,6 +36,13 @@ std::optional<osg::Vec2d> placeOf(const OGRFeature &feature);
 /// and for a number outside `least` .. `most`.
 std::optional<double> numberAt(const OGRFeature &feature, int field, double least, double most);
 
+/// The same with an optional unit: metres, feet, which become metres, or degrees.
+std::optional<double> quantityAt(const OGRFeature &feature, int field, double least, double most);
+
+/// Whether a field has a value: neither an empty text nor one that stands for no value, such as
+/// N/A.
+bool hasValue(const OGRFeature &feature, int field);
+
 /// The text in a field, in UTF-8; empty if there is none.
 std::string textAt(const OGRFeature &feature, int field);
 
