@@ -96,6 +96,7 @@ inline constexpr auto TableTexts = std::to_array<Text>({
     {"MESS_TAB_ENCODING_GUESSED",
      "the file does not declare its encoding: its texts are read as %1"},
     {"MESS_TAB_NO_COORDINATES", "no columns with coordinates were recognised"},
+    {"MESS_TAB_TOTAL_ROW", "a row of sums is left out"},
     {"MESS_TAB_BEHIND_LAST",
      "the row continues after the last column: \"%1\" in column %2 has no header"},
     {"MESS_TAB_MISSING_TEXT",

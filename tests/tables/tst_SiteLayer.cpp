@@ -217,6 +217,17 @@ private Q_SLOTS:
                             (i % 1000 == 500 ? repetition : QByteArray());
             row(name, repeated, 3000);
         }
+        const QByteArray data = "a;2.5;48;n\nb;2.5;48;n\n";
+        row("a row of sums at the end", header + data + "Total:;;;12\n", 2);
+        row("a count, sums and means before a blank row",
+            header + data + "Total sites;;;2\nAverage;2.5;48;\n;;;\nc;2.5;48;n\n", 3);
+        row("a site whose name is a word for sums", header + data + "Total;2.5;48;n\n", 3);
+        row("a site whose name begins so", header + data + "Total Nord;2.5;48;\n", 3);
+        row("such a row among others", header + "a;1;2;n\nTotal;2.5;48;\n" + data, 4);
+        QByteArray large = header;
+        for (int i = 0; i < 5000; ++i)
+            large += QByteArray::number(i) + ";2.5;48;name\n";
+        row("sums below a large table", large + "Summe;;;5000\n", 5000);
         row("a row with nothing but an unnamed column", "Site ID;X;Y;\n1;2;3;a\n2;3;4;b\n;;;c\n",
             2);
         const QByteArray ml =

@@ -32,6 +32,9 @@ public:
     /// From now on, cells() may omit texts of these columns that are stored elsewhere in the file;
     /// null for no columns. A large sheet can then be counted without reading its list of texts.
     virtual void leaveOutTexts(const std::vector<char> *columns) { static_cast<void>(columns); }
+    /// How much the row holds, in a unit of the format: a row with few values is much smaller than
+    /// the others.
+    virtual std::size_t size() const = 0;
     /// Position of this row for Sheet::rowsFrom(); 0 if the format does not support it.
     virtual uint64_t position() const { return 0; }
 };

@@ -1,6 +1,7 @@
 #include "plugins/tables/table/Table.h"
 
 #include "plugins/tables/bytes/Refusal.h"
+#include "plugins/tables/table/TableScan.h"
 
 #include <algorithm>
 #include <map>
@@ -9,11 +10,6 @@ namespace vlt::driver {
 
 namespace {
 
-constexpr uint64_t RowsSampledFirst = 1000;
-constexpr std::size_t SamplesPerColumn = 200;
-constexpr std::size_t SamplesPerTable = 200000; ///< but at least ten of each column
-constexpr uint64_t SampleEvery = 256;           ///< one in 256 of the rows after the first ones
-constexpr uint64_t RowsPerMark = 4096;
 constexpr std::size_t MaxSheetsRead = 64;
 /// A column without a name after the last named one counts if this share of the rows has a value in
 /// it.
@@ -74,57 +70,6 @@ Candidate chooseSheet(Workbook &workbook, const TableHints &hints)
     throw RefusedFile(Refusal::NoHeader, "MESS_TAB_NO_HEADER");
 }
 
-/// Statistics of the columns, and the number of rows that they are based on.
-struct Sample
-{
-    std::vector<ColumnStatistics> columns;
-    std::size_t rows = 0;
-    std::vector<std::vector<std::pair<int, std::string>>> firstRows; ///< columns and texts
-
-    void add(const Row &row)
-    {
-        ++rows;
-        if (!row.cells.empty() &&
-            static_cast<std::size_t>(row.cells.back().column) >= columns.size())
-            columns.resize(static_cast<std::size_t>(row.cells.back().column) + 1);
-        const std::size_t kept = std::clamp<std::size_t>(
-            SamplesPerTable / std::max<std::size_t>(columns.size(), 1), 10, SamplesPerColumn);
-        for (const Cell &cell : row.cells)
-            columns[static_cast<std::size_t>(cell.column)].add(cell, kept);
-        if (firstRows.size() >= kept)
-            return;
-        firstRows.emplace_back();
-        for (const Cell &cell : row.cells)
-            firstRows.back().emplace_back(cell.column, sampleText(cell));
-    }
-
-    /// The texts of the first rows, in the columns that are fields.
-    std::vector<std::vector<std::string>> sampledColumns(const std::vector<Field> &fields) const
-    {
-        std::vector<std::vector<std::string>> texts(fields.size(),
-                                                    std::vector<std::string>(firstRows.size()));
-        for (std::size_t row = 0; row < firstRows.size(); ++row) {
-            std::size_t field = 0;
-            for (const auto &[column, text] : firstRows[row]) {
-                while (field < fields.size() && fields[field].column < column)
-                    ++field;
-                if (field < fields.size() && fields[field].column == column)
-                    texts[field][row] = text;
-            }
-        }
-        return texts;
-    }
-
-    /// The columns that are already known to be texts.
-    std::vector<char> textColumns() const
-    {
-        std::vector<char> text(columns.size());
-        std::transform(columns.begin(), columns.end(), text.begin(),
-                       [](const ColumnStatistics &column) { return column.isText(); });
-        return text;
-    }
-};
-
 /// The name of a column as a field. Some exports mark mandatory columns by an asterisk at the end,
 /// which the SQL of the library would expand to all columns, endlessly because that column is one
 /// of them.
@@ -149,7 +94,7 @@ std::string uniqueName(const std::string &name, std::map<std::string, int> &take
     }
 }
 
-void makeFields(TableProfile &profile, const Sample &sample, const TableHints &hints)
+void makeFields(TableProfile &profile, const TableSample &sample, const TableHints &hints)
 {
     std::map<std::string, int> taken;
     const int lastNamed = profile.header.names.rbegin()->first;
@@ -177,29 +122,6 @@ void makeFields(TableProfile &profile, const Sample &sample, const TableHints &h
     }
     profile.lastColumn = profile.fields.back().column;
     profile.sampledColumns = sample.sampledColumns(profile.fields);
-}
-
-/// Reads all rows once: counts them, marks positions and takes samples.
-void scan(const Sheet &sheet, const std::shared_ptr<TableProfile> &profile, Sample &sample)
-{
-    profile->rowCount = 0;
-    profile->allRowsSampled = true;
-    profile->marks.clear();
-    DataRows rows(sheet, profile);
-    std::vector<char> textColumns;
-    while (rows.advance()) {
-        if (profile->rowCount == RowsSampledFirst) {
-            textColumns = sample.textColumns();
-            rows.leaveOutTexts(&textColumns);
-        }
-        if (profile->rowCount % RowsPerMark == 0 && rows.position() > 0)
-            profile->marks.push_back({rows.rowNumber(), rows.position()});
-        if (profile->rowCount < RowsSampledFirst || profile->rowCount % SampleEvery == 0)
-            sample.add(rows.cells());
-        else
-            profile->allRowsSampled = false;
-        ++profile->rowCount;
-    }
 }
 
 } // namespace
@@ -236,8 +158,8 @@ Table readTable(Workbook &workbook, const TableHints &hints)
     for (bool settled = false; !settled;) {
         profile->header = chosen.header;
         profile->lastColumn = chosen.header.names.rbegin()->first;
-        Sample sample;
-        scan(*chosen.sheet, profile, sample);
+        TableSample sample;
+        scanTable(*chosen.sheet, profile, *hints.vocabulary, sample);
         settled = chosen.sheet->settleEncoding();
         if (!settled) {
             std::size_t widest = 0;
@@ -277,7 +199,9 @@ bool DataRows::isData()
     // here.
     const int lastNamed = m_profile->header.names.rbegin()->first;
     const Header &header = m_profile->header;
-    if (m_rows->rowNumber() <= header.lastRow() || !m_rows->hasContent(lastNamed))
+    if (m_rows->rowNumber() <= header.lastRow() || !m_rows->hasContent(lastNamed) ||
+        std::binary_search(m_profile->leftOutRows.begin(), m_profile->leftOutRows.end(),
+                           m_rows->rowNumber()))
         return false;
     const uint64_t fingerprint = m_rows->fingerprint();
     const auto isRepeated = [&](const HeaderRow &row) {
@@ -287,7 +211,6 @@ bool DataRows::isData()
            !(header.unitRow && isRepeated(*header.unitRow));
 }
 
-/// The cells of the row with the texts of all columns.
 const Row &DataRows::cellsWithTexts()
 {
     m_parsed = m_parsed && !m_leftOut;

@@ -44,7 +44,9 @@ struct TableProfile
     int lastColumn = 0; ///< the last column that is a field
     uint64_t rowCount = 0;
     bool allRowsSampled = true;
-    std::vector<RowMark> marks; ///< every few thousand rows, ascending
+    std::vector<int64_t> leftOutRows; ///< numbers of rows below the header without data, ascending
+    std::vector<int64_t> totalRows;   ///< those of them that hold sums
+    std::vector<RowMark> marks;       ///< every few thousand rows, ascending
     /// The texts of the cells of the first rows, by field and row; empty for empty cells.
     std::vector<std::vector<std::string>> sampledColumns;
 
@@ -81,8 +83,8 @@ Table readTable(Workbook &workbook, const TableHints &hints);
 /// The sheet of a profile, in a workbook that was opened again.
 std::shared_ptr<Sheet> findSheet(Workbook &workbook, const std::string &name);
 
-/// The rows of a table that hold data: those below the header that are not empty and do not repeat
-/// it.
+/// The rows of a table that hold data: those below the header that are not empty, do not repeat it
+/// and are no sums.
 class DataRows
 {
 public:
@@ -102,10 +104,13 @@ public:
     }
     /// The cells of the row, valid until the next row.
     const Row &cells();
+    /// The cells with the texts of all columns.
+    const Row &cellsWithTexts();
+    /// See RowReader::size().
+    std::size_t size() const { return m_rows->size(); }
 
 private:
     bool isData();
-    const Row &cellsWithTexts();
 
     const Sheet *m_sheet;
     std::shared_ptr<const TableProfile> m_profile;

@@ -567,5 +567,9 @@
         <source>%1 rows: %2 sites with %3 transmitters each, grouped by position</source>
         <translation>%1 rows: %2 sites with %3 transmitters each, grouped by position</translation>
     </message>
+    <message id="MESS_TAB_TOTAL_ROW">
+        <source>a row of sums is left out</source>
+        <translation>a row of sums is left out</translation>
+    </message>
 </context>
 </TS>

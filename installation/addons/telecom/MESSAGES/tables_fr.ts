@@ -567,5 +567,9 @@
         <source>%1 rows: %2 sites with %3 transmitters each, grouped by position</source>
         <translation>%1 lignes&#xa0;: %2 sites de %3 émetteurs chacun, groupées par position</translation>
     </message>
+    <message id="MESS_TAB_TOTAL_ROW">
+        <source>a row of sums is left out</source>
+        <translation>une ligne de totaux est laissée de côté</translation>
+    </message>
 </context>
 </TS>

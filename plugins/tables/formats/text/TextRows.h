@@ -25,6 +25,7 @@ public:
     bool hasContent(int lastColumn) override;
     uint64_t fingerprint() override;
     void cells(Row &row) override;
+    std::size_t size() const override { return static_cast<std::size_t>(m_rowEnd - m_row); }
     uint64_t position() const override
     {
         return m_windowPosition + static_cast<uint64_t>(m_row - m_input.begin());

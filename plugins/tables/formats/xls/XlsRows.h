@@ -18,6 +18,7 @@ public:
     bool hasContent(int lastColumn) override;
     uint64_t fingerprint() override;
     void cells(Row &row) override;
+    std::size_t size() const override { return m_cells.size(); }
     void leaveOutTexts(const std::vector<char> *columns) override { m_leftOut = columns; }
 
 private:

@@ -42,6 +42,7 @@ public:
     bool hasContent(int lastColumn) override;
     uint64_t fingerprint() override;
     void cells(Row &row) override;
+    std::size_t size() const override { return m_framer.inside().size(); }
     void leaveOutTexts(const std::vector<char> *columns) override { m_leftOut = columns; }
 
     /// Appends the numbers of the shared strings that this row uses.

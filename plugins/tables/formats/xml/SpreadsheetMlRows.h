@@ -20,6 +20,7 @@ public:
     bool hasContent(int lastColumn) override;
     uint64_t fingerprint() override;
     void cells(Row &row) override;
+    std::size_t size() const override { return m_framer.inside().size(); }
     uint64_t position() const override { return m_framer.position(); }
 
 private:
