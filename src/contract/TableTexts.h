@@ -96,6 +96,10 @@ inline constexpr auto TableTexts = std::to_array<Text>({
     {"MESS_TAB_ENCODING_GUESSED",
      "the file does not declare its encoding: its texts are read as %1"},
     {"MESS_TAB_NO_COORDINATES", "no columns with coordinates were recognised"},
+    {"MESS_TAB_KNOWN_TABLE",
+     "the table has no header: its columns are taken as those of \"%1\" (%2)"},
+    {"MESS_TAB_COLUMNS_BY_VALUES",
+     "the table has no header: its columns are taken by their values (%1)"},
     {"MESS_TAB_TOTAL_ROW", "a row of sums is left out"},
     {"MESS_TAB_BEHIND_LAST",
      "the row continues after the last column: \"%1\" in column %2 has no header"},
@@ -187,6 +191,7 @@ inline constexpr auto TableTexts = std::to_array<Text>({
     {"MESS_TAB_SHAPE_PLACES", "%1 rows: %2 sites with %3 transmitters each, grouped by position"},
 
     // why a column has a role
+    {"MESS_TAB_EVIDENCE_NO_HEADER", "no header; recognised by the values"},
     {"MESS_TAB_EVIDENCE_EMPTY", "header \"%1\"; no values"},
     {"MESS_TAB_EVIDENCE_TEXTS", "header \"%1\"; %2 texts, %3 of them different"},
     {"MESS_TAB_EVIDENCE_WHOLE", "header \"%1\"; %2 whole numbers from %3 to %4"},

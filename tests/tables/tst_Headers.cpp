@@ -3,6 +3,15 @@
 
 #include <QtTest>
 
+namespace {
+
+constexpr char Layout[] = R"({"layouts": [{"name": "inventory", "kind": "sites",
+    "columns": ["siteId", "siteName", null, "longitude", "latitude", "azimuth"],
+    "tests": {"1": {"words": ["MAST", "Tower"]}, "3": {"min": -180, "max": 180},
+              "4": {"min": -90, "max": 90}, "5": {"min": 0, "max": 360, "whole": true}}}]})";
+
+} // namespace
+
 /// The rows of a table that name its columns, and those that are no data.
 class tst_Headers : public QObject
 {
@@ -11,8 +20,10 @@ class tst_Headers : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        GDALAllRegister();
         QVERIFY(m_folder.isValid());
+        m_folder.write("words.json", Layout);
+        qputenv("VLT_TABLE_VOCABULARY", m_folder.path("words.json"));
+        GDALAllRegister();
     }
 
     void joinsTheRowsOfAHeader_data()
@@ -112,6 +123,45 @@ private Q_SLOTS:
         QCOMPARE(layer->GetFeatureCount(), features);
         const OGRFeatureUniquePtr feature{layer->GetNextFeature()};
         QCOMPARE(feature->GetFieldAsDouble("Transmitter-1 Height (m)"), height);
+    }
+
+    void knowsTablesWithoutAHeader_data()
+    {
+        const Cases<QByteArray, QString, QByteArray> row({"text", "names", "prefix"});
+        const QByteArray inventory = "A1;Mast;x;2;48;90\nA2;Mast;y;3;48;180\n";
+        row("a layout of the user", inventory,
+            "Site ID|Site Name|Column 3|Longitude|Latitude|Azimuth");
+        row("cells without a value",
+            inventory + "A3;Mast;;;n/a;0\n" + QByteArray("A4;Mast;y;3;48;180\n").repeated(8),
+            "Site ID|Site Name|Column 3|Longitude|Latitude|Azimuth");
+        row("too many cells without a value", inventory + "A3;Mast;;;;0\n", "");
+        row("a value out of range", inventory + "A3;Mast;y;3;48;400\n", "");
+        row("a fraction", inventory + "A3;Mast;y;3;48;40.5\n", "");
+        row("another word", inventory + "A3;Pole;y;3;48;40\n", "");
+        row("a column too many", inventory + "A3;Mast;y;3;48;40;1\n", "");
+        row("links", inventory, "", "link:");
+    }
+    void knowsTablesWithoutAHeader()
+    {
+        QFETCH(QByteArray, text);
+        QFETCH(QString, names);
+        QFETCH(QByteArray, prefix);
+        m_folder.write("t.csv", text);
+        const Warnings warnings;
+        const GDALDatasetUniquePtr dataset =
+            m_folder.open(prefix.isEmpty() ? "site:" : prefix, "t.csv");
+        QCOMPARE(dataset != nullptr, !names.isEmpty());
+        if (!dataset)
+            return;
+        OGRLayer *layer = dataset->GetLayer(0);
+        QCOMPARE(QString::fromUtf8(layer->GetMetadataItem("header_rows")), QString());
+        const QStringList found = fieldNames(*layer);
+        QCOMPARE(found.mid(found.size() - names.count(u'|') - 1).join(u'|'), names);
+        QCOMPARE(OGRFeatureUniquePtr(layer->GetNextFeature())->GetFID(),
+                 1); // the first row is data
+        QVERIFY(problemsOf(*layer).contains(QLatin1String(
+            "PROBLEM_1=||Warning|the table has no header: its columns are taken as those of "
+            "\"inventory\" (1 Site ID, 2 Site Name, 4 Longitude, 5 Latitude, 6 Azimuth)")));
     }
 
 private:

@@ -334,6 +334,8 @@ ProblemList TableLayer::fileProblems() const
     if (facts().table.encoding.isGuess)
         problems.add(
             {0, {}, false, formatted("MESS_TAB_ENCODING_GUESSED", {facts().table.encoding.name})});
+    if (const std::string &absence = facts().table.header.absence; !absence.empty())
+        problems.add({0, {}, false, absence});
     for (const int64_t row : facts().table.totalRows)
         problems.add({row, {}, false, formatted("MESS_TAB_TOTAL_ROW")});
     std::vector<RowProblem> ofHeader;

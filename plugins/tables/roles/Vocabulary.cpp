@@ -85,6 +85,38 @@ const Json *memberOf(const Json &object, const char *name)
     return found == object.end() ? nullptr : &*found;
 }
 
+ValueTest valueTestOf(const Json &test)
+{
+    ValueTest read;
+    const auto number = [&test](const char *name) {
+        const Json *found = memberOf(test, name);
+        return found ? std::optional(found->get<double>()) : std::nullopt;
+    };
+    read.minimum = number("min");
+    read.maximum = number("max");
+    const Json *whole = memberOf(test, "whole");
+    read.isWhole = whole && whole->get<bool>();
+    if (const Json *words = memberOf(test, "words"))
+        forEachText(*words, [&read](const std::string &word) { read.words.insert(folded(word)); });
+    return read;
+}
+
+/// Throws Json::exception or std::invalid_argument if the layout is not one.
+KnownTable knownTableOf(const Json &layout)
+{
+    KnownTable table;
+    table.name = layout.at("name").get<std::string>();
+    table.holdsLinks = layout.at("kind").get<std::string>() == "links";
+    for (const Json &column : layout.at("columns"))
+        table.columns.push_back(column.is_null() ? std::string() : column.get<std::string>());
+    const Json *tests = memberOf(layout, "tests");
+    if (!tests || tests->empty()) // any table of that width would do
+        throw std::invalid_argument("the layout \"" + table.name + "\" has no tests");
+    for (const auto &[column, test] : tests->items())
+        table.tests.emplace(std::stoul(column), valueTestOf(test));
+    return table;
+}
+
 } // namespace
 
 /// Changes the meaning of a phrase, whose words need not be separated.
@@ -186,6 +218,12 @@ void Vocabulary::add(std::string_view text)
     addFolded("missing", m_missing);
     addFolded("total", m_totals);
     addFolded("omni", m_omni);
+    try {
+        for (const Json &layout : section("layouts"))
+            m_knownTables.push_back(knownTableOf(layout));
+    } catch (const std::exception &error) { // of the library too, whose texts name the member
+        throw std::invalid_argument(std::string("layouts: ") + error.what());
+    }
 }
 
 const WordMeaning *Vocabulary::find(std::string_view joinedWords) const

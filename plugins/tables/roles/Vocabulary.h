@@ -37,6 +37,26 @@ struct WordMeaning
     bool isUnit() const { return metres || megahertz || degrees; }
 };
 
+/// What every value of a column must be.
+struct ValueTest
+{
+    std::optional<double> minimum;
+    std::optional<double> maximum;
+    bool isWhole = false;
+    std::unordered_set<std::string> words; ///< folded; empty if the values are no words
+};
+
+/// A known table without a header.
+struct KnownTable
+{
+    std::string name;
+    bool holdsLinks = false;
+    /// The roles of the columns, with the part of a coordinate and the end of a link: latDegrees,
+    /// groundHeightA; empty for a column that is not used.
+    std::vector<std::string> columns;
+    std::map<std::size_t, ValueTest> tests; ///< by column
+};
+
 /// The words by which columns and values of tables are recognised. They are data, not code: the
 /// installation has a file of them, and a user may add one of his own.
 class Vocabulary
@@ -59,6 +79,9 @@ public:
     /// Whether a text in a column of azimuths means all directions.
     bool isOmni(std::string_view text) const { return isIn(m_omni, text); }
 
+    /// The tables that are known without a header, those of the user last.
+    const std::vector<KnownTable> &knownTables() const { return m_knownTables; }
+
     /// The sign of longitudes with the letter O, in the languages to which the most column names
     /// belong: -1 for west, 1 for east, 0 if these languages differ or have no such letter.
     ///
@@ -76,6 +99,7 @@ private:
     void addLanguages(const nlohmann::json &roles, const nlohmann::json &hemispheres);
 
     Phrases m_phrases;
+    std::vector<KnownTable> m_knownTables;
     std::map<Role, std::unordered_set<std::string>> m_forbidden;
     std::unordered_set<std::string> m_missing; ///< folded
     std::unordered_set<std::string> m_totals;

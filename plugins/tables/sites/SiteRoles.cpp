@@ -1,5 +1,6 @@
 #include "plugins/tables/sites/SiteRoles.h"
 
+#include "contract/TableTexts.h"
 #include "plugins/tables/cells/Cell.h"
 #include "plugins/tables/roles/NameMatch.h"
 #include "plugins/tables/roles/RoleEvidence.h"
@@ -246,7 +247,9 @@ private:
                   [](const ColumnRole &a, const ColumnRole &b) { return a.field < b.field; });
         for (ColumnRole &column : m_roles.columns)
             column.evidence =
-                roleEvidence(m_table.nameInHeader(column.field), factsOfField(column.field));
+                m_table.header.rows.empty()
+                    ? contract::formatted("MESS_TAB_EVIDENCE_NO_HEADER")
+                    : roleEvidence(m_table.nameInHeader(column.field), factsOfField(column.field));
     }
 
     /// Adds the columns of the position to the list of roles.

@@ -1,6 +1,7 @@
 #include "plugins/tables/table/Header.h"
 
 #include "plugins/tables/roles/NameMatch.h"
+#include "plugins/tables/table/FirstRows.h"
 #include "plugins/tables/table/HeaderBlock.h"
 #include "plugins/tables/table/HeaderWords.h"
 
@@ -63,6 +64,7 @@ public:
 
     void add(const Row &row, uint64_t fingerprint)
     {
+        m_firstRows.add(row);
         const HeaderRow read = readHeaderRow(row, fingerprint);
         for (std::optional<Candidate> *candidate : {&m_best, &m_firstWide}) {
             if (*candidate && (*candidate)->below.size() < RowsBelowNames)
@@ -86,6 +88,8 @@ public:
 
     std::optional<Header> header()
     {
+        if (auto known = m_firstRows.columnsOfKnownTable(m_kind, m_vocabulary))
+            return headerless(std::move(*known));
         const bool isNamed = m_best || (m_firstWide && m_firstWide->row.values.empty());
         if (!isNamed)
             return std::nullopt;
@@ -118,6 +122,16 @@ private:
         std::size_t titleCount = 0; ///< titles in the rows above
     };
 
+    static Header headerless(ColumnsByValues columns)
+    {
+        Header header;
+        header.names = std::move(columns.names);
+        header.wordCount = MinWords;
+        header.absence = std::move(columns.evidence);
+        header.hasRowsBelow = true;
+        return header;
+    }
+
     void addTitles(const Row &row)
     {
         for (const Cell &cell : row.cells) {
@@ -131,6 +145,7 @@ private:
     std::optional<Candidate> m_best;
     std::optional<Candidate> m_firstWide; ///< the first row with at least two cells
     std::vector<std::string> m_titles;
+    FirstRows m_firstRows;
     std::vector<HeaderRow> m_above; ///< the last rows before the next one
 };
 

@@ -134,6 +134,8 @@ std::string TableProfile::nameInHeader(int field) const
 
 std::string TableProfile::nameInGroup(int field) const
 {
+    if (header.rows.empty())
+        return nameInHeader(field);
     const std::map<int, std::string> &lowest = header.rows.back().texts;
     const auto named = lowest.find(fields[static_cast<std::size_t>(field)].column);
     return named == lowest.end() ? nameInHeader(field) : named->second;

@@ -571,5 +571,17 @@
         <source>a row of sums is left out</source>
         <translation>a row of sums is left out</translation>
     </message>
+    <message id="MESS_TAB_KNOWN_TABLE">
+        <source>the table has no header: its columns are taken as those of "%1" (%2)</source>
+        <translation>the table has no header: its columns are taken as those of "%1" (%2)</translation>
+    </message>
+    <message id="MESS_TAB_COLUMNS_BY_VALUES">
+        <source>the table has no header: its columns are taken by their values (%1)</source>
+        <translation>the table has no header: its columns are taken by their values (%1)</translation>
+    </message>
+    <message id="MESS_TAB_EVIDENCE_NO_HEADER">
+        <source>no header; recognised by the values</source>
+        <translation>no header; recognised by the values</translation>
+    </message>
 </context>
 </TS>

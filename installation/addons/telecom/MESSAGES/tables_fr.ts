@@ -571,5 +571,17 @@
         <source>a row of sums is left out</source>
         <translation>une ligne de totaux est laissée de côté</translation>
     </message>
+    <message id="MESS_TAB_KNOWN_TABLE">
+        <source>the table has no header: its columns are taken as those of "%1" (%2)</source>
+        <translation>le tableau n'a pas d'en-tête&#xa0;: ses colonnes sont prises pour celles de «&#xa0;%1&#xa0;» (%2)</translation>
+    </message>
+    <message id="MESS_TAB_COLUMNS_BY_VALUES">
+        <source>the table has no header: its columns are taken by their values (%1)</source>
+        <translation>le tableau n'a pas d'en-tête&#xa0;: ses colonnes sont reconnues à leurs valeurs (%1)</translation>
+    </message>
+    <message id="MESS_TAB_EVIDENCE_NO_HEADER">
+        <source>no header; recognised by the values</source>
+        <translation>pas d'en-tête&#xa0;; reconnue à ses valeurs</translation>
+    </message>
 </context>
 </TS>
