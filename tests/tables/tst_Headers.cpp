@@ -164,6 +164,65 @@ private Q_SLOTS:
             "\"inventory\" (1 Site ID, 2 Site Name, 4 Longitude, 5 Latitude, 6 Azimuth)")));
     }
 
+    void namesColumnsByTheirValues_data()
+    {
+        const Cases<QByteArray, QString> row({"text", "names"});
+        row("latitude first, codes and names",
+            "W1;Square;48.26134;14.33007;on\nW2;Hill;48.24042;14.23658;on\n"
+            "W3;Farm;48.2;14.18377;on\nW4;Road;48.36939;14.13525;on\nW5;Gate;48.25866;14.21;on\n",
+            "Site ID|Site Name|Latitude|Longitude|Column 5");
+        row("longitude first where the reverse cannot be",
+            "Taipei 1;121.56542;25.03301\nTaipei 2;121.51702;25.04784\n"
+            "Taipei 3;121.54378;25.05213\n",
+            "Site Name|Longitude|Latitude");
+        row("directions, heights beside them, other numbers",
+            "A;48.26134;14.33007;0;30;700\nA;48.26134;14.33007;120;30;701\n"
+            "B;48.24042;14.23658;240;25;702\nB;48.24042;14.23658;355;25;703\n",
+            "Site Name|Latitude|Longitude|Azimuth|Antenna Height|Column 6");
+        row("two columns that may be directions",
+            "A;48.26134;14.33007;0;300\nA;48.26134;14.33007;120;200\n"
+            "B;48.24042;14.23658;240;100\n",
+            "Site Name|Latitude|Longitude|Column 4|Column 5");
+        row("numbers alone with all decimals",
+            "48.261341;14.330072\n48.240422;14.236585\n48.230973;14.183774\n",
+            "Latitude|Longitude");
+        row("degrees and minutes",
+            "A;14\u00B019'48\"E;48\u00B015'40\"N\nB;14\u00B014'11\"E;48\u00B014'25\"N\n"
+            "C;14\u00B011'02\"E;48\u00B013'51\"N\n",
+            "Site Name|Longitude|Latitude");
+        row("both in one cell",
+            "48.26134 14.33007;A;1\n48.24042 14.23658;B;2\n48.23097 14.18377;C;3\n",
+            "Coordinates|Site Name|Column 3");
+        row("names that no one knows",
+            "foo;bar;baz\nA;48.26134;14.33007\nB;48.24042;14.23658\nC;48.23097;14.18377\n",
+            "foo|bar|baz");
+
+        row("two rows only", "A;48.26134;14.33007\nB;48.24042;14.23658\n");
+        row("a matrix", "A;48.26134;14.33007;3.12345\nB;48.24042;14.23658;4.54321\n"
+                        "C;48.23097;14.18377;5.43215\n");
+        row("shares", "A;0.26134;0.33007\nB;0.24042;0.23658\nC;0.23097;0.18377\n");
+        row("numbers around zero", "A;-5.26134;9.33007\nB;2.24042;-7.23658\nC;0.5555;1.18377\n");
+        row("scattered numbers", "A;1.26134;9.33007\nB;62.24042;99.23658\nC;3.23097;170.18377\n");
+        row("numbers alone with few decimals",
+            "48.2613;14.3300\n48.2404;14.2365\n48.2309;14.1837\n");
+        row("columns apart", "48.26134;A;14.33007\n48.24042;B;14.23658\n48.23097;C;14.18377\n");
+        row("the same value in all rows",
+            "A;48.26134;14.33007\nB;48.26134;14.23658\nC;48.26134;14.18377\n");
+    }
+    void namesColumnsByTheirValues()
+    {
+        QFETCH(QByteArray, text);
+        QFETCH(QString, names);
+        m_folder.write("t.csv", text);
+        const Warnings warnings;
+        const GDALDatasetUniquePtr dataset = m_folder.open("site:", "t.csv");
+        QCOMPARE(dataset != nullptr, !names.isEmpty());
+        if (!dataset)
+            return;
+        const QStringList found = fieldNames(*dataset->GetLayer(0));
+        QCOMPARE(found.mid(found.size() - names.count(u'|') - 1).join(u'|'), names);
+    }
+
 private:
     static QStringList fieldNames(OGRLayer &layer)
     {

@@ -4,6 +4,7 @@
 #include "plugins/tables/cells/Numbers.h"
 #include "plugins/tables/roles/NameWords.h"
 #include "plugins/tables/table/ColumnStatistics.h"
+#include "plugins/tables/table/SitesByValues.h"
 
 #include <algorithm>
 #include <cmath>
@@ -114,6 +115,18 @@ std::optional<ColumnsByValues> FirstRows::columnsOfKnownTable(contract::TableKin
         columns.names[static_cast<int>(i)] = columnName(found->columns[i]);
     columns.evidence =
         contract::formatted("MESS_TAB_KNOWN_TABLE", {found->name, listOf(columns.names)});
+    return columns;
+}
+
+std::optional<ColumnsByValues> FirstRows::columnsOfSites(const Vocabulary &vocabulary) const
+{
+    if (m_lastColumn >= static_cast<int>(MaxColumnsKept))
+        return std::nullopt;
+    ColumnsByValues columns;
+    columns.names = siteColumnsByValues(m_columns, vocabulary);
+    if (columns.names.empty())
+        return std::nullopt;
+    columns.evidence = contract::formatted("MESS_TAB_COLUMNS_BY_VALUES", {listOf(columns.names)});
     return columns;
 }
 

@@ -31,6 +31,8 @@ public:
     /// pass; nothing if there is none.
     std::optional<ColumnsByValues> columnsOfKnownTable(contract::TableKind kind,
                                                        const Vocabulary &vocabulary) const;
+    /// The columns of a table of sites that the values show; nothing unless they hold a position.
+    std::optional<ColumnsByValues> columnsOfSites(const Vocabulary &vocabulary) const;
 
 private:
     std::vector<std::vector<std::string>> m_columns; ///< texts by column and row; empty for none

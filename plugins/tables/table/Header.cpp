@@ -90,6 +90,10 @@ public:
     {
         if (auto known = m_firstRows.columnsOfKnownTable(m_kind, m_vocabulary))
             return headerless(std::move(*known));
+        if (m_kind == TableKind::Sites && !m_best) {
+            if (auto sites = m_firstRows.columnsOfSites(m_vocabulary))
+                return headerless(std::move(*sites));
+        }
         const bool isNamed = m_best || (m_firstWide && m_firstWide->row.values.empty());
         if (!isNamed)
             return std::nullopt;

@@ -25,9 +25,18 @@ std::string nameOf(const Cell &cell)
     return name;
 }
 
+/// Whether a degree sign follows a digit, as in a coordinate and unlike in "Azimuth (\u00B0)".
+bool holdsDegrees(std::string_view text)
+{
+    const std::size_t sign = text.find("\u00B0");
+    return sign != std::string_view::npos && sign > 0 && text[sign - 1] >= '0' &&
+           text[sign - 1] <= '9';
+}
+
 bool isValue(const Cell &cell)
 {
-    return cell.kind != Cell::Kind::Text || numberShape(trimmed(cell.text)).isNumber;
+    const std::string_view text = trimmed(cell.text);
+    return cell.kind != Cell::Kind::Text || numberShape(text).isNumber || holdsDegrees(text);
 }
 
 } // namespace
