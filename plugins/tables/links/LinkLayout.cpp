@@ -245,8 +245,9 @@ std::string findFormat(const TableProfile &table, bool numbered)
 
 QuantityField quantityField(int field, UnitOf unitOf, const std::vector<Field> &fields)
 {
-    return {field, field < 0 ? std::nullopt
-                             : unitInName(nameWithUnit(fields[static_cast<std::size_t>(field)]), unitOf)};
+    return {field, field < 0
+                       ? std::nullopt
+                       : unitInName(nameWithUnit(fields[static_cast<std::size_t>(field)]), unitOf)};
 }
 
 LinkEndFields endFields(const Names &names, LinkEndId end, const PointFields &point,

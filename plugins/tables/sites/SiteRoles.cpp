@@ -228,6 +228,13 @@ private:
         });
     }
 
+    std::string evidenceOf(int field)
+    {
+        return m_table.header.rows.empty()
+                   ? contract::formatted("MESS_TAB_EVIDENCE_NO_HEADER")
+                   : roleEvidence(m_table.nameInHeader(field), factsOfField(field));
+    }
+
     /// Gives each field one role, and each role of the site or of a transmitter one field: the
     /// strongest candidates first, then the columns on the left.
     void assign()
@@ -246,10 +253,7 @@ private:
         std::sort(m_roles.columns.begin(), m_roles.columns.end(),
                   [](const ColumnRole &a, const ColumnRole &b) { return a.field < b.field; });
         for (ColumnRole &column : m_roles.columns)
-            column.evidence =
-                m_table.header.rows.empty()
-                    ? contract::formatted("MESS_TAB_EVIDENCE_NO_HEADER")
-                    : roleEvidence(m_table.nameInHeader(column.field), factsOfField(column.field));
+            column.evidence = evidenceOf(column.field);
     }
 
     /// Adds the columns of the position to the list of roles.
@@ -258,8 +262,7 @@ private:
         std::vector<ColumnRole> columns;
         const auto add = [&](int field, Role role) {
             if (field >= 0)
-                columns.push_back({field, role, -1,
-                                   roleEvidence(m_table.nameInHeader(field), factsOfField(field))});
+                columns.push_back({field, role, -1, evidenceOf(field)});
         };
         for (const auto &[fields, role] :
              {std::pair(m_point.x, Role::X), std::pair(m_point.y, Role::Y)}) {
