@@ -61,6 +61,12 @@ private Q_SLOTS:
             "Link|Near end Longitude|Near end Latitude|Far end Longitude|Far end Latitude|"
             "Path Length (km)",
             1, "link:");
+        row("the same names in other words, then units",
+            "SITE_ID;NAME;LAT;LON;AZ\nIdentifier of the site;Name;Latitude;Longitude;Azimuth\n"
+            ";;deg;deg;deg\na;Mast;48;2;0\nb;Pole;48;3;0\n",
+            "1", "SITE_ID|NAME|LAT|LON|AZ", 2);
+        row("a site without values", "Site;X;Y;Azimuth\nMast;N/A;N/A;N/A\na;1;2;3\n", "1",
+            "Site|X|Y|Azimuth", 2);
         row("a title of two cells", "Network north;;;Edition 7\nSite;X;Y;Azimuth\na;1;2;3\n", "2",
             "Site|X|Y|Azimuth", 1);
         row("a title beside equal names", "Network north;;;\nname;X;Y;name\na;1;2;b\n", "2",

@@ -103,7 +103,7 @@ public:
         header.row = found.row.number;
         header.names = std::move(block.names);
         header.rows = std::move(block.rows);
-        header.unitRow = std::move(block.unitRow);
+        header.furtherRows = std::move(block.furtherRows);
         header.units = std::move(block.units);
         m_titles.resize(found.titleCount);
         header.titles = std::move(m_titles);

@@ -19,7 +19,7 @@ struct Header
         0; ///< number in the file, from 1: the one with the names of most columns; 0 without one
     std::vector<HeaderRow>
         rows; ///< those that name the columns, from the top; none without a header
-    std::optional<HeaderRow> unitRow; ///< the row below them, if it holds their units
+    std::vector<HeaderRow> furtherRows; ///< below them: the same names in other words, units
     /// By column; trimmed, with spaces for line breaks, cut if too long.
     std::map<int, std::string> names;
     std::map<int, std::string> units; ///< by column, as far as the vocabulary knows them
@@ -34,7 +34,9 @@ struct Header
     /// Number of the last row of the header in the file; the data begin below it.
     int64_t lastRow() const
     {
-        return unitRow ? unitRow->number : rows.empty() ? 0 : rows.back().number;
+        return !furtherRows.empty() ? furtherRows.back().number
+               : rows.empty()       ? 0
+                                    : rows.back().number;
     }
 };
 

@@ -189,6 +189,32 @@ Texts joinedNames(const std::vector<HeaderRow> &rows)
     return names;
 }
 
+/// Whether a row has names again, in other words or another language: in columns that hold values
+/// in the rows below, most of its texts are names of roles.
+bool isOtherNames(const HeaderRow &row, const HeaderRow *below, const HeaderRow *end,
+                  const Vocabulary &vocabulary)
+{
+    constexpr int MinStrength = 45; // a sentence has less
+    constexpr std::size_t MinColumns = 2;
+    std::size_t overValues = 0;
+    std::size_t named = 0;
+    for (const auto &[column, text] : row.texts) {
+        const auto isValueIn = [at = column](const HeaderRow &other) {
+            return other.values.contains(at);
+        };
+        if (vocabulary.isMissing(text)) // N and A have a meaning each
+            return false;
+        if (!std::any_of(below, end, isValueIn))
+            continue;
+        ++overValues;
+        const std::vector<NameMatch> matches =
+            matchName(separatedWords(text, vocabulary), vocabulary);
+        named += std::any_of(matches.begin(), matches.end(),
+                             [](const NameMatch &match) { return match.strength >= MinStrength; });
+    }
+    return row.values.empty() && named >= MinColumns && named * 2 > overValues;
+}
+
 /// Whether a text is a unit, in brackets or not: "[m]", "(ft AGL)", "\u00B0". Its first word
 /// decides.
 bool isUnit(const std::string &text, const Vocabulary &vocabulary)
@@ -239,14 +265,15 @@ HeaderBlock joinHeader(const std::vector<HeaderRow> &above, const HeaderRow &row
         block.rows.insert(block.rows.begin(), *before);
     }
     block.names = joinedNames(block.rows);
-    const auto next = std::find_if(below.begin(), below.end(), [&block](const HeaderRow &other) {
+    const HeaderRow *next = std::find_if(below.data(), end, [&block](const HeaderRow &other) {
         return other.number > block.rows.back().number;
     });
-    if (next == below.end())
-        return block;
-    block.units = unitsIn(*next, vocabulary);
+    if (next != end && isOtherNames(*next, next + 1, end, vocabulary))
+        block.furtherRows.push_back(*next++);
+    if (next != end)
+        block.units = unitsIn(*next, vocabulary);
     if (!block.units.empty())
-        block.unitRow = *next;
+        block.furtherRows.push_back(*next);
     return block;
 }
 

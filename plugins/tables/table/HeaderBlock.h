@@ -4,7 +4,6 @@
 #include "plugins/tables/table/HeaderRow.h"
 
 #include <map>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -21,8 +20,8 @@ struct HeaderBlock
     std::vector<HeaderRow> rows; ///< from the top
     /// By column: the texts of its rows, such as "Sector 1 Azimuth" for a group over two columns.
     std::map<int, std::string> names;
-    std::optional<HeaderRow> unitRow; ///< directly below
-    std::map<int, std::string> units; ///< by column
+    std::vector<HeaderRow> furtherRows; ///< below: the same names in other words, units
+    std::map<int, std::string> units;   ///< by column
 };
 
 /// Joins the row with the most names to the rows of groups above it and to those of names and of

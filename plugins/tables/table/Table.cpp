@@ -210,7 +210,7 @@ bool DataRows::isData()
         return row.fingerprint == fingerprint && repeats(cellsWithTexts(), row);
     };
     return std::none_of(header.rows.begin(), header.rows.end(), isRepeated) &&
-           !(header.unitRow && isRepeated(*header.unitRow));
+           std::none_of(header.furtherRows.begin(), header.furtherRows.end(), isRepeated);
 }
 
 const Row &DataRows::cellsWithTexts()
