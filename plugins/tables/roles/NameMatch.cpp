@@ -94,12 +94,19 @@ public:
         return -1;
     }
 
+    /// The part of a coordinate that a word or two words say: "deg", "E/W".
     CoordinatePart takePart()
     {
-        for (std::size_t at = 0; at < m_words.size(); ++at) {
-            const WordMeaning *meaning = m_isTaken[at] ? nullptr : m_vocabulary.find(m_words[at]);
-            if (meaning && meaning->part) {
-                m_isTaken[at] = true;
+        for (std::size_t first = 0; first < m_words.size(); ++first) {
+            std::string joined;
+            for (std::size_t at = first; at < m_words.size() && at < first + 2 && !m_isTaken[at];
+                 ++at) {
+                joined += m_words[at];
+                const WordMeaning *meaning = m_vocabulary.find(joined);
+                if (!meaning || !meaning->part)
+                    continue;
+                std::fill(m_isTaken.begin() + static_cast<std::ptrdiff_t>(first),
+                          m_isTaken.begin() + static_cast<std::ptrdiff_t>(at + 1), true);
                 return *meaning->part;
             }
         }

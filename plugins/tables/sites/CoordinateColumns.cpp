@@ -85,7 +85,17 @@ std::optional<Axis> axisOfHemispheres(const Words &words)
                             : std::nullopt;
 }
 
-std::vector<CoordinateName> readNames(const FieldWords &words, const Vocabulary &vocabulary)
+/// Whether all samples are hemispheres of an axis: letters, or words that start with them.
+bool holdsHemispheres(const Field &field, Axis axis)
+{
+    return !field.samples.empty() &&
+           std::all_of(field.samples.begin(), field.samples.end(), [&](const std::string &text) {
+               return !readHemisphere(text, axis, LetterO::West).fault;
+           });
+}
+
+std::vector<CoordinateName> readNames(const FieldWords &words, const std::vector<Field> &fields,
+                                      const Vocabulary &vocabulary)
 {
     std::vector<CoordinateName> names(words.size());
     for (std::size_t i = 0; i < words.size(); ++i) {
@@ -95,6 +105,10 @@ std::vector<CoordinateName> readNames(const FieldWords &words, const Vocabulary 
             names[i] = {Family::Bare, *axis, CoordinatePart::Hemisphere, 1, {}};
         else
             names[i] = readName(*words[i], vocabulary);
+        // "ns1:longitude" is no column of hemispheres
+        if (names[i].part == CoordinatePart::Hemisphere &&
+            !holdsHemispheres(fields[i], names[i].axis))
+            names[i].part = CoordinatePart::Whole;
     }
     return names;
 }
@@ -216,15 +230,6 @@ std::pair<int, int> bestPosition(const std::vector<CoordinateName> &names,
     return best;
 }
 
-/// Whether all samples are hemispheres of an axis: letters, or words that start with them.
-bool holdsHemispheres(const Field &field, Axis axis)
-{
-    return !field.samples.empty() &&
-           std::all_of(field.samples.begin(), field.samples.end(), [&](const std::string &text) {
-               return !readHemisphere(text, axis, LetterO::West).fault;
-           });
-}
-
 CoordinateFields coordinateFields(const std::vector<CoordinateName> &names,
                                   const std::vector<Field> &table, int value)
 {
@@ -297,7 +302,7 @@ PointFields findPoint(const FieldWords &words, const std::vector<Field> &fields,
 {
     PointFields point;
     const LetterO otherwise = letterOOf(words, vocabulary);
-    const std::vector<CoordinateName> names = readNames(words, vocabulary);
+    const std::vector<CoordinateName> names = readNames(words, fields, vocabulary);
     const auto [x, y] = bestPosition(names, fields);
     if (x >= 0) {
         point.x = coordinateFields(names, fields, x);

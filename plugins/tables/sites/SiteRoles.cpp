@@ -320,6 +320,7 @@ private:
         const TransmitterFields shared = common->second;
         transmitters.erase(common);
         for (auto &[number, fields] : transmitters) {
+            fields.sharesHeight = !fields.height.found();
             for (QuantityField TransmitterFields::*member :
                  {&TransmitterFields::height, &TransmitterFields::mechanicalTilt,
                   &TransmitterFields::electricalTilt, &TransmitterFields::beamWidth,
@@ -362,6 +363,9 @@ private:
             break;
         case Role::Band:
             fields.band = column.field;
+            if (const QuantityField band = quantity(column.field, &WordMeaning::megahertz);
+                band.unit && !fields.frequency.found())
+                fields.frequency = band; // "Band (MHz)"
             break;
         case Role::Technology:
             fields.technology = column.field;

@@ -16,7 +16,8 @@ struct TransmitterFields
     int number = 0; ///< in the names of its columns
     int sectorId = -1;
     QuantityField height;
-    QuantityField azimuth; ///< unit in degrees
+    bool sharesHeight = false; ///< the column of heights holds for all transmitters
+    QuantityField azimuth;     ///< unit in degrees
     QuantityField mechanicalTilt;
     QuantityField electricalTilt;
     QuantityField beamWidth;

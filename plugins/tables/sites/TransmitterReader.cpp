@@ -54,9 +54,9 @@ public:
             number(fields.electricalTilt, readTiltDeg, "MESS_TAB_SECTOR_TILT");
         if (!isUsable || !m_isUsable)
             return std::nullopt;
-        const bool isEmpty = !values.heightM && !values.azimuthDeg && !values.mechanicalTiltDeg &&
-                             !values.electricalTiltDeg && !values.beamWidthDeg && !m_isOmni &&
-                             text(fields.sectorId).empty();
+        const bool isEmpty = (!values.heightM || fields.sharesHeight) && !values.azimuthDeg &&
+                             !values.mechanicalTiltDeg && !values.electricalTiltDeg &&
+                             !values.beamWidthDeg && !m_isOmni && text(fields.sectorId).empty();
         if (isEmpty)
             return std::nullopt;
         if (values.azimuthDeg && (m_isOmni || values.beamWidthDeg == WholeTurnDeg))
