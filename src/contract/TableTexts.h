@@ -198,6 +198,56 @@ inline constexpr auto TableTexts = std::to_array<Text>({
     {"MESS_TAB_EVIDENCE_NUMBERS", "header \"%1\"; %2 numbers from %3 to %4"},
     {"MESS_TAB_EVIDENCE_LISTS", "header \"%1\"; %2 lists of numbers from %3 to %4"},
 
+    // positions of a table as a whole
+    {"MESS_TAB_DOCTOR_SWAPPED_GLOBE", "longitude and latitude seem to be exchanged: %1 of %2 "
+                                      "latitudes lie beyond 90 degrees"},
+    {"MESS_TAB_DOCTOR_SWAPPED",
+     "the coordinates seem to be exchanged: in the other order, %1 of "
+     "%2 positions lie in %3",
+     {ValueKind::Count, ValueKind::Count, ValueKind::Nested}},
+    {"MESS_TAB_DOCTOR_SWAPPED_ROWS", "coordinates seem to be exchanged in some rows: in the other "
+                                     "order, %1 of %2 positions lie among the others (rows: %3)"},
+    {"MESS_TAB_DOCTOR_SIGN",
+     "a sign seems to be lost in %1: with the opposite one, %2 of %3 "
+     "positions lie in %4",
+     {ValueKind::Nested, ValueKind::Count, ValueKind::Count, ValueKind::Nested}},
+    {"MESS_TAB_DOCTOR_SIGN_ROWS",
+     "a sign seems to be lost in some rows of %1: with the opposite "
+     "one, %2 of %3 positions lie among the others (rows: %4)",
+     {ValueKind::Nested}},
+    {"MESS_TAB_DOCTOR_DECIMAL",
+     "the decimal mark seems to be misplaced in %1: times %2, %3 of %4 "
+     "positions lie in %5",
+     {ValueKind::Nested, ValueKind::Name, ValueKind::Count, ValueKind::Count, ValueKind::Nested}},
+    {"MESS_TAB_DOCTOR_DECIMAL_ROWS",
+     "the decimal mark seems to be misplaced in some rows of %1: with another one, %2 of %3 "
+     "positions lie among the others (rows: %4)",
+     {ValueKind::Nested}},
+    {"MESS_TAB_DOCTOR_THOUSANDS",
+     "a separator of thousands seems to be read as the decimal mark "
+     "in %1: at all %2 positions they lie below 1000 and have up to "
+     "three decimals",
+     {ValueKind::Nested, ValueKind::Count}},
+    {"MESS_TAB_DOCTOR_NOT_DEGREES", "the coordinates of %1 of %2 positions are too large for "
+                                    "degrees, but the coordinate system counts in degrees"},
+    {"MESS_TAB_DOCTOR_NOT_METERS", "the coordinates of %1 of %2 positions seem to be degrees, but "
+                                   "the coordinate system counts in meters or feet"},
+    {"MESS_TAB_DOCTOR_UNDECLARED",
+     "the coordinates are in meters, but the table declares no coordinate system"},
+    {"MESS_TAB_DOCTOR_OUTLIER", "far from all others: %1 of %2 positions lie more than %3 km from "
+                                "the middle of the table (rows: %4)"},
+    {"MESS_TAB_DOCTOR_DUPLICATE",
+     "site ids occur more than once: %1 of %2 sites share theirs (rows: %3)"},
+    {"MESS_TAB_DOCTOR_STACKED", "many positions are the same point: %1 of %2 are %3 (rows: %4)"},
+    {"MESS_TAB_DOCTOR_OUTSIDE", "outside the project's terrain: %1 of %2 positions (rows: %3)"},
+    {"MESS_TAB_DOCTOR_TERRAIN", "the area of the project's terrain"},
+    {"MESS_TAB_DOCTOR_AREA", "the area of use of the coordinate system"},
+    {"MESS_TAB_DOCTOR_LONGITUDES", "the longitudes"},
+    {"MESS_TAB_DOCTOR_LATITUDES", "the latitudes"},
+    {"MESS_TAB_DOCTOR_EASTINGS", "the eastings"},
+    {"MESS_TAB_DOCTOR_NORTHINGS", "the northings"},
+    {"MESS_TAB_DOCTOR_COORDINATES", "both coordinates"},
+
     {"MESS_TAB_ZERO_ZERO",
      "the coordinate \"%1\" cannot be read: 0, 0 stands for an unknown position"},
 });

@@ -583,5 +583,93 @@
         <source>no header; recognised by the values</source>
         <translation>no header; recognised by the values</translation>
     </message>
+    <message id="MESS_TAB_DOCTOR_SWAPPED_GLOBE">
+        <source>longitude and latitude seem to be exchanged: %1 of %2 latitudes lie beyond 90 degrees</source>
+        <translation>longitude and latitude seem to be exchanged: %1 of %2 latitudes lie beyond 90 degrees</translation>
+    </message>
+    <message id="MESS_TAB_DOCTOR_SWAPPED">
+        <source>the coordinates seem to be exchanged: in the other order, %1 of %2 positions lie in %3</source>
+        <translation>the coordinates seem to be exchanged: in the other order, %1 of %2 positions lie in %3</translation>
+    </message>
+    <message id="MESS_TAB_DOCTOR_SWAPPED_ROWS">
+        <source>coordinates seem to be exchanged in some rows: in the other order, %1 of %2 positions lie among the others (rows: %3)</source>
+        <translation>coordinates seem to be exchanged in some rows: in the other order, %1 of %2 positions lie among the others (rows: %3)</translation>
+    </message>
+    <message id="MESS_TAB_DOCTOR_SIGN">
+        <source>a sign seems to be lost in %1: with the opposite one, %2 of %3 positions lie in %4</source>
+        <translation>a sign seems to be lost in %1: with the opposite one, %2 of %3 positions lie in %4</translation>
+    </message>
+    <message id="MESS_TAB_DOCTOR_SIGN_ROWS">
+        <source>a sign seems to be lost in some rows of %1: with the opposite one, %2 of %3 positions lie among the others (rows: %4)</source>
+        <translation>a sign seems to be lost in some rows of %1: with the opposite one, %2 of %3 positions lie among the others (rows: %4)</translation>
+    </message>
+    <message id="MESS_TAB_DOCTOR_DECIMAL">
+        <source>the decimal mark seems to be misplaced in %1: times %2, %3 of %4 positions lie in %5</source>
+        <translation>the decimal mark seems to be misplaced in %1: times %2, %3 of %4 positions lie in %5</translation>
+    </message>
+    <message id="MESS_TAB_DOCTOR_DECIMAL_ROWS">
+        <source>the decimal mark seems to be misplaced in some rows of %1: with another one, %2 of %3 positions lie among the others (rows: %4)</source>
+        <translation>the decimal mark seems to be misplaced in some rows of %1: with another one, %2 of %3 positions lie among the others (rows: %4)</translation>
+    </message>
+    <message id="MESS_TAB_DOCTOR_THOUSANDS">
+        <source>a separator of thousands seems to be read as the decimal mark in %1: at all %2 positions they lie below 1000 and have up to three decimals</source>
+        <translation>a separator of thousands seems to be read as the decimal mark in %1: at all %2 positions they lie below 1000 and have up to three decimals</translation>
+    </message>
+    <message id="MESS_TAB_DOCTOR_NOT_DEGREES">
+        <source>the coordinates of %1 of %2 positions are too large for degrees, but the coordinate system counts in degrees</source>
+        <translation>the coordinates of %1 of %2 positions are too large for degrees, but the coordinate system counts in degrees</translation>
+    </message>
+    <message id="MESS_TAB_DOCTOR_NOT_METERS">
+        <source>the coordinates of %1 of %2 positions seem to be degrees, but the coordinate system counts in meters or feet</source>
+        <translation>the coordinates of %1 of %2 positions seem to be degrees, but the coordinate system counts in meters or feet</translation>
+    </message>
+    <message id="MESS_TAB_DOCTOR_UNDECLARED">
+        <source>the coordinates are in meters, but the table declares no coordinate system</source>
+        <translation>the coordinates are in meters, but the table declares no coordinate system</translation>
+    </message>
+    <message id="MESS_TAB_DOCTOR_OUTLIER">
+        <source>far from all others: %1 of %2 positions lie more than %3 km from the middle of the table (rows: %4)</source>
+        <translation>far from all others: %1 of %2 positions lie more than %3 km from the middle of the table (rows: %4)</translation>
+    </message>
+    <message id="MESS_TAB_DOCTOR_DUPLICATE">
+        <source>site ids occur more than once: %1 of %2 sites share theirs (rows: %3)</source>
+        <translation>site ids occur more than once: %1 of %2 sites share theirs (rows: %3)</translation>
+    </message>
+    <message id="MESS_TAB_DOCTOR_STACKED">
+        <source>many positions are the same point: %1 of %2 are %3 (rows: %4)</source>
+        <translation>many positions are the same point: %1 of %2 are %3 (rows: %4)</translation>
+    </message>
+    <message id="MESS_TAB_DOCTOR_OUTSIDE">
+        <source>outside the project's terrain: %1 of %2 positions (rows: %3)</source>
+        <translation>outside the project's terrain: %1 of %2 positions (rows: %3)</translation>
+    </message>
+    <message id="MESS_TAB_DOCTOR_TERRAIN">
+        <source>the area of the project's terrain</source>
+        <translation>the area of the project's terrain</translation>
+    </message>
+    <message id="MESS_TAB_DOCTOR_AREA">
+        <source>the area of use of the coordinate system</source>
+        <translation>the area of use of the coordinate system</translation>
+    </message>
+    <message id="MESS_TAB_DOCTOR_LONGITUDES">
+        <source>the longitudes</source>
+        <translation>the longitudes</translation>
+    </message>
+    <message id="MESS_TAB_DOCTOR_LATITUDES">
+        <source>the latitudes</source>
+        <translation>the latitudes</translation>
+    </message>
+    <message id="MESS_TAB_DOCTOR_EASTINGS">
+        <source>the eastings</source>
+        <translation>the eastings</translation>
+    </message>
+    <message id="MESS_TAB_DOCTOR_NORTHINGS">
+        <source>the northings</source>
+        <translation>the northings</translation>
+    </message>
+    <message id="MESS_TAB_DOCTOR_COORDINATES">
+        <source>both coordinates</source>
+        <translation>both coordinates</translation>
+    </message>
 </context>
 </TS>

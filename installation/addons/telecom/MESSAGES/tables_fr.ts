@@ -583,5 +583,93 @@
         <source>no header; recognised by the values</source>
         <translation>pas d'en-tête&#xa0;; reconnue à ses valeurs</translation>
     </message>
+    <message id="MESS_TAB_DOCTOR_SWAPPED_GLOBE">
+        <source>longitude and latitude seem to be exchanged: %1 of %2 latitudes lie beyond 90 degrees</source>
+        <translation>longitude et latitude semblent inversées&#xa0;: %1 latitudes sur %2 dépassent 90 degrés</translation>
+    </message>
+    <message id="MESS_TAB_DOCTOR_SWAPPED">
+        <source>the coordinates seem to be exchanged: in the other order, %1 of %2 positions lie in %3</source>
+        <translation>les coordonnées semblent inversées&#xa0;: dans l'autre ordre, %1 positions sur %2 se trouvent dans %3</translation>
+    </message>
+    <message id="MESS_TAB_DOCTOR_SWAPPED_ROWS">
+        <source>coordinates seem to be exchanged in some rows: in the other order, %1 of %2 positions lie among the others (rows: %3)</source>
+        <translation>les coordonnées de certaines lignes semblent inversées&#xa0;: dans l'autre ordre, %1 positions sur %2 se trouvent parmi les autres (lignes&#xa0;: %3)</translation>
+    </message>
+    <message id="MESS_TAB_DOCTOR_SIGN">
+        <source>a sign seems to be lost in %1: with the opposite one, %2 of %3 positions lie in %4</source>
+        <translation>un signe semble manquer dans %1&#xa0;: avec le signe opposé, %2 positions sur %3 se trouvent dans %4</translation>
+    </message>
+    <message id="MESS_TAB_DOCTOR_SIGN_ROWS">
+        <source>a sign seems to be lost in some rows of %1: with the opposite one, %2 of %3 positions lie among the others (rows: %4)</source>
+        <translation>un signe semble manquer à certaines lignes dans %1&#xa0;: avec le signe opposé, %2 positions sur %3 se trouvent parmi les autres (lignes&#xa0;: %4)</translation>
+    </message>
+    <message id="MESS_TAB_DOCTOR_DECIMAL">
+        <source>the decimal mark seems to be misplaced in %1: times %2, %3 of %4 positions lie in %5</source>
+        <translation>le séparateur décimal semble mal placé dans %1&#xa0;: en multipliant par %2, %3 positions sur %4 se trouvent dans %5</translation>
+    </message>
+    <message id="MESS_TAB_DOCTOR_DECIMAL_ROWS">
+        <source>the decimal mark seems to be misplaced in some rows of %1: with another one, %2 of %3 positions lie among the others (rows: %4)</source>
+        <translation>le séparateur décimal semble mal placé à certaines lignes dans %1&#xa0;: une fois déplacé, %2 positions sur %3 se trouvent parmi les autres (lignes&#xa0;: %4)</translation>
+    </message>
+    <message id="MESS_TAB_DOCTOR_THOUSANDS">
+        <source>a separator of thousands seems to be read as the decimal mark in %1: at all %2 positions they lie below 1000 and have up to three decimals</source>
+        <translation>un séparateur de milliers semble lu comme séparateur décimal dans %1&#xa0;: les valeurs des %2 positions sont inférieures à 1000 et ont au plus trois décimales</translation>
+    </message>
+    <message id="MESS_TAB_DOCTOR_NOT_DEGREES">
+        <source>the coordinates of %1 of %2 positions are too large for degrees, but the coordinate system counts in degrees</source>
+        <translation>les coordonnées de %1 positions sur %2 sont trop grandes pour des degrés, alors que le système de coordonnées est en degrés</translation>
+    </message>
+    <message id="MESS_TAB_DOCTOR_NOT_METERS">
+        <source>the coordinates of %1 of %2 positions seem to be degrees, but the coordinate system counts in meters or feet</source>
+        <translation>les coordonnées de %1 positions sur %2 semblent être en degrés, alors que le système de coordonnées est en mètres ou en pieds</translation>
+    </message>
+    <message id="MESS_TAB_DOCTOR_UNDECLARED">
+        <source>the coordinates are in meters, but the table declares no coordinate system</source>
+        <translation>les coordonnées sont en mètres, mais le tableau ne déclare aucun système de coordonnées</translation>
+    </message>
+    <message id="MESS_TAB_DOCTOR_OUTLIER">
+        <source>far from all others: %1 of %2 positions lie more than %3 km from the middle of the table (rows: %4)</source>
+        <translation>loin de toutes les autres&#xa0;: %1 positions sur %2 se trouvent à plus de %3 km du centre des sites du tableau (lignes&#xa0;: %4)</translation>
+    </message>
+    <message id="MESS_TAB_DOCTOR_DUPLICATE">
+        <source>site ids occur more than once: %1 of %2 sites share theirs (rows: %3)</source>
+        <translation>des identifiants de site apparaissent plusieurs fois&#xa0;: %1 sites sur %2 partagent le leur (lignes&#xa0;: %3)</translation>
+    </message>
+    <message id="MESS_TAB_DOCTOR_STACKED">
+        <source>many positions are the same point: %1 of %2 are %3 (rows: %4)</source>
+        <translation>de nombreuses positions sont un seul et même point&#xa0;: %1 sur %2 se trouvent en %3 (lignes&#xa0;: %4)</translation>
+    </message>
+    <message id="MESS_TAB_DOCTOR_OUTSIDE">
+        <source>outside the project's terrain: %1 of %2 positions (rows: %3)</source>
+        <translation>hors du terrain du projet&#xa0;: %1 positions sur %2 (lignes&#xa0;: %3)</translation>
+    </message>
+    <message id="MESS_TAB_DOCTOR_TERRAIN">
+        <source>the area of the project's terrain</source>
+        <translation>la zone du terrain du projet</translation>
+    </message>
+    <message id="MESS_TAB_DOCTOR_AREA">
+        <source>the area of use of the coordinate system</source>
+        <translation>la zone d'usage du système de coordonnées</translation>
+    </message>
+    <message id="MESS_TAB_DOCTOR_LONGITUDES">
+        <source>the longitudes</source>
+        <translation>les longitudes</translation>
+    </message>
+    <message id="MESS_TAB_DOCTOR_LATITUDES">
+        <source>the latitudes</source>
+        <translation>les latitudes</translation>
+    </message>
+    <message id="MESS_TAB_DOCTOR_EASTINGS">
+        <source>the eastings</source>
+        <translation>les abscisses (X)</translation>
+    </message>
+    <message id="MESS_TAB_DOCTOR_NORTHINGS">
+        <source>the northings</source>
+        <translation>les ordonnées (Y)</translation>
+    </message>
+    <message id="MESS_TAB_DOCTOR_COORDINATES">
+        <source>both coordinates</source>
+        <translation>les deux coordonnées</translation>
+    </message>
 </context>
 </TS>
