@@ -19,8 +19,11 @@ namespace vlt::contract {
 // them in this order, separated by blanks.
 namespace query {
 
-inline constexpr char SourceSystem[] = "s_srs";     ///< system of the table; absent if unknown
-inline constexpr char TargetSystem[] = "t_srs";     ///< system of the project; absent if unknown
+inline constexpr char SourceSystem[] = "s_srs"; ///< system of the table; absent if unknown
+inline constexpr char TargetSystem[] = "t_srs"; ///< system of the project; absent if unknown
+/// Area of the project's terrain, "west south east north" in degrees: sites outside it are
+/// problems. Not in layers.
+inline constexpr char Extent[] = "extent";
 inline constexpr char DataFolder[] = "data_folder"; ///< always PylonFolder of Installation.h
 inline constexpr char PylonType[] = "pylon_type";   ///< a type of the pylon catalogue
 
@@ -107,6 +110,7 @@ struct QueryOption
 inline constexpr auto QueryOptions = std::to_array<QueryOption>({
     {query::SourceSystem, OptionPurpose::Placing},
     {query::TargetSystem, OptionPurpose::Placing},
+    {query::Extent, OptionPurpose::Placing},
     {query::DataFolder, OptionPurpose::Pylons},
     {query::PylonType, OptionPurpose::Pylons},
     {query::PylonWidth, OptionPurpose::Pylons, {query::PylonWidthM}},

@@ -25,6 +25,13 @@ inline constexpr char ProblemSeparator = '|';
 inline constexpr char ErrorSeverity[] = "Error";
 inline constexpr char WarningSeverity[] = "Warning";
 
+// The domain of mistakes in positions has an item with their number, and an item for each:
+// FINDING_1=kind|cure|text.
+inline constexpr char DoctorDomain[] = "doctor";
+inline constexpr char FindingCount[] = "COUNT";
+inline constexpr char FindingPrefix[] = "FINDING_";
+inline constexpr char FindingSeparator = '|';
+
 // The domain of roles says how the columns were understood: the shape of the table in words, and an
 // item for each column that has a role, ROLE_1=role|number of the transmitter or
 // nothing|column|why.

@@ -87,6 +87,7 @@ inline constexpr auto TableTexts = std::to_array<Text>({
      "the file declares the coordinate system EPSG:%1, which is not known"},
     {"MESS_TAB_NO_SOURCE_SRS",
      "the coordinate system of the file is not known: its coordinates are taken as they are"},
+    {"MESS_TAB_BAD_EXTENT", "the area \"%1\" is not west, south, east and north in degrees"},
     {"MESS_TAB_OUTSIDE_TARGET",
      "the position lies outside the area of the target coordinate system"},
 

@@ -61,6 +61,8 @@ private Q_SLOTS:
         row("two cities, one at the mirrored longitude, one not",
             around(2.35, 48.85, 0.1, 60) + around(-2.3, 48.8, 0.1, 3) + around(5.4, 43.3, 0.1, 9),
             degrees());
+        row("an island across the ocean, whose longitude times ten is that of the others",
+            around(-98, 38, 5, 60) + Points{{144.75, 13.4}, {144.8, 13.5}}, degrees());
         row("some signs lost, some axes exchanged, one digit lost",
             city + Points{{-2.3, 48.8}, {48.9, 2.4}, {2.3, 4.884}}, degrees(),
             {u"swappedRows 1"_s, u"sign 1"_s, u"decimal 1"_s});

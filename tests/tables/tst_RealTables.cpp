@@ -42,7 +42,48 @@ private Q_SLOTS:
         QVERIFY2(difference.isEmpty(), qPrintable(difference));
     }
 
+    void findsMistakesOfPositions_data() { addTables(u"sites"_s); }
+    void findsMistakesOfPositions()
+    {
+        QFETCH(QJsonObject, table);
+        const QString name = table.value(u"file"_s).toString();
+        const QStringList expected = mistakesExpectedOf(table);
+        if (expected.isEmpty() && !name.startsWith(u"control_"_s))
+            return;
+
+        QCOMPARE(mistakesFoundIn(table), expected);
+    }
+
 private:
+    /// The kinds of problems that concern the positions of a table as a whole.
+    static QStringList mistakesExpectedOf(const QJsonObject &table)
+    {
+        static const QStringList Others = {u"value"_s, u"position"_s, u"conflict"_s};
+        QStringList kinds;
+        for (const QJsonValue &problem : table.value(u"problems"_s).toArray()) {
+            const QString kind = problem.toObject().value(u"kind"_s).toString();
+            if (!Others.contains(kind))
+                kinds += kind;
+        }
+        return kinds;
+    }
+
+    /// The same of the driver's findings.
+    static QStringList mistakesFoundIn(const QJsonObject &table)
+    {
+        const Warnings warnings;
+        const GDALDatasetUniquePtr dataset = open(table, "site:");
+        if (!dataset)
+            return warnings.texts;
+        QStringList kinds;
+        char **items = dataset->GetLayer(0)->GetMetadata("doctor");
+        for (char **item = items; item && *item; ++item) {
+            if (STARTS_WITH(*item, "FINDING_"))
+                kinds += QString::fromUtf8(*item).section(u'=', 1).section(u'|', 0, 0);
+        }
+        return kinds;
+    }
+
     static QString pathOf(const QString &name)
     {
         return QStringLiteral(VLT_REAL_TABLES) + u'/' + name;
@@ -74,6 +115,12 @@ private:
             options.SetNameValue(qPrintable(option.key()),
                                  (isFile ? pathOf(value) : value).toUtf8().constData());
         }
+        const QJsonObject project = table.value(u"project"_s).toObject();
+        QStringList extent;
+        for (const char *side : {"west", "south", "east", "north"})
+            extent += QString::number(project.value(QLatin1String(side)).toDouble());
+        if (!project.isEmpty())
+            options.SetNameValue("EXTENT", extent.join(u',').toUtf8().constData());
         const QByteArray path = prefix + pathOf(table.value(u"file"_s).toString()).toUtf8();
         return GDALDatasetUniquePtr(
             GDALDataset::Open(path.constData(), GDAL_OF_VECTOR, nullptr, options.List()));

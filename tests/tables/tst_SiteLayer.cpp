@@ -99,7 +99,8 @@ private Q_SLOTS:
         // The first 1000 rows determine the types, so "n/k" in row 1202 of the file is lost.
         QByteArray text = "EPSG:999999\nSite ID;Lon;Lat;Height\n";
         for (int i = 1; i <= 1500; ++i)
-            text += QByteArray::number(i) + (i == 1400 ? ";east;47;" : ";2.5;47;") +
+            text += QByteArray::number(i) +
+                    (i == 1400 ? ";east;47;" : ";2." + QByteArray::number(i) + ";47;") +
                     (i == 1200   ? "n/k\n"
                      : i == 1300 ? "007\n"
                      : i == 1401 ? "3;more\n"
@@ -305,8 +306,10 @@ private Q_SLOTS:
         QFETCH(QByteArray, option);
         QFETCH(QByteArray, found);
         QByteArray text = "Site ID,Longitude,Latitude,Name\n";
-        for (const QByteArray &name : names.split(';'))
-            text += "S,2.5,48," + name + "\n";
+        for (const QByteArray &name : names.split(';')) {
+            const QByteArray number = QByteArray::number(text.size());
+            text += "S" + number + ",2." + number + ",48," + name + "\n";
+        }
         char *bytes = CPLRecode(text.constData(), "UTF-8", written.constData());
         write("e.csv", bytes);
         CPLFree(bytes);

@@ -61,7 +61,7 @@ std::pair<std::size_t, std::size_t> largestStack(const Positions &sorted)
 
 std::optional<Finding> stack(Positions positions)
 {
-    constexpr std::size_t MinStacked = 4;   // of which there are more than half of all
+    constexpr std::size_t MinStacked = 4;   // more than half of all
     constexpr std::size_t ManyStacked = 20; // operators and antennas on one mast
     std::sort(positions.begin(), positions.end(),
               [](const auto &a, const auto &b) { return std::tie(a.x, a.y) < std::tie(b.x, b.y); });

@@ -47,10 +47,17 @@ public:
             m_scaleX *= std::max(MinCosine, std::cos(m_middle.y / system.halfTurn * M_PI));
     }
 
+    /// Whether coordinates can be those of a position.
+    bool arePossible(double x, double y) const
+    {
+        return m_fullTurn == 0 || (2 * std::abs(x) <= m_fullTurn && 4 * std::abs(y) <= m_fullTurn);
+    }
     double eastM(double x) const
     {
         const double dx = x - m_middle.x;
-        return m_scaleX * (m_fullTurn > 0 ? std::remainder(dx, m_fullTurn) : dx);
+        return m_scaleX * (m_fullTurn > 0 && 2 * std::abs(x) <= m_fullTurn
+                               ? std::remainder(dx, m_fullTurn)
+                               : dx);
     }
     double northM(double y) const { return m_scaleY * (y - m_middle.y); }
     double metres(double x, double y) const { return std::hypot(eastM(x), northM(y)); }
@@ -139,7 +146,9 @@ Strays findStrays(const Positions &positions, const Distances &distances, double
             continue;
         const auto all = corrections();
         const auto found = std::find_if(all.begin(), all.end(), [&](const Correction &by) {
-            return distances.metres(by.x(position), by.y(position)) <= nearM;
+            const double x = by.x(position);
+            const double y = by.y(position);
+            return distances.arePossible(x, y) && distances.metres(x, y) <= nearM;
         });
         if (found == all.end())
             unexplained.push_back(&position);

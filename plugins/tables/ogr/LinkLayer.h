@@ -15,6 +15,10 @@ public:
 private:
     RowMeaning readRow(int64_t row, const FieldCells &cells,
                        std::vector<RowProblem> &problems) const override;
+    void addPositions(SurveyedPositions &positions, const TableRow &row) const override
+    {
+        LinkRowReader::addPositions(positions, row);
+    }
     void mergeInto(OGREnvelope &extent, const TableRow &row) const override;
     void placeFeature(OGRFeature &feature, const TableRow &row, int part) const override;
     void fillFeature(OGRFeature &feature, const TableRow &row, int part) const override;

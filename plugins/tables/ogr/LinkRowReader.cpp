@@ -101,6 +101,14 @@ std::optional<double> LinkRowReader::azimuthDeg(const LinkRow &link, std::size_t
     return m_path.azimuthDeg(endOf(link, end), endOf(link, 1 - end));
 }
 
+void LinkRowReader::addPositions(SurveyedPositions &positions, const TableRow &row)
+{
+    for (const Position &end : row.link().inFile) {
+        if (end.found || end.isOutside)
+            positions.add(row.number, end.x, end.y);
+    }
+}
+
 void LinkRowReader::addFileProblems(ProblemList &problems) const
 {
     problems.add(m_values.tableProblems());

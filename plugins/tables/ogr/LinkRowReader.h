@@ -21,6 +21,9 @@ public:
     /// Azimuth of an end (0 or 1): the one in the table, else the direction to the other end.
     std::optional<double> azimuthDeg(const LinkRow &link, std::size_t end) const;
 
+    /// Adds the positions of both ends as they stand in the file.
+    static void addPositions(SurveyedPositions &positions, const TableRow &row);
+
     void addFileProblems(ProblemList &problems) const;
 
 private:

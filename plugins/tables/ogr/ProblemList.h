@@ -25,6 +25,15 @@ public:
             add(std::move(problem));
     }
 
+    /// Adds a problem before those that were added already.
+    void addFirst(RowProblem problem)
+    {
+        ++m_count;
+        m_kept.insert(m_kept.begin(), std::move(problem));
+        if (m_kept.size() > MaxKept)
+            m_kept.pop_back();
+    }
+
     std::size_t count() const { return m_count; }
     const std::vector<RowProblem> &kept() const { return m_kept; }
 

@@ -4,8 +4,6 @@
 #include "contract/TableTexts.h"
 #include "plugins/tables/roles/Vocabulary.h"
 
-#include <cmath>
-
 namespace vlt::driver {
 
 namespace {
@@ -93,18 +91,12 @@ std::optional<double> offeredNumber(OfferedValue value, const OfferedInput &inpu
     }
 }
 
-/// 180 degrees in the unit of a geographic system; 0 for any other system and without one.
-double halfTurn(const OGRSpatialReference *srs)
-{
-    return srs && srs->IsGeographic() ? M_PI / srs->GetAngularUnits() : 0;
-}
-
 } // namespace
 
 SiteLayer::SiteLayer(const TableSource &source)
     : TableLayer(source, source.facts().table.sheet, 1)
     , m_positions(source.facts().table, source.facts().sites().point, source.facts().sites().unit,
-                  halfTurn(source.systems->file()))
+                  source.systems->halfTurn())
     , m_transmitters(source.facts().table, source.facts().sites().roles,
                      installedVocabulary().words)
 {
@@ -133,12 +125,25 @@ RowMeaning SiteLayer::readRow(int64_t row, const FieldCells &cells,
     site.transmitters = m_transmitters.read(row, cells.cells(), problems);
     if (const auto &index = facts().siteIndex) {
         index->addProblems(row, problems);
-        if (const IndexedSite *begun = index->beginningIn(row); begun && !site.inFile.found)
+        const IndexedSite *begun = index->beginningIn(row);
+        if (begun && begun->position.found && !site.inFile.found)
             site.inFile = begun->position;
     }
     site.placed = site.inFile;
     systems().transform(row, site.placed, problems);
     return site;
+}
+
+void SiteLayer::addPositions(SurveyedPositions &positions, const TableRow &row) const
+{
+    const Position &position = row.site().inFile;
+    if ((!position.found && !position.isOutside) || !hasFeatures(row.number))
+        return;
+    // An index reports by row that an id stands for several sites.
+    const std::string id = facts().siteIndex
+                               ? std::string()
+                               : fieldText(row.cells.cells(), facts().sites().roles.siteId);
+    positions.add(row.number, position.x, position.y, id);
 }
 
 void SiteLayer::mergeInto(OGREnvelope &extent, const TableRow &row) const

@@ -57,25 +57,35 @@ char delimiterOf(const std::string &word)
     return 0;
 }
 
-/// The options for reading the table: the open options, else those in the connection string, with
-/// which a layer stores the choice of its author.
+/// An open option, else the option in the connection string, with which a layer stores the choice
+/// of its author.
+std::string either(const GDALOpenInfo &info, const contract::ConnectionString &connection,
+                   const char *option, const char *key)
+{
+    const char *value = CSLFetchNameValue(info.papszOpenOptions, option);
+    return value && *value ? value : connection.option(key);
+}
+
+/// The options for reading the table.
 TableOptions optionsOf(const GDALOpenInfo &info, const contract::ConnectionString &connection)
 {
-    const auto text = [&info](const char *name) {
-        const char *value = CSLFetchNameValue(info.papszOpenOptions, name);
-        return std::string(value ? value : "");
-    };
-    const auto either = [&](const char *option, const char *key) {
-        const std::string value = text(option);
-        return value.empty() ? connection.option(key) : value;
+    const auto option = [&](const char *name, const char *key) {
+        return either(info, connection, name, key);
     };
     TableOptions options;
     options.kind = connection.kind;
-    options.sheet = either("SHEET", contract::query::Sheet);
-    options.encoding = either("ENCODING", contract::query::Encoding);
-    options.textOnly = EQUAL(text("TYPES").c_str(), "TEXT");
-    options.delimiter = delimiterOf(either("DELIMITER", contract::query::Delimiter));
+    options.sheet = option("SHEET", contract::query::Sheet);
+    options.encoding = option("ENCODING", contract::query::Encoding);
+    options.textOnly = EQUAL(CSLFetchNameValueDef(info.papszOpenOptions, "TYPES", ""), "TEXT");
+    options.delimiter = delimiterOf(option("DELIMITER", contract::query::Delimiter));
     return options;
+}
+
+StatedSystems systemsOf(const GDALOpenInfo &info, const contract::ConnectionString &connection)
+{
+    return {connection.option(contract::query::SourceSystem),
+            connection.option(contract::query::TargetSystem),
+            either(info, connection, "EXTENT", contract::query::Extent)};
 }
 
 int identify(GDALOpenInfo *info)
@@ -109,11 +119,10 @@ GDALDataset *open(GDALOpenInfo *info)
         refuseRemote(connection->path);
         TableSource source;
         source.file = TableFile::open(connection->path, optionsOf(*info, *connection));
-        source.systems = std::make_shared<TableSystems>(
-            source.facts().declaration(), connection->option(contract::query::SourceSystem),
-            connection->option(contract::query::TargetSystem));
+        source.systems = std::make_shared<TableSystems>(source.facts().declaration(),
+                                                        systemsOf(*info, *connection));
         source.warnings = std::make_shared<RowWarnings>();
-        source.problems = std::make_shared<std::optional<ProblemList>>();
+        source.survey = std::make_shared<std::optional<TableSurvey>>();
         auto dataset = std::make_unique<TableDataset>(source, connection->path);
         dataset->SetDescription(info->pszFilename);
         return dataset.release();
@@ -137,6 +146,9 @@ constexpr char OpenOptions[] = "<OpenOptionList>"
                                "default='AUTO'>"
                                "<Value>AUTO</Value><Value>COMMA</Value><Value>SEMICOLON</"
                                "Value><Value>TAB</Value><Value>BAR</Value></Option>"
+                               "<Option name='EXTENT' type='string' description='Area of the "
+                               "project: west,south,east,north in degrees; sites outside it are "
+                               "reported'/>"
                                "<Option name='TYPES' type='string-select' description='Whether "
                                "columns of numbers become numeric fields' "
                                "default='AUTO'><Value>AUTO</Value><Value>TEXT</Value></Option>"

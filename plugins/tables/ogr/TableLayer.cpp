@@ -193,14 +193,18 @@ bool TableLayer::nextRow()
     while (m_walk->rows->advance()) {
         std::vector<RowProblem> problems = takeRow(*m_walk);
         m_source.warnings->warn(facts().table.sheet, problems);
-        if (m_walk->problems)
-            m_walk->problems->add(std::move(problems));
+        if (m_walk->survey) {
+            m_walk->survey->problems.add(std::move(problems));
+            addPositions(m_walk->survey->positions, m_walk->row);
+        }
         if (hasFeatures(m_walk->row.number))
             return true;
     }
-    if (m_walk->problems)
-        *m_source.problems = std::move(m_walk->problems);
-    m_walk->problems.reset();
+    if (m_walk->survey) {
+        finish(*m_walk->survey);
+        *m_source.survey = std::move(m_walk->survey);
+    }
+    m_walk->survey.reset();
     return false;
 }
 
@@ -209,8 +213,8 @@ std::unique_ptr<OGRFeature> TableLayer::readFeature()
 {
     if (!m_walk) {
         m_walk = startWalk();
-        if (!*m_source.problems)
-            m_walk->problems = fileProblems();
+        if (!*m_source.survey)
+            m_walk->survey = startSurvey();
     }
     if (m_walk->nextPart == 0 && !nextRow())
         return nullptr;
@@ -283,31 +287,53 @@ GIntBig TableLayer::GetFeatureCount(int force)
     return rowsWithFeatures() * m_partCount;
 }
 
+TableSurvey TableLayer::startSurvey() const
+{
+    TableSurvey survey;
+    survey.problems = fileProblems();
+    return survey;
+}
+
+/// Adds what all positions show together.
+void TableLayer::finish(TableSurvey &survey) const
+{
+    survey.findings = diagnose(survey.positions.all(), systems().facts());
+    survey.positions = {};
+    for (auto finding = survey.findings.rbegin(); finding != survey.findings.rend(); ++finding) {
+        // The systems report that no positions can be transformed.
+        if (finding->kind != FindingKind::Undeclared || !systems().isUnreachable())
+            survey.problems.addFirst({0, {}, false, finding->text});
+    }
+}
+
 /// Reads all rows. If the file turns out to be damaged, returns false; `extent` and `found` then
 /// cover the rows before the damage.
-bool TableLayer::survey(bool warns, OGREnvelope &extent, ProblemList &found)
+bool TableLayer::surveyRows(bool warns, OGREnvelope &extent, TableSurvey &found)
 {
-    return guarded([&] {
+    const bool isWhole = guarded([&] {
         Walk walk = startWalk();
         while (walk.rows->advance()) {
             std::vector<RowProblem> problems = takeRow(walk);
             mergeInto(extent, walk.row);
             if (warns)
                 m_source.warnings->warn(facts().table.sheet, problems);
-            found.add(std::move(problems));
+            found.problems.add(std::move(problems));
+            addPositions(found.positions, walk.row);
         }
     });
+    finish(found);
+    return isWhole;
 }
 
 OGRErr TableLayer::GetExtent(OGREnvelope *extent, int force)
 {
     if (!m_extent.IsInit()) {
         OGREnvelope found;
-        ProblemList problems = fileProblems();
-        if (!force || !survey(true, found, problems))
+        TableSurvey survey = startSurvey();
+        if (!force || !surveyRows(true, found, survey))
             return OGRERR_FAILURE;
         m_extent = found;
-        *m_source.problems = std::move(problems);
+        *m_source.survey = std::move(survey);
     }
     *extent = m_extent;
     return m_extent.IsInit() ? OGRERR_NONE : OGRERR_FAILURE;
@@ -345,26 +371,27 @@ ProblemList TableLayer::fileProblems() const
     return problems;
 }
 
-bool TableLayer::isProblemsDomain(const char *domain) const
+/// The survey is known if all rows were read once; otherwise they are read now.
+const TableSurvey &TableLayer::surveyed()
 {
-    return listsProblems() && domain && EQUAL(domain, metadata::ProblemsDomain);
+    std::optional<TableSurvey> &survey = *m_source.survey;
+    if (!survey) {
+        OGREnvelope extent;
+        TableSurvey found = startSurvey();
+        surveyRows(false, extent, found);
+        survey = std::move(found);
+    }
+    return *survey;
 }
 
-/// The problems are known if all rows were read once; otherwise they are read now.
 char **TableLayer::problemsMetadata()
 {
     if (m_problemsItems.Count() > 0)
         return m_problemsItems.List();
-    std::optional<ProblemList> &problems = *m_source.problems;
-    if (!problems) {
-        OGREnvelope extent;
-        ProblemList found = fileProblems();
-        survey(false, extent, found);
-        problems = std::move(found);
-    }
-    m_problemsItems.SetNameValue(metadata::ProblemCount, std::to_string(problems->count()).c_str());
+    const ProblemList &problems = surveyed().problems;
+    m_problemsItems.SetNameValue(metadata::ProblemCount, std::to_string(problems.count()).c_str());
     std::size_t number = 0;
-    for (const RowProblem &problem : problems->kept()) {
+    for (const RowProblem &problem : problems.kept()) {
         const std::string row = problem.row > 0 ? std::to_string(problem.row) : std::string();
         const char *severity =
             problem.isError ? metadata::ErrorSeverity : metadata::WarningSeverity;
@@ -377,10 +404,29 @@ char **TableLayer::problemsMetadata()
     return m_problemsItems.List();
 }
 
+char **TableLayer::doctorMetadata()
+{
+    if (m_doctorItems.Count() > 0)
+        return m_doctorItems.List();
+    const std::vector<Finding> &findings = surveyed().findings;
+    m_doctorItems.SetNameValue(metadata::FindingCount, std::to_string(findings.size()).c_str());
+    std::size_t number = 0;
+    for (const Finding &finding : findings) {
+        const std::string value = metadata::FindingPrefix + std::to_string(++number) + '=' +
+                                  std::string(findingWord(finding.kind)) +
+                                  metadata::FindingSeparator + finding.cure +
+                                  metadata::FindingSeparator + finding.text;
+        m_doctorItems.AddString(value.c_str());
+    }
+    return m_doctorItems.List();
+}
+
 std::optional<char **> TableLayer::ownMetadata(const char *domain)
 {
-    if (isProblemsDomain(domain))
+    if (listsProblems() && domain && EQUAL(domain, metadata::ProblemsDomain))
         return problemsMetadata();
+    if (listsProblems() && domain && EQUAL(domain, metadata::DoctorDomain))
+        return doctorMetadata();
     if (!domain || !EQUAL(domain, metadata::RolesDomain))
         return std::nullopt;
     if (!m_rolesItems)
@@ -407,7 +453,7 @@ char **TableLayer::GetMetadataDomainList()
     const char *roles =
         ownMetadata(metadata::RolesDomain).value_or(nullptr) ? metadata::RolesDomain : nullptr;
     if (problems)
-        list = BuildMetadataDomainList(list, FALSE, problems, nullptr);
+        list = BuildMetadataDomainList(list, FALSE, problems, metadata::DoctorDomain, nullptr);
     return roles ? BuildMetadataDomainList(list, FALSE, roles, nullptr) : list;
 }
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "plugins/tables/ogr/ProblemList.h"
 #include "plugins/tables/ogr/RowWarnings.h"
 #include "plugins/tables/ogr/TableFile.h"
 #include "plugins/tables/ogr/TableRow.h"
+#include "plugins/tables/ogr/TableSurvey.h"
 #include "plugins/tables/ogr/TableSystems.h"
 
 #include <ogrsf_frmts.h>
@@ -19,8 +19,8 @@ struct TableSource
     std::shared_ptr<TableFile> file;
     std::shared_ptr<const TableSystems> systems;
     std::shared_ptr<RowWarnings> warnings; ///< each row is reported once, by the first layer
-    /// The problems of all rows, once one of the layers has read them; they are the same for both.
-    std::shared_ptr<std::optional<ProblemList>> problems;
+    /// The survey of all rows, once one of the layers has read them; it is the same for both.
+    std::shared_ptr<std::optional<TableSurvey>> survey;
 
     const TableFacts &facts() const { return file->facts(); }
 };
@@ -69,6 +69,8 @@ private:
     /// The meaning of a row with these cells, as far as it can be read.
     virtual RowMeaning readRow(int64_t row, const FieldCells &cells,
                                std::vector<RowProblem> &problems) const = 0;
+    /// Adds the positions of a row as they stand in the file.
+    virtual void addPositions(SurveyedPositions &positions, const TableRow &row) const = 0;
     /// Extends an envelope by the geometries of a row.
     virtual void mergeInto(OGREnvelope &extent, const TableRow &row) const = 0;
     virtual void placeFeature(OGRFeature &feature, const TableRow &row, int part) const = 0;
@@ -97,8 +99,8 @@ private:
         std::unique_ptr<DataRows> rows;
         TableRow row;     ///< the last row that was read
         int nextPart = 0; ///< of `row`; 0 if the next row has to be read
-        /// The problems so far, if the walk began at the first row and the source lacks them.
-        std::optional<ProblemList> problems;
+        /// The survey so far, if the walk began at the first row and the source has none.
+        std::optional<TableSurvey> survey;
     };
 
     Walk startWalk();
@@ -106,10 +108,13 @@ private:
     std::unique_ptr<OGRFeature> readFeature();
     bool nextRow();
     std::vector<RowProblem> takeRow(Walk &walk) const;
-    bool survey(bool warns, OGREnvelope &extent, ProblemList &found);
+    bool surveyRows(bool warns, OGREnvelope &extent, TableSurvey &found);
+    TableSurvey startSurvey() const;
+    void finish(TableSurvey &survey) const;
+    const TableSurvey &surveyed();
     ProblemList fileProblems() const;
-    bool isProblemsDomain(const char *domain) const;
     char **problemsMetadata();
+    char **doctorMetadata();
     /// The items of a domain that this layer makes itself; nothing for another one.
     std::optional<char **> ownMetadata(const char *domain);
     template<typename Action>
@@ -124,6 +129,7 @@ private:
     bool m_failed = false;
     std::optional<CPLStringList> m_rolesItems;
     CPLStringList m_problemsItems; ///< the problems of all rows as metadata
+    CPLStringList m_doctorItems;   ///< the findings about all positions as metadata
     OGREnvelope m_extent;
 };
 

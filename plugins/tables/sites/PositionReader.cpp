@@ -129,6 +129,7 @@ Position PositionReader::read(int64_t row, const std::vector<const Cell *> &cell
     if (!position.found)
         return position;
     std::optional<TableTextId> why;
+    bool isOutside = false;
     int field = m_fields.xField();
     if (!std::isfinite(position.x) || !std::isfinite(position.y))
         why = TableTextId("MESS_TAB_NOT_FINITE");
@@ -140,10 +141,11 @@ Position PositionReader::read(int64_t row, const std::vector<const Cell *> &cell
             why = outsideGlobe(position.y, Axis::Y);
             field = m_fields.yField();
         }
+        isOutside = why.has_value();
     }
     if (why) {
         problems.push_back(problem(row, field, fieldText(cells, field), *why));
-        position = {};
+        position = isOutside ? Position{false, position.x, position.y, true} : Position();
     }
     return position;
 }

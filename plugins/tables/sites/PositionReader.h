@@ -17,6 +17,8 @@ struct Position
     bool found = false;
     double x = 0;
     double y = 0;
+    /// The position is not found, because x and y, which are numbers, do not lie on the globe.
+    bool isOutside = false;
 };
 
 /// Reads the position of each row. If a coordinate cannot be read, the row has no position and gets

@@ -671,5 +671,9 @@
         <source>both coordinates</source>
         <translation>both coordinates</translation>
     </message>
+    <message id="MESS_TAB_BAD_EXTENT">
+        <source>the area "%1" is not west, south, east and north in degrees</source>
+        <translation>the area "%1" is not west, south, east and north in degrees</translation>
+    </message>
 </context>
 </TS>

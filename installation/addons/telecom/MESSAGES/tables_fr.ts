@@ -671,5 +671,9 @@
         <source>both coordinates</source>
         <translation>les deux coordonnées</translation>
     </message>
+    <message id="MESS_TAB_BAD_EXTENT">
+        <source>the area "%1" is not west, south, east and north in degrees</source>
+        <translation>la zone «&#xa0;%1&#xa0;» ne donne pas ouest, sud, est et nord en degrés</translation>
+    </message>
 </context>
 </TS>
