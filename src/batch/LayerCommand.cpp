@@ -66,6 +66,10 @@ QList<QCommandLineOption> readingOptions()
          dico_label("MESS_OPT_DELIMITER", "Separator of the columns of a text file (default: the "
                                           "separator that fits its lines)."),
          Delimiters.join(QLatin1Char('|'))},
+        {QStringLiteral("swap-axes"),
+         dico_label("MESS_OPT_SWAP_AXES",
+                    "Exchange the coordinates: the table has latitudes in the column of "
+                    "longitudes, or northings in that of eastings.")},
     };
 }
 
@@ -76,7 +80,8 @@ Result<tables::TableReading> readReading(const QCommandLineParser &parser)
         return parser.value(QLatin1String(option));
     };
     const tables::TableReading reading{value("sheet"), value("encoding"),
-                                       value("delimiter").toLower()};
+                                       value("delimiter").toLower(),
+                                       parser.isSet(QStringLiteral("swap-axes"))};
     if (parser.isSet(QStringLiteral("sheet")) && reading.sheet.isEmpty())
         return wrongUsage(
             dico_label("MESS_USE_NO_VALUE", "%1 needs a value").arg(QStringLiteral("--sheet")));

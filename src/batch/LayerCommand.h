@@ -48,7 +48,7 @@ std::variant<LayerRequest, ExitStatus> readLayerRequest(const QCommandLineParser
 geodata::SystemPair chosenSystems(const QCommandLineParser &parser,
                                   const geodata::SystemPair &otherwise);
 
-/// The options --sheet, --encoding and --delimiter.
+/// The options --sheet, --encoding, --delimiter and --swap-axes.
 QList<QCommandLineOption> readingOptions();
 
 /// Reads these options.

@@ -72,6 +72,8 @@ inline constexpr ChosenNumber<double> KFactorNumber{0.1, 100, 1.33333};
 inline constexpr char Sheet[] = "sheet";
 inline constexpr char Encoding[] = "encoding";
 inline constexpr char Delimiter[] = "delimiter";
+inline constexpr char Axes[] = "axes"; ///< SwappedAxes if the columns of x and y are exchanged
+inline constexpr char SwappedAxes[] = "swapped";
 
 inline constexpr char TransmitterScale[] = "transmitter_scale";
 inline constexpr ChosenNumber<int> AntennaScalePercent{0, 300, 100};
@@ -128,6 +130,7 @@ inline constexpr auto QueryOptions = std::to_array<QueryOption>({
     {query::Sheet, OptionPurpose::Reading},
     {query::Encoding, OptionPurpose::Reading},
     {query::Delimiter, OptionPurpose::Reading},
+    {query::Axes, OptionPurpose::Reading},
     {query::TransmitterScale, OptionPurpose::Pylons, {query::AntennaScalePercent}},
     {query::Lods, OptionPurpose::Pylons, {query::SymbolicDistanceM, query::RealisticDistanceM}},
     {query::TerrainFile, OptionPurpose::Heights},

@@ -2,6 +2,7 @@
 
 #include "contract/QueryOptions.h"
 
+#include <QLocale>
 #include <QStringList>
 
 namespace vlt::tables {
@@ -15,10 +16,13 @@ QString TableReading::parameters() const
     if (!sheet.isEmpty())
         add(contract::query::Sheet, sheet);
     // The name of a sheet may contain commas; the parser then needs a key after it to find its end.
-    if (!encoding.isEmpty() || (sheet.contains(QLatin1Char(',')) && delimiter.isEmpty()))
+    if (!encoding.isEmpty() ||
+        (sheet.contains(QLatin1Char(',')) && delimiter.isEmpty() && !swapsAxes))
         add(contract::query::Encoding, encoding);
     if (!delimiter.isEmpty())
         add(contract::query::Delimiter, delimiter);
+    if (swapsAxes)
+        add(contract::query::Axes, QLatin1String(contract::query::SwappedAxes));
     return parts.join(QLatin1Char(','));
 }
 
@@ -28,6 +32,19 @@ QString TableReading::connection(contract::TableKind kind, const QString &path,
     const QString how = parameters();
     return QLatin1String(contract::connectionPrefix(kind).data()) + systems +
            (how.isEmpty() ? how : how + QLatin1Char(',')) + path;
+}
+
+QString withTerrain(const QString &connection, const std::optional<geodata::SrsBounds> &area)
+{
+    if (!area)
+        return connection;
+    QStringList sides;
+    for (const double side : {area->west, area->south, area->east, area->north})
+        sides << QString::number(side, 'g', QLocale::FloatingPointShortest);
+    QString text = connection;
+    return text.insert(connection.indexOf(QLatin1Char(':')) + 1,
+                       QLatin1String(contract::query::Extent) + QLatin1Char('=') +
+                           sides.join(QLatin1Char(' ')) + QLatin1Char(','));
 }
 
 } // namespace vlt::tables

@@ -1,8 +1,11 @@
 #pragma once
 
 #include "contract/TableKind.h"
+#include "geodata/SrsBounds.h"
 
 #include <QString>
+
+#include <optional>
 
 namespace vlt::tables {
 
@@ -10,9 +13,10 @@ namespace vlt::tables {
 /// itself.
 struct TableReading
 {
-    QString sheet;     ///< of a workbook
-    QString encoding;  ///< of a text file, such as "CP1250"; without a comma
-    QString delimiter; ///< of a text file: "comma", "semicolon", "tab" or "bar"
+    QString sheet;          ///< of a workbook
+    QString encoding;       ///< of a text file, such as "CP1250"; without a comma
+    QString delimiter;      ///< of a text file: "comma", "semicolon", "tab" or "bar"
+    bool swapsAxes = false; ///< the columns of x and y are exchanged
 
     /// The options as text for connections and queries: "sheet=Sites,encoding=CP1250", without a
     /// comma at the end; empty if no option is set.
@@ -24,5 +28,9 @@ struct TableReading
     QString connection(contract::TableKind kind, const QString &path,
                        const QString &systems = {}) const;
 };
+
+/// A connection with the area of the project's terrain, so that the reader reports positions
+/// outside it. Unchanged if the area is not known.
+QString withTerrain(const QString &connection, const std::optional<geodata::SrsBounds> &area);
 
 } // namespace vlt::tables

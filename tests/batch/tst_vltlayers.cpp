@@ -124,7 +124,7 @@ private Q_SLOTS:
         // "Ясенево" in code page 1251, and a comma that is not a delimiter
         const QByteArray name = "\xdf\xf1\xe5\xed\xe5\xe2\xee";
         writeFile(path(u"s.csv"_s), "Site ID|a, b|Longitude|Latitude\n" + name + "|1|37,5|55,6\n");
-        const QString how = u" --encoding CP1251 --delimiter BAR"_s;
+        const QString how = u" --encoding CP1251 --delimiter BAR --swap-axes"_s;
 
         const Run info = start(u"info ../s.csv --json"_s + how);
         const Run site = start(u"site ../s.csv -o o.lay"_s + how);
@@ -136,7 +136,8 @@ private Q_SLOTS:
         QCOMPARE(reported.value(u"encoding"_s).toString(), u"CP1251"_s);
         QCOMPARE(site.errors, QByteArray());
         const QByteArray source = element(readFile(path(u"elsewhere/o.lay"_s)), "source");
-        QVERIFY2(source.contains("=200 20 2,encoding=CP1251,delimiter=bar,transmitter_scale=100,"),
+        QVERIFY2(source.contains(
+                     "=200 20 2,encoding=CP1251,delimiter=bar,axes=swapped,transmitter_scale=100,"),
                  source.constData());
         const QByteArray other = element(readFile(path(u"elsewhere/plain.lay"_s)), "source");
         QVERIFY2(other.contains("=200 20 2,transmitter_scale=100,"), other.constData());

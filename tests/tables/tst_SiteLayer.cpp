@@ -354,6 +354,10 @@ private Q_SLOTS:
         row("lower-case south", "ID;Lat;Lon\n1;33 51 0.0 s;18 30 0 e\n", "18.5 -33.85");
         row("degrees and decimal minutes",
             "ID;Lat Deg;Lat Min;Lon Deg;Lon Min\n1;47;30.0;-3;15.0\n", "-3.25 47.5");
+        const QByteArray swapped = "axes=swapped,";
+        row("exchanged axes", "ID;Lat;Lon\n1;-116.5;43.5\n", "-116.5 43.5", swapped);
+        row("exchanged parts", "ID;Lat;Lon\n1;116 30 0 W;43 30 0 N\n", "-116.5 43.5", swapped);
+        row("an exchanged pair", "ID;Coordinates\n1;\"2.5, 48.5\"\n", "2.5 48.5", swapped);
         row("null island", "ID;Lat;Lon\n1;0;0\n", {});
         row("unknown system in a title", "EPSG:999999\nID;Lat;Lon\n1;47;-3\n", "-3 47");
     }

@@ -77,6 +77,8 @@ TableOptions optionsOf(const GDALOpenInfo &info, const contract::ConnectionStrin
     options.sheet = option("SHEET", contract::query::Sheet);
     options.encoding = option("ENCODING", contract::query::Encoding);
     options.textOnly = EQUAL(CSLFetchNameValueDef(info.papszOpenOptions, "TYPES", ""), "TEXT");
+    options.swapsAxes =
+        EQUAL(option("AXES", contract::query::Axes).c_str(), contract::query::SwappedAxes);
     options.delimiter = delimiterOf(option("DELIMITER", contract::query::Delimiter));
     return options;
 }
@@ -146,6 +148,9 @@ constexpr char OpenOptions[] = "<OpenOptionList>"
                                "default='AUTO'>"
                                "<Value>AUTO</Value><Value>COMMA</Value><Value>SEMICOLON</"
                                "Value><Value>TAB</Value><Value>BAR</Value></Option>"
+                               "<Option name='AXES' type='string-select' description='Whether the "
+                               "columns of x and y are exchanged' default='AUTO'>"
+                               "<Value>AUTO</Value><Value>SWAPPED</Value></Option>"
                                "<Option name='EXTENT' type='string' description='Area of the "
                                "project: west,south,east,north in degrees; sites outside it are "
                                "reported'/>"

@@ -68,6 +68,15 @@ std::string baseName(const std::string &path)
     return dot == std::string::npos || dot == 0 ? file : file.substr(0, dot);
 }
 
+void swapAxes(TableFacts &facts)
+{
+    if (SiteLayout *sites = std::get_if<SiteLayout>(&facts.layout))
+        sites->point.swapAxes();
+    else
+        for (LinkEndFields &end : std::get<LinkLayout>(facts.layout).ends)
+            end.point.swapAxes();
+}
+
 } // namespace
 
 std::shared_ptr<TableFile> TableFile::open(const std::string &path, const TableOptions &options)
@@ -89,6 +98,8 @@ std::shared_ptr<TableFile> TableFile::open(const std::string &path, const TableO
         facts->layout = recogniseLinkLayout(*read.profile, vocabulary);
     else
         facts->layout = recogniseSiteLayout(*read.profile, vocabulary);
+    if (options.swapsAxes)
+        swapAxes(*facts);
     for (Field &field : facts->table.fields) // the samples are not needed any more
         field.samples = {};
     facts->table.sampledColumns = {};

@@ -20,6 +20,7 @@ struct TableOptions
     std::string encoding;
     char delimiter = 0;
     bool textOnly = false;
+    bool swapsAxes = false; ///< the columns of x hold y and the reverse
 
     bool operator==(const TableOptions &) const = default;
 };
@@ -34,6 +35,12 @@ struct TableFacts
 
     const SiteLayout &sites() const { return std::get<SiteLayout>(layout); }
     const LinkLayout &links() const { return std::get<LinkLayout>(layout); }
+    /// The columns of the position, of links those of end A.
+    const PointFields &point() const
+    {
+        const auto *sites = std::get_if<SiteLayout>(&layout);
+        return sites ? sites->point : std::get<LinkLayout>(layout).ends[0].point;
+    }
     const TableDeclaration &declaration() const
     {
         return std::visit([](const TableDeclaration &of) -> const TableDeclaration & { return of; },

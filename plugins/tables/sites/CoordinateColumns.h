@@ -6,6 +6,7 @@
 
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace vlt::driver {
@@ -42,7 +43,14 @@ struct PointFields
     int pair = -1; ///< field with both coordinates
     PairOrder pairOrder = PairOrder::LatitudeFirst;
     LetterO letterO = LetterO::Unknown; ///< in the longitudes
+    bool isPairSwapped = false;
 
+    /// Exchanges the coordinates.
+    void swapAxes()
+    {
+        std::swap(x, y);
+        isPairSwapped = !isPairSwapped;
+    }
     bool found() const { return pair >= 0 || (x.found() && y.found()); }
     bool uses(int field) const
     {

@@ -6,6 +6,7 @@
 #include "plugins/tables/values/CoordinatePair.h"
 
 #include <cmath>
+#include <utility>
 
 namespace vlt::driver {
 
@@ -121,6 +122,8 @@ Position PositionReader::read(int64_t row, const std::vector<const Cell *> &cell
             problems.push_back(problem(row, m_fields.pair, text, *pair.fault));
         else
             position = {true, pair.x, pair.y};
+        if (m_fields.isPairSwapped)
+            std::swap(position.x, position.y);
     } else {
         const bool x = readAxis(row, m_fields.x, Axis::X, cells, position.x, problems);
         const bool y = x && readAxis(row, m_fields.y, Axis::Y, cells, position.y, problems);

@@ -599,5 +599,9 @@
         <source>this name is not in UTF-8: rename the file</source>
         <translation>this name is not in UTF-8: rename the file</translation>
     </message>
+    <message id="MESS_OPT_SWAP_AXES">
+        <source>Exchange the coordinates: the table has latitudes in the column of longitudes, or northings in that of eastings.</source>
+        <translation>Exchange the coordinates: the table has latitudes in the column of longitudes, or northings in that of eastings.</translation>
+    </message>
 </context>
 </TS>

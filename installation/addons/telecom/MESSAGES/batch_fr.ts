@@ -599,5 +599,9 @@
         <source>this name is not in UTF-8: rename the file</source>
         <translation>ce nom n'est pas en UTF-8 : renommez le fichier</translation>
     </message>
+    <message id="MESS_OPT_SWAP_AXES">
+        <source>Exchange the coordinates: the table has latitudes in the column of longitudes, or northings in that of eastings.</source>
+        <translation>Inverse les coordonnées&#xa0;: le tableau a les latitudes dans la colonne des longitudes, ou les ordonnées dans celle des abscisses.</translation>
+    </message>
 </context>
 </TS>
