@@ -90,11 +90,12 @@ inline constexpr char TerrainFile[] = "dem_file";
 
 /// The subject of an option, which determines its reader.
 enum class OptionPurpose {
-    Placing, ///< coordinate systems; read by the table driver
-    Reading, ///< how the table is read; read by the table driver
-    Pylons,  ///< appearance of pylons; read by the scene readers of sites and of links
-    Links,   ///< appearance and clearance of links; read by the scene reader of links
-    Heights, ///< the terrain; read by the scene reader of links
+    Placing,  ///< coordinate systems; read by the table driver
+    Checking, ///< what is compared with the table; read by the table driver, not in layers
+    Reading,  ///< how the table is read; read by the table driver
+    Pylons,   ///< appearance of pylons; read by the scene readers of sites and of links
+    Links,    ///< appearance and clearance of links; read by the scene reader of links
+    Heights,  ///< the terrain; read by the scene reader of links
 };
 
 /// An option of queries.
@@ -112,7 +113,7 @@ struct QueryOption
 inline constexpr auto QueryOptions = std::to_array<QueryOption>({
     {query::SourceSystem, OptionPurpose::Placing},
     {query::TargetSystem, OptionPurpose::Placing},
-    {query::Extent, OptionPurpose::Placing},
+    {query::Extent, OptionPurpose::Checking},
     {query::DataFolder, OptionPurpose::Pylons},
     {query::PylonType, OptionPurpose::Pylons},
     {query::PylonWidth, OptionPurpose::Pylons, {query::PylonWidthM}},

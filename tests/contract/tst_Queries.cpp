@@ -22,7 +22,7 @@ Input fullInput()
 {
     Input input;
     input.file.filePath = u"/p/t.csv"_s;
-    input.file.reading = {u"S"_s, u"CP1250"_s, u"tab"_s};
+    input.file.reading = {u"S"_s, u"CP1250"_s, u"tab"_s, true};
     input.sourceSrs = u"4326"_s;
     input.targetSrs = u"2154"_s;
     input.catalogues = {{{u"monopole_panel"_s, {}, {}}}, {{{QColor(255, 0, 0)}, {}, {}}}};
@@ -85,6 +85,8 @@ private Q_SLOTS:
         std::vector<std::string> all;
         std::vector<std::string> ofSites;
         for (const QueryOption &option : QueryOptions) {
+            if (option.purpose == OptionPurpose::Checking)
+                continue;
             all.emplace_back(option.key);
             if (option.purpose != OptionPurpose::Links && option.purpose != OptionPurpose::Heights)
                 ofSites.emplace_back(option.key);
