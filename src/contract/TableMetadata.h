@@ -32,6 +32,11 @@ inline constexpr char FindingCount[] = "COUNT";
 inline constexpr char FindingPrefix[] = "FINDING_";
 inline constexpr char FindingSeparator = '|';
 
+// The domain of systems, of tables in metres: EPSG codes, separated by blanks.
+inline constexpr char SystemsDomain[] = "systems";
+inline constexpr char NamedSystems[] = "NAMED"; ///< those that the table names in words
+inline constexpr char KnownSystems[] = "KNOWN"; ///< all that have a name in the vocabulary
+
 // The domain of roles says how the columns were understood: the shape of the table in words, and an
 // item for each column that has a role, ROLE_1=role|number of the transmitter or
 // nothing|column|why.

@@ -385,6 +385,27 @@ private Q_SLOTS:
                  position.isEmpty());
     }
 
+    void findsSystemsNamedInWords_data()
+    {
+        const Cases<QByteArray, QByteArray> row({"table", "codes"});
+        const QByteArray site = "\n1;652000.5;6862000.25\n";
+        row("none", "ID;X;Y" + site, "");
+        row("a title", "Sites, RGF93 / Lambert-93\nID;X;Y" + site, "2154");
+        row("columns", "ID;X_BNG;Y_BNG" + site, "27700");
+        row("a name within another one", "CH1903+ / LV95\nID;E;N" + site, "2056 21781");
+        row("letters of another word", "Birds of record\nID;X;Y" + site, "");
+    }
+    void findsSystemsNamedInWords()
+    {
+        QFETCH(QByteArray, table);
+        const Warnings warnings;
+        write("w.csv", table);
+        const auto dataset = open("w.csv");
+        QVERIFY(dataset);
+
+        QTEST(QByteArray(dataset->GetLayer(0)->GetMetadataItem("NAMED", "systems")), "codes");
+    }
+
     void transformsToTheTargetSystem()
     {
         const Warnings warnings;

@@ -111,14 +111,14 @@ void add(std::vector<Finding> &findings, std::optional<Finding> finding)
 std::vector<Finding> diagnose(const Positions &positions, const SystemFacts &system)
 {
     std::vector<Finding> findings;
-    if (positions.empty())
-        return findings;
     if (!system.isKnown)
         findings.push_back({FindingKind::Undeclared,
                             positions.size(),
                             {},
                             {},
                             formatted("MESS_TAB_DOCTOR_UNDECLARED")});
+    if (positions.empty())
+        return findings;
     if (auto mistake = mistakeOfAll(positions, system)) {
         findings.push_back(std::move(*mistake));
     } else {

@@ -4,6 +4,7 @@
 #include "contract/TableTexts.h"
 #include "plugins/tables/bytes/Refusal.h"
 #include "plugins/tables/roles/Vocabulary.h"
+#include "plugins/tables/sites/SystemNames.h"
 
 #include <cpl_conv.h>
 #include <cpl_error.h>
@@ -67,6 +68,24 @@ TableLayer::TableLayer(TableSource source, const std::string &name, int partCoun
     OGRLayer::SetMetadataItem(metadata::HeaderRows, headerRows(facts().table.header).c_str());
     if (const std::string &encoding = facts().table.encoding.name; !encoding.empty())
         OGRLayer::SetMetadataItem(metadata::Encoding, encoding.c_str());
+    setSystems();
+}
+
+/// Sets the systems that may be that of a table in metres: NAMED has the EPSG codes of those that
+/// the table names in words, KNOWN those of all that the vocabulary has, separated by blanks.
+void TableLayer::setSystems()
+{
+    if (facts().declaration().unit != CoordinateUnit::Meters)
+        return;
+    const Vocabulary &vocabulary = installedVocabulary().words;
+    std::string named;
+    for (const std::string &code : systemsNamed(facts().table, facts().point(), vocabulary))
+        named += (named.empty() ? "" : " ") + code;
+    std::string known;
+    for (const NamedSystem &system : vocabulary.systems())
+        known += (known.empty() ? "" : " ") + system.epsg;
+    OGRLayer::SetMetadataItem(metadata::NamedSystems, named.c_str(), metadata::SystemsDomain);
+    OGRLayer::SetMetadataItem(metadata::KnownSystems, known.c_str(), metadata::SystemsDomain);
 }
 
 TableLayer::~TableLayer()
@@ -300,9 +319,9 @@ void TableLayer::finish(TableSurvey &survey) const
     survey.findings = diagnose(survey.positions.all(), systems().facts());
     survey.positions = {};
     for (auto finding = survey.findings.rbegin(); finding != survey.findings.rend(); ++finding) {
-        // The systems report that no positions can be transformed.
-        if (finding->kind != FindingKind::Undeclared || !systems().isUnreachable())
-            survey.problems.addFirst({0, {}, false, finding->text});
+        if (finding->kind == FindingKind::Undeclared && systems().isUnreachable())
+            finding->text = formatted("MESS_TAB_NO_SOURCE_SRS");
+        survey.problems.addFirst({0, {}, false, finding->text});
     }
 }
 

@@ -103,6 +103,7 @@ private:
         std::optional<TableSurvey> survey;
     };
 
+    void setSystems();
     Walk startWalk();
     std::unique_ptr<OGRFeature> makeFeature(const TableRow &row, int part);
     std::unique_ptr<OGRFeature> readFeature();

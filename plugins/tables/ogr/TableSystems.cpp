@@ -127,8 +127,9 @@ SystemFacts TableSystems::facts() const
     CoordinateBox area;
     const char *name = nullptr;
     constexpr double World = 359; // degrees
+    constexpr double West = -180; // the library gives -1000 for a system without an area
     if (m_file && m_file->GetAreaOfUse(&area.minX, &area.minY, &area.maxX, &area.maxY, &name) &&
-        area.maxX - area.minX < World)
+        area.minX >= West && area.maxX - area.minX < World)
         facts.area = inFile(area);
     return facts;
 }
@@ -150,8 +151,6 @@ void TableSystems::addProblems(ProblemList &problems) const
 {
     if (!m_unknownEpsg.empty())
         problems.add({0, {}, false, formatted("MESS_TAB_UNKNOWN_EPSG", {m_unknownEpsg})});
-    if (m_isUnreachable)
-        problems.add({0, {}, false, formatted("MESS_TAB_NO_SOURCE_SRS")});
 }
 
 } // namespace vlt::driver

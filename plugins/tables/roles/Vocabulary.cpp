@@ -212,6 +212,18 @@ void Vocabulary::add(std::string_view text)
         if (const Json *texts = memberOf(units, unit.name))
             addTo(*texts, [&unit](WordMeaning &meaning) { meaning.*unit.member = unit.size; });
     }
+    std::vector<NamedSystem> systems;
+    for (const Json &entry : section("systems")) {
+        const Json *epsg = entry.is_object() ? memberOf(entry, "epsg") : nullptr;
+        const Json *names = epsg ? memberOf(entry, "names") : nullptr;
+        if (!names || !epsg->is_number_integer())
+            throw std::invalid_argument("a system needs \"epsg\" and \"names\"");
+        systems.push_back({std::to_string(epsg->get<int>()), {}});
+        forEachText(*names, [&systems](const std::string &name) {
+            systems.back().names.push_back(nameWords(name));
+        });
+    }
+    m_systems.insert(m_systems.begin(), systems.begin(), systems.end());
     const auto addFolded = [&](const char *name, std::unordered_set<std::string> &to) {
         forEachText(section(name), [&to](const std::string &t) { to.insert(folded(t)); });
     };

@@ -57,6 +57,13 @@ struct KnownTable
     std::map<std::size_t, ValueTest> tests; ///< by column
 };
 
+/// A coordinate system that tables name in words.
+struct NamedSystem
+{
+    std::string epsg;                            ///< code
+    std::vector<std::vector<std::string>> names; ///< the words of each, as nameWords() gives them
+};
+
 /// The words by which columns and values of tables are recognised. They are data, not code: the
 /// installation has a file of them, and a user may add one of his own.
 class Vocabulary
@@ -78,6 +85,8 @@ public:
     bool isTotal(std::string_view text) const { return isIn(m_totals, text); }
     /// Whether a text in a column of azimuths means all directions.
     bool isOmni(std::string_view text) const { return isIn(m_omni, text); }
+    /// The systems of countries, those of a user first.
+    const std::vector<NamedSystem> &systems() const { return m_systems; }
 
     /// The tables that are known without a header, those of the user last.
     const std::vector<KnownTable> &knownTables() const { return m_knownTables; }
@@ -107,6 +116,7 @@ private:
     std::vector<std::string> m_languages; ///< in the order of their bits
     std::uint32_t m_westO = 0;            ///< languages in which O is west
     std::uint32_t m_eastO = 0;
+    std::vector<NamedSystem> m_systems;
     std::size_t m_longestPhrase = 1;
 };
 
