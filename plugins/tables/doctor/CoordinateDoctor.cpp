@@ -7,6 +7,7 @@
 #include "plugins/tables/doctor/WholeTable.h"
 
 #include <algorithm>
+#include <cmath>
 #include <tuple>
 
 namespace vlt::driver {
@@ -81,13 +82,14 @@ std::optional<Finding> stack(Positions positions)
 }
 
 /// The positions outside the terrain, but for those of rows with a finding of their own.
-std::optional<Finding> outsideTerrain(const Positions &positions, const CoordinateBox &terrain,
+std::optional<Finding> outsideTerrain(const Positions &positions, const SystemFacts &system,
                                       std::vector<int64_t> explained)
 {
     std::sort(explained.begin(), explained.end());
     std::vector<int64_t> rows;
     for (const SurveyedPosition &position : positions) {
-        if (!terrain.holds(position.x, position.y) &&
+        if (!system.terrain->holds(position.x, position.y) &&
+            system.arePossible(position.x, position.y) &&
             !std::binary_search(explained.begin(), explained.end(), position.row))
             rows.push_back(position.row);
     }
@@ -108,6 +110,11 @@ void add(std::vector<Finding> &findings, std::optional<Finding> finding)
 
 } // namespace
 
+bool SystemFacts::arePossible(double x, double y) const
+{
+    return !isGeographic() || (std::abs(x) <= halfTurn && 2 * std::abs(y) <= halfTurn);
+}
+
 std::vector<Finding> diagnose(const Positions &positions, const SystemFacts &system)
 {
     std::vector<Finding> findings;
@@ -126,7 +133,7 @@ std::vector<Finding> diagnose(const Positions &positions, const SystemFacts &sys
         for (Finding &finding : mistakesOfSome(positions, system, rows))
             findings.push_back(std::move(finding));
         if (system.terrain)
-            add(findings, outsideTerrain(positions, *system.terrain, std::move(rows)));
+            add(findings, outsideTerrain(positions, system, std::move(rows)));
     }
     if (std::vector<int64_t> rows = duplicateIds(positions); !rows.empty()) {
         Finding finding = findingOf(FindingKind::DuplicateId, std::move(rows));

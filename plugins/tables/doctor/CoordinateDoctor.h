@@ -33,6 +33,8 @@ struct SystemFacts
     std::optional<CoordinateBox> terrain; ///< of the project
 
     bool isGeographic() const { return halfTurn > 0; }
+    /// Whether coordinates can be those of a position.
+    bool arePossible(double x, double y) const;
 };
 
 /// Finds what is wrong with the positions of a table as a whole. Takes time for sorting them at

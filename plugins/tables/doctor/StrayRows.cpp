@@ -47,11 +47,6 @@ public:
             m_scaleX *= std::max(MinCosine, std::cos(m_middle.y / system.halfTurn * M_PI));
     }
 
-    /// Whether coordinates can be those of a position.
-    bool arePossible(double x, double y) const
-    {
-        return m_fullTurn == 0 || (2 * std::abs(x) <= m_fullTurn && 4 * std::abs(y) <= m_fullTurn);
-    }
     double eastM(double x) const
     {
         const double dx = x - m_middle.x;
@@ -134,7 +129,8 @@ void separate(const std::vector<const SurveyedPosition *> &unexplained, const Di
     }
 }
 
-Strays findStrays(const Positions &positions, const Distances &distances, double spreadM)
+Strays findStrays(const Positions &positions, const SystemFacts &system, const Distances &distances,
+                  double spreadM)
 {
     const double nearM = std::max(MinNearM, NearSpreads * spreadM);
     const double farM = std::max(MinFarM, FarSpreads * spreadM);
@@ -148,8 +144,12 @@ Strays findStrays(const Positions &positions, const Distances &distances, double
         const auto found = std::find_if(all.begin(), all.end(), [&](const Correction &by) {
             const double x = by.x(position);
             const double y = by.y(position);
-            return distances.arePossible(x, y) && distances.metres(x, y) <= nearM;
+            return system.arePossible(x, y) && distances.metres(x, y) <= nearM;
         });
+        // The reader reports a position beyond the globe by its row and column.
+        const bool isSwap = found != all.end() && found->isSwap;
+        if (!isSwap && !system.arePossible(position.x, position.y))
+            continue;
         if (found == all.end())
             unexplained.push_back(&position);
         else
@@ -212,13 +212,13 @@ std::vector<Finding> mistakesOfSome(const Positions &positions, const SystemFact
     if (positions.size() < MinPositions)
         return {};
     const Distances distances(positions, system);
-    Strays strays = findStrays(positions, distances, distances.spreadM(positions, 0.75));
+    Strays strays = findStrays(positions, system, distances, distances.spreadM(positions, 0.75));
     // Of a table that covers distant places a part lies far away without any mistake.
     if (strays.corrected.size() < strays.supported)
         strays.corrected.clear();
     if (strays.corrected.empty() && strays.outliers.empty()) {
         // Half of the positions may be wrong, if that explains everything.
-        strays = findStrays(positions, distances, distances.spreadM(positions, 0.5));
+        strays = findStrays(positions, system, distances, distances.spreadM(positions, 0.5));
         if (strays.supported > 0 || !strays.outliers.empty())
             return {};
     }
