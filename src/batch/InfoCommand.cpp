@@ -5,6 +5,7 @@
 #include "batch/InfoReport.h"
 #include "batch/LayerCommand.h"
 #include "batch/StartUp.h"
+#include "contract/QueryOptions.h"
 #include "geodata/LayerProblems.h"
 #include "language/VltLanguageManager.h"
 #include "links/LinkColumnDescription.h"
@@ -98,14 +99,23 @@ InfoReport linkReport(const links::LinkFileInfo &file)
 Result<InfoReport> withRows(InfoReport report, contract::TableKind kind)
 {
     // The progress line never stops the work, so there is a value.
-    const Result<geodata::SiteCheck> check = *geodata::readSiteCheck(
-        report.file.reading.connection(kind, report.file.filePath), {}, report.file.systems);
+    const tables::TableFileInfo &file = report.file;
+    const QString source = file.systems.source.isEmpty()
+                               ? QString()
+                               : QLatin1String(contract::query::SourceSystem) + QLatin1Char('=') +
+                                     file.systems.source + QLatin1Char(',');
+    const QString connection =
+        tables::withTerrain(file.reading.connection(kind, file.filePath, source), file.terrainArea);
+    const Result<geodata::SiteCheck> check = *geodata::readSiteCheck(connection, {}, file.systems);
     if (!check)
         return check.error();
-    const QList<Problem> ofSystems =
-        tables::systemProblems(report.file.unit, report.file.systems, check.value().systems);
-    report.problems.count += ofSystems.size() + check.value().problems.count;
-    report.problems.listed += ofSystems + check.value().problems.listed;
+    const geodata::SystemCheck &systems = check.value().systems;
+    const QList<Problem> ofSystems = tables::systemProblems(file, file.systems, systems);
+    const geodata::LayerProblems others =
+        tables::otherProblems(file, file.systems, systems, check.value().problems);
+    report.problems.count += ofSystems.size() + others.count;
+    report.problems.listed += ofSystems + others.listed;
+    report.problems.findings = others.findings;
     return report;
 }
 

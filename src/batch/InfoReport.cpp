@@ -12,6 +12,8 @@ namespace vlt::batch {
 
 namespace {
 
+constexpr int MaxCandidates = 3; ///< coordinate systems of a table that declares none
+
 QList<Line> fileLines(const InfoReport &report)
 {
     const tables::TableFileInfo &file = report.file;
@@ -94,6 +96,28 @@ QJsonArray problemsJson(const geodata::LayerProblems &problems)
     return array;
 }
 
+QJsonArray candidatesJson(const QList<geodata::SystemCandidate> &candidates)
+{
+    QJsonArray array;
+    for (const geodata::SystemCandidate &candidate : candidates.mid(0, MaxCandidates))
+        array.append(QJsonObject{{QStringLiteral("code"), candidate.code},
+                                 {QStringLiteral("name"), candidate.name},
+                                 {QStringLiteral("area"), candidate.area},
+                                 {QStringLiteral("longitude"), candidate.longitude},
+                                 {QStringLiteral("latitude"), candidate.latitude}});
+    return array;
+}
+
+QJsonArray findingsJson(const QList<geodata::PositionFinding> &findings)
+{
+    QJsonArray array;
+    for (const geodata::PositionFinding &finding : findings)
+        array.append(QJsonObject{{QStringLiteral("kind"), finding.kind},
+                                 {QStringLiteral("cure"), finding.cure},
+                                 {QStringLiteral("text"), language::readerText(finding.text)}});
+    return array;
+}
+
 } // namespace
 
 QString problemText(const Problem &problem)
@@ -132,6 +156,10 @@ QJsonObject reportJson(const InfoReport &report)
                        {QStringLiteral("columns"), report.columnNames},
                        {QStringLiteral("problemCount"), report.problems.count},
                        {QStringLiteral("problems"), problemsJson(report.problems)}};
+    if (!file.candidates.isEmpty())
+        object.insert(QStringLiteral("systemCandidates"), candidatesJson(file.candidates));
+    if (!report.problems.findings.isEmpty())
+        object.insert(QStringLiteral("findings"), findingsJson(report.problems.findings));
     if (!file.encoding.isEmpty())
         object.insert(QStringLiteral("encoding"), file.encoding);
     if (!file.roles.isEmpty()) {

@@ -5,6 +5,7 @@
 #include "batch/InfoReport.h"
 #include "batch/OutputFiles.h"
 #include "batch/SiteOptions.h"
+#include "language/ReaderText.h"
 #include "language/VltLanguageManager.h"
 #include "platform/LayerFile.h"
 
@@ -40,7 +41,8 @@ QList<QCommandLineOption> layerOptions()
                {QStringLiteral("source-srs"),
                 dico_label("MESS_OPT_SOURCE_SRS",
                            "Coordinate system of the table (default: the one that the table "
-                           "declares, else 4326 for degrees, else the terrain's)."),
+                           "declares, else 4326 for degrees, else the terrain's, the one "
+                           "that the table names, or the project's)."),
                 QStringLiteral("SRS")},
                {QStringLiteral("target-srs"),
                 dico_label("MESS_OPT_TARGET_SRS",
@@ -159,6 +161,8 @@ void warnOfSystems(const LayerOutcome &outcome)
 {
     for (const Problem &problem : outcome.systemProblems)
         printError(problemText(problem));
+    for (const geodata::PositionFinding &finding : outcome.findings)
+        printError(oneLine(language::readerText(finding.text)));
 }
 
 void warnOfLayer(const LayerOutcome &outcome, const geodata::SystemPair &systems)

@@ -32,6 +32,7 @@ struct LayerOutcome
     qint64 placed = 0;
     qint64 unplacedRows = 0;
     QList<Problem> systemProblems; ///< contradictions between the table and the coordinate systems
+    QList<geodata::PositionFinding> findings; ///< about all positions
 };
 
 /// The options for the output, the coordinate systems and the representation of pylons.
@@ -58,21 +59,21 @@ Result<tables::TableReading> readReading(const QCommandLineParser &parser);
 
 /// The result of a check; a row with several problems counts once.
 ///
-/// @param unit     of the table's coordinates, as in TableFileInfo
 /// @param systems  coordinate systems of the rows and of the project
 template<typename Check>
-LayerOutcome layerOutcome(const Check &check, const QString &unit,
+LayerOutcome layerOutcome(const Check &check, const tables::TableFileInfo &file,
                           const geodata::SystemPair &systems)
 {
     return {check.placement.placed, unplacedRows(check.placement, check.problems),
-            tables::systemProblems(unit, systems, check.systems)};
+            tables::systemProblems(file, systems, check.systems),
+            tables::otherProblems(file, systems, check.systems, check.problems).findings};
 }
 
 /// Writes a finished layer, for "-" to the standard output, and warns if its page is missing.
 /// Returns an exit status only after a failure.
 std::optional<ExitStatus> writeLayer(const QString &path, const Result<tables::TableLayer> &layer);
 
-/// Prints the warnings about the coordinate systems on the error output.
+/// Prints the warnings about the coordinate systems and the positions on the error output.
 void warnOfSystems(const LayerOutcome &outcome);
 
 /// Warns of rows without a position, and of wrong or missing coordinate systems, on the error

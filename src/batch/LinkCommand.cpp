@@ -9,6 +9,7 @@
 #include "batch/SiteOptions.h"
 #include "language/VltLanguageManager.h"
 #include "links/LinkLayer.h"
+#include "tables/SystemObstacle.h"
 
 #include <QFileInfo>
 #include <QJsonDocument>
@@ -85,8 +86,9 @@ Result<geodata::LinkCheck> readLinks(const links::LinkLayerInput &input, const L
     if (wanted.report)
         check.terrainFile = input.project.terrainFile;
     ProgressLine line(dico_label("MESS_CLI_READING_LINKS", "Reading the links"), !quiet);
-    const QString connection =
-        sites::resolvedConnection(links::linkQuery(input), input.project.directory());
+    const QString connection = tables::withTerrain(
+        sites::resolvedConnection(links::linkQuery(input), input.project.directory()),
+        input.file.terrainArea);
     // The progress line never stops the work, so there is a value.
     return *geodata::readLinkCheck(connection, check, line.progress(),
                                    {input.sourceSrs, input.targetSrs});
@@ -122,7 +124,11 @@ ExitStatus makeLayer(const links::LinkLayerInput &input, const LayerRequest &req
     if (!check)
         return refuse(check.error().withPath(request.table));
     const geodata::SystemPair systems{input.sourceSrs, input.targetSrs};
-    const LayerOutcome outcome = layerOutcome(check.value(), input.file.unit, systems);
+    const LayerOutcome outcome = layerOutcome(check.value(), input.file, systems);
+    if (const auto unknown = tables::undeclaredObstacle(input.file, systems)) {
+        warnOfSystems(outcome);
+        return refuse(unknown->withPath(request.table));
+    }
     if (outcome.placed == 0) {
         warnOfSystems(outcome);
         return refuse({QStringLiteral("MESS_CLI_NO_LINK_PLACED"),
@@ -168,6 +174,8 @@ ExitStatus runParsed(const QCommandLineParser &parser, const LinkRequest &wanted
     if (!file)
         return refuse(file.error().withPath(request.table));
     input.file = file.value();
+    input.file.isUndeclared =
+        input.file.isUndeclared && !parser.isSet(QStringLiteral("source-srs"));
     const geodata::SystemPair systems = chosenSystems(parser, input.file.systems);
     if (const auto refusal = tables::systemRefusal(systems))
         return refuse(*refusal);

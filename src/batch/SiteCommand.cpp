@@ -7,6 +7,7 @@
 #include "batch/ProgressLine.h"
 #include "batch/SiteOptions.h"
 #include "language/VltLanguageManager.h"
+#include "tables/SystemObstacle.h"
 
 #include <QFileInfo>
 #include <QJsonDocument>
@@ -40,15 +41,16 @@ CommandSyntax syntax()
 Result<LayerOutcome> placeSites(const sites::SiteLayerInput &input, bool quiet)
 {
     const geodata::SystemPair systems{input.sourceSrs, input.targetSrs};
-    const QString connection =
-        sites::resolvedConnection(sites::siteQuery(input), input.project.directory());
+    const QString connection = tables::withTerrain(
+        sites::resolvedConnection(sites::siteQuery(input), input.project.directory()),
+        input.file.terrainArea);
     ProgressLine line(dico_label("MESS_CLI_READING", "Reading the sites"), !quiet);
     // The progress line never stops the work, so there is a value.
     const Result<geodata::SiteCheck> check =
         *geodata::readSiteCheck(connection, line.progress(), systems);
     if (!check)
         return check.error();
-    return layerOutcome(check.value(), input.file.unit, systems);
+    return layerOutcome(check.value(), input.file, systems);
 }
 
 ExitStatus makeLayer(const sites::SiteLayerInput &input, const LayerRequest &request,
@@ -57,6 +59,11 @@ ExitStatus makeLayer(const sites::SiteLayerInput &input, const LayerRequest &req
     const Result<LayerOutcome> outcome = placeSites(input, options.quiet);
     if (!outcome)
         return refuse(outcome.error().withPath(request.table));
+    if (const auto unknown =
+            tables::undeclaredObstacle(input.file, {input.sourceSrs, input.targetSrs})) {
+        warnOfSystems(outcome.value());
+        return refuse(unknown->withPath(request.table));
+    }
     if (outcome.value().placed == 0) {
         warnOfSystems(outcome.value());
         return refuse(
@@ -94,6 +101,8 @@ ExitStatus runParsed(const QCommandLineParser &parser, const GlobalOptions &opti
     if (!file)
         return refuse(file.error().withPath(request.table));
     input.file = file.value();
+    input.file.isUndeclared =
+        input.file.isUndeclared && !parser.isSet(QStringLiteral("source-srs"));
     const geodata::SystemPair systems = chosenSystems(parser, input.file.systems);
     if (const auto refusal = tables::systemRefusal(systems))
         return refuse(*refusal);

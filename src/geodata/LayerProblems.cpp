@@ -53,6 +53,15 @@ LayerProblems problemsOf(OGRLayer &layer)
     }
     const qint64 declared =
         QByteArray(CSLFetchNameValueDef(items, contract::metadata::ProblemCount, "0")).toLongLong();
+    items = layer.GetMetadata(contract::metadata::DoctorDomain);
+    for (char **item = items; item && *item; ++item) {
+        const QString text = platform::decodeText(*item);
+        const QString finding = text.section(QLatin1Char('='), 1);
+        if (text.startsWith(QLatin1String(contract::metadata::FindingPrefix)))
+            problems.findings << PositionFinding{finding.section(QLatin1Char('|'), 0, 0),
+                                                 finding.section(QLatin1Char('|'), 1, 1),
+                                                 finding.section(QLatin1Char('|'), 2)};
+    }
     problems.count = qMax<qint64>(declared, problems.listed.size());
     return problems;
 }

@@ -10,11 +10,20 @@ class OGRLayer;
 
 namespace vlt::geodata {
 
+/// A mistake in all positions of a table together, or in those of several rows.
+struct PositionFinding
+{
+    QString kind; ///< as the table driver names it: "swapped", "unitSystem" ...
+    QString cure; ///< "swapAxes", "sourceSrs=EPSG:n" or empty
+    QString text; ///< English
+};
+
 /// Rows and values that a table's driver skipped or repaired.
 struct LayerProblems
 {
-    qint64 count = 0;      ///< all of them
-    QList<Problem> listed; ///< the first of them; a driver may list only a limited number
+    qint64 count = 0;                ///< all of them
+    QList<Problem> listed;           ///< the first of them; a driver may list only a limited number
+    QList<PositionFinding> findings; ///< also among the problems
 };
 
 /// Result of reading all rows of a site table.

@@ -28,4 +28,16 @@ std::optional<Error> systemObstacle(const geodata::SystemPair &systems)
     return std::nullopt;
 }
 
+std::optional<Error> undeclaredObstacle(const TableFileInfo &file,
+                                        const geodata::SystemPair &systems)
+{
+    if (!file.isUndeclared || !systems.source.isEmpty() || !systems.target.isEmpty())
+        return std::nullopt;
+    return Error{{},
+                 dico_label("MESS_NO_LAYER_UNDECLARED",
+                            "No layer can be made: the coordinates are in meters, and their "
+                            "coordinate system is not known"),
+                 {}};
+}
+
 } // namespace vlt::tables

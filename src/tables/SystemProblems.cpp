@@ -5,6 +5,8 @@
 #include "language/ErrorText.h"
 #include "language/VltLanguageManager.h"
 
+#include <algorithm>
+
 namespace vlt::tables {
 
 using geodata::SrsFacts;
@@ -43,6 +45,61 @@ QString unitProblem(const QString &unit, const QString &source, const SrsFacts &
     return {};
 }
 
+QString assumptionReason(AssumedFrom from)
+{
+    switch (from) {
+    case AssumedFrom::Terrain:
+        return dico_label("MESS_SRS_FROM_TERRAIN", "it is that of the project's terrain");
+    case AssumedFrom::Name:
+        return dico_label("MESS_SRS_FROM_NAME", "the table names it in words");
+    case AssumedFrom::Project:
+        return dico_label("MESS_SRS_FROM_PROJECT", "it is that of the project");
+    case AssumedFrom::Positions:
+        return dico_label("MESS_SRS_FROM_POSITIONS",
+                          "the positions lie in the area of use of no other system that was tried");
+    case AssumedFrom::Nothing:
+        break;
+    }
+    return dico_label("MESS_SRS_FROM_CHOICE", "it is the one chosen now");
+}
+
+/// A candidate with the place of the sites.
+QString candidateText(const geodata::SystemCandidate &candidate)
+{
+    constexpr int Decimals = 4;
+    QString text = dico_label("MESS_SRS_CANDIDATE_PLACE", "%1 (%2): the sites lie near %3, %4")
+                       .arg(candidate.code, candidate.name,
+                            QString::number(candidate.longitude, 'f', Decimals),
+                            QString::number(candidate.latitude, 'f', Decimals));
+    return candidate.area.isEmpty() ? text : text + QStringLiteral(" (%1)").arg(candidate.area);
+}
+
+/// What is assumed about a table without a system, and which systems are possible.
+QList<Problem> assumptions(const TableFileInfo &file, const QString &source, const SrsFacts &facts)
+{
+    constexpr int MaxCandidates = 3;
+    QList<Problem> problems;
+    if (!file.isUndeclared)
+        return problems;
+    const bool isSuggested =
+        geodata::listedCode(source) == geodata::listedCode(file.systems.source);
+    if (!source.isEmpty())
+        problems << warning(
+            dico_label("MESS_SRS_ASSUMED",
+                       "the table declares no coordinate system: %1 is assumed, because %2")
+                .arg(label(geodata::listedCode(source), facts),
+                     assumptionReason(isSuggested ? file.assumedFrom : AssumedFrom::Nothing)));
+    if (isSuggested && file.assumedFrom != AssumedFrom::Nothing)
+        return problems;
+    QStringList candidates;
+    for (const geodata::SystemCandidate &candidate : file.candidates.mid(0, MaxCandidates))
+        candidates << candidateText(candidate);
+    if (!candidates.isEmpty())
+        problems << warning(dico_label("MESS_SRS_CANDIDATES", "possible coordinate systems: %1")
+                                .arg(candidates.join(QStringLiteral("; "))));
+    return problems;
+}
+
 QList<Problem> refusals(const geodata::SystemPair &systems, const geodata::SystemCheck &check)
 {
     QList<Problem> problems;
@@ -59,14 +116,16 @@ QList<Problem> refusals(const geodata::SystemPair &systems, const geodata::Syste
 
 } // namespace
 
-QList<Problem> systemProblems(const QString &unit, const geodata::SystemPair &systems,
+QList<Problem> systemProblems(const TableFileInfo &file, const geodata::SystemPair &systems,
                               const geodata::SystemCheck &check)
 {
+    const QList<Problem> assumed = assumptions(file, systems.source, check.source);
     QList<Problem> problems = refusals(systems, check);
-    if (const QString text = unitProblem(unit, systems.source, check.source); !text.isEmpty())
+    if (const QString text = unitProblem(file.unit, systems.source, check.source); !text.isEmpty())
         problems << warning(text);
     if (!problems.isEmpty()) // positions outside the area would only follow from these problems
-        return problems;
+        return assumed + problems;
+    problems = assumed;
 
     const auto addOutside = [&](qint64 outside, const QString &system, const SrsFacts &facts) {
         if (outside > 0)
@@ -79,6 +138,26 @@ QList<Problem> systemProblems(const QString &unit, const geodata::SystemPair &sy
     if (geodata::listedCode(systems.target) != geodata::listedCode(systems.source))
         addOutside(check.outsideTarget, systems.target, check.target);
     return problems;
+}
+
+geodata::LayerProblems otherProblems(const TableFileInfo &file, const geodata::SystemPair &systems,
+                                     const geodata::SystemCheck &check,
+                                     geodata::LayerProblems ofRows)
+{
+    if (unitProblem(file.unit, systems.source, check.source).isEmpty())
+        return ofRows;
+    QStringList repeated;
+    for (const geodata::PositionFinding &finding : std::as_const(ofRows.findings)) {
+        if (finding.kind == QLatin1String("unitSystem"))
+            repeated << finding.text;
+    }
+    ofRows.count -= ofRows.listed.removeIf([&repeated](const Problem &problem) {
+        return problem.row == 0 && repeated.contains(problem.text);
+    });
+    ofRows.findings.removeIf([&repeated](const geodata::PositionFinding &finding) {
+        return repeated.contains(finding.text);
+    });
+    return ofRows;
 }
 
 std::optional<Error> systemRefusal(const geodata::SystemPair &systems)

@@ -54,6 +54,35 @@ KnownSystems knownSystems(const TableFileInfo &info, const project::ProjectConte
     return known;
 }
 
+bool isUndeclared(const TableFileInfo &info)
+{
+    return info.unit == QLatin1String("METERS") &&
+           (info.epsg.isEmpty() || info.epsg == QLatin1String("0"));
+}
+
+/// Completes the suggested source of a table that declares no system, so that every program makes
+/// the same layer from it.
+void assumeSystem(TableFileInfo &info, const KnownSystems &known, const QString &connection)
+{
+    info.isUndeclared = true;
+    info.candidates = geodata::systemCandidates(connection, info.projectSystems, info.terrainArea);
+    QString &source = info.systems.source;
+    if (!source.isEmpty()) {
+        info.assumedFrom = AssumedFrom::Terrain;
+    } else if (!info.candidates.isEmpty() && info.candidates.constFirst().isNamed) {
+        info.assumedFrom = AssumedFrom::Name;
+        source = info.candidates.constFirst().code;
+    } else if (!known.projectEpsg.isEmpty()) {
+        info.assumedFrom = AssumedFrom::Project;
+        source = known.projectEpsg;
+    } else if (info.candidates.size() == 1) {
+        info.assumedFrom = AssumedFrom::Positions;
+        source = info.candidates.constFirst().code;
+    }
+    if (info.systems.target.isEmpty())
+        info.systems.target = source;
+}
+
 } // namespace
 
 QString describeTableFile(const QString &format, const QString &unit)
@@ -93,13 +122,15 @@ Result<TableFile> readTableFile(const TableFileType &type, const QString &path,
     info.roles = layer.roles;
     info.description = describeTableFile(info.format, info.unit);
     const KnownSystems known = knownSystems(info, project);
-    info.systems = chooseSystems(known);
     for (const QString &system : {known.projectEpsg, known.terrainEpsg}) {
         if (!system.isEmpty())
             info.projectSystems << system;
     }
     if (!project.terrainFile.isEmpty())
         info.terrainArea = geodata::terrainArea(project.terrainFile);
+    info.systems = chooseSystems(known);
+    if (isUndeclared(info))
+        assumeSystem(info, known, reading.connection(type.kind, path));
     return TableFile{info, layer.fields};
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "geodata/LayerInfo.h"
+#include "geodata/SystemCandidates.h"
 #include "platform/Result.h"
 #include "tables/TableReading.h"
 #include "tables/TableSystems.h"
@@ -11,6 +12,15 @@
 #include <optional>
 
 namespace vlt::tables {
+
+/// Why a table in metres that declares no system is taken to have one.
+enum class AssumedFrom {
+    Nothing,   ///< no system is assumed
+    Terrain,   ///< it is that of the project's terrain
+    Name,      ///< the table names it in words
+    Project,   ///< it is that of the project
+    Positions, ///< they lie in the area of use of no other system that was tried
+};
 
 /// Properties of the table of sites or links that the user picked.
 struct TableFileInfo
@@ -27,9 +37,13 @@ struct TableFileInfo
     QString encoding;          ///< of a text file; empty for others
     QString shape;             ///< of the table, in English, for language::readerText()
     QList<geodata::ColumnRole> roles;
-    qint64 rowCount = 0;         ///< sites or links
-    geodata::SystemPair systems; ///< suggested systems for the choosers
-    QStringList projectSystems;  ///< those of the project and of its terrain, if known
+    qint64 rowCount = 0;                            ///< sites or links
+    geodata::SystemPair systems;                    ///< suggested systems for the choosers
+    AssumedFrom assumedFrom = AssumedFrom::Nothing; ///< reason of systems.source
+    /// Whether the coordinates are metres and neither the table nor the user declares a system.
+    bool isUndeclared = false;
+    QList<geodata::SystemCandidate> candidates; ///< of such a table, best first
+    QStringList projectSystems; ///< those of the project and of its terrain, if known
     std::optional<geodata::SrsBounds> terrainArea; ///< area of the project's terrain
 };
 

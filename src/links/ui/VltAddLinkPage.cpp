@@ -79,7 +79,8 @@ void VltAddLinkPage::checkRows()
     check.terrainFile = project().terrainFile;
     check.rule.share = input.links.fresnelSharePercent / PerCent;
     check.rule.kFactor = input.links.kFactor;
-    m_panelDetails->check(vlt::links::placingConnection(input), systems(), check);
+    m_panelDetails->check(checkedConnection(vlt::links::placingConnection(input)), systems(),
+                          check);
 }
 
 std::optional<vlt::Error> VltAddLinkPage::missingChoice() const

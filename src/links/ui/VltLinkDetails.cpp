@@ -37,7 +37,7 @@ VltLinkDetails::VltLinkDetails(QWidget *parent)
 
 void VltLinkDetails::showFile(const vlt::links::LinkFileInfo &file)
 {
-    showTable(file.unit, vlt::links::describeColumns(file.columns), {});
+    showTable(file, vlt::links::describeColumns(file.columns), {});
 }
 
 void VltLinkDetails::check(const QString &connection, const vlt::geodata::SystemPair &systems,

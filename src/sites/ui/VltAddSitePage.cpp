@@ -64,7 +64,8 @@ vlt::sites::SiteLayerInput VltAddSitePage::layerInput() const
 
 void VltAddSitePage::checkRows()
 {
-    m_panelDetails->check(vlt::sites::placingConnection(layerInput()), systems());
+    m_panelDetails->check(checkedConnection(vlt::sites::placingConnection(layerInput())),
+                          systems());
 }
 
 std::optional<vlt::Error> VltAddSitePage::missingChoice() const

@@ -7,7 +7,7 @@ void VltSiteDetails::showFile(const vlt::sites::SiteFileInfo &file)
     QList<vlt::Problem> problems;
     if (const auto nameless = vlt::sites::missingNameField(file))
         problems << *nameless;
-    showTable(file.unit, vlt::sites::describeColumns(file.columns), problems);
+    showTable(file, vlt::sites::describeColumns(file.columns), problems);
 }
 
 void VltSiteDetails::check(const QString &connection, const vlt::geodata::SystemPair &systems)

@@ -193,15 +193,22 @@ void VltTableDetails::clear()
 {
     m_runner.cancel();
     m_checked.clear();
+    m_isNonePlaced = false;
     m_pwTbFold->setChecked(false);
     hide();
 }
 
-void VltTableDetails::showTable(const QString &unit,
+std::optional<QString> VltTableDetails::emptyReason() const
+{
+    return m_isNonePlaced ? std::optional(nonePlacedText()) : std::nullopt;
+}
+
+void VltTableDetails::showTable(const vlt::tables::TableFileInfo &file,
                                 const QList<vlt::tables::ColumnDescription> &columns,
                                 const QList<vlt::Problem> &problems)
 {
-    m_unit = unit;
+    m_file = file;
+    m_isNonePlaced = false;
     m_checked.clear();
     m_fileProblems = problems;
     showColumns(columns);
@@ -217,6 +224,7 @@ bool VltTableDetails::beginsCheck(const QString &what)
     if (what == m_checked)
         return false;
     m_checked = what;
+    m_isNonePlaced = false;
     m_pwPrChecking->setValue(0);
     if (!m_patience.isActive())
         m_patience.start();
@@ -298,8 +306,11 @@ void VltTableDetails::showOutcome(const vlt::geodata::LayerProblems &problems,
                 count > 0);
     if (count > 0 && !m_pwTwDetails->isVisible())
         m_pwTwDetails->setCurrentWidget(m_pwTvProblems);
-    if (isNonePlaced) // the layer would be empty, so the reason must be visible
+    m_isNonePlaced = isNonePlaced;
+    if (isNonePlaced) { // the reason must be visible
         unfoldProblems();
+        Q_EMIT nonePlaced();
+    }
 }
 
 void VltTableDetails::checkFailed(const vlt::Error &error)

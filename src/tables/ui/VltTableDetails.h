@@ -9,6 +9,8 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <optional>
+
 class QAbstractItemModel;
 class QLabel;
 class QProgressBar;
@@ -30,15 +32,19 @@ public:
     /// Removes all contents and hides; stops a running check.
     void clear();
 
+    /// Why the layer of the table would be empty; nothing if it is not, or not checked yet.
+    std::optional<QString> emptyReason() const;
+
 Q_SIGNALS:
     /// The rows were checked; `systems` has the areas and how many positions lie outside them.
     void checked(const vlt::geodata::SystemCheck &systems);
+    /// The rows were checked, and the layer would be empty.
+    void nonePlaced();
 
 protected:
     /// Shows the properties that are known without reading the table's rows.
-    ///
-    /// @param unit  of the table's coordinates, as in TableFileInfo
-    void showTable(const QString &unit, const QList<vlt::tables::ColumnDescription> &columns,
+    void showTable(const vlt::tables::TableFileInfo &file,
+                   const QList<vlt::tables::ColumnDescription> &columns,
                    const QList<vlt::Problem> &problems);
 
     /// Starts to check the rows of the shown table, unless the same check was started before.
@@ -63,8 +69,8 @@ protected:
     template<typename Check>
     void showOutcome(const Check &check, const vlt::geodata::SystemPair &systems)
     {
-        showOutcome(check.problems, check.placement,
-                    vlt::tables::systemProblems(m_unit, systems, check.systems));
+        showOutcome(vlt::tables::otherProblems(m_file, systems, check.systems, check.problems),
+                    check.placement, vlt::tables::systemProblems(m_file, systems, check.systems));
         Q_EMIT checked(check.systems);
     }
 
@@ -117,7 +123,8 @@ private:
     QTableView *m_pwTvColumns = nullptr;
     QTableView *m_pwTvProblems = nullptr;
     QList<vlt::Problem> m_fileProblems; ///< known without reading the rows
-    QString m_unit;
+    vlt::tables::TableFileInfo m_file;  ///< the shown table
+    bool m_isNonePlaced = false;        ///< by the last check
     int m_recognised = 0;
     QString m_checked; ///< identifies the last check
 };

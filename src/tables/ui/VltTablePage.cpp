@@ -131,6 +131,7 @@ void VltTablePage::setParts(VltTableDetails *details, const QList<VltParameterPa
     Q_ASSERT(!m_details);
     m_details = details;
     connect(details, &VltTableDetails::checked, this, &VltTablePage::showArea);
+    connect(details, &VltTableDetails::nonePlaced, this, &VltTablePage::leaveEmptyLayer);
     m_ui->m_ptVbTable->addWidget(details);
     for (VltParameterPanel *panel : panels) {
         m_ui->m_ptVbProperties->addWidget(panel);
@@ -143,6 +144,20 @@ void VltTablePage::setParts(VltTableDetails *details, const QList<VltParameterPa
 vlt::geodata::SystemPair VltTablePage::systems() const
 {
     return {m_panelSrs->sourceSrs(), m_panelSrs->targetSrs()};
+}
+
+QString VltTablePage::checkedConnection(const QString &connection) const
+{
+    return vlt::tables::withTerrain(connection, file() ? file()->terrainArea : std::nullopt);
+}
+
+/// Takes back the layer of a table of which nothing can be placed.
+void VltTablePage::leaveEmptyLayer()
+{
+    if (isMaking())
+        outdate(); // obstacle() then has the reason
+    else if (isShown())
+        leaveLayer(m_details->emptyReason().value_or(QString()));
 }
 
 void VltTablePage::setStacked(bool stacked)
@@ -333,7 +348,9 @@ std::optional<QString> VltTablePage::obstacle() const
     std::optional<vlt::Error> error = missingChoice();
     if (!error)
         error = vlt::tables::systemObstacle(systems());
-    return error ? std::optional(vlt::messages::textOf(*error)) : std::nullopt;
+    if (!error)
+        error = vlt::tables::undeclaredObstacle(*file(), systems());
+    return error ? std::optional(vlt::messages::textOf(*error)) : m_details->emptyReason();
 }
 
 vlt::Stoppable<vlt::Done> VltTablePage::writeLayer(const QString &path,

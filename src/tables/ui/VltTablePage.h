@@ -98,6 +98,9 @@ protected:
         input.language = language();
     }
 
+    /// A connection with what the check of the rows needs beside it.
+    QString checkedConnection(const QString &connection) const;
+
     const vlt::project::ProjectContext &project() const { return m_project; }
     /// The chosen coordinate systems.
     vlt::geodata::SystemPair systems() const;
@@ -129,6 +132,7 @@ private:
     void showFile();
     QString fileReason() const;
     void showReason(const QString &reason);
+    void leaveEmptyLayer();
     void showArea(const vlt::geodata::SystemCheck &checked);
     void showDemonstration();
 

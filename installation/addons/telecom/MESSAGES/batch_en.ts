@@ -364,8 +364,8 @@
         <translation>Layer file to write; - for the standard output.</translation>
     </message>
     <message id="MESS_OPT_SOURCE_SRS">
-        <source>Coordinate system of the table (default: the one that the table declares, else 4326 for degrees, else the terrain's).</source>
-        <translation>Coordinate system of the table (default: the one that the table declares, else 4326 for degrees, else the terrain's).</translation>
+        <source>Coordinate system of the table (default: the one that the table declares, else 4326 for degrees, else the terrain's, the one that the table names, or the project's).</source>
+        <translation>Coordinate system of the table (default: the one that the table declares, else 4326 for degrees, else the terrain's, the one that the table names, or the project's).</translation>
     </message>
     <message id="MESS_OPT_TARGET_SRS">
         <source>Coordinate system of the project (default: the project's, else the terrain's, else 4326 for degrees, else the table's).</source>

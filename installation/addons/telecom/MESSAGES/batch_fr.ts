@@ -364,8 +364,8 @@
         <translation>Fichier de couche à écrire&#xa0;; - pour la sortie standard.</translation>
     </message>
     <message id="MESS_OPT_SOURCE_SRS">
-        <source>Coordinate system of the table (default: the one that the table declares, else 4326 for degrees, else the terrain's).</source>
-        <translation>Système de coordonnées du tableau (par défaut : celui que le tableau déclare, sinon 4326 pour des degrés, sinon celui du terrain).</translation>
+        <source>Coordinate system of the table (default: the one that the table declares, else 4326 for degrees, else the terrain's, the one that the table names, or the project's).</source>
+        <translation>Système de coordonnées du tableau (par défaut : celui que le tableau déclare, sinon 4326 pour des degrés, sinon celui du terrain, celui que le tableau nomme ou celui du projet).</translation>
     </message>
     <message id="MESS_OPT_TARGET_SRS">
         <source>Coordinate system of the project (default: the project's, else the terrain's, else 4326 for degrees, else the table's).</source>

@@ -291,5 +291,41 @@
         <source>%1 of %2 positions lie outside the area of use of %3</source>
         <translation>%1 of %2 positions lie outside the area of use of %3</translation>
     </message>
+    <message id="MESS_SRS_FROM_TERRAIN">
+        <source>it is that of the project's terrain</source>
+        <translation>it is that of the project's terrain</translation>
+    </message>
+    <message id="MESS_SRS_FROM_NAME">
+        <source>the table names it in words</source>
+        <translation>the table names it in words</translation>
+    </message>
+    <message id="MESS_SRS_FROM_PROJECT">
+        <source>it is that of the project</source>
+        <translation>it is that of the project</translation>
+    </message>
+    <message id="MESS_SRS_FROM_POSITIONS">
+        <source>the positions lie in the area of use of no other system that was tried</source>
+        <translation>the positions lie in the area of use of no other system that was tried</translation>
+    </message>
+    <message id="MESS_SRS_FROM_CHOICE">
+        <source>it is the one chosen now</source>
+        <translation>it is the one chosen now</translation>
+    </message>
+    <message id="MESS_SRS_ASSUMED">
+        <source>the table declares no coordinate system: %1 is assumed, because %2</source>
+        <translation>the table declares no coordinate system: %1 is assumed, because %2</translation>
+    </message>
+    <message id="MESS_SRS_CANDIDATES">
+        <source>possible coordinate systems: %1</source>
+        <translation>possible coordinate systems: %1</translation>
+    </message>
+    <message id="MESS_SRS_CANDIDATE_PLACE">
+        <source>%1 (%2): the sites lie near %3, %4</source>
+        <translation>%1 (%2): the sites lie near %3, %4</translation>
+    </message>
+    <message id="MESS_NO_LAYER_UNDECLARED">
+        <source>No layer can be made: the coordinates are in meters, and their coordinate system is not known</source>
+        <translation>No layer can be made: the coordinates are in meters, and their coordinate system is not known</translation>
+    </message>
 </context>
 </TS>

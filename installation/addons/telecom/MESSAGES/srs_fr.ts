@@ -291,5 +291,41 @@
         <source>%1 of %2 positions lie outside the area of use of %3</source>
         <translation>%1 position(s) sur %2 se trouvent hors de la zone d'emploi de %3</translation>
     </message>
+    <message id="MESS_SRS_FROM_TERRAIN">
+        <source>it is that of the project's terrain</source>
+        <translation>c'est celui du terrain du projet</translation>
+    </message>
+    <message id="MESS_SRS_FROM_NAME">
+        <source>the table names it in words</source>
+        <translation>le tableau le nomme en toutes lettres</translation>
+    </message>
+    <message id="MESS_SRS_FROM_PROJECT">
+        <source>it is that of the project</source>
+        <translation>c'est celui du projet</translation>
+    </message>
+    <message id="MESS_SRS_FROM_POSITIONS">
+        <source>the positions lie in the area of use of no other system that was tried</source>
+        <translation>les positions ne se trouvent dans la zone d'usage d'aucun autre système essayé</translation>
+    </message>
+    <message id="MESS_SRS_FROM_CHOICE">
+        <source>it is the one chosen now</source>
+        <translation>c'est celui qui est choisi actuellement</translation>
+    </message>
+    <message id="MESS_SRS_ASSUMED">
+        <source>the table declares no coordinate system: %1 is assumed, because %2</source>
+        <translation>le tableau ne déclare aucun système de coordonnées&#xa0;: %1 est supposé, car %2</translation>
+    </message>
+    <message id="MESS_SRS_CANDIDATES">
+        <source>possible coordinate systems: %1</source>
+        <translation>systèmes de coordonnées possibles&#xa0;: %1</translation>
+    </message>
+    <message id="MESS_SRS_CANDIDATE_PLACE">
+        <source>%1 (%2): the sites lie near %3, %4</source>
+        <translation>%1 (%2)&#xa0;: les sites se trouvent près de %3, %4</translation>
+    </message>
+    <message id="MESS_NO_LAYER_UNDECLARED">
+        <source>No layer can be made: the coordinates are in meters, and their coordinate system is not known</source>
+        <translation>Aucune couche ne peut être créée&#xa0;: les coordonnées sont en mètres et leur système de coordonnées n'est pas connu</translation>
+    </message>
 </context>
 </TS>
