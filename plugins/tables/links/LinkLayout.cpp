@@ -281,6 +281,23 @@ CoordinateUnit commonUnit(CoordinateUnit a, CoordinateUnit b)
     return CoordinateUnit::Degrees;
 }
 
+/// Whether a header has columns of both ends.
+bool namesBothEnds(const Header &header)
+{
+    for (const EndStyle style : {EndStyle::Names, EndStyle::Zero}) {
+        bool a = false;
+        bool b = false;
+        for (const auto &[column, name] : header.names) {
+            const LinkEndId end = readEndWords(name, style).end;
+            a = a || end == LinkEndId::A;
+            b = b || end == LinkEndId::B;
+        }
+        if (a && b)
+            return true;
+    }
+    return false;
+}
+
 } // namespace
 
 LinkLayout recogniseLinkLayout(const TableProfile &table, const Vocabulary &vocabulary)
@@ -304,20 +321,17 @@ LinkLayout recogniseLinkLayout(const TableProfile &table, const Vocabulary &voca
     return layout;
 }
 
-bool namesBothEnds(const Header &header)
+bool holdsLinks(const TableProfile &table, const Vocabulary &vocabulary)
 {
-    for (const EndStyle style : {EndStyle::Names, EndStyle::Zero}) {
-        bool a = false;
-        bool b = false;
-        for (const auto &[column, name] : header.names) {
-            const LinkEndId end = readEndWords(name, style).end;
-            a = a || end == LinkEndId::A;
-            b = b || end == LinkEndId::B;
-        }
-        if (a && b)
-            return true;
-    }
-    return false;
+    return namesBothEnds(table.header) && findEnds(table, vocabulary).found();
+}
+
+int linkSuitability(const TableProfile &start, const Vocabulary &vocabulary)
+{
+    constexpr uint64_t MinRows = 3;
+    if (!namesBothEnds(start.header))
+        return 0;
+    return (findEnds(start, vocabulary).found() ? 4 : 2) + (start.rowCount >= MinRows ? 1 : 0);
 }
 
 } // namespace vlt::driver

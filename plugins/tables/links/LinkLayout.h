@@ -38,7 +38,12 @@ struct LinkLayout : TableDeclaration
 /// RefusedFile (NoLinks) if the coordinates of both ends are not found.
 LinkLayout recogniseLinkLayout(const TableProfile &table, const Vocabulary &vocabulary);
 
-/// Whether a header has columns of both ends.
-bool namesBothEnds(const Header &header);
+/// How well the start of a sheet suits a table of links, from 0 to HighestLinkSuitability: it has
+/// the positions of both ends or at least columns of both, it has more rows than a legend.
+constexpr int HighestLinkSuitability = 5;
+int linkSuitability(const TableProfile &start, const Vocabulary &vocabulary);
+
+/// Whether a table has the positions of both ends of links.
+bool holdsLinks(const TableProfile &table, const Vocabulary &vocabulary);
 
 } // namespace vlt::driver

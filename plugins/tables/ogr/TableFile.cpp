@@ -77,6 +77,23 @@ void swapAxes(TableFacts &facts)
             end.point.swapAxes();
 }
 
+TableHints hintsOf(const TableOptions &options, const Vocabulary &vocabulary)
+{
+    TableHints hints = {&vocabulary, options.kind, options.sheet, options.textOnly, {}, 0};
+    if (options.kind == contract::TableKind::Links) {
+        hints.suitability = [&vocabulary](const TableProfile &start) {
+            return linkSuitability(start, vocabulary);
+        };
+        hints.highestSuitability = HighestLinkSuitability;
+    } else {
+        hints.suitability = [&vocabulary](const TableProfile &start) {
+            return holdsLinks(start, vocabulary) ? 0 : siteSuitability(start, vocabulary);
+        };
+        hints.highestSuitability = HighestSiteSuitability;
+    }
+    return hints;
+}
+
 } // namespace
 
 std::shared_ptr<TableFile> TableFile::open(const std::string &path, const TableOptions &options)
@@ -88,10 +105,8 @@ std::shared_ptr<TableFile> TableFile::open(const std::string &path, const TableO
         return table;
     const std::unique_ptr<Workbook> workbook = table->openFile();
     const Vocabulary &vocabulary = installedVocabulary().words;
-    TableHints hints = {&vocabulary, options.kind, options.sheet, options.textOnly};
+    const TableHints hints = hintsOf(options, vocabulary);
     const bool links = options.kind == contract::TableKind::Links;
-    if (links)
-        hints.isWanted = namesBothEnds;
     const Table read = readTable(*workbook, hints);
     auto facts = std::make_shared<TableFacts>(TableFacts{*read.profile, {}, {}});
     if (links)

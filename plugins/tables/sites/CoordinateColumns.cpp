@@ -329,6 +329,16 @@ LetterO findLetterO(const PointFields &point, const std::vector<Field> &fields, 
     return meaningOfO(texts, otherwise);
 }
 
+bool holdsPositions(const PointFields &point, const std::vector<Field> &fields)
+{
+    const auto holds = [&fields](const CoordinateFields &of, Axis axis) {
+        const Field &field = fields[static_cast<std::size_t>(of.value)];
+        const SampledUnit sampled = unitOfSamples(field, axis);
+        return sampled.readable > 0 && sampled.readable * 2 >= field.samples.size();
+    };
+    return point.pair >= 0 || (point.found() && holds(point.x, Axis::X) && holds(point.y, Axis::Y));
+}
+
 CoordinateUnit findUnit(const PointFields &point, const std::vector<Field> &fields,
                         const Vocabulary &vocabulary)
 {

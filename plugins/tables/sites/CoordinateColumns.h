@@ -71,6 +71,9 @@ PointFields findPoint(const FieldWords &words, const std::vector<Field> &fields,
 /// The meaning of O in the longitudes of a position, from their samples; else `otherwise`.
 LetterO findLetterO(const PointFields &point, const std::vector<Field> &fields, LetterO otherwise);
 
+/// Whether the values of the fields are positions, at least half of them.
+bool holdsPositions(const PointFields &point, const std::vector<Field> &fields);
+
 /// The unit of the coordinates of a position, from the names and samples of its fields.
 CoordinateUnit findUnit(const PointFields &point, const std::vector<Field> &fields,
                         const Vocabulary &vocabulary);

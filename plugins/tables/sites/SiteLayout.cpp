@@ -71,4 +71,13 @@ SiteLayout recogniseSiteLayout(const TableProfile &table, const Vocabulary &voca
     return layout;
 }
 
+int siteSuitability(const TableProfile &start, const Vocabulary &vocabulary)
+{
+    constexpr uint64_t MinRows = 3;
+    const SiteLayout layout = recogniseSiteLayout(start, vocabulary);
+    const int points = (holdsPositions(layout.point, start.fields) ? 4 : 0) +
+                       (layout.roles.transmitters.empty() ? 0 : 2);
+    return points + (points > 0 && start.rowCount >= MinRows ? 1 : 0);
+}
+
 } // namespace vlt::driver

@@ -23,6 +23,11 @@ struct SiteLayout : TableDeclaration
 /// per site is known.
 SiteLayout recogniseSiteLayout(const TableProfile &table, const Vocabulary &vocabulary);
 
+/// How well the start of a sheet suits a table of sites, from 0 to HighestSiteSuitability: it has
+/// positions, it has transmitters, it has more rows than a legend.
+constexpr int HighestSiteSuitability = 7;
+int siteSuitability(const TableProfile &start, const Vocabulary &vocabulary);
+
 /// The planning tool that uses these names of columns.
 std::string recogniseFormat(const std::vector<Field> &fields);
 

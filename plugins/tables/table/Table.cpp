@@ -1,6 +1,7 @@
 #include "plugins/tables/table/Table.h"
 
 #include "plugins/tables/bytes/Refusal.h"
+#include "plugins/tables/table/SheetChoice.h"
 #include "plugins/tables/table/TableScan.h"
 
 #include <algorithm>
@@ -10,65 +11,10 @@ namespace vlt::driver {
 
 namespace {
 
-constexpr std::size_t MaxSheetsRead = 64;
+constexpr uint64_t RowsOfStart = 200; ///< by which a sheet is chosen
 /// A column without a name after the last named one counts if this share of the rows has a value in
 /// it.
 constexpr double FullShare = 0.9;
-
-struct Candidate
-{
-    std::shared_ptr<Sheet> sheet;
-    Header header;
-};
-
-bool isConvincing(const Header &header, const TableHints &hints)
-{
-    return hints.isWanted(header) && header.wordCount >= 2 && header.names.size() >= 2 &&
-           header.hasRowsBelow;
-}
-
-/// Prefers visible sheets, then wanted ones, then those with rows, then the one with more words of
-/// its kind, then the earlier one.
-bool isBetter(const Candidate &candidate, const Candidate &best, const TableHints &hints)
-{
-    const auto rank = [&hints](const Candidate &c) {
-        return std::make_tuple(!c.sheet->hidden(), hints.isWanted(c.header), c.header.hasRowsBelow,
-                               c.header.wordCount >= 2 ? c.header.wordCount : 0);
-    };
-    return rank(candidate) > rank(best);
-}
-
-Candidate chooseSheet(Workbook &workbook, const TableHints &hints)
-{
-    Candidate best;
-    bool anySheet = false;
-    std::size_t widest = 0;
-    for (std::size_t seen = 0; seen < MaxSheetsRead; ++seen) {
-        const std::shared_ptr<Sheet> sheet = workbook.nextSheet();
-        if (!sheet)
-            break;
-        if (!hints.sheet.empty() && sheet->name() != hints.sheet)
-            continue;
-        anySheet = true;
-        std::optional<Header> header = findHeader(*sheet, hints.kind, *hints.vocabulary, widest);
-        if (!header)
-            continue;
-        Candidate candidate = {sheet, std::move(*header)};
-        if (!best.sheet || isBetter(candidate, best, hints))
-            best = std::move(candidate);
-        if (isConvincing(best.header, hints) && !best.sheet->hidden())
-            break;
-    }
-    if (best.sheet)
-        return best;
-    if (!hints.sheet.empty() && !anySheet)
-        throw RefusedFile(Refusal::BadOption, "MESS_TAB_NO_SHEET", {hints.sheet});
-    if (widest == 0)
-        throw RefusedFile(Refusal::Empty, "MESS_TAB_NO_VALUE");
-    if (widest == 1)
-        throw RefusedFile(Refusal::OneColumn, "MESS_TAB_FILE_OF_ONE_COLUMN");
-    throw RefusedFile(Refusal::NoHeader, "MESS_TAB_NO_HEADER");
-}
 
 /// The name of a column as a field. Some exports mark mandatory columns by an asterisk at the end,
 /// which the SQL of the library would expand to all columns, endlessly because that column is one
@@ -154,7 +100,7 @@ std::string nameWithUnit(const Field &field)
 
 Table readTable(Workbook &workbook, const TableHints &hints)
 {
-    Candidate chosen = chooseSheet(workbook, hints);
+    ChosenSheet chosen = chooseSheet(workbook, hints);
     auto profile = std::make_shared<TableProfile>();
     profile->sheet = chosen.sheet->name();
     for (bool settled = false; !settled;) {
@@ -177,6 +123,19 @@ Table readTable(Workbook &workbook, const TableHints &hints)
         throw RefusedFile(Refusal::OneColumn, "MESS_TAB_TABLE_OF_ONE_COLUMN");
     profile->encoding = chosen.sheet->encoding();
     return {chosen.sheet, profile};
+}
+
+std::shared_ptr<const TableProfile> readStart(const Sheet &sheet, const Header &header,
+                                              const TableHints &hints)
+{
+    auto profile = std::make_shared<TableProfile>();
+    profile->sheet = sheet.name();
+    profile->header = header;
+    profile->lastColumn = header.names.rbegin()->first;
+    TableSample sample;
+    scanTable(sheet, profile, *hints.vocabulary, sample, RowsOfStart);
+    makeFields(*profile, sample, hints);
+    return profile;
 }
 
 std::shared_ptr<Sheet> findSheet(Workbook &workbook, const std::string &name)

@@ -4,6 +4,7 @@
 #include "plugins/tables/table/ColumnStatistics.h"
 #include "plugins/tables/table/Header.h"
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -65,8 +66,10 @@ struct TableHints
     contract::TableKind kind = contract::TableKind::Sites;
     std::string sheet;
     bool textOnly = false; ///< all columns are texts
-    /// Whether a header belongs to the wanted table; a sheet with such a header is preferred.
-    bool (*isWanted)(const Header &header) = [](const Header &) { return true; };
+    /// How well the first rows of a sheet suit the wanted table: from 0 to `highestSuitability`.
+    /// The best one of several sheets is chosen; without it, the first one with a header.
+    std::function<int(const TableProfile &start)> suitability;
+    int highestSuitability = 0;
 };
 
 /// A table: the sheet of a workbook, and its properties.
@@ -76,9 +79,13 @@ struct Table
     std::shared_ptr<const TableProfile> profile;
 };
 
-/// Finds the sheet with the best header and reads all its rows once. Throws RefusedFile (NoHeader,
+/// Finds the sheet that suits best and reads all its rows once. Throws RefusedFile (NoHeader,
 /// OneColumn, Empty, BadOption).
 Table readTable(Workbook &workbook, const TableHints &hints);
+
+/// The properties of a sheet as far as its first rows, at most 200, show them.
+std::shared_ptr<const TableProfile> readStart(const Sheet &sheet, const Header &header,
+                                              const TableHints &hints);
 
 /// The sheet of a profile, in a workbook that was opened again.
 std::shared_ptr<Sheet> findSheet(Workbook &workbook, const std::string &name);

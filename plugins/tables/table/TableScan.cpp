@@ -26,9 +26,9 @@ public:
         , m_sample(sample)
     {}
 
-    void run(DataRows &rows)
+    void run(DataRows &rows, uint64_t maxRows)
     {
-        while (rows.advance()) {
+        while (m_profile.rowCount < maxRows && rows.advance()) {
             if (!m_totals.empty() && rows.rowNumber() != m_totals.back() + 1)
                 leaveOutTotals();
             if (m_profile.rowCount == RowsSampledFirst) {
@@ -148,7 +148,7 @@ std::vector<char> TableSample::textColumns() const
 }
 
 void scanTable(const Sheet &sheet, const std::shared_ptr<TableProfile> &profile,
-               const Vocabulary &vocabulary, TableSample &sample)
+               const Vocabulary &vocabulary, TableSample &sample, uint64_t maxRows)
 {
     profile->rowCount = 0;
     profile->allRowsSampled = true;
@@ -156,7 +156,7 @@ void scanTable(const Sheet &sheet, const std::shared_ptr<TableProfile> &profile,
     profile->leftOutRows.clear();
     profile->totalRows.clear();
     DataRows rows(sheet, profile);
-    Scan(*profile, vocabulary, sample).run(rows);
+    Scan(*profile, vocabulary, sample).run(rows, maxRows);
 }
 
 } // namespace vlt::driver

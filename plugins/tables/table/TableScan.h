@@ -3,6 +3,7 @@
 #include "plugins/tables/table/ColumnStatistics.h"
 #include "plugins/tables/table/Table.h"
 
+#include <limits>
 #include <memory>
 #include <string>
 #include <utility>
@@ -24,9 +25,10 @@ struct TableSample
     std::vector<char> textColumns() const;
 };
 
-/// Reads all rows once: counts them, marks positions, takes samples, and finds the rows that hold
-/// no data.
+/// Reads all rows once, or the first `maxRows` with data: counts them, marks positions, takes
+/// samples, and finds the rows that hold no data.
 void scanTable(const Sheet &sheet, const std::shared_ptr<TableProfile> &profile,
-               const Vocabulary &vocabulary, TableSample &sample);
+               const Vocabulary &vocabulary, TableSample &sample,
+               uint64_t maxRows = std::numeric_limits<uint64_t>::max());
 
 } // namespace vlt::driver

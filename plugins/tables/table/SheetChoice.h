@@ -1,0 +1,21 @@
+#pragma once
+
+#include "plugins/tables/table/Table.h"
+
+namespace vlt::driver {
+
+/// The sheet that holds a table.
+struct ChosenSheet
+{
+    std::shared_ptr<Sheet> sheet;
+    Header header;
+    int suitability = 0; ///< see TableHints; not determined if there is no other sheet to choose
+};
+
+/// Finds the sheet that suits best: visible sheets come first, then those with the highest
+/// suitability, then those with rows, then the one with more words of its kind, then the earlier
+/// one. At most the first 200 rows of 64 sheets are read. Throws RefusedFile (NoHeader, OneColumn,
+/// Empty, BadOption).
+ChosenSheet chooseSheet(Workbook &workbook, const TableHints &hints);
+
+} // namespace vlt::driver
