@@ -191,6 +191,13 @@ inline constexpr auto TableTexts = std::to_array<Text>({
      "%1 rows: %2 sites with %3 transmitters each, grouped by \"%4\" and position"},
     {"MESS_TAB_SHAPE_PLACES", "%1 rows: %2 sites with %3 transmitters each, grouped by position"},
 
+    // tables that belong together
+    {"MESS_TAB_IN_SHEET", "in the sheet \"%1\": %2", {ValueKind::Name, ValueKind::Nested}},
+    {"MESS_TAB_NO_SUCH_SITE", "the site \"%1\" is not in the table of sites: the transmitter is "
+                              "left out"},
+    {"MESS_TAB_NO_SITE_NAMED", "the transmitter names no site: it is left out"},
+    {"MESS_TAB_BARE_SITES", "sites without a transmitter: %1", {ValueKind::Count}},
+
     // why a column has a role
     {"MESS_TAB_EVIDENCE_NO_HEADER", "no header; recognised by the values"},
     {"MESS_TAB_EVIDENCE_EMPTY", "header \"%1\"; no values"},

@@ -2,6 +2,7 @@
 
 #include "plugins/tables/table/RowProblem.h"
 
+#include <algorithm>
 #include <vector>
 
 namespace vlt::driver {
@@ -32,6 +33,14 @@ public:
         m_kept.insert(m_kept.begin(), std::move(problem));
         if (m_kept.size() > MaxKept)
             m_kept.pop_back();
+    }
+
+    void add(const ProblemList &others)
+    {
+        const std::size_t kept = std::min(others.m_kept.size(), MaxKept - m_kept.size());
+        m_kept.insert(m_kept.end(), others.m_kept.begin(),
+                      others.m_kept.begin() + static_cast<std::ptrdiff_t>(kept));
+        m_count += others.m_count;
     }
 
     std::size_t count() const { return m_count; }

@@ -1,9 +1,13 @@
 #include "plugins/tables/ogr/TableFile.h"
 
+#include "plugins/tables/bytes/Refusal.h"
 #include "plugins/tables/formats/OpenWorkbook.h"
 #include "plugins/tables/ogr/FieldCells.h"
+#include "plugins/tables/ogr/SectorJoin.h"
 #include "plugins/tables/roles/Vocabulary.h"
+#include "plugins/tables/sites/SectorTable.h"
 
+#include <limits>
 #include <list>
 #include <mutex>
 
@@ -79,7 +83,7 @@ void swapAxes(TableFacts &facts)
 
 TableHints hintsOf(const TableOptions &options, const Vocabulary &vocabulary)
 {
-    TableHints hints = {&vocabulary, options.kind, options.sheet, options.textOnly, {}, 0};
+    TableHints hints = {&vocabulary, options.kind, options.sheet, options.textOnly};
     if (options.kind == contract::TableKind::Links) {
         hints.suitability = [&vocabulary](const TableProfile &start) {
             return linkSuitability(start, vocabulary);
@@ -131,6 +135,8 @@ void TableFile::readSites(TableFacts &facts)
 {
     SiteLayout &layout = std::get<SiteLayout>(facts.layout);
     const SiteRoles &roles = layout.roles;
+    if (joinTransmitters(facts))
+        return;
     std::size_t transmitters = roles.transmitters.size();
     if (roles.shape == SiteShape::Lists || roles.shape == SiteShape::Tall) {
         const TransmitterReader reader(facts.table, roles, installedVocabulary().words);
@@ -159,7 +165,51 @@ void TableFile::readSites(TableFacts &facts)
     layout.maxTransmitters = transmitters;
     if (layout.isLinkEnd) // readers are to see that this is no table of sites
         return;
-    layout.offered = offeredFields(facts.table, roles, layout.point, layout.unit, transmitters);
+    layout.offered = offeredFields(facts.table, roles, layout.point, layout.unit,
+                                   roles.transmitters, transmitters);
+}
+
+/// Takes the transmitters from another sheet of the workbook. False if the table has some, or if no
+/// other sheet has those of its sites.
+bool TableFile::joinTransmitters(TableFacts &facts)
+{
+    SiteLayout &layout = std::get<SiteLayout>(facts.layout);
+    const bool isText = !facts.table.encoding.name.empty(); // it has no other sheet
+    if (isText || layout.isLinkEnd || !layout.point.found() || !layout.roles.transmitters.empty() ||
+        hasKnownTransmitters(facts.table))
+        return false;
+    const std::optional<SecondTable> sectors = otherSheet(facts.table.sheet, sectorSuitability);
+    if (!sectors)
+        return false;
+    const std::unique_ptr<DataRows> siteRows = rows();
+    auto joined = joinSectors(facts.table, layout, *siteRows, *sectors, false);
+    if (!joined)
+        return false;
+    layout.roles.shape = SiteShape::Joined;
+    facts.siteIndex = joined->index;
+    layout.maxTransmitters = facts.siteIndex->transmitterRange().second;
+    facts.joinProblems = std::move(joined->problems);
+    layout.offered = offeredFields(facts.table, layout.roles, layout.point, layout.unit,
+                                   joined->transmitters, layout.maxTransmitters);
+    return true;
+}
+
+/// The other sheet of the workbook that suits best; nothing if none does.
+std::optional<SecondTable> TableFile::otherSheet(const std::string &sheet,
+                                                 int (*suitability)(const TableProfile &,
+                                                                    const Vocabulary &)) const
+{
+    const Vocabulary &vocabulary = installedVocabulary().words;
+    TableHints hints = {&vocabulary, contract::TableKind::Sites, {}, m_options.textOnly};
+    hints.otherThan = sheet;
+    hints.mustSuit = true;
+    hints.suitability = [&](const TableProfile &start) { return suitability(start, vocabulary); };
+    hints.highestSuitability = std::numeric_limits<int>::max();
+    try {
+        return SecondTable(readTable(*openFile(), hints));
+    } catch (const RefusedFile &) { // there is none, or it is damaged
+        return std::nullopt;
+    }
 }
 
 std::unique_ptr<Workbook> TableFile::openFile() const

@@ -2,11 +2,14 @@
 
 #include "plugins/tables/bytes/InputFile.h"
 #include "plugins/tables/links/LinkLayout.h"
+#include "plugins/tables/ogr/ProblemList.h"
+#include "plugins/tables/ogr/SecondTable.h"
 #include "plugins/tables/sites/SiteIndex.h"
 #include "plugins/tables/sites/SiteLayout.h"
 #include "plugins/tables/table/Table.h"
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <variant>
 
@@ -30,8 +33,10 @@ struct TableFacts
 {
     TableProfile table;
     std::variant<SiteLayout, LinkLayout> layout;
-    /// The sites of a table with a row per transmitter; else null.
+    /// The sites of a table with a row per transmitter, or with transmitters in another table;
+    /// else null.
     std::shared_ptr<const SiteIndex> siteIndex;
+    ProblemList joinProblems = {}; ///< of the other table
 
     const SiteLayout &sites() const { return std::get<SiteLayout>(layout); }
     const LinkLayout &links() const { return std::get<LinkLayout>(layout); }
@@ -62,6 +67,10 @@ public:
 
 private:
     void readSites(TableFacts &facts);
+    bool joinTransmitters(TableFacts &facts);
+    std::optional<SecondTable> otherSheet(const std::string &sheet,
+                                          int (*suitability)(const TableProfile &,
+                                                             const Vocabulary &)) const;
     TableFile(std::shared_ptr<const InputFile> file, std::string name, TableOptions options)
         : m_file(std::move(file))
         , m_name(std::move(name))

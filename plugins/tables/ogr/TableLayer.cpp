@@ -374,6 +374,7 @@ ProblemList TableLayer::fileProblems() const
     ProblemList problems;
     systems().addProblems(problems);
     addFileProblems(problems);
+    problems.add(facts().joinProblems);
     if (const std::string &fault = installedVocabulary().ownFault; !fault.empty())
         problems.add({0, {}, false, fault});
     if (facts().table.encoding.isGuess)

@@ -12,22 +12,35 @@ namespace {
 /// Maximum number of transmitters of a site that get fields.
 constexpr std::size_t MaxTransmitters = 200;
 
+contract::SiteColumns ownColumns(const TableProfile &table)
+{
+    std::vector<std::string> names;
+    for (const Field &field : table.fields)
+        names.push_back(field.name);
+    return contract::recogniseColumns(names);
+}
+
+bool hasTransmitters(const contract::SiteColumns &columns)
+{
+    return !columns.azimuths.empty() || !columns.heights.empty();
+}
+
 class Offer
 {
 public:
-    Offer(const TableProfile &table, const SiteRoles &roles) : m_table(table), m_roles(roles)
-    {
-        std::vector<std::string> names;
-        for (const Field &field : table.fields)
-            names.push_back(field.name);
-        m_own = contract::recogniseColumns(names);
-    }
+    Offer(const TableProfile &table, const SiteRoles &roles,
+          const std::vector<TransmitterFields> &transmitters)
+        : m_table(table)
+        , m_roles(roles)
+        , m_transmitters(transmitters)
+        , m_own(ownColumns(table))
+    {}
 
     std::vector<OfferedField> fields(const PointFields &point, CoordinateUnit unit,
                                      std::size_t transmitterCount)
     {
         // a table in the layout of a planning tool has what its readers need
-        const bool isKnown = !m_own.azimuths.empty() || !m_own.heights.empty();
+        const bool isKnown = hasTransmitters(m_own);
         if (!isKnown)
             addSite(point, unit);
         for (std::size_t i = 0; i < std::min(transmitterCount, MaxTransmitters); ++i)
@@ -63,7 +76,7 @@ private:
     template<typename IsFound>
     bool any(IsFound isFound) const
     {
-        return std::any_of(m_roles.transmitters.begin(), m_roles.transmitters.end(), isFound);
+        return std::any_of(m_transmitters.begin(), m_transmitters.end(), isFound);
     }
 
     void addTransmitter(std::size_t index, bool isKnown)
@@ -94,17 +107,24 @@ private:
 
     const TableProfile &m_table;
     const SiteRoles &m_roles;
+    const std::vector<TransmitterFields> &m_transmitters;
     contract::SiteColumns m_own;
     std::vector<OfferedField> m_fields;
 };
 
 } // namespace
 
+bool hasKnownTransmitters(const TableProfile &table)
+{
+    return hasTransmitters(ownColumns(table));
+}
+
 std::vector<OfferedField> offeredFields(const TableProfile &table, const SiteRoles &roles,
                                         const PointFields &point, CoordinateUnit unit,
+                                        const std::vector<TransmitterFields> &transmitters,
                                         std::size_t transmitterCount)
 {
-    return Offer(table, roles).fields(point, unit, transmitterCount);
+    return Offer(table, roles, transmitters).fields(point, unit, transmitterCount);
 }
 
 } // namespace vlt::driver

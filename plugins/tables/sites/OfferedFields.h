@@ -37,11 +37,16 @@ struct OfferedField
     }
 };
 
+/// Whether a table has transmitters in the columns of a planning tool, which readers know.
+bool hasKnownTransmitters(const TableProfile &table);
+
 /// The fields whose values the table holds, but not under the names that readers look for.
 ///
+/// @param transmitters      columns of the transmitters, which may be those of another table
 /// @param transmitterCount  maximum number of transmitters of a site
 std::vector<OfferedField> offeredFields(const TableProfile &table, const SiteRoles &roles,
                                         const PointFields &point, CoordinateUnit unit,
+                                        const std::vector<TransmitterFields> &transmitters,
                                         std::size_t transmitterCount);
 
 } // namespace vlt::driver

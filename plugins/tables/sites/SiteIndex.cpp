@@ -102,10 +102,18 @@ std::size_t SiteIndex::siteOf(int64_t row, const std::vector<const Cell *> &cell
     return m_sites.size() - 1;
 }
 
-void SiteIndex::add(int64_t row, const std::vector<const Cell *> &cells, const Position &position,
-                    std::vector<std::optional<TransmitterValues>> transmitters)
+std::size_t SiteIndex::add(int64_t row, const std::vector<const Cell *> &cells,
+                           const Position &position,
+                           std::vector<std::optional<TransmitterValues>> transmitters)
 {
     const std::size_t site = siteOf(row, cells, position);
+    addTransmitters(site, std::move(transmitters));
+    return site;
+}
+
+void SiteIndex::addTransmitters(std::size_t site,
+                                std::vector<std::optional<TransmitterValues>> transmitters)
+{
     for (std::optional<TransmitterValues> &transmitter : transmitters) {
         if (!transmitter)
             continue;

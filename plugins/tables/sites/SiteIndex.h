@@ -22,17 +22,20 @@ struct IndexedSite
     std::size_t transmitterCount = 0;
 };
 
-/// The sites of a table with a row per transmitter. Rows belong to a site by its id, else by the
-/// position and the name, whose sector does not count. A row without id and position continues the
-/// site of the row above, as merged cells do.
+/// The sites of a table whose transmitters stand in several rows, or in another table. Rows belong
+/// to a site by its id, else by the position and the name, whose sector does not count. A row
+/// without id and position continues the site of the row above, as merged cells do.
 class SiteIndex
 {
 public:
     SiteIndex(const TableProfile &table, const SiteRoles &roles, CoordinateUnit unit);
 
-    /// Adds a row. Rows are added in the order of the file.
-    void add(int64_t row, const std::vector<const Cell *> &cells, const Position &position,
-             std::vector<std::optional<TransmitterValues>> transmitters);
+    /// Adds a row and returns the index of its site. Rows are added in the order of the file.
+    std::size_t add(int64_t row, const std::vector<const Cell *> &cells, const Position &position,
+                    std::vector<std::optional<TransmitterValues>> transmitters);
+    /// Adds transmitters to a site.
+    void addTransmitters(std::size_t site,
+                         std::vector<std::optional<TransmitterValues>> transmitters);
     /// To be called after the last row.
     void finish();
 

@@ -41,6 +41,7 @@ enum class SiteShape {
     Numbered, ///< a row per site, columns numbered by transmitter
     Lists,    ///< a row per site, lists of values in the cells
     Tall,     ///< a row per transmitter
+    Joined,   ///< a row per site, transmitters in another table
 };
 
 /// The columns of a table of sites, apart from those of the position.

@@ -40,6 +40,10 @@ public:
             if (!header)
                 return;
             ChosenSheet candidate = {sheet, std::move(*header), 0};
+            if (m_hints.mustSuit) {
+                offerRated(std::move(candidate));
+                return;
+            }
             if (!best.sheet) { // with a single sheet there is no choice
                 best = std::move(candidate);
                 return;
@@ -67,6 +71,13 @@ public:
     std::size_t widest = 0; ///< number of cells of the widest row
 
 private:
+    void offerRated(ChosenSheet candidate)
+    {
+        rate(candidate);
+        if (candidate.suitability > 0 && (!best.sheet || isBetter(candidate, best)))
+            best = std::move(candidate);
+    }
+
     void rate(ChosenSheet &candidate) const
     {
         if (candidate.header.hasRowsBelow && m_hints.suitability)
@@ -88,7 +99,8 @@ ChosenSheet chooseSheet(Workbook &workbook, const TableHints &hints)
         const std::shared_ptr<Sheet> sheet = workbook.nextSheet();
         if (!sheet)
             break;
-        if (!hints.sheet.empty() && sheet->name() != hints.sheet)
+        if ((!hints.sheet.empty() && sheet->name() != hints.sheet) ||
+            (!hints.otherThan.empty() && sheet->name() == hints.otherThan))
             continue;
         anySheet = true;
         search.offer(sheet);

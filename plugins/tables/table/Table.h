@@ -68,8 +68,10 @@ struct TableHints
     bool textOnly = false; ///< all columns are texts
     /// How well the first rows of a sheet suit the wanted table: from 0 to `highestSuitability`.
     /// The best one of several sheets is chosen; without it, the first one with a header.
-    std::function<int(const TableProfile &start)> suitability;
+    std::function<int(const TableProfile &start)> suitability = {};
     int highestSuitability = 0;
+    bool mustSuit = false;      ///< a sheet of suitability 0 is not read
+    std::string otherThan = {}; ///< name of a sheet that is not considered
 };
 
 /// A table: the sheet of a workbook, and its properties.

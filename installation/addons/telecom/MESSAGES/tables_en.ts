@@ -675,5 +675,21 @@
         <source>the area "%1" is not west, south, east and north in degrees</source>
         <translation>the area "%1" is not west, south, east and north in degrees</translation>
     </message>
+    <message id="MESS_TAB_IN_SHEET">
+        <source>in the sheet "%1": %2</source>
+        <translation>in the sheet "%1": %2</translation>
+    </message>
+    <message id="MESS_TAB_NO_SUCH_SITE">
+        <source>the site "%1" is not in the table of sites: the transmitter is left out</source>
+        <translation>the site "%1" is not in the table of sites: the transmitter is left out</translation>
+    </message>
+    <message id="MESS_TAB_NO_SITE_NAMED">
+        <source>the transmitter names no site: it is left out</source>
+        <translation>the transmitter names no site: it is left out</translation>
+    </message>
+    <message id="MESS_TAB_BARE_SITES">
+        <source>sites without a transmitter: %1</source>
+        <translation>sites without a transmitter: %1</translation>
+    </message>
 </context>
 </TS>

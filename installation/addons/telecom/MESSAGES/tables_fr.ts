@@ -675,5 +675,21 @@
         <source>the area "%1" is not west, south, east and north in degrees</source>
         <translation>la zone «&#xa0;%1&#xa0;» ne donne pas ouest, sud, est et nord en degrés</translation>
     </message>
+    <message id="MESS_TAB_IN_SHEET">
+        <source>in the sheet "%1": %2</source>
+        <translation>dans la feuille «&#xa0;%1&#xa0;»&#xa0;: %2</translation>
+    </message>
+    <message id="MESS_TAB_NO_SUCH_SITE">
+        <source>the site "%1" is not in the table of sites: the transmitter is left out</source>
+        <translation>le site «&#xa0;%1&#xa0;» n'est pas dans la table des sites&#xa0;: l'émetteur est laissé de côté</translation>
+    </message>
+    <message id="MESS_TAB_NO_SITE_NAMED">
+        <source>the transmitter names no site: it is left out</source>
+        <translation>l'émetteur ne nomme aucun site&#xa0;: il est laissé de côté</translation>
+    </message>
+    <message id="MESS_TAB_BARE_SITES">
+        <source>sites without a transmitter: %1</source>
+        <translation>sites sans émetteur&#xa0;: %1</translation>
+    </message>
 </context>
 </TS>

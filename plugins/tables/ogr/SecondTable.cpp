@@ -1,0 +1,23 @@
+#include "plugins/tables/ogr/SecondTable.h"
+
+#include "contract/TableTexts.h"
+
+namespace vlt::driver {
+
+SecondTable::SecondTable(Table table) : m_table(std::move(table))
+{
+    m_table.sheet->prepareStrings(m_table.profile->rowCount);
+}
+
+std::unique_ptr<DataRows> SecondTable::rows() const
+{
+    return std::make_unique<DataRows>(*m_table.sheet, m_table.profile);
+}
+
+RowProblem SecondTable::located(RowProblem problem) const
+{
+    problem.text = contract::formatted("MESS_TAB_IN_SHEET", {m_table.profile->sheet, problem.text});
+    return problem;
+}
+
+} // namespace vlt::driver
