@@ -23,7 +23,9 @@ private Q_SLOTS:
         GDALAllRegister();
         QByteArray sites = "Site ID;Longitude;Latitude\n";
         for (int i = 0; i < Sites; ++i)
-            sites += "S" + QByteArray::number(i) + (i % 1000 == 7 ? ";east;48\n" : ";2.5;48\n");
+            sites +=
+                "S" + QByteArray::number(i) +
+                (i % 1000 == 7 ? ";east;48\n" : ";2." + QByteArray::number(100000 + i) + ";48\n");
         writeFile(m_sites, sites);
         QByteArray links = "Name;Site A;Site B;Longitude A;Latitude A;Longitude B;Latitude B;"
                            "Frequency A (MHz);Frequency B (MHz)\n";
