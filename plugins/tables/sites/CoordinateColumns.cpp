@@ -85,34 +85,6 @@ std::optional<Axis> axisOfHemispheres(const Words &words)
                             : std::nullopt;
 }
 
-/// Whether all samples are hemispheres of an axis: letters, or words that start with them.
-bool holdsHemispheres(const Field &field, Axis axis)
-{
-    return !field.samples.empty() &&
-           std::all_of(field.samples.begin(), field.samples.end(), [&](const std::string &text) {
-               return !readHemisphere(text, axis, LetterO::West).fault;
-           });
-}
-
-std::vector<CoordinateName> readNames(const FieldWords &words, const std::vector<Field> &fields,
-                                      const Vocabulary &vocabulary)
-{
-    std::vector<CoordinateName> names(words.size());
-    for (std::size_t i = 0; i < words.size(); ++i) {
-        if (!words[i])
-            continue;
-        if (const std::optional<Axis> axis = axisOfHemispheres(*words[i]))
-            names[i] = {Family::Bare, *axis, CoordinatePart::Hemisphere, 1, {}};
-        else
-            names[i] = readName(*words[i], vocabulary);
-        // "ns1:longitude" is no column of hemispheres
-        if (names[i].part == CoordinatePart::Hemisphere &&
-            !holdsHemispheres(fields[i], names[i].axis))
-            names[i].part = CoordinatePart::Whole;
-    }
-    return names;
-}
-
 /// What the samples of a column are as coordinates of an axis.
 struct SampledUnit
 {
@@ -150,6 +122,48 @@ SampledUnit unitOfSamples(const Field &field, Axis axis)
         }
     }
     return sampled;
+}
+
+/// Whether all samples are hemispheres of an axis: letters, or words that start with them.
+bool holdsHemispheres(const Field &field, Axis axis)
+{
+    return !field.samples.empty() &&
+           std::all_of(field.samples.begin(), field.samples.end(), [&](const std::string &text) {
+               return !readHemisphere(text, axis, LetterO::West).fault;
+           });
+}
+
+/// Whether a name is a letter other than X and Y; a number may make it unique.
+bool isBareLetter(const Words &words)
+{
+    const std::string letter = words.empty() ? std::string() : words.front();
+    const bool isNumbered =
+        words.size() == 2 && words[1].find_first_not_of("0123456789") == std::string::npos;
+    return letter.size() == 1 && letter != "x" && letter != "y" &&
+           (words.size() == 1 || isNumbered);
+}
+
+std::vector<CoordinateName> readNames(const FieldWords &words, const std::vector<Field> &fields,
+                                      const Vocabulary &vocabulary)
+{
+    std::vector<CoordinateName> names(words.size());
+    for (std::size_t i = 0; i < words.size(); ++i) {
+        if (!words[i])
+            continue;
+        if (const std::optional<Axis> axis = axisOfHemispheres(*words[i]))
+            names[i] = {Family::Bare, *axis, CoordinatePart::Hemisphere, 1, {}};
+        else
+            names[i] = readName(*words[i], vocabulary);
+        // a bare letter but X and Y, such as E, is a coordinate only if its values are in metres
+        if (isBareLetter(*words[i]) &&
+            unitOfSamples(fields[i], names[i].axis).unit() != CoordinateUnit::Meters)
+            names[i].family = Family::None;
+        // "ns1:longitude" is no column of hemispheres
+        if (names[i].part == CoordinatePart::Hemisphere &&
+            !holdsHemispheres(fields[i], names[i].axis))
+            names[i].part = CoordinatePart::Whole;
+    }
+    return names;
 }
 
 /// A column that may hold a coordinate.
