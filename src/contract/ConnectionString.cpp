@@ -22,6 +22,12 @@ bool exists(const std::string &path, const std::string &baseDirectory)
     return std::filesystem::exists(std::filesystem::path(baseDirectory) / path, error);
 }
 
+/// Whether the value of an option is a path, which may contain commas.
+bool isPath(std::string_view key)
+{
+    return key == query::TerrainFile || key == query::Sectors || key == query::EndSites;
+}
+
 /// The key of the option at the start of `text`; empty where `text` starts with no option.
 std::string_view keyAt(std::string_view text)
 {
@@ -84,7 +90,7 @@ std::size_t endBeforePath(std::string_view text, std::string_view key,
     const std::vector<std::size_t> ends = valueEnds(text);
     if (ends.empty())
         return text.size();
-    if (key == query::TerrainFile) // a path, which may contain commas
+    if (isPath(key))
         for (const std::size_t end : ends)
             if (text.size() - end <= MaxPathSize &&
                 exists(std::string(text.substr(end + 1)), baseDirectory))

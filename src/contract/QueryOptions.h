@@ -75,6 +75,11 @@ inline constexpr char Delimiter[] = "delimiter";
 inline constexpr char Axes[] = "axes"; ///< SwappedAxes if the columns of x and y are exchanged
 inline constexpr char SwappedAxes[] = "swapped";
 
+/// Path of a table that completes this one, relative to its folder: the transmitters of a table of
+/// sites; the sites at the ends of a table of links.
+inline constexpr char Sectors[] = "sectors";
+inline constexpr char EndSites[] = "sites";
+
 inline constexpr char TransmitterScale[] = "transmitter_scale";
 inline constexpr ChosenNumber<int> AntennaScalePercent{0, 300, 100};
 
@@ -132,6 +137,8 @@ inline constexpr auto QueryOptions = std::to_array<QueryOption>({
     {query::Encoding, OptionPurpose::Reading},
     {query::Delimiter, OptionPurpose::Reading},
     {query::Axes, OptionPurpose::Reading},
+    {query::Sectors, OptionPurpose::Reading},
+    {query::EndSites, OptionPurpose::Reading},
     {query::TransmitterScale, OptionPurpose::Pylons, {query::AntennaScalePercent}},
     {query::Lods, OptionPurpose::Pylons, {query::SymbolicDistanceM, query::RealisticDistanceM}},
     {query::TerrainFile, OptionPurpose::Heights},

@@ -193,6 +193,14 @@ inline constexpr auto TableTexts = std::to_array<Text>({
 
     // tables that belong together
     {"MESS_TAB_IN_SHEET", "in the sheet \"%1\": %2", {ValueKind::Name, ValueKind::Nested}},
+    {"MESS_TAB_IN_FILE", "in the file \"%1\": %2", {ValueKind::Name, ValueKind::Nested}},
+    {"MESS_TAB_SECOND_FILE",
+     "the file \"%1\" cannot be used: %2",
+     {ValueKind::Name, ValueKind::Nested}},
+    {"MESS_TAB_NO_SECTORS", "no columns of transmitters with the ids or names of these sites were "
+                            "recognised"},
+    {"MESS_TAB_SECTORS_NOT_USED", "the table has transmitters of its own: those in the file "
+                                  "\"%1\" are not used"},
     {"MESS_TAB_NO_SUCH_SITE", "the site \"%1\" is not in the table of sites: the transmitter is "
                               "left out"},
     {"MESS_TAB_NO_SITE_NAMED", "the transmitter names no site: it is left out"},

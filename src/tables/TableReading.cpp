@@ -23,6 +23,10 @@ QString TableReading::parameters() const
         add(contract::query::Delimiter, delimiter);
     if (swapsAxes)
         add(contract::query::Axes, QLatin1String(contract::query::SwappedAxes));
+    if (!sectors.isEmpty())
+        add(contract::query::Sectors, sectors);
+    if (!endSites.isEmpty())
+        add(contract::query::EndSites, endSites);
     return parts.join(QLatin1Char(','));
 }
 

@@ -17,6 +17,10 @@ struct TableReading
     QString encoding;       ///< of a text file, such as "CP1250"; without a comma
     QString delimiter;      ///< of a text file: "comma", "semicolon", "tab" or "bar"
     bool swapsAxes = false; ///< the columns of x and y are exchanged
+    /// File with the transmitters of a table of sites; like `endSites` relative to the folder of
+    /// the table, or absolute.
+    QString sectors = {};
+    QString endSites = {}; ///< file with the sites at the ends of a table of links
 
     /// The options as text for connections and queries: "sheet=Sites,encoding=CP1250", without a
     /// comma at the end; empty if no option is set.

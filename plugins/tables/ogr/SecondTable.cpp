@@ -4,7 +4,9 @@
 
 namespace vlt::driver {
 
-SecondTable::SecondTable(Table table) : m_table(std::move(table))
+SecondTable::SecondTable(Table table, std::string file)
+    : m_table(std::move(table))
+    , m_file(std::move(file))
 {
     m_table.sheet->prepareStrings(m_table.profile->rowCount);
 }
@@ -16,7 +18,9 @@ std::unique_ptr<DataRows> SecondTable::rows() const
 
 RowProblem SecondTable::located(RowProblem problem) const
 {
-    problem.text = contract::formatted("MESS_TAB_IN_SHEET", {m_table.profile->sheet, problem.text});
+    problem.text = m_file.empty() ? contract::formatted("MESS_TAB_IN_SHEET",
+                                                        {m_table.profile->sheet, problem.text})
+                                  : contract::formatted("MESS_TAB_IN_FILE", {m_file, problem.text});
     return problem;
 }
 

@@ -8,19 +8,21 @@
 
 namespace vlt::driver {
 
-/// A table that completes another one: a further sheet of its file.
+/// A table that completes another one: a further sheet of its file, or another file.
 class SecondTable
 {
 public:
-    explicit SecondTable(Table table);
+    /// @param file  name of the other file; empty for a sheet of the same file
+    explicit SecondTable(Table table, std::string file = {});
 
     const TableProfile &profile() const { return *m_table.profile; }
     std::unique_ptr<DataRows> rows() const;
-    /// A problem of this table as one of the dataset: its text names the sheet.
+    /// A problem of this table as one of the dataset: its text names the sheet or file.
     RowProblem located(RowProblem problem) const;
 
 private:
     Table m_table;
+    std::string m_file;
 };
 
 } // namespace vlt::driver

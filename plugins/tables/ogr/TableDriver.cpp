@@ -9,7 +9,9 @@
 #include <cpl_error.h>
 #include <gdal_priv.h>
 
+#include <filesystem>
 #include <memory>
+#include <string>
 #include <vector>
 
 namespace vlt::driver {
@@ -19,7 +21,9 @@ namespace {
 class TableDataset final : public GDALDataset
 {
 public:
-    TableDataset(const TableSource &source, std::string file) : m_file(std::move(file))
+    /// @param files  paths of the files that the dataset reads
+    TableDataset(const TableSource &source, std::vector<std::string> files)
+        : m_files(std::move(files))
     {
         if (std::holds_alternative<SiteLayout>(source.facts().layout)) {
             m_layers.push_back(std::make_unique<SiteLayer>(source));
@@ -37,10 +41,16 @@ public:
                    : nullptr;
     }
 
-    char **GetFileList() override { return CSLAddString(nullptr, m_file.c_str()); }
+    char **GetFileList() override
+    {
+        CPLStringList list;
+        for (const std::string &file : m_files)
+            list.AddString(file.c_str());
+        return list.StealList();
+    }
 
 private:
-    std::string m_file;
+    std::vector<std::string> m_files;
     std::vector<std::unique_ptr<TableLayer>> m_layers;
 };
 
@@ -66,6 +76,15 @@ std::string either(const GDALOpenInfo &info, const contract::ConnectionString &c
     return value && *value ? value : connection.option(key);
 }
 
+/// Refuses the names of GDAL's virtual file systems, because tables are local files.
+void refuseRemote(const std::string &path)
+{
+    if (path.empty())
+        throw RefusedFile(Refusal::CannotRead, "MESS_TAB_NO_FILE_NAME");
+    if (path.starts_with("/vsi") || path.find("://") != std::string::npos)
+        throw RefusedFile(Refusal::CannotRead, "MESS_TAB_NOT_LOCAL");
+}
+
 /// The options for reading the table.
 TableOptions optionsOf(const GDALOpenInfo &info, const contract::ConnectionString &connection)
 {
@@ -80,6 +99,13 @@ TableOptions optionsOf(const GDALOpenInfo &info, const contract::ConnectionStrin
     options.swapsAxes =
         EQUAL(option("AXES", contract::query::Axes).c_str(), contract::query::SwappedAxes);
     options.delimiter = delimiterOf(option("DELIMITER", contract::query::Delimiter));
+    const bool isLinks = options.kind == contract::TableKind::Links;
+    const std::string second = isLinks ? option("SITES", contract::query::EndSites)
+                                       : option("SECTORS", contract::query::Sectors);
+    if (!second.empty()) {
+        refuseRemote(second);
+        options.second = std::filesystem::path(connection.path).parent_path() / second;
+    }
     return options;
 }
 
@@ -93,15 +119,6 @@ StatedSystems systemsOf(const GDALOpenInfo &info, const contract::ConnectionStri
 int identify(GDALOpenInfo *info)
 {
     return contract::connectionKind(info->pszFilename).has_value();
-}
-
-/// Refuses the names of GDAL's virtual file systems, because tables are local files.
-void refuseRemote(const std::string &path)
-{
-    if (path.empty())
-        throw RefusedFile(Refusal::CannotRead, "MESS_TAB_NO_FILE_NAME");
-    if (path.starts_with("/vsi") || path.find("://") != std::string::npos)
-        throw RefusedFile(Refusal::CannotRead, "MESS_TAB_NOT_LOCAL");
 }
 
 void report(CPLErrorNum number, const std::string &path, const std::string &reason)
@@ -120,12 +137,16 @@ GDALDataset *open(GDALOpenInfo *info)
     try {
         refuseRemote(connection->path);
         TableSource source;
-        source.file = TableFile::open(connection->path, optionsOf(*info, *connection));
+        const TableOptions options = optionsOf(*info, *connection);
+        source.file = TableFile::open(connection->path, options);
         source.systems = std::make_shared<TableSystems>(source.facts().declaration(),
                                                         systemsOf(*info, *connection));
         source.warnings = std::make_shared<RowWarnings>();
         source.survey = std::make_shared<std::optional<TableSurvey>>();
-        auto dataset = std::make_unique<TableDataset>(source, connection->path);
+        std::vector<std::string> files{connection->path};
+        if (!options.second.empty())
+            files.push_back(options.second);
+        auto dataset = std::make_unique<TableDataset>(source, std::move(files));
         dataset->SetDescription(info->pszFilename);
         return dataset.release();
     } catch (const RefusedFile &refused) {
@@ -154,6 +175,10 @@ constexpr char OpenOptions[] = "<OpenOptionList>"
                                "<Option name='EXTENT' type='string' description='Area of the "
                                "project: west,south,east,north in degrees; sites outside it are "
                                "reported'/>"
+                               "<Option name='SECTORS' type='string' description='File with the "
+                               "transmitters of a table of sites, relative to its folder'/>"
+                               "<Option name='SITES' type='string' description='File with the "
+                               "sites at the ends of a table of links, relative to its folder'/>"
                                "<Option name='TYPES' type='string-select' description='Whether "
                                "columns of numbers become numeric fields' "
                                "default='AUTO'><Value>AUTO</Value><Value>TEXT</Value></Option>"

@@ -1,5 +1,6 @@
 #include "plugins/tables/ogr/TableFile.h"
 
+#include "contract/TableTexts.h"
 #include "plugins/tables/bytes/Refusal.h"
 #include "plugins/tables/formats/OpenWorkbook.h"
 #include "plugins/tables/ogr/FieldCells.h"
@@ -21,6 +22,7 @@ struct Remembered
 {
     std::string path;
     FileIdentity identity;
+    FileIdentity second; ///< of the file that completes the table
     TableOptions options;
     std::shared_ptr<const TableFacts> facts;
 };
@@ -30,11 +32,12 @@ class Memory
 {
 public:
     std::shared_ptr<const TableFacts> find(const std::string &path, const FileIdentity &identity,
-                                           const TableOptions &options)
+                                           const FileIdentity &second, const TableOptions &options)
     {
         const std::lock_guard lock(m_mutex);
         for (auto entry = m_entries.begin(); entry != m_entries.end(); ++entry) {
-            if (entry->path == path && entry->identity == identity && entry->options == options) {
+            if (entry->path == path && entry->identity == identity && entry->second == second &&
+                entry->options == options) {
                 m_entries.splice(m_entries.begin(), m_entries, entry);
                 return entry->facts;
             }
@@ -64,10 +67,14 @@ Memory &memory()
     return theMemory;
 }
 
+std::string fileName(const std::string &path)
+{
+    return path.substr(path.rfind('/') + 1);
+}
+
 std::string baseName(const std::string &path)
 {
-    const std::size_t slash = path.rfind('/');
-    const std::string file = slash == std::string::npos ? path : path.substr(slash + 1);
+    const std::string file = fileName(path);
     const std::size_t dot = file.rfind('.');
     return dot == std::string::npos || dot == 0 ? file : file.substr(0, dot);
 }
@@ -79,6 +86,18 @@ void swapAxes(TableFacts &facts)
     else
         for (LinkEndFields &end : std::get<LinkLayout>(facts.layout).ends)
             end.point.swapAxes();
+}
+
+/// Calls a function that reads the second file; its refusal names that file.
+template<typename Function, typename... Values>
+auto usingSecond(const std::string &path, Function function, const Values &...values)
+{
+    try {
+        return function(values...);
+    } catch (const RefusedFile &refused) {
+        throw RefusedFile(refused.reason(), "MESS_TAB_SECOND_FILE",
+                          {fileName(path), refused.what()});
+    }
 }
 
 TableHints hintsOf(const TableOptions &options, const Vocabulary &vocabulary)
@@ -104,7 +123,12 @@ std::shared_ptr<TableFile> TableFile::open(const std::string &path, const TableO
 {
     std::shared_ptr<const InputFile> file = InputFile::open(path);
     std::shared_ptr<TableFile> table(new TableFile(file, baseName(path), options));
-    table->m_facts = memory().find(path, file->identity(), options);
+    FileIdentity second;
+    if (!options.second.empty()) {
+        table->m_secondFile = usingSecond(options.second, InputFile::open, options.second);
+        second = table->m_secondFile->identity();
+    }
+    table->m_facts = memory().find(path, file->identity(), second, options);
     if (table->m_facts)
         return table;
     const std::unique_ptr<Workbook> workbook = table->openFile();
@@ -126,7 +150,7 @@ std::shared_ptr<TableFile> TableFile::open(const std::string &path, const TableO
     table->m_facts = facts;
     if (!links)
         table->readSites(*facts);
-    memory().add({path, file->identity(), options, facts});
+    memory().add({path, file->identity(), second, options, facts});
     return table;
 }
 
@@ -169,22 +193,33 @@ void TableFile::readSites(TableFacts &facts)
                                    roles.transmitters, transmitters);
 }
 
-/// Takes the transmitters from another sheet of the workbook. False if the table has some, or if no
-/// other sheet has those of its sites.
+/// Takes the transmitters from the second file, or from another sheet of the workbook. False if
+/// there is no such sheet.
 bool TableFile::joinTransmitters(TableFacts &facts)
 {
     SiteLayout &layout = std::get<SiteLayout>(facts.layout);
-    const bool isText = !facts.table.encoding.name.empty(); // it has no other sheet
-    if (isText || layout.isLinkEnd || !layout.point.found() || !layout.roles.transmitters.empty() ||
-        hasKnownTransmitters(facts.table))
+    const bool isComplete = hasKnownTransmitters(facts.table);
+    if (m_secondFile && isComplete)
+        facts.joinProblems.add(
+            {0,
+             {},
+             false,
+             contract::formatted("MESS_TAB_SECTORS_NOT_USED", {fileName(m_options.second)})});
+    const bool isBare = layout.point.found() && layout.roles.transmitters.empty();
+    if (isComplete || layout.isLinkEnd || (!m_secondFile && !isBare))
         return false;
-    const std::optional<SecondTable> sectors = otherSheet(facts.table.sheet, sectorSuitability);
+    const std::optional<SecondTable> sectors =
+        m_secondFile ? std::optional(secondFile(sectorSuitability)) : otherSheet(sectorSuitability);
     if (!sectors)
         return false;
-    const std::unique_ptr<DataRows> siteRows = rows();
-    auto joined = joinSectors(facts.table, layout, *siteRows, *sectors, false);
+    auto joined = joinSectors(
+        facts.table, layout, [this] { return rows(); }, *sectors, m_secondFile != nullptr);
+    if (!joined && m_secondFile)
+        throw RefusedFile(Refusal::BadOption, "MESS_TAB_SECOND_FILE",
+                          {fileName(m_options.second), contract::formatted("MESS_TAB_NO_SECTORS")});
     if (!joined)
         return false;
+    layout.roles.transmitters.clear();
     layout.roles.shape = SiteShape::Joined;
     facts.siteIndex = joined->index;
     layout.maxTransmitters = facts.siteIndex->transmitterRange().second;
@@ -195,13 +230,13 @@ bool TableFile::joinTransmitters(TableFacts &facts)
 }
 
 /// The other sheet of the workbook that suits best; nothing if none does.
-std::optional<SecondTable> TableFile::otherSheet(const std::string &sheet,
-                                                 int (*suitability)(const TableProfile &,
-                                                                    const Vocabulary &)) const
+std::optional<SecondTable> TableFile::otherSheet(Suitability suitability) const
 {
+    if (!m_facts->table.encoding.name.empty()) // a text
+        return std::nullopt;
     const Vocabulary &vocabulary = installedVocabulary().words;
     TableHints hints = {&vocabulary, contract::TableKind::Sites, {}, m_options.textOnly};
-    hints.otherThan = sheet;
+    hints.otherThan = m_facts->table.sheet;
     hints.mustSuit = true;
     hints.suitability = [&](const TableProfile &start) { return suitability(start, vocabulary); };
     hints.highestSuitability = std::numeric_limits<int>::max();
@@ -210,6 +245,19 @@ std::optional<SecondTable> TableFile::otherSheet(const std::string &sheet,
     } catch (const RefusedFile &) { // there is none, or it is damaged
         return std::nullopt;
     }
+}
+
+/// The table in the second file. Throws RefusedFile.
+SecondTable TableFile::secondFile(Suitability suitability) const
+{
+    const Vocabulary &vocabulary = installedVocabulary().words;
+    TableHints hints = {&vocabulary, contract::TableKind::Sites, {}, m_options.textOnly};
+    hints.suitability = [&](const TableProfile &start) { return suitability(start, vocabulary); };
+    hints.highestSuitability = std::numeric_limits<int>::max();
+    return usingSecond(m_options.second, [&] {
+        const auto workbook = openWorkbook(m_secondFile, baseName(m_options.second), {});
+        return SecondTable(readTable(*workbook, hints), fileName(m_options.second));
+    });
 }
 
 std::unique_ptr<Workbook> TableFile::openFile() const

@@ -24,6 +24,8 @@ struct TableOptions
     char delimiter = 0;
     bool textOnly = false;
     bool swapsAxes = false; ///< the columns of x hold y and the reverse
+    /// Path of a file that completes the table: the transmitters of sites, the sites of links.
+    std::string second;
 
     bool operator==(const TableOptions &) const = default;
 };
@@ -66,19 +68,21 @@ public:
     std::unique_ptr<DataRows> rows();
 
 private:
-    void readSites(TableFacts &facts);
-    bool joinTransmitters(TableFacts &facts);
-    std::optional<SecondTable> otherSheet(const std::string &sheet,
-                                          int (*suitability)(const TableProfile &,
-                                                             const Vocabulary &)) const;
+    using Suitability = int(const TableProfile &start, const Vocabulary &vocabulary);
+
     TableFile(std::shared_ptr<const InputFile> file, std::string name, TableOptions options)
         : m_file(std::move(file))
         , m_name(std::move(name))
         , m_options(std::move(options))
     {}
+    void readSites(TableFacts &facts);
+    bool joinTransmitters(TableFacts &facts);
+    std::optional<SecondTable> otherSheet(Suitability suitability) const;
+    SecondTable secondFile(Suitability suitability) const;
     std::unique_ptr<Workbook> openFile() const;
 
     std::shared_ptr<const InputFile> m_file;
+    std::shared_ptr<const InputFile> m_secondFile; ///< null without one
     std::string m_name;
     TableOptions m_options;
     std::shared_ptr<const TableFacts> m_facts;

@@ -14,10 +14,11 @@ namespace {
 
 constexpr std::size_t MaxKeyColumns = 6; ///< that are compared, of the table of sites
 constexpr double MinShare = 0.3;         ///< of ids that are found
+constexpr double MinDistinct = 0.5;      ///< share of different values among the sites
 constexpr double PointsOfShare = 100;
-constexpr double PointsOfRole = 50;
-constexpr double PointsOfSameName = 40;
-constexpr double PointsOfId = 20;
+constexpr double PointsOfDistinct = 40;
+constexpr double PointsOfNames = 50;
+constexpr double PointsOfSiteName = -20; ///< ids are safer than names
 
 Role roleOf(const SiteRoles &roles, int field)
 {
@@ -51,54 +52,45 @@ int sectorSuitability(const TableProfile &start, const Vocabulary &vocabulary)
     return roles.transmitters.empty() ? 0 : start.rowCount >= MinRows ? 2 : 1;
 }
 
-SiteKeys::SiteKeys(const TableProfile &sites, const SiteRoles &siteRoles,
-                   const TableProfile &sectors, const SiteRoles &sectorRoles)
+JoinColumns::JoinColumns(const TableProfile &sites, const SiteRoles &siteRoles,
+                         const TableProfile &sectors, const SiteRoles &sectorRoles)
     : m_sites(&sites)
     , m_siteRoles(&siteRoles)
     , m_sectors(&sectors)
     , m_sectorRoles(&sectorRoles)
 {
-    addColumn(siteRoles.siteId);
-    addColumn(siteRoles.siteName);
     std::set<std::string> names;
     for (const Field &field : sectors.fields)
         names.insert(folded(field.name));
-    for (std::size_t i = 0; i < sites.fields.size() && m_columns.size() < MaxKeyColumns; ++i) {
-        if (names.contains(folded(sites.fields[i].name)))
-            addColumn(static_cast<int>(i));
+    for (std::size_t i = 0; i < sites.fields.size(); ++i) {
+        const int field = static_cast<int>(i);
+        const bool isSame =
+            m_columns.size() < MaxKeyColumns && names.contains(folded(sites.fields[i].name));
+        if (isSame || field == siteRoles.siteId || field == siteRoles.siteName)
+            m_columns.push_back({field, {}});
     }
 }
 
-void SiteKeys::addColumn(int field)
+void JoinColumns::add(const std::vector<const Cell *> &cells)
 {
-    const bool isKnown =
-        std::any_of(m_columns.begin(), m_columns.end(),
-                    [field](const Column &column) { return column.field == field; });
-    if (field >= 0 && !isKnown)
-        m_columns.push_back({field, {}});
-}
-
-void SiteKeys::add(const std::vector<const Cell *> &cells, std::size_t site)
-{
-    m_siteCount = std::max(m_siteCount, site + 1);
+    ++m_rowCount;
     for (Column &column : m_columns) {
         if (std::string key = joinKey(fieldText(cells, column.field)); !key.empty())
-            column.sites.emplace(std::move(key), site);
+            column.keys.insert(std::move(key));
     }
 }
 
-double SiteKeys::pointsOfNames(const Column &column, int sectorField) const
+/// Whether the names of two columns say that both hold the ids of sites.
+bool JoinColumns::isNamedAlike(int siteField, int sectorField) const
 {
-    double points = column.field == m_siteRoles->siteId ? PointsOfId : 0;
-    points += namesSite(roleOf(*m_sectorRoles, sectorField)) ? PointsOfRole : 0;
     const auto name = [](const TableProfile &table, int field) {
         return folded(table.fields[static_cast<std::size_t>(field)].name);
     };
-    points += name(*m_sites, column.field) == name(*m_sectors, sectorField) ? PointsOfSameName : 0;
-    return points;
+    return namesSite(roleOf(*m_sectorRoles, sectorField)) ||
+           name(*m_sites, siteField) == name(*m_sectors, sectorField);
 }
 
-bool SiteKeys::choose(bool byName)
+bool JoinColumns::choose(bool byName)
 {
     double best = 0;
     for (std::size_t at = 0; at < m_sectors->fields.size(); ++at) {
@@ -106,32 +98,28 @@ bool SiteKeys::choose(bool byName)
         const Role role = roleOf(*m_sectorRoles, field);
         if (role != Role::None && role != Role::SectorId && !namesSite(role))
             continue;
-        const std::vector<std::string> keys = keysOf(m_sectors->sampledColumns[at]);
-        for (std::size_t i = 0; i < m_columns.size(); ++i) {
-            const auto &sites = m_columns[i].sites;
-            if (sites.size() * 2 < m_siteCount) // it does not distinguish the sites
+        const std::vector<std::string> ids = keysOf(m_sectors->sampledColumns[at]);
+        for (const Column &column : m_columns) {
+            const double distinct = double(column.keys.size()) / double(m_rowCount);
+            const auto found = std::count_if(ids.begin(), ids.end(), [&](const std::string &id) {
+                return column.keys.contains(id);
+            });
+            const double share = ids.empty() ? 0 : double(found) / double(ids.size());
+            const bool isNamed = isNamedAlike(column.field, field);
+            if (distinct < MinDistinct || (share < MinShare && !(byName && isNamed)))
                 continue;
-            const auto found = std::count_if(keys.begin(), keys.end(),
-                                             [&](const auto &key) { return sites.contains(key); });
-            const double share = keys.empty() ? 0 : double(found) / double(keys.size());
-            const double names = pointsOfNames(m_columns[i], field);
-            if (share < MinShare && !(byName && names >= PointsOfSameName))
+            const double points = share * PointsOfShare + distinct * PointsOfDistinct +
+                                  (isNamed ? PointsOfNames : 0) +
+                                  (column.field == m_siteRoles->siteName ? PointsOfSiteName : 0);
+            const bool isBetter = points > best || (points == best && column.field < m_siteField);
+            if (!isBetter)
                 continue;
-            if (const double points = share * PointsOfShare + names; points > best) {
-                best = points;
-                m_chosen = i;
-                m_sectorField = field;
-            }
+            best = points;
+            m_siteField = column.field;
+            m_sectorField = field;
         }
     }
     return m_sectorField >= 0;
-}
-
-std::optional<std::size_t> SiteKeys::find(const std::string &id) const
-{
-    const auto &sites = m_columns[m_chosen].sites;
-    const auto found = sites.find(joinKey(id));
-    return found == sites.end() ? std::nullopt : std::optional(found->second);
 }
 
 } // namespace vlt::driver

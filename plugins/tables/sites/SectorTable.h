@@ -2,9 +2,8 @@
 
 #include "plugins/tables/sites/SiteRoles.h"
 
-#include <optional>
 #include <string>
-#include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 namespace vlt::driver {
@@ -14,44 +13,42 @@ namespace vlt::driver {
 constexpr int HighestSectorSuitability = 2;
 int sectorSuitability(const TableProfile &start, const Vocabulary &vocabulary);
 
-/// The ids and names of sites, by which the rows of a table of transmitters find their sites.
-class SiteKeys
+/// Finds the columns that join a table of sites and a table of transmitters.
+class JoinColumns
 {
 public:
-    /// The sites are added later.
-    SiteKeys(const TableProfile &sites, const SiteRoles &siteRoles, const TableProfile &sectors,
-             const SiteRoles &sectorRoles);
+    JoinColumns(const TableProfile &sites, const SiteRoles &siteRoles, const TableProfile &sectors,
+                const SiteRoles &sectorRoles);
 
     /// Adds a row of the table of sites.
-    void add(const std::vector<const Cell *> &cells, std::size_t site);
-    /// Chooses the columns that join both tables, after all sites were added: those with the
-    /// largest share of sampled ids that are found; the names of the columns help. With
-    /// `byName`, the names suffice, because the first rows may be those of other sites. False if
-    /// there are no such columns.
+    void add(const std::vector<const Cell *> &cells);
+    /// Chooses the columns after all sites were added: those with the largest share of sampled
+    /// values that are found among the sites; their names and how well they distinguish the sites
+    /// help. With `byName`, the names suffice, because the first transmitters may be those of other
+    /// sites. False if there are no such columns.
     bool choose(bool byName);
-    /// The field of the table of transmitters with the id of the site.
+    /// The field of the table of sites that joins.
+    int siteField() const { return m_siteField; }
+    /// The field of the table of transmitters with the id or name of the site.
     int sectorField() const { return m_sectorField; }
-    /// The site with that id.
-    std::optional<std::size_t> find(const std::string &id) const;
 
 private:
     /// A column of the table of sites.
     struct Column
     {
         int field = -1;
-        std::unordered_map<std::string, std::size_t> sites; ///< by key
+        std::unordered_set<std::string> keys;
     };
 
-    void addColumn(int field);
-    double pointsOfNames(const Column &column, int sectorField) const;
+    bool isNamedAlike(int siteField, int sectorField) const;
 
     const TableProfile *m_sites;
     const SiteRoles *m_siteRoles;
     const TableProfile *m_sectors;
     const SiteRoles *m_sectorRoles;
     std::vector<Column> m_columns;
-    std::size_t m_siteCount = 0;
-    std::size_t m_chosen = 0; ///< index of the column that joins
+    std::size_t m_rowCount = 0;
+    int m_siteField = -1;
     int m_sectorField = -1;
 };
 

@@ -691,5 +691,21 @@
         <source>sites without a transmitter: %1</source>
         <translation>sites without a transmitter: %1</translation>
     </message>
+    <message id="MESS_TAB_IN_FILE">
+        <source>in the file "%1": %2</source>
+        <translation>in the file "%1": %2</translation>
+    </message>
+    <message id="MESS_TAB_SECOND_FILE">
+        <source>the file "%1" cannot be used: %2</source>
+        <translation>the file "%1" cannot be used: %2</translation>
+    </message>
+    <message id="MESS_TAB_NO_SECTORS">
+        <source>no columns of transmitters with the ids or names of these sites were recognised</source>
+        <translation>no columns of transmitters with the ids or names of these sites were recognised</translation>
+    </message>
+    <message id="MESS_TAB_SECTORS_NOT_USED">
+        <source>the table has transmitters of its own: those in the file "%1" are not used</source>
+        <translation>the table has transmitters of its own: those in the file "%1" are not used</translation>
+    </message>
 </context>
 </TS>

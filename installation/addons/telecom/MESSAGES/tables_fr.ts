@@ -691,5 +691,21 @@
         <source>sites without a transmitter: %1</source>
         <translation>sites sans émetteur&#xa0;: %1</translation>
     </message>
+    <message id="MESS_TAB_IN_FILE">
+        <source>in the file "%1": %2</source>
+        <translation>dans le fichier «&#xa0;%1&#xa0;»&#xa0;: %2</translation>
+    </message>
+    <message id="MESS_TAB_SECOND_FILE">
+        <source>the file "%1" cannot be used: %2</source>
+        <translation>le fichier «&#xa0;%1&#xa0;» n'est pas utilisable&#xa0;: %2</translation>
+    </message>
+    <message id="MESS_TAB_NO_SECTORS">
+        <source>no columns of transmitters with the ids or names of these sites were recognised</source>
+        <translation>aucune colonne d'émetteurs avec les identifiants ou les noms de ces sites n'a été reconnue</translation>
+    </message>
+    <message id="MESS_TAB_SECTORS_NOT_USED">
+        <source>the table has transmitters of its own: those in the file "%1" are not used</source>
+        <translation>la table a ses propres émetteurs&#xa0;: ceux du fichier «&#xa0;%1&#xa0;» ne sont pas utilisés</translation>
+    </message>
 </context>
 </TS>
