@@ -72,8 +72,11 @@ inline constexpr auto TableTexts = std::to_array<Text>({
     {"MESS_TAB_NO_ROW", "there is a header in row %1, but no row below it"},
 
     // tables that hold no links
-    {"MESS_TAB_SITES_NOT_LINKS", "this is a table of sites, not of links: no columns with "
-                                 "coordinates of both ends were recognised"},
+    {"MESS_TAB_SITES_NOT_LINKS", "this is a table of sites, not of links: it has the coordinates "
+                                 "of one position per row (%1), not those of two ends"},
+    {"MESS_TAB_ENDS_ONLY_NAMED",
+     "the ends of the links are only named (%1; %2): their positions must stand in a table of "
+     "sites, on another sheet of the workbook or in the file that SITES (--sites) names"},
     {"MESS_TAB_NO_ENDS", "no columns with coordinates of both ends were recognised"},
     {"MESS_TAB_ONE_END",
      "no columns with coordinates of both ends were recognised: those of end %1 are missing"},
@@ -201,6 +204,16 @@ inline constexpr auto TableTexts = std::to_array<Text>({
                             "recognised"},
     {"MESS_TAB_SECTORS_NOT_USED", "the table has transmitters of its own: those in the file "
                                   "\"%1\" are not used"},
+    {"MESS_TAB_NO_NAMED_SITES", "no sites with a position and an id or a name were recognised"},
+    {"MESS_TAB_NO_END_SITES", "the columns of the links name none of its sites"},
+    {"MESS_TAB_END_SITES_NOT_USED", "the links have the positions of their ends: the sites in the "
+                                    "file \"%1\" are not used"},
+    {"MESS_TAB_END_NOT_NAMED", "the end is not named"},
+    {"MESS_TAB_END_UNKNOWN", "the site \"%1\" is not in the table of sites: the end has no "
+                             "position"},
+    {"MESS_TAB_END_UNPLACED", "the site \"%1\" has no position in the table of sites"},
+    {"MESS_TAB_END_AMBIGUOUS", "the name \"%1\" stands for several places in the table of sites: "
+                               "the end has no position"},
     {"MESS_TAB_NO_SUCH_SITE", "the site \"%1\" is not in the table of sites: the transmitter is "
                               "left out"},
     {"MESS_TAB_NO_SITE_NAMED", "the transmitter names no site: it is left out"},

@@ -17,6 +17,11 @@ private Q_SLOTS:
         GDALAllRegister();
         m_folder.write("sites.csv", "Site ID,Longitude,Latitude\n0012,2.1,48.1\nB,2.2,48.2\n"
                                     "b2,2.3,48.3\n");
+        m_folder.write("links.csv",
+                       "Link;From;To\nL1;12;north hill\nL2;B;12\nL3;B;X9\nL4;B;Hill\n");
+        m_folder.write("ends.csv",
+                       "Code,Site name,Lon,Lat\n12,South,2.1,48.1\nB,North Hill,2.2,48.2\n"
+                       "C,Hill,2.3,48.3\nD,Hill,3.3,48.3\nE,Gap,,\n");
         m_folder.write("own.csv", "Site ID,X,Y,Transmitter-1 AZIMUTH\n12,2.1,48.1,5\n");
         m_folder.write("text.csv", "Site ID,Comment\n12,new\nB,old\n");
     }
@@ -78,6 +83,33 @@ private Q_SLOTS:
 
         QVERIFY(!open(file));
         QCOMPARE(warnings.texts.value(0).section(u": "_s, 1), reason);
+    }
+
+    void givesLinksThePositionsOfNamedSites()
+    {
+        const Warnings warnings;
+        const GDALDatasetUniquePtr dataset = m_folder.open("link:sites=ends.csv,", "links.csv");
+        QVERIFY2(dataset, qPrintable(warnings.texts.join(u'\n')));
+        OGRLayer &layer = *dataset->GetLayer(0);
+        QStringList lines;
+        while (const OGRFeatureUniquePtr link{layer.GetNextFeature()})
+            lines += link->GetGeometryRef()
+                         ? QString::fromStdString(link->GetGeometryRef()->exportToWkt())
+                         : QString();
+
+        QCOMPARE(
+            lines,
+            (QStringList{
+                u"LINESTRING (2.1 48.1,2.2 48.2)"_s, u"LINESTRING (2.2 48.2,2.1 48.1)"_s, {}, {}}));
+        QVERIFY(QByteArray(layer.GetSpatialRef()->GetAuthorityCode(nullptr)) == "4326");
+        const QString problems = problemsOf(layer).join(u'\n');
+        for (
+            const QString &problem :
+            {u"=4|To|Error|the site \"X9\" is not in the table of sites: the end has no position"_s,
+             u"=5|To|Error|the name \"Hill\" stands for several places in the table of sites: the "
+             "end has no position"_s,
+             u"=6|Lon|Warning|in the file \"ends.csv\": the coordinate is empty"_s})
+            QVERIFY2(problems.contains(problem), qPrintable(problems));
     }
 
 private:

@@ -329,10 +329,13 @@ private Q_SLOTS:
     {
         const Cases<QByteArray, QString> row({"text", "reason"});
         row("sites", "Site;Longitude;Latitude;Azimuth 1\nS;2;48;90\n",
-            "this is a table of sites, not of links: no "
-            "columns with coordinates of both ends");
+            "this is a table of sites, not of links: it has the coordinates of one position per "
+            "row (Longitude, Latitude), not those of two ends");
         row("one end", "Link;Longitude B;Latitude B\nL;2;48\n", "those of end A are missing");
         row("ends by name only", "Link;A;B;Length (km)\nL;S1;S2;11\n",
+            "the ends of the links are only named (A; B): their positions must stand in a table "
+            "of sites, on another sheet of the workbook or in the file that SITES (--sites) names");
+        row("neither ends nor positions", "Link;Length (km)\nL;11\n",
             "no columns with coordinates of both ends were recognised");
         row("no header",
             "3334173;Cancelled;41.59;-83.09306;176.0m;41.59;-83.4;185.3m;"

@@ -1,13 +1,12 @@
 #include "plugins/tables/links/LinkLayout.h"
 
 #include "plugins/tables/bytes/Refusal.h"
-#include "plugins/tables/links/EndWords.h"
+#include "plugins/tables/links/EndColumns.h"
 #include "plugins/tables/roles/NameMatch.h"
 #include "plugins/tables/table/HeaderWords.h"
 #include "plugins/tables/values/Quantity.h"
 
 #include <algorithm>
-#include <functional>
 #include <initializer_list>
 
 namespace vlt::driver {
@@ -43,24 +42,6 @@ bool holds(const Words &words, WordList list)
 bool startsWith(const Words &words, WordList list)
 {
     return !words.empty() && isIn(list, words.front());
-}
-
-/// How well a column fits; 0 if it does not. The column with the highest value is used, the first
-/// one among equals.
-using Fit = int;
-using FitOf = std::function<Fit(const EndWords &name)>;
-
-Fit fitOfIdentifier(const EndWords &name)
-{
-    static const std::vector<Words> Accepted = {{"site"},         {"name"},     {"id"},
-                                                {"nom"},          {"station"},  {"node"},
-                                                {"call", "sign"}, {"callsign"}, {"end"}};
-    // "End" or "Start" alone may also be a date
-    if (name.words.empty())
-        return name.isNumbered || isIn({"start", "end"}, name.endWord) ? 0 : 1;
-    const bool antenna = name.words == Words{"antenna"} && name.endIndex == 1 && !name.isNumbered;
-    const bool accepted = std::find(Accepted.begin(), Accepted.end(), name.words) != Accepted.end();
-    return accepted || antenna ? 1 : 0;
 }
 
 bool isAboveSea(const EndWords &name)
@@ -137,95 +118,37 @@ Fit fitOfLength(const EndWords &name)
                                                                       : 0;
 }
 
-/// All column names, split into words.
-using Names = std::vector<EndWords>;
-
-/// The field of an end that fits best; -1 if none fits.
-int bestFit(const Names &names, LinkEndId end, const FitOf &fitOf)
+int identifierOf(const Names &names, LinkEndId end, const Vocabulary &vocabulary)
 {
-    int best = -1;
-    Fit bestFit = 0;
-    for (std::size_t i = 0; i < names.size(); ++i) {
-        if (const Fit fit = names[i].end == end ? fitOf(names[i]) : 0; fit > bestFit) {
-            best = static_cast<int>(i);
-            bestFit = fit;
-        }
-    }
-    return best;
+    return bestFit(names, end, [&vocabulary](const EndWords &name) {
+        return fitOfIdentifier(name, vocabulary);
+    });
 }
 
-/// Reads the names in the header instead of those of the fields, because the number that makes the
-/// name of a field unique does not name an end.
-Names readNames(const TableProfile &table, EndStyle style)
+/// The names of the columns of a position.
+std::string namesOf(const PointFields &point, const std::vector<Field> &fields)
 {
-    Names names;
-    names.reserve(table.fields.size());
-    for (const Field &field : table.fields) {
-        const auto inHeader = table.header.names.find(field.column);
-        const bool isNamed = inHeader != table.header.names.end();
-        names.push_back(readEndWords(isNamed ? inHeader->second : std::string(), style));
-    }
-    return names;
-}
-
-PointFields findEnd(const Names &names, LinkEndId end, const std::vector<Field> &fields,
-                    const Vocabulary &vocabulary)
-{
-    FieldWords words(names.size());
-    for (std::size_t i = 0; i < names.size(); ++i) {
-        if (names[i].end == end)
-            words[i] = names[i].words;
-    }
-    return findPoint(words, fields, vocabulary);
-}
-
-/// The coordinates of both ends, and the column names as read in the style of the table.
-struct FoundEnds
-{
-    Names names;
-    PointFields a;
-    PointFields b;
-    bool areNumbered = false;
-
-    bool found() const { return a.found() && b.found(); }
-};
-
-FoundEnds findEnds(const TableProfile &table, EndStyle style, const Vocabulary &vocabulary)
-{
-    FoundEnds ends;
-    ends.names = readNames(table, style);
-    ends.a = findEnd(ends.names, LinkEndId::A, table.fields, vocabulary);
-    ends.b = findEnd(ends.names, LinkEndId::B, table.fields, vocabulary);
-    ends.areNumbered = ends.found() &&
-                       ends.names[static_cast<std::size_t>(ends.a.xField())].isNumbered &&
-                       ends.names[static_cast<std::size_t>(ends.b.xField())].isNumbered;
-    return ends;
-}
-
-FoundEnds findEnds(const TableProfile &table, const Vocabulary &vocabulary)
-{
-    FoundEnds ends = findEnds(table, EndStyle::Names, vocabulary);
-    if (!ends.found()) {
-        if (FoundEnds zero = findEnds(table, EndStyle::Zero, vocabulary); zero.found())
-            return zero;
-    }
-    if (!ends.found() || ends.areNumbered) {
-        if (FoundEnds numbered = findEnds(table, EndStyle::Numbers, vocabulary); numbered.found())
-            return numbered;
-    }
-    return ends;
+    const auto name = [&fields](int field) { return fields[static_cast<std::size_t>(field)].name; };
+    return point.pair >= 0 ? name(point.pair) : name(point.x.value) + ", " + name(point.y.value);
 }
 
 [[noreturn]] void refuse(const FoundEnds &ends, const std::vector<Field> &fields,
                          const Vocabulary &vocabulary)
 {
-    if (ends.a.found() || ends.b.found())
-        throw RefusedFile(Refusal::NoLinks, "MESS_TAB_ONE_END", {ends.a.found() ? "B" : "A"});
+    const bool hasA = ends.points[0].found();
+    if (hasA || ends.points[1].found())
+        throw RefusedFile(Refusal::NoLinks, "MESS_TAB_ONE_END", {hasA ? "B" : "A"});
+    const auto name = [&](LinkEndId end) {
+        const int field = identifierOf(ends.names, end, vocabulary);
+        return field < 0 ? std::string() : fields[static_cast<std::size_t>(field)].name;
+    };
+    if (const std::string a = name(LinkEndId::A), b = name(LinkEndId::B); !a.empty() && !b.empty())
+        throw RefusedFile(Refusal::NoLinks, "MESS_TAB_ENDS_ONLY_NAMED", {a, b});
     FieldWords words;
     for (const Field &field : fields)
         words.emplace_back(separatedWords(field.name, vocabulary));
-    if (findPoint(words, fields, vocabulary).found())
-        throw RefusedFile(Refusal::NoLinks, "MESS_TAB_SITES_NOT_LINKS");
+    if (const PointFields point = findPoint(words, fields, vocabulary); point.found())
+        throw RefusedFile(Refusal::NoLinks, "MESS_TAB_SITES_NOT_LINKS", {namesOf(point, fields)});
     throw RefusedFile(Refusal::NoLinks, "MESS_TAB_NO_ENDS");
 }
 
@@ -251,14 +174,14 @@ QuantityField quantityField(int field, UnitOf unitOf, const std::vector<Field> &
 }
 
 LinkEndFields endFields(const Names &names, LinkEndId end, const PointFields &point,
-                        const std::vector<Field> &all)
+                        const std::vector<Field> &all, const Vocabulary &vocabulary)
 {
     const auto lengths = [&](const FitOf &fitOf) {
         return quantityField(bestFit(names, end, fitOf), metresPer, all);
     };
     LinkEndFields fields;
     fields.point = point;
-    fields.identifier = bestFit(names, end, fitOfIdentifier);
+    fields.identifier = identifierOf(names, end, vocabulary);
     fields.height = lengths(fitOfHeight);
     if (!fields.height.found())
         fields.seaLevelHeight = bestFit(names, end, fitOfSeaLevelHeight);
@@ -281,49 +204,57 @@ CoordinateUnit commonUnit(CoordinateUnit a, CoordinateUnit b)
     return CoordinateUnit::Degrees;
 }
 
-/// Whether a header has columns of both ends.
-bool namesBothEnds(const Header &header)
+/// The layout with these ends, without the unit and system of the positions.
+LinkLayout layoutOf(const TableProfile &table, const FoundEnds &ends, const Vocabulary &vocabulary)
 {
-    for (const EndStyle style : {EndStyle::Names, EndStyle::Zero}) {
-        bool a = false;
-        bool b = false;
-        for (const auto &[column, name] : header.names) {
-            const LinkEndId end = readEndWords(name, style).end;
-            a = a || end == LinkEndId::A;
-            b = b || end == LinkEndId::B;
-        }
-        if (a && b)
-            return true;
+    LinkLayout layout;
+    const auto ofLink = [&](const FitOf &fitOf) {
+        return bestFit(ends.names, LinkEndId::None, fitOf);
+    };
+    layout.ends = {endFields(ends.names, LinkEndId::A, ends.points[0], table.fields, vocabulary),
+                   endFields(ends.names, LinkEndId::B, ends.points[1], table.fields, vocabulary)};
+    for (std::size_t end = 0; end < layout.ends.size(); ++end) {
+        if (ends.identifiers[end] >= 0)
+            layout.ends[end].identifier = ends.identifiers[end];
     }
-    return false;
+    layout.name = ofLink(fitOfLinkName);
+    layout.band = quantityField(ofLink(fitOfBand), megahertzPer, table.fields);
+    layout.length = quantityField(ofLink(fitOfLength), metresPer, table.fields);
+    layout.format = findFormat(table, ends.areNumbered);
+    return layout;
 }
 
 } // namespace
 
 LinkLayout recogniseLinkLayout(const TableProfile &table, const Vocabulary &vocabulary)
 {
-    const FoundEnds ends = findEnds(table, vocabulary);
+    const FoundEnds ends = findPlacedEnds(table, vocabulary);
     if (!ends.found())
         refuse(ends, table.fields, vocabulary);
-    LinkLayout layout;
-    const auto ofLink = [&](const FitOf &fitOf) {
-        return bestFit(ends.names, LinkEndId::None, fitOf);
-    };
-    layout.ends = {endFields(ends.names, LinkEndId::A, ends.a, table.fields),
-                   endFields(ends.names, LinkEndId::B, ends.b, table.fields)};
-    layout.name = ofLink(fitOfLinkName);
-    layout.band = quantityField(ofLink(fitOfBand), megahertzPer, table.fields);
-    layout.length = quantityField(ofLink(fitOfLength), metresPer, table.fields);
-    layout.unit = commonUnit(findUnit(ends.a, table.fields, vocabulary),
-                             findUnit(ends.b, table.fields, vocabulary));
-    layout.epsg = findEpsg(table, ends.a, layout.unit);
-    layout.format = findFormat(table, ends.areNumbered);
+    LinkLayout layout = layoutOf(table, ends, vocabulary);
+    layout.unit = commonUnit(findUnit(ends.points[0], table.fields, vocabulary),
+                             findUnit(ends.points[1], table.fields, vocabulary));
+    layout.epsg = findEpsg(table, ends.points[0], layout.unit);
+    return layout;
+}
+
+std::optional<LinkLayout> recogniseNamedLinks(const TableProfile &table,
+                                              const Vocabulary &vocabulary,
+                                              const SiteDirectory &sites,
+                                              const TableDeclaration &ofSites)
+{
+    const FoundEnds ends = findNamedEnds(table, vocabulary, sites);
+    if (!ends.found())
+        return std::nullopt;
+    LinkLayout layout = layoutOf(table, ends, vocabulary);
+    layout.unit = ofSites.unit;
+    layout.epsg = ofSites.epsg;
     return layout;
 }
 
 bool holdsLinks(const TableProfile &table, const Vocabulary &vocabulary)
 {
-    return namesBothEnds(table.header) && findEnds(table, vocabulary).found();
+    return namesBothEnds(table.header) && findPlacedEnds(table, vocabulary).found();
 }
 
 int linkSuitability(const TableProfile &start, const Vocabulary &vocabulary)
@@ -331,7 +262,8 @@ int linkSuitability(const TableProfile &start, const Vocabulary &vocabulary)
     constexpr uint64_t MinRows = 3;
     if (!namesBothEnds(start.header))
         return 0;
-    return (findEnds(start, vocabulary).found() ? 4 : 2) + (start.rowCount >= MinRows ? 1 : 0);
+    return (findPlacedEnds(start, vocabulary).found() ? 4 : 2) +
+           (start.rowCount >= MinRows ? 1 : 0);
 }
 
 } // namespace vlt::driver

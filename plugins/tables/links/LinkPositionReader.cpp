@@ -20,15 +20,35 @@ double halfTurn(const OffsetScale &scale)
 } // namespace
 
 LinkPositionReader::LinkPositionReader(const TableProfile &table, const LinkLayout &layout,
-                                       const OffsetScale &scale)
+                                       const OffsetScale &scale, const SiteDirectory *sites)
     : m_table(&table)
     , m_layout(&layout)
     , m_readers{PositionReader(table, layout.ends[0].point, layout.unit, halfTurn(scale)),
                 PositionReader(table, layout.ends[1].point, layout.unit, halfTurn(scale))}
     , m_scale(scale)
+    , m_sites(sites)
 {
     if (scale.isOnEarth)
         geod_init(&m_earth, scale.semiMajorM, scale.flattening);
+}
+
+/// The position of the site that a cell names.
+Position LinkPositionReader::namedPosition(int64_t row, int field,
+                                           const std::vector<const Cell *> &cells,
+                                           std::vector<RowProblem> &problems) const
+{
+    const std::string name = fieldText(cells, field);
+    const SiteDirectory::Entry *site = m_sites->find(name);
+    if (site && site->position.found && !site->isAmbiguous)
+        return site->position;
+    using Text = contract::TableTextId;
+    const Text why = name.empty()            ? Text("MESS_TAB_END_NOT_NAMED")
+                     : !site                 ? Text("MESS_TAB_END_UNKNOWN")
+                     : !site->position.found ? Text("MESS_TAB_END_UNPLACED")
+                                             : Text("MESS_TAB_END_AMBIGUOUS");
+    problems.push_back({row, m_table->fields[static_cast<std::size_t>(field)].name, true,
+                        contract::formatted(why, {quotation(name)})});
+    return {};
 }
 
 double LinkPositionReader::offsetM(int64_t row, const QuantityField &offset,
@@ -72,7 +92,8 @@ std::array<Position, 2> LinkPositionReader::read(int64_t row,
     std::array<Position, 2> positions;
     for (std::size_t end = 0; end < positions.size(); ++end) {
         const LinkEndFields &fields = m_layout->ends[end];
-        positions[end] = m_readers[end].read(row, cells, problems);
+        positions[end] = m_sites ? namedPosition(row, fields.identifier, cells, problems)
+                                 : m_readers[end].read(row, cells, problems);
         const double eastM = offsetM(row, fields.dx, cells, problems);
         const double northM = offsetM(row, fields.dy, cells, problems);
         if (positions[end].found)

@@ -22,14 +22,17 @@ struct OffsetScale
 class LinkPositionReader
 {
 public:
+    /// @param sites  at the ends of links that only name them; else null
     LinkPositionReader(const TableProfile &table, const LinkLayout &layout,
-                       const OffsetScale &scale);
+                       const OffsetScale &scale, const SiteDirectory *sites = nullptr);
 
     /// Positions of A and B in the file's system; `cells` and `problems` as in PositionReader.
     std::array<Position, 2> read(int64_t row, const std::vector<const Cell *> &cells,
                                  std::vector<RowProblem> &problems) const;
 
 private:
+    Position namedPosition(int64_t row, int field, const std::vector<const Cell *> &cells,
+                           std::vector<RowProblem> &problems) const;
     double offsetM(int64_t row, const QuantityField &offset, const std::vector<const Cell *> &cells,
                    std::vector<RowProblem> &problems) const;
     void move(Position &position, double eastM, double northM) const;
@@ -38,6 +41,7 @@ private:
     const LinkLayout *m_layout;
     std::array<PositionReader, 2> m_readers;
     OffsetScale m_scale;
+    const SiteDirectory *m_sites;
     geod_geodesic m_earth = {};
 };
 

@@ -41,7 +41,7 @@ LinkRowReader::LinkRowReader(const TableSource &source)
     : m_facts(&source.facts())
     , m_systems(source.systems)
     , m_positions(m_facts->table, m_facts->links(),
-                  scaleOf(m_systems->file(), m_facts->links().unit))
+                  scaleOf(m_systems->file(), m_facts->links().unit), m_facts->endSites.get())
     , m_values(m_facts->table, m_facts->links())
     , m_path(nullptr, m_systems->file())
 {}
@@ -56,7 +56,7 @@ LinkRow LinkRowReader::read(int64_t row, const std::vector<const Cell *> &cells,
         const std::size_t before = problems.size();
         m_systems->transform(row, link.placed[end], problems);
         if (problems.size() > before) // the column identifies the end
-            problems.back().column = fieldName(m_facts->links().ends[end].point.xField());
+            problems.back().column = fieldName(m_facts->links().ends[end].positionField());
     }
     link.values = m_values.read(row, cells, problems);
     measure(row, link, problems);

@@ -4,6 +4,7 @@
 #include "plugins/tables/bytes/Refusal.h"
 #include "plugins/tables/formats/OpenWorkbook.h"
 #include "plugins/tables/ogr/FieldCells.h"
+#include "plugins/tables/ogr/LinkJoin.h"
 #include "plugins/tables/ogr/SectorJoin.h"
 #include "plugins/tables/roles/Vocabulary.h"
 #include "plugins/tables/sites/SectorTable.h"
@@ -137,21 +138,53 @@ std::shared_ptr<TableFile> TableFile::open(const std::string &path, const TableO
     const bool links = options.kind == contract::TableKind::Links;
     const Table read = readTable(*workbook, hints);
     auto facts = std::make_shared<TableFacts>(TableFacts{*read.profile, {}, {}});
-    if (links)
-        facts->layout = recogniseLinkLayout(*read.profile, vocabulary);
-    else
-        facts->layout = recogniseSiteLayout(*read.profile, vocabulary);
-    if (options.swapsAxes)
-        swapAxes(*facts);
     for (Field &field : facts->table.fields) // the samples are not needed any more
         field.samples = {};
     facts->table.sampledColumns = {};
     table->m_sheet = read.sheet;
     table->m_facts = facts;
+    if (links)
+        table->readLinks(*facts, *read.profile);
+    else
+        facts->layout = recogniseSiteLayout(*read.profile, vocabulary);
+    if (options.swapsAxes)
+        swapAxes(*facts);
     if (!links)
         table->readSites(*facts);
     memory().add({path, file->identity(), second, options, facts});
     return table;
+}
+
+/// Finds the columns of links. If their ends are only named, the positions come from the second
+/// file, or from another sheet of the workbook.
+void TableFile::readLinks(TableFacts &facts, const TableProfile &profile)
+{
+    const Vocabulary &vocabulary = installedVocabulary().words;
+    const bool isComplete = holdsLinks(profile, vocabulary);
+    if (m_secondFile && isComplete)
+        facts.joinProblems.add(
+            {0,
+             {},
+             false,
+             contract::formatted("MESS_TAB_END_SITES_NOT_USED", {fileName(m_options.second)})});
+    const std::optional<SecondTable> second = isComplete ? std::nullopt
+                                              : m_secondFile
+                                                  ? std::optional(secondFile(endSiteSuitability))
+                                                  : otherSheet(endSiteSuitability);
+    std::optional<EndSites> sites = second ? readEndSites(*second) : std::nullopt;
+    if (m_secondFile && !isComplete && !sites)
+        refuseSecond("MESS_TAB_NO_NAMED_SITES");
+    const auto named =
+        sites ? recogniseNamedLinks(profile, vocabulary, *sites->directory, sites->declaration)
+              : std::nullopt;
+    if (named) {
+        facts.layout = *named;
+        facts.endSites = sites->directory;
+        facts.joinProblems = std::move(sites->problems);
+    } else if (m_secondFile && !isComplete)
+        refuseSecond("MESS_TAB_NO_END_SITES");
+    else
+        facts.layout = recogniseLinkLayout(profile, vocabulary);
 }
 
 /// Reads all rows if the number of transmitters or the rows of a site are not known before.
@@ -215,8 +248,7 @@ bool TableFile::joinTransmitters(TableFacts &facts)
     auto joined = joinSectors(
         facts.table, layout, [this] { return rows(); }, *sectors, m_secondFile != nullptr);
     if (!joined && m_secondFile)
-        throw RefusedFile(Refusal::BadOption, "MESS_TAB_SECOND_FILE",
-                          {fileName(m_options.second), contract::formatted("MESS_TAB_NO_SECTORS")});
+        refuseSecond("MESS_TAB_NO_SECTORS");
     if (!joined)
         return false;
     layout.roles.transmitters.clear();
@@ -245,6 +277,12 @@ std::optional<SecondTable> TableFile::otherSheet(Suitability suitability) const
     } catch (const RefusedFile &) { // there is none, or it is damaged
         return std::nullopt;
     }
+}
+
+void TableFile::refuseSecond(contract::TableTextId why) const
+{
+    throw RefusedFile(Refusal::BadOption, "MESS_TAB_SECOND_FILE",
+                      {fileName(m_options.second), contract::formatted(why)});
 }
 
 /// The table in the second file. Throws RefusedFile.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "contract/TableTexts.h"
 #include "plugins/tables/bytes/InputFile.h"
 #include "plugins/tables/links/LinkLayout.h"
 #include "plugins/tables/ogr/ProblemList.h"
@@ -38,6 +39,8 @@ struct TableFacts
     /// The sites of a table with a row per transmitter, or with transmitters in another table;
     /// else null.
     std::shared_ptr<const SiteIndex> siteIndex;
+    /// The sites at the ends of links that only name them; else null.
+    std::shared_ptr<const SiteDirectory> endSites = {};
     ProblemList joinProblems = {}; ///< of the other table
 
     const SiteLayout &sites() const { return std::get<SiteLayout>(layout); }
@@ -76,8 +79,10 @@ private:
         , m_options(std::move(options))
     {}
     void readSites(TableFacts &facts);
+    void readLinks(TableFacts &facts, const TableProfile &profile);
     bool joinTransmitters(TableFacts &facts);
     std::optional<SecondTable> otherSheet(Suitability suitability) const;
+    [[noreturn]] void refuseSecond(contract::TableTextId why) const;
     SecondTable secondFile(Suitability suitability) const;
     std::unique_ptr<Workbook> openFile() const;
 

@@ -37,6 +37,16 @@ std::string fieldText(const std::vector<const Cell *> &cells, int field)
     return cell ? std::string(trimmed(cellText(*cell))) : std::string();
 }
 
+double distanceM(const Position &a, const Position &b, CoordinateUnit unit)
+{
+    constexpr double MetresPerDegree = 111320;
+    const double dx = a.x - b.x;
+    const double dy = a.y - b.y;
+    if (unit == CoordinateUnit::Meters)
+        return std::hypot(dx, dy);
+    return MetresPerDegree * std::hypot(dx * std::cos(a.y * M_PI / HalfTurnDegrees), dy);
+}
+
 RowProblem PositionReader::problem(int64_t row, int field, const std::string &value,
                                    TableTextId why) const
 {

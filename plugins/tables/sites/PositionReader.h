@@ -21,6 +21,13 @@ struct Position
     bool isOutside = false;
 };
 
+/// The antennas of a site stand within this distance, on the roofs of several buildings for
+/// instance.
+constexpr double MaxSiteExtentM = 300;
+
+/// Approximate distance of two positions; only a projected system has metres.
+double distanceM(const Position &a, const Position &b, CoordinateUnit unit);
+
 /// Reads the position of each row. If a coordinate cannot be read, the row has no position and gets
 /// a problem; it is never positioned at 0.
 class PositionReader

@@ -14,11 +14,6 @@ namespace vlt::driver {
 namespace {
 
 constexpr std::size_t None = std::numeric_limits<std::size_t>::max();
-constexpr double MetresPerDegree = 111320;
-constexpr double RadiansPerDegree = M_PI / 180;
-/// The antennas of a site stand within this distance, on the roofs of several buildings for
-/// instance.
-constexpr double MaxSiteExtentM = 300;
 /// Positions are the same if they agree to about a metre.
 constexpr double StepDeg = 1e-5;
 constexpr double StepM = 1;
@@ -37,15 +32,6 @@ SiteIndex::SiteIndex(const TableProfile &table, const SiteRoles &roles, Coordina
     , m_unit(unit)
 {}
 
-double SiteIndex::distanceM(const Position &a, const Position &b) const
-{
-    const double dx = a.x - b.x;
-    const double dy = a.y - b.y;
-    if (m_unit == CoordinateUnit::Meters)
-        return std::hypot(dx, dy);
-    return MetresPerDegree * std::hypot(dx * std::cos(a.y * RadiansPerDegree), dy);
-}
-
 std::string SiteIndex::keyOf(const std::string &id, const std::string &name,
                              const Position &position) const
 {
@@ -63,7 +49,7 @@ bool SiteIndex::isSame(const IndexedSite &site, const std::string &name,
 {
     if (m_roles->siteId >= 0 || !position.found)
         return !position.found || !site.position.found ||
-               distanceM(site.position, position) <= MaxSiteExtentM;
+               distanceM(site.position, position, m_unit) <= MaxSiteExtentM;
     return name.empty() || site.id == name || withoutSector(site.id) == withoutSector(name);
 }
 
@@ -76,7 +62,7 @@ std::size_t SiteIndex::siteOf(int64_t row, const std::vector<const Cell *> &cell
     const bool isNamed = m_roles->siteId >= 0 || m_roles->siteName >= 0;
     if (isNameless && !m_sites.empty() &&
         (!position.found ||
-         (isNamed && distanceM(m_sites.back().position, position) <= MaxSiteExtentM)))
+         (isNamed && distanceM(m_sites.back().position, position, m_unit) <= MaxSiteExtentM)))
         return m_sites.size() - 1;
     const auto [first, isNew] = m_firstOfKey.emplace(keyOf(id, name, position), m_sites.size());
     std::size_t last = None;
@@ -94,7 +80,7 @@ std::size_t SiteIndex::siteOf(int64_t row, const std::vector<const Cell *> &cell
     if (last != None) {
         if (!id.empty())
             m_conflicts.push_back(
-                {row, first->second, distanceM(m_sites[first->second].position, position)});
+                {row, first->second, distanceM(m_sites[first->second].position, position, m_unit)});
         m_next[last] = m_sites.size();
     }
     m_sites.push_back({row, id.empty() ? name : id, position, 0, 0});

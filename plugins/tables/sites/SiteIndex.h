@@ -65,7 +65,6 @@ private:
     std::string keyOf(const std::string &id, const std::string &name,
                       const Position &position) const;
     bool isSame(const IndexedSite &site, const std::string &name, const Position &position) const;
-    double distanceM(const Position &a, const Position &b) const;
 
     const TableProfile *m_table;
     const SiteRoles *m_roles;

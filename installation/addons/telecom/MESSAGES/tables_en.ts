@@ -212,8 +212,8 @@
         <translation>there is a header in row %1, but no row below it</translation>
     </message>
     <message id="MESS_TAB_SITES_NOT_LINKS">
-        <source>this is a table of sites, not of links: no columns with coordinates of both ends were recognised</source>
-        <translation>this is a table of sites, not of links: no columns with coordinates of both ends were recognised</translation>
+        <source>this is a table of sites, not of links: it has the coordinates of one position per row (%1), not those of two ends</source>
+        <translation>this is a table of sites, not of links: it has the coordinates of one position per row (%1), not those of two ends</translation>
     </message>
     <message id="MESS_TAB_NO_ENDS">
         <source>no columns with coordinates of both ends were recognised</source>
@@ -706,6 +706,38 @@
     <message id="MESS_TAB_SECTORS_NOT_USED">
         <source>the table has transmitters of its own: those in the file "%1" are not used</source>
         <translation>the table has transmitters of its own: those in the file "%1" are not used</translation>
+    </message>
+    <message id="MESS_TAB_ENDS_ONLY_NAMED">
+        <source>the ends of the links are only named (%1; %2): their positions must stand in a table of sites, on another sheet of the workbook or in the file that SITES (--sites) names</source>
+        <translation>the ends of the links are only named (%1; %2): their positions must stand in a table of sites, on another sheet of the workbook or in the file that SITES (--sites) names</translation>
+    </message>
+    <message id="MESS_TAB_NO_NAMED_SITES">
+        <source>no sites with a position and an id or a name were recognised</source>
+        <translation>no sites with a position and an id or a name were recognised</translation>
+    </message>
+    <message id="MESS_TAB_NO_END_SITES">
+        <source>the columns of the links name none of its sites</source>
+        <translation>the columns of the links name none of its sites</translation>
+    </message>
+    <message id="MESS_TAB_END_SITES_NOT_USED">
+        <source>the links have the positions of their ends: the sites in the file "%1" are not used</source>
+        <translation>the links have the positions of their ends: the sites in the file "%1" are not used</translation>
+    </message>
+    <message id="MESS_TAB_END_NOT_NAMED">
+        <source>the end is not named</source>
+        <translation>the end is not named</translation>
+    </message>
+    <message id="MESS_TAB_END_UNKNOWN">
+        <source>the site "%1" is not in the table of sites: the end has no position</source>
+        <translation>the site "%1" is not in the table of sites: the end has no position</translation>
+    </message>
+    <message id="MESS_TAB_END_UNPLACED">
+        <source>the site "%1" has no position in the table of sites</source>
+        <translation>the site "%1" has no position in the table of sites</translation>
+    </message>
+    <message id="MESS_TAB_END_AMBIGUOUS">
+        <source>the name "%1" stands for several places in the table of sites: the end has no position</source>
+        <translation>the name "%1" stands for several places in the table of sites: the end has no position</translation>
     </message>
 </context>
 </TS>

@@ -212,8 +212,8 @@
         <translation>il y a un en-tête à la ligne %1, mais aucune ligne en dessous</translation>
     </message>
     <message id="MESS_TAB_SITES_NOT_LINKS">
-        <source>this is a table of sites, not of links: no columns with coordinates of both ends were recognised</source>
-        <translation>ce tableau contient des sites, pas des liaisons&#xa0;: aucune colonne avec les coordonnées des deux extrémités n'a été reconnue</translation>
+        <source>this is a table of sites, not of links: it has the coordinates of one position per row (%1), not those of two ends</source>
+        <translation>ce tableau contient des sites, pas des liaisons&#xa0;: il a les coordonnées d'une seule position par ligne (%1), pas celles de deux extrémités</translation>
     </message>
     <message id="MESS_TAB_NO_ENDS">
         <source>no columns with coordinates of both ends were recognised</source>
@@ -681,7 +681,7 @@
     </message>
     <message id="MESS_TAB_NO_SUCH_SITE">
         <source>the site "%1" is not in the table of sites: the transmitter is left out</source>
-        <translation>le site «&#xa0;%1&#xa0;» n'est pas dans la table des sites&#xa0;: l'émetteur est laissé de côté</translation>
+        <translation>le site «&#xa0;%1&#xa0;» n'est pas dans le tableau des sites&#xa0;: l'émetteur est laissé de côté</translation>
     </message>
     <message id="MESS_TAB_NO_SITE_NAMED">
         <source>the transmitter names no site: it is left out</source>
@@ -705,7 +705,39 @@
     </message>
     <message id="MESS_TAB_SECTORS_NOT_USED">
         <source>the table has transmitters of its own: those in the file "%1" are not used</source>
-        <translation>la table a ses propres émetteurs&#xa0;: ceux du fichier «&#xa0;%1&#xa0;» ne sont pas utilisés</translation>
+        <translation>le tableau a ses propres émetteurs&#xa0;: ceux du fichier «&#xa0;%1&#xa0;» ne sont pas utilisés</translation>
+    </message>
+    <message id="MESS_TAB_ENDS_ONLY_NAMED">
+        <source>the ends of the links are only named (%1; %2): their positions must stand in a table of sites, on another sheet of the workbook or in the file that SITES (--sites) names</source>
+        <translation>les extrémités des liaisons sont seulement nommées (%1&#xa0;; %2)&#xa0;: leurs positions doivent se trouver dans un tableau de sites, sur une autre feuille du classeur ou dans le fichier que SITES (--sites) indique</translation>
+    </message>
+    <message id="MESS_TAB_NO_NAMED_SITES">
+        <source>no sites with a position and an id or a name were recognised</source>
+        <translation>aucun site avec une position et un identifiant ou un nom n'a été reconnu</translation>
+    </message>
+    <message id="MESS_TAB_NO_END_SITES">
+        <source>the columns of the links name none of its sites</source>
+        <translation>les colonnes des liaisons ne nomment aucun de ses sites</translation>
+    </message>
+    <message id="MESS_TAB_END_SITES_NOT_USED">
+        <source>the links have the positions of their ends: the sites in the file "%1" are not used</source>
+        <translation>les liaisons ont les positions de leurs extrémités&#xa0;: les sites du fichier «&#xa0;%1&#xa0;» ne sont pas utilisés</translation>
+    </message>
+    <message id="MESS_TAB_END_NOT_NAMED">
+        <source>the end is not named</source>
+        <translation>l'extrémité n'est pas nommée</translation>
+    </message>
+    <message id="MESS_TAB_END_UNKNOWN">
+        <source>the site "%1" is not in the table of sites: the end has no position</source>
+        <translation>le site «&#xa0;%1&#xa0;» n'est pas dans le tableau des sites&#xa0;: l'extrémité n'a pas de position</translation>
+    </message>
+    <message id="MESS_TAB_END_UNPLACED">
+        <source>the site "%1" has no position in the table of sites</source>
+        <translation>le site «&#xa0;%1&#xa0;» n'a pas de position dans le tableau des sites</translation>
+    </message>
+    <message id="MESS_TAB_END_AMBIGUOUS">
+        <source>the name "%1" stands for several places in the table of sites: the end has no position</source>
+        <translation>le nom «&#xa0;%1&#xa0;» désigne plusieurs lieux dans le tableau des sites&#xa0;: l'extrémité n'a pas de position</translation>
     </message>
 </context>
 </TS>

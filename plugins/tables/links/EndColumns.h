@@ -1,0 +1,52 @@
+#pragma once
+
+#include "plugins/tables/links/EndWords.h"
+#include "plugins/tables/sites/CoordinateColumns.h"
+#include "plugins/tables/sites/SiteDirectory.h"
+
+#include <array>
+#include <functional>
+#include <vector>
+
+namespace vlt::driver {
+
+/// All column names, split into words.
+using Names = std::vector<EndWords>;
+
+/// How well a column fits; 0 if it does not. The column with the highest value is used, the first
+/// one among equals.
+using Fit = int;
+using FitOf = std::function<Fit(const EndWords &name)>;
+
+/// The field of an end that fits best; -1 if none fits.
+int bestFit(const Names &names, LinkEndId end, const FitOf &fitOf);
+
+/// How well a column fits as the id or name of an end.
+Fit fitOfIdentifier(const EndWords &name, const Vocabulary &vocabulary);
+
+/// The columns of both ends, and the column names as read in the style of the table.
+struct FoundEnds
+{
+    Names names;
+    std::array<PointFields, 2> points;         ///< A and B
+    std::array<int, 2> identifiers = {-1, -1}; ///< of ends that are only named
+    bool areNumbered = false;
+
+    bool found() const
+    {
+        return (points[0].found() && points[1].found()) ||
+               (identifiers[0] >= 0 && identifiers[1] >= 0);
+    }
+};
+
+/// The columns with the positions of both ends.
+FoundEnds findPlacedEnds(const TableProfile &table, const Vocabulary &vocabulary);
+
+/// The columns of both ends whose sampled values are ids or names of the sites.
+FoundEnds findNamedEnds(const TableProfile &table, const Vocabulary &vocabulary,
+                        const SiteDirectory &sites);
+
+/// Whether a header has columns of both ends.
+bool namesBothEnds(const Header &header);
+
+} // namespace vlt::driver
