@@ -174,7 +174,9 @@ CommandSyntax syntax()
         QList<QCommandLineOption>{
             {QStringLiteral("link"),
              dico_label("MESS_OPT_INFO_LINK", "The tables have microwave links, not sites.")}} +
-        readingOptions();
+        readingOptions() +
+        QList{secondFileOption(contract::TableKind::Sites),
+              secondFileOption(contract::TableKind::Links)};
     syntax.examples =
         QStringLiteral("  vltlayers info sites.xlsx\n"
                        "  vltlayers info --link links.xlsx\n"
@@ -184,17 +186,30 @@ CommandSyntax syntax()
 
 ExitStatus run(const QCommandLineParser &parser, const GlobalOptions &options)
 {
-    const Result<tables::TableReading> reading = readReading(parser);
-    if (!reading)
-        return refuseUsage(reading.error());
+    const bool isLinks = parser.isSet(QStringLiteral("link"));
+    if (isLinks && parser.isSet(QStringLiteral("sectors")))
+        return refuseUsage(wrongUsage(
+            dico_label("MESS_USE_SECTORS_OF_LINKS", "--sectors and --link cannot be combined")));
+    if (!isLinks && parser.isSet(QStringLiteral("sites")))
+        return refuseUsage(
+            wrongUsage(dico_label("MESS_USE_SITES_OF_LINKS", "--sites needs --link")));
+    const QStringList tables = parser.positionalArguments();
+    const auto kind = isLinks ? contract::TableKind::Links : contract::TableKind::Sites;
+    QList<tables::TableReading> readings;
+    for (const QString &table : tables) {
+        const Result<tables::TableReading> reading = readReading(parser, kind, table);
+        if (!reading)
+            return refuseUsage(reading.error());
+        readings << reading.value();
+    }
     const Result<Surroundings> surroundings = startUp(options);
     if (!surroundings)
         return refuse(surroundings.error());
-    const bool isLinks = parser.isSet(QStringLiteral("link"));
     QList<Result<InfoReport>> outcomes;
-    for (const QString &table : parser.positionalArguments()) {
+    for (qsizetype i = 0; i < tables.size(); ++i) {
+        const QString &table = tables[i];
         Result<InfoReport> report = readTable(QFileInfo(table).absoluteFilePath(), isLinks,
-                                              reading.value(), surroundings.value().project);
+                                              readings[i], surroundings.value().project);
         outcomes << (report ? report : Result<InfoReport>(report.error().withPath(table)));
     }
     if (options.json && outcomes.size() > 1)

@@ -9,6 +9,7 @@
 #include "language/VltLanguageManager.h"
 #include "platform/LayerFile.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QSet>
@@ -19,6 +20,12 @@ namespace {
 
 const QStringList Delimiters = {QStringLiteral("comma"), QStringLiteral("semicolon"),
                                 QStringLiteral("tab"), QStringLiteral("bar")};
+
+/// The name of the option for the file that completes a table.
+QString secondFileName(contract::TableKind kind)
+{
+    return kind == contract::TableKind::Links ? QStringLiteral("sites") : QStringLiteral("sectors");
+}
 
 qint64 refusedRows(const geodata::LayerProblems &problems)
 {
@@ -32,7 +39,7 @@ qint64 refusedRows(const geodata::LayerProblems &problems)
 
 } // namespace
 
-QList<QCommandLineOption> layerOptions()
+QList<QCommandLineOption> layerOptions(contract::TableKind kind)
 {
     return QList<QCommandLineOption>{
                {{QStringLiteral("o"), QStringLiteral("output")},
@@ -50,7 +57,25 @@ QList<QCommandLineOption> layerOptions()
                            "terrain's, else 4326 for degrees, else the table's)."),
                 QStringLiteral("SRS")},
            } +
-           readingOptions() + siteOptions();
+           readingOptions() + QList{secondFileOption(kind)} + siteOptions();
+}
+
+QCommandLineOption secondFileOption(contract::TableKind kind)
+{
+    const QString file = QStringLiteral("FILE");
+    return kind == contract::TableKind::Links
+               ? QCommandLineOption(
+                     secondFileName(kind),
+                     dico_label("MESS_OPT_SITES",
+                                "Table of the sites at the ends of links that are only named "
+                                "(default: another sheet of the workbook)."),
+                     file)
+               : QCommandLineOption(
+                     secondFileName(kind),
+                     dico_label("MESS_OPT_SECTORS",
+                                "Table of the transmitters, each with the id of its site "
+                                "(default: another sheet of the workbook)."),
+                     file);
 }
 
 QList<QCommandLineOption> readingOptions()
@@ -58,7 +83,7 @@ QList<QCommandLineOption> readingOptions()
     return {
         {QStringLiteral("sheet"),
          dico_label("MESS_OPT_SHEET",
-                    "Sheet of a workbook (default: the sheet with a header of sites or links)."),
+                    "Sheet of a workbook (default: the sheet that holds sites or links)."),
          QStringLiteral("NAME")},
         {QStringLiteral("encoding"),
          dico_label("MESS_OPT_ENCODING", "Encoding of a text file, such as CP1250 (default: the "
@@ -75,15 +100,32 @@ QList<QCommandLineOption> readingOptions()
     };
 }
 
-Result<tables::TableReading> readReading(const QCommandLineParser &parser)
+namespace {
+
+/// Reads the path of the second file; nothing if it is not given.
+Result<QString> readSecondFile(const QCommandLineParser &parser, const QString &option,
+                               const QString &table)
+{
+    if (!parser.isSet(option))
+        return QString();
+    const QString path = parser.value(option);
+    if (path.isEmpty())
+        return wrongUsage(
+            dico_label("MESS_USE_NO_VALUE", "%1 needs a value").arg(QStringLiteral("--") + option));
+    return QFileInfo(table).absoluteDir().relativeFilePath(QFileInfo(path).absoluteFilePath());
+}
+
+} // namespace
+
+Result<tables::TableReading> readReading(const QCommandLineParser &parser, contract::TableKind kind,
+                                         const QString &table)
 {
     static const QRegularExpression name(QStringLiteral("\\A[A-Za-z0-9._:/-]+\\z"));
     const auto value = [&parser](const char *option) {
         return parser.value(QLatin1String(option));
     };
-    const tables::TableReading reading{value("sheet"), value("encoding"),
-                                       value("delimiter").toLower(),
-                                       parser.isSet(QStringLiteral("swap-axes"))};
+    tables::TableReading reading{value("sheet"), value("encoding"), value("delimiter").toLower(),
+                                 parser.isSet(QStringLiteral("swap-axes"))};
     if (parser.isSet(QStringLiteral("sheet")) && reading.sheet.isEmpty())
         return wrongUsage(
             dico_label("MESS_USE_NO_VALUE", "%1 needs a value").arg(QStringLiteral("--sheet")));
@@ -94,10 +136,15 @@ Result<tables::TableReading> readReading(const QCommandLineParser &parser)
     if (parser.isSet(QStringLiteral("delimiter")) && !Delimiters.contains(reading.delimiter))
         return wrongValue(QStringLiteral("delimiter"), Delimiters.join(QLatin1Char('|')),
                           value("delimiter"));
+    const Result<QString> second = readSecondFile(parser, secondFileName(kind), table);
+    if (!second)
+        return second.error();
+    (kind == contract::TableKind::Links ? reading.endSites : reading.sectors) = second.value();
     return reading;
 }
 
 std::variant<LayerRequest, ExitStatus> readLayerRequest(const QCommandLineParser &parser,
+                                                        contract::TableKind kind,
                                                         const Surroundings &surroundings,
                                                         const QStringList &inputs)
 {
@@ -112,13 +159,14 @@ std::variant<LayerRequest, ExitStatus> readLayerRequest(const QCommandLineParser
     if (!representation)
         return refuseUsage(representation.error());
     request.pylons = representation.value();
-    const auto reading = readReading(parser);
+    const auto reading = readReading(parser, kind, request.table);
     if (!reading)
         return refuseUsage(reading.error());
     request.reading = reading.value();
     if (!request.output.isEmpty() &&
         isOneOf(request.output,
-                inputs + QStringList{request.table, surroundings.project.projectPath,
+                inputs + QStringList{request.table, parser.value(secondFileName(kind)),
+                                     surroundings.project.projectPath,
                                      surroundings.project.terrainFile}))
         return refuse(outputIsInput(request.output));
     return request;

@@ -2,6 +2,7 @@
 
 #include "batch/CommandLine.h"
 #include "batch/StartUp.h"
+#include "contract/TableKind.h"
 #include "geodata/LayerProblems.h"
 #include "sites/SiteLayer.h"
 #include "tables/SystemProblems.h"
@@ -35,13 +36,15 @@ struct LayerOutcome
     QList<geodata::PositionFinding> findings; ///< about all positions
 };
 
-/// The options for the output, the coordinate systems and the representation of pylons.
-QList<QCommandLineOption> layerOptions();
+/// The options for the output, the reading of the table, the coordinate systems and the
+/// representation of pylons.
+QList<QCommandLineOption> layerOptions(contract::TableKind kind);
 
 /// Reads the common part of the command line, or refuses it and returns the exit status.
 ///
 /// @param inputs  further files that the layer must not overwrite; empty names are ignored
 std::variant<LayerRequest, ExitStatus> readLayerRequest(const QCommandLineParser &parser,
+                                                        contract::TableKind kind,
                                                         const Surroundings &surroundings,
                                                         const QStringList &inputs);
 
@@ -52,10 +55,15 @@ geodata::SystemPair chosenSystems(const QCommandLineParser &parser,
 /// The options --sheet, --encoding, --delimiter and --swap-axes.
 QList<QCommandLineOption> readingOptions();
 
+/// The option for the file that completes a table: --sectors for sites, --sites for links.
+QCommandLineOption secondFileOption(contract::TableKind kind);
+
 /// Reads these options.
 ///
+/// @param table  as given; the path of the second file becomes relative to its folder
 /// @par Errors   no key; the text names the option and its wrong value.
-Result<tables::TableReading> readReading(const QCommandLineParser &parser);
+Result<tables::TableReading> readReading(const QCommandLineParser &parser, contract::TableKind kind,
+                                         const QString &table);
 
 /// The result of a check; a row with several problems counts once.
 ///

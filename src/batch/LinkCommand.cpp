@@ -40,7 +40,7 @@ CommandSyntax syntax()
                      dico_label("MESS_HELP_LINK_TABLE", "Link table (.xls .xlsx .xml .csv)."),
                      dico_label("MESS_USE_NO_TABLE", "no table given")};
     syntax.options =
-        layerOptions() + linkOptions() +
+        layerOptions(contract::TableKind::Links) + linkOptions() +
         QList<QCommandLineOption>{
             {QStringLiteral("terrain"),
              dico_label("MESS_OPT_TERRAIN",
@@ -52,6 +52,7 @@ CommandSyntax syntax()
         };
     syntax.examples =
         QStringLiteral("  vltlayers link links.xlsx -o links.lay\n"
+                       "  vltlayers link links.csv --sites sites.csv -o links.lay\n"
                        "  vltlayers link links.csv --project city.gvw --color-by-clearance \\\n"
                        "      --link-style line --link-width 3 -o links.lay\n"
                        "  vltlayers link links.csv --terrain hills.tif --k-factor 1 --report\n"
@@ -163,7 +164,8 @@ ExitStatus runParsed(const QCommandLineParser &parser, const LinkRequest &wanted
         if (problem)
             return refuse(problem->withPath(*wanted.terrain));
     }
-    const auto read = readLayerRequest(parser, surroundings, {project.terrainFile});
+    const auto read =
+        readLayerRequest(parser, contract::TableKind::Links, surroundings, {project.terrainFile});
     if (const ExitStatus *stopped = std::get_if<ExitStatus>(&read))
         return *stopped;
     const auto &request = std::get<LayerRequest>(read);

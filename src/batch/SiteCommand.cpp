@@ -27,10 +27,11 @@ CommandSyntax syntax()
     syntax.inputs = {1, 1, QStringLiteral("TABLE"),
                      dico_label("MESS_HELP_SITE_TABLE", "Site table (.xls .xlsx .xml .csv)."),
                      dico_label("MESS_USE_NO_TABLE", "no table given")};
-    syntax.options = layerOptions();
+    syntax.options = layerOptions(contract::TableKind::Sites);
     syntax.examples = QStringLiteral(
         "  vltlayers site sites.xlsx -o sites.lay\n"
         "  vltlayers site sites.csv --project city.gvw --target-srs 2154 -o sites.lay\n"
+        "  vltlayers site sites.csv --sectors antennas.csv -o sites.lay\n"
         "  vltlayers site sites.csv --sector-radius 150 --transparency 40 \\\n"
         "      --pylon-type 2 --sector-colors \"Pure colors\" -o sites.lay\n");
     syntax.lists = catalogueLists;
@@ -90,7 +91,7 @@ ExitStatus makeLayer(const sites::SiteLayerInput &input, const LayerRequest &req
 ExitStatus runParsed(const QCommandLineParser &parser, const GlobalOptions &options,
                      const Surroundings &surroundings)
 {
-    const auto read = readLayerRequest(parser, surroundings, {});
+    const auto read = readLayerRequest(parser, contract::TableKind::Sites, surroundings, {});
     if (const ExitStatus *stopped = std::get_if<ExitStatus>(&read))
         return *stopped;
     const auto &request = std::get<LayerRequest>(read);

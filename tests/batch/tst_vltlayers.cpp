@@ -145,6 +145,29 @@ private Q_SLOTS:
                  sheet.errors.constData());
     }
 
+    void joinsTheTablesThatTheUserNames()
+    {
+        writeFile(path(u"sites.csv"_s), "Site ID,Longitude,Latitude\nA,37.5,55.6\nB,37.6,55.7\n");
+        writeFile(path(u"elsewhere/cells.csv"_s), "Site,Azimuth,Height\nA,30,20\nC,120,20\n");
+        writeFile(path(u"links.csv"_s), "Link;Site A;Site B\nL;A;B\n");
+
+        const Run info = start(u"info ../sites.csv --json --sectors cells.csv"_s);
+        const Run site = start(u"site ../sites.csv -o o.lay --sectors cells.csv"_s);
+        const Run link = start(u"link ../links.csv -o l.lay --sites ../sites.csv"_s);
+        const Run wrong = start(u"info ../sites.csv --sites cells.csv"_s);
+
+        QVERIFY2(
+            info.output.contains("in the file \\\"cells.csv\\\": the site \\\"C\\\" is not in"),
+            info.output.constData());
+        QCOMPARE(site.errors, QByteArray());
+        const QByteArray sites = element(readFile(path(u"elsewhere/o.lay"_s)), "source");
+        QVERIFY2(sites.contains(",sectors=elsewhere/cells.csv,"), sites.constData());
+        QCOMPARE(link.errors, QByteArray());
+        const QByteArray links = element(readFile(path(u"elsewhere/l.lay"_s)), "source");
+        QVERIFY2(links.contains(",sites=sites.csv,"), links.constData());
+        QVERIFY2(wrong.errors.contains("--sites needs --link"), wrong.errors.constData());
+    }
+
     void speaksFrenchOfTables_data()
     {
         const Cases<QString, QString, QString> row({"table", "arguments", "text"});

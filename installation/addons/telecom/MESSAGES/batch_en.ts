@@ -372,8 +372,8 @@
         <translation>Coordinate system of the project (default: the project's, else the terrain's, else 4326 for degrees, else the table's).</translation>
     </message>
     <message id="MESS_OPT_SHEET">
-        <source>Sheet of a workbook (default: the sheet with a header of sites or links).</source>
-        <translation>Sheet of a workbook (default: the sheet with a header of sites or links).</translation>
+        <source>Sheet of a workbook (default: the sheet that holds sites or links).</source>
+        <translation>Sheet of a workbook (default: the sheet that holds sites or links).</translation>
     </message>
     <message id="MESS_OPT_ENCODING">
         <source>Encoding of a text file, such as CP1250 (default: the encoding that fits its bytes).</source>
@@ -602,6 +602,22 @@
     <message id="MESS_OPT_SWAP_AXES">
         <source>Exchange the coordinates: the table has latitudes in the column of longitudes, or northings in that of eastings.</source>
         <translation>Exchange the coordinates: the table has latitudes in the column of longitudes, or northings in that of eastings.</translation>
+    </message>
+    <message id="MESS_OPT_SITES">
+        <source>Table of the sites at the ends of links that are only named (default: another sheet of the workbook).</source>
+        <translation>Table of the sites at the ends of links that are only named (default: another sheet of the workbook).</translation>
+    </message>
+    <message id="MESS_OPT_SECTORS">
+        <source>Table of the transmitters, each with the id of its site (default: another sheet of the workbook).</source>
+        <translation>Table of the transmitters, each with the id of its site (default: another sheet of the workbook).</translation>
+    </message>
+    <message id="MESS_USE_SECTORS_OF_LINKS">
+        <source>--sectors and --link cannot be combined</source>
+        <translation>--sectors and --link cannot be combined</translation>
+    </message>
+    <message id="MESS_USE_SITES_OF_LINKS">
+        <source>--sites needs --link</source>
+        <translation>--sites needs --link</translation>
     </message>
 </context>
 </TS>

@@ -372,8 +372,8 @@
         <translation>Système de coordonnées du projet (par défaut&#xa0;: celui du projet, sinon celui du terrain, sinon 4326 pour des degrés, sinon celui du tableau).</translation>
     </message>
     <message id="MESS_OPT_SHEET">
-        <source>Sheet of a workbook (default: the sheet with a header of sites or links).</source>
-        <translation>Feuille d'un classeur (par défaut : celle dont l'en-tête correspond à des sites ou des liaisons).</translation>
+        <source>Sheet of a workbook (default: the sheet that holds sites or links).</source>
+        <translation>Feuille d'un classeur (par défaut : celle qui contient des sites ou des liaisons).</translation>
     </message>
     <message id="MESS_OPT_ENCODING">
         <source>Encoding of a text file, such as CP1250 (default: the encoding that fits its bytes).</source>
@@ -602,6 +602,22 @@
     <message id="MESS_OPT_SWAP_AXES">
         <source>Exchange the coordinates: the table has latitudes in the column of longitudes, or northings in that of eastings.</source>
         <translation>Inverse les coordonnées&#xa0;: le tableau a les latitudes dans la colonne des longitudes, ou les ordonnées dans celle des abscisses.</translation>
+    </message>
+    <message id="MESS_OPT_SITES">
+        <source>Table of the sites at the ends of links that are only named (default: another sheet of the workbook).</source>
+        <translation>Tableau des sites aux extrémités des liaisons qui sont seulement nommées (par défaut&#xa0;: une autre feuille du classeur).</translation>
+    </message>
+    <message id="MESS_OPT_SECTORS">
+        <source>Table of the transmitters, each with the id of its site (default: another sheet of the workbook).</source>
+        <translation>Tableau des émetteurs, chacun avec l'identifiant de son site (par défaut&#xa0;: une autre feuille du classeur).</translation>
+    </message>
+    <message id="MESS_USE_SECTORS_OF_LINKS">
+        <source>--sectors and --link cannot be combined</source>
+        <translation>--sectors et --link ne peuvent pas être combinées</translation>
+    </message>
+    <message id="MESS_USE_SITES_OF_LINKS">
+        <source>--sites needs --link</source>
+        <translation>--sites ne va qu'avec --link</translation>
     </message>
 </context>
 </TS>
