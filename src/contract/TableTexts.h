@@ -192,6 +192,7 @@ inline constexpr auto TableTexts = std::to_array<Text>({
     {"MESS_TAB_SHAPE_LISTS", "%1 rows, each of them a site with up to %2 transmitters in lists"},
     {"MESS_TAB_SHAPE_TALL",
      "%1 rows: %2 sites with %3 transmitters each, grouped by \"%4\" and position"},
+    {"MESS_TAB_SHAPE_JOINED", "%1 rows: %2 sites with %3 transmitters each from another table"},
     {"MESS_TAB_SHAPE_PLACES", "%1 rows: %2 sites with %3 transmitters each, grouped by position"},
 
     // tables that belong together

@@ -20,6 +20,8 @@ std::string shapeText(const TableFacts &facts)
         std::string range = std::to_string(facts.siteIndex->transmitterRange().first);
         if (range != most)
             range += "\u2013" + most;
+        if (layout.roles.shape == SiteShape::Joined)
+            return formatted("MESS_TAB_SHAPE_JOINED", {rows, sites, range});
         const int named = layout.roles.siteId >= 0 ? layout.roles.siteId : layout.roles.siteName;
         return named < 0 ? formatted("MESS_TAB_SHAPE_PLACES", {rows, sites, range})
                          : formatted("MESS_TAB_SHAPE_TALL",

@@ -739,5 +739,9 @@
         <source>the name "%1" stands for several places in the table of sites: the end has no position</source>
         <translation>the name "%1" stands for several places in the table of sites: the end has no position</translation>
     </message>
+    <message id="MESS_TAB_SHAPE_JOINED">
+        <source>%1 rows: %2 sites with %3 transmitters each from another table</source>
+        <translation>%1 rows: %2 sites with %3 transmitters each from another table</translation>
+    </message>
 </context>
 </TS>

@@ -739,5 +739,9 @@
         <source>the name "%1" stands for several places in the table of sites: the end has no position</source>
         <translation>le nom «&#xa0;%1&#xa0;» désigne plusieurs lieux dans le tableau des sites&#xa0;: l'extrémité n'a pas de position</translation>
     </message>
+    <message id="MESS_TAB_SHAPE_JOINED">
+        <source>%1 rows: %2 sites with %3 transmitters each from another table</source>
+        <translation>%1 lignes&#xa0;: %2 sites de %3 émetteurs chacun, pris dans un autre tableau</translation>
+    </message>
 </context>
 </TS>
