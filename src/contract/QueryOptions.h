@@ -68,6 +68,11 @@ inline constexpr ChosenNumber<int> FresnelTransparencyPercent{0, 100, 60};
 inline constexpr char KFactor[] = "k_factor";
 inline constexpr ChosenNumber<double> KFactorNumber{0.1, 100, 1.33333};
 
+/// Path of the mapping file of the table, see ColumnMapping.h, relative to the table's folder, or
+/// NoMapping; absent if it is the one beside the table, or if there is none.
+inline constexpr char Columns[] = "columns";
+inline constexpr char NoMapping[] = "none";
+
 // how the table is read; absent if its reader detects it
 inline constexpr char Sheet[] = "sheet";
 inline constexpr char Encoding[] = "encoding";
@@ -133,6 +138,7 @@ inline constexpr auto QueryOptions = std::to_array<QueryOption>({
     {query::FresnelShare, OptionPurpose::Links, {query::FresnelSharePercent}},
     {query::FresnelColor, OptionPurpose::Links},
     {query::KFactor, OptionPurpose::Links, {query::KFactorNumber}},
+    {query::Columns, OptionPurpose::Reading},
     {query::Sheet, OptionPurpose::Reading},
     {query::Encoding, OptionPurpose::Reading},
     {query::Delimiter, OptionPurpose::Reading},

@@ -176,6 +176,17 @@ inline constexpr auto TableTexts = std::to_array<Text>({
      "the installation is not complete: its vocabulary of column names is missing"},
     {"MESS_TAB_BAD_VOCABULARY", "the vocabulary %1 cannot be read: %2"},
 
+    // mapping files
+    {"MESS_TAB_MAPPING_UNUSED",
+     "the mapping file \"%1\" is not used: %2",
+     {ValueKind::Name, ValueKind::Nested}},
+    {"MESS_TAB_MAPPING_LARGE", "a mapping file has at most 1 MiB"},
+    {"MESS_TAB_MAPPING_JSON", "its JSON is not valid in line %1"},
+    {"MESS_TAB_MAPPING_NONE", "it is not a mapping of columns"},
+    {"MESS_TAB_MAPPING_VERSION", "its version %1 is not known"},
+    {"MESS_TAB_MAPPING_KEY", "its entry \"%1\" is not known"},
+    {"MESS_TAB_MAPPING_VALUE", "its entry \"%1\" has a value that cannot be used"},
+
     // transmitters of sites
     {"MESS_TAB_SECTOR_HEIGHT",
      "the antenna height \"%1\" cannot be used: the transmitter is left out"},

@@ -743,5 +743,33 @@
         <source>%1 rows: %2 sites with %3 transmitters each from another table</source>
         <translation>%1 rows: %2 sites with %3 transmitters each from another table</translation>
     </message>
+    <message id="MESS_TAB_MAPPING_UNUSED">
+        <source>the mapping file "%1" is not used: %2</source>
+        <translation>the mapping file "%1" is not used: %2</translation>
+    </message>
+    <message id="MESS_TAB_MAPPING_LARGE">
+        <source>a mapping file has at most 1 MiB</source>
+        <translation>a mapping file has at most 1 MiB</translation>
+    </message>
+    <message id="MESS_TAB_MAPPING_JSON">
+        <source>its JSON is not valid in line %1</source>
+        <translation>its JSON is not valid in line %1</translation>
+    </message>
+    <message id="MESS_TAB_MAPPING_NONE">
+        <source>it is not a mapping of columns</source>
+        <translation>it is not a mapping of columns</translation>
+    </message>
+    <message id="MESS_TAB_MAPPING_VERSION">
+        <source>its version %1 is not known</source>
+        <translation>its version %1 is not known</translation>
+    </message>
+    <message id="MESS_TAB_MAPPING_KEY">
+        <source>its entry "%1" is not known</source>
+        <translation>its entry "%1" is not known</translation>
+    </message>
+    <message id="MESS_TAB_MAPPING_VALUE">
+        <source>its entry "%1" has a value that cannot be used</source>
+        <translation>its entry "%1" has a value that cannot be used</translation>
+    </message>
 </context>
 </TS>

@@ -743,5 +743,33 @@
         <source>%1 rows: %2 sites with %3 transmitters each from another table</source>
         <translation>%1 lignes&#xa0;: %2 sites de %3 émetteurs chacun, pris dans un autre tableau</translation>
     </message>
+    <message id="MESS_TAB_MAPPING_UNUSED">
+        <source>the mapping file "%1" is not used: %2</source>
+        <translation>le fichier de correspondance «&#xa0;%1&#xa0;» n’est pas utilisé&#xa0;: %2</translation>
+    </message>
+    <message id="MESS_TAB_MAPPING_LARGE">
+        <source>a mapping file has at most 1 MiB</source>
+        <translation>un fichier de correspondance ne dépasse pas 1 Mio</translation>
+    </message>
+    <message id="MESS_TAB_MAPPING_JSON">
+        <source>its JSON is not valid in line %1</source>
+        <translation>son JSON n’est pas valide à la ligne %1</translation>
+    </message>
+    <message id="MESS_TAB_MAPPING_NONE">
+        <source>it is not a mapping of columns</source>
+        <translation>ce n’est pas une correspondance de colonnes</translation>
+    </message>
+    <message id="MESS_TAB_MAPPING_VERSION">
+        <source>its version %1 is not known</source>
+        <translation>sa version %1 est inconnue</translation>
+    </message>
+    <message id="MESS_TAB_MAPPING_KEY">
+        <source>its entry "%1" is not known</source>
+        <translation>son entrée «&#xa0;%1&#xa0;» est inconnue</translation>
+    </message>
+    <message id="MESS_TAB_MAPPING_VALUE">
+        <source>its entry "%1" has a value that cannot be used</source>
+        <translation>son entrée «&#xa0;%1&#xa0;» a une valeur inutilisable</translation>
+    </message>
 </context>
 </TS>

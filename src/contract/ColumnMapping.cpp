@@ -1,0 +1,181 @@
+#include "contract/ColumnMapping.h"
+
+#include "contract/QueryOptions.h"
+#include "contract/TableTexts.h"
+
+#include <nlohmann/json.hpp>
+
+#include <algorithm>
+
+namespace vlt::contract {
+
+namespace {
+
+using Json = nlohmann::json;
+using OrderedJson = nlohmann::ordered_json;
+
+constexpr int Version = 1;
+constexpr char SitesWord[] = "sites";
+constexpr char LinksWord[] = "links";
+
+/// Why a text is no mapping.
+struct Unusable
+{
+    std::string reason;
+};
+
+[[noreturn]] void refuseValue(const std::string &place)
+{
+    throw Unusable{formatted("MESS_TAB_MAPPING_VALUE", {place})};
+}
+
+std::string textOf(const Json &value, const std::string &place)
+{
+    if (!value.is_string())
+        refuseValue(place);
+    return value.get<std::string>();
+}
+
+/// The text of a value that may only be one of two.
+bool isSecond(const Json &value, const std::string &place, const char *first, const char *second)
+{
+    const std::string text = textOf(value, place);
+    if (text != first && text != second)
+        refuseValue(place);
+    return text == second;
+}
+
+std::vector<std::int64_t> headerRowsOf(const Json &value, const std::string &place)
+{
+    if (!value.is_array())
+        refuseValue(place);
+    std::vector<std::int64_t> rows;
+    for (const Json &row : value) {
+        const std::int64_t last = rows.empty() ? 0 : rows.back();
+        if (!row.is_number_integer() || row <= last || row > MaxHeaderRow)
+            refuseValue(place);
+        rows.push_back(row.get<std::int64_t>());
+    }
+    return rows;
+}
+
+StatedColumns columnsOf(const Json &value, const std::string &place)
+{
+    if (value.is_null())
+        return {};
+    if (!value.is_array())
+        return {textOf(value, place)};
+    StatedColumns columns;
+    for (const Json &column : value)
+        columns.push_back(column.is_null() ? std::string() : textOf(column, place));
+    return columns;
+}
+
+std::map<std::string, StatedColumns> rolesOf(const Json &value, const std::string &place)
+{
+    if (!value.is_object())
+        refuseValue(place);
+    std::map<std::string, StatedColumns> roles;
+    for (const auto &[role, columns] : value.items())
+        roles.emplace(role, columnsOf(columns, place + "." + role));
+    return roles;
+}
+
+void readMember(const std::string &key, const Json &value, ColumnMapping &mapping)
+{
+    if (key == "kind")
+        mapping.kind =
+            isSecond(value, key, SitesWord, LinksWord) ? TableKind::Links : TableKind::Sites;
+    else if (key == "sheet")
+        mapping.sheet = textOf(value, key);
+    else if (key == "headerRows")
+        mapping.headerRows = headerRowsOf(value, key);
+    else if (key == "axes")
+        mapping.swapsAxes = isSecond(value, key, "", query::SwappedAxes);
+    else if (key == "sourceSrs")
+        mapping.sourceSrs = textOf(value, key);
+    else if (key == "sectors")
+        mapping.sectors = textOf(value, key);
+    else if (key == "sites")
+        mapping.sites = textOf(value, key);
+    else if (key == "roles")
+        mapping.roles = rolesOf(value, key);
+    else if (key != "version")
+        throw Unusable{formatted("MESS_TAB_MAPPING_KEY", {key})};
+}
+
+/// Throws Json::exception or Unusable.
+ColumnMapping mappingOf(std::string_view text)
+{
+    const Json document = Json::parse(text);
+    if (!document.is_object() || !document.contains("version"))
+        throw Unusable{formatted("MESS_TAB_MAPPING_NONE")};
+    if (document["version"] != Version)
+        throw Unusable{formatted("MESS_TAB_MAPPING_VERSION", {document["version"].dump()})};
+    ColumnMapping mapping;
+    for (const auto &[key, value] : document.items())
+        readMember(key, value, mapping);
+    return mapping;
+}
+
+OrderedJson jsonOf(const StatedColumns &columns)
+{
+    if (columns.empty())
+        return nullptr;
+    if (columns.size() == 1)
+        return columns.front();
+    OrderedJson list = OrderedJson::array();
+    for (const std::string &column : columns)
+        list.push_back(column.empty() ? OrderedJson() : OrderedJson(column));
+    return list;
+}
+
+} // namespace
+
+ReadMapping readMapping(std::string_view text)
+{
+    if (text.size() > MaxMappingBytes)
+        return {{}, formatted("MESS_TAB_MAPPING_LARGE")};
+    try {
+        return {mappingOf(text), {}};
+    } catch (const Unusable &unusable) {
+        return {{}, unusable.reason};
+    } catch (const Json::parse_error &error) {
+        const auto line = 1 + std::count(text.begin(),
+                                         text.begin() + static_cast<std::ptrdiff_t>(
+                                                            std::min(error.byte, text.size())),
+                                         '\n');
+        return {{}, formatted("MESS_TAB_MAPPING_JSON", {std::to_string(line)})};
+    } catch (const Json::exception &) { // for instance bytes that are not UTF-8
+        return {{}, formatted("MESS_TAB_MAPPING_NONE")};
+    }
+}
+
+std::string writeMapping(const ColumnMapping &mapping)
+{
+    OrderedJson document = {{"version", Version}};
+    const auto add = [&document](const char *key, const std::string &text) {
+        if (!text.empty())
+            document[key] = text;
+    };
+    if (mapping.kind)
+        document["kind"] = *mapping.kind == TableKind::Links ? LinksWord : SitesWord;
+    add("sheet", mapping.sheet);
+    if (mapping.headerRows)
+        document["headerRows"] = *mapping.headerRows;
+    add("axes", mapping.swapsAxes ? query::SwappedAxes : "");
+    add("sourceSrs", mapping.sourceSrs);
+    add("sectors", mapping.sectors);
+    add("sites", mapping.sites);
+    for (const auto &[role, columns] : mapping.roles)
+        document["roles"][role] = jsonOf(columns);
+    constexpr int Indent = 4;
+    return document.dump(Indent, ' ', false, OrderedJson::error_handler_t::replace) + "\n";
+}
+
+std::string mappingFileOf(std::string_view tablePath)
+{
+    return std::string(tablePath) + ".columns.json";
+}
+
+} // namespace vlt::contract

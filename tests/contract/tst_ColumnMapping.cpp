@@ -1,0 +1,71 @@
+#include "contract/ColumnMapping.h"
+#include "support/Cases.h"
+
+#include <QtTest>
+
+using namespace vlt::contract;
+
+class tst_ColumnMapping : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void readsWhatItWrites()
+    {
+        ColumnMapping mapping;
+        mapping.kind = TableKind::Links;
+        mapping.sheet = "Liaisons \"1\"";
+        mapping.headerRows = {2, 3};
+        mapping.swapsAxes = true;
+        mapping.sourceSrs = "EPSG:2154";
+        mapping.sectors = "a, b.csv";
+        mapping.sites = "../é.csv";
+        mapping.roles = {
+            {"siteId", {"SITE"}}, {"azimuth", {"azi0", "", "azi2"}}, {"antennaHeight", {}}};
+        ColumnMapping headerless;
+        headerless.headerRows.emplace();
+
+        for (const ColumnMapping &stated : {mapping, headerless, ColumnMapping()})
+            QVERIFY(readMapping(writeMapping(stated)).mapping == stated);
+    }
+
+    void namesThePlaceOfAMistake_data()
+    {
+        const Cases<QByteArray, QString> row({"text", "reason"});
+        const char *const none = "it is not a mapping of columns";
+        const auto value = [](const char *place) {
+            return QString::fromUtf8("its entry \"%1\" has a value that cannot be used")
+                .arg(QLatin1String(place));
+        };
+        row("empty", "", "its JSON is not valid in line 1");
+        row("broken", "{\"version\": 1,\n\"sheet\": }", "its JSON is not valid in line 2");
+        row("not UTF-8", "{\"version\": 1, \"sheet\": \"\xe9\"}",
+            "its JSON is not valid in line 1");
+        row("deep", QByteArray(100000, '['), "its JSON is not valid in line 1");
+        row("large", QByteArray(MaxMappingBytes + 1, ' '), "a mapping file has at most 1 MiB");
+        row("other JSON", "[1]", none);
+        row("no version", "{\"sheet\": \"a\"}", none);
+        row("later version", "{\"version\": 2}", "its version 2 is not known");
+        row("unknown entry", "{\"version\": 1, \"Sheet\": \"a\"}",
+            "its entry \"Sheet\" is not known");
+        row("other kind", "{\"version\": 1, \"kind\": \"towns\"}", value("kind"));
+        row("row 0", "{\"version\": 1, \"headerRows\": [0]}", value("headerRows"));
+        row("rows upward", "{\"version\": 1, \"headerRows\": [3, 2]}", value("headerRows"));
+        row("far row", "{\"version\": 1, \"headerRows\": [201]}", value("headerRows"));
+        row("half a row", "{\"version\": 1, \"headerRows\": [1.5]}", value("headerRows"));
+        row("role of numbers", "{\"version\": 1, \"roles\": {\"x\": [1]}}", value("roles.x"));
+        row("list of roles", "{\"version\": 1, \"roles\": []}", value("roles"));
+    }
+    void namesThePlaceOfAMistake()
+    {
+        QFETCH(QByteArray, text);
+
+        const ReadMapping read = readMapping(text.toStdString());
+
+        QVERIFY(!read.mapping);
+        QTEST(QString::fromStdString(read.reason), "reason");
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_ColumnMapping)
+#include "tst_ColumnMapping.moc"
