@@ -93,7 +93,8 @@ Result<RasterSummary> readRasterSummary(const QString &path, const QString &part
     return summary;
 }
 
-Stoppable<double> guessedNoData(const QString &path, const Progress &progress, const QString &part)
+Stoppable<std::optional<double>> guessedNoData(const QString &path, const Progress &progress,
+                                               const QString &part)
 {
     const ErrorCollector errors;
     const localfiles::NoNetwork offline;
@@ -103,9 +104,7 @@ Stoppable<double> guessedNoData(const QString &path, const Progress &progress, c
     keepFromSaving(*dataset);
     GDALRasterBand *band = dataset->GetRasterCount() > 0 ? dataset->GetRasterBand(1) : nullptr;
     if (band == nullptr)
-        return Error{QStringLiteral("MESS_ERR_NO_BANDS"),
-                     QStringLiteral("This image doesn't have any band"),
-                     {}};
+        return Result<std::optional<double>>(std::nullopt);
 
     bool isStopped = false;
     Progress reported = [&](double share) {
@@ -120,10 +119,10 @@ Stoppable<double> guessedNoData(const QString &path, const Progress &progress, c
     if (isStopped)
         return std::nullopt;
     if (min < MinHeightM)
-        return min;
+        return std::optional(min);
     if (max >= MaxHeightM)
-        return max;
-    return declaredNoData(*band).value_or(DefaultNoData);
+        return std::optional(max);
+    return std::optional(declaredNoData(*band).value_or(DefaultNoData));
 }
 
 } // namespace vlt::geodata

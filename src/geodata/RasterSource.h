@@ -40,9 +40,9 @@ Result<RasterSummary> readRasterSummary(const QString &path, const QString &part
 ///
 /// @param progress  may be empty; false stops the work
 /// @param part      name of one of its images; empty for the raster itself
-/// @par Errors      MESS_ERR_OPEN_RASTERDS, with the path and the library's reason;
-///                  MESS_ERR_NO_BANDS
-Stoppable<double> guessedNoData(const QString &path, const Progress &progress,
-                                const QString &part = {});
+/// @return          none if the raster has no band
+/// @par Errors      MESS_ERR_OPEN_RASTERDS, with the path and the library's reason
+Stoppable<std::optional<double>> guessedNoData(const QString &path, const Progress &progress,
+                                               const QString &part = {});
 
 } // namespace vlt::geodata

@@ -20,6 +20,8 @@ namespace vlt::buildings {
 
 namespace {
 
+using GuessedNoData = Stoppable<std::optional<double>>;
+
 constexpr int PollMs = 50;
 
 /// Disables a page and its buttons Next and Back as long as it exists; then the page gets the focus
@@ -63,10 +65,10 @@ private:
 
 /// Guesses on another thread while the user interface stays responsive; no value if the page was
 /// closed during the guess.
-Stoppable<double> guessBeside(const QPointer<QWidget> &page, const QString &path,
-                              const QString &part, const QPointer<QProgressBar> &bar)
+GuessedNoData guessBeside(const QPointer<QWidget> &page, const QString &path, const QString &part,
+                          const QPointer<QProgressBar> &bar)
 {
-    Stoppable<double> guessed;
+    GuessedNoData guessed;
     std::atomic<bool> isAbandoned = false;
     QEventLoop loop;
     const auto showShare = [&loop, bar](double share) {
@@ -113,7 +115,7 @@ QString guessNoData(QWidget *disabled, const QString &path, QProgressBar *bar, c
     bar->setRange(0, 1);
     bar->setValue(0);
     bar->show();
-    Stoppable<double> guessed;
+    GuessedNoData guessed;
     {
         const PageLock lock(disabled);
         guessed = guessBeside(page, path, part, shown);
@@ -122,10 +124,9 @@ QString guessNoData(QWidget *disabled, const QString &path, QProgressBar *bar, c
     }
     if (!guessed)
         return {};
-    if (guessed->ok())
-        return text::f6(guessed->value());
-    const bool isWithoutBands = guessed->error().key == QLatin1String("MESS_ERR_NO_BANDS");
-    warnOfRaster(disabled, isWithoutBands ? RasterProblem::NoBands : RasterProblem::CannotOpen,
+    if (guessed->ok() && guessed->value())
+        return text::f6(*guessed->value());
+    warnOfRaster(disabled, guessed->ok() ? RasterProblem::NoBands : RasterProblem::CannotOpen,
                  path);
     return {};
 }
