@@ -2,6 +2,7 @@
 
 #include "geodata/EpsgIdentification.h"
 #include "geodata/ErrorCollector.h"
+#include "geodata/SrsDefinition.h"
 #include "localfiles/NoNetwork.h"
 
 #include <cpl_conv.h>
@@ -46,7 +47,7 @@ SystemInfo systemInfo(const OGRSpatialReference *system)
     SystemInfo info;
     const QString code = identifiedEpsgCode(*system);
     const char *name = system->GetName();
-    info.name = code.isEmpty() ? QString::fromUtf8(name) : QStringLiteral("EPSG:") + code;
+    info.name = code.isEmpty() ? QString::fromUtf8(name) : listedCode(code);
     info.isGeographic = system->IsGeographic();
     if (system->IsProjected())
         info.unitM = system->GetLinearUnits();

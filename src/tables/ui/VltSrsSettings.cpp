@@ -1,6 +1,7 @@
 #include "tables/ui/VltSrsSettings.h"
 
 #include "geodata/DatasetReferenceCode.h"
+#include "geodata/SrsDefinition.h"
 #include "geodata/SrsFacts.h"
 #include "platform/Settings.h"
 #include "srs/ui/VltSrsChooser.h"
@@ -121,7 +122,7 @@ void VltSrsSettings::getTargetEpsgCodeFromDataSource()
         vlt::messages::warning(this, code->error(), tr("Warning", "MESS_ATTENTION"));
         return;
     }
-    const QString system = QStringLiteral("EPSG:%1").arg(code->value());
+    const QString system = vlt::geodata::listedCode(code->value());
     if (const auto refusal = vlt::geodata::srsRefusal(vlt::geodata::srsFacts(system))) {
         vlt::messages::warning(this, *refusal, tr("Warning", "MESS_ATTENTION"));
         return;
