@@ -2,6 +2,12 @@
 
 namespace vlt::buildings {
 
+namespace {
+
+const QString FileListKey = QStringLiteral("FileList");
+
+} // namespace
+
 QString FileEntry::fileName() const
 {
     const QString path = file.filePath();
@@ -20,6 +26,16 @@ QString FileEntry::fileName() const
     const qsizetype suffix = name.indexOf(u'.');
     const qsizetype part = suffix < 0 ? -1 : name.indexOf(u':', suffix);
     return name.left(part);
+}
+
+QList<FileEntry> publishedImages(const QVariantMap &parameters)
+{
+    return parameters.value(FileListKey).value<QList<FileEntry>>();
+}
+
+void publishImages(const QList<FileEntry> &images, QVariantMap &parameters)
+{
+    parameters.insert(FileListKey, QVariant::fromValue(images));
 }
 
 } // namespace vlt::buildings

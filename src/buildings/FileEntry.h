@@ -4,6 +4,7 @@
 #include <QList>
 #include <QMetaType>
 #include <QString>
+#include <QVariantMap>
 
 namespace vlt::buildings {
 
@@ -39,6 +40,10 @@ struct FileEntry
     int unit = Metres;   ///< saved unchanged
     QString description; ///< of an image in a file that holds several
 };
+
+/// Reads and writes the images in the wizard's shared parameters, as "FileList".
+QList<FileEntry> publishedImages(const QVariantMap &parameters);
+void publishImages(const QList<FileEntry> &images, QVariantMap &parameters);
 
 } // namespace vlt::buildings
 

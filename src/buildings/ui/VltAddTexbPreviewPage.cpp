@@ -35,7 +35,7 @@ VltAddTexbPreviewPage::~VltAddTexbPreviewPage() = default;
 
 void VltAddTexbPreviewPage::initializePage()
 {
-    m_images = parameters().value(QStringLiteral("FileList")).value<QList<FileEntry>>();
+    m_images = vlt::buildings::publishedImages(parameters());
     m_images.removeIf([](const FileEntry &image) { return !image.used; });
     VltBuildingLayerPage::initializePage();
     fitWidth();

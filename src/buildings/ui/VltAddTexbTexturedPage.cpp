@@ -27,7 +27,6 @@ using vlt::buildings::FileListModel;
 namespace {
 
 const QString LastUsedDirKey = QStringLiteral("LastUsedDir");
-const QString FileListKey = QStringLiteral("FileList");
 
 constexpr int RowMargin = 6;
 /// Maximum share of the column of files in the table's width, so that the folders stay visible.
@@ -118,7 +117,7 @@ void VltAddTexbTexturedPage::saveSettings()
     vlt::buildings::writeTextureSettings(*settings,
                                          {m_ui->m_pwCbDataStructure->currentIndex(),
                                           m_ui->m_pwLeFilter->text(), m_model->entries()});
-    parameters().insert(FileListKey, QVariant::fromValue(m_model->entries()));
+    vlt::buildings::publishImages(m_model->entries(), parameters());
 }
 
 void VltAddTexbTexturedPage::restoreSettings()
