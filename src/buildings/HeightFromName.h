@@ -9,7 +9,7 @@ namespace vlt::buildings {
 /// A height in the name of an image.
 struct NamedHeight
 {
-    double height = 0; ///< 0 if the name has none
+    double height = 0; ///< metres, or without `inMetres` in a unit not stated; 0 if there is none
     bool inMetres = false;
 };
 

@@ -25,6 +25,8 @@ const QString LastUsedDirKey = QStringLiteral("LastUsedDir");
 const QString Colored = QStringLiteral("Colored");
 const QString Textured = QStringLiteral("Textured");
 
+constexpr int UnsetPageId = 999; // no page of the wizard has this id
+
 QString settingsKey(const char *name)
 {
     return QStringLiteral("AddTexbFirstPage/") + QLatin1String(name);
@@ -210,7 +212,8 @@ buildings::BuildingsSource VltAddTexbFirstPage::chosenSource() const
 
 int VltAddTexbFirstPage::nextId() const
 {
-    return m_ui->m_pwRbColored->isChecked() ? m_coloredPageId : m_texturedPageId;
+    const auto id = m_ui->m_pwRbColored->isChecked() ? m_coloredPageId : m_texturedPageId;
+    return id.value_or(UnsetPageId);
 }
 
 bool VltAddTexbFirstPage::accepts(const std::optional<Error> &refusal)

@@ -80,8 +80,8 @@ private:
     QString pick(const QString &title, const QString &files);
 
     std::unique_ptr<Ui::AddTexbFirstPage> m_ui;
-    int m_coloredPageId = 999; ///< 999: not set yet
-    int m_texturedPageId = 999;
+    std::optional<int> m_coloredPageId;
+    std::optional<int> m_texturedPageId;
     QString m_lastUsedDir;
     FootprintPicker *m_footprints = nullptr;
     TerrainPicker *m_terrain = nullptr;
