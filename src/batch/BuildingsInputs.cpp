@@ -70,9 +70,14 @@ Result<QString> chosenField(const geodata::PolygonLayer &layer, const QString &w
     return guess;
 }
 
-/// Reads file, layer, field and extent of the buildings, and stores their number in `count`.
-Result<BuildingsSource> readVector(const BuildingsRequest &request, const QString &path,
-                                   qint64 &count)
+/// File, layer, field and extent of the buildings, and their number.
+struct Footprints
+{
+    BuildingsSource source;
+    qint64 count = -1; ///< -1 if the format would have to read all features to count them
+};
+
+Result<Footprints> readVector(const BuildingsRequest &request, const QString &path)
 {
     const auto opened = geodata::PolygonSource::open(absolutePath(path));
     if (!opened)
@@ -89,21 +94,22 @@ Result<BuildingsSource> readVector(const BuildingsRequest &request, const QStrin
     if (!extent.isPlaced())
         return Error{QStringLiteral("MESS_ERR_NO_EXTENT"),
                      QStringLiteral("No building of this layer has a position"), path};
-    count = layer.featureCount;
     BuildingsSource source;
     source.file = absolutePath(path);
     source.layer = layer.name;
     source.heightField = field.value();
     source.xCenter = extent.centerX();
     source.yCenter = extent.centerY();
-    return source;
+    return Footprints{source, layer.featureCount};
 }
 
-/// The terrain's value of no data: the given one, else that of the file, else empty.
-///
-/// @param warning  receives the warning about a suspicious terrain
-Result<QString> readTerrain(const QString &path, const std::optional<QString> &noData,
-                            QString &warning)
+struct Terrain
+{
+    QString noData;  ///< the given value, else that of the file, else empty
+    QString warning; ///< about a raster that is probably no terrain; else empty
+};
+
+Result<Terrain> readTerrain(const QString &path, const std::optional<QString> &noData)
 {
     const Result<geodata::RasterSummary> terrain = geodata::readRasterSummary(absolutePath(path));
     if (!terrain)
@@ -112,13 +118,14 @@ Result<QString> readTerrain(const QString &path, const std::optional<QString> &n
     if (terrain.value().bandCount < 1)
         return Error{QStringLiteral("MESS_ERR_NO_BANDS"),
                      QStringLiteral("This image doesn't have any band"), path};
+    const std::optional<double> own = terrain.value().noData;
+    Terrain read{noData.value_or(own ? text::f6(*own) : QString()), {}};
     if (terrain.value().holdsColors)
-        warning =
+        read.warning =
             path + QStringLiteral(": ") +
             dico_label("MESS_DTM_IS_PICTURE", "This raster is probably a picture: its first band "
                                               "holds colors, which would be read as heights");
-    const std::optional<double> own = terrain.value().noData;
-    return noData.value_or(own ? text::f6(*own) : QString());
+    return read;
 }
 
 /// The given vector file, else that of the project.
@@ -141,24 +148,25 @@ Result<BuildingsInputs> readFiles(const BuildingsRequest &request, const Surroun
     const Result<QString> vector = vectorFile(request.vector, project);
     if (!vector)
         return vector.error();
-    const Result<BuildingsSource> source =
-        readVector(request, vector.value(), inputs.buildingCount);
-    if (!source)
-        return source.error();
+    const Result<Footprints> footprints = readVector(request, vector.value());
+    if (!footprints)
+        return footprints.error();
     const QString dtm =
         request.terrain.isEmpty() ? surroundings.project.terrainFile : request.terrain;
     if (dtm.isEmpty())
         return Error::asIs(
             dico_label("MESS_CLI_NO_DTM", "the project names no terrain: give --dtm"), project);
-    const auto noData = readTerrain(dtm, request.terrainNoData, inputs.terrainWarning);
-    if (!noData)
-        return noData.error();
-    inputs.layer.source = source.value();
+    const Result<Terrain> terrain = readTerrain(dtm, request.terrainNoData);
+    if (!terrain)
+        return terrain.error();
+    inputs.layer.source = footprints.value().source;
     inputs.layer.source.terrainFile = absolutePath(dtm);
-    inputs.layer.source.terrainNoData = noData.value();
+    inputs.layer.source.terrainNoData = terrain.value().noData;
     inputs.layer.source.project = project;
     inputs.layer.footprints = request.footprints;
     inputs.layer.installDir = surroundings.installDir;
+    inputs.buildingCount = footprints.value().count;
+    inputs.terrainWarning = terrain.value().warning;
     inputs.files = {vector.value(), dtm, project};
     return inputs;
 }
