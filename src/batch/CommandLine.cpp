@@ -90,11 +90,11 @@ std::optional<Error> repeated(const QCommandLineParser &parser, const CommandSyn
 
 std::optional<Error> checkInputs(const QStringList &given, const Inputs &inputs)
 {
-    if (given.size() < inputs.least || (!given.isEmpty() && given.first().isEmpty()))
+    if (given.size() < inputs.minimum || (!given.isEmpty() && given.first().isEmpty()))
         return wrongUsage(inputs.missing);
-    if (given.size() > inputs.most)
-        return wrongUsage(
-            dico_label("MESS_USE_TOO_MANY", "too many arguments: %1").arg(given.at(inputs.most)));
+    if (given.size() > inputs.maximum)
+        return wrongUsage(dico_label("MESS_USE_TOO_MANY", "too many arguments: %1")
+                              .arg(given.at(inputs.maximum)));
     if (given.contains(QLatin1String("-")))
         return wrongUsage(dico_label("MESS_USE_NO_INPUT",
                                      "'-': inputs are files, the standard input is not read"));

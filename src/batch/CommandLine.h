@@ -55,8 +55,8 @@ QList<QCommandLineOption> globalOptions();
 /// The arguments of a command that are not options.
 struct Inputs
 {
-    int least = 0;
-    int most = 0;
+    int minimum = 0; ///< number of arguments
+    int maximum = 0;
     QString name;    ///< name in the usage: "TABLE"
     QString meaning; ///< description in the help
     QString missing; ///< error text if there are too few

@@ -72,7 +72,7 @@ ExitStatus runWithoutCommand(const SplitArguments &split, const Place &place)
 {
     const bool isHelp = split.command == HelpCommand;
     CommandSyntax syntax;
-    syntax.inputs.most = isHelp ? 1 : 0;
+    syntax.inputs.maximum = isHelp ? 1 : 0;
     QCommandLineParser parser;
     const Result<GlobalOptions> options = parseArguments(parser, syntax, split.others, place);
     if (const auto answered = answerHelp(parser, options, programHelpText))
