@@ -69,4 +69,23 @@ inline constexpr char RowPrefix[] = "ROW_";
 inline constexpr int MaxFirstRows = 12;
 inline constexpr int MaxFirstColumns = 64;
 
+/// The domain of the dataset with the first rows of the table. Its only item is a JSON object:
+/// {"sheet": name, "sheets": [names], "headerRows": [numbers], "furtherRows": [numbers],
+/// "columns": [{"name": field, "position": n}], "rows": [{"row": number, "cells": [texts]}]}.
+/// Only workbooks have sheets; further rows belong to the header, such as a row of units; positions
+/// count from 0, rows from 1; empty cells at the end of a row are left out.
+inline constexpr char ExcerptDomain[] = "json:EXCERPT";
+namespace excerpt {
+inline constexpr char Sheet[] = "sheet";
+inline constexpr char Sheets[] = "sheets";
+inline constexpr char HeaderRows[] = "headerRows";
+inline constexpr char FurtherRows[] = "furtherRows";
+inline constexpr char Columns[] = "columns";
+inline constexpr char Name[] = "name";
+inline constexpr char Position[] = "position";
+inline constexpr char Rows[] = "rows";
+inline constexpr char Row[] = "row";
+inline constexpr char Cells[] = "cells";
+} // namespace excerpt
+
 } // namespace vlt::contract::metadata

@@ -1,5 +1,6 @@
 #include "geodata/LayerProblems.h"
 #include "geodata/LinkCheck.h"
+#include "geodata/TableExcerpt.h"
 #include "support/Files.h"
 
 #include <QTemporaryDir>
@@ -85,6 +86,30 @@ private Q_SLOTS:
             QVERIFY(!readLinkCheck(u"link:"_s + m_links, {}, goOn));
             QCOMPARE(asked, question);
         }
+    }
+
+    void readsTheFirstRowsOfATable()
+    {
+        const QString table = m_folder.filePath(u"excerpt.csv"_s);
+        QByteArray text = "Sites of the north;;;\nSite ID;;Longitude;Latitude\n;;deg;deg\n";
+        for (int i = 0; i < 100; ++i)
+            text += "S\xC3\xA9" + QByteArray::number(i) + ";;2.5;48;\n";
+        writeFile(table, text);
+
+        const auto read = readTableExcerpt(u"site:"_s + table);
+
+        QVERIFY(read);
+        const TableExcerpt &excerpt = read.value();
+        QCOMPARE(excerpt.headerRows, QList<qint64>{2});
+        QCOMPARE(excerpt.furtherRows, QList<qint64>{3});
+        QCOMPARE(excerpt.columns.size(), 3);
+        QCOMPARE(excerpt.columns.last().position, 3);
+        QVERIFY(excerpt.rows.size() > 5 && excerpt.rows.size() < 50);
+        QCOMPARE(excerpt.rows.first().cells, QStringList(u"Sites of the north"_s));
+        QCOMPARE(excerpt.rows.at(3).number, 4);
+        QCOMPARE(excerpt.rows.at(3).cells, (QStringList{u"S\u00E90"_s, {}, u"2.5"_s, u"48"_s}));
+        QCOMPARE(readTableExcerpt(u"site:"_s + qEnvironmentVariable("VLT_WORKBOOK")).value().sheets,
+                 (QStringList{u"Sheet1"_s, u"Sheet2"_s, u"Sheet3"_s}));
     }
 
     /// A workbook that is truncated during the read must not be taken as one with fewer sites.

@@ -1,10 +1,13 @@
 #include "contract/ConnectionString.h"
 #include "contract/Installation.h"
 #include "contract/QueryOptions.h"
+#include "contract/TableMetadata.h"
+#include "contract/TableTexts.h"
 #include "plugins/tables/bytes/Refusal.h"
 #include "plugins/tables/ogr/LinkEndLayer.h"
 #include "plugins/tables/ogr/LinkLayer.h"
 #include "plugins/tables/ogr/SiteLayer.h"
+#include "plugins/tables/ogr/TableExcerpt.h"
 
 #include <cpl_error.h>
 #include <gdal_priv.h>
@@ -23,7 +26,8 @@ class TableDataset final : public GDALDataset
 public:
     /// @param files  paths of the files that the dataset reads
     TableDataset(const TableSource &source, std::vector<std::string> files)
-        : m_files(std::move(files))
+        : m_table(source.file)
+        , m_files(std::move(files))
     {
         if (std::holds_alternative<SiteLayout>(source.facts().layout)) {
             m_layers.push_back(std::make_unique<SiteLayer>(source));
@@ -49,7 +53,36 @@ public:
         return list.StealList();
     }
 
+    char **GetMetadata(const char *domain) override
+    {
+        if (!domain || !EQUAL(domain, contract::metadata::ExcerptDomain))
+            return GDALDataset::GetMetadata(domain);
+        if (m_excerpt.empty())
+            readExcerpt();
+        return m_excerpt.List();
+    }
+
+    char **GetMetadataDomainList() override
+    {
+        return BuildMetadataDomainList(GDALDataset::GetMetadataDomainList(), FALSE,
+                                       contract::metadata::ExcerptDomain, nullptr);
+    }
+
 private:
+    void readExcerpt()
+    {
+        try {
+            m_excerpt.AddString(tableExcerpt(*m_table).c_str());
+        } catch (const RefusedFile &refused) { // the file changed since it was opened
+            CPLError(CE_Failure, CPLE_FileIO, "%s: %s", m_files.front().c_str(), refused.what());
+        } catch (const std::bad_alloc &) {
+            CPLError(CE_Failure, CPLE_OutOfMemory, "%s",
+                     contract::formatted("MESS_TAB_OUT_OF_MEMORY").c_str());
+        }
+    }
+
+    std::shared_ptr<const TableFile> m_table;
+    CPLStringList m_excerpt;
     std::vector<std::string> m_files;
     std::vector<std::unique_ptr<TableLayer>> m_layers;
 };

@@ -69,6 +69,8 @@ public:
     const TableFacts &facts() const { return *m_facts; }
     /// Starts reading the rows from the first one.
     std::unique_ptr<DataRows> rows();
+    /// Opens the file again from its first sheet.
+    std::unique_ptr<Workbook> openFile() const;
 
 private:
     using Suitability = int(const TableProfile &start, const Vocabulary &vocabulary);
@@ -84,7 +86,6 @@ private:
     std::optional<SecondTable> otherSheet(Suitability suitability) const;
     [[noreturn]] void refuseSecond(contract::TableTextId why) const;
     SecondTable secondFile(Suitability suitability) const;
-    std::unique_ptr<Workbook> openFile() const;
 
     std::shared_ptr<const InputFile> m_file;
     std::shared_ptr<const InputFile> m_secondFile; ///< null without one
