@@ -46,29 +46,6 @@ inline constexpr char RolePrefix[] = "ROLE_";
 inline constexpr char RoleSeparator = '|';
 inline constexpr char MappingItem[] = "MAPPING"; ///< path of the mapping file in use; else absent
 
-// Domains for those who choose columns; their items are numbered from 1. Texts from the table have
-// blanks in place of control characters, and those of cells are cut at MaxCellLetters.
-//
-// The columns of the table: COLUMN_1=name, SAMPLE_1=up to three different values, separated by
-// TextSeparator.
-inline constexpr char ColumnsDomain[] = "columns";
-inline constexpr char ColumnPrefix[] = "COLUMN_";
-inline constexpr char SamplePrefix[] = "SAMPLE_";
-inline constexpr char TextSeparator = '\t';
-inline constexpr int MaxSamples = 3;
-inline constexpr int MaxCellLetters = 80;
-
-// The sheets of a workbook, without hidden ones: SHEET_1=name. Empty for texts.
-inline constexpr char SheetsDomain[] = "sheets";
-inline constexpr char SheetPrefix[] = "SHEET_";
-
-// The first rows of the sheet as they stand, by their numbers in the file: ROW_1=cells, separated
-// by TextSeparator. Rows without any cell are missing.
-inline constexpr char FirstRowsDomain[] = "first_rows";
-inline constexpr char RowPrefix[] = "ROW_";
-inline constexpr int MaxFirstRows = 12;
-inline constexpr int MaxFirstColumns = 64;
-
 /// The domain of the dataset with the first rows of the table. Its only item is a JSON object:
 /// {"sheet": name, "sheets": [names], "headerRows": [numbers], "furtherRows": [numbers],
 /// "columns": [{"name": field, "position": n}], "rows": [{"row": number, "cells": [texts]}]}.
