@@ -771,5 +771,33 @@
         <source>its entry "%1" has a value that cannot be used</source>
         <translation>its entry "%1" has a value that cannot be used</translation>
     </message>
+    <message id="MESS_ROLE_LINK_NAME">
+        <source>Name of the link</source>
+        <translation>Name of the link</translation>
+    </message>
+    <message id="MESS_ROLE_DIAMETER">
+        <source>Dish diameter</source>
+        <translation>Dish diameter</translation>
+    </message>
+    <message id="MESS_ROLE_OFFSET_X">
+        <source>Offset to the east</source>
+        <translation>Offset to the east</translation>
+    </message>
+    <message id="MESS_ROLE_OFFSET_Y">
+        <source>Offset to the north</source>
+        <translation>Offset to the north</translation>
+    </message>
+    <message id="MESS_ROLE_LENGTH">
+        <source>Path length</source>
+        <translation>Path length</translation>
+    </message>
+    <message id="MESS_ROLE_REPEATER">
+        <source>Passive repeater</source>
+        <translation>Passive repeater</translation>
+    </message>
+    <message id="MESS_ROLE_OF_END">
+        <source>%1, end %2</source>
+        <translation>%1, end %2</translation>
+    </message>
 </context>
 </TS>

@@ -771,5 +771,33 @@
         <source>its entry "%1" has a value that cannot be used</source>
         <translation>son entrée «&#xa0;%1&#xa0;» a une valeur inutilisable</translation>
     </message>
+    <message id="MESS_ROLE_LINK_NAME">
+        <source>Name of the link</source>
+        <translation>Nom de la liaison</translation>
+    </message>
+    <message id="MESS_ROLE_DIAMETER">
+        <source>Dish diameter</source>
+        <translation>Diamètre de la parabole</translation>
+    </message>
+    <message id="MESS_ROLE_OFFSET_X">
+        <source>Offset to the east</source>
+        <translation>Décalage vers l'est</translation>
+    </message>
+    <message id="MESS_ROLE_OFFSET_Y">
+        <source>Offset to the north</source>
+        <translation>Décalage vers le nord</translation>
+    </message>
+    <message id="MESS_ROLE_LENGTH">
+        <source>Path length</source>
+        <translation>Longueur du trajet</translation>
+    </message>
+    <message id="MESS_ROLE_REPEATER">
+        <source>Passive repeater</source>
+        <translation>Répéteur passif</translation>
+    </message>
+    <message id="MESS_ROLE_OF_END">
+        <source>%1, end %2</source>
+        <translation>%1, extrémité %2</translation>
+    </message>
 </context>
 </TS>
