@@ -1,17 +1,11 @@
-#include "DriverTesting.h"
+#include "RealTables.h"
 
-#include <QFile>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QMap>
-#include <QSet>
-#include <QTest>
 
 #include <algorithm>
-#include <cmath>
 
 using namespace Qt::StringLiterals;
+using namespace realtables;
 
 /// Tables in the manner of real exports, with what their authors know of them.
 class tst_RealTables : public QObject
@@ -22,13 +16,8 @@ private Q_SLOTS:
     void initTestCase()
     {
         GDALAllRegister();
-        const QJsonDocument document = QJsonDocument::fromJson(contentOf(u"expected.json"_s));
-        QVERIFY(document.isArray());
-        m_tables = document.array();
-        for (const QByteArray &line : contentOf(u"not_yet.txt"_s).split('\n')) {
-            if (!line.startsWith('#'))
-                m_notYet.insert(QString::fromUtf8(line));
-        }
+        QVERIFY(!expectations().isEmpty());
+        m_notYet = notYet();
     }
 
     void findsTheSites_data() { addTables(u"sites"_s); }
@@ -84,48 +73,6 @@ private:
         return kinds;
     }
 
-    static QString pathOf(const QString &name)
-    {
-        return QStringLiteral(VLT_REAL_TABLES) + u'/' + name;
-    }
-
-    static QByteArray contentOf(const QString &name)
-    {
-        QFile file(pathOf(name));
-        return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
-    }
-
-    void addTables(const QString &kind) const
-    {
-        QTest::addColumn<QJsonObject>("table");
-        for (const QJsonValue &table : m_tables) {
-            const QJsonObject object = table.toObject();
-            if (object.value(u"kind"_s) == kind)
-                QTest::newRow(qPrintable(object.value(u"file"_s).toString())) << object;
-        }
-    }
-
-    static GDALDatasetUniquePtr open(const QJsonObject &table, const char *prefix)
-    {
-        CPLStringList options;
-        const QJsonObject given = table.value(u"open"_s).toObject();
-        for (auto option = given.begin(); option != given.end(); ++option) {
-            const QString value = option.value().toString();
-            const bool isFile = QFile::exists(pathOf(value));
-            options.SetNameValue(qPrintable(option.key()),
-                                 (isFile ? pathOf(value) : value).toUtf8().constData());
-        }
-        const QJsonObject project = table.value(u"project"_s).toObject();
-        QStringList extent;
-        for (const char *side : {"west", "south", "east", "north"})
-            extent += QString::number(project.value(QLatin1String(side)).toDouble());
-        if (!project.isEmpty())
-            options.SetNameValue("EXTENT", extent.join(u',').toUtf8().constData());
-        const QByteArray path = prefix + pathOf(table.value(u"file"_s).toString()).toUtf8();
-        return GDALDatasetUniquePtr(
-            GDALDataset::Open(path.constData(), GDAL_OF_VECTOR, nullptr, options.List()));
-    }
-
     /// The values of a transmitter that has any, by the keys of the expectations.
     using Values = QMap<QString, QString>;
 
@@ -137,19 +84,6 @@ private:
         double y = NAN;
         QList<Values> transmitters;
     };
-
-    static QString numberText(double number)
-    {
-        return QString::number(std::round(number * 1000) / 1000, 'g', 12);
-    }
-
-    static QString fieldText(const OGRFeature &feature, const QString &name)
-    {
-        const int field = feature.GetFieldIndex(name.toUtf8().constData());
-        if (field < 0 || !feature.IsFieldSetAndNotNull(field))
-            return {};
-        return plainText(QString::fromUtf8(feature.GetFieldAsString(field)));
-    }
 
     /// The text in the first of the fields with a value.
     static QString firstText(const OGRFeature &feature, const QString &prefix,
@@ -186,14 +120,6 @@ private:
                 transmitters += values;
         }
         return transmitters;
-    }
-
-    static QString plainText(const QJsonValue &value)
-    {
-        const QString text = value.toString();
-        bool isNumber = value.isDouble();
-        const double number = isNumber ? value.toDouble() : text.toDouble(&isNumber);
-        return isNumber ? numberText(number) : text;
     }
 
     /// Whether a transmitter has all values that are expected.
@@ -262,15 +188,6 @@ private:
         return nearest;
     }
 
-    static QString differenceOfHeader(const QJsonObject &table, OGRLayer &layer)
-    {
-        QStringList expected;
-        for (const QJsonValue &row : table.value(u"headerRows"_s).toArray())
-            expected += QString::number(row.toInt());
-        const QString found = QString::fromUtf8(layer.GetMetadataItem("header_rows"));
-        return found == expected.join(u',') ? QString() : u"the header is in rows "_s + found;
-    }
-
     static QString differenceOfSites(const QJsonObject &table)
     {
         const Warnings warnings;
@@ -292,7 +209,6 @@ private:
         return {};
     }
 
-    QJsonArray m_tables;
     QSet<QString> m_notYet;
 };
 

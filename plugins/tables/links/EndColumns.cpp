@@ -1,7 +1,6 @@
 #include "plugins/tables/links/EndColumns.h"
 
 #include "plugins/tables/roles/ColumnFacts.h"
-#include "plugins/tables/roles/NameMatch.h"
 
 #include <algorithm>
 
@@ -9,33 +8,18 @@ namespace vlt::driver {
 
 namespace {
 
-using Words = std::vector<std::string>;
+constexpr int MinStrength = 45; ///< of a name; a sentence has less
 
-Fit fitOfKnownIdentifier(const EndWords &name)
+/// The words of each column name. Names in the header are read instead of those of the fields,
+/// because the number that makes the name of a field unique does not name an end.
+std::vector<std::vector<std::string>> wordsOfColumns(const TableProfile &table,
+                                                     const Vocabulary &vocabulary)
 {
-    static const std::vector<Words> Accepted = {{"site"},         {"name"},     {"id"},
-                                                {"nom"},          {"station"},  {"node"},
-                                                {"call", "sign"}, {"callsign"}, {"end"}};
-    // "End" or "Start" alone may also be a date
-    if (name.words.empty())
-        return name.isNumbered || (name.endWord == "start" || name.endWord == "end") ? 0 : 1;
-    const bool antenna = name.words == Words{"antenna"} && name.endIndex == 1 && !name.isNumbered;
-    const bool accepted = std::find(Accepted.begin(), Accepted.end(), name.words) != Accepted.end();
-    return accepted || antenna ? 1 : 0;
-}
-
-/// Reads the names in the header instead of those of the fields, because the number that makes the
-/// name of a field unique does not name an end.
-Names readNames(const TableProfile &table, EndStyle style)
-{
-    Names names;
-    names.reserve(table.fields.size());
-    for (const Field &field : table.fields) {
-        const auto inHeader = table.header.names.find(field.column);
-        const bool isNamed = inHeader != table.header.names.end();
-        names.push_back(readEndWords(isNamed ? inHeader->second : std::string(), style));
-    }
-    return names;
+    std::vector<std::vector<std::string>> words;
+    words.reserve(table.fields.size());
+    for (std::size_t i = 0; i < table.fields.size(); ++i)
+        words.push_back(linkWords(table.nameWithUnit(static_cast<int>(i)), vocabulary));
+    return words;
 }
 
 PointFields findEnd(const Names &names, LinkEndId end, const std::vector<Field> &fields,
@@ -55,20 +39,20 @@ bool areNumbered(const Names &names, int a, int b)
            names[static_cast<std::size_t>(b)].isNumbered;
 }
 
-FoundEnds findPositions(const TableProfile &table, EndStyle style, const Vocabulary &vocabulary)
-{
-    FoundEnds ends;
-    ends.names = readNames(table, style);
-    ends.points = {findEnd(ends.names, LinkEndId::A, table.fields, vocabulary),
-                   findEnd(ends.names, LinkEndId::B, table.fields, vocabulary)};
-    ends.areNumbered = areNumbered(ends.names, ends.points[0].xField(), ends.points[1].xField());
-    return ends;
-}
-
 /// Finds the ends in the style of the table.
-template<typename FindInStyle>
-FoundEnds findEnds(FindInStyle findInStyle)
+///
+/// @param complete  finds the columns of both ends by the names
+template<typename Complete>
+FoundEnds findEnds(const TableProfile &table, const Vocabulary &vocabulary, Complete complete)
 {
+    const auto words = wordsOfColumns(table, vocabulary);
+    const auto findInStyle = [&](EndStyle style) {
+        FoundEnds ends;
+        for (const auto &ofColumn : words)
+            ends.names.push_back(readColumnName(ofColumn, style, vocabulary));
+        complete(ends);
+        return ends;
+    };
     FoundEnds ends = findInStyle(EndStyle::Names);
     if (!ends.found()) {
         if (FoundEnds zero = findInStyle(EndStyle::Zero); zero.found())
@@ -101,7 +85,7 @@ int findNamedEnd(const Names &names, LinkEndId end, const SampledColumns &cells,
         }
         const double share =
             filled > 0 ? static_cast<double>(found) / static_cast<double>(filled) : 0;
-        const bool isNamed = fitOfIdentifier(names[i], vocabulary) > 0;
+        const bool isNamed = strengthOfIdentifier(names[i], vocabulary) > 0;
         const double points = share + (isNamed ? 1 : 0);
         if (found > 0 && (isNamed || share >= MinShare) && points > mostPoints) {
             best = static_cast<int>(i);
@@ -113,63 +97,68 @@ int findNamedEnd(const Names &names, LinkEndId end, const SampledColumns &cells,
 
 } // namespace
 
-int bestFit(const Names &names, LinkEndId end, const FitOf &fitOf)
+std::vector<NameMatch> matchEndColumn(const LinkColumnName &name, const Vocabulary &vocabulary)
 {
-    int best = -1;
-    Fit bestFit = 0;
-    for (std::size_t i = 0; i < names.size(); ++i) {
-        if (const Fit fit = names[i].end == end ? fitOf(names[i]) : 0; fit > bestFit) {
-            best = static_cast<int>(i);
-            bestFit = fit;
-        }
-    }
-    return best;
+    constexpr int StrengthOfEndAlone = 90; ///< "From", "TX"
+    constexpr int StrengthOfAntenna = 50;  ///< "Antenna TX"
+    const auto siteName = [](int strength) {
+        NameMatch match;
+        match.role = Role::SiteName;
+        match.strength = strength;
+        return std::vector{match};
+    };
+    if (name.words.empty())
+        return name.isNumbered ? std::vector<NameMatch>() : siteName(StrengthOfEndAlone);
+    std::vector<NameMatch> matches = matchName(name.words, vocabulary);
+    const auto ofRows =
+        matches.empty() ? matchKindOfRows(name.words, vocabulary) : std::optional<NameMatch>();
+    if (ofRows && ofRows->role == Role::SiteName)
+        return {*ofRows};
+    const bool endsWithName = name.endIndex == 1 && name.words.size() == 1 && !name.isNumbered;
+    return ofRows && endsWithName ? siteName(StrengthOfAntenna) : matches;
 }
 
-Fit fitOfIdentifier(const EndWords &name, const Vocabulary &vocabulary)
+int strengthOfIdentifier(const LinkColumnName &name, const Vocabulary &vocabulary)
 {
-    constexpr Fit FitOfKnown = 2;
-    constexpr int MinStrength = 45; ///< a sentence has less
-    if (fitOfKnownIdentifier(name) > 0)
-        return FitOfKnown;
-    std::string joined;
-    for (const std::string &word : name.words)
-        joined += word + ' ';
-    const std::vector<NameMatch> matches =
-        matchName(separatedWords(joined, vocabulary), vocabulary);
-    return std::any_of(matches.begin(), matches.end(), [](const NameMatch &match) {
-        return match.strength >= MinStrength &&
-               (match.role == Role::SiteId || match.role == Role::SiteName);
-    });
+    int strength = 0;
+    for (const NameMatch &match : matchEndColumn(name, vocabulary)) {
+        if ((match.role == Role::SiteId || match.role == Role::SiteName) &&
+            match.strength >= MinStrength)
+            strength = std::max(strength, match.strength);
+    }
+    return strength;
 }
 
 FoundEnds findPlacedEnds(const TableProfile &table, const Vocabulary &vocabulary)
 {
-    return findEnds([&](EndStyle style) { return findPositions(table, style, vocabulary); });
+    return findEnds(table, vocabulary, [&](FoundEnds &ends) {
+        ends.points = {findEnd(ends.names, LinkEndId::A, table.fields, vocabulary),
+                       findEnd(ends.names, LinkEndId::B, table.fields, vocabulary)};
+        ends.areNumbered =
+            areNumbered(ends.names, ends.points[0].xField(), ends.points[1].xField());
+    });
 }
 
 FoundEnds findNamedEnds(const TableProfile &table, const Vocabulary &vocabulary,
                         const SiteDirectory &sites)
 {
-    return findEnds([&](EndStyle style) {
-        FoundEnds found;
-        found.names = readNames(table, style);
+    return findEnds(table, vocabulary, [&](FoundEnds &ends) {
         const auto end = [&](LinkEndId id) {
-            return findNamedEnd(found.names, id, table.sampledColumns, vocabulary, sites);
+            return findNamedEnd(ends.names, id, table.sampledColumns, vocabulary, sites);
         };
-        found.identifiers = {end(LinkEndId::A), end(LinkEndId::B)};
-        found.areNumbered = areNumbered(found.names, found.identifiers[0], found.identifiers[1]);
-        return found;
+        ends.identifiers = {end(LinkEndId::A), end(LinkEndId::B)};
+        ends.areNumbered = areNumbered(ends.names, ends.identifiers[0], ends.identifiers[1]);
     });
 }
 
-bool namesBothEnds(const Header &header)
+bool namesBothEnds(const Header &header, const Vocabulary &vocabulary)
 {
     for (const EndStyle style : {EndStyle::Names, EndStyle::Zero}) {
         bool a = false;
         bool b = false;
         for (const auto &[column, name] : header.names) {
-            const LinkEndId end = readEndWords(name, style).end;
+            const LinkEndId end =
+                readColumnName(linkWords(name, vocabulary), style, vocabulary).end;
             a = a || end == LinkEndId::A;
             b = b || end == LinkEndId::B;
         }

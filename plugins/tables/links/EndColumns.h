@@ -1,28 +1,23 @@
 #pragma once
 
-#include "plugins/tables/links/EndWords.h"
+#include "plugins/tables/links/LinkColumnName.h"
+#include "plugins/tables/roles/NameMatch.h"
 #include "plugins/tables/sites/CoordinateColumns.h"
 #include "plugins/tables/sites/SiteDirectory.h"
 
 #include <array>
-#include <functional>
 #include <vector>
 
 namespace vlt::driver {
 
 /// All column names, split into words.
-using Names = std::vector<EndWords>;
+using Names = std::vector<LinkColumnName>;
 
-/// How well a column fits; 0 if it does not. The column with the highest value is used, the first
-/// one among equals.
-using Fit = int;
-using FitOf = std::function<Fit(const EndWords &name)>;
+/// The roles that a column of an end can have by its name.
+std::vector<NameMatch> matchEndColumn(const LinkColumnName &name, const Vocabulary &vocabulary);
 
-/// The field of an end that fits best; -1 if none fits.
-int bestFit(const Names &names, LinkEndId end, const FitOf &fitOf);
-
-/// How well a column fits as the id or name of an end.
-Fit fitOfIdentifier(const EndWords &name, const Vocabulary &vocabulary);
+/// How well a column fits by its name as the id or name of an end; 0 if it does not.
+int strengthOfIdentifier(const LinkColumnName &name, const Vocabulary &vocabulary);
 
 /// The columns of both ends, and the column names as read in the style of the table.
 struct FoundEnds
@@ -47,6 +42,6 @@ FoundEnds findNamedEnds(const TableProfile &table, const Vocabulary &vocabulary,
                         const SiteDirectory &sites);
 
 /// Whether a header has columns of both ends.
-bool namesBothEnds(const Header &header);
+bool namesBothEnds(const Header &header, const Vocabulary &vocabulary);
 
 } // namespace vlt::driver

@@ -25,22 +25,19 @@ struct LinkValueReader::RowContext
     const std::vector<const Cell *> &cells;
     std::vector<RowProblem> &problems;
 
-    /// Text of a field, empty if it means that there is no value.
-    std::string text(int field) const
-    {
-        std::string text = fieldText(cells, field);
-        return isMissingWord(text) ? std::string() : text;
-    }
     void warn(const std::string &column, std::string text) const
     {
         problems.push_back({row, column, false, std::move(text)});
     }
 };
 
-LinkValueReader::LinkValueReader(const TableProfile &table, const LinkLayout &layout)
+LinkValueReader::LinkValueReader(const TableProfile &table, const LinkLayout &layout,
+                                 const Vocabulary &vocabulary)
     : m_table(&table)
     , m_layout(&layout)
-{}
+{
+    m_words.isMissing = [&vocabulary](std::string_view text) { return vocabulary.isMissing(text); };
+}
 
 const std::string &LinkValueReader::nameOf(int field) const
 {
@@ -64,14 +61,14 @@ std::optional<double> LinkValueReader::heightM(const RowContext &context,
     return value.number;
 }
 
-std::optional<double> LinkValueReader::degrees(const RowContext &context, int field,
-                                               ReadAngle readAngle, TableTextId unreadable,
-                                               TableTextId outOfRange) const
+std::optional<double> LinkValueReader::degrees(const RowContext &context,
+                                               const QuantityField &angle, ReadAngle readAngle,
+                                               TableTextId unreadable, TableTextId outOfRange) const
 {
-    const std::string text = fieldText(context.cells, field);
-    const TransmitterValue value = readAngle(text, 1, m_words);
+    const std::string text = fieldText(context.cells, angle.field);
+    const TransmitterValue value = readAngle(text, angle.unit.value_or(1), m_words);
     if (value.fault)
-        context.warn(nameOf(field),
+        context.warn(nameOf(angle.field),
                      formatted(isOutOfRange(value) ? outOfRange : unreadable, {quotation(text)}));
     return value.number;
 }
@@ -93,11 +90,12 @@ std::optional<double> LinkValueReader::frequencyMHz(const RowContext &context,
     return value.number;
 }
 
-/// Sets the frequencies. An end without one gets that of the other end, else that of the band.
+/// Sets the frequencies. An end without one gets that of the other end, else that of the link or of
+/// its band.
 void LinkValueReader::readFrequencies(const RowContext &context, LinkValues &values) const
 {
     bool isUnreadable = false;
-    int column = m_layout->band.field;
+    int column = m_layout->frequency.found() ? m_layout->frequency.field : m_layout->band.field;
     for (std::size_t end = values.ends.size(); end-- > 0;) {
         if (m_layout->ends[end].frequency.found())
             column = m_layout->ends[end].frequency.field;
@@ -109,8 +107,10 @@ void LinkValueReader::readFrequencies(const RowContext &context, LinkValues &val
             frequencyMHz(context, m_layout->ends[end].frequency, isUnreadable);
     std::optional<double> &a = values.ends[0].frequencyMHz;
     std::optional<double> &b = values.ends[1].frequencyMHz;
-    if (!a && !b)
-        a = frequencyMHz(context, m_layout->band, isUnreadable);
+    for (const QuantityField *ofLink : {&m_layout->frequency, &m_layout->band}) {
+        if (!a && !b)
+            a = frequencyMHz(context, *ofLink, isUnreadable);
+    }
     if (!a)
         a = b;
     if (!b)
@@ -137,7 +137,8 @@ LinkValues LinkValueReader::read(int64_t row, const std::vector<const Cell *> &c
     }
     readFrequencies(context, values);
     // without a unit in the header or in the cell, the length cannot be compared
-    if (const std::string text = context.text(m_layout->length.field); !text.empty())
+    const std::string text = fieldText(cells, m_layout->length.field);
+    if (!text.empty() && !m_words.isMissing(text))
         values.lengthM = readLengthM(text, m_layout->length.unit.value_or(0));
     if (values.lengthM && *values.lengthM <= 0)
         values.lengthM.reset();
@@ -148,7 +149,7 @@ std::vector<RowProblem> LinkValueReader::tableProblems() const
 {
     std::vector<RowProblem> problems;
     const auto add = [&](std::string text) { problems.push_back({0, {}, false, std::move(text)}); };
-    bool frequency = m_layout->band.found();
+    bool frequency = m_layout->frequency.found() || m_layout->band.found();
     bool height = false;
     bool seaLevel = false;
     for (const LinkEndFields &fields : m_layout->ends) {

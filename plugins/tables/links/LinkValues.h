@@ -32,7 +32,8 @@ struct LinkValues
 class LinkValueReader
 {
 public:
-    LinkValueReader(const TableProfile &table, const LinkLayout &layout);
+    LinkValueReader(const TableProfile &table, const LinkLayout &layout,
+                    const Vocabulary &vocabulary);
 
     LinkValues read(int64_t row, const std::vector<const Cell *> &cells,
                     std::vector<RowProblem> &problems) const;
@@ -47,8 +48,8 @@ private:
                                        bool &isUnreadable) const;
     void readFrequencies(const RowContext &context, LinkValues &values) const;
     std::optional<double> heightM(const RowContext &context, const QuantityField &height) const;
-    std::optional<double> degrees(const RowContext &context, int field, ReadAngle readAngle,
-                                  contract::TableTextId unreadable,
+    std::optional<double> degrees(const RowContext &context, const QuantityField &angle,
+                                  ReadAngle readAngle, contract::TableTextId unreadable,
                                   contract::TableTextId outOfRange) const;
     const std::string &nameOf(int field) const;
 

@@ -1,6 +1,7 @@
 #include "plugins/tables/ogr/LinkRowReader.h"
 
 #include "contract/TableTexts.h"
+#include "plugins/tables/roles/Vocabulary.h"
 
 #include <cmath>
 
@@ -42,7 +43,7 @@ LinkRowReader::LinkRowReader(const TableSource &source)
     , m_systems(source.systems)
     , m_positions(m_facts->table, m_facts->links(),
                   scaleOf(m_systems->file(), m_facts->links().unit), m_facts->endSites.get())
-    , m_values(m_facts->table, m_facts->links())
+    , m_values(m_facts->table, m_facts->links(), installedVocabulary().words)
     , m_path(nullptr, m_systems->file())
 {}
 

@@ -279,10 +279,14 @@ std::optional<double> unitOfName(const std::vector<std::string> &words,
                                  std::optional<double> WordMeaning::*unit,
                                  const Vocabulary &vocabulary)
 {
-    for (const std::string &word : words) {
-        const WordMeaning *meaning = vocabulary.find(word);
-        if (meaning && meaning->*unit)
-            return meaning->*unit;
+    constexpr std::size_t MaxWords = 2; // "kHz" is split at its capital
+    for (std::size_t first = 0; first < words.size(); ++first) {
+        for (std::size_t count = std::min(MaxWords, words.size() - first); count > 0; --count) {
+            const std::string joined = count == 1 ? words[first] : words[first] + words[first + 1];
+            const WordMeaning *meaning = vocabulary.find(joined);
+            if (meaning && meaning->*unit)
+                return meaning->*unit;
+        }
     }
     return std::nullopt;
 }

@@ -205,6 +205,8 @@ void Vocabulary::add(std::string_view text)
         addTo(*texts, [](WordMeaning &meaning) { meaning.isEndA = true; });
     if (const Json *texts = memberOf(ends, "b"))
         addTo(*texts, [](WordMeaning &meaning) { meaning.isEndB = true; });
+    if (const Json *texts = memberOf(ends, "weak"))
+        addTo(*texts, [](WordMeaning &meaning) { meaning.isWeakEnd = true; });
     addTo(section("sector"), [](WordMeaning &meaning) { meaning.isSector = true; });
     addTo(section("site"), [](WordMeaning &meaning) { meaning.isSite = true; });
     const Json units = section("units");

@@ -27,6 +27,7 @@ struct WordMeaning
     std::optional<CoordinatePart> part;
     bool isEndA = false; ///< of a link
     bool isEndB = false;
+    bool isWeakEnd = false;          ///< names an end only if no other word does
     bool isSector = false;           ///< stands beside the number of a sector
     bool isSite = false;             ///< may stand beside any role of a site
     std::optional<double> metres;    ///< per unit of length of that name

@@ -39,7 +39,15 @@ bool namesEnd(const std::vector<std::string> &words, bool WordMeaning::*end,
     });
 }
 
-/// Whether the columns of a position name one end of a link, and others the other end.
+bool namesCoordinate(const std::vector<std::string> &words, const Vocabulary &vocabulary)
+{
+    const std::vector<NameMatch> matches = matchName(words, vocabulary);
+    return std::any_of(matches.begin(), matches.end(), [](const NameMatch &match) {
+        return match.role >= Role::Longitude && match.role <= Role::Y;
+    });
+}
+
+/// Whether the columns of a position name one end of a link, and other coordinates the other end.
 bool isLinkEnd(const PointFields &point, const FieldWords &words, const Vocabulary &vocabulary)
 {
     if (!point.x.found())
@@ -50,7 +58,8 @@ bool isLinkEnd(const PointFields &point, const FieldWords &words, const Vocabula
         return false;
     const auto other = isA ? &WordMeaning::isEndB : &WordMeaning::isEndA;
     return std::any_of(words.begin(), words.end(), [&](const auto &ofField) {
-        return ofField && namesEnd(*ofField, other, vocabulary);
+        return ofField && namesEnd(*ofField, other, vocabulary) &&
+               namesCoordinate(*ofField, vocabulary);
     });
 }
 

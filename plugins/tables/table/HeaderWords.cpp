@@ -1,7 +1,6 @@
 #include "plugins/tables/table/HeaderWords.h"
 
 #include <algorithm>
-#include <array>
 
 namespace vlt::driver {
 
@@ -15,27 +14,6 @@ bool isUpper(char c)
 bool isWordByte(char c)
 {
     return (c >= 'a' && c <= 'z') || isUpper(c) || (c >= '0' && c <= '9') || (c & 0x80) != 0;
-}
-
-/// Words that the name of an end can follow without a separator.
-constexpr std::array WordsWithEnd = {"x",         "y",      "lon",      "long",      "lng",
-                                     "longitude", "lat",    "latitude", "easting",   "northing",
-                                     "azimuth",   "height", "tilt",     "dx",        "dy",
-                                     "site",      "name",   "id",       "frequency", "freq"};
-constexpr std::array FusedEnds = {"start", "end", "from", "to", "tx", "rx",
-                                  "a",     "b",   "0",    "1",  "2"};
-
-/// The number of bytes before the name of an end at the end of a word; 0 without such a name.
-std::size_t sizeBeforeEnd(std::string_view word)
-{
-    for (const std::string_view end : FusedEnds) {
-        if (word.size() <= end.size() || !word.ends_with(end))
-            continue;
-        const std::string_view before = word.substr(0, word.size() - end.size());
-        if (std::find(WordsWithEnd.begin(), WordsWithEnd.end(), before) != WordsWithEnd.end())
-            return before.size();
-    }
-    return 0;
 }
 
 } // namespace
@@ -65,18 +43,6 @@ std::vector<std::string> wordsOf(std::string_view name)
     }
     if (!word.empty())
         words.push_back(lowerCase(word));
-    return words;
-}
-
-std::vector<std::string> linkWordsOf(std::string_view name)
-{
-    std::vector<std::string> words;
-    for (const std::string &word : wordsOf(name)) {
-        const std::size_t cut = sizeBeforeEnd(word);
-        if (cut > 0)
-            words.push_back(word.substr(0, cut));
-        words.push_back(word.substr(cut));
-    }
     return words;
 }
 

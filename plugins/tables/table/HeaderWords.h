@@ -13,10 +13,6 @@ namespace vlt::driver {
 /// site, x; "Longitude_WGS84" gives longitude, wgs84.
 std::vector<std::string> wordsOf(std::string_view name);
 
-/// The words of a column name in a table of links: like wordsOf(), but the name of an end is also
-/// separated from the word before it: "XStart" gives x, start; "lat1" gives lat, 1.
-std::vector<std::string> linkWordsOf(std::string_view name);
-
 /// The text with its ASCII letters in lower case.
 std::string lowerCase(std::string_view text);
 

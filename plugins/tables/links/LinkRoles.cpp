@@ -1,0 +1,351 @@
+#include "plugins/tables/links/LinkRoles.h"
+
+#include "contract/TableTexts.h"
+#include "plugins/tables/cells/Cell.h"
+#include "plugins/tables/roles/ColumnFacts.h"
+#include "plugins/tables/roles/RoleEvidence.h"
+#include "plugins/tables/values/TransmitterValues.h"
+
+#include <algorithm>
+#include <optional>
+#include <set>
+#include <utility>
+
+namespace vlt::driver {
+
+namespace {
+
+using Words = std::vector<std::string>;
+
+constexpr int MinStrength = 45;   ///< of a name; a sentence has less
+constexpr int ClearStrength = 90; ///< of a name whose column has its role whatever its values are
+constexpr double MinFit = 0.5;    ///< of the values of other columns
+
+bool isOfEnd(Role role)
+{
+    switch (role) {
+    case Role::SiteId:
+    case Role::SiteName:
+    case Role::GroundHeight:
+    case Role::AntennaHeight:
+    case Role::SeaLevelHeight:
+    case Role::Azimuth:
+    case Role::MechanicalTilt:
+    case Role::ElectricalTilt:
+    case Role::Tilt:
+    case Role::Band:
+    case Role::Frequency:
+    case Role::OffsetX:
+    case Role::OffsetY:
+    case Role::Diameter:
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool isOfLink(Role role)
+{
+    return role == Role::LinkName || role == Role::Length || role == Role::Frequency ||
+           role == Role::Band || role == Role::Diameter || role == Role::Repeater;
+}
+
+/// Roles of columns that may name both ends: "Distance A-B".
+bool mayNameEnds(Role role)
+{
+    return role == Role::Length || role == Role::Repeater;
+}
+
+bool isIdentifier(Role role)
+{
+    return role == Role::SiteId || role == Role::SiteName;
+}
+
+/// Whether a text is a day: numbers with the same separator between them.
+bool isDate(std::string_view text)
+{
+    const std::size_t first = text.find_first_not_of("0123456789");
+    if (first == 0 || first == std::string_view::npos ||
+        std::string_view("-/.").find(text[first]) == std::string_view::npos)
+        return false;
+    const std::size_t second = text.find_first_not_of("0123456789", first + 1);
+    return second != std::string_view::npos && second > first + 1 && text[second] == text[first];
+}
+
+/// A role that a field may have.
+struct Candidate
+{
+    int field = 0;
+    Role role = Role::None;
+    LinkEndId end = LinkEndId::None;
+    double score = 0;
+};
+
+class Finder
+{
+public:
+    Finder(const TableProfile &table, const FoundEnds &ends, const Vocabulary &vocabulary)
+        : m_table(table)
+        , m_ends(ends)
+        , m_vocabulary(vocabulary)
+        , m_facts(table.fields.size())
+    {}
+
+    LinkRoles find()
+    {
+        for (std::size_t i = 0; i < m_table.fields.size(); ++i) {
+            const int field = static_cast<int>(i);
+            if (!m_ends.points[0].uses(field) && !m_ends.points[1].uses(field))
+                addCandidates(field);
+        }
+        assign();
+        for (std::size_t end = 0; end < m_roles.ends.size(); ++end)
+            fillEnd(end);
+        fillLink();
+        addCoordinates();
+        return std::move(m_roles);
+    }
+
+private:
+    const LinkColumnName &nameOf(int field) const
+    {
+        return m_ends.names[static_cast<std::size_t>(field)];
+    }
+
+    const std::vector<std::string> &cellsOf(int field) const
+    {
+        return m_table.sampledColumns[static_cast<std::size_t>(field)];
+    }
+
+    const ColumnFacts &factsOfField(int field)
+    {
+        std::optional<ColumnFacts> &facts = m_facts[static_cast<std::size_t>(field)];
+        if (!facts)
+            facts = factsOf(cellsOf(field), m_vocabulary);
+        return *facts;
+    }
+
+    Words allWords(int field) const { return linkWords(m_table.nameWithUnit(field), m_vocabulary); }
+
+    void addCandidates(int field)
+    {
+        const LinkColumnName &name = nameOf(field);
+        if (name.end != LinkEndId::None) {
+            for (const NameMatch &match : matchEndColumn(name, m_vocabulary)) {
+                if (isOfEnd(match.role) && !(name.words.empty() && mayBeTime(field)))
+                    addCandidate(field, match, name.end);
+            }
+        }
+        addLinkCandidates(field, allWords(field), name.end != LinkEndId::None);
+        if (name.end != LinkEndId::None)
+            addLinkCandidates(field, withoutEnds(allWords(field), m_vocabulary), true);
+    }
+
+    void addLinkCandidates(int field, const Words &words, bool namesEnd)
+    {
+        for (const NameMatch &match : matchName(words, m_vocabulary)) {
+            if (isOfLink(match.role) && (!namesEnd || mayNameEnds(match.role)))
+                addCandidate(field, match, LinkEndId::None);
+        }
+    }
+
+    /// "Start" and "End" may also be times.
+    bool mayBeTime(int field)
+    {
+        const std::vector<std::string> &cells = cellsOf(field);
+        const auto dates = std::count_if(cells.begin(), cells.end(), [](const std::string &cell) {
+            return isDate(trimmed(cell));
+        });
+        const ColumnFacts &facts = factsOfField(field);
+        return static_cast<std::size_t>(dates) * 2 > facts.filled ||
+               (nameOf(field).isWeak && facts.numeric * 2 > facts.filled);
+    }
+
+    void addCandidate(int field, const NameMatch &match, LinkEndId end)
+    {
+        const double fit = fitOfValues(field, match.role);
+        if (match.strength < MinStrength || (match.strength < ClearStrength && fit < MinFit))
+            return;
+        double strength = match.strength;
+        if (match.role == Role::LinkName)
+            strength = std::min(strength, 100.0) + pointsOfLinkName(field);
+        m_candidates.push_back({field, match.role, end, strength * (1 + fit) / 2});
+    }
+
+    /// A name is preferred to an id, an "ID" alone may be any number.
+    double pointsOfLinkName(int field) const
+    {
+        const Words words = allWords(field);
+        const auto holds = [&](Role role) {
+            return std::any_of(words.begin(), words.end(), [&](const std::string &word) {
+                const WordMeaning *meaning = m_vocabulary.find(word);
+                return meaning && !meaning->isSite && meaning->roles[std::size_t(role)];
+            });
+        };
+        if (holds(Role::SiteName))
+            return 5;
+        return !holds(Role::SiteId) ? 0 : words.size() == 1 ? -25 : -5;
+    }
+
+    /// The share of the values that can be read in a role.
+    double fitOfValues(int field, Role role)
+    {
+        if (role != Role::Frequency)
+            return fitOf(role, factsOfField(field));
+        std::size_t filled = 0;
+        std::size_t readable = 0;
+        for (const std::string &cell : cellsOf(field)) {
+            const TransmitterValue value = readFrequency(cell, std::nullopt, {});
+            filled += value.isAbsent() ? 0 : 1;
+            readable += value.number ? 1 : 0;
+        }
+        return filled > 0 ? static_cast<double>(readable) / static_cast<double>(filled) : MinFit;
+    }
+
+    std::string evidenceOf(int field)
+    {
+        return m_table.header.rows.empty()
+                   ? contract::formatted("MESS_TAB_EVIDENCE_NO_HEADER")
+                   : roleEvidence(m_table.nameInHeader(field), factsOfField(field));
+    }
+
+    /// Gives each field one role, and each role of an end or of the link one field: the strongest
+    /// candidates first, then the columns on the left. A repeater may have several columns.
+    void assign()
+    {
+        constexpr double ScoreByValues = 1000;
+        for (Candidate &candidate : m_candidates) {
+            if (isIdentifier(candidate.role) && candidate.field == namedField(candidate.end))
+                candidate.score += ScoreByValues;
+        }
+        std::stable_sort(m_candidates.begin(), m_candidates.end(),
+                         [](const Candidate &a, const Candidate &b) { return a.score > b.score; });
+        std::set<std::pair<Role, LinkEndId>> taken;
+        std::set<int> used;
+        for (const Candidate &candidate : m_candidates) {
+            if (used.contains(candidate.field) ||
+                (!taken.emplace(candidate.role, candidate.end).second &&
+                 candidate.role != Role::Repeater))
+                continue;
+            used.insert(candidate.field);
+            m_roles.columns.push_back({candidate.field, candidate.role, candidate.end, {}});
+        }
+        for (const LinkEndId end : {LinkEndId::A, LinkEndId::B}) {
+            if (const int field = namedField(end); field >= 0 && !used.contains(field))
+                m_roles.columns.push_back({field, Role::SiteId, end, {}});
+        }
+        std::sort(m_roles.columns.begin(), m_roles.columns.end(),
+                  [](const auto &a, const auto &b) { return a.field < b.field; });
+        for (LinkColumnRole &column : m_roles.columns)
+            column.evidence = evidenceOf(column.field);
+    }
+
+    /// The field with the id or name of an end, if its values showed that.
+    int namedField(LinkEndId end) const
+    {
+        return end == LinkEndId::None ? -1 : m_ends.identifiers[end == LinkEndId::A ? 0 : 1];
+    }
+
+    /// The first field with one of the roles, which are given in the order of preference.
+    int fieldOf(LinkEndId end, std::initializer_list<Role> roles) const
+    {
+        for (const Role role : roles) {
+            for (const LinkColumnRole &column : m_roles.columns) {
+                if (column.role == role && column.end == end)
+                    return column.field;
+            }
+        }
+        return -1;
+    }
+
+    QuantityField quantity(int field, std::optional<double> WordMeaning::*unit) const
+    {
+        return {field, field < 0 ? std::nullopt : unitOfName(allWords(field), unit, m_vocabulary)};
+    }
+
+    void fillEnd(std::size_t at)
+    {
+        const LinkEndId end = at == 0 ? LinkEndId::A : LinkEndId::B;
+        const auto field = [&](std::initializer_list<Role> roles) { return fieldOf(end, roles); };
+        LinkEndFields &fields = m_roles.ends[at];
+        fields.point = m_ends.points[at];
+        fields.identifier = namedField(end);
+        for (const LinkColumnRole &column : m_roles.columns) {
+            if (fields.identifier < 0 && column.end == end && isIdentifier(column.role))
+                fields.identifier = column.field;
+        }
+        fields.height = quantity(field({Role::AntennaHeight}), &WordMeaning::metres);
+        if (!fields.height.found())
+            fields.seaLevelHeight = seaLevelField(end);
+        fields.frequency = quantity(field({Role::Frequency, Role::Band}), &WordMeaning::megahertz);
+        fields.azimuth = quantity(field({Role::Azimuth}), &WordMeaning::degrees);
+        fields.tilt = quantity(field({Role::Tilt, Role::MechanicalTilt, Role::ElectricalTilt}),
+                               &WordMeaning::degrees);
+        fields.dx = quantity(field({Role::OffsetX}), &WordMeaning::metres);
+        fields.dy = quantity(field({Role::OffsetY}), &WordMeaning::metres);
+    }
+
+    /// A column whose name says that its heights are above sea level, be it of the ground.
+    int seaLevelField(LinkEndId end) const
+    {
+        const auto found =
+            std::find_if(m_candidates.begin(), m_candidates.end(), [end](const Candidate &of) {
+                return of.role == Role::SeaLevelHeight && of.end == end;
+            });
+        return found == m_candidates.end() ? -1 : found->field;
+    }
+
+    void fillLink()
+    {
+        const auto field = [&](Role role) { return fieldOf(LinkEndId::None, {role}); };
+        m_roles.name = field(Role::LinkName);
+        m_roles.frequency = quantity(field(Role::Frequency), &WordMeaning::megahertz);
+        m_roles.band = quantity(field(Role::Band), &WordMeaning::megahertz);
+        m_roles.length = quantity(field(Role::Length), &WordMeaning::metres);
+    }
+
+    /// Adds the columns of the positions to the list of roles.
+    void addCoordinates()
+    {
+        std::vector<LinkColumnRole> columns;
+        for (std::size_t at = 0; at < m_ends.points.size(); ++at) {
+            const PointFields &point = m_ends.points[at];
+            const auto add = [&](int field, Role role) {
+                if (field >= 0)
+                    columns.push_back(
+                        {field, role, at == 0 ? LinkEndId::A : LinkEndId::B, evidenceOf(field)});
+            };
+            for (const auto &[fields, role] :
+                 {std::pair(point.x, Role::X), std::pair(point.y, Role::Y)}) {
+                for (const int field :
+                     {fields.value, fields.minutes, fields.seconds, fields.hemisphere})
+                    add(field, role);
+            }
+            add(point.pair, Role::Pair);
+        }
+        m_roles.columns.insert(m_roles.columns.begin(), columns.begin(), columns.end());
+    }
+
+    const TableProfile &m_table;
+    const FoundEnds &m_ends;
+    const Vocabulary &m_vocabulary;
+    std::vector<std::optional<ColumnFacts>> m_facts;
+    std::vector<Candidate> m_candidates;
+    LinkRoles m_roles;
+};
+
+} // namespace
+
+std::string LinkColumnRole::name() const
+{
+    const char *letter = end == LinkEndId::A ? "A" : end == LinkEndId::B ? "B" : "";
+    return std::string(roleName(role)) + letter;
+}
+
+LinkRoles findLinkRoles(const TableProfile &table, const FoundEnds &ends,
+                        const Vocabulary &vocabulary)
+{
+    return Finder(table, ends, vocabulary).find();
+}
+
+} // namespace vlt::driver
