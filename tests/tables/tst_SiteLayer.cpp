@@ -229,6 +229,16 @@ private Q_SLOTS:
         for (int i = 0; i < 5000; ++i)
             large += QByteArray::number(i) + ";2.5;48;name\n";
         row("sums below a large table", large + "Summe;;;5000\n", 5000);
+        QByteArray oneId = "Site ID;Longitude;Latitude;Azimuth\n";
+        QByteArray onePlace = "Site;Longitude;Latitude;Azimuth\n";
+        for (int i = 0; i < 50000; ++i) {
+            const QByteArray place =
+                QByteArray::number(i % 170 + 1) + ";" + QByteArray::number(i / 170 * 0.3);
+            oneId += "A;" + place + ";0\nA;" + place + ";120\n";
+            onePlace += QByteArray::number(i) + " Street;2.5;48;0\n";
+        }
+        row("an id at 50,000 places", oneId, 50000);
+        row("50,000 names at a place", onePlace, 50000);
         row("a row with nothing but an unnamed column", "Site ID;X;Y;\n1;2;3;a\n2;3;4;b\n;;;c\n",
             2);
         const QByteArray ml =

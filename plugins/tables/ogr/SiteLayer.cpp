@@ -40,7 +40,7 @@ struct OfferedInput
 {
     const std::vector<const Cell *> &cells;
     const SiteRoles *roles;
-    const IndexedSite *indexed; ///< null if the site is a row
+    std::optional<std::string_view> indexedId; ///< of a site in several rows
     const Position *position;
     const TransmitterValues *transmitter; ///< null for none
 };
@@ -48,8 +48,8 @@ struct OfferedInput
 std::string offeredText(OfferedValue value, const OfferedInput &input)
 {
     if (value == OfferedValue::SiteId) {
-        if (input.indexed)
-            return input.indexed->id;
+        if (input.indexedId)
+            return std::string(*input.indexedId);
         const std::string id = fieldText(input.cells, input.roles->siteId);
         return id.empty() ? fieldText(input.cells, input.roles->siteName) : id;
     }
@@ -128,8 +128,8 @@ RowMeaning SiteLayer::readRow(int64_t row, const FieldCells &cells,
     if (const auto &index = facts().siteIndex) {
         index->addProblems(row, problems);
         const IndexedSite *begun = index->beginningIn(row);
-        if (begun && begun->position.found && !site.inFile.found)
-            site.inFile = begun->position;
+        if (begun && begun->position().found && !site.inFile.found)
+            site.inFile = begun->position();
     }
     site.placed = site.inFile;
     systems().transform(row, site.placed, problems);
@@ -174,13 +174,16 @@ void SiteLayer::setOffered(OGRFeature &feature, const TableRow &row) const
 {
     const SiteLayout &layout = facts().sites();
     const SiteRow &site = row.site();
-    const IndexedSite *indexed =
-        facts().siteIndex ? facts().siteIndex->beginningIn(row.number) : nullptr;
+    std::optional<std::string_view> id;
+    std::vector<TransmitterValues> ofSite;
+    if (const auto &index = facts().siteIndex) {
+        const IndexedSite &indexed = *index->beginningIn(row.number);
+        id = index->idOf(indexed);
+        ofSite = index->transmittersOf(indexed);
+    }
     const auto transmitter = [&](std::size_t at) -> const TransmitterValues * {
-        if (indexed) {
-            const auto all = facts().siteIndex->transmittersOf(*indexed);
-            return at < all.size() ? &all[at] : nullptr;
-        }
+        if (id)
+            return at < ofSite.size() ? &ofSite[at] : nullptr;
         return at < site.transmitters.size() && site.transmitters[at] ? &*site.transmitters[at]
                                                                       : nullptr;
     };
@@ -188,7 +191,7 @@ void SiteLayer::setOffered(OGRFeature &feature, const TableRow &row) const
         if (isIgnored(i))
             continue;
         const OfferedField &field = layout.offered[i];
-        const OfferedInput input{row.cells.cells(), &layout.roles, indexed, &site.inFile,
+        const OfferedInput input{row.cells.cells(), &layout.roles, id, &site.inFile,
                                  transmitter(field.transmitter)};
         if (field.isText()) {
             if (const std::string text = offeredText(field.value, input); !text.empty())

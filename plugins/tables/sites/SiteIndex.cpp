@@ -6,22 +6,22 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
-#include <numeric>
+#include <functional>
 
 namespace vlt::driver {
 
 namespace {
 
-constexpr std::size_t None = std::numeric_limits<std::size_t>::max();
+constexpr uint32_t None = HashIndex::None;
+/// Places of one id that are compared with a row; more do not belong to an id.
+constexpr int MaxPlacesOfId = 50;
 /// Positions are the same if they agree to about a metre.
 constexpr double StepDeg = 1e-5;
 constexpr double StepM = 1;
 
-/// The number of steps in a coordinate, as a text.
-std::string steps(double coordinate, double step)
+int64_t steps(double coordinate, double step)
 {
-    return std::to_string(std::llround(std::clamp(coordinate / step, -9e15, 9e15)));
+    return std::llround(std::clamp(coordinate / step, -9e15, 9e15));
 }
 
 } // namespace
@@ -32,29 +32,94 @@ SiteIndex::SiteIndex(const TableProfile &table, const SiteRoles &roles, Coordina
     , m_unit(unit)
 {}
 
-std::string SiteIndex::keyOf(const std::string &id, const std::string &name,
-                             const Position &position) const
+/// The place of a position, as numbers of steps.
+std::pair<int64_t, int64_t> SiteIndex::placeOf(double x, double y) const
 {
-    if (!id.empty())
-        return "id " + id;
-    if (!position.found)
-        return "name " + name;
     const double step = m_unit == CoordinateUnit::Meters ? StepM : StepDeg;
-    return "at " + steps(position.x, step) + ' ' + steps(position.y, step);
+    return {steps(x, step), steps(y, step)};
 }
 
-/// Whether a row with the same key belongs to a site.
-bool SiteIndex::isSame(const IndexedSite &site, const std::string &name,
-                       const Position &position) const
+std::size_t SiteIndex::hashOf(const Key &key) const
 {
-    if (m_roles->siteId >= 0 || !position.found)
-        return !position.found || !site.position.found ||
-               distanceM(site.position, position, m_unit) <= MaxSiteExtentM;
-    return name.empty() || site.id == name || withoutSector(site.id) == withoutSector(name);
+    std::size_t hash = std::hash<std::string_view>()(key.text);
+    if (key.kind == KeyKind::Place || key.kind == KeyKind::NamedPlace) {
+        const auto place = placeOf(key.position.x, key.position.y);
+        const std::array parts = {static_cast<int64_t>(hash), place.first, place.second};
+        hash = std::hash<std::string_view>()(
+            {reinterpret_cast<const char *>(parts.data()), sizeof parts});
+    }
+    return hash;
 }
 
-std::size_t SiteIndex::siteOf(int64_t row, const std::vector<const Cell *> &cells,
-                              const Position &position)
+bool SiteIndex::hasKey(const IndexedSite &site, const Key &key) const
+{
+    const std::string_view id = idOf(site);
+    const bool isThere = placeOf(site.x, site.y) == placeOf(key.position.x, key.position.y);
+    switch (key.kind) {
+    case KeyKind::Place:
+        return isThere;
+    case KeyKind::NamedPlace:
+        return isThere && (site.isWhole ? id : withoutSector(id)) == key.text;
+    default:
+        return id == key.text;
+    }
+}
+
+uint32_t SiteIndex::find(const Key &key) const
+{
+    return m_ofKeys[static_cast<std::size_t>(key.kind)].find(
+        hashOf(key), [&](uint32_t at) { return hasKey(m_sites[at], key); });
+}
+
+/// The site with an id near a position, where `first` is the first one with the id.
+uint32_t SiteIndex::findNear(uint32_t first, const Key &key) const
+{
+    int places = 0;
+    for (uint32_t at = first; at != None; at = m_next[at]) {
+        const Position position = m_sites[at].position();
+        if (!position.found || !key.position.found ||
+            distanceM(position, key.position, m_unit) <= MaxSiteExtentM)
+            return at;
+        if (++places == MaxPlacesOfId)
+            return find({KeyKind::NamedPlace, key.text, key.position});
+    }
+    return None;
+}
+
+/// Adds a site.
+///
+/// @param first  the first one with its id
+uint32_t SiteIndex::addSite(const IndexedSite &site, uint32_t first, const Key &key)
+{
+    const auto added = static_cast<uint32_t>(m_sites.size());
+    m_sites.push_back(site);
+    m_next.push_back(None);
+    Key of = key;
+    if (first != None) {
+        m_conflicts.push_back(
+            {site.firstRow, first, distanceM(m_sites[first].position(), key.position, m_unit)});
+        int places = 1;
+        uint32_t last = first;
+        for (; m_next[last] != None; last = m_next[last])
+            ++places;
+        if (places < MaxPlacesOfId) {
+            m_next[last] = added;
+            return added;
+        }
+        of.kind = KeyKind::NamedPlace;
+    }
+    m_ofKeys[static_cast<std::size_t>(of.kind)].add(hashOf(of), added);
+    return added;
+}
+
+uint32_t SiteIndex::keep(std::string_view id)
+{
+    m_ids.add(id);
+    return static_cast<uint32_t>(m_ids.size() - 1);
+}
+
+uint32_t SiteIndex::siteOf(int64_t row, const std::vector<const Cell *> &cells,
+                           const Position &position)
 {
     const std::string id = fieldText(cells, m_roles->siteId);
     const std::string name = fieldText(cells, m_roles->siteName);
@@ -62,72 +127,82 @@ std::size_t SiteIndex::siteOf(int64_t row, const std::vector<const Cell *> &cell
     const bool isNamed = m_roles->siteId >= 0 || m_roles->siteName >= 0;
     if (isNameless && !m_sites.empty() &&
         (!position.found ||
-         (isNamed && distanceM(m_sites.back().position, position, m_unit) <= MaxSiteExtentM)))
-        return m_sites.size() - 1;
-    const auto [first, isNew] = m_firstOfKey.emplace(keyOf(id, name, position), m_sites.size());
-    std::size_t last = None;
-    for (std::size_t at = isNew ? None : first->second; at != None; at = m_next[at]) {
-        IndexedSite &site = m_sites[at];
-        if (isSame(site, name, position)) {
-            if (!site.position.found)
-                site.position = position;
-            if (id.empty() && site.id != name && !name.empty())
-                site.id = withoutSector(name);
-            return at;
-        }
-        last = at;
+         (isNamed && distanceM(m_sites.back().position(), position, m_unit) <= MaxSiteExtentM)))
+        return static_cast<uint32_t>(m_sites.size() - 1);
+    const Key key = !id.empty()       ? Key{KeyKind::Id, id, position}
+                    : !position.found ? Key{KeyKind::Name, name, position}
+                    : name.empty()    ? Key{KeyKind::Place, {}, position}
+                                      : Key{KeyKind::NamedPlace, withoutSector(name), position};
+    const uint32_t first = find(key);
+    const uint32_t found = key.kind == KeyKind::Id ? findNear(first, key) : first;
+    if (found == None) {
+        const bool isWhole = key.kind != KeyKind::NamedPlace;
+        return addSite({row, position.found ? position.x : NAN, position.found ? position.y : NAN,
+                        keep(id.empty() ? name : id), isWhole, 0, 0},
+                       first, key);
     }
-    if (last != None) {
-        if (!id.empty())
-            m_conflicts.push_back(
-                {row, first->second, distanceM(m_sites[first->second].position, position, m_unit)});
-        m_next[last] = m_sites.size();
+    IndexedSite &site = m_sites[found];
+    if (!site.position().found && position.found) {
+        site.x = position.x;
+        site.y = position.y;
     }
-    m_sites.push_back({row, id.empty() ? name : id, position, 0, 0});
-    m_next.push_back(None);
-    return m_sites.size() - 1;
+    if (!site.isWhole && name != idOf(site)) {
+        site.id = keep(key.text);
+        site.isWhole = true;
+    }
+    return found;
 }
 
 std::size_t SiteIndex::add(int64_t row, const std::vector<const Cell *> &cells,
                            const Position &position,
-                           std::vector<std::optional<TransmitterValues>> transmitters)
+                           const std::vector<std::optional<TransmitterValues>> &transmitters)
 {
     const std::size_t site = siteOf(row, cells, position);
-    addTransmitters(site, std::move(transmitters));
+    addTransmitters(site, transmitters);
     return site;
 }
 
 void SiteIndex::addTransmitters(std::size_t site,
-                                std::vector<std::optional<TransmitterValues>> transmitters)
+                                const std::vector<std::optional<TransmitterValues>> &transmitters)
 {
-    for (std::optional<TransmitterValues> &transmitter : transmitters) {
+    for (const std::optional<TransmitterValues> &transmitter : transmitters) {
         if (!transmitter)
             continue;
-        m_transmitters.push_back(std::move(*transmitter));
-        m_siteOfTransmitter.push_back(site);
+        m_transmitters.add(*transmitter);
+        m_siteOfTransmitter.push_back(static_cast<uint32_t>(site));
+        ++m_sites[site].transmitterCount;
     }
 }
 
 void SiteIndex::finish()
 {
-    std::vector<std::size_t> order(m_transmitters.size());
-    std::iota(order.begin(), order.end(), std::size_t{0});
-    std::stable_sort(order.begin(), order.end(), [this](std::size_t a, std::size_t b) {
-        return m_siteOfTransmitter[a] < m_siteOfTransmitter[b];
-    });
-    std::vector<TransmitterValues> sorted;
-    sorted.reserve(order.size());
-    for (const std::size_t from : order) {
-        IndexedSite &site = m_sites[m_siteOfTransmitter[from]];
-        if (site.transmitterCount == 0)
-            site.firstTransmitter = sorted.size();
-        ++site.transmitterCount;
-        sorted.push_back(std::move(m_transmitters[from]));
+    uint32_t before = 0;
+    for (IndexedSite &site : m_sites) {
+        site.firstTransmitter = before;
+        before += site.transmitterCount;
     }
-    m_transmitters = std::move(sorted);
+    if (!std::is_sorted(m_siteOfTransmitter.begin(), m_siteOfTransmitter.end())) {
+        std::vector<uint32_t> at(m_sites.size());
+        m_order.resize(m_siteOfTransmitter.size());
+        for (uint32_t i = 0; i < m_siteOfTransmitter.size(); ++i) {
+            const uint32_t site = m_siteOfTransmitter[i];
+            m_order[m_sites[site].firstTransmitter + at[site]++] = i;
+        }
+    }
     m_siteOfTransmitter = {};
-    m_firstOfKey = {};
+    m_ofKeys = {};
     m_next = {};
+    m_transmitters.finish();
+}
+
+std::vector<TransmitterValues> SiteIndex::transmittersOf(const IndexedSite &site) const
+{
+    std::vector<TransmitterValues> transmitters;
+    for (uint32_t i = 0; i < site.transmitterCount; ++i) {
+        const uint32_t at = site.firstTransmitter + i;
+        transmitters.push_back(m_transmitters[m_order.empty() ? at : m_order[at]]);
+    }
+    return transmitters;
 }
 
 const IndexedSite *SiteIndex::beginningIn(int64_t row) const
@@ -145,8 +220,9 @@ std::pair<std::size_t, std::size_t> SiteIndex::transmitterRange() const
         m_sites.begin(), m_sites.end(), [](const IndexedSite &a, const IndexedSite &b) {
             return a.transmitterCount < b.transmitterCount;
         });
-    return fewest == m_sites.end() ? std::pair<std::size_t, std::size_t>()
-                                   : std::pair(fewest->transmitterCount, most->transmitterCount);
+    if (fewest == m_sites.end())
+        return {};
+    return {fewest->transmitterCount, most->transmitterCount};
 }
 
 void SiteIndex::addProblems(int64_t row, std::vector<RowProblem> &problems) const
@@ -160,7 +236,7 @@ void SiteIndex::addProblems(int64_t row, std::vector<RowProblem> &problems) cons
     problems.push_back(
         {row, m_table->fields[static_cast<std::size_t>(m_roles->siteId)].name, false,
          contract::formatted("MESS_TAB_SITE_ELSEWHERE",
-                             {quotation(other.id), numberText(std::round(found->distanceM)),
+                             {quotation(idOf(other)), numberText(std::round(found->distanceM)),
                               std::to_string(other.firstRow)})});
 }
 

@@ -1,12 +1,16 @@
 #pragma once
 
+#include "plugins/tables/cells/HashIndex.h"
+#include "plugins/tables/cells/StringPool.h"
 #include "plugins/tables/sites/PositionReader.h"
-#include "plugins/tables/sites/TransmitterReader.h"
+#include "plugins/tables/sites/TransmitterStore.h"
 
+#include <array>
 #include <cstdint>
-#include <span>
+#include <deque>
+#include <limits>
 #include <string>
-#include <unordered_map>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -16,10 +20,15 @@ namespace vlt::driver {
 struct IndexedSite
 {
     int64_t firstRow = 0;
-    std::string id;    ///< empty if the table names no sites
-    Position position; ///< in the file's system, of the first row that has one
-    std::size_t firstTransmitter = 0;
-    std::size_t transmitterCount = 0;
+    double x = std::numeric_limits<double>::quiet_NaN(); ///< in the file's system; NaN for none
+    double y = std::numeric_limits<double>::quiet_NaN();
+    uint32_t id = 0;      ///< see SiteIndex::idOf()
+    bool isWhole = false; ///< the id has no sector at its end
+    uint32_t firstTransmitter = 0;
+    uint32_t transmitterCount = 0;
+
+    /// That of the first row that has one.
+    Position position() const { return {x == x, x, y}; }
 };
 
 /// The sites of a table whose transmitters stand in several rows, or in another table. Rows belong
@@ -32,20 +41,19 @@ public:
 
     /// Adds a row and returns the index of its site. Rows are added in the order of the file.
     std::size_t add(int64_t row, const std::vector<const Cell *> &cells, const Position &position,
-                    std::vector<std::optional<TransmitterValues>> transmitters);
+                    const std::vector<std::optional<TransmitterValues>> &transmitters);
     /// Adds transmitters to a site.
     void addTransmitters(std::size_t site,
-                         std::vector<std::optional<TransmitterValues>> transmitters);
+                         const std::vector<std::optional<TransmitterValues>> &transmitters);
     /// To be called after the last row.
     void finish();
 
-    const std::vector<IndexedSite> &sites() const { return m_sites; }
+    const std::deque<IndexedSite> &sites() const { return m_sites; }
+    /// Id or name of a site; empty if the table names no sites.
+    std::string_view idOf(const IndexedSite &site) const { return m_ids[site.id]; }
     /// The site that begins in a row; null if none does.
     const IndexedSite *beginningIn(int64_t row) const;
-    std::span<const TransmitterValues> transmittersOf(const IndexedSite &site) const
-    {
-        return std::span(m_transmitters).subspan(site.firstTransmitter, site.transmitterCount);
-    }
+    std::vector<TransmitterValues> transmittersOf(const IndexedSite &site) const;
     /// The smallest and the largest number of transmitters of a site.
     std::pair<std::size_t, std::size_t> transmitterRange() const;
     /// Adds the contradictions between a row and the site that has its id.
@@ -60,20 +68,35 @@ private:
         double distanceM = 0;
     };
 
-    std::size_t siteOf(int64_t row, const std::vector<const Cell *> &cells,
-                       const Position &position);
-    std::string keyOf(const std::string &id, const std::string &name,
-                      const Position &position) const;
-    bool isSame(const IndexedSite &site, const std::string &name, const Position &position) const;
+    /// By what a row finds its site.
+    enum class KeyKind { Id, Name, Place, NamedPlace };
+    struct Key
+    {
+        KeyKind kind;
+        std::string_view text; ///< id or name without the sector; empty for Place
+        Position position;
+    };
+
+    uint32_t siteOf(int64_t row, const std::vector<const Cell *> &cells, const Position &position);
+    std::size_t hashOf(const Key &key) const;
+    bool hasKey(const IndexedSite &site, const Key &key) const;
+    uint32_t find(const Key &key) const;
+    uint32_t findNear(uint32_t first, const Key &key) const;
+    uint32_t addSite(const IndexedSite &site, uint32_t first, const Key &key);
+    std::pair<int64_t, int64_t> placeOf(double x, double y) const;
+    uint32_t keep(std::string_view id);
 
     const TableProfile *m_table;
     const SiteRoles *m_roles;
     CoordinateUnit m_unit;
-    std::vector<IndexedSite> m_sites;
-    std::vector<std::size_t> m_next; ///< by site: the next one with its key
-    std::unordered_map<std::string, std::size_t> m_firstOfKey;
-    std::vector<TransmitterValues> m_transmitters;
-    std::vector<std::size_t> m_siteOfTransmitter;
+    std::deque<IndexedSite> m_sites; ///< in the order of their first rows
+    StringPool m_ids;
+    std::vector<uint32_t> m_next;      ///< by site: the next one with its id
+    std::array<HashIndex, 4> m_ofKeys; ///< the first sites with the keys, by kind of key
+    TransmitterStore m_transmitters;
+    std::vector<uint32_t> m_siteOfTransmitter;
+    /// Indexes of the transmitters in the order of their sites; empty if they are stored so.
+    std::vector<uint32_t> m_order;
     std::vector<Conflict> m_conflicts; ///< by ascending row
 };
 
