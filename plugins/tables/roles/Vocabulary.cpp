@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cctype>
 #include <numbers>
 #include <numeric>
 #include <stdexcept>
@@ -226,12 +227,9 @@ void Vocabulary::add(std::string_view text)
         });
     }
     m_systems.insert(m_systems.begin(), systems.begin(), systems.end());
-    const auto addFolded = [&](const char *name, std::unordered_set<std::string> &to) {
-        forEachText(section(name), [&to](const std::string &t) { to.insert(folded(t)); });
-    };
-    addFolded("missing", m_missing);
-    addFolded("total", m_totals);
-    addFolded("omni", m_omni);
+    for (const auto &[name, to] : {std::pair("missing", &m_missing), std::pair("total", &m_totals),
+                                   std::pair("omni", &m_omni)})
+        forEachText(section(name), [to = to](const std::string &word) { to->insert(word); });
     try {
         for (const Json &layout : section("layouts"))
             m_knownTables.push_back(knownTableOf(layout));
@@ -287,10 +285,24 @@ int Vocabulary::signOfO(const std::vector<std::vector<std::string>> &names) cons
     return (likely & ~m_westO) == 0 ? -1 : (likely & ~m_eastO) == 0 ? 1 : 0;
 }
 
-bool Vocabulary::isIn(const std::unordered_set<std::string> &texts, std::string_view text)
+void ValueWordSet::insert(std::string_view word)
+{
+    const std::string key = folded(word);
+    if (!key.empty())
+        m_firstBytes.set(static_cast<unsigned char>(key[0]));
+    m_words.insert(key);
+}
+
+bool ValueWordSet::contains(std::string_view text) const
 {
     constexpr std::size_t MaxSize = 40; // longer texts are none of these
-    return text.size() <= MaxSize && texts.contains(folded(trimmed(text)));
+    text = trimmed(text);
+    if (text.empty() || text.size() > MaxSize)
+        return false;
+    // folding changes letters only, and keeps the letters of ASCII in it
+    const bool mayBe = (text[0] & 0x80) != 0 || std::isalpha(text[0]) != 0 ||
+                       m_firstBytes[static_cast<unsigned char>(text[0])];
+    return mayBe && m_words.contains(folded(text));
 }
 
 } // namespace vlt::driver

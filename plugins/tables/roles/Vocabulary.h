@@ -65,6 +65,18 @@ struct NamedSystem
     std::vector<std::vector<std::string>> names; ///< the words of each, as nameWords() gives them
 };
 
+/// Words that values of cells may be, whatever their case and accents.
+class ValueWordSet
+{
+public:
+    void insert(std::string_view word);
+    bool contains(std::string_view text) const;
+
+private:
+    std::unordered_set<std::string> m_words; ///< folded
+    std::bitset<256> m_firstBytes;           ///< of the words; most values begin with another one
+};
+
 /// The words by which columns and values of tables are recognised. They are data, not code: the
 /// installation has a file of them, and a user may add one of his own.
 class Vocabulary
@@ -81,11 +93,11 @@ public:
     bool forbids(Role role, const std::vector<std::string> &words) const;
 
     /// Whether a text stands for no value: NA, N/A, -, --, #N/A.
-    bool isMissing(std::string_view text) const { return isIn(m_missing, text); }
+    bool isMissing(std::string_view text) const { return m_missing.contains(text); }
     /// Whether a text marks a row of sums.
-    bool isTotal(std::string_view text) const { return isIn(m_totals, text); }
+    bool isTotal(std::string_view text) const { return m_totals.contains(text); }
     /// Whether a text in a column of azimuths means all directions.
-    bool isOmni(std::string_view text) const { return isIn(m_omni, text); }
+    bool isOmni(std::string_view text) const { return m_omni.contains(text); }
     /// The systems of countries, those of a user first.
     const std::vector<NamedSystem> &systems() const { return m_systems; }
 
@@ -101,8 +113,6 @@ public:
 private:
     using Phrases = std::unordered_map<std::string, WordMeaning>;
 
-    static bool isIn(const std::unordered_set<std::string> &texts, std::string_view text);
-
     template<typename Change>
     void addPhrase(const std::string &phrase, Change change);
     std::uint32_t languageBit(const std::string &language);
@@ -111,9 +121,9 @@ private:
     Phrases m_phrases;
     std::vector<KnownTable> m_knownTables;
     std::map<Role, std::unordered_set<std::string>> m_forbidden;
-    std::unordered_set<std::string> m_missing; ///< folded
-    std::unordered_set<std::string> m_totals;
-    std::unordered_set<std::string> m_omni;
+    ValueWordSet m_missing;
+    ValueWordSet m_totals;
+    ValueWordSet m_omni;
     std::vector<std::string> m_languages; ///< in the order of their bits
     std::uint32_t m_westO = 0;            ///< languages in which O is west
     std::uint32_t m_eastO = 0;

@@ -93,6 +93,8 @@ struct LeadingNumber
 
 std::optional<LeadingNumber> leadingNumber(std::string_view text)
 {
+    if (const auto plain = parseNumber(text)) // nearly all are
+        return LeadingNumber{*plain, {}, false};
     if (const auto grouped = leadingGroupedNumber(text))
         return LeadingNumber{grouped->number, trimmed(text.substr(grouped->size)),
                              grouped->mayBeList};
