@@ -59,7 +59,7 @@ makeLayers() {
     mkdir -p "$layers"
     "$install/vltlayers" info "$samples/sites.csv" --project "$samples/city.gvw"
     echo
-    for table in sites.csv sites_asset.xlsx sites_atoll.csv sites_mentum.xls links.csv links_miles.xlsx; do
+    for table in sites.csv sites_asset.xlsx sites_atoll.csv sites_mentum.xls sites_cells.csv sites_joined.xlsx links.csv links_miles.xlsx; do
         kind=site
         [[ $table != link* ]] || kind=link
         makeLayer "${table%.*}" "$kind" "$samples/$table"
@@ -76,8 +76,9 @@ makeLayers() {
 openWizard() {
     echo "Opening the wizard. Try:"
     echo "  1. Choose a kind of layer, then Next: the sample project is chosen already."
-    echo "  2. Sites, links: choose a table of $samples, such as sites.csv or links.csv. Buildings: Next,"
-    echo "     then the image coverage/signal_level_dBm.tif. The icon at the lower right becomes the layer."
+    echo "  2. Sites, links: choose a table of $samples, such as sites.csv, sites_cells.csv (a row for each"
+    echo "     cell), sites_joined.xlsx (two sheets), sites_misplaced.csv (mistakes in positions) or links.csv."
+    echo "     Buildings: Next, then the image coverage/signal_level_dBm.tif. The icon at the lower right becomes the layer."
     echo "  3. Drag the icon onto a folder of your file manager, or copy it with Ctrl+C. Quit ends the program."
     VLT_CURRENT_PROJECT=$samples/city.gvw "$install/VltTelecomLayers"
 }

@@ -28,14 +28,20 @@ def write_csv(path, rows, separator=",", encoding="utf-8", line_end="\n", decima
 
 
 def write_xlsx(path, rows, header_row=1, sheet=SHEET):
+    write_workbook(path, {sheet: rows}, header_row)
+
+
+def write_workbook(path, sheets, header_row=1):
+    """A workbook of several sheets: sheets is {name: rows}."""
     book = openpyxl.Workbook()
-    page = book.active
-    page.title = sheet
-    for row in rows:
-        page.append(row)
-    for cell in page[header_row]:
-        cell.font = openpyxl.styles.Font(bold=True)
-    page.freeze_panes = page.cell(row=header_row + 1, column=1)
+    book.remove(book.active)
+    for name, rows in sheets.items():
+        page = book.create_sheet(name)
+        for row in rows:
+            page.append(row)
+        for cell in page[header_row]:
+            cell.font = openpyxl.styles.Font(bold=True)
+        page.freeze_panes = page.cell(row=header_row + 1, column=1)
     packed = io.BytesIO()
     book.save(packed)
     path.write_bytes(without_dates(packed.getvalue()))

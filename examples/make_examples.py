@@ -13,7 +13,8 @@ from pathlib import Path
 
 from example_links import write_links
 from example_places import COAST, LAND, RURAL, SITES, SUBURBAN, URBAN
-from example_tables import write_csv, write_spreadsheet_xml, write_xls, write_xlsx
+from example_tables import (write_csv, write_spreadsheet_xml, write_workbook, write_xls,
+                            write_xlsx)
 from example_terrain import (GEOGRAPHIC, PROJECTED, elevation_at, elevations, transformed,
                              write_terrain)
 from example_town import write_town
@@ -62,6 +63,11 @@ ASSET = Layout(["Site name", "X", "Y"], "Transmitter-1 TERRAIN HEIGHT (m)",
                ["ANT-INDEX", "HEIGHT", "AZIMUTH", "DOWN-TILT"])
 ATOLL = Layout(["NAME", "LONGITUDE", "LATITUDE"], "Transmitter-1 Terrain Height (m)",
                ["Transmitter", "Height (m)", "Azimuth (°)", "Mechanical Downtilt (°)"])
+# cells of a made-up operator: number of the site -> its networks and bands in MHz
+CELLS = {1: (("4G", 800), ("4G", 1800), ("5G", 3500)), 2: (("4G", 800), ("5G", 700)),
+         3: (("4G", 800), ("4G", 2600)), 8: (("4G", 800), ("4G", 1800), ("5G", 3500)),
+         9: (("4G", 800), ("5G", 700)), 14: (("4G", 800),), 22: (("4G", 800), ("4G", 1800)),
+         27: (("4G", 700),)}
 MENTUM = Layout(["SITE ID", "Longitude", "Latitude"], "Transmitter-1 Terrain Height (m)",
                 ["Antenna ID", "Height (m)", "Azimuth", "Mechanical tilt"])
 
@@ -140,7 +146,40 @@ def write_tables(sites):
 
     write_xls(TARGET / "sites_mentum.xls",
               table(MENTUM, sites, lambda s: [s.identifier, s.longitude, s.latitude]))
+    write_cells(sites)
+    write_workbook(TARGET / "sites_joined.xlsx", {"Sites": site_list(sites),
+                                                  "Transmitters": transmitter_list(sites)})
     write_table_with_problems(sites[:12])
+    write_misplaced(sites[:24])
+
+
+def write_cells(sites):
+    """A row for each cell, in the manner of a French register. Site 27 sends in all directions."""
+    rows = [["Exploitant", "Code site", "Nom du site", "Cellule", "Technologie", "Bande (MHz)",
+             "Longitude", "Latitude", "Altitude sol (m)", "Hauteur antenne (m)", "Azimut (°)",
+             "Tilt (°)"]]
+    for number, networks in CELLS.items():
+        site = sites[number - 1]
+        for level, (network, band) in enumerate(networks):
+            for sector, item in enumerate(site.transmitters[:3], start=1):
+                rows.append(["Armor Mobile", site.identifier, site.name,
+                             f"{site.identifier}-{network}-{band}-{sector}", network, band,
+                             site.longitude, site.latitude, site.terrain_m,
+                             item.height_m - 2 * level,
+                             None if len(site.transmitters) == 1 else item.azimuth_deg,
+                             item.tilt_deg])
+    write_csv(TARGET / "sites_cells.csv", rows, separator=";", line_end="\r\n", decimal_mark=",")
+
+
+def site_list(sites):
+    return [["Site ID", "Site name", "Longitude", "Latitude", "Ground height (m)"]] + [
+        [s.identifier, s.name, s.longitude, s.latitude, s.terrain_m] for s in sites]
+
+
+def transmitter_list(sites):
+    return [["Transmitter", "Site ID", "Height (m)", "Azimuth (°)", "Mechanical tilt (°)"]] + [
+        [item.identifier, site.identifier, item.height_m, item.azimuth_deg, item.tilt_deg]
+        for site in sites for item in site.transmitters]
 
 
 def write_table_with_problems(sites):
@@ -151,6 +190,17 @@ def write_table_with_problems(sites):
     rows[10][latitude] = round(rows[10][latitude] * 10, 5)  # the decimal mark slipped
     write_csv(TARGET / "sites_with_problems.csv", rows, separator=";", line_end="\r\n",
               decimal_mark=",")
+
+
+def write_misplaced(sites):
+    """Sites of which some are not where they should be, although all coordinates can be read."""
+    rows = table(GENERIC, sites, lambda s: [s.identifier, s.name, s.longitude, s.latitude], most=3)
+    longitude, latitude = rows[0].index("Longitude"), rows[0].index("Latitude")
+    for row in (rows[3], rows[4], rows[8]):
+        row[longitude], row[latitude] = row[latitude], row[longitude]
+    rows[11][longitude] = -rows[11][longitude]
+    rows[14][latitude] = round(rows[14][latitude] / 10, 6)  # the decimal mark slipped
+    write_csv(TARGET / "sites_misplaced.csv", rows)
 
 
 def write_coastline():

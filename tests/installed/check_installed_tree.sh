@@ -33,6 +33,12 @@ done
 grep -qF 'transmitter_scale=100,lods=10000 1000,sites.csv' "$work/csv.lay" || fail "the query does not end in the table"
 grep -qF '[Site ID]' "$work/csv.lay" || fail "the information page lacks the table's columns"
 
+# Tables of other shapes, and one with mistakes in its positions.
+info() { "$tree/vltlayers" info "$samples/$1" --project "$samples/city.gvw" --language en; }
+info sites_cells.csv | grep -q '^44 rows: 8 sites with 1–9 transmitters' || fail "the cells do not become 8 sites"
+mistakes=$(info sites_misplaced.csv | grep -cE '\(rows: (4, 5, 9|12|15)\)') || true
+[[ $mistakes == 3 ]] || fail "$mistakes kinds of mistakes are found in sites_misplaced.csv instead of 3"
+
 # Without a display: commands that draw texts must not need one.
 env -u DISPLAY "$tree/vltlayers" buildings --project "$samples/city.gvw" --image "$samples/coverage/signal_level_dBm.tif" \
     --colormap signal_level_dBm --absolute -o "$work/city.lay" --quiet || fail "no layer of coloured buildings"
@@ -54,4 +60,13 @@ export GDAL_DRIVER_PATH=$tree/driver
 ogrinfo -al -so "site:$samples/sites.csv" | grep -q 'Feature Count: 45' || fail "ogrinfo does not count 45 sites"
 ogr2ogr -f GPKG "$work/out.gpkg" "site:$samples/sites_asset.xlsx" || fail "ogr2ogr"
 ogrinfo -al -so "$work/out.gpkg" | grep -q 'Feature Count: 45' || fail "the GeoPackage lacks sites"
+
+# The workbook with two sheets has the sites and transmitters of the wide tables.
+columns='"Site ID"'
+for n in 1 2 3 4 5 6; do columns+=",\"Transmitter-$n Sector ID\",\"Transmitter-$n Azimuth (°)\""; done
+for table in sites.csv sites_joined.xlsx; do
+    ogr2ogr -f CSV -lco STRING_QUOTING=IF_NEEDED "$work/$table.columns.csv" "site:$samples/$table" \
+        -sql "SELECT $columns FROM sites" || fail "ogr2ogr of $table"
+done
+cmp "$work/sites.csv.columns.csv" "$work/sites_joined.xlsx.columns.csv" || fail "the joined sheets have other transmitters"
 echo "the installed tree works"

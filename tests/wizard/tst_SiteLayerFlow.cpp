@@ -49,6 +49,8 @@ private Q_SLOTS:
         row("atoll, translucent", "sites_atoll.csv", 40);
         row("asset", "sites_asset.xlsx", 0);
         row("mentum", "sites_mentum.xls", 0);
+        row("a row for each cell", "sites_cells.csv", 0);
+        row("two sheets", "sites_joined.xlsx", 0);
     }
 
     void makesTheLayerOfTheCommandLine()
