@@ -45,6 +45,19 @@ bool isSecond(const Json &value, const std::string &place, const char *first, co
     return text == second;
 }
 
+std::string systemOf(const Json &value, const std::string &place)
+{
+    constexpr std::string_view Authority = "EPSG:";
+    constexpr std::size_t MaxDigits = 9;
+    std::string text = textOf(value, place);
+    const std::string_view code =
+        std::string_view(text).substr(std::min(Authority.size(), text.size()));
+    if (!text.starts_with(Authority) || code.empty() || code.size() > MaxDigits ||
+        code.find_first_not_of("0123456789") != std::string_view::npos)
+        refuseValue(place);
+    return text;
+}
+
 std::vector<std::int64_t> headerRowsOf(const Json &value, const std::string &place)
 {
     if (!value.is_array())
@@ -68,6 +81,8 @@ StatedColumns columnsOf(const Json &value, const std::string &place)
     StatedColumns columns;
     for (const Json &column : value)
         columns.push_back(column.is_null() ? std::string() : textOf(column, place));
+    if (columns.size() == 1) // a list, unlike a single column
+        columns.emplace_back();
     return columns;
 }
 
@@ -93,7 +108,7 @@ void readMember(const std::string &key, const Json &value, ColumnMapping &mappin
     else if (key == "axes")
         mapping.swapsAxes = isSecond(value, key, "", query::SwappedAxes);
     else if (key == "sourceSrs")
-        mapping.sourceSrs = textOf(value, key);
+        mapping.sourceSrs = systemOf(value, key);
     else if (key == "sectors")
         mapping.sectors = textOf(value, key);
     else if (key == "sites")

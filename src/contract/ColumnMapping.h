@@ -18,8 +18,8 @@ inline constexpr std::size_t MaxMappingBytes = 1 << 20;
 inline constexpr std::int64_t MaxHeaderRow = 200;
 
 /// Columns by their names, in the order of the transmitters or of the parts of a coordinate
-/// (degrees, minutes, seconds, hemisphere); an empty name for one that is missing. Empty if no
-/// column has the role.
+/// (degrees, minutes, seconds, hemisphere); an empty name for one that is missing. A single one is
+/// that of the site, or of all transmitters. Empty if no column has the role.
 using StatedColumns = std::vector<std::string>;
 
 /// What is stated about a table. Everything that is absent is recognised.
@@ -31,7 +31,7 @@ struct ColumnMapping
     /// empty list if the table has none, its columns are then called "Column 1", "Column 2" ...
     std::optional<std::vector<std::int64_t>> headerRows = {};
     bool swapsAxes = false;     ///< the columns of x hold y and the reverse
-    std::string sourceSrs = {}; ///< system of the coordinates: "EPSG:2154"
+    std::string sourceSrs = {}; ///< of the coordinates: "EPSG:2154"
     /// Paths of the tables that complete this one, relative to its folder: the transmitters of
     /// sites, the sites at the ends of links.
     std::string sectors = {};

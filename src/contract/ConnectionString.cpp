@@ -25,7 +25,8 @@ bool exists(const std::string &path, const std::string &baseDirectory)
 /// Whether the value of an option is a path, which may contain commas.
 bool isPath(std::string_view key)
 {
-    return key == query::TerrainFile || key == query::Sectors || key == query::EndSites;
+    return key == query::TerrainFile || key == query::Sectors || key == query::EndSites ||
+           key == query::Columns;
 }
 
 /// The key of the option at the start of `text`; empty where `text` starts with no option.

@@ -30,8 +30,8 @@ struct ConnectionString
 /// - if the whole rest names an existing file, it is the path, even if it starts like an option;
 /// - the value of an option ends before the next known key that has not occurred yet;
 /// - if no such key follows, the value ends at the first comma outside brackets and quotation
-///   marks, and the path follows. The value of "dem_file", "sectors" or "sites", itself a path,
-///   ends at the first comma after which an existing file is named;
+///   marks, and the path follows. The value of "dem_file", "sectors", "sites" or "columns",
+///   itself a path, ends at the first comma after which an existing file is named;
 /// - after "lods" only "dem_file" can follow, so that a path may contain texts like options;
 /// - an unknown key, or one that occurs again, starts the path.
 ///

@@ -68,11 +68,6 @@ inline constexpr ChosenNumber<int> FresnelTransparencyPercent{0, 100, 60};
 inline constexpr char KFactor[] = "k_factor";
 inline constexpr ChosenNumber<double> KFactorNumber{0.1, 100, 1.33333};
 
-/// Path of the mapping file of the table, see ColumnMapping.h, relative to the table's folder, or
-/// NoMapping; absent if it is the one beside the table, or if there is none.
-inline constexpr char Columns[] = "columns";
-inline constexpr char NoMapping[] = "none";
-
 // how the table is read; absent if its reader detects it
 inline constexpr char Sheet[] = "sheet";
 inline constexpr char Encoding[] = "encoding";
@@ -84,6 +79,11 @@ inline constexpr char SwappedAxes[] = "swapped";
 /// sites; the sites at the ends of a table of links.
 inline constexpr char Sectors[] = "sectors";
 inline constexpr char EndSites[] = "sites";
+
+/// Path of the mapping file, see ColumnMapping.h, relative to the folder of the table, or
+/// NoMapping; absent if it is the one beside the table, or if there is none.
+inline constexpr char Columns[] = "columns";
+inline constexpr char NoMapping[] = "none";
 
 inline constexpr char TransmitterScale[] = "transmitter_scale";
 inline constexpr ChosenNumber<int> AntennaScalePercent{0, 300, 100};
@@ -138,13 +138,13 @@ inline constexpr auto QueryOptions = std::to_array<QueryOption>({
     {query::FresnelShare, OptionPurpose::Links, {query::FresnelSharePercent}},
     {query::FresnelColor, OptionPurpose::Links},
     {query::KFactor, OptionPurpose::Links, {query::KFactorNumber}},
-    {query::Columns, OptionPurpose::Reading},
     {query::Sheet, OptionPurpose::Reading},
     {query::Encoding, OptionPurpose::Reading},
     {query::Delimiter, OptionPurpose::Reading},
     {query::Axes, OptionPurpose::Reading},
     {query::Sectors, OptionPurpose::Reading},
     {query::EndSites, OptionPurpose::Reading},
+    {query::Columns, OptionPurpose::Reading},
     {query::TransmitterScale, OptionPurpose::Pylons, {query::AntennaScalePercent}},
     {query::Lods, OptionPurpose::Pylons, {query::SymbolicDistanceM, query::RealisticDistanceM}},
     {query::TerrainFile, OptionPurpose::Heights},

@@ -27,6 +27,8 @@ QString TableReading::parameters() const
         add(contract::query::Sectors, sectors);
     if (!endSites.isEmpty())
         add(contract::query::EndSites, endSites);
+    if (!columns.isEmpty())
+        add(contract::query::Columns, columns);
     return parts.join(QLatin1Char(','));
 }
 

@@ -21,6 +21,9 @@ struct TableReading
     /// the table, or absolute.
     QString sectors = {};
     QString endSites = {}; ///< file with the sites at the ends of a table of links
+    /// Mapping file, relative to the folder of the table or absolute; "none" if that beside the
+    /// table is not used.
+    QString columns = {};
 
     /// The options as text for connections and queries: "sheet=Sites,encoding=CP1250", without a
     /// comma at the end; empty if no option is set.

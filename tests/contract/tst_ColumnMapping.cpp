@@ -27,6 +27,9 @@ private Q_SLOTS:
 
         for (const ColumnMapping &stated : {mapping, headerless, ColumnMapping()})
             QVERIFY(readMapping(writeMapping(stated)).mapping == stated);
+        const auto ofOne =
+            readMapping("{\"version\": 1, \"roles\": {\"azimuth\": [\"a\"]}}").mapping;
+        QVERIFY(ofOne && ofOne->roles.at("azimuth") == StatedColumns({"a", ""}));
     }
 
     void namesThePlaceOfAMistake_data()
@@ -53,6 +56,7 @@ private Q_SLOTS:
         row("rows upward", "{\"version\": 1, \"headerRows\": [3, 2]}", value("headerRows"));
         row("far row", "{\"version\": 1, \"headerRows\": [201]}", value("headerRows"));
         row("half a row", "{\"version\": 1, \"headerRows\": [1.5]}", value("headerRows"));
+        row("other system", "{\"version\": 1, \"sourceSrs\": \"WGS 84\"}", value("sourceSrs"));
         row("role of numbers", "{\"version\": 1, \"roles\": {\"x\": [1]}}", value("roles.x"));
         row("list of roles", "{\"version\": 1, \"roles\": []}", value("roles"));
     }

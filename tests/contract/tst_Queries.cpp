@@ -22,7 +22,7 @@ Input fullInput()
 {
     Input input;
     input.file.filePath = u"/p/t.csv"_s;
-    input.file.reading = {u"S"_s, u"CP1250"_s, u"tab"_s, true, u"c.csv"_s, u"s.csv"_s};
+    input.file.reading = {u"S"_s, u"CP1250"_s, u"tab"_s, true, u"c.csv"_s, u"s.csv"_s, u"m.json"_s};
     input.sourceSrs = u"4326"_s;
     input.targetSrs = u"2154"_s;
     input.catalogues = {{{u"monopole_panel"_s, {}, {}}}, {{{QColor(255, 0, 0)}, {}, {}}}};
