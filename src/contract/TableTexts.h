@@ -206,6 +206,9 @@ inline constexpr auto TableTexts = std::to_array<Text>({
     {"MESS_TAB_SHAPE_JOINED", "%1 rows: %2 sites with %3 transmitters each from another table"},
     {"MESS_TAB_SHAPE_PLACES", "%1 rows: %2 sites with %3 transmitters each, grouped by position"},
 
+    {"MESS_TAB_SHAPE_LINKS", "%1 rows, each of them a link with both ends"},
+    {"MESS_TAB_SHAPE_NAMED_LINKS", "%1 rows, each of them a link between sites of another table"},
+
     // tables that belong together
     {"MESS_TAB_IN_SHEET", "in the sheet \"%1\": %2", {ValueKind::Name, ValueKind::Nested}},
     {"MESS_TAB_IN_FILE", "in the file \"%1\": %2", {ValueKind::Name, ValueKind::Nested}},

@@ -1,5 +1,7 @@
 #include "RealTables.h"
 
+#include <QMap>
+
 using namespace Qt::StringLiterals;
 using namespace realtables;
 
@@ -32,6 +34,12 @@ private Q_SLOTS:
             QVERIFY2(difference.isEmpty(), qPrintable(difference));
         }
         QCOMPARE(problemRowsOf(*dataset->GetLayer(0)), expectedProblemRows(table));
+        QCOMPARE(rolesOf(*dataset->GetLayer(0), table), expectedRolesOf(table));
+        QCOMPARE(QString::fromUtf8(dataset->GetLayer(0)->GetMetadataItem("SHAPE", "roles")),
+                 u"%1 rows, each of them a link %2"_s.arg(
+                     QString::number(counts.value(u"rows"_s).toInt()),
+                     table.contains(u"shape"_s) ? u"between sites of another table"_s
+                                                : u"with both ends"_s));
     }
 
 private:
@@ -109,6 +117,48 @@ private:
                 break;
         }
         return nearest;
+    }
+
+    /// The roles that are expected, one per line, with their columns; those of the columns that
+    /// name an end are one role, because an id can be a name.
+    static QStringList expectedRolesOf(const QJsonObject &table)
+    {
+        QStringList lines;
+        const QJsonObject roles = table.value(u"roles"_s).toObject();
+        for (auto role = roles.begin(); role != roles.end(); ++role) {
+            QStringList columns;
+            for (const QJsonValue &column : role.value().toArray())
+                columns += column.toString();
+            if (role.value().isString())
+                columns += role.value().toString();
+            lines += plainRole(role.key()) + u": "_s + columns.join(u", "_s);
+        }
+        lines.sort();
+        return lines;
+    }
+
+    static QString plainRole(QString role) { return role.replace(u"siteName"_s, u"siteId"_s); }
+
+    /// The same as the driver found them, as far as the table's author states them.
+    static QStringList rolesOf(OGRLayer &layer, const QJsonObject &table)
+    {
+        QMap<QString, QStringList> columns;
+        for (const QString &role : table.value(u"roles"_s).toObject().keys())
+            columns[plainRole(role)] = {};
+        const bool hasHeader = !table.value(u"headerRows"_s).toArray().isEmpty();
+        char **items = layer.GetMetadata("roles");
+        for (char **item = items; item && *item; ++item) {
+            const QStringList parts = QString::fromUtf8(*item).section(u'=', 1).split(u'|');
+            const QString role = plainRole(parts.first());
+            if (!STARTS_WITH(*item, "ROLE_") || !columns.contains(role))
+                continue;
+            const int field = layer.GetLayerDefn()->GetFieldIndex(parts[2].toUtf8().constData());
+            columns[role] += hasHeader ? parts[2] : u"Column %1"_s.arg(field + 1);
+        }
+        QStringList lines;
+        for (auto role = columns.begin(); role != columns.end(); ++role)
+            lines += role.key() + u": "_s + role.value().join(u", "_s);
+        return lines;
     }
 
     /// The problems of rows: row|column.

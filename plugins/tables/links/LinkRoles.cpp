@@ -19,28 +19,32 @@ using Words = std::vector<std::string>;
 
 constexpr int MinStrength = 45;   ///< of a name; a sentence has less
 constexpr int ClearStrength = 90; ///< of a name whose column has its role whatever its values are
-constexpr double MinFit = 0.5;    ///< of the values of other columns
+constexpr int FullStrength = 100;
+constexpr double MinFit = 0.5; ///< of the values of other columns
 
-bool isOfEnd(Role role)
+/// The role of a column of an end whose name means a role; None if ends have no such role.
+Role roleOfEnd(Role role)
 {
     switch (role) {
+    case Role::MechanicalTilt:
+    case Role::ElectricalTilt:
+        return Role::Tilt;
+    case Role::Band:
+        return Role::Frequency;
     case Role::SiteId:
     case Role::SiteName:
     case Role::GroundHeight:
     case Role::AntennaHeight:
     case Role::SeaLevelHeight:
     case Role::Azimuth:
-    case Role::MechanicalTilt:
-    case Role::ElectricalTilt:
     case Role::Tilt:
-    case Role::Band:
     case Role::Frequency:
     case Role::OffsetX:
     case Role::OffsetY:
     case Role::Diameter:
-        return true;
+        return role;
     default:
-        return false;
+        return Role::None;
     }
 }
 
@@ -132,8 +136,9 @@ private:
         const LinkColumnName &name = nameOf(field);
         if (name.end != LinkEndId::None) {
             for (const NameMatch &match : matchEndColumn(name, m_vocabulary)) {
-                if (isOfEnd(match.role) && !(name.words.empty() && mayBeTime(field)))
-                    addCandidate(field, match, name.end);
+                const Role role = roleOfEnd(match.role);
+                if (role != Role::None && !(name.words.empty() && mayBeTime(field)))
+                    addCandidate(field, match, role, name.end);
             }
         }
         addLinkCandidates(field, allWords(field), name.end != LinkEndId::None);
@@ -145,7 +150,7 @@ private:
     {
         for (const NameMatch &match : matchName(words, m_vocabulary)) {
             if (isOfLink(match.role) && (!namesEnd || mayNameEnds(match.role)))
-                addCandidate(field, match, LinkEndId::None);
+                addCandidate(field, match, match.role, LinkEndId::None);
         }
     }
 
@@ -161,15 +166,20 @@ private:
                (nameOf(field).isWeak && facts.numeric * 2 > facts.filled);
     }
 
-    void addCandidate(int field, const NameMatch &match, LinkEndId end)
+    void addCandidate(int field, const NameMatch &match, Role role, LinkEndId end)
     {
-        const double fit = fitOfValues(field, match.role);
+        const double fit = fitOfValues(field, role);
         if (match.strength < MinStrength || (match.strength < ClearStrength && fit < MinFit))
             return;
-        double strength = match.strength;
-        if (match.role == Role::LinkName)
-            strength = std::min(strength, 100.0) + pointsOfLinkName(field);
-        m_candidates.push_back({field, match.role, end, strength * (1 + fit) / 2});
+        constexpr double PointsOfOtherRole = -10; ///< "Mechanical tilt" as a tilt
+        const double points = role == Role::LinkName ? pointsOfLinkName(field)
+                              : role != match.role   ? PointsOfOtherRole
+                                                     : 0;
+        // "Link ID" is no better name of a link than "Link"
+        const double strength =
+            points +
+            (role == Role::LinkName ? std::min(match.strength, FullStrength) : match.strength);
+        m_candidates.push_back({field, role, end, strength * (1 + fit) / 2});
     }
 
     /// A name is preferred to an id, an "ID" alone may be any number.
@@ -246,16 +256,13 @@ private:
         return end == LinkEndId::None ? -1 : m_ends.identifiers[end == LinkEndId::A ? 0 : 1];
     }
 
-    /// The first field with one of the roles, which are given in the order of preference.
-    int fieldOf(LinkEndId end, std::initializer_list<Role> roles) const
+    /// The first field with a role.
+    int fieldOf(LinkEndId end, Role role) const
     {
-        for (const Role role : roles) {
-            for (const LinkColumnRole &column : m_roles.columns) {
-                if (column.role == role && column.end == end)
-                    return column.field;
-            }
-        }
-        return -1;
+        const auto found =
+            std::find_if(m_roles.columns.begin(), m_roles.columns.end(),
+                         [&](const auto &of) { return of.role == role && of.end == end; });
+        return found == m_roles.columns.end() ? -1 : found->field;
     }
 
     QuantityField quantity(int field, std::optional<double> WordMeaning::*unit) const
@@ -266,7 +273,7 @@ private:
     void fillEnd(std::size_t at)
     {
         const LinkEndId end = at == 0 ? LinkEndId::A : LinkEndId::B;
-        const auto field = [&](std::initializer_list<Role> roles) { return fieldOf(end, roles); };
+        const auto field = [&](Role role) { return fieldOf(end, role); };
         LinkEndFields &fields = m_roles.ends[at];
         fields.point = m_ends.points[at];
         fields.identifier = namedField(end);
@@ -274,15 +281,14 @@ private:
             if (fields.identifier < 0 && column.end == end && isIdentifier(column.role))
                 fields.identifier = column.field;
         }
-        fields.height = quantity(field({Role::AntennaHeight}), &WordMeaning::metres);
+        fields.height = quantity(field(Role::AntennaHeight), &WordMeaning::metres);
         if (!fields.height.found())
             fields.seaLevelHeight = seaLevelField(end);
-        fields.frequency = quantity(field({Role::Frequency, Role::Band}), &WordMeaning::megahertz);
-        fields.azimuth = quantity(field({Role::Azimuth}), &WordMeaning::degrees);
-        fields.tilt = quantity(field({Role::Tilt, Role::MechanicalTilt, Role::ElectricalTilt}),
-                               &WordMeaning::degrees);
-        fields.dx = quantity(field({Role::OffsetX}), &WordMeaning::metres);
-        fields.dy = quantity(field({Role::OffsetY}), &WordMeaning::metres);
+        fields.frequency = quantity(field(Role::Frequency), &WordMeaning::megahertz);
+        fields.azimuth = quantity(field(Role::Azimuth), &WordMeaning::degrees);
+        fields.tilt = quantity(field(Role::Tilt), &WordMeaning::degrees);
+        fields.dx = quantity(field(Role::OffsetX), &WordMeaning::metres);
+        fields.dy = quantity(field(Role::OffsetY), &WordMeaning::metres);
     }
 
     /// A column whose name says that its heights are above sea level, be it of the ground.
@@ -297,7 +303,7 @@ private:
 
     void fillLink()
     {
-        const auto field = [&](Role role) { return fieldOf(LinkEndId::None, {role}); };
+        const auto field = [&](Role role) { return fieldOf(LinkEndId::None, role); };
         m_roles.name = field(Role::LinkName);
         m_roles.frequency = quantity(field(Role::Frequency), &WordMeaning::megahertz);
         m_roles.band = quantity(field(Role::Band), &WordMeaning::megahertz);
@@ -338,6 +344,8 @@ private:
 
 std::string LinkColumnRole::name() const
 {
+    if (role == Role::Length)
+        return "lengthLink";
     const char *letter = end == LinkEndId::A ? "A" : end == LinkEndId::B ? "B" : "";
     return std::string(roleName(role)) + letter;
 }

@@ -18,7 +18,7 @@ struct LinkColumnRole
     LinkEndId end = LinkEndId::None;
     std::string evidence; ///< English, from contract/TableTexts.h
 
-    /// The role with the end: xA, siteNameB, length.
+    /// The role with the end: xA, siteNameB, lengthLink.
     std::string name() const;
 };
 

@@ -1,5 +1,8 @@
 #include "plugins/tables/ogr/LinkLayer.h"
 
+#include "contract/TableMetadata.h"
+#include "contract/TableTexts.h"
+
 namespace vlt::driver {
 
 namespace {
@@ -51,6 +54,21 @@ void LinkLayer::fillFeature(OGRFeature &feature, const TableRow &row, int) const
 void LinkLayer::addFileProblems(ProblemList &problems) const
 {
     m_reader.addFileProblems(problems);
+}
+
+CPLStringList LinkLayer::rolesMetadata() const
+{
+    const std::string rows = std::to_string(facts().table.rowCount);
+    CPLStringList items;
+    items.SetNameValue(contract::metadata::ShapeItem,
+                       contract::formatted(facts().endSites
+                                               ? contract::TableTextId("MESS_TAB_SHAPE_NAMED_LINKS")
+                                               : contract::TableTextId("MESS_TAB_SHAPE_LINKS"),
+                                           {rows})
+                           .c_str());
+    for (const LinkColumnRole &column : facts().links().columns)
+        addRole(items, column.name(), {}, column.field, column.evidence);
+    return items;
 }
 
 } // namespace vlt::driver

@@ -23,6 +23,7 @@ private:
     void placeFeature(OGRFeature &feature, const TableRow &row, int part) const override;
     void fillFeature(OGRFeature &feature, const TableRow &row, int part) const override;
     void addFileProblems(ProblemList &problems) const override;
+    CPLStringList rolesMetadata() const override;
 
     LinkRowReader m_reader;
 };

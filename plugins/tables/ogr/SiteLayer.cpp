@@ -207,17 +207,10 @@ CPLStringList SiteLayer::rolesMetadata() const
     const SiteLayout &layout = facts().sites();
     CPLStringList items;
     items.SetNameValue(metadata::ShapeItem, shapeText(facts()).c_str());
-    int number = 0;
-    for (const ColumnRole &column : layout.roles.columns) {
-        const std::string sector = column.sector < 0 ? "" : std::to_string(column.sector);
-        std::string value;
-        for (const std::string &part :
-             {std::string(roleName(column.role)), sector,
-              facts().table.fields[static_cast<std::size_t>(column.field)].name})
-            value += part + metadata::RoleSeparator;
-        items.SetNameValue((metadata::RolePrefix + std::to_string(++number)).c_str(),
-                           (value + column.evidence).c_str());
-    }
+    for (const ColumnRole &column : layout.roles.columns)
+        addRole(items, roleName(column.role),
+                column.sector < 0 ? "" : std::to_string(column.sector), column.field,
+                column.evidence);
     return items;
 }
 

@@ -107,6 +107,17 @@ void TableLayer::defineColumns()
         defineField(field.name.c_str(), ogrType(field.type));
 }
 
+void TableLayer::addRole(CPLStringList &items, std::string_view role, const std::string &sector,
+                         int field, const std::string &evidence) const
+{
+    std::string value;
+    for (const std::string &part :
+         {std::string(role), sector, facts().table.fields[static_cast<std::size_t>(field)].name})
+        value += part + metadata::RoleSeparator;
+    items.SetNameValue((metadata::RolePrefix + std::to_string(items.Count())).c_str(),
+                       (value + evidence).c_str());
+}
+
 void TableLayer::setGeometryType(OGRwkbGeometryType type)
 {
     m_definition->SetGeomType(type);

@@ -799,5 +799,13 @@
         <source>%1, end %2</source>
         <translation>%1, end %2</translation>
     </message>
+    <message id="MESS_TAB_SHAPE_LINKS">
+        <source>%1 rows, each of them a link with both ends</source>
+        <translation>%1 rows, each of them a link with both ends</translation>
+    </message>
+    <message id="MESS_TAB_SHAPE_NAMED_LINKS">
+        <source>%1 rows, each of them a link between sites of another table</source>
+        <translation>%1 rows, each of them a link between sites of another table</translation>
+    </message>
 </context>
 </TS>

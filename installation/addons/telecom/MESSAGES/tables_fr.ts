@@ -799,5 +799,13 @@
         <source>%1, end %2</source>
         <translation>%1, extrémité %2</translation>
     </message>
+    <message id="MESS_TAB_SHAPE_LINKS">
+        <source>%1 rows, each of them a link with both ends</source>
+        <translation>%1 lignes, chacune étant une liaison avec ses deux extrémités</translation>
+    </message>
+    <message id="MESS_TAB_SHAPE_NAMED_LINKS">
+        <source>%1 rows, each of them a link between sites of another table</source>
+        <translation>%1 lignes, chacune étant une liaison entre des sites d'un autre tableau</translation>
+    </message>
 </context>
 </TS>
