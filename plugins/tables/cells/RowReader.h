@@ -71,6 +71,8 @@ public:
     virtual void prepareStrings(uint64_t rowCount) const { static_cast<void>(rowCount); }
     /// The encoding of a text table; its name is empty for other formats.
     virtual TextEncoding encoding() const { return {}; }
+    /// What separates the columns of a text table; 0 for other formats.
+    virtual char delimiter() const { return 0; }
 };
 
 /// A file of tables.

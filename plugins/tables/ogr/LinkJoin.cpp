@@ -1,8 +1,6 @@
 #include "plugins/tables/ogr/LinkJoin.h"
 
 #include "plugins/tables/links/LinkLayout.h"
-#include "plugins/tables/ogr/FieldCells.h"
-#include "plugins/tables/sites/SiteLayout.h"
 
 namespace vlt::driver {
 
@@ -14,27 +12,38 @@ int endSiteSuitability(const TableProfile &start, const Vocabulary &vocabulary)
     return siteSuitability(start, vocabulary);
 }
 
+EndSiteRows::EndSiteRows(const SecondTable &sites)
+    : m_layout(recogniseSiteLayout(sites.profile(), installedVocabulary().words))
+    , m_positions(sites.profile(), m_layout.point, m_layout.unit)
+    , m_cells(sites.profile())
+    , m_rows(sites.rows())
+{}
+
+bool EndSiteRows::advance()
+{
+    if (!m_rows->advance())
+        return false;
+    m_row.number = m_rows->rowNumber();
+    m_row.problems.clear();
+    m_cells.take(m_rows->cells(), m_row.problems);
+    m_row.id = fieldText(m_cells.cells(), m_layout.roles.siteId);
+    m_row.name = fieldText(m_cells.cells(), m_layout.roles.siteName);
+    m_row.position = m_positions.read(m_row.number, m_cells.cells(), m_row.problems);
+    return true;
+}
+
 std::optional<EndSites> readEndSites(const SecondTable &sites)
 {
-    const TableProfile &table = sites.profile();
-    const SiteLayout layout = recogniseSiteLayout(table, installedVocabulary().words);
-    const SiteRoles &roles = layout.roles;
-    if (!layout.point.found() || (roles.siteId < 0 && roles.siteName < 0))
+    EndSiteRows rows(sites);
+    const SiteLayout &layout = rows.layout();
+    if (!layout.point.found() || (layout.roles.siteId < 0 && layout.roles.siteName < 0))
         return std::nullopt;
     auto directory = std::make_shared<SiteDirectory>(layout.unit);
     EndSites found = {directory, layout, {}};
-    const PositionReader positions(table, layout.point, layout.unit);
-    FieldCells cells(table);
-    std::vector<RowProblem> problems;
-    const std::unique_ptr<DataRows> rows = sites.rows();
-    while (rows->advance()) {
-        problems.clear();
-        const int64_t row = rows->rowNumber();
-        cells.take(rows->cells(), problems);
-        directory->add(fieldText(cells.cells(), roles.siteId),
-                       fieldText(cells.cells(), roles.siteName),
-                       positions.read(row, cells.cells(), problems));
-        for (RowProblem &problem : problems) {
+    while (rows.advance()) {
+        EndSiteRow &row = rows.row();
+        directory->add(row.id, row.name, row.position);
+        for (RowProblem &problem : row.problems) {
             problem.isError = false; // it is no row of the links
             found.problems.add(sites.located(std::move(problem)));
         }

@@ -1,13 +1,16 @@
 #pragma once
 
+#include "plugins/tables/ogr/FieldCells.h"
 #include "plugins/tables/ogr/ProblemList.h"
 #include "plugins/tables/ogr/SecondTable.h"
 #include "plugins/tables/roles/Vocabulary.h"
 #include "plugins/tables/sites/SiteDirectory.h"
-#include "plugins/tables/sites/TableDeclaration.h"
+#include "plugins/tables/sites/SiteLayout.h"
 
 #include <memory>
 #include <optional>
+#include <string>
+#include <vector>
 
 namespace vlt::driver {
 
@@ -21,6 +24,36 @@ struct EndSites
     std::shared_ptr<const SiteDirectory> directory;
     TableDeclaration declaration; ///< of the table of sites
     ProblemList problems;         ///< of that table
+};
+
+/// A row of a table of sites at the ends of links.
+struct EndSiteRow
+{
+    int64_t number = 0;
+    std::string id;   ///< may be empty
+    std::string name; ///< may be empty
+    Position position;
+    std::vector<RowProblem> problems;
+};
+
+/// Reads the rows of a table of sites at the ends of links.
+class EndSiteRows
+{
+public:
+    /// @param sites  has to exist as long as this object
+    explicit EndSiteRows(const SecondTable &sites);
+
+    const SiteLayout &layout() const { return m_layout; }
+    /// Goes to the next row; false after the last.
+    bool advance();
+    EndSiteRow &row() { return m_row; }
+
+private:
+    SiteLayout m_layout;
+    PositionReader m_positions;
+    FieldCells m_cells;
+    std::unique_ptr<DataRows> m_rows;
+    EndSiteRow m_row;
 };
 
 /// Reads the positions of sites by their ids and names. Nothing if the table has no positions, or

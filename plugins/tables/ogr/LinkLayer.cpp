@@ -5,15 +5,6 @@
 
 namespace vlt::driver {
 
-namespace {
-
-bool isPlaced(const LinkRow &link)
-{
-    return link.placed[0].found && link.placed[1].found;
-}
-
-} // namespace
-
 LinkLayer::LinkLayer(const TableSource &source)
     : TableLayer(source, source.facts().table.sheet, 1)
     , m_reader(source)
@@ -30,7 +21,7 @@ RowMeaning LinkLayer::readRow(int64_t row, const FieldCells &cells,
 
 void LinkLayer::mergeInto(OGREnvelope &extent, const TableRow &row) const
 {
-    if (!isPlaced(row.link()))
+    if (!row.link().isPlaced())
         return;
     for (const Position &end : row.link().placed)
         extent.Merge(end.x, end.y);
@@ -38,7 +29,7 @@ void LinkLayer::mergeInto(OGREnvelope &extent, const TableRow &row) const
 
 void LinkLayer::placeFeature(OGRFeature &feature, const TableRow &row, int) const
 {
-    if (!isPlaced(row.link()))
+    if (!row.link().isPlaced())
         return;
     auto line = std::make_unique<OGRLineString>();
     for (const Position &end : row.link().placed)

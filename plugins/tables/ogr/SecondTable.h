@@ -16,6 +16,8 @@ public:
     explicit SecondTable(Table table, std::string file = {});
 
     const TableProfile &profile() const { return *m_table.profile; }
+    /// Of the file if it is another one, else of the sheet.
+    const std::string &name() const { return m_file.empty() ? profile().sheet : m_file; }
     std::unique_ptr<DataRows> rows() const;
     /// A problem of this table as one of the dataset: its text names the sheet or file.
     RowProblem located(RowProblem problem) const;

@@ -1,26 +1,22 @@
 #include "plugins/tables/ogr/SectorJoin.h"
 
 #include "contract/TableTexts.h"
-#include "plugins/tables/ogr/FieldCells.h"
 #include "plugins/tables/roles/Vocabulary.h"
 #include "plugins/tables/sites/JoinKey.h"
 #include "plugins/tables/sites/PositionReader.h"
 #include "plugins/tables/sites/SectorTable.h"
 
 #include <algorithm>
-#include <unordered_map>
 
 namespace vlt::driver {
 
 namespace {
 
-using Transmitters = std::vector<std::optional<TransmitterValues>>;
-
 /// The sites by their keys, and the index of their rows.
 struct Sites
 {
     std::shared_ptr<SiteIndex> index;
-    std::unordered_map<std::string, std::size_t> byKey;
+    SiteNumbers byKey;
 };
 
 Sites readSites(const TableProfile &table, const SiteLayout &layout, DataRows &rows, int keyField)
@@ -52,73 +48,64 @@ bool findColumns(const TableProfile &table, DataRows &rows, bool byName, JoinCol
     return columns.choose(byName);
 }
 
-/// Reads the transmitters of the second table and gives them to their sites.
-class SectorRows
+/// Gives the transmitters of the second table to their sites. False if no row names one of them.
+bool addTransmitters(SectorRows &rows, const SecondTable &sectors, SiteIndex &index,
+                     ProblemList &problems)
 {
-public:
-    SectorRows(const SecondTable &sectors, const SiteRoles &roles, int idField, const Sites &sites,
-               ProblemList &problems)
-        : m_sectors(sectors)
-        , m_table(sectors.profile())
-        , m_idField(idField)
-        , m_sites(sites)
-        , m_problems(problems)
-        , m_reader(m_table, roles, installedVocabulary().words)
-    {}
-
-    /// False if no row names one of the sites.
-    bool read()
-    {
-        FieldCells cells(m_table);
-        const std::unique_ptr<DataRows> rows = m_sectors.rows();
-        std::vector<RowProblem> problems;
-        while (rows->advance()) {
-            problems.clear();
-            const int64_t row = rows->rowNumber();
-            cells.take(rows->cells(), problems);
-            addRow(row, cells.cells(), m_reader.read(row, cells.cells(), problems), problems);
-            for (RowProblem &problem : problems)
-                m_problems.add(m_sectors.located(std::move(problem)));
-        }
-        return m_found > 0;
+    bool found = false;
+    while (rows.advance()) {
+        SectorRow &row = rows.row();
+        if (row.site)
+            index.addTransmitters(*row.site, std::move(row.transmitters));
+        found = found || row.site;
+        for (RowProblem &problem : row.problems)
+            problems.add(sectors.located(std::move(problem)));
     }
-
-private:
-    void addRow(int64_t row, const std::vector<const Cell *> &cells, Transmitters transmitters,
-                std::vector<RowProblem> &problems)
-    {
-        const std::string id = fieldText(cells, m_idField);
-        if (!id.empty()) {
-            const auto site = m_sites.byKey.find(joinKey(id));
-            m_site = site == m_sites.byKey.end() ? std::nullopt : std::optional(site->second);
-            m_found += m_site ? 1 : 0;
-            if (!m_site)
-                problems.push_back({row, fieldName(), false,
-                                    contract::formatted("MESS_TAB_NO_SUCH_SITE", {quotation(id)})});
-        } else if (!m_site && std::any_of(transmitters.begin(), transmitters.end(),
-                                          [](const auto &values) { return values.has_value(); }))
-            problems.push_back(
-                {row, fieldName(), false, contract::formatted("MESS_TAB_NO_SITE_NAMED")});
-        if (m_site)
-            m_sites.index->addTransmitters(*m_site, std::move(transmitters));
-    }
-
-    const std::string &fieldName() const
-    {
-        return m_table.fields[static_cast<std::size_t>(m_idField)].name;
-    }
-
-    const SecondTable &m_sectors;
-    const TableProfile &m_table;
-    int m_idField; ///< with the id or name of the site
-    const Sites &m_sites;
-    ProblemList &m_problems;
-    TransmitterReader m_reader;
-    std::optional<std::size_t> m_site; ///< of the last row that names one
-    std::size_t m_found = 0;           ///< rows whose site exists
-};
+    return found;
+}
 
 } // namespace
+
+SectorRows::SectorRows(const SecondTable &sectors, int idField, const SiteNumbers &sites)
+    : m_table(sectors.profile())
+    , m_roles(recogniseSiteLayout(m_table, installedVocabulary().words).roles)
+    , m_idField(idField)
+    , m_sites(sites)
+    , m_reader(m_table, m_roles, installedVocabulary().words)
+    , m_cells(m_table)
+    , m_rows(sectors.rows())
+{}
+
+bool SectorRows::advance()
+{
+    if (!m_rows->advance())
+        return false;
+    m_row.number = m_rows->rowNumber();
+    m_row.problems.clear();
+    m_cells.take(m_rows->cells(), m_row.problems);
+    const std::size_t before = m_row.problems.size();
+    m_row.transmitters = m_reader.read(m_row.number, m_cells.cells(), m_row.problems);
+    m_row.losesTransmitters =
+        m_row.problems.size() > before && !hasTransmitters(m_row.transmitters);
+    findSite(m_cells.cells());
+    return true;
+}
+
+void SectorRows::findSite(const std::vector<const Cell *> &cells)
+{
+    const std::string id = fieldText(cells, m_idField);
+    const auto report = [this](const std::string &text) {
+        const Field &field = m_table.fields[static_cast<std::size_t>(m_idField)];
+        m_row.problems.push_back({m_row.number, field.name, false, text});
+    };
+    if (!id.empty()) {
+        const auto site = m_sites.find(joinKey(id));
+        m_row.site = site == m_sites.end() ? std::nullopt : std::optional(site->second);
+        if (!m_row.site)
+            report(contract::formatted("MESS_TAB_NO_SUCH_SITE", {quotation(id)}));
+    } else if (!m_row.site && hasTransmitters(m_row.transmitters))
+        report(contract::formatted("MESS_TAB_NO_SITE_NAMED"));
+}
 
 std::optional<JoinedSites> joinSectors(const TableProfile &table, SiteLayout &layout,
                                        const OpenRows &siteRows, const SecondTable &sectors,
@@ -132,8 +119,10 @@ std::optional<JoinedSites> joinSectors(const TableProfile &table, SiteLayout &la
     if (columns.siteField() != layout.roles.siteName)
         layout.roles.siteId = columns.siteField();
     const Sites sites = readSites(table, layout, *siteRows(), columns.siteField());
-    JoinedSites joined = {sites.index, roles.transmitters, {}};
-    if (!SectorRows(sectors, roles, columns.sectorField(), sites, joined.problems).read())
+    JoinedSites joined = {
+        sites.index, {columns.siteField(), columns.sectorField()}, roles.transmitters, {}};
+    SectorRows rows(sectors, columns.sectorField(), sites.byKey);
+    if (!addTransmitters(rows, sectors, *sites.index, joined.problems))
         return std::nullopt;
     sites.index->finish();
     const auto bare =

@@ -2,7 +2,6 @@
 
 #include "contract/TableMetadata.h"
 #include "contract/TableTexts.h"
-#include "plugins/tables/roles/Vocabulary.h"
 
 namespace vlt::driver {
 
@@ -97,10 +96,7 @@ std::optional<double> offeredNumber(OfferedValue value, const OfferedInput &inpu
 
 SiteLayer::SiteLayer(const TableSource &source)
     : TableLayer(source, source.facts().table.sheet, 1)
-    , m_positions(source.facts().table, source.facts().sites().point, source.facts().sites().unit,
-                  source.systems->halfTurn())
-    , m_transmitters(source.facts().table, source.facts().sites().roles,
-                     installedVocabulary().words)
+    , m_reader(source)
 {
     for (const OfferedField &field : facts().sites().offered)
         defineField(field.name.c_str(), field.isText() ? OFTString : OFTReal);
@@ -122,18 +118,7 @@ GIntBig SiteLayer::rowsWithFeatures() const
 RowMeaning SiteLayer::readRow(int64_t row, const FieldCells &cells,
                               std::vector<RowProblem> &problems) const
 {
-    SiteRow site;
-    site.inFile = m_positions.read(row, cells.cells(), problems);
-    site.transmitters = m_transmitters.read(row, cells.cells(), problems);
-    if (const auto &index = facts().siteIndex) {
-        index->addProblems(row, problems);
-        const IndexedSite *begun = index->beginningIn(row);
-        if (begun && begun->position().found && !site.inFile.found)
-            site.inFile = begun->position();
-    }
-    site.placed = site.inFile;
-    systems().transform(row, site.placed, problems);
-    return site;
+    return m_reader.read(row, cells.cells(), problems);
 }
 
 void SiteLayer::addPositions(SurveyedPositions &positions, const TableRow &row) const

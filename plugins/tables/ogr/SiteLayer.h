@@ -1,5 +1,6 @@
 #pragma once
 
+#include "plugins/tables/ogr/SiteRowReader.h"
 #include "plugins/tables/ogr/TableLayer.h"
 
 namespace vlt::driver {
@@ -25,8 +26,7 @@ private:
     CPLStringList rolesMetadata() const override;
     void setOffered(OGRFeature &feature, const TableRow &row) const;
 
-    PositionReader m_positions;
-    TransmitterReader m_transmitters;
+    SiteRowReader m_reader;
 };
 
 } // namespace vlt::driver

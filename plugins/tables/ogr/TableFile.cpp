@@ -167,10 +167,7 @@ void TableFile::readLinks(TableFacts &facts, const TableProfile &profile)
              {},
              false,
              contract::formatted("MESS_TAB_END_SITES_NOT_USED", {fileName(m_options.second)})});
-    const std::optional<SecondTable> second = isComplete ? std::nullopt
-                                              : m_secondFile
-                                                  ? std::optional(secondFile(endSiteSuitability))
-                                                  : otherSheet(endSiteSuitability);
+    const std::optional<SecondTable> second = isComplete ? std::nullopt : find(endSiteSuitability);
     std::optional<EndSites> sites = second ? readEndSites(*second) : std::nullopt;
     if (m_secondFile && !isComplete && !sites)
         refuseSecond("MESS_TAB_NO_NAMED_SITES");
@@ -241,8 +238,7 @@ bool TableFile::joinTransmitters(TableFacts &facts)
     const bool isBare = layout.point.found() && layout.roles.transmitters.empty();
     if (isComplete || layout.isLinkEnd || (!m_secondFile && !isBare))
         return false;
-    const std::optional<SecondTable> sectors =
-        m_secondFile ? std::optional(secondFile(sectorSuitability)) : otherSheet(sectorSuitability);
+    const std::optional<SecondTable> sectors = find(sectorSuitability);
     if (!sectors)
         return false;
     auto joined = joinSectors(
@@ -256,6 +252,7 @@ bool TableFile::joinTransmitters(TableFacts &facts)
     facts.siteIndex = joined->index;
     layout.maxTransmitters = facts.siteIndex->transmitterRange().second;
     facts.joinProblems = std::move(joined->problems);
+    facts.joinFields = joined->fields;
     layout.offered = offeredFields(facts.table, layout.roles, layout.point, layout.unit,
                                    joined->transmitters, layout.maxTransmitters);
     return true;
@@ -277,6 +274,19 @@ std::optional<SecondTable> TableFile::otherSheet(Suitability suitability) const
     } catch (const RefusedFile &) { // there is none, or it is damaged
         return std::nullopt;
     }
+}
+
+/// The table in the second file, or else in another sheet.
+std::optional<SecondTable> TableFile::find(Suitability suitability) const
+{
+    return m_secondFile ? std::optional(secondFile(suitability)) : otherSheet(suitability);
+}
+
+std::optional<SecondTable> TableFile::secondTable() const
+{
+    if (m_facts->endSites)
+        return find(endSiteSuitability);
+    return m_facts->joinFields.sector >= 0 ? find(sectorSuitability) : std::nullopt;
 }
 
 void TableFile::refuseSecond(contract::TableTextId why) const
@@ -307,17 +317,28 @@ std::unique_ptr<Workbook> TableFile::openFile() const
         {known ? m_facts->table.encoding.name : m_options.encoding, m_options.delimiter});
 }
 
-std::unique_ptr<DataRows> TableFile::rows()
+const Sheet &TableFile::sheet()
 {
     if (!m_sheet) {
         const std::unique_ptr<Workbook> workbook = openFile();
         m_sheet = findSheet(*workbook, m_facts->table.sheet);
     }
+    return *m_sheet;
+}
+
+char TableFile::delimiter()
+{
+    return sheet().delimiter();
+}
+
+std::unique_ptr<DataRows> TableFile::rows()
+{
+    const Sheet &read = sheet();
     if (!m_stringsPrepared)
-        m_sheet->prepareStrings(m_facts->table.rowCount);
+        read.prepareStrings(m_facts->table.rowCount);
     m_stringsPrepared = true;
     return std::make_unique<DataRows>(
-        *m_sheet, std::shared_ptr<const TableProfile>(m_facts, &m_facts->table));
+        read, std::shared_ptr<const TableProfile>(m_facts, &m_facts->table));
 }
 
 } // namespace vlt::driver

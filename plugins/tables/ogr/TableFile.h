@@ -5,6 +5,7 @@
 #include "plugins/tables/links/LinkLayout.h"
 #include "plugins/tables/ogr/ProblemList.h"
 #include "plugins/tables/ogr/SecondTable.h"
+#include "plugins/tables/ogr/SectorJoin.h"
 #include "plugins/tables/sites/SiteIndex.h"
 #include "plugins/tables/sites/SiteLayout.h"
 #include "plugins/tables/table/Table.h"
@@ -42,6 +43,7 @@ struct TableFacts
     /// The sites at the ends of links that only name them; else null.
     std::shared_ptr<const SiteDirectory> endSites = {};
     ProblemList joinProblems = {}; ///< of the other table
+    JoinFields joinFields = {};    ///< if the transmitters stand in another table
 
     const SiteLayout &sites() const { return std::get<SiteLayout>(layout); }
     const LinkLayout &links() const { return std::get<LinkLayout>(layout); }
@@ -71,6 +73,10 @@ public:
     std::unique_ptr<DataRows> rows();
     /// Opens the file again from its first sheet.
     std::unique_ptr<Workbook> openFile() const;
+    /// The table that completes this one; nothing if none does. Throws RefusedFile.
+    std::optional<SecondTable> secondTable() const;
+    /// What separates the columns; 0 if the file is no text.
+    char delimiter();
 
 private:
     using Suitability = int(const TableProfile &start, const Vocabulary &vocabulary);
@@ -86,6 +92,8 @@ private:
     std::optional<SecondTable> otherSheet(Suitability suitability) const;
     [[noreturn]] void refuseSecond(contract::TableTextId why) const;
     SecondTable secondFile(Suitability suitability) const;
+    std::optional<SecondTable> find(Suitability suitability) const;
+    const Sheet &sheet();
 
     std::shared_ptr<const InputFile> m_file;
     std::shared_ptr<const InputFile> m_secondFile; ///< null without one

@@ -18,6 +18,8 @@ struct LinkRow
     std::array<Position, 2> inFile; ///< ends in the file's system, offsets applied
     std::array<Position, 2> placed; ///< ends in the target system
     std::optional<double> lengthM;  ///< between the ends, on the earth's surface
+
+    bool isPlaced() const { return placed[0].found && placed[1].found; }
 };
 
 /// A site as read from a row.
@@ -26,6 +28,7 @@ struct SiteRow
     Position inFile;                                            ///< in the file's system
     Position placed;                                            ///< in the target system
     std::vector<std::optional<TransmitterValues>> transmitters; ///< of this row
+    bool losesTransmitters = false; ///< all of this row have values that cannot be used
 };
 
 /// The meaning of a row.

@@ -118,6 +118,12 @@ private:
     bool m_isOmni = false;
 };
 
+bool hasTransmitters(const std::vector<std::optional<TransmitterValues>> &transmitters)
+{
+    return std::any_of(transmitters.begin(), transmitters.end(),
+                       [](const auto &values) { return values.has_value(); });
+}
+
 TransmitterReader::TransmitterReader(const TableProfile &table, const SiteRoles &roles,
                                      const Vocabulary &vocabulary)
     : m_table(&table)

@@ -23,6 +23,9 @@ struct TransmitterValues
     std::optional<double> frequencyMHz;
 };
 
+/// Whether there is at least one transmitter.
+bool hasTransmitters(const std::vector<std::optional<TransmitterValues>> &transmitters);
+
 /// Reads the transmitters of a row and reports the values that cannot be used. A transmitter with
 /// such a height or azimuth is left out, so that nothing is drawn in its stead.
 class TransmitterReader

@@ -153,23 +153,31 @@ DataRows::DataRows(const Sheet &sheet, std::shared_ptr<const TableProfile> profi
     , m_rows(sheet.rows())
 {}
 
-bool DataRows::isData()
+RowKind DataRows::readKind()
 {
     m_parsed = false;
     // Columns without a name become fields only after the rows were counted, so they do not count
     // here.
     const int lastNamed = m_profile->header.names.rbegin()->first;
     const Header &header = m_profile->header;
-    if (m_rows->rowNumber() <= header.lastRow() || !m_rows->hasContent(lastNamed) ||
-        std::binary_search(m_profile->leftOutRows.begin(), m_profile->leftOutRows.end(),
-                           m_rows->rowNumber()))
-        return false;
+    const int64_t number = m_rows->rowNumber();
+    if (!m_rows->hasContent(lastNamed))
+        return RowKind::Nothing;
+    if (number <= header.lastRow())
+        return RowKind::Head;
+    const auto isIn = [number](const std::vector<int64_t> &rows) {
+        return std::binary_search(rows.begin(), rows.end(), number);
+    };
+    if (isIn(m_profile->leftOutRows))
+        return isIn(m_profile->totalRows) ? RowKind::Total : RowKind::RepeatedHeader;
     const uint64_t fingerprint = m_rows->fingerprint();
     const auto isRepeated = [&](const HeaderRow &row) {
         return row.fingerprint == fingerprint && repeats(cellsWithTexts(), row);
     };
-    return std::none_of(header.rows.begin(), header.rows.end(), isRepeated) &&
-           std::none_of(header.furtherRows.begin(), header.furtherRows.end(), isRepeated);
+    return std::any_of(header.rows.begin(), header.rows.end(), isRepeated) ||
+                   std::any_of(header.furtherRows.begin(), header.furtherRows.end(), isRepeated)
+               ? RowKind::RepeatedHeader
+               : RowKind::Data;
 }
 
 const Row &DataRows::cellsWithTexts()
@@ -184,10 +192,21 @@ const Row &DataRows::cellsWithTexts()
 bool DataRows::advance()
 {
     while (m_rows->advance()) {
-        if (isData())
+        const RowKind kind = readKind();
+        if (kind == RowKind::Data)
             return true;
+        m_repeatedHeaders += kind == RowKind::RepeatedHeader ? 1 : 0;
     }
     return false;
+}
+
+RowKind DataRows::advanceToAny()
+{
+    while (m_rows->advance()) {
+        if (const RowKind kind = readKind(); kind != RowKind::Nothing)
+            return kind;
+    }
+    return RowKind::Nothing;
 }
 
 bool DataRows::seek(int64_t row)

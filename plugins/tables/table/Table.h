@@ -47,10 +47,13 @@ struct TableProfile
     bool allRowsSampled = true;
     std::vector<int64_t> leftOutRows; ///< numbers of rows below the header without data, ascending
     std::vector<int64_t> totalRows;   ///< those of them that hold sums
+    uint64_t repeatedHeaders = 0;     ///< number of further rows that repeat one of the header
     std::vector<RowMark> marks;       ///< every few thousand rows, ascending
     /// The texts of the cells of the first rows, by field and row; empty for empty cells.
     std::vector<std::vector<std::string>> sampledColumns;
 
+    /// Number of rows below the header that hold something.
+    uint64_t rowCountWithAll() const { return rowCount + leftOutRows.size() + repeatedHeaders; }
     /// The name of a field in the header, without the number that makes it unique.
     std::string nameInHeader(int field) const;
     /// That name without the groups above it: Azimuth for "Sector 1 Azimuth".
@@ -92,6 +95,15 @@ std::shared_ptr<const TableProfile> readStart(const Sheet &sheet, const Header &
 /// The sheet of a profile, in a workbook that was opened again.
 std::shared_ptr<Sheet> findSheet(Workbook &workbook, const std::string &name);
 
+/// What a row of a sheet holds.
+enum class RowKind {
+    Nothing,
+    Head, ///< titles, names of columns, units
+    Data,
+    RepeatedHeader,
+    Total, ///< sums
+};
+
 /// The rows of a table that hold data: those below the header that are not empty, do not repeat it
 /// and are no sums.
 class DataRows
@@ -101,6 +113,10 @@ public:
 
     /// Goes to the next row of data; false after the last.
     bool advance();
+    /// Goes to the next row that holds anything at all; Nothing after the last.
+    RowKind advanceToAny();
+    /// Number of the rows that repeat the header, among those that advance() has left out.
+    uint64_t repeatedHeaders() const { return m_repeatedHeaders; }
     /// Goes to the row with that number, or else to the next one after it; false if there is none.
     bool seek(int64_t row);
     int64_t rowNumber() const { return m_rows->rowNumber(); }
@@ -119,7 +135,7 @@ public:
     std::size_t size() const { return m_rows->size(); }
 
 private:
-    bool isData();
+    RowKind readKind();
 
     const Sheet *m_sheet;
     std::shared_ptr<const TableProfile> m_profile;
@@ -127,6 +143,7 @@ private:
     const std::vector<char> *m_leftOut = nullptr;
     Row m_row;
     bool m_parsed = false;
+    uint64_t m_repeatedHeaders = 0;
 };
 
 } // namespace vlt::driver

@@ -41,6 +41,7 @@ public:
                 addData(rows);
         }
         leaveOutTotals();
+        m_profile.repeatedHeaders = rows.repeatedHeaders();
         std::sort(m_profile.leftOutRows.begin(), m_profile.leftOutRows.end());
     }
 

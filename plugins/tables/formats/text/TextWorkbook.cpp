@@ -62,6 +62,8 @@ public:
         return {m_format.encoding, !m_format.isStated && !m_format.isUtf8()};
     }
 
+    char delimiter() const override { return m_format.delimiter; }
+
     std::unique_ptr<RowReader> rows() const override
     {
         return rowsAt(m_format.start, m_format.firstRow);

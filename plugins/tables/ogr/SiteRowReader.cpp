@@ -1,0 +1,34 @@
+#include "plugins/tables/ogr/SiteRowReader.h"
+
+#include "plugins/tables/roles/Vocabulary.h"
+
+namespace vlt::driver {
+
+SiteRowReader::SiteRowReader(const TableSource &source)
+    : m_facts(&source.facts())
+    , m_systems(source.systems)
+    , m_positions(m_facts->table, m_facts->sites().point, m_facts->sites().unit,
+                  m_systems->halfTurn())
+    , m_transmitters(m_facts->table, m_facts->sites().roles, installedVocabulary().words)
+{}
+
+SiteRow SiteRowReader::read(int64_t row, const std::vector<const Cell *> &cells,
+                            std::vector<RowProblem> &problems) const
+{
+    SiteRow site;
+    site.inFile = m_positions.read(row, cells, problems);
+    const std::size_t before = problems.size();
+    site.transmitters = m_transmitters.read(row, cells, problems);
+    site.losesTransmitters = problems.size() > before && !hasTransmitters(site.transmitters);
+    if (const auto &index = m_facts->siteIndex) {
+        index->addProblems(row, problems);
+        const IndexedSite *begun = index->beginningIn(row);
+        if (begun && begun->position().found && !site.inFile.found)
+            site.inFile = begun->position();
+    }
+    site.placed = site.inFile;
+    m_systems->transform(row, site.placed, problems);
+    return site;
+}
+
+} // namespace vlt::driver
