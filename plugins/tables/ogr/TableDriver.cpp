@@ -2,10 +2,12 @@
 #include "contract/Installation.h"
 #include "contract/QueryOptions.h"
 #include "contract/TableMetadata.h"
-#include "contract/TableTexts.h"
+#include "contract/TableReport.h"
 #include "plugins/tables/bytes/Refusal.h"
+#include "plugins/tables/ogr/Guarded.h"
 #include "plugins/tables/ogr/LinkEndLayer.h"
 #include "plugins/tables/ogr/LinkLayer.h"
+#include "plugins/tables/ogr/ReportLayer.h"
 #include "plugins/tables/ogr/SiteLayer.h"
 #include "plugins/tables/ogr/TableExcerpt.h"
 
@@ -26,7 +28,7 @@ class TableDataset final : public GDALDataset
 public:
     /// @param files  paths of the files that the dataset reads
     TableDataset(const TableSource &source, std::vector<std::string> files)
-        : m_table(source.file)
+        : m_source(source)
         , m_files(std::move(files))
     {
         if (std::holds_alternative<SiteLayout>(source.facts().layout)) {
@@ -43,6 +45,21 @@ public:
         return index >= 0 && index < GetLayerCount()
                    ? m_layers[static_cast<std::size_t>(index)].get()
                    : nullptr;
+    }
+
+    /// Also the statements of contract/TableReport.h.
+    OGRLayer *ExecuteSQL(const char *statement, OGRGeometry *filter, const char *dialect) override
+    {
+        OGRLayer *layer = nullptr;
+        guarded(GetDescription(), [&] {
+            if (EQUAL(statement, contract::report::Statement))
+                layer = new FatesLayer(m_source);
+            else if (EQUAL(statement, contract::report::RejectsStatement))
+                layer = new RejectsLayer(m_source);
+            else
+                layer = GDALDataset::ExecuteSQL(statement, filter, dialect);
+        });
+        return layer;
     }
 
     char **GetFileList() override
@@ -71,17 +88,11 @@ public:
 private:
     void readExcerpt()
     {
-        try {
-            m_excerpt.AddString(tableExcerpt(*m_table).c_str());
-        } catch (const RefusedFile &refused) { // the file changed since it was opened
-            CPLError(CE_Failure, CPLE_FileIO, "%s: %s", m_files.front().c_str(), refused.what());
-        } catch (const std::bad_alloc &) {
-            CPLError(CE_Failure, CPLE_OutOfMemory, "%s",
-                     contract::formatted("MESS_TAB_OUT_OF_MEMORY").c_str());
-        }
+        guarded(m_files.front().c_str(),
+                [this] { m_excerpt.AddString(tableExcerpt(*m_source.file).c_str()); });
     }
 
-    std::shared_ptr<const TableFile> m_table;
+    TableSource m_source;
     CPLStringList m_excerpt;
     std::vector<std::string> m_files;
     std::vector<std::unique_ptr<TableLayer>> m_layers;

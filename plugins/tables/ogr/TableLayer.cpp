@@ -1,8 +1,10 @@
 #include "plugins/tables/ogr/TableLayer.h"
 
 #include "contract/TableMetadata.h"
+#include "contract/TableReport.h"
 #include "contract/TableTexts.h"
-#include "plugins/tables/bytes/Refusal.h"
+#include "plugins/tables/ogr/Guarded.h"
+#include "plugins/tables/ogr/ReportLayer.h"
 #include "plugins/tables/roles/Vocabulary.h"
 #include "plugins/tables/sites/SystemNames.h"
 
@@ -131,22 +133,12 @@ void TableLayer::setGeometry(OGRFeature &feature, std::unique_ptr<OGRGeometry> g
     feature.SetGeometryDirectly(geometry.release());
 }
 
-/// Runs an action that reads the file. If the file turns out to be damaged, reports it as an error
-/// of the library and returns false.
+/// Runs an action that reads the file; if that fails, no further features are read.
 template<typename Action>
 bool TableLayer::guarded(Action action)
 {
-    try {
-        action();
-        return true;
-    } catch (const RefusedFile &refused) {
-        CPLError(CE_Failure, CPLE_FileIO, "%s: %s", GetDescription(), refused.what());
-    } catch (const std::bad_alloc &) {
-        CPLError(CE_Failure, CPLE_OutOfMemory, "%s: %s", GetDescription(),
-                 formatted("MESS_TAB_OUT_OF_MEMORY").c_str());
-    }
-    m_failed = true;
-    return false;
+    m_failed = !driver::guarded(GetDescription(), action) || m_failed;
+    return !m_failed;
 }
 
 void TableLayer::ResetReading()
@@ -452,8 +444,17 @@ char **TableLayer::doctorMetadata()
     return m_doctorItems.List();
 }
 
+char **TableLayer::rowsMetadata()
+{
+    if (m_rowsItems.Count() == 0)
+        guarded([this] { m_rowsItems = countRows(m_source); });
+    return m_rowsItems.List();
+}
+
 std::optional<char **> TableLayer::ownMetadata(const char *domain)
 {
+    if (listsProblems() && domain && EQUAL(domain, contract::report::RowsDomain))
+        return rowsMetadata();
     if (listsProblems() && domain && EQUAL(domain, metadata::ProblemsDomain))
         return problemsMetadata();
     if (listsProblems() && domain && EQUAL(domain, metadata::DoctorDomain))
@@ -484,7 +485,8 @@ char **TableLayer::GetMetadataDomainList()
     const char *roles =
         ownMetadata(metadata::RolesDomain).value_or(nullptr) ? metadata::RolesDomain : nullptr;
     if (problems)
-        list = BuildMetadataDomainList(list, FALSE, problems, metadata::DoctorDomain, nullptr);
+        list = BuildMetadataDomainList(list, FALSE, problems, metadata::DoctorDomain,
+                                       contract::report::RowsDomain, nullptr);
     return roles ? BuildMetadataDomainList(list, FALSE, roles, nullptr) : list;
 }
 

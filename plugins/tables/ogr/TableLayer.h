@@ -121,6 +121,7 @@ private:
     ProblemList fileProblems() const;
     char **problemsMetadata();
     char **doctorMetadata();
+    char **rowsMetadata();
     /// The items of a domain that this layer makes itself; nothing for another one.
     std::optional<char **> ownMetadata(const char *domain);
     template<typename Action>
@@ -136,6 +137,7 @@ private:
     std::optional<CPLStringList> m_rolesItems;
     CPLStringList m_problemsItems; ///< the problems of all rows as metadata
     CPLStringList m_doctorItems;   ///< the findings about all positions as metadata
+    CPLStringList m_rowsItems;     ///< the numbers of rows by fate as metadata
     OGREnvelope m_extent;
 };
 

@@ -807,5 +807,21 @@
         <source>%1 rows, each of them a link between sites of another table</source>
         <translation>%1 rows, each of them a link between sites of another table</translation>
     </message>
+    <message id="MESS_TAB_REPEATED_HEADER">
+        <source>the row repeats the header</source>
+        <translation>the row repeats the header</translation>
+    </message>
+    <message id="MESS_TAB_SITE_UNPLACED">
+        <source>the site "%1" has no position</source>
+        <translation>the site "%1" has no position</translation>
+    </message>
+    <message id="MESS_TAB_READ_AS">
+        <source>the coordinate "%1" is read as %2</source>
+        <translation>the coordinate "%1" is read as %2</translation>
+    </message>
+    <message id="MESS_TAB_READ_O">
+        <source>the letter O in the coordinate "%1" is read as %2</source>
+        <translation>the letter O in the coordinate "%1" is read as %2</translation>
+    </message>
 </context>
 </TS>

@@ -807,5 +807,21 @@
         <source>%1 rows, each of them a link between sites of another table</source>
         <translation>%1 lignes, chacune étant une liaison entre des sites d'un autre tableau</translation>
     </message>
+    <message id="MESS_TAB_REPEATED_HEADER">
+        <source>the row repeats the header</source>
+        <translation>la ligne répète l'en-tête</translation>
+    </message>
+    <message id="MESS_TAB_SITE_UNPLACED">
+        <source>the site "%1" has no position</source>
+        <translation>le site «&#xa0;%1&#xa0;» n'a pas de position</translation>
+    </message>
+    <message id="MESS_TAB_READ_AS">
+        <source>the coordinate "%1" is read as %2</source>
+        <translation>la coordonnée «&#xa0;%1&#xa0;» est lue comme %2</translation>
+    </message>
+    <message id="MESS_TAB_READ_O">
+        <source>the letter O in the coordinate "%1" is read as %2</source>
+        <translation>la lettre O de la coordonnée «&#xa0;%1&#xa0;» est lue comme %2</translation>
+    </message>
 </context>
 </TS>
