@@ -43,6 +43,32 @@ private Q_SLOTS:
         QCOMPARE(mistakesFoundIn(table), expected);
     }
 
+    void reportsRows_data() { addTables(u"sites"_s); }
+    void reportsRows()
+    {
+        QFETCH(QJsonObject, table);
+        QStringList expected;
+        for (const QJsonValue &problem : table.value(u"problems"_s).toArray()) {
+            const QString row = plainText(problem[u"row"_s]);
+            const QString column = problem[u"column"_s].toString();
+            const bool isOfSecond = problem[u"file"_s].isString() || problem[u"sheet"_s].isString();
+            if (row != u"0"_s && !column.isEmpty() && !isOfSecond)
+                expected += row + u'|' + column;
+        }
+        const Warnings warnings;
+        const GDALDatasetUniquePtr dataset = open(table, "site:");
+        QVERIFY(dataset);
+        QSet<QString> found;
+        char **items = dataset->GetLayer(0)->GetMetadata("problems");
+        for (char **item = items; item && *item; ++item)
+            found += QString::fromUtf8(*item).section(u'=', 1).section(u'|', 0, 1);
+        if (m_notYet.contains(table.value(u"file"_s).toString()))
+            return;
+
+        for (const QString &problem : expected)
+            QVERIFY2(found.contains(problem), qPrintable(problem));
+    }
+
 private:
     /// The kinds of problems that concern the positions of a table as a whole.
     static QStringList mistakesExpectedOf(const QJsonObject &table)

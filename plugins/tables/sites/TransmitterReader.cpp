@@ -15,12 +15,21 @@ using contract::TableTextId;
 constexpr double WholeTurnDeg = 360;
 constexpr std::size_t MaxListed = 100; ///< items of a list
 
-/// The item of a list; the whole text if it is no list.
-std::string_view itemOf(const std::vector<std::string_view> &parts, std::size_t index)
+using Parts = std::vector<std::string_view>;
+
+/// The number of parts without empty ones at the end.
+std::size_t sizeOf(const Parts &parts)
 {
-    return parts.size() == 1      ? parts.front()
-           : index < parts.size() ? parts[index]
-                                  : std::string_view();
+    std::size_t size = parts.size();
+    while (size > 1 && parts[size - 1].empty())
+        --size;
+    return size;
+}
+
+/// Whether a list has one value for each of `count` transmitters, or one for all.
+bool suits(const Parts &parts, std::size_t count)
+{
+    return parts.size() == 1 || parts.size() == count || sizeOf(parts) == count;
 }
 
 } // namespace
@@ -63,18 +72,33 @@ public:
             values.azimuthDeg.reset();
         values.sectorId = text(fields.sectorId);
         values.technology = text(fields.technology);
-        values.frequencyMHz = readFrequency(itemText(fields.frequency.field, splitList),
-                                            fields.frequency.unit, m_reader.m_words)
-                                  .number;
+        values.frequencyMHz = frequencyMHz(fields.frequency);
         return values;
     }
 
-    std::size_t itemCount(const TransmitterFields &fields) const
+    /// Finds the number of transmitters in the lists of a row, and reports the lists of another
+    /// length: it is not known which transmitter lacks a value.
+    std::size_t countItems(const TransmitterFields &fields)
     {
-        std::size_t count = 1;
-        for (const int field : {fields.azimuth.field, fields.height.field})
-            count = std::max(count, splitList(fieldText(m_cells, field)).size());
-        return std::min(count, MaxListed);
+        const auto partsOf = [this](const QuantityField &of, std::string &text) {
+            text = fieldText(m_cells, of.field);
+            return splitList(text);
+        };
+        std::string text;
+        m_itemCount = sizeOf(partsOf(fields.azimuth, text));
+        if (m_itemCount == 1)
+            m_itemCount = sizeOf(partsOf(fields.height, text));
+        m_itemCount = std::min(m_itemCount, MaxListed);
+        for (const QuantityField &of :
+             {fields.azimuth, fields.height, fields.mechanicalTilt, fields.electricalTilt,
+              fields.beamWidth}) { // a list of bands may be that of each transmitter
+            const Parts parts = partsOf(of, text);
+            if (!suits(parts, m_itemCount))
+                report(
+                    of, "MESS_TAB_LIST_LENGTH",
+                    {quotation(text), std::to_string(parts.size()), std::to_string(m_itemCount)});
+        }
+        return m_itemCount;
     }
 
 private:
@@ -82,13 +106,17 @@ private:
     using ReadValue = TransmitterValue (*)(std::string_view text, double unit,
                                            const ValueWords &words);
 
-    /// The text of the transmitter in a field.
+    /// The text of the transmitter in a field; empty in a list of another length.
     std::string itemText(int field, Split split) const
     {
-        const std::string whole = fieldText(m_cells, field);
-        return m_reader.m_roles->shape == SiteShape::Lists
-                   ? std::string(itemOf(split(whole), m_item))
-                   : whole;
+        std::string whole = fieldText(m_cells, field);
+        if (m_reader.m_roles->shape != SiteShape::Lists)
+            return whole;
+        const Parts parts = split(whole);
+        if (parts.size() == 1)
+            return whole;
+        return suits(parts, m_itemCount) && m_item < parts.size() ? std::string(parts[m_item])
+                                                                  : std::string();
     }
     std::string text(int field) const { return itemText(field, splitNames); }
 
@@ -102,17 +130,38 @@ private:
         m_isOmni = m_isOmni || value.isOmni;
         if (value.fault) {
             m_isUsable = false;
-            m_problems.push_back({m_row,
-                                  m_reader.m_table->fields[static_cast<std::size_t>(of.field)].name,
-                                  false, contract::formatted(why, {quotation(item)})});
+            report(of, why, {quotation(item)});
         }
         return value.number;
+    }
+
+    /// A frequency is not needed to draw the transmitter.
+    std::optional<double> frequencyMHz(const QuantityField &of)
+    {
+        const std::string item = itemText(of.field, splitList);
+        const TransmitterValue value = readFrequency(item, of.unit, m_reader.m_words);
+        if (value.fault)
+            report(of,
+                   *value.fault == ValueFault::Unreadable
+                       ? TableTextId("MESS_TAB_FREQUENCY_UNREADABLE")
+                       : TableTextId("MESS_TAB_FREQUENCY_NOT_POSITIVE"),
+                   {quotation(item)});
+        return value.number;
+    }
+
+    void report(const QuantityField &of, TableTextId why,
+                std::initializer_list<std::string_view> values)
+    {
+        m_problems.push_back({m_row,
+                              m_reader.m_table->fields[static_cast<std::size_t>(of.field)].name,
+                              false, contract::formatted(why, values)});
     }
 
     const TransmitterReader &m_reader;
     int64_t m_row;
     const std::vector<const Cell *> &m_cells;
     std::vector<RowProblem> &m_problems;
+    std::size_t m_itemCount = 1; ///< of the lists
     std::size_t m_item = 0;
     bool m_isUsable = true;
     bool m_isOmni = false;
@@ -141,7 +190,7 @@ TransmitterReader::read(int64_t row, const std::vector<const Cell *> &cells,
     for (const TransmitterFields &fields : m_roles->transmitters) {
         RowContext context(*this, row, cells, problems);
         const std::size_t items =
-            m_roles->shape == SiteShape::Lists ? context.itemCount(fields) : 1;
+            m_roles->shape == SiteShape::Lists ? context.countItems(fields) : 1;
         for (std::size_t item = 0; item < items; ++item)
             transmitters.push_back(context.read(fields, item));
     }

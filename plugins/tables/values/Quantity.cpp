@@ -83,6 +83,14 @@ bool isDigit(char c)
     return c >= '0' && c <= '9';
 }
 
+/// Whether a text starts with a word of letters and then digits: "18a2" is no frequency.
+bool startsWithMixedWord(std::string_view text)
+{
+    const auto isLetter = [](char c) { return (c | 0x20) >= 'a' && (c | 0x20) <= 'z'; };
+    const auto end = std::find_if_not(text.begin(), text.end(), isLetter);
+    return end != text.begin() && end != text.end() && isDigit(*end);
+}
+
 /// A number at the start of a text, and the text after it.
 struct LeadingNumber
 {
@@ -177,7 +185,8 @@ std::optional<double> readFrequencyMHz(std::string_view text, std::optional<doub
         return std::nullopt;
     // "11 485" may be one frequency or two
     if (leading->mayBeList ||
-        (!leading->rest.empty() && (isDigit(leading->rest[0]) || (leading->rest[0] & 0x80) != 0)))
+        (!leading->rest.empty() && (isDigit(leading->rest[0]) || (leading->rest[0] & 0x80) != 0 ||
+                                    startsWithMixedWord(leading->rest))))
         return std::nullopt;
     const auto own = unitInName(leading->rest, megahertzPer);
     const auto unit = own ? own : unitMHz;

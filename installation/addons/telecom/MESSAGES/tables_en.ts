@@ -823,5 +823,9 @@
         <source>the letter O in the coordinate "%1" is read as %2</source>
         <translation>the letter O in the coordinate "%1" is read as %2</translation>
     </message>
+    <message id="MESS_TAB_LIST_LENGTH">
+        <source>the list "%1" has %2 values for %3 transmitters: none of them is used</source>
+        <translation>the list "%1" has %2 values for %3 transmitters: none of them is used</translation>
+    </message>
 </context>
 </TS>

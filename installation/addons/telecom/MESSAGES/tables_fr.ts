@@ -823,5 +823,9 @@
         <source>the letter O in the coordinate "%1" is read as %2</source>
         <translation>la lettre O de la coordonnée «&#xa0;%1&#xa0;» est lue comme %2</translation>
     </message>
+    <message id="MESS_TAB_LIST_LENGTH">
+        <source>the list "%1" has %2 values for %3 transmitters: none of them is used</source>
+        <translation>la liste «&#xa0;%1&#xa0;» a %2 valeurs pour %3 émetteurs&#xa0;: aucune n'est utilisée</translation>
+    </message>
 </context>
 </TS>
