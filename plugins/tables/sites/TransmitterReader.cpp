@@ -71,7 +71,7 @@ public:
         if (values.azimuthDeg && (m_isOmni || values.beamWidthDeg == WholeTurnDeg))
             values.azimuthDeg.reset();
         values.sectorId = text(fields.sectorId);
-        values.technology = text(fields.technology);
+        values.technology = technology(fields.technology);
         values.frequencyMHz = frequencyMHz(fields.frequency);
         return values;
     }
@@ -119,6 +119,13 @@ private:
                                                                   : std::string();
     }
     std::string text(int field) const { return itemText(field, splitNames); }
+
+    /// "LTE/NR" beside three azimuths is that of each of them.
+    std::string technology(int field) const
+    {
+        const std::string whole = fieldText(m_cells, field);
+        return suits(splitNames(whole), m_itemCount) ? text(field) : whole;
+    }
 
     /// A number in metres or degrees; reports one that cannot be used.
     std::optional<double> number(const QuantityField &of, ReadValue readValue, TableTextId why)
