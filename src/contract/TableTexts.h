@@ -128,6 +128,11 @@ inline constexpr auto TableTexts = std::to_array<Text>({
     {"MESS_TAB_SEA_LEVEL",
      "the heights in column \"%1\" are above sea level, not above ground: they are not used"},
     {"MESS_TAB_NO_FREQUENCIES", "no column with frequencies was recognised"},
+    {"MESS_TAB_DIAMETERS", "the dishes are drawn with the size that the layer states, not with the "
+                           "diameters in the table (%1)"},
+    {"MESS_TAB_REPEATERS", "passive repeaters are not drawn: each link is a straight line between "
+                           "its ends (%1)"},
+    {"MESS_TAB_LENGTH_UNREADABLE", "the stated length \"%1\" cannot be read"},
     {"MESS_TAB_NO_HEIGHT", "the antenna height is empty"},
     {"MESS_TAB_HEIGHT_UNREADABLE", "the antenna height \"%1\" cannot be read"},
     {"MESS_TAB_NO_FREQUENCY", "the frequency is empty"},

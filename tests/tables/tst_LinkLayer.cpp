@@ -298,6 +298,16 @@ private Q_SLOTS:
             "ground: they are not used");
         row("no frequencies", "X A;Y A;X B;Y B;Height A;Tower height B", "10;0;11;0;30;30",
             "||Warning|no column with frequencies was recognised");
+        row("dishes", "X A;Y A;X B;Y B;Height A;Height B;Frequency;Dish A (m);Antenna diameter B",
+            "10;0;11;0;30;30;7;0,6;1,2",
+            "||Warning|the dishes are drawn with the size that the layer states, not with the "
+            "diameters in the table (Dish A (m), Antenna diameter B)");
+        row("a repeater", "X A;Y A;X B;Y B;Height A;Height B;Frequency;Passive repeater;Dish A",
+            "10;0;11;0;30;30;7;Umlenker 3;",
+            "||Warning|passive repeaters are not drawn: each link is a straight line between its "
+            "ends (Passive repeater)");
+        row("an unreadable length", header + " (km)", "L;10;0;11;0;30;30;7;short",
+            "2|Length (km)|Warning|the stated length \"short\" cannot be read");
         row("no heights", "X A;Y A;X B;Y B;Frequency;Ground height A", "10;0;11;0;7;30",
             "||Warning|no columns with antenna heights above ground were recognised");
     }

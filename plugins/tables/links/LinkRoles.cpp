@@ -168,6 +168,9 @@ private:
 
     void addCandidate(int field, const NameMatch &match, Role role, LinkEndId end)
     {
+        // an empty column says nothing about dishes or repeaters
+        if ((role == Role::Diameter || role == Role::Repeater) && isEmpty(field))
+            return;
         const double fit = fitOfValues(field, role);
         if (match.strength < MinStrength || (match.strength < ClearStrength && fit < MinFit))
             return;
@@ -180,6 +183,11 @@ private:
             points +
             (role == Role::LinkName ? std::min(match.strength, FullStrength) : match.strength);
         m_candidates.push_back({field, role, end, strength * (1 + fit) / 2});
+    }
+
+    bool isEmpty(int field)
+    {
+        return factsOfField(field).filled == 0 && m_table.rowCount <= cellsOf(field).size();
     }
 
     /// A name is preferred to an id, an "ID" alone may be any number.

@@ -136,13 +136,32 @@ LinkValues LinkValueReader::read(int64_t row, const std::vector<const Cell *> &c
                              "MESS_TAB_TILT_RANGE");
     }
     readFrequencies(context, values);
-    // without a unit in the header or in the cell, the length cannot be compared
-    const std::string text = fieldText(cells, m_layout->length.field);
-    if (!text.empty() && !m_words.isMissing(text))
-        values.lengthM = readLengthM(text, m_layout->length.unit.value_or(0));
-    if (values.lengthM && *values.lengthM <= 0)
-        values.lengthM.reset();
+    values.lengthM = lengthM(context);
     return values;
+}
+
+std::optional<double> LinkValueReader::lengthM(const RowContext &context) const
+{
+    const std::string text = fieldText(context.cells, m_layout->length.field);
+    if (text.empty() || m_words.isMissing(text))
+        return std::nullopt;
+    // without a unit in the header or in the cell, the length cannot be compared
+    const std::optional<double> metres = readLengthM(text, m_layout->length.unit.value_or(0));
+    if (!metres)
+        context.warn(nameOf(m_layout->length.field),
+                     formatted("MESS_TAB_LENGTH_UNREADABLE", {quotation(text)}));
+    return metres && *metres > 0 ? metres : std::nullopt;
+}
+
+/// The names of the columns with a role, of the ends or of the link.
+std::string LinkValueReader::columnsOf(Role role) const
+{
+    std::string names;
+    for (const LinkColumnRole &column : m_layout->columns) {
+        if (column.role == role)
+            names += (names.empty() ? "" : ", ") + nameOf(column.field);
+    }
+    return names;
 }
 
 std::vector<RowProblem> LinkValueReader::tableProblems() const
@@ -163,6 +182,10 @@ std::vector<RowProblem> LinkValueReader::tableProblems() const
         add(formatted("MESS_TAB_NO_HEIGHTS"));
     if (!frequency)
         add(formatted("MESS_TAB_NO_FREQUENCIES"));
+    if (const std::string columns = columnsOf(Role::Diameter); !columns.empty())
+        add(formatted("MESS_TAB_DIAMETERS", {columns}));
+    if (const std::string columns = columnsOf(Role::Repeater); !columns.empty())
+        add(formatted("MESS_TAB_REPEATERS", {columns}));
     return problems;
 }
 

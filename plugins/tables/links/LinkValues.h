@@ -51,6 +51,8 @@ private:
     std::optional<double> degrees(const RowContext &context, const QuantityField &angle,
                                   ReadAngle readAngle, contract::TableTextId unreadable,
                                   contract::TableTextId outOfRange) const;
+    std::optional<double> lengthM(const RowContext &context) const;
+    std::string columnsOf(Role role) const;
     const std::string &nameOf(int field) const;
 
     const TableProfile *m_table;

@@ -827,5 +827,17 @@
         <source>the list "%1" has %2 values for %3 transmitters: none of them is used</source>
         <translation>the list "%1" has %2 values for %3 transmitters: none of them is used</translation>
     </message>
+    <message id="MESS_TAB_DIAMETERS">
+        <source>the dishes are drawn with the size that the layer states, not with the diameters in the table (%1)</source>
+        <translation>the dishes are drawn with the size that the layer states, not with the diameters in the table (%1)</translation>
+    </message>
+    <message id="MESS_TAB_REPEATERS">
+        <source>passive repeaters are not drawn: each link is a straight line between its ends (%1)</source>
+        <translation>passive repeaters are not drawn: each link is a straight line between its ends (%1)</translation>
+    </message>
+    <message id="MESS_TAB_LENGTH_UNREADABLE">
+        <source>the stated length "%1" cannot be read</source>
+        <translation>the stated length "%1" cannot be read</translation>
+    </message>
 </context>
 </TS>

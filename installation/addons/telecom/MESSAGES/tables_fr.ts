@@ -827,5 +827,17 @@
         <source>the list "%1" has %2 values for %3 transmitters: none of them is used</source>
         <translation>la liste «&#xa0;%1&#xa0;» a %2 valeurs pour %3 émetteurs&#xa0;: aucune n'est utilisée</translation>
     </message>
+    <message id="MESS_TAB_DIAMETERS">
+        <source>the dishes are drawn with the size that the layer states, not with the diameters in the table (%1)</source>
+        <translation>les paraboles sont dessinées à la taille que donne la couche, et non aux diamètres du tableau (%1)</translation>
+    </message>
+    <message id="MESS_TAB_REPEATERS">
+        <source>passive repeaters are not drawn: each link is a straight line between its ends (%1)</source>
+        <translation>les répéteurs passifs ne sont pas dessinés&#xa0;: chaque liaison est une ligne droite entre ses extrémités (%1)</translation>
+    </message>
+    <message id="MESS_TAB_LENGTH_UNREADABLE">
+        <source>the stated length "%1" cannot be read</source>
+        <translation>la longueur indiquée «&#xa0;%1&#xa0;» ne peut pas être lue</translation>
+    </message>
 </context>
 </TS>
