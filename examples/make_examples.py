@@ -65,9 +65,9 @@ ATOLL = Layout(["NAME", "LONGITUDE", "LATITUDE"], "Transmitter-1 Terrain Height 
                ["Transmitter", "Height (m)", "Azimuth (°)", "Mechanical Downtilt (°)"])
 # cells of a made-up operator: number of the site -> its networks and bands in MHz
 CELLS = {1: (("4G", 800), ("4G", 1800), ("5G", 3500)), 2: (("4G", 800), ("5G", 700)),
-         3: (("4G", 800), ("4G", 2600)), 8: (("4G", 800), ("4G", 1800), ("5G", 3500)),
-         9: (("4G", 800), ("5G", 700)), 14: (("4G", 800),), 22: (("4G", 800), ("4G", 1800)),
-         27: (("4G", 700),)}
+         3: (("4G", 800), ("4G", 2600)), 8: (("4G", 800),),
+         9: (("4G", 800), ("5G", 700)), 14: (("4G", 800), ("4G", 1800), ("5G", 3500)),
+         22: (("4G", 800), ("4G", 1800)), 27: (("4G", 700),)}
 MENTUM = Layout(["SITE ID", "Longitude", "Latitude"], "Transmitter-1 Terrain Height (m)",
                 ["Antenna ID", "Height (m)", "Azimuth", "Mechanical tilt"])
 
