@@ -100,6 +100,22 @@ private Q_SLOTS:
             "generic (numbered ends)", "Site ID", {line},
             {QStringLiteral("-|10|0|7|-|90|-|7|2|A|6000|11131.949"),
              QStringLiteral("-|10.1|0|7|-|270|-|7|2|B|6200|11131.949")});
+        row("ends with words of their own",
+            "Dorsale;Nodo Lat;Nodo Lon;Nodo altezza;Ripresa Lat;Ripresa Lon;Ripresa altezza\n"
+            "7;0;10;30;0;10,1;35\n",
+            "generic (ends side by side)", "Site ID", {line},
+            {QStringLiteral("-|10|0|-|30|90|-|row 2|2|A|-|11131.949"),
+             QStringLiteral("-|10.1|0|-|35|270|-|row 2|2|B|-|11131.949")});
+        row("one end with a word of its own",
+            "Link,Site,Lat,Lon,Antenna height,Client site,Client lat,Client lon,Frequency\n"
+            "L,S1,0,10,30,S2,0,10.1,7\n",
+            "generic (ends side by side)", "Site ID", {line},
+            {QStringLiteral("S1|10|0|L|-|90|-|L|2|A|7000|11131.949"),
+             QStringLiteral("S2|10.1|0|L|-|270|-|L|2|B|7000|11131.949")});
+        row("columns that are there twice", "Link,Site,Lat,Lon,Site,Lat,Lon\nL,S1,0,10,S2,0,10.1\n",
+            "generic (ends side by side)", "Site ID", {line},
+            {QStringLiteral("S1|10|0|L|-|90|-|L|2|A|-|11131.949"),
+             QStringLiteral("S2|10.1|0|L|-|270|-|L|2|B|-|11131.949")});
     }
     void givesLinksAndTheirEnds()
     {
@@ -341,6 +357,9 @@ private Q_SLOTS:
         row("sites", "Site;Longitude;Latitude;Azimuth 1\nS;2;48;90\n",
             "this is a table of sites, not of links: it has the coordinates of one position per "
             "row (Longitude, Latitude), not those of two ends");
+        row("two positions of a site",
+            "Site;Lat;Lon;GPS planned lat;GPS planned lon\nS;48;2;48,0001;2\n",
+            "this is a table of sites");
         row("one end", "Link;Longitude B;Latitude B\nL;2;48\n", "those of end A are missing");
         row("ends by name only", "Link;A;B;Length (km)\nL;S1;S2;11\n",
             "the ends of the links are only named (A; B): their positions must stand in a table "

@@ -1,6 +1,7 @@
 #include "plugins/tables/links/LinkLayout.h"
 
 #include "plugins/tables/bytes/Refusal.h"
+#include "plugins/tables/links/ContrastedEnds.h"
 #include "plugins/tables/table/HeaderWords.h"
 
 #include <algorithm>
@@ -89,9 +90,13 @@ LinkLayout layoutOf(const TableProfile &table, const FoundEnds &ends, const Voca
 
 LinkLayout recogniseLinkLayout(const TableProfile &table, const Vocabulary &vocabulary)
 {
-    const FoundEnds ends = findPlacedEnds(table, vocabulary);
-    if (!ends.found())
-        refuse(ends, table.fields, vocabulary);
+    FoundEnds ends = findPlacedEnds(table, vocabulary);
+    if (!ends.found()) {
+        FoundEnds contrasted = findContrastedEnds(table, vocabulary);
+        if (!contrasted.found())
+            refuse(ends, table.fields, vocabulary);
+        ends = std::move(contrasted);
+    }
     LinkLayout layout = layoutOf(table, ends, vocabulary);
     layout.unit = commonUnit(findUnit(ends.points[0], table.fields, vocabulary),
                              findUnit(ends.points[1], table.fields, vocabulary));
