@@ -60,7 +60,7 @@ std::string systemOf(const Json &value, const std::string &place)
 
 std::vector<std::int64_t> headerRowsOf(const Json &value, const std::string &place)
 {
-    if (!value.is_array())
+    if (!value.is_array() || value.size() > MaxHeaderRows)
         refuseValue(place);
     std::vector<std::int64_t> rows;
     for (const Json &row : value) {

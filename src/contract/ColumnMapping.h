@@ -16,6 +16,7 @@ namespace vlt::contract {
 
 inline constexpr std::size_t MaxMappingBytes = 1 << 20;
 inline constexpr std::int64_t MaxHeaderRow = 200;
+inline constexpr std::size_t MaxHeaderRows = 5;
 
 /// Columns by their names, in the order of the transmitters or of the parts of a coordinate
 /// (degrees, minutes, seconds, hemisphere); an empty name for one that is missing. A single one is
@@ -27,8 +28,9 @@ struct ColumnMapping
 {
     std::optional<TableKind> kind = {};
     std::string sheet = {};
-    /// Numbers of the rows with the names of the columns, from 1 to MaxHeaderRow, ascending; an
-    /// empty list if the table has none, its columns are then called "Column 1", "Column 2" ...
+    /// Numbers of the rows with the names of the columns, at most MaxHeaderRows from 1 to
+    /// MaxHeaderRow, ascending; an empty list if the table has none. Its columns are then called
+    /// "Column 1", "Column 2" ..., or as their values show.
     std::optional<std::vector<std::int64_t>> headerRows = {};
     bool swapsAxes = false;     ///< the columns of x hold y and the reverse
     std::string sourceSrs = {}; ///< of the coordinates: "EPSG:2154"

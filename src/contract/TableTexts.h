@@ -189,6 +189,17 @@ inline constexpr auto TableTexts = std::to_array<Text>({
     {"MESS_TAB_MAPPING_UNUSED",
      "the mapping file \"%1\" is not used: %2",
      {ValueKind::Name, ValueKind::Nested}},
+    {"MESS_TAB_MAPPING_ROLES", "the mapping file \"%1\" names roles that are not known: %2"},
+    {"MESS_TAB_MAPPING_COLUMNS", "the mapping file \"%1\" names columns that the table does not "
+                                 "have, so that their roles are recognised: %2"},
+    {"MESS_TAB_MAPPING_TWICE",
+     "the mapping file \"%1\" names columns more than once, of which only "
+     "the first role holds: %2"},
+    {"MESS_TAB_MAPPING_HEADER", "the mapping file \"%1\" names header rows that the table does not "
+                                "have: the header is recognised"},
+    {"MESS_TAB_MAPPING_SHEET", "the mapping file \"%1\" names the sheet \"%2\", which the workbook "
+                               "does not have: the sheet is recognised"},
+    {"MESS_TAB_MAPPING_KIND", "it is for tables of the other kind"},
     {"MESS_TAB_MAPPING_LARGE", "a mapping file has at most 1 MiB"},
     {"MESS_TAB_MAPPING_JSON", "its JSON is not valid in line %1"},
     {"MESS_TAB_MAPPING_NONE", "it is not a mapping of columns"},
@@ -246,6 +257,7 @@ inline constexpr auto TableTexts = std::to_array<Text>({
     {"MESS_TAB_BARE_SITES", "sites without a transmitter: %1", {ValueKind::Count}},
 
     // why a column has a role
+    {"MESS_TAB_EVIDENCE_STATED", "stated in %1"},
     {"MESS_TAB_EVIDENCE_NO_HEADER", "no header; recognised by the values"},
     {"MESS_TAB_EVIDENCE_EMPTY", "header \"%1\"; no values"},
     {"MESS_TAB_EVIDENCE_TEXTS", "header \"%1\"; %2 texts, %3 of them different"},

@@ -137,15 +137,21 @@ TableOptions optionsOf(const GDALOpenInfo &info, const contract::ConnectionStrin
     };
     TableOptions options;
     options.kind = connection.kind;
+    options.mapping =
+        readMappingFile(connection.path, options.kind, option("COLUMNS", contract::query::Columns));
+    const contract::ColumnMapping &mapping = options.mapping.mapping;
     options.sheet = option("SHEET", contract::query::Sheet);
     options.encoding = option("ENCODING", contract::query::Encoding);
     options.textOnly = EQUAL(CSLFetchNameValueDef(info.papszOpenOptions, "TYPES", ""), "TEXT");
+    const std::string axes = option("AXES", contract::query::Axes);
     options.swapsAxes =
-        EQUAL(option("AXES", contract::query::Axes).c_str(), contract::query::SwappedAxes);
+        axes.empty() ? mapping.swapsAxes : EQUAL(axes.c_str(), contract::query::SwappedAxes);
     options.delimiter = delimiterOf(option("DELIMITER", contract::query::Delimiter));
     const bool isLinks = options.kind == contract::TableKind::Links;
-    const std::string second = isLinks ? option("SITES", contract::query::EndSites)
-                                       : option("SECTORS", contract::query::Sectors);
+    std::string second = isLinks ? option("SITES", contract::query::EndSites)
+                                 : option("SECTORS", contract::query::Sectors);
+    if (second.empty())
+        second = isLinks ? mapping.sites : mapping.sectors;
     if (!second.empty()) {
         refuseRemote(second);
         options.second = std::filesystem::path(connection.path).parent_path() / second;
@@ -190,6 +196,8 @@ GDALDataset *open(GDALOpenInfo *info)
         std::vector<std::string> files{connection->path};
         if (!options.second.empty())
             files.push_back(options.second);
+        if (!options.mapping.path.empty())
+            files.push_back(options.mapping.path);
         auto dataset = std::make_unique<TableDataset>(source, std::move(files));
         dataset->SetDescription(info->pszFilename);
         return dataset.release();
@@ -223,6 +231,9 @@ constexpr char OpenOptions[] = "<OpenOptionList>"
                                "transmitters of a table of sites, relative to its folder'/>"
                                "<Option name='SITES' type='string' description='File with the "
                                "sites at the ends of a table of links, relative to its folder'/>"
+                               "<Option name='COLUMNS' type='string' description='Mapping file of "
+                               "the columns, relative to the folder of the table; by default the "
+                               "one beside it; none to read without'/>"
                                "<Option name='TYPES' type='string-select' description='Whether "
                                "columns of numbers become numeric fields' "
                                "default='AUTO'><Value>AUTO</Value><Value>TEXT</Value></Option>"

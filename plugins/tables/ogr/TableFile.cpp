@@ -123,7 +123,7 @@ TableHints hintsOf(const TableOptions &options, const Vocabulary &vocabulary)
 std::shared_ptr<TableFile> TableFile::open(const std::string &path, const TableOptions &options)
 {
     std::shared_ptr<const InputFile> file = InputFile::open(path);
-    std::shared_ptr<TableFile> table(new TableFile(file, baseName(path), options));
+    std::shared_ptr<TableFile> table(new TableFile(file, path, options));
     FileIdentity second;
     if (!options.second.empty()) {
         table->m_secondFile = usingSecond(options.second, InputFile::open, options.second);
@@ -132,27 +132,77 @@ std::shared_ptr<TableFile> TableFile::open(const std::string &path, const TableO
     table->m_facts = memory().find(path, file->identity(), second, options);
     if (table->m_facts)
         return table;
-    const std::unique_ptr<Workbook> workbook = table->openFile();
-    const Vocabulary &vocabulary = installedVocabulary().words;
-    const TableHints hints = hintsOf(options, vocabulary);
-    const bool links = options.kind == contract::TableKind::Links;
-    const Table read = readTable(*workbook, hints);
+    std::vector<RowProblem> problems;
+    const Table read = table->readByMapping(problems);
     auto facts = std::make_shared<TableFacts>(TableFacts{*read.profile, {}, {}});
+    facts->mappingProblems = std::move(problems);
     for (Field &field : facts->table.fields) // the samples are not needed any more
         field.samples = {};
     facts->table.sampledColumns = {};
     table->m_sheet = read.sheet;
     table->m_facts = facts;
-    if (links)
-        table->readLinks(*facts, *read.profile);
-    else
-        facts->layout = recogniseSiteLayout(*read.profile, vocabulary);
-    if (options.swapsAxes)
-        swapAxes(*facts);
-    if (!links)
-        table->readSites(*facts);
+    table->recognise(*facts, *read.profile);
     memory().add({path, file->identity(), second, options, facts});
     return table;
+}
+
+/// Reads the sheet with the header that the mapping states. If the table lacks them, they are
+/// found.
+Table TableFile::readByMapping(std::vector<RowProblem> &problems) const
+{
+    const auto &[mappingPath, mapping, fault] = m_options.mapping;
+    if (!fault.empty())
+        problems.push_back({0, {}, false, fault});
+    TableHints hints = hintsOf(m_options, installedVocabulary().words);
+    hints.headerRows = mapping.headerRows;
+    const auto read = [&] {
+        if (!hints.sheet.empty() || mapping.sheet.empty())
+            return readTable(*openFile(), hints);
+        TableHints ofSheet = hints;
+        ofSheet.sheet = mapping.sheet;
+        try {
+            return readTable(*openFile(), ofSheet);
+        } catch (const RefusedFile &refused) {
+            if (refused.reason() != Refusal::BadOption)
+                throw;
+        }
+        problems.push_back({0,
+                            {},
+                            false,
+                            contract::formatted("MESS_TAB_MAPPING_SHEET",
+                                                {fileName(mappingPath), mapping.sheet})});
+        return readTable(*openFile(), hints);
+    };
+    Table table = read();
+    const auto &header = table.profile->header.rows;
+    const auto isAt = [](const HeaderRow &row, int64_t number) { return row.number == number; };
+    if (mapping.headerRows && !std::equal(header.begin(), header.end(), mapping.headerRows->begin(),
+                                          mapping.headerRows->end(), isAt))
+        problems.push_back(
+            {0,
+             {},
+             false,
+             contract::formatted("MESS_TAB_MAPPING_HEADER", {fileName(mappingPath)})});
+    return table;
+}
+
+/// Finds the columns, as far as the mapping does not state them.
+void TableFile::recognise(TableFacts &facts, const TableProfile &profile)
+{
+    const contract::ColumnMapping &mapping = m_options.mapping.mapping;
+    const StatedRoles stated = findStatedRoles(
+        mapping, m_options.kind, profile, fileName(m_options.mapping.path), facts.mappingProblems);
+    const bool links = m_options.kind == contract::TableKind::Links;
+    if (links)
+        readLinks(facts, profile);
+    else
+        facts.layout = recogniseSiteLayout(profile, installedVocabulary().words, stated);
+    if (m_options.swapsAxes)
+        swapAxes(facts);
+    if (!mapping.sourceSrs.empty())
+        facts.declaration().epsg = mapping.sourceSrs.substr(mapping.sourceSrs.find(':') + 1);
+    if (!links)
+        readSites(facts);
 }
 
 /// Finds the columns of links. If their ends are only named, the positions come from the second
@@ -313,7 +363,7 @@ std::unique_ptr<Workbook> TableFile::openFile() const
     // An encoding that was found by reading the whole file is not searched again.
     const bool known = m_options.encoding.empty() && m_facts;
     return openWorkbook(
-        m_file, m_name,
+        m_file, baseName(m_path),
         {known ? m_facts->table.encoding.name : m_options.encoding, m_options.delimiter});
 }
 

@@ -3,6 +3,7 @@
 #include "contract/TableTexts.h"
 #include "plugins/tables/bytes/InputFile.h"
 #include "plugins/tables/links/LinkLayout.h"
+#include "plugins/tables/ogr/MappingFile.h"
 #include "plugins/tables/ogr/ProblemList.h"
 #include "plugins/tables/ogr/SecondTable.h"
 #include "plugins/tables/ogr/SectorJoin.h"
@@ -28,6 +29,7 @@ struct TableOptions
     bool swapsAxes = false; ///< the columns of x hold y and the reverse
     /// Path of a file that completes the table: the transmitters of sites, the sites of links.
     std::string second;
+    MappingFile mapping; ///< the members above go before it
 
     bool operator==(const TableOptions &) const = default;
 };
@@ -44,6 +46,7 @@ struct TableFacts
     std::shared_ptr<const SiteDirectory> endSites = {};
     ProblemList joinProblems = {}; ///< of the other table
     JoinFields joinFields = {};    ///< if the transmitters stand in another table
+    std::vector<RowProblem> mappingProblems = {};
 
     const SiteLayout &sites() const { return std::get<SiteLayout>(layout); }
     const LinkLayout &links() const { return std::get<LinkLayout>(layout); }
@@ -58,6 +61,10 @@ struct TableFacts
         return std::visit([](const TableDeclaration &of) -> const TableDeclaration & { return of; },
                           layout);
     }
+    TableDeclaration &declaration()
+    {
+        return std::visit([](TableDeclaration &of) -> TableDeclaration & { return of; }, layout);
+    }
 };
 
 /// A table in a file.
@@ -68,6 +75,8 @@ public:
     /// RefusedFile.
     static std::shared_ptr<TableFile> open(const std::string &path, const TableOptions &options);
 
+    const std::string &path() const { return m_path; }
+    const TableOptions &options() const { return m_options; }
     const TableFacts &facts() const { return *m_facts; }
     /// Starts reading the rows from the first one.
     std::unique_ptr<DataRows> rows();
@@ -81,11 +90,13 @@ public:
 private:
     using Suitability = int(const TableProfile &start, const Vocabulary &vocabulary);
 
-    TableFile(std::shared_ptr<const InputFile> file, std::string name, TableOptions options)
+    TableFile(std::shared_ptr<const InputFile> file, std::string path, TableOptions options)
         : m_file(std::move(file))
-        , m_name(std::move(name))
+        , m_path(std::move(path))
         , m_options(std::move(options))
     {}
+    Table readByMapping(std::vector<RowProblem> &problems) const;
+    void recognise(TableFacts &facts, const TableProfile &profile);
     void readSites(TableFacts &facts);
     void readLinks(TableFacts &facts, const TableProfile &profile);
     bool joinTransmitters(TableFacts &facts);
@@ -97,7 +108,7 @@ private:
 
     std::shared_ptr<const InputFile> m_file;
     std::shared_ptr<const InputFile> m_secondFile; ///< null without one
-    std::string m_name;
+    std::string m_path;
     TableOptions m_options;
     std::shared_ptr<const TableFacts> m_facts;
     std::shared_ptr<Sheet> m_sheet;

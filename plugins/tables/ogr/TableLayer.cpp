@@ -3,7 +3,9 @@
 #include "contract/TableMetadata.h"
 #include "contract/TableReport.h"
 #include "contract/TableTexts.h"
+#include "plugins/tables/bytes/Refusal.h"
 #include "plugins/tables/ogr/Guarded.h"
+#include "plugins/tables/ogr/RecognisedMapping.h"
 #include "plugins/tables/ogr/ReportLayer.h"
 #include "plugins/tables/roles/Vocabulary.h"
 #include "plugins/tables/sites/SystemNames.h"
@@ -377,6 +379,7 @@ ProblemList TableLayer::fileProblems() const
     ProblemList problems;
     systems().addProblems(problems);
     addFileProblems(problems);
+    problems.add(std::vector(facts().mappingProblems));
     problems.add(facts().joinProblems);
     if (const std::string &fault = installedVocabulary().ownFault; !fault.empty())
         problems.add({0, {}, false, fault});
@@ -459,10 +462,21 @@ std::optional<char **> TableLayer::ownMetadata(const char *domain)
         return problemsMetadata();
     if (listsProblems() && domain && EQUAL(domain, metadata::DoctorDomain))
         return doctorMetadata();
+    if (domain && EQUAL(domain, metadata::MappingDomain)) {
+        if (m_mappingItems.empty())
+            m_mappingItems.SetNameValue(
+                metadata::MappingText,
+                contract::writeMapping(recognisedMapping(*m_source.file)).c_str());
+        return m_mappingItems.List();
+    }
     if (!domain || !EQUAL(domain, metadata::RolesDomain))
         return std::nullopt;
-    if (!m_rolesItems)
+    if (!m_rolesItems) {
         m_rolesItems = rolesMetadata();
+        const std::string &mapping = m_source.file->options().mapping.path;
+        if (!mapping.empty() && m_rolesItems->Count() > 0)
+            m_rolesItems->SetNameValue(metadata::MappingItem, mapping.c_str());
+    }
     return m_rolesItems->List();
 }
 

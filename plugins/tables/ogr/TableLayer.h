@@ -135,6 +135,7 @@ private:
     std::optional<Walk> m_walk;    ///< sequential reading; empty before the first row
     bool m_failed = false;
     std::optional<CPLStringList> m_rolesItems;
+    CPLStringList m_mappingItems;
     CPLStringList m_problemsItems; ///< the problems of all rows as metadata
     CPLStringList m_doctorItems;   ///< the findings about all positions as metadata
     CPLStringList m_rowsItems;     ///< the numbers of rows by fate as metadata

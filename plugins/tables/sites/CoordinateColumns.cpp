@@ -244,13 +244,34 @@ std::pair<int, int> bestPosition(const std::vector<CoordinateName> &names,
     return best;
 }
 
+/// Lets the first of the stated fields, and no other one, be the coordinate of an axis.
+///
+/// @param stated  null if nothing is stated
+void stateAxis(std::vector<CoordinateName> &names, Axis axis, const std::vector<int> *stated)
+{
+    if (!stated)
+        return;
+    for (CoordinateName &name : names) {
+        if (name.axis == axis)
+            name.family = Family::None;
+    }
+    if (!stated->empty() && stated->front() >= 0)
+        names[static_cast<std::size_t>(stated->front())] = {
+            Family::Bare, axis, CoordinatePart::Whole, 1, {}};
+}
+
 CoordinateFields coordinateFields(const std::vector<CoordinateName> &names,
-                                  const std::vector<Field> &table, int value)
+                                  const std::vector<Field> &table, int value,
+                                  const std::vector<int> *stated)
 {
     CoordinateFields fields;
     fields.value = value;
-    if (value < 0)
-        return fields;
+    if (stated) {
+        const auto part = [stated](std::size_t at) {
+            return at < stated->size() ? (*stated)[at] : -1;
+        };
+        return {value, part(1), part(2), part(3)};
+    }
     const CoordinateName &degrees = names[static_cast<std::size_t>(value)];
     const bool inParts = degrees.part == CoordinatePart::Degrees;
     for (std::size_t i = 0; i < names.size(); ++i) {
@@ -312,17 +333,24 @@ bool saysMeters(const std::string &name, const Vocabulary &vocabulary)
 } // namespace
 
 PointFields findPoint(const FieldWords &words, const std::vector<Field> &fields,
-                      const Vocabulary &vocabulary)
+                      const Vocabulary &vocabulary, const StatedRoles &stated)
 {
     PointFields point;
     const LetterO otherwise = letterOOf(words, vocabulary);
-    const std::vector<CoordinateName> names = readNames(words, fields, vocabulary);
-    const auto [x, y] = bestPosition(names, fields);
+    FieldWords open = words; // a field with a stated role has no other one
+    for (const int field : stated.fields)
+        open[static_cast<std::size_t>(field)].reset();
+    std::vector<CoordinateName> names = readNames(open, fields, vocabulary);
+    stateAxis(names, Axis::X, stated.find("x"));
+    stateAxis(names, Axis::Y, stated.find("y"));
+    const std::vector<int> *ofPair = stated.find("pair");
+    const bool isPair = ofPair && !ofPair->empty();
+    const auto [x, y] = isPair ? std::pair(-1, -1) : bestPosition(names, fields);
     if (x >= 0) {
-        point.x = coordinateFields(names, fields, x);
-        point.y = coordinateFields(names, fields, y);
+        point.x = coordinateFields(names, fields, x, stated.find("x"));
+        point.y = coordinateFields(names, fields, y, stated.find("y"));
     } else
-        point.pair = findPair(words, fields, otherwise);
+        point.pair = isPair ? ofPair->front() : ofPair ? -1 : findPair(open, fields, otherwise);
     if (point.pair >= 0) {
         const Field &pair = fields[static_cast<std::size_t>(point.pair)];
         point.pairOrder = findPairOrder(pair.samples, pair.name);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "plugins/tables/roles/Vocabulary.h"
+#include "plugins/tables/sites/StatedRoles.h"
 #include "plugins/tables/table/Table.h"
 #include "plugins/tables/values/CoordinatePair.h"
 
@@ -64,9 +65,10 @@ struct PointFields
 /// The words in the name of each field of a table; nothing for a field that is not considered.
 using FieldWords = std::vector<std::optional<std::vector<std::string>>>;
 
-/// Recognises the fields of a position among those that have words.
+/// Recognises the fields of a position among those that have words, unless its x, y or pair is
+/// stated.
 PointFields findPoint(const FieldWords &words, const std::vector<Field> &fields,
-                      const Vocabulary &vocabulary);
+                      const Vocabulary &vocabulary, const StatedRoles &stated = {});
 
 /// The meaning of O in the longitudes of a position, from their samples; else `otherwise`.
 LetterO findLetterO(const PointFields &point, const std::vector<Field> &fields, LetterO otherwise);

@@ -65,18 +65,19 @@ bool isLinkEnd(const PointFields &point, const FieldWords &words, const Vocabula
 
 } // namespace
 
-SiteLayout recogniseSiteLayout(const TableProfile &table, const Vocabulary &vocabulary)
+SiteLayout recogniseSiteLayout(const TableProfile &table, const Vocabulary &vocabulary,
+                               const StatedRoles &stated)
 {
     SiteLayout layout;
     FieldWords words;
     for (const Field &field : table.fields)
         words.emplace_back(separatedWords(field.name, vocabulary));
-    layout.point = findPoint(words, table.fields, vocabulary);
-    layout.isLinkEnd = isLinkEnd(layout.point, words, vocabulary);
+    layout.point = findPoint(words, table.fields, vocabulary, stated);
+    layout.isLinkEnd = !stated.find("x") && isLinkEnd(layout.point, words, vocabulary);
     layout.format = recogniseFormat(table.fields);
     layout.unit = findUnit(layout.point, table.fields, vocabulary);
     layout.epsg = findEpsg(table, layout.point, layout.unit);
-    layout.roles = findSiteRoles(table, layout.point, vocabulary);
+    layout.roles = findSiteRoles(table, layout.point, vocabulary, stated);
     return layout;
 }
 

@@ -19,9 +19,10 @@ struct SiteLayout : TableDeclaration
     std::vector<OfferedField> offered; ///< fields before those of the source
 };
 
-/// Recognises the columns of a table of sites. `offered` is filled when the number of transmitters
-/// per site is known.
-SiteLayout recogniseSiteLayout(const TableProfile &table, const Vocabulary &vocabulary);
+/// Recognises the columns of a table of sites that are not stated. `offered` is filled when the
+/// number of transmitters per site is known.
+SiteLayout recogniseSiteLayout(const TableProfile &table, const Vocabulary &vocabulary,
+                               const StatedRoles &stated = {});
 
 /// How well the start of a sheet suits a table of sites, from 0 to HighestSiteSuitability: it has
 /// positions, it has transmitters, it has more rows than a legend.

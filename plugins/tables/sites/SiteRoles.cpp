@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <array>
 #include <map>
+#include <numeric>
 #include <optional>
 #include <set>
 #include <tuple>
@@ -43,15 +44,18 @@ struct Candidate
     Role role = Role::None;
     int sector = -1;
     double score = 0;
+    bool isStated = false;
 };
 
 class Finder
 {
 public:
-    Finder(const TableProfile &table, const PointFields &point, const Vocabulary &vocabulary)
+    Finder(const TableProfile &table, const PointFields &point, const Vocabulary &vocabulary,
+           const StatedRoles &stated)
         : m_table(table)
         , m_point(point)
         , m_vocabulary(vocabulary)
+        , m_stated(stated)
         , m_words(table.fields.size())
         , m_facts(table.fields.size())
     {}
@@ -60,10 +64,13 @@ public:
     {
         readPlaces();
         for (std::size_t field = 0; field < m_table.fields.size(); ++field) {
-            if (!m_point.uses(static_cast<int>(field)))
+            if (!m_point.uses(static_cast<int>(field)) &&
+                !m_stated.fields.contains(static_cast<int>(field)))
                 addCandidates(static_cast<int>(field));
         }
+        addStated();
         useLevels();
+        dropStated();
         numberRepeatedNames();
         const bool isNumbered = dropNumbersOfOthers();
         assign();
@@ -103,10 +110,16 @@ private:
         }
     }
 
+    void readWords(int field)
+    {
+        m_words[static_cast<std::size_t>(field)] =
+            separatedWords(m_table.nameWithUnit(field), m_vocabulary);
+    }
+
     void addCandidates(int field)
     {
         const auto at = static_cast<std::size_t>(field);
-        m_words[at] = separatedWords(m_table.nameWithUnit(field), m_vocabulary);
+        readWords(field);
         std::vector<NameMatch> matches = matchName(m_words[at], m_vocabulary);
         if (matches.empty()) {
             if (const auto ofRows = matchKindOfRows(m_words[at], m_vocabulary))
@@ -122,6 +135,60 @@ private:
         }
     }
 
+    /// Adds the stated roles. The columns of a list belong to the transmitters whose numbers the
+    /// other columns have, in their order; without such numbers they count from 1.
+    void addStated()
+    {
+        std::set<int> found;
+        std::size_t longest = 0;
+        for (const Candidate &candidate : m_candidates) {
+            if (isOfTransmitter(candidate.role) && candidate.sector >= 0)
+                found.insert(candidate.sector);
+        }
+        for (const auto &[name, fields] : m_stated.roles) {
+            const Role role = roleOfName(name);
+            longest = std::max(longest, fields.size());
+            for (const int field : fields) {
+                if (field < 0)
+                    continue;
+                readWords(field);
+                if (fields.size() < 2 || !isOfTransmitter(role))
+                    continue;
+                for (const NameMatch &match :
+                     matchName(m_words[static_cast<std::size_t>(field)], m_vocabulary)) {
+                    if (match.role == role && match.sector >= 0)
+                        found.insert(match.sector);
+                }
+            }
+        }
+        std::vector<int> numbers(found.begin(), found.end());
+        if (numbers.size() < longest) {
+            numbers.resize(longest);
+            std::iota(numbers.begin(), numbers.end(), 1);
+        }
+        constexpr double Certain = 1e6; // more than any name has
+        for (const auto &[name, fields] : m_stated.roles) {
+            const Role role = roleOfName(name);
+            const bool isList = fields.size() > 1 && isOfTransmitter(role);
+            for (std::size_t i = 0; i < fields.size(); ++i) {
+                if (fields[i] >= 0 && (isOfSite(role) || isOfTransmitter(role)))
+                    m_candidates.push_back(
+                        {fields[i], role, isList ? numbers[i] : -1, Certain, true});
+            }
+        }
+    }
+
+    /// Drops the candidates for roles that are stated.
+    void dropStated()
+    {
+        std::erase_if(m_candidates, [this](const Candidate &candidate) {
+            // a tilt of no kind would stand for the mechanical one
+            const Role role = candidate.role == Role::Tilt ? Role::MechanicalTilt : candidate.role;
+            return !candidate.isStated &&
+                   (m_stated.find(roleName(candidate.role)) || m_stated.find(roleName(role)));
+        });
+    }
+
     /// A name or an id belongs to sites or to sectors, whatever its column is called: the values
     /// at each position decide.
     void useLevels()
@@ -130,7 +197,7 @@ private:
             std::any_of(m_candidates.begin(), m_candidates.end(),
                         [](const Candidate &candidate) { return candidate.role == Role::Azimuth; });
         for (Candidate &candidate : m_candidates) {
-            if (isName(candidate))
+            if (isName(candidate) && !candidate.isStated)
                 adjustToLevel(candidate, hasAzimuths);
         }
         const bool namesSites =
@@ -138,8 +205,8 @@ private:
                 return isName(candidate) && candidate.role != Role::SectorId;
             });
         for (Candidate &candidate : m_candidates) {
-            if (!namesSites && candidate.role == Role::SectorId && candidate.sector < 0 &&
-                (!hasAzimuths || namesHoldSector(candidate.field)))
+            if (!namesSites && !candidate.isStated && candidate.role == Role::SectorId &&
+                candidate.sector < 0 && (!hasAzimuths || namesHoldSector(candidate.field)))
                 candidate.role = Role::SiteName;
         }
     }
@@ -187,7 +254,7 @@ private:
     {
         std::map<std::pair<Role, std::string>, std::vector<Candidate *>> byName;
         for (Candidate &candidate : m_candidates) {
-            if (isOfTransmitter(candidate.role) && candidate.sector < 0)
+            if (isOfTransmitter(candidate.role) && candidate.sector < 0 && !candidate.isStated)
                 byName[{candidate.role, m_table.nameInGroup(candidate.field)}].push_back(
                     &candidate);
         }
@@ -208,12 +275,16 @@ private:
             if (countsTransmitters(candidate.role) && candidate.sector >= 0)
                 numbers[candidate.role].insert(candidate.sector);
         }
+        const std::vector<int> *azimuth = m_stated.find(roleName(Role::Azimuth));
+        const bool isSingle = azimuth && azimuth->size() == 1; // it holds for every row
         const bool isNumbered =
-            std::any_of(numbers.begin(), numbers.end(),
-                        [](const auto &ofRole) { return ofRole.second.size() > 1; }) ||
-            std::any_of(m_candidates.begin(), m_candidates.end(), [this](const Candidate &c) {
-                return c.sector >= 0 && countsTransmitters(c.role) && namesASector(c.field);
-            });
+            !isSingle &&
+            (std::any_of(numbers.begin(), numbers.end(),
+                         [](const auto &ofRole) { return ofRole.second.size() > 1; }) ||
+             std::any_of(m_candidates.begin(), m_candidates.end(), [this](const Candidate &c) {
+                 return c.sector >= 0 && countsTransmitters(c.role) &&
+                        (c.isStated || namesASector(c.field));
+             }));
         for (Candidate &candidate : m_candidates)
             candidate.sector = isNumbered ? candidate.sector : -1;
         return isNumbered;
@@ -230,6 +301,8 @@ private:
 
     std::string evidenceOf(int field)
     {
+        if (m_stated.fields.contains(field))
+            return m_stated.evidence;
         return m_table.header.rows.empty()
                    ? contract::formatted("MESS_TAB_EVIDENCE_NO_HEADER")
                    : roleEvidence(m_table.nameInHeader(field), factsOfField(field));
@@ -386,6 +459,7 @@ private:
     const TableProfile &m_table;
     const PointFields &m_point;
     const Vocabulary &m_vocabulary;
+    const StatedRoles &m_stated;
     std::vector<std::vector<std::string>> m_words; ///< of each field
     std::vector<std::optional<ColumnFacts>> m_facts;
     std::vector<std::string> m_places; ///< by sampled row
@@ -406,9 +480,9 @@ bool isLetter(char c)
 } // namespace
 
 SiteRoles findSiteRoles(const TableProfile &table, const PointFields &point,
-                        const Vocabulary &vocabulary)
+                        const Vocabulary &vocabulary, const StatedRoles &stated)
 {
-    return Finder(table, point, vocabulary).find();
+    return Finder(table, point, vocabulary, stated).find();
 }
 
 std::string_view withoutSector(std::string_view name)

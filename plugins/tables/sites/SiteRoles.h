@@ -57,9 +57,10 @@ struct SiteRoles
     std::vector<ColumnRole> columns;             ///< by field
 };
 
-/// Finds the roles by the words of the header and by the sampled values.
+/// Finds the roles by the words of the header and by the sampled values, as far as they are not
+/// stated.
 SiteRoles findSiteRoles(const TableProfile &table, const PointFields &point,
-                        const Vocabulary &vocabulary);
+                        const Vocabulary &vocabulary, const StatedRoles &stated = {});
 
 /// The name of a site without the sector at its end: "Gare A", "GARE_2" and "Gare S3" give Gare,
 /// GARE and Gare. Other names are returned as they are.

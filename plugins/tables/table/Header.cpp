@@ -53,6 +53,63 @@ int countTableNames(const HeaderRow &row, TableKind kind, const Vocabulary &voca
     return static_cast<int>(names.size());
 }
 
+void addTitles(const Row &row, std::vector<std::string> &titles)
+{
+    for (const Cell &cell : row.cells) {
+        if (titles.size() < MaxTitles)
+            titles.push_back(startOfText(cell, MaxTitleSize));
+    }
+}
+
+/// A header with the names and units of a block.
+///
+/// @param below  the first rows behind the one with the names
+Header headerOf(HeaderBlock block, const std::vector<HeaderRow> &below)
+{
+    Header header;
+    header.names = std::move(block.names);
+    header.rows = std::move(block.rows);
+    header.furtherRows = std::move(block.furtherRows);
+    header.units = std::move(block.units);
+    header.hasRowsBelow =
+        std::any_of(below.begin(), below.end(),
+                    [last = header.lastRow()](const HeaderRow &row) { return row.number > last; });
+    return header;
+}
+
+/// The header in the rows with these numbers; nothing if one of them is empty.
+std::optional<Header> headerIn(const Sheet &sheet, const HeaderRowNumbers &numbers,
+                               const Vocabulary &vocabulary, std::size_t &widest)
+{
+    std::vector<HeaderRow> named;
+    std::vector<HeaderRow> below;
+    std::vector<std::string> titles;
+    std::vector<CellFault> faults;
+    const std::unique_ptr<RowReader> rows = sheet.rows();
+    Row row;
+    while (below.size() < RowsBelowNames && rows->advance()) {
+        if (!rows->hasContent(MaxColumns))
+            continue;
+        rows->cells(row);
+        widest = std::max(widest, row.cells.size());
+        if (std::binary_search(numbers.begin(), numbers.end(), row.number)) {
+            named.push_back(readHeaderRow(row, rows->fingerprint()));
+            faults = headerFaults(row);
+        } else if (row.number > numbers.back())
+            below.push_back(readHeaderRow(row, rows->fingerprint()));
+        else if (named.empty())
+            addTitles(row, titles);
+    }
+    if (named.size() < numbers.size())
+        return std::nullopt;
+    Header header = headerOf(joinRows(std::move(named), below, vocabulary), below);
+    header.row = numbers.back();
+    header.titles = std::move(titles);
+    header.wordCount = MinWords;
+    header.faults = std::move(faults);
+    return header;
+}
+
 /// The first rows of a sheet, of which one is the header.
 class HeaderSearch
 {
@@ -65,6 +122,8 @@ public:
     void add(const Row &row, uint64_t fingerprint)
     {
         m_firstRows.add(row);
+        if (!row.cells.empty())
+            m_lastColumn = std::max(m_lastColumn, row.cells.back().column);
         const HeaderRow read = readHeaderRow(row, fingerprint);
         for (std::optional<Candidate> *candidate : {&m_best, &m_firstWide}) {
             if (*candidate && (*candidate)->below.size() < RowsBelowNames)
@@ -86,6 +145,21 @@ public:
             m_above.erase(m_above.begin());
     }
 
+    /// The header of a table without names.
+    Header withoutNames() const
+    {
+        if (auto known = m_firstRows.columnsOfKnownTable(m_kind, m_vocabulary))
+            return headerless(std::move(*known));
+        if (m_kind == TableKind::Sites) {
+            if (auto sites = m_firstRows.columnsOfSites(m_vocabulary))
+                return headerless(std::move(*sites));
+        }
+        ColumnsByValues columns;
+        for (int column = 0; column <= m_lastColumn; ++column)
+            columns.names[column].clear();
+        return headerless(std::move(columns));
+    }
+
     std::optional<Header> header()
     {
         if (auto known = m_firstRows.columnsOfKnownTable(m_kind, m_vocabulary))
@@ -99,18 +173,11 @@ public:
             return std::nullopt;
         Candidate &found = m_best ? *m_best : *m_firstWide;
         HeaderBlock block = joinHeader(found.above, found.row, found.below, m_vocabulary);
-        Header header;
+        Header header = headerOf(std::move(block), found.below);
         header.row = found.row.number;
-        header.names = std::move(block.names);
-        header.rows = std::move(block.rows);
-        header.furtherRows = std::move(block.furtherRows);
-        header.units = std::move(block.units);
         m_titles.resize(found.titleCount);
         header.titles = std::move(m_titles);
         header.wordCount = found.wordCount;
-        header.hasRowsBelow = std::any_of(
-            found.below.begin(), found.below.end(),
-            [last = header.lastRow()](const HeaderRow &row) { return row.number > last; });
         header.faults = std::move(found.faults);
         return header;
     }
@@ -136,13 +203,7 @@ private:
         return header;
     }
 
-    void addTitles(const Row &row)
-    {
-        for (const Cell &cell : row.cells) {
-            if (m_titles.size() < MaxTitles)
-                m_titles.push_back(startOfText(cell, MaxTitleSize));
-        }
-    }
+    void addTitles(const Row &row) { vlt::driver::addTitles(row, m_titles); }
 
     TableKind m_kind;
     const Vocabulary &m_vocabulary;
@@ -150,14 +211,19 @@ private:
     std::optional<Candidate> m_firstWide; ///< the first row with at least two cells
     std::vector<std::string> m_titles;
     FirstRows m_firstRows;
+    int m_lastColumn = 0;
     std::vector<HeaderRow> m_above; ///< the last rows before the next one
 };
 
 } // namespace
 
 std::optional<Header> findHeader(const Sheet &sheet, TableKind kind, const Vocabulary &vocabulary,
-                                 std::size_t &widest)
+                                 const std::optional<HeaderRowNumbers> &stated, std::size_t &widest)
 {
+    if (stated && !stated->empty()) {
+        if (auto header = headerIn(sheet, *stated, vocabulary, widest))
+            return header;
+    }
     HeaderSearch search(kind, vocabulary);
     const std::unique_ptr<RowReader> rows = sheet.rows();
     Row row;
@@ -169,7 +235,7 @@ std::optional<Header> findHeader(const Sheet &sheet, TableKind kind, const Vocab
         widest = std::max(widest, row.cells.size());
         search.add(row, rows->fingerprint());
     }
-    return search.header();
+    return stated && stated->empty() ? search.withoutNames() : search.header();
 }
 
 } // namespace vlt::driver

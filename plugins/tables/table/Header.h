@@ -40,12 +40,20 @@ struct Header
     }
 };
 
+/// Numbers of header rows, ascending; empty if there are none.
+using HeaderRowNumbers = std::vector<int64_t>;
+
 /// Finds the header in the first rows of a sheet: the row with the largest number of words of
 /// tables of that kind, with two at least; else none, if the values show what the columns are; else
 /// the first row with at least two cells, if none of them is a number, a date or another value.
 /// Nothing if there is none. `widest` is raised to the
 /// number of cells of the widest row that was read.
+///
+/// @param stated  the rows that are the header, if these exist; with an empty list, the values or
+///                else the numbers of the columns give their names
 std::optional<Header> findHeader(const Sheet &sheet, contract::TableKind kind,
-                                 const Vocabulary &vocabulary, std::size_t &widest);
+                                 const Vocabulary &vocabulary,
+                                 const std::optional<HeaderRowNumbers> &stated,
+                                 std::size_t &widest);
 
 } // namespace vlt::driver

@@ -264,7 +264,16 @@ HeaderBlock joinHeader(const std::vector<HeaderRow> &above, const HeaderRow &row
             break;
         block.rows.insert(block.rows.begin(), *before);
     }
+    return joinRows(std::move(block.rows), below, vocabulary);
+}
+
+HeaderBlock joinRows(std::vector<HeaderRow> rows, const std::vector<HeaderRow> &below,
+                     const Vocabulary &vocabulary)
+{
+    HeaderBlock block;
+    block.rows = std::move(rows);
     block.names = joinedNames(block.rows);
+    const HeaderRow *end = below.data() + below.size();
     const HeaderRow *next = std::find_if(below.data(), end, [&block](const HeaderRow &other) {
         return other.number > block.rows.back().number;
     });

@@ -38,4 +38,11 @@ struct HeaderBlock
 HeaderBlock joinHeader(const std::vector<HeaderRow> &above, const HeaderRow &row,
                        const std::vector<HeaderRow> &below, const Vocabulary &vocabulary);
 
+/// The names in rows that are known to name the columns together.
+///
+/// @param rows   at least one; they have texts
+/// @param below  rows behind, of which those of names in other words and of units are found
+HeaderBlock joinRows(std::vector<HeaderRow> rows, const std::vector<HeaderRow> &below,
+                     const Vocabulary &vocabulary);
+
 } // namespace vlt::driver

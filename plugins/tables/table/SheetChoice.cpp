@@ -36,7 +36,7 @@ public:
     {
         try {
             std::optional<Header> header =
-                findHeader(*sheet, m_hints.kind, *m_hints.vocabulary, widest);
+                findHeader(*sheet, m_hints.kind, *m_hints.vocabulary, m_hints.headerRows, widest);
             if (!header)
                 return;
             ChosenSheet candidate = {sheet, std::move(*header), 0};

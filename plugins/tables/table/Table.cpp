@@ -111,8 +111,9 @@ Table readTable(Workbook &workbook, const TableHints &hints)
         settled = chosen.sheet->settleEncoding();
         if (!settled) {
             std::size_t widest = 0;
-            chosen.header = findHeader(*chosen.sheet, hints.kind, *hints.vocabulary, widest)
-                                .value_or(chosen.header);
+            chosen.header =
+                findHeader(*chosen.sheet, hints.kind, *hints.vocabulary, hints.headerRows, widest)
+                    .value_or(chosen.header);
         } else if (profile->rowCount == 0)
             throw RefusedFile(Refusal::Empty, "MESS_TAB_NO_ROW",
                               {std::to_string(profile->header.row)});

@@ -6,6 +6,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -75,6 +76,7 @@ struct TableHints
     int highestSuitability = 0;
     bool mustSuit = false;      ///< a sheet of suitability 0 is not read
     std::string otherThan = {}; ///< name of a sheet that is not considered
+    std::optional<HeaderRowNumbers> headerRows = {};
 };
 
 /// A table: the sheet of a workbook, and its properties.

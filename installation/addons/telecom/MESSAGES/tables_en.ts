@@ -839,5 +839,33 @@
         <source>the stated length "%1" cannot be read</source>
         <translation>the stated length "%1" cannot be read</translation>
     </message>
+    <message id="MESS_TAB_MAPPING_ROLES">
+        <source>the mapping file "%1" names roles that are not known: %2</source>
+        <translation>the mapping file "%1" names roles that are not known: %2</translation>
+    </message>
+    <message id="MESS_TAB_MAPPING_COLUMNS">
+        <source>the mapping file "%1" names columns that the table does not have, so that their roles are recognised: %2</source>
+        <translation>the mapping file "%1" names columns that the table does not have, so that their roles are recognised: %2</translation>
+    </message>
+    <message id="MESS_TAB_MAPPING_TWICE">
+        <source>the mapping file "%1" names columns more than once, of which only the first role holds: %2</source>
+        <translation>the mapping file "%1" names columns more than once, of which only the first role holds: %2</translation>
+    </message>
+    <message id="MESS_TAB_MAPPING_HEADER">
+        <source>the mapping file "%1" names header rows that the table does not have: the header is recognised</source>
+        <translation>the mapping file "%1" names header rows that the table does not have: the header is recognised</translation>
+    </message>
+    <message id="MESS_TAB_MAPPING_SHEET">
+        <source>the mapping file "%1" names the sheet "%2", which the workbook does not have: the sheet is recognised</source>
+        <translation>the mapping file "%1" names the sheet "%2", which the workbook does not have: the sheet is recognised</translation>
+    </message>
+    <message id="MESS_TAB_MAPPING_KIND">
+        <source>it is for tables of the other kind</source>
+        <translation>it is for tables of the other kind</translation>
+    </message>
+    <message id="MESS_TAB_EVIDENCE_STATED">
+        <source>stated in %1</source>
+        <translation>stated in %1</translation>
+    </message>
 </context>
 </TS>

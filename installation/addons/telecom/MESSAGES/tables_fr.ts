@@ -745,7 +745,7 @@
     </message>
     <message id="MESS_TAB_MAPPING_UNUSED">
         <source>the mapping file "%1" is not used: %2</source>
-        <translation>le fichier de correspondance «&#xa0;%1&#xa0;» n’est pas utilisé&#xa0;: %2</translation>
+        <translation>le fichier de correspondance «&#xa0;%1&#xa0;» n'est pas utilisé&#xa0;: %2</translation>
     </message>
     <message id="MESS_TAB_MAPPING_LARGE">
         <source>a mapping file has at most 1 MiB</source>
@@ -753,11 +753,11 @@
     </message>
     <message id="MESS_TAB_MAPPING_JSON">
         <source>its JSON is not valid in line %1</source>
-        <translation>son JSON n’est pas valide à la ligne %1</translation>
+        <translation>son JSON n'est pas valide à la ligne %1</translation>
     </message>
     <message id="MESS_TAB_MAPPING_NONE">
         <source>it is not a mapping of columns</source>
-        <translation>ce n’est pas une correspondance de colonnes</translation>
+        <translation>ce n'est pas une correspondance de colonnes</translation>
     </message>
     <message id="MESS_TAB_MAPPING_VERSION">
         <source>its version %1 is not known</source>
@@ -838,6 +838,34 @@
     <message id="MESS_TAB_LENGTH_UNREADABLE">
         <source>the stated length "%1" cannot be read</source>
         <translation>la longueur indiquée «&#xa0;%1&#xa0;» ne peut pas être lue</translation>
+    </message>
+    <message id="MESS_TAB_MAPPING_ROLES">
+        <source>the mapping file "%1" names roles that are not known: %2</source>
+        <translation>le fichier de correspondance «&#xa0;%1&#xa0;» nomme des rôles inconnus&#xa0;: %2</translation>
+    </message>
+    <message id="MESS_TAB_MAPPING_COLUMNS">
+        <source>the mapping file "%1" names columns that the table does not have, so that their roles are recognised: %2</source>
+        <translation>le fichier de correspondance «&#xa0;%1&#xa0;» nomme des colonnes que le tableau n'a pas, dont les rôles sont donc reconnus automatiquement&#xa0;: %2</translation>
+    </message>
+    <message id="MESS_TAB_MAPPING_TWICE">
+        <source>the mapping file "%1" names columns more than once, of which only the first role holds: %2</source>
+        <translation>le fichier de correspondance «&#xa0;%1&#xa0;» nomme plusieurs fois des colonnes, dont seul le premier rôle vaut&#xa0;: %2</translation>
+    </message>
+    <message id="MESS_TAB_MAPPING_HEADER">
+        <source>the mapping file "%1" names header rows that the table does not have: the header is recognised</source>
+        <translation>le fichier de correspondance «&#xa0;%1&#xa0;» nomme des lignes d'en-tête que le tableau n'a pas&#xa0;: l'en-tête est reconnu automatiquement</translation>
+    </message>
+    <message id="MESS_TAB_MAPPING_SHEET">
+        <source>the mapping file "%1" names the sheet "%2", which the workbook does not have: the sheet is recognised</source>
+        <translation>le fichier de correspondance «&#xa0;%1&#xa0;» nomme la feuille «&#xa0;%2&#xa0;», que le classeur n'a pas&#xa0;: la feuille est reconnue automatiquement</translation>
+    </message>
+    <message id="MESS_TAB_MAPPING_KIND">
+        <source>it is for tables of the other kind</source>
+        <translation>il est fait pour des tableaux de l'autre genre</translation>
+    </message>
+    <message id="MESS_TAB_EVIDENCE_STATED">
+        <source>stated in %1</source>
+        <translation>indiqué dans %1</translation>
     </message>
 </context>
 </TS>

@@ -1,0 +1,101 @@
+#include "plugins/tables/ogr/RecognisedMapping.h"
+
+#include <algorithm>
+#include <filesystem>
+
+namespace vlt::driver {
+
+namespace {
+
+using contract::StatedColumns;
+
+std::string nameOf(const TableProfile &table, int field)
+{
+    return field < 0 ? std::string() : table.fields[static_cast<std::size_t>(field)].name;
+}
+
+/// The parts of a coordinate as far as the last one.
+StatedColumns columnsOf(const TableProfile &table, const CoordinateFields &fields)
+{
+    StatedColumns columns;
+    for (const int field : {fields.value, fields.minutes, fields.seconds, fields.hemisphere})
+        columns.push_back(nameOf(table, field));
+    while (columns.size() > 1 && columns.back().empty())
+        columns.pop_back();
+    return columns;
+}
+
+void addPoint(contract::ColumnMapping &mapping, const TableProfile &table, const PointFields &point,
+              const std::string &end)
+{
+    if (point.x.found())
+        mapping.roles["x" + end] = columnsOf(table, point.x);
+    if (point.y.found())
+        mapping.roles["y" + end] = columnsOf(table, point.y);
+    if (point.pair >= 0)
+        mapping.roles["pair" + end] = {nameOf(table, point.pair)};
+}
+
+/// The other roles of sites; those of transmitters in the order of their numbers.
+void addRoles(contract::ColumnMapping &mapping, const TableProfile &table,
+              const std::vector<ColumnRole> &columns)
+{
+    std::vector<int> numbers;
+    for (const ColumnRole &column : columns) {
+        if (column.sector >= 0)
+            numbers.push_back(column.sector);
+    }
+    std::sort(numbers.begin(), numbers.end());
+    numbers.erase(std::unique(numbers.begin(), numbers.end()), numbers.end());
+    for (const ColumnRole &column : columns) {
+        if (column.role == Role::X || column.role == Role::Y || column.role == Role::Pair)
+            continue;
+        StatedColumns &stated = mapping.roles[std::string(roleName(column.role))];
+        if (column.sector < 0) {
+            stated = {nameOf(table, column.field)};
+            continue;
+        }
+        stated.resize(std::max<std::size_t>(numbers.size(), 2));
+        const auto at = std::lower_bound(numbers.begin(), numbers.end(), column.sector);
+        stated[static_cast<std::size_t>(at - numbers.begin())] = nameOf(table, column.field);
+    }
+}
+
+/// A path relative to the folder of the table, if that is possible.
+std::string relativeTo(const std::string &table, const std::string &path)
+{
+    const std::filesystem::path folder = std::filesystem::path(table).parent_path();
+    const std::string relative = std::filesystem::path(path).lexically_relative(folder).string();
+    return folder.empty() || relative.empty() ? path : relative;
+}
+
+} // namespace
+
+contract::ColumnMapping recognisedMapping(const TableFile &file)
+{
+    const TableFacts &facts = file.facts();
+    const TableOptions &options = file.options();
+    contract::ColumnMapping mapping;
+    mapping.kind = options.kind;
+    if (facts.table.encoding.name.empty()) // a workbook
+        mapping.sheet = facts.table.sheet;
+    mapping.headerRows.emplace();
+    for (const HeaderRow &row : facts.table.header.rows)
+        mapping.headerRows->push_back(row.number);
+    mapping.swapsAxes = options.swapsAxes;
+    mapping.sourceSrs = options.mapping.mapping.sourceSrs;
+    if (!options.second.empty())
+        (options.kind == contract::TableKind::Sites ? mapping.sectors : mapping.sites) =
+            relativeTo(file.path(), options.second);
+    const SiteLayout *sites = std::get_if<SiteLayout>(&facts.layout);
+    if (!sites)
+        return mapping;
+    PointFields point = sites->point;
+    if (options.swapsAxes) // as the names say
+        point.swapAxes();
+    addPoint(mapping, facts.table, point, {});
+    addRoles(mapping, facts.table, sites->roles.columns);
+    return mapping;
+}
+
+} // namespace vlt::driver

@@ -1,0 +1,127 @@
+#include "plugins/tables/sites/StatedRoles.h"
+
+#include "contract/TableTexts.h"
+#include "plugins/tables/roles/NameWords.h"
+#include "plugins/tables/roles/Role.h"
+
+#include <algorithm>
+#include <optional>
+
+namespace vlt::driver {
+
+namespace {
+
+constexpr std::size_t MaxNamed = 10; ///< in the text of a problem
+
+bool isRoleOfSites(std::string_view name)
+{
+    const Role role = roleOfName(name);
+    return role == Role::SiteId || role == Role::SiteName || role == Role::X || role == Role::Y ||
+           (role >= Role::Pair && role <= Role::Operator);
+}
+
+bool isRoleOf(contract::TableKind kind, std::string_view name)
+{
+    if (kind == contract::TableKind::Sites)
+        return isRoleOfSites(name);
+    if (!name.ends_with('A') && !name.ends_with('B'))
+        return roleOfName(name) != Role::None;
+    name.remove_suffix(1);
+    return isRoleOfSites(name) || name == roleName(Role::OffsetX) ||
+           name == roleName(Role::OffsetY) || name == roleName(Role::Diameter);
+}
+
+/// Texts for a problem: "a", "b".
+class Named
+{
+public:
+    void add(const std::string &text)
+    {
+        if (++m_count <= MaxNamed)
+            m_text += (m_text.empty() ? "\"" : ", \"") + text + '"';
+        else if (m_count == MaxNamed + 1)
+            m_text += " \u2026";
+    }
+    void report(contract::TableTextId id, const std::string &file,
+                std::vector<RowProblem> &problems) const
+    {
+        if (m_count > 0)
+            problems.push_back({0, {}, false, contract::formatted(id, {file, m_text})});
+    }
+
+private:
+    std::string m_text;
+    std::size_t m_count = 0;
+};
+
+/// The fields of a table by their names.
+class FieldNames
+{
+public:
+    explicit FieldNames(const TableProfile &table)
+    {
+        const bool isHeaderless = table.header.rows.empty();
+        for (std::size_t i = 0; i < table.fields.size(); ++i) {
+            const int field = static_cast<int>(i);
+            m_names.emplace(table.fields[i].name, field);
+            m_folded.emplace(folded(table.fields[i].name), field);
+            if (isHeaderless)
+                m_names.emplace("Column " + std::to_string(table.fields[i].column + 1), field);
+        }
+    }
+
+    std::optional<int> find(const std::string &name) const
+    {
+        if (const auto exact = m_names.find(name); exact != m_names.end())
+            return exact->second;
+        const auto similar = m_folded.find(folded(name));
+        return similar == m_folded.end() ? std::nullopt : std::optional(similar->second);
+    }
+
+private:
+    std::map<std::string, int> m_names;
+    std::map<std::string, int> m_folded;
+};
+
+} // namespace
+
+StatedRoles findStatedRoles(const contract::ColumnMapping &mapping, contract::TableKind kind,
+                            const TableProfile &table, const std::string &file,
+                            std::vector<RowProblem> &problems)
+{
+    StatedRoles stated;
+    stated.evidence = contract::formatted("MESS_TAB_EVIDENCE_STATED", {file});
+    const FieldNames names(table);
+    Named unknown;
+    Named gone;
+    Named twice;
+    for (const auto &[role, columns] : mapping.roles) {
+        if (!isRoleOf(kind, role)) {
+            unknown.add(role);
+            continue;
+        }
+        std::vector<int> fields;
+        for (const std::string &column : columns) {
+            const std::optional<int> field = column.empty() ? -1 : names.find(column);
+            if (!field)
+                gone.add(column);
+            else if (*field >= 0 &&
+                     (stated.fields.contains(*field) ||
+                      std::find(fields.begin(), fields.end(), *field) != fields.end()))
+                twice.add(column);
+            else
+                fields.push_back(*field);
+        }
+        if (fields.size() != columns.size())
+            continue;
+        stated.fields.insert(fields.begin(), fields.end());
+        stated.roles.emplace(role, std::move(fields));
+    }
+    stated.fields.erase(-1);
+    unknown.report("MESS_TAB_MAPPING_ROLES", file, problems);
+    gone.report("MESS_TAB_MAPPING_COLUMNS", file, problems);
+    twice.report("MESS_TAB_MAPPING_TWICE", file, problems);
+    return stated;
+}
+
+} // namespace vlt::driver

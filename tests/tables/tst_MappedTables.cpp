@@ -1,0 +1,124 @@
+#include "DriverTesting.h"
+#include "support/Cases.h"
+
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+/// Tables whose columns a mapping file states.
+class tst_MappedTables : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QVERIFY(m_folder.isValid());
+        GDALAllRegister();
+    }
+
+    void followsWhatIsStated_data()
+    {
+        const Cases<QByteArray, QByteArray, QString, QString> row(
+            {"table", "mapping", "sites", "problem"});
+        const QByteArray tall = "Site,Lon,Lat,Azimuth,Bearing,Height\nS,2,48,10,70,30\n"
+                                "S,2,48,20,80,31\nT,3,49,5,6,32\n";
+        const char *const asItIs = "S@2,48 10/30 20/31|T@3,49 5/32";
+        row("nothing", tall, "", asItIs);
+        row("another column", tall, R"("azimuth": "Bearing")", "S@2,48 70/30 80/31|T@3,49 6/32");
+        row("in another case", tall, R"("azimuth": "BEARING")", "S@2,48 70/30 80/31|T@3,49 6/32");
+        row("no column", tall, R"("antennaHeight": null)", "S@2,48 10/ 20/|T@3,49 5/");
+        row("no transmitters", tall, R"("azimuth": null)", "S@2,48|S@2,48|T@3,49");
+        row("a second role", tall, R"("siteName": "Azimuth")", "S@2,48 70/30 80/31|T@3,49 6/32");
+        row("a column that is gone", tall, R"("azimuth": "AZ", "antennaHeight": ["Height", "H2"])",
+            asItIs,
+            "the mapping file \"t.csv.columns.json\" names columns that the table does not have, "
+            "so "
+            "that their roles are recognised: \"H2\", \"AZ\"");
+        row("unknown role", tall, R"("azimut": "Bearing")", asItIs,
+            "the mapping file \"t.csv.columns.json\" names roles that are not known: \"azimut\"");
+        row("two roles", tall, R"("siteId": "Site", "siteName": "Site")", asItIs,
+            "the mapping file \"t.csv.columns.json\" names columns more than once, of which only "
+            "the "
+            "first role holds: \"Site\"");
+        row("broken", tall, R"("azimuth": )", asItIs,
+            "the mapping file \"t.csv.columns.json\" is not used: its JSON is not valid in line 1");
+        row("strange coordinates", "A,B,C,Azimuth\nS,2,48,10\n",
+            R"("x": "B", "y": "C", "siteId": "A")", "S@2,48 10/");
+        row("one strange coordinate", "A,Longitude,C,Azimuth\nS,2,48,10\n",
+            R"("y": "C", "siteId": "A")", "S@2,48 10/");
+        row("parts", "Site,D,M,S,H,E,W\nS,48,30,36,N,2,W\n",
+            R"("y": ["D", "M", "S", "H"], "x": ["E", null, null, "W"])", "S@-2,48.51");
+        row("a pair", "Site,P,Lon,Lat\nS,\"48.5, 2.5\",5,6\n", R"("pair": "P")", "S@2.5,48.5");
+        row("by transmitter", "Site,Lon,Lat,Dir A,Dir B,Height 1,Height 2\nS,2,48,10,20,30,31\n",
+            R"("azimuth": ["Dir A", "Dir B"])", "S@2,48 10/30 20/31");
+        row("one missing", "Site,Lon,Lat,Dir A,Dir B,H\nS,2,48,10,20,30\n",
+            R"("azimuth": ["Dir A", "Dir B"], "antennaHeight": [null, "H"])", "S@2,48 10/ 20/30");
+        row("header row", "Site,Lon,Lat\nx,y,z\nS,2,48\n",
+            R"("siteId": "x", "x": "y", "y": "z"}, "headerRows": [2)", "S@2,48");
+        row("header rows", "a,b,b\nx,y,z\nS,2,48\n",
+            R"("siteId": "a x", "x": "b y", "y": "b z"}, "headerRows": [1, 2)", "S@2,48");
+        row("header row beyond the end", tall, R"("azimuth": "Bearing"}, "headerRows": [50)",
+            "S@2,48 70/30 80/31|T@3,49 6/32",
+            "the mapping file \"t.csv.columns.json\" names header rows that the table does not "
+            "have: "
+            "the header is recognised");
+        row("no header", "a1,2,48,q\nb2,3,49,q\n",
+            R"("siteId": "Column 1", "x": "Column 2", "y": "Column 3"}, "headerRows": [)",
+            "a1@2,48|b2@3,49");
+        row("swapped", "Site,Lon,Lat\nS,48,2\n", R"(}, "axes": "swapped", "headerRows": [1)",
+            "S@2,48");
+    }
+    void followsWhatIsStated()
+    {
+        QFETCH(QByteArray, mapping);
+        QFETCH(QByteArray, table);
+        QFETCH(QString, problem);
+        m_folder.write("t.csv", table);
+        const bool hasRows = mapping.contains("headerRows");
+        m_folder.write("t.csv.columns.json",
+                       "{\"version\": 1, \"roles\": {" + mapping + (hasRows ? "]}" : "}}"));
+        const Warnings warnings;
+        const GDALDatasetUniquePtr dataset = m_folder.open("site:", "t.csv");
+        QVERIFY2(dataset, qPrintable(warnings.texts.join(u'\n')));
+
+        QTEST(sitesOf(*dataset), "sites");
+        const QString problems = problemsOf(*dataset->GetLayer(0)).join(u'\n');
+        QVERIFY2(problem.isEmpty() ? !problems.contains(u"mapping file"_s)
+                                   : problems.contains(problem),
+                 qPrintable(problems));
+    }
+
+private:
+    /// The sites with azimuths and heights of their transmitters.
+    static QString sitesOf(GDALDataset &dataset)
+    {
+        QStringList sites;
+        OGRLayer &layer = *dataset.GetLayer(0);
+        while (const OGRFeatureUniquePtr site{layer.GetNextFeature()}) {
+            const auto text = [&site](const QByteArray &name) {
+                const int field = site->GetFieldIndex(name);
+                return field < 0 ? QString() : QString::fromUtf8(site->GetFieldAsString(field));
+            };
+            const OGRGeometry *geometry = site->GetGeometryRef();
+            QString line = text("Site ID");
+            if (geometry)
+                line +=
+                    u"@%1,%2"_s.arg(geometry->toPoint()->getX()).arg(geometry->toPoint()->getY());
+            for (int n = 1; n <= 2; ++n) {
+                const QByteArray prefix = "Transmitter-" + QByteArray::number(n);
+                const QString values =
+                    text(prefix + " Azimuth (\u00B0)") + u'/' + text(prefix + " Height (m)");
+                if (values.size() > 1)
+                    line += u' ' + values;
+            }
+            sites += line;
+        }
+        return sites.join(u'|');
+    }
+
+    TableFolder m_folder;
+};
+
+QTEST_GUILESS_MAIN(tst_MappedTables)
+#include "tst_MappedTables.moc"
