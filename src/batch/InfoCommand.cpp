@@ -4,6 +4,7 @@
 #include "batch/Help.h"
 #include "batch/InfoReport.h"
 #include "batch/LayerCommand.h"
+#include "batch/RowOutputs.h"
 #include "batch/StartUp.h"
 #include "contract/QueryOptions.h"
 #include "geodata/LayerProblems.h"
@@ -109,6 +110,11 @@ Result<InfoReport> withRows(InfoReport report, contract::TableKind kind)
     const Result<geodata::SiteCheck> check = *geodata::readSiteCheck(connection, {}, file.systems);
     if (!check)
         return check.error();
+    const Result<geodata::TableRowCounts> rows = geodata::readRowCounts(connection);
+    if (!rows)
+        return rows.error();
+    report.rows = rows.value();
+    report.connection = connection;
     const geodata::SystemCheck &systems = check.value().systems;
     const QList<Problem> ofSystems = tables::systemProblems(file, file.systems, systems);
     const geodata::LayerProblems others =
@@ -174,12 +180,13 @@ CommandSyntax syntax()
         QList<QCommandLineOption>{
             {QStringLiteral("link"),
              dico_label("MESS_OPT_INFO_LINK", "The tables have microwave links, not sites.")}} +
-        readingOptions() +
+        readingOptions() + rowOutputOptions() +
         QList{secondFileOption(contract::TableKind::Sites),
               secondFileOption(contract::TableKind::Links)};
     syntax.examples =
         QStringLiteral("  vltlayers info sites.xlsx\n"
                        "  vltlayers info --link links.xlsx\n"
+                       "  vltlayers info sites.csv --report rows.csv --rejects corrections.csv\n"
                        "  vltlayers info --project city.gvw --json \"my sites.csv\"\n");
     return syntax;
 }
@@ -202,15 +209,30 @@ ExitStatus run(const QCommandLineParser &parser, const GlobalOptions &options)
             return refuseUsage(reading.error());
         readings << reading.value();
     }
+    const Result<RowOutputs> outputs = readRowOutputs(parser);
+    if (!outputs)
+        return refuseUsage(outputs.error());
     const Result<Surroundings> surroundings = startUp(options);
     if (!surroundings)
         return refuse(surroundings.error());
+    const QStringList inputs = tables + QStringList{parser.value(QStringLiteral("sectors")),
+                                                    parser.value(QStringLiteral("sites")),
+                                                    surroundings.value().project.projectPath};
+    if (const auto error = checkRowOutputs(outputs.value(), inputs))
+        return refuse(*error);
     QList<Result<InfoReport>> outcomes;
     for (qsizetype i = 0; i < tables.size(); ++i) {
         const QString &table = tables[i];
         Result<InfoReport> report = readTable(QFileInfo(table).absoluteFilePath(), isLinks,
                                               readings[i], surroundings.value().project);
         outcomes << (report ? report : Result<InfoReport>(report.error().withPath(table)));
+    }
+    if (const Result<InfoReport> &only = outcomes.constFirst();
+        only && !outputs.value().isEmpty()) {
+        const auto written =
+            writeRowOutputs(outputs.value(), only.value().connection, options.quiet);
+        if (!written)
+            return refuse(written.error());
     }
     if (options.json && outcomes.size() > 1)
         return printJson(outcomes);

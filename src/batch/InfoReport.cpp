@@ -5,6 +5,7 @@
 #include "language/ReaderText.h"
 #include "language/VltLanguageManager.h"
 #include "tables/ColumnRoles.h"
+#include "tables/RowReport.h"
 
 #include <QJsonArray>
 
@@ -96,6 +97,23 @@ QJsonArray problemsJson(const geodata::LayerProblems &problems)
     return array;
 }
 
+QList<Line> rowLines(const geodata::TableRowCounts &rows)
+{
+    QList<Line> lines = {{dico_label("MESS_CLI_ROWS", "Rows"), {tables::rowCountsText(rows.rows)}}};
+    if (rows.second)
+        lines.append({dico_label("MESS_CLI_SECOND_ROWS", "Rows of %1").arg(rows.secondName),
+                      {tables::rowCountsText(*rows.second)}});
+    return lines;
+}
+
+QJsonObject countsJson(const geodata::RowCounts &counts)
+{
+    return {{QStringLiteral("rows"), counts.rows},
+            {QStringLiteral("used"), counts.used},
+            {QStringLiteral("merged"), counts.merged},
+            {QStringLiteral("leftOut"), counts.leftOut}};
+}
+
 QJsonArray candidatesJson(const QList<geodata::SystemCandidate> &candidates)
 {
     QJsonArray array;
@@ -137,7 +155,8 @@ QString reportText(const InfoReport &report)
 {
     return aligned(fileLines(report)) + QLatin1Char('\n') + report.file.description +
            QStringLiteral("\n\n") + aligned(columnLines(report.columns)) + QLatin1Char('\n') +
-           rolesText(report.file) + problemsText(report.problems);
+           rolesText(report.file) + aligned(rowLines(report.rows)) + QLatin1Char('\n') +
+           problemsText(report.problems);
 }
 
 QJsonObject reportJson(const InfoReport &report)
@@ -156,6 +175,12 @@ QJsonObject reportJson(const InfoReport &report)
                        {QStringLiteral("columns"), report.columnNames},
                        {QStringLiteral("problemCount"), report.problems.count},
                        {QStringLiteral("problems"), problemsJson(report.problems)}};
+    object.insert(QStringLiteral("rowCounts"), countsJson(report.rows.rows));
+    if (report.rows.second) {
+        QJsonObject second = countsJson(*report.rows.second);
+        second.insert(QStringLiteral("table"), report.rows.secondName);
+        object.insert(QStringLiteral("secondRowCounts"), second);
+    }
     if (!file.candidates.isEmpty())
         object.insert(QStringLiteral("systemCandidates"), candidatesJson(file.candidates));
     if (!report.problems.findings.isEmpty())

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "geodata/LayerProblems.h"
+#include "geodata/TableReport.h"
 #include "tables/ColumnDescription.h"
 #include "tables/TableFileInfo.h"
 
@@ -26,6 +27,8 @@ struct InfoReport
     QList<tables::ColumnDescription> columns; ///< recognised columns, for the text
     QJsonObject columnNames;                  ///< the same, for JSON
     geodata::LayerProblems problems;
+    geodata::TableRowCounts rows;
+    QString connection; ///< by which the rows were read
 };
 
 /// A problem as one line, with row and column first.

@@ -168,6 +168,32 @@ private Q_SLOTS:
         QVERIFY2(wrong.errors.contains("--sites needs --link"), wrong.errors.constData());
     }
 
+    void accountsForEveryRow()
+    {
+        const QByteArray table = "Site ID;Longitude;Latitude;Azimuth\nCh\xE2teau;2,3;48,8;0\n"
+                                 "Ch\xE2teau;2,3;48,8;120\nM\xE9tro;2,4;;0\nTotal;;;3\n";
+        writeFile(path(u"rows.csv"_s), table);
+
+        const Run info = start(u"info ../rows.csv --encoding CP1252 --json "
+                               "--report report.csv --rejects rejects.csv"_s);
+        const Run same = start(u"info ../rows.csv --encoding CP1252 --report ../rows.csv"_s);
+
+        QCOMPARE(info.errors, QByteArray());
+        const QJsonObject counts = QJsonDocument::fromJson(info.output)[u"rowCounts"_s].toObject();
+        QCOMPARE(
+            counts,
+            QJsonObject({{u"rows"_s, 4}, {u"used"_s, 1}, {u"merged"_s, 1}, {u"leftOut"_s, 2}}));
+        QCOMPARE(QString::fromUtf8(readFile(path(u"elsewhere/report.csv"_s))),
+                 u"row,fate,site or link,first row,reason,columns,table\n"
+                 "2,used,Château,2,,,rows\n3,merged,Château,2,,,rows\n"
+                 "4,left out,Métro,,the coordinate is empty,Latitude,rows\n"
+                 "5,left out,,,a row of sums is left out,,rows\n"_s);
+        QCOMPARE(readFile(path(u"elsewhere/rejects.csv"_s)),
+                 QByteArray("Site ID;Longitude;Latitude;Azimuth\nM\xE9tro;2,4;;0\n"));
+        QCOMPARE(same.status, 1);
+        QCOMPARE(readFile(path(u"rows.csv"_s)), table);
+    }
+
     void speaksFrenchOfTables_data()
     {
         const Cases<QString, QString, QString> row({"table", "arguments", "text"});
@@ -276,6 +302,9 @@ private Q_SLOTS:
     void refusesAndWritesNothing_data()
     {
         const Refusals row;
+        row("info ../sites.csv --report", 2, "--report");
+        row("info ../sites.csv ../sites.csv --rejects r.csv", 2, "with one table only");
+        row("info ../sites.csv --report r.csv --rejects ./r.csv", 2, "need different files");
         row("site ../missing.csv -o old.lay", 1,
             "../missing.csv: This file can't be open as a site file (the file does not exist)");
         row("site ../unplaced.csv -o old.lay", 1, "../unplaced.csv: ");

@@ -619,5 +619,33 @@
         <source>--sites needs --link</source>
         <translation>--sites needs --link</translation>
     </message>
+    <message id="MESS_CLI_ROWS">
+        <source>Rows</source>
+        <translation>Rows</translation>
+    </message>
+    <message id="MESS_CLI_SECOND_ROWS">
+        <source>Rows of %1</source>
+        <translation>Rows of %1</translation>
+    </message>
+    <message id="MESS_CLI_READING_ROWS">
+        <source>Reading the rows</source>
+        <translation>Reading the rows</translation>
+    </message>
+    <message id="MESS_OPT_REJECTS">
+        <source>Write the rows that are left out, with the columns of the table, to be corrected and opened again; of one table.</source>
+        <translation>Write the rows that are left out, with the columns of the table, to be corrected and opened again; of one table.</translation>
+    </message>
+    <message id="MESS_USE_FILE">
+        <source>the name of a file</source>
+        <translation>the name of a file</translation>
+    </message>
+    <message id="MESS_USE_ONE_TABLE_ROWS">
+        <source>--report and --rejects can be used with one table only</source>
+        <translation>--report and --rejects can be used with one table only</translation>
+    </message>
+    <message id="MESS_USE_SAME_ROW_FILE">
+        <source>--report and --rejects need different files</source>
+        <translation>--report and --rejects need different files</translation>
+    </message>
 </context>
 </TS>

@@ -619,5 +619,33 @@
         <source>--sites needs --link</source>
         <translation>--sites ne va qu'avec --link</translation>
     </message>
+    <message id="MESS_CLI_ROWS">
+        <source>Rows</source>
+        <translation>Lignes</translation>
+    </message>
+    <message id="MESS_CLI_SECOND_ROWS">
+        <source>Rows of %1</source>
+        <translation>Lignes de %1</translation>
+    </message>
+    <message id="MESS_CLI_READING_ROWS">
+        <source>Reading the rows</source>
+        <translation>Lecture des lignes</translation>
+    </message>
+    <message id="MESS_OPT_REJECTS">
+        <source>Write the rows that are left out, with the columns of the table, to be corrected and opened again; of one table.</source>
+        <translation>Écrire les lignes laissées de côté, avec les colonnes de la table, pour les corriger et les ouvrir de nouveau&#xa0;; pour une seule table.</translation>
+    </message>
+    <message id="MESS_USE_FILE">
+        <source>the name of a file</source>
+        <translation>le nom d'un fichier</translation>
+    </message>
+    <message id="MESS_USE_ONE_TABLE_ROWS">
+        <source>--report and --rejects can be used with one table only</source>
+        <translation>--report et --rejects ne s'utilisent qu'avec une seule table</translation>
+    </message>
+    <message id="MESS_USE_SAME_ROW_FILE">
+        <source>--report and --rejects need different files</source>
+        <translation>--report et --rejects demandent des fichiers différents</translation>
+    </message>
 </context>
 </TS>

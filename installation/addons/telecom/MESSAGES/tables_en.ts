@@ -867,5 +867,49 @@
         <source>stated in %1</source>
         <translation>stated in %1</translation>
     </message>
+    <message id="MESS_ROW_COUNTS">
+        <source>%1 = %2 used + %3 merged + %4 left out</source>
+        <translation>%1 = %2 used + %3 merged + %4 left out</translation>
+    </message>
+    <message id="MESS_FATE_USED">
+        <source>used</source>
+        <translation>used</translation>
+    </message>
+    <message id="MESS_FATE_MERGED">
+        <source>merged</source>
+        <translation>merged</translation>
+    </message>
+    <message id="MESS_FATE_LEFT_OUT">
+        <source>left out</source>
+        <translation>left out</translation>
+    </message>
+    <message id="MESS_REPORT_ROW">
+        <source>row</source>
+        <translation>row</translation>
+    </message>
+    <message id="MESS_REPORT_FATE">
+        <source>fate</source>
+        <translation>fate</translation>
+    </message>
+    <message id="MESS_REPORT_SITE">
+        <source>site or link</source>
+        <translation>site or link</translation>
+    </message>
+    <message id="MESS_REPORT_FIRST_ROW">
+        <source>first row</source>
+        <translation>first row</translation>
+    </message>
+    <message id="MESS_REPORT_REASON">
+        <source>reason</source>
+        <translation>reason</translation>
+    </message>
+    <message id="MESS_REPORT_COLUMNS">
+        <source>columns</source>
+        <translation>columns</translation>
+    </message>
+    <message id="MESS_REPORT_TABLE">
+        <source>table</source>
+        <translation>table</translation>
+    </message>
 </context>
 </TS>

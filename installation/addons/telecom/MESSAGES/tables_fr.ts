@@ -867,5 +867,49 @@
         <source>stated in %1</source>
         <translation>indiqué dans %1</translation>
     </message>
+    <message id="MESS_ROW_COUNTS">
+        <source>%1 = %2 used + %3 merged + %4 left out</source>
+        <translation>%1 = %2 utilisées + %3 fusionnées + %4 laissées de côté</translation>
+    </message>
+    <message id="MESS_FATE_USED">
+        <source>used</source>
+        <translation>utilisée</translation>
+    </message>
+    <message id="MESS_FATE_MERGED">
+        <source>merged</source>
+        <translation>fusionnée</translation>
+    </message>
+    <message id="MESS_FATE_LEFT_OUT">
+        <source>left out</source>
+        <translation>laissée de côté</translation>
+    </message>
+    <message id="MESS_REPORT_ROW">
+        <source>row</source>
+        <translation>ligne</translation>
+    </message>
+    <message id="MESS_REPORT_FATE">
+        <source>fate</source>
+        <translation>sort</translation>
+    </message>
+    <message id="MESS_REPORT_SITE">
+        <source>site or link</source>
+        <translation>site ou liaison</translation>
+    </message>
+    <message id="MESS_REPORT_FIRST_ROW">
+        <source>first row</source>
+        <translation>première ligne</translation>
+    </message>
+    <message id="MESS_REPORT_REASON">
+        <source>reason</source>
+        <translation>motif</translation>
+    </message>
+    <message id="MESS_REPORT_COLUMNS">
+        <source>columns</source>
+        <translation>colonnes</translation>
+    </message>
+    <message id="MESS_REPORT_TABLE">
+        <source>table</source>
+        <translation>table</translation>
+    </message>
 </context>
 </TS>
