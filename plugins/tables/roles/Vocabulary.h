@@ -98,6 +98,12 @@ public:
     bool isTotal(std::string_view text) const { return m_totals.contains(text); }
     /// Whether a text in a column of azimuths means all directions.
     bool isOmni(std::string_view text) const { return m_omni.contains(text); }
+    /// Whether a word of a column name means west or, for latitudes, south. Of the letters, only
+    /// W and S do, because others have several meanings.
+    bool isNegativeHemisphere(std::string_view word, bool ofLongitudes) const
+    {
+        return (ofLongitudes ? m_west : m_south).contains(word);
+    }
     /// The systems of countries, those of a user first.
     const std::vector<NamedSystem> &systems() const { return m_systems; }
 
@@ -124,6 +130,8 @@ private:
     ValueWordSet m_missing;
     ValueWordSet m_totals;
     ValueWordSet m_omni;
+    ValueWordSet m_west;
+    ValueWordSet m_south;
     std::vector<std::string> m_languages; ///< in the order of their bits
     std::uint32_t m_westO = 0;            ///< languages in which O is west
     std::uint32_t m_eastO = 0;

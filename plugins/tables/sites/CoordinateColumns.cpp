@@ -290,6 +290,17 @@ CoordinateFields coordinateFields(const std::vector<CoordinateName> &names,
     return fields;
 }
 
+/// Whether the name of a coordinate says west or south. A word in the names of both coordinates
+/// says something else: "West tower longitude" beside "West tower latitude".
+bool saysNegative(const Words &name, const Words &nameOfOther, Axis axis,
+                  const Vocabulary &vocabulary)
+{
+    return std::any_of(name.begin(), name.end(), [&](const std::string &word) {
+        return vocabulary.isNegativeHemisphere(word, axis == Axis::X) &&
+               std::find(nameOfOther.begin(), nameOfOther.end(), word) == nameOfOther.end();
+    });
+}
+
 /// A field with both coordinates, for tables without separate columns.
 int findPair(const FieldWords &words, const std::vector<Field> &fields, LetterO otherwise)
 {
@@ -349,6 +360,10 @@ PointFields findPoint(const FieldWords &words, const std::vector<Field> &fields,
     if (x >= 0) {
         point.x = coordinateFields(names, fields, x, stated.find("x"));
         point.y = coordinateFields(names, fields, y, stated.find("y"));
+        const Words nameOfX = words[static_cast<std::size_t>(x)].value_or(Words());
+        const Words nameOfY = words[static_cast<std::size_t>(y)].value_or(Words());
+        point.x.isNegative = saysNegative(nameOfX, nameOfY, Axis::X, vocabulary);
+        point.y.isNegative = saysNegative(nameOfY, nameOfX, Axis::Y, vocabulary);
     } else
         point.pair = isPair ? ofPair->front() : ofPair ? -1 : findPair(open, fields, otherwise);
     if (point.pair >= 0) {

@@ -26,6 +26,7 @@ struct CoordinateFields
     int minutes = -1;
     int seconds = -1;
     int hemisphere = -1;
+    bool isNegative = false; ///< the name says west or south: "Long (W)"
 
     bool found() const { return value >= 0; }
     bool inParts() const { return minutes >= 0; }

@@ -61,9 +61,9 @@ bool PositionReader::readAxis(int64_t row, const CoordinateFields &fields, Axis 
                               std::vector<RowProblem> &problems) const
 {
     const Cell *cell = cells[static_cast<std::size_t>(fields.value)];
-    const std::string hemisphere = fields.hemisphere >= 0 && m_unit != CoordinateUnit::Meters
-                                       ? fieldText(cells, fields.hemisphere)
-                                       : std::string();
+    const bool isAngle = m_unit != CoordinateUnit::Meters;
+    std::string hemisphere =
+        fields.hemisphere >= 0 && isAngle ? fieldText(cells, fields.hemisphere) : std::string();
     // Nearly all coordinates are plain numbers; this avoids making a text of them.
     if (cell && !fields.inParts() && hemisphere.empty() &&
         (cell->kind == Cell::Kind::Number || cell->kind == Cell::Kind::Text)) {
@@ -72,10 +72,12 @@ bool PositionReader::readAxis(int64_t row, const CoordinateFields &fields, Axis 
             number = parseNumber(trimmed(cell->text),
                                  m_table->fields[static_cast<std::size_t>(fields.value)].mark);
         if (number) {
-            value = *number;
+            value = fields.isNegative && isAngle ? -std::abs(*number) : *number;
             return true;
         }
     }
+    if (fields.isNegative && hemisphere.empty())
+        hemisphere = axis == Axis::X ? "W" : "S";
     if (!fields.inParts() && cell && m_unit == CoordinateUnit::Meters) {
         // A cell may have another decimal mark than its column.
         const std::string text = fieldText(cells, fields.value);
