@@ -18,6 +18,8 @@ struct SystemPair
 {
     QString source; ///< of the table
     QString target; ///< of the project
+
+    bool operator==(const SystemPair &) const = default;
 };
 
 /// Number of a table's positions that lie outside the areas of use of its systems. For a system

@@ -1,6 +1,7 @@
 #include "tables/MappingFiles.h"
 
 #include "contract/Installation.h"
+#include "contract/TableTexts.h"
 #include "platform/AtomicFile.h"
 
 #include <QCryptographicHash>
@@ -49,23 +50,24 @@ Result<Done> write(const QString &path, const contract::ColumnMapping &mapping)
 
 } // namespace
 
-Result<MappingFile> findMapping(const QString &tablePath)
+MappingFile findMapping(const QString &tablePath)
 {
     MappingFile found;
     if (const QString own = mappingOption(tablePath); !own.isEmpty())
-        found = {MappingFile::Place::OfUser, own, {}};
+        found = {MappingFile::Place::OfUser, own, {}, {}};
     else if (const QString beside = besideTable(tablePath); QFileInfo(beside).isFile())
-        found = {MappingFile::Place::BesideTable, beside, {}};
+        found = {MappingFile::Place::BesideTable, beside, {}, {}};
     else
         return found;
     QFile file(found.path);
-    if (!file.open(QFile::ReadOnly))
-        return Error::fromLibrary(file.errorString(), found.path);
-    const contract::ReadMapping read =
-        contract::readMapping(file.read(contract::MaxMappingBytes + 1).toStdString());
+    const std::string text = file.open(QFile::ReadOnly)
+                                 ? file.read(contract::MaxMappingBytes + 1).toStdString()
+                                 : std::string();
+    const contract::ReadMapping read = contract::readMapping(text);
+    found.mapping = read.mapping.value_or(contract::ColumnMapping());
     if (!read.mapping)
-        return Error::fromLibrary(QString::fromStdString(read.reason), found.path);
-    found.mapping = *read.mapping;
+        found.refusal = QString::fromStdString(contract::formatted(
+            "MESS_TAB_MAPPING_UNUSED", {found.path.toStdString(), read.reason}));
     return found;
 }
 

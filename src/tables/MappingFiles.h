@@ -20,14 +20,13 @@ struct MappingFile
     Place place = Place::None;
     QString path; ///< empty for Place::None
     contract::ColumnMapping mapping;
+    QString refusal; ///< why the file is not used, in English for language::readerText()
 };
 
 /// The mapping file that is in use for a table.
-///
-/// @par Errors   the file cannot be read, or it is no mapping; with its path.
-Result<MappingFile> findMapping(const QString &tablePath);
+MappingFile findMapping(const QString &tablePath);
 
-/// The path for TableReading::mapping: that of the user's file for the table; empty without one.
+/// The path for TableReading::columns: that of the user's file for the table; empty without one.
 QString mappingOption(const QString &tablePath);
 
 /// Keeps a changed mapping in the user's file for the table. If nothing is stated and there is no

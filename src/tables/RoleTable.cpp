@@ -156,6 +156,8 @@ contract::ColumnMapping withColumn(const contract::ColumnMapping &mapping, const
     columns.resize(std::max(columns.size(), place + 1));
     columns[place] = column.toStdString();
     columns.erase(std::find_if(columns.rbegin(), columns.rend(), isNamed).base(), columns.end());
+    if (part >= 0 && columns.size() == 1 && isOfTransmitter(entry.role))
+        columns.emplace_back(); // of one transmitter, not of all
     contract::ColumnMapping changed = mapping;
     changed.roles[entry.role.toStdString()] = columns;
     return changed;

@@ -53,7 +53,7 @@ vlt::tables::TablePageConfiguration VltAddLinkPage::linkConfiguration()
 
 std::optional<vlt::Error> VltAddLinkPage::readTable(const QString &path)
 {
-    return readInto(m_file, path, vlt::links::readLinkFileInfo);
+    return readInto(m_file, path, vlt::links::readLinkFileInfoAs);
 }
 
 void VltAddLinkPage::showDetails()

@@ -1,7 +1,6 @@
 #include "links/ui/VltLinkDetails.h"
 
 #include "language/ErrorText.h"
-#include "links/LinkColumnDescription.h"
 #include "links/ui/LinkReportModel.h"
 
 #include <QHeaderView>
@@ -37,7 +36,7 @@ VltLinkDetails::VltLinkDetails(QWidget *parent)
 
 void VltLinkDetails::showFile(const vlt::links::LinkFileInfo &file)
 {
-    showTable(file, vlt::links::describeColumns(file.columns), {});
+    showTable(file, {});
 }
 
 void VltLinkDetails::check(const QString &connection, const vlt::geodata::SystemPair &systems,

@@ -44,7 +44,7 @@ vlt::tables::TablePageConfiguration VltAddSitePage::siteConfiguration()
 
 std::optional<vlt::Error> VltAddSitePage::readTable(const QString &path)
 {
-    return readInto(m_file, path, vlt::sites::readSiteFileInfo);
+    return readInto(m_file, path, vlt::sites::readSiteFileInfoAs);
 }
 
 void VltAddSitePage::showDetails()

@@ -1,13 +1,11 @@
 #include "sites/ui/VltSiteDetails.h"
 
-#include "sites/SiteColumnDescription.h"
-
 void VltSiteDetails::showFile(const vlt::sites::SiteFileInfo &file)
 {
     QList<vlt::Problem> problems;
     if (const auto nameless = vlt::sites::missingNameField(file))
         problems << *nameless;
-    showTable(file, vlt::sites::describeColumns(file.columns), problems);
+    showTable(file, problems);
 }
 
 void VltSiteDetails::check(const QString &connection, const vlt::geodata::SystemPair &systems)

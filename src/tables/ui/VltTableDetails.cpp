@@ -3,6 +3,7 @@
 #include "language/ErrorText.h"
 #include "language/ReaderText.h"
 #include "tables/ui/CopyRows.h"
+#include "tables/ui/VltMappingPanel.h"
 #include "text/RichText.h"
 
 #include <QHBoxLayout>
@@ -69,12 +70,13 @@ VltTableDetails::VltTableDetails(QWidget *parent)
     , m_pwPbCancel(new QPushButton(tr("Cancel", "MESS_CANCEL"), this))
     , m_pwLblRemark(new QLabel(this))
     , m_pwTwDetails(new QTabWidget(this))
-    , m_columnModel(new QStandardItemModel(this))
+    , m_mapping(new VltMappingPanel(this))
     , m_problemModel(new QStandardItemModel(this))
 {
     buildHeading();
     buildTables();
     connect(m_pwTbFold, &QToolButton::toggled, this, &VltTableDetails::fold);
+    connect(m_pwTwDetails, &QTabWidget::currentChanged, this, &VltTableDetails::fitHeight);
     connect(m_pwPbCancel, &QPushButton::clicked, this, &VltTableDetails::stopChecking);
     connect(&m_runner, &vlt::tables::CheckRunner::progressed, this,
             [this](double share) { m_pwPrChecking->setValue(qRound(share * 100)); });
@@ -126,12 +128,9 @@ void VltTableDetails::buildHeading()
 
 void VltTableDetails::buildTables()
 {
-    m_columnModel->setHorizontalHeaderLabels(
-        {tr("Meaning", "MESS_MEANING"), tr("Columns of the table", "MESS_TABLE_COLUMNS")});
+    m_pwTwDetails->addTab(m_mapping, tr("Columns", "MESS_COLUMNS"));
     m_problemModel->setHorizontalHeaderLabels(
         {tr("Row", "MESS_ROW"), tr("Column", "MESS_COLUMN"), tr("Problem", "MESS_PROBLEM")});
-    m_pwTvColumns =
-        addTable(m_columnModel, QStringLiteral("m_pwTvColumns"), tr("Columns", "MESS_COLUMNS"));
     m_pwTvProblems =
         addTable(m_problemModel, QStringLiteral("m_pwTvProblems"), tr("Problems", "MESS_PROBLEMS"));
     m_pwTvProblems->setSortingEnabled(true);
@@ -156,6 +155,7 @@ QTableView *VltTableDetails::addTable(QAbstractItemModel *model, const QString &
     table->setMinimumHeight((VisibleRows + 1) * table->verticalHeader()->defaultSectionSize());
     vlt::tables::makeRowsCopyable(table);
     m_pwTwDetails->addTab(table, name);
+    fitHeight();
     return table;
 }
 
@@ -189,6 +189,16 @@ void VltTableDetails::fold(bool open)
     m_pwTwDetails->setVisible(open);
 }
 
+/// Makes the tabs as high as the current one needs.
+void VltTableDetails::fitHeight()
+{
+    for (int tab = 0; tab < m_pwTwDetails->count(); ++tab) {
+        const bool isCurrent = tab == m_pwTwDetails->currentIndex();
+        m_pwTwDetails->widget(tab)->setSizePolicy(
+            QSizePolicy::Preferred, isCurrent ? QSizePolicy::Preferred : QSizePolicy::Ignored);
+    }
+}
+
 void VltTableDetails::clear()
 {
     m_runner.cancel();
@@ -204,19 +214,26 @@ std::optional<QString> VltTableDetails::emptyReason() const
 }
 
 void VltTableDetails::showTable(const vlt::tables::TableFileInfo &file,
-                                const QList<vlt::tables::ColumnDescription> &columns,
                                 const QList<vlt::Problem> &problems)
 {
     m_file = file;
     m_isNonePlaced = false;
     m_checked.clear();
     m_fileProblems = problems;
-    showColumns(columns);
     endCheck();
     forgetRows();
     showProblems(m_fileProblems, m_fileProblems.size());
     showSummary({}, !m_fileProblems.isEmpty());
     setVisible(true);
+}
+
+void VltTableDetails::showRefused()
+{
+    endCheck();
+    forgetRows();
+    m_fileProblems.clear();
+    showProblems({}, 0);
+    showSummary(nonePlacedText(), true);
 }
 
 bool VltTableDetails::beginsCheck(const QString &what)
@@ -237,19 +254,6 @@ void VltTableDetails::showProgress(bool shown)
     m_pwPbCancel->setVisible(shown);
 }
 
-void VltTableDetails::showColumns(const QList<vlt::tables::ColumnDescription> &columns)
-{
-    m_columnModel->removeRows(0, m_columnModel->rowCount());
-    m_recognised = 0;
-    for (const vlt::tables::ColumnDescription &entry : columns) {
-        const QString listed = entry.columns.isEmpty() ? tr("none", "MESS_NO_COLUMN")
-                                                       : entry.columns.join(QStringLiteral(", "));
-        m_columnModel->appendRow({item(entry.meaning), item(listed)});
-        m_recognised += static_cast<int>(entry.columns.size());
-    }
-    setTableCount(m_pwTvColumns, tr("Columns", "MESS_COLUMNS"), m_recognised);
-}
-
 void VltTableDetails::showProblems(const QList<vlt::Problem> &listed, qint64 count)
 {
     m_problemModel->removeRows(0, m_problemModel->rowCount());
@@ -266,7 +270,8 @@ void VltTableDetails::showProblems(const QList<vlt::Problem> &listed, qint64 cou
 
 void VltTableDetails::showSummary(const QString &rows, bool warns)
 {
-    QString text = tr("Recognised columns: %1", "MESS_RECOGNISED_COLUMNS").arg(m_recognised);
+    QString text =
+        tr("Recognised columns: %1", "MESS_RECOGNISED_COLUMNS").arg(m_mapping->columnsFound());
     if (!rows.isEmpty())
         text += Separator + rows;
     m_pwTbFold->setText(text);

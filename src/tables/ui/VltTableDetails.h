@@ -1,7 +1,6 @@
 #pragma once
 
 #include "geodata/LayerProblems.h"
-#include "tables/ColumnDescription.h"
 #include "tables/SystemProblems.h"
 #include "tables/TableSystems.h"
 #include "tables/ui/CheckRunner.h"
@@ -12,6 +11,7 @@
 #include <optional>
 
 class QAbstractItemModel;
+class VltMappingPanel;
 class QLabel;
 class QProgressBar;
 class QPushButton;
@@ -32,6 +32,12 @@ public:
     /// Removes all contents and hides; stops a running check.
     void clear();
 
+    /// The panel with the roles of the columns; it gets its table before showTable() is called.
+    VltMappingPanel *mapping() const { return m_mapping; }
+
+    /// Shows that the table cannot be read with the user's choices, which stay visible.
+    void showRefused();
+
     /// Why the layer of the table would be empty; nothing if it is not, or not checked yet.
     std::optional<QString> emptyReason() const;
 
@@ -43,9 +49,7 @@ Q_SIGNALS:
 
 protected:
     /// Shows the properties that are known without reading the table's rows.
-    void showTable(const vlt::tables::TableFileInfo &file,
-                   const QList<vlt::tables::ColumnDescription> &columns,
-                   const QList<vlt::Problem> &problems);
+    void showTable(const vlt::tables::TableFileInfo &file, const QList<vlt::Problem> &problems);
 
     /// Starts to check the rows of the shown table, unless the same check was started before.
     ///
@@ -101,7 +105,7 @@ private:
     void buildHeading();
     void buildTables();
     void fold(bool open);
-    void showColumns(const QList<vlt::tables::ColumnDescription> &columns);
+    void fitHeight();
     void showProblems(const QList<vlt::Problem> &listed, qint64 count);
     void showSummary(const QString &rows, bool warns);
     bool beginsCheck(const QString &what);
@@ -118,13 +122,11 @@ private:
     QPushButton *m_pwPbCancel;
     QLabel *m_pwLblRemark;
     QTabWidget *m_pwTwDetails;
-    QStandardItemModel *m_columnModel;
+    VltMappingPanel *m_mapping;
     QStandardItemModel *m_problemModel;
-    QTableView *m_pwTvColumns = nullptr;
     QTableView *m_pwTvProblems = nullptr;
     QList<vlt::Problem> m_fileProblems; ///< known without reading the rows
     vlt::tables::TableFileInfo m_file;  ///< the shown table
     bool m_isNonePlaced = false;        ///< by the last check
-    int m_recognised = 0;
-    QString m_checked; ///< identifies the last check
+    QString m_checked;                  ///< identifies the last check
 };

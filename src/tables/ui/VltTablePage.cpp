@@ -5,6 +5,7 @@
 #include "platform/LayerFile.h"
 #include "platform/Settings.h"
 #include "tables/SystemObstacle.h"
+#include "tables/ui/VltMappingPanel.h"
 #include "tables/ui/VltSrsSettings.h"
 #include "tables/ui/VltTableDetails.h"
 #include "ui_TablePage.h"
@@ -132,6 +133,8 @@ void VltTablePage::setParts(VltTableDetails *details, const QList<VltParameterPa
     m_details = details;
     connect(details, &VltTableDetails::checked, this, &VltTablePage::showArea);
     connect(details, &VltTableDetails::nonePlaced, this, &VltTablePage::leaveEmptyLayer);
+    connect(details->mapping(), &VltMappingPanel::mappingChosen, this, &VltTablePage::useMapping);
+    connect(details->mapping(), &VltMappingPanel::savingWanted, this, &VltTablePage::saveMapping);
     m_ui->m_ptVbTable->addWidget(details);
     for (VltParameterPanel *panel : panels) {
         m_ui->m_ptVbProperties->addWidget(panel);
@@ -295,11 +298,73 @@ void VltTablePage::showFile()
     }
     m_ui->m_pwLblFileInfo->setText(read->description);
     m_ui->m_pwLeTable->setText(read->filePath);
-    if (!read->systems.source.isEmpty())
-        m_panelSrs->setSourceSrs(read->systems.source);
-    if (!read->systems.target.isEmpty())
-        m_panelSrs->setTargetSrs(read->systems.target);
-    m_panelSrs->setContext({read->projectSystems, read->terrainArea});
+    showSystems();
+    showMapping();
+    showDetails();
+}
+
+/// Chooses the systems that are suggested for the table.
+void VltTablePage::showSystems()
+{
+    const vlt::tables::TableFileInfo &read = *file();
+    if (!read.systems.source.isEmpty())
+        m_panelSrs->setSourceSrs(read.systems.source);
+    if (!read.systems.target.isEmpty())
+        m_panelSrs->setTargetSrs(read.systems.target);
+    m_panelSrs->setContext({read.projectSystems, read.terrainArea});
+}
+
+void VltTablePage::showMapping()
+{
+    const vlt::tables::TableFileInfo &read = *file();
+    const vlt::tables::MappingFile mapping = vlt::tables::findMapping(read.filePath);
+    m_details->mapping()->showTable(
+        {m_configuration.kind, read.shape, read.roles, m_excerpt, mapping.mapping}, mapping);
+}
+
+/// Keeps what the user states about the table and reads it again.
+void VltTablePage::useMapping(const vlt::contract::ColumnMapping &mapping)
+{
+    if (isMaking())
+        return;
+    reportFailure(vlt::tables::keepMapping(m_pathRead, mapping));
+    makeLayer([this] { readFileAgain(); });
+    Q_EMIT completeChanged();
+}
+
+void VltTablePage::saveMapping()
+{
+    if (isMaking())
+        return;
+    const auto mapping = vlt::tables::findMapping(m_pathRead).mapping;
+    reportFailure(vlt::tables::saveBesideTable(m_pathRead, mapping));
+    makeLayer([this] { readFileAgain(); });
+}
+
+void VltTablePage::reportFailure(const vlt::Result<vlt::Done> &outcome)
+{
+    if (!outcome)
+        vlt::messages::critical(this,
+                                {QStringLiteral("MESS_CANT_SAVE_MAPPING"),
+                                 QStringLiteral("The choices for the columns cannot be saved"),
+                                 outcome.error().path, outcome.error().detail});
+}
+
+/// Reads the table with what the user states about it now. If it cannot be read so, the choices
+/// stay visible, because the user has to change them.
+void VltTablePage::readFileAgain()
+{
+    const auto suggested = file() ? file()->systems : vlt::geodata::SystemPair();
+    m_refusal = readTable(m_pathRead);
+    if (!file()) {
+        m_details->showRefused();
+        leaveLayer(fileReason());
+        return;
+    }
+    m_ui->m_pwLblFileInfo->setText(file()->description);
+    if (file()->systems != suggested) // else the user's choice stays
+        showSystems();
+    showMapping();
     showDetails();
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "tables/MappingFiles.h"
+#include "tables/RoleTable.h"
 #include "tables/TableFileInfo.h"
 #include "tables/TableLayer.h"
 #include "tables/ui/TablePageConfiguration.h"
@@ -68,22 +70,34 @@ protected:
     template<typename Info>
     std::optional<vlt::Error>
     readInto(std::optional<Info> &file, const QString &path,
-             vlt::Result<Info> (*read)(const QString &, const vlt::project::ProjectContext &))
+             vlt::Result<Info> (*read)(const QString &, const vlt::project::ProjectContext &,
+                                       const vlt::tables::TableReading &))
     {
-        using Read = vlt::Result<Info>;
+        struct Read
+        {
+            vlt::Result<Info> info;
+            vlt::geodata::TableExcerpt excerpt;
+        };
         file.reset();
         if (path.isEmpty())
             return std::nullopt;
-        const std::function<Read()> work = [path, read, project = m_project] {
-            return read(path, project);
+        const std::function<Read()> work = [path, read, project = m_project,
+                                            kind = m_configuration.kind] {
+            vlt::tables::TableReading reading;
+            reading.columns = vlt::tables::mappingOption(path);
+            vlt::Result<Info> info = read(path, project, reading);
+            const auto excerpt = vlt::geodata::readTableExcerpt(reading.connection(kind, path));
+            return Read{info, excerpt ? excerpt.value() : vlt::geodata::TableExcerpt()};
         };
-        const std::optional<Read> info =
+        const std::optional<Read> outcome =
             isShown() ? vlt::wizard::waitForValue<Read>(this, m_configuration.reading, work)
                       : vlt::wizard::valueWithinMoment<Read>(work);
-        if (info && !*info)
-            return info->error();
-        if (info)
-            file = info->value();
+        if (!outcome)
+            return std::nullopt;
+        if (!outcome->info)
+            return outcome->info.error();
+        file = outcome->info.value();
+        m_excerpt = outcome->excerpt;
         return std::nullopt;
     }
 
@@ -129,7 +143,13 @@ private:
     void setStacked(bool stacked);
     void fitInputWidth();
     void readFile(const QString &path, bool quiet);
+    void readFileAgain();
+    void useMapping(const vlt::contract::ColumnMapping &mapping);
+    void saveMapping();
+    void reportFailure(const vlt::Result<vlt::Done> &outcome);
     void showFile();
+    void showMapping();
+    void showSystems();
     QString fileReason() const;
     void showReason(const QString &reason);
     void leaveEmptyLayer();
@@ -150,6 +170,7 @@ private:
     VltTableDetails *m_details = nullptr;
     vlt::project::ProjectContext m_project;
     QString m_fileDir;
-    QString m_pathRead;                  ///< the last path given to readFileInfo()
-    std::optional<vlt::Error> m_refusal; ///< of that table
+    vlt::geodata::TableExcerpt m_excerpt; ///< of the table
+    QString m_pathRead;                   ///< the last path given to readFileInfo()
+    std::optional<vlt::Error> m_refusal;  ///< of that table
 };

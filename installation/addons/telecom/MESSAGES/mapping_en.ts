@@ -43,5 +43,73 @@
         <source>Values</source>
         <translation>Values</translation>
     </message>
+    <message id="MESS_SHEET">
+        <source>S&amp;heet</source>
+        <translation>S&amp;heet</translation>
+    </message>
+    <message id="MESS_TIP_SHEET">
+        <source>The sheet of the workbook that is read</source>
+        <translation>The sheet of the workbook that is read</translation>
+    </message>
+    <message id="MESS_HEADER_ROW">
+        <source>Hea&amp;der row</source>
+        <translation>Hea&amp;der row</translation>
+    </message>
+    <message id="MESS_TIP_HEADER_ROW">
+        <source>The first row with the names of the columns; a click on the number of a row below chooses it as well</source>
+        <translation>The first row with the names of the columns; a click on the number of a row below chooses it as well</translation>
+    </message>
+    <message id="MESS_NO_HEADER">
+        <source>none</source>
+        <translation>none</translation>
+    </message>
+    <message id="MESS_HEADER_ROWS">
+        <source>N&amp;umber of header rows</source>
+        <translation>N&amp;umber of header rows</translation>
+    </message>
+    <message id="MESS_TIP_HEADER_ROWS">
+        <source>Rows whose texts together are the names of the columns, such as groups of columns above their names</source>
+        <translation>Rows whose texts together are the names of the columns, such as groups of columns above their names</translation>
+    </message>
+    <message id="MESS_ROLES">
+        <source>Meanings of the columns</source>
+        <translation>Meanings of the columns</translation>
+    </message>
+    <message id="MESS_FIRST_ROWS">
+        <source>F&amp;irst rows of the table</source>
+        <translation>F&amp;irst rows of the table</translation>
+    </message>
+    <message id="MESS_TIP_ROW_NUMBER">
+        <source>A click makes this the row with the names of the columns</source>
+        <translation>A click makes this the row with the names of the columns</translation>
+    </message>
+    <message id="MESS_SAVE_MAPPING">
+        <source>Sa&amp;ve beside the table</source>
+        <translation>Sa&amp;ve beside the table</translation>
+    </message>
+    <message id="MESS_TIP_SAVE_MAPPING">
+        <source>Write your choices to a file beside the table, so that every program and every user of the table has them</source>
+        <translation>Write your choices to a file beside the table, so that every program and every user of the table has them</translation>
+    </message>
+    <message id="MESS_RESET_MAPPING">
+        <source>Reset to what was reco&amp;gnised</source>
+        <translation>Reset to what was reco&amp;gnised</translation>
+    </message>
+    <message id="MESS_TIP_RESET_MAPPING">
+        <source>Forget all choices for this table</source>
+        <translation>Forget all choices for this table</translation>
+    </message>
+    <message id="MESS_MAPPING_OF_USER">
+        <source>Your choices are kept in %1, which the layer names.</source>
+        <translation>Your choices are kept in %1, which the layer names.</translation>
+    </message>
+    <message id="MESS_MAPPING_BESIDE">
+        <source>The choices in %1 are used.</source>
+        <translation>The choices in %1 are used.</translation>
+    </message>
+    <message id="MESS_CANT_SAVE_MAPPING">
+        <source>The choices for the columns cannot be saved</source>
+        <translation>The choices for the columns cannot be saved</translation>
+    </message>
 </context>
 </TS>

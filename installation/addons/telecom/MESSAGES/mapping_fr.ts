@@ -43,5 +43,73 @@
         <source>Values</source>
         <translation>Valeurs</translation>
     </message>
+    <message id="MESS_SHEET">
+        <source>S&amp;heet</source>
+        <translation>Feu&amp;ille</translation>
+    </message>
+    <message id="MESS_TIP_SHEET">
+        <source>The sheet of the workbook that is read</source>
+        <translation>Feuille du classeur qui est lue</translation>
+    </message>
+    <message id="MESS_HEADER_ROW">
+        <source>Hea&amp;der row</source>
+        <translation>Ligne d'&amp;en-tête</translation>
+    </message>
+    <message id="MESS_TIP_HEADER_ROW">
+        <source>The first row with the names of the columns; a click on the number of a row below chooses it as well</source>
+        <translation>Première ligne avec les noms des colonnes&#xa0;; un clic sur le numéro d'une ligne ci-dessous la choisit aussi</translation>
+    </message>
+    <message id="MESS_NO_HEADER">
+        <source>none</source>
+        <translation>aucune</translation>
+    </message>
+    <message id="MESS_HEADER_ROWS">
+        <source>N&amp;umber of header rows</source>
+        <translation>No&amp;mbre de lignes d'en-tête</translation>
+    </message>
+    <message id="MESS_TIP_HEADER_ROWS">
+        <source>Rows whose texts together are the names of the columns, such as groups of columns above their names</source>
+        <translation>Lignes dont les textes réunis donnent les noms des colonnes, par exemple des groupes de colonnes au-dessus de leurs noms</translation>
+    </message>
+    <message id="MESS_ROLES">
+        <source>Meanings of the columns</source>
+        <translation>Significations des colonnes</translation>
+    </message>
+    <message id="MESS_FIRST_ROWS">
+        <source>F&amp;irst rows of the table</source>
+        <translation>&amp;Premières lignes du tableau</translation>
+    </message>
+    <message id="MESS_TIP_ROW_NUMBER">
+        <source>A click makes this the row with the names of the columns</source>
+        <translation>Un clic fait de cette ligne celle des noms des colonnes</translation>
+    </message>
+    <message id="MESS_SAVE_MAPPING">
+        <source>Sa&amp;ve beside the table</source>
+        <translation>Enregistrer à côté &amp;du tableau</translation>
+    </message>
+    <message id="MESS_TIP_SAVE_MAPPING">
+        <source>Write your choices to a file beside the table, so that every program and every user of the table has them</source>
+        <translation>Écrit vos choix dans un fichier à côté du tableau&#xa0;: tous les programmes et tous les utilisateurs du tableau les ont alors</translation>
+    </message>
+    <message id="MESS_RESET_MAPPING">
+        <source>Reset to what was reco&amp;gnised</source>
+        <translation>Re&amp;venir à ce qui a été reconnu</translation>
+    </message>
+    <message id="MESS_TIP_RESET_MAPPING">
+        <source>Forget all choices for this table</source>
+        <translation>Oublie tous les choix pour ce tableau</translation>
+    </message>
+    <message id="MESS_MAPPING_OF_USER">
+        <source>Your choices are kept in %1, which the layer names.</source>
+        <translation>Vos choix sont conservés dans %1&#xa0;; la couche y fait référence.</translation>
+    </message>
+    <message id="MESS_MAPPING_BESIDE">
+        <source>The choices in %1 are used.</source>
+        <translation>Les choix de %1 sont utilisés.</translation>
+    </message>
+    <message id="MESS_CANT_SAVE_MAPPING">
+        <source>The choices for the columns cannot be saved</source>
+        <translation>Les choix pour les colonnes ne peuvent pas être enregistrés</translation>
+    </message>
 </context>
 </TS>

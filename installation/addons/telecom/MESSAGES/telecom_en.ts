@@ -445,10 +445,6 @@ to add the site layer
         <source>Meaning</source>
         <translation>Meaning</translation>
     </message>
-    <message id="MESS_TABLE_COLUMNS">
-        <source>Columns of the table</source>
-        <translation>Columns of the table</translation>
-    </message>
     <message id="MESS_ROW">
         <source>Row</source>
         <translation>Row</translation>

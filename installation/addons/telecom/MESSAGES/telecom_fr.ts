@@ -445,10 +445,6 @@ pour ajouter la couche de sites
         <source>Meaning</source>
         <translation>Signification</translation>
     </message>
-    <message id="MESS_TABLE_COLUMNS">
-        <source>Columns of the table</source>
-        <translation>Colonnes du tableau</translation>
-    </message>
     <message id="MESS_ROW">
         <source>Row</source>
         <translation>Ligne</translation>
