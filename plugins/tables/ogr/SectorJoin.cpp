@@ -21,7 +21,9 @@ struct Sites
 
 Sites readSites(const TableProfile &table, const SiteLayout &layout, DataRows &rows, int keyField)
 {
-    Sites sites = {std::make_shared<SiteIndex>(table, layout.roles, layout.unit), {}};
+    Sites sites = {
+        std::make_shared<SiteIndex>(table, layout.roles, layout.unit, installedVocabulary().words),
+        {}};
     const PositionReader positions(table, layout.point, layout.unit);
     FieldCells cells(table);
     std::vector<RowProblem> problems; // they are reported when the rows are read again

@@ -245,7 +245,8 @@ void TableFile::readSites(TableFacts &facts)
     if (roles.shape == SiteShape::Lists || roles.shape == SiteShape::Tall) {
         const TransmitterReader reader(facts.table, roles, installedVocabulary().words);
         const PositionReader positions(facts.table, layout.point, layout.unit);
-        auto index = std::make_shared<SiteIndex>(facts.table, roles, layout.unit);
+        auto index = std::make_shared<SiteIndex>(facts.table, roles, layout.unit,
+                                                 installedVocabulary().words);
         FieldCells cells(facts.table);
         std::vector<RowProblem> problems; // they are reported when the rows are read again
         const std::unique_ptr<DataRows> walk = rows();

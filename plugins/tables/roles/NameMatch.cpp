@@ -70,8 +70,8 @@ public:
         findNeutral();
     }
 
-    /// The number of a sector: a number beside a word for sectors or beside the phrase, or a
-    /// letter beside a word for sectors. -1 for none.
+    /// The number of a sector: a number beside a word for sectors or beside the phrase, a letter
+    /// beside a word for sectors, or a name such as alpha. -1 for none.
     int takeSector()
     {
         for (std::size_t at = 0; at < m_words.size(); ++at) {
@@ -86,6 +86,8 @@ public:
             else if (word.size() == 1 && word[0] >= 'a' && word[0] <= 'f' &&
                      (isSectorWord(at - 1) || (besidePhrase && at == lastPlainWord())))
                 number = word[0] - 'a' + 1;
+            else if (const int named = m_vocabulary.numberOfSectorName(word); named > 0)
+                number = named;
             if (number < 0 || number > MaxSector)
                 continue;
             m_isTaken[at] = true;

@@ -230,6 +230,11 @@ void Vocabulary::add(std::string_view text)
     for (const auto &[name, to] : {std::pair("missing", &m_missing), std::pair("total", &m_totals),
                                    std::pair("omni", &m_omni)})
         forEachText(section(name), [to = to](const std::string &word) { to->insert(word); });
+    int sector = 0;
+    for (const Json &names : section("sectorNames")) {
+        ++sector;
+        forEachText(names, [&](const std::string &n) { m_sectorNames.emplace(folded(n), sector); });
+    }
     const Json hemispheres = section("hemispheres");
     for (const auto &[name, to] : {std::pair("west", &m_west), std::pair("south", &m_south)}) {
         const Json *words = memberOf(hemispheres, name);
@@ -293,6 +298,12 @@ int Vocabulary::signOfO(const std::vector<std::vector<std::string>> &names) cons
     for (std::size_t bit = 0; bit < counts.size(); ++bit)
         likely |= counts[bit] == *best ? std::uint32_t{1} << bit : 0;
     return (likely & ~m_westO) == 0 ? -1 : (likely & ~m_eastO) == 0 ? 1 : 0;
+}
+
+int Vocabulary::numberOfSectorName(std::string_view word) const
+{
+    const auto found = m_sectorNames.find(folded(word));
+    return found == m_sectorNames.end() ? 0 : found->second;
 }
 
 void ValueWordSet::insert(std::string_view word)

@@ -104,6 +104,8 @@ public:
     {
         return (ofLongitudes ? m_west : m_south).contains(word);
     }
+    /// The number of a sector from its name: alpha is 1. 0 for other words.
+    int numberOfSectorName(std::string_view word) const;
     /// The systems of countries, those of a user first.
     const std::vector<NamedSystem> &systems() const { return m_systems; }
 
@@ -130,6 +132,7 @@ private:
     ValueWordSet m_missing;
     ValueWordSet m_totals;
     ValueWordSet m_omni;
+    std::unordered_map<std::string, int> m_sectorNames; ///< folded
     ValueWordSet m_west;
     ValueWordSet m_south;
     std::vector<std::string> m_languages; ///< in the order of their bits

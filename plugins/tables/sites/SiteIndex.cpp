@@ -26,10 +26,12 @@ int64_t steps(double coordinate, double step)
 
 } // namespace
 
-SiteIndex::SiteIndex(const TableProfile &table, const SiteRoles &roles, CoordinateUnit unit)
+SiteIndex::SiteIndex(const TableProfile &table, const SiteRoles &roles, CoordinateUnit unit,
+                     const Vocabulary &vocabulary)
     : m_table(&table)
     , m_roles(&roles)
     , m_unit(unit)
+    , m_vocabulary(&vocabulary)
 {}
 
 /// The place of a position, as numbers of steps.
@@ -59,7 +61,7 @@ bool SiteIndex::hasKey(const IndexedSite &site, const Key &key) const
     case KeyKind::Place:
         return isThere;
     case KeyKind::NamedPlace:
-        return isThere && (site.isWhole ? id : withoutSector(id)) == key.text;
+        return isThere && (site.isWhole ? id : withoutSector(id, *m_vocabulary)) == key.text;
     default:
         return id == key.text;
     }
@@ -131,8 +133,9 @@ uint32_t SiteIndex::siteOf(int64_t row, const std::vector<const Cell *> &cells,
         return static_cast<uint32_t>(m_sites.size() - 1);
     const Key key = !id.empty()       ? Key{KeyKind::Id, id, position}
                     : !position.found ? Key{KeyKind::Name, name, position}
-                    : name.empty()    ? Key{KeyKind::Place, {}, position}
-                                      : Key{KeyKind::NamedPlace, withoutSector(name), position};
+                    : name.empty()
+                        ? Key{KeyKind::Place, {}, position}
+                        : Key{KeyKind::NamedPlace, withoutSector(name, *m_vocabulary), position};
     const uint32_t first = find(key);
     const uint32_t found = key.kind == KeyKind::Id ? findNear(first, key) : first;
     if (found == None) {

@@ -37,7 +37,8 @@ struct IndexedSite
 class SiteIndex
 {
 public:
-    SiteIndex(const TableProfile &table, const SiteRoles &roles, CoordinateUnit unit);
+    SiteIndex(const TableProfile &table, const SiteRoles &roles, CoordinateUnit unit,
+              const Vocabulary &vocabulary);
 
     /// Adds a row and returns the index of its site. Rows are added in the order of the file.
     std::size_t add(int64_t row, const std::vector<const Cell *> &cells, const Position &position,
@@ -89,6 +90,7 @@ private:
     const TableProfile *m_table;
     const SiteRoles *m_roles;
     CoordinateUnit m_unit;
+    const Vocabulary *m_vocabulary;
     std::deque<IndexedSite> m_sites; ///< in the order of their first rows
     StringPool m_ids;
     std::vector<uint32_t> m_next;      ///< by site: the next one with its id

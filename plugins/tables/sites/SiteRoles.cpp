@@ -200,12 +200,15 @@ private:
             if (isName(candidate) && !candidate.isStated)
                 adjustToLevel(candidate, hasAzimuths);
         }
-        const bool namesSites =
-            std::any_of(m_candidates.begin(), m_candidates.end(), [](const Candidate &candidate) {
-                return isName(candidate) && candidate.role != Role::SectorId;
-            });
+        std::set<int> namesSites;
+        for (const Candidate &candidate : m_candidates) {
+            if (isName(candidate) && candidate.role != Role::SectorId)
+                namesSites.insert(candidate.field);
+        }
         for (Candidate &candidate : m_candidates) {
-            if (!namesSites && !candidate.isStated && candidate.role == Role::SectorId &&
+            const bool isOnlyName = namesSites.empty() || (namesSites.size() == 1 &&
+                                                           namesSites.contains(candidate.field));
+            if (isOnlyName && !candidate.isStated && candidate.role == Role::SectorId &&
                 candidate.sector < 0 && (!hasAzimuths || namesHoldSector(candidate.field)))
                 candidate.role = Role::SiteName;
         }
@@ -245,7 +248,7 @@ private:
     {
         std::vector<std::string> bases;
         for (const std::string &cell : cellsOf(field))
-            bases.emplace_back(withoutSector(trimmed(cell)));
+            bases.emplace_back(withoutSector(trimmed(cell), m_vocabulary));
         return levelOf(bases, m_places) == Level::Site;
     }
 
@@ -485,8 +488,12 @@ SiteRoles findSiteRoles(const TableProfile &table, const PointFields &point,
     return Finder(table, point, vocabulary, stated).find();
 }
 
-std::string_view withoutSector(std::string_view name)
+std::string_view withoutSector(std::string_view name, const Vocabulary &vocabulary)
 {
+    constexpr std::string_view Separators = " _-./";
+    const std::size_t word = name.find_last_of(Separators) + 1; // 0 if there is one word
+    if (word > 0 && vocabulary.numberOfSectorName(name.substr(word)) > 0)
+        return name.substr(0, name.substr(0, word).find_last_not_of(Separators) + 1);
     std::size_t end = name.size();
     std::size_t digits = 0;
     while (end > 0 && digits < 2 && isDigit(name[end - 1])) {
@@ -499,7 +506,6 @@ std::string_view withoutSector(std::string_view name)
         --end;
     else if (digits == 0)
         return name;
-    constexpr std::string_view Separators = " _-./";
     const std::size_t last = name.substr(0, end).find_last_not_of(Separators);
     if (last == std::string_view::npos || last + 1 == end)
         return name; // the end is part of a word

@@ -62,8 +62,8 @@ struct SiteRoles
 SiteRoles findSiteRoles(const TableProfile &table, const PointFields &point,
                         const Vocabulary &vocabulary, const StatedRoles &stated = {});
 
-/// The name of a site without the sector at its end: "Gare A", "GARE_2" and "Gare S3" give Gare,
-/// GARE and Gare. Other names are returned as they are.
-std::string_view withoutSector(std::string_view name);
+/// The name of a site without the sector at its end: "Gare A", "GARE_2", "Gare S3" and "Gare Alpha"
+/// give Gare, GARE, Gare and Gare. Other names are returned as they are.
+std::string_view withoutSector(std::string_view name, const Vocabulary &vocabulary);
 
 } // namespace vlt::driver
