@@ -78,6 +78,10 @@ inline constexpr auto TableTexts = std::to_array<Text>({
      "the ends of the links are only named (%1; %2): their positions must stand in a table of "
      "sites, on another sheet of the workbook or in the file that SITES (--sites) names"},
     {"MESS_TAB_NO_ENDS", "no columns with coordinates of both ends were recognised"},
+    {"MESS_TAB_NO_END_X", "no columns with coordinates of both ends were recognised: the longitude "
+                          "or easting of end %1 is missing"},
+    {"MESS_TAB_NO_END_Y", "no columns with coordinates of both ends were recognised: the latitude "
+                          "or northing of end %1 is missing"},
     {"MESS_TAB_ONE_END",
      "no columns with coordinates of both ends were recognised: those of end %1 are missing"},
 

@@ -361,6 +361,8 @@ private Q_SLOTS:
             "Site;Lat;Lon;GPS planned lat;GPS planned lon\nS;48;2;48,0001;2\n",
             "this is a table of sites");
         row("one end", "Link;Longitude B;Latitude B\nL;2;48\n", "those of end A are missing");
+        row("one coordinate", "Link;Near lat;Near lon;Far lon\nL;48;2;3\n",
+            "the latitude or northing of end B is missing");
         row("ends by name only", "Link;A;B;Length (km)\nL;S1;S2;11\n",
             "the ends of the links are only named (A; B): their positions must stand in a table "
             "of sites, on another sheet of the workbook or in the file that SITES (--sites) names");

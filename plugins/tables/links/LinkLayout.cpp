@@ -32,9 +32,35 @@ std::string namesOf(const PointFields &point, const std::vector<Field> &fields)
     return point.pair >= 0 ? name(point.pair) : name(point.x.value) + ", " + name(point.y.value);
 }
 
+/// Whether columns of an end are named as coordinates of x and of y.
+std::pair<bool, bool> coordinatesNamed(const Names &names, LinkEndId end,
+                                       const Vocabulary &vocabulary)
+{
+    bool x = false;
+    bool y = false;
+    for (const LinkColumnName &name : names) {
+        if (name.end != end)
+            continue;
+        for (const NameMatch &match : matchName(name.words, vocabulary)) {
+            using enum Role;
+            x = x || match.role == Longitude || match.role == Easting || match.role == X;
+            y = y || match.role == Latitude || match.role == Northing || match.role == Y;
+        }
+    }
+    return {x, y};
+}
+
 [[noreturn]] void refuse(const FoundEnds &ends, const std::vector<Field> &fields,
                          const Vocabulary &vocabulary)
 {
+    for (const auto &[end, letter] : {std::pair(LinkEndId::A, "A"), std::pair(LinkEndId::B, "B")}) {
+        const auto [hasX, hasY] = coordinatesNamed(ends.names, end, vocabulary);
+        if (hasX != hasY)
+            throw RefusedFile(Refusal::NoLinks,
+                              hasX ? contract::TableTextId("MESS_TAB_NO_END_Y")
+                                   : contract::TableTextId("MESS_TAB_NO_END_X"),
+                              {letter});
+    }
     const bool hasA = ends.points[0].found();
     if (hasA || ends.points[1].found())
         throw RefusedFile(Refusal::NoLinks, "MESS_TAB_ONE_END", {hasA ? "B" : "A"});

@@ -911,5 +911,13 @@
         <source>table</source>
         <translation>table</translation>
     </message>
+    <message id="MESS_TAB_NO_END_X">
+        <source>no columns with coordinates of both ends were recognised: the longitude or easting of end %1 is missing</source>
+        <translation>aucune colonne avec les coordonnées des deux extrémités n'a été reconnue&#xa0;: la longitude ou l'abscisse de l'extrémité %1 manque</translation>
+    </message>
+    <message id="MESS_TAB_NO_END_Y">
+        <source>no columns with coordinates of both ends were recognised: the latitude or northing of end %1 is missing</source>
+        <translation>aucune colonne avec les coordonnées des deux extrémités n'a été reconnue&#xa0;: la latitude ou l'ordonnée de l'extrémité %1 manque</translation>
+    </message>
 </context>
 </TS>
