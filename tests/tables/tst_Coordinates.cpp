@@ -79,6 +79,8 @@ private Q_SLOTS:
         row("French west", "3.37 Ouest", true, -3.37);
         row("German east", "3d22m5.12s Ost", true, 3.3680889);
         row("Dutch east", "3.37° OL", true, 3.37);
+        row("Polish north", "50°30' północ", false, 50.5);
+        row("Swedish west, shortened", "3.37 väs", true, -3.37);
         row("minus and parts", "-0 30 0", true, -0.5);
     }
     void readsAngles()
@@ -98,7 +100,7 @@ private Q_SLOTS:
         const Cases<QByteArray> row({"text"});
         for (const char *text : {"", "-", "north", "48.85 E", "48 61 00", "48 51 60", "48.5 30 N",
                                  "1 2 3 4", "3.37 O", "-3.37 W", "3.37 Ouest", "48.85 noon",
-                                 "48.8.5", "1e5x", "12/05/2020", "NaN", "10 N 20 S"})
+                                 "48.85 po", "48.8.5", "1e5x", "12/05/2020", "NaN", "10 N 20 S"})
             row(*text ? text : "empty", text);
     }
     void refusesWhatIsNoAngle()

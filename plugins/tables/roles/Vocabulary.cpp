@@ -11,6 +11,7 @@
 #include <numbers>
 #include <numeric>
 #include <stdexcept>
+#include <tuple>
 
 namespace vlt::driver {
 
@@ -150,12 +151,20 @@ void Vocabulary::addLanguages(const Json &roles, const Json &hemispheres)
         if (bit != 0)
             addPhrase(phrase, [bit](WordMeaning &meaning) { meaning.languages |= bit; });
     });
-    for (const auto &[name, mask] : {std::pair("west", &m_westO), std::pair("east", &m_eastO)}) {
-        const auto addO = [this, to = mask](const std::string &language, const std::string &word) {
-            *to |= word == "O" ? languageBit(language) : 0;
+    for (const auto &[name, direction, withO] :
+         {std::tuple("north", Direction::North, static_cast<std::uint32_t *>(nullptr)),
+          std::tuple("south", Direction::South, static_cast<std::uint32_t *>(nullptr)),
+          std::tuple("east", Direction::East, &m_eastO),
+          std::tuple("west", Direction::West, &m_westO)}) {
+        const auto addWord = [this, of = direction, to = withO](const std::string &language,
+                                                                const std::string &word) {
+            const std::uint32_t bit = languageBit(language);
+            m_hemispheres.add(of, word, bit);
+            if (to && word == "O")
+                *to |= bit;
         };
         if (const Json *texts = memberOf(hemispheres, name))
-            forEachLanguage(Json::array({*texts}), addO);
+            forEachLanguage(Json::array({*texts}), addWord);
     }
 }
 
@@ -297,7 +306,14 @@ int Vocabulary::signOfO(const std::vector<std::vector<std::string>> &names) cons
     std::uint32_t likely = 0;
     for (std::size_t bit = 0; bit < counts.size(); ++bit)
         likely |= counts[bit] == *best ? std::uint32_t{1} << bit : 0;
-    return (likely & ~m_westO) == 0 ? -1 : (likely & ~m_eastO) == 0 ? 1 : 0;
+    return signOfO(likely);
+}
+
+int Vocabulary::signOfO(std::uint32_t languages) const
+{
+    if (languages == 0)
+        return 0;
+    return (languages & ~m_westO) == 0 ? -1 : (languages & ~m_eastO) == 0 ? 1 : 0;
 }
 
 int Vocabulary::numberOfSectorName(std::string_view word) const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "plugins/tables/roles/HemisphereWords.h"
 #include "plugins/tables/roles/Role.h"
 
 #include <nlohmann/json_fwd.hpp>
@@ -109,6 +110,12 @@ public:
     /// The systems of countries, those of a user first.
     const std::vector<NamedSystem> &systems() const { return m_systems; }
 
+    /// The words for directions in values.
+    const HemisphereWords &hemispheres() const { return m_hemispheres; }
+    /// The sign of longitudes with the letter O in all of some languages, given as bits: -1 for
+    /// west, 1 for east, 0 if these languages differ or have no such letter.
+    int signOfO(std::uint32_t languages) const;
+
     /// The tables that are known without a header, those of the user last.
     const std::vector<KnownTable> &knownTables() const { return m_knownTables; }
 
@@ -138,6 +145,7 @@ private:
     std::vector<std::string> m_languages; ///< in the order of their bits
     std::uint32_t m_westO = 0;            ///< languages in which O is west
     std::uint32_t m_eastO = 0;
+    HemisphereWords m_hemispheres;
     std::vector<NamedSystem> m_systems;
     std::size_t m_longestPhrase = 1;
 };

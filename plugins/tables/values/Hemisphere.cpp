@@ -1,9 +1,8 @@
 #include "plugins/tables/values/Hemisphere.h"
 
-#include "plugins/tables/table/HeaderWords.h"
+#include "plugins/tables/roles/Vocabulary.h"
 
 #include <algorithm>
-#include <array>
 
 namespace vlt::driver {
 
@@ -11,56 +10,50 @@ namespace {
 
 using contract::TableTextId;
 
-/// A direction and what it shows about the letter O in the same column.
-struct Direction
+/// What a letter or word says, and what it shows about the letter O in the same column.
+struct Meaning
 {
     Axis axis = Axis::X;
     int sign = 0;
     LetterO letterO = LetterO::Unknown;
 };
 
-constexpr Direction North = {Axis::Y, 1};
-constexpr Direction South = {Axis::Y, -1};
-constexpr Direction East = {Axis::X, 1, LetterO::West};
-constexpr Direction West = {Axis::X, -1, LetterO::East};
-constexpr Direction EastByO = {Axis::X, 1, LetterO::East};
-constexpr Direction WestByO = {Axis::X, -1, LetterO::West};
-
-/// The beginning of a word for a direction; two letters are the whole word.
-struct Beginning
+Meaning meaningOf(Direction direction, LetterO letterO)
 {
-    std::string_view letters;
-    Direction direction;
-};
+    const bool isOfY = direction == Direction::North || direction == Direction::South;
+    const bool isNegative = direction == Direction::South || direction == Direction::West;
+    return {isOfY ? Axis::Y : Axis::X, isNegative ? -1 : 1, isOfY ? LetterO::Unknown : letterO};
+}
 
-/// The beginnings of the words of western European languages, and the Dutch abbreviations NB, ZB,
-/// OL and WL.
-constexpr std::array Beginnings = {
-    Beginning{"nor", North},   Beginning{"noor", North},  Beginning{"nb", North},
-    Beginning{"sou", South},   Beginning{"sud", South},   Beginning{"sur", South},
-    Beginning{"sul", South},   Beginning{"süd", South},   Beginning{"sÜd", South},
-    Beginning{"zui", South},   Beginning{"zb", South},    Beginning{"eas", East},
-    Beginning{"est", East},    Beginning{"les", East},    Beginning{"ost", EastByO},
-    Beginning{"oos", EastByO}, Beginning{"ol", EastByO},  Beginning{"wes", West},
-    Beginning{"wl", West},     Beginning{"oue", WestByO}, Beginning{"oes", WestByO},
-    Beginning{"ove", WestByO},
-};
-
-constexpr std::size_t MaxWordSize = 7; ///< bytes: western, but not estimated
+/// The meaning of O beside E or W.
+LetterO beside(Direction direction)
+{
+    return direction == Direction::East ? LetterO::West : LetterO::East;
+}
 
 bool isLetter(char c)
 {
     return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
 }
 
-/// Size of the word at the start of a text, in bytes; umlauts belong to it.
+/// Whether a letter beyond ASCII starts here: those of European languages and Hebrew have two
+/// bytes.
+bool startsLetter(std::string_view text)
+{
+    const auto byte = static_cast<unsigned char>(text.empty() ? 0 : text[0]);
+    const bool isLatin = byte >= 0xC3 && byte <= 0xC9;
+    const bool isOther = byte >= 0xCE && byte <= 0xD7;
+    return (isLatin || isOther) && text.size() > 1;
+}
+
+/// Size of the word at the start of a text, in bytes.
 std::size_t wordSize(std::string_view text)
 {
     std::size_t size = 0;
     while (size < text.size()) {
         if (isLetter(text[size]))
             ++size;
-        else if (text[size] == '\xC3' && size + 1 < text.size())
+        else if (startsLetter(text.substr(size)))
             size += 2;
         else
             break;
@@ -68,30 +61,33 @@ std::size_t wordSize(std::string_view text)
     return size;
 }
 
-const Direction *wordDirection(std::string_view word)
+std::optional<Meaning> wordMeaning(std::string_view word)
 {
-    if (word.size() < 2 || word.size() > MaxWordSize)
-        return nullptr;
-    const std::string lower = lowerCase(word);
-    const auto found = std::find_if(Beginnings.begin(), Beginnings.end(), [&](const Beginning &of) {
-        return of.letters.size() > 2 ? lower.starts_with(of.letters) : lower == of.letters;
-    });
-    return found == Beginnings.end() ? nullptr : &found->direction;
+    const Vocabulary &vocabulary = installedVocabulary().words;
+    const auto found = vocabulary.hemispheres().find(word);
+    if (!found)
+        return std::nullopt;
+    const int sign = vocabulary.signOfO(found->languages);
+    const LetterO own = found->direction == Direction::East ? LetterO::East : LetterO::West;
+    return meaningOf(found->direction, sign < 0             ? LetterO::West
+                                       : sign > 0           ? LetterO::East
+                                       : found->startsWithO ? own
+                                                            : beside(found->direction));
 }
 
-const Direction *letterDirection(char letter)
+std::optional<Meaning> letterMeaning(char letter)
 {
     switch (letter & ~0x20) {
     case 'N':
-        return &North;
+        return meaningOf(Direction::North, LetterO::Unknown);
     case 'S':
-        return &South;
+        return meaningOf(Direction::South, LetterO::Unknown);
     case 'E':
-        return &East;
+        return meaningOf(Direction::East, beside(Direction::East));
     case 'W':
-        return &West;
+        return meaningOf(Direction::West, beside(Direction::West));
     default:
-        return nullptr;
+        return std::nullopt;
     }
 }
 
@@ -108,18 +104,18 @@ Hemisphere readHemisphere(std::string_view text, Axis axis, LetterO letterO)
     const std::size_t size = wordSize(text);
     if (size == 0)
         return refused("MESS_TAB_NO_HEMISPHERE");
-    const Direction *ofWord = wordDirection(text.substr(0, size));
-    const Direction *direction = ofWord ? ofWord : letterDirection(text[0]);
-    if (!direction && isLetterO(text[0])) {
+    const std::optional<Meaning> ofWord = wordMeaning(text.substr(0, size));
+    std::optional<Meaning> meaning = ofWord ? ofWord : letterMeaning(text[0]);
+    if (!meaning && isLetterO(text[0])) {
         if (size > 1 || letterO == LetterO::Unknown)
             return refused("MESS_TAB_LETTER_O");
-        direction = letterO == LetterO::West ? &WestByO : &EastByO;
+        meaning = meaningOf(letterO == LetterO::West ? Direction::West : Direction::East, letterO);
     }
-    if (!direction)
+    if (!meaning)
         return refused("MESS_TAB_NO_HEMISPHERE");
-    if (direction->axis != axis)
+    if (meaning->axis != axis)
         return refused("MESS_TAB_OTHER_AXIS");
-    return {direction->sign, ofWord ? size : 1, std::nullopt};
+    return {meaning->sign, ofWord ? size : 1, std::nullopt};
 }
 
 LetterO meaningOfO(const std::vector<std::string> &texts, LetterO otherwise)
@@ -130,11 +126,11 @@ LetterO meaningOfO(const std::vector<std::string> &texts, LetterO otherwise)
         for (std::size_t at = 0; at < text.size();) {
             const std::string_view rest = std::string_view(text).substr(at);
             const std::size_t size = wordSize(rest);
-            const Direction *direction = wordDirection(rest.substr(0, size));
-            if (!direction && size == 1)
-                direction = letterDirection(rest[0]);
-            isWest = isWest || (direction && direction->letterO == LetterO::West);
-            isEast = isEast || (direction && direction->letterO == LetterO::East);
+            std::optional<Meaning> meaning = wordMeaning(rest.substr(0, size));
+            if (!meaning && size == 1)
+                meaning = letterMeaning(rest[0]);
+            isWest = isWest || (meaning && meaning->letterO == LetterO::West);
+            isEast = isEast || (meaning && meaning->letterO == LetterO::East);
             at += std::max<std::size_t>(size, 1);
         }
     }

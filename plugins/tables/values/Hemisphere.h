@@ -30,9 +30,9 @@ struct Hemisphere
     std::optional<contract::TableTextId> fault; ///< reason why it is refused
 };
 
-/// The hemisphere at the start of a text: N, S, E, W, O, or a word such as Nord, South, Est, Ouest.
-/// It has to fit the axis. O is refused while its meaning is unknown. A longer text that starts
-/// with another letter than O stands for that letter.
+/// The hemisphere at the start of a text: N, S, E, W, O, or a word of the vocabulary (Nord, South,
+/// Est, Ouest). It has to fit the axis. O is refused while its meaning is unknown. A longer text
+/// that starts with another letter than O stands for that letter.
 Hemisphere readHemisphere(std::string_view text, Axis axis, LetterO letterO);
 
 /// The meaning of O as the other hemispheres of its column show it: west beside E, east beside W,
