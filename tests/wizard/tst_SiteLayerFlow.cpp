@@ -131,6 +131,26 @@ private Q_SLOTS:
         QCOMPARE(flow.description(), NoSites);
     }
 
+    void forgetsTheLayerIfThePathIsChangedToNoFile()
+    {
+        WizardOnSitePage flow;
+        dropFiles(flow.page, {Samples + u"/sites.csv"_s});
+        QVERIFY(flow.icon->isEnabled());
+        const AnsweredBoxes boxes;
+
+        auto *edit = flow.widget<QLineEdit>(u"m_pwLeSite"_s);
+        edit->setText(u"/nowhere/s.csv"_s);
+        Q_EMIT edit->editingFinished();
+        flow.widget<QSlider>(u"m_pwSlTransparency"_s)->setValue(40);
+
+        QVERIFY(!flow.icon->isEnabled());
+        QCOMPARE(flow.widget<QLabel>(u"m_pwLblReason"_s)->text(),
+                 u"s.csv: the file does not exist"_s);
+        QCOMPARE(boxes.seen.size(), 0);
+        QCOMPARE(vlt::platform::wizardSettings()->value(u"AddSitePage/SiteFile"_s),
+                 Samples + u"/sites.csv"_s);
+    }
+
     void reportsWhatKeepsALayerFromBeingWritten()
     {
         const QTemporaryDir own;

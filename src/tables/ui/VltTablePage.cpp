@@ -117,9 +117,10 @@ void VltTablePage::connectWidgets()
     connect(m_ui->m_pwLeTable, &QLineEdit::returnPressed, this,
             [this] { readFileInfo(m_ui->m_pwLeTable->text(), false); });
     connect(m_ui->m_pwLeTable, &QLineEdit::editingFinished, this, [this] {
+        // The page states the reason if there is no such file; no box opens because the focus left.
         const QString path = m_ui->m_pwLeTable->text();
-        if (path != m_pathRead && QFileInfo(path).isFile())
-            readFileInfo(path, false);
+        if (path != m_pathRead)
+            readFileInfo(path, !QFileInfo(path).isFile());
     });
     connect(m_ui->m_pwGbPreview, &VltLayerPreview::symbolicWanted, this,
             &VltTablePage::previewSymbolic);
