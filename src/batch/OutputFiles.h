@@ -1,19 +1,17 @@
 #pragma once
 
-#include "platform/Result.h"
+#include "platform/InputFiles.h"
 
 #include <QStringList>
 
 namespace vlt::batch {
 
-/// Whether a file to be written is one of the files that are read, even under another name. Empty
-/// names are ignored.
+/// The same as platform::isOneOf(); the standard output is no file.
 bool isOneOf(const QString &output, const QStringList &inputs);
 
 /// Whether the output is "-", the program's own standard output.
 bool isStandardOutput(const QString &output);
 
-/// The error for such a file.
-Error outputIsInput(const QString &output);
+using platform::outputIsInput;
 
 } // namespace vlt::batch

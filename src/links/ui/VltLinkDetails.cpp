@@ -47,7 +47,7 @@ void VltLinkDetails::check(const QString &connection, const vlt::geodata::System
                              .arg(input.rule.kFactor, 0, 'g', QLocale::FloatingPointShortest) +
                          input.terrainFile + QLatin1Char('\n') + connection;
     checkOnce<LinkCheck>(
-        what,
+        what, connection,
         [connection, systems, input](const vlt::Progress &progress) {
             return vlt::geodata::readLinkCheck(connection, input, progress, systems);
         },

@@ -12,7 +12,7 @@ void VltSiteDetails::check(const QString &connection, const vlt::geodata::System
 {
     using vlt::geodata::SiteCheck;
     checkOnce<SiteCheck>(
-        connection,
+        connection, connection,
         [connection, systems](const vlt::Progress &progress) {
             return vlt::geodata::readSiteCheck(connection, progress, systems);
         },

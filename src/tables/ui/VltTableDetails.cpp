@@ -4,6 +4,7 @@
 #include "language/ReaderText.h"
 #include "tables/ui/CopyRows.h"
 #include "tables/ui/VltMappingPanel.h"
+#include "tables/ui/VltRowAccounts.h"
 #include "text/RichText.h"
 
 #include <QHBoxLayout>
@@ -71,6 +72,7 @@ VltTableDetails::VltTableDetails(QWidget *parent)
     , m_pwLblRemark(new QLabel(this))
     , m_pwTwDetails(new QTabWidget(this))
     , m_mapping(new VltMappingPanel(this))
+    , m_rows(new VltRowAccounts(this))
     , m_problemModel(new QStandardItemModel(this))
 {
     buildHeading();
@@ -124,6 +126,7 @@ void VltTableDetails::buildHeading()
     layout->addLayout(heading);
     layout->addWidget(m_pwLblRemark);
     layout->addWidget(m_pwTwDetails);
+    layout->addWidget(m_rows);
 }
 
 void VltTableDetails::buildTables()
@@ -187,6 +190,7 @@ void VltTableDetails::fold(bool open)
 {
     m_pwTbFold->setArrowType(open ? Qt::DownArrow : Qt::RightArrow);
     m_pwTwDetails->setVisible(open);
+    m_rows->setVisible(open);
 }
 
 /// Makes the tabs as high as the current one needs.
@@ -220,6 +224,7 @@ void VltTableDetails::showTable(const vlt::tables::TableFileInfo &file,
     m_isNonePlaced = false;
     m_checked.clear();
     m_fileProblems = problems;
+    m_rows->clear();
     endCheck();
     forgetRows();
     showProblems(m_fileProblems, m_fileProblems.size());
@@ -242,6 +247,7 @@ bool VltTableDetails::beginsCheck(const QString &what)
         return false;
     m_checked = what;
     m_isNonePlaced = false;
+    m_rows->clear();
     m_pwPrChecking->setValue(0);
     if (!m_patience.isActive())
         m_patience.start();
@@ -266,6 +272,13 @@ void VltTableDetails::showProblems(const QList<vlt::Problem> &listed, qint64 cou
         m_problemModel->appendRow({item({}), item({}), item(rest.arg(count - listed.size()))});
     }
     setTableCount(m_pwTvProblems, tr("Problems", "MESS_PROBLEMS"), count);
+}
+
+void VltTableDetails::showRows(const vlt::Result<vlt::geodata::TableRowCounts> &rows,
+                               const QString &connection)
+{
+    if (rows)
+        m_rows->showRows(rows.value(), m_file.filePath, connection);
 }
 
 void VltTableDetails::showSummary(const QString &rows, bool warns)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "geodata/LayerProblems.h"
+#include "geodata/TableReport.h"
 #include "tables/SystemProblems.h"
 #include "tables/TableSystems.h"
 #include "tables/ui/CheckRunner.h"
@@ -12,6 +13,7 @@
 
 class QAbstractItemModel;
 class VltMappingPanel;
+class VltRowAccounts;
 class QLabel;
 class QProgressBar;
 class QPushButton;
@@ -53,18 +55,32 @@ protected:
 
     /// Starts to check the rows of the shown table, unless the same check was started before.
     ///
-    /// @param what      identifies the check
-    /// @param read      runs on another thread and must own all data that it uses
-    /// @param finished  called with the result
+    /// @param what        identifies the check
+    /// @param connection  of the table, by which the rows are counted
+    /// @param read        runs on another thread and must own all data that it uses
+    /// @param finished    called with the result
     template<typename Check>
-    void checkOnce(const QString &what,
+    void checkOnce(const QString &what, const QString &connection,
                    std::function<vlt::Stoppable<Check>(const vlt::Progress &)> read,
                    std::function<void(const Check &)> finished)
     {
-        if (beginsCheck(what))
-            m_runner.start(vlt::tables::CheckRunner::reading<Check>(
-                std::move(read), std::move(finished),
-                [this](const vlt::Error &error) { checkFailed(error); }));
+        if (!beginsCheck(what))
+            return;
+        using Both = std::pair<Check, vlt::Result<vlt::geodata::TableRowCounts>>;
+        m_runner.start(vlt::tables::CheckRunner::reading<Both>(
+            [read, connection](const vlt::Progress &progress) -> vlt::Stoppable<Both> {
+                const vlt::Stoppable<Check> check = read(progress);
+                if (!check)
+                    return std::nullopt;
+                if (!*check)
+                    return check->error();
+                return Both{check->value(), vlt::geodata::readRowCounts(connection)};
+            },
+            [this, finished, connection](const Both &both) {
+                showRows(both.second, connection);
+                finished(both.first);
+            },
+            [this](const vlt::Error &error) { checkFailed(error); }));
     }
 
     /// Shows the results that all checks have; ends the check.
@@ -107,6 +123,7 @@ private:
     void fold(bool open);
     void fitHeight();
     void showProblems(const QList<vlt::Problem> &listed, qint64 count);
+    void showRows(const vlt::Result<vlt::geodata::TableRowCounts> &rows, const QString &connection);
     void showSummary(const QString &rows, bool warns);
     bool beginsCheck(const QString &what);
     void showProgress(bool shown);
@@ -123,6 +140,7 @@ private:
     QLabel *m_pwLblRemark;
     QTabWidget *m_pwTwDetails;
     VltMappingPanel *m_mapping;
+    VltRowAccounts *m_rows;
     QStandardItemModel *m_problemModel;
     QTableView *m_pwTvProblems = nullptr;
     QList<vlt::Problem> m_fileProblems; ///< known without reading the rows

@@ -919,5 +919,29 @@
         <source>no columns with coordinates of both ends were recognised: the latitude or northing of end %1 is missing</source>
         <translation>no columns with coordinates of both ends were recognised: the latitude or northing of end %1 is missing</translation>
     </message>
+    <message id="MESS_SAVE_REPORT">
+        <source>Save the report...</source>
+        <translation>Save the report...</translation>
+    </message>
+    <message id="MESS_SAVE_REJECTS">
+        <source>Save the rows left out...</source>
+        <translation>Save the rows left out...</translation>
+    </message>
+    <message id="MESS_TIP_SAVE_REPORT">
+        <source>Save what became of every row, with the reasons</source>
+        <translation>Save what became of every row, with the reasons</translation>
+    </message>
+    <message id="MESS_TIP_SAVE_REJECTS">
+        <source>Save the rows that are left out, to correct them and open them again</source>
+        <translation>Save the rows that are left out, to correct them and open them again</translation>
+    </message>
+    <message id="MESS_ROWS_ARE">
+        <source>Rows: %1</source>
+        <translation>Rows: %1</translation>
+    </message>
+    <message id="MESS_SECOND_ROWS_ARE">
+        <source>Rows of %1: %2</source>
+        <translation>Rows of %1: %2</translation>
+    </message>
 </context>
 </TS>

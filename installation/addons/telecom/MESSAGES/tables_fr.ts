@@ -919,5 +919,29 @@
         <source>no columns with coordinates of both ends were recognised: the latitude or northing of end %1 is missing</source>
         <translation>aucune colonne avec les coordonnées des deux extrémités n'a été reconnue&#xa0;: la latitude ou l'ordonnée de l'extrémité %1 manque</translation>
     </message>
+    <message id="MESS_SAVE_REPORT">
+        <source>Save the report...</source>
+        <translation>Enregistrer le rapport...</translation>
+    </message>
+    <message id="MESS_SAVE_REJECTS">
+        <source>Save the rows left out...</source>
+        <translation>Enregistrer les lignes laissées de côté...</translation>
+    </message>
+    <message id="MESS_TIP_SAVE_REPORT">
+        <source>Save what became of every row, with the reasons</source>
+        <translation>Enregistrer ce que chaque ligne est devenue, avec les motifs</translation>
+    </message>
+    <message id="MESS_TIP_SAVE_REJECTS">
+        <source>Save the rows that are left out, to correct them and open them again</source>
+        <translation>Enregistrer les lignes laissées de côté, pour les corriger et les ouvrir de nouveau</translation>
+    </message>
+    <message id="MESS_ROWS_ARE">
+        <source>Rows: %1</source>
+        <translation>Lignes&#xa0;: %1</translation>
+    </message>
+    <message id="MESS_SECOND_ROWS_ARE">
+        <source>Rows of %1: %2</source>
+        <translation>Lignes de %1&#xa0;: %2</translation>
+    </message>
 </context>
 </TS>
