@@ -3,6 +3,7 @@
 #include "contract/TableTexts.h"
 #include "plugins/tables/cells/Cell.h"
 #include "plugins/tables/cells/Numbers.h"
+#include "plugins/tables/sites/SectorSuffix.h"
 
 #include <algorithm>
 #include <cmath>

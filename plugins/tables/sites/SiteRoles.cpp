@@ -4,6 +4,7 @@
 #include "plugins/tables/cells/Cell.h"
 #include "plugins/tables/roles/NameMatch.h"
 #include "plugins/tables/roles/RoleEvidence.h"
+#include "plugins/tables/sites/SectorSuffix.h"
 
 #include <algorithm>
 #include <array>
@@ -19,6 +20,7 @@ namespace {
 
 constexpr double MinFit = 0.5;
 constexpr int PointsOfLevel = 30;
+constexpr int PointsOfCounter = 20;
 
 bool isOfSite(Role role)
 {
@@ -70,6 +72,7 @@ public:
         }
         addStated();
         useLevels();
+        addCounter();
         dropStated();
         numberRepeatedNames();
         const bool isNumbered = dropNumbersOfOthers();
@@ -233,6 +236,8 @@ private:
     {
         const Level level = levelOf(cellsOf(candidate.field), m_places);
         const bool ofSector = candidate.role == Role::SectorId;
+        if (ofSector && countsWithinPlaces(candidate.field))
+            candidate.score += PointsOfCounter;
         if (level == Level::Area)
             candidate.score -= ofSector ? 0 : PointsOfLevel;
         else if (level == Level::Site && ofSector && candidate.sector < 0)
@@ -242,6 +247,41 @@ private:
         else if (level == Level::Sector && !ofSector && hasAzimuths &&
                  !namesASite(candidate.field) && !namesHoldSector(candidate.field))
             candidate.role = Role::SectorId;
+    }
+
+    /// Whether the rows of each place are numbered from 1, and several places have several rows. A
+    /// row without a place belongs to the one above.
+    bool countsWithinPlaces(int field) const
+    {
+        constexpr std::size_t MinPlaces = 2;
+        std::map<std::string_view, std::size_t> rowsOf;
+        std::size_t repeated = 0;
+        std::string_view place;
+        for (std::size_t row = 0; row < cellsOf(field).size(); ++row) {
+            place = m_places[row].empty() ? place : m_places[row];
+            const std::size_t number = ++rowsOf[place];
+            if (trimmed(cellsOf(field)[row]) != std::to_string(number))
+                return false;
+            repeated += number == 2 ? 1 : 0;
+        }
+        return repeated >= MinPlaces;
+    }
+
+    /// Without a column that names the sectors, one that numbers them does, whatever its name is.
+    void addCounter()
+    {
+        const bool namesSectors =
+            std::any_of(m_candidates.begin(), m_candidates.end(),
+                        [](const Candidate &of) { return of.role == Role::SectorId; });
+        std::set<int> known;
+        for (const Candidate &candidate : m_candidates)
+            known.insert(candidate.field);
+        for (int field = 0; !namesSectors && field < int(m_table.fields.size()); ++field) {
+            if (m_point.uses(field) || known.contains(field) || !countsWithinPlaces(field))
+                continue;
+            m_candidates.push_back({field, Role::SectorId, -1, PointsOfCounter});
+            return;
+        }
     }
 
     bool namesHoldSector(int field) const
@@ -293,13 +333,31 @@ private:
         return isNumbered;
     }
 
+    bool isSectorWord(const std::string &word) const
+    {
+        const WordMeaning *meaning = m_vocabulary.find(word);
+        return meaning && meaning->isSector;
+    }
+
     bool namesASector(int field) const
     {
         const std::vector<std::string> &words = m_words[static_cast<std::size_t>(field)];
-        return std::any_of(words.begin(), words.end(), [this](const std::string &word) {
-            const WordMeaning *meaning = m_vocabulary.find(word);
-            return meaning && meaning->isSector;
-        });
+        return std::any_of(words.begin(), words.end(),
+                           [this](const std::string &word) { return isSectorWord(word); });
+    }
+
+    /// Whether the name of a column begins a word with one for antennas: "Antennehoogte". The
+    /// names of a table without a header are not its own.
+    bool namesAnAntenna(int field) const
+    {
+        constexpr std::size_t MinSize = 3;
+        for (const std::string &word : m_words[static_cast<std::size_t>(field)]) {
+            for (std::size_t size = word.size(); size >= MinSize; --size) {
+                if (isSectorWord(word.substr(0, size)))
+                    return !m_table.header.rows.empty();
+            }
+        }
+        return false;
     }
 
     std::string evidenceOf(int field)
@@ -368,15 +426,20 @@ private:
             else if (isOfTransmitter(column.role))
                 fillTransmitter(transmitters[column.sector], column);
         }
+        m_namesHoldSector =
+            m_roles.siteName >= 0 && levelOf(cellsOf(m_roles.siteName), m_places) == Level::Sector;
         if (isNumbered)
             shareCommonColumns(transmitters);
-        m_roles.namesHoldSector =
-            m_roles.siteName >= 0 && levelOf(cellsOf(m_roles.siteName), m_places) == Level::Sector;
+        else
+            for (auto &[number, fields] : transmitters)
+                nameSectorsBySites(fields);
         for (auto &[number, fields] : transmitters) {
             fields.number = number;
             // heights alone are those of towers as well
             if (fields.azimuth.found() ||
-                (fields.height.found() && (isNumbered || fields.sectorId >= 0)))
+                (fields.height.found() &&
+                 (isNumbered || fields.sectorId >= 0 || fields.frequency.found() ||
+                  fields.beamWidth.found() || namesAnAntenna(fields.height.field))))
                 m_roles.transmitters.push_back(fields);
         }
         if (m_roles.transmitters.empty())
@@ -385,6 +448,20 @@ private:
         m_roles.shape = isNumbered ? SiteShape::Numbered
                         : holdsLists(first.azimuth) || holdsLists(first.height) ? SiteShape::Lists
                                                                                 : SiteShape::Tall;
+    }
+
+    /// Takes the names that hold the sector for those of the transmitters, unless a column names
+    /// the sectors of each site, such as A, B, C. Numbers of cells are less telling.
+    void nameSectorsBySites(TransmitterFields &fields)
+    {
+        if (!m_namesHoldSector || m_stated.find(roleName(Role::SectorId)))
+            return;
+        if (fields.sectorId >= 0) {
+            const ColumnFacts &facts = factsOfField(fields.sectorId);
+            if (facts.distinct < facts.filled)
+                return;
+        }
+        fields.sectorId = m_roles.siteName;
     }
 
     /// Columns without a number hold for all transmitters.
@@ -467,18 +544,10 @@ private:
     std::vector<std::optional<ColumnFacts>> m_facts;
     std::vector<std::string> m_places; ///< by sampled row
     std::vector<Candidate> m_candidates;
+    /// The names of the sites differ by the sector alone: "Gare A", "Gare B".
+    bool m_namesHoldSector = false;
     SiteRoles m_roles;
 };
-
-bool isDigit(char c)
-{
-    return c >= '0' && c <= '9';
-}
-
-bool isLetter(char c)
-{
-    return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
-}
 
 } // namespace
 
@@ -486,30 +555,6 @@ SiteRoles findSiteRoles(const TableProfile &table, const PointFields &point,
                         const Vocabulary &vocabulary, const StatedRoles &stated)
 {
     return Finder(table, point, vocabulary, stated).find();
-}
-
-std::string_view withoutSector(std::string_view name, const Vocabulary &vocabulary)
-{
-    constexpr std::string_view Separators = " _-./";
-    const std::size_t word = name.find_last_of(Separators) + 1; // 0 if there is one word
-    if (word > 0 && vocabulary.numberOfSectorName(name.substr(word)) > 0)
-        return name.substr(0, name.substr(0, word).find_last_not_of(Separators) + 1);
-    std::size_t end = name.size();
-    std::size_t digits = 0;
-    while (end > 0 && digits < 2 && isDigit(name[end - 1])) {
-        --end;
-        ++digits;
-    }
-    // one letter, alone or before the digits
-    const bool hasLetter = end > 0 && isLetter(name[end - 1]);
-    if (hasLetter)
-        --end;
-    else if (digits == 0)
-        return name;
-    const std::size_t last = name.substr(0, end).find_last_not_of(Separators);
-    if (last == std::string_view::npos || last + 1 == end)
-        return name; // the end is part of a word
-    return name.substr(0, last + 1);
 }
 
 } // namespace vlt::driver

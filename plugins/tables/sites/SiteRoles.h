@@ -50,8 +50,6 @@ struct SiteRoles
     SiteShape shape = SiteShape::Own;
     int siteId = -1;
     int siteName = -1;
-    /// The names differ by the sector alone: "Gare A", "Gare B".
-    bool namesHoldSector = false;
     QuantityField groundHeight;
     std::vector<TransmitterFields> transmitters; ///< by number; one for Lists and Tall
     std::vector<ColumnRole> columns;             ///< by field
@@ -61,9 +59,5 @@ struct SiteRoles
 /// stated.
 SiteRoles findSiteRoles(const TableProfile &table, const PointFields &point,
                         const Vocabulary &vocabulary, const StatedRoles &stated = {});
-
-/// The name of a site without the sector at its end: "Gare A", "GARE_2", "Gare S3" and "Gare Alpha"
-/// give Gare, GARE, Gare and Gare. Other names are returned as they are.
-std::string_view withoutSector(std::string_view name, const Vocabulary &vocabulary);
 
 } // namespace vlt::driver
