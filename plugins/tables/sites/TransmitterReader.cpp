@@ -56,17 +56,16 @@ public:
         values.azimuthDeg = number(fields.azimuth, readAzimuthDeg, "MESS_TAB_SECTOR_AZIMUTH");
         values.beamWidthDeg =
             number(fields.beamWidth, readBeamWidthDeg, "MESS_TAB_SECTOR_BEAM_WIDTH");
-        const bool isUsable = m_isUsable;
         values.mechanicalTiltDeg =
             number(fields.mechanicalTilt, readTiltDeg, "MESS_TAB_SECTOR_TILT");
         values.electricalTiltDeg =
             number(fields.electricalTilt, readTiltDeg, "MESS_TAB_SECTOR_TILT");
-        if (!isUsable || !m_isUsable)
+        if (!m_isUsable)
             return std::nullopt;
         const bool isEmpty = (!values.heightM || fields.sharesHeight) && !values.azimuthDeg &&
                              !values.mechanicalTiltDeg && !values.electricalTiltDeg &&
                              !values.beamWidthDeg && !m_isOmni && text(fields.sectorId).empty();
-        if (isEmpty)
+        if (isEmpty || isDirectionUnknown(fields.azimuth, values))
             return std::nullopt;
         if (values.azimuthDeg && (m_isOmni || values.beamWidthDeg == WholeTurnDeg))
             values.azimuthDeg.reset();
@@ -140,6 +139,19 @@ private:
             report(of, why, {quotation(item)});
         }
         return value.number;
+    }
+
+    /// Whether a cell says that the azimuth is not known; reports it.
+    bool isDirectionUnknown(const QuantityField &of, const TransmitterValues &values)
+    {
+        const bool isStated = m_isOmni || values.azimuthDeg || values.beamWidthDeg == WholeTurnDeg;
+        if (!of.found() || isStated)
+            return false;
+        const std::string item = itemText(of.field, splitList);
+        if (!readAzimuthDeg(item, 1, m_reader.m_words).isUnknown)
+            return false;
+        report(of, "MESS_TAB_SECTOR_AZIMUTH", {quotation(item)});
+        return true;
     }
 
     /// A frequency is not needed to draw the transmitter.

@@ -45,15 +45,22 @@ TransmitterValue checked(std::optional<double> number, const Range &range)
     return {number, std::nullopt};
 }
 
+bool hasLetter(std::string_view text)
+{
+    return std::any_of(text.begin(), text.end(),
+                       [](char c) { return (c | 0x20) >= 'a' && (c | 0x20) <= 'z'; });
+}
+
 /// An angle, or a word for all directions.
 TransmitterValue readDirection(std::string_view text, double unitDeg, const ValueWords &words,
                                const Range &range)
 {
-    text = valueText(text, words);
-    if (text.empty())
-        return {};
-    if (words.isOmni(text))
+    if (words.isOmni(text)) // "ND" is also a word for no value
         return {std::nullopt, std::nullopt, true};
+    const std::string_view value = valueText(text, words);
+    if (value.empty())
+        return {std::nullopt, std::nullopt, false, hasLetter(text)};
+    text = value;
     return checked(readDegrees(text, unitDeg), range);
 }
 

@@ -29,6 +29,9 @@ struct TransmitterValue
     std::optional<double> number;
     std::optional<ValueFault> fault;
     bool isOmni = false; ///< the cell says that the antenna radiates in all directions
+    /// The cell has a word such as N/A: an azimuth that is not known, while an empty cell or a
+    /// dash may also stand for an antenna without one.
+    bool isUnknown = false;
 
     bool isAbsent() const { return !number && !fault && !isOmni; }
 };
