@@ -264,7 +264,7 @@ inline constexpr auto TableTexts = std::to_array<Text>({
     {"MESS_TAB_EVIDENCE_STATED", "stated in %1"},
     {"MESS_TAB_EVIDENCE_NO_HEADER", "no header; recognised by the values"},
     {"MESS_TAB_EVIDENCE_EMPTY", "header \"%1\"; no values"},
-    {"MESS_TAB_EVIDENCE_TEXTS", "header \"%1\"; %2 texts, %3 of them different"},
+    {"MESS_TAB_EVIDENCE_TEXTS", "header \"%1\"; %2 values, %3 of them different"},
     {"MESS_TAB_EVIDENCE_WHOLE", "header \"%1\"; %2 whole numbers from %3 to %4"},
     {"MESS_TAB_EVIDENCE_NUMBERS", "header \"%1\"; %2 numbers from %3 to %4"},
     {"MESS_TAB_EVIDENCE_LISTS", "header \"%1\"; %2 lists of numbers from %3 to %4"},

@@ -220,11 +220,11 @@ private:
         return filled > 0 ? static_cast<double>(readable) / static_cast<double>(filled) : MinFit;
     }
 
-    std::string evidenceOf(int field)
+    std::string evidenceOf(int field, Role role)
     {
         return m_table.header.rows.empty()
                    ? contract::formatted("MESS_TAB_EVIDENCE_NO_HEADER")
-                   : roleEvidence(m_table.nameInHeader(field), factsOfField(field));
+                   : roleEvidence(m_table.nameInHeader(field), role, factsOfField(field));
     }
 
     /// Gives each field one role, and each role of an end or of the link one field: the strongest
@@ -255,7 +255,7 @@ private:
         std::sort(m_roles.columns.begin(), m_roles.columns.end(),
                   [](const auto &a, const auto &b) { return a.field < b.field; });
         for (LinkColumnRole &column : m_roles.columns)
-            column.evidence = evidenceOf(column.field);
+            column.evidence = evidenceOf(column.field, column.role);
     }
 
     /// The field with the id or name of an end, if its values showed that.
@@ -326,8 +326,8 @@ private:
             const PointFields &point = m_ends.points[at];
             const auto add = [&](int field, Role role) {
                 if (field >= 0)
-                    columns.push_back(
-                        {field, role, at == 0 ? LinkEndId::A : LinkEndId::B, evidenceOf(field)});
+                    columns.push_back({field, role, at == 0 ? LinkEndId::A : LinkEndId::B,
+                                       evidenceOf(field, role)});
             };
             for (const auto &[fields, role] :
                  {std::pair(point.x, Role::X), std::pair(point.y, Role::Y)}) {

@@ -5,12 +5,32 @@
 
 namespace vlt::driver {
 
-std::string roleEvidence(const std::string &name, const ColumnFacts &facts)
+namespace {
+
+bool holdsNames(Role role)
+{
+    switch (role) {
+    case Role::SiteId:
+    case Role::SiteName:
+    case Role::SectorId:
+    case Role::Technology:
+    case Role::Operator:
+    case Role::LinkName:
+    case Role::Repeater:
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace
+
+std::string roleEvidence(const std::string &name, Role role, const ColumnFacts &facts)
 {
     using contract::formatted;
     if (facts.filled == 0)
         return formatted("MESS_TAB_EVIDENCE_EMPTY", {name});
-    if (facts.numeric * 2 <= facts.filled)
+    if (holdsNames(role) || facts.numeric * 2 <= facts.filled)
         return formatted("MESS_TAB_EVIDENCE_TEXTS",
                          {name, std::to_string(facts.filled), std::to_string(facts.distinct)});
     const std::string count = std::to_string(facts.numeric);

@@ -360,13 +360,13 @@ private:
         return false;
     }
 
-    std::string evidenceOf(int field)
+    std::string evidenceOf(int field, Role role)
     {
         if (m_stated.fields.contains(field))
             return m_stated.evidence;
         return m_table.header.rows.empty()
                    ? contract::formatted("MESS_TAB_EVIDENCE_NO_HEADER")
-                   : roleEvidence(m_table.nameInHeader(field), factsOfField(field));
+                   : roleEvidence(m_table.nameInHeader(field), role, factsOfField(field));
     }
 
     /// Gives each field one role, and each role of the site or of a transmitter one field: the
@@ -387,7 +387,7 @@ private:
         std::sort(m_roles.columns.begin(), m_roles.columns.end(),
                   [](const ColumnRole &a, const ColumnRole &b) { return a.field < b.field; });
         for (ColumnRole &column : m_roles.columns)
-            column.evidence = evidenceOf(column.field);
+            column.evidence = evidenceOf(column.field, column.role);
     }
 
     /// Adds the columns of the position to the list of roles.
@@ -396,7 +396,7 @@ private:
         std::vector<ColumnRole> columns;
         const auto add = [&](int field, Role role) {
             if (field >= 0)
-                columns.push_back({field, role, -1, evidenceOf(field)});
+                columns.push_back({field, role, -1, evidenceOf(field, role)});
         };
         for (const auto &[fields, role] :
              {std::pair(m_point.x, Role::X), std::pair(m_point.y, Role::Y)}) {

@@ -460,8 +460,8 @@
         <translation>header "%1"; no values</translation>
     </message>
     <message id="MESS_TAB_EVIDENCE_TEXTS">
-        <source>header "%1"; %2 texts, %3 of them different</source>
-        <translation>header "%1"; %2 texts, %3 of them different</translation>
+        <source>header "%1"; %2 values, %3 of them different</source>
+        <translation>header "%1"; %2 values, %3 of them different</translation>
     </message>
     <message id="MESS_TAB_EVIDENCE_WHOLE">
         <source>header "%1"; %2 whole numbers from %3 to %4</source>

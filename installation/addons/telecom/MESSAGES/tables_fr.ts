@@ -460,8 +460,8 @@
         <translation>en-tête «&#xa0;%1&#xa0;»&#xa0;; aucune valeur</translation>
     </message>
     <message id="MESS_TAB_EVIDENCE_TEXTS">
-        <source>header "%1"; %2 texts, %3 of them different</source>
-        <translation>en-tête «&#xa0;%1&#xa0;»&#xa0;; %2 textes, dont %3 différents</translation>
+        <source>header "%1"; %2 values, %3 of them different</source>
+        <translation>en-tête «&#xa0;%1&#xa0;»&#xa0;; %2 valeurs, dont %3 différentes</translation>
     </message>
     <message id="MESS_TAB_EVIDENCE_WHOLE">
         <source>header "%1"; %2 whole numbers from %3 to %4</source>
