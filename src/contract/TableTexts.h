@@ -263,6 +263,9 @@ inline constexpr auto TableTexts = std::to_array<Text>({
     // why a column has a role
     {"MESS_TAB_EVIDENCE_STATED", "stated in %1"},
     {"MESS_TAB_EVIDENCE_NO_HEADER", "no header; recognised by the values"},
+    {"MESS_TAB_EVIDENCE_UNIT",
+     "%1; unit by the positions: %2",
+     {ValueKind::Nested, ValueKind::Name}},
     {"MESS_TAB_EVIDENCE_EMPTY", "header \"%1\"; no values"},
     {"MESS_TAB_EVIDENCE_TEXTS", "header \"%1\"; %2 values, %3 of them different"},
     {"MESS_TAB_EVIDENCE_WHOLE", "header \"%1\"; %2 whole numbers from %3 to %4"},

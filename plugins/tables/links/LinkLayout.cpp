@@ -2,6 +2,7 @@
 
 #include "plugins/tables/bytes/Refusal.h"
 #include "plugins/tables/links/ContrastedEnds.h"
+#include "plugins/tables/links/LengthUnit.h"
 #include "plugins/tables/table/HeaderWords.h"
 
 #include <algorithm>
@@ -112,6 +113,20 @@ LinkLayout layoutOf(const TableProfile &table, const FoundEnds &ends, const Voca
     return layout;
 }
 
+/// Sets the unit of lengths without one.
+void setLengthUnit(const TableProfile &table, LinkLayout &layout)
+{
+    const std::optional<LengthUnit> unit = lengthUnitByPositions(table, layout);
+    if (!unit)
+        return;
+    layout.length.unit = unit->metres;
+    for (LinkColumnRole &column : layout.columns) {
+        if (column.role == Role::Length)
+            column.evidence =
+                contract::formatted("MESS_TAB_EVIDENCE_UNIT", {column.evidence, unit->name});
+    }
+}
+
 } // namespace
 
 LinkLayout recogniseLinkLayout(const TableProfile &table, const Vocabulary &vocabulary)
@@ -127,6 +142,8 @@ LinkLayout recogniseLinkLayout(const TableProfile &table, const Vocabulary &voca
     layout.unit = commonUnit(findUnit(ends.points[0], table.fields, vocabulary),
                              findUnit(ends.points[1], table.fields, vocabulary));
     layout.epsg = findEpsg(table, ends.points[0], layout.unit);
+    if (layout.length.found() && !layout.length.unit)
+        setLengthUnit(table, layout);
     return layout;
 }
 

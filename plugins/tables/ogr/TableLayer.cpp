@@ -322,6 +322,9 @@ TableSurvey TableLayer::startSurvey() const
 void TableLayer::finish(TableSurvey &survey) const
 {
     survey.findings = diagnose(survey.positions.all(), systems().facts());
+    if (std::holds_alternative<LinkLayout>(facts().layout)) // many links meet at a hub
+        std::erase_if(survey.findings,
+                      [](const Finding &finding) { return finding.kind == FindingKind::Stacked; });
     survey.positions = {};
     for (auto finding = survey.findings.rbegin(); finding != survey.findings.rend(); ++finding) {
         if (finding->kind == FindingKind::Undeclared && systems().isUnreachable())

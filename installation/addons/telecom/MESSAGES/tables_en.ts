@@ -943,5 +943,9 @@
         <source>Rows of %1: %2</source>
         <translation>Rows of %1: %2</translation>
     </message>
+    <message id="MESS_TAB_EVIDENCE_UNIT">
+        <source>%1; unit by the positions: %2</source>
+        <translation>%1; unit by the positions: %2</translation>
+    </message>
 </context>
 </TS>

@@ -943,5 +943,9 @@
         <source>Rows of %1: %2</source>
         <translation>Lignes de %1&#xa0;: %2</translation>
     </message>
+    <message id="MESS_TAB_EVIDENCE_UNIT">
+        <source>%1; unit by the positions: %2</source>
+        <translation>%1&#xa0;; unité d'après les positions&#xa0;: %2</translation>
+    </message>
 </context>
 </TS>
