@@ -113,6 +113,22 @@ std::optional<Error> checkValues(const QCommandLineParser &parser)
     return std::nullopt;
 }
 
+/// The arguments with a "=" behind options whose value is optional: "[FILE]".
+QStringList withOptionalValues(QStringList arguments, const QList<QCommandLineOption> &options)
+{
+    for (const QCommandLineOption &option : options) {
+        if (!option.valueName().startsWith(QLatin1Char('[')))
+            continue;
+        for (QString &argument : arguments) {
+            if (argument == QLatin1String("--")) // files follow
+                break;
+            if (argument == dashed(option.names().constFirst()))
+                argument += QLatin1Char('=');
+        }
+    }
+    return arguments;
+}
+
 } // namespace
 
 SplitArguments splitCommand(const QStringList &arguments)
@@ -173,7 +189,7 @@ Result<GlobalOptions> parseArguments(QCommandLineParser &parser, const CommandSy
 {
     parser.addOptions(syntax.options);
     parser.addOptions(globalOptions());
-    if (!parser.parse(arguments))
+    if (!parser.parse(withOptionalValues(arguments, syntax.options)))
         return misunderstood(parser, syntax, arguments);
 
     GlobalOptions options;

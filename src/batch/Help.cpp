@@ -41,7 +41,9 @@ QString optionName(const QCommandLineOption &option)
     for (const QString &name : option.names())
         names << QLatin1String(name.size() == 1 ? "-" : "--") + name;
     QString text = names.join(QStringLiteral(", "));
-    if (!option.valueName().isEmpty())
+    if (option.valueName().startsWith(QLatin1Char('['))) // optional
+        text += QStringLiteral("[=<") + option.valueName().mid(1).chopped(1) + QStringLiteral(">]");
+    else if (!option.valueName().isEmpty())
         text += QStringLiteral(" <") + option.valueName() + QLatin1Char('>');
     return text;
 }

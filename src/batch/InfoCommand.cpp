@@ -4,6 +4,7 @@
 #include "batch/Help.h"
 #include "batch/InfoReport.h"
 #include "batch/LayerCommand.h"
+#include "batch/MappingOptions.h"
 #include "batch/RowOutputs.h"
 #include "batch/StartUp.h"
 #include "contract/QueryOptions.h"
@@ -180,12 +181,13 @@ CommandSyntax syntax()
         QList<QCommandLineOption>{
             {QStringLiteral("link"),
              dico_label("MESS_OPT_INFO_LINK", "The tables have microwave links, not sites.")}} +
-        readingOptions() + rowOutputOptions() +
+        readingOptions() + mappingOutputOptions() + rowOutputOptions() +
         QList{secondFileOption(contract::TableKind::Sites),
               secondFileOption(contract::TableKind::Links)};
     syntax.examples =
         QStringLiteral("  vltlayers info sites.xlsx\n"
                        "  vltlayers info --link links.xlsx\n"
+                       "  vltlayers info sites.csv --write-mapping\n"
                        "  vltlayers info sites.csv --report rows.csv --rejects corrections.csv\n"
                        "  vltlayers info --project city.gvw --json \"my sites.csv\"\n");
     return syntax;
@@ -209,6 +211,17 @@ ExitStatus run(const QCommandLineParser &parser, const GlobalOptions &options)
             return refuseUsage(reading.error());
         readings << reading.value();
     }
+    if (tables.size() > 1 && !parser.value(QStringLiteral("write-mapping")).isEmpty())
+        return refuseUsage(wrongUsage(
+            dico_label("MESS_USE_ONE_MAPPING",
+                       "--write-mapping with the name of a file can be used with one table only")));
+    if (const auto error = checkMapping(parser))
+        return refuse(*error);
+    StatedMappings stated;
+    for (qsizetype i = 0; i < tables.size(); ++i) {
+        if (const auto applied = stated.apply(parser, tables[i], readings[i]); !applied)
+            return refuseUsage(applied.error());
+    }
     const Result<RowOutputs> outputs = readRowOutputs(parser);
     if (!outputs)
         return refuseUsage(outputs.error());
@@ -225,6 +238,14 @@ ExitStatus run(const QCommandLineParser &parser, const GlobalOptions &options)
         const QString &table = tables[i];
         Result<InfoReport> report = readTable(QFileInfo(table).absoluteFilePath(), isLinks,
                                               readings[i], surroundings.value().project);
+        if (report) {
+            InfoReport complete = report.value();
+            const Result<QString> written = writeMapping(parser, table, complete.connection);
+            if (!written)
+                return refuse(written.error());
+            complete.mapping = written.value();
+            report = complete;
+        }
         outcomes << (report ? report : Result<InfoReport>(report.error().withPath(table)));
     }
     if (const Result<InfoReport> &only = outcomes.constFirst();

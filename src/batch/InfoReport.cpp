@@ -156,7 +156,11 @@ QString reportText(const InfoReport &report)
     return aligned(fileLines(report)) + QLatin1Char('\n') + report.file.description +
            QStringLiteral("\n\n") + aligned(columnLines(report.columns)) + QLatin1Char('\n') +
            rolesText(report.file) + aligned(rowLines(report.rows)) + QLatin1Char('\n') +
-           problemsText(report.problems);
+           problemsText(report.problems) +
+           (report.mapping.isEmpty()
+                ? QString()
+                : dico_label("MESS_CLI_MAPPING", "Mapping file written: %1").arg(report.mapping) +
+                      QLatin1Char('\n'));
 }
 
 QJsonObject reportJson(const InfoReport &report)
@@ -191,6 +195,8 @@ QJsonObject reportJson(const InfoReport &report)
         object.insert(QStringLiteral("shape"), language::readerText(file.shape));
         object.insert(QStringLiteral("roles"), rolesJson(file.roles));
     }
+    if (!report.mapping.isEmpty())
+        object.insert(QStringLiteral("mapping"), report.mapping);
     for (const InfoEntry &entry : report.further)
         object.insert(entry.key, entry.value);
     return object;

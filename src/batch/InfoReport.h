@@ -29,6 +29,7 @@ struct InfoReport
     geodata::LayerProblems problems;
     geodata::TableRowCounts rows;
     QString connection; ///< by which the rows were read
+    QString mapping;    ///< file to which the mapping was written; empty for none
 };
 
 /// A problem as one line, with row and column first.

@@ -3,8 +3,10 @@
 #include "batch/Console.h"
 #include "batch/Help.h"
 #include "batch/InfoReport.h"
+#include "batch/MappingOptions.h"
 #include "batch/OutputFiles.h"
 #include "batch/SiteOptions.h"
+#include "contract/TextPatterns.h"
 #include "language/ReaderText.h"
 #include "language/VltLanguageManager.h"
 #include "platform/LayerFile.h"
@@ -97,6 +99,7 @@ QList<QCommandLineOption> readingOptions()
          dico_label("MESS_OPT_SWAP_AXES",
                     "Exchange the coordinates: the table has latitudes in the column of "
                     "longitudes, or northings in that of eastings.")},
+        mappingOption(),
     };
 }
 
@@ -140,6 +143,10 @@ Result<tables::TableReading> readReading(const QCommandLineParser &parser, contr
     if (!second)
         return second.error();
     (kind == contract::TableKind::Links ? reading.endSites : reading.sectors) = second.value();
+    if (parser.isSet(QStringLiteral("mapping")) && value("mapping").isEmpty())
+        return wrongUsage(
+            dico_label("MESS_USE_NO_VALUE", "%1 needs a value").arg(QStringLiteral("--mapping")));
+    reading.columns = readMappingOption(parser, table);
     return reading;
 }
 
@@ -163,9 +170,12 @@ std::variant<LayerRequest, ExitStatus> readLayerRequest(const QCommandLineParser
     if (!reading)
         return refuseUsage(reading.error());
     request.reading = reading.value();
+    if (const auto error = checkMapping(parser))
+        return refuse(*error);
     if (!request.output.isEmpty() &&
         isOneOf(request.output,
                 inputs + QStringList{request.table, parser.value(secondFileName(kind)),
+                                     parser.value(QStringLiteral("mapping")),
                                      surroundings.project.projectPath,
                                      surroundings.project.terrainFile}))
         return refuse(outputIsInput(request.output));
@@ -205,8 +215,23 @@ std::optional<ExitStatus> writeLayer(const QString &path, const Result<tables::T
     return std::nullopt;
 }
 
+QList<Problem> mappingProblems(const geodata::LayerProblems &problems)
+{
+    QList<Problem> found;
+    for (const Problem &problem : problems.listed) {
+        const std::string text = problem.row > 0 ? std::string() : problem.text.toStdString();
+        const auto known = contract::recognised(text);
+        if (known &&
+            std::string_view(known->text->key).find("_TAB_MAPPING_") != std::string_view::npos)
+            found << problem;
+    }
+    return found;
+}
+
 void warnOfSystems(const LayerOutcome &outcome)
 {
+    for (const Problem &problem : outcome.mappingProblems)
+        printError(problemText(problem));
     for (const Problem &problem : outcome.systemProblems)
         printError(problemText(problem));
     for (const geodata::PositionFinding &finding : outcome.findings)

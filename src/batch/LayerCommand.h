@@ -34,7 +34,11 @@ struct LayerOutcome
     qint64 unplacedRows = 0;
     QList<Problem> systemProblems; ///< contradictions between the table and the coordinate systems
     QList<geodata::PositionFinding> findings; ///< about all positions
+    QList<Problem> mappingProblems;           ///< of the mapping file
 };
+
+/// The problems of the mapping file among those of a table.
+QList<Problem> mappingProblems(const geodata::LayerProblems &problems);
 
 /// The options for the output, the reading of the table, the coordinate systems and the
 /// representation of pylons.
@@ -52,7 +56,7 @@ std::variant<LayerRequest, ExitStatus> readLayerRequest(const QCommandLineParser
 geodata::SystemPair chosenSystems(const QCommandLineParser &parser,
                                   const geodata::SystemPair &otherwise);
 
-/// The options --sheet, --encoding, --delimiter and --swap-axes.
+/// The options --sheet, --encoding, --delimiter, --swap-axes and --mapping.
 QList<QCommandLineOption> readingOptions();
 
 /// The option for the file that completes a table: --sectors for sites, --sites for links.
@@ -74,7 +78,8 @@ LayerOutcome layerOutcome(const Check &check, const tables::TableFileInfo &file,
 {
     return {check.placement.placed, unplacedRows(check.placement, check.problems),
             tables::systemProblems(file, systems, check.systems),
-            tables::otherProblems(file, systems, check.systems, check.problems).findings};
+            tables::otherProblems(file, systems, check.systems, check.problems).findings,
+            mappingProblems(check.problems)};
 }
 
 /// Writes a finished layer, for "-" to the standard output, and warns if its page is missing.

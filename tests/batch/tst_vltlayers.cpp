@@ -168,6 +168,43 @@ private Q_SLOTS:
         QVERIFY2(wrong.errors.contains("--sites needs --link"), wrong.errors.constData());
     }
 
+    void followsTheMappingOfATable()
+    {
+        const QString table = path(u"cells.csv"_s);
+        writeFile(table, "Title\nSite;Lon;Lat;Azimuth;Bearing\nA;2;48;10;70\n");
+
+        const Run info = start(u"info ../cells.csv --header-row 2 --source-srs 4171 --json "
+                               "--write-mapping"_s);
+        const QByteArray written = readFile(table + u".columns.json"_s);
+        const Run beside = start(u"site ../cells.csv -o a.lay"_s);
+        writeFile(path(u"elsewhere/other.json"_s),
+                  QByteArray(written).replace("\"Azimuth\"", "\"Bearing\""));
+        const Run other = start(u"site ../cells.csv -o b.lay --mapping other.json"_s);
+        const Run reported = start(u"info ../cells.csv --json --mapping other.json"_s);
+        writeFile(table + u".columns.json"_s, "{}");
+        const Run broken = start(u"site ../cells.csv -o c.lay"_s);
+        const Run none = start(u"site ../cells.csv -o c.lay --mapping none"_s);
+        const Run missing = start(u"site ../cells.csv -o c.lay --mapping gone.json"_s);
+
+        QCOMPARE(info.errors, QByteArray());
+        QVERIFY2(info.output.contains("cells.csv.columns.json\""), info.output.constData());
+        QVERIFY2(written.contains("\"sourceSrs\": \"EPSG:4171\"") &&
+                     written.contains("\"azimuth\": \"Azimuth\""),
+                 written.constData());
+        QCOMPARE(beside.errors, QByteArray());
+        const QByteArray first = element(readFile(path(u"elsewhere/a.lay"_s)), "source");
+        QVERIFY2(first.contains("s_srs=4171,") && !first.contains("columns="), first.constData());
+        QCOMPARE(other.errors, QByteArray());
+        const QByteArray second = element(readFile(path(u"elsewhere/b.lay"_s)), "source");
+        QVERIFY2(second.contains(",columns=elsewhere/other.json,"), second.constData());
+        QVERIFY2(reported.output.contains("\"column\": \"Bearing\""), reported.output.constData());
+        QVERIFY2(broken.errors.contains("is not used: it is not a mapping of columns"),
+                 broken.errors.constData());
+        QCOMPARE(broken.status, 0);
+        QCOMPARE(none.errors, QByteArray());
+        QCOMPARE(missing.status, 1);
+    }
+
     void accountsForEveryRow()
     {
         const QByteArray table = "Site ID;Longitude;Latitude;Azimuth\nCh\xE2teau;2,3;48,8;0\n"

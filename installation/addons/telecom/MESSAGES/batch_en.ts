@@ -647,5 +647,37 @@
         <source>--report and --rejects need different files</source>
         <translation>--report and --rejects need different files</translation>
     </message>
+    <message id="MESS_OPT_MAPPING">
+        <source>Mapping file that states the columns of the table, or none (default: the file TABLE.columns.json beside the table).</source>
+        <translation>Mapping file that states the columns of the table, or none (default: the file TABLE.columns.json beside the table).</translation>
+    </message>
+    <message id="MESS_OPT_HEADER_ROW">
+        <source>Rows of the file that name the columns, or none; for the mapping.</source>
+        <translation>Rows of the file that name the columns, or none; for the mapping.</translation>
+    </message>
+    <message id="MESS_OPT_MAPPING_SRS">
+        <source>Coordinate system of the table, as an EPSG code; for the mapping.</source>
+        <translation>Coordinate system of the table, as an EPSG code; for the mapping.</translation>
+    </message>
+    <message id="MESS_OPT_WRITE_MAPPING">
+        <source>Write what was understood as a mapping file, to be corrected: to FILE, else beside the table, else into the user's folder of data.</source>
+        <translation>Write what was understood as a mapping file, to be corrected: to FILE, else beside the table, else into the user's folder of data.</translation>
+    </message>
+    <message id="MESS_USE_HEADER_ROW">
+        <source>numbers of rows from 1 to %1, ascending, or none</source>
+        <translation>numbers of rows from 1 to %1, ascending, or none</translation>
+    </message>
+    <message id="MESS_USE_EPSG">
+        <source>an EPSG code</source>
+        <translation>an EPSG code</translation>
+    </message>
+    <message id="MESS_USE_ONE_MAPPING">
+        <source>--write-mapping with the name of a file can be used with one table only</source>
+        <translation>--write-mapping with the name of a file can be used with one table only</translation>
+    </message>
+    <message id="MESS_CLI_MAPPING">
+        <source>Mapping file written: %1</source>
+        <translation>Mapping file written: %1</translation>
+    </message>
 </context>
 </TS>

@@ -647,5 +647,37 @@
         <source>--report and --rejects need different files</source>
         <translation>--report et --rejects demandent des fichiers différents</translation>
     </message>
+    <message id="MESS_OPT_MAPPING">
+        <source>Mapping file that states the columns of the table, or none (default: the file TABLE.columns.json beside the table).</source>
+        <translation>Fichier de correspondance qui indique les colonnes du tableau, ou none (par défaut&#xa0;: le fichier TABLE.columns.json à côté du tableau).</translation>
+    </message>
+    <message id="MESS_OPT_HEADER_ROW">
+        <source>Rows of the file that name the columns, or none; for the mapping.</source>
+        <translation>Lignes du fichier qui nomment les colonnes, ou none&#xa0;; pour la correspondance.</translation>
+    </message>
+    <message id="MESS_OPT_MAPPING_SRS">
+        <source>Coordinate system of the table, as an EPSG code; for the mapping.</source>
+        <translation>Système de coordonnées du tableau, sous forme de code EPSG&#xa0;; pour la correspondance.</translation>
+    </message>
+    <message id="MESS_OPT_WRITE_MAPPING">
+        <source>Write what was understood as a mapping file, to be corrected: to FILE, else beside the table, else into the user's folder of data.</source>
+        <translation>Écrire ce qui a été compris dans un fichier de correspondance, à corriger&#xa0;: dans FILE, sinon à côté du tableau, sinon dans le dossier de données de l'utilisateur.</translation>
+    </message>
+    <message id="MESS_USE_HEADER_ROW">
+        <source>numbers of rows from 1 to %1, ascending, or none</source>
+        <translation>des numéros de lignes de 1 à %1, croissants, ou none</translation>
+    </message>
+    <message id="MESS_USE_EPSG">
+        <source>an EPSG code</source>
+        <translation>un code EPSG</translation>
+    </message>
+    <message id="MESS_USE_ONE_MAPPING">
+        <source>--write-mapping with the name of a file can be used with one table only</source>
+        <translation>--write-mapping avec le nom d'un fichier ne s'utilise qu'avec un seul tableau</translation>
+    </message>
+    <message id="MESS_CLI_MAPPING">
+        <source>Mapping file written: %1</source>
+        <translation>Fichier de correspondance écrit&#xa0;: %1</translation>
+    </message>
 </context>
 </TS>
