@@ -1,6 +1,7 @@
 #include "plugins/tables/ogr/SiteFates.h"
 
 #include "contract/TableTexts.h"
+#include "plugins/tables/roles/Vocabulary.h"
 #include "plugins/tables/sites/JoinKey.h"
 #include "plugins/tables/sites/PositionRepairs.h"
 
@@ -10,7 +11,8 @@ SiteFates::SiteFates(const TableSource &source)
     : m_source(source)
     , m_reader(source)
     , m_positions(source.facts().table, source.facts().sites().point, source.facts().sites().unit)
-    , m_index(source.facts().table, source.facts().sites().roles, source.facts().sites().unit)
+    , m_index(source.facts().table, source.facts().sites().roles, source.facts().sites().unit,
+              installedVocabulary().words)
 {}
 
 /// The index of the site to which a row belongs, found as when the table was opened.
