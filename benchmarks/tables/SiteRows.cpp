@@ -2,6 +2,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <initializer_list>
 #include <iterator>
 
 namespace vlt::benchmarks {
@@ -70,42 +71,125 @@ std::string siteId(std::int64_t number)
     return text;
 }
 
-} // namespace
+constexpr int TransmittersPerSite = 10;
+constexpr int CellsPerSite = 6;
+constexpr int SectorsPerSite = 3;
 
-Row siteHeader()
+Row texts(std::initializer_list<const char *> names)
 {
     Row row;
-    const char *site[] = {"Site ID", "Site name", "Longitude", "Latitude",
-                          "Transmitter-1 Terrain Height (m)"};
-    std::size_t column = 0;
-    for (const char *name : site)
-        row[column++].text = name;
+    for (const char *name : names)
+        row.push_back({name, false});
+    return row;
+}
+
+Row wideHeader()
+{
+    Row row = texts(
+        {"Site ID", "Site name", "Longitude", "Latitude", "Transmitter-1 Terrain Height (m)"});
     for (int i = 1; i <= TransmittersPerSite; ++i) {
         for (const char *name : {"Sector ID", "height (m)", "Azimuth (°)", "tilt (°)"})
-            row[column++].text = "Transmitter-" + std::to_string(i) + " " + name;
+            row.push_back({"Transmitter-" + std::to_string(i) + " " + name, false});
     }
+    return row;
+}
+
+/// Id, name, longitude, latitude and terrain height of a site.
+Row siteCells(std::int64_t siteNumber, Dice &dice)
+{
+    Row row;
+    row.push_back({siteId(siteNumber), false});
+    row.push_back({siteName(dice), false});
+    row.push_back(number(dice.between(-1'500'000, 7'500'000), 6));
+    row.push_back(number(dice.between(43'000'000, 50'500'000), 6));
+    row.push_back(number(dice.between(0, 15'000), 1));
     return row;
 }
 
 Row siteRow(std::int64_t siteNumber)
 {
     Dice dice(static_cast<std::uint64_t>(siteNumber));
-    const std::string id = siteId(siteNumber);
-    Row row;
-    std::size_t column = 0;
-    row[column++].text = id;
-    row[column++].text = siteName(dice);
-    row[column++] = number(dice.between(-1'500'000, 7'500'000), 6);
-    row[column++] = number(dice.between(43'000'000, 50'500'000), 6);
-    row[column++] = number(dice.between(0, 15'000), 1);
+    return siteCells(siteNumber, dice);
+}
+
+Row wideRow(std::int64_t siteNumber)
+{
+    Dice dice(static_cast<std::uint64_t>(siteNumber));
+    Row row = siteCells(siteNumber, dice);
+    const std::string id = row.front().text;
     const std::int64_t firstAzimuth = dice.between(0, 119);
     for (int i = 1; i <= TransmittersPerSite; ++i) {
-        row[column++].text = id + "_" + std::to_string(i);
-        row[column++] = number(dice.between(120, 600), 1);
-        row[column++] = number((firstAzimuth + 120 * (i - 1)) % 360, 0);
-        row[column++] = number(dice.between(0, 12), 0);
+        row.push_back({id + "_" + std::to_string(i), false});
+        row.push_back(number(dice.between(120, 600), 1));
+        row.push_back(number((firstAzimuth + 120 * (i - 1)) % 360, 0));
+        row.push_back(number(dice.between(0, 12), 0));
     }
     return row;
+}
+
+std::int64_t siteOfCell(std::int64_t cellNumber)
+{
+    return (cellNumber - 1) / CellsPerSite + 1;
+}
+
+/// Id, technology, band, height, azimuth, mechanical and electrical tilt of a cell.
+Row transmitterCells(std::int64_t cellNumber)
+{
+    Dice dice(static_cast<std::uint64_t>(cellNumber));
+    const std::int64_t ofSite = (cellNumber - 1) % CellsPerSite;
+    const std::int64_t sector = ofSite % SectorsPerSite;
+    const bool isUpper = ofSite >= SectorsPerSite;
+    Row row;
+    row.push_back({siteId(siteOfCell(cellNumber)) + "_" + std::to_string(ofSite + 1), false});
+    row.push_back({isUpper ? "5G" : "4G", false});
+    row.push_back({isUpper ? "3500" : "800", true});
+    row.push_back(number(dice.between(120, 600), 1));
+    row.push_back(number(120 * sector + dice.between(0, 119), 0));
+    row.push_back(number(dice.between(0, 12), 0));
+    row.push_back(number(dice.between(0, 80), 1));
+    return row;
+}
+
+Row cellRow(std::int64_t cellNumber)
+{
+    Row row = transmitterCells(cellNumber);
+    row.insert(row.begin() + 1, {siteId(siteOfCell(cellNumber)), false});
+    return row;
+}
+
+Row tallRow(std::int64_t cellNumber)
+{
+    Row row = siteRow(siteOfCell(cellNumber));
+    const Row transmitter = transmitterCells(cellNumber);
+    row.insert(row.end(), transmitter.begin(), transmitter.end());
+    return row;
+}
+
+} // namespace
+
+std::vector<TableShape> tablesOfShape(const std::string &name)
+{
+    const Row site = texts({"Site ID", "Site name", "Longitude", "Latitude", "Ground height (m)"});
+    const Row cell = texts({"Cell", "Site ID", "Technology", "Band (MHz)", "Height (m)",
+                            "Azimuth (°)", "Mechanical tilt (°)", "Electrical tilt (°)"});
+    const TableShape sites{"Sites", site, siteRow, 1};
+    const TableShape cells{"Cells", cell, cellRow, CellsPerSite};
+    if (name == "wide")
+        return {{"Sites", wideHeader(), wideRow, 1}};
+    if (name == "sites")
+        return {sites};
+    if (name == "cells")
+        return {cells};
+    if (name == "joined")
+        return {sites, cells};
+    if (name != "tall")
+        return {};
+    Row both = site;
+    for (const Cell &column : cell) {
+        if (column.text != "Site ID")
+            both.push_back(column);
+    }
+    return {{"Cells", both, tallRow, CellsPerSite}};
 }
 
 } // namespace vlt::benchmarks

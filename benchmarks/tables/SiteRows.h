@@ -1,8 +1,8 @@
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace vlt::benchmarks {
 
@@ -13,15 +13,28 @@ struct Cell
     bool isNumber = false;
 };
 
-constexpr int TransmittersPerSite = 10;
-constexpr int ColumnCount = 5 + 4 * TransmittersPerSite;
-using Row = std::array<Cell, ColumnCount>;
+using Row = std::vector<Cell>;
 
-/// Header of a wide site table: id, name, longitude, latitude and terrain height of the site, then
-/// sector id, height, azimuth and tilt of ten transmitters.
-Row siteHeader();
+/// One table in a file: its header and its rows, which depend on nothing but their number (from 1).
+struct TableShape
+{
+    std::string sheet; ///< name of the sheet in a workbook
+    Row header;
+    Row (*row)(std::int64_t number);
+    std::int64_t rowsPerSite; ///< number of rows of one site
+};
 
-/// The row of the site with this number (from 1). It depends on nothing else.
-Row siteRow(std::int64_t number);
+/// The tables of a shape.
+///
+/// - "wide": a row per site with its id, name, longitude, latitude and terrain height, then sector
+///   id, height, azimuth and tilt of ten transmitters
+/// - "tall": a row per cell, six cells of each site one after the other: site, cell, technology,
+///   band, height, azimuth and tilts
+/// - "sites": a row per site without its cells
+/// - "cells": a row per cell with nothing of its site but the id
+/// - "joined": "sites" and then "cells"
+///
+/// @return  none for any other name
+std::vector<TableShape> tablesOfShape(const std::string &name);
 
 } // namespace vlt::benchmarks

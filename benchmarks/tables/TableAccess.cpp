@@ -8,7 +8,7 @@ namespace vlt::benchmarks {
 
 namespace {
 
-GDALDatasetUniquePtr open(const TableSource &source)
+GDALDatasetUniquePtr open(const std::string &connection, const TableSource &source)
 {
     CPLStringList drivers;
     for (const std::string &driver : source.drivers)
@@ -20,15 +20,15 @@ GDALDatasetUniquePtr open(const TableSource &source)
     const CPLErrorHandlerPusher quiet(CPLQuietErrorHandler); // the message goes into the error
     CPLErrorReset();
     GDALDatasetUniquePtr dataset(GDALDataset::Open(
-        source.connection.c_str(), GDAL_OF_VECTOR | GDAL_OF_READONLY | GDAL_OF_VERBOSE_ERROR,
+        connection.c_str(), GDAL_OF_VECTOR | GDAL_OF_READONLY | GDAL_OF_VERBOSE_ERROR,
         drivers.empty() ? nullptr : drivers.List(), options.empty() ? nullptr : options.List(),
         nullptr));
     if (!dataset)
-        throw std::runtime_error(source.connection + ": " + CPLGetLastErrorMsg() +
+        throw std::runtime_error(connection + ": " + CPLGetLastErrorMsg() +
                                  " (GDAL_DRIVER_PATH is " +
                                  CPLGetConfigOption("GDAL_DRIVER_PATH", "not set") + ")");
     if (dataset->GetLayerCount() < 1)
-        throw std::runtime_error(source.connection + ": no layer");
+        throw std::runtime_error(connection + ": no layer");
     return dataset;
 }
 
@@ -55,46 +55,60 @@ double fieldSum(const OGRFeature &feature, int field, OGRFieldType type)
     }
 }
 
-} // namespace
-
-Measurement openAndCount(const TableSource &source)
+void count(OGRLayer &layer, Measurement &result)
 {
-    const Stopwatch watch;
-    const GDALDatasetUniquePtr dataset = open(source);
-    OGRLayer *layer = dataset->GetLayer(0);
-    const OGRFeatureDefn *definition = layer->GetLayerDefn();
-    Measurement result;
-    result.fields = definition->GetFieldCount();
-    for (int field = 0; field < result.fields; ++field)
+    const OGRFeatureDefn *definition = layer.GetLayerDefn();
+    const int fields = definition->GetFieldCount();
+    for (int field = 0; field < fields; ++field)
         result.checksum +=
             static_cast<double>(std::strlen(definition->GetFieldDefn(field)->GetNameRef()));
-    result.rows = layer->GetFeatureCount(TRUE);
-    result.milliseconds = watch.milliseconds();
-    return result;
+    result.fields += fields;
+    result.rows += layer.GetFeatureCount(TRUE);
 }
 
-Measurement readEverything(const TableSource &source)
+void read(OGRLayer &layer, Measurement &result)
 {
-    const Stopwatch watch;
-    const GDALDatasetUniquePtr dataset = open(source);
-    OGRLayer *layer = dataset->GetLayer(0);
-    const OGRFeatureDefn *definition = layer->GetLayerDefn();
+    const OGRFeatureDefn *definition = layer.GetLayerDefn();
     std::vector<OGRFieldType> types;
     for (int field = 0; field < definition->GetFieldCount(); ++field)
         types.push_back(definition->GetFieldDefn(field)->GetType());
 
-    Measurement result;
-    result.fields = static_cast<int>(types.size());
-    while (const OGRFeatureUniquePtr feature{layer->GetNextFeature()}) {
+    const int fields = static_cast<int>(types.size());
+    result.fields += fields;
+    while (const OGRFeatureUniquePtr feature{layer.GetNextFeature()}) {
         ++result.rows;
-        for (int field = 0; field < result.fields; ++field) {
+        for (int field = 0; field < fields; ++field) {
             if (feature->IsFieldSetAndNotNull(field))
                 result.checksum +=
                     fieldSum(*feature, field, types[static_cast<std::size_t>(field)]);
         }
     }
+}
+
+Measurement measure(const TableSource &source, void (*task)(OGRLayer &, Measurement &))
+{
+    Measurement result;
+    std::vector<GDALDatasetUniquePtr> opened; // closed after the measurement
+    const Stopwatch watch;
+    for (const std::string &connection : source.connections) {
+        opened.push_back(open(connection, source));
+        for (OGRLayer *layer : opened.back()->GetLayers())
+            task(*layer, result);
+    }
     result.milliseconds = watch.milliseconds();
     return result;
+}
+
+} // namespace
+
+Measurement openAndCount(const TableSource &source)
+{
+    return measure(source, count);
+}
+
+Measurement readEverything(const TableSource &source)
+{
+    return measure(source, read);
 }
 
 Measurement openAgain(const TableSource &source)

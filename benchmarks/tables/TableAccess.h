@@ -7,25 +7,27 @@
 
 namespace vlt::benchmarks {
 
-/// A table and how to open it.
+/// One or more tables and how to open them.
 struct TableSource
 {
-    std::string connection;           ///< argument of GDALDataset::Open()
-    std::vector<std::string> drivers; ///< allowed drivers; empty allows all
-    std::vector<std::string> options; ///< open options, "KEY=VALUE"
+    std::vector<std::string> connections; ///< arguments of GDALDataset::Open()
+    std::vector<std::string> drivers;     ///< allowed drivers; empty allows all
+    std::vector<std::string> options;     ///< open options, "KEY=VALUE"
 };
 
-/// Opens the table, reads the definitions of all fields and requests the exact feature count. The
-/// checksum is the sum of the lengths of the field names. Closing is not timed.
+/// Opens each table in turn, reads the definitions of all fields of all layers and requests the
+/// exact feature counts; the numbers are sums. The checksum is the sum of the lengths of the field
+/// names. Closing is not timed.
 /// @par Errors   std::runtime_error with GDAL's message when there is no layer.
 Measurement openAndCount(const TableSource &source);
 
-/// Opens the table and reads every feature and every set field as the type of its definition. The
-/// checksum is the sum of the numbers and, for texts, of the length, the first and the last byte.
+/// Opens each table in turn and reads every feature and every set field of all layers as the type
+/// of its definition. The checksum is the sum of the numbers and, for texts, of the length, the
+/// first and the last byte.
 /// @par Errors   as openAndCount()
 Measurement readEverything(const TableSource &source);
 
-/// openAndCount() after the same table has already been opened and closed once, untimed.
+/// openAndCount() after the same tables have already been opened and closed once, untimed.
 /// @par Errors   as openAndCount()
 Measurement openAgain(const TableSource &source);
 

@@ -87,7 +87,7 @@ private:
 class SpreadsheetMlWriter : public TableWriter
 {
 public:
-    SpreadsheetMlWriter(const std::string &path, std::int64_t rowCount) : m_file(path)
+    SpreadsheetMlWriter(const std::string &path, const Sheet &sheet) : m_file(path)
     {
         m_file.add("<?xml version=\"1.0\"?>\r\n"
                    "<?mso-application progid=\"Excel.Sheet\"?>\r\n"
@@ -101,9 +101,10 @@ public:
                    "   <Alignment ss:Vertical=\"Bottom\"/>\r\n"
                    "  </Style>\r\n"
                    " </Styles>\r\n"
-                   " <Worksheet ss:Name=\"Sites\">\r\n");
-        m_file.add("  <Table ss:ExpandedColumnCount=\"" + std::to_string(ColumnCount) +
-                   "\" ss:ExpandedRowCount=\"" + std::to_string(rowCount) +
+                   " <Worksheet ss:Name=\"" +
+                   sheet.name + "\">\r\n");
+        m_file.add("  <Table ss:ExpandedColumnCount=\"" + std::to_string(sheet.columnCount) +
+                   "\" ss:ExpandedRowCount=\"" + std::to_string(sheet.rowCount) +
                    "\" x:FullColumns=\"1\"\r\n   x:FullRows=\"1\" ss:DefaultRowHeight=\"15\">\r\n");
     }
 
@@ -140,32 +141,28 @@ constexpr char XmlStart[] = "<?xml version=\"1.0\" encoding=\"UTF-8\" standalone
 #define VLT_PACKAGE_NAMESPACE "http://schemas.openxmlformats.org/package/2006"
 #define VLT_SHEET_TYPE "application/vnd.openxmlformats-officedocument.spreadsheetml."
 
-constexpr char ContentTypes[] =
+constexpr char ContentTypesStart[] =
     "<Types xmlns=\"" VLT_PACKAGE_NAMESPACE "/content-types\">"
     "<Default Extension=\"rels\""
     " ContentType=\"application/vnd.openxmlformats-package.relationships+xml\"/>"
     "<Default Extension=\"xml\" ContentType=\"application/xml\"/>"
     "<Override PartName=\"/xl/workbook.xml\""
     " ContentType=\"" VLT_SHEET_TYPE "sheet.main+xml\"/>"
-    "<Override PartName=\"/xl/worksheets/sheet1.xml\""
-    " ContentType=\"" VLT_SHEET_TYPE "worksheet+xml\"/>"
     "<Override PartName=\"/xl/styles.xml\" ContentType=\"" VLT_SHEET_TYPE "styles+xml\"/>"
     "<Override PartName=\"/xl/sharedStrings.xml\""
-    " ContentType=\"" VLT_SHEET_TYPE "sharedStrings+xml\"/></Types>";
+    " ContentType=\"" VLT_SHEET_TYPE "sharedStrings+xml\"/>";
 constexpr char PackageRelations[] =
     "<Relationships xmlns=\"" VLT_PACKAGE_NAMESPACE "/relationships\">"
     "<Relationship Id=\"rId1\" Type=\"" VLT_OFFICE_NAMESPACE "/officeDocument\""
     " Target=\"xl/workbook.xml\"/></Relationships>";
-constexpr char Workbook[] =
-    "<workbook xmlns=\"" VLT_SHEET_NAMESPACE "\" xmlns:r=\"" VLT_OFFICE_NAMESPACE "\">"
-    "<sheets><sheet name=\"Sites\" sheetId=\"1\" r:id=\"rId1\"/></sheets></workbook>";
-constexpr char WorkbookRelations[] =
+constexpr char WorkbookStart[] =
+    "<workbook xmlns=\"" VLT_SHEET_NAMESPACE "\" xmlns:r=\"" VLT_OFFICE_NAMESPACE "\"><sheets>";
+constexpr char WorkbookRelationsStart[] =
     "<Relationships xmlns=\"" VLT_PACKAGE_NAMESPACE "/relationships\">"
-    "<Relationship Id=\"rId3\" Type=\"" VLT_OFFICE_NAMESPACE "/sharedStrings\""
+    "<Relationship Id=\"rIdStrings\" Type=\"" VLT_OFFICE_NAMESPACE "/sharedStrings\""
     " Target=\"sharedStrings.xml\"/>"
-    "<Relationship Id=\"rId2\" Type=\"" VLT_OFFICE_NAMESPACE "/styles\" Target=\"styles.xml\"/>"
-    "<Relationship Id=\"rId1\" Type=\"" VLT_OFFICE_NAMESPACE "/worksheet\""
-    " Target=\"worksheets/sheet1.xml\"/></Relationships>";
+    "<Relationship Id=\"rIdStyles\" Type=\"" VLT_OFFICE_NAMESPACE "/styles\""
+    " Target=\"styles.xml\"/>";
 constexpr char Styles[] =
     "<styleSheet xmlns=\"" VLT_SHEET_NAMESPACE "\">"
     "<fonts count=\"1\"><font><sz val=\"11\"/><name val=\"Sans\"/></font></fonts>"
@@ -227,22 +224,46 @@ private:
 class XlsxWriter : public TableWriter
 {
 public:
-    XlsxWriter(const std::string &path, std::int64_t rowCount) : m_zip(path)
+    XlsxWriter(const std::string &path, std::vector<Sheet> sheets)
+        : m_zip(path)
+        , m_sheets(std::move(sheets))
     {
-        for (int column = 0; column < ColumnCount; ++column)
-            m_letters.push_back(columnLetters(column));
-        addPart("[Content_Types].xml", ContentTypes);
+        std::string types = ContentTypesStart;
+        std::string workbook = WorkbookStart;
+        std::string relations = WorkbookRelationsStart;
+        for (std::size_t i = 0; i < m_sheets.size(); ++i) {
+            const std::string number = std::to_string(i + 1);
+            types += "<Override PartName=\"/xl/worksheets/sheet" + number +
+                     ".xml\" ContentType=\"" VLT_SHEET_TYPE "worksheet+xml\"/>";
+            workbook += "<sheet name=\"" + m_sheets[i].name + "\" sheetId=\"" + number +
+                        "\" r:id=\"rId" + number + "\"/>";
+            relations += "<Relationship Id=\"rId" + number +
+                         "\" Type=\"" VLT_OFFICE_NAMESPACE
+                         "/worksheet\" Target=\"worksheets/sheet" +
+                         number + ".xml\"/>";
+        }
+        addPart("[Content_Types].xml", types + "</Types>");
         addPart("_rels/.rels", PackageRelations);
-        addPart("xl/workbook.xml", Workbook);
-        addPart("xl/_rels/workbook.xml.rels", WorkbookRelations);
-        m_zip.beginEntry("xl/worksheets/sheet1.xml");
+        addPart("xl/workbook.xml", workbook + "</sheets></workbook>");
+        addPart("xl/_rels/workbook.xml.rels", relations + "</Relationships>");
+    }
+
+    void beginSheet() override
+    {
+        endSheet();
+        const Sheet &sheet = m_sheets.at(m_sheet++);
+        m_row = 0;
+        m_letters.clear();
+        for (std::size_t column = 0; column < sheet.columnCount; ++column)
+            m_letters.push_back(columnLetters(static_cast<int>(column)));
+        m_zip.beginEntry("xl/worksheets/sheet" + std::to_string(m_sheet) + ".xml");
         m_pending = XmlStart;
         m_pending +=
             "<worksheet xmlns=\"" VLT_SHEET_NAMESPACE "\" xmlns:r=\"" VLT_OFFICE_NAMESPACE "\""
             " xmlns:mc=\"http://schemas.openxmlformats.org/markup-compatibility/2006\""
             " mc:Ignorable=\"x14ac\" xmlns:x14ac=\"http://schemas.microsoft.com/office/"
             "spreadsheetml/2009/9/ac\"><dimension ref=\"A1:" +
-            m_letters.back() + std::to_string(rowCount) +
+            m_letters.back() + std::to_string(sheet.rowCount) +
             "\"/><sheetViews><sheetView tabSelected=\"1\" workbookViewId=\"0\"/></sheetViews>"
             "<sheetFormatPr defaultRowHeight=\"15\" x14ac:dyDescent=\"0.25\"/><sheetData>";
     }
@@ -250,7 +271,7 @@ public:
     void addRow(const Row &row) override
     {
         const std::string number = std::to_string(++m_row);
-        m_pending += "<row r=\"" + number + "\" spans=\"1:" + std::to_string(ColumnCount) +
+        m_pending += "<row r=\"" + number + "\" spans=\"1:" + std::to_string(row.size()) +
                      "\" x14ac:dyDescent=\"0.25\">";
         for (std::size_t column = 0; column < row.size(); ++column) {
             const Cell &cell = row[column];
@@ -270,22 +291,31 @@ public:
 
     void finish() override
     {
-        m_zip.write(m_pending + "</sheetData><pageMargins left=\"0.7\" right=\"0.7\" top=\"0.75\""
-                                " bottom=\"0.75\" header=\"0.3\" footer=\"0.3\"/></worksheet>");
-        m_zip.endEntry();
+        endSheet();
         addPart("xl/styles.xml", Styles);
         m_strings.writeTo(m_zip);
         m_zip.finish();
     }
 
 private:
-    void addPart(const std::string &name, const char *body)
+    void addPart(const std::string &name, const std::string &body)
     {
-        m_zip.addEntry(name, std::string(XmlStart) + body);
+        m_zip.addEntry(name, XmlStart + body);
+    }
+
+    void endSheet()
+    {
+        if (m_sheet == 0)
+            return;
+        m_zip.write(m_pending + "</sheetData><pageMargins left=\"0.7\" right=\"0.7\" top=\"0.75\""
+                                " bottom=\"0.75\" header=\"0.3\" footer=\"0.3\"/></worksheet>");
+        m_zip.endEntry();
     }
 
     ZipWriter m_zip;
     SharedStrings m_strings;
+    std::vector<Sheet> m_sheets;
+    std::size_t m_sheet = 0; ///< number of the current sheet, from 1
     std::vector<std::string> m_letters;
     std::string m_pending;
     std::int64_t m_row = 0;
@@ -294,14 +324,16 @@ private:
 } // namespace
 
 std::unique_ptr<TableWriter> makeTableWriter(const std::string &format, const std::string &path,
-                                             std::int64_t rowCount)
+                                             const std::vector<Sheet> &sheets)
 {
+    if (format == "xlsx")
+        return std::make_unique<XlsxWriter>(path, sheets);
+    if (sheets.size() != 1)
+        return nullptr;
     if (format == "csv")
         return std::make_unique<CsvWriter>(path);
-    if (format == "xlsx")
-        return std::make_unique<XlsxWriter>(path, rowCount);
     if (format == "xml")
-        return std::make_unique<SpreadsheetMlWriter>(path, rowCount);
+        return std::make_unique<SpreadsheetMlWriter>(path, sheets.front());
     return nullptr;
 }
 

@@ -8,13 +8,15 @@
 #include <gdal.h>
 #include <optional>
 #include <stdexcept>
+#include <vector>
 
 namespace {
 
 using namespace vlt::benchmarks;
 
 constexpr char Usage[] =
-    "usage: bench_tables open|read|reopen CONNECTION [--driver NAME]... [--option KEY=VALUE]...\n"
+    "usage: bench_tables open|read|reopen CONNECTION... [--driver NAME]... "
+    "[--option KEY=VALUE]...\n"
     "       bench_tables expat FILE [--text]\n"
     "       bench_tables register\n"
     "\n"
@@ -39,6 +41,18 @@ struct Arguments
     bool baseline = false;
 };
 
+/// Whether the words are a task and what it needs.
+bool isWhole(const std::vector<std::string> &words)
+{
+    if (words.empty())
+        return false;
+    if (words[0] == "register")
+        return words.size() == 1;
+    if (words[0] == "expat")
+        return words.size() == 2;
+    return words.size() > 1 && (words[0] == "open" || words[0] == "read" || words[0] == "reopen");
+}
+
 std::optional<Arguments> parse(int count, char **values)
 {
     Arguments arguments;
@@ -57,16 +71,10 @@ std::optional<Arguments> parse(int count, char **values)
         else
             plain.push_back(value);
     }
-    const auto isTask = [&plain](const char *name) { return plain[0] == name; };
-    if (plain.size() == 1 && isTask("register")) {
-        arguments.task = plain[0];
-        return arguments;
-    }
-    if (plain.size() != 2 ||
-        !(isTask("open") || isTask("read") || isTask("reopen") || isTask("expat")))
+    if (!isWhole(plain))
         return std::nullopt;
     arguments.task = plain[0];
-    arguments.source.connection = plain[1];
+    arguments.source.connections.assign(plain.begin() + 1, plain.end());
     return arguments;
 }
 
@@ -88,7 +96,7 @@ Measurement perform(const Arguments &arguments)
     if (arguments.task == "register")
         return {};
     if (arguments.task == "expat")
-        return expatPass(arguments.source.connection,
+        return expatPass(arguments.source.connections.front(),
                          arguments.text ? ExpatTask::RowsAndTexts : ExpatTask::Rows);
     if (arguments.task == "open")
         return openAndCount(arguments.source);
