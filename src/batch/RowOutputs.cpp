@@ -17,7 +17,7 @@ const QString Rejects = QStringLiteral("rejects");
 QList<QCommandLineOption> rowOutputOptions()
 {
     return {{Report,
-             dico_label("MESS_OPT_REPORT",
+             dico_label("MESS_OPT_ROW_REPORT",
                         "Write a CSV file with the fate of every row (used, merged into a site, "
                         "left out) and the reasons; of one table."),
              QStringLiteral("FILE.csv")},

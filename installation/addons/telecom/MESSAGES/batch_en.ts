@@ -679,5 +679,9 @@
         <source>Mapping file written: %1</source>
         <translation>Mapping file written: %1</translation>
     </message>
+    <message id="MESS_OPT_ROW_REPORT">
+        <source>Write a CSV file with the fate of every row (used, merged into a site, left out) and the reasons; of one table.</source>
+        <translation>Write a CSV file with the fate of every row (used, merged into a site, left out) and the reasons; of one table.</translation>
+    </message>
 </context>
 </TS>

@@ -679,5 +679,9 @@
         <source>Mapping file written: %1</source>
         <translation>Fichier de correspondance écrit&#xa0;: %1</translation>
     </message>
+    <message id="MESS_OPT_ROW_REPORT">
+        <source>Write a CSV file with the fate of every row (used, merged into a site, left out) and the reasons; of one table.</source>
+        <translation>Écrire un fichier CSV avec le sort de chaque ligne (utilisée, réunie à un site, laissée de côté) et les raisons&#xa0;; pour une seule table.</translation>
+    </message>
 </context>
 </TS>
