@@ -101,11 +101,11 @@ private Q_SLOTS:
             {QStringLiteral("-|10|0|7|-|90|-|7|2|A|6000|11131.949"),
              QStringLiteral("-|10.1|0|7|-|270|-|7|2|B|6200|11131.949")});
         row("ends with words of their own",
-            "Dorsale;Nodo Lat;Nodo Lon;Nodo altezza;Ripresa Lat;Ripresa Lon;Ripresa altezza\n"
-            "7;0;10;30;0;10,1;35\n",
+            "Call sign;Pos. Nodo Lat;Pos. Nodo Lon;Nodo altezza;Pos. Ripresa Lat;Pos. Ripresa Lon;"
+            "Ripresa altezza\nW7;0;10;30;0;10,1;35\n",
             "generic (ends side by side)", "Site ID", {line},
-            {QStringLiteral("-|10|0|-|30|90|-|row 2|2|A|-|11131.949"),
-             QStringLiteral("-|10.1|0|-|35|270|-|row 2|2|B|-|11131.949")});
+            {QStringLiteral("-|10|0|W7|30|90|-|W7|2|A|-|11131.949"),
+             QStringLiteral("-|10.1|0|W7|35|270|-|W7|2|B|-|11131.949")});
         row("one end with a word of its own",
             "Link,Site,Lat,Lon,Antenna height,Client site,Client lat,Client lon,Frequency\n"
             "L,S1,0,10,30,S2,0,10.1,7\n",

@@ -51,7 +51,6 @@ private:
         QString name;
         QString heightM;
         QString frequencyMHz;
-        double lengthM = NAN; ///< between the ends
         double x = NAN;
         double y = NAN;
     };
@@ -64,8 +63,6 @@ private:
             End end = {fieldText(of, u"Link"_s), fieldText(of, u"End"_s),
                        fieldText(of, u"Site ID"_s), fieldText(of, u"Transmitter-1 Height (m)"_s),
                        fieldText(of, u"Frequency (MHz)"_s)};
-            if (const QString length = fieldText(of, u"Link length (m)"_s); !length.isEmpty())
-                end.lengthM = length.toDouble();
             if (const OGRGeometry *geometry = of.GetGeometryRef()) {
                 end.x = geometry->toPoint()->getX();
                 end.y = geometry->toPoint()->getY();

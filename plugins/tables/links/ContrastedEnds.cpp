@@ -75,6 +75,7 @@ public:
                      [](const Group &group) { return group.isWhole(); });
         if (whole.size() != 2)
             return {};
+        removeCommonWords(whole[0], whole[1]);
         FoundEnds ends;
         ends.names = names(whole[0], whole[1]);
         for (std::size_t end = 0; end < ends.points.size(); ++end) {
@@ -101,7 +102,7 @@ private:
                                            });
         if (best == matches.end() || !isCoordinate(best->role))
             return;
-        const std::string own = ownWords(best->rest);
+        const std::string own = ownWords(words);
         const int occurrence = m_occurrences[field];
         auto group = std::find_if(m_groups.begin(), m_groups.end(), [&](const Group &of) {
             return of.words == own && of.occurrence == occurrence;
@@ -120,10 +121,25 @@ private:
 
     static bool isCoordinate(Role role) { return role >= Role::Longitude && role <= Role::Y; }
 
-    /// The words that do not merely say that the position is that of a site.
-    std::string ownWords(const std::string &rest) const
+    /// The words that name neither a coordinate nor a site.
+    std::string ownWords(Words words) const
     {
-        return joined(withoutSite(nameWords(rest)));
+        std::erase_if(words, [this](const std::string &word) {
+            const WordMeaning *meaning = m_vocabulary.find(word);
+            const bool isEnd = meaning && (meaning->isEndA || meaning->isEndB);
+            return meaning && !isEnd && (meaning->isUnit() || namesCoordinate(*meaning));
+        });
+        return joined(withoutSite(std::move(words)));
+    }
+
+    static bool namesCoordinate(const WordMeaning &meaning)
+    {
+        for (int role = static_cast<int>(Role::Longitude); role <= static_cast<int>(Role::Y);
+             ++role) {
+            if (meaning.roles[static_cast<std::size_t>(role)])
+                return true;
+        }
+        return false;
     }
 
     Words withoutSite(Words words) const
@@ -134,6 +150,23 @@ private:
                    !meaning->isEndB;
         });
         return words;
+    }
+
+    /// Columns of other values need not have the words that both positions have.
+    static void removeCommonWords(Group &a, Group &b)
+    {
+        const Words ofA = nameWords(a.words);
+        const Words ofB = nameWords(b.words);
+        const auto difference = [](const Words &words, const Words &others) {
+            Words rest;
+            std::copy_if(words.begin(), words.end(), std::back_inserter(rest),
+                         [&others](const std::string &word) {
+                             return std::find(others.begin(), others.end(), word) == others.end();
+                         });
+            return joined(rest);
+        };
+        a.words = difference(ofA, ofB);
+        b.words = difference(ofB, ofA);
     }
 
     Names names(const Group &a, const Group &b) const

@@ -151,7 +151,18 @@ private:
         for (const NameMatch &match : matchName(words, m_vocabulary)) {
             if (isOfLink(match.role) && (!namesEnd || mayNameEnds(match.role)))
                 addCandidate(field, match, match.role, LinkEndId::None);
+            else if (isIdentifier(match.role) && !namesEnd)
+                addNumberOfLink(field, match);
         }
+    }
+
+    /// An id of no end, such as a call sign, names the link if nothing else does.
+    void addNumberOfLink(int field, const NameMatch &match)
+    {
+        constexpr double Score = 40;
+        const ColumnFacts &facts = factsOfField(field);
+        if (match.strength >= ClearStrength && facts.distinct * 10 >= facts.filled * 8)
+            m_candidates.push_back({field, Role::LinkName, LinkEndId::None, Score});
     }
 
     /// "Start" and "End" may also be times.
