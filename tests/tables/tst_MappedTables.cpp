@@ -89,7 +89,90 @@ private Q_SLOTS:
                  qPrintable(problems));
     }
 
+    void takesTheEndsOfLinksThatAreStated()
+    {
+        m_folder.write("l.csv", "N;P;Q;R;S;T\nL;2;48;3;49;38\n");
+        m_folder.write("l.csv.columns.json",
+                       R"({"version": 1, "kind": "links", "roles": {"xA": "P", "yA": "Q",
+                           "xB": "R", "yB": "S", "linkName": "N", "frequency": "T"}})");
+        const Warnings warnings;
+        const GDALDatasetUniquePtr dataset = m_folder.open("link:", "l.csv");
+        QVERIFY2(dataset, qPrintable(warnings.texts.join(u'\n')));
+        OGRLayer &layer = *dataset->GetLayer(0);
+        const OGRFeatureUniquePtr link(layer.GetNextFeature());
+
+        QCOMPARE(QString::fromStdString(link->GetGeometryRef()->exportToWkt()),
+                 u"LINESTRING (2 48,3 49)"_s);
+        QVERIFY(
+            QByteArray(layer.GetMetadataItem("JSON", "mapping")).contains("\"frequency\": \"T\""));
+    }
+
+    void keepsWhatItRecognised_data()
+    {
+        const Cases<QByteArray, QByteArray, QByteArray> row({"kind", "file", "second"});
+        row("tall", "site", "tall_lte_export.csv");
+        row("tall by name", "site", "tall_drive_test.txt");
+        row("numbered", "site", "wide_azi0.csv");
+        row("equal names", "site", "wide_repeated_names.csv");
+        row("lists", "site", "lists_slash.csv");
+        row("two header rows", "site", "wide_two_headers.csv");
+        row("titles", "site", "header_titles.csv");
+        row("without a header", "site", "headerless_cells.csv");
+        row("in parts", "site", "values_dms_columns.csv");
+        row("pair", "site", "values_pair.csv");
+        row("two sheets", "site", "book_sites_transmitters.xlsx");
+        row("two files", "site", "joined_nodes.csv", "joined_sectors.csv");
+        row("links", "link", "links_tx_rx_pl.csv");
+        row("numbered ends", "link", "links_numbered.csv");
+        row("named ends", "link", "links_named.csv", "links_named_sites.csv");
+        row("links without a header", "link", "links_headerless.csv");
+    }
+    void keepsWhatItRecognised()
+    {
+        QFETCH(QByteArray, kind);
+        QFETCH(QByteArray, file);
+        QFETCH(QByteArray, second);
+        for (const QByteArray &name : {file, second}) {
+            if (!name.isEmpty())
+                m_folder.write(name, readFile(QStringLiteral(VLT_REAL_TABLES "/") +
+                                              QString::fromLatin1(name)));
+        }
+        const QByteArray prefix = kind + ':';
+        const QByteArray options =
+            second.isEmpty() ? second : (kind == "site" ? "sectors=" : "sites=") + second + ',';
+        GDALDatasetUniquePtr dataset = m_folder.open(prefix + options, file);
+        QVERIFY(dataset);
+        const QStringList before = contentOf(*dataset);
+        m_folder.write(file + ".columns.json",
+                       dataset->GetLayer(0)->GetMetadataItem("JSON", "mapping"));
+        dataset = m_folder.open(prefix, file);
+        QVERIFY(dataset);
+
+        QCOMPARE(contentOf(*dataset), before);
+        const char *used = dataset->GetLayer(0)->GetMetadataItem("MAPPING", "roles");
+        QCOMPARE(QByteArray(used), m_folder.path(file + ".columns.json"));
+    }
+
 private:
+    /// The roles without their evidence, the problems and all features.
+    static QStringList contentOf(GDALDataset &dataset)
+    {
+        OGRLayer &layer = *dataset.GetLayer(0);
+        QStringList content = problemsOf(layer);
+        for (char **item = layer.GetMetadata("roles"); item && *item; ++item) {
+            if (!QByteArray(*item).startsWith("MAPPING="))
+                content += QString::fromUtf8(*item).section(u'|', 0, 2);
+        }
+        while (const OGRFeatureUniquePtr feature{layer.GetNextFeature()}) {
+            for (int i = 0; i < feature->GetFieldCount(); ++i)
+                content += QString::fromUtf8(feature->GetFieldDefnRef(i)->GetNameRef()) + u'=' +
+                           QString::fromUtf8(feature->GetFieldAsString(i));
+            if (const OGRGeometry *geometry = feature->GetGeometryRef())
+                content += QString::fromStdString(geometry->exportToWkt());
+        }
+        return content;
+    }
+
     /// The sites with azimuths and heights of their transmitters.
     static QString sitesOf(GDALDataset &dataset)
     {

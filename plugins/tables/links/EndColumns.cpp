@@ -23,14 +23,14 @@ std::vector<std::vector<std::string>> wordsOfColumns(const TableProfile &table,
 }
 
 PointFields findEnd(const Names &names, LinkEndId end, const std::vector<Field> &fields,
-                    const Vocabulary &vocabulary)
+                    const Vocabulary &vocabulary, const StatedRoles &stated = {})
 {
     FieldWords words(names.size());
     for (std::size_t i = 0; i < names.size(); ++i) {
         if (names[i].end == end)
             words[i] = names[i].words;
     }
-    return findPoint(words, fields, vocabulary);
+    return findPoint(words, fields, vocabulary, stated);
 }
 
 bool areNumbered(const Names &names, int a, int b)
@@ -149,6 +149,31 @@ FoundEnds findNamedEnds(const TableProfile &table, const Vocabulary &vocabulary,
         ends.identifiers = {end(LinkEndId::A), end(LinkEndId::B)};
         ends.areNumbered = areNumbered(ends.names, ends.identifiers[0], ends.identifiers[1]);
     });
+}
+
+void stateEnds(FoundEnds &ends, const std::vector<Field> &fields, const Vocabulary &vocabulary,
+               const StatedRoles &stated)
+{
+    for (std::size_t at = 0; at < ends.points.size(); ++at) {
+        const std::string letter = at == 0 ? "A" : "B";
+        StatedRoles ofEnd = {{}, stated.fields, {}};
+        for (const std::string role : {"x", "y", "pair"}) {
+            if (const std::vector<int> *found = stated.find(role + letter))
+                ofEnd.roles.emplace(role, *found);
+        }
+        PointFields &point = ends.points[at];
+        const bool usesOther = std::any_of(stated.fields.begin(), stated.fields.end(),
+                                           [&point](int field) { return point.uses(field); });
+        if (!ofEnd.roles.empty() || usesOther)
+            point = findEnd(ends.names, at == 0 ? LinkEndId::A : LinkEndId::B, fields, vocabulary,
+                            ofEnd);
+        int &identifier = ends.identifiers[at];
+        for (const std::string role : {"siteName", "siteId"}) {
+            const std::vector<int> *found = stated.find(role + letter);
+            if (found && !found->empty())
+                identifier = found->front();
+        }
+    }
 }
 
 bool namesBothEnds(const Header &header, const Vocabulary &vocabulary)

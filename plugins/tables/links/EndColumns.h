@@ -41,6 +41,11 @@ FoundEnds findPlacedEnds(const TableProfile &table, const Vocabulary &vocabulary
 FoundEnds findNamedEnds(const TableProfile &table, const Vocabulary &vocabulary,
                         const SiteDirectory &sites);
 
+/// Gives the ends the coordinates and names that are stated. Of those that are not, none lies in a
+/// stated column.
+void stateEnds(FoundEnds &ends, const std::vector<Field> &fields, const Vocabulary &vocabulary,
+               const StatedRoles &stated);
+
 /// Whether a header has columns of both ends.
 bool namesBothEnds(const Header &header, const Vocabulary &vocabulary);
 

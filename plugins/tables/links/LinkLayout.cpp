@@ -105,10 +105,11 @@ CoordinateUnit commonUnit(CoordinateUnit a, CoordinateUnit b)
 }
 
 /// The layout with these ends, without the unit and system of the positions.
-LinkLayout layoutOf(const TableProfile &table, const FoundEnds &ends, const Vocabulary &vocabulary)
+LinkLayout layoutOf(const TableProfile &table, const FoundEnds &ends, const Vocabulary &vocabulary,
+                    const StatedRoles &stated)
 {
     LinkLayout layout;
-    static_cast<LinkRoles &>(layout) = findLinkRoles(table, ends, vocabulary);
+    static_cast<LinkRoles &>(layout) = findLinkRoles(table, ends, vocabulary, stated);
     layout.format = findFormat(table, ends.areNumbered);
     return layout;
 }
@@ -127,18 +128,29 @@ void setLengthUnit(const TableProfile &table, LinkLayout &layout)
     }
 }
 
-} // namespace
-
-LinkLayout recogniseLinkLayout(const TableProfile &table, const Vocabulary &vocabulary)
+/// The ends with their positions, also those that only a contrast of two positions shows.
+FoundEnds placedEnds(const TableProfile &table, const Vocabulary &vocabulary,
+                     const StatedRoles &stated)
 {
     FoundEnds ends = findPlacedEnds(table, vocabulary);
     if (!ends.found()) {
-        FoundEnds contrasted = findContrastedEnds(table, vocabulary);
-        if (!contrasted.found())
-            refuse(ends, table.fields, vocabulary);
-        ends = std::move(contrasted);
+        if (FoundEnds contrasted = findContrastedEnds(table, vocabulary); contrasted.found())
+            ends = std::move(contrasted);
     }
-    LinkLayout layout = layoutOf(table, ends, vocabulary);
+    stateEnds(ends, table.fields, vocabulary, stated);
+    ends.identifiers = {-1, -1}; // the positions do not come from a table of sites
+    return ends;
+}
+
+} // namespace
+
+LinkLayout recogniseLinkLayout(const TableProfile &table, const Vocabulary &vocabulary,
+                               const StatedRoles &stated)
+{
+    const FoundEnds ends = placedEnds(table, vocabulary, stated);
+    if (!ends.found())
+        refuse(ends, table.fields, vocabulary);
+    LinkLayout layout = layoutOf(table, ends, vocabulary, stated);
     layout.unit = commonUnit(findUnit(ends.points[0], table.fields, vocabulary),
                              findUnit(ends.points[1], table.fields, vocabulary));
     layout.epsg = findEpsg(table, ends.points[0], layout.unit);
@@ -150,20 +162,27 @@ LinkLayout recogniseLinkLayout(const TableProfile &table, const Vocabulary &voca
 std::optional<LinkLayout> recogniseNamedLinks(const TableProfile &table,
                                               const Vocabulary &vocabulary,
                                               const SiteDirectory &sites,
-                                              const TableDeclaration &ofSites)
+                                              const TableDeclaration &ofSites,
+                                              const StatedRoles &stated)
 {
-    const FoundEnds ends = findNamedEnds(table, vocabulary, sites);
+    FoundEnds ends = findNamedEnds(table, vocabulary, sites);
+    stateEnds(ends, table.fields, vocabulary, stated);
     if (!ends.found())
         return std::nullopt;
-    LinkLayout layout = layoutOf(table, ends, vocabulary);
+    LinkLayout layout = layoutOf(table, ends, vocabulary, stated);
     layout.unit = ofSites.unit;
     layout.epsg = ofSites.epsg;
     return layout;
 }
 
-bool holdsLinks(const TableProfile &table, const Vocabulary &vocabulary)
+bool holdsLinks(const TableProfile &table, const Vocabulary &vocabulary, const StatedRoles &stated)
 {
-    return namesBothEnds(table.header, vocabulary) && findPlacedEnds(table, vocabulary).found();
+    FoundEnds ends;
+    if (namesBothEnds(table.header, vocabulary) || stated.find("xA") || stated.find("pairA"))
+        ends = findPlacedEnds(table, vocabulary);
+    if (!ends.names.empty())
+        stateEnds(ends, table.fields, vocabulary, stated);
+    return ends.points[0].found() && ends.points[1].found();
 }
 
 int linkSuitability(const TableProfile &start, const Vocabulary &vocabulary)

@@ -14,10 +14,11 @@ struct LinkLayout : TableDeclaration, LinkRoles
 {
 };
 
-/// Recognises the fields of a table of links. The ends are named by words of the vocabulary or by 1
-/// and 2 (0 and 1), at the start or at the end of the column name. Throws RefusedFile (NoLinks) if
-/// the coordinates of both ends are not found.
-LinkLayout recogniseLinkLayout(const TableProfile &table, const Vocabulary &vocabulary);
+/// Recognises the fields of a table of links that are not stated. The ends are named by words of
+/// the vocabulary or by 1 and 2 (0 and 1), at the start or at the end of the column name. Throws
+/// RefusedFile (NoLinks) if the coordinates of both ends are not found.
+LinkLayout recogniseLinkLayout(const TableProfile &table, const Vocabulary &vocabulary,
+                               const StatedRoles &stated = {});
 
 /// Recognises the fields of a table of links whose ends are only named. Nothing if there are no
 /// columns of both ends with ids or names of the sites.
@@ -26,7 +27,8 @@ LinkLayout recogniseLinkLayout(const TableProfile &table, const Vocabulary &voca
 std::optional<LinkLayout> recogniseNamedLinks(const TableProfile &table,
                                               const Vocabulary &vocabulary,
                                               const SiteDirectory &sites,
-                                              const TableDeclaration &ofSites);
+                                              const TableDeclaration &ofSites,
+                                              const StatedRoles &stated = {});
 
 /// How well the start of a sheet suits a table of links, from 0 to HighestLinkSuitability: it has
 /// the positions of both ends or at least columns of both, it has more rows than a legend.
@@ -34,6 +36,7 @@ constexpr int HighestLinkSuitability = 5;
 int linkSuitability(const TableProfile &start, const Vocabulary &vocabulary);
 
 /// Whether a table has the positions of both ends of links.
-bool holdsLinks(const TableProfile &table, const Vocabulary &vocabulary);
+bool holdsLinks(const TableProfile &table, const Vocabulary &vocabulary,
+                const StatedRoles &stated = {});
 
 } // namespace vlt::driver

@@ -76,6 +76,20 @@ bool isDate(std::string_view text)
     return second != std::string_view::npos && second > first + 1 && text[second] == text[first];
 }
 
+/// The role and end of a name of a mapping: frequencyA, lengthLink; no role if links have none of
+/// that name, or if it is one of the position.
+std::pair<Role, LinkEndId> statedRole(std::string_view name)
+{
+    if (name == LinkColumnRole{-1, Role::Length, LinkEndId::None, {}}.name())
+        return {Role::Length, LinkEndId::None};
+    const Role ofLink = roleOfName(name);
+    if (ofLink != Role::None)
+        return {isOfLink(ofLink) ? ofLink : Role::None, LinkEndId::None};
+    const LinkEndId end = name.ends_with('A') ? LinkEndId::A : LinkEndId::B;
+    name.remove_suffix(name.empty() ? 0 : 1);
+    return {roleOfEnd(roleOfName(name)), end};
+}
+
 /// A role that a field may have.
 struct Candidate
 {
@@ -88,10 +102,12 @@ struct Candidate
 class Finder
 {
 public:
-    Finder(const TableProfile &table, const FoundEnds &ends, const Vocabulary &vocabulary)
+    Finder(const TableProfile &table, const FoundEnds &ends, const Vocabulary &vocabulary,
+           const StatedRoles &stated)
         : m_table(table)
         , m_ends(ends)
         , m_vocabulary(vocabulary)
+        , m_stated(stated)
         , m_facts(table.fields.size())
     {}
 
@@ -99,9 +115,11 @@ public:
     {
         for (std::size_t i = 0; i < m_table.fields.size(); ++i) {
             const int field = static_cast<int>(i);
-            if (!m_ends.points[0].uses(field) && !m_ends.points[1].uses(field))
+            if (!m_ends.points[0].uses(field) && !m_ends.points[1].uses(field) &&
+                !m_stated.fields.contains(field))
                 addCandidates(field);
         }
+        useStated();
         assign();
         for (std::size_t end = 0; end < m_roles.ends.size(); ++end)
             fillEnd(end);
@@ -144,6 +162,24 @@ private:
         addLinkCandidates(field, allWords(field), name.end != LinkEndId::None);
         if (name.end != LinkEndId::None)
             addLinkCandidates(field, withoutEnds(allWords(field), m_vocabulary), true);
+    }
+
+    /// Lets no other column have a stated role.
+    void useStated()
+    {
+        std::erase_if(m_candidates, [this](const Candidate &candidate) {
+            return m_stated.find(
+                       LinkColumnRole{candidate.field, candidate.role, candidate.end, {}}.name()) !=
+                   nullptr;
+        });
+        constexpr double Certain = 1e6; // more than any name has
+        for (const auto &[name, fields] : m_stated.roles) {
+            const auto [role, end] = statedRole(name);
+            for (const int field : fields) {
+                if (field >= 0 && role != Role::None)
+                    m_candidates.push_back({field, role, end, Certain});
+            }
+        }
     }
 
     void addLinkCandidates(int field, const Words &words, bool namesEnd)
@@ -233,6 +269,8 @@ private:
 
     std::string evidenceOf(int field, Role role)
     {
+        if (m_stated.fields.contains(field))
+            return m_stated.evidence;
         return m_table.header.rows.empty()
                    ? contract::formatted("MESS_TAB_EVIDENCE_NO_HEADER")
                    : roleEvidence(m_table.nameInHeader(field), role, factsOfField(field));
@@ -354,6 +392,7 @@ private:
     const TableProfile &m_table;
     const FoundEnds &m_ends;
     const Vocabulary &m_vocabulary;
+    const StatedRoles &m_stated;
     std::vector<std::optional<ColumnFacts>> m_facts;
     std::vector<Candidate> m_candidates;
     LinkRoles m_roles;
@@ -370,9 +409,9 @@ std::string LinkColumnRole::name() const
 }
 
 LinkRoles findLinkRoles(const TableProfile &table, const FoundEnds &ends,
-                        const Vocabulary &vocabulary)
+                        const Vocabulary &vocabulary, const StatedRoles &stated)
 {
-    return Finder(table, ends, vocabulary).find();
+    return Finder(table, ends, vocabulary, stated).find();
 }
 
 } // namespace vlt::driver

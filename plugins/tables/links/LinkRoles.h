@@ -50,8 +50,9 @@ struct LinkRoles
     std::vector<LinkColumnRole> columns; ///< those of positions first, then by field
 };
 
-/// Finds the roles by the words of the header, and by the sampled values where a name says little.
+/// Finds the roles by the words of the header, and by the sampled values where a name says little,
+/// as far as they are not stated.
 LinkRoles findLinkRoles(const TableProfile &table, const FoundEnds &ends,
-                        const Vocabulary &vocabulary);
+                        const Vocabulary &vocabulary, const StatedRoles &stated);
 
 } // namespace vlt::driver

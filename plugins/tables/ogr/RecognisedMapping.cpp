@@ -36,19 +36,29 @@ void addPoint(contract::ColumnMapping &mapping, const TableProfile &table, const
         mapping.roles["pair" + end] = {nameOf(table, point.pair)};
 }
 
+/// Whether a column has the ids of sectors, but the names of sites are taken for them.
+bool isReplaced(const ColumnRole &column, const SiteRoles &roles)
+{
+    return column.role == Role::SectorId &&
+           std::any_of(roles.transmitters.begin(), roles.transmitters.end(),
+                       [&roles](const TransmitterFields &of) {
+                           return of.sectorId >= 0 && of.sectorId == roles.siteName;
+                       });
+}
+
 /// The other roles of sites; those of transmitters in the order of their numbers.
-void addRoles(contract::ColumnMapping &mapping, const TableProfile &table,
-              const std::vector<ColumnRole> &columns)
+void addRoles(contract::ColumnMapping &mapping, const TableProfile &table, const SiteRoles &roles)
 {
     std::vector<int> numbers;
-    for (const ColumnRole &column : columns) {
+    for (const ColumnRole &column : roles.columns) {
         if (column.sector >= 0)
             numbers.push_back(column.sector);
     }
     std::sort(numbers.begin(), numbers.end());
     numbers.erase(std::unique(numbers.begin(), numbers.end()), numbers.end());
-    for (const ColumnRole &column : columns) {
-        if (column.role == Role::X || column.role == Role::Y || column.role == Role::Pair)
+    for (const ColumnRole &column : roles.columns) {
+        if (column.role == Role::X || column.role == Role::Y || column.role == Role::Pair ||
+            isReplaced(column, roles))
             continue;
         StatedColumns &stated = mapping.roles[std::string(roleName(column.role))];
         if (column.sector < 0) {
@@ -87,14 +97,22 @@ contract::ColumnMapping recognisedMapping(const TableFile &file)
     if (!options.second.empty())
         (options.kind == contract::TableKind::Sites ? mapping.sectors : mapping.sites) =
             relativeTo(file.path(), options.second);
-    const SiteLayout *sites = std::get_if<SiteLayout>(&facts.layout);
-    if (!sites)
+    const auto addNamed = [&](PointFields point, const std::string &end) {
+        if (options.swapsAxes) // as the names say
+            point.swapAxes();
+        addPoint(mapping, facts.table, point, end);
+    };
+    if (const SiteLayout *sites = std::get_if<SiteLayout>(&facts.layout)) {
+        addNamed(sites->point, {});
+        addRoles(mapping, facts.table, sites->roles);
         return mapping;
-    PointFields point = sites->point;
-    if (options.swapsAxes) // as the names say
-        point.swapAxes();
-    addPoint(mapping, facts.table, point, {});
-    addRoles(mapping, facts.table, sites->roles.columns);
+    }
+    addNamed(facts.links().ends[0].point, "A");
+    addNamed(facts.links().ends[1].point, "B");
+    for (const LinkColumnRole &column : facts.links().columns) {
+        if (column.role != Role::X && column.role != Role::Y && column.role != Role::Pair)
+            mapping.roles[column.name()].push_back(nameOf(facts.table, column.field));
+    }
     return mapping;
 }
 

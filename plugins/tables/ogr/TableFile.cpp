@@ -194,7 +194,7 @@ void TableFile::recognise(TableFacts &facts, const TableProfile &profile)
         mapping, m_options.kind, profile, fileName(m_options.mapping.path), facts.mappingProblems);
     const bool links = m_options.kind == contract::TableKind::Links;
     if (links)
-        readLinks(facts, profile);
+        readLinks(facts, profile, stated);
     else
         facts.layout = recogniseSiteLayout(profile, installedVocabulary().words, stated);
     if (m_options.swapsAxes)
@@ -207,10 +207,10 @@ void TableFile::recognise(TableFacts &facts, const TableProfile &profile)
 
 /// Finds the columns of links. If their ends are only named, the positions come from the second
 /// file, or from another sheet of the workbook.
-void TableFile::readLinks(TableFacts &facts, const TableProfile &profile)
+void TableFile::readLinks(TableFacts &facts, const TableProfile &profile, const StatedRoles &stated)
 {
     const Vocabulary &vocabulary = installedVocabulary().words;
-    const bool isComplete = holdsLinks(profile, vocabulary);
+    const bool isComplete = holdsLinks(profile, vocabulary, stated);
     if (m_secondFile && isComplete)
         facts.joinProblems.add(
             {0,
@@ -221,9 +221,9 @@ void TableFile::readLinks(TableFacts &facts, const TableProfile &profile)
     std::optional<EndSites> sites = second ? readEndSites(*second) : std::nullopt;
     if (m_secondFile && !isComplete && !sites)
         refuseSecond("MESS_TAB_NO_NAMED_SITES");
-    const auto named =
-        sites ? recogniseNamedLinks(profile, vocabulary, *sites->directory, sites->declaration)
-              : std::nullopt;
+    const auto named = sites ? recogniseNamedLinks(profile, vocabulary, *sites->directory,
+                                                   sites->declaration, stated)
+                             : std::nullopt;
     if (named) {
         facts.layout = *named;
         facts.endSites = sites->directory;
@@ -231,7 +231,7 @@ void TableFile::readLinks(TableFacts &facts, const TableProfile &profile)
     } else if (m_secondFile && !isComplete)
         refuseSecond("MESS_TAB_NO_END_SITES");
     else
-        facts.layout = recogniseLinkLayout(profile, vocabulary);
+        facts.layout = recogniseLinkLayout(profile, vocabulary, stated);
 }
 
 /// Reads all rows if the number of transmitters or the rows of a site are not known before.

@@ -98,7 +98,7 @@ private:
     Table readByMapping(std::vector<RowProblem> &problems) const;
     void recognise(TableFacts &facts, const TableProfile &profile);
     void readSites(TableFacts &facts);
-    void readLinks(TableFacts &facts, const TableProfile &profile);
+    void readLinks(TableFacts &facts, const TableProfile &profile, const StatedRoles &stated);
     bool joinTransmitters(TableFacts &facts);
     std::optional<SecondTable> otherSheet(Suitability suitability) const;
     [[noreturn]] void refuseSecond(contract::TableTextId why) const;

@@ -24,11 +24,17 @@ bool isRoleOf(contract::TableKind kind, std::string_view name)
 {
     if (kind == contract::TableKind::Sites)
         return isRoleOfSites(name);
-    if (!name.ends_with('A') && !name.ends_with('B'))
-        return roleOfName(name) != Role::None;
-    name.remove_suffix(1);
-    return isRoleOfSites(name) || name == roleName(Role::OffsetX) ||
-           name == roleName(Role::OffsetY) || name == roleName(Role::Diameter);
+    constexpr std::string_view OfLinks[] = {"linkName", "lengthLink", "frequency",
+                                            "band",     "diameter",   "repeater"};
+    constexpr std::string_view OfEnds[] = {
+        "siteId",        "siteName",       "x",       "y",    "pair",      "groundHeight",
+        "antennaHeight", "seaLevelHeight", "azimuth", "tilt", "frequency", "offsetX",
+        "offsetY",       "diameter"};
+    const auto isIn = [](const auto &names, std::string_view of) {
+        return std::find(std::begin(names), std::end(names), of) != std::end(names);
+    };
+    const bool isOfEnd = name.ends_with('A') || name.ends_with('B');
+    return isIn(OfLinks, name) || (isOfEnd && isIn(OfEnds, name.substr(0, name.size() - 1)));
 }
 
 /// Texts for a problem: "a", "b".
