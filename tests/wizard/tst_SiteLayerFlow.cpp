@@ -5,6 +5,7 @@
 #include "support/Cases.h"
 #include "support/Files.h"
 #include "support/Patience.h"
+#include "tables/RoleModel.h"
 #include "wizard/LayerFlow.h"
 #include "wizard/base/TemporaryLayerFile.h"
 
@@ -14,6 +15,7 @@
 #include <QSlider>
 #include <QTableView>
 #include <QToolButton>
+#include <QTreeView>
 
 using namespace Qt::StringLiterals;
 using namespace layerflow;
@@ -39,7 +41,11 @@ class tst_SiteLayerFlow : public QObject
     QTemporaryDir m_dir;
 
 private Q_SLOTS:
-    void initTestCase() { QVERIFY(makeInstallation()); }
+    void initTestCase()
+    {
+        QVERIFY(makeInstallation());
+        QVERIFY(qputenv("XDG_DATA_HOME", QFile::encodeName(m_dir.filePath(u"data"_s))));
+    }
     void init() { forgetSettings(); }
 
     void makesTheLayerOfTheCommandLine_data()
@@ -253,6 +259,60 @@ private Q_SLOTS:
         QVERIFY(!table->isVisible());
         QTest::keyClick(flow.widget<QToolButton>(u"m_pwTbFold"_s), Qt::Key_Space);
         QVERIFY(table->isVisible());
+    }
+
+    void followsTheColumnsThatTheUserChooses_data()
+    {
+        const Cases<QString, QString, QString, bool> row(
+            {"meaning", "column", "summary", "hasLayer"});
+        row("no azimuth, no transmitters", "Azimuth", "none", "sites placed: 4 of 4", true);
+        row("another azimuth", "Azimuth", "Old", "sites placed: 2 of 2", true);
+        row("no latitude", "Y coordinate", "none", "no site can be placed", false);
+    }
+
+    void followsTheColumnsThatTheUserChooses()
+    {
+        QFETCH(QString, meaning);
+        QFETCH(QString, column);
+        QFETCH(QString, summary);
+        QFETCH(bool, hasLayer);
+        const QString table =
+            writeFile(m_dir.filePath(u"chosen.csv"_s), "Site;Longitude;Latitude;Azimuth;Old\n"
+                                                       "a;-3.3;47.7;0;10\na;-3.3;47.7;120;130\n"
+                                                       "b;-3.4;47.8;0;10\nb;-3.4;47.8;120;130\n");
+        WizardOnSitePage flow;
+        dropFiles(flow.page, {table});
+        auto *model = qobject_cast<vlt::tables::RoleModel *>(
+            flow.widget<QTreeView>(u"m_pwTrRoles"_s)->model());
+        const auto chosen = [&] {
+            const QModelIndex role =
+                model->match(model->index(0, 0), Qt::DisplayRole, meaning).value(0);
+            return role.siblingAtColumn(vlt::tables::RoleModel::Name);
+        };
+        const auto *fold = flow.widget<QToolButton>(u"m_pwTbFold"_s);
+        QTRY_VERIFY_WITH_TIMEOUT(fold->text().contains(u"sites placed: 2 of 2"_s), PatienceMs);
+        const QByteArray before = readFile(flow.icon->layerFile());
+
+        QVERIFY(model->setData(chosen(), model->choices(chosen()).indexOf(column), Qt::EditRole));
+
+        QTRY_COMPARE_WITH_TIMEOUT(chosen().data(), column, PatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(fold->text().contains(summary), PatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(flow.icon->isEnabled(), hasLayer, PatienceMs);
+        QCOMPARE(hasLayer && readFile(flow.icon->layerFile()).contains("columns="), hasLayer);
+        QVERIFY(!QFile::exists(table + u".columns.json"_s));
+
+        auto *save = flow.widget<QAbstractButton>(u"m_pwPbSaveMapping"_s);
+        save->click();
+        QTRY_VERIFY_WITH_TIMEOUT(!save->isEnabled() && fold->text().contains(summary), PatienceMs);
+        QVERIFY(QFile::exists(table + u".columns.json"_s));
+        QVERIFY(!hasLayer || !readFile(flow.icon->layerFile()).contains("columns="));
+
+        flow.widget<QAbstractButton>(u"m_pwPbResetMapping"_s)->click();
+        QTRY_VERIFY_WITH_TIMEOUT(save->isEnabled(), PatienceMs); // the file there is to go
+        save->click();
+        QTRY_VERIFY_WITH_TIMEOUT(fold->text().contains(u"sites placed: 2 of 2"_s), PatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(readFile(flow.icon->layerFile()), before, PatienceMs);
+        QVERIFY(!QFile::exists(table + u".columns.json"_s));
     }
 
     void makesNoLayerForASystemThatPlacesNothing_data()

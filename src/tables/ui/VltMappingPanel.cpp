@@ -159,6 +159,12 @@ int VltMappingPanel::columnsFound() const
     return m_roles->columnsFound();
 }
 
+int VltMappingPanel::heightForWidth(int width) const
+{
+    const bool isIgnored = sizePolicy().verticalPolicy() == QSizePolicy::Ignored;
+    return isIgnored ? 0 : QWidget::heightForWidth(width);
+}
+
 void VltMappingPanel::showTable(const vlt::tables::UnderstoodTable &table, const MappingFile &file)
 {
     QTreeView *view = m_ui->m_pwTrRoles;
