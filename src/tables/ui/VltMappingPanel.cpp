@@ -159,10 +159,10 @@ int VltMappingPanel::columnsFound() const
     return m_roles->columnsFound();
 }
 
-int VltMappingPanel::heightForWidth(int width) const
+QSize VltMappingPanel::sizeHint() const
 {
     const bool isIgnored = sizePolicy().verticalPolicy() == QSizePolicy::Ignored;
-    return isIgnored ? 0 : QWidget::heightForWidth(width);
+    return isIgnored ? QSize() : QWidget::sizeHint();
 }
 
 void VltMappingPanel::showTable(const vlt::tables::UnderstoodTable &table, const MappingFile &file)

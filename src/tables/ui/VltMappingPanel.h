@@ -32,8 +32,8 @@ public:
     /// The number of columns that have a role.
     int columnsFound() const;
 
-    /// 0 while the panel is an ignored tab: the current one alone determines the height.
-    int heightForWidth(int width) const override;
+    /// No size while the panel is an ignored tab: the current one alone determines the height.
+    QSize sizeHint() const override;
 
 Q_SIGNALS:
     void mappingChosen(const vlt::contract::ColumnMapping &mapping);
