@@ -69,7 +69,62 @@ private Q_SLOTS:
             QVERIFY2(found.contains(problem), qPrintable(problem));
     }
 
+    void findsTheRoles_data() { addTables(u"sites"_s); }
+    void findsTheRoles()
+    {
+        QFETCH(QJsonObject, table);
+        const Warnings warnings;
+        const GDALDatasetUniquePtr dataset = open(table, "site:");
+        QVERIFY(dataset);
+        const QMap<QString, QStringList> found = rolesOf(*dataset->GetLayer(0));
+        const QJsonObject expected = table.value(u"roles"_s).toObject();
+        // a table without a header has names by roles
+        if (m_notYet.contains(table.value(u"file"_s).toString()) ||
+            table.value(u"headerRows"_s).toArray().isEmpty())
+            return;
+
+        for (auto role = expected.begin(); role != expected.end(); ++role) {
+            const QString name = role.key().section(u"Parts"_s, 0, 0);
+            QStringList columns = found.value(name);
+            // a column that names the sites is their id or their name; a join chooses its own
+            const bool isName = name == u"siteId" || name == u"siteName";
+            const QString other = name == u"siteId" ? u"siteName"_s : u"siteId"_s;
+            if (isName && table.value(u"shape"_s) == u"joined"_s)
+                continue;
+            if (isName && columns.isEmpty() && !role.value().isNull() && !expected.contains(other))
+                columns = found.value(other);
+            QCOMPARE(name + u": "_s + columns.join(u';'),
+                     name + u": "_s + columnsIn(role.value()).join(u';'));
+        }
+    }
+
 private:
+    /// Columns by role, in the order of the table.
+    static QMap<QString, QStringList> rolesOf(OGRLayer &layer)
+    {
+        QMap<QString, QStringList> roles;
+        char **items = layer.GetMetadata("roles");
+        for (char **item = items; item && *item; ++item) {
+            const QStringList parts = QString::fromUtf8(*item).section(u'=', 1).split(u'|');
+            if (STARTS_WITH(*item, "ROLE_"))
+                roles[parts[0] == u"tilt" ? u"mechanicalTilt"_s : parts[0]] +=
+                    parts[2].simplified();
+        }
+        return roles;
+    }
+
+    /// The columns that an expectation names: none, one or several.
+    static QStringList columnsIn(const QJsonValue &value)
+    {
+        QStringList columns;
+        const QJsonArray array = value.isArray() ? value.toArray() : QJsonArray{value};
+        for (const QJsonValue &column : array) {
+            if (column.isString())
+                columns += column.toString().simplified();
+        }
+        return columns;
+    }
+
     /// The kinds of problems that concern the positions of a table as a whole.
     static QStringList mistakesExpectedOf(const QJsonObject &table)
     {
