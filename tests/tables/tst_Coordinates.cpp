@@ -81,6 +81,9 @@ private Q_SLOTS:
         row("Dutch east", "3.37° OL", true, 3.37);
         row("Polish north", "50°30' północ", false, 50.5);
         row("Swedish west, shortened", "3.37 väs", true, -3.37);
+        row("dashes", "48-51-24 S", false, -48.8566667);
+        row("dots", "48.51.24,0", false, 48.8566667);
+        row("words", "N 48 deg 51 min 24.0 sec", false, 48.8566667);
         row("minus and parts", "-0 30 0", true, -0.5);
     }
     void readsAngles()
@@ -98,9 +101,10 @@ private Q_SLOTS:
     void refusesWhatIsNoAngle_data()
     {
         const Cases<QByteArray> row({"text"});
-        for (const char *text : {"", "-", "north", "48.85 E", "48 61 00", "48 51 60", "48.5 30 N",
-                                 "1 2 3 4", "3.37 O", "-3.37 W", "3.37 Ouest", "48.85 noon",
-                                 "48.85 po", "48.8.5", "1e5x", "12/05/2020", "NaN", "10 N 20 S"})
+        for (const char *text :
+             {"",        "-",        "north",   "48.85 E",    "48 61 00",   "48 51 60", "48.5 30 N",
+              "1 2 3 4", "3.37 O",   "-3.37 W", "3.37 Ouest", "48.85 noon", "48.85 po", "48.8.5",
+              "48-51",   "48.51.60", "1e5x",    "12/05/2020", "NaN",        "10 N 20 S"})
             row(*text ? text : "empty", text);
     }
     void refusesWhatIsNoAngle()

@@ -2,6 +2,7 @@
 
 #include "plugins/tables/cells/Cell.h"
 #include "plugins/tables/cells/Numbers.h"
+#include "plugins/tables/table/HeaderWords.h"
 
 #include <algorithm>
 #include <array>
@@ -81,7 +82,55 @@ struct Parts
 {
     std::array<std::string_view, 3> texts;
     int count = 0;
+
+    bool add(std::string_view text)
+    {
+        if (count == 3)
+            return false;
+        texts[static_cast<std::size_t>(count++)] = text;
+        return true;
+    }
 };
+
+bool isDigitAt(std::string_view text, std::size_t at)
+{
+    return at < text.size() && text[at] >= '0' && text[at] <= '9';
+}
+
+/// Size of the degrees and the point behind them in 45.12.33,2, which has two digits for minutes
+/// and seconds each; 0 for other texts.
+std::size_t dottedDegreesSize(std::string_view text)
+{
+    const std::size_t dot = text.find('.');
+    if (dot == 0 || dot > 3 || dot == text.npos || text.size() < dot + 6)
+        return 0;
+    const std::string_view rest = text.substr(dot + 1);
+    const bool isDotted = isDigitAt(rest, 0) && isDigitAt(rest, 1) && rest[2] == '.' &&
+                          isDigitAt(rest, 3) && isDigitAt(rest, 4) && !isDigitAt(rest, 5);
+    return isDotted ? dot + 1 : 0;
+}
+
+/// Adds a number, or the three in 45.12.33,2. False if there are too many.
+bool addNumber(Parts &parts, std::string_view text)
+{
+    constexpr std::size_t MinutesSize = 2;
+    const std::size_t size = parts.count == 0 ? dottedDegreesSize(text) : 0;
+    if (size == 0)
+        return parts.add(text);
+    parts.add(text.substr(0, size - 1));
+    parts.add(text.substr(size, MinutesSize));
+    return parts.add(text.substr(size + MinutesSize + 1));
+}
+
+/// Size of the word for degrees, minutes or seconds at the start of a text; 0 for none.
+std::size_t unitWordSize(std::string_view text)
+{
+    const auto end = std::find_if_not(text.begin(), text.end(), isLetter);
+    const std::string word = lowerCase(std::string_view(text.begin(), end));
+    static constexpr std::array<std::string_view, 7> Words = {"deg", "degrees", "min",    "minutes",
+                                                              "sec", "secs",    "seconds"};
+    return std::find(Words.begin(), Words.end(), word) == Words.end() ? 0 : word.size();
+}
 
 Angle assemble(const Parts &parts, bool negative, int sign)
 {
@@ -115,6 +164,7 @@ Angle readAngle(std::string_view text, Axis axis, LetterO letterO)
     Parts parts;
     int sign = 0;
     bool negative = false;
+    bool hasDashes = false;
     bool unitLetters = false; ///< as in 48d51m24s, where the s is not a hemisphere
     for (std::size_t at = 0; at < text.size();) {
         const Mark *mark = markAt(text.substr(at));
@@ -123,12 +173,17 @@ Angle readAngle(std::string_view text, Axis axis, LetterO letterO)
             const std::size_t begin = at;
             while (at < text.size() && isNumberByte(text[at]))
                 ++at;
-            if (parts.count == 3)
+            if (!addNumber(parts, text.substr(begin, at - begin)))
                 return fault("MESS_TAB_MANY_PARTS");
-            parts.texts[static_cast<std::size_t>(parts.count++)] = text.substr(begin, at - begin);
             continue;
         }
-        if (c == '-' || c == '+') {
+        if (const std::size_t size = parts.count > 0 ? unitWordSize(text.substr(at)) : 0) {
+            at += size;
+            continue;
+        }
+        if (c == '-' && parts.count > 0 && isDigitAt(text, at - 1) && isDigitAt(text, at + 1))
+            hasDashes = true; // 82-54-11 W
+        else if (c == '-' || c == '+') {
             if (parts.count > 0 || negative)
                 return fault("MESS_TAB_NOT_AN_ANGLE");
             negative = c == '-';
@@ -151,7 +206,9 @@ Angle readAngle(std::string_view text, Axis axis, LetterO letterO)
             return fault("MESS_TAB_NOT_AN_ANGLE");
         at += mark ? mark->bytes.size() : 1;
     }
-    return parts.count == 0 ? fault("MESS_TAB_NOT_AN_ANGLE") : assemble(parts, negative, sign);
+    if (parts.count == 0 || (hasDashes && parts.count < 3)) // 18-23 is a range
+        return fault("MESS_TAB_NOT_AN_ANGLE");
+    return assemble(parts, negative, sign);
 }
 
 Angle joinAngle(std::string_view degrees, std::string_view minutes, std::string_view seconds,
