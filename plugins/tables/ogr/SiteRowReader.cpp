@@ -16,7 +16,10 @@ SiteRow SiteRowReader::read(int64_t row, const std::vector<const Cell *> &cells,
                             std::vector<RowProblem> &problems) const
 {
     SiteRow site;
-    site.inFile = m_positions.read(row, cells, problems);
+    // a row that continues a site, as merged cells do, needs no position
+    const bool continues = m_facts->siteIndex && !m_facts->siteIndex->beginningIn(row);
+    if (!continues || !m_positions.isEmpty(cells))
+        site.inFile = m_positions.read(row, cells, problems);
     const std::size_t before = problems.size();
     site.transmitters = m_transmitters.read(row, cells, problems);
     site.losesTransmitters = problems.size() > before && !hasTransmitters(site.transmitters);

@@ -121,6 +121,16 @@ std::optional<TableTextId> PositionReader::outsideGlobe(double value, Axis axis)
     return axis == Axis::X ? TableTextId("MESS_TAB_LONGITUDE") : TableTextId("MESS_TAB_LATITUDE");
 }
 
+bool PositionReader::isEmpty(const std::vector<const Cell *> &cells) const
+{
+    for (std::size_t field = 0; field < cells.size(); ++field) {
+        if (m_fields.uses(static_cast<int>(field)) &&
+            !fieldText(cells, static_cast<int>(field)).empty())
+            return false;
+    }
+    return true;
+}
+
 Position PositionReader::read(int64_t row, const std::vector<const Cell *> &cells,
                               std::vector<RowProblem> &problems) const
 {

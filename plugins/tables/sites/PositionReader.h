@@ -48,6 +48,9 @@ public:
     Position read(int64_t row, const std::vector<const Cell *> &cells,
                   std::vector<RowProblem> &problems) const;
 
+    /// Whether all cells of the position are empty.
+    bool isEmpty(const std::vector<const Cell *> &cells) const;
+
 private:
     std::optional<contract::TableTextId> outsideGlobe(double value, Axis axis) const;
     bool readAxis(int64_t row, const CoordinateFields &fields, Axis axis,
