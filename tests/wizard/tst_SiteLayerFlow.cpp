@@ -315,6 +315,78 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(table + u".columns.json"_s));
     }
 
+    void savesTheFateOfEveryRow()
+    {
+        const QString path = m_dir.filePath(u"rows.csv"_s);
+        writeFile(path, "Site ID,Longitude,Latitude\nA,2,45\nB,3,\n");
+        WizardOnSitePage flow;
+        dropFiles(flow.page, {path});
+        auto *rows = flow.widget<QLabel>(u"m_pwLblRows"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(rows->text(), u"Rows: 2 = 1 used + 0 merged + 1 left out"_s,
+                                  PatienceMs);
+
+        const QString report = m_dir.filePath(u"report.csv"_s);
+        {
+            const FileDialogAnswer dialog(report);
+            flow.widget<QAbstractButton>(u"m_pwPbReport"_s)->click();
+        }
+        const FileDialogAnswer dialog(path);
+        AnsweredBoxes boxes(QMessageBox::Yes); // the dialog asks first whether to replace the file
+        flow.widget<QAbstractButton>(u"m_pwPbRejects"_s)->click();
+
+        QVERIFY(readFile(report).contains("3,left out,B,,the coordinate is empty,Latitude,rows"));
+        QCOMPARE(boxes.seen.constLast().text, u"the output is one of the input files\n"_s + path);
+        QVERIFY(readFile(path).contains("A,2,45"));
+    }
+
+    void appliesAndUndoesCures()
+    {
+        const QString path = m_dir.filePath(u"swapped.csv"_s);
+        writeFile(path, "Site ID,Longitude,Latitude\nA,-33.8,151.2\nB,-33.7,151.1\n"
+                        "C,-33.6,151.3\nD,-33.9,151.4\n");
+        WizardOnSitePage flow;
+        const auto cure = [&flow](const QString &action) -> QAbstractButton * {
+            for (auto *button : flow.page->findChildren<QAbstractButton *>(u"m_pwPbCure"_s)) {
+                if (button->isVisible() && button->text() == action)
+                    return button;
+            }
+            return nullptr;
+        };
+        dropFiles(flow.page, {path});
+        QTRY_VERIFY_WITH_TIMEOUT(cure(u"Exchange the coordinates"_s), PatienceMs);
+        QVERIFY(!flow.icon->isEnabled());
+
+        cure(u"Exchange the coordinates"_s)->click();
+        auto *rows = flow.widget<QLabel>(u"m_pwLblRows"_s);
+        QTRY_VERIFY_WITH_TIMEOUT(rows->text().contains(u"= 4 used"_s), PatienceMs);
+        QVERIFY(flow.icon->isEnabled());
+        QVERIFY(!cure(u"Exchange the coordinates"_s));
+
+        QTRY_VERIFY_WITH_TIMEOUT(cure(u"Undo"_s), PatienceMs);
+        cure(u"Undo"_s)->click();
+        QTRY_VERIFY_WITH_TIMEOUT(rows->text().contains(u"= 0 used"_s), PatienceMs);
+    }
+
+    void takesTheTransmittersFromAnotherTable()
+    {
+        const QString path = m_dir.filePath(u"bare.csv"_s);
+        const QString cells = m_dir.filePath(u"cells.csv"_s);
+        writeFile(path, "Site ID,Longitude,Latitude\nA,2,45\nB,3,45\n");
+        writeFile(cells, "Site,Azimuth,Height\nA,30,20\nA,150,20\nB,120,20\n");
+        WizardOnSitePage flow;
+        dropFiles(flow.page, {path});
+        const FileDialogAnswer dialog(cells);
+
+        auto *button = flow.widget<QAbstractButton>(u"m_pwPbSecond"_s);
+        QVERIFY(button->isVisible());
+        button->click();
+
+        auto *rows = flow.widget<QLabel>(u"m_pwLblRows"_s);
+        QTRY_VERIFY_WITH_TIMEOUT(rows->text().contains(u"Rows of cells.csv: 3 = 0 used + 3"_s),
+                                 PatienceMs);
+        QVERIFY(readFile(flow.icon->layerFile()).contains("Azimuth"));
+    }
+
     void makesNoLayerForASystemThatPlacesNothing_data()
     {
         const Cases<QByteArray, QString> row({"system", "reason"});

@@ -1,5 +1,6 @@
 #include "links/ui/VltAddLinkPage.h"
 
+#include "contract/TextPatterns.h"
 #include "links/ui/VltLinkDetails.h"
 #include "links/ui/VltLinkProperties.h"
 #include "sites/ui/VltSiteProperties.h"
@@ -54,6 +55,13 @@ vlt::tables::TablePageConfiguration VltAddLinkPage::linkConfiguration()
 std::optional<vlt::Error> VltAddLinkPage::readTable(const QString &path)
 {
     return readInto(m_file, path, vlt::links::readLinkFileInfoAs);
+}
+
+bool VltAddLinkPage::needsSecondTable(const std::optional<vlt::Error> &refusal) const
+{
+    const auto text =
+        refusal ? vlt::contract::recognised(refusal->detail.toStdString()) : std::nullopt;
+    return text && std::string_view(text->text->key) == "MESS_TAB_ENDS_ONLY_NAMED";
 }
 
 void VltAddLinkPage::showDetails()

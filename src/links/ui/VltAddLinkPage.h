@@ -27,6 +27,7 @@ private:
 
     std::optional<vlt::Error> readTable(const QString &path) override;
     const vlt::tables::TableFileInfo *file() const override { return m_file ? &*m_file : nullptr; }
+    bool needsSecondTable(const std::optional<vlt::Error> &refusal) const override;
     void showDetails() override;
     void checkRows() override;
     std::optional<vlt::Error> missingChoice() const override;

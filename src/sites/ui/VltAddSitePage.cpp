@@ -47,6 +47,14 @@ std::optional<vlt::Error> VltAddSitePage::readTable(const QString &path)
     return readInto(m_file, path, vlt::sites::readSiteFileInfoAs);
 }
 
+bool VltAddSitePage::needsSecondTable(const std::optional<vlt::Error> &) const
+{
+    if (!m_file)
+        return false;
+    const vlt::sites::SiteColumnSet &columns = m_file->columns;
+    return columns.sectorIds.isEmpty() && columns.heights.isEmpty() && columns.azimuths.isEmpty();
+}
+
 void VltAddSitePage::showDetails()
 {
     m_panelDetails->showFile(*m_file);

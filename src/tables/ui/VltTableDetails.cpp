@@ -125,8 +125,8 @@ void VltTableDetails::buildHeading()
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addLayout(heading);
     layout->addWidget(m_pwLblRemark);
-    layout->addWidget(m_pwTwDetails);
     layout->addWidget(m_rows);
+    layout->addWidget(m_pwTwDetails);
 }
 
 void VltTableDetails::buildTables()

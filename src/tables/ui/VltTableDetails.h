@@ -46,6 +46,8 @@ public:
 Q_SIGNALS:
     /// The rows were checked; `systems` has the areas and how many positions lie outside them.
     void checked(const vlt::geodata::SystemCheck &systems);
+    /// The rows were checked, and mistakes in their positions were found, or none.
+    void mistakesFound(const QList<vlt::geodata::PositionFinding> &findings);
     /// The rows were checked, and the layer would be empty.
     void nonePlaced();
 
@@ -92,6 +94,7 @@ protected:
         showOutcome(vlt::tables::otherProblems(m_file, systems, check.systems, check.problems),
                     check.placement, vlt::tables::systemProblems(m_file, systems, check.systems));
         Q_EMIT checked(check.systems);
+        Q_EMIT mistakesFound(check.problems.findings);
     }
 
     /// Adds a tab with a table.

@@ -5,6 +5,7 @@
 #include "platform/LayerFile.h"
 #include "platform/Settings.h"
 #include "tables/SystemObstacle.h"
+#include "tables/ui/VltCures.h"
 #include "tables/ui/VltMappingPanel.h"
 #include "tables/ui/VltSrsSettings.h"
 #include "tables/ui/VltTableDetails.h"
@@ -136,6 +137,10 @@ void VltTablePage::setParts(VltTableDetails *details, const QList<VltParameterPa
     connect(details, &VltTableDetails::nonePlaced, this, &VltTablePage::leaveEmptyLayer);
     connect(details->mapping(), &VltMappingPanel::mappingChosen, this, &VltTablePage::useMapping);
     connect(details->mapping(), &VltMappingPanel::savingWanted, this, &VltTablePage::saveMapping);
+    m_cures = new VltCures(m_configuration.kind, m_ui->m_pwGbTable);
+    connect(m_cures, &VltCures::mappingChosen, this, &VltTablePage::useMapping);
+    connect(details, &VltTableDetails::mistakesFound, m_cures, &VltCures::showFindings);
+    m_ui->m_ptVbTable->addWidget(m_cures);
     m_ui->m_ptVbTable->addWidget(details);
     for (VltParameterPanel *panel : panels) {
         m_ui->m_ptVbProperties->addWidget(panel);
@@ -295,6 +300,7 @@ void VltTablePage::showFile()
         m_ui->m_pwGbPreview->leaveLayer();
         m_details->clear();
         m_ui->m_pwLblFileInfo->setText(m_configuration.noFile);
+        showCures();
         return;
     }
     m_ui->m_pwLblFileInfo->setText(read->description);
@@ -321,6 +327,17 @@ void VltTablePage::showMapping()
     const vlt::tables::MappingFile mapping = vlt::tables::findMapping(read.filePath);
     m_details->mapping()->showTable(
         {m_configuration.kind, read.shape, read.roles, m_excerpt, mapping.mapping}, mapping);
+    showCures();
+}
+
+/// Shows what can be stated about the table by buttons; a refused one may lack another table.
+void VltTablePage::showCures()
+{
+    if (!file() && !m_refusal)
+        m_cures->clear();
+    else
+        m_cures->showTable(m_pathRead, vlt::tables::findMapping(m_pathRead).mapping,
+                           needsSecondTable(m_refusal));
 }
 
 /// Keeps what the user states about the table and reads it again.
@@ -360,9 +377,11 @@ void VltTablePage::readFileAgain()
     if (!file()) {
         m_details->showRefused();
         leaveLayer(fileReason());
+        showCures();
         return;
     }
     m_ui->m_pwLblFileInfo->setText(file()->description);
+    m_ui->m_pwLeTable->setText(file()->filePath);
     if (file()->systems != suggested) // else the user's choice stays
         showSystems();
     showMapping();

@@ -16,6 +16,7 @@
 namespace Ui {
 class TablePage;
 }
+class VltCures;
 class VltSrsSettings;
 class VltTableDetails;
 
@@ -126,6 +127,9 @@ private:
     virtual const vlt::tables::TableFileInfo *file() const = 0;
     /// Shows the details of the table, without those of its rows.
     virtual void showDetails() = 0;
+    /// Whether the table, or a table that was refused with this reason, needs another one: for its
+    /// transmitters, or for the sites at the ends of links.
+    virtual bool needsSecondTable(const std::optional<vlt::Error> &refusal) const = 0;
     /// Starts to check the rows of the table.
     virtual void checkRows() = 0;
     /// Why no layer can be made from the values; none if one can.
@@ -149,6 +153,7 @@ private:
     void reportFailure(const vlt::Result<vlt::Done> &outcome);
     void showFile();
     void showMapping();
+    void showCures();
     void showSystems();
     QString fileReason() const;
     void showReason(const QString &reason);
@@ -168,6 +173,7 @@ private:
     std::unique_ptr<Ui::TablePage> m_ui;
     VltSrsSettings *m_panelSrs = nullptr;
     VltTableDetails *m_details = nullptr;
+    VltCures *m_cures = nullptr;
     vlt::project::ProjectContext m_project;
     QString m_fileDir;
     vlt::geodata::TableExcerpt m_excerpt; ///< of the table

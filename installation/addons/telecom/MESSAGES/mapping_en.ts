@@ -111,5 +111,53 @@
         <source>The choices for the columns cannot be saved</source>
         <translation>The choices for the columns cannot be saved</translation>
     </message>
+    <message id="MESS_UNDO">
+        <source>Undo</source>
+        <translation>Undo</translation>
+    </message>
+    <message id="MESS_AXES_SWAPPED">
+        <source>The coordinates are exchanged.</source>
+        <translation>The coordinates are exchanged.</translation>
+    </message>
+    <message id="MESS_SYSTEM_STATED">
+        <source>The coordinate system of the table is set to %1.</source>
+        <translation>The coordinate system of the table is set to %1.</translation>
+    </message>
+    <message id="MESS_SECTORS_FROM">
+        <source>The transmitters come from %1.</source>
+        <translation>The transmitters come from %1.</translation>
+    </message>
+    <message id="MESS_END_SITES_FROM">
+        <source>The sites at the ends come from %1.</source>
+        <translation>The sites at the ends come from %1.</translation>
+    </message>
+    <message id="MESS_SWAP_AXES">
+        <source>Exchange the coordinates</source>
+        <translation>Exchange the coordinates</translation>
+    </message>
+    <message id="MESS_USE_SYSTEM">
+        <source>Use %1</source>
+        <translation>Use %1</translation>
+    </message>
+    <message id="MESS_NO_TRANSMITTERS">
+        <source>The table has no transmitters.</source>
+        <translation>The table has no transmitters.</translation>
+    </message>
+    <message id="MESS_CHOOSE_SECTORS">
+        <source>Choose the table of sectors...</source>
+        <translation>Choose the table of sectors...</translation>
+    </message>
+    <message id="MESS_NAMED_ENDS">
+        <source>The ends of the links are only named.</source>
+        <translation>The ends of the links are only named.</translation>
+    </message>
+    <message id="MESS_CHOOSE_END_SITES">
+        <source>Choose the table of sites...</source>
+        <translation>Choose the table of sites...</translation>
+    </message>
+    <message id="MESS_TABLES">
+        <source>Tables</source>
+        <translation>Tables</translation>
+    </message>
 </context>
 </TS>

@@ -111,5 +111,53 @@
         <source>The choices for the columns cannot be saved</source>
         <translation>Les choix pour les colonnes ne peuvent pas être enregistrés</translation>
     </message>
+    <message id="MESS_UNDO">
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+    <message id="MESS_AXES_SWAPPED">
+        <source>The coordinates are exchanged.</source>
+        <translation>Les coordonnées sont échangées.</translation>
+    </message>
+    <message id="MESS_SYSTEM_STATED">
+        <source>The coordinate system of the table is set to %1.</source>
+        <translation>Le système de coordonnées du tableau est fixé à %1.</translation>
+    </message>
+    <message id="MESS_SECTORS_FROM">
+        <source>The transmitters come from %1.</source>
+        <translation>Les émetteurs viennent de %1.</translation>
+    </message>
+    <message id="MESS_END_SITES_FROM">
+        <source>The sites at the ends come from %1.</source>
+        <translation>Les sites des extrémités viennent de %1.</translation>
+    </message>
+    <message id="MESS_SWAP_AXES">
+        <source>Exchange the coordinates</source>
+        <translation>Échanger les coordonnées</translation>
+    </message>
+    <message id="MESS_USE_SYSTEM">
+        <source>Use %1</source>
+        <translation>Utiliser %1</translation>
+    </message>
+    <message id="MESS_NO_TRANSMITTERS">
+        <source>The table has no transmitters.</source>
+        <translation>Le tableau n'a pas d'émetteurs.</translation>
+    </message>
+    <message id="MESS_CHOOSE_SECTORS">
+        <source>Choose the table of sectors...</source>
+        <translation>Choisir le tableau des secteurs...</translation>
+    </message>
+    <message id="MESS_NAMED_ENDS">
+        <source>The ends of the links are only named.</source>
+        <translation>Les extrémités des liaisons sont seulement nommées.</translation>
+    </message>
+    <message id="MESS_CHOOSE_END_SITES">
+        <source>Choose the table of sites...</source>
+        <translation>Choisir le tableau des sites...</translation>
+    </message>
+    <message id="MESS_TABLES">
+        <source>Tables</source>
+        <translation>Tableaux</translation>
+    </message>
 </context>
 </TS>

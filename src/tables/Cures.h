@@ -1,0 +1,28 @@
+#pragma once
+
+#include "contract/ColumnMapping.h"
+#include "geodata/LayerProblems.h"
+
+#include <QList>
+#include <QString>
+
+/// What the user may state about a table at the press of a button, because the reader of the table
+/// found a mistake; and what he has stated so, which another button undoes.
+namespace vlt::tables {
+
+/// A statement about a table, in the user's language.
+struct Cure
+{
+    QString text;                    ///< the mistake, or what is stated already
+    QString action;                  ///< text of the button
+    contract::ColumnMapping mapping; ///< after it is pressed
+};
+
+/// What is stated and can be undone.
+QList<Cure> appliedCures(const contract::ColumnMapping &mapping);
+
+/// The cures of the mistakes that were found; none for mistakes without one.
+QList<Cure> proposedCures(const contract::ColumnMapping &mapping,
+                          const QList<geodata::PositionFinding> &findings);
+
+} // namespace vlt::tables
