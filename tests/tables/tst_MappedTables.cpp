@@ -63,6 +63,9 @@ private Q_SLOTS:
             "the mapping file \"t.csv.columns.json\" names header rows that the table does not "
             "have: "
             "the header is recognised");
+        row("header rows without a row below", "Site,Lon,Lat\nS,2,48\n",
+            R"(}, "headerRows": [1, 2)", "S@2,48",
+            "the mapping file \"t.csv.columns.json\" names header rows");
         row("no header", "a1,2,48,q\nb2,3,49,q\n",
             R"("siteId": "Column 1", "x": "Column 2", "y": "Column 3"}, "headerRows": [)",
             "a1@2,48|b2@3,49");

@@ -155,13 +155,23 @@ Table TableFile::readByMapping(std::vector<RowProblem> &problems) const
         problems.push_back({0, {}, false, fault});
     TableHints hints = hintsOf(m_options, installedVocabulary().words);
     hints.headerRows = mapping.headerRows;
+    const auto readBy = [&](TableHints of) {
+        try {
+            return readTable(*openFile(), of);
+        } catch (const RefusedFile &) { // perhaps no row is left below the header
+            if (!of.headerRows)
+                throw;
+        }
+        of.headerRows.reset();
+        return readTable(*openFile(), of);
+    };
     const auto read = [&] {
         if (!hints.sheet.empty() || mapping.sheet.empty())
-            return readTable(*openFile(), hints);
+            return readBy(hints);
         TableHints ofSheet = hints;
         ofSheet.sheet = mapping.sheet;
         try {
-            return readTable(*openFile(), ofSheet);
+            return readBy(ofSheet);
         } catch (const RefusedFile &refused) {
             if (refused.reason() != Refusal::BadOption)
                 throw;
@@ -171,7 +181,7 @@ Table TableFile::readByMapping(std::vector<RowProblem> &problems) const
                             false,
                             contract::formatted("MESS_TAB_MAPPING_SHEET",
                                                 {fileName(mappingPath), mapping.sheet})});
-        return readTable(*openFile(), hints);
+        return readBy(hints);
     };
     Table table = read();
     const auto &header = table.profile->header.rows;
