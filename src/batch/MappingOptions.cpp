@@ -176,7 +176,7 @@ Result<QString> writeMapping(const QCommandLineParser &parser, const QString &ta
             return outputIsInput(path);
         const Result<Done> written =
             platform::writeWhole(path, text.value().toUtf8(), platform::Access::Shared);
-        return written ? Result<QString>(path) : written.error();
+        return written ? Result<QString>(QFileInfo(path).absoluteFilePath()) : written.error();
     }
     const contract::ReadMapping read = contract::readMapping(text.value().toStdString());
     if (!read.mapping)
