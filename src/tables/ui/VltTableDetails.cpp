@@ -182,6 +182,8 @@ void VltTableDetails::showRemark(const QString &text)
 
 void VltTableDetails::unfoldProblems()
 {
+    if (m_mapping->isVisible()) // the user may be choosing columns
+        return;
     m_pwTwDetails->setCurrentWidget(m_pwTvProblems);
     m_pwTbFold->setChecked(true);
 }

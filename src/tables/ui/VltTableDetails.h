@@ -108,7 +108,7 @@ protected:
     /// Shows a line that stays visible while the tables are folded; an empty text hides it.
     void showRemark(const QString &text);
 
-    /// Shows the tab of the problems and unfolds.
+    /// Shows the tab of the problems and unfolds, unless the user sees the columns.
     void unfoldProblems();
 
 private:
