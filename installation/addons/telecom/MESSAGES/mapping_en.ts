@@ -64,8 +64,8 @@
         <translation>none</translation>
     </message>
     <message id="MESS_HEADER_ROWS">
-        <source>N&amp;umber of header rows</source>
-        <translation>N&amp;umber of header rows</translation>
+        <source>N&amp;umber of rows</source>
+        <translation>N&amp;umber of rows</translation>
     </message>
     <message id="MESS_TIP_HEADER_ROWS">
         <source>Rows whose texts together are the names of the columns, such as groups of columns above their names</source>
