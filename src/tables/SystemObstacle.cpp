@@ -33,11 +33,9 @@ std::optional<Error> undeclaredObstacle(const TableFileInfo &file,
 {
     if (!file.isUndeclared || !systems.source.isEmpty() || !systems.target.isEmpty())
         return std::nullopt;
-    return Error{{},
-                 dico_label("MESS_NO_LAYER_UNDECLARED",
-                            "No layer can be made: the coordinates are in meters, and their "
-                            "coordinate system is not known"),
-                 {}};
+    return Error::asIs(dico_label("MESS_NO_LAYER_UNDECLARED",
+                                  "No layer can be made: the coordinates are in meters, and their "
+                                  "coordinate system is not known"));
 }
 
 } // namespace vlt::tables
