@@ -13,6 +13,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QJsonArray>
 #include <QRegularExpression>
 #include <QSet>
 
@@ -228,14 +229,25 @@ QList<Problem> mappingProblems(const geodata::LayerProblems &problems)
     return found;
 }
 
+namespace {
+
+/// The contradictions between a table, what is stated about it and its systems, one line each.
+QStringList warningsOf(const LayerOutcome &outcome)
+{
+    QStringList warnings;
+    for (const Problem &problem : outcome.mappingProblems + outcome.systemProblems)
+        warnings << problemText(problem);
+    for (const geodata::PositionFinding &finding : outcome.findings)
+        warnings << oneLine(language::readerText(finding.text));
+    return warnings;
+}
+
+} // namespace
+
 void warnOfSystems(const LayerOutcome &outcome)
 {
-    for (const Problem &problem : outcome.mappingProblems)
-        printError(problemText(problem));
-    for (const Problem &problem : outcome.systemProblems)
-        printError(problemText(problem));
-    for (const geodata::PositionFinding &finding : outcome.findings)
-        printError(oneLine(language::readerText(finding.text)));
+    for (const QString &warning : warningsOf(outcome))
+        printError(warning);
 }
 
 void warnOfLayer(const LayerOutcome &outcome, const geodata::SystemPair &systems)
@@ -252,13 +264,16 @@ void warnOfLayer(const LayerOutcome &outcome, const geodata::SystemPair &systems
 QJsonObject layerJson(const LayerRequest &request, const LayerOutcome &outcome,
                       const geodata::SystemPair &systems)
 {
-    return {{QStringLiteral("layer"), request.output.isEmpty()
-                                          ? QJsonValue(QJsonValue::Null)
-                                          : QFileInfo(request.output).absoluteFilePath()},
-            {QStringLiteral("table"), QFileInfo(request.table).absoluteFilePath()},
-            {QStringLiteral("unplacedRows"), outcome.unplacedRows},
-            {QStringLiteral("sourceSrs"), systems.source},
-            {QStringLiteral("targetSrs"), systems.target}};
+    QJsonObject object{{QStringLiteral("layer"),
+                        request.output.isEmpty() ? QJsonValue(QJsonValue::Null)
+                                                 : QFileInfo(request.output).absoluteFilePath()},
+                       {QStringLiteral("table"), QFileInfo(request.table).absoluteFilePath()},
+                       {QStringLiteral("unplacedRows"), outcome.unplacedRows},
+                       {QStringLiteral("sourceSrs"), systems.source},
+                       {QStringLiteral("targetSrs"), systems.target}};
+    if (const QStringList warnings = warningsOf(outcome); !warnings.isEmpty())
+        object.insert(QStringLiteral("warnings"), QJsonArray::fromStringList(warnings));
+    return object;
 }
 
 ExitStatus printResult(const QString &text)

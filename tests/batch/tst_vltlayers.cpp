@@ -329,10 +329,12 @@ private Q_SLOTS:
         QFETCH(QByteArray, warning);
         writeFile(path(u"s.csv"_s), table);
 
-        const Run run =
-            start(u"site ../s.csv -o o.lay "_s + QString::fromLatin1(QTest::currentDataTag()));
+        const Run run = start(u"site ../s.csv -o o.lay --json "_s +
+                              QString::fromLatin1(QTest::currentDataTag()));
 
         QCOMPARE(run.errors, warning.isEmpty() ? "" : "vltlayers: " + warning + '\n');
+        const QJsonArray inJson = QJsonDocument::fromJson(run.output)[u"warnings"_s].toArray();
+        QCOMPARE(inJson.isEmpty(), run.status != 0 || warning.isEmpty());
         QCOMPARE(run.status, run.errors.contains("none of its sites") ? 1 : 0);
     }
 
@@ -345,6 +347,7 @@ private Q_SLOTS:
         row("site ../missing.csv -o old.lay", 1,
             "../missing.csv: This file can't be open as a site file (the file does not exist)");
         row("site ../unplaced.csv -o old.lay", 1, "../unplaced.csv: ");
+        row("site ../meters.csv -o old.lay", 1, "their coordinate system is not known");
         row("site ../links.csv -o old.lay", 1,
             "../links.csv: This file can't be open as a site file (this is a table of links, not");
         row("info ../links.csv", 1, "a table of links, not of sites");
@@ -387,6 +390,7 @@ private Q_SLOTS:
         writeFile(path(u"unplaced.csv"_s), "Site ID,Longitude,Latitude\nA,east,north\nB,,\n");
         writeFile(path(u"links.csv"_s), "Name,TX Longitude,TX Latitude,RX Longitude,RX Latitude\n"
                                         "A,1.5,45,1.6,45\n");
+        writeFile(path(u"meters.csv"_s), "Site ID,X,Y\nA,652000,6862000\n");
         writeFile(path(u"elsewhere/old.lay"_s), "old");
 
         m_program->checkRefusal();
