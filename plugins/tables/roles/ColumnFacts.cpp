@@ -1,6 +1,7 @@
 #include "plugins/tables/roles/ColumnFacts.h"
 
 #include "plugins/tables/cells/Cell.h"
+#include "plugins/tables/cells/FeetAndInches.h"
 #include "plugins/tables/cells/Numbers.h"
 #include "plugins/tables/cells/ValueList.h"
 
@@ -22,6 +23,8 @@ constexpr std::size_t MaxUnitSize = 12; ///< bytes
 std::optional<double> leadingNumber(std::string_view text)
 {
     text = trimmed(text);
+    if (const auto feet = parseFeetAndInches(text))
+        return feet;
     std::size_t end = text.find_first_not_of("0123456789.,+-");
     if (end == std::string_view::npos)
         end = text.size();

@@ -1,6 +1,7 @@
 #include "plugins/tables/values/Quantity.h"
 
 #include "plugins/tables/cells/Cell.h"
+#include "plugins/tables/cells/FeetAndInches.h"
 #include "plugins/tables/cells/GroupedNumber.h"
 #include "plugins/tables/cells/Numbers.h"
 #include "plugins/tables/table/HeaderWords.h"
@@ -169,7 +170,10 @@ std::optional<double> unitInName(std::string_view name, UnitOf unitOf)
 
 std::optional<double> readLengthM(std::string_view text, double unitM)
 {
-    return readQuantity(text, unitM, metresPer);
+    if (const auto length = readQuantity(text, unitM, metresPer))
+        return length;
+    const auto feet = parseFeetAndInches(text);
+    return feet ? std::optional(*feet * MetresPerFoot) : std::nullopt;
 }
 
 std::optional<double> readDegrees(std::string_view text, double unitDeg)
