@@ -77,12 +77,12 @@ QStringList coordinateParts()
 }
 
 /// The columns of an entry, one more than those that it has: the user can add a transmitter.
-QStringList partNamesOf(const RoleEntry &entry)
+QStringList partNamesOf(const RoleEntry &entry, contract::TableKind kind)
 {
     if (isCoordinate(entry.role))
         return coordinateParts();
     QStringList names;
-    if (!isOfTransmitter(entry.role) || !entry.isFound())
+    if (kind != contract::TableKind::Sites || !isOfTransmitter(entry.role) || !entry.isFound())
         return names;
     for (int number = 1; number <= entry.columns.size() + 1; ++number)
         names << dico_label("MESS_PART_TRANSMITTER", "Transmitter %1").arg(number);
@@ -108,7 +108,7 @@ RoleEntry entryOf(const UnderstoodTable &table, const QString &role,
     }
     if (isCoordinate(role))
         placeHemisphere(entry.columns);
-    entry.partNames = partNamesOf(entry);
+    entry.partNames = partNamesOf(entry, table.kind);
     return entry;
 }
 
