@@ -196,6 +196,13 @@ void VltMappingPanel::showTable(const vlt::tables::UnderstoodTable &table, const
     showMappingFile(file);
 }
 
+void VltMappingPanel::showRefused(const MappingFile &file)
+{
+    vlt::tables::UnderstoodTable table = m_table;
+    table.mapping = file.mapping;
+    showTable(table, file);
+}
+
 /// Shows the sheet and the rows of the header.
 void VltMappingPanel::showHeader()
 {

@@ -29,6 +29,9 @@ public:
     /// @param file  the mapping file in use
     void showTable(const vlt::tables::UnderstoodTable &table, const vlt::tables::MappingFile &file);
 
+    /// Shows a mapping with which the table cannot be read; all else stays.
+    void showRefused(const vlt::tables::MappingFile &file);
+
     /// The number of columns that have a role.
     int columnsFound() const;
 

@@ -375,6 +375,7 @@ void VltTablePage::readFileAgain()
     const auto suggested = file() ? file()->systems : vlt::geodata::SystemPair();
     m_refusal = readTable(m_pathRead);
     if (!file()) {
+        m_details->mapping()->showRefused(vlt::tables::findMapping(m_pathRead));
         m_details->showRefused();
         leaveLayer(fileReason());
         showCures();
