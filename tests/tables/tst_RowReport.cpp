@@ -43,7 +43,7 @@ private Q_SLOTS:
                               "transmitter is left out",
                               "4 merged A 2",
                               "5 left out B Longitude: the coordinate is empty",
-                              "6 left out B Longitude: the coordinate is empty",
+                              "6 left out B: the site \"B\" has no position",
                               "7 used C 7 Longitude: the coordinate is empty",
                               "8 merged C 7"};
         QTest::newRow("guesses: grouped thousands")
