@@ -633,7 +633,7 @@
     </message>
     <message id="MESS_OPT_REJECTS">
         <source>Write the rows that are left out, with the columns of the table, to be corrected and opened again; of one table.</source>
-        <translation>Écrire les lignes laissées de côté, avec les colonnes de la table, pour les corriger et les ouvrir de nouveau&#xa0;; pour une seule table.</translation>
+        <translation>Écrire les lignes laissées de côté, avec les colonnes du tableau, pour les corriger et les ouvrir de nouveau&#xa0;; pour un seul tableau.</translation>
     </message>
     <message id="MESS_USE_FILE">
         <source>the name of a file</source>
@@ -641,7 +641,7 @@
     </message>
     <message id="MESS_USE_ONE_TABLE_ROWS">
         <source>--report and --rejects can be used with one table only</source>
-        <translation>--report et --rejects ne s'utilisent qu'avec une seule table</translation>
+        <translation>--report et --rejects ne s'utilisent qu'avec un seul tableau</translation>
     </message>
     <message id="MESS_USE_SAME_ROW_FILE">
         <source>--report and --rejects need different files</source>
@@ -681,7 +681,7 @@
     </message>
     <message id="MESS_OPT_ROW_REPORT">
         <source>Write a CSV file with the fate of every row (used, merged into a site, left out) and the reasons; of one table.</source>
-        <translation>Écrire un fichier CSV avec le sort de chaque ligne (utilisée, réunie à un site, laissée de côté) et les raisons&#xa0;; pour une seule table.</translation>
+        <translation>Écrire un fichier CSV avec le sort de chaque ligne (utilisée, réunie à un site, laissée de côté) et les raisons&#xa0;; pour un seul tableau.</translation>
     </message>
 </context>
 </TS>

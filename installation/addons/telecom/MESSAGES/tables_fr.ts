@@ -909,7 +909,7 @@
     </message>
     <message id="MESS_REPORT_TABLE">
         <source>table</source>
-        <translation>table</translation>
+        <translation>tableau</translation>
     </message>
     <message id="MESS_TAB_NO_END_X">
         <source>no columns with coordinates of both ends were recognised: the longitude or easting of end %1 is missing</source>
