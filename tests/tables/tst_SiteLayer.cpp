@@ -256,6 +256,13 @@ private Q_SLOTS:
             ml + site("", "Site ID") + site("ss:Index=\"9\"", "a") + site("ss:Index=\"3\"", "b") +
                 "</Table></Worksheet></Workbook>",
             2);
+        const QByteArray next = "<Worksheet ss:Name=\"T\"><Table>";
+        row("a hidden worksheet before another one",
+            ml + site("", "Site ID") + site("", "a") + site("", "b") +
+                "</Table><WorksheetOptions><Visible>SheetHidden</Visible></WorksheetOptions>"
+                "</Worksheet>" +
+                next + site("", "Site ID") + site("", "c") + "</Table></Worksheet></Workbook>",
+            1);
         row("30,000 equal names and 3 MB of ampersands",
             "Site;X;" + QByteArray("n;").repeated(30000) + "\na;1;2;" + QByteArray(3000000, '&') +
                 "\n",

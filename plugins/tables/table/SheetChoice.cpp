@@ -62,9 +62,11 @@ public:
 
     bool isSettled() const
     {
-        return best.sheet && !best.sheet->hidden() &&
+        // whether a sheet is hidden may take a search
+        return best.sheet &&
                (m_hints.suitability ? best.suitability >= m_hints.highestSuitability
-                                    : isConvincing(best.header));
+                                    : isConvincing(best.header)) &&
+               !best.sheet->hidden();
     }
 
     ChosenSheet best;

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <optional>
 
 namespace vlt::driver {
 
@@ -47,6 +48,109 @@ struct XmlFile
     }
 };
 
+/// Start of the tag whose name ends with the word at `name`; null if the word is not in the name of
+/// a tag. Does not read before `from`.
+const char *tagStart(const char *from, const char *name)
+{
+    const char *limit = name - from > MaxTagNameSize ? name - MaxTagNameSize : from;
+    for (const char *at = name; at-- > limit;) {
+        if (*at == '<')
+            return at;
+        if (std::strchr(" \t\r\n\"'=>&;", *at))
+            return nullptr;
+    }
+    return nullptr;
+}
+
+/// Finds the tags with the word Worksheet in their names, and those that follow.
+class WorksheetTags
+{
+public:
+    /// @param offset  position in the file at which the search begins
+    WorksheetTags(const XmlFile &file, uint64_t offset)
+        : m_input(file.from(offset))
+        , m_at(m_input.begin())
+        , m_windowOffset(offset)
+    {}
+
+    /// Goes to the next tag with that word; false at the end of the file.
+    bool nextOfWorksheet(XmlTag &tag)
+    {
+        for (;;) {
+            const char *found = findText(m_at, m_input.end(), "Worksheet");
+            const bool isFound = found != m_input.end();
+            const char *open = isFound ? tagStart(m_at, found) : found;
+            if (isFound && !open) { // the word is part of a text
+                m_at = found + 1;
+                continue;
+            }
+            if (isFound && nextTag(open, m_input.end(), tag)) {
+                m_at = tag.end;
+                return true;
+            }
+            const std::ptrdiff_t window = m_input.end() - m_input.begin();
+            refuseEndlessMarkup(open, m_input.end());
+            if (!more(isFound ? open
+                              : m_input.end() - std::min<std::ptrdiff_t>(window, MaxTagNameSize)))
+                return false;
+        }
+    }
+
+    /// Goes to the next tag of any name.
+    bool next(XmlTag &tag)
+    {
+        while (!nextTag(m_at, m_input.end(), tag)) {
+            refuseEndlessMarkup(tag.begin, m_input.end());
+            if (!more(tag.begin))
+                return false;
+        }
+        m_at = tag.end;
+        return true;
+    }
+
+    /// The text behind the last tag.
+    std::string text()
+    {
+        while (findText(m_at, m_input.end(), "</") == m_input.end()) {
+            if (!more(m_at))
+                return {};
+        }
+        return {m_at, findText(m_at, m_input.end(), "</")};
+    }
+
+    /// Position behind the last tag.
+    uint64_t offset() const
+    {
+        return m_windowOffset + static_cast<uint64_t>(m_at - m_input.begin());
+    }
+
+private:
+    bool more(const char *keep)
+    {
+        const auto dropped = static_cast<uint64_t>(keep - m_input.begin());
+        if (!m_input.more(keep))
+            return false;
+        m_windowOffset += dropped;
+        m_at = m_input.begin();
+        return true;
+    }
+
+    ChunkedInput m_input;
+    const char *m_at;
+    uint64_t m_windowOffset;
+};
+
+/// Whether the options of a worksheet hide it.
+bool isHidden(WorksheetTags &tags)
+{
+    XmlTag tag;
+    while (tags.next(tag) && !tag.closes("WorksheetOptions")) {
+        if (tag.kind == XmlTag::Kind::Open && tag.name == "Visible")
+            return tags.text().find("Hidden") != std::string::npos;
+    }
+    return false;
+}
+
 class SpreadsheetMlSheet : public Sheet
 {
 public:
@@ -57,6 +161,20 @@ public:
     {}
 
     const std::string &name() const override { return m_name; }
+    /// The options follow the rows; they are searched when there is a choice of sheets.
+    bool hidden() const override
+    {
+        if (!m_isHidden) {
+            m_isHidden = false;
+            WorksheetTags tags(m_file, m_offset);
+            XmlTag tag;
+            while (tags.nextOfWorksheet(tag) && !tag.closes("Worksheet")) {
+                if (tag.kind == XmlTag::Kind::Open && tag.name == "WorksheetOptions")
+                    m_isHidden = isHidden(tags);
+            }
+        }
+        return *m_isHidden;
+    }
     std::unique_ptr<RowReader> rows() const override
     {
         return std::make_unique<SpreadsheetMlRows>(m_file.from(m_offset), false, 1, m_offset);
@@ -73,21 +191,8 @@ private:
     XmlFile m_file;
     uint64_t m_offset; ///< position behind the Worksheet tag
     std::string m_name;
+    mutable std::optional<bool> m_isHidden;
 };
-
-/// Start of the tag whose name ends with the word at `name`; null if the word is not in the name of
-/// a tag. Does not read before `from`.
-const char *tagStart(const char *from, const char *name)
-{
-    const char *limit = name - from > MaxTagNameSize ? name - MaxTagNameSize : from;
-    for (const char *at = name; at-- > limit;) {
-        if (*at == '<')
-            return at;
-        if (std::strchr(" \t\r\n\"'=>&;", *at))
-            return nullptr;
-    }
-    return nullptr;
-}
 
 /// Finds the worksheets one by one, because the first one is normally sufficient.
 class SpreadsheetMlWorkbook : public Workbook
@@ -97,38 +202,18 @@ public:
 
     std::shared_ptr<Sheet> nextSheet() override
     {
-        ChunkedInput input(m_file.from(m_offset));
-        const char *at = input.begin();
-        uint64_t windowOffset = m_offset;
-        for (;;) {
-            XmlTag tag;
-            const char *found = findText(at, input.end(), "Worksheet");
-            const char *open = found == input.end() ? found : tagStart(at, found);
-            if (found != input.end() && !open) { // the word is part of a text
-                at = found + 1;
+        WorksheetTags tags(m_file, m_offset);
+        XmlTag tag;
+        while (tags.nextOfWorksheet(tag)) {
+            if (!tag.opens("Worksheet"))
                 continue;
-            }
-            if (found != input.end() && nextTag(open, input.end(), tag)) {
-                at = tag.end;
-                if (!tag.opens("Worksheet"))
-                    continue;
-                m_offset = windowOffset + static_cast<uint64_t>(tag.end - input.begin());
-                const auto name = attribute(tag.attributes, "Name");
-                if (tag.kind == XmlTag::Kind::Open)
-                    return std::make_shared<SpreadsheetMlSheet>(m_file, m_offset,
-                                                                name ? decodeXml(*name) : "Sheet");
-                continue;
-            }
-            const std::ptrdiff_t window = input.end() - input.begin();
-            const char *keep = found != input.end()
-                                   ? open
-                                   : input.end() - std::min<std::ptrdiff_t>(window, MaxTagNameSize);
-            refuseEndlessMarkup(open, input.end());
-            windowOffset += static_cast<uint64_t>(keep - input.begin());
-            if (!input.more(keep))
-                return nullptr;
-            at = input.begin();
+            m_offset = tags.offset();
+            const auto name = attribute(tag.attributes, "Name");
+            if (tag.kind == XmlTag::Kind::Open)
+                return std::make_shared<SpreadsheetMlSheet>(m_file, m_offset,
+                                                            name ? decodeXml(*name) : "Sheet");
         }
+        return nullptr;
     }
 
 private:
