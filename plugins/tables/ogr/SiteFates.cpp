@@ -51,7 +51,7 @@ void SiteFates::read(const FieldCells &cells, ReportedRow &row)
 {
     const TableFacts &facts = m_source.facts();
     const SiteLayout &layout = facts.sites();
-    const SiteRow site = m_reader.read(row.number, cells.cells(), row.reasons);
+    const SiteRow site = m_reader.read(row.number, cells, row.reasons);
     addRepairs(facts.table, layout.point, layout.unit, row.number, cells.cells(), row.reasons);
     if (facts.siteIndex)
         return setSite(siteOf(cells, row.number), site.losesTransmitters, row);

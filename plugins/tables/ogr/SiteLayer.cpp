@@ -118,7 +118,7 @@ GIntBig SiteLayer::rowsWithFeatures() const
 RowMeaning SiteLayer::readRow(int64_t row, const FieldCells &cells,
                               std::vector<RowProblem> &problems) const
 {
-    return m_reader.read(row, cells.cells(), problems);
+    return m_reader.read(row, cells, problems);
 }
 
 void SiteLayer::addPositions(SurveyedPositions &positions, const TableRow &row) const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "plugins/tables/ogr/PlainTransmitters.h"
 #include "plugins/tables/ogr/TableLayer.h"
 
 namespace vlt::driver {
@@ -10,14 +11,15 @@ class SiteRowReader
 public:
     explicit SiteRowReader(const TableSource &source);
 
-    SiteRow read(int64_t row, const std::vector<const Cell *> &cells,
-                 std::vector<RowProblem> &problems) const;
+    SiteRow read(int64_t row, const FieldCells &fields, std::vector<RowProblem> &problems) const;
 
 private:
     const TableFacts *m_facts;
     std::shared_ptr<const TableSystems> m_systems;
     PositionReader m_positions;
     TransmitterReader m_transmitters;
+    PlainTransmitters m_plain;
+    bool m_offersTransmitters; ///< features have values of the transmitters in their row
 };
 
 } // namespace vlt::driver

@@ -25,9 +25,10 @@ struct LinkRow
 /// A site as read from a row.
 struct SiteRow
 {
-    Position inFile;                                            ///< in the file's system
-    Position placed;                                            ///< in the target system
-    std::vector<std::optional<TransmitterValues>> transmitters; ///< of this row
+    Position inFile; ///< in the file's system
+    Position placed; ///< in the target system
+    std::vector<std::optional<TransmitterValues>>
+        transmitters;               ///< of this row, if the layer needs them
     bool losesTransmitters = false; ///< all of this row have values that cannot be used
 };
 

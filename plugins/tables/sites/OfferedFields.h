@@ -35,6 +35,11 @@ struct OfferedField
         return value == OfferedValue::SiteId || value == OfferedValue::SectorId ||
                value == OfferedValue::Technology;
     }
+    bool isOfTransmitter() const
+    {
+        return value != OfferedValue::SiteId && value != OfferedValue::X &&
+               value != OfferedValue::Y && value != OfferedValue::GroundHeight;
+    }
 };
 
 /// Whether a table has transmitters in the columns of a planning tool, which readers know.
