@@ -9,6 +9,7 @@ namespace {
 
 const QLatin1String SwapAxes("swapAxes");
 const QLatin1String SourceSrs("sourceSrs=");
+const QLatin1String Undeclared("undeclared");
 
 QString fromUtf8(const std::string &text)
 {
@@ -57,7 +58,8 @@ QList<Cure> proposedCures(const contract::ColumnMapping &mapping,
             cure.action = dico_label("MESS_USE_SYSTEM", "Use %1").arg(system);
             cure.mapping.sourceSrs = system.toStdString();
         }
-        if (!cure.action.isEmpty() && cure.mapping != mapping)
+        const bool isStatement = finding.cure.isEmpty() && finding.kind == Undeclared;
+        if (isStatement || (!cure.action.isEmpty() && cure.mapping != mapping))
             cures << cure;
     }
     return cures;

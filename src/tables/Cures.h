@@ -14,14 +14,15 @@ namespace vlt::tables {
 struct Cure
 {
     QString text;                    ///< the mistake, or what is stated already
-    QString action;                  ///< text of the button
+    QString action;                  ///< text of the button; empty if there is nothing to press
     contract::ColumnMapping mapping; ///< after it is pressed
 };
 
 /// What is stated and can be undone.
 QList<Cure> appliedCures(const contract::ColumnMapping &mapping);
 
-/// The cures of the mistakes that were found; none for mistakes without one.
+/// The cures of the mistakes that were found; none for mistakes without one, except that a system
+/// which is only assumed is stated.
 QList<Cure> proposedCures(const contract::ColumnMapping &mapping,
                           const QList<geodata::PositionFinding> &findings);
 

@@ -63,6 +63,16 @@ QString assumptionReason(AssumedFrom from)
     return dico_label("MESS_SRS_FROM_CHOICE", "it is the one chosen now");
 }
 
+/// The beginning of an area's name, which may list all countries in it.
+QString shortArea(const QString &area)
+{
+    constexpr qsizetype MaxLetters = 60;
+    if (area.size() <= MaxLetters)
+        return area;
+    const qsizetype blank = area.lastIndexOf(QLatin1Char(' '), MaxLetters);
+    return area.left(blank > 0 ? blank : MaxLetters) + QStringLiteral(" \u2026");
+}
+
 /// A candidate with the place of the sites.
 QString candidateText(const geodata::SystemCandidate &candidate)
 {
@@ -71,28 +81,56 @@ QString candidateText(const geodata::SystemCandidate &candidate)
                        .arg(candidate.code, candidate.name,
                             QString::number(candidate.longitude, 'f', Decimals),
                             QString::number(candidate.latitude, 'f', Decimals));
-    return candidate.area.isEmpty() ? text : text + QStringLiteral(" (%1)").arg(candidate.area);
+    return candidate.area.isEmpty() ? text
+                                    : text + QStringLiteral(" (%1)").arg(shortArea(candidate.area));
+}
+
+/// Where the system of a table without one comes from.
+AssumedFrom assumedFrom(const TableFileInfo &file, const QString &source)
+{
+    const bool isSuggested =
+        geodata::listedCode(source) == geodata::listedCode(file.systems.source);
+    return isSuggested ? file.assumedFrom : AssumedFrom::Nothing;
+}
+
+/// What is assumed about a table without a system; empty if nothing is.
+QString assumption(const TableFileInfo &file, const QString &source, const SrsFacts &facts)
+{
+    return source.isEmpty()
+               ? QString()
+               : dico_label("MESS_SRS_ASSUMED",
+                            "the table declares no coordinate system: %1 is assumed, because %2")
+                     .arg(label(geodata::listedCode(source), facts),
+                          assumptionReason(assumedFrom(file, source)));
+}
+
+/// The systems that a table without one may have instead of the assumed one, best first. There are
+/// none if nothing is against that one.
+QList<geodata::SystemCandidate> otherSystems(const TableFileInfo &file, const QString &source,
+                                             const geodata::SystemCheck &check)
+{
+    constexpr int MaxCandidates = 3;
+    if (assumedFrom(file, source) != AssumedFrom::Nothing && check.outsideSource == 0)
+        return {};
+    QList<geodata::SystemCandidate> others;
+    for (const geodata::SystemCandidate &candidate : file.candidates) {
+        if (geodata::listedCode(candidate.code) != geodata::listedCode(source))
+            others << candidate;
+    }
+    return others.mid(0, MaxCandidates);
 }
 
 /// What is assumed about a table without a system, and which systems are possible.
-QList<Problem> assumptions(const TableFileInfo &file, const QString &source, const SrsFacts &facts)
+QList<Problem> assumptions(const TableFileInfo &file, const QString &source,
+                           const geodata::SystemCheck &check)
 {
-    constexpr int MaxCandidates = 3;
     QList<Problem> problems;
     if (!file.isUndeclared)
         return problems;
-    const bool isSuggested =
-        geodata::listedCode(source) == geodata::listedCode(file.systems.source);
-    if (!source.isEmpty())
-        problems << warning(
-            dico_label("MESS_SRS_ASSUMED",
-                       "the table declares no coordinate system: %1 is assumed, because %2")
-                .arg(label(geodata::listedCode(source), facts),
-                     assumptionReason(isSuggested ? file.assumedFrom : AssumedFrom::Nothing)));
-    if (isSuggested && file.assumedFrom != AssumedFrom::Nothing)
-        return problems;
+    if (const QString text = assumption(file, source, check.source); !text.isEmpty())
+        problems << warning(text);
     QStringList candidates;
-    for (const geodata::SystemCandidate &candidate : file.candidates.mid(0, MaxCandidates))
+    for (const geodata::SystemCandidate &candidate : otherSystems(file, source, check))
         candidates << candidateText(candidate);
     if (!candidates.isEmpty())
         problems << warning(dico_label("MESS_SRS_CANDIDATES", "possible coordinate systems: %1")
@@ -119,7 +157,7 @@ QList<Problem> refusals(const geodata::SystemPair &systems, const geodata::Syste
 QList<Problem> systemProblems(const TableFileInfo &file, const geodata::SystemPair &systems,
                               const geodata::SystemCheck &check)
 {
-    const QList<Problem> assumed = assumptions(file, systems.source, check.source);
+    const QList<Problem> assumed = assumptions(file, systems.source, check);
     QList<Problem> problems = refusals(systems, check);
     if (const QString text = unitProblem(file.unit, systems.source, check.source); !text.isEmpty())
         problems << warning(text);
@@ -138,6 +176,22 @@ QList<Problem> systemProblems(const TableFileInfo &file, const geodata::SystemPa
     if (geodata::listedCode(systems.target) != geodata::listedCode(systems.source))
         addOutside(check.outsideTarget, systems.target, check.target);
     return problems;
+}
+
+QList<geodata::PositionFinding> systemFindings(const TableFileInfo &file,
+                                               const geodata::SystemPair &systems,
+                                               const geodata::SystemCheck &check)
+{
+    const QString kind = QStringLiteral("undeclared");
+    QList<geodata::PositionFinding> findings;
+    if (!file.isUndeclared)
+        return findings;
+    if (const QString text = assumption(file, systems.source, check.source); !text.isEmpty())
+        findings << geodata::PositionFinding{kind, {}, text};
+    for (const geodata::SystemCandidate &candidate : otherSystems(file, systems.source, check))
+        findings << geodata::PositionFinding{kind, QStringLiteral("sourceSrs=") + candidate.code,
+                                             candidateText(candidate)};
+    return findings;
 }
 
 geodata::LayerProblems otherProblems(const TableFileInfo &file, const geodata::SystemPair &systems,

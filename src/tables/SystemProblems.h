@@ -15,6 +15,12 @@ namespace vlt::tables {
 QList<Problem> systemProblems(const TableFileInfo &file, const geodata::SystemPair &systems,
                               const geodata::SystemCheck &check);
 
+/// The system that is assumed for a table without one, and the systems that it may have instead, as
+/// findings in the user's language with their cures.
+QList<geodata::PositionFinding> systemFindings(const TableFileInfo &file,
+                                               const geodata::SystemPair &systems,
+                                               const geodata::SystemCheck &check);
+
 /// What the reader of a table reported, without what systemProblems() has.
 geodata::LayerProblems otherProblems(const TableFileInfo &file, const geodata::SystemPair &systems,
                                      const geodata::SystemCheck &check,

@@ -1,8 +1,10 @@
 #include "sites/SiteFileInfo.h"
 #include "support/Cases.h"
+#include "tables/SystemProblems.h"
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace vlt::sites;
 
 class tst_SiteFileRules : public QObject
@@ -39,6 +41,43 @@ private Q_SLOTS:
 
         QTEST(chosen.source, "source");
         QTEST(chosen.target, "target");
+    }
+
+    void offersOtherSystemsThanTheAssumedOne_data()
+    {
+        const Cases<bool, vlt::tables::AssumedFrom, QString, int, QStringList> row(
+            {"undeclared", "from", "chosen", "outside", "cures"});
+        using enum vlt::tables::AssumedFrom;
+        const QStringList all{u""_s, u"sourceSrs=EPSG:27700"_s, u"sourceSrs=EPSG:29903"_s};
+        row("positions fit", true, Terrain, "2154", 0, all.mid(0, 1));
+        row("positions lie outside", true, Terrain, "2154", 6, all);
+        row("the assumed one is no alternative", true, Name, "27700", 6, {all[0], all[2]});
+        row("chosen by the user", true, Name, "2154", 0, all);
+        row("nothing to suggest", true, Nothing, {}, 0, all.mid(1));
+        row("declared", false, Nothing, "2154", 6, {});
+    }
+
+    void offersOtherSystemsThanTheAssumedOne()
+    {
+        QFETCH(QString, chosen);
+        vlt::tables::TableFileInfo file;
+        QFETCH(bool, undeclared);
+        QFETCH(vlt::tables::AssumedFrom, from);
+        file.isUndeclared = undeclared;
+        file.assumedFrom = from;
+        file.systems.source = from == vlt::tables::AssumedFrom::Name ? u"27700"_s : chosen;
+        file.candidates.resize(2);
+        file.candidates[0].code = u"EPSG:27700"_s;
+        file.candidates[1].code = u"EPSG:29903"_s;
+        vlt::geodata::SystemCheck check;
+        QFETCH(int, outside);
+        check.outsideSource = outside;
+
+        QStringList cures;
+        for (const auto &finding : vlt::tables::systemFindings(file, {chosen, {}}, check))
+            cures << finding.cure;
+
+        QTEST(cures, "cures");
     }
 
     void namesTheSiteColumnByFormat_data()

@@ -71,14 +71,16 @@ void VltCures::addLine(const QString &text, const QString &action, const QString
     auto *label = new QLabel(text, line);
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
+    layout->addWidget(label, 1);
+    m_ptVbLines->addWidget(line);
+    if (action.isEmpty())
+        return;
     auto *button = new QPushButton(action, line);
     button->setObjectName(objectName);
     button->setAutoDefault(false);
     button->setToolTip(text);
     connect(button, &QPushButton::clicked, this, pressed);
-    layout->addWidget(label, 1);
     layout->addWidget(button);
-    m_ptVbLines->addWidget(line);
 }
 
 void VltCures::chooseSecond()

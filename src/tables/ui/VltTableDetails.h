@@ -94,7 +94,8 @@ protected:
         showOutcome(vlt::tables::otherProblems(m_file, systems, check.systems, check.problems),
                     check.placement, vlt::tables::systemProblems(m_file, systems, check.systems));
         Q_EMIT checked(check.systems);
-        Q_EMIT mistakesFound(check.problems.findings);
+        Q_EMIT mistakesFound(vlt::tables::systemFindings(m_file, systems, check.systems) +
+                             check.problems.findings);
     }
 
     /// Adds a tab with a table.
