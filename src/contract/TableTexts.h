@@ -279,23 +279,24 @@ inline constexpr auto TableTexts = std::to_array<Text>({
      "the coordinates seem to be exchanged: in the other order, %1 of "
      "%2 positions lie in %3",
      {ValueKind::Count, ValueKind::Count, ValueKind::Nested}},
-    {"MESS_TAB_DOCTOR_SWAPPED_ROWS", "coordinates seem to be exchanged in some rows: in the other "
-                                     "order, %1 of %2 positions lie among the others (rows: %3)"},
+    {"MESS_TAB_DOCTOR_SWAPPED_ROWS",
+     "coordinates seem to be exchanged in some rows: in the other "
+     "order, they lie among the others (%1 of %2 positions, rows: %3)"},
     {"MESS_TAB_DOCTOR_SIGN",
      "a sign seems to be lost in %1: with the opposite one, %2 of %3 "
      "positions lie in %4",
      {ValueKind::Nested, ValueKind::Count, ValueKind::Count, ValueKind::Nested}},
     {"MESS_TAB_DOCTOR_SIGN_ROWS",
      "a sign seems to be lost in some rows of %1: with the opposite "
-     "one, %2 of %3 positions lie among the others (rows: %4)",
+     "one, they lie among the others (%2 of %3 positions, rows: %4)",
      {ValueKind::Nested}},
     {"MESS_TAB_DOCTOR_DECIMAL",
      "the decimal mark seems to be misplaced in %1: times %2, %3 of %4 "
      "positions lie in %5",
      {ValueKind::Nested, ValueKind::Name, ValueKind::Count, ValueKind::Count, ValueKind::Nested}},
     {"MESS_TAB_DOCTOR_DECIMAL_ROWS",
-     "the decimal mark seems to be misplaced in some rows of %1: with another one, %2 of %3 "
-     "positions lie among the others (rows: %4)",
+     "the decimal mark seems to be misplaced in some rows of %1: with another one, they lie "
+     "among the others (%2 of %3 positions, rows: %4)",
      {ValueKind::Nested}},
     {"MESS_TAB_DOCTOR_THOUSANDS",
      "a separator of thousands seems to be read as the decimal mark "
@@ -308,7 +309,7 @@ inline constexpr auto TableTexts = std::to_array<Text>({
                                    "the coordinate system counts in meters or feet"},
     {"MESS_TAB_DOCTOR_UNDECLARED",
      "the coordinates are in meters, but the table declares no coordinate system"},
-    {"MESS_TAB_DOCTOR_OUTLIER", "far from all others: %1 of %2 positions lie more than %3 km from "
+    {"MESS_TAB_DOCTOR_OUTLIER", "far from all others: %1 of %2 positions, more than %3 km from "
                                 "the middle of the table (rows: %4)"},
     {"MESS_TAB_DOCTOR_DUPLICATE",
      "site ids occur more than once: %1 of %2 sites share theirs (rows: %3)"},

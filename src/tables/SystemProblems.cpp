@@ -168,7 +168,7 @@ QList<Problem> systemProblems(const TableFileInfo &file, const geodata::SystemPa
     const auto addOutside = [&](qint64 outside, const QString &system, const SrsFacts &facts) {
         if (outside > 0)
             problems << warning(dico_label("MESS_SRS_OUTSIDE_AREA",
-                                           "%1 of %2 positions lie outside the area of use of %3")
+                                           "outside the area of use of %3: %1 of %2 positions")
                                     .arg(QString::number(outside), QString::number(check.positions),
                                          label(system, facts)));
     };

@@ -317,10 +317,10 @@ private Q_SLOTS:
             "degrees\nvltlayers: ../s.csv: none of its sites has a position; \"vltlayers info\" "
             "shows why");
         row("--target-srs 2193", Table,
-            "2 of 2 positions lie outside the area of use of NZGD2000 / New Zealand Transverse "
-            "Mercator 2000 (2193)");
+            "outside the area of use of NZGD2000 / New Zealand Transverse Mercator 2000 (2193): "
+            "2 of 2 positions");
         row("--source-srs 32630 --target-srs EPSG:32630", meters,
-            "1 of 1 positions lie outside the area of use of WGS 84 / UTM zone 30N (32630)");
+            "outside the area of use of WGS 84 / UTM zone 30N (32630): 1 of 1 positions");
     }
 
     void warnsOfSystemsThatDoNotFit()

@@ -36,7 +36,7 @@ grep -qF '[Site ID]' "$work/csv.lay" || fail "the information page lacks the tab
 # Tables of other shapes, and one with mistakes in its positions.
 info() { "$tree/vltlayers" info "$samples/$1" --project "$samples/city.gvw" --language en; }
 info sites_cells.csv | grep -q '^44 rows: 8 sites with 1–9 transmitters' || fail "the cells do not become 8 sites"
-mistakes=$(info sites_misplaced.csv | grep -cE '\(rows: (4, 5, 9|12|15)\)') || true
+mistakes=$(info sites_misplaced.csv | grep -cE ', rows: (4, 5, 9|12|15)\)') || true
 [[ $mistakes == 3 ]] || fail "$mistakes kinds of mistakes are found in sites_misplaced.csv instead of 3"
 
 # Without a display: commands that draw texts must not need one.

@@ -288,8 +288,8 @@
         <translation>the coordinates of the table are in degrees, but its system %1 uses meters or feet</translation>
     </message>
     <message id="MESS_SRS_OUTSIDE_AREA">
-        <source>%1 of %2 positions lie outside the area of use of %3</source>
-        <translation>%1 of %2 positions lie outside the area of use of %3</translation>
+        <source>outside the area of use of %3: %1 of %2 positions</source>
+        <translation>outside the area of use of %3: %1 of %2 positions</translation>
     </message>
     <message id="MESS_SRS_FROM_TERRAIN">
         <source>it is that of the project's terrain</source>

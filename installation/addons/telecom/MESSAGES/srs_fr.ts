@@ -288,8 +288,8 @@
         <translation>les coordonnées du tableau sont en degrés, mais son système %1 utilise des mètres ou des pieds</translation>
     </message>
     <message id="MESS_SRS_OUTSIDE_AREA">
-        <source>%1 of %2 positions lie outside the area of use of %3</source>
-        <translation>%1 position(s) sur %2 se trouvent hors de la zone d'emploi de %3</translation>
+        <source>outside the area of use of %3: %1 of %2 positions</source>
+        <translation>positions hors de la zone d'emploi de %3&#xa0;: %1 sur %2</translation>
     </message>
     <message id="MESS_SRS_FROM_TERRAIN">
         <source>it is that of the project's terrain</source>
@@ -305,7 +305,7 @@
     </message>
     <message id="MESS_SRS_FROM_POSITIONS">
         <source>the positions lie in the area of use of no other system that was tried</source>
-        <translation>les positions ne se trouvent dans la zone d'usage d'aucun autre système essayé</translation>
+        <translation>les positions ne se trouvent dans la zone d'emploi d'aucun autre système essayé</translation>
     </message>
     <message id="MESS_SRS_FROM_CHOICE">
         <source>it is the one chosen now</source>

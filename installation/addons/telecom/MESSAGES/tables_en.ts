@@ -592,24 +592,24 @@
         <translation>the coordinates seem to be exchanged: in the other order, %1 of %2 positions lie in %3</translation>
     </message>
     <message id="MESS_TAB_DOCTOR_SWAPPED_ROWS">
-        <source>coordinates seem to be exchanged in some rows: in the other order, %1 of %2 positions lie among the others (rows: %3)</source>
-        <translation>coordinates seem to be exchanged in some rows: in the other order, %1 of %2 positions lie among the others (rows: %3)</translation>
+        <source>coordinates seem to be exchanged in some rows: in the other order, they lie among the others (%1 of %2 positions, rows: %3)</source>
+        <translation>coordinates seem to be exchanged in some rows: in the other order, they lie among the others (%1 of %2 positions, rows: %3)</translation>
     </message>
     <message id="MESS_TAB_DOCTOR_SIGN">
         <source>a sign seems to be lost in %1: with the opposite one, %2 of %3 positions lie in %4</source>
         <translation>a sign seems to be lost in %1: with the opposite one, %2 of %3 positions lie in %4</translation>
     </message>
     <message id="MESS_TAB_DOCTOR_SIGN_ROWS">
-        <source>a sign seems to be lost in some rows of %1: with the opposite one, %2 of %3 positions lie among the others (rows: %4)</source>
-        <translation>a sign seems to be lost in some rows of %1: with the opposite one, %2 of %3 positions lie among the others (rows: %4)</translation>
+        <source>a sign seems to be lost in some rows of %1: with the opposite one, they lie among the others (%2 of %3 positions, rows: %4)</source>
+        <translation>a sign seems to be lost in some rows of %1: with the opposite one, they lie among the others (%2 of %3 positions, rows: %4)</translation>
     </message>
     <message id="MESS_TAB_DOCTOR_DECIMAL">
         <source>the decimal mark seems to be misplaced in %1: times %2, %3 of %4 positions lie in %5</source>
         <translation>the decimal mark seems to be misplaced in %1: times %2, %3 of %4 positions lie in %5</translation>
     </message>
     <message id="MESS_TAB_DOCTOR_DECIMAL_ROWS">
-        <source>the decimal mark seems to be misplaced in some rows of %1: with another one, %2 of %3 positions lie among the others (rows: %4)</source>
-        <translation>the decimal mark seems to be misplaced in some rows of %1: with another one, %2 of %3 positions lie among the others (rows: %4)</translation>
+        <source>the decimal mark seems to be misplaced in some rows of %1: with another one, they lie among the others (%2 of %3 positions, rows: %4)</source>
+        <translation>the decimal mark seems to be misplaced in some rows of %1: with another one, they lie among the others (%2 of %3 positions, rows: %4)</translation>
     </message>
     <message id="MESS_TAB_DOCTOR_THOUSANDS">
         <source>a separator of thousands seems to be read as the decimal mark in %1: at all %2 positions they lie below 1000 and have up to three decimals</source>
@@ -628,8 +628,8 @@
         <translation>the coordinates are in meters, but the table declares no coordinate system</translation>
     </message>
     <message id="MESS_TAB_DOCTOR_OUTLIER">
-        <source>far from all others: %1 of %2 positions lie more than %3 km from the middle of the table (rows: %4)</source>
-        <translation>far from all others: %1 of %2 positions lie more than %3 km from the middle of the table (rows: %4)</translation>
+        <source>far from all others: %1 of %2 positions, more than %3 km from the middle of the table (rows: %4)</source>
+        <translation>far from all others: %1 of %2 positions, more than %3 km from the middle of the table (rows: %4)</translation>
     </message>
     <message id="MESS_TAB_DOCTOR_DUPLICATE">
         <source>site ids occur more than once: %1 of %2 sites share theirs (rows: %3)</source>

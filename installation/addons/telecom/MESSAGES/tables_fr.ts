@@ -592,24 +592,24 @@
         <translation>les coordonnées semblent inversées&#xa0;: dans l'autre ordre, %1 positions sur %2 se trouvent dans %3</translation>
     </message>
     <message id="MESS_TAB_DOCTOR_SWAPPED_ROWS">
-        <source>coordinates seem to be exchanged in some rows: in the other order, %1 of %2 positions lie among the others (rows: %3)</source>
-        <translation>les coordonnées de certaines lignes semblent inversées&#xa0;: dans l'autre ordre, %1 positions sur %2 se trouvent parmi les autres (lignes&#xa0;: %3)</translation>
+        <source>coordinates seem to be exchanged in some rows: in the other order, they lie among the others (%1 of %2 positions, rows: %3)</source>
+        <translation>les coordonnées de certaines lignes semblent inversées&#xa0;: dans l'autre ordre, elles se trouvent parmi les autres (%1 sur %2, lignes&#xa0;: %3)</translation>
     </message>
     <message id="MESS_TAB_DOCTOR_SIGN">
         <source>a sign seems to be lost in %1: with the opposite one, %2 of %3 positions lie in %4</source>
         <translation>un signe semble manquer dans %1&#xa0;: avec le signe opposé, %2 positions sur %3 se trouvent dans %4</translation>
     </message>
     <message id="MESS_TAB_DOCTOR_SIGN_ROWS">
-        <source>a sign seems to be lost in some rows of %1: with the opposite one, %2 of %3 positions lie among the others (rows: %4)</source>
-        <translation>un signe semble manquer à certaines lignes dans %1&#xa0;: avec le signe opposé, %2 positions sur %3 se trouvent parmi les autres (lignes&#xa0;: %4)</translation>
+        <source>a sign seems to be lost in some rows of %1: with the opposite one, they lie among the others (%2 of %3 positions, rows: %4)</source>
+        <translation>un signe semble manquer à certaines lignes dans %1&#xa0;: avec le signe opposé, elles se trouvent parmi les autres (%2 positions sur %3, lignes&#xa0;: %4)</translation>
     </message>
     <message id="MESS_TAB_DOCTOR_DECIMAL">
         <source>the decimal mark seems to be misplaced in %1: times %2, %3 of %4 positions lie in %5</source>
         <translation>le séparateur décimal semble mal placé dans %1&#xa0;: en multipliant par %2, %3 positions sur %4 se trouvent dans %5</translation>
     </message>
     <message id="MESS_TAB_DOCTOR_DECIMAL_ROWS">
-        <source>the decimal mark seems to be misplaced in some rows of %1: with another one, %2 of %3 positions lie among the others (rows: %4)</source>
-        <translation>le séparateur décimal semble mal placé à certaines lignes dans %1&#xa0;: une fois déplacé, %2 positions sur %3 se trouvent parmi les autres (lignes&#xa0;: %4)</translation>
+        <source>the decimal mark seems to be misplaced in some rows of %1: with another one, they lie among the others (%2 of %3 positions, rows: %4)</source>
+        <translation>le séparateur décimal semble mal placé à certaines lignes dans %1&#xa0;: une fois déplacé, elles se trouvent parmi les autres (%2 positions sur %3, lignes&#xa0;: %4)</translation>
     </message>
     <message id="MESS_TAB_DOCTOR_THOUSANDS">
         <source>a separator of thousands seems to be read as the decimal mark in %1: at all %2 positions they lie below 1000 and have up to three decimals</source>
@@ -628,8 +628,8 @@
         <translation>les coordonnées sont en mètres, mais le tableau ne déclare aucun système de coordonnées</translation>
     </message>
     <message id="MESS_TAB_DOCTOR_OUTLIER">
-        <source>far from all others: %1 of %2 positions lie more than %3 km from the middle of the table (rows: %4)</source>
-        <translation>loin de toutes les autres&#xa0;: %1 positions sur %2 se trouvent à plus de %3 km du centre des sites du tableau (lignes&#xa0;: %4)</translation>
+        <source>far from all others: %1 of %2 positions, more than %3 km from the middle of the table (rows: %4)</source>
+        <translation>loin de toutes les autres&#xa0;: %1 sur %2, à plus de %3 km du centre des sites du tableau (lignes&#xa0;: %4)</translation>
     </message>
     <message id="MESS_TAB_DOCTOR_DUPLICATE">
         <source>site ids occur more than once: %1 of %2 sites share theirs (rows: %3)</source>
@@ -649,7 +649,7 @@
     </message>
     <message id="MESS_TAB_DOCTOR_AREA">
         <source>the area of use of the coordinate system</source>
-        <translation>la zone d'usage du système de coordonnées</translation>
+        <translation>la zone d'emploi du système de coordonnées</translation>
     </message>
     <message id="MESS_TAB_DOCTOR_LONGITUDES">
         <source>the longitudes</source>
