@@ -119,6 +119,13 @@ KnownTable knownTableOf(const Json &layout)
     return table;
 }
 
+/// A section of the vocabulary; one that is missing is empty.
+Json sectionOf(const Json &root, const char *name)
+{
+    const Json *found = memberOf(root, name);
+    return found && found->is_structured() ? *found : Json::object();
+}
+
 } // namespace
 
 /// Changes the meaning of a phrase, whose words need not be separated.
@@ -168,22 +175,9 @@ void Vocabulary::addLanguages(const Json &roles, const Json &hemispheres)
     }
 }
 
-void Vocabulary::add(std::string_view text)
+void Vocabulary::addRoles(const Json &root)
 {
-    Json root;
-    try {
-        root = Json::parse(text);
-    } catch (const Json::exception &error) {
-        throw std::invalid_argument(error.what());
-    }
-    if (!root.is_object())
-        throw std::invalid_argument("not an object");
-    // a section that is missing is empty
-    const auto section = [&root](const char *name) {
-        const Json *found = memberOf(root, name);
-        return found && found->is_structured() ? *found : Json::object();
-    };
-    const Json roles = section("roles");
+    const Json roles = sectionOf(root, "roles");
     for (const auto &[name, texts] : roles.items()) {
         const Role role = roleOfName(name);
         if (role == Role::None)
@@ -194,38 +188,51 @@ void Vocabulary::add(std::string_view text)
             });
         });
     }
-    addLanguages(roles, section("hemispheres"));
-    const Json exclusions = section("not");
+    addLanguages(roles, sectionOf(root, "hemispheres"));
+    const Json exclusions = sectionOf(root, "not");
     for (const auto &[name, texts] : exclusions.items()) {
         auto &forbidden = m_forbidden[roleOfName(name)];
         forEachText(texts, [&forbidden](const std::string &phrase) {
             forbidden.insert(joined(nameWords(phrase)));
         });
     }
+}
+
+void Vocabulary::addPartsOfNames(const Json &root)
+{
     const auto addTo = [&](const Json &texts, auto change) {
         forEachText(texts, [&](const std::string &phrase) { addPhrase(phrase, change); });
     };
-    const Json parts = section("parts");
+    const Json parts = sectionOf(root, "parts");
     for (const auto &[name, part] : Parts) {
         if (const Json *texts = memberOf(parts, name))
             addTo(*texts, [part = part](WordMeaning &meaning) { meaning.part = part; });
     }
-    const Json ends = section("ends");
+    const Json ends = sectionOf(root, "ends");
     if (const Json *texts = memberOf(ends, "a"))
         addTo(*texts, [](WordMeaning &meaning) { meaning.isEndA = true; });
     if (const Json *texts = memberOf(ends, "b"))
         addTo(*texts, [](WordMeaning &meaning) { meaning.isEndB = true; });
     if (const Json *texts = memberOf(ends, "weak"))
         addTo(*texts, [](WordMeaning &meaning) { meaning.isWeakEnd = true; });
-    addTo(section("sector"), [](WordMeaning &meaning) { meaning.isSector = true; });
-    addTo(section("site"), [](WordMeaning &meaning) { meaning.isSite = true; });
-    const Json units = section("units");
+    addTo(sectionOf(root, "sector"), [](WordMeaning &meaning) { meaning.isSector = true; });
+    addTo(sectionOf(root, "site"), [](WordMeaning &meaning) { meaning.isSite = true; });
+    const Json units = sectionOf(root, "units");
     for (const Unit &unit : Units) {
         if (const Json *texts = memberOf(units, unit.name))
             addTo(*texts, [&unit](WordMeaning &meaning) { meaning.*unit.member = unit.size; });
     }
+    int sector = 0;
+    for (const Json &names : sectionOf(root, "sectorNames")) {
+        ++sector;
+        forEachText(names, [&](const std::string &n) { m_sectorNames.emplace(folded(n), sector); });
+    }
+}
+
+void Vocabulary::addSystems(const Json &root)
+{
     std::vector<NamedSystem> systems;
-    for (const Json &entry : section("systems")) {
+    for (const Json &entry : sectionOf(root, "systems")) {
         const Json *epsg = entry.is_object() ? memberOf(entry, "epsg") : nullptr;
         const Json *names = epsg ? memberOf(entry, "names") : nullptr;
         if (!names || !epsg->is_number_integer())
@@ -236,15 +243,15 @@ void Vocabulary::add(std::string_view text)
         });
     }
     m_systems.insert(m_systems.begin(), systems.begin(), systems.end());
+}
+
+void Vocabulary::addWordsOfValues(const Json &root)
+{
     for (const auto &[name, to] : {std::pair("missing", &m_missing), std::pair("total", &m_totals),
                                    std::pair("omni", &m_omni)})
-        forEachText(section(name), [to = to](const std::string &word) { to->insert(word); });
-    int sector = 0;
-    for (const Json &names : section("sectorNames")) {
-        ++sector;
-        forEachText(names, [&](const std::string &n) { m_sectorNames.emplace(folded(n), sector); });
-    }
-    const Json hemispheres = section("hemispheres");
+        forEachText(sectionOf(root, name),
+                    [to = to](const std::string &word) { to->insert(word); });
+    const Json hemispheres = sectionOf(root, "hemispheres");
     for (const auto &[name, to] : {std::pair("west", &m_west), std::pair("south", &m_south)}) {
         const Json *words = memberOf(hemispheres, name);
         const Json all = Json::array({words ? *words : Json::object()});
@@ -254,8 +261,24 @@ void Vocabulary::add(std::string_view text)
                 to->insert(word);
         });
     }
+}
+
+void Vocabulary::add(std::string_view text)
+{
+    Json root;
     try {
-        for (const Json &layout : section("layouts"))
+        root = Json::parse(text);
+    } catch (const Json::exception &error) {
+        throw std::invalid_argument(error.what());
+    }
+    if (!root.is_object())
+        throw std::invalid_argument("not an object");
+    addRoles(root);
+    addPartsOfNames(root);
+    addSystems(root);
+    addWordsOfValues(root);
+    try {
+        for (const Json &layout : sectionOf(root, "layouts"))
             m_knownTables.push_back(knownTableOf(layout));
     } catch (const std::exception &error) { // of the library too, whose texts name the member
         throw std::invalid_argument(std::string("layouts: ") + error.what());

@@ -132,6 +132,10 @@ private:
     void addPhrase(const std::string &phrase, Change change);
     std::uint32_t languageBit(const std::string &language);
     void addLanguages(const nlohmann::json &roles, const nlohmann::json &hemispheres);
+    void addRoles(const nlohmann::json &root);
+    void addPartsOfNames(const nlohmann::json &root);
+    void addSystems(const nlohmann::json &root);
+    void addWordsOfValues(const nlohmann::json &root);
 
     Phrases m_phrases;
     std::vector<KnownTable> m_knownTables;
