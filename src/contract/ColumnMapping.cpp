@@ -91,8 +91,11 @@ std::map<std::string, StatedColumns> rolesOf(const Json &value, const std::strin
     if (!value.is_object())
         refuseValue(place);
     std::map<std::string, StatedColumns> roles;
-    for (const auto &[role, columns] : value.items())
-        roles.emplace(role, columnsOf(columns, place + "." + role));
+    for (const auto &[role, columns] : value.items()) {
+        std::string where = place;
+        where.append(".").append(role);
+        roles.emplace(role, columnsOf(columns, where));
+    }
     return roles;
 }
 

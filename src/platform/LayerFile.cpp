@@ -4,7 +4,7 @@ namespace vlt::platform {
 
 Result<Done> writeLayerFile(const QString &path, const QString &text, Access access)
 {
-    const Result<Done> written = writeWhole(path, text.toUtf8(), access);
+    Result<Done> written = writeWhole(path, text.toUtf8(), access);
     if (!written)
         return cannotCreateLayer(path, written.error().detail);
     return written;

@@ -201,8 +201,8 @@ Words withoutEnds(const Words &words, const Vocabulary &vocabulary)
 {
     Words rest = words;
     const NameReader reader(words, vocabulary);
-    for (auto token = reader.tokens().rbegin(); token != reader.tokens().rend(); ++token)
-        eraseWords(rest, token->first, token->count);
+    std::for_each(reader.tokens().rbegin(), reader.tokens().rend(),
+                  [&rest](const auto &token) { eraseWords(rest, token.first, token.count); });
     return rest;
 }
 

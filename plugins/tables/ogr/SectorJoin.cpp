@@ -58,7 +58,7 @@ bool addTransmitters(SectorRows &rows, const SecondTable &sectors, SiteIndex &in
     while (rows.advance()) {
         SectorRow &row = rows.row();
         if (row.site)
-            index.addTransmitters(*row.site, std::move(row.transmitters));
+            index.addTransmitters(*row.site, row.transmitters);
         found = found || row.site;
         for (RowProblem &problem : row.problems)
             problems.add(sectors.located(std::move(problem)));

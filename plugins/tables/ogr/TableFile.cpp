@@ -150,9 +150,9 @@ std::shared_ptr<TableFile> TableFile::open(const std::string &path, const TableO
 /// found.
 Table TableFile::readByMapping(std::vector<RowProblem> &problems) const
 {
-    const auto &[mappingPath, mapping, fault] = m_options.mapping;
-    if (!fault.empty())
-        problems.push_back({0, {}, false, fault});
+    const contract::ColumnMapping &mapping = m_options.mapping.mapping;
+    if (!m_options.mapping.fault.empty())
+        problems.push_back({0, {}, false, m_options.mapping.fault});
     TableHints hints = hintsOf(m_options, installedVocabulary().words);
     hints.headerRows = mapping.headerRows;
     const auto readBy = [&](TableHints of) {
@@ -176,11 +176,12 @@ Table TableFile::readByMapping(std::vector<RowProblem> &problems) const
             if (refused.reason() != Refusal::BadOption)
                 throw;
         }
-        problems.push_back({0,
-                            {},
-                            false,
-                            contract::formatted("MESS_TAB_MAPPING_SHEET",
-                                                {fileName(mappingPath), mapping.sheet})});
+        problems.push_back(
+            {0,
+             {},
+             false,
+             contract::formatted("MESS_TAB_MAPPING_SHEET",
+                                 {fileName(m_options.mapping.path), mapping.sheet})});
         return readBy(hints);
     };
     Table table = read();
@@ -192,7 +193,7 @@ Table TableFile::readByMapping(std::vector<RowProblem> &problems) const
             {0,
              {},
              false,
-             contract::formatted("MESS_TAB_MAPPING_HEADER", {fileName(mappingPath)})});
+             contract::formatted("MESS_TAB_MAPPING_HEADER", {fileName(m_options.mapping.path)})});
     return table;
 }
 
@@ -264,12 +265,11 @@ void TableFile::readSites(TableFacts &facts)
             problems.clear();
             cells.take(walk->cells(), problems);
             const int64_t row = walk->rowNumber();
-            auto found = reader.read(row, cells.cells(), problems);
+            const auto found = reader.read(row, cells.cells(), problems);
             if (roles.shape == SiteShape::Lists)
                 transmitters = std::max(transmitters, found.size());
             else
-                index->add(row, cells.cells(), positions.read(row, cells.cells(), problems),
-                           std::move(found));
+                index->add(row, cells.cells(), positions.read(row, cells.cells(), problems), found);
         }
         index->finish();
         if (roles.shape == SiteShape::Tall) {

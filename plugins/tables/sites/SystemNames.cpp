@@ -49,6 +49,7 @@ std::vector<std::string> systemsNamed(const TableProfile &table, const PointFiel
     std::stable_sort(found.begin(), found.end(),
                      [](const auto &a, const auto &b) { return a.first > b.first; });
     std::vector<std::string> codes;
+    codes.reserve(found.size());
     for (auto &[words, code] : found)
         codes.push_back(std::move(code));
     return codes;
