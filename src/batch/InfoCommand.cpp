@@ -193,28 +193,55 @@ CommandSyntax syntax()
     return syntax;
 }
 
-ExitStatus run(const QCommandLineParser &parser, const GlobalOptions &options)
+/// How each table is to be read.
+///
+/// @par Errors   those of a wrong usage.
+Result<QList<tables::TableReading>> readReadings(const QCommandLineParser &parser, bool isLinks)
 {
-    const bool isLinks = parser.isSet(QStringLiteral("link"));
     if (isLinks && parser.isSet(QStringLiteral("sectors")))
-        return refuseUsage(wrongUsage(
-            dico_label("MESS_USE_SECTORS_OF_LINKS", "--sectors and --link cannot be combined")));
+        return wrongUsage(
+            dico_label("MESS_USE_SECTORS_OF_LINKS", "--sectors and --link cannot be combined"));
     if (!isLinks && parser.isSet(QStringLiteral("sites")))
-        return refuseUsage(
-            wrongUsage(dico_label("MESS_USE_SITES_OF_LINKS", "--sites needs --link")));
+        return wrongUsage(dico_label("MESS_USE_SITES_OF_LINKS", "--sites needs --link"));
     const QStringList tables = parser.positionalArguments();
     const auto kind = isLinks ? contract::TableKind::Links : contract::TableKind::Sites;
     QList<tables::TableReading> readings;
     for (const QString &table : tables) {
         const Result<tables::TableReading> reading = readReading(parser, kind, table);
         if (!reading)
-            return refuseUsage(reading.error());
+            return reading.error();
         readings << reading.value();
     }
     if (tables.size() > 1 && !parser.value(QStringLiteral("write-mapping")).isEmpty())
-        return refuseUsage(wrongUsage(
+        return wrongUsage(
             dico_label("MESS_USE_ONE_MAPPING",
-                       "--write-mapping with the name of a file can be used with one table only")));
+                       "--write-mapping with the name of a file can be used with one table only"));
+    return readings;
+}
+
+/// Prints the results of all tables, as text with empty lines between them.
+ExitStatus printReports(const QList<Result<InfoReport>> &outcomes, bool json)
+{
+    if (json && outcomes.size() > 1)
+        return printJson(outcomes);
+    ExitStatus status = ExitStatus::Done;
+    for (const Result<InfoReport> &outcome : outcomes) {
+        if (const ExitStatus reported = printReport(outcome, json); reported != ExitStatus::Done)
+            status = reported;
+        if (&outcome != &outcomes.constLast())
+            printOut(QStringLiteral("\n"));
+    }
+    return status;
+}
+
+ExitStatus run(const QCommandLineParser &parser, const GlobalOptions &options)
+{
+    const bool isLinks = parser.isSet(QStringLiteral("link"));
+    const QStringList tables = parser.positionalArguments();
+    Result<QList<tables::TableReading>> read = readReadings(parser, isLinks);
+    if (!read)
+        return refuseUsage(read.error());
+    QList<tables::TableReading> readings = read.value();
     if (const auto error = checkMapping(parser))
         return refuse(*error);
     StatedMappings stated;
@@ -255,18 +282,7 @@ ExitStatus run(const QCommandLineParser &parser, const GlobalOptions &options)
         if (!written)
             return refuse(written.error());
     }
-    if (options.json && outcomes.size() > 1)
-        return printJson(outcomes);
-
-    ExitStatus status = ExitStatus::Done;
-    for (const Result<InfoReport> &outcome : outcomes) {
-        if (const ExitStatus reported = printReport(outcome, options.json);
-            reported != ExitStatus::Done)
-            status = reported;
-        if (&outcome != &outcomes.constLast())
-            printOut(QStringLiteral("\n"));
-    }
-    return status;
+    return printReports(outcomes, options.json);
 }
 
 } // namespace
