@@ -36,7 +36,7 @@ QString dashed(const QString &name)
 QString typed(const QString &name, const QStringList &arguments)
 {
     for (const QString &argument : arguments.mid(1)) {
-        const QString option = argument.section(QLatin1Char('='), 0, 0);
+        QString option = argument.section(QLatin1Char('='), 0, 0);
         if (option == QLatin1String("--") + name ||
             (name.size() == 1 && option.startsWith(QLatin1Char('-')) &&
              !option.startsWith(QLatin1String("--")) && option.mid(1).contains(name)))

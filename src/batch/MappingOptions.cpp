@@ -94,7 +94,7 @@ QCommandLineOption mappingOption()
 
 QString readMappingOption(const QCommandLineParser &parser, const QString &table)
 {
-    const QString path = parser.value(Mapping);
+    QString path = parser.value(Mapping);
     if (path == QLatin1String(contract::query::NoMapping))
         return path;
     if (path.isEmpty())

@@ -59,8 +59,7 @@ Result<Done> writeRowOutputs(const RowOutputs &outputs, const QString &connectio
     ProgressLine line(dico_label("MESS_CLI_READING_ROWS", "Reading the rows"), !quiet);
     // The progress line never stops the work, so there is a value.
     if (!outputs.report.isEmpty()) {
-        if (const auto done = *tables::writeRowReport(connection, outputs.report, line.progress());
-            !done)
+        if (auto done = *tables::writeRowReport(connection, outputs.report, line.progress()); !done)
             return done;
     }
     if (!outputs.rejects.isEmpty())

@@ -26,7 +26,7 @@ QStringList textsIn(const QJsonObject &object, const char *name)
 QList<qint64> numbersIn(const QJsonObject &object, const char *name)
 {
     QList<qint64> numbers;
-    for (const QJsonValue &number : listIn(object, name))
+    for (const QJsonValue number : listIn(object, name))
         numbers << number.toInteger();
     return numbers;
 }
@@ -48,10 +48,10 @@ Result<TableExcerpt> readTableExcerpt(const QString &connection)
     read.sheets = textsIn(object, excerpt::Sheets);
     read.headerRows = numbersIn(object, excerpt::HeaderRows);
     read.furtherRows = numbersIn(object, excerpt::FurtherRows);
-    for (const QJsonValue &column : listIn(object, excerpt::Columns))
+    for (const QJsonValue column : listIn(object, excerpt::Columns))
         read.columns.append({column[QLatin1String(excerpt::Name)].toString(),
                              column[QLatin1String(excerpt::Position)].toInt()});
-    for (const QJsonValue &row : listIn(object, excerpt::Rows))
+    for (const QJsonValue row : listIn(object, excerpt::Rows))
         read.rows.append({row[QLatin1String(excerpt::Row)].toInteger(),
                           textsIn(row.toObject(), excerpt::Cells)});
     return read;

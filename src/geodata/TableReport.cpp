@@ -9,6 +9,8 @@
 
 #include <iconv.h>
 
+#include <cstdint>
+
 namespace vlt::geodata {
 
 namespace {
@@ -73,7 +75,7 @@ QByteArray recoded(const QByteArray &text, const QByteArray &encoding)
     if (encoding.isEmpty() || encoding.startsWith("UTF"))
         return text;
     const iconv_t converter = iconv_open(encoding.constData(), "UTF-8");
-    if (converter == iconv_t(-1))
+    if (reinterpret_cast<std::intptr_t>(converter) == -1)
         return text;
     constexpr qsizetype MaxBytesPerByte = 4;
     QByteArray result(text.size() * MaxBytesPerByte, Qt::Uninitialized);
