@@ -29,7 +29,7 @@ private Q_SLOTS:
         const QJsonObject counts = table.value(u"counts"_s).toObject();
         QCOMPARE(ends.size(), 2 * counts.value(u"links"_s).toInt());
 
-        for (const QJsonValue &link : table.value(u"links"_s).toArray()) {
+        for (const auto &link : table.value(u"links"_s).toArray()) {
             const QString difference = differenceOf(link.toObject(), ends);
             QVERIFY2(difference.isEmpty(), qPrintable(difference));
         }
@@ -124,7 +124,7 @@ private:
         const QJsonObject roles = table.value(u"roles"_s).toObject();
         for (auto role = roles.begin(); role != roles.end(); ++role) {
             QStringList columns;
-            for (const QJsonValue &column : role.value().toArray())
+            for (const auto &column : role.value().toArray())
                 columns += column.toString();
             if (role.value().isString())
                 columns += role.value().toString();
@@ -174,7 +174,7 @@ private:
     static QStringList expectedProblemRows(const QJsonObject &table)
     {
         QStringList rows;
-        for (const QJsonValue &problem : table.value(u"problems"_s).toArray())
+        for (const auto &problem : table.value(u"problems"_s).toArray())
             rows += QString::number(problem.toObject().value(u"row"_s).toInt()) + u'|' +
                     problem.toObject().value(u"column"_s).toString();
         return rows;

@@ -48,7 +48,7 @@ private Q_SLOTS:
     {
         QFETCH(QJsonObject, table);
         QStringList expected;
-        for (const QJsonValue &problem : table.value(u"problems"_s).toArray()) {
+        for (const auto &problem : table.value(u"problems"_s).toArray()) {
             const QString row = plainText(problem[u"row"_s]);
             const QString column = problem[u"column"_s].toString();
             const bool isOfSecond = problem[u"file"_s].isString() || problem[u"sheet"_s].isString();
@@ -118,7 +118,7 @@ private:
     {
         QStringList columns;
         const QJsonArray array = value.isArray() ? value.toArray() : QJsonArray{value};
-        for (const QJsonValue &column : array) {
+        for (const auto &column : array) {
             if (column.isString())
                 columns += column.toString().simplified();
         }
@@ -130,7 +130,7 @@ private:
     {
         static const QStringList Others = {u"value"_s, u"position"_s, u"conflict"_s};
         QStringList kinds;
-        for (const QJsonValue &problem : table.value(u"problems"_s).toArray()) {
+        for (const auto &problem : table.value(u"problems"_s).toArray()) {
             const QString kind = problem.toObject().value(u"kind"_s).toString();
             if (!Others.contains(kind))
                 kinds += kind;
@@ -171,7 +171,7 @@ private:
                              const QStringList &names)
     {
         for (const QString &name : names) {
-            if (const QString text = fieldText(feature, prefix + name); !text.isEmpty())
+            if (QString text = fieldText(feature, prefix + name); !text.isEmpty())
                 return text;
         }
         return {};
@@ -275,13 +275,13 @@ private:
         const GDALDatasetUniquePtr dataset = open(table, "site:");
         if (!dataset)
             return u"cannot be opened: "_s + warnings.texts.join(u' ');
-        if (const QString difference = differenceOfHeader(table, *dataset->GetLayer(0));
+        if (QString difference = differenceOfHeader(table, *dataset->GetLayer(0));
             !difference.isEmpty())
             return difference;
         const QList<Site> sites = sitesOf(*dataset->GetLayer(0));
         const int expected = table.value(u"counts"_s).toObject().value(u"sites"_s).toInt();
-        for (const QJsonValue &site : table.value(u"sites"_s).toArray()) {
-            const QString difference = differenceOf(site.toObject(), sites);
+        for (const auto &site : table.value(u"sites"_s).toArray()) {
+            QString difference = differenceOf(site.toObject(), sites);
             if (!difference.isEmpty())
                 return difference;
         }

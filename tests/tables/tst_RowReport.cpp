@@ -30,8 +30,8 @@ private Q_SLOTS:
                           "SITE ID;LONGITUDE;LATITUDE;HEIGHT\n\nB;2.4;north;25\nC;2.5;48.7;20\n"
                           "Total;;;3\n")
             << QByteArrayList{"4 used A 4", "5 left out: the row repeats the header",
-                              "7 left out B Latitude: the coordinate \"north\" cannot be read: it "
-                              "holds no number",
+                              QByteArray("7 left out B Latitude: the coordinate \"north\" ") +
+                                  "cannot be read: it holds no number",
                               "8 used C 8", "9 left out: a row of sums is left out"};
         QTest::newRow("rows of transmitters")
             << QByteArray("site:")
@@ -39,8 +39,8 @@ private Q_SLOTS:
                           "A;2.3;48.8;1200;30\nA;2.3;48.8;240;30\nB;;;0;20\nB;;;120;20\n"
                           "C;;;0;20\nC;2.5;48.7;90;20\n")
             << QByteArrayList{"2 used A 2",
-                              "3 left out A Azimuth: the azimuth \"1200\" cannot be used: the "
-                              "transmitter is left out",
+                              QByteArray("3 left out A Azimuth: the azimuth \"1200\" cannot ") +
+                                  "be used: the transmitter is left out",
                               "4 merged A 2",
                               "5 left out B Longitude: the coordinate is empty",
                               "6 left out B: the site \"B\" has no position",

@@ -189,7 +189,7 @@ vlt::Result<vlt::Done> DraggableIcon::copyTo(const QString &target) const
     QFile layer(m_layerFile);
     if (!layer.open(QIODevice::ReadOnly))
         return vlt::platform::cannotCreateLayer(target, layer.errorString());
-    const auto written =
+    auto written =
         vlt::platform::writeWhole(target, layer.readAll(), vlt::platform::Access::Shared);
     if (!written)
         return vlt::platform::cannotCreateLayer(target, written.error().detail);
