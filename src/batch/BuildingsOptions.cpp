@@ -92,6 +92,13 @@ QList<QCommandLineOption> texturedOptions()
         {QStringLiteral("no-complex-buildings"),
          dico_label("MESS_OPT_NO_COMPLEX_BUILDINGS",
                     "No images on buildings with courtyards or many corners.")},
+    };
+}
+
+/// How the images of buildings are kept in memory and drawn.
+QList<QCommandLineOption> textureStorageOptions()
+{
+    return {
         {QStringLiteral("cache"),
          dico_label("MESS_OPT_CACHE", "Finished buildings that the builder stores (default none)."),
          choiceOf(contract::CacheModeWords)},
@@ -179,7 +186,8 @@ QList<QCommandLineOption> buildingsOptions()
         {QStringLiteral("check-clockwise"),
          dico_label("MESS_OPT_CHECK_CLOCKWISE", "Check the directions of the outlines.")},
     };
-    return inputs + numberOptionList(buildingsNumbers()) + coloredOptions() + texturedOptions();
+    return inputs + numberOptionList(buildingsNumbers()) + coloredOptions() + texturedOptions() +
+           textureStorageOptions();
 }
 
 } // namespace vlt::batch
