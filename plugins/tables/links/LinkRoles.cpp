@@ -1,14 +1,12 @@
 #include "plugins/tables/links/LinkRoles.h"
 
-#include "contract/TableTexts.h"
 #include "plugins/tables/cells/Cell.h"
-#include "plugins/tables/roles/ColumnFacts.h"
-#include "plugins/tables/roles/RoleEvidence.h"
+#include "plugins/tables/sites/RoleCandidate.h"
+#include "plugins/tables/sites/SampledTable.h"
 #include "plugins/tables/values/TransmitterValues.h"
 
 #include <algorithm>
 #include <optional>
-#include <set>
 #include <utility>
 
 namespace vlt::driver {
@@ -90,33 +88,23 @@ std::pair<Role, LinkEndId> statedRole(std::string_view name)
     return {roleOfEnd(roleOfName(name)), end};
 }
 
-/// A role that a field may have.
-struct Candidate
-{
-    int field = 0;
-    Role role = Role::None;
-    LinkEndId end = LinkEndId::None;
-    double score = 0;
-};
+using Candidate = RoleCandidate<LinkEndId>;
 
 class Finder
 {
 public:
     Finder(const TableProfile &table, const FoundEnds &ends, const Vocabulary &vocabulary,
            const StatedRoles &stated)
-        : m_table(table)
+        : m_table(table, vocabulary, stated)
         , m_ends(ends)
         , m_vocabulary(vocabulary)
-        , m_stated(stated)
-        , m_facts(table.fields.size())
     {}
 
     LinkRoles find()
     {
-        for (std::size_t i = 0; i < m_table.fields.size(); ++i) {
-            const int field = static_cast<int>(i);
+        for (int field = 0; field < m_table.fieldCount(); ++field) {
             if (!m_ends.points[0].uses(field) && !m_ends.points[1].uses(field) &&
-                !m_stated.fields.contains(field))
+                !m_table.stated().fields.contains(field))
                 addCandidates(field);
         }
         useStated();
@@ -134,20 +122,10 @@ private:
         return m_ends.names[static_cast<std::size_t>(field)];
     }
 
-    const std::vector<std::string> &cellsOf(int field) const
+    Words allWords(int field) const
     {
-        return m_table.sampledColumns[static_cast<std::size_t>(field)];
+        return linkWords(m_table.profile().nameWithUnit(field), m_vocabulary);
     }
-
-    const ColumnFacts &factsOfField(int field)
-    {
-        std::optional<ColumnFacts> &facts = m_facts[static_cast<std::size_t>(field)];
-        if (!facts)
-            facts = factsOf(cellsOf(field), m_vocabulary);
-        return *facts;
-    }
-
-    Words allWords(int field) const { return linkWords(m_table.nameWithUnit(field), m_vocabulary); }
 
     void addCandidates(int field)
     {
@@ -168,16 +146,15 @@ private:
     void useStated()
     {
         std::erase_if(m_candidates, [this](const Candidate &candidate) {
-            return m_stated.find(
-                       LinkColumnRole{candidate.field, candidate.role, candidate.end, {}}.name()) !=
-                   nullptr;
+            return m_table.stated().find(
+                       LinkColumnRole{candidate.field, candidate.role, candidate.owner, {}}
+                           .name()) != nullptr;
         });
-        constexpr double Certain = 1e6; // more than any name has
-        for (const auto &[name, fields] : m_stated.roles) {
+        for (const auto &[name, fields] : m_table.stated().roles) {
             const auto [role, end] = statedRole(name);
             for (const int field : fields) {
                 if (field >= 0 && role != Role::None)
-                    m_candidates.push_back({field, role, end, Certain});
+                    m_candidates.push_back({field, role, end, ScoreOfStated, true});
             }
         }
     }
@@ -196,7 +173,7 @@ private:
     void addNumberOfLink(int field, const NameMatch &match)
     {
         constexpr double Score = 40;
-        const ColumnFacts &facts = factsOfField(field);
+        const ColumnFacts &facts = m_table.facts(field);
         if (match.strength >= ClearStrength && facts.distinct * 10 >= facts.filled * 8)
             m_candidates.push_back({field, Role::LinkName, LinkEndId::None, Score});
     }
@@ -204,11 +181,11 @@ private:
     /// "Start" and "End" may also be times.
     bool mayBeTime(int field)
     {
-        const std::vector<std::string> &cells = cellsOf(field);
+        const std::vector<std::string> &cells = m_table.cells(field);
         const auto dates = std::count_if(cells.begin(), cells.end(), [](const std::string &cell) {
             return isDate(trimmed(cell));
         });
-        const ColumnFacts &facts = factsOfField(field);
+        const ColumnFacts &facts = m_table.facts(field);
         return static_cast<std::size_t>(dates) * 2 > facts.filled ||
                (nameOf(field).isWeak && facts.numeric * 2 > facts.filled);
     }
@@ -234,7 +211,8 @@ private:
 
     bool isEmpty(int field)
     {
-        return factsOfField(field).filled == 0 && m_table.rowCount <= cellsOf(field).size();
+        return m_table.facts(field).filled == 0 &&
+               m_table.profile().rowCount <= m_table.cells(field).size();
     }
 
     /// A name is preferred to an id, an "ID" alone may be any number.
@@ -256,10 +234,10 @@ private:
     double fitOfValues(int field, Role role)
     {
         if (role != Role::Frequency)
-            return fitOf(role, factsOfField(field));
+            return fitOf(role, m_table.facts(field));
         std::size_t filled = 0;
         std::size_t readable = 0;
-        for (const std::string &cell : cellsOf(field)) {
+        for (const std::string &cell : m_table.cells(field)) {
             const TransmitterValue value = readFrequency(cell, std::nullopt, {});
             filled += value.isAbsent() ? 0 : 1;
             readable += value.number ? 1 : 0;
@@ -267,44 +245,29 @@ private:
         return filled > 0 ? static_cast<double>(readable) / static_cast<double>(filled) : MinFit;
     }
 
-    std::string evidenceOf(int field, Role role)
-    {
-        if (m_stated.fields.contains(field))
-            return m_stated.evidence;
-        return m_table.header.rows.empty()
-                   ? contract::formatted("MESS_TAB_EVIDENCE_NO_HEADER")
-                   : roleEvidence(m_table.nameInHeader(field), role, factsOfField(field));
-    }
-
-    /// Gives each field one role, and each role of an end or of the link one field: the strongest
-    /// candidates first, then the columns on the left. A repeater may have several columns.
+    /// Gives the columns their roles; several may be those of a repeater.
     void assign()
     {
         constexpr double ScoreByValues = 1000;
         for (Candidate &candidate : m_candidates) {
-            if (isIdentifier(candidate.role) && candidate.field == namedField(candidate.end))
+            if (isIdentifier(candidate.role) && candidate.field == namedField(candidate.owner))
                 candidate.score += ScoreByValues;
         }
-        std::stable_sort(m_candidates.begin(), m_candidates.end(),
-                         [](const Candidate &a, const Candidate &b) { return a.score > b.score; });
-        std::set<std::pair<Role, LinkEndId>> taken;
-        std::set<int> used;
-        for (const Candidate &candidate : m_candidates) {
-            if (used.contains(candidate.field) ||
-                (!taken.emplace(candidate.role, candidate.end).second &&
-                 candidate.role != Role::Repeater))
-                continue;
-            used.insert(candidate.field);
-            m_roles.columns.push_back({candidate.field, candidate.role, candidate.end, {}});
-        }
+        for (const Candidate &chosen : chooseRoles(m_candidates, Role::Repeater))
+            addColumn(chosen.field, chosen.role, chosen.owner);
         for (const LinkEndId end : {LinkEndId::A, LinkEndId::B}) {
-            if (const int field = namedField(end); field >= 0 && !used.contains(field))
-                m_roles.columns.push_back({field, Role::SiteId, end, {}});
+            const int field = namedField(end);
+            if (field >= 0 && std::none_of(m_roles.columns.begin(), m_roles.columns.end(),
+                                           [field](const auto &of) { return of.field == field; }))
+                addColumn(field, Role::SiteId, end);
         }
         std::sort(m_roles.columns.begin(), m_roles.columns.end(),
                   [](const auto &a, const auto &b) { return a.field < b.field; });
-        for (LinkColumnRole &column : m_roles.columns)
-            column.evidence = evidenceOf(column.field, column.role);
+    }
+
+    void addColumn(int field, Role role, LinkEndId end)
+    {
+        m_roles.columns.push_back({field, role, end, m_table.evidence(field, role)});
     }
 
     /// The field with the id or name of an end, if its values showed that.
@@ -353,7 +316,7 @@ private:
     {
         const auto found =
             std::find_if(m_candidates.begin(), m_candidates.end(), [end](const Candidate &of) {
-                return of.role == Role::SeaLevelHeight && of.end == end;
+                return of.role == Role::SeaLevelHeight && of.owner == end;
             });
         return found == m_candidates.end() ? -1 : found->field;
     }
@@ -372,28 +335,16 @@ private:
     {
         std::vector<LinkColumnRole> columns;
         for (std::size_t at = 0; at < m_ends.points.size(); ++at) {
-            const PointFields &point = m_ends.points[at];
-            const auto add = [&](int field, Role role) {
-                if (field >= 0)
-                    columns.push_back({field, role, at == 0 ? LinkEndId::A : LinkEndId::B,
-                                       evidenceOf(field, role)});
-            };
-            for (const auto &[fields, role] :
-                 {std::pair(point.x, Role::X), std::pair(point.y, Role::Y)}) {
-                for (const int field :
-                     {fields.value, fields.minutes, fields.seconds, fields.hemisphere})
-                    add(field, role);
-            }
-            add(point.pair, Role::Pair);
+            const LinkEndId end = at == 0 ? LinkEndId::A : LinkEndId::B;
+            for (const auto &[field, role] : m_ends.points[at].roles())
+                columns.push_back({field, role, end, m_table.evidence(field, role)});
         }
         m_roles.columns.insert(m_roles.columns.begin(), columns.begin(), columns.end());
     }
 
-    const TableProfile &m_table;
+    SampledTable m_table;
     const FoundEnds &m_ends;
     const Vocabulary &m_vocabulary;
-    const StatedRoles &m_stated;
-    std::vector<std::optional<ColumnFacts>> m_facts;
     std::vector<Candidate> m_candidates;
     LinkRoles m_roles;
 };

@@ -152,10 +152,7 @@ private:
 
     bool isSectorWord(std::size_t at) const
     {
-        if (at >= m_words.size() || m_isTaken[at])
-            return false;
-        const WordMeaning *meaning = m_vocabulary.find(m_words[at]);
-        return meaning && meaning->isSector;
+        return at < m_words.size() && !m_isTaken[at] && m_vocabulary.isSectorWord(m_words[at]);
     }
 
     /// Marks the words of sites, sectors and units; some of them are phrases.

@@ -90,6 +90,12 @@ public:
     const WordMeaning *find(std::string_view joinedWords) const;
     /// Maximum number of words of a phrase.
     std::size_t longestPhrase() const { return m_longestPhrase; }
+    /// Whether a word may stand beside the number of a sector.
+    bool isSectorWord(std::string_view word) const
+    {
+        const WordMeaning *meaning = find(word);
+        return meaning && meaning->isSector;
+    }
     /// Whether one of the words of a name rules out that it has a role.
     bool forbids(Role role, const std::vector<std::string> &words) const;
 

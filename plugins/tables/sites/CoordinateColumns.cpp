@@ -56,8 +56,7 @@ Axis axisOf(Role role)
 bool namesSector(const Words &words, const Vocabulary &vocabulary)
 {
     return std::any_of(words.begin(), words.end(), [&](const std::string &word) {
-        const WordMeaning *meaning = vocabulary.find(word);
-        return meaning && meaning->isSector && word.size() > 1;
+        return word.size() > 1 && vocabulary.isSectorWord(word);
     });
 }
 
@@ -342,6 +341,18 @@ bool saysMeters(const std::string &name, const Vocabulary &vocabulary)
 }
 
 } // namespace
+
+std::vector<std::pair<int, Role>> PointFields::roles() const
+{
+    std::vector<std::pair<int, Role>> roles;
+    for (const auto &[of, role] : {std::pair(x, Role::X), std::pair(y, Role::Y)}) {
+        for (const int field : {of.value, of.minutes, of.seconds, of.hemisphere})
+            roles.emplace_back(field, role);
+    }
+    roles.emplace_back(pair, Role::Pair);
+    std::erase_if(roles, [](const auto &of) { return of.first < 0; });
+    return roles;
+}
 
 PointFields findPoint(const FieldWords &words, const std::vector<Field> &fields,
                       const Vocabulary &vocabulary, const StatedRoles &stated)

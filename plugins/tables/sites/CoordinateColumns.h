@@ -58,6 +58,8 @@ struct PointFields
     {
         return field >= 0 && (field == pair || x.uses(field) || y.uses(field));
     }
+    /// The fields of the position with their roles: x, y or pair.
+    std::vector<std::pair<int, Role>> roles() const;
     /// The field that is reported if a coordinate cannot be used.
     int xField() const { return pair >= 0 ? pair : x.value; }
     int yField() const { return pair >= 0 ? pair : y.value; }
