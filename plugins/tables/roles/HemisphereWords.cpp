@@ -32,12 +32,15 @@ void HemisphereWords::add(Direction direction, std::string_view word, std::uint3
     const std::string key = folded(word);
     const std::vector<std::size_t> ends = characterEnds(key);
     const bool isOneWord = key.find_first_of(" .'\"") == std::string::npos;
-    if (!isOneWord || ends.size() < MinCharacters || key.size() > MaxWordSize)
+    const bool isLetter = ends.size() < MinCharacters;
+    if (!isOneWord || ends.empty() || (isLetter && languages != 0) || key.size() > MaxWordSize)
         return;
+    const std::uint32_t bit = std::uint32_t{1} << static_cast<unsigned>(direction);
+    m_starts[key].ofWholeWord |= bit;
     const std::size_t first = std::min(MinCharactersOfStart, ends.size());
     for (std::size_t count = first; count <= ends.size(); ++count) {
         Entry &entry = m_starts[key.substr(0, ends[count - 1])];
-        entry.directions |= std::uint32_t{1} << static_cast<unsigned>(direction);
+        entry.directions |= bit;
         entry.languages |= languages;
     }
 }
@@ -52,6 +55,17 @@ std::optional<HemisphereWords::Meaning> HemisphereWords::find(std::string_view t
         return std::nullopt;
     return Meaning{static_cast<Direction>(std::countr_zero(found->second.directions)),
                    found->second.languages, key.front() == 'o'};
+}
+
+bool HemisphereWords::isInNames(Direction direction, std::string_view word) const
+{
+    constexpr std::size_t MinWordSize = 3; // B is west in Turkish, and an end of a link
+    if (word.size() > MaxWordSize)
+        return false;
+    const auto found = m_starts.find(folded(word));
+    return found != m_starts.end() &&
+           (found->second.ofWholeWord >> static_cast<unsigned>(direction) & 1) != 0 &&
+           (word.size() == 1 || word.size() >= MinWordSize);
 }
 
 } // namespace vlt::driver

@@ -251,16 +251,6 @@ void Vocabulary::addWordsOfValues(const Json &root)
                                    std::pair("omni", &m_omni)})
         forEachText(sectionOf(root, name),
                     [to = to](const std::string &word) { to->insert(word); });
-    const Json hemispheres = sectionOf(root, "hemispheres");
-    for (const auto &[name, to] : {std::pair("west", &m_west), std::pair("south", &m_south)}) {
-        const Json *words = memberOf(hemispheres, name);
-        const Json all = Json::array({words ? *words : Json::object()});
-        forEachLanguage(all, [to = to](const std::string &language, const std::string &word) {
-            constexpr std::size_t MinWordSize = 3; // B is west in Turkish, and an end of a link
-            if (language == "any" || word.size() >= MinWordSize)
-                to->insert(word);
-        });
-    }
 }
 
 void Vocabulary::add(std::string_view text)

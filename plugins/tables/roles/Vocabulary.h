@@ -105,18 +105,12 @@ public:
     bool isTotal(std::string_view text) const { return m_totals.contains(text); }
     /// Whether a text in a column of azimuths means all directions.
     bool isOmni(std::string_view text) const { return m_omni.contains(text); }
-    /// Whether a word of a column name means west or, for latitudes, south. Of the letters, only
-    /// W and S do, because others have several meanings.
-    bool isNegativeHemisphere(std::string_view word, bool ofLongitudes) const
-    {
-        return (ofLongitudes ? m_west : m_south).contains(word);
-    }
     /// The number of a sector from its name: alpha is 1. 0 for other words.
     int numberOfSectorName(std::string_view word) const;
     /// The systems of countries, those of a user first.
     const std::vector<NamedSystem> &systems() const { return m_systems; }
 
-    /// The words for directions in values.
+    /// The words for directions in values and names.
     const HemisphereWords &hemispheres() const { return m_hemispheres; }
     /// The sign of longitudes with the letter O in all of some languages, given as bits: -1 for
     /// west, 1 for east, 0 if these languages differ or have no such letter.
@@ -150,10 +144,8 @@ private:
     ValueWordSet m_totals;
     ValueWordSet m_omni;
     std::unordered_map<std::string, int> m_sectorNames; ///< folded
-    ValueWordSet m_west;
-    ValueWordSet m_south;
-    std::vector<std::string> m_languages; ///< in the order of their bits
-    std::uint32_t m_westO = 0;            ///< languages in which O is west
+    std::vector<std::string> m_languages;               ///< in the order of their bits
+    std::uint32_t m_westO = 0;                          ///< languages in which O is west
     std::uint32_t m_eastO = 0;
     HemisphereWords m_hemispheres;
     std::vector<NamedSystem> m_systems;

@@ -294,8 +294,9 @@ CoordinateFields coordinateFields(const std::vector<CoordinateName> &names,
 bool saysNegative(const Words &name, const Words &nameOfOther, Axis axis,
                   const Vocabulary &vocabulary)
 {
+    const Direction negative = axis == Axis::X ? Direction::West : Direction::South;
     return std::any_of(name.begin(), name.end(), [&](const std::string &word) {
-        return vocabulary.isNegativeHemisphere(word, axis == Axis::X) &&
+        return vocabulary.hemispheres().isInNames(negative, word) &&
                std::find(nameOfOther.begin(), nameOfOther.end(), word) == nameOfOther.end();
     });
 }
