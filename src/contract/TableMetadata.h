@@ -46,10 +46,9 @@ inline constexpr char RolePrefix[] = "ROLE_";
 inline constexpr char RoleSeparator = '|';
 inline constexpr char MappingItem[] = "MAPPING"; ///< path of the mapping file in use; else absent
 
-// The domain of mappings has the text of a mapping file that states all that is recognised and all
-// that the mapping file in use states, see ColumnMapping.h.
-inline constexpr char MappingDomain[] = "mapping";
-inline constexpr char MappingText[] = "JSON";
+/// The domain with the text of a mapping file that states all that is recognised and all that the
+/// mapping file in use states. Its only item is a JSON object, see ColumnMapping.h.
+inline constexpr char MappingDomain[] = "json:MAPPING";
 
 /// The domain of the dataset with the first rows of the table. Its only item is a JSON object:
 /// {"sheet": name, "sheets": [names], "headerRows": [numbers], "furtherRows": [numbers],

@@ -11,10 +11,9 @@ Result<QString> readTableMapping(const QString &connection)
     const auto dataset = openTable(connection, errors);
     if (!dataset)
         return dataset.error();
-    namespace metadata = contract::metadata;
     OGRLayer *layer = dataset.value()->GetLayer(0);
-    return QString::fromUtf8(
-        layer ? layer->GetMetadataItem(metadata::MappingText, metadata::MappingDomain) : nullptr);
+    char **items = layer ? layer->GetMetadata(contract::metadata::MappingDomain) : nullptr;
+    return QString::fromUtf8(items ? *items : nullptr);
 }
 
 } // namespace vlt::geodata

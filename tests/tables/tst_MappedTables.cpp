@@ -106,8 +106,7 @@ private Q_SLOTS:
 
         QCOMPARE(QString::fromStdString(link->GetGeometryRef()->exportToWkt()),
                  u"LINESTRING (2 48,3 49)"_s);
-        QVERIFY(
-            QByteArray(layer.GetMetadataItem("JSON", "mapping")).contains("\"frequency\": \"T\""));
+        QVERIFY(QByteArray(*layer.GetMetadata("json:MAPPING")).contains("\"frequency\": \"T\""));
     }
 
     void keepsWhatItRecognised_data()
@@ -146,8 +145,7 @@ private Q_SLOTS:
         GDALDatasetUniquePtr dataset = m_folder.open(prefix + options, file);
         QVERIFY(dataset);
         const QStringList before = contentOf(*dataset);
-        m_folder.write(file + ".columns.json",
-                       dataset->GetLayer(0)->GetMetadataItem("JSON", "mapping"));
+        m_folder.write(file + ".columns.json", *dataset->GetLayer(0)->GetMetadata("json:MAPPING"));
         dataset = m_folder.open(prefix, file);
         QVERIFY(dataset);
 

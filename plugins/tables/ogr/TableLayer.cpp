@@ -5,14 +5,13 @@
 #include "contract/TableTexts.h"
 #include "plugins/tables/bytes/Refusal.h"
 #include "plugins/tables/ogr/Guarded.h"
+#include "plugins/tables/ogr/MetadataItems.h"
 #include "plugins/tables/ogr/RecognisedMapping.h"
 #include "plugins/tables/ogr/ReportLayer.h"
 #include "plugins/tables/roles/Vocabulary.h"
-#include "plugins/tables/sites/SystemNames.h"
 
 #include <cpl_conv.h>
 #include <cpl_error.h>
-#include <cpl_string.h>
 
 #include <cmath>
 #include <cstring>
@@ -72,24 +71,8 @@ TableLayer::TableLayer(TableSource source, const std::string &name, int partCoun
     OGRLayer::SetMetadataItem(metadata::HeaderRows, headerRows(facts().table.header).c_str());
     if (const std::string &encoding = facts().table.encoding.name; !encoding.empty())
         OGRLayer::SetMetadataItem(metadata::Encoding, encoding.c_str());
-    setSystems();
-}
-
-/// Sets the systems that may be that of a table in metres: NAMED has the EPSG codes of those that
-/// the table names in words, KNOWN those of all that the vocabulary has, separated by blanks.
-void TableLayer::setSystems()
-{
-    if (facts().declaration().unit != CoordinateUnit::Meters)
-        return;
-    const Vocabulary &vocabulary = installedVocabulary().words;
-    std::string named;
-    for (const std::string &code : systemsNamed(facts().table, facts().point(), vocabulary))
-        named += (named.empty() ? "" : " ") + code;
-    std::string known;
-    for (const NamedSystem &system : vocabulary.systems())
-        known += (known.empty() ? "" : " ") + system.epsg;
-    OGRLayer::SetMetadataItem(metadata::NamedSystems, named.c_str(), metadata::SystemsDomain);
-    OGRLayer::SetMetadataItem(metadata::KnownSystems, known.c_str(), metadata::SystemsDomain);
+    if (declaration.unit == CoordinateUnit::Meters)
+        OGRLayer::SetMetadata(systemItems(facts()).List(), metadata::SystemsDomain);
 }
 
 TableLayer::~TableLayer()
@@ -114,12 +97,8 @@ void TableLayer::defineColumns()
 void TableLayer::addRole(CPLStringList &items, std::string_view role, const std::string &sector,
                          int field, const std::string &evidence) const
 {
-    std::string value;
-    for (const std::string &part :
-         {std::string(role), sector, facts().table.fields[static_cast<std::size_t>(field)].name})
-        value += part + metadata::RoleSeparator;
-    items.SetNameValue((metadata::RolePrefix + std::to_string(items.Count())).c_str(),
-                       (value + evidence).c_str());
+    addRoleItem(items, role, sector, facts().table.fields[static_cast<std::size_t>(field)].name,
+                evidence);
 }
 
 void TableLayer::setGeometryType(OGRwkbGeometryType type)
@@ -413,66 +392,31 @@ const TableSurvey &TableLayer::surveyed()
     return *survey;
 }
 
-char **TableLayer::problemsMetadata()
-{
-    if (m_problemsItems.Count() > 0)
-        return m_problemsItems.List();
-    const ProblemList &problems = surveyed().problems;
-    m_problemsItems.SetNameValue(metadata::ProblemCount, std::to_string(problems.count()).c_str());
-    std::size_t number = 0;
-    for (const RowProblem &problem : problems.kept()) {
-        const std::string row = problem.row > 0 ? std::to_string(problem.row) : std::string();
-        const char *severity =
-            problem.isError ? metadata::ErrorSeverity : metadata::WarningSeverity;
-        const std::string value = metadata::ProblemPrefix + std::to_string(++number) + '=' + row +
-                                  metadata::ProblemSeparator + problem.column +
-                                  metadata::ProblemSeparator + severity +
-                                  metadata::ProblemSeparator + problem.text;
-        m_problemsItems.AddString(value.c_str());
-    }
-    return m_problemsItems.List();
-}
-
-char **TableLayer::doctorMetadata()
-{
-    if (m_doctorItems.Count() > 0)
-        return m_doctorItems.List();
-    const std::vector<Finding> &findings = surveyed().findings;
-    m_doctorItems.SetNameValue(metadata::FindingCount, std::to_string(findings.size()).c_str());
-    std::size_t number = 0;
-    for (const Finding &finding : findings) {
-        const std::string value = metadata::FindingPrefix + std::to_string(++number) + '=' +
-                                  std::string(findingWord(finding.kind)) +
-                                  metadata::FindingSeparator + finding.cure +
-                                  metadata::FindingSeparator + finding.text;
-        m_doctorItems.AddString(value.c_str());
-    }
-    return m_doctorItems.List();
-}
-
-char **TableLayer::rowsMetadata()
-{
-    if (m_rowsItems.Count() == 0)
-        guarded([this] { m_rowsItems = countRows(m_source); });
-    return m_rowsItems.List();
-}
-
 std::optional<char **> TableLayer::ownMetadata(const char *domain)
 {
-    if (listsProblems() && domain && EQUAL(domain, contract::report::RowsDomain))
-        return rowsMetadata();
-    if (listsProblems() && domain && EQUAL(domain, metadata::ProblemsDomain))
-        return problemsMetadata();
-    if (listsProblems() && domain && EQUAL(domain, metadata::DoctorDomain))
-        return doctorMetadata();
-    if (domain && EQUAL(domain, metadata::MappingDomain)) {
+    const auto isAsked = [domain](const char *own) { return domain && EQUAL(domain, own); };
+    if (listsProblems() && isAsked(contract::report::RowsDomain)) {
+        if (m_rowsItems.Count() == 0)
+            guarded([this] { m_rowsItems = countRows(m_source); });
+        return m_rowsItems.List();
+    }
+    if (listsProblems() && isAsked(metadata::ProblemsDomain)) {
+        if (m_problemsItems.Count() == 0)
+            m_problemsItems = problemItems(surveyed().problems);
+        return m_problemsItems.List();
+    }
+    if (listsProblems() && isAsked(metadata::DoctorDomain)) {
+        if (m_doctorItems.Count() == 0)
+            m_doctorItems = findingItems(surveyed().findings);
+        return m_doctorItems.List();
+    }
+    if (isAsked(metadata::MappingDomain)) {
         if (m_mappingItems.empty())
-            m_mappingItems.SetNameValue(
-                metadata::MappingText,
+            m_mappingItems.AddString(
                 contract::writeMapping(recognisedMapping(*m_source.file)).c_str());
         return m_mappingItems.List();
     }
-    if (!domain || !EQUAL(domain, metadata::RolesDomain))
+    if (!isAsked(metadata::RolesDomain))
         return std::nullopt;
     if (!m_rolesItems) {
         m_rolesItems = rolesMetadata();

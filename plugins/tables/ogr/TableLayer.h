@@ -108,7 +108,6 @@ private:
         std::optional<TableSurvey> survey;
     };
 
-    void setSystems();
     Walk startWalk();
     std::unique_ptr<OGRFeature> makeFeature(const TableRow &row, int part);
     std::unique_ptr<OGRFeature> readFeature();
@@ -119,9 +118,6 @@ private:
     void finish(TableSurvey &survey) const;
     const TableSurvey &surveyed();
     ProblemList fileProblems() const;
-    char **problemsMetadata();
-    char **doctorMetadata();
-    char **rowsMetadata();
     /// The items of a domain that this layer makes itself; nothing for another one.
     std::optional<char **> ownMetadata(const char *domain);
     template<typename Action>
@@ -135,7 +131,7 @@ private:
     std::optional<Walk> m_walk;    ///< sequential reading; empty before the first row
     bool m_failed = false;
     std::optional<CPLStringList> m_rolesItems;
-    CPLStringList m_mappingItems;
+    CPLStringList m_mappingItems;  ///< the text of a mapping
     CPLStringList m_problemsItems; ///< the problems of all rows as metadata
     CPLStringList m_doctorItems;   ///< the findings about all positions as metadata
     CPLStringList m_rowsItems;     ///< the numbers of rows by fate as metadata

@@ -1,0 +1,69 @@
+#include "plugins/tables/ogr/MetadataItems.h"
+
+#include "contract/TableMetadata.h"
+#include "plugins/tables/roles/Vocabulary.h"
+#include "plugins/tables/sites/SystemNames.h"
+
+namespace vlt::driver {
+
+namespace metadata = contract::metadata;
+
+CPLStringList problemItems(const ProblemList &problems)
+{
+    CPLStringList items;
+    items.SetNameValue(metadata::ProblemCount, std::to_string(problems.count()).c_str());
+    std::size_t number = 0;
+    for (const RowProblem &problem : problems.kept()) {
+        const std::string row = problem.row > 0 ? std::to_string(problem.row) : std::string();
+        const char *severity =
+            problem.isError ? metadata::ErrorSeverity : metadata::WarningSeverity;
+        const std::string value = metadata::ProblemPrefix + std::to_string(++number) + '=' + row +
+                                  metadata::ProblemSeparator + problem.column +
+                                  metadata::ProblemSeparator + severity +
+                                  metadata::ProblemSeparator + problem.text;
+        items.AddString(value.c_str());
+    }
+    return items;
+}
+
+CPLStringList findingItems(const std::vector<Finding> &findings)
+{
+    CPLStringList items;
+    items.SetNameValue(metadata::FindingCount, std::to_string(findings.size()).c_str());
+    std::size_t number = 0;
+    for (const Finding &finding : findings) {
+        const std::string value = metadata::FindingPrefix + std::to_string(++number) + '=' +
+                                  std::string(findingWord(finding.kind)) +
+                                  metadata::FindingSeparator + finding.cure +
+                                  metadata::FindingSeparator + finding.text;
+        items.AddString(value.c_str());
+    }
+    return items;
+}
+
+CPLStringList systemItems(const TableFacts &facts)
+{
+    const Vocabulary &vocabulary = installedVocabulary().words;
+    std::string named;
+    for (const std::string &code : systemsNamed(facts.table, facts.point(), vocabulary))
+        named += (named.empty() ? "" : " ") + code;
+    std::string known;
+    for (const NamedSystem &system : vocabulary.systems())
+        known += (known.empty() ? "" : " ") + system.epsg;
+    CPLStringList items;
+    items.SetNameValue(metadata::NamedSystems, named.c_str());
+    items.SetNameValue(metadata::KnownSystems, known.c_str());
+    return items;
+}
+
+void addRoleItem(CPLStringList &items, std::string_view role, const std::string &sector,
+                 const std::string &column, const std::string &evidence)
+{
+    std::string value;
+    for (const std::string &part : {std::string(role), sector, column})
+        value += part + metadata::RoleSeparator;
+    items.SetNameValue((metadata::RolePrefix + std::to_string(items.Count())).c_str(),
+                       (value + evidence).c_str());
+}
+
+} // namespace vlt::driver
