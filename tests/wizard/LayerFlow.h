@@ -90,4 +90,12 @@ public:
     DraggableIcon *icon = nullptr;
 };
 
+class WizardOnSitePage : public WizardOnPage
+{
+public:
+    explicit WizardOnSitePage(const QString &installDir = installation())
+        : WizardOnPage(QStringLiteral("m_pwClAddSite"), installDir)
+    {}
+};
+
 } // namespace layerflow
