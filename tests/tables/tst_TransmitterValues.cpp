@@ -57,6 +57,13 @@ private Q_SLOTS:
         row("azimuth", "360", "0");
         row("azimuth", "-360", "0");
         row("azimuth", "-30", "330");
+        row("azimuth", "N120E", "120");
+        row("azimuth", "N 30\u00B0 W", "330");
+        row("azimuth", "S45,5E", "134.5");
+        row("azimuth", "s45w", "225");
+        row("azimuth", "N0W", "0");
+        row("azimuth", "S120E", "unreadable"); // no quadrant
+        row("azimuth", "N30O", "unreadable");  // Ost or Ouest
         row("azimuth", "1200", "out of range");
         row("azimuth", "north", "unreadable");
         row("azimuth", "#N/A", "absent");

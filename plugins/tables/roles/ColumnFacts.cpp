@@ -1,5 +1,6 @@
 #include "plugins/tables/roles/ColumnFacts.h"
 
+#include "plugins/tables/cells/Bearing.h"
 #include "plugins/tables/cells/Cell.h"
 #include "plugins/tables/cells/FeetAndInches.h"
 #include "plugins/tables/cells/Numbers.h"
@@ -25,6 +26,8 @@ std::optional<double> leadingNumber(std::string_view text)
     text = trimmed(text);
     if (const auto feet = parseFeetAndInches(text))
         return feet;
+    if (const auto bearing = parseBearing(text))
+        return bearing;
     std::size_t end = text.find_first_not_of("0123456789.,+-");
     if (end == std::string_view::npos)
         end = text.size();

@@ -1,6 +1,7 @@
 #include "plugins/tables/values/TransmitterValues.h"
 
 #include "contract/TransmitterRanges.h"
+#include "plugins/tables/cells/Bearing.h"
 #include "plugins/tables/cells/Cell.h"
 #include "plugins/tables/values/Quantity.h"
 
@@ -82,6 +83,8 @@ TransmitterValue readAntennaHeightM(std::string_view text, double unitM, const V
 
 TransmitterValue readAzimuthDeg(std::string_view text, double unitDeg, const ValueWords &words)
 {
+    if (const auto bearing = parseBearing(text))
+        return {bearing, std::nullopt};
     TransmitterValue azimuth = readDirection(text, unitDeg, words, contract::AzimuthDeg);
     if (azimuth.number)
         azimuth.number = wholeTurnsRemoved(*azimuth.number);
