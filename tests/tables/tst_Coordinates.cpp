@@ -85,6 +85,8 @@ private Q_SLOTS:
         row("dots", "48.51.24,0", false, 48.8566667);
         row("words", "N 48 deg 51 min 24.0 sec", false, 48.8566667);
         row("minus and parts", "-0 30 0", true, -0.5);
+        row("without separators", "485124N", false, 48.8566667);
+        row("the letter first", "W0032205.12", true, -3.3680889);
     }
     void readsAngles()
     {
@@ -102,9 +104,10 @@ private Q_SLOTS:
     {
         const Cases<QByteArray> row({"text"});
         for (const char *text :
-             {"",        "-",        "north",   "48.85 E",    "48 61 00",   "48 51 60", "48.5 30 N",
-              "1 2 3 4", "3.37 O",   "-3.37 W", "3.37 Ouest", "48.85 noon", "48.85 po", "48.8.5",
-              "48-51",   "48.51.60", "1e5x",    "12/05/2020", "NaN",        "10 N 20 S"})
+             {"",          "-",         "north",  "48.85 E",  "48 61 00",   "48 51 60",
+              "48.5 30 N", "1 2 3 4",   "3.37 O", "-3.37 W",  "3.37 Ouest", "48.85 noon",
+              "48.85 po",  "48.8.5",    "48-51",  "48.51.60", "1e5x",       "12/05/2020",
+              "NaN",       "10 N 20 S", "486024N"})
             row(*text ? text : "empty", text);
     }
     void refusesWhatIsNoAngle()

@@ -169,7 +169,8 @@ private:
                 const WordMeaning *meaning = m_vocabulary.find(joined);
                 if (meaning && meaning->isUnit())
                     m_isUnit[at] = true;
-                if (meaning && (meaning->isSite || meaning->isSector || meaning->isUnit()))
+                if (meaning && (meaning->isSite || meaning->isSector || meaning->isSexagesimal ||
+                                meaning->isUnit()))
                     std::fill(m_isNeutral.begin() + static_cast<std::ptrdiff_t>(first),
                               m_isNeutral.begin() + static_cast<std::ptrdiff_t>(at + 1), true);
             }

@@ -216,6 +216,8 @@ void Vocabulary::addPartsOfNames(const Json &root)
     if (const Json *texts = memberOf(ends, "weak"))
         addTo(*texts, [](WordMeaning &meaning) { meaning.isWeakEnd = true; });
     addTo(sectionOf(root, "sector"), [](WordMeaning &meaning) { meaning.isSector = true; });
+    addTo(sectionOf(root, "sexagesimal"),
+          [](WordMeaning &meaning) { meaning.isSexagesimal = true; });
     addTo(sectionOf(root, "site"), [](WordMeaning &meaning) { meaning.isSite = true; });
     const Json units = sectionOf(root, "units");
     for (const Unit &unit : Units) {

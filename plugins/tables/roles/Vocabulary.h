@@ -30,6 +30,7 @@ struct WordMeaning
     bool isEndB = false;
     bool isWeakEnd = false;          ///< names an end only if no other word does
     bool isSector = false;           ///< stands beside the number of a sector
+    bool isSexagesimal = false;      ///< says that numbers are degrees, minutes and seconds
     bool isSite = false;             ///< may stand beside any role of a site
     std::optional<double> metres;    ///< per unit of length of that name
     std::optional<double> megahertz; ///< per unit of frequency of that name

@@ -301,6 +301,28 @@ bool saysNegative(const Words &name, const Words &nameOfOther, Axis axis,
     });
 }
 
+/// Whether the name of a column says that its numbers are degrees, minutes and seconds, and its
+/// numbers can be.
+bool holdsPackedAngles(const Words &name, const Field &field, Axis axis,
+                       const Vocabulary &vocabulary)
+{
+    const bool isNamed = std::any_of(name.begin(), name.end(), [&](const std::string &word) {
+        const WordMeaning *meaning = vocabulary.find(word);
+        return meaning && meaning->isSexagesimal;
+    });
+    if (!isNamed || field.samples.empty())
+        return false;
+    const double limit = axis == Axis::X ? MaxDegrees / 2 : MaxDegrees / 4;
+    std::size_t good = 0;
+    std::size_t large = 0;
+    for (const std::string &text : field.samples) {
+        const Angle angle = readAngle(text, axis, LetterO::West, AngleStyle::Packed);
+        good += !angle.fault && std::abs(angle.degrees) <= limit ? 1 : 0;
+        large += std::abs(parseEitherNumber(trimmed(text)).value_or(0)) > MaxDegrees ? 1 : 0;
+    }
+    return large * 2 > field.samples.size() && good * 10 >= field.samples.size() * 8;
+}
+
 /// A field with both coordinates, for tables without separate columns.
 int findPair(const FieldWords &words, const std::vector<Field> &fields, LetterO otherwise)
 {
@@ -376,6 +398,9 @@ PointFields findPoint(const FieldWords &words, const std::vector<Field> &fields,
         const Words nameOfY = words[static_cast<std::size_t>(y)].value_or(Words());
         point.x.isNegative = saysNegative(nameOfX, nameOfY, Axis::X, vocabulary);
         point.y.isNegative = saysNegative(nameOfY, nameOfX, Axis::Y, vocabulary);
+        if (holdsPackedAngles(nameOfX, fields[static_cast<std::size_t>(x)], Axis::X, vocabulary) &&
+            holdsPackedAngles(nameOfY, fields[static_cast<std::size_t>(y)], Axis::Y, vocabulary))
+            point.x.style = point.y.style = AngleStyle::Packed;
     } else
         point.pair = isPair ? ofPair->front() : ofPair ? -1 : findPair(open, fields, otherwise);
     if (point.pair >= 0) {
@@ -421,7 +446,7 @@ CoordinateUnit findUnit(const PointFields &point, const std::vector<Field> &fiel
     }
     if (!point.found())
         return CoordinateUnit::Degrees;
-    if (point.x.inParts() || point.y.inParts())
+    if (point.x.inParts() || point.y.inParts() || point.x.style == AngleStyle::Packed)
         return CoordinateUnit::Dms;
     const Field &x = fields[static_cast<std::size_t>(point.x.value)];
     const Field &y = fields[static_cast<std::size_t>(point.y.value)];

@@ -3,6 +3,7 @@
 #include "plugins/tables/roles/Vocabulary.h"
 #include "plugins/tables/sites/StatedRoles.h"
 #include "plugins/tables/table/Table.h"
+#include "plugins/tables/values/Angle.h"
 #include "plugins/tables/values/CoordinatePair.h"
 
 #include <optional>
@@ -27,6 +28,7 @@ struct CoordinateFields
     int seconds = -1;
     int hemisphere = -1;
     bool isNegative = false; ///< the name says west or south: "Long (W)"
+    AngleStyle style = AngleStyle::Plain;
 
     bool found() const { return value >= 0; }
     bool inParts() const { return minutes >= 0; }

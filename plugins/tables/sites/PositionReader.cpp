@@ -65,7 +65,7 @@ bool PositionReader::readAxis(int64_t row, const CoordinateFields &fields, Axis 
     std::string hemisphere =
         fields.hemisphere >= 0 && isAngle ? fieldText(cells, fields.hemisphere) : std::string();
     // Nearly all coordinates are plain numbers; this avoids making a text of them.
-    if (cell && !fields.inParts() && hemisphere.empty() &&
+    if (cell && !fields.inParts() && fields.style == AngleStyle::Plain && hemisphere.empty() &&
         (cell->kind == Cell::Kind::Number || cell->kind == Cell::Kind::Text)) {
         std::optional<double> number = cell->number;
         if (!cell->text.empty())
@@ -98,7 +98,7 @@ bool PositionReader::readAxis(int64_t row, const CoordinateFields &fields, Axis 
     else
         angle = readAngle(
             hemisphere.empty() ? text : withHemisphere(text, hemisphere, axis, m_fields.letterO),
-            axis, m_fields.letterO);
+            axis, m_fields.letterO, fields.style);
     if (angle.fault)
         problems.push_back(problem(row, fields.value, text, *angle.fault));
     value = angle.degrees;

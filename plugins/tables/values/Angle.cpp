@@ -132,6 +132,24 @@ std::size_t unitWordSize(std::string_view text)
     return std::find(Words.begin(), Words.end(), word) == Words.end() ? 0 : word.size();
 }
 
+/// The degrees, minutes and seconds in 451233.2 or 0735612; the number as it is if it has fewer
+/// digits than `minDigits` before the decimal mark.
+Parts unpacked(const Parts &parts, std::size_t minDigits)
+{
+    constexpr std::size_t PartSize = 2;
+    constexpr std::size_t MaxDigits = 7;
+    const std::string_view text = parts.texts[0];
+    const std::size_t digits = std::min(text.find_first_of(".,"), text.size());
+    if (parts.count != 1 || digits < minDigits || digits > MaxDigits)
+        return parts;
+    const std::size_t seconds = digits - std::min(digits, PartSize);
+    const std::size_t minutes = seconds - std::min(seconds, PartSize);
+    const auto orZero = [](std::string_view part) { return part.empty() ? "0" : part; };
+    return {{orZero(text.substr(0, minutes)), orZero(text.substr(minutes, seconds - minutes)),
+             text.substr(seconds)},
+            3};
+}
+
 Angle assemble(const Parts &parts, bool negative, int sign)
 {
     std::array<double, 3> values = {};
@@ -154,7 +172,7 @@ Angle assemble(const Parts &parts, bool negative, int sign)
 
 } // namespace
 
-Angle readAngle(std::string_view text, Axis axis, LetterO letterO)
+Angle readAngle(std::string_view text, Axis axis, LetterO letterO, AngleStyle style)
 {
     text = trimmed(text);
     if (text.empty())
@@ -208,6 +226,9 @@ Angle readAngle(std::string_view text, Axis axis, LetterO letterO)
     }
     if (parts.count == 0 || (hasDashes && parts.count < 3)) // 18-23 is a range
         return fault("MESS_TAB_NOT_AN_ANGLE");
+    constexpr std::size_t MinDigits = 5; // fewer may be degrees and minutes
+    if (style == AngleStyle::Packed || sign != 0)
+        parts = unpacked(parts, style == AngleStyle::Packed ? MinDigits - 1 : MinDigits);
     return assemble(parts, negative, sign);
 }
 
