@@ -1,9 +1,9 @@
 #include "links/LinkColumnSet.h"
 
 #include "contract/ColumnPattern.h"
-#include "geodata/LayerInfo.h"
 #include "sites/SiteColumnSet.h"
 
+#include <QHash>
 #include <QRegularExpression>
 
 #include <functional>
@@ -99,9 +99,61 @@ QString unitIn(const QString &name, const QString &unitsLongestFirst)
     return QRegularExpression(unitsLongestFirst).match(name).captured();
 }
 
+/// The first unit that is a word of a name, in any case.
+QString unitAsWord(const QString &name, const QString &units)
+{
+    const QRegularExpression word(QStringLiteral("(?<!\\pL)(?:") + units +
+                                      QStringLiteral(")(?!\\pL)"),
+                                  QRegularExpression::CaseInsensitiveOption);
+    return word.match(name).captured();
+}
+
+/// Fills the members that are still empty with the columns that have their roles.
+class RoleColumns
+{
+public:
+    explicit RoleColumns(const QList<geodata::ColumnRole> &roles)
+    {
+        for (const geodata::ColumnRole &role : roles)
+            m_columns[role.role] << role.column;
+    }
+
+    /// Fills a member with the column of the first of some roles that only one column has.
+    ///
+    /// @return  whether the member got a column
+    bool fill(QString &member, const QStringList &roles) const
+    {
+        for (const QString &role : roles) {
+            if (member.isEmpty() && m_columns.value(role).size() == 1) {
+                member = m_columns.value(role).constFirst();
+                return true;
+            }
+        }
+        return false;
+    }
+
+    void fillEnd(LinkEndColumns &end, QLatin1Char letter) const
+    {
+        const auto role = [letter](const char *name) { return QLatin1String(name) + letter; };
+        fill(end.identifier, {role("siteName"), role("siteId")});
+        fill(end.longitude, {role("x")});
+        fill(end.latitude, {role("y")});
+        fill(end.height, {role("antennaHeight")});
+        fill(end.frequency, {role("frequency"), QStringLiteral("frequency")});
+        fill(end.azimuth, {role("azimuth")});
+        fill(end.tilt, {role("tilt")});
+        fill(end.dx, {role("offsetX")});
+        fill(end.dy, {role("offsetY")});
+    }
+
+private:
+    QHash<QString, QStringList> m_columns; ///< by role
+};
+
 } // namespace
 
-LinkColumnSet recogniseLinkColumns(const QStringList &fieldNames)
+LinkColumnSet recogniseLinkColumns(const QStringList &fieldNames,
+                                   const QList<geodata::ColumnRole> &roles)
 {
     static const std::vector<Column> columns = makeColumns();
     LinkColumnSet found;
@@ -115,14 +167,25 @@ LinkColumnSet recogniseLinkColumns(const QStringList &fieldNames)
     }
     found.frequencyUnit = unitIn(found.band, QStringLiteral("KHz|MHz|GHz|THz|Hz"));
     found.lengthUnit = unitIn(found.length, QStringLiteral("miles|feet|km|m"));
+
+    const RoleColumns ofRoles(roles);
+    ofRoles.fill(found.name, {QStringLiteral("linkName")});
+    if (ofRoles.fill(found.band, {QStringLiteral("band")}))
+        found.frequencyUnit = unitAsWord(found.band, QStringLiteral("[kMGT]?Hz"));
+    if (ofRoles.fill(found.length, {QStringLiteral("lengthLink")}))
+        found.lengthUnit =
+            unitAsWord(found.length, QStringLiteral("miles|mi|feet|ft|km|m|met(?:er|re)s?"));
+    ofRoles.fillEnd(found.tx, QLatin1Char('A'));
+    ofRoles.fillEnd(found.rx, QLatin1Char('B'));
     return found;
 }
 
 LinkColumnSet recogniseLinkColumns(const QString &connection, const QString &projectDirectory)
 {
-    const Result<QStringList> fields =
-        geodata::readFieldNames(sites::resolvedConnection(connection, projectDirectory), 0);
-    return fields ? recogniseLinkColumns(fields.value()) : LinkColumnSet();
+    const Result<geodata::LayerInfo> layer =
+        geodata::readLayerInfo(sites::resolvedConnection(connection, projectDirectory), 0);
+    return layer ? recogniseLinkColumns(layer.value().fields, layer.value().roles)
+                 : LinkColumnSet();
 }
 
 } // namespace vlt::links

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "geodata/LayerInfo.h"
+
+#include <QList>
 #include <QString>
 #include <QStringList>
 
@@ -30,17 +33,21 @@ struct LinkColumnSet
     QString length; ///< path length
     LinkEndColumns tx;
     LinkEndColumns rx;
-    QString frequencyUnit; ///< Hz, KHz, MHz, GHz or THz, from the name of the band column
-    QString lengthUnit;    ///< m, km, feet or miles, from the name of the length column
+    QString frequencyUnit; ///< from the name of the band column: Hz, KHz, MHz, GHz or THz
+    QString lengthUnit;    ///< from the name of the length column: m, km, feet or miles
 
     bool operator==(const LinkColumnSet &) const = default;
 };
 
 /// Recognises columns by their whole name, in upper or lower case. The first match is kept, and a
 /// field may fill several members. Units in the two names must have the exact case.
-LinkColumnSet recogniseLinkColumns(const QStringList &fieldNames);
+///
+/// A member that no name fills gets the column that has its role, and the unit that such a name
+/// has as a word, as it is written. A coordinate in several columns fills no member.
+LinkColumnSet recogniseLinkColumns(const QStringList &fieldNames,
+                                   const QList<geodata::ColumnRole> &roles = {});
 
-/// The same for the fields of layer 0 of a "link:" connection.
+/// The same for the fields and roles of layer 0 of a "link:" connection.
 ///
 /// @param projectDirectory  base of a relative path in the connection; empty for the working
 ///                          directory

@@ -38,7 +38,10 @@ Result<LinkFileInfo> readLinkFileInfoAs(const QString &path, const project::Proj
         tables::readTableFile(linkTable(), path, project, reading);
     if (!table)
         return table.error();
-    LinkFileInfo info{table.value().info, {}, {}, recogniseLinkColumns(table.value().fields)};
+    LinkFileInfo info{table.value().info,
+                      {},
+                      {},
+                      recogniseLinkColumns(table.value().fields, table.value().info.roles)};
     info.linkNameField = info.columns.name;
     info.nameField = linkEndNameField(info.format);
     const Result<geodata::LayerInfo> ends = geodata::readLayerInfo(

@@ -42,12 +42,13 @@ QString linkCell(const QString &label, const QString &column, const QString &uni
            tables::fieldReference(column) + unitText + QStringLiteral("</td>");
 }
 
-/// The unit in parentheses in a column's name, such as "m" in "Antenna height (m) 1". The name of
-/// an end, as in "Height (A)", is not a unit.
+/// The unit in parentheses or brackets in a column's name, such as "m" in "Antenna height (m) 1".
+/// The name of an end, as in "Height (A)", is not a unit.
 QString unitIn(const QString &column)
 {
-    static const QRegularExpression unit(QStringLiteral(R"(\((?!(?:A|B|TX|RX)\))([^()\d]+)\))"),
-                                         QRegularExpression::CaseInsensitiveOption);
+    static const QRegularExpression unit(
+        QStringLiteral(R"([([](?!(?:A|B|TX|RX)[)\]])([^()[\]\d]+)[)\]])"),
+        QRegularExpression::CaseInsensitiveOption);
     return unit.match(column).captured(1);
 }
 

@@ -8,7 +8,9 @@ using namespace vlt::links;
 
 namespace {
 
-void addEnd(QStringList &filled, const QString &mark, const LinkEndColumns &end)
+using Members = QList<std::pair<QString, QString>>;
+
+void addEnd(Members &all, const QString &mark, const LinkEndColumns &end)
 {
     const std::pair<QString, QString> members[] = {{u"id"_s, end.identifier},
                                                    {u"x"_s, end.longitude},
@@ -19,24 +21,21 @@ void addEnd(QStringList &filled, const QString &mark, const LinkEndColumns &end)
                                                    {u"tilt"_s, end.tilt},
                                                    {u"dx"_s, end.dx},
                                                    {u"dy"_s, end.dy}};
-    for (const auto &[name, column] : members) {
-        if (!column.isEmpty())
-            filled << mark + name;
-    }
+    for (const auto &[name, column] : members)
+        all.append({mark + name, column});
 }
 
-/// The names of the members that have a column.
-QString filledMembers(const LinkColumnSet &set)
+/// The names of the members that have a column, with that column if it is wanted: "A.x=East".
+QString filledMembers(const LinkColumnSet &set, bool withColumns = false)
 {
+    Members all = {{u"name"_s, set.name}, {u"band"_s, set.band}, {u"length"_s, set.length}};
+    addEnd(all, u"A."_s, set.tx);
+    addEnd(all, u"B."_s, set.rx);
     QStringList filled;
-    if (!set.name.isEmpty())
-        filled << u"name"_s;
-    if (!set.band.isEmpty())
-        filled << u"band"_s;
-    if (!set.length.isEmpty())
-        filled << u"length"_s;
-    addEnd(filled, u"A."_s, set.tx);
-    addEnd(filled, u"B."_s, set.rx);
+    for (const auto &[name, column] : std::as_const(all)) {
+        if (!column.isEmpty())
+            filled << (withColumns ? name + u'=' + column : name);
+    }
     return filled.join(u' ');
 }
 
@@ -136,6 +135,43 @@ private Q_SLOTS:
 
         QTEST(set.frequencyUnit, "frequency");
         QTEST(set.lengthUnit, "length");
+    }
+
+    void takesColumnsOfRolesWhereNoNameFits_data()
+    {
+        // roles: role=column ...; columns: what they fill, with the units
+        const Cases<QStringList, QString, QString> row({"roles", "members", "units"});
+        row("in Polish", {u"linkName=Relacja"_s, u"siteNameA=Stacja Tx"_s, u"xB=Dl geo Rx"_s},
+            "name=Relacja A.id=Stacja Tx B.x=Dl geo Rx", "/");
+        row("name before id", {u"siteIdA=NE"_s, u"siteNameA=Near"_s, u"siteIdB=FE"_s},
+            "A.id=Near B.id=FE", "/");
+        row("units", {u"band=BAND_GHZ"_s, u"lengthLink=hop [mi]"_s},
+            "band=BAND_GHZ length=hop [mi]", "GHZ/mi");
+        row("unit in words", {u"lengthLink=Distance_meters"_s}, "length=Distance_meters",
+            "/meters");
+        row("a letter is no unit", {u"lengthLink=Medium"_s}, "length=Medium", "/");
+        row("one frequency for both ends",
+            {u"frequency=F (MHz)"_s, u"frequencyB=F2"_s, u"antennaHeightA=HBA"_s},
+            "A.height=HBA A.frequency=F (MHz) B.frequency=F2", "/");
+        row("in parts", {u"yA=D"_s, u"yA=M"_s, u"yA=S"_s, u"azimuthA=Az"_s}, "A.azimuth=Az", "/");
+        row("above sea level", {u"seaLevelHeightA=AMSL"_s}, "", "/");
+        row("names of the fields first", {u"linkName=Hop"_s, u"xA=East"_s}, "name=Name A.x=East",
+            "/");
+    }
+
+    void takesColumnsOfRolesWhereNoNameFits()
+    {
+        QFETCH(QStringList, roles);
+        QList<vlt::geodata::ColumnRole> columns;
+        for (const QString &role : std::as_const(roles))
+            columns.append({role.section(u'=', 0, 0), {}, role.section(u'=', 1), {}});
+        const bool hasName = QByteArray(QTest::currentDataTag()).startsWith("names");
+
+        const LinkColumnSet set =
+            recogniseLinkColumns(hasName ? QStringList(u"Name"_s) : QStringList(), columns);
+
+        QTEST(filledMembers(set, true), "members");
+        QTEST(set.frequencyUnit + u'/' + set.lengthUnit, "units");
     }
 };
 

@@ -128,12 +128,12 @@ private Q_SLOTS:
         units.tx.azimuth = u"Azimuth (A)"_s;
         units.tx.dx = u"DX (1) (m)"_s;
         units.rx.dx = u"RX DX (feet)"_s;
-        units.rx.dy = u"RX DY (feet)"_s;
+        units.rx.dy = u"RX DY [feet]"_s;
         row("units that both ends have", units, "en",
             "||||<tr><td>Height (m)</td><td>[Antenna height (m) 1]</td><td>[Antenna height (m) "
             "2]</td></tr>|<tr><td>Azimuth</td><td>[Azimuth (A)]</td><td></td></tr>|"
             "<tr><td>DX</td><td>[DX (1) (m)]</td><td>[RX DX (feet)]</td></tr>|"
-            "<tr><td>DY (feet)</td><td></td><td>[RX DY (feet)]</td></tr>");
+            "<tr><td>DY (feet)</td><td></td><td>[RX DY [feet]]</td></tr>");
         row("another language, a name only", named, "de", "[Name]|||||||");
     }
 
