@@ -1,9 +1,7 @@
 #include "contract/ColumnMapping.h"
 
+#include "contract/MappingJson.h"
 #include "contract/QueryOptions.h"
-#include "contract/TableTexts.h"
-
-#include <nlohmann/json.hpp>
 
 #include <algorithm>
 
@@ -17,24 +15,8 @@ using OrderedJson = nlohmann::ordered_json;
 constexpr int Version = 1;
 constexpr char SitesWord[] = "sites";
 constexpr char LinksWord[] = "links";
-
-/// Why a text is no mapping.
-struct Unusable
-{
-    std::string reason;
-};
-
-[[noreturn]] void refuseValue(const std::string &place)
-{
-    throw Unusable{formatted("MESS_TAB_MAPPING_VALUE", {place})};
-}
-
-std::string textOf(const Json &value, const std::string &place)
-{
-    if (!value.is_string())
-        refuseValue(place);
-    return value.get<std::string>();
-}
+constexpr char Corrections[] = "corrections";
+constexpr int Indent = 4;
 
 /// The text of a value that may only be one of two.
 bool isSecond(const Json &value, const std::string &place, const char *first, const char *second)
@@ -118,18 +100,20 @@ void readMember(const std::string &key, const Json &value, ColumnMapping &mappin
         mapping.sites = textOf(value, key);
     else if (key == "roles")
         mapping.roles = rolesOf(value, key);
+    else if (key == Corrections)
+        mapping.corrections = correctionsOf(value, key);
     else if (key != "version")
-        throw Unusable{formatted("MESS_TAB_MAPPING_KEY", {key})};
+        throw UnusableMapping{formatted("MESS_TAB_MAPPING_KEY", {key})};
 }
 
-/// Throws Json::exception or Unusable.
+/// Throws Json::exception or UnusableMapping.
 ColumnMapping mappingOf(std::string_view text)
 {
     const Json document = Json::parse(text);
     if (!document.is_object() || !document.contains("version"))
-        throw Unusable{formatted("MESS_TAB_MAPPING_NONE")};
+        throw UnusableMapping{formatted("MESS_TAB_MAPPING_NONE")};
     if (document["version"] != Version)
-        throw Unusable{formatted("MESS_TAB_MAPPING_VERSION", {document["version"].dump()})};
+        throw UnusableMapping{formatted("MESS_TAB_MAPPING_VERSION", {document["version"].dump()})};
     ColumnMapping mapping;
     for (const auto &[key, value] : document.items())
         readMember(key, value, mapping);
@@ -148,6 +132,27 @@ OrderedJson jsonOf(const StatedColumns &columns)
     return list;
 }
 
+/// The last entry of a mapping, whose many rows take a line each.
+std::string correctionLines(const std::vector<PositionCorrection> &corrections)
+{
+    const std::string margin(Indent, ' ');
+    std::string text = ",\n" + margin + '"' + Corrections + "\": [";
+    for (const PositionCorrection &correction : corrections) {
+        std::string head = dumped(headOf(correction));
+        text += (&correction == &corrections.front() ? "\n" : ",\n") + margin + margin;
+        if (!correction.rows.empty()) {
+            head.pop_back(); // the closing brace
+            head += ",\"rows\":[";
+            for (const CorrectedRow &row : correction.rows)
+                head += (&row == &correction.rows.front() ? "\n" : ",\n") + margin + margin +
+                        margin + dumped(jsonOf(row));
+            head += "]}";
+        }
+        text += head;
+    }
+    return text + "\n" + margin + "]\n}";
+}
+
 } // namespace
 
 ReadMapping readMapping(std::string_view text)
@@ -156,7 +161,7 @@ ReadMapping readMapping(std::string_view text)
         return {{}, formatted("MESS_TAB_MAPPING_LARGE")};
     try {
         return {mappingOf(text), {}};
-    } catch (const Unusable &unusable) {
+    } catch (const UnusableMapping &unusable) {
         return {{}, unusable.reason};
     } catch (const Json::parse_error &error) {
         const auto line = 1 + std::count(text.begin(),
@@ -187,8 +192,12 @@ std::string writeMapping(const ColumnMapping &mapping)
     add("sites", mapping.sites);
     for (const auto &[role, columns] : mapping.roles)
         document["roles"][role] = jsonOf(columns);
-    constexpr int Indent = 4;
-    return document.dump(Indent, ' ', false, OrderedJson::error_handler_t::replace) + "\n";
+    std::string text = dumped(document, Indent);
+    if (!mapping.corrections.empty()) {
+        text.resize(text.rfind("\n}"));
+        text += correctionLines(mapping.corrections);
+    }
+    return text + "\n";
 }
 
 std::string mappingFileOf(std::string_view tablePath)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "contract/PositionCorrection.h"
 #include "contract/TableKind.h"
 
 #include <cstddef>
@@ -14,7 +15,7 @@
 /// wizard and the command line write it, they and the table driver read it.
 namespace vlt::contract {
 
-inline constexpr std::size_t MaxMappingBytes = 1 << 20;
+inline constexpr std::size_t MaxMappingBytes = 4 << 20;
 inline constexpr std::int64_t MaxHeaderRow = 200;
 inline constexpr std::size_t MaxHeaderRows = 5;
 
@@ -38,7 +39,8 @@ struct ColumnMapping
     /// sites, the sites at the ends of links.
     std::string sectors = {};
     std::string sites = {};
-    std::map<std::string, StatedColumns> roles = {}; ///< by name: siteId, azimuth, xA
+    std::map<std::string, StatedColumns> roles = {};  ///< by name: siteId, azimuth, xA
+    std::vector<PositionCorrection> corrections = {}; ///< made one after the other
 
     bool operator==(const ColumnMapping &) const = default;
 };

@@ -204,7 +204,7 @@ inline constexpr auto TableTexts = std::to_array<Text>({
     {"MESS_TAB_MAPPING_SHEET", "the mapping file \"%1\" names the sheet \"%2\", which the workbook "
                                "does not have: the sheet is recognised"},
     {"MESS_TAB_MAPPING_KIND", "it is for tables of the other kind"},
-    {"MESS_TAB_MAPPING_LARGE", "a mapping file has at most 1 MiB"},
+    {"MESS_TAB_MAPPING_LARGE", "a mapping file has at most 4 MiB"},
     {"MESS_TAB_MAPPING_JSON", "its JSON is not valid in line %1"},
     {"MESS_TAB_MAPPING_NONE", "it is not a mapping of columns"},
     {"MESS_TAB_MAPPING_VERSION", "its version %1 is not known"},

@@ -22,11 +22,16 @@ private Q_SLOTS:
         mapping.sites = "../é.csv";
         mapping.roles = {
             {"siteId", {"SITE"}}, {"azimuth", {"azi0", "", "azi2"}}, {"antennaHeight", {}}};
+        mapping.corrections = {{PositionChange::Swap, 1, {{12, "48,8", "2,3"}, {13, "1 \"é", ""}}},
+                               {PositionChange::NegateX, 1, {{12, "48,8", "2,3"}}},
+                               {PositionChange::ScaleY, 1e-6},
+                               {PositionChange::Scale, 1000}};
         ColumnMapping headerless;
         headerless.headerRows.emplace();
 
         for (const ColumnMapping &stated : {mapping, headerless, ColumnMapping()})
             QVERIFY(readMapping(writeMapping(stated)).mapping == stated);
+        QVERIFY(readCorrections(writeCorrections(mapping.corrections)) == mapping.corrections);
         const auto ofOne =
             readMapping("{\"version\": 1, \"roles\": {\"azimuth\": [\"a\"]}}").mapping;
         QVERIFY(ofOne && ofOne->roles.at("azimuth") == StatedColumns({"a", ""}));
@@ -45,7 +50,7 @@ private Q_SLOTS:
         row("not UTF-8", "{\"version\": 1, \"sheet\": \"\xe9\"}",
             "its JSON is not valid in line 1");
         row("deep", QByteArray(100000, '['), "its JSON is not valid in line 1");
-        row("large", QByteArray(MaxMappingBytes + 1, ' '), "a mapping file has at most 1 MiB");
+        row("large", QByteArray(MaxMappingBytes + 1, ' '), "a mapping file has at most 4 MiB");
         row("other JSON", "[1]", none);
         row("no version", "{\"sheet\": \"a\"}", none);
         row("later version", "{\"version\": 2}", "its version 2 is not known");
@@ -59,6 +64,27 @@ private Q_SLOTS:
         row("other system", "{\"version\": 1, \"sourceSrs\": \"WGS 84\"}", value("sourceSrs"));
         row("role of numbers", "{\"version\": 1, \"roles\": {\"x\": [1]}}", value("roles.x"));
         row("list of roles", "{\"version\": 1, \"roles\": []}", value("roles"));
+        const auto corrected = [](const QByteArray &correction) {
+            return "{\"version\": 1, \"corrections\": [" + correction + "]}";
+        };
+        row("other cure", corrected(R"({"cure": "turn"})"), value("corrections.cure"));
+        row("no factor", corrected(R"({"cure": "scale"})"), value("corrections.factor"));
+        row("factor 0", corrected(R"({"cure": "scaleX", "factor": 0})"),
+            value("corrections.factor"));
+        row("factor of a swap", corrected(R"({"cure": "swap", "factor": 2})"),
+            value("corrections.factor"));
+        row("no rows", corrected(R"({"cure": "swap", "rows": []})"), value("corrections.rows"));
+        row("no row number", corrected(R"({"cure": "swap", "rows": [{"x": "1", "y": "2"}]})"),
+            value("corrections.rows"));
+        row("too many rows",
+            corrected(R"({"cure": "swap", "rows": [)" +
+                      QByteArray(R"({"row": 1, "x": "1"},)").repeated(MaxCorrectedRows) +
+                      R"({"row": 1, "x": "1"}]})"),
+            value("corrections"));
+        row("too many corrections",
+            corrected(QByteArray(R"({"cure": "swap"},)").repeated(MaxCorrections) +
+                      R"({"cure": "swap"})"),
+            value("corrections"));
     }
     void namesThePlaceOfAMistake()
     {

@@ -748,8 +748,8 @@
         <translation>the mapping file "%1" is not used: %2</translation>
     </message>
     <message id="MESS_TAB_MAPPING_LARGE">
-        <source>a mapping file has at most 1 MiB</source>
-        <translation>a mapping file has at most 1 MiB</translation>
+        <source>a mapping file has at most 4 MiB</source>
+        <translation>a mapping file has at most 4 MiB</translation>
     </message>
     <message id="MESS_TAB_MAPPING_JSON">
         <source>its JSON is not valid in line %1</source>

@@ -748,8 +748,8 @@
         <translation>le fichier de correspondance «&#xa0;%1&#xa0;» n'est pas utilisé&#xa0;: %2</translation>
     </message>
     <message id="MESS_TAB_MAPPING_LARGE">
-        <source>a mapping file has at most 1 MiB</source>
-        <translation>un fichier de correspondance ne dépasse pas 1 Mio</translation>
+        <source>a mapping file has at most 4 MiB</source>
+        <translation>un fichier de correspondance ne dépasse pas 4 Mio</translation>
     </message>
     <message id="MESS_TAB_MAPPING_JSON">
         <source>its JSON is not valid in line %1</source>
