@@ -111,6 +111,7 @@ inline constexpr auto TableTexts = std::to_array<Text>({
     {"MESS_TAB_TOTAL_ROW", "a row of sums is left out"},
     {"MESS_TAB_REPEATED_HEADER", "the row repeats the header"},
     {"MESS_TAB_SITE_UNPLACED", "the site \"%1\" has no position"},
+    {"MESS_TAB_CORRECTED", "repaired: the position \"%1\" is corrected to %2"},
     {"MESS_TAB_READ_AS", "the coordinate \"%1\" is read as %2"},
     {"MESS_TAB_READ_O", "the letter O in the coordinate \"%1\" is read as %2"},
     {"MESS_TAB_BEHIND_LAST",

@@ -16,6 +16,8 @@ private Q_SLOTS:
     {
         GDALAllRegister();
         QVERIFY(m_folder.isValid());
+        m_folder.write("map.json", R"({"version": 1, "corrections": [{"cure": "swap", "rows":
+                                       [{"row": 3, "x": "48.7", "y": "2.4"}]}]})");
     }
 
     void reportsFates_data()
@@ -58,6 +60,11 @@ private Q_SLOTS:
             << QByteArrayList{"2 used A 2 Longitude: the letter O in the coordinate "
                               "\"2\u00B030'00\"O\" is read as W",
                               "3 used B 3"};
+        QTest::newRow("corrections of the mapping")
+            << QByteArray("site:columns=map.json,")
+            << QByteArray("Site ID;Longitude;Latitude\nA;2.3;48.8\nB;48.7;2.4\n")
+            << QByteArrayList{"2 used A 2", "3 used B 3 Longitude: repaired: the position "
+                                            "\"48.7 2.4\" is corrected to 2.4 48.7"};
         QTest::newRow("links")
             << QByteArray("link:")
             << QByteArray("Link,Site A,Lon A,Lat A,Site B,Lon B,Lat B\nL1,A,2.3,48.8,B,2.4,48.9\n"

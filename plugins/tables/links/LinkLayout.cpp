@@ -114,20 +114,6 @@ LinkLayout layoutOf(const TableProfile &table, const FoundEnds &ends, const Voca
     return layout;
 }
 
-/// Sets the unit of lengths without one.
-void setLengthUnit(const TableProfile &table, LinkLayout &layout)
-{
-    const std::optional<LengthUnit> unit = lengthUnitByPositions(table, layout);
-    if (!unit)
-        return;
-    layout.length.unit = unit->metres;
-    for (LinkColumnRole &column : layout.columns) {
-        if (column.role == Role::Length)
-            column.evidence =
-                contract::formatted("MESS_TAB_EVIDENCE_UNIT", {column.evidence, unit->name});
-    }
-}
-
 /// The ends with their positions, also those that only a contrast of two positions shows.
 FoundEnds placedEnds(const TableProfile &table, const Vocabulary &vocabulary,
                      const StatedRoles &stated)
@@ -154,9 +140,22 @@ LinkLayout recogniseLinkLayout(const TableProfile &table, const Vocabulary &voca
     layout.unit = commonUnit(findUnit(ends.points[0], table.fields, vocabulary),
                              findUnit(ends.points[1], table.fields, vocabulary));
     layout.epsg = findEpsg(table, ends.points[0], layout.unit);
-    if (layout.length.found() && !layout.length.unit)
-        setLengthUnit(table, layout);
     return layout;
+}
+
+void findLengthUnit(const TableProfile &table, LinkLayout &layout)
+{
+    const std::optional<LengthUnit> unit = layout.length.found() && !layout.length.unit
+                                               ? lengthUnitByPositions(table, layout)
+                                               : std::nullopt;
+    if (!unit)
+        return;
+    layout.length.unit = unit->metres;
+    for (LinkColumnRole &column : layout.columns) {
+        if (column.role == Role::Length)
+            column.evidence =
+                contract::formatted("MESS_TAB_EVIDENCE_UNIT", {column.evidence, unit->name});
+    }
 }
 
 std::optional<LinkLayout> recogniseNamedLinks(const TableProfile &table,

@@ -20,6 +20,9 @@ struct LinkLayout : TableDeclaration, LinkRoles
 LinkLayout recogniseLinkLayout(const TableProfile &table, const Vocabulary &vocabulary,
                                const StatedRoles &stated = {});
 
+/// Finds the unit of lengths without one, by the positions of the ends.
+void findLengthUnit(const TableProfile &table, LinkLayout &layout);
+
 /// Recognises the fields of a table of links whose ends are only named. Nothing if there are no
 /// columns of both ends with ids or names of the sites.
 ///

@@ -94,6 +94,7 @@ contract::ColumnMapping recognisedMapping(const TableFile &file)
         mapping.headerRows->push_back(row.number);
     mapping.swapsAxes = options.swapsAxes;
     mapping.sourceSrs = options.mapping.mapping.sourceSrs;
+    mapping.corrections = options.mapping.mapping.corrections;
     if (!options.second.empty())
         (options.kind == contract::TableKind::Sites ? mapping.sectors : mapping.sites) =
             relativeTo(file.path(), options.second);

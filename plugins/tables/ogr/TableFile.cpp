@@ -7,6 +7,7 @@
 #include "plugins/tables/ogr/LinkJoin.h"
 #include "plugins/tables/ogr/SectorJoin.h"
 #include "plugins/tables/roles/Vocabulary.h"
+#include "plugins/tables/sites/PositionCorrections.h"
 #include "plugins/tables/sites/SectorTable.h"
 
 #include <limits>
@@ -80,13 +81,14 @@ std::string baseName(const std::string &path)
     return dot == std::string::npos || dot == 0 ? file : file.substr(0, dot);
 }
 
-void swapAxes(TableFacts &facts)
+template<typename Change>
+void changePoints(TableFacts &facts, Change change)
 {
     if (SiteLayout *sites = std::get_if<SiteLayout>(&facts.layout))
-        sites->point.swapAxes();
+        change(sites->point);
     else
         for (LinkEndFields &end : std::get<LinkLayout>(facts.layout).ends)
-            end.point.swapAxes();
+            change(end.point);
 }
 
 /// Calls a function that reads the second file; its refusal names that file.
@@ -209,11 +211,17 @@ void TableFile::recognise(TableFacts &facts, const TableProfile &profile)
     else
         facts.layout = recogniseSiteLayout(profile, installedVocabulary().words, stated);
     if (m_options.swapsAxes)
-        swapAxes(facts);
+        changePoints(facts, [](PointFields &point) { point.swapAxes(); });
+    if (!mapping.corrections.empty()) {
+        const auto corrections = std::make_shared<PositionCorrections>(mapping.corrections);
+        changePoints(facts, [&](PointFields &point) { point.corrections = corrections; });
+    }
     if (!mapping.sourceSrs.empty())
         facts.declaration().epsg = mapping.sourceSrs.substr(mapping.sourceSrs.find(':') + 1);
     if (!links)
         readSites(facts);
+    else if (!facts.endSites)
+        findLengthUnit(profile, std::get<LinkLayout>(facts.layout));
 }
 
 /// Finds the columns of links. If their ends are only named, the positions come from the second

@@ -6,6 +6,7 @@
 #include "plugins/tables/values/Angle.h"
 #include "plugins/tables/values/CoordinatePair.h"
 
+#include <memory>
 #include <optional>
 #include <string>
 #include <utility>
@@ -39,6 +40,8 @@ struct CoordinateFields
     }
 };
 
+class PositionCorrections;
+
 /// The fields of a position.
 struct PointFields
 {
@@ -48,6 +51,7 @@ struct PointFields
     PairOrder pairOrder = PairOrder::LatitudeFirst;
     LetterO letterO = LetterO::Unknown; ///< in the longitudes
     bool isPairSwapped = false;
+    std::shared_ptr<const PositionCorrections> corrections = {}; ///< null if none are stated
 
     /// Exchanges the coordinates.
     void swapAxes()

@@ -2,6 +2,7 @@
 
 #include "contract/TableTexts.h"
 #include "plugins/tables/cells/GroupedNumber.h"
+#include "plugins/tables/sites/PositionCorrections.h"
 #include "plugins/tables/values/Angle.h"
 #include "plugins/tables/values/CoordinatePair.h"
 
@@ -153,6 +154,8 @@ Position PositionReader::read(int64_t row, const std::vector<const Cell *> &cell
     }
     if (!position.found)
         return position;
+    if (m_fields.corrections)
+        m_fields.corrections->apply(row, m_fields, cells, position.x, position.y);
     std::optional<TableTextId> why;
     bool isOutside = false;
     int field = m_fields.xField();

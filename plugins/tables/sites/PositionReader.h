@@ -29,7 +29,7 @@ constexpr double MaxSiteExtentM = 300;
 double distanceM(const Position &a, const Position &b, CoordinateUnit unit);
 
 /// Reads the position of each row. If a coordinate cannot be read, the row has no position and gets
-/// a problem; it is never positioned at 0.
+/// a problem; it is never positioned at 0. Corrections that are stated are made.
 class PositionReader
 {
 public:

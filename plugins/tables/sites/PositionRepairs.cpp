@@ -3,6 +3,7 @@
 #include "contract/TableTexts.h"
 #include "plugins/tables/cells/GroupedNumber.h"
 #include "plugins/tables/cells/Numbers.h"
+#include "plugins/tables/sites/PositionCorrections.h"
 
 namespace vlt::driver {
 
@@ -27,11 +28,32 @@ std::string guessed(const std::string &text, const std::string &hemisphere, Coor
     return isGuessed ? meaning : std::string();
 }
 
+/// Adds that a position was corrected.
+void addCorrection(const TableProfile &table, const PointFields &point, CoordinateUnit unit,
+                   int64_t row, const std::vector<const Cell *> &cells,
+                   std::vector<RowProblem> &notes)
+{
+    double unused = 0;
+    if (!point.corrections || !point.corrections->apply(row, point, cells, unused, unused))
+        return;
+    std::vector<RowProblem> known;
+    const Position position = PositionReader(table, point, unit).read(row, cells, known);
+    if (!position.found && !position.isOutside)
+        return;
+    const PositionTexts texts = textsOf(point, cells);
+    const std::string before = texts.y.empty() ? texts.x : texts.x + " " + texts.y;
+    notes.push_back({row, table.fields[static_cast<std::size_t>(point.xField())].name, false,
+                     contract::formatted("MESS_TAB_CORRECTED",
+                                         {quotation(before),
+                                          numberText(position.x) + " " + numberText(position.y)})});
+}
+
 } // namespace
 
 void addRepairs(const TableProfile &table, const PointFields &point, CoordinateUnit unit,
                 int64_t row, const std::vector<const Cell *> &cells, std::vector<RowProblem> &notes)
 {
+    addCorrection(table, point, unit, row, cells, notes);
     if (point.pair >= 0)
         return;
     for (const auto &[fields, axis] : {std::pair(point.x, Axis::X), std::pair(point.y, Axis::Y)}) {

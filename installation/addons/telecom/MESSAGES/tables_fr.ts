@@ -947,5 +947,9 @@
         <source>%1; unit by the positions: %2</source>
         <translation>%1&#xa0;; unité d'après les positions&#xa0;: %2</translation>
     </message>
+    <message id="MESS_TAB_CORRECTED">
+        <source>repaired: the position "%1" is corrected to %2</source>
+        <translation>réparé&#xa0;: la position «&#xa0;%1&#xa0;» est corrigée en %2</translation>
+    </message>
 </context>
 </TS>
