@@ -21,7 +21,7 @@ qsizetype distance(const QString &from, const QString &to)
     for (std::size_t i = 0; i < cost.size(); ++i) {
         for (std::size_t j = 0; j < cost[i].size(); ++j) {
             if (i == 0 || j == 0) {
-                cost[i][j] = static_cast<qsizetype>(i + j);
+                cost[i][j] = static_cast<qsizetype>(i) + static_cast<qsizetype>(j);
                 continue;
             }
             const auto letter = [](const QString &text, std::size_t at) {

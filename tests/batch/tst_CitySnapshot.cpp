@@ -19,8 +19,9 @@ QByteArray houses(double townM, int side)
                QByteArray::number(6600000 + y, 'f', 2) + ']';
     };
     for (int n = 0; n < side * side; ++n) {
+        const int row = n / side;
         const double x = townM * (n % side) / (side - 1);
-        const double y = townM * (n / side) / (side - 1);
+        const double y = townM * row / (side - 1);
         text += QByteArray(n > 0 ? "," : "") +
                 R"({"type":"Feature","properties":{"h":8},"geometry":{"type":"Polygon",)"
                 R"("coordinates":[[)" +

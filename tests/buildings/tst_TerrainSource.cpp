@@ -19,7 +19,7 @@ class tst_TerrainSource : public QObject, SourceFiles
     /// A file with images but no bands of its own.
     QString withoutBands() const
     {
-        const QString path = file(u"tables.gpkg"_s);
+        QString path = file(u"tables.gpkg"_s);
         QFile::remove(path);
         for (const char *table : {"RASTER_TABLE=a", "RASTER_TABLE=b"}) {
             const std::array<const char *, 3> options = {table, "APPEND_SUBDATASET=YES", nullptr};
@@ -34,7 +34,7 @@ class tst_TerrainSource : public QObject, SourceFiles
     /// An orthophoto, or an image with a palette.
     QString picture(int bands) const
     {
-        const QString path = file(u"picture%1.tif"_s.arg(bands));
+        QString path = file(u"picture%1.tif"_s.arg(bands));
         const std::array<const char *, 2> options = {
             bands == 1 ? "PHOTOMETRIC=PALETTE" : "PHOTOMETRIC=RGB", nullptr};
         makeGeoTiff(path, {.columns = 4, .rows = 4, .bands = bands, .options = options.data()});

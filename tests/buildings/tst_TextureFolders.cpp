@@ -279,7 +279,7 @@ private Q_SLOTS:
 
         QCOMPARE(entries ? entries->size() : -1, callsUntilStop < 0 ? 3000 : -1);
         QVERIFY(shares.size() == callsUntilStop || callsUntilStop < 0);
-        QVERIFY(isThisThread && shares.size() >= 1 && shares.first() >= 0 && shares.last() <= 1);
+        QVERIFY(isThisThread && !shares.empty() && shares.first() >= 0 && shares.last() <= 1);
         QVERIFY(std::is_sorted(shares.cbegin(), shares.cend()));
     }
 };

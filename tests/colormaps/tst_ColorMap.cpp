@@ -211,7 +211,7 @@ private Q_SLOTS:
         row("last index beyond 255", paletteHeader(255, 2) + planes,
             "255 1,10,100,255; 256 2,11,255,255");
         row("no colour", paletteHeader(7, 0) + planes, {});
-        row("too many colours", paletteHeader(0, 257) + QByteArray(3 * 257, 'x'), {});
+        row("too many colours", paletteHeader(0, 257) + QByteArray(771, 'x'), {});
         row("header cut", paletteHeader(7, 2).chopped(1), {});
         row("empty", {}, {});
     }
@@ -232,8 +232,8 @@ private Q_SLOTS:
     void readsAndStretchesAPaletteOfFullSize()
     {
         ColorMap map;
-        QVERIFY(map.load(
-            fileWith(m_dir, u"a.tc"_s, paletteHeader(0, 256) + QByteArray(3 * 256, 'A')), 0, 51));
+        QVERIFY(map.load(fileWith(m_dir, u"a.tc"_s, paletteHeader(0, 256) + QByteArray(768, 'A')),
+                         0, 51));
         QCOMPARE(map.associations().size(), 256U);
         QCOMPARE(map.associations()[5].value, 1.0); // 5 * 51 / 255
     }

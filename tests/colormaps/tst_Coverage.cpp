@@ -95,7 +95,7 @@ class tst_Coverage : public QObject
                                  nullptr};
         const int rows = int(values.size()) / columns;
         const auto value = [&](int column, int row, int) {
-            return values[std::size_t(row * columns + column)];
+            return values[std::size_t(row) * std::size_t(columns) + std::size_t(column)];
         };
         const auto finish = [](GDALDataset &made) {
             made.GetRasterBand(1)->SetNoDataValue(FileNoData);
@@ -152,8 +152,9 @@ private Q_SLOTS:
             shape->getEnvelope(&envelope);
             std::vector<double> within;
             for (int i = 0; i < Columns * Rows; ++i) {
+                const int row = i / Columns;
                 const double c = i % Columns + 0.5;
-                const double r = i / Columns + 0.5;
+                const double r = row + 0.5;
                 const double x = placing[0] + c * placing[1] + r * placing[2];
                 const double y = placing[3] + c * placing[4] + r * placing[5];
                 if (x < envelope.MinX || x > envelope.MaxX || y < envelope.MinY ||
@@ -351,8 +352,6 @@ private Q_SLOTS:
         QVERIFY2(QString::fromStdString(opened.reason).contains(reason), opened.reason.c_str());
     }
 };
-
-Q_DECLARE_METATYPE(Placing)
 
 QTEST_GUILESS_MAIN(tst_Coverage)
 #include "tst_Coverage.moc"

@@ -237,7 +237,8 @@ private Q_SLOTS:
         const auto read = TerrainRaster::open(grid.toStdString());
 
         QVERIFY(read);
-        for (const double x : {WestM + 2.5 * PixelM, WestM + Columns / 2 * PixelM})
+        constexpr int Middle = Columns / 2;
+        for (const double x : {WestM + 2.5 * PixelM, WestM + Middle * PixelM})
             QVERIFY(std::abs(*read->heightM(x, NorthM - PixelM) -
                              *plain->heightM(x, NorthM - PixelM)) < 0.1);
     }

@@ -176,13 +176,15 @@ private Q_SLOTS:
         QFETCH(double, widest);
         constexpr int Side = 160;
         CityModel city;
-        for (int i = 0; i < Side * Side; ++i)
-            add(city, {square(20 * (i % Side), 20 * (i / Side), 8)});
+        for (int i = 0; i < Side * Side; ++i) {
+            const int row = i / Side;
+            add(city, {square(20 * (i % Side), 20 * row, 8)});
+        }
 
         const CityTiles tiles = growCityTree(city, tileSize);
 
         std::vector<const CityTree *> left = {tiles.root.get()};
-        std::vector<int> found(Side * Side);
+        std::vector<int> found(std::size_t(Side) * Side);
         std::size_t tileCount = 0;
         while (!left.empty()) {
             const CityTree &tree = *left.back();
@@ -198,7 +200,7 @@ private Q_SLOTS:
             QVERIFY(tree.bound.xMax() - tree.bound.xMin() - 8 <= widest);
             QVERIFY(tree.bound.yMax() - tree.bound.yMin() - 8 <= widest);
         }
-        QCOMPARE(found, std::vector<int>(Side * Side, 1));
+        QCOMPARE(found, std::vector<int>(std::size_t(Side) * Side, 1));
         QVERIFY(tileCount <= MaxTiles);
     }
 

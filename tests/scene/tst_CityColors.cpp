@@ -130,12 +130,11 @@ private Q_SLOTS:
     void reportsWhatCannotBeUsed_data()
     {
         const Cases<QByteArray> row({"notice"});
-        for (const char *text :
-             {"#12345", "#1234567", "#12 456", "red", "IMAGE;a.tif", "IMAGE;;;;;",
-              "IMAGE;a.tif;map.txt;mean;absolute;interpolation",
-              "IMAGE;a.tif;map.txt;average;absolute;sometimes;-99",
-              "cmap:datasource=a.tif;cmap=map.txt;stretchcmap=TRUE;interpolatecmap=TRUE;"
-              "band=2;type=minimum"})
+        constexpr char OtherBand[] = "cmap:datasource=a.tif;cmap=map.txt;stretchcmap=TRUE;"
+                                     "interpolatecmap=TRUE;band=2;type=minimum";
+        for (const char *text : {"#12345", "#1234567", "#12 456", "red", "IMAGE;a.tif",
+                                 "IMAGE;;;;;", "IMAGE;a.tif;map.txt;mean;absolute;interpolation",
+                                 "IMAGE;a.tif;map.txt;average;absolute;sometimes;-99", OtherBand})
             row(text, "does not describe colors of buildings");
         row("IMAGE;x.tif;map.txt;average;absolute;interpolation",
             "\"x.tif\" cannot be used for colors (there is no such local file)");

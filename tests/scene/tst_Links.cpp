@@ -358,7 +358,8 @@ private Q_SLOTS:
         appearance.fresnelColor = Color(255, 165, 0, 102);
         std::vector<LinkObject> links;
         for (int i = 0; i < 10000; ++i) {
-            const osg::Vec3d a((i % 100) * 5000, (i / 100) * 5000, 100);
+            const int row = i / 100;
+            const osg::Vec3d a((i % 100) * 5000, row * 5000, 100);
             links.push_back({a, a + osg::Vec3d(4000, 3000, 50), 18000, {}});
         }
 

@@ -288,12 +288,13 @@ private Q_SLOTS:
         const ImageCrop crop = openImage(path)->crop({{0, 0}, {Side, Side}}, 100, MaxCropPixels);
 
         QCOMPARE(std::max(crop.image->s(), crop.image->t()), MaxCropPixels);
+        constexpr int Middle = Side / 2;
         const auto opacityAt = [&crop](double column) {
             return colorAt(*crop.image, crop.coordinates({column, 1000.5}))[3];
         };
-        QCOMPARE(opacityAt(Side / 2 + 10), 255);
-        QCOMPARE(opacityAt(Side / 2 - 95), 255);
-        QCOMPARE(opacityAt(Side / 2 - 105), 0);
+        QCOMPARE(opacityAt(Middle + 10), 255);
+        QCOMPARE(opacityAt(Middle - 95), 255);
+        QCOMPARE(opacityAt(Middle - 105), 0);
 
         // In a large city each building has only a small share of the memory.
         CityModel city = townOf({square(10, 10, 10 * Side - 20)}, 9);
@@ -332,8 +333,9 @@ private Q_SLOTS:
     {
         BuildingTextures look = lookOf(TextureMode::Roofs, {3});
         const std::string unplaced = m_dir.filePath(QStringLiteral("unplaced.tif")).toStdString();
-        GDALDatasetUniquePtr(GetGDALDriverManager()->GetDriverByName("GTiff")->Create(
+        GDALDatasetUniquePtr image(GetGDALDriverManager()->GetDriverByName("GTiff")->Create(
             unplaced.c_str(), 1, 1, 1, GDT_Byte, nullptr));
+        image.reset();
         look.images.insert(look.images.end(), {{unplaced, 6},
                                                {"absent.tif", 9},
                                                {look.images.front().path, 3},
@@ -359,8 +361,10 @@ private Q_SLOTS:
         const BuildingTextures look = lookOf(TextureMode::Walls, {3, 9});
         const auto images = open(city, look);
         std::atomic<unsigned> right = 0;
+        constexpr std::size_t ThreadCount = 8;
         std::vector<std::jthread> threads;
-        for (int i = 0; i < 8; ++i) {
+        threads.reserve(ThreadCount);
+        for (std::size_t i = 0; i < ThreadCount; ++i) {
             threads.emplace_back([&] {
                 const Tile tile(city, look, *images);
                 for (const Corner &corner : tile.corners)

@@ -197,6 +197,9 @@ private Q_SLOTS:
     void countsWhatItReads_data()
     {
         const Cases<QByteArray, int> row({"text", "rows"});
+        addRepeatedHeaders(row);
+        addSums(row);
+        addWorksheets(row);
         const QByteArray header = "Site ID;X;Y;Name\n";
         QByteArray latin1 = header;
         for (int i = 0; i < 9000; ++i)
@@ -204,34 +207,12 @@ private Q_SLOTS:
         for (int shift = 0; shift < 3; ++shift) // moves characters across the borders of chunks
             row(("Latin-1, shifted by " + QByteArray::number(shift)).constData(),
                 QByteArray(shift, 'T') + "\n" + latin1, 9000);
-        const QList<std::pair<const char *, QByteArray>> repetitions = {
-            {"the header once more far below", header},
-            {"the header in capital letters", header.toUpper()},
-            {"the header without its last columns", "Site ID;X;;\n"},
-        };
-        for (const auto &[name, repetition] : repetitions) {
-            QByteArray repeated = header;
-            for (int i = 0; i < 3000; ++i)
-                repeated += QByteArray::number(i) + ";2.5;48;n\n" +
-                            (i % 1000 == 500 ? repetition : QByteArray());
-            row(name, repeated, 3000);
-        }
-        const QByteArray data = "a;2.5;48;n\nb;2.5;48;n\n";
-        row("a row of sums at the end", header + data + "Total:;;;12\n", 2);
-        row("a count, sums and means before a blank row",
-            header + data + "Total sites;;;2\nAverage;2.5;48;\n;;;\nc;2.5;48;n\n", 3);
-        row("a site whose name is a word for sums", header + data + "Total;2.5;48;n\n", 3);
-        row("a site whose name begins so", header + data + "Total Nord;2.5;48;\n", 3);
-        row("such a row among others", header + "a;1;2;n\nTotal;2.5;48;\n" + data, 4);
-        QByteArray large = header;
-        for (int i = 0; i < 5000; ++i)
-            large += QByteArray::number(i) + ";2.5;48;name\n";
-        row("sums below a large table", large + "Summe;;;5000\n", 5000);
         QByteArray oneId = "Site ID;Longitude;Latitude;Azimuth\n";
         QByteArray onePlace = "Site;Longitude;Latitude;Azimuth\n";
         for (int i = 0; i < 50000; ++i) {
+            const int step = i / 170;
             const QByteArray place =
-                QByteArray::number(i % 170 + 1) + ";" + QByteArray::number(i / 170 * 0.3);
+                QByteArray::number(i % 170 + 1) + ";" + QByteArray::number(step * 0.3);
             oneId += "A;" + place + ";0\nA;" + place + ";120\n";
             onePlace += QByteArray::number(i) + " Street;2.5;48;0\n";
         }
@@ -239,28 +220,6 @@ private Q_SLOTS:
         row("50,000 names at a place", onePlace, 50000);
         row("a row with nothing but an unnamed column", "Site ID;X;Y;\n1;2;3;a\n2;3;4;b\n;;;c\n",
             2);
-        const QByteArray ml =
-            "<?xml version=\"1.0\"?><Workbook "
-            "xmlns=\"urn:schemas-microsoft-com:office:spreadsheet\" "
-            "xmlns:ss=\"urn:schemas-microsoft-com:office:spreadsheet\"><Title>My Worksheet</Title>"
-            "<Worksheet ss:Name=\"Cover\"/><Worksheet ss:Name=\"S\"><Table>";
-        const auto site = [](const QByteArray &attributes, const QByteArray &id) {
-            const QByteArray cell = "<Cell><Data ss:Type=\"String\">";
-            const QByteArray end = "</Data></Cell>";
-            return "<Row " + attributes + ">" + cell + id + end + cell + "X" + end + cell + "Y" +
-                   end + "</Row>";
-        };
-        row("a worksheet without a table, numbers out of order",
-            ml + site("", "Site ID") + site("ss:Index=\"9\"", "a") + site("ss:Index=\"3\"", "b") +
-                "</Table></Worksheet></Workbook>",
-            2);
-        const QByteArray next = "<Worksheet ss:Name=\"T\"><Table>";
-        row("a hidden worksheet before another one",
-            ml + site("", "Site ID") + site("", "a") + site("", "b") +
-                "</Table><WorksheetOptions><Visible>SheetHidden</Visible></WorksheetOptions>"
-                "</Worksheet>" +
-                next + site("", "Site ID") + site("", "c") + "</Table></Worksheet></Workbook>",
-            1);
         row("30,000 equal names and 3 MB of ampersands",
             "Site;X;" + QByteArray("n;").repeated(30000) + "\na;1;2;" + QByteArray(3000000, '&') +
                 "\n",
@@ -409,6 +368,65 @@ private Q_SLOTS:
     }
 
 private:
+    static void addRepeatedHeaders(const Cases<QByteArray, int> &row)
+    {
+        const QByteArray header = "Site ID;X;Y;Name\n";
+        const QList<std::pair<const char *, QByteArray>> repetitions = {
+            {"the header once more far below", header},
+            {"the header in capital letters", header.toUpper()},
+            {"the header without its last columns", "Site ID;X;;\n"},
+        };
+        for (const auto &[name, repetition] : repetitions) {
+            QByteArray repeated = header;
+            for (int i = 0; i < 3000; ++i)
+                repeated += QByteArray::number(i) + ";2.5;48;n\n" +
+                            (i % 1000 == 500 ? repetition : QByteArray());
+            row(name, repeated, 3000);
+        }
+    }
+
+    static void addSums(const Cases<QByteArray, int> &row)
+    {
+        const QByteArray header = "Site ID;X;Y;Name\n";
+        const QByteArray data = "a;2.5;48;n\nb;2.5;48;n\n";
+        row("a row of sums at the end", header + data + "Total:;;;12\n", 2);
+        row("a count, sums and means before a blank row",
+            header + data + "Total sites;;;2\nAverage;2.5;48;\n;;;\nc;2.5;48;n\n", 3);
+        row("a site whose name is a word for sums", header + data + "Total;2.5;48;n\n", 3);
+        row("a site whose name begins so", header + data + "Total Nord;2.5;48;\n", 3);
+        row("such a row among others", header + "a;1;2;n\nTotal;2.5;48;\n" + data, 4);
+        QByteArray large = header;
+        for (int i = 0; i < 5000; ++i)
+            large += QByteArray::number(i) + ";2.5;48;name\n";
+        row("sums below a large table", large + "Summe;;;5000\n", 5000);
+    }
+
+    static void addWorksheets(const Cases<QByteArray, int> &row)
+    {
+        const QByteArray ml =
+            "<?xml version=\"1.0\"?><Workbook "
+            "xmlns=\"urn:schemas-microsoft-com:office:spreadsheet\" "
+            "xmlns:ss=\"urn:schemas-microsoft-com:office:spreadsheet\"><Title>My Worksheet</Title>"
+            "<Worksheet ss:Name=\"Cover\"/><Worksheet ss:Name=\"S\"><Table>";
+        const auto site = [](const QByteArray &attributes, const QByteArray &id) {
+            const QByteArray cell = "<Cell><Data ss:Type=\"String\">";
+            const QByteArray end = "</Data></Cell>";
+            return "<Row " + attributes + ">" + cell + id + end + cell + "X" + end + cell + "Y" +
+                   end + "</Row>";
+        };
+        row("a worksheet without a table, numbers out of order",
+            ml + site("", "Site ID") + site("ss:Index=\"9\"", "a") + site("ss:Index=\"3\"", "b") +
+                "</Table></Worksheet></Workbook>",
+            2);
+        const QByteArray next = "<Worksheet ss:Name=\"T\"><Table>";
+        row("a hidden worksheet before another one",
+            ml + site("", "Site ID") + site("", "a") + site("", "b") +
+                "</Table><WorksheetOptions><Visible>SheetHidden</Visible></WorksheetOptions>"
+                "</Worksheet>" +
+                next + site("", "Site ID") + site("", "c") + "</Table></Worksheet></Workbook>",
+            1);
+    }
+
     void write(const char *name, const QByteArray &text) { m_folder.write(name, text); }
     GDALDatasetUniquePtr open(const char *options, const char *name) const
     {

@@ -5,6 +5,78 @@
 
 using namespace vlt::driver;
 
+namespace {
+
+/// A value of a transmitter: number, "absent", "omni" or the fault.
+struct ValueCase
+{
+    const char *quantity;
+    const char *text;
+    const char *result;
+    double unit = 1;
+};
+
+constexpr ValueCase ValueCases[] = {
+    {"height", "30", "30"},
+    {"height", "30 m", "30"},
+    {"height", "30,5", "30.5"},
+    {"height", "1 234,5", "1234.5"},
+    {"height", "98.4 ft", "29.9923"}, // 98.4 x 0.3048
+    {"height", "100'", "30.48"},
+    {"height", "100", "30.48", 0.3048},
+    {"height", "30 m", "30", 0.3048},
+    {"height", "1.5 km", "1500"},
+    {"height", "0", "0"},
+    {"height", "2000", "2000"},
+    {"height", "2000.1", "out of range"},
+    {"height", "-5", "out of range"},
+    {"height", "99999", "out of range"},
+    {"height", "30 apples", "unreadable"},
+    {"height", "--5", "unreadable"},
+    {"height", "30/28", "unreadable"},
+    {"height", " ", "absent"},
+    {"height", "N/A", "absent"},
+    {"height", "999999999", "absent"},
+    {"height", "-9999.00", "absent"},
+    {"azimuth", "120", "120"},
+    {"azimuth", "120\u00B0", "120"},
+    {"azimuth", "120 deg", "120"},
+    {"azimuth", "133,5", "133.5"},
+    {"azimuth", "100 gon", "90"},
+    {"azimuth", "100", "90", 0.9},
+    {"azimuth", "100\u00B0", "100", 0.9},
+    {"azimuth", "100 Grad", "100"},
+    {"azimuth", "400 grad", "0"},
+    {"azimuth", "360", "0"},
+    {"azimuth", "-360", "0"},
+    {"azimuth", "-30", "330"},
+    {"azimuth", "N120E", "120"},
+    {"azimuth", "N 30\u00B0 W", "330"},
+    {"azimuth", "S45,5E", "134.5"},
+    {"azimuth", "s45w", "225"},
+    {"azimuth", "N0W", "0"},
+    {"azimuth", "S120E", "unreadable"}, // no quadrant
+    {"azimuth", "N30O", "unreadable"},  // Ost or Ouest
+    {"azimuth", "1200", "out of range"},
+    {"azimuth", "north", "unreadable"},
+    {"azimuth", "#N/A", "absent"},
+    {"azimuth", "Omni", "omni"},
+    {"tilt", "-2,5\u00B0", "-2.5"},
+    {"tilt", "95", "out of range"},
+    {"tilt", "Omni", "unreadable"},
+    {"beam width", "65", "65"},
+    {"beam width", "360", "360"},
+    {"beam width", "Omni", "omni"},
+    {"beam width", "-65", "out of range"},
+    {"beam width", "wide", "unreadable"},
+    {"frequency", "1.8 GHz", "1800"},
+    {"frequency", "0", "out of range"},
+    {"frequency", "700,800,900", "unreadable"},
+    {"frequency", "9999", "9999"},
+};
+
+} // namespace
+
 /// Values of transmitters in tables.
 class tst_TransmitterValues : public QObject
 {
@@ -16,70 +88,14 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("quantity");
         QTest::addColumn<QByteArray>("text");
         QTest::addColumn<double>("unit");
-        QTest::addColumn<QByteArray>("result"); // number, "absent", "omni" or the fault
-        const auto row = [](const char *quantity, const char *text, const char *result,
-                            double unit = 1) {
-            QTest::newRow(qPrintable(QStringLiteral("%1 \"%2\", unit %3")
-                                         .arg(QString::fromUtf8(quantity), QString::fromUtf8(text))
-                                         .arg(unit)))
-                << QByteArray(quantity) << QByteArray(text) << unit << QByteArray(result);
-        };
-        row("height", "30", "30");
-        row("height", "30 m", "30");
-        row("height", "30,5", "30.5");
-        row("height", "1 234,5", "1234.5");
-        row("height", "98.4 ft", "29.9923"); // 98.4 x 0.3048
-        row("height", "100'", "30.48");
-        row("height", "100", "30.48", 0.3048);
-        row("height", "30 m", "30", 0.3048);
-        row("height", "1.5 km", "1500");
-        row("height", "0", "0");
-        row("height", "2000", "2000");
-        row("height", "2000.1", "out of range");
-        row("height", "-5", "out of range");
-        row("height", "99999", "out of range");
-        row("height", "30 apples", "unreadable");
-        row("height", "--5", "unreadable");
-        row("height", "30/28", "unreadable");
-        row("height", " ", "absent");
-        row("height", "N/A", "absent");
-        row("height", "999999999", "absent");
-        row("height", "-9999.00", "absent");
-        row("azimuth", "120", "120");
-        row("azimuth", "120\u00B0", "120");
-        row("azimuth", "120 deg", "120");
-        row("azimuth", "133,5", "133.5");
-        row("azimuth", "100 gon", "90");
-        row("azimuth", "100", "90", 0.9);
-        row("azimuth", "100\u00B0", "100", 0.9);
-        row("azimuth", "100 Grad", "100");
-        row("azimuth", "400 grad", "0");
-        row("azimuth", "360", "0");
-        row("azimuth", "-360", "0");
-        row("azimuth", "-30", "330");
-        row("azimuth", "N120E", "120");
-        row("azimuth", "N 30\u00B0 W", "330");
-        row("azimuth", "S45,5E", "134.5");
-        row("azimuth", "s45w", "225");
-        row("azimuth", "N0W", "0");
-        row("azimuth", "S120E", "unreadable"); // no quadrant
-        row("azimuth", "N30O", "unreadable");  // Ost or Ouest
-        row("azimuth", "1200", "out of range");
-        row("azimuth", "north", "unreadable");
-        row("azimuth", "#N/A", "absent");
-        row("azimuth", "Omni", "omni");
-        row("tilt", "-2,5\u00B0", "-2.5");
-        row("tilt", "95", "out of range");
-        row("tilt", "Omni", "unreadable");
-        row("beam width", "65", "65");
-        row("beam width", "360", "360");
-        row("beam width", "Omni", "omni");
-        row("beam width", "-65", "out of range");
-        row("beam width", "wide", "unreadable");
-        row("frequency", "1.8 GHz", "1800");
-        row("frequency", "0", "out of range");
-        row("frequency", "700,800,900", "unreadable");
-        row("frequency", "9999", "9999");
+        QTest::addColumn<QByteArray>("result");
+        for (const ValueCase &row : ValueCases)
+            QTest::newRow(
+                qPrintable(QStringLiteral("%1 \"%2\", unit %3")
+                               .arg(QString::fromUtf8(row.quantity), QString::fromUtf8(row.text))
+                               .arg(row.unit)))
+                << QByteArray(row.quantity) << QByteArray(row.text) << row.unit
+                << QByteArray(row.result);
     }
     void readsValues()
     {
