@@ -3,6 +3,9 @@
 #include "contract/Words.h"
 #include "text/Numbers.h"
 
+#include <array>
+#include <charconv>
+
 namespace vlt::buildings {
 
 namespace {
@@ -82,6 +85,77 @@ std::string elevationElement(const BuildingTerrain &terrain)
            line(texb::FileName, terrain.file) + line(texb::NoData, terrain.noData) + "  />\n";
 }
 
+/// The attributes of an element that not all readers know: only those that are not the default.
+class OptionalElement
+{
+public:
+    explicit OptionalElement(const char *name) : m_name(name) {}
+
+    void add(const char *name, const std::string &value, const std::string &ifAbsent = {})
+    {
+        if (value != ifAbsent)
+            m_lines += line(name, value);
+    }
+    template<typename Value, std::size_t N>
+    void add(const char *name, const char *const (&words)[N], Value value, Value ifAbsent)
+    {
+        add(name, wordOf(words, value), wordOf(words, ifAbsent));
+    }
+
+    std::string text() const
+    {
+        return m_lines.empty() ? std::string() : "  " + startOf(m_name) + m_lines + "  />\n";
+    }
+
+private:
+    const char *m_name;
+    std::string m_lines;
+};
+
+/// The shortest text for a number that is read as the same one.
+template<typename Number>
+std::string exact(Number value)
+{
+    std::array<char, 32> digits{};
+    return {digits.data(), std::to_chars(digits.begin(), digits.end(), value).ptr};
+}
+
+std::string heightsElement(const BuildingFootprints &footprints)
+{
+    const BuildingHeights &heights = footprints.heights;
+    const BuildingHeights absent;
+    OptionalElement element(texb::HeightsElement);
+    element.add(texb::Unit, HeightUnitWords, heights.unit, absent.unit);
+    element.add(texb::Factor, exact(heights.factor), exact(absent.factor));
+    element.add(texb::LevelHeight, exact(heights.levelHeightM), exact(absent.levelHeightM));
+    element.add(texb::ElseField, heights.elseField);
+    element.add(texb::ElseUnit, HeightUnitWords, heights.elseUnit, absent.elseUnit);
+    element.add(texb::DefaultHeight, heights.defaultM ? exact(*heights.defaultM) : "");
+    element.add(texb::Reference, HeightReferenceWords, heights.reference, absent.reference);
+    element.add(texb::Base, BaseRuleWords, heights.base, absent.base);
+    element.add(texb::BaseField, heights.baseField);
+    element.add(texb::BottomField, heights.bottomField);
+    element.add(texb::Where, texb::percentEncoded(footprints.where));
+    return element.text();
+}
+
+std::string colorsElement(const BuildingColors &colors)
+{
+    const BuildingColors absent;
+    OptionalElement element(texb::ColorsElement);
+    element.add(texb::Band, exact(colors.band), exact(absent.band));
+    if (colors.range) {
+        element.add(texb::Minimum, exact(colors.range->minimum));
+        element.add(texb::Maximum, exact(colors.range->maximum));
+        element.add(texb::RasterSize, exact(colors.range->sizeBytes));
+        element.add(texb::RasterTime, exact(colors.range->timeS));
+    }
+    element.add(texb::ColorField, colors.field);
+    element.add(texb::ColorMap, colors.map);
+    element.add(texb::Mode, FieldColoringWords, colors.coloring, absent.coloring);
+    return element.text();
+}
+
 std::string textureElement(const BuildingImage &image)
 {
     return "    " + startOf(texb::TextureElement) + "  " + line(texb::FileName, image.path) + "  " +
@@ -117,7 +191,9 @@ QString writeColoredTexbDocument(const BuildingDocument &document)
 {
     return QString::fromStdString(Header + rootStart({}, Variant::Colored) +
                                   vectorElement(document.footprints, Variant::Colored) +
-                                  elevationElement(document.terrain) + endTag(texb::RootElement));
+                                  elevationElement(document.terrain) +
+                                  heightsElement(document.footprints) +
+                                  colorsElement(document.colors) + endTag(texb::RootElement));
 }
 
 QString writeTexbDocument(const BuildingDocument &document)
@@ -125,6 +201,7 @@ QString writeTexbDocument(const BuildingDocument &document)
     return QString::fromStdString(
         Header + rootStart(document.cache, Variant::Full) +
         vectorElement(document.footprints, Variant::Full) + elevationElement(document.terrain) +
+        heightsElement(document.footprints) + colorsElement(document.colors) +
         (document.textures ? texturesElement(*document.textures) : std::string()) +
         endTag(texb::RootElement));
 }

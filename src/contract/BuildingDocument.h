@@ -1,9 +1,12 @@
 #pragma once
 
+#include "contract/BuildingColors.h"
+#include "contract/BuildingHeights.h"
 #include "contract/ChosenNumber.h"
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 /// The building document (".texb"): footprints that become buildings, the terrain below them, their
@@ -49,8 +52,8 @@ struct BuildingCache
     bool operator==(const BuildingCache &) const = default;
 };
 
-/// The element "vector": the footprints and how they are extruded. A number that a document leaves
-/// out has the default given here.
+/// The elements "vector" and "heights": the footprints and how they are extruded. A number that a
+/// document leaves out has the default given here.
 struct BuildingFootprints
 {
     std::string file;  ///< vector dataset
@@ -63,6 +66,8 @@ struct BuildingFootprints
     std::string roofColor; ///< the same; empty: the colour of the walls
     double skirtHeightM = 0;
     bool checkClockwise = false;
+    BuildingHeights heights = {};
+    std::string where = {}; ///< SQL condition for the features that are buildings; empty: all
 
     bool operator==(const BuildingFootprints &) const = default;
 };
@@ -108,6 +113,7 @@ struct BuildingDocument
     BuildingFootprints footprints;
     BuildingTerrain terrain;
     std::optional<BuildingTextures> textures; ///< nothing: no images
+    BuildingColors colors = {};
 
     bool operator==(const BuildingDocument &) const = default;
 };
@@ -142,8 +148,32 @@ inline constexpr char Source[] = "source"; ///< always TerrainSource
 inline constexpr char TerrainSource[] = "dtm";
 inline constexpr char NoData[] = "nodata";
 
+// Readers that do not know the next two elements pass over them: they are absent, and each of their
+// attributes is, where the value is the default.
+inline constexpr char HeightsElement[] = "heights";
+inline constexpr char Unit[] = "unit";
+inline constexpr char Factor[] = "factor";
+inline constexpr char LevelHeight[] = "levelHeight";
+inline constexpr char ElseField[] = "elseField";
+inline constexpr char ElseUnit[] = "elseUnit";
+inline constexpr char DefaultHeight[] = "default";
+inline constexpr char Reference[] = "reference";
+inline constexpr char Base[] = "base";
+inline constexpr char BaseField[] = "baseField";
+inline constexpr char BottomField[] = "bottomField";
+inline constexpr char Where[] = "where"; ///< with percentEncoded()
+
+inline constexpr char ColorsElement[] = "colors";
+inline constexpr char Band[] = "band";
+inline constexpr char Minimum[] = "minimum"; ///< the four values of the range stand together
+inline constexpr char Maximum[] = "maximum";
+inline constexpr char RasterSize[] = "size";
+inline constexpr char RasterTime[] = "time";
+inline constexpr char ColorField[] = "field";
+inline constexpr char ColorMap[] = "map";
+
 inline constexpr char TexturesElement[] = "textures";
-inline constexpr char Mode[] = "mode";
+inline constexpr char Mode[] = "mode"; ///< also in "colors"
 inline constexpr char EdgeColor[] = "edgeColor";
 inline constexpr char ForceEdgeCreation[] = "forceEdgeCreation";
 inline constexpr char ProcessComplexBuildings[] = "processComplexBuildings";
@@ -157,6 +187,12 @@ inline constexpr char Height[] = "height";
 
 inline constexpr char True[] = "true";
 inline constexpr char False[] = "false";
+
+/// A text with "%22" and the like for quotation marks, brackets, "&", "%" and control characters.
+std::string percentEncoded(std::string_view text);
+
+/// The text that percentEncoded() was given.
+std::string percentDecoded(std::string_view text);
 
 } // namespace texb
 

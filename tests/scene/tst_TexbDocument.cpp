@@ -93,6 +93,14 @@ private Q_SLOTS:
         row("with images", document);
         document.cache = {CacheMode::All, true, 9};
         row("with a cache", document);
+        document.footprints.heights = {HeightUnit::Levels,   0.3048,           2.7,
+                                       "NB \"d'étages\"",    HeightUnit::Feet, 7.5,
+                                       HeightReference::Sea, BaseRule::Field,  "Z_SOL=\"x",
+                                       "MIN_HEIGHT"};
+        document.footprints.where = "\"USE\" = 'A & B' AND x<>1\n OR y LIKE '%22%' OR z > 1e-3";
+        document.colors = {3, KnownRasterRange{-120.1, 1e-17, 1LL << 40, 1700000000}, "USAGE",
+                           "/maps/use.txt", FieldColoring::Distinct};
+        row("with heights and colors", document);
     }
 
     void readsWhatIsWritten()
@@ -132,6 +140,10 @@ private Q_SLOTS:
         row("not finite", document("tileSize=\"inf\""), "tileSize");
         row("too great", document("tileSize=\"1e999\""), "tileSize");
         row("negative", document("extrudedVisibility=\"-1\""), "extrudedVisibility");
+        row("unit", document({}, "<heights \n unit=\"miles\" />"), "the unit \"miles\"");
+        row("factor", document({}, "<heights factor=\"0\" />"), "\"0\" is not a number from 0.001");
+        row("default height", document({}, "<heights default=\"6 m\" />"), "default");
+        row("band", document({}, "<colors band=\"0\" />"), "band");
     }
 
     void refusesOthers()

@@ -5,6 +5,7 @@
 #include "plugins/scene/reading/LayerText.h"
 
 #include <algorithm>
+#include <array>
 #include <cctype>
 #include <charconv>
 #include <cmath>
@@ -20,6 +21,7 @@ constexpr std::string_view Blanks = " \t\r\n";
 constexpr auto None = std::string_view::npos;
 /// Limit for hostile input, in metres or pixels. Larger numbers would not change the scene.
 constexpr double MaxNumber = 1e9;
+constexpr std::size_t MaxShown = 40; ///< characters of a wrong value in a message
 
 std::string_view withoutBlanks(std::string_view text)
 {
@@ -103,22 +105,62 @@ std::string textOf(const Attributes &attributes, std::string_view name)
     return {};
 }
 
+/// The number in a text; nothing if it is none, or is not finite.
+template<typename Number>
+std::optional<Number> numberIn(std::string_view text)
+{
+    text = withoutBlanks(text);
+    Number number = 0;
+    const char *last = text.data() + text.size();
+    const auto [end, fault] = std::from_chars(text.data(), last, number);
+    const bool isWhole = withoutBlanks({end, static_cast<std::size_t>(last - end)}).empty();
+    if (fault != std::errc() || !isWhole || !std::isfinite(static_cast<double>(number)))
+        return std::nullopt;
+    return number;
+}
+
 double numberOf(const Attributes &attributes, std::string_view name, double absent,
                 double minimum = 0)
 {
     const std::string text = textOf(attributes, name);
-    const std::string_view digits = withoutBlanks(text);
-    if (digits.empty())
+    if (withoutBlanks(text).empty())
         return absent;
-    double number = 0;
-    const char *last = digits.data() + digits.size();
-    const auto [end, fault] = std::from_chars(digits.data(), last, number);
-    const bool isWhole = withoutBlanks({end, static_cast<std::size_t>(last - end)}).empty();
-    if (fault != std::errc() || !isWhole || !std::isfinite(number) || number < minimum)
+    const std::optional<double> number = numberIn<double>(text);
+    if (!number || *number < minimum)
         throw BadLayer(minimum < 0 ? contract::SceneTextId("MESS_SCENE_NO_NUMBER")
                                    : contract::SceneTextId("MESS_SCENE_BAD_NUMBER"),
-                       {name, text.substr(0, 40)});
-    return std::min(number, MaxNumber);
+                       {name, text.substr(0, MaxShown)});
+    return std::min(*number, MaxNumber);
+}
+
+/// The number of an attribute that a user chooses in a range; nothing if there is no attribute.
+std::optional<double> chosenOf(const Attributes &attributes, std::string_view name,
+                               const Range &range)
+{
+    const std::string text = textOf(attributes, name);
+    if (withoutBlanks(text).empty())
+        return std::nullopt;
+    const std::optional<double> number = numberIn<double>(text);
+    const auto shown = [](double limit) {
+        std::array<char, 32> digits{};
+        return std::string(digits.data(), std::to_chars(digits.begin(), digits.end(), limit).ptr);
+    };
+    if (!number || !range.contains(*number))
+        throw BadLayer("MESS_SCENE_OUT_OF_RANGE", {name, text.substr(0, MaxShown),
+                                                   shown(range.minimum), shown(range.maximum)});
+    return number;
+}
+
+/// The value for the word of an attribute; `absent` if there is no attribute.
+template<typename Value, std::size_t N>
+Value wordIn(const Attributes &attributes, std::string_view name, const char *const (&words)[N],
+             Value absent)
+{
+    const std::string text = textOf(attributes, name);
+    const std::optional<Value> value = valueOf<Value>(words, text);
+    if (!value && !text.empty())
+        throw BadLayer("MESS_SCENE_BAD_WORD", {name, text.substr(0, MaxShown)});
+    return value.value_or(absent);
 }
 
 bool isTrue(const Attributes &attributes, std::string_view name)
@@ -127,9 +169,8 @@ bool isTrue(const Attributes &attributes, std::string_view name)
     return isSameWord(text, texb::True) || text == "1";
 }
 
-BuildingFootprints footprintsOf(const Attributes &attributes)
+void readFootprints(const Attributes &attributes, BuildingFootprints &footprints)
 {
-    BuildingFootprints footprints;
     footprints.file = textOf(attributes, texb::FileName);
     footprints.layer = textOf(attributes, texb::Layer);
     footprints.heightField = textOf(attributes, texb::HeightField);
@@ -142,14 +183,48 @@ BuildingFootprints footprintsOf(const Attributes &attributes)
     footprints.wallColor = textOf(attributes, texb::WallColor);
     footprints.roofColor = textOf(attributes, texb::RoofColor);
     footprints.checkClockwise = isTrue(attributes, texb::CheckClockwise);
-    return footprints;
+}
+
+BuildingHeights heightsOf(const Attributes &attributes)
+{
+    BuildingHeights heights;
+    heights.unit = wordIn(attributes, texb::Unit, HeightUnitWords, heights.unit);
+    heights.factor = chosenOf(attributes, texb::Factor, HeightFactor).value_or(heights.factor);
+    heights.levelHeightM =
+        chosenOf(attributes, texb::LevelHeight, LevelHeightM).value_or(heights.levelHeightM);
+    heights.elseField = textOf(attributes, texb::ElseField);
+    heights.elseUnit = wordIn(attributes, texb::ElseUnit, HeightUnitWords, heights.elseUnit);
+    heights.defaultM = chosenOf(attributes, texb::DefaultHeight, DefaultHeightM);
+    heights.reference =
+        wordIn(attributes, texb::Reference, HeightReferenceWords, heights.reference);
+    heights.base = wordIn(attributes, texb::Base, BaseRuleWords, heights.base);
+    heights.baseField = textOf(attributes, texb::BaseField);
+    heights.bottomField = textOf(attributes, texb::BottomField);
+    return heights;
+}
+
+BuildingColors colorsOf(const Attributes &attributes)
+{
+    BuildingColors colors;
+    colors.band =
+        static_cast<int>(chosenOf(attributes, texb::Band, RasterBand).value_or(colors.band));
+    const auto minimum = numberIn<double>(textOf(attributes, texb::Minimum));
+    const auto maximum = numberIn<double>(textOf(attributes, texb::Maximum));
+    const auto size = numberIn<std::int64_t>(textOf(attributes, texb::RasterSize));
+    const auto time = numberIn<std::int64_t>(textOf(attributes, texb::RasterTime));
+    if (minimum && maximum && size && time) // else they are computed
+        colors.range = {*minimum, *maximum, *size, *time};
+    colors.field = textOf(attributes, texb::ColorField);
+    colors.map = textOf(attributes, texb::ColorMap);
+    colors.coloring = wordIn(attributes, texb::Mode, FieldColoringWords, colors.coloring);
+    return colors;
 }
 
 TextureMode modeNamed(const std::string &name)
 {
     const auto mode = valueOf<TextureMode>(TextureModeWords, name);
     if (!mode)
-        throw BadLayer("MESS_SCENE_BAD_MODE", {name.substr(0, 40)});
+        throw BadLayer("MESS_SCENE_BAD_MODE", {name.substr(0, MaxShown)});
     return *mode;
 }
 
@@ -181,7 +256,12 @@ BuildingTextures texturesOf(const Attributes &attributes)
 void takeElement(BuildingDocument &document, std::string_view name, const Attributes &attributes)
 {
     if (name == texb::VectorElement)
-        document.footprints = footprintsOf(attributes);
+        readFootprints(attributes, document.footprints);
+    else if (name == texb::HeightsElement) {
+        document.footprints.heights = heightsOf(attributes);
+        document.footprints.where = texb::percentDecoded(textOf(attributes, texb::Where));
+    } else if (name == texb::ColorsElement)
+        document.colors = colorsOf(attributes);
     else if (name == texb::ElevationElement)
         document.terrain = {textOf(attributes, texb::FileName), textOf(attributes, texb::NoData)};
     else if (name == texb::TexturesElement)

@@ -63,6 +63,14 @@
         <source>the %1 "%2" is not a number</source>
         <translation>the %1 "%2" is not a number</translation>
     </message>
+    <message id="MESS_SCENE_OUT_OF_RANGE">
+        <source>the %1 "%2" is not a number from %3 to %4</source>
+        <translation>the %1 "%2" is not a number from %3 to %4</translation>
+    </message>
+    <message id="MESS_SCENE_BAD_WORD">
+        <source>the %1 "%2" is not a known word</source>
+        <translation>the %1 "%2" is not a known word</translation>
+    </message>
     <message id="MESS_SCENE_BAD_MODE">
         <source>the texture mode "%1" is none of roofs, walls and storeys</source>
         <translation>the texture mode "%1" is none of roofs, walls and storeys</translation>
@@ -155,6 +163,14 @@
         <source>the field "%1" of the footprints holds no numbers</source>
         <translation>the field "%1" of the footprints holds no numbers</translation>
     </message>
+    <message id="MESS_SCENE_BAD_FILTER">
+        <source>the filter "%1" cannot be used: %2</source>
+        <translation>the filter "%1" cannot be used: %2</translation>
+    </message>
+    <message id="MESS_SCENE_EMPTY_FILTER">
+        <source>the filter "%1" leaves no building</source>
+        <translation>the filter "%1" leaves no building</translation>
+    </message>
     <message id="MESS_SCENE_NO_HEIGHT">
         <source>%1 of %2 buildings are left out: no height in the field "%3"</source>
         <translation>%1 of %2 buildings are left out: no height in the field "%3"</translation>
@@ -163,6 +179,14 @@
         <source>%1 of %2 buildings are left out: a height of zero or less in the field "%3"</source>
         <translation>%1 of %2 buildings are left out: a height of zero or less in the field "%3"</translation>
     </message>
+    <message id="MESS_SCENE_TOO_HIGH">
+        <source>%1 of %2 buildings are left out: a height of more than 10,000 m in the field "%3"</source>
+        <translation>%1 of %2 buildings are left out: a height of more than 10,000 m in the field "%3"</translation>
+    </message>
+    <message id="MESS_SCENE_BELOW_GROUND">
+        <source>%1 of %2 buildings are left out: their roof above sea level is not above the ground</source>
+        <translation>%1 of %2 buildings are left out: their roof above sea level is not above the ground</translation>
+    </message>
     <message id="MESS_SCENE_NO_POLYGON">
         <source>%1 of %2 buildings are left out: no polygon with an area</source>
         <translation>%1 of %2 buildings are left out: no polygon with an area</translation>
@@ -170,6 +194,26 @@
     <message id="MESS_SCENE_NO_PLACE">
         <source>%1 of %2 buildings are left out: their position lies outside their coordinate system</source>
         <translation>%1 of %2 buildings are left out: their position lies outside their coordinate system</translation>
+    </message>
+    <message id="MESS_SCENE_ELSE_HEIGHT">
+        <source>%1 of %2 buildings have their height from the field "%3"</source>
+        <translation>%1 of %2 buildings have their height from the field "%3"</translation>
+    </message>
+    <message id="MESS_SCENE_DEFAULT_HEIGHT">
+        <source>%1 of %2 buildings without a height are %3 m high</source>
+        <translation>%1 of %2 buildings without a height are %3 m high</translation>
+    </message>
+    <message id="MESS_SCENE_TERRAIN_BASE">
+        <source>%1 of %2 buildings stand on the terrain: no ground height in the field "%3"</source>
+        <translation>%1 of %2 buildings stand on the terrain: no ground height in the field "%3"</translation>
+    </message>
+    <message id="MESS_SCENE_RAISED_BOTTOM">
+        <source>%1 of %2 buildings start at the ground: their underside is not below their roof</source>
+        <translation>%1 of %2 buildings start at the ground: their underside is not below their roof</translation>
+    </message>
+    <message id="MESS_SCENE_FAR_AWAY">
+        <source>%1 of %2 buildings lie far from all others: the feature %3 lies %4 km away</source>
+        <translation>%1 of %2 buildings lie far from all others: the feature %3 lies %4 km away</translation>
     </message>
     <message id="MESS_SCENE_COINCIDENT">
         <source>%1 of %2 buildings have the same outline as another one</source>
@@ -218,6 +262,22 @@
     <message id="MESS_SCENE_NO_VALUE">
         <source>%1 of %2 buildings have no value in the raster "%3"</source>
         <translation>%1 of %2 buildings have no value in the raster "%3"</translation>
+    </message>
+    <message id="MESS_SCENE_TRANSPARENT">
+        <source>%1 of %2 buildings are not visible: their color is transparent</source>
+        <translation>%1 of %2 buildings are not visible: their color is transparent</translation>
+    </message>
+    <message id="MESS_SCENE_NO_FIELD_VALUE">
+        <source>%1 of %2 buildings have no value in the field "%3"</source>
+        <translation>%1 of %2 buildings have no value in the field "%3"</translation>
+    </message>
+    <message id="MESS_SCENE_NO_BAND">
+        <source>it has no band %1</source>
+        <translation>it has no band %1</translation>
+    </message>
+    <message id="MESS_SCENE_BAD_TERRAIN_NODATA">
+        <source>the no-data value "%1" of the terrain is not a number and has no effect</source>
+        <translation>the no-data value "%1" of the terrain is not a number and has no effect</translation>
     </message>
     <message id="MESS_SCENE_NO_COLORS">
         <source>"%1" does not describe colors of buildings</source>

@@ -63,6 +63,14 @@
         <source>the %1 "%2" is not a number</source>
         <translation>la valeur de %1, «&#xa0;%2&#xa0;», n'est pas un nombre</translation>
     </message>
+    <message id="MESS_SCENE_OUT_OF_RANGE">
+        <source>the %1 "%2" is not a number from %3 to %4</source>
+        <translation>la valeur de %1, «&#xa0;%2&#xa0;», n'est pas un nombre de %3 à %4</translation>
+    </message>
+    <message id="MESS_SCENE_BAD_WORD">
+        <source>the %1 "%2" is not a known word</source>
+        <translation>la valeur de %1, «&#xa0;%2&#xa0;», n'est pas un mot connu</translation>
+    </message>
     <message id="MESS_SCENE_BAD_MODE">
         <source>the texture mode "%1" is none of roofs, walls and storeys</source>
         <translation>le mode de texture «&#xa0;%1&#xa0;» n'est ni roofs, ni walls, ni storeys</translation>
@@ -155,6 +163,14 @@
         <source>the field "%1" of the footprints holds no numbers</source>
         <translation>le champ «&#xa0;%1&#xa0;» des emprises ne contient pas de nombres</translation>
     </message>
+    <message id="MESS_SCENE_BAD_FILTER">
+        <source>the filter "%1" cannot be used: %2</source>
+        <translation>le filtre «&#xa0;%1&#xa0;» est inutilisable&#xa0;: %2</translation>
+    </message>
+    <message id="MESS_SCENE_EMPTY_FILTER">
+        <source>the filter "%1" leaves no building</source>
+        <translation>le filtre «&#xa0;%1&#xa0;» ne retient aucun bâtiment</translation>
+    </message>
     <message id="MESS_SCENE_NO_HEIGHT">
         <source>%1 of %2 buildings are left out: no height in the field "%3"</source>
         <translation>bâtiments omis, sans hauteur dans le champ «&#xa0;%3&#xa0;»&#xa0;: %1 sur %2</translation>
@@ -163,6 +179,14 @@
         <source>%1 of %2 buildings are left out: a height of zero or less in the field "%3"</source>
         <translation>bâtiments omis, de hauteur nulle ou négative dans le champ «&#xa0;%3&#xa0;»&#xa0;: %1 sur %2</translation>
     </message>
+    <message id="MESS_SCENE_TOO_HIGH">
+        <source>%1 of %2 buildings are left out: a height of more than 10,000 m in the field "%3"</source>
+        <translation>bâtiments omis, de plus de 10&#xa0;000&#xa0;m de haut dans le champ «&#xa0;%3&#xa0;»&#xa0;: %1 sur %2</translation>
+    </message>
+    <message id="MESS_SCENE_BELOW_GROUND">
+        <source>%1 of %2 buildings are left out: their roof above sea level is not above the ground</source>
+        <translation>bâtiments omis, dont le toit, en altitude, n'est pas au-dessus du sol&#xa0;: %1 sur %2</translation>
+    </message>
     <message id="MESS_SCENE_NO_POLYGON">
         <source>%1 of %2 buildings are left out: no polygon with an area</source>
         <translation>bâtiments omis, sans polygone ayant une surface&#xa0;: %1 sur %2</translation>
@@ -170,6 +194,26 @@
     <message id="MESS_SCENE_NO_PLACE">
         <source>%1 of %2 buildings are left out: their position lies outside their coordinate system</source>
         <translation>bâtiments omis, de position hors de leur système de coordonnées&#xa0;: %1 sur %2</translation>
+    </message>
+    <message id="MESS_SCENE_ELSE_HEIGHT">
+        <source>%1 of %2 buildings have their height from the field "%3"</source>
+        <translation>bâtiments dont la hauteur vient du champ «&#xa0;%3&#xa0;»&#xa0;: %1 sur %2</translation>
+    </message>
+    <message id="MESS_SCENE_DEFAULT_HEIGHT">
+        <source>%1 of %2 buildings without a height are %3 m high</source>
+        <translation>bâtiments sans hauteur, dessinés hauts de %3 m&#xa0;: %1 sur %2</translation>
+    </message>
+    <message id="MESS_SCENE_TERRAIN_BASE">
+        <source>%1 of %2 buildings stand on the terrain: no ground height in the field "%3"</source>
+        <translation>bâtiments posés sur le terrain, sans altitude du sol dans le champ «&#xa0;%3&#xa0;»&#xa0;: %1 sur %2</translation>
+    </message>
+    <message id="MESS_SCENE_RAISED_BOTTOM">
+        <source>%1 of %2 buildings start at the ground: their underside is not below their roof</source>
+        <translation>bâtiments partant du sol, leur dessous n'étant pas plus bas que leur toit&#xa0;: %1 sur %2</translation>
+    </message>
+    <message id="MESS_SCENE_FAR_AWAY">
+        <source>%1 of %2 buildings lie far from all others: the feature %3 lies %4 km away</source>
+        <translation>bâtiments très éloignés de tous les autres&#xa0;: %1 sur %2&#xa0;; l'objet %3 est à %4 km</translation>
     </message>
     <message id="MESS_SCENE_COINCIDENT">
         <source>%1 of %2 buildings have the same outline as another one</source>
@@ -218,6 +262,22 @@
     <message id="MESS_SCENE_NO_VALUE">
         <source>%1 of %2 buildings have no value in the raster "%3"</source>
         <translation>bâtiments sans valeur dans le raster «&#xa0;%3&#xa0;»&#xa0;: %1 sur %2</translation>
+    </message>
+    <message id="MESS_SCENE_TRANSPARENT">
+        <source>%1 of %2 buildings are not visible: their color is transparent</source>
+        <translation>bâtiments invisibles, leur couleur étant transparente&#xa0;: %1 sur %2</translation>
+    </message>
+    <message id="MESS_SCENE_NO_FIELD_VALUE">
+        <source>%1 of %2 buildings have no value in the field "%3"</source>
+        <translation>bâtiments sans valeur dans le champ «&#xa0;%3&#xa0;»&#xa0;: %1 sur %2</translation>
+    </message>
+    <message id="MESS_SCENE_NO_BAND">
+        <source>it has no band %1</source>
+        <translation>il n'a pas de bande %1</translation>
+    </message>
+    <message id="MESS_SCENE_BAD_TERRAIN_NODATA">
+        <source>the no-data value "%1" of the terrain is not a number and has no effect</source>
+        <translation>la valeur «&#xa0;sans données&#xa0;» «&#xa0;%1&#xa0;» du terrain n'est pas un nombre et reste sans effet</translation>
     </message>
     <message id="MESS_SCENE_NO_COLORS">
         <source>"%1" does not describe colors of buildings</source>
