@@ -26,11 +26,13 @@ inline constexpr char ErrorSeverity[] = "Error";
 inline constexpr char WarningSeverity[] = "Warning";
 
 // The domain of mistakes in positions has an item with their number, and an item for each:
-// FINDING_1=kind|cure|text.
+// FINDING_1=kind|cure|text. Where corrections of positions are the cure, CORRECTION_1 has them, see
+// PositionCorrection.h.
 inline constexpr char DoctorDomain[] = "doctor";
 inline constexpr char FindingCount[] = "COUNT";
 inline constexpr char FindingPrefix[] = "FINDING_";
 inline constexpr char FindingSeparator = '|';
+inline constexpr char CorrectionPrefix[] = "CORRECTION_";
 
 // The domain of systems, of tables in metres: EPSG codes, separated by blanks.
 inline constexpr char SystemsDomain[] = "systems";

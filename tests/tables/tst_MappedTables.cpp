@@ -1,6 +1,7 @@
-#include "DriverTesting.h"
+#include "RealTables.h"
 #include "support/Cases.h"
 
+#include <QMap>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -189,7 +190,76 @@ private Q_SLOTS:
         QCOMPARE(QByteArray(used), m_folder.path(file + ".columns.json"));
     }
 
+    void curesMistakes_data() { realtables::addTables(u"sites"_s); }
+    void curesMistakes()
+    {
+        QFETCH(QJsonObject, table);
+        const QJsonArray expected = table.value(u"cured"_s).toArray();
+        if (expected.isEmpty())
+            return;
+        const Warnings warnings;
+        GDALDatasetUniquePtr dataset = realtables::open(table, "site:");
+        QVERIFY2(dataset, qPrintable(warnings.texts.join(u'\n')));
+        m_folder.write("cured.json", curesOf(*dataset->GetLayer(0)));
+        table.insert(u"open"_s,
+                     QJsonObject{{u"COLUMNS"_s, QString::fromUtf8(m_folder.path("cured.json"))}});
+        dataset = realtables::open(table, "site:");
+        QVERIFY(dataset);
+        OGRLayer &layer = *dataset->GetLayer(0);
+        QMap<QString, QString> places;
+        while (const OGRFeatureUniquePtr site{layer.GetNextFeature()}) {
+            const OGRGeometry *geometry = site->GetGeometryRef();
+            if (!geometry)
+                continue;
+            const QString id = realtables::fieldText(*site, u"Site ID"_s);
+            places.insert(id.isEmpty() ? realtables::fieldText(*site, u"Site"_s) : id,
+                          placeText(geometry->toPoint()->getX(), geometry->toPoint()->getY()));
+        }
+
+        for (const QJsonValue &site : expected) {
+            QCOMPARE(places.value(site[u"id"_s].toString()),
+                     placeText(site[u"x"_s].toDouble(), site[u"y"_s].toDouble()));
+        }
+        QCOMPARE(places.size(), table.value(u"counts"_s).toObject().value(u"sites"_s).toInt());
+        QCOMPARE(layer.GetMetadataItem("COUNT", "doctor"), "0");
+    }
+
+    void quotesTheWrongEndOfALink()
+    {
+        m_folder.write("ends.csv", "Link,Lon A,Lat A,Lon B,Lat B\nK,2.3,48.8,2.4,48.9\n"
+                                   "L,2.31,48.81,48.92,2.41\nM,2.32,48.82,2.42,48.93\n");
+        const Warnings warnings;
+        const GDALDatasetUniquePtr dataset = m_folder.open("link:", "ends.csv");
+        QVERIFY2(dataset, qPrintable(warnings.texts.join(u'\n')));
+
+        QCOMPARE(dataset->GetLayer(0)->GetMetadataItem("CORRECTION_1", "doctor"),
+                 R"([{"cure":"swap","rows":[{"row":3,"x":"48.92","y":"2.41"}]}])");
+    }
+
 private:
+    static QString placeText(double x, double y)
+    {
+        return QString::number(x, 'f', 6) + u' ' + QString::number(y, 'f', 6);
+    }
+
+    /// A mapping with the cures of all mistakes in the positions of a table.
+    static QByteArray curesOf(OGRLayer &layer)
+    {
+        QByteArray mapping = "{\"version\": 1";
+        char **items = layer.GetMetadata("doctor");
+        for (char **item = items; item && *item; ++item) {
+            const QByteArray value = QByteArray(*item).mid(QByteArray(*item).indexOf('=') + 1);
+            const QByteArray cure = value.split('|').value(1);
+            if (cure == "swapAxes")
+                mapping += ", \"axes\": \"swapped\"";
+            else if (cure.startsWith("sourceSrs="))
+                mapping += ", \"sourceSrs\": \"" + cure.mid(10) + '"';
+            else if (STARTS_WITH(*item, "CORRECTION_"))
+                mapping += ", \"corrections\": " + value;
+        }
+        return mapping + '}';
+    }
+
     /// The roles without their evidence, the problems and all features.
     static QStringList contentOf(GDALDataset &dataset)
     {

@@ -44,6 +44,25 @@ std::span<const Correction> corrections()
     return all;
 }
 
+contract::PositionCorrection statementOf(const Correction &correction)
+{
+    using contract::PositionChange;
+    if (correction.isSwap)
+        return {PositionChange::Swap, 1, {}};
+    const bool inX = correction.factorX != 1;
+    const bool inY = correction.factorY != 1;
+    const auto choose = [&](PositionChange x, PositionChange y, PositionChange both) {
+        return inX && inY ? both : inX ? x : y;
+    };
+    const double factor = inX ? correction.factorX : correction.factorY;
+    if (factor == -1)
+        return {choose(PositionChange::NegateX, PositionChange::NegateY, PositionChange::Negate),
+                1,
+                {}};
+    return {
+        choose(PositionChange::ScaleX, PositionChange::ScaleY, PositionChange::Scale), factor, {}};
+}
+
 SurveyedPosition middleOf(const std::vector<SurveyedPosition> &positions)
 {
     SurveyedPosition middle;

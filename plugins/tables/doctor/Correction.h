@@ -1,5 +1,6 @@
 #pragma once
 
+#include "contract/PositionCorrection.h"
 #include "plugins/tables/doctor/Finding.h"
 #include "plugins/tables/doctor/SurveyedPositions.h"
 
@@ -23,6 +24,9 @@ struct Correction
 /// The mistakes of tables, the more frequent ones first: exchanged coordinates, lost signs,
 /// misplaced decimal marks. The kind of an exchange is Swapped.
 std::span<const Correction> corrections();
+
+/// A correction as mappings state it, without rows.
+contract::PositionCorrection statementOf(const Correction &correction);
 
 /// A position with the medians of both coordinates; `positions` must not be empty.
 SurveyedPosition middleOf(const std::vector<SurveyedPosition> &positions);

@@ -1,7 +1,10 @@
 #pragma once
 
+#include "contract/PositionCorrection.h"
+
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -26,6 +29,17 @@ enum class FindingKind {
 /// The word for a kind in the metadata domain "doctor".
 std::string_view findingWord(FindingKind kind);
 
+struct Correction;
+
+/// A wrong position, and what makes it right.
+struct StrayPosition
+{
+    int64_t row = 0;
+    double x = 0; ///< as in the survey
+    double y = 0;
+    const Correction *correction = nullptr; ///< one of corrections()
+};
+
 /// A finding about the positions of a table.
 struct Finding
 {
@@ -36,6 +50,10 @@ struct Finding
     std::vector<int64_t> rows; ///< the first ones of their rows, if it does not concern all
     std::string cure;          ///< "swapAxes", "sourceSrs=EPSG:n" or empty
     std::string text;          ///< English, from contract/TableTexts.h
+    /// Cures the whole table; `strays` the rows that are wrong, unless these are more than a
+    /// mapping can state.
+    std::optional<contract::PositionCorrection> correction = {};
+    std::vector<StrayPosition> strays = {};
 };
 
 } // namespace vlt::driver

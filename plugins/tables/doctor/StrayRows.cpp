@@ -191,6 +191,9 @@ std::vector<Finding> correctedRows(const Strays &strays, std::size_t all, bool i
             if (stray.correction->kind != kind)
                 continue;
             addRow(finding, stray.position->row);
+            if (finding.count <= contract::MaxCorrectedRows)
+                finding.strays.push_back(
+                    {stray.position->row, stray.position->x, stray.position->y, stray.correction});
             if (stray.correction->factorX != 1)
                 where.factorX = stray.correction->factorX;
             if (stray.correction->factorY != 1)
@@ -198,6 +201,8 @@ std::vector<Finding> correctedRows(const Strays &strays, std::size_t all, bool i
         }
         if (finding.count == 0)
             continue;
+        if (finding.count > contract::MaxCorrectedRows)
+            finding.strays.clear();
         finding.text = textOf(finding, where, std::to_string(all), isGeographic);
         findings.push_back(finding);
     }

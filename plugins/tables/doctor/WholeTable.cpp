@@ -96,7 +96,8 @@ std::optional<Finding> lostThousands(const Positions &positions, const SystemFac
                    {},
                    {},
                    formatted("MESS_TAB_DOCTOR_THOUSANDS",
-                             {coordinatesText(where, false), std::to_string(positions.size())})};
+                             {coordinatesText(where, false), std::to_string(positions.size())}),
+                   statementOf(where)};
 }
 
 /// Longitudes in the place of latitudes lie beyond 90 degrees, at least some of them.
@@ -158,12 +159,18 @@ std::optional<Finding> outsideAs(const Positions &positions, const CoordinateBox
             !area.holds(correction.x(middle), correction.y(middle)))
             continue;
         const std::size_t corrected = inside(correction);
-        if (isShare(corrected, positions, NearlyAll))
-            return Finding{correction.kind,
+        if (!isShare(corrected, positions, NearlyAll))
+            continue;
+        Finding finding = {correction.kind,
                            positions.size(),
                            {},
-                           correction.isSwap ? "swapAxes" : "",
+                           {},
                            textOf(correction, corrected, positions.size(), place, isGeographic)};
+        if (correction.isSwap)
+            finding.cure = "swapAxes";
+        else
+            finding.correction = statementOf(correction);
+        return finding;
     }
     return std::nullopt;
 }

@@ -4,9 +4,27 @@
 #include "plugins/tables/roles/Vocabulary.h"
 #include "plugins/tables/sites/SystemNames.h"
 
+#include <set>
+
 namespace vlt::driver {
 
 namespace metadata = contract::metadata;
+
+namespace {
+
+/// The names of the changes that corrections make: negateX,negateY.
+std::string namesOf(const std::vector<contract::PositionCorrection> &corrections)
+{
+    std::set<contract::PositionChange> changes;
+    for (const contract::PositionCorrection &correction : corrections)
+        changes.insert(correction.change);
+    std::string names;
+    for (const contract::PositionChange change : changes)
+        names.append(names.empty() ? "" : ",").append(contract::changeName(change));
+    return names;
+}
+
+} // namespace
 
 CPLStringList problemItems(const ProblemList &problems)
 {
@@ -26,17 +44,24 @@ CPLStringList problemItems(const ProblemList &problems)
     return items;
 }
 
-CPLStringList findingItems(const std::vector<Finding> &findings)
+CPLStringList
+findingItems(const std::vector<Finding> &findings,
+             const std::vector<std::vector<contract::PositionCorrection>> &corrections)
 {
     CPLStringList items;
     items.SetNameValue(metadata::FindingCount, std::to_string(findings.size()).c_str());
-    std::size_t number = 0;
-    for (const Finding &finding : findings) {
-        const std::string value = metadata::FindingPrefix + std::to_string(++number) + '=' +
-                                  std::string(findingWord(finding.kind)) +
-                                  metadata::FindingSeparator + finding.cure +
-                                  metadata::FindingSeparator + finding.text;
+    for (std::size_t i = 0; i < findings.size(); ++i) {
+        const Finding &finding = findings[i];
+        const std::string number = std::to_string(i + 1);
+        const std::string cure = corrections[i].empty() ? finding.cure : namesOf(corrections[i]);
+        const std::string value =
+            metadata::FindingPrefix + number + '=' + std::string(findingWord(finding.kind)) +
+            metadata::FindingSeparator + cure + metadata::FindingSeparator + finding.text;
         items.AddString(value.c_str());
+        if (!corrections[i].empty())
+            items.AddString((metadata::CorrectionPrefix + number + '=' +
+                             contract::writeCorrections(corrections[i]))
+                                .c_str());
     }
     return items;
 }

@@ -15,7 +15,10 @@ namespace vlt::driver {
 // The items of the metadata domains of layers, see contract/TableMetadata.h.
 
 CPLStringList problemItems(const ProblemList &problems);
-CPLStringList findingItems(const std::vector<Finding> &findings);
+/// @param corrections  those of each finding
+CPLStringList
+findingItems(const std::vector<Finding> &findings,
+             const std::vector<std::vector<contract::PositionCorrection>> &corrections);
 /// The systems that may be that of a table in metres.
 CPLStringList systemItems(const TableFacts &facts);
 

@@ -6,6 +6,7 @@
 #include "plugins/tables/bytes/Refusal.h"
 #include "plugins/tables/ogr/Guarded.h"
 #include "plugins/tables/ogr/MetadataItems.h"
+#include "plugins/tables/ogr/ProposedCorrections.h"
 #include "plugins/tables/ogr/RecognisedMapping.h"
 #include "plugins/tables/ogr/ReportLayer.h"
 #include "plugins/tables/roles/Vocabulary.h"
@@ -406,8 +407,12 @@ std::optional<char **> TableLayer::ownMetadata(const char *domain)
         return m_problemsItems.List();
     }
     if (listsProblems() && isAsked(metadata::DoctorDomain)) {
-        if (m_doctorItems.Count() == 0)
-            m_doctorItems = findingItems(surveyed().findings);
+        if (m_doctorItems.Count() == 0) {
+            const std::vector<Finding> &findings = surveyed().findings;
+            std::vector<Corrections> corrections(findings.size());
+            guarded([&] { corrections = proposedCorrections(m_source, findings); });
+            m_doctorItems = findingItems(findings, corrections);
+        }
         return m_doctorItems.List();
     }
     if (isAsked(metadata::MappingDomain)) {
