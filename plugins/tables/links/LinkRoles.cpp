@@ -234,7 +234,8 @@ private:
     double fitOfValues(int field, Role role)
     {
         if (role != Role::Frequency)
-            return fitOf(role, m_table.facts(field));
+            return fitOf(role, m_table.facts(field),
+                         unitOfColumn(role, allWords(field), m_vocabulary));
         std::size_t filled = 0;
         std::size_t readable = 0;
         for (const std::string &cell : m_table.cells(field)) {

@@ -123,7 +123,7 @@ ColumnFacts factsOf(const std::vector<std::string> &cells, const Vocabulary &voc
     return facts;
 }
 
-double fitOf(Role role, const ColumnFacts &facts)
+double fitOf(Role role, const ColumnFacts &facts, double unit)
 {
     constexpr double FitOfEmpty = 0.5;
     const auto range = rangeOf(role);
@@ -131,12 +131,12 @@ double fitOf(Role role, const ColumnFacts &facts)
         return 1;
     if (facts.filled == 0)
         return FitOfEmpty;
-    if (role == Role::Azimuth && looksLikeRadians(facts))
+    if (role == Role::Azimuth && unit <= 1 && looksLikeRadians(facts))
         return 0;
     const double readable = static_cast<double>(facts.numeric + facts.omni);
     const auto inside =
         std::count_if(facts.numbers.begin(), facts.numbers.end(), [&](double number) {
-            return number >= range->first && number <= range->second;
+            return number * unit >= range->first && number * unit <= range->second;
         });
     const double insideShare =
         facts.numbers.empty()

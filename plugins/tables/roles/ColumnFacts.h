@@ -28,7 +28,9 @@ struct ColumnFacts
 ColumnFacts factsOf(const std::vector<std::string> &cells, const Vocabulary &vocabulary);
 
 /// How well values fit a role: 1 if all do, 0 if the column cannot have the role.
-double fitOf(Role role, const ColumnFacts &facts);
+///
+/// @param unit  metres or degrees per unit of the numbers
+double fitOf(Role role, const ColumnFacts &facts, double unit = 1);
 
 /// How the values of a column go with the positions of their rows.
 enum class Level {

@@ -1,6 +1,7 @@
 #include "plugins/tables/roles/NameMatch.h"
 
 #include "plugins/tables/roles/NameWords.h"
+#include "plugins/tables/roles/UnitScale.h"
 
 #include <algorithm>
 #include <charconv>
@@ -169,8 +170,10 @@ private:
                 const WordMeaning *meaning = m_vocabulary.find(joined);
                 if (meaning && meaning->isUnit())
                     m_isUnit[at] = true;
-                if (meaning && (meaning->isSite || meaning->isSector || meaning->isSexagesimal ||
-                                meaning->isUnit()))
+                const bool isNeutral = meaning ? meaning->isSite || meaning->isSector ||
+                                                     meaning->isSexagesimal || meaning->isUnit()
+                                               : at == first && factorOfScale(joined);
+                if (isNeutral)
                     std::fill(m_isNeutral.begin() + static_cast<std::ptrdiff_t>(first),
                               m_isNeutral.begin() + static_cast<std::ptrdiff_t>(at + 1), true);
             }
@@ -210,13 +213,34 @@ NameMatch matchOf(Role role, const std::vector<std::string> &words, std::size_t 
     return match;
 }
 
+/// The words of a name. A power of ten before a unit is one word, so that its digits are not taken
+/// for the number of a sector, and the unit is the next one.
+std::vector<std::string> wordsWithScale(std::string_view name, const Vocabulary &vocabulary)
+{
+    const std::optional<UnitScale> scale = findUnitScale(name);
+    if (!scale)
+        return nameWords(name);
+    std::vector<std::string> unit = nameWords(name.substr(scale->end));
+    for (const std::string_view sign : {"\u00B0", "\u00BA"}) {
+        if (name.substr(scale->end).starts_with(sign))
+            unit.insert(unit.begin(), "deg");
+    }
+    const WordMeaning *meaning = unit.empty() ? nullptr : vocabulary.find(unit.front());
+    if (!meaning || !meaning->isUnit())
+        return nameWords(name);
+    std::vector<std::string> words = nameWords(name.substr(0, scale->begin));
+    words.push_back(scale->word);
+    words.insert(words.end(), unit.begin(), unit.end());
+    return words;
+}
+
 } // namespace
 
 std::vector<std::string> separatedWords(std::string_view name, const Vocabulary &vocabulary)
 {
     constexpr std::size_t MaxWords = 24; // bounds the work for names of thousands of columns
     std::vector<std::string> words;
-    for (std::string &word : nameWords(name)) {
+    for (std::string &word : wordsWithScale(name, vocabulary)) {
         if (words.size() >= MaxWords)
             break;
         if (word.size() < MinFusedSize || vocabulary.find(word) ||
@@ -284,11 +308,31 @@ std::optional<double> unitOfName(const std::vector<std::string> &words,
         for (std::size_t count = std::min(MaxWords, words.size() - first); count > 0; --count) {
             const std::string joined = count == 1 ? words[first] : words[first] + words[first + 1];
             const WordMeaning *meaning = vocabulary.find(joined);
-            if (meaning && meaning->*unit)
-                return meaning->*unit;
+            if (!meaning || !(meaning->*unit))
+                continue;
+            const auto scale = first > 0 ? factorOfScale(words[first - 1]) : std::nullopt;
+            return *(meaning->*unit) * scale.value_or(1);
         }
     }
     return std::nullopt;
+}
+
+double unitOfColumn(Role role, const std::vector<std::string> &words, const Vocabulary &vocabulary)
+{
+    switch (role) {
+    case Role::AntennaHeight:
+    case Role::GroundHeight:
+    case Role::SeaLevelHeight:
+        return unitOfName(words, &WordMeaning::metres, vocabulary).value_or(1);
+    case Role::Azimuth:
+    case Role::MechanicalTilt:
+    case Role::ElectricalTilt:
+    case Role::Tilt:
+    case Role::BeamWidth:
+        return unitOfName(words, &WordMeaning::degrees, vocabulary).value_or(1);
+    default:
+        return 1;
+    }
 }
 
 } // namespace vlt::driver

@@ -40,4 +40,7 @@ std::optional<double> unitOfName(const std::vector<std::string> &words,
                                  std::optional<double> WordMeaning::*unit,
                                  const Vocabulary &vocabulary);
 
+/// Metres or degrees per unit in the name of a column with a role; 1 if it has none.
+double unitOfColumn(Role role, const std::vector<std::string> &words, const Vocabulary &vocabulary);
+
 } // namespace vlt::driver

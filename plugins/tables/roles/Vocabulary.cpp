@@ -31,6 +31,9 @@ constexpr double MileM = 1609.344;
 
 constexpr std::array Units = {
     Unit{"m", &WordMeaning::metres, 1},
+    Unit{"dm", &WordMeaning::metres, 0.1},
+    Unit{"cm", &WordMeaning::metres, 0.01},
+    Unit{"mm", &WordMeaning::metres, 0.001},
     Unit{"km", &WordMeaning::metres, 1000},
     Unit{"ft", &WordMeaning::metres, FootM},
     Unit{"mi", &WordMeaning::metres, MileM},
@@ -40,6 +43,7 @@ constexpr std::array Units = {
     Unit{"GHz", &WordMeaning::megahertz, 1000},
     Unit{"THz", &WordMeaning::megahertz, 1e6},
     Unit{"deg", &WordMeaning::degrees, 1},
+    Unit{"microdeg", &WordMeaning::degrees, 1e-6},
     Unit{"grad", &WordMeaning::degrees, 0.9},
     Unit{"rad", &WordMeaning::degrees, 180 / std::numbers::pi},
 };

@@ -2,6 +2,7 @@
 
 #include "plugins/tables/cells/GroupedNumber.h"
 #include "plugins/tables/roles/NameMatch.h"
+#include "plugins/tables/sites/CoordinateScale.h"
 #include "plugins/tables/values/Angle.h"
 #include "plugins/tables/values/CoordinatePair.h"
 
@@ -408,6 +409,7 @@ PointFields findPoint(const FieldWords &words, const std::vector<Field> &fields,
         point.pairOrder = findPairOrder(pair.samples, pair.name);
     }
     point.letterO = findLetterO(point, fields, otherwise);
+    point.scale = findScale(point, fields, vocabulary);
     return point;
 }
 
@@ -448,6 +450,8 @@ CoordinateUnit findUnit(const PointFields &point, const std::vector<Field> &fiel
         return CoordinateUnit::Degrees;
     if (point.x.inParts() || point.y.inParts() || point.x.style == AngleStyle::Packed)
         return CoordinateUnit::Dms;
+    if (point.scale.factor != 1)
+        return point.scale.givesDegrees ? CoordinateUnit::Degrees : CoordinateUnit::Meters;
     const Field &x = fields[static_cast<std::size_t>(point.x.value)];
     const Field &y = fields[static_cast<std::size_t>(point.y.value)];
     const CoordinateUnit ofX = unitOfSamples(x, Axis::X).unit();

@@ -40,6 +40,13 @@ struct CoordinateFields
     }
 };
 
+/// What the numbers of coordinates are to be multiplied by.
+struct CoordinateScale
+{
+    double factor = 1;
+    bool givesDegrees = false; ///< else metres; of no meaning if the factor is 1
+};
+
 class PositionCorrections;
 
 /// The fields of a position.
@@ -51,6 +58,7 @@ struct PointFields
     PairOrder pairOrder = PairOrder::LatitudeFirst;
     LetterO letterO = LetterO::Unknown; ///< in the longitudes
     bool isPairSwapped = false;
+    CoordinateScale scale;
     std::shared_ptr<const PositionCorrections> corrections = {}; ///< null if none are stated
 
     /// Exchanges the coordinates.

@@ -154,6 +154,8 @@ Position PositionReader::read(int64_t row, const std::vector<const Cell *> &cell
     }
     if (!position.found)
         return position;
+    position.x *= m_fields.scale.factor;
+    position.y *= m_fields.scale.factor;
     if (m_fields.corrections)
         m_fields.corrections->apply(row, m_fields, cells, position.x, position.y);
     std::optional<TableTextId> why;

@@ -59,7 +59,8 @@ private:
         for (const NameMatch &match : matches) {
             if (!isRoleOfSite(match.role) && !isRoleOfTransmitter(match.role))
                 continue;
-            const double fit = fitOf(match.role, m_table.facts(field));
+            const double fit = fitOf(match.role, m_table.facts(field),
+                                     unitOfColumn(match.role, words, m_table.vocabulary()));
             if (fit < MinFit)
                 continue;
             m_candidates.push_back({field, match.role, match.sector, match.strength * fit});
