@@ -57,6 +57,9 @@ LayerProblems problemsOf(OGRLayer &layer)
     for (char **item = items; item && *item; ++item) {
         const QString text = platform::decodeText(*item);
         const QString finding = text.section(QLatin1Char('='), 1);
+        if (text.startsWith(QLatin1String(contract::metadata::CorrectionPrefix)) &&
+            !problems.findings.isEmpty()) // it follows its finding
+            problems.findings.last().corrections = contract::readCorrections(finding.toStdString());
         if (text.startsWith(QLatin1String(contract::metadata::FindingPrefix)))
             problems.findings << PositionFinding{finding.section(QLatin1Char('|'), 0, 0),
                                                  finding.section(QLatin1Char('|'), 1, 1),

@@ -1,10 +1,13 @@
 #pragma once
 
+#include "contract/PositionCorrection.h"
 #include "geodata/LayerPlacement.h"
 #include "geodata/SystemCheck.h"
 #include "platform/Result.h"
 
 #include <QList>
+
+#include <vector>
 
 class OGRLayer;
 
@@ -14,8 +17,10 @@ namespace vlt::geodata {
 struct PositionFinding
 {
     QString kind; ///< as the table driver names it: "swapped", "unitSystem" ...
-    QString cure; ///< "swapAxes", "sourceSrs=EPSG:n" or empty
+    /// "swapAxes", "sourceSrs=EPSG:n", the names of the changes that `corrections` make, or empty.
+    QString cure;
     QString text; ///< English
+    std::vector<contract::PositionCorrection> corrections = {};
 };
 
 /// Rows and values that a table's driver skipped or repaired.

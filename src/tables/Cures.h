@@ -18,12 +18,19 @@ struct Cure
     contract::ColumnMapping mapping; ///< after it is pressed
 };
 
+/// What the coordinates of a table are, for the texts about them.
+enum class CoordinateKind { Geographic, Projected };
+
 /// What is stated and can be undone.
-QList<Cure> appliedCures(const contract::ColumnMapping &mapping);
+QList<Cure> appliedCures(const contract::ColumnMapping &mapping, CoordinateKind kind);
 
 /// The cures of the mistakes that were found; none for mistakes without one, except that a system
 /// which is only assumed is stated.
 QList<Cure> proposedCures(const contract::ColumnMapping &mapping,
-                          const QList<geodata::PositionFinding> &findings);
+                          const QList<geodata::PositionFinding> &findings, CoordinateKind kind);
+
+/// A mapping with the cures of all mistakes that were found, as far as they have one.
+contract::ColumnMapping withCures(contract::ColumnMapping mapping,
+                                  const QList<geodata::PositionFinding> &findings);
 
 } // namespace vlt::tables

@@ -122,32 +122,42 @@ private Q_SLOTS:
         QVERIFY(readFile(path).contains("A,2,45"));
     }
 
+    void appliesAndUndoesCures_data()
+    {
+        const Cases<QByteArray, QString, QString> row({"rows", "action", "before"});
+        row("all rows", "A,-33.8,151.2\nB,-33.7,151.1\nC,-33.6,151.3\nD,-33.9,151.4\n",
+            "Exchange the coordinates", "= 0 used");
+        row("a row", "A,151.2,-33.8\nB,-33.7,151.1\nC,151.3,-33.6\nD,151.4,-33.9\n",
+            "Exchange the coordinates of 1 row", "= 3 used");
+    }
     void appliesAndUndoesCures()
     {
+        QFETCH(QByteArray, rows);
+        QFETCH(QString, action);
+        QFETCH(QString, before);
         const QString path = m_dir.filePath(u"swapped.csv"_s);
-        writeFile(path, "Site ID,Longitude,Latitude\nA,-33.8,151.2\nB,-33.7,151.1\n"
-                        "C,-33.6,151.3\nD,-33.9,151.4\n");
+        writeFile(path, "Site ID,Longitude,Latitude\n" + rows);
         WizardOnSitePage flow;
-        const auto cure = [&flow](const QString &action) -> QAbstractButton * {
+        const auto cure = [&flow](const QString &text) -> QAbstractButton * {
             for (auto *button : flow.page->findChildren<QAbstractButton *>(u"m_pwPbCure"_s)) {
-                if (button->isVisible() && button->text() == action)
+                if (button->isVisible() && button->text() == text)
                     return button;
             }
             return nullptr;
         };
         dropFiles(flow.page, {path});
-        QTRY_VERIFY_WITH_TIMEOUT(cure(u"Exchange the coordinates"_s), PatienceMs);
-        QVERIFY(!flow.icon->isEnabled());
+        QTRY_VERIFY_WITH_TIMEOUT(cure(action), PatienceMs);
+        QCOMPARE(flow.icon->isEnabled(), before != u"= 0 used"_s);
 
-        cure(u"Exchange the coordinates"_s)->click();
-        auto *rows = flow.widget<QLabel>(u"m_pwLblRows"_s);
-        QTRY_VERIFY_WITH_TIMEOUT(rows->text().contains(u"= 4 used"_s), PatienceMs);
+        cure(action)->click();
+        auto *counts = flow.widget<QLabel>(u"m_pwLblRows"_s);
+        QTRY_VERIFY_WITH_TIMEOUT(counts->text().contains(u"= 4 used"_s), PatienceMs);
         QVERIFY(flow.icon->isEnabled());
-        QVERIFY(!cure(u"Exchange the coordinates"_s));
+        QVERIFY(!cure(action));
 
         QTRY_VERIFY_WITH_TIMEOUT(cure(u"Undo"_s), PatienceMs);
         cure(u"Undo"_s)->click();
-        QTRY_VERIFY_WITH_TIMEOUT(rows->text().contains(u"= 0 used"_s), PatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(counts->text().contains(before), PatienceMs);
     }
 
     void takesTheTransmittersFromAnotherTable()

@@ -17,11 +17,12 @@ VltCures::VltCures(vlt::contract::TableKind kind, QWidget *parent)
 }
 
 void VltCures::showTable(const QString &path, const vlt::contract::ColumnMapping &mapping,
-                         bool isLacking)
+                         vlt::tables::CoordinateKind coordinates, bool isLacking)
 {
     m_path = path;
     m_mapping = mapping;
     m_mapping.kind = m_kind;
+    m_coordinates = coordinates;
     m_isLacking = isLacking;
     m_findings.clear();
     rebuild();
@@ -35,7 +36,7 @@ void VltCures::showFindings(const QList<vlt::geodata::PositionFinding> &findings
 
 void VltCures::clear()
 {
-    showTable({}, {}, false);
+    showTable({}, {}, m_coordinates, false);
 }
 
 void VltCures::rebuild()
@@ -47,7 +48,8 @@ void VltCures::rebuild()
         delete line;
     }
     const QList<vlt::tables::Cure> cures =
-        vlt::tables::appliedCures(m_mapping) + vlt::tables::proposedCures(m_mapping, m_findings);
+        vlt::tables::appliedCures(m_mapping, m_coordinates) +
+        vlt::tables::proposedCures(m_mapping, m_findings, m_coordinates);
     for (const vlt::tables::Cure &cure : cures)
         addLine(cure.text, cure.action, QStringLiteral("m_pwPbCure"),
                 [this, mapping = cure.mapping] { Q_EMIT mappingChosen(mapping); });

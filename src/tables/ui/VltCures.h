@@ -24,7 +24,7 @@ public:
     /// @param mapping   what is stated about it
     /// @param isLacking whether its transmitters, or the positions of its ends, are missing
     void showTable(const QString &path, const vlt::contract::ColumnMapping &mapping,
-                   bool isLacking);
+                   vlt::tables::CoordinateKind coordinates, bool isLacking);
     void showFindings(const QList<vlt::geodata::PositionFinding> &findings);
     void clear();
 
@@ -42,6 +42,7 @@ private:
     QVBoxLayout *m_ptVbLines;
     QString m_path;
     vlt::contract::ColumnMapping m_mapping;
+    vlt::tables::CoordinateKind m_coordinates = vlt::tables::CoordinateKind::Geographic;
     bool m_isLacking = false;
     QList<vlt::geodata::PositionFinding> m_findings;
 };

@@ -333,10 +333,13 @@ void VltTablePage::showMapping()
 /// Shows what can be stated about the table by buttons; a refused one may lack another table.
 void VltTablePage::showCures()
 {
+    using vlt::tables::CoordinateKind;
+    const bool areMetres = file() && file()->unit == QLatin1String(vlt::contract::metadata::Meters);
     if (!file() && !m_refusal)
         m_cures->clear();
     else
         m_cures->showTable(m_pathRead, vlt::tables::findMapping(m_pathRead).mapping,
+                           areMetres ? CoordinateKind::Projected : CoordinateKind::Geographic,
                            needsSecondTable(m_refusal));
 }
 

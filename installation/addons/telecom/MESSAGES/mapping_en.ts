@@ -159,5 +159,69 @@
         <source>Tables</source>
         <translation>Tables</translation>
     </message>
+    <message id="MESS_ONE_ROW">
+        <source>1 row</source>
+        <translation>1 row</translation>
+    </message>
+    <message id="MESS_N_ROWS">
+        <source>%1 rows</source>
+        <translation>%1 rows</translation>
+    </message>
+    <message id="MESS_THE_LONGITUDE">
+        <source>the longitude</source>
+        <translation>the longitude</translation>
+    </message>
+    <message id="MESS_THE_LATITUDE">
+        <source>the latitude</source>
+        <translation>the latitude</translation>
+    </message>
+    <message id="MESS_THE_EASTING">
+        <source>the easting</source>
+        <translation>the easting</translation>
+    </message>
+    <message id="MESS_THE_NORTHING">
+        <source>the northing</source>
+        <translation>the northing</translation>
+    </message>
+    <message id="MESS_THE_COORDINATES">
+        <source>the coordinates</source>
+        <translation>the coordinates</translation>
+    </message>
+    <message id="MESS_BOTH_COORDINATES">
+        <source>both coordinates</source>
+        <translation>both coordinates</translation>
+    </message>
+    <message id="MESS_OF_ROWS">
+        <source>%1 of %2</source>
+        <translation>%1 of %2</translation>
+    </message>
+    <message id="MESS_CORRECT_ROWS">
+        <source>Correct the positions of %1</source>
+        <translation>Correct the positions of %1</translation>
+    </message>
+    <message id="MESS_EXCHANGE">
+        <source>Exchange %1</source>
+        <translation>Exchange %1</translation>
+    </message>
+    <message id="MESS_TURN_SIGN">
+        <source>Turn the sign of %1</source>
+        <translation>Turn the sign of %1</translation>
+    </message>
+    <message id="MESS_MULTIPLY">
+        <source>Multiply %1 by %2</source>
+        <translation>Multiply %1 by %2</translation>
+    </message>
+    <message id="MESS_EXCHANGED">
+        <source>Exchanged: %1</source>
+        <translation>Exchanged: %1</translation>
+    </message>
+    <message id="MESS_SIGN_TURNED">
+        <source>Sign turned: %1</source>
+        <translation>Sign turned: %1</translation>
+    </message>
+    <message id="MESS_MULTIPLIED">
+        <source>Multiplied by %2: %1</source>
+        <translation>Multiplied by %2: %1</translation>
+    </message>
 </context>
 </TS>

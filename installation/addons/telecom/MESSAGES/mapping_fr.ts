@@ -159,5 +159,69 @@
         <source>Tables</source>
         <translation>Tableaux</translation>
     </message>
+    <message id="MESS_ONE_ROW">
+        <source>1 row</source>
+        <translation>1 ligne</translation>
+    </message>
+    <message id="MESS_N_ROWS">
+        <source>%1 rows</source>
+        <translation>%1 lignes</translation>
+    </message>
+    <message id="MESS_THE_LONGITUDE">
+        <source>the longitude</source>
+        <translation>la longitude</translation>
+    </message>
+    <message id="MESS_THE_LATITUDE">
+        <source>the latitude</source>
+        <translation>la latitude</translation>
+    </message>
+    <message id="MESS_THE_EASTING">
+        <source>the easting</source>
+        <translation>l'abscisse (X)</translation>
+    </message>
+    <message id="MESS_THE_NORTHING">
+        <source>the northing</source>
+        <translation>l'ordonnée (Y)</translation>
+    </message>
+    <message id="MESS_THE_COORDINATES">
+        <source>the coordinates</source>
+        <translation>les coordonnées</translation>
+    </message>
+    <message id="MESS_BOTH_COORDINATES">
+        <source>both coordinates</source>
+        <translation>chaque coordonnée</translation>
+    </message>
+    <message id="MESS_OF_ROWS">
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+    <message id="MESS_CORRECT_ROWS">
+        <source>Correct the positions of %1</source>
+        <translation>Corriger les positions de %1</translation>
+    </message>
+    <message id="MESS_EXCHANGE">
+        <source>Exchange %1</source>
+        <translation>Échanger %1</translation>
+    </message>
+    <message id="MESS_TURN_SIGN">
+        <source>Turn the sign of %1</source>
+        <translation>Inverser le signe de %1</translation>
+    </message>
+    <message id="MESS_MULTIPLY">
+        <source>Multiply %1 by %2</source>
+        <translation>Multiplier %1 par %2</translation>
+    </message>
+    <message id="MESS_EXCHANGED">
+        <source>Exchanged: %1</source>
+        <translation>Échange&#xa0;: %1</translation>
+    </message>
+    <message id="MESS_SIGN_TURNED">
+        <source>Sign turned: %1</source>
+        <translation>Signe inversé&#xa0;: %1</translation>
+    </message>
+    <message id="MESS_MULTIPLIED">
+        <source>Multiplied by %2: %1</source>
+        <translation>Multiplication par %2&#xa0;: %1</translation>
+    </message>
 </context>
 </TS>
