@@ -188,6 +188,7 @@ CommandSyntax syntax()
         QStringLiteral("  vltlayers info sites.xlsx\n"
                        "  vltlayers info --link links.xlsx\n"
                        "  vltlayers info sites.csv --write-mapping\n"
+                       "  vltlayers info sites.csv --write-mapping --cures\n"
                        "  vltlayers info sites.csv --report rows.csv --rejects corrections.csv\n"
                        "  vltlayers info --project city.gvw --json \"my sites.csv\"\n");
     return syntax;
@@ -203,6 +204,8 @@ Result<QList<tables::TableReading>> readReadings(const QCommandLineParser &parse
             dico_label("MESS_USE_SECTORS_OF_LINKS", "--sectors and --link cannot be combined"));
     if (!isLinks && parser.isSet(QStringLiteral("sites")))
         return wrongUsage(dico_label("MESS_USE_SITES_OF_LINKS", "--sites needs --link"));
+    if (const auto error = checkMappingOutput(parser))
+        return *error;
     const QStringList tables = parser.positionalArguments();
     const auto kind = isLinks ? contract::TableKind::Links : contract::TableKind::Sites;
     QList<tables::TableReading> readings;
@@ -267,7 +270,8 @@ ExitStatus run(const QCommandLineParser &parser, const GlobalOptions &options)
                                               readings[i], surroundings.value().project);
         if (report) {
             InfoReport complete = report.value();
-            const Result<QString> written = writeMapping(parser, table, complete.connection);
+            const Result<QString> written =
+                writeMapping(parser, table, complete.connection, complete.problems.findings);
             if (!written)
                 return refuse(written.error());
             complete.mapping = written.value();

@@ -8,6 +8,7 @@
 #include "tables/RowReport.h"
 
 #include <QJsonArray>
+#include <QJsonDocument>
 
 namespace vlt::batch {
 
@@ -129,10 +130,18 @@ QJsonArray candidatesJson(const QList<geodata::SystemCandidate> &candidates)
 QJsonArray findingsJson(const QList<geodata::PositionFinding> &findings)
 {
     QJsonArray array;
-    for (const geodata::PositionFinding &finding : findings)
-        array.append(QJsonObject{{QStringLiteral("kind"), finding.kind},
-                                 {QStringLiteral("cure"), finding.cure},
-                                 {QStringLiteral("text"), language::readerText(finding.text)}});
+    for (const geodata::PositionFinding &finding : findings) {
+        QJsonObject object{{QStringLiteral("kind"), finding.kind},
+                           {QStringLiteral("cure"), finding.cure},
+                           {QStringLiteral("text"), language::readerText(finding.text)}};
+        if (!finding.corrections.empty())
+            object.insert(
+                QStringLiteral("corrections"),
+                QJsonDocument::fromJson(
+                    QByteArray::fromStdString(contract::writeCorrections(finding.corrections)))
+                    .array());
+        array.append(object);
+    }
     return array;
 }
 

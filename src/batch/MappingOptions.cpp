@@ -7,6 +7,7 @@
 #include "language/ReaderText.h"
 #include "language/VltLanguageManager.h"
 #include "platform/AtomicFile.h"
+#include "tables/Cures.h"
 #include "tables/MappingFiles.h"
 
 #include <QDir>
@@ -22,6 +23,7 @@ const QString Mapping = QStringLiteral("mapping");
 const QString HeaderRow = QStringLiteral("header-row");
 const QString SourceSrs = QStringLiteral("source-srs");
 const QString WriteMapping = QStringLiteral("write-mapping");
+const QString Cures = QStringLiteral("cures");
 const QString NoHeader = QStringLiteral("none");
 
 QString besideTable(const QString &table)
@@ -128,7 +130,18 @@ QList<QCommandLineOption> mappingOutputOptions()
              dico_label("MESS_OPT_WRITE_MAPPING",
                         "Write what was understood as a mapping file, to be corrected: to FILE, "
                         "else beside the table, else into the user's folder of data."),
-             QStringLiteral("[FILE]")}};
+             QStringLiteral("[FILE]")},
+            {Cures, dico_label("MESS_OPT_CURES",
+                               "Put the cures of all mistakes in positions into the mapping that "
+                               "is written.")}};
+}
+
+std::optional<Error> checkMappingOutput(const QCommandLineParser &parser)
+{
+    return parser.isSet(Cures) && !parser.isSet(WriteMapping)
+               ? std::optional(
+                     wrongUsage(dico_label("MESS_USE_CURES", "--cures needs --write-mapping")))
+               : std::nullopt;
 }
 
 Result<Done> StatedMappings::apply(const QCommandLineParser &parser, const QString &table,
@@ -164,26 +177,30 @@ Result<Done> StatedMappings::apply(const QCommandLineParser &parser, const QStri
 }
 
 Result<QString> writeMapping(const QCommandLineParser &parser, const QString &table,
-                             const QString &connection)
+                             const QString &connection,
+                             const QList<geodata::PositionFinding> &findings)
 {
     if (!parser.isSet(WriteMapping))
         return QString();
     const Result<QString> text = geodata::readTableMapping(connection);
     if (!text)
         return text.error();
+    const contract::ReadMapping read = contract::readMapping(text.value().toStdString());
+    if (!read.mapping)
+        return Error::fromLibrary(language::readerText(QString::fromStdString(read.reason)), table);
+    const contract::ColumnMapping mapping =
+        parser.isSet(Cures) ? tables::withCures(*read.mapping, findings) : *read.mapping;
     if (const QString path = parser.value(WriteMapping); !path.isEmpty()) {
         if (isOneOf(path, {table}))
             return outputIsInput(path);
         const Result<Done> written =
-            platform::writeWhole(path, text.value().toUtf8(), platform::Access::Shared);
+            platform::writeWhole(path, QByteArray::fromStdString(contract::writeMapping(mapping)),
+                                 platform::Access::Shared);
         return written ? Result<QString>(QFileInfo(path).absoluteFilePath()) : written.error();
     }
-    const contract::ReadMapping read = contract::readMapping(text.value().toStdString());
-    if (!read.mapping)
-        return Error::fromLibrary(language::readerText(QString::fromStdString(read.reason)), table);
-    if (tables::saveBesideTable(table, *read.mapping))
+    if (tables::saveBesideTable(table, mapping))
         return besideTable(table);
-    const Result<Done> kept = tables::keepMapping(table, *read.mapping);
+    const Result<Done> kept = tables::keepMapping(table, mapping);
     return kept ? Result<QString>(tables::mappingOption(table)) : kept.error();
 }
 

@@ -2,6 +2,7 @@
 
 #include "batch/CommandLine.h"
 #include "contract/TableKind.h"
+#include "geodata/LayerProblems.h"
 #include "tables/TableReading.h"
 
 #include <QTemporaryDir>
@@ -22,8 +23,12 @@ QString readMappingOption(const QCommandLineParser &parser, const QString &table
 /// The error if the file that --mapping names is no mapping.
 std::optional<Error> checkMapping(const QCommandLineParser &parser);
 
-/// The options of "vltlayers info" that make mappings: --header-row, --source-srs, --write-mapping.
+/// The options of "vltlayers info" that make mappings: --header-row, --source-srs, --write-mapping,
+/// --cures.
 QList<QCommandLineOption> mappingOutputOptions();
+
+/// The error if --cures is given without --write-mapping.
+std::optional<Error> checkMappingOutput(const QCommandLineParser &parser);
 
 /// Mappings with what --header-row and --source-srs state about tables.
 class StatedMappings
@@ -44,8 +49,10 @@ private:
 /// else into the user's folder of data.
 ///
 /// @param connection  of the table
+/// @param findings    about its positions; with --cures, the mapping gets what cures them
 /// @return  the path; empty without the option
 Result<QString> writeMapping(const QCommandLineParser &parser, const QString &table,
-                             const QString &connection);
+                             const QString &connection,
+                             const QList<geodata::PositionFinding> &findings);
 
 } // namespace vlt::batch

@@ -205,6 +205,27 @@ private Q_SLOTS:
         QCOMPARE(missing.status, 1);
     }
 
+    void writesCures()
+    {
+        writeFile(path(u"wrong.csv"_s), "Site ID,Longitude,Latitude\nA,2.3,48.8\nB,48.9,2.4\n"
+                                        "C,-2.5,48.7\nD,2.4,4.88\nE,2.6,48.9\nF,2.2,48.6\n"
+                                        "G,2.3,48.7\nH,2.4,48.8\nI,2.5,48.9\nJ,2.5,48.6\n"
+                                        "K,2.3,48.6\nL,2.4,48.7\nM,2.5,48.8\nN,2.2,48.7\n");
+
+        const Run alone = start(u"info ../wrong.csv --cures"_s);
+        const Run cured = start(u"info ../wrong.csv --json --write-mapping --cures"_s);
+        const Run again = start(u"info ../wrong.csv --json --report cured.csv"_s);
+
+        QVERIFY2(alone.errors.contains("--cures needs --write-mapping"), alone.errors.constData());
+        QVERIFY2(cured.output.contains("\"x\": \"48.9\""), cured.output.constData());
+        QVERIFY2(!again.output.contains("findings"), again.output.constData());
+        const QByteArray report = readFile(path(u"elsewhere/cured.csv"_s));
+        QVERIFY2(report.contains("\"48.9 2.4\"\" is corrected to 2.4 48.9\"") &&
+                     report.contains(" is corrected to 2.5 48.7\"") &&
+                     report.contains(" is corrected to 2.4 48.8\""),
+                 report.constData());
+    }
+
     void accountsForEveryRow()
     {
         const QByteArray table = "Site ID;Longitude;Latitude;Azimuth\nCh\xE2teau;2,3;48,8;0\n"

@@ -683,5 +683,13 @@
         <source>Write a CSV file with the fate of every row (used, merged into a site, left out) and the reasons; of one table.</source>
         <translation>Write a CSV file with the fate of every row (used, merged into a site, left out) and the reasons; of one table.</translation>
     </message>
+    <message id="MESS_OPT_CURES">
+        <source>Put the cures of all mistakes in positions into the mapping that is written.</source>
+        <translation>Put the cures of all mistakes in positions into the mapping that is written.</translation>
+    </message>
+    <message id="MESS_USE_CURES">
+        <source>--cures needs --write-mapping</source>
+        <translation>--cures needs --write-mapping</translation>
+    </message>
 </context>
 </TS>

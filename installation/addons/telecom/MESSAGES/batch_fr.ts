@@ -683,5 +683,13 @@
         <source>Write a CSV file with the fate of every row (used, merged into a site, left out) and the reasons; of one table.</source>
         <translation>Écrire un fichier CSV avec le sort de chaque ligne (utilisée, réunie à un site, laissée de côté) et les raisons&#xa0;; pour un seul tableau.</translation>
     </message>
+    <message id="MESS_OPT_CURES">
+        <source>Put the cures of all mistakes in positions into the mapping that is written.</source>
+        <translation>Ajoute à la correspondance écrite les corrections de toutes les erreurs de position.</translation>
+    </message>
+    <message id="MESS_USE_CURES">
+        <source>--cures needs --write-mapping</source>
+        <translation>--cures ne va qu'avec --write-mapping</translation>
+    </message>
 </context>
 </TS>
