@@ -29,7 +29,7 @@ inline void add(CityModel &city, const Rings &rings, float heightM = 12)
     }
     shapes.buildings.push_back({begin, static_cast<std::uint32_t>(shapes.rings.size()), heightM});
     city.baseM.push_back(BaseM);
-    city.wallColors.push_back({10, 20, 30, 0});
+    city.wallColors.push_back({10, 20, 30, 255});
     city.roofColors.push_back({200, 100, 50, 255});
 }
 

@@ -205,6 +205,19 @@ private Q_SLOTS:
         QVERIFY(reported("1 of 3 buildings have the same outline as another one"));
     }
 
+    void reportsOfBuildingsThatAreNotVisible()
+    {
+        makeFootprints(path("town.gpkg"), {{Square, "5"}, {"POLYGON((90 0,95 0,95 5,90 0))", "5"}});
+        makeTerrain("values.tif", -5, 5, [](int column, int, int) { return column; });
+        writeFile(path("map.txt"), "0 255 0 0 90\n10 0 255 0 90\nnv 0 0 0 0\n");
+
+        read(document().replace("#808080",
+                                "IMAGE;values.tif;map.txt;average;absolute;interpolation"));
+
+        QVERIFY(reported("1 of 2 buildings have no value in the raster"));
+        QVERIFY(reported("1 of 2 buildings are not visible: their color is transparent"));
+    }
+
     void readsHeights_data()
     {
         // height: 0 if left out

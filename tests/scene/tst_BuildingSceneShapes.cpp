@@ -6,6 +6,7 @@
 
 #include <QtTest>
 
+#include <array>
 #include <cmath>
 
 using namespace vlt::scene;
@@ -158,6 +159,53 @@ private Q_SLOTS:
         mesh.addBoxes(1); // a line: no area, but numbers
         for (const osg::Vec3 &vertex : mesh.vertices())
             QVERIFY(vertex.valid());
+    }
+
+    void translucentFacesAreBlendedAndTransparentOnesLeftOut_data()
+    {
+        // opaque, translucent: number of indices in full detail, as a box and as a dot
+        const Cases<int, int, QList<std::size_t>, QList<std::size_t>> row(
+            {"wallAlpha", "roofAlpha", "opaque", "translucent"});
+        row("opaque", 255, 255, {30, 30, 1}, {0, 0, 0});
+        row("translucent roof", 255, 254, {24, 24, 0}, {6, 6, 1});
+        row("translucent walls, no roof", 1, 0, {0, 0, 0}, {24, 24, 0});
+        row("transparent", 0, 0, {0, 0, 0}, {0, 0, 0});
+    }
+
+    void translucentFacesAreBlendedAndTransparentOnesLeftOut()
+    {
+        QFETCH(int, wallAlpha);
+        QFETCH(int, roofAlpha);
+        CityModel city;
+        add(city, {square(0, 0, 10)});
+        city.wallColors[0].alpha = std::uint8_t(wallAlpha);
+        city.roofColors[0].alpha = std::uint8_t(roofAlpha);
+        std::array<CityMesh, 3> meshes = {CityMesh(city, {}), CityMesh(city, {}),
+                                          CityMesh(city, {})};
+
+        meshes[0].addBuilding(0, 1);
+        meshes[1].addBoxes(0);
+        meshes[2].addDot(0);
+
+        QList<std::size_t> opaque;
+        QList<std::size_t> translucent;
+        const osg::ref_ptr<osg::StateSet> solid = plainFaceState();
+        const osg::ref_ptr<osg::StateSet> blended = translucentState(*solid);
+        QCOMPARE(blended->getMode(GL_BLEND), osg::StateAttribute::ON);
+        QCOMPARE(solid->getMode(GL_BLEND), osg::StateAttribute::INHERIT);
+        for (const CityMesh &mesh : meshes) {
+            osg::ref_ptr<osg::Geode> geode = new osg::Geode;
+            mesh.addTo(*geode, solid, blended);
+            opaque << 0;
+            translucent << 0;
+            for (unsigned i = 0; i < geode->getNumDrawables(); ++i) {
+                const osg::Geometry &drawn = *geode->getDrawable(i)->asGeometry();
+                (drawn.getStateSet() == solid ? opaque : translucent).back() +=
+                    drawn.getPrimitiveSet(0)->getNumIndices();
+            }
+        }
+        QTEST(opaque, "opaque");
+        QTEST(translucent, "translucent");
     }
 
     void tilesHoldEachBuildingOnce_data()

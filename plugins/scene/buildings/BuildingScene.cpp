@@ -154,6 +154,13 @@ void colour(CityModel &city, const BuildingFootprints &footprints, const Directo
     city.roofColors = isOne ? city.wallColors
                             : townColors(city, footprints.roofColor, directories, notices,
                                          part(progress, 0.7, 0.8));
+    std::size_t invisible = 0;
+    for (std::size_t i = 0; i < city.wallColors.size(); ++i)
+        invisible += city.wallColors[i].alpha == 0 && city.roofColors[i].alpha == 0 ? 1 : 0;
+    if (invisible > 0)
+        notices.push_back(contract::formatted(
+            "MESS_SCENE_TRANSPARENT",
+            {std::to_string(invisible), std::to_string(city.wallColors.size())}));
 }
 
 /// The function that makes tiles with images; empty if the document has no usable images.

@@ -2,6 +2,7 @@
 
 #include <osg/BoundingBox>
 #include <osg/CullFace>
+#include <osg/Depth>
 #include <osg/LightModel>
 #include <osg/Material>
 
@@ -16,11 +17,12 @@ namespace {
 
 constexpr double UnitLength = 32767; ///< length of a normal
 constexpr double MinAreaM2 = 1e-6;
-const osg::Vec2d Upwards; ///< horizontal components of a vertical normal
+constexpr unsigned char Opaque = 255; ///< alpha
+const osg::Vec2d Upwards;             ///< horizontal components of a vertical normal
 
-osg::Vec4ub opaque(const colormaps::Rgba &color)
+osg::Vec4ub bytesOf(const colormaps::Rgba &color)
 {
-    return {color.red, color.green, color.blue, 255};
+    return {color.red, color.green, color.blue, color.alpha};
 }
 
 osg::Vec2d outwards(const osg::Vec2d &along)
@@ -30,9 +32,9 @@ osg::Vec2d outwards(const osg::Vec2d &along)
 }
 
 template<typename Elements>
-osg::ref_ptr<Elements> elements(const std::vector<std::uint32_t> &indices)
+osg::ref_ptr<Elements> elements(GLenum mode, const std::vector<std::uint32_t> &indices)
 {
-    osg::ref_ptr<Elements> drawn = new Elements(GL_TRIANGLES);
+    osg::ref_ptr<Elements> drawn = new Elements(mode);
     drawn->reserve(indices.size());
     for (const std::uint32_t index : indices)
         drawn->push_back(static_cast<typename Elements::value_type>(index));
@@ -85,19 +87,28 @@ osg::ref_ptr<osg::StateSet> plainFaceState()
     return state;
 }
 
-void CityMesh::addBuilding(std::uint32_t building, double skirtM)
+osg::ref_ptr<osg::StateSet> translucentState(const osg::StateSet &faces)
+{
+    osg::ref_ptr<osg::StateSet> state = new osg::StateSet(faces);
+    state->setMode(GL_BLEND, osg::StateAttribute::ON);
+    state->setAttributeAndModes(new osg::Depth(osg::Depth::LESS, 0, 1, false));
+    state->setRenderingHint(osg::StateSet::TRANSPARENT_BIN);
+    return state;
+}
+
+void CityMesh::addBuilding(std::uint32_t building, double skirtM, Faces faces)
 {
     const Footprints &footprints = m_city.footprints;
     for (const auto &part : partsOf(footprints.ringsOf(footprints.buildings[building])))
-        addPart(part, building, skirtM);
+        addPart(part, building, skirtM, faces);
 }
 
 void CityMesh::addPart(std::span<const Footprints::Ring> rings, std::uint32_t building,
-                       double skirtM)
+                       double skirtM, Faces faces)
 {
     const double base = m_city.baseM[building] - m_origin.z();
     const double top = base + m_city.footprints.buildings[building].heightM;
-    const osg::Vec4ub wallColor = opaque(m_city.wallColors[building]);
+    const osg::Vec4ub wallColor = bytesOf(m_city.wallColors[building]);
     std::vector<Positions> outlines;
     m_roof.clear();
     for (const Footprints::Ring &ring : rings) {
@@ -105,6 +116,10 @@ void CityMesh::addPart(std::span<const Footprints::Ring> rings, std::uint32_t bu
         m_roof.addRing(outlines.back());
     }
     m_roof.cut();
+    if (faces != Faces::Walls)
+        addRoof(top, bytesOf(m_city.roofColors[building]));
+    if (faces == Faces::Roofs)
+        return;
     for (Positions &outline : outlines) {
         addWalls(outline, base - skirtM, top, wallColor);
         if (!m_roof.isCrossed())
@@ -112,11 +127,13 @@ void CityMesh::addPart(std::span<const Footprints::Ring> rings, std::uint32_t bu
         std::reverse(outline.begin(), outline.end()); // both sides may be outside
         addWalls(outline, base - skirtM, top, wallColor);
     }
-    addRoof(top, opaque(m_city.roofColors[building]));
 }
 
 void CityMesh::addWalls(const Positions &ring, double bottom, double top, const osg::Vec4ub &color)
 {
+    Indices *indices = indicesFor(color);
+    if (!indices)
+        return;
     osg::Vec2d from = ring.back();
     for (const osg::Vec2d &to : ring) {
         const osg::Vec2d normal = outwards(to - from);
@@ -124,18 +141,21 @@ void CityMesh::addWalls(const Positions &ring, double bottom, double top, const 
         vertex(to, bottom, normal, color);
         vertex(to, top, normal, color);
         vertex(from, top, normal, color);
-        m_indices.insert(m_indices.end(), {a, a + 1, a + 2, a, a + 2, a + 3});
+        indices->insert(indices->end(), {a, a + 1, a + 2, a, a + 2, a + 3});
         from = to;
     }
 }
 
 void CityMesh::addRoof(double top, const osg::Vec4ub &color)
 {
+    Indices *indices = indicesFor(color);
+    if (!indices)
+        return;
     const auto first = static_cast<std::uint32_t>(m_vertices.size());
     for (const osg::Vec2d &position : m_roof.points())
         vertex(position, top, Upwards, color);
     for (const auto &[a, b, c] : m_roof.triangles())
-        m_indices.insert(m_indices.end(), {first + a, first + b, first + c});
+        indices->insert(indices->end(), {first + a, first + b, first + c});
 }
 
 void CityMesh::addBoxes(std::uint32_t building)
@@ -160,14 +180,20 @@ void CityMesh::addBoxes(std::uint32_t building)
 
 void CityMesh::addDot(std::uint32_t building)
 {
+    m_mode = GL_POINTS;
+    const osg::Vec4ub color = bytesOf(m_city.roofColors[building]);
+    Indices *indices = indicesFor(color);
+    if (!indices)
+        return;
     const Footprints &footprints = m_city.footprints;
     const Footprints::Building &shape = footprints.buildings[building];
     osg::BoundingBoxd bound;
     for (const osg::Vec2d &position : positionsOf(footprints.rings[shape.ringBegin], true))
         bound.expandBy(position.x(), position.y(), 0);
     const osg::Vec3d middle = bound.center();
-    vertex({middle.x(), middle.y()}, m_city.baseM[building] - m_origin.z() + shape.heightM, Upwards,
-           opaque(m_city.roofColors[building]));
+    indices->push_back(vertex({middle.x(), middle.y()},
+                              m_city.baseM[building] - m_origin.z() + shape.heightM, Upwards,
+                              color));
 }
 
 void CityMesh::addBox(const Positions &ring, double area, std::uint32_t building)
@@ -192,8 +218,8 @@ void CityMesh::addBox(const Positions &ring, double area, std::uint32_t building
                                                corner(-1, 1)};
     const double base = m_city.baseM[building] - m_origin.z();
     const double top = base + m_city.footprints.buildings[building].heightM;
-    const osg::Vec4ub wallColor = opaque(m_city.wallColors[building]);
-    const osg::Vec4ub roofColor = opaque(m_city.roofColors[building]);
+    const osg::Vec4ub wallColor = bytesOf(m_city.wallColors[building]);
+    const osg::Vec4ub roofColor = bytesOf(m_city.roofColors[building]);
     const auto b = static_cast<std::uint32_t>(m_vertices.size());
     for (std::size_t i = 0; i < 4; ++i)
         vertex(corners[i], base, outwards(corners[(i + 1) % 4] - corners[i]), wallColor);
@@ -201,11 +227,20 @@ void CityMesh::addBox(const Positions &ring, double area, std::uint32_t building
         vertex(position, top, Upwards, roofColor);
     const std::uint32_t t = b + 4;
     // With flat shading a face has the normal and colour of the last vertex of its triangles.
-    for (std::uint32_t i = 0; i < 4; ++i) {
+    Indices *walls = indicesFor(wallColor);
+    for (std::uint32_t i = 0; walls && i < 4; ++i) {
         const std::uint32_t next = (i + 1) % 4;
-        m_indices.insert(m_indices.end(), {b + next, t + next, b + i, t + next, t + i, b + i});
+        walls->insert(walls->end(), {b + next, t + next, b + i, t + next, t + i, b + i});
     }
-    m_indices.insert(m_indices.end(), {t + 1, t + 2, t, t + 2, t + 3, t});
+    if (Indices *roof = indicesFor(roofColor))
+        roof->insert(roof->end(), {t + 1, t + 2, t, t + 2, t + 3, t});
+}
+
+CityMesh::Indices *CityMesh::indicesFor(const osg::Vec4ub &color)
+{
+    if (color.a() == 0)
+        return nullptr;
+    return color.a() == Opaque ? &m_indices : &m_translucentIndices;
 }
 
 std::uint32_t CityMesh::vertex(const osg::Vec2d &position, double z, const osg::Vec2d &normal,
@@ -232,26 +267,32 @@ CityMesh::Positions CityMesh::positionsOf(const Footprints::Ring &ring, bool cou
     return positions;
 }
 
-osg::ref_ptr<osg::Geometry> CityMesh::geometry() const
+void CityMesh::addTo(osg::Geode &geode, osg::StateSet *solid, osg::StateSet *translucent) const
 {
     const auto size = static_cast<unsigned>(m_vertices.size());
-    osg::ref_ptr<osg::Geometry> geometry = new osg::Geometry;
-    geometry->setUseDisplayList(false);
-    geometry->setUseVertexBufferObjects(true);
-    geometry->setVertexArray(new osg::Vec3Array(size, m_vertices.data()));
+    osg::ref_ptr<osg::Geometry> all = new osg::Geometry;
+    all->setUseDisplayList(false);
+    all->setUseVertexBufferObjects(true);
+    all->setVertexArray(new osg::Vec3Array(size, m_vertices.data()));
     osg::ref_ptr<osg::Vec3sArray> normals = new osg::Vec3sArray(size, m_normals.data());
     normals->setNormalize(true);
-    geometry->setNormalArray(normals, osg::Array::BIND_PER_VERTEX);
+    all->setNormalArray(normals, osg::Array::BIND_PER_VERTEX);
     osg::ref_ptr<osg::Vec4ubArray> colors = new osg::Vec4ubArray(size, m_colors.data());
     colors->setNormalize(true);
-    geometry->setColorArray(colors, osg::Array::BIND_PER_VERTEX);
-    if (m_indices.empty())
-        geometry->addPrimitiveSet(new osg::DrawArrays(GL_POINTS, 0, static_cast<GLsizei>(size)));
-    else if (size <= std::numeric_limits<GLushort>::max())
-        geometry->addPrimitiveSet(elements<osg::DrawElementsUShort>(m_indices));
-    else
-        geometry->addPrimitiveSet(elements<osg::DrawElementsUInt>(m_indices));
-    return geometry;
+    all->setColorArray(colors, osg::Array::BIND_PER_VERTEX);
+    for (const auto &[indices, state] :
+         {std::pair(&m_indices, solid), std::pair(&m_translucentIndices, translucent)}) {
+        if (indices->empty())
+            continue;
+        // With shallow copies, both drawables have the same vertices.
+        osg::ref_ptr<osg::Geometry> geometry = new osg::Geometry(*all);
+        if (size <= std::numeric_limits<GLushort>::max())
+            geometry->addPrimitiveSet(elements<osg::DrawElementsUShort>(m_mode, *indices));
+        else
+            geometry->addPrimitiveSet(elements<osg::DrawElementsUInt>(m_mode, *indices));
+        geometry->setStateSet(state);
+        geode.addDrawable(geometry);
+    }
 }
 
 } // namespace vlt::scene

@@ -4,6 +4,7 @@
 #include "plugins/scene/buildings/RoofTriangles.h"
 
 #include <osg/Array>
+#include <osg/Geode>
 #include <osg/Geometry>
 #include <osg/StateSet>
 
@@ -11,17 +12,23 @@
 
 namespace vlt::scene {
 
-/// Buildings as triangles that will become one drawable. Faces share no vertices, so that each has
-/// its own normal and colour.
+/// The faces of buildings that are added to a mesh.
+enum class Faces { All, Walls, Roofs };
+
+/// Buildings as triangles that will become one drawable, or two if some colours are translucent.
+/// Faces share no vertices, so that each has its own normal and colour. Faces with the alpha 0 are
+/// left out.
 class CityMesh
 {
 public:
+    using Indices = std::vector<std::uint32_t>; ///< of vertices
+
     /// @param origin  in the city's frame; vertices are relative to it
     CityMesh(const CityModel &city, const osg::Vec3d &origin) : m_city(city), m_origin(origin) {}
 
     /// Adds a building in full detail: its walls from `skirtM` below its base to its height, also
     /// around courtyards, and its roof. All faces face outwards for every direction of the rings.
-    void addBuilding(std::uint32_t building, double skirtM);
+    void addBuilding(std::uint32_t building, double skirtM, Faces faces = Faces::All);
 
     /// Adds a box with the same height and floor area for each part of a building: for buildings
     /// that are a few pixels large. Its faces share vertices; their normals and colours are correct
@@ -32,23 +39,25 @@ public:
     /// points must not have anything else.
     void addDot(std::uint32_t building);
 
-    bool isEmpty() const { return m_vertices.empty(); }
     const std::vector<osg::Vec3> &vertices() const { return m_vertices; }
     const std::vector<osg::Vec3s> &normals() const { return m_normals; } ///< 32767 long
     const std::vector<osg::Vec4ub> &colors() const { return m_colors; }
-    const std::vector<std::uint32_t> &indices() const { return m_indices; } ///< of triangles
+    const Indices &indices() const { return m_indices; } ///< of opaque triangles or points
+    const Indices &translucentIndices() const { return m_translucentIndices; }
 
-    /// The drawable of the triangles, or of the points if there are no triangles. It uses buffer
-    /// objects, not display lists.
-    osg::ref_ptr<osg::Geometry> geometry() const;
+    /// Adds the drawables of the triangles or points to a node. They use buffer objects, not
+    /// display lists.
+    void addTo(osg::Geode &geode, osg::StateSet *solid, osg::StateSet *translucent) const;
 
 private:
     using Positions = std::vector<osg::Vec2d>;
 
-    void addPart(std::span<const Footprints::Ring> rings, std::uint32_t building, double skirtM);
+    void addPart(std::span<const Footprints::Ring> rings, std::uint32_t building, double skirtM,
+                 Faces faces);
     void addWalls(const Positions &ring, double bottom, double top, const osg::Vec4ub &color);
     void addRoof(double top, const osg::Vec4ub &color);
     void addBox(const Positions &ring, double area, std::uint32_t building);
+    Indices *indicesFor(const osg::Vec4ub &color); ///< null if nothing is drawn in this colour
     std::uint32_t vertex(const osg::Vec2d &position, double z, const osg::Vec2d &normal,
                          const osg::Vec4ub &color);
     Positions positionsOf(const Footprints::Ring &ring, bool counterClockwise) const;
@@ -59,12 +68,18 @@ private:
     std::vector<osg::Vec3> m_vertices;
     std::vector<osg::Vec3s> m_normals;
     std::vector<osg::Vec4ub> m_colors;
-    std::vector<std::uint32_t> m_indices;
+    Indices m_indices;
+    Indices m_translucentIndices;
+    GLenum m_mode = GL_TRIANGLES;
 };
 
 /// The state set of the faces of a mesh: with lighting, in the colours of their vertices, visible
 /// from outside only.
 osg::ref_ptr<osg::StateSet> plainFaceState();
+
+/// A copy of a state set for faces that are blended with what is behind them. They are drawn after
+/// the others and do not hide each other.
+osg::ref_ptr<osg::StateSet> translucentState(const osg::StateSet &faces);
 
 /// The parts of a building: each an outer ring with its holes.
 std::vector<std::span<const Footprints::Ring>> partsOf(std::span<const Footprints::Ring> rings);

@@ -12,6 +12,7 @@
 #include <osg/ShadeModel>
 
 #include <algorithm>
+#include <initializer_list>
 #include <limits>
 
 namespace vlt::scene {
@@ -39,20 +40,13 @@ struct Content
     std::shared_ptr<const CityModel> city;
     CityStyle look;
     osg::ref_ptr<osg::StateSet> state = makeState();
+    osg::ref_ptr<osg::StateSet> translucent = translucentState(*state);
 
-    void add(osg::Geode &geode, const CityMesh &mesh) const
-    {
-        if (mesh.isEmpty())
-            return;
-        osg::ref_ptr<osg::Geometry> geometry = mesh.geometry();
-        geometry->setStateSet(state);
-        geode.addDrawable(geometry);
-    }
-
-    osg::ref_ptr<osg::Node> asNode(const CityMesh &mesh) const
+    osg::ref_ptr<osg::Node> asNode(std::initializer_list<const CityMesh *> meshes) const
     {
         osg::ref_ptr<osg::Geode> geode = new osg::Geode;
-        add(*geode, mesh);
+        for (const CityMesh *mesh : meshes)
+            mesh->addTo(*geode, state, translucent);
         return geode;
     }
 
@@ -62,7 +56,7 @@ struct Content
         CityMesh mesh(*city, origin);
         for (const std::uint32_t building : buildings)
             mesh.addBuilding(building, look.skirtM);
-        return asNode(mesh);
+        return asNode({&mesh});
     }
 
     osg::ref_ptr<osg::Node> boxes(std::span<const std::uint32_t> buildings,
@@ -71,7 +65,7 @@ struct Content
         CityMesh mesh(*city, origin);
         for (const std::uint32_t building : buildings)
             addBoxOrMore(mesh, building, Boxes.largestM);
-        return asNode(mesh);
+        return asNode({&mesh});
     }
 
     osg::ref_ptr<osg::Node> dots(std::span<const std::uint32_t> buildings,
@@ -85,10 +79,7 @@ struct Content
             else
                 small.addDot(building);
         }
-        osg::ref_ptr<osg::Geode> geode = new osg::Geode;
-        for (const CityMesh *mesh : {&large, &small})
-            add(*geode, *mesh);
-        return geode;
+        return asNode({&large, &small});
     }
 
     void addBoxOrMore(CityMesh &mesh, std::uint32_t building, double largestM) const

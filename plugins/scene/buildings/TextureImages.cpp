@@ -82,6 +82,7 @@ osg::ref_ptr<osg::StateSet> makeEdgeState()
 TextureImages::TextureImages(const CityModel &city)
     : m_faceState(makeFaceState())
     , m_plainState(makePlainState())
+    , m_translucentState(scene::translucentState(*m_plainState))
     , m_edgeState(makeEdgeState())
 {
     // The vectors are nearly the same in all parts of a city: over the few metres of a buffer, the

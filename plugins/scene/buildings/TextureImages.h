@@ -51,6 +51,7 @@ public:
     const osg::ref_ptr<osg::StateSet> &faceState() const { return m_faceState; }
     /// For faces in the colours of their vertices.
     const osg::ref_ptr<osg::StateSet> &plainState() const { return m_plainState; }
+    const osg::ref_ptr<osg::StateSet> &translucentState() const { return m_translucentState; }
     const osg::ref_ptr<osg::StateSet> &edgeState() const { return m_edgeState; }
 
 private:
@@ -61,6 +62,7 @@ private:
     osg::Vec2d m_up;    ///< a metre to the north
     osg::ref_ptr<osg::StateSet> m_faceState;
     osg::ref_ptr<osg::StateSet> m_plainState;
+    osg::ref_ptr<osg::StateSet> m_translucentState;
     osg::ref_ptr<osg::StateSet> m_edgeState;
 };
 

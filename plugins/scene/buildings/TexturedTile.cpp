@@ -21,13 +21,11 @@ constexpr double MaxPixelsPerTile = 1 << 21; ///< 8 MiB, for all images together
 constexpr double MaxPixelsPerCity = 1 << 27; ///< all tiles together, because tiles are kept
 constexpr int MinSide = 64;
 
+/// The colour behind an image; images lie on opaque faces.
 osg::Vec4ub opaque(const colormaps::Rgba &color)
 {
     return {color.red, color.green, color.blue, 255};
 }
-
-/// The faces of buildings that are drawn in the city's colours.
-enum class Plain { All, Walls, Roofs };
 
 class TileBuilder
 {
@@ -42,7 +40,6 @@ public:
         , m_edgeColor(parseColor(textures.edgeColor))
         , m_faces(images.levels().size())
         , m_plain(city, origin)
-        , m_rest(city, origin)
     {}
 
     void add(std::uint32_t building)
@@ -54,11 +51,11 @@ public:
         }
         switch (m_textures.mode) {
         case contract::TextureMode::Roofs:
-            m_rest.addBuilding(building, m_skirtM);
+            m_plain.addBuilding(building, m_skirtM, Faces::Walls);
             addRoofs(building);
             break;
         case contract::TextureMode::Walls:
-            m_rest.addBuilding(building, m_skirtM);
+            m_plain.addBuilding(building, m_skirtM, Faces::Roofs);
             addWalls(building);
             break;
         case contract::TextureMode::Storeys:
@@ -72,9 +69,7 @@ public:
     osg::ref_ptr<osg::Node> node()
     {
         osg::ref_ptr<osg::Geode> geode = new osg::Geode;
-        const bool isRoofs = m_textures.mode == contract::TextureMode::Roofs;
-        addPlain(*geode, m_plain, Plain::All);
-        addPlain(*geode, m_rest, isRoofs ? Plain::Walls : Plain::Roofs);
+        m_plain.addTo(*geode, m_images.plainState(), m_images.translucentState());
         const int side = maxSide();
         for (std::size_t i = 0; i < m_faces.size(); ++i) {
             if (!m_faces[i].isEmpty())
@@ -269,25 +264,6 @@ private:
                               opaque(*m_edgeColor));
     }
 
-    void addPlain(osg::Geode &geode, const CityMesh &mesh, Plain plain) const
-    {
-        if (mesh.isEmpty())
-            return;
-        osg::ref_ptr<osg::Geometry> geometry = mesh.geometry();
-        if (plain != Plain::All) {
-            osg::ref_ptr<osg::DrawElementsUInt> kept = new osg::DrawElementsUInt(GL_TRIANGLES);
-            const std::vector<std::uint32_t> &all = mesh.indices();
-            for (std::ptrdiff_t i = 0; i + 2 < std::ssize(all); i += 3) {
-                const bool isRoof = mesh.normals()[all[static_cast<std::size_t>(i)]].z() > 0;
-                if (isRoof == (plain == Plain::Roofs))
-                    kept->insert(kept->end(), all.begin() + i, all.begin() + i + 3);
-            }
-            geometry->setPrimitiveSet(0, kept);
-        }
-        geometry->setStateSet(m_images.plainState());
-        geode.addDrawable(geometry);
-    }
-
     const CityModel &m_city;
     const contract::BuildingTextures &m_textures;
     TextureImages &m_images;
@@ -296,8 +272,7 @@ private:
     std::optional<colormaps::Rgba> m_edgeColor;
     std::size_t m_count = 0;         ///< buildings added
     std::vector<ImageFaces> m_faces; ///< parallel to the images
-    CityMesh m_plain;                ///< buildings without an image
-    CityMesh m_rest;                 ///< faces without images of buildings that have images
+    CityMesh m_plain;                ///< faces without an image
     RoofTriangles m_roof;
     Mesh m_edges{Mesh::Kind::Lines};
 };
