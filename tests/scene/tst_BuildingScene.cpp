@@ -271,6 +271,8 @@ private Q_SLOTS:
         row("degrees", "degrees.tif", 77);
         row("its western columns are typed to have none: those of 101 count", "steps.tif", 101, {},
             "-5");
+        row("the typed value of no data is none", "dem.tif", 100.5,
+            "the no-data value \"abc\" of the terrain is not a number and has no effect", "abc");
         row("one of two buildings is beyond it", "flat.tif", 50,
             "1 of 2 buildings stand on the lowest ground");
         row("elsewhere", "far.tif", 0, "they stand at height 0");

@@ -101,6 +101,8 @@ std::optional<Ground> openGround(const GroundSource &source, const OGRSpatialRef
         notices.push_back(contract::formatted("MESS_SCENE_NO_TERRAIN"));
         return std::nullopt;
     }
+    if (!contract::isNoDataText(source.noData))
+        notices.push_back(contract::formatted("MESS_SCENE_BAD_TERRAIN_NODATA", {source.noData}));
     try {
         return Ground(source, srs);
     } catch (const BadLayer &fault) {
