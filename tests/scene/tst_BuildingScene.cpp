@@ -416,6 +416,8 @@ private Q_SLOTS:
             {"TEXB:" + path("docs/t.texb").toUtf8(), true},
             {"texb:beside.texb", true}, // in the layer's folder
             {"TEXB:docs/t.texb", true}, // in the project's folder
+            {"TEXB:/gone/beside.texb", true},
+            {"TEXB:C:\\gone\\beside.texb", true},
             {"TEXB:no.texb", false},
             {"site:t.csv", false}};
         for (const auto &[source, isFound] : sources) {
@@ -432,6 +434,25 @@ private Q_SLOTS:
             else
                 QVERIFY(opened.fault.find(source.mid(5).toStdString()) != std::string::npos);
         }
+    }
+
+    /// The wizard may write its temporary document again after the layer was copied.
+    void copiedLayersHaveTheirOwnDocument()
+    {
+        const QByteArray before = qgetenv("TMPDIR");
+        makeFootprints(path("town.gpkg"), {{Square, "5"}});
+        writeFile(path("temporary/t.texb"), "changed");
+        writeFile(path("copied/t.texb"), document("../town.gpkg"));
+        for (const char *layer : {"temporary/a.lay", "copied/a.lay"})
+            writeFile(path(layer), "<veltaroLayer kind=\"buildings\"><source>TEXB:" +
+                                       path("temporary/t.texb").toUtf8() +
+                                       "</source></veltaroLayer>");
+
+        QVERIFY(!layertest::open(path("copied/a.lay")).scene);
+        qputenv("TMPDIR", path("temporary").toLocal8Bit());
+        QVERIFY(layertest::open(path("copied/a.lay")).scene);
+        QVERIFY(!layertest::open(path("temporary/a.lay")).scene);
+        before.isNull() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", before);
     }
 
 private:

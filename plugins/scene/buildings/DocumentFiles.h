@@ -8,7 +8,8 @@ namespace vlt::scene {
 /// The absolute path of a file or folder of the local disk; empty if there is none of this name.
 std::string locateDataset(const std::string &name, const std::vector<std::string> &directories);
 
-/// The absolute path of the document of a layer.
+/// The absolute path of the document of a layer. If it is gone, or only in the folder of temporary
+/// files, a file of the same name beside the layer takes its place: both may have been copied.
 ///
 /// @param source     of the layer: "TEXB:" and the path of the document
 /// @param layer      path of the layer file
