@@ -2,6 +2,7 @@
 
 #include "contract/TableMetadata.h"
 #include "geodata/TableDataset.h"
+#include "geodata/TableRoles.h"
 #include "platform/TextDecoding.h"
 
 #include <cpl_conv.h>
@@ -33,22 +34,6 @@ QMap<QString, QString> defaultMetadata(OGRLayer &layer)
     return items;
 }
 
-void readRoles(OGRLayer &layer, LayerInfo &info)
-{
-    namespace metadata = contract::metadata;
-    const QLatin1Char bar(metadata::RoleSeparator);
-    char **list = layer.GetMetadata(metadata::RolesDomain);
-    for (int i = 0; list && list[i]; ++i) {
-        const QString item = platform::decodeText(list[i]);
-        const QString value = item.section(QLatin1Char('='), 1);
-        if (item.startsWith(QLatin1String(metadata::RolePrefix)))
-            info.roles.append({value.section(bar, 0, 0), value.section(bar, 1, 1),
-                               value.section(bar, 2, 2), value.section(bar, 3)});
-        else if (item.startsWith(QLatin1String(metadata::ShapeItem)))
-            info.shape = value;
-    }
-}
-
 } // namespace
 
 Result<LayerInfo> readLayerInfo(const QString &connection, int layerIndex)
@@ -65,7 +50,8 @@ Result<LayerInfo> readLayerInfo(const QString &connection, int layerIndex)
         info.featureCount = layer->GetFeatureCount(TRUE);
         info.fields = fieldNames(*layer);
         info.metadata = defaultMetadata(*layer);
-        readRoles(*layer, info);
+        info.shape = shapeIn(*layer);
+        info.roles = rolesIn(*layer);
     }
     return info;
 }

@@ -22,14 +22,15 @@ QString withoutPath(const QString &reason, const QString &connection)
 
 } // namespace
 
-Result<GDALDatasetUniquePtr> openTable(const QString &connection, const ErrorCollector &errors)
+Result<GDALDatasetUniquePtr> openTable(const QString &connection, const ErrorCollector &errors,
+                                       const char *const *options)
 {
     if (!contract::connectionKind(connection.toStdString()))
         return Error::asIs(QStringLiteral("not a site or link table"), connection);
 
     // The path at the end is in the file system's encoding; the options before it are ASCII.
-    GDALDatasetUniquePtr dataset(
-        GDALDataset::Open(QFile::encodeName(connection).constData(), GDAL_OF_VECTOR));
+    GDALDatasetUniquePtr dataset(GDALDataset::Open(QFile::encodeName(connection).constData(),
+                                                   GDAL_OF_VECTOR, nullptr, options));
     if (!dataset) {
         const QString noReader = QString::fromStdString(contract::formatted("MESS_TAB_NO_READER"));
         return Error::fromLibrary(withoutPath(errors.failure(noReader), connection));

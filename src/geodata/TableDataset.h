@@ -12,7 +12,9 @@ namespace vlt::geodata {
 /// any driver gets them, so that no text from a user's file reaches a driver that would open a
 /// network connection.
 ///
-/// @par Errors   the driver's reason, without the path, as detail.
-Result<GDALDatasetUniquePtr> openTable(const QString &connection, const ErrorCollector &errors);
+/// @param options  open options, such as "OVERVIEW=YES", with a null pointer at the end
+/// @par Errors     the driver's reason, without the path, as detail.
+Result<GDALDatasetUniquePtr> openTable(const QString &connection, const ErrorCollector &errors,
+                                       const char *const *options = nullptr);
 
 } // namespace vlt::geodata

@@ -2,6 +2,9 @@
 
 #include "contract/TableMetadata.h"
 #include "geodata/TableDataset.h"
+#include "geodata/TableRoles.h"
+
+#include <cpl_string.h>
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -31,16 +34,9 @@ QList<qint64> numbersIn(const QJsonObject &object, const char *name)
     return numbers;
 }
 
-} // namespace
-
-Result<TableExcerpt> readTableExcerpt(const QString &connection)
+TableExcerpt excerptOf(GDALDataset &dataset)
 {
-    const ErrorCollector errors;
-    const auto dataset = openTable(connection, errors);
-    if (!dataset)
-        return dataset.error();
-
-    char **items = dataset.value()->GetMetadata(contract::metadata::ExcerptDomain);
+    char **items = dataset.GetMetadata(contract::metadata::ExcerptDomain);
     const QJsonObject object =
         QJsonDocument::fromJson(items && *items ? QByteArray(*items) : QByteArray()).object();
     TableExcerpt read;
@@ -55,6 +51,29 @@ Result<TableExcerpt> readTableExcerpt(const QString &connection)
         read.rows.append({row[QLatin1String(excerpt::Row)].toInteger(),
                           textsIn(row.toObject(), excerpt::Cells)});
     return read;
+}
+
+} // namespace
+
+Result<TableExcerpt> readTableExcerpt(const QString &connection)
+{
+    const ErrorCollector errors;
+    const auto dataset = openTable(connection, errors);
+    return dataset ? excerptOf(*dataset.value()) : Result<TableExcerpt>(dataset.error());
+}
+
+Result<TableOverview> readTableOverview(const QString &connection)
+{
+    const ErrorCollector errors;
+    CPLStringList options;
+    options.SetNameValue(contract::metadata::OverviewOption, "YES");
+    const auto dataset = openTable(connection, errors, options.List());
+    if (!dataset)
+        return dataset.error();
+
+    OGRLayer *layer = dataset.value()->GetLayer(0);
+    GDALMajorObject *understood = dataset.value().get();
+    return TableOverview{excerptOf(*dataset.value()), rolesIn(layer ? *layer : *understood)};
 }
 
 } // namespace vlt::geodata

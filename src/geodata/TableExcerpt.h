@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Result.h"
+#include "geodata/LayerInfo.h"
 
 #include <QList>
 #include <QStringList>
@@ -36,5 +36,18 @@ struct TableExcerpt
 ///
 /// @par Errors   the driver's reason as detail.
 Result<TableExcerpt> readTableExcerpt(const QString &connection);
+
+/// A table as far as it is understood.
+struct TableOverview
+{
+    TableExcerpt excerpt;
+    QList<ColumnRole> roles;
+};
+
+/// Reads as much of a table as is understood, even if it is refused because it has no header or no
+/// positions of links.
+///
+/// @par Errors   the driver's reason as detail, for other files.
+Result<TableOverview> readTableOverview(const QString &connection);
 
 } // namespace vlt::geodata

@@ -1,3 +1,4 @@
+#include "gui/AnsweredBoxes.h"
 #include "gui/DropOnWidget.h"
 #include "gui/FileDialogAnswer.h"
 #include "links/ui/LinkReportModel.h"
@@ -5,6 +6,7 @@
 #include "support/Cases.h"
 #include "support/Files.h"
 #include "support/Patience.h"
+#include "tables/RoleModel.h"
 #include "wizard/LayerFlow.h"
 #include "wizard/base/TemporaryLayerFile.h"
 
@@ -15,6 +17,7 @@
 #include <QTabWidget>
 #include <QTableView>
 #include <QToolButton>
+#include <QTreeView>
 
 using namespace Qt::StringLiterals;
 using namespace layerflow;
@@ -44,7 +47,11 @@ class tst_LinkLayerFlow : public QObject
     QTemporaryDir m_dir;
 
 private Q_SLOTS:
-    void initTestCase() { QVERIFY(makeInstallation()); }
+    void initTestCase()
+    {
+        QVERIFY(makeInstallation());
+        QVERIFY(qputenv("XDG_DATA_HOME", QFile::encodeName(m_dir.filePath(u"data"_s))));
+    }
     void init() { forgetSettings(); }
 
     void makesTheLayerOfTheCommandLine_data()
@@ -160,6 +167,65 @@ private Q_SLOTS:
         } while (widget != first);
 
         QCOMPARE(passed, stops);
+    }
+
+    void takesTheEndsThatTheUserStates_data()
+    {
+        // stated: role=column ...; reason: for the table as it is
+        const Cases<QByteArray, QStringList, QString> row({"table", "stated", "reason"});
+        const QStringList all = {u"X coordinate, end A=P"_s, u"Y coordinate, end A=Q"_s,
+                                 u"X coordinate, end B=R"_s, u"Y coordinate, end B=S"_s};
+        row("strange names", "N;P;Q;R;S\nL;-3.4;47.7;-3.3;47.8\nM;-3.4;47.7;-3.2;47.8\n", all,
+            "no columns with coordinates of both ends were recognised");
+        row("one end", "N;Near lon;Near lat;R;S\nL;-3.4;47.7;-3.3;47.8\nM;-3.4;47.7;-3.2;47.8\n",
+            all.mid(2), "those of end B are missing");
+        row("no header", "-3.4;47.7;-3.3;47.8\n-3.4;47.7;-3.2;47.8\n",
+            QStringList(all)
+                .replaceInStrings(u"P"_s, u"Column 1"_s)
+                .replaceInStrings(u"Q"_s, u"Column 2"_s)
+                .replaceInStrings(u"R"_s, u"Column 3"_s)
+                .replaceInStrings(u"S"_s, u"Column 4"_s),
+            "no header was found");
+    }
+
+    void takesTheEndsThatTheUserStates()
+    {
+        QFETCH(QByteArray, table);
+        QFETCH(QStringList, stated);
+        QFETCH(QString, reason);
+        const QString path = writeFile(
+            m_dir.filePath(QString::fromUtf8(QTest::currentDataTag()) + u".csv"_s), table);
+        const AnsweredBoxes boxes;
+        WizardOnLinkPage flow;
+
+        dropFiles(flow.page, {path});
+
+        const auto *why = flow.widget<QLabel>(u"m_pwLblReason"_s);
+        QVERIFY2(why->text().contains(reason), qPrintable(why->text()));
+        auto *roles = flow.widget<QTreeView>(u"m_pwTrRoles"_s);
+        QVERIFY(roles->isVisible());
+        auto *model = qobject_cast<vlt::tables::RoleModel *>(roles->model());
+        for (const QString &statement : std::as_const(stated)) {
+            QVERIFY(!flow.icon->isEnabled());
+            const QString column = statement.section(u'=', 1);
+            const auto chosen = [&] {
+                return model
+                    ->match(model->index(0, 0), Qt::DisplayRole, statement.section(u'=', 0, 0))
+                    .value(0)
+                    .siblingAtColumn(vlt::tables::RoleModel::Name);
+            };
+            QVERIFY(
+                model->setData(chosen(), model->choices(chosen()).indexOf(column), Qt::EditRole));
+            QTRY_COMPARE_WITH_TIMEOUT(chosen().data(), column, PatienceMs);
+        }
+
+        QTRY_VERIFY_WITH_TIMEOUT(flow.icon->isEnabled(), PatienceMs);
+        QVERIFY(!why->isVisible());
+        QCOMPARE(flow.widget<QLineEdit>(u"m_pwLeLink"_s)->text(), path);
+        QTRY_VERIFY_WITH_TIMEOUT(
+            flow.widget<QToolButton>(u"m_pwTbFold"_s)->text().contains(u"links placed: 2 of 2"_s),
+            PatienceMs);
+        QCOMPARE(readFile(flow.icon->layerFile()), layerOfCommandLine(u"link"_s, path, {}));
     }
 
     void saysWhyNothingIsChecked()

@@ -237,10 +237,16 @@ void VltTableDetails::showTable(const vlt::tables::TableFileInfo &file,
 void VltTableDetails::showRefused()
 {
     endCheck();
+    m_checked.clear();
+    m_isNonePlaced = false;
+    m_rows->clear();
     forgetRows();
     m_fileProblems.clear();
     showProblems({}, 0);
     showSummary(nonePlacedText(), true);
+    m_pwTwDetails->setCurrentWidget(m_mapping);
+    m_pwTbFold->setChecked(true);
+    setVisible(true);
 }
 
 bool VltTableDetails::beginsCheck(const QString &what)

@@ -37,7 +37,7 @@ public:
     /// The panel with the roles of the columns; it gets its table before showTable() is called.
     VltMappingPanel *mapping() const { return m_mapping; }
 
-    /// Shows that the table cannot be read with the user's choices, which stay visible.
+    /// Shows that the table is refused, and its columns, of which the user may choose others.
     void showRefused();
 
     /// Why the layer of the table would be empty; nothing if it is not, or not checked yet.

@@ -298,8 +298,11 @@ void VltTablePage::showFile()
     if (!read) {
         leaveLayer(fileReason());
         m_ui->m_pwGbPreview->leaveLayer();
-        m_details->clear();
         m_ui->m_pwLblFileInfo->setText(m_configuration.noFile);
+        if (m_overview.excerpt.columns.isEmpty())
+            m_details->clear();
+        else
+            showRefused();
         showCures();
         return;
     }
@@ -323,11 +326,27 @@ void VltTablePage::showSystems()
 
 void VltTablePage::showMapping()
 {
-    const vlt::tables::TableFileInfo &read = *file();
-    const vlt::tables::MappingFile mapping = vlt::tables::findMapping(read.filePath);
-    m_details->mapping()->showTable(
-        {m_configuration.kind, read.shape, read.roles, m_excerpt, mapping.mapping}, mapping);
+    const vlt::tables::MappingFile mapping = vlt::tables::findMapping(m_pathRead);
+    m_details->mapping()->showTable({m_configuration.kind, file() ? file()->shape : QString(),
+                                     m_overview.roles, m_overview.excerpt, mapping.mapping},
+                                    mapping);
     showCures();
+}
+
+/// Shows the columns of a refused table, so that the user can state which they are.
+void VltTablePage::showRefused()
+{
+    vlt::tables::MappingFile mapping = vlt::tables::findMapping(m_pathRead);
+    if (m_overview.excerpt.columns.isEmpty()) { // all but the choices stays visible
+        m_details->mapping()->showRefused(mapping);
+    } else {
+        vlt::contract::ColumnMapping stated = mapping.mapping;
+        if (m_overview.excerpt.headerRows.isEmpty())
+            stated.headerRows.emplace(); // such a table is read only if that is stated
+        m_details->mapping()->showTable(
+            {m_configuration.kind, {}, m_overview.roles, m_overview.excerpt, stated}, mapping);
+    }
+    m_details->showRefused();
 }
 
 /// Shows what can be stated about the table by buttons; a refused one may lack another table.
@@ -378,8 +397,7 @@ void VltTablePage::readFileAgain()
     const auto suggested = file() ? file()->systems : vlt::geodata::SystemPair();
     m_refusal = readTable(m_pathRead);
     if (!file()) {
-        m_details->mapping()->showRefused(vlt::tables::findMapping(m_pathRead));
-        m_details->showRefused();
+        showRefused();
         leaveLayer(fileReason());
         showCures();
         return;

@@ -77,9 +77,10 @@ protected:
         struct Read
         {
             vlt::Result<Info> info;
-            vlt::geodata::TableExcerpt excerpt;
+            vlt::geodata::TableOverview overview;
         };
         file.reset();
+        m_overview = {};
         if (path.isEmpty())
             return std::nullopt;
         const std::function<Read()> work = [path, read, project = m_project,
@@ -87,18 +88,25 @@ protected:
             vlt::tables::TableReading reading;
             reading.columns = vlt::tables::mappingOption(path);
             vlt::Result<Info> info = read(path, project, reading);
-            const auto excerpt = vlt::geodata::readTableExcerpt(reading.connection(kind, path));
-            return Read{info, excerpt ? excerpt.value() : vlt::geodata::TableExcerpt()};
+            const QString connection = reading.connection(kind, path);
+            if (!info) {
+                const auto overview = vlt::geodata::readTableOverview(connection);
+                return Read{info, overview ? overview.value() : vlt::geodata::TableOverview()};
+            }
+            const auto excerpt = vlt::geodata::readTableExcerpt(connection);
+            return Read{
+                info,
+                {excerpt ? excerpt.value() : vlt::geodata::TableExcerpt(), info.value().roles}};
         };
         const std::optional<Read> outcome =
             isShown() ? vlt::wizard::waitForValue<Read>(this, m_configuration.reading, work)
                       : vlt::wizard::valueWithinMoment<Read>(work);
         if (!outcome)
             return std::nullopt;
+        m_overview = outcome->overview;
         if (!outcome->info)
             return outcome->info.error();
         file = outcome->info.value();
-        m_excerpt = outcome->excerpt;
         return std::nullopt;
     }
 
@@ -153,6 +161,7 @@ private:
     void reportFailure(const vlt::Result<vlt::Done> &outcome);
     void showFile();
     void showMapping();
+    void showRefused();
     void showCures();
     void showSystems();
     QString fileReason() const;
@@ -176,7 +185,8 @@ private:
     VltCures *m_cures = nullptr;
     vlt::project::ProjectContext m_project;
     QString m_fileDir;
-    vlt::geodata::TableExcerpt m_excerpt; ///< of the table
-    QString m_pathRead;                   ///< the last path given to readFileInfo()
-    std::optional<vlt::Error> m_refusal;  ///< of that table
+    /// Of the table; without columns if it is no table. A refused one may have them.
+    vlt::geodata::TableOverview m_overview;
+    QString m_pathRead;                  ///< the last path given to readFileInfo()
+    std::optional<vlt::Error> m_refusal; ///< of that table
 };
