@@ -1,6 +1,7 @@
 #include "contract/ColumnPattern.h"
 
 #include <stdexcept>
+#include <utility>
 
 #define PCRE2_CODE_UNIT_WIDTH 8
 #include <pcre2.h>
@@ -61,11 +62,16 @@ bool ColumnPattern::matches(std::string_view name) const
 std::string plainColumnName(std::string_view name)
 {
     static const ColumnPattern anyText(".*"); // matches all valid UTF-8
-    constexpr std::string_view NoBreakSpace = "\u00a0";
+    constexpr std::pair<std::string_view, std::string_view> Replaced[] = {
+        {"\u00a0", " "}, // no-break space
+        {"\u0130", "I"}, // capital i with a dot, in Turkish
+    };
     std::string plain = anyText.matches(name) ? std::string(name) : fromLatin1(name);
-    for (std::size_t at = plain.find(NoBreakSpace); at != std::string::npos;
-         at = plain.find(NoBreakSpace, at))
-        plain.replace(at, NoBreakSpace.size(), " ");
+    for (const auto &[letter, replacement] : Replaced) {
+        for (std::size_t at = plain.find(letter); at != std::string::npos;
+             at = plain.find(letter, at))
+            plain.replace(at, letter.size(), replacement);
+    }
     return plain;
 }
 

@@ -26,7 +26,8 @@ private:
 };
 
 /// The name of a column in the form to which patterns are applied: Latin-1 (for instance a degree
-/// sign in one byte) becomes UTF-8, each no-break space becomes a blank.
+/// sign in one byte) becomes UTF-8, each no-break space becomes a blank, a capital I with a dot one
+/// without.
 std::string plainColumnName(std::string_view name);
 
 } // namespace vlt::contract

@@ -77,6 +77,8 @@ private Q_SLOTS:
         row("Transmitter-3 Mech. downtilt (°)", "t");
         row("Transmitter-3 Mech. down tilt (°)", "");
         row("Transmitter-3 mechtilt", "t");
+        row("Transmitter-3 mechTİLT", "t");
+        row("Sİte ID", "n");
         row("Transmitter-3 Tilt(°)", "t");
         row("Transmitter-3 Tilt (deg)", "");
         row("Transmitter-3 Electrical tilt", "");
