@@ -49,10 +49,11 @@ private Q_SLOTS:
         writeCatalogue(dir.path(), QStringLiteral("list.xml"),
                        "<pylons><group><pylon type='a b' description_fr='M\xc3\xa2t'/></group>"
                        "<pylon type='c' description_en='Mast'/></pylons>");
-        writeCatalogue(dir.path(), QStringLiteral("colors/sectors.xml"),
-                       "<sectors><colorset description_fr='Deux'>\n  <list>\n"
-                       "    <c r='1' g='2' b='3'/>\n    <d r='300' g='-4' b='x' a='128'/>\n"
-                       "  </list>\n  <list><c r='9'/></list></colorset><colorset/></sectors>");
+        writeCatalogue(
+            dir.path(), QStringLiteral("colors/sectors.xml"),
+            "<sectors><colorset description_fr='Deux'><!-- a -->\n  <list>"
+            "\n    <!-- b --><c r='1' g='2' b='3'/>\n    <d r='300' g='-4' b='x' a='128'/>\n"
+            "  </list>\n  <list><c r='9'/></list></colorset><colorset/></sectors>");
 
         const SiteCatalogues read = loadSiteCatalogues(dir.path(), QStringLiteral("fr"));
 
