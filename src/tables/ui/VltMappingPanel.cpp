@@ -21,7 +21,8 @@ namespace {
 constexpr int VisibleRoles = 8;
 constexpr int VisibleRows = 6;
 constexpr int RowMargin = 6;
-constexpr int MaxColumnCharacters = 30;
+constexpr int MaxTextCharacters = 30; ///< of a column of long texts
+constexpr int MaxNameCharacters = 40; ///< of a column with names of roles: their end counts
 constexpr int HeaderDelayMs = 400;
 
 /// Marks the rows of the header; greys those above it.
@@ -46,9 +47,9 @@ protected:
 
 /// Makes columns as wide as their contents, but none so wide that it moves the others out of view.
 template<typename View>
-void fitColumns(View *view, int first, int end)
+void fitColumns(View *view, int first, int end, int maxCharacters)
 {
-    const int most = MaxColumnCharacters * view->fontMetrics().averageCharWidth();
+    const int most = maxCharacters * view->fontMetrics().averageCharWidth();
     for (int column = first; column < end; ++column) {
         view->resizeColumnToContents(column);
         if (view->columnWidth(column) > most)
@@ -103,6 +104,7 @@ void VltMappingPanel::buildExcerpt()
     view->verticalHeader()->setToolTip(
         tr("A click makes this the row with the names of the columns", "MESS_TIP_ROW_NUMBER"));
     view->horizontalHeader()->setHighlightSections(false);
+    view->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     view->setMinimumHeight((VisibleRows + 3) * view->verticalHeader()->defaultSectionSize());
     vlt::tables::makeRowsCopyable(view);
 }
@@ -189,9 +191,10 @@ void VltMappingPanel::showTable(const vlt::tables::UnderstoodTable &table, const
     const QString shape = vlt::language::readerText(table.shape);
     m_ui->m_pwLblShape->setText(shape);
     m_ui->m_pwLblShape->setVisible(!shape.isEmpty());
-    view->resizeColumnToContents(RoleModel::Role);
-    fitColumns(view, RoleModel::Name, RoleModel::Samples); // the last column takes what is left
-    fitColumns(m_ui->m_pwTvExcerpt, 0, m_excerpt->columnCount());
+    fitColumns(view, RoleModel::Role, RoleModel::Name, MaxNameCharacters);
+    // the last column takes what is left
+    fitColumns(view, RoleModel::Name, RoleModel::Samples, MaxTextCharacters);
+    fitColumns(m_ui->m_pwTvExcerpt, 0, m_excerpt->columnCount(), MaxNameCharacters);
     showHeader();
     showMappingFile(file);
 }

@@ -9,6 +9,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QVBoxLayout>
 
 VltRowAccounts::VltRowAccounts(QWidget *parent)
     : QWidget(parent)
@@ -27,13 +28,17 @@ VltRowAccounts::VltRowAccounts(QWidget *parent)
     m_pwPbRejects->setToolTip(
         tr("Save the rows that are left out, to correct them and open them again",
            "MESS_TIP_SAVE_REJECTS"));
-    auto *layout = new QHBoxLayout(this);
+    // Side by side, label and buttons would be too wide in a large font.
+    auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_pwLblRows, 1);
+    layout->addWidget(m_pwLblRows);
+    auto *buttons = new QHBoxLayout;
+    layout->addLayout(buttons);
     for (QPushButton *button : {m_pwPbReport, m_pwPbRejects}) {
         button->setAutoDefault(false);
-        layout->addWidget(button);
+        buttons->addWidget(button);
     }
+    buttons->addStretch(1);
     connect(m_pwPbReport, &QPushButton::clicked, this, &VltRowAccounts::saveReport);
     connect(m_pwPbRejects, &QPushButton::clicked, this, &VltRowAccounts::saveRejects);
     clear();
