@@ -52,6 +52,10 @@ inline constexpr char MappingItem[] = "MAPPING"; ///< path of the mapping file i
 /// mapping file in use states. Its only item is a JSON object, see ColumnMapping.h.
 inline constexpr char MappingDomain[] = "json:MAPPING";
 
+/// Open option: a table without a header, or links without positions, are opened as well. Such
+/// links have no layers; the dataset has the domain of roles.
+inline constexpr char OverviewOption[] = "OVERVIEW";
+
 /// The domain of the dataset with the first rows of the table. Its only item is a JSON object:
 /// {"sheet": name, "sheets": [names], "headerRows": [numbers], "furtherRows": [numbers],
 /// "columns": [{"name": field, "position": n}], "rows": [{"row": number, "cells": [texts]}]}.

@@ -145,6 +145,52 @@ private Q_SLOTS:
         QVERIFY(QByteArray(*layer.GetMetadata("json:MAPPING")).contains("\"frequency\": \"T\""));
     }
 
+    void showsTheColumnsOfARefusedTable_data()
+    {
+        const Cases<QByteArray, QByteArray, QString, QString> row(
+            {"table", "stated", "roles", "refusal"});
+        const QByteArray strange = "N;P;Q;R;S\nL;2;48;3;49\nM;2;48;4;49\n";
+        row("strange names", strange, "", "",
+            "no columns with coordinates of both ends were recognised");
+        row("half a position", strange, R"("xA": "P", "yB": "S")", "xA=P yB=S", "both ends");
+        row("one end", "Near lon;Near lat;R;S\n2;48;3;49\n2;48;4;49\n", R"("xB": "R")",
+            "xA=Near lon yA=Near lat xB=R", "those of end B are missing");
+        row("no header", "2;48;3;49\n2;48;4;49\n", "", "", "no header was found");
+        row("stated names", "N;P;Q\nL;a;b\nM;a;c\n", R"("siteIdA": "P", "siteNameB": "Q")",
+            "siteIdA=P siteNameB=Q", "the ends of the links are only named (P; Q)");
+    }
+    void showsTheColumnsOfARefusedTable()
+    {
+        QFETCH(QByteArray, table);
+        QFETCH(QByteArray, stated);
+        QFETCH(QString, refusal);
+        m_folder.write("r.csv", table);
+        m_folder.write("r.csv.columns.json",
+                       "{\"version\": 1, \"kind\": \"links\", \"roles\": {" + stated + "}}");
+        const QByteArray connection = "link:" + m_folder.path("r.csv");
+        const Warnings warnings;
+        QVERIFY(!m_folder.open("link:", "r.csv"));
+        QVERIFY2(warnings.texts.join(u'\n').contains(refusal),
+                 qPrintable(warnings.texts.join(u'\n')));
+
+        CPLStringList options;
+        options.SetNameValue("OVERVIEW", "YES");
+        const GDALDatasetUniquePtr overview(
+            GDALDataset::Open(connection, GDAL_OF_VECTOR, nullptr, options.List()));
+
+        QVERIFY(overview);
+        QCOMPARE(overview->GetLayerCount(), 0);
+        QStringList roles;
+        for (char **item = overview->GetMetadata("roles"); item && *item; ++item) {
+            const QString value = QString::fromUtf8(*item).section(u'=', 1);
+            if (!value.startsWith(u"linkName"_s))
+                roles += value.section(u'|', 0, 0) + u'=' + value.section(u'|', 2, 2);
+        }
+        QTEST(roles.join(u' '), "roles");
+        char **excerpt = overview->GetMetadata("json:EXCERPT");
+        QVERIFY(excerpt && QByteArray(*excerpt).contains("\"cells\""));
+    }
+
     void keepsWhatItRecognised_data()
     {
         const Cases<QByteArray, QByteArray, QByteArray> row({"kind", "file", "second"});

@@ -167,13 +167,22 @@ void stateEnds(FoundEnds &ends, const std::vector<Field> &fields, const Vocabula
         if (!ofEnd.roles.empty() || usesOther)
             point = findEnd(ends.names, at == 0 ? LinkEndId::A : LinkEndId::B, fields, vocabulary,
                             ofEnd);
-        int &identifier = ends.identifiers[at];
+        if (const int identifier = statedIdentifiers(stated)[at]; identifier >= 0)
+            ends.identifiers[at] = identifier;
+    }
+}
+
+std::array<int, 2> statedIdentifiers(const StatedRoles &stated)
+{
+    std::array<int, 2> identifiers = {-1, -1};
+    for (std::size_t at = 0; at < identifiers.size(); ++at) {
         for (const std::string role : {"siteName", "siteId"}) {
-            const std::vector<int> *found = stated.find(role + letter);
+            const std::vector<int> *found = stated.find(role + (at == 0 ? "A" : "B"));
             if (found && !found->empty())
-                identifier = found->front();
+                identifiers[at] = found->front();
         }
     }
+    return identifiers;
 }
 
 bool namesBothEnds(const Header &header, const Vocabulary &vocabulary)

@@ -46,6 +46,9 @@ FoundEnds findNamedEnds(const TableProfile &table, const Vocabulary &vocabulary,
 void stateEnds(FoundEnds &ends, const std::vector<Field> &fields, const Vocabulary &vocabulary,
                const StatedRoles &stated);
 
+/// The columns that are stated as names or ids of the ends; -1 for none.
+std::array<int, 2> statedIdentifiers(const StatedRoles &stated);
+
 /// Whether a header has columns of both ends.
 bool namesBothEnds(const Header &header, const Vocabulary &vocabulary);
 

@@ -51,8 +51,13 @@ std::pair<bool, bool> coordinatesNamed(const Names &names, LinkEndId end,
     return {x, y};
 }
 
+bool isCoordinate(Role role)
+{
+    return role == Role::X || role == Role::Y || role == Role::Pair;
+}
+
 [[noreturn]] void refuse(const FoundEnds &ends, const std::vector<Field> &fields,
-                         const Vocabulary &vocabulary)
+                         const Vocabulary &vocabulary, const StatedRoles &stated)
 {
     for (const auto &[end, letter] : {std::pair(LinkEndId::A, "A"), std::pair(LinkEndId::B, "B")}) {
         const auto [hasX, hasY] = coordinatesNamed(ends.names, end, vocabulary);
@@ -65,11 +70,13 @@ std::pair<bool, bool> coordinatesNamed(const Names &names, LinkEndId end,
     const bool hasA = ends.points[0].found();
     if (hasA || ends.points[1].found())
         throw RefusedFile(Refusal::NoLinks, "MESS_TAB_ONE_END", {hasA ? "B" : "A"});
-    const auto name = [&](LinkEndId end) {
-        const int field = identifierOf(ends.names, end, vocabulary);
+    const std::array<int, 2> ofUser = statedIdentifiers(stated);
+    const auto name = [&](std::size_t at) {
+        const LinkEndId end = at == 0 ? LinkEndId::A : LinkEndId::B;
+        const int field = ofUser[at] >= 0 ? ofUser[at] : identifierOf(ends.names, end, vocabulary);
         return field < 0 ? std::string() : fields[static_cast<std::size_t>(field)].name;
     };
-    if (const std::string a = name(LinkEndId::A), b = name(LinkEndId::B); !a.empty() && !b.empty())
+    if (const std::string a = name(0), b = name(1); !a.empty() && !b.empty())
         throw RefusedFile(Refusal::NoLinks, "MESS_TAB_ENDS_ONLY_NAMED", {a, b});
     FieldWords words;
     for (const Field &field : fields)
@@ -135,7 +142,7 @@ LinkLayout recogniseLinkLayout(const TableProfile &table, const Vocabulary &voca
 {
     const FoundEnds ends = placedEnds(table, vocabulary, stated);
     if (!ends.found())
-        refuse(ends, table.fields, vocabulary);
+        refuse(ends, table.fields, vocabulary, stated);
     LinkLayout layout = layoutOf(table, ends, vocabulary, stated);
     layout.unit = commonUnit(findUnit(ends.points[0], table.fields, vocabulary),
                              findUnit(ends.points[1], table.fields, vocabulary));
@@ -156,6 +163,26 @@ void findLengthUnit(const TableProfile &table, LinkLayout &layout)
             column.evidence =
                 contract::formatted("MESS_TAB_EVIDENCE_UNIT", {column.evidence, unit->name});
     }
+}
+
+LinkLayout incompleteLinkLayout(const TableProfile &table, const Vocabulary &vocabulary,
+                                const StatedRoles &stated)
+{
+    LinkLayout layout = layoutOf(table, placedEnds(table, vocabulary, stated), vocabulary, stated);
+    // A position of which only a part is stated is not found.
+    std::erase_if(layout.columns, [&stated](const LinkColumnRole &column) {
+        return isCoordinate(column.role) && stated.fields.contains(column.field);
+    });
+    for (const auto &[name, fields] : stated.roles) {
+        const Role role = roleOfName(name.substr(0, name.size() - 1));
+        for (const int field : fields) {
+            if (field >= 0 && isCoordinate(role))
+                layout.columns.push_back({field, role,
+                                          name.ends_with('A') ? LinkEndId::A : LinkEndId::B,
+                                          stated.evidence});
+        }
+    }
+    return layout;
 }
 
 std::optional<LinkLayout> recogniseNamedLinks(const TableProfile &table,

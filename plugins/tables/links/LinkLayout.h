@@ -23,6 +23,10 @@ LinkLayout recogniseLinkLayout(const TableProfile &table, const Vocabulary &voca
 /// Finds the unit of lengths without one, by the positions of the ends.
 void findLengthUnit(const TableProfile &table, LinkLayout &layout);
 
+/// The columns of a table that recogniseLinkLayout() refuses, as far as they are found.
+LinkLayout incompleteLinkLayout(const TableProfile &table, const Vocabulary &vocabulary,
+                                const StatedRoles &stated);
+
 /// Recognises the fields of a table of links whose ends are only named. Nothing if there are no
 /// columns of both ends with ids or names of the sites.
 ///

@@ -2,6 +2,7 @@
 
 #include "contract/TableMetadata.h"
 #include "contract/TableTexts.h"
+#include "plugins/tables/ogr/MetadataItems.h"
 
 namespace vlt::driver {
 
@@ -57,9 +58,16 @@ CPLStringList LinkLayer::rolesMetadata() const
                                                : contract::TableTextId("MESS_TAB_SHAPE_LINKS"),
                                            {rows})
                            .c_str());
-    for (const LinkColumnRole &column : facts().links().columns)
-        addRole(items, column.name(), {}, column.field, column.evidence);
+    addRoles(items, facts());
     return items;
+}
+
+void LinkLayer::addRoles(CPLStringList &items, const TableFacts &facts)
+{
+    for (const LinkColumnRole &column : facts.links().columns)
+        addRoleItem(items, column.name(), {},
+                    facts.table.fields[static_cast<std::size_t>(column.field)].name,
+                    column.evidence);
 }
 
 } // namespace vlt::driver

@@ -12,6 +12,9 @@ class LinkLayer final : public TableLayer
 public:
     explicit LinkLayer(const TableSource &source);
 
+    /// The items of the domain "roles" for the columns of a table of links.
+    static void addRoles(CPLStringList &items, const TableFacts &facts);
+
 private:
     RowMeaning readRow(int64_t row, const FieldCells &cells,
                        std::vector<RowProblem> &problems) const override;

@@ -2,6 +2,7 @@
 
 #include "contract/TableMetadata.h"
 #include "contract/TableTexts.h"
+#include "plugins/tables/ogr/MetadataItems.h"
 
 namespace vlt::driver {
 
@@ -193,9 +194,9 @@ CPLStringList SiteLayer::rolesMetadata() const
     CPLStringList items;
     items.SetNameValue(metadata::ShapeItem, shapeText(facts()).c_str());
     for (const ColumnRole &column : layout.roles.columns)
-        addRole(items, roleName(column.role),
-                column.sector < 0 ? "" : std::to_string(column.sector), column.field,
-                column.evidence);
+        addRoleItem(
+            items, roleName(column.role), column.sector < 0 ? "" : std::to_string(column.sector),
+            facts().table.fields[static_cast<std::size_t>(column.field)].name, column.evidence);
     return items;
 }
 

@@ -35,6 +35,10 @@ public:
             m_layers.push_back(std::make_unique<SiteLayer>(source));
             return;
         }
+        if (source.file->options().isOverview) {
+            LinkLayer::addRoles(m_roles, source.facts());
+            return;
+        }
         m_layers.push_back(std::make_unique<LinkLayer>(source));
         m_layers.push_back(std::make_unique<LinkEndLayer>(source));
     }
@@ -72,6 +76,8 @@ public:
 
     char **GetMetadata(const char *domain) override
     {
+        if (domain && EQUAL(domain, contract::metadata::RolesDomain))
+            return m_roles.List();
         if (!domain || !EQUAL(domain, contract::metadata::ExcerptDomain))
             return GDALDataset::GetMetadata(domain);
         if (m_excerpt.empty())
@@ -94,6 +100,7 @@ private:
 
     TableSource m_source;
     CPLStringList m_excerpt;
+    CPLStringList m_roles; ///< of an overview of links
     std::vector<std::string> m_files;
     std::vector<std::unique_ptr<TableLayer>> m_layers;
 };
@@ -142,6 +149,8 @@ TableOptions optionsOf(const GDALOpenInfo &info, const contract::ConnectionStrin
     const contract::ColumnMapping &mapping = options.mapping.mapping;
     options.sheet = option("SHEET", contract::query::Sheet);
     options.encoding = option("ENCODING", contract::query::Encoding);
+    options.isOverview =
+        CSLFetchBoolean(info.papszOpenOptions, contract::metadata::OverviewOption, FALSE);
     options.textOnly = EQUAL(CSLFetchNameValueDef(info.papszOpenOptions, "TYPES", ""), "TEXT");
     const std::string axes = option("AXES", contract::query::Axes);
     options.swapsAxes =
@@ -150,6 +159,8 @@ TableOptions optionsOf(const GDALOpenInfo &info, const contract::ConnectionStrin
     const bool isLinks = options.kind == contract::TableKind::Links;
     std::string second = isLinks ? option("SITES", contract::query::EndSites)
                                  : option("SECTORS", contract::query::Sectors);
+    if (options.isOverview)
+        return options;
     if (second.empty())
         second = isLinks ? mapping.sites : mapping.sectors;
     if (!second.empty()) {
@@ -234,6 +245,10 @@ constexpr char OpenOptions[] = "<OpenOptionList>"
                                "<Option name='COLUMNS' type='string' description='Mapping file of "
                                "the columns, relative to the folder of the table; by default the "
                                "one beside it; none to read without'/>"
+                               "<Option name='OVERVIEW' type='boolean' description='Whether a "
+                               "table is opened although it has no header or no positions of "
+                               "links; links then have no layers, but an excerpt and roles' "
+                               "default='NO'/>"
                                "<Option name='TYPES' type='string-select' description='Whether "
                                "columns of numbers become numeric fields' "
                                "default='AUTO'><Value>AUTO</Value><Value>TEXT</Value></Option>"

@@ -160,11 +160,12 @@ Table TableFile::readByMapping(std::vector<RowProblem> &problems) const
     const auto readBy = [&](TableHints of) {
         try {
             return readTable(*openFile(), of);
-        } catch (const RefusedFile &) { // perhaps no row is left below the header
-            if (!of.headerRows)
+        } catch (const RefusedFile &refused) { // perhaps no row is left below the header
+            const bool mayDoWithout = m_options.isOverview && refused.reason() == Refusal::NoHeader;
+            if (!of.headerRows && !mayDoWithout)
                 throw;
+            of.headerRows = of.headerRows ? std::nullopt : std::optional(HeaderRowNumbers());
         }
-        of.headerRows.reset();
         return readTable(*openFile(), of);
     };
     const auto read = [&] {
@@ -229,6 +230,10 @@ void TableFile::recognise(TableFacts &facts, const TableProfile &profile)
 void TableFile::readLinks(TableFacts &facts, const TableProfile &profile, const StatedRoles &stated)
 {
     const Vocabulary &vocabulary = installedVocabulary().words;
+    if (m_options.isOverview) {
+        facts.layout = incompleteLinkLayout(profile, vocabulary, stated);
+        return;
+    }
     const bool isComplete = holdsLinks(profile, vocabulary, stated);
     if (m_secondFile && isComplete)
         facts.joinProblems.add(

@@ -27,6 +27,8 @@ struct TableOptions
     char delimiter = 0;
     bool textOnly = false;
     bool swapsAxes = false; ///< the columns of x hold y and the reverse
+    /// A table without a header, or without the positions of links, is read as far as it goes.
+    bool isOverview = false;
     /// Path of a file that completes the table: the transmitters of sites, the sites of links.
     std::string second;
     MappingFile mapping; ///< the members above go before it

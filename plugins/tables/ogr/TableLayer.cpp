@@ -95,13 +95,6 @@ void TableLayer::defineColumns()
         defineField(field.name.c_str(), ogrType(field.type));
 }
 
-void TableLayer::addRole(CPLStringList &items, std::string_view role, const std::string &sector,
-                         int field, const std::string &evidence) const
-{
-    addRoleItem(items, role, sector, facts().table.fields[static_cast<std::size_t>(field)].name,
-                evidence);
-}
-
 void TableLayer::setGeometryType(OGRwkbGeometryType type)
 {
     m_definition->SetGeomType(type);

@@ -62,11 +62,6 @@ protected:
     void defineField(const char *name, OGRFieldType type);
     void setGeometryType(OGRwkbGeometryType type);
     void setColumns(OGRFeature &feature, const TableRow &row) const;
-    /// Adds a column to the items of the domain "roles", behind the shape of the table.
-    ///
-    /// @param sector  number of the transmitter; empty for none
-    void addRole(CPLStringList &items, std::string_view role, const std::string &sector, int field,
-                 const std::string &evidence) const;
     /// Assigns the layer's coordinate system to the geometry and moves it into the feature.
     void setGeometry(OGRFeature &feature, std::unique_ptr<OGRGeometry> geometry) const;
 
