@@ -20,6 +20,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
+#include <algorithm>
 #include <limits>
 #include <optional>
 
@@ -120,8 +121,12 @@ Result<InfoReport> withRows(InfoReport report, contract::TableKind kind)
     const QList<Problem> ofSystems = tables::systemProblems(file, file.systems, systems);
     const geodata::LayerProblems others =
         tables::otherProblems(file, file.systems, systems, check.value().problems);
+    const auto firstOfRow = std::find_if(others.listed.begin(), others.listed.end(),
+                                         [](const Problem &problem) { return problem.row > 0; });
+    const qsizetype general = firstOfRow - others.listed.begin();
     report.problems.count += ofSystems.size() + others.count;
-    report.problems.listed += ofSystems + others.listed;
+    report.problems.listed +=
+        others.listed.first(general) + ofSystems + others.listed.sliced(general);
     report.problems.findings = others.findings;
     return report;
 }

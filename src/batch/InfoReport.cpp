@@ -51,8 +51,14 @@ QString rolesText(const tables::TableFileInfo &file)
     if (file.roles.isEmpty())
         return {};
     QList<Line> lines;
-    for (const geodata::ColumnRole &role : file.roles)
-        lines.append({tables::roleText(role), {language::readerText(role.evidence)}});
+    for (const geodata::ColumnRole &role : file.roles) {
+        const QString evidence = language::readerText(role.evidence);
+        const bool isNamed = evidence.contains(role.column);
+        lines.append(
+            {tables::roleText(role),
+             {isNamed ? evidence
+                      : dico_label("MESS_FILE_REASON", "%1: %2").arg(role.column, evidence)}});
+    }
     return language::readerText(file.shape) + QLatin1Char('\n') + aligned(lines) +
            QLatin1Char('\n');
 }
@@ -155,9 +161,11 @@ QString problemText(const Problem &problem)
                      QString::number(problem.row);
     if (!problem.column.isEmpty())
         place << dico_label("MESS_CLI_COLUMN", "column") + QLatin1Char(' ') + problem.column;
-    const QString where =
-        place.isEmpty() ? QString() : place.join(QStringLiteral(", ")) + QStringLiteral(": ");
-    return oneLine(where + language::readerText(problem.text));
+    const QString text = language::readerText(problem.text);
+    return oneLine(
+        place.isEmpty()
+            ? text
+            : dico_label("MESS_FILE_REASON", "%1: %2").arg(place.join(QStringLiteral(", ")), text));
 }
 
 QString reportText(const InfoReport &report)

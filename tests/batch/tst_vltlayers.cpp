@@ -226,6 +226,33 @@ private Q_SLOTS:
                  report.constData());
     }
 
+    void keepsAMappingThatCannotLieBesideTheTable()
+    {
+        const QString table = path(u"cells.csv"_s);
+        writeFile(table, "Site;Lon;Lat;Azimuth\nA;2;48;10\n");
+        QVERIFY(QDir().mkdir(table + u".columns.json"_s)); // root may write everywhere else
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        const auto run = [&](const QString &arguments, const QString &data) {
+            environment.insert(u"XDG_DATA_HOME"_s, path(data));
+            return m_program->start(arguments.split(u' '), environment);
+        };
+
+        const Run info = run(u"info ../cells.csv --json --write-mapping"_s, u"data"_s);
+        const Run site = run(u"site ../cells.csv -o o.lay"_s, u"data"_s);
+        const Run nowhere = run(u"info ../cells.csv --write-mapping"_s, u"cells.csv"_s);
+
+        const QString written =
+            QJsonDocument::fromJson(info.output).object().value(u"mapping"_s).toString();
+        QVERIFY2(written.startsWith(path(u"data/veltaro/telecom/mappings/"_s)),
+                 qPrintable(written));
+        QVERIFY(readFile(written).contains("\"azimuth\": \"Azimuth\""));
+        QCOMPARE(site.errors, QByteArray());
+        const QByteArray source = element(readFile(path(u"elsewhere/o.lay"_s)), "source");
+        QVERIFY2(source.contains(",columns=" + written.toUtf8() + ','), source.constData());
+        QCOMPARE(nowhere.status, 1);
+        QVERIFY2(nowhere.errors.contains("columns.json"), nowhere.errors.constData());
+    }
+
     void accountsForEveryRow()
     {
         const QByteArray table = "Site ID;Longitude;Latitude;Azimuth\nCh\xE2teau;2,3;48,8;0\n"
@@ -458,6 +485,14 @@ private Q_SLOTS:
         const Run help = start(u"site --help --language fr"_s);
         const Run misused = start(u"site t.csv -oo --language fr --sector-radius huit"_s);
 
+        writeFile(path(u"s.csv"_s), "Note,Longitude,Latitude\nA,,45\nB,3,45\n");
+        writeFile(path(u"s.csv.columns.json"_s), R"({"version": 1, "roles": {"siteId": "Note"}})");
+        const QByteArray info = start(u"info ../s.csv --language fr"_s).output;
+
+        for (const QString &line :
+             {u"  ligne 2, colonne Longitude\u00a0: la coordonnée est vide\n"_s,
+              u": Note\u00a0: indiqué dans s.csv.columns.json\n"_s})
+            QVERIFY2(info.contains(line.toUtf8()), info.constData());
         QVERIFY(help.output.startsWith("Utilisation\u00a0: vltlayers site "));
         QVERIFY(help.output.contains("Rayon des secteurs en m\u00e8tres, de 0.01"));
         QCOMPARE(misused.errors, QByteArray("vltlayers: --sector-radius attend un nombre de 0.01 "

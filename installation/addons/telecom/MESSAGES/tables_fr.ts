@@ -461,7 +461,7 @@
     </message>
     <message id="MESS_TAB_EVIDENCE_TEXTS">
         <source>header "%1"; %2 values, %3 of them different</source>
-        <translation>en-tête «&#xa0;%1&#xa0;»&#xa0;; %2 valeurs, dont %3 différentes</translation>
+        <translation>en-tête «&#xa0;%1&#xa0;»&#xa0;; valeurs&#xa0;: %2, dont différentes&#xa0;: %3</translation>
     </message>
     <message id="MESS_TAB_EVIDENCE_WHOLE">
         <source>header "%1"; %2 whole numbers from %3 to %4</source>
@@ -517,15 +517,15 @@
     </message>
     <message id="MESS_ROLE_MECHANICAL_TILT">
         <source>Mechanical tilt</source>
-        <translation>Tilt mécanique</translation>
+        <translation>Inclinaison mécanique</translation>
     </message>
     <message id="MESS_ROLE_ELECTRICAL_TILT">
         <source>Electrical tilt</source>
-        <translation>Tilt électrique</translation>
+        <translation>Inclinaison électrique</translation>
     </message>
     <message id="MESS_ROLE_TILT">
         <source>Tilt</source>
-        <translation>Tilt</translation>
+        <translation>Inclinaison</translation>
     </message>
     <message id="MESS_ROLE_BEAM_WIDTH">
         <source>Beam width</source>
@@ -869,7 +869,7 @@
     </message>
     <message id="MESS_ROW_COUNTS">
         <source>%1 = %2 used + %3 merged + %4 left out</source>
-        <translation>%1 = %2 utilisées + %3 fusionnées + %4 laissées de côté</translation>
+        <translation>%1 = %2 (utilisées) + %3 (fusionnées) + %4 (laissées de côté)</translation>
     </message>
     <message id="MESS_FATE_USED">
         <source>used</source>
