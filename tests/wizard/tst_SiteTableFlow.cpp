@@ -14,6 +14,17 @@
 using namespace Qt::StringLiterals;
 using namespace layerflow;
 
+namespace {
+
+/// The layer in the icon is that of the command line, which finds the choices of the user.
+void compareWithCommandLine(const WizardOnSitePage &flow, const QString &table)
+{
+    if (flow.icon->isEnabled())
+        QCOMPARE(readFile(flow.icon->layerFile()), layerOfCommandLine(u"site"_s, table, {}));
+}
+
+} // namespace
+
 /// What the page of sites shows of its table, and how the user corrects it.
 class tst_SiteTableFlow : public QObject
 {
@@ -82,6 +93,7 @@ private Q_SLOTS:
         QTRY_VERIFY_WITH_TIMEOUT(fold->text().contains(summary), PatienceMs);
         QTRY_COMPARE_WITH_TIMEOUT(flow.icon->isEnabled(), hasLayer, PatienceMs);
         QCOMPARE(hasLayer && readFile(flow.icon->layerFile()).contains("columns="), hasLayer);
+        compareWithCommandLine(flow, table);
         QVERIFY(!QFile::exists(table + u".columns.json"_s));
 
         auto *save = flow.widget<QAbstractButton>(u"m_pwPbSaveMapping"_s);
@@ -89,6 +101,7 @@ private Q_SLOTS:
         QTRY_VERIFY_WITH_TIMEOUT(!save->isEnabled() && fold->text().contains(summary), PatienceMs);
         QVERIFY(QFile::exists(table + u".columns.json"_s));
         QVERIFY(!hasLayer || !readFile(flow.icon->layerFile()).contains("columns="));
+        compareWithCommandLine(flow, table);
 
         flow.widget<QAbstractButton>(u"m_pwPbResetMapping"_s)->click();
         QTRY_VERIFY_WITH_TIMEOUT(save->isEnabled(), PatienceMs); // the file there is to go
@@ -153,6 +166,7 @@ private Q_SLOTS:
         auto *counts = flow.widget<QLabel>(u"m_pwLblRows"_s);
         QTRY_VERIFY_WITH_TIMEOUT(counts->text().contains(u"= 4 used"_s), PatienceMs);
         QVERIFY(flow.icon->isEnabled());
+        compareWithCommandLine(flow, path);
         QVERIFY(!cure(action));
 
         QTRY_VERIFY_WITH_TIMEOUT(cure(u"Undo"_s), PatienceMs);
@@ -178,6 +192,7 @@ private Q_SLOTS:
         QTRY_VERIFY_WITH_TIMEOUT(rows->text().contains(u"Rows of cells.csv: 3 = 0 used + 3"_s),
                                  PatienceMs);
         QVERIFY(readFile(flow.icon->layerFile()).contains("Azimuth"));
+        compareWithCommandLine(flow, path);
     }
 
     void warnsOfASystemThatDoesNotFitTheTable()
