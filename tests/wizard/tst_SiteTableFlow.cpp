@@ -7,6 +7,7 @@
 #include "wizard/LayerFlow.h"
 
 #include <QComboBox>
+#include <QTabWidget>
 #include <QTableView>
 #include <QToolButton>
 #include <QTreeView>
@@ -214,6 +215,44 @@ private Q_SLOTS:
         QTRY_COMPARE_WITH_TIMEOUT(problems->rowCount(), 1, PatienceMs);
         QVERIFY(problems->index(0, 2).data().toString().contains(u"in degrees, but"_s));
         QVERIFY(sign->isVisible());
+    }
+
+    void tabGoesThroughAnUnfoldedTable()
+    {
+        const QString path = m_dir.filePath(u"walked.csv"_s);
+        writeFile(path, "Site ID,Longitude,Latitude\nA,-33.8,151.2\nB,-33.7,151.1\n");
+        WizardOnSitePage flow;
+        dropFiles(flow.page, {path});
+        QTRY_VERIFY_WITH_TIMEOUT(flow.widget<QAbstractButton>(u"m_pwPbRejects"_s)->isEnabled(),
+                                 PatienceMs);
+        flow.widget<QTabWidget>(QString())->setCurrentIndex(0); // the columns
+        flow.wizard.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&flow.wizard, PatienceMs));
+        auto *first = flow.widget<QLineEdit>(u"m_pwLeSite"_s);
+        const QStringList stops = {
+            u"m_pwPbSite"_s,         u"m_pwPbCure"_s,       u"m_pwTbFold"_s,
+            u"m_pwPbReport"_s,       u"m_pwPbRejects"_s,    u"qt_tabwidget_tabbar"_s,
+            u"m_pwSbHeader"_s,       u"m_pwSbHeaderRows"_s, u"m_pwTrRoles"_s,
+            u"m_pwTvExcerpt"_s,      u"m_pCBSrs"_s,         u"m_pCBSrs"_s,
+            u"m_pwSbSectorHeight"_s, u"m_pwPbSymbolic"_s,   u"m_pwLeSite"_s};
+        const auto walk = [&](Qt::Key key) {
+            constexpr int Endless = 200;
+            QStringList passed;
+            first->setFocus();
+            for (int i = 0;
+                 i < Endless && (passed.isEmpty() || passed.constLast() != stops.constLast());
+                 ++i) {
+                QTest::keyClick(flow.wizard.focusWidget(), key);
+                if (stops.contains(flow.wizard.focusWidget()->objectName()))
+                    passed << flow.wizard.focusWidget()->objectName();
+            }
+            return passed;
+        };
+
+        QCOMPARE(walk(Qt::Key_Tab).join(u' '), stops.join(u' '));
+        QStringList back = stops;
+        std::reverse(back.begin(), back.end() - 1);
+        QCOMPARE(walk(Qt::Key_Backtab).join(u' '), back.join(u' '));
     }
 };
 

@@ -39,6 +39,25 @@ void VltCures::clear()
     showTable({}, {}, m_coordinates, false);
 }
 
+void VltCures::followInTabOrder(QWidget *widget)
+{
+    m_before = widget;
+    orderFocus();
+}
+
+/// Puts the buttons, which are created last, where they lie.
+void VltCures::orderFocus()
+{
+    QWidget *before = m_before;
+    for (int line = 0; before && line < m_ptVbLines->count(); ++line) {
+        auto *button = m_ptVbLines->itemAt(line)->widget()->findChild<QPushButton *>();
+        if (!button)
+            continue;
+        setTabOrder(before, button);
+        before = button;
+    }
+}
+
 void VltCures::rebuild()
 {
     // A button that is pressed rebuilds the lines, so it must not be deleted at once.
@@ -62,6 +81,7 @@ void VltCures::rebuild()
                 tr("Choose the table of sites...", "MESS_CHOOSE_END_SITES"),
                 QStringLiteral("m_pwPbSecond"), [this] { chooseSecond(); });
     setVisible(m_ptVbLines->count() > 0);
+    orderFocus();
 }
 
 void VltCures::addLine(const QString &text, const QString &action, const QString &objectName,

@@ -28,6 +28,9 @@ public:
     void showFindings(const QList<vlt::geodata::PositionFinding> &findings);
     void clear();
 
+    /// Sets the widget that Tab leaves for the first button.
+    void followInTabOrder(QWidget *widget);
+
 Q_SIGNALS:
     /// The user states something about the table.
     void mappingChosen(const vlt::contract::ColumnMapping &mapping);
@@ -37,6 +40,7 @@ private:
     void addLine(const QString &text, const QString &action, const QString &objectName,
                  const std::function<void()> &pressed);
     void chooseSecond();
+    void orderFocus();
 
     vlt::contract::TableKind m_kind;
     QVBoxLayout *m_ptVbLines;
@@ -45,4 +49,5 @@ private:
     vlt::tables::CoordinateKind m_coordinates = vlt::tables::CoordinateKind::Geographic;
     bool m_isLacking = false;
     QList<vlt::geodata::PositionFinding> m_findings;
+    QWidget *m_before = nullptr; ///< in the focus order
 };

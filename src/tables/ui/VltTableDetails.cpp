@@ -70,9 +70,9 @@ VltTableDetails::VltTableDetails(QWidget *parent)
     , m_pwPrChecking(new QProgressBar(this))
     , m_pwPbCancel(new QPushButton(tr("Cancel", "MESS_CANCEL"), this))
     , m_pwLblRemark(new QLabel(this))
+    , m_rows(new VltRowAccounts(this))
     , m_pwTwDetails(new QTabWidget(this))
     , m_mapping(new VltMappingPanel(this))
-    , m_rows(new VltRowAccounts(this))
     , m_problemModel(new QStandardItemModel(this))
 {
     buildHeading();

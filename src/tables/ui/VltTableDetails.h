@@ -142,9 +142,9 @@ private:
     QProgressBar *m_pwPrChecking;
     QPushButton *m_pwPbCancel;
     QLabel *m_pwLblRemark;
+    VltRowAccounts *m_rows; ///< before the tabs, as Tab goes
     QTabWidget *m_pwTwDetails;
     VltMappingPanel *m_mapping;
-    VltRowAccounts *m_rows;
     QStandardItemModel *m_problemModel;
     QTableView *m_pwTvProblems = nullptr;
     QList<vlt::Problem> m_fileProblems; ///< known without reading the rows

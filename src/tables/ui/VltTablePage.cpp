@@ -201,6 +201,7 @@ void VltTablePage::orderFocus()
         }
     }
     putInOrder(ordered);
+    m_cures->followInTabOrder(m_ui->m_pwPbTable);
 }
 
 /// Gives the input side a width at which it scrolls only vertically, unless the screen is too
