@@ -8,6 +8,7 @@
 #include "wizard/base/BusyWait.h"
 #include "wizard/base/Messages.h"
 
+#include <QComboBox>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLabel>
@@ -61,6 +62,17 @@ VltSrsSettings::VltSrsSettings(vlt::contract::TableKind kind, QWidget *parent)
     }
     connect(m_pwPbReadSrs, &QPushButton::clicked, this,
             &VltSrsSettings::getTargetEpsgCodeFromDataSource);
+}
+
+void VltSrsSettings::setNarrow(bool narrow)
+{
+    constexpr int Characters = 8;
+    for (const VltSrsChooser *chooser : {m_pwSource, m_pwTarget}) {
+        auto *combo = chooser->findChild<QComboBox *>();
+        const int frame = 2 * combo->sizeHint().height(); // with the arrow
+        const int few = Characters * combo->fontMetrics().averageCharWidth() + frame;
+        combo->setMinimumWidth(narrow ? few : 0); // 0: as much as it wants
+    }
 }
 
 void VltSrsSettings::setSourceSrs(const QString &systemText)

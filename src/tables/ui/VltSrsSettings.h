@@ -21,6 +21,9 @@ public:
     void setSourceSrs(const QString &systemText);
     void setTargetSrs(const QString &systemText);
 
+    /// Makes the minimum width of the choosers smaller, for a large font on a small screen.
+    void setNarrow(bool narrow);
+
     /// Sets the context of the choice: a search lists the systems that fit it first.
     void setContext(const vlt::srs::SrsContext &context);
 

@@ -217,8 +217,10 @@ void VltTablePage::fitInputWidth()
                style()->pixelMetric(QStyle::PM_ScrollBarExtent);
     };
     setStacked(false);
+    m_panelSrs->setNarrow(false);
     setStacked(wanted() > ComfortableShare * screenWidth);
     const int most = screenWidth - m_ui->m_ptVbResult->minimumSize().width() - WindowMargins;
+    m_panelSrs->setNarrow(wanted() > most);
     m_ui->m_pwSaInput->setMinimumWidth(qMin(wanted(), most));
 }
 
