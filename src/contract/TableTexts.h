@@ -128,6 +128,10 @@ inline constexpr auto TableTexts = std::to_array<Text>({
     {"MESS_TAB_DIGITS_LOST",
      "the value \"%1\" is read as a number: digits that a name needs are lost"},
 
+    // sites that cannot be read in full
+    {"MESS_TAB_UNUSED_AZIMUTHS",
+     "the azimuths in column \"%1\" are not used: the sectors have those in column \"%2\""},
+
     // links that cannot be read in full
     {"MESS_TAB_NO_HEIGHTS", "no columns with antenna heights above ground were recognised"},
     {"MESS_TAB_SEA_LEVEL",

@@ -1,6 +1,7 @@
 #include "RealTables.h"
 
 #include <QMap>
+#include <QRegularExpression>
 
 #include <algorithm>
 
@@ -69,6 +70,22 @@ private Q_SLOTS:
             QVERIFY2(found.contains(problem), qPrintable(problem));
     }
 
+    void reportsUnusedColumns_data() { addTables(u"sites"_s); }
+    void reportsUnusedColumns()
+    {
+        QFETCH(QJsonObject, table);
+        QStringList expected;
+        for (const auto &problem : table.value(u"problems"_s).toArray()) {
+            if (problem[u"kind"_s].toString() == u"unused"_s)
+                expected += problem[u"column"_s].toString();
+        }
+        const Warnings warnings;
+        const GDALDatasetUniquePtr dataset = open(table, "site:");
+        QVERIFY(dataset);
+
+        QCOMPARE(unusedColumnsOf(*dataset->GetLayer(0)), expected);
+    }
+
     void findsTheRoles_data() { addTables(u"sites"_s); }
     void findsTheRoles()
     {
@@ -99,6 +116,21 @@ private Q_SLOTS:
     }
 
 private:
+    /// The columns that the problems of a table name as not used.
+    static QStringList unusedColumnsOf(OGRLayer &layer)
+    {
+        static const QRegularExpression Unused(
+            u"^\\|\\|Warning\\|the azimuths in column \"(.*)\" are not used"_s);
+        QStringList columns;
+        char **items = layer.GetMetadata("problems");
+        for (char **item = items; item && *item; ++item) {
+            const auto match = Unused.match(QString::fromUtf8(*item).section(u'=', 1));
+            if (match.hasMatch())
+                columns += match.captured(1);
+        }
+        return columns;
+    }
+
     /// Columns by role, in the order of the table.
     static QMap<QString, QStringList> rolesOf(OGRLayer &layer)
     {
@@ -128,7 +160,7 @@ private:
     /// The kinds of problems that concern the positions of a table as a whole.
     static QStringList mistakesExpectedOf(const QJsonObject &table)
     {
-        static const QStringList Others = {u"value"_s, u"position"_s, u"conflict"_s};
+        static const QStringList Others = {u"value"_s, u"position"_s, u"conflict"_s, u"unused"_s};
         QStringList kinds;
         for (const auto &problem : table.value(u"problems"_s).toArray()) {
             const QString kind = problem.toObject().value(u"kind"_s).toString();

@@ -123,6 +123,8 @@ std::optional<JoinedSites> joinSectors(const TableProfile &table, SiteLayout &la
     const Sites sites = readSites(table, layout, *siteRows(), columns.siteField());
     JoinedSites joined = {
         sites.index, {columns.siteField(), columns.sectorField()}, roles.transmitters, {}};
+    for (const RowProblem &problem : roles.problems)
+        joined.problems.add(sectors.located(problem));
     SectorRows rows(sectors, columns.sectorField(), sites.byKey);
     if (!addTransmitters(rows, sectors, *sites.index, joined.problems))
         return std::nullopt;

@@ -204,6 +204,7 @@ void SiteLayer::addFileProblems(ProblemList &problems) const
 {
     if (!facts().sites().point.found())
         problems.add({0, {}, true, contract::formatted("MESS_TAB_NO_COORDINATES")});
+    problems.add(std::vector(facts().sites().roles.problems));
 }
 
 } // namespace vlt::driver

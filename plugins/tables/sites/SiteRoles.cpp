@@ -1,8 +1,10 @@
 #include "plugins/tables/sites/SiteRoles.h"
 
+#include "contract/TableTexts.h"
 #include "plugins/tables/roles/NameMatch.h"
 #include "plugins/tables/sites/SiteCandidates.h"
 
+#include <algorithm>
 #include <map>
 
 namespace vlt::driver {
@@ -26,6 +28,7 @@ public:
             m_roles.columns.push_back({chosen.field, chosen.role, chosen.owner,
                                        m_table.evidence(chosen.field, chosen.role)});
         fill(candidates.areNumbered, places);
+        reportUnusedAzimuths(candidates.list);
         addCoordinates();
         return std::move(m_roles);
     }
@@ -172,6 +175,45 @@ private:
         default:
             break;
         }
+    }
+
+    /// Reports the columns that are azimuths by name and values as well as those that are used: a
+    /// direction that is not drawn is easily overlooked.
+    void reportUnusedAzimuths(const std::vector<SiteCandidate> &candidates)
+    {
+        constexpr std::size_t MaxReported = 12;
+        constexpr double MinShareOfScore = 0.8;
+        const SiteCandidate *used = nullptr;
+        for (const SiteCandidate &candidate : candidates) {
+            if (candidate.role == Role::Azimuth && hasAzimuths(candidate.field) &&
+                (!used || candidate.score > used->score))
+                used = &candidate;
+        }
+        for (const SiteCandidate &candidate : candidates) {
+            if (!used || m_roles.problems.size() >= MaxReported)
+                return;
+            if (candidate.role != Role::Azimuth || hasAzimuths(candidate.field) ||
+                candidate.score < MinShareOfScore * used->score ||
+                m_table.facts(candidate.field).numeric == 0 ||
+                m_table.cells(candidate.field) == m_table.cells(used->field))
+                continue;
+            const auto name = [this](int field) {
+                return m_table.profile().fields[static_cast<std::size_t>(field)].name;
+            };
+            m_roles.problems.push_back(
+                {0,
+                 {},
+                 false,
+                 contract::formatted("MESS_TAB_UNUSED_AZIMUTHS",
+                                     {name(candidate.field), name(used->field)})});
+        }
+    }
+
+    bool hasAzimuths(int field) const
+    {
+        return std::any_of(
+            m_roles.transmitters.begin(), m_roles.transmitters.end(),
+            [field](const TransmitterFields &of) { return of.azimuth.field == field; });
     }
 
     bool holdsLists(const QuantityField &field)

@@ -3,6 +3,7 @@
 #include "plugins/tables/roles/ColumnFacts.h"
 #include "plugins/tables/roles/Role.h"
 #include "plugins/tables/sites/CoordinateColumns.h"
+#include "plugins/tables/table/RowProblem.h"
 #include "plugins/tables/values/Quantity.h"
 
 #include <string>
@@ -53,6 +54,7 @@ struct SiteRoles
     QuantityField groundHeight;
     std::vector<TransmitterFields> transmitters; ///< by number; one for Lists and Tall
     std::vector<ColumnRole> columns;             ///< by field
+    std::vector<RowProblem> problems;            ///< of the whole table
 };
 
 /// Finds the roles by the words of the header and by the sampled values, as far as they are not

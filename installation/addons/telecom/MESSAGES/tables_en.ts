@@ -951,5 +951,9 @@
         <source>repaired: the position "%1" is corrected to %2</source>
         <translation>repaired: the position "%1" is corrected to %2</translation>
     </message>
+    <message id="MESS_TAB_UNUSED_AZIMUTHS">
+        <source>the azimuths in column "%1" are not used: the sectors have those in column "%2"</source>
+        <translation>the azimuths in column "%1" are not used: the sectors have those in column "%2"</translation>
+    </message>
 </context>
 </TS>

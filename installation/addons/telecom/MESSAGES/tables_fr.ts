@@ -951,5 +951,9 @@
         <source>repaired: the position "%1" is corrected to %2</source>
         <translation>réparé&#xa0;: la position «&#xa0;%1&#xa0;» est corrigée en %2</translation>
     </message>
+    <message id="MESS_TAB_UNUSED_AZIMUTHS">
+        <source>the azimuths in column "%1" are not used: the sectors have those in column "%2"</source>
+        <translation>les azimuts de la colonne «&#xa0;%1&#xa0;» ne sont pas utilisés&#xa0;: les secteurs ont ceux de la colonne «&#xa0;%2&#xa0;»</translation>
+    </message>
 </context>
 </TS>
