@@ -233,6 +233,10 @@ void Vocabulary::addPartsOfNames(const Json &root)
         ++sector;
         forEachText(names, [&](const std::string &n) { m_sectorNames.emplace(folded(n), sector); });
     }
+    for (const Json &words : sectionOf(root, "sequences")) {
+        std::vector<std::string> &sequence = m_sequences.emplace_back();
+        forEachText(words, [&](const std::string &w) { sequence.push_back(joined(nameWords(w))); });
+    }
 }
 
 void Vocabulary::addSystems(const Json &root)
@@ -339,6 +343,17 @@ int Vocabulary::numberOfSectorName(std::string_view word) const
 {
     const auto found = m_sectorNames.find(folded(word));
     return found == m_sectorNames.end() ? 0 : found->second;
+}
+
+std::vector<SequencePlace> Vocabulary::placesInSequences(std::string_view joinedWords) const
+{
+    std::vector<SequencePlace> places;
+    for (std::size_t i = 0; i < m_sequences.size(); ++i) {
+        const auto found = std::find(m_sequences[i].begin(), m_sequences[i].end(), joinedWords);
+        if (found != m_sequences[i].end())
+            places.push_back({i, static_cast<int>(found - m_sequences[i].begin()) + 1});
+    }
+    return places;
 }
 
 void ValueWordSet::insert(std::string_view word)

@@ -67,6 +67,15 @@ struct NamedSystem
     std::vector<std::vector<std::string>> names; ///< the words of each, as nameWords() gives them
 };
 
+/// The place of a word in one of the sequences that number columns: I, II, III.
+struct SequencePlace
+{
+    std::size_t sequence = 0;
+    int number = 0; ///< from 1
+
+    bool operator==(const SequencePlace &) const = default;
+};
+
 /// Words that values of cells may be, whatever their case and accents.
 class ValueWordSet
 {
@@ -108,6 +117,9 @@ public:
     bool isOmni(std::string_view text) const { return m_omni.contains(text); }
     /// The number of a sector from its name: alpha is 1. 0 for other words.
     int numberOfSectorName(std::string_view word) const;
+    /// The places of folded words written together, such as "ii" or "1st", in the sequences that
+    /// number columns.
+    std::vector<SequencePlace> placesInSequences(std::string_view joinedWords) const;
     /// The systems of countries, those of a user first.
     const std::vector<NamedSystem> &systems() const { return m_systems; }
 
@@ -144,9 +156,10 @@ private:
     ValueWordSet m_missing;
     ValueWordSet m_totals;
     ValueWordSet m_omni;
-    std::unordered_map<std::string, int> m_sectorNames; ///< folded
-    std::vector<std::string> m_languages;               ///< in the order of their bits
-    std::uint32_t m_westO = 0;                          ///< languages in which O is west
+    std::unordered_map<std::string, int> m_sectorNames;          ///< folded
+    std::vector<std::vector<std::string>> m_sequences;           ///< folded words written together
+    std::vector<std::string> m_languages;                        ///< in the order of their bits
+    std::uint32_t m_westO = 0;                                   ///< languages in which O is west
     std::uint32_t m_eastO = 0;
     HemisphereWords m_hemispheres;
     std::vector<NamedSystem> m_systems;

@@ -8,6 +8,7 @@
 #include <map>
 #include <numeric>
 #include <set>
+#include <tuple>
 
 namespace vlt::driver {
 
@@ -43,6 +44,8 @@ public:
         addCounter();
         dropStated();
         numberRepeatedNames();
+        numberSequences();
+        numberFirstOfSeries();
         const bool areNumbered = dropNumbersOfOthers();
         return {std::move(m_candidates), areNumbered};
     }
@@ -232,6 +235,84 @@ private:
             int number = 0;
             for (SiteCandidate *candidate : same)
                 candidate->owner = ++number;
+        }
+    }
+
+    /// Numbers columns of transmitters whose names differ by the words of a sequence alone: X, Y,
+    /// Z.
+    void numberSequences()
+    {
+        constexpr std::size_t MaxWords = 2; // "1st" is two words
+        using Key = std::tuple<Role, std::size_t, std::string>;
+        std::map<Key, std::map<int, SiteCandidate *>> columns; // by number
+        for (SiteCandidate &candidate : m_candidates) {
+            if (!isRoleOfTransmitter(candidate.role) || candidate.owner >= 0 || candidate.isStated)
+                continue;
+            const std::vector<std::string> &words = m_table.words(candidate.field);
+            for (std::size_t first = 0; first < words.size(); ++first) {
+                std::string joined;
+                for (std::size_t end = first; end < words.size() && end < first + MaxWords; ++end) {
+                    joined += words[end];
+                    for (const SequencePlace &of : m_table.vocabulary().placesInSequences(joined))
+                        columns[{candidate.role, of.sequence, without(words, first, end + 1)}]
+                            .emplace(of.number, &candidate);
+                }
+            }
+        }
+        for (const auto &[key, byNumber] : columns) {
+            if (byNumber.size() < 2 || byNumber.begin()->first != 1)
+                continue;
+            for (const auto &[number, candidate] : byNumber)
+                candidate->owner = candidate->owner < 0 ? number : candidate->owner;
+        }
+    }
+
+    /// The words without those from `first` to `end`, whose place is marked.
+    static std::string without(const std::vector<std::string> &words, std::size_t first,
+                               std::size_t end)
+    {
+        std::string rest;
+        for (std::size_t at = 0; at < words.size(); ++at) {
+            if (at < first || at >= end)
+                rest += words[at] + ' ';
+            else if (at == first)
+                rest += "* ";
+        }
+        return rest;
+    }
+
+    /// Numbers the first column of a series if it alone has no number: Azimuth, Azimuth.1. Other
+    /// roles follow the azimuths: one height may be that of all transmitters.
+    void numberFirstOfSeries()
+    {
+        std::map<std::pair<Role, std::string>, int> lowest; // by name without number
+        for (const SiteCandidate &candidate : m_candidates) {
+            const std::vector<std::string> &words = m_table.words(candidate.field);
+            const auto at = std::find(words.begin(), words.end(), std::to_string(candidate.owner));
+            if (candidate.isStated || at == words.end())
+                continue;
+            std::string name;
+            for (auto word = words.begin(); word != words.end(); ++word)
+                name += word == at ? std::string() : *word + ' ';
+            const auto [of, isNew] = lowest.try_emplace({candidate.role, name}, candidate.owner);
+            of->second = std::min(of->second, candidate.owner);
+        }
+        int first = -1;
+        for (const bool ofAzimuths : {true, false}) {
+            for (SiteCandidate &candidate : m_candidates) {
+                const bool isAzimuth = candidate.role == Role::Azimuth;
+                if (isAzimuth != ofAzimuths || candidate.owner >= 0 || candidate.isStated)
+                    continue;
+                std::string name;
+                for (const std::string &word : m_table.words(candidate.field))
+                    name += word + ' ';
+                const auto of = lowest.find({candidate.role, name});
+                const int before = of == lowest.end() ? -1 : of->second - 1;
+                if (isAzimuth && first < 0 && (before == 0 || before == 1))
+                    first = before;
+                if (before >= 0 && before == first)
+                    candidate.owner = first;
+            }
         }
     }
 
