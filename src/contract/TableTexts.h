@@ -131,6 +131,8 @@ inline constexpr auto TableTexts = std::to_array<Text>({
     // sites that cannot be read in full
     {"MESS_TAB_UNUSED_AZIMUTHS",
      "the azimuths in column \"%1\" are not used: the sectors have those in column \"%2\""},
+    {"MESS_TAB_WHOLE_DEGREES", "the coordinates in columns \"%1\" and \"%2\" are whole degrees: "
+                               "their minutes and seconds may be missing"},
 
     // links that cannot be read in full
     {"MESS_TAB_NO_HEIGHTS", "no columns with antenna heights above ground were recognised"},

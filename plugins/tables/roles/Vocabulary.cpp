@@ -212,6 +212,13 @@ void Vocabulary::addPartsOfNames(const Json &root)
         if (const Json *texts = memberOf(parts, name))
             addTo(*texts, [part = part](WordMeaning &meaning) { meaning.part = part; });
     }
+    const Json signs = sectionOf(root, "partSigns");
+    for (const auto &[name, part] : Parts) {
+        if (const Json *texts = memberOf(signs, name))
+            forEachText(*texts, [this, of = part](const std::string &sign) {
+                m_partSigns.emplace(folded(sign), of);
+            });
+    }
     const Json ends = sectionOf(root, "ends");
     if (const Json *texts = memberOf(ends, "a"))
         addTo(*texts, [](WordMeaning &meaning) { meaning.isEndA = true; });
@@ -343,6 +350,12 @@ int Vocabulary::numberOfSectorName(std::string_view word) const
 {
     const auto found = m_sectorNames.find(folded(word));
     return found == m_sectorNames.end() ? 0 : found->second;
+}
+
+std::optional<CoordinatePart> Vocabulary::partOfSign(std::string_view sign) const
+{
+    const auto found = m_partSigns.find(folded(sign));
+    return found == m_partSigns.end() ? std::nullopt : std::optional(found->second);
 }
 
 std::vector<SequencePlace> Vocabulary::placesInSequences(std::string_view joinedWords) const

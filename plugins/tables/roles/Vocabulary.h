@@ -115,6 +115,9 @@ public:
     bool isTotal(std::string_view text) const { return m_totals.contains(text); }
     /// Whether a text in a column of azimuths means all directions.
     bool isOmni(std::string_view text) const { return m_omni.contains(text); }
+    /// The part of a coordinate for which a letter or sign at the end of a name stands, if the
+    /// names beside it end in the others: D, M, S.
+    std::optional<CoordinatePart> partOfSign(std::string_view sign) const;
     /// The number of a sector from its name: alpha is 1. 0 for other words.
     int numberOfSectorName(std::string_view word) const;
     /// The places of folded words written together, such as "ii" or "1st", in the sequences that
@@ -157,6 +160,7 @@ private:
     ValueWordSet m_totals;
     ValueWordSet m_omni;
     std::unordered_map<std::string, int> m_sectorNames;          ///< folded
+    std::unordered_map<std::string, CoordinatePart> m_partSigns; ///< folded
     std::vector<std::vector<std::string>> m_sequences;           ///< folded words written together
     std::vector<std::string> m_languages;                        ///< in the order of their bits
     std::uint32_t m_westO = 0;                                   ///< languages in which O is west

@@ -2,6 +2,7 @@
 
 #include "plugins/tables/cells/GroupedNumber.h"
 #include "plugins/tables/roles/NameMatch.h"
+#include "plugins/tables/sites/CoordinateNames.h"
 #include "plugins/tables/sites/CoordinateScale.h"
 #include "plugins/tables/values/Angle.h"
 #include "plugins/tables/values/CoordinatePair.h"
@@ -17,62 +18,7 @@ using Words = std::vector<std::string>;
 
 constexpr double MaxDegrees = 360;
 
-/// The meaning of a column name for coordinates.
-struct CoordinateName
-{
-    enum class Family { None, Geographic, Projected, Bare };
-
-    Family family = Family::None;
-    Axis axis = Axis::X;
-    CoordinatePart part = CoordinatePart::Whole;
-    int strength = 0; ///< higher for a name with fewer other words
-    std::string rest; ///< the other words, which are the same for both coordinates of a position
-};
-
 using Family = CoordinateName::Family;
-
-Family familyOf(Role role)
-{
-    switch (role) {
-    case Role::Longitude:
-    case Role::Latitude:
-        return Family::Geographic;
-    case Role::Easting:
-    case Role::Northing:
-        return Family::Projected;
-    case Role::X:
-    case Role::Y:
-        return Family::Bare;
-    default:
-        return Family::None;
-    }
-}
-
-Axis axisOf(Role role)
-{
-    return role == Role::Longitude || role == Role::Easting || role == Role::X ? Axis::X : Axis::Y;
-}
-
-/// Whether one of the words names a sector: its coordinates are not those of the site.
-bool namesSector(const Words &words, const Vocabulary &vocabulary)
-{
-    return std::any_of(words.begin(), words.end(), [&](const std::string &word) {
-        return word.size() > 1 && vocabulary.isSectorWord(word);
-    });
-}
-
-CoordinateName readName(const Words &words, const Vocabulary &vocabulary)
-{
-    CoordinateName best;
-    for (const NameMatch &match : matchName(words, vocabulary)) {
-        const Family family = familyOf(match.role);
-        if (family == Family::None || match.strength <= best.strength ||
-            (match.sector >= 0 && namesSector(words, vocabulary)))
-            continue;
-        best = {family, axisOf(match.role), match.part, match.strength, match.rest};
-    }
-    return best;
-}
 
 /// A column with the hemisphere of a coordinate needs no word for the coordinate: "N/S", "EW".
 std::optional<Axis> axisOfHemispheres(const Words &words)
@@ -153,7 +99,7 @@ std::vector<CoordinateName> readNames(const FieldWords &words, const std::vector
         if (const std::optional<Axis> axis = axisOfHemispheres(*words[i]))
             names[i] = {Family::Bare, *axis, CoordinatePart::Hemisphere, 1, {}};
         else
-            names[i] = readName(*words[i], vocabulary);
+            names[i] = readCoordinateName(*words[i], vocabulary);
         // a bare letter but X and Y, such as E, is a coordinate only if its values are in metres
         if (isBareLetter(*words[i]) &&
             unitOfSamples(fields[i], names[i].axis).unit() != CoordinateUnit::Meters)
@@ -163,6 +109,7 @@ std::vector<CoordinateName> readNames(const FieldWords &words, const std::vector
             !holdsHemispheres(fields[i], names[i].axis))
             names[i].part = CoordinatePart::Whole;
     }
+    readNeighbouringParts(names, words, fields, vocabulary);
     return names;
 }
 
@@ -433,6 +380,17 @@ bool holdsPositions(const PointFields &point, const std::vector<Field> &fields)
         return sampled.readable > 0 && sampled.readable * 2 >= field.samples.size();
     };
     return point.pair >= 0 || (point.found() && holds(point.x, Axis::X) && holds(point.y, Axis::Y));
+}
+
+bool areWholeDegrees(const PointFields &point, const std::vector<Field> &fields)
+{
+    constexpr std::size_t MinSamples = 4;
+    const auto areWhole = [&fields](const CoordinateFields &of) {
+        const Field &field = fields[static_cast<std::size_t>(of.value)];
+        return field.samples.size() >= MinSamples && areWholeNumbersBelow(MaxDegrees / 2, field);
+    };
+    return point.pair < 0 && point.found() && !point.x.inParts() && !point.y.inParts() &&
+           areWhole(point.x) && areWhole(point.y);
 }
 
 CoordinateUnit findUnit(const PointFields &point, const std::vector<Field> &fields,

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "plugins/tables/roles/Vocabulary.h"
+#include "plugins/tables/sites/CoordinateNames.h"
 #include "plugins/tables/sites/StatedRoles.h"
 #include "plugins/tables/table/Table.h"
 #include "plugins/tables/values/Angle.h"
@@ -79,9 +79,6 @@ struct PointFields
     int yField() const { return pair >= 0 ? pair : y.value; }
 };
 
-/// The words in the name of each field of a table; nothing for a field that is not considered.
-using FieldWords = std::vector<std::optional<std::vector<std::string>>>;
-
 /// Recognises the fields of a position among those that have words, unless its x, y or pair is
 /// stated.
 PointFields findPoint(const FieldWords &words, const std::vector<Field> &fields,
@@ -92,6 +89,9 @@ LetterO findLetterO(const PointFields &point, const std::vector<Field> &fields, 
 
 /// Whether the values of the fields are positions, at least half of them.
 bool holdsPositions(const PointFields &point, const std::vector<Field> &fields);
+
+/// Whether the samples of both coordinates are whole degrees, each in a single column.
+bool areWholeDegrees(const PointFields &point, const std::vector<Field> &fields);
 
 /// The unit of the coordinates of a position, from the names and samples of its fields.
 CoordinateUnit findUnit(const PointFields &point, const std::vector<Field> &fields,

@@ -1,5 +1,6 @@
 #include "plugins/tables/sites/SiteLayout.h"
 
+#include "contract/TableTexts.h"
 #include "plugins/tables/roles/NameMatch.h"
 #include "plugins/tables/table/HeaderWords.h"
 
@@ -78,6 +79,17 @@ SiteLayout recogniseSiteLayout(const TableProfile &table, const Vocabulary &voca
     layout.unit = findUnit(layout.point, table.fields, vocabulary);
     layout.epsg = findEpsg(table, layout.point, layout.unit);
     layout.roles = findSiteRoles(table, layout.point, vocabulary, stated);
+    if (layout.unit == CoordinateUnit::Degrees && areWholeDegrees(layout.point, table.fields)) {
+        const auto name = [&table](int field) {
+            return table.fields[static_cast<std::size_t>(field)].name;
+        };
+        layout.roles.problems.push_back(
+            {0,
+             {},
+             false,
+             contract::formatted("MESS_TAB_WHOLE_DEGREES",
+                                 {name(layout.point.xField()), name(layout.point.yField())})});
+    }
     return layout;
 }
 
