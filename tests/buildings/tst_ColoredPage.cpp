@@ -5,6 +5,11 @@
 #include "support/Patience.h"
 #include "support/PrivateSettings.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QMimeData>
+#include <QUrl>
+
 #include <gdal_priv.h>
 
 using namespace layerpage;
@@ -138,6 +143,12 @@ private Q_SLOTS:
         QTRY_VERIFY_WITH_TIMEOUT(page.icon()->isEnabled(), PatienceMs);
         QVERIFY(QDir(m_dir.path()).mkpath(u"kept"_s));
         const FileDialogAnswer dialog(path(u"kept/mine.lay"_s));
+
+        QTest::keyClick(page.icon(), Qt::Key_C, Qt::ControlModifier);
+        QStringList copied;
+        for (const QUrl &url : QGuiApplication::clipboard()->mimeData()->urls())
+            copied << QFileInfo(url.toLocalFile()).suffix();
+        QCOMPARE(copied, QStringList({u"lay"_s, u"texb"_s, u"png"_s}));
 
         QTest::keyClick(page.icon(), Qt::Key_S, Qt::ControlModifier);
         page.choose(u"m_pwCbMode"_s, 1);

@@ -250,6 +250,10 @@ private Q_SLOTS:
         QCOMPARE(target.offered, Qt::LinkAction);
         QTest::keySequence(&icon, QKeySequence::Copy);
         QCOMPARE(QGuiApplication::clipboard()->mimeData()->urls(), expected);
+        icon.setCompanions({u"/t/a b.texb"_s});
+        QTest::keySequence(&icon, QKeySequence::Copy);
+        QCOMPARE(QGuiApplication::clipboard()->mimeData()->urls(),
+                 expected + QList{QUrl::fromLocalFile(u"/t/a b.texb"_s)});
 
         icon.setLayerFile(u"./c.lay"_s); // relative, as without a temporary directory
         QTest::keySequence(&icon, QKeySequence::Copy);

@@ -149,6 +149,10 @@ bool VltBuildingLayerPage::followsChanges() const
 
 void VltBuildingLayerPage::showLayer(const QString &path)
 {
+    QStringList companions{m_files.document};
+    if (!m_files.legend.isEmpty())
+        companions << m_files.legend;
+    dragIcon()->setCompanions(companions);
     layerWritten(m_files);
     m_preview->showLayer(path, m_source.project);
 }

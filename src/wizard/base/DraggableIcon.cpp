@@ -47,6 +47,7 @@ DraggableIcon::DraggableIcon(const QPixmap &pixmap, QWidget *parent, Qt::WindowF
 void DraggableIcon::setLayerFile(const QString &path)
 {
     m_layerFile = path;
+    m_companions.clear();
     setEnabled(!path.isEmpty());
     setCursor(path.isEmpty() ? Qt::ArrowCursor : Qt::OpenHandCursor);
     if (!path.isEmpty())
@@ -86,12 +87,14 @@ QPixmap DraggableIcon::dragImage(const QPixmap &pixmap)
                : pixmap.scaledToHeight(length, Qt::FastTransformation);
 }
 
-QMimeData *DraggableIcon::layerData() const
+QMimeData *DraggableIcon::dataOf(const QStringList &files)
 {
-    auto *layer = new QMimeData;
-    // The path is absolute: the receiver may have another working directory.
-    layer->setUrls({QUrl::fromLocalFile(QDir::current().absoluteFilePath(m_layerFile))});
-    return layer;
+    QList<QUrl> urls;
+    for (const QString &file : files) // absolute: the receiver may have another working directory
+        urls << QUrl::fromLocalFile(QDir::current().absoluteFilePath(file));
+    auto *data = new QMimeData;
+    data->setUrls(urls);
+    return data;
 }
 
 void DraggableIcon::mouseMoveEvent(QMouseEvent *event)
@@ -100,7 +103,7 @@ void DraggableIcon::mouseMoveEvent(QMouseEvent *event)
         return;
     const QPixmap image = dragImage(pixmap());
     auto *drag = new QDrag(this);
-    drag->setMimeData(layerData());
+    drag->setMimeData(dataOf({m_layerFile}));
     drag->setPixmap(image);
     const QSize size = image.deviceIndependentSize().toSize();
     drag->setHotSpot({size.width() / 2, size.height() / 2});
@@ -163,7 +166,7 @@ void DraggableIcon::openMenu(const QPoint &position)
 
 void DraggableIcon::copyToClipboard() const
 {
-    QGuiApplication::clipboard()->setMimeData(layerData());
+    QGuiApplication::clipboard()->setMimeData(dataOf(QStringList(m_layerFile) + m_companions));
     QToolTip::showText(mapToGlobal(rect().bottomLeft()), tr("Copied", "MESS_COPIED"));
 }
 

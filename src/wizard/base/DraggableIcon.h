@@ -14,7 +14,8 @@ class QMimeData;
 /// The icon of the finished layer file, which the user drags into the builder. It is disabled until
 /// there is a file; a new file makes it bounce.
 ///
-/// Users without a mouse copy the file with Ctrl+C or from the context menu.
+/// Users without a mouse copy the file with Ctrl+C or from the context menu. Copied are also the
+/// files that the layer names, so that it is complete where it is pasted as files.
 class DraggableIcon : public QLabel
 {
     Q_OBJECT
@@ -25,8 +26,12 @@ public:
     explicit DraggableIcon(const QPixmap &pixmap, QWidget *parent = nullptr,
                            Qt::WindowFlags flags = {});
 
-    /// Sets the file to drag; an empty path disables the icon.
+    /// Sets the file to drag; an empty path disables the icon. The layer has no companions then.
     void setLayerFile(const QString &path);
+
+    /// Sets the files that are copied together with the layer file.
+    void setCompanions(const QStringList &paths) { m_companions = paths; }
+
     const QString &layerFile() const { return m_layerFile; }
 
     /// Saves the layer with all files that it names.
@@ -52,7 +57,7 @@ protected:
     void contextMenuEvent(QContextMenuEvent *event) override;
 
 private:
-    QMimeData *layerData() const;
+    static QMimeData *dataOf(const QStringList &files);
     void copyToClipboard() const;
     void saveAs();
     vlt::Result<vlt::Done> copyTo(const QString &target) const;
@@ -61,6 +66,7 @@ private:
     void endAttention();
 
     QString m_layerFile;
+    QStringList m_companions;
     Saver m_saver;
     QPropertyAnimation m_attention;
     int m_radius = 0;
