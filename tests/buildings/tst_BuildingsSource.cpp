@@ -276,7 +276,7 @@ private Q_SLOTS:
     void takesDropsAndTypedPaths()
     {
         Host host;
-        const AnsweredBoxes boxes;
+        AnsweredBoxes boxes;
         dropFiles(host.page, {grid()});
         QCOMPARE(host.dtm()->text(), grid());
         QCOMPARE(host.buildings()->text(), QString());
@@ -285,6 +285,17 @@ private Q_SLOTS:
         QCOMPARE(host.dtm()->text(), grid());
         QVERIFY2(host.info(u"Dtm"_s).startsWith(u"2 \u00d7 2 pixels"_s),
                  qPrintable(host.info(u"Dtm"_s)));
+
+        dropFiles(host.page, {write(u"notes.txt"_s, "no buildings")});
+        dropFiles(host.page, {write(u"p.geojson"_s, features({Point}))});
+        QCOMPARE(boxes.seen.size(), 2);
+        QCOMPARE(host.buildings()->text(), plain());
+        QCOMPARE(host.layer()->count(), 1);
+        QVERIFY(host.canGoOn());
+        dropFiles(host.page, {twoLayers()});
+        QCOMPARE(host.buildings()->text(), twoLayers());
+        QCOMPARE(host.layer()->count(), 2);
+        boxes.seen.clear();
 
         host.buildings()->setText(file(u"gone.shp"_s)); // unfinished path: no message
         host.noData()->setFocus();

@@ -8,6 +8,9 @@
 #include <QComboBox>
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
+#include <QThreadPool>
+
+#include <utility>
 
 using namespace vlt;
 
@@ -33,38 +36,61 @@ void FootprintPicker::open(const QString &path, bool silent)
     if (m_isBusy)
         return;
     const QScopedValueRollback busy(m_isBusy, true);
-    using Opened = Result<std::shared_ptr<geodata::PolygonSource>>;
     // The previous source is closed on the other thread too: that is slow if its features are in
     // memory.
     const auto previous = std::make_shared<std::shared_ptr<geodata::PolygonSource>>(m_source);
     clear();
     if (path.isEmpty())
         return;
+    const auto close = [previous] { previous->reset(); };
+    offerLayers(path, read(path, silent, close));
+}
+
+void FootprintPicker::openDropped(const QString &path)
+{
+    if (m_isBusy)
+        return;
+    const QScopedValueRollback busy(m_isBusy, true);
+    std::shared_ptr<geodata::PolygonSource> opened = read(path, false, [] {});
+    if (!opened)
+        return;
+    QThreadPool::globalInstance()->start([previous = std::move(m_source)] {}); // may be slow
+    clear();
+    offerLayers(path, std::move(opened));
+}
+
+std::shared_ptr<geodata::PolygonSource>
+FootprintPicker::read(const QString &path, bool silent, const std::function<void()> &before) const
+{
+    using Opened = Result<std::shared_ptr<geodata::PolygonSource>>;
     const auto opened = wizard::waitForValue<Opened>(
-        page(), tr("Reading the buildings...", "MESS_READING_BUILDINGS"), [path, previous] {
-            previous->reset();
+        page(), tr("Reading the buildings...", "MESS_READING_BUILDINGS"), [path, before] {
+            before();
             return geodata::PolygonSource::open(path);
         });
     if (!opened)
-        return;
+        return nullptr;
     if (!*opened) {
         if (!silent)
             messages::critical(page(), opened->error(), messages::errorTitle(),
                                messages::PathPlace::BelowText);
-        return;
+        return nullptr;
     }
     if (opened->value()->layers().isEmpty()) {
         messages::critical(page(),
                            {QStringLiteral("MESS_ERR_NOPOLY_LAY"),
                             QStringLiteral("This datasource doesn't contain any polygon layer")});
-        return;
+        return nullptr;
     }
-    m_source = opened->value();
-    offerLayers(path);
+    return opened->value();
 }
 
-void FootprintPicker::offerLayers(const QString &path)
+void FootprintPicker::offerLayers(const QString &path,
+                                  std::shared_ptr<geodata::PolygonSource> source)
 {
+    m_source = std::move(source);
+    if (!m_source)
+        return;
     {
         const QSignalBlocker quiet(m_widgets.layer); // the list would choose its first entry
         for (const geodata::PolygonLayer &layer : m_source->layers())

@@ -3,6 +3,7 @@
 #include "buildings/ui/PathPicker.h"
 #include "geodata/PolygonSource.h"
 
+#include <functional>
 #include <memory>
 
 class QComboBox;
@@ -29,6 +30,10 @@ public:
     /// @param silent  without a box if the file cannot be opened
     void open(const QString &path, bool silent);
 
+    /// Opens a vector file that was dropped. One that cannot be used is reported and leaves the
+    /// current one.
+    void openDropped(const QString &path);
+
     /// Adds the fields of a layer to the list of fields and finds its extent. A negative index
     /// empties the list of layers.
     void chooseLayer(int index);
@@ -44,7 +49,13 @@ public:
 
 private:
     void clear();
-    void offerLayers(const QString &path);
+    /// Opens a file beside the interface; null if it cannot be used, which a message box reports.
+    ///
+    /// @param before  called on the other thread first
+    std::shared_ptr<vlt::geodata::PolygonSource> read(const QString &path, bool silent,
+                                                      const std::function<void()> &before) const;
+    /// Makes a source the current one and shows its layers; null leaves none.
+    void offerLayers(const QString &path, std::shared_ptr<vlt::geodata::PolygonSource> source);
     void readExtent(int index);
 
     Widgets m_widgets;

@@ -294,11 +294,11 @@ void VltAddTexbFirstPage::droppedFile(const QString &path)
     if (*terrain) {
         m_lastUsedDir = QFileInfo(path).absolutePath();
         m_terrain->show(path, *terrain);
-    } else if (geodata::isVirtualRaster(path)) // keep the buildings open
+    } else if (geodata::isVirtualRaster(path))
         buildings::warnOfRaster(this, buildings::RasterProblem::CannotOpen, path,
                                 terrain->error().detail);
     else
-        openVector(path, false);
+        m_footprints->openDropped(path);
 }
 
 void VltAddTexbFirstPage::openVector(const QString &path, bool silent)
