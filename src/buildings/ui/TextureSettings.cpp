@@ -17,6 +17,13 @@ const QString UnitKey = QStringLiteral("unit_%1");
 const QString UsedKey = QStringLiteral("used_%1");
 const QString DescriptionKey = QStringLiteral("description_%1");
 
+/// Number of entries; a damaged one must not block the page.
+qsizetype entryCount(const QSettings &settings)
+{
+    return std::min<qsizetype>(settings.value(FileCountKey, 0).toInt(),
+                               settings.childKeys().size());
+}
+
 FileEntry readEntry(const QSettings &settings, qsizetype n)
 {
     const auto value = [&settings, n](const QString &key, const QVariant &absent) {
@@ -32,16 +39,32 @@ FileEntry readEntry(const QSettings &settings, qsizetype n)
 
 void writeEntry(QSettings &settings, qsizetype n, const FileEntry &entry)
 {
-    settings.setValue(FullPathKey.arg(n), entry.file.filePath());
-    settings.setValue(ShortNameKey.arg(n), entry.shortName);
-    settings.setValue(HeightKey.arg(n), entry.height);
-    settings.setValue(UnitKey.arg(n), entry.unit);
-    settings.setValue(UsedKey.arg(n),
-                      entry.used ? QStringLiteral("true") : QStringLiteral("false"));
-    settings.setValue(DescriptionKey.arg(n), entry.description);
+    change(settings, FullPathKey.arg(n), entry.file.filePath());
+    change(settings, ShortNameKey.arg(n), entry.shortName);
+    change(settings, HeightKey.arg(n), entry.height);
+    change(settings, UnitKey.arg(n), entry.unit);
+    change(settings, UsedKey.arg(n), entry.used ? QStringLiteral("true") : QStringLiteral("false"));
+    change(settings, DescriptionKey.arg(n), entry.description);
+}
+
+void removeEntries(QSettings &settings, qsizetype first)
+{
+    const qsizetype end = entryCount(settings);
+    for (qsizetype n = first; n < end; ++n) {
+        for (const QString *key :
+             {&FullPathKey, &ShortNameKey, &HeightKey, &UnitKey, &UsedKey, &DescriptionKey})
+            settings.remove(key->arg(n));
+    }
 }
 
 } // namespace
+
+void change(QSettings &settings, const QString &key, const QVariant &value)
+{
+    const QVariant stored = settings.value(key);
+    if (!stored.isValid() || stored.toString() != value.toString())
+        settings.setValue(key, value);
+}
 
 TextureSettings readTextureSettings(QSettings &settings)
 {
@@ -49,9 +72,7 @@ TextureSettings readTextureSettings(QSettings &settings)
     TextureSettings textures;
     textures.dataStructure = settings.value(DataStructureKey, 0).toInt();
     textures.filter = settings.value(FilterKey).toString();
-    // A damaged count must not block the page.
-    const qsizetype count =
-        std::min<qsizetype>(settings.value(FileCountKey, 0).toInt(), settings.childKeys().size());
+    const qsizetype count = entryCount(settings);
     for (qsizetype n = 0; n < count; ++n) {
         const FileEntry entry = readEntry(settings, n);
         if (!entry.file.filePath().isEmpty())
@@ -63,11 +84,11 @@ TextureSettings readTextureSettings(QSettings &settings)
 
 void writeTextureSettings(QSettings &settings, const TextureSettings &textures)
 {
-    settings.remove(Group);
     settings.beginGroup(Group);
-    settings.setValue(DataStructureKey, textures.dataStructure);
-    settings.setValue(FilterKey, textures.filter);
-    settings.setValue(FileCountKey, static_cast<int>(textures.files.size()));
+    removeEntries(settings, textures.files.size());
+    change(settings, DataStructureKey, textures.dataStructure);
+    change(settings, FilterKey, textures.filter);
+    change(settings, FileCountKey, static_cast<int>(textures.files.size()));
     for (qsizetype n = 0; n < textures.files.size(); ++n)
         writeEntry(settings, n, textures.files.at(n));
     settings.endGroup();

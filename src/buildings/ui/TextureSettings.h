@@ -17,7 +17,11 @@ struct TextureSettings
 /// Reads the values; images without a path are left out.
 TextureSettings readTextureSettings(QSettings &settings);
 
-/// Writes the values; entries of a longer old list are removed.
+/// Sets a value that differs from the stored one. After an equal one the file is not written again,
+/// which takes long with thousands of images.
+void change(QSettings &settings, const QString &key, const QVariant &value);
+
+/// Writes the values that have changed; entries of a longer old list are removed.
 void writeTextureSettings(QSettings &settings, const TextureSettings &textures);
 
 } // namespace vlt::buildings

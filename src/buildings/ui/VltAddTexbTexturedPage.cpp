@@ -113,7 +113,7 @@ bool VltAddTexbTexturedPage::validatePage()
 void VltAddTexbTexturedPage::saveSettings()
 {
     const auto settings = vlt::platform::wizardSettings();
-    settings->setValue(LastUsedDirKey, m_lastUsedDir);
+    vlt::buildings::change(*settings, LastUsedDirKey, m_lastUsedDir);
     vlt::buildings::writeTextureSettings(*settings,
                                          {m_ui->m_pwCbDataStructure->currentIndex(),
                                           m_ui->m_pwLeFilter->text(), m_model->entries()});
