@@ -129,18 +129,7 @@ contract::Opened<std::unique_ptr<CoverageRaster>> CoverageRaster::open(const std
 
 std::optional<ValueRange> CoverageRaster::range(const Progress &progress)
 {
-    std::optional<ValueRange> range;
-    const auto widen = [&range](std::span<const double> values) {
-        for (const double value : values) {
-            if (std::isnan(value))
-                continue;
-            if (!range)
-                range = ValueRange{value, value};
-            range->minimum = std::min(range->minimum, value);
-            range->maximum = std::max(range->maximum, value);
-        }
-    };
-    return m_parts->blocks.readAll(widen, progress) ? range : std::nullopt;
+    return m_parts->blocks.range(progress);
 }
 
 const OGRSpatialReference *CoverageRaster::srs() const

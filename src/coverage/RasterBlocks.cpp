@@ -1,5 +1,6 @@
 #include "coverage/RasterBlocks.h"
 
+#include "coverage/RasterRange.h"
 #include "localfiles/NoNetwork.h"
 
 #include <cpl_error.h>
@@ -116,22 +117,31 @@ void RasterBlocks::read(int row, int begin, int end,
     }
 }
 
-bool RasterBlocks::readAll(const std::function<void(std::span<const double>)> &use,
-                           const Progress &progress)
+std::optional<ValueRange> RasterBlocks::range(const Progress &progress)
 {
-    constexpr int Width = 4096; // wide, so that a file stored in whole rows is read once
-    std::vector<double> values;
-    for (int top = 0; top < rows(); top += BlockSide) {
-        for (int left = 0; left < columns(); left += Width) {
-            const double ofRows = static_cast<double>(std::min(BlockSide, rows() - top)) * left;
-            if (progress && !progress((top + ofRows / columns()) / rows()))
-                return false;
-            readWindow(left, top, std::min(Width, columns() - left),
-                       std::min(BlockSide, rows() - top), values);
-            use(values);
-        }
+    if (hasStoredRange(m_band)) {
+        auto range = storedRange(m_band, m_noData, progress);
+        if (!range)
+            return std::nullopt;
+        const auto [low, high] =
+            std::minmax({range->minimum * m_scale + m_offset, range->maximum * m_scale + m_offset});
+        if (std::isfinite(low) && std::isfinite(high))
+            return ValueRange{low, high};
     }
-    return true;
+    std::optional<ValueRange> range;
+    std::vector<double> values;
+    const auto widen = [&](const RasterWindow &part) {
+        readWindow(part.left, part.top, part.width, part.height, values);
+        for (const double value : values) {
+            if (std::isnan(value))
+                continue;
+            if (!range)
+                range = ValueRange{value, value};
+            range->minimum = std::min(range->minimum, value);
+            range->maximum = std::max(range->maximum, value);
+        }
+    };
+    return forEachWindow(columns(), rows(), progress, widen) ? range : std::nullopt;
 }
 
 } // namespace vlt::coverage

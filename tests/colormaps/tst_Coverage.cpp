@@ -249,6 +249,46 @@ private Q_SLOTS:
         QVERIFY(!CoverageRaster::open(fileOf("none.tif", 1, {FileNoData}, {}), "")->range());
     }
 
+    void findsTheRangeOfEachType_data()
+    {
+        // noData: the values of the file and of the user
+        const Cases<int, double, double, double, double> row(
+            {"type", "fileNoData", "typedNoData", "minimum", "maximum"});
+        row("bytes", GDT_Byte, 0, 255, 1, 50);
+        row("no-data that bytes do not have", GDT_Byte, -1, 7.5, 0, 255);
+        row("small integers", GDT_Int16, 0, 255, 1, 50);
+        row("small natural numbers", GDT_UInt16, 0, 50, 1, 255);
+        row("integers", GDT_Int32, 255, 50, 0, 49);
+        row("natural numbers", GDT_UInt32, 1e30, 0, 1, 255);
+        row("single precision", GDT_Float32, 255, 0, 1, 50);
+        row("double precision", GDT_Float64, 255, 1e-300, 0, 50);
+    }
+
+    void findsTheRangeOfEachType()
+    {
+        QFETCH(int, type);
+        QFETCH(double, fileNoData);
+        QFETCH(double, typedNoData);
+        // 0 .. 50 and 255 in 4 rows of 13
+        const auto value = [](int column, int row, int) {
+            const int number = 13 * row + column;
+            return number > 50 ? 255 : number;
+        };
+        const auto finish = [fileNoData](GDALDataset &made) {
+            made.GetRasterBand(1)->SetNoDataValue(fileNoData);
+        };
+        const std::string path =
+            makeGeoTiff(m_dir.filePath(u"type.tif"_s), {13, 4, 1, static_cast<GDALDataType>(type),
+                                                        northUp(0, 0, 1, 4), "", value, finish});
+
+        const auto raster =
+            CoverageRaster::open(path, QByteArray::number(typedNoData).toStdString());
+
+        const auto range = raster ? raster->range() : std::nullopt;
+        QTEST(range ? range->minimum : NaN, "minimum");
+        QTEST(range ? range->maximum : NaN, "maximum");
+    }
+
     /// The format presents such a grid as three colour bands before the band of its values.
     void readsValuesBehindAPicture()
     {
