@@ -8,6 +8,7 @@
 #include "language/VltLanguageManager.h"
 
 #include <QFileInfo>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -102,7 +103,8 @@ QString layerJson(const BuildingsRequest &request, const BuildingsInputs &inputs
                        {QStringLiteral("image"), textOrNull(inputs.coloring.rasterFile)},
                        {QStringLiteral("colormap"), textOrNull(inputs.coloring.colorMap)},
                        {QStringLiteral("xCenter"), source.xCenter},
-                       {QStringLiteral("yCenter"), source.yCenter}};
+                       {QStringLiteral("yCenter"), source.yCenter},
+                       {QStringLiteral("warnings"), QJsonArray::fromStringList(inputs.warnings)}};
     if (request.texturing)
         object.insert(QStringLiteral("textures"), inputs.texturing.images.size());
     return QString::fromUtf8(QJsonDocument(object).toJson());
@@ -122,8 +124,10 @@ ExitStatus runParsed(const BuildingsRequest &request, const GlobalOptions &optio
     const Result<BuildingLayerFiles> written = writeFiles(request, inputs.value());
     if (!written)
         return refuse(written.error());
-    if (!inputs.value().terrainWarning.isEmpty() && !options.quiet)
-        printError(inputs.value().terrainWarning);
+    if (!options.quiet) {
+        for (const QString &warning : inputs.value().warnings)
+            printError(warning);
+    }
     if (request.texturing && !options.quiet)
         warnOfImages(inputs.value());
     if (options.json && !printOut(layerJson(request, inputs.value(), written.value())))

@@ -39,19 +39,11 @@ Result<int> chosenLayer(const QList<geodata::PolygonLayer> &layers, const QStrin
     return static_cast<int>(index);
 }
 
-/// The requested field, else the one that guessedHeightField() finds, among the fields that may
-/// have heights.
+/// The requested field, else the one that the source page of the wizard selects.
 Result<QString> chosenField(const geodata::PolygonLayer &layer, const QString &wanted,
                             const QString &path)
 {
-    QStringList names;
-    QList<geodata::VectorField> offered;
-    for (const geodata::VectorField &field : layer.fields) {
-        if (buildings::heightCaption(field).isEmpty())
-            continue;
-        names << field.name;
-        offered << field;
-    }
+    const QStringList names = buildings::possibleHeightFields(layer);
     if (!wanted.isEmpty()) {
         const qsizetype index = indexOfName(names, wanted);
         if (index >= 0)
@@ -61,11 +53,13 @@ Result<QString> chosenField(const geodata::PolygonLayer &layer, const QString &w
                                .arg(wanted, names.join(QStringLiteral(", "))),
                            path);
     }
-    const QString guess = names.value(buildings::guessedHeightField(offered));
+    const QString guess = buildings::preselectedHeightField(layer);
     if (guess.isEmpty())
         return Error::asIs(
             dico_label("MESS_CLI_NO_HEIGHT_FIELD",
-                       "no field with the heights was found: give its name with --height-field"),
+                       "no field with the heights was found: give its name with --height-field; "
+                       "the fields are: %1")
+                .arg(names.join(QStringLiteral(", "))),
             path);
     return guess;
 }
@@ -75,6 +69,7 @@ struct Footprints
 {
     BuildingsSource source;
     qint64 count = -1; ///< -1 if the format would have to read all features to count them
+    QString hint;      ///< about the height field, if the request names none
 };
 
 Result<Footprints> readVector(const BuildingsRequest &request, const QString &path)
@@ -100,7 +95,9 @@ Result<Footprints> readVector(const BuildingsRequest &request, const QString &pa
     source.heightField = field.value();
     source.xCenter = extent.centerX();
     source.yCenter = extent.centerY();
-    return Footprints{source, layer.featureCount};
+    return Footprints{source, layer.featureCount,
+                      request.heightField.isEmpty() ? buildings::heightHint(layer, field.value())
+                                                    : QString()};
 }
 
 struct Terrain
@@ -166,7 +163,10 @@ Result<BuildingsInputs> readFiles(const BuildingsRequest &request, const Surroun
     inputs.layer.footprints = request.footprints;
     inputs.layer.installDir = surroundings.installDir;
     inputs.buildingCount = footprints.value().count;
-    inputs.terrainWarning = terrain.value().warning;
+    for (const QString &warning : {footprints.value().hint, terrain.value().warning}) {
+        if (!warning.isEmpty())
+            inputs.warnings << warning;
+    }
     inputs.files = {vector.value(), dtm, project};
     return inputs;
 }

@@ -24,7 +24,7 @@ struct BuildingsRequest
     QString vector; ///< as given; empty for that of the project
     QString output;
     QString layer;       ///< empty for the first one
-    QString heightField; ///< empty for the one that guessedHeightField() finds
+    QString heightField; ///< empty for the one that the wizard selects
     QString terrain;     ///< empty for that of the project
     std::optional<QString> terrainNoData;
     contract::BuildingFootprints footprints;

@@ -1,5 +1,6 @@
 #include "buildings/SourceSummary.h"
 
+#include "buildings/HeightGuess.h"
 #include "geodata/SystemInfo.h"
 #include "language/VltLanguageManager.h"
 
@@ -52,6 +53,7 @@ QString kindText(geodata::FieldKind kind)
         return dico_label("MESS_REAL", "Real");
     case geodata::FieldKind::String:
         return dico_label("MESS_STRING", "String");
+    case geodata::FieldKind::Integer64:
     case geodata::FieldKind::Other:
         break;
     }
@@ -84,6 +86,17 @@ QString heightCaption(const geodata::VectorField &field)
 {
     const QString kind = kindText(field.kind);
     return kind.isEmpty() ? kind : QStringLiteral("%1 (%2)").arg(field.name, kind);
+}
+
+QString heightHint(const geodata::PolygonLayer &layer, const QString &chosen)
+{
+    const QString likelier = likelierHeightField(layer, chosen);
+    if (!likelier.isEmpty())
+        return dico_label("MESS_HEIGHT_LIKELY", "The field \"%1\" probably has the heights.")
+            .arg(likelier);
+    return chosen.isEmpty()
+               ? dico_label("MESS_HEIGHT_MISSING", "Choose the field with the heights.")
+               : QString();
 }
 
 QString layerSummary(const geodata::PolygonLayer &layer, const std::optional<Extent> &extent)

@@ -11,6 +11,11 @@ namespace vlt::buildings {
 /// chosen.
 QString heightCaption(const geodata::VectorField &field);
 
+/// What the user should know about the choice of the height field; empty for nothing.
+///
+/// @param chosen  name of the chosen field; may be empty
+QString heightHint(const geodata::PolygonLayer &layer, const QString &chosen);
+
 /// One line about a layer of buildings: their number, their coordinate system, the size of the
 /// area.
 ///

@@ -34,6 +34,8 @@ FieldKind kindOf(OGRFieldType type)
     switch (type) {
     case OFTInteger:
         return FieldKind::Integer;
+    case OFTInteger64:
+        return FieldKind::Integer64;
     case OFTReal:
         return FieldKind::Real;
     case OFTString:

@@ -14,7 +14,7 @@ class OGRLayer;
 namespace vlt::geodata {
 
 /// Type of a field of a vector layer, as far as it matters for heights of buildings.
-enum class FieldKind { Integer, Real, String, Other };
+enum class FieldKind { Integer, Integer64, Real, String, Other };
 
 struct VectorField
 {

@@ -2,6 +2,7 @@
 #include "support/Cases.h"
 
 #include <QImage>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QJsonValue>
@@ -14,12 +15,20 @@ namespace {
 /// north.
 const QByteArray Houses =
     R"({"type":"FeatureCollection","name":"houses","features":[
-{"type":"Feature","properties":{"day":"2024/01/31","id":1,"USE":"home","height":10},"geometry":{"type":"Polygon",
+{"type":"Feature","properties":{"id":1,"USE":"home","height":10,"day":"2024/01/31"},"geometry":{"type":"Polygon",
 "coordinates":[[[2,45],[2.001,45],[2.001,45.001],[2,45.001],[2,45]]]}},
 {"type":"Feature","properties":{"id":2,"USE":"home","height":10.5},"geometry":{"type":"Polygon",
 "coordinates":[[[2.003,45],[2.004,45],[2.004,45.001],[2.003,45.001],[2.003,45]]]}},
 {"type":"Feature","properties":{"id":3,"USE":"barn","height":null},"geometry":{"type":"Polygon",
 "coordinates":[[[2.002,45],[2.0025,45],[2.0025,45.001],[2.002,45]]]}}]})";
+
+/// One house with other properties.
+QByteArray house(const QByteArray &properties)
+{
+    return R"({"type":"FeatureCollection","features":[{"type":"Feature","properties":)" +
+           properties + R"(,"geometry":{"type":"Polygon",
+"coordinates":[[[2,45],[2.001,45],[2.001,45.001],[2,45.001],[2,45]]]}}]})";
+}
 
 /// Four by four cells around the houses; one of them has no value.
 const QByteArray Grid = "ncols 4\nnrows 4\nxllcorner 1.99\nyllcorner 44.99\ncellsize 0.01\n"
@@ -46,6 +55,9 @@ private Q_SLOTS:
         writeFile(path(u"own.txt"_s), "-120 green\n-60 white\n");
         writeFile(path(u"broken.txt"_s), "-120 pink\n");
         writeFile(path(u"houses.geojson"_s), Houses);
+        writeFile(path(u"beyond.geojson"_s), house(R"({"osm_id":123456789012,"H":10})"));
+        writeFile(path(u"beside.geojson"_s),
+                  house(R"({"osm_id":123456789012,"height":10,"levels":3})"));
         writeFile(path(u"dem.asc"_s), Grid);
         writeFile(path(u"rgb.ppm"_s), "P6\n1 1\n255\nabc");
         writeFile(path(u"level.asc"_s), Grid);
@@ -145,6 +157,20 @@ private Q_SLOTS:
         QCOMPARE(readFile(path(u"elsewhere/o.texb"_s)).count("<texture "), images);
     }
 
+    void selectsTheHeightFieldOfTheWizard()
+    {
+        const QString start = u"buildings ../beside.geojson --dtm ../dem.asc -o o.lay --json "_s;
+        const Run run = this->start(start + u"--image ../level.asc"_s);
+        const Run chosen = this->start(start + u"--image ../level.asc --height-field levels"_s);
+
+        const QByteArray warning = "The field \"height\" probably has the heights.";
+        QCOMPARE(run.errors, "vltlayers: " + warning + "\n");
+        const QJsonObject reported = QJsonDocument::fromJson(run.output).object();
+        QCOMPARE(reported.value(u"heightField"_s).toString(), u"levels"_s);
+        QCOMPARE(reported.value(u"warnings"_s).toArray(), QJsonArray{QString::fromUtf8(warning)});
+        QCOMPARE(chosen.errors, QByteArray());
+    }
+
     void refusesAndWritesNothing_data()
     {
         // text after "buildings "; "%" means the two inputs
@@ -157,6 +183,9 @@ private Q_SLOTS:
         row("% --image ../level.asc --layer streets", 1, "\"streets\"; the layers are: houses");
         row("% --image ../level.asc --height-field AGL", 1,
             "\"AGL\"; the fields are: id, USE, height");
+        row("../beyond.geojson --dtm ../dem.asc", 1,
+            "../beyond.geojson: no field with the heights was found: give its name with "
+            "--height-field; the fields are: osm_id, H");
         row("% --image ../own.txt", 1, "../own.txt: This file can't be open as a raster dataset (");
         row("% --image /vsicurl/http://example.org/a.tif", 1, "a.tif: no such file");
         row("% --image ../rgb.ppm", 1, "works only with one-band grey images");

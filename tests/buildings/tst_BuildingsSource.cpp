@@ -92,18 +92,27 @@ private Q_SLOTS:
 
     void guessesTheHeight_data()
     {
-        const Cases<QByteArray, QString, int> row({"properties", "offered", "index"});
+        const Cases<QByteArray, QString, int, QString> row(
+            {"properties", "offered", "index", "hint"});
+        const QString likely = u"The field \"%1\" probably has the heights."_s;
         row("HEIGHT", R"({"ID":1,"NAME":"a","HEIGHT":2.5})",
-            "ID (Integer)|NAME (String)|HEIGHT (Real)", 2);
-        row("H before HEIGHT, any case", R"({"h":1,"HEIGHT":2})", "h (Integer)|HEIGHT (Integer)",
-            0);
+            "ID (Integer)|NAME (String)|HEIGHT (Real)", 2, {});
+        row("H before HEIGHT, any case", R"({"h":1,"HEIGHT":2})", "h (Integer)|HEIGHT (Integer)", 0,
+            {});
         row("AGL before all", R"({"Color":"x","h":1,"agl":2})",
-            "Color (String)|h (Integer)|agl (Integer)", 2);
-        row("none: the second", R"({"ID":1,"NAME":"a"})", "ID (Integer)|NAME (String)", 1);
-        row("none, only one", R"({"ID":1})", "ID (Integer)", 0);
+            "Color (String)|h (Integer)|agl (Integer)", 2, {});
+        row("none: the second", R"({"ID":1,"NAME":"a"})", "ID (Integer)|NAME (String)", 1, {});
+        row("none, only one", R"({"ID":1})", "ID (Integer)", 0, {});
         row("fields that are not offered count", R"({"d":"2024/01/02","H":1,"s":"x"})",
-            "H (Integer)|s (String)", 1);
-        row("counted beyond the end", R"({"n":123456789012,"H":1})", "H (Integer)", -1);
+            "H (Integer)|s (String)", 1, likely.arg(u"H"_s));
+        row("counted beyond the end", R"({"n":123456789012,"H":1})", "H (Integer)", -1,
+            likely.arg(u"H"_s));
+        row("64 bits", R"({"a":1,"height":123456789012})", "a (Integer)", -1,
+            likely.arg(u"height"_s));
+        row("none, not offered", R"({"n":1,"day":"2024/01/02","s":"x"})", "n (Integer)|s (String)",
+            1, {});
+        row("none that can be chosen", R"({"day":"2024/01/02"})", {}, -1,
+            "Choose the field with the heights.");
     }
 
     void guessesTheHeight()
@@ -119,6 +128,7 @@ private Q_SLOTS:
             items << host.height()->itemText(i);
         QTEST(items.join(u'|'), "offered");
         QCOMPARE(host.height()->currentIndex(), index);
+        QTEST(host.info(u"Height"_s), "hint");
         host.dtm()->setText(u"x"_s);
         QCOMPARE(host.canGoOn(), index >= 0);
     }

@@ -56,6 +56,7 @@ VltAddTexbFirstPage::VltAddTexbFirstPage(QWidget *wizard, SharedParameters &para
     describeWidgets();
     connectWidgets();
     m_ui->m_pwNoDataProgress->hide();
+    m_ui->m_pwLblHeightInfo->hide();
     wizard::guardAgainstStrayWheel(this);
     registerField(QStringLiteral("Buildings*"), m_ui->m_pwLeBuildings);
     registerField(QStringLiteral("Dtm*"), m_ui->m_pwLeDtm);
@@ -99,6 +100,8 @@ void VltAddTexbFirstPage::connectWidgets()
             &VltAddTexbFirstPage::layerChanged);
     connect(m_ui->m_pwCbHeight, &QComboBox::currentIndexChanged, this,
             &VltAddTexbFirstPage::heightChanged);
+    connect(m_ui->m_pwCbHeight, &QComboBox::currentIndexChanged, this,
+            &VltAddTexbFirstPage::showSummaries);
     for (const QRadioButton *radio : {m_ui->m_pwRbTextured, m_ui->m_pwRbColored})
         connect(radio, &QRadioButton::clicked, this, &VltAddTexbFirstPage::typeChanged);
 
@@ -333,6 +336,11 @@ void VltAddTexbFirstPage::showSummaries()
     const std::optional<geodata::RasterSummary> &terrain = m_terrain->summary();
     m_ui->m_pwLblBuildingsInfo->setText(layer ? buildings::layerSummary(*layer, extent)
                                               : QString());
+    const QString hint =
+        layer ? buildings::heightHint(*layer, m_ui->m_pwCbHeight->currentData().toString())
+              : QString();
+    m_ui->m_pwLblHeightInfo->setText(hint);
+    m_ui->m_pwLblHeightInfo->setVisible(!hint.isEmpty());
     m_ui->m_pwLblDtmInfo->setText(terrain ? buildings::terrainSummary(*terrain, layer, extent)
                                           : QString());
 }

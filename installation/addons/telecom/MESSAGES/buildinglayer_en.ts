@@ -48,9 +48,9 @@
         <translation>there is no field of heights "%1"; the fields are: %2</translation>
     </message>
     <message id="MESS_CLI_NO_HEIGHT_FIELD">
-        <source>no field with the heights was found: give its name with --height-field</source>
+        <source>no field with the heights was found: give its name with --height-field; the fields are: %1</source>
         <extracomment>Keep the option.</extracomment>
-        <translation>no field with the heights was found: give its name with --height-field</translation>
+        <translation>no field with the heights was found: give its name with --height-field; the fields are: %1</translation>
     </message>
     <message id="MESS_CLI_NO_SUCH_CMAP">
         <source>there is no color map and no file with this name; the color maps are: %1</source>

@@ -48,9 +48,9 @@
         <translation>il n'y a pas de champ de hauteurs « %1 » ; les champs sont : %2</translation>
     </message>
     <message id="MESS_CLI_NO_HEIGHT_FIELD">
-        <source>no field with the heights was found: give its name with --height-field</source>
+        <source>no field with the heights was found: give its name with --height-field; the fields are: %1</source>
         <extracomment>Keep the option.</extracomment>
-        <translation>aucun champ de hauteurs n'a été trouvé : indiquez-le avec --height-field</translation>
+        <translation>aucun champ de hauteurs n'a été trouvé&#xa0;: indiquez-le avec --height-field&#xa0;; les champs sont&#xa0;: %1</translation>
     </message>
     <message id="MESS_CLI_NO_SUCH_CMAP">
         <source>there is no color map and no file with this name; the color maps are: %1</source>
