@@ -104,6 +104,11 @@ inline constexpr auto TableTexts = std::to_array<Text>({
     {"MESS_TAB_ENCODING_GUESSED",
      "the file does not declare its encoding: its texts are read as %1"},
     {"MESS_TAB_NO_COORDINATES", "no columns with coordinates were recognised"},
+    {"MESS_TAB_UTM_NORTH",
+     "the zones of UTM have no letter: they are taken as those of the northern hemisphere"},
+    {"MESS_TAB_UTM_SOUTH", "the zones of UTM have no letter: because of their northings, they are "
+                           "taken as those of the southern hemisphere"},
+    {"MESS_TAB_GRID", "the column \"%1\" holds positions in the %2 grid, which are not read"},
     {"MESS_TAB_KNOWN_TABLE",
      "the table has no header: its columns are taken as those of \"%1\" (%2)"},
     {"MESS_TAB_COLUMNS_BY_VALUES",
@@ -172,6 +177,10 @@ inline constexpr auto TableTexts = std::to_array<Text>({
     {"MESS_TAB_NOT_FINITE", "the coordinate \"%1\" cannot be read: it is not finite"},
     {"MESS_TAB_NOT_AN_ANGLE", "the coordinate \"%1\" cannot be read: it is not an angle"},
     {"MESS_TAB_NOT_A_POSITION", "the coordinate \"%1\" cannot be read: it is not a position"},
+    {"MESS_TAB_NOT_UTM", "the coordinate \"%1\" cannot be read: a position in a zone of UTM has an "
+                         "easting from 100 000 to 900 000 m and a northing up to 10 000 000 m"},
+    {"MESS_TAB_NO_ZONE", "the zone \"%1\" cannot be used: UTM has the zones 1 to 60, with a letter "
+                         "for the band or the hemisphere"},
     {"MESS_TAB_FRACTION", "the coordinate \"%1\" cannot be read: only the last of degrees, "
                           "minutes and seconds may have a fraction"},
     {"MESS_TAB_BELOW_60",

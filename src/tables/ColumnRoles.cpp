@@ -33,6 +33,7 @@ constexpr auto KnownRoles = std::to_array<KnownRole>({
     {"x", Use::SitesAndEnds, "MESS_ROLE_X", "X coordinate"},
     {"y", Use::SitesAndEnds, "MESS_ROLE_Y", "Y coordinate"},
     {"pair", Use::SitesAndEnds, "MESS_ROLE_PAIR", "Coordinates in one cell"},
+    {"utmZone", Use::SitesAndEnds, "MESS_ROLE_UTM_ZONE", "UTM zone"},
     {"groundHeight", Use::SitesAndEnds, "MESS_ROLE_GROUND_HEIGHT", "Ground height"},
     {"sectorId", Use::Transmitters, "MESS_ROLE_SECTOR_ID", "Sector"},
     {"antennaHeight", Use::Transmitters, "MESS_ROLE_ANTENNA_HEIGHT", "Antenna height"},

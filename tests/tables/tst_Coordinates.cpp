@@ -4,6 +4,7 @@
 #include "plugins/tables/sites/SiteLayout.h"
 #include "plugins/tables/values/Angle.h"
 #include "plugins/tables/values/CoordinatePair.h"
+#include "plugins/tables/values/Utm.h"
 #include "support/Cases.h"
 
 #include <QtTest>
@@ -240,6 +241,33 @@ private Q_SLOTS:
 
         QTEST(!pair.fault, "good");
         QVERIFY(std::abs(pair.x - x) < 1e-9 && std::abs(pair.y - y) < 1e-9);
+    }
+
+    void readsZonesOfUtm_data()
+    {
+        const Cases<QByteArray, QByteArray> row({"text", "zone"}); // empty for none
+        row("zone first", "18T 585628 4511322", "18T");
+        row("in words", "UTM zone 32N 500000 4649776.5", "32N");
+        row("separate letter", "18 t 585628mE 4511322mN", "18T");
+        row("zone last", "585628, 4511322, 18T", "18T");
+        row("without a letter", "33 E391000 N5820000", "33");
+        row("easting outside the zone", "18T 58562 4511322", "");
+        row("zone 61", "61N 500000 4649776", "");
+        row("no band", "18I 585628 4511322", "");
+        row("degrees", "48.85 2.35 30", "");
+        row("MGRS", "18TWL8562811322", "");
+    }
+    void readsZonesOfUtm()
+    {
+        QFETCH(QByteArray, text);
+        QFETCH(QByteArray, zone);
+
+        const auto found = readUtmPosition(text.toStdString());
+
+        QByteArray read = found ? QByteArray::number(found->zone.number) : QByteArray();
+        if (found && found->zone.letter != 0)
+            read += found->zone.letter;
+        QCOMPARE(read, zone);
     }
 
     void findsTheOrderOfPairs_data()

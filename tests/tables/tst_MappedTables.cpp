@@ -204,11 +204,13 @@ private Q_SLOTS:
         row("without a header", "site", "headerless_cells.csv");
         row("in parts", "site", "values_dms_columns.csv");
         row("pair", "site", "values_pair.csv");
+        row("zones of UTM", "site", "values_utm_zones.csv");
         row("two sheets", "site", "book_sites_transmitters.xlsx");
         row("two files", "site", "joined_nodes.csv", "joined_sectors.csv");
         row("links", "link", "links_tx_rx_pl.csv");
         row("numbered ends", "link", "links_numbered.csv");
         row("named ends", "link", "links_named.csv", "links_named_sites.csv");
+        row("links in zones of UTM", "link", "links_utm_zones.csv");
         row("links without a header", "link", "links_headerless.csv");
     }
     void keepsWhatItRecognised()

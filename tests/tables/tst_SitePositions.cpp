@@ -40,6 +40,16 @@ private Q_SLOTS:
         row("exchanged axes", "ID;Lat;Lon\n1;-116.5;43.5\n", "-116.5 43.5", swapped);
         row("exchanged parts", "ID;Lat;Lon\n1;116 30 0 W;43 30 0 N\n", "-116.5 43.5", swapped);
         row("an exchanged pair", "ID;Coordinates\n1;\"2.5, 48.5\"\n", "2.5 48.5", swapped);
+        const QByteArray here = "t_srs=4326,";
+        row("zone of UTM", "ID;E;N;Zone\n1;585628;4511322;18T\n", "-73.9857 40.7484", here);
+        row("zone of UTM, southern hemisphere",
+            "ID;X UTM;Y UTM;UTM\n1;334900;6252300;56 South\n2;334900;6252300;\n",
+            "151.215 -33.8567", here);
+        row("band S, not the south", "ID;UTM\n1;32S 585628 4000000\n", "9.95176 36.1409", here);
+        row("several zones", "ID;E;N;Zone\n1;585628;4511322;18T\n2;585628;4511322;19T\n",
+            "-73.9857 40.7484");
+        row("no zones: regions", "ID;X;Y;Zone\n1;652000;675600;1\n2;652000;675600;2\n",
+            "652000 675600", "s_srs=2154,t_srs=2154,");
         row("null island", "ID;Lat;Lon\n1;0;0\n", {});
         row("unknown system in a title", "EPSG:999999\nID;Lat;Lon\n1;47;-3\n", "-3 47");
     }

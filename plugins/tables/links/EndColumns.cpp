@@ -27,7 +27,8 @@ PointFields findEnd(const Names &names, LinkEndId end, const std::vector<Field> 
 {
     FieldWords words(names.size());
     for (std::size_t i = 0; i < names.size(); ++i) {
-        if (names[i].end == end)
+        if (names[i].end == end ||
+            (names[i].end == LinkEndId::None && namesUtmZone(names[i].words, vocabulary)))
             words[i] = names[i].words;
     }
     return findPoint(words, fields, vocabulary, stated);
@@ -157,8 +158,11 @@ void stateEnds(FoundEnds &ends, const std::vector<Field> &fields, const Vocabula
     for (std::size_t at = 0; at < ends.points.size(); ++at) {
         const std::string letter = at == 0 ? "A" : "B";
         StatedRoles ofEnd = {{}, stated.fields, {}};
-        for (const std::string role : {"x", "y", "pair"}) {
-            if (const std::vector<int> *found = stated.find(role + letter))
+        for (const std::string role : {"x", "y", "pair", UtmZoneRole}) {
+            const std::vector<int> *found = stated.find(role + letter);
+            if (!found && role == UtmZoneRole) // a column may hold the zones of both ends
+                found = stated.find(role + (at == 0 ? "B" : "A"));
+            if (found)
                 ofEnd.roles.emplace(role, *found);
         }
         PointFields &point = ends.points[at];

@@ -3,6 +3,7 @@
 #include "plugins/tables/bytes/Refusal.h"
 #include "plugins/tables/links/ContrastedEnds.h"
 #include "plugins/tables/links/LengthUnit.h"
+#include "plugins/tables/sites/SiteLayout.h"
 #include "plugins/tables/table/HeaderWords.h"
 
 #include <algorithm>
@@ -83,6 +84,8 @@ bool isCoordinate(Role role)
         words.emplace_back(separatedWords(field.name, vocabulary));
     if (const PointFields point = findPoint(words, fields, vocabulary); point.found())
         throw RefusedFile(Refusal::NoLinks, "MESS_TAB_SITES_NOT_LINKS", {namesOf(point, fields)});
+    if (const auto unread = findUnreadGrid(fields))
+        throw RefusedFile(Refusal::NoLinks, "MESS_TAB_GRID", {unread->column, unread->grid});
     throw RefusedFile(Refusal::NoLinks, "MESS_TAB_NO_ENDS");
 }
 

@@ -1,6 +1,7 @@
 #include "plugins/tables/ogr/LinkJoin.h"
 
 #include "plugins/tables/links/LinkLayout.h"
+#include "plugins/tables/ogr/ZoneSurvey.h"
 
 namespace vlt::driver {
 
@@ -12,8 +13,19 @@ int endSiteSuitability(const TableProfile &start, const Vocabulary &vocabulary)
     return siteSuitability(start, vocabulary);
 }
 
+namespace {
+
+SiteLayout layoutOf(const SecondTable &sites)
+{
+    SiteLayout layout = recogniseSiteLayout(sites.profile(), installedVocabulary().words);
+    surveyZones({&layout.point}, layout, sites.profile(), [&sites] { return sites.rows(); });
+    return layout;
+}
+
+} // namespace
+
 EndSiteRows::EndSiteRows(const SecondTable &sites)
-    : m_layout(recogniseSiteLayout(sites.profile(), installedVocabulary().words))
+    : m_layout(layoutOf(sites))
     , m_positions(sites.profile(), m_layout.point, m_layout.unit)
     , m_cells(sites.profile())
     , m_rows(sites.rows())

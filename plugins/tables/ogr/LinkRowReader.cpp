@@ -1,6 +1,7 @@
 #include "plugins/tables/ogr/LinkRowReader.h"
 
 #include "contract/TableTexts.h"
+#include "plugins/tables/ogr/ZoneSurvey.h"
 #include "plugins/tables/roles/Vocabulary.h"
 
 #include <cmath>
@@ -113,6 +114,7 @@ void LinkRowReader::addPositions(SurveyedPositions &positions, const TableRow &r
 void LinkRowReader::addFileProblems(ProblemList &problems) const
 {
     problems.add(m_values.tableProblems());
+    addZoneProblems(m_facts->links().ends[0].point, problems);
 }
 
 } // namespace vlt::driver

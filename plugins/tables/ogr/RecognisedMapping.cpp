@@ -34,6 +34,13 @@ void addPoint(contract::ColumnMapping &mapping, const TableProfile &table, const
         mapping.roles["y" + end] = columnsOf(table, point.y);
     if (point.pair >= 0)
         mapping.roles["pair" + end] = {nameOf(table, point.pair)};
+    if (point.utm && point.utm->zone >= 0)
+        mapping.roles[UtmZoneRole + end] = {nameOf(table, point.utm->zone)};
+}
+
+bool isOfPosition(Role role)
+{
+    return role == Role::X || role == Role::Y || role == Role::Pair || role == Role::UtmZone;
 }
 
 /// Whether a column has the ids of sectors, but the names of sites are taken for them.
@@ -57,8 +64,7 @@ void addRoles(contract::ColumnMapping &mapping, const TableProfile &table, const
     std::sort(numbers.begin(), numbers.end());
     numbers.erase(std::unique(numbers.begin(), numbers.end()), numbers.end());
     for (const ColumnRole &column : roles.columns) {
-        if (column.role == Role::X || column.role == Role::Y || column.role == Role::Pair ||
-            isReplaced(column, roles))
+        if (isOfPosition(column.role) || isReplaced(column, roles))
             continue;
         StatedColumns &stated = mapping.roles[std::string(roleName(column.role))];
         if (column.sector < 0) {
@@ -110,8 +116,12 @@ contract::ColumnMapping recognisedMapping(const TableFile &file)
     }
     addNamed(facts.links().ends[0].point, "A");
     addNamed(facts.links().ends[1].point, "B");
+    const std::string zone = UtmZoneRole;
+    if (const auto ofB = mapping.roles.find(zone + 'B');
+        ofB != mapping.roles.end() && ofB->second == mapping.roles[zone + 'A'])
+        mapping.roles.erase(ofB); // a column is stated once
     for (const LinkColumnRole &column : facts.links().columns) {
-        if (column.role != Role::X && column.role != Role::Y && column.role != Role::Pair)
+        if (!isOfPosition(column.role))
             mapping.roles[column.name()].push_back(nameOf(facts.table, column.field));
     }
     return mapping;

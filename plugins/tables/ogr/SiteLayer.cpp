@@ -3,6 +3,7 @@
 #include "contract/TableMetadata.h"
 #include "contract/TableTexts.h"
 #include "plugins/tables/ogr/MetadataItems.h"
+#include "plugins/tables/ogr/ZoneSurvey.h"
 
 namespace vlt::driver {
 
@@ -202,9 +203,14 @@ CPLStringList SiteLayer::rolesMetadata() const
 
 void SiteLayer::addFileProblems(ProblemList &problems) const
 {
-    if (!facts().sites().point.found())
+    const SiteLayout &layout = facts().sites();
+    if (const auto &unread = layout.unreadGrid)
+        problems.add(
+            {0, {}, true, contract::formatted("MESS_TAB_GRID", {unread->column, unread->grid})});
+    if (!layout.point.found())
         problems.add({0, {}, true, contract::formatted("MESS_TAB_NO_COORDINATES")});
     problems.add(std::vector(facts().sites().roles.problems));
+    addZoneProblems(layout.point, problems);
 }
 
 } // namespace vlt::driver

@@ -6,6 +6,7 @@
 #include "plugins/tables/ogr/FieldCells.h"
 #include "plugins/tables/ogr/LinkJoin.h"
 #include "plugins/tables/ogr/SectorJoin.h"
+#include "plugins/tables/ogr/ZoneSurvey.h"
 #include "plugins/tables/roles/Vocabulary.h"
 #include "plugins/tables/sites/PositionCorrections.h"
 #include "plugins/tables/sites/SectorTable.h"
@@ -81,14 +82,13 @@ std::string baseName(const std::string &path)
     return dot == std::string::npos || dot == 0 ? file : file.substr(0, dot);
 }
 
-template<typename Change>
-void changePoints(TableFacts &facts, Change change)
+/// The columns of the positions in a row: that of a site, or those of both ends of a link.
+std::vector<PointFields *> pointsOf(TableFacts &facts)
 {
     if (SiteLayout *sites = std::get_if<SiteLayout>(&facts.layout))
-        change(sites->point);
-    else
-        for (LinkEndFields &end : std::get<LinkLayout>(facts.layout).ends)
-            change(end.point);
+        return {&sites->point};
+    LinkLayout &links = std::get<LinkLayout>(facts.layout);
+    return {&links.ends[0].point, &links.ends[1].point};
 }
 
 /// Calls a function that reads the second file; its refusal names that file.
@@ -211,11 +211,14 @@ void TableFile::recognise(TableFacts &facts, const TableProfile &profile)
         readLinks(facts, profile, stated);
     else
         facts.layout = recogniseSiteLayout(profile, installedVocabulary().words, stated);
+    surveyZones(pointsOf(facts), facts.declaration(), facts.table, [this] { return rows(); });
     if (m_options.swapsAxes)
-        changePoints(facts, [](PointFields &point) { point.swapAxes(); });
+        for (PointFields *point : pointsOf(facts))
+            point->swapAxes();
     if (!mapping.corrections.empty()) {
         const auto corrections = std::make_shared<PositionCorrections>(mapping.corrections);
-        changePoints(facts, [&](PointFields &point) { point.corrections = corrections; });
+        for (PointFields *point : pointsOf(facts))
+            point->corrections = corrections;
     }
     if (!mapping.sourceSrs.empty())
         facts.declaration().epsg = mapping.sourceSrs.substr(mapping.sourceSrs.find(':') + 1);

@@ -16,6 +16,7 @@ enum class Role {
     X,    ///< named by a bare x or the like: a longitude or an easting
     Y,    ///< a latitude or a northing
     Pair, ///< both coordinates in one cell
+    UtmZone,
     GroundHeight,
     AntennaHeight,  ///< above ground
     SeaLevelHeight, ///< of an antenna

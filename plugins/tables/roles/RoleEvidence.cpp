@@ -12,6 +12,7 @@ bool holdsNames(Role role)
     switch (role) {
     case Role::SiteId:
     case Role::SiteName:
+    case Role::UtmZone:
     case Role::SectorId:
     case Role::Technology:
     case Role::Operator:

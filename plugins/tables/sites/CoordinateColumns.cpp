@@ -283,7 +283,7 @@ int findPair(const FieldWords &words, const std::vector<Field> &fields, LetterO 
         std::size_t good = 0;
         for (const std::string &text : samples)
             good += readCoordinatePair(text, order, letterO).fault ? 0 : 1;
-        if (good > 0 && good * 10 >= samples.size() * 8)
+        if ((good > 0 && good * 10 >= samples.size() * 8) || holdUtmPositions(samples))
             return static_cast<int>(i);
     }
     return -1;
@@ -321,6 +321,7 @@ std::vector<std::pair<int, Role>> PointFields::roles() const
             roles.emplace_back(field, role);
     }
     roles.emplace_back(pair, Role::Pair);
+    roles.emplace_back(utm ? utm->zone : -1, Role::UtmZone);
     std::erase_if(roles, [](const auto &of) { return of.first < 0; });
     return roles;
 }
@@ -357,6 +358,7 @@ PointFields findPoint(const FieldWords &words, const std::vector<Field> &fields,
     }
     point.letterO = findLetterO(point, fields, otherwise);
     point.scale = findScale(point, fields, vocabulary);
+    point.utm = findUtmColumns(point, open, fields, vocabulary, stated);
     return point;
 }
 
@@ -396,6 +398,8 @@ bool areWholeDegrees(const PointFields &point, const std::vector<Field> &fields)
 CoordinateUnit findUnit(const PointFields &point, const std::vector<Field> &fields,
                         const Vocabulary &vocabulary)
 {
+    if (point.utm)
+        return point.utm->only ? CoordinateUnit::Meters : CoordinateUnit::Degrees;
     if (point.pair >= 0) {
         const std::vector<std::string> &samples =
             fields[static_cast<std::size_t>(point.pair)].samples;

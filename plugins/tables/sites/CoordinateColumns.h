@@ -2,6 +2,7 @@
 
 #include "plugins/tables/sites/CoordinateNames.h"
 #include "plugins/tables/sites/StatedRoles.h"
+#include "plugins/tables/sites/UtmColumns.h"
 #include "plugins/tables/table/Table.h"
 #include "plugins/tables/values/Angle.h"
 #include "plugins/tables/values/CoordinatePair.h"
@@ -60,6 +61,7 @@ struct PointFields
     bool isPairSwapped = false;
     CoordinateScale scale;
     std::shared_ptr<const PositionCorrections> corrections = {}; ///< null if none are stated
+    std::optional<UtmColumns> utm;
 
     /// Exchanges the coordinates.
     void swapAxes()
@@ -70,9 +72,14 @@ struct PointFields
     bool found() const { return pair >= 0 || (x.found() && y.found()); }
     bool uses(int field) const
     {
-        return field >= 0 && (field == pair || x.uses(field) || y.uses(field));
+        return field >= 0 && (holdsCoordinate(field) || (utm && field == utm->zone));
     }
-    /// The fields of the position with their roles: x, y or pair.
+    /// The same without the zone of UTM.
+    bool holdsCoordinate(int field) const
+    {
+        return field == pair || x.uses(field) || y.uses(field);
+    }
+    /// The fields of the position with their roles: x, y, pair, zone of UTM.
     std::vector<std::pair<int, Role>> roles() const;
     /// The field that is reported if a coordinate cannot be used.
     int xField() const { return pair >= 0 ? pair : x.value; }

@@ -7,6 +7,7 @@
 #include "plugins/tables/values/CoordinatePair.h"
 
 #include <cmath>
+#include <tuple>
 #include <utility>
 
 namespace vlt::driver {
@@ -62,7 +63,7 @@ bool PositionReader::readAxis(int64_t row, const CoordinateFields &fields, Axis 
                               std::vector<RowProblem> &problems) const
 {
     const Cell *cell = cells[static_cast<std::size_t>(fields.value)];
-    const bool isAngle = m_unit != CoordinateUnit::Meters;
+    const bool isAngle = m_unit != CoordinateUnit::Meters && !m_fields.utm;
     std::string hemisphere =
         fields.hemisphere >= 0 && isAngle ? fieldText(cells, fields.hemisphere) : std::string();
     // Nearly all coordinates are plain numbers; this avoids making a text of them.
@@ -79,7 +80,7 @@ bool PositionReader::readAxis(int64_t row, const CoordinateFields &fields, Axis 
     }
     if (fields.isNegative && hemisphere.empty())
         hemisphere = axis == Axis::X ? "W" : "S";
-    if (!fields.inParts() && cell && m_unit == CoordinateUnit::Meters) {
+    if (!fields.inParts() && cell && !isAngle) {
         // A cell may have another decimal mark than its column.
         const std::string text = fieldText(cells, fields.value);
         std::optional<double> number = parseEitherNumber(text);
@@ -125,10 +126,33 @@ std::optional<TableTextId> PositionReader::outsideGlobe(double value, Axis axis)
 bool PositionReader::isEmpty(const std::vector<const Cell *> &cells) const
 {
     for (std::size_t field = 0; field < cells.size(); ++field) {
-        if (m_fields.uses(static_cast<int>(field)) &&
+        if (m_fields.holdsCoordinate(static_cast<int>(field)) &&
             !fieldText(cells, static_cast<int>(field)).empty())
             return false;
     }
+    return true;
+}
+
+/// Places a position by the zone of its row, if not all rows have the same one.
+bool PositionReader::useZone(int64_t row, const std::vector<const Cell *> &cells,
+                             Position &position, std::vector<RowProblem> &problems) const
+{
+    const UtmColumns &utm = *m_fields.utm;
+    const int field = m_fields.pair >= 0 ? m_fields.pair : utm.zone;
+    const std::string text = fieldText(cells, field);
+    const std::optional<UtmGrid> grid = gridOfRow(m_fields, cells);
+    if (utm.only && (text.empty() || grid == utm.only))
+        return true;
+    if (!grid || utm.only) {
+        problems.push_back(problem(row, field, text, "MESS_TAB_NO_ZONE"));
+        return false;
+    }
+    if (!isInUtmRange(position.x, position.y)) {
+        problems.push_back(problem(row, m_fields.xField(), fieldText(cells, m_fields.xField()),
+                                   "MESS_TAB_NOT_UTM"));
+        return false;
+    }
+    std::tie(position.x, position.y) = degreesOfUtm(*grid, position.x, position.y);
     return true;
 }
 
@@ -138,7 +162,13 @@ Position PositionReader::read(int64_t row, const std::vector<const Cell *> &cell
     Position position;
     if (!m_fields.found())
         return position;
-    if (m_fields.pair >= 0) {
+    if (m_fields.utm && m_fields.pair >= 0) {
+        const std::string text = fieldText(cells, m_fields.pair);
+        if (const auto found = readUtmPosition(text))
+            position = {true, found->eastingM, found->northingM};
+        else
+            problems.push_back(problem(row, m_fields.pair, text, "MESS_TAB_NOT_UTM"));
+    } else if (m_fields.pair >= 0) {
         const std::string text = fieldText(cells, m_fields.pair);
         const CoordinatePair pair = readCoordinatePair(text, m_fields.pairOrder, m_fields.letterO);
         if (pair.fault)
@@ -152,6 +182,8 @@ Position PositionReader::read(int64_t row, const std::vector<const Cell *> &cell
         const bool y = x && readAxis(row, m_fields.y, Axis::Y, cells, position.y, problems);
         position.found = x && y;
     }
+    if (position.found && m_fields.utm)
+        position.found = useZone(row, cells, position, problems);
     if (!position.found)
         return position;
     position.x *= m_fields.scale.factor;

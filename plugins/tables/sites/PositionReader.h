@@ -56,6 +56,8 @@ private:
     bool readAxis(int64_t row, const CoordinateFields &fields, Axis axis,
                   const std::vector<const Cell *> &cells, double &value,
                   std::vector<RowProblem> &problems) const;
+    bool useZone(int64_t row, const std::vector<const Cell *> &cells, Position &position,
+                 std::vector<RowProblem> &problems) const;
     RowProblem problem(int64_t row, int field, const std::string &value,
                        contract::TableTextId why) const;
 

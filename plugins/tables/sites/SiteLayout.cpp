@@ -3,6 +3,7 @@
 #include "contract/TableTexts.h"
 #include "plugins/tables/roles/NameMatch.h"
 #include "plugins/tables/table/HeaderWords.h"
+#include "plugins/tables/values/GridReference.h"
 
 #include <algorithm>
 
@@ -66,6 +67,19 @@ bool isLinkEnd(const PointFields &point, const FieldWords &words, const Vocabula
 
 } // namespace
 
+std::optional<UnreadGrid> findUnreadGrid(const std::vector<Field> &fields)
+{
+    for (const Field &field : fields) {
+        for (const auto &[isOfGrid, grid] :
+             {std::pair(&isMgrsReference, "MGRS"), std::pair(&isMaidenheadSquare, "Maidenhead")}) {
+            const auto count = std::count_if(field.samples.begin(), field.samples.end(), isOfGrid);
+            if (count > 0 && static_cast<std::size_t>(count) * 10 >= field.samples.size() * 8)
+                return UnreadGrid{field.name, grid};
+        }
+    }
+    return std::nullopt;
+}
+
 SiteLayout recogniseSiteLayout(const TableProfile &table, const Vocabulary &vocabulary,
                                const StatedRoles &stated)
 {
@@ -76,6 +90,8 @@ SiteLayout recogniseSiteLayout(const TableProfile &table, const Vocabulary &voca
     layout.point = findPoint(words, table.fields, vocabulary, stated);
     layout.isLinkEnd = !stated.find("x") && isLinkEnd(layout.point, words, vocabulary);
     layout.format = recogniseFormat(table.fields);
+    if (!layout.point.found())
+        layout.unreadGrid = findUnreadGrid(table.fields);
     layout.unit = findUnit(layout.point, table.fields, vocabulary);
     layout.epsg = findEpsg(table, layout.point, layout.unit);
     layout.roles = findSiteRoles(table, layout.point, vocabulary, stated);

@@ -26,10 +26,21 @@ bool isRoleOf(contract::TableKind kind, std::string_view name)
         return isRoleOfSites(name);
     constexpr std::string_view OfLinks[] = {"linkName", "lengthLink", "frequency",
                                             "band",     "diameter",   "repeater"};
-    constexpr std::string_view OfEnds[] = {
-        "siteId",        "siteName",       "x",       "y",    "pair",      "groundHeight",
-        "antennaHeight", "seaLevelHeight", "azimuth", "tilt", "frequency", "offsetX",
-        "offsetY",       "diameter"};
+    constexpr std::string_view OfEnds[] = {"siteId",
+                                           "siteName",
+                                           "x",
+                                           "y",
+                                           "pair",
+                                           "utmZone",
+                                           "groundHeight",
+                                           "antennaHeight",
+                                           "seaLevelHeight",
+                                           "azimuth",
+                                           "tilt",
+                                           "frequency",
+                                           "offsetX",
+                                           "offsetY",
+                                           "diameter"};
     const auto isIn = [](const auto &names, std::string_view of) {
         return std::find(std::begin(names), std::end(names), of) != std::end(names);
     };

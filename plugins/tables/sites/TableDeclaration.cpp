@@ -28,6 +28,8 @@ std::string epsgIn(const std::string &text)
 
 std::string findEpsg(const TableProfile &table, const PointFields &point, CoordinateUnit unit)
 {
+    if (point.utm && !point.utm->only)
+        return point.utm->epsg();
     for (const std::string &title : table.header.titles) {
         if (std::string code = epsgIn(title); !code.empty())
             return code;
@@ -52,7 +54,7 @@ std::string findEpsg(const TableProfile &table, const PointFields &point, Coordi
         lowerCase(table.fields[static_cast<std::size_t>(point.x.value)].name).find("wgs84") !=
             std::string::npos)
         return "4326";
-    return {};
+    return point.utm ? point.utm->epsg() : std::string();
 }
 
 } // namespace vlt::driver

@@ -959,5 +959,29 @@
         <source>the coordinates in columns "%1" and "%2" are whole degrees: their minutes and seconds may be missing</source>
         <translation>the coordinates in columns "%1" and "%2" are whole degrees: their minutes and seconds may be missing</translation>
     </message>
+    <message id="MESS_TAB_NOT_UTM">
+        <source>the coordinate "%1" cannot be read: a position in a zone of UTM has an easting from 100 000 to 900 000 m and a northing up to 10 000 000 m</source>
+        <translation>the coordinate "%1" cannot be read: a position in a zone of UTM has an easting from 100 000 to 900 000 m and a northing up to 10 000 000 m</translation>
+    </message>
+    <message id="MESS_TAB_NO_ZONE">
+        <source>the zone "%1" cannot be used: UTM has the zones 1 to 60, with a letter for the band or the hemisphere</source>
+        <translation>the zone "%1" cannot be used: UTM has the zones 1 to 60, with a letter for the band or the hemisphere</translation>
+    </message>
+    <message id="MESS_TAB_UTM_NORTH">
+        <source>the zones of UTM have no letter: they are taken as those of the northern hemisphere</source>
+        <translation>the zones of UTM have no letter: they are taken as those of the northern hemisphere</translation>
+    </message>
+    <message id="MESS_TAB_UTM_SOUTH">
+        <source>the zones of UTM have no letter: because of their northings, they are taken as those of the southern hemisphere</source>
+        <translation>the zones of UTM have no letter: because of their northings, they are taken as those of the southern hemisphere</translation>
+    </message>
+    <message id="MESS_TAB_GRID">
+        <source>the column "%1" holds positions in the %2 grid, which are not read</source>
+        <translation>the column "%1" holds positions in the %2 grid, which are not read</translation>
+    </message>
+    <message id="MESS_ROLE_UTM_ZONE">
+        <source>UTM zone</source>
+        <translation>UTM zone</translation>
+    </message>
 </context>
 </TS>

@@ -959,5 +959,29 @@
         <source>the coordinates in columns "%1" and "%2" are whole degrees: their minutes and seconds may be missing</source>
         <translation>les coordonnées des colonnes «&#xa0;%1&#xa0;» et «&#xa0;%2&#xa0;» sont des degrés entiers&#xa0;: leurs minutes et secondes manquent peut-être</translation>
     </message>
+    <message id="MESS_TAB_NOT_UTM">
+        <source>the coordinate "%1" cannot be read: a position in a zone of UTM has an easting from 100 000 to 900 000 m and a northing up to 10 000 000 m</source>
+        <translation>la coordonnée «&#xa0;%1&#xa0;» ne peut pas être lue&#xa0;: une position dans un fuseau UTM a une abscisse de 100 000 à 900 000 m et une ordonnée d'au plus 10 000 000 m</translation>
+    </message>
+    <message id="MESS_TAB_NO_ZONE">
+        <source>the zone "%1" cannot be used: UTM has the zones 1 to 60, with a letter for the band or the hemisphere</source>
+        <translation>le fuseau «&#xa0;%1&#xa0;» ne peut pas être utilisé&#xa0;: UTM a les fuseaux 1 à 60, avec une lettre pour la bande ou l'hémisphère</translation>
+    </message>
+    <message id="MESS_TAB_UTM_NORTH">
+        <source>the zones of UTM have no letter: they are taken as those of the northern hemisphere</source>
+        <translation>les fuseaux UTM n'ont pas de lettre&#xa0;: ils sont pris pour ceux de l'hémisphère nord</translation>
+    </message>
+    <message id="MESS_TAB_UTM_SOUTH">
+        <source>the zones of UTM have no letter: because of their northings, they are taken as those of the southern hemisphere</source>
+        <translation>les fuseaux UTM n'ont pas de lettre&#xa0;: à cause de leurs ordonnées, ils sont pris pour ceux de l'hémisphère sud</translation>
+    </message>
+    <message id="MESS_TAB_GRID">
+        <source>the column "%1" holds positions in the %2 grid, which are not read</source>
+        <translation>la colonne «&#xa0;%1&#xa0;» contient des positions dans la grille %2, qui ne sont pas lues</translation>
+    </message>
+    <message id="MESS_ROLE_UTM_ZONE">
+        <source>UTM zone</source>
+        <translation>Fuseau UTM</translation>
+    </message>
 </context>
 </TS>
