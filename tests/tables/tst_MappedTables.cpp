@@ -205,6 +205,8 @@ private Q_SLOTS:
         row("in parts", "site", "values_dms_columns.csv");
         row("pair", "site", "values_pair.csv");
         row("zones of UTM", "site", "values_utm_zones.csv");
+        row("by band", "site", "wide_bands.csv");
+        row("lists by band", "site", "lists_bands.csv");
         row("two sheets", "site", "book_sites_transmitters.xlsx");
         row("two files", "site", "joined_nodes.csv", "joined_sectors.csv");
         row("links", "link", "links_tx_rx_pl.csv");

@@ -97,6 +97,25 @@ public:
         return -1;
     }
 
+    /// The frequency band in MHz that a number says: 900 in "900 Azimuth"; 0 for none.
+    int takeBand()
+    {
+        constexpr int MinBand = 400;
+        constexpr int MaxBand = 6000;
+        constexpr int Step = 50; // between the names of bands
+        for (std::size_t at = 0; at < m_words.size(); ++at) {
+            const std::string &word = m_words[at];
+            int number = 0;
+            if (!m_isTaken[at] && isNumber(word))
+                std::from_chars(word.data(), word.data() + word.size(), number);
+            if (number < MinBand || number > MaxBand || number % Step != 0)
+                continue;
+            m_isTaken[at] = true;
+            return number;
+        }
+        return 0;
+    }
+
     /// The part of a coordinate that a word or two words say: "deg", "E/W".
     CoordinatePart takePart()
     {
@@ -189,6 +208,12 @@ private:
     std::vector<bool> m_isUnit; ///< also the last word of a phrase that is one
 };
 
+bool isOfAntenna(Role role)
+{
+    return role == Role::AntennaHeight || role == Role::Azimuth || role == Role::MechanicalTilt ||
+           role == Role::ElectricalTilt || role == Role::Tilt || role == Role::BeamWidth;
+}
+
 bool isCoordinate(Role role)
 {
     return role >= Role::Longitude && role <= Role::Y;
@@ -201,6 +226,8 @@ NameMatch matchOf(Role role, const std::vector<std::string> &words, std::size_t 
     match.role = role;
     Remainder remainder(words, first, count, vocabulary);
     match.sector = remainder.takeSector();
+    if (isOfAntenna(role))
+        match.band = remainder.takeBand();
     if (isCoordinate(role))
         match.part = remainder.takePart();
     const int unknown = remainder.unknownWords();
@@ -266,7 +293,13 @@ std::vector<NameMatch> matchName(const std::vector<std::string> &words,
                 const Role role = static_cast<Role>(i);
                 if (!meaning->roles[static_cast<std::size_t>(i)] || vocabulary.forbids(role, words))
                     continue;
+                // "Beam" may be a width, but "Beam 1 height" names the sector
+                if (role == Role::BeamWidth && meaning->isSector && words.size() > 1)
+                    continue;
                 NameMatch match = matchOf(role, words, first, count, vocabulary);
+                if (role == Role::AntennaHeight && joined.size() == 1 &&
+                    match.strength < StrengthBesideKnown)
+                    continue;
                 const auto same =
                     std::find_if(matches.begin(), matches.end(),
                                  [role](const NameMatch &other) { return other.role == role; });

@@ -16,6 +16,7 @@ struct NameMatch
     /// 100 for a name that says nothing else, less for each word that is not understood.
     int strength = 0;
     int sector = 0; ///< number of the sector in the name, from 0; -1 for none
+    int band = 0;   ///< MHz, of a frequency band in the name of a value of transmitters; 0 for none
     CoordinatePart part = CoordinatePart::Whole;
     /// The other words, without those of sectors and units: the same for both coordinates of a
     /// position.

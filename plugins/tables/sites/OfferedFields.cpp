@@ -101,7 +101,9 @@ private:
         quantity(&Fields::electricalTilt, "Electrical tilt (\u00B0)", OfferedValue::ElectricalTilt,
                  isKnown);
         quantity(&Fields::beamWidth, "Beam width (\u00B0)", OfferedValue::BeamWidth, isKnown);
-        quantity(&Fields::frequency, "Frequency (MHz)", OfferedValue::Frequency, isKnown);
+        if (!isKnown &&
+            any([](const Fields &of) { return of.frequency.found() || of.bandMHz.has_value(); }))
+            add(prefix + "Frequency (MHz)", OfferedValue::Frequency, index);
         text(&Fields::technology, "Technology", OfferedValue::Technology, isKnown);
     }
 

@@ -43,11 +43,12 @@ public:
         useLevels();
         addCounter();
         dropStated();
+        numberBands();
         numberRepeatedNames();
         numberSequences();
         numberFirstOfSeries();
         const bool areNumbered = dropNumbersOfOthers();
-        return {std::move(m_candidates), areNumbered};
+        return {std::move(m_candidates), areNumbered, std::move(m_bandsMHz)};
     }
 
 private:
@@ -55,10 +56,10 @@ private:
     {
         const std::vector<std::string> &words = m_table.words(field);
         std::vector<NameMatch> matches = matchName(words, m_table.vocabulary());
-        if (matches.empty()) {
-            if (const auto ofRows = matchKindOfRows(words, m_table.vocabulary()))
-                matches.push_back(*ofRows);
-        }
+        const auto ofRows = matchKindOfRows(words, m_table.vocabulary());
+        const bool isBeam = matches.size() == 1 && matches[0].role == Role::BeamWidth;
+        if (ofRows && (matches.empty() || (isBeam && !areWidths(m_table.facts(field)))))
+            matches = {*ofRows};
         for (const NameMatch &match : matches) {
             if (!isRoleOfSite(match.role) && !isRoleOfTransmitter(match.role))
                 continue;
@@ -67,6 +68,49 @@ private:
             if (fit < MinFit)
                 continue;
             m_candidates.push_back({field, match.role, match.sector, match.strength * fit});
+            if (match.band > 0)
+                m_bandOf[{field, match.role}] = match.band;
+        }
+    }
+
+    /// Whether the values of a column that is called "Beam" are beam widths and no numbers of
+    /// beams.
+    static bool areWidths(const ColumnFacts &facts)
+    {
+        constexpr double MinWidthDeg = 10;
+        constexpr double MinSureWidthDeg = 30;
+        return facts.numeric > 0 && facts.minimum >= MinWidthDeg &&
+               (facts.minimum >= MinSureWidthDeg || facts.distinct < facts.filled);
+    }
+
+    /// Numbers columns by their frequency bands, and by the sectors within these.
+    void numberBands()
+    {
+        const auto bandOf = [this](const SiteCandidate &candidate) {
+            const auto band = m_bandOf.find({candidate.field, candidate.role});
+            return band == m_bandOf.end() ? 0 : band->second;
+        };
+        std::map<std::pair<int, int>, int> numbers; // by band and sector
+        std::set<int> bands;
+        for (const SiteCandidate &candidate : m_candidates) {
+            const int band = bandOf(candidate);
+            if (countsTransmitters(candidate.role) && band == 0 && candidate.owner >= 0)
+                return; // the columns are numbered in another manner
+            if (band > 0) {
+                bands.insert(band);
+                numbers.emplace(std::pair(band, candidate.owner), 0);
+            }
+        }
+        if (bands.size() < 2)
+            return;
+        int number = 0;
+        for (auto &[bandAndSector, ofTransmitter] : numbers) {
+            ofTransmitter = ++number;
+            m_bandsMHz[number] = bandAndSector.first;
+        }
+        for (SiteCandidate &candidate : m_candidates) {
+            if (const int band = bandOf(candidate); band > 0)
+                candidate.owner = numbers[{band, candidate.owner}];
         }
     }
 
@@ -102,10 +146,21 @@ private:
             const Role role = roleOfName(name);
             const bool isList = fields.size() > 1 && isRoleOfTransmitter(role);
             for (std::size_t i = 0; i < fields.size(); ++i) {
-                if (fields[i] >= 0 && (isRoleOfSite(role) || isRoleOfTransmitter(role)))
-                    m_candidates.push_back(
-                        {fields[i], role, isList ? numbers[i] : -1, ScoreOfStated, true});
+                if (fields[i] < 0 || (!isRoleOfSite(role) && !isRoleOfTransmitter(role)))
+                    continue;
+                m_candidates.push_back(
+                    {fields[i], role, isList ? numbers[i] : -1, ScoreOfStated, true});
+                if (isList)
+                    addStatedBand(fields[i], role, numbers[i]);
             }
+        }
+    }
+
+    void addStatedBand(int field, Role role, int number)
+    {
+        for (const NameMatch &match : matchName(m_table.words(field), m_table.vocabulary())) {
+            if (match.role == role && match.band > 0)
+                m_bandsMHz[number] = match.band;
         }
     }
 
@@ -352,6 +407,8 @@ private:
     const PointFields &m_point;
     const std::vector<std::string> &m_places;
     std::vector<SiteCandidate> m_candidates;
+    std::map<std::pair<int, Role>, int> m_bandOf; ///< MHz, by column and role
+    std::map<int, int> m_bandsMHz;                ///< by number of the transmitter
 };
 
 } // namespace

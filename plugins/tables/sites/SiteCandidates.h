@@ -4,6 +4,7 @@
 #include "plugins/tables/sites/RoleCandidate.h"
 #include "plugins/tables/sites/SampledTable.h"
 
+#include <map>
 #include <string>
 #include <vector>
 
@@ -17,6 +18,9 @@ struct SiteCandidates
 {
     std::vector<SiteCandidate> list;
     bool areNumbered = false; ///< the columns are numbered by transmitter
+    /// The frequency bands in MHz of transmitters by their numbers, where columns are named by
+    /// band: "900 Azimuth", "1800 Azimuth".
+    std::map<int, int> bandsMHz;
 };
 
 bool isRoleOfSite(Role role);

@@ -27,7 +27,7 @@ public:
         for (const SiteCandidate &chosen : chooseRoles(candidates.list))
             m_roles.columns.push_back({chosen.field, chosen.role, chosen.owner,
                                        m_table.evidence(chosen.field, chosen.role)});
-        fill(candidates.areNumbered, places);
+        fill(candidates, places);
         reportUnusedAzimuths(candidates.list);
         addCoordinates();
         return std::move(m_roles);
@@ -62,8 +62,9 @@ private:
         return {field, unitOfName(m_table.words(field), unit, m_table.vocabulary())};
     }
 
-    void fill(bool isNumbered, const std::vector<std::string> &places)
+    void fill(const SiteCandidates &candidates, const std::vector<std::string> &places)
     {
+        const bool isNumbered = candidates.areNumbered;
         std::map<int, TransmitterFields> transmitters;
         for (const ColumnRole &column : m_roles.columns) {
             if (column.role == Role::SiteId)
@@ -84,6 +85,9 @@ private:
                 nameSectorsBySites(fields);
         for (auto &[number, fields] : transmitters) {
             fields.number = number;
+            if (const auto band = candidates.bandsMHz.find(number);
+                band != candidates.bandsMHz.end())
+                fields.bandMHz = band->second;
             // heights alone are those of towers as well
             if (fields.azimuth.found() ||
                 (fields.height.found() &&
@@ -94,9 +98,11 @@ private:
         if (m_roles.transmitters.empty())
             return;
         const TransmitterFields &first = m_roles.transmitters.front();
-        m_roles.shape = isNumbered ? SiteShape::Numbered
-                        : holdsLists(first.azimuth) || holdsLists(first.height) ? SiteShape::Lists
-                                                                                : SiteShape::Tall;
+        const bool mayBeLists = !isNumbered || first.bandMHz;
+        const bool areLists = mayBeLists && (holdsLists(first.azimuth) || holdsLists(first.height));
+        m_roles.shape = areLists     ? SiteShape::Lists
+                        : isNumbered ? SiteShape::Numbered
+                                     : SiteShape::Tall;
     }
 
     /// Takes the names that hold the sector for those of the transmitters, unless a column names

@@ -6,6 +6,7 @@
 #include "plugins/tables/table/RowProblem.h"
 #include "plugins/tables/values/Quantity.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -24,6 +25,7 @@ struct TransmitterFields
     QuantityField beamWidth;
     QuantityField frequency;
     int band = -1;
+    std::optional<double> bandMHz; ///< in the names of its columns
     int technology = -1;
 };
 

@@ -72,6 +72,8 @@ public:
         values.sectorId = text(fields.sectorId);
         values.technology = technology(fields.technology);
         values.frequencyMHz = frequencyMHz(fields.frequency);
+        if (!values.frequencyMHz)
+            values.frequencyMHz = fields.bandMHz;
         return values;
     }
 
