@@ -151,8 +151,11 @@ public:
         : m_columns(columns)
         , m_rowCount(columns.empty() ? 0 : columns.front().size())
     {
-        for (const std::vector<std::string> &column : columns)
+        for (const std::vector<std::string> &column : columns) {
             m_values.push_back(valuesOf(column, vocabulary));
+            m_isFirstOfData = m_isFirstOfData ||
+                              (m_values.back().areNumbers() && parseEitherNumber(column.front()));
+        }
     }
 
     std::map<int, std::string> names()
@@ -167,10 +170,11 @@ public:
     }
 
 private:
-    /// Whether the first row, which would hold a name, and nearly all others have such a value.
+    /// Whether nearly all rows have such a value, among them the first, which would hold a name;
+    /// unless it has a number in a column of numbers, so that it holds no names.
     bool isCommon(std::size_t count, const Values &values, std::size_t column) const
     {
-        return !m_columns[column].front().empty() && count == values.filled &&
+        return (m_isFirstOfData || !m_columns[column].front().empty()) && count == values.filled &&
                values.filled * 10 >= m_rowCount * 9;
     }
 
@@ -312,6 +316,7 @@ private:
 
     const std::vector<std::vector<std::string>> &m_columns;
     std::size_t m_rowCount;
+    bool m_isFirstOfData = false;
     std::vector<Values> m_values;
     std::map<int, std::string> m_names;
 };
