@@ -246,6 +246,35 @@ private Q_SLOTS:
         QCOMPARE(read, rows);
     }
 
+    void reportsHiddenRows()
+    {
+        const Warnings warnings;
+        const auto row = [](const QByteArray &attributes, const QByteArray &id) {
+            QByteArray cells;
+            for (const QByteArray &text : {id, QByteArray("2"), QByteArray("48")})
+                cells += "<Cell><Data ss:Type=\"Number\">" + text + "</Data></Cell>";
+            return "<Row " + attributes + ">" + cells + "</Row>";
+        };
+        const QByteArray hidden = "ss:Hidden=\"1\"";
+        QByteArray header = row("", "Site ID");
+        header.replace(">2<", ">X<").replace(">48<", ">Y<").replace("Number", "String");
+        write("h.xml", "<?xml version=\"1.0\"?><Workbook "
+                       "xmlns=\"urn:schemas-microsoft-com:office:spreadsheet\" "
+                       "xmlns:ss=\"urn:schemas-microsoft-com:office:spreadsheet\">"
+                       "<Worksheet ss:Name=\"S\"><Table>" +
+                           header + row("", "1") + row(hidden, "2") + row("", "3") +
+                           row(hidden, "4") + "</Table></Worksheet></Workbook>");
+        const auto dataset = open("h.xml");
+        QVERIFY(dataset);
+
+        QCOMPARE(dataset->GetLayer(0)->GetFeatureCount(), 4);
+        const QStringList problems = problemsOf(*dataset->GetLayer(0));
+        QVERIFY2(problems.join(u'\n').contains(
+                     QStringLiteral("hidden rows are read like all others: 2 of them, the first of "
+                                    "which is row 3")),
+                 qPrintable(problems.join(u'\n')));
+    }
+
     void findsTheEncoding_data()
     {
         const Cases<QByteArray, QByteArray, QByteArray, QByteArray> row(

@@ -22,6 +22,8 @@ public:
     virtual bool advance() = 0;
     /// Number of the row in the file, from 1.
     virtual int64_t rowNumber() const = 0;
+    /// Whether office programs do not show this row, because it is hidden or filtered out.
+    virtual bool isHidden() const { return false; }
     /// Whether one of the columns 0 .. lastColumn of this row holds more than white space.
     virtual bool hasContent(int lastColumn) = 0;
     /// A number that is equal for two rows that begin with the same value, in text tables also if

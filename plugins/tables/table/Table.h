@@ -49,6 +49,8 @@ struct TableProfile
     std::vector<int64_t> leftOutRows; ///< numbers of rows below the header without data, ascending
     std::vector<int64_t> totalRows;   ///< those of them that hold sums
     uint64_t repeatedHeaders = 0;     ///< number of further rows that repeat one of the header
+    uint64_t hiddenRows = 0;          ///< number of rows with data that office programs do not show
+    int64_t firstHiddenRow = 0;       ///< number of the first of them in the file
     std::vector<RowMark> marks;       ///< every few thousand rows, ascending
     /// The texts of the cells of the first rows, by field and row; empty for empty cells.
     std::vector<std::vector<std::string>> sampledColumns;
@@ -122,6 +124,7 @@ public:
     /// Goes to the row with that number, or else to the next one after it; false if there is none.
     bool seek(int64_t row);
     int64_t rowNumber() const { return m_rows->rowNumber(); }
+    bool isHidden() const { return m_rows->isHidden(); }
     uint64_t position() const { return m_rows->position(); }
     /// See RowReader::leaveOutTexts().
     void leaveOutTexts(const std::vector<char> *columns)

@@ -87,6 +87,8 @@ private:
         else
             m_profile.allRowsSampled = false;
         ++m_profile.rowCount;
+        if (rows.isHidden() && m_profile.hiddenRows++ == 0)
+            m_profile.firstHiddenRow = rows.rowNumber();
     }
 
     void leaveOutTotals()
@@ -156,6 +158,7 @@ void scanTable(const Sheet &sheet, const std::shared_ptr<TableProfile> &profile,
     profile->marks.clear();
     profile->leftOutRows.clear();
     profile->totalRows.clear();
+    profile->hiddenRows = 0;
     DataRows rows(sheet, profile);
     Scan(*profile, vocabulary, sample).run(rows, maxRows);
 }

@@ -983,5 +983,9 @@
         <source>UTM zone</source>
         <translation>UTM zone</translation>
     </message>
+    <message id="MESS_TAB_HIDDEN_ROWS">
+        <source>hidden rows are read like all others: %1 of them, the first of which is row %2</source>
+        <translation>hidden rows are read like all others: %1 of them, the first of which is row %2</translation>
+    </message>
 </context>
 </TS>

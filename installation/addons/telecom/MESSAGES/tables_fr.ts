@@ -983,5 +983,9 @@
         <source>UTM zone</source>
         <translation>Fuseau UTM</translation>
     </message>
+    <message id="MESS_TAB_HIDDEN_ROWS">
+        <source>hidden rows are read like all others: %1 of them, the first of which is row %2</source>
+        <translation>les lignes masquées sont lues comme les autres&#xa0;: %1 en tout, dont la première est la ligne %2</translation>
+    </message>
 </context>
 </TS>

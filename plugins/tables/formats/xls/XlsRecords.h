@@ -84,6 +84,7 @@ enum XlsRecordType : uint16_t {
     XlsBoolErr = 0x0205,
     XlsFormula3 = 0x0206, ///< of BIFF3; the three formula records are equal up to the result
     XlsString = 0x0207,
+    XlsRow = 0x0208,
     XlsRk = 0x027E,
     XlsFormula4 = 0x0406,
     XlsFormat = 0x041E,

@@ -89,6 +89,15 @@ void XlsRows::addText(std::string_view data, std::string text)
     texts.push_back(std::move(text));
 }
 
+/// The properties of a row, which stand before its cells.
+void XlsRows::readRow(std::string_view data)
+{
+    constexpr std::size_t Flags = 12;
+    constexpr uint16_t Hidden = 0x20;
+    if (data.size() >= Flags + 2 && (u16(data.data() + Flags) & Hidden) != 0)
+        m_hidden.insert(u16(data.data()));
+}
+
 void XlsRows::readMulRk(std::string_view data)
 {
     if (data.size() < CellHead)
@@ -138,6 +147,9 @@ bool XlsRows::readRecord()
     case XlsRk:
         if (data.size() >= CellHead + 4)
             add(data, RawCell::Kind::Number, rkNumber(u32(data.data() + CellHead)), 0);
+        break;
+    case XlsRow:
+        readRow(data);
         break;
     case XlsMulRk:
         readMulRk(data);

@@ -4,6 +4,7 @@
 #include "plugins/tables/formats/xls/XlsContext.h"
 
 #include <memory>
+#include <unordered_set>
 
 namespace vlt::driver {
 
@@ -15,6 +16,7 @@ public:
 
     bool advance() override;
     int64_t rowNumber() const override { return m_rowNumber; }
+    bool isHidden() const override { return m_hidden.contains(m_rowNumber - 1); }
     bool hasContent(int lastColumn) override;
     uint64_t fingerprint() override;
     void cells(Row &row) override;
@@ -32,6 +34,7 @@ private:
     };
 
     bool readRecord();
+    void readRow(std::string_view data);
     void readMulRk(std::string_view data);
     void readFormula(std::string_view data);
     void readBoolErr(std::string_view data);
@@ -55,6 +58,7 @@ private:
     std::vector<RawCell> m_nextCells; ///< first cells of the next row, which end this one
     std::vector<std::string> m_nextTexts;
     bool m_ended = false;
+    std::unordered_set<int64_t> m_hidden; ///< rows, from 0; at most 65536
 };
 
 } // namespace vlt::driver

@@ -12,7 +12,7 @@ namespace vlt::driver {
 
 namespace {
 
-constexpr XmlRowFramer::Names SheetNames = {"worksheet", "sheetData", "row", "r"};
+constexpr XmlRowFramer::Names SheetNames = {"worksheet", "sheetData", "row", "r", "hidden"};
 
 bool isBlank(char c)
 {

@@ -39,6 +39,7 @@ public:
 
     bool advance() override { return m_framer.advance(); }
     int64_t rowNumber() const override { return m_framer.rowNumber(); }
+    bool isHidden() const override { return m_framer.isHidden(); }
     bool hasContent(int lastColumn) override;
     uint64_t fingerprint() override;
     void cells(Row &row) override;

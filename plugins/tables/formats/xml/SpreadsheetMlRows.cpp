@@ -9,7 +9,7 @@ namespace vlt::driver {
 
 namespace {
 
-constexpr XmlRowFramer::Names TableNames = {"Worksheet", "Table", "Row", "Index"};
+constexpr XmlRowFramer::Names TableNames = {"Worksheet", "Table", "Row", "Index", "Hidden"};
 constexpr std::string_view MidnightSuffix = "T00:00:00.000";
 
 /// A Cell element with a Data element.

@@ -74,6 +74,8 @@ bool XmlRowFramer::advance()
             if (said >= m_nextRow && said <= LastRowNumber)
                 number = said;
         }
+        const auto hidden = attribute(tag.attributes, m_names.hidden);
+        m_isHidden = hidden && (*hidden == "1" || *hidden == "true");
         m_rowNumber = number;
         m_nextRow = number + 1;
         if (tag.kind == XmlTag::Kind::Empty)

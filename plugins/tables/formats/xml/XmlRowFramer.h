@@ -13,13 +13,15 @@ namespace vlt::driver {
 class XmlRowFramer
 {
 public:
-    /// Local names of the elements, and the attribute with the number of a row.
+    /// Local names of the elements, and of the attributes with the number of a row and whether it
+    /// is hidden.
     struct Names
     {
         std::string_view sheet;     ///< element around the container
         std::string_view container; ///< element around the rows
         std::string_view row;
         std::string_view number;
+        std::string_view hidden;
     };
 
     /// @param insideContainer  the stream starts at a row; otherwise before the container
@@ -31,6 +33,7 @@ public:
     /// Goes to the next row element that is not empty.
     bool advance();
     int64_t rowNumber() const { return m_rowNumber; }
+    bool isHidden() const { return m_isHidden; }
     /// Markup between the row's opening and closing tags.
     std::string_view inside() const;
     /// Position of the row's opening tag in the stream, plus streamOffset.
@@ -51,6 +54,7 @@ private:
     const char *m_rowEnd = nullptr;
     uint64_t m_rowPosition = 0;
     int64_t m_rowNumber = 0;
+    bool m_isHidden = false;
     int64_t m_nextRow;
     std::string m_prefix;
     std::string m_closing; ///< "</prefix:row"
