@@ -32,21 +32,22 @@ void LinkFates::read(const FieldCells &cells, ReportedRow &row)
     row.firstRow = row.number;
 }
 
-bool LinkFates::readSecond(const SecondTable &second, ReportedRow &row)
+RowKind LinkFates::readSecond(const SecondTable &second, ReportedRow &row)
 {
     if (!m_endSites)
         m_endSites.emplace(second);
-    if (!m_endSites->advance())
-        return false;
+    const RowKind kind = m_endSites->advanceToAny();
     EndSiteRow &site = m_endSites->row();
     row.number = site.number;
+    if (kind != RowKind::Data)
+        return kind;
     row.reasons = std::move(site.problems);
     row.site = site.id.empty() ? site.name : site.id;
     if (site.position.found) {
         row.fate = Fate::Used;
         row.firstRow = row.number;
     }
-    return true;
+    return kind;
 }
 
 } // namespace vlt::driver

@@ -15,7 +15,7 @@ public:
     explicit LinkFates(const TableSource &source);
 
     void read(const FieldCells &cells, ReportedRow &row) override;
-    bool readSecond(const SecondTable &second, ReportedRow &row) override;
+    RowKind readSecond(const SecondTable &second, ReportedRow &row) override;
 
 private:
     TableSource m_source;

@@ -33,15 +33,29 @@ EndSiteRows::EndSiteRows(const SecondTable &sites)
 
 bool EndSiteRows::advance()
 {
-    if (!m_rows->advance())
-        return false;
+    const bool isRow = m_rows->advance();
+    if (isRow)
+        read();
+    return isRow;
+}
+
+RowKind EndSiteRows::advanceToAny()
+{
+    const RowKind kind = m_rows->advanceToAny();
+    m_row.number = m_rows->rowNumber();
+    if (kind == RowKind::Data)
+        read();
+    return kind;
+}
+
+void EndSiteRows::read()
+{
     m_row.number = m_rows->rowNumber();
     m_row.problems.clear();
     m_cells.take(m_rows->cells(), m_row.problems);
     m_row.id = fieldText(m_cells.cells(), m_layout.roles.siteId);
     m_row.name = fieldText(m_cells.cells(), m_layout.roles.siteName);
     m_row.position = m_positions.read(m_row.number, m_cells.cells(), m_row.problems);
-    return true;
 }
 
 std::optional<EndSites> readEndSites(const SecondTable &sites)

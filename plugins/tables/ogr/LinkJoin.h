@@ -46,9 +46,14 @@ public:
     const SiteLayout &layout() const { return m_layout; }
     /// Goes to the next row; false after the last.
     bool advance();
+    /// Goes to the next row that holds anything, of which only rows of data have more than a
+    /// number; Nothing after the last.
+    RowKind advanceToAny();
     EndSiteRow &row() { return m_row; }
 
 private:
+    void read();
+
     SiteLayout m_layout;
     PositionReader m_positions;
     FieldCells m_cells;

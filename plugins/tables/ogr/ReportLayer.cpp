@@ -121,7 +121,7 @@ GIntBig FatesLayer::GetFeatureCount(int force)
         GIntBig count = static_cast<GIntBig>(source().facts().table.rowCountWithAll());
         guarded(GetDescription(), [&] {
             if (const auto second = source().file->secondTable())
-                count += static_cast<GIntBig>(second->profile().rowCount);
+                count += static_cast<GIntBig>(second->profile().rowCountWithAll());
         });
         m_count = count;
     }
@@ -190,7 +190,8 @@ std::unique_ptr<OGRFeature> RejectsLayer::firstFeature()
 std::unique_ptr<OGRFeature> RejectsLayer::featureOf(RowReport &rows)
 {
     const ReportedRow &row = rows.row();
-    if (row.kind != RowKind::Head && !isReject(row))
+    const bool isHead = row.kind == RowKind::Head && !row.isSecond;
+    if (!isHead && !isReject(row))
         return nullptr;
     return lineFeature(row.number,
                        delimitedLine(rows.cells(), m_delimiter, source().facts().table.lastColumn));

@@ -24,37 +24,39 @@ RowReport::RowReport(const TableSource &source)
     , m_fates(fatesOf(source))
 {}
 
+/// Gives the reason why a row without data is left out.
+void RowReport::explainKind()
+{
+    using Text = contract::TableTextId;
+    const bool isTotal = m_row.kind == RowKind::Total;
+    if (isTotal || m_row.kind == RowKind::RepeatedHeader)
+        m_row.reasons.push_back({m_row.number,
+                                 {},
+                                 false,
+                                 contract::formatted(isTotal ? Text("MESS_TAB_TOTAL_ROW")
+                                                             : Text("MESS_TAB_REPEATED_HEADER"))});
+}
+
 bool RowReport::advance()
 {
     m_row = {};
     if (!m_isSecond) {
         m_row.kind = m_rows->advanceToAny();
         m_row.number = m_rows->rowNumber();
-        const auto leaveOut = [this](contract::TableTextId why) {
-            m_row.reasons.push_back({m_row.number, {}, false, contract::formatted(why)});
-        };
-        switch (m_row.kind) {
-        case RowKind::Data:
+        if (m_row.kind == RowKind::Data) {
             m_cells.take(m_rows->cells(), m_row.reasons);
             m_fates->read(m_cells, m_row);
-            return true;
-        case RowKind::Total:
-            leaveOut("MESS_TAB_TOTAL_ROW");
-            return true;
-        case RowKind::RepeatedHeader:
-            leaveOut("MESS_TAB_REPEATED_HEADER");
-            return true;
-        case RowKind::Head:
-            return true;
-        case RowKind::Nothing:
-            break;
         }
-        m_isSecond = true;
-        m_second = m_source.file->secondTable();
+        m_isSecond = m_row.kind == RowKind::Nothing;
+        if (m_isSecond)
+            m_second = m_source.file->secondTable();
     }
-    m_row.kind = RowKind::Data;
-    m_row.isSecond = true;
-    return m_second && m_fates->readSecond(*m_second, m_row);
+    if (m_isSecond) {
+        m_row.isSecond = true;
+        m_row.kind = m_second ? m_fates->readSecond(*m_second, m_row) : RowKind::Nothing;
+    }
+    explainKind();
+    return m_row.kind != RowKind::Nothing;
 }
 
 void RowCounts::add(Fate fate)

@@ -39,9 +39,9 @@ public:
     /// Finds the fate of a row of data, whose number and problems with cells are known already. All
     /// rows are read, in the order of the file.
     virtual void read(const FieldCells &cells, ReportedRow &row) = 0;
-    /// The same for the next row of the table that completes the other, after the last row of that;
-    /// false if there is none.
-    virtual bool readSecond(const SecondTable &second, ReportedRow &row) = 0;
+    /// The same for the next row that holds anything in the table that completes the other, after
+    /// the last row of that. Only rows of data have a fate; Nothing if there is no row.
+    virtual RowKind readSecond(const SecondTable &second, ReportedRow &row) = 0;
 };
 
 /// Reads a table once more and reports the fate of every row that holds something; then those of
@@ -60,6 +60,8 @@ public:
     const std::optional<SecondTable> &second() const { return m_second; }
 
 private:
+    void explainKind();
+
     TableSource m_source;
     std::unique_ptr<DataRows> m_rows;
     FieldCells m_cells;

@@ -80,8 +80,23 @@ SectorRows::SectorRows(const SecondTable &sectors, int idField, const SiteNumber
 
 bool SectorRows::advance()
 {
-    if (!m_rows->advance())
-        return false;
+    const bool isRow = m_rows->advance();
+    if (isRow)
+        read();
+    return isRow;
+}
+
+RowKind SectorRows::advanceToAny()
+{
+    const RowKind kind = m_rows->advanceToAny();
+    m_row.number = m_rows->rowNumber();
+    if (kind == RowKind::Data)
+        read();
+    return kind;
+}
+
+void SectorRows::read()
+{
     m_row.number = m_rows->rowNumber();
     m_row.problems.clear();
     m_cells.take(m_rows->cells(), m_row.problems);
@@ -90,7 +105,6 @@ bool SectorRows::advance()
     m_row.losesTransmitters =
         m_row.problems.size() > before && !hasTransmitters(m_row.transmitters);
     findSite(m_cells.cells());
-    return true;
 }
 
 void SectorRows::findSite(const std::vector<const Cell *> &cells)
@@ -113,8 +127,7 @@ std::optional<JoinedSites> joinSectors(const TableProfile &table, SiteLayout &la
                                        const OpenRows &siteRows, const SecondTable &sectors,
                                        bool byName)
 {
-    const SiteRoles roles =
-        recogniseSiteLayout(sectors.profile(), installedVocabulary().words).roles;
+    SiteRoles roles = recogniseSiteLayout(sectors.profile(), installedVocabulary().words).roles;
     JoinColumns columns(table, layout.roles, sectors.profile(), roles);
     if (roles.transmitters.empty() || !findColumns(table, *siteRows(), byName, columns))
         return std::nullopt;

@@ -55,9 +55,13 @@ public:
 
     /// Goes to the next row; false after the last.
     bool advance();
+    /// Goes to the next row that holds anything, of which only rows of data have more than a
+    /// number; Nothing after the last.
+    RowKind advanceToAny();
     SectorRow &row() { return m_row; }
 
 private:
+    void read();
     void findSite(const std::vector<const Cell *> &cells);
 
     const TableProfile &m_table;

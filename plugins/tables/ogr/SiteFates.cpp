@@ -66,21 +66,22 @@ void SiteFates::read(const FieldCells &cells, ReportedRow &row)
             {row.number, {}, true, contract::formatted("MESS_TAB_NO_COORDINATES")});
 }
 
-bool SiteFates::readSecond(const SecondTable &second, ReportedRow &row)
+RowKind SiteFates::readSecond(const SecondTable &second, ReportedRow &row)
 {
     if (!m_sectors)
         m_sectors.emplace(second, m_source.facts().joinFields.sector, m_sitesByKey);
-    if (!m_sectors->advance())
-        return false;
+    const RowKind kind = m_sectors->advanceToAny();
     SectorRow &sector = m_sectors->row();
     row.number = sector.number;
+    if (kind != RowKind::Data)
+        return kind;
     row.reasons = std::move(sector.problems);
     if (sector.site)
         setSite(*sector.site, sector.losesTransmitters, row);
     else if (row.reasons.empty())
         row.reasons.push_back(
             {row.number, {}, true, contract::formatted("MESS_TAB_NO_SITE_NAMED")});
-    return true;
+    return kind;
 }
 
 } // namespace vlt::driver

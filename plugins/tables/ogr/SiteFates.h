@@ -14,7 +14,7 @@ public:
     explicit SiteFates(const TableSource &source);
 
     void read(const FieldCells &cells, ReportedRow &row) override;
-    bool readSecond(const SecondTable &second, ReportedRow &row) override;
+    RowKind readSecond(const SecondTable &second, ReportedRow &row) override;
 
 private:
     std::size_t siteOf(const FieldCells &cells, int64_t row);
