@@ -121,7 +121,7 @@ private Q_SLOTS:
             row("</textures>", list, "MESS_SCENE_BAD_IMAGE", {u"flat.asc"_s, reported(reason, {})});
         };
         QByteArray many;
-        for (int height = 1; height <= 12; ++height)
+        for (int height = 1; height <= 1002; ++height)
             many += "<texture filename='no.tif' height='" + QByteArray::number(height) + "'/>";
         row("</textures>", many + "</textures>", "MESS_SCENE_MORE_IMAGES", {u"2"_s});
         images(R"(<texture filename="flat.asc" height="2"/><texture filename="flat.asc" height="2"/>

@@ -17,7 +17,7 @@ namespace vlt::scene {
 namespace {
 
 constexpr std::size_t MaxOpenFiles = 128;
-constexpr std::size_t MaxNotices = 10;
+constexpr std::size_t MaxNotices = 1000;
 
 // Horizontal faces have exactly the colours of the legend. Walls are darker the less they face the
 // viewer, so that their corners are visible.

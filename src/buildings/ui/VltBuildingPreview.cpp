@@ -2,12 +2,12 @@
 
 #include "ui_BuildingPreview.h"
 
+#include "buildings/ui/NoticeList.h"
 #include "contract/SceneFactKeys.h"
 #include "language/ErrorText.h"
 #include "language/ReaderText.h"
 #include "preview/VisibleDistance.h"
 #include "snapshot/SceneNotices.h"
-#include "text/RichText.h"
 #include "wizard/base/BusyWait.h"
 
 #include <QFileInfo>
@@ -85,6 +85,9 @@ VltBuildingPreview::VltBuildingPreview(QWidget *parent)
     connect(m_ui->m_pwPbRefresh, &QPushButton::clicked, this,
             &VltBuildingPreview::refreshRequested);
     connect(m_ui->m_pwPbExt, &QPushButton::clicked, this, &VltBuildingPreview::resetView);
+    m_ui->m_pwPbNotices->hide();
+    connect(m_ui->m_pwPbNotices, &QPushButton::clicked, this,
+            [this] { vlt::buildings::showNotices(this, m_notices); });
 }
 
 VltBuildingPreview::~VltBuildingPreview() = default;
@@ -101,11 +104,8 @@ void VltBuildingPreview::setAutoRefresh(bool on)
 
 void VltBuildingPreview::showMessage(const QString &text)
 {
-    constexpr int MaxLines = 3;
-    const QStringList lines = text.split(QLatin1Char('\n'));
-    m_ui->m_pwLblScene->setText(lines.mid(0, MaxLines).join(QLatin1Char('\n')));
-    m_ui->m_pwLblScene->setToolTip(lines.size() > MaxLines ? vlt::text::asRichText(text)
-                                                           : QString());
+    m_ui->m_pwLblScene->setText(text);
+    m_ui->m_pwPbNotices->hide();
 }
 
 void VltBuildingPreview::showLayer(const QString &path, const QString &project)
@@ -154,7 +154,11 @@ void VltBuildingPreview::showScene(const vlt::snapshot::Scene &scene, const QStr
                                ? tr("Buildings: %1, left out: %2", "MESS_BUILDINGS_LEFT_OUT")
                                      .arg(shown, numbers.toString(leftOut))
                                : tr("Buildings: %1", "MESS_BUILDINGS_SHOWN").arg(shown);
-    showMessage((QStringList(counts) + notices).join(QLatin1Char('\n')));
+    showMessage((QStringList(counts) + notices.mid(0, 1)).join(QLatin1Char('\n')));
+    m_notices = notices;
+    m_ui->m_pwPbNotices->setVisible(notices.size() > 1);
+    m_ui->m_pwPbNotices->setText(
+        tr("%1 notices...", "MESS_NOTICES").arg(numbers.toString(notices.size())));
 }
 
 void VltBuildingPreview::resetView()

@@ -3,6 +3,7 @@
 #include "snapshot/SceneSource.h"
 
 #include <QGroupBox>
+#include <QStringList>
 
 #include <memory>
 
@@ -11,7 +12,9 @@ class BuildingPreview;
 }
 
 /// The 3D view of a layer of buildings just written, with auto refresh, refresh and reset of the
-/// view. Layers are read on another thread, with a progress bar and a button to cancel.
+/// view. Below it are the number of buildings and the first notice of the reader; a button opens
+/// the list of all if there are more. Layers are read on another thread, with a progress bar and a
+/// button to cancel.
 class VltBuildingPreview : public QGroupBox
 {
     Q_OBJECT
@@ -44,5 +47,6 @@ private:
     void showScene(const vlt::snapshot::Scene &scene, const QStringList &notices);
 
     std::unique_ptr<Ui::BuildingPreview> m_ui;
-    QString m_place; ///< centre of the last scene
+    QString m_place;       ///< centre of the last scene
+    QStringList m_notices; ///< about the last scene
 };

@@ -95,5 +95,22 @@ Its files are temporary: Ctrl+S saves the layer permanently, together with its d
         <translation>Drag the layer file into the builder; Ctrl+C copies it to be pasted there.
 Its files are temporary: Ctrl+S saves the layer permanently, together with its document and legend.</translation>
     </message>
+    <message id="MESS_NOTICES">
+        <source>%1 notices...</source>
+        <extracomment>%1: their number, two or more.</extracomment>
+        <translation>%1 notices...</translation>
+    </message>
+    <message id="MESS_TIP_NOTICES">
+        <source>Show all notices about the layer, to read or copy them</source>
+        <translation>Show all notices about the layer, to read or copy them</translation>
+    </message>
+    <message id="MESS_NOTICES_TITLE">
+        <source>Notices about the layer</source>
+        <translation>Notices about the layer</translation>
+    </message>
+    <message id="MESS_COPY_NOTICES">
+        <source>&amp;Copy all</source>
+        <translation>&amp;Copy all</translation>
+    </message>
 </context>
 </TS>

@@ -95,5 +95,22 @@ Its files are temporary: Ctrl+S saves the layer permanently, together with its d
         <translation>Faites glisser le fichier de couche dans Veltaro Builder ; Ctrl+C le copie pour l'y coller.
 Ses fichiers sont temporaires : Ctrl+S enregistre durablement la couche, avec son document et sa légende.</translation>
     </message>
+    <message id="MESS_NOTICES">
+        <source>%1 notices...</source>
+        <extracomment>%1: their number, two or more.</extracomment>
+        <translation>%1 remarques...</translation>
+    </message>
+    <message id="MESS_TIP_NOTICES">
+        <source>Show all notices about the layer, to read or copy them</source>
+        <translation>Afficher toutes les remarques sur la couche, pour les lire ou les copier</translation>
+    </message>
+    <message id="MESS_NOTICES_TITLE">
+        <source>Notices about the layer</source>
+        <translation>Remarques sur la couche</translation>
+    </message>
+    <message id="MESS_COPY_NOTICES">
+        <source>&amp;Copy all</source>
+        <translation>&amp;Tout copier</translation>
+    </message>
 </context>
 </TS>
