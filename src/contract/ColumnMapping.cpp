@@ -135,22 +135,23 @@ OrderedJson jsonOf(const StatedColumns &columns)
 /// The last entry of a mapping, whose many rows take a line each.
 std::string correctionLines(const std::vector<PositionCorrection> &corrections)
 {
-    const std::string margin(Indent, ' ');
-    std::string text = ",\n" + margin + '"' + Corrections + "\": [";
+    const auto line = [](std::string &text, bool isFirst, std::size_t depth) -> std::string & {
+        return text.append(isFirst ? "\n" : ",\n").append(depth * std::size_t{Indent}, ' ');
+    };
+    std::string text;
+    line(text, false, 1).append("\"").append(Corrections).append("\": [");
     for (const PositionCorrection &correction : corrections) {
-        std::string head = dumped(headOf(correction));
-        text += (&correction == &corrections.front() ? "\n" : ",\n") + margin + margin;
-        if (!correction.rows.empty()) {
-            head.pop_back(); // the closing brace
-            head += ",\"rows\":[";
-            for (const CorrectedRow &row : correction.rows)
-                head += (&row == &correction.rows.front() ? "\n" : ",\n") + margin + margin +
-                        margin + dumped(jsonOf(row));
-            head += "]}";
-        }
-        text += head;
+        line(text, &correction == &corrections.front(), 2).append(dumped(headOf(correction)));
+        if (correction.rows.empty())
+            continue;
+        text.pop_back(); // the closing brace
+        text += ",\"rows\":[";
+        for (const CorrectedRow &row : correction.rows)
+            line(text, &row == &correction.rows.front(), 3).append(dumped(jsonOf(row)));
+        text += "]}";
     }
-    return text + "\n" + margin + "]\n}";
+    line(text, true, 1).append("]\n}");
+    return text;
 }
 
 } // namespace

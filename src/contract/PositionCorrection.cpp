@@ -70,7 +70,8 @@ PositionCorrection correctionOf(const Json &value, const std::string &place)
     PositionCorrection correction;
     correction.change = changeOf(value[Change], place + '.' + Change);
     for (const auto &[key, member] : value.items()) {
-        const std::string where = place + '.' + key;
+        std::string where = place;
+        where.append(".").append(key);
         if (key == Factor && hasFactor(correction.change))
             correction.factor = factorOf(member, where);
         else if (key == Rows && member.is_array() && !member.empty())
