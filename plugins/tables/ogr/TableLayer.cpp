@@ -365,12 +365,12 @@ ProblemList TableLayer::fileProblems() const
     if (const std::string &absence = facts().table.header.absence; !absence.empty())
         problems.add({0, {}, false, absence});
     if (const uint64_t hidden = facts().table.hiddenRows; hidden > 0)
-        problems.add({0,
-                      {},
-                      false,
-                      formatted("MESS_TAB_HIDDEN_ROWS",
-                                {std::to_string(hidden),
-                                 std::to_string(facts().table.firstHiddenRow)})});
+        problems.add(
+            {0,
+             {},
+             false,
+             formatted("MESS_TAB_HIDDEN_ROWS",
+                       {std::to_string(hidden), std::to_string(facts().table.firstHiddenRow)})});
     for (const int64_t row : facts().table.totalRows)
         problems.add({row, {}, false, formatted("MESS_TAB_TOTAL_ROW")});
     std::vector<RowProblem> ofHeader;

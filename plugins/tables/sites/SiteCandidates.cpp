@@ -186,6 +186,12 @@ private:
             if (isName(candidate) && !candidate.isStated)
                 adjustToLevel(candidate, hasAzimuths);
         }
+        for (SiteCandidate &candidate : m_candidates) {
+            if (candidate.role == Role::SiteId && !candidate.isStated && hasAzimuths &&
+                holdsIdsOfSectors(candidate.field))
+                candidate.role =
+                    areSitesNamedBeside(candidate.field) ? Role::SectorId : Role::SiteName;
+        }
         std::set<int> namesSites;
         for (const SiteCandidate &candidate : m_candidates) {
             if (isName(candidate) && candidate.role != Role::SectorId)
@@ -198,6 +204,24 @@ private:
                 candidate.owner < 0 && (!hasAzimuths || namesHoldSector(candidate.field)))
                 candidate.role = Role::SiteName;
         }
+    }
+
+    /// Whether ids differ from row to row, but at each position only by a sector at their end.
+    bool holdsIdsOfSectors(int field)
+    {
+        const ColumnFacts &facts = m_table.facts(field);
+        return facts.distinct == facts.filled &&
+               levelOf(m_table.cells(field), m_places) == Level::Sector && namesHoldSector(field);
+    }
+
+    bool areSitesNamedBeside(int field) const
+    {
+        return std::any_of(
+            m_candidates.begin(), m_candidates.end(), [&](const SiteCandidate &other) {
+                return other.field != field &&
+                       (other.role == Role::SiteId || other.role == Role::SiteName) &&
+                       levelOf(m_table.cells(other.field), m_places) == Level::Site;
+            });
     }
 
     static bool isName(const SiteCandidate &candidate)

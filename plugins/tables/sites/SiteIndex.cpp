@@ -3,6 +3,7 @@
 #include "contract/TableTexts.h"
 #include "plugins/tables/cells/Cell.h"
 #include "plugins/tables/cells/Numbers.h"
+#include "plugins/tables/sites/JoinKey.h"
 #include "plugins/tables/sites/SectorSuffix.h"
 
 #include <algorithm>
@@ -16,13 +17,21 @@ namespace {
 constexpr uint32_t None = HashIndex::None;
 /// Places of one id that are compared with a row; more do not belong to an id.
 constexpr int MaxPlacesOfId = 50;
-/// Positions are the same if they agree to about a metre.
-constexpr double StepDeg = 1e-5;
-constexpr double StepM = 1;
+/// Antennas of a mast may have positions of their own. Rows belong together within these distances:
+constexpr double NamelessExtentM = 10;   ///< without a name
+constexpr double NamedExtentM = 100;     ///< with the same name
+constexpr double SectorNameExtentM = 30; ///< with names that differ by the sector
+constexpr double OperatorExtentM = 20;   ///< with the same id, but of several operators
+constexpr double MetresPerDegree = 111320;
 
 int64_t steps(double coordinate, double step)
 {
-    return std::llround(std::clamp(coordinate / step, -9e15, 9e15));
+    return std::llround(std::floor(std::clamp(coordinate / step, -9e15, 9e15)));
+}
+
+double extentM(bool isNamed)
+{
+    return isNamed ? NamedExtentM : NamelessExtentM;
 }
 
 } // namespace
@@ -33,21 +42,37 @@ SiteIndex::SiteIndex(const TableProfile &table, const SiteRoles &roles, Coordina
     , m_roles(&roles)
     , m_unit(unit)
     , m_vocabulary(&vocabulary)
-{}
-
-/// The place of a position, as numbers of steps.
-std::pair<int64_t, int64_t> SiteIndex::placeOf(double x, double y) const
 {
-    const double step = m_unit == CoordinateUnit::Meters ? StepM : StepDeg;
-    return {steps(x, step), steps(y, step)};
+    for (const ColumnRole &column : roles.columns) {
+        if (column.role == Role::Operator)
+            m_operator = column.field;
+    }
+    keep({}); // that of sites without an operator
 }
 
-std::size_t SiteIndex::hashOf(const Key &key) const
+/// The square of a position, or one beside it. Its sides are as long as the distance within which
+/// rows belong together.
+///
+/// @param dx  squares to the east
+/// @param dy  squares to the north
+std::pair<int64_t, int64_t> SiteIndex::squareOf(const Key &key, int dx, int dy) const
+{
+    double step = extentM(key.kind == KeyKind::NamedPlace);
+    if (m_unit == CoordinateUnit::Meters)
+        return {steps(key.position.x, step) + dx, steps(key.position.y, step) + dy};
+    constexpr double MinCosine = 0.01;
+    step /= MetresPerDegree;
+    const int64_t y = steps(key.position.y, step) + dy;
+    const double cosine = std::cos(static_cast<double>(y) * step * M_PI / 180);
+    return {steps(key.position.x, step / std::max(cosine, MinCosine)) + dx, y};
+}
+
+std::size_t SiteIndex::hashOf(const Key &key, int dx, int dy) const
 {
     std::size_t hash = std::hash<std::string_view>()(key.text);
-    if (key.kind == KeyKind::Place || key.kind == KeyKind::NamedPlace) {
-        const auto place = placeOf(key.position.x, key.position.y);
-        const std::array parts = {static_cast<int64_t>(hash), place.first, place.second};
+    if (key.isPlace()) {
+        const auto square = squareOf(key, dx, dy);
+        const std::array parts = {static_cast<int64_t>(hash), square.first, square.second};
         hash = std::hash<std::string_view>()(
             {reinterpret_cast<const char *>(parts.data()), sizeof parts});
     }
@@ -57,21 +82,42 @@ std::size_t SiteIndex::hashOf(const Key &key) const
 bool SiteIndex::hasKey(const IndexedSite &site, const Key &key) const
 {
     const std::string_view id = idOf(site);
-    const bool isThere = placeOf(site.x, site.y) == placeOf(key.position.x, key.position.y);
-    switch (key.kind) {
-    case KeyKind::Place:
-        return isThere;
-    case KeyKind::NamedPlace:
-        return isThere && (site.isWhole ? id : withoutSector(id, *m_vocabulary)) == key.text;
-    default:
-        return id == key.text;
-    }
+    if (!key.isPlace())
+        return (key.kind == KeyKind::Id ? joinKey(id) : id) == key.text;
+    const double distance = distanceM(site.position(), key.position, m_unit);
+    if (key.kind == KeyKind::Place)
+        return distance <= NamelessExtentM;
+    if (id == key.name)
+        return distance <= NamedExtentM;
+    const std::string_view base = site.isWhole ? id : withoutSector(id, *m_vocabulary);
+    return distance <= SectorNameExtentM &&
+           (base == key.text || (key.name.empty() && joinKey(id) == key.text));
 }
 
 uint32_t SiteIndex::find(const Key &key) const
 {
-    return m_ofKeys[static_cast<std::size_t>(key.kind)].find(
-        hashOf(key), [&](uint32_t at) { return hasKey(m_sites[at], key); });
+    constexpr std::array Squares = {std::pair(0, 0),  std::pair(1, 0),  std::pair(-1, 0),
+                                    std::pair(0, 1),  std::pair(0, -1), std::pair(1, 1),
+                                    std::pair(1, -1), std::pair(-1, 1), std::pair(-1, -1)};
+    for (const auto &[dx, dy] : Squares) {
+        const uint32_t found = m_ofKeys[static_cast<std::size_t>(key.kind)].find(
+            hashOf(key, dx, dy), [&](uint32_t at) { return hasKey(m_sites[at], key); });
+        if (found != None || !key.isPlace())
+            return found;
+    }
+    return None;
+}
+
+/// Whether a site is that of a row with its id: it lies near, and is of the same operator.
+bool SiteIndex::isSame(const IndexedSite &site, const Key &key) const
+{
+    const Position position = site.position();
+    if (!position.found || !key.position.found)
+        return true;
+    const double distance = distanceM(position, key.position, m_unit);
+    const bool isOfOther = !key.operatorName.empty() && site.operatorName != 0 &&
+                           m_ids[site.operatorName] != key.operatorName;
+    return distance <= (isOfOther ? OperatorExtentM : MaxSiteExtentM);
 }
 
 /// The site with an id near a position, where `first` is the first one with the id.
@@ -79,12 +125,10 @@ uint32_t SiteIndex::findNear(uint32_t first, const Key &key) const
 {
     int places = 0;
     for (uint32_t at = first; at != None; at = m_next[at]) {
-        const Position position = m_sites[at].position();
-        if (!position.found || !key.position.found ||
-            distanceM(position, key.position, m_unit) <= MaxSiteExtentM)
+        if (isSame(m_sites[at], key))
             return at;
         if (++places == MaxPlacesOfId)
-            return find({KeyKind::NamedPlace, key.text, key.position});
+            return find({KeyKind::NamedPlace, key.text, key.position, {}, {}});
     }
     return None;
 }
@@ -111,7 +155,7 @@ uint32_t SiteIndex::addSite(const IndexedSite &site, uint32_t first, const Key &
         }
         of.kind = KeyKind::NamedPlace;
     }
-    m_ofKeys[static_cast<std::size_t>(of.kind)].add(hashOf(of), added);
+    m_ofKeys[static_cast<std::size_t>(of.kind)].add(hashOf(of, 0, 0), added);
     return added;
 }
 
@@ -132,17 +176,21 @@ uint32_t SiteIndex::siteOf(int64_t row, const std::vector<const Cell *> &cells,
         (!position.found ||
          (isNamed && distanceM(m_sites.back().position(), position, m_unit) <= MaxSiteExtentM)))
         return static_cast<uint32_t>(m_sites.size() - 1);
-    const Key key = !id.empty()       ? Key{KeyKind::Id, id, position}
-                    : !position.found ? Key{KeyKind::Name, name, position}
-                    : name.empty()
-                        ? Key{KeyKind::Place, {}, position}
-                        : Key{KeyKind::NamedPlace, withoutSector(name, *m_vocabulary), position};
+    const std::string idKey = joinKey(id);
+    const std::string operatorName = fieldText(cells, m_operator);
+    const Key key =
+        !id.empty()       ? Key{KeyKind::Id, idKey, position, {}, operatorName}
+        : !position.found ? Key{KeyKind::Name, name, position, {}, {}}
+        : name.empty()
+            ? Key{KeyKind::Place, {}, position, {}, {}}
+            : Key{KeyKind::NamedPlace, withoutSector(name, *m_vocabulary), position, name, {}};
     const uint32_t first = find(key);
     const uint32_t found = key.kind == KeyKind::Id ? findNear(first, key) : first;
     if (found == None) {
         const bool isWhole = key.kind != KeyKind::NamedPlace;
         return addSite({row, position.found ? position.x : NAN, position.found ? position.y : NAN,
-                        keep(id.empty() ? name : id), isWhole, 0, 0},
+                        keep(id.empty() ? name : id), isWhole,
+                        operatorName.empty() ? 0 : keep(operatorName), 0, 0},
                        first, key);
     }
     IndexedSite &site = m_sites[found];

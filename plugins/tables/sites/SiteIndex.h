@@ -22,8 +22,9 @@ struct IndexedSite
     int64_t firstRow = 0;
     double x = std::numeric_limits<double>::quiet_NaN(); ///< in the file's system; NaN for none
     double y = std::numeric_limits<double>::quiet_NaN();
-    uint32_t id = 0;      ///< see SiteIndex::idOf()
-    bool isWhole = false; ///< the id has no sector at its end
+    uint32_t id = 0;           ///< see SiteIndex::idOf()
+    bool isWhole = false;      ///< the id has no sector at its end
+    uint32_t operatorName = 0; ///< 0 for none
     uint32_t firstTransmitter = 0;
     uint32_t transmitterCount = 0;
 
@@ -32,7 +33,8 @@ struct IndexedSite
 };
 
 /// The sites of a table whose transmitters stand in several rows, or in another table. Rows belong
-/// to a site by its id, else by the position and the name, whose sector does not count. A row
+/// to a site by its id, else by the name and a position nearby; a sector at the end of the name
+/// does not count. A row
 /// without id and position continues the site of the row above, as merged cells do.
 class SiteIndex
 {
@@ -74,23 +76,29 @@ private:
     struct Key
     {
         KeyKind kind;
-        std::string_view text; ///< id or name without the sector; empty for Place
+        std::string_view text; ///< joinKey() of the id, or name without the sector; empty for Place
         Position position;
+        std::string_view name; ///< with the sector
+        std::string_view operatorName;
+
+        bool isPlace() const { return kind == KeyKind::Place || kind == KeyKind::NamedPlace; }
     };
 
     uint32_t siteOf(int64_t row, const std::vector<const Cell *> &cells, const Position &position);
-    std::size_t hashOf(const Key &key) const;
+    std::size_t hashOf(const Key &key, int dx, int dy) const;
     bool hasKey(const IndexedSite &site, const Key &key) const;
     uint32_t find(const Key &key) const;
     uint32_t findNear(uint32_t first, const Key &key) const;
     uint32_t addSite(const IndexedSite &site, uint32_t first, const Key &key);
-    std::pair<int64_t, int64_t> placeOf(double x, double y) const;
+    std::pair<int64_t, int64_t> squareOf(const Key &key, int dx, int dy) const;
+    bool isSame(const IndexedSite &site, const Key &key) const;
     uint32_t keep(std::string_view id);
 
     const TableProfile *m_table;
     const SiteRoles *m_roles;
     CoordinateUnit m_unit;
     const Vocabulary *m_vocabulary;
+    int m_operator = -1;             ///< field
     std::deque<IndexedSite> m_sites; ///< in the order of their first rows
     StringPool m_ids;
     std::vector<uint32_t> m_next;      ///< by site: the next one with its id
