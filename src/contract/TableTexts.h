@@ -171,6 +171,8 @@ inline constexpr auto TableTexts = std::to_array<Text>({
                               "between 0 and 2000 m above ground"},
     {"MESS_TAB_TILT_RANGE",
      "the tilt \"%1\" cannot be used: a tilt lies between -90 and 90 degrees"},
+    {"MESS_TAB_AZIMUTH_DIFFERS",
+     "the stated azimuth of %1 degrees does not point to the other end, which lies at %2 degrees"},
 
     // coordinates that cannot be read
     {"MESS_TAB_NO_COORDINATE", "the coordinate is empty"},

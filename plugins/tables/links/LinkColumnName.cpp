@@ -163,12 +163,45 @@ std::size_t sizeBeforeEnd(const std::string &word, const Vocabulary &vocabulary)
     return 0;
 }
 
+bool isEnd(const std::string &word, const Vocabulary &vocabulary)
+{
+    return isNumberOfEnd(word, EndStyle::Numbers) || isNumberOfEnd(word, EndStyle::Zero) ||
+           endOf(vocabulary.find(word)) != LinkEndId::None;
+}
+
+/// A name without the end behind an arrow: "Azimuth 1" for "Azimuth 1→2", whose value belongs to
+/// the first end.
+std::string withoutEndOfArrow(const std::string &name, const Vocabulary &vocabulary)
+{
+    constexpr std::size_t MaxWords = 2; // "Site 2"
+    for (const std::string_view arrow : {"\u2192", "\u21D2", "\u2794", "->", "=>", ">"}) {
+        const std::size_t at = name.find(arrow);
+        if (at == std::string::npos)
+            continue;
+        const Words before = separatedWords(name.substr(0, at), vocabulary);
+        const std::string rest = name.substr(at + arrow.size());
+        const Words after = separatedWords(rest, vocabulary);
+        if (before.empty() || !isEnd(before.back(), vocabulary))
+            return name;
+        for (std::size_t i = 0; i < std::min(MaxWords, after.size()); ++i) {
+            if (!isEnd(after[i], vocabulary) || after[i] == before.back())
+                continue;
+            std::string first = name.substr(0, name.find_last_not_of(" -=", at - 1) + 1);
+            for (std::size_t next = i + 1; next < after.size(); ++next)
+                first += ' ' + after[next];
+            return first;
+        }
+        return name;
+    }
+    return name;
+}
+
 } // namespace
 
 Words linkWords(const std::string &name, const Vocabulary &vocabulary)
 {
     Words words;
-    for (std::string &word : separatedWords(name, vocabulary)) {
+    for (std::string &word : separatedWords(withoutEndOfArrow(name, vocabulary), vocabulary)) {
         const std::size_t cut = sizeBeforeEnd(word, vocabulary);
         if (cut > 0)
             words.push_back(word.substr(0, cut));

@@ -4,6 +4,7 @@
 #include "plugins/tables/ogr/ZoneSurvey.h"
 #include "plugins/tables/roles/Vocabulary.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace vlt::driver {
@@ -16,6 +17,9 @@ constexpr double MinLengthM = 1;
 /// Maximum deviations of a stated length; it is wrong if it exceeds both.
 constexpr double MaxDeviationShare = 0.05;
 constexpr double MaxDeviationM = 100;
+/// Of a stated azimuth: magnetic north and short links deviate less.
+constexpr double MaxDeviationDeg = 45;
+constexpr double WholeTurnDeg = 360;
 
 linkpath::LinkEnd endOf(const LinkRow &link, std::size_t end)
 {
@@ -82,6 +86,7 @@ void LinkRowReader::measure(int64_t row, LinkRow &link, std::vector<RowProblem> 
         problems.push_back({row, {}, false, formatted("MESS_TAB_ENDS_COINCIDE")});
         return;
     }
+    compareAzimuths(row, link, problems);
     const std::optional<double> stated = link.values.lengthM;
     if (!stated)
         return;
@@ -92,6 +97,28 @@ void LinkRowReader::measure(int64_t row, LinkRow &link, std::vector<RowProblem> 
         {row, fieldName(m_facts->links().length.field), false,
          formatted("MESS_TAB_LENGTH_DIFFERS",
                    {numberText(std::round(*stated)), numberText(std::round(*link.lengthM))})});
+}
+
+/// Reports stated azimuths that do not point to the other end. Dishes over a repeater need not.
+void LinkRowReader::compareAzimuths(int64_t row, const LinkRow &link,
+                                    std::vector<RowProblem> &problems) const
+{
+    const LinkLayout &layout = m_facts->links();
+    const bool hasRepeaters =
+        std::any_of(layout.columns.begin(), layout.columns.end(),
+                    [](const LinkColumnRole &of) { return of.role == Role::Repeater; });
+    for (std::size_t end = 0; end < link.inFile.size() && !hasRepeaters; ++end) {
+        const std::optional<double> stated = link.values.ends[end].azimuthDeg;
+        const auto direction =
+            stated ? m_path.azimuthDeg(endOf(link, end), endOf(link, 1 - end)) : std::nullopt;
+        if (!direction ||
+            std::abs(std::remainder(*stated - *direction, WholeTurnDeg)) <= MaxDeviationDeg)
+            continue;
+        problems.push_back(
+            {row, fieldName(layout.ends[end].azimuth.field), false,
+             formatted("MESS_TAB_AZIMUTH_DIFFERS",
+                       {numberText(std::round(*stated)), numberText(std::round(*direction))})});
+    }
 }
 
 std::optional<double> LinkRowReader::azimuthDeg(const LinkRow &link, std::size_t end) const

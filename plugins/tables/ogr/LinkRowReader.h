@@ -29,6 +29,7 @@ public:
 private:
     const std::string &fieldName(int field) const;
     void measure(int64_t row, LinkRow &link, std::vector<RowProblem> &problems) const;
+    void compareAzimuths(int64_t row, const LinkRow &link, std::vector<RowProblem> &problems) const;
 
     const TableFacts *m_facts;
     std::shared_ptr<const TableSystems> m_systems;

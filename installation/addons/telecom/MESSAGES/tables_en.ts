@@ -987,5 +987,9 @@
         <source>hidden rows are read like all others: %1 of them, the first of which is row %2</source>
         <translation>hidden rows are read like all others: %1 of them, the first of which is row %2</translation>
     </message>
+    <message id="MESS_TAB_AZIMUTH_DIFFERS">
+        <source>the stated azimuth of %1 degrees does not point to the other end, which lies at %2 degrees</source>
+        <translation>the stated azimuth of %1 degrees does not point to the other end, which lies at %2 degrees</translation>
+    </message>
 </context>
 </TS>

@@ -987,5 +987,9 @@
         <source>hidden rows are read like all others: %1 of them, the first of which is row %2</source>
         <translation>les lignes masquées sont lues comme les autres&#xa0;: %1 en tout, dont la première est la ligne %2</translation>
     </message>
+    <message id="MESS_TAB_AZIMUTH_DIFFERS">
+        <source>the stated azimuth of %1 degrees does not point to the other end, which lies at %2 degrees</source>
+        <translation>l'azimut indiqué de %1 degrés ne vise pas l'autre extrémité, qui se trouve à %2 degrés</translation>
+    </message>
 </context>
 </TS>
