@@ -3,6 +3,9 @@
 #include "plugins/tables/cells/Cell.h"
 #include "plugins/tables/cells/Numbers.h"
 
+#include <algorithm>
+#include <array>
+
 namespace vlt::driver {
 
 namespace {
@@ -41,6 +44,21 @@ std::optional<double> parseBearing(std::string_view text)
     if (from == 'S')
         return to == 'E' ? HalfTurnDeg - *angle : HalfTurnDeg + *angle;
     return to == 'E' || *angle == 0 ? *angle : WholeTurnDeg - *angle;
+}
+
+std::optional<double> parseCompassPoint(std::string_view text)
+{
+    constexpr std::array<std::string_view, 16> Points = {"N",  "NNE", "NE", "ENE", "E",  "ESE",
+                                                         "SE", "SSE", "S",  "SSW", "SW", "WSW",
+                                                         "W",  "WNW", "NW", "NNW"};
+    text = trimmed(text);
+    const auto found = std::find_if(Points.begin(), Points.end(), [text](std::string_view point) {
+        return std::equal(point.begin(), point.end(), text.begin(), text.end(),
+                          [](char a, char b) { return a == upperCase(b); });
+    });
+    if (found == Points.end())
+        return std::nullopt;
+    return WholeTurnDeg / Points.size() * static_cast<double>(found - Points.begin());
 }
 
 } // namespace vlt::driver

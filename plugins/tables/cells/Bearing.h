@@ -10,4 +10,8 @@ namespace vlt::driver {
 /// stand beside the number. Nothing for any other text.
 std::optional<double> parseBearing(std::string_view text);
 
+/// The direction of one of the 16 points of the compass, in degrees: N is 0, SSW is 202.5. The
+/// letters are English; O is left out, because it is east or west.
+std::optional<double> parseCompassPoint(std::string_view text);
+
 } // namespace vlt::driver

@@ -1,5 +1,6 @@
 #include "plugins/tables/cells/ValueList.h"
 
+#include "plugins/tables/cells/Bearing.h"
 #include "plugins/tables/cells/Cell.h"
 #include "plugins/tables/cells/GroupedNumber.h"
 
@@ -110,6 +111,18 @@ std::vector<std::string_view> cutAtFirst(std::string_view text,
     return {};
 }
 
+/// Numbers with blanks between them: "0 120 240". "11 485" may be one number.
+std::vector<std::string_view> blankList(std::string_view text)
+{
+    if (text.find(' ') == std::string_view::npos ||
+        text.find_first_not_of("0123456789. ") != std::string_view::npos ||
+        leadingGroupedNumber(text))
+        return {};
+    std::vector<std::string_view> parts = partsOf(text, characterAt<' '>);
+    std::erase_if(parts, [](std::string_view part) { return part.empty(); });
+    return parts;
+}
+
 } // namespace
 
 std::vector<std::string_view> splitNames(std::string_view text)
@@ -123,12 +136,19 @@ std::vector<std::string_view> splitNames(std::string_view text)
 std::vector<std::string_view> splitList(std::string_view text)
 {
     text = withoutBrackets(text);
-    if (!hasDigit(text)) // "N/A" is no list
-        return {text};
-    if (auto parts = splitNames(text); parts.size() > 1)
+    auto parts = splitNames(text);
+    if (!hasDigit(text)) { // "N/A" is no list, "N/SE" is one
+        const bool areDirections = std::all_of(parts.begin(), parts.end(), parseCompassPoint);
+        return areDirections ? parts : std::vector{text};
+    }
+    if (parts.size() > 1)
         return parts;
-    if (auto parts = cutAtFirst(text, {commaAndBlankAt, dashAt}); !parts.empty())
-        return parts;
+    if (auto values = partsOf(text, characterAt<'&'>); values.size() > 1)
+        return values;
+    if (auto values = blankList(text); !values.empty())
+        return values;
+    if (auto values = cutAtFirst(text, {commaAndBlankAt, dashAt}); !values.empty())
+        return values;
     return isCommaList(text) ? partsOf(text, characterAt<','>) : std::vector{text};
 }
 

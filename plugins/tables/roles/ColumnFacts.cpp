@@ -98,6 +98,7 @@ ColumnFacts factsOf(const std::vector<std::string> &cells, const Vocabulary &voc
 {
     ColumnFacts facts;
     std::unordered_set<std::string_view> different;
+    std::set<std::string_view> points;
     for (const std::string &cell : cells) {
         const std::string_view text = trimmed(cell);
         if (text.empty() || vocabulary.isMissing(text))
@@ -106,6 +107,13 @@ ColumnFacts factsOf(const std::vector<std::string> &cells, const Vocabulary &voc
         different.insert(text);
         if (vocabulary.isOmni(text)) {
             ++facts.omni;
+            continue;
+        }
+        const std::vector<std::string_view> parts = splitList(text);
+        if (std::all_of(parts.begin(), parts.end(), parseCompassPoint)) {
+            ++facts.compass;
+            facts.lists += parts.size() > 1 ? 1 : 0;
+            points.insert(parts.begin(), parts.end());
             continue;
         }
         const std::vector<double> numbers = numbersIn(text);
@@ -120,6 +128,9 @@ ColumnFacts factsOf(const std::vector<std::string> &cells, const Vocabulary &voc
         }
     }
     facts.distinct = different.size();
+    constexpr std::size_t MinPoints = 3; // a column with two of them holds hemispheres
+    if (points.size() < MinPoints)
+        facts.compass = 0;
     return facts;
 }
 
@@ -133,7 +144,8 @@ double fitOf(Role role, const ColumnFacts &facts, double unit)
         return FitOfEmpty;
     if (role == Role::Azimuth && unit <= 1 && looksLikeRadians(facts))
         return 0;
-    const double readable = static_cast<double>(facts.numeric + facts.omni);
+    const double readable = static_cast<double>(facts.numeric + facts.omni +
+                                                (role == Role::Azimuth ? facts.compass : 0));
     const auto inside =
         std::count_if(facts.numbers.begin(), facts.numbers.end(), [&](double number) {
             return number * unit >= range->first && number * unit <= range->second;

@@ -17,6 +17,7 @@ struct ColumnFacts
     std::size_t filled = 0;      ///< cells with a value
     std::size_t lists = 0;       ///< cells with several numbers, such as 0/120/240
     std::size_t omni = 0;        ///< cells with a word for all directions
+    std::size_t compass = 0;     ///< cells with points of the compass: SSW, N/SE
     std::vector<double> numbers; ///< of all cells, with those in lists and with a unit
     std::size_t numeric = 0;     ///< cells with numbers
     std::size_t distinct = 0;    ///< different values

@@ -83,7 +83,7 @@ public:
     {
         const auto partsOf = [this](const QuantityField &of, std::string &text) {
             text = fieldText(m_cells, of.field);
-            return splitList(text);
+            return valuesIn(text);
         };
         std::string text;
         m_itemCount = sizeOf(partsOf(fields.azimuth, text));
@@ -111,7 +111,7 @@ private:
     std::string itemText(int field, Split split) const
     {
         std::string whole = fieldText(m_cells, field);
-        if (m_reader.m_roles->shape != SiteShape::Lists)
+        if (m_reader.m_roles->shape != SiteShape::Lists || m_reader.m_words.isOmni(whole))
             return whole;
         const Parts parts = split(whole);
         if (parts.size() == 1)
@@ -120,6 +120,12 @@ private:
                                                                   : std::string();
     }
     std::string text(int field) const { return itemText(field, splitNames); }
+
+    /// The text of a list of azimuths or heights; "0-360" is none.
+    Parts valuesIn(std::string_view text) const
+    {
+        return m_reader.m_words.isOmni(text) ? Parts{text} : splitList(text);
+    }
 
     /// "LTE/NR" beside three azimuths is that of each of them.
     std::string technology(int field) const

@@ -85,6 +85,8 @@ TransmitterValue readAzimuthDeg(std::string_view text, double unitDeg, const Val
 {
     if (const auto bearing = parseBearing(text))
         return {bearing, std::nullopt};
+    if (const auto point = parseCompassPoint(text))
+        return {point, std::nullopt};
     TransmitterValue azimuth = readDirection(text, unitDeg, words, contract::AzimuthDeg);
     if (azimuth.number)
         azimuth.number = wholeTurnsRemoved(*azimuth.number);

@@ -41,7 +41,8 @@ struct TransmitterValue
 /// @param unitM  metres per unit of a number without a unit
 TransmitterValue readAntennaHeightM(std::string_view text, double unitM, const ValueWords &words);
 
-/// An azimuth in degrees from north, 0 <= number < 360: 120, 120°, 133,5 deg, 133 gon, -30, N30W.
+/// An azimuth in degrees from north, 0 <= number < 360: 120, 120°, 133,5 deg, 133 gon, -30, N30W,
+/// SSW.
 ///
 /// @param unitDeg  degrees per unit of a number without a unit
 TransmitterValue readAzimuthDeg(std::string_view text, double unitDeg, const ValueWords &words);
