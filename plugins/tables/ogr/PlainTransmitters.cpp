@@ -29,7 +29,8 @@ void PlainTransmitters::add(const TableProfile &table, const QuantityField &of,
         return;
     const double unit = of.unit.value_or(1);
     const auto field = static_cast<std::size_t>(of.field);
-    m_possible = m_possible && unit > 0 && table.fields[field].type != FieldType::Text;
+    m_possible =
+        m_possible && unit > 0 && of.unitField < 0 && table.fields[field].type != FieldType::Text;
     m_columns.push_back({field, {range.minimum / unit, range.maximum / unit}});
 }
 

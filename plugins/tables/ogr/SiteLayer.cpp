@@ -4,6 +4,8 @@
 #include "contract/TableTexts.h"
 #include "plugins/tables/ogr/MetadataItems.h"
 #include "plugins/tables/ogr/ZoneSurvey.h"
+#include "plugins/tables/roles/NameMatch.h"
+#include "plugins/tables/sites/CoordinateScale.h"
 
 namespace vlt::driver {
 
@@ -60,6 +62,15 @@ std::string offeredText(OfferedValue value, const OfferedInput &input)
                                            : input.transmitter->technology;
 }
 
+std::optional<double> groundHeightM(const OfferedInput &input)
+{
+    const QuantityField &height = input.roles->groundHeight;
+    const std::string unit = fieldText(input.cells, height.unitField);
+    const auto metres = unit.empty() ? std::optional(height.unit.value_or(1))
+                                     : metresOfUnit(unit, installedVocabulary().words);
+    return metres ? readLengthM(fieldText(input.cells, height.field), *metres) : std::nullopt;
+}
+
 std::optional<double> offeredNumber(OfferedValue value, const OfferedInput &input)
 {
     switch (value) {
@@ -68,8 +79,7 @@ std::optional<double> offeredNumber(OfferedValue value, const OfferedInput &inpu
     case OfferedValue::Y:
         return input.position->found ? std::optional(input.position->y) : std::nullopt;
     case OfferedValue::GroundHeight:
-        return readLengthM(fieldText(input.cells, input.roles->groundHeight.field),
-                           input.roles->groundHeight.unit.value_or(1));
+        return groundHeightM(input);
     default:
         break;
     }

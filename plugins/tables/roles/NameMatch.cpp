@@ -350,6 +350,15 @@ std::optional<double> unitOfName(const std::vector<std::string> &words,
     return std::nullopt;
 }
 
+std::optional<double> metresOfUnit(std::string_view text, const Vocabulary &vocabulary)
+{
+    std::string joined;
+    for (const std::string &word : nameWords(text))
+        joined += word;
+    const WordMeaning *meaning = vocabulary.find(joined);
+    return meaning ? meaning->metres : std::nullopt;
+}
+
 double unitOfColumn(Role role, const std::vector<std::string> &words, const Vocabulary &vocabulary)
 {
     switch (role) {

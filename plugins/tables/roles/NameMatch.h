@@ -41,6 +41,9 @@ std::optional<double> unitOfName(const std::vector<std::string> &words,
                                  std::optional<double> WordMeaning::*unit,
                                  const Vocabulary &vocabulary);
 
+/// Metres per unit in a cell that holds nothing else; nothing for other texts.
+std::optional<double> metresOfUnit(std::string_view text, const Vocabulary &vocabulary);
+
 /// Metres or degrees per unit in the name of a column with a role; 1 if it has none.
 double unitOfColumn(Role role, const std::vector<std::string> &words, const Vocabulary &vocabulary);
 

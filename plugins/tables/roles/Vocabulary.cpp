@@ -229,6 +229,9 @@ void Vocabulary::addPartsOfNames(const Json &root)
     addTo(sectionOf(root, "sector"), [](WordMeaning &meaning) { meaning.isSector = true; });
     addTo(sectionOf(root, "sexagesimal"),
           [](WordMeaning &meaning) { meaning.isSexagesimal = true; });
+    addTo(sectionOf(root, "antennaKind"),
+          [](WordMeaning &meaning) { meaning.isAntennaKind = true; });
+    addTo(sectionOf(root, "unitColumn"), [](WordMeaning &meaning) { meaning.isUnitColumn = true; });
     addTo(sectionOf(root, "site"), [](WordMeaning &meaning) { meaning.isSite = true; });
     const Json units = sectionOf(root, "units");
     for (const Unit &unit : Units) {
@@ -265,7 +268,7 @@ void Vocabulary::addSystems(const Json &root)
 void Vocabulary::addWordsOfValues(const Json &root)
 {
     for (const auto &[name, to] : {std::pair("missing", &m_missing), std::pair("total", &m_totals),
-                                   std::pair("omni", &m_omni)})
+                                   std::pair("omni", &m_omni), std::pair("yes", &m_yes)})
         forEachText(sectionOf(root, name),
                     [to = to](const std::string &word) { to->insert(word); });
 }

@@ -32,6 +32,8 @@ struct WordMeaning
     bool isSector = false;           ///< stands beside the number of a sector
     bool isSexagesimal = false;      ///< says that numbers are degrees, minutes and seconds
     bool isSite = false;             ///< may stand beside any role of a site
+    bool isAntennaKind = false;      ///< names a column with kinds of antennas
+    bool isUnitColumn = false;       ///< names a column with units
     std::optional<double> metres;    ///< per unit of length of that name
     std::optional<double> megahertz; ///< per unit of frequency of that name
     std::optional<double> degrees;   ///< per unit of angle of that name
@@ -118,6 +120,8 @@ public:
     /// The part of a coordinate for which a letter or sign at the end of a name stands, if the
     /// names beside it end in the others: D, M, S.
     std::optional<CoordinatePart> partOfSign(std::string_view sign) const;
+    /// Whether a text answers yes: yes, true, 1.
+    bool isYes(std::string_view text) const { return m_yes.contains(text); }
     /// The number of a sector from its name: alpha is 1. 0 for other words.
     int numberOfSectorName(std::string_view word) const;
     /// The places of folded words written together, such as "ii" or "1st", in the sequences that
@@ -159,6 +163,7 @@ private:
     ValueWordSet m_missing;
     ValueWordSet m_totals;
     ValueWordSet m_omni;
+    ValueWordSet m_yes;
     std::unordered_map<std::string, int> m_sectorNames;          ///< folded
     std::unordered_map<std::string, CoordinatePart> m_partSigns; ///< folded
     std::vector<std::vector<std::string>> m_sequences;           ///< folded words written together

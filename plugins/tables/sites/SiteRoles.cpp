@@ -62,6 +62,98 @@ private:
         return {field, unitOfName(m_table.words(field), unit, m_table.vocabulary())};
     }
 
+    /// A column of heights. Its unit may also stand in a column beside it, or in a title.
+    QuantityField height(const ColumnRole &column)
+    {
+        QuantityField height = quantity(column.field, &WordMeaning::metres);
+        if (height.unit)
+            return height;
+        height.unitField = unitFieldOf(column);
+        for (const std::string &title : m_table.profile().header.titles) {
+            const std::vector<std::string> words = separatedWords(title, m_table.vocabulary());
+            const auto unit = unitOfName(words, &WordMeaning::metres, m_table.vocabulary());
+            const bool isOfHeights =
+                std::any_of(words.begin(), words.end(), [this](const std::string &word) {
+                    const WordMeaning *meaning = m_table.vocabulary().find(word);
+                    return meaning && meaning->roles[std::size_t(Role::AntennaHeight)];
+                });
+            if (unit && isOfHeights && !height.unit)
+                height.unit = unit;
+        }
+        return height;
+    }
+
+    /// The field with the units of a column: "Height Unit", or "Unit" beside it. -1 for none.
+    int unitFieldOf(const ColumnRole &column)
+    {
+        for (int field = 0; field < m_table.fieldCount(); ++field) {
+            if (hasRole(field) || !holdsUnits(field))
+                continue;
+            std::vector<std::string> words = m_table.words(field);
+            const std::size_t before = words.size();
+            std::erase_if(words, [this](const std::string &word) {
+                const WordMeaning *meaning = m_table.vocabulary().find(word);
+                return meaning && meaning->isUnitColumn;
+            });
+            const std::vector<NameMatch> matches = matchName(words, m_table.vocabulary());
+            const bool isOfRole =
+                std::any_of(matches.begin(), matches.end(), [&column](const NameMatch &match) {
+                    return match.role == column.role;
+                });
+            if (words.size() < before && (isOfRole || (words.empty() && field == column.field + 1)))
+                return field;
+        }
+        return -1;
+    }
+
+    bool holdsUnits(int field)
+    {
+        const ColumnFacts &facts = m_table.facts(field);
+        if (facts.filled == 0 || facts.numeric > 0)
+            return false;
+        const std::vector<std::string> &cells = m_table.cells(field);
+        const auto units = std::count_if(cells.begin(), cells.end(), [this](const auto &cell) {
+            return metresOfUnit(cell, m_table.vocabulary()).has_value();
+        });
+        return static_cast<std::size_t>(units) * 2 > facts.filled;
+    }
+
+    bool hasRole(int field) const
+    {
+        return m_point.uses(field) ||
+               std::any_of(m_roles.columns.begin(), m_roles.columns.end(),
+                           [field](const ColumnRole &of) { return of.field == field; });
+    }
+
+    /// Finds the column that says which antennas send in all directions: "Antenna type" with OMNI,
+    /// "Omni?" with yes.
+    void findKind(TransmitterFields &fields)
+    {
+        for (int field = 0; field < m_table.fieldCount(); ++field) {
+            if (hasRole(field))
+                continue;
+            const std::vector<std::string> &words = m_table.words(field);
+            std::string name;
+            for (const std::string &word : words)
+                name += word;
+            const WordMeaning *meaning = m_table.vocabulary().find(name);
+            if (!meaning || !meaning->isAntennaKind)
+                continue;
+            const std::vector<std::string> &cells = m_table.cells(field);
+            const bool asks = m_table.vocabulary().isOmni(name);
+            const bool isSaid = std::any_of(cells.begin(), cells.end(), [&](const auto &cell) {
+                return asks ? m_table.vocabulary().isYes(cell)
+                            : m_table.vocabulary().isOmni(cell) &&
+                                  !m_table.vocabulary().isMissing(cell); // "ND" is both
+            });
+            if (!isSaid)
+                continue;
+            fields.kind = field;
+            fields.asksOmni = asks;
+            return;
+        }
+    }
+
     void fill(const SiteCandidates &candidates, const std::vector<std::string> &places)
     {
         const bool isNumbered = candidates.areNumbered;
@@ -72,7 +164,7 @@ private:
             else if (column.role == Role::SiteName)
                 m_roles.siteName = column.field;
             else if (column.role == Role::GroundHeight)
-                m_roles.groundHeight = quantity(column.field, &WordMeaning::metres);
+                m_roles.groundHeight = height(column);
             else if (isRoleOfTransmitter(column.role))
                 fillTransmitter(transmitters[column.sector], column);
         }
@@ -81,8 +173,10 @@ private:
         if (isNumbered)
             shareCommonColumns(transmitters);
         else
-            for (auto &[number, fields] : transmitters)
+            for (auto &[number, fields] : transmitters) {
                 nameSectorsBySites(fields);
+                findKind(fields);
+            }
         for (auto &[number, fields] : transmitters) {
             fields.number = number;
             if (const auto band = candidates.bandsMHz.find(number);
@@ -148,7 +242,7 @@ private:
             fields.sectorId = column.field;
             break;
         case Role::AntennaHeight:
-            fields.height = quantity(column.field, &WordMeaning::metres);
+            fields.height = height(column);
             break;
         case Role::Azimuth:
             fields.azimuth = quantity(column.field, &WordMeaning::degrees);

@@ -27,6 +27,8 @@ struct TransmitterFields
     int band = -1;
     std::optional<double> bandMHz; ///< in the names of its columns
     int technology = -1;
+    int kind = -1;         ///< of the antenna; a word for all directions may stand there
+    bool asksOmni = false; ///< that field answers with yes or no whether it is of all directions
 };
 
 /// The role of a column, and why it has that role.

@@ -2,6 +2,7 @@
 
 #include "contract/TableTexts.h"
 #include "plugins/tables/cells/ValueList.h"
+#include "plugins/tables/roles/NameMatch.h"
 #include "plugins/tables/sites/PositionReader.h"
 
 #include <algorithm>
@@ -49,7 +50,7 @@ public:
     std::optional<TransmitterValues> read(const TransmitterFields &fields, std::size_t item)
     {
         m_item = item;
-        m_isOmni = false;
+        m_isOmni = isOmniByKind(fields);
         m_isUsable = true;
         TransmitterValues values;
         values.heightM = number(fields.height, readAntennaHeightM, "MESS_TAB_SECTOR_HEIGHT");
@@ -121,10 +122,38 @@ private:
     }
     std::string text(int field) const { return itemText(field, splitNames); }
 
+    /// Whether the kind of the antenna says that it sends in all directions, and the azimuth does
+    /// not say otherwise: 0, 360 and -1 stand for no azimuth then.
+    bool isOmniByKind(const TransmitterFields &fields) const
+    {
+        const std::string kind = fieldText(m_cells, fields.kind);
+        const Vocabulary &vocabulary = *m_reader.m_vocabulary;
+        if (kind.empty() || !(fields.asksOmni ? vocabulary.isYes(kind) : vocabulary.isOmni(kind)) ||
+            vocabulary.isMissing(kind))
+            return false;
+        const auto azimuth = readDegrees(itemText(fields.azimuth.field, splitList));
+        return !azimuth || *azimuth == 0 || *azimuth == WholeTurnDeg || *azimuth == -1;
+    }
+
     /// The text of a list of azimuths or heights; "0-360" is none.
     Parts valuesIn(std::string_view text) const
     {
         return m_reader.m_words.isOmni(text) ? Parts{text} : splitList(text);
+    }
+
+    /// Metres or degrees per unit of a number without a unit; nothing if the unit of the row is not
+    /// known.
+    std::optional<double> unitOf(const QuantityField &of)
+    {
+        const std::string unit = fieldText(m_cells, of.unitField);
+        if (unit.empty())
+            return of.unit.value_or(1);
+        const auto metres = metresOfUnit(unit, *m_reader.m_vocabulary);
+        if (!metres) {
+            m_isUsable = false;
+            report({of.unitField, std::nullopt}, "MESS_TAB_UNKNOWN_UNIT", {quotation(unit)});
+        }
+        return metres;
     }
 
     /// "LTE/NR" beside three azimuths is that of each of them.
@@ -140,7 +169,10 @@ private:
         if (!of.found())
             return std::nullopt;
         const std::string item = itemText(of.field, splitList);
-        const TransmitterValue value = readValue(item, of.unit.value_or(1), m_reader.m_words);
+        const std::optional<double> unit = unitOf(of);
+        if (!unit)
+            return std::nullopt;
+        const TransmitterValue value = readValue(item, *unit, m_reader.m_words);
         m_isOmni = m_isOmni || value.isOmni;
         if (value.fault) {
             m_isUsable = false;
@@ -204,6 +236,7 @@ TransmitterReader::TransmitterReader(const TableProfile &table, const SiteRoles 
                                      const Vocabulary &vocabulary)
     : m_table(&table)
     , m_roles(&roles)
+    , m_vocabulary(&vocabulary)
 {
     m_words.isMissing = [&vocabulary](std::string_view text) { return vocabulary.isMissing(text); };
     m_words.isOmni = [&vocabulary](std::string_view text) { return vocabulary.isOmni(text); };

@@ -45,6 +45,7 @@ private:
 
     const TableProfile *m_table;
     const SiteRoles *m_roles;
+    const Vocabulary *m_vocabulary;
     ValueWords m_words;
 };
 

@@ -22,6 +22,7 @@ struct QuantityField
 {
     int field = -1;             ///< -1 for none
     std::optional<double> unit; ///< metres or MHz per unit in its name
+    int unitField = -1;         ///< a field with the unit of each row; -1 for none
 
     bool found() const { return field >= 0; }
 };

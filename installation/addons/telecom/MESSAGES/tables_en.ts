@@ -991,5 +991,9 @@
         <source>the stated azimuth of %1 degrees does not point to the other end, which lies at %2 degrees</source>
         <translation>the stated azimuth of %1 degrees does not point to the other end, which lies at %2 degrees</translation>
     </message>
+    <message id="MESS_TAB_UNKNOWN_UNIT">
+        <source>the unit "%1" is not known: the height is not used</source>
+        <translation>the unit "%1" is not known: the height is not used</translation>
+    </message>
 </context>
 </TS>

@@ -991,5 +991,9 @@
         <source>the stated azimuth of %1 degrees does not point to the other end, which lies at %2 degrees</source>
         <translation>l'azimut indiqué de %1 degrés ne vise pas l'autre extrémité, qui se trouve à %2 degrés</translation>
     </message>
+    <message id="MESS_TAB_UNKNOWN_UNIT">
+        <source>the unit "%1" is not known: the height is not used</source>
+        <translation>l'unité «&#xa0;%1&#xa0;» n'est pas connue&#xa0;: la hauteur n'est pas utilisée</translation>
+    </message>
 </context>
 </TS>
