@@ -1,6 +1,7 @@
 #pragma once
 
 #include "contract/Opened.h"
+#include "contract/Place.h"
 #include "contract/Progress.h"
 #include "contract/RasterColors.h"
 
@@ -16,11 +17,7 @@ namespace vlt::coverage {
 
 using contract::Reduction;
 
-struct Place
-{
-    double x = 0; ///< east, longitude
-    double y = 0;
-};
+using contract::Place;
 
 /// A ring of a footprint in either direction, closed or not.
 using Ring = std::span<const Place>;

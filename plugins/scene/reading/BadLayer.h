@@ -1,28 +1,10 @@
 #pragma once
 
-#include "contract/SceneTexts.h"
-
-#include <stdexcept>
-#include <string>
+#include "contract/BadLayer.h"
 
 namespace vlt::scene {
 
-/// A reason in the words of a library.
-struct LibraryWords
-{
-    std::string text;
-};
-
-/// Thrown if a layer cannot be shown or a file that it names cannot be used. The text is for the
-/// user and names what is missing or wrong.
-class BadLayer : public std::runtime_error
-{
-public:
-    BadLayer(contract::SceneTextId text, std::initializer_list<std::string_view> values = {})
-        : std::runtime_error(contract::formatted(text, values))
-    {}
-
-    explicit BadLayer(const LibraryWords &words) : std::runtime_error(words.text) {}
-};
+using contract::BadLayer;
+using contract::LibraryWords;
 
 } // namespace vlt::scene

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <ogr_spatialref.h>
+#include "localframe/LocalFrame.h"
 
 #include <osg/Vec2d>
 
@@ -9,35 +9,24 @@
 
 namespace vlt::scene {
 
-/// A local frame in metres whose origin is the centre of some positions, x east, y north.
-///
-/// Positions in a projected system are shifted and converted from its unit to metres. Those in a
-/// geographic system are projected with an azimuthal equidistant projection about the centre, on
-/// the system's ellipsoid: distances and directions from the centre are exact, lengths across these
-/// directions have errors below 1e-4 up to 150 km from it. Without a system, the unit is metres.
+inline osg::Vec2d toVector(const contract::Place &place)
+{
+    return {place.x, place.y};
+}
+
+/// localframe::LocalFrame with the vectors of the scene library.
 class LocalFrame
 {
 public:
-    /// @param srs  system of the positions, x before y; may be null
-    /// @throws BadLayer  the system is neither projected nor geographic
     LocalFrame(const OGRSpatialReference *srs, const std::vector<osg::Vec2d> &positions);
+    explicit LocalFrame(std::shared_ptr<const localframe::LocalFrame> frame);
 
-    /// Centre of the rectangle around all positions, in `srs`.
-    const osg::Vec2d &centre() const { return m_centre; }
-
-    /// Transforms a position from `srs` to the frame; NaN if it cannot be projected.
+    osg::Vec2d centre() const { return toVector(m_frame->centre()); }
     osg::Vec2d toFrame(const osg::Vec2d &position) const;
-
-    /// Transforms a position from the frame to `srs`.
     osg::Vec2d fromFrame(const osg::Vec2d &position) const;
 
 private:
-    void projectAround(const OGRSpatialReference &srs, const std::vector<osg::Vec2d> &positions);
-
-    osg::Vec2d m_centre;
-    double m_unitM = 1; ///< of a projected system; negative for axes to the west and south
-    std::unique_ptr<OGRCoordinateTransformation> m_toPlane; ///< for a geographic system
-    std::unique_ptr<OGRCoordinateTransformation> m_fromPlane;
+    std::shared_ptr<const localframe::LocalFrame> m_frame;
 };
 
 } // namespace vlt::scene

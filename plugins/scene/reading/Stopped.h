@@ -1,10 +1,9 @@
 #pragma once
 
+#include "contract/Stopped.h"
+
 namespace vlt::scene {
 
-/// Thrown if the caller stopped the work, which is not an error.
-struct Stopped
-{
-};
+using contract::Stopped;
 
 } // namespace vlt::scene

@@ -10,13 +10,10 @@
 #include <charconv>
 #include <cmath>
 #include <iterator>
-#include <limits>
 
 namespace vlt::scene {
 
 namespace {
-
-constexpr double MaxDistanceM = 3e7; ///< from the median; more than half the earth's circumference
 
 /// Metres or degrees per unit behind a number; 1 without a unit, nothing for any other text.
 std::optional<double> unitIn(std::string_view text)
@@ -62,34 +59,6 @@ std::optional<double> valueAt(const OGRFeature &feature, int field, double least
     return value && *value >= least && *value <= most ? value : std::nullopt;
 }
 
-double medianOf(std::vector<double> values)
-{
-    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
-    std::nth_element(values.begin(), middle, values.end());
-    return *middle;
-}
-
-/// The positions that determine the centre of a frame. A mistyped position far outside the earth is
-/// left out, because a frame that included it would be too far from all others.
-std::vector<osg::Vec2d> likely(const std::vector<osg::Vec2d> &positions, double unitM)
-{
-    if (positions.empty())
-        return {};
-    std::vector<double> x;
-    std::vector<double> y;
-    for (const osg::Vec2d &position : positions) {
-        x.push_back(position.x());
-        y.push_back(position.y());
-    }
-    const osg::Vec2d midst(medianOf(std::move(x)), medianOf(std::move(y)));
-    std::vector<osg::Vec2d> near;
-    std::copy_if(positions.begin(), positions.end(), std::back_inserter(near),
-                 [&](const osg::Vec2d &position) {
-                     return (position - midst).length() * unitM <= MaxDistanceM;
-                 });
-    return near;
-}
-
 std::string nameOf(const OGRSpatialReference *srs)
 {
     if (!srs)
@@ -116,42 +85,6 @@ GDALDatasetUniquePtr openTable(const contract::ConnectionString &table)
     if (!dataset)
         throw BadLayer(LibraryWords{CPLGetLastErrorMsg()});
     return dataset;
-}
-
-std::vector<std::string> fieldNamesOf(OGRLayer &layer)
-{
-    const OGRFeatureDefn &definition = *layer.GetLayerDefn();
-    std::vector<std::string> names;
-    names.reserve(static_cast<std::size_t>(definition.GetFieldCount()));
-    for (int i = 0; i < definition.GetFieldCount(); ++i)
-        names.emplace_back(definition.GetFieldDefn(i)->GetNameRef());
-    return names;
-}
-
-void readOnlyFields(OGRLayer &layer, const std::vector<int> &fields)
-{
-    const std::vector<std::string> names = fieldNamesOf(layer);
-    std::vector<bool> isUsed(names.size());
-    for (const int field : fields) {
-        if (field >= 0)
-            isUsed[static_cast<std::size_t>(field)] = true;
-    }
-    std::vector<const char *> ignored;
-    for (std::size_t i = 0; i < names.size(); ++i) {
-        if (!isUsed[i])
-            ignored.push_back(names[i].c_str());
-    }
-    ignored.push_back(nullptr);
-    layer.SetIgnoredFields(ignored.data());
-}
-
-OGRFeatureUniquePtr nextFeature(OGRLayer &layer)
-{
-    CPLErrorReset(); // clears errors of rows without a position, which are not failures
-    OGRFeatureUniquePtr feature(layer.GetNextFeature());
-    if (!feature && CPLGetLastErrorType() == CE_Failure)
-        throw BadLayer(LibraryWords{CPLGetLastErrorMsg()});
-    return feature;
 }
 
 std::optional<osg::Vec2d> placeOf(const OGRFeature &feature)
@@ -199,14 +132,19 @@ SceneFrame moveToFrame(OGRLayer &layer, std::vector<osg::Vec2d> &positions)
 
 SceneFrame moveToFrame(const OGRSpatialReference *srs, std::vector<osg::Vec2d> &positions)
 {
-    const double unitM = srs && srs->IsProjected() ? srs->GetLinearUnits() : 1;
-    SceneFrame frame{std::make_shared<LocalFrame>(srs, likely(positions, unitM)), nameOf(srs)};
-    for (osg::Vec2d &position : positions) {
-        position = frame.local->toFrame(position);
-        if (!(position.length() <= MaxDistanceM))
-            position.x() = std::numeric_limits<double>::quiet_NaN();
-    }
-    return frame;
+    std::vector<contract::Place> places;
+    places.reserve(positions.size());
+    for (const osg::Vec2d &position : positions)
+        places.push_back({position.x(), position.y()});
+    const auto local = localframe::moveToFrame(srs, places);
+    std::transform(places.begin(), places.end(), positions.begin(), toVector);
+    return sceneFrame(local, srs);
+}
+
+SceneFrame sceneFrame(std::shared_ptr<const localframe::LocalFrame> local,
+                      const OGRSpatialReference *srs)
+{
+    return {std::make_shared<LocalFrame>(std::move(local)), nameOf(srs)};
 }
 
 } // namespace vlt::scene

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "contract/ConnectionString.h"
+#include "localfiles/FeatureReading.h"
 #include "plugins/scene/reading/SceneFrame.h"
 
 #include <gdal_priv.h>
@@ -18,16 +19,9 @@ namespace vlt::scene {
 /// @throws BadLayer  the driver is missing or cannot open the table
 GDALDatasetUniquePtr openTable(const contract::ConnectionString &table);
 
-/// Names of the fields of a layer, in their order.
-std::vector<std::string> fieldNamesOf(OGRLayer &layer);
-
-/// Makes a layer read the given fields only, because a scene uses few columns of a wide table.
-///
-/// @param fields  their indices; negative ones are ignored
-void readOnlyFields(OGRLayer &layer, const std::vector<int> &fields);
-
-/// The next feature; null after the last one. @throws BadLayer  it cannot be read
-OGRFeatureUniquePtr nextFeature(OGRLayer &layer);
+using localfiles::fieldNamesOf;
+using localfiles::nextFeature;
+using localfiles::readOnlyFields;
 
 /// The position of a feature, x before y, in the layer's system; nothing if it has none.
 std::optional<osg::Vec2d> placeOf(const OGRFeature &feature);
@@ -52,5 +46,9 @@ SceneFrame moveToFrame(OGRLayer &layer, std::vector<osg::Vec2d> &positions);
 
 /// The same for positions in a system, x before y; null: unknown.
 SceneFrame moveToFrame(const OGRSpatialReference *srs, std::vector<osg::Vec2d> &positions);
+
+/// The frame of a scene from a frame for the system `srs`.
+SceneFrame sceneFrame(std::shared_ptr<const localframe::LocalFrame> local,
+                      const OGRSpatialReference *srs);
 
 } // namespace vlt::scene

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "contract/Place.h"
+
+#include <ogr_spatialref.h>
+
+#include <memory>
+#include <vector>
+
+namespace vlt::localframe {
+
+using contract::Place;
+
+/// A local frame in metres whose origin is the centre of some positions, x east, y north.
+///
+/// Positions in a projected system are shifted and converted from its unit to metres. Those in a
+/// geographic system are projected with an azimuthal equidistant projection about the centre, on
+/// the system's ellipsoid: distances and directions from the centre are exact, lengths across these
+/// directions have errors below 1e-4 up to 150 km from it. Without a system, the unit is metres.
+class LocalFrame
+{
+public:
+    /// @param srs  system of the positions, x before y; may be null
+    /// @throws BadLayer  the system is neither projected nor geographic
+    LocalFrame(const OGRSpatialReference *srs, const std::vector<Place> &positions);
+
+    /// Centre of the rectangle around all positions, in `srs`.
+    const Place &centre() const { return m_centre; }
+
+    /// Transforms a position from `srs` to the frame; NaN if it cannot be projected.
+    Place toFrame(const Place &position) const;
+
+    /// Transforms a position from the frame to `srs`.
+    Place fromFrame(const Place &position) const;
+
+private:
+    void projectAround(const OGRSpatialReference &srs, const std::vector<Place> &positions);
+
+    Place m_centre;
+    double m_unitM = 1; ///< of a projected system; negative for axes to the west and south
+    std::unique_ptr<OGRCoordinateTransformation> m_toPlane; ///< for a geographic system
+    std::unique_ptr<OGRCoordinateTransformation> m_fromPlane;
+};
+
+/// Transforms positions from a system, x before y, to a frame around them. A few positions that are
+/// not on the earth do not determine the frame; their x becomes NaN.
+///
+/// @param srs  null: unknown
+/// @throws BadLayer  the system is neither projected nor geographic
+std::shared_ptr<const LocalFrame> moveToFrame(const OGRSpatialReference *srs,
+                                              std::vector<Place> &positions);
+
+} // namespace vlt::localframe
