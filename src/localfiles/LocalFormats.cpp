@@ -141,4 +141,16 @@ bool isLocalDataset(const std::string &absolutePath)
            kind == std::filesystem::file_type::directory;
 }
 
+std::string locateDataset(const std::string &name, const std::vector<std::string> &directories)
+{
+    for (const std::string &directory : directories) {
+        if (name.empty())
+            break;
+        std::string path = (std::filesystem::path(directory) / name).lexically_normal().string();
+        if (isLocalDataset(path))
+            return path;
+    }
+    return {};
+}
+
 } // namespace vlt::localfiles

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 namespace vlt::localfiles {
 
@@ -19,5 +20,10 @@ bool isLocalFile(const std::string &absolutePath);
 
 /// The same for a regular file or a folder: some formats keep a dataset in a folder.
 bool isLocalDataset(const std::string &absolutePath);
+
+/// The absolute path of a file or folder of the local disk; empty if there is none of this name.
+///
+/// @param directories  searched for a relative path, in this order
+std::string locateDataset(const std::string &name, const std::vector<std::string> &directories);
 
 } // namespace vlt::localfiles

@@ -22,12 +22,15 @@ inline void add(CityModel &city, const Rings &rings, float heightM = 12)
     const auto begin = static_cast<std::uint32_t>(shapes.rings.size());
     for (const Ring &ring : rings) {
         const auto first = static_cast<std::uint32_t>(shapes.positions.size());
-        shapes.positions.insert(shapes.positions.end(), ring.begin(), ring.end());
+        for (const osg::Vec2d &position : ring)
+            shapes.positions.push_back({position.x(), position.y()});
         city.positions.insert(city.positions.end(), ring.begin(), ring.end());
         shapes.rings.push_back({first, static_cast<std::uint32_t>(shapes.positions.size()),
                                 shapes.rings.size() > begin});
     }
-    shapes.buildings.push_back({begin, static_cast<std::uint32_t>(shapes.rings.size()), heightM});
+    shapes.buildings.push_back({begin, static_cast<std::uint32_t>(shapes.rings.size()), heightM,
+                                static_cast<std::uint32_t>(shapes.features.size())});
+    shapes.features.emplace_back();
     city.baseM.push_back(BaseM);
     city.wallColors.push_back({10, 20, 30, 255});
     city.roofColors.push_back({200, 100, 50, 255});

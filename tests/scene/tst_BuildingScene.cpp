@@ -225,6 +225,7 @@ private Q_SLOTS:
             {"type", "text", "height", "notice"});
         const QByteArray none = "1 of 2 buildings are left out: no height in the field \"height\"";
         const QByteArray low = "1 of 2 buildings are left out: a height of zero or less";
+        const QByteArray high = "1 of 2 buildings are left out: a height of more than 10,000 m";
         row("integer", OFTInteger, "12", 12);
         row("64 bits", OFTInteger64, "12", 12);
         row("real", OFTReal, "12.25", 12.25);
@@ -232,10 +233,11 @@ private Q_SLOTS:
         row("decimal comma and blanks", OFTString, " 12,25 ", 12.25);
         row("null", OFTReal, "null", 0, none);
         row("blank text", OFTString, "  ", 0, none);
-        row("a unit", OFTString, "12 m", 0, none);
+        row("more than a height", OFTString, "39' 4 1", 0, none);
+        row("feet and inches", OFTString, "49' 2.5511811023622\"", 15);
         row("not finite", OFTString, "inf", 0, none);
-        row("a mark of none", OFTReal, "3.4e38", 0, none);
-        row("a mark of none in 64 bits", OFTInteger64, "99999999999", 0, none);
+        row("a mark of none", OFTReal, "3.4e38", 0, high);
+        row("a mark of none in 64 bits", OFTInteger64, "99999999999", 0, high);
         row("negative mark of none", OFTInteger, "-9999", 0, low);
         row("zero", OFTReal, "0", 0, low);
     }

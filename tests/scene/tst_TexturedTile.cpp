@@ -301,7 +301,7 @@ private Q_SLOTS:
         BuildingTextures look;
         look.images = {{path, 9}};
         QCOMPARE(Tile(city, look, *open(city, look)).imageColumns, MaxCropPixels);
-        city.footprints.buildings.resize(100000);
+        city.footprints.buildings.resize(100000, {0, 0, 0, 1}); // of another feature
         const int columns = Tile(city, look, *open(city, look)).imageColumns;
         QVERIFY(columns > 0 && columns <= 64);
     }

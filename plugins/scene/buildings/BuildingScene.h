@@ -9,7 +9,7 @@ namespace vlt::scene {
 /// Reads a building document and makes its scene, in metres around the centre of the buildings: x
 /// east, y north, z up. It consists of tiles with levels of detail; the document gives their size.
 ///
-/// Its descriptions are "centre=X Y", "srs=...", "buildings=N" and "leftOut=N".
+/// Its descriptions are "centre=X Y", "srs=..." and the counts of contract/CityCounts.h.
 ///
 /// @param document   path of the document
 /// @param project    path of the project file, for relative paths; may be empty

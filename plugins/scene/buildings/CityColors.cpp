@@ -1,20 +1,17 @@
 #include "plugins/scene/buildings/CityColors.h"
 
+#include "city/BuildingValues.h"
 #include "contract/RasterColors.h"
 #include "coverage/CoverageRaster.h"
 #include "coverage/LocalRaster.h"
 #include "plugins/scene/buildings/ColorText.h"
-#include "plugins/scene/buildings/PositionTransform.h"
 #include "plugins/scene/reading/BadLayer.h"
 #include "plugins/scene/reading/Stopped.h"
 #include "plugins/scene/reading/TableLocation.h"
 
 #include <cpl_error.h>
 
-#include <algorithm>
 #include <cmath>
-#include <numeric>
-#include <tuple>
 
 namespace vlt::scene {
 
@@ -68,89 +65,12 @@ std::unique_ptr<CoverageRaster> openRaster(const RasterColors &colors,
     return std::move(raster);
 }
 
-/// The buildings in an order with neighbours close together, so that each block of a raster is read
-/// once.
-std::vector<std::size_t> inRows(const Footprints &footprints)
-{
-    constexpr double Rows = 64;
-    osg::Vec2d least(HUGE_VAL, HUGE_VAL);
-    osg::Vec2d most(-HUGE_VAL, -HUGE_VAL);
-    for (const osg::Vec2d &position : footprints.positions) {
-        least.set(std::min(least.x(), position.x()), std::min(least.y(), position.y()));
-        most.set(std::max(most.x(), position.x()), std::max(most.y(), position.y()));
-    }
-    const double perRow = std::max((most.y() - least.y()) / Rows, 1e-9);
-    struct Key
-    {
-        double row = 0;
-        double x = 0;
-    };
-    std::vector<Key> keys;
-    keys.reserve(footprints.buildings.size());
-    for (const Footprints::Building &building : footprints.buildings) {
-        const osg::Vec2d &position =
-            footprints.positions[footprints.rings[building.ringBegin].begin];
-        const double row = std::floor((position.y() - least.y()) / perRow);
-        const bool isFinite = std::isfinite(row) && std::isfinite(position.x());
-        keys.push_back(isFinite ? Key{row, position.x()} : Key{});
-    }
-    std::vector<std::size_t> order(keys.size());
-    std::iota(order.begin(), order.end(), std::size_t{0});
-    std::sort(order.begin(), order.end(), [&keys](std::size_t a, std::size_t b) {
-        return std::tie(keys[a].row, keys[a].x) < std::tie(keys[b].row, keys[b].x);
-    });
-    return order;
-}
-
-/// Determines the values of a raster under the buildings of a city.
-class Values
-{
-public:
-    Values(const Footprints &footprints, const PositionTransform &transform, CoverageRaster &raster,
-           coverage::Reduction reduction)
-        : m_footprints(footprints)
-        , m_transform(transform)
-        , m_raster(raster)
-        , m_reduction(reduction)
-    {}
-
-    /// The value under a building; NaN if there is none.
-    double under(const Footprints::Building &building)
-    {
-        m_positions.clear();
-        m_rings.clear();
-        for (const Footprints::Ring &ring : m_footprints.ringsOf(building)) {
-            const auto positions = m_footprints.positionsOf(ring);
-            m_positions.insert(m_positions.end(), positions.begin(), positions.end());
-        }
-        m_transform.apply(m_positions);
-        m_points.clear();
-        for (const osg::Vec2d &position : m_positions)
-            m_points.push_back({position.x(), position.y()});
-        std::span<const coverage::Place> rest = m_points;
-        for (const Footprints::Ring &ring : m_footprints.ringsOf(building)) {
-            m_rings.push_back(rest.first(ring.end - ring.begin));
-            rest = rest.subspan(ring.end - ring.begin);
-        }
-        return m_raster.valueUnder(m_rings, m_reduction).value_or(std::nan(""));
-    }
-
-private:
-    const Footprints &m_footprints;
-    const PositionTransform &m_transform;
-    CoverageRaster &m_raster;
-    coverage::Reduction m_reduction;
-    std::vector<osg::Vec2d> m_positions;
-    std::vector<coverage::Place> m_points;
-    std::vector<coverage::Ring> m_rings;
-};
-
 std::vector<Rgba> rasterColors(const CityModel &city, const RasterColors &colors,
                                const std::vector<std::string> &directories, Notices &notices,
                                const Progress &progress)
 {
     const std::unique_ptr<CoverageRaster> raster = openRaster(colors, directories);
-    const PositionTransform transform(city.srs, raster->srs());
+    const city::PositionTransform transform(city.srs, raster->srs());
     if (!transform.isUsable())
         throw BadLayer("MESS_SCENE_BAD_RASTER",
                        {colors.raster, contract::formatted("MESS_SCENE_NO_TRANSFORMATION_FROM")});
@@ -159,19 +79,24 @@ std::vector<Rgba> rasterColors(const CityModel &city, const RasterColors &colors
     const auto interpretation = colors.isInterpolated ? colormaps::Interpretation::Interpolation
                                                       : colormaps::Interpretation::ColorRanges;
     const Footprints &footprints = city.footprints;
-    const std::size_t number = footprints.buildings.size();
-    std::vector<Rgba> found(number, WithoutValue);
-    Values values(footprints, transform, *raster, colors.reduction);
+    const std::vector<std::size_t> order = city::featuresInRows(footprints);
+    const std::size_t number = order.size();
+    std::vector<Rgba> found(footprints.buildings.size(), WithoutValue);
+    city::BuildingValues values(footprints, transform, *raster, colors.reduction);
     const double before = colors.isStretched ? RangeShare : 0;
     std::size_t done = 0;
     std::size_t without = 0;
-    for (const std::size_t i : inRows(footprints)) {
+    for (const std::size_t first : order) {
         const double share = static_cast<double>(done) / static_cast<double>(number);
         if (done++ % BuildingsPerReport == 0 && !progress(before + share * (1 - before)))
             throw Stopped{};
-        const double value = values.under(footprints.buildings[i]);
+        const double value = values.under(first).value_or(std::nan(""));
         without += std::isnan(value) ? 1 : 0;
-        found[i] = colorOf(map, value, interpretation).value_or(WithoutValue);
+        const Rgba color = colorOf(map, value, interpretation).value_or(WithoutValue);
+        const std::uint32_t feature = footprints.buildings[first].feature;
+        for (std::size_t i = first; i < found.size() && footprints.buildings[i].feature == feature;
+             ++i)
+            found[i] = color;
     }
     if (without > 0)
         notices.push_back(

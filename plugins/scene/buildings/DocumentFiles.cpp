@@ -2,7 +2,6 @@
 
 #include "contract/BuildingDocument.h"
 #include "contract/FileSearch.h"
-#include "localfiles/LocalFormats.h"
 #include "plugins/scene/reading/BadLayer.h"
 
 #include <cpl_port.h>
@@ -12,18 +11,6 @@
 namespace vlt::scene {
 
 namespace fs = std::filesystem;
-
-std::string locateDataset(const std::string &name, const std::vector<std::string> &directories)
-{
-    for (const std::string &directory : directories) {
-        if (name.empty())
-            break;
-        std::string path = (fs::path(directory) / name).lexically_normal().string();
-        if (localfiles::isLocalDataset(path))
-            return path;
-    }
-    return {};
-}
 
 namespace {
 

@@ -1,12 +1,12 @@
 #pragma once
 
+#include "localfiles/LocalFormats.h"
+
 #include <string>
-#include <vector>
 
 namespace vlt::scene {
 
-/// The absolute path of a file or folder of the local disk; empty if there is none of this name.
-std::string locateDataset(const std::string &name, const std::vector<std::string> &directories);
+using localfiles::locateDataset;
 
 /// The absolute path of the document of a layer. If it is gone, or only in the folder of temporary
 /// files, a file of the same name beside the layer takes its place: both may have been copied.

@@ -146,10 +146,14 @@ void TextureImage::findLevels()
 void TextureImage::toPixels(std::vector<osg::Vec2d> &positions)
 {
     const std::lock_guard lock(m_mutex);
-    m_transform.apply(positions);
-    for (osg::Vec2d &position : positions)
-        position = {m_toPixel[0] + m_toPixel[1] * position.x() + m_toPixel[2] * position.y(),
-                    m_toPixel[3] + m_toPixel[4] * position.x() + m_toPixel[5] * position.y()};
+    std::vector<contract::Place> places;
+    for (const osg::Vec2d &position : positions)
+        places.push_back({position.x(), position.y()});
+    m_transform.apply(places);
+    std::transform(places.begin(), places.end(), positions.begin(), [this](const auto &place) {
+        return osg::Vec2d(m_toPixel[0] + m_toPixel[1] * place.x + m_toPixel[2] * place.y,
+                          m_toPixel[3] + m_toPixel[4] * place.x + m_toPixel[5] * place.y);
+    });
 }
 
 std::optional<TextureImage::Window> TextureImage::windowOf(const std::vector<osg::Vec2d> &pixels,

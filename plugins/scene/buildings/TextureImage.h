@@ -1,6 +1,6 @@
 #pragma once
 
-#include "plugins/scene/buildings/PositionTransform.h"
+#include "city/PositionTransform.h"
 
 #include <gdal_priv.h>
 
@@ -74,7 +74,7 @@ private:
 
     std::string m_name;
     GDALDatasetUniquePtr m_dataset; ///< null: not kept open
-    PositionTransform m_transform;
+    city::PositionTransform m_transform;
     std::array<double, 6> m_toPixel{};
     int m_columns = 0;
     int m_rows = 0;

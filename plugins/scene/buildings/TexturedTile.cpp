@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <optional>
 
 namespace vlt::scene {
@@ -90,7 +91,7 @@ private:
     bool hasImage(std::uint32_t building) const
     {
         const Footprints::Building &one = m_city.footprints.buildings[building];
-        const bool isComplex = one.ringEnd - one.ringBegin > 1;
+        const bool isComplex = m_city.footprints.isComplex(building);
         if (m_images.isEmpty() || (isComplex && !m_textures.processComplexBuildings))
             return false;
         return m_textures.mode != contract::TextureMode::Storeys ||
@@ -149,7 +150,8 @@ private:
             m_roof.clear();
             for (const Footprints::Ring &ring : part) {
                 const auto positions = footprints.positionsOf(ring);
-                looked.insert(looked.end(), positions.begin(), positions.end());
+                std::transform(positions.begin(), positions.end(), std::back_inserter(looked),
+                               toVector);
                 m_roof.addRing(outlineOf(ring));
             }
             m_roof.cut();
@@ -163,7 +165,7 @@ private:
     void lookUpCrossings(const Footprints::Ring &ring, Positions &looked) const
     {
         const osg::Vec2d first = m_roof.points().front();
-        const osg::Vec2d firstLooked = m_city.footprints.positions[ring.begin];
+        const osg::Vec2d firstLooked = toVector(m_city.footprints.positions[ring.begin]);
         for (std::size_t i = looked.size(); i < m_roof.points().size(); ++i)
             looked.push_back(firstLooked + m_images.inSystem(m_roof.points()[i] - first));
     }
@@ -200,8 +202,9 @@ private:
                     continue;
                 normal *= side;
                 const osg::Vec2d aside = m_images.inSystem(normal * m_textures.bufferM.value_or(0));
-                addBands(building, {outline[i], outline[next], normal, positions[i] + aside,
-                                    positions[next] + aside});
+                addBands(building,
+                         {outline[i], outline[next], normal, toVector(positions[i]) + aside,
+                          toVector(positions[next]) + aside});
             }
         }
     }

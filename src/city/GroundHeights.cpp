@@ -1,10 +1,10 @@
-#include "plugins/scene/buildings/GroundHeights.h"
+#include "city/GroundHeights.h"
 
+#include "contract/BadLayer.h"
 #include "contract/NoDataText.h"
+#include "contract/Stopped.h"
 #include "linkpath/TerrainRaster.h"
 #include "localfiles/NoNetwork.h"
-#include "plugins/scene/reading/BadLayer.h"
-#include "plugins/scene/reading/Stopped.h"
 
 #include <cpl_error.h>
 
@@ -12,7 +12,10 @@
 #include <cmath>
 #include <limits>
 
-namespace vlt::scene {
+namespace vlt::city {
+
+using contract::BadLayer;
+using contract::BaseRule;
 
 namespace {
 
@@ -31,7 +34,7 @@ public:
         auto [raster, reason] = linkpath::TerrainRaster::open(
             source.path, {contract::noDataNumber(source.noData), srs ? srs : &plane});
         if (!raster)
-            throw BadLayer(LibraryWords{reason});
+            throw BadLayer(contract::LibraryWords{reason});
         m_raster = std::move(raster);
         const OGRSpatialReference &own = m_raster->srs();
         if (srs && !srs->IsSame(&own)) {
@@ -41,27 +44,37 @@ public:
         }
     }
 
-    /// Mean of the heights under positions; NaN if none of them has a height.
-    float meanUnder(std::span<const osg::Vec2d> positions)
+    /// The ground height from those under positions; NaN if none of them has a height.
+    float under(std::span<const Place> positions, BaseRule rule)
     {
         m_x.resize(positions.size());
         m_y.resize(positions.size());
         m_isThere.assign(positions.size(), 1);
         for (std::size_t i = 0; i < positions.size(); ++i) {
-            m_x[i] = positions[i].x();
-            m_y[i] = positions[i].y();
+            m_x[i] = positions[i].x;
+            m_y[i] = positions[i].y;
         }
         if (m_toRaster)
             m_toRaster->Transform(static_cast<int>(positions.size()), m_x.data(), m_y.data(),
                                   nullptr, m_isThere.data());
         double sum = 0;
         int count = 0;
+        double lowest = HUGE_VAL;
+        double highest = -HUGE_VAL;
         for (std::size_t i = 0; i < positions.size(); ++i) {
             const auto height = m_isThere[i] ? m_raster->heightM(m_x[i], m_y[i]) : std::nullopt;
-            sum += height.value_or(0);
-            count += height ? 1 : 0;
+            if (!height)
+                continue;
+            sum += *height;
+            ++count;
+            lowest = std::min<double>(lowest, *height);
+            highest = std::max<double>(highest, *height);
         }
-        return count > 0 ? static_cast<float>(sum / count) : NoGround;
+        if (count == 0)
+            return NoGround;
+        return static_cast<float>(rule == BaseRule::Minimum   ? lowest
+                                  : rule == BaseRule::Maximum ? highest
+                                                              : sum / count);
     }
 
 private:
@@ -72,25 +85,34 @@ private:
     std::vector<int> m_isThere;
 };
 
-/// Gives buildings without a ground height the minimum of all others.
-void fillIn(std::vector<float> &heights, Notices &notices)
+/// Number of features with a building that has no height.
+std::size_t featuresWithout(const Footprints &footprints, const std::vector<float> &heights)
 {
-    float lowest = std::numeric_limits<float>::infinity();
-    std::size_t missing = 0;
-    for (const float height : heights) {
-        missing += std::isnan(height) ? 1 : 0;
-        lowest = std::isnan(height) ? lowest : std::min(lowest, height);
+    std::size_t count = 0;
+    std::optional<std::uint32_t> last;
+    for (std::size_t i = 0; i < heights.size(); ++i) {
+        const std::uint32_t feature = footprints.buildings[i].feature;
+        if (!std::isnan(heights[i]) || feature == last)
+            continue;
+        last = feature;
+        ++count;
     }
-    if (missing == 0)
-        return;
-    const bool isAll = missing == heights.size();
+    return count;
+}
+
+/// Gives buildings without a ground height the minimum of all others.
+void fillIn(const Footprints &footprints, std::vector<float> &heights,
+            contract::Substitutes &substitutes)
+{
+    const std::size_t missing = featuresWithout(footprints, heights);
+    float lowest = std::numeric_limits<float>::infinity();
+    for (const float height : heights)
+        lowest = std::isnan(height) ? lowest : std::min(lowest, height);
+    const bool isAll = std::isinf(lowest);
     std::replace_if(
         heights.begin(), heights.end(), [](float height) { return std::isnan(height); },
         isAll ? 0.0F : lowest);
-    notices.push_back(
-        isAll ? contract::formatted("MESS_SCENE_NO_GROUND")
-              : contract::formatted("MESS_SCENE_LOWEST_GROUND",
-                                    {std::to_string(missing), std::to_string(heights.size())}));
+    (isAll ? substitutes.zeroGround : substitutes.lowestGround) = missing;
 }
 
 /// The terrain of a document; nothing, with a notice, if there is none or it cannot be used.
@@ -115,24 +137,36 @@ std::optional<Ground> openGround(const GroundSource &source, const OGRSpatialRef
 } // namespace
 
 std::vector<float> groundUnder(const Footprints &footprints, const OGRSpatialReference *srs,
-                               const GroundSource &source, Notices &notices,
+                               const GroundSource &source, BaseRule rule,
+                               contract::Substitutes &substitutes, Notices &notices,
                                const Progress &progress)
 {
     const CPLErrorHandlerPusher quiet(CPLQuietErrorHandler);
     const localfiles::NoNetwork offline;
-    std::vector<float> heights(footprints.buildings.size(), 0);
-    std::optional<Ground> ground = openGround(source, srs, notices);
-    if (!ground)
+    std::vector<float> heights(footprints.buildings.size(), rule == BaseRule::Zero ? 0 : NoGround);
+    if (rule == BaseRule::Zero)
         return heights;
-    for (std::size_t i = 0; i < heights.size(); ++i) {
+    if (rule == BaseRule::Field) {
+        for (std::size_t i = 0; i < heights.size(); ++i)
+            heights[i] = footprints.features[footprints.buildings[i].feature].groundM;
+        substitutes.terrainBase = featuresWithout(footprints, heights);
+        if (substitutes.terrainBase == 0)
+            return heights;
+    }
+    std::optional<Ground> ground = openGround(source, srs, notices);
+    for (std::size_t i = 0; ground && i < heights.size(); ++i) {
         if (i % BuildingsPerReport == 0 &&
             !progress(static_cast<double>(i) / static_cast<double>(heights.size())))
-            throw Stopped{};
+            throw contract::Stopped{};
+        if (!std::isnan(heights[i]))
+            continue;
         const Footprints::Ring &ring = footprints.rings[footprints.buildings[i].ringBegin];
-        heights[i] = ground->meanUnder(footprints.positionsOf(ring));
+        heights[i] = ground->under(footprints.positionsOf(ring), rule);
     }
-    fillIn(heights, notices);
+    fillIn(footprints, heights, substitutes);
+    if (ground && substitutes.zeroGround > 0)
+        notices.push_back(contract::formatted("MESS_SCENE_NO_GROUND"));
     return heights;
 }
 
-} // namespace vlt::scene
+} // namespace vlt::city

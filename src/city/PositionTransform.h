@@ -1,14 +1,14 @@
 #pragma once
 
-#include <ogr_spatialref.h>
+#include "contract/Place.h"
 
-#include <osg/Vec2d>
+#include <ogr_spatialref.h>
 
 #include <memory>
 #include <span>
 #include <string>
 
-namespace vlt::scene {
+namespace vlt::city {
 
 /// The transformation from the system of footprints to that of a raster, x before y in both. Not
 /// for two threads at once.
@@ -25,11 +25,11 @@ public:
     bool isUsable() const { return m_isUsable; }
 
     /// Transforms positions; those that cannot be transformed become NaN.
-    void apply(std::span<osg::Vec2d> positions) const;
+    void apply(std::span<contract::Place> positions) const;
 
 private:
     std::unique_ptr<OGRCoordinateTransformation> m_transformation; ///< null: the same system
     bool m_isUsable = true;
 };
 
-} // namespace vlt::scene
+} // namespace vlt::city

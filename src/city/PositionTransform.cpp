@@ -1,4 +1,4 @@
-#include "plugins/scene/buildings/PositionTransform.h"
+#include "city/PositionTransform.h"
 
 #include "localfiles/NoNetwork.h"
 
@@ -7,7 +7,7 @@
 #include <cmath>
 #include <vector>
 
-namespace vlt::scene {
+namespace vlt::city {
 
 PositionTransform::PositionTransform(const std::string &from, const OGRSpatialReference *to)
 {
@@ -29,7 +29,7 @@ PositionTransform::PositionTransform(const std::string &from, const OGRSpatialRe
     m_isUsable = m_transformation != nullptr;
 }
 
-void PositionTransform::apply(std::span<osg::Vec2d> positions) const
+void PositionTransform::apply(std::span<contract::Place> positions) const
 {
     if (!m_transformation || positions.empty())
         return;
@@ -37,15 +37,15 @@ void PositionTransform::apply(std::span<osg::Vec2d> positions) const
     const std::size_t count = positions.size();
     std::vector<double> x;
     std::vector<double> y;
-    for (const osg::Vec2d &position : positions) {
-        x.push_back(position.x());
-        y.push_back(position.y());
+    for (const contract::Place &position : positions) {
+        x.push_back(position.x);
+        y.push_back(position.y);
     }
     std::vector<int> succeeded(count, FALSE);
     m_transformation->Transform(static_cast<int>(count), x.data(), y.data(), nullptr,
                                 succeeded.data());
     for (std::size_t i = 0; i < count; ++i)
-        positions[i] = succeeded[i] ? osg::Vec2d(x[i], y[i]) : osg::Vec2d(NAN, NAN);
+        positions[i] = succeeded[i] ? contract::Place{x[i], y[i]} : contract::Place{NAN, NAN};
 }
 
-} // namespace vlt::scene
+} // namespace vlt::city
