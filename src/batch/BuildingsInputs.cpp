@@ -43,23 +43,15 @@ Result<int> chosenLayer(const QList<geodata::PolygonLayer> &layers, const QStrin
 Result<QString> chosenField(const geodata::PolygonLayer &layer, const QString &wanted,
                             const QString &path)
 {
-    const QStringList names = buildings::possibleHeightFields(layer);
-    if (!wanted.isEmpty()) {
-        const qsizetype index = indexOfName(names, wanted);
-        if (index >= 0)
-            return names.at(index);
-        return Error::asIs(dico_label("MESS_CLI_NO_SUCH_FIELD",
-                                      "there is no field of heights \"%1\"; the fields are: %2")
-                               .arg(wanted, names.join(QStringLiteral(", "))),
-                           path);
-    }
+    if (!wanted.isEmpty())
+        return findHeightField(layer, wanted, path);
     const QString guess = buildings::preselectedHeightField(layer);
     if (guess.isEmpty())
         return Error::asIs(
             dico_label("MESS_CLI_NO_HEIGHT_FIELD",
                        "no field with the heights was found: give its name with --height-field; "
                        "the fields are: %1")
-                .arg(names.join(QStringLiteral(", "))),
+                .arg(buildings::possibleHeightFields(layer).join(QStringLiteral(", "))),
             path);
     return guess;
 }
@@ -68,9 +60,24 @@ Result<QString> chosenField(const geodata::PolygonLayer &layer, const QString &w
 struct Footprints
 {
     BuildingsSource source;
-    qint64 count = -1; ///< -1 if the format would have to read all features to count them
-    QString hint;      ///< about the height field, if the request names none
+    qint64 count = -1;    ///< -1 if the format would have to read all features to count them
+    QStringList warnings; ///< about the choice of the height field and the units
 };
+
+/// Refuses a condition that is wrong or selects no feature.
+std::optional<Error> checkCondition(geodata::PolygonSource &source, int layer,
+                                    const QString &condition)
+{
+    if (condition.isEmpty())
+        return std::nullopt;
+    const Result<bool> selects = source.selects(layer, condition);
+    if (!selects)
+        return selects.error();
+    if (selects.value())
+        return std::nullopt;
+    return Error{QStringLiteral("MESS_ERR_WHERE_EMPTY"),
+                 QStringLiteral("no feature meets this condition"), condition};
+}
 
 Result<Footprints> readVector(const BuildingsRequest &request, const QString &path)
 {
@@ -85,19 +92,30 @@ Result<Footprints> readVector(const BuildingsRequest &request, const QString &pa
     const Result<QString> field = chosenField(layer, request.heightField, path);
     if (!field)
         return field.error();
+    Footprints footprints;
+    if (const QString hint = buildings::heightHint(layer, field.value());
+        request.heightField.isEmpty() && !hint.isEmpty())
+        footprints.warnings << hint;
+    const Result<contract::BuildingHeights> heights =
+        heightsOf(request.heights, layer, field.value(), path, footprints.warnings);
+    if (!heights)
+        return heights.error();
+    if (const auto refusal = checkCondition(*opened.value(), index.value(), request.heights.where))
+        return *refusal;
     const geodata::Extent extent = opened.value()->extent(index.value());
     if (!extent.isPlaced())
         return Error{QStringLiteral("MESS_ERR_NO_EXTENT"),
                      QStringLiteral("No building of this layer has a position"), path};
-    BuildingsSource source;
+    BuildingsSource &source = footprints.source;
     source.file = absolutePath(path);
     source.layer = layer.name;
     source.heightField = field.value();
+    source.heights = heights.value();
+    source.where = request.heights.where;
     source.xCenter = extent.centerX();
     source.yCenter = extent.centerY();
-    return Footprints{source, layer.featureCount,
-                      request.heightField.isEmpty() ? buildings::heightHint(layer, field.value())
-                                                    : QString()};
+    footprints.count = source.where.isEmpty() ? layer.featureCount : -1;
+    return footprints;
 }
 
 struct Terrain
@@ -163,10 +181,9 @@ Result<BuildingsInputs> readFiles(const BuildingsRequest &request, const Surroun
     inputs.layer.footprints = request.footprints;
     inputs.layer.installDir = surroundings.installDir;
     inputs.buildingCount = footprints.value().count;
-    for (const QString &warning : {footprints.value().hint, terrain.value().warning}) {
-        if (!warning.isEmpty())
-            inputs.warnings << warning;
-    }
+    inputs.warnings = footprints.value().warnings;
+    if (!terrain.value().warning.isEmpty())
+        inputs.warnings << terrain.value().warning;
     inputs.files = {vector.value(), dtm, project};
     return inputs;
 }

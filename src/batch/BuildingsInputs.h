@@ -12,7 +12,7 @@ struct BuildingsInputs
     buildings::RasterColoring coloring;       ///< without a raster if none is requested
     buildings::TexturingParameters texturing; ///< of the request, with images if it has textures
     qint64 buildingCount = -1; ///< -1 if the format would have to read all features to count them
-    QStringList warnings;      ///< about a height field or a terrain that are probably others
+    QStringList warnings;      ///< about the height field, its unit and the terrain
     QStringList files;         ///< all files that are read and so must not be written
 };
 

@@ -1,18 +1,12 @@
 #include "batch/BuildingsOptions.h"
 
+#include "batch/BuildingsHeightOptions.h"
 #include "contract/RasterColors.h"
 #include "language/VltLanguageManager.h"
 
 namespace vlt::batch {
 
 namespace {
-
-/// Words as the name of an option's value: "one|two".
-template<std::size_t N>
-QString choiceOf(const char *const (&words)[N])
-{
-    return wordsOf(words).join(QLatin1Char('|'));
-}
 
 QList<QCommandLineOption> coloredOptions()
 {
@@ -152,6 +146,17 @@ const std::vector<NumberOption<BuildingsMeasures>> &buildingsNumbers()
     return options;
 }
 
+Result<int> readWord(const QCommandLineParser &parser, const QString &option,
+                     const QStringList &words)
+{
+    if (!parser.isSet(option))
+        return 0;
+    const QString value = parser.value(option);
+    const auto index = static_cast<int>(words.indexOf(value));
+    return index < 0 ? Result<int>(wrongValue(option, words.join(QLatin1Char('|')), value))
+                     : Result<int>(index);
+}
+
 QStringList reductionWords()
 {
     QStringList words = wordsOf(contract::ReductionWords);
@@ -186,8 +191,8 @@ QList<QCommandLineOption> buildingsOptions()
         {QStringLiteral("check-clockwise"),
          dico_label("MESS_OPT_CHECK_CLOCKWISE", "Check the directions of the outlines.")},
     };
-    return inputs + numberOptionList(buildingsNumbers()) + coloredOptions() + texturedOptions() +
-           textureStorageOptions();
+    return inputs + heightOptions() + numberOptionList(buildingsNumbers()) + coloredOptions() +
+           texturedOptions() + textureStorageOptions();
 }
 
 } // namespace vlt::batch

@@ -39,6 +39,17 @@ QStringList wordsOf(const char *const (&words)[N])
     return list;
 }
 
+/// Words as the name of an option's value: "one|two".
+template<std::size_t N>
+QString choiceOf(const char *const (&words)[N])
+{
+    return wordsOf(words).join(QLatin1Char('|'));
+}
+
+/// Index of an option's value among the words; 0 if the option is not given.
+Result<int> readWord(const QCommandLineParser &parser, const QString &option,
+                     const QStringList &words);
+
 /// The words of the document in the order of contract::Reduction, "most-represented" with a hyphen.
 QStringList reductionWords();
 

@@ -29,18 +29,6 @@ const QStringList OfTextures = {
 const QStringList TexturingOptions = {QStringLiteral("cache"), QStringLiteral("delayed-write"),
                                       QStringLiteral("cache-capacity")};
 
-/// Index of an option's value among the words; 0 if the option is not given.
-Result<int> readWord(const QCommandLineParser &parser, const QString &option,
-                     const QStringList &words)
-{
-    if (!parser.isSet(option))
-        return 0;
-    const QString value = parser.value(option);
-    const auto index = static_cast<int>(words.indexOf(value));
-    return index < 0 ? Result<int>(wrongValue(option, words.join(QLatin1Char('|')), value))
-                     : Result<int>(index);
-}
-
 /// Reads the colour of an option as "#rrggbb", or ColorMapWord if that is allowed.
 Result<QString> readColor(const QCommandLineParser &parser, const QString &option,
                           const char *firstRun, bool mayBeFromMap)
@@ -259,6 +247,10 @@ Result<BuildingsRequest> readBuildingsRequest(const QCommandLineParser &parser)
         return *error;
     if (parser.isSet(QStringLiteral("dtm-nodata")))
         request.terrainNoData = parser.value(QStringLiteral("dtm-nodata"));
+    const Result<HeightChoice> heights = readHeightOptions(parser);
+    if (!heights)
+        return heights.error();
+    request.heights = heights.value();
     BuildingsMeasures measures;
     if (const auto error = readNumberOptions(parser, buildingsNumbers(), measures))
         return *error;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "batch/BuildingsHeightOptions.h"
 #include "buildings/BuildingLayerFiles.h"
 #include "buildings/TextureFolders.h"
 
@@ -25,7 +26,8 @@ struct BuildingsRequest
     QString output;
     QString layer;       ///< empty for the first one
     QString heightField; ///< empty for the one that the wizard selects
-    QString terrain;     ///< empty for that of the project
+    HeightChoice heights;
+    QString terrain; ///< empty for that of the project
     std::optional<QString> terrainNoData;
     contract::BuildingFootprints footprints;
     std::optional<buildings::RasterColoring> image; ///< image and colour map as given

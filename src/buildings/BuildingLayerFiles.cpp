@@ -165,6 +165,8 @@ contract::BuildingDocument documentOf(const BuildingLayerInput &input)
     document.footprints.file = source.file.toStdString();
     document.footprints.layer = source.layer.toStdString();
     document.footprints.heightField = source.heightField.toStdString();
+    document.footprints.heights = source.heights;
+    document.footprints.where = source.where.toStdString();
     document.terrain = {source.terrainFile.toStdString(), source.terrainNoData.toStdString()};
     return document;
 }

@@ -33,7 +33,7 @@ struct LegendInput
 struct BuildingLayerInput
 {
     BuildingsSource source;
-    contract::BuildingFootprints footprints; ///< with file, layer and field of the source
+    contract::BuildingFootprints footprints; ///< but for what the source has
     QString installDir;
     std::optional<LegendInput> legend;
 };

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "contract/BuildingHeights.h"
+
 #include <QString>
 #include <QVariantMap>
 
@@ -11,6 +13,8 @@ struct BuildingsSource
     QString file;
     QString layer;
     QString heightField;
+    contract::BuildingHeights heights;
+    QString where; ///< SQL condition for the features that are buildings; empty: all
     QString terrainFile;
     QString terrainNoData; ///< as the user typed it; may be empty
     double xCenter = 0;    ///< centre of the buildings' extent, in their system

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "contract/BuildingHeights.h"
 #include "geodata/PolygonSource.h"
 
 namespace vlt::buildings {
@@ -26,5 +27,9 @@ QString preselectedHeightField(const geodata::PolygonLayer &layer);
 /// Name of a field that has the heights by its name, of any kind that can have heights; empty for
 /// none, or if the name of the chosen field is one of those, too.
 QString likelierHeightField(const geodata::PolygonLayer &layer, const QString &chosen);
+
+/// The unit of a field of heights by the words in its name: levels ("building:levels",
+/// "NB_ETAGES"), feet ("heightFt"), else metres.
+contract::HeightUnit unitFromName(const QString &field);
 
 } // namespace vlt::buildings

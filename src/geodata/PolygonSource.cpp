@@ -128,4 +128,21 @@ Extent PolygonSource::extent(int layer)
     return {envelope.MinX, envelope.MinY, envelope.MaxX, envelope.MaxY};
 }
 
+Result<bool> PolygonSource::selects(int layer, const QString &condition)
+{
+    const std::lock_guard<std::mutex> alone(m_reading);
+    const ErrorCollector errors;
+    const localfiles::NoNetwork offline;
+    OGRLayer *handle = m_handles.at(layer);
+    const bool isValid = handle->SetAttributeFilter(condition.toUtf8()) == OGRERR_NONE;
+    handle->ResetReading();
+    const bool hasOne = isValid && OGRFeatureUniquePtr(handle->GetNextFeature()) != nullptr;
+    const QString reason = errors.failure({});
+    handle->SetAttributeFilter(nullptr);
+    if (!isValid || !reason.isEmpty())
+        return Error{QStringLiteral("MESS_ERR_WHERE"),
+                     QStringLiteral("this condition cannot be used"), condition, reason};
+    return hasOne;
+}
+
 } // namespace vlt::geodata

@@ -72,6 +72,11 @@ public:
     /// Bounds of a layer of layers(); reads every feature if the format does not store the bounds.
     Extent extent(int layer);
 
+    /// Whether an SQL condition selects a feature of a layer of layers().
+    ///
+    /// @par Errors  MESS_ERR_WHERE, with the condition as path and the library's reason
+    Result<bool> selects(int layer, const QString &condition);
+
 private:
     PolygonSource() = default;
 

@@ -91,6 +91,20 @@ private Q_SLOTS:
         row("colour map of the user, empty no-data",
             "--image ../level.asc --colormap ../own.txt --mode mostRepresented --dtm-nodata=",
             {u"level.asc;@/own.txt;mostRepresented;stretched;"_s, u"nodata=\"\""_s});
+        const QString image = u"--image ../level.asc "_s;
+        const QString elevation = u"nodata=\"-9999.000000\"\n  />\n"_s;
+        row("heights, all options",
+            image + u"--height-unit levels --height-factor 1.5 --level-height 2.8 --else-field ID "
+                    "--else-unit ft --default-height 6 --height-reference sea --base field "
+                    "--base-field ID --bottom-field id --where USE<>'home'"_s,
+            {elevation + u"  <heights \n    unit=\"levels\"\n    factor=\"1.5\"\n"
+                         "    levelHeight=\"2.8\"\n    elseField=\"id\"\n    elseUnit=\"ft\"\n"
+                         "    default=\"6\"\n    reference=\"sea\"\n    base=\"field\"\n"
+                         "    baseField=\"id\"\n    bottomField=\"id\"\n"
+                         "    where=\"USE%3C%3E'home'\"\n  />\n"_s});
+        row("heights, the defaults in words",
+            image + u"--height-unit m --height-factor 1 --base mean"_s,
+            {elevation + u"</veltaroTexturedBuildings>"_s});
         addRowsWithStyle(row);
     }
 
@@ -163,12 +177,15 @@ private Q_SLOTS:
         const Run run = this->start(start + u"--image ../level.asc"_s);
         const Run chosen = this->start(start + u"--image ../level.asc --height-field levels"_s);
 
-        const QByteArray warning = "The field \"height\" probably has the heights.";
-        QCOMPARE(run.errors, "vltlayers: " + warning + "\n");
+        const QString field = u"The field \"height\" probably has the heights."_s;
+        const QString unit = u"The values of \"levels\" are taken as levels of 3 m; --height-unit "
+                             "states another unit."_s;
+        const QByteArray line = "vltlayers: " + unit.toUtf8() + "\n";
+        QCOMPARE(run.errors, "vltlayers: " + field.toUtf8() + "\n" + line);
         const QJsonObject reported = QJsonDocument::fromJson(run.output).object();
         QCOMPARE(reported.value(u"heightField"_s).toString(), u"levels"_s);
-        QCOMPARE(reported.value(u"warnings"_s).toArray(), QJsonArray{QString::fromUtf8(warning)});
-        QCOMPARE(chosen.errors, QByteArray());
+        QCOMPARE(reported.value(u"warnings"_s).toArray(), (QJsonArray{field, unit}));
+        QCOMPARE(chosen.errors, line);
     }
 
     void refusesAndWritesNothing_data()
@@ -186,6 +203,14 @@ private Q_SLOTS:
         row("../beyond.geojson --dtm ../dem.asc", 1,
             "../beyond.geojson: no field with the heights was found: give its name with "
             "--height-field; the fields are: osm_id, H");
+        row("% --image ../level.asc --else-field AGL", 1, "there is no field of heights \"AGL\"");
+        row("% --where id>", 1, "id>: this condition cannot be used (");
+        row("% --where id>9", 1, "id>9: no feature meets this condition");
+        row("% --else-unit m", 2, "--else-unit needs --else-field");
+        row("% --base field", 2, "--base field needs --base-field");
+        row("% --base-field id", 2, "--base-field needs --base field");
+        row("% --base lowest", 2, "mean|minimum|maximum|field|zero");
+        row("% --default-height 0", 2, "0.1 to 10000");
         row("% --image ../own.txt", 1, "../own.txt: This file can't be open as a raster dataset (");
         row("% --image /vsicurl/http://example.org/a.tif", 1, "a.tif: no such file");
         row("% --image ../rgb.ppm", 1, "works only with one-band grey images");

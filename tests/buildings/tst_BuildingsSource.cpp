@@ -1,4 +1,5 @@
 #include "SourcePage.h"
+#include "buildings/HeightGuess.h"
 #include "gui/DropOnWidget.h"
 #include "gui/FileDialogAnswer.h"
 #include "support/Cases.h"
@@ -131,6 +132,25 @@ private Q_SLOTS:
         QTEST(host.info(u"Height"_s), "hint");
         host.dtm()->setText(u"x"_s);
         QCOMPARE(host.canGoOn(), index >= 0);
+    }
+
+    void guessesTheUnit_data()
+    {
+        const Cases<QString> row({"unit"});
+        for (const char *name : {"levels", "NB_ETAGES", "building:levels", "STOREYS", "NbNiv",
+                                 "NBETAGES", "numFloors", "étages"})
+            row(name, "levels");
+        for (const char *name : {"height_ft", "HeightFt", "HAUT_PIEDS", "levels_ft"})
+            row(name, "ft");
+        for (const char *name : {"HEIGHT", "level", "FLOOR_HEIGHT", "loft", "nb", "", "_"})
+            row(name, "m");
+    }
+
+    void guessesTheUnit()
+    {
+        const auto unit = vlt::buildings::unitFromName(QString::fromUtf8(QTest::currentDataTag()));
+        const char *word = vlt::contract::HeightUnitWords[static_cast<int>(unit)];
+        QTEST(QString::fromLatin1(word), "unit");
     }
 
     void appendsTheFieldsOfAnotherLayer()

@@ -11,5 +11,69 @@
         <source>Choose the field with the heights.</source>
         <translation>Choose the field with the heights.</translation>
     </message>
+    <message id="MESS_OPT_HEIGHT_FACTOR">
+        <source>Factor of the numbers in the field of heights</source>
+        <translation>Factor of the numbers in the field of heights</translation>
+    </message>
+    <message id="MESS_OPT_LEVEL_HEIGHT">
+        <source>Height of a level in metres</source>
+        <translation>Height of a level in metres</translation>
+    </message>
+    <message id="MESS_OPT_DEFAULT_HEIGHT">
+        <source>Height in metres of buildings that have none in a field; without it they are left out</source>
+        <translation>Height in metres of buildings that have none in a field; without it they are left out</translation>
+    </message>
+    <message id="MESS_OPT_HEIGHT_UNIT">
+        <source>Unit of the numbers in the field of heights (default: levels or feet if its name says so, else metres). A unit in a text goes first.</source>
+        <translation>Unit of the numbers in the field of heights (default: levels or feet if its name says so, else metres). A unit in a text goes first.</translation>
+    </message>
+    <message id="MESS_OPT_ELSE_FIELD">
+        <source>Field with the height of buildings that have none in the field of heights.</source>
+        <translation>Field with the height of buildings that have none in the field of heights.</translation>
+    </message>
+    <message id="MESS_OPT_ELSE_UNIT">
+        <source>Unit of the numbers in that field (default as for --height-unit).</source>
+        <translation>Unit of the numbers in that field (default as for --height-unit).</translation>
+    </message>
+    <message id="MESS_OPT_HEIGHT_REFERENCE">
+        <source>Level from which the values of both fields are measured: the ground (default) or the sea.</source>
+        <translation>Level from which the values of both fields are measured: the ground (default) or the sea.</translation>
+    </message>
+    <message id="MESS_OPT_BASE">
+        <source>Ground height of a building: mean (default), minimum or maximum of the terrain under its vertices, a field (--base-field), or zero.</source>
+        <translation>Ground height of a building: mean (default), minimum or maximum of the terrain under its vertices, a field (--base-field), or zero.</translation>
+    </message>
+    <message id="MESS_OPT_BASE_FIELD">
+        <source>Field with the ground height in metres above sea level.</source>
+        <translation>Field with the ground height in metres above sea level.</translation>
+    </message>
+    <message id="MESS_OPT_BOTTOM_FIELD">
+        <source>Field with the height in metres of the underside above the ground.</source>
+        <translation>Field with the height in metres of the underside above the ground.</translation>
+    </message>
+    <message id="MESS_OPT_WHERE">
+        <source>SQL condition for the features that are buildings, such as "USAGE = 'home'" (default: all).</source>
+        <translation>SQL condition for the features that are buildings, such as "USAGE = 'home'" (default: all).</translation>
+    </message>
+    <message id="MESS_USE_NEEDS_OPTION">
+        <source>--%1 needs --%2</source>
+        <translation>--%1 needs --%2</translation>
+    </message>
+    <message id="MESS_CLI_TAKEN_AS_LEVELS">
+        <source>The values of "%1" are taken as levels of %2 m; %3 states another unit.</source>
+        <translation>The values of "%1" are taken as levels of %2 m; %3 states another unit.</translation>
+    </message>
+    <message id="MESS_CLI_TAKEN_AS_FEET">
+        <source>The values of "%1" are taken as feet; %2 states another unit.</source>
+        <translation>The values of "%1" are taken as feet; %2 states another unit.</translation>
+    </message>
+    <message id="MESS_ERR_WHERE">
+        <source>this condition cannot be used</source>
+        <translation>this condition cannot be used</translation>
+    </message>
+    <message id="MESS_ERR_WHERE_EMPTY">
+        <source>no feature meets this condition</source>
+        <translation>no feature meets this condition</translation>
+    </message>
 </context>
 </TS>

@@ -11,5 +11,69 @@
         <source>Choose the field with the heights.</source>
         <translation>Choisissez le champ des hauteurs.</translation>
     </message>
+    <message id="MESS_OPT_HEIGHT_FACTOR">
+        <source>Factor of the numbers in the field of heights</source>
+        <translation>Facteur des nombres du champ des hauteurs</translation>
+    </message>
+    <message id="MESS_OPT_LEVEL_HEIGHT">
+        <source>Height of a level in metres</source>
+        <translation>Hauteur d'un niveau en mètres</translation>
+    </message>
+    <message id="MESS_OPT_DEFAULT_HEIGHT">
+        <source>Height in metres of buildings that have none in a field; without it they are left out</source>
+        <translation>Hauteur en mètres des bâtiments dont aucun champ n'indique la hauteur&#xa0;; sans elle, ils sont écartés</translation>
+    </message>
+    <message id="MESS_OPT_HEIGHT_UNIT">
+        <source>Unit of the numbers in the field of heights (default: levels or feet if its name says so, else metres). A unit in a text goes first.</source>
+        <translation>Unité des nombres du champ des hauteurs (par défaut&#xa0;: niveaux ou pieds si son nom l'indique, sinon mètres). L'unité écrite dans un texte l'emporte.</translation>
+    </message>
+    <message id="MESS_OPT_ELSE_FIELD">
+        <source>Field with the height of buildings that have none in the field of heights.</source>
+        <translation>Champ de la hauteur des bâtiments qui n'en ont pas dans le champ des hauteurs.</translation>
+    </message>
+    <message id="MESS_OPT_ELSE_UNIT">
+        <source>Unit of the numbers in that field (default as for --height-unit).</source>
+        <translation>Unité des nombres de ce champ (par défaut comme pour --height-unit).</translation>
+    </message>
+    <message id="MESS_OPT_HEIGHT_REFERENCE">
+        <source>Level from which the values of both fields are measured: the ground (default) or the sea.</source>
+        <translation>Niveau à partir duquel les valeurs des deux champs sont mesurées&#xa0;: le sol (ground, par défaut) ou la mer (sea).</translation>
+    </message>
+    <message id="MESS_OPT_BASE">
+        <source>Ground height of a building: mean (default), minimum or maximum of the terrain under its vertices, a field (--base-field), or zero.</source>
+        <translation>Altitude du pied d'un bâtiment&#xa0;: moyenne (mean, par défaut), minimum ou maximum du terrain sous ses sommets, champ (field, avec --base-field) ou zéro.</translation>
+    </message>
+    <message id="MESS_OPT_BASE_FIELD">
+        <source>Field with the ground height in metres above sea level.</source>
+        <translation>Champ de l'altitude du sol en mètres.</translation>
+    </message>
+    <message id="MESS_OPT_BOTTOM_FIELD">
+        <source>Field with the height in metres of the underside above the ground.</source>
+        <translation>Champ de la hauteur de la sous-face au-dessus du sol, en mètres.</translation>
+    </message>
+    <message id="MESS_OPT_WHERE">
+        <source>SQL condition for the features that are buildings, such as "USAGE = 'home'" (default: all).</source>
+        <translation>Condition SQL des entités qui sont des bâtiments, par exemple "USAGE = 'home'" (par défaut&#xa0;: toutes).</translation>
+    </message>
+    <message id="MESS_USE_NEEDS_OPTION">
+        <source>--%1 needs --%2</source>
+        <translation>--%1 ne va qu'avec --%2</translation>
+    </message>
+    <message id="MESS_CLI_TAKEN_AS_LEVELS">
+        <source>The values of "%1" are taken as levels of %2 m; %3 states another unit.</source>
+        <translation>Les valeurs de «&#xa0;%1&#xa0;» sont comprises comme des niveaux de %2 m&#xa0;; %3 indique une autre unité.</translation>
+    </message>
+    <message id="MESS_CLI_TAKEN_AS_FEET">
+        <source>The values of "%1" are taken as feet; %2 states another unit.</source>
+        <translation>Les valeurs de «&#xa0;%1&#xa0;» sont comprises comme des pieds&#xa0;; %2 indique une autre unité.</translation>
+    </message>
+    <message id="MESS_ERR_WHERE">
+        <source>this condition cannot be used</source>
+        <translation>cette condition est inutilisable</translation>
+    </message>
+    <message id="MESS_ERR_WHERE_EMPTY">
+        <source>no feature meets this condition</source>
+        <translation>aucune entité ne remplit cette condition</translation>
+    </message>
 </context>
 </TS>
