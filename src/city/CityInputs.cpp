@@ -214,16 +214,18 @@ CityInputs readCityInputs(const BuildingDocument &document,
     position(city);
 
     const contract::BuildingTerrain &terrain = document.terrain;
+    Notices ofGround; // stand behind those of the buildings that are left out
     city.baseM = groundUnder(
         city.footprints, city.srs ? &*city.srs : nullptr,
         {terrain.file, localfiles::locateDataset(terrain.file, directories), terrain.noData},
-        source.heights.base, city.counts.substitutes, notices,
+        source.heights.base, city.counts.substitutes, ofGround,
         [&](double share) { return progress(ReadingShare + share * (1 - ReadingShare)); });
     standOnGround(city);
     checkBottoms(city);
     city.counts.coincident = countCoincident(city.footprints);
     countSources(city.footprints, city.counts);
     report(city.counts, source, notices);
+    notices.insert(notices.end(), ofGround.begin(), ofGround.end());
     return city;
 }
 

@@ -54,8 +54,16 @@ private Q_SLOTS:
         m_dir = std::make_unique<QTemporaryDir>();
         writeFile(path(u"addons/telecom/template/template_texb.lay"_s), Template);
         writeFile(path(u"two.txt"_s), "0 red\n10 0 0 255\n");
-        m_input.source = {u"/d/\"a\" & b.shp"_s, u"quarter"_s, u"H"_s, u"/d/dem.tif"_s, u"-9999"_s,
-                          651234.56789,          6758252,      {}};
+        m_input.source = {.file = u"/d/\"a\" & b.shp"_s,
+                          .layer = u"quarter"_s,
+                          .heightField = u"H"_s,
+                          .heights = {},
+                          .where = {},
+                          .terrainFile = u"/d/dem.tif"_s,
+                          .terrainNoData = u"-9999"_s,
+                          .xCenter = 651234.56789,
+                          .yCenter = 6758252,
+                          .project = {}};
         m_input.footprints = Measures;
         m_input.installDir = m_dir->path();
         m_input.legend = LegendInput{u"two & more"_s, {}};
