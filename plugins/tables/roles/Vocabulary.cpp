@@ -238,6 +238,8 @@ void Vocabulary::addPartsOfNames(const Json &root)
         if (const Json *texts = memberOf(units, unit.name))
             addTo(*texts, [&unit](WordMeaning &meaning) { meaning.*unit.member = unit.size; });
     }
+    if (const Json *texts = memberOf(units, "other"))
+        addTo(*texts, [](WordMeaning &meaning) { meaning.isOtherUnit = true; });
     int sector = 0;
     for (const Json &names : sectionOf(root, "sectorNames")) {
         ++sector;

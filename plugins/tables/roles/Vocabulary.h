@@ -37,6 +37,7 @@ struct WordMeaning
     std::optional<double> metres;    ///< per unit of length of that name
     std::optional<double> megahertz; ///< per unit of frequency of that name
     std::optional<double> degrees;   ///< per unit of angle of that name
+    bool isOtherUnit = false;        ///< of power, gain, time and the like: no role is one
     std::uint32_t languages = 0;     ///< bits of those in which it names a role
 
     bool isUnit() const { return metres || megahertz || degrees; }

@@ -1,6 +1,7 @@
 #include "plugins/tables/sites/SiteCandidates.h"
 
 #include "plugins/tables/cells/Cell.h"
+#include "plugins/tables/roles/BracketUnit.h"
 #include "plugins/tables/roles/NameMatch.h"
 #include "plugins/tables/sites/SectorSuffix.h"
 
@@ -62,6 +63,9 @@ private:
             matches = {*ofRows};
         for (const NameMatch &match : matches) {
             if (!isRoleOfSite(match.role) && !isRoleOfTransmitter(match.role))
+                continue;
+            if (!suitsUnitInBrackets(match.role, m_table.profile().nameWithUnit(field),
+                                     m_table.vocabulary()))
                 continue;
             const double fit = fitOf(match.role, m_table.facts(field),
                                      unitOfColumn(match.role, words, m_table.vocabulary()));
