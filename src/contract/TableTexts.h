@@ -139,6 +139,8 @@ inline constexpr auto TableTexts = std::to_array<Text>({
     // sites that cannot be read in full
     {"MESS_TAB_UNUSED_AZIMUTHS",
      "the azimuths in column \"%1\" are not used: the sectors have those in column \"%2\""},
+    {"MESS_TAB_UNFIT_AZIMUTHS",
+     "the values in column \"%1\" are no azimuths in degrees: they are not used"},
     {"MESS_TAB_WHOLE_DEGREES", "the coordinates in columns \"%1\" and \"%2\" are whole degrees: "
                                "their minutes and seconds may be missing"},
 

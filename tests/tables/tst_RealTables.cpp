@@ -120,13 +120,15 @@ private:
     static QStringList unusedColumnsOf(OGRLayer &layer)
     {
         static const QRegularExpression Unused(
-            u"^\\|\\|Warning\\|the azimuths in column \"(.*)\" are not used"_s);
+            u"^\\|\\|Warning\\|(?:the azimuths in column \"(.*)\" are not used"
+            u"|the values in column \"(.*)\" are no azimuths"
+            u")"_s);
         QStringList columns;
         char **items = layer.GetMetadata("problems");
         for (char **item = items; item && *item; ++item) {
             const auto match = Unused.match(QString::fromUtf8(*item).section(u'=', 1));
             if (match.hasMatch())
-                columns += match.captured(1);
+                columns += match.captured(match.lastCapturedIndex());
         }
         return columns;
     }

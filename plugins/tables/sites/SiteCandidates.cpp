@@ -18,6 +18,8 @@ namespace {
 constexpr double MinFit = 0.5;
 constexpr int PointsOfLevel = 30;
 constexpr int PointsOfCounter = 20;
+constexpr int MinOwnWord = 90; ///< strength of a name that says nothing else
+constexpr std::size_t MaxUnfit = 4;
 
 /// Roles of which several columns, one per transmitter, make a table a numbered one.
 bool countsTransmitters(Role role)
@@ -49,7 +51,8 @@ public:
         numberSequences();
         numberFirstOfSeries();
         const bool areNumbered = dropNumbersOfOthers();
-        return {std::move(m_candidates), areNumbered, std::move(m_bandsMHz)};
+        return {std::move(m_candidates), areNumbered, std::move(m_bandsMHz),
+                std::move(m_unfitAzimuths)};
     }
 
 private:
@@ -69,6 +72,9 @@ private:
                 continue;
             const double fit = fitOf(match.role, m_table.facts(field),
                                      unitOfColumn(match.role, words, m_table.vocabulary()));
+            if (fit < MinFit && match.role == Role::Azimuth && match.strength >= MinOwnWord &&
+                m_unfitAzimuths.size() < MaxUnfit)
+                m_unfitAzimuths.push_back(field);
             if (fit < MinFit)
                 continue;
             m_candidates.push_back({field, match.role, match.sector, match.strength * fit});
@@ -437,6 +443,7 @@ private:
     std::vector<SiteCandidate> m_candidates;
     std::map<std::pair<int, Role>, int> m_bandOf; ///< MHz, by column and role
     std::map<int, int> m_bandsMHz;                ///< by number of the transmitter
+    std::vector<int> m_unfitAzimuths;
 };
 
 } // namespace

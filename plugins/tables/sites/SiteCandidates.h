@@ -20,7 +20,8 @@ struct SiteCandidates
     bool areNumbered = false; ///< the columns are numbered by transmitter
     /// The frequency bands in MHz of transmitters by their numbers, where columns are named by
     /// band: "900 Azimuth", "1800 Azimuth".
-    std::map<int, int> bandsMHz;
+    std::map<int, int> bandsMHz = {};
+    std::vector<int> unfitAzimuths = {}; ///< fields whose names say azimuths, but not their values
 };
 
 bool isRoleOfSite(Role role);

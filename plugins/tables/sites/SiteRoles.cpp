@@ -29,6 +29,7 @@ public:
                                        m_table.evidence(chosen.field, chosen.role)});
         fill(candidates, places);
         reportUnusedAzimuths(candidates.list);
+        reportUnfitAzimuths(candidates.unfitAzimuths);
         addCoordinates();
         return std::move(m_roles);
     }
@@ -297,16 +298,31 @@ private:
                 m_table.facts(candidate.field).numeric == 0 ||
                 m_table.cells(candidate.field) == m_table.cells(used->field))
                 continue;
-            const auto name = [this](int field) {
-                return m_table.profile().fields[static_cast<std::size_t>(field)].name;
-            };
             m_roles.problems.push_back(
                 {0,
                  {},
                  false,
                  contract::formatted("MESS_TAB_UNUSED_AZIMUTHS",
-                                     {name(candidate.field), name(used->field)})});
+                                     {nameOf(candidate.field), nameOf(used->field)})});
         }
+    }
+
+    /// Reports the columns that are azimuths by name but not by their values, if no others are.
+    void reportUnfitAzimuths(const std::vector<int> &fields)
+    {
+        const bool hasAny =
+            std::any_of(m_roles.columns.begin(), m_roles.columns.end(),
+                        [](const ColumnRole &of) { return of.role == Role::Azimuth; });
+        if (hasAny || m_table.stated().find(roleName(Role::Azimuth)))
+            return;
+        for (const int field : fields)
+            m_roles.problems.push_back(
+                {0, {}, false, contract::formatted("MESS_TAB_UNFIT_AZIMUTHS", {nameOf(field)})});
+    }
+
+    const std::string &nameOf(int field) const
+    {
+        return m_table.profile().fields[static_cast<std::size_t>(field)].name;
     }
 
     bool hasAzimuths(int field) const

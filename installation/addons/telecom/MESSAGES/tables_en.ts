@@ -955,6 +955,10 @@
         <source>the azimuths in column "%1" are not used: the sectors have those in column "%2"</source>
         <translation>the azimuths in column "%1" are not used: the sectors have those in column "%2"</translation>
     </message>
+    <message id="MESS_TAB_UNFIT_AZIMUTHS">
+        <source>the values in column "%1" are no azimuths in degrees: they are not used</source>
+        <translation>the values in column "%1" are no azimuths in degrees: they are not used</translation>
+    </message>
     <message id="MESS_TAB_WHOLE_DEGREES">
         <source>the coordinates in columns "%1" and "%2" are whole degrees: their minutes and seconds may be missing</source>
         <translation>the coordinates in columns "%1" and "%2" are whole degrees: their minutes and seconds may be missing</translation>

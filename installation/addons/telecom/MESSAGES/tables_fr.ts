@@ -955,6 +955,10 @@
         <source>the azimuths in column "%1" are not used: the sectors have those in column "%2"</source>
         <translation>les azimuts de la colonne «&#xa0;%1&#xa0;» ne sont pas utilisés&#xa0;: les secteurs ont ceux de la colonne «&#xa0;%2&#xa0;»</translation>
     </message>
+    <message id="MESS_TAB_UNFIT_AZIMUTHS">
+        <source>the values in column "%1" are no azimuths in degrees: they are not used</source>
+        <translation>les valeurs de la colonne «&#xa0;%1&#xa0;» ne sont pas des azimuts en degrés&#xa0;: elles ne sont pas utilisées</translation>
+    </message>
     <message id="MESS_TAB_WHOLE_DEGREES">
         <source>the coordinates in columns "%1" and "%2" are whole degrees: their minutes and seconds may be missing</source>
         <translation>les coordonnées des colonnes «&#xa0;%1&#xa0;» et «&#xa0;%2&#xa0;» sont des degrés entiers&#xa0;: leurs minutes et secondes manquent peut-être</translation>
