@@ -143,6 +143,8 @@ inline constexpr auto TableTexts = std::to_array<Text>({
      "the values in column \"%1\" are no azimuths in degrees: they are not used"},
     {"MESS_TAB_WHOLE_DEGREES", "the coordinates in columns \"%1\" and \"%2\" are whole degrees: "
                                "their minutes and seconds may be missing"},
+    {"MESS_TAB_UPWARD_TILTS",
+     "all tilts in column \"%1\" are negative: the antennas point upwards"},
 
     // links that cannot be read in full
     {"MESS_TAB_NO_HEIGHTS", "no columns with antenna heights above ground were recognised"},

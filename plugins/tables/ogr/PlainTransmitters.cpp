@@ -13,6 +13,7 @@ PlainTransmitters::PlainTransmitters(const TableProfile &table, const SiteRoles 
     constexpr contract::Range Positive{std::numeric_limits<double>::min(),
                                        std::numeric_limits<double>::max()};
     for (const TransmitterFields &fields : roles.transmitters) {
+        m_possible = m_possible && !fields.heightBase.found();
         add(table, fields.height, contract::AntennaHeightM);
         add(table, fields.azimuth, contract::AzimuthDeg);
         add(table, fields.beamWidth, contract::BeamWidthDeg);

@@ -2,6 +2,7 @@
 
 #include "contract/TableTexts.h"
 #include "plugins/tables/roles/NameMatch.h"
+#include "plugins/tables/sites/OfferedFields.h"
 #include "plugins/tables/sites/SiteCandidates.h"
 
 #include <algorithm>
@@ -30,6 +31,7 @@ public:
         fill(candidates, places);
         reportUnusedAzimuths(candidates.list);
         reportUnfitAzimuths(candidates.unfitAzimuths);
+        reportUpwardTilts();
         addCoordinates();
         return std::move(m_roles);
     }
@@ -192,12 +194,42 @@ private:
         }
         if (m_roles.transmitters.empty())
             return;
+        if (!hasKnownTransmitters(m_table.profile()))
+            findOtherHeights(isNumbered);
         const TransmitterFields &first = m_roles.transmitters.front();
         const bool mayBeLists = !isNumbered || first.bandMHz;
         const bool areLists = mayBeLists && (holdsLists(first.azimuth) || holdsLists(first.height));
         m_roles.shape = areLists     ? SiteShape::Lists
                         : isNumbered ? SiteShape::Numbered
                                      : SiteShape::Tall;
+    }
+
+    /// Takes the heights above sea level less those of the ground where no column has heights above
+    /// ground; reports them if the ground is not known.
+    void findOtherHeights(bool isNumbered)
+    {
+        if (m_table.stated().find(roleName(Role::AntennaHeight)) ||
+            std::any_of(m_roles.transmitters.begin(), m_roles.transmitters.end(),
+                        [](const TransmitterFields &of) { return of.height.found(); }))
+            return;
+        const auto seaLevel =
+            std::find_if(m_roles.columns.begin(), m_roles.columns.end(),
+                         [](const ColumnRole &of) { return of.role == Role::SeaLevelHeight; });
+        if (seaLevel == m_roles.columns.end())
+            return;
+        if (!m_roles.groundHeight.found()) {
+            m_roles.problems.push_back(
+                {0,
+                 {},
+                 false,
+                 contract::formatted("MESS_TAB_SEA_LEVEL", {nameOf(seaLevel->field)})});
+            return;
+        }
+        for (TransmitterFields &fields : m_roles.transmitters) {
+            fields.height = quantity(seaLevel->field, &WordMeaning::metres);
+            fields.heightBase = m_roles.groundHeight;
+            fields.sharesHeight = isNumbered;
+        }
     }
 
     /// Takes the names that hold the sector for those of the transmitters, unless a column names
@@ -318,6 +350,25 @@ private:
         for (const int field : fields)
             m_roles.problems.push_back(
                 {0, {}, false, contract::formatted("MESS_TAB_UNFIT_AZIMUTHS", {nameOf(field)})});
+    }
+
+    /// Reports mechanical tilts that are never positive: perhaps they are angles of elevation.
+    void reportUpwardTilts()
+    {
+        for (const TransmitterFields &fields : m_roles.transmitters) {
+            if (!fields.mechanicalTilt.found())
+                continue;
+            const ColumnFacts &facts = m_table.facts(fields.mechanicalTilt.field);
+            if (facts.numeric < 2 || facts.maximum > 0 || facts.minimum >= 0)
+                continue;
+            m_roles.problems.push_back(
+                {0,
+                 {},
+                 false,
+                 contract::formatted("MESS_TAB_UPWARD_TILTS",
+                                     {nameOf(fields.mechanicalTilt.field)})});
+            return;
+        }
     }
 
     const std::string &nameOf(int field) const

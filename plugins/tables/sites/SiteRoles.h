@@ -18,6 +18,7 @@ struct TransmitterFields
     int number = 0; ///< in the names of its columns
     int sectorId = -1;
     QuantityField height;
+    QuantityField heightBase;  ///< ground below heights above sea level; none for others
     bool sharesHeight = false; ///< the column of heights holds for all transmitters
     QuantityField azimuth;     ///< unit in degrees
     QuantityField mechanicalTilt;

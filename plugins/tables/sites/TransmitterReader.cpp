@@ -1,6 +1,7 @@
 #include "plugins/tables/sites/TransmitterReader.h"
 
 #include "contract/TableTexts.h"
+#include "contract/TransmitterRanges.h"
 #include "plugins/tables/cells/ValueList.h"
 #include "plugins/tables/roles/NameMatch.h"
 #include "plugins/tables/sites/PositionReader.h"
@@ -53,7 +54,7 @@ public:
         m_isOmni = isOmniByKind(fields);
         m_isUsable = true;
         TransmitterValues values;
-        values.heightM = number(fields.height, readAntennaHeightM, "MESS_TAB_SECTOR_HEIGHT");
+        values.heightM = heightM(fields);
         values.azimuthDeg = number(fields.azimuth, readAzimuthDeg, "MESS_TAB_SECTOR_AZIMUTH");
         values.beamWidthDeg =
             number(fields.beamWidth, readBeamWidthDeg, "MESS_TAB_SECTOR_BEAM_WIDTH");
@@ -179,6 +180,26 @@ private:
             report(of, why, {quotation(item)});
         }
         return value.number;
+    }
+
+    /// The height above ground; none if its base is needed and not known.
+    std::optional<double> heightM(const TransmitterFields &fields)
+    {
+        if (!fields.heightBase.found())
+            return number(fields.height, readAntennaHeightM, "MESS_TAB_SECTOR_HEIGHT");
+        const auto aboveSeaM =
+            readLengthM(itemText(fields.height.field, splitList), fields.height.unit.value_or(1));
+        const auto baseM = readLengthM(fieldText(m_cells, fields.heightBase.field),
+                                       fields.heightBase.unit.value_or(1));
+        if (!aboveSeaM || !baseM)
+            return std::nullopt;
+        const double heightM = *aboveSeaM - *baseM;
+        if (contract::AntennaHeightM.contains(heightM))
+            return heightM;
+        m_isUsable = false;
+        report(fields.height, "MESS_TAB_SECTOR_HEIGHT",
+               {quotation(itemText(fields.height.field, splitList))});
+        return std::nullopt;
     }
 
     /// Whether a cell says that the azimuth is not known; reports it.

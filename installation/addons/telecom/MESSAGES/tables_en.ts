@@ -999,5 +999,9 @@
         <source>the unit "%1" is not known: the height is not used</source>
         <translation>the unit "%1" is not known: the height is not used</translation>
     </message>
+    <message id="MESS_TAB_UPWARD_TILTS">
+        <source>all tilts in column "%1" are negative: the antennas point upwards</source>
+        <translation>all tilts in column "%1" are negative: the antennas point upwards</translation>
+    </message>
 </context>
 </TS>
