@@ -143,6 +143,8 @@ inline constexpr auto TableTexts = std::to_array<Text>({
      "the values in column \"%1\" are no azimuths in degrees: they are not used"},
     {"MESS_TAB_WHOLE_DEGREES", "the coordinates in columns \"%1\" and \"%2\" are whole degrees: "
                                "their minutes and seconds may be missing"},
+    {"MESS_TAB_OTHER_SHEETS", "only the sheet \"%1\" is read: other sheets hold tables with the "
+                              "same columns (%2)"},
     {"MESS_TAB_UPWARD_TILTS",
      "all tilts in column \"%1\" are negative: the antennas point upwards"},
 

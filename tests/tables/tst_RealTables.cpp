@@ -77,7 +77,7 @@ private Q_SLOTS:
         QStringList expected;
         for (const auto &problem : table.value(u"problems"_s).toArray()) {
             if (problem[u"kind"_s].toString() == u"unused"_s)
-                expected += problem[u"column"_s].toString();
+                expected += problem[u"column"_s].toString() + problem[u"sheet"_s].toString();
         }
         const Warnings warnings;
         const GDALDatasetUniquePtr dataset = open(table, "site:");
@@ -116,13 +116,13 @@ private Q_SLOTS:
     }
 
 private:
-    /// The columns that the problems of a table name as not used.
+    /// The columns and sheets that the problems of a table name as not used.
     static QStringList unusedColumnsOf(OGRLayer &layer)
     {
         static const QRegularExpression Unused(
             u"^\\|\\|Warning\\|(?:the azimuths in column \"(.*)\" are not used"
             u"|the values in column \"(.*)\" are no azimuths"
-            u")"_s);
+            u"|only the sheet .* other sheets hold .*\\(\"(.*)\"\\))"_s);
         QStringList columns;
         char **items = layer.GetMetadata("problems");
         for (char **item = items; item && *item; ++item) {

@@ -8,8 +8,10 @@
 #include "plugins/tables/ogr/SectorJoin.h"
 #include "plugins/tables/ogr/ZoneSurvey.h"
 #include "plugins/tables/roles/Vocabulary.h"
+#include "plugins/tables/sites/NameList.h"
 #include "plugins/tables/sites/PositionCorrections.h"
 #include "plugins/tables/sites/SectorTable.h"
+#include "plugins/tables/table/SheetChoice.h"
 
 #include <limits>
 #include <list>
@@ -144,8 +146,28 @@ std::shared_ptr<TableFile> TableFile::open(const std::string &path, const TableO
     table->m_sheet = read.sheet;
     table->m_facts = facts;
     table->recognise(*facts, *read.profile);
+    table->reportOtherSheets(*facts);
     memory().add({path, file->identity(), second, options, facts});
     return table;
+}
+
+/// Reports the sheets that hold tables like the one that was chosen: one of each region.
+void TableFile::reportOtherSheets(TableFacts &facts) const
+{
+    if (!facts.table.encoding.name.empty() || !m_options.sheet.empty() ||
+        !m_options.mapping.mapping.sheet.empty() || facts.table.header.rows.empty())
+        return;
+    TableHints hints = {&installedVocabulary().words, m_options.kind, {}, m_options.textOnly};
+    hints.otherThan = facts.table.sheet;
+    NameList names;
+    for (const std::string &name : sheetsWithColumns(*openFile(), facts.table.header, hints))
+        names.add(name);
+    if (!names.text().empty())
+        facts.joinProblems.add(
+            {0,
+             {},
+             false,
+             contract::formatted("MESS_TAB_OTHER_SHEETS", {facts.table.sheet, names.text()})});
 }
 
 /// Reads the sheet with the header that the mapping states. If the table lacks them, they are

@@ -102,6 +102,7 @@ private:
     void readSites(TableFacts &facts);
     void readLinks(TableFacts &facts, const TableProfile &profile, const StatedRoles &stated);
     bool joinTransmitters(TableFacts &facts);
+    void reportOtherSheets(TableFacts &facts) const;
     std::optional<SecondTable> otherSheet(Suitability suitability) const;
     [[noreturn]] void refuseSecond(contract::TableTextId why) const;
     SecondTable secondFile(Suitability suitability) const;

@@ -3,6 +3,7 @@
 #include "contract/TableTexts.h"
 #include "plugins/tables/roles/NameWords.h"
 #include "plugins/tables/roles/Role.h"
+#include "plugins/tables/sites/NameList.h"
 
 #include <algorithm>
 #include <optional>
@@ -10,8 +11,6 @@
 namespace vlt::driver {
 
 namespace {
-
-constexpr std::size_t MaxNamed = 10; ///< in the text of a problem
 
 bool isRoleOfSites(std::string_view name)
 {
@@ -48,28 +47,12 @@ bool isRoleOf(contract::TableKind kind, std::string_view name)
     return isIn(OfLinks, name) || (isOfEnd && isIn(OfEnds, name.substr(0, name.size() - 1)));
 }
 
-/// Texts for a problem: "a", "b".
-class Named
+void report(const NameList &names, contract::TableTextId id, const std::string &file,
+            std::vector<RowProblem> &problems)
 {
-public:
-    void add(const std::string &text)
-    {
-        if (++m_count <= MaxNamed)
-            m_text += (m_text.empty() ? "\"" : ", \"") + text + '"';
-        else if (m_count == MaxNamed + 1)
-            m_text += " \u2026";
-    }
-    void report(contract::TableTextId id, const std::string &file,
-                std::vector<RowProblem> &problems) const
-    {
-        if (m_count > 0)
-            problems.push_back({0, {}, false, contract::formatted(id, {file, m_text})});
-    }
-
-private:
-    std::string m_text;
-    std::size_t m_count = 0;
-};
+    if (!names.text().empty())
+        problems.push_back({0, {}, false, contract::formatted(id, {file, names.text()})});
+}
 
 /// The fields of a table by their names.
 class FieldNames
@@ -109,9 +92,9 @@ StatedRoles findStatedRoles(const contract::ColumnMapping &mapping, contract::Ta
     StatedRoles stated;
     stated.evidence = contract::formatted("MESS_TAB_EVIDENCE_STATED", {file});
     const FieldNames names(table);
-    Named unknown;
-    Named gone;
-    Named twice;
+    NameList unknown;
+    NameList gone;
+    NameList twice;
     for (const auto &[role, columns] : mapping.roles) {
         if (!isRoleOf(kind, role)) {
             unknown.add(role);
@@ -135,9 +118,9 @@ StatedRoles findStatedRoles(const contract::ColumnMapping &mapping, contract::Ta
         stated.roles.emplace(role, std::move(fields));
     }
     stated.fields.erase(-1);
-    unknown.report("MESS_TAB_MAPPING_ROLES", file, problems);
-    gone.report("MESS_TAB_MAPPING_COLUMNS", file, problems);
-    twice.report("MESS_TAB_MAPPING_TWICE", file, problems);
+    report(unknown, "MESS_TAB_MAPPING_ROLES", file, problems);
+    report(gone, "MESS_TAB_MAPPING_COLUMNS", file, problems);
+    report(twice, "MESS_TAB_MAPPING_TWICE", file, problems);
     return stated;
 }
 

@@ -120,4 +120,28 @@ ChosenSheet chooseSheet(Workbook &workbook, const TableHints &hints)
     throw RefusedFile(Refusal::NoHeader, "MESS_TAB_NO_HEADER");
 }
 
+std::vector<std::string> sheetsWithColumns(Workbook &workbook, const Header &header,
+                                           const TableHints &hints)
+{
+    std::vector<std::string> names;
+    for (std::size_t seen = 0; seen < MaxSheetsRead; ++seen) {
+        try {
+            const std::shared_ptr<Sheet> sheet = workbook.nextSheet();
+            if (!sheet)
+                break;
+            if (sheet->name() == hints.otherThan || sheet->hidden())
+                continue;
+            std::size_t widest = 0;
+            const auto other =
+                findHeader(*sheet, hints.kind, *hints.vocabulary, std::nullopt, widest);
+            if (other && other->hasRowsBelow && !other->rows.empty() &&
+                other->names == header.names)
+                names.push_back(sheet->name());
+        } catch (const RefusedFile &) {
+            continue;
+        }
+    }
+    return names;
+}
+
 } // namespace vlt::driver

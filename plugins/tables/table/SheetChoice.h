@@ -18,4 +18,10 @@ struct ChosenSheet
 /// Empty, BadOption).
 ChosenSheet chooseSheet(Workbook &workbook, const TableHints &hints);
 
+/// The names of the visible sheets whose columns have the same names as those of a header, apart
+/// from the sheet `hints.otherThan`. The limits are those of chooseSheet(); damaged sheets are left
+/// out.
+std::vector<std::string> sheetsWithColumns(Workbook &workbook, const Header &header,
+                                           const TableHints &hints);
+
 } // namespace vlt::driver

@@ -111,6 +111,13 @@ def rough_cells():
     yield "book_merged_names.xlsx", [("Sites", rows, merged)]
 
 
+def regions():
+    header = ["Site", "Longitude", "Latitude", "Azimut", "HBA (m)"]
+    rows = [[s[1], s[2], s[3], a, h] for _, _, s, a, h, _, _ in sectors()]
+    cut = sum(len(s[5]) for s in SITES[:3])
+    yield "book_regions.xlsx", [("Centre", [header] + rows[:cut], []), ("Est", [header] + rows[cut:], [])]
+
+
 def links():
     rows = [[name, SITES[a][1], SITES[b][1], ha, hb, f / 1000, 0.6] for name, a, b, ha, hb, f in PATHS]
     header = ["Liaison", "Site A", "Site B", "Hauteur A (m)", "Hauteur B (m)", "Fréquence (GHz)", "Diamètre A (m)"]
@@ -120,7 +127,7 @@ def links():
 
 def main():
     folder = sys.argv[1] if len(sys.argv) > 1 else HERE
-    for group in (joined, one_table, rough_cells, links):
+    for group in (joined, one_table, rough_cells, regions, links):
         for name, sheets in group():
             with open(os.path.join(folder, name), "wb") as out:
                 out.write(workbook(sheets))

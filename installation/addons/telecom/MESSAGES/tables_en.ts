@@ -999,6 +999,10 @@
         <source>the unit "%1" is not known: the height is not used</source>
         <translation>the unit "%1" is not known: the height is not used</translation>
     </message>
+    <message id="MESS_TAB_OTHER_SHEETS">
+        <source>only the sheet "%1" is read: other sheets hold tables with the same columns (%2)</source>
+        <translation>only the sheet "%1" is read: other sheets hold tables with the same columns (%2)</translation>
+    </message>
     <message id="MESS_TAB_UPWARD_TILTS">
         <source>all tilts in column "%1" are negative: the antennas point upwards</source>
         <translation>all tilts in column "%1" are negative: the antennas point upwards</translation>

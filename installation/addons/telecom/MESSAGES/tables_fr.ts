@@ -999,6 +999,10 @@
         <source>the unit "%1" is not known: the height is not used</source>
         <translation>l'unité «&#xa0;%1&#xa0;» n'est pas connue&#xa0;: la hauteur n'est pas utilisée</translation>
     </message>
+    <message id="MESS_TAB_OTHER_SHEETS">
+        <source>only the sheet "%1" is read: other sheets hold tables with the same columns (%2)</source>
+        <translation>seule la feuille «&#xa0;%1&#xa0;» est lue&#xa0;: d'autres feuilles contiennent des tableaux avec les mêmes colonnes (%2)</translation>
+    </message>
     <message id="MESS_TAB_UPWARD_TILTS">
         <source>all tilts in column "%1" are negative: the antennas point upwards</source>
         <translation>tous les tilts de la colonne «&#xa0;%1&#xa0;» sont négatifs&#xa0;: les antennes pointent vers le haut</translation>
