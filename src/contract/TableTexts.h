@@ -109,6 +109,12 @@ inline constexpr auto TableTexts = std::to_array<Text>({
     {"MESS_TAB_UTM_SOUTH", "the zones of UTM have no letter: because of their northings, they are "
                            "taken as those of the southern hemisphere"},
     {"MESS_TAB_GRID", "the column \"%1\" holds positions in the %2 grid, which are not read"},
+    {"MESS_TAB_LOST_DECIMALS", "the whole numbers in the columns \"%1\" and \"%2\" are read as "
+                               "degrees after division by %3"},
+    {"MESS_TAB_DATUMS", "the column \"%1\" names several datums (%2): all positions are read as "
+                        "those of EPSG:%3"},
+    {"MESS_TAB_NORTH_X", "\"%1\" is read as northing and \"%2\" as easting, as in EPSG:%3: the "
+                         "positions could also be read the other way round"},
     {"MESS_TAB_KNOWN_TABLE",
      "the table has no header: its columns are taken as those of \"%1\" (%2)"},
     {"MESS_TAB_COLUMNS_BY_VALUES",
@@ -171,14 +177,14 @@ inline constexpr auto TableTexts = std::to_array<Text>({
     {"MESS_TAB_ENDS_COINCIDE", "the ends of the link are less than a metre apart"},
     {"MESS_TAB_LENGTH_DIFFERS",
      "the stated length of %1 m does not match the distance between the ends, which is %2 m"},
+    {"MESS_TAB_AZIMUTH_DIFFERS",
+     "the stated azimuth of %1 degrees does not point to the other end, which lies at %2 degrees"},
 
     // values of transmitters that cannot be read
     {"MESS_TAB_HEIGHT_RANGE", "the antenna height \"%1\" cannot be used: an antenna height lies "
                               "between 0 and 2000 m above ground"},
     {"MESS_TAB_TILT_RANGE",
      "the tilt \"%1\" cannot be used: a tilt lies between -90 and 90 degrees"},
-    {"MESS_TAB_AZIMUTH_DIFFERS",
-     "the stated azimuth of %1 degrees does not point to the other end, which lies at %2 degrees"},
 
     // coordinates that cannot be read
     {"MESS_TAB_NO_COORDINATE", "the coordinate is empty"},

@@ -312,6 +312,9 @@ private:
         if (QString difference = differenceOfHeader(table, *dataset->GetLayer(0));
             !difference.isEmpty())
             return difference;
+        const QString system = QString::fromUtf8(dataset->GetLayer(0)->GetMetadataItem("epsg"));
+        if (table.contains(u"epsg"_s) && system != table.value(u"epsg"_s).toString())
+            return u"declares system "_s + system;
         const QList<Site> sites = sitesOf(*dataset->GetLayer(0));
         const int expected = table.value(u"counts"_s).toObject().value(u"sites"_s).toInt();
         for (const auto &site : table.value(u"sites"_s).toArray()) {

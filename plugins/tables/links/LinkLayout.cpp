@@ -149,7 +149,7 @@ LinkLayout recogniseLinkLayout(const TableProfile &table, const Vocabulary &voca
     LinkLayout layout = layoutOf(table, ends, vocabulary, stated);
     layout.unit = commonUnit(findUnit(ends.points[0], table.fields, vocabulary),
                              findUnit(ends.points[1], table.fields, vocabulary));
-    layout.epsg = findEpsg(table, ends.points[0], layout.unit);
+    findSystem(table, ends.points[0], vocabulary, layout);
     return layout;
 }
 

@@ -3,6 +3,7 @@
 #include "contract/TableTexts.h"
 #include "plugins/tables/ogr/ZoneSurvey.h"
 #include "plugins/tables/roles/Vocabulary.h"
+#include "plugins/tables/sites/CoordinateScale.h"
 
 #include <algorithm>
 #include <cmath>
@@ -142,6 +143,12 @@ void LinkRowReader::addFileProblems(ProblemList &problems) const
 {
     problems.add(m_values.tableProblems());
     addZoneProblems(m_facts->links().ends[0].point, problems);
+    if (const std::string &text = m_facts->links().systemProblem; !text.empty())
+        problems.add({0, {}, false, text});
+    std::vector<RowProblem> ofScale;
+    for (const LinkEndFields &end : m_facts->links().ends)
+        addScaleProblem(end.point, m_facts->table.fields, ofScale);
+    problems.add(std::move(ofScale));
 }
 
 } // namespace vlt::driver

@@ -221,6 +221,11 @@ void SiteLayer::addFileProblems(ProblemList &problems) const
         problems.add({0, {}, true, contract::formatted("MESS_TAB_NO_COORDINATES")});
     problems.add(std::vector(facts().sites().roles.problems));
     addZoneProblems(layout.point, problems);
+    if (const std::string &text = facts().sites().systemProblem; !text.empty())
+        problems.add({0, {}, false, text});
+    std::vector<RowProblem> ofScale;
+    addScaleProblem(facts().sites().point, facts().table.fields, ofScale);
+    problems.add(std::move(ofScale));
 }
 
 } // namespace vlt::driver

@@ -130,6 +130,27 @@ Json sectionOf(const Json &root, const char *name)
     return found && found->is_structured() ? *found : Json::object();
 }
 
+/// Puts the systems of a section before others.
+void addSystems(const Json &section, std::vector<NamedSystem> &others)
+{
+    std::vector<NamedSystem> systems;
+    for (const Json &entry : section) {
+        const Json *epsg = entry.is_object() ? memberOf(entry, "epsg") : nullptr;
+        const Json *names = epsg ? memberOf(entry, "names") : nullptr;
+        if (!names || !epsg->is_number_integer())
+            throw std::invalid_argument("a system needs \"epsg\" and \"names\"");
+        systems.push_back({std::to_string(epsg->get<int>()), {}, {}});
+        if (const Json *range = memberOf(entry, "northX"))
+            systems.back().northX =
+                CoordinateRange{range->at("easting").get<std::array<double, 2>>(),
+                                range->at("northing").get<std::array<double, 2>>()};
+        forEachText(*names, [&systems](const std::string &name) {
+            systems.back().names.push_back(nameWords(name));
+        });
+    }
+    others.insert(others.begin(), systems.begin(), systems.end());
+}
+
 } // namespace
 
 /// Changes the meaning of a phrase, whose words need not be separated.
@@ -251,22 +272,6 @@ void Vocabulary::addPartsOfNames(const Json &root)
     }
 }
 
-void Vocabulary::addSystems(const Json &root)
-{
-    std::vector<NamedSystem> systems;
-    for (const Json &entry : sectionOf(root, "systems")) {
-        const Json *epsg = entry.is_object() ? memberOf(entry, "epsg") : nullptr;
-        const Json *names = epsg ? memberOf(entry, "names") : nullptr;
-        if (!names || !epsg->is_number_integer())
-            throw std::invalid_argument("a system needs \"epsg\" and \"names\"");
-        systems.push_back({std::to_string(epsg->get<int>()), {}});
-        forEachText(*names, [&systems](const std::string &name) {
-            systems.back().names.push_back(nameWords(name));
-        });
-    }
-    m_systems.insert(m_systems.begin(), systems.begin(), systems.end());
-}
-
 void Vocabulary::addWordsOfValues(const Json &root)
 {
     for (const auto &[name, to] : {std::pair("missing", &m_missing), std::pair("total", &m_totals),
@@ -287,7 +292,8 @@ void Vocabulary::add(std::string_view text)
         throw std::invalid_argument("not an object");
     addRoles(root);
     addPartsOfNames(root);
-    addSystems(root);
+    addSystems(sectionOf(root, "systems"), m_systems);
+    addSystems(sectionOf(root, "datums"), m_datums);
     addWordsOfValues(root);
     try {
         for (const Json &layout : sectionOf(root, "layouts"))

@@ -5,6 +5,7 @@
 
 #include <nlohmann/json_fwd.hpp>
 
+#include <array>
 #include <bitset>
 #include <cstddef>
 #include <cstdint>
@@ -63,11 +64,25 @@ struct KnownTable
     std::map<std::size_t, ValueTest> tests; ///< by column
 };
 
+/// Minimum and maximum of both coordinates, in metres.
+struct CoordinateRange
+{
+    std::array<double, 2> easting = {};
+    std::array<double, 2> northing = {};
+
+    bool holds(double x, double y) const
+    {
+        return x >= easting[0] && x <= easting[1] && y >= northing[0] && y <= northing[1];
+    }
+};
+
 /// A coordinate system that tables name in words.
 struct NamedSystem
 {
     std::string epsg;                            ///< code
     std::vector<std::vector<std::string>> names; ///< the words of each, as nameWords() gives them
+    /// Where the system is used, if its X points to the north; empty for others.
+    std::optional<CoordinateRange> northX = {};
 };
 
 /// The place of a word in one of the sequences that number columns: I, II, III.
@@ -130,6 +145,8 @@ public:
     std::vector<SequencePlace> placesInSequences(std::string_view joinedWords) const;
     /// The systems of countries, those of a user first.
     const std::vector<NamedSystem> &systems() const { return m_systems; }
+    /// The systems of longitudes and latitudes, by the names of their datums.
+    const std::vector<NamedSystem> &datums() const { return m_datums; }
 
     /// The words for directions in values and names.
     const HemisphereWords &hemispheres() const { return m_hemispheres; }
@@ -155,7 +172,6 @@ private:
     void addLanguages(const nlohmann::json &roles, const nlohmann::json &hemispheres);
     void addRoles(const nlohmann::json &root);
     void addPartsOfNames(const nlohmann::json &root);
-    void addSystems(const nlohmann::json &root);
     void addWordsOfValues(const nlohmann::json &root);
 
     Phrases m_phrases;
@@ -173,6 +189,7 @@ private:
     std::uint32_t m_eastO = 0;
     HemisphereWords m_hemispheres;
     std::vector<NamedSystem> m_systems;
+    std::vector<NamedSystem> m_datums;
     std::size_t m_longestPhrase = 1;
 };
 

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 
 namespace vlt::driver {
 
@@ -301,13 +302,26 @@ LetterO letterOOf(const FieldWords &words, const Vocabulary &vocabulary)
     return sign < 0 ? LetterO::West : sign > 0 ? LetterO::East : LetterO::Unknown;
 }
 
-bool saysMeters(const std::string &name, const Vocabulary &vocabulary)
+bool holdsWord(const Field &field, const Vocabulary &vocabulary,
+               const std::function<bool(const WordMeaning &)> &isWanted)
 {
-    const Words words = separatedWords(name, vocabulary);
+    const Words words = separatedWords(nameWithUnit(field), vocabulary);
     return std::any_of(words.begin(), words.end(), [&](const std::string &word) {
         const WordMeaning *meaning = vocabulary.find(word);
-        return meaning && (meaning->metres == 1 || meaning->roles[std::size_t(Role::Easting)] ||
-                           meaning->roles[std::size_t(Role::Northing)]);
+        return meaning && isWanted(*meaning);
+    });
+}
+
+bool statesMeters(const Field &field, const Vocabulary &vocabulary)
+{
+    return holdsWord(field, vocabulary, [](const WordMeaning &of) { return of.metres == 1; });
+}
+
+bool saysMeters(const Field &field, const Vocabulary &vocabulary)
+{
+    return holdsWord(field, vocabulary, [](const WordMeaning &of) {
+        return of.metres == 1 || of.roles[std::size_t(Role::Easting)] ||
+               of.roles[std::size_t(Role::Northing)];
     });
 }
 
@@ -421,10 +435,13 @@ CoordinateUnit findUnit(const PointFields &point, const std::vector<Field> &fiel
     if (ofX == CoordinateUnit::Dms || ofY == CoordinateUnit::Dms)
         return CoordinateUnit::Dms;
     // A small easting, near the false origin, can also be read as degrees, but not the northing.
-    if (ofX == CoordinateUnit::Meters || ofY == CoordinateUnit::Meters ||
-        (saysMeters(nameWithUnit(x), vocabulary) && saysMeters(nameWithUnit(y), vocabulary)))
+    if (ofX == CoordinateUnit::Meters || ofY == CoordinateUnit::Meters)
         return CoordinateUnit::Meters;
-    return CoordinateUnit::Degrees;
+    const bool areMeters = saysMeters(x, vocabulary) && saysMeters(y, vocabulary);
+    const bool isUnitStated = statesMeters(x, vocabulary) && statesMeters(y, vocabulary);
+    return areMeters && (isUnitStated || !areDegrees(point, fields, vocabulary))
+               ? CoordinateUnit::Meters
+               : CoordinateUnit::Degrees;
 }
 
 } // namespace vlt::driver

@@ -46,6 +46,7 @@ struct CoordinateScale
 {
     double factor = 1;
     bool givesDegrees = false; ///< else metres; of no meaning if the factor is 1
+    bool isGuessed = false;    ///< from the values: no name states it
 };
 
 class PositionCorrections;

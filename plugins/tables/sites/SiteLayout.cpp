@@ -2,6 +2,7 @@
 
 #include "contract/TableTexts.h"
 #include "plugins/tables/roles/NameMatch.h"
+#include "plugins/tables/sites/SystemNames.h"
 #include "plugins/tables/table/HeaderWords.h"
 #include "plugins/tables/values/GridReference.h"
 
@@ -88,12 +89,14 @@ SiteLayout recogniseSiteLayout(const TableProfile &table, const Vocabulary &voca
     for (const Field &field : table.fields)
         words.emplace_back(separatedWords(field.name, vocabulary));
     layout.point = findPoint(words, table.fields, vocabulary, stated);
+    if (!stated.find("x") && !stated.find("y"))
+        useNorthX(table, vocabulary, layout.point, layout.systemProblem);
     layout.isLinkEnd = !stated.find("x") && isLinkEnd(layout.point, words, vocabulary);
     layout.format = recogniseFormat(table.fields);
     if (!layout.point.found())
         layout.unreadGrid = findUnreadGrid(table.fields);
     layout.unit = findUnit(layout.point, table.fields, vocabulary);
-    layout.epsg = findEpsg(table, layout.point, layout.unit);
+    findSystem(table, layout.point, vocabulary, layout);
     layout.roles = findSiteRoles(table, layout.point, vocabulary, stated);
     if (layout.unit == CoordinateUnit::Degrees && areWholeDegrees(layout.point, table.fields)) {
         const auto name = [&table](int field) {

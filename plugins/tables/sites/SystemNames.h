@@ -13,4 +13,15 @@ namespace vlt::driver {
 std::vector<std::string> systemsNamed(const TableProfile &table, const PointFields &point,
                                       const Vocabulary &vocabulary);
 
+/// Exchanges the columns X and Y of a position if the table names a system whose X points to the
+/// north, and the values can be positions in it.
+///
+/// @param problem  gets a text for the user if the values could also be read the other way round
+void useNorthX(const TableProfile &table, const Vocabulary &vocabulary, PointFields &point,
+               std::string &problem);
+
+/// EPSG code of the longitudes and latitudes of a datum that a text names: "Lat (NAD27)". Empty for
+/// none; the longest name counts.
+std::string datumNamed(const std::string &text, const Vocabulary &vocabulary);
+
 } // namespace vlt::driver

@@ -1,8 +1,12 @@
 #include "plugins/tables/sites/TableDeclaration.h"
 
+#include "contract/TableTexts.h"
+#include "plugins/tables/cells/Cell.h"
+#include "plugins/tables/sites/SystemNames.h"
 #include "plugins/tables/table/HeaderWords.h"
 
 #include <algorithm>
+#include <set>
 
 namespace vlt::driver {
 
@@ -24,12 +28,9 @@ std::string epsgIn(const std::string &text)
     return {};
 }
 
-} // namespace
-
-std::string findEpsg(const TableProfile &table, const PointFields &point, CoordinateUnit unit)
+/// The code in the titles, the names or a column of codes; empty for none.
+std::string statedEpsg(const TableProfile &table)
 {
-    if (point.utm && !point.utm->only)
-        return point.utm->epsg();
     for (const std::string &title : table.header.titles) {
         if (std::string code = epsgIn(title); !code.empty())
             return code;
@@ -50,11 +51,55 @@ std::string findEpsg(const TableProfile &table, const PointFields &point, Coordi
                        ? epsgIn(field.samples.front())
                        : epsgIn("epsg:" + field.samples.front());
     }
-    if (unit != CoordinateUnit::Meters && point.x.found() &&
-        lowerCase(table.fields[static_cast<std::size_t>(point.x.value)].name).find("wgs84") !=
-            std::string::npos)
-        return "4326";
-    return point.utm ? point.utm->epsg() : std::string();
+    return {};
+}
+
+/// Finds the datum in a column of its name; rows of several datums have no common system.
+void useDatumColumn(const TableProfile &table, const Vocabulary &vocabulary,
+                    TableDeclaration &declaration)
+{
+    for (const Field &field : table.fields) {
+        const std::vector<std::string> words = wordsOf(field.name);
+        if (std::find(words.begin(), words.end(), "datum") == words.end())
+            continue;
+        std::set<std::string> codes;
+        std::string names;
+        for (const std::string &text : field.samples) {
+            const std::string code = datumNamed(text, vocabulary);
+            if (!code.empty() && codes.insert(code).second) {
+                names += (names.empty() ? "" : ", ") + std::string(trimmed(text));
+                declaration.epsg = declaration.epsg.empty() ? code : declaration.epsg;
+            }
+        }
+        if (codes.size() > 1)
+            declaration.systemProblem =
+                contract::formatted("MESS_TAB_DATUMS", {field.name, names, declaration.epsg});
+        if (!codes.empty())
+            return;
+    }
+}
+
+} // namespace
+
+void findSystem(const TableProfile &table, const PointFields &point, const Vocabulary &vocabulary,
+                TableDeclaration &declaration)
+{
+    const bool hasManyZones = point.utm && !point.utm->only;
+    declaration.epsg = hasManyZones ? point.utm->epsg() : statedEpsg(table);
+    if (declaration.epsg.empty() && point.utm)
+        declaration.epsg = point.utm->epsg();
+    if (!declaration.epsg.empty() || declaration.unit == CoordinateUnit::Meters || !point.found())
+        return;
+    const std::string &name = table.fields[static_cast<std::size_t>(point.xField())].name;
+    declaration.epsg = datumNamed(name, vocabulary);
+    if (declaration.epsg.empty() && lowerCase(name).find("wgs84") != std::string::npos)
+        declaration.epsg = "4326"; // also within a word
+    if (declaration.epsg.empty())
+        useDatumColumn(table, vocabulary, declaration);
+    for (const std::string &title : table.header.titles) {
+        if (declaration.epsg.empty())
+            declaration.epsg = datumNamed(title, vocabulary);
+    }
 }
 
 } // namespace vlt::driver

@@ -1007,5 +1007,17 @@
         <source>all tilts in column "%1" are negative: the antennas point upwards</source>
         <translation>all tilts in column "%1" are negative: the antennas point upwards</translation>
     </message>
+    <message id="MESS_TAB_LOST_DECIMALS">
+        <source>the whole numbers in the columns "%1" and "%2" are read as degrees after division by %3</source>
+        <translation>the whole numbers in the columns "%1" and "%2" are read as degrees after division by %3</translation>
+    </message>
+    <message id="MESS_TAB_DATUMS">
+        <source>the column "%1" names several datums (%2): all positions are read as those of EPSG:%3</source>
+        <translation>the column "%1" names several datums (%2): all positions are read as those of EPSG:%3</translation>
+    </message>
+    <message id="MESS_TAB_NORTH_X">
+        <source>"%1" is read as northing and "%2" as easting, as in EPSG:%3: the positions could also be read the other way round</source>
+        <translation>"%1" is read as northing and "%2" as easting, as in EPSG:%3: the positions could also be read the other way round</translation>
+    </message>
 </context>
 </TS>

@@ -1007,5 +1007,17 @@
         <source>all tilts in column "%1" are negative: the antennas point upwards</source>
         <translation>tous les tilts de la colonne «&#xa0;%1&#xa0;» sont négatifs&#xa0;: les antennes pointent vers le haut</translation>
     </message>
+    <message id="MESS_TAB_LOST_DECIMALS">
+        <source>the whole numbers in the columns "%1" and "%2" are read as degrees after division by %3</source>
+        <translation>les nombres entiers des colonnes «&#xa0;%1&#xa0;» et «&#xa0;%2&#xa0;» sont lus comme des degrés après division par %3</translation>
+    </message>
+    <message id="MESS_TAB_DATUMS">
+        <source>the column "%1" names several datums (%2): all positions are read as those of EPSG:%3</source>
+        <translation>la colonne «&#xa0;%1&#xa0;» indique plusieurs systèmes géodésiques (%2)&#xa0;: toutes les positions sont lues comme celles de EPSG:%3</translation>
+    </message>
+    <message id="MESS_TAB_NORTH_X">
+        <source>"%1" is read as northing and "%2" as easting, as in EPSG:%3: the positions could also be read the other way round</source>
+        <translation>«&#xa0;%1&#xa0;» est lu comme l'ordonnée (nord) et «&#xa0;%2&#xa0;» comme l'abscisse (est), comme dans EPSG:%3&#xa0;: les positions pourraient aussi se lire dans l'autre sens</translation>
+    </message>
 </context>
 </TS>
