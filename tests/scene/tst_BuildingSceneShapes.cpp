@@ -208,6 +208,26 @@ private Q_SLOTS:
         QTEST(translucent, "translucent");
     }
 
+    void buildingsMayStartAboveTheGround()
+    {
+        CityModel city;
+        add(city, {square(0, 0, 10), square(2, 2, 3)});
+        city.footprints.buildings[0].bottomM = 4;
+        CityMesh mesh(city, {0, 0, BaseM});
+        mesh.addBuilding(0, 5);
+        mesh.addBoxes(0);
+
+        double below = 0;
+        for (const Face &face : facesOf(mesh)) {
+            QVERIFY(std::min({face.a.z(), face.b.z(), face.c.z()}) >= 4);
+            if (face.normal().z() < -0.5) {
+                below += face.area();
+                QCOMPARE(face.reported, osg::Vec3d(0, 0, -1));
+            }
+        }
+        QVERIFY(std::abs(below - 91) < 1e-3);
+    }
+
     void tilesHoldEachBuildingOnce_data()
     {
         // widest: distance of two buildings in one tile

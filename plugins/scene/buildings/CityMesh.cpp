@@ -106,8 +106,10 @@ void CityMesh::addBuilding(std::uint32_t building, double skirtM, Faces faces)
 void CityMesh::addPart(std::span<const Footprints::Ring> rings, std::uint32_t building,
                        double skirtM, Faces faces)
 {
+    const Footprints::Building &shape = m_city.footprints.buildings[building];
     const double base = m_city.baseM[building] - m_origin.z();
-    const double top = base + m_city.footprints.buildings[building].heightM;
+    const double top = base + shape.heightM;
+    const double bottom = base + (shape.bottomM > 0 ? shape.bottomM : -skirtM);
     const osg::Vec4ub wallColor = bytesOf(m_city.wallColors[building]);
     std::vector<Positions> outlines;
     m_roof.clear();
@@ -121,12 +123,14 @@ void CityMesh::addPart(std::span<const Footprints::Ring> rings, std::uint32_t bu
     if (faces == Faces::Roofs)
         return;
     for (Positions &outline : outlines) {
-        addWalls(outline, base - skirtM, top, wallColor);
+        addWalls(outline, bottom, top, wallColor);
         if (!m_roof.isCrossed())
             continue;
         std::reverse(outline.begin(), outline.end()); // both sides may be outside
-        addWalls(outline, base - skirtM, top, wallColor);
+        addWalls(outline, bottom, top, wallColor);
     }
+    if (shape.bottomM > 0)
+        addUnderside(bottom, wallColor);
 }
 
 void CityMesh::addWalls(const Positions &ring, double bottom, double top, const osg::Vec4ub &color)
@@ -156,6 +160,18 @@ void CityMesh::addRoof(double top, const osg::Vec4ub &color)
         vertex(position, top, Upwards, color);
     for (const auto &[a, b, c] : m_roof.triangles())
         indices->insert(indices->end(), {first + a, first + b, first + c});
+}
+
+void CityMesh::addUnderside(double bottom, const osg::Vec4ub &color)
+{
+    Indices *indices = indicesFor(color);
+    if (!indices)
+        return;
+    const auto first = static_cast<std::uint32_t>(m_vertices.size());
+    for (const osg::Vec2d &position : m_roof.points())
+        m_normals[vertex(position, bottom, Upwards, color)] *= -1;
+    for (const auto &[a, b, c] : m_roof.triangles())
+        indices->insert(indices->end(), {first + a, first + c, first + b});
 }
 
 void CityMesh::addBoxes(std::uint32_t building)
@@ -217,12 +233,14 @@ void CityMesh::addBox(const Positions &ring, double area, std::uint32_t building
     const std::array<osg::Vec2d, 4> corners = {corner(-1, -1), corner(1, -1), corner(1, 1),
                                                corner(-1, 1)};
     const double base = m_city.baseM[building] - m_origin.z();
-    const double top = base + m_city.footprints.buildings[building].heightM;
+    const Footprints::Building &shape = m_city.footprints.buildings[building];
+    const double top = base + shape.heightM;
     const osg::Vec4ub wallColor = bytesOf(m_city.wallColors[building]);
     const osg::Vec4ub roofColor = bytesOf(m_city.roofColors[building]);
     const auto b = static_cast<std::uint32_t>(m_vertices.size());
     for (std::size_t i = 0; i < 4; ++i)
-        vertex(corners[i], base, outwards(corners[(i + 1) % 4] - corners[i]), wallColor);
+        vertex(corners[i], base + shape.bottomM, outwards(corners[(i + 1) % 4] - corners[i]),
+               wallColor);
     for (const osg::Vec2d &position : corners)
         vertex(position, top, Upwards, roofColor);
     const std::uint32_t t = b + 4;

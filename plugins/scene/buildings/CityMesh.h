@@ -56,6 +56,7 @@ private:
                  Faces faces);
     void addWalls(const Positions &ring, double bottom, double top, const osg::Vec4ub &color);
     void addRoof(double top, const osg::Vec4ub &color);
+    void addUnderside(double bottom, const osg::Vec4ub &color); ///< of the last roof
     void addBox(const Positions &ring, double area, std::uint32_t building);
     Indices *indicesFor(const osg::Vec4ub &color); ///< null if nothing is drawn in this colour
     std::uint32_t vertex(const osg::Vec2d &position, double z, const osg::Vec2d &normal,

@@ -95,15 +95,15 @@ private:
         if (m_images.isEmpty() || (isComplex && !m_textures.processComplexBuildings))
             return false;
         return m_textures.mode != contract::TextureMode::Storeys ||
-               !levelsWithin(one.heightM).empty();
+               !levelsWithin(one.bottomM, one.heightM).empty();
     }
 
-    std::vector<std::size_t> levelsWithin(double heightM) const
+    std::vector<std::size_t> levelsWithin(double bottomM, double heightM) const
     {
         std::vector<std::size_t> within;
         for (std::size_t i = 0; i < m_images.levels().size(); ++i) {
             const double at = m_images.levels()[i].heightM;
-            if (at >= 0 && at <= heightM)
+            if (at >= bottomM && at <= heightM)
                 within.push_back(i);
         }
         return within;
@@ -124,6 +124,10 @@ private:
 
     /// Height of a building's base above the origin.
     double baseM(std::uint32_t building) const { return m_city.baseM[building] - m_origin.z(); }
+    double bottomM(std::uint32_t building) const
+    {
+        return m_city.footprints.buildings[building].bottomM;
+    }
     double heightM(std::uint32_t building) const
     {
         return m_city.footprints.buildings[building].heightM;
@@ -178,7 +182,7 @@ private:
     void addStoreys(std::uint32_t building)
     {
         std::vector<std::pair<std::size_t, double>> floors;
-        for (const std::size_t level : levelsWithin(heightM(building))) {
+        for (const std::size_t level : levelsWithin(bottomM(building), heightM(building))) {
             const double z = m_images.levels()[level].heightM;
             floors.emplace_back(level, z);
             addRings(building, baseM(building) + z);
@@ -216,7 +220,7 @@ private:
         const auto &levels = m_images.levels();
         const osg::Vec4ub color = opaque(m_city.wallColors[building]);
         const double height = heightM(building);
-        double bottom = -m_skirtM;
+        double bottom = bottomM(building) > 0 ? bottomM(building) : -m_skirtM;
         for (std::size_t i = 0; i < levels.size() && bottom < height; ++i) {
             const bool isLast = i + 1 == levels.size();
             const double border = isLast ? height : (levels[i].heightM + levels[i + 1].heightM) / 2;
@@ -230,8 +234,8 @@ private:
 
     void addOutline(std::uint32_t building)
     {
-        const double base = baseM(building);
-        const double top = base + heightM(building);
+        const double base = baseM(building) + bottomM(building);
+        const double top = baseM(building) + heightM(building);
         addRings(building, base);
         addRings(building, top);
         if (!m_edgeColor)
