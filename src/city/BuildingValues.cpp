@@ -1,10 +1,42 @@
 #include "city/BuildingValues.h"
 
+#include "contract/BadLayer.h"
+#include "coverage/LocalRaster.h"
+
 #include <algorithm>
 #include <cmath>
 #include <tuple>
 
 namespace vlt::city {
+
+using contract::BadLayer;
+using contract::RasterColors;
+using coverage::CoverageRaster;
+
+std::unique_ptr<CoverageRaster> openRaster(const RasterColors &colors,
+                                           const std::vector<std::string> &directories)
+{
+    auto [raster, reason] =
+        CoverageRaster::open(coverage::locateRaster(colors.raster, directories), colors.noData);
+    if (raster && !raster->isPlaced())
+        reason = contract::formatted("MESS_SCENE_NOT_PLACED");
+    if (!reason.empty())
+        throw BadLayer("MESS_SCENE_BAD_RASTER", {colors.raster, reason});
+    return std::move(raster);
+}
+
+void checkTransform(const PositionTransform &transform, const RasterColors &colors)
+{
+    if (!transform.isUsable())
+        throw BadLayer("MESS_SCENE_BAD_RASTER",
+                       {colors.raster, contract::formatted("MESS_SCENE_NO_TRANSFORMATION_FROM")});
+}
+
+std::string withoutValue(std::size_t without, std::size_t features, const RasterColors &colors)
+{
+    return contract::formatted("MESS_SCENE_NO_VALUE",
+                               {std::to_string(without), std::to_string(features), colors.raster});
+}
 
 std::vector<std::size_t> featuresInRows(const Footprints &footprints)
 {

@@ -4,10 +4,26 @@
 #include "city/PositionTransform.h"
 #include "coverage/CoverageRaster.h"
 
+#include <memory>
 #include <optional>
+#include <string>
 #include <vector>
 
 namespace vlt::city {
+
+/// Opens the raster of colours.
+///
+/// @param directories  searched for a relative path, in this order
+/// @throws BadLayer    it cannot be used
+std::unique_ptr<coverage::CoverageRaster> openRaster(const contract::RasterColors &colors,
+                                                     const std::vector<std::string> &directories);
+
+/// Throws BadLayer if positions cannot be transformed to the raster of colours.
+void checkTransform(const PositionTransform &transform, const contract::RasterColors &colors);
+
+/// The notice that features have no value in the raster of colours.
+std::string withoutValue(std::size_t without, std::size_t features,
+                         const contract::RasterColors &colors);
 
 /// The first building of each feature, in an order with neighbours close together, so that each
 /// block of a raster is read once.

@@ -1,4 +1,5 @@
 #include "city/CityInputs.h"
+#include "city/CountCity.h"
 #include "city/HeightCounts.h"
 #include "contract/BadLayer.h"
 #include "support/Cases.h"
@@ -245,6 +246,26 @@ private Q_SLOTS:
         // computed with gdaltransform
         QCOMPARE(listed(inputs.baseM, [](float base) { return base; }),
                  u"59.62 60.37 61.11 62.61"_s);
+    }
+
+    void countsBuildingsWithoutAValue()
+    {
+        // under the first 100 m; buildings stand at 0, 20, 80, 100 and 120 m
+        makeGeoTiff(m_dir.filePath(u"values.tif"_s),
+                    {10, 2, 1, GDT_Byte, northUp(East, North - 5, 10, 2), "EPSG:2154",
+                     [](int, int, int) { return 1; }});
+        const auto counted = [this](const char *raster) {
+            BuildingDocument made = document("levels.geojson", "building:levels");
+            made.footprints.wallColor =
+                std::string("IMAGE;") + raster + ";map.txt;average;absolute;interpolation";
+            city::Notices notices;
+            return summary(city::countCity(made, {m_dir.path().toStdString()}, notices,
+                                           [](double) { return true; }));
+        };
+
+        const QString others = u"8: 5 drawn, 2 missingHeight, 1 notPositive, 5 zeroGround"_s;
+        QCOMPARE(counted("values.tif"), others + u", 2 noValue"_s);
+        QCOMPARE(counted("none.tif"), others + u", 5 noValue"_s);
     }
 
     void refusesFilters()

@@ -59,7 +59,7 @@ class tst_CityColors : public QObject
                      system, value});
     }
 
-    QString colorsOf(const CityModel &city, const QByteArray &colorText, Notices &notices)
+    QString colorsOf(CityModel city, const QByteArray &colorText, Notices &notices)
     {
         const std::vector<std::string> directories = {"/nowhere", m_dir.path().toStdString()};
         return hex(townColors(city, colorText.toStdString(), directories, notices,
@@ -184,7 +184,8 @@ private Q_SLOTS:
         const auto colors = [&] {
             Notices notices;
             shares.clear();
-            return townColors(townOf(3), "IMAGE;a.tif;map.txt;average;stretched;interpolation;-99",
+            CityModel city = townOf(3);
+            return townColors(city, "IMAGE;a.tif;map.txt;average;stretched;interpolation;-99",
                               {m_dir.path().toStdString()}, notices, stop);
         };
 

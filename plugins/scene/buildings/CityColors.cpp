@@ -3,7 +3,6 @@
 #include "city/BuildingValues.h"
 #include "contract/RasterColors.h"
 #include "coverage/CoverageRaster.h"
-#include "coverage/LocalRaster.h"
 #include "plugins/scene/buildings/ColorText.h"
 #include "plugins/scene/reading/BadLayer.h"
 #include "plugins/scene/reading/Stopped.h"
@@ -11,6 +10,7 @@
 
 #include <cpl_error.h>
 
+#include <algorithm>
 #include <cmath>
 
 namespace vlt::scene {
@@ -53,27 +53,13 @@ ColorMap loadMap(const RasterColors &colors, const std::vector<std::string> &dir
     return map;
 }
 
-std::unique_ptr<CoverageRaster> openRaster(const RasterColors &colors,
-                                           const std::vector<std::string> &directories)
-{
-    auto [raster, reason] =
-        CoverageRaster::open(coverage::locateRaster(colors.raster, directories), colors.noData);
-    if (raster && !raster->isPlaced())
-        reason = contract::formatted("MESS_SCENE_NOT_PLACED");
-    if (!reason.empty())
-        throw BadLayer("MESS_SCENE_BAD_RASTER", {colors.raster, reason});
-    return std::move(raster);
-}
-
-std::vector<Rgba> rasterColors(const CityModel &city, const RasterColors &colors,
+std::vector<Rgba> rasterColors(CityModel &city, const RasterColors &colors,
                                const std::vector<std::string> &directories, Notices &notices,
                                const Progress &progress)
 {
-    const std::unique_ptr<CoverageRaster> raster = openRaster(colors, directories);
+    const std::unique_ptr<CoverageRaster> raster = city::openRaster(colors, directories);
     const city::PositionTransform transform(city.srs, raster->srs());
-    if (!transform.isUsable())
-        throw BadLayer("MESS_SCENE_BAD_RASTER",
-                       {colors.raster, contract::formatted("MESS_SCENE_NO_TRANSFORMATION_FROM")});
+    city::checkTransform(transform, colors);
     const ColorMap map = loadMap(colors, directories, *raster, progress);
 
     const auto interpretation = colors.isInterpolated ? colormaps::Interpretation::Interpolation
@@ -98,16 +84,16 @@ std::vector<Rgba> rasterColors(const CityModel &city, const RasterColors &colors
              ++i)
             found[i] = color;
     }
+    std::size_t &counted = city.counts.substitutes.noValue;
+    counted = std::max(counted, without);
     if (without > 0)
-        notices.push_back(
-            contract::formatted("MESS_SCENE_NO_VALUE",
-                                {std::to_string(without), std::to_string(number), colors.raster}));
+        notices.push_back(city::withoutValue(without, number, colors));
     return found;
 }
 
 } // namespace
 
-std::vector<Rgba> townColors(const CityModel &city, const std::string &colorText,
+std::vector<Rgba> townColors(CityModel &city, const std::string &colorText,
                              const std::vector<std::string> &directories, Notices &notices,
                              const Progress &progress)
 {
@@ -123,6 +109,7 @@ std::vector<Rgba> townColors(const CityModel &city, const std::string &colorText
         return rasterColors(city, *colors, directories, notices, progress);
     } catch (const BadLayer &fault) {
         notices.push_back(fault.what());
+        city.counts.substitutes.noValue = city.counts.drawn;
     }
     return std::vector<Rgba>(number, WithoutValue);
 }

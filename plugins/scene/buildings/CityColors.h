@@ -15,10 +15,11 @@ namespace vlt::scene {
 /// Buildings without a value get the map's "no data" colour, else a light grey. If the raster, the
 /// map or the system cannot be used, all buildings get that grey, and a notice gives the reason.
 ///
+/// @param city         receives the number of features without a value in its counts
 /// @param directories  searched for relative paths, in this order
 /// @return             parallel to city.footprints.buildings
 /// @throws Stopped     `progress` stopped the function
-std::vector<colormaps::Rgba> townColors(const CityModel &city, const std::string &colorText,
+std::vector<colormaps::Rgba> townColors(CityModel &city, const std::string &colorText,
                                         const std::vector<std::string> &directories,
                                         Notices &notices, const Progress &progress);
 
