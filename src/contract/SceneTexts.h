@@ -106,7 +106,7 @@ inline constexpr auto SceneTexts = [] {
          "%1 of %2 buildings start at the ground: their underside is not below their roof",
          {Count, Count}},
         {"MESS_SCENE_FAR_AWAY",
-         "%1 of %2 buildings lie far from all others: the feature %3 lies %4 km away",
+         "%1 of %2 buildings lie far from all others, up to %3 km away; the farthest is at %4",
          {Count, Count, Name, Name}},
         {"MESS_SCENE_COINCIDENT",
          "%1 of %2 buildings have the same outline as another one",

@@ -59,6 +59,12 @@ void VltPreviewPane::setElevationDeg(double elevationDeg)
         m_viewer->setElevationDeg(elevationDeg);
 }
 
+void VltPreviewPane::setCore(const std::optional<osg::BoundingBox> &core)
+{
+    if (m_viewer)
+        m_viewer->setCore(core);
+}
+
 void VltPreviewPane::centerView()
 {
     if (m_viewer)

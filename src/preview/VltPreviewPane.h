@@ -1,8 +1,11 @@
 #pragma once
 
+#include <osg/BoundingBox>
 #include <osg/Node>
 
 #include <QWidget>
+
+#include <optional>
 
 class W_simpleOSGViewer;
 
@@ -35,7 +38,11 @@ public:
     /// the elevation depends on the shape of the scene.
     void setElevationDeg(double elevationDeg);
 
-    /// Shows the whole scene.
+    /// Sets the part of the scene for centerView(), by its extent without heights; the default is
+    /// the whole scene.
+    void setCore(const std::optional<osg::BoundingBox> &core);
+
+    /// Shows the whole scene, or its core.
     void centerView();
 
     QSize sizeHint() const override;

@@ -277,9 +277,12 @@ double W_simpleOSGViewer::distanceToSee(const osg::BoundingBox &box) const
 
 void W_simpleOSGViewer::centerView(osg::Node *node)
 {
-    const osg::BoundingBox box = extentsOf(node);
+    osg::BoundingBox box = extentsOf(node);
     if (!box.valid())
         return;
+    if (m_core && node == getSceneData())
+        box.set(m_core->xMin(), m_core->yMin(), box.zMin(), m_core->xMax(), m_core->yMax(),
+                box.zMax());
     m_isUserCamera = true;
     // a flat scene, such as the sites of a city, needs a higher camera
     const bool isFlat = box.zMax() - box.zMin() < FlatShare * box.radius();

@@ -60,12 +60,16 @@ public:
     /// the elevation depends on the shape of the scene.
     void setElevationDeg(double elevationDeg) { m_elevationDeg = elevationDeg; }
 
+    /// Sets the part of the scene for centerView(), by its extent without heights; the default is
+    /// the whole scene.
+    void setCore(const std::optional<osg::BoundingBox> &core) { m_core = core; }
+
     /// Height of the view in pixels divided by the distance of the camera; 10 before the first
     /// frame.
     double levelOfDetail() const { return m_levelOfDetail; }
 
 public Q_SLOTS:
-    /// Shows the whole scene.
+    /// Shows the whole scene, or its core.
     void centerView();
     /// Shows a node of the scene.
     void centerView(osg::Node *node);
@@ -108,6 +112,7 @@ private:
 
     osg::ref_ptr<osgViewer::GraphicsWindowEmbedded> m_graphicsWindow;
     QTimer m_refresh;
+    std::optional<osg::BoundingBox> m_core;
     osg::ref_ptr<VltTrackBall> m_trackBall;
     bool m_isUserCamera = true; ///< false after the mouse moved the camera
     double m_levelOfDetail = 10;

@@ -30,13 +30,14 @@ osg::BoundingBoxd extentsFrom(osg::Node &scene, Deferred deferred,
     return drawn.extents();
 }
 
-/// Finds out whether a part of the scene is not drawn because it is too far from the eye.
+/// Finds out whether a part of the scene's core is not drawn because it is too far from the eye.
 class HiddenParts : public osg::NodeVisitor
 {
 public:
-    explicit HiddenParts(const osg::Vec3d &eye)
+    HiddenParts(const osg::Vec3d &eye, const osg::BoundingBoxd &core)
         : osg::NodeVisitor(TRAVERSE_ALL_CHILDREN)
         , m_eye(eye)
+        , m_core(core)
     {}
 
     bool found() const { return m_found; }
@@ -45,7 +46,11 @@ public:
     {
         if (levels.getRangeMode() == osg::LOD::DISTANCE_FROM_EYE_POINT) {
             const osg::Matrixd toScene = osg::computeLocalToWorld(getNodePath());
-            const double distance = (levels.getCenter() * toScene - m_eye).length();
+            const osg::Vec3d centre = levels.getCenter() * toScene;
+            if (centre.x() < m_core.xMin() || centre.x() > m_core.xMax() ||
+                centre.y() < m_core.yMin() || centre.y() > m_core.yMax())
+                return;
+            const double distance = (centre - m_eye).length();
             double reach = 0;
             for (unsigned level = 0; level < levels.getNumRanges(); ++level)
                 reach = std::max<double>(reach, levels.getMaxRange(level));
@@ -57,12 +62,13 @@ public:
 
 private:
     osg::Vec3d m_eye;
+    osg::BoundingBoxd m_core;
     bool m_found = false;
 };
 
-bool isWhole(osg::Node &scene, const osg::Vec3d &eye)
+bool isWhole(osg::Node &scene, const osg::BoundingBoxd &core, const osg::Vec3d &eye)
 {
-    HiddenParts hidden(eye);
+    HiddenParts hidden(eye, core);
     scene.accept(hidden);
     return !hidden.found();
 }
@@ -84,15 +90,17 @@ std::optional<qint64> buildingCount(const osg::Node &scene)
 Result<ViewPoint> viewOfCity(osg::Node &scene, qint64 buildings, double aspect)
 {
     const Deferred deferred = buildings > MaxMeasured ? Deferred::ByBound : Deferred::Made;
-    const osg::BoundingBoxd city = extentsFrom(scene, deferred, std::nullopt);
+    osg::BoundingBoxd city = extentsFrom(scene, deferred, std::nullopt);
     if (!city.valid())
         return Error{QStringLiteral("MESS_SNAP_EMPTY"), QStringLiteral("the scene is empty"), {}};
+    if (const auto core = coreOf(scene))
+        city.set(core->xMin(), core->yMin(), city.zMin(), core->xMax(), core->yMax(), city.zMax());
     const Subject subject(city, aspect, DefaultMargin, steepAxes());
     constexpr double fieldStepDeg = 8;
     double field = DefaultFieldDeg;
     while (field <= MaxFieldDeg) {
         const ViewPoint view = subject.from(subject.distance(field), field);
-        if (isWhole(scene, view.eye))
+        if (isWhole(scene, city, view.eye))
             return view;
         field += fieldStepDeg;
     }

@@ -3,6 +3,7 @@
 #include "contract/Installation.h"
 #include "contract/ParametricKeys.h"
 #include "contract/ReaderOptions.h"
+#include "contract/SceneFactKeys.h"
 
 #include <QDir>
 #include <QFile>
@@ -79,6 +80,16 @@ std::optional<QString> sceneFact(const osg::Node &scene, const char *key)
             return QString::fromStdString(line.substr(mark.size()));
     }
     return std::nullopt;
+}
+
+std::optional<osg::BoundingBox> coreOf(const osg::Node &scene)
+{
+    const QStringList limits =
+        sceneFact(scene, contract::facts::Core).value_or(QString()).split(QLatin1Char(' '));
+    if (limits.size() != 4)
+        return std::nullopt;
+    return osg::BoundingBox(limits[0].toFloat(), limits[1].toFloat(), 0, limits[2].toFloat(),
+                            limits[3].toFloat(), 0);
 }
 
 bool isParametricName(const QString &name)

@@ -5,6 +5,7 @@
 
 #include <QString>
 
+#include <osg/BoundingBox>
 #include <osg/Node>
 
 #include <optional>
@@ -34,6 +35,10 @@ Stoppable<Scene> readScene(const QString &name, const QString &project, TerrainS
 /// A fact that the readers state about a scene, by its key in contract/SceneFactKeys.h; nothing if
 /// they do not state it.
 std::optional<QString> sceneFact(const osg::Node &scene, const char *key);
+
+/// The extent of all but far outliers of a scene, in its frame, without heights; nothing if the
+/// reader does not state it.
+std::optional<osg::BoundingBox> coreOf(const osg::Node &scene);
 
 /// Whether the name is that of a parametric object.
 bool isParametricName(const QString &name);

@@ -14,6 +14,7 @@
 
 #include <cmath>
 
+using namespace Qt::StringLiterals;
 using namespace vlt;
 using namespace vlt::scene;
 
@@ -203,6 +204,39 @@ private Q_SLOTS:
         read(document());
 
         QVERIFY(reported("1 of 3 buildings have the same outline as another one"));
+    }
+
+    void separatesFarBuildingsFromTheCore_data()
+    {
+        // east: of the last of 20 buildings, the others are within 200 m
+        const Cases<int, QString, QByteArray> row({"east", "core", "notice"});
+        row("beside them", 200, u"absent"_s, {});
+        row("within 20 km", 20000, u"absent"_s, {});
+        row("far", 3000000, u"-1500005 -5 -1499815 5"_s,
+            "1 of 20 buildings lie far from all others, up to 3000 km away; the farthest is at "
+            "3650000 6860000");
+        row("far to the west", -50000, u"24905 -5 25095 5"_s, "up to 50 km away");
+    }
+
+    void separatesFarBuildingsFromTheCore()
+    {
+        QFETCH(int, east);
+        QFETCH(QByteArray, notice);
+        Features features;
+        for (int i = 0; i < 20; ++i) {
+            const int x = i < 19 ? 10 * i : east;
+            const auto corner = [x](int dx) { return QByteArray::number(x + dx); };
+            features.append({"POLYGON((" + corner(0) + " 0," + corner(10) + " 0," + corner(10) +
+                                 " 10," + corner(0) + " 10," + corner(0) + " 0))",
+                             "5"});
+        }
+        makeFootprints(path("town.gpkg"), features);
+
+        read(document());
+
+        QTEST(QString::fromStdString(m_opened.fact("core")), "core");
+        QCOMPARE(reported("far from all others"), !notice.isEmpty());
+        QVERIFY(notice.isEmpty() || reported(notice));
     }
 
     void reportsOfBuildingsThatAreNotVisible()

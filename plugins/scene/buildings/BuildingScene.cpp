@@ -5,6 +5,7 @@
 #include "contract/SceneFactKeys.h"
 #include "contract/SceneTexts.h"
 #include "plugins/scene/buildings/CityColors.h"
+#include "plugins/scene/buildings/CityCore.h"
 #include "plugins/scene/buildings/CityNodes.h"
 #include "plugins/scene/buildings/TexbDocument.h"
 #include "plugins/scene/buildings/TexturedTile.h"
@@ -12,6 +13,10 @@
 #include "plugins/scene/reading/TableReading.h"
 
 #include <algorithm>
+#include <cmath>
+#include <iomanip>
+#include <locale>
+#include <sstream>
 #include <utility>
 
 namespace vlt::scene {
@@ -62,6 +67,31 @@ void colour(CityModel &city, const BuildingFootprints &footprints, const Directo
                                 {std::to_string(invisible), std::to_string(city.counts.drawn)}));
 }
 
+/// States which buildings are the core of the city, and reports the others; nothing if there are no
+/// others.
+void setCore(osg::Group &scene, const CityModel &city, Notices &notices)
+{
+    const std::optional<CityCore> core = coreOf(city);
+    if (!core)
+        return;
+    const auto whole = [](double number) { return std::to_string(std::llround(number)); };
+    const osg::BoundingBoxd &extent = core->extent;
+    scene.addDescription(std::string(contract::facts::Core) + '=' +
+                         whole(std::floor(extent.xMin())) + ' ' + whole(std::floor(extent.yMin())) +
+                         ' ' + whole(std::ceil(extent.xMax())) + ' ' +
+                         whole(std::ceil(extent.yMax())));
+    const Footprints &footprints = city.footprints;
+    const auto &farthest =
+        footprints
+            .positions[footprints.rings[footprints.buildings[core->farthest].ringBegin].begin];
+    std::ostringstream place;
+    place.imbue(std::locale::classic());
+    place << std::setprecision(9) << farthest.x << ' ' << farthest.y;
+    notices.push_back(contract::formatted(
+        "MESS_SCENE_FAR_AWAY", {std::to_string(core->far), std::to_string(city.counts.drawn),
+                                whole(core->distanceM / 1000), place.str()}));
+}
+
 /// The function that makes tiles with images; empty if the document has no usable images.
 TexturedMaker texturedMaker(const std::shared_ptr<const CityModel> &city,
                             const BuildingDocument &document, const Directories &directories,
@@ -108,6 +138,7 @@ osg::ref_ptr<osg::Group> readBuildingScene(const std::string &document, const st
                          texturedMaker(city, texb, directories, notices, part(progress, 0.8, 0.9))};
     osg::ref_ptr<osg::Group> scene = buildCity(city, look, part(progress, 0.9, 1));
     setFrame(*scene, city->frame);
+    setCore(*scene, *city, notices);
     setCounts(*scene, city->counts);
     return scene;
 }

@@ -9,7 +9,8 @@ namespace vlt::scene {
 /// Reads a building document and makes its scene, in metres around the centre of the buildings: x
 /// east, y north, z up. It consists of tiles with levels of detail; the document gives their size.
 ///
-/// Its descriptions are "centre=X Y", "srs=..." and the counts of contract/CityCounts.h.
+/// Its descriptions are "centre=X Y", "srs=...", the counts of contract/CityCounts.h, and
+/// "core=X Y X Y" if some buildings lie far from all others.
 ///
 /// @param document   path of the document
 /// @param project    path of the project file, for relative paths; may be empty

@@ -136,6 +136,7 @@ void VltBuildingPreview::showLayer(const QString &path, const QString &project)
 
 void VltBuildingPreview::showScene(const vlt::snapshot::Scene &scene, const QStringList &notices)
 {
+    m_ui->m_pwPreview->setCore(scene ? vlt::snapshot::coreOf(*scene) : std::nullopt);
     m_ui->m_pwPreview->showScene(scene);
     m_ui->m_pwPbExt->setEnabled(scene.valid() && m_ui->m_pwPreview->hasView());
     showMessage({});

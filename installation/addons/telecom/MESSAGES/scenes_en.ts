@@ -212,8 +212,8 @@
         <translation>%1 of %2 buildings start at the ground: their underside is not below their roof</translation>
     </message>
     <message id="MESS_SCENE_FAR_AWAY">
-        <source>%1 of %2 buildings lie far from all others: the feature %3 lies %4 km away</source>
-        <translation>%1 of %2 buildings lie far from all others: the feature %3 lies %4 km away</translation>
+        <source>%1 of %2 buildings lie far from all others, up to %3 km away; the farthest is at %4</source>
+        <translation>%1 of %2 buildings lie far from all others, up to %3 km away; the farthest is at %4</translation>
     </message>
     <message id="MESS_SCENE_COINCIDENT">
         <source>%1 of %2 buildings have the same outline as another one</source>

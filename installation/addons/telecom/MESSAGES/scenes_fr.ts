@@ -212,8 +212,8 @@
         <translation>bâtiments partant du sol, leur dessous n'étant pas plus bas que leur toit&#xa0;: %1 sur %2</translation>
     </message>
     <message id="MESS_SCENE_FAR_AWAY">
-        <source>%1 of %2 buildings lie far from all others: the feature %3 lies %4 km away</source>
-        <translation>bâtiments très éloignés de tous les autres&#xa0;: %1 sur %2&#xa0;; l'objet %3 est à %4 km</translation>
+        <source>%1 of %2 buildings lie far from all others, up to %3 km away; the farthest is at %4</source>
+        <translation>bâtiments très éloignés de tous les autres&#xa0;: %1 sur %2, jusqu'à %3 km&#xa0;; le plus lointain est en %4</translation>
     </message>
     <message id="MESS_SCENE_COINCIDENT">
         <source>%1 of %2 buildings have the same outline as another one</source>
