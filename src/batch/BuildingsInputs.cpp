@@ -64,21 +64,6 @@ struct Footprints
     QStringList warnings; ///< about the choice of the height field and the units
 };
 
-/// Refuses a condition that is wrong or selects no feature.
-std::optional<Error> checkCondition(geodata::PolygonSource &source, int layer,
-                                    const QString &condition)
-{
-    if (condition.isEmpty())
-        return std::nullopt;
-    const Result<bool> selects = source.selects(layer, condition);
-    if (!selects)
-        return selects.error();
-    if (selects.value())
-        return std::nullopt;
-    return Error{QStringLiteral("MESS_ERR_WHERE_EMPTY"),
-                 QStringLiteral("no feature meets this condition"), condition};
-}
-
 Result<Footprints> readVector(const BuildingsRequest &request, const QString &path)
 {
     const auto opened = geodata::PolygonSource::open(absolutePath(path));
@@ -100,7 +85,7 @@ Result<Footprints> readVector(const BuildingsRequest &request, const QString &pa
         heightsOf(request.heights, layer, field.value(), path, footprints.warnings);
     if (!heights)
         return heights.error();
-    if (const auto refusal = checkCondition(*opened.value(), index.value(), request.heights.where))
+    if (const auto refusal = opened.value()->conditionRefused(index.value(), request.heights.where))
         return *refusal;
     const geodata::Extent extent = opened.value()->extent(index.value());
     if (!extent.isPlaced())

@@ -23,7 +23,8 @@ struct BuildingsSource
 };
 
 /// Reads the choices from the wizard's shared parameters: "Buildings", "Layer", "Height", "Dtm",
-/// "Nodata", "CenterX", "CenterY", "ProjectName".
+/// "Nodata", "CenterX", "CenterY", "ProjectName", and "Heights", a map that is absent if all of its
+/// values are the defaults.
 BuildingsSource readBuildingsSource(const QVariantMap &parameters);
 
 /// Writes the choices to the same parameters, except the project, which another page chooses.

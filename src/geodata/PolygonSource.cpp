@@ -128,8 +128,10 @@ Extent PolygonSource::extent(int layer)
     return {envelope.MinX, envelope.MinY, envelope.MaxX, envelope.MaxY};
 }
 
-Result<bool> PolygonSource::selects(int layer, const QString &condition)
+std::optional<Error> PolygonSource::conditionRefused(int layer, const QString &condition)
 {
+    if (condition.isEmpty())
+        return std::nullopt;
     const std::lock_guard<std::mutex> alone(m_reading);
     const ErrorCollector errors;
     const localfiles::NoNetwork offline;
@@ -142,7 +144,10 @@ Result<bool> PolygonSource::selects(int layer, const QString &condition)
     if (!isValid || !reason.isEmpty())
         return Error{QStringLiteral("MESS_ERR_WHERE"),
                      QStringLiteral("this condition cannot be used"), condition, reason};
-    return hasOne;
+    if (hasOne)
+        return std::nullopt;
+    return Error{QStringLiteral("MESS_ERR_WHERE_EMPTY"),
+                 QStringLiteral("no feature meets this condition"), condition};
 }
 
 } // namespace vlt::geodata

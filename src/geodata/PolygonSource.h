@@ -7,6 +7,7 @@
 
 #include <memory>
 #include <mutex>
+#include <optional>
 
 class GDALDataset;
 class OGRLayer;
@@ -72,10 +73,9 @@ public:
     /// Bounds of a layer of layers(); reads every feature if the format does not store the bounds.
     Extent extent(int layer);
 
-    /// Whether an SQL condition selects a feature of a layer of layers().
-    ///
-    /// @par Errors  MESS_ERR_WHERE, with the condition as path and the library's reason
-    Result<bool> selects(int layer, const QString &condition);
+    /// The refusal of an SQL condition that is wrong (MESS_ERR_WHERE, with the library's reason) or
+    /// selects no feature of a layer of layers() (MESS_ERR_WHERE_EMPTY); none for an empty one.
+    std::optional<Error> conditionRefused(int layer, const QString &condition);
 
 private:
     PolygonSource() = default;

@@ -4,6 +4,7 @@
 #include "gui/FileDialogAnswer.h"
 #include "support/Cases.h"
 
+#include <QDoubleSpinBox>
 #include <QFileInfo>
 #include <QRadioButton>
 
@@ -109,7 +110,7 @@ private Q_SLOTS:
         row("counted beyond the end", R"({"n":123456789012,"H":1})", "H (Integer)", -1,
             likely.arg(u"H"_s));
         row("64 bits", R"({"a":1,"height":123456789012})", "a (Integer)", -1,
-            likely.arg(u"height"_s));
+            u"The field \"height\" probably has the heights: choose it at \"Else from\"."_s);
         row("none, not offered", R"({"n":1,"day":"2024/01/02","s":"x"})", "n (Integer)|s (String)",
             1, {});
         row("none that can be chosen", R"({"day":"2024/01/02"})", {}, -1,
@@ -132,6 +133,9 @@ private Q_SLOTS:
         QTEST(host.info(u"Height"_s), "hint");
         host.dtm()->setText(u"x"_s);
         QCOMPARE(host.canGoOn(), index >= 0);
+        auto *other = host.child<QComboBox>(u"m_pwCbElse"_s);
+        other->setCurrentIndex(1);
+        QCOMPARE(host.canGoOn(), index >= 0 || other->count() > 1);
     }
 
     void guessesTheUnit_data()
@@ -225,6 +229,48 @@ private Q_SLOTS:
         QCOMPARE(again.height()->currentIndex(), 1);
         QCOMPARE(again.noData()->text(), u"-9999.000000"_s);
         QCOMPARE(again.child<QRadioButton>(u"m_pwRbColored"_s)->isChecked(), colored);
+    }
+
+    void publishesHeights()
+    {
+        Host host;
+        const QByteArray properties = R"({"a":"x","NB_ETAGES":2,"z":123456789012})";
+        host.page->openVector(write(u"h.geojson"_s, features({Square}, properties)));
+        host.page->findChild<QLineEdit *>(u"m_pwLeDtm"_s)->setText(grid());
+        const auto choose = [&host](const QString &combo, int index) {
+            host.child<QComboBox>(u"m_pwCb"_s + combo)->setCurrentIndex(index);
+        };
+        QCOMPARE(host.child<QComboBox>(u"m_pwCbUnit"_s)->currentText(), u"levels"_s);
+        choose(u"Base"_s, 3);
+        QVERIFY(!host.canGoOn());
+        QCOMPARE(host.info(u"Height"_s), u"Choose the field with the ground height."_s);
+        choose(u"BaseField"_s, 3);
+        choose(u"Else"_s, 3);
+        choose(u"Bottom"_s, 2);
+        choose(u"Reference"_s, 1);
+        host.child<QDoubleSpinBox>(u"m_pwSbDefault"_s)->setValue(4.5);
+        auto *where = host.child<QLineEdit>(u"m_pwLeWhere"_s);
+        for (const char *wrong : {"a >", "a = 'y'"}) {
+            where->setText(QLatin1String(wrong));
+            const AnsweredBoxes boxes;
+            host.wizard.next();
+            QCOMPARE(boxes.seen.size(), 1);
+        }
+        where->setText(u" a = 'x' "_s);
+        host.wizard.next();
+        QCOMPARE(host.wizard.currentId(), 2);
+
+        const auto read = vlt::buildings::readBuildingsSource(host.parameters);
+
+        vlt::contract::BuildingHeights expected;
+        expected.unit = vlt::contract::HeightUnit::Levels;
+        expected.elseField = expected.baseField = "z";
+        expected.bottomField = "NB_ETAGES";
+        expected.defaultM = 4.5;
+        expected.reference = vlt::contract::HeightReference::Sea;
+        expected.base = vlt::contract::BaseRule::Field;
+        QVERIFY(read.heights == expected);
+        QCOMPARE(read.where, u"a = 'x'"_s);
     }
 
     void takesTheFilesOfTheProjectOnce()

@@ -146,3 +146,15 @@ bool FootprintPicker::locate()
         readExtent(m_widgets.layer->currentIndex());
     return m_extent.has_value();
 }
+
+std::optional<Error> FootprintPicker::wrongCondition(const QString &condition) const
+{
+    if (condition.isEmpty() || !m_source)
+        return std::nullopt;
+    const std::shared_ptr<geodata::PolygonSource> source = m_source;
+    const int index = m_widgets.layer->currentIndex();
+    const auto refused = wizard::waitForValue<std::optional<Error>>(
+        page(), tr("Reading the buildings...", "MESS_READING_BUILDINGS"),
+        [source, index, condition] { return source->conditionRefused(index, condition); });
+    return refused ? *refused : std::nullopt;
+}

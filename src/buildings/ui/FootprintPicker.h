@@ -41,6 +41,10 @@ public:
     /// Finds the extent of the layer unless it is known; false if the user stops it.
     bool locate();
 
+    /// The refusal of an SQL condition that is wrong or selects no feature of the layer; none for
+    /// an empty one and if the user stops the search.
+    std::optional<vlt::Error> wrongCondition(const QString &condition) const;
+
     /// The chosen layer; null if none is chosen.
     const vlt::geodata::PolygonLayer *layer() const;
 

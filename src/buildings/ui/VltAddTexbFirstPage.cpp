@@ -3,6 +3,7 @@
 #include "ui_AddTexbFirstPage.h"
 
 #include "buildings/BuildingsSource.h"
+#include "buildings/HeightGuess.h"
 #include "buildings/SourceSummary.h"
 #include "buildings/ui/FootprintPicker.h"
 #include "buildings/ui/RasterMessages.h"
@@ -100,8 +101,10 @@ void VltAddTexbFirstPage::connectWidgets()
             &VltAddTexbFirstPage::layerChanged);
     connect(m_ui->m_pwCbHeight, &QComboBox::currentIndexChanged, this,
             &VltAddTexbFirstPage::heightChanged);
-    connect(m_ui->m_pwCbHeight, &QComboBox::currentIndexChanged, this,
-            &VltAddTexbFirstPage::showSummaries);
+    connect(m_ui->m_pwHeights, &VltHeightPanel::changed, this, [this] {
+        showSummaries();
+        Q_EMIT completeChanged();
+    });
     for (const QRadioButton *radio : {m_ui->m_pwRbTextured, m_ui->m_pwRbColored})
         connect(radio, &QRadioButton::clicked, this, &VltAddTexbFirstPage::typeChanged);
 
@@ -206,6 +209,14 @@ buildings::BuildingsSource VltAddTexbFirstPage::chosenSource() const
     source.file = m_ui->m_pwLeBuildings->text();
     source.layer = m_ui->m_pwCbLayer->currentData().toString();
     source.heightField = m_ui->m_pwCbHeight->currentData().toString();
+    source.heights = m_ui->m_pwHeights->heights();
+    source.where = m_ui->m_pwHeights->where();
+    if (source.heightField.isEmpty()) { // the list has no 64-bit integers, the second one has
+        source.heightField = QString::fromStdString(source.heights.elseField);
+        source.heights.unit = source.heights.elseUnit;
+        source.heights.elseField.clear();
+        source.heights.elseUnit = {};
+    }
     source.terrainFile = m_ui->m_pwLeDtm->text();
     source.terrainNoData = m_ui->m_pwLeNoData->text();
     source.xCenter = extent.centerX();
@@ -245,7 +256,8 @@ bool VltAddTexbFirstPage::validatePage()
         return false;
     takeTyped(m_footprints);
     takeTyped(m_terrain);
-    if (!isComplete() || !accepts(m_terrain->wrongNoData()) || !isPlaced())
+    if (!isComplete() || !accepts(m_terrain->wrongNoData()) ||
+        !accepts(m_footprints->wrongCondition(m_ui->m_pwHeights->where())) || !isPlaced())
         return false;
     saveSettings();
     return true;
@@ -323,11 +335,48 @@ void VltAddTexbFirstPage::guessNoData()
 
 void VltAddTexbFirstPage::layerChanged(int index)
 {
+    if (index >= 0)
+        m_ui->m_pwHeights->offer(m_footprints->layer());
     m_footprints->chooseLayer(index);
 }
 
-void VltAddTexbFirstPage::heightChanged(int /*index*/) {}
+void VltAddTexbFirstPage::heightChanged(int /*index*/)
+{
+    m_ui->m_pwHeights->suggestUnit(m_ui->m_pwCbHeight->currentData().toString());
+    showSummaries();
+}
+
 void VltAddTexbFirstPage::typeChanged() {}
+
+bool VltAddTexbFirstPage::isComplete() const
+{
+    const contract::BuildingHeights heights = m_ui->m_pwHeights->heights();
+    if (heights.base == contract::BaseRule::Field && heights.baseField.empty())
+        return false;
+    return BasePage::isComplete() || (m_footprints->layer() && !m_ui->m_pwLeDtm->text().isEmpty() &&
+                                      !heights.elseField.empty());
+}
+
+/// What the user should know about the choice of the fields; empty for nothing.
+QString VltAddTexbFirstPage::heightHint() const
+{
+    const geodata::PolygonLayer *layer = m_footprints->layer();
+    if (layer == nullptr)
+        return {};
+    const contract::BuildingHeights heights = m_ui->m_pwHeights->heights();
+    if (heights.base == contract::BaseRule::Field && heights.baseField.empty())
+        return tr("Choose the field with the ground height.", "MESS_BASE_FIELD_MISSING");
+    const QString chosen = m_ui->m_pwCbHeight->currentData().toString();
+    const QString other = QString::fromStdString(heights.elseField);
+    const QString likelier = buildings::likelierHeightField(*layer, chosen);
+    if (chosen.isEmpty() ? !other.isEmpty() : !other.isEmpty() && other == likelier)
+        return {};
+    if (!likelier.isEmpty() && m_ui->m_pwCbHeight->findData(likelier) < 0)
+        return tr("The field \"%1\" probably has the heights: choose it at \"%2\".",
+                  "MESS_HEIGHT_LIKELY_ELSE")
+            .arg(likelier, dico_label("MESS_ELSE_FROM", "Else from"));
+    return buildings::heightHint(*layer, chosen);
+}
 
 void VltAddTexbFirstPage::showSummaries()
 {
@@ -336,9 +385,7 @@ void VltAddTexbFirstPage::showSummaries()
     const std::optional<geodata::RasterSummary> &terrain = m_terrain->summary();
     m_ui->m_pwLblBuildingsInfo->setText(layer ? buildings::layerSummary(*layer, extent)
                                               : QString());
-    const QString hint =
-        layer ? buildings::heightHint(*layer, m_ui->m_pwCbHeight->currentData().toString())
-              : QString();
+    const QString hint = heightHint();
     m_ui->m_pwLblHeightInfo->setText(hint);
     m_ui->m_pwLblHeightInfo->setVisible(!hint.isEmpty());
     m_ui->m_pwLblDtmInfo->setText(terrain ? buildings::terrainSummary(*terrain, layer, extent)

@@ -40,6 +40,9 @@ public:
     bool validatePage() override;
     int nextId() const override;
 
+    /// Also without a height field if a second one is chosen.
+    bool isComplete() const override;
+
     void saveSettings() override;
     void restoreSettings() override;
 
@@ -49,7 +52,8 @@ public:
 public Q_SLOTS:
     void openBuildings();
 
-    /// Has no effect, like typeChanged(): field and kind are read when the user leaves the page.
+    /// Shows what the name of the field suggests. The field is read when the user leaves the page,
+    /// like the kind, so that typeChanged() has no effect.
     void heightChanged(int index);
 
     /// Adds the fields of a layer to the list of fields and finds its extent.
@@ -75,6 +79,7 @@ private:
     /// Shows a warning if there is a refusal; true if there is none.
     bool accepts(const std::optional<vlt::Error> &refusal);
     bool isPlaced();
+    QString heightHint() const;
     vlt::buildings::BuildingsSource chosenSource() const;
     void showSummaries();
     QString pick(const QString &title, const QString &files);

@@ -75,5 +75,137 @@
         <source>no feature meets this condition</source>
         <translation>no feature meets this condition</translation>
     </message>
+    <message id="MESS_HEIGHT_UNIT">
+        <source>Unit</source>
+        <translation>Unit</translation>
+    </message>
+    <message id="MESS_UNIT_METRES">
+        <source>metres</source>
+        <translation>metres</translation>
+    </message>
+    <message id="MESS_UNIT_FEET">
+        <source>feet</source>
+        <translation>feet</translation>
+    </message>
+    <message id="MESS_UNIT_LEVELS">
+        <source>levels</source>
+        <translation>levels</translation>
+    </message>
+    <message id="MESS_TIP_HEIGHT_UNIT">
+        <source>Unit of the numbers in the field of heights; a unit in a text goes first</source>
+        <translation>Unit of the numbers in the field of heights; a unit in a text goes first</translation>
+    </message>
+    <message id="MESS_TIP_HEIGHT_FACTOR">
+        <source>Factor of the numbers in the field of heights</source>
+        <translation>Factor of the numbers in the field of heights</translation>
+    </message>
+    <message id="MESS_LEVEL_HEIGHT">
+        <source>Level</source>
+        <translation>Level</translation>
+    </message>
+    <message id="MESS_TIP_LEVEL_HEIGHT">
+        <source>Height of a level, for heights that are numbers of levels</source>
+        <translation>Height of a level, for heights that are numbers of levels</translation>
+    </message>
+    <message id="MESS_ELSE_FROM">
+        <source>Else from</source>
+        <translation>Else from</translation>
+    </message>
+    <message id="MESS_TIP_ELSE_FROM">
+        <source>Field with the height of buildings that have none in the height field</source>
+        <translation>Field with the height of buildings that have none in the height field</translation>
+    </message>
+    <message id="MESS_TIP_ELSE_UNIT">
+        <source>Unit of the numbers in the second field</source>
+        <translation>Unit of the numbers in the second field</translation>
+    </message>
+    <message id="MESS_WITHOUT_HEIGHT">
+        <source>Without height</source>
+        <translation>Without height</translation>
+    </message>
+    <message id="MESS_TIP_WITHOUT_HEIGHT">
+        <source>Height of buildings that have none in a field; without it they are left out</source>
+        <translation>Height of buildings that have none in a field; without it they are left out</translation>
+    </message>
+    <message id="MESS_LEAVE_OUT">
+        <source>leave out</source>
+        <translation>leave out</translation>
+    </message>
+    <message id="MESS_VALUES_ABOVE">
+        <source>Values above</source>
+        <translation>Values above</translation>
+    </message>
+    <message id="MESS_TIP_VALUES_ABOVE">
+        <source>Level from which the heights are measured</source>
+        <translation>Level from which the heights are measured</translation>
+    </message>
+    <message id="MESS_ABOVE_GROUND">
+        <source>ground</source>
+        <translation>ground</translation>
+    </message>
+    <message id="MESS_ABOVE_SEA">
+        <source>sea</source>
+        <translation>sea</translation>
+    </message>
+    <message id="MESS_BASE">
+        <source>Base</source>
+        <translation>Base</translation>
+    </message>
+    <message id="MESS_TIP_BASE">
+        <source>Ground height of a building: from the terrain under its vertices, from a field, or 0</source>
+        <translation>Ground height of a building: from the terrain under its vertices, from a field, or 0</translation>
+    </message>
+    <message id="MESS_BASE_MEAN">
+        <source>mean</source>
+        <translation>mean</translation>
+    </message>
+    <message id="MESS_BASE_MINIMUM">
+        <source>minimum</source>
+        <translation>minimum</translation>
+    </message>
+    <message id="MESS_BASE_MAXIMUM">
+        <source>maximum</source>
+        <translation>maximum</translation>
+    </message>
+    <message id="MESS_BASE_FIELD">
+        <source>field</source>
+        <translation>field</translation>
+    </message>
+    <message id="MESS_BASE_ZERO">
+        <source>0</source>
+        <translation>0</translation>
+    </message>
+    <message id="MESS_TIP_BASE_FIELD">
+        <source>Field with the ground height in metres above sea level</source>
+        <translation>Field with the ground height in metres above sea level</translation>
+    </message>
+    <message id="MESS_UNDERSIDE">
+        <source>Underside</source>
+        <translation>Underside</translation>
+    </message>
+    <message id="MESS_TIP_UNDERSIDE">
+        <source>Field with the height of the underside above the ground, in metres</source>
+        <translation>Field with the height of the underside above the ground, in metres</translation>
+    </message>
+    <message id="MESS_ONLY">
+        <source>Only</source>
+        <translation>Only</translation>
+    </message>
+    <message id="MESS_TIP_ONLY">
+        <source>SQL condition for the features that are buildings; empty for all</source>
+        <translation>SQL condition for the features that are buildings; empty for all</translation>
+    </message>
+    <message id="MESS_NO_FIELD">
+        <source>none</source>
+        <translation>none</translation>
+    </message>
+    <message id="MESS_HEIGHT_LIKELY_ELSE">
+        <source>The field "%1" probably has the heights: choose it at "%2".</source>
+        <translation>The field "%1" probably has the heights: choose it at "%2".</translation>
+    </message>
+    <message id="MESS_BASE_FIELD_MISSING">
+        <source>Choose the field with the ground height.</source>
+        <translation>Choose the field with the ground height.</translation>
+    </message>
 </context>
 </TS>

@@ -75,5 +75,137 @@
         <source>no feature meets this condition</source>
         <translation>aucune entité ne remplit cette condition</translation>
     </message>
+    <message id="MESS_HEIGHT_UNIT">
+        <source>Unit</source>
+        <translation>Unité</translation>
+    </message>
+    <message id="MESS_UNIT_METRES">
+        <source>metres</source>
+        <translation>mètres</translation>
+    </message>
+    <message id="MESS_UNIT_FEET">
+        <source>feet</source>
+        <translation>pieds</translation>
+    </message>
+    <message id="MESS_UNIT_LEVELS">
+        <source>levels</source>
+        <translation>niveaux</translation>
+    </message>
+    <message id="MESS_TIP_HEIGHT_UNIT">
+        <source>Unit of the numbers in the field of heights; a unit in a text goes first</source>
+        <translation>Unité des nombres du champ des hauteurs&#xa0;; l'unité écrite dans un texte l'emporte</translation>
+    </message>
+    <message id="MESS_TIP_HEIGHT_FACTOR">
+        <source>Factor of the numbers in the field of heights</source>
+        <translation>Facteur des nombres du champ des hauteurs</translation>
+    </message>
+    <message id="MESS_LEVEL_HEIGHT">
+        <source>Level</source>
+        <translation>Niveau</translation>
+    </message>
+    <message id="MESS_TIP_LEVEL_HEIGHT">
+        <source>Height of a level, for heights that are numbers of levels</source>
+        <translation>Hauteur d'un niveau, pour les hauteurs données en nombre de niveaux</translation>
+    </message>
+    <message id="MESS_ELSE_FROM">
+        <source>Else from</source>
+        <translation>Sinon de</translation>
+    </message>
+    <message id="MESS_TIP_ELSE_FROM">
+        <source>Field with the height of buildings that have none in the height field</source>
+        <translation>Champ de la hauteur des bâtiments qui n'en ont pas dans le champ des hauteurs</translation>
+    </message>
+    <message id="MESS_TIP_ELSE_UNIT">
+        <source>Unit of the numbers in the second field</source>
+        <translation>Unité des nombres du deuxième champ</translation>
+    </message>
+    <message id="MESS_WITHOUT_HEIGHT">
+        <source>Without height</source>
+        <translation>Sans hauteur</translation>
+    </message>
+    <message id="MESS_TIP_WITHOUT_HEIGHT">
+        <source>Height of buildings that have none in a field; without it they are left out</source>
+        <translation>Hauteur des bâtiments dont aucun champ n'indique la hauteur&#xa0;; sans elle, ils sont écartés</translation>
+    </message>
+    <message id="MESS_LEAVE_OUT">
+        <source>leave out</source>
+        <translation>écarter</translation>
+    </message>
+    <message id="MESS_VALUES_ABOVE">
+        <source>Values above</source>
+        <translation>Valeurs depuis</translation>
+    </message>
+    <message id="MESS_TIP_VALUES_ABOVE">
+        <source>Level from which the heights are measured</source>
+        <translation>Niveau à partir duquel les hauteurs sont mesurées</translation>
+    </message>
+    <message id="MESS_ABOVE_GROUND">
+        <source>ground</source>
+        <translation>le sol</translation>
+    </message>
+    <message id="MESS_ABOVE_SEA">
+        <source>sea</source>
+        <translation>la mer</translation>
+    </message>
+    <message id="MESS_BASE">
+        <source>Base</source>
+        <translation>Pied</translation>
+    </message>
+    <message id="MESS_TIP_BASE">
+        <source>Ground height of a building: from the terrain under its vertices, from a field, or 0</source>
+        <translation>Altitude du pied d'un bâtiment&#xa0;: du terrain sous ses sommets, d'un champ, ou 0</translation>
+    </message>
+    <message id="MESS_BASE_MEAN">
+        <source>mean</source>
+        <translation>moyenne</translation>
+    </message>
+    <message id="MESS_BASE_MINIMUM">
+        <source>minimum</source>
+        <translation>minimum</translation>
+    </message>
+    <message id="MESS_BASE_MAXIMUM">
+        <source>maximum</source>
+        <translation>maximum</translation>
+    </message>
+    <message id="MESS_BASE_FIELD">
+        <source>field</source>
+        <translation>champ</translation>
+    </message>
+    <message id="MESS_BASE_ZERO">
+        <source>0</source>
+        <translation>0</translation>
+    </message>
+    <message id="MESS_TIP_BASE_FIELD">
+        <source>Field with the ground height in metres above sea level</source>
+        <translation>Champ de l'altitude du sol en mètres</translation>
+    </message>
+    <message id="MESS_UNDERSIDE">
+        <source>Underside</source>
+        <translation>Sous-face</translation>
+    </message>
+    <message id="MESS_TIP_UNDERSIDE">
+        <source>Field with the height of the underside above the ground, in metres</source>
+        <translation>Champ de la hauteur de la sous-face au-dessus du sol, en mètres</translation>
+    </message>
+    <message id="MESS_ONLY">
+        <source>Only</source>
+        <translation>Seulement</translation>
+    </message>
+    <message id="MESS_TIP_ONLY">
+        <source>SQL condition for the features that are buildings; empty for all</source>
+        <translation>Condition SQL des entités qui sont des bâtiments&#xa0;; vide pour toutes</translation>
+    </message>
+    <message id="MESS_NO_FIELD">
+        <source>none</source>
+        <translation>aucun</translation>
+    </message>
+    <message id="MESS_HEIGHT_LIKELY_ELSE">
+        <source>The field "%1" probably has the heights: choose it at "%2".</source>
+        <translation>Le champ «&#xa0;%1&#xa0;» contient probablement les hauteurs&#xa0;: choisissez-le à «&#xa0;%2&#xa0;».</translation>
+    </message>
+    <message id="MESS_BASE_FIELD_MISSING">
+        <source>Choose the field with the ground height.</source>
+        <translation>Choisissez le champ de l'altitude du sol.</translation>
+    </message>
 </context>
 </TS>
