@@ -89,8 +89,10 @@ void useNorthX(const TableProfile &table, const Vocabulary &vocabulary, PointFie
     if (point.pair >= 0 || !point.found() || point.x.inParts() ||
         !holdsWord(table, point.x.value, "x") || !holdsWord(table, point.y.value, "y"))
         return;
-    const auto positions = sampledPositions(table, point);
     const auto named = namedIn(textsOf(table, point), vocabulary.systems());
+    if (named.empty())
+        return;
+    const auto positions = sampledPositions(table, point);
     for (const NamedSystem &system : vocabulary.systems()) {
         const bool isNamed = std::any_of(named.begin(), named.end(), [&system](const auto &of) {
             return of.second == system.epsg;
