@@ -45,13 +45,11 @@ QList<Line> columnLines(const QList<tables::ColumnDescription> &columns)
     return lines;
 }
 
-/// The columns by role, each with the evidence for it.
-QString rolesText(const tables::TableFileInfo &file)
+/// Columns by role, each with the evidence for it.
+QString roleLines(const QList<geodata::ColumnRole> &roles)
 {
-    if (file.roles.isEmpty())
-        return {};
     QList<Line> lines;
-    for (const geodata::ColumnRole &role : file.roles) {
+    for (const geodata::ColumnRole &role : roles) {
         const QString evidence = language::readerText(role.evidence);
         const bool isNamed = evidence.contains(role.column);
         lines.append(
@@ -59,8 +57,19 @@ QString rolesText(const tables::TableFileInfo &file)
              {isNamed ? evidence
                       : dico_label("MESS_FILE_REASON", "%1: %2").arg(role.column, evidence)}});
     }
-    return language::readerText(file.shape) + QLatin1Char('\n') + aligned(lines) +
-           QLatin1Char('\n');
+    return aligned(lines) + QLatin1Char('\n');
+}
+
+/// The columns of the table, and of the one that completes it.
+QString rolesText(const tables::TableFileInfo &file)
+{
+    if (file.roles.isEmpty())
+        return {};
+    const QString own =
+        language::readerText(file.shape) + QLatin1Char('\n') + roleLines(file.roles);
+    return file.second.table.isEmpty() ? own
+                                       : own + tables::secondTitle(file.second) +
+                                             QLatin1Char('\n') + roleLines(file.second.roles);
 }
 
 QJsonArray rolesJson(const QList<geodata::ColumnRole> &roles)
@@ -211,6 +220,10 @@ QJsonObject reportJson(const InfoReport &report)
     if (!file.roles.isEmpty()) {
         object.insert(QStringLiteral("shape"), language::readerText(file.shape));
         object.insert(QStringLiteral("roles"), rolesJson(file.roles));
+    }
+    if (!file.second.table.isEmpty()) {
+        object.insert(QStringLiteral("secondTable"), file.second.table);
+        object.insert(QStringLiteral("secondRoles"), rolesJson(file.second.roles));
     }
     if (!report.mapping.isEmpty())
         object.insert(QStringLiteral("mapping"), report.mapping);

@@ -46,6 +46,9 @@ inline constexpr char RolesDomain[] = "roles";
 inline constexpr char ShapeItem[] = "SHAPE";
 inline constexpr char RolePrefix[] = "ROLE_";
 inline constexpr char RoleSeparator = '|';
+// The same of the table that completes it, with its name: that of the sheet or file.
+inline constexpr char SecondNameItem[] = "SECOND_NAME";
+inline constexpr char SecondRolePrefix[] = "SECOND_ROLE_";
 inline constexpr char MappingItem[] = "MAPPING"; ///< path of the mapping file in use; else absent
 
 /// The domain with the text of a mapping file that states all that is recognised and all that the

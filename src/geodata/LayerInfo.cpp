@@ -52,6 +52,7 @@ Result<LayerInfo> readLayerInfo(const QString &connection, int layerIndex)
         info.metadata = defaultMetadata(*layer);
         info.shape = shapeIn(*layer);
         info.roles = rolesIn(*layer);
+        info.second = secondIn(*layer);
     }
     return info;
 }

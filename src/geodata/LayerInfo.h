@@ -17,6 +17,13 @@ struct ColumnRole
     QString evidence; ///< why, in English
 };
 
+/// The columns of a table that completes another one.
+struct SecondColumns
+{
+    QString table; ///< name of the sheet or file; empty if there is none
+    QList<ColumnRole> roles;
+};
+
 /// Properties of a layer, without its features.
 struct LayerInfo
 {
@@ -27,6 +34,7 @@ struct LayerInfo
     QMap<QString, QString> metadata; ///< default domain; keys in lower case
     QString shape;           ///< of the table, in English; empty if the driver does not say it
     QList<ColumnRole> roles; ///< of the columns that have one
+    SecondColumns second;    ///< of the table that completes it
 };
 
 /// Opens a table connection and reads the layer of index `layerIndex` (from 0). A dataset without

@@ -7,7 +7,10 @@ namespace vlt::geodata {
 
 namespace metadata = contract::metadata;
 
-QList<ColumnRole> rolesIn(GDALMajorObject &object)
+namespace {
+
+/// @param prefix  of the items of these columns
+QList<ColumnRole> columnsIn(GDALMajorObject &object, const char *prefix)
 {
     const QLatin1Char bar(metadata::RoleSeparator);
     QList<ColumnRole> roles;
@@ -15,17 +18,35 @@ QList<ColumnRole> rolesIn(GDALMajorObject &object)
     for (int i = 0; list && list[i]; ++i) {
         const QString item = platform::decodeText(list[i]);
         const QString value = item.section(QLatin1Char('='), 1);
-        if (item.startsWith(QLatin1String(metadata::RolePrefix)))
+        if (item.startsWith(QLatin1String(prefix)))
             roles.append({value.section(bar, 0, 0), value.section(bar, 1, 1),
                           value.section(bar, 2, 2), value.section(bar, 3)});
     }
     return roles;
 }
 
+QString itemIn(GDALMajorObject &object, const char *name)
+{
+    const char *value = object.GetMetadataItem(name, metadata::RolesDomain);
+    return value ? platform::decodeText(value) : QString();
+}
+
+} // namespace
+
+QList<ColumnRole> rolesIn(GDALMajorObject &object)
+{
+    return columnsIn(object, metadata::RolePrefix);
+}
+
+SecondColumns secondIn(GDALMajorObject &object)
+{
+    return {itemIn(object, metadata::SecondNameItem),
+            columnsIn(object, metadata::SecondRolePrefix)};
+}
+
 QString shapeIn(GDALMajorObject &object)
 {
-    const char *shape = object.GetMetadataItem(metadata::ShapeItem, metadata::RolesDomain);
-    return shape ? platform::decodeText(shape) : QString();
+    return itemIn(object, metadata::ShapeItem);
 }
 
 } // namespace vlt::geodata

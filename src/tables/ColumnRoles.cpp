@@ -130,6 +130,21 @@ QString roleText(const geodata::ColumnRole &role)
     return role.sector.isEmpty() ? text : text + QLatin1Char(' ') + role.sector;
 }
 
+QString secondTitle(const geodata::SecondColumns &second)
+{
+    return dico_label("MESS_ROLE_SECOND", "Columns of the table \"%1\"").arg(second.table);
+}
+
+QString secondText(const geodata::SecondColumns &second)
+{
+    if (second.table.isEmpty())
+        return {};
+    QStringList columns;
+    for (const geodata::ColumnRole &role : second.roles)
+        columns << role.column + QStringLiteral(" (") + roleText(role) + QLatin1Char(')');
+    return secondTitle(second) + QStringLiteral(" : ") + columns.join(QStringLiteral(", "));
+}
+
 bool isOfTransmitter(const QString &role)
 {
     return findRole(role, [](Use use) { return use == Use::Transmitters; });

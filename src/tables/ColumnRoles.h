@@ -19,6 +19,12 @@ QString roleName(const QString &role);
 /// The role of a column in the chosen language, with the number of its transmitter: "Azimuth 2".
 QString roleText(const geodata::ColumnRole &role);
 
+/// The title of the columns of a table that completes another one.
+QString secondTitle(const geodata::SecondColumns &second);
+
+/// These columns with their roles in a line; empty if there is no such table.
+QString secondText(const geodata::SecondColumns &second);
+
 /// Whether a table may have a column of this role for each transmitter of a site.
 bool isOfTransmitter(const QString &role);
 

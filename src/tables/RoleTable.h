@@ -18,6 +18,7 @@ struct UnderstoodTable
     QList<geodata::ColumnRole> roles;
     geodata::TableExcerpt excerpt;
     contract::ColumnMapping mapping;
+    geodata::SecondColumns second = {};
 };
 
 /// A column that has a role; without a name if one is missing in a list of columns.

@@ -120,6 +120,7 @@ Result<TableFile> readTableFile(const TableFileType &type, const QString &path,
     info.encoding = layer.metadata.value(QLatin1String(metadata::Encoding));
     info.shape = layer.shape;
     info.roles = layer.roles;
+    info.second = layer.second;
     info.description = describeTableFile(info.format, info.unit);
     const KnownSystems known = knownSystems(info, project);
     for (const QString &system : {known.projectEpsg, known.terrainEpsg}) {

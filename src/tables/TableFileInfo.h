@@ -37,6 +37,7 @@ struct TableFileInfo
     QString encoding;          ///< of a text file; empty for others
     QString shape;             ///< of the table, in English, for language::readerText()
     QList<geodata::ColumnRole> roles;
+    geodata::SecondColumns second;                  ///< of the table that completes this one
     qint64 rowCount = 0;                            ///< sites or links
     geodata::SystemPair systems;                    ///< suggested systems for the choosers
     AssumedFrom assumedFrom = AssumedFrom::Nothing; ///< reason of systems.source

@@ -65,7 +65,7 @@ std::optional<EndSites> readEndSites(const SecondTable &sites)
     if (!layout.point.found() || (layout.roles.siteId < 0 && layout.roles.siteName < 0))
         return std::nullopt;
     auto directory = std::make_shared<SiteDirectory>(layout.unit);
-    EndSites found = {directory, layout, {}};
+    EndSites found = {directory, layout, sites.rolesOf(layout.roles.columns), {}};
     while (rows.advance()) {
         EndSiteRow &row = rows.row();
         directory->add(row.id, row.name, row.position);

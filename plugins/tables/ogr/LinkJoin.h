@@ -23,6 +23,7 @@ struct EndSites
 {
     std::shared_ptr<const SiteDirectory> directory;
     TableDeclaration declaration; ///< of the table of sites
+    SecondRoles roles;            ///< of that table
     ProblemList problems;         ///< of that table
 };
 

@@ -1,6 +1,5 @@
 #include "plugins/tables/ogr/MetadataItems.h"
 
-#include "contract/TableMetadata.h"
 #include "plugins/tables/roles/Vocabulary.h"
 #include "plugins/tables/sites/SystemNames.h"
 
@@ -82,13 +81,24 @@ CPLStringList systemItems(const TableFacts &facts)
 }
 
 void addRoleItem(CPLStringList &items, std::string_view role, const std::string &sector,
-                 const std::string &column, const std::string &evidence)
+                 const std::string &column, const std::string &evidence, const char *prefix)
 {
     std::string value;
     for (const std::string &part : {std::string(role), sector, column})
         value += part + metadata::RoleSeparator;
-    items.SetNameValue((metadata::RolePrefix + std::to_string(items.Count())).c_str(),
+    items.SetNameValue((prefix + std::to_string(items.Count())).c_str(),
                        (value + evidence).c_str());
+}
+
+void addSecondRoles(CPLStringList &items, const SecondRoles &second)
+{
+    CPLStringList own; // so that its numbers start with 1
+    own.SetNameValue(metadata::SecondNameItem, second.table.c_str());
+    for (const SecondRole &role : second.columns)
+        addRoleItem(own, roleName(role.role), role.sector, role.column, role.evidence,
+                    metadata::SecondRolePrefix);
+    for (int i = 0; i < own.Count(); ++i)
+        items.AddString(own[i]);
 }
 
 } // namespace vlt::driver

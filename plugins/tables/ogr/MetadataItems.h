@@ -1,5 +1,6 @@
 #pragma once
 
+#include "contract/TableMetadata.h"
 #include "plugins/tables/doctor/Finding.h"
 #include "plugins/tables/ogr/ProblemList.h"
 #include "plugins/tables/ogr/TableFile.h"
@@ -25,7 +26,11 @@ CPLStringList systemItems(const TableFacts &facts);
 /// Adds a column to the items of the roles, behind the shape of the table.
 ///
 /// @param sector  number of the transmitter; empty for none
+/// @param prefix  of the name of the item
 void addRoleItem(CPLStringList &items, std::string_view role, const std::string &sector,
-                 const std::string &column, const std::string &evidence);
+                 const std::string &column, const std::string &evidence,
+                 const char *prefix = contract::metadata::RolePrefix);
+/// Adds the columns of the table that completes another one.
+void addSecondRoles(CPLStringList &items, const SecondRoles &second);
 
 } // namespace vlt::driver

@@ -50,6 +50,24 @@ bool findColumns(const TableProfile &table, DataRows &rows, bool byName, JoinCol
     return columns.choose(byName);
 }
 
+/// Lets the column that joins the tables, and no other one, have the role of an id or name.
+///
+/// @param evidence  gives the evidence of a column without a role
+template<typename Evidence>
+void nameSites(std::vector<ColumnRole> &columns, int field, Role role, Evidence evidence)
+{
+    std::erase_if(columns, [&](const ColumnRole &column) {
+        return column.role == role && column.field != field;
+    });
+    const auto own =
+        std::find_if(columns.begin(), columns.end(),
+                     [field](const ColumnRole &column) { return column.field == field; });
+    if (own != columns.end())
+        own->role = role;
+    else
+        columns.push_back({field, role, -1, evidence()});
+}
+
 /// Gives the transmitters of the second table to their sites. False if no row names one of them.
 bool addTransmitters(SectorRows &rows, const SecondTable &sectors, SiteIndex &index,
                      ProblemList &problems)
@@ -131,11 +149,20 @@ std::optional<JoinedSites> joinSectors(const TableProfile &table, SiteLayout &la
     JoinColumns columns(table, layout.roles, sectors.profile(), roles);
     if (roles.transmitters.empty() || !findColumns(table, *siteRows(), byName, columns))
         return std::nullopt;
-    if (columns.siteField() != layout.roles.siteName)
+    const bool joinsNames = columns.siteField() == layout.roles.siteName;
+    if (!joinsNames)
         layout.roles.siteId = columns.siteField();
+    nameSites(layout.roles.columns, columns.siteField(), joinsNames ? Role::SiteName : Role::SiteId,
+              [&] { return columns.siteEvidence(); });
+    nameSites(roles.columns, columns.sectorField(),
+              columns.sectorField() == roles.siteName ? Role::SiteName : Role::SiteId,
+              [&] { return columns.sectorEvidence(); });
     const Sites sites = readSites(table, layout, *siteRows(), columns.siteField());
-    JoinedSites joined = {
-        sites.index, {columns.siteField(), columns.sectorField()}, roles.transmitters, {}};
+    JoinedSites joined = {sites.index,
+                          {columns.siteField(), columns.sectorField()},
+                          roles.transmitters,
+                          sectors.rolesOf(roles.columns),
+                          {}};
     for (const RowProblem &problem : roles.problems)
         joined.problems.add(sectors.located(problem));
     SectorRows rows(sectors, columns.sectorField(), sites.byKey);

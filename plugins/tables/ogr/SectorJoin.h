@@ -28,6 +28,7 @@ struct JoinedSites
     std::shared_ptr<const SiteIndex> index;
     JoinFields fields;
     std::vector<TransmitterFields> transmitters; ///< columns of the table of transmitters
+    SecondRoles roles;                           ///< of the table of transmitters
     ProblemList problems;                        ///< of the table of transmitters
 };
 

@@ -276,6 +276,7 @@ void TableFile::readLinks(TableFacts &facts, const TableProfile &profile, const 
     if (named) {
         facts.layout = *named;
         facts.endSites = sites->directory;
+        facts.secondRoles = std::move(sites->roles);
         facts.joinProblems = std::move(sites->problems);
     } else if (m_secondFile && !isComplete)
         refuseSecond("MESS_TAB_NO_END_SITES");
@@ -350,6 +351,7 @@ bool TableFile::joinTransmitters(TableFacts &facts)
     layout.roles.shape = SiteShape::Joined;
     facts.siteIndex = joined->index;
     layout.maxTransmitters = facts.siteIndex->transmitterRange().second;
+    facts.secondRoles = std::move(joined->roles);
     facts.joinProblems = std::move(joined->problems);
     facts.joinFields = joined->fields;
     layout.offered = offeredFields(facts.table, layout.roles, layout.point, layout.unit,

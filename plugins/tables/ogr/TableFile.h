@@ -46,8 +46,9 @@ struct TableFacts
     std::shared_ptr<const SiteIndex> siteIndex;
     /// The sites at the ends of links that only name them; else null.
     std::shared_ptr<const SiteDirectory> endSites = {};
-    ProblemList joinProblems = {}; ///< of the other table
-    JoinFields joinFields = {};    ///< if the transmitters stand in another table
+    ProblemList joinProblems = {};               ///< of the other table
+    JoinFields joinFields = {};                  ///< if the transmitters stand in another table
+    std::optional<SecondRoles> secondRoles = {}; ///< of the other table
     std::vector<RowProblem> mappingProblems = {};
 
     const SiteLayout &sites() const { return std::get<SiteLayout>(layout); }

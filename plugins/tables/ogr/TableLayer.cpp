@@ -425,6 +425,8 @@ std::optional<char **> TableLayer::ownMetadata(const char *domain)
         return std::nullopt;
     if (!m_rolesItems) {
         m_rolesItems = rolesMetadata();
+        if (m_rolesItems->Count() > 0 && facts().secondRoles)
+            addSecondRoles(*m_rolesItems, *facts().secondRoles);
         const std::string &mapping = m_source.file->options().mapping.path;
         if (!mapping.empty() && m_rolesItems->Count() > 0)
             m_rolesItems->SetNameValue(metadata::MappingItem, mapping.c_str());

@@ -1,6 +1,9 @@
 #include "plugins/tables/sites/SectorTable.h"
 
+#include "contract/TableTexts.h"
+#include "plugins/tables/roles/ColumnFacts.h"
 #include "plugins/tables/roles/NameWords.h"
+#include "plugins/tables/roles/RoleEvidence.h"
 #include "plugins/tables/sites/JoinKey.h"
 #include "plugins/tables/sites/PositionReader.h"
 #include "plugins/tables/sites/SiteLayout.h"
@@ -78,6 +81,22 @@ void JoinColumns::add(const std::vector<const Cell *> &cells)
         if (std::string key = joinKey(fieldText(cells, column.field)); !key.empty())
             column.keys.insert(std::move(key));
     }
+}
+
+std::string JoinColumns::siteEvidence() const
+{
+    const auto column = std::find_if(m_columns.begin(), m_columns.end(),
+                                     [this](const Column &of) { return of.field == m_siteField; });
+    return contract::formatted("MESS_TAB_EVIDENCE_TEXTS",
+                               {m_sites->nameInHeader(m_siteField), std::to_string(m_rowCount),
+                                std::to_string(column->keys.size())});
+}
+
+std::string JoinColumns::sectorEvidence() const
+{
+    const auto field = static_cast<std::size_t>(m_sectorField);
+    return roleEvidence(m_sectors->nameInHeader(m_sectorField), Role::SiteId,
+                        factsOf(m_sectors->sampledColumns[field], installedVocabulary().words));
 }
 
 /// Whether the names of two columns say that both hold the ids of sites.

@@ -31,6 +31,9 @@ public:
     int siteField() const { return m_siteField; }
     /// The field of the table of transmitters with the id or name of the site.
     int sectorField() const { return m_sectorField; }
+    /// Why these fields have ids or names of sites, as texts for the user.
+    std::string siteEvidence() const;
+    std::string sectorEvidence() const;
 
 private:
     /// A column of the table of sites.

@@ -1,6 +1,7 @@
 #include "tables/ui/VltMappingPanel.h"
 
 #include "language/ReaderText.h"
+#include "tables/ColumnRoles.h"
 #include "tables/ExcerptModel.h"
 #include "tables/RoleModel.h"
 #include "tables/ui/CopyRows.h"
@@ -188,7 +189,9 @@ void VltMappingPanel::showTable(const vlt::tables::UnderstoodTable &table, const
         if (nameOf(entry) == currentName)
             view->setCurrentIndex(entry);
     }
-    const QString shape = vlt::language::readerText(table.shape);
+    QString shape = vlt::language::readerText(table.shape);
+    if (const QString second = vlt::tables::secondText(table.second); !second.isEmpty())
+        shape += QLatin1Char('\n') + second;
     m_ui->m_pwLblShape->setText(shape);
     m_ui->m_pwLblShape->setVisible(!shape.isEmpty());
     fitColumns(view, RoleModel::Role, RoleModel::Name, MaxNameCharacters);

@@ -330,8 +330,10 @@ void VltTablePage::showSystems()
 void VltTablePage::showMapping()
 {
     const vlt::tables::MappingFile mapping = vlt::tables::findMapping(m_pathRead);
-    m_details->mapping()->showTable({m_configuration.kind, file() ? file()->shape : QString(),
-                                     m_overview.roles, m_overview.excerpt, mapping.mapping},
+    const vlt::tables::TableFileInfo *read = file();
+    m_details->mapping()->showTable({m_configuration.kind, read ? read->shape : QString(),
+                                     m_overview.roles, m_overview.excerpt, mapping.mapping,
+                                     read ? read->second : vlt::geodata::SecondColumns()},
                                     mapping);
     showCures();
 }

@@ -1019,5 +1019,9 @@
         <source>"%1" is read as northing and "%2" as easting, as in EPSG:%3: the positions could also be read the other way round</source>
         <translation>"%1" is read as northing and "%2" as easting, as in EPSG:%3: the positions could also be read the other way round</translation>
     </message>
+    <message id="MESS_ROLE_SECOND">
+        <source>Columns of the table "%1"</source>
+        <translation>Columns of the table "%1"</translation>
+    </message>
 </context>
 </TS>

@@ -1019,5 +1019,9 @@
         <source>"%1" is read as northing and "%2" as easting, as in EPSG:%3: the positions could also be read the other way round</source>
         <translation>«&#xa0;%1&#xa0;» est lu comme l'ordonnée (nord) et «&#xa0;%2&#xa0;» comme l'abscisse (est), comme dans EPSG:%3&#xa0;: les positions pourraient aussi se lire dans l'autre sens</translation>
     </message>
+    <message id="MESS_ROLE_SECOND">
+        <source>Columns of the table "%1"</source>
+        <translation>Colonnes du tableau «&#xa0;%1&#xa0;»</translation>
+    </message>
 </context>
 </TS>
