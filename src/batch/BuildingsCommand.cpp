@@ -5,6 +5,8 @@
 #include "batch/Console.h"
 #include "batch/Help.h"
 #include "batch/OutputFiles.h"
+#include "batch/ProgressLine.h"
+#include "buildings/CountedBuildings.h"
 #include "language/VltLanguageManager.h"
 
 #include <QFileInfo>
@@ -60,6 +62,33 @@ Result<BuildingLayerFiles> writeFiles(const BuildingsRequest &request,
                                                             inputs.coloring, access);
 }
 
+/// Counts what would be drawn. Nothing to draw is an error.
+Result<buildings::CountedBuildings> countDrawn(const BuildingsRequest &request,
+                                               const BuildingsInputs &inputs, bool quiet)
+{
+    ProgressLine line(dico_label("MESS_CLI_COUNTING_BUILDINGS", "Counting the buildings"), !quiet);
+    Result<buildings::CountedBuildings> counted = buildings::countBuildings(
+        request.texturing ? buildings::texturedDocument(inputs.layer, inputs.texturing)
+                          : buildings::coloredDocument(inputs.layer, inputs.coloring),
+        line.progress());
+    if (counted && counted.value().counts.drawn == 0)
+        return Error::asIs(dico_label("MESS_CLI_NO_BUILDING", "no building can be drawn: %1")
+                               .arg(counted.value().notices.join(QStringLiteral("; "))),
+                           inputs.layer.source.file);
+    return counted;
+}
+
+template<typename Counts, std::size_t N>
+QJsonObject countsJson(const Counts &counts, const contract::NamedCount<Counts> (&names)[N])
+{
+    QJsonObject object;
+    for (const contract::NamedCount<Counts> &name : names) {
+        if (const std::size_t count = counts.*name.count; count > 0)
+            object.insert(QLatin1String(name.key), static_cast<qint64>(count));
+    }
+    return object;
+}
+
 void warnOfImages(const BuildingsInputs &inputs)
 {
     if (!inputs.texturing.textures) {
@@ -80,31 +109,35 @@ void warnOfImages(const BuildingsInputs &inputs)
 }
 
 QString layerJson(const BuildingsRequest &request, const BuildingsInputs &inputs,
-                  const BuildingLayerFiles &files)
+                  const BuildingLayerFiles &files, const buildings::CountedBuildings &counted)
 {
     const buildings::BuildingsSource &source = inputs.layer.source;
+    const contract::CityCounts &counts = counted.counts;
     const auto textOrNull = [](const QString &text) {
         return text.isEmpty() ? QJsonValue(QJsonValue::Null) : QJsonValue(text);
     };
     const TexbSubtype subtype =
         request.texturing ? buildings::subtypeOf(inputs.texturing.mode) : TexbSubtype::Colored;
-    QJsonObject object{{QStringLiteral("layer"), QFileInfo(files.layer).absoluteFilePath()},
-                       {QStringLiteral("document"), files.document},
-                       {QStringLiteral("legend"), textOrNull(files.legend)},
-                       {QStringLiteral("subtype"), buildings::subtypeName(subtype)},
-                       {QStringLiteral("vector"), source.file},
-                       {QStringLiteral("vectorLayer"), source.layer},
-                       {QStringLiteral("heightField"), source.heightField},
-                       {QStringLiteral("buildings"), inputs.buildingCount < 0
-                                                         ? QJsonValue(QJsonValue::Null)
-                                                         : QJsonValue(inputs.buildingCount)},
-                       {QStringLiteral("terrain"), source.terrainFile},
-                       {QStringLiteral("terrainNoData"), textOrNull(source.terrainNoData)},
-                       {QStringLiteral("image"), textOrNull(inputs.coloring.rasterFile)},
-                       {QStringLiteral("colormap"), textOrNull(inputs.coloring.colorMap)},
-                       {QStringLiteral("xCenter"), source.xCenter},
-                       {QStringLiteral("yCenter"), source.yCenter},
-                       {QStringLiteral("warnings"), QJsonArray::fromStringList(inputs.warnings)}};
+    QJsonObject object{
+        {QStringLiteral("layer"), QFileInfo(files.layer).absoluteFilePath()},
+        {QStringLiteral("document"), files.document},
+        {QStringLiteral("legend"), textOrNull(files.legend)},
+        {QStringLiteral("subtype"), buildings::subtypeName(subtype)},
+        {QStringLiteral("vector"), source.file},
+        {QStringLiteral("vectorLayer"), source.layer},
+        {QStringLiteral("heightField"), source.heightField},
+        {QStringLiteral("features"), static_cast<qint64>(counts.features)},
+        {QStringLiteral("buildings"), static_cast<qint64>(counts.drawn)},
+        {QStringLiteral("leftOut"), countsJson(counts.leftOut, contract::LeftOutCounts)},
+        {QStringLiteral("substitutes"), countsJson(counts.substitutes, contract::SubstituteCounts)},
+        {QStringLiteral("terrain"), source.terrainFile},
+        {QStringLiteral("terrainNoData"), textOrNull(source.terrainNoData)},
+        {QStringLiteral("image"), textOrNull(inputs.coloring.rasterFile)},
+        {QStringLiteral("colormap"), textOrNull(inputs.coloring.colorMap)},
+        {QStringLiteral("xCenter"), source.xCenter},
+        {QStringLiteral("yCenter"), source.yCenter},
+        {QStringLiteral("warnings"),
+         QJsonArray::fromStringList(inputs.warnings + counted.notices)}};
     if (request.texturing)
         object.insert(QStringLiteral("textures"), inputs.texturing.images.size());
     return QString::fromUtf8(QJsonDocument(object).toJson());
@@ -121,16 +154,21 @@ ExitStatus runParsed(const BuildingsRequest &request, const GlobalOptions &optio
         if (isOneOf(output, inputs.value().files))
             return refuse(outputIsInput(output));
     }
+    const Result<buildings::CountedBuildings> counted =
+        countDrawn(request, inputs.value(), options.quiet);
+    if (!counted)
+        return refuse(counted.error());
     const Result<BuildingLayerFiles> written = writeFiles(request, inputs.value());
     if (!written)
         return refuse(written.error());
     if (!options.quiet) {
-        for (const QString &warning : inputs.value().warnings)
+        for (const QString &warning : inputs.value().warnings + counted.value().notices)
             printError(warning);
     }
     if (request.texturing && !options.quiet)
         warnOfImages(inputs.value());
-    if (options.json && !printOut(layerJson(request, inputs.value(), written.value())))
+    if (options.json &&
+        !printOut(layerJson(request, inputs.value(), written.value(), counted.value())))
         return refuse({QStringLiteral("MESS_CLI_OUTPUT_FAILED"),
                        QStringLiteral("the output cannot be written"),
                        {}});

@@ -56,11 +56,10 @@ Result<QString> chosenField(const geodata::PolygonLayer &layer, const QString &w
     return guess;
 }
 
-/// File, layer, field and extent of the buildings, and their number.
+/// File, layer, field and extent of the buildings.
 struct Footprints
 {
     BuildingsSource source;
-    qint64 count = -1;    ///< -1 if the format would have to read all features to count them
     QStringList warnings; ///< about the choice of the height field and the units
 };
 
@@ -99,7 +98,6 @@ Result<Footprints> readVector(const BuildingsRequest &request, const QString &pa
     source.where = request.heights.where;
     source.xCenter = extent.centerX();
     source.yCenter = extent.centerY();
-    footprints.count = source.where.isEmpty() ? layer.featureCount : -1;
     return footprints;
 }
 
@@ -165,7 +163,6 @@ Result<BuildingsInputs> readFiles(const BuildingsRequest &request, const Surroun
     inputs.layer.source.project = project;
     inputs.layer.footprints = request.footprints;
     inputs.layer.installDir = surroundings.installDir;
-    inputs.buildingCount = footprints.value().count;
     inputs.warnings = footprints.value().warnings;
     if (!terrain.value().warning.isEmpty())
         inputs.warnings << terrain.value().warning;

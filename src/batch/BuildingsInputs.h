@@ -11,9 +11,8 @@ struct BuildingsInputs
     buildings::BuildingLayerInput layer;
     buildings::RasterColoring coloring;       ///< without a raster if none is requested
     buildings::TexturingParameters texturing; ///< of the request, with images if it has textures
-    qint64 buildingCount = -1; ///< -1 if the format would have to read all features to count them
-    QStringList warnings;      ///< about the height field, its unit and the terrain
-    QStringList files;         ///< all files that are read and so must not be written
+    QStringList warnings;                     ///< about the height field, its unit and the terrain
+    QStringList files; ///< all files that are read and so must not be written
 };
 
 /// Opens the files of the request and the project, and chooses the values that the request leaves

@@ -206,21 +206,16 @@ QStringList possibleFilesOf(const QString &layerPath, const BuildingLayerInput &
     return paths;
 }
 
-Result<BuildingLayerFiles> writeColoredLayer(const QString &layerPath,
-                                             const BuildingLayerInput &input,
-                                             const RasterColoring &walls, platform::Access access)
+contract::BuildingDocument coloredDocument(const BuildingLayerInput &input,
+                                           const RasterColoring &walls)
 {
     contract::BuildingDocument document = documentOf(input);
     document.footprints.wallColor = imageColor(walls).toStdString();
-    return FilesWriter(layerPath, input, access)
-        .write(writeColoredTexbDocument(document), TexbSubtype::Colored,
-               [](const QString &legend) { return legend; });
+    return document;
 }
 
-Result<BuildingLayerFiles> writeTexturedLayer(const QString &layerPath,
-                                              const BuildingLayerInput &input,
-                                              const TexturingParameters &texturing,
-                                              platform::Access access)
+contract::BuildingDocument texturedDocument(const BuildingLayerInput &input,
+                                            const TexturingParameters &texturing)
 {
     contract::BuildingDocument document = documentOf(input);
     document.cache = texturing.cache;
@@ -232,9 +227,26 @@ Result<BuildingLayerFiles> writeTexturedLayer(const QString &layerPath,
         document.textures->mode = texturing.mode;
         document.textures->images = usedImages(texturing.images);
     }
+    return document;
+}
+
+Result<BuildingLayerFiles> writeColoredLayer(const QString &layerPath,
+                                             const BuildingLayerInput &input,
+                                             const RasterColoring &walls, platform::Access access)
+{
+    return FilesWriter(layerPath, input, access)
+        .write(writeColoredTexbDocument(coloredDocument(input, walls)), TexbSubtype::Colored,
+               [](const QString &legend) { return legend; });
+}
+
+Result<BuildingLayerFiles> writeTexturedLayer(const QString &layerPath,
+                                              const BuildingLayerInput &input,
+                                              const TexturingParameters &texturing,
+                                              platform::Access access)
+{
     const QString images = texturedInfoText(texturing.mode, texturing.images);
     return FilesWriter(layerPath, input, access)
-        .write(writeTexbDocument(document), subtypeOf(texturing.mode),
+        .write(writeTexbDocument(texturedDocument(input, texturing)), subtypeOf(texturing.mode),
                [&images](const QString &legend) { return QString(images + legend); });
 }
 

@@ -44,6 +44,10 @@ BuildingLayerFiles filesOf(const QString &layerPath, const BuildingLayerInput &i
 /// All files that may be written for such a layer.
 QStringList possibleFilesOf(const QString &layerPath, const BuildingLayerInput &input);
 
+/// The document of a layer with colours from a raster.
+contract::BuildingDocument coloredDocument(const BuildingLayerInput &input,
+                                           const RasterColoring &walls);
+
 /// Writes a layer of buildings with colours from a raster: document, legend, layer, in this order.
 /// After a failure the files have their former content.
 ///
@@ -66,7 +70,11 @@ struct TexturingParameters
     QList<FileEntry> images;                            ///< only those in use are written
 };
 
-/// The same for the full document.
+/// The full document.
+contract::BuildingDocument texturedDocument(const BuildingLayerInput &input,
+                                            const TexturingParameters &texturing);
+
+/// Writes a layer with the full document.
 Result<BuildingLayerFiles> writeTexturedLayer(const QString &layerPath,
                                               const BuildingLayerInput &input,
                                               const TexturingParameters &texturing,

@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Two houses of 10 m and one without height, between 2 and 2.004 degrees east, 45 and 45.001
+/// Houses of 10 m, 10.5 m and 12 m, between 2 and 2.004 degrees east, 45 and 45.001
 /// north.
 const QByteArray Houses =
     R"({"type":"FeatureCollection","name":"houses","features":[
@@ -19,7 +19,7 @@ const QByteArray Houses =
 "coordinates":[[[2,45],[2.001,45],[2.001,45.001],[2,45.001],[2,45]]]}},
 {"type":"Feature","properties":{"id":2,"USE":"home","height":10.5},"geometry":{"type":"Polygon",
 "coordinates":[[[2.003,45],[2.004,45],[2.004,45.001],[2.003,45.001],[2.003,45]]]}},
-{"type":"Feature","properties":{"id":3,"USE":"barn","height":null},"geometry":{"type":"Polygon",
+{"type":"Feature","properties":{"id":3,"USE":"barn","height":12},"geometry":{"type":"Polygon",
 "coordinates":[[[2.002,45],[2.0025,45],[2.0025,45.001],[2.002,45]]]}}]})";
 
 /// One house with other properties.
@@ -144,6 +144,33 @@ private Q_SLOTS:
         QCOMPARE(legend, folder + u"first_gradient.png"_s);
         QVERIFY(element(layer, "description").contains(legend.toUtf8()));
         QVERIFY(QImage(legend).height() > 200);
+    }
+
+    void countsWhatIsDrawn()
+    {
+        const QString start = u"buildings ../other.geojson --dtm ../dem.asc -o o.lay --json "
+                              "--height-field height --image ../level.asc"_s;
+        writeFile(path(u"other.geojson"_s), QByteArray(Houses).replace("12}", "null}"));
+        const Run some = this->start(start);
+        const Run substituted = this->start(start + u" --default-height 6"_s);
+        writeFile(path(u"other.geojson"_s), house(R"({"height":0})"));
+        QVERIFY(QFile::remove(path(u"elsewhere/o.lay"_s)));
+        const Run none = this->start(start);
+
+        const QByteArray notice =
+            "1 of 3 buildings are left out: no height in the field \"height\"";
+        QCOMPARE(some.errors, "vltlayers: " + notice + "\n");
+        const QJsonObject reported = QJsonDocument::fromJson(some.output).object();
+        QCOMPARE(reported.value(u"features"_s).toInt(), 3);
+        QCOMPARE(reported.value(u"buildings"_s).toInt(), 2);
+        QCOMPARE(reported.value(u"leftOut"_s).toObject(), (QJsonObject{{u"missingHeight"_s, 1}}));
+        QCOMPARE(reported.value(u"warnings"_s).toArray(), QJsonArray{QString::fromUtf8(notice)});
+        const QJsonObject other = QJsonDocument::fromJson(substituted.output).object();
+        QCOMPARE(other.value(u"buildings"_s).toInt(), 3);
+        QCOMPARE(other.value(u"substitutes"_s).toObject(), (QJsonObject{{u"defaultHeight"_s, 1}}));
+        QCOMPARE(none.status, 1);
+        QVERIFY2(none.errors.contains("no building can be drawn: 1 of 1"), none.errors.constData());
+        QVERIFY(!QFile::exists(path(u"elsewhere/o.lay"_s)));
     }
 
     void warnsOfImages_data()

@@ -207,5 +207,13 @@
         <source>Choose the field with the ground height.</source>
         <translation>Choose the field with the ground height.</translation>
     </message>
+    <message id="MESS_CLI_COUNTING_BUILDINGS">
+        <source>Counting the buildings</source>
+        <translation>Counting the buildings</translation>
+    </message>
+    <message id="MESS_CLI_NO_BUILDING">
+        <source>no building can be drawn: %1</source>
+        <translation>no building can be drawn: %1</translation>
+    </message>
 </context>
 </TS>

@@ -207,5 +207,13 @@
         <source>Choose the field with the ground height.</source>
         <translation>Choisissez le champ de l'altitude du sol.</translation>
     </message>
+    <message id="MESS_CLI_COUNTING_BUILDINGS">
+        <source>Counting the buildings</source>
+        <translation>Comptage des bâtiments</translation>
+    </message>
+    <message id="MESS_CLI_NO_BUILDING">
+        <source>no building can be drawn: %1</source>
+        <translation>aucun bâtiment ne peut être dessiné&#xa0;: %1</translation>
+    </message>
 </context>
 </TS>
