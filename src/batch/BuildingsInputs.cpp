@@ -39,13 +39,16 @@ Result<int> chosenLayer(const QList<geodata::PolygonLayer> &layers, const QStrin
     return static_cast<int>(index);
 }
 
-/// The requested field, else the one that the source page of the wizard selects.
+/// The requested field, else the one that the source page of the wizard selects or, where it
+/// selects none, names.
 Result<QString> chosenField(const geodata::PolygonLayer &layer, const QString &wanted,
                             const QString &path)
 {
     if (!wanted.isEmpty())
         return findHeightField(layer, wanted, path);
-    const QString guess = buildings::preselectedHeightField(layer);
+    QString guess = buildings::preselectedHeightField(layer);
+    if (guess.isEmpty())
+        guess = buildings::likelierHeightField(layer, {});
     if (guess.isEmpty())
         return Error::asIs(
             dico_label("MESS_CLI_NO_HEIGHT_FIELD",
@@ -77,7 +80,7 @@ Result<Footprints> readVector(const BuildingsRequest &request, const QString &pa
     if (!field)
         return field.error();
     Footprints footprints;
-    if (const QString hint = buildings::heightHint(layer, field.value());
+    if (const QString hint = buildings::heightHint(layer, buildings::preselectedHeightField(layer));
         request.heightField.isEmpty() && !hint.isEmpty())
         footprints.warnings << hint;
     const Result<contract::BuildingHeights> heights =

@@ -55,7 +55,8 @@ private Q_SLOTS:
         writeFile(path(u"own.txt"_s), "-120 green\n-60 white\n");
         writeFile(path(u"broken.txt"_s), "-120 pink\n");
         writeFile(path(u"houses.geojson"_s), Houses);
-        writeFile(path(u"beyond.geojson"_s), house(R"({"osm_id":123456789012,"H":10})"));
+        writeFile(path(u"beyond.geojson"_s), house(R"({"osm_id":123456789012,"width":10})"));
+        writeFile(path(u"behind.geojson"_s), house(R"({"osm_id":123456789012,"H":10})"));
         writeFile(path(u"beside.geojson"_s),
                   house(R"({"osm_id":123456789012,"height":10,"levels":3})"));
         writeFile(path(u"dem.asc"_s), Grid);
@@ -213,6 +214,10 @@ private Q_SLOTS:
         QCOMPARE(reported.value(u"heightField"_s).toString(), u"levels"_s);
         QCOMPARE(reported.value(u"warnings"_s).toArray(), (QJsonArray{field, unit}));
         QCOMPARE(chosen.errors, line);
+        const Run named = this->start(
+            u"buildings ../behind.geojson --dtm ../dem.asc -o o.lay --image ../level.asc"_s);
+        QCOMPARE(named.errors, "vltlayers: The field \"H\" probably has the heights.\n");
+        QCOMPARE(named.status, 0);
     }
 
     void refusesAndWritesNothing_data()
@@ -229,7 +234,7 @@ private Q_SLOTS:
             "\"AGL\"; the fields are: id, USE, height");
         row("../beyond.geojson --dtm ../dem.asc", 1,
             "../beyond.geojson: no field with the heights was found: give its name with "
-            "--height-field; the fields are: osm_id, H");
+            "--height-field; the fields are: osm_id, width");
         row("% --image ../level.asc --else-field AGL", 1, "there is no field of heights \"AGL\"");
         row("% --where id>", 1, "id>: this condition cannot be used (");
         row("% --where id>9", 1, "id>9: no feature meets this condition");
