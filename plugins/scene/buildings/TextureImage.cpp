@@ -147,6 +147,7 @@ void TextureImage::toPixels(std::vector<osg::Vec2d> &positions)
 {
     const std::lock_guard lock(m_mutex);
     std::vector<contract::Place> places;
+    places.reserve(positions.size());
     for (const osg::Vec2d &position : positions)
         places.push_back({position.x(), position.y()});
     m_transform.apply(places);

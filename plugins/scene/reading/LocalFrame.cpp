@@ -9,6 +9,7 @@ namespace {
 std::vector<contract::Place> placesOf(const std::vector<osg::Vec2d> &positions)
 {
     std::vector<contract::Place> places;
+    places.reserve(positions.size());
     for (const osg::Vec2d &position : positions)
         places.push_back({position.x(), position.y()});
     return places;

@@ -53,14 +53,13 @@ findingItems(const std::vector<Finding> &findings,
         const Finding &finding = findings[i];
         const std::string number = std::to_string(i + 1);
         const std::string cure = corrections[i].empty() ? finding.cure : namesOf(corrections[i]);
-        const std::string value =
-            metadata::FindingPrefix + number + '=' + std::string(findingWord(finding.kind)) +
-            metadata::FindingSeparator + cure + metadata::FindingSeparator + finding.text;
-        items.AddString(value.c_str());
+        std::string value(findingWord(finding.kind));
+        for (const std::string &part : {cure, finding.text})
+            value.append(1, metadata::FindingSeparator).append(part);
+        items.SetNameValue((metadata::FindingPrefix + number).c_str(), value.c_str());
         if (!corrections[i].empty())
-            items.AddString((metadata::CorrectionPrefix + number + '=' +
-                             contract::writeCorrections(corrections[i]))
-                                .c_str());
+            items.SetNameValue((metadata::CorrectionPrefix + number).c_str(),
+                               contract::writeCorrections(corrections[i]).c_str());
     }
     return items;
 }
