@@ -58,6 +58,17 @@ BuildingDocument document(const char *file, const char *heightField)
     return document(file, heightField, [](BuildingFootprints &, BuildingHeights &) {});
 }
 
+void addShapes(const Cases<BuildingDocument, QString, QString> &row)
+{
+    row("shapes", document("shapes.geojson", "HEIGHT"),
+        u"8: 5 drawn, 3 noShape, 5 zeroGround, 1 coincident"_s, u"6 6 6 6 6"_s);
+    row("parts of a feature count once", document("parts.geojson", "HEIGHT"),
+        u"3: 3 drawn, 3 zeroGround"_s, u"10 10 5 7 7"_s);
+    row("not on the earth", document("far.geojson", "HEIGHT"),
+        u"10: 9 drawn, 1 noPosition, 9 zeroGround"_s, u"9 9 9 9 9 9 9 9 9"_s);
+    row("curves", document("curves.csv", "HEIGHT"), u"2: 2 drawn, 2 zeroGround"_s, u"12 0.5"_s);
+}
+
 } // namespace
 
 class tst_CityInputs : public QObject
@@ -176,13 +187,7 @@ private Q_SLOTS:
                      }),
             u"6: 3 drawn, 1 missingHeight, 2 belowGround, 1 terrainBase, 1 lowestGround"_s,
             u"12.5 7.5 20"_s);
-        row("shapes", document("shapes.geojson", "HEIGHT"),
-            u"8: 5 drawn, 3 noShape, 5 zeroGround, 1 coincident"_s, u"6 6 6 6 6"_s);
-        row("parts of a feature count once", document("parts.geojson", "HEIGHT"),
-            u"3: 3 drawn, 3 zeroGround"_s, u"10 10 5 7 7"_s);
-        row("not on the earth", document("far.geojson", "HEIGHT"),
-            u"10: 9 drawn, 1 noPosition, 9 zeroGround"_s, u"9 9 9 9 9 9 9 9 9"_s);
-        row("curves", document("curves.csv", "HEIGHT"), u"2: 2 drawn, 2 zeroGround"_s, u"12 0.5"_s);
+        addShapes(row);
     }
 
     void countsBuildings()
