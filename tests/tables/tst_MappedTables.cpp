@@ -72,39 +72,7 @@ private Q_SLOTS:
             "a1@2,48|b2@3,49");
         row("swapped", "Site,Lon,Lat\nS,48,2\n", R"(}, "axes": "swapped", "headerRows": [1)",
             "S@2,48");
-        const auto corrections = [](const QByteArray &list) {
-            return "}, \"corrections\": [" + list + "], \"headerRows\": [1";
-        };
-        const QByteArray swapsThird =
-            R"({"cure": "swap", "rows": [{"row": 3, "x": "49", "y": "3"}]})";
-        row("a row exchanged", "Site,Lon,Lat\nS,2,48\nT,49,3\n", corrections(swapsThird),
-            "S@2,48|T@3,49");
-        row("a row that was corrected in the table", "Site,Lon,Lat\nS,2,48\nT,3,49\n",
-            corrections(swapsThird), "S@2,48|T@3,49");
-        row("another row", "Site,Lon,Lat\nS,2,48\nU,49,3\nT,49,3\n", corrections(swapsThird),
-            "S@2,48|U@3,49|T@49,3");
-        row("a row of a site exchanged", "Site,Lon,Lat,Azimuth\nS,3,49,10\nS,49,3,20\n",
-            corrections(swapsThird), "S@3,49 10/ 20/");
-        row("axes and a row exchanged", "Site,Lon,Lat\nS,48,2\nT,3,49\n",
-            QByteArray("}, \"axes\": \"swapped\"") + corrections(swapsThird).mid(1),
-            "S@2,48|T@3,49");
-        row("a latitude beyond the pole", "Site,Lon,Lat\nS,-45,110\n",
-            corrections(R"({"cure": "swap", "rows": [{"row": 2, "x": "-45", "y": "110"}]})"),
-            "S@110,-45");
-        row("signs and decimal marks", "Site,Lon,Lat\nS,12.3,-4.58\n",
-            corrections(R"({"cure": "scaleX", "factor": 0.1},
-                           {"cure": "scaleY", "factor": 10, "rows":
-                            [{"row": 2, "x": "12.3", "y": "-4.58"}]},
-                           {"cure": "negateX"}, {"cure": "negate"})"),
-            "S@1.23,45.8");
-        row("a pair exchanged", "Site,P\nS,\"2.5, 48.5\"\n",
-            corrections(R"({"cure": "swap", "rows": [{"row": 2, "x": "2.5, 48.5"}]})"),
-            "S@2.5,48.5");
-        row("a hemisphere in parts", "Site,Lat,LatH,Lon D,Lon M,Lon H\nS,48,N,2,30,E\n",
-            R"("x": ["Lon D", "Lon M", null, "Lon H"], "y": ["Lat", null, null, "LatH"])" +
-                corrections(R"({"cure": "negateX", "rows":
-                                [{"row": 2, "x": "2 30 E", "y": "48 N"}]})"),
-            "S@-2.5,48");
+        addCorrections(row);
     }
     void followsWhatIsStated()
     {
@@ -266,7 +234,7 @@ private Q_SLOTS:
                           placeText(geometry->toPoint()->getX(), geometry->toPoint()->getY()));
         }
 
-        for (const QJsonValue &site : expected) {
+        for (const auto &site : expected) {
             QCOMPARE(places.value(site[u"id"_s].toString()),
                      placeText(site[u"x"_s].toDouble(), site[u"y"_s].toDouble()));
         }
@@ -287,6 +255,43 @@ private Q_SLOTS:
     }
 
 private:
+    static void addCorrections(const Cases<QByteArray, QByteArray, QString, QString> &row)
+    {
+        const auto corrections = [](const QByteArray &list) {
+            return "}, \"corrections\": [" + list + "], \"headerRows\": [1";
+        };
+        const QByteArray swapsThird =
+            R"({"cure": "swap", "rows": [{"row": 3, "x": "49", "y": "3"}]})";
+        row("a row exchanged", "Site,Lon,Lat\nS,2,48\nT,49,3\n", corrections(swapsThird),
+            "S@2,48|T@3,49");
+        row("a row that was corrected in the table", "Site,Lon,Lat\nS,2,48\nT,3,49\n",
+            corrections(swapsThird), "S@2,48|T@3,49");
+        row("another row", "Site,Lon,Lat\nS,2,48\nU,49,3\nT,49,3\n", corrections(swapsThird),
+            "S@2,48|U@3,49|T@49,3");
+        row("a row of a site exchanged", "Site,Lon,Lat,Azimuth\nS,3,49,10\nS,49,3,20\n",
+            corrections(swapsThird), "S@3,49 10/ 20/");
+        row("axes and a row exchanged", "Site,Lon,Lat\nS,48,2\nT,3,49\n",
+            QByteArray("}, \"axes\": \"swapped\"") + corrections(swapsThird).mid(1),
+            "S@2,48|T@3,49");
+        row("a latitude beyond the pole", "Site,Lon,Lat\nS,-45,110\n",
+            corrections(R"({"cure": "swap", "rows": [{"row": 2, "x": "-45", "y": "110"}]})"),
+            "S@110,-45");
+        row("signs and decimal marks", "Site,Lon,Lat\nS,12.3,-4.58\n",
+            corrections(R"({"cure": "scaleX", "factor": 0.1},
+                           {"cure": "scaleY", "factor": 10, "rows":
+                            [{"row": 2, "x": "12.3", "y": "-4.58"}]},
+                           {"cure": "negateX"}, {"cure": "negate"})"),
+            "S@1.23,45.8");
+        row("a pair exchanged", "Site,P\nS,\"2.5, 48.5\"\n",
+            corrections(R"({"cure": "swap", "rows": [{"row": 2, "x": "2.5, 48.5"}]})"),
+            "S@2.5,48.5");
+        row("a hemisphere in parts", "Site,Lat,LatH,Lon D,Lon M,Lon H\nS,48,N,2,30,E\n",
+            R"("x": ["Lon D", "Lon M", null, "Lon H"], "y": ["Lat", null, null, "LatH"])" +
+                corrections(R"({"cure": "negateX", "rows":
+                                [{"row": 2, "x": "2 30 E", "y": "48 N"}]})"),
+            "S@-2.5,48");
+    }
+
     static QString placeText(double x, double y)
     {
         return QString::number(x, 'f', 6) + u' ' + QString::number(y, 'f', 6);
