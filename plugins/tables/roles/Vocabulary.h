@@ -90,8 +90,6 @@ struct SequencePlace
 {
     std::size_t sequence = 0;
     int number = 0; ///< from 1
-
-    bool operator==(const SequencePlace &) const = default;
 };
 
 /// Words that values of cells may be, whatever their case and accents.
