@@ -147,12 +147,15 @@ bool PositionReader::useZone(int64_t row, const std::vector<const Cell *> &cells
         problems.push_back(problem(row, field, text, "MESS_TAB_NO_ZONE"));
         return false;
     }
-    if (!isInUtmRange(position.x, position.y)) {
+    const auto degrees = isInUtmRange(position.x, position.y)
+                             ? degreesOfUtm(*grid, position.x, position.y)
+                             : std::nullopt;
+    if (!degrees) {
         problems.push_back(problem(row, m_fields.xField(), fieldText(cells, m_fields.xField()),
                                    "MESS_TAB_NOT_UTM"));
         return false;
     }
-    std::tie(position.x, position.y) = degreesOfUtm(*grid, position.x, position.y);
+    std::tie(position.x, position.y) = *degrees;
     return true;
 }
 

@@ -6,10 +6,7 @@
 #include "plugins/tables/roles/Vocabulary.h"
 
 #include <algorithm>
-#include <array>
 #include <charconv>
-#include <cmath>
-#include <numbers>
 #include <string>
 
 namespace vlt::driver {
@@ -18,8 +15,6 @@ namespace {
 
 constexpr int MaxZone = 60;
 constexpr std::size_t MaxSize = 80; ///< bytes; longer texts are no positions
-constexpr double FalseEastingM = 500'000;
-constexpr double FalseNorthingOfSouthM = 10'000'000;
 
 bool isDigit(char c)
 {
@@ -190,46 +185,9 @@ bool isInUtmRange(double eastingM, double northingM)
 {
     constexpr double MinEastingM = 100'000;
     constexpr double MaxEastingM = 900'000;
+    constexpr double MaxNorthingM = 10'000'000;
     return eastingM >= MinEastingM && eastingM <= MaxEastingM && northingM >= 0 &&
-           northingM <= FalseNorthingOfSouthM;
-}
-
-// The series of Krueger in the third flattening n, to its fourth power.
-std::pair<double, double> degreesOfUtm(const UtmGrid &grid, double eastingM, double northingM)
-{
-    constexpr double SemiMajorM = 6'378'137;
-    constexpr double Flattening = 1 / 298.257223563;
-    constexpr double Scale = 0.9996;
-    constexpr double N = Flattening / (2 - Flattening);
-    constexpr double N2 = N * N;
-    constexpr double N3 = N2 * N;
-    constexpr double N4 = N3 * N;
-    constexpr double RadiusM = SemiMajorM / (1 + N) * (1 + N2 / 4 + N4 / 64);
-    constexpr std::array Beta = {N / 2 - N2 * 2 / 3 + N3 * 37 / 96 - N4 / 360,
-                                 N2 / 48 + N3 / 15 - N4 * 437 / 1440, N3 * 17 / 480 - N4 * 37 / 840,
-                                 N4 * 4397 / 161280};
-    constexpr std::array Delta = {N * 2 - N2 * 2 / 3 - N3 * 2 + N4 * 116 / 45,
-                                  N2 * 7 / 3 - N3 * 8 / 5 - N4 * 227 / 45,
-                                  N3 * 56 / 15 - N4 * 136 / 35, N4 * 4279 / 630};
-    constexpr double DegreesPerRadian = 180 / std::numbers::pi;
-    constexpr int DegreesOfZone = 6;
-    constexpr int MeridianOfZone0 = -183; ///< degrees
-    const double xi = (northingM - (grid.isSouth ? FalseNorthingOfSouthM : 0)) / (Scale * RadiusM);
-    const double eta = (eastingM - FalseEastingM) / (Scale * RadiusM);
-    double xiOnSphere = xi;
-    double etaOnSphere = eta;
-    for (std::size_t i = 0; i < Beta.size(); ++i) {
-        const double order = 2.0 * static_cast<double>(i + 1);
-        xiOnSphere -= Beta[i] * std::sin(order * xi) * std::cosh(order * eta);
-        etaOnSphere -= Beta[i] * std::cos(order * xi) * std::sinh(order * eta);
-    }
-    const double conformal = std::asin(std::sin(xiOnSphere) / std::cosh(etaOnSphere));
-    double latitude = conformal;
-    for (std::size_t i = 0; i < Delta.size(); ++i)
-        latitude += Delta[i] * std::sin(2.0 * static_cast<double>(i + 1) * conformal);
-    const double fromMeridian = std::atan2(std::sinh(etaOnSphere), std::cos(xiOnSphere));
-    return {MeridianOfZone0 + DegreesOfZone * grid.number + fromMeridian * DegreesPerRadian,
-            latitude * DegreesPerRadian};
+           northingM <= MaxNorthingM;
 }
 
 } // namespace vlt::driver

@@ -66,8 +66,9 @@ private:
 /// Whether coordinates can be those of a position in a zone.
 bool isInUtmRange(double eastingM, double northingM);
 
-/// Longitude and latitude of a position on the ellipsoid of WGS 84, in degrees; exact to a
-/// millimetre.
-std::pair<double, double> degreesOfUtm(const UtmGrid &grid, double eastingM, double northingM);
+/// Longitude and latitude on WGS 84, in degrees, by the transformation of PROJ. Nothing if it is
+/// not possible.
+std::optional<std::pair<double, double>> degreesOfUtm(const UtmGrid &grid, double eastingM,
+                                                      double northingM);
 
 } // namespace vlt::driver
