@@ -5,6 +5,7 @@
 #include "platform/LayerFile.h"
 #include "platform/Settings.h"
 #include "tables/SystemObstacle.h"
+#include "tables/ui/TabOrder.h"
 #include "tables/ui/VltCures.h"
 #include "tables/ui/VltMappingPanel.h"
 #include "tables/ui/VltSrsSettings.h"
@@ -23,46 +24,6 @@
 namespace {
 
 const QString LastUsedDirKey = QStringLiteral("LastUsedDir");
-
-/// The parts of a widget that share its focus, such as the line edits of spin boxes and combos and
-/// the viewports of tables. Shift+Tab reaches the widget through them, so they must follow it in
-/// the focus order.
-QWidgetList partsThatStandFor(const QWidget &stop)
-{
-    QWidgetList parts;
-    for (QWidget *part : stop.findChildren<QWidget *>()) {
-        const QWidget *proxy = part->focusProxy();
-        while (proxy && proxy->focusProxy())
-            proxy = proxy->focusProxy();
-        if (proxy == &stop)
-            parts << part;
-    }
-    return parts;
-}
-
-/// Puts the widgets in this focus order. The toolkit moves a widget together with all widgets
-/// between it and a part that shares its focus, which may be anywhere, and leaves out widgets that
-/// take no focus. Therefore the proxies are removed, and all widgets take focus, while the order is
-/// set.
-void putInOrder(const QWidgetList &widgets)
-{
-    QWidgetList proxies;
-    QList<Qt::FocusPolicy> policies;
-    for (QWidget *widget : widgets) {
-        proxies << widget->focusProxy();
-        widget->setFocusProxy(nullptr);
-    }
-    for (QWidget *widget : widgets) {
-        policies << widget->focusPolicy();
-        widget->setFocusPolicy(Qt::StrongFocus);
-    }
-    for (int i = 1; i < widgets.size(); ++i)
-        QWidget::setTabOrder(widgets[i - 1], widgets[i]);
-    for (int i = 0; i < widgets.size(); ++i)
-        widgets[i]->setFocusPolicy(policies[i]);
-    for (int i = 0; i < widgets.size(); ++i)
-        widgets[i]->setFocusProxy(proxies[i]);
-}
 
 } // namespace
 
