@@ -186,7 +186,7 @@ QList<QCommandLineOption> buildingsOptions()
         {QStringLiteral("height-field"),
          dico_label("MESS_OPT_HEIGHT_FIELD",
                     "Field with the heights of the buildings (default: AGL, H, HEIGHT or "
-                    "COLOR, else the second one)."),
+                    "COLOR, else the second one, else the likeliest by its name)."),
          QStringLiteral("NAME")},
         {QStringLiteral("check-clockwise"),
          dico_label("MESS_OPT_CHECK_CLOCKWISE", "Check the directions of the outlines.")},

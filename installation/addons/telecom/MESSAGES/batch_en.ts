@@ -160,8 +160,8 @@
         <translation>Layer of the vector file (default: the first one of polygons).</translation>
     </message>
     <message id="MESS_OPT_HEIGHT_FIELD">
-        <source>Field with the heights of the buildings (default: AGL, H, HEIGHT or COLOR, else the second one).</source>
-        <translation>Field with the heights of the buildings (default: AGL, H, HEIGHT or COLOR, else the second one).</translation>
+        <source>Field with the heights of the buildings (default: AGL, H, HEIGHT or COLOR, else the second one, else the likeliest by its name).</source>
+        <translation>Field with the heights of the buildings (default: AGL, H, HEIGHT or COLOR, else the second one, else the likeliest by its name).</translation>
     </message>
     <message id="MESS_OPT_CHECK_CLOCKWISE">
         <source>Check the directions of the outlines.</source>

@@ -160,8 +160,8 @@
         <translation>Couche du fichier vectoriel (par défaut&#xa0;: la première de polygones).</translation>
     </message>
     <message id="MESS_OPT_HEIGHT_FIELD">
-        <source>Field with the heights of the buildings (default: AGL, H, HEIGHT or COLOR, else the second one).</source>
-        <translation>Champ des hauteurs des bâtiments (par défaut&#xa0;: AGL, H, HEIGHT ou COLOR, sinon le deuxième).</translation>
+        <source>Field with the heights of the buildings (default: AGL, H, HEIGHT or COLOR, else the second one, else the likeliest by its name).</source>
+        <translation>Champ des hauteurs des bâtiments (par défaut&#xa0;: AGL, H, HEIGHT ou COLOR, sinon le deuxième, sinon le plus vraisemblable par son nom).</translation>
     </message>
     <message id="MESS_OPT_CHECK_CLOCKWISE">
         <source>Check the directions of the outlines.</source>
