@@ -107,8 +107,10 @@ struct Everything : osg::NodeVisitor
     {
         const osg::Vec3d before = place;
         place += transform.getMatrix().getTrans();
-        if (!transform.getName().empty())
+        if (!transform.getName().empty()) {
             feet[transform.getName()] = place;
+            ahead[transform.getName()] = transform.getMatrix().getRotate() * osg::Vec3d(0, 1, 0);
+        }
         traverse(transform);
         place = before;
     }
@@ -124,6 +126,7 @@ struct Everything : osg::NodeVisitor
 
     osg::Vec3d place;
     std::map<std::string, osg::Vec3d> feet;
+    std::map<std::string, osg::Vec3d> ahead; ///< directions of the y axes of objects
     std::map<std::string, osg::Vec3d> labels;
     std::set<osg::ref_ptr<const osg::Drawable>> drawables;
 };

@@ -147,6 +147,33 @@ private Q_SLOTS:
         QVERIFY(std::abs(reach[false] + 200) < 0.01);
     }
 
+    /// Expected are the convergences of the projections: n (lon0 - lon) of a conic one, and
+    /// atan(tan(lon - lon0) sin(lat)) of a transverse Mercator projection.
+    void turnsPylonsToTrueNorth_data()
+    {
+        const Cases<QByteArray, std::string, double> row({"positions", "srs", "north"});
+        row("west of the meridian of a cone", "A,223951.524,6758027.195,0,30,0,,\n", "2154", 4.615);
+        row("east of the meridian of a cylinder", "A,611891.935,5317388.799,0,30,0,,\n", "32631",
+            -1.115);
+        row("counted to the west and south", "A,-100120.866,2877217.612,0,30,0,,\n", "2053", 0.438);
+        row("in degrees", "A,0,48,0,30,0,,\nB,3,48,0,30,0,,\n", "4326", 1.115);
+        row("in the middle", "A,700000,6776254,0,30,0,,\n", "2154", 0);
+    }
+    void turnsPylonsToTrueNorth()
+    {
+        QFETCH(QByteArray, positions);
+        QFETCH(std::string, srs);
+        QFETCH(double, north);
+        writeFile(path(QStringLiteral("t.csv")), Header + positions);
+        writeFile(path(QStringLiteral("t.lay")), layerText(siteSource("t.csv", srs)));
+        Everything found;
+        open(path(QStringLiteral("t.lay"))).scene->accept(found);
+
+        const osg::Vec3d ahead = found.ahead["A"];
+        const double pylon = osg::RadiansToDegrees(std::atan2(ahead.x(), ahead.y()));
+        QVERIFY2(std::abs(pylon - north) < 0.01, std::to_string(pylon).c_str());
+    }
+
     void drawsOnlyWhatCanBeRead_data()
     {
         const Cases<QByteArray, QByteArray, bool, bool> row({"height", "azimuth", "east", "west"});

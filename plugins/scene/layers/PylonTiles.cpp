@@ -172,6 +172,7 @@ osg::ref_ptr<osg::Node> makeCoarse(const Content &content, const Sites &sites,
             Mesh &fill = sector.color.a() < 255 ? translucent : opaque;
             top = std::max(top, sector.bottomM + sector.heightM);
             sector.color = forOneWall(sector.color);
+            sector.azimuthDeg += content.records.sites[site].northDeg;
             addSector(fill, noEdges, sector, foot, CoarseArcDeg);
         }
         const unsigned low = masts.vertex(foot, {}, palette::Galvanised);
@@ -200,17 +201,17 @@ osg::ref_ptr<osg::Node> makePylons(Content &content, const Sites &sites, const o
     if (withDots)
         dot = makeDots(new osg::Vec3Array(1), content.dotPadM(), content.dotState);
     for (const std::uint32_t site : sites) {
-        const osg::ref_ptr<osg::Node> pylon = content.factory.build(
-            {content.records.sites[site].foot - origin, content.designOf(site)});
-        pylon->setName(content.records.sites[site].name);
+        const SiteRecord &record = content.records.sites[site];
+        const osg::ref_ptr<osg::Node> pylon =
+            content.factory.build({record.foot - origin, content.designOf(site), record.northDeg});
+        pylon->setName(record.name);
         group->addChild(pylon);
         if (!dot)
             continue;
         const PylonDesign &design = content.designOf(site);
         osg::ref_ptr<osg::LOD> beyond = new osg::LOD;
         beyond->addChild(dot, static_cast<float>(design.symbolicDistanceM), Endless);
-        group->addChild(moved(beyond, content.records.sites[site].foot - origin +
-                                          osg::Vec3d(0, 0, design.heightM / 2)));
+        group->addChild(moved(beyond, record.foot - origin + osg::Vec3d(0, 0, design.heightM / 2)));
     }
     return group;
 }

@@ -116,6 +116,7 @@ private:
     /// Transforms the sites to the frame, and removes those that have no position there.
     void placeSites()
     {
+        const std::vector<double> north = northDirectionsDeg(m_layer, m_records.frame, m_places);
         std::size_t kept = 0;
         for (std::size_t i = 0; i < m_places.size(); ++i) {
             const osg::Vec2d &place = m_places[i];
@@ -126,6 +127,7 @@ private:
             SiteRecord &site = m_records.sites[i];
             site.foot.x() = place.x();
             site.foot.y() = place.y();
+            site.northDeg = static_cast<float>(north[i]);
             if (kept != i)
                 m_records.sites[kept] = std::move(site);
             ++kept;

@@ -22,6 +22,7 @@ struct SiteRecord
     std::string name; ///< UTF-8
     osg::Vec3d foot;  ///< metres in the local frame
     std::uint32_t design = 0;
+    float northDeg = 0; ///< true north, clockwise from the frame's y axis; azimuths count from it
 };
 
 /// Pylons with their positions. Equal pylons share a design.

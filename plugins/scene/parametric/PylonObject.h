@@ -80,6 +80,7 @@ struct PylonObject
 {
     osg::Vec3d foot;
     PylonDesign design;
+    double northDeg = 0; ///< direction of azimuth 0, clockwise from the y axis
 };
 
 inline constexpr std::size_t MaxTransmitters = 1024;

@@ -159,8 +159,9 @@ osg::ref_ptr<osg::Node> PylonFactory::design(const PylonDesign &pylon)
 
 osg::ref_ptr<osg::Node> PylonFactory::build(const PylonObject &pylon)
 {
-    osg::ref_ptr<osg::MatrixTransform> place =
-        new osg::MatrixTransform(osg::Matrixd::translate(pylon.foot));
+    osg::ref_ptr<osg::MatrixTransform> place = new osg::MatrixTransform(
+        osg::Matrixd::rotate(osg::DegreesToRadians(-pylon.northDeg), osg::Z_AXIS) *
+        osg::Matrixd::translate(pylon.foot));
     place->addChild(design(pylon.design));
     return place;
 }

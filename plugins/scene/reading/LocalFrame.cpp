@@ -4,8 +4,6 @@
 
 namespace vlt::scene {
 
-namespace {
-
 std::vector<contract::Place> placesOf(const std::vector<osg::Vec2d> &positions)
 {
     std::vector<contract::Place> places;
@@ -14,8 +12,6 @@ std::vector<contract::Place> placesOf(const std::vector<osg::Vec2d> &positions)
         places.push_back({position.x(), position.y()});
     return places;
 }
-
-} // namespace
 
 LocalFrame::LocalFrame(const OGRSpatialReference *srs, const std::vector<osg::Vec2d> &positions)
     : m_frame(std::make_shared<localframe::LocalFrame>(srs, placesOf(positions)))

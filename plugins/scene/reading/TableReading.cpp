@@ -1,6 +1,7 @@
 #include "plugins/scene/reading/TableReading.h"
 
 #include "contract/Installation.h"
+#include "localframe/TrueNorth.h"
 #include "plugins/scene/reading/BadLayer.h"
 #include "plugins/scene/reading/TableDrivers.h"
 
@@ -132,13 +133,17 @@ SceneFrame moveToFrame(OGRLayer &layer, std::vector<osg::Vec2d> &positions)
 
 SceneFrame moveToFrame(const OGRSpatialReference *srs, std::vector<osg::Vec2d> &positions)
 {
-    std::vector<contract::Place> places;
-    places.reserve(positions.size());
-    for (const osg::Vec2d &position : positions)
-        places.push_back({position.x(), position.y()});
+    std::vector<contract::Place> places = placesOf(positions);
     const auto local = localframe::moveToFrame(srs, places);
     std::transform(places.begin(), places.end(), positions.begin(), toVector);
     return sceneFrame(local, srs);
+}
+
+std::vector<double> northDirectionsDeg(OGRLayer &layer, const SceneFrame &frame,
+                                       const std::vector<osg::Vec2d> &positions)
+{
+    return localframe::northDirectionsDeg(frame.local->plain(), layer.GetSpatialRef(),
+                                          placesOf(positions));
 }
 
 SceneFrame sceneFrame(std::shared_ptr<const localframe::LocalFrame> local,

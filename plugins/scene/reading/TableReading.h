@@ -47,6 +47,10 @@ SceneFrame moveToFrame(OGRLayer &layer, std::vector<osg::Vec2d> &positions);
 /// The same for positions in a system, x before y; null: unknown.
 SceneFrame moveToFrame(const OGRSpatialReference *srs, std::vector<osg::Vec2d> &positions);
 
+/// Directions of true north at positions in a layer's frame, in degrees clockwise from the y axis.
+std::vector<double> northDirectionsDeg(OGRLayer &layer, const SceneFrame &frame,
+                                       const std::vector<osg::Vec2d> &positions);
+
 /// The frame of a scene from a frame for the system `srs`.
 SceneFrame sceneFrame(std::shared_ptr<const localframe::LocalFrame> local,
                       const OGRSpatialReference *srs);
