@@ -2,93 +2,26 @@
 
 #include "linkpath/Fresnel.h"
 #include "plugins/scene/link/LinkStates.h"
-#include "plugins/scene/mesh/DeferredNode.h"
+#include "plugins/scene/link/LinkZones.h"
 #include "plugins/scene/mesh/Solids.h"
 
 #include <osg/Geode>
-#include <osg/LOD>
 #include <osg/MatrixTransform>
 
 #include <algorithm>
 #include <array>
-#include <cmath>
-#include <iterator>
-#include <limits>
 
 namespace vlt::scene {
 
 namespace {
 
-constexpr std::size_t EllipsoidVertices = 2000000; ///< maximum for up to 10000 links
-constexpr std::size_t FewLinks = 2000;             ///< up to this number tubes are rounder
-constexpr double PointLength = 3;                  ///< of a pointed end, in widths of the line
-constexpr double PointM = 0.1;                     ///< width at the end point
-
-/// Number of vertices around an ellipsoid, and of pieces along it.
-struct Fineness
-{
-    int around;
-    int along;
-};
-
-Fineness finenessFor(std::size_t links)
-{
-    static constexpr std::array<Fineness, 6> Finest = {
-        {{32, 64}, {24, 48}, {20, 32}, {16, 24}, {12, 16}, {8, 10}}};
-    for (const Fineness &fineness : Finest) {
-        const int vertices = fineness.around * (fineness.along - 1) + 2;
-        if (links * static_cast<std::size_t>(vertices) <= EllipsoidVertices)
-            return fineness;
-    }
-    return Finest.back();
-}
-
-// distances, in half widths of an ellipsoid
-constexpr double Afar = 400;     ///< the ellipsoid is a few pixels wide there
-constexpr double Unseen = 10000; ///< it is less than one pixel wide there, also in large pictures
-
-Fineness finenessFromAfar(std::size_t links)
-{
-    constexpr std::size_t Many = 20000;
-    return links <= Many ? Fineness{6, 10} : Fineness{4, 6};
-}
-
-/// The colour of one wall, so that two walls together have the opacity of `color`.
-Color forOneOfTwoWalls(Color color)
-{
-    const double through = std::sqrt(1 - color.a() / 255.0);
-    color.a() = static_cast<unsigned char>(std::lround(255 * (1 - through)));
-    return color;
-}
+constexpr std::size_t FewLinks = 2000; ///< up to this number tubes are rounder
+constexpr double PointLength = 3;      ///< of a pointed end, in widths of the line
+constexpr double PointM = 0.1;         ///< width at the end point
 
 Opacity opacityOf(const Color &color)
 {
     return color.a() < 255 ? Opacity::Translucent : Opacity::Opaque;
-}
-
-/// The shape of an ellipsoid, in the coordinates of a tile.
-struct Ellipsoid
-{
-    osg::Vec3d centre;
-    osg::Vec3d along; ///< vector from the centre to a tip
-    double halfWidth;
-};
-
-using Ellipsoids = std::vector<Ellipsoid>;
-
-osg::ref_ptr<osg::Node> drawn(const Ellipsoids &ellipsoids, Fineness fineness, const Color &color,
-                              osg::StateSet *state)
-{
-    Mesh mesh;
-    for (const Ellipsoid &ellipsoid : ellipsoids)
-        addSpheroid(mesh, ellipsoid.centre, ellipsoid.along, ellipsoid.halfWidth, fineness.around,
-                    fineness.along, color);
-    osg::ref_ptr<osg::Geometry> geometry = new osg::Geometry;
-    mesh.fill(*geometry);
-    geometry->setStateSet(state);
-    osg::ref_ptr<osg::Geode> geode = new osg::Geode;
-    geode->addDrawable(geometry);
-    return geode;
 }
 
 /// A mesh of lines of sight. Bands also have a vector from their centre line to each vertex.
@@ -152,14 +85,11 @@ public:
     LinkBuilder(const std::vector<LinkObject> &links, const LinkAppearance &appearance)
         : m_links(links)
         , m_appearance(appearance)
-        , m_fineness(finenessFor(links.size()))
-        , m_zoneColor(forOneOfTwoWalls(appearance.fresnelColor))
+        , m_zones(links.size(), appearance)
         , m_hairlines(makeHairlineState())
     {
-        for (const Opacity opacity : {Opacity::Opaque, Opacity::Translucent}) {
+        for (const Opacity opacity : {Opacity::Opaque, Opacity::Translucent})
             m_lines[static_cast<std::size_t>(opacity)] = makeLineState(appearance, opacity);
-            m_ellipsoids[static_cast<std::size_t>(opacity)] = makeEllipsoidState(opacity);
-        }
     }
 
     using Picked = std::vector<const LinkObject *>;
@@ -204,7 +134,7 @@ private:
         if (geode->getNumDrawables() > 0)
             place->addChild(geode);
         if (m_appearance.fresnelZone > 0 && m_appearance.fresnelColor.a() > 0)
-            addEllipsoids(*place, ellipsoidsOf(links, origin));
+            addZones(*place, links, origin);
         return place;
     }
 
@@ -245,9 +175,9 @@ private:
         }
     }
 
-    Ellipsoids ellipsoidsOf(const Picked &links, const osg::Vec3d &origin) const
+    void addZones(osg::Group &place, const Picked &links, const osg::Vec3d &origin) const
     {
-        Ellipsoids ellipsoids;
+        std::vector<Ellipsoid> ellipsoids;
         for (const LinkObject *link : links) {
             if (!(link->frequencyMHz > 0))
                 continue;
@@ -257,50 +187,8 @@ private:
             ellipsoids.push_back({(link->a + link->b) / 2 - origin, axis * size.semiMajorM,
                                   size.semiMinorM * m_appearance.fresnelShare});
         }
-        return ellipsoids;
-    }
-
-    /// Adds the ellipsoids of a tile. If there are many links, distant tiles have coarse
-    /// ellipsoids, and fine ones are made when a tile is near the viewer for the first time.
-    void addEllipsoids(osg::Group &place, const Ellipsoids &ellipsoids) const
-    {
-        if (ellipsoids.empty())
-            return;
-        const osg::ref_ptr<osg::StateSet> state =
-            m_ellipsoids[static_cast<std::size_t>(opacityOf(m_appearance.fresnelColor))];
-        const auto make = [ellipsoids, state, color = m_zoneColor](Fineness fineness) {
-            return drawn(ellipsoids, fineness, color, state);
-        };
-        if (m_links.size() <= LinksPerTile) {
-            place.addChild(make(m_fineness));
-            return;
-        }
-        double widest = 0;
-        for (const Ellipsoid &ellipsoid : ellipsoids)
-            widest = std::max(widest, ellipsoid.halfWidth);
-        const osg::ref_ptr<osg::Node> coarse = make(finenessFromAfar(m_links.size()));
-        osg::BoundingSphere bound = coarse->getBound();
-        bound.radius() += static_cast<float>(widest);
-        const auto near = static_cast<float>(bound.radius() + Afar * widest);
-        // Ellipsoids smaller than a pixel are not needed if the lines of sight are visible.
-        const double far = m_appearance.color.a() > 0 ? bound.radius() + Unseen * widest
-                                                      : std::numeric_limits<float>::max();
-        const osg::ref_ptr<DeferredNode> fine =
-            new DeferredNode([make, fineness = m_fineness] { return make(fineness); }, bound);
-        place.addChild(seenFrom(0, near, fine, bound));
-        place.addChild(seenFrom(near, static_cast<float>(far), coarse, bound));
-    }
-
-    /// A node with one level of detail, because a node with several is taken for a pylon.
-    static osg::ref_ptr<osg::Node> seenFrom(float nearM, float farM, osg::Node *what,
-                                            const osg::BoundingSphere &bound)
-    {
-        osg::ref_ptr<osg::LOD> level = new osg::LOD;
-        level->setCenterMode(osg::LOD::USER_DEFINED_CENTER);
-        level->setCenter(bound.center());
-        level->setRadius(bound.radius());
-        level->addChild(what, nearM, farM);
-        return level;
+        if (!ellipsoids.empty())
+            place.addChild(m_zones.build(ellipsoids));
     }
 
     void addDrawable(osg::Geode &geode, const Mesh &mesh, osg::StateSet *state,
@@ -324,11 +212,9 @@ private:
 
     const std::vector<LinkObject> &m_links;
     const LinkAppearance &m_appearance;
-    Fineness m_fineness;
-    Color m_zoneColor;
+    LinkZones m_zones;
     osg::ref_ptr<osg::StateSet> m_hairlines;
     std::array<osg::ref_ptr<osg::StateSet>, 2> m_lines; ///< by Opacity
-    std::array<osg::ref_ptr<osg::StateSet>, 2> m_ellipsoids;
 };
 
 } // namespace

@@ -25,4 +25,12 @@ osg::ref_ptr<osg::StateSet> makeHairlineState();
 /// The state of Fresnel ellipsoids, which all have the same colour.
 osg::ref_ptr<osg::StateSet> makeEllipsoidState(Opacity opacity);
 
+/// The state of strips, which stand for distant ellipsoids. The graphics card rotates a strip about
+/// the ellipsoid's axis to face the viewer, and leaves it out where the eye is near.
+///
+/// The first texture coordinates of a vertex are the vector from the axis to the vertex and its
+/// side (-1 or 1; 0 at a tip), the second ones are the ellipsoid's centre and the distance within
+/// which the strip is left out. The normal is the vector from the centre to a tip.
+osg::ref_ptr<osg::StateSet> makeStripState(Opacity opacity);
+
 } // namespace vlt::scene
