@@ -85,6 +85,11 @@ public:
 
     /// The next table, in the order of the file; null after the last.
     virtual std::shared_ptr<Sheet> nextSheet() = 0;
+    /// Whether the next table is only found by a search through the rows of the last one. If these
+    /// were read before, there is no search.
+    virtual bool searchesSheets() const { return false; }
+    /// The same file before its first table, with what the searches found; null if there are none.
+    virtual std::unique_ptr<Workbook> fromStart() const { return nullptr; }
 };
 
 /// Fingerprint of a row whose first value has this raw form.

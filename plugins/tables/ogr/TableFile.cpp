@@ -181,7 +181,8 @@ Table TableFile::readByMapping(std::vector<RowProblem> &problems) const
     hints.headerRows = mapping.headerRows;
     const auto readBy = [&](TableHints of) {
         try {
-            return readTable(*openFile(), of);
+            m_workbook = openFile();
+            return readTable(*m_workbook, of);
         } catch (const RefusedFile &refused) { // perhaps no row is left below the header
             const bool mayDoWithout = m_options.isOverview && refused.reason() == Refusal::NoHeader;
             if (!of.headerRows && !mayDoWithout)
@@ -411,6 +412,8 @@ SecondTable TableFile::secondFile(Suitability suitability) const
 
 std::unique_ptr<Workbook> TableFile::openFile() const
 {
+    if (auto again = m_workbook ? m_workbook->fromStart() : nullptr)
+        return again;
     // An encoding that was found by reading the whole file is not searched again.
     const bool known = m_options.encoding.empty() && m_facts;
     return openWorkbook(

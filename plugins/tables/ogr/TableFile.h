@@ -83,7 +83,7 @@ public:
     const TableFacts &facts() const { return *m_facts; }
     /// Starts reading the rows from the first one.
     std::unique_ptr<DataRows> rows();
-    /// Opens the file again from its first sheet.
+    /// The tables of the file from the first one.
     std::unique_ptr<Workbook> openFile() const;
     /// The table that completes this one; nothing if none does. Throws RefusedFile.
     std::optional<SecondTable> secondTable() const;
@@ -115,6 +115,7 @@ private:
     std::string m_path;
     TableOptions m_options;
     std::shared_ptr<const TableFacts> m_facts;
+    mutable std::unique_ptr<Workbook> m_workbook; ///< null before the file is read
     std::shared_ptr<Sheet> m_sheet;
     bool m_stringsPrepared = false;
 };

@@ -93,10 +93,12 @@ private:
 
 } // namespace
 
-ChosenSheet chooseSheet(Workbook &workbook, const TableHints &hints)
+ChosenSheet chooseSheet(Workbook &workbook, const TableHints &hints,
+                        const std::function<void(const ChosenSheet &)> &readRows)
 {
     Search search(hints);
     bool anySheet = false;
+    bool mayReadRows = workbook.searchesSheets();
     for (std::size_t seen = 0; seen < MaxSheetsRead && !search.isSettled(); ++seen) {
         const std::shared_ptr<Sheet> sheet = workbook.nextSheet();
         if (!sheet)
@@ -106,6 +108,10 @@ ChosenSheet chooseSheet(Workbook &workbook, const TableHints &hints)
             continue;
         anySheet = true;
         search.offer(sheet);
+        if (mayReadRows && search.best.sheet) {
+            readRows(search.best);
+            mayReadRows = false;
+        }
         if (!hints.sheet.empty() && search.best.sheet)
             break;
     }

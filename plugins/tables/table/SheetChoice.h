@@ -16,7 +16,11 @@ struct ChosenSheet
 /// suitability, then those with rows, then the one with more words of its kind, then the earlier
 /// one. At most the first 200 rows of 64 sheets are read. Throws RefusedFile (NoHeader, OneColumn,
 /// Empty, BadOption).
-ChosenSheet chooseSheet(Workbook &workbook, const TableHints &hints);
+///
+/// @param readRows  is called with the first sheet that may be chosen, if the next one has
+///                  to be searched; it may read all rows of that sheet
+ChosenSheet chooseSheet(Workbook &workbook, const TableHints &hints,
+                        const std::function<void(const ChosenSheet &)> &readRows);
 
 /// The names of the visible sheets whose columns have the same names as those of a header, apart
 /// from the sheet `hints.otherThan`. The limits are those of chooseSheet(); damaged sheets are left

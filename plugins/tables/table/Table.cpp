@@ -5,6 +5,7 @@
 #include "plugins/tables/table/TableScan.h"
 
 #include <algorithm>
+#include <limits>
 #include <map>
 
 namespace vlt::driver {
@@ -70,6 +71,24 @@ void makeFields(TableProfile &profile, const TableSample &sample, const TableHin
     profile.sampledColumns = sample.sampledColumns(profile.fields);
 }
 
+/// The rows of a sheet, read once.
+struct ReadSheet
+{
+    ReadSheet(const Sheet &read, const Header &header, const Vocabulary &vocabulary,
+              uint64_t maxRows = std::numeric_limits<uint64_t>::max())
+        : sheet(&read)
+    {
+        profile->sheet = read.name();
+        profile->header = header;
+        profile->lastColumn = header.names.rbegin()->first;
+        scanTable(read, profile, vocabulary, sample, maxRows);
+    }
+
+    const Sheet *sheet;
+    std::shared_ptr<TableProfile> profile = std::make_shared<TableProfile>();
+    TableSample sample;
+};
+
 } // namespace
 
 std::string TableProfile::nameInHeader(int field) const
@@ -100,14 +119,20 @@ std::string nameWithUnit(const Field &field)
 
 Table readTable(Workbook &workbook, const TableHints &hints)
 {
-    ChosenSheet chosen = chooseSheet(workbook, hints);
-    auto profile = std::make_shared<TableProfile>();
-    profile->sheet = chosen.sheet->name();
+    std::optional<ReadSheet> first;
+    ChosenSheet chosen = chooseSheet(workbook, hints, [&](const ChosenSheet &of) {
+        try {
+            first.emplace(*of.sheet, of.header, *hints.vocabulary);
+        } catch (const RefusedFile &) { // the damage matters only if the sheet is chosen
+        }
+    });
+    std::shared_ptr<TableProfile> profile;
     for (bool settled = false; !settled;) {
-        profile->header = chosen.header;
-        profile->lastColumn = chosen.header.names.rbegin()->first;
-        TableSample sample;
-        scanTable(*chosen.sheet, profile, *hints.vocabulary, sample);
+        const ReadSheet read = first && first->sheet == chosen.sheet.get()
+                                   ? std::move(*first)
+                                   : ReadSheet(*chosen.sheet, chosen.header, *hints.vocabulary);
+        first.reset();
+        profile = read.profile;
         settled = chosen.sheet->settleEncoding();
         if (!settled) {
             std::size_t widest = 0;
@@ -118,7 +143,7 @@ Table readTable(Workbook &workbook, const TableHints &hints)
             throw RefusedFile(Refusal::Empty, "MESS_TAB_NO_ROW",
                               {std::to_string(profile->header.row)});
         else
-            makeFields(*profile, sample, hints);
+            makeFields(*profile, read.sample, hints);
     }
     if (profile->fields.size() < 2)
         throw RefusedFile(Refusal::OneColumn, "MESS_TAB_TABLE_OF_ONE_COLUMN");
@@ -129,14 +154,9 @@ Table readTable(Workbook &workbook, const TableHints &hints)
 std::shared_ptr<const TableProfile> readStart(const Sheet &sheet, const Header &header,
                                               const TableHints &hints)
 {
-    auto profile = std::make_shared<TableProfile>();
-    profile->sheet = sheet.name();
-    profile->header = header;
-    profile->lastColumn = header.names.rbegin()->first;
-    TableSample sample;
-    scanTable(sheet, profile, *hints.vocabulary, sample, RowsOfStart);
-    makeFields(*profile, sample, hints);
-    return profile;
+    const ReadSheet read(sheet, header, *hints.vocabulary, RowsOfStart);
+    makeFields(*read.profile, read.sample, hints);
+    return read.profile;
 }
 
 std::shared_ptr<Sheet> findSheet(Workbook &workbook, const std::string &name)

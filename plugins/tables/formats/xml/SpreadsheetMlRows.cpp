@@ -163,9 +163,20 @@ bool isBlankMarkup(std::string_view markup)
 } // namespace
 
 SpreadsheetMlRows::SpreadsheetMlRows(std::unique_ptr<ByteSource> stream, bool insideTable,
-                                     int64_t firstRow, uint64_t streamOffset)
+                                     int64_t firstRow, uint64_t streamOffset,
+                                     std::function<void(uint64_t)> atEnd)
     : m_framer(std::move(stream), TableNames, insideTable, firstRow, streamOffset)
+    , m_atEnd(std::move(atEnd))
 {}
+
+bool SpreadsheetMlRows::advance()
+{
+    if (m_framer.advance())
+        return true;
+    if (m_framer.containerEnd() > 0)
+        m_atEnd(m_framer.containerEnd());
+    return false;
+}
 
 bool SpreadsheetMlRows::hasContent(int lastColumn)
 {

@@ -8,6 +8,8 @@
 
 #include <algorithm>
 #include <cstring>
+#include <map>
+#include <mutex>
 #include <optional>
 
 namespace vlt::driver {
@@ -18,12 +20,36 @@ constexpr std::size_t HeadSize = 4096;
 constexpr std::ptrdiff_t MaxTagNameSize = 256;
 constexpr std::string_view Namespace = "urn:schemas-microsoft-com:office:spreadsheet";
 
+/// The ends of the tables whose rows were read, by the start of their sheet. What follows a table
+/// is then found without reading its rows again. Readers in several threads may share it.
+class TableEnds
+{
+public:
+    void add(uint64_t sheet, uint64_t end)
+    {
+        const std::lock_guard lock(m_mutex);
+        m_ends[sheet] = end;
+    }
+    /// The end of a sheet's table; the start of the sheet if it is not known.
+    uint64_t behindTable(uint64_t sheet) const
+    {
+        const std::lock_guard lock(m_mutex);
+        const auto found = m_ends.find(sheet);
+        return found == m_ends.end() ? sheet : found->second;
+    }
+
+private:
+    mutable std::mutex m_mutex;
+    std::map<uint64_t, uint64_t> m_ends;
+};
+
 /// The content of the file in UTF-8 from a position on. Positions count bytes of the UTF-8 text.
 struct XmlFile
 {
     std::shared_ptr<const InputFile> file;
     std::size_t markSize = 0;
     std::string encoding; ///< empty for UTF-8
+    std::shared_ptr<TableEnds> ends = std::make_shared<TableEnds>();
 
     bool canJump() const { return encoding.empty(); }
 
@@ -166,7 +192,7 @@ public:
     {
         if (!m_isHidden) {
             m_isHidden = false;
-            WorksheetTags tags(m_file, m_offset);
+            WorksheetTags tags(m_file, m_file.ends->behindTable(m_offset));
             XmlTag tag;
             while (tags.nextOfWorksheet(tag) && !tag.closes("Worksheet")) {
                 if (tag.kind == XmlTag::Kind::Open && tag.name == "WorksheetOptions")
@@ -175,19 +201,22 @@ public:
         }
         return *m_isHidden;
     }
-    std::unique_ptr<RowReader> rows() const override
-    {
-        return std::make_unique<SpreadsheetMlRows>(m_file.from(m_offset), false, 1, m_offset);
-    }
+    std::unique_ptr<RowReader> rows() const override { return rowsAt(m_offset, false, 1); }
     std::unique_ptr<RowReader> rowsFrom(uint64_t position, int64_t rowNumber) const override
     {
         if (!m_file.canJump())
             return nullptr;
-        return std::make_unique<SpreadsheetMlRows>(m_file.from(position), true, rowNumber,
-                                                   position);
+        return rowsAt(position, true, rowNumber);
     }
 
 private:
+    std::unique_ptr<RowReader> rowsAt(uint64_t position, bool insideTable, int64_t rowNumber) const
+    {
+        return std::make_unique<SpreadsheetMlRows>(
+            m_file.from(position), insideTable, rowNumber, position,
+            [ends = m_file.ends, sheet = m_offset](uint64_t end) { ends->add(sheet, end); });
+    }
+
     XmlFile m_file;
     uint64_t m_offset; ///< position behind the Worksheet tag
     std::string m_name;
@@ -200,9 +229,14 @@ class SpreadsheetMlWorkbook : public Workbook
 public:
     explicit SpreadsheetMlWorkbook(XmlFile file) : m_file(std::move(file)) {}
 
+    bool searchesSheets() const override { return true; }
+    std::unique_ptr<Workbook> fromStart() const override
+    {
+        return std::make_unique<SpreadsheetMlWorkbook>(m_file);
+    }
     std::shared_ptr<Sheet> nextSheet() override
     {
-        WorksheetTags tags(m_file, m_offset);
+        WorksheetTags tags(m_file, m_file.ends->behindTable(m_offset));
         XmlTag tag;
         while (tags.nextOfWorksheet(tag)) {
             if (!tag.opens("Worksheet"))
@@ -218,7 +252,7 @@ public:
 
 private:
     XmlFile m_file;
-    uint64_t m_offset = 0;
+    uint64_t m_offset = 0; ///< position behind the tag of the last sheet
 };
 
 /// Encoding in the XML declaration; empty if there is none.
@@ -242,7 +276,8 @@ std::string uppercase(std::string text)
 
 std::unique_ptr<Workbook> openSpreadsheetMl(const std::shared_ptr<const InputFile> &file)
 {
-    XmlFile xml = {file, 0, {}};
+    XmlFile xml;
+    xml.file = file;
     const std::string head = file->head(HeadSize);
     std::string encoding = encodingOfMark(head, xml.markSize);
     if (encoding.empty() && head.starts_with(std::string_view("<\0", 2)))

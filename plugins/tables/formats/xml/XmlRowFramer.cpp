@@ -61,6 +61,7 @@ bool XmlRowFramer::advance()
     XmlTag tag;
     while (readTag(tag)) {
         if (tag.closes(m_names.container)) {
+            m_containerEnd = m_windowOffset + static_cast<uint64_t>(m_at - m_input.begin());
             m_done = true;
             return false;
         }

@@ -38,6 +38,8 @@ public:
     std::string_view inside() const;
     /// Position of the row's opening tag in the stream, plus streamOffset.
     uint64_t position() const { return m_rowPosition; }
+    /// Position behind the container, plus streamOffset; 0 until advance() went there.
+    uint64_t containerEnd() const { return m_containerEnd; }
     /// Prefix of the row's element with its colon, or empty.
     const std::string &prefix() const { return m_prefix; }
 
@@ -53,6 +55,7 @@ private:
     const char *m_inside = nullptr;
     const char *m_rowEnd = nullptr;
     uint64_t m_rowPosition = 0;
+    uint64_t m_containerEnd = 0;
     int64_t m_rowNumber = 0;
     bool m_isHidden = false;
     int64_t m_nextRow;
