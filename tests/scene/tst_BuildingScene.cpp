@@ -212,10 +212,10 @@ private Q_SLOTS:
         const Cases<int, QString, QByteArray> row({"east", "core", "notice"});
         row("beside them", 200, u"absent"_s, {});
         row("within 20 km", 20000, u"absent"_s, {});
-        row("far", 3000000, u"-1500005 -5 -1499815 5"_s,
+        row("far", 3000000, u"-95 -5 95 5"_s,
             "1 of 20 buildings lie far from all others, up to 3000 km away; the farthest is at "
             "3650000 6860000");
-        row("far to the west", -50000, u"24905 -5 25095 5"_s, "up to 50 km away");
+        row("far to the west", -50000, u"-95 -5 95 5"_s, "up to 50 km away");
     }
 
     void separatesFarBuildingsFromTheCore()
