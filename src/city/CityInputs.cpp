@@ -10,6 +10,8 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <iomanip>
+#include <locale>
 #include <sstream>
 
 namespace vlt::city {
@@ -136,6 +138,25 @@ void countSources(const Footprints &footprints, CityCounts &counts)
     }
 }
 
+/// Determines the core of the city, and reports the buildings that are far from it.
+void findCore(CityInputs &city, Notices &notices)
+{
+    city.core = coreOf(city.footprints, city.positions);
+    if (!city.core)
+        return;
+    const Footprints &footprints = city.footprints;
+    const Place &farthest =
+        footprints
+            .positions[footprints.rings[footprints.buildings[city.core->farthest].ringBegin].begin];
+    std::ostringstream place;
+    place.imbue(std::locale::classic());
+    place << std::setprecision(9) << farthest.x << ' ' << farthest.y;
+    notices.push_back(contract::formatted(
+        "MESS_SCENE_FAR_AWAY",
+        {std::to_string(city.core->far), std::to_string(city.counts.drawn),
+         std::to_string(std::llround(city.core->distanceM / 1000)), place.str()}));
+}
+
 /// Adds a notice for each reason that applies to any feature.
 void report(const CityCounts &counts, const BuildingFootprints &source, Notices &notices)
 {
@@ -225,6 +246,7 @@ CityInputs readCityInputs(const BuildingDocument &document,
     city.counts.coincident = countCoincident(city.footprints);
     countSources(city.footprints, city.counts);
     report(city.counts, source, notices);
+    findCore(city, notices);
     notices.insert(notices.end(), ofGround.begin(), ofGround.end());
     return city;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "city/CityCore.h"
 #include "city/FootprintReader.h"
 #include "localframe/LocalFrame.h"
 
@@ -17,6 +18,7 @@ struct CityInputs
     std::vector<Place> positions; ///< parallel to footprints.positions, in the frame, metres
     std::vector<float> baseM;     ///< parallel to footprints.buildings, above sea level
     contract::CityCounts counts;  ///< without those of colours
+    std::optional<CityCore> core; ///< nothing: it is the whole city
 };
 
 /// Reads the footprints and the terrain of a document.

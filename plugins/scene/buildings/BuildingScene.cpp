@@ -5,7 +5,6 @@
 #include "contract/SceneFactKeys.h"
 #include "contract/SceneTexts.h"
 #include "plugins/scene/buildings/CityColors.h"
-#include "plugins/scene/buildings/CityCore.h"
 #include "plugins/scene/buildings/CityNodes.h"
 #include "plugins/scene/buildings/TexbDocument.h"
 #include "plugins/scene/buildings/TexturedTile.h"
@@ -14,9 +13,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <iomanip>
-#include <locale>
-#include <sstream>
 #include <utility>
 
 namespace vlt::scene {
@@ -46,6 +42,7 @@ CityModel readCity(const BuildingDocument &document, const Directories &director
                    toVector);
     city.baseM = std::move(inputs.baseM);
     city.counts = inputs.counts;
+    city.core = inputs.core;
     return city;
 }
 
@@ -67,29 +64,16 @@ void colour(CityModel &city, const BuildingFootprints &footprints, const Directo
                                 {std::to_string(invisible), std::to_string(city.counts.drawn)}));
 }
 
-/// States which buildings are the core of the city, and reports the others; nothing if there are no
-/// others.
-void setCore(osg::Group &scene, const CityModel &city, Notices &notices)
+/// States which buildings are the core of the city; nothing if all are.
+void setCore(osg::Group &scene, const std::optional<city::CityCore> &core)
 {
-    const std::optional<CityCore> core = coreOf(city);
     if (!core)
         return;
     const auto whole = [](double number) { return std::to_string(std::llround(number)); };
-    const osg::BoundingBoxd &extent = core->extent;
     scene.addDescription(std::string(contract::facts::Core) + '=' +
-                         whole(std::floor(extent.xMin())) + ' ' + whole(std::floor(extent.yMin())) +
-                         ' ' + whole(std::ceil(extent.xMax())) + ' ' +
-                         whole(std::ceil(extent.yMax())));
-    const Footprints &footprints = city.footprints;
-    const auto &farthest =
-        footprints
-            .positions[footprints.rings[footprints.buildings[core->farthest].ringBegin].begin];
-    std::ostringstream place;
-    place.imbue(std::locale::classic());
-    place << std::setprecision(9) << farthest.x << ' ' << farthest.y;
-    notices.push_back(contract::formatted(
-        "MESS_SCENE_FAR_AWAY", {std::to_string(core->far), std::to_string(city.counts.drawn),
-                                whole(core->distanceM / 1000), place.str()}));
+                         whole(std::floor(core->least.x)) + ' ' + whole(std::floor(core->least.y)) +
+                         ' ' + whole(std::ceil(core->most.x)) + ' ' +
+                         whole(std::ceil(core->most.y)));
 }
 
 /// The function that makes tiles with images; empty if the document has no usable images.
@@ -138,7 +122,7 @@ osg::ref_ptr<osg::Group> readBuildingScene(const std::string &document, const st
                          texturedMaker(city, texb, directories, notices, part(progress, 0.8, 0.9))};
     osg::ref_ptr<osg::Group> scene = buildCity(city, look, part(progress, 0.9, 1));
     setFrame(*scene, city->frame);
-    setCore(*scene, *city, notices);
+    setCore(*scene, city->core);
     setCounts(*scene, city->counts);
     return scene;
 }

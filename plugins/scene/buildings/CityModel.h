@@ -1,5 +1,6 @@
 #pragma once
 
+#include "city/CityCore.h"
 #include "city/FootprintReader.h"
 #include "colormaps/ColorMap.h"
 #include "plugins/scene/reading/SceneFrame.h"
@@ -26,6 +27,7 @@ struct CityModel
     std::vector<colormaps::Rgba> wallColors; ///< parallel to footprints.buildings
     std::vector<colormaps::Rgba> roofColors;
     contract::CityCounts counts;
+    std::optional<city::CityCore> core;
 };
 
 } // namespace vlt::scene
