@@ -22,9 +22,10 @@ inline void add(CityModel &city, const Rings &rings, float heightM = 12)
     const auto begin = static_cast<std::uint32_t>(shapes.rings.size());
     for (const Ring &ring : rings) {
         const auto first = static_cast<std::uint32_t>(shapes.positions.size());
-        for (const osg::Vec2d &position : ring)
+        for (const osg::Vec2d &position : ring) {
             shapes.positions.push_back({position.x(), position.y()});
-        city.positions.insert(city.positions.end(), ring.begin(), ring.end());
+            city.positions.push_back(shapes.positions.back());
+        }
         shapes.rings.push_back({first, static_cast<std::uint32_t>(shapes.positions.size()),
                                 shapes.rings.size() > begin});
     }

@@ -35,9 +35,8 @@ CityModel townOf(const Rings &rings, float heightM)
 {
     CityModel city;
     add(city, rings, heightM);
-    city.frame.local = std::make_shared<LocalFrame>(nullptr, city.positions);
-    for (osg::Vec2d &position : city.positions)
-        position = city.frame.local->toFrame(position);
+    city.frame.local =
+        std::make_shared<LocalFrame>(vlt::localframe::moveToFrame(nullptr, city.positions));
     return city;
 }
 

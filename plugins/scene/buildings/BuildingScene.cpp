@@ -37,9 +37,7 @@ CityModel readCity(const BuildingDocument &document, const Directories &director
     city.footprints = std::move(inputs.footprints);
     city.srs = city::wktOf(inputs.srs);
     city.frame = sceneFrame(inputs.frame, inputs.srs ? &*inputs.srs : nullptr);
-    city.positions.resize(inputs.positions.size());
-    std::transform(inputs.positions.begin(), inputs.positions.end(), city.positions.begin(),
-                   toVector);
+    city.positions = std::move(inputs.positions);
     city.baseM = std::move(inputs.baseM);
     city.counts = inputs.counts;
     city.core = inputs.core;
@@ -120,6 +118,8 @@ osg::ref_ptr<osg::Group> readBuildingScene(const std::string &document, const st
     const CityStyle look{footprints.tileSizeM, footprints.extrudedVisibilityM,
                          footprints.texturedVisibilityM, footprints.skirtHeightM,
                          texturedMaker(city, texb, directories, notices, part(progress, 0.8, 0.9))};
+    if (!look.makeTextured) // only images lie by the positions in their original system
+        city->footprints.positions = std::vector<city::Place>(); // releases its memory
     osg::ref_ptr<osg::Group> scene = buildCity(city, look, part(progress, 0.9, 1));
     setFrame(*scene, city->frame);
     setCore(*scene, city->core);

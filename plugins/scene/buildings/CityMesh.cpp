@@ -277,9 +277,7 @@ std::uint32_t CityMesh::vertex(const osg::Vec2d &position, double z, const osg::
 
 CityMesh::Positions CityMesh::positionsOf(const Footprints::Ring &ring, bool counterClockwise) const
 {
-    Positions positions(m_city.positions.begin() + ring.begin, m_city.positions.begin() + ring.end);
-    for (osg::Vec2d &position : positions)
-        position -= osg::Vec2d(m_origin.x(), m_origin.y());
+    Positions positions = m_city.outlineOf(ring, m_origin);
     if ((doubledArea(positions) > 0) != counterClockwise)
         std::reverse(positions.begin(), positions.end());
     return positions;

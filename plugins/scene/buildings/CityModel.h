@@ -6,6 +6,7 @@
 #include "plugins/scene/reading/SceneFrame.h"
 
 #include <osg/Vec2d>
+#include <osg/Vec3d>
 
 #include <string>
 #include <vector>
@@ -22,12 +23,22 @@ struct CityModel
     Footprints footprints;
     std::string srs; ///< WKT of the footprints' system; empty: unknown
     SceneFrame frame;
-    std::vector<osg::Vec2d> positions; ///< parallel to footprints.positions, in the frame, metres
-    std::vector<float> baseM;          ///< parallel to footprints.buildings
+    std::vector<city::Place> positions; ///< parallel to footprints.positions, in the frame, metres
+    std::vector<float> baseM;           ///< parallel to footprints.buildings
     std::vector<colormaps::Rgba> wallColors; ///< parallel to footprints.buildings
     std::vector<colormaps::Rgba> roofColors;
     contract::CityCounts counts;
     std::optional<city::CityCore> core;
+
+    /// A ring in the frame, relative to the origin, in its original direction.
+    std::vector<osg::Vec2d> outlineOf(const Footprints::Ring &ring, const osg::Vec3d &origin) const
+    {
+        std::vector<osg::Vec2d> outline;
+        outline.reserve(ring.end - ring.begin);
+        for (std::uint32_t i = ring.begin; i < ring.end; ++i)
+            outline.emplace_back(positions[i].x - origin.x(), positions[i].y - origin.y());
+        return outline;
+    }
 };
 
 } // namespace vlt::scene

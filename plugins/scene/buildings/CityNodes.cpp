@@ -96,7 +96,7 @@ struct Content
         const Footprints &footprints = city->footprints;
         for (const Footprints::Ring &ring : footprints.ringsOf(footprints.buildings[building])) {
             for (std::uint32_t i = ring.begin; i < ring.end; ++i)
-                bound.expandBy(city->positions[i].x(), city->positions[i].y(), 0);
+                bound.expandBy(city->positions[i].x, city->positions[i].y, 0);
         }
         return std::max(bound.xMax() - bound.xMin(), bound.yMax() - bound.yMin());
     }

@@ -28,7 +28,7 @@ osg::BoundingBoxd boundOf(const CityModel &city, std::uint32_t building)
     osg::BoundingBoxd bound;
     for (const Footprints::Ring &ring : city.footprints.ringsOf(shape)) {
         for (std::uint32_t i = ring.begin; i < ring.end; ++i)
-            bound.expandBy(city.positions[i].x(), city.positions[i].y(), base);
+            bound.expandBy(city.positions[i].x, city.positions[i].y, base);
     }
     bound.zMax() += shape.heightM;
     return bound;
@@ -40,7 +40,7 @@ osg::Vec2d middleOf(const CityModel &city, std::uint32_t building)
     const Footprints::Ring &ring = footprints.rings[footprints.buildings[building].ringBegin];
     osg::BoundingBoxd bound;
     for (std::uint32_t i = ring.begin; i < ring.end; ++i)
-        bound.expandBy(city.positions[i].x(), city.positions[i].y(), 0);
+        bound.expandBy(city.positions[i].x, city.positions[i].y, 0);
     return {bound.center().x(), bound.center().y()};
 }
 

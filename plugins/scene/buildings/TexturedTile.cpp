@@ -133,16 +133,6 @@ private:
         return m_city.footprints.buildings[building].heightM;
     }
 
-    /// A ring in the frame, relative to the origin, in its original direction.
-    Positions outlineOf(const Footprints::Ring &ring) const
-    {
-        Positions positions(m_city.positions.begin() + ring.begin,
-                            m_city.positions.begin() + ring.end);
-        for (osg::Vec2d &position : positions)
-            position -= osg::Vec2d(m_origin.x(), m_origin.y());
-        return positions;
-    }
-
     /// Adds horizontal faces with images, each at its height above the base.
     void addFloors(std::uint32_t building,
                    const std::vector<std::pair<std::size_t, double>> &levels)
@@ -156,7 +146,7 @@ private:
                 const auto positions = footprints.positionsOf(ring);
                 std::transform(positions.begin(), positions.end(), std::back_inserter(looked),
                                toVector);
-                m_roof.addRing(outlineOf(ring));
+                m_roof.addRing(m_city.outlineOf(ring, m_origin));
             }
             m_roof.cut();
             lookUpCrossings(part.front(), looked);
@@ -194,7 +184,7 @@ private:
     {
         const Footprints &footprints = m_city.footprints;
         for (const Footprints::Ring &ring : footprints.ringsOf(footprints.buildings[building])) {
-            const Positions outline = outlineOf(ring);
+            const Positions outline = m_city.outlineOf(ring, m_origin);
             const auto positions = footprints.positionsOf(ring);
             // The outside is to the right of a counter-clockwise ring, and to the left of a hole.
             const double side = (doubledArea(outline) > 0) != ring.isHole ? 1 : -1;
@@ -242,7 +232,7 @@ private:
             return;
         const Footprints &footprints = m_city.footprints;
         for (const Footprints::Ring &ring : footprints.ringsOf(footprints.buildings[building])) {
-            for (const osg::Vec2d &position : outlineOf(ring))
+            for (const osg::Vec2d &position : m_city.outlineOf(ring, m_origin))
                 m_edges.line(edge(position, base), edge(position, top));
         }
     }
@@ -253,7 +243,7 @@ private:
             return;
         const Footprints &footprints = m_city.footprints;
         for (const Footprints::Ring &ring : footprints.ringsOf(footprints.buildings[building])) {
-            const Positions outline = outlineOf(ring);
+            const Positions outline = m_city.outlineOf(ring, m_origin);
             unsigned before = edge(outline.front(), z);
             const unsigned first = before;
             for (std::size_t i = 1; i < outline.size(); ++i) {
