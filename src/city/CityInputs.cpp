@@ -25,23 +25,18 @@ using contract::CityCounts;
 
 constexpr double ReadingShare = 5.0 / 6; ///< of the work
 
-std::size_t numberOfFeatures(const Footprints &footprints)
-{
-    return firstBuildings(footprints).size();
-}
-
-/// Removes buildings by their index, with their ground heights if these are known.
-///
-/// @return  number of features without any building left
+/// Removes buildings by their index, with their ground heights if these are known. The reason
+/// becomes that of features without any building left.
 template<typename Predicate>
-std::size_t removeBuildings(CityInputs &city, const Predicate &isRemoved)
+void removeBuildings(CityInputs &city, contract::LeftOutReason reason, const Predicate &isRemoved)
 {
-    const std::size_t before = numberOfFeatures(city.footprints);
     std::vector<Footprints::Building> &buildings = city.footprints.buildings;
     std::size_t kept = 0;
     for (std::size_t i = 0; i < buildings.size(); ++i) {
-        if (isRemoved(i))
+        if (isRemoved(i)) {
+            city.fates[city.footprints.features[buildings[i].feature].row] = reason;
             continue;
+        }
         buildings[kept] = buildings[i];
         if (!city.baseM.empty())
             city.baseM[kept] = city.baseM[i];
@@ -50,7 +45,8 @@ std::size_t removeBuildings(CityInputs &city, const Predicate &isRemoved)
     buildings.resize(kept);
     if (!city.baseM.empty())
         city.baseM.resize(kept);
-    return before - numberOfFeatures(city.footprints);
+    for (const Footprints::Building &building : buildings)
+        city.fates[city.footprints.features[building.feature].row].reset();
 }
 
 /// Determines the frame, transforms the buildings to it and removes features with a vertex that has
@@ -70,8 +66,8 @@ void position(CityInputs &city)
             }
         }
     }
-    city.counts.leftOut.noPosition = removeBuildings(
-        city, [&](std::size_t i) { return !isPlaced[footprints.buildings[i].feature]; });
+    removeBuildings(city, contract::LeftOutReason::NoPosition,
+                    [&](std::size_t i) { return !isPlaced[footprints.buildings[i].feature]; });
 }
 
 /// Takes the ground off the heights of roofs above sea level, and removes buildings whose roof is
@@ -84,8 +80,8 @@ void standOnGround(CityInputs &city)
         if (footprints.features[building.feature].isAboveSea)
             building.heightM -= city.baseM[i];
     }
-    city.counts.leftOut.belowGround = removeBuildings(
-        city, [&](std::size_t i) { return !(footprints.buildings[i].heightM > 0); });
+    removeBuildings(city, contract::LeftOutReason::BelowGround,
+                    [&](std::size_t i) { return !(footprints.buildings[i].heightM > 0); });
 }
 
 /// Lets buildings start at the ground whose underside is not below their roof.
@@ -127,9 +123,16 @@ std::size_t countCoincident(const Footprints &footprints)
     return count;
 }
 
-/// Counts the drawn features by the origin of their height.
-void countSources(const Footprints &footprints, CityCounts &counts)
+/// Counts the features that were read, that are left out and that are drawn, by the origin of their
+/// height.
+void countFeatures(const CityInputs &city, CityCounts &counts)
 {
+    counts.features = city.fates.size();
+    for (const auto &fate : city.fates) {
+        if (fate)
+            ++countOf(*fate, counts.leftOut);
+    }
+    const Footprints &footprints = city.footprints;
     for (const std::size_t first : firstBuildings(footprints)) {
         const HeightSource source = footprints.features[footprints.buildings[first].feature].source;
         counts.substitutes.elseField += source == HeightSource::ElseField ? 1 : 0;
@@ -230,8 +233,7 @@ CityInputs readCityInputs(const BuildingDocument &document,
     CityInputs city;
     city.footprints = std::move(read.footprints);
     city.srs = std::move(read.srs);
-    city.counts.features = read.features;
-    city.counts.leftOut = read.leftOut;
+    city.fates = std::move(read.fates);
     position(city);
 
     const contract::BuildingTerrain &terrain = document.terrain;
@@ -244,7 +246,7 @@ CityInputs readCityInputs(const BuildingDocument &document,
     standOnGround(city);
     checkBottoms(city);
     city.counts.coincident = countCoincident(city.footprints);
-    countSources(city.footprints, city.counts);
+    countFeatures(city, city.counts);
     report(city.counts, source, notices);
     findCore(city, notices);
     notices.insert(notices.end(), ofGround.begin(), ofGround.end());

@@ -17,6 +17,8 @@ struct CityInputs
     std::shared_ptr<const localframe::LocalFrame> frame;
     std::vector<Place> positions; ///< parallel to footprints.positions, in the frame, metres
     std::vector<float> baseM;     ///< parallel to footprints.buildings, above sea level
+    /// Why each feature read from the source, in its order, is not drawn; nothing for the others.
+    std::vector<std::optional<contract::LeftOutReason>> fates;
     contract::CityCounts counts;  ///< without those of colours
     std::optional<CityCore> core; ///< nothing: it is the whole city
 };

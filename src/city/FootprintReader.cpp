@@ -18,6 +18,7 @@ namespace vlt::city {
 namespace {
 
 using contract::BadLayer;
+using contract::LeftOutReason;
 using contract::Stopped;
 
 constexpr std::size_t FeaturesPerReport = 2000;
@@ -115,15 +116,16 @@ public:
 
     std::vector<int> fields() const { return {m_height, m_elseHeight, m_ground, m_bottom}; }
 
-    /// Adds a feature, or counts it as left out.
+    /// Adds a feature, or the reason why it is left out.
     void take(const OGRFeature &feature)
     {
         const auto resolved =
             resolveHeight(m_rule, heightAt(feature, m_height), heightAt(feature, m_elseHeight));
-        if (const HeightFault *fault = std::get_if<HeightFault>(&resolved))
-            ++leftOutBy(*fault, m_read.leftOut);
+        std::optional<LeftOutReason> &fate = m_read.fates.emplace_back();
+        if (const LeftOutReason *reason = std::get_if<LeftOutReason>(&resolved))
+            fate = *reason;
         else if (!addShape(feature, std::get<ResolvedHeight>(resolved)))
-            ++m_read.leftOut.noShape;
+            fate = LeftOutReason::NoShape;
     }
 
 private:
@@ -135,7 +137,8 @@ private:
             straight.reset(shape->getLinearGeometry());
             shape = straight.get();
         }
-        Footprints::Feature kept{feature.GetFID()};
+        Footprints::Feature kept{feature.GetFID(),
+                                 static_cast<std::uint32_t>(m_read.fates.size() - 1)};
         if (const auto ground = metresAt(feature, m_ground))
             kept.groundM = static_cast<float>(*ground);
         kept.source = height.source;
@@ -182,15 +185,15 @@ void readFeatures(OGRLayer &layer, Reader &reader, ReadFootprints &read, Notices
                   const Progress &progress)
 {
     const auto expected = static_cast<double>(std::max<GIntBig>(layer.GetFeatureCount(FALSE), 1));
-    while (const OGRFeatureUniquePtr feature = nextReadable(layer, read.features, notices)) {
+    while (const OGRFeatureUniquePtr feature = nextReadable(layer, read.fates.size(), notices)) {
         if (read.footprints.positions.size() > MaxPositions) {
-            notices.push_back(
-                contract::formatted("MESS_SCENE_SHOWN_PARTLY", {std::to_string(read.features)}));
+            notices.push_back(contract::formatted("MESS_SCENE_SHOWN_PARTLY",
+                                                  {std::to_string(read.fates.size())}));
             return;
         }
         reader.take(*feature);
-        if (++read.features % FeaturesPerReport == 0 &&
-            !progress(std::min(static_cast<double>(read.features) / expected, 1.0)))
+        if (read.fates.size() % FeaturesPerReport == 0 &&
+            !progress(std::min(static_cast<double>(read.fates.size()) / expected, 1.0)))
             throw Stopped{};
     }
 }
@@ -212,7 +215,7 @@ ReadFootprints readFootprints(const std::string &path, const contract::BuildingF
         read.srs->SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
     }
     readFeatures(layer, reader, read, notices, progress);
-    if (read.features == 0 && !source.where.empty())
+    if (read.fates.empty() && !source.where.empty())
         throw BadLayer("MESS_SCENE_EMPTY_FILTER", {source.where});
     return read;
 }

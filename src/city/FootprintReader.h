@@ -23,8 +23,9 @@ struct ReadFootprints
 {
     Footprints footprints;
     std::optional<OGRSpatialReference> srs; ///< x before y; nothing if the source declares none
-    contract::LeftOut leftOut;              ///< without belowGround and noPosition
-    std::size_t features = 0;               ///< number of features read from the source
+    /// Why each feature read from the source, in its order, is not one of the footprints; nothing
+    /// for those that are.
+    std::vector<std::optional<contract::LeftOutReason>> fates;
 };
 
 /// Reads the polygons of a layer: also those with holes, with several parts and in collections.

@@ -40,7 +40,8 @@ struct Footprints
     /// A feature with at least one building.
     struct Feature
     {
-        std::int64_t id = -1;                                    ///< that the source gives it
+        std::int64_t id = -1;  ///< that the source gives it
+        std::uint32_t row = 0; ///< its index among the features that were read
         float groundM = std::numeric_limits<float>::quiet_NaN(); ///< from a field; NaN: none
         HeightSource source = HeightSource::Field;
         bool isAboveSea = false; ///< the value in the source is above sea level

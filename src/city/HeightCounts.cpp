@@ -43,8 +43,8 @@ HeightCounts HeightValues::count(const contract::BuildingHeights &rule) const
     HeightCounts counts;
     for (const Values &values : m_features) {
         const auto resolved = resolveHeight(rule, values.field, values.other);
-        if (const HeightFault *fault = std::get_if<HeightFault>(&resolved)) {
-            ++leftOutBy(*fault, counts.leftOut);
+        if (const auto *reason = std::get_if<contract::LeftOutReason>(&resolved)) {
+            ++countOf(*reason, counts.leftOut);
             continue;
         }
         switch (std::get<ResolvedHeight>(resolved).source) {

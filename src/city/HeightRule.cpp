@@ -9,7 +9,8 @@ namespace {
 using contract::BuildingHeights;
 using contract::HeightReference;
 using contract::HeightUnit;
-using Resolution = std::variant<ResolvedHeight, HeightFault>;
+using contract::LeftOutReason;
+using Resolution = std::variant<ResolvedHeight, LeftOutReason>;
 
 constexpr double FootM = 0.3048;
 
@@ -30,15 +31,15 @@ Resolution resolveNumber(const BuildingHeights &rule, const std::optional<ReadHe
                          HeightUnit unit, double factor, HeightSource source)
 {
     if (!read)
-        return HeightFault::Missing;
+        return LeftOutReason::MissingHeight;
     const HeightUnit own = read->unit.value_or(unit);
     const double valueM = read->number * metresIn(own, rule) * (read->unit ? 1 : factor);
     const bool isAboveSea = rule.reference == HeightReference::Sea && own != HeightUnit::Levels;
     // As the number that is kept: one that is too small for it is no height.
     if (!isAboveSea && !(static_cast<float>(valueM) > 0))
-        return HeightFault::NotPositive;
+        return LeftOutReason::NotPositive;
     if (std::abs(valueM) > MaxBuildingHeightM)
-        return HeightFault::TooHigh;
+        return LeftOutReason::TooHigh;
     return ResolvedHeight{valueM, isAboveSea, source};
 }
 
@@ -52,18 +53,6 @@ std::optional<ReadHeight> heightAt(const OGRFeature &feature, int field)
         return readHeight(feature.GetFieldAsString(field));
     const double number = feature.GetFieldAsDouble(field);
     return std::isfinite(number) ? std::optional(ReadHeight{number, {}, false}) : std::nullopt;
-}
-
-std::size_t &leftOutBy(HeightFault fault, contract::LeftOut &leftOut)
-{
-    switch (fault) {
-    case HeightFault::Missing:
-        return leftOut.missingHeight;
-    case HeightFault::TooHigh:
-        return leftOut.tooHigh;
-    default:
-        return leftOut.notPositive;
-    }
 }
 
 Resolution resolveHeight(const BuildingHeights &rule, const std::optional<ReadHeight> &field,

@@ -18,12 +18,6 @@ inline constexpr double MaxBuildingHeightM = 10000;
 /// The number in a field, which may be of a numeric type or a text; nothing without one.
 std::optional<ReadHeight> heightAt(const OGRFeature &feature, int field);
 
-/// The reason why a feature has no height.
-enum class HeightFault { Missing, NotPositive, TooHigh };
-
-/// The number that counts the features with a fault.
-std::size_t &leftOutBy(HeightFault fault, contract::LeftOut &leftOut);
-
 /// The height of a feature. The value is finite, at most MaxBuildingHeightM and, if it is not above
 /// sea level, positive.
 struct ResolvedHeight
@@ -36,11 +30,11 @@ struct ResolvedHeight
 };
 
 /// The height of a feature: from its field of heights, else from the second field, else the default
-/// height, else none, for the fault of the field of heights.
+/// height, else none, by the field of heights for MissingHeight, NotPositive or TooHigh.
 ///
 /// Levels and the default height are never above sea level.
-std::variant<ResolvedHeight, HeightFault> resolveHeight(const contract::BuildingHeights &rule,
-                                                        const std::optional<ReadHeight> &field,
-                                                        const std::optional<ReadHeight> &other);
+std::variant<ResolvedHeight, contract::LeftOutReason>
+resolveHeight(const contract::BuildingHeights &rule, const std::optional<ReadHeight> &field,
+              const std::optional<ReadHeight> &other);
 
 } // namespace vlt::city

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 
 namespace vlt::contract {
 
@@ -15,6 +16,16 @@ struct LeftOut
     std::size_t noPosition = 0;  ///< the polygon cannot be transformed to the scene
 
     bool operator==(const LeftOut &) const = default;
+};
+
+/// Why a feature is not drawn, in the order of LeftOutCounts.
+enum class LeftOutReason : std::uint8_t {
+    MissingHeight,
+    NotPositive,
+    TooHigh,
+    BelowGround,
+    NoShape,
+    NoPosition
 };
 
 /// Buildings that are drawn with a value in place of a missing one. A building may be counted
@@ -63,6 +74,18 @@ inline constexpr NamedCount<LeftOut> LeftOutCounts[] = {
     {"noShape", &LeftOut::noShape},
     {"noPosition", &LeftOut::noPosition},
 };
+
+/// The key of a reason in the same places.
+constexpr const char *keyOf(LeftOutReason reason)
+{
+    return LeftOutCounts[static_cast<std::size_t>(reason)].key;
+}
+
+/// The number of the features with a reason.
+constexpr std::size_t &countOf(LeftOutReason reason, LeftOut &leftOut)
+{
+    return leftOut.*LeftOutCounts[static_cast<std::size_t>(reason)].count;
+}
 
 inline constexpr NamedCount<Substitutes> SubstituteCounts[] = {
     {"elseField", &Substitutes::elseField},     {"defaultHeight", &Substitutes::defaultHeight},
