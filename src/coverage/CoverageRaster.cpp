@@ -8,6 +8,7 @@
 #include "coverage/ValueReducer.h"
 #include "localfiles/NoNetwork.h"
 
+#include <cpl_string.h>
 #include <gdal_priv.h>
 #include <ogr_spatialref.h>
 
@@ -142,11 +143,28 @@ bool CoverageRaster::isPlaced() const
     return m_parts->isPlaced;
 }
 
-std::optional<double> CoverageRaster::valueUnder(std::span<const Ring> rings, Reduction reduction)
+ValueKind CoverageRaster::valueKind() const
+{
+    GDALRasterBand &band = *m_parts->dataset->GetRasterBand(1);
+    if (!GDALDataTypeIsInteger(band.GetRasterDataType()) || band.GetScale() != 1 ||
+        band.GetOffset() != 0)
+        return ValueKind::Numbers;
+    return band.GetCategoryNames() || band.GetColorTable() ? ValueKind::Classes
+                                                           : ValueKind::Integers;
+}
+
+std::string CoverageRaster::className(double value) const
+{
+    const CPLStringList names(m_parts->dataset->GetRasterBand(1)->GetCategoryNames(), FALSE);
+    const bool hasName = value >= 0 && value < names.size() && value == std::floor(value);
+    return hasName ? names[static_cast<int>(value)] : "";
+}
+
+ValuesUnder CoverageRaster::under(std::span<const Ring> rings, Reduction reduction, bool withCounts)
 {
     if (!m_parts->isPlaced || !m_parts->take(rings))
-        return std::nullopt;
-    ValueReducer reducer(reduction);
+        return {};
+    ValueReducer reducer(reduction, withCounts);
     RasterBlocks &blocks = m_parts->blocks;
     bool isWithin = false;
     m_parts->runs.find(
@@ -157,7 +175,10 @@ std::optional<double> CoverageRaster::valueUnder(std::span<const Ring> rings, Re
         });
     if (!isWithin)
         m_parts->addMiddle(reducer);
-    return reducer.result();
+    ValuesUnder under{reducer.result(), reducer.number(), {}};
+    if (withCounts)
+        under.counts = reducer.counts();
+    return under;
 }
 
 } // namespace vlt::coverage

@@ -5,6 +5,7 @@
 #include "contract/Progress.h"
 #include "contract/RasterColors.h"
 
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <span>
@@ -27,6 +28,26 @@ struct ValueRange
     double minimum = 0;
     double maximum = 0;
 };
+
+/// A value and the number of pixels that have it.
+struct ValueCount
+{
+    double value = 0;
+    std::uint64_t pixels = 0;
+
+    bool operator==(const ValueCount &) const = default;
+};
+
+/// What the pixels under a building give.
+struct ValuesUnder
+{
+    std::optional<double> value;
+    std::uint64_t pixels = 0;       ///< that have a value
+    std::vector<ValueCount> counts; ///< of each value, ascending; empty unless they are asked for
+};
+
+/// The meaning of the values of a raster.
+enum class ValueKind { Numbers, Integers, Classes };
 
 /// A local one-band raster of values in any unit, such as signal levels. Not for two threads at
 /// once.
@@ -53,7 +74,13 @@ public:
     /// Whether the raster is georeferenced, so that positions determine pixels.
     bool isPlaced() const;
 
-    /// The value under a building. It is computed from the pixels whose centres lie within its
+    /// Integers of which the file names the classes or gives the colours are Classes.
+    ValueKind valueKind() const;
+
+    /// The name that the file gives a class; empty for none.
+    std::string className(double value) const;
+
+    /// The values under a building. They are computed from the pixels whose centres lie within its
     /// rings (even-odd: a ring within another is a hole); if there are none, from the pixel under
     /// the centre of its first ring. Pixels without a value, or with one that is not finite, are
     /// ignored.
@@ -61,9 +88,15 @@ public:
     /// If several values are most represented, the smallest of them is returned. In an average all
     /// pixels have the same weight.
     ///
-    /// @param rings  in the system of the raster
-    /// @return       nothing if no pixel under the building has a value
-    std::optional<double> valueUnder(std::span<const Ring> rings, Reduction reduction);
+    /// @param rings       in the system of the raster
+    /// @param withCounts  whether the pixels of each value are counted
+    ValuesUnder under(std::span<const Ring> rings, Reduction reduction, bool withCounts = false);
+
+    /// The value of under().
+    std::optional<double> valueUnder(std::span<const Ring> rings, Reduction reduction)
+    {
+        return under(rings, reduction).value;
+    }
 
 private:
     class Parts;

@@ -29,7 +29,7 @@ void ValueReducer::count(double value)
     m_most = m_number == 0 ? value : std::max(m_most, value);
     m_sum += value;
     ++m_number;
-    if (m_reduction != Reduction::MostRepresented)
+    if (!m_keepsCounts)
         return;
     m_waiting.push_back(value);
     if (m_waiting.size() >= MaxWaiting)
@@ -39,25 +39,31 @@ void ValueReducer::count(double value)
 void ValueReducer::gather()
 {
     std::sort(m_waiting.begin(), m_waiting.end());
-    std::vector<std::pair<double, std::uint64_t>> counts;
+    std::vector<ValueCount> counts;
     auto known = m_counts.begin();
     const auto add = [&](double value, std::uint64_t number) {
-        if (!counts.empty() && counts.back().first == value)
-            counts.back().second += number;
+        if (!counts.empty() && counts.back().value == value)
+            counts.back().pixels += number;
         else
-            counts.emplace_back(value, number);
+            counts.push_back({value, number});
     };
     for (const double value : m_waiting) {
-        for (; known != m_counts.end() && known->first <= value; ++known)
-            add(known->first, known->second);
+        for (; known != m_counts.end() && known->value <= value; ++known)
+            add(known->value, known->pixels);
         add(value, 1);
     }
     for (; known != m_counts.end(); ++known)
-        add(known->first, known->second);
+        add(known->value, known->pixels);
     m_waiting.clear();
     if (counts.size() > MaxCounts)
-        std::erase_if(counts, [](const auto &one) { return one.second == 1; });
+        std::erase_if(counts, [](const auto &one) { return one.pixels == 1; });
     m_counts = std::move(counts);
+}
+
+const std::vector<ValueCount> &ValueReducer::counts()
+{
+    gather();
+    return m_counts;
 }
 
 double ValueReducer::mostRepresented()
@@ -65,8 +71,8 @@ double ValueReducer::mostRepresented()
     gather();
     const auto most =
         std::max_element(m_counts.begin(), m_counts.end(),
-                         [](const auto &a, const auto &b) { return a.second < b.second; });
-    return most == m_counts.end() ? m_least : most->first;
+                         [](const auto &a, const auto &b) { return a.pixels < b.pixels; });
+    return most == m_counts.end() ? m_least : most->value;
 }
 
 std::optional<double> ValueReducer::result()

@@ -8,6 +8,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <functional>
@@ -167,9 +168,17 @@ private Q_SLOTS:
             }
             if (within.empty())
                 continue;
-            const auto found = valueUnder(*raster.file, ringsOf(*shape->toPolygon()), reduction);
-            QVERIFY(found);
-            QCOMPARE(*found, reduced(within, reduction));
+            const Rings rings = ringsOf(*shape->toPolygon());
+            const ValuesUnder found =
+                raster->under(std::vector<Ring>(rings.begin(), rings.end()), reduction, true);
+            QVERIFY(found.value);
+            QCOMPARE(*found.value, reduced(within, reduction));
+            QCOMPARE(found.pixels, within.size());
+            std::vector<double> counted;
+            for (const ValueCount &one : found.counts)
+                counted.insert(counted.end(), one.pixels, one.value);
+            std::sort(within.begin(), within.end());
+            QCOMPARE(counted, within);
             ++compared;
             pixels += int(within.size());
         }
@@ -247,6 +256,51 @@ private Q_SLOTS:
         }
         QCOMPARE(CoverageRaster::open(path, "-77")->range()->maximum, -99.5);
         QVERIFY(!CoverageRaster::open(fileOf("none.tif", 1, {FileNoData}, {}), "")->range());
+    }
+
+    void distinguishesClassesFromNumbers_data()
+    {
+        using Finish = std::function<void(GDALDataset &)>;
+        const Cases<int, Finish, int, QByteArray> row({"type", "finish", "kind", "names"});
+        const auto named = [](GDALDataset &made) {
+            const char *const names[] = {"", "none", "forest", nullptr};
+            made.GetRasterBand(1)->SetCategoryNames(const_cast<char **>(names));
+        };
+        row("reals", GDT_Float32, {}, int(ValueKind::Numbers), "");
+        row("integers", GDT_Int16, {}, int(ValueKind::Integers), "");
+        row(
+            "stored levels", GDT_Int16,
+            [](GDALDataset &made) { made.GetRasterBand(1)->SetScale(0.1); },
+            int(ValueKind::Numbers), "");
+        row(
+            "colours", GDT_Byte,
+            [](GDALDataset &made) {
+                GDALColorTable colors;
+                colors.SetColorEntry(1, std::array<GDALColorEntry, 1>{{{255, 0, 0, 255}}}.data());
+                made.GetRasterBand(1)->SetColorTable(&colors);
+            },
+            int(ValueKind::Classes), "");
+        row("names", GDT_Byte, named, int(ValueKind::Classes), "none|forest");
+    }
+
+    void distinguishesClassesFromNumbers()
+    {
+        QFETCH(int, type);
+        QFETCH(std::function<void(GDALDataset &)>, finish);
+        const std::string path = makeGeoTiff(
+            m_dir.filePath(QString::fromUtf8(QTest::currentDataTag()) + u".tif"_s),
+            {2, 2, 1, static_cast<GDALDataType>(type), northUp(0, 0, 1, 2), "", {}, finish});
+
+        const auto raster = CoverageRaster::open(path, "");
+
+        QVERIFY2(raster, raster.reason.c_str());
+        QTEST(int(raster->valueKind()), "kind");
+        QByteArrayList names;
+        for (const double value : {-1.0, 0.0, 1.0, 1.5, 2.0, 3.0}) {
+            if (const std::string name = raster->className(value); !name.empty())
+                names << QByteArray::fromStdString(name);
+        }
+        QTEST(names.join('|'), "names");
     }
 
     void findsTheRangeOfEachType_data()
