@@ -1,6 +1,6 @@
 #include "buildings/CountedBuildings.h"
 
-#include "city/CountCity.h"
+#include "city/CityValues.h"
 #include "contract/BadLayer.h"
 #include "language/ReaderText.h"
 
@@ -10,14 +10,15 @@ Result<CountedBuildings> countBuildings(const contract::BuildingDocument &docume
                                         const Progress &progress)
 {
     CountedBuildings counted;
-    city::Notices notices;
+    city::CityValues read;
     try {
-        counted.counts = city::countCity(document, {"/"}, notices, progress);
+        read = city::readCityValues(document, {"/"}, city::ClassCounts::Ignored, progress);
     } catch (const contract::BadLayer &fault) {
         return Error::asIs(language::readerText(QString::fromStdString(fault.what())),
                            QString::fromStdString(document.footprints.file));
     }
-    for (const std::string &notice : notices)
+    counted.counts = read.city.counts;
+    for (const std::string &notice : read.notices)
         counted.notices << language::readerText(QString::fromStdString(notice));
     return counted;
 }

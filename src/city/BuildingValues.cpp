@@ -75,7 +75,7 @@ std::vector<std::size_t> featuresInRows(const Footprints &footprints)
     return order;
 }
 
-std::optional<double> BuildingValues::under(std::size_t first)
+coverage::ValuesUnder BuildingValues::valuesUnder(std::size_t first, bool withCounts)
 {
     m_positions.clear();
     m_rings.clear();
@@ -97,7 +97,7 @@ std::optional<double> BuildingValues::under(std::size_t first)
             rest = rest.subspan(ring.end - ring.begin);
         }
     }
-    return m_raster.valueUnder(m_rings, m_reduction);
+    return m_raster.under(m_rings, m_reduction, withCounts);
 }
 
 } // namespace vlt::city

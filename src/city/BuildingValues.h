@@ -43,10 +43,13 @@ public:
         , m_reduction(reduction)
     {}
 
-    /// The value under all buildings of a feature; nothing if there is none.
+    /// The values under all buildings of a feature.
     ///
     /// @param first  index of its first building
-    std::optional<double> under(std::size_t first);
+    coverage::ValuesUnder valuesUnder(std::size_t first, bool withCounts);
+
+    /// The value of valuesUnder().
+    std::optional<double> under(std::size_t first) { return valuesUnder(first, false).value; }
 
 private:
     const Footprints &m_footprints;

@@ -145,7 +145,7 @@ bool CoverageRaster::isPlaced() const
 
 ValueKind CoverageRaster::valueKind() const
 {
-    GDALRasterBand &band = *m_parts->dataset->GetRasterBand(1);
+    GDALRasterBand &band = m_parts->blocks.band();
     if (!GDALDataTypeIsInteger(band.GetRasterDataType()) || band.GetScale() != 1 ||
         band.GetOffset() != 0)
         return ValueKind::Numbers;
@@ -155,7 +155,7 @@ ValueKind CoverageRaster::valueKind() const
 
 std::string CoverageRaster::className(double value) const
 {
-    const CPLStringList names(m_parts->dataset->GetRasterBand(1)->GetCategoryNames(), FALSE);
+    const CPLStringList names(m_parts->blocks.band().GetCategoryNames(), FALSE);
     const bool hasName = value >= 0 && value < names.size() && value == std::floor(value);
     return hasName ? names[static_cast<int>(value)] : "";
 }

@@ -25,6 +25,7 @@ public:
     /// @param noData   a stored "no data" value in addition to the band's own
     RasterBlocks(GDALRasterBand &band, std::optional<double> noData);
 
+    GDALRasterBand &band() const { return m_band; }
     int columns() const { return m_band.GetXSize(); }
     int rows() const { return m_band.GetYSize(); }
 

@@ -1,5 +1,5 @@
 #include "city/CityInputs.h"
-#include "city/CountCity.h"
+#include "city/CityValues.h"
 #include "city/HeightCounts.h"
 #include "contract/BadLayer.h"
 #include "support/Cases.h"
@@ -263,14 +263,68 @@ private Q_SLOTS:
             BuildingDocument made = document("levels.geojson", "building:levels");
             made.footprints.wallColor =
                 std::string("IMAGE;") + raster + ";map.txt;average;absolute;interpolation";
-            city::Notices notices;
-            return summary(city::countCity(made, {m_dir.path().toStdString()}, notices,
-                                           [](double) { return true; }));
+            return summary(city::readCityValues(made, {m_dir.path().toStdString()},
+                                                city::ClassCounts::Wanted,
+                                                [](double) { return true; })
+                               .city.counts);
         };
 
         const QString others = u"8: 5 drawn, 2 missingHeight, 1 notPositive, 5 zeroGround"_s;
         QCOMPARE(counted("values.tif"), others + u", 2 noValue"_s);
         QCOMPARE(counted("none.tif"), others + u", 5 noValue"_s);
+    }
+
+    void valuesBuildings_data()
+    {
+        const Cases<int, bool, QByteArray, QString> row({"type", "isNamed", "mode", "values"});
+        row("levels: no classes", GDT_Float32, false, "mostRepresented",
+            u"1 (4) 1 (4) 2 (4) - -"_s);
+        row("whole levels: none either", GDT_Byte, false, "average",
+            u"1.5 (4) 1.5 (4) 2 (4) - -"_s);
+        row("integers that are no levels", GDT_Byte, false, "mostRepresented",
+            u"1 (4) 1 (4) 2 (4) - -: 1=2 2=2, 1=2 2=2, 2=4, , "_s);
+        row("classes with names", GDT_Byte, true, "maximum",
+            u"2 (4) 2 (4) 2 (4) - -: 1=2 woods=2, 1=2 woods=2, woods=4, , "_s);
+    }
+
+    /// Four pixels under each of the first three buildings, which stand at 0, 20 and 80 m.
+    void valuesBuildings()
+    {
+        QFETCH(int, type);
+        QFETCH(bool, isNamed);
+        QFETCH(QByteArray, mode);
+        makeGeoTiff(m_dir.filePath(u"classes.tif"_s),
+                    {20, 2, 1, GDALDataType(type), northUp(East, North, 5, 2), "EPSG:2154",
+                     [](int column, int row, int) { return row == 0 && column < 16 ? 1 : 2; },
+                     [isNamed](GDALDataset &made) {
+                         const char *const names[] = {"sea", "", "woods", nullptr};
+                         if (isNamed)
+                             made.GetRasterBand(1)->SetCategoryNames(const_cast<char **>(names));
+                     }});
+        BuildingDocument made = document("levels.geojson", "building:levels");
+        made.footprints.roofColor = "cmap:datasource=classes.tif;cmap=m.txt;stretchcmap=FALSE;"
+                                    "interpolatecmap=TRUE;band=1;type=" +
+                                    mode.toStdString();
+
+        const city::CityValues read =
+            city::readCityValues(made, {m_dir.path().toStdString()}, city::ClassCounts::Wanted,
+                                 [](double) { return true; });
+
+        QStringList found;
+        QStringList shares;
+        for (const city::FeatureValue &one : read.values) {
+            found << (one.value ? u"%1 (%2)"_s.arg(*one.value).arg(one.pixels) : u"-"_s);
+            QStringList counts;
+            for (const auto &[value, pixels] : read.countsOf(one)) {
+                for (const auto &[known, name] : read.classes) {
+                    if (known == value)
+                        counts << u"%1=%2"_s.arg(QString::fromStdString(name)).arg(pixels);
+                }
+            }
+            shares << counts.join(u' ');
+        }
+        const QString classes = read.classes.empty() ? QString() : u": "_s + shares.join(u", ");
+        QTEST(found.join(u' ') + classes, "values");
     }
 
     void refusesFilters()

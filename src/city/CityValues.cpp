@@ -1,0 +1,145 @@
+#include "city/CityValues.h"
+
+#include "city/BuildingValues.h"
+#include "contract/BadLayer.h"
+#include "contract/Stopped.h"
+
+#include <algorithm>
+#include <set>
+#include <sstream>
+
+namespace vlt::city {
+
+namespace {
+
+using contract::RasterColors;
+using coverage::CoverageRaster;
+using coverage::ValueCount;
+using coverage::ValueKind;
+
+constexpr double InputsShare = 0.6; ///< of the work, if there is a raster
+constexpr std::size_t BuildingsPerReport = 100;
+
+std::optional<RasterColors> colorsOf(const contract::BuildingFootprints &footprints)
+{
+    const auto walls = contract::parseRasterColors(footprints.wallColor);
+    return walls ? walls : contract::parseRasterColors(footprints.roofColor);
+}
+
+bool mayBeClassified(const CoverageRaster &raster, const RasterColors &colors)
+{
+    const ValueKind kind = raster.valueKind();
+    return kind == ValueKind::Classes || (kind == ValueKind::Integers &&
+                                          colors.reduction == contract::Reduction::MostRepresented);
+}
+
+/// Makes the values of a city.
+class Valuer
+{
+public:
+    Valuer(CityValues &read, const RasterColors &colors,
+           const std::vector<std::string> &directories, ClassCounts classCounts)
+        : m_read(read)
+        , m_raster(openRaster(colors, directories))
+        , m_transform(wktOf(read.city.srs), m_raster->srs())
+        , m_withCounts(classCounts == ClassCounts::Wanted && mayBeClassified(*m_raster, colors))
+        , m_values(read.city.footprints, m_transform, *m_raster, colors.reduction)
+    {
+        checkTransform(m_transform, colors);
+    }
+
+    /// @return  number of features without a value
+    std::size_t run(const Progress &progress)
+    {
+        const Footprints &footprints = m_read.city.footprints;
+        m_read.values.resize(footprints.features.size());
+        const std::vector<std::size_t> order = featuresInRows(footprints);
+        std::size_t without = 0;
+        std::size_t done = 0;
+        for (const std::size_t first : order) {
+            if (done++ % BuildingsPerReport == 0 &&
+                !progress(static_cast<double>(done - 1) / static_cast<double>(order.size())))
+                throw contract::Stopped{};
+            const coverage::ValuesUnder under = m_values.valuesUnder(first, m_withCounts);
+            without += under.value ? 0 : 1;
+            keep(m_read.values[footprints.buildings[first].feature], under);
+        }
+        for (const double value : m_classes)
+            m_read.classes.push_back({value, nameOf(value)});
+        return without;
+    }
+
+private:
+    void keep(FeatureValue &kept, const coverage::ValuesUnder &under)
+    {
+        kept.value = under.value;
+        kept.pixels = under.pixels;
+        if (!m_withCounts)
+            return;
+        kept.countBegin = static_cast<std::uint32_t>(m_read.counts.size());
+        m_read.counts.insert(m_read.counts.end(), under.counts.begin(), under.counts.end());
+        kept.countEnd = static_cast<std::uint32_t>(m_read.counts.size());
+        for (const ValueCount &count : under.counts)
+            m_classes.insert(count.value);
+        if (m_classes.size() > MaxClasses)
+            giveUpClasses();
+    }
+
+    void giveUpClasses()
+    {
+        m_withCounts = false;
+        m_classes.clear();
+        m_read.counts = {};
+        for (FeatureValue &value : m_read.values)
+            value.countBegin = value.countEnd = 0;
+    }
+
+    std::string nameOf(double value) const
+    {
+        if (std::string name = m_raster->className(value); !name.empty())
+            return name;
+        std::ostringstream text;
+        text.imbue(std::locale::classic());
+        text << static_cast<std::int64_t>(value);
+        return text.str();
+    }
+
+    CityValues &m_read;
+    std::unique_ptr<CoverageRaster> m_raster;
+    PositionTransform m_transform;
+    bool m_withCounts;
+    BuildingValues m_values;
+    std::set<double> m_classes;
+};
+
+} // namespace
+
+CityValues readCityValues(const contract::BuildingDocument &document,
+                          const std::vector<std::string> &directories, ClassCounts classCounts,
+                          const Progress &progress)
+{
+    const std::optional<RasterColors> colors = colorsOf(document.footprints);
+    const double inputsShare = colors ? InputsShare : 1;
+    CityValues read;
+    read.city = readCityInputs(document, directories, read.notices,
+                               [&](double share) { return progress(share * inputsShare); });
+    if (!colors)
+        return read;
+    contract::CityCounts &counts = read.city.counts;
+    std::size_t &without = counts.substitutes.noValue;
+    try {
+        without = Valuer(read, *colors, directories, classCounts).run([&](double share) {
+            return progress(InputsShare + share * (1 - InputsShare));
+        });
+    } catch (const contract::BadLayer &fault) {
+        read.notices.push_back(fault.what());
+        without = counts.drawn;
+        return read;
+    }
+    read.hasRaster = true;
+    if (without > 0)
+        read.notices.push_back(withoutValue(without, counts.drawn, *colors));
+    return read;
+}
+
+} // namespace vlt::city
