@@ -63,6 +63,18 @@ std::optional<QFileInfo> behindLinks(const QString &path)
     return file;
 }
 
+/// Renames a complete file.
+///
+/// @param path  of the error
+Result<Done> rename(const QFile &file, const QFileInfo &target, const QString &path)
+{
+    std::error_code reason;
+    std::filesystem::rename(file.filesystemFileName(), target.filesystemAbsoluteFilePath(), reason);
+    if (reason)
+        return Error::fromLibrary(QString::fromStdString(reason.message()), path);
+    return Done{};
+}
+
 } // namespace
 
 Result<QString> writtenFile(const QString &path, Access access)
@@ -106,12 +118,51 @@ Result<Done> writeWhole(const QString &path, const QByteArray &bytes, Access acc
     if (file.error() != QFileDevice::NoError)
         return failed(file.errorString());
 
-    std::error_code reason;
-    std::filesystem::rename(file.filesystemFileName(), target.filesystemAbsoluteFilePath(), reason);
-    if (reason)
-        return failed(QString::fromStdString(reason.message()));
-    litter.dismiss();
-    return Done{};
+    Result<Done> renamed = rename(file, target, path);
+    if (renamed)
+        litter.dismiss();
+    return renamed;
+}
+
+Result<std::unique_ptr<FileAside>> FileAside::create(const QString &path)
+{
+    const Result<QString> target = writtenFile(path, Access::Shared);
+    if (!target)
+        return target.error();
+    auto folder = std::make_unique<QTemporaryDir>(
+        QFileInfo(target.value()).absoluteDir().filePath(QStringLiteral(".vlt-XXXXXX")));
+    if (!folder->isValid())
+        return Error::fromLibrary(folder->errorString(), path);
+    return std::unique_ptr<FileAside>(new FileAside(path, target.value(), std::move(folder)));
+}
+
+FileAside::FileAside(const QString &path, const QString &target,
+                     std::unique_ptr<QTemporaryDir> folder)
+    : m_path(path)
+    , m_target(target)
+    , m_folder(std::move(folder))
+{}
+
+QString FileAside::name() const
+{
+    return m_folder->filePath(QStringLiteral("file.") + QFileInfo(m_path).suffix());
+}
+
+Result<Done> FileAside::replace()
+{
+    const auto failed = [this](const QString &reason) {
+        return Error::fromLibrary(reason, m_path);
+    };
+    const QFileInfo target(m_target);
+    QFile file(name());
+    if (!file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly))
+        return failed(file.errorString());
+    if (target.isFile() && !file.setPermissions(target.permissions()))
+        return failed(file.errorString());
+    if (const std::optional<QString> reason = flushToDisk(file))
+        return failed(*reason);
+    file.close();
+    return rename(file, target, m_path);
 }
 
 } // namespace vlt::platform

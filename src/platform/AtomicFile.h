@@ -4,6 +4,9 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QTemporaryDir>
+
+#include <memory>
 
 namespace vlt::platform {
 
@@ -35,5 +38,31 @@ Result<QString> writtenFile(const QString &path, Access access);
 /// @par Errors  those of writtenFile(); a directory that is missing or not writable; a full device.
 ///              The detail is the system's reason, the path is `path`.
 Result<Done> writeWhole(const QString &path, const QByteArray &bytes, Access access);
+
+/// A file that is written under another name and then replaces `path`, for writers that need a name
+/// and for files that are too large for the memory. Without replace() it disappears with this
+/// object.
+class FileAside
+{
+public:
+    /// @par Errors  those of writtenFile() for Access::Shared; a directory that is missing or not
+    ///              writable
+    static Result<std::unique_ptr<FileAside>> create(const QString &path);
+
+    /// The name to write: beside `path`, with its suffix. There is no such file yet.
+    QString name() const;
+
+    /// Flushes the file, which must be closed, to the disk and renames it.
+    ///
+    /// @par Errors  as of writeWhole()
+    Result<Done> replace();
+
+private:
+    FileAside(const QString &path, const QString &target, std::unique_ptr<QTemporaryDir> folder);
+
+    QString m_path;
+    QString m_target;
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
 
 } // namespace vlt::platform

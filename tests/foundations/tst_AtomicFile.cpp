@@ -15,6 +15,7 @@
 
 using namespace Qt::StringLiterals;
 using vlt::platform::Access;
+using vlt::platform::FileAside;
 using vlt::platform::writeWhole;
 
 namespace {
@@ -101,6 +102,31 @@ private Q_SLOTS:
             QCOMPARE(readFile(dir.filePath(name)), QByteArray("new"));
             QCOMPARE(namesIn(dir.filePath(u"published"_s)), QStringList{u"layer"_s});
         }
+    }
+
+    /// A file that another writer makes under a name of its own.
+    void replacesAFileByOneAside()
+    {
+        const QTemporaryDir dir;
+        const QString target = dir.filePath(u"values.gpkg"_s);
+        const QString path = dir.filePath(u"link.csv"_s);
+        writeFile(target, "old");
+        ::chmod(QFile::encodeName(target).constData(), 0640);
+        QVERIFY(QFile::link(u"values.gpkg"_s, path));
+        const QStringList names = namesIn(dir.path());
+
+        for (const bool isReplaced : {false, true}) {
+            const auto aside = FileAside::create(path);
+            QVERIFY(aside.ok());
+            QVERIFY(aside.value()->name().endsWith(u".csv"_s));
+            writeFile(aside.value()->name(), "new");
+            QVERIFY(!isReplaced || aside.value()->replace().ok());
+            QCOMPARE(readFile(path), QByteArray(isReplaced ? "new" : "old"));
+        }
+        QCOMPARE(modeOf(target), mode_t(0640));
+        QVERIFY(QFileInfo(path).isSymbolicLink());
+        QCOMPARE(namesIn(dir.path()), names);
+        QVERIFY(!FileAside::create(dir.filePath(u"gone/layer"_s)).ok());
     }
 
     void leavesTheOldFileOnAFullDevice()
