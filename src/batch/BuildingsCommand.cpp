@@ -6,7 +6,7 @@
 #include "batch/Help.h"
 #include "batch/OutputFiles.h"
 #include "batch/ProgressLine.h"
-#include "buildings/CountedBuildings.h"
+#include "buildings/ValuedBuildings.h"
 #include "language/VltLanguageManager.h"
 
 #include <QFileInfo>
@@ -22,6 +22,7 @@ namespace {
 
 using buildings::BuildingLayerFiles;
 using buildings::TexbSubtype;
+using buildings::ValuedBuildings;
 
 CommandSyntax syntax()
 {
@@ -62,20 +63,35 @@ Result<BuildingLayerFiles> writeFiles(const BuildingsRequest &request,
                                                             inputs.coloring, access);
 }
 
-/// Counts what would be drawn. Nothing to draw is an error.
-Result<buildings::CountedBuildings> countDrawn(const BuildingsRequest &request,
-                                               const BuildingsInputs &inputs, bool quiet)
+/// Reads what would be drawn. Nothing to draw is an error.
+Result<ValuedBuildings> readDrawn(const BuildingsRequest &request, const BuildingsInputs &inputs,
+                                  bool quiet)
 {
     ProgressLine line(dico_label("MESS_CLI_COUNTING_BUILDINGS", "Counting the buildings"), !quiet);
-    Result<buildings::CountedBuildings> counted = buildings::countBuildings(
+    // The progress line never stops the work, so there is a value.
+    Result<ValuedBuildings> read = *ValuedBuildings::read(
         request.texturing ? buildings::texturedDocument(inputs.layer, inputs.texturing)
                           : buildings::coloredDocument(inputs.layer, inputs.coloring),
         line.progress());
-    if (counted && counted.value().counts.drawn == 0)
+    if (!read)
+        return read;
+    const buildings::CountedBuildings counted = read.value().counted();
+    if (counted.counts.drawn == 0)
         return Error::asIs(dico_label("MESS_CLI_NO_BUILDING", "no building can be drawn: %1")
-                               .arg(counted.value().notices.join(QStringLiteral("; "))),
+                               .arg(counted.notices.join(QStringLiteral("; "))),
                            inputs.layer.source.file);
-    return counted;
+    return read;
+}
+
+/// Writes the list of the buildings if it is wanted.
+Result<Done> writeValues(const BuildingsRequest &request, const BuildingsInputs &inputs,
+                         const ValuedBuildings &read, bool quiet)
+{
+    if (!request.values)
+        return Done{};
+    ProgressLine line(dico_label("MESS_WRITING_VALUES", "Writing the values of the buildings..."),
+                      !quiet);
+    return *read.write(*request.values, inputs.layer.legend, line.progress());
 }
 
 template<typename Counts, std::size_t N>
@@ -122,6 +138,9 @@ QString layerJson(const BuildingsRequest &request, const BuildingsInputs &inputs
         {QStringLiteral("layer"), QFileInfo(files.layer).absoluteFilePath()},
         {QStringLiteral("document"), files.document},
         {QStringLiteral("legend"), textOrNull(files.legend)},
+        {QStringLiteral("values"),
+         textOrNull(request.values ? QFileInfo(request.values->path).absoluteFilePath()
+                                   : QString())},
         {QStringLiteral("subtype"), buildings::subtypeName(subtype)},
         {QStringLiteral("vector"), source.file},
         {QStringLiteral("vectorLayer"), source.layer},
@@ -150,25 +169,29 @@ ExitStatus runParsed(const BuildingsRequest &request, const GlobalOptions &optio
         readBuildingsInputs(request, surroundings, options.quiet);
     if (!inputs)
         return refuse(inputs.error());
-    for (const QString &output : buildings::possibleFilesOf(request.output, inputs.value().layer)) {
+    QStringList outputs = buildings::possibleFilesOf(request.output, inputs.value().layer);
+    if (request.values)
+        outputs << request.values->path;
+    for (const QString &output : outputs) {
         if (isOneOf(output, inputs.value().files))
             return refuse(outputIsInput(output));
     }
-    const Result<buildings::CountedBuildings> counted =
-        countDrawn(request, inputs.value(), options.quiet);
-    if (!counted)
-        return refuse(counted.error());
+    const Result<ValuedBuildings> read = readDrawn(request, inputs.value(), options.quiet);
+    if (!read)
+        return refuse(read.error());
+    const buildings::CountedBuildings counted = read.value().counted();
+    if (const auto done = writeValues(request, inputs.value(), read.value(), options.quiet); !done)
+        return refuse(done.error());
     const Result<BuildingLayerFiles> written = writeFiles(request, inputs.value());
     if (!written)
         return refuse(written.error());
     if (!options.quiet) {
-        for (const QString &warning : inputs.value().warnings + counted.value().notices)
+        for (const QString &warning : inputs.value().warnings + counted.notices)
             printError(warning);
     }
     if (request.texturing && !options.quiet)
         warnOfImages(inputs.value());
-    if (options.json &&
-        !printOut(layerJson(request, inputs.value(), written.value(), counted.value())))
+    if (options.json && !printOut(layerJson(request, inputs.value(), written.value(), counted)))
         return refuse({QStringLiteral("MESS_CLI_OUTPUT_FAILED"),
                        QStringLiteral("the output cannot be written"),
                        {}});

@@ -1,6 +1,7 @@
 #include "batch/BuildingsOptions.h"
 
 #include "batch/BuildingsHeightOptions.h"
+#include "batch/BuildingsValues.h"
 #include "contract/RasterColors.h"
 #include "language/VltLanguageManager.h"
 
@@ -192,7 +193,7 @@ QList<QCommandLineOption> buildingsOptions()
          dico_label("MESS_OPT_CHECK_CLOCKWISE", "Check the directions of the outlines.")},
     };
     return inputs + heightOptions() + numberOptionList(buildingsNumbers()) + coloredOptions() +
-           texturedOptions() + textureStorageOptions();
+           texturedOptions() + textureStorageOptions() + valuesOptions();
 }
 
 } // namespace vlt::batch

@@ -1,6 +1,7 @@
 #include "batch/BuildingsRequest.h"
 
 #include "batch/BuildingsOptions.h"
+#include "batch/BuildingsValues.h"
 #include "batch/ColorText.h"
 #include "batch/OutputFiles.h"
 #include "contract/NoDataText.h"
@@ -251,6 +252,10 @@ Result<BuildingsRequest> readBuildingsRequest(const QCommandLineParser &parser)
     if (!heights)
         return heights.error();
     request.heights = heights.value();
+    const auto values = readValuesOptions(parser);
+    if (!values)
+        return values.error();
+    request.values = values.value();
     BuildingsMeasures measures;
     if (const auto error = readNumberOptions(parser, buildingsNumbers(), measures))
         return *error;

@@ -3,6 +3,7 @@
 #include "batch/BuildingsHeightOptions.h"
 #include "buildings/BuildingLayerFiles.h"
 #include "buildings/TextureFolders.h"
+#include "buildings/ValuedBuildings.h"
 
 #include <QCommandLineParser>
 
@@ -35,6 +36,7 @@ struct BuildingsRequest
     /// textures have no images yet, and the colours may be ColorMapWord.
     std::optional<buildings::TexturingParameters> texturing;
     TextureChoice textures; ///< for parameters with textures
+    std::optional<buildings::ValuesTarget> values;
 };
 
 /// The request of the options; options that are not given have their first-run values.

@@ -1,26 +1,17 @@
 #include "buildings/CountedBuildings.h"
 
-#include "city/CityValues.h"
-#include "contract/BadLayer.h"
-#include "language/ReaderText.h"
+#include "buildings/ValuedBuildings.h"
 
 namespace vlt::buildings {
 
 Result<CountedBuildings> countBuildings(const contract::BuildingDocument &document,
                                         const Progress &progress)
 {
-    CountedBuildings counted;
-    city::CityValues read;
-    try {
-        read = city::readCityValues(document, {"/"}, city::ClassCounts::Ignored, progress);
-    } catch (const contract::BadLayer &fault) {
-        return Error::asIs(language::readerText(QString::fromStdString(fault.what())),
-                           QString::fromStdString(document.footprints.file));
-    }
-    counted.counts = read.city.counts;
-    for (const std::string &notice : read.notices)
-        counted.notices << language::readerText(QString::fromStdString(notice));
-    return counted;
+    // The progress never stops the work, so there is a value.
+    const Result<ValuedBuildings> read = *ValuedBuildings::read(document, progress);
+    if (!read)
+        return read.error();
+    return read.value().counted();
 }
 
 } // namespace vlt::buildings

@@ -26,11 +26,10 @@ std::optional<RasterColors> colorsOf(const contract::BuildingFootprints &footpri
     return walls ? walls : contract::parseRasterColors(footprints.roofColor);
 }
 
-bool mayBeClassified(const CoverageRaster &raster, const RasterColors &colors)
+bool mayBeClasses(const CoverageRaster &raster, const RasterColors &colors)
 {
-    const ValueKind kind = raster.valueKind();
-    return kind == ValueKind::Classes || (kind == ValueKind::Integers &&
-                                          colors.reduction == contract::Reduction::MostRepresented);
+    return raster.valueKind() == ValueKind::Integers &&
+           colors.reduction == contract::Reduction::MostRepresented;
 }
 
 /// Makes the values of a city.
@@ -42,7 +41,9 @@ public:
         : m_read(read)
         , m_raster(openRaster(colors, directories))
         , m_transform(wktOf(read.city.srs), m_raster->srs())
-        , m_withCounts(classCounts == ClassCounts::Wanted && mayBeClassified(*m_raster, colors))
+        , m_hasClasses(m_raster->valueKind() == ValueKind::Classes)
+        , m_withCounts(classCounts == ClassCounts::Wanted &&
+                       (m_hasClasses || mayBeClasses(*m_raster, colors)))
         , m_values(read.city.footprints, m_transform, *m_raster, colors.reduction)
     {
         checkTransform(m_transform, colors);
@@ -81,7 +82,8 @@ private:
         kept.countEnd = static_cast<std::uint32_t>(m_read.counts.size());
         for (const ValueCount &count : under.counts)
             m_classes.insert(count.value);
-        if (m_classes.size() > MaxClasses)
+        const bool isNumber = !m_hasClasses && !m_classes.empty() && *m_classes.begin() < 0;
+        if (isNumber || m_classes.size() > MaxClasses)
             giveUpClasses();
     }
 
@@ -107,6 +109,7 @@ private:
     CityValues &m_read;
     std::unique_ptr<CoverageRaster> m_raster;
     PositionTransform m_transform;
+    bool m_hasClasses; ///< the file says so
     bool m_withCounts;
     BuildingValues m_values;
     std::set<double> m_classes;

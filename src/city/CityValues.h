@@ -46,8 +46,8 @@ enum class ClassCounts { Wanted, Ignored };
 /// from a raster: that of the walls, else that of the roofs.
 ///
 /// A raster is classified if its file names classes or gives colours to its integers, or if the
-/// document takes the integer that is most represented, and the buildings cover no more than
-/// MaxClasses different ones.
+/// document takes the most represented of its integers and none is negative, and if the buildings
+/// cover no more than MaxClasses different ones.
 ///
 /// @param directories  searched for relative paths, in this order
 /// @param classCounts  whether the classes under each building are counted

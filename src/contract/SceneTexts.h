@@ -73,6 +73,7 @@ inline constexpr auto SceneTexts = [] {
         {"MESS_SCENE_NO_NUMBERS", "the field \"%1\" of the footprints holds no numbers"},
         {"MESS_SCENE_BAD_FILTER", "the filter \"%1\" cannot be used: %2", {Name, Nested}},
         {"MESS_SCENE_EMPTY_FILTER", "the filter \"%1\" leaves no building"},
+        {"MESS_SCENE_CHANGED_FOOTPRINTS", "the footprints have changed since they were read"},
 
         // buildings that are left out or moved
         {"MESS_SCENE_NO_HEIGHT",

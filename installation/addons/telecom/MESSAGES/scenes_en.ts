@@ -171,6 +171,10 @@
         <source>the filter "%1" leaves no building</source>
         <translation>the filter "%1" leaves no building</translation>
     </message>
+    <message id="MESS_SCENE_CHANGED_FOOTPRINTS">
+        <source>the footprints have changed since they were read</source>
+        <translation>the footprints have changed since they were read</translation>
+    </message>
     <message id="MESS_SCENE_NO_HEIGHT">
         <source>%1 of %2 buildings are left out: no height in the field "%3"</source>
         <translation>%1 of %2 buildings are left out: no height in the field "%3"</translation>

@@ -171,6 +171,10 @@
         <source>the filter "%1" leaves no building</source>
         <translation>le filtre «&#xa0;%1&#xa0;» ne retient aucun bâtiment</translation>
     </message>
+    <message id="MESS_SCENE_CHANGED_FOOTPRINTS">
+        <source>the footprints have changed since they were read</source>
+        <translation>les emprises ont changé depuis leur lecture</translation>
+    </message>
     <message id="MESS_SCENE_NO_HEIGHT">
         <source>%1 of %2 buildings are left out: no height in the field "%3"</source>
         <translation>bâtiments omis, sans hauteur dans le champ «&#xa0;%3&#xa0;»&#xa0;: %1 sur %2</translation>

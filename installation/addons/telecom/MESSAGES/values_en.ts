@@ -1,0 +1,23 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en_US" sourcelanguage="en">
+<context>
+    <name>Values of buildings</name>
+    <message id="MESS_OPT_VALUES">
+        <source>Also write a list of all buildings, with the value of the image under each: a CSV file, or a GeoPackage with the outlines.</source>
+        <translation>Also write a list of all buildings, with the value of the image under each: a CSV file, or a GeoPackage with the outlines.</translation>
+    </message>
+    <message id="MESS_OPT_ID_FIELD">
+        <source>Field that names the buildings in this list (default: ID, osm_id, cleabs or gml_id, if there is one).</source>
+        <translation>Field that names the buildings in this list (default: ID, osm_id, cleabs or gml_id, if there is one).</translation>
+    </message>
+    <message id="MESS_USE_VALUES_FILE">
+        <source>the name of a file .csv or .gpkg</source>
+        <translation>the name of a file .csv or .gpkg</translation>
+    </message>
+    <message id="MESS_WRITING_VALUES">
+        <source>Writing the values of the buildings...</source>
+        <translation>Writing the values of the buildings...</translation>
+    </message>
+</context>
+</TS>

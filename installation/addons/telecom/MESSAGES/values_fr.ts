@@ -1,0 +1,23 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr_FR" sourcelanguage="en">
+<context>
+    <name>Values of buildings</name>
+    <message id="MESS_OPT_VALUES">
+        <source>Also write a list of all buildings, with the value of the image under each: a CSV file, or a GeoPackage with the outlines.</source>
+        <translation>Écrire aussi la liste de tous les bâtiments, avec la valeur de l'image sous chacun&#xa0;: un fichier CSV, ou un GeoPackage avec les emprises.</translation>
+    </message>
+    <message id="MESS_OPT_ID_FIELD">
+        <source>Field that names the buildings in this list (default: ID, osm_id, cleabs or gml_id, if there is one).</source>
+        <translation>Champ qui nomme les bâtiments dans cette liste (par défaut&#xa0;: ID, osm_id, cleabs ou gml_id, s'il y en a un).</translation>
+    </message>
+    <message id="MESS_USE_VALUES_FILE">
+        <source>the name of a file .csv or .gpkg</source>
+        <translation>un nom de fichier .csv ou .gpkg</translation>
+    </message>
+    <message id="MESS_WRITING_VALUES">
+        <source>Writing the values of the buildings...</source>
+        <translation>Écriture des valeurs des bâtiments...</translation>
+    </message>
+</context>
+</TS>
