@@ -2,6 +2,7 @@
 
 #include "batch/BuildingsInputs.h"
 #include "batch/BuildingsOptions.h"
+#include "batch/BuildingsValues.h"
 #include "batch/Console.h"
 #include "batch/Help.h"
 #include "batch/OutputFiles.h"
@@ -124,6 +125,16 @@ void warnOfImages(const BuildingsInputs &inputs)
                 .arg(count));
 }
 
+/// The summary of the values that colour the buildings; nothing without such values.
+std::optional<buildings::ValueSummary> summaryOf(const BuildingsInputs &inputs,
+                                                 const buildings::CountedBuildings &counted)
+{
+    if (!inputs.layer.legend)
+        return std::nullopt;
+    return buildings::summarize(counted.values, *inputs.layer.legend,
+                                buildings::unitOf(counted.unit, inputs.coloring));
+}
+
 QString layerJson(const BuildingsRequest &request, const BuildingsInputs &inputs,
                   const BuildingLayerFiles &files, const buildings::CountedBuildings &counted)
 {
@@ -157,6 +168,8 @@ QString layerJson(const BuildingsRequest &request, const BuildingsInputs &inputs
         {QStringLiteral("yCenter"), source.yCenter},
         {QStringLiteral("warnings"),
          QJsonArray::fromStringList(inputs.warnings + counted.notices)}};
+    if (const auto summary = summaryOf(inputs, counted))
+        object.insert(QStringLiteral("summary"), summaryJson(*summary));
     if (request.texturing)
         object.insert(QStringLiteral("textures"), inputs.texturing.images.size());
     return QString::fromUtf8(QJsonDocument(object).toJson());
@@ -191,7 +204,12 @@ ExitStatus runParsed(const BuildingsRequest &request, const GlobalOptions &optio
     }
     if (request.texturing && !options.quiet)
         warnOfImages(inputs.value());
-    if (options.json && !printOut(layerJson(request, inputs.value(), written.value(), counted)))
+    QString report;
+    if (options.json)
+        report = layerJson(request, inputs.value(), written.value(), counted);
+    else if (const auto summary = summaryOf(inputs.value(), counted); summary && !options.quiet)
+        report = buildings::summaryText(*summary) + QLatin1Char('\n');
+    if (!report.isEmpty() && !printOut(report))
         return refuse({QStringLiteral("MESS_CLI_OUTPUT_FAILED"),
                        QStringLiteral("the output cannot be written"),
                        {}});

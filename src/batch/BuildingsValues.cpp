@@ -3,6 +3,8 @@
 #include "geodata/ValuesFile.h"
 #include "language/VltLanguageManager.h"
 
+#include <QJsonArray>
+
 namespace vlt::batch {
 
 namespace {
@@ -42,6 +44,29 @@ Result<std::optional<buildings::ValuesTarget>> readValuesOptions(const QCommandL
                           dico_label("MESS_USE_VALUES_FILE", "the name of a file .csv or .gpkg"),
                           target.path);
     return std::optional(target);
+}
+
+QJsonObject summaryJson(const buildings::ValueSummary &summary)
+{
+    const auto numberOrNull = [](const std::optional<double> &number) {
+        return number ? QJsonValue(*number) : QJsonValue(QJsonValue::Null);
+    };
+    QJsonArray classes;
+    for (qsizetype i = 0; i < summary.classes.size(); ++i) {
+        const buildings::ValueClass &one = summary.classes.at(i);
+        classes.append(
+            QJsonObject{{QStringLiteral("from"), numberOrNull(one.from)},
+                        {QStringLiteral("to"), numberOrNull(one.to)},
+                        {QStringLiteral("buildings"), static_cast<qint64>(one.buildings)},
+                        {QStringLiteral("shareFrom"), summary.shareFrom(i)}});
+    }
+    QJsonObject object{{QStringLiteral("buildings"), static_cast<qint64>(summary.buildings)},
+                       {QStringLiteral("unit"), summary.unit},
+                       {QStringLiteral("classes"), classes}};
+    for (std::size_t i = 0; i < std::size(buildings::QuantileShares); ++i)
+        object.insert(QLatin1String(buildings::QuantileShares[i].name),
+                      numberOrNull(summary.quantiles[i]));
+    return object;
 }
 
 } // namespace vlt::batch

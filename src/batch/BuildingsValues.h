@@ -1,7 +1,10 @@
 #pragma once
 
 #include "batch/CommandLine.h"
+#include "buildings/ValueSummary.h"
 #include "buildings/ValuedBuildings.h"
+
+#include <QJsonObject>
 
 #include <optional>
 
@@ -14,5 +17,8 @@ QList<QCommandLineOption> valuesOptions();
 ///
 /// @par Errors  wrong usage: a name without the suffix of such a file, --id-field alone or empty
 Result<std::optional<buildings::ValuesTarget>> readValuesOptions(const QCommandLineParser &parser);
+
+/// The summary as "summary" of the report for programs.
+QJsonObject summaryJson(const buildings::ValueSummary &summary);
 
 } // namespace vlt::batch

@@ -7,6 +7,8 @@
 
 #include <QStringList>
 
+#include <vector>
+
 namespace vlt::buildings {
 
 /// What the scene of a building document draws.
@@ -14,6 +16,8 @@ struct CountedBuildings
 {
     contract::CityCounts counts;
     QStringList notices; ///< in the language in use: what is left out or drawn with a substitute
+    std::vector<double> values; ///< of the buildings that have one in the raster of the colours
+    QString unit;               ///< that the raster states for them; may be empty
 };
 
 /// Reads the footprints, the ground and the raster of the colours as the scene does.

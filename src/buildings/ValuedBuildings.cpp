@@ -162,20 +162,14 @@ Stoppable<ValuedBuildings> ValuedBuildings::read(const contract::BuildingDocumen
 
 CountedBuildings ValuedBuildings::counted() const
 {
-    CountedBuildings counted{m_read->city.counts, {}};
+    CountedBuildings counted{m_read->city.counts, {}, {}, QString::fromStdString(m_read->unit)};
     for (const std::string &notice : m_read->notices)
         counted.notices << language::readerText(QString::fromStdString(notice));
-    return counted;
-}
-
-std::vector<double> ValuedBuildings::values() const
-{
-    std::vector<double> values;
     for (const city::FeatureValue &one : m_read->values) {
         if (one.value)
-            values.push_back(*one.value);
+            counted.values.push_back(*one.value);
     }
-    return values;
+    return counted;
 }
 
 Stoppable<Done> ValuedBuildings::write(const ValuesTarget &target,

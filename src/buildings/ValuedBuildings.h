@@ -30,9 +30,6 @@ public:
 
     CountedBuildings counted() const;
 
-    /// The values of the buildings that have one, in no order.
-    std::vector<double> values() const;
-
     /// Writes a row for each feature of the source, in its order: fid, id, height_m, height_from,
     /// base_m, bottom_m, value, pixels, share_CLASS for each class of a classified raster, color,
     /// left_out. Names and words are the same in all languages.

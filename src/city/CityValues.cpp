@@ -65,6 +65,7 @@ public:
             without += under.value ? 0 : 1;
             keep(m_read.values[footprints.buildings[first].feature], under);
         }
+        m_read.unit = m_raster->unit();
         for (const double value : m_classes)
             m_read.classes.push_back({value, nameOf(value)});
         return without;

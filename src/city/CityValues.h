@@ -26,6 +26,7 @@ struct CityValues
 {
     CityInputs city; ///< with the counts of colours
     bool hasRaster = false;
+    std::string unit;                 ///< that the raster states; may be empty
     std::vector<FeatureValue> values; ///< parallel to city.footprints.features if there is a raster
     std::vector<RasterClass> classes; ///< ascending; empty unless the raster is classified
     std::vector<coverage::ValueCount> counts; ///< of the classes under one feature after the other

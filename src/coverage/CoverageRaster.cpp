@@ -153,6 +153,11 @@ ValueKind CoverageRaster::valueKind() const
                                                            : ValueKind::Integers;
 }
 
+std::string CoverageRaster::unit() const
+{
+    return m_parts->blocks.band().GetUnitType();
+}
+
 std::string CoverageRaster::className(double value) const
 {
     const CPLStringList names(m_parts->blocks.band().GetCategoryNames(), FALSE);

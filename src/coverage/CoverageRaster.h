@@ -77,6 +77,9 @@ public:
     /// Integers of which the file names the classes or gives the colours are Classes.
     ValueKind valueKind() const;
 
+    /// The unit that the file states; empty for none.
+    std::string unit() const;
+
     /// The name that the file gives a class; empty for none.
     std::string className(double value) const;
 

@@ -1,6 +1,7 @@
 #include "ProgramRun.h"
 #include "support/GeoTiff.h"
 
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -66,8 +67,16 @@ private Q_SLOTS:
 
         QCOMPARE(run.errors, QByteArray());
         QCOMPARE(readFile(values(u"v.csv"_s)), Rows);
-        QCOMPARE(QJsonDocument::fromJson(run.output).object().value(u"values"_s).toString(),
-                 values(u"v.csv"_s));
+        const QJsonObject reported = QJsonDocument::fromJson(run.output).object();
+        QCOMPARE(reported.value(u"values"_s).toString(), values(u"v.csv"_s));
+        const QJsonObject summary = reported.value(u"summary"_s).toObject();
+        QCOMPARE(summary.value(u"buildings"_s).toInt(), 3);
+        QCOMPARE(summary.value(u"median"_s).toDouble(), 1.5);
+        const QJsonObject highest = summary.value(u"classes"_s).toArray().last().toObject();
+        QCOMPARE(highest, (QJsonObject{{u"from"_s, 2.},
+                                       {u"to"_s, QJsonValue::Null},
+                                       {u"buildings"_s, 1},
+                                       {u"shareFrom"_s, 1. / 3}}));
     }
 
     /// With the outlines, and in place of an older file.
@@ -76,6 +85,8 @@ private Q_SLOTS:
         writeFile(values(u"V.GPKG"_s), "old");
         const Run run = m_program->start(Colored + u"--where usage='house' --values V.GPKG"_s);
 
+        QCOMPARE(run.output,
+                 QByteArray("buildings with a value: 2, from 1.5 to 1.5, median 1.5\n"));
         QCOMPARE(run.status, 0);
         const GDALDatasetUniquePtr package(
             GDALDataset::Open(values(u"V.GPKG"_s).toUtf8().constData(), GDAL_OF_VECTOR));

@@ -19,5 +19,21 @@
         <source>Writing the values of the buildings...</source>
         <translation>Writing the values of the buildings...</translation>
     </message>
+    <message id="MESS_PERCENT">
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message id="MESS_VALUES_FROM">
+        <source>%1 at %2 or more</source>
+        <translation>%1 at %2 or more</translation>
+    </message>
+    <message id="MESS_VALUES_NONE">
+        <source>no building has a value</source>
+        <translation>no building has a value</translation>
+    </message>
+    <message id="MESS_VALUES_SPREAD">
+        <source>buildings with a value: %1, from %2 to %3, median %4</source>
+        <translation>buildings with a value: %1, from %2 to %3, median %4</translation>
+    </message>
 </context>
 </TS>

@@ -19,5 +19,21 @@
         <source>Writing the values of the buildings...</source>
         <translation>Écriture des valeurs des bâtiments...</translation>
     </message>
+    <message id="MESS_PERCENT">
+        <source>%1 %</source>
+        <translation>%1&#xa0;%</translation>
+    </message>
+    <message id="MESS_VALUES_FROM">
+        <source>%1 at %2 or more</source>
+        <translation>%1 à %2 ou plus</translation>
+    </message>
+    <message id="MESS_VALUES_NONE">
+        <source>no building has a value</source>
+        <translation>aucun bâtiment n'a de valeur</translation>
+    </message>
+    <message id="MESS_VALUES_SPREAD">
+        <source>buildings with a value: %1, from %2 to %3, median %4</source>
+        <translation>bâtiments avec une valeur&#xa0;: %1, de %2 à %3, médiane %4</translation>
+    </message>
 </context>
 </TS>
