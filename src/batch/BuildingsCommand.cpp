@@ -7,6 +7,7 @@
 #include "batch/Help.h"
 #include "batch/OutputFiles.h"
 #include "batch/ProgressLine.h"
+#include "buildings/CountsText.h"
 #include "buildings/ValuedBuildings.h"
 #include "language/VltLanguageManager.h"
 
@@ -76,11 +77,8 @@ Result<ValuedBuildings> readDrawn(const BuildingsRequest &request, const Buildin
         line.progress());
     if (!read)
         return read;
-    const buildings::CountedBuildings counted = read.value().counted();
-    if (counted.counts.drawn == 0)
-        return Error::asIs(dico_label("MESS_CLI_NO_BUILDING", "no building can be drawn: %1")
-                               .arg(counted.notices.join(QStringLiteral("; "))),
-                           inputs.layer.source.file);
+    if (const auto nothing = buildings::nothingDrawnText(read.value().counted()))
+        return Error::asIs(*nothing, inputs.layer.source.file);
     return read;
 }
 
@@ -126,9 +124,9 @@ void warnOfImages(const BuildingsInputs &inputs)
 }
 
 /// The summary of the values that colour the buildings; nothing without such values.
-std::optional<buildings::ValueSummary> summaryOf(const BuildingsInputs &inputs,
-                                                 const buildings::CountedBuildings &counted)
+std::optional<buildings::ValueSummary> summaryOf(const BuildingsInputs &inputs)
 {
+    const buildings::CountedBuildings &counted = inputs.layer.counted;
     if (!inputs.layer.legend)
         return std::nullopt;
     return buildings::summarize(counted.values, *inputs.layer.legend,
@@ -136,10 +134,10 @@ std::optional<buildings::ValueSummary> summaryOf(const BuildingsInputs &inputs,
 }
 
 QString layerJson(const BuildingsRequest &request, const BuildingsInputs &inputs,
-                  const BuildingLayerFiles &files, const buildings::CountedBuildings &counted)
+                  const BuildingLayerFiles &files)
 {
     const buildings::BuildingsSource &source = inputs.layer.source;
-    const contract::CityCounts &counts = counted.counts;
+    const contract::CityCounts &counts = inputs.layer.counted.counts;
     const auto textOrNull = [](const QString &text) {
         return text.isEmpty() ? QJsonValue(QJsonValue::Null) : QJsonValue(text);
     };
@@ -167,8 +165,8 @@ QString layerJson(const BuildingsRequest &request, const BuildingsInputs &inputs
         {QStringLiteral("xCenter"), source.xCenter},
         {QStringLiteral("yCenter"), source.yCenter},
         {QStringLiteral("warnings"),
-         QJsonArray::fromStringList(inputs.warnings + counted.notices)}};
-    if (const auto summary = summaryOf(inputs, counted))
+         QJsonArray::fromStringList(inputs.warnings + inputs.layer.counted.notices)}};
+    if (const auto summary = summaryOf(inputs))
         object.insert(QStringLiteral("summary"), summaryJson(*summary));
     if (request.texturing)
         object.insert(QStringLiteral("textures"), inputs.texturing.images.size());
@@ -178,36 +176,37 @@ QString layerJson(const BuildingsRequest &request, const BuildingsInputs &inputs
 ExitStatus runParsed(const BuildingsRequest &request, const GlobalOptions &options,
                      const Surroundings &surroundings)
 {
-    const Result<BuildingsInputs> inputs =
+    const Result<BuildingsInputs> accepted =
         readBuildingsInputs(request, surroundings, options.quiet);
-    if (!inputs)
-        return refuse(inputs.error());
-    QStringList outputs = buildings::possibleFilesOf(request.output, inputs.value().layer);
+    if (!accepted)
+        return refuse(accepted.error());
+    BuildingsInputs inputs = accepted.value();
+    QStringList outputs = buildings::possibleFilesOf(request.output, inputs.layer);
     if (request.values)
         outputs << request.values->path;
     for (const QString &output : outputs) {
-        if (isOneOf(output, inputs.value().files))
+        if (isOneOf(output, inputs.files))
             return refuse(outputIsInput(output));
     }
-    const Result<ValuedBuildings> read = readDrawn(request, inputs.value(), options.quiet);
+    const Result<ValuedBuildings> read = readDrawn(request, inputs, options.quiet);
     if (!read)
         return refuse(read.error());
-    const buildings::CountedBuildings counted = read.value().counted();
-    if (const auto done = writeValues(request, inputs.value(), read.value(), options.quiet); !done)
+    inputs.layer.counted = read.value().counted();
+    if (const auto done = writeValues(request, inputs, read.value(), options.quiet); !done)
         return refuse(done.error());
-    const Result<BuildingLayerFiles> written = writeFiles(request, inputs.value());
+    const Result<BuildingLayerFiles> written = writeFiles(request, inputs);
     if (!written)
         return refuse(written.error());
     if (!options.quiet) {
-        for (const QString &warning : inputs.value().warnings + counted.notices)
+        for (const QString &warning : inputs.warnings + inputs.layer.counted.notices)
             printError(warning);
     }
     if (request.texturing && !options.quiet)
-        warnOfImages(inputs.value());
+        warnOfImages(inputs);
     QString report;
     if (options.json)
-        report = layerJson(request, inputs.value(), written.value(), counted);
-    else if (const auto summary = summaryOf(inputs.value(), counted); summary && !options.quiet)
+        report = layerJson(request, inputs, written.value());
+    else if (const auto summary = summaryOf(inputs); summary && !options.quiet)
         report = buildings::summaryText(*summary) + QLatin1Char('\n');
     if (!report.isEmpty() && !printOut(report))
         return refuse({QStringLiteral("MESS_CLI_OUTPUT_FAILED"),

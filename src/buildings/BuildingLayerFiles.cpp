@@ -1,5 +1,6 @@
 #include "buildings/BuildingLayerFiles.h"
 
+#include "buildings/CountsText.h"
 #include "buildings/DocumentWriter.h"
 #include "buildings/TexturedInfoText.h"
 #include "colormaps/ColoredInfoText.h"
@@ -146,7 +147,8 @@ private:
         const QString title =
             QStringLiteral("%1 (%2)").arg(dico_label("MESS_BUILDINGS", "Buildings"), source.layer);
         const QString document = m_files.document.chopped(DocumentSuffix.size());
-        return {title, texbUrl(document), source.xCenter, source.yCenter, subtype, description};
+        return {title,          texbUrl(document), source.xCenter,
+                source.yCenter, subtype,           description + countsInfoText(m_input.counted)};
     }
 
     const BuildingLayerInput &m_input;

@@ -2,6 +2,7 @@
 
 #include "buildings/BuildingLayer.h"
 #include "buildings/BuildingsSource.h"
+#include "buildings/CountedBuildings.h"
 #include "buildings/FileEntry.h"
 #include "buildings/RasterColoring.h"
 #include "colormaps/Legend.h"
@@ -36,6 +37,7 @@ struct BuildingLayerInput
     contract::BuildingFootprints footprints; ///< but for what the source has
     QString installDir;
     std::optional<LegendInput> legend;
+    CountedBuildings counted = {}; ///< for the layer's description
 };
 
 /// The names of the files of a layer; the document's name has no suffix ".lay".

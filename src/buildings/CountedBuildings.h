@@ -22,8 +22,13 @@ struct CountedBuildings
 
 /// Reads the footprints, the ground and the raster of the colours as the scene does.
 ///
-/// @par Errors  in the language in use, if the footprints cannot be used
+/// @par Errors  in the language in use, if the footprints cannot be used; without a text if
+///              `progress` stopped the function
 Result<CountedBuildings> countBuildings(const contract::BuildingDocument &document,
                                         const Progress &progress);
+
+/// The parts of a document on which its counts depend: those of two documents are equal if these
+/// are.
+contract::BuildingDocument countedParts(const contract::BuildingDocument &document);
 
 } // namespace vlt::buildings

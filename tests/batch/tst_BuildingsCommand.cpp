@@ -153,6 +153,7 @@ private Q_SLOTS:
                               "--height-field height --image ../level.asc"_s;
         writeFile(path(u"other.geojson"_s), QByteArray(Houses).replace("12}", "null}"));
         const Run some = this->start(start);
+        const QByteArray description = element(readFile(path(u"elsewhere/o.lay"_s)), "description");
         const Run substituted = this->start(start + u" --default-height 6"_s);
         writeFile(path(u"other.geojson"_s), house(R"({"height":0})"));
         QVERIFY(QFile::remove(path(u"elsewhere/o.lay"_s)));
@@ -161,6 +162,8 @@ private Q_SLOTS:
         const QByteArray notice =
             "1 of 3 buildings are left out: no height in the field \"height\"";
         QCOMPARE(some.errors, "vltlayers: " + notice + "\n");
+        QVERIFY2(description.contains("<p>Buildings: 2, left out: 1<br/>1 of 3 buildings are left"),
+                 description.constData());
         const QJsonObject reported = QJsonDocument::fromJson(some.output).object();
         QCOMPARE(reported.value(u"features"_s).toInt(), 3);
         QCOMPARE(reported.value(u"buildings"_s).toInt(), 2);

@@ -58,10 +58,10 @@ private Q_SLOTS:
         };
 
         show({buildingOf("5")});
-        QCOMPARE(label->text(), u"Buildings: 1\n"_s + last);
+        QCOMPARE(label->text(), u"Buildings: 1, at height 0: 1\n"_s + last);
         QVERIFY(!button->isVisible());
         show({buildingOf("5"), buildingOf("null"), buildingOf("0")});
-        QCOMPARE(label->text(), u"Buildings: 1, left out: 2\n"_s + first);
+        QCOMPARE(label->text(), u"Buildings: 1, left out: 2, at height 0: 1\n"_s + first);
         QCOMPARE(button->text(), u"3 notices..."_s);
         QString listed;
         QTimer::singleShot(0, this, [&] {

@@ -23,9 +23,10 @@ const QString OnlyGray = u"The image-based coloring mode works only with one-ban
 class ColoredPage : public Page<VltAddTexbColoredPage>
 {
 public:
-    explicit ColoredPage(const QString &installation)
+    explicit ColoredPage(const QString &installation, const QString &source = {})
         : Page(installation,
-               values(u"Buildings=buildings Layer=layer Height=height Dtm=dtm Nodata=nodata"_s))
+               values(u"Buildings=%1 Layer=layer Height=height Dtm=dtm Nodata=nodata"_s.arg(
+                   source.isEmpty() ? u"buildings"_s : source)))
     {}
 };
 
@@ -159,6 +160,49 @@ private Q_SLOTS:
         for (const QString &name : {u"TEXB:%1/kept/mine.texb"_s, u"%1/kept/first_gradient.png"_s})
             QVERIFY2(layer.contains(name.arg(m_dir.path())), qPrintable(layer));
         QVERIFY(QFile::exists(path(u"kept/first_gradient.png"_s)));
+    }
+
+    void countsWhatIsDrawn_data()
+    {
+        // a description of a layer without a building: no layer, but the message
+        const Cases<QByteArrayList, QString, QString> row({"heights", "message", "description"});
+        const QString none = u"No building can be drawn: 2 of 2 buildings are left out: no height "
+                             "in the field \"height\""_s;
+        row("all", {"5", "6"}, {}, "<p>Buildings: 2, at height 0: 2<br/>");
+        row("some", {"5", "null"}, {},
+            "left out: 1, at height 0: 1<br/>1 of 2 buildings are left out: no height in the field "
+            "&quot;height&quot;<br/>");
+        row("none", {"null", "\"?\""}, none, {});
+    }
+
+    void countsWhatIsDrawn()
+    {
+        QFETCH(QByteArrayList, heights);
+        QFETCH(QString, message);
+        QFETCH(QString, description);
+        QByteArrayList all;
+        for (const QByteArray &height : heights)
+            all << "{\"type\":\"Feature\",\"properties\":{\"height\":" + height +
+                       "},\"geometry\":{\"type\":\"Polygon\",\"coordinates\":[[[2,4],[6,4],[6,12],"
+                       "[2,4]]]}}";
+        const QString town =
+            writeFile(path(u"layer.geojson"_s), "{\"type\":\"FeatureCollection\",\"name\":"
+                                                "\"layer\",\"features\":[" +
+                                                    all.join(',') + "]}");
+
+        ColoredPage page(m_installation, town);
+
+        QTRY_VERIFY_WITH_TIMEOUT(!page.message().isEmpty(), PatienceMs);
+        QCOMPARE(page.icon()->isEnabled(), message.isEmpty());
+        QVERIFY2(page.layer().contains(description), qPrintable(page.layer()));
+        if (!message.isEmpty()) {
+            QVERIFY2(page.message().startsWith(message), qPrintable(page.message()));
+            QVERIFY(page.icon()->toolTip().contains(u"no height in the field"_s));
+            writeFile(town, readFile(town).replace("null", "7"));
+            page.press(u"m_pwPbRefresh"_s); // counts again
+            QTRY_VERIFY_WITH_TIMEOUT(page.icon()->isEnabled(), PatienceMs);
+            QVERIFY(page.icon()->toolTip().contains(u"Ctrl+C"_s));
+        }
     }
 
     void refusesImages_data()

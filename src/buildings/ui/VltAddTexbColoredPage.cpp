@@ -63,8 +63,10 @@ Stoppable<buildings::BuildingLayerFiles> VltAddTexbColoredPage::writeFiles(const
     if (!legend || !coloring)
         return std::nullopt;
     m_colorMapName = legend->name;
-    return buildings::writeColoredLayer(
-        layerPath, layerInput(m_ui->m_pwExtrusion->settings(), legend), *coloring, access);
+    buildings::BuildingLayerInput input = layerInput(m_ui->m_pwExtrusion->settings(), legend);
+    if (!count(buildings::coloredDocument(input, *coloring), input))
+        return std::nullopt;
+    return buildings::writeColoredLayer(layerPath, input, *coloring, access);
 }
 
 void VltAddTexbColoredPage::layerWritten(const buildings::BuildingLayerFiles &files)

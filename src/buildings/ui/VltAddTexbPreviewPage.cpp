@@ -121,9 +121,12 @@ VltAddTexbPreviewPage::writeFiles(const QString &layerPath, vlt::platform::Acces
             return std::nullopt;
     }
     m_colorMapName = legend ? legend->name : QString();
-    return vlt::buildings::writeTexturedLayer(
-        layerPath, layerInput(m_ui->m_pwExtrusion->settings(), legend),
-        texturing(coloring.value_or(vlt::buildings::RasterColoring())), access);
+    vlt::buildings::BuildingLayerInput input = layerInput(m_ui->m_pwExtrusion->settings(), legend);
+    const vlt::buildings::TexturingParameters parameters =
+        texturing(coloring.value_or(vlt::buildings::RasterColoring()));
+    if (!count(vlt::buildings::texturedDocument(input, parameters), input))
+        return std::nullopt;
+    return vlt::buildings::writeTexturedLayer(layerPath, input, parameters, access);
 }
 
 void VltAddTexbPreviewPage::layerWritten(const vlt::buildings::BuildingLayerFiles &files)

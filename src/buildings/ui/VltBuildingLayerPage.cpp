@@ -1,7 +1,10 @@
 #include "buildings/ui/VltBuildingLayerPage.h"
 
+#include "buildings/CountsText.h"
 #include "buildings/ui/VltBuildingPreview.h"
 #include "platform/Settings.h"
+#include "text/RichText.h"
+#include "wizard/base/BusyWait.h"
 #include "wizard/base/DraggableIcon.h"
 
 namespace {
@@ -31,6 +34,7 @@ void VltBuildingLayerPage::setForm(VltBuildingPreview *preview, QBoxLayout *drag
                   "files are temporary: Ctrl+S saves the layer permanently, together with its "
                   "document and legend.",
                   "MESS_TIP_DRAG_TEXB")});
+    m_iconToolTip = dragIcon()->toolTip();
     // The temporary files are deleted at the end of this process or at the next start of the
     // machine. Therefore a saved layer gets its own files.
     dragIcon()->setSaver([this](const QString &target) {
@@ -46,7 +50,7 @@ vlt::buildings::BuildingLayerInput
 VltBuildingLayerPage::layerInput(const vlt::contract::BuildingFootprints &footprints,
                                  const std::optional<vlt::buildings::LegendInput> &legend) const
 {
-    return {m_source, footprints, installDir(), legend};
+    return {m_source, footprints, installDir(), legend, {}};
 }
 
 /// The page is not visible yet. Work that may be slow or open a message box waits until it is.
@@ -54,6 +58,7 @@ void VltBuildingLayerPage::initializePage()
 {
     VltResultPage::initializePage();
     m_source = vlt::buildings::readBuildingsSource(parameters());
+    m_count.reset();
     setLayerFile({});
     m_delay.start(0);
 }
@@ -116,12 +121,42 @@ void VltBuildingLayerPage::autoRefreshChanged(int state)
 
 void VltBuildingLayerPage::refreshRequested()
 {
+    m_count.reset();
     makeLayer();
 }
 
 void VltBuildingLayerPage::beginLayer()
 {
     m_delay.stop();
+    m_refusal.clear();
+}
+
+bool VltBuildingLayerPage::count(const vlt::contract::BuildingDocument &document,
+                                 vlt::buildings::BuildingLayerInput &input)
+{
+    using Counted = vlt::Result<vlt::buildings::CountedBuildings>;
+    const vlt::contract::BuildingDocument parts = vlt::buildings::countedParts(document);
+    if (!m_count || !(m_count->parts == parts)) {
+        m_count.reset();
+        const auto counted = vlt::wizard::waitForValue<Counted>(
+            this, tr("Counting the buildings...", "MESS_COUNTING_BUILDINGS"),
+            [parts](const vlt::Progress &progress) {
+                return vlt::buildings::countBuildings(parts, progress);
+            });
+        if (!counted) {
+            m_refusal = tr("Counting was stopped: refresh the view to make the layer.",
+                           "MESS_COUNTING_STOPPED");
+            return false;
+        }
+        if (!*counted)
+            return true;
+        m_count = {parts, counted->value()};
+    }
+    input.counted = m_count->counted;
+    const auto nothing = vlt::buildings::nothingDrawnText(input.counted);
+    if (nothing)
+        m_refusal = nothing->left(1).toUpper() + nothing->mid(1);
+    return !nothing;
 }
 
 std::optional<QString> VltBuildingLayerPage::obstacle() const
@@ -153,6 +188,7 @@ void VltBuildingLayerPage::showLayer(const QString &path)
     if (!m_files.legend.isEmpty())
         companions << m_files.legend;
     dragIcon()->setCompanions(companions);
+    dragIcon()->setToolTip(m_iconToolTip);
     layerWritten(m_files);
     m_preview->showLayer(path, m_source.project);
 }
@@ -161,6 +197,8 @@ void VltBuildingLayerPage::showNoLayer(const QString &why)
 {
     layerWritten({});
     m_preview->showLayer({}, {});
-    m_preview->showMessage(why.isEmpty() ? tr("The layer was not made.", "MESS_LAYER_NOT_MADE")
-                                         : why);
+    const QString refusal = why.isEmpty() ? m_refusal : why;
+    m_preview->showMessage(refusal.isEmpty() ? tr("The layer was not made.", "MESS_LAYER_NOT_MADE")
+                                             : refusal);
+    dragIcon()->setToolTip(refusal.isEmpty() ? m_iconToolTip : vlt::text::asRichText(refusal));
 }

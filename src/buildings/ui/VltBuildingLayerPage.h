@@ -49,6 +49,12 @@ protected:
     layerInput(const vlt::contract::BuildingFootprints &footprints,
                const std::optional<vlt::buildings::LegendInput> &legend) const;
 
+    /// Counts what the document of a layer would draw, unless this is known; the user sees a
+    /// progress bar and can cancel. False if nothing would be drawn or the user cancelled. A
+    /// document that cannot be read has no counts: the preview shows the reason.
+    bool count(const vlt::contract::BuildingDocument &document,
+               vlt::buildings::BuildingLayerInput &input);
+
     /// Why no layer can be made from the choices, as text for the user; empty if one can.
     virtual QString missingText() const = 0;
 
@@ -71,9 +77,19 @@ private:
     void showNoLayer(const QString &why) override;
     QString autoRefreshKey() const;
 
+    /// The counts of the last document.
+    struct Count
+    {
+        vlt::contract::BuildingDocument parts; ///< countedParts()
+        vlt::buildings::CountedBuildings counted;
+    };
+
     QString m_settingsGroup;
     vlt::buildings::BuildingsSource m_source;
     vlt::buildings::BuildingLayerFiles m_files; ///< of the last layer
+    std::optional<Count> m_count;               ///< none after the files may have changed
+    QString m_refusal;                          ///< why the last count led to no layer; else empty
+    QString m_iconToolTip;                      ///< of the icon of a layer
     VltBuildingPreview *m_preview = nullptr;
     QTimer m_delay; ///< combines quick changes into one layer
 };

@@ -2,6 +2,7 @@
 
 #include "ui_BuildingPreview.h"
 
+#include "buildings/CountsText.h"
 #include "buildings/ui/NoticeList.h"
 #include "contract/SceneFactKeys.h"
 #include "language/ErrorText.h"
@@ -27,9 +28,21 @@ constexpr double NearShare = 0.85;
 constexpr double ElevationDeg = 40;
 
 /// A number in the facts about a scene; 0 if it is missing.
-int count(const osg::Node &scene, const char *fact)
+std::size_t count(const osg::Node &scene, const char *fact)
 {
-    return vlt::snapshot::sceneFact(scene, fact).value_or(QString()).toInt();
+    return vlt::snapshot::sceneFact(scene, fact).value_or(QString()).toULongLong();
+}
+
+vlt::contract::CityCounts countsOf(const osg::Node &scene)
+{
+    vlt::contract::CityCounts counts;
+    counts.features = count(scene, facts::Features);
+    counts.drawn = count(scene, facts::Buildings);
+    for (const auto &[key, member] : vlt::contract::LeftOutCounts)
+        counts.leftOut.*member = count(scene, key);
+    for (const auto &[key, member] : vlt::contract::SubstituteCounts)
+        counts.substitutes.*member = count(scene, key);
+    return counts;
 }
 
 /// A notice of a reader, in the user's language, without the layer at its start and without the
@@ -148,18 +161,12 @@ void VltBuildingPreview::showScene(const vlt::snapshot::Scene &scene, const QStr
         resetView();
     m_place = place;
 
-    const QLocale numbers;
-    const int leftOut = count(*scene, facts::LeftOut);
-    const QString shown = numbers.toString(count(*scene, facts::Buildings));
-    const QString counts = leftOut > 0
-                               ? tr("Buildings: %1, left out: %2", "MESS_BUILDINGS_LEFT_OUT")
-                                     .arg(shown, numbers.toString(leftOut))
-                               : tr("Buildings: %1", "MESS_BUILDINGS_SHOWN").arg(shown);
+    const QString counts = vlt::buildings::countsText(countsOf(*scene));
     showMessage((QStringList(counts) + notices.mid(0, 1)).join(QLatin1Char('\n')));
     m_notices = notices;
     m_ui->m_pwPbNotices->setVisible(notices.size() > 1);
     m_ui->m_pwPbNotices->setText(
-        tr("%1 notices...", "MESS_NOTICES").arg(numbers.toString(notices.size())));
+        tr("%1 notices...", "MESS_NOTICES").arg(QLocale().toString(notices.size())));
 }
 
 void VltBuildingPreview::resetView()

@@ -215,5 +215,45 @@
         <source>no building can be drawn: %1</source>
         <translation>no building can be drawn: %1</translation>
     </message>
+    <message id="MESS_COUNT_ELSE_FIELD">
+        <source>second field: %1</source>
+        <translation>second field: %1</translation>
+    </message>
+    <message id="MESS_COUNT_DEFAULT_HEIGHT">
+        <source>default height: %1</source>
+        <translation>default height: %1</translation>
+    </message>
+    <message id="MESS_COUNT_TERRAIN_BASE">
+        <source>on the terrain: %1</source>
+        <translation>on the terrain: %1</translation>
+    </message>
+    <message id="MESS_COUNT_LOWEST_GROUND">
+        <source>on the lowest ground: %1</source>
+        <translation>on the lowest ground: %1</translation>
+    </message>
+    <message id="MESS_COUNT_ZERO_GROUND">
+        <source>at height 0: %1</source>
+        <translation>at height 0: %1</translation>
+    </message>
+    <message id="MESS_COUNT_RAISED_BOTTOM">
+        <source>underside ignored: %1</source>
+        <translation>underside ignored: %1</translation>
+    </message>
+    <message id="MESS_COUNT_NO_VALUE">
+        <source>without a value: %1</source>
+        <translation>without a value: %1</translation>
+    </message>
+    <message id="MESS_COUNT_TRANSPARENT">
+        <source>transparent: %1</source>
+        <translation>transparent: %1</translation>
+    </message>
+    <message id="MESS_COUNTING_BUILDINGS">
+        <source>Counting the buildings...</source>
+        <translation>Counting the buildings...</translation>
+    </message>
+    <message id="MESS_COUNTING_STOPPED">
+        <source>Counting was stopped: refresh the view to make the layer.</source>
+        <translation>Counting was stopped: refresh the view to make the layer.</translation>
+    </message>
 </context>
 </TS>

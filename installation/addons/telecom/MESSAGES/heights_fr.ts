@@ -215,5 +215,45 @@
         <source>no building can be drawn: %1</source>
         <translation>aucun bâtiment ne peut être dessiné&#xa0;: %1</translation>
     </message>
+    <message id="MESS_COUNT_ELSE_FIELD">
+        <source>second field: %1</source>
+        <translation>second champ&#xa0;: %1</translation>
+    </message>
+    <message id="MESS_COUNT_DEFAULT_HEIGHT">
+        <source>default height: %1</source>
+        <translation>hauteur par défaut&#xa0;: %1</translation>
+    </message>
+    <message id="MESS_COUNT_TERRAIN_BASE">
+        <source>on the terrain: %1</source>
+        <translation>posés sur le terrain&#xa0;: %1</translation>
+    </message>
+    <message id="MESS_COUNT_LOWEST_GROUND">
+        <source>on the lowest ground: %1</source>
+        <translation>sur le sol le plus bas&#xa0;: %1</translation>
+    </message>
+    <message id="MESS_COUNT_ZERO_GROUND">
+        <source>at height 0: %1</source>
+        <translation>à l'altitude 0&#xa0;: %1</translation>
+    </message>
+    <message id="MESS_COUNT_RAISED_BOTTOM">
+        <source>underside ignored: %1</source>
+        <translation>sous-face ignorée&#xa0;: %1</translation>
+    </message>
+    <message id="MESS_COUNT_NO_VALUE">
+        <source>without a value: %1</source>
+        <translation>sans valeur&#xa0;: %1</translation>
+    </message>
+    <message id="MESS_COUNT_TRANSPARENT">
+        <source>transparent: %1</source>
+        <translation>transparents&#xa0;: %1</translation>
+    </message>
+    <message id="MESS_COUNTING_BUILDINGS">
+        <source>Counting the buildings...</source>
+        <translation>Comptage des bâtiments...</translation>
+    </message>
+    <message id="MESS_COUNTING_STOPPED">
+        <source>Counting was stopped: refresh the view to make the layer.</source>
+        <translation>Le comptage a été interrompu&#xa0;: actualisez la vue pour créer la couche.</translation>
+    </message>
 </context>
 </TS>

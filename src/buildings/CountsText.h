@@ -1,0 +1,20 @@
+#pragma once
+
+#include "buildings/CountedBuildings.h"
+
+#include <optional>
+
+namespace vlt::buildings {
+
+/// The counts in one line, in the language in use: "Buildings: 246, left out: 31, default height:
+/// 12". Counts of 0 are not in it, except that of the buildings.
+QString countsText(const contract::CityCounts &counts);
+
+/// The counts and their reasons as HTML for the description of a layer; empty if all buildings are
+/// drawn as they are.
+QString countsInfoText(const CountedBuildings &counted);
+
+/// Why a document has no building to draw; nothing if it has one.
+std::optional<QString> nothingDrawnText(const CountedBuildings &counted);
+
+} // namespace vlt::buildings
