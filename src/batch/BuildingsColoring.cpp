@@ -40,8 +40,8 @@ Result<colormaps::ColorMapEntry> chosenColorMap(const QString &wanted, const QSt
         wanted);
 }
 
-/// The error for a raster with several bands or none, with the names of the images in its file.
-Error notOneBand(const geodata::RasterSummary &raster, const QString &path)
+/// The error for a picture, or a raster without bands, with the names of the images in its file.
+Error notUsable(const geodata::RasterSummary &raster, const QString &path)
 {
     QString text = raster.bandCount == 0
                        ? dico_label("MESS_ERR_NO_BANDS", "This image doesn't have any band")
@@ -58,8 +58,27 @@ Error notOneBand(const geodata::RasterSummary &raster, const QString &path)
     return Error::asIs(text, path);
 }
 
+/// The warning about the band of a raster with several bands; empty if there is none.
+QString bandWarning(const geodata::RasterSummary &raster, const RasterColoring &coloring)
+{
+    if (coloring.band != contract::RasterBand.firstRun)
+        return dico_label("MESS_CLI_OTHER_BAND",
+                          "band %1 of the raster colors the buildings; other programs that read "
+                          "the layer may take band 1")
+            .arg(coloring.band);
+    if (coloring.hasBand || raster.bandCount == 1)
+        return {};
+    QStringList bands;
+    for (int i = 0; i < raster.bandCount; ++i)
+        bands << buildings::bandText(i + 1, raster.bands);
+    return dico_label("MESS_CLI_BANDS",
+                      "band 1 of the raster colors the buildings; --band chooses another one: %1")
+        .arg(bands.join(QStringLiteral("; ")));
+}
+
 /// Opens the raster of the colours and stores its absolute name in `coloring`.
-Result<std::shared_ptr<coverage::CoverageRaster>> openRaster(RasterColoring &coloring)
+Result<std::shared_ptr<coverage::CoverageRaster>> openRaster(RasterColoring &coloring,
+                                                             QStringList &warnings)
 {
     const QString given = coloring.rasterFile;
     const QString file = fileOfDataset(given);
@@ -71,11 +90,14 @@ Result<std::shared_ptr<coverage::CoverageRaster>> openRaster(RasterColoring &col
     const auto summary = geodata::readRasterSummary(path, isPart ? coloring.rasterFile : QString());
     if (!summary)
         return summary.error().withPath(given);
-    if (summary.value().bandCount != 1)
-        return notOneBand(summary.value(), given);
+    if (!buildings::isUsable(summary.value()))
+        return notUsable(summary.value(), given);
+    if (const QString warning = bandWarning(summary.value(), coloring); !warning.isEmpty())
+        warnings << warning;
     const geodata::ErrorCollector errors; // errors are returned as reasons, not printed
-    auto raster = coverage::CoverageRaster::open(
-        QFile::encodeName(coloring.rasterFile).toStdString(), coloring.noData.toStdString());
+    auto raster =
+        coverage::CoverageRaster::open(QFile::encodeName(coloring.rasterFile).toStdString(),
+                                       coloring.noData.toStdString(), coloring.band);
     if (!raster)
         return Error{QStringLiteral("MESS_ERR_OPEN_RASTERDS"),
                      QStringLiteral("This file can't be open as a raster dataset"), given,
@@ -93,10 +115,10 @@ std::optional<coverage::ValueRange> rangeOf(coverage::CoverageRaster &raster, bo
 } // namespace
 
 Result<buildings::LegendInput> readColoring(RasterColoring &coloring, const QString &installDir,
-                                            bool quiet)
+                                            bool quiet, QStringList &warnings)
 {
     const QString image = coloring.rasterFile;
-    const auto raster = openRaster(coloring);
+    const auto raster = openRaster(coloring, warnings);
     if (!raster)
         return raster.error();
     const auto map = chosenColorMap(coloring.colorMap, installDir);

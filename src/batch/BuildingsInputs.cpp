@@ -184,7 +184,8 @@ Result<BuildingsInputs> readBuildingsInputs(const BuildingsRequest &request,
     BuildingsInputs inputs = read.value();
     if (request.image) {
         inputs.coloring = *request.image;
-        const auto legend = readColoring(inputs.coloring, surroundings.installDir, quiet);
+        const auto legend =
+            readColoring(inputs.coloring, surroundings.installDir, quiet, inputs.warnings);
         if (!legend)
             return legend.error();
         inputs.layer.legend = legend.value();
@@ -194,10 +195,7 @@ Result<BuildingsInputs> readBuildingsInputs(const BuildingsRequest &request,
         return inputs;
 
     inputs.texturing = *request.texturing;
-    for (QString *color : {&inputs.texturing.wallColor, &inputs.texturing.roofColor}) {
-        if (*color == QLatin1String(ColorMapWord))
-            *color = buildings::colorMapColor(inputs.coloring);
-    }
+    inputs.texturing.coloring = inputs.coloring;
     if (!inputs.texturing.textures)
         return inputs;
     const auto images = readTextures(request.textures, quiet);

@@ -13,9 +13,13 @@ QList<QCommandLineOption> coloredOptions()
 {
     return {
         {QStringLiteral("image"),
-         dico_label("MESS_OPT_IMAGE", "Raster of one band whose values color the buildings: a "
-                                      "file, or the name of an image in a file."),
+         dico_label("MESS_OPT_IMAGE", "Raster whose values color the buildings: a file, or the "
+                                      "name of an image in a file; no picture of colors."),
          QStringLiteral("FILE")},
+        {QStringLiteral("band"),
+         dico_label("MESS_OPT_BAND", "Band of the raster, from 1 (default 1). Other programs that "
+                                     "read the layer may take band 1 in any case."),
+         QStringLiteral("INTEGER")},
         {QStringLiteral("image-nodata"),
          dico_label("MESS_OPT_IMAGE_NODATA", "Value of pixels without data, in addition to the "
                                              "value that the file declares (default none)."),

@@ -17,9 +17,9 @@ using contract::BuildingTextures;
 using contract::Reduction;
 
 /// Options that are allowed only with another option.
-const QStringList OfImage = {QStringLiteral("image-nodata"), QStringLiteral("colormap"),
-                             QStringLiteral("absolute"), QStringLiteral("color-ranges"),
-                             QStringLiteral("mode")};
+const QStringList OfImage = {QStringLiteral("band"),         QStringLiteral("image-nodata"),
+                             QStringLiteral("colormap"),     QStringLiteral("absolute"),
+                             QStringLiteral("color-ranges"), QStringLiteral("mode")};
 const QStringList OfFolders = {QStringLiteral("structure"), QStringLiteral("filter")};
 const QStringList OfTextures = {
     QStringLiteral("texture-on"),  QStringLiteral("textured-distance"),
@@ -30,7 +30,7 @@ const QStringList OfTextures = {
 const QStringList TexturingOptions = {QStringLiteral("cache"), QStringLiteral("delayed-write"),
                                       QStringLiteral("cache-capacity")};
 
-/// Reads the colour of an option as "#rrggbb", or ColorMapWord if that is allowed.
+/// Reads the colour of an option as "#rrggbb"; empty for ColorMapWord if that is allowed.
 Result<QString> readColor(const QCommandLineParser &parser, const QString &option,
                           const char *firstRun, bool mayBeFromMap)
 {
@@ -38,7 +38,7 @@ Result<QString> readColor(const QCommandLineParser &parser, const QString &optio
         return QString(QLatin1String(firstRun));
     const QString value = parser.value(option);
     if (mayBeFromMap && value == QLatin1String(ColorMapWord))
-        return value;
+        return QString();
     const std::optional<QColor> color = colorFrom(value);
     if (!color)
         return wrongValue(option,
@@ -48,6 +48,19 @@ Result<QString> readColor(const QCommandLineParser &parser, const QString &optio
                               : dico_label("MESS_USE_COLOR", "RRGGBB or a name such as red"),
                           value);
     return color->name();
+}
+
+Result<int> readBand(const QCommandLineParser &parser)
+{
+    const QString option = QStringLiteral("band");
+    if (!parser.isSet(option))
+        return contract::RasterBand.firstRun;
+    bool isNumber = false;
+    const int band = parser.value(option).toInt(&isNumber);
+    if (isNumber && contract::Range(contract::RasterBand).contains(band))
+        return band;
+    return wrongValue(option, dico_label("MESS_USE_BAND", "the number of a band, from 1"),
+                      parser.value(option));
 }
 
 /// Checks an option for the value of missing data: a number or an empty text.
@@ -109,6 +122,11 @@ Result<RasterColoring> readImage(const QCommandLineParser &parser)
     if (const auto error = checkNoData(parser, QStringLiteral("image-nodata")))
         return *error;
     image.noData = parser.value(QStringLiteral("image-nodata"));
+    const Result<int> band = readBand(parser);
+    if (!band)
+        return band.error();
+    image.band = band.value();
+    image.hasBand = parser.isSet(QStringLiteral("band"));
     image.colorMap = parser.value(QStringLiteral("colormap"));
     image.stretched = !parser.isSet(QStringLiteral("absolute"));
     image.interpolated = !parser.isSet(QStringLiteral("color-ranges"));
@@ -182,8 +200,7 @@ Result<buildings::TexturingParameters> readTexturingParameters(const QCommandLin
         return roofs.error();
     if (!cache)
         return cache.error();
-    const bool usesMap = walls.value() == QLatin1String(ColorMapWord) ||
-                         roofs.value() == QLatin1String(ColorMapWord);
+    const bool usesMap = walls.value().isEmpty() || roofs.value().isEmpty();
     const bool hasImage = parser.isSet(QStringLiteral("image"));
     if (usesMap && !hasImage)
         return wrongUsage(dico_label("MESS_USE_NEEDS_IMAGE", "the color colormap needs --image"));

@@ -33,7 +33,7 @@ struct BuildingsRequest
     contract::BuildingFootprints footprints;
     std::optional<buildings::RasterColoring> image; ///< image and colour map as given
     /// None for buildings with the image's colours; without textures for plain buildings. The
-    /// textures have no images yet, and the colours may be ColorMapWord.
+    /// textures have no images yet.
     std::optional<buildings::TexturingParameters> texturing;
     TextureChoice textures; ///< for parameters with textures
     std::optional<buildings::ValuesTarget> values;

@@ -213,6 +213,7 @@ contract::BuildingDocument coloredDocument(const BuildingLayerInput &input,
 {
     contract::BuildingDocument document = documentOf(input);
     document.footprints.wallColor = imageColor(walls).toStdString();
+    document.colors = otherColors(walls);
     return document;
 }
 
@@ -222,8 +223,13 @@ contract::BuildingDocument texturedDocument(const BuildingLayerInput &input,
     contract::BuildingDocument document = documentOf(input);
     document.cache = texturing.cache;
     document.footprints.texturedVisibilityM = texturing.texturedVisibilityM;
-    document.footprints.wallColor = texturing.wallColor.toStdString();
-    document.footprints.roofColor = texturing.roofColor.toStdString();
+    const auto colorOf = [&](const QString &plain) {
+        if (plain.isEmpty())
+            document.colors = otherColors(texturing.coloring);
+        return (plain.isEmpty() ? colorMapColor(texturing.coloring) : plain).toStdString();
+    };
+    document.footprints.wallColor = colorOf(texturing.wallColor);
+    document.footprints.roofColor = colorOf(texturing.roofColor);
     document.textures = texturing.textures;
     if (document.textures) {
         document.textures->mode = texturing.mode;

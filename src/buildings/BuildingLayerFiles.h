@@ -65,8 +65,9 @@ struct TexturingParameters
 {
     contract::BuildingCache cache;
     double texturedVisibilityM = 0;
-    QString wallColor; ///< "#RRGGBB" or colorMapColor()
-    QString roofColor;
+    QString wallColor; ///< "#RRGGBB"; empty: from `coloring`
+    QString roofColor; ///< the same
+    RasterColoring coloring;
     contract::TextureMode mode = contract::TextureMode::Roofs;
     std::optional<contract::BuildingTextures> textures; ///< without mode and images
     QList<FileEntry> images;                            ///< only those in use are written

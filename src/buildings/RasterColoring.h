@@ -1,6 +1,7 @@
 #pragma once
 
 #include "contract/RasterColors.h"
+#include "geodata/RasterSource.h"
 
 #include <QString>
 
@@ -17,7 +18,18 @@ struct RasterColoring
     bool stretched = true;    ///< the map is stretched from the raster's minimum to its maximum
     bool interpolated = true; ///< false for ranges of one colour
     QString noData;           ///< as the user typed it; may be empty
+    int band = contract::RasterBand.firstRun;
+    bool hasBand = false; ///< the user stated the band
 };
+
+/// Whether a raster can color buildings: it has bands and is no picture.
+bool isUsable(const geodata::RasterSummary &raster);
+
+/// A band in a list: its number, with its description and unit in brackets.
+QString bandText(int band, const QStringList &descriptions);
+
+/// What the next two texts cannot say about the colours.
+contract::BuildingColors otherColors(const RasterColoring &coloring);
 
 /// The colour of walls in the document of coloured buildings: "IMAGE;raster;map;...".
 QString imageColor(const RasterColoring &coloring);

@@ -16,8 +16,8 @@ using coverage::CoverageRaster;
 std::unique_ptr<CoverageRaster> openRaster(const RasterColors &colors,
                                            const std::vector<std::string> &directories)
 {
-    auto [raster, reason] =
-        CoverageRaster::open(coverage::locateRaster(colors.raster, directories), colors.noData);
+    auto [raster, reason] = CoverageRaster::open(coverage::locateRaster(colors.raster, directories),
+                                                 colors.noData, colors.band);
     if (raster && !raster->isPlaced())
         reason = contract::formatted("MESS_SCENE_NOT_PLACED");
     if (!reason.empty())

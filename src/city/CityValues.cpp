@@ -20,10 +20,11 @@ using coverage::ValueKind;
 constexpr double InputsShare = 0.6; ///< of the work, if there is a raster
 constexpr std::size_t BuildingsPerReport = 100;
 
-std::optional<RasterColors> colorsOf(const contract::BuildingFootprints &footprints)
+std::optional<RasterColors> colorsOf(const contract::BuildingDocument &document)
 {
-    const auto walls = contract::parseRasterColors(footprints.wallColor);
-    return walls ? walls : contract::parseRasterColors(footprints.roofColor);
+    const contract::BuildingFootprints &footprints = document.footprints;
+    const auto walls = contract::parseRasterColors(footprints.wallColor, document.colors);
+    return walls ? walls : contract::parseRasterColors(footprints.roofColor, document.colors);
 }
 
 bool mayBeClasses(const CoverageRaster &raster, const RasterColors &colors)
@@ -122,7 +123,7 @@ CityValues readCityValues(const contract::BuildingDocument &document,
                           const std::vector<std::string> &directories, ClassCounts classCounts,
                           const Progress &progress)
 {
-    const std::optional<RasterColors> colors = colorsOf(document.footprints);
+    const std::optional<RasterColors> colors = colorsOf(document);
     const double inputsShare = colors ? InputsShare : 1;
     CityValues read;
     read.city = readCityInputs(document, directories, read.notices,

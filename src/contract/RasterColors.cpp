@@ -19,7 +19,7 @@ constexpr char MapKey[] = ";cmap=";
 constexpr char StretchKey[] = ";stretchcmap=";
 constexpr char InterpolationKey[] = ";interpolatecmap=";
 constexpr char BandKey[] = ";band=";
-constexpr char Band[] = "1"; ///< no other band is supported
+constexpr char Band[] = "1"; ///< readers of the texts take no other band
 constexpr char ReductionKey[] = ";type=";
 
 const char *chosen(const Choice &words, bool isYes)
@@ -111,15 +111,18 @@ std::string colorMapColorText(const RasterColors &colors)
     return text.append(ReductionKey).append(wordOf(ReductionWords, colors.reduction));
 }
 
-std::optional<RasterColors> parseRasterColors(std::string_view text)
+std::optional<RasterColors> parseRasterColors(std::string_view text, const BuildingColors &others)
 {
     constexpr std::string_view image = ImageStart;
     constexpr std::string_view colorMap = ColorMapStart;
+    std::optional<RasterColors> colors;
     if (text.starts_with(image))
-        return parseImage(text.substr(image.size()));
-    if (text.starts_with(colorMap))
-        return parseColorMap(text.substr(colorMap.size()));
-    return std::nullopt;
+        colors = parseImage(text.substr(image.size()));
+    else if (text.starts_with(colorMap))
+        colors = parseColorMap(text.substr(colorMap.size()));
+    if (colors)
+        colors->band = others.band;
+    return colors;
 }
 
 } // namespace vlt::contract

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "contract/BuildingColors.h"
+
 #include <optional>
 #include <string>
 #include <string_view>
@@ -18,9 +20,10 @@ struct RasterColors
     std::string raster;
     std::string map; ///< path of the colour map file
     Reduction reduction = Reduction::Minimum;
-    bool isStretched = true;    ///< the map covers the raster's minimum to its maximum
-    bool isInterpolated = true; ///< false: colour ranges
-    std::string noData;         ///< as typed; may be empty
+    bool isStretched = true;        ///< the map covers the raster's minimum to its maximum
+    bool isInterpolated = true;     ///< false: colour ranges
+    std::string noData;             ///< as typed; may be empty
+    int band = RasterBand.firstRun; ///< not in the texts, which are of band 1
 };
 
 /// The text for the walls if a raster colours the whole building:
@@ -32,9 +35,11 @@ std::string imageColorText(const RasterColors &colors);
 std::string colorMapColorText(const RasterColors &colors);
 
 /// Parses either text; nothing for other texts and if the name of the raster or the map is empty.
+/// The band comes from the other colours of the document.
 ///
 /// Nothing is escaped in them, so the parts are searched from the end: in the first text the name
 /// of the raster may contain semicolons.
-std::optional<RasterColors> parseRasterColors(std::string_view text);
+std::optional<RasterColors> parseRasterColors(std::string_view text,
+                                              const BuildingColors &others = {});
 
 } // namespace vlt::contract

@@ -7,6 +7,7 @@
 #include "coverage/RowRuns.h"
 #include "coverage/ValueReducer.h"
 #include "localfiles/NoNetwork.h"
+#include "localfiles/OpenLocal.h"
 
 #include <cpl_string.h>
 #include <gdal_priv.h>
@@ -53,9 +54,9 @@ Place middleOf(const std::vector<Place> &ring)
 class CoverageRaster::Parts
 {
 public:
-    Parts(GDALDatasetUniquePtr raster, std::optional<double> noData)
+    Parts(GDALDatasetUniquePtr raster, int band, std::optional<double> noData)
         : dataset(std::move(raster))
-        , blocks(*dataset->GetRasterBand(1), noData)
+        , blocks(*dataset->GetRasterBand(band), noData)
     {
         std::array<double, 6> toPlace{};
         isPlaced = dataset->GetGeoTransform(toPlace.data()) == CE_None &&
@@ -109,22 +110,25 @@ CoverageRaster::CoverageRaster(std::unique_ptr<Parts> parts) : m_parts(std::move
 
 CoverageRaster::~CoverageRaster() = default;
 
-contract::Opened<std::unique_ptr<CoverageRaster>> CoverageRaster::open(const std::string &path,
-                                                                       const std::string &noData)
+contract::Opened<std::unique_ptr<CoverageRaster>>
+CoverageRaster::open(const std::string &path, const std::string &noData, int band)
 {
     const CPLErrorHandlerPusher quiet(CPLQuietErrorHandler);
     const localfiles::NoNetwork offline;
     const std::optional<double> typed = contract::noDataNumber(noData);
     auto [dataset, why] = openLocalRaster(path, RasterUse::Values);
-    if (dataset && dataset->GetRasterCount() != 1)
+    const int bands = dataset ? dataset->GetRasterCount() : 0;
+    if (dataset && (bands == 0 || localfiles::isColorPicture(*dataset)))
         why = contract::formatted("MESS_SCENE_NOT_ONE_BAND");
-    else if (dataset && GDALDataTypeIsComplex(dataset->GetRasterBand(1)->GetRasterDataType()))
+    else if (dataset && (band < 1 || band > bands))
+        why = contract::formatted("MESS_SCENE_NO_BAND", {std::to_string(band)});
+    else if (dataset && GDALDataTypeIsComplex(dataset->GetRasterBand(band)->GetRasterDataType()))
         why = contract::formatted("MESS_SCENE_COMPLEX");
     else if (dataset && !contract::isNoDataText(noData))
         why = contract::formatted("MESS_SCENE_BAD_NODATA", {noData});
     if (why.empty())
         return {std::unique_ptr<CoverageRaster>(
-            new CoverageRaster(std::make_unique<Parts>(std::move(dataset), typed)))};
+            new CoverageRaster(std::make_unique<Parts>(std::move(dataset), band, typed)))};
     return {nullptr, why};
 }
 

@@ -49,7 +49,7 @@ struct ValuesUnder
 /// The meaning of the values of a raster.
 enum class ValueKind { Numbers, Integers, Classes };
 
-/// A local one-band raster of values in any unit, such as signal levels. Not for two threads at
+/// A band of a local raster of values in any unit, such as signal levels. Not for two threads at
 /// once.
 class CoverageRaster
 {
@@ -58,10 +58,12 @@ public:
     ///
     /// @param path    absolute (see locateRaster()), in bytes of the file system
     /// @param noData  as typed: a "no data" value in addition to the file's own; may be empty
-    /// @return        none if it cannot be opened, does not have exactly one band, or `noData` is
-    ///                not a number
-    static contract::Opened<std::unique_ptr<CoverageRaster>> open(const std::string &path,
-                                                                  const std::string &noData);
+    /// @param band    from 1
+    /// @return        none if it cannot be opened, is a picture of three or four bands of colour,
+    /// or
+    ///                does not have the band, or if `noData` is not a number
+    static contract::Opened<std::unique_ptr<CoverageRaster>>
+    open(const std::string &path, const std::string &noData, int band = 1);
     ~CoverageRaster();
 
     /// Minimum and maximum of all pixels that have a value, with scale and offset applied; nothing

@@ -44,6 +44,21 @@ std::optional<Extent> extentOf(GDALDataset &dataset)
     return Extent{t[0] + minX, t[3] + minY, t[0] + maxX, t[3] + maxY};
 }
 
+/// The descriptions and units of the bands, which are limited because they are shown in a list.
+QStringList bandTexts(GDALDataset &dataset)
+{
+    constexpr qsizetype MaxLength = 80;
+    QStringList texts;
+    for (int i = 1; i <= dataset.GetRasterCount(); ++i) {
+        GDALRasterBand &band = *dataset.GetRasterBand(i);
+        QStringList parts{QString::fromUtf8(band.GetDescription()).simplified(),
+                          QString::fromUtf8(band.GetUnitType()).simplified()};
+        parts.removeAll(QString());
+        texts << parts.join(QStringLiteral(", ")).left(MaxLength);
+    }
+    return texts;
+}
+
 Error cannotOpen(const ErrorCollector &errors, const QString &path)
 {
     return {QStringLiteral("MESS_ERR_OPEN_RASTERDS"),
@@ -86,6 +101,8 @@ Result<RasterSummary> readRasterSummary(const QString &path, const QString &part
     summary.bandCount = dataset->GetRasterCount();
     if (GDALRasterBand *band = summary.bandCount > 0 ? dataset->GetRasterBand(1) : nullptr)
         summary.noData = declaredNoData(*band);
+    summary.bands = bandTexts(*dataset);
+    summary.isColorPicture = localfiles::isColorPicture(*dataset);
     summary.holdsColors = localfiles::holdsColors(*dataset);
     summary.system = systemInfo(dataset->GetSpatialRef());
     summary.extent = extentOf(*dataset);
@@ -94,7 +111,7 @@ Result<RasterSummary> readRasterSummary(const QString &path, const QString &part
 }
 
 Stoppable<std::optional<double>> guessedNoData(const QString &path, const Progress &progress,
-                                               const QString &part)
+                                               const QString &part, int number)
 {
     const ErrorCollector errors;
     const localfiles::NoNetwork offline;
@@ -102,7 +119,8 @@ Stoppable<std::optional<double>> guessedNoData(const QString &path, const Progre
     if (!dataset)
         return cannotOpen(errors, path);
     keepFromSaving(*dataset);
-    GDALRasterBand *band = dataset->GetRasterCount() > 0 ? dataset->GetRasterBand(1) : nullptr;
+    GDALRasterBand *band =
+        number <= dataset->GetRasterCount() ? dataset->GetRasterBand(number) : nullptr;
     if (band == nullptr)
         return Result<std::optional<double>>(std::nullopt);
 

@@ -75,6 +75,13 @@ bool holdsColors(GDALDataset &raster)
            raster.GetRasterBand(1)->GetColorInterpretation() >= GCI_PaletteIndex;
 }
 
+bool isColorPicture(GDALDataset &raster)
+{
+    const int bands = raster.GetRasterCount();
+    return (bands == 3 || bands == 4) &&
+           raster.GetRasterBand(1)->GetColorInterpretation() > GCI_PaletteIndex;
+}
+
 bool isVirtualRaster(const std::string &name)
 {
     return startsWithElement(name, "<VRTDataset");

@@ -22,6 +22,9 @@ GDALDatasetUniquePtr openVector(const std::string &name);
 /// Whether band 1 of a raster holds a colour component or colour indices, hence no heights.
 bool holdsColors(GDALDataset &raster);
 
+/// Whether a raster is a picture of three or four bands of colour.
+bool isColorPicture(GDALDataset &raster);
+
 /// Whether a file is a virtual raster.
 bool isVirtualRaster(const std::string &name);
 

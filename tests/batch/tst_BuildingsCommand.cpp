@@ -177,6 +177,28 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(path(u"elsewhere/o.lay"_s)));
     }
 
+    void takesABandOfTheRaster()
+    {
+        writeFile(path(u"bands.hdr"_s),
+                  "ENVI\nsamples = 1\nlines = 1\nbands = 2\ndata type = 1\ninterleave = bsq\n"
+                  "map info = {Geographic Lat/Lon, 1, 1, 1.9, 45.1, 1, 1, WGS-84}\n"
+                  "band names = {level, quality}\n");
+        writeFile(path(u"bands.img"_s), QByteArray("\x05\x07", 2));
+        const QString start = Common + u"--image ../bands.img --absolute"_s;
+        const Run first = this->start(start);
+        const QByteArray plain = readFile(path(u"elsewhere/o.texb"_s));
+        const Run second = this->start(start + u" --band 2"_s);
+        const Run third = this->start(start + u" --band 3"_s);
+
+        QVERIFY2(first.errors.endsWith("--band chooses another one: 1 (level); 2 (quality)\n"),
+                 first.errors.constData());
+        QVERIFY(!plain.contains("<colors"));
+        QVERIFY2(second.errors.contains("other programs"), second.errors.constData());
+        QVERIFY(readFile(path(u"elsewhere/o.texb"_s)).contains("<colors \n    band=\"2\"\n  />"));
+        QCOMPARE(third.status, 1);
+        QVERIFY2(third.errors.contains("it has no band 3"), third.errors.constData());
+    }
+
     void warnsOfImages_data()
     {
         const Cases<QString, QByteArray, int> row({"options", "warning", "images"});
@@ -279,6 +301,8 @@ private Q_SLOTS:
         row("% --texture ../t/c.asc=1 --wall-color reddish", 2, "red or the word colormap");
         row("% --texture ../t/c.asc=1 --edge-color colormap", 2, "--edge-color is RRGGBB or");
         row("% --texture ../t/c.asc=1 --magnify cubic", 2, "none|linear");
+        row("% --band 2", 2, "--band needs --image");
+        row("% --image ../level.asc --band 0", 2, "--band is the number of a band");
         row("% --image ../level.asc --mode middle", 2, "minimum|maximum|average|most-represented");
         row("% --image ../level.asc --image-nodata void", 2, "--image-nodata is a number");
         row("% --image ../level.asc --distance 99", 2, "100 to 100000");

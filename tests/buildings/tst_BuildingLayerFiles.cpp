@@ -36,7 +36,8 @@ TexturingParameters storeys()
     return {{},
             1000,
             u"#102030"_s,
-            colorMapColor(Signal),
+            {},
+            Signal,
             vlt::contract::TextureMode::Storeys, // this one is written
             vlt::contract::BuildingTextures{},
             images};

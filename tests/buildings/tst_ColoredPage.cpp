@@ -261,6 +261,36 @@ private Q_SLOTS:
         QCOMPARE(page.line(u"m_pwLeNoData"_s)->text(), u"-9999.000000"_s);
     }
 
+    void letsABandBeChosen()
+    {
+        {
+            const GDALDatasetUniquePtr made(
+                GetGDALDriverManager()->GetDriverByName("GTiff")->Create(
+                    path(u"bands.tif"_s).toUtf8(), 2, 2, 2, GDT_Float32, nullptr));
+            made->GetRasterBand(2)->SetDescription("quality");
+            made->GetRasterBand(2)->Fill(7);
+        }
+        ColoredPage page(m_installation);
+        QVERIFY(page.child<QWidget>(u"m_pwBandFrame"_s)->isHidden());
+        QComboBox *bands = page.combo(u"m_pwCbBand"_s);
+
+        dropFiles(&page, {path(u"bands.tif"_s)});
+
+        QVERIFY(!page.child<QWidget>(u"m_pwBandFrame"_s)->isHidden());
+        QCOMPARE(bands->itemText(1), u"2 (quality)"_s);
+        QTRY_VERIFY_WITH_TIMEOUT(page.document().contains(u"bands.tif;"_s), PatienceMs);
+        QVERIFY(!page.document().contains(u"<colors"_s));
+        bands->setCurrentIndex(1);
+        QTRY_VERIFY_WITH_TIMEOUT(page.document().contains(u"    band=\"2\"\n"_s), PatienceMs);
+        page.saveSettings();
+        QCOMPARE(ColoredPage(m_installation).combo(u"m_pwCbBand"_s)->currentIndex(), 1);
+
+        dropFiles(&page, {path(u"other.asc"_s)});
+        QVERIFY(page.child<QWidget>(u"m_pwBandFrame"_s)->isHidden());
+        QTRY_VERIFY_WITH_TIMEOUT(page.document().contains(u"other.asc;"_s), PatienceMs);
+        QVERIFY(!page.document().contains(u"<colors"_s));
+    }
+
     void remembersEveryValue()
     {
         QVariantMap values = layerpage::values(

@@ -95,8 +95,8 @@ class tst_Coverage : public QObject
                                  CSLTestBoolean(append) ? "APPEND_SUBDATASET=YES" : nullptr,
                                  nullptr};
         const int rows = int(values.size()) / columns;
-        const auto value = [&](int column, int row, int) {
-            return values[std::size_t(row) * std::size_t(columns) + std::size_t(column)];
+        const auto value = [&](int column, int row, int band) {
+            return values[std::size_t(row) * std::size_t(columns) + std::size_t(column)] + band - 1;
         };
         const auto finish = [](GDALDataset &made) {
             made.GetRasterBand(1)->SetNoDataValue(FileNoData);
@@ -364,6 +364,13 @@ private Q_SLOTS:
         QCOMPARE(picture->GetRasterBand(1)->GetColorInterpretation(), GCI_RedBand);
     }
 
+    void readsTheChosenBand()
+    {
+        const std::string path = fileOf("three.tif", 1, {5}, {0, 1, 0, 1, 0, -1}, 3);
+        for (const int band : {1, 2, 3})
+            QCOMPARE(CoverageRaster::open(path, "", band)->range()->minimum, 4. + band);
+    }
+
     void opensPartsThatAFileLists()
     {
         fileOf("parts.tif", 1, {1}, {0, 1, 0, 1, 0, -1});
@@ -418,7 +425,8 @@ private Q_SLOTS:
     void refusesOthers_data()
     {
         const Cases<QString, QString, QString> row({"name", "noData", "reason"});
-        row("bands", "three.tif", {}, "it does not have exactly one band");
+        row("picture", "picture.ppm", {}, "it does not have exactly one band");
+        row("no such band", "one.tif", {}, "it has no band 2");
         row("no number", "one.tif", "1.5 m", "the no-data value \"1.5 m\" is not a number");
         row("absent", "absent.tif", {}, "there is no such local file");
         row("more marks of paths than can be tried", u":/"_s.repeated(50000), {},
@@ -435,13 +443,14 @@ private Q_SLOTS:
         QFETCH(const QString, noData);
         QFETCH(const QString, reason);
         const std::string path = fileOf("one.tif", 1, {1}, {});
-        fileOf("three.tif", 1, {1}, {}, 3);
+        writeFile(m_dir.filePath(u"picture.ppm"_s), "P6\n1 1\n255\nabc");
         writeFile(m_dir.filePath(u"source.vrt"_s), "<VRTDataset/>");
         GDALDriver *tiff = GetGDALDriverManager()->GetDriverByName("GTiff");
         QVERIFY(tiff->CopyFiles("/vsimem/one.tif", path.c_str()) == CE_None);
 
         const std::string located = locateRaster(name.toStdString(), {m_dir.path().toStdString()});
-        const auto opened = CoverageRaster::open(located, noData.toStdString());
+        const bool isOther = reason.endsWith(u"band 2"_s);
+        const auto opened = CoverageRaster::open(located, noData.toStdString(), isOther ? 2 : 1);
         QVERIFY(!opened);
         QVERIFY2(QString::fromStdString(opened.reason).contains(reason), opened.reason.c_str());
     }

@@ -51,18 +51,21 @@ class tst_CityColors : public QObject
 
     /// Writes a raster with the values in one row.
     void makeRaster(const char *name, const std::vector<double> &values, osg::Vec2d corner = {},
-                    const char *system = "")
+                    const char *system = "", int bands = 1)
     {
-        const auto value = [&values](int column, int, int) { return values[std::size_t(column)]; };
+        const auto value = [&values](int column, int, int band) {
+            return band == 1 ? values[std::size_t(column)] : 100;
+        };
         makeGeoTiff(m_dir.filePath(QLatin1String(name)),
-                    {int(values.size()), 1, 1, GDT_Float32, northUp(corner.x(), corner.y(), 10, 1),
-                     system, value});
+                    {int(values.size()), 1, bands, GDT_Float32,
+                     northUp(corner.x(), corner.y(), 10, 1), system, value});
     }
 
-    QString colorsOf(CityModel city, const QByteArray &colorText, Notices &notices)
+    QString colorsOf(CityModel city, const QByteArray &colorText, Notices &notices,
+                     const vlt::contract::BuildingColors &others = {})
     {
         const std::vector<std::string> directories = {"/nowhere", m_dir.path().toStdString()};
-        return hex(townColors(city, colorText.toStdString(), directories, notices,
+        return hex(townColors(city, colorText.toStdString(), others, directories, notices,
                               [](double) { return true; }));
     }
 
@@ -152,6 +155,19 @@ private Q_SLOTS:
                  notices.front().c_str());
     }
 
+    void readsTheBandOfTheDocument()
+    {
+        makeRaster("two.tif", {0, 25}, {}, "", 2);
+        for (const bool isOther : {false, true}) {
+            Notices notices;
+            vlt::contract::BuildingColors others;
+            others.band = isOther ? 2 : 1;
+            QCOMPARE(colorsOf(townOf(2), "IMAGE;two.tif;map.txt;minimum;absolute;interpolation",
+                              notices, others),
+                     isOther ? QStringLiteral("c800ff c800ff") : QStringLiteral("320000 000000"));
+        }
+    }
+
     void transformsPlaces()
     {
         // 221505, 221515 and 221525 by 6758005, transformed with gdaltransform.
@@ -185,7 +201,7 @@ private Q_SLOTS:
             Notices notices;
             shares.clear();
             CityModel city = townOf(3);
-            return townColors(city, "IMAGE;a.tif;map.txt;average;stretched;interpolation;-99",
+            return townColors(city, "IMAGE;a.tif;map.txt;average;stretched;interpolation;-99", {},
                               {m_dir.path().toStdString()}, notices, stop);
         };
 

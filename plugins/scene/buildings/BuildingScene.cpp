@@ -44,15 +44,16 @@ CityModel readCity(const BuildingDocument &document, const Directories &director
     return city;
 }
 
-void colour(CityModel &city, const BuildingFootprints &footprints, const Directories &directories,
+void colour(CityModel &city, const BuildingDocument &document, const Directories &directories,
             Notices &notices, const Progress &progress)
 {
+    const BuildingFootprints &footprints = document.footprints;
     const bool isOne = footprints.roofColor.empty() || footprints.roofColor == footprints.wallColor;
-    city.wallColors = townColors(city, footprints.wallColor, directories, notices,
+    city.wallColors = townColors(city, footprints.wallColor, document.colors, directories, notices,
                                  part(progress, 0.6, isOne ? 0.8 : 0.7));
     city.roofColors = isOne ? city.wallColors
-                            : townColors(city, footprints.roofColor, directories, notices,
-                                         part(progress, 0.7, 0.8));
+                            : townColors(city, footprints.roofColor, document.colors, directories,
+                                         notices, part(progress, 0.7, 0.8));
     std::size_t &invisible = city.counts.substitutes.transparent;
     for (const std::size_t i : city::firstBuildings(city.footprints))
         invisible += city.wallColors[i].alpha == 0 && city.roofColors[i].alpha == 0 ? 1 : 0;
@@ -114,7 +115,7 @@ osg::ref_ptr<osg::Group> readBuildingScene(const std::string &document, const st
     const BuildingFootprints &footprints = texb.footprints;
     const auto city =
         std::make_shared<CityModel>(readCity(texb, directories, notices, part(progress, 0, 0.6)));
-    colour(*city, footprints, directories, notices, progress);
+    colour(*city, texb, directories, notices, progress);
     const CityStyle look{footprints.tileSizeM, footprints.extrudedVisibilityM,
                          footprints.texturedVisibilityM, footprints.skirtHeightM,
                          texturedMaker(city, texb, directories, notices, part(progress, 0.8, 0.9))};

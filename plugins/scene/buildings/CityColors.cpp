@@ -94,6 +94,7 @@ std::vector<Rgba> rasterColors(CityModel &city, const RasterColors &colors,
 } // namespace
 
 std::vector<Rgba> townColors(CityModel &city, const std::string &colorText,
+                             const contract::BuildingColors &others,
                              const std::vector<std::string> &directories, Notices &notices,
                              const Progress &progress)
 {
@@ -103,7 +104,7 @@ std::vector<Rgba> townColors(CityModel &city, const std::string &colorText,
     if (const std::optional<Rgba> plain = parseColor(colorText))
         return std::vector<Rgba>(number, *plain);
     try {
-        const std::optional<RasterColors> colors = contract::parseRasterColors(colorText);
+        const std::optional<RasterColors> colors = contract::parseRasterColors(colorText, others);
         if (!colors)
             throw BadLayer("MESS_SCENE_NO_COLORS", {colorText});
         return rasterColors(city, *colors, directories, notices, progress);

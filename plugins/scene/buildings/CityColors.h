@@ -1,5 +1,6 @@
 #pragma once
 
+#include "contract/BuildingColors.h"
 #include "plugins/scene/buildings/CityModel.h"
 
 #include <string>
@@ -10,7 +11,7 @@ namespace vlt::scene {
 /// The colours of buildings for a colour text of a document.
 ///
 /// "#RRGGBB" is one colour for all buildings. A text of contract/RasterColors.h names a raster with
-/// the values of buildings and a colour map with the colours of values.
+/// the values of buildings and a colour map with the colours of values; `others` has its band.
 ///
 /// Buildings without a value get the map's "no data" colour, else a light grey. If the raster, the
 /// map or the system cannot be used, all buildings get that grey, and a notice gives the reason.
@@ -20,6 +21,7 @@ namespace vlt::scene {
 /// @return             parallel to city.footprints.buildings
 /// @throws Stopped     `progress` stopped the function
 std::vector<colormaps::Rgba> townColors(CityModel &city, const std::string &colorText,
+                                        const contract::BuildingColors &others,
                                         const std::vector<std::string> &directories,
                                         Notices &notices, const Progress &progress);
 

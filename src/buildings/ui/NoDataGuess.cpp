@@ -66,7 +66,7 @@ private:
 /// Guesses on another thread while the user interface stays responsive; no value if the page was
 /// closed during the guess.
 GuessedNoData guessBeside(const QPointer<QWidget> &page, const QString &path, const QString &part,
-                          const QPointer<QProgressBar> &bar)
+                          int band, const QPointer<QProgressBar> &bar)
 {
     GuessedNoData guessed;
     std::atomic<bool> isAbandoned = false;
@@ -86,7 +86,7 @@ GuessedNoData guessBeside(const QPointer<QWidget> &page, const QString &path, co
             showShare(share);
             return !isAbandoned;
         };
-        guessed = geodata::guessedNoData(path, report, part);
+        guessed = geodata::guessedNoData(path, report, part, band);
         QMetaObject::invokeMethod(&loop, &QEventLoop::quit, Qt::QueuedConnection);
     });
 
@@ -106,7 +106,8 @@ GuessedNoData guessBeside(const QPointer<QWidget> &page, const QString &path, co
 
 } // namespace
 
-QString guessNoData(QWidget *disabled, const QString &path, QProgressBar *bar, const QString &part)
+QString guessNoData(QWidget *disabled, const QString &path, QProgressBar *bar, const QString &part,
+                    int band)
 {
     if (path.isEmpty())
         return {};
@@ -118,7 +119,7 @@ QString guessNoData(QWidget *disabled, const QString &path, QProgressBar *bar, c
     GuessedNoData guessed;
     {
         const PageLock lock(disabled);
-        guessed = guessBeside(page, path, part, shown);
+        guessed = guessBeside(page, path, part, band, shown);
         if (shown)
             shown->hide();
     }

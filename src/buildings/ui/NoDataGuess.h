@@ -13,8 +13,9 @@ namespace vlt::buildings {
 /// @param path      local raster; empty does nothing
 /// @param disabled  the page, which is disabled during the guess
 /// @param part      name of one of its images, as the raster lists it; empty for the raster itself
+/// @param band      from 1
 /// @return          the value with six decimals; empty if there is none, after a warning
 QString guessNoData(QWidget *disabled, const QString &path, QProgressBar *bar,
-                    const QString &part = {});
+                    const QString &part = {}, int band = 1);
 
 } // namespace vlt::buildings

@@ -98,8 +98,9 @@ VltAddTexbPreviewPage::texturing(const vlt::buildings::RasterColoring &coloring)
     texturing.cache = m_ui->m_pwCache->cache();
     texturing.texturedVisibilityM = m_ui->m_pwTexturing->visibilityM();
     texturing.mode = m_ui->m_pwTexturing->mode();
-    texturing.wallColor = m_ui->m_pwColors->wallColor(coloring);
-    texturing.roofColor = m_ui->m_pwColors->roofColor(coloring);
+    texturing.wallColor = m_ui->m_pwColors->wallColor();
+    texturing.roofColor = m_ui->m_pwColors->roofColor();
+    texturing.coloring = coloring;
     if (!m_images.isEmpty()) {
         texturing.textures.emplace();
         m_ui->m_pwTexturing->fill(*texturing.textures);

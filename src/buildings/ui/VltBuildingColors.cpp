@@ -6,18 +6,15 @@
 
 namespace {
 
-using vlt::buildings::RasterColoring;
-
 /// Whether the second entry of a list is chosen: colours from a colour map.
 bool isFromColorMap(const QComboBox *kind)
 {
     return kind->currentIndex() == 1;
 }
 
-QString documentColor(const QComboBox *kind, const ColorButton *button,
-                      const RasterColoring &coloring)
+QString plainColor(const QComboBox *kind, const ColorButton *button)
 {
-    return isFromColorMap(kind) ? vlt::buildings::colorMapColor(coloring) : button->color().name();
+    return isFromColorMap(kind) ? QString() : button->color().name();
 }
 
 } // namespace
@@ -55,12 +52,12 @@ bool VltBuildingColors::usesColorMap() const
     return isFromColorMap(m_ui->m_pwCbWalls) || isFromColorMap(m_ui->m_pwCbRoofs);
 }
 
-QString VltBuildingColors::wallColor(const RasterColoring &coloring) const
+QString VltBuildingColors::wallColor() const
 {
-    return documentColor(m_ui->m_pwCbWalls, m_ui->m_pwPbWallColor, coloring);
+    return plainColor(m_ui->m_pwCbWalls, m_ui->m_pwPbWallColor);
 }
 
-QString VltBuildingColors::roofColor(const RasterColoring &coloring) const
+QString VltBuildingColors::roofColor() const
 {
-    return documentColor(m_ui->m_pwCbRoofs, m_ui->m_pwPbRoofColor, coloring);
+    return plainColor(m_ui->m_pwCbRoofs, m_ui->m_pwPbRoofColor);
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "buildings/RasterColoring.h"
 #include "buildings/ui/RememberedPanel.h"
 
 #include <memory>
@@ -21,11 +20,9 @@ public:
     /// Whether walls or roofs use a colour map.
     bool usesColorMap() const;
 
-    /// The colour as text for the document.
-    ///
-    /// @param coloring  used if a colour map is chosen
-    QString wallColor(const vlt::buildings::RasterColoring &coloring) const;
-    QString roofColor(const vlt::buildings::RasterColoring &coloring) const;
+    /// The colour as "#RRGGBB"; empty if a colour map is chosen.
+    QString wallColor() const;
+    QString roofColor() const;
 
 Q_SIGNALS:
     /// The user wants to see or choose the raster and the colour map.

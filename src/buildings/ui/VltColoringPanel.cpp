@@ -30,6 +30,19 @@ namespace {
 
 const QString LastUsedDirKey = QStringLiteral("LastUsedDir");
 
+const QString BandKey = QStringLiteral("Band");
+constexpr int FirstBand = contract::RasterBand.firstRun;
+
+/// Stores a value that few users change; for the others the settings do not have it.
+void saveUnlessFirst(const QString &key, const QVariant &value, const QVariant &first)
+{
+    const auto settings = platform::wizardSettings();
+    if (value == first)
+        settings->remove(key);
+    else
+        settings->setValue(key, value);
+}
+
 void restoreIndex(QComboBox *combo, const QVariant &value)
 {
     bool isNumber = false;
@@ -53,6 +66,7 @@ VltColoringPanel::VltColoringPanel(QWidget *parent)
     m_ui->setupUi(this);
     setFocusProxy(m_ui->m_pwLeImage);
     m_ui->m_pwSubdatasetsFrame->hide();
+    m_ui->m_pwBandFrame->hide();
     m_ui->m_pwNoDataProgress->hide();
     m_ui->m_pwCbCmap->setIconSize(buildings::ColorMapSwatchSize);
     m_ui->m_pwCbSubdatsets->view()->setTextElideMode(Qt::ElideLeft); // names start with a path
@@ -82,7 +96,10 @@ void VltColoringPanel::connectWidgets()
 
     connect(m_ui->m_pwLeNoData, &QLineEdit::textChanged, this, &VltColoringPanel::parameterChanged);
     connect(m_ui->m_pwCbStretch, &QCheckBox::toggled, this, &VltColoringPanel::parameterChanged);
-    for (const QComboBox *combo : {m_ui->m_pwCbCmap, m_ui->m_pwCBColorInterp, m_ui->m_pwCbMode})
+    connect(m_ui->m_pwCbBand, &QComboBox::currentIndexChanged, this,
+            [this](int index) { m_ui->m_pwLblBandHint->setVisible(index > 0); });
+    for (const QComboBox *combo :
+         {m_ui->m_pwCbBand, m_ui->m_pwCbCmap, m_ui->m_pwCBColorInterp, m_ui->m_pwCbMode})
         connect(combo, &QComboBox::currentIndexChanged, this, &VltColoringPanel::parameterChanged);
 }
 
@@ -130,6 +147,11 @@ QString VltColoringPanel::subdataset() const
     return m_ui->m_pwCbSubdatsets->currentData().toString();
 }
 
+int VltColoringPanel::band() const
+{
+    return qMax(0, m_ui->m_pwCbBand->currentIndex()) + 1;
+}
+
 QString VltColoringPanel::imagePath() const
 {
     return m_openedImage;
@@ -146,6 +168,7 @@ std::optional<buildings::RasterColoring> VltColoringPanel::coloring() const
     coloring.stretched = m_ui->m_pwCbStretch->isChecked();
     coloring.interpolated = m_ui->m_pwCBColorInterp->currentIndex() == 1;
     coloring.noData = m_ui->m_pwLeNoData->text();
+    coloring.band = band();
     return coloring;
 }
 
@@ -157,7 +180,7 @@ QString VltColoringPanel::missingText() const
     if (typed.isEmpty())
         return tr("Choose the image that colors the buildings.", "MESS_NEED_COLOR_IMAGE");
     if (!m_isUsable)
-        return tr("Choose an image of one band.", "MESS_NEED_ONE_BAND");
+        return tr("Choose an image of values, not of colors.", "MESS_NEED_VALUES");
     if (!contract::isNoDataText(m_ui->m_pwLeNoData->text().toStdString()))
         return tr("The no-data value is not a number.", "MESS_NODATA_NO_NUMBER");
     if (m_ui->m_pwCbCmap->currentIndex() < 0)
@@ -172,14 +195,14 @@ bool VltColoringPanel::readRange(const buildings::RasterColoring &coloring)
 {
     const QDateTime written = QFileInfo(m_openedImage).lastModified();
     if (m_range && m_range->raster == coloring.rasterFile && m_range->noData == coloring.noData &&
-        m_range->written == written)
+        m_range->band == coloring.band && m_range->written == written)
         return true;
     m_range.reset();
     using Range = Stoppable<std::optional<coverage::ValueRange>>;
     const auto read = wizard::waitForValue<Range>(
         this, tr("Computing the minimum and maximum value...", "MESS_READING_RANGE"),
-        [raster = coloring.rasterFile, noData = coloring.noData](const Progress &progress) {
-            return buildings::readCoverageRange(raster, noData, progress);
+        [coloring](const Progress &progress) {
+            return buildings::readCoverageRange(coloring, progress);
         });
     if (!read || !*read)
         return false;
@@ -188,7 +211,8 @@ bool VltColoringPanel::readRange(const buildings::RasterColoring &coloring)
         messages::critical(this, range.error());
         return false;
     }
-    m_range = KnownRange{coloring.rasterFile, coloring.noData, written, range.value()};
+    m_range =
+        KnownRange{coloring.rasterFile, coloring.noData, coloring.band, written, range.value()};
     return true;
 }
 
@@ -216,6 +240,16 @@ void VltColoringPanel::showSubdatasets(const QList<geodata::Subdataset> &subdata
     m_ui->m_pwSubdatasetsFrame->setVisible(!subdatasets.isEmpty());
 }
 
+void VltColoringPanel::showBands(const QStringList &bands)
+{
+    const QSignalBlocker quiet(m_ui->m_pwCbBand);
+    m_ui->m_pwCbBand->clear();
+    for (int i = 0; i < bands.size(); ++i)
+        m_ui->m_pwCbBand->addItem(buildings::bandText(i + 1, bands));
+    m_ui->m_pwLblBandHint->hide();
+    m_ui->m_pwBandFrame->setVisible(bands.size() > 1);
+}
+
 std::optional<VltColoringPanel::Summary> VltColoringPanel::readSummary(const QString &path,
                                                                        const QString &part)
 {
@@ -233,6 +267,7 @@ void VltColoringPanel::openImage(const QString &path, bool quiet)
     m_isUsable = false;
     m_ui->m_pwLeImage->clear();
     showSubdatasets({});
+    showBands({});
     if (!path.isEmpty()) {
         const QString absolute = QFileInfo(path).absoluteFilePath();
         const std::optional<Summary> summary = readSummary(absolute, {});
@@ -255,7 +290,8 @@ void VltColoringPanel::openImage(const QString &path, bool quiet)
 void VltColoringPanel::check(const std::optional<Summary> &summary, const QString &name, bool quiet)
 {
     const bool isOpen = summary && summary->ok();
-    m_isUsable = isOpen && summary->value().bandCount == 1;
+    m_isUsable = isOpen && buildings::isUsable(summary->value());
+    showBands(m_isUsable ? summary->value().bands : QStringList());
     if (!m_isUsable && m_ui->m_pwCbSubdatsets->count() == 0) {
         m_openedImage.clear();
         m_ui->m_pwLeImage->clear();
@@ -300,8 +336,8 @@ void VltColoringPanel::guessNoData()
         return;
     m_isBusy = true;
     const QPointer<VltColoringPanel> self(this); // its window may be closed during the guess
-    const QString guess =
-        buildings::guessNoData(page(), m_openedImage, m_ui->m_pwNoDataProgress, subdataset());
+    const QString guess = buildings::guessNoData(page(), m_openedImage, m_ui->m_pwNoDataProgress,
+                                                 subdataset(), band());
     if (!self)
         return;
     m_isBusy = false;
@@ -358,6 +394,7 @@ void VltColoringPanel::loadSettings(const QString &prefix)
     }
     if (m_ui->m_pwCbSubdatsets->currentIndex() > 0)
         checkSubdataset(true);
+    restoreIndex(m_ui->m_pwCbBand, value(BandKey, FirstBand).toInt() - FirstBand);
     VltParameterPanel::loadSettings(prefix);
 
     // A damaged count must not block the page.
@@ -384,6 +421,7 @@ void VltColoringPanel::saveSettings(const QString &prefix)
     VltParameterPanel::saveSettings(prefix);
     save(QStringLiteral("Image"), m_openedImage);
     save(QStringLiteral("IdxSubdataset"), qMax(0, m_ui->m_pwCbSubdatsets->currentIndex()));
+    saveUnlessFirst(prefix + QLatin1Char('/') + BandKey, band(), FirstBand);
     const QComboBox *maps = m_ui->m_pwCbCmap;
     const int userCount = maps->count() - m_installedCount;
     save(QStringLiteral("UserColormapCount"), userCount);

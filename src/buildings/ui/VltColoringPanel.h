@@ -14,8 +14,8 @@ namespace Ui {
 class ColoringPanel;
 }
 
-/// The panel for colours from a raster: image, its part, value of no data, colour map, stretching,
-/// interpretation, reduction.
+/// The panel for colours from a raster: image, its part and band, value of no data, colour map,
+/// stretching, interpretation, reduction.
 ///
 /// Rasters are opened on other threads while an event loop runs; a file that is dropped or picked
 /// during this time is ignored.
@@ -30,7 +30,7 @@ public:
     /// Lists the colour maps of an installation before those that the user added.
     void setInstallDir(const QString &installDir);
 
-    /// The chosen values. None without an image of one band or a colour map, while the path of
+    /// The chosen values. None without an image of values or a colour map, while the path of
     /// another image is being typed, or if the value of no data is not a number.
     std::optional<vlt::buildings::RasterColoring> coloring() const;
 
@@ -80,6 +80,7 @@ private:
     {
         QString raster;
         QString noData;
+        int band = 1;
         QDateTime written;
         std::optional<vlt::coverage::ValueRange> range;
     };
@@ -87,11 +88,13 @@ private:
     void connectWidgets();
     void takeTypedImage();
     void showSubdatasets(const QList<vlt::geodata::Subdataset> &subdatasets);
+    void showBands(const QStringList &bands);
     std::optional<Summary> readSummary(const QString &path, const QString &part);
     void check(const std::optional<Summary> &summary, const QString &name, bool quiet);
     void checkSubdataset(bool quiet);
     bool readRange(const vlt::buildings::RasterColoring &coloring);
     QString subdataset() const;
+    int band() const;
     int addToList(const QString &name, const QString &path);
     QWidget *page();
 

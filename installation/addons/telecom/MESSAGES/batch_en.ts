@@ -36,8 +36,8 @@
         <translation>the output cannot be written</translation>
     </message>
     <message id="MESS_OPT_IMAGE">
-        <source>Raster of one band whose values color the buildings: a file, or the name of an image in a file.</source>
-        <translation>Raster of one band whose values color the buildings: a file, or the name of an image in a file.</translation>
+        <source>Raster whose values color the buildings: a file, or the name of an image in a file; no picture of colors.</source>
+        <translation>Raster whose values color the buildings: a file, or the name of an image in a file; no picture of colors.</translation>
     </message>
     <message id="MESS_OPT_IMAGE_NODATA">
         <source>Value of pixels without data, in addition to the value that the file declares (default none).</source>

@@ -36,8 +36,8 @@
         <translation>la sortie ne peut pas être écrite</translation>
     </message>
     <message id="MESS_OPT_IMAGE">
-        <source>Raster of one band whose values color the buildings: a file, or the name of an image in a file.</source>
-        <translation>Raster à une bande dont les valeurs colorent les bâtiments : un fichier, ou le nom d'une image d'un fichier.</translation>
+        <source>Raster whose values color the buildings: a file, or the name of an image in a file; no picture of colors.</source>
+        <translation>Raster dont les valeurs colorent les bâtiments : un fichier, ou le nom d'une image d'un fichier  ; pas d'image en couleurs.</translation>
     </message>
     <message id="MESS_OPT_IMAGE_NODATA">
         <source>Value of pixels without data, in addition to the value that the file declares (default none).</source>

@@ -8,8 +8,8 @@
         <translation>Image file</translation>
     </message>
     <message id="MESS_TIP_COLOR_IMAGE">
-        <source>Raster of one band whose values color the buildings; press Enter after typing one, or drop a file on the page</source>
-        <translation>Raster of one band whose values color the buildings; press Enter after typing one, or drop a file on the page</translation>
+        <source>Raster whose values color the buildings; press Enter after typing one, or drop a file on the page</source>
+        <translation>Raster whose values color the buildings; press Enter after typing one, or drop a file on the page</translation>
     </message>
     <message id="MESS_COLOR_IMAGE_KINDS">
         <source>.tif, .asc or other raster</source>
@@ -122,10 +122,6 @@
     <message id="MESS_NEED_COLOR_IMAGE">
         <source>Choose the image that colors the buildings.</source>
         <translation>Choose the image that colors the buildings.</translation>
-    </message>
-    <message id="MESS_NEED_ONE_BAND">
-        <source>Choose an image of one band.</source>
-        <translation>Choose an image of one band.</translation>
     </message>
     <message id="MESS_NODATA_NO_NUMBER">
         <source>The no-data value is not a number.</source>

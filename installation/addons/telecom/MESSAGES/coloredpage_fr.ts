@@ -8,8 +8,8 @@
         <translation>Fichier image</translation>
     </message>
     <message id="MESS_TIP_COLOR_IMAGE">
-        <source>Raster of one band whose values color the buildings; press Enter after typing one, or drop a file on the page</source>
-        <translation>Raster à une bande dont les valeurs colorent les bâtiments&#xa0;; validez par Entrée un chemin saisi, ou déposez un fichier sur la page</translation>
+        <source>Raster whose values color the buildings; press Enter after typing one, or drop a file on the page</source>
+        <translation>Raster dont les valeurs colorent les bâtiments&#xa0;; validez par Entrée un chemin saisi, ou déposez un fichier sur la page</translation>
     </message>
     <message id="MESS_COLOR_IMAGE_KINDS">
         <source>.tif, .asc or other raster</source>
@@ -122,10 +122,6 @@
     <message id="MESS_NEED_COLOR_IMAGE">
         <source>Choose the image that colors the buildings.</source>
         <translation>Choisissez l'image qui colore les bâtiments.</translation>
-    </message>
-    <message id="MESS_NEED_ONE_BAND">
-        <source>Choose an image of one band.</source>
-        <translation>Choisissez une image à une bande.</translation>
     </message>
     <message id="MESS_NODATA_NO_NUMBER">
         <source>The no-data value is not a number.</source>
