@@ -4,16 +4,14 @@
 #include "batch/InputNames.h"
 #include "batch/ProgressLine.h"
 #include "buildings/ColoringLegend.h"
+#include "buildings/RasterRanges.h"
 #include "colormaps/ColorMapList.h"
-#include "coverage/CoverageRaster.h"
-#include "geodata/ErrorCollector.h"
 #include "geodata/RasterSource.h"
 #include "language/VltLanguageManager.h"
 
-#include <QFile>
 #include <QFileInfo>
 
-#include <memory>
+#include <optional>
 
 namespace vlt::batch {
 
@@ -76,9 +74,8 @@ QString bandWarning(const geodata::RasterSummary &raster, const RasterColoring &
         .arg(bands.join(QStringLiteral("; ")));
 }
 
-/// Opens the raster of the colours and stores its absolute name in `coloring`.
-Result<std::shared_ptr<coverage::CoverageRaster>> openRaster(RasterColoring &coloring,
-                                                             QStringList &warnings)
+/// Stores the absolute name of the raster in `coloring` and checks that the raster can be used.
+std::optional<Error> checkRaster(RasterColoring &coloring, QStringList &warnings)
 {
     const QString given = coloring.rasterFile;
     const QString file = fileOfDataset(given);
@@ -94,22 +91,26 @@ Result<std::shared_ptr<coverage::CoverageRaster>> openRaster(RasterColoring &col
         return notUsable(summary.value(), given);
     if (const QString warning = bandWarning(summary.value(), coloring); !warning.isEmpty())
         warnings << warning;
-    const geodata::ErrorCollector errors; // errors are returned as reasons, not printed
-    auto raster =
-        coverage::CoverageRaster::open(QFile::encodeName(coloring.rasterFile).toStdString(),
-                                       coloring.noData.toStdString(), coloring.band);
-    if (!raster)
-        return Error{QStringLiteral("MESS_ERR_OPEN_RASTERDS"),
-                     QStringLiteral("This file can't be open as a raster dataset"), given,
-                     QString::fromLocal8Bit(raster.reason.c_str())};
-    return std::shared_ptr(std::move(raster.file));
+    const auto raster = buildings::openRaster(coloring);
+    return raster ? std::nullopt : std::optional(raster.error().withPath(given));
 }
 
-std::optional<coverage::ValueRange> rangeOf(coverage::CoverageRaster &raster, bool quiet)
+/// Reads the range of a stretched raster and stores it for the document.
+Result<std::optional<coverage::ValueRange>> readRange(RasterColoring &coloring,
+                                                      const QString &given, bool quiet)
 {
+    if (!coloring.stretched)
+        return std::optional<coverage::ValueRange>();
     ProgressLine line(
         dico_label("MESS_READING_RANGE", "Computing the minimum and maximum value..."), !quiet);
-    return raster.range(line.progress());
+    const auto range = buildings::readRange(coloring, line.progress());
+    if (range && !*range)
+        return range->error().withPath(given);
+    if (!range || !range->value().values)
+        return Error::asIs(dico_label("MESS_CLI_NO_VALUES", "none of its pixels has a value"),
+                           given);
+    coloring.range = range->value().known;
+    return range->value().values;
 }
 
 } // namespace
@@ -118,20 +119,16 @@ Result<buildings::LegendInput> readColoring(RasterColoring &coloring, const QStr
                                             bool quiet, QStringList &warnings)
 {
     const QString image = coloring.rasterFile;
-    const auto raster = openRaster(coloring, warnings);
-    if (!raster)
-        return raster.error();
+    if (const auto error = checkRaster(coloring, warnings))
+        return *error;
     const auto map = chosenColorMap(coloring.colorMap, installDir);
     if (!map)
         return map.error();
     coloring.colorMap = map.value().path;
-
-    const std::optional<coverage::ValueRange> range =
-        coloring.stretched ? rangeOf(*raster.value(), quiet) : std::nullopt;
-    if (coloring.stretched && !range)
-        return Error::asIs(dico_label("MESS_CLI_NO_VALUES", "none of its pixels has a value"),
-                           image);
-    auto legend = buildings::legendOf(coloring, range);
+    const auto range = readRange(coloring, image, quiet);
+    if (!range)
+        return range.error();
+    auto legend = buildings::legendOf(coloring, range.value());
     if (!legend)
         return legend.error().withPath(coloring.colorMap);
     return legend;

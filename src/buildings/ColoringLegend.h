@@ -1,19 +1,9 @@
 #pragma once
 
 #include "buildings/BuildingLayerFiles.h"
-#include "contract/Progress.h"
 #include "coverage/CoverageRaster.h"
 
 namespace vlt::buildings {
-
-/// Minimum and maximum of a raster; the whole raster is read.
-///
-/// @param coloring  its raster, band and value of no data
-/// @param progress  may be empty; false stops the work
-/// @return          none if no pixel has a value
-/// @par Errors      MESS_ERR_OPEN_RASTERDS with the path and the reason
-Stoppable<std::optional<coverage::ValueRange>> readCoverageRange(const RasterColoring &coloring,
-                                                                 const Progress &progress = {});
 
 /// Makes the legend of a colouring.
 ///

@@ -34,6 +34,8 @@ contract::BuildingColors otherColors(const RasterColoring &coloring)
 {
     contract::BuildingColors colors;
     colors.band = coloring.band;
+    if (coloring.stretched)
+        colors.range = coloring.range;
     return colors;
 }
 

@@ -5,6 +5,8 @@
 
 #include <QString>
 
+#include <optional>
+
 namespace vlt::buildings {
 
 using contract::Reduction;
@@ -19,7 +21,8 @@ struct RasterColoring
     bool interpolated = true; ///< false for ranges of one colour
     QString noData;           ///< as the user typed it; may be empty
     int band = contract::RasterBand.firstRun;
-    bool hasBand = false; ///< the user stated the band
+    std::optional<contract::KnownRasterRange> range = {}; ///< for the document; see RasterRange
+    bool hasBand = false;                                 ///< the user stated the band
 };
 
 /// Whether a raster can color buildings: it has bands and is no picture.

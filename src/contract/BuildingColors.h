@@ -15,13 +15,13 @@ inline constexpr const char *FieldColoringWords[] = {"interpolation", "colorrang
 
 inline constexpr ChosenNumber<int> RasterBand{1, 65535, 1};
 
-/// The minimum and maximum of a raster, with the size and time of its file when they were read.
+/// The minimum and maximum of a raster, with the size and time of its files when they were read.
 struct KnownRasterRange
 {
     double minimum = 0;
     double maximum = 0;
-    std::int64_t sizeBytes = 0;
-    std::int64_t timeS = 0; ///< last change, in seconds since 1970
+    std::int64_t sizeBytes = 0; ///< of all files
+    std::int64_t timeS = 0;     ///< of the last change, in seconds since 1970
 
     bool operator==(const KnownRasterRange &) const = default;
 };
@@ -31,7 +31,7 @@ struct KnownRasterRange
 struct BuildingColors
 {
     int band = RasterBand.firstRun;        ///< of the raster
-    std::optional<KnownRasterRange> range; ///< of this band
+    std::optional<KnownRasterRange> range; ///< of this band; only large rasters need it
 
     std::string field; ///< colours come from this field of the footprints; empty: they do not
     std::string map;   ///< path of the colour map file for the values of `field`

@@ -120,8 +120,10 @@ std::optional<RasterColors> parseRasterColors(std::string_view text, const Build
         colors = parseImage(text.substr(image.size()));
     else if (text.starts_with(colorMap))
         colors = parseColorMap(text.substr(colorMap.size()));
-    if (colors)
+    if (colors) {
         colors->band = others.band;
+        colors->range = others.range;
+    }
     return colors;
 }
 

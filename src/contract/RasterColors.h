@@ -20,10 +20,13 @@ struct RasterColors
     std::string raster;
     std::string map; ///< path of the colour map file
     Reduction reduction = Reduction::Minimum;
-    bool isStretched = true;        ///< the map covers the raster's minimum to its maximum
-    bool isInterpolated = true;     ///< false: colour ranges
-    std::string noData;             ///< as typed; may be empty
-    int band = RasterBand.firstRun; ///< not in the texts, which are of band 1
+    bool isStretched = true;    ///< the map covers the raster's minimum to its maximum
+    bool isInterpolated = true; ///< false: colour ranges
+    std::string noData;         ///< as typed; may be empty
+
+    // What the texts do not have: they are of band 1.
+    int band = RasterBand.firstRun;
+    std::optional<KnownRasterRange> range = {};
 };
 
 /// The text for the walls if a raster colours the whole building:
@@ -35,7 +38,7 @@ std::string imageColorText(const RasterColors &colors);
 std::string colorMapColorText(const RasterColors &colors);
 
 /// Parses either text; nothing for other texts and if the name of the raster or the map is empty.
-/// The band comes from the other colours of the document.
+/// Band and range come from the other colours of the document.
 ///
 /// Nothing is escaped in them, so the parts are searched from the end: in the first text the name
 /// of the raster may contain semicolons.

@@ -137,6 +137,19 @@ std::optional<ValueRange> CoverageRaster::range(const Progress &progress)
     return m_parts->blocks.range(progress);
 }
 
+double CoverageRaster::pixelCount() const
+{
+    return static_cast<double>(m_parts->blocks.columns()) * m_parts->blocks.rows();
+}
+
+std::vector<std::string> CoverageRaster::files() const
+{
+    const CPLErrorHandlerPusher quiet(CPLQuietErrorHandler);
+    const localfiles::NoNetwork offline;
+    const CPLStringList names(m_parts->dataset->GetFileList());
+    return {names.List(), names.List() + names.size()};
+}
+
 const OGRSpatialReference *CoverageRaster::srs() const
 {
     return m_parts->srs.IsEmpty() ? nullptr : &m_parts->srs;

@@ -70,6 +70,12 @@ public:
     /// if no pixel has a value, and if `progress` (may be empty) stopped the function.
     std::optional<ValueRange> range(const Progress &progress = {});
 
+    /// Number of pixels of the band.
+    double pixelCount() const;
+
+    /// The files that the raster consists of, in bytes of the file system.
+    std::vector<std::string> files() const;
+
     /// System of the raster, x before y; null if the file does not declare one.
     const OGRSpatialReference *srs() const;
 

@@ -1,9 +1,11 @@
 #include "buildings/BuildingLayerFiles.h"
 #include "buildings/DocumentWriter.h"
+#include "buildings/RasterRanges.h"
 #include "buildings/TexturedInfoText.h"
 #include "language/VltLanguageManager.h"
 #include "support/Cases.h"
 #include "support/Files.h"
+#include "support/GeoTiff.h"
 
 #include <QDir>
 #include <QFile>
@@ -97,6 +99,36 @@ private Q_SLOTS:
              {files.value().layer, files.value().document, files.value().legend})
             QCOMPARE(QFile::permissions(file) & ~(QFile::ReadUser | QFile::WriteUser),
                      QFile::ReadOwner | QFile::WriteOwner);
+    }
+
+    /// So that readers do not read it again.
+    void writesTheRangeOfALargeRaster_data()
+    {
+        const Cases<int, bool> row({"columns", "isWritten"});
+        row("small", 999, false);
+        row("large", 1000, true);
+    }
+
+    void writesTheRangeOfALargeRaster()
+    {
+        QFETCH(int, columns);
+        const char *options[] = {"SPARSE_OK=TRUE", nullptr};
+        RasterColoring coloring = Signal;
+        coloring.stretched = true;
+        coloring.rasterFile = QString::fromStdString(makeGeoTiff(
+            path(u"empty.tif"_s), {columns, 10000, 1, GDT_Byte, {}, "", {}, {}, options}));
+
+        for (const bool isRead : {false, true}) { // once, then from the table of this process
+            int reports = 0;
+            const auto range = readRange(coloring, [&reports](double) { return ++reports; });
+            QVERIFY(range && range->ok());
+            QCOMPARE(reports == 0, isRead);
+            coloring.range = range->value().known;
+        }
+        QTEST(coloring.range.has_value(), "isWritten");
+        QTEST(coloredDocument(m_input, coloring).colors.range.has_value(), "isWritten");
+        coloring.stretched = false;
+        QVERIFY(!coloredDocument(m_input, coloring).colors.range);
     }
 
     void writesTexturedBuildings()

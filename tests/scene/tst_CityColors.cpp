@@ -5,6 +5,8 @@
 #include "support/Cases.h"
 #include "support/GeoTiff.h"
 
+#include <QDateTime>
+#include <QFileInfo>
 #include <QTemporaryDir>
 
 #include <array>
@@ -165,6 +167,22 @@ private Q_SLOTS:
             QCOMPARE(colorsOf(townOf(2), "IMAGE;two.tif;map.txt;minimum;absolute;interpolation",
                               notices, others),
                      isOther ? QStringLiteral("c800ff c800ff") : QStringLiteral("320000 000000"));
+        }
+    }
+
+    /// Only while the raster is the one whose range it is.
+    void takesTheRangeOfTheDocument()
+    {
+        const QFileInfo file(m_dir.filePath(QStringLiteral("a.tif")));
+        const qint64 timeS = file.lastModified().toSecsSinceEpoch();
+        for (const qint64 laterS : {0, 1}) {
+            Notices notices;
+            vlt::contract::BuildingColors others;
+            others.range = {0, 100, file.size(), timeS + laterS};
+            QCOMPARE(colorsOf(townOf(4), "IMAGE;a.tif;map.txt;average;stretched;interpolation;-99",
+                              notices, others),
+                     laterS ? QStringLiteral("010203 c800ff 640000 000000")
+                            : QStringLiteral("010203 640000 320000 000000"));
         }
     }
 

@@ -3,6 +3,7 @@
 #include "city/BuildingValues.h"
 #include "contract/RasterColors.h"
 #include "coverage/CoverageRaster.h"
+#include "coverage/RasterStamp.h"
 #include "plugins/scene/buildings/ColorText.h"
 #include "plugins/scene/reading/BadLayer.h"
 #include "plugins/scene/reading/Stopped.h"
@@ -26,6 +27,19 @@ constexpr Rgba WithoutValue{200, 200, 200, 255};
 constexpr std::size_t BuildingsPerReport = 100; // few, because one may cover millions of pixels
 constexpr double RangeShare = 0.5;              ///< of the work, if the whole raster is read
 
+/// The range of the raster: the one of the document, unless the raster has changed since.
+coverage::ValueRange rangeOf(CoverageRaster &raster, const RasterColors &colors,
+                             const Progress &progress)
+{
+    if (colors.range && coverage::isUpToDate(*colors.range, raster))
+        return {colors.range->minimum, colors.range->maximum};
+    const std::optional<coverage::ValueRange> range = raster.range(
+        [&](double share) { return progress(share * RangeShare) ? true : throw Stopped{}; });
+    if (!range)
+        throw BadLayer("MESS_SCENE_EMPTY_RASTER", {colors.raster});
+    return *range;
+}
+
 ColorMap loadMap(const RasterColors &colors, const std::vector<std::string> &directories,
                  CoverageRaster &raster, const Progress &progress)
 {
@@ -37,11 +51,8 @@ ColorMap loadMap(const RasterColors &colors, const std::vector<std::string> &dir
     ColorMap map;
     bool isLoaded = false;
     if (colors.isStretched) {
-        const std::optional<coverage::ValueRange> range = raster.range(
-            [&](double share) { return progress(share * RangeShare) ? true : throw Stopped{}; });
-        if (!range)
-            throw BadLayer("MESS_SCENE_EMPTY_RASTER", {colors.raster});
-        isLoaded = map.load(path, range->minimum, range->maximum);
+        const coverage::ValueRange range = rangeOf(raster, colors, progress);
+        isLoaded = map.load(path, range.minimum, range.maximum);
     } else
         isLoaded = map.load(path);
     if (!isLoaded) {

@@ -58,15 +58,15 @@ QString VltAddTexbColoredPage::missingText() const
 Stoppable<buildings::BuildingLayerFiles> VltAddTexbColoredPage::writeFiles(const QString &layerPath,
                                                                            platform::Access access)
 {
-    const auto legend = m_ui->m_pwColoring->legend();
-    const auto coloring = m_ui->m_pwColoring->coloring();
-    if (!legend || !coloring)
+    const auto colors = m_ui->m_pwColoring->colors();
+    if (!colors)
         return std::nullopt;
-    m_colorMapName = legend->name;
-    buildings::BuildingLayerInput input = layerInput(m_ui->m_pwExtrusion->settings(), legend);
-    if (!count(buildings::coloredDocument(input, *coloring), input))
+    m_colorMapName = colors->legend.name;
+    buildings::BuildingLayerInput input =
+        layerInput(m_ui->m_pwExtrusion->settings(), colors->legend);
+    if (!count(buildings::coloredDocument(input, colors->coloring), input))
         return std::nullopt;
-    return buildings::writeColoredLayer(layerPath, input, *coloring, access);
+    return buildings::writeColoredLayer(layerPath, input, colors->coloring, access);
 }
 
 void VltAddTexbColoredPage::layerWritten(const buildings::BuildingLayerFiles &files)

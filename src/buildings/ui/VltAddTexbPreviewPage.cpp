@@ -113,18 +113,18 @@ VltAddTexbPreviewPage::texturing(const vlt::buildings::RasterColoring &coloring)
 vlt::Stoppable<vlt::buildings::BuildingLayerFiles>
 VltAddTexbPreviewPage::writeFiles(const QString &layerPath, vlt::platform::Access access)
 {
-    std::optional<vlt::buildings::RasterColoring> coloring;
+    vlt::buildings::RasterColoring coloring;
     std::optional<vlt::buildings::LegendInput> legend;
     if (m_ui->m_pwColors->usesColorMap()) {
-        legend = m_ui->m_pwColoring->legend();
-        coloring = m_ui->m_pwColoring->coloring(); // read after legend(), which may wait
-        if (!legend || !coloring)
+        const auto colors = m_ui->m_pwColoring->colors();
+        if (!colors)
             return std::nullopt;
+        coloring = colors->coloring;
+        legend = colors->legend;
     }
     m_colorMapName = legend ? legend->name : QString();
     vlt::buildings::BuildingLayerInput input = layerInput(m_ui->m_pwExtrusion->settings(), legend);
-    const vlt::buildings::TexturingParameters parameters =
-        texturing(coloring.value_or(vlt::buildings::RasterColoring()));
+    const vlt::buildings::TexturingParameters parameters = texturing(coloring);
     if (!count(vlt::buildings::texturedDocument(input, parameters), input))
         return std::nullopt;
     return vlt::buildings::writeTexturedLayer(layerPath, input, parameters, access);

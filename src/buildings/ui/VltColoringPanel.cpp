@@ -3,6 +3,7 @@
 #include "ui_ColoringPanel.h"
 
 #include "buildings/ColoringLegend.h"
+#include "buildings/RasterRanges.h"
 #include "buildings/ui/ColorMapSwatch.h"
 #include "buildings/ui/NoDataGuess.h"
 #include "buildings/ui/RasterMessages.h"
@@ -191,43 +192,41 @@ QString VltColoringPanel::missingText() const
     return {};
 }
 
-bool VltColoringPanel::readRange(const buildings::RasterColoring &coloring)
+/// The range of the raster's values, which is read once; none after a message or if the user stops.
+std::optional<buildings::RasterRange>
+VltColoringPanel::readRange(const buildings::RasterColoring &coloring)
 {
-    const QDateTime written = QFileInfo(m_openedImage).lastModified();
-    if (m_range && m_range->raster == coloring.rasterFile && m_range->noData == coloring.noData &&
-        m_range->band == coloring.band && m_range->written == written)
-        return true;
-    m_range.reset();
-    using Range = Stoppable<std::optional<coverage::ValueRange>>;
+    using Range = Stoppable<buildings::RasterRange>;
     const auto read = wizard::waitForValue<Range>(
         this, tr("Computing the minimum and maximum value...", "MESS_READING_RANGE"),
-        [coloring](const Progress &progress) {
-            return buildings::readCoverageRange(coloring, progress);
-        });
+        [coloring](const Progress &progress) { return buildings::readRange(coloring, progress); });
     if (!read || !*read)
-        return false;
-    const auto &range = **read;
-    if (!range) {
-        messages::critical(this, range.error());
-        return false;
-    }
-    m_range =
-        KnownRange{coloring.rasterFile, coloring.noData, coloring.band, written, range.value()};
-    return true;
+        return std::nullopt;
+    if (const Result<buildings::RasterRange> &range = **read; range)
+        return range.value();
+    messages::critical(this, (*read)->error());
+    return std::nullopt;
 }
 
-std::optional<buildings::LegendInput> VltColoringPanel::legend()
+std::optional<VltColoringPanel::Colors> VltColoringPanel::colors()
 {
-    const std::optional<buildings::RasterColoring> chosen = coloring();
-    if (!chosen || (chosen->stretched && !readRange(*chosen)))
+    std::optional<buildings::RasterColoring> chosen = coloring();
+    if (!chosen)
         return std::nullopt;
-    const Result<buildings::LegendInput> legend =
-        buildings::legendOf(*chosen, chosen->stretched ? m_range->range : std::nullopt);
+    std::optional<coverage::ValueRange> values;
+    if (chosen->stretched) {
+        const std::optional<buildings::RasterRange> range = readRange(*chosen);
+        if (!range)
+            return std::nullopt;
+        values = range->values;
+        chosen->range = range->known;
+    }
+    const Result<buildings::LegendInput> legend = buildings::legendOf(*chosen, values);
     if (!legend) {
         messages::critical(this, legend.error());
         return std::nullopt;
     }
-    return legend.value();
+    return Colors{*chosen, legend.value()};
 }
 
 void VltColoringPanel::showSubdatasets(const QList<geodata::Subdataset> &subdatasets)

@@ -1,11 +1,9 @@
 #pragma once
 
 #include "buildings/BuildingLayerFiles.h"
-#include "coverage/CoverageRaster.h"
+#include "buildings/RasterRanges.h"
 #include "geodata/RasterSource.h"
 #include "wizard/base/VltParameterPanel.h"
-
-#include <QDateTime>
 
 #include <memory>
 #include <optional>
@@ -30,17 +28,20 @@ public:
     /// Lists the colour maps of an installation before those that the user added.
     void setInstallDir(const QString &installDir);
 
-    /// The chosen values. None without an image of values or a colour map, while the path of
-    /// another image is being typed, or if the value of no data is not a number.
-    std::optional<vlt::buildings::RasterColoring> coloring() const;
-
-    /// The choice that coloring() still needs, as text for the user; empty if it is complete.
+    /// The choice that colors() still needs, as text for the user; empty if it is complete.
     QString missingText() const;
 
-    /// The legend of the chosen values, stretched to the raster's minimum and maximum if that is
-    /// chosen; their computation shows a progress bar. None if the raster or the colour map cannot
-    /// be read, after a message, and if the user stops the computation.
-    std::optional<vlt::buildings::LegendInput> legend();
+    /// The chosen values with their legend.
+    struct Colors
+    {
+        vlt::buildings::RasterColoring coloring;
+        vlt::buildings::LegendInput legend;
+    };
+
+    /// Reads the minimum and maximum of the raster if the colours are stretched; a progress bar is
+    /// shown. None while a choice is missing, if the raster or the colour map cannot be read, after
+    /// a message, and if the user stops the read.
+    std::optional<Colors> colors();
 
     /// Absolute path of the image file; empty if none is open.
     QString imagePath() const;
@@ -75,16 +76,6 @@ public Q_SLOTS:
 private:
     using Summary = vlt::Result<vlt::geodata::RasterSummary>;
 
-    /// Minimum and maximum of a raster, valid as long as its file stays the same.
-    struct KnownRange
-    {
-        QString raster;
-        QString noData;
-        int band = 1;
-        QDateTime written;
-        std::optional<vlt::coverage::ValueRange> range;
-    };
-
     void connectWidgets();
     void takeTypedImage();
     void showSubdatasets(const QList<vlt::geodata::Subdataset> &subdatasets);
@@ -92,7 +83,9 @@ private:
     std::optional<Summary> readSummary(const QString &path, const QString &part);
     void check(const std::optional<Summary> &summary, const QString &name, bool quiet);
     void checkSubdataset(bool quiet);
-    bool readRange(const vlt::buildings::RasterColoring &coloring);
+    std::optional<vlt::buildings::RasterRange>
+    readRange(const vlt::buildings::RasterColoring &coloring);
+    std::optional<vlt::buildings::RasterColoring> coloring() const;
     QString subdataset() const;
     int band() const;
     int addToList(const QString &name, const QString &path);
@@ -104,5 +97,4 @@ private:
     bool m_isUsable = false;
     bool m_isBusy = false;
     int m_installedCount = 0; ///< the installation's colour maps, first in the list
-    std::optional<KnownRange> m_range;
 };
