@@ -97,15 +97,23 @@ std::optional<Error> checkRaster(RasterColoring &coloring, QStringList &warnings
 
 /// Reads the range of a stretched raster and stores it for the document.
 Result<std::optional<coverage::ValueRange>> readRange(RasterColoring &coloring,
+                                                      const buildings::BuildingLayerInput &layer,
                                                       const QString &given, bool quiet)
 {
     if (!coloring.stretched)
         return std::optional<coverage::ValueRange>();
+    for (QString &other : coloring.stretch.others) {
+        if (fileOfDataset(other).isEmpty())
+            return Error{QStringLiteral("MESS_SNAP_NO_FILE"), QStringLiteral("no such file"),
+                         other};
+        other = absoluteDatasetName(other);
+    }
     ProgressLine line(
         dico_label("MESS_READING_RANGE", "Computing the minimum and maximum value..."), !quiet);
-    const auto range = buildings::readRange(coloring, line.progress());
+    const auto range = buildings::readRange(coloring, buildings::coloredDocument(layer, coloring),
+                                            line.progress());
     if (range && !*range)
-        return range->error().withPath(given);
+        return range->error();
     if (!range || !range->value().values)
         return Error::asIs(dico_label("MESS_CLI_NO_VALUES", "none of its pixels has a value"),
                            given);
@@ -115,17 +123,18 @@ Result<std::optional<coverage::ValueRange>> readRange(RasterColoring &coloring,
 
 } // namespace
 
-Result<buildings::LegendInput> readColoring(RasterColoring &coloring, const QString &installDir,
-                                            bool quiet, QStringList &warnings)
+Result<buildings::LegendInput> readColoring(RasterColoring &coloring,
+                                            const buildings::BuildingLayerInput &layer, bool quiet,
+                                            QStringList &warnings)
 {
     const QString image = coloring.rasterFile;
     if (const auto error = checkRaster(coloring, warnings))
         return *error;
-    const auto map = chosenColorMap(coloring.colorMap, installDir);
+    const auto map = chosenColorMap(coloring.colorMap, layer.installDir);
     if (!map)
         return map.error();
     coloring.colorMap = map.value().path;
-    const auto range = readRange(coloring, image, quiet);
+    const auto range = readRange(coloring, layer, image, quiet);
     if (!range)
         return range.error();
     auto legend = buildings::legendOf(coloring, range.value());

@@ -42,7 +42,7 @@ CommandSyntax syntax()
                                 "project's)."),
                      dico_label("MESS_USE_NO_VECTOR", "no vector file given")};
     syntax.options = buildingsOptions();
-    syntax.repeatable = {QStringLiteral("texture")};
+    syntax.repeatable = {QStringLiteral("texture"), QStringLiteral("stretch")};
     syntax.examples =
         QStringLiteral("  vltlayers buildings town.shp --dtm hills.tif -o town.lay\n"
                        "  vltlayers buildings town.shp --dtm hills.tif --image level.tif \\\n"

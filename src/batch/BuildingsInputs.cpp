@@ -184,12 +184,13 @@ Result<BuildingsInputs> readBuildingsInputs(const BuildingsRequest &request,
     BuildingsInputs inputs = read.value();
     if (request.image) {
         inputs.coloring = *request.image;
-        const auto legend =
-            readColoring(inputs.coloring, surroundings.installDir, quiet, inputs.warnings);
+        const auto legend = readColoring(inputs.coloring, inputs.layer, quiet, inputs.warnings);
         if (!legend)
             return legend.error();
         inputs.layer.legend = legend.value();
         inputs.files += {fileOfDataset(inputs.coloring.rasterFile), inputs.coloring.colorMap};
+        for (const QString &other : inputs.coloring.stretch.others)
+            inputs.files << fileOfDataset(other);
     }
     if (!request.texturing)
         return inputs;

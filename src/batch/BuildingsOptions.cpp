@@ -33,6 +33,12 @@ QList<QCommandLineOption> coloredOptions()
          dico_label("MESS_OPT_ABSOLUTE",
                     "Use the color map's own values (default: the map is stretched between the "
                     "image's minimum and maximum value).")},
+        {QStringLiteral("stretch"),
+         dico_label("MESS_OPT_STRETCH",
+                    "Values that the color map is stretched over: all of the image (raster, the "
+                    "default), percentiles of them, those under the buildings, a stated range, or "
+                    "all of the image and of others (with, may be given several times)."),
+         QLatin1String(StretchWords)},
         {QStringLiteral("color-ranges"),
          dico_label("MESS_OPT_COLOR_RANGES",
                     "Use one color for each range of values (default: colors between two values of "

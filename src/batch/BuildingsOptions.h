@@ -25,6 +25,8 @@ struct BuildingsMeasures
 const std::vector<NumberOption<BuildingsMeasures>> &buildingsNumbers();
 
 /// The value of a colour option for colours from the raster.
+inline constexpr char StretchWords[] = "raster|percentile=2-98|buildings|range=MIN,MAX|with=FILE";
+
 inline constexpr char ColorMapWord[] = "colormap";
 
 /// Words of the command line, in the order of buildings::DataStructure.

@@ -17,9 +17,10 @@ using contract::BuildingTextures;
 using contract::Reduction;
 
 /// Options that are allowed only with another option.
-const QStringList OfImage = {QStringLiteral("band"),         QStringLiteral("image-nodata"),
-                             QStringLiteral("colormap"),     QStringLiteral("absolute"),
-                             QStringLiteral("color-ranges"), QStringLiteral("mode")};
+const QStringList OfImage = {QStringLiteral("band"),     QStringLiteral("image-nodata"),
+                             QStringLiteral("colormap"), QStringLiteral("absolute"),
+                             QStringLiteral("stretch"),  QStringLiteral("color-ranges"),
+                             QStringLiteral("mode")};
 const QStringList OfFolders = {QStringLiteral("structure"), QStringLiteral("filter")};
 const QStringList OfTextures = {
     QStringLiteral("texture-on"),  QStringLiteral("textured-distance"),
@@ -129,6 +130,17 @@ Result<RasterColoring> readImage(const QCommandLineParser &parser)
     image.hasBand = parser.isSet(QStringLiteral("band"));
     image.colorMap = parser.value(QStringLiteral("colormap"));
     image.stretched = !parser.isSet(QStringLiteral("absolute"));
+    const QString stretch = QStringLiteral("stretch");
+    if (parser.isSet(stretch)) {
+        const auto chosen = buildings::parseStretch(parser.values(stretch));
+        if (!chosen)
+            return wrongValue(stretch, QLatin1String(StretchWords),
+                              parser.values(stretch).join(QLatin1Char(' ')));
+        if (!image.stretched)
+            return wrongUsage(
+                dico_label("MESS_USE_BOTH_STRETCH", "--absolute and --stretch cannot be combined"));
+        image.stretch = *chosen;
+    }
     image.interpolated = !parser.isSet(QStringLiteral("color-ranges"));
     const QString option = QStringLiteral("mode");
     const auto documentWord = wordsOf(contract::ReductionWords).indexOf(parser.value(option));

@@ -3,12 +3,14 @@
 #include "buildings/CountsText.h"
 #include "buildings/DocumentWriter.h"
 #include "buildings/TexturedInfoText.h"
+#include "colormaps/ColorMapText.h"
 #include "colormaps/ColoredInfoText.h"
 #include "language/VltLanguageManager.h"
 #include "platform/ConfigurationFile.h"
 #include "platform/LayerFile.h"
 
 #include <QDebug>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
@@ -78,7 +80,13 @@ public:
         const QString templatePath = texbTemplatePath(m_input.installDir);
         if (const auto found = platform::readConfigurationFile(templatePath); !found)
             return found.error();
-        Result<Done> written = writePart(m_files.document, document.toUtf8());
+        Result<Done> written = Done{};
+        if (!m_files.colorMap.isEmpty())
+            written =
+                writePart(m_files.colorMap,
+                          QByteArray::fromStdString(colormaps::colorMapText(m_input.legend->map)));
+        if (written)
+            written = writePart(m_files.document, document.toUtf8());
         if (written && m_input.legend)
             written = writeLegend(*m_input.legend);
         if (written)
@@ -183,6 +191,16 @@ std::vector<contract::BuildingImage> usedImages(const QList<FileEntry> &images)
     return used;
 }
 
+/// The colouring with the layer's own colour map, if it has one.
+RasterColoring withOwnMap(RasterColoring coloring, const BuildingLayerFiles &files)
+{
+    if (!files.colorMap.isEmpty()) {
+        coloring.colorMap = files.colorMap;
+        coloring.stretched = false;
+    }
+    return coloring;
+}
+
 } // namespace
 
 BuildingLayerFiles filesOf(const QString &layerPath, const BuildingLayerInput &input)
@@ -191,9 +209,15 @@ BuildingLayerFiles filesOf(const QString &layerPath, const BuildingLayerInput &i
     QString name = QFileInfo(layerPath).absoluteFilePath();
     if (name.endsWith(layerSuffix, Qt::CaseInsensitive))
         name.chop(layerSuffix.size());
-    BuildingLayerFiles files{layerPath, name + DocumentSuffix, {}};
-    if (input.legend)
-        files.legend = colormaps::legendPath(QFileInfo(name).path(), input.legend->name);
+    BuildingLayerFiles files{layerPath, name + DocumentSuffix, {}, {}};
+    if (!input.legend)
+        return files;
+    const QString folder = QFileInfo(name).path();
+    files.legend = colormaps::legendPath(folder, input.legend->name);
+    if (input.legend->isOwnMap)
+        files.colorMap = QDir(folder).filePath(ownLegendName(files.document, input.legend->name)
+                                                   .replace(QLatin1Char(';'), QLatin1Char('_')) +
+                                               QStringLiteral(".cmap"));
     return files;
 }
 
@@ -201,6 +225,8 @@ QStringList possibleFilesOf(const QString &layerPath, const BuildingLayerInput &
 {
     const BuildingLayerFiles files = filesOf(layerPath, input);
     QStringList paths{files.layer, files.document};
+    if (!files.colorMap.isEmpty())
+        paths << files.colorMap;
     if (input.legend)
         paths << files.legend
               << colormaps::legendPath(QFileInfo(files.document).path(),
@@ -242,8 +268,9 @@ Result<BuildingLayerFiles> writeColoredLayer(const QString &layerPath,
                                              const BuildingLayerInput &input,
                                              const RasterColoring &walls, platform::Access access)
 {
+    const RasterColoring written = withOwnMap(walls, filesOf(layerPath, input));
     return FilesWriter(layerPath, input, access)
-        .write(writeColoredTexbDocument(coloredDocument(input, walls)), TexbSubtype::Colored,
+        .write(writeColoredTexbDocument(coloredDocument(input, written)), TexbSubtype::Colored,
                [](const QString &legend) { return legend; });
 }
 
@@ -253,8 +280,10 @@ Result<BuildingLayerFiles> writeTexturedLayer(const QString &layerPath,
                                               platform::Access access)
 {
     const QString images = texturedInfoText(texturing.mode, texturing.images);
+    TexturingParameters written = texturing;
+    written.coloring = withOwnMap(texturing.coloring, filesOf(layerPath, input));
     return FilesWriter(layerPath, input, access)
-        .write(writeTexbDocument(texturedDocument(input, texturing)), subtypeOf(texturing.mode),
+        .write(writeTexbDocument(texturedDocument(input, written)), subtypeOf(texturing.mode),
                [&images](const QString &legend) { return QString(images + legend); });
 }
 

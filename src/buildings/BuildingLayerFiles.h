@@ -17,6 +17,7 @@ struct BuildingLayerFiles
 {
     QString layer;    ///< "NAME.lay"
     QString document; ///< "NAME.texb"
+    QString colorMap; ///< "NAME_MAP.cmap" if the layer has its own; else empty
     /// "MAP_gradient.png", or "NAME_MAP_gradient.png" if the first belongs to another user or shows
     /// other values; empty if no colour map is used
     QString legend;
@@ -28,6 +29,7 @@ struct LegendInput
     QString name;            ///< name of the colour map that the user sees
     colormaps::ColorMap map; ///< stretched to the values that it is used for
     colormaps::Interpretation interpretation = colormaps::Interpretation::Interpolation;
+    bool isOwnMap = false; ///< the layer gets a file with the stretched map, which it names
 };
 
 /// The inputs of both kinds of layers of buildings.
@@ -50,7 +52,8 @@ QStringList possibleFilesOf(const QString &layerPath, const BuildingLayerInput &
 contract::BuildingDocument coloredDocument(const BuildingLayerInput &input,
                                            const RasterColoring &walls);
 
-/// Writes a layer of buildings with colours from a raster: document, legend, layer, in this order.
+/// Writes a layer of buildings with colours from a raster: its own colour map if it has one,
+/// document, legend, layer, in this order.
 /// After a failure the files have their former content.
 ///
 /// @param layerPath  of the layer file; the document has the same name

@@ -18,7 +18,8 @@ Result<LegendInput> legendOf(const RasterColoring &coloring,
         return map.error();
     return LegendInput{colormaps::colorMapEntry(coloring.colorMap).name, map.value(),
                        coloring.interpolated ? colormaps::Interpretation::Interpolation
-                                             : colormaps::Interpretation::ColorRanges};
+                                             : colormaps::Interpretation::ColorRanges,
+                       needsOwnMap(coloring)};
 }
 
 } // namespace vlt::buildings

@@ -2,8 +2,6 @@
 
 namespace vlt::buildings {
 
-namespace {
-
 contract::RasterColors rasterColors(const RasterColoring &coloring)
 {
     return {coloring.rasterFile.toStdString(),
@@ -15,7 +13,10 @@ contract::RasterColors rasterColors(const RasterColoring &coloring)
             coloring.band};
 }
 
-} // namespace
+bool needsOwnMap(const RasterColoring &coloring)
+{
+    return coloring.stretched && coloring.stretch.kind != Stretch::Raster;
+}
 
 bool isUsable(const geodata::RasterSummary &raster)
 {
@@ -34,7 +35,7 @@ contract::BuildingColors otherColors(const RasterColoring &coloring)
 {
     contract::BuildingColors colors;
     colors.band = coloring.band;
-    if (coloring.stretched)
+    if (coloring.stretched && !needsOwnMap(coloring))
         colors.range = coloring.range;
     return colors;
 }

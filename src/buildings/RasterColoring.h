@@ -1,5 +1,6 @@
 #pragma once
 
+#include "buildings/Stretch.h"
 #include "contract/RasterColors.h"
 #include "geodata/RasterSource.h"
 
@@ -17,13 +18,21 @@ struct RasterColoring
     QString rasterFile;
     QString colorMap; ///< path of the colour map file
     Reduction reduction = Reduction::Minimum;
-    bool stretched = true;    ///< the map is stretched from the raster's minimum to its maximum
+    bool stretched = true;    ///< the map is stretched over `stretch`
     bool interpolated = true; ///< false for ranges of one colour
     QString noData;           ///< as the user typed it; may be empty
     int band = contract::RasterBand.firstRun;
+    Stretch stretch = {};
     std::optional<contract::KnownRasterRange> range = {}; ///< for the document; see RasterRange
     bool hasBand = false;                                 ///< the user stated the band
 };
+
+/// The colouring as readers know it.
+contract::RasterColors rasterColors(const RasterColoring &coloring);
+
+/// Whether the layer needs a copy of the colour map on the values that it is stretched over: the
+/// document can only name the range of the raster.
+bool needsOwnMap(const RasterColoring &coloring);
 
 /// Whether a raster can color buildings: it has bands and is no picture.
 bool isUsable(const geodata::RasterSummary &raster);

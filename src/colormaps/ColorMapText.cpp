@@ -202,4 +202,23 @@ std::optional<ColorTable> parseColorMapText(std::string_view text, double minimu
     return std::move(reader).sortedTable();
 }
 
+std::string colorMapText(const ColorMap &map)
+{
+    std::string text;
+    const auto addLine = [&text](std::string_view first, const Rgba &color) {
+        text += first;
+        for (const int part : {color.red, color.green, color.blue, color.alpha})
+            text += ' ' + std::to_string(part);
+        text += '\n';
+    };
+    for (const ColorAssociation &one : map.associations()) {
+        std::array<char, 32> digits{};
+        const char *end = std::to_chars(digits.begin(), digits.end(), one.value).ptr;
+        addLine({digits.data(), static_cast<std::size_t>(end - digits.data())}, one.color);
+    }
+    if (map.noDataColor())
+        addLine("nv", *map.noDataColor());
+    return text;
+}
+
 } // namespace vlt::colormaps

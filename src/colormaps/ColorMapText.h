@@ -2,6 +2,7 @@
 
 #include "colormaps/ColorMap.h"
 
+#include <string>
 #include <string_view>
 
 namespace vlt::colormaps {
@@ -22,5 +23,8 @@ namespace vlt::colormaps {
 /// @return                 nothing if a line is invalid (a percentage outside 0 .. 100, an unknown
 ///                         colour), which is reported as an error of the geodata library
 std::optional<ColorTable> parseColorMapText(std::string_view text, double minimum, double maximum);
+
+/// The text of a map in its present range; parseColorMapText() reads the same values and colours.
+std::string colorMapText(const ColorMap &map);
 
 } // namespace vlt::colormaps

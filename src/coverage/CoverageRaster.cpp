@@ -4,6 +4,7 @@
 #include "contract/SceneTexts.h"
 #include "coverage/LocalRaster.h"
 #include "coverage/RasterBlocks.h"
+#include "coverage/RasterPercentiles.h"
 #include "coverage/RowRuns.h"
 #include "coverage/ValueReducer.h"
 #include "localfiles/NoNetwork.h"
@@ -135,6 +136,12 @@ CoverageRaster::open(const std::string &path, const std::string &noData, int ban
 std::optional<ValueRange> CoverageRaster::range(const Progress &progress)
 {
     return m_parts->blocks.range(progress);
+}
+
+std::optional<ValueRange> CoverageRaster::percentiles(double low, double high,
+                                                      const Progress &progress)
+{
+    return percentilesOf(m_parts->blocks, low, high, progress);
 }
 
 double CoverageRaster::pixelCount() const

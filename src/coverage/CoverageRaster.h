@@ -70,6 +70,9 @@ public:
     /// if no pixel has a value, and if `progress` (may be empty) stopped the function.
     std::optional<ValueRange> range(const Progress &progress = {});
 
+    /// Two percentiles of these values, in per cent; otherwise as range().
+    std::optional<ValueRange> percentiles(double low, double high, const Progress &progress = {});
+
     /// Number of pixels of the band.
     double pixelCount() const;
 

@@ -117,6 +117,16 @@ void RasterBlocks::read(int row, int begin, int end,
     }
 }
 
+bool RasterBlocks::forEachPiece(const Progress &progress,
+                                const std::function<void(std::span<const double>)> &use)
+{
+    std::vector<double> values;
+    return forEachWindow(columns(), rows(), progress, [&](const RasterWindow &part) {
+        readWindow(part.left, part.top, part.width, part.height, values);
+        use(values);
+    });
+}
+
 std::optional<ValueRange> RasterBlocks::range(const Progress &progress)
 {
     if (hasStoredRange(m_band)) {
@@ -129,9 +139,7 @@ std::optional<ValueRange> RasterBlocks::range(const Progress &progress)
             return ValueRange{low, high};
     }
     std::optional<ValueRange> range;
-    std::vector<double> values;
-    const auto widen = [&](const RasterWindow &part) {
-        readWindow(part.left, part.top, part.width, part.height, values);
+    const auto widen = [&range](std::span<const double> values) {
         for (const double value : values) {
             if (std::isnan(value))
                 continue;
@@ -141,7 +149,7 @@ std::optional<ValueRange> RasterBlocks::range(const Progress &progress)
             range->maximum = std::max(range->maximum, value);
         }
     };
-    return forEachWindow(columns(), rows(), progress, widen) ? range : std::nullopt;
+    return forEachPiece(progress, widen) ? range : std::nullopt;
 }
 
 } // namespace vlt::coverage

@@ -32,6 +32,13 @@ public:
     /// The values of a part of a row, with scale and offset applied, piece by piece.
     void read(int row, int begin, int end, const std::function<void(std::span<const double>)> &use);
 
+    /// All values, piece by piece, without use of the kept blocks.
+    ///
+    /// @param progress  may be empty
+    /// @return          false if `progress` stopped the function
+    bool forEachPiece(const Progress &progress,
+                      const std::function<void(std::span<const double>)> &use);
+
     /// Minimum and maximum of all values, with scale and offset applied, without use of the kept
     /// blocks; nothing if there are no values or `progress` (may be empty) stopped the function.
     std::optional<ValueRange> range(const Progress &progress);

@@ -199,6 +199,36 @@ private Q_SLOTS:
         QVERIFY2(third.errors.contains("it has no band 3"), third.errors.constData());
     }
 
+    void stretchesOverOtherValues_data()
+    {
+        const Cases<QString, QByteArray, QByteArray> row({"stretch", "first", "last"});
+        row("range", "--stretch range=-110,-62.5", "-110", "-62.5");
+        // 15 values from -120 to -60
+        row("percentiles", "--stretch percentile=10-85.5", "-110", "-60");
+        row("houses", "--stretch buildings", "-80", "-80");
+        row("other rasters", "--stretch with=../t/low.asc --stretch with=../t/high.asc", "-500",
+            "7");
+    }
+
+    void stretchesOverOtherValues()
+    {
+        QFETCH(QString, stretch);
+        QFETCH(QByteArray, first);
+        QFETCH(QByteArray, last);
+        writeFile(path(u"t/low.asc"_s), QByteArray(Grid).replace("-120", "-500"));
+        writeFile(path(u"t/high.asc"_s), QByteArray(Grid).replace("-110", "7"));
+
+        const Run run = start(Common + u"--image ../level.asc --colormap ../own.txt "_s + stretch);
+
+        QCOMPARE(run.errors, QByteArray());
+        QCOMPARE(readFile(path(u"elsewhere/o_own.cmap"_s)),
+                 first + " 0 255 0 255\n" + last + " 255 255 255 255\n");
+        const QByteArray document = readFile(path(u"elsewhere/o.texb"_s));
+        QVERIFY2(document.contains("/elsewhere/o_own.cmap;minimum;absolute;interpolation\""),
+                 document.constData());
+        QVERIFY(QFile::exists(path(u"elsewhere/own_gradient.png"_s)));
+    }
+
     void warnsOfImages_data()
     {
         const Cases<QString, QByteArray, int> row({"options", "warning", "images"});
@@ -301,6 +331,13 @@ private Q_SLOTS:
         row("% --texture ../t/c.asc=1 --wall-color reddish", 2, "red or the word colormap");
         row("% --texture ../t/c.asc=1 --edge-color colormap", 2, "--edge-color is RRGGBB or");
         row("% --texture ../t/c.asc=1 --magnify cubic", 2, "none|linear");
+        row("% --image ../level.asc --stretch range=5,5", 2,
+            "--stretch is raster|percentile=2-98|buildings|range=MIN,MAX|with=FILE");
+        row("% --image ../level.asc --stretch percentile=2-101", 2, "--stretch is");
+        row("% --image ../level.asc --stretch with=../no.tif", 1, "../no.tif: no such file");
+        row("% --image ../level.asc --stretch with=../own.txt", 1,
+            "can't be open as a raster dataset");
+        row("% --image ../level.asc --absolute --stretch raster", 2, "cannot be combined");
         row("% --band 2", 2, "--band needs --image");
         row("% --image ../level.asc --band 0", 2, "--band is the number of a band");
         row("% --image ../level.asc --mode middle", 2, "minimum|maximum|average|most-represented");
@@ -323,6 +360,7 @@ private Q_SLOTS:
     {
         const Cases<QString> row({"image"});
         row("document", "o.texb");
+        row("own color map", "o_first.cmap");
         row("legend", "first_gradient.png");
     }
 
@@ -331,7 +369,7 @@ private Q_SLOTS:
         QFETCH(QString, image);
         writeFile(path(u"elsewhere/"_s + image), Grid);
 
-        const Run run = start(Common + u"--image "_s + image);
+        const Run run = start(Common + u"--stretch buildings --image "_s + image);
 
         QCOMPARE(run.status, 1);
         QVERIFY2(run.errors.contains("one of the input files"), run.errors.constData());

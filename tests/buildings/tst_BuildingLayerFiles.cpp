@@ -120,7 +120,7 @@ private Q_SLOTS:
 
         for (const bool isRead : {false, true}) { // once, then from the table of this process
             int reports = 0;
-            const auto range = readRange(coloring, [&reports](double) { return ++reports; });
+            const auto range = readRange(coloring, {}, [&reports](double) { return ++reports; });
             QVERIFY(range && range->ok());
             QCOMPARE(reports == 0, isRead);
             coloring.range = range->value().known;

@@ -291,6 +291,48 @@ private Q_SLOTS:
         QVERIFY(!page.document().contains(u"<colors"_s));
     }
 
+    void stretchesOverOtherValues()
+    {
+        AnsweredBoxes boxes;
+        FileDialogAnswer dialog(path(u"other.asc"_s));
+        ColoredPage page(m_installation);
+        QTRY_VERIFY_WITH_TIMEOUT(page.document().contains(u";stretched;"_s), PatienceMs);
+        QVERIFY(page.child<QWidget>(u"m_pwStretchPercentile"_s)->isHidden());
+        const auto ownMap = [&page] { // of the values 1 to 4
+            const QString name =
+                QDir::cleanPath(page.icon()->layerFile()).replace(u".lay"_s, u"_first.cmap"_s);
+            return page.document().contains(name + u";minimum;absolute;"_s) ? readFile(name)
+                                                                            : QByteArray();
+        };
+
+        page.choose(u"m_pwCbStretchOver"_s, 1);
+        QTRY_COMPARE_WITH_TIMEOUT(ownMap(), "1 255 0 0 255\n4 0 0 255 255\n", PatienceMs);
+        page.child<QDoubleSpinBox>(u"m_pwSbStretchLow"_s)->setValue(30);
+        QTRY_COMPARE_WITH_TIMEOUT(ownMap(), "2 255 0 0 255\n4 0 0 255 255\n", PatienceMs);
+        QVERIFY(page.layer().contains(u"first_gradient.png"_s));
+
+        page.choose(u"m_pwCbStretchOver"_s, 3);
+        QTRY_COMPARE_WITH_TIMEOUT(
+            page.message(), u"The range of the colors needs two numbers, the lower one first."_s,
+            PatienceMs);
+        page.line(u"m_pwLeStretchLow"_s)->setText(u"-1,5"_s);
+        page.line(u"m_pwLeStretchHigh"_s)->setText(u"8"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(ownMap(), "-1.5 255 0 0 255\n8 0 0 255 255\n", PatienceMs);
+        page.saveSettings();
+        ColoredPage later(m_installation);
+        QCOMPARE(later.line(u"m_pwLeStretchLow"_s)->text(), u"-1.5"_s);
+        QVERIFY(!later.child<QWidget>(u"m_pwStretchRange"_s)->isHidden());
+
+        page.choose(u"m_pwCbStretchOver"_s, 4);
+        QTRY_COMPARE_WITH_TIMEOUT(page.message(), u"Choose the other images."_s, PatienceMs);
+        page.press(u"m_pwPbStretchOthers"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(ownMap(), "1 255 0 0 255\n4 0 0 255 255\n", PatienceMs);
+        page.check(u"m_pwCbStretch"_s, false);
+        QTRY_VERIFY_WITH_TIMEOUT(page.document().contains(u"first.txt;minimum;absolute;"_s),
+                                 PatienceMs);
+        QVERIFY(boxes.seen.isEmpty());
+    }
+
     void remembersEveryValue()
     {
         QVariantMap values = layerpage::values(

@@ -1,6 +1,7 @@
 #include "ColorMapTesting.h"
 
 #include "colormaps/ColorLookup.h"
+#include "colormaps/ColorMapText.h"
 #include "support/Cases.h"
 
 #include <QTest>
@@ -37,6 +38,25 @@ class tst_ColorMap : public QObject
     QTemporaryDir m_dir;
 
 private Q_SLOTS:
+    void writesTexts()
+    {
+        const std::string path = m_dir.filePath(u"own.txt"_s).toStdString();
+        const QByteArray lines = "nv grey 7\n-3 red\n0 1 2 3 4\n0 blue\n1.5e10 white\n";
+        writeFile(m_dir.filePath(u"own.txt"_s), lines);
+        ColorMap map;
+        for (const auto &[low, high] : {std::pair(Unset, Unset), {-1e-7, 1. / 3}, {5., 5.}}) {
+            QVERIFY(map.load(path, low, high));
+            const auto read = parseColorMapText(colorMapText(map), Unset, Unset);
+            QVERIFY(read);
+            QVERIFY(read->noDataColor == map.noDataColor());
+            QCOMPARE(read->associations.size(), 4U);
+            for (std::size_t i = 0; i < 4; ++i) {
+                QCOMPARE(read->associations[i].value, map.associations()[i].value);
+                QVERIFY(read->associations[i].color == map.associations()[i].color);
+            }
+        }
+    }
+
     void readsTexts_data()
     {
         const Cases<QByteArray, QString, QString> row({"text", "expected", "noData"});

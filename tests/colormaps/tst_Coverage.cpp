@@ -364,6 +364,34 @@ private Q_SLOTS:
         QCOMPARE(picture->GetRasterBand(1)->GetColorInterpretation(), GCI_RedBand);
     }
 
+    /// By rank among the integers from -100 to 99.
+    void findsPercentiles_data()
+    {
+        const Cases<double, double, double, double> row({"low", "high", "lower", "upper"});
+        row("ends", 0, 100, -100, 99);
+        row("two per cent of 200", 2, 98, -97, 95);
+        row("between two ranks", 0.6, 50, -99, -1);
+    }
+
+    void findsPercentiles()
+    {
+        QFETCH(double, low);
+        QFETCH(double, high);
+        std::vector<double> values(200);
+        std::iota(values.begin(), values.end(), -100);
+        std::reverse(values.begin() + 20, values.end());
+        values.insert(values.begin() + 7, 10, FileNoData);
+
+        const auto found =
+            CoverageRaster::open(fileOf("many.tif", 7, values, {}), "")->percentiles(low, high);
+
+        QVERIFY(found);
+        QTEST(found->minimum, "lower");
+        QTEST(found->maximum, "upper");
+        QVERIFY(!CoverageRaster::open(fileOf("none.tif", 1, {FileNoData}, {}), "")
+                     ->percentiles(low, high));
+    }
+
     void readsTheChosenBand()
     {
         const std::string path = fileOf("three.tif", 1, {5}, {0, 1, 0, 1, 0, -1}, 3);

@@ -108,6 +108,8 @@ private Q_SLOTS:
         row("the map has no colour for no-data",
             "IMAGE;a.tif;plain.txt;average;absolute;interpolation;-99",
             "c8c8c8 640000 320000 000000");
+        row("map beside the document", "IMAGE;a.tif;/gone/map.txt;average;absolute;colorrange;-99",
+            "010203 640000 000000 000000");
         row("strange names", "IMAGE;a;nd=1.tif;cmap=.txt;average;absolute;interpolation",
             "c8c8c8 c8c8c8 c8c8c8 0e0000");
         row("strange names, full",

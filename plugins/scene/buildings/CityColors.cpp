@@ -43,7 +43,9 @@ coverage::ValueRange rangeOf(CoverageRaster &raster, const RasterColors &colors,
 ColorMap loadMap(const RasterColors &colors, const std::vector<std::string> &directories,
                  CoverageRaster &raster, const Progress &progress)
 {
-    const std::string path = locateFile(colors.map, directories);
+    std::string path = locateFile(colors.map, directories);
+    if (path.empty()) // a layer's own map was copied together with its document
+        path = locateFile(colors.map.substr(colors.map.rfind('/') + 1), directories);
     if (path.empty())
         throw BadLayer("MESS_SCENE_NO_MAP", {colors.map});
     const CPLErrorHandlerPusher quiet(CPLQuietErrorHandler);

@@ -58,15 +58,15 @@ QString VltAddTexbColoredPage::missingText() const
 Stoppable<buildings::BuildingLayerFiles> VltAddTexbColoredPage::writeFiles(const QString &layerPath,
                                                                            platform::Access access)
 {
-    const auto colors = m_ui->m_pwColoring->colors();
+    buildings::BuildingLayerInput layer = layerInput(m_ui->m_pwExtrusion->settings(), {});
+    const auto colors = m_ui->m_pwColoring->colors(layer);
     if (!colors)
         return std::nullopt;
     m_colorMapName = colors->legend.name;
-    buildings::BuildingLayerInput input =
-        layerInput(m_ui->m_pwExtrusion->settings(), colors->legend);
-    if (!count(buildings::coloredDocument(input, colors->coloring), input))
+    layer.legend = colors->legend;
+    if (!count(buildings::coloredDocument(layer, colors->coloring), layer))
         return std::nullopt;
-    return buildings::writeColoredLayer(layerPath, input, colors->coloring, access);
+    return buildings::writeColoredLayer(layerPath, layer, colors->coloring, access);
 }
 
 void VltAddTexbColoredPage::layerWritten(const buildings::BuildingLayerFiles &files)

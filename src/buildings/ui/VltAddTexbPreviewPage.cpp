@@ -114,20 +114,19 @@ vlt::Stoppable<vlt::buildings::BuildingLayerFiles>
 VltAddTexbPreviewPage::writeFiles(const QString &layerPath, vlt::platform::Access access)
 {
     vlt::buildings::RasterColoring coloring;
-    std::optional<vlt::buildings::LegendInput> legend;
+    vlt::buildings::BuildingLayerInput layer = layerInput(m_ui->m_pwExtrusion->settings(), {});
     if (m_ui->m_pwColors->usesColorMap()) {
-        const auto colors = m_ui->m_pwColoring->colors();
+        const auto colors = m_ui->m_pwColoring->colors(layer);
         if (!colors)
             return std::nullopt;
         coloring = colors->coloring;
-        legend = colors->legend;
+        layer.legend = colors->legend;
     }
-    m_colorMapName = legend ? legend->name : QString();
-    vlt::buildings::BuildingLayerInput input = layerInput(m_ui->m_pwExtrusion->settings(), legend);
+    m_colorMapName = layer.legend ? layer.legend->name : QString();
     const vlt::buildings::TexturingParameters parameters = texturing(coloring);
-    if (!count(vlt::buildings::texturedDocument(input, parameters), input))
+    if (!count(vlt::buildings::texturedDocument(layer, parameters), layer))
         return std::nullopt;
-    return vlt::buildings::writeTexturedLayer(layerPath, input, parameters, access);
+    return vlt::buildings::writeTexturedLayer(layerPath, layer, parameters, access);
 }
 
 void VltAddTexbPreviewPage::layerWritten(const vlt::buildings::BuildingLayerFiles &files)

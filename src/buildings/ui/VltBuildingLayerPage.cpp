@@ -185,8 +185,10 @@ bool VltBuildingLayerPage::followsChanges() const
 void VltBuildingLayerPage::showLayer(const QString &path)
 {
     QStringList companions{m_files.document};
-    if (!m_files.legend.isEmpty())
-        companions << m_files.legend;
+    for (const QString &file : {m_files.colorMap, m_files.legend}) {
+        if (!file.isEmpty())
+            companions << file;
+    }
     dragIcon()->setCompanions(companions);
     dragIcon()->setToolTip(m_iconToolTip);
     layerWritten(m_files);

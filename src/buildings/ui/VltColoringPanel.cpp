@@ -26,11 +26,15 @@
 #include <QWizardPage>
 
 using namespace vlt;
+using vlt::buildings::Stretch;
 
 namespace {
 
 const QString LastUsedDirKey = QStringLiteral("LastUsedDir");
 
+constexpr int NumberDigits = 12;
+
+const QString StretchKey = QStringLiteral("StretchOver");
 const QString BandKey = QStringLiteral("Band");
 constexpr int FirstBand = contract::RasterBand.firstRun;
 
@@ -68,6 +72,7 @@ VltColoringPanel::VltColoringPanel(QWidget *parent)
     setFocusProxy(m_ui->m_pwLeImage);
     m_ui->m_pwSubdatasetsFrame->hide();
     m_ui->m_pwBandFrame->hide();
+    showStretch();
     m_ui->m_pwNoDataProgress->hide();
     m_ui->m_pwCbCmap->setIconSize(buildings::ColorMapSwatchSize);
     m_ui->m_pwCbSubdatsets->view()->setTextElideMode(Qt::ElideLeft); // names start with a path
@@ -82,8 +87,26 @@ VltColoringPanel::VltColoringPanel(QWidget *parent)
 
 VltColoringPanel::~VltColoringPanel() = default;
 
+void VltColoringPanel::connectStretch()
+{
+    const auto changed = [this] {
+        showStretch();
+        Q_EMIT parameterChanged();
+    };
+    connect(m_ui->m_pwCbStretch, &QCheckBox::toggled, this, changed);
+    connect(m_ui->m_pwCbStretchOver, &QComboBox::currentIndexChanged, this, changed);
+    for (const QDoubleSpinBox *box : {m_ui->m_pwSbStretchLow, m_ui->m_pwSbStretchHigh})
+        connect(box, &QDoubleSpinBox::valueChanged, this, &VltColoringPanel::parameterChanged);
+    for (const QLineEdit *line :
+         {m_ui->m_pwLeStretchLow, m_ui->m_pwLeStretchHigh, m_ui->m_pwLeStretchOthers})
+        connect(line, &QLineEdit::textChanged, this, &VltColoringPanel::parameterChanged);
+    connect(m_ui->m_pwPbStretchOthers, &QPushButton::clicked, this,
+            &VltColoringPanel::chooseOthers);
+}
+
 void VltColoringPanel::connectWidgets()
 {
+    connectStretch();
     connect(m_ui->m_pwPbImage, &QPushButton::clicked, this, &VltColoringPanel::defineImage);
     connect(m_ui->m_pwPbNoData, &QPushButton::clicked, this, &VltColoringPanel::guessNoData);
     connect(m_ui->m_pwPbAddCmap, &QPushButton::clicked, this, &VltColoringPanel::addCmap);
@@ -96,7 +119,6 @@ void VltColoringPanel::connectWidgets()
     connect(m_ui->m_pwLeImage, &QLineEdit::textEdited, this, &VltColoringPanel::parameterChanged);
 
     connect(m_ui->m_pwLeNoData, &QLineEdit::textChanged, this, &VltColoringPanel::parameterChanged);
-    connect(m_ui->m_pwCbStretch, &QCheckBox::toggled, this, &VltColoringPanel::parameterChanged);
     connect(m_ui->m_pwCbBand, &QComboBox::currentIndexChanged, this,
             [this](int index) { m_ui->m_pwLblBandHint->setVisible(index > 0); });
     for (const QComboBox *combo :
@@ -148,6 +170,69 @@ QString VltColoringPanel::subdataset() const
     return m_ui->m_pwCbSubdatsets->currentData().toString();
 }
 
+/// Shows the choices for what the colours are stretched over.
+void VltColoringPanel::showStretch()
+{
+    const bool isStretched = m_ui->m_pwCbStretch->isChecked();
+    const int kind = isStretched ? m_ui->m_pwCbStretchOver->currentIndex() : Stretch::Raster;
+    m_ui->m_pwCbStretchOver->setEnabled(isStretched);
+    m_ui->m_pwStretchPercentile->setVisible(kind == Stretch::Percentile);
+    m_ui->m_pwStretchRange->setVisible(kind == Stretch::Range);
+    m_ui->m_pwStretchShared->setVisible(kind == Stretch::Shared);
+}
+
+/// What the colours are stretched over; none while the choice is not complete.
+std::optional<Stretch> VltColoringPanel::stretch() const
+{
+    Stretch stretch;
+    stretch.kind = static_cast<Stretch::Kind>(m_ui->m_pwCbStretchOver->currentIndex());
+    if (stretch.kind == Stretch::Percentile) {
+        stretch.low = m_ui->m_pwSbStretchLow->value();
+        stretch.high = m_ui->m_pwSbStretchHigh->value();
+    } else if (stretch.kind == Stretch::Range) {
+        const auto low = buildings::stretchNumber(m_ui->m_pwLeStretchLow->text());
+        const auto high = buildings::stretchNumber(m_ui->m_pwLeStretchHigh->text());
+        if (!low || !high)
+            return std::nullopt;
+        stretch.low = *low;
+        stretch.high = *high;
+    } else if (stretch.kind == Stretch::Shared)
+        stretch.others = m_others;
+    // Of the incomplete ones the texts are none of a stretch.
+    return buildings::parseStretch(buildings::stretchTexts(stretch));
+}
+
+void VltColoringPanel::setStretch(const Stretch &stretch)
+{
+    m_ui->m_pwCbStretchOver->setCurrentIndex(stretch.kind);
+    if (stretch.kind == Stretch::Percentile) {
+        m_ui->m_pwSbStretchLow->setValue(stretch.low);
+        m_ui->m_pwSbStretchHigh->setValue(stretch.high);
+    } else if (stretch.kind == Stretch::Range) {
+        m_ui->m_pwLeStretchLow->setText(QString::number(stretch.low, 'g', NumberDigits));
+        m_ui->m_pwLeStretchHigh->setText(QString::number(stretch.high, 'g', NumberDigits));
+    }
+    setOthers(stretch.others);
+}
+
+void VltColoringPanel::setOthers(const QStringList &files)
+{
+    m_others = files;
+    QStringList names;
+    for (const QString &file : files)
+        names << QFileInfo(file).fileName();
+    m_ui->m_pwLeStretchOthers->setText(names.join(QStringLiteral(", ")));
+}
+
+void VltColoringPanel::chooseOthers()
+{
+    const QStringList files = QFileDialog::getOpenFileNames(
+        this, tr("Select the other images", "MESS_SELECT_STRETCH_OTHERS"), m_lastUsedDir,
+        QStringLiteral("%1 (*.*)").arg(tr("Raster Files", "MESS_RASTER_FILES")));
+    if (!files.isEmpty())
+        setOthers(files);
+}
+
 int VltColoringPanel::band() const
 {
     return qMax(0, m_ui->m_pwCbBand->currentIndex()) + 1;
@@ -167,6 +252,7 @@ std::optional<buildings::RasterColoring> VltColoringPanel::coloring() const
     coloring.colorMap = m_ui->m_pwCbCmap->currentData().toString();
     coloring.reduction = static_cast<buildings::Reduction>(m_ui->m_pwCbMode->currentIndex());
     coloring.stretched = m_ui->m_pwCbStretch->isChecked();
+    coloring.stretch = stretch().value_or(buildings::Stretch());
     coloring.interpolated = m_ui->m_pwCBColorInterp->currentIndex() == 1;
     coloring.noData = m_ui->m_pwLeNoData->text();
     coloring.band = band();
@@ -184,6 +270,11 @@ QString VltColoringPanel::missingText() const
         return tr("Choose an image of values, not of colors.", "MESS_NEED_VALUES");
     if (!contract::isNoDataText(m_ui->m_pwLeNoData->text().toStdString()))
         return tr("The no-data value is not a number.", "MESS_NODATA_NO_NUMBER");
+    if (m_ui->m_pwCbStretch->isChecked() && !stretch())
+        return m_ui->m_pwStretchShared->isHidden()
+                   ? tr("The range of the colors needs two numbers, the lower one first.",
+                        "MESS_STRETCH_NO_RANGE")
+                   : tr("Choose the other images.", "MESS_STRETCH_NO_OTHERS");
     if (m_ui->m_pwCbCmap->currentIndex() < 0)
         return tr("Add a colormap.", "MESS_NEED_CMAP");
     if (!QFileInfo::exists(m_ui->m_pwCbCmap->currentData().toString()))
@@ -194,12 +285,16 @@ QString VltColoringPanel::missingText() const
 
 /// The range of the raster's values, which is read once; none after a message or if the user stops.
 std::optional<buildings::RasterRange>
-VltColoringPanel::readRange(const buildings::RasterColoring &coloring)
+VltColoringPanel::readRange(const buildings::RasterColoring &coloring,
+                            const buildings::BuildingLayerInput &layer)
 {
     using Range = Stoppable<buildings::RasterRange>;
     const auto read = wizard::waitForValue<Range>(
         this, tr("Computing the minimum and maximum value...", "MESS_READING_RANGE"),
-        [coloring](const Progress &progress) { return buildings::readRange(coloring, progress); });
+        [coloring,
+         document = buildings::coloredDocument(layer, coloring)](const Progress &progress) {
+            return buildings::readRange(coloring, document, progress);
+        });
     if (!read || !*read)
         return std::nullopt;
     if (const Result<buildings::RasterRange> &range = **read; range)
@@ -208,16 +303,23 @@ VltColoringPanel::readRange(const buildings::RasterColoring &coloring)
     return std::nullopt;
 }
 
-std::optional<VltColoringPanel::Colors> VltColoringPanel::colors()
+std::optional<VltColoringPanel::Colors>
+VltColoringPanel::colors(const buildings::BuildingLayerInput &layer)
 {
     std::optional<buildings::RasterColoring> chosen = coloring();
     if (!chosen)
         return std::nullopt;
     std::optional<coverage::ValueRange> values;
     if (chosen->stretched) {
-        const std::optional<buildings::RasterRange> range = readRange(*chosen);
+        const std::optional<buildings::RasterRange> range = readRange(*chosen, layer);
         if (!range)
             return std::nullopt;
+        if (buildings::needsOwnMap(*chosen) && !range->values) {
+            messages::critical(
+                this, Error::asIs(tr("None of the pixels has a value", "MESS_STRETCH_NO_VALUES"),
+                                  chosen->rasterFile));
+            return std::nullopt;
+        }
         values = range->values;
         chosen->range = range->known;
     }
@@ -395,6 +497,7 @@ void VltColoringPanel::loadSettings(const QString &prefix)
         checkSubdataset(true);
     restoreIndex(m_ui->m_pwCbBand, value(BandKey, FirstBand).toInt() - FirstBand);
     VltParameterPanel::loadSettings(prefix);
+    setStretch(buildings::parseStretch(value(StretchKey, {}).toStringList()).value_or(Stretch()));
 
     // A damaged count must not block the page.
     const int count = qMin(value(QStringLiteral("UserColormapCount"), 0).toInt(),
@@ -420,6 +523,9 @@ void VltColoringPanel::saveSettings(const QString &prefix)
     VltParameterPanel::saveSettings(prefix);
     save(QStringLiteral("Image"), m_openedImage);
     save(QStringLiteral("IdxSubdataset"), qMax(0, m_ui->m_pwCbSubdatsets->currentIndex()));
+    saveUnlessFirst(prefix + QLatin1Char('/') + StretchKey,
+                    buildings::stretchTexts(stretch().value_or(Stretch())),
+                    buildings::stretchTexts({}));
     saveUnlessFirst(prefix + QLatin1Char('/') + BandKey, band(), FirstBand);
     const QComboBox *maps = m_ui->m_pwCbCmap;
     const int userCount = maps->count() - m_installedCount;

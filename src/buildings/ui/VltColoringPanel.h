@@ -38,10 +38,12 @@ public:
         vlt::buildings::LegendInput legend;
     };
 
-    /// Reads the minimum and maximum of the raster if the colours are stretched; a progress bar is
-    /// shown. None while a choice is missing, if the raster or the colour map cannot be read, after
-    /// a message, and if the user stops the read.
-    std::optional<Colors> colors();
+    /// Reads the values that the colours are stretched over if they are; a progress bar is shown.
+    /// None while a choice is missing, if the raster or the colour map cannot be read, after a
+    /// message, and if the user stops the read.
+    ///
+    /// @param layer  the buildings, without a legend
+    std::optional<Colors> colors(const vlt::buildings::BuildingLayerInput &layer);
 
     /// Absolute path of the image file; empty if none is open.
     QString imagePath() const;
@@ -77,6 +79,12 @@ private:
     using Summary = vlt::Result<vlt::geodata::RasterSummary>;
 
     void connectWidgets();
+    void connectStretch();
+    void showStretch();
+    std::optional<vlt::buildings::Stretch> stretch() const;
+    void setStretch(const vlt::buildings::Stretch &stretch);
+    void setOthers(const QStringList &files);
+    void chooseOthers();
     void takeTypedImage();
     void showSubdatasets(const QList<vlt::geodata::Subdataset> &subdatasets);
     void showBands(const QStringList &bands);
@@ -84,7 +92,8 @@ private:
     void check(const std::optional<Summary> &summary, const QString &name, bool quiet);
     void checkSubdataset(bool quiet);
     std::optional<vlt::buildings::RasterRange>
-    readRange(const vlt::buildings::RasterColoring &coloring);
+    readRange(const vlt::buildings::RasterColoring &coloring,
+              const vlt::buildings::BuildingLayerInput &layer);
     std::optional<vlt::buildings::RasterColoring> coloring() const;
     QString subdataset() const;
     int band() const;
@@ -93,6 +102,7 @@ private:
 
     std::unique_ptr<Ui::ColoringPanel> m_ui;
     QString m_lastUsedDir;
+    QStringList m_others;  ///< images that share the stretching
     QString m_openedImage; ///< absolute path of the image file
     bool m_isUsable = false;
     bool m_isBusy = false;

@@ -35,5 +35,73 @@
         <source>band 1 of the raster colors the buildings; --band chooses another one: %1</source>
         <translation>band 1 of the raster colors the buildings; --band chooses another one: %1</translation>
     </message>
+    <message id="MESS_TIP_STRETCH_OVER">
+        <source>Values that the colors are stretched over</source>
+        <translation>Values that the colors are stretched over</translation>
+    </message>
+    <message id="MESS_STRETCH_RASTER">
+        <source>all values of the image</source>
+        <translation>all values of the image</translation>
+    </message>
+    <message id="MESS_STRETCH_PERCENTILE">
+        <source>percentiles of the image</source>
+        <translation>percentiles of the image</translation>
+    </message>
+    <message id="MESS_STRETCH_BUILDINGS">
+        <source>the values of the buildings</source>
+        <translation>the values of the buildings</translation>
+    </message>
+    <message id="MESS_STRETCH_RANGE">
+        <source>a range</source>
+        <translation>a range</translation>
+    </message>
+    <message id="MESS_STRETCH_SHARED">
+        <source>all values of several images</source>
+        <translation>all values of several images</translation>
+    </message>
+    <message id="MESS_TIP_STRETCH_LOW">
+        <source>Percentile of the image's values with the first color</source>
+        <translation>Percentile of the image's values with the first color</translation>
+    </message>
+    <message id="MESS_TIP_STRETCH_HIGH">
+        <source>Percentile of the image's values with the last color</source>
+        <translation>Percentile of the image's values with the last color</translation>
+    </message>
+    <message id="MESS_TIP_STRETCH_MIN">
+        <source>Value with the first color</source>
+        <translation>Value with the first color</translation>
+    </message>
+    <message id="MESS_TIP_STRETCH_MAX">
+        <source>Value with the last color</source>
+        <translation>Value with the last color</translation>
+    </message>
+    <message id="MESS_TIP_STRETCH_OTHERS">
+        <source>Other images whose layers get the same colors for the same values</source>
+        <translation>Other images whose layers get the same colors for the same values</translation>
+    </message>
+    <message id="MESS_SELECT_STRETCH_OTHERS">
+        <source>Select the other images</source>
+        <translation>Select the other images</translation>
+    </message>
+    <message id="MESS_STRETCH_NO_RANGE">
+        <source>The range of the colors needs two numbers, the lower one first.</source>
+        <translation>The range of the colors needs two numbers, the lower one first.</translation>
+    </message>
+    <message id="MESS_STRETCH_NO_OTHERS">
+        <source>Choose the other images.</source>
+        <translation>Choose the other images.</translation>
+    </message>
+    <message id="MESS_STRETCH_NO_VALUES">
+        <source>None of the pixels has a value</source>
+        <translation>None of the pixels has a value</translation>
+    </message>
+    <message id="MESS_OPT_STRETCH">
+        <source>Values that the color map is stretched over: all of the image (raster, the default), percentiles of them, those under the buildings, a stated range, or all of the image and of others (with, may be given several times).</source>
+        <translation>Values that the color map is stretched over: all of the image (raster, the default), percentiles of them, those under the buildings, a stated range, or all of the image and of others (with, may be given several times).</translation>
+    </message>
+    <message id="MESS_USE_BOTH_STRETCH">
+        <source>--absolute and --stretch cannot be combined</source>
+        <translation>--absolute and --stretch cannot be combined</translation>
+    </message>
 </context>
 </TS>

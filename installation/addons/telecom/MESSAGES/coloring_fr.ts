@@ -35,5 +35,73 @@
         <source>band 1 of the raster colors the buildings; --band chooses another one: %1</source>
         <translation>la bande 1 du raster colore les bâtiments&#xa0;; --band en choisit une autre&#xa0;: %1</translation>
     </message>
+    <message id="MESS_TIP_STRETCH_OVER">
+        <source>Values that the colors are stretched over</source>
+        <translation>Valeurs sur lesquelles les couleurs sont étirées</translation>
+    </message>
+    <message id="MESS_STRETCH_RASTER">
+        <source>all values of the image</source>
+        <translation>toutes les valeurs de l'image</translation>
+    </message>
+    <message id="MESS_STRETCH_PERCENTILE">
+        <source>percentiles of the image</source>
+        <translation>des centiles de l'image</translation>
+    </message>
+    <message id="MESS_STRETCH_BUILDINGS">
+        <source>the values of the buildings</source>
+        <translation>les valeurs des bâtiments</translation>
+    </message>
+    <message id="MESS_STRETCH_RANGE">
+        <source>a range</source>
+        <translation>un intervalle</translation>
+    </message>
+    <message id="MESS_STRETCH_SHARED">
+        <source>all values of several images</source>
+        <translation>toutes les valeurs de plusieurs images</translation>
+    </message>
+    <message id="MESS_TIP_STRETCH_LOW">
+        <source>Percentile of the image's values with the first color</source>
+        <translation>Centile des valeurs de l'image qui a la première couleur</translation>
+    </message>
+    <message id="MESS_TIP_STRETCH_HIGH">
+        <source>Percentile of the image's values with the last color</source>
+        <translation>Centile des valeurs de l'image qui a la dernière couleur</translation>
+    </message>
+    <message id="MESS_TIP_STRETCH_MIN">
+        <source>Value with the first color</source>
+        <translation>Valeur qui a la première couleur</translation>
+    </message>
+    <message id="MESS_TIP_STRETCH_MAX">
+        <source>Value with the last color</source>
+        <translation>Valeur qui a la dernière couleur</translation>
+    </message>
+    <message id="MESS_TIP_STRETCH_OTHERS">
+        <source>Other images whose layers get the same colors for the same values</source>
+        <translation>Autres images dont les couches ont les mêmes couleurs pour les mêmes valeurs</translation>
+    </message>
+    <message id="MESS_SELECT_STRETCH_OTHERS">
+        <source>Select the other images</source>
+        <translation>Choisir les autres images</translation>
+    </message>
+    <message id="MESS_STRETCH_NO_RANGE">
+        <source>The range of the colors needs two numbers, the lower one first.</source>
+        <translation>L'intervalle des couleurs demande deux nombres, le plus petit d'abord.</translation>
+    </message>
+    <message id="MESS_STRETCH_NO_OTHERS">
+        <source>Choose the other images.</source>
+        <translation>Choisissez les autres images.</translation>
+    </message>
+    <message id="MESS_STRETCH_NO_VALUES">
+        <source>None of the pixels has a value</source>
+        <translation>Aucun pixel n'a de valeur</translation>
+    </message>
+    <message id="MESS_OPT_STRETCH">
+        <source>Values that the color map is stretched over: all of the image (raster, the default), percentiles of them, those under the buildings, a stated range, or all of the image and of others (with, may be given several times).</source>
+        <translation>Valeurs sur lesquelles la palette est étirée&#xa0;: toutes celles de l'image (raster, par défaut), des centiles (percentile), celles des bâtiments (buildings), un intervalle donné (range), ou toutes celles de l'image et d'autres (with, peut être répété).</translation>
+    </message>
+    <message id="MESS_USE_BOTH_STRETCH">
+        <source>--absolute and --stretch cannot be combined</source>
+        <translation>--absolute et --stretch sont incompatibles</translation>
+    </message>
 </context>
 </TS>
