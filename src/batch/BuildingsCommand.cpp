@@ -8,6 +8,7 @@
 #include "batch/OutputFiles.h"
 #include "batch/ProgressLine.h"
 #include "buildings/CountsText.h"
+#include "buildings/HeightAdvice.h"
 #include "buildings/ValuedBuildings.h"
 #include "language/VltLanguageManager.h"
 
@@ -65,20 +66,32 @@ Result<BuildingLayerFiles> writeFiles(const BuildingsRequest &request,
                                                             inputs.coloring, access);
 }
 
-/// Reads what would be drawn. Nothing to draw is an error.
-Result<ValuedBuildings> readDrawn(const BuildingsRequest &request, const BuildingsInputs &inputs,
+/// Reads what would be drawn, counts it, and adds a warning if other options for the heights are
+/// better. Nothing to draw is an error, to which the warning belongs.
+Result<ValuedBuildings> readDrawn(const BuildingsRequest &request, BuildingsInputs &inputs,
                                   bool quiet)
 {
     ProgressLine line(dico_label("MESS_CLI_COUNTING_BUILDINGS", "Counting the buildings"), !quiet);
-    // The progress line never stops the work, so there is a value.
-    Result<ValuedBuildings> read = *ValuedBuildings::read(
+    const contract::BuildingDocument document =
         request.texturing ? buildings::texturedDocument(inputs.layer, inputs.texturing)
-                          : buildings::coloredDocument(inputs.layer, inputs.coloring),
-        line.progress());
+                          : buildings::coloredDocument(inputs.layer, inputs.coloring);
+    // The progress line never stops the work, so there is a value.
+    Result<ValuedBuildings> read = *ValuedBuildings::read(document, line.progress());
     if (!read)
         return read;
-    if (const auto nothing = buildings::nothingDrawnText(read.value().counted()))
-        return Error::asIs(*nothing, inputs.layer.source.file);
+    inputs.layer.counted = read.value().counted();
+    const buildings::CountedBuildings &counted = inputs.layer.counted;
+    QString advised;
+    const auto advice = buildings::adviseHeights(document, counted, inputs.vector, line.progress());
+    if (advice && !advice->elseField.isEmpty())
+        advised = QStringLiteral("%1 (--else-field \"%2\")").arg(advice->text, advice->elseField);
+    else if (advice && !request.heights.hasReference)
+        advised = QStringLiteral("%1 (--height-reference sea)").arg(advice->text);
+    if (const auto nothing = buildings::nothingDrawnText(counted))
+        return Error::asIs(advised.isEmpty() ? *nothing : *nothing + QStringLiteral("; ") + advised,
+                           inputs.layer.source.file);
+    if (!advised.isEmpty())
+        inputs.warnings << advised;
     return read;
 }
 
@@ -191,7 +204,6 @@ ExitStatus runParsed(const BuildingsRequest &request, const GlobalOptions &optio
     const Result<ValuedBuildings> read = readDrawn(request, inputs, options.quiet);
     if (!read)
         return refuse(read.error());
-    inputs.layer.counted = read.value().counted();
     if (const auto done = writeValues(request, inputs, read.value(), options.quiet); !done)
         return refuse(done.error());
     const Result<BuildingLayerFiles> written = writeFiles(request, inputs);

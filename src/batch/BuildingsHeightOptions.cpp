@@ -169,6 +169,7 @@ Result<HeightChoice> readHeightOptions(const QCommandLineParser &parser)
         choice.heights.*member = parser.value(QLatin1String(option)).toStdString();
     choice.hasUnit = parser.isSet(QStringLiteral("height-unit"));
     choice.hasElseUnit = parser.isSet(QStringLiteral("else-unit"));
+    choice.hasReference = parser.isSet(QStringLiteral("height-reference"));
     choice.where = parser.value(QStringLiteral("where"));
     return choice;
 }

@@ -16,6 +16,7 @@ struct HeightChoice
     contract::BuildingHeights heights; ///< with names of fields as given
     bool hasUnit = false;              ///< the unit is stated; else the field's name suggests it
     bool hasElseUnit = false;          ///< the same for the second field
+    bool hasReference = false;         ///< it is stated whether heights are above ground or sea
     QString where;                     ///< condition for the features; empty for all
 };
 

@@ -63,6 +63,7 @@ Result<QString> chosenField(const geodata::PolygonLayer &layer, const QString &w
 struct Footprints
 {
     BuildingsSource source;
+    geodata::PolygonLayer layer;
     QStringList warnings; ///< about the choice of the height field and the units
 };
 
@@ -93,6 +94,7 @@ Result<Footprints> readVector(const BuildingsRequest &request, const QString &pa
     if (!extent.isPlaced())
         return Error{QStringLiteral("MESS_ERR_NO_EXTENT"),
                      QStringLiteral("No building of this layer has a position"), path};
+    footprints.layer = layer;
     BuildingsSource &source = footprints.source;
     source.file = absolutePath(path);
     source.layer = layer.name;
@@ -161,6 +163,7 @@ Result<BuildingsInputs> readFiles(const BuildingsRequest &request, const Surroun
     if (!terrain)
         return terrain.error();
     inputs.layer.source = footprints.value().source;
+    inputs.vector = footprints.value().layer;
     inputs.layer.source.terrainFile = absolutePath(dtm);
     inputs.layer.source.terrainNoData = terrain.value().noData;
     inputs.layer.source.project = project;

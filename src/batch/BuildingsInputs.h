@@ -9,6 +9,7 @@ namespace vlt::batch {
 struct BuildingsInputs
 {
     buildings::BuildingLayerInput layer;
+    geodata::PolygonLayer vector;             ///< the layer of the buildings
     buildings::RasterColoring coloring;       ///< without a raster if none is requested
     buildings::TexturingParameters texturing; ///< of the request, with images if it has textures
     QStringList warnings;                     ///< about the height field, its unit and the terrain

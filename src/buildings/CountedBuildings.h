@@ -15,6 +15,7 @@ namespace vlt::buildings {
 struct CountedBuildings
 {
     contract::CityCounts counts;
+    bool isProbablyAboveSea = false; ///< the heights, though they are read as above the ground
     QStringList notices; ///< in the language in use: what is left out or drawn with a substitute
     std::vector<double> values; ///< of the buildings that have one in the raster of the colours
     QString unit;               ///< that the raster states for them; may be empty

@@ -97,6 +97,24 @@ QString likelierHeightField(const PolygonLayer &layer, const QString &chosen)
     return names.value(indexOfKnownName(upper(names)));
 }
 
+QStringList fieldsNamedAsHeights(const PolygonLayer &layer)
+{
+    using L = QLatin1String;
+    static const QStringList height{
+        L("agl"),     L("h"),    L("height"), L("hgt"),
+        L("hauteur"), L("haut"), L("hoehe"),  QStringLiteral("h\u00f6he")};
+    static const QStringList other{L("min"),  L("base"), L("bottom"),      L("ground"),
+                                   L("roof"), L("sol"),  L("underground"), L("toit")};
+    QStringList named;
+    for (const QString &field : possibleHeightFields(layer)) {
+        const QStringList words = wordsOf(field);
+        if (!hasOne(words, other) &&
+            (hasOne(words, height) || unitFromName(field) != HeightUnit::Metres))
+            named << field;
+    }
+    return named;
+}
+
 HeightUnit unitFromName(const QString &field)
 {
     using L = QLatin1String;

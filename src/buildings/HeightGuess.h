@@ -28,6 +28,10 @@ QString preselectedHeightField(const geodata::PolygonLayer &layer);
 /// none, or if the name of the chosen field is one of those, too.
 QString likelierHeightField(const geodata::PolygonLayer &layer, const QString &chosen);
 
+/// Names of the fields that can have heights and whose names are those of heights or of numbers of
+/// levels of whole buildings ("HEIGHT", "hauteur_max", "levels"), in the order of the layer.
+QStringList fieldsNamedAsHeights(const geodata::PolygonLayer &layer);
+
 /// The unit of a field of heights by the words in its name: levels ("building:levels",
 /// "NB_ETAGES"), feet ("heightFt"), else metres.
 contract::HeightUnit unitFromName(const QString &field);

@@ -1,6 +1,7 @@
 #include "buildings/ValuedBuildings.h"
 
 #include "city/BuildingRows.h"
+#include "city/SeaLevelGuess.h"
 #include "contract/BadLayer.h"
 #include "contract/Stopped.h"
 #include "geodata/ValuesFile.h"
@@ -162,7 +163,10 @@ Stoppable<ValuedBuildings> ValuedBuildings::read(const contract::BuildingDocumen
 
 CountedBuildings ValuedBuildings::counted() const
 {
-    CountedBuildings counted{m_read->city.counts, {}, {}, QString::fromStdString(m_read->unit)};
+    CountedBuildings counted;
+    counted.counts = m_read->city.counts;
+    counted.isProbablyAboveSea = city::areProbablyAboveSea(m_read->city);
+    counted.unit = QString::fromStdString(m_read->unit);
     for (const std::string &notice : m_read->notices)
         counted.notices << language::readerText(QString::fromStdString(notice));
     for (const city::FeatureValue &one : m_read->values) {

@@ -229,6 +229,33 @@ private Q_SLOTS:
         QVERIFY(QFile::exists(path(u"elsewhere/own_gradient.png"_s)));
     }
 
+    void advisesOtherHeights()
+    {
+        const QString start = u"buildings ../other.geojson --dtm %1 -o o.lay --image ../level.asc "
+                              "--height-field height "_s;
+        writeFile(path(u"other.geojson"_s), house(R"({"height":null,"levels":3,"min_height":2})"));
+        const Run none = this->start(start.arg(u"../dem.asc"_s));
+        const Run filled = this->start(start.arg(u"../dem.asc"_s) + u"--else-field levels"_s);
+
+        QCOMPARE(none.status, 1);
+        QVERIFY2(none.errors.endsWith("; 1 of 1 buildings have no height in \"height\"; \"levels\" "
+                                      "would give it for 1 of them. (--else-field \"levels\")\n"),
+                 none.errors.constData());
+        QCOMPARE(filled.status, 0);
+
+        QByteArrayList roofs;
+        for (int i = 0; i < 10; ++i)
+            roofs << house("{\"height\":" + QByteArray::number(290 + i) + "}").mid(40).chopped(2);
+        writeFile(path(u"other.geojson"_s), house({}).left(40) + roofs.join(',') + "]}");
+        writeFile(path(u"high.asc"_s), QByteArray(Grid).replace("-", "2"));
+        const QString above = start.arg(u"../high.asc"_s);
+        const QByteArray advice = "above sea level. (--height-reference sea)";
+        QVERIFY(this->start(above).errors.contains(advice));
+        for (const auto &stated : {u"sea"_s, u"ground"_s})
+            QVERIFY(
+                !this->start(above + u"--height-reference "_s + stated).errors.contains(advice));
+    }
+
     void warnsOfImages_data()
     {
         const Cases<QString, QByteArray, int> row({"options", "warning", "images"});

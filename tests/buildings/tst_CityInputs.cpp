@@ -1,6 +1,7 @@
 #include "city/CityInputs.h"
 #include "city/CityValues.h"
 #include "city/HeightCounts.h"
+#include "city/SeaLevelGuess.h"
 #include "contract/BadLayer.h"
 #include "support/Cases.h"
 #include "support/GeoTiff.h"
@@ -325,6 +326,38 @@ private Q_SLOTS:
         }
         const QString classes = read.classes.empty() ? QString() : u": "_s + shares.join(u", ");
         QTEST(found.join(u' ') + classes, "values");
+    }
+
+    void noticesHeightsAboveSea_data()
+    {
+        // the ground of 12 buildings and their values, each by its first one and its step
+        const Cases<double, double, double, double, bool> row(
+            {"ground", "groundStep", "value", "valueStep", "isAboveSea"});
+        row("high ground", 120, 0.1, 128, 1, true);
+        row("sloped ground", 20, 3, 27, 3.4, true);
+        row("heights on high ground", 120, 1, 4, 2, false);
+        row("heights on sloped ground", 20, 3, 30, -1.5, false);
+        row("towers on low ground", 3, 0.1, 20, 6, false);
+        row("flat ground at the sea", 0, 0, 5, 1, false);
+    }
+
+    void noticesHeightsAboveSea()
+    {
+        QFETCH(double, ground);
+        QFETCH(double, groundStep);
+        QFETCH(double, value);
+        QFETCH(double, valueStep);
+        city::CityInputs city;
+        for (std::uint32_t i = 0; i < 12; ++i) {
+            city.footprints.features.push_back({i});
+            city.footprints.buildings.push_back(
+                {0, 0, static_cast<float>(value + valueStep * i), i});
+            city.baseM.push_back(static_cast<float>(ground + groundStep * i));
+        }
+
+        QTEST(city::areProbablyAboveSea(city), "isAboveSea");
+        city.footprints.features.front().groundM = 5;
+        QVERIFY(!city::areProbablyAboveSea(city));
     }
 
     void refusesFilters()
