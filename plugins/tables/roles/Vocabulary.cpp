@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cctype>
 #include <numbers>
 #include <numeric>
 #include <stdexcept>
@@ -26,6 +25,7 @@ struct Unit
     double size;
 };
 
+constexpr std::size_t PhrasesExpected = 6000;
 constexpr double FootM = 0.3048;
 constexpr double MileM = 1609.344;
 
@@ -67,16 +67,17 @@ void forEachText(const Json &texts, Action action)
         forEachText(part, action);
 }
 
-/// Calls an action with language and text of every text in the lists by language of `groups`.
+/// Calls an action with language and text of every text in lists by language; those of a list
+/// without languages are of "any".
 template<typename Action>
-void forEachLanguage(const Json &groups, Action action)
+void forEachLanguage(const Json &lists, Action action)
 {
-    for (const Json &group : groups) {
-        if (!group.is_object())
-            continue;
-        for (const auto &[language, texts] : group.items())
-            forEachText(texts, [&, of = language](const std::string &t) { action(of, t); });
+    if (!lists.is_object()) {
+        forEachText(lists, [&](const std::string &text) { action("any", text); });
+        return;
     }
+    for (const auto &[language, texts] : lists.items())
+        forEachText(texts, [&, of = language](const std::string &text) { action(of, text); });
 }
 
 std::string joined(const std::vector<std::string> &words)
@@ -124,10 +125,11 @@ KnownTable knownTableOf(const Json &layout)
 }
 
 /// A section of the vocabulary; one that is missing is empty.
-Json sectionOf(const Json &root, const char *name)
+const Json &sectionOf(const Json &root, const char *name)
 {
+    static const Json Nothing = Json::object();
     const Json *found = memberOf(root, name);
-    return found && found->is_structured() ? *found : Json::object();
+    return found && found->is_structured() ? *found : Nothing;
 }
 
 /// Puts the systems of a section before others.
@@ -176,13 +178,8 @@ std::uint32_t Vocabulary::languageBit(const std::string &language)
     return found == m_languages.end() ? 0 : std::uint32_t{1} << (found - m_languages.begin());
 }
 
-void Vocabulary::addLanguages(const Json &roles, const Json &hemispheres)
+void Vocabulary::addHemispheres(const Json &hemispheres)
 {
-    forEachLanguage(roles, [this](const std::string &language, const std::string &phrase) {
-        const std::uint32_t bit = languageBit(language);
-        if (bit != 0)
-            addPhrase(phrase, [bit](WordMeaning &meaning) { meaning.languages |= bit; });
-    });
     for (const auto &[name, direction, withO] :
          {std::tuple("north", Direction::North, static_cast<std::uint32_t *>(nullptr)),
           std::tuple("south", Direction::South, static_cast<std::uint32_t *>(nullptr)),
@@ -196,25 +193,27 @@ void Vocabulary::addLanguages(const Json &roles, const Json &hemispheres)
                 *to |= bit;
         };
         if (const Json *texts = memberOf(hemispheres, name))
-            forEachLanguage(Json::array({*texts}), addWord);
+            forEachLanguage(*texts, addWord);
     }
 }
 
 void Vocabulary::addRoles(const Json &root)
 {
-    const Json roles = sectionOf(root, "roles");
+    const Json &roles = sectionOf(root, "roles");
+    m_phrases.reserve(PhrasesExpected);
     for (const auto &[name, texts] : roles.items()) {
         const Role role = roleOfName(name);
         if (role == Role::None)
             throw std::invalid_argument("the role \"" + name + "\" is not known");
-        forEachText(texts, [&, isOf = role](const std::string &phrase) {
-            addPhrase(phrase, [isOf](WordMeaning &meaning) {
-                meaning.roles.set(static_cast<std::size_t>(isOf));
+        forEachLanguage(
+            texts, [&, isOf = role](const std::string &language, const std::string &phrase) {
+                addPhrase(phrase, [isOf, bit = languageBit(language)](WordMeaning &meaning) {
+                    meaning.roles.set(static_cast<std::size_t>(isOf));
+                    meaning.languages |= bit;
+                });
             });
-        });
     }
-    addLanguages(roles, sectionOf(root, "hemispheres"));
-    const Json exclusions = sectionOf(root, "not");
+    const Json &exclusions = sectionOf(root, "not");
     for (const auto &[name, texts] : exclusions.items()) {
         auto &forbidden = m_forbidden[roleOfName(name)];
         forEachText(texts, [&forbidden](const std::string &phrase) {
@@ -228,19 +227,19 @@ void Vocabulary::addPartsOfNames(const Json &root)
     const auto addTo = [&](const Json &texts, auto change) {
         forEachText(texts, [&](const std::string &phrase) { addPhrase(phrase, change); });
     };
-    const Json parts = sectionOf(root, "parts");
+    const Json &parts = sectionOf(root, "parts");
     for (const auto &[name, part] : Parts) {
         if (const Json *texts = memberOf(parts, name))
             addTo(*texts, [part = part](WordMeaning &meaning) { meaning.part = part; });
     }
-    const Json signs = sectionOf(root, "partSigns");
+    const Json &signs = sectionOf(root, "partSigns");
     for (const auto &[name, part] : Parts) {
         if (const Json *texts = memberOf(signs, name))
             forEachText(*texts, [this, of = part](const std::string &sign) {
                 m_partSigns.emplace(folded(sign), of);
             });
     }
-    const Json ends = sectionOf(root, "ends");
+    const Json &ends = sectionOf(root, "ends");
     if (const Json *texts = memberOf(ends, "a"))
         addTo(*texts, [](WordMeaning &meaning) { meaning.isEndA = true; });
     if (const Json *texts = memberOf(ends, "b"))
@@ -254,7 +253,7 @@ void Vocabulary::addPartsOfNames(const Json &root)
           [](WordMeaning &meaning) { meaning.isAntennaKind = true; });
     addTo(sectionOf(root, "unitColumn"), [](WordMeaning &meaning) { meaning.isUnitColumn = true; });
     addTo(sectionOf(root, "site"), [](WordMeaning &meaning) { meaning.isSite = true; });
-    const Json units = sectionOf(root, "units");
+    const Json &units = sectionOf(root, "units");
     for (const Unit &unit : Units) {
         if (const Json *texts = memberOf(units, unit.name))
             addTo(*texts, [&unit](WordMeaning &meaning) { meaning.*unit.member = unit.size; });
@@ -291,6 +290,7 @@ void Vocabulary::add(std::string_view text)
     if (!root.is_object())
         throw std::invalid_argument("not an object");
     addRoles(root);
+    addHemispheres(sectionOf(root, "hemispheres"));
     addPartsOfNames(root);
     addSystems(sectionOf(root, "systems"), m_systems);
     addSystems(sectionOf(root, "datums"), m_datums);
@@ -394,9 +394,9 @@ bool ValueWordSet::contains(std::string_view text) const
     text = trimmed(text);
     if (text.empty() || text.size() > MaxSize)
         return false;
-    // folding changes letters only, and keeps the letters of ASCII in it
-    const bool mayBe = (text[0] & 0x80) != 0 || std::isalpha(text[0]) != 0 ||
-                       m_firstBytes[static_cast<unsigned char>(text[0])];
+    // what folding makes of a character of ASCII does not depend on what follows it
+    const bool mayBe = (text[0] & 0x80) != 0 ||
+                       m_firstBytes[static_cast<unsigned char>(folded(text.substr(0, 1))[0])];
     return mayBe && m_words.contains(folded(text));
 }
 

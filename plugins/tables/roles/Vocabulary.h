@@ -167,7 +167,7 @@ private:
     template<typename Change>
     void addPhrase(const std::string &phrase, Change change);
     std::uint32_t languageBit(const std::string &language);
-    void addLanguages(const nlohmann::json &roles, const nlohmann::json &hemispheres);
+    void addHemispheres(const nlohmann::json &hemispheres);
     void addRoles(const nlohmann::json &root);
     void addPartsOfNames(const nlohmann::json &root);
     void addWordsOfValues(const nlohmann::json &root);
