@@ -52,6 +52,8 @@ std::optional<double> parseCompassPoint(std::string_view text)
                                                          "SE", "SSE", "S",  "SSW", "SW", "WSW",
                                                          "W",  "WNW", "NW", "NNW"};
     text = trimmed(text);
+    if (text.size() > Points.back().size())
+        return std::nullopt;
     const auto found = std::find_if(Points.begin(), Points.end(), [text](std::string_view point) {
         return std::equal(point.begin(), point.end(), text.begin(), text.end(),
                           [](char a, char b) { return a == upperCase(b); });

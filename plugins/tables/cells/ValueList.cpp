@@ -68,6 +68,7 @@ std::size_t dashAt(std::string_view text, std::size_t at)
     return isBetweenBlanks || isBetweenValues ? size : 0;
 }
 
+/// The parts of a text between separators; nothing if it has none.
 std::vector<std::string_view> partsOf(std::string_view text, SeparatorAt separatorAt)
 {
     std::vector<std::string_view> parts;
@@ -80,7 +81,8 @@ std::vector<std::string_view> partsOf(std::string_view text, SeparatorAt separat
         }
         at += std::max<std::size_t>(size, 1);
     }
-    parts.push_back(trimmed(text.substr(begin)));
+    if (!parts.empty())
+        parts.push_back(trimmed(text.substr(begin)));
     return parts;
 }
 
@@ -105,7 +107,7 @@ std::vector<std::string_view> cutAtFirst(std::string_view text,
                                          std::initializer_list<SeparatorAt> separators)
 {
     for (const SeparatorAt separatorAt : separators) {
-        if (auto parts = partsOf(text, separatorAt); parts.size() > 1)
+        if (auto parts = partsOf(text, separatorAt); !parts.empty())
             return parts;
     }
     return {};
@@ -136,6 +138,9 @@ std::vector<std::string_view> splitNames(std::string_view text)
 std::vector<std::string_view> splitList(std::string_view text)
 {
     text = withoutBrackets(text);
+    const std::size_t sign = text.starts_with('-') ? 1 : 0;
+    if (text.find_first_not_of("0123456789.", sign) == std::string_view::npos) // most often
+        return {text};
     auto parts = splitNames(text);
     if (!hasDigit(text)) { // "N/A" is no list, "N/SE" is one
         const bool areDirections = std::all_of(parts.begin(), parts.end(), parseCompassPoint);
@@ -143,7 +148,7 @@ std::vector<std::string_view> splitList(std::string_view text)
     }
     if (parts.size() > 1)
         return parts;
-    if (auto values = partsOf(text, characterAt<'&'>); values.size() > 1)
+    if (auto values = partsOf(text, characterAt<'&'>); !values.empty())
         return values;
     if (auto values = blankList(text); !values.empty())
         return values;

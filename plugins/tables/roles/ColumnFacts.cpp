@@ -24,13 +24,13 @@ constexpr std::size_t MaxUnitSize = 12; ///< bytes
 std::optional<double> leadingNumber(std::string_view text)
 {
     text = trimmed(text);
-    if (const auto feet = parseFeetAndInches(text))
-        return feet;
-    if (const auto bearing = parseBearing(text))
-        return bearing;
-    std::size_t end = text.find_first_not_of("0123456789.,+-");
-    if (end == std::string_view::npos)
-        end = text.size();
+    const std::size_t end = std::min(text.find_first_not_of("0123456789.,+-"), text.size());
+    if (end < text.size()) {
+        if (const auto feet = parseFeetAndInches(text))
+            return feet;
+        if (const auto bearing = parseBearing(text))
+            return bearing;
+    }
     if (end == 0 || text.size() - end > MaxUnitSize)
         return std::nullopt;
     const std::string_view rest = text.substr(end);
@@ -43,11 +43,11 @@ std::optional<double> leadingNumber(std::string_view text)
     return parseNumber(number, shape.usesComma ? DecimalMark::Comma : DecimalMark::Point);
 }
 
-/// The numbers in a cell; none unless each part of it is one.
-std::vector<double> numbersIn(std::string_view text)
+/// The numbers in the parts of a cell; none unless each of them is one.
+std::vector<double> numbersIn(const std::vector<std::string_view> &parts)
 {
     std::vector<double> numbers;
-    for (const std::string_view part : splitList(text)) {
+    for (const std::string_view part : parts) {
         const std::optional<double> number = leadingNumber(part);
         if (!number)
             return {};
@@ -116,7 +116,7 @@ ColumnFacts factsOf(const std::vector<std::string> &cells, const Vocabulary &voc
             points.insert(parts.begin(), parts.end());
             continue;
         }
-        const std::vector<double> numbers = numbersIn(text);
+        const std::vector<double> numbers = numbersIn(parts);
         facts.numeric += numbers.empty() ? 0 : 1;
         facts.lists += numbers.size() > 1 ? 1 : 0;
         for (const double number : numbers) {
