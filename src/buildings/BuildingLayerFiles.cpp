@@ -166,21 +166,6 @@ private:
     QSize m_legendSize;               ///< in the layer's description
 };
 
-/// The content that both kinds of documents have.
-contract::BuildingDocument documentOf(const BuildingLayerInput &input)
-{
-    const BuildingsSource &source = input.source;
-    contract::BuildingDocument document;
-    document.footprints = input.footprints;
-    document.footprints.file = source.file.toStdString();
-    document.footprints.layer = source.layer.toStdString();
-    document.footprints.heightField = source.heightField.toStdString();
-    document.footprints.heights = source.heights;
-    document.footprints.where = source.where.toStdString();
-    document.terrain = {source.terrainFile.toStdString(), source.terrainNoData.toStdString()};
-    return document;
-}
-
 std::vector<contract::BuildingImage> usedImages(const QList<FileEntry> &images)
 {
     std::vector<contract::BuildingImage> used;
@@ -219,6 +204,20 @@ BuildingLayerFiles filesOf(const QString &layerPath, const BuildingLayerInput &i
                                                    .replace(QLatin1Char(';'), QLatin1Char('_')) +
                                                QStringLiteral(".cmap"));
     return files;
+}
+
+contract::BuildingDocument documentOf(const BuildingLayerInput &input)
+{
+    const BuildingsSource &source = input.source;
+    contract::BuildingDocument document;
+    document.footprints = input.footprints;
+    document.footprints.file = source.file.toStdString();
+    document.footprints.layer = source.layer.toStdString();
+    document.footprints.heightField = source.heightField.toStdString();
+    document.footprints.heights = source.heights;
+    document.footprints.where = source.where.toStdString();
+    document.terrain = {source.terrainFile.toStdString(), source.terrainNoData.toStdString()};
+    return document;
 }
 
 QStringList possibleFilesOf(const QString &layerPath, const BuildingLayerInput &input)

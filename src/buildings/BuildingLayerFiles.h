@@ -48,6 +48,9 @@ BuildingLayerFiles filesOf(const QString &layerPath, const BuildingLayerInput &i
 /// All files that may be written for such a layer.
 QStringList possibleFilesOf(const QString &layerPath, const BuildingLayerInput &input);
 
+/// The content that both kinds of documents have.
+contract::BuildingDocument documentOf(const BuildingLayerInput &input);
+
 /// The document of a layer with colours from a raster.
 contract::BuildingDocument coloredDocument(const BuildingLayerInput &input,
                                            const RasterColoring &walls);

@@ -68,6 +68,21 @@ QString countsInfoText(const CountedBuildings &counted)
     return QStringLiteral("<p>") + lines.join(QStringLiteral("<br/>")) + QStringLiteral("</p>");
 }
 
+QString countsLines(const CountedBuildings &counted)
+{
+    const CityCounts &counts = counted.counts;
+    if (counted.notices.isEmpty() && counts.drawn == counts.features)
+        return dico_label("MESS_ALL_DRAWN", "All %1 buildings can be drawn.")
+            .arg(numberText(counts.drawn));
+    return countsText(counts) + QLatin1Char('\n') +
+           asSentence(counted.notices.join(QStringLiteral("; ")));
+}
+
+QString asSentence(const QString &text)
+{
+    return text.left(1).toUpper() + text.mid(1);
+}
+
 std::optional<QString> nothingDrawnText(const CountedBuildings &counted)
 {
     if (counted.counts.drawn > 0)

@@ -14,6 +14,12 @@ QString countsText(const contract::CityCounts &counts);
 /// drawn as they are.
 QString countsInfoText(const CountedBuildings &counted);
 
+/// The counts in one line and, in a second one, their reasons; the same language.
+QString countsLines(const CountedBuildings &counted);
+
+/// The text with a capital letter at its start.
+QString asSentence(const QString &text);
+
 /// Why a document has no building to draw; nothing if it has one.
 std::optional<QString> nothingDrawnText(const CountedBuildings &counted);
 

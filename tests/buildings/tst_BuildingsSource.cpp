@@ -3,6 +3,7 @@
 #include "gui/DropOnWidget.h"
 #include "gui/FileDialogAnswer.h"
 #include "support/Cases.h"
+#include "support/Patience.h"
 
 #include <QDoubleSpinBox>
 #include <QFileInfo>
@@ -271,6 +272,40 @@ private Q_SLOTS:
         expected.base = vlt::contract::BaseRule::Field;
         QVERIFY(read.heights == expected);
         QCOMPARE(read.where, u"a = 'x'"_s);
+    }
+
+    void countsWhatIsChosen()
+    {
+        Host host;
+        auto *counts = host.child<QLabel>(u"m_pwLblCounts"_s);
+        auto *advice = host.child<QPushButton>(u"m_pwPbAdvice"_s);
+        auto *where = host.child<QLineEdit>(u"m_pwLeWhere"_s);
+        const auto shown = [counts] { return counts->text().section(u'\n', 0, 0); };
+        QByteArray town = features({Square, Square, Square}, R"({"HEIGHT":5,"levels":3})");
+        town.replace(town.indexOf("5"), 1, "null");
+        QVERIFY(counts->isHidden());
+
+        host.page->openVector(write(u"gaps.geojson"_s, town));
+        QTRY_COMPARE_WITH_TIMEOUT(shown(), u"Buildings: 2, left out: 1"_s, PatienceMs);
+        QVERIFY2(counts->text().contains(u"\n1 of 3 buildings are left out: no height in"_s),
+                 qPrintable(counts->text()));
+        QVERIFY(!counts->text().contains(u"terrain"_s)); // it is not chosen yet
+        host.child<QDoubleSpinBox>(u"m_pwSbDefault"_s)->setValue(6);
+        QTRY_COMPARE_WITH_TIMEOUT(shown(), u"Buildings: 3, default height: 1"_s, PatienceMs);
+        QVERIFY(advice->isVisible() && advice->text().contains(u"levels"_s));
+        advice->click();
+        QTRY_COMPARE_WITH_TIMEOUT(shown(), u"Buildings: 3, second field: 1"_s, PatienceMs);
+        QVERIFY(!advice->isVisible());
+        QCOMPARE(host.child<QComboBox>(u"m_pwCbElseUnit"_s)->currentText(), u"levels"_s);
+
+        for (const auto &[text, message] :
+             {std::pair(u"levels >"_s, u"The filter \"levels >\" cannot be used"_s),
+              std::pair(u"levels > 3"_s, u"The filter \"levels > 3\" leaves no building"_s)}) {
+            where->setText(text);
+            QTRY_VERIFY_WITH_TIMEOUT(shown().startsWith(message), PatienceMs);
+        }
+        host.page->openVector({});
+        QVERIFY(counts->isHidden() && counts->text().isEmpty());
     }
 
     void takesTheFilesOfTheProjectOnce()

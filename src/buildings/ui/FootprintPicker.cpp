@@ -99,6 +99,7 @@ void FootprintPicker::offerLayers(const QString &path,
     }
     m_widgets.layer->setCurrentIndex(0);
     showPath(path);
+    Q_EMIT changed();
 }
 
 const geodata::PolygonLayer *FootprintPicker::layer() const

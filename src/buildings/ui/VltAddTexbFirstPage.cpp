@@ -3,6 +3,7 @@
 #include "ui_AddTexbFirstPage.h"
 
 #include "buildings/BuildingsSource.h"
+#include "buildings/CountsText.h"
 #include "buildings/HeightGuess.h"
 #include "buildings/SourceSummary.h"
 #include "buildings/ui/FootprintPicker.h"
@@ -51,6 +52,7 @@ VltAddTexbFirstPage::VltAddTexbFirstPage(QWidget *wizard, SharedParameters &para
         this, {m_ui->m_pwLeBuildings, m_ui->m_pwCbLayer, m_ui->m_pwCbHeight}, m_isBusy);
     m_terrain = new TerrainPicker(
         this, {m_ui->m_pwLeDtm, m_ui->m_pwLeNoData, m_ui->m_pwNoDataProgress}, m_isBusy);
+    m_counter = new SourceCounter(this);
     setTitle(tr("Buildings", "MESS_PAGE_BUILDINGS"));
     setFocusProxy(m_ui->m_pwLeBuildings); // the line gets the keyboard first
     setDropHighlightWidgets({m_ui->m_pwLblBuildings, m_ui->m_pwLblDtm});
@@ -105,6 +107,12 @@ void VltAddTexbFirstPage::connectWidgets()
         showSummaries();
         Q_EMIT completeChanged();
     });
+    connect(m_counter, &SourceCounter::started, this, [this] {
+        m_ui->m_pwHeights->showCounts(tr("Counting the buildings...", "MESS_COUNTING_BUILDINGS"),
+                                      false);
+        m_ui->m_pwHeights->showAdvice({});
+    });
+    connect(m_counter, &SourceCounter::ended, this, &VltAddTexbFirstPage::showCounts);
     for (const QRadioButton *radio : {m_ui->m_pwRbTextured, m_ui->m_pwRbColored})
         connect(radio, &QRadioButton::clicked, this, &VltAddTexbFirstPage::typeChanged);
 
@@ -390,4 +398,33 @@ void VltAddTexbFirstPage::showSummaries()
     m_ui->m_pwLblHeightInfo->setVisible(!hint.isEmpty());
     m_ui->m_pwLblDtmInfo->setText(terrain ? buildings::terrainSummary(*terrain, layer, extent)
                                           : QString());
+    countSource();
+}
+
+/// Counts what would be drawn from the files that are open.
+void VltAddTexbFirstPage::countSource()
+{
+    const geodata::PolygonLayer *layer = m_footprints->layer();
+    buildings::BuildingsSource source = chosenSource();
+    if (!m_terrain->summary())
+        source.terrainFile.clear();
+    const auto &heights = source.heights;
+    const bool isOpen = heights.base != contract::BaseRule::Field || !heights.baseField.empty();
+    if (layer != nullptr && isOpen && !source.heightField.isEmpty()) {
+        m_counter->count(source, *layer);
+        return;
+    }
+    m_counter->clear();
+    m_ui->m_pwHeights->showCounts({}, false);
+    m_ui->m_pwHeights->showAdvice({});
+}
+
+void VltAddTexbFirstPage::showCounts(const SourceCounter::Outcome &outcome)
+{
+    const auto nothing = outcome.counted ? buildings::nothingDrawnText(outcome.counted.value())
+                                         : std::optional(outcome.counted.error().text);
+    m_ui->m_pwHeights->showCounts(nothing ? buildings::asSentence(*nothing)
+                                          : buildings::countsLines(outcome.counted.value()),
+                                  nothing.has_value());
+    m_ui->m_pwHeights->showAdvice(outcome.advice);
 }

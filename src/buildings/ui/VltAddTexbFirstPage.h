@@ -1,6 +1,7 @@
 #pragma once
 
 #include "buildings/BuildingsSource.h"
+#include "buildings/ui/SourceCounter.h"
 #include "platform/Result.h"
 #include "wizard/base/BasePage.h"
 
@@ -82,6 +83,8 @@ private:
     QString heightHint() const;
     vlt::buildings::BuildingsSource chosenSource() const;
     void showSummaries();
+    void countSource();
+    void showCounts(const SourceCounter::Outcome &outcome);
     QString pick(const QString &title, const QString &files);
 
     std::unique_ptr<Ui::AddTexbFirstPage> m_ui;
@@ -90,6 +93,7 @@ private:
     QString m_lastUsedDir;
     FootprintPicker *m_footprints = nullptr;
     TerrainPicker *m_terrain = nullptr;
+    SourceCounter *m_counter = nullptr;
     QString m_projectName; ///< the project whose files were suggested last
     bool m_isBusy = false; ///< a file is being read
 };

@@ -155,7 +155,7 @@ bool VltBuildingLayerPage::count(const vlt::contract::BuildingDocument &document
     input.counted = m_count->counted;
     const auto nothing = vlt::buildings::nothingDrawnText(input.counted);
     if (nothing)
-        m_refusal = nothing->left(1).toUpper() + nothing->mid(1);
+        m_refusal = vlt::buildings::asSentence(*nothing);
     return !nothing;
 }
 

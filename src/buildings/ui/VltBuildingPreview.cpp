@@ -53,7 +53,7 @@ QString shortNotice(const QString &notice, const QString &layerPath)
     QString text = notice;
     text.remove(QFileInfo(layerPath).absoluteFilePath() + QStringLiteral(": "));
     text = vlt::language::readerText(text.replace(folder, QStringLiteral("\"")));
-    return text.left(1).toUpper() + text.mid(1);
+    return vlt::buildings::asSentence(text);
 }
 
 QString reasonIn(const vlt::Error &error, const QString &layerPath)

@@ -11,6 +11,14 @@ using contract::BaseRule;
 using contract::HeightReference;
 using contract::HeightUnit;
 
+namespace {
+
+constexpr int HalfLightness = 128;
+constexpr QRgb WrongOnLight = qRgb(178, 24, 24);
+constexpr QRgb WrongOnDark = qRgb(255, 128, 118);
+
+} // namespace
+
 VltHeightPanel::VltHeightPanel(QWidget *parent)
     : QWidget(parent)
     , m_ui(std::make_unique<Ui::HeightPanel>())
@@ -20,6 +28,8 @@ VltHeightPanel::VltHeightPanel(QWidget *parent)
     wizard::offer(m_ui->m_pwSbLevel, contract::LevelHeightM);
     m_ui->m_pwSbDefault->setRange(0, contract::DefaultHeightM.maximum); // 0: leave out
     offer(nullptr);
+    showCounts({}, false);
+    showAdvice({});
     connectWidgets();
 }
 
@@ -37,6 +47,7 @@ void VltHeightPanel::connectWidgets()
         m_ui->m_pwCbElseUnit->setCurrentIndex(static_cast<int>(unit));
     });
     connect(this, &VltHeightPanel::changed, this, &VltHeightPanel::enableFields);
+    connect(m_ui->m_pwPbAdvice, &QPushButton::clicked, this, &VltHeightPanel::followAdvice);
 }
 
 void VltHeightPanel::enableFields()
@@ -95,4 +106,39 @@ contract::BuildingHeights VltHeightPanel::heights() const
 QString VltHeightPanel::where() const
 {
     return m_ui->m_pwLeWhere->text().trimmed();
+}
+
+void VltHeightPanel::showCounts(const QString &text, bool isWrong)
+{
+    m_ui->m_pwLblCounts->setText(text);
+    m_ui->m_pwLblCounts->setVisible(!text.isEmpty());
+    QPalette colors = palette();
+    if (isWrong) {
+        const bool isDark = colors.color(QPalette::Window).lightness() < HalfLightness;
+        colors.setColor(QPalette::WindowText, isDark ? WrongOnDark : WrongOnLight);
+    }
+    m_ui->m_pwLblCounts->setPalette(colors);
+}
+
+void VltHeightPanel::showAdvice(const std::optional<buildings::HeightAdvice> &advice)
+{
+    m_ui->m_pwLblAdvice->setVisible(advice.has_value());
+    m_ui->m_pwPbAdvice->setVisible(advice.has_value());
+    if (!advice)
+        return;
+    m_advisedField = advice->elseField;
+    m_ui->m_pwLblAdvice->setText(advice->text);
+    m_ui->m_pwPbAdvice->setText(
+        m_advisedField.isEmpty() ? dico_label("MESS_USE_SEA", "Take them so")
+                                 : dico_label("MESS_USE_FIELD", "Use \"%1\"").arg(m_advisedField));
+    m_ui->m_pwPbAdvice->setAccessibleDescription(advice->text);
+}
+
+void VltHeightPanel::followAdvice()
+{
+    showAdvice({});
+    if (m_advisedField.isEmpty())
+        m_ui->m_pwCbReference->setCurrentIndex(static_cast<int>(HeightReference::Sea));
+    else
+        m_ui->m_pwCbElse->setCurrentIndex(m_ui->m_pwCbElse->findData(m_advisedField));
 }

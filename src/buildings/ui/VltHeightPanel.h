@@ -1,11 +1,13 @@
 #pragma once
 
+#include "buildings/HeightAdvice.h"
 #include "contract/BuildingHeights.h"
 #include "geodata/PolygonSource.h"
 
 #include <QWidget>
 
 #include <memory>
+#include <optional>
 
 namespace Ui {
 class HeightPanel;
@@ -32,12 +34,22 @@ public:
     /// The SQL condition; empty for all features.
     QString where() const;
 
+    /// Shows in a line what the choices lead to; empty hides the line.
+    ///
+    /// @param isWrong  nothing is drawn: shown in the colour of mistakes
+    void showCounts(const QString &text, bool isWrong);
+
+    /// Shows an advice beside a button that follows it; none hides both.
+    void showAdvice(const std::optional<vlt::buildings::HeightAdvice> &advice);
+
 Q_SIGNALS:
     void changed();
 
 private:
     void connectWidgets();
     void enableFields();
+    void followAdvice();
 
     std::unique_ptr<Ui::HeightPanel> m_ui;
+    QString m_advisedField; ///< empty: heights above sea level are advised
 };

@@ -263,5 +263,17 @@
         <source>The values of "%1" are probably heights above sea level.</source>
         <translation>The values of "%1" are probably heights above sea level.</translation>
     </message>
+    <message id="MESS_ALL_DRAWN">
+        <source>All %1 buildings can be drawn.</source>
+        <translation>All %1 buildings can be drawn.</translation>
+    </message>
+    <message id="MESS_USE_SEA">
+        <source>Take them so</source>
+        <translation>Take them so</translation>
+    </message>
+    <message id="MESS_USE_FIELD">
+        <source>Use "%1"</source>
+        <translation>Use "%1"</translation>
+    </message>
 </context>
 </TS>

@@ -263,5 +263,17 @@
         <source>The values of "%1" are probably heights above sea level.</source>
         <translation>Les valeurs de «&#xa0;%1&#xa0;» sont probablement des altitudes, mesurées à partir de la mer.</translation>
     </message>
+    <message id="MESS_ALL_DRAWN">
+        <source>All %1 buildings can be drawn.</source>
+        <translation>Les %1 bâtiments peuvent tous être dessinés.</translation>
+    </message>
+    <message id="MESS_USE_SEA">
+        <source>Take them so</source>
+        <translation>Les prendre ainsi</translation>
+    </message>
+    <message id="MESS_USE_FIELD">
+        <source>Use "%1"</source>
+        <translation>Utiliser «&#xa0;%1&#xa0;»</translation>
+    </message>
 </context>
 </TS>
