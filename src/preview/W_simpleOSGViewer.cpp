@@ -275,14 +275,32 @@ double W_simpleOSGViewer::distanceToSee(const osg::BoundingBox &box) const
     return Margin * radius / std::sin(half);
 }
 
-void W_simpleOSGViewer::centerView(osg::Node *node)
+/// Extents of the scene, or of its core.
+osg::BoundingBox W_simpleOSGViewer::sceneBox()
 {
-    osg::BoundingBox box = extentsOf(node);
-    if (!box.valid())
-        return;
-    if (m_core && node == getSceneData())
+    osg::BoundingBox box = extentsOf(getSceneData());
+    if (m_core && box.valid())
         box.set(m_core->xMin(), m_core->yMin(), box.zMin(), m_core->xMax(), m_core->yMax(),
                 box.zMax());
+    return box;
+}
+
+void W_simpleOSGViewer::fitView()
+{
+    if (const osg::BoundingBox box = sceneBox(); box.valid())
+        m_trackBall->showFrom(box.center(), std::min(m_maxDistanceM, distanceToSee(box)));
+}
+
+void W_simpleOSGViewer::lookDown()
+{
+    m_trackBall->lookDown();
+}
+
+void W_simpleOSGViewer::centerView(osg::Node *node)
+{
+    const osg::BoundingBox box = node == getSceneData() ? sceneBox() : extentsOf(node);
+    if (!box.valid())
+        return;
     m_isUserCamera = true;
     // a flat scene, such as the sites of a city, needs a higher camera
     const bool isFlat = box.zMax() - box.zMin() < FlatShare * box.radius();
@@ -306,6 +324,11 @@ void W_simpleOSGViewer::mousePressEvent(QMouseEvent *event)
     m_isUserCamera = false;
     m_pressedAt = event->position();
     const QPointF at = inPixels(event->position());
+    takeKeys(event->modifiers());
+    if (event->button() == Qt::LeftButton && getSceneData()) {
+        if (const auto met = intersectionsAt(at); !met.empty())
+            m_trackBall->pivotAt(met.begin()->getWorldIntersectPoint());
+    }
     events().mouseButtonPress(static_cast<float>(at.x()), static_cast<float>(at.y()),
                               buttonNumber(event->button()));
     stopDemo();
@@ -319,7 +342,7 @@ void W_simpleOSGViewer::mouseReleaseEvent(QMouseEvent *event)
                                 buttonNumber(event->button()));
     const bool isClick = (event->position() - m_pressedAt).manhattanLength() <= ClickTolerance;
     if (isClick && event->button() == Qt::LeftButton)
-        pick(at);
+        Q_EMIT emitSelection(intersectionsAt(at));
 }
 
 void W_simpleOSGViewer::mouseDoubleClickEvent(QMouseEvent *event)
@@ -338,34 +361,67 @@ void W_simpleOSGViewer::mouseMoveEvent(QMouseEvent *event)
         return;
     }
     const QPointF at = inPixels(event->position());
+    takeKeys(event->modifiers());
     events().mouseMotion(static_cast<float>(at.x()), static_cast<float>(at.y()));
 }
 
 void W_simpleOSGViewer::wheelEvent(QWheelEvent *event)
 {
     m_isUserCamera = false;
+    const QPointF at = event->position();
+    m_trackBall->setPointer(2 * at.x() / QWidget::width() - 1, 1 - 2 * at.y() / QWidget::height());
     const QPoint delta = event->angleDelta();
     events().mouseScroll2D(static_cast<float>(delta.x()), static_cast<float>(delta.y()));
     event->accept();
 }
 
-/// Turns and zooms with the keyboard, as with the mouse.
+/// Gestures of two fingers on a touchpad.
+bool W_simpleOSGViewer::event(QEvent *event)
+{
+    if (event->type() != QEvent::NativeGesture)
+        return QOpenGLWidget::event(event);
+    const auto *gesture = static_cast<QNativeGestureEvent *>(event);
+    if (gesture->gestureType() == Qt::ZoomNativeGesture)
+        m_trackBall->zoomBy(1 / std::max(0.1, 1 + gesture->value()));
+    else if (gesture->gestureType() == Qt::RotateNativeGesture)
+        m_trackBall->turnBy(gesture->value());
+    else
+        return QOpenGLWidget::event(event);
+    m_isUserCamera = false;
+    return true;
+}
+
+/// Moves the camera with the keyboard, as with the mouse.
 void W_simpleOSGViewer::keyPressEvent(QKeyEvent *event)
 {
-    const double turnStep = osg::PI / 36;
-    constexpr double zoomStep = 1.15;
+    constexpr double StepDeg = 5;
+    constexpr double PanStep = 0.05; // of the distance
+    constexpr double ZoomStep = 1.15;
+    const bool isPan = event->modifiers() & Qt::ShiftModifier;
     switch (event->key()) {
     case Qt::Key_Left:
-    case Qt::Key_Right: {
-        const double angle = event->key() == Qt::Key_Left ? turnStep : -turnStep;
-        m_trackBall->setRotation(m_trackBall->getRotation() * osg::Quat(angle, osg::Z_AXIS));
+        isPan ? m_trackBall->panBy(-PanStep, 0) : m_trackBall->turnBy(StepDeg);
         break;
-    }
+    case Qt::Key_Right:
+        isPan ? m_trackBall->panBy(PanStep, 0) : m_trackBall->turnBy(-StepDeg);
+        break;
+    case Qt::Key_Up:
+        isPan ? m_trackBall->panBy(0, PanStep) : m_trackBall->tiltBy(StepDeg);
+        break;
+    case Qt::Key_Down:
+        isPan ? m_trackBall->panBy(0, -PanStep) : m_trackBall->tiltBy(-StepDeg);
+        break;
     case Qt::Key_Plus:
-        m_trackBall->zoomBy(1 / zoomStep);
+        m_trackBall->zoomBy(1 / ZoomStep);
         break;
     case Qt::Key_Minus:
-        m_trackBall->zoomBy(zoomStep);
+        m_trackBall->zoomBy(ZoomStep);
+        break;
+    case Qt::Key_T:
+        lookDown();
+        break;
+    case Qt::Key_F:
+        fitView();
         break;
     case Qt::Key_Home:
         centerView();
@@ -378,7 +434,16 @@ void W_simpleOSGViewer::keyPressEvent(QKeyEvent *event)
     m_isUserCamera = false;
 }
 
-void W_simpleOSGViewer::pick(const QPointF &position)
+/// Hands the keys that are held to the queue, for its next event.
+void W_simpleOSGViewer::takeKeys(Qt::KeyboardModifiers modifiers)
+{
+    events().getCurrentEventState()->setModKeyMask(
+        modifiers & Qt::ShiftModifier ? osgGA::GUIEventAdapter::MODKEY_SHIFT : 0);
+}
+
+/// The parts of the scene at a point of the view, nearest first.
+osgUtil::LineSegmentIntersector::Intersections
+W_simpleOSGViewer::intersectionsAt(const QPointF &position)
 {
     // in the viewport, y increases upwards
     const double y = getCamera()->getViewport()->height() - position.y();
@@ -386,5 +451,5 @@ void W_simpleOSGViewer::pick(const QPointF &position)
         new osgUtil::LineSegmentIntersector(osgUtil::Intersector::WINDOW, position.x(), y);
     osgUtil::IntersectionVisitor visitor(line);
     getCamera()->accept(visitor);
-    Q_EMIT emitSelection(line->getIntersections());
+    return line->getIntersections();
 }

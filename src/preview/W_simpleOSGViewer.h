@@ -73,6 +73,10 @@ public Q_SLOTS:
     void centerView();
     /// Shows a node of the scene.
     void centerView(osg::Node *node);
+    /// Shows the whole scene, or its core, from the direction of the camera.
+    void fitView();
+    /// Looks from above, north up.
+    void lookDown();
     /// Turns the scene slowly until a mouse button is pressed.
     void startDemo();
     void stopDemo();
@@ -97,6 +101,7 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
+    bool event(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
@@ -107,7 +112,9 @@ private:
     double distanceToSee(const osg::BoundingBox &box) const;
     void makeGraphicsWindow(osg::GraphicsContext *shareContext);
     void applySize(const QSize &pixels);
-    void pick(const QPointF &position);
+    osg::BoundingBox sceneBox();
+    void takeKeys(Qt::KeyboardModifiers modifiers);
+    osgUtil::LineSegmentIntersector::Intersections intersectionsAt(const QPointF &position);
     bool needsFrame();
 
     osg::ref_ptr<osgViewer::GraphicsWindowEmbedded> m_graphicsWindow;

@@ -244,6 +244,80 @@ private Q_SLOTS:
         QCOMPARE(moves.count(), 1);
     }
 
+    void movesByKeys_data()
+    {
+        // bearing of the camera and its elevation, from 215.5 and 18 degrees; the distance and the
+        // centre's move to the east in metres, from a distance of 100 m
+        const Cases<int, bool, double, double, double, double> row(
+            {"key", "isShifted", "bearing", "elevation", "distance", "east"});
+        row("left", Qt::Key_Left, false, 210.5, 18, 100, 0);
+        row("right", Qt::Key_Right, false, 220.5, 18, 100, 0);
+        row("up", Qt::Key_Up, false, 215.5, 23, 100, 0);
+        row("down", Qt::Key_Down, false, 215.5, 13, 100, 0);
+        row("to the right", Qt::Key_Right, true, 215.5, 18, 100, 4.071);
+        row("ahead", Qt::Key_Up, true, 215.5, 18, 100, 2.904);
+        row("nearer", Qt::Key_Plus, false, 215.5, 18, 86.957, 0);
+        row("from above", Qt::Key_T, false, 180, 90, 100, 0);
+        row("all", Qt::Key_F, false, 215.5, 18, 91.4, 0);
+    }
+    void movesByKeys()
+    {
+        QFETCH(int, key);
+        QFETCH(bool, isShifted);
+        m_viewer->showScene(ballAt({}));
+        m_viewer->placeCamera(100, 0);
+        waitForFrames();
+
+        QTest::keyClick(m_viewer, Qt::Key(key), isShifted ? Qt::ShiftModifier : Qt::NoModifier);
+        waitForFrames();
+
+        osg::Vec3d at;
+        osg::Vec3d center;
+        osg::Vec3d up;
+        m_viewer->getCamera()->getViewMatrixAsLookAt(at, center, up);
+        const osg::Vec3d view = center - at;
+        const double seenDistance =
+            m_viewer->getCamera()->getViewport()->height() / m_viewer->levelOfDetail();
+        const osg::Vec3d heading = view.z() < -0.999 ? up : view;
+        const double direction = osg::RadiansToDegrees(std::atan2(-heading.x(), -heading.y()));
+        const std::pair<const char *, double> seen[] = {
+            {"bearing", direction < 0 ? direction + 360 : direction},
+            {"elevation", osg::RadiansToDegrees(std::asin(-view.z()))},
+            {"distance", seenDistance},
+            {"east", (at + view * seenDistance).x()}};
+        for (const auto &[column, value] : seen) {
+            const double expected =
+                *static_cast<const double *>(QTest::qData(column, QMetaType::Double));
+            QVERIFY2(std::abs(value - expected) < 0.05,
+                     qPrintable(u"%1: %2"_s.arg(QLatin1String(column)).arg(value)));
+        }
+    }
+
+    void zoomsToThePointer()
+    {
+        m_viewer->showScene(ballAt({}));
+        m_viewer->placeCamera(200, 0);
+        m_viewer->lookDown();
+        waitForFrames();
+        const osg::Vec3d mark(20, -10, 0);
+        const auto seenAt = [&] {
+            const osg::Camera &camera = *m_viewer->getCamera();
+            const osg::Vec3d place = mark * (camera.getViewMatrix() * camera.getProjectionMatrix() *
+                                             camera.getViewport()->computeWindowMatrix());
+            return QPointF(place.x(), camera.getViewport()->height() - place.y());
+        };
+        const QPointF before = seenAt();
+
+        QWheelEvent wheel(before, m_viewer->mapToGlobal(before), {}, {0, 480}, Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(m_viewer, &wheel);
+        waitForFrames();
+
+        QVERIFY(eye().z() < 150);
+        const QPointF moved = seenAt() - before;
+        QVERIFY2(moved.manhattanLength() < 0.5, qPrintable(QString::number(moved.x())));
+    }
+
     void turnsUntilAButtonIsPressed()
     {
         m_viewer->showScene(ballAt({}));
