@@ -3,6 +3,7 @@
 #include "preview/W_simpleOSGViewer.h"
 
 #include <QLabel>
+#include <QTimer>
 #include <QVBoxLayout>
 
 VltPreviewPane::VltPreviewPane(QWidget *parent) : QWidget(parent)
@@ -13,9 +14,11 @@ VltPreviewPane::VltPreviewPane(QWidget *parent) : QWidget(parent)
         m_viewer = new W_simpleOSGViewer(W_simpleOSGViewer::defaultFormat(), this);
         m_viewer->setObjectName(QStringLiteral("m_pwViewer"));
         m_viewer->setAccessibleName(tr("3D preview", "MESS_3D_PREVIEW"));
-        m_viewer->setToolTip(tr("Drag to rotate, middle button to move, wheel to zoom; left and "
-                                "right arrow, + and -, Home for the whole scene",
-                                "MESS_TIP_3D_PREVIEW"));
+        m_viewer->setToolTip(
+            tr("Drag to rotate, Shift and drag to move, wheel to zoom. Keys: the "
+               "arrows rotate and tilt, with Shift they move; + and - zoom, T shows "
+               "the view from above, F the whole scene, Home the first view.",
+               "MESS_TIP_3D_PREVIEW"));
         layout->addWidget(m_viewer);
         setFocusProxy(m_viewer);
         return;
@@ -31,8 +34,41 @@ VltPreviewPane::VltPreviewPane(QWidget *parent) : QWidget(parent)
 
 void VltPreviewPane::showScene(osg::Node *scene)
 {
-    if (m_viewer)
-        m_viewer->showScene(scene);
+    if (!m_viewer)
+        return;
+    m_viewer->showScene(scene);
+    m_hasScene = scene != nullptr;
+    showHint();
+}
+
+void VltPreviewPane::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    showHint();
+}
+
+/// Shows how the view is moved, for two seconds over the first scene that the program shows.
+void VltPreviewPane::showHint()
+{
+    constexpr int HintMs = 2000;
+    constexpr int Gap = 8;
+    static bool wasShown = false;
+    if (wasShown || !m_hasScene || !isVisible())
+        return;
+    wasShown = true;
+    auto *hint = new QLabel(
+        tr("Drag to rotate, Shift and drag to move, wheel to zoom", "MESS_HINT_3D_PREVIEW"),
+        m_viewer);
+    hint->setAttribute(Qt::WA_TransparentForMouseEvents);
+    hint->setStyleSheet(QStringLiteral(
+        "background: rgba(0, 0, 0, 160); color: white; padding: 6px; border-radius: 4px"));
+    hint->setWordWrap(true);
+    hint->setAlignment(Qt::AlignCenter);
+    hint->setFixedWidth(m_viewer->QWidget::width() - 2 * Gap);
+    hint->adjustSize();
+    hint->move(Gap, m_viewer->QWidget::height() - hint->height() - Gap);
+    hint->show();
+    QTimer::singleShot(HintMs, hint, &QObject::deleteLater);
 }
 
 void VltPreviewPane::placeCamera(double distanceM, double heightM)

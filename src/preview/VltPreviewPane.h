@@ -48,6 +48,12 @@ public:
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
+protected:
+    void showEvent(QShowEvent *event) override;
+
 private:
+    void showHint();
+
     W_simpleOSGViewer *m_viewer = nullptr;
+    bool m_hasScene = false;
 };

@@ -384,9 +384,13 @@ Select the sites file to display.</translation>
         <source>3D preview</source>
         <translation>3D preview</translation>
     </message>
+    <message id="MESS_HINT_3D_PREVIEW">
+        <source>Drag to rotate, Shift and drag to move, wheel to zoom</source>
+        <translation>Drag to rotate, Shift and drag to move, wheel to zoom</translation>
+    </message>
     <message id="MESS_TIP_3D_PREVIEW">
-        <source>Drag to rotate, middle button to move, wheel to zoom; left and right arrow, + and -, Home for the whole scene</source>
-        <translation>Drag to rotate, middle button to move, wheel to zoom; left and right arrow, + and -, Home for the whole scene</translation>
+        <source>Drag to rotate, Shift and drag to move, wheel to zoom. Keys: the arrows rotate and tilt, with Shift they move; + and - zoom, T shows the view from above, F the whole scene, Home the first view.</source>
+        <translation>Drag to rotate, Shift and drag to move, wheel to zoom. Keys: the arrows rotate and tilt, with Shift they move; + and - zoom, T shows the view from above, F the whole scene, Home the first view.</translation>
     </message>
     <message id="MESS_NO_3D_VIEW">
         <source>No 3D view is available on this system. The layer is complete without it.</source>
