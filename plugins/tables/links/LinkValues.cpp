@@ -1,6 +1,7 @@
 #include "plugins/tables/links/LinkValues.h"
 
 #include "contract/TableTexts.h"
+#include "plugins/tables/roles/HeightBase.h"
 #include "plugins/tables/table/ColumnStatistics.h"
 #include "plugins/tables/values/Quantity.h"
 
@@ -37,6 +38,9 @@ LinkValueReader::LinkValueReader(const TableProfile &table, const LinkLayout &la
     , m_layout(&layout)
 {
     m_words.isMissing = [&vocabulary](std::string_view text) { return vocabulary.isMissing(text); };
+    m_words.aboveGround = [&vocabulary](std::string_view text) {
+        return heightAboveGround(text, vocabulary);
+    };
 }
 
 const std::string &LinkValueReader::nameOf(int field) const

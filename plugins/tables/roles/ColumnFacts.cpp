@@ -5,6 +5,7 @@
 #include "plugins/tables/cells/FeetAndInches.h"
 #include "plugins/tables/cells/Numbers.h"
 #include "plugins/tables/cells/ValueList.h"
+#include "plugins/tables/roles/HeightBase.h"
 
 #include <algorithm>
 #include <cmath>
@@ -109,7 +110,7 @@ ColumnFacts factsOf(const std::vector<std::string> &cells, const Vocabulary &voc
             ++facts.omni;
             continue;
         }
-        const std::vector<std::string_view> parts = splitList(text);
+        const auto parts = splitList(heightAboveGround(text, vocabulary));
         if (std::all_of(parts.begin(), parts.end(), parseCompassPoint)) {
             ++facts.compass;
             facts.lists += parts.size() > 1 ? 1 : 0;

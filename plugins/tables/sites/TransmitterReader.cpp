@@ -3,6 +3,7 @@
 #include "contract/TableTexts.h"
 #include "contract/TransmitterRanges.h"
 #include "plugins/tables/cells/ValueList.h"
+#include "plugins/tables/roles/HeightBase.h"
 #include "plugins/tables/roles/NameMatch.h"
 #include "plugins/tables/sites/PositionReader.h"
 
@@ -105,23 +106,22 @@ public:
     }
 
 private:
-    using Split = std::vector<std::string_view> (*)(std::string_view text);
     using ReadValue = TransmitterValue (*)(std::string_view text, double unit,
                                            const ValueWords &words);
 
     /// The text of the transmitter in a field; empty in a list of another length.
-    std::string itemText(int field, Split split) const
+    std::string itemText(int field, bool holdsNames = false) const
     {
         std::string whole = fieldText(m_cells, field);
         if (m_reader.m_roles->shape != SiteShape::Lists || m_reader.m_words.isOmni(whole))
             return whole;
-        const Parts parts = split(whole);
+        const Parts parts = holdsNames ? splitNames(whole) : valuesIn(whole);
         if (parts.size() == 1)
             return whole;
         return suits(parts, m_itemCount) && m_item < parts.size() ? std::string(parts[m_item])
                                                                   : std::string();
     }
-    std::string text(int field) const { return itemText(field, splitNames); }
+    std::string text(int field) const { return itemText(field, true); }
 
     /// Whether the kind of the antenna says that it sends in all directions, and the azimuth does
     /// not say otherwise: 0, 360 and -1 stand for no azimuth then.
@@ -132,14 +132,15 @@ private:
         if (kind.empty() || !(fields.asksOmni ? vocabulary.isYes(kind) : vocabulary.isOmni(kind)) ||
             vocabulary.isMissing(kind))
             return false;
-        const auto azimuth = readDegrees(itemText(fields.azimuth.field, splitList));
+        const auto azimuth = readDegrees(itemText(fields.azimuth.field));
         return !azimuth || *azimuth == 0 || *azimuth == WholeTurnDeg || *azimuth == -1;
     }
 
     /// The text of a list of azimuths or heights; "0-360" is none.
     Parts valuesIn(std::string_view text) const
     {
-        return m_reader.m_words.isOmni(text) ? Parts{text} : splitList(text);
+        const ValueWords &words = m_reader.m_words;
+        return words.isOmni(text) ? Parts{text} : splitList(words.aboveGround(text));
     }
 
     /// Metres or degrees per unit of a number without a unit; nothing if the unit of the row is not
@@ -169,7 +170,7 @@ private:
     {
         if (!of.found())
             return std::nullopt;
-        const std::string item = itemText(of.field, splitList);
+        const std::string item = itemText(of.field);
         const std::optional<double> unit = unitOf(of);
         if (!unit)
             return std::nullopt;
@@ -188,7 +189,7 @@ private:
         if (!fields.heightBase.found())
             return number(fields.height, readAntennaHeightM, "MESS_TAB_SECTOR_HEIGHT");
         const auto aboveSeaM =
-            readLengthM(itemText(fields.height.field, splitList), fields.height.unit.value_or(1));
+            readLengthM(itemText(fields.height.field), fields.height.unit.value_or(1));
         const auto baseM = readLengthM(fieldText(m_cells, fields.heightBase.field),
                                        fields.heightBase.unit.value_or(1));
         if (!aboveSeaM || !baseM)
@@ -197,8 +198,7 @@ private:
         if (contract::AntennaHeightM.contains(heightM))
             return heightM;
         m_isUsable = false;
-        report(fields.height, "MESS_TAB_SECTOR_HEIGHT",
-               {quotation(itemText(fields.height.field, splitList))});
+        report(fields.height, "MESS_TAB_SECTOR_HEIGHT", {quotation(itemText(fields.height.field))});
         return std::nullopt;
     }
 
@@ -208,7 +208,7 @@ private:
         const bool isStated = m_isOmni || values.azimuthDeg || values.beamWidthDeg == WholeTurnDeg;
         if (!of.found() || isStated)
             return false;
-        const std::string item = itemText(of.field, splitList);
+        const std::string item = itemText(of.field);
         if (!readAzimuthDeg(item, 1, m_reader.m_words).isUnknown)
             return false;
         report(of, "MESS_TAB_SECTOR_AZIMUTH", {quotation(item)});
@@ -218,7 +218,7 @@ private:
     /// A frequency is not needed to draw the transmitter.
     std::optional<double> frequencyMHz(const QuantityField &of)
     {
-        const std::string item = itemText(of.field, splitList);
+        const std::string item = itemText(of.field);
         const TransmitterValue value = readFrequency(item, of.unit, m_reader.m_words);
         if (value.fault)
             report(of,
@@ -261,6 +261,9 @@ TransmitterReader::TransmitterReader(const TableProfile &table, const SiteRoles 
 {
     m_words.isMissing = [&vocabulary](std::string_view text) { return vocabulary.isMissing(text); };
     m_words.isOmni = [&vocabulary](std::string_view text) { return vocabulary.isOmni(text); };
+    m_words.aboveGround = [&vocabulary](std::string_view text) {
+        return heightAboveGround(text, vocabulary);
+    };
 }
 
 std::vector<std::optional<TransmitterValues>>

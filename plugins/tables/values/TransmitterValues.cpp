@@ -77,8 +77,9 @@ double wholeTurnsRemoved(double degrees)
 TransmitterValue readAntennaHeightM(std::string_view text, double unitM, const ValueWords &words)
 {
     text = valueText(text, words);
-    return text.empty() ? TransmitterValue()
-                        : checked(readLengthM(text, unitM), contract::AntennaHeightM);
+    return text.empty()
+               ? TransmitterValue()
+               : checked(readLengthM(words.aboveGround(text), unitM), contract::AntennaHeightM);
 }
 
 TransmitterValue readAzimuthDeg(std::string_view text, double unitDeg, const ValueWords &words)

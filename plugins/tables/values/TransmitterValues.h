@@ -14,6 +14,10 @@ struct ValueWords
     std::function<bool(std::string_view)> isMissing = isMissingWord; ///< stands for no value
     /// Stands for all directions, in columns of azimuths and of beam widths.
     std::function<bool(std::string_view)> isOmni = [](std::string_view) { return false; };
+    /// The height above ground in a text that may state others; see heightAboveGround().
+    std::function<std::string_view(std::string_view)> aboveGround = [](std::string_view text) {
+        return text;
+    };
 };
 
 /// Why a value cannot be used.
