@@ -200,6 +200,10 @@ private Q_SLOTS:
         const Cases<QByteArray, bool, double, double> row({"text", "good", "x", "y"});
         row("latitude first", "51.34764,12.31237", true, 12.31237, 51.34764);
         row("semicolon, decimal commas", "51,34;12,31", true, 12.31, 51.34);
+        row("slash, decimal commas", "48,85 / 2,27", true, 2.27, 48.85);
+        row("slash and letters", "E2.27/N48.85", true, 2.27, 48.85);
+        row("no slash of a date", "12/05", false, 0, 0);
+        row("no slashes of a path", "48.85/2.27/35.0", false, 0, 0);
         row("D/M/S", "49°11'24\"N,16°30'0\"E", true, 16.5, 49.19);
         row("letters turn it round", "16.5 E, 49.19 N", true, 16.5, 49.19);
         row("WKT has longitude first", "POINT (2.27 48.85)", true, 2.27, 48.85);

@@ -69,12 +69,31 @@ std::optional<Halves> cutAtBlank(std::string_view text, LetterO letterO)
     return std::nullopt;
 }
 
+/// Whether a text has more than digits: a decimal mark, a degree sign or a letter for a direction.
+bool showsCoordinate(std::string_view text)
+{
+    return text.find_first_of(".,NSEWOnsewo\xC2") != None;
+}
+
+/// Cuts a text such as 46.2/6.1. A date or a fraction has no decimal marks.
+std::optional<Halves> cutAtSlash(std::string_view text)
+{
+    const std::size_t cut = text.find('/');
+    if (cut == None || text.find('/', cut + 1) != None)
+        return std::nullopt;
+    const Halves halves = {text.substr(0, cut), text.substr(cut + 1)};
+    return showsCoordinate(halves.first) && showsCoordinate(halves.second) ? std::optional(halves)
+                                                                           : std::nullopt;
+}
+
 std::optional<Halves> cutInTwo(std::string_view text, LetterO letterO)
 {
     text = trimmed(text);
     if (text.size() > 2 && ((text.front() == '(' && text.back() == ')') ||
                             (text.front() == '[' && text.back() == ']')))
         text = text.substr(1, text.size() - 2);
+    if (const auto halves = cutAtSlash(text))
+        return halves;
     const char separator = text.find(';') != None ? ';' : ',';
     const std::size_t cut = text.find(separator);
     if (cut == 0)

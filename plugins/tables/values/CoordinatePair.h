@@ -26,7 +26,7 @@ enum class PairOrder {
 };
 
 /// Reads both coordinates from one cell:
-/// - in the given order: "48.85,2.35", "48,85;2,35", "(48.85, 2.35)";
+/// - in the given order: "48.85,2.35", "48,85;2,35", "48,85 / 2,35", "(48.85, 2.35)";
 /// - with hemispheres, in any order: 49°11'23.10"N,16°32'13.38"E, 48.85N 2.35E;
 /// - with names, in any order: {'lon': 2.27, 'lat': 48.85}, "lat 48.85 lon 2.27", "x=2.27;y=48.85";
 /// - longitude first: POINT(2.27 48.85), SRID=4326;POINT Z (2.27 48.85 35), and points in GeoJSON.
