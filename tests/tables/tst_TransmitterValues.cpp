@@ -61,6 +61,9 @@ constexpr ValueCase ValueCases[] = {
     {"azimuth", "north", "unreadable"},
     {"azimuth", "#N/A", "absent"},
     {"azimuth", "Omni", "omni"},
+    {"tilt", "-4", "4", -1}, // the name of the column says that negative tilts point down
+    {"tilt", "1\u00B0", "-1", -1},
+    {"tilt", "0", "0", -1},
     {"tilt", "-2,5\u00B0", "-2.5"},
     {"tilt", "95", "out of range"},
     {"tilt", "Omni", "unreadable"},

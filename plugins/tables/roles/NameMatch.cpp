@@ -350,6 +350,21 @@ std::optional<double> unitOfName(const std::vector<std::string> &words,
     return std::nullopt;
 }
 
+bool saysDownIsNegative(const std::vector<std::string> &words, const Vocabulary &vocabulary)
+{
+    for (std::size_t first = 0; first < words.size(); ++first) {
+        std::string joined;
+        for (std::size_t at = first; at < words.size() && at < first + vocabulary.longestPhrase();
+             ++at) {
+            joined += words[at];
+            const WordMeaning *meaning = vocabulary.find(joined);
+            if (meaning && meaning->isDownNegative)
+                return true;
+        }
+    }
+    return false;
+}
+
 std::optional<double> metresOfUnit(std::string_view text, const Vocabulary &vocabulary)
 {
     std::string joined;

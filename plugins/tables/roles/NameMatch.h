@@ -41,6 +41,9 @@ std::optional<double> unitOfName(const std::vector<std::string> &words,
                                  std::optional<double> WordMeaning::*unit,
                                  const Vocabulary &vocabulary);
 
+/// Whether the name of a column of tilts says that negative ones point below the horizon.
+bool saysDownIsNegative(const std::vector<std::string> &words, const Vocabulary &vocabulary);
+
 /// Metres per unit in a cell that holds nothing else; nothing for other texts.
 std::optional<double> metresOfUnit(std::string_view text, const Vocabulary &vocabulary);
 

@@ -252,6 +252,8 @@ void Vocabulary::addPartsOfNames(const Json &root)
     addTo(sectionOf(root, "antennaKind"),
           [](WordMeaning &meaning) { meaning.isAntennaKind = true; });
     addTo(sectionOf(root, "unitColumn"), [](WordMeaning &meaning) { meaning.isUnitColumn = true; });
+    addTo(sectionOf(root, "downIsNegative"),
+          [](WordMeaning &meaning) { meaning.isDownNegative = true; });
     addTo(sectionOf(root, "site"), [](WordMeaning &meaning) { meaning.isSite = true; });
     const Json &units = sectionOf(root, "units");
     for (const Unit &unit : Units) {

@@ -35,6 +35,7 @@ struct WordMeaning
     bool isSite = false;             ///< may stand beside any role of a site
     bool isAntennaKind = false;      ///< names a column with kinds of antennas
     bool isUnitColumn = false;       ///< names a column with units
+    bool isDownNegative = false;     ///< says that tilts below the horizon are negative
     std::optional<double> metres;    ///< per unit of length of that name
     std::optional<double> megahertz; ///< per unit of frequency of that name
     std::optional<double> degrees;   ///< per unit of angle of that name

@@ -65,6 +65,15 @@ private:
         return {field, unitOfName(m_table.words(field), unit, m_table.vocabulary())};
     }
 
+    /// A column of tilts; its unit is negative if its name says that negative tilts point down.
+    QuantityField tilt(int field)
+    {
+        QuantityField tilt = quantity(field, &WordMeaning::degrees);
+        if (saysDownIsNegative(m_table.words(field), m_table.vocabulary()))
+            tilt.unit = -tilt.unit.value_or(1);
+        return tilt;
+    }
+
     /// A column of heights. Its unit may also stand in a column beside it, or in a title.
     QuantityField height(const ColumnRole &column)
     {
@@ -281,14 +290,14 @@ private:
             fields.azimuth = quantity(column.field, &WordMeaning::degrees);
             break;
         case Role::MechanicalTilt:
-            fields.mechanicalTilt = quantity(column.field, &WordMeaning::degrees);
+            fields.mechanicalTilt = tilt(column.field);
             break;
         case Role::Tilt:
             if (!fields.mechanicalTilt.found())
-                fields.mechanicalTilt = quantity(column.field, &WordMeaning::degrees);
+                fields.mechanicalTilt = tilt(column.field);
             break;
         case Role::ElectricalTilt:
-            fields.electricalTilt = quantity(column.field, &WordMeaning::degrees);
+            fields.electricalTilt = tilt(column.field);
             break;
         case Role::BeamWidth:
             fields.beamWidth = quantity(column.field, &WordMeaning::degrees);
@@ -356,7 +365,7 @@ private:
     void reportUpwardTilts()
     {
         for (const TransmitterFields &fields : m_roles.transmitters) {
-            if (!fields.mechanicalTilt.found())
+            if (!fields.mechanicalTilt.found() || fields.mechanicalTilt.unit.value_or(1) < 0)
                 continue;
             const ColumnFacts &facts = m_table.facts(fields.mechanicalTilt.field);
             if (facts.numeric < 2 || facts.maximum > 0 || facts.minimum >= 0)

@@ -97,8 +97,12 @@ TransmitterValue readAzimuthDeg(std::string_view text, double unitDeg, const Val
 TransmitterValue readTiltDeg(std::string_view text, double unitDeg, const ValueWords &words)
 {
     text = valueText(text, words);
-    return text.empty() ? TransmitterValue()
-                        : checked(readDegrees(text, unitDeg), contract::TiltDeg);
+    if (text.empty())
+        return {};
+    TransmitterValue tilt = checked(readDegrees(text, std::abs(unitDeg)), contract::TiltDeg);
+    if (tilt.number && unitDeg < 0)
+        tilt.number = 0 - *tilt.number; // no negative zero
+    return tilt;
 }
 
 TransmitterValue readBeamWidthDeg(std::string_view text, double unitDeg, const ValueWords &words)

@@ -51,7 +51,10 @@ TransmitterValue readAntennaHeightM(std::string_view text, double unitM, const V
 /// @param unitDeg  degrees per unit of a number without a unit
 TransmitterValue readAzimuthDeg(std::string_view text, double unitDeg, const ValueWords &words);
 
-/// A tilt in degrees, -90 to 90.
+/// A tilt in degrees, -90 to 90; positive ones point below the horizon.
+///
+/// @param unitDeg  degrees per unit of a number without a unit; negative if negative numbers point
+///                 below the horizon
 TransmitterValue readTiltDeg(std::string_view text, double unitDeg, const ValueWords &words);
 
 /// A beam width in degrees, 0 to 360.
