@@ -75,6 +75,8 @@ public:
     /// beside a word for sectors, or a name such as alpha. -1 for none.
     int takeSector()
     {
+        if (takeAllSectors())
+            return -1;
         for (std::size_t at = 0; at < m_words.size(); ++at) {
             if (m_isTaken[at])
                 continue;
@@ -173,6 +175,29 @@ private:
     bool isSectorWord(std::size_t at) const
     {
         return at < m_words.size() && !m_isTaken[at] && m_vocabulary.isSectorWord(m_words[at]);
+    }
+
+    /// Takes the numbers of a column that holds the values of all sectors: "S1 S2", "1/2/3".
+    bool takeAllSectors()
+    {
+        for (std::size_t first = 0; first < m_words.size(); ++first) {
+            const std::size_t step = isSectorWord(first) ? 2 : 1;
+            const auto isNext = [&](std::size_t at, int number) {
+                return at + step <= m_words.size() && !m_isTaken[at] && !m_isTaken[at + step - 1] &&
+                       (step == 1 || m_words[at] == m_words[first]) &&
+                       m_words[at + step - 1] == std::to_string(number);
+            };
+            int count = 0;
+            std::size_t end = first;
+            for (; isNext(end, count + 1); end += step)
+                ++count;
+            if (count < (step == 2 ? 2 : 3))
+                continue;
+            std::fill(m_isTaken.begin() + static_cast<std::ptrdiff_t>(first),
+                      m_isTaken.begin() + static_cast<std::ptrdiff_t>(end), true);
+            return true;
+        }
+        return false;
     }
 
     /// Marks the words of sites, sectors and units; some of them are phrases.
