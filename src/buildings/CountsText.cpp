@@ -72,7 +72,7 @@ QString countsLines(const CountedBuildings &counted)
 {
     const CityCounts &counts = counted.counts;
     if (counted.notices.isEmpty() && counts.drawn == counts.features)
-        return dico_label("MESS_ALL_DRAWN", "All %1 buildings can be drawn.")
+        return dico_label("MESS_ALL_DRAWN", "Buildings: %1, none left out")
             .arg(numberText(counts.drawn));
     return countsText(counts) + QLatin1Char('\n') +
            asSentence(counted.notices.join(QStringLiteral("; ")));

@@ -308,6 +308,25 @@ private Q_SLOTS:
         QVERIFY(counts->isHidden() && counts->text().isEmpty());
     }
 
+    void leadsTabThroughTheHeights()
+    {
+        Host host;
+        host.page->openVector(plain());
+        host.child<QComboBox>(u"m_pwCbElse"_s)->setCurrentIndex(1);
+        host.child<QComboBox>(u"m_pwCbBase"_s)->setCurrentIndex(3);
+        host.wizard.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&host.wizard));
+        host.height()->setFocus();
+        QStringList names;
+        while (names.size() < 12) {
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+            names << QApplication::focusWidget()->objectName().mid(4);
+        }
+
+        QCOMPARE(names.join(u' '), u"CbUnit SbFactor SbLevel CbElse CbElseUnit SbDefault "
+                                   "CbReference CbBase CbBaseField CbBottom LeWhere LeDtm"_s);
+    }
+
     void takesTheFilesOfTheProjectOnce()
     {
         const AnsweredBoxes boxes;

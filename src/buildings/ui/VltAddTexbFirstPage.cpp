@@ -17,7 +17,9 @@
 
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QTextDocument>
 #include <QTextDocumentFragment>
+#include <QtMath>
 
 using namespace vlt;
 
@@ -82,6 +84,16 @@ void VltAddTexbFirstPage::describeWidgets()
     // Otherwise the whole page is grey for a moment whenever it is disabled.
     m_ui->m_pwSaInput->viewport()->setAutoFillBackground(false);
     m_ui->m_pwInput->setAutoFillBackground(false);
+
+    // Each text has a share of the width like its own, so that none wraps before the other.
+    m_ui->m_ptGdType->setColumnStretch(
+        1, m_ui->m_pwLblTextured->fontMetrics().size(0, m_ui->m_pwLblTextured->text()).width());
+    QTextDocument colored;
+    colored.setDefaultFont(m_ui->m_pwLblColored->font());
+    colored.setHtml(m_ui->m_pwLblColored->text());
+    m_ui->m_ptGdType->setColumnStretch(3, qCeil(colored.idealWidth()));
+
+    m_ui->m_pwHeights->setTabOrderBetween(m_ui->m_pwCbHeight, m_ui->m_pwLeDtm);
 
     // The labels of both groups form one column.
     int width = 0;

@@ -14,8 +14,6 @@ using contract::HeightUnit;
 namespace {
 
 constexpr int HalfLightness = 128;
-constexpr QRgb WrongOnLight = qRgb(178, 24, 24);
-constexpr QRgb WrongOnDark = qRgb(255, 128, 118);
 
 } // namespace
 
@@ -76,6 +74,19 @@ void VltHeightPanel::offer(const geodata::PolygonLayer *layer)
     enableFields();
 }
 
+void VltHeightPanel::setTabOrderBetween(QWidget *before, QWidget *after)
+{
+    QWidget *previous = before;
+    for (QWidget *next : std::initializer_list<QWidget *>{
+             m_ui->m_pwCbUnit, m_ui->m_pwSbFactor, m_ui->m_pwSbLevel, m_ui->m_pwCbElse,
+             m_ui->m_pwCbElseUnit, m_ui->m_pwSbDefault, m_ui->m_pwCbReference, m_ui->m_pwCbBase,
+             m_ui->m_pwCbBaseField, m_ui->m_pwCbBottom, m_ui->m_pwLeWhere, m_ui->m_pwPbAdvice,
+             after}) {
+        setTabOrder(previous, next);
+        previous = next;
+    }
+}
+
 void VltHeightPanel::suggestUnit(const QString &heightField)
 {
     m_ui->m_pwCbUnit->setCurrentIndex(static_cast<int>(buildings::unitFromName(heightField)));
@@ -112,12 +123,9 @@ void VltHeightPanel::showCounts(const QString &text, bool isWrong)
 {
     m_ui->m_pwLblCounts->setText(text);
     m_ui->m_pwLblCounts->setVisible(!text.isEmpty());
-    QPalette colors = palette();
-    if (isWrong) {
-        const bool isDark = colors.color(QPalette::Window).lightness() < HalfLightness;
-        colors.setColor(QPalette::WindowText, isDark ? WrongOnDark : WrongOnLight);
-    }
-    m_ui->m_pwLblCounts->setPalette(colors);
+    const bool isDark = palette().color(QPalette::Window).lightness() < HalfLightness;
+    m_ui->m_pwLblCounts->setStyleSheet(
+        isWrong ? QLatin1String(isDark ? "color: #ff8076" : "color: #b21818") : QLatin1String());
 }
 
 void VltHeightPanel::showAdvice(const std::optional<buildings::HeightAdvice> &advice)
@@ -129,16 +137,17 @@ void VltHeightPanel::showAdvice(const std::optional<buildings::HeightAdvice> &ad
     m_advisedField = advice->elseField;
     m_ui->m_pwLblAdvice->setText(advice->text);
     m_ui->m_pwPbAdvice->setText(
-        m_advisedField.isEmpty() ? dico_label("MESS_USE_SEA", "Take them so")
+        m_advisedField.isEmpty() ? dico_label("MESS_USE_SEA", "Values above sea")
                                  : dico_label("MESS_USE_FIELD", "Use \"%1\"").arg(m_advisedField));
     m_ui->m_pwPbAdvice->setAccessibleDescription(advice->text);
 }
 
 void VltHeightPanel::followAdvice()
 {
+    const bool isSea = m_advisedField.isEmpty();
+    QComboBox *choice = isSea ? m_ui->m_pwCbReference : m_ui->m_pwCbElse;
+    choice->setFocus(); // else hiding the button moves it to the terrain
     showAdvice({});
-    if (m_advisedField.isEmpty())
-        m_ui->m_pwCbReference->setCurrentIndex(static_cast<int>(HeightReference::Sea));
-    else
-        m_ui->m_pwCbElse->setCurrentIndex(m_ui->m_pwCbElse->findData(m_advisedField));
+    choice->setCurrentIndex(isSea ? static_cast<int>(HeightReference::Sea)
+                                  : choice->findData(m_advisedField));
 }

@@ -26,6 +26,9 @@ public:
     /// Offers the fields of a layer and resets all values; null for no layer.
     void offer(const vlt::geodata::PolygonLayer *layer);
 
+    /// Lets Tab go from a widget through the panel to another one.
+    void setTabOrderBetween(QWidget *before, QWidget *after);
+
     /// Selects the unit that the name of the height field suggests.
     void suggestUnit(const QString &heightField);
 

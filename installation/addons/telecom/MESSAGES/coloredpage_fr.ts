@@ -219,7 +219,7 @@
     </message>
     <message id="MESS_BUILDINGS_LEFT_OUT">
         <source>Buildings: %1, left out: %2</source>
-        <translation>Bâtiments&#xa0;: %1, laissés de côté&#xa0;: %2</translation>
+        <translation>Bâtiments&#xa0;: %1, omis&#xa0;: %2</translation>
     </message>
     <message id="MESS_VIEW_IS_STALE">
         <source>The settings have changed: refresh the view to see them.</source>

@@ -264,12 +264,12 @@
         <translation>The values of "%1" are probably heights above sea level.</translation>
     </message>
     <message id="MESS_ALL_DRAWN">
-        <source>All %1 buildings can be drawn.</source>
-        <translation>All %1 buildings can be drawn.</translation>
+        <source>Buildings: %1, none left out</source>
+        <translation>Buildings: %1, none left out</translation>
     </message>
     <message id="MESS_USE_SEA">
-        <source>Take them so</source>
-        <translation>Take them so</translation>
+        <source>Values above sea</source>
+        <translation>Values above sea</translation>
     </message>
     <message id="MESS_USE_FIELD">
         <source>Use "%1"</source>

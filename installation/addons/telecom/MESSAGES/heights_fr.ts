@@ -21,7 +21,7 @@
     </message>
     <message id="MESS_OPT_DEFAULT_HEIGHT">
         <source>Height in metres of buildings that have none in a field; without it they are left out</source>
-        <translation>Hauteur en mètres des bâtiments dont aucun champ n'indique la hauteur&#xa0;; sans elle, ils sont écartés</translation>
+        <translation>Hauteur en mètres des bâtiments dont aucun champ n'indique la hauteur&#xa0;; sans elle, ils sont omis</translation>
     </message>
     <message id="MESS_OPT_HEIGHT_UNIT">
         <source>Unit of the numbers in the field of heights (default: levels or feet if its name says so, else metres). A unit in a text goes first.</source>
@@ -41,7 +41,7 @@
     </message>
     <message id="MESS_OPT_BASE">
         <source>Ground height of a building: mean (default), minimum or maximum of the terrain under its vertices, a field (--base-field), or zero.</source>
-        <translation>Altitude du pied d'un bâtiment&#xa0;: moyenne (mean, par défaut), minimum ou maximum du terrain sous ses sommets, champ (field, avec --base-field) ou zéro.</translation>
+        <translation>Altitude de la base d'un bâtiment&#xa0;: moyenne (mean, par défaut), minimum ou maximum du terrain sous ses sommets, champ (field, avec --base-field) ou zéro.</translation>
     </message>
     <message id="MESS_OPT_BASE_FIELD">
         <source>Field with the ground height in metres above sea level.</source>
@@ -61,11 +61,11 @@
     </message>
     <message id="MESS_CLI_TAKEN_AS_LEVELS">
         <source>The values of "%1" are taken as levels of %2 m; %3 states another unit.</source>
-        <translation>Les valeurs de «&#xa0;%1&#xa0;» sont comprises comme des niveaux de %2 m&#xa0;; %3 indique une autre unité.</translation>
+        <translation>Les valeurs de «&#xa0;%1&#xa0;» sont prises pour des niveaux de %2 m&#xa0;; %3 indique une autre unité.</translation>
     </message>
     <message id="MESS_CLI_TAKEN_AS_FEET">
         <source>The values of "%1" are taken as feet; %2 states another unit.</source>
-        <translation>Les valeurs de «&#xa0;%1&#xa0;» sont comprises comme des pieds&#xa0;; %2 indique une autre unité.</translation>
+        <translation>Les valeurs de «&#xa0;%1&#xa0;» sont prises pour des pieds&#xa0;; %2 indique une autre unité.</translation>
     </message>
     <message id="MESS_ERR_WHERE">
         <source>this condition cannot be used</source>
@@ -109,7 +109,7 @@
     </message>
     <message id="MESS_ELSE_FROM">
         <source>Else from</source>
-        <translation>Sinon de</translation>
+        <translation>À défaut</translation>
     </message>
     <message id="MESS_TIP_ELSE_FROM">
         <source>Field with the height of buildings that have none in the height field</source>
@@ -117,7 +117,7 @@
     </message>
     <message id="MESS_TIP_ELSE_UNIT">
         <source>Unit of the numbers in the second field</source>
-        <translation>Unité des nombres du deuxième champ</translation>
+        <translation>Unité des nombres du second champ</translation>
     </message>
     <message id="MESS_WITHOUT_HEIGHT">
         <source>Without height</source>
@@ -125,15 +125,15 @@
     </message>
     <message id="MESS_TIP_WITHOUT_HEIGHT">
         <source>Height of buildings that have none in a field; without it they are left out</source>
-        <translation>Hauteur des bâtiments dont aucun champ n'indique la hauteur&#xa0;; sans elle, ils sont écartés</translation>
+        <translation>Hauteur des bâtiments dont aucun champ n'indique la hauteur&#xa0;; sans elle, ils sont omis</translation>
     </message>
     <message id="MESS_LEAVE_OUT">
         <source>leave out</source>
-        <translation>écarter</translation>
+        <translation>omettre</translation>
     </message>
     <message id="MESS_VALUES_ABOVE">
         <source>Values above</source>
-        <translation>Valeurs depuis</translation>
+        <translation>Hauteurs depuis</translation>
     </message>
     <message id="MESS_TIP_VALUES_ABOVE">
         <source>Level from which the heights are measured</source>
@@ -149,11 +149,11 @@
     </message>
     <message id="MESS_BASE">
         <source>Base</source>
-        <translation>Pied</translation>
+        <translation>Base</translation>
     </message>
     <message id="MESS_TIP_BASE">
         <source>Ground height of a building: from the terrain under its vertices, from a field, or 0</source>
-        <translation>Altitude du pied d'un bâtiment&#xa0;: du terrain sous ses sommets, d'un champ, ou 0</translation>
+        <translation>Altitude de la base d'un bâtiment&#xa0;: du terrain sous ses sommets, d'un champ, ou 0</translation>
     </message>
     <message id="MESS_BASE_MEAN">
         <source>mean</source>
@@ -189,7 +189,7 @@
     </message>
     <message id="MESS_ONLY">
         <source>Only</source>
-        <translation>Seulement</translation>
+        <translation>Filtre</translation>
     </message>
     <message id="MESS_TIP_ONLY">
         <source>SQL condition for the features that are buildings; empty for all</source>
@@ -201,7 +201,7 @@
     </message>
     <message id="MESS_HEIGHT_LIKELY_ELSE">
         <source>The field "%1" probably has the heights: choose it at "%2".</source>
-        <translation>Le champ «&#xa0;%1&#xa0;» contient probablement les hauteurs&#xa0;: choisissez-le à «&#xa0;%2&#xa0;».</translation>
+        <translation>Le champ «&#xa0;%1&#xa0;» contient probablement les hauteurs&#xa0;: choisissez-le sous «&#xa0;%2&#xa0;».</translation>
     </message>
     <message id="MESS_BASE_FIELD_MISSING">
         <source>Choose the field with the ground height.</source>
@@ -261,15 +261,15 @@
     </message>
     <message id="MESS_ADVICE_SEA">
         <source>The values of "%1" are probably heights above sea level.</source>
-        <translation>Les valeurs de «&#xa0;%1&#xa0;» sont probablement des altitudes, mesurées à partir de la mer.</translation>
+        <translation>Les valeurs de «&#xa0;%1&#xa0;» sont probablement des altitudes, mesurées depuis la mer.</translation>
     </message>
     <message id="MESS_ALL_DRAWN">
-        <source>All %1 buildings can be drawn.</source>
-        <translation>Les %1 bâtiments peuvent tous être dessinés.</translation>
+        <source>Buildings: %1, none left out</source>
+        <translation>Bâtiments&#xa0;: %1, aucun omis</translation>
     </message>
     <message id="MESS_USE_SEA">
-        <source>Take them so</source>
-        <translation>Les prendre ainsi</translation>
+        <source>Values above sea</source>
+        <translation>Hauteurs depuis la mer</translation>
     </message>
     <message id="MESS_USE_FIELD">
         <source>Use "%1"</source>

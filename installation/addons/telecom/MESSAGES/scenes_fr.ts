@@ -213,7 +213,7 @@
     </message>
     <message id="MESS_SCENE_RAISED_BOTTOM">
         <source>%1 of %2 buildings start at the ground: their underside is not below their roof</source>
-        <translation>bâtiments partant du sol, leur dessous n'étant pas plus bas que leur toit&#xa0;: %1 sur %2</translation>
+        <translation>bâtiments partant du sol, leur sous-face n'étant pas plus basse que leur toit&#xa0;: %1 sur %2</translation>
     </message>
     <message id="MESS_SCENE_FAR_AWAY">
         <source>%1 of %2 buildings lie far from all others, up to %3 km away; the farthest is at %4</source>
