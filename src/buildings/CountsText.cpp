@@ -40,6 +40,15 @@ QString numberText(std::size_t count)
     return spoken.toString(static_cast<qulonglong>(count));
 }
 
+/// Reasons in one line.
+QString joined(const QStringList &reasons)
+{
+    QString line = reasons.value(0);
+    for (const QString &reason : reasons.mid(1))
+        line = dico_label("MESS_TWO_REASONS", "%1; %2").arg(line, reason);
+    return line;
+}
+
 } // namespace
 
 QString countsText(const CityCounts &counts)
@@ -74,8 +83,7 @@ QString countsLines(const CountedBuildings &counted)
     if (counted.notices.isEmpty() && counts.drawn == counts.features)
         return dico_label("MESS_ALL_DRAWN", "Buildings: %1, none left out")
             .arg(numberText(counts.drawn));
-    return countsText(counts) + QLatin1Char('\n') +
-           asSentence(counted.notices.join(QStringLiteral("; ")));
+    return countsText(counts) + QLatin1Char('\n') + asSentence(joined(counted.notices));
 }
 
 QString asSentence(const QString &text)
@@ -88,7 +96,7 @@ std::optional<QString> nothingDrawnText(const CountedBuildings &counted)
     if (counted.counts.drawn > 0)
         return std::nullopt;
     return dico_label("MESS_CLI_NO_BUILDING", "no building can be drawn: %1")
-        .arg(counted.notices.join(QStringLiteral("; ")));
+        .arg(joined(counted.notices));
 }
 
 } // namespace vlt::buildings

@@ -275,5 +275,9 @@
         <source>Use "%1"</source>
         <translation>Use "%1"</translation>
     </message>
+    <message id="MESS_TWO_REASONS">
+        <source>%1; %2</source>
+        <translation>%1; %2</translation>
+    </message>
 </context>
 </TS>

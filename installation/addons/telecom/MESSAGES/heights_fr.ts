@@ -275,5 +275,9 @@
         <source>Use "%1"</source>
         <translation>Utiliser «&#xa0;%1&#xa0;»</translation>
     </message>
+    <message id="MESS_TWO_REASONS">
+        <source>%1; %2</source>
+        <translation>%1&#xa0;; %2</translation>
+    </message>
 </context>
 </TS>
