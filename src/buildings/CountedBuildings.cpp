@@ -5,6 +5,21 @@
 
 namespace vlt::buildings {
 
+namespace {
+
+/// A text of colours with what determines the values; empty without a raster. Without the name of a
+/// map it would be no such text.
+std::string valuesText(const std::string &color)
+{
+    constexpr char AnyMap[] = "map";
+    const auto colors = contract::parseRasterColors(color);
+    return colors ? contract::imageColorText(
+                        {colors->raster, AnyMap, colors->reduction, false, false, colors->noData})
+                  : std::string();
+}
+
+} // namespace
+
 Result<CountedBuildings> countBuildings(const contract::BuildingDocument &document,
                                         const Progress &progress)
 {
@@ -25,9 +40,8 @@ contract::BuildingDocument countedParts(const contract::BuildingDocument &docume
     parts.footprints.heightField = footprints.heightField;
     parts.footprints.heights = footprints.heights;
     parts.footprints.where = footprints.where;
-    if (const auto colors = contract::parseRasterColors(footprints.wallColor))
-        parts.footprints.wallColor = contract::imageColorText(
-            {colors->raster, {}, colors->reduction, false, false, colors->noData});
+    parts.footprints.wallColor = valuesText(footprints.wallColor);
+    parts.footprints.roofColor = valuesText(footprints.roofColor);
     parts.terrain = document.terrain;
     parts.colors = document.colors;
     return parts;

@@ -16,7 +16,7 @@ namespace {
 
 using colormaps::Interpretation;
 
-constexpr std::size_t MaxLimits = 15;
+constexpr std::size_t MaxLimits = 11;
 constexpr std::size_t ClassesOfGradient = 8; ///< if only its ends have values
 constexpr qsizetype MaxLimitsInLine = 5;
 
@@ -132,6 +132,52 @@ QString shareText(const ValueSummary &summary, qsizetype index)
              valueText(summary, *summary.classes.at(index).from));
 }
 
+QString spreadText(const ValueSummary &summary)
+{
+    if (summary.buildings == 0)
+        return dico_label("MESS_VALUES_NONE", "no building has a value");
+    return dico_label("MESS_VALUES_SPREAD", "buildings with a value: %1, from %2 to %3, median %4")
+        .arg(QString::number(summary.buildings), plainText(summary, *summary.quantiles[0]),
+             valueText(summary, *summary.quantiles[6]), valueText(summary, *summary.quantiles[3]));
+}
+
+QString classShare(const ValueSummary &summary, const ValueClass &one)
+{
+    const auto all = static_cast<double>(std::max<std::size_t>(summary.buildings, 1));
+    return percent(static_cast<double>(one.buildings) / all);
+}
+
+/// The lines above those of the classes, as sentences.
+QStringList headLines(const ValueSummary &summary)
+{
+    QStringList lines;
+    for (const QString &line : {dividingText(summary), spreadText(summary)}) {
+        if (!line.isEmpty())
+            lines << line.left(1).toUpper() + line.mid(1);
+    }
+    return lines;
+}
+
+/// A row of a table: a class, its bar of coloured blanks, its share of the buildings.
+QString barRow(const ValueSummary &summary, qsizetype index, std::size_t most)
+{
+    constexpr double MaxBlanks = 22;
+    const ValueClass &one = summary.classes.at(index);
+    const double length =
+        MaxBlanks * static_cast<double>(one.buildings) / static_cast<double>(most);
+    const colormaps::Rgba &color = one.color;
+    const QString blank = QStringLiteral("&nbsp;");
+    const QString bar =
+        QStringLiteral("<span style=\"background-color:#%1\">%2</span>")
+            .arg(color.red << 16 | color.green << 8 | color.blue, 6, 16, QLatin1Char('0'))
+            .arg(blank.repeated(static_cast<int>(std::ceil(length))));
+    const QString row =
+        QStringLiteral("<tr><td align=\"right\">%1&nbsp;</td><td>%2&nbsp;%3</td></tr>");
+    return row.arg(classText(summary, index).toHtmlEscaped().replace(u' ', blank),
+                   one.buildings > 0 ? bar : QString(),
+                   classShare(summary, one).replace(u' ', blank));
+}
+
 } // namespace
 
 double ValueSummary::shareFrom(qsizetype index) const
@@ -214,19 +260,37 @@ QString dividingText(const ValueSummary &summary)
 
 QString summaryText(const ValueSummary &summary)
 {
-    if (summary.buildings == 0)
-        return dico_label("MESS_VALUES_NONE", "no building has a value");
-    QStringList parts{
-        dico_label("MESS_VALUES_SPREAD", "buildings with a value: %1, from %2 to %3, median %4")
-            .arg(QString::number(summary.buildings), plainText(summary, *summary.quantiles[0]),
-                 valueText(summary, *summary.quantiles[6]),
-                 valueText(summary, *summary.quantiles[3]))};
+    QStringList parts{spreadText(summary)};
     const QList<qsizetype> indexes = dividingClasses(summary);
     const qsizetype shown = std::min(indexes.size(), MaxLimitsInLine);
     for (qsizetype i = 0; i < shown; ++i)
         parts << shareText(summary,
                            indexes.at(shown > 1 ? i * (indexes.size() - 1) / (shown - 1) : 0));
     return parts.join(QStringLiteral(", "));
+}
+
+QStringList summaryLines(const ValueSummary &summary)
+{
+    QStringList lines = headLines(summary);
+    for (qsizetype i = summary.classes.size() - 1; i >= 0; --i)
+        lines << classText(summary, i) + QStringLiteral(": ") +
+                     QStringLiteral("%1 (%2)").arg(QString::number(summary.classes.at(i).buildings),
+                                                   classShare(summary, summary.classes.at(i)));
+    return lines;
+}
+
+QString summaryInfoText(const ValueSummary &summary)
+{
+    QString text = QStringLiteral("<p>");
+    for (const QString &line : headLines(summary))
+        text += line.toHtmlEscaped() + QStringLiteral("<br/>");
+    std::size_t most = 1;
+    for (const ValueClass &one : summary.classes)
+        most = std::max(most, one.buildings);
+    text += QStringLiteral("</p><table cellspacing=\"1\" cellpadding=\"0\">");
+    for (qsizetype i = summary.classes.size() - 1; i >= 0; --i)
+        text += barRow(summary, i, most);
+    return text + QStringLiteral("</table>");
 }
 
 } // namespace vlt::buildings

@@ -41,7 +41,7 @@ inline constexpr QuantileShare QuantileShares[7] = {{"minimum", 0},  {"p10", 0.1
                                                     {"maximum", 1}};
 
 /// Classes have the limits that the legend shows. A gradient without values between its ends is
-/// divided into eight classes, and classes of more than 16 are combined.
+/// divided into eight classes, and more than 12 classes are combined.
 ValueSummary summarize(std::vector<double> values, const LegendInput &legend, const QString &unit);
 
 /// The unit of the values: that of the raster's band, else one that the name of the raster ends in,
@@ -60,5 +60,11 @@ QString dividingText(const ValueSummary &summary);
 
 /// The summary in one line, with at most five limits.
 QString summaryText(const ValueSummary &summary);
+
+/// The summary in lines: the dividing limit, the range, then each class, the highest one first.
+QStringList summaryLines(const ValueSummary &summary);
+
+/// These lines as rich text, with a bar for each class.
+QString summaryInfoText(const ValueSummary &summary);
 
 } // namespace vlt::buildings

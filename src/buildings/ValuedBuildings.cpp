@@ -202,4 +202,20 @@ Stoppable<Done> ValuedBuildings::write(const ValuesTarget &target,
     return written ? file.value()->finish() : written;
 }
 
+Stoppable<Done> saveValues(const contract::BuildingDocument &document, const ValuesTarget &target,
+                           const std::optional<LegendInput> &legend, const Progress &progress)
+{
+    constexpr double ReadingShare = 0.7; // of the work
+    const Progress report = reporting(progress);
+    const Stoppable<ValuedBuildings> read =
+        ValuedBuildings::read(document, [&](double share) { return report(share * ReadingShare); });
+    if (!read)
+        return std::nullopt;
+    if (!*read)
+        return Result<Done>(read->error());
+    return read->value().write(target, legend, [&](double share) {
+        return report(ReadingShare + share * (1 - ReadingShare));
+    });
+}
+
 } // namespace vlt::buildings

@@ -47,4 +47,8 @@ private:
     std::shared_ptr<const city::CityValues> m_read;
 };
 
+/// Reads the buildings of a document and writes their values: ValuedBuildings::read() and write().
+Stoppable<Done> saveValues(const contract::BuildingDocument &document, const ValuesTarget &target,
+                           const std::optional<LegendInput> &legend, const Progress &progress);
+
 } // namespace vlt::buildings

@@ -205,6 +205,45 @@ private Q_SLOTS:
         }
     }
 
+    /// Two buildings on the pixel with 3, one elsewhere.
+    void summarizesAndSavesValues()
+    {
+        QByteArrayList all;
+        for (const char *ring :
+             {"[2,4],[6,4],[6,8],[2,4]", "[1,1],[2,1],[2,3],[1,1]", "[52,4],[56,4],[56,8],[52,4]"})
+            all << "{\"type\":\"Feature\",\"properties\":{\"height\":5},\"geometry\":{\"type\":"
+                   "\"Polygon\",\"coordinates\":[[" +
+                       QByteArray(ring) + "]]}}";
+        const QString town =
+            writeFile(path(u"layer.geojson"_s), "{\"type\":\"FeatureCollection\",\"name\":"
+                                                "\"layer\",\"features\":[" +
+                                                    all.join(',') + "]}");
+        remember(Group, values(u"Stretch=false ColorInterpMode=0 Image="_s + path(u"grid.asc"_s)));
+        ColoredPage page(m_installation, town);
+        QTRY_VERIFY_WITH_TIMEOUT(page.icon()->isEnabled(), PatienceMs);
+        QVERIFY2(page.layer().contains(u"without a value: 1<"_s), qPrintable(page.layer()));
+
+        QLabel *summary = page.child<QLabel>(u"m_pwLblSummary"_s);
+        QVERIFY(summary->isVisible());
+        QCOMPARE(summary->accessibleName(), u"Buildings with a value: 2, from 3 to 3, median 3\n"
+                                            "\u2265 10: 0 (0 %)\n< 10: 2 (100 %)"_s);
+
+        {
+            const FileDialogAnswer dialog(path(u"v.csv"_s));
+            page.press(u"m_pwPbSaveValues"_s);
+            QCOMPARE(dialog.filters, QStringList({u"GeoPackage (*.gpkg)"_s, u"CSV (*.csv)"_s}));
+        }
+        QCOMPARE(readFile(path(u"v.csv"_s)),
+                 QByteArray("fid,id,height_m,height_from,base_m,bottom_m,value,pixels,color,"
+                            "left_out\n0,,5,field,0,0,3,1,#ff0000,\n1,,5,field,0,0,3,1,#ff0000,\n"
+                            "2,,5,field,0,0,,0,,\n"));
+
+        AnsweredBoxes boxes;
+        const FileDialogAnswer dialog(path(u"gone/v.csv"_s));
+        page.press(u"m_pwPbSaveValues"_s);
+        QCOMPARE(boxes.seen.size(), 1);
+    }
+
     void refusesImages_data()
     {
         const Cases<QString, QString> row({"name", "text"});

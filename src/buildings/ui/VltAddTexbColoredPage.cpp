@@ -2,6 +2,14 @@
 
 #include "ui_AddTexbColoredPage.h"
 
+#include "buildings/ValuedBuildings.h"
+#include "geodata/ValuesFile.h"
+#include "platform/InputFiles.h"
+#include "wizard/base/BusyWait.h"
+#include "wizard/base/Messages.h"
+
+#include <QFileDialog>
+
 using namespace vlt;
 
 VltAddTexbColoredPage::VltAddTexbColoredPage(QWidget *wizard, SharedParameters &parameters,
@@ -19,6 +27,8 @@ VltAddTexbColoredPage::VltAddTexbColoredPage(QWidget *wizard, SharedParameters &
     m_ui->m_pwExtrusion->forgetDistance();
     addPanel(m_ui->m_pwColoring);
     addPanel(m_ui->m_pwExtrusion);
+    connect(m_ui->m_pwLegend, &VltLegendView::saveRequested, this,
+            &VltAddTexbColoredPage::saveValues);
     setForm(m_ui->m_pwGbPreview, m_ui->m_ptHbDrag, m_ui->m_pwLblDragText);
 }
 
@@ -64,12 +74,52 @@ Stoppable<buildings::BuildingLayerFiles> VltAddTexbColoredPage::writeFiles(const
         return std::nullopt;
     m_colorMapName = colors->legend.name;
     layer.legend = colors->legend;
-    if (!count(buildings::coloredDocument(layer, colors->coloring), layer))
+    m_valued = {buildings::coloredDocument(layer, colors->coloring), colors->coloring, layer};
+    if (!count(m_valued.document, layer))
         return std::nullopt;
+    m_valued.layer = layer;
     return buildings::writeColoredLayer(layerPath, layer, colors->coloring, access);
 }
 
 void VltAddTexbColoredPage::layerWritten(const buildings::BuildingLayerFiles &files)
 {
     m_ui->m_pwLegend->showLegend(m_colorMapName, files.legend);
+    const buildings::BuildingLayerInput &layer = m_valued.layer;
+    if (!files.legend.isEmpty() && layer.legend && layer.counted.counts.drawn > 0)
+        m_ui->m_pwLegend->showSummary(
+            buildings::summarize(layer.counted.values, *layer.legend,
+                                 buildings::unitOf(layer.counted.unit, m_valued.coloring)));
+}
+
+void VltAddTexbColoredPage::saveValues()
+{
+    if (isOutdated() && !makeLayer())
+        return;
+    const QFileInfo footprints(source().file);
+    const QString package = QStringLiteral("GeoPackage (*.gpkg)");
+    QString filter = package;
+    QString path = QFileDialog::getSaveFileName(
+        this, tr("Save values...", "MESS_SAVE_VALUES"),
+        footprints.absoluteDir().filePath(footprints.completeBaseName() +
+                                          QStringLiteral("_values.gpkg")),
+        package + QStringLiteral(";;CSV (*.csv)"), &filter);
+    if (path.isEmpty())
+        return;
+    if (!geodata::ValuesFile::isName(path))
+        path += filter == package ? QStringLiteral(".gpkg") : QStringLiteral(".csv");
+    if (platform::isOneOf(path, {source().file, source().terrainFile, m_valued.coloring.rasterFile,
+                                 m_valued.coloring.colorMap})) {
+        messages::critical(this, platform::outputIsInput(path));
+        return;
+    }
+    using Outcome = Stoppable<Done>;
+    const std::function<Outcome(const Progress &)> work =
+        [path, document = m_valued.document,
+         legend = m_valued.layer.legend](const Progress &progress) {
+            return buildings::saveValues(document, {path, {}}, legend, progress);
+        };
+    const auto outcome = wizard::waitForValue<Outcome>(
+        this, tr("Writing the values of the buildings...", "MESS_WRITING_VALUES"), work);
+    if (outcome && *outcome && !**outcome)
+        messages::critical(this, (*outcome)->error());
 }

@@ -33,6 +33,17 @@ private:
     writeFiles(const QString &layerPath, vlt::platform::Access access) override;
     void layerWritten(const vlt::buildings::BuildingLayerFiles &files) override;
 
+    void saveValues();
+
+    /// The last layer, for its values.
+    struct Valued
+    {
+        vlt::contract::BuildingDocument document;
+        vlt::buildings::RasterColoring coloring;
+        vlt::buildings::BuildingLayerInput layer;
+    };
+
     std::unique_ptr<Ui::AddTexbColoredPage> m_ui;
     QString m_colorMapName; ///< of the last layer
+    Valued m_valued;
 };

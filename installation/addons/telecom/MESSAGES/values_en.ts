@@ -35,5 +35,13 @@
         <source>buildings with a value: %1, from %2 to %3, median %4</source>
         <translation>buildings with a value: %1, from %2 to %3, median %4</translation>
     </message>
+    <message id="MESS_SAVE_VALUES">
+        <source>Save values...</source>
+        <translation>Save values...</translation>
+    </message>
+    <message id="MESS_TIP_SAVE_VALUES">
+        <source>Save a list of all buildings with the values under them, as a GeoPackage with the outlines or as a CSV file</source>
+        <translation>Save a list of all buildings with the values under them, as a GeoPackage with the outlines or as a CSV file</translation>
+    </message>
 </context>
 </TS>

@@ -35,5 +35,13 @@
         <source>buildings with a value: %1, from %2 to %3, median %4</source>
         <translation>bâtiments avec une valeur&#xa0;: %1, de %2 à %3, médiane %4</translation>
     </message>
+    <message id="MESS_SAVE_VALUES">
+        <source>Save values...</source>
+        <translation>Enregistrer les valeurs...</translation>
+    </message>
+    <message id="MESS_TIP_SAVE_VALUES">
+        <source>Save a list of all buildings with the values under them, as a GeoPackage with the outlines or as a CSV file</source>
+        <translation>Enregistrer la liste de tous les bâtiments avec les valeurs sous chacun, en GeoPackage avec les emprises ou en fichier CSV</translation>
+    </message>
 </context>
 </TS>
