@@ -310,12 +310,12 @@ private Q_SLOTS:
             made->GetRasterBand(2)->Fill(7);
         }
         ColoredPage page(m_installation);
-        QVERIFY(page.child<QWidget>(u"m_pwBandFrame"_s)->isHidden());
+        QVERIFY(page.child<QWidget>(u"m_pwCbBand"_s)->isHidden());
         QComboBox *bands = page.combo(u"m_pwCbBand"_s);
 
         dropFiles(&page, {path(u"bands.tif"_s)});
 
-        QVERIFY(!page.child<QWidget>(u"m_pwBandFrame"_s)->isHidden());
+        QVERIFY(!page.child<QWidget>(u"m_pwCbBand"_s)->isHidden());
         QCOMPARE(bands->itemText(1), u"2 (quality)"_s);
         QTRY_VERIFY_WITH_TIMEOUT(page.document().contains(u"bands.tif;"_s), PatienceMs);
         QVERIFY(!page.document().contains(u"<colors"_s));
@@ -325,7 +325,7 @@ private Q_SLOTS:
         QCOMPARE(ColoredPage(m_installation).combo(u"m_pwCbBand"_s)->currentIndex(), 1);
 
         dropFiles(&page, {path(u"other.asc"_s)});
-        QVERIFY(page.child<QWidget>(u"m_pwBandFrame"_s)->isHidden());
+        QVERIFY(page.child<QWidget>(u"m_pwCbBand"_s)->isHidden());
         QTRY_VERIFY_WITH_TIMEOUT(page.document().contains(u"other.asc;"_s), PatienceMs);
         QVERIFY(!page.document().contains(u"<colors"_s));
     }

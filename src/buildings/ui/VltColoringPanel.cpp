@@ -71,7 +71,7 @@ VltColoringPanel::VltColoringPanel(QWidget *parent)
     m_ui->setupUi(this);
     setFocusProxy(m_ui->m_pwLeImage);
     m_ui->m_pwSubdatasetsFrame->hide();
-    m_ui->m_pwBandFrame->hide();
+    showBands({});
     showStretch();
     m_ui->m_pwNoDataProgress->hide();
     m_ui->m_pwCbCmap->setIconSize(buildings::ColorMapSwatchSize);
@@ -348,7 +348,8 @@ void VltColoringPanel::showBands(const QStringList &bands)
     for (int i = 0; i < bands.size(); ++i)
         m_ui->m_pwCbBand->addItem(buildings::bandText(i + 1, bands));
     m_ui->m_pwLblBandHint->hide();
-    m_ui->m_pwBandFrame->setVisible(bands.size() > 1);
+    m_ui->m_pwLblBand->setVisible(bands.size() > 1);
+    m_ui->m_pwCbBand->setVisible(bands.size() > 1);
 }
 
 std::optional<VltColoringPanel::Summary> VltColoringPanel::readSummary(const QString &path,

@@ -36,28 +36,28 @@
         <translation>band 1 of the raster colors the buildings; --band chooses another one: %1</translation>
     </message>
     <message id="MESS_TIP_STRETCH_OVER">
-        <source>Values that the colors are stretched over</source>
-        <translation>Values that the colors are stretched over</translation>
+        <source>Values that the colors are stretched over: all of the image, two percentiles of them, those under the buildings, a range, or all of several images</source>
+        <translation>Values that the colors are stretched over: all of the image, two percentiles of them, those under the buildings, a range, or all of several images</translation>
     </message>
     <message id="MESS_STRETCH_RASTER">
-        <source>all values of the image</source>
-        <translation>all values of the image</translation>
+        <source>whole image</source>
+        <translation>whole image</translation>
     </message>
     <message id="MESS_STRETCH_PERCENTILE">
-        <source>percentiles of the image</source>
-        <translation>percentiles of the image</translation>
+        <source>percentiles</source>
+        <translation>percentiles</translation>
     </message>
     <message id="MESS_STRETCH_BUILDINGS">
-        <source>the values of the buildings</source>
-        <translation>the values of the buildings</translation>
+        <source>buildings</source>
+        <translation>buildings</translation>
     </message>
     <message id="MESS_STRETCH_RANGE">
-        <source>a range</source>
-        <translation>a range</translation>
+        <source>range</source>
+        <translation>range</translation>
     </message>
     <message id="MESS_STRETCH_SHARED">
-        <source>all values of several images</source>
-        <translation>all values of several images</translation>
+        <source>several images</source>
+        <translation>several images</translation>
     </message>
     <message id="MESS_TIP_STRETCH_LOW">
         <source>Percentile of the image's values with the first color</source>

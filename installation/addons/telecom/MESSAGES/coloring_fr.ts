@@ -36,28 +36,28 @@
         <translation>la bande 1 du raster colore les bâtiments&#xa0;; --band en choisit une autre&#xa0;: %1</translation>
     </message>
     <message id="MESS_TIP_STRETCH_OVER">
-        <source>Values that the colors are stretched over</source>
-        <translation>Valeurs sur lesquelles les couleurs sont étirées</translation>
+        <source>Values that the colors are stretched over: all of the image, two percentiles of them, those under the buildings, a range, or all of several images</source>
+        <translation>Valeurs sur lesquelles les couleurs sont étirées&#xa0;: toutes celles de l'image, deux centiles de celles-ci, celles des bâtiments, un intervalle, ou toutes celles de plusieurs images</translation>
     </message>
     <message id="MESS_STRETCH_RASTER">
-        <source>all values of the image</source>
-        <translation>toutes les valeurs de l'image</translation>
+        <source>whole image</source>
+        <translation>image entière</translation>
     </message>
     <message id="MESS_STRETCH_PERCENTILE">
-        <source>percentiles of the image</source>
-        <translation>des centiles de l'image</translation>
+        <source>percentiles</source>
+        <translation>centiles</translation>
     </message>
     <message id="MESS_STRETCH_BUILDINGS">
-        <source>the values of the buildings</source>
-        <translation>les valeurs des bâtiments</translation>
+        <source>buildings</source>
+        <translation>bâtiments</translation>
     </message>
     <message id="MESS_STRETCH_RANGE">
-        <source>a range</source>
-        <translation>un intervalle</translation>
+        <source>range</source>
+        <translation>intervalle</translation>
     </message>
     <message id="MESS_STRETCH_SHARED">
-        <source>all values of several images</source>
-        <translation>toutes les valeurs de plusieurs images</translation>
+        <source>several images</source>
+        <translation>plusieurs images</translation>
     </message>
     <message id="MESS_TIP_STRETCH_LOW">
         <source>Percentile of the image's values with the first color</source>
