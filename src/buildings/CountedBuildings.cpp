@@ -43,7 +43,7 @@ contract::BuildingDocument countedParts(const contract::BuildingDocument &docume
     parts.footprints.wallColor = valuesText(footprints.wallColor);
     parts.footprints.roofColor = valuesText(footprints.roofColor);
     parts.terrain = document.terrain;
-    parts.colors = document.colors;
+    parts.colors.band = document.colors.band;
     return parts;
 }
 

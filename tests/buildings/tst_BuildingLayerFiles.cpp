@@ -131,6 +131,22 @@ private Q_SLOTS:
         QVERIFY(!coloredDocument(m_input, coloring).colors.range);
     }
 
+    /// A count serves as long as only colours change.
+    void countsByTheRasterAlone()
+    {
+        RasterColoring other = Signal;
+        other.colorMap = u"/maps/one.txt"_s;
+        other.stretched = other.interpolated = true;
+        other.range = {0, 1, 2, 3};
+        const auto parts = countedParts(coloredDocument(m_input, Signal));
+        const auto read = vlt::contract::parseRasterColors(parts.footprints.wallColor);
+        QVERIFY(read && read->raster == "/d/dbm.tif" && read->noData == "-1");
+        QVERIFY(countedParts(coloredDocument(m_input, other)) == parts);
+        QVERIFY(countedParts(texturedDocument(m_input, storeys())) == parts); // on roofs
+        other.band = 2;
+        QVERIFY(!(countedParts(coloredDocument(m_input, other)) == parts));
+    }
+
     void writesTexturedBuildings()
     {
         const auto files =
