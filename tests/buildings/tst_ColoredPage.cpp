@@ -238,10 +238,16 @@ private Q_SLOTS:
                             "left_out\n0,,5,field,0,0,3,1,#ff0000,\n1,,5,field,0,0,3,1,#ff0000,\n"
                             "2,,5,field,0,0,,0,,\n"));
 
-        AnsweredBoxes boxes;
-        const FileDialogAnswer dialog(path(u"gone/v.csv"_s));
-        page.press(u"m_pwPbSaveValues"_s);
-        QCOMPARE(boxes.seen.size(), 1);
+        AnsweredBoxes boxes(QMessageBox::No);
+        writeFile(path(u"w.gpkg"_s), "old");
+        for (const QString &name : {u"w"_s, u"gone/v.csv"_s}) {
+            const FileDialogAnswer dialog(path(name));
+            page.press(u"m_pwPbSaveValues"_s);
+        }
+        QCOMPARE(boxes.seen.size(), 2);
+        QCOMPARE(boxes.seen.constFirst().text,
+                 path(u"w.gpkg"_s) + u" already exists. Replace it?"_s);
+        QCOMPARE(readFile(path(u"w.gpkg"_s)), QByteArray("old"));
     }
 
     void refusesImages_data()

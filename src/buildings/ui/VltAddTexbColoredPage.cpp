@@ -105,8 +105,14 @@ void VltAddTexbColoredPage::saveValues()
         package + QStringLiteral(";;CSV (*.csv)"), &filter);
     if (path.isEmpty())
         return;
-    if (!geodata::ValuesFile::isName(path))
+    if (!geodata::ValuesFile::isName(path)) {
         path += filter == package ? QStringLiteral(".gpkg") : QStringLiteral(".csv");
+        // The dialog asks about the name without the suffix.
+        if (QFileInfo::exists(path) &&
+            !messages::confirmed(
+                this, tr("%1 already exists. Replace it?", "MESS_QUEST_REPLACE").arg(path)))
+            return;
+    }
     if (platform::isOneOf(path, {source().file, source().terrainFile, m_valued.coloring.rasterFile,
                                  m_valued.coloring.colorMap})) {
         messages::critical(this, platform::outputIsInput(path));

@@ -43,5 +43,9 @@
         <source>Save a list of all buildings with the values under them, as a GeoPackage with the outlines or as a CSV file</source>
         <translation>Save a list of all buildings with the values under them, as a GeoPackage with the outlines or as a CSV file</translation>
     </message>
+    <message id="MESS_QUEST_REPLACE">
+        <source>%1 already exists. Replace it?</source>
+        <translation>%1 already exists. Replace it?</translation>
+    </message>
 </context>
 </TS>

@@ -43,5 +43,9 @@
         <source>Save a list of all buildings with the values under them, as a GeoPackage with the outlines or as a CSV file</source>
         <translation>Enregistrer la liste de tous les bâtiments avec les valeurs sous chacun, en GeoPackage avec les emprises ou en fichier CSV</translation>
     </message>
+    <message id="MESS_QUEST_REPLACE">
+        <source>%1 already exists. Replace it?</source>
+        <translation>%1 existe déjà. Le remplacer&#xa0;?</translation>
+    </message>
 </context>
 </TS>
