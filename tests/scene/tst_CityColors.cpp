@@ -188,6 +188,57 @@ private Q_SLOTS:
         }
     }
 
+    void colorsByAField_data()
+    {
+        using enum vlt::contract::FieldColoring;
+        const Cases<QByteArray, int, QString, QString> row(
+            {"field", "coloring", "colors", "notice"});
+        row("mixed", "n", int(Interpolation), "320000 640000 010203",
+            "1 of 3 buildings have no value");
+        row("ranges", "N", int(ColorRange), "000000 640000 010203",
+            "1 of 3 buildings have no value");
+        row("numbers in texts", "t", int(Interpolation), "320000 010203 010203",
+            "2 of 3 buildings have no value in the field \"t\"");
+        row("distinct: b once, a twice, none", "use", int(Distinct), "e68a00 1f6fb5 c8c8c8",
+            "1 of 3 buildings");
+        row("no such field", "width", int(Distinct), "c8c8c8 c8c8c8 c8c8c8", "width");
+    }
+
+    void colorsByAField()
+    {
+        QFETCH(QByteArray, field);
+        QFETCH(int, coloring);
+        QFETCH(QString, colors);
+        QFETCH(QString, notice);
+        QByteArray features;
+        const auto add = [&features](const QByteArray &properties) {
+            features += (features.isEmpty() ? "" : ",") +
+                        QByteArray(R"({"type":"Feature","properties":{)") + properties +
+                        R"(},"geometry":null})";
+        };
+        add(R"("n":25,"t":"2,5e1","use":"b")");
+        add(R"("n":50,"t":"fifty","use":"a")");
+        add(R"("n":null,"t":null,"use":" ")");
+        add(R"("n":1,"t":"a","use":"a")");
+        write("fields.geojson", R"({"type":"FeatureCollection","features":[)" + features + "]}");
+        vlt::contract::BuildingDocument document;
+        document.footprints.file = "fields.geojson";
+        document.colors.field = field.toStdString();
+        document.colors.map = "map.txt";
+        document.colors.coloring = static_cast<vlt::contract::FieldColoring>(coloring);
+        CityModel city = townOf(3);
+        for (std::uint32_t i = 0; i < 3; ++i)
+            city.footprints.features[i].row = i;
+        city.counts.drawn = 3;
+        Notices notices;
+
+        QCOMPARE(hex(fieldColors(city, document, {m_dir.path().toStdString()}, notices,
+                                 [](double) { return true; })),
+                 colors);
+        QCOMPARE(notices.size(), 1U);
+        QVERIFY2(QString::fromStdString(notices.front()).contains(notice), notices.front().c_str());
+    }
+
     void transformsPlaces()
     {
         // 221505, 221515 and 221525 by 6758005, transformed with gdaltransform.

@@ -49,11 +49,17 @@ void colour(CityModel &city, const BuildingDocument &document, const Directories
 {
     const BuildingFootprints &footprints = document.footprints;
     const bool isOne = footprints.roofColor.empty() || footprints.roofColor == footprints.wallColor;
-    city.wallColors = townColors(city, footprints.wallColor, document.colors, directories, notices,
-                                 part(progress, 0.6, isOne ? 0.8 : 0.7));
-    city.roofColors = isOne ? city.wallColors
-                            : townColors(city, footprints.roofColor, document.colors, directories,
-                                         notices, part(progress, 0.7, 0.8));
+    if (!document.colors.field.empty()) { // the other colors are for readers that do not know this
+        city.wallColors =
+            fieldColors(city, document, directories, notices, part(progress, 0.6, 0.8));
+        city.roofColors = city.wallColors;
+    } else {
+        city.wallColors = townColors(city, footprints.wallColor, document.colors, directories,
+                                     notices, part(progress, 0.6, isOne ? 0.8 : 0.7));
+        city.roofColors = isOne ? city.wallColors
+                                : townColors(city, footprints.roofColor, document.colors,
+                                             directories, notices, part(progress, 0.7, 0.8));
+    }
     std::size_t &invisible = city.counts.substitutes.transparent;
     for (const std::size_t i : city::firstBuildings(city.footprints))
         invisible += city.wallColors[i].alpha == 0 && city.roofColors[i].alpha == 0 ? 1 : 0;

@@ -1,9 +1,13 @@
 #include "plugins/scene/buildings/CityColors.h"
 
 #include "city/BuildingValues.h"
+#include "city/CityInputs.h"
+#include "city/FieldValues.h"
+#include "colormaps/DistinctColors.h"
 #include "contract/RasterColors.h"
 #include "coverage/CoverageRaster.h"
 #include "coverage/RasterStamp.h"
+#include "localfiles/LocalFormats.h"
 #include "plugins/scene/buildings/ColorText.h"
 #include "plugins/scene/reading/BadLayer.h"
 #include "plugins/scene/reading/Stopped.h"
@@ -13,6 +17,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace vlt::scene {
 
@@ -40,30 +45,35 @@ coverage::ValueRange rangeOf(CoverageRaster &raster, const RasterColors &colors,
     return *range;
 }
 
-ColorMap loadMap(const RasterColors &colors, const std::vector<std::string> &directories,
-                 CoverageRaster &raster, const Progress &progress)
+/// Loads a colour map, stretched over a range if one is given.
+ColorMap loadMap(const std::string &name, const std::vector<std::string> &directories,
+                 const std::optional<coverage::ValueRange> &range)
 {
-    std::string path = locateFile(colors.map, directories);
+    std::string path = locateFile(name, directories);
     if (path.empty()) // a layer's own map was copied together with its document
-        path = locateFile(colors.map.substr(colors.map.rfind('/') + 1), directories);
+        path = locateFile(name.substr(name.rfind('/') + 1), directories);
     if (path.empty())
-        throw BadLayer("MESS_SCENE_NO_MAP", {colors.map});
+        throw BadLayer("MESS_SCENE_NO_MAP", {name});
     const CPLErrorHandlerPusher quiet(CPLQuietErrorHandler);
     CPLErrorReset();
     ColorMap map;
-    bool isLoaded = false;
-    if (colors.isStretched) {
-        const coverage::ValueRange range = rangeOf(raster, colors, progress);
-        isLoaded = map.load(path, range.minimum, range.maximum);
-    } else
-        isLoaded = map.load(path);
-    if (!isLoaded) {
+    if (!map.load(path, range ? range->minimum : ColorMap::Unset,
+                  range ? range->maximum : ColorMap::Unset)) {
         const std::string why = CPLGetLastErrorMsg();
-        throw BadLayer(
-            "MESS_SCENE_BAD_MAP",
-            {colors.map, why.empty() ? contract::formatted("MESS_SCENE_NOT_A_MAP") : why});
+        throw BadLayer("MESS_SCENE_BAD_MAP",
+                       {name, why.empty() ? contract::formatted("MESS_SCENE_NOT_A_MAP") : why});
     }
     return map;
+}
+
+/// Gives a feature's colour to all of its buildings.
+void give(std::vector<Rgba> &colors, const Footprints &footprints, std::size_t first,
+          const Rgba &color)
+{
+    const std::uint32_t feature = footprints.buildings[first].feature;
+    for (std::size_t i = first; i < colors.size() && footprints.buildings[i].feature == feature;
+         ++i)
+        colors[i] = color;
 }
 
 std::vector<Rgba> rasterColors(CityModel &city, const RasterColors &colors,
@@ -73,7 +83,9 @@ std::vector<Rgba> rasterColors(CityModel &city, const RasterColors &colors,
     const std::unique_ptr<CoverageRaster> raster = city::openRaster(colors, directories);
     const city::PositionTransform transform(city.srs, raster->srs());
     city::checkTransform(transform, colors);
-    const ColorMap map = loadMap(colors, directories, *raster, progress);
+    const ColorMap map = loadMap(
+        colors.map, directories,
+        colors.isStretched ? std::optional(rangeOf(*raster, colors, progress)) : std::nullopt);
 
     const auto interpretation = colors.isInterpolated ? colormaps::Interpretation::Interpolation
                                                       : colormaps::Interpretation::ColorRanges;
@@ -92,10 +104,7 @@ std::vector<Rgba> rasterColors(CityModel &city, const RasterColors &colors,
         const double value = values.under(first).value_or(std::nan(""));
         without += std::isnan(value) ? 1 : 0;
         const Rgba color = colorOf(map, value, interpretation).value_or(WithoutValue);
-        const std::uint32_t feature = footprints.buildings[first].feature;
-        for (std::size_t i = first; i < found.size() && footprints.buildings[i].feature == feature;
-             ++i)
-            found[i] = color;
+        give(found, footprints, first, color);
     }
     std::size_t &counted = city.counts.substitutes.noValue;
     counted = std::max(counted, without);
@@ -104,7 +113,74 @@ std::vector<Rgba> rasterColors(CityModel &city, const RasterColors &colors,
     return found;
 }
 
+/// The colours of rows of the source.
+class RowColors
+{
+public:
+    RowColors(const contract::BuildingDocument &document,
+              const std::vector<std::string> &directories, const Progress &progress)
+        : m_coloring(document.colors.coloring)
+    {
+        const bool isDistinct = m_coloring == contract::FieldColoring::Distinct;
+        if (!isDistinct)
+            m_map = loadMap(document.colors.map, directories, {});
+        m_values = city::readFieldValues(
+            localfiles::locateDataset(document.footprints.file, directories), document.footprints,
+            document.colors.field, isDistinct ? city::FieldKind::Texts : city::FieldKind::Numbers,
+            progress);
+    }
+
+    /// The colour of a row and whether it has a value.
+    std::pair<Rgba, bool> at(std::size_t row) const
+    {
+        if (m_coloring == contract::FieldColoring::Distinct) {
+            const std::uint32_t text =
+                row < m_values.texts.size() ? m_values.texts[row] : city::FieldValues::NoText;
+            return text == city::FieldValues::NoText
+                       ? std::pair(WithoutValue, false)
+                       : std::pair(colormaps::distinctColor(text), true);
+        }
+        const double number = row < m_values.numbers.size() ? m_values.numbers[row] : std::nan("");
+        const auto interpretation = m_coloring == contract::FieldColoring::Interpolation
+                                        ? colormaps::Interpretation::Interpolation
+                                        : colormaps::Interpretation::ColorRanges;
+        return {colorOf(m_map, number, interpretation).value_or(WithoutValue), !std::isnan(number)};
+    }
+
+private:
+    contract::FieldColoring m_coloring;
+    ColorMap m_map;
+    city::FieldValues m_values;
+};
+
 } // namespace
+
+std::vector<Rgba> fieldColors(CityModel &city, const contract::BuildingDocument &document,
+                              const std::vector<std::string> &directories, Notices &notices,
+                              const Progress &progress)
+{
+    const Footprints &footprints = city.footprints;
+    std::vector<Rgba> found(footprints.buildings.size(), WithoutValue);
+    std::size_t &without = city.counts.substitutes.noValue;
+    try {
+        const RowColors colors(document, directories, progress);
+        for (const std::size_t first : city::firstBuildings(footprints)) {
+            const auto [color, hasValue] =
+                colors.at(footprints.features[footprints.buildings[first].feature].row);
+            give(found, footprints, first, color);
+            without += hasValue ? 0 : 1;
+        }
+        if (without > 0)
+            notices.push_back(
+                contract::formatted("MESS_SCENE_NO_FIELD_VALUE",
+                                    {std::to_string(without), std::to_string(city.counts.drawn),
+                                     document.colors.field}));
+    } catch (const BadLayer &fault) {
+        notices.push_back(fault.what());
+        without = city.counts.drawn;
+    }
+    return found;
+}
 
 std::vector<Rgba> townColors(CityModel &city, const std::string &colorText,
                              const contract::BuildingColors &others,

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "contract/BuildingColors.h"
+#include "contract/BuildingDocument.h"
 #include "plugins/scene/buildings/CityModel.h"
 
 #include <string>
@@ -24,5 +24,16 @@ std::vector<colormaps::Rgba> townColors(CityModel &city, const std::string &colo
                                         const contract::BuildingColors &others,
                                         const std::vector<std::string> &directories,
                                         Notices &notices, const Progress &progress);
+
+/// The colours of buildings by the field that the document names: of its numbers through the colour
+/// map, or one for each of the most frequent texts and grey for the others.
+///
+/// Buildings without a value are treated as above.
+///
+/// @throws Stopped  `progress` stopped the function
+std::vector<colormaps::Rgba> fieldColors(CityModel &city,
+                                         const contract::BuildingDocument &document,
+                                         const std::vector<std::string> &directories,
+                                         Notices &notices, const Progress &progress);
 
 } // namespace vlt::scene

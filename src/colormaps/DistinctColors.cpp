@@ -1,0 +1,27 @@
+#include "colormaps/DistinctColors.h"
+
+#include <array>
+
+namespace vlt::colormaps {
+
+Rgba distinctColor(std::size_t rank)
+{
+    constexpr Rgba Others{0x9a, 0x9a, 0x9a};
+    constexpr std::array<Rgba, DistinctColorCount> Colors = {{
+        {0x1f, 0x6f, 0xb5}, // blue
+        {0xe6, 0x8a, 0x00}, // orange
+        {0x2e, 0x9e, 0x4f}, // green
+        {0xc9, 0x3c, 0x3c}, // red
+        {0x7d, 0x5a, 0xb5}, // violet
+        {0xf2, 0xc8, 0x4b}, // yellow
+        {0x17, 0xa8, 0xb0}, // teal
+        {0xe0, 0x7f, 0xb8}, // pink
+        {0x8a, 0x5a, 0x36}, // brown
+        {0x9d, 0xbf, 0x2a}, // lime
+        {0x2b, 0x3a, 0x7a}, // navy
+        {0x8f, 0xd3, 0xb4}, // mint
+    }};
+    return rank < Colors.size() ? Colors[rank] : Others;
+}
+
+} // namespace vlt::colormaps
