@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <limits>
 #include <utility>
 
 namespace vlt::linkpath {
@@ -138,10 +139,68 @@ std::optional<double> TerrainRaster::pixelM(int column, int row)
     const auto at = static_cast<std::size_t>(row % BlockSide) * BlockSide +
                     static_cast<std::size_t>(column % BlockSide);
     const double value = found->second.values[at];
-    const double aboveSeaM = value * m_scale + m_offset;
-    if (!(std::abs(aboveSeaM) <= MaxFromSeaLevelM) || value == m_noData || value == m_alsoNoData)
+    if (!isHeight(value))
         return std::nullopt;
-    return aboveSeaM;
+    return value * m_scale + m_offset;
+}
+
+bool TerrainRaster::isHeight(double stored) const
+{
+    return std::abs(stored * m_scale + m_offset) <= MaxFromSeaLevelM && stored != m_noData &&
+           stored != m_alsoNoData;
+}
+
+TerrainExcerpt TerrainRaster::excerpt(double west, double south, double east, double north,
+                                      double pixelSize)
+{
+    double left = HUGE_VAL;
+    double top = HUGE_VAL;
+    double right = -HUGE_VAL;
+    double bottom = -HUGE_VAL;
+    for (const auto &[x, y] : {std::pair(west, south), std::pair(west, north),
+                               std::pair(east, south), std::pair(east, north)}) {
+        const double column = m_toPixel[0] + m_toPixel[1] * x + m_toPixel[2] * y;
+        const double row = m_toPixel[3] + m_toPixel[4] * x + m_toPixel[5] * y;
+        left = std::min(left, std::floor(column) - 1);
+        right = std::max(right, std::ceil(column) + 1);
+        top = std::min(top, std::floor(row) - 1);
+        bottom = std::max(bottom, std::ceil(row) + 1);
+    }
+    left = std::max(left, 0.0);
+    top = std::max(top, 0.0);
+    right = std::min<double>(right, m_band->GetXSize());
+    bottom = std::min<double>(bottom, m_band->GetYSize());
+    if (!(right > left && bottom > top))
+        return {};
+    const double step = std::hypot(m_toPixel[1], m_toPixel[4]) * pixelSize; // in pixels of the file
+    const auto number = [step](double pixels) {
+        return static_cast<int>(
+            std::clamp(std::ceil(pixels / std::max(step, 1.0)), 1.0, double(MaxExcerptPixels)));
+    };
+    const int columns = number(right - left);
+    const int rows = number(bottom - top);
+    std::vector<float> heights(static_cast<std::size_t>(columns) * static_cast<std::size_t>(rows));
+    GDALRasterIOExtraArg how;
+    INIT_RASTERIO_EXTRA_ARG(how);
+    // an average would mix heights with a value that the file does not declare as no data
+    how.eResampleAlg = m_alsoNoData ? GRIORA_NearestNeighbour : GRIORA_Average;
+    const CPLErrorHandlerPusher quiet(CPLQuietErrorHandler);
+    const localfiles::NoNetwork offline;
+    if (m_band->RasterIO(GF_Read, static_cast<int>(left), static_cast<int>(top),
+                         static_cast<int>(right - left), static_cast<int>(bottom - top),
+                         heights.data(), columns, rows, GDT_Float32, 0, 0, &how) != CE_None)
+        return {};
+    m_band->FlushCache(false); // a large terrain would fill the library's cache
+    for (float &height : heights)
+        height = isHeight(asStored(height)) ? static_cast<float>(height * m_scale + m_offset)
+                                            : std::numeric_limits<float>::quiet_NaN();
+    const double across = columns / (right - left);
+    const double down = rows / (bottom - top);
+    return {{(m_toPixel[0] - left) * across, m_toPixel[1] * across, m_toPixel[2] * across,
+             (m_toPixel[3] - top) * down, m_toPixel[4] * down, m_toPixel[5] * down},
+            columns,
+            rows,
+            std::move(heights)};
 }
 
 std::optional<TerrainRaster::Pixel> TerrainRaster::pixelAt(double x, double y) const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "contract/Opened.h"
+#include "linkpath/TerrainExcerpt.h"
 
 #include <gdal_priv.h>
 #include <ogr_spatialref.h>
@@ -36,6 +37,15 @@ public:
     /// longitude may be larger or smaller by 360 degrees.
     std::optional<double> heightM(double x, double y);
 
+    /// The heights within a rectangle of the raster's system, averaged if pixels are much smaller
+    /// than `pixelSize`. Overviews of the file are used. Empty outside the raster.
+    ///
+    /// @param pixelSize  wanted size of the excerpt's pixels, in the raster's system; they are
+    ///                   larger if there would be more than MaxExcerptPixels in a row or column
+    TerrainExcerpt excerpt(double west, double south, double east, double north, double pixelSize);
+
+    static constexpr int MaxExcerptPixels = 2048;
+
     /// The raster's system, with x (east, longitude) before y.
     const OGRSpatialReference &srs() const { return m_srs; }
     /// Approximate length of the shorter side of a pixel in metres.
@@ -59,6 +69,7 @@ private:
     const char *prepare(const TerrainHints &hints); ///< the reason of a refusal, else null
     double asStored(double value) const;            ///< rounded to the band's data type
     std::optional<double> pixelM(int column, int row);
+    bool isHeight(double stored) const;
     std::optional<Pixel> pixelAt(double x, double y) const; ///< nothing outside the raster
 
     GDALDatasetUniquePtr m_dataset;

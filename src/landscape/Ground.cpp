@@ -1,0 +1,78 @@
+#include "landscape/Ground.h"
+
+#include "landscape/Relief.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace vlt::landscape {
+
+namespace {
+
+constexpr int Ratio = MeshCells / HoleCells; ///< width of a level / that of the one before
+
+bool isKnown(const Lattice &lattice)
+{
+    return std::any_of(lattice.heightM.begin(), lattice.heightM.end(),
+                       [](float height) { return !std::isnan(height); });
+}
+
+/// Puts the edge of a level on the cells of the next one.
+void joinEdges(Lattice &inner, Lattice &outer)
+{
+    constexpr int first = (MeshCells - HoleCells) / 2; // of the free place in the outer level
+    const auto join = [&](int along, bool isColumn, int edge) {
+        const auto innerAt = [&](int i) {
+            return isColumn ? inner.index(edge, i) : inner.index(i, edge);
+        };
+        const int outerEdge = first + edge / Ratio;
+        const auto outerAt = [&](int i) {
+            return isColumn ? outer.index(outerEdge, first + i) : outer.index(first + i, outerEdge);
+        };
+        const int before = std::min(along / Ratio, HoleCells - 1);
+        const float share = static_cast<float>(along - before * Ratio) / Ratio;
+        inner.heightM[innerAt(along)] = outer.heightM[outerAt(before)] * (1 - share) +
+                                        outer.heightM[outerAt(before + 1)] * share;
+    };
+    for (int along = 0; along <= MeshCells; ++along) {
+        for (const int edge : {0, MeshCells}) {
+            join(along, true, edge);
+            join(along, false, edge);
+        }
+    }
+}
+
+} // namespace
+
+double outerHalfM(const Square &finest)
+{
+    return finest.halfM * std::pow(Ratio, Levels - 1);
+}
+
+std::vector<GroundLevel> makeGround(Terrain &terrain, const Square &finest)
+{
+    std::vector<Lattice> meshes;
+    for (int level = 0; level < Levels; ++level)
+        meshes.push_back(
+            terrain.heights({finest.centre, finest.halfM * std::pow(Ratio, level)}, MeshCells));
+    if (!isKnown(meshes.back()))
+        return {};
+    const HeightRange range = rangeOf(meshes);
+    const double fogM = outerHalfM(finest);
+    std::vector<GroundLevel> levels;
+    for (const Lattice &mesh : meshes) {
+        const Lattice fine = terrain.heights(mesh.square, PicturePx);
+        levels.push_back({mesh, PicturePx, reliefPicture(fine, mesh, range, fogM)});
+    }
+    for (std::size_t level = levels.size(); level-- > 0;) {
+        Lattice &mesh = levels[level].mesh;
+        if (!isKnown(mesh)) // the level around it has heights
+            std::fill(mesh.heightM.begin(), mesh.heightM.end(), static_cast<float>(range.least));
+        fillUnknown(mesh);
+        if (level + 1 < levels.size())
+            joinEdges(mesh, levels[level + 1].mesh);
+    }
+    return levels;
+}
+
+} // namespace vlt::landscape

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "landscape/Lattice.h"
+#include "landscape/Terrain.h"
+
+#include <vector>
+
+namespace vlt::landscape {
+
+/// A level of the ground around a point: the first one is the finest, each of the others is three
+/// times as wide as the one before and leaves its place free.
+struct GroundLevel
+{
+    Lattice mesh; ///< all heights are known
+    int picturePx = 0;
+    std::vector<unsigned char> picture; ///< [picturePx][picturePx][3], rows from the south
+};
+
+inline constexpr int MeshCells = 120;  ///< in a row of a level
+inline constexpr int HoleCells = 40;   ///< in a row of the place of the level before
+inline constexpr int Levels = 3;       ///< 120^2 + 2 (120^2 - 40^2) cells: 80,000 triangles
+inline constexpr int PicturePx = 1024; ///< 3 MB a level
+
+/// Half the width of the whole ground.
+double outerHalfM(const Square &finest);
+
+/// The ground around a square. Neighbouring levels meet without gaps. Empty if no height is known.
+std::vector<GroundLevel> makeGround(Terrain &terrain, const Square &finest);
+
+} // namespace vlt::landscape
