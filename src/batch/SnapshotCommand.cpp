@@ -8,6 +8,7 @@
 #include "language/ReaderText.h"
 #include "language/VltLanguageManager.h"
 #include "platform/AtomicFile.h"
+#include "snapshot/SceneGround.h"
 #include "snapshot/SceneNotices.h"
 #include "snapshot/SceneSource.h"
 #include "snapshot/Snapshot.h"
@@ -34,7 +35,8 @@ struct Request
     QString viewName;
     SceneView view = SceneView::All;
     QSize size;
-    snapshot::TerrainSurface terrain = snapshot::TerrainSurface::Hidden;
+    std::optional<QString> terrain; ///< empty: none; nothing: that of the layer or the project
+    bool withGround = true;
 };
 
 CommandSyntax syntax()
@@ -69,13 +71,18 @@ CommandSyntax syntax()
          QStringLiteral("all|symbolic|precise"), QStringLiteral("all")},
         {QStringLiteral("terrain"),
          dico_label("MESS_OPT_SHOW_TERRAIN",
-                    "For links: show the surface of the project's terrain too.")},
+                    "Terrain for the ground (default: that of the layer, else of the project). "
+                    "Without any, the ground is level and has a metric grid."),
+         QStringLiteral("FILE")},
+        {QStringLiteral("no-ground"),
+         dico_label("MESS_OPT_NO_GROUND", "Show no ground below the layer.")},
     };
     syntax.examples =
         QStringLiteral("  vltlayers snapshot sites.lay -o sites.png\n"
+                       "  vltlayers snapshot sites.lay --terrain dem.tif -o sites.png\n"
                        "  vltlayers snapshot sites.lay --project city.gvw --view symbolic \\\n"
                        "      --size 1920x1080 -o sectors.png\n"
-                       "  vltlayers snapshot links.lay --project city.gvw --terrain -o links.png\n"
+                       "  vltlayers snapshot links.lay --project city.gvw -o links.png\n"
                        "  xvfb-run -a vltlayers snapshot sites.lay --view precise -o mast.png\n");
     return syntax;
 }
@@ -133,7 +140,8 @@ Result<Request> readRequest(const QCommandLineParser &parser)
                           request.viewName);
     request.view = *view;
     if (parser.isSet(QStringLiteral("terrain")))
-        request.terrain = snapshot::TerrainSurface::Shown;
+        request.terrain = parser.value(QStringLiteral("terrain"));
+    request.withGround = !parser.isSet(QStringLiteral("no-ground"));
     return request;
 }
 
@@ -179,12 +187,12 @@ ExitStatus refuseLayer(Error error, const Request &request)
     return refuse(error);
 }
 
-Result<snapshot::Scene> readScene(const Request &request, const GlobalOptions &options)
+Result<snapshot::Scene> readScene(const Request &request, const GlobalOptions &options,
+                                  const QString &terrain)
 {
     ProgressLine line(dico_label("MESS_CLI_READING_SCENE", "Reading the scene"), !options.quiet);
     // The progress line never stops the work, so there is a value.
-    return *snapshot::readScene(request.layer, options.projectPath, request.terrain,
-                                line.progress());
+    return *snapshot::readScene(request.layer, options.projectPath, terrain, line.progress());
 }
 
 /// Writes the picture; returns an exit status only after a failure.
@@ -212,19 +220,26 @@ bool isTable(const QString &layer)
     return file.isFile() && suffixes.contains(file.suffix(), Qt::CaseInsensitive);
 }
 
-ExitStatus makePicture(const Request &request, const GlobalOptions &options)
+ExitStatus makePicture(const Request &request, const GlobalOptions &options,
+                       const QString &projectTerrain)
 {
     snapshot::SceneNotices notices;
-    const Result<snapshot::Scene> scene = readScene(request, options);
+    const QString terrain = request.terrain.value_or(projectTerrain);
+    const Result<snapshot::Scene> scene = readScene(request, options, terrain);
     if (!scene) {
         notices.take(); // they repeat the error's reason
         return refuseLayer(scene.error(), request);
     }
     printNotices(notices.take(), options);
-    const Result<QImage> picture =
-        snapshot::renderSnapshot(*scene.value(), request.size, request.view);
+    std::optional<snapshot::SceneGround> ground;
+    if (request.withGround)
+        ground.emplace(*scene.value(), terrain, request.terrain.has_value());
+    const Result<QImage> picture = snapshot::renderSnapshot(
+        *scene.value(), request.size, request.view, ground ? &*ground : nullptr);
     if (!picture)
         return refuseLayer(picture.error(), request);
+    if (ground && !ground->problem().isEmpty())
+        printNotices({ground->problem()}, options);
 
     QByteArray bytes;
     QBuffer buffer(&bytes);
@@ -258,7 +273,7 @@ ExitStatus run(const QCommandLineParser &parser, const GlobalOptions &options)
                                       "or \"vltlayers link\" first"),
                        request.value().layer});
     snapshot::addInstalledReaders(surroundings.value().installDir);
-    return makePicture(request.value(), options);
+    return makePicture(request.value(), options, surroundings.value().project.terrainFile);
 }
 
 } // namespace

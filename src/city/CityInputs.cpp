@@ -4,7 +4,6 @@
 #include "contract/BadLayer.h"
 #include "localfiles/LocalFormats.h"
 
-#include <cpl_conv.h>
 #include <cpl_error.h>
 
 #include <algorithm>
@@ -199,14 +198,7 @@ void report(const CityCounts &counts, const BuildingFootprints &source, Notices 
 
 std::string wktOf(const std::optional<OGRSpatialReference> &srs)
 {
-    const CPLErrorHandlerPusher quiet(CPLQuietErrorHandler);
-    const char *const options[] = {"FORMAT=WKT2", nullptr};
-    char *text = nullptr;
-    std::string wkt;
-    if (srs && srs->exportToWkt(&text, options) == OGRERR_NONE)
-        wkt = text;
-    CPLFree(text);
-    return wkt;
+    return localframe::wktOf(srs ? &*srs : nullptr);
 }
 
 std::vector<std::size_t> firstBuildings(const Footprints &footprints)

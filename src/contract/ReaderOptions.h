@@ -6,7 +6,7 @@ namespace vlt::contract {
 
 /// Path of the project file.
 inline constexpr char ProjectDatum[] = "vlt.project";
-/// "1" to add the surface of the terrain to a scene that has one.
+/// Path of the terrain on which sites stand whose table has no ground height.
 inline constexpr char TerrainDatum[] = "vlt.terrain";
 /// "1" from a caller that only draws the scene.
 inline constexpr char DrawnDatum[] = "vlt.drawn";

@@ -63,7 +63,7 @@ inline constexpr auto SceneTexts = [] {
         {"MESS_SCENE_LINK_GROUND",
          "%1 of %2 pylons stand at height 0: there is no terrain height under them",
          {Count, Count}},
-        {"MESS_SCENE_NO_SURFACE", "no terrain is shown: there are no heights under the links"},
+        {"MESS_SCENE_NO_SURFACE", "no terrain is shown: there are no heights under the layer"},
 
         // footprints that cannot be read
         {"MESS_SCENE_NO_FOOTPRINTS", "there is no local file of footprints \"%1\""},

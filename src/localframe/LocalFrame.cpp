@@ -3,6 +3,7 @@
 #include "contract/BadLayer.h"
 #include "localframe/NearOnes.h"
 
+#include <cpl_conv.h>
 #include <cpl_error.h>
 
 #include <algorithm>
@@ -253,6 +254,18 @@ std::shared_ptr<const LocalFrame> moveToFrame(const OGRSpatialReference *srs,
             position.x = std::numeric_limits<double>::quiet_NaN();
     }
     return frame;
+}
+
+std::string wktOf(const OGRSpatialReference *srs)
+{
+    const CPLErrorHandlerPusher quiet(CPLQuietErrorHandler);
+    const char *const options[] = {"FORMAT=WKT2", nullptr};
+    char *text = nullptr;
+    std::string wkt;
+    if (srs && srs->exportToWkt(&text, options) == OGRERR_NONE)
+        wkt = text;
+    CPLFree(text);
+    return wkt;
 }
 
 } // namespace vlt::localframe

@@ -6,6 +6,7 @@
 
 #include <memory>
 #include <span>
+#include <string>
 #include <vector>
 
 namespace vlt::localframe {
@@ -53,5 +54,8 @@ private:
 /// @throws BadLayer  the system is neither projected nor geographic
 std::shared_ptr<const LocalFrame> moveToFrame(const OGRSpatialReference *srs,
                                               std::vector<Place> &positions);
+
+/// The text of a coordinate system, which the library reads again; empty for null.
+std::string wktOf(const OGRSpatialReference *srs);
 
 } // namespace vlt::localframe

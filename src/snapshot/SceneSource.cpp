@@ -97,12 +97,12 @@ bool isParametricName(const QString &name)
     return name.startsWith(QLatin1String(contract::parametric::Start));
 }
 
-Result<Scene> readScene(const QString &name, const QString &project, TerrainSurface terrain)
+Result<Scene> readScene(const QString &name, const QString &project, const QString &terrain)
 {
     return readScene(name, project, terrain, {}).value();
 }
 
-Stoppable<Scene> readScene(const QString &name, const QString &project, TerrainSurface terrain,
+Stoppable<Scene> readScene(const QString &name, const QString &project, const QString &terrain,
                            const Progress &progress)
 {
     QString source = name;
@@ -126,8 +126,9 @@ Stoppable<Scene> readScene(const QString &name, const QString &project, TerrainS
         options->setPluginStringData(
             contract::ProjectDatum,
             QFile::encodeName(QFileInfo(project).absoluteFilePath()).toStdString());
-    if (terrain == TerrainSurface::Shown)
-        options->setPluginStringData(contract::TerrainDatum, "1");
+    if (!terrain.isEmpty())
+        options->setPluginStringData(contract::TerrainDatum,
+                                     QFile::encodeName(terrain).toStdString());
     options->setPluginStringData(contract::DrawnDatum, "1");
     Progress reported = progress;
     contract::ReadProgress listener{report, &reported};

@@ -15,21 +15,19 @@ namespace vlt::snapshot {
 /// A loaded scene; null: no scene.
 using Scene = osg::ref_ptr<osg::Node>;
 
-/// Whether the surface of the terrain is shown under a scene that has one.
-enum class TerrainSurface { Hidden, Shown };
-
 /// Loads a scene with the scene library's readers: a regular file of this computer, or a parametric
 /// object "inline://parametric/query?...". Neither the scene nor the files to which it refers are
 /// fetched over a network.
 ///
 /// @param project  file of the project to which the scene belongs, for the readers; may be empty
+/// @param terrain  of the project, for sites whose table has no ground height; may be empty
 /// @par Errors     MESS_SNAP_NOT_LOCAL for any other kind of name, MESS_SNAP_NO_FILE, or the
 ///                 reader's reason as detail.
 Result<Scene> readScene(const QString &name, const QString &project = {},
-                        TerrainSurface terrain = TerrainSurface::Hidden);
+                        const QString &terrain = {});
 
 /// The same, with the progress of readers that take a long time.
-Stoppable<Scene> readScene(const QString &name, const QString &project, TerrainSurface terrain,
+Stoppable<Scene> readScene(const QString &name, const QString &project, const QString &terrain,
                            const Progress &progress);
 
 /// A fact that the readers state about a scene, by its key in contract/SceneFactKeys.h; nothing if

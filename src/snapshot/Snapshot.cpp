@@ -1,7 +1,8 @@
 #include "snapshot/Snapshot.h"
 
+#include "landscape/scene/Light.h"
+#include "landscape/scene/Sky.h"
 #include "snapshot/OffscreenTarget.h"
-#include "snapshot/Studio.h"
 
 #include <osg/FrameBufferObject>
 #include <osgDB/DatabasePager>
@@ -15,6 +16,7 @@ namespace {
 
 constexpr double MinShownPx = 0.5;
 constexpr int MaxLoadingMs = 60000;
+constexpr double NearShare = 0.0002; ///< distance of the near plane / that of the far one
 
 /// Makes a camera draw into a frame buffer.
 class DrawInto : public osg::Camera::DrawCallback
@@ -55,6 +57,7 @@ void setUpCamera(osg::Camera &camera, const ViewPoint &point, const QSize &size)
     camera.setViewMatrixAsLookAt(point.eye, point.target, osg::Z_AXIS);
     camera.setLODScale(1);
     camera.setSmallFeatureCullingPixelSize(MinShownPx);
+    camera.setNearFarRatio(NearShare); // the ground reaches far, the scene may be near
 }
 
 /// Draws frames until everything that the view needs is loaded, and then the last one.
@@ -72,7 +75,8 @@ void drawAll(osgViewer::Viewer &viewer)
 
 } // namespace
 
-Result<QImage> renderSnapshot(osg::Node &scene, const QSize &size, SceneView view)
+Result<QImage> renderSnapshot(osg::Node &scene, const QSize &size, SceneView view,
+                              SceneGround *ground)
 {
     const Result<ViewPoint> point =
         findViewPoint(scene, view, static_cast<double>(size.width()) / size.height());
@@ -96,8 +100,10 @@ Result<QImage> renderSnapshot(osg::Node &scene, const QSize &size, SceneView vie
     context->releaseContext();
 
     const osg::ref_ptr<osg::Group> root = new osg::Group;
-    root->addChild(makeSky());
-    root->addChild(underLight(&scene));
+    root->addChild(landscape::makeSky());
+    if (ground)
+        root->addChild(ground->around(point.value().eye, point.value().target));
+    root->addChild(landscape::underLight(&scene));
     viewer.setThreadingModel(osgViewer::ViewerBase::SingleThreaded);
     viewer.setLightingMode(osg::View::NO_LIGHT);
     viewer.getCamera()->setGraphicsContext(context);

@@ -11,7 +11,6 @@
 #include <osgDB/Registry>
 
 using namespace Qt::StringLiterals;
-using vlt::snapshot::TerrainSurface;
 
 namespace {
 
@@ -61,27 +60,26 @@ private Q_SLOTS:
     void handsProjectAndTerrainToTheReader()
     {
         const auto read =
-            vlt::snapshot::readScene(m_scene, u"/project/a.gvw"_s, TerrainSurface::Shown);
+            vlt::snapshot::readScene(m_scene, u"/project/a.gvw"_s, u"/project/t.tif"_s);
 
         QVERIFY(read);
         QCOMPARE(read.value()->getDescription(0), std::string("/project/a.gvw"));
-        QCOMPARE(read.value()->getDescription(1), std::string("1"));
+        QCOMPARE(read.value()->getDescription(1), std::string("/project/t.tif"));
     }
 
     void reportsHowFarTheReaderIsAndStopsIt()
     {
         QList<double> shares;
 
-        const auto read =
-            vlt::snapshot::readScene(m_scene, {}, TerrainSurface::Hidden, [&shares](double share) {
-                shares += share;
-                return true;
-            });
+        const auto read = vlt::snapshot::readScene(m_scene, {}, {}, [&shares](double share) {
+            shares += share;
+            return true;
+        });
 
         QVERIFY(read && *read);
         QCOMPARE(shares, (QList<double>{0.25, 0.5, 0.75, 1}));
-        QVERIFY(!vlt::snapshot::readScene(m_scene, {}, TerrainSurface::Hidden,
-                                          [](double share) { return share < 0.5; }));
+        QVERIFY(
+            !vlt::snapshot::readScene(m_scene, {}, {}, [](double share) { return share < 0.5; }));
     }
 };
 

@@ -5,6 +5,8 @@
 #include "support/Cases.h"
 #include "support/GeoTiff.h"
 
+#include <osg/ValueObject>
+
 #include <QtTest>
 
 #include <array>
@@ -213,28 +215,25 @@ private Q_SLOTS:
         QCOMPARE(found.feet["C"].z(), 0.0);
     }
 
-    void showsTheTerrainItself()
+    void statesWhereItLies()
     {
         writeFile(path("t.lay"), layerText(linkSource()));
-        const osg::ref_ptr<osgDB::Options> options = new osgDB::Options;
-        options->setPluginStringData("vlt.terrain", "1");
-        const osg::ref_ptr<osg::Group> scene = open(path("t.lay"), options).scene;
+        const osg::ref_ptr<osg::Group> scene = open(path("t.lay")).scene;
         QVERIFY(scene);
-        const osg::Node *surface = scene->getChild(scene->getNumChildren() - 1);
+        std::string terrain;
+        std::string system;
+        double lowestM = 0;
 
-        QCOMPARE(surface->getName(), std::string("terrain"));
-        const osg::Geometry *geometry = surface->asGroup()->getChild(0)->asGeometry();
-        const auto *points = dynamic_cast<const osg::Vec3Array *>(geometry->getVertexArray());
-        QVERIFY(points->size() > 10000 && points->size() <= 90000);
-        float highest = 0;
-        for (const osg::Vec3 &point : *points) {
-            highest = std::max(highest, point.z());
-            // Points outside the hill, whose foot is 100 m wide; the middle is at (652000,
-            // 6862000).
-            if (std::abs(point.x()) > 260 || std::abs(point.y() + 2000) > 610)
-                QVERIFY(std::abs(point.z() - 120 - point.x() / 100) < 0.05);
-        }
-        QVERIFY(std::abs(highest - 400) < 0.05);
+        QVERIFY(scene->getUserValue("vlt.terrain", terrain));
+        QVERIFY(scene->getUserValue("vlt.srs", system));
+        QVERIFY(scene->getUserValue("vlt.ground", lowestM));
+
+        QVERIFY(QFileInfo(QString::fromStdString(terrain)) == QFileInfo(path("dem.tif")));
+        QVERIFY(system.find("2154") != std::string::npos);
+        Everything found;
+        scene->accept(found);
+        for (const auto &[name, foot] : found.feet)
+            QVERIFY(foot.z() >= lowestM);
     }
 
     void refusesByName_data()

@@ -1,12 +1,14 @@
 #include "LayerScenes.h"
 #include "plugins/scene/reading/LayerFile.h"
 #include "support/Cases.h"
+#include "support/GeoTiff.h"
 
 #include <osg/Geometry>
 #include <osgDB/WriteFile>
 
 #include <QtTest>
 
+#include <array>
 #include <cmath>
 #include <map>
 #include <string>
@@ -107,6 +109,28 @@ private Q_SLOTS:
         QCOMPARE(opened.fact("unplaced"), std::string("1"));
         QCOMPARE(opened.fact("srs"), "EPSG:" + srs.toStdString());
         QCOMPARE(opened.scene->getName(), std::string("A & <B>"));
+    }
+
+    void standOnTheTerrainOfTheCaller()
+    {
+        // A at (650000, 6860000) has a ground height in the table; B and C have none, C is outside
+        writeFile(path(QStringLiteral("t.csv")),
+                  Header + "A,650000,6860000,100,30,0,,\nB,650500,6860500,,30,0,,\n"
+                           "C,652000,6862000,,30,0,,\n");
+        writeFile(path(QStringLiteral("t.lay")), layerText(siteSource("t.csv")));
+        const osg::ref_ptr<osgDB::Options> options = new osgDB::Options;
+        options->setPluginStringData(
+            "vlt.terrain", makeGeoTiff(path(QStringLiteral("dem.tif")),
+                                       {20, 20, 1, GDT_Float32, northUp(649000, 6859000, 100, 20),
+                                        "EPSG:2154", [](int, int, int) { return 42; }}));
+        const auto heights = [&](const osgDB::Options *with) {
+            Everything found;
+            open(path(QStringLiteral("t.lay")), with).scene->accept(found);
+            return std::array{found.feet["A"].z(), found.feet["B"].z(), found.feet["C"].z()};
+        };
+
+        QCOMPARE(heights(options), (std::array{100.0, 42.0, 0.0}));
+        QCOMPARE(heights(nullptr), (std::array{100.0, 0.0, 0.0}));
     }
 
     void namesStandOverTheirSites()

@@ -4,6 +4,7 @@
 #include "contract/FileSearch.h"
 #include "contract/SceneFactKeys.h"
 #include "contract/SceneTexts.h"
+#include "localfiles/LocalFormats.h"
 #include "plugins/scene/buildings/CityColors.h"
 #include "plugins/scene/buildings/CityNodes.h"
 #include "plugins/scene/buildings/TexbDocument.h"
@@ -35,8 +36,8 @@ CityModel readCity(const BuildingDocument &document, const Directories &director
     city::CityInputs inputs = city::readCityInputs(document, directories, notices, progress);
     CityModel city;
     city.footprints = std::move(inputs.footprints);
-    city.srs = city::wktOf(inputs.srs);
     city.frame = sceneFrame(inputs.frame, inputs.srs ? &*inputs.srs : nullptr);
+    city.srs = city.frame.wkt;
     city.positions = std::move(inputs.positions);
     city.baseM = std::move(inputs.baseM);
     city.counts = inputs.counts;
@@ -130,6 +131,11 @@ osg::ref_ptr<osg::Group> readBuildingScene(const std::string &document, const st
     osg::ref_ptr<osg::Group> scene = buildCity(city, look, part(progress, 0.9, 1));
     setFrame(*scene, city->frame);
     setCore(*scene, city->core);
+    const contract::BuildingTerrain &terrain = texb.terrain;
+    setGround(*scene,
+              city->baseM.empty() ? 0 : *std::min_element(city->baseM.begin(), city->baseM.end()),
+              terrain.file.empty() ? "" : localfiles::locateDataset(terrain.file, directories),
+              terrain.noData);
     setCounts(*scene, city->counts);
     return scene;
 }

@@ -8,7 +8,6 @@
 #include "plugins/scene/layers/LinkRecords.h"
 #include "plugins/scene/layers/SiteScene.h"
 #include "plugins/scene/reading/TableLocation.h"
-#include "plugins/scene/reading/TerrainSurface.h"
 
 namespace vlt::scene {
 
@@ -31,14 +30,6 @@ std::shared_ptr<linkpath::TerrainRaster> openTerrain(const contract::ConnectionS
     return std::move(terrain);
 }
 
-osg::BoundingBoxd extentOf(const PylonRecords &pylons)
-{
-    osg::BoundingBoxd extent;
-    for (const SiteRecord &site : pylons.sites)
-        extent.expandBy(site.foot);
-    return extent;
-}
-
 osg::ref_ptr<osg::Group> readLinks(const LayerFile &file, const Directories &directories,
                                    const LayerRequest &request, Notices &notices)
 {
@@ -52,16 +43,10 @@ osg::ref_ptr<osg::Group> readLinks(const LayerFile &file, const Directories &dir
         notices.push_back(contract::formatted(
             "MESS_SCENE_LINK_GROUND",
             {std::to_string(records.groundless), std::to_string(records.pylons.sites.size())}));
-    osg::ref_ptr<osg::Node> surface;
-    if (request.withTerrain)
-        surface = buildTerrainSurface(profiler, *links.frame.local, extentOf(records.pylons));
-    osg::ref_ptr<osg::Group> scene = buildLinkLayerScene(
-        links, std::move(records), style.appearance, file.title, request.content);
-    if (surface)
-        scene->addChild(surface);
-    else if (request.withTerrain)
-        notices.push_back(contract::formatted("MESS_SCENE_NO_SURFACE"));
-    return scene;
+    return buildLinkLayerScene(
+        links, std::move(records), style.appearance, file.title,
+        terrain ? locateFile(table.option(contract::query::TerrainFile), directories) : "",
+        request.content);
 }
 
 } // namespace
@@ -73,8 +58,8 @@ osg::ref_ptr<osg::Group> readLayerScene(const LayerFile &file, const std::string
     if (file.kind == LayerKind::Links)
         return readLinks(file, directories, request, notices);
     const auto table = locateTable(file.source, file.kind, directories);
-    return buildSiteScene(readSiteRecords(table, file, readSiteStyle(table)), file.title,
-                          request.content);
+    return buildSiteScene(readSiteRecords(table, file, readSiteStyle(table), request.terrain),
+                          file.title, request.content);
 }
 
 } // namespace vlt::scene

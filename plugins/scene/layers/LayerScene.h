@@ -13,8 +13,8 @@ namespace vlt::scene {
 /// The options of readLayerScene().
 struct LayerRequest
 {
-    std::string project;      ///< path of the project file to which the layer belongs; may be empty
-    bool withTerrain = false; ///< adds the surface of the terrain under links, if there is one
+    std::string project; ///< path of the project file to which the layer belongs; may be empty
+    std::string terrain; ///< path of the terrain for sites without a ground height; may be empty
     TileContent content = TileContent::WhenDrawn;
 };
 

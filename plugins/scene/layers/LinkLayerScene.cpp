@@ -11,11 +11,13 @@ namespace vlt::scene {
 
 osg::ref_ptr<osg::Group> buildLinkLayerScene(const LinkRows &rows, LinkRecords records,
                                              const LinkAppearance &appearance,
-                                             const std::string &title, TileContent content)
+                                             const std::string &title, const std::string &terrain,
+                                             TileContent content)
 {
     osg::ref_ptr<osg::Group> group = new osg::Group;
     group->setName(title);
     setFrame(*group, rows.frame);
+    setGround(*group, lowestFootM(records.pylons), terrain);
     setCount(*group, contract::facts::Links, records.links.size());
     setCount(*group, contract::facts::Pylons, records.pylons.sites.size());
     setCount(*group, contract::facts::Unplaced, rows.unplaced);

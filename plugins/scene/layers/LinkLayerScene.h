@@ -15,8 +15,11 @@ namespace vlt::scene {
 /// Its descriptions are "centre=X Y" (in the table's system), "srs=...", "links=N", "pylons=N" and
 /// "unplaced=N" (links); with clearances "clear=N", "marginal=N", "obstructed=N" and "unknown=N";
 /// and "cut" if the table has more links than MaxLinks.
+///
+/// @param terrain  path of the terrain under the links; may be empty
 osg::ref_ptr<osg::Group> buildLinkLayerScene(const LinkRows &rows, LinkRecords records,
                                              const LinkAppearance &appearance,
-                                             const std::string &title, TileContent content);
+                                             const std::string &title, const std::string &terrain,
+                                             TileContent content);
 
 } // namespace vlt::scene

@@ -1,6 +1,7 @@
 #include "plugins/scene/layers/SiteRecords.h"
 
 #include "contract/QueryOptions.h"
+#include "linkpath/PathProfiler.h"
 #include "plugins/scene/layers/SceneColumns.h"
 #include "plugins/scene/parametric/HostileLimits.h"
 #include "plugins/scene/reading/BadLayer.h"
@@ -39,7 +40,7 @@ public:
         readOnlyFields(m_layer, usedFields());
     }
 
-    SiteRecords read()
+    SiteRecords read(const std::string &terrain)
     {
         m_layer.ResetReading();
         while (const OGRFeatureUniquePtr feature = nextFeature(m_layer)) {
@@ -49,7 +50,9 @@ public:
             }
             take(*feature);
         }
+        const std::vector<osg::Vec2d> places = m_places;
         m_records.frame = moveToFrame(m_layer, m_places);
+        standOn(terrain, places);
         placeSites();
         return std::move(m_records);
     }
@@ -73,7 +76,7 @@ private:
         SiteRecord site;
         site.name = textAt(feature, m_columns.name);
         site.foot.z() =
-            numberAt(feature, m_columns.terrainHeight, MinHeightM, MaxHeightM).value_or(0.0);
+            numberAt(feature, m_columns.terrainHeight, MinHeightM, MaxHeightM).value_or(NAN);
         const auto [design, isNew] = m_designs.try_emplace(
             designOf(feature), static_cast<std::uint32_t>(m_records.designs.size()));
         if (isNew)
@@ -113,6 +116,24 @@ private:
         return design;
     }
 
+    /// Gives the sites without a ground height that of a terrain.
+    ///
+    /// @param places  of the sites, in the table's system
+    void standOn(const std::string &terrain, const std::vector<osg::Vec2d> &places)
+    {
+        std::shared_ptr<linkpath::TerrainRaster> raster;
+        if (!terrain.empty())
+            raster = linkpath::TerrainRaster::open(terrain).file;
+        if (raster)
+            m_records.terrain = terrain;
+        const linkpath::PathProfiler ground(raster, m_layer.GetSpatialRef());
+        for (std::size_t i = 0; i < places.size(); ++i) {
+            double &footM = m_records.sites[i].foot.z();
+            if (std::isnan(footM))
+                footM = ground.groundM(places[i].x(), places[i].y()).value_or(0.0);
+        }
+    }
+
     /// Transforms the sites to the frame, and removes those that have no position there.
     void placeSites()
     {
@@ -145,15 +166,23 @@ private:
 
 } // namespace
 
+double lowestFootM(const PylonRecords &pylons)
+{
+    const auto lowest = std::min_element(
+        pylons.sites.begin(), pylons.sites.end(),
+        [](const SiteRecord &a, const SiteRecord &b) { return a.foot.z() < b.foot.z(); });
+    return lowest == pylons.sites.end() ? 0 : lowest->foot.z();
+}
+
 SiteRecords readSiteRecords(const contract::ConnectionString &table, const LayerFile &layer,
-                            const SiteStyle &style)
+                            const SiteStyle &style, const std::string &terrain)
 {
     const CPLErrorHandlerPusher quiet(CPLQuietErrorHandler); // rows without a position are counted
     const GDALDatasetUniquePtr dataset = openTable(table);
     OGRLayer *sites = dataset->GetLayerByName(layer.layer.c_str());
     if (!sites)
         sites = dataset->GetLayer(0);
-    SiteRecords records = Reader(*sites, layer, style).read();
+    SiteRecords records = Reader(*sites, layer, style).read(terrain);
     if (records.sites.empty())
         throw BadLayer("MESS_SCENE_UNPLACED_SITES", {std::to_string(records.unplaced), table.path});
     return records;

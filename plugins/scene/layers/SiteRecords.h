@@ -32,12 +32,16 @@ struct PylonRecords
     std::vector<PylonDesign> designs;
 };
 
+/// Height of the lowest foot, 0 without pylons.
+double lowestFootM(const PylonRecords &pylons);
+
 /// The sites of a layer.
 struct SiteRecords : PylonRecords
 {
     SceneFrame frame;
     std::size_t unplaced = 0; ///< rows without a position
     bool isCut = false;       ///< the table has more sites than MaxSites
+    std::string terrain;      ///< path of the terrain on which sites stand; may be empty
 };
 
 /// Reads all sites of a table.
@@ -46,11 +50,12 @@ struct SiteRecords : PylonRecords
 /// default height, one without a tilt has tilt 0, one without an azimuth radiates in all
 /// directions. One with neither height nor azimuth is ignored, and so is one whose height or
 /// azimuth cannot be used. The foot is at the terrain height,
-/// or at 0 where that is unknown.
+/// on `terrain` where the table has none, or at 0 where both are unknown.
 ///
 /// @param table      with the absolute path of a file
+/// @param terrain    path; may be empty
 /// @throws BadLayer  the table cannot be opened or has no row with a position
 SiteRecords readSiteRecords(const contract::ConnectionString &table, const LayerFile &layer,
-                            const SiteStyle &style);
+                            const SiteStyle &style, const std::string &terrain);
 
 } // namespace vlt::scene

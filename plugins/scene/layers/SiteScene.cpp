@@ -11,6 +11,7 @@ osg::ref_ptr<osg::Group> buildSiteScene(SiteRecords records, const std::string &
     osg::ref_ptr<osg::Group> group = new osg::Group;
     group->setName(title);
     setFrame(*group, records.frame);
+    setGround(*group, lowestFootM(records), records.terrain);
     setCount(*group, contract::facts::Sites, records.sites.size());
     setCount(*group, contract::facts::Unplaced, records.unplaced);
     if (records.isCut)

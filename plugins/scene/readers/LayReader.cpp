@@ -16,7 +16,7 @@ osg::ref_ptr<osg::Group> readLayer(const std::string &path, const ReadRequest &r
     const LayerFile file = readLayerFile(path);
     if (file.kind != LayerKind::Buildings)
         return readLayerScene(file, path,
-                              {request.project, request.withTerrain,
+                              {request.project, request.terrain,
                                request.isOnlyDrawn ? TileContent::WhenDrawn : TileContent::AtOnce},
                               notices);
     osg::ref_ptr<osg::Group> scene =

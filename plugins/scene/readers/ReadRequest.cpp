@@ -47,7 +47,7 @@ ReadRequest readRequestOf(const osgDB::Options *options)
     if (!options)
         return request;
     request.project = projectOf(*options);
-    request.withTerrain = options->getPluginStringData(contract::TerrainDatum) == "1";
+    request.terrain = options->getPluginStringData(contract::TerrainDatum);
     request.isOnlyDrawn = options->getPluginStringData(contract::DrawnDatum) == "1";
     const auto *progress = static_cast<const contract::ReadProgress *>(
         options->getPluginData(contract::ProgressDatum));

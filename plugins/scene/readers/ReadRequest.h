@@ -20,7 +20,7 @@ struct ReadRequest
     /// The project file: the plug-in datum contract::ProjectDatum, or the text after "project=" in
     /// the option string, in quotation marks or up to the end.
     std::string project;
-    bool withTerrain = false;             ///< the plug-in datum contract::TerrainDatum is "1"
+    std::string terrain;                  ///< the plug-in datum contract::TerrainDatum
     bool isOnlyDrawn = false;             ///< the plug-in datum contract::DrawnDatum is "1"
     std::function<bool(double)> progress; ///< calls the datum contract::ProgressDatum, if any
 };

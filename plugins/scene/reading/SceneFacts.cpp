@@ -1,6 +1,9 @@
 #include "plugins/scene/reading/SceneFacts.h"
 
 #include "contract/SceneFactKeys.h"
+#include "contract/ScenePlace.h"
+
+#include <osg/ValueObject>
 
 #include <iomanip>
 #include <locale>
@@ -19,11 +22,23 @@ void setFrame(osg::Group &scene, const SceneFrame &frame)
     text << std::setprecision(12) << facts::Centre << '=' << centre.x() << ' ' << centre.y();
     scene.addDescription(text.str());
     scene.addDescription(facts::System + ('=' + frame.srs));
+    if (!frame.wkt.empty())
+        scene.setUserValue(contract::place::System, frame.wkt);
 }
 
 void setCount(osg::Group &scene, std::string_view key, std::size_t count)
 {
     scene.addDescription(std::string(key) + '=' + std::to_string(count));
+}
+
+void setGround(osg::Group &scene, double lowestM, const std::string &terrain,
+               const std::string &noData)
+{
+    scene.setUserValue(contract::place::HeightM, lowestM);
+    if (!terrain.empty())
+        scene.setUserValue(contract::place::Terrain, terrain);
+    if (!noData.empty())
+        scene.setUserValue(contract::place::NoData, noData);
 }
 
 void setCut(osg::Group &scene)

@@ -12,6 +12,7 @@ struct SceneFrame
 {
     std::shared_ptr<const LocalFrame> local;
     std::string srs; ///< "EPSG:2154", or the name of the system; empty: unknown
+    std::string wkt; ///< of the system; empty: unknown
 };
 
 } // namespace vlt::scene

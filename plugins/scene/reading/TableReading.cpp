@@ -149,7 +149,7 @@ std::vector<double> northDirectionsDeg(OGRLayer &layer, const SceneFrame &frame,
 SceneFrame sceneFrame(std::shared_ptr<const localframe::LocalFrame> local,
                       const OGRSpatialReference *srs)
 {
-    return {std::make_shared<LocalFrame>(std::move(local)), nameOf(srs)};
+    return {std::make_shared<LocalFrame>(std::move(local)), nameOf(srs), localframe::wktOf(srs)};
 }
 
 } // namespace vlt::scene

@@ -75,9 +75,7 @@ Reading readLayer(const QString &path, const QString &project, const vlt::Progre
     static std::mutex mutex;
     const std::lock_guard lock(mutex);
     vlt::snapshot::SceneNotices notices;
-    Reading reading{
-        vlt::snapshot::readScene(path, project, vlt::snapshot::TerrainSurface::Hidden, progress),
-        {}};
+    Reading reading{vlt::snapshot::readScene(path, project, {}, progress), {}};
     reading.notices = notices.take();
     return reading;
 }

@@ -560,8 +560,12 @@
         <translation>all: everything, from the south-west (default); symbolic: the sectors of the site in the middle; precise: its mast and antennas.</translation>
     </message>
     <message id="MESS_OPT_SHOW_TERRAIN">
-        <source>For links: show the surface of the project's terrain too.</source>
-        <translation>For links: show the surface of the project's terrain too.</translation>
+        <source>Terrain for the ground (default: that of the layer, else of the project). Without any, the ground is level and has a metric grid.</source>
+        <translation>Terrain for the ground (default: that of the layer, else of the project). Without any, the ground is level and has a metric grid.</translation>
+    </message>
+    <message id="MESS_OPT_NO_GROUND">
+        <source>Show no ground below the layer.</source>
+        <translation>Show no ground below the layer.</translation>
     </message>
     <message id="MESS_USE_NO_PICTURE">
         <source>no output file given (-o PICTURE.png)</source>

@@ -560,8 +560,12 @@
         <translation>all&#xa0;: l'ensemble, depuis le sud-ouest (par défaut)&#xa0;; symbolic&#xa0;: les secteurs du site du milieu&#xa0;; precise&#xa0;: son mât et ses antennes.</translation>
     </message>
     <message id="MESS_OPT_SHOW_TERRAIN">
-        <source>For links: show the surface of the project's terrain too.</source>
-        <translation>Pour les liaisons : montrer aussi la surface du terrain du projet.</translation>
+        <source>Terrain for the ground (default: that of the layer, else of the project). Without any, the ground is level and has a metric grid.</source>
+        <translation>Terrain du sol (par défaut : celui de la couche, sinon celui du projet). Sans terrain, le sol est plat et porte une grille métrique.</translation>
+    </message>
+    <message id="MESS_OPT_NO_GROUND">
+        <source>Show no ground below the layer.</source>
+        <translation>Ne montrer aucun sol sous la couche.</translation>
     </message>
     <message id="MESS_USE_NO_PICTURE">
         <source>no output file given (-o PICTURE.png)</source>

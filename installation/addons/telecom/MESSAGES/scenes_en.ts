@@ -140,8 +140,8 @@
         <translation>%1 of %2 pylons stand at height 0: there is no terrain height under them</translation>
     </message>
     <message id="MESS_SCENE_NO_SURFACE">
-        <source>no terrain is shown: there are no heights under the links</source>
-        <translation>no terrain is shown: there are no heights under the links</translation>
+        <source>no terrain is shown: there are no heights under the layer</source>
+        <translation>no terrain is shown: there are no heights under the layer</translation>
     </message>
     <message id="MESS_SCENE_NO_FOOTPRINTS">
         <source>there is no local file of footprints "%1"</source>

@@ -140,8 +140,8 @@
         <translation>pylônes posés à l'altitude 0, faute d'altitude du terrain sous eux&#xa0;: %1 sur %2</translation>
     </message>
     <message id="MESS_SCENE_NO_SURFACE">
-        <source>no terrain is shown: there are no heights under the links</source>
-        <translation>aucun terrain n'est affiché&#xa0;: il n'y a pas d'altitudes sous les liaisons</translation>
+        <source>no terrain is shown: there are no heights under the layer</source>
+        <translation>aucun terrain n'est montré : il n'y a pas d'altitude sous la couche</translation>
     </message>
     <message id="MESS_SCENE_NO_FOOTPRINTS">
         <source>there is no local file of footprints "%1"</source>
