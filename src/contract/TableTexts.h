@@ -254,6 +254,8 @@ inline constexpr auto TableTexts = std::to_array<Text>({
     {"MESS_TAB_UNKNOWN_UNIT", "the unit \"%1\" is not known: the height is not used"},
     {"MESS_TAB_LIST_LENGTH", "the list \"%1\" has %2 values for %3 transmitters: none of them is "
                              "used"},
+    {"MESS_TAB_REPEATED_CELL",
+     "the cell stands in a row above with the same values: it is drawn once"},
     {"MESS_TAB_SITE_ELSEWHERE", "the site \"%1\" lies %2 m away in row %3: this row makes a site "
                                 "of its own"},
 

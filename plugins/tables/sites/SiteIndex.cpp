@@ -29,6 +29,37 @@ int64_t steps(double coordinate, double step)
     return std::llround(std::floor(std::clamp(coordinate / step, -9e15, 9e15)));
 }
 
+/// Whether an id is that of one cell in the network, not that of a sector such as "A" or
+/// "Sector 1".
+bool isCellName(std::string_view id, std::string_view site)
+{
+    constexpr std::size_t MinSize = 5;
+    constexpr std::ptrdiff_t MinDigits = 3;
+    if (!site.empty() && id.size() > site.size() && id.starts_with(site))
+        return true;
+    const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
+    return id.size() >= MinSize && std::count_if(id.begin(), id.end(), isDigit) >= MinDigits;
+}
+
+std::size_t hashOfCell(const TransmitterValues &of, std::size_t site)
+{
+    static constexpr double NoNumber = -1e9;
+    const auto text = std::hash<std::string_view>();
+    const auto number = [](const std::optional<double> &value) {
+        return std::hash<double>()(value.value_or(NoNumber));
+    };
+    const std::array parts = {site,
+                              text(of.sectorId),
+                              text(of.technology),
+                              number(of.heightM),
+                              number(of.azimuthDeg),
+                              number(of.mechanicalTiltDeg),
+                              number(of.electricalTiltDeg),
+                              number(of.beamWidthDeg),
+                              number(of.frequencyMHz)};
+    return text(std::string_view(reinterpret_cast<const char *>(parts.data()), sizeof parts));
+}
+
 double extentM(bool isNamed)
 {
     return isNamed ? NamedExtentM : NamelessExtentM;
@@ -210,20 +241,47 @@ std::size_t SiteIndex::add(int64_t row, const std::vector<const Cell *> &cells,
                            const std::vector<std::optional<TransmitterValues>> &transmitters)
 {
     const std::size_t site = siteOf(row, cells, position);
-    addTransmitters(site, transmitters);
+    for (const std::optional<TransmitterValues> &transmitter : transmitters) {
+        if (!transmitter)
+            continue;
+        if (!isRepeated(site, *transmitter))
+            addTransmitter(site, *transmitter);
+        else if (m_repeatedRows.empty() || m_repeatedRows.back() != row)
+            m_repeatedRows.push_back(row);
+    }
     return site;
+}
+
+/// Whether a cell of a site was added before with the same values. If not, it is expected to be
+/// added next.
+bool SiteIndex::isRepeated(std::size_t site, const TransmitterValues &transmitter)
+{
+    if (!isCellName(transmitter.sectorId, idOf(m_sites[site])))
+        return false;
+    const std::size_t hash = hashOfCell(transmitter, site);
+    const auto isIt = [&](uint32_t at) {
+        return m_siteOfTransmitter[at] == site && m_transmitters[at] == transmitter;
+    };
+    if (m_ofCells.find(hash, isIt) != None)
+        return true;
+    m_ofCells.add(hash, static_cast<uint32_t>(m_siteOfTransmitter.size()));
+    return false;
 }
 
 void SiteIndex::addTransmitters(std::size_t site,
                                 const std::vector<std::optional<TransmitterValues>> &transmitters)
 {
     for (const std::optional<TransmitterValues> &transmitter : transmitters) {
-        if (!transmitter)
-            continue;
-        m_transmitters.add(*transmitter);
-        m_siteOfTransmitter.push_back(static_cast<uint32_t>(site));
-        ++m_sites[site].transmitterCount;
+        if (transmitter)
+            addTransmitter(site, *transmitter);
     }
+}
+
+void SiteIndex::addTransmitter(std::size_t site, const TransmitterValues &transmitter)
+{
+    m_transmitters.add(transmitter);
+    m_siteOfTransmitter.push_back(static_cast<uint32_t>(site));
+    ++m_sites[site].transmitterCount;
 }
 
 void SiteIndex::finish()
@@ -243,6 +301,7 @@ void SiteIndex::finish()
     }
     m_siteOfTransmitter = {};
     m_ofKeys = {};
+    m_ofCells = {};
     m_next = {};
     m_transmitters.finish();
 }
@@ -279,6 +338,8 @@ std::pair<std::size_t, std::size_t> SiteIndex::transmitterRange() const
 
 void SiteIndex::addProblems(int64_t row, std::vector<RowProblem> &problems) const
 {
+    if (std::binary_search(m_repeatedRows.begin(), m_repeatedRows.end(), row))
+        problems.push_back({row, {}, false, contract::formatted("MESS_TAB_REPEATED_CELL")});
     const auto found = std::lower_bound(
         m_conflicts.begin(), m_conflicts.end(), row,
         [](const Conflict &conflict, int64_t wanted) { return conflict.row < wanted; });

@@ -42,7 +42,9 @@ public:
     SiteIndex(const TableProfile &table, const SiteRoles &roles, CoordinateUnit unit,
               const Vocabulary &vocabulary);
 
-    /// Adds a row and returns the index of its site. Rows are added in the order of the file.
+    /// Adds a row and returns the index of its site. Rows are added in the order of the file. A
+    /// cell of the site that was added before with the same values, such as that of the month
+    /// before, is not added again.
     std::size_t add(int64_t row, const std::vector<const Cell *> &cells, const Position &position,
                     const std::vector<std::optional<TransmitterValues>> &transmitters);
     /// Adds transmitters to a site.
@@ -59,7 +61,8 @@ public:
     std::vector<TransmitterValues> transmittersOf(const IndexedSite &site) const;
     /// The smallest and the largest number of transmitters of a site.
     std::pair<std::size_t, std::size_t> transmitterRange() const;
-    /// Adds the contradictions between a row and the site that has its id.
+    /// Adds the contradictions between a row and the site that has its id, and that its cell was
+    /// added before.
     void addProblems(int64_t row, std::vector<RowProblem> &problems) const;
 
 private:
@@ -93,6 +96,8 @@ private:
     std::pair<int64_t, int64_t> squareOf(const Key &key, int dx, int dy) const;
     bool isSame(const IndexedSite &site, const Key &key) const;
     uint32_t keep(std::string_view id);
+    bool isRepeated(std::size_t site, const TransmitterValues &transmitter);
+    void addTransmitter(std::size_t site, const TransmitterValues &transmitter);
 
     const TableProfile *m_table;
     const SiteRoles *m_roles;
@@ -108,6 +113,8 @@ private:
     /// Indexes of the transmitters in the order of their sites; empty if they are stored so.
     std::vector<uint32_t> m_order;
     std::vector<Conflict> m_conflicts; ///< by ascending row
+    HashIndex m_ofCells;               ///< the transmitters with names of cells
+    std::vector<int64_t> m_repeatedRows;
 };
 
 } // namespace vlt::driver

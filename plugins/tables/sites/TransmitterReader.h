@@ -21,6 +21,8 @@ struct TransmitterValues
     std::optional<double> electricalTiltDeg;
     std::optional<double> beamWidthDeg;
     std::optional<double> frequencyMHz;
+
+    bool operator==(const TransmitterValues &) const = default;
 };
 
 /// Whether there is at least one transmitter.

@@ -1023,5 +1023,9 @@
         <source>Columns of the table "%1"</source>
         <translation>Columns of the table "%1"</translation>
     </message>
+    <message id="MESS_TAB_REPEATED_CELL">
+        <source>the cell stands in a row above with the same values: it is drawn once</source>
+        <translation>the cell stands in a row above with the same values: it is drawn once</translation>
+    </message>
 </context>
 </TS>

@@ -1023,5 +1023,9 @@
         <source>Columns of the table "%1"</source>
         <translation>Colonnes du tableau «&#xa0;%1&#xa0;»</translation>
     </message>
+    <message id="MESS_TAB_REPEATED_CELL">
+        <source>the cell stands in a row above with the same values: it is drawn once</source>
+        <translation>la cellule figure avec les mêmes valeurs dans une ligne au-dessus&#xa0;: elle n'est dessinée qu'une fois</translation>
+    </message>
 </context>
 </TS>
