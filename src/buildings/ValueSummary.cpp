@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <string_view>
 
 namespace vlt::buildings {
 
@@ -30,14 +31,16 @@ constexpr NamedUnit Units[] = {{"dbm", "dBm"}, {"db", "dB"},    {"dbuvm", "dBµV
                                {"vm", "V/m"},  {"km2", "/km²"}, {"degrees", "°"},
                                {"m", "m"}};
 
-/// The last word of a name that is a unit.
-QString unitInName(const QString &name)
+/// The last word of a file's name that is a unit. In that of a raster "m" is rather a part of a
+/// height.
+QString unitInName(const QString &path, bool isRaster)
 {
     static const QRegularExpression Separator(QStringLiteral("[^A-Za-z0-9]+"));
-    const QStringList words = name.toLower().split(Separator);
+    const QStringList words = QFileInfo(path).completeBaseName().toLower().split(Separator);
     for (auto word = words.crbegin(); word != words.crend(); ++word) {
         for (const NamedUnit &known : Units) {
-            if (*word == QLatin1String(known.name))
+            const bool isMetres = known.unit == std::string_view("m");
+            if (*word == QLatin1String(known.name) && !(isRaster && isMetres))
                 return QString::fromUtf8(known.unit);
         }
     }
@@ -223,10 +226,10 @@ QString unitOf(const QString &bandUnit, const RasterColoring &coloring)
 {
     if (!bandUnit.isEmpty())
         return bandUnit;
-    const QString unit = unitInName(QFileInfo(coloring.rasterFile).completeBaseName());
+    const QString unit = unitInName(coloring.rasterFile, true);
     if (!unit.isEmpty() || coloring.stretched)
         return unit;
-    return unitInName(QFileInfo(coloring.colorMap).completeBaseName());
+    return unitInName(coloring.colorMap, false);
 }
 
 QString valueText(const ValueSummary &summary, double value)

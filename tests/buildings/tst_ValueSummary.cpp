@@ -97,6 +97,9 @@ private Q_SLOTS:
             u"dBm"_s);
         row("a height of prediction is none, the unit before it is", {}, u"/a/exposure_Vm_6m.tif"_s,
             {}, true, u"V/m"_s);
+        row("metres in the raster's name are none, in the map's they are", {},
+            u"/a/level_6_m.tif"_s, u"/m/building_height_m_colorblind.txt"_s, false, u"m"_s);
+        row("no unit", {}, u"/a/m.tif"_s, u"/m/spectrum.txt"_s, false, {});
         row("in the map's name", {}, u"/a/b.tif"_s, u"/m/field_dBuVm_colorblind.txt"_s, false,
             u"dBµV/m"_s);
         row("not of a stretched map", {}, u"/a/b.tif"_s, u"/m/level_dBm.txt"_s, true, {});
