@@ -4,6 +4,7 @@
 #include "batch/InputNames.h"
 #include "batch/ProgressLine.h"
 #include "buildings/ColoringLegend.h"
+#include "buildings/FieldColors.h"
 #include "buildings/RasterRanges.h"
 #include "colormaps/ColorMapList.h"
 #include "geodata/RasterSource.h"
@@ -114,11 +115,31 @@ Result<std::optional<coverage::ValueRange>> readRange(RasterColoring &coloring,
                                             line.progress());
     if (range && !*range)
         return range->error();
+    if ((!range || !range->value().values) && !coloring.field.isEmpty())
+        return Error::asIs(dico_label("MESS_FIELD_NO_VALUES", "the field \"%1\" has no values")
+                               .arg(coloring.field),
+                           given);
     if (!range || !range->value().values)
         return Error::asIs(dico_label("MESS_CLI_NO_VALUES", "none of its pixels has a value"),
                            given);
     coloring.range = range->value().known;
     return range->value().values;
+}
+
+/// The legend of the texts of a field.
+Result<buildings::LegendInput> readKinds(const RasterColoring &coloring,
+                                         const buildings::BuildingLayerInput &layer, bool quiet)
+{
+    ProgressLine line(dico_label("MESS_READING_FIELD", "Reading the values of the field..."),
+                      !quiet);
+    const auto kinds = buildings::kindsOfField(
+        coloring, buildings::coloredDocument(layer, coloring), line.progress());
+    if (!kinds || !*kinds)
+        return kinds ? kinds->error() : Error::asIs({}, layer.source.file);
+    buildings::LegendInput legend;
+    legend.name = coloring.field;
+    legend.kinds = kinds->value();
+    return legend;
 }
 
 } // namespace
@@ -127,14 +148,19 @@ Result<buildings::LegendInput> readColoring(RasterColoring &coloring,
                                             const buildings::BuildingLayerInput &layer, bool quiet,
                                             QStringList &warnings)
 {
-    const QString image = coloring.rasterFile;
-    if (const auto error = checkRaster(coloring, warnings))
-        return *error;
+    const bool isOfField = !coloring.field.isEmpty();
+    const QString source = isOfField ? layer.source.file : coloring.rasterFile;
+    if (coloring.isText)
+        return readKinds(coloring, layer, quiet);
+    if (!isOfField) {
+        if (const auto error = checkRaster(coloring, warnings))
+            return *error;
+    }
     const auto map = chosenColorMap(coloring.colorMap, layer.installDir);
     if (!map)
         return map.error();
     coloring.colorMap = map.value().path;
-    const auto range = readRange(coloring, layer, image, quiet);
+    const auto range = readRange(coloring, layer, source, quiet);
     if (!range)
         return range.error();
     auto legend = buildings::legendOf(coloring, range.value());

@@ -140,7 +140,7 @@ void warnOfImages(const BuildingsInputs &inputs)
 std::optional<buildings::ValueSummary> summaryOf(const BuildingsInputs &inputs)
 {
     const buildings::CountedBuildings &counted = inputs.layer.counted;
-    if (!inputs.layer.legend)
+    if (!inputs.layer.legend || inputs.coloring.rasterFile.isEmpty())
         return std::nullopt;
     return buildings::summarize(counted.values, *inputs.layer.legend,
                                 buildings::unitOf(counted.unit, inputs.coloring));
@@ -174,6 +174,7 @@ QString layerJson(const BuildingsRequest &request, const BuildingsInputs &inputs
         {QStringLiteral("terrain"), source.terrainFile},
         {QStringLiteral("terrainNoData"), textOrNull(source.terrainNoData)},
         {QStringLiteral("image"), textOrNull(inputs.coloring.rasterFile)},
+        {QStringLiteral("colorField"), textOrNull(inputs.coloring.field)},
         {QStringLiteral("colormap"), textOrNull(inputs.coloring.colorMap)},
         {QStringLiteral("xCenter"), source.xCenter},
         {QStringLiteral("yCenter"), source.yCenter},

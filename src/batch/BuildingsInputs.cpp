@@ -64,8 +64,28 @@ struct Footprints
 {
     BuildingsSource source;
     geodata::PolygonLayer layer;
-    QStringList warnings; ///< about the choice of the height field and the units
+    QStringList warnings;            ///< about the choice of the height field and the units
+    geodata::VectorField colorField; ///< without a name if no field colors the buildings
 };
+
+/// The field of numbers or texts that is requested for the colours.
+Result<geodata::VectorField> chosenColorField(const geodata::PolygonLayer &layer,
+                                              const QString &wanted, const QString &path)
+{
+    QList<geodata::VectorField> fields = layer.fields;
+    fields.removeIf([](const auto &field) { return field.kind == geodata::FieldKind::Other; });
+    QStringList names;
+    for (const geodata::VectorField &field : fields)
+        names << field.name;
+    const qsizetype index = indexOfName(names, wanted);
+    if (index >= 0)
+        return fields.at(index);
+    return Error::asIs(
+        dico_label("MESS_CLI_NO_COLOR_FIELD",
+                   "there is no field \"%1\" of numbers or texts; the fields are: %2")
+            .arg(wanted, names.join(QStringLiteral(", "))),
+        path);
+}
 
 Result<Footprints> readVector(const BuildingsRequest &request, const QString &path)
 {
@@ -81,6 +101,12 @@ Result<Footprints> readVector(const BuildingsRequest &request, const QString &pa
     if (!field)
         return field.error();
     Footprints footprints;
+    if (request.image && !request.image->field.isEmpty()) {
+        const auto colorField = chosenColorField(layer, request.image->field, path);
+        if (!colorField)
+            return colorField.error();
+        footprints.colorField = colorField.value();
+    }
     if (const QString hint = buildings::heightHint(layer, buildings::preselectedHeightField(layer));
         request.heightField.isEmpty() && !hint.isEmpty())
         footprints.warnings << hint;
@@ -170,6 +196,10 @@ Result<BuildingsInputs> readFiles(const BuildingsRequest &request, const Surroun
     inputs.layer.footprints = request.footprints;
     inputs.layer.installDir = surroundings.installDir;
     inputs.warnings = footprints.value().warnings;
+    if (request.image)
+        inputs.coloring = *request.image;
+    inputs.coloring.field = footprints.value().colorField.name;
+    inputs.coloring.isText = footprints.value().colorField.kind == geodata::FieldKind::String;
     if (!terrain.value().warning.isEmpty())
         inputs.warnings << terrain.value().warning;
     inputs.files = {vector.value(), dtm, project};
@@ -186,7 +216,6 @@ Result<BuildingsInputs> readBuildingsInputs(const BuildingsRequest &request,
         return read;
     BuildingsInputs inputs = read.value();
     if (request.image) {
-        inputs.coloring = *request.image;
         const auto legend = readColoring(inputs.coloring, inputs.layer, quiet, inputs.warnings);
         if (!legend)
             return legend.error();

@@ -24,6 +24,12 @@ QList<QCommandLineOption> coloredOptions()
          dico_label("MESS_OPT_IMAGE_NODATA", "Value of pixels without data, in addition to the "
                                              "value that the file declares (default none)."),
          QStringLiteral("NUMBER")},
+        {QStringLiteral("color-field"),
+         dico_label("MESS_OPT_COLOR_FIELD",
+                    "Field of the vector file that colors the buildings in place of an image: "
+                    "numbers through the color map, texts by distinct colors for the 12 most "
+                    "frequent ones. Other programs that read the layer show plain buildings."),
+         QStringLiteral("NAME")},
         {QStringLiteral("colormap"),
          dico_label("MESS_OPT_COLORMAP",
                     "Color map: one of the installation's by its name, or a file (default: "

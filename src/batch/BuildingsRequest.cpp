@@ -17,10 +17,13 @@ using contract::BuildingTextures;
 using contract::Reduction;
 
 /// Options that are allowed only with another option.
-const QStringList OfImage = {QStringLiteral("band"),     QStringLiteral("image-nodata"),
-                             QStringLiteral("colormap"), QStringLiteral("absolute"),
-                             QStringLiteral("stretch"),  QStringLiteral("color-ranges"),
+const QStringList OfImage = {QStringLiteral("band"), QStringLiteral("image-nodata"),
                              QStringLiteral("mode")};
+const QStringList OfMap = {QStringLiteral("colormap"), QStringLiteral("absolute"),
+                           QStringLiteral("stretch"), QStringLiteral("color-ranges")};
+const QStringList NotOfField = {QStringLiteral("image"), QStringLiteral("texture"),
+                                QStringLiteral("textures"), QStringLiteral("wall-color"),
+                                QStringLiteral("roof-color")};
 const QStringList OfFolders = {QStringLiteral("structure"), QStringLiteral("filter")};
 const QStringList OfTextures = {
     QStringLiteral("texture-on"),  QStringLiteral("textured-distance"),
@@ -78,10 +81,16 @@ bool hasTextures(const QCommandLineParser &parser)
     return parser.isSet(QStringLiteral("texture")) || parser.isSet(QStringLiteral("textures"));
 }
 
-/// Whether the options give the buildings more than the image's colours.
+/// Whether an image or a field colours the buildings.
+bool hasColoring(const QCommandLineParser &parser)
+{
+    return parser.isSet(QStringLiteral("image")) || parser.isSet(QStringLiteral("color-field"));
+}
+
+/// Whether the options give the buildings more than these colours.
 bool hasTexturingOptions(const QCommandLineParser &parser)
 {
-    return hasTextures(parser) || !parser.isSet(QStringLiteral("image")) ||
+    return hasTextures(parser) || !hasColoring(parser) ||
            parser.isSet(QStringLiteral("wall-color")) || parser.isSet(QStringLiteral("roof-color"));
 }
 
@@ -101,6 +110,12 @@ std::optional<Error> checkCompanions(const QCommandLineParser &parser)
     std::optional<Error> error;
     if (!parser.isSet(QStringLiteral("image")))
         error = refused(OfImage, dico_label("MESS_USE_ONLY_IMAGE", "%1 needs --image"));
+    if (!error && !hasColoring(parser))
+        error =
+            refused(OfMap, dico_label("MESS_USE_ONLY_COLORS", "%1 needs --image or --color-field"));
+    if (!error && parser.isSet(QStringLiteral("color-field")))
+        error = refused(NotOfField, dico_label("MESS_USE_NOT_FIELD",
+                                               "%1 and --color-field cannot be combined"));
     if (!error && !hasFolders)
         error = refused(OfFolders, dico_label("MESS_USE_ONLY_SET", "%1 needs --textures"));
     if (!error && !hasTextures(parser))
@@ -117,9 +132,12 @@ Result<RasterColoring> readImage(const QCommandLineParser &parser)
 {
     RasterColoring image;
     image.rasterFile = parser.value(QStringLiteral("image"));
-    if (image.rasterFile.isEmpty())
-        return wrongUsage(
-            dico_label("MESS_USE_NO_VALUE", "%1 needs a value").arg(QStringLiteral("--image")));
+    image.field = parser.value(QStringLiteral("color-field"));
+    if (image.rasterFile.isEmpty() && image.field.isEmpty())
+        return wrongUsage(dico_label("MESS_USE_NO_VALUE", "%1 needs a value")
+                              .arg(parser.isSet(QStringLiteral("image"))
+                                       ? QStringLiteral("--image")
+                                       : QStringLiteral("--color-field")));
     if (const auto error = checkNoData(parser, QStringLiteral("image-nodata")))
         return *error;
     image.noData = parser.value(QStringLiteral("image-nodata"));
@@ -139,6 +157,9 @@ Result<RasterColoring> readImage(const QCommandLineParser &parser)
         if (!image.stretched)
             return wrongUsage(
                 dico_label("MESS_USE_BOTH_STRETCH", "--absolute and --stretch cannot be combined"));
+        if (chosen->kind == buildings::Stretch::Shared && !image.field.isEmpty())
+            return wrongUsage(dico_label("MESS_USE_ONLY_IMAGE", "%1 needs --image")
+                                  .arg(QStringLiteral("--stretch with")));
         image.stretch = *chosen;
     }
     image.interpolated = !parser.isSet(QStringLiteral("color-ranges"));
@@ -295,7 +316,7 @@ Result<BuildingsRequest> readBuildingsRequest(const QCommandLineParser &parser)
 
     if (const auto error = checkCompanions(parser))
         return *error;
-    if (parser.isSet(QStringLiteral("image"))) {
+    if (hasColoring(parser)) {
         const Result<RasterColoring> image = readImage(parser);
         if (!image)
             return image.error();

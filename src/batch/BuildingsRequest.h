@@ -31,7 +31,7 @@ struct BuildingsRequest
     QString terrain; ///< empty for that of the project
     std::optional<QString> terrainNoData;
     contract::BuildingFootprints footprints;
-    std::optional<buildings::RasterColoring> image; ///< image and colour map as given
+    std::optional<buildings::RasterColoring> image; ///< image, field and colour map as given
     /// None for buildings with the image's colours; without textures for plain buildings. The
     /// textures have no images yet.
     std::optional<buildings::TexturingParameters> texturing;

@@ -114,7 +114,10 @@ private:
     /// values or by another user's file, the name starts with the layer's name.
     Result<Done> writeLegend(const LegendInput &legend)
     {
-        const QImage image = colormaps::drawLegend(legend.map, legend.interpretation, LegendScale);
+        const QImage image =
+            legend.kinds.isEmpty()
+                ? colormaps::drawLegend(legend.map, legend.interpretation, LegendScale)
+                : colormaps::drawLegend(legend.kinds, LegendScale);
         m_legendSize = image.size() / LegendScale;
         if (isOther(image, m_files.legend))
             return writeLegendAs(ownLegendName(m_files.document, legend.name), image);
@@ -237,8 +240,13 @@ contract::BuildingDocument coloredDocument(const BuildingLayerInput &input,
                                            const RasterColoring &walls)
 {
     contract::BuildingDocument document = documentOf(input);
-    document.footprints.wallColor = imageColor(walls).toStdString();
     document.colors = otherColors(walls);
+    if (walls.field.isEmpty())
+        document.footprints.wallColor = imageColor(walls).toStdString();
+    else {
+        document.footprints.wallColor = contract::FirstWallColor;
+        document.footprints.roofColor = contract::FirstRoofColor;
+    }
     return document;
 }
 
@@ -268,9 +276,11 @@ Result<BuildingLayerFiles> writeColoredLayer(const QString &layerPath,
                                              const RasterColoring &walls, platform::Access access)
 {
     const RasterColoring written = withOwnMap(walls, filesOf(layerPath, input));
+    const contract::BuildingDocument document = coloredDocument(input, written);
     return FilesWriter(layerPath, input, access)
-        .write(writeColoredTexbDocument(coloredDocument(input, written)), TexbSubtype::Colored,
-               [](const QString &legend) { return legend; });
+        .write(walls.field.isEmpty() ? writeColoredTexbDocument(document)
+                                     : writeTexbDocument(document),
+               TexbSubtype::Colored, [](const QString &legend) { return legend; });
 }
 
 Result<BuildingLayerFiles> writeTexturedLayer(const QString &layerPath,

@@ -29,6 +29,7 @@ struct LegendInput
     QString name;            ///< name of the colour map that the user sees
     colormaps::ColorMap map; ///< stretched to the values that it is used for
     colormaps::Interpretation interpretation = colormaps::Interpretation::Interpolation;
+    QList<colormaps::LegendKind> kinds = {}; ///< in place of a map
     bool isOwnMap = false; ///< the layer gets a file with the stretched map, which it names
 };
 
@@ -51,7 +52,8 @@ QStringList possibleFilesOf(const QString &layerPath, const BuildingLayerInput &
 /// The content that both kinds of documents have.
 contract::BuildingDocument documentOf(const BuildingLayerInput &input);
 
-/// The document of a layer with colours from a raster.
+/// The document of a layer with colours from a raster. If they come from a field, it is a full
+/// document with the colours of a first run, which other readers show.
 contract::BuildingDocument coloredDocument(const BuildingLayerInput &input,
                                            const RasterColoring &walls);
 

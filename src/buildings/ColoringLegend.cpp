@@ -16,9 +16,11 @@ Result<LegendInput> legendOf(const RasterColoring &coloring,
                                 isLaidOver ? range->maximum : ColorMap::Unset);
     if (!map)
         return map.error();
-    return LegendInput{colormaps::colorMapEntry(coloring.colorMap).name, map.value(),
+    return LegendInput{colormaps::colorMapEntry(coloring.colorMap).name,
+                       map.value(),
                        coloring.interpolated ? colormaps::Interpretation::Interpolation
                                              : colormaps::Interpretation::ColorRanges,
+                       {},
                        needsOwnMap(coloring)};
 }
 

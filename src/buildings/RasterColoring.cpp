@@ -15,7 +15,8 @@ contract::RasterColors rasterColors(const RasterColoring &coloring)
 
 bool needsOwnMap(const RasterColoring &coloring)
 {
-    return coloring.stretched && coloring.stretch.kind != Stretch::Raster;
+    return coloring.stretched && !coloring.isText &&
+           (!coloring.field.isEmpty() || coloring.stretch.kind != Stretch::Raster);
 }
 
 bool isUsable(const geodata::RasterSummary &raster)
@@ -34,6 +35,15 @@ QString bandText(int band, const QStringList &descriptions)
 contract::BuildingColors otherColors(const RasterColoring &coloring)
 {
     contract::BuildingColors colors;
+    if (!coloring.field.isEmpty()) {
+        using enum contract::FieldColoring;
+        colors.field = coloring.field.toStdString();
+        colors.map = coloring.isText ? std::string() : coloring.colorMap.toStdString();
+        colors.coloring = coloring.isText         ? Distinct
+                          : coloring.interpolated ? Interpolation
+                                                  : ColorRange;
+        return colors;
+    }
     colors.band = coloring.band;
     if (coloring.stretched && !needsOwnMap(coloring))
         colors.range = coloring.range;

@@ -12,7 +12,7 @@ namespace vlt::buildings {
 
 using contract::Reduction;
 
-/// The user's choice of colours from a raster and a colour map.
+/// The user's choice of colours from a raster, or a field of the footprints, and a colour map.
 struct RasterColoring
 {
     QString rasterFile;
@@ -22,6 +22,8 @@ struct RasterColoring
     bool interpolated = true; ///< false for ranges of one colour
     QString noData;           ///< as the user typed it; may be empty
     int band = contract::RasterBand.firstRun;
+    QString field = {};  ///< in place of the raster; else empty
+    bool isText = false; ///< the field has texts, which get distinct colours without a map
     Stretch stretch = {};
     std::optional<contract::KnownRasterRange> range = {}; ///< for the document; see RasterRange
     bool hasBand = false;                                 ///< the user stated the band

@@ -1,6 +1,7 @@
 #include "buildings/RasterRanges.h"
 
 #include "buildings/CountedBuildings.h"
+#include "buildings/FieldColors.h"
 #include "coverage/RasterStamp.h"
 #include "geodata/ErrorCollector.h"
 
@@ -168,6 +169,8 @@ Stoppable<RasterRange> readRange(const RasterColoring &coloring,
                                  const contract::BuildingDocument &document,
                                  const Progress &progress)
 {
+    if (!coloring.field.isEmpty())
+        return rangeOfField(coloring, document, progress);
     const Stretch &stretch = coloring.stretch;
     switch (stretch.kind) {
     case Stretch::Raster:

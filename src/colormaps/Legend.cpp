@@ -210,6 +210,41 @@ QImage drawLegend(const ColorMap &map, Interpretation interpretation, int scale)
     return LegendPainter(map, interpretation, std::max(1, scale)).draw();
 }
 
+QImage drawLegend(const QList<LegendKind> &kinds, int scale)
+{
+    if (kinds.isEmpty() || !qobject_cast<QGuiApplication *>(qApp))
+        return {};
+    constexpr int MaxCharacters = 40;
+    const Measures in(std::max(1, scale));
+    QFont font;
+    font.setPixelSize(in.fontSize);
+    const QFontMetrics metrics(font);
+    const int widest = MaxCharacters * metrics.averageCharWidth();
+    const int row = std::max(metrics.height(), in.swatch) + in.gap;
+    int textWidth = 0;
+    for (const LegendKind &kind : kinds)
+        textWidth = std::max(textWidth, metrics.horizontalAdvance(kind.name));
+    const int textLeft = in.margin + in.barWidth + in.tick + in.gap;
+    const auto whole = [&in](int length) { return (length + in.line - 1) / in.line * in.line; };
+    QImage image(whole(textLeft + std::min(textWidth, widest) + in.margin),
+                 whole(2 * in.margin + static_cast<int>(kinds.size()) * row), QImage::Format_RGB32);
+    image.fill(Ground);
+    QPainter painter(&image);
+    painter.setFont(font);
+    int top = in.margin;
+    for (const LegendKind &kind : kinds) {
+        const QRect area(in.margin, top + (row - in.swatch) / 2, in.barWidth, in.swatch);
+        painter.fillRect(area, Frame);
+        painter.fillRect(area.adjusted(in.line, in.line, -in.line, -in.line), toQColor(kind.color));
+        painter.setPen(Ink);
+        painter.drawText(QRect(textLeft, top, image.width() - textLeft, row),
+                         Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
+                         metrics.elidedText(kind.name, Qt::ElideRight, widest));
+        top += row;
+    }
+    return image;
+}
+
 QString legendPath(const QString &directory, const QString &colorMapName)
 {
     return QDir(directory).filePath(colorMapName + QStringLiteral("_gradient.png"));

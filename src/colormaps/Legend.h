@@ -4,6 +4,7 @@
 #include "platform/AtomicFile.h"
 
 #include <QImage>
+#include <QList>
 #include <QString>
 
 namespace vlt::colormaps {
@@ -17,6 +18,18 @@ namespace vlt::colormaps {
 /// @param scale  pixels of the image for one pixel of the screen, 1 or more
 /// @return       null for a map without colours, and if there is no QGuiApplication
 QImage drawLegend(const ColorMap &map, Interpretation interpretation, int scale = 1);
+
+/// One of several kinds, which have no order.
+struct LegendKind
+{
+    QString name;
+    Rgba color;
+};
+
+/// The legend of kinds: their colours below each other, with the names beside them.
+///
+/// @return  null without kinds, and if there is no QGuiApplication
+QImage drawLegend(const QList<LegendKind> &kinds, int scale = 1);
 
 /// Path of the legend of a colour map: "<name>_gradient.png" in `directory`.
 QString legendPath(const QString &directory, const QString &colorMapName);

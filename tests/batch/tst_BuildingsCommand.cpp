@@ -256,6 +256,46 @@ private Q_SLOTS:
                 !this->start(above + u"--height-reference "_s + stated).errors.contains(advice));
     }
 
+    void colorsByAField_data()
+    {
+        const Cases<QString, QString, QByteArray> row({"options", "colors", "map"});
+        row("texts", "--color-field use", u"field=\"USE\"\n    mode=\"distinct\"\n"_s, {});
+        row("numbers", "--color-field height --colormap ../own.txt",
+            u"field=\"height\"\n    map=\"@/elsewhere/o_own.cmap\"\n"_s,
+            "10 0 255 0 255\n12 255 255 255 255\n");
+        row("percentiles", "--color-field height --colormap ../own.txt --stretch percentile=0-60",
+            u"field=\"height\"\n    map=\"@/elsewhere/o_own.cmap\"\n"_s,
+            "10 0 255 0 255\n10.5 255 255 255 255\n");
+        row("absolute ranges",
+            "--color-field height --absolute --color-ranges --colormap level_dbm",
+            u"field=\"height\"\n    map=\"@/install "
+            u"dir/addons/telecom/colormaps/b/level_dBm.cmap\"\n"
+            "    mode=\"colorrange\"\n"_s,
+            {});
+    }
+
+    void colorsByAField()
+    {
+        QFETCH(QString, options);
+        QFETCH(QString, colors);
+        QFETCH(QByteArray, map);
+
+        const Run run = start(Common + options + u" --json"_s);
+
+        QCOMPARE(run.errors, QByteArray());
+        QCOMPARE(QFile::exists(path(u"elsewhere/o_own.cmap"_s)), !map.isEmpty());
+        if (!map.isEmpty())
+            QCOMPARE(readFile(path(u"elsewhere/o_own.cmap"_s)), map);
+        const QString document = QString::fromUtf8(readFile(path(u"elsewhere/o.texb"_s)));
+        QVERIFY2(
+            document.contains(u"  <colors \n    "_s + colors.replace(u'@', path({})) + u"  />\n"_s),
+            qPrintable(document));
+        QVERIFY(document.contains(u"wallColor=\"#d9d4c7\"\n    roofColor=\"#b5634c\""_s));
+        const QJsonObject reported = QJsonDocument::fromJson(run.output).object();
+        QCOMPARE(reported.value(u"subtype"_s).toString(), u"rf_colored_buildings"_s);
+        QVERIFY(QImage(reported.value(u"legend"_s).toString()).height() > 40);
+    }
+
     void warnsOfImages_data()
     {
         const Cases<QString, QByteArray, int> row({"options", "warning", "images"});
@@ -365,6 +405,12 @@ private Q_SLOTS:
         row("% --image ../level.asc --stretch with=../own.txt", 1,
             "can't be open as a raster dataset");
         row("% --image ../level.asc --absolute --stretch raster", 2, "cannot be combined");
+        row("% --color-field WIDTH", 1,
+            "there is no field \"WIDTH\" of numbers or texts; the fields are: id, USE, height");
+        row("% --color-field id --image ../level.asc", 2, "--image and --color-field cannot");
+        row("% --color-field id --mode average", 2, "--mode needs --image");
+        row("% --color-field id --stretch with=../level.asc", 2, "--stretch with needs --image");
+        row("% --stretch buildings", 2, "--stretch needs --image or --color-field");
         row("% --band 2", 2, "--band needs --image");
         row("% --image ../level.asc --band 0", 2, "--band is the number of a band");
         row("% --image ../level.asc --mode middle", 2, "minimum|maximum|average|most-represented");

@@ -103,5 +103,33 @@
         <source>--absolute and --stretch cannot be combined</source>
         <translation>--absolute and --stretch cannot be combined</translation>
     </message>
+    <message id="MESS_OPT_COLOR_FIELD">
+        <source>Field of the vector file that colors the buildings in place of an image: numbers through the color map, texts by distinct colors for the 12 most frequent ones. Other programs that read the layer show plain buildings.</source>
+        <translation>Field of the vector file that colors the buildings in place of an image: numbers through the color map, texts by distinct colors for the 12 most frequent ones. Other programs that read the layer show plain buildings.</translation>
+    </message>
+    <message id="MESS_USE_ONLY_COLORS">
+        <source>%1 needs --image or --color-field</source>
+        <translation>%1 needs --image or --color-field</translation>
+    </message>
+    <message id="MESS_USE_NOT_FIELD">
+        <source>%1 and --color-field cannot be combined</source>
+        <translation>%1 and --color-field cannot be combined</translation>
+    </message>
+    <message id="MESS_CLI_NO_COLOR_FIELD">
+        <source>there is no field "%1" of numbers or texts; the fields are: %2</source>
+        <translation>there is no field "%1" of numbers or texts; the fields are: %2</translation>
+    </message>
+    <message id="MESS_FIELD_NO_VALUES">
+        <source>the field "%1" has no values</source>
+        <translation>the field "%1" has no values</translation>
+    </message>
+    <message id="MESS_FIELD_OTHERS">
+        <source>others</source>
+        <translation>others</translation>
+    </message>
+    <message id="MESS_READING_FIELD">
+        <source>Reading the values of the field...</source>
+        <translation>Reading the values of the field...</translation>
+    </message>
 </context>
 </TS>

@@ -103,5 +103,33 @@
         <source>--absolute and --stretch cannot be combined</source>
         <translation>--absolute et --stretch sont incompatibles</translation>
     </message>
+    <message id="MESS_OPT_COLOR_FIELD">
+        <source>Field of the vector file that colors the buildings in place of an image: numbers through the color map, texts by distinct colors for the 12 most frequent ones. Other programs that read the layer show plain buildings.</source>
+        <translation>Champ du fichier vecteur qui colore les bâtiments à la place d'une image&#xa0;: les nombres par la palette, les textes par des couleurs distinctes pour les 12 plus fréquents. D'autres programmes qui lisent la couche montrent des bâtiments unis.</translation>
+    </message>
+    <message id="MESS_USE_ONLY_COLORS">
+        <source>%1 needs --image or --color-field</source>
+        <translation>%1 demande --image ou --color-field</translation>
+    </message>
+    <message id="MESS_USE_NOT_FIELD">
+        <source>%1 and --color-field cannot be combined</source>
+        <translation>%1 et --color-field sont incompatibles</translation>
+    </message>
+    <message id="MESS_CLI_NO_COLOR_FIELD">
+        <source>there is no field "%1" of numbers or texts; the fields are: %2</source>
+        <translation>il n'y a pas de champ «&#xa0;%1&#xa0;» de nombres ou de textes&#xa0;; les champs sont&#xa0;: %2</translation>
+    </message>
+    <message id="MESS_FIELD_NO_VALUES">
+        <source>the field "%1" has no values</source>
+        <translation>le champ «&#xa0;%1&#xa0;» n'a pas de valeurs</translation>
+    </message>
+    <message id="MESS_FIELD_OTHERS">
+        <source>others</source>
+        <translation>autres</translation>
+    </message>
+    <message id="MESS_READING_FIELD">
+        <source>Reading the values of the field...</source>
+        <translation>Lecture des valeurs du champ...</translation>
+    </message>
 </context>
 </TS>
