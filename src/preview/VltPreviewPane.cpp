@@ -6,6 +6,8 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include <utility>
+
 VltPreviewPane::VltPreviewPane(QWidget *parent) : QWidget(parent)
 {
     auto *layout = new QVBoxLayout(this);
@@ -32,11 +34,11 @@ VltPreviewPane::VltPreviewPane(QWidget *parent) : QWidget(parent)
     layout->addWidget(text);
 }
 
-void VltPreviewPane::showScene(osg::Node *scene)
+void VltPreviewPane::showScene(osg::Node *scene, GroundMaker ground)
 {
     if (!m_viewer)
         return;
-    m_viewer->showScene(scene);
+    m_viewer->showScene(scene, std::move(ground));
     m_hasScene = scene != nullptr;
     showHint();
 }

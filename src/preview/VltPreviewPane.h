@@ -1,5 +1,7 @@
 #pragma once
 
+#include "preview/Surroundings.h"
+
 #include <osg/BoundingBox>
 #include <osg/Node>
 
@@ -22,7 +24,9 @@ public:
     bool hasView() const { return m_viewer != nullptr; }
 
     /// Replaces the scene. For the first one, the camera then shows the whole scene.
-    void showScene(osg::Node *scene);
+    ///
+    /// @param ground  shown under the scene, with a sky; empty: the scene alone
+    void showScene(osg::Node *scene, GroundMaker ground = {});
 
     /// Looks at the point `heightM` above the origin from `distanceM` metres.
     void placeCamera(double distanceM, double heightM);

@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace {
 
@@ -76,6 +77,7 @@ W_simpleOSGViewer::W_simpleOSGViewer(const QSurfaceFormat &format, QWidget *pare
                                      osg::GraphicsContext *shareContext, Qt::WindowFlags flags)
     : QOpenGLWidget(parent, flags)
     , m_trackBall(new VltTrackBall)
+    , m_surroundings(*getCamera())
 {
     ref(); // the parent widget owns it, so the scene library must never delete it
     setFormat(format);
@@ -87,6 +89,7 @@ W_simpleOSGViewer::W_simpleOSGViewer(const QSurfaceFormat &format, QWidget *pare
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
     connect(&m_refresh, &QTimer::timeout, this, [this] {
+        updateSurroundings();
         if (needsFrame())
             QOpenGLWidget::update();
     });
@@ -202,7 +205,19 @@ void W_simpleOSGViewer::paintGL()
     m_levelOfDetail = getCamera()->getViewport()->height() / distance;
 }
 
-void W_simpleOSGViewer::showScene(osg::Node *scene)
+void W_simpleOSGViewer::updateSurroundings()
+{
+    if (!isVisible() || !getSceneData())
+        return;
+    osg::Vec3d eye;
+    osg::Vec3d center;
+    osg::Vec3d up;
+    m_trackBall->getTransformation(eye, center, up);
+    if (m_surroundings.update(eye, center))
+        m_framesToDraw = SettlingFrames;
+}
+
+void W_simpleOSGViewer::showScene(osg::Node *scene, GroundMaker ground)
 {
     // the graphics objects of the old scene can only be released in the context of this view
     if (osg::Node *old = getSceneData(); old && old != scene && QOpenGLWidget::context()) {
@@ -215,6 +230,8 @@ void W_simpleOSGViewer::showScene(osg::Node *scene)
     osg::Vec3d up;
     m_trackBall->getTransformation(eye, center, up);
     setSceneData(scene); // this moves the camera to its home position
+    setLightingMode(ground ? osg::View::NO_LIGHT : osg::View::HEADLIGHT);
+    m_surroundings.show(scene ? std::move(ground) : GroundMaker());
     if (m_wasShown)
         m_trackBall->setTransformation(eye, center, up);
     else if (scene)
@@ -450,6 +467,7 @@ W_simpleOSGViewer::intersectionsAt(const QPointF &position)
     osg::ref_ptr<osgUtil::LineSegmentIntersector> line =
         new osgUtil::LineSegmentIntersector(osgUtil::Intersector::WINDOW, position.x(), y);
     osgUtil::IntersectionVisitor visitor(line);
+    visitor.setTraversalMask(~Surroundings::Mask);
     getCamera()->accept(visitor);
     return line->getIntersections();
 }

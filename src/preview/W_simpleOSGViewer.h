@@ -1,5 +1,7 @@
 #pragma once
 
+#include "preview/Surroundings.h"
+
 #include <QMetaType>
 #include <QOpenGLWidget>
 #include <QSurfaceFormat>
@@ -43,7 +45,9 @@ public:
     static bool isAvailable();
 
     /// Replaces the scene. For the first one, the camera then shows the whole scene.
-    void showScene(osg::Node *scene);
+    ///
+    /// @param ground  shown under the scene, with a sky; empty: the scene alone
+    void showScene(osg::Node *scene, GroundMaker ground = {});
 
     /// Looks at the point `heightM` above the origin from `distanceM` metres.
     void placeCamera(double distanceM, double heightM);
@@ -116,6 +120,7 @@ private:
     void takeKeys(Qt::KeyboardModifiers modifiers);
     osgUtil::LineSegmentIntersector::Intersections intersectionsAt(const QPointF &position);
     bool needsFrame();
+    void updateSurroundings();
 
     osg::ref_ptr<osgViewer::GraphicsWindowEmbedded> m_graphicsWindow;
     QTimer m_refresh;
@@ -128,6 +133,7 @@ private:
     bool m_wasInitialised = false;
     bool m_wasShown = false;
     osg::observer_ptr<osg::Node> m_drawnScene;
+    Surroundings m_surroundings;
     int m_framesToDraw = 0;
     QPointF m_pressedAt;
 };

@@ -6,7 +6,6 @@
 #include "contract/SceneTexts.h"
 #include "landscape/scene/GroundNode.h"
 #include "snapshot/DrawnExtents.h"
-#include "snapshot/SceneSource.h"
 
 #include <QFile>
 
@@ -87,6 +86,17 @@ osg::ref_ptr<osg::Node> SceneGround::around(const osg::Vec3d &eye, const osg::Ve
         m_problem = QString::fromStdString(contract::formatted("MESS_SCENE_NO_SURFACE"));
     }
     return landscape::makePlaneNode(finest, m_heightM);
+}
+
+std::function<osg::ref_ptr<osg::Node>(const osg::Vec3d &eye, const osg::Vec3d &target)>
+groundUnder(const Scene &scene, const QString &terrain)
+{
+    if (!scene)
+        return {};
+    const auto ground = std::make_shared<SceneGround>(*scene, terrain, false);
+    return [ground](const osg::Vec3d &eye, const osg::Vec3d &target) {
+        return ground->around(eye, target);
+    };
 }
 
 } // namespace vlt::snapshot

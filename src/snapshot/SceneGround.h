@@ -1,11 +1,13 @@
 #pragma once
 
 #include "landscape/Terrain.h"
+#include "snapshot/SceneSource.h"
 
 #include <QString>
 
 #include <osg/Node>
 
+#include <functional>
 #include <memory>
 
 namespace vlt::snapshot {
@@ -33,5 +35,12 @@ private:
     double m_heightM = 0; ///< of the plane
     QString m_problem;
 };
+
+/// A function that makes the ground under a scene around a point of view, with the terrain of the
+/// scene, else another one. Not for two threads at once.
+///
+/// @param terrain  path; may be empty
+std::function<osg::ref_ptr<osg::Node>(const osg::Vec3d &eye, const osg::Vec3d &target)>
+groundUnder(const Scene &scene, const QString &terrain);
 
 } // namespace vlt::snapshot

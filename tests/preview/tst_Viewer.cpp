@@ -16,6 +16,7 @@
 #include <osg/Shape>
 #include <osg/ShapeDrawable>
 
+#include <atomic>
 #include <functional>
 
 using namespace Qt::StringLiterals;
@@ -333,6 +334,41 @@ private Q_SLOTS:
         const osg::Vec3d stopped = eye();
         waitForFrames();
         QCOMPARE((eye() - stopped).length(), 0);
+    }
+
+    void showsTheGroundUnderTheScene()
+    {
+        // a red ground, made again when the camera is ten times nearer
+        std::atomic<int> made = 0;
+        const GroundMaker ground = [&made](const osg::Vec3d &, const osg::Vec3d &target) {
+            ++made;
+            osg::ref_ptr<osg::Geode> box = new osg::Geode;
+            box->addDrawable(new osg::ShapeDrawable(new osg::Box(
+                osg::Vec3(0, 0, -15) + osg::Vec3(target.x(), target.y(), 0), 4000, 4000, 1)));
+            static_cast<osg::ShapeDrawable *>(box->getDrawable(0))->setColor({1, 0, 0, 1});
+            return osg::ref_ptr<osg::Node>(box);
+        };
+        const auto corner = [this] {
+            const QImage picture = m_viewer->grabFramebuffer();
+            return picture.pixelColor(3, picture.height() - 4);
+        };
+        const osg::ref_ptr<osg::Node> ball = ballAt({});
+
+        m_viewer->showScene(ball, ground);
+        m_viewer->centerView();
+
+        QTRY_VERIFY_WITH_TIMEOUT(corner().red() > 2 * corner().blue() + 40, PatienceMs);
+        QCOMPARE(m_viewer->getSceneData(), ball.get());
+        QCOMPARE(made, 1);
+        QSignalSpy picked(m_viewer, &W_simpleOSGViewer::emitSelection);
+        QTest::mouseClick(m_viewer, Qt::LeftButton, {}, {3, m_viewer->height() - 4});
+        QCOMPARE(picked.size(), 1);
+        QVERIFY(picked[0][0].value<osgUtil::LineSegmentIntersector::Intersections>().empty());
+        m_viewer->placeCamera(500, 0);
+        QTRY_COMPARE_WITH_TIMEOUT(made, 2, PatienceMs);
+        m_viewer->showScene(nullptr);
+        QTRY_VERIFY_WITH_TIMEOUT(isSky(m_viewer->grabFramebuffer(), {3, 3}), PatienceMs);
+        QVERIFY(isSky(m_viewer->grabFramebuffer(), {3, m_viewer->height() - 4}));
     }
 
     void drawsOnlyWhatChanges_data()

@@ -25,7 +25,7 @@ osg::ref_ptr<osg::LightSource> makeLight(int number, const osg::Vec3 &direction,
 
 } // namespace
 
-osg::ref_ptr<osg::Group> underLight(osg::Node *scene)
+osg::ref_ptr<osg::Group> makeLights(osg::StateSet &lit)
 {
     const osg::Vec4 none(0, 0, 0, 1);
     osg::ref_ptr<osg::Group> group = new osg::Group;
@@ -38,16 +38,22 @@ osg::ref_ptr<osg::Group> underLight(osg::Node *scene)
     const osg::ref_ptr<osg::LightSource> sky =
         makeLight(2, osg::Vec3(0, 0, 1), osg::Vec4(0.14F, 0.16F, 0.19F, 1), none);
 
-    osg::StateSet *state = group->getOrCreateStateSet();
     for (const auto &light : {head, sun, sky}) {
         group->addChild(light);
-        light->setStateSetModes(*state, osg::StateAttribute::ON);
+        light->setStateSetModes(lit, osg::StateAttribute::ON);
     }
     osg::ref_ptr<osg::LightModel> model = new osg::LightModel;
     model->setAmbientIntensity(osg::Vec4(0.34F, 0.36F, 0.40F, 1));
-    state->setAttributeAndModes(model);
-    state->setMode(GL_LIGHTING, osg::StateAttribute::ON);
-    state->setMode(GL_NORMALIZE, osg::StateAttribute::ON);
+    lit.setAttributeAndModes(model);
+    lit.setMode(GL_LIGHTING, osg::StateAttribute::ON);
+    lit.setMode(GL_NORMALIZE, osg::StateAttribute::ON);
+    return group;
+}
+
+osg::ref_ptr<osg::Group> underLight(osg::Node *scene)
+{
+    osg::ref_ptr<osg::Group> group = new osg::Group;
+    group->addChild(makeLights(*group->getOrCreateStateSet()));
     group->addChild(scene);
     return group;
 }

@@ -3,8 +3,10 @@
 #include "ui_LayerPreview.h"
 
 #include "language/ErrorText.h"
+#include "snapshot/SceneGround.h"
 #include "wizard/base/BusyWait.h"
 #include "wizard/base/Messages.h"
+#include "wizard/project/ProjectContext.h"
 
 #include <QApplication>
 #include <QPainter>
@@ -66,7 +68,7 @@ void VltLayerPreview::setDemonstration(const vlt::snapshot::Scene &scene)
 {
     m_demonstration = scene;
     if (!m_ui->m_pwPbOwn->isChecked())
-        m_ui->m_pwPreview->showScene(scene);
+        m_ui->m_pwPreview->showScene(scene, vlt::snapshot::groundUnder(scene, {}));
 }
 
 void VltLayerPreview::setLayerFile(const QString &path, const QString &project)
@@ -102,7 +104,8 @@ void VltLayerPreview::chooseScene(bool ownLayer)
     const bool isShown = ownLayer && showLayer();
     m_ui->m_pwPbOwn->setChecked(isShown);
     if (!isShown && m_demonstration)
-        m_ui->m_pwPreview->showScene(m_demonstration);
+        m_ui->m_pwPreview->showScene(m_demonstration,
+                                     vlt::snapshot::groundUnder(m_demonstration, {}));
     m_ui->m_pwPreview->centerView();
 }
 
@@ -110,12 +113,14 @@ bool VltLayerPreview::showLayer()
 {
     if (m_layerFile.isEmpty())
         return false;
+    const QString terrain = vlt::project::readProjectContext(m_project).terrainFile;
     const auto read = vlt::wizard::waitForValue<vlt::Result<vlt::snapshot::Scene>>(
-        this, m_loadingText, [layer = m_layerFile, project = m_project] {
-            return vlt::snapshot::readScene(layer, project);
+        this, m_loadingText, [layer = m_layerFile, project = m_project, terrain] {
+            return vlt::snapshot::readScene(layer, project, terrain);
         });
     if (read && read->ok()) {
-        m_ui->m_pwPreview->showScene(read->value());
+        m_ui->m_pwPreview->showScene(read->value(),
+                                     vlt::snapshot::groundUnder(read->value(), terrain));
         return true;
     }
     if (read)
