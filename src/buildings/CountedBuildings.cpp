@@ -41,7 +41,8 @@ contract::BuildingDocument countedParts(const contract::BuildingDocument &docume
     parts.footprints.heights = footprints.heights;
     parts.footprints.where = footprints.where;
     parts.footprints.wallColor = valuesText(footprints.wallColor);
-    parts.footprints.roofColor = valuesText(footprints.roofColor);
+    if (parts.footprints.wallColor.empty())
+        parts.footprints.wallColor = valuesText(footprints.roofColor);
     parts.terrain = document.terrain;
     parts.colors.band = document.colors.band;
     return parts;
