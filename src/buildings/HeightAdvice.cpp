@@ -58,7 +58,7 @@ std::optional<HeightAdvice> adviseFilling(const BuildingDocument &document,
     };
     const QString text =
         dico_label("MESS_ADVICE_ELSE", "%1 of %2 buildings have no height in \"%3\"; \"%4\" would "
-                                       "give it for %5 of them.");
+                                       "give it for %5 of them");
     return HeightAdvice{text.arg(number(missing), number(counts.features),
                                  QString::fromStdString(document.footprints.heightField),
                                  best.field, number(best.count)),
@@ -83,7 +83,7 @@ std::optional<HeightAdvice> adviseHeights(const BuildingDocument &document,
     if (!counted.isProbablyAboveSea)
         return std::nullopt;
     return HeightAdvice{
-        dico_label("MESS_ADVICE_SEA", "The values of \"%1\" are probably heights above sea level.")
+        dico_label("MESS_ADVICE_SEA", "The values of \"%1\" are probably heights above sea level")
             .arg(QString::fromStdString(document.footprints.heightField)),
         {}};
 }

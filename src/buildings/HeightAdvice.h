@@ -10,7 +10,7 @@ namespace vlt::buildings {
 /// A better choice for the heights of a source of footprints, which the user may take.
 struct HeightAdvice
 {
-    QString text;      ///< the reason, a sentence in the language in use
+    QString text;      ///< the reason, in the language in use, without a full stop
     QString elseField; ///< the second field; empty: the heights are above sea level
 
     bool operator==(const HeightAdvice &) const = default;

@@ -239,7 +239,7 @@ private Q_SLOTS:
 
         QCOMPARE(none.status, 1);
         QVERIFY2(none.errors.endsWith("; 1 of 1 buildings have no height in \"height\"; \"levels\" "
-                                      "would give it for 1 of them. (--else-field \"levels\")\n"),
+                                      "would give it for 1 of them (--else-field \"levels\")\n"),
                  none.errors.constData());
         QCOMPARE(filled.status, 0);
 
@@ -249,7 +249,7 @@ private Q_SLOTS:
         writeFile(path(u"other.geojson"_s), house({}).left(40) + roofs.join(',') + "]}");
         writeFile(path(u"high.asc"_s), QByteArray(Grid).replace("-", "2"));
         const QString above = start.arg(u"../high.asc"_s);
-        const QByteArray advice = "above sea level. (--height-reference sea)";
+        const QByteArray advice = "above sea level (--height-reference sea)";
         QVERIFY(this->start(above).errors.contains(advice));
         for (const auto &stated : {u"sea"_s, u"ground"_s})
             QVERIFY(

@@ -256,12 +256,12 @@
         <translation>Counting was stopped: refresh the view to make the layer.</translation>
     </message>
     <message id="MESS_ADVICE_ELSE">
-        <source>%1 of %2 buildings have no height in "%3"; "%4" would give it for %5 of them.</source>
-        <translation>%1 of %2 buildings have no height in "%3"; "%4" would give it for %5 of them.</translation>
+        <source>%1 of %2 buildings have no height in "%3"; "%4" would give it for %5 of them</source>
+        <translation>%1 of %2 buildings have no height in "%3"; "%4" would give it for %5 of them</translation>
     </message>
     <message id="MESS_ADVICE_SEA">
-        <source>The values of "%1" are probably heights above sea level.</source>
-        <translation>The values of "%1" are probably heights above sea level.</translation>
+        <source>The values of "%1" are probably heights above sea level</source>
+        <translation>The values of "%1" are probably heights above sea level</translation>
     </message>
     <message id="MESS_ALL_DRAWN">
         <source>Buildings: %1, none left out</source>

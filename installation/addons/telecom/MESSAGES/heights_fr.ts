@@ -256,12 +256,12 @@
         <translation>Le comptage a été interrompu&#xa0;: actualisez la vue pour créer la couche.</translation>
     </message>
     <message id="MESS_ADVICE_ELSE">
-        <source>%1 of %2 buildings have no height in "%3"; "%4" would give it for %5 of them.</source>
-        <translation>%1 bâtiments sur %2 n'ont pas de hauteur dans «&#xa0;%3&#xa0;»&#xa0;; «&#xa0;%4&#xa0;» la donnerait pour %5 d'entre eux.</translation>
+        <source>%1 of %2 buildings have no height in "%3"; "%4" would give it for %5 of them</source>
+        <translation>%1 bâtiments sur %2 n'ont pas de hauteur dans «&#xa0;%3&#xa0;»&#xa0;; «&#xa0;%4&#xa0;» la donnerait pour %5 d'entre eux</translation>
     </message>
     <message id="MESS_ADVICE_SEA">
-        <source>The values of "%1" are probably heights above sea level.</source>
-        <translation>Les valeurs de «&#xa0;%1&#xa0;» sont probablement des altitudes, mesurées depuis la mer.</translation>
+        <source>The values of "%1" are probably heights above sea level</source>
+        <translation>Les valeurs de «&#xa0;%1&#xa0;» sont probablement des altitudes, mesurées depuis la mer</translation>
     </message>
     <message id="MESS_ALL_DRAWN">
         <source>Buildings: %1, none left out</source>
