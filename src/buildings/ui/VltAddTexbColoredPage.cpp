@@ -85,7 +85,8 @@ void VltAddTexbColoredPage::layerWritten(const buildings::BuildingLayerFiles &fi
 {
     m_ui->m_pwLegend->showLegend(m_colorMapName, files.legend);
     const buildings::BuildingLayerInput &layer = m_valued.layer;
-    if (!files.legend.isEmpty() && layer.legend && layer.counted.counts.drawn > 0)
+    const bool hasValues = layer.legend && m_valued.coloring.field.isEmpty();
+    if (!files.legend.isEmpty() && hasValues && layer.counted.counts.drawn > 0)
         m_ui->m_pwLegend->showSummary(
             buildings::summarize(layer.counted.values, *layer.legend,
                                  buildings::unitOf(layer.counted.unit, m_valued.coloring)));
