@@ -10,11 +10,14 @@
 #include "plugins/tables/ogr/ReportLayer.h"
 #include "plugins/tables/ogr/SiteLayer.h"
 #include "plugins/tables/ogr/TableExcerpt.h"
+#include "plugins/tables/roles/Vocabulary.h"
 
 #include <cpl_error.h>
 #include <gdal_priv.h>
+#include <ogr_spatialref.h>
 
 #include <filesystem>
+#include <future>
 #include <memory>
 #include <string>
 #include <vector>
@@ -188,6 +191,23 @@ void report(CPLErrorNum number, const std::string &path, const std::string &reas
     CPLError(CE_Failure, number, "%s%s", where.c_str(), reason.c_str());
 }
 
+/// Reads the vocabulary beside opening the database of systems, at the first table of a process:
+/// each takes milliseconds, and every table needs both.
+void prepare()
+{
+    static const bool isPrepared = [] {
+        const auto words = std::async(std::launch::async, [] {
+            try {
+                installedVocabulary();
+            } catch (const RefusedFile &) { // the table reports it
+            }
+        });
+        OGRSpatialReference().importFromEPSG(4326);
+        return true;
+    }();
+    (void)isPrepared;
+}
+
 GDALDataset *open(GDALOpenInfo *info)
 {
     if (!identify(info))
@@ -197,6 +217,7 @@ GDALDataset *open(GDALOpenInfo *info)
         return nullptr;
     try {
         refuseRemote(connection->path);
+        prepare();
         TableSource source;
         const TableOptions options = optionsOf(*info, *connection);
         source.file = TableFile::open(connection->path, options);
