@@ -45,18 +45,6 @@ Result<ViewPoint> viewOfAll(osg::Node &scene, double aspect)
     return Subject(box, aspect).from(distance, DefaultFieldDeg);
 }
 
-/// The part of a slender mast with its antennas; the whole of any other object.
-Level headOf(Level mast)
-{
-    constexpr double share = 0.55;
-    osg::BoundingBoxd &box = mast.extents;
-    const double height = box.zMax() - box.zMin();
-    const double width = std::max(box.xMax() - box.xMin(), box.yMax() - box.yMin());
-    if (box.valid() && width < share * height)
-        box.zMin() = box.zMax() - share * height;
-    return mast;
-}
-
 Result<ViewPoint> viewOfLevel(const osg::Vec3d &centre, const Level &level, double aspect,
                               double margin)
 {
@@ -90,7 +78,7 @@ Result<ViewPoint> findViewPoint(osg::Node &scene, SceneView view, double aspect)
                      {}};
     return view == SceneView::Symbolic
                ? viewOfLevel(site->centre, site->symbolic, aspect, SectorsMargin)
-               : viewOfLevel(site->centre, headOf(site->precise), aspect, DefaultMargin);
+               : viewOfLevel(site->centre, site->precise, aspect, DefaultMargin);
 }
 
 } // namespace vlt::snapshot
