@@ -115,10 +115,6 @@ Result<std::optional<coverage::ValueRange>> readRange(RasterColoring &coloring,
                                             line.progress());
     if (range && !*range)
         return range->error();
-    if ((!range || !range->value().values) && !coloring.field.isEmpty())
-        return Error::asIs(dico_label("MESS_FIELD_NO_VALUES", "the field \"%1\" has no values")
-                               .arg(coloring.field),
-                           given);
     if (!range || !range->value().values)
         return Error::asIs(dico_label("MESS_CLI_NO_VALUES", "none of its pixels has a value"),
                            given);
@@ -127,19 +123,14 @@ Result<std::optional<coverage::ValueRange>> readRange(RasterColoring &coloring,
 }
 
 /// The legend of the texts of a field.
-Result<buildings::LegendInput> readKinds(const RasterColoring &coloring,
+Result<buildings::LegendInput> readTexts(const RasterColoring &coloring,
                                          const buildings::BuildingLayerInput &layer, bool quiet)
 {
     ProgressLine line(dico_label("MESS_READING_FIELD", "Reading the values of the field..."),
                       !quiet);
-    const auto kinds = buildings::kindsOfField(
-        coloring, buildings::coloredDocument(layer, coloring), line.progress());
-    if (!kinds || !*kinds)
-        return kinds ? kinds->error() : Error::asIs({}, layer.source.file);
-    buildings::LegendInput legend;
-    legend.name = coloring.field;
-    legend.kinds = kinds->value();
-    return legend;
+    // The progress line never stops the work, so there is a value.
+    return *buildings::legendOfTexts(coloring, buildings::coloredDocument(layer, coloring),
+                                     line.progress());
 }
 
 } // namespace
@@ -151,7 +142,7 @@ Result<buildings::LegendInput> readColoring(RasterColoring &coloring,
     const bool isOfField = !coloring.field.isEmpty();
     const QString source = isOfField ? layer.source.file : coloring.rasterFile;
     if (coloring.isText)
-        return readKinds(coloring, layer, quiet);
+        return readTexts(coloring, layer, quiet);
     if (!isOfField) {
         if (const auto error = checkRaster(coloring, warnings))
             return *error;

@@ -5,6 +5,7 @@
 #include "batch/BuildingsTextures.h"
 #include "batch/DatasetNames.h"
 #include "batch/InputNames.h"
+#include "buildings/FieldColors.h"
 #include "buildings/HeightGuess.h"
 #include "buildings/SourceSummary.h"
 #include "geodata/PolygonSource.h"
@@ -72,8 +73,7 @@ struct Footprints
 Result<geodata::VectorField> chosenColorField(const geodata::PolygonLayer &layer,
                                               const QString &wanted, const QString &path)
 {
-    QList<geodata::VectorField> fields = layer.fields;
-    fields.removeIf([](const auto &field) { return field.kind == geodata::FieldKind::Other; });
+    const QList<geodata::VectorField> fields = buildings::colorFields(layer.fields);
     QStringList names;
     for (const geodata::VectorField &field : fields)
         names << field.name;

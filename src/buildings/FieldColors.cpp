@@ -31,6 +31,13 @@ Stoppable<city::FieldValues> read(const RasterColoring &coloring,
     }
 }
 
+Error hasNoValues(const RasterColoring &coloring, const contract::BuildingDocument &document)
+{
+    return Error::asIs(
+        dico_label("MESS_FIELD_NO_VALUES", "the field \"%1\" has no values").arg(coloring.field),
+        QString::fromStdString(document.footprints.file));
+}
+
 /// The least number that at least a share of all does not exceed.
 double percentile(std::vector<double> &numbers, double percent)
 {
@@ -42,6 +49,13 @@ double percentile(std::vector<double> &numbers, double percent)
 }
 
 } // namespace
+
+QList<geodata::VectorField> colorFields(const QList<geodata::VectorField> &fields)
+{
+    QList<geodata::VectorField> usable = fields;
+    usable.removeIf([](const auto &field) { return field.kind == geodata::FieldKind::Other; });
+    return usable;
+}
 
 Stoppable<RasterRange> rangeOfField(const RasterColoring &coloring,
                                     const contract::BuildingDocument &document,
@@ -58,16 +72,16 @@ Stoppable<RasterRange> rangeOfField(const RasterColoring &coloring,
     std::vector<double> numbers = values->value().numbers;
     std::erase_if(numbers, [](double number) { return std::isnan(number); });
     if (numbers.empty())
-        return Result(RasterRange());
+        return Result<RasterRange>(hasNoValues(coloring, document));
     const bool isPart = stretch.kind == Stretch::Percentile;
     const double low = percentile(numbers, isPart ? stretch.low : 0);
     const double high = percentile(numbers, isPart ? stretch.high : 100);
     return Result(RasterRange{coverage::ValueRange{low, high}, {}});
 }
 
-Stoppable<QList<colormaps::LegendKind>> kindsOfField(const RasterColoring &coloring,
-                                                     const contract::BuildingDocument &document,
-                                                     const Progress &progress)
+Stoppable<LegendInput> legendOfTexts(const RasterColoring &coloring,
+                                     const contract::BuildingDocument &document,
+                                     const Progress &progress)
 {
     const Stoppable<city::FieldValues> values = read(coloring, document, progress);
     if (!values)
@@ -76,17 +90,16 @@ Stoppable<QList<colormaps::LegendKind>> kindsOfField(const RasterColoring &color
         return values->error();
     const std::vector<city::FieldText> &texts = values->value().distinct;
     if (texts.empty())
-        return Error::asIs(dico_label("MESS_FIELD_NO_VALUES", "the field \"%1\" has no values")
-                               .arg(coloring.field),
-                           QString::fromStdString(document.footprints.file));
-    QList<colormaps::LegendKind> kinds;
+        return Result<LegendInput>(hasNoValues(coloring, document));
+    LegendInput legend;
+    legend.name = coloring.field;
     for (std::size_t i = 0; i < std::min(texts.size(), colormaps::DistinctColorCount); ++i)
-        kinds.append(
+        legend.kinds.append(
             {QString::fromStdString(texts[i].text).simplified(), colormaps::distinctColor(i)});
     if (texts.size() > colormaps::DistinctColorCount)
-        kinds.append({dico_label("MESS_FIELD_OTHERS", "others"),
-                      colormaps::distinctColor(colormaps::DistinctColorCount)});
-    return Result(kinds);
+        legend.kinds.append({dico_label("MESS_FIELD_OTHERS", "others"),
+                             colormaps::distinctColor(colormaps::DistinctColorCount)});
+    return Result(legend);
 }
 
 } // namespace vlt::buildings

@@ -2,8 +2,6 @@
 
 #include "ui_ColoringPanel.h"
 
-#include "buildings/ColoringLegend.h"
-#include "buildings/RasterRanges.h"
 #include "buildings/ui/ColorMapSwatch.h"
 #include "buildings/ui/NoDataGuess.h"
 #include "buildings/ui/RasterMessages.h"
@@ -283,52 +281,11 @@ QString VltColoringPanel::missingText() const
     return {};
 }
 
-/// The range of the raster's values, which is read once; none after a message or if the user stops.
-std::optional<buildings::RasterRange>
-VltColoringPanel::readRange(const buildings::RasterColoring &coloring,
-                            const buildings::BuildingLayerInput &layer)
-{
-    using Range = Stoppable<buildings::RasterRange>;
-    const auto read = wizard::waitForValue<Range>(
-        this, tr("Computing the minimum and maximum value...", "MESS_READING_RANGE"),
-        [coloring,
-         document = buildings::coloredDocument(layer, coloring)](const Progress &progress) {
-            return buildings::readRange(coloring, document, progress);
-        });
-    if (!read || !*read)
-        return std::nullopt;
-    if (const Result<buildings::RasterRange> &range = **read; range)
-        return range.value();
-    messages::critical(this, (*read)->error());
-    return std::nullopt;
-}
-
-std::optional<VltColoringPanel::Colors>
+std::optional<buildings::ReadColors>
 VltColoringPanel::colors(const buildings::BuildingLayerInput &layer)
 {
-    std::optional<buildings::RasterColoring> chosen = coloring();
-    if (!chosen)
-        return std::nullopt;
-    std::optional<coverage::ValueRange> values;
-    if (chosen->stretched) {
-        const std::optional<buildings::RasterRange> range = readRange(*chosen, layer);
-        if (!range)
-            return std::nullopt;
-        if (buildings::needsOwnMap(*chosen) && !range->values) {
-            messages::critical(
-                this, Error::asIs(tr("None of the pixels has a value", "MESS_STRETCH_NO_VALUES"),
-                                  chosen->rasterFile));
-            return std::nullopt;
-        }
-        values = range->values;
-        chosen->range = range->known;
-    }
-    const Result<buildings::LegendInput> legend = buildings::legendOf(*chosen, values);
-    if (!legend) {
-        messages::critical(this, legend.error());
-        return std::nullopt;
-    }
-    return Colors{*chosen, legend.value()};
+    const std::optional<buildings::RasterColoring> chosen = coloring();
+    return chosen ? buildings::readColors(this, *chosen, layer) : std::nullopt;
 }
 
 void VltColoringPanel::showSubdatasets(const QList<geodata::Subdataset> &subdatasets)

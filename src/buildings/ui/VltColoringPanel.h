@@ -1,7 +1,6 @@
 #pragma once
 
-#include "buildings/BuildingLayerFiles.h"
-#include "buildings/RasterRanges.h"
+#include "buildings/ui/ReadColors.h"
 #include "geodata/RasterSource.h"
 #include "wizard/base/VltParameterPanel.h"
 
@@ -31,19 +30,9 @@ public:
     /// The choice that colors() still needs, as text for the user; empty if it is complete.
     QString missingText() const;
 
-    /// The chosen values with their legend.
-    struct Colors
-    {
-        vlt::buildings::RasterColoring coloring;
-        vlt::buildings::LegendInput legend;
-    };
-
-    /// Reads the values that the colours are stretched over if they are; a progress bar is shown.
-    /// None while a choice is missing, if the raster or the colour map cannot be read, after a
-    /// message, and if the user stops the read.
-    ///
-    /// @param layer  the buildings, without a legend
-    std::optional<Colors> colors(const vlt::buildings::BuildingLayerInput &layer);
+    /// The chosen values with their legend, see readColors(); none while a choice is missing, too.
+    std::optional<vlt::buildings::ReadColors>
+    colors(const vlt::buildings::BuildingLayerInput &layer);
 
     /// Absolute path of the image file; empty if none is open.
     QString imagePath() const;
@@ -91,9 +80,6 @@ private:
     std::optional<Summary> readSummary(const QString &path, const QString &part);
     void check(const std::optional<Summary> &summary, const QString &name, bool quiet);
     void checkSubdataset(bool quiet);
-    std::optional<vlt::buildings::RasterRange>
-    readRange(const vlt::buildings::RasterColoring &coloring,
-              const vlt::buildings::BuildingLayerInput &layer);
     std::optional<vlt::buildings::RasterColoring> coloring() const;
     QString subdataset() const;
     int band() const;
