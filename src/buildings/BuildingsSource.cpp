@@ -16,6 +16,7 @@ constexpr std::pair<const char *, QString BuildingsSource::*> Texts[] = {
 constexpr std::pair<const char *, double BuildingsSource::*> Coordinates[] = {
     {"CenterX", &BuildingsSource::xCenter}, {"CenterY", &BuildingsSource::yCenter}};
 
+const QString ColorFieldsKey = QStringLiteral("ColorFields");
 const QString HeightsKey = QStringLiteral("Heights");
 
 using contract::BuildingHeights;
@@ -59,6 +60,23 @@ void readHeights(const QVariantMap &map, BuildingsSource &source)
     source.where = map.value(QStringLiteral("where")).toString();
 }
 
+QVariantList fieldsAsList(const QList<geodata::VectorField> &fields)
+{
+    QVariantList list;
+    for (const geodata::VectorField &field : fields)
+        list.append(QVariant(QVariantList{field.name, static_cast<int>(field.kind)}));
+    return list;
+}
+
+QList<geodata::VectorField> fieldsOf(const QVariantList &list)
+{
+    QList<geodata::VectorField> fields;
+    for (const QVariant &pair : list)
+        fields.append({pair.toList().value(0).toString(),
+                       static_cast<geodata::FieldKind>(pair.toList().value(1).toInt())});
+    return fields;
+}
+
 } // namespace
 
 BuildingsSource readBuildingsSource(const QVariantMap &parameters)
@@ -68,6 +86,7 @@ BuildingsSource readBuildingsSource(const QVariantMap &parameters)
         source.*member = parameters.value(QLatin1String(key)).toString();
     for (const auto &[key, member] : Coordinates)
         source.*member = parameters.value(QLatin1String(key)).toDouble();
+    source.colorFields = fieldsOf(parameters.value(ColorFieldsKey).toList());
     if (parameters.contains(HeightsKey))
         readHeights(parameters.value(HeightsKey).toMap(), source);
     source.project = parameters.value(QStringLiteral("ProjectName")).toString();
@@ -80,6 +99,7 @@ void publishBuildingsSource(const BuildingsSource &source, QVariantMap &paramete
         parameters.insert(QLatin1String(key), source.*member);
     for (const auto &[key, member] : Coordinates)
         parameters.insert(QLatin1String(key), source.*member);
+    parameters.insert(ColorFieldsKey, fieldsAsList(source.colorFields));
     if (source.heights == contract::BuildingHeights() && source.where.isEmpty())
         parameters.remove(HeightsKey);
     else

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "contract/BuildingHeights.h"
+#include "geodata/PolygonSource.h"
 
 #include <QString>
 #include <QVariantMap>
@@ -14,6 +15,7 @@ struct BuildingsSource
     QString layer;
     QString heightField;
     contract::BuildingHeights heights;
+    QList<geodata::VectorField> colorFields; ///< of the layer: those that can color buildings
     QString where; ///< SQL condition for the features that are buildings; empty: all
     QString terrainFile;
     QString terrainNoData; ///< as the user typed it; may be empty
@@ -23,8 +25,8 @@ struct BuildingsSource
 };
 
 /// Reads the choices from the wizard's shared parameters: "Buildings", "Layer", "Height", "Dtm",
-/// "Nodata", "CenterX", "CenterY", "ProjectName", and "Heights", a map that is absent if all of its
-/// values are the defaults.
+/// "Nodata", "CenterX", "CenterY", "ProjectName", "ColorFields", a list of pairs of name and kind,
+/// and "Heights", a map that is absent if all of its values are the defaults.
 BuildingsSource readBuildingsSource(const QVariantMap &parameters);
 
 /// Writes the choices to the same parameters, except the project, which another page chooses.

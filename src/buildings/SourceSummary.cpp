@@ -48,12 +48,12 @@ QString kindText(geodata::FieldKind kind)
 {
     switch (kind) {
     case geodata::FieldKind::Integer:
+    case geodata::FieldKind::Integer64:
         return dico_label("MESS_INTEGER", "Integer");
     case geodata::FieldKind::Real:
         return dico_label("MESS_REAL", "Real");
     case geodata::FieldKind::String:
         return dico_label("MESS_STRING", "String");
-    case geodata::FieldKind::Integer64:
     case geodata::FieldKind::Other:
         break;
     }
@@ -82,10 +82,14 @@ QString coverText(const Extent &terrain, const Extent &buildings)
 
 } // namespace
 
+QString fieldCaption(const geodata::VectorField &field)
+{
+    return QStringLiteral("%1 (%2)").arg(field.name, kindText(field.kind));
+}
+
 QString heightCaption(const geodata::VectorField &field)
 {
-    const QString kind = kindText(field.kind);
-    return kind.isEmpty() ? kind : QStringLiteral("%1 (%2)").arg(field.name, kind);
+    return isOffered(field.kind) ? fieldCaption(field) : QString();
 }
 
 QString heightHint(const geodata::PolygonLayer &layer, const QString &chosen)

@@ -7,7 +7,10 @@
 
 namespace vlt::buildings {
 
-/// The text of a field in the choice of the height, "HEIGHT (Real)"; empty for kinds that cannot be
+/// The text of a field in a list, "HEIGHT (Real)".
+QString fieldCaption(const geodata::VectorField &field);
+
+/// The same in the choice of the height; empty for kinds that cannot be
 /// chosen.
 QString heightCaption(const geodata::VectorField &field);
 

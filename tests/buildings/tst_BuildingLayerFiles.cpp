@@ -61,6 +61,7 @@ private Q_SLOTS:
                           .layer = u"quarter"_s,
                           .heightField = u"H"_s,
                           .heights = {},
+                          .colorFields = {},
                           .where = {},
                           .terrainFile = u"/d/dem.tif"_s,
                           .terrainNoData = u"-9999"_s,

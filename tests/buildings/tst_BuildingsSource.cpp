@@ -205,13 +205,12 @@ private Q_SLOTS:
         host.wizard.next();
 
         QCOMPARE(host.wizard.currentId(), colored ? 2 : 3);
-        const SharedParameters expected{{u"Buildings"_s, file(u"two.gpkg"_s)},
-                                        {u"Layer"_s, u"two"_s},
-                                        {u"Height"_s, u"HEIGHT"_s},
-                                        {u"Dtm"_s, grid()},
-                                        {u"Nodata"_s, u"-1"_s},
-                                        {u"CenterX"_s, 4.0},
-                                        {u"CenterY"_s, 1.0}};
+        const QVariantList fields{QVariantList{u"c"_s, 2}, QVariantList{u"HEIGHT"_s, 2}};
+        const SharedParameters expected{
+            {u"ColorFields"_s, fields}, {u"Buildings"_s, file(u"two.gpkg"_s)},
+            {u"Layer"_s, u"two"_s},     {u"Height"_s, u"HEIGHT"_s},
+            {u"Dtm"_s, grid()},         {u"Nodata"_s, u"-1"_s},
+            {u"CenterX"_s, 4.0},        {u"CenterY"_s, 1.0}};
         QCOMPARE(host.parameters, expected);
         QCOMPARE(host.parameters.value(u"CenterX"_s).typeId(), QMetaType::Double);
         const QString prefix = u"AddTexbFirstPage/"_s;

@@ -23,11 +23,19 @@ const QString OnlyGray = u"The image-based coloring mode works only with one-ban
 class ColoredPage : public Page<VltAddTexbColoredPage>
 {
 public:
-    explicit ColoredPage(const QString &installation, const QString &source = {})
-        : Page(installation,
-               values(u"Buildings=%1 Layer=layer Height=height Dtm=dtm Nodata=nodata"_s.arg(
-                   source.isEmpty() ? u"buildings"_s : source)))
+    explicit ColoredPage(const QString &installation, const QString &source = {},
+                         const QVariantList &fields = {})
+        : Page(installation, published(source.isEmpty() ? u"buildings"_s : source, fields))
     {}
+
+private:
+    static SharedParameters published(const QString &source, const QVariantList &fields)
+    {
+        SharedParameters published =
+            values(u"Buildings=%1 Layer=layer Height=height Dtm=dtm Nodata=nodata"_s.arg(source));
+        published[u"ColorFields"_s] = fields;
+        return published;
+    }
 };
 
 } // namespace
@@ -49,6 +57,13 @@ class tst_ColoredPage : public QObject
         std::array<char *, 2> options = {append ? appending : nullptr, nullptr};
         const GDALDatasetUniquePtr made(GetGDALDriverManager()->GetDriverByName("GTiff")->Create(
             path(name).toUtf8(), 2, 2, bandCount, GDT_Byte, options.data()));
+    }
+
+    QString writeTown(const QByteArrayList &features) const
+    {
+        return writeFile(path(u"layer.geojson"_s),
+                         R"({"type":"FeatureCollection","name":"layer","features":[)" +
+                             features.join(',') + "]}");
     }
 
 private Q_SLOTS:
@@ -185,10 +200,7 @@ private Q_SLOTS:
             all << "{\"type\":\"Feature\",\"properties\":{\"height\":" + height +
                        "},\"geometry\":{\"type\":\"Polygon\",\"coordinates\":[[[2,4],[6,4],[6,12],"
                        "[2,4]]]}}";
-        const QString town =
-            writeFile(path(u"layer.geojson"_s), "{\"type\":\"FeatureCollection\",\"name\":"
-                                                "\"layer\",\"features\":[" +
-                                                    all.join(',') + "]}");
+        const QString town = writeTown(all);
 
         ColoredPage page(m_installation, town);
 
@@ -214,10 +226,7 @@ private Q_SLOTS:
             all << "{\"type\":\"Feature\",\"properties\":{\"height\":5},\"geometry\":{\"type\":"
                    "\"Polygon\",\"coordinates\":[[" +
                        QByteArray(ring) + "]]}}";
-        const QString town =
-            writeFile(path(u"layer.geojson"_s), "{\"type\":\"FeatureCollection\",\"name\":"
-                                                "\"layer\",\"features\":[" +
-                                                    all.join(',') + "]}");
+        const QString town = writeTown(all);
         remember(Group, values(u"Stretch=false ColorInterpMode=0 Image="_s + path(u"grid.asc"_s)));
         ColoredPage page(m_installation, town);
         QTRY_VERIFY_WITH_TIMEOUT(page.icon()->isEnabled(), PatienceMs);
@@ -375,6 +384,59 @@ private Q_SLOTS:
         page.check(u"m_pwCbStretch"_s, false);
         QTRY_VERIFY_WITH_TIMEOUT(page.document().contains(u"first.txt;minimum;absolute;"_s),
                                  PatienceMs);
+        QVERIFY(boxes.seen.isEmpty());
+    }
+
+    void colorsByAField()
+    {
+        QByteArrayList all;
+        for (const char *properties :
+             {"\"use\":\"shop\",\"height\":12", "\"use\":\"home\",\"height\":10"})
+            all << "{\"type\":\"Feature\",\"properties\":{" + QByteArray(properties) +
+                       "},\"geometry\":{\"type\":\"Polygon\",\"coordinates\":[[[2,4],[6,4],[6,8],"
+                       "[2,4]]]}}";
+        const QString town = writeTown(all);
+        const QVariantList fields{QVariantList{u"use"_s, 3}, QVariantList{u"height"_s, 0}};
+        vlt::platform::wizardSettings()->clear(); // no image is needed
+        AnsweredBoxes boxes;
+        ColoredPage page(m_installation, town, fields);
+        QTRY_VERIFY_WITH_TIMEOUT(!page.message().isEmpty(), PatienceMs);
+        const auto shown = [&page](const QString &name) {
+            return page.child<QWidget>(name)->isVisible();
+        };
+        const auto ownMap = [&page] {
+            return QDir::cleanPath(page.icon()->layerFile()).replace(u".lay"_s, u"_first.cmap"_s);
+        };
+        const auto colorsWritten = [&page, &ownMap](const QString &content) {
+            return page.icon()->isEnabled() &&
+                   page.document().contains(u"  <colors \n    field="_s +
+                                            QString(content).replace(u'@', ownMap()) + u"  />\n"_s);
+        };
+        QCOMPARE(page.combo(u"m_pwCbColorBy"_s)->itemText(2), u"height (Integer)"_s);
+
+        page.choose(u"m_pwCbColorBy"_s, 1);
+        QTRY_VERIFY_WITH_TIMEOUT(colorsWritten(u"\"use\"\n    mode=\"distinct\"\n"_s), PatienceMs);
+        QVERIFY(!shown(u"m_pwLeImage"_s) && !shown(u"m_pwCbMode"_s) && !shown(u"m_pwCbCmap"_s));
+        QVERIFY(page.text(u"m_pwLblLegend"_s).contains(u"use"_s));
+        page.saveSettings();
+
+        ColoredPage later(m_installation, town, fields);
+        QCOMPARE(later.combo(u"m_pwCbColorBy"_s)->currentIndex(), 1);
+        later.choose(u"m_pwCbStretchOver"_s, 2); // for rasters only
+        later.choose(u"m_pwCbColorBy"_s, 2);
+        QVERIFY(later.combo(u"m_pwCbStretchOver"_s)->isVisible());
+        page.choose(u"m_pwCbColorBy"_s, 2);
+        QTRY_VERIFY_WITH_TIMEOUT(colorsWritten(u"\"height\"\n    map=\"@\"\n"_s), PatienceMs);
+        QVERIFY(shown(u"m_pwCbCmap"_s) && shown(u"m_pwCbStretch"_s) && !shown(u"m_pwLeNoData"_s));
+        QCOMPARE(readFile(ownMap()), QByteArray("10 255 0 0 255\n12 0 0 255 255\n"));
+        QCOMPARE(later.combo(u"m_pwCbStretchOver"_s)->currentIndex(), 0);
+
+        dropFiles(&page, {path(u"grid.asc"_s)});
+        QTRY_VERIFY_WITH_TIMEOUT(page.document().contains(u"IMAGE;"_s), PatienceMs);
+        QVERIFY(shown(u"m_pwLeImage"_s) && !page.document().contains(u"<colors"_s));
+
+        ColoredPage gone(m_installation, town, {fields.constLast()});
+        QCOMPARE(gone.combo(u"m_pwCbColorBy"_s)->currentIndex(), 0);
         QVERIFY(boxes.seen.isEmpty());
     }
 

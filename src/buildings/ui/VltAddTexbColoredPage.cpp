@@ -34,6 +34,12 @@ VltAddTexbColoredPage::VltAddTexbColoredPage(QWidget *wizard, SharedParameters &
 
 VltAddTexbColoredPage::~VltAddTexbColoredPage() = default;
 
+void VltAddTexbColoredPage::initializePage()
+{
+    VltBuildingLayerPage::initializePage();
+    m_ui->m_pwColoring->offerFields(source().colorFields);
+}
+
 void VltAddTexbColoredPage::droppedFile(const QString &path)
 {
     m_ui->m_pwColoring->openDropped(path);

@@ -8,7 +8,7 @@ namespace Ui {
 class AddTexbColoredPage;
 }
 
-/// The page that colours buildings from a raster.
+/// The page that colours buildings from a raster or a field of the footprints.
 class VltAddTexbColoredPage : public VltBuildingLayerPage
 {
     Q_OBJECT
@@ -17,6 +17,8 @@ public:
     VltAddTexbColoredPage(QWidget *wizard, SharedParameters &parameters, const QString &installDir,
                           const QString &language);
     ~VltAddTexbColoredPage() override;
+
+    void initializePage() override;
 
     /// Takes a colour map file as colour map and any other file as the image.
     void droppedFile(const QString &path) override;

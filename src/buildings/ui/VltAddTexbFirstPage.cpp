@@ -4,6 +4,7 @@
 
 #include "buildings/BuildingsSource.h"
 #include "buildings/CountsText.h"
+#include "buildings/FieldColors.h"
 #include "buildings/HeightGuess.h"
 #include "buildings/SourceSummary.h"
 #include "buildings/ui/FootprintPicker.h"
@@ -229,6 +230,8 @@ buildings::BuildingsSource VltAddTexbFirstPage::chosenSource() const
     source.file = m_ui->m_pwLeBuildings->text();
     source.layer = m_ui->m_pwCbLayer->currentData().toString();
     source.heightField = m_ui->m_pwCbHeight->currentData().toString();
+    if (const geodata::PolygonLayer *layer = m_footprints->layer())
+        source.colorFields = buildings::colorFields(layer->fields);
     source.heights = m_ui->m_pwHeights->heights();
     source.where = m_ui->m_pwHeights->where();
     if (source.heightField.isEmpty()) { // the list has no 64-bit integers, the second one has

@@ -2,6 +2,7 @@
 
 #include "ui_ColoringPanel.h"
 
+#include "buildings/SourceSummary.h"
 #include "buildings/ui/ColorMapSwatch.h"
 #include "buildings/ui/NoDataGuess.h"
 #include "buildings/ui/RasterMessages.h"
@@ -20,6 +21,7 @@
 #include <QScopedValueRollback>
 #include <QSettings>
 #include <QSignalBlocker>
+#include <QStandardItemModel>
 #include <QStyle>
 #include <QWizardPage>
 
@@ -33,7 +35,9 @@ const QString LastUsedDirKey = QStringLiteral("LastUsedDir");
 constexpr int NumberDigits = 12;
 
 const QString StretchKey = QStringLiteral("StretchOver");
+const QString FieldKey = QStringLiteral("ColorField");
 const QString BandKey = QStringLiteral("Band");
+constexpr int KindRole = Qt::UserRole + 1; ///< of the items of fields
 constexpr int FirstBand = contract::RasterBand.firstRun;
 
 /// Stores a value that few users change; for the others the settings do not have it.
@@ -44,6 +48,12 @@ void saveUnlessFirst(const QString &key, const QVariant &value, const QVariant &
         settings->remove(key);
     else
         settings->setValue(key, value);
+}
+
+/// Whether a stretch has a meaning for the values of a field.
+bool isForFields(int kind)
+{
+    return kind != Stretch::Buildings && kind != Stretch::Shared;
 }
 
 void restoreIndex(QComboBox *combo, const QVariant &value)
@@ -68,10 +78,8 @@ VltColoringPanel::VltColoringPanel(QWidget *parent)
 {
     m_ui->setupUi(this);
     setFocusProxy(m_ui->m_pwLeImage);
-    m_ui->m_pwSubdatasetsFrame->hide();
-    showBands({});
-    showStretch();
     m_ui->m_pwNoDataProgress->hide();
+    offerFields({});
     m_ui->m_pwCbCmap->setIconSize(buildings::ColorMapSwatchSize);
     m_ui->m_pwCbSubdatsets->view()->setTextElideMode(Qt::ElideLeft); // names start with a path
     wizard::guardAgainstStrayWheel(this);
@@ -105,6 +113,11 @@ void VltColoringPanel::connectStretch()
 void VltColoringPanel::connectWidgets()
 {
     connectStretch();
+    connect(m_ui->m_pwCbColorBy, &QComboBox::currentIndexChanged, this, [this] {
+        m_field = m_ui->m_pwCbColorBy->currentData().toString();
+        showRows();
+        Q_EMIT parameterChanged();
+    });
     connect(m_ui->m_pwPbImage, &QPushButton::clicked, this, &VltColoringPanel::defineImage);
     connect(m_ui->m_pwPbNoData, &QPushButton::clicked, this, &VltColoringPanel::guessNoData);
     connect(m_ui->m_pwPbAddCmap, &QPushButton::clicked, this, &VltColoringPanel::addCmap);
@@ -117,8 +130,7 @@ void VltColoringPanel::connectWidgets()
     connect(m_ui->m_pwLeImage, &QLineEdit::textEdited, this, &VltColoringPanel::parameterChanged);
 
     connect(m_ui->m_pwLeNoData, &QLineEdit::textChanged, this, &VltColoringPanel::parameterChanged);
-    connect(m_ui->m_pwCbBand, &QComboBox::currentIndexChanged, this,
-            [this](int index) { m_ui->m_pwLblBandHint->setVisible(index > 0); });
+    connect(m_ui->m_pwCbBand, &QComboBox::currentIndexChanged, this, &VltColoringPanel::showRows);
     for (const QComboBox *combo :
          {m_ui->m_pwCbBand, m_ui->m_pwCbCmap, m_ui->m_pwCBColorInterp, m_ui->m_pwCbMode})
         connect(combo, &QComboBox::currentIndexChanged, this, &VltColoringPanel::parameterChanged);
@@ -168,12 +180,75 @@ QString VltColoringPanel::subdataset() const
     return m_ui->m_pwCbSubdatsets->currentData().toString();
 }
 
+void VltColoringPanel::offerFields(const QList<geodata::VectorField> &fields)
+{
+    const QSignalBlocker quiet(this);
+    QComboBox *choice = m_ui->m_pwCbColorBy;
+    {
+        const QSignalBlocker keepField(choice);
+        choice->clear();
+        choice->addItem(tr("raster", "MESS_COLOR_BY_RASTER"), QString());
+        for (const geodata::VectorField &field : fields) {
+            choice->addItem(buildings::fieldCaption(field), field.name);
+            choice->setItemData(choice->count() - 1, static_cast<int>(field.kind), KindRole);
+        }
+        choice->setCurrentIndex(qMax(0, choice->findData(m_field)));
+        m_field = choice->currentData().toString();
+    }
+    m_ui->m_pwLblColorBy->setVisible(!fields.isEmpty());
+    choice->setVisible(!fields.isEmpty());
+    showRows();
+}
+
+bool VltColoringPanel::isOfField() const
+{
+    return m_ui->m_pwCbColorBy->currentIndex() > 0;
+}
+
+bool VltColoringPanel::isOfTexts() const
+{
+    return isOfField() && m_ui->m_pwCbColorBy->currentData(KindRole).toInt() ==
+                              static_cast<int>(geodata::FieldKind::String);
+}
+
+/// Shows the rows that the source of the colours has.
+void VltColoringPanel::showRows()
+{
+    const bool isRaster = !isOfField();
+    const auto show = [](const QWidgetList &row, bool isShown) {
+        for (QWidget *widget : row)
+            widget->setVisible(isShown);
+    };
+    const bool hasBands = isRaster && m_ui->m_pwCbBand->count() > 1;
+    show({m_ui->m_pwLblImage, m_ui->m_pwLeImage, m_ui->m_pwPbImage, m_ui->m_pwLblNoData,
+          m_ui->m_pwLeNoData, m_ui->m_pwPbNoData, m_ui->m_pwLblMode, m_ui->m_pwCbMode},
+         isRaster);
+    show({m_ui->m_pwSubdatasetsFrame}, isRaster && m_ui->m_pwCbSubdatsets->count() > 0);
+    show({m_ui->m_pwLblBand, m_ui->m_pwCbBand}, hasBands);
+    show({m_ui->m_pwLblBandHint}, hasBands && band() != FirstBand);
+    show({m_ui->m_pwLblCmap, m_ui->m_pwCbCmap, m_ui->m_pwPbAddCmap, m_ui->m_pwCbStretch,
+          m_ui->m_pwCbStretchOver, m_ui->m_pwLblColorInterp, m_ui->m_pwCBColorInterp},
+         !isOfTexts());
+    showStretch();
+}
+
 /// Shows the choices for what the colours are stretched over.
 void VltColoringPanel::showStretch()
 {
-    const bool isStretched = m_ui->m_pwCbStretch->isChecked();
-    const int kind = isStretched ? m_ui->m_pwCbStretchOver->currentIndex() : Stretch::Raster;
-    m_ui->m_pwCbStretchOver->setEnabled(isStretched);
+    QComboBox *over = m_ui->m_pwCbStretchOver;
+    auto *kinds = qobject_cast<QStandardItemModel *>(over->model());
+    for (int kind = 0; kind < over->count(); ++kind)
+        kinds->item(kind)->setEnabled(!isOfField() || isForFields(kind));
+    over->setItemText(Stretch::Raster, isOfField() ? tr("all values", "MESS_STRETCH_FIELD")
+                                                   : tr("whole image", "MESS_STRETCH_RASTER"));
+    m_ui->m_pwCbStretch->setText(isOfField()
+                                     ? tr("Stretch on field min/max", "MESS_STRETCH_FIELD_CMAP")
+                                     : tr("Stretch on raster min/max", "MESS_STRETCH_CMAP"));
+    if (isOfField() && !isForFields(over->currentIndex()))
+        over->setCurrentIndex(Stretch::Raster);
+    const bool isStretched = m_ui->m_pwCbStretch->isChecked() && !isOfTexts();
+    const int kind = isStretched ? over->currentIndex() : Stretch::Raster;
+    over->setEnabled(isStretched);
     m_ui->m_pwStretchPercentile->setVisible(kind == Stretch::Percentile);
     m_ui->m_pwStretchRange->setVisible(kind == Stretch::Range);
     m_ui->m_pwStretchShared->setVisible(kind == Stretch::Shared);
@@ -246,18 +321,25 @@ std::optional<buildings::RasterColoring> VltColoringPanel::coloring() const
     if (!missingText().isEmpty())
         return std::nullopt;
     buildings::RasterColoring coloring;
-    coloring.rasterFile = subdataset().isEmpty() ? m_openedImage : subdataset();
+    coloring.field = m_ui->m_pwCbColorBy->currentData().toString();
+    coloring.isText = isOfTexts();
+    if (coloring.isText)
+        return coloring;
+    if (!isOfField()) {
+        coloring.rasterFile = subdataset().isEmpty() ? m_openedImage : subdataset();
+        coloring.reduction = static_cast<buildings::Reduction>(m_ui->m_pwCbMode->currentIndex());
+        coloring.noData = m_ui->m_pwLeNoData->text();
+        coloring.band = band();
+    }
     coloring.colorMap = m_ui->m_pwCbCmap->currentData().toString();
-    coloring.reduction = static_cast<buildings::Reduction>(m_ui->m_pwCbMode->currentIndex());
     coloring.stretched = m_ui->m_pwCbStretch->isChecked();
     coloring.stretch = stretch().value_or(buildings::Stretch());
     coloring.interpolated = m_ui->m_pwCBColorInterp->currentIndex() == 1;
-    coloring.noData = m_ui->m_pwLeNoData->text();
-    coloring.band = band();
     return coloring;
 }
 
-QString VltColoringPanel::missingText() const
+/// Why the raster cannot color the buildings; empty if it can.
+QString VltColoringPanel::missingOfRaster() const
 {
     const QString typed = m_ui->m_pwLeImage->text();
     if (!typed.isEmpty() && typed != m_openedImage)
@@ -268,6 +350,15 @@ QString VltColoringPanel::missingText() const
         return tr("Choose an image of values, not of colors.", "MESS_NEED_VALUES");
     if (!contract::isNoDataText(m_ui->m_pwLeNoData->text().toStdString()))
         return tr("The no-data value is not a number.", "MESS_NODATA_NO_NUMBER");
+    return {};
+}
+
+QString VltColoringPanel::missingText() const
+{
+    if (isOfTexts())
+        return {};
+    if (const QString missing = isOfField() ? QString() : missingOfRaster(); !missing.isEmpty())
+        return missing;
     if (m_ui->m_pwCbStretch->isChecked() && !stretch())
         return m_ui->m_pwStretchShared->isHidden()
                    ? tr("The range of the colors needs two numbers, the lower one first.",
@@ -295,7 +386,7 @@ void VltColoringPanel::showSubdatasets(const QList<geodata::Subdataset> &subdata
     for (const geodata::Subdataset &one : subdatasets)
         m_ui->m_pwCbSubdatsets->addItem(QStringLiteral("%1 (%2)").arg(one.name, one.description),
                                         one.name);
-    m_ui->m_pwSubdatasetsFrame->setVisible(!subdatasets.isEmpty());
+    showRows();
 }
 
 void VltColoringPanel::showBands(const QStringList &bands)
@@ -304,9 +395,7 @@ void VltColoringPanel::showBands(const QStringList &bands)
     m_ui->m_pwCbBand->clear();
     for (int i = 0; i < bands.size(); ++i)
         m_ui->m_pwCbBand->addItem(buildings::bandText(i + 1, bands));
-    m_ui->m_pwLblBandHint->hide();
-    m_ui->m_pwLblBand->setVisible(bands.size() > 1);
-    m_ui->m_pwCbBand->setVisible(bands.size() > 1);
+    showRows();
 }
 
 std::optional<VltColoringPanel::Summary> VltColoringPanel::readSummary(const QString &path,
@@ -427,10 +516,13 @@ void VltColoringPanel::openColorMap(const QString &path)
 
 void VltColoringPanel::openDropped(const QString &path)
 {
-    if (isColorMapName(path))
+    if (isColorMapName(path)) {
         openColorMap(path);
-    else
-        openImage(path, false);
+        return;
+    }
+    openImage(path, false);
+    if (!m_openedImage.isEmpty())
+        m_ui->m_pwCbColorBy->setCurrentIndex(0);
 }
 
 QList<QWidget *> VltColoringPanel::dropLabels() const
@@ -456,6 +548,8 @@ void VltColoringPanel::loadSettings(const QString &prefix)
     restoreIndex(m_ui->m_pwCbBand, value(BandKey, FirstBand).toInt() - FirstBand);
     VltParameterPanel::loadSettings(prefix);
     setStretch(buildings::parseStretch(value(StretchKey, {}).toStringList()).value_or(Stretch()));
+
+    m_field = value(FieldKey, {}).toString();
 
     // A damaged count must not block the page.
     const int count = qMin(value(QStringLiteral("UserColormapCount"), 0).toInt(),
@@ -485,6 +579,7 @@ void VltColoringPanel::saveSettings(const QString &prefix)
                     buildings::stretchTexts(stretch().value_or(Stretch())),
                     buildings::stretchTexts({}));
     saveUnlessFirst(prefix + QLatin1Char('/') + BandKey, band(), FirstBand);
+    saveUnlessFirst(prefix + QLatin1Char('/') + FieldKey, m_field, QString());
     const QComboBox *maps = m_ui->m_pwCbCmap;
     const int userCount = maps->count() - m_installedCount;
     save(QStringLiteral("UserColormapCount"), userCount);

@@ -12,7 +12,7 @@ class ColoringPanel;
 }
 
 /// The panel for colours from a raster: image, its part and band, value of no data, colour map,
-/// stretching, interpretation, reduction.
+/// stretching, interpretation, reduction; or from a field of the footprints, if any are offered.
 ///
 /// Rasters are opened on other threads while an event loop runs; a file that is dropped or picked
 /// during this time is ignored.
@@ -26,6 +26,12 @@ public:
 
     /// Lists the colour maps of an installation before those that the user added.
     void setInstallDir(const QString &installDir);
+
+    /// Offers fields of the footprints in place of a raster and chooses the remembered one, or the
+    /// raster if there is no such field. Emits nothing.
+    ///
+    /// @param fields  of numbers or texts; empty: only a raster can be chosen
+    void offerFields(const QList<vlt::geodata::VectorField> &fields);
 
     /// The choice that colors() still needs, as text for the user; empty if it is complete.
     QString missingText() const;
@@ -69,7 +75,11 @@ private:
 
     void connectWidgets();
     void connectStretch();
+    void showRows();
     void showStretch();
+    bool isOfField() const;
+    bool isOfTexts() const;
+    QString missingOfRaster() const;
     std::optional<vlt::buildings::Stretch> stretch() const;
     void setStretch(const vlt::buildings::Stretch &stretch);
     void setOthers(const QStringList &files);
@@ -88,6 +98,7 @@ private:
 
     std::unique_ptr<Ui::ColoringPanel> m_ui;
     QString m_lastUsedDir;
+    QString m_field;       ///< that colours the buildings; empty: the raster does
     QStringList m_others;  ///< images that share the stretching
     QString m_openedImage; ///< absolute path of the image file
     bool m_isUsable = false;

@@ -64,8 +64,8 @@
         <translation>Stretch on raster min/max</translation>
     </message>
     <message id="MESS_TIP_STRETCH_CMAP">
-        <source>Stretch the colors between the minimum and maximum value of the image; otherwise the values of the colormap apply</source>
-        <translation>Stretch the colors between the minimum and maximum value of the image; otherwise the values of the colormap apply</translation>
+        <source>Stretch the colors between the minimum and maximum value; otherwise the values of the colormap apply</source>
+        <translation>Stretch the colors between the minimum and maximum value; otherwise the values of the colormap apply</translation>
     </message>
     <message id="MESS_INTERP_COULEUR">
         <source>Color interpretation mode</source>

@@ -64,8 +64,8 @@
         <translation>Étirer sur le min/max du raster</translation>
     </message>
     <message id="MESS_TIP_STRETCH_CMAP">
-        <source>Stretch the colors between the minimum and maximum value of the image; otherwise the values of the colormap apply</source>
-        <translation>Répartir les couleurs entre les valeurs minimale et maximale de l'image ; sinon, les valeurs de la palette s'appliquent</translation>
+        <source>Stretch the colors between the minimum and maximum value; otherwise the values of the colormap apply</source>
+        <translation>Répartir les couleurs entre les valeurs minimale et maximale ; sinon, les valeurs de la palette s'appliquent</translation>
     </message>
     <message id="MESS_INTERP_COULEUR">
         <source>Color interpretation mode</source>

@@ -60,12 +60,12 @@
         <translation>several images</translation>
     </message>
     <message id="MESS_TIP_STRETCH_LOW">
-        <source>Percentile of the image's values with the first color</source>
-        <translation>Percentile of the image's values with the first color</translation>
+        <source>Percentile of the values with the first color</source>
+        <translation>Percentile of the values with the first color</translation>
     </message>
     <message id="MESS_TIP_STRETCH_HIGH">
-        <source>Percentile of the image's values with the last color</source>
-        <translation>Percentile of the image's values with the last color</translation>
+        <source>Percentile of the values with the last color</source>
+        <translation>Percentile of the values with the last color</translation>
     </message>
     <message id="MESS_TIP_STRETCH_MIN">
         <source>Value with the first color</source>
@@ -130,6 +130,26 @@
     <message id="MESS_READING_FIELD">
         <source>Reading the values of the field...</source>
         <translation>Reading the values of the field...</translation>
+    </message>
+    <message id="MESS_COLOR_BY">
+        <source>Color by</source>
+        <translation>Color by</translation>
+    </message>
+    <message id="MESS_COLOR_BY_RASTER">
+        <source>raster</source>
+        <translation>raster</translation>
+    </message>
+    <message id="MESS_TIP_COLOR_BY">
+        <source>What the colors come from: a raster, or a field of the buildings, whose numbers get the colors of the colormap and whose texts distinct colors; other programs that read the layer may show a field's buildings plain</source>
+        <translation>What the colors come from: a raster, or a field of the buildings, whose numbers get the colors of the colormap and whose texts distinct colors; other programs that read the layer may show a field's buildings plain</translation>
+    </message>
+    <message id="MESS_STRETCH_FIELD">
+        <source>all values</source>
+        <translation>all values</translation>
+    </message>
+    <message id="MESS_STRETCH_FIELD_CMAP">
+        <source>Stretch on field min/max</source>
+        <translation>Stretch on field min/max</translation>
     </message>
 </context>
 </TS>

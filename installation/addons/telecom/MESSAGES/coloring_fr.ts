@@ -60,12 +60,12 @@
         <translation>plusieurs images</translation>
     </message>
     <message id="MESS_TIP_STRETCH_LOW">
-        <source>Percentile of the image's values with the first color</source>
-        <translation>Centile des valeurs de l'image qui a la première couleur</translation>
+        <source>Percentile of the values with the first color</source>
+        <translation>Centile des valeurs qui a la première couleur</translation>
     </message>
     <message id="MESS_TIP_STRETCH_HIGH">
-        <source>Percentile of the image's values with the last color</source>
-        <translation>Centile des valeurs de l'image qui a la dernière couleur</translation>
+        <source>Percentile of the values with the last color</source>
+        <translation>Centile des valeurs qui a la dernière couleur</translation>
     </message>
     <message id="MESS_TIP_STRETCH_MIN">
         <source>Value with the first color</source>
@@ -130,6 +130,26 @@
     <message id="MESS_READING_FIELD">
         <source>Reading the values of the field...</source>
         <translation>Lecture des valeurs du champ...</translation>
+    </message>
+    <message id="MESS_COLOR_BY">
+        <source>Color by</source>
+        <translation>Colorer selon</translation>
+    </message>
+    <message id="MESS_COLOR_BY_RASTER">
+        <source>raster</source>
+        <translation>un raster</translation>
+    </message>
+    <message id="MESS_TIP_COLOR_BY">
+        <source>What the colors come from: a raster, or a field of the buildings, whose numbers get the colors of the colormap and whose texts distinct colors; other programs that read the layer may show a field's buildings plain</source>
+        <translation>Ce dont viennent les couleurs&#xa0;: un raster, ou un champ des bâtiments, dont les nombres ont les couleurs de la palette et les textes des couleurs distinctes&#xa0;; d'autres programmes qui lisent la couche peuvent montrer unis les bâtiments d'un champ</translation>
+    </message>
+    <message id="MESS_STRETCH_FIELD">
+        <source>all values</source>
+        <translation>toutes les valeurs</translation>
+    </message>
+    <message id="MESS_STRETCH_FIELD_CMAP">
+        <source>Stretch on field min/max</source>
+        <translation>Étirer sur le min/max du champ</translation>
     </message>
 </context>
 </TS>
