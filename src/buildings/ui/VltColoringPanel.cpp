@@ -239,7 +239,7 @@ void VltColoringPanel::showStretch()
     auto *kinds = qobject_cast<QStandardItemModel *>(over->model());
     for (int kind = 0; kind < over->count(); ++kind)
         kinds->item(kind)->setEnabled(!isOfField() || isForFields(kind));
-    over->setItemText(Stretch::Raster, isOfField() ? tr("all values", "MESS_STRETCH_FIELD")
+    over->setItemText(Stretch::Raster, isOfField() ? tr("whole field", "MESS_STRETCH_FIELD")
                                                    : tr("whole image", "MESS_STRETCH_RASTER"));
     m_ui->m_pwCbStretch->setText(isOfField()
                                      ? tr("Stretch on field min/max", "MESS_STRETCH_FIELD_CMAP")

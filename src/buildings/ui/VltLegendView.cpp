@@ -80,7 +80,7 @@ void VltLegendView::fit()
         return;
     }
     constexpr double PixelsPerUnit = 2; // legends are drawn for screens of high density
-    constexpr double MinShare = 0.75;
+    constexpr double MinShare = 0.7;
     const int textHeight = 2 * fontMetrics().lineSpacing();
     const QSizeF size = QSizeF(m_legend.size()) / PixelsPerUnit;
     const double share = (height() - textHeight) / size.height();

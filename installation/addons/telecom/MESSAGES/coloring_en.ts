@@ -144,8 +144,8 @@
         <translation>What the colors come from: a raster, or a field of the buildings, whose numbers get the colors of the colormap and whose texts distinct colors; other programs that read the layer may show a field's buildings plain</translation>
     </message>
     <message id="MESS_STRETCH_FIELD">
-        <source>all values</source>
-        <translation>all values</translation>
+        <source>whole field</source>
+        <translation>whole field</translation>
     </message>
     <message id="MESS_STRETCH_FIELD_CMAP">
         <source>Stretch on field min/max</source>

@@ -144,8 +144,8 @@
         <translation>Ce dont viennent les couleurs&#xa0;: un raster, ou un champ des bâtiments, dont les nombres ont les couleurs de la palette et les textes des couleurs distinctes&#xa0;; d'autres programmes qui lisent la couche peuvent montrer unis les bâtiments d'un champ</translation>
     </message>
     <message id="MESS_STRETCH_FIELD">
-        <source>all values</source>
-        <translation>toutes les valeurs</translation>
+        <source>whole field</source>
+        <translation>champ entier</translation>
     </message>
     <message id="MESS_STRETCH_FIELD_CMAP">
         <source>Stretch on field min/max</source>
