@@ -4,6 +4,8 @@
 #include <osg/Transform>
 #include <osgText/TextBase>
 
+#include <numbers>
+
 ExtentsVisitor::ExtentsVisitor() : osg::NodeVisitor(TRAVERSE_ALL_CHILDREN)
 {
     m_matrices.emplace_back();
@@ -15,10 +17,25 @@ void ExtentsVisitor::apply(osg::Node &node)
         traverse(node);
         return;
     }
+    osg::BoundingSphere inside = node.getBound();
+    if (!inside.valid())
+        return;
+    inside.radius() *= std::numbers::inv_sqrt3_v<float>;
     osg::BoundingBox box;
-    box.expandBy(node.getBound());
-    for (unsigned corner = 0; box.valid() && corner < 8; ++corner)
-        m_extents.expandBy(box.corner(corner) * m_matrices.back());
+    box.expandBy(inside);
+    for (unsigned corner = 0; corner < 8; ++corner)
+        m_deferred.expandBy(box.corner(corner) * m_matrices.back());
+}
+
+osg::BoundingBox ExtentsVisitor::extents() const
+{
+    osg::BoundingBox all = m_made;
+    all.expandBy(m_deferred);
+    if (m_made.valid() && m_made.radius() > 0) {
+        all.zMin() = m_made.zMin();
+        all.zMax() = m_made.zMax();
+    }
+    return all;
 }
 
 void ExtentsVisitor::apply(osg::Transform &transform)
@@ -37,5 +54,5 @@ void ExtentsVisitor::apply(osg::Drawable &drawable)
     // not getBoundingBox(), which may be larger for culling
     const osg::BoundingBox box = drawable.computeBoundingBox();
     for (unsigned corner = 0; box.valid() && corner < 8; ++corner)
-        m_extents.expandBy(box.corner(corner) * m_matrices.back());
+        m_made.expandBy(box.corner(corner) * m_matrices.back());
 }

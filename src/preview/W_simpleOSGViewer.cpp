@@ -274,8 +274,9 @@ osg::BoundingBox W_simpleOSGViewer::extentsOf(osg::Node *node)
         toScene = osg::computeLocalToWorld(paths.front());
     }
     osg::BoundingBox box;
-    for (unsigned corner = 0; visitor.extents().valid() && corner < 8; ++corner)
-        box.expandBy(visitor.extents().corner(corner) * toScene);
+    const osg::BoundingBox extents = visitor.extents();
+    for (unsigned corner = 0; extents.valid() && corner < 8; ++corner)
+        box.expandBy(extents.corner(corner) * toScene);
     return box;
 }
 
