@@ -1,7 +1,9 @@
 #include "buildings/ValuedBuildings.h"
 
 #include "city/BuildingRows.h"
+#include "city/FieldValues.h"
 #include "city/SeaLevelGuess.h"
+#include "colormaps/DistinctColors.h"
 #include "contract/BadLayer.h"
 #include "contract/Stopped.h"
 #include "geodata/ValuesFile.h"
@@ -54,13 +56,49 @@ ValueCell textCell(const std::string &text)
     return text.empty() ? ValueCell() : ValueCell(text);
 }
 
+using Color = std::optional<colormaps::Rgba>;
+
+/// The colours that a field gives the features of a document.
+class FieldOfColors
+{
+public:
+    /// @param legend  of the colouring
+    FieldOfColors(const contract::BuildingDocument &document,
+                  const std::optional<LegendInput> &legend, const Progress &progress)
+        : m_legend(legend)
+    {
+        const contract::BuildingColors &colors = document.colors;
+        const bool isDistinct = colors.coloring == contract::FieldColoring::Distinct;
+        if (!colors.field.empty())
+            m_values = city::readFieldValues(
+                document.footprints.file, document.footprints, colors.field,
+                isDistinct ? city::FieldKind::Texts : city::FieldKind::Numbers, progress);
+    }
+
+    /// Nothing for features without a value, and if no field colours the buildings.
+    Color at(std::size_t feature) const
+    {
+        if (feature < m_values.texts.size() && m_values.texts[feature] != city::FieldValues::NoText)
+            return colormaps::distinctColor(m_values.texts[feature]);
+        if (feature < m_values.numbers.size() && m_legend)
+            return colorOf(m_legend->map, m_values.numbers[feature], m_legend->interpretation);
+        return {};
+    }
+
+private:
+    const std::optional<LegendInput> &m_legend;
+    city::FieldValues m_values;
+};
+
 /// The columns of a list and the cells in them.
 class RowFormat
 {
 public:
-    RowFormat(const city::CityValues &read, const std::optional<LegendInput> &legend)
+    RowFormat(const city::CityValues &read, const std::optional<LegendInput> &legend,
+              const FieldOfColors &field)
         : m_read(read)
         , m_legend(legend)
+        , m_field(field)
     {}
 
     QList<ValueColumn> columns() const
@@ -94,6 +132,8 @@ public:
                                    std::string(HeightSourceWords[static_cast<int>(row.source)]),
                                    withoutNoise(row.baseM), withoutNoise(row.bottomM)});
         addValue(cells, row.value);
+        const Color color = row.value ? colorOfValue(*row.value) : m_field.at(row.index);
+        cells.push_back(color ? ValueCell(colorText(*color)) : ValueCell());
         cells.emplace_back();
         return cells;
     }
@@ -107,11 +147,13 @@ private:
         for (const city::RasterClass &one : m_read.classes)
             cells.push_back(hasValue ? ValueCell(shareOf(pixelsOf(*found, one), found->pixels))
                                      : ValueCell());
-        std::optional<colormaps::Rgba> color;
-        if (found && m_legend)
-            color = colorOf(m_legend->map, found->value.value_or(std::nan("")),
-                            m_legend->interpretation);
-        cells.push_back(color ? ValueCell(colorText(*color)) : ValueCell());
+    }
+
+    Color colorOfValue(const city::FeatureValue &found) const
+    {
+        return m_legend ? colorOf(m_legend->map, found.value.value_or(std::nan("")),
+                                  m_legend->interpretation)
+                        : Color();
     }
 
     std::uint64_t pixelsOf(const city::FeatureValue &found, const city::RasterClass &one) const
@@ -125,6 +167,7 @@ private:
 
     const city::CityValues &m_read;
     const std::optional<LegendInput> &m_legend;
+    const FieldOfColors &m_field;
 };
 
 Error readerError(const contract::BadLayer &fault, const contract::BuildingDocument &document)
@@ -180,26 +223,30 @@ Stoppable<Done> ValuedBuildings::write(const ValuesTarget &target,
                                        const std::optional<LegendInput> &legend,
                                        const Progress &progress) const
 {
-    const RowFormat format(*m_read, legend);
-    auto file =
-        geodata::ValuesFile::create(target.path, format.columns(), city::wktOf(m_read->city.srs));
-    if (!file)
-        return Result<Done>(file.error());
+    const Progress report = reporting(progress);
+    const double fieldShare = m_document.colors.field.empty() ? 0 : 0.3; // of the work
     Result<Done> written = Done{};
     try {
+        const FieldOfColors field(m_document, legend,
+                                  [&](double share) { return report(share * fieldShare); });
+        const RowFormat format(*m_read, legend, field);
+        auto file = geodata::ValuesFile::create(target.path, format.columns(),
+                                                city::wktOf(m_read->city.srs));
+        if (!file)
+            return Result<Done>(file.error());
         city::forEachRow(
             m_document, {"/"}, *m_read, target.idField.toStdString(),
             [&](const city::BuildingRow &row) {
                 written = file.value()->add(format.cells(row), row.shape);
                 return written.ok();
             },
-            reporting(progress));
+            [&](double share) { return report(fieldShare + share * (1 - fieldShare)); });
+        return written ? file.value()->finish() : written;
     } catch (const contract::BadLayer &fault) {
         return Result<Done>(readerError(fault, m_document));
     } catch (const contract::Stopped &) {
         return std::nullopt;
     }
-    return written ? file.value()->finish() : written;
 }
 
 Stoppable<Done> saveValues(const contract::BuildingDocument &document, const ValuesTarget &target,

@@ -34,7 +34,7 @@ public:
     /// base_m, bottom_m, value, pixels, share_CLASS for each class of a classified raster, color,
     /// left_out. Names and words are the same in all languages.
     ///
-    /// @param legend  the colours of the values; nothing: no colour comes from a raster
+    /// @param legend  the colours of the values; nothing: no colour comes from a raster or a field
     /// @par Errors    those of geodata::ValuesFile; there is no such field of ids
     Stoppable<Done> write(const ValuesTarget &target, const std::optional<LegendInput> &legend,
                           const Progress &progress) const;

@@ -42,6 +42,7 @@ public:
     BuildingRow rowOf(const OGRFeature &feature, std::size_t index, int idField)
     {
         BuildingRow row;
+        row.index = index;
         row.fid = feature.GetFID();
         if (idField >= 0 && feature.IsFieldSetAndNotNull(idField))
             row.id = const_cast<OGRFeature &>(feature).GetFieldAsString(idField);

@@ -12,6 +12,7 @@ namespace vlt::city {
 /// A feature of the footprints in a list of all of them.
 struct BuildingRow
 {
+    std::size_t index = 0; ///< among the features that are read, see Footprints::Feature::row
     std::int64_t fid = -1; ///< that the source gives it
     std::string id;        ///< from the field of ids; empty if there is none
     std::optional<contract::LeftOutReason> leftOut;

@@ -116,6 +116,30 @@ private Q_SLOTS:
                             "left_out\n4,,30,field,42.3,12,,,,\n"));
     }
 
+    /// Of texts, and of the same field with numbers.
+    void listsTheColorsOfAField()
+    {
+        QByteArray numbers = readFile(u"" VLT_FOOTPRINTS "/levels.geojson"_s);
+        numbers.replace("\"house\"", "1").replace("\"shed\"", "2");
+        numbers.replace("\"water \\\"tower\\\"\"", "1.5");
+        writeFile(m_program->path(u"numbers.geojson"_s), numbers);
+        const QString ofNumbers =
+            QString(Town).replace(u"" VLT_FOOTPRINTS "/levels"_s, u"../numbers"_s) +
+            u"--colormap ../own.txt --absolute "_s;
+        for (const auto &[inputs, wanted] :
+             {std::pair{Town, "color #1f6fb5 #1f6fb5   #2e9e4f  #1f6fb5 #1f6fb5"},
+              std::pair{ofNumbers, "color #ff0000 #ff0000   #800080c0  #ff0000 #ff0000"}}) {
+            const Run run =
+                m_program->start(inputs + u"--color-field usage --quiet --values v.csv"_s);
+
+            QCOMPARE(run.status, 0);
+            QByteArrayList colors;
+            for (const QByteArray &line : readFile(values(u"v.csv"_s)).trimmed().split('\n'))
+                colors << line.split(',').value(line.count(',') - 1);
+            QCOMPARE(colors.join(' '), QByteArray(wanted));
+        }
+    }
+
     void refusesAndWritesNothing_data()
     {
         // "%": the inputs

@@ -418,6 +418,7 @@ private Q_SLOTS:
         QTRY_VERIFY_WITH_TIMEOUT(colorsWritten(u"\"use\"\n    mode=\"distinct\"\n"_s), PatienceMs);
         QVERIFY(!shown(u"m_pwLeImage"_s) && !shown(u"m_pwCbMode"_s) && !shown(u"m_pwCbCmap"_s));
         QVERIFY(page.text(u"m_pwLblLegend"_s).contains(u"use"_s));
+        QVERIFY(shown(u"m_pwPbSaveValues"_s) && !shown(u"m_pwLblSummary"_s));
         page.saveSettings();
 
         ColoredPage later(m_installation, town, fields);

@@ -91,8 +91,10 @@ void VltAddTexbColoredPage::layerWritten(const buildings::BuildingLayerFiles &fi
 {
     m_ui->m_pwLegend->showLegend(m_colorMapName, files.legend);
     const buildings::BuildingLayerInput &layer = m_valued.layer;
-    const bool hasValues = layer.legend && m_valued.coloring.field.isEmpty();
-    if (!files.legend.isEmpty() && hasValues && layer.counted.counts.drawn > 0)
+    if (files.legend.isEmpty() || !layer.legend || layer.counted.counts.drawn == 0)
+        return;
+    m_ui->m_pwLegend->offerSaving();
+    if (m_valued.coloring.field.isEmpty())
         m_ui->m_pwLegend->showSummary(
             buildings::summarize(layer.counted.values, *layer.legend,
                                  buildings::unitOf(layer.counted.unit, m_valued.coloring)));

@@ -59,12 +59,16 @@ void VltLegendView::showLegend(const QString &colorMapName, const QString &image
     fit();
 }
 
+void VltLegendView::offerSaving()
+{
+    m_pwPbSave->show();
+}
+
 void VltLegendView::showSummary(const vlt::buildings::ValueSummary &summary)
 {
     m_summary->setText(vlt::buildings::summaryInfoText(summary));
     m_summary->setAccessibleName(vlt::buildings::summaryLines(summary).join(QLatin1Char('\n')));
     m_summary->show();
-    m_pwPbSave->show();
 }
 
 void VltLegendView::resizeEvent(QResizeEvent *event)

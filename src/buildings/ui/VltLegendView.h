@@ -22,7 +22,10 @@ public:
     /// @param imagePath  file in the layer's folder; empty for no legend
     void showLegend(const QString &colorMapName, const QString &imagePath);
 
-    /// Shows a summary, with a button to save the values.
+    /// Shows a button to save the values.
+    void offerSaving();
+
+    /// Shows a summary.
     void showSummary(const vlt::buildings::ValueSummary &summary);
 
 Q_SIGNALS:
