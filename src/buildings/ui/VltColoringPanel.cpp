@@ -6,6 +6,7 @@
 #include "buildings/ui/ColorMapSwatch.h"
 #include "buildings/ui/NoDataGuess.h"
 #include "buildings/ui/RasterMessages.h"
+#include "buildings/ui/StretchControls.h"
 #include "colormaps/ColorMapList.h"
 #include "colormaps/OpenColorMap.h"
 #include "contract/NoDataText.h"
@@ -21,7 +22,6 @@
 #include <QScopedValueRollback>
 #include <QSettings>
 #include <QSignalBlocker>
-#include <QStandardItemModel>
 #include <QStyle>
 #include <QWizardPage>
 
@@ -31,8 +31,6 @@ using vlt::buildings::Stretch;
 namespace {
 
 const QString LastUsedDirKey = QStringLiteral("LastUsedDir");
-
-constexpr int NumberDigits = 12;
 
 const QString StretchKey = QStringLiteral("StretchOver");
 const QString FieldKey = QStringLiteral("ColorField");
@@ -48,12 +46,6 @@ void saveUnlessFirst(const QString &key, const QVariant &value, const QVariant &
         settings->remove(key);
     else
         settings->setValue(key, value);
-}
-
-/// Whether a stretch has a meaning for the values of a field.
-bool isForFields(int kind)
-{
-    return kind != Stretch::Buildings && kind != Stretch::Shared;
 }
 
 void restoreIndex(QComboBox *combo, const QVariant &value)
@@ -77,6 +69,13 @@ VltColoringPanel::VltColoringPanel(QWidget *parent)
     , m_ui(std::make_unique<Ui::ColoringPanel>())
 {
     m_ui->setupUi(this);
+    m_stretch = new StretchControls(
+        this,
+        {m_ui->m_pwCbStretch, m_ui->m_pwCbStretchOver, m_ui->m_pwStretchPercentile,
+         m_ui->m_pwSbStretchLow, m_ui->m_pwSbStretchHigh, m_ui->m_pwStretchRange,
+         m_ui->m_pwLeStretchLow, m_ui->m_pwLeStretchHigh, m_ui->m_pwStretchShared,
+         m_ui->m_pwLeStretchOthers, m_ui->m_pwPbStretchOthers},
+        m_lastUsedDir);
     setFocusProxy(m_ui->m_pwLeImage);
     m_ui->m_pwNoDataProgress->hide();
     offerFields({});
@@ -93,26 +92,9 @@ VltColoringPanel::VltColoringPanel(QWidget *parent)
 
 VltColoringPanel::~VltColoringPanel() = default;
 
-void VltColoringPanel::connectStretch()
-{
-    const auto changed = [this] {
-        showStretch();
-        Q_EMIT parameterChanged();
-    };
-    connect(m_ui->m_pwCbStretch, &QCheckBox::toggled, this, changed);
-    connect(m_ui->m_pwCbStretchOver, &QComboBox::currentIndexChanged, this, changed);
-    for (const QDoubleSpinBox *box : {m_ui->m_pwSbStretchLow, m_ui->m_pwSbStretchHigh})
-        connect(box, &QDoubleSpinBox::valueChanged, this, &VltColoringPanel::parameterChanged);
-    for (const QLineEdit *line :
-         {m_ui->m_pwLeStretchLow, m_ui->m_pwLeStretchHigh, m_ui->m_pwLeStretchOthers})
-        connect(line, &QLineEdit::textChanged, this, &VltColoringPanel::parameterChanged);
-    connect(m_ui->m_pwPbStretchOthers, &QPushButton::clicked, this,
-            &VltColoringPanel::chooseOthers);
-}
-
 void VltColoringPanel::connectWidgets()
 {
-    connectStretch();
+    connect(m_stretch, &StretchControls::changed, this, &VltColoringPanel::parameterChanged);
     connect(m_ui->m_pwCbColorBy, &QComboBox::currentIndexChanged, this, [this] {
         m_field = m_ui->m_pwCbColorBy->currentData().toString();
         showRows();
@@ -229,81 +211,8 @@ void VltColoringPanel::showRows()
     show({m_ui->m_pwLblCmap, m_ui->m_pwCbCmap, m_ui->m_pwPbAddCmap, m_ui->m_pwCbStretch,
           m_ui->m_pwCbStretchOver, m_ui->m_pwLblColorInterp, m_ui->m_pwCBColorInterp},
          !isOfTexts());
-    showStretch();
-}
-
-/// Shows the choices for what the colours are stretched over.
-void VltColoringPanel::showStretch()
-{
-    QComboBox *over = m_ui->m_pwCbStretchOver;
-    auto *kinds = qobject_cast<QStandardItemModel *>(over->model());
-    for (int kind = 0; kind < over->count(); ++kind)
-        kinds->item(kind)->setEnabled(!isOfField() || isForFields(kind));
-    over->setItemText(Stretch::Raster, isOfField() ? tr("whole field", "MESS_STRETCH_FIELD")
-                                                   : tr("whole image", "MESS_STRETCH_RASTER"));
-    m_ui->m_pwCbStretch->setText(isOfField()
-                                     ? tr("Stretch on field min/max", "MESS_STRETCH_FIELD_CMAP")
-                                     : tr("Stretch on raster min/max", "MESS_STRETCH_CMAP"));
-    if (isOfField() && !isForFields(over->currentIndex()))
-        over->setCurrentIndex(Stretch::Raster);
-    const bool isStretched = m_ui->m_pwCbStretch->isChecked() && !isOfTexts();
-    const int kind = isStretched ? over->currentIndex() : Stretch::Raster;
-    over->setEnabled(isStretched);
-    m_ui->m_pwStretchPercentile->setVisible(kind == Stretch::Percentile);
-    m_ui->m_pwStretchRange->setVisible(kind == Stretch::Range);
-    m_ui->m_pwStretchShared->setVisible(kind == Stretch::Shared);
-}
-
-/// What the colours are stretched over; none while the choice is not complete.
-std::optional<Stretch> VltColoringPanel::stretch() const
-{
-    Stretch stretch;
-    stretch.kind = static_cast<Stretch::Kind>(m_ui->m_pwCbStretchOver->currentIndex());
-    if (stretch.kind == Stretch::Percentile) {
-        stretch.low = m_ui->m_pwSbStretchLow->value();
-        stretch.high = m_ui->m_pwSbStretchHigh->value();
-    } else if (stretch.kind == Stretch::Range) {
-        const auto low = buildings::stretchNumber(m_ui->m_pwLeStretchLow->text());
-        const auto high = buildings::stretchNumber(m_ui->m_pwLeStretchHigh->text());
-        if (!low || !high)
-            return std::nullopt;
-        stretch.low = *low;
-        stretch.high = *high;
-    } else if (stretch.kind == Stretch::Shared)
-        stretch.others = m_others;
-    // Of the incomplete ones the texts are none of a stretch.
-    return buildings::parseStretch(buildings::stretchTexts(stretch));
-}
-
-void VltColoringPanel::setStretch(const Stretch &stretch)
-{
-    m_ui->m_pwCbStretchOver->setCurrentIndex(stretch.kind);
-    if (stretch.kind == Stretch::Percentile) {
-        m_ui->m_pwSbStretchLow->setValue(stretch.low);
-        m_ui->m_pwSbStretchHigh->setValue(stretch.high);
-    } else if (stretch.kind == Stretch::Range) {
-        m_ui->m_pwLeStretchLow->setText(QString::number(stretch.low, 'g', NumberDigits));
-        m_ui->m_pwLeStretchHigh->setText(QString::number(stretch.high, 'g', NumberDigits));
-    }
-    setOthers(stretch.others);
-}
-
-void VltColoringPanel::setOthers(const QStringList &files)
-{
-    m_others = files;
-    QStringList names;
-    for (const QString &file : files)
-        names << QFileInfo(file).fileName();
-    m_ui->m_pwLeStretchOthers->setText(names.join(QStringLiteral(", ")));
-}
-
-void VltColoringPanel::chooseOthers()
-{
-    const QStringList files = QFileDialog::getOpenFileNames(
-        this, tr("Select the other images", "MESS_SELECT_STRETCH_OTHERS"), m_lastUsedDir,
-        QStringLiteral("%1 (*.*)").arg(tr("Raster Files", "MESS_RASTER_FILES")));
-    if (!files.isEmpty())
-        setOthers(files);
+    using enum StretchControls::Source;
+    m_stretch->show(isRaster ? Raster : isOfTexts() ? TextField : NumberField);
 }
 
 int VltColoringPanel::band() const
@@ -333,7 +242,7 @@ std::optional<buildings::RasterColoring> VltColoringPanel::coloring() const
     }
     coloring.colorMap = m_ui->m_pwCbCmap->currentData().toString();
     coloring.stretched = m_ui->m_pwCbStretch->isChecked();
-    coloring.stretch = stretch().value_or(buildings::Stretch());
+    coloring.stretch = m_stretch->stretch().value_or(buildings::Stretch());
     coloring.interpolated = m_ui->m_pwCBColorInterp->currentIndex() == 1;
     return coloring;
 }
@@ -359,7 +268,7 @@ QString VltColoringPanel::missingText() const
         return {};
     if (const QString missing = isOfField() ? QString() : missingOfRaster(); !missing.isEmpty())
         return missing;
-    if (m_ui->m_pwCbStretch->isChecked() && !stretch())
+    if (m_ui->m_pwCbStretch->isChecked() && !m_stretch->stretch())
         return m_ui->m_pwStretchShared->isHidden()
                    ? tr("The range of the colors needs two numbers, the lower one first.",
                         "MESS_STRETCH_NO_RANGE")
@@ -547,7 +456,8 @@ void VltColoringPanel::loadSettings(const QString &prefix)
         checkSubdataset(true);
     restoreIndex(m_ui->m_pwCbBand, value(BandKey, FirstBand).toInt() - FirstBand);
     VltParameterPanel::loadSettings(prefix);
-    setStretch(buildings::parseStretch(value(StretchKey, {}).toStringList()).value_or(Stretch()));
+    m_stretch->setStretch(
+        buildings::parseStretch(value(StretchKey, {}).toStringList()).value_or(Stretch()));
 
     m_field = value(FieldKey, {}).toString();
 
@@ -576,7 +486,7 @@ void VltColoringPanel::saveSettings(const QString &prefix)
     save(QStringLiteral("Image"), m_openedImage);
     save(QStringLiteral("IdxSubdataset"), qMax(0, m_ui->m_pwCbSubdatsets->currentIndex()));
     saveUnlessFirst(prefix + QLatin1Char('/') + StretchKey,
-                    buildings::stretchTexts(stretch().value_or(Stretch())),
+                    buildings::stretchTexts(m_stretch->stretch().value_or(Stretch())),
                     buildings::stretchTexts({}));
     saveUnlessFirst(prefix + QLatin1Char('/') + BandKey, band(), FirstBand);
     saveUnlessFirst(prefix + QLatin1Char('/') + FieldKey, m_field, QString());

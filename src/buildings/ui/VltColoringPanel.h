@@ -10,6 +10,7 @@
 namespace Ui {
 class ColoringPanel;
 }
+class StretchControls;
 
 /// The panel for colours from a raster: image, its part and band, value of no data, colour map,
 /// stretching, interpretation, reduction; or from a field of the footprints, if any are offered.
@@ -74,16 +75,10 @@ private:
     using Summary = vlt::Result<vlt::geodata::RasterSummary>;
 
     void connectWidgets();
-    void connectStretch();
     void showRows();
-    void showStretch();
     bool isOfField() const;
     bool isOfTexts() const;
     QString missingOfRaster() const;
-    std::optional<vlt::buildings::Stretch> stretch() const;
-    void setStretch(const vlt::buildings::Stretch &stretch);
-    void setOthers(const QStringList &files);
-    void chooseOthers();
     void takeTypedImage();
     void showSubdatasets(const QList<vlt::geodata::Subdataset> &subdatasets);
     void showBands(const QStringList &bands);
@@ -97,9 +92,9 @@ private:
     QWidget *page();
 
     std::unique_ptr<Ui::ColoringPanel> m_ui;
+    StretchControls *m_stretch = nullptr;
     QString m_lastUsedDir;
     QString m_field;       ///< that colours the buildings; empty: the raster does
-    QStringList m_others;  ///< images that share the stretching
     QString m_openedImage; ///< absolute path of the image file
     bool m_isUsable = false;
     bool m_isBusy = false;
