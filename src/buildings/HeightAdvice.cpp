@@ -73,7 +73,7 @@ std::optional<HeightAdvice> adviseHeights(const BuildingDocument &document,
                                           const Progress &progress)
 {
     try {
-        if (const auto filling = adviseFilling(document, counted.counts, layer, progress))
+        if (auto filling = adviseFilling(document, counted.counts, layer, progress))
             return filling;
     } catch (const contract::BadLayer &) {
         return std::nullopt; // counting has reported it

@@ -115,7 +115,7 @@ Stoppable<RasterRange> sharedRange(const RasterColoring &coloring, const Progres
     double done = 0;
     for (const QString &raster : rasters) {
         one.rasterFile = raster;
-        const auto range = rangeOfRaster(one, [&](double share) {
+        auto range = rangeOfRaster(one, [&](double share) {
             return !progress || progress((done + share) / static_cast<double>(rasters.size()));
         });
         if (!range || !*range)

@@ -37,10 +37,10 @@ QString unitInName(const QString &path, bool isRaster)
 {
     static const QRegularExpression Separator(QStringLiteral("[^A-Za-z0-9]+"));
     const QStringList words = QFileInfo(path).completeBaseName().toLower().split(Separator);
-    for (auto word = words.crbegin(); word != words.crend(); ++word) {
+    for (qsizetype last = words.size() - 1; last >= 0; --last) {
         for (const NamedUnit &known : Units) {
             const bool isMetres = known.unit == std::string_view("m");
-            if (*word == QLatin1String(known.name) && !(isRaster && isMetres))
+            if (words.at(last) == QLatin1String(known.name) && !(isRaster && isMetres))
                 return QString::fromUtf8(known.unit);
         }
     }
@@ -226,7 +226,7 @@ QString unitOf(const QString &bandUnit, const RasterColoring &coloring)
 {
     if (!bandUnit.isEmpty())
         return bandUnit;
-    const QString unit = unitInName(coloring.rasterFile, true);
+    QString unit = unitInName(coloring.rasterFile, true);
     if (!unit.isEmpty() || coloring.stretched)
         return unit;
     return unitInName(coloring.colorMap, false);

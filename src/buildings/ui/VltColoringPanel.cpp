@@ -266,7 +266,7 @@ QString VltColoringPanel::missingText() const
 {
     if (isOfTexts())
         return {};
-    if (const QString missing = isOfField() ? QString() : missingOfRaster(); !missing.isEmpty())
+    if (QString missing = isOfField() ? QString() : missingOfRaster(); !missing.isEmpty())
         return missing;
     if (m_ui->m_pwCbStretch->isChecked() && !m_stretch->stretch())
         return m_ui->m_pwStretchShared->isHidden()
