@@ -52,6 +52,7 @@ double outerHalfM(const Square &finest)
 std::vector<GroundLevel> makeGround(Terrain &terrain, const Square &finest)
 {
     std::vector<Lattice> meshes;
+    meshes.reserve(Levels);
     for (int level = 0; level < Levels; ++level)
         meshes.push_back(
             terrain.heights({finest.centre, finest.halfM * std::pow(Ratio, level)}, MeshCells));
