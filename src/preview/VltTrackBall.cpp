@@ -17,6 +17,7 @@ constexpr double Notch = 120; // one notch of the wheel, in eighths of a degree
 
 constexpr double MinElevationDeg = -5; ///< a little below the horizon, to look up at a mast
 constexpr double MaxElevationDeg = 90;
+const osg::Vec3d Upwards(0, 0, 1);   // in double precision, unlike the library's axes
 constexpr double FarthestPlace = 20; ///< under the pointer, in distances of the camera
 
 /// The horizontal direction in which a camera looks, also from straight above.
@@ -69,8 +70,8 @@ void VltTrackBall::tiltBy(double angleDeg)
     const double old = osg::RadiansToDegrees(std::asin(std::clamp(away.z(), -1.0, 1.0)));
     const double elevation =
         osg::DegreesToRadians(std::clamp(old + angleDeg, MinElevationDeg, MaxElevationDeg));
-    away = osg::Z_AXIS * std::sin(elevation) - heading * std::cos(elevation);
-    up = osg::Z_AXIS * std::cos(elevation) + heading * std::sin(elevation);
+    away = Upwards * std::sin(elevation) - heading * std::cos(elevation);
+    up = Upwards * std::cos(elevation) + heading * std::sin(elevation);
     setTransformation(center + away * distance, center, up);
 }
 
@@ -81,12 +82,12 @@ void VltTrackBall::panBy(double right, double ahead)
     osg::Vec3d up;
     getTransformation(eye, center, up);
     const osg::Vec3d heading = headingOf(eye, center, up);
-    setCenter(center + ((heading ^ osg::Z_AXIS) * right + heading * ahead) * getDistance());
+    setCenter(center + ((heading ^ Upwards) * right + heading * ahead) * getDistance());
 }
 
 void VltTrackBall::lookDown()
 {
-    setTransformation(getCenter() + osg::Z_AXIS * getDistance(), getCenter(), osg::Y_AXIS);
+    setTransformation(getCenter() + Upwards * getDistance(), getCenter(), osg::Y_AXIS);
 }
 
 void VltTrackBall::showFrom(const osg::Vec3d &center, double distanceM)
