@@ -45,6 +45,8 @@ contract::BuildingDocument countedParts(const contract::BuildingDocument &docume
         parts.footprints.wallColor = valuesText(footprints.roofColor);
     parts.terrain = document.terrain;
     parts.colors.band = document.colors.band;
+    parts.colors.field = document.colors.field;
+    parts.colors.coloring = document.colors.coloring;
     return parts;
 }
 

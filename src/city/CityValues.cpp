@@ -1,8 +1,10 @@
 #include "city/CityValues.h"
 
 #include "city/BuildingValues.h"
+#include "city/FieldValues.h"
 #include "contract/BadLayer.h"
 #include "contract/Stopped.h"
+#include "localfiles/LocalFormats.h"
 
 #include <algorithm>
 #include <set>
@@ -117,6 +119,28 @@ private:
     std::set<double> m_classes;
 };
 
+/// Counts the buildings that have no value in the field of the colours.
+///
+/// @throws BadLayer  the field cannot be read
+void countFieldValues(CityValues &read, const contract::BuildingDocument &document,
+                      const std::vector<std::string> &directories, const Progress &progress)
+{
+    const Footprints &footprints = read.city.footprints;
+    contract::CityCounts &counts = read.city.counts;
+    const bool areTexts = document.colors.coloring == contract::FieldColoring::Distinct;
+    const FieldValues values = readFieldValues(
+        localfiles::locateDataset(document.footprints.file, directories), document.footprints,
+        document.colors.field, areTexts ? FieldKind::Texts : FieldKind::Numbers, progress);
+    for (const std::size_t first : firstBuildings(footprints)) {
+        const std::uint32_t feature = footprints.buildings[first].feature;
+        counts.substitutes.noValue += values.hasValue(footprints.features[feature].row) ? 0 : 1;
+    }
+    if (counts.substitutes.noValue > 0)
+        read.notices.push_back(contract::formatted(
+            "MESS_SCENE_NO_FIELD_VALUE", {std::to_string(counts.substitutes.noValue),
+                                          std::to_string(counts.drawn), document.colors.field}));
+}
+
 } // namespace
 
 CityValues readCityValues(const contract::BuildingDocument &document,
@@ -124,18 +148,24 @@ CityValues readCityValues(const contract::BuildingDocument &document,
                           const Progress &progress)
 {
     const std::optional<RasterColors> colors = colorsOf(document);
-    const double inputsShare = colors ? InputsShare : 1;
+    const bool isByField = !colors && !document.colors.field.empty();
+    const double inputsShare = colors || isByField ? InputsShare : 1;
     CityValues read;
     read.city = readCityInputs(document, directories, read.notices,
                                [&](double share) { return progress(share * inputsShare); });
-    if (!colors)
+    if (!colors && !isByField)
         return read;
+    const Progress valuesProgress = [&](double share) {
+        return progress(InputsShare + share * (1 - InputsShare));
+    };
     contract::CityCounts &counts = read.city.counts;
     std::size_t &without = counts.substitutes.noValue;
     try {
-        without = Valuer(read, *colors, directories, classCounts).run([&](double share) {
-            return progress(InputsShare + share * (1 - InputsShare));
-        });
+        if (isByField) {
+            countFieldValues(read, document, directories, valuesProgress);
+            return read;
+        }
+        without = Valuer(read, *colors, directories, classCounts).run(valuesProgress);
     } catch (const contract::BadLayer &fault) {
         read.notices.push_back(fault.what());
         without = counts.drawn;

@@ -3,6 +3,7 @@
 #include "contract/BuildingDocument.h"
 #include "contract/Progress.h"
 
+#include <cmath>
 #include <cstdint>
 #include <limits>
 #include <string>
@@ -27,6 +28,12 @@ struct FieldValues
     std::vector<std::uint32_t> texts; ///< in `distinct`; NoText: none
 
     std::vector<FieldText> distinct; ///< the most frequent ones first, else in their order
+
+    bool hasValue(std::size_t row) const
+    {
+        return row < texts.size() ? texts[row] != NoText
+                                  : row < numbers.size() && !std::isnan(numbers[row]);
+    }
 };
 
 /// What the values of a field are taken as.

@@ -260,10 +260,13 @@ private Q_SLOTS:
         makeGeoTiff(m_dir.filePath(u"values.tif"_s),
                     {10, 2, 1, GDT_Byte, northUp(East, North - 5, 10, 2), "EPSG:2154",
                      [](int, int, int) { return 1; }});
-        const auto counted = [this](const char *raster) {
+        const auto counted = [this](const std::string &raster, const char *field = "") {
             BuildingDocument made = document("levels.geojson", "building:levels");
-            made.footprints.wallColor =
-                std::string("IMAGE;") + raster + ";map.txt;average;absolute;interpolation";
+            if (!raster.empty())
+                made.footprints.wallColor =
+                    "IMAGE;" + raster + ";map.txt;average;absolute;interpolation";
+            made.colors.field = field;
+            made.colors.coloring = vlt::contract::FieldColoring::Distinct;
             return summary(city::readCityValues(made, {m_dir.path().toStdString()},
                                                 city::ClassCounts::Wanted,
                                                 [](double) { return true; })
@@ -273,6 +276,8 @@ private Q_SLOTS:
         const QString others = u"8: 5 drawn, 2 missingHeight, 1 notPositive, 5 zeroGround"_s;
         QCOMPARE(counted("values.tif"), others + u", 2 noValue"_s);
         QCOMPARE(counted("none.tif"), others + u", 5 noValue"_s);
+        QCOMPARE(counted({}, "usage"), others + u", 1 noValue"_s);
+        QCOMPARE(counted({}, "none"), others + u", 5 noValue"_s);
     }
 
     void valuesBuildings_data()
