@@ -67,18 +67,14 @@ public:
                   const std::optional<LegendInput> &legend, const Progress &progress)
         : m_legend(legend)
     {
-        const contract::BuildingColors &colors = document.colors;
-        const bool isDistinct = colors.coloring == contract::FieldColoring::Distinct;
-        if (!colors.field.empty())
-            m_values = city::readFieldValues(
-                document.footprints.file, document.footprints, colors.field,
-                isDistinct ? city::FieldKind::Texts : city::FieldKind::Numbers, progress);
+        if (!document.colors.field.empty())
+            m_values = city::readColorField(document, {"/"}, progress);
     }
 
     /// Nothing for features without a value, and if no field colours the buildings.
     Color at(std::size_t feature) const
     {
-        if (feature < m_values.texts.size() && m_values.texts[feature] != city::FieldValues::NoText)
+        if (feature < m_values.texts.size() && m_values.hasValue(feature))
             return colormaps::distinctColor(m_values.texts[feature]);
         if (feature < m_values.numbers.size() && m_legend)
             return colorOf(m_legend->map, m_values.numbers[feature], m_legend->interpretation);

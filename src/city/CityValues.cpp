@@ -4,7 +4,6 @@
 #include "city/FieldValues.h"
 #include "contract/BadLayer.h"
 #include "contract/Stopped.h"
-#include "localfiles/LocalFormats.h"
 
 #include <algorithm>
 #include <set>
@@ -127,10 +126,7 @@ void countFieldValues(CityValues &read, const contract::BuildingDocument &docume
 {
     const Footprints &footprints = read.city.footprints;
     contract::CityCounts &counts = read.city.counts;
-    const bool areTexts = document.colors.coloring == contract::FieldColoring::Distinct;
-    const FieldValues values = readFieldValues(
-        localfiles::locateDataset(document.footprints.file, directories), document.footprints,
-        document.colors.field, areTexts ? FieldKind::Texts : FieldKind::Numbers, progress);
+    const FieldValues values = readColorField(document, directories, progress);
     for (const std::size_t first : firstBuildings(footprints)) {
         const std::uint32_t feature = footprints.buildings[first].feature;
         counts.substitutes.noValue += values.hasValue(footprints.features[feature].row) ? 0 : 1;

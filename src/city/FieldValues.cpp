@@ -4,6 +4,7 @@
 #include "contract/NoDataText.h"
 #include "contract/Stopped.h"
 #include "localfiles/FeatureReading.h"
+#include "localfiles/LocalFormats.h"
 #include "localfiles/NoNetwork.h"
 
 #include <cpl_error.h>
@@ -99,6 +100,15 @@ FieldValues readFieldValues(const std::string &path, const contract::BuildingFoo
     }
     texts.finish(values);
     return values;
+}
+
+FieldValues readColorField(const contract::BuildingDocument &document,
+                           const std::vector<std::string> &directories, const Progress &progress)
+{
+    const bool areTexts = document.colors.coloring == contract::FieldColoring::Distinct;
+    return readFieldValues(localfiles::locateDataset(document.footprints.file, directories),
+                           document.footprints, document.colors.field,
+                           areTexts ? FieldKind::Texts : FieldKind::Numbers, progress);
 }
 
 } // namespace vlt::city

@@ -48,4 +48,11 @@ enum class FieldKind { Numbers, Texts };
 FieldValues readFieldValues(const std::string &path, const contract::BuildingFootprints &source,
                             const std::string &field, FieldKind kind, const Progress &progress);
 
+/// Reads the values of the field that colours the buildings of a document.
+///
+/// @param directories  searched for relative paths, in this order
+/// @throws BadLayer, Stopped  as readFootprints()
+FieldValues readColorField(const contract::BuildingDocument &document,
+                           const std::vector<std::string> &directories, const Progress &progress);
+
 } // namespace vlt::city

@@ -121,30 +121,22 @@ public:
               const std::vector<std::string> &directories, const Progress &progress)
         : m_coloring(document.colors.coloring)
     {
-        const bool isDistinct = m_coloring == contract::FieldColoring::Distinct;
-        if (!isDistinct)
+        if (m_coloring != contract::FieldColoring::Distinct)
             m_map = loadMap(document.colors.map, directories, {});
-        m_values = city::readFieldValues(
-            localfiles::locateDataset(document.footprints.file, directories), document.footprints,
-            document.colors.field, isDistinct ? city::FieldKind::Texts : city::FieldKind::Numbers,
-            progress);
+        m_values = city::readColorField(document, directories, progress);
     }
 
-    /// The colour of a row and whether it has a value.
-    std::pair<Rgba, bool> at(std::size_t row) const
+    bool hasValue(std::size_t row) const { return m_values.hasValue(row); }
+
+    /// A colour map may have a colour for rows without a value.
+    Rgba at(std::size_t row) const
     {
-        if (m_coloring == contract::FieldColoring::Distinct) {
-            const std::uint32_t text =
-                row < m_values.texts.size() ? m_values.texts[row] : city::FieldValues::NoText;
-            return text == city::FieldValues::NoText
-                       ? std::pair(WithoutValue, false)
-                       : std::pair(colormaps::distinctColor(text), true);
-        }
-        const double number = row < m_values.numbers.size() ? m_values.numbers[row] : std::nan("");
+        if (m_coloring == contract::FieldColoring::Distinct)
+            return hasValue(row) ? colormaps::distinctColor(m_values.texts[row]) : WithoutValue;
         const auto interpretation = m_coloring == contract::FieldColoring::Interpolation
                                         ? colormaps::Interpretation::Interpolation
                                         : colormaps::Interpretation::ColorRanges;
-        return {colorOf(m_map, number, interpretation).value_or(WithoutValue), !std::isnan(number)};
+        return colorOf(m_map, m_values.numbers[row], interpretation).value_or(WithoutValue);
     }
 
 private:
@@ -165,10 +157,9 @@ std::vector<Rgba> fieldColors(CityModel &city, const contract::BuildingDocument 
     try {
         const RowColors colors(document, directories, progress);
         for (const std::size_t first : city::firstBuildings(footprints)) {
-            const auto [color, hasValue] =
-                colors.at(footprints.features[footprints.buildings[first].feature].row);
-            give(found, footprints, first, color);
-            without += hasValue ? 0 : 1;
+            const std::size_t row = footprints.features[footprints.buildings[first].feature].row;
+            give(found, footprints, first, colors.at(row));
+            without += colors.hasValue(row) ? 0 : 1;
         }
         if (without > 0)
             notices.push_back(
