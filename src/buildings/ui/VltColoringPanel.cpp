@@ -3,12 +3,11 @@
 #include "ui_ColoringPanel.h"
 
 #include "buildings/SourceSummary.h"
-#include "buildings/ui/ColorMapSwatch.h"
+#include "buildings/ui/ColorMapChoice.h"
 #include "buildings/ui/NoDataGuess.h"
 #include "buildings/ui/RasterMessages.h"
+#include "buildings/ui/RestoreIndex.h"
 #include "buildings/ui/StretchControls.h"
-#include "colormaps/ColorMapList.h"
-#include "colormaps/OpenColorMap.h"
 #include "contract/NoDataText.h"
 #include "platform/Settings.h"
 #include "wizard/base/BusyWait.h"
@@ -22,7 +21,6 @@
 #include <QScopedValueRollback>
 #include <QSettings>
 #include <QSignalBlocker>
-#include <QStyle>
 #include <QWizardPage>
 
 using namespace vlt;
@@ -48,14 +46,6 @@ void saveUnlessFirst(const QString &key, const QVariant &value, const QVariant &
         settings->setValue(key, value);
 }
 
-void restoreIndex(QComboBox *combo, const QVariant &value)
-{
-    bool isNumber = false;
-    const int index = value.toInt(&isNumber);
-    if (isNumber && index >= 0 && index < combo->count())
-        combo->setCurrentIndex(index);
-}
-
 bool isColorMapName(const QString &path)
 {
     const QString suffix = QFileInfo(path).suffix().toLower();
@@ -79,7 +69,7 @@ VltColoringPanel::VltColoringPanel(QWidget *parent)
     setFocusProxy(m_ui->m_pwLeImage);
     m_ui->m_pwNoDataProgress->hide();
     offerFields({});
-    m_ui->m_pwCbCmap->setIconSize(buildings::ColorMapSwatchSize);
+    m_colorMaps = std::make_unique<ColorMapChoice>(m_ui->m_pwCbCmap);
     m_ui->m_pwCbSubdatsets->view()->setTextElideMode(Qt::ElideLeft); // names start with a path
     wizard::guardAgainstStrayWheel(this);
     // Image, part and colour map are remembered separately because their lists depend on files.
@@ -136,25 +126,10 @@ QWidget *VltColoringPanel::page()
     return this;
 }
 
-int VltColoringPanel::addToList(const QString &name, const QString &path)
-{
-    const auto map = colormaps::openColorMap(path); // the entry stays if its file is missing
-    QComboBox *maps = m_ui->m_pwCbCmap;
-    maps->addItem(map ? buildings::colorMapSwatch(map.value()) : QIcon(), name, path);
-    maps->setItemData(maps->count() - 1, path, Qt::ToolTipRole);
-    // Many names differ only at their ends, so the open list is as wide as the longest one.
-    maps->view()->setMinimumWidth(maps->view()->sizeHintForColumn(0) +
-                                  style()->pixelMetric(QStyle::PM_ScrollBarExtent));
-    return maps->count() - 1;
-}
-
 void VltColoringPanel::setInstallDir(const QString &installDir)
 {
     const QSignalBlocker quiet(this);
-    m_ui->m_pwCbCmap->clear();
-    for (const colormaps::ColorMapEntry &entry : colormaps::listColorMaps(installDir, false))
-        addToList(entry.name, entry.path);
-    m_installedCount = m_ui->m_pwCbCmap->count();
+    m_colorMaps->listInstalled(installDir);
 }
 
 QString VltColoringPanel::subdataset() const
@@ -240,7 +215,7 @@ std::optional<buildings::RasterColoring> VltColoringPanel::coloring() const
         coloring.noData = m_ui->m_pwLeNoData->text();
         coloring.band = band();
     }
-    coloring.colorMap = m_ui->m_pwCbCmap->currentData().toString();
+    coloring.colorMap = m_colorMaps->path();
     coloring.stretched = m_ui->m_pwCbStretch->isChecked();
     coloring.stretch = m_stretch->stretch().value_or(buildings::Stretch());
     coloring.interpolated = m_ui->m_pwCBColorInterp->currentIndex() == 1;
@@ -275,7 +250,7 @@ QString VltColoringPanel::missingText() const
                    : tr("Choose the other images.", "MESS_STRETCH_NO_OTHERS");
     if (m_ui->m_pwCbCmap->currentIndex() < 0)
         return tr("Add a colormap.", "MESS_NEED_CMAP");
-    if (!QFileInfo::exists(m_ui->m_pwCbCmap->currentData().toString()))
+    if (!QFileInfo::exists(m_colorMaps->path()))
         return tr("The file of the colormap no longer exists: choose another colormap.",
                   "MESS_CMAP_GONE");
     return {};
@@ -413,14 +388,8 @@ void VltColoringPanel::addCmap()
 
 void VltColoringPanel::openColorMap(const QString &path)
 {
-    const colormaps::ColorMapEntry entry = colormaps::colorMapEntry(path);
     m_lastUsedDir = QFileInfo(path).absolutePath();
-    if (const auto map = colormaps::openColorMap(entry.path); !map) {
-        messages::critical(this, map.error());
-        return;
-    }
-    const int known = m_ui->m_pwCbCmap->findData(entry.path);
-    m_ui->m_pwCbCmap->setCurrentIndex(known >= 0 ? known : addToList(entry.name, entry.path));
+    m_colorMaps->open(path, this);
 }
 
 void VltColoringPanel::openDropped(const QString &path)
@@ -450,28 +419,18 @@ void VltColoringPanel::loadSettings(const QString &prefix)
     openImage(value(QStringLiteral("Image"), QString()).toString(), true);
     {
         const QSignalBlocker once(m_ui->m_pwCbSubdatsets);
-        restoreIndex(m_ui->m_pwCbSubdatsets, value(QStringLiteral("IdxSubdataset"), 0));
+        buildings::restoreIndex(m_ui->m_pwCbSubdatsets, value(QStringLiteral("IdxSubdataset"), 0));
     }
     if (m_ui->m_pwCbSubdatsets->currentIndex() > 0)
         checkSubdataset(true);
-    restoreIndex(m_ui->m_pwCbBand, value(BandKey, FirstBand).toInt() - FirstBand);
+    buildings::restoreIndex(m_ui->m_pwCbBand, value(BandKey, FirstBand).toInt() - FirstBand);
     VltParameterPanel::loadSettings(prefix);
     m_stretch->setStretch(
         buildings::parseStretch(value(StretchKey, {}).toStringList()).value_or(Stretch()));
 
     m_field = value(FieldKey, {}).toString();
 
-    // A damaged count must not block the page.
-    const int count = qMin(value(QStringLiteral("UserColormapCount"), 0).toInt(),
-                           static_cast<int>(settings->allKeys().size()));
-    for (int n = 0; n < count; ++n) {
-        const QString path =
-            value(QStringLiteral("UserColormapAbs_%1").arg(n), QString()).toString();
-        if (!path.isEmpty())
-            addToList(value(QStringLiteral("UserColormapShort_%1").arg(n), QString()).toString(),
-                      path);
-    }
-    restoreIndex(m_ui->m_pwCbCmap, value(QStringLiteral("CurrentColormap"), 0));
+    m_colorMaps->loadSettings(prefix);
 }
 
 void VltColoringPanel::saveSettings(const QString &prefix)
@@ -490,12 +449,5 @@ void VltColoringPanel::saveSettings(const QString &prefix)
                     buildings::stretchTexts({}));
     saveUnlessFirst(prefix + QLatin1Char('/') + BandKey, band(), FirstBand);
     saveUnlessFirst(prefix + QLatin1Char('/') + FieldKey, m_field, QString());
-    const QComboBox *maps = m_ui->m_pwCbCmap;
-    const int userCount = maps->count() - m_installedCount;
-    save(QStringLiteral("UserColormapCount"), userCount);
-    for (int n = 0; n < userCount; ++n) {
-        save(QStringLiteral("UserColormapShort_%1").arg(n), maps->itemText(m_installedCount + n));
-        save(QStringLiteral("UserColormapAbs_%1").arg(n), maps->itemData(m_installedCount + n));
-    }
-    save(QStringLiteral("CurrentColormap"), maps->currentIndex());
+    m_colorMaps->saveSettings(prefix);
 }

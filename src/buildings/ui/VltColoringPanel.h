@@ -10,6 +10,7 @@
 namespace Ui {
 class ColoringPanel;
 }
+class ColorMapChoice;
 class StretchControls;
 
 /// The panel for colours from a raster: image, its part and band, value of no data, colour map,
@@ -88,15 +89,14 @@ private:
     std::optional<vlt::buildings::RasterColoring> coloring() const;
     QString subdataset() const;
     int band() const;
-    int addToList(const QString &name, const QString &path);
     QWidget *page();
 
     std::unique_ptr<Ui::ColoringPanel> m_ui;
     StretchControls *m_stretch = nullptr;
+    std::unique_ptr<ColorMapChoice> m_colorMaps;
     QString m_lastUsedDir;
     QString m_field;       ///< that colours the buildings; empty: the raster does
     QString m_openedImage; ///< absolute path of the image file
     bool m_isUsable = false;
     bool m_isBusy = false;
-    int m_installedCount = 0; ///< the installation's colour maps, first in the list
 };
