@@ -1,5 +1,4 @@
-#include "LayerPage.h"
-#include "buildings/ui/VltAddTexbColoredPage.h"
+#include "ColoredPage.h"
 #include "gui/FileDialogAnswer.h"
 #include "support/Cases.h"
 #include "support/Patience.h"
@@ -10,89 +9,22 @@
 #include <QMimeData>
 #include <QUrl>
 
-#include <gdal_priv.h>
-
 using namespace layerpage;
-
-namespace {
-
-const QString Group = u"AddTexbColoredPage"_s;
-const QString OnlyGray = u"The image-based coloring mode works only with one-band grey images"_s;
-
-/// The page as it is after the source page.
-class ColoredPage : public Page<VltAddTexbColoredPage>
-{
-public:
-    explicit ColoredPage(const QString &installation, const QString &source = {},
-                         const QVariantList &fields = {})
-        : Page(installation, published(source.isEmpty() ? u"buildings"_s : source, fields))
-    {}
-
-private:
-    static SharedParameters published(const QString &source, const QVariantList &fields)
-    {
-        SharedParameters published =
-            values(u"Buildings=%1 Layer=layer Height=height Dtm=dtm Nodata=nodata"_s.arg(source));
-        published[u"ColorFields"_s] = fields;
-        return published;
-    }
-};
-
-} // namespace
 
 class tst_ColoredPage : public QObject
 {
     Q_OBJECT
 
     PrivateSettings m_settings;
-    QTemporaryDir m_dir;
-    const QString m_installation = m_dir.filePath(u"installation"_s);
+    ColoredPageFiles m_files;
+    const QString m_installation = m_files.installation();
 
-    QString path(const QString &name) const { return m_dir.filePath(name); }
-
-    /// Writes an image, or adds it to the file.
-    void writeTiff(const QString &name, int bandCount, bool append = false) const
-    {
-        char appending[] = "APPEND_SUBDATASET=YES";
-        std::array<char *, 2> options = {append ? appending : nullptr, nullptr};
-        const GDALDatasetUniquePtr made(GetGDALDriverManager()->GetDriverByName("GTiff")->Create(
-            path(name).toUtf8(), 2, 2, bandCount, GDT_Byte, options.data()));
-    }
-
-    QString writeTown(const QByteArrayList &features) const
-    {
-        return writeFile(path(u"layer.geojson"_s),
-                         R"({"type":"FeatureCollection","name":"layer","features":[)" +
-                             features.join(',') + "]}");
-    }
+    QString path(const QString &name = {}) const { return m_files.path(name); }
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        GDALAllRegister();
-        writeFile(m_dir.filePath(u"grid.asc"_s), Grid);
-        writeFile(m_dir.filePath(u"other.asc"_s), Grid);
-        writeFile(m_dir.filePath(u"text.tif"_s), "no raster");
-        writeTiff(u"three.tif"_s, 3);
-        writeTiff(u"two images.tif"_s, 1);
-        writeTiff(u"two images.tif"_s, 3, true);
-        for (const QString &map : {u"installation/%1/first.txt"_s, u"installation/%1/second.txt"_s,
-                                   u"bare/%1/first.txt"_s})
-            writeFile(m_dir.filePath(map.arg(u"addons/telecom/colormaps/some"_s)),
-                      "0 red\n10 blue\n");
-        const QString file = u"/addons/telecom/template/template_texb.lay"_s;
-        QVERIFY(QDir().mkpath(QFileInfo(m_installation + file).path()));
-        QVERIFY(QFile::copy(QStringLiteral(VLT_INSTALLATION) + file, m_installation + file));
-        writeFile(m_dir.filePath(u"own.cmap"_s), "0 red\n");
-        writeFile(m_dir.filePath(u"bad.cmap"_s), "0 reddish\n");
-    }
+    void initTestCase() { m_files.write(); }
 
-    void init()
-    {
-        QTest::failOnWarning(QRegularExpression(u".?"_s));
-        vlt::platform::wizardSettings()->clear();
-        remember(Group, {{u"Image"_s, path(u"grid.asc"_s)}});
-    }
+    void init() { m_files.reset(); }
 
     void asksForAnImageFirst()
     {
@@ -146,7 +78,7 @@ private Q_SLOTS:
         ColoredPage page(m_installation);
 
         QTRY_VERIFY_WITH_TIMEOUT(page.icon()->isEnabled(), PatienceMs);
-        QCOMPARE(attributes(page.document()), wanted.replace(u"DIR"_s, m_dir.path()));
+        QCOMPARE(attributes(page.document()), wanted.replace(u"DIR"_s, path()));
         for (const QString &part :
              {u"Buildings (layer)"_s, u"rf_colored_buildings"_s, map + u"_gradient.png"_s})
             QVERIFY2(page.layer().contains(part), qPrintable(part));
@@ -157,7 +89,7 @@ private Q_SLOTS:
     {
         ColoredPage page(m_installation);
         QTRY_VERIFY_WITH_TIMEOUT(page.icon()->isEnabled(), PatienceMs);
-        QVERIFY(QDir(m_dir.path()).mkpath(u"kept"_s));
+        QVERIFY(QDir(path()).mkpath(u"kept"_s));
         const FileDialogAnswer dialog(path(u"kept/mine.lay"_s));
 
         QTest::keyClick(page.icon(), Qt::Key_C, Qt::ControlModifier);
@@ -173,7 +105,7 @@ private Q_SLOTS:
         QVERIFY(readFile(path(u"kept/mine.texb"_s)).contains(";minimum;"));
         const QString layer = QString::fromUtf8(readFile(path(u"kept/mine.lay"_s)));
         for (const QString &name : {u"TEXB:%1/kept/mine.texb"_s, u"%1/kept/first_gradient.png"_s})
-            QVERIFY2(layer.contains(name.arg(m_dir.path())), qPrintable(layer));
+            QVERIFY2(layer.contains(name.arg(path())), qPrintable(layer));
         QVERIFY(QFile::exists(path(u"kept/first_gradient.png"_s)));
     }
 
@@ -200,7 +132,7 @@ private Q_SLOTS:
             all << "{\"type\":\"Feature\",\"properties\":{\"height\":" + height +
                        "},\"geometry\":{\"type\":\"Polygon\",\"coordinates\":[[[2,4],[6,4],[6,12],"
                        "[2,4]]]}}";
-        const QString town = writeTown(all);
+        const QString town = m_files.writeTown(all);
 
         ColoredPage page(m_installation, town);
 
@@ -226,7 +158,7 @@ private Q_SLOTS:
             all << "{\"type\":\"Feature\",\"properties\":{\"height\":5},\"geometry\":{\"type\":"
                    "\"Polygon\",\"coordinates\":[[" +
                        QByteArray(ring) + "]]}}";
-        const QString town = writeTown(all);
+        const QString town = m_files.writeTown(all);
         remember(Group, values(u"Stretch=false ColorInterpMode=0 Image="_s + path(u"grid.asc"_s)));
         ColoredPage page(m_installation, town);
         QTRY_VERIFY_WITH_TIMEOUT(page.icon()->isEnabled(), PatienceMs);
@@ -285,162 +217,6 @@ private Q_SLOTS:
         compareBoxes(boxes.seen, QMessageBox::Warning, u"Warning"_s, text);
     }
 
-    void letsAnImageOfTheFileBeChosen()
-    {
-        ColoredPage page(m_installation);
-        AnsweredBoxes boxes;
-        FileDialogAnswer dialog(path(u"two images.tif"_s));
-        QComboBox *images = page.combo(u"m_pwCbSubdatsets"_s);
-
-        page.press(u"m_pwPbImage"_s);
-
-        QCOMPARE(dialog.caption, u"Select the image to use"_s);
-        QCOMPARE(dialog.filters, QStringList{u"Raster Files (*.*)"_s});
-        QVERIFY(!page.child<QWidget>(u"m_pwSubdatasetsFrame"_s)->isHidden());
-        QCOMPARE(images->count(), 2);
-        QVERIFY(images->itemText(0).startsWith(
-            u"GTIFF_DIR:1:%1 (Page 1"_s.arg(path(u"two images.tif"_s))));
-        QTRY_VERIFY_WITH_TIMEOUT(page.document().contains(u"\"IMAGE;GTIFF_DIR:1:"_s), PatienceMs);
-
-        images->setCurrentIndex(1);
-
-        QCOMPARE(boxes.seen.size(), 1);
-        QCOMPARE(boxes.seen.constFirst().text, OnlyGray);
-        QVERIFY(!page.icon()->isEnabled());
-
-        dropFiles(&page, {path(u"other.asc"_s)});
-        QVERIFY(page.child<QWidget>(u"m_pwSubdatasetsFrame"_s)->isHidden());
-        QTRY_VERIFY_WITH_TIMEOUT(page.icon()->isEnabled(), PatienceMs);
-        page.press(u"m_pwPbNoData"_s);
-        QCOMPARE(page.line(u"m_pwLeNoData"_s)->text(), u"-9999.000000"_s);
-    }
-
-    void letsABandBeChosen()
-    {
-        {
-            const GDALDatasetUniquePtr made(
-                GetGDALDriverManager()->GetDriverByName("GTiff")->Create(
-                    path(u"bands.tif"_s).toUtf8(), 2, 2, 2, GDT_Float32, nullptr));
-            made->GetRasterBand(2)->SetDescription("quality");
-            made->GetRasterBand(2)->Fill(7);
-        }
-        ColoredPage page(m_installation);
-        QVERIFY(page.child<QWidget>(u"m_pwCbBand"_s)->isHidden());
-        QComboBox *bands = page.combo(u"m_pwCbBand"_s);
-
-        dropFiles(&page, {path(u"bands.tif"_s)});
-
-        QVERIFY(!page.child<QWidget>(u"m_pwCbBand"_s)->isHidden());
-        QCOMPARE(bands->itemText(1), u"2 (quality)"_s);
-        QTRY_VERIFY_WITH_TIMEOUT(page.document().contains(u"bands.tif;"_s), PatienceMs);
-        QVERIFY(!page.document().contains(u"<colors"_s));
-        bands->setCurrentIndex(1);
-        QTRY_VERIFY_WITH_TIMEOUT(page.document().contains(u"    band=\"2\"\n"_s), PatienceMs);
-        page.saveSettings();
-        QCOMPARE(ColoredPage(m_installation).combo(u"m_pwCbBand"_s)->currentIndex(), 1);
-
-        dropFiles(&page, {path(u"other.asc"_s)});
-        QVERIFY(page.child<QWidget>(u"m_pwCbBand"_s)->isHidden());
-        QTRY_VERIFY_WITH_TIMEOUT(page.document().contains(u"other.asc;"_s), PatienceMs);
-        QVERIFY(!page.document().contains(u"<colors"_s));
-    }
-
-    void stretchesOverOtherValues()
-    {
-        AnsweredBoxes boxes;
-        FileDialogAnswer dialog(path(u"other.asc"_s));
-        ColoredPage page(m_installation);
-        QTRY_VERIFY_WITH_TIMEOUT(page.document().contains(u";stretched;"_s), PatienceMs);
-        QVERIFY(page.child<QWidget>(u"m_pwStretchPercentile"_s)->isHidden());
-        const auto ownMap = [&page] { // of the values 1 to 4
-            const QString name =
-                QDir::cleanPath(page.icon()->layerFile()).replace(u".lay"_s, u"_first.cmap"_s);
-            return page.document().contains(name + u";minimum;absolute;"_s) ? readFile(name)
-                                                                            : QByteArray();
-        };
-
-        page.choose(u"m_pwCbStretchOver"_s, 1);
-        QTRY_COMPARE_WITH_TIMEOUT(ownMap(), "1 255 0 0 255\n4 0 0 255 255\n", PatienceMs);
-        page.child<QDoubleSpinBox>(u"m_pwSbStretchLow"_s)->setValue(30);
-        QTRY_COMPARE_WITH_TIMEOUT(ownMap(), "2 255 0 0 255\n4 0 0 255 255\n", PatienceMs);
-        QVERIFY(page.layer().contains(u"first_gradient.png"_s));
-
-        page.choose(u"m_pwCbStretchOver"_s, 3);
-        QTRY_COMPARE_WITH_TIMEOUT(
-            page.message(), u"The range of the colors needs two numbers, the lower one first."_s,
-            PatienceMs);
-        page.line(u"m_pwLeStretchLow"_s)->setText(u"-1,5"_s);
-        page.line(u"m_pwLeStretchHigh"_s)->setText(u"8"_s);
-        QTRY_COMPARE_WITH_TIMEOUT(ownMap(), "-1.5 255 0 0 255\n8 0 0 255 255\n", PatienceMs);
-        page.saveSettings();
-        ColoredPage later(m_installation);
-        QCOMPARE(later.line(u"m_pwLeStretchLow"_s)->text(), u"-1.5"_s);
-        QVERIFY(!later.child<QWidget>(u"m_pwStretchRange"_s)->isHidden());
-
-        page.choose(u"m_pwCbStretchOver"_s, 4);
-        QTRY_COMPARE_WITH_TIMEOUT(page.message(), u"Choose the other images."_s, PatienceMs);
-        page.press(u"m_pwPbStretchOthers"_s);
-        QTRY_COMPARE_WITH_TIMEOUT(ownMap(), "1 255 0 0 255\n4 0 0 255 255\n", PatienceMs);
-        page.check(u"m_pwCbStretch"_s, false);
-        QTRY_VERIFY_WITH_TIMEOUT(page.document().contains(u"first.txt;minimum;absolute;"_s),
-                                 PatienceMs);
-        QVERIFY(boxes.seen.isEmpty());
-    }
-
-    void colorsByAField()
-    {
-        QByteArrayList all;
-        for (const char *properties :
-             {"\"use\":\"shop\",\"height\":12", "\"use\":\"home\",\"height\":10"})
-            all << "{\"type\":\"Feature\",\"properties\":{" + QByteArray(properties) +
-                       "},\"geometry\":{\"type\":\"Polygon\",\"coordinates\":[[[2,4],[6,4],[6,8],"
-                       "[2,4]]]}}";
-        const QString town = writeTown(all);
-        const QVariantList fields{QVariantList{u"use"_s, 3}, QVariantList{u"height"_s, 0}};
-        vlt::platform::wizardSettings()->clear(); // no image is needed
-        AnsweredBoxes boxes;
-        ColoredPage page(m_installation, town, fields);
-        QTRY_VERIFY_WITH_TIMEOUT(!page.message().isEmpty(), PatienceMs);
-        const auto shown = [&page](const QString &name) {
-            return page.child<QWidget>(name)->isVisible();
-        };
-        const auto ownMap = [&page] {
-            return QDir::cleanPath(page.icon()->layerFile()).replace(u".lay"_s, u"_first.cmap"_s);
-        };
-        const auto colorsWritten = [&page, &ownMap](const QString &content) {
-            return page.icon()->isEnabled() &&
-                   page.document().contains(u"  <colors \n    field="_s +
-                                            QString(content).replace(u'@', ownMap()) + u"  />\n"_s);
-        };
-        QCOMPARE(page.combo(u"m_pwCbColorBy"_s)->itemText(2), u"height (Integer)"_s);
-
-        page.choose(u"m_pwCbColorBy"_s, 1);
-        QTRY_VERIFY_WITH_TIMEOUT(colorsWritten(u"\"use\"\n    mode=\"distinct\"\n"_s), PatienceMs);
-        QVERIFY(!shown(u"m_pwLeImage"_s) && !shown(u"m_pwCbMode"_s) && !shown(u"m_pwCbCmap"_s));
-        QVERIFY(page.text(u"m_pwLblLegend"_s).contains(u"use"_s));
-        QVERIFY(shown(u"m_pwPbSaveValues"_s) && !shown(u"m_pwLblSummary"_s));
-        page.saveSettings();
-
-        ColoredPage later(m_installation, town, fields);
-        QCOMPARE(later.combo(u"m_pwCbColorBy"_s)->currentIndex(), 1);
-        later.choose(u"m_pwCbStretchOver"_s, 2); // for rasters only
-        later.choose(u"m_pwCbColorBy"_s, 2);
-        QVERIFY(later.combo(u"m_pwCbStretchOver"_s)->isVisible());
-        page.choose(u"m_pwCbColorBy"_s, 2);
-        QTRY_VERIFY_WITH_TIMEOUT(colorsWritten(u"\"height\"\n    map=\"@\"\n"_s), PatienceMs);
-        QVERIFY(shown(u"m_pwCbCmap"_s) && shown(u"m_pwCbStretch"_s) && !shown(u"m_pwLeNoData"_s));
-        QCOMPARE(readFile(ownMap()), QByteArray("10 255 0 0 255\n12 0 0 255 255\n"));
-        QCOMPARE(later.combo(u"m_pwCbStretchOver"_s)->currentIndex(), 0);
-
-        dropFiles(&page, {path(u"grid.asc"_s)});
-        QTRY_VERIFY_WITH_TIMEOUT(page.document().contains(u"IMAGE;"_s), PatienceMs);
-        QVERIFY(shown(u"m_pwLeImage"_s) && !page.document().contains(u"<colors"_s));
-
-        ColoredPage gone(m_installation, town, {fields.constLast()});
-        QCOMPARE(gone.combo(u"m_pwCbColorBy"_s)->currentIndex(), 0);
-        QVERIFY(boxes.seen.isEmpty());
-    }
-
     void remembersEveryValue()
     {
         QVariantMap values = layerpage::values(
@@ -456,7 +232,7 @@ private Q_SLOTS:
         page.saveSettings();
 
         const auto settings = vlt::platform::wizardSettings();
-        QCOMPARE(settings->value(u"LastUsedDir"_s).toString(), m_dir.path());
+        QCOMPARE(settings->value(u"LastUsedDir"_s).toString(), path());
         QCOMPARE(otherThan(Group, values), QStringList());
         settings->beginGroup(Group);
         QCOMPARE(settings->childKeys(), values.keys());
@@ -546,31 +322,6 @@ private Q_SLOTS:
                  u"A configuration file is missing\n"_s +
                      path(u"bare/addons/telecom/template/template_texb.lay"_s));
         QVERIFY(!page.icon()->isEnabled());
-    }
-
-    void addsColorMaps()
-    {
-        ColoredPage page(m_installation);
-        AnsweredBoxes boxes;
-        QComboBox *maps = page.combo(u"m_pwCbCmap"_s);
-        FileDialogAnswer dialog(path(u"own.cmap"_s));
-
-        page.press(u"m_pwPbAddCmap"_s);
-
-        QCOMPARE(dialog.filters, QStringList{u"Colormap files (*.txt *.cmap)"_s});
-        QCOMPARE(maps->count(), 3);
-        QCOMPARE(maps->currentText(), u"own"_s);
-        QCOMPARE(maps->currentData().toString(), path(u"own.cmap"_s));
-
-        dropFiles(&page, {path(u"own.cmap"_s)});
-        QCOMPARE(maps->count(), 3);
-        QVERIFY(boxes.seen.isEmpty());
-
-        dropFiles(&page, {path(u"bad.cmap"_s)});
-        QCOMPARE(maps->count(), 3);
-        QCOMPARE(boxes.seen.size(), 1);
-        QCOMPARE(boxes.seen.constFirst().text,
-                 u"This file can't be read as a colormap\n"_s + path(u"bad.cmap"_s));
     }
 };
 
