@@ -77,13 +77,13 @@ inline constexpr auto TableTexts = std::to_array<Text>({
     {"MESS_TAB_ENDS_ONLY_NAMED",
      "the ends of the links are only named (%1; %2): their positions must stand in a table of "
      "sites, on another sheet of the workbook or in the file that SITES (--sites) names"},
-    {"MESS_TAB_NO_ENDS", "no columns with coordinates of both ends were recognised"},
-    {"MESS_TAB_NO_END_X", "no columns with coordinates of both ends were recognised: the longitude "
+    {"MESS_TAB_NO_ENDS", "no columns with coordinates of both ends were recognized"},
+    {"MESS_TAB_NO_END_X", "no columns with coordinates of both ends were recognized: the longitude "
                           "or easting of end %1 is missing"},
-    {"MESS_TAB_NO_END_Y", "no columns with coordinates of both ends were recognised: the latitude "
+    {"MESS_TAB_NO_END_Y", "no columns with coordinates of both ends were recognized: the latitude "
                           "or northing of end %1 is missing"},
     {"MESS_TAB_ONE_END",
-     "no columns with coordinates of both ends were recognised: those of end %1 are missing"},
+     "no columns with coordinates of both ends were recognized: those of end %1 are missing"},
 
     // coordinate systems
     {"MESS_TAB_UNKNOWN_SRS", "the coordinate system \"%1\" is not known"},
@@ -103,7 +103,7 @@ inline constexpr auto TableTexts = std::to_array<Text>({
      "further problems are listed in the layer's metadata domain \"problems\""},
     {"MESS_TAB_ENCODING_GUESSED",
      "the file does not declare its encoding: its texts are read as %1"},
-    {"MESS_TAB_NO_COORDINATES", "no columns with coordinates were recognised"},
+    {"MESS_TAB_NO_COORDINATES", "no columns with coordinates were recognized"},
     {"MESS_TAB_UTM_NORTH",
      "the zones of UTM have no letter: they are taken as those of the northern hemisphere"},
     {"MESS_TAB_UTM_SOUTH", "the zones of UTM have no letter: because of their northings, they are "
@@ -155,10 +155,10 @@ inline constexpr auto TableTexts = std::to_array<Text>({
      "all tilts in column \"%1\" are negative: the antennas point upwards"},
 
     // links that cannot be read in full
-    {"MESS_TAB_NO_HEIGHTS", "no columns with antenna heights above ground were recognised"},
+    {"MESS_TAB_NO_HEIGHTS", "no columns with antenna heights above ground were recognized"},
     {"MESS_TAB_SEA_LEVEL",
      "the heights in column \"%1\" are above sea level, not above ground: they are not used"},
-    {"MESS_TAB_NO_FREQUENCIES", "no column with frequencies was recognised"},
+    {"MESS_TAB_NO_FREQUENCIES", "no column with frequencies was recognized"},
     {"MESS_TAB_DIAMETERS", "the dishes are drawn with the size that the layer states, not with the "
                            "diameters in the table (%1)"},
     {"MESS_TAB_REPEATERS", "passive repeaters are not drawn: each link is a straight line between "
@@ -174,7 +174,7 @@ inline constexpr auto TableTexts = std::to_array<Text>({
     {"MESS_TAB_TILT_UNREADABLE", "the tilt \"%1\" cannot be read"},
     {"MESS_TAB_OFFSET_UNREADABLE",
      "the offset \"%1\" cannot be read: the position is taken without it"},
-    {"MESS_TAB_ENDS_COINCIDE", "the ends of the link are less than a metre apart"},
+    {"MESS_TAB_ENDS_COINCIDE", "the ends of the link are less than a meter apart"},
     {"MESS_TAB_LENGTH_DIFFERS",
      "the stated length of %1 m does not match the distance between the ends, which is %2 m"},
     {"MESS_TAB_AZIMUTH_DIFFERS",
@@ -228,14 +228,14 @@ inline constexpr auto TableTexts = std::to_array<Text>({
      {ValueKind::Name, ValueKind::Nested}},
     {"MESS_TAB_MAPPING_ROLES", "the mapping file \"%1\" names roles that are not known: %2"},
     {"MESS_TAB_MAPPING_COLUMNS", "the mapping file \"%1\" names columns that the table does not "
-                                 "have, so that their roles are recognised: %2"},
+                                 "have, so that their roles are recognized: %2"},
     {"MESS_TAB_MAPPING_TWICE",
      "the mapping file \"%1\" names columns more than once, of which only "
      "the first role holds: %2"},
     {"MESS_TAB_MAPPING_HEADER", "the mapping file \"%1\" names header rows that the table does not "
-                                "have: the header is recognised"},
+                                "have: the header is recognized"},
     {"MESS_TAB_MAPPING_SHEET", "the mapping file \"%1\" names the sheet \"%2\", which the workbook "
-                               "does not have: the sheet is recognised"},
+                               "does not have: the sheet is recognized"},
     {"MESS_TAB_MAPPING_KIND", "it is for tables of the other kind"},
     {"MESS_TAB_MAPPING_LARGE", "a mapping file has at most 4 MiB"},
     {"MESS_TAB_MAPPING_JSON", "its JSON is not valid in line %1"},
@@ -278,10 +278,10 @@ inline constexpr auto TableTexts = std::to_array<Text>({
      "the file \"%1\" cannot be used: %2",
      {ValueKind::Name, ValueKind::Nested}},
     {"MESS_TAB_NO_SECTORS", "no columns of transmitters with the ids or names of these sites were "
-                            "recognised"},
+                            "recognized"},
     {"MESS_TAB_SECTORS_NOT_USED", "the table has transmitters of its own: those in the file "
                                   "\"%1\" are not used"},
-    {"MESS_TAB_NO_NAMED_SITES", "no sites with a position and an id or a name were recognised"},
+    {"MESS_TAB_NO_NAMED_SITES", "no sites with a position and an id or a name were recognized"},
     {"MESS_TAB_NO_END_SITES", "the columns of the links name none of its sites"},
     {"MESS_TAB_END_SITES_NOT_USED", "the links have the positions of their ends: the sites in the "
                                     "file \"%1\" are not used"},
@@ -298,7 +298,7 @@ inline constexpr auto TableTexts = std::to_array<Text>({
 
     // why a column has a role
     {"MESS_TAB_EVIDENCE_STATED", "stated in %1"},
-    {"MESS_TAB_EVIDENCE_NO_HEADER", "no header; recognised by the values"},
+    {"MESS_TAB_EVIDENCE_NO_HEADER", "no header; recognized by the values"},
     {"MESS_TAB_EVIDENCE_UNIT",
      "%1; unit by the positions: %2",
      {ValueKind::Nested, ValueKind::Name}},

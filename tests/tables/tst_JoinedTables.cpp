@@ -72,7 +72,7 @@ private Q_SLOTS:
         row("missing", "none.csv", "the file \"none.csv\" cannot be used: the file does not exist");
         row("no transmitters", "text.csv",
             "the file \"text.csv\" cannot be used: no columns of transmitters with the ids or "
-            "names of these sites were recognised");
+            "names of these sites were recognized");
         row("not local", "/vsimem/a.csv", "tables are read from local files only");
     }
     void refusesAFileThatCannotComplete()

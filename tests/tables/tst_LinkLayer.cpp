@@ -288,7 +288,7 @@ private Q_SLOTS:
         row("an end at null island", header, "L;0;0;1;0;30;30;7;",
             "2|X A|Error|the coordinate \"0\" cannot be read: 0, 0 stands for an unknown position");
         row("one position", header + " (km)", "L;10;0;10,000001;0;30;30;7;9",
-            "2||Warning|the ends of the link are less than a metre apart");
+            "2||Warning|the ends of the link are less than a meter apart");
         row("no height", header, "L;10;0;11;0;30;;7;",
             "2|Height B|Warning|the antenna height is empty");
         row("an unreadable height", header, "L;10;0;11;0;high;30;7;",
@@ -319,7 +319,7 @@ private Q_SLOTS:
             "||Warning|the heights in column \"H t A [m npm]\" are above sea level, not above "
             "ground: they are not used");
         row("no frequencies", "X A;Y A;X B;Y B;Height A;Tower height B", "10;0;11;0;30;30",
-            "||Warning|no column with frequencies was recognised");
+            "||Warning|no column with frequencies was recognized");
         row("dishes", "X A;Y A;X B;Y B;Height A;Height B;Frequency;Dish A (m);Antenna diameter B",
             "10;0;11;0;30;30;7;0,6;1,2",
             "||Warning|the dishes are drawn with the size that the layer states, not with the "
@@ -331,7 +331,7 @@ private Q_SLOTS:
         row("an unreadable length", header + " (km)", "L;10;0;11;0;30;30;7;short",
             "2|Length (km)|Warning|the stated length \"short\" cannot be read");
         row("no heights", "X A;Y A;X B;Y B;Frequency;Ground height A", "10;0;11;0;7;30",
-            "||Warning|no columns with antenna heights above ground were recognised");
+            "||Warning|no columns with antenna heights above ground were recognized");
     }
     void saysWhatIsWrong()
     {
@@ -373,7 +373,7 @@ private Q_SLOTS:
             "the ends of the links are only named (A; B): their positions must stand in a table "
             "of sites, on another sheet of the workbook or in the file that SITES (--sites) names");
         row("neither ends nor positions", "Link;Length (km)\nL;11\n",
-            "no columns with coordinates of both ends were recognised");
+            "no columns with coordinates of both ends were recognized");
         row("no header",
             "3334173;Cancelled;41.59;-83.09306;176.0m;41.59;-83.4;185.3m;"
             "['006123.10', '006123.10']\n",

@@ -35,7 +35,7 @@ private Q_SLOTS:
             asItIs,
             "the mapping file \"t.csv.columns.json\" names columns that the table does not have, "
             "so "
-            "that their roles are recognised: \"H2\", \"AZ\"");
+            "that their roles are recognized: \"H2\", \"AZ\"");
         row("unknown role", tall, R"("azimut": "Bearing")", asItIs,
             "the mapping file \"t.csv.columns.json\" names roles that are not known: \"azimut\"");
         row("two roles", tall, R"("siteId": "Site", "siteName": "Site")", asItIs,
@@ -63,7 +63,7 @@ private Q_SLOTS:
             "S@2,48 70/30 80/31|T@3,49 6/32",
             "the mapping file \"t.csv.columns.json\" names header rows that the table does not "
             "have: "
-            "the header is recognised");
+            "the header is recognized");
         row("header rows without a row below", "Site,Lon,Lat\nS,2,48\n",
             R"(}, "headerRows": [1, 2)", "S@2,48",
             "the mapping file \"t.csv.columns.json\" names header rows");
@@ -119,7 +119,7 @@ private Q_SLOTS:
             {"table", "stated", "roles", "refusal"});
         const QByteArray strange = "N;P;Q;R;S\nL;2;48;3;49\nM;2;48;4;49\n";
         row("strange names", strange, "", "",
-            "no columns with coordinates of both ends were recognised");
+            "no columns with coordinates of both ends were recognized");
         row("half a position", strange, R"("xA": "P", "yB": "S")", "xA=P yB=S", "both ends");
         row("one end", "Near lon;Near lat;R;S\n2;48;3;49\n2;48;4;49\n", R"("xB": "R")",
             "xA=Near lon yA=Near lat xB=R", "those of end B are missing");

@@ -176,7 +176,7 @@ private Q_SLOTS:
         const QStringList all = {u"X coordinate, end A=P"_s, u"Y coordinate, end A=Q"_s,
                                  u"X coordinate, end B=R"_s, u"Y coordinate, end B=S"_s};
         row("strange names", "N;P;Q;R;S\nL;-3.4;47.7;-3.3;47.8\nM;-3.4;47.7;-3.2;47.8\n", all,
-            "no columns with coordinates of both ends were recognised");
+            "no columns with coordinates of both ends were recognized");
         row("one end", "N;Near lon;Near lat;R;S\nL;-3.4;47.7;-3.3;47.8\nM;-3.4;47.7;-3.2;47.8\n",
             all.mid(2), "those of end B are missing");
         row("no header", "-3.4;47.7;-3.3;47.8\n-3.4;47.7;-3.2;47.8\n",

@@ -61,7 +61,7 @@
     </message>
     <message id="MESS_OPT_TEXTURE">
         <source>Image for a height in metres above the ground: the given height, else the height in the image's metadata or name. May be given several times.</source>
-        <translation>Image for a height in metres above the ground: the given height, else the height in the image's metadata or name. May be given several times.</translation>
+        <translation>Image for a height in meters above the ground: the given height, else the height in the image's metadata or name. May be given several times.</translation>
     </message>
     <message id="MESS_OPT_TEXTURES">
         <source>One image of a set; the others are those with the same suffix.</source>
@@ -117,19 +117,19 @@
     </message>
     <message id="MESS_OPT_DISTANCE">
         <source>Maximum distance in metres at which the buildings are shown</source>
-        <translation>Maximum distance in metres at which the buildings are shown</translation>
+        <translation>Maximum distance in meters at which the buildings are shown</translation>
     </message>
     <message id="MESS_OPT_TILE_SIZE">
         <source>Side of the tiles of buildings in metres</source>
-        <translation>Side of the tiles of buildings in metres</translation>
+        <translation>Side of the tiles of buildings in meters</translation>
     </message>
     <message id="MESS_OPT_SKIRT">
         <source>Depth of the walls below the ground in metres</source>
-        <translation>Depth of the walls below the ground in metres</translation>
+        <translation>Depth of the walls below the ground in meters</translation>
     </message>
     <message id="MESS_OPT_TEXTURED_DISTANCE">
         <source>Maximum distance in metres at which the images are shown</source>
-        <translation>Maximum distance in metres at which the images are shown</translation>
+        <translation>Maximum distance in meters at which the images are shown</translation>
     </message>
     <message id="MESS_OPT_CACHE_CAPACITY">
         <source>Number of elements that wait before they are written to the cache</source>
@@ -137,7 +137,7 @@
     </message>
     <message id="MESS_OPT_BUFFER">
         <source>Distance in metres from a wall to the positions of its colors, outside the building</source>
-        <translation>Distance in metres from a wall to the positions of its colors, outside the building</translation>
+        <translation>Distance in meters from a wall to the positions of its colors, outside the building</translation>
     </message>
     <message id="MESS_OPT_DILATATION">
         <source>Number of pixels by which the colors of an image grow into empty pixels</source>
@@ -341,7 +341,7 @@
     </message>
     <message id="MESS_HELP_INFO">
         <source>Shows the properties of tables of sites or links: format, unit, coordinate systems, recognised columns, and the rows that cannot be used.</source>
-        <translation>Shows the properties of tables of sites or links: format, unit, coordinate systems, recognised columns, and the rows that cannot be used.</translation>
+        <translation>Shows the properties of tables of sites or links: format, unit, coordinate systems, recognized columns, and the rows that cannot be used.</translation>
     </message>
     <message id="MESS_HELP_INFO_TABLE">
         <source>Site or link table (.xls .xlsx .xml .csv); one or more.</source>
@@ -413,7 +413,7 @@
     </message>
     <message id="MESS_OPT_LINK_WIDTH">
         <source>Width of the links, in pixels for lines, else in metres</source>
-        <translation>Width of the links, in pixels for lines, else in metres</translation>
+        <translation>Width of the links, in pixels for lines, else in meters</translation>
     </message>
     <message id="MESS_OPT_FRESNEL_ZONE">
         <source>Number of the Fresnel zone that is drawn, 0 for none</source>
@@ -421,11 +421,11 @@
     </message>
     <message id="MESS_OPT_FRESNEL_SHARE">
         <source>Share of the zone's radius that is drawn, and share of the first zone's radius that must be free, in per cent</source>
-        <translation>Share of the zone's radius that is drawn, and share of the first zone's radius that must be free, in per cent</translation>
+        <translation>Share of the zone's radius that is drawn, and share of the first zone's radius that must be free, in percent</translation>
     </message>
     <message id="MESS_OPT_FRESNEL_TRANSPARENCY">
         <source>Transparency of the Fresnel zone in per cent</source>
-        <translation>Transparency of the Fresnel zone in per cent</translation>
+        <translation>Transparency of the Fresnel zone in percent</translation>
     </message>
     <message id="MESS_OPT_K_FACTOR">
         <source>Effective radius of the earth divided by its real radius, 1.33333 for a standard atmosphere</source>
@@ -481,35 +481,35 @@
     </message>
     <message id="MESS_OPT_SECTOR_HEIGHT">
         <source>Sector height in metres</source>
-        <translation>Sector height in metres</translation>
+        <translation>Sector height in meters</translation>
     </message>
     <message id="MESS_OPT_SECTOR_RADIUS">
         <source>Sector radius in metres</source>
-        <translation>Sector radius in metres</translation>
+        <translation>Sector radius in meters</translation>
     </message>
     <message id="MESS_OPT_SECTOR_SPACING">
         <source>Vertical spacing between sectors in metres</source>
-        <translation>Vertical spacing between sectors in metres</translation>
+        <translation>Vertical spacing between sectors in meters</translation>
     </message>
     <message id="MESS_OPT_TRANSPARENCY">
         <source>Transparency of the sectors in per cent</source>
-        <translation>Transparency of the sectors in per cent</translation>
+        <translation>Transparency of the sectors in percent</translation>
     </message>
     <message id="MESS_OPT_SYMBOLIC_DISTANCE">
         <source>Apparition distance of the symbolic representation in metres</source>
-        <translation>Apparition distance of the symbolic representation in metres</translation>
+        <translation>Maximum distance in meters at which the symbolic representation is drawn</translation>
     </message>
     <message id="MESS_OPT_PYLON_WIDTH">
         <source>Width of the pylons in metres</source>
-        <translation>Width of the pylons in metres</translation>
+        <translation>Width of the pylons in meters</translation>
     </message>
     <message id="MESS_OPT_ANTENNA_SIZE">
         <source>Antennas size in per cent</source>
-        <translation>Antennas size in per cent</translation>
+        <translation>Size of the antennas in percent of their real size</translation>
     </message>
     <message id="MESS_OPT_REALISTIC_DISTANCE">
         <source>Apparition distance of the precise representation in metres</source>
-        <translation>Apparition distance of the precise representation in metres</translation>
+        <translation>Maximum distance in meters at which the precise representation is drawn</translation>
     </message>
     <message id="MESS_USE_NOT_IN_CATALOGUE">
         <source>--%1: no "%2" (%3)</source>
@@ -517,11 +517,11 @@
     </message>
     <message id="MESS_OPT_SECTOR_COLORS">
         <source>Sector colors: the number of a set in the catalogue, from 1, or its name in any language (default 1).</source>
-        <translation>Sector colors: the number of a set in the catalogue, from 1, or its name in any language (default 1).</translation>
+        <translation>Sector colors: the number of a set in the catalog, from 1, or its name in any language (default 1).</translation>
     </message>
     <message id="MESS_OPT_PYLON_TYPE">
         <source>Type of pylons, or its number in the catalogue, from 1, or its name in any language (default 1).</source>
-        <translation>Type of pylons, or its number in the catalogue, from 1, or its name in any language (default 1).</translation>
+        <translation>Type of pylons, or its number in the catalog, from 1, or its name in any language (default 1).</translation>
     </message>
     <message id="MESS_HELP_COLOR_SETS">
         <source>Sector colors:</source>

@@ -10,7 +10,7 @@
     </message>
     <message id="MESS_BUILDINGS_DS">
         <source>Building datasource</source>
-        <translation>Building datasource</translation>
+        <translation>Building file</translation>
     </message>
     <message id="MESS_BUILDINGS_LY">
         <source>Layer</source>
@@ -18,7 +18,7 @@
     </message>
     <message id="MESS_HEIGHT_FIELD">
         <source>Height Field</source>
-        <translation>Height Field</translation>
+        <translation>Height field</translation>
     </message>
     <message id="MESS_TERRAIN_GROUP">
         <source>Terrain</source>
@@ -30,7 +30,7 @@
     </message>
     <message id="MESS_NO_DATA">
         <source>No Data Value</source>
-        <translation>No Data Value</translation>
+        <translation>No-data value</translation>
     </message>
     <message id="MESS_GUESS_FROM_IMG">
         <source>Guess from image...</source>
@@ -47,8 +47,8 @@
     <message id="MESS_TEX_BUILDINGS2">
         <source>Roof, walls or storeys of each building are textured using 
 raster images (ortho images, coverages plots, ...).</source>
-        <translation>Roof, walls or storeys of each building are textured using 
-raster images (ortho images, coverages plots, ...).</translation>
+        <translation>The roofs, walls or storeys of each building are textured with
+raster images (orthophotos, coverage plots, ...).</translation>
     </message>
     <message id="MESS_COL_BUILDINGS">
         <source>Colored</source>
@@ -56,7 +56,7 @@ raster images (ortho images, coverages plots, ...).</translation>
     </message>
     <message id="MESS_COL_BUILDINGS2">
         <source>&lt;p&gt;Each building is colored either with a color derived from an &lt;br/&gt;attribute value or with a color derived from a raster coverage :&lt;br/&gt;a formula (min, max, ...) is applied to all pixels it covers in a &lt;br/&gt;raster coverage .&lt;/p&gt;</source>
-        <translation>&lt;p&gt;Each building is colored either with a color derived from an &lt;br/&gt;attribute value or with a color derived from a raster coverage :&lt;br/&gt;a formula (min, max, ...) is applied to all pixels it covers in a &lt;br/&gt;raster coverage .&lt;/p&gt;</translation>
+        <translation>&lt;p&gt;Each building gets a color of its own, either from the value of a&lt;br/&gt;field or from a coverage raster: a formula (minimum, average, ...)&lt;br/&gt;combines all pixels of the raster under the building.&lt;/p&gt;</translation>
     </message>
     <message id="MESS_INTEGER">
         <source>Integer</source>
@@ -72,19 +72,19 @@ raster images (ortho images, coverages plots, ...).</translation>
     </message>
     <message id="MESS_SELECT_BUILDINGS_F">
         <source>Select the buildings file to display</source>
-        <translation>Select the buildings file to display</translation>
+        <translation>Select the building file to display</translation>
     </message>
     <message id="MESS_SELECT_DTM">
         <source>Select the raster DTM</source>
-        <translation>Select the raster DTM</translation>
+        <translation>Select the terrain model</translation>
     </message>
     <message id="MESS_VECTOR_FILES">
         <source>Vector Files</source>
-        <translation>Vector Files</translation>
+        <translation>Vector files</translation>
     </message>
     <message id="MESS_RASTER_FILES">
         <source>Raster Files</source>
-        <translation>Raster Files</translation>
+        <translation>Raster files</translation>
     </message>
     <message id="MESS_BUILDINGS_KINDS">
         <source>Vector file with the outlines of the buildings</source>
@@ -166,19 +166,19 @@ raster images (ortho images, coverages plots, ...).</translation>
     <name>Refused sources</name>
     <message id="MESS_ERR_OPEN_VECTORDS">
         <source>This file can't be open as a vector file</source>
-        <translation>This file can't be open as a vector file</translation>
+        <translation>This file can't be opened as a vector file</translation>
     </message>
     <message id="MESS_ERR_NOPOLY_LAY">
         <source>This datasource doesn't contain any polygon layer</source>
-        <translation>This datasource doesn't contain any polygon layer</translation>
+        <translation>This file doesn't contain any layer of polygons</translation>
     </message>
     <message id="MESS_ERR_OPEN_RASTERDS">
         <source>This file can't be open as a raster dataset</source>
-        <translation>This file can't be open as a raster dataset</translation>
+        <translation>This file can't be opened as a raster file</translation>
     </message>
     <message id="MESS_ERR_NO_BANDS">
         <source>This image doesn't have any band</source>
-        <translation>This image doesn't have any band</translation>
+        <translation>This image doesn't have any bands</translation>
     </message>
     <message id="MESS_OUV_MNT_IMP">
         <source>Cannot open DTM</source>

@@ -29,7 +29,7 @@
     </message>
     <message id="MESS_VLTR3D_NODATA">
         <source>No Data Value</source>
-        <translation>No Data Value</translation>
+        <translation>No-data value</translation>
     </message>
     <message id="MESS_TIP_COLOR_NODATA">
         <source>Value of pixels without data, in addition to the value that the file declares; may be empty</source>
@@ -109,7 +109,7 @@
     </message>
     <message id="MESS_ERR_ONLY_GRAY">
         <source>The image-based coloring mode works only with one-band grey images</source>
-        <translation>The image-based coloring mode works only with one-band grey images</translation>
+        <translation>The image-based coloring mode works only with one-band gray images</translation>
     </message>
     <message id="MESS_READING_IMAGE">
         <source>Reading the image...</source>
@@ -183,7 +183,7 @@
     <name>Preview of buildings</name>
     <message id="MESS_AUTO_REFRESH">
         <source>Auto refresh</source>
-        <translation>Auto refresh</translation>
+        <translation>Refresh automatically</translation>
     </message>
     <message id="MESS_TIP_AUTO_REFRESH">
         <source>Write and show the layer again after every change</source>
@@ -238,11 +238,11 @@
     </message>
     <message id="MESS_STD_PROPS">
         <source>Standard Properties</source>
-        <translation>Standard Properties</translation>
+        <translation>Standard properties</translation>
     </message>
     <message id="MESS_ADV_PROPS">
         <source>Advanced Properties</source>
-        <translation>Advanced Properties</translation>
+        <translation>Advanced properties</translation>
     </message>
     <message id="MESS_NEED_BUILDINGS">
         <source>There are no buildings yet.</source>

@@ -95,7 +95,7 @@ to add the building layer
     </message>
     <message id="MESS_TIP_TEX_RESAMPLING">
         <source>Drawing of an image at a short distance: each pixel as it is, or blended with its neighbours</source>
-        <translation>Drawing of an image at a short distance: each pixel as it is, or blended with its neighbours</translation>
+        <translation>Drawing of an image at a short distance: each pixel as it is, or blended with its neighbors</translation>
     </message>
     <message id="MESS_RESAMPLING_NONE">
         <source>None</source>

@@ -17,15 +17,15 @@
     </message>
     <message id="MESS_OPT_LEVEL_HEIGHT">
         <source>Height of a level in metres</source>
-        <translation>Height of a level in metres</translation>
+        <translation>Height of a level in meters</translation>
     </message>
     <message id="MESS_OPT_DEFAULT_HEIGHT">
         <source>Height in metres of buildings that have none in a field; without it they are left out</source>
-        <translation>Height in metres of buildings that have none in a field; without it they are left out</translation>
+        <translation>Height in meters of buildings that have none in a field; without it they are left out</translation>
     </message>
     <message id="MESS_OPT_HEIGHT_UNIT">
         <source>Unit of the numbers in the field of heights (default: levels or feet if its name says so, else metres). A unit in a text goes first.</source>
-        <translation>Unit of the numbers in the field of heights (default: levels or feet if its name says so, else metres). A unit in a text goes first.</translation>
+        <translation>Unit of the numbers in the field of heights (default: levels or feet if its name says so, else meters). A unit in a text goes first.</translation>
     </message>
     <message id="MESS_OPT_ELSE_FIELD">
         <source>Field with the height of buildings that have none in the field of heights.</source>
@@ -45,11 +45,11 @@
     </message>
     <message id="MESS_OPT_BASE_FIELD">
         <source>Field with the ground height in metres above sea level.</source>
-        <translation>Field with the ground height in metres above sea level.</translation>
+        <translation>Field with the ground height in meters above sea level.</translation>
     </message>
     <message id="MESS_OPT_BOTTOM_FIELD">
         <source>Field with the height in metres of the underside above the ground.</source>
-        <translation>Field with the height in metres of the underside above the ground.</translation>
+        <translation>Field with the height in meters of the underside above the ground.</translation>
     </message>
     <message id="MESS_OPT_WHERE">
         <source>SQL condition for the features that are buildings, such as "USAGE = 'home'" (default: all).</source>
@@ -81,7 +81,7 @@
     </message>
     <message id="MESS_UNIT_METRES">
         <source>metres</source>
-        <translation>metres</translation>
+        <translation>meters</translation>
     </message>
     <message id="MESS_UNIT_FEET">
         <source>feet</source>
@@ -177,7 +177,7 @@
     </message>
     <message id="MESS_TIP_BASE_FIELD">
         <source>Field with the ground height in metres above sea level</source>
-        <translation>Field with the ground height in metres above sea level</translation>
+        <translation>Field with the ground height in meters above sea level</translation>
     </message>
     <message id="MESS_UNDERSIDE">
         <source>Underside</source>
@@ -185,7 +185,7 @@
     </message>
     <message id="MESS_TIP_UNDERSIDE">
         <source>Field with the height of the underside above the ground, in metres</source>
-        <translation>Field with the height of the underside above the ground, in metres</translation>
+        <translation>Field with the height of the underside above the ground, in meters</translation>
     </message>
     <message id="MESS_ONLY">
         <source>Only</source>

@@ -26,13 +26,13 @@
     </message>
     <message id="MESS_LINK_FILE2">
         <source>Links file to display</source>
-        <translation>Links file to display</translation>
+        <translation>Link file to display</translation>
     </message>
     <message id="MESS_NO_LINK_DEFINED">
         <source>No links file defined.
 Select the links file to display.</source>
-        <translation>No links file defined.
-Select the links file to display.</translation>
+        <translation>No link file is chosen yet.
+Choose the link file to display.</translation>
     </message>
     <message id="MESS_SELECT_LINK_FILE">
         <source>Select the link file to use</source>
@@ -111,7 +111,7 @@ to add the link layer
     </message>
     <message id="MESS_TIP_LINK_WIDTH">
         <source>Width of the line: in pixels for a line, in metres for a tube or a band</source>
-        <translation>Width of the line: in pixels for a line, in metres for a tube or a band</translation>
+        <translation>Width of the line: in pixels for a line, in meters for a tube or a band</translation>
     </message>
     <message id="MESS_PIXELS">
         <source> px</source>
@@ -164,7 +164,7 @@ to add the link layer
     </message>
     <message id="MESS_TIP_FRESNEL_TRANSPARENCY">
         <source>Transparency of the ellipsoid in per cent</source>
-        <translation>Transparency of the ellipsoid in per cent</translation>
+        <translation>Transparency of the ellipsoid in percent</translation>
     </message>
     <message id="MESS_CLEARANCE">
         <source>Clearance</source>
@@ -269,7 +269,7 @@ to add the link layer
     </message>
     <message id="MESS_TIP_LINK_DETAILS">
         <source>Show the recognised columns, the rows with problems and the clearance of every link</source>
-        <translation>Show the recognised columns, the rows with problems and the clearance of every link</translation>
+        <translation>Show the recognized columns, the rows with problems and the clearance of every link</translation>
     </message>
 </context>
 </TS>

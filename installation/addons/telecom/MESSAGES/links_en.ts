@@ -5,7 +5,7 @@
     <name>Link file</name>
     <message id="MESS_ERR_OPEN_LINK">
         <source>This file can't be open as a link file</source>
-        <translation>This file can't be open as a link file</translation>
+        <translation>This file can't be opened as a link file</translation>
     </message>
     <message id="MESS_ERR_EMPTY_LINK">
         <source>This link file is empty</source>

@@ -25,7 +25,7 @@
     </message>
     <message id="MESS_AS_RECOGNISED">
         <source>(as recognised)</source>
-        <translation>(as recognised)</translation>
+        <translation>(as recognized)</translation>
     </message>
     <message id="MESS_ROLE_COLUMNS">
         <source>%1 columns</source>

@@ -216,12 +216,12 @@
         <translation>this is a table of sites, not of links: it has the coordinates of one position per row (%1), not those of two ends</translation>
     </message>
     <message id="MESS_TAB_NO_ENDS">
-        <source>no columns with coordinates of both ends were recognised</source>
-        <translation>no columns with coordinates of both ends were recognised</translation>
+        <source>no columns with coordinates of both ends were recognized</source>
+        <translation>no columns with coordinates of both ends were recognized</translation>
     </message>
     <message id="MESS_TAB_ONE_END">
-        <source>no columns with coordinates of both ends were recognised: those of end %1 are missing</source>
-        <translation>no columns with coordinates of both ends were recognised: those of end %1 are missing</translation>
+        <source>no columns with coordinates of both ends were recognized: those of end %1 are missing</source>
+        <translation>no columns with coordinates of both ends were recognized: those of end %1 are missing</translation>
     </message>
     <message id="MESS_TAB_UNKNOWN_SRS">
         <source>the coordinate system "%1" is not known</source>
@@ -256,8 +256,8 @@
         <translation>the file does not declare its encoding: its texts are read as %1</translation>
     </message>
     <message id="MESS_TAB_NO_COORDINATES">
-        <source>no columns with coordinates were recognised</source>
-        <translation>no columns with coordinates were recognised</translation>
+        <source>no columns with coordinates were recognized</source>
+        <translation>no columns with coordinates were recognized</translation>
     </message>
     <message id="MESS_TAB_BEHIND_LAST">
         <source>the row continues after the last column: "%1" in column %2 has no header</source>
@@ -292,16 +292,16 @@
         <translation>the value "%1" is read as a number: digits that a name needs are lost</translation>
     </message>
     <message id="MESS_TAB_NO_HEIGHTS">
-        <source>no columns with antenna heights above ground were recognised</source>
-        <translation>no columns with antenna heights above ground were recognised</translation>
+        <source>no columns with antenna heights above ground were recognized</source>
+        <translation>no columns with antenna heights above ground were recognized</translation>
     </message>
     <message id="MESS_TAB_SEA_LEVEL">
         <source>the heights in column "%1" are above sea level, not above ground: they are not used</source>
         <translation>the heights in column "%1" are above sea level, not above ground: they are not used</translation>
     </message>
     <message id="MESS_TAB_NO_FREQUENCIES">
-        <source>no column with frequencies was recognised</source>
-        <translation>no column with frequencies was recognised</translation>
+        <source>no column with frequencies was recognized</source>
+        <translation>no column with frequencies was recognized</translation>
     </message>
     <message id="MESS_TAB_NO_HEIGHT">
         <source>the antenna height is empty</source>
@@ -336,8 +336,8 @@
         <translation>the offset "%1" cannot be read: the position is taken without it</translation>
     </message>
     <message id="MESS_TAB_ENDS_COINCIDE">
-        <source>the ends of the link are less than a metre apart</source>
-        <translation>the ends of the link are less than a metre apart</translation>
+        <source>the ends of the link are less than a meter apart</source>
+        <translation>the ends of the link are less than a meter apart</translation>
     </message>
     <message id="MESS_TAB_LENGTH_DIFFERS">
         <source>the stated length of %1 m does not match the distance between the ends, which is %2 m</source>
@@ -580,8 +580,8 @@
         <translation>the table has no header: its columns are taken by their values (%1)</translation>
     </message>
     <message id="MESS_TAB_EVIDENCE_NO_HEADER">
-        <source>no header; recognised by the values</source>
-        <translation>no header; recognised by the values</translation>
+        <source>no header; recognized by the values</source>
+        <translation>no header; recognized by the values</translation>
     </message>
     <message id="MESS_TAB_DOCTOR_SWAPPED_GLOBE">
         <source>longitude and latitude seem to be exchanged: %1 of %2 latitudes lie beyond 90 degrees</source>
@@ -700,8 +700,8 @@
         <translation>the file "%1" cannot be used: %2</translation>
     </message>
     <message id="MESS_TAB_NO_SECTORS">
-        <source>no columns of transmitters with the ids or names of these sites were recognised</source>
-        <translation>no columns of transmitters with the ids or names of these sites were recognised</translation>
+        <source>no columns of transmitters with the ids or names of these sites were recognized</source>
+        <translation>no columns of transmitters with the ids or names of these sites were recognized</translation>
     </message>
     <message id="MESS_TAB_SECTORS_NOT_USED">
         <source>the table has transmitters of its own: those in the file "%1" are not used</source>
@@ -712,8 +712,8 @@
         <translation>the ends of the links are only named (%1; %2): their positions must stand in a table of sites, on another sheet of the workbook or in the file that SITES (--sites) names</translation>
     </message>
     <message id="MESS_TAB_NO_NAMED_SITES">
-        <source>no sites with a position and an id or a name were recognised</source>
-        <translation>no sites with a position and an id or a name were recognised</translation>
+        <source>no sites with a position and an id or a name were recognized</source>
+        <translation>no sites with a position and an id or a name were recognized</translation>
     </message>
     <message id="MESS_TAB_NO_END_SITES">
         <source>the columns of the links name none of its sites</source>
@@ -844,20 +844,20 @@
         <translation>the mapping file "%1" names roles that are not known: %2</translation>
     </message>
     <message id="MESS_TAB_MAPPING_COLUMNS">
-        <source>the mapping file "%1" names columns that the table does not have, so that their roles are recognised: %2</source>
-        <translation>the mapping file "%1" names columns that the table does not have, so that their roles are recognised: %2</translation>
+        <source>the mapping file "%1" names columns that the table does not have, so that their roles are recognized: %2</source>
+        <translation>the mapping file "%1" names columns that the table does not have, so that their roles are recognized: %2</translation>
     </message>
     <message id="MESS_TAB_MAPPING_TWICE">
         <source>the mapping file "%1" names columns more than once, of which only the first role holds: %2</source>
         <translation>the mapping file "%1" names columns more than once, of which only the first role holds: %2</translation>
     </message>
     <message id="MESS_TAB_MAPPING_HEADER">
-        <source>the mapping file "%1" names header rows that the table does not have: the header is recognised</source>
-        <translation>the mapping file "%1" names header rows that the table does not have: the header is recognised</translation>
+        <source>the mapping file "%1" names header rows that the table does not have: the header is recognized</source>
+        <translation>the mapping file "%1" names header rows that the table does not have: the header is recognized</translation>
     </message>
     <message id="MESS_TAB_MAPPING_SHEET">
-        <source>the mapping file "%1" names the sheet "%2", which the workbook does not have: the sheet is recognised</source>
-        <translation>the mapping file "%1" names the sheet "%2", which the workbook does not have: the sheet is recognised</translation>
+        <source>the mapping file "%1" names the sheet "%2", which the workbook does not have: the sheet is recognized</source>
+        <translation>the mapping file "%1" names the sheet "%2", which the workbook does not have: the sheet is recognized</translation>
     </message>
     <message id="MESS_TAB_MAPPING_KIND">
         <source>it is for tables of the other kind</source>
@@ -912,12 +912,12 @@
         <translation>table</translation>
     </message>
     <message id="MESS_TAB_NO_END_X">
-        <source>no columns with coordinates of both ends were recognised: the longitude or easting of end %1 is missing</source>
-        <translation>no columns with coordinates of both ends were recognised: the longitude or easting of end %1 is missing</translation>
+        <source>no columns with coordinates of both ends were recognized: the longitude or easting of end %1 is missing</source>
+        <translation>no columns with coordinates of both ends were recognized: the longitude or easting of end %1 is missing</translation>
     </message>
     <message id="MESS_TAB_NO_END_Y">
-        <source>no columns with coordinates of both ends were recognised: the latitude or northing of end %1 is missing</source>
-        <translation>no columns with coordinates of both ends were recognised: the latitude or northing of end %1 is missing</translation>
+        <source>no columns with coordinates of both ends were recognized: the latitude or northing of end %1 is missing</source>
+        <translation>no columns with coordinates of both ends were recognized: the latitude or northing of end %1 is missing</translation>
     </message>
     <message id="MESS_SAVE_REPORT">
         <source>Save the report...</source>

@@ -216,11 +216,11 @@
         <translation>ce tableau contient des sites, pas des liaisons&#xa0;: il a les coordonnées d'une seule position par ligne (%1), pas celles de deux extrémités</translation>
     </message>
     <message id="MESS_TAB_NO_ENDS">
-        <source>no columns with coordinates of both ends were recognised</source>
+        <source>no columns with coordinates of both ends were recognized</source>
         <translation>aucune colonne avec les coordonnées des deux extrémités n'a été reconnue</translation>
     </message>
     <message id="MESS_TAB_ONE_END">
-        <source>no columns with coordinates of both ends were recognised: those of end %1 are missing</source>
+        <source>no columns with coordinates of both ends were recognized: those of end %1 are missing</source>
         <translation>aucune colonne avec les coordonnées des deux extrémités n'a été reconnue&#xa0;: celles de l'extrémité %1 manquent</translation>
     </message>
     <message id="MESS_TAB_UNKNOWN_SRS">
@@ -256,7 +256,7 @@
         <translation>le fichier n'indique pas son encodage&#xa0;: ses textes sont lus en %1</translation>
     </message>
     <message id="MESS_TAB_NO_COORDINATES">
-        <source>no columns with coordinates were recognised</source>
+        <source>no columns with coordinates were recognized</source>
         <translation>aucune colonne de coordonnées n'a été reconnue</translation>
     </message>
     <message id="MESS_TAB_BEHIND_LAST">
@@ -292,7 +292,7 @@
         <translation>la valeur «&#xa0;%1&#xa0;» est lue comme un nombre&#xa0;: des chiffres utiles à un identifiant sont perdus</translation>
     </message>
     <message id="MESS_TAB_NO_HEIGHTS">
-        <source>no columns with antenna heights above ground were recognised</source>
+        <source>no columns with antenna heights above ground were recognized</source>
         <translation>aucune colonne avec la hauteur des antennes au-dessus du sol n'a été reconnue</translation>
     </message>
     <message id="MESS_TAB_SEA_LEVEL">
@@ -300,7 +300,7 @@
         <translation>les hauteurs de la colonne «&#xa0;%1&#xa0;» sont comptées depuis le niveau de la mer, pas depuis le sol&#xa0;: elles ne sont pas utilisées</translation>
     </message>
     <message id="MESS_TAB_NO_FREQUENCIES">
-        <source>no column with frequencies was recognised</source>
+        <source>no column with frequencies was recognized</source>
         <translation>aucune colonne avec des fréquences n'a été reconnue</translation>
     </message>
     <message id="MESS_TAB_NO_HEIGHT">
@@ -336,7 +336,7 @@
         <translation>le décalage «&#xa0;%1&#xa0;» ne peut pas être lu&#xa0;: la position est prise sans lui</translation>
     </message>
     <message id="MESS_TAB_ENDS_COINCIDE">
-        <source>the ends of the link are less than a metre apart</source>
+        <source>the ends of the link are less than a meter apart</source>
         <translation>les extrémités de la liaison sont à moins d'un mètre l'une de l'autre</translation>
     </message>
     <message id="MESS_TAB_LENGTH_DIFFERS">
@@ -580,7 +580,7 @@
         <translation>le tableau n'a pas d'en-tête&#xa0;: ses colonnes sont reconnues à leurs valeurs (%1)</translation>
     </message>
     <message id="MESS_TAB_EVIDENCE_NO_HEADER">
-        <source>no header; recognised by the values</source>
+        <source>no header; recognized by the values</source>
         <translation>pas d'en-tête&#xa0;; reconnue à ses valeurs</translation>
     </message>
     <message id="MESS_TAB_DOCTOR_SWAPPED_GLOBE">
@@ -700,7 +700,7 @@
         <translation>le fichier «&#xa0;%1&#xa0;» n'est pas utilisable&#xa0;: %2</translation>
     </message>
     <message id="MESS_TAB_NO_SECTORS">
-        <source>no columns of transmitters with the ids or names of these sites were recognised</source>
+        <source>no columns of transmitters with the ids or names of these sites were recognized</source>
         <translation>aucune colonne d'émetteurs avec les identifiants ou les noms de ces sites n'a été reconnue</translation>
     </message>
     <message id="MESS_TAB_SECTORS_NOT_USED">
@@ -712,7 +712,7 @@
         <translation>les extrémités des liaisons sont seulement nommées (%1&#xa0;; %2)&#xa0;: leurs positions doivent se trouver dans un tableau de sites, sur une autre feuille du classeur ou dans le fichier que SITES (--sites) indique</translation>
     </message>
     <message id="MESS_TAB_NO_NAMED_SITES">
-        <source>no sites with a position and an id or a name were recognised</source>
+        <source>no sites with a position and an id or a name were recognized</source>
         <translation>aucun site avec une position et un identifiant ou un nom n'a été reconnu</translation>
     </message>
     <message id="MESS_TAB_NO_END_SITES">
@@ -844,7 +844,7 @@
         <translation>le fichier de correspondance «&#xa0;%1&#xa0;» nomme des rôles inconnus&#xa0;: %2</translation>
     </message>
     <message id="MESS_TAB_MAPPING_COLUMNS">
-        <source>the mapping file "%1" names columns that the table does not have, so that their roles are recognised: %2</source>
+        <source>the mapping file "%1" names columns that the table does not have, so that their roles are recognized: %2</source>
         <translation>le fichier de correspondance «&#xa0;%1&#xa0;» nomme des colonnes que le tableau n'a pas, dont les rôles sont donc reconnus automatiquement&#xa0;: %2</translation>
     </message>
     <message id="MESS_TAB_MAPPING_TWICE">
@@ -852,11 +852,11 @@
         <translation>le fichier de correspondance «&#xa0;%1&#xa0;» nomme plusieurs fois des colonnes, dont seul le premier rôle vaut&#xa0;: %2</translation>
     </message>
     <message id="MESS_TAB_MAPPING_HEADER">
-        <source>the mapping file "%1" names header rows that the table does not have: the header is recognised</source>
+        <source>the mapping file "%1" names header rows that the table does not have: the header is recognized</source>
         <translation>le fichier de correspondance «&#xa0;%1&#xa0;» nomme des lignes d'en-tête que le tableau n'a pas&#xa0;: l'en-tête est reconnu automatiquement</translation>
     </message>
     <message id="MESS_TAB_MAPPING_SHEET">
-        <source>the mapping file "%1" names the sheet "%2", which the workbook does not have: the sheet is recognised</source>
+        <source>the mapping file "%1" names the sheet "%2", which the workbook does not have: the sheet is recognized</source>
         <translation>le fichier de correspondance «&#xa0;%1&#xa0;» nomme la feuille «&#xa0;%2&#xa0;», que le classeur n'a pas&#xa0;: la feuille est reconnue automatiquement</translation>
     </message>
     <message id="MESS_TAB_MAPPING_KIND">
@@ -912,11 +912,11 @@
         <translation>tableau</translation>
     </message>
     <message id="MESS_TAB_NO_END_X">
-        <source>no columns with coordinates of both ends were recognised: the longitude or easting of end %1 is missing</source>
+        <source>no columns with coordinates of both ends were recognized: the longitude or easting of end %1 is missing</source>
         <translation>aucune colonne avec les coordonnées des deux extrémités n'a été reconnue&#xa0;: la longitude ou l'abscisse de l'extrémité %1 manque</translation>
     </message>
     <message id="MESS_TAB_NO_END_Y">
-        <source>no columns with coordinates of both ends were recognised: the latitude or northing of end %1 is missing</source>
+        <source>no columns with coordinates of both ends were recognized: the latitude or northing of end %1 is missing</source>
         <translation>aucune colonne avec les coordonnées des deux extrémités n'a été reconnue&#xa0;: la latitude ou l'ordonnée de l'extrémité %1 manque</translation>
     </message>
     <message id="MESS_SAVE_REPORT">

@@ -5,7 +5,7 @@
     <name>Site file</name>
     <message id="MESS_ERR_OPEN_SITE">
         <source>This file can't be open as a site file</source>
-        <translation>This file can't be open as a site file</translation>
+        <translation>This file can't be opened as a site file</translation>
     </message>
     <message id="MESS_ERR_EMPTY_SITE">
         <source>This site file is empty</source>
@@ -188,7 +188,7 @@ Coordinates are _C_ and are specified in _U_</translation>
     </message>
     <message id="MESS_READ_SRS_FROM_DS">
         <source>Read system from a datasource...</source>
-        <translation>Read system from a datasource...</translation>
+        <translation>Read the system from a file...</translation>
     </message>
     <message id="MESS_TIP_READ_SRS">
         <source>Take the target system from a raster or vector file</source>
@@ -196,7 +196,7 @@ Coordinates are _C_ and are specified in _U_</translation>
     </message>
     <message id="MESS_SELECT_DS">
         <source>Select a geodataset (raster or vector)</source>
-        <translation>Select a geodataset (raster or vector)</translation>
+        <translation>Select a file with a coordinate system (raster or vector)</translation>
     </message>
     <message id="MESS_ALL_FILES">
         <source>All files</source>
@@ -208,11 +208,11 @@ Coordinates are _C_ and are specified in _U_</translation>
     </message>
     <message id="MESS_ERR_NO_SRS_DSR">
         <source>This raster dataset doesn't contain any valid coordinate system information</source>
-        <translation>This raster dataset doesn't contain any valid coordinate system information</translation>
+        <translation>This raster file doesn't contain any valid coordinate system</translation>
     </message>
     <message id="MESS_ERR_NO_SRS_DSV">
         <source>This vector dataset doesn't contain any valid coordinate system information</source>
-        <translation>This vector dataset doesn't contain any valid coordinate system information</translation>
+        <translation>This vector file doesn't contain any valid coordinate system</translation>
     </message>
     <message id="MESS_SYMBOLIC_REPR">
         <source>Symbolic representation</source>
@@ -268,11 +268,11 @@ Coordinates are _C_ and are specified in _U_</translation>
     </message>
     <message id="MESS_TIP_TRANSPARENCY">
         <source>Transparency of the sectors in per cent</source>
-        <translation>Transparency of the sectors in per cent</translation>
+        <translation>Transparency of the sectors in percent</translation>
     </message>
     <message id="MESS_APP_DISTANCE">
         <source>Apparition distance</source>
-        <translation>Apparition distance</translation>
+        <translation>Shown up to</translation>
     </message>
     <message id="MESS_TIP_SYMBOLIC_DISTANCE">
         <source>Maximum distance at which the sectors are drawn</source>
@@ -296,7 +296,7 @@ Coordinates are _C_ and are specified in _U_</translation>
     </message>
     <message id="MESS_ANTENNAS_SIZE">
         <source>Antennas size</source>
-        <translation>Antennas size</translation>
+        <translation>Antenna size</translation>
     </message>
     <message id="MESS_TIP_ANTENNAS_SIZE">
         <source>Size of the antennas; 100 % is their real size</source>
@@ -319,7 +319,7 @@ Coordinates are _C_ and are specified in _U_</translation>
     </message>
     <message id="MESS_SITE_FILE2">
         <source>Sites file to display</source>
-        <translation>Sites file to display</translation>
+        <translation>Site file to display</translation>
     </message>
     <message id="MESS_TIP_SITE_FILE">
         <source>Path of the table; press Enter after typing one, or drop a file on the page</source>
@@ -353,8 +353,8 @@ Coordinates are _C_ and are specified in _U_</translation>
     <message id="MESS_NO_SITE_DEFINED">
         <source>No sites file defined.
 Select the sites file to display.</source>
-        <translation>No sites file defined.
-Select the sites file to display.</translation>
+        <translation>No site file is chosen yet.
+Choose the site file to display.</translation>
     </message>
     <message id="MESS_COORDINATE_SYSTEMS">
         <source>Coordinate systems</source>
@@ -431,7 +431,7 @@ to add the site layer
     </message>
     <message id="MESS_TIP_DETAILS">
         <source>Show the recognised columns and the rows with problems</source>
-        <translation>Show the recognised columns and the rows with problems</translation>
+        <translation>Show the recognized columns and the rows with problems</translation>
     </message>
     <message id="MESS_CHECKING_ROWS">
         <source>Checking the rows: %p%</source>
@@ -479,7 +479,7 @@ to add the site layer
     </message>
     <message id="MESS_RECOGNISED_COLUMNS">
         <source>Recognised columns: %1</source>
-        <translation>Recognised columns: %1</translation>
+        <translation>Recognized columns: %1</translation>
     </message>
     <message id="MESS_ROWS_NOT_CHECKED">
         <source>the rows were not checked</source>

@@ -25,7 +25,7 @@
     </message>
     <message id="MESS_DEF_TMPLT_IMG">
         <source>Define  the template image...</source>
-        <translation>Define  the template image...</translation>
+        <translation>Choose the template image...</translation>
     </message>
     <message id="MESS_TIP_TEMPLATE">
         <source>Choose one of the images; all images with the same suffix in these folders are listed. You can also drop a file on the page</source>

@@ -21,7 +21,7 @@
     <message id="MESS_DOSSIER">
         <source>Directory</source>
         <extracomment>Header of a column.</extracomment>
-        <translation>Directory</translation>
+        <translation>Folder</translation>
     </message>
     <message id="MESS_NEED_TEX_IMG">
         <source>Vous devez sélectionner une ou plusieurs images pour texturer les bâtiments</source>

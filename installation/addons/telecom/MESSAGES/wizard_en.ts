@@ -5,7 +5,7 @@
     <name>Wizard</name>
     <message id="MESS_TELECOM_LAYERS">
         <source>Add sites, links and predictions wizard</source>
-        <translation>Add sites, links and predictions wizard</translation>
+        <translation>Wizard for sites, links and predictions</translation>
     </message>
     <message id="MESS_SUIVANT">
         <source>Next</source>
@@ -106,7 +106,7 @@ vltlayers makes the same layers without a window.</translation>
     </message>
     <message id="MESS_ADD_SITE2">
         <source>Create a layer to display sites files (pylons with antennas) in the 3D model.</source>
-        <translation>Create a layer to display sites files (pylons with antennas) in the 3D model.</translation>
+        <translation>Create a layer that shows sites (pylons with antennas) in the 3D model.</translation>
     </message>
     <message id="MESS_ADD_LINK">
         <source>Add link file</source>
@@ -114,7 +114,7 @@ vltlayers makes the same layers without a window.</translation>
     </message>
     <message id="MESS_ADD_LINK2">
         <source>Create a layer to display links files (pylons with antennas, microwave link and Fresnel zone) in the 3D model.</source>
-        <translation>Create a layer to display links files (pylons with antennas, microwave link and Fresnel zone) in the 3D model.</translation>
+        <translation>Create a layer that shows links (pylons with antennas, microwave link and Fresnel zone) in the 3D model.</translation>
     </message>
     <message id="MESS_ADD_MULTI_HGT">
         <source>Add multi-heights predictions</source>
@@ -123,8 +123,8 @@ vltlayers makes the same layers without a window.</translation>
     <message id="MESS_ADD_TEXB2">
         <source>Create a layer to display 3D buildings in the 3D model.
 Buildings can be colored or textured with images (ortho-images, coverage plots, ...).</source>
-        <translation>Create a layer to display 3D buildings in the 3D model.
-Buildings can be colored or textured with images (ortho-images, coverage plots, ...).</translation>
+        <translation>Create a layer that shows buildings in the 3D model.
+They can be colored, or textured with images (orthophotos, coverage plots, ...).</translation>
     </message>
 </context>
 <context>
@@ -135,7 +135,7 @@ Buildings can be colored or textured with images (ortho-images, coverage plots, 
     </message>
     <message id="MESS_SEL_PRJ_AD_GEN_LAY">
         <source>Select a project in which it will be loaded the generated layer</source>
-        <translation>Select a project in which it will be loaded the generated layer</translation>
+        <translation>Select the project that the layer is for</translation>
     </message>
     <message id="MESS_RECENT_PRJS">
         <source>Recent projects</source>
@@ -171,7 +171,7 @@ Buildings can be colored or textured with images (ortho-images, coverage plots, 
     </message>
     <message id="MESS_SEL_NOM_PROJ_USE">
         <source>Select name of Veltaro project to be used</source>
-        <translation>Select name of Veltaro project to be used</translation>
+        <translation>Select the Veltaro project to use</translation>
     </message>
     <message id="MESS_PROJET_VLT">
         <source>Veltaro project</source>
