@@ -14,8 +14,8 @@ set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
 "VltTelecomLayers turns tables of telecom sites and microwave links (CSV,
 XLSX, XLS, SpreadsheetML), and building footprints with predictions of
 coverage, into layer files of the Veltaro 3D scene builder: masts with
-coloured sectors, links with their Fresnel zones and their clearance over
-a terrain, and buildings coloured by a raster.
+colored sectors, links with their Fresnel zones and their clearance over
+a terrain, and buildings colored by a raster.
 .
 The package holds the wizard VltTelecomLayers, its command-line twin
 vltlayers, a GDAL driver that reads such tables in every GDAL program
