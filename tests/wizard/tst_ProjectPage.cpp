@@ -178,24 +178,52 @@ private Q_SLOTS:
         Host host;
 
         host.path()->setText(pasted.arg(isAtHome ? u"my project.gvw"_s : path));
-        const bool isDoubted = host.child<QLabel>(u"m_pwLblProjectNotice"_s)->isVisible();
+        const QString contents = host.child<QLabel>(u"m_pwLblProjectNotice"_s)->text();
         host.wizard.next();
         qputenv("HOME", home);
 
         QCOMPARE(host.wizard.currentId(), 2);
         QCOMPARE(host.wizard.field(u"ProjectName"_s).toString(), path);
         QCOMPARE(host.parameters.value(u"ProjectName"_s).toString(), path);
-        QVERIFY(!isDoubted);
+        QVERIFY2(contents.startsWith(u"Coordinate system: RGF93"_s), qPrintable(contents));
     }
 
-    void saysThatAFileIsHardlyAProject()
+    void showsWhatTheProjectHolds_data()
+    {
+        const Cases<QByteArray, QString> row({"project", "shown"});
+        row("all",
+            "DEM Layers\nFiles : dem.tif\nReference Projection : 2154\nVector layer\n"
+            "File : town.shp\nLayer name : buildings\n",
+            "Coordinate system: RGF93 v1 / Lambert-93 (2154)\nTerrain: DIR/dem.tif (this file does "
+            "not exist)\nBuildings: town.shp");
+        row("a system of its own", "DEM Layers\nFiles :\nReference Projection : local\n",
+            "Coordinate system: local\nTerrain: none\nBuildings: none");
+        row("a terrain", "DEM Layers\nFiles : town.shp\n",
+            "Coordinate system: that of the terrain\nTerrain: town.shp\nBuildings: none");
+        row("nothing", "text",
+            "p.gvw: the project names neither a reference system nor a terrain "
+            "nor buildings");
+    }
+
+    void showsWhatTheProjectHolds()
+    {
+        QFETCH(QByteArray, project);
+        QFETCH(QString, shown);
+        writeFile(file(u"p.gvw"_s), project);
+        writeFile(file(u"town.shp"_s), {});
+        Host host;
+
+        host.path()->setText(file(u"p.gvw"_s));
+
+        QCOMPARE(host.child<QLabel>(u"m_pwLblProjectNotice"_s)->text(),
+                 shown.replace(u"DIR"_s, m_dir.path()));
+    }
+
+    void continuesWithADoubtfulProject()
     {
         Host host;
         auto *notice = host.child<QLabel>(u"m_pwLblProjectNotice"_s);
-
         host.path()->setText(file(u"a.gvw"_s)); // an empty file
-        QCOMPARE(notice->text(), u"a.gvw: the project names neither a reference system nor a "
-                                 "terrain nor buildings"_s);
         QVERIFY(notice->isVisible());
         host.path()->setText(file(u"gone.gvw"_s));
         QVERIFY(!notice->isVisible());

@@ -238,5 +238,29 @@ They can be colored, or textured with images (orthophotos, coverage plots, ...).
         <source>the project names neither a reference system nor a terrain nor buildings</source>
         <translation>the project names neither a reference system nor a terrain nor buildings</translation>
     </message>
+    <message id="MESS_PROJECT_SYSTEM">
+        <source>Coordinate system: %1</source>
+        <translation>Coordinate system: %1</translation>
+    </message>
+    <message id="MESS_PROJECT_TERRAIN">
+        <source>Terrain: %1</source>
+        <translation>Terrain: %1</translation>
+    </message>
+    <message id="MESS_PROJECT_BUILDINGS">
+        <source>Buildings: %1</source>
+        <translation>Buildings: %1</translation>
+    </message>
+    <message id="MESS_PROJECT_STATES_NONE">
+        <source>none</source>
+        <translation>none</translation>
+    </message>
+    <message id="MESS_PROJECT_NO_SYSTEM">
+        <source>that of the terrain</source>
+        <translation>that of the terrain</translation>
+    </message>
+    <message id="MESS_PROJECT_LACKS_FILE">
+        <source>%1 (this file does not exist)</source>
+        <translation>%1 (this file does not exist)</translation>
+    </message>
 </context>
 </TS>

@@ -239,5 +239,29 @@ Les bâtiments peuvent être colorés ou texturés avec des images (orthophotos,
         <source>the project names neither a reference system nor a terrain nor buildings</source>
         <translation>le projet ne nomme ni système de référence, ni terrain, ni bâtiments</translation>
     </message>
+    <message id="MESS_PROJECT_SYSTEM">
+        <source>Coordinate system: %1</source>
+        <translation>Système de coordonnées&#xa0;: %1</translation>
+    </message>
+    <message id="MESS_PROJECT_TERRAIN">
+        <source>Terrain: %1</source>
+        <translation>Terrain&#xa0;: %1</translation>
+    </message>
+    <message id="MESS_PROJECT_BUILDINGS">
+        <source>Buildings: %1</source>
+        <translation>Bâtiments&#xa0;: %1</translation>
+    </message>
+    <message id="MESS_PROJECT_STATES_NONE">
+        <source>none</source>
+        <translation>aucun</translation>
+    </message>
+    <message id="MESS_PROJECT_NO_SYSTEM">
+        <source>that of the terrain</source>
+        <translation>celui du terrain</translation>
+    </message>
+    <message id="MESS_PROJECT_LACKS_FILE">
+        <source>%1 (this file does not exist)</source>
+        <translation>%1 (ce fichier n'existe pas)</translation>
+    </message>
 </context>
 </TS>

@@ -3,9 +3,11 @@
 #include "ui_SecondPage.h"
 
 #include "geodata/ConfigurationOption.h"
+#include "geodata/SrsFacts.h"
 #include "language/VltLanguageManager.h"
 #include "platform/Settings.h"
 #include "wizard/base/Messages.h"
+#include "wizard/project/ProjectContents.h"
 #include "wizard/project/ProjectReaders.h"
 #include "wizard/project/RecentProjects.h"
 #include "wizard/project/TypedPath.h"
@@ -95,7 +97,7 @@ void VltSecondPage::connectWidgets()
     connect(list, &QListWidget::itemDoubleClicked, this, &VltSecondPage::projectDoubleClicked);
     connect(m_ui->m_pwLeProjectName, &QLineEdit::textChanged, this,
             &VltSecondPage::showWhichProject);
-    connect(m_ui->m_pwLeProjectName, &QLineEdit::textChanged, this, &VltSecondPage::showNotice);
+    connect(m_ui->m_pwLeProjectName, &QLineEdit::textChanged, this, &VltSecondPage::showContents);
 }
 
 QString VltSecondPage::typedProject() const
@@ -103,17 +105,21 @@ QString VltSecondPage::typedProject() const
     return project::typedPath(m_ui->m_pwLeProjectName->text());
 }
 
-/// Shows a notice for a file without any project data. It can be chosen, but is probably the wrong
-/// one.
-void VltSecondPage::showNotice()
+/// Shows what the project holds. A file without any project data can be chosen, but is probably the
+/// wrong one.
+void VltSecondPage::showContents()
 {
     const QString path = typedProject();
-    const bool isDoubtful = isReadableFile(path) && project::namesNothing(path);
-    m_ui->m_pwLblProjectNotice->setVisible(isDoubtful);
-    if (isDoubtful)
-        m_ui->m_pwLblProjectNotice->setText(
-            tr("%1: %2", "MESS_FILE_REASON")
-                .arg(QFileInfo(path).fileName(), project::namesNothingText()));
+    const bool isReadable = isReadableFile(path);
+    m_ui->m_pwLblProjectNotice->setVisible(isReadable);
+    if (!isReadable)
+        return;
+    const QString system = geodata::srsFacts(project::referenceProjection(path)).name;
+    const QStringList contents = project::projectContents(path, system);
+    m_ui->m_pwLblProjectNotice->setText(
+        contents.isEmpty() ? tr("%1: %2", "MESS_FILE_REASON")
+                                 .arg(QFileInfo(path).fileName(), project::namesNothingText())
+                           : contents.join(QLatin1Char('\n')));
 }
 
 /// Shows an item as selected only if its project is the one in the line edit.

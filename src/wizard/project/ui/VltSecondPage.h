@@ -58,7 +58,7 @@ private:
     void showWhetherThereAreProjects();
     void connectWidgets();
     void showWhichProject(const QString &path);
-    void showNotice();
+    void showContents();
     QString typedProject() const;
 
     std::unique_ptr<Ui::SecondPage> m_ui;
