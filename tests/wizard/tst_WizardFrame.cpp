@@ -20,7 +20,11 @@ namespace {
 class Wizard : public VltTelecomLayersWizard
 {
 public:
-    Wizard() : VltTelecomLayersWizard(QStringLiteral(VLT_INSTALLATION), u"en"_s) { show(); }
+    explicit Wizard(const QString &installDir = QStringLiteral(VLT_INSTALLATION))
+        : VltTelecomLayersWizard(installDir, u"en"_s)
+    {
+        show();
+    }
 
     void click(const QString &button) { findChild<QAbstractButton *>(button)->click(); }
 
@@ -123,6 +127,22 @@ private Q_SLOTS:
             wizard.back();
             wizard.back();
         }
+    }
+
+    /// The sample sites are opened with their own project, not with the first recent one.
+    void opensTheSample()
+    {
+        const QString place = m_dir.filePath(u"installed/examples/lorient/"_s);
+        QVERIFY(!Wizard().findChild<QWidget *>(u"m_pwPbSample"_s)->isVisible());
+        writeFile(place + u"city.gvw"_s);
+        writeFile(place + u"sites.csv"_s, "Site ID,Longitude,Latitude\nA,2,48\n");
+        AnsweredBoxes boxes; // this installation has nothing else
+        Wizard wizard(m_dir.filePath(u"installed"_s));
+
+        wizard.click(u"m_pwPbSample"_s);
+
+        QTRY_COMPARE_WITH_TIMEOUT(wizard.currentId(), 2, PatienceMs);
+        QCOMPARE(wizard.field(u"ProjectName"_s).toString(), place + u"city.gvw"_s);
     }
 
     void theBuildingPagesFollowEachOther()

@@ -16,9 +16,16 @@ VltFirstPage::VltFirstPage(QWidget *wizard)
     connect(m_ui->m_pwClAddSite, &QCommandLinkButton::clicked, this, &VltFirstPage::addSiteClicked);
     connect(m_ui->m_pwClAddLink, &QCommandLinkButton::clicked, this, &VltFirstPage::addLinkClicked);
     connect(m_ui->m_pwClAddTexb, &QCommandLinkButton::clicked, this, &VltFirstPage::addTexbClicked);
+    m_ui->m_pwPbSample->hide();
+    connect(m_ui->m_pwPbSample, &QPushButton::clicked, this, &VltFirstPage::sampleWanted);
 }
 
 VltFirstPage::~VltFirstPage() = default;
+
+void VltFirstPage::offerSample()
+{
+    m_ui->m_pwPbSample->show();
+}
 
 void VltFirstPage::initializePage()
 {

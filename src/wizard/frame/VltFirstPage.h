@@ -29,6 +29,9 @@ public:
 
     void setPageIds(const PageIds &ids) { m_ids = ids; }
 
+    /// Shows the button of the sample project, which is hidden at first.
+    void offerSample();
+
     void initializePage() override;
     int nextId() const override { return m_nextId; }
 
@@ -40,6 +43,7 @@ public Q_SLOTS:
 Q_SIGNALS:
     /// The page that follows the project page was chosen.
     void nextPageSelected(int id);
+    void sampleWanted();
 
 private:
     void leadTo(int id, QWidget *chosen);

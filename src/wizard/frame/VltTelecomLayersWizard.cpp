@@ -26,6 +26,9 @@ namespace {
 
 const QString GeometryKey = QStringLiteral("mainGeometry");
 
+const QString SampleProject = QStringLiteral("city.gvw");
+const QString SampleSites = QStringLiteral("sites.csv");
+
 // Enough for the settings of a result page and its preview.
 constexpr QSize ComfortableSize(1180, 680);
 // Approximate size of the window frame.
@@ -107,6 +110,21 @@ void VltTelecomLayersWizard::addPages()
                        pageId(LogicalPage::AddLink), pageId(LogicalPage::BuildingsSource)});
     connect(first, &VltFirstPage::nextPageSelected, this,
             &VltTelecomLayersWizard::setNextIdOfSecondPage);
+    connect(first, &VltFirstPage::sampleWanted, this, &VltTelecomLayersWizard::openSample);
+    if (QFileInfo(sampleFile(SampleProject)).isFile() &&
+        QFileInfo(sampleFile(SampleSites)).isFile())
+        first->offerSample();
+}
+
+QString VltTelecomLayersWizard::sampleFile(const QString &name) const
+{
+    return m_installDir + QStringLiteral("/examples/lorient/") + name;
+}
+
+void VltTelecomLayersWizard::openSample()
+{
+    openFile(sampleFile(SampleProject));
+    openFile(sampleFile(SampleSites));
 }
 
 void VltTelecomLayersWizard::addPageAs(LogicalPage logical, QWizardPage *page)

@@ -58,6 +58,8 @@ private:
     void addPages();
     void addPageAs(LogicalPage logical, QWizardPage *page);
     void addBuildingPages();
+    QString sampleFile(const QString &name) const;
+    void openSample();
     void keepOnScreen();
     void focusPage();
     void leadToPageOf(LogicalPage page, const QString &path);

@@ -106,7 +106,8 @@ vltlayers makes the same layers without a window.</translation>
     </message>
     <message id="MESS_ADD_SITE2">
         <source>Create a layer to display sites files (pylons with antennas) in the 3D model.</source>
-        <translation>Create a layer that shows sites (pylons with antennas) in the 3D model.</translation>
+        <translation>Create a layer that shows sites (pylons with antennas) in the 3D model.
+From a table of sites: CSV, Excel (.xlsx, .xls) or XML.</translation>
     </message>
     <message id="MESS_ADD_LINK">
         <source>Add link file</source>
@@ -114,7 +115,8 @@ vltlayers makes the same layers without a window.</translation>
     </message>
     <message id="MESS_ADD_LINK2">
         <source>Create a layer to display links files (pylons with antennas, microwave link and Fresnel zone) in the 3D model.</source>
-        <translation>Create a layer that shows links (pylons with antennas, microwave link and Fresnel zone) in the 3D model.</translation>
+        <translation>Create a layer that shows links (pylons with antennas, microwave link and Fresnel zone) in the 3D model.
+From a table of links: CSV, Excel (.xlsx, .xls) or XML.</translation>
     </message>
     <message id="MESS_ADD_MULTI_HGT">
         <source>Add multi-heights predictions</source>
@@ -124,7 +126,8 @@ vltlayers makes the same layers without a window.</translation>
         <source>Create a layer to display 3D buildings in the 3D model.
 Buildings can be colored or textured with images (ortho-images, coverage plots, ...).</source>
         <translation>Create a layer that shows buildings in the 3D model.
-They can be colored, or textured with images (orthophotos, coverage plots, ...).</translation>
+They can be colored, or textured with images (orthophotos, coverage plots, ...).
+From a file of building outlines, with a raster of values or with images.</translation>
     </message>
 </context>
 <context>
@@ -261,6 +264,18 @@ They can be colored, or textured with images (orthophotos, coverage plots, ...).
     <message id="MESS_PROJECT_LACKS_FILE">
         <source>%1 (this file does not exist)</source>
         <translation>%1 (this file does not exist)</translation>
+    </message>
+    <message id="MESS_START_INTRO">
+        <source>Makes layers for Veltaro Builder from tables of sites or links and from outlines of buildings, and shows them in 3D.</source>
+        <translation>Makes layers for Veltaro Builder from tables of sites or links and from outlines of buildings, and shows them in 3D.</translation>
+    </message>
+    <message id="MESS_TRY_SAMPLE">
+        <source>&amp;Try the sample project</source>
+        <translation>&amp;Try the sample project</translation>
+    </message>
+    <message id="MESS_TIP_TRY_SAMPLE">
+        <source>Open the sites of a sample town, with its project and terrain</source>
+        <translation>Open the sites of a sample town, with its project and terrain</translation>
     </message>
 </context>
 </TS>

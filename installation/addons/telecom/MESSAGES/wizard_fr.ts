@@ -107,7 +107,8 @@ vltlayers produit les mêmes couches sans fenêtre.</translation>
     </message>
     <message id="MESS_ADD_SITE2">
         <source>Create a layer to display sites files (pylons with antennas) in the 3D model.</source>
-        <translation>Créer une couche pour afficher un fichier de sites (pylônes et antennes) dans le modèle 3D.</translation>
+        <translation>Créer une couche pour afficher un fichier de sites (pylônes et antennes) dans le modèle 3D.
+À partir d'un tableau de sites&#xa0;: CSV, Excel (.xlsx, .xls) ou XML.</translation>
     </message>
     <message id="MESS_ADD_LINK">
         <source>Add link file</source>
@@ -115,7 +116,8 @@ vltlayers produit les mêmes couches sans fenêtre.</translation>
     </message>
     <message id="MESS_ADD_LINK2">
         <source>Create a layer to display links files (pylons with antennas, microwave link and Fresnel zone) in the 3D model.</source>
-        <translation>Créer une couche pour afficher un fichier de liaisons (pylônes et antennes, faisceau hertzien et zone de Fresnel) dans le modèle 3D.</translation>
+        <translation>Créer une couche pour afficher un fichier de liaisons (pylônes et antennes, faisceau hertzien et zone de Fresnel) dans le modèle 3D.
+À partir d'un tableau de liaisons&#xa0;: CSV, Excel (.xlsx, .xls) ou XML.</translation>
     </message>
     <message id="MESS_ADD_MULTI_HGT">
         <source>Add multi-heights predictions</source>
@@ -125,7 +127,8 @@ vltlayers produit les mêmes couches sans fenêtre.</translation>
         <source>Create a layer to display 3D buildings in the 3D model.
 Buildings can be colored or textured with images (ortho-images, coverage plots, ...).</source>
         <translation>Créer une couche pour afficher des bâtiments 3D dans le modèle 3D.
-Les bâtiments peuvent être colorés ou texturés avec des images (orthophotos, cartes de couverture...).</translation>
+Les bâtiments peuvent être colorés ou texturés avec des images (orthophotos, cartes de couverture...).
+À partir d'un fichier d'emprises de bâtiments et d'un raster de valeurs ou d'images.</translation>
     </message>
 </context>
 <context>
@@ -262,6 +265,18 @@ Les bâtiments peuvent être colorés ou texturés avec des images (orthophotos,
     <message id="MESS_PROJECT_LACKS_FILE">
         <source>%1 (this file does not exist)</source>
         <translation>%1 (ce fichier n'existe pas)</translation>
+    </message>
+    <message id="MESS_START_INTRO">
+        <source>Makes layers for Veltaro Builder from tables of sites or links and from outlines of buildings, and shows them in 3D.</source>
+        <translation>Crée des couches pour Veltaro Builder à partir de tableaux de sites ou de liaisons et d'emprises de bâtiments, et les montre en 3D.</translation>
+    </message>
+    <message id="MESS_TRY_SAMPLE">
+        <source>&amp;Try the sample project</source>
+        <translation>&amp;Essayer le projet d'exemple</translation>
+    </message>
+    <message id="MESS_TIP_TRY_SAMPLE">
+        <source>Open the sites of a sample town, with its project and terrain</source>
+        <translation>Ouvrir les sites d'une ville d'exemple, avec son projet et son terrain</translation>
     </message>
 </context>
 </TS>
