@@ -9,6 +9,7 @@
 #include "language/VltLanguageManager.h"
 #include "resources/Resources.h"
 #include "wizard/base/BusyWait.h"
+#include "wizard/base/ElidedCombos.h"
 #include "wizard/base/RestingCursor.h"
 #include "wizard/frame/VltTelecomLayersWizard.h"
 
@@ -53,6 +54,7 @@ void setAppearance(QApplication &application, bool keepStyle)
         QApplication::setStyle(QStringLiteral("Fusion"));
     application.setStyleSheet(app::startupStyleSheet(application.styleSheet()));
     wizard::restTextCursors(&application);
+    wizard::elideCombos(&application);
 }
 
 void setIdentity()

@@ -5,9 +5,11 @@
 #include "wizard/base/BusyWait.h"
 #include "wizard/base/DecimalSpinBox.h"
 #include "wizard/base/DraggableIcon.h"
+#include "wizard/base/ElidedCombos.h"
 #include "wizard/base/VltResultPage.h"
 
 #include <QClipboard>
+#include <QComboBox>
 #include <QDir>
 #include <QHBoxLayout>
 #include <QProgressBar>
@@ -192,6 +194,24 @@ private Q_SLOTS:
         icon.setLayerFile(QString());
         QVERIFY(!icon.isEnabled());
         QCOMPARE(icon.radius(), 0);
+    }
+
+    void endsOnlyCutTextsOfListsInAnEllipsis()
+    {
+        const auto picture = [](const QString &text) {
+            QComboBox combo;
+            combo.addItem(text);
+            combo.setFixedSize(120, 30);
+            return combo.grab().toImage();
+        };
+        const QString cut(40, u'm');
+        const QImage cutBefore = picture(cut);
+        const QImage wholeBefore = picture(u"whole"_s);
+        QObject owner;
+        vlt::wizard::elideCombos(&owner);
+        QVERIFY(picture(cut) != cutBefore);
+        QCOMPARE(picture(cut), picture(cut + u"mm"_s));
+        QCOMPARE(picture(u"whole"_s), wholeBefore);
     }
 
     void takesThePointAndTheComma_data()
