@@ -3,6 +3,7 @@
 #include "app/Environment.h"
 #include "app/GeodataLibrary.h"
 #include "app/LoadMessages.h"
+#include "app/ReadablePalette.h"
 #include "app/StartupSettings.h"
 #include "app/StyleSheet.h"
 #include "app/ToolkitTexts.h"
@@ -52,6 +53,7 @@ void setAppearance(QApplication &application, bool keepStyle)
     registerResources(); // they include the style sheets
     if (!keepStyle)
         QApplication::setStyle(QStringLiteral("Fusion"));
+    QApplication::setPalette(app::readableHints(QApplication::palette()));
     application.setStyleSheet(app::startupStyleSheet(application.styleSheet()));
     wizard::restTextCursors(&application);
     wizard::elideCombos(&application);

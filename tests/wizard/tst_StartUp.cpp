@@ -1,4 +1,5 @@
 #include "app/LoadMessages.h"
+#include "app/ReadablePalette.h"
 #include "app/StyleSheet.h"
 #include "app/ToolkitTexts.h"
 #include "resources/Resources.h"
@@ -33,6 +34,29 @@ class tst_StartUp : public QObject
 
 private Q_SLOTS:
     void initTestCase() { vlt::registerResources(); }
+
+    /// The expected greys are the lightest one on white and the darkest one on black that reach 4.5
+    /// to 1.
+    void makesHintsReadable_data()
+    {
+        const Cases<QColor, QColor, int, int> row({"ground", "text", "darkest", "lightest"});
+        row("white", Qt::white, Qt::black, 0x60, 0x76);
+        row("black", Qt::black, Qt::white, 0x75, 0x8b);
+        row("text of little contrast", Qt::white, QColor(0x99, 0x99, 0x99), 0x99, 0x99);
+    }
+
+    void makesHintsReadable()
+    {
+        QFETCH(QColor, ground);
+        QFETCH(QColor, text);
+        QFETCH(int, darkest);
+        QFETCH(int, lightest);
+        QPalette desktop;
+        desktop.setColor(QPalette::Base, ground);
+        desktop.setColor(QPalette::Text, text);
+        const int hint = readableHints(desktop).color(QPalette::PlaceholderText).red();
+        QVERIFY2(hint >= darkest && hint <= lightest, qPrintable(QString::number(hint, 16)));
+    }
 
     void composesStyleSheets()
     {
