@@ -1,5 +1,6 @@
 #include "preview/VltPreviewPane.h"
 
+#include "preview/VltReadingAids.h"
 #include "preview/W_simpleOSGViewer.h"
 
 #include <QLabel>
@@ -19,9 +20,11 @@ VltPreviewPane::VltPreviewPane(QWidget *parent) : QWidget(parent)
         m_viewer->setToolTip(
             tr("Drag to rotate, Shift and drag to move, wheel to zoom. Keys: the "
                "arrows rotate and tilt, with Shift they move; + and - zoom, T shows "
-               "the view from above, F the whole scene, Home the first view.",
+               "the view from above, F the whole scene, Home the first view, N turns "
+               "north up, A shows or hides scale and legend.",
                "MESS_TIP_3D_PREVIEW"));
         layout->addWidget(m_viewer);
+        m_aids = new VltReadingAids(*m_viewer);
         setFocusProxy(m_viewer);
         return;
     }
@@ -34,11 +37,13 @@ VltPreviewPane::VltPreviewPane(QWidget *parent) : QWidget(parent)
     layout->addWidget(text);
 }
 
-void VltPreviewPane::showScene(osg::Node *scene, GroundMaker ground)
+void VltPreviewPane::showScene(osg::Node *scene, GroundMaker ground,
+                               const vlt::readingaids::SceneReading &reading)
 {
     if (!m_viewer)
         return;
     m_viewer->showScene(scene, std::move(ground));
+    m_aids->show(scene != nullptr, reading);
     m_hasScene = scene != nullptr;
     showHint();
 }

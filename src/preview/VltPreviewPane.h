@@ -1,6 +1,7 @@
 #pragma once
 
 #include "preview/Surroundings.h"
+#include "readingaids/SceneReading.h"
 
 #include <osg/BoundingBox>
 #include <osg/Node>
@@ -9,6 +10,7 @@
 
 #include <optional>
 
+class VltReadingAids;
 class W_simpleOSGViewer;
 
 /// The frame for the preview of scenes on a page: a 3D view, or a text if the system does not
@@ -25,8 +27,10 @@ public:
 
     /// Replaces the scene. For the first one, the camera then shows the whole scene.
     ///
-    /// @param ground  shown under the scene, with a sky; empty: the scene alone
-    void showScene(osg::Node *scene, GroundMaker ground = {});
+    /// @param ground   shown under the scene, with a sky; empty: the scene alone
+    /// @param reading  what the reading aids state about the scene
+    void showScene(osg::Node *scene, GroundMaker ground = {},
+                   const vlt::readingaids::SceneReading &reading = {});
 
     /// Looks at the point `heightM` above the origin from `distanceM` metres.
     void placeCamera(double distanceM, double heightM);
@@ -59,5 +63,6 @@ private:
     void showHint();
 
     W_simpleOSGViewer *m_viewer = nullptr;
+    VltReadingAids *m_aids = nullptr; ///< with a view
     bool m_hasScene = false;
 };

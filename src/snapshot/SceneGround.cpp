@@ -1,11 +1,11 @@
 #include "snapshot/SceneGround.h"
 
 #include "contract/NoDataText.h"
-#include "contract/SceneFactKeys.h"
 #include "contract/ScenePlace.h"
 #include "contract/SceneTexts.h"
 #include "landscape/scene/GroundNode.h"
 #include "snapshot/DrawnExtents.h"
+#include "snapshot/SceneEarth.h"
 
 #include <QFile>
 
@@ -24,21 +24,6 @@ std::string textOf(const osg::Node &scene, const char *key)
     std::string text;
     scene.getUserValue(key, text);
     return text;
-}
-
-/// The scene's frame; nothing if the scene does not state where it lies.
-std::optional<landscape::FrameOnEarth> frameOf(const osg::Node &scene)
-{
-    const QStringList centre =
-        sceneFact(scene, contract::facts::Centre).value_or(QString()).split(QLatin1Char(' '));
-    landscape::FrameOnEarth found;
-    if (centre.size() != 2 ||
-        found.srs.importFromWkt(textOf(scene, place::System).c_str()) != OGRERR_NONE)
-        return std::nullopt;
-    found.srs.SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
-    found.frame = std::make_shared<localframe::LocalFrame>(
-        &found.srs, std::vector<contract::Place>{{centre[0].toDouble(), centre[1].toDouble()}});
-    return found;
 }
 
 /// Height of the plane under a scene that does not state one.

@@ -8,6 +8,7 @@
 #include "language/ErrorText.h"
 #include "language/ReaderText.h"
 #include "preview/VisibleDistance.h"
+#include "snapshot/SceneEarth.h"
 #include "snapshot/SceneGround.h"
 #include "snapshot/SceneNotices.h"
 #include "wizard/base/BusyWait.h"
@@ -149,7 +150,8 @@ void VltBuildingPreview::showLayer(const QString &path, const QString &project)
 void VltBuildingPreview::showScene(const vlt::snapshot::Scene &scene, const QStringList &notices)
 {
     m_ui->m_pwPreview->setCore(scene ? vlt::snapshot::coreOf(*scene) : std::nullopt);
-    m_ui->m_pwPreview->showScene(scene, vlt::snapshot::groundUnder(scene, {}));
+    m_ui->m_pwPreview->showScene(scene, vlt::snapshot::groundUnder(scene, {}),
+                                 vlt::snapshot::readingOf(scene));
     m_ui->m_pwPbExt->setEnabled(scene.valid() && m_ui->m_pwPreview->hasView());
     showMessage({});
     if (!scene)

@@ -3,6 +3,7 @@
 #include "ui_LayerPreview.h"
 
 #include "language/ErrorText.h"
+#include "snapshot/SceneEarth.h"
 #include "snapshot/SceneGround.h"
 #include "wizard/base/BusyWait.h"
 #include "wizard/base/Messages.h"
@@ -68,7 +69,8 @@ void VltLayerPreview::setDemonstration(const vlt::snapshot::Scene &scene)
 {
     m_demonstration = scene;
     if (!m_ui->m_pwPbOwn->isChecked())
-        m_ui->m_pwPreview->showScene(scene, vlt::snapshot::groundUnder(scene, {}));
+        m_ui->m_pwPreview->showScene(scene, vlt::snapshot::groundUnder(scene, {}),
+                                     vlt::snapshot::readingOf(scene));
 }
 
 void VltLayerPreview::setLayerFile(const QString &path, const QString &project)
@@ -105,7 +107,8 @@ void VltLayerPreview::chooseScene(bool ownLayer)
     m_ui->m_pwPbOwn->setChecked(isShown);
     if (!isShown && m_demonstration)
         m_ui->m_pwPreview->showScene(m_demonstration,
-                                     vlt::snapshot::groundUnder(m_demonstration, {}));
+                                     vlt::snapshot::groundUnder(m_demonstration, {}),
+                                     vlt::snapshot::readingOf(m_demonstration));
     m_ui->m_pwPreview->centerView();
 }
 
@@ -120,7 +123,8 @@ bool VltLayerPreview::showLayer()
         });
     if (read && read->ok()) {
         m_ui->m_pwPreview->showScene(read->value(),
-                                     vlt::snapshot::groundUnder(read->value(), terrain));
+                                     vlt::snapshot::groundUnder(read->value(), terrain),
+                                     vlt::snapshot::readingOf(read->value()));
         return true;
     }
     if (read)

@@ -389,8 +389,8 @@ Choose the site file to display.</translation>
         <translation>Drag to rotate, Shift and drag to move, wheel to zoom</translation>
     </message>
     <message id="MESS_TIP_3D_PREVIEW">
-        <source>Drag to rotate, Shift and drag to move, wheel to zoom. Keys: the arrows rotate and tilt, with Shift they move; + and - zoom, T shows the view from above, F the whole scene, Home the first view.</source>
-        <translation>Drag to rotate, Shift and drag to move, wheel to zoom. Keys: the arrows rotate and tilt, with Shift they move; + and - zoom, T shows the view from above, F the whole scene, Home the first view.</translation>
+        <source>Drag to rotate, Shift and drag to move, wheel to zoom. Keys: the arrows rotate and tilt, with Shift they move; + and - zoom, T shows the view from above, F the whole scene, Home the first view, N turns north up, A shows or hides scale and legend.</source>
+        <translation>Drag to rotate, Shift and drag to move, wheel to zoom. Keys: the arrows rotate and tilt, with Shift they move; + and - zoom, T shows the view from above, F the whole scene, Home the first view, N turns north up, A shows or hides scale and legend.</translation>
     </message>
     <message id="MESS_NO_3D_VIEW">
         <source>No 3D view is available on this system. The layer is complete without it.</source>

@@ -389,8 +389,8 @@ Choisissez le fichier de sites à afficher.</translation>
         <translation>Glisser pour tourner, Maj et glisser pour déplacer, molette pour zoomer</translation>
     </message>
     <message id="MESS_TIP_3D_PREVIEW">
-        <source>Drag to rotate, Shift and drag to move, wheel to zoom. Keys: the arrows rotate and tilt, with Shift they move; + and - zoom, T shows the view from above, F the whole scene, Home the first view.</source>
-        <translation>Faites glisser pour tourner, avec Maj pour déplacer ; molette pour zoomer. Touches : les flèches tournent et inclinent, avec Maj elles déplacent ; + et - zooment, T montre la vue de dessus, F toute la scène, Origine la première vue.</translation>
+        <source>Drag to rotate, Shift and drag to move, wheel to zoom. Keys: the arrows rotate and tilt, with Shift they move; + and - zoom, T shows the view from above, F the whole scene, Home the first view, N turns north up, A shows or hides scale and legend.</source>
+        <translation>Faites glisser pour tourner, avec Maj pour déplacer ; molette pour zoomer. Touches : les flèches tournent et inclinent, avec Maj elles déplacent ; + et - zooment, T montre la vue de dessus, F toute la scène, Origine la première vue, N met le nord en haut, A affiche ou masque l'échelle et la légende.</translation>
     </message>
     <message id="MESS_NO_3D_VIEW">
         <source>No 3D view is available on this system. The layer is complete without it.</source>
