@@ -27,6 +27,18 @@ namespace {
 
 using snapshot::SceneView;
 
+struct NamedView
+{
+    const char *name;
+    SceneView view;
+};
+constexpr NamedView Views[] = {{"all", SceneView::All},
+                               {"north", SceneView::North},
+                               {"top", SceneView::Top},
+                               {"symbolic", SceneView::Symbolic},
+                               {"precise", SceneView::Precise}};
+const QString ViewNames = QStringLiteral("all|north|top|symbolic|precise");
+
 /// The values of the command line.
 struct Request
 {
@@ -66,9 +78,10 @@ CommandSyntax syntax()
          QStringLiteral("WxH"), QStringLiteral("1280x960")},
         {QStringLiteral("view"),
          dico_label("MESS_OPT_VIEW",
-                    "all: everything, from the south-west (default); symbolic: the sectors of the "
-                    "site in the middle; precise: its mast and antennas."),
-         QStringLiteral("all|symbolic|precise"), QStringLiteral("all")},
+                    "all: everything, from the south-west (default); north: the same towards true "
+                    "north; top: from above, true north up; symbolic: the sectors of the site in "
+                    "the middle; precise: its mast and antennas."),
+         ViewNames, QStringLiteral("all")},
         {QStringLiteral("terrain"),
          dico_label("MESS_OPT_SHOW_TERRAIN",
                     "Terrain for the ground (default: that of the layer, else of the project). "
@@ -102,12 +115,10 @@ std::optional<QSize> sizeFrom(const QString &text)
 
 std::optional<SceneView> viewFrom(const QString &name)
 {
-    if (name == QLatin1String("all"))
-        return SceneView::All;
-    if (name == QLatin1String("symbolic"))
-        return SceneView::Symbolic;
-    if (name == QLatin1String("precise"))
-        return SceneView::Precise;
+    for (const NamedView &named : Views) {
+        if (name == QLatin1String(named.name))
+            return named.view;
+    }
     return std::nullopt;
 }
 
@@ -136,8 +147,7 @@ Result<Request> readRequest(const QCommandLineParser &parser)
     request.viewName = parser.value(QStringLiteral("view"));
     const std::optional<SceneView> view = viewFrom(request.viewName);
     if (!view)
-        return wrongValue(QStringLiteral("view"), QStringLiteral("all|symbolic|precise"),
-                          request.viewName);
+        return wrongValue(QStringLiteral("view"), ViewNames, request.viewName);
     request.view = *view;
     if (parser.isSet(QStringLiteral("terrain")))
         request.terrain = parser.value(QStringLiteral("terrain"));

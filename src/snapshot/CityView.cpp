@@ -3,7 +3,6 @@
 #include "contract/SceneFactKeys.h"
 #include "snapshot/DrawnExtents.h"
 #include "snapshot/SceneSource.h"
-#include "snapshot/Subject.h"
 
 #include <QString>
 
@@ -87,7 +86,7 @@ std::optional<qint64> buildingCount(const osg::Node &scene)
     return count ? std::optional(count->toLongLong()) : std::nullopt;
 }
 
-Result<ViewPoint> viewOfCity(osg::Node &scene, qint64 buildings, double aspect)
+Result<ViewPoint> viewOfCity(osg::Node &scene, qint64 buildings, double aspect, const Axes &axes)
 {
     const Deferred deferred = buildings > MaxMeasured ? Deferred::ByBound : Deferred::Made;
     osg::BoundingBoxd city = extentsFrom(scene, deferred, std::nullopt);
@@ -95,7 +94,7 @@ Result<ViewPoint> viewOfCity(osg::Node &scene, qint64 buildings, double aspect)
         return Error{QStringLiteral("MESS_SNAP_EMPTY"), QStringLiteral("the scene is empty"), {}};
     if (const auto core = coreOf(scene))
         city.set(core->xMin(), core->yMin(), city.zMin(), core->xMax(), core->yMax(), city.zMax());
-    const Subject subject(city, aspect, DefaultMargin, steepAxes());
+    const Subject subject(city, aspect, DefaultMargin, axes);
     constexpr double fieldStepDeg = 8;
     double field = DefaultFieldDeg;
     while (field <= MaxFieldDeg) {

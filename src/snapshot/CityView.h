@@ -1,5 +1,6 @@
 #pragma once
 
+#include "snapshot/Subject.h"
 #include "snapshot/ViewPoint.h"
 
 #include <QtGlobal>
@@ -18,6 +19,6 @@ std::optional<qint64> buildingCount(const osg::Node &scene);
 ///
 /// @param aspect  width of the picture / its height
 /// @par Errors    MESS_SNAP_EMPTY and MESS_SNAP_TOO_FAR, as in findViewPoint()
-Result<ViewPoint> viewOfCity(osg::Node &scene, qint64 buildings, double aspect);
+Result<ViewPoint> viewOfCity(osg::Node &scene, qint64 buildings, double aspect, const Axes &axes);
 
 } // namespace vlt::snapshot

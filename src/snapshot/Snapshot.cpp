@@ -1,5 +1,6 @@
 #include "snapshot/Snapshot.h"
 
+#include "landscape/scene/Colors.h"
 #include "landscape/scene/Light.h"
 #include "landscape/scene/Sky.h"
 #include "snapshot/OffscreenTarget.h"
@@ -54,7 +55,8 @@ void setUpCamera(osg::Camera &camera, const ViewPoint &point, const QSize &size)
     camera.setViewport(0, 0, size.width(), size.height());
     camera.setProjectionMatrixAsPerspective(
         point.fieldOfViewDeg, static_cast<double>(size.width()) / size.height(), 1, 1000);
-    camera.setViewMatrixAsLookAt(point.eye, point.target, osg::Z_AXIS);
+    camera.setViewMatrixAsLookAt(point.eye, point.target, point.up);
+    camera.setClearColor(landscape::colorOf(landscape::Haze)); // below the sky, without a ground
     camera.setLODScale(1);
     camera.setSmallFeatureCullingPixelSize(MinShownPx);
     camera.setNearFarRatio(NearShare); // the ground reaches far, the scene may be near

@@ -10,10 +10,12 @@ namespace {
 constexpr double NarrowestFieldDeg = 0.5;
 constexpr double MinDistanceM = 1;
 
-Axes axesFromSouthWest(double rise)
+constexpr double SteepRise = 0.65;
+
+Axes axesFrom(double x, double y, double rise)
 {
     Axes axes;
-    axes.back = osg::Vec3d(-0.55, -0.77, rise);
+    axes.back = osg::Vec3d(x, y, rise);
     axes.back.normalize();
     axes.right = osg::Vec3d(osg::Z_AXIS) ^ axes.back;
     axes.right.normalize();
@@ -25,14 +27,27 @@ Axes axesFromSouthWest(double rise)
 
 const Axes &defaultAxes()
 {
-    static const Axes axes = axesFromSouthWest(0.32);
+    static const Axes axes = axesFrom(-0.55, -0.77, 0.32);
     return axes;
 }
 
 const Axes &steepAxes()
 {
-    static const Axes axes = axesFromSouthWest(0.65);
+    static const Axes axes = axesFrom(-0.55, -0.77, SteepRise);
     return axes;
+}
+
+Axes northwardAxes(double northDeg)
+{
+    const double north = osg::DegreesToRadians(northDeg);
+    return axesFrom(-std::sin(north), -std::cos(north), SteepRise);
+}
+
+Axes downwardAxes(double northDeg)
+{
+    const double north = osg::DegreesToRadians(northDeg);
+    return {osg::Vec3d(std::cos(north), -std::sin(north), 0),
+            osg::Vec3d(std::sin(north), std::cos(north), 0), osg::Vec3d(0, 0, 1)};
 }
 
 Subject::Subject(const osg::BoundingBoxd &box, double aspect, double margin, const Axes &axes)
@@ -66,7 +81,7 @@ double Subject::fieldDeg(double distance) const
 
 ViewPoint Subject::from(double distance, double fieldDeg) const
 {
-    return {centre() + m_axes.back * distance, centre(), fieldDeg};
+    return {centre() + m_axes.back * distance, centre(), fieldDeg, m_axes.up};
 }
 
 /// Half the height in metres of a picture that just contains a point, given relative to the centre.

@@ -24,6 +24,14 @@ const Axes &defaultAxes();
 /// The axes for an eye in the south-west, so high above that streets are visible.
 const Axes &steepAxes();
 
+/// The axes for an eye in the south, as high.
+///
+/// @param northDeg  true north, in degrees clockwise from the y axis
+Axes northwardAxes(double northDeg);
+
+/// The axes for an eye straight above, with north up.
+Axes downwardAxes(double northDeg);
+
 /// A box that a picture with certain axes shows.
 class Subject
 {

@@ -2,6 +2,7 @@
 
 #include "snapshot/CityView.h"
 #include "snapshot/DrawnExtents.h"
+#include "snapshot/SceneEarth.h"
 #include "snapshot/SiteLevels.h"
 #include "snapshot/Subject.h"
 
@@ -15,18 +16,18 @@ namespace {
 constexpr double SectorsMargin = 1.25; ///< larger, to show the neighbouring sites
 constexpr double RangeMargin = 0.05;   ///< relative, to the distances where levels change
 
-Result<ViewPoint> viewOfAll(osg::Node &scene, double aspect)
+Result<ViewPoint> viewOfAll(osg::Node &scene, double aspect, const Axes &axes)
 {
     DrawnExtents everything(DrawnExtents::Deferred::ByBound);
     scene.accept(everything);
     if (!everything.extents().valid())
         return Error{QStringLiteral("MESS_SNAP_EMPTY"), QStringLiteral("the scene is empty"), {}};
     osg::BoundingBoxd box = everything.extents();
-    double distance = Subject(box, aspect).distance(DefaultFieldDeg);
+    double distance = Subject(box, aspect, DefaultMargin, axes).distance(DefaultFieldDeg);
     // At a smaller distance, other levels with other extents may be drawn.
     constexpr int attempts = 4;
     for (int attempt = 0; attempt < attempts; ++attempt) {
-        const Subject subject(box, aspect);
+        const Subject subject(box, aspect, DefaultMargin, axes);
         DrawnExtents drawn(DrawnExtents::Deferred::Made,
                            subject.from(distance, DefaultFieldDeg).eye);
         scene.accept(drawn);
@@ -36,13 +37,14 @@ Result<ViewPoint> viewOfAll(osg::Node &scene, double aspect)
                 QStringLiteral("the whole scene is only in view from beyond the apparition "
                                "distance: increase this distance or use --view symbolic"),
                 {}};
-        const double next = Subject(drawn.extents(), aspect).distance(DefaultFieldDeg);
+        const double next =
+            Subject(drawn.extents(), aspect, DefaultMargin, axes).distance(DefaultFieldDeg);
         if (next >= distance)
             break;
         box = drawn.extents();
         distance = next;
     }
-    return Subject(box, aspect).from(distance, DefaultFieldDeg);
+    return Subject(box, aspect, DefaultMargin, axes).from(distance, DefaultFieldDeg);
 }
 
 Result<ViewPoint> viewOfLevel(const osg::Vec3d &centre, const Level &level, double aspect,
@@ -64,13 +66,24 @@ Result<ViewPoint> viewOfLevel(const osg::Vec3d &centre, const Level &level, doub
     return subject.from(distance, subject.fieldDeg(distance));
 }
 
+Axes axesOf(osg::Node &scene, SceneView view, bool isCity)
+{
+    if (view == SceneView::All)
+        return isCity ? steepAxes() : defaultAxes();
+    const double northDeg = NorthAtPlace(frameOf(scene))({0, 0});
+    return view == SceneView::Top ? downwardAxes(northDeg) : northwardAxes(northDeg);
+}
+
 } // namespace
 
 Result<ViewPoint> findViewPoint(osg::Node &scene, SceneView view, double aspect)
 {
     const std::optional<qint64> buildings = buildingCount(scene);
-    if (view == SceneView::All)
-        return buildings ? viewOfCity(scene, *buildings, aspect) : viewOfAll(scene, aspect);
+    if (view != SceneView::Symbolic && view != SceneView::Precise) {
+        const Axes axes = axesOf(scene, view, buildings.has_value());
+        return buildings ? viewOfCity(scene, *buildings, aspect, axes)
+                         : viewOfAll(scene, aspect, axes);
+    }
     const std::optional<SiteLevels> site = buildings ? std::nullopt : findMiddleSite(scene);
     if (!site)
         return Error{QStringLiteral("MESS_SNAP_NO_SITES"),

@@ -9,16 +9,19 @@ namespace vlt::snapshot {
 
 enum class SceneView {
     All,      ///< everything, from the south-west, slightly above
+    North,    ///< everything, towards true north
+    Top,      ///< everything, from above, true north up
     Symbolic, ///< sectors of the middle site, at a distance at which sites are drawn as symbols
     Precise   ///< mast and antennas of the middle site, at a distance at which they are drawn
 };
 
-/// The eye and the target of a picture; the z axis points up.
+/// The eye and the target of a picture.
 struct ViewPoint
 {
     osg::Vec3d eye;
     osg::Vec3d target;
     double fieldOfViewDeg = 30; ///< vertical
+    osg::Vec3d up = {0, 0, 1};
 };
 
 /// Determines the eye for a view. The distances of levels of detail are respected: if the eye must

@@ -125,7 +125,7 @@ private Q_SLOTS:
         row("bad query", {Pylon + u"&pylon=1.inlinepylonurl"_s}, 1, "pylon");
         row("no display", {Pylon}, 1, "run under xvfb-run", true);
         row("no layer", {}, 2, "no layer");
-        row("unknown view", {Pylon, u"--view"_s, u"top"_s}, 2, "--view");
+        row("unknown view", {Pylon, u"--view"_s, u"bottom"_s}, 2, "--view");
         row("too small", size("15x100"), 2, "--size");
         row("too large", size("100x8193"), 2, "--size");
         row("overflow", size("4294967396x100"), 2, "--size");
