@@ -45,8 +45,7 @@ struct Request
     QString layer;
     QString output;
     QString viewName;
-    SceneView view = SceneView::All;
-    QSize size;
+    snapshot::PictureRequest picture;
     std::optional<QString> terrain; ///< empty: none; nothing: that of the layer or the project
     bool withGround = true;
 };
@@ -87,6 +86,13 @@ CommandSyntax syntax()
                     "Terrain for the ground (default: that of the layer, else of the project). "
                     "Without any, the ground is level and has a metric grid."),
          QStringLiteral("FILE")},
+        {QStringLiteral("title"),
+         dico_label("MESS_OPT_PICTURE_TITLE", "Title on the picture, in its upper left corner."),
+         QStringLiteral("TEXT")},
+        {QStringLiteral("north"),
+         dico_label("MESS_OPT_PICTURE_NORTH",
+                    "Draw an arrow to true north, and a scale bar that is valid in the middle of "
+                    "the picture.")},
         {QStringLiteral("no-ground"),
          dico_label("MESS_OPT_NO_GROUND", "Show no ground below the layer.")},
     };
@@ -143,12 +149,14 @@ Result<Request> readRequest(const QCommandLineParser &parser)
                               .arg(snapshot::MinSidePx)
                               .arg(snapshot::MaxSidePx),
                           parser.value(QStringLiteral("size")));
-    request.size = *size;
+    request.picture.size = *size;
     request.viewName = parser.value(QStringLiteral("view"));
     const std::optional<SceneView> view = viewFrom(request.viewName);
     if (!view)
         return wrongValue(QStringLiteral("view"), ViewNames, request.viewName);
-    request.view = *view;
+    request.picture.view = *view;
+    request.picture.aids.title = parser.value(QStringLiteral("title"));
+    request.picture.aids.withNorth = parser.isSet(QStringLiteral("north"));
     if (parser.isSet(QStringLiteral("terrain")))
         request.terrain = parser.value(QStringLiteral("terrain"));
     request.withGround = !parser.isSet(QStringLiteral("no-ground"));
@@ -182,8 +190,8 @@ bool printReport(const Request &request, const osg::Node &scene)
         {QStringLiteral("layer"),
          isParametric ? request.layer : QFileInfo(request.layer).absoluteFilePath()},
         {QStringLiteral("picture"), QFileInfo(request.output).absoluteFilePath()},
-        {QStringLiteral("width"), request.size.width()},
-        {QStringLiteral("height"), request.size.height()},
+        {QStringLiteral("width"), request.picture.size.width()},
+        {QStringLiteral("height"), request.picture.size.height()},
         {QStringLiteral("view"), request.viewName},
         {QStringLiteral("scene"), descriptionOf(scene)}};
     return printOut(QString::fromUtf8(QJsonDocument(object).toJson()));
@@ -244,8 +252,8 @@ ExitStatus makePicture(const Request &request, const GlobalOptions &options,
     std::optional<snapshot::SceneGround> ground;
     if (request.withGround)
         ground.emplace(*scene.value(), terrain, request.terrain.has_value());
-    const Result<QImage> picture = snapshot::renderSnapshot(
-        *scene.value(), request.size, request.view, ground ? &*ground : nullptr);
+    const Result<QImage> picture =
+        snapshot::renderSnapshot(*scene.value(), request.picture, ground ? &*ground : nullptr);
     if (!picture)
         return refuseLayer(picture.error(), request);
     if (ground && !ground->problem().isEmpty())

@@ -4,6 +4,7 @@
 #include "landscape/scene/Light.h"
 #include "landscape/scene/Sky.h"
 #include "snapshot/OffscreenTarget.h"
+#include "snapshot/SceneEarth.h"
 
 #include <osg/FrameBufferObject>
 #include <osgDB/DatabasePager>
@@ -75,13 +76,25 @@ void drawAll(osgViewer::Viewer &viewer)
     viewer.frame(0); // draws what the frame before has loaded
 }
 
+void addAids(QImage &picture, const readingaids::PictureAids &aids, const osg::Node &scene,
+             const ViewPoint &point)
+{
+    const auto vector = [](const osg::Vec3d &from) {
+        return readingaids::Vector{from.x(), from.y(), from.z()};
+    };
+    readingaids::drawAids(
+        picture, aids,
+        {vector(point.eye), vector(point.target), vector(point.up), point.fieldOfViewDeg},
+        NorthAtPlace(frameOf(scene))({point.target.x(), point.target.y()}));
+}
+
 } // namespace
 
-Result<QImage> renderSnapshot(osg::Node &scene, const QSize &size, SceneView view,
-                              SceneGround *ground)
+Result<QImage> renderSnapshot(osg::Node &scene, const PictureRequest &request, SceneGround *ground)
 {
+    const QSize &size = request.size;
     const Result<ViewPoint> point =
-        findViewPoint(scene, view, static_cast<double>(size.width()) / size.height());
+        findViewPoint(scene, request.view, static_cast<double>(size.width()) / size.height());
     if (!point)
         return point.error();
 
@@ -121,6 +134,8 @@ Result<QImage> renderSnapshot(osg::Node &scene, const QSize &size, SceneView vie
     root->removeChildren(0, root->getNumChildren());
     if (picture.isNull())
         return noRoom;
+    if (!request.aids.isEmpty())
+        addAids(picture, request.aids, scene, point.value());
     return picture;
 }
 

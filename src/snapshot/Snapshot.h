@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Result.h"
+#include "readingaids/PictureAids.h"
 #include "snapshot/SceneGround.h"
 #include "snapshot/ViewPoint.h"
 
@@ -15,15 +16,21 @@ namespace vlt::snapshot {
 inline constexpr int MinSidePx = 16;
 inline constexpr int MaxSidePx = 8192;
 
+/// A picture to draw.
+struct PictureRequest
+{
+    QSize size; ///< width and height in pixels, both MinSidePx .. MaxSidePx
+    SceneView view = SceneView::All;
+    readingaids::PictureAids aids; ///< drawing them needs a QGuiApplication
+};
+
 /// Draws a scene off screen, under a sky. Levels of detail are chosen by their real distances from
 /// the eye.
 ///
-/// @param scene  x east, y north, z up, metres
-/// @param size   width and height in pixels, both MinSidePx .. MaxSidePx
+/// @param scene   x east, y north, z up, metres
 /// @param ground  under the scene; null: none
 /// @par Errors   MESS_SNAP_NO_DISPLAY without an X server that can draw, MESS_SNAP_NO_ROOM for a
 ///               picture too large for its memory; those of findViewPoint().
-Result<QImage> renderSnapshot(osg::Node &scene, const QSize &size, SceneView view,
-                              SceneGround *ground);
+Result<QImage> renderSnapshot(osg::Node &scene, const PictureRequest &request, SceneGround *ground);
 
 } // namespace vlt::snapshot

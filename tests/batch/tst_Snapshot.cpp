@@ -98,6 +98,21 @@ private Q_SLOTS:
         QCOMPARE(pictures.size(), 2); // all of a single site is its precise view
     }
 
+    void drawsTitleAndNorthAtTheEdges()
+    {
+        const QString with = path(u"with.png"_s);
+        QCOMPARE(start({Pylon, u"-o"_s, path(u"old.png"_s)}).status, 0);
+        QCOMPARE(start({Pylon, u"-o"_s, with, u"--title"_s, u"A mast"_s, u"--north"_s}).errors, "");
+
+        const QImage picture(with);
+        const QImage other(path(u"old.png"_s));
+        QVERIFY(picture.copy(320, 240, 640, 480) == other.copy(320, 240, 640, 480));
+        for (const QPoint &corner : {QPoint(0, 0), QPoint(960, 0), QPoint(0, 720)}) {
+            const QRect part(corner, QSize(320, 240));
+            QVERIFY(picture.copy(part) != other.copy(part));
+        }
+    }
+
     void makesTheSamePictureTwice()
     {
         const QString again = path(u"again.png"_s);

@@ -563,6 +563,14 @@
         <source>Terrain for the ground (default: that of the layer, else of the project). Without any, the ground is level and has a metric grid.</source>
         <translation>Terrain for the ground (default: that of the layer, else of the project). Without any, the ground is level and has a metric grid.</translation>
     </message>
+    <message id="MESS_OPT_PICTURE_TITLE">
+        <source>Title on the picture, in its upper left corner.</source>
+        <translation>Title on the picture, in its upper left corner.</translation>
+    </message>
+    <message id="MESS_OPT_PICTURE_NORTH">
+        <source>Draw an arrow to true north, and a scale bar that is valid in the middle of the picture.</source>
+        <translation>Draw an arrow to true north, and a scale bar that is valid in the middle of the picture.</translation>
+    </message>
     <message id="MESS_OPT_NO_GROUND">
         <source>Show no ground below the layer.</source>
         <translation>Show no ground below the layer.</translation>

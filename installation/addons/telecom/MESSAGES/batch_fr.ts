@@ -563,6 +563,14 @@
         <source>Terrain for the ground (default: that of the layer, else of the project). Without any, the ground is level and has a metric grid.</source>
         <translation>Terrain du sol (par défaut : celui de la couche, sinon celui du projet). Sans terrain, le sol est plat et porte une grille métrique.</translation>
     </message>
+    <message id="MESS_OPT_PICTURE_TITLE">
+        <source>Title on the picture, in its upper left corner.</source>
+        <translation>Titre sur l'image, dans son coin supérieur gauche.</translation>
+    </message>
+    <message id="MESS_OPT_PICTURE_NORTH">
+        <source>Draw an arrow to true north, and a scale bar that is valid in the middle of the picture.</source>
+        <translation>Tracer une flèche vers le nord géographique et une barre d'échelle valable au milieu de l'image.</translation>
+    </message>
     <message id="MESS_OPT_NO_GROUND">
         <source>Show no ground below the layer.</source>
         <translation>Ne montrer aucun sol sous la couche.</translation>
