@@ -1,22 +1,14 @@
 #pragma once
 
 #include "contract/Opened.h"
-#include "landscape/Lattice.h"
+#include "landscape/RasterPlaces.h"
 #include "linkpath/TerrainRaster.h"
-#include "localframe/LocalFrame.h"
 
 #include <memory>
 #include <optional>
 #include <string>
 
 namespace vlt::landscape {
-
-/// Where a scene lies on the earth.
-struct FrameOnEarth
-{
-    std::shared_ptr<const localframe::LocalFrame> frame;
-    OGRSpatialReference srs; ///< of the frame, x before y
-};
 
 /// The terrain file under a scene. Not for two threads at once.
 class Terrain
@@ -33,14 +25,10 @@ public:
     Lattice heights(const Square &square, int cells);
 
 private:
-    Terrain(std::unique_ptr<linkpath::TerrainRaster> raster, FrameOnEarth place,
-            std::unique_ptr<OGRCoordinateTransformation> toRaster);
-
-    Place inRaster(const Place &inFrame) const; ///< NaN where there is none
+    Terrain(std::unique_ptr<linkpath::TerrainRaster> raster, IntoRaster intoRaster);
 
     std::unique_ptr<linkpath::TerrainRaster> m_raster;
-    FrameOnEarth m_place;
-    std::unique_ptr<OGRCoordinateTransformation> m_toRaster; ///< null: the same system
+    IntoRaster m_intoRaster;
 };
 
 } // namespace vlt::landscape
