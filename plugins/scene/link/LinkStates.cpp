@@ -6,6 +6,8 @@
 #include <osg/LineWidth>
 #include <osg/Program>
 
+#include <string>
+
 namespace vlt::scene {
 
 namespace {
@@ -70,53 +72,42 @@ void main()
 }
 )";
 
-// The colours of an ellipsoid: `bend` has the place across it, and the sine of the angle between
-// its axis and the view.
-constexpr const char *RoundStripFragments = R"(#version 120
-varying vec2 bend;
-void main()
-{
-    float facing = bend.y * sqrt(max(0.0, 1.0 - bend.x * bend.x));
-    gl_FragColor = vec4(gl_Color.rgb * (0.55 + 0.45 * facing), gl_Color.a);
-}
-)";
+/// What the vertex shader states about the angle between a surface and the view.
+enum class Facing { Normal, Bend };
 
-constexpr const char *ShellStripFragments = R"(#version 120
-varying vec2 bend;
-void main()
+/// The fragment shader of a surface that is darkest where the view is along it. An opaque surface
+/// is shaded as round without lights, never so dark that its colour differs from the legend. The
+/// opacity is the same in all directions, also along the link; the rim is slightly darker.
+std::string shading(Facing facing, Opacity opacity)
 {
-    float facing = bend.y * sqrt(max(0.0, 1.0 - bend.x * bend.x));
-    gl_FragColor = vec4(gl_Color.rgb * (0.75 + 0.25 * facing), gl_Color.a);
+    std::string text = "#version 120\n";
+    // `bend` has the place across an ellipsoid, and the sine of the angle between its axis and the
+    // view.
+    text += facing == Facing::Bend ? "varying vec2 bend;\n"
+                                     "float facing()\n"
+                                     "{\n"
+                                     "    return bend.y * sqrt(max(0.0, 1.0 - bend.x * bend.x));\n"
+                                     "}\n"
+                                   : "varying vec3 normal;\n"
+                                     "varying vec3 look;\n"
+                                     "float facing()\n"
+                                     "{\n"
+                                     "    return abs(dot(normalize(normal), normalize(look)));\n"
+                                     "}\n";
+    text += opacity == Opacity::Opaque ? "const float darkest = 0.55;\n"
+                                       : "const float darkest = 0.75;\n";
+    return text + "void main()\n"
+                  "{\n"
+                  "    float light = mix(darkest, 1.0, facing());\n"
+                  "    gl_FragColor = vec4(gl_Color.rgb * light, gl_Color.a);\n"
+                  "}\n";
 }
-)";
 
-// Shades a tube as round without lights, and never so dark that its colour differs from the legend.
-constexpr const char *RoundFragments = R"(#version 120
-varying vec3 normal;
-varying vec3 look;
-void main()
-{
-    float facing = abs(dot(normalize(normal), normalize(look)));
-    gl_FragColor = vec4(gl_Color.rgb * (0.55 + 0.45 * facing), gl_Color.a);
-}
-)";
-
-// The opacity is the same in all directions, also along the link; the rim is slightly darker.
-constexpr const char *ShellFragments = R"(#version 120
-varying vec3 normal;
-varying vec3 look;
-void main()
-{
-    float facing = abs(dot(normalize(normal), normalize(look)));
-    gl_FragColor = vec4(gl_Color.rgb * (0.75 + 0.25 * facing), gl_Color.a);
-}
-)";
-
-osg::ref_ptr<osg::Program> makeProgram(const char *vertices, const char *fragments)
+osg::ref_ptr<osg::Program> makeProgram(const char *vertices, const std::string &fragments = {})
 {
     osg::ref_ptr<osg::Program> program = new osg::Program;
     program->addShader(new osg::Shader(osg::Shader::VERTEX, vertices));
-    if (fragments)
+    if (!fragments.empty())
         program->addShader(new osg::Shader(osg::Shader::FRAGMENT, fragments));
     return program;
 }
@@ -167,11 +158,12 @@ osg::ref_ptr<osg::StateSet> makeLineState(const LinkAppearance &appearance, Opac
         break;
     case LinkStyle::Tube:
         state->setAttributeAndModes(new osg::CullFace(osg::CullFace::BACK));
-        state->setAttributeAndModes(makeProgram(FacingVertices, RoundFragments));
+        state->setAttributeAndModes(
+            makeProgram(FacingVertices, shading(Facing::Normal, Opacity::Opaque)));
         break;
     case LinkStyle::Billboard:
         state->setMode(GL_CULL_FACE, osg::StateAttribute::OFF);
-        state->setAttributeAndModes(makeProgram(BandVertices, nullptr));
+        state->setAttributeAndModes(makeProgram(BandVertices));
         break;
     }
     if (opacity == Opacity::Translucent)
@@ -190,16 +182,12 @@ osg::ref_ptr<osg::StateSet> makeHairlineState()
 
 osg::ref_ptr<osg::StateSet> makeEllipsoidState(Opacity opacity)
 {
-    const bool isOpaque = opacity == Opacity::Opaque;
-    return makeZoneState(opacity,
-                         makeProgram(FacingVertices, isOpaque ? RoundFragments : ShellFragments));
+    return makeZoneState(opacity, makeProgram(FacingVertices, shading(Facing::Normal, opacity)));
 }
 
 osg::ref_ptr<osg::StateSet> makeStripState(Opacity opacity)
 {
-    const bool isOpaque = opacity == Opacity::Opaque;
-    return makeZoneState(
-        opacity, makeProgram(StripVertices, isOpaque ? RoundStripFragments : ShellStripFragments));
+    return makeZoneState(opacity, makeProgram(StripVertices, shading(Facing::Bend, opacity)));
 }
 
 } // namespace vlt::scene
