@@ -7,24 +7,20 @@
 
 #include <cpl_string.h>
 
-#include <vector>
-
 namespace vlt::geodata {
 
 namespace {
 
-/// Only geometries are needed, so a driver may leave out the attributes.
+/// Only geometries are needed, so a driver may leave out the attributes. The fields are marked one
+/// by one, because SetIgnoredFields() compares each name with all fields, and a table may have
+/// thousands.
 void ignoreAttributes(OGRLayer &layer)
 {
     if (!layer.TestCapability(OLCIgnoreFields))
         return;
-    const OGRFeatureDefn *definition = layer.GetLayerDefn();
-    std::vector<const char *> names;
-    names.reserve(static_cast<std::size_t>(definition->GetFieldCount()) + 1);
+    OGRFeatureDefn *definition = layer.GetLayerDefn();
     for (int i = 0; i < definition->GetFieldCount(); ++i)
-        names.push_back(definition->GetFieldDefn(i)->GetNameRef());
-    names.push_back(nullptr);
-    layer.SetIgnoredFields(names.data());
+        definition->GetFieldDefn(i)->SetIgnored(TRUE);
 }
 
 } // namespace

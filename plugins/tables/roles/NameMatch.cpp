@@ -27,7 +27,8 @@ bool isNumber(const std::string &word)
 bool separate(const std::string &word, const Vocabulary &vocabulary, int depth,
               std::vector<std::string> &parts)
 {
-    for (std::size_t cut = word.size() - 1; cut >= 2; --cut) {
+    for (std::size_t cut = std::min(word.size() - 1, vocabulary.longestTogether()); cut >= 2;
+         --cut) {
         const std::string before = word.substr(0, cut);
         const WordMeaning *first = vocabulary.find(before);
         if (!first || !(first->roles.any() || first->isSite || first->isSector || first->isEndA ||

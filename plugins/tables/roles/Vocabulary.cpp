@@ -162,7 +162,9 @@ void Vocabulary::addPhrase(const std::string &phrase, Change change)
     const std::vector<std::string> words = nameWords(phrase);
     if (words.empty())
         return;
-    change(m_phrases[joined(words)]);
+    const std::string together = joined(words);
+    change(m_phrases[together]);
+    m_longestTogether = std::max(m_longestTogether, together.size());
     m_longestPhrase = std::max(m_longestPhrase, words.size());
 }
 
@@ -307,6 +309,8 @@ void Vocabulary::add(std::string_view text)
 
 const WordMeaning *Vocabulary::find(std::string_view joinedWords) const
 {
+    if (joinedWords.size() > m_longestTogether) // a text of a cell may be long
+        return nullptr;
     const auto found = m_phrases.find(std::string(joinedWords));
     return found == m_phrases.end() ? nullptr : &found->second;
 }

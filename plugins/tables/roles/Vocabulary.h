@@ -115,6 +115,8 @@ public:
 
     /// The meaning of folded words written together, such as "siteid"; null for unknown words.
     const WordMeaning *find(std::string_view joinedWords) const;
+    /// Maximum size of the words that find() knows, in bytes.
+    std::size_t longestTogether() const { return m_longestTogether; }
     /// Maximum number of words of a phrase.
     std::size_t longestPhrase() const { return m_longestPhrase; }
     /// Whether a word may stand beside the number of a sector.
@@ -174,6 +176,7 @@ private:
     void addWordsOfValues(const nlohmann::json &root);
 
     Phrases m_phrases;
+    std::size_t m_longestTogether = 0; ///< bytes of a phrase without its blanks
     std::vector<KnownTable> m_knownTables;
     std::map<Role, std::unordered_set<std::string>> m_forbidden;
     ValueWordSet m_missing;
