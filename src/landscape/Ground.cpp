@@ -17,6 +17,36 @@ bool isKnown(const Lattice &lattice)
                        [](float height) { return !std::isnan(height); });
 }
 
+/// The heights at fewer points, averaged over the cells around each.
+Lattice reduced(const Lattice &fine, int cells)
+{
+    Lattice coarse{fine.square, cells, fine.resolutionM, {}};
+    const double step = static_cast<double>(fine.cells) / cells;
+    const auto first = [&](int at) {
+        return std::max(static_cast<int>(std::ceil((at - 0.5) * step)), 0);
+    };
+    const auto last = [&](int at) {
+        return std::min(static_cast<int>(std::floor((at + 0.5) * step)), fine.cells);
+    };
+    for (int row = 0; row <= cells; ++row) {
+        for (int column = 0; column <= cells; ++column) {
+            double sum = 0;
+            int known = 0;
+            for (int r = first(row); r <= last(row); ++r) {
+                for (int c = first(column); c <= last(column); ++c) {
+                    const float height = fine.heightM[fine.index(c, r)];
+                    if (std::isnan(height))
+                        continue;
+                    sum += double{height};
+                    ++known;
+                }
+            }
+            coarse.heightM.push_back(known ? static_cast<float>(sum / known) : NAN);
+        }
+    }
+    return coarse;
+}
+
 /// Puts the edge of a level on the cells of the next one.
 void joinEdges(Lattice &inner, Lattice &outer)
 {
@@ -51,20 +81,20 @@ double outerHalfM(const Square &finest)
 
 std::vector<GroundLevel> makeGround(Terrain &terrain, const Square &finest)
 {
+    std::vector<Lattice> fine;
     std::vector<Lattice> meshes;
-    meshes.reserve(Levels);
-    for (int level = 0; level < Levels; ++level)
-        meshes.push_back(
-            terrain.heights({finest.centre, finest.halfM * std::pow(Ratio, level)}, MeshCells));
+    for (int level = 0; level < Levels; ++level) {
+        fine.push_back(
+            terrain.heights({finest.centre, finest.halfM * std::pow(Ratio, level)}, PicturePx));
+        meshes.push_back(reduced(fine.back(), MeshCells));
+    }
     if (!isKnown(meshes.back()))
         return {};
     const HeightRange range = rangeOf(meshes);
     const double fogM = outerHalfM(finest);
     std::vector<GroundLevel> levels;
-    for (const Lattice &mesh : meshes) {
-        const Lattice fine = terrain.heights(mesh.square, PicturePx);
-        levels.push_back({mesh, PicturePx, reliefPicture(fine, mesh, range, fogM)});
-    }
+    for (std::size_t i = 0; i < meshes.size(); ++i)
+        levels.push_back({meshes[i], PicturePx, reliefPicture(fine[i], meshes[i], range, fogM)});
     for (std::size_t level = levels.size(); level-- > 0;) {
         Lattice &mesh = levels[level].mesh;
         if (!isKnown(mesh)) // the level around it has heights

@@ -4,6 +4,7 @@
 #include "localfiles/LocalFormats.h"
 #include "localfiles/NoNetwork.h"
 #include "localfiles/OpenLocal.h"
+#include "localfiles/ReducedRead.h"
 
 #include <cpl_error.h>
 
@@ -20,6 +21,8 @@ namespace {
 constexpr int BlockSide = 256;
 constexpr std::size_t MaxBlocks = 256;     ///< 128 MiB
 constexpr double MaxBlockPixels = 1 << 27; ///< of a block of the file, which is read whole
+constexpr double MaxReadPixels =
+    4e6; ///< of the file, for a part that the copy in memory could give
 constexpr double MetresPerDegree = 111320;
 constexpr double MetresPerFoot = 0.3048;
 constexpr double MetresPerSurveyFoot = 1200.0 / 3937;
@@ -150,54 +153,113 @@ bool TerrainRaster::isHeight(double stored) const
            stored != m_alsoNoData;
 }
 
-TerrainExcerpt TerrainRaster::excerpt(double west, double south, double east, double north,
-                                      double pixelSize)
+std::optional<TerrainRaster::Window> TerrainRaster::windowOf(double west, double south, double east,
+                                                             double north) const
 {
-    double left = HUGE_VAL;
-    double top = HUGE_VAL;
-    double right = -HUGE_VAL;
-    double bottom = -HUGE_VAL;
+    Window window{HUGE_VAL, HUGE_VAL, -HUGE_VAL, -HUGE_VAL};
     for (const auto &[x, y] : {std::pair(west, south), std::pair(west, north),
                                std::pair(east, south), std::pair(east, north)}) {
         const double column = m_toPixel[0] + m_toPixel[1] * x + m_toPixel[2] * y;
         const double row = m_toPixel[3] + m_toPixel[4] * x + m_toPixel[5] * y;
-        left = std::min(left, std::floor(column) - 1);
-        right = std::max(right, std::ceil(column) + 1);
-        top = std::min(top, std::floor(row) - 1);
-        bottom = std::max(bottom, std::ceil(row) + 1);
+        window.left = std::min(window.left, std::floor(column) - 1);
+        window.right = std::max(window.right, std::ceil(column) + 1);
+        window.top = std::min(window.top, std::floor(row) - 1);
+        window.bottom = std::max(window.bottom, std::ceil(row) + 1);
     }
-    left = std::max(left, 0.0);
-    top = std::max(top, 0.0);
-    right = std::min<double>(right, m_band->GetXSize());
-    bottom = std::min<double>(bottom, m_band->GetYSize());
-    if (!(right > left && bottom > top))
-        return {};
-    const double step = std::hypot(m_toPixel[1], m_toPixel[4]) * pixelSize; // in pixels of the file
-    const auto number = [step](double pixels) {
-        return static_cast<int>(
-            std::clamp(std::ceil(pixels / std::max(step, 1.0)), 1.0, double(MaxExcerptPixels)));
-    };
-    const int columns = number(right - left);
-    const int rows = number(bottom - top);
-    std::vector<float> heights(static_cast<std::size_t>(columns) * static_cast<std::size_t>(rows));
-    GDALRasterIOExtraArg how;
-    INIT_RASTERIO_EXTRA_ARG(how);
+    window.left = std::max(window.left, 0.0);
+    window.top = std::max(window.top, 0.0);
+    window.right = std::min<double>(window.right, m_band->GetXSize());
+    window.bottom = std::min<double>(window.bottom, m_band->GetYSize());
+    if (!(window.right > window.left && window.bottom > window.top))
+        return std::nullopt;
+    return window;
+}
+
+GDALRIOResampleAlg TerrainRaster::reductionKind() const
+{
     // an average would mix heights with a value that the file does not declare as no data
-    how.eResampleAlg = m_alsoNoData ? GRIORA_NearestNeighbour : GRIORA_Average;
-    const CPLErrorHandlerPusher quiet(CPLQuietErrorHandler);
-    const localfiles::NoNetwork offline;
-    if (m_band->RasterIO(GF_Read, static_cast<int>(left), static_cast<int>(top),
-                         static_cast<int>(right - left), static_cast<int>(bottom - top),
-                         heights.data(), columns, rows, GDT_Float32, 0, 0, &how) != CE_None)
+    return m_alsoNoData ? GRIORA_NearestNeighbour : GRIORA_Average;
+}
+
+/// The copy in memory if the part would need many pixels of the file, and the copy has enough.
+///
+/// @param step  wanted pixel size, in pixels of the file
+TerrainRaster::Source TerrainRaster::sourceFor(const Window &window, double step)
+{
+    const int columns = m_band->GetXSize();
+    const int rows = m_band->GetYSize();
+    const double factor = static_cast<double>(std::max(columns, rows)) / MaxExcerptPixels;
+    const auto width = static_cast<int>(window.right - window.left);
+    const auto height = static_cast<int>(window.bottom - window.top);
+    const auto reduced = [step](int pixels) { return static_cast<int>(std::ceil(pixels / step)); };
+    const bool isSmall = factor <= 1 || step < factor ||
+                         localfiles::pixelsToRead(*m_dataset, {0, 0, width, height, reduced(width),
+                                                               reduced(height)}) < MaxReadPixels;
+    if (!isSmall && !m_smallCopy)
+        makeSmallCopy(static_cast<int>(std::ceil(columns / factor)),
+                      static_cast<int>(std::ceil(rows / factor)));
+    if (isSmall || !m_smallCopy)
+        return {m_dataset.get(), 1, 1};
+    return {m_smallCopy.get(), static_cast<double>(columns) / m_smallCopy->GetRasterXSize(),
+            static_cast<double>(rows) / m_smallCopy->GetRasterYSize()};
+}
+
+void TerrainRaster::makeSmallCopy(int columns, int rows)
+{
+    GDALDriver *memory = GetGDALDriverManager()->GetDriverByName("MEM");
+    std::vector<float> heights;
+    if (!memory ||
+        !localfiles::readReduced(*m_dataset, {1},
+                                 {0, 0, m_band->GetXSize(), m_band->GetYSize(), columns, rows},
+                                 reductionKind(), heights))
+        return;
+    m_smallCopy.reset(memory->Create("", columns, rows, 1, GDT_Float32, nullptr));
+    if (!m_smallCopy)
+        return;
+    GDALRasterBand &band = *m_smallCopy->GetRasterBand(1);
+    if (m_noData)
+        band.SetNoDataValue(*m_noData);
+    if (band.RasterIO(GF_Write, 0, 0, columns, rows, heights.data(), columns, rows, GDT_Float32, 0,
+                      0, nullptr) != CE_None)
+        m_smallCopy.reset();
+}
+
+TerrainExcerpt TerrainRaster::excerpt(double west, double south, double east, double north,
+                                      double pixelSize)
+{
+    const std::optional<Window> window = windowOf(west, south, east, north);
+    if (!window)
         return {};
-    m_band->FlushCache(false); // a large terrain would fill the library's cache
+    const double step = std::max(std::hypot(m_toPixel[1], m_toPixel[4]) * pixelSize, 1.0);
+    const Source source = sourceFor(*window, step);
+    const double left = std::floor(window->left / source.across);
+    const double top = std::floor(window->top / source.down);
+    const double right =
+        std::min<double>(std::ceil(window->right / source.across), source.file->GetRasterXSize());
+    const double bottom =
+        std::min<double>(std::ceil(window->bottom / source.down), source.file->GetRasterYSize());
+    const auto number = [](double pixels) {
+        return static_cast<int>(std::clamp(std::ceil(pixels), 1.0, double(MaxExcerptPixels)));
+    };
+    const int columns = number((right - left) * source.across / step);
+    const int rows = number((bottom - top) * source.down / step);
+    std::vector<float> heights;
+    if (!localfiles::readReduced(*source.file, {1},
+                                 {static_cast<int>(left), static_cast<int>(top),
+                                  static_cast<int>(right - left), static_cast<int>(bottom - top),
+                                  columns, rows},
+                                 reductionKind(), heights))
+        return {};
     for (float &height : heights)
         height = isHeight(asStored(height)) ? static_cast<float>(height * m_scale + m_offset)
                                             : std::numeric_limits<float>::quiet_NaN();
     const double across = columns / (right - left);
     const double down = rows / (bottom - top);
-    return {{(m_toPixel[0] - left) * across, m_toPixel[1] * across, m_toPixel[2] * across,
-             (m_toPixel[3] - top) * down, m_toPixel[4] * down, m_toPixel[5] * down},
+    const double toColumn = across / source.across;
+    const double toRow = down / source.down;
+    return {{m_toPixel[0] * toColumn - left * across, m_toPixel[1] * toColumn,
+             m_toPixel[2] * toColumn, m_toPixel[3] * toRow - top * down, m_toPixel[4] * toRow,
+             m_toPixel[5] * toRow},
             columns,
             rows,
             std::move(heights)};

@@ -65,14 +65,32 @@ private:
         double row;
     };
 
+    /// A rectangle of the file, in its pixels; not empty.
+    struct Window
+    {
+        double left, top, right, bottom;
+    };
+
+    /// The file, or the copy of it in memory: how many pixels of the file are one of its.
+    struct Source
+    {
+        GDALDataset *file;
+        double across, down;
+    };
+
     explicit TerrainRaster(GDALDatasetUniquePtr dataset) : m_dataset(std::move(dataset)) {}
     const char *prepare(const TerrainHints &hints); ///< the reason of a refusal, else null
     double asStored(double value) const;            ///< rounded to the band's data type
     std::optional<double> pixelM(int column, int row);
     bool isHeight(double stored) const;
     std::optional<Pixel> pixelAt(double x, double y) const; ///< nothing outside the raster
+    std::optional<Window> windowOf(double west, double south, double east, double north) const;
+    GDALRIOResampleAlg reductionKind() const;
+    Source sourceFor(const Window &window, double step);
+    void makeSmallCopy(int columns, int rows);
 
     GDALDatasetUniquePtr m_dataset;
+    GDALDatasetUniquePtr m_smallCopy; ///< in memory; null as long as it is not needed
     GDALRasterBand *m_band = nullptr;
     OGRSpatialReference m_srs;
     double m_toPixel[6] = {};

@@ -1,5 +1,6 @@
 #include "landscape/Ground.h"
 #include "landscape/Relief.h"
+#include "localfiles/ReducedRead.h"
 #include "support/Cases.h"
 #include "support/GeoTiff.h"
 
@@ -21,6 +22,45 @@ double slopeM(double east, double north)
 {
     return 100 + east / 50 + north / 100;
 }
+
+/// A raster of any size without a file, which records what is read of it.
+class MadeUpRaster : public GDALDataset
+{
+public:
+    MadeUpRaster(int side, int blockWidth, int blockHeight)
+    {
+        nRasterXSize = side;
+        nRasterYSize = side;
+        SetBand(1, new Band(*this, blockWidth, blockHeight));
+    }
+
+    GIntBig maxCached = 0; ///< bytes in the library's cache
+    int blocksRead = 0;
+
+private:
+    class Band : public GDALRasterBand
+    {
+    public:
+        Band(MadeUpRaster &raster, int blockWidth, int blockHeight) : m_raster(raster)
+        {
+            nBlockXSize = blockWidth;
+            nBlockYSize = blockHeight;
+            eDataType = GDT_Float32;
+        }
+        CPLErr IReadBlock(int column, int row, void *data) override
+        {
+            m_raster.maxCached = std::max(m_raster.maxCached, GDALGetCacheUsed64());
+            ++m_raster.blocksRead;
+            for (int i = 0; i < nBlockXSize * nBlockYSize; ++i)
+                static_cast<float *>(data)[i] = float(column * nBlockXSize + i % nBlockXSize) +
+                                                float(row * nBlockYSize + i / nBlockXSize) / 2;
+            return CE_None;
+        }
+
+    private:
+        MadeUpRaster &m_raster;
+    };
+};
 
 } // namespace
 
@@ -58,6 +98,7 @@ private Q_SLOTS:
         const auto asItIs = [](GDALDataset &) {};
         make("slope.tif", 20, 1000, slopeM, asItIs);
         make("small.tif", 20, 100, slopeM, asItIs);
+        make("large.tif", 5, 2600, slopeM, asItIs);
         make(
             "feet.tif", 20, 1000,
             [](double east, double north) { return slopeM(east, north) / 0.3048; },
@@ -85,6 +126,7 @@ private Q_SLOTS:
         row("finer than the terrain", u"slope.tif"_s, NAN, 500, 200, 1);
         row("its resolution", u"slope.tif"_s, NAN, 2000, 200, 1);
         row("coarser", u"slope.tif"_s, NAN, 9000, 60, 1);
+        row("of a large file", u"large.tif"_s, NAN, 6000, 1024, 1);
         row("beyond its edges", u"small.tif"_s, NAN, 2000, 100, 0.25);
         row("feet", u"feet.tif"_s, NAN, 2000, 200, 1);
         // 4 km wide, without a disc of 1 km: 1 - pi / 16
@@ -124,6 +166,35 @@ private Q_SLOTS:
         if (known == 1)
             QVERIFY(std::abs(lattice.heightM[lattice.index(cells / 2, cells / 2)] -
                              slopeM(300, 200)) < 1);
+    }
+
+    void readsInBoundedMemory_data()
+    {
+        const Cases<int, int> row({"blockWidth", "blockHeight"});
+        row("rows", 6000, 1);
+        row("strips", 6000, 64);
+        row("tiles", 256, 256);
+    }
+
+    void readsInBoundedMemory()
+    {
+        QFETCH(int, blockWidth);
+        QFETCH(int, blockHeight);
+        constexpr int Side = 6000; // 144 MB
+        MadeUpRaster raster(Side, blockWidth, blockHeight);
+        std::vector<float> values;
+        QVERIFY(vlt::localfiles::readReduced(raster, {1}, {0, 0, Side, Side, 500, 500},
+                                             GRIORA_Average, values));
+
+        const GIntBig limit = 50'000'000;
+        QVERIFY2(raster.maxCached < limit, QByteArray::number(raster.maxCached));
+        QVERIFY(GDALGetCacheUsed64() < 1'000'000);
+        const int blocks = int(std::ceil(double(Side) / blockWidth)) * (Side / blockHeight);
+        QVERIFY2(raster.blocksRead < 1.6 * blocks, QByteArray::number(raster.blocksRead));
+        for (const int at : {0, 77, 250, 499}) { // a pixel of 12 x 12, counted from its middle
+            const double expected = (at * 12 + 5.5) + (at * 12 + 5.5) / 2;
+            QVERIFY(std::abs(values[std::size_t(at) * 500 + std::size_t(at)] - expected) < 0.1);
+        }
     }
 
     void makesLevelsWithoutGaps()
