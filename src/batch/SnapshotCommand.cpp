@@ -47,6 +47,7 @@ struct Request
     QString viewName;
     snapshot::PictureRequest picture;
     std::optional<QString> terrain; ///< empty: none; nothing: that of the layer or the project
+    QString imagery;                ///< empty: none
     bool withGround = true;
 };
 
@@ -93,6 +94,11 @@ CommandSyntax syntax()
          dico_label("MESS_OPT_PICTURE_NORTH",
                     "Draw an arrow to true north, and a scale bar that is valid in the middle of "
                     "the picture.")},
+        {QStringLiteral("imagery"),
+         dico_label("MESS_OPT_IMAGERY",
+                    "Image to lay over the ground: any local raster with a georeference, in "
+                    "colors, gray or with a palette."),
+         QStringLiteral("FILE")},
         {QStringLiteral("no-ground"),
          dico_label("MESS_OPT_NO_GROUND", "Show no ground below the layer.")},
     };
@@ -159,6 +165,7 @@ Result<Request> readRequest(const QCommandLineParser &parser)
     request.picture.aids.withNorth = parser.isSet(QStringLiteral("north"));
     if (parser.isSet(QStringLiteral("terrain")))
         request.terrain = parser.value(QStringLiteral("terrain"));
+    request.imagery = parser.value(QStringLiteral("imagery"));
     request.withGround = !parser.isSet(QStringLiteral("no-ground"));
     return request;
 }
@@ -252,12 +259,14 @@ ExitStatus makePicture(const Request &request, const GlobalOptions &options,
     std::optional<snapshot::SceneGround> ground;
     if (request.withGround)
         ground.emplace(*scene.value(), terrain, request.terrain.has_value());
+    if (ground && !request.imagery.isEmpty())
+        ground->drape(request.imagery);
     const Result<QImage> picture =
         snapshot::renderSnapshot(*scene.value(), request.picture, ground ? &*ground : nullptr);
     if (!picture)
         return refuseLayer(picture.error(), request);
-    if (ground && !ground->problem().isEmpty())
-        printNotices({ground->problem()}, options);
+    if (ground)
+        printNotices(ground->problems(), options);
 
     QByteArray bytes;
     QBuffer buffer(&bytes);
@@ -283,7 +292,7 @@ ExitStatus run(const QCommandLineParser &parser, const GlobalOptions &options)
     if (!surroundings)
         return refuse(surroundings.error());
     const QString output = request.value().output;
-    if (isOneOf(output, {request.value().layer, options.projectPath}))
+    if (isOneOf(output, {request.value().layer, options.projectPath, request.value().imagery}))
         return refuse(outputIsInput(output));
     if (isTable(request.value().layer))
         return refuse({QStringLiteral("MESS_CLI_TABLE_NO_SCENE"),

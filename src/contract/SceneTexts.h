@@ -64,6 +64,11 @@ inline constexpr auto SceneTexts = [] {
          "%1 of %2 pylons stand at height 0: there is no terrain height under them",
          {Count, Count}},
         {"MESS_SCENE_NO_SURFACE", "no terrain is shown: there are no heights under the layer"},
+        {"MESS_SCENE_BAD_IMAGERY",
+         "the image \"%1\" cannot be used (%2); the ground is drawn without it",
+         {Name, Nested}},
+        {"MESS_SCENE_NO_IMAGERY",
+         "no image is shown: it does not cover the ground under the layer"},
 
         // footprints that cannot be read
         {"MESS_SCENE_NO_FOOTPRINTS", "there is no local file of footprints \"%1\""},
@@ -161,6 +166,8 @@ inline constexpr auto SceneTexts = [] {
         {"MESS_TERRAIN_NO_RASTER", "its format is not a known raster format"},
         {"MESS_TERRAIN_NOT_PLACED",
          "it has no band of heights, no georeference or no coordinate system"},
+        {"MESS_IMAGERY_NOT_PLACED", "it has no georeference"},
+        {"MESS_SCENE_NOWHERE", "the scene does not state where on the earth it lies"},
         {"MESS_TERRAIN_TOO_LARGE", "it is stored in blocks that are too large"},
         {"MESS_SCENE_NO_TRANSFORMATION", "there is no transformation to its coordinate system"},
         {"MESS_SCENE_NO_TRANSFORMATION_FROM",

@@ -17,6 +17,24 @@ bool isKnown(const Lattice &lattice)
                        [](float height) { return !std::isnan(height); });
 }
 
+Lattice unknownHeights(const Square &square, int cells)
+{
+    Lattice lattice{square, cells, 0, {}};
+    lattice.heightM.assign(static_cast<std::size_t>(lattice.points()) *
+                               static_cast<std::size_t>(lattice.points()),
+                           NAN);
+    return lattice;
+}
+
+bool isVisible(const std::vector<unsigned char> &rgba)
+{
+    for (std::size_t i = 3; i < rgba.size(); i += 4) {
+        if (rgba[i] > 0)
+            return true;
+    }
+    return false;
+}
+
 /// The heights at fewer points, averaged over the cells around each.
 Lattice reduced(const Lattice &fine, int cells)
 {
@@ -79,22 +97,29 @@ double outerHalfM(const Square &finest)
     return finest.halfM * std::pow(Ratio, Levels - 1);
 }
 
-std::vector<GroundLevel> makeGround(Terrain &terrain, const Square &finest)
+std::vector<GroundLevel> makeGround(const GroundSource &source, const Square &finest)
 {
     std::vector<Lattice> fine;
     std::vector<Lattice> meshes;
-    for (int level = 0; level < Levels; ++level) {
-        fine.push_back(
-            terrain.heights({finest.centre, finest.halfM * std::pow(Ratio, level)}, PicturePx));
+    std::vector<std::vector<unsigned char>> images(Levels);
+    for (std::size_t level = 0; level < Levels; ++level) {
+        const Square square{finest.centre, finest.halfM * std::pow(Ratio, level)};
+        fine.push_back(source.terrain ? source.terrain->heights(square, PicturePx)
+                                      : unknownHeights(square, PicturePx));
         meshes.push_back(reduced(fine.back(), MeshCells));
+        if (source.imagery)
+            images[level] = source.imagery->colors(square, PicturePx);
     }
-    if (!isKnown(meshes.back()))
+    if (!isKnown(meshes.back()) && std::none_of(images.begin(), images.end(), isVisible))
         return {};
-    const HeightRange range = rangeOf(meshes);
+    const HeightRange range =
+        isKnown(meshes.back()) ? rangeOf(meshes) : HeightRange{source.levelM, source.levelM};
+    const Rgb &outside = source.terrain ? UnknownGround : PlainGround;
     const double fogM = outerHalfM(finest);
     std::vector<GroundLevel> levels;
-    for (std::size_t i = 0; i < meshes.size(); ++i)
-        levels.push_back({meshes[i], PicturePx, reliefPicture(fine[i], meshes[i], range, fogM)});
+    for (std::size_t i = 0; i < Levels; ++i)
+        levels.push_back({meshes[i], isKnown(meshes[i]), isVisible(images[i]), PicturePx,
+                          reliefPicture(fine[i], meshes[i], {range, fogM, outside, images[i]})});
     for (std::size_t level = levels.size(); level-- > 0;) {
         Lattice &mesh = levels[level].mesh;
         if (!isKnown(mesh)) // the level around it has heights

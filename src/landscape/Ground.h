@@ -1,6 +1,6 @@
 #pragma once
 
-#include "landscape/Lattice.h"
+#include "landscape/Imagery.h"
 #include "landscape/Terrain.h"
 
 #include <vector>
@@ -11,7 +11,9 @@ namespace vlt::landscape {
 /// times as wide as the one before and leaves its place free.
 struct GroundLevel
 {
-    Lattice mesh; ///< all heights are known
+    Lattice mesh;            ///< without unknown heights
+    bool hasHeights = false; ///< out of a terrain
+    bool hasImage = false;
     int picturePx = 0;
     std::vector<unsigned char> picture; ///< [picturePx][picturePx][3], rows from the south
 };
@@ -24,7 +26,16 @@ inline constexpr int PicturePx = 1024; ///< 3 MB a level
 /// Half the width of the whole ground.
 double outerHalfM(const Square &finest);
 
-/// The ground around a square. Neighbouring levels meet without gaps. Empty if no height is known.
-std::vector<GroundLevel> makeGround(Terrain &terrain, const Square &finest);
+/// What the ground is made of.
+struct GroundSource
+{
+    Terrain *terrain = nullptr;       ///< null: the ground is level
+    const Imagery *imagery = nullptr; ///< null: the ground has colors by height
+    double levelM = 0;                ///< height of the ground without a terrain
+};
+
+/// The ground around a square. Neighbouring levels meet without gaps. Empty if neither a height nor
+/// a color is known.
+std::vector<GroundLevel> makeGround(const GroundSource &source, const Square &finest);
 
 } // namespace vlt::landscape

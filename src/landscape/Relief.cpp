@@ -43,6 +43,16 @@ Rgb earthAt(double heightM, const HeightRange &range)
     return mixed(Earth[low], Earth[low + 1], at - static_cast<double>(low));
 }
 
+/// Color of an image on a slope: somewhat pale, and less shaded than plain ground, because a
+/// photograph has shadows of its own.
+Rgb imageColor(const unsigned char *rgb, double light)
+{
+    constexpr double Pale = 0.15;
+    constexpr double ShareOfShading = 0.45;
+    return mixed(Rgb{}, mixed({double(rgb[0]), double(rgb[1]), double(rgb[2])}, PlainGround, Pale),
+                 1 + ShareOfShading * (light - 1));
+}
+
 /// Calls a function for the neighbours of a point of a lattice in its row and its column.
 template<typename Visit>
 void forNeighbours(const Lattice &lattice, std::size_t point, const Visit &visit)
@@ -204,29 +214,34 @@ void fillUnknown(Lattice &lattice)
 }
 
 std::vector<unsigned char> reliefPicture(const Lattice &fine, const Lattice &coarse,
-                                         const HeightRange &range, double fogM)
+                                         const ReliefColors &colors)
 {
     const Slopes slopes(fine);
     const Between away(coarse, cellsFromUnknown(coarse, FadeCells));
     const double scale = static_cast<double>(coarse.cells) / fine.cells;
+    const unsigned char *rgba = colors.image.empty() ? nullptr : colors.image.data();
     std::vector<unsigned char> picture;
     picture.reserve(fine.heightM.size() * 3);
     for (int row = 0; row < fine.cells; ++row) {
         for (int column = 0; column < fine.cells; ++column) {
             const double heightM = slopes.heightM(column, row);
-            Rgb color = UnknownGround;
+            const double light = std::isnan(heightM) ? 1 : slopes.light(column, row);
+            Rgb color = colors.outside;
             if (!std::isnan(heightM)) {
-                const Rgb known =
-                    slopes.isWater(column, row)
-                        ? Water
-                        : mixed(Rgb{}, earthAt(heightM, range), slopes.light(column, row));
+                const Rgb known = slopes.isWater(column, row)
+                                      ? Water
+                                      : mixed(Rgb{}, earthAt(heightM, colors.range), light);
                 const double cells = away.at((column + 0.5) * scale, (row + 0.5) * scale);
-                color = mixed(UnknownGround, known, smooth(cells / FadeCells));
+                color = mixed(colors.outside, known, smooth(cells / FadeCells));
+            }
+            if (rgba) {
+                color = mixed(color, imageColor(rgba, light), rgba[3] / 255.0);
+                rgba += 4;
             }
             const Place at = fine.at(column, row);
             const double distanceM =
                 std::hypot(at.x - fine.square.centre.x, at.y - fine.square.centre.y);
-            color = mixed(color, Haze, smooth(2 * distanceM / fogM - 1));
+            color = mixed(color, Haze, smooth(2 * distanceM / colors.fogM - 1));
             for (const double value : color)
                 picture.push_back(
                     static_cast<unsigned char>(std::lround(std::clamp(value, 0.0, 255.0))));

@@ -35,14 +35,22 @@ std::vector<int> cellsFromUnknown(const Lattice &lattice, int most);
 /// Gives points without a height that of the nearest point with one; none if no height is known.
 void fillUnknown(Lattice &lattice);
 
-/// A picture of the ground: colours by height, shaded by the slopes.
+/// What a picture of the ground shows besides the slopes.
+struct ReliefColors
+{
+    HeightRange range;
+    double fogM = 0; ///< from this distance from the centre of the square on, the air hides the
+                     ///< ground; half of it away, it is not hidden
+    Rgb outside = UnknownGround;           ///< of ground without a height
+    std::vector<unsigned char> image = {}; ///< [cells][cells][4] bytes, see Imagery; or empty
+};
+
+/// A picture of the ground: an image or colors by height, shaded by the slopes.
 ///
 /// @param fine    one cell for each pixel
 /// @param coarse  the same square with fewer cells; near its unknown heights the ground is plain
-/// @param fogM    from this distance from the centre of the square on, the air hides the ground;
-///                half of it away, it is not hidden
 /// @return        [cells][cells][3] bytes, rows from the south
 std::vector<unsigned char> reliefPicture(const Lattice &fine, const Lattice &coarse,
-                                         const HeightRange &range, double fogM);
+                                         const ReliefColors &colors);
 
 } // namespace vlt::landscape

@@ -70,12 +70,17 @@ bool readReduced(GDALDataset &file, const std::vector<int> &bands, const Reducti
         const int top = static_cast<int>(extra.dfYOff);
         const int bottom = std::min(static_cast<int>(std::ceil(extra.dfYOff + extra.dfYSize)),
                                     part.top + part.height);
-        const CPLErr outcome = file.RasterIO(
-            GF_Read, part.left, top, part.width, bottom - top,
-            values.data() + static_cast<std::size_t>(row) * static_cast<std::size_t>(part.columns),
-            part.columns, rows, GDT_Float32, number, asked.data(), sizeof(float),
-            static_cast<GSpacing>(sizeof(float)) * part.columns,
-            static_cast<GSpacing>(sizeof(float) * ofBand), &extra);
+        float *to =
+            values.data() + static_cast<std::size_t>(row) * static_cast<std::size_t>(part.columns);
+        const auto rowBytes = static_cast<GSpacing>(sizeof(float)) * part.columns;
+        const CPLErr outcome =
+            bands.front() == MaskBand
+                ? file.GetRasterBand(1)->GetMaskBand()->RasterIO(
+                      GF_Read, part.left, top, part.width, bottom - top, to, part.columns, rows,
+                      GDT_Float32, sizeof(float), rowBytes, &extra)
+                : file.RasterIO(GF_Read, part.left, top, part.width, bottom - top, to, part.columns,
+                                rows, GDT_Float32, number, asked.data(), sizeof(float), rowBytes,
+                                static_cast<GSpacing>(sizeof(float) * ofBand), &extra);
         file.FlushCache(false);
         if (outcome != CE_None)
             return false;

@@ -8,10 +8,12 @@
 #include "snapshot/SceneEarth.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 #include <osg/ValueObject>
 
 #include <algorithm>
+#include <utility>
 
 namespace vlt::snapshot {
 
@@ -34,6 +36,18 @@ double bottomOf(osg::Node &scene)
     return all.extents().valid() ? std::min(all.extents().zMin(), 0.0) : 0;
 }
 
+bool hasHeights(const std::vector<landscape::GroundLevel> &levels)
+{
+    return std::any_of(levels.begin(), levels.end(),
+                       [](const auto &level) { return level.hasHeights; });
+}
+
+bool hasImage(const std::vector<landscape::GroundLevel> &levels)
+{
+    return std::any_of(levels.begin(), levels.end(),
+                       [](const auto &level) { return level.hasImage; });
+}
+
 } // namespace
 
 SceneGround::SceneGround(const osg::Node &scene, const QString &terrain, bool isChosen)
@@ -45,16 +59,36 @@ SceneGround::SceneGround(const osg::Node &scene, const QString &terrain, bool is
     const std::string own = textOf(scene, place::Terrain);
     const bool isOwn = !own.empty() && !isChosen;
     const std::string path = isOwn ? own : QFile::encodeName(terrain).toStdString();
-    const std::optional<landscape::FrameOnEarth> frame = frameOf(scene);
-    if (path.empty() || !frame)
+    m_frame = frameOf(scene);
+    if (path.empty() || !m_frame)
         return;
     const std::optional<double> noData =
         isOwn ? contract::noDataNumber(textOf(scene, place::NoData)) : std::nullopt;
-    auto [opened, reason] = landscape::Terrain::open(path, noData, *frame);
+    auto [opened, reason] = landscape::Terrain::open(path, noData, *m_frame);
     m_terrain = std::move(opened);
     if (!m_terrain)
-        m_problem =
-            QString::fromStdString(contract::formatted("MESS_SCENE_BAD_TERRAIN", {path, reason}));
+        report(contract::formatted("MESS_SCENE_BAD_TERRAIN", {path, reason}));
+}
+
+void SceneGround::drape(const QString &image)
+{
+    const std::string path = QFile::encodeName(QFileInfo(image).absoluteFilePath()).toStdString();
+    std::string why = contract::formatted("MESS_SCENE_NOWHERE");
+    if (m_frame) {
+        auto [opened, reason] = landscape::Imagery::open(path, *m_frame);
+        m_imagery = std::move(opened);
+        why = reason;
+    }
+    if (!m_imagery)
+        report(contract::formatted("MESS_SCENE_BAD_IMAGERY", {path, why}));
+}
+
+/// Each problem once, however often the ground is made.
+void SceneGround::report(std::string text)
+{
+    const QString problem = QString::fromStdString(std::move(text));
+    if (!m_problems.contains(problem))
+        m_problems.append(problem);
 }
 
 osg::ref_ptr<osg::Node> SceneGround::around(const osg::Vec3d &eye, const osg::Vec3d &target)
@@ -63,12 +97,15 @@ osg::ref_ptr<osg::Node> SceneGround::around(const osg::Vec3d &eye, const osg::Ve
     constexpr double MinHalfM = 20;
     const landscape::Square finest{{target.x(), target.y()},
                                    std::max(ShareOfDistance * (eye - target).length(), MinHalfM)};
-    if (m_terrain) {
+    if (m_terrain || m_imagery) {
         const std::vector<landscape::GroundLevel> levels =
-            landscape::makeGround(*m_terrain, finest);
+            landscape::makeGround({m_terrain.get(), m_imagery.get(), m_heightM}, finest);
+        if (m_imagery && !hasImage(levels))
+            report(contract::formatted("MESS_SCENE_NO_IMAGERY"));
+        if (m_terrain && !hasHeights(levels))
+            report(contract::formatted("MESS_SCENE_NO_SURFACE"));
         if (!levels.empty())
             return landscape::makeGroundNode(levels);
-        m_problem = QString::fromStdString(contract::formatted("MESS_SCENE_NO_SURFACE"));
     }
     return landscape::makePlaneNode(finest, m_heightM);
 }

@@ -1,9 +1,10 @@
 #pragma once
 
-#include "landscape/Terrain.h"
+#include "landscape/Ground.h"
 #include "snapshot/SceneSource.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <osg/Node>
 
@@ -23,17 +24,24 @@ public:
     /// @param isChosen  `terrain` is chosen for the scene, and comes before the scene's own
     SceneGround(const osg::Node &scene, const QString &terrain, bool isChosen);
 
-    /// The reason why a terrain is not shown, as for language::readerText(); empty if it is shown
-    /// or there is none.
-    const QString &problem() const { return m_problem; }
+    /// Lays a local image with a place on the earth over the ground.
+    void drape(const QString &image);
+
+    /// The reasons why a terrain or an image is not shown, as for language::readerText(); known
+    /// after the ground is made.
+    const QStringList &problems() const { return m_problems; }
 
     /// The ground around a point of view, in the scene's frame.
     osg::ref_ptr<osg::Node> around(const osg::Vec3d &eye, const osg::Vec3d &target);
 
 private:
+    void report(std::string text);
+
+    std::optional<landscape::FrameOnEarth> m_frame;
     std::unique_ptr<landscape::Terrain> m_terrain;
+    std::unique_ptr<landscape::Imagery> m_imagery;
     double m_heightM = 0; ///< of the plane
-    QString m_problem;
+    QStringList m_problems;
 };
 
 /// A function that makes the ground under a scene around a point of view, with the terrain of the

@@ -16,6 +16,8 @@ namespace {
 
 constexpr double X = 650000; ///< of the frame's origin, EPSG:2154
 constexpr double Y = 6860000;
+constexpr double LonDeg = 2.3188; ///< of the same point
+constexpr double LatDeg = 48.8381;
 
 /// Metres above the sea, a plane that no interpolation bends.
 double slopeM(double east, double north)
@@ -70,14 +72,37 @@ class tst_Landscape : public QObject
 
     QTemporaryDir m_dir;
 
-    std::unique_ptr<Terrain> open(const QString &name, std::optional<double> noData = {}) const
+    static FrameOnEarth place()
     {
         FrameOnEarth place;
         place.srs.importFromEPSG(2154);
         place.srs.SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
         place.frame = std::make_shared<vlt::localframe::LocalFrame>(
             &place.srs, std::vector<vlt::contract::Place>{{X, Y}});
-        return Terrain::open(m_dir.filePath(name).toStdString(), noData, place).file;
+        return place;
+    }
+
+    std::unique_ptr<Terrain> open(const QString &name, std::optional<double> noData = {}) const
+    {
+        return Terrain::open(m_dir.filePath(name).toStdString(), noData, place()).file;
+    }
+
+    /// An image, 2 km wide, whose halves have one color each.
+    void makeImage(const char *name, int bands, GDALDataType type, std::array<double, 4> west,
+                   std::array<double, 4> east, const std::function<void(GDALDataset &)> &finish)
+    {
+        const bool isInDegrees = QByteArray(name) == "degrees.tif";
+        // the same place: the convergence of the meridians is below 1 degree there
+        const std::array<double, 6> inDegrees = {LonDeg - 0.0136, 0.000136, 0,
+                                                 LatDeg + 0.009,  0,        -0.00009};
+        makeGeoTiff(m_dir.filePath(QLatin1String(name)),
+                    {200, 200, bands, type,
+                     isInDegrees ? inDegrees : northUp(X - 1000, Y - 1000, 10, 200),
+                     isInDegrees ? "EPSG:4326" : "EPSG:2154",
+                     [=](int column, int, int band) {
+                         return (column < 100 ? west : east)[std::size_t(band - 1)];
+                     },
+                     finish});
     }
 
 private Q_SLOTS:
@@ -109,6 +134,24 @@ private Q_SLOTS:
                 return std::hypot(east, north) < 1000 ? -9999 : slopeM(east, north);
             },
             [](GDALDataset &made) { made.GetRasterBand(1)->SetNoDataValue(-9999); });
+        const std::array<double, 4> brown = {200, 100, 50, 255};
+        const std::array<double, 4> blue = {20, 40, 60, 255};
+        for (const char *name : {"rgb.tif", "degrees.tif"})
+            makeImage(name, 3, GDT_Byte, brown, blue, asItIs);
+        makeImage("rgba.tif", 4, GDT_Byte, brown, {20, 40, 60, 0}, [](GDALDataset &made) {
+            made.GetRasterBand(4)->SetColorInterpretation(GCI_AlphaBand);
+        });
+        makeImage("nodata.tif", 3, GDT_Byte, {0, 100, 50}, {0, 0, 0},
+                  [](GDALDataset &made) { made.GetRasterBand(1)->SetNoDataValue(0); });
+        makeImage("palette.tif", 1, GDT_Byte, {1}, {2}, [](GDALDataset &made) {
+            GDALColorTable palette;
+            const GDALColorEntry one{10, 20, 30, 255};
+            const GDALColorEntry two{90, 80, 70, 255};
+            palette.SetColorEntry(1, &one);
+            palette.SetColorEntry(2, &two);
+            made.GetRasterBand(1)->SetColorTable(&palette);
+        });
+        makeImage("gray16.tif", 1, GDT_UInt16, {3000}, {500}, asItIs);
         // the same, but the file does not name the value
         make(
             "marked.tif", 20, 1000,
@@ -201,7 +244,7 @@ private Q_SLOTS:
     {
         // the finest level is small, so that the outer ones go beyond the terrain
         const auto terrain = open(u"small.tif"_s);
-        const std::vector<GroundLevel> levels = makeGround(*terrain, {{100, 0}, 300});
+        const std::vector<GroundLevel> levels = makeGround({terrain.get()}, {{100, 0}, 300});
 
         QCOMPARE(levels.size(), std::size_t(Levels));
         for (std::size_t i = 0; i < levels.size(); ++i) {
@@ -231,8 +274,67 @@ private Q_SLOTS:
     void makesNoGroundWithoutHeights()
     {
         const auto terrain = open(u"small.tif"_s);
-        QVERIFY(makeGround(*terrain, {{1e6, 0}, 300}).empty());
+        QVERIFY(makeGround({terrain.get()}, {{1e6, 0}, 300}).empty());
         QVERIFY(!open(u"none.tif"_s));
+    }
+
+    void readsImages_data()
+    {
+        // color: of the western half, then of the eastern one, red green blue opacity
+        const Cases<QString, QString, QString> row({"file", "west", "east"});
+        row("colors", u"rgb.tif"_s, u"200 100 50 255"_s, u"20 40 60 255"_s);
+        row("opacity", u"rgba.tif"_s, u"200 100 50 255"_s, u"0 0 0 0"_s);
+        row("no data in all bands", u"nodata.tif"_s, u"0 100 50 255"_s, u"0 0 0 0"_s);
+        row("palette", u"palette.tif"_s, u"10 20 30 255"_s, u"90 80 70 255"_s);
+        row("gray, 16 bits", u"gray16.tif"_s, u"255 255 255 255"_s, u"0 0 0 255"_s);
+        row("its own system", u"degrees.tif"_s, u"200 100 50 255"_s, u"20 40 60 255"_s);
+    }
+
+    void readsImages()
+    {
+        QFETCH(QString, file);
+        const auto image = Imagery::open(m_dir.filePath(file).toStdString(), place());
+        QVERIFY2(image.file, image.reason.c_str());
+        constexpr int Cells = 64;
+        const std::vector<unsigned char> colors = image->colors({{0, 0}, 1500}, Cells);
+        const auto at = [&](int column, int line) {
+            QStringList parts;
+            for (std::size_t i = 0; i < 4; ++i)
+                parts.append(QString::number(
+                    colors[4 * (std::size_t(line) * Cells + std::size_t(column)) + i]));
+            return parts[3] == u"0"_s ? u"0 0 0 0"_s : parts.join(u' ');
+        };
+        QTEST(at(20, 32), "west");
+        QTEST(at(44, 32), "east");
+        QCOMPARE(at(2, 32), u"0 0 0 0"_s); // the file is 2 km wide
+        QCOMPARE(at(32, 61), u"0 0 0 0"_s);
+    }
+
+    void laysImagesOverTheGround()
+    {
+        const auto image = Imagery::open(m_dir.filePath(u"rgb.tif"_s).toStdString(), place());
+        const auto terrain = open(u"small.tif"_s); // as wide as the image
+        for (Terrain *under : {static_cast<Terrain *>(nullptr), terrain.get()}) {
+            const auto levels = makeGround({under, image.file.get(), 7}, {{0, 0}, 2000});
+            QCOMPARE(levels.size(), std::size_t(Levels));
+            QVERIFY(levels[0].hasImage && levels[0].hasHeights == (under != nullptr));
+            const auto red = [&](int column) {
+                return int(levels[0].picture[3 * (std::size_t(PicturePx / 2) * PicturePx +
+                                                  std::size_t(column))]);
+            };
+            QVERIFY(red(PicturePx * 3 / 8) > red(PicturePx * 5 / 8) + 90);
+            QVERIFY(red(PicturePx / 8) > 190); // pale ground beside the image
+            if (!under)
+                QCOMPARE(levels[0].mesh.heightM.front(), 7.0F);
+        }
+        QVERIFY(!makeGround({nullptr, image.file.get()}, {{0, 0}, 50})[0].hasHeights);
+        QVERIFY(makeGround({nullptr, image.file.get()}, {{1e6, 0}, 50}).empty());
+    }
+
+    void refusesOtherFiles()
+    {
+        QCOMPARE(Imagery::open(m_dir.filePath(u"none.tif"_s).toStdString(), place()).reason,
+                 std::string("there is no such local file"));
     }
 
     void isBrighterTowardsTheSun()
@@ -241,7 +343,7 @@ private Q_SLOTS:
         Lattice fine{{{0, 0}, 100}, 20, 0, {}};
         for (int i = 0; i < fine.points() * fine.points(); ++i)
             fine.heightM.push_back(50 - std::abs(float(fine.at(i % fine.points(), 0).x)) / 4);
-        const auto picture = reliefPicture(fine, fine, {0, 100}, 1e6);
+        const auto picture = reliefPicture(fine, fine, {{0, 100}, 1e6});
         const auto green = [&](int column) {
             return int(picture[std::size_t(10 * fine.cells + column) * 3 + 1]);
         };

@@ -563,6 +563,10 @@
         <source>Terrain for the ground (default: that of the layer, else of the project). Without any, the ground is level and has a metric grid.</source>
         <translation>Terrain for the ground (default: that of the layer, else of the project). Without any, the ground is level and has a metric grid.</translation>
     </message>
+    <message id="MESS_OPT_IMAGERY">
+        <source>Image to lay over the ground: any local raster with a georeference, in colors, gray or with a palette.</source>
+        <translation>Image to lay over the ground: any local raster with a georeference, in colors, gray or with a palette.</translation>
+    </message>
     <message id="MESS_OPT_PICTURE_TITLE">
         <source>Title on the picture, in its upper left corner.</source>
         <translation>Title on the picture, in its upper left corner.</translation>

@@ -563,6 +563,10 @@
         <source>Terrain for the ground (default: that of the layer, else of the project). Without any, the ground is level and has a metric grid.</source>
         <translation>Terrain du sol (par défaut : celui de la couche, sinon celui du projet). Sans terrain, le sol est plat et porte une grille métrique.</translation>
     </message>
+    <message id="MESS_OPT_IMAGERY">
+        <source>Image to lay over the ground: any local raster with a georeference, in colors, gray or with a palette.</source>
+        <translation>Image à poser sur le sol : tout raster local géoréférencé, en couleurs, en niveaux de gris ou avec palette.</translation>
+    </message>
     <message id="MESS_OPT_PICTURE_TITLE">
         <source>Title on the picture, in its upper left corner.</source>
         <translation>Titre sur l'image, dans son coin supérieur gauche.</translation>

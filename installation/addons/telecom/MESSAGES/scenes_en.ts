@@ -143,6 +143,22 @@
         <source>no terrain is shown: there are no heights under the layer</source>
         <translation>no terrain is shown: there are no heights under the layer</translation>
     </message>
+    <message id="MESS_SCENE_BAD_IMAGERY">
+        <source>the image "%1" cannot be used (%2); the ground is drawn without it</source>
+        <translation>the image "%1" cannot be used (%2); the ground is drawn without it</translation>
+    </message>
+    <message id="MESS_SCENE_NO_IMAGERY">
+        <source>no image is shown: it does not cover the ground under the layer</source>
+        <translation>no image is shown: it does not cover the ground under the layer</translation>
+    </message>
+    <message id="MESS_IMAGERY_NOT_PLACED">
+        <source>it has no georeference</source>
+        <translation>it has no georeference</translation>
+    </message>
+    <message id="MESS_SCENE_NOWHERE">
+        <source>the scene does not state where on the earth it lies</source>
+        <translation>the scene does not state where on the earth it lies</translation>
+    </message>
     <message id="MESS_SCENE_NO_FOOTPRINTS">
         <source>there is no local file of footprints "%1"</source>
         <translation>there is no local file of footprints "%1"</translation>

@@ -143,6 +143,22 @@
         <source>no terrain is shown: there are no heights under the layer</source>
         <translation>aucun terrain n'est montré : il n'y a pas d'altitude sous la couche</translation>
     </message>
+    <message id="MESS_SCENE_BAD_IMAGERY">
+        <source>the image "%1" cannot be used (%2); the ground is drawn without it</source>
+        <translation>l'image «&#xa0;%1&#xa0;» ne peut pas être utilisée (%2)&#xa0;; le sol est dessiné sans elle</translation>
+    </message>
+    <message id="MESS_SCENE_NO_IMAGERY">
+        <source>no image is shown: it does not cover the ground under the layer</source>
+        <translation>aucune image n'est affichée&#xa0;: elle ne couvre pas le sol sous la couche</translation>
+    </message>
+    <message id="MESS_IMAGERY_NOT_PLACED">
+        <source>it has no georeference</source>
+        <translation>elle n'a pas de géoréférencement</translation>
+    </message>
+    <message id="MESS_SCENE_NOWHERE">
+        <source>the scene does not state where on the earth it lies</source>
+        <translation>la scène n'indique pas où elle se trouve sur la Terre</translation>
+    </message>
     <message id="MESS_SCENE_NO_FOOTPRINTS">
         <source>there is no local file of footprints "%1"</source>
         <translation>le fichier local d'emprises «&#xa0;%1&#xa0;» n'existe pas</translation>
