@@ -9,6 +9,12 @@
 
 #include <utility>
 
+namespace {
+
+constexpr int PlateGap = 8; ///< between the edge of the view and a text over it
+
+} // namespace
+
 VltPreviewPane::VltPreviewPane(QWidget *parent) : QWidget(parent)
 {
     auto *layout = new QVBoxLayout(this);
@@ -26,6 +32,8 @@ VltPreviewPane::VltPreviewPane(QWidget *parent) : QWidget(parent)
         layout->addWidget(m_viewer);
         m_aids = new VltReadingAids(*m_viewer);
         setFocusProxy(m_viewer);
+        m_caption = makePlate(QStringLiteral("m_pwCaption"));
+        m_emptyText = makePlate(QStringLiteral("m_pwEmptyText"));
         return;
     }
     auto *text =
@@ -45,7 +53,78 @@ void VltPreviewPane::showScene(osg::Node *scene, GroundMaker ground,
     m_viewer->showScene(scene, std::move(ground));
     m_aids->show(scene != nullptr, reading);
     m_hasScene = scene != nullptr;
+    placePlates();
     showHint();
+}
+
+/// A text over the view, through which the mouse reaches the view.
+QLabel *VltPreviewPane::makePlate(const QString &objectName)
+{
+    auto *plate = new QLabel(m_viewer);
+    plate->setObjectName(objectName);
+    plate->setTextFormat(Qt::PlainText);
+    plate->setAttribute(Qt::WA_TransparentForMouseEvents);
+    plate->setStyleSheet(QStringLiteral(
+        "background: rgba(0, 0, 0, 160); color: white; padding: 6px; border-radius: 4px"));
+    plate->setWordWrap(true);
+    plate->hide();
+    return plate;
+}
+
+CameraPose VltPreviewPane::pose() const
+{
+    return m_viewer ? m_viewer->pose() : CameraPose();
+}
+
+void VltPreviewPane::setPose(const CameraPose &pose)
+{
+    if (m_viewer)
+        m_viewer->setPose(pose);
+}
+
+void VltPreviewPane::setCaption(const QString &text)
+{
+    if (!m_viewer || m_caption->text() == text)
+        return;
+    m_caption->setText(text);
+    placePlates();
+}
+
+void VltPreviewPane::setEmptyText(const QString &text)
+{
+    if (!m_viewer)
+        return;
+    m_emptyText->setText(text);
+    m_emptyText->setAlignment(Qt::AlignCenter);
+    placePlates();
+}
+
+/// Puts the texts over the view where they belong, as wide as they need.
+void VltPreviewPane::placePlates()
+{
+    constexpr double WidthShare = 0.75; // the corner on the right is for the north arrow
+    if (!m_viewer)
+        return;
+    const QSize view = size();
+    for (QLabel *plate : {m_caption, m_emptyText}) {
+        plate->setWordWrap(false);
+        plate->setMaximumWidth(QWIDGETSIZE_MAX);
+        const int most = static_cast<int>(WidthShare * view.width());
+        const int width = qMin(plate->sizeHint().width(), most);
+        plate->setWordWrap(true);
+        plate->resize(width, plate->heightForWidth(width));
+    }
+    m_caption->move(PlateGap, PlateGap);
+    m_emptyText->move((view.width() - m_emptyText->width()) / 2,
+                      (view.height() - m_emptyText->height()) / 2);
+    m_caption->setVisible(!m_caption->text().isEmpty());
+    m_emptyText->setVisible(!m_hasScene && !m_emptyText->text().isEmpty());
+}
+
+void VltPreviewPane::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    placePlates();
 }
 
 void VltPreviewPane::showEvent(QShowEvent *event)
@@ -58,22 +137,17 @@ void VltPreviewPane::showEvent(QShowEvent *event)
 void VltPreviewPane::showHint()
 {
     constexpr int HintMs = 2000;
-    constexpr int Gap = 8;
     static bool wasShown = false;
     if (wasShown || !m_hasScene || !isVisible())
         return;
     wasShown = true;
-    auto *hint = new QLabel(
-        tr("Drag to rotate, Shift and drag to move, wheel to zoom", "MESS_HINT_3D_PREVIEW"),
-        m_viewer);
-    hint->setAttribute(Qt::WA_TransparentForMouseEvents);
-    hint->setStyleSheet(QStringLiteral(
-        "background: rgba(0, 0, 0, 160); color: white; padding: 6px; border-radius: 4px"));
-    hint->setWordWrap(true);
+    QLabel *hint = makePlate({});
+    hint->setText(
+        tr("Drag to rotate, Shift and drag to move, wheel to zoom", "MESS_HINT_3D_PREVIEW"));
     hint->setAlignment(Qt::AlignCenter);
-    hint->setFixedWidth(m_viewer->QWidget::width() - 2 * Gap);
+    hint->setFixedWidth(width() - 2 * PlateGap);
     hint->adjustSize();
-    hint->move(Gap, m_viewer->QWidget::height() - hint->height() - Gap);
+    hint->move(PlateGap, height() - hint->height() - PlateGap);
     hint->show();
     QTimer::singleShot(HintMs, hint, &QObject::deleteLater);
 }

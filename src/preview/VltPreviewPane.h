@@ -1,5 +1,6 @@
 #pragma once
 
+#include "preview/CameraPose.h"
 #include "preview/Surroundings.h"
 #include "readingaids/SceneReading.h"
 
@@ -11,6 +12,7 @@
 #include <optional>
 
 class VltReadingAids;
+class QLabel;
 class W_simpleOSGViewer;
 
 /// The frame for the preview of scenes on a page: a 3D view, or a text if the system does not
@@ -31,6 +33,16 @@ public:
     /// @param reading  what the reading aids state about the scene
     void showScene(osg::Node *scene, GroundMaker ground = {},
                    const vlt::readingaids::SceneReading &reading = {});
+
+    /// Where the camera is; without a view, nowhere.
+    CameraPose pose() const;
+    void setPose(const CameraPose &pose);
+
+    /// Sets a text over the upper left corner of the view; empty: none.
+    void setCaption(const QString &text);
+
+    /// Sets the text in the middle of a view without a scene: what will be shown.
+    void setEmptyText(const QString &text);
 
     /// Looks at the point `heightM` above the origin from `distanceM` metres.
     void placeCamera(double distanceM, double heightM);
@@ -58,11 +70,16 @@ public:
 
 protected:
     void showEvent(QShowEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
+    QLabel *makePlate(const QString &objectName);
+    void placePlates();
     void showHint();
 
     W_simpleOSGViewer *m_viewer = nullptr;
     VltReadingAids *m_aids = nullptr; ///< with a view
+    QLabel *m_caption = nullptr;      ///< with a view
+    QLabel *m_emptyText = nullptr;    ///< with a view
     bool m_hasScene = false;
 };

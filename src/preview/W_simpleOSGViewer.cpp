@@ -209,11 +209,8 @@ void W_simpleOSGViewer::updateSurroundings()
 {
     if (!isVisible() || !getSceneData())
         return;
-    osg::Vec3d eye;
-    osg::Vec3d center;
-    osg::Vec3d up;
-    m_trackBall->getTransformation(eye, center, up);
-    if (m_surroundings.update(eye, center))
+    const CameraPose now = pose();
+    if (m_surroundings.update(now.eye, now.center))
         m_framesToDraw = SettlingFrames;
 }
 
@@ -225,20 +222,29 @@ void W_simpleOSGViewer::showScene(osg::Node *scene, GroundMaker ground)
         old->releaseGLObjects(m_graphicsWindow->getState());
         QOpenGLWidget::doneCurrent();
     }
-    osg::Vec3d eye;
-    osg::Vec3d center;
-    osg::Vec3d up;
-    m_trackBall->getTransformation(eye, center, up);
+    const CameraPose before = pose();
     setSceneData(scene); // this moves the camera to its home position
     setLightingMode(ground ? osg::View::NO_LIGHT : osg::View::HEADLIGHT);
     m_surroundings.show(scene ? std::move(ground) : GroundMaker());
     if (m_wasShown)
-        m_trackBall->setTransformation(eye, center, up);
+        setPose(before);
     else if (scene)
         centerView();
     m_wasShown = m_wasShown || scene;
     m_framesToDraw = SettlingFrames;
     QOpenGLWidget::update();
+}
+
+CameraPose W_simpleOSGViewer::pose() const
+{
+    CameraPose now;
+    m_trackBall->getTransformation(now.eye, now.center, now.up);
+    return now;
+}
+
+void W_simpleOSGViewer::setPose(const CameraPose &pose)
+{
+    m_trackBall->setTransformation(pose.eye, pose.center, pose.up);
 }
 
 void W_simpleOSGViewer::placeCamera(double distanceM, double heightM)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "preview/CameraPose.h"
 #include "preview/Surroundings.h"
 
 #include <QMetaType>
@@ -48,6 +49,10 @@ public:
     ///
     /// @param ground  shown under the scene, with a sky; empty: the scene alone
     void showScene(osg::Node *scene, GroundMaker ground = {});
+
+    /// Where the camera is and where it looks.
+    CameraPose pose() const;
+    void setPose(const CameraPose &pose);
 
     /// Looks at the point `heightM` above the origin from `distanceM` metres.
     void placeCamera(double distanceM, double heightM);

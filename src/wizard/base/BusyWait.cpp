@@ -1,5 +1,7 @@
 #include "wizard/base/BusyWait.h"
 
+#include <QCoreApplication>
+#include <QPointer>
 #include <QProgressBar>
 #include <QProgressDialog>
 #include <QSemaphore>
@@ -101,6 +103,21 @@ bool waitFor(QWidget *parent, const QString &text,
 bool waitForMoment(const std::function<void()> &work)
 {
     return start([work](Job &) { work(); })->ended.tryAcquire(1, PatienceMs);
+}
+
+void runBeside(QObject *receiver, const std::function<void()> &work,
+               const std::function<void()> &finished)
+{
+    start([work, finished, receiver = QPointer<QObject>(receiver)](Job &) {
+        work();
+        QMetaObject::invokeMethod(
+            qApp,
+            [receiver, finished] {
+                if (receiver)
+                    finished();
+            },
+            Qt::QueuedConnection);
+    });
 }
 
 bool isWorkRunning()

@@ -8,6 +8,7 @@
 #include <memory>
 #include <optional>
 
+class QObject;
 class QWidget;
 
 namespace vlt::wizard {
@@ -59,8 +60,24 @@ std::optional<T> valueWithinMoment(const std::function<T()> &work)
     return std::move(*value);
 }
 
-/// Whether work still runs that was cancelled or took too long. If so, the program must end at
-/// once, without destroying data that the work uses.
+/// Runs `work` on another thread without waiting for it. Afterwards `finished` is called in the
+/// thread of the user interface, unless `receiver` was destroyed before.
+void runBeside(QObject *receiver, const std::function<void()> &work,
+               const std::function<void()> &finished);
+
+/// The same for work that returns a value, which `finished` receives.
+template<typename T>
+void valueBeside(QObject *receiver, const std::function<T()> &work,
+                 const std::function<void(const T &)> &finished)
+{
+    const auto value = std::make_shared<std::optional<T>>();
+    runBeside(
+        receiver, [value, work] { value->emplace(work()); },
+        [value, finished] { finished(**value); });
+}
+
+/// Whether work still runs that was cancelled, took too long or is beside the user interface. If
+/// so, the program must end at once, without destroying data that the work uses.
 bool isWorkRunning();
 
 } // namespace vlt::wizard
