@@ -214,23 +214,46 @@ private Q_SLOTS:
     void showsThePylonOrTheSitesOfTheLayer()
     {
         WizardOnSitePage flow;
-        dropFiles(flow.page, {Samples + u"/sites.csv"_s});
         auto *viewer = flow.widget<W_simpleOSGViewer>(u"m_pwViewer"_s);
-        const osg::Node *pylon = viewer->getSceneData();
-        QVERIFY(pylon);
+        auto *own = flow.widget<QAbstractButton>(u"m_pwPbOwnSites"_s);
+        auto *precise = flow.widget<QAbstractButton>(u"m_pwPbPrecise"_s);
+        const auto *caption = flow.widget<QLabel>(u"m_pwCaption"_s);
+        const auto shows = [viewer](double leastRadiusM) {
+            return viewer->getSceneData() &&
+                   viewer->getSceneData()->getBound().radius() > leastRadiusM;
+        };
+        const auto waitForRead = [&] { // of a layer that is written again
+            const osg::ref_ptr<osg::Node> former = viewer->getSceneData();
+            QTRY_VERIFY_WITH_TIMEOUT(viewer->getSceneData() != former, PatienceMs);
+        };
+        QVERIFY(viewer->getSceneData() && !shows(1000)); // the pylon, without a table
+        QCOMPARE(caption->text(), u"Example"_s);
 
-        flow.widget<QAbstractButton>(u"m_pwPbOwnSites"_s)->click();
+        dropFiles(flow.page, {Samples + u"/sites.csv"_s});
+        QTRY_VERIFY_WITH_TIMEOUT(shows(1000), PatienceMs); // sites are kilometres apart
+        QVERIFY(own->isChecked() && caption->isHidden());
+        viewer->setPose({{1, 2, 300}, {1, 2, 0}, {0, 1, 0}});
+        flow.widget<QSlider>(u"m_pwSlTransparency"_s)->setValue(40);
+        waitForRead();
         const osg::Node *sites = viewer->getSceneData();
-        QVERIFY(sites != pylon);
-        QVERIFY(sites->getBound().radius() > 1000); // the city's sites are kilometres apart
+        QVERIFY((viewer->pose().eye - osg::Vec3d(1, 2, 300)).length() < 1);
 
-        flow.widget<QAbstractButton>(u"m_pwPbPrecise"_s)->click();
-        QCOMPARE(viewer->getSceneData(), pylon);
-        osg::Vec3d eye;
-        osg::Vec3d center;
-        osg::Vec3d up;
-        viewer->getCameraManipulator()->getInverseMatrix().getLookAt(eye, center, up, 50);
-        QVERIFY(qAbs((eye - osg::Vec3d(0, 0, 13)).length() - 50) < 0.01);
+        precise->click();
+        QVERIFY(!shows(1000) && precise->isChecked());
+        QCOMPARE(caption->text(), u"Example"_s);
+        QVERIFY(qAbs((viewer->pose().eye - osg::Vec3d(0, 0, 13)).length() - 50) < 0.01);
+        own->click();
+        QCOMPARE(viewer->getSceneData(), sites);
+        QVERIFY((viewer->pose().eye - osg::Vec3d(1, 2, 300)).length() < 1);
+
+        precise->click();
+        flow.widget<QSlider>(u"m_pwSlTransparency"_s)->setValue(60);
+        QVERIFY(!shows(1000)); // the user's choice
+        own->click();
+        waitForRead();
+        dropFiles(flow.page, {Samples + u"/sites_cells.csv"_s}); // shown as a whole
+        waitForRead();
+        QVERIFY((viewer->pose().eye - osg::Vec3d(1, 2, 300)).length() > 100);
     }
 
     void makesNoLayerForASystemThatPlacesNothing_data()

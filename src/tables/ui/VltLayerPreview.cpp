@@ -2,19 +2,28 @@
 
 #include "ui_LayerPreview.h"
 
+#include "contract/SceneFactKeys.h"
 #include "language/ErrorText.h"
 #include "snapshot/SceneEarth.h"
 #include "snapshot/SceneGround.h"
 #include "wizard/base/BusyWait.h"
-#include "wizard/base/Messages.h"
 #include "wizard/project/ProjectContext.h"
 
 #include <QApplication>
+#include <QButtonGroup>
 #include <QPainter>
 
 namespace {
 
 constexpr int RefreshDelayMs = 400;
+constexpr int PatienceMs = 400;
+
+/// A layer as it was read, with its ground.
+struct ReadLayer
+{
+    vlt::Result<vlt::snapshot::Scene> scene;
+    GroundMaker ground;
+};
 
 } // namespace
 
@@ -24,15 +33,29 @@ VltLayerPreview::VltLayerPreview(QWidget *parent)
 {
     m_ui->setupUi(this);
     m_refreshTimer.setSingleShot(true);
-    m_refreshTimer.setInterval(RefreshDelayMs);
-    for (QPushButton *button : {m_ui->m_pwPbSymbolic, m_ui->m_pwPbPrecise})
-        button->setEnabled(hasView());
-    m_ui->m_pwPbOwn->setEnabled(false);
-    connect(m_ui->m_pwPbSymbolic, &QPushButton::clicked, this, &VltLayerPreview::symbolicWanted);
-    connect(m_ui->m_pwPbPrecise, &QPushButton::clicked, this, &VltLayerPreview::preciseWanted);
-    connect(m_ui->m_pwPbOwn, &QPushButton::clicked, this, &VltLayerPreview::chooseScene);
-    connect(&m_refreshTimer, &QTimer::timeout, this, &VltLayerPreview::refreshLayer);
+    m_patience.setSingleShot(true);
+    m_patience.setInterval(PatienceMs);
+    m_demonstrationButton = m_ui->m_pwPbSymbolic;
+    auto *views = new QButtonGroup(this);
+    for (QPushButton *button : {m_ui->m_pwPbSymbolic, m_ui->m_pwPbPrecise, m_ui->m_pwPbOwn}) {
+        views->addButton(button);
+        button->setEnabled(hasView() && button != m_ui->m_pwPbOwn);
+    }
+    const auto connectDemonstration = [this](QPushButton *button,
+                                             void (VltLayerPreview::*wanted)()) {
+        connect(button, &QPushButton::clicked, this, [this, button, wanted] {
+            m_wantsLayer = false;
+            m_demonstrationButton = button;
+            Q_EMIT(this->*wanted)();
+        });
+    };
+    connectDemonstration(m_ui->m_pwPbSymbolic, &VltLayerPreview::symbolicWanted);
+    connectDemonstration(m_ui->m_pwPbPrecise, &VltLayerPreview::preciseWanted);
+    connect(m_ui->m_pwPbOwn, &QPushButton::clicked, this, &VltLayerPreview::wantLayer);
+    connect(&m_refreshTimer, &QTimer::timeout, this, &VltLayerPreview::readLayer);
+    connect(&m_patience, &QTimer::timeout, this, &VltLayerPreview::showState);
     connect(qApp, &QApplication::focusChanged, this, [this] { update(); });
+    showState();
 }
 
 VltLayerPreview::~VltLayerPreview() = default;
@@ -51,10 +74,18 @@ void VltLayerPreview::paintEvent(QPaintEvent *event)
         palette().color(QPalette::Highlight));
 }
 
+/// The camera for a whole scene depends on the size of the view, which is known now.
+void VltLayerPreview::showEvent(QShowEvent *event)
+{
+    QGroupBox::showEvent(event);
+    if (m_shown == &m_demonstration && !m_isPlaced)
+        placeFirst();
+}
+
 void VltLayerPreview::setOwnLayer(const OwnLayer &words)
 {
     m_ui->m_pwPbOwn->setObjectName(words.objectName);
-    m_ui->m_pwPbOwn->setAccessibleName(words.name);
+    m_ui->m_pwPbOwn->setText(words.name);
     m_ui->m_pwPbOwn->setToolTip(words.toolTip);
     m_ui->m_pwPbOwn->setIcon(QIcon(words.icon));
     m_loadingText = words.loading;
@@ -67,80 +98,171 @@ bool VltLayerPreview::hasView() const
 
 void VltLayerPreview::setDemonstration(const vlt::snapshot::Scene &scene)
 {
-    m_demonstration = scene;
-    if (!m_ui->m_pwPbOwn->isChecked())
-        m_ui->m_pwPreview->showScene(scene, vlt::snapshot::groundUnder(scene, {}),
-                                     vlt::snapshot::readingOf(scene));
+    m_demonstration.scene = scene;
+    m_demonstration.ground = vlt::snapshot::groundUnder(scene, {});
+    if (m_shown != &m_layer)
+        showDemonstration();
 }
 
 void VltLayerPreview::setLayerFile(const QString &path, const QString &project)
 {
     m_layerFile = path;
     m_project = project;
+    m_isOutdated = true;
+    m_problem.clear();
     m_ui->m_pwPbOwn->setEnabled(hasView() && !path.isEmpty());
-    if (!path.isEmpty())
-        m_refreshTimer.start();
+    if (path.isEmpty())
+        leaveLayer();
+    else if (hasView() && m_wantsLayer)
+        m_refreshTimer.start(m_layer.scene ? RefreshDelayMs : 0);
+    showState();
 }
 
-void VltLayerPreview::leaveLayer()
+void VltLayerPreview::expectLayer()
 {
-    if (m_ui->m_pwPbOwn->isChecked())
-        chooseScene(false);
+    m_wantsLayer = true;
+    m_layerPlace.clear();
+}
+
+void VltLayerPreview::wantLayer()
+{
+    m_wantsLayer = true;
+    if (m_layer.scene)
+        show(m_layer);
+    if (m_isOutdated)
+        readLayer();
+    showState();
 }
 
 void VltLayerPreview::lookAtDemonstration(double distanceM, double heightM)
 {
-    chooseScene(false);
+    showDemonstration();
     m_ui->m_pwPreview->placeCamera(distanceM, heightM);
 }
 
 void VltLayerPreview::lookAtDemonstration(double leastM)
 {
-    chooseScene(false);
+    showDemonstration();
     m_ui->m_pwPreview->lookAtMiddle(leastM);
 }
 
-/// Shows the layer or the demonstration; the cameras of the buttons fit only the demonstration.
-void VltLayerPreview::chooseScene(bool ownLayer)
+/// Shows a scene with its own camera; for the first time, the camera shows all of it.
+void VltLayerPreview::show(Picture &picture)
 {
-    const bool isShown = ownLayer && showLayer();
-    m_ui->m_pwPbOwn->setChecked(isShown);
-    if (!isShown && m_demonstration)
-        m_ui->m_pwPreview->showScene(m_demonstration,
-                                     vlt::snapshot::groundUnder(m_demonstration, {}),
-                                     vlt::snapshot::readingOf(m_demonstration));
-    m_ui->m_pwPreview->centerView();
-}
-
-bool VltLayerPreview::showLayer()
-{
-    if (m_layerFile.isEmpty())
-        return false;
-    const QString terrain = vlt::project::readProjectContext(m_project).terrainFile;
-    const auto read = vlt::wizard::waitForValue<vlt::Result<vlt::snapshot::Scene>>(
-        this, m_loadingText, [layer = m_layerFile, project = m_project, terrain] {
-            return vlt::snapshot::readScene(layer, project, terrain);
-        });
-    if (read && read->ok()) {
-        m_ui->m_pwPreview->showScene(read->value(),
-                                     vlt::snapshot::groundUnder(read->value(), terrain),
-                                     vlt::snapshot::readingOf(read->value()));
-        return true;
+    VltPreviewPane &pane = *m_ui->m_pwPreview;
+    const bool isOther = m_shown != &picture;
+    if (m_shown && isOther)
+        m_shown->pose = pane.pose();
+    m_shown = &picture;
+    pane.setCore(vlt::snapshot::coreOf(*picture.scene));
+    pane.showScene(picture.scene, picture.ground, vlt::snapshot::readingOf(picture.scene));
+    if (!picture.pose) {
+        pane.centerView();
+        picture.pose = pane.pose();
+    } else if (isOther) {
+        pane.setPose(*picture.pose);
     }
-    if (read)
-        vlt::messages::critical(this, {QStringLiteral("MESS_CANT_SHOW_LAYER"),
-                                       QStringLiteral("The layer cannot be shown"), m_layerFile,
-                                       vlt::language::reasonOf(read->error())});
-    return false;
+    showState();
 }
 
-/// Loads the layer again after a change; the camera stays at the user's position.
-void VltLayerPreview::refreshLayer()
+void VltLayerPreview::showDemonstration()
 {
-    if (!m_ui->m_pwPbOwn->isChecked())
+    if (!m_demonstration.scene)
         return;
-    if (QApplication::activeModalWidget()) // a dialog is open, so the layer may change again
-        m_refreshTimer.start();
-    else if (!m_layerFile.isEmpty() && !showLayer())
-        chooseScene(false);
+    show(m_demonstration);
+    if (isVisible() && !m_isPlaced)
+        placeFirst();
+}
+
+/// Makes the first picture of the demonstration that of the button for the view from far, unless
+/// some of the demonstration would be outside.
+void VltLayerPreview::placeFirst()
+{
+    constexpr double Tolerance = 0.99;
+    m_isPlaced = true;
+    m_ui->m_pwPreview->centerView();
+    m_demonstration.pose = m_ui->m_pwPreview->pose();
+    Q_EMIT symbolicWanted();
+    if (m_ui->m_pwPreview->pose().distanceM() < Tolerance * m_demonstration.pose->distanceM())
+        m_ui->m_pwPreview->setPose(*m_demonstration.pose);
+}
+
+/// Shows the demonstration in place of a layer that is gone.
+void VltLayerPreview::leaveLayer()
+{
+    if (m_shown == &m_layer) {
+        m_layer.pose = m_ui->m_pwPreview->pose();
+        m_shown = nullptr;
+        if (m_demonstration.scene)
+            showDemonstration();
+        else
+            m_ui->m_pwPreview->showScene(nullptr);
+    }
+    m_layer.scene = nullptr;
+    m_layer.ground = {};
+}
+
+/// Reads the layer beside the interface. During a read, the next one waits for its end.
+void VltLayerPreview::readLayer()
+{
+    if (m_isReading || m_layerFile.isEmpty())
+        return;
+    m_isReading = true;
+    m_isOutdated = false;
+    m_patience.start();
+    const QString terrain = vlt::project::readProjectContext(m_project).terrainFile;
+    vlt::wizard::valueBeside<ReadLayer>(
+        this,
+        [layer = m_layerFile, project = m_project, terrain] {
+            const auto scene = vlt::snapshot::readScene(layer, project, terrain);
+            return ReadLayer{scene, scene ? vlt::snapshot::groundUnder(scene.value(), terrain)
+                                          : GroundMaker()};
+        },
+        [this](const ReadLayer &read) { takeLayer(read.scene, read.ground); });
+}
+
+void VltLayerPreview::takeLayer(const vlt::Result<vlt::snapshot::Scene> &scene,
+                                const GroundMaker &ground)
+{
+    m_isReading = false;
+    m_patience.stop();
+    if (m_isOutdated || m_layerFile.isEmpty()) {
+        if (m_wantsLayer && !m_refreshTimer.isActive())
+            readLayer();
+        showState();
+        return;
+    }
+    if (!scene) {
+        m_problem = tr("%1: %2", "MESS_FILE_REASON")
+                        .arg(tr("The layer cannot be shown", "MESS_CANT_SHOW_LAYER"),
+                             vlt::language::reasonOf(scene.error()));
+        leaveLayer();
+        showState();
+        return;
+    }
+    const QString place =
+        vlt::snapshot::sceneFact(*scene.value(), vlt::contract::facts::Centre).value_or(QString());
+    if (place != m_layerPlace)
+        m_layer.pose.reset();
+    m_layerPlace = place;
+    m_layer.scene = scene.value();
+    m_layer.ground = ground;
+    if (m_wantsLayer)
+        show(m_layer);
+    showState();
+}
+
+/// States which scene is shown, and what goes on beside it.
+void VltLayerPreview::showState()
+{
+    QPushButton *shown = m_shown == &m_layer ? m_ui->m_pwPbOwn : m_demonstrationButton;
+    shown->setChecked(true);
+    QStringList lines;
+    if (m_shown == &m_demonstration)
+        lines << tr("Example", "MESS_EXAMPLE");
+    if (m_isReading && !m_patience.isActive())
+        lines << m_loadingText;
+    if (!m_problem.isEmpty())
+        lines << m_problem;
+    m_ui->m_pwPreview->setCaption(lines.join(QLatin1Char('\n')));
 }

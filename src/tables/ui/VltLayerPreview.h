@@ -1,18 +1,25 @@
 #pragma once
 
+#include "preview/CameraPose.h"
+#include "preview/Surroundings.h"
 #include "snapshot/SceneSource.h"
 
 #include <QGroupBox>
 #include <QTimer>
 
 #include <memory>
+#include <optional>
 
 namespace Ui {
 class LayerPreview;
 }
+class QPushButton;
 
-/// The 3D view beside the settings of a layer: a demonstration of them, or the layer just written,
-/// and a button for each view of them.
+/// The 3D view beside the settings of a layer. It shows the layer just written; before there is
+/// one, and on request, a demonstration of the settings, which is marked as an example. A button
+/// for each view states which one is shown, and each of the two scenes keeps its camera.
+///
+/// Layers are read beside the user interface; the former picture stays until then.
 class VltLayerPreview : public QGroupBox
 {
     Q_OBJECT
@@ -39,14 +46,15 @@ public:
     /// Sets the demonstration; the camera shows all of the first one.
     void setDemonstration(const vlt::snapshot::Scene &scene);
 
-    /// Sets the layer file, which is loaded when the user wants to see it; an empty path means
-    /// none.
+    /// Sets the layer file, which is shown unless the user chose the demonstration; an empty path
+    /// means none.
     ///
     /// @param project  file of the layer's project; may be empty
     void setLayerFile(const QString &path, const QString &project);
 
-    /// Shows the demonstration if the layer is shown.
-    void leaveLayer();
+    /// Prefers the layer to the demonstration, and looks at all of the next one: it has a new
+    /// source.
+    void expectLayer();
 
     /// Shows the demonstration from the distance; the camera points `heightM` above its origin.
     void lookAtDemonstration(double distanceM, double heightM);
@@ -61,16 +69,40 @@ Q_SIGNALS:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+    void showEvent(QShowEvent *event) override;
 
 private:
-    void chooseScene(bool ownLayer);
-    bool showLayer();
-    void refreshLayer();
+    /// A scene with all that is shown around it.
+    struct Picture
+    {
+        vlt::snapshot::Scene scene; ///< null: none yet
+        GroundMaker ground;
+        std::optional<CameraPose> pose; ///< of the camera when it was shown last
+    };
+
+    void show(Picture &picture);
+    void showDemonstration();
+    void placeFirst();
+    void leaveLayer();
+    void wantLayer();
+    void readLayer();
+    void takeLayer(const vlt::Result<vlt::snapshot::Scene> &scene, const GroundMaker &ground);
+    void showState();
 
     std::unique_ptr<Ui::LayerPreview> m_ui;
+    QPushButton *m_demonstrationButton; ///< the last of those two that was used
     QString m_loadingText;
-    vlt::snapshot::Scene m_demonstration; ///< null until one could be loaded
+    Picture m_demonstration;
+    Picture m_layer;
+    Picture *m_shown = nullptr;
+    QString m_layerPlace; ///< centre of the last layer
     QString m_layerFile;
     QString m_project;
-    QTimer m_refreshTimer; ///< combines quick changes into one load of the layer
+    QString m_problem;        ///< why the layer cannot be shown
+    QTimer m_refreshTimer;    ///< combines quick changes into one read of the layer
+    QTimer m_patience;        ///< a short read has no text
+    bool m_wantsLayer = true; ///< otherwise the user chose the demonstration
+    bool m_isPlaced = false;  ///< the demonstration was visible
+    bool m_isReading = false;
+    bool m_isOutdated = true; ///< the layer file has changed since its last read began
 };

@@ -248,6 +248,8 @@ void VltTablePage::readFile(const QString &path, bool quiet)
     m_pathRead = path;
     m_refusal = readTable(path);
     const bool isOpened = file() || (m_refusal && !m_refusal->path.isEmpty());
+    if (file())
+        m_ui->m_pwGbPreview->expectLayer();
     if (isOpened)
         m_fileDir = QFileInfo(path).absolutePath();
     showFile();
@@ -261,7 +263,6 @@ void VltTablePage::showFile()
     const vlt::tables::TableFileInfo *read = file();
     if (!read) {
         leaveLayer(fileReason());
-        m_ui->m_pwGbPreview->leaveLayer();
         m_ui->m_pwLblFileInfo->setText(m_configuration.noFile);
         if (m_overview.excerpt.columns.isEmpty())
             m_details->clear();
@@ -408,10 +409,9 @@ void VltTablePage::showArea(const vlt::geodata::SystemCheck &checked)
 
 void VltTablePage::beginLayer()
 {
-    if (!file())
-        return;
     showDemonstration();
-    checkRows();
+    if (file())
+        checkRows();
 }
 
 std::optional<QString> VltTablePage::obstacle() const
@@ -457,7 +457,7 @@ void VltTablePage::showDemonstration()
     const auto scene = vlt::snapshot::readScene(demonstrationUrl());
     if (scene)
         m_ui->m_pwGbPreview->setDemonstration(scene.value());
-    else
+    else if (file())
         vlt::messages::critical(
             this, vlt::Error::asIs(QStringLiteral("The pylon url didn't return a valid node !")));
 }

@@ -222,6 +222,18 @@ Coordinates are _C_ and are specified in _U_</translation>
         <source>Precise representation</source>
         <translation>Precise representation</translation>
     </message>
+    <message id="MESS_VIEW_SYMBOLIC">
+        <source>Symbolic</source>
+        <translation>Symbolic</translation>
+    </message>
+    <message id="MESS_VIEW_PRECISE">
+        <source>Precise</source>
+        <translation>Precise</translation>
+    </message>
+    <message id="MESS_EXAMPLE">
+        <source>Example</source>
+        <translation>Example</translation>
+    </message>
     <message id="MESS_SECTOR_HEIGHT">
         <source>Sector height</source>
         <translation>Sector height</translation>

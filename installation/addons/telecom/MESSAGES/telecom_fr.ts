@@ -222,6 +222,18 @@ Les coordonnées sont _C_ et exprimées en _U_</translation>
         <source>Precise representation</source>
         <translation>Représentation précise</translation>
     </message>
+    <message id="MESS_VIEW_SYMBOLIC">
+        <source>Symbolic</source>
+        <translation>Symbolique</translation>
+    </message>
+    <message id="MESS_VIEW_PRECISE">
+        <source>Precise</source>
+        <translation>Précise</translation>
+    </message>
+    <message id="MESS_EXAMPLE">
+        <source>Example</source>
+        <translation>Exemple</translation>
+    </message>
     <message id="MESS_SECTOR_HEIGHT">
         <source>Sector height</source>
         <translation>Hauteur des secteurs</translation>
