@@ -191,16 +191,17 @@ private Q_SLOTS:
     void colorsByAField_data()
     {
         using enum vlt::contract::FieldColoring;
-        const Cases<QByteArray, int, QString, QString> row(
-            {"field", "coloring", "colors", "notice"});
+        const Cases<QByteArray, int, QString, QString, QString> row(
+            {"field", "coloring", "colors", "notice", "legend"});
+        const char *map = "map stop000000 stop640000 stopc800ff novalue010203";
         row("mixed", "n", int(Interpolation), "320000 640000 010203",
-            "1 of 3 buildings have no value");
+            "1 of 3 buildings have no value", map);
         row("ranges", "N", int(ColorRange), "000000 640000 010203",
-            "1 of 3 buildings have no value");
+            "1 of 3 buildings have no value", map);
         row("numbers in texts", "t", int(Interpolation), "320000 010203 010203",
-            "2 of 3 buildings have no value in the field \"t\"");
+            "2 of 3 buildings have no value in the field \"t\"", map);
         row("distinct: b once, a twice, none", "use", int(Distinct), "e68a00 1f6fb5 c8c8c8",
-            "1 of 3 buildings");
+            "1 of 3 buildings", "field value1f6fb5 valuee68a00 novaluec8c8c8");
         row("no such field", "width", int(Distinct), "c8c8c8 c8c8c8 c8c8c8", "width");
     }
 
@@ -237,6 +238,13 @@ private Q_SLOTS:
                  colors);
         QCOMPARE(notices.size(), 1U);
         QVERIFY2(QString::fromStdString(notices.front()).contains(notice), notices.front().c_str());
+        QStringList legend;
+        for (const auto &[kind, color, texts] : city.legend) {
+            legend << QString::fromStdString(kind);
+            if (color[3] > 0)
+                legend.last() += hex({{color[0], color[1], color[2]}});
+        }
+        QTEST(legend.join(u' '), "legend");
     }
 
     void transformsPlaces()

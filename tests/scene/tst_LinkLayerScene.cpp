@@ -1,4 +1,5 @@
 #include "LayerScenes.h"
+#include "contract/SceneLegend.h"
 #include "plugins/scene/layers/LayerScene.h"
 #include "plugins/scene/layers/LinkRecords.h"
 #include "plugins/scene/reading/TableLocation.h"
@@ -58,6 +59,13 @@ double terrainM(double x, double y)
 {
     const bool isHill = std::abs(x - 652000) < 150 && std::abs(y - 6860000) < 500;
     return isHill ? 400 : 100 + (x - 650000) / 100;
+}
+
+std::vector<vlt::contract::legend::Row> legendOf(const osg::Node &scene)
+{
+    std::string text;
+    scene.getUserValue(vlt::contract::legend::Key, text);
+    return vlt::contract::legend::rowsOf(text);
 }
 
 double turned(double azimuthDeg)
@@ -159,6 +167,18 @@ private Q_SLOTS:
         QVERIFY(!records.links[3].color && records.links[3].frequencyMHz == 0);
     }
 
+    void theLegendHasTheColorsOfTheLinks()
+    {
+        writeFile(path("t.lay"), layerText(linkSource()));
+        const auto rows = legendOf(*open(path("t.lay")).scene);
+        const LinkRecords records = recordsOf(linkSource());
+        // clear, obstructed, marginal
+        for (const auto &[link, row] : {std::pair(0U, 0U), {1U, 2U}, {2U, 1U}}) {
+            const auto &color = rows.at(row).color;
+            QVERIFY(records.links[link].color == Color(color[0], color[1], color[2], color[3]));
+        }
+    }
+
     void showsAWholeLayer()
     {
         writeFile(path("t.lay"), layerText(linkSource()));
@@ -179,6 +199,14 @@ private Q_SLOTS:
             QVERIFY2(opened.fact(fact) == value, fact);
         QCOMPARE(found.labels.size(), std::size_t{3});
         QVERIFY(std::abs(found.feet["C"].z() - 140) < 0.05);
+        QStringList legend;
+        for (const auto &row : legendOf(*opened.scene)) {
+            legend << QString::fromStdString(row.kind);
+            for (const std::string &text : row.texts)
+                legend.last() += u' ' + QString::fromStdString(text);
+        }
+        QCOMPARE(legend.join(u','),
+                 QStringLiteral("clear 1,marginal 1,obstructed 1,unknown 1,fresnel 1 60"));
         // The origin is the middle of A and B.
         QVERIFY((found.feet["A"] + found.feet["B"] - osg::Vec3d(-1000, 0, 230)).length() < 1.5);
     }

@@ -4,6 +4,7 @@
 #include "support/GeoTiff.h"
 
 #include <osg/Geometry>
+#include <osg/ValueObject>
 #include <osgDB/WriteFile>
 
 #include <QtTest>
@@ -156,8 +157,12 @@ private Q_SLOTS:
         writeFile(path(QStringLiteral("t.csv")), Header + "A,650000,6860000,0,30,90,30,270\n");
         writeFile(path(QStringLiteral("t.lay")), layerText(siteSource("t.csv")));
         Everything found;
-        open(path(QStringLiteral("t.lay"))).scene->accept(found);
+        const Opened opened = open(path(QStringLiteral("t.lay")));
+        opened.scene->accept(found);
 
+        std::string legend;
+        opened.scene->getUserValue("vlt.legend", legend);
+        QCOMPARE(legend, std::string("sector\tff0000ff\t1\nsector\t00ff00ff\t2\n"));
         std::map<bool, double> reach; // farthest x of the red and of the other drawables
         for (const osg::ref_ptr<const osg::Drawable> &drawable : found.drawables) {
             const auto *points =

@@ -6,6 +6,7 @@
 #include "contract/SceneTexts.h"
 #include "localfiles/LocalFormats.h"
 #include "plugins/scene/buildings/CityColors.h"
+#include "plugins/scene/buildings/CityLegend.h"
 #include "plugins/scene/buildings/CityNodes.h"
 #include "plugins/scene/buildings/TexbDocument.h"
 #include "plugins/scene/buildings/TexturedTile.h"
@@ -57,9 +58,13 @@ void colour(CityModel &city, const BuildingDocument &document, const Directories
     } else {
         city.wallColors = townColors(city, footprints.wallColor, document.colors, directories,
                                      notices, part(progress, 0.6, isOne ? 0.8 : 0.7));
+        const std::size_t ofWalls = city.legend.size();
+        if (!isOne)
+            setPart(city.legend, 0, contract::legend::Walls);
         city.roofColors = isOne ? city.wallColors
                                 : townColors(city, footprints.roofColor, document.colors,
                                              directories, notices, part(progress, 0.7, 0.8));
+        setPart(city.legend, ofWalls, contract::legend::Roofs);
     }
     std::size_t &invisible = city.counts.substitutes.transparent;
     for (const std::size_t i : city::firstBuildings(city.footprints))
@@ -82,8 +87,9 @@ void setCore(osg::Group &scene, const std::optional<city::CityCore> &core)
                          whole(std::ceil(core->most.y)));
 }
 
-/// The function that makes tiles with images; empty if the document has no usable images.
-TexturedMaker texturedMaker(const std::shared_ptr<const CityModel> &city,
+/// The function that makes tiles with images; empty if the document has no usable images. Adds the
+/// images to the legend.
+TexturedMaker texturedMaker(const std::shared_ptr<CityModel> &city,
                             const BuildingDocument &document, const Directories &directories,
                             Notices &notices, const Progress &progress)
 {
@@ -93,8 +99,10 @@ TexturedMaker texturedMaker(const std::shared_ptr<const CityModel> &city,
         TextureImages::open(*city, *document.textures, directories, notices, progress);
     if (images->isEmpty())
         return {};
-    return [city, images, textures = *document.textures, skirtM = document.footprints.skirtHeightM](
-               std::span<const std::uint32_t> buildings, const osg::Vec3d &origin) {
+    addImages(city->legend, *images, *document.textures);
+    return [city = std::shared_ptr<const CityModel>(city), images, textures = *document.textures,
+            skirtM = document.footprints.skirtHeightM](std::span<const std::uint32_t> buildings,
+                                                       const osg::Vec3d &origin) {
         return buildTexturedTile(*city, textures, *images, buildings, origin, skirtM);
     };
 }
@@ -137,6 +145,7 @@ osg::ref_ptr<osg::Group> readBuildingScene(const std::string &document, const st
               terrain.file.empty() ? "" : localfiles::locateDataset(terrain.file, directories),
               terrain.noData);
     setCounts(*scene, city->counts);
+    setLegend(*scene, city->legend);
     return scene;
 }
 

@@ -8,6 +8,7 @@
 #include "coverage/CoverageRaster.h"
 #include "coverage/RasterStamp.h"
 #include "localfiles/LocalFormats.h"
+#include "plugins/scene/buildings/CityLegend.h"
 #include "plugins/scene/buildings/ColorText.h"
 #include "plugins/scene/reading/BadLayer.h"
 #include "plugins/scene/reading/Stopped.h"
@@ -106,6 +107,9 @@ std::vector<Rgba> rasterColors(CityModel &city, const RasterColors &colors,
         const Rgba color = colorOf(map, value, interpretation).value_or(WithoutValue);
         give(found, footprints, first, color);
     }
+    const Rgba noValue = colorOf(map, std::nan(""), interpretation).value_or(WithoutValue);
+    addMap(city.legend, map, {nameOf(colors.raster), raster->unit(), interpretation},
+           without > 0 ? &noValue : nullptr);
     std::size_t &counted = city.counts.substitutes.noValue;
     counted = std::max(counted, without);
     if (without > 0)
@@ -128,18 +132,36 @@ public:
 
     bool hasValue(std::size_t row) const { return m_values.hasValue(row); }
 
+    /// @param withoutValue  some buildings have none
+    void addTo(LegendRows &legend, const std::string &field, bool withoutValue) const
+    {
+        const Rgba color =
+            m_coloring == contract::FieldColoring::Distinct
+                ? WithoutValue
+                : colorOf(m_map, std::nan(""), interpretation()).value_or(WithoutValue);
+        const Rgba *noValue = withoutValue ? &color : nullptr;
+        if (m_coloring == contract::FieldColoring::Distinct)
+            addKinds(legend, m_values, field, noValue);
+        else
+            addMap(legend, m_map, {field, "", interpretation()}, noValue);
+    }
+
     /// A colour map may have a colour for rows without a value.
     Rgba at(std::size_t row) const
     {
         if (m_coloring == contract::FieldColoring::Distinct)
             return hasValue(row) ? colormaps::distinctColor(m_values.texts[row]) : WithoutValue;
-        const auto interpretation = m_coloring == contract::FieldColoring::Interpolation
-                                        ? colormaps::Interpretation::Interpolation
-                                        : colormaps::Interpretation::ColorRanges;
-        return colorOf(m_map, m_values.numbers[row], interpretation).value_or(WithoutValue);
+        return colorOf(m_map, m_values.numbers[row], interpretation()).value_or(WithoutValue);
     }
 
 private:
+    colormaps::Interpretation interpretation() const
+    {
+        return m_coloring == contract::FieldColoring::Interpolation
+                   ? colormaps::Interpretation::Interpolation
+                   : colormaps::Interpretation::ColorRanges;
+    }
+
     contract::FieldColoring m_coloring;
     ColorMap m_map;
     city::FieldValues m_values;
@@ -161,6 +183,7 @@ std::vector<Rgba> fieldColors(CityModel &city, const contract::BuildingDocument 
             give(found, footprints, first, colors.at(row));
             without += colors.hasValue(row) ? 0 : 1;
         }
+        colors.addTo(city.legend, document.colors.field, without > 0);
         if (without > 0)
             notices.push_back(
                 contract::formatted("MESS_SCENE_NO_FIELD_VALUE",

@@ -16,7 +16,8 @@ namespace vlt::scene {
 /// Buildings without a value get the map's "no data" colour, else a light grey. If the raster, the
 /// map or the system cannot be used, all buildings get that grey, and a notice gives the reason.
 ///
-/// @param city         receives the number of features without a value in its counts
+/// @param city         receives the number of features without a value in its counts, and the rows
+///                     of its legend
 /// @param directories  searched for relative paths, in this order
 /// @return             parallel to city.footprints.buildings
 /// @throws Stopped     `progress` stopped the function

@@ -3,6 +3,7 @@
 #include "city/CityCore.h"
 #include "city/FootprintReader.h"
 #include "colormaps/ColorMap.h"
+#include "contract/SceneLegend.h"
 #include "plugins/scene/reading/SceneFrame.h"
 
 #include <osg/Vec2d>
@@ -27,6 +28,7 @@ struct CityModel
     std::vector<float> baseM;           ///< parallel to footprints.buildings
     std::vector<colormaps::Rgba> wallColors; ///< parallel to footprints.buildings
     std::vector<colormaps::Rgba> roofColors;
+    std::vector<contract::legend::Row> legend; ///< of the colours
     contract::CityCounts counts;
     std::optional<city::CityCore> core;
 

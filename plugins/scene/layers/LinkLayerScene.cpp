@@ -1,6 +1,7 @@
 #include "plugins/scene/layers/LinkLayerScene.h"
 
 #include "contract/SceneFactKeys.h"
+#include "plugins/scene/layers/LayerLegend.h"
 #include "plugins/scene/link/LinkFactory.h"
 #include "plugins/scene/reading/SceneFacts.h"
 
@@ -31,6 +32,7 @@ osg::ref_ptr<osg::Group> buildLinkLayerScene(const LinkRows &rows, LinkRecords r
         if (!records.statuses.empty())
             setCount(*group, name, records.statuses[status]);
     }
+    setLegend(*group, linkRows(records, appearance));
     if (rows.isCut)
         setCut(*group);
     group->addChild(buildPylonTiles(std::move(records.pylons), content));

@@ -136,10 +136,8 @@ private:
             m_profiler.check(row.ends[0].end, row.ends[1].end, row.frequencyMHz, m_style.rule())
                 .status;
         ++m_records.statuses[status];
-        if (status == linkpath::ClearanceStatus::Unknown)
-            return;
-        const std::array<std::uint8_t, 3> rgb = linkpath::clearanceColor(status);
-        link.color = Color(rgb[0], rgb[1], rgb[2], m_style.appearance.color.a());
+        if (status != linkpath::ClearanceStatus::Unknown)
+            link.color = lineColor(status, m_style.appearance);
     }
 
     const LinkRows &m_links;
@@ -152,6 +150,14 @@ private:
 };
 
 } // namespace
+
+Color lineColor(linkpath::ClearanceStatus status, const LinkAppearance &appearance)
+{
+    if (status == linkpath::ClearanceStatus::Unknown)
+        return appearance.color;
+    const std::array<std::uint8_t, 3> rgb = linkpath::clearanceColor(status);
+    return {rgb[0], rgb[1], rgb[2], appearance.color.a()};
+}
 
 LinkRecords placeLinks(const LinkRows &links, const LinkLayerStyle &style,
                        const linkpath::PathProfiler &profiler)

@@ -37,4 +37,7 @@ struct LinkRecords
 LinkRecords placeLinks(const LinkRows &links, const LinkLayerStyle &style,
                        const linkpath::PathProfiler &profiler);
 
+/// Colour of the lines of a class of clearance; unknown ones have that of the appearance.
+Color lineColor(linkpath::ClearanceStatus status, const LinkAppearance &appearance);
+
 } // namespace vlt::scene

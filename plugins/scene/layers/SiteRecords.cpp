@@ -86,7 +86,7 @@ private:
         m_places.push_back(*place);
     }
 
-    PylonDesign designOf(const OGRFeature &feature) const
+    PylonDesign designOf(const OGRFeature &feature)
     {
         PylonDesign design = m_style.pylon;
         double top = 0;
@@ -108,6 +108,7 @@ private:
             transmitter.tiltDeg =
                 quantityAt(feature, columns.tilt, -MaxTiltDeg, MaxTiltDeg).value_or(0.0);
             transmitter.color = m_style.colors[i % m_style.colors.size()];
+            m_records.transmitters.emplace(columns.number, transmitter.color);
             top = std::max(top, transmitter.heightM);
             design.transmitters.push_back(transmitter);
         }

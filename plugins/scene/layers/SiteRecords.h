@@ -7,6 +7,7 @@
 #include <osg/Vec3d>
 
 #include <cstdint>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -42,6 +43,8 @@ struct SiteRecords : PylonRecords
     std::size_t unplaced = 0; ///< rows without a position
     bool isCut = false;       ///< the table has more sites than MaxSites
     std::string terrain;      ///< path of the terrain on which sites stand; may be empty
+    std::map<int, Color>
+        transmitters; ///< colours by the numbers of the transmitters that sites have
 };
 
 /// Reads all sites of a table.

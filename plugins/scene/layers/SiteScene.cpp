@@ -1,6 +1,7 @@
 #include "plugins/scene/layers/SiteScene.h"
 
 #include "contract/SceneFactKeys.h"
+#include "plugins/scene/layers/LayerLegend.h"
 #include "plugins/scene/reading/SceneFacts.h"
 
 namespace vlt::scene {
@@ -16,6 +17,7 @@ osg::ref_ptr<osg::Group> buildSiteScene(SiteRecords records, const std::string &
     setCount(*group, contract::facts::Unplaced, records.unplaced);
     if (records.isCut)
         setCut(*group);
+    setLegend(*group, sectorRows(records.transmitters));
     if (!records.sites.empty())
         group->addChild(buildPylonTiles(std::move(records), content));
     return group;

@@ -46,4 +46,10 @@ void setCut(osg::Group &scene)
     scene.addDescription(facts::Cut);
 }
 
+void setLegend(osg::Group &scene, const std::vector<contract::legend::Row> &rows)
+{
+    if (!rows.empty())
+        scene.setUserValue(contract::legend::Key, contract::legend::textOf(rows));
+}
+
 } // namespace vlt::scene

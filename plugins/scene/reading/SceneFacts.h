@@ -1,11 +1,13 @@
 #pragma once
 
+#include "contract/SceneLegend.h"
 #include "plugins/scene/reading/SceneFrame.h"
 
 #include <osg/Group>
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace vlt::scene {
 
@@ -28,5 +30,8 @@ void setCut(osg::Group &scene);
 /// @param noData   of the terrain, beside the file's own; may be empty
 void setGround(osg::Group &scene, double lowestM, const std::string &terrain,
                const std::string &noData = {});
+
+/// Adds the legend, a value of contract/SceneLegend.h; none without rows.
+void setLegend(osg::Group &scene, const std::vector<contract::legend::Row> &rows);
 
 } // namespace vlt::scene
