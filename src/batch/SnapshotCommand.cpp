@@ -8,6 +8,7 @@
 #include "language/ReaderText.h"
 #include "language/VltLanguageManager.h"
 #include "platform/AtomicFile.h"
+#include "snapshot/SceneEarth.h"
 #include "snapshot/SceneGround.h"
 #include "snapshot/SceneNotices.h"
 #include "snapshot/SceneSource.h"
@@ -49,6 +50,7 @@ struct Request
     std::optional<QString> terrain; ///< empty: none; nothing: that of the layer or the project
     QString imagery;                ///< empty: none
     bool withGround = true;
+    bool withLegend = false;
 };
 
 CommandSyntax syntax()
@@ -99,6 +101,9 @@ CommandSyntax syntax()
                     "Image to lay over the ground: any local raster with a georeference, in "
                     "colors, gray or with a palette."),
          QStringLiteral("FILE")},
+        {QStringLiteral("legend"),
+         dico_label("MESS_OPT_PICTURE_LEGEND",
+                    "Draw the legend: colors of sectors, of clearances, of values of buildings.")},
         {QStringLiteral("no-ground"),
          dico_label("MESS_OPT_NO_GROUND", "Show no ground below the layer.")},
     };
@@ -162,6 +167,7 @@ Result<Request> readRequest(const QCommandLineParser &parser)
         return wrongValue(QStringLiteral("view"), ViewNames, request.viewName);
     request.picture.view = *view;
     request.picture.aids.title = parser.value(QStringLiteral("title"));
+    request.withLegend = parser.isSet(QStringLiteral("legend"));
     request.picture.aids.withNorth = parser.isSet(QStringLiteral("north"));
     if (parser.isSet(QStringLiteral("terrain")))
         request.terrain = parser.value(QStringLiteral("terrain"));
@@ -256,13 +262,16 @@ ExitStatus makePicture(const Request &request, const GlobalOptions &options,
         return refuseLayer(scene.error(), request);
     }
     printNotices(notices.take(), options);
+    snapshot::PictureRequest wanted = request.picture;
+    if (request.withLegend)
+        wanted.aids.legend = snapshot::readingOf(scene.value()).legend;
     std::optional<snapshot::SceneGround> ground;
     if (request.withGround)
         ground.emplace(*scene.value(), terrain, request.terrain.has_value());
     if (ground && !request.imagery.isEmpty())
         ground->drape(request.imagery);
     const Result<QImage> picture =
-        snapshot::renderSnapshot(*scene.value(), request.picture, ground ? &*ground : nullptr);
+        snapshot::renderSnapshot(*scene.value(), wanted, ground ? &*ground : nullptr);
     if (!picture)
         return refuseLayer(picture.error(), request);
     if (ground)

@@ -4,6 +4,7 @@
 #include "preview/AidPlate.h"
 #include "preview/VltTrackBall.h"
 #include "preview/W_simpleOSGViewer.h"
+#include "readingaids/LegendDrawing.h"
 #include "readingaids/NorthArrow.h"
 #include "readingaids/ScaleBar.h"
 
@@ -65,6 +66,10 @@ VltReadingAids::VltReadingAids(W_simpleOSGViewer &viewer)
         drawScaleBar(painter, area, m_length, style());
     });
     m_scaleBar->setObjectName(QStringLiteral("m_pwScaleBar"));
+    m_legend = new AidPlate(view, [this](QPainter &painter, const QRectF &area) {
+        drawLegend(painter, area, m_reading.legend, style());
+    });
+    m_legend->setObjectName(QStringLiteral("m_pwLegend"));
     m_north = new NorthButton(view, [this](QPainter &painter, const QRectF &area) {
         drawNorthArrow(painter, area, m_bearingDeg, style());
     });
@@ -83,6 +88,7 @@ void VltReadingAids::show(bool hasScene, const SceneReading &reading)
     m_hasScene = hasScene;
     m_reading = reading;
     place();
+    m_legend->update();
 }
 
 /// Dark texts on light plates, or the other way round, as on the pages.
@@ -152,6 +158,22 @@ void VltReadingAids::place()
     const QSize bar = scaleBarSize(m_length, look).toSize();
     m_scaleBar->setGeometry(gap, view.height() - bar.height() - gap, bar.width(), bar.height());
     m_scaleBar->setVisible(isShown && m_length.lengthM > 0);
+    placeLegend(isShown, gap);
+}
+
+/// A small view has no legend.
+void VltReadingAids::placeLegend(bool isShown, int gap)
+{
+    constexpr double MaxWidthShare = 0.5;
+    constexpr double MaxHeightShare = 0.62;
+    const QSize view = static_cast<QWidget &>(m_viewer).size();
+    const QSize legend = legendSize(m_reading.legend, style()).toSize();
+    m_legend->setGeometry(view.width() - legend.width() - gap,
+                          view.height() - legend.height() - gap, legend.width(), legend.height());
+    const bool fits = legend.width() <= MaxWidthShare * view.width() &&
+                      legend.height() <= MaxHeightShare * view.height() &&
+                      !m_legend->geometry().intersects(m_scaleBar->geometry());
+    m_legend->setVisible(isShown && fits && !m_reading.legend.isEmpty());
 }
 
 void VltReadingAids::turnNorthUp()

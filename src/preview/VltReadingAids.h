@@ -11,8 +11,8 @@ class QAbstractButton;
 class QMenu;
 class W_simpleOSGViewer;
 
-/// Scale bar and north arrow over the edges of a 3D view. They are widgets of their own: they
-/// change with the camera, and their changes draw no scene.
+/// Scale bar, north arrow and legend over the edges of a 3D view. They are widgets of their own:
+/// they change with the camera, and their changes draw no scene.
 ///
 /// The keys of the view: N turns north up, A shows or hides the aids. A click with the right button
 /// opens a menu with all that the keys do. Whether the aids are shown is remembered, for all views.
@@ -36,6 +36,7 @@ private:
     void openMenu(const QPoint &at);
     void follow();
     void place();
+    void placeLegend(bool isShown, int gap);
     vlt::readingaids::AidStyle style() const;
     vlt::readingaids::ViewCamera camera() const;
     double northDeg(const vlt::readingaids::ViewCamera &camera) const;
@@ -45,6 +46,7 @@ private:
     bool m_hasScene = false;
     QPoint m_pressedAt;
     AidPlate *m_scaleBar;
+    AidPlate *m_legend;
     QAbstractButton *m_north;
     vlt::readingaids::ScaleLength m_length;
     double m_bearingDeg = 0;

@@ -1,5 +1,6 @@
 #include "readingaids/PictureAids.h"
 
+#include "readingaids/LegendDrawing.h"
 #include "readingaids/NorthArrow.h"
 #include "readingaids/ScaleBar.h"
 
@@ -40,6 +41,11 @@ void drawAids(QImage &picture, const PictureAids &aids, const ViewCamera &camera
     if (!aids.title.isEmpty())
         drawTitle(painter, free.adjusted(0, 0, aids.withNorth ? -side - gap : 0, 0), aids.title,
                   style);
+    if (!aids.legend.isEmpty()) {
+        const QSizeF size = legendSize(aids.legend, style);
+        drawLegend(painter, {{free.right() - size.width(), free.bottom() - size.height()}, size},
+                   aids.legend, style);
+    }
     if (!aids.withNorth)
         return;
     drawNorthArrow(painter, {free.right() - side, free.top(), side, side},

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "readingaids/Legend.h"
 #include "readingaids/ViewScale.h"
 
 #include <QImage>
@@ -12,8 +13,9 @@ struct PictureAids
 {
     QString title;          ///< empty: none
     bool withNorth = false; ///< arrow and scale bar
+    Legend legend = {};     ///< empty: none
 
-    bool isEmpty() const { return title.isEmpty() && !withNorth; }
+    bool isEmpty() const { return title.isEmpty() && !withNorth && legend.isEmpty(); }
 };
 
 /// Draws the aids at the edges of a picture, in sizes that follow its size. It needs a

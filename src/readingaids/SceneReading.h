@@ -1,5 +1,7 @@
 #pragma once
 
+#include "readingaids/Legend.h"
+
 #include <functional>
 
 namespace vlt::readingaids {
@@ -10,6 +12,7 @@ struct SceneReading
 {
     /// Direction of true north at a place, in degrees clockwise from the y axis.
     std::function<double(double x, double y)> northDeg;
+    Legend legend;
 };
 
 } // namespace vlt::readingaids

@@ -1,6 +1,7 @@
 #include "snapshot/SceneEarth.h"
 
 #include "contract/SceneFactKeys.h"
+#include "contract/SceneLegend.h"
 #include "contract/ScenePlace.h"
 #include "localframe/TrueNorth.h"
 
@@ -48,6 +49,9 @@ readingaids::SceneReading readingOf(const Scene &scene)
     readingaids::SceneReading reading;
     const auto north = std::make_shared<NorthAtPlace>(frameOf(*scene));
     reading.northDeg = [north](double x, double y) { return (*north)({x, y}); };
+    std::string legend;
+    scene->getUserValue(contract::legend::Key, legend);
+    reading.legend = readingaids::legendOf(legend);
     return reading;
 }
 

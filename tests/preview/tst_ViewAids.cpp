@@ -27,6 +27,7 @@ class tst_ViewAids : public QObject
     W_simpleOSGViewer *m_viewer = nullptr;
     QAbstractButton *m_north = nullptr;
     QWidget *m_scaleBar = nullptr;
+    QWidget *m_legend = nullptr;
 
     QWidget *view() { return m_viewer; }
     double bearingInFrame()
@@ -48,8 +49,10 @@ private Q_SLOTS:
         ball->addDrawable(new osg::ShapeDrawable(new osg::Sphere(osg::Vec3(), 100)));
         m_viewer->showScene(ball);
         auto *aids = new VltReadingAids(*m_viewer);
-        aids->show(true, {[](double, double) { return NorthDeg; }});
+        aids->show(true, {[](double, double) { return NorthDeg; },
+                          {{u"Level"_s, {}, {{Qt::red, u"high"_s}}}}});
         m_north = view()->findChild<QAbstractButton *>(u"m_pwNorth"_s);
+        m_legend = view()->findChild<QWidget *>(u"m_pwLegend"_s);
         m_scaleBar = view()->findChild<QWidget *>(u"m_pwScaleBar"_s);
         m_window->resize(360, 400);
         m_window->show();
@@ -80,13 +83,16 @@ private Q_SLOTS:
     {
         QRect middle(0, 0, view()->width() / 2, view()->height() / 2);
         middle.moveCenter(view()->rect().center());
-        for (const QWidget *aid : {static_cast<QWidget *>(m_north), m_scaleBar}) {
+        for (const QWidget *aid : {static_cast<QWidget *>(m_north), m_scaleBar, m_legend}) {
             QVERIFY(view()->rect().contains(aid->geometry()));
             QVERIFY(!middle.intersects(aid->geometry()));
         }
+        QVERIFY(m_legend->isVisible());
         const int before = m_scaleBar->width();
         m_viewer->placeCamera(777, 0);
         QTRY_VERIFY_WITH_TIMEOUT(m_scaleBar->width() != before, PatienceMs);
+        m_window->resize(150, 120); // too small for a legend
+        QTRY_VERIFY_WITH_TIMEOUT(m_legend->isHidden(), PatienceMs);
     }
 
     void areHiddenAndStaySo()

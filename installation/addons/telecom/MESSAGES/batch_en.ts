@@ -575,6 +575,10 @@
         <source>Draw an arrow to true north, and a scale bar that is valid in the middle of the picture.</source>
         <translation>Draw an arrow to true north, and a scale bar that is valid in the middle of the picture.</translation>
     </message>
+    <message id="MESS_OPT_PICTURE_LEGEND">
+        <source>Draw the legend: colors of sectors, of clearances, of values of buildings.</source>
+        <translation>Draw the legend: colors of sectors, of clearances, of values of buildings.</translation>
+    </message>
     <message id="MESS_OPT_NO_GROUND">
         <source>Show no ground below the layer.</source>
         <translation>Show no ground below the layer.</translation>

@@ -575,6 +575,10 @@
         <source>Draw an arrow to true north, and a scale bar that is valid in the middle of the picture.</source>
         <translation>Tracer une flèche vers le nord géographique et une barre d'échelle valable au milieu de l'image.</translation>
     </message>
+    <message id="MESS_OPT_PICTURE_LEGEND">
+        <source>Draw the legend: colors of sectors, of clearances, of values of buildings.</source>
+        <translation>Tracer la légende&#xa0;: couleurs des secteurs, des dégagements, des valeurs des bâtiments.</translation>
+    </message>
     <message id="MESS_OPT_NO_GROUND">
         <source>Show no ground below the layer.</source>
         <translation>Ne montrer aucun sol sous la couche.</translation>

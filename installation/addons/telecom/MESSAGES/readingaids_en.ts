@@ -39,5 +39,61 @@
         <source>Scale, north and legend</source>
         <translation>Scale, north and legend</translation>
     </message>
+    <message id="MESS_LEGEND_COUNTED">
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message id="MESS_LEGEND_SECTOR">
+        <source>Sector %1</source>
+        <translation>Sector %1</translation>
+    </message>
+    <message id="MESS_LEGEND_SECTORS">
+        <source>Sectors %1</source>
+        <translation>Sectors %1</translation>
+    </message>
+    <message id="MESS_LEGEND_ZONE">
+        <source>Fresnel zone %1</source>
+        <translation>Fresnel zone %1</translation>
+    </message>
+    <message id="MESS_LEGEND_PART_OF_ZONE">
+        <source>%2 % of Fresnel zone %1</source>
+        <translation>%2 % of Fresnel zone %1</translation>
+    </message>
+    <message id="MESS_LEGEND_IMAGE">
+        <source>%1 m: %2</source>
+        <translation>%1 m: %2</translation>
+    </message>
+    <message id="MESS_LEGEND_UNIT">
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message id="MESS_LEGEND_WALLS">
+        <source>Walls: %1</source>
+        <translation>Walls: %1</translation>
+    </message>
+    <message id="MESS_LEGEND_ROOFS">
+        <source>Roofs: %1</source>
+        <translation>Roofs: %1</translation>
+    </message>
+    <message id="MESS_LEGEND_LINK">
+        <source>Line of sight</source>
+        <translation>Line of sight</translation>
+    </message>
+    <message id="MESS_LEGEND_OTHERS">
+        <source>other values</source>
+        <translation>other values</translation>
+    </message>
+    <message id="MESS_LEGEND_NO_VALUE">
+        <source>no value</source>
+        <translation>no value</translation>
+    </message>
+    <message id="MESS_LEGEND_IMAGES">
+        <source>Images by height</source>
+        <translation>Images by height</translation>
+    </message>
+    <message id="MESS_LEGEND_MORE">
+        <source>%1 more</source>
+        <translation>%1 more</translation>
+    </message>
 </context>
 </TS>

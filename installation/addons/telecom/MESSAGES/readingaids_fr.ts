@@ -39,5 +39,61 @@
         <source>Scale, north and legend</source>
         <translation>Échelle, nord et légende</translation>
     </message>
+    <message id="MESS_LEGEND_COUNTED">
+        <source>%1: %2</source>
+        <translation>%1&#xa0;: %2</translation>
+    </message>
+    <message id="MESS_LEGEND_SECTOR">
+        <source>Sector %1</source>
+        <translation>Secteur %1</translation>
+    </message>
+    <message id="MESS_LEGEND_SECTORS">
+        <source>Sectors %1</source>
+        <translation>Secteurs %1</translation>
+    </message>
+    <message id="MESS_LEGEND_ZONE">
+        <source>Fresnel zone %1</source>
+        <translation>Zone de Fresnel %1</translation>
+    </message>
+    <message id="MESS_LEGEND_PART_OF_ZONE">
+        <source>%2 % of Fresnel zone %1</source>
+        <translation>%2&#xa0;% de la zone de Fresnel %1</translation>
+    </message>
+    <message id="MESS_LEGEND_IMAGE">
+        <source>%1 m: %2</source>
+        <translation>%1&#xa0;m&#xa0;: %2</translation>
+    </message>
+    <message id="MESS_LEGEND_UNIT">
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message id="MESS_LEGEND_WALLS">
+        <source>Walls: %1</source>
+        <translation>Murs&#xa0;: %1</translation>
+    </message>
+    <message id="MESS_LEGEND_ROOFS">
+        <source>Roofs: %1</source>
+        <translation>Toits&#xa0;: %1</translation>
+    </message>
+    <message id="MESS_LEGEND_LINK">
+        <source>Line of sight</source>
+        <translation>Ligne de visée</translation>
+    </message>
+    <message id="MESS_LEGEND_OTHERS">
+        <source>other values</source>
+        <translation>autres valeurs</translation>
+    </message>
+    <message id="MESS_LEGEND_NO_VALUE">
+        <source>no value</source>
+        <translation>sans valeur</translation>
+    </message>
+    <message id="MESS_LEGEND_IMAGES">
+        <source>Images by height</source>
+        <translation>Images par hauteur</translation>
+    </message>
+    <message id="MESS_LEGEND_MORE">
+        <source>%1 more</source>
+        <translation>%1 de plus</translation>
+    </message>
 </context>
 </TS>
