@@ -1,4 +1,5 @@
 #include "QueryTesting.h"
+#include "ScenePicture.h"
 
 #include "plugins/scene/link/LinkFactory.h"
 #include "plugins/scene/mesh/Solids.h"
@@ -13,7 +14,6 @@
 #include <osg/LOD>
 #include <osg/LineWidth>
 #include <osgDB/ReadFile>
-#include <osgViewer/Viewer>
 
 #include <algorithm>
 #include <cmath>
@@ -78,45 +78,6 @@ Finder found(osg::Node &node)
     Finder finder;
     node.accept(finder);
     return finder;
-}
-
-osg::ref_ptr<osg::GraphicsContext> openContext(int side)
-{
-    osg::ref_ptr<osg::GraphicsContext::Traits> traits = new osg::GraphicsContext::Traits;
-    traits->readDISPLAY();
-    traits->setUndefinedScreenDetailsToDefaultScreen();
-    traits->width = traits->height = side;
-    traits->pbuffer = true;
-    return osg::GraphicsContext::createGraphicsContext(traits);
-}
-
-/// A picture of 301 x 301 pixels from an eye that looks at the origin, with a black background;
-/// null without a screen.
-osg::ref_ptr<osg::Image> picture(osg::Node *scene, const osg::Vec3d &eye, bool isParallel)
-{
-    constexpr int Side = 301;
-    osgViewer::Viewer viewer;
-    viewer.setThreadingModel(osgViewer::ViewerBase::SingleThreaded);
-    osg::Camera &camera = *viewer.getCamera();
-    camera.setGraphicsContext(openContext(Side));
-    if (!camera.getGraphicsContext())
-        return nullptr;
-    camera.setViewport(0, 0, Side, Side);
-    camera.setDrawBuffer(GL_FRONT);
-    camera.setReadBuffer(GL_FRONT);
-    camera.setClearColor(osg::Vec4(0, 0, 0, 1));
-    if (isParallel)
-        camera.setProjectionMatrixAsOrtho(-602, 602, -602, 602, 1, 1e5);
-    else
-        camera.setProjectionMatrixAsPerspective(60, 1, 1, 1e5);
-    const osg::ref_ptr<osg::Image> image = new osg::Image;
-    image->allocateImage(Side, Side, 1, GL_RGB, GL_UNSIGNED_BYTE);
-    camera.attach(osg::Camera::COLOR_BUFFER, image);
-    viewer.setSceneData(scene);
-    viewer.realize();
-    camera.setViewMatrixAsLookAt(eye, {}, {0, 0.01, 1});
-    viewer.frame();
-    return image;
 }
 
 } // namespace
@@ -282,7 +243,7 @@ private Q_SLOTS:
         const osg::ref_ptr<osg::Group> scene =
             buildLinks({{{-9000, 0, 0}, {9000, 0, 0}, 0, {}}}, appearanceOf(style, width));
 
-        const auto image = picture(scene, {eye[0], eye[1], eye[2]}, isParallel);
+        const auto image = scenePicture(scene, {eye[0], eye[1], eye[2]}, isParallel);
 
         if (!image)
             QSKIP("no screen");
@@ -316,7 +277,8 @@ private Q_SLOTS:
         std::vector<LinkObject> all(static_cast<std::size_t>(links),
                                     {{-500, -1e6, 0}, {500, -1e6, 0}, 30, {}});
         all.front() = {{-500, 0, 0}, {500, 0, 0}, 30, {}};
-        const auto image = picture(buildLinks(all, appearance), {eye[0], eye[1], eye[2]}, false);
+        const auto image =
+            scenePicture(buildLinks(all, appearance), {eye[0], eye[1], eye[2]}, false);
 
         if (!image)
             QSKIP("no screen");
@@ -343,7 +305,7 @@ private Q_SLOTS:
         appearance.fresnelZone = 1;
         appearance.fresnelColor = Color(255, 0, 0, 200);
 
-        const auto image = picture(
+        const auto image = scenePicture(
             buildLinks({{{-9000, 0, 0}, {9000, 0, 0}, 6000, {}}}, appearance), {0, eye, 0}, false);
 
         if (!image)

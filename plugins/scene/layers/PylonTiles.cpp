@@ -1,6 +1,7 @@
 #include "plugins/scene/layers/PylonTiles.h"
 
 #include "plugins/scene/layers/SiteLabels.h"
+#include "plugins/scene/layers/SiteSymbols.h"
 #include "plugins/scene/layers/SiteTree.h"
 #include "plugins/scene/mesh/DeferredNode.h"
 #include "plugins/scene/mesh/MovedNode.h"
@@ -16,6 +17,7 @@
 #include <cmath>
 #include <limits>
 #include <mutex>
+#include <optional>
 
 namespace vlt::scene {
 
@@ -34,6 +36,8 @@ constexpr float DotPixels = 4;
 constexpr double DotPad = 0.01; ///< share of the distance at which dots begin
 constexpr float Endless = std::numeric_limits<float>::max();
 const Color Dot{255, 150, 40, 255};
+/// Sectors of this share of the symbolic distance are small there, also in large pictures.
+constexpr double SmallSectorShare = 0.015;
 
 osg::ref_ptr<osg::StateSet> makeDotState()
 {
@@ -51,12 +55,15 @@ struct Content
         , isWholeAtOnce(made == TileContent::AtOnce && records.sites.size() <= MaxSitesAtOnce)
         , isCoarseAtOnce(made == TileContent::AtOnce &&
                          records.sites.size() <= MaxCoarseSitesAtOnce)
+        , hasSymbols(made == TileContent::WhenDrawn && records.sites.size() <= MaxSymbols)
         , factory(isWholeAtOnce ? PreciseModel::AtOnce : PreciseModel::WhenNeeded)
     {}
 
     PylonRecords records;
     bool isWholeAtOnce;
     bool isCoarseAtOnce;
+    bool hasSymbols;
+    SiteSymbols symbols;
     SiteLabels labels;
     std::mutex guard; ///< several threads may cull
     PylonFactory factory;
@@ -186,32 +193,57 @@ osg::ref_ptr<osg::Node> makeCoarse(const Content &content, const Sites &sites,
     return geode;
 }
 
+/// Symbols or dots.
+///
+/// @param spacings  of the sites in metres
+osg::ref_ptr<osg::Geometry> makeMarks(const Content &content, const Sites &sites,
+                                      const std::vector<double> &spacings, const osg::Vec3d &origin)
+{
+    if (content.hasSymbols) {
+        std::vector<SiteSymbol> symbols;
+        symbols.reserve(sites.size());
+        for (std::size_t i = 0; i < sites.size(); ++i) {
+            const SiteRecord &record = content.records.sites[sites[i]];
+            symbols.push_back(
+                {record.foot - origin, spacings[i], record.northDeg, &content.designOf(sites[i])});
+        }
+        return content.symbols.build(symbols, content.dotPadM());
+    }
+    osg::ref_ptr<osg::Vec3Array> points = new osg::Vec3Array;
+    points->reserve(static_cast<unsigned>(sites.size()));
+    for (const std::uint32_t site : sites)
+        points->push_back(content.records.sites[site].foot - origin +
+                          osg::Vec3d(0, 0, content.designOf(site).heightM / 2));
+    return makeDots(points, content.dotPadM(), content.dotState);
+}
+
 /// Whole pylons.
 ///
-/// @param withDots  adds dots for pylons beyond their symbolic distance: a wide tile may have such
-///                  pylons while others are near
+/// @param markSpacingM  adds marks for pylons beyond their symbolic distance, because a wide tile
+///                      may have such pylons while others are near; nothing: none
 osg::ref_ptr<osg::Node> makePylons(Content &content, const Sites &sites, const osg::Vec3d &origin,
-                                   bool withDots)
+                                   const std::optional<double> &markSpacingM)
 {
     const std::lock_guard lock(content.guard);
     if (!content.takeBudget(sites))
         return makeCoarse(content, sites, origin);
     osg::ref_ptr<osg::Group> group = new osg::Group;
-    osg::ref_ptr<osg::Node> dot;
-    if (withDots)
-        dot = makeDots(new osg::Vec3Array(1), content.dotPadM(), content.dotState);
     for (const std::uint32_t site : sites) {
         const SiteRecord &record = content.records.sites[site];
         const osg::ref_ptr<osg::Node> pylon =
             content.factory.build({record.foot - origin, content.designOf(site), record.northDeg});
         pylon->setName(record.name);
         group->addChild(pylon);
-        if (!dot)
+        if (!markSpacingM)
             continue;
         const PylonDesign &design = content.designOf(site);
+        const osg::Vec3d middle = record.foot + osg::Vec3d(0, 0, design.heightM / 2);
         osg::ref_ptr<osg::LOD> beyond = new osg::LOD;
-        beyond->addChild(dot, static_cast<float>(design.symbolicDistanceM), Endless);
-        group->addChild(moved(beyond, record.foot - origin + osg::Vec3d(0, 0, design.heightM / 2)));
+        beyond->setCenterMode(osg::LOD::USER_DEFINED_CENTER);
+        beyond->setCenter(osg::Vec3());
+        beyond->addChild(makeMarks(content, {site}, {*markSpacingM}, middle),
+                         static_cast<float>(design.symbolicDistanceM), Endless);
+        group->addChild(moved(beyond, middle - origin));
     }
     return group;
 }
@@ -226,6 +258,7 @@ public:
             m_top = std::max(m_top, topOf(design));
             m_symbolicM = design.symbolicDistanceM; // the same for all designs
             m_realisticM = design.realisticDistanceM;
+            m_sectorM = design.sectorRadiusM; // and this
             m_reach = std::max({m_reach, design.sectorRadiusM, design.heightM + RodM});
         }
     }
@@ -250,7 +283,7 @@ public:
         const float far = static_cast<float>(m_symbolicM) + bound.radius();
         osg::ref_ptr<osg::LOD> block = levels(bound);
         block->addChild(inner, 0, far);
-        block->addChild(dots(tree, bound.center()), far, Endless);
+        block->addChild(marks(tree, bound), far, Endless);
         return block;
     }
 
@@ -272,25 +305,29 @@ private:
         return lod;
     }
 
-    void addDots(const SiteTree &tree, const osg::Vec3d &origin, osg::Vec3Array &points) const
+    void addSites(const SiteTree &tree, Sites &sites, std::vector<double> &spacings) const
     {
-        for (const std::uint32_t site : tree.sites) {
-            const double height = m_content->designOf(site).heightM;
-            points.push_back(m_content->records.sites[site].foot - origin +
-                             osg::Vec3d(0, 0, height / 2));
-        }
+        sites.insert(sites.end(), tree.sites.begin(), tree.sites.end());
+        spacings.insert(spacings.end(), tree.sites.size(), spacingOf(tree));
         if (!tree.isLeaf()) {
-            addDots(*tree.low, origin, points);
-            addDots(*tree.high, origin, points);
+            addSites(*tree.low, sites, spacings);
+            addSites(*tree.high, sites, spacings);
         }
     }
 
-    osg::ref_ptr<osg::Node> dots(const SiteTree &tree, const osg::Vec3d &origin) const
+    osg::ref_ptr<osg::Node> marks(const SiteTree &tree, const osg::BoundingSphere &bound) const
     {
-        osg::ref_ptr<osg::Vec3Array> points = new osg::Vec3Array;
-        points->reserve(static_cast<unsigned>(tree.siteCount));
-        addDots(tree, origin, *points);
-        return moved(makeDots(points, m_content->dotPadM(), m_content->dotState), origin);
+        Sites sites;
+        std::vector<double> spacings;
+        addSites(tree, sites, spacings);
+        const osg::Vec3d origin = bound.center();
+        if (!m_content->hasSymbols)
+            return moved(makeMarks(*m_content, sites, spacings, origin), origin);
+        const auto make = [content = m_content, sites, spacings, origin] {
+            return osg::ref_ptr<osg::Node>(makeMarks(*content, sites, spacings, origin));
+        };
+        const osg::BoundingSphere inner(osg::Vec3(), bound.radius());
+        return moved(new DeferredNode(make, inner), origin);
     }
 
     /// The node of a leaf: its three representations and its names.
@@ -312,13 +349,19 @@ private:
         const float far = static_cast<float>(m_symbolicM) + radius;
         const float near = std::min(far, static_cast<float>(m_realisticM) + radius);
         osg::ref_ptr<osg::LOD> lod = levels(bound);
-        const bool withDots = near + radius > m_symbolicM;
-        lod->addChild(part(isWhole, [=] { return makePylons(*content, sites, origin, withDots); }),
-                      0, near);
+        std::optional<double> markSpacingM;
+        if (near + radius > m_symbolicM)
+            markSpacingM = spacingOf(tree);
+        lod->addChild(
+            part(isWhole, [=] { return makePylons(*content, sites, origin, markSpacingM); }), 0,
+            near);
         lod->addChild(
             part(content->isCoarseAtOnce, [=] { return makeCoarse(*content, sites, origin); }),
             near, far);
-        lod->addChild(dots(tree, origin), far, Endless);
+        const osg::ref_ptr<osg::Node> beyond = marks(tree, bound);
+        lod->addChild(beyond, far, Endless);
+        if (content->hasSymbols && m_sectorM < SmallSectorShare * m_symbolicM)
+            lod->addChild(SiteSymbols::whereSectorsAreSmall(beyond), 0, far);
 
         const double labelM = labelDistance(tree);
         lod->addChild(part(isWhole, [=] { return makeLabels(*content, sites, origin, labelM); }), 0,
@@ -326,15 +369,20 @@ private:
         return lod;
     }
 
-    double labelDistance(const SiteTree &tree) const
+    /// Mean distance between the sites of a leaf.
+    double spacingOf(const SiteTree &tree) const
     {
         if (tree.siteCount == 1)
-            return m_symbolicM;
+            return Endless;
         const double width = tree.feet.xMax() - tree.feet.xMin();
         const double depth = tree.feet.yMax() - tree.feet.yMin();
         const auto count = static_cast<double>(tree.siteCount);
-        const double way = std::max(std::sqrt(width * depth / count), (width + depth) / count);
-        return std::min(LabelRoom * way, m_symbolicM);
+        return std::max(std::sqrt(width * depth / count), (width + depth) / count);
+    }
+
+    double labelDistance(const SiteTree &tree) const
+    {
+        return std::min(LabelRoom * spacingOf(tree), m_symbolicM);
     }
 
     ContentPtr m_content;
@@ -342,6 +390,7 @@ private:
     double m_reach = 0;
     double m_symbolicM = 0;
     double m_realisticM = 0;
+    double m_sectorM = 0;
 };
 
 } // namespace
@@ -350,7 +399,13 @@ osg::ref_ptr<osg::Node> buildPylonTiles(PylonRecords records, TileContent conten
 {
     const auto shared = std::make_shared<Content>(std::move(records), content);
     const std::unique_ptr<SiteTree> tree = growSiteTree(shared->records.sites, SitesPerTile);
-    return SceneBuilder(shared).branch(*tree, false);
+    const osg::ref_ptr<osg::Node> all = SceneBuilder(shared).branch(*tree, false);
+    if (!shared->hasSymbols)
+        return all;
+    osg::ref_ptr<osg::Group> top = new osg::Group;
+    SiteSymbols::prepare(*top, shared->records.designs.front().sectorRadiusM);
+    top->addChild(all);
+    return top;
 }
 
 } // namespace vlt::scene

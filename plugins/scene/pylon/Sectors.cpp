@@ -20,13 +20,6 @@ double beamWidth(const Transmitter &transmitter)
     return transmitter.kind == AntennaKind::Dish ? DefaultDishBeamDeg : DefaultBeamWidthDeg;
 }
 
-bool overlap(const Sector &one, const Sector &other)
-{
-    const double between =
-        std::abs(std::remainder(one.azimuthDeg - other.azimuthDeg, WholeTurnDeg));
-    return between < (one.beamWidthDeg + other.beamWidthDeg) / 2 - TouchingDeg;
-}
-
 Color scaled(const Color &color, double share)
 {
     const auto part = [share](unsigned char value) {
@@ -136,6 +129,13 @@ void addEdges(Mesh &edges, const Wedge &wedge, const Color &color)
 
 } // namespace
 
+bool doOverlap(const Sector &one, const Sector &other)
+{
+    const double between =
+        std::abs(std::remainder(one.azimuthDeg - other.azimuthDeg, WholeTurnDeg));
+    return between < (one.beamWidthDeg + other.beamWidthDeg) / 2 - TouchingDeg;
+}
+
 std::vector<Sector> stackSectors(const PylonDesign &pylon)
 {
     std::vector<const Transmitter *> rising;
@@ -157,7 +157,7 @@ std::vector<Sector> stackSectors(const PylonDesign &pylon)
                       transmitter->color};
         for (const Sector &other : placed) {
             const double step = thickness + pylon.sectorSpacingM;
-            if (overlap(sector, other) && sector.bottomM < other.bottomM + step - TouchingM &&
+            if (doOverlap(sector, other) && sector.bottomM < other.bottomM + step - TouchingM &&
                 sector.bottomM > other.bottomM - step + TouchingM)
                 sector.bottomM = other.bottomM + step;
         }

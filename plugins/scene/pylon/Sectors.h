@@ -18,6 +18,9 @@ struct Sector
     Color color;
 };
 
+/// Whether two sectors cover a common direction.
+bool doOverlap(const Sector &one, const Sector &other);
+
 /// The sectors of a pylon, one for each visible transmitter (radius, height and opacity above 0),
 /// in ascending order of their bottoms.
 ///
