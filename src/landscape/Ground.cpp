@@ -97,18 +97,20 @@ double outerHalfM(const Square &finest)
     return finest.halfM * std::pow(Ratio, Levels - 1);
 }
 
-std::vector<GroundLevel> makeGround(const GroundSource &source, const Square &finest)
+std::vector<GroundLevel> makeGround(const GroundSource &source, const Square &finest, Detail detail)
 {
+    const bool isRough = detail == Detail::Rough;
+    const int picturePx = isRough ? RoughPicturePx : PicturePx;
     std::vector<Lattice> fine;
     std::vector<Lattice> meshes;
     std::vector<std::vector<unsigned char>> images(Levels);
     for (std::size_t level = 0; level < Levels; ++level) {
         const Square square{finest.centre, finest.halfM * std::pow(Ratio, level)};
-        fine.push_back(source.terrain ? source.terrain->heights(square, PicturePx)
-                                      : unknownHeights(square, PicturePx));
+        fine.push_back(source.terrain ? source.terrain->heights(square, picturePx, isRough)
+                                      : unknownHeights(square, picturePx));
         meshes.push_back(reduced(fine.back(), MeshCells));
         if (source.imagery)
-            images[level] = source.imagery->colors(square, PicturePx);
+            images[level] = source.imagery->colors(square, picturePx);
     }
     if (!isKnown(meshes.back()) && std::none_of(images.begin(), images.end(), isVisible))
         return {};
@@ -118,7 +120,7 @@ std::vector<GroundLevel> makeGround(const GroundSource &source, const Square &fi
     const double fogM = outerHalfM(finest);
     std::vector<GroundLevel> levels;
     for (std::size_t i = 0; i < Levels; ++i)
-        levels.push_back({meshes[i], isKnown(meshes[i]), isVisible(images[i]), PicturePx,
+        levels.push_back({meshes[i], isKnown(meshes[i]), isVisible(images[i]), picturePx,
                           reliefPicture(fine[i], meshes[i], {range, fogM, outside, images[i]})});
     for (std::size_t level = levels.size(); level-- > 0;) {
         Lattice &mesh = levels[level].mesh;

@@ -22,6 +22,13 @@ inline constexpr int MeshCells = 120;  ///< in a row of a level
 inline constexpr int HoleCells = 40;   ///< in a row of the place of the level before
 inline constexpr int Levels = 3;       ///< 120^2 + 2 (120^2 - 40^2) cells: 80,000 triangles
 inline constexpr int PicturePx = 1024; ///< 3 MB a level
+inline constexpr int RoughPicturePx = 256;
+
+/// How the ground is made.
+enum class Detail {
+    Rough, ///< at once, for a first impression
+    Full
+};
 
 /// Half the width of the whole ground.
 double outerHalfM(const Square &finest);
@@ -36,6 +43,7 @@ struct GroundSource
 
 /// The ground around a square. Neighbouring levels meet without gaps. Empty if neither a height nor
 /// a color is known.
-std::vector<GroundLevel> makeGround(const GroundSource &source, const Square &finest);
+std::vector<GroundLevel> makeGround(const GroundSource &source, const Square &finest,
+                                    Detail detail = Detail::Full);
 
 } // namespace vlt::landscape

@@ -23,14 +23,14 @@ Terrain::Terrain(std::unique_ptr<linkpath::TerrainRaster> raster, IntoRaster int
     , m_intoRaster(std::move(intoRaster))
 {}
 
-Lattice Terrain::heights(const Square &square, int cells)
+Lattice Terrain::heights(const Square &square, int cells, bool isRough)
 {
     Lattice lattice{square, cells, m_raster->pixelSizeM(), {}};
     const RasterPlaces places(square, cells, m_intoRaster);
     linkpath::TerrainExcerpt excerpt;
     if (places.isPlaced())
         excerpt = m_raster->excerpt(places.least().x, places.least().y, places.most().x,
-                                    places.most().y, places.cellSize());
+                                    places.most().y, places.cellSize(), isRough);
     lattice.heightM.reserve(static_cast<std::size_t>(lattice.points()) *
                             static_cast<std::size_t>(lattice.points()));
     for (int row = 0; row <= cells; ++row) {

@@ -22,7 +22,9 @@ public:
     open(const std::string &path, std::optional<double> noData, const FrameOnEarth &place);
 
     /// Heights of the square, at the resolution that its cells need.
-    Lattice heights(const Square &square, int cells);
+    ///
+    /// @param isRough  a few samples if very many pixels of the file would have to be read
+    Lattice heights(const Square &square, int cells, bool isRough = false);
 
 private:
     Terrain(std::unique_ptr<linkpath::TerrainRaster> raster, IntoRaster intoRaster);

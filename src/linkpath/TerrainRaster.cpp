@@ -4,7 +4,6 @@
 #include "localfiles/LocalFormats.h"
 #include "localfiles/NoNetwork.h"
 #include "localfiles/OpenLocal.h"
-#include "localfiles/ReducedRead.h"
 
 #include <cpl_error.h>
 
@@ -224,13 +223,45 @@ void TerrainRaster::makeSmallCopy(int columns, int rows)
         m_smallCopy.reset();
 }
 
+/// Nearest pixels in so many rows and columns that few blocks of the file have to be read.
+TerrainExcerpt TerrainRaster::roughExcerpt(const Window &window, int columns, int rows) const
+{
+    constexpr double MaxRoughPixels = 12e6; // in the blocks
+    int blockWidth = 0;
+    int blockHeight = 0;
+    m_band->GetBlockSize(&blockWidth, &blockHeight);
+    const double width = window.right - window.left;
+    const double height = window.bottom - window.top;
+    const double blocks = std::max(MaxRoughPixels / (double(blockWidth) * blockHeight), 4.0);
+    const double acrossAll = std::ceil(width / blockWidth);
+    double across = columns;
+    if (acrossAll > std::sqrt(blocks))
+        across = std::min<double>(columns, std::floor(std::sqrt(blocks)));
+    const double down = std::min<double>(rows, std::max(blocks / std::min(across, acrossAll), 2.0));
+    return read({m_dataset.get(), 1, 1},
+                {static_cast<int>(window.left), static_cast<int>(window.top),
+                 static_cast<int>(width), static_cast<int>(height), static_cast<int>(across),
+                 static_cast<int>(down)},
+                GRIORA_NearestNeighbour);
+}
+
 TerrainExcerpt TerrainRaster::excerpt(double west, double south, double east, double north,
-                                      double pixelSize)
+                                      double pixelSize, bool isRough)
 {
     const std::optional<Window> window = windowOf(west, south, east, north);
     if (!window)
         return {};
     const double step = std::max(std::hypot(m_toPixel[1], m_toPixel[4]) * pixelSize, 1.0);
+    const auto number = [](double pixels) {
+        return static_cast<int>(std::clamp(std::ceil(pixels), 1.0, double(MaxExcerptPixels)));
+    };
+    const auto width = static_cast<int>(window->right - window->left);
+    const auto height = static_cast<int>(window->bottom - window->top);
+    const int columns = number(width / step);
+    const int rows = number(height / step);
+    if (isRough && !m_smallCopy &&
+        localfiles::pixelsToRead(*m_dataset, {0, 0, width, height, columns, rows}) > MaxReadPixels)
+        return roughExcerpt(*window, columns, rows);
     const Source source = sourceFor(*window, step);
     const double left = std::floor(window->left / source.across);
     const double top = std::floor(window->top / source.down);
@@ -238,30 +269,31 @@ TerrainExcerpt TerrainRaster::excerpt(double west, double south, double east, do
         std::min<double>(std::ceil(window->right / source.across), source.file->GetRasterXSize());
     const double bottom =
         std::min<double>(std::ceil(window->bottom / source.down), source.file->GetRasterYSize());
-    const auto number = [](double pixels) {
-        return static_cast<int>(std::clamp(std::ceil(pixels), 1.0, double(MaxExcerptPixels)));
-    };
-    const int columns = number((right - left) * source.across / step);
-    const int rows = number((bottom - top) * source.down / step);
+    return read(source,
+                {static_cast<int>(left), static_cast<int>(top), static_cast<int>(right - left),
+                 static_cast<int>(bottom - top), number((right - left) * source.across / step),
+                 number((bottom - top) * source.down / step)},
+                reductionKind());
+}
+
+TerrainExcerpt TerrainRaster::read(const Source &source, const localfiles::Reduction &part,
+                                   GDALRIOResampleAlg how) const
+{
     std::vector<float> heights;
-    if (!localfiles::readReduced(*source.file, {1},
-                                 {static_cast<int>(left), static_cast<int>(top),
-                                  static_cast<int>(right - left), static_cast<int>(bottom - top),
-                                  columns, rows},
-                                 reductionKind(), heights))
+    if (!localfiles::readReduced(*source.file, {1}, part, how, heights))
         return {};
     for (float &height : heights)
         height = isHeight(asStored(height)) ? static_cast<float>(height * m_scale + m_offset)
                                             : std::numeric_limits<float>::quiet_NaN();
-    const double across = columns / (right - left);
-    const double down = rows / (bottom - top);
+    const double across = static_cast<double>(part.columns) / part.width;
+    const double down = static_cast<double>(part.rows) / part.height;
     const double toColumn = across / source.across;
     const double toRow = down / source.down;
-    return {{m_toPixel[0] * toColumn - left * across, m_toPixel[1] * toColumn,
-             m_toPixel[2] * toColumn, m_toPixel[3] * toRow - top * down, m_toPixel[4] * toRow,
+    return {{m_toPixel[0] * toColumn - part.left * across, m_toPixel[1] * toColumn,
+             m_toPixel[2] * toColumn, m_toPixel[3] * toRow - part.top * down, m_toPixel[4] * toRow,
              m_toPixel[5] * toRow},
-            columns,
-            rows,
+            part.columns,
+            part.rows,
             std::move(heights)};
 }
 

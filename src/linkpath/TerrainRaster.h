@@ -2,6 +2,7 @@
 
 #include "contract/Opened.h"
 #include "linkpath/TerrainExcerpt.h"
+#include "localfiles/ReducedRead.h"
 
 #include <gdal_priv.h>
 #include <ogr_spatialref.h>
@@ -40,9 +41,12 @@ public:
     /// The heights within a rectangle of the raster's system, averaged if pixels are much smaller
     /// than `pixelSize`. Overviews of the file are used. Empty outside the raster.
     ///
+    /// @param isRough    a few samples instead of averages where very many pixels would have to be
+    ///                   read, for a first impression
     /// @param pixelSize  wanted size of the excerpt's pixels, in the raster's system; they are
     ///                   larger if there would be more than MaxExcerptPixels in a row or column
-    TerrainExcerpt excerpt(double west, double south, double east, double north, double pixelSize);
+    TerrainExcerpt excerpt(double west, double south, double east, double north, double pixelSize,
+                           bool isRough = false);
 
     static constexpr int MaxExcerptPixels = 2048;
 
@@ -86,6 +90,9 @@ private:
     std::optional<Pixel> pixelAt(double x, double y) const; ///< nothing outside the raster
     std::optional<Window> windowOf(double west, double south, double east, double north) const;
     GDALRIOResampleAlg reductionKind() const;
+    TerrainExcerpt read(const Source &source, const localfiles::Reduction &part,
+                        GDALRIOResampleAlg how) const;
+    TerrainExcerpt roughExcerpt(const Window &window, int columns, int rows) const;
     Source sourceFor(const Window &window, double step);
     void makeSmallCopy(int columns, int rows);
 

@@ -1,14 +1,16 @@
 #pragma once
 
+#include "landscape/Ground.h"
+
 #include <osg/Camera>
 
 #include <functional>
 #include <future>
 
 /// Makes the ground around a point of view, in the frame of the scene. It is called on another
-/// thread, never twice at once.
-using GroundMaker =
-    std::function<osg::ref_ptr<osg::Node>(const osg::Vec3d &eye, const osg::Vec3d &target)>;
+/// thread, never twice at once; first for a rough ground, which is made at once.
+using GroundMaker = std::function<osg::ref_ptr<osg::Node>(
+    const osg::Vec3d &eye, const osg::Vec3d &target, vlt::landscape::Detail detail)>;
 
 /// Sky, light and ground around the scene of a camera, as further children of the camera. The
 /// ground follows the eye: it is made again when the eye has moved far, beside the interface.
@@ -33,17 +35,22 @@ public:
     bool update(const osg::Vec3d &eye, const osg::Vec3d &target);
 
     /// Whether a ground is being made or due.
-    bool isBusy() const { return m_job.valid(); }
+    bool isBusy() const { return m_job.valid() || m_coming; }
 
 private:
+    void start(const osg::Vec3d &eye, const osg::Vec3d &target);
+    bool takeLevel();
     bool isDue(const osg::Vec3d &eye, const osg::Vec3d &target) const;
 
     osg::Camera &m_camera;
     osg::ref_ptr<osg::Group> m_group; ///< sky, lights and ground
     osg::ref_ptr<osg::Node> m_ground;
+    osg::ref_ptr<osg::Group> m_coming; ///< a finished ground that the renderer does not have yet
+    unsigned m_uploaded = 0;           ///< levels of it that the renderer has
     std::shared_ptr<const GroundMaker> m_maker;
-    std::shared_ptr<const GroundMaker> m_madeBy; ///< of the last job
-    osg::Vec3d m_madeFor;                        ///< target of the last job
-    double m_madeFromM = 0;                      ///< its distance from the eye
+    std::shared_ptr<const GroundMaker> m_madeBy;                    ///< of the last job
+    osg::Vec3d m_madeFor;                                           ///< target of the last job
+    double m_madeFromM = 0;                                         ///< its distance from the eye
+    vlt::landscape::Detail m_detail = vlt::landscape::Detail::Full; ///< of the last job
     std::future<osg::ref_ptr<osg::Node>> m_job;
 };

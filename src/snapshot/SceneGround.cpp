@@ -91,7 +91,8 @@ void SceneGround::report(std::string text)
         m_problems.append(problem);
 }
 
-osg::ref_ptr<osg::Node> SceneGround::around(const osg::Vec3d &eye, const osg::Vec3d &target)
+osg::ref_ptr<osg::Node> SceneGround::around(const osg::Vec3d &eye, const osg::Vec3d &target,
+                                            landscape::Detail detail)
 {
     constexpr double ShareOfDistance = 0.5;
     constexpr double MinHalfM = 20;
@@ -99,7 +100,7 @@ osg::ref_ptr<osg::Node> SceneGround::around(const osg::Vec3d &eye, const osg::Ve
                                    std::max(ShareOfDistance * (eye - target).length(), MinHalfM)};
     if (m_terrain || m_imagery) {
         const std::vector<landscape::GroundLevel> levels =
-            landscape::makeGround({m_terrain.get(), m_imagery.get(), m_heightM}, finest);
+            landscape::makeGround({m_terrain.get(), m_imagery.get(), m_heightM}, finest, detail);
         if (m_imagery && !hasImage(levels))
             report(contract::formatted("MESS_SCENE_NO_IMAGERY"));
         if (m_terrain && !hasHeights(levels))
@@ -110,14 +111,15 @@ osg::ref_ptr<osg::Node> SceneGround::around(const osg::Vec3d &eye, const osg::Ve
     return landscape::makePlaneNode(finest, m_heightM);
 }
 
-std::function<osg::ref_ptr<osg::Node>(const osg::Vec3d &eye, const osg::Vec3d &target)>
+std::function<osg::ref_ptr<osg::Node>(const osg::Vec3d &eye, const osg::Vec3d &target,
+                                      landscape::Detail detail)>
 groundUnder(const Scene &scene, const QString &terrain)
 {
     if (!scene)
         return {};
     const auto ground = std::make_shared<SceneGround>(*scene, terrain, false);
-    return [ground](const osg::Vec3d &eye, const osg::Vec3d &target) {
-        return ground->around(eye, target);
+    return [ground](const osg::Vec3d &eye, const osg::Vec3d &target, landscape::Detail detail) {
+        return ground->around(eye, target, detail);
     };
 }
 

@@ -32,7 +32,8 @@ public:
     const QStringList &problems() const { return m_problems; }
 
     /// The ground around a point of view, in the scene's frame.
-    osg::ref_ptr<osg::Node> around(const osg::Vec3d &eye, const osg::Vec3d &target);
+    osg::ref_ptr<osg::Node> around(const osg::Vec3d &eye, const osg::Vec3d &target,
+                                   landscape::Detail detail = landscape::Detail::Full);
 
 private:
     void report(std::string text);
@@ -48,7 +49,8 @@ private:
 /// scene, else another one. Not for two threads at once.
 ///
 /// @param terrain  path; may be empty
-std::function<osg::ref_ptr<osg::Node>(const osg::Vec3d &eye, const osg::Vec3d &target)>
+std::function<osg::ref_ptr<osg::Node>(const osg::Vec3d &eye, const osg::Vec3d &target,
+                                      landscape::Detail detail)>
 groundUnder(const Scene &scene, const QString &terrain);
 
 } // namespace vlt::snapshot

@@ -271,6 +271,22 @@ private Q_SLOTS:
             QCOMPARE(far[i], static_cast<unsigned char>(std::lround(Haze[i])));
     }
 
+    void makesARoughGround()
+    {
+        const auto terrain = open(u"large.tif"_s);
+        const auto levels = makeGround({terrain.get()}, {{0, 0}, 2500}, Detail::Rough);
+        QCOMPARE(levels.size(), std::size_t(Levels));
+        QCOMPARE(levels[2].picture.size(), std::size_t(RoughPicturePx) * RoughPicturePx * 3);
+        for (const Place &at : {Place{0, 0}, Place{900, -1200}, Place{-1500, 300}}) {
+            const Lattice &mesh = levels[0].mesh;
+            const auto cell = [&](double metres) {
+                return int(std::lround((metres + mesh.square.halfM) / mesh.stepM()));
+            };
+            const float height = mesh.heightM[mesh.index(cell(at.x), cell(at.y))];
+            QVERIFY2(std::abs(height - slopeM(at.x, at.y)) < 4, QByteArray::number(height));
+        }
+    }
+
     void makesNoGroundWithoutHeights()
     {
         const auto terrain = open(u"small.tif"_s);

@@ -338,14 +338,20 @@ private Q_SLOTS:
 
     void showsTheGroundUnderTheScene()
     {
-        // a red ground, made again when the camera is ten times nearer
+        // at first a rough ground, green, then a red one, made again when the camera is nearer
+        using vlt::landscape::Detail;
         std::atomic<int> made = 0;
-        const GroundMaker ground = [&made](const osg::Vec3d &, const osg::Vec3d &target) {
+        std::atomic<int> wasRough = 0;
+        const GroundMaker ground = [&](const osg::Vec3d &, const osg::Vec3d &target,
+                                       Detail detail) {
             ++made;
+            const bool isRough = detail == Detail::Rough;
+            wasRough += isRough ? 1 : 0;
             osg::ref_ptr<osg::Geode> box = new osg::Geode;
             box->addDrawable(new osg::ShapeDrawable(new osg::Box(
                 osg::Vec3(0, 0, -15) + osg::Vec3(target.x(), target.y(), 0), 4000, 4000, 1)));
-            static_cast<osg::ShapeDrawable *>(box->getDrawable(0))->setColor({1, 0, 0, 1});
+            static_cast<osg::ShapeDrawable *>(box->getDrawable(0))
+                ->setColor(isRough ? osg::Vec4(0, 1, 0, 1) : osg::Vec4(1, 0, 0, 1));
             return osg::ref_ptr<osg::Node>(box);
         };
         const auto corner = [this] {
@@ -359,13 +365,15 @@ private Q_SLOTS:
 
         QTRY_VERIFY_WITH_TIMEOUT(corner().red() > 2 * corner().blue() + 40, PatienceMs);
         QCOMPARE(m_viewer->getSceneData(), ball.get());
-        QCOMPARE(made, 1);
+        QCOMPARE(made, 2);
+        QCOMPARE(wasRough, 1);
         QSignalSpy picked(m_viewer, &W_simpleOSGViewer::emitSelection);
         QTest::mouseClick(m_viewer, Qt::LeftButton, {}, {3, m_viewer->height() - 4});
         QCOMPARE(picked.size(), 1);
         QVERIFY(picked[0][0].value<osgUtil::LineSegmentIntersector::Intersections>().empty());
         m_viewer->placeCamera(500, 0);
-        QTRY_COMPARE_WITH_TIMEOUT(made, 2, PatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(made, 3, PatienceMs);
+        QCOMPARE(wasRough, 1);
         m_viewer->showScene(nullptr);
         QTRY_VERIFY_WITH_TIMEOUT(isSky(m_viewer->grabFramebuffer(), {3, 3}), PatienceMs);
         QVERIFY(isSky(m_viewer->grabFramebuffer(), {3, m_viewer->height() - 4}));

@@ -188,6 +188,21 @@ osg::ref_ptr<osg::Node> makeGroundNode(const std::vector<GroundLevel> &levels)
     return ground;
 }
 
+osg::ref_ptr<osg::Node> makeUpload(const osg::Node &level)
+{
+    osg::ref_ptr<osg::Geometry> corner = new osg::Geometry; // a triangle without an area
+    corner->setUseDisplayList(false);
+    corner->setVertexArray(new osg::Vec3Array(3));
+    const osg::Vec3 centre = level.getBound().center(); // does not change the near plane
+    for (osg::Vec3 &at : static_cast<osg::Vec3Array &>(*corner->getVertexArray()))
+        at = centre;
+    corner->addPrimitiveSet(new osg::DrawArrays(GL_TRIANGLES, 0, 3));
+    corner->setCullingActive(false);
+    if (level.getStateSet())
+        corner->setStateSet(new osg::StateSet(*level.getStateSet()));
+    return corner;
+}
+
 osg::ref_ptr<osg::Node> makePlaneNode(const Square &finest, double heightM)
 {
     osg::ref_ptr<osg::Group> ground = new osg::Group;
