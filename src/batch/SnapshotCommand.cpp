@@ -5,6 +5,7 @@
 #include "batch/OutputFiles.h"
 #include "batch/ProgressLine.h"
 #include "batch/StartUp.h"
+#include "contract/SceneNames.h"
 #include "language/ReaderText.h"
 #include "language/VltLanguageManager.h"
 #include "platform/AtomicFile.h"
@@ -39,6 +40,7 @@ constexpr NamedView Views[] = {{"all", SceneView::All},
                                {"symbolic", SceneView::Symbolic},
                                {"precise", SceneView::Precise}};
 const QString ViewNames = QStringLiteral("all|north|top|symbolic|precise");
+const QString LabelValues = QStringLiteral("none|some|all");
 
 /// The values of the command line.
 struct Request
@@ -51,6 +53,7 @@ struct Request
     QString imagery;                ///< empty: none
     bool withGround = true;
     bool withLegend = false;
+    QString labels; ///< a value of contract/SceneNames.h
 };
 
 CommandSyntax syntax()
@@ -106,6 +109,11 @@ CommandSyntax syntax()
                     "Draw the legend: colors of sectors, of clearances, of values of buildings.")},
         {QStringLiteral("no-ground"),
          dico_label("MESS_OPT_NO_GROUND", "Show no ground below the layer.")},
+        {QStringLiteral("labels"),
+         dico_label("MESS_OPT_LABELS",
+                    "Names of sites and links: as many as suit the picture (some, the default), as "
+                    "many as have room (all), or none."),
+         LabelValues, QLatin1String(contract::names::Some)},
     };
     syntax.examples =
         QStringLiteral("  vltlayers snapshot sites.lay -o sites.png\n"
@@ -172,6 +180,9 @@ Result<Request> readRequest(const QCommandLineParser &parser)
     if (parser.isSet(QStringLiteral("terrain")))
         request.terrain = parser.value(QStringLiteral("terrain"));
     request.imagery = parser.value(QStringLiteral("imagery"));
+    request.labels = parser.value(QStringLiteral("labels"));
+    if (!LabelValues.split(QLatin1Char('|')).contains(request.labels))
+        return wrongValue(QStringLiteral("labels"), LabelValues, request.labels);
     request.withGround = !parser.isSet(QStringLiteral("no-ground"));
     return request;
 }
@@ -265,6 +276,7 @@ ExitStatus makePicture(const Request &request, const GlobalOptions &options,
     snapshot::PictureRequest wanted = request.picture;
     if (request.withLegend)
         wanted.aids.legend = snapshot::readingOf(scene.value()).legend;
+    snapshot::showNames(*scene.value(), request.labels);
     std::optional<snapshot::SceneGround> ground;
     if (request.withGround)
         ground.emplace(*scene.value(), terrain, request.terrain.has_value());

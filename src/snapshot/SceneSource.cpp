@@ -4,11 +4,13 @@
 #include "contract/ParametricKeys.h"
 #include "contract/ReaderOptions.h"
 #include "contract/SceneFactKeys.h"
+#include "contract/SceneNames.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
+#include <osg/ValueObject>
 #include <osg/Version>
 #include <osgDB/FileNameUtils>
 #include <osgDB/ReadFile>
@@ -90,6 +92,11 @@ std::optional<osg::BoundingBox> coreOf(const osg::Node &scene)
         return std::nullopt;
     return osg::BoundingBox(limits[0].toFloat(), limits[1].toFloat(), 0, limits[2].toFloat(),
                             limits[3].toFloat(), 0);
+}
+
+void showNames(osg::Node &scene, const QString &which)
+{
+    scene.setUserValue(contract::names::Shown, which.toStdString());
 }
 
 bool isParametricName(const QString &name)

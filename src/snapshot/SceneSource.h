@@ -38,6 +38,11 @@ std::optional<QString> sceneFact(const osg::Node &scene, const char *key);
 /// reader does not state it.
 std::optional<osg::BoundingBox> coreOf(const osg::Node &scene);
 
+/// Sets which names a layer shows.
+///
+/// @param which  a value of contract/SceneNames.h
+void showNames(osg::Node &scene, const QString &which);
+
 /// Whether the name is that of a parametric object.
 bool isParametricName(const QString &name);
 

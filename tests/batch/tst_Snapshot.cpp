@@ -141,6 +141,7 @@ private Q_SLOTS:
         row("no display", {Pylon}, 1, "run under xvfb-run", true);
         row("no layer", {}, 2, "no layer");
         row("unknown view", {Pylon, u"--view"_s, u"bottom"_s}, 2, "--view");
+        row("unknown labels", {Pylon, u"--labels"_s, u"few"_s}, 2, "--labels");
         row("too small", size("15x100"), 2, "--size");
         row("too large", size("100x8193"), 2, "--size");
         row("overflow", size("4294967396x100"), 2, "--size");

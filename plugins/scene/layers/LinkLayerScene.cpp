@@ -10,6 +10,22 @@
 
 namespace vlt::scene {
 
+namespace {
+
+/// The names of links at their middles; `links` are those of the rows.
+std::vector<NamedPlace> namesOf(const LinkRows &rows, const std::vector<LinkObject> &links)
+{
+    std::vector<NamedPlace> names;
+    for (std::size_t i = 0; i < links.size(); ++i) {
+        if (!rows.rows[i].name.empty())
+            names.push_back(
+                {rows.rows[i].name, (links[i].a + links[i].b) / 2, NamedPlace::Kind::Line});
+    }
+    return names;
+}
+
+} // namespace
+
 osg::ref_ptr<osg::Group> buildLinkLayerScene(const LinkRows &rows, LinkRecords records,
                                              const LinkAppearance &appearance,
                                              const std::string &title, const std::string &terrain,
@@ -35,7 +51,8 @@ osg::ref_ptr<osg::Group> buildLinkLayerScene(const LinkRows &rows, LinkRecords r
     setLegend(*group, linkRows(records, appearance));
     if (rows.isCut)
         setCut(*group);
-    group->addChild(buildPylonTiles(std::move(records.pylons), content));
+    group->addChild(
+        buildPylonTiles(std::move(records.pylons), content, namesOf(rows, records.links)));
     group->addChild(buildLinks(records.links, appearance));
     return group;
 }

@@ -27,6 +27,7 @@ struct LinkRowEnd
 
 struct LinkRow
 {
+    std::string name;               ///< UTF-8; may be empty
     std::array<LinkRowEnd, 2> ends; ///< A, B
     double frequencyMHz = 0;        ///< of end A, else of end B; 0: unknown
 };

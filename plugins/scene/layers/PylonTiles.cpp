@@ -287,6 +287,28 @@ public:
         return block;
     }
 
+    void addNames(const SiteTree &tree, std::vector<NamedPlace> &names) const
+    {
+        for (const std::uint32_t site : tree.sites) {
+            const SiteRecord &record = m_content->records.sites[site];
+            if (record.name.empty())
+                continue;
+            const PylonDesign &design = m_content->designOf(site);
+            const std::vector<Sector> sectors = symbolSectors(design);
+            const double sectorsM =
+                sectors.empty() ? 0 : sectors.back().bottomM + sectors.back().heightM;
+            names.push_back({record.name, record.foot,
+                             sectors.empty() ? NamedPlace::Kind::Mast : NamedPlace::Kind::Sectors,
+                             design.heightM + RodM, sectorsM, spacingOf(tree)});
+        }
+        if (!tree.isLeaf()) {
+            addNames(*tree.low, names);
+            addNames(*tree.high, names);
+        }
+    }
+
+    SiteMeasures measures() const { return {m_sectorM, m_symbolicM, m_realisticM}; }
+
 private:
     osg::BoundingSphere boundOf(const SiteTree &tree) const
     {
@@ -363,6 +385,8 @@ private:
         if (content->hasSymbols && m_sectorM < SmallSectorShare * m_symbolicM)
             lod->addChild(SiteSymbols::whereSectorsAreSmall(beyond), 0, far);
 
+        if (content->hasSymbols)
+            return lod;
         const double labelM = labelDistance(tree);
         lod->addChild(part(isWhole, [=] { return makeLabels(*content, sites, origin, labelM); }), 0,
                       static_cast<float>(labelM) + radius);
@@ -395,16 +419,21 @@ private:
 
 } // namespace
 
-osg::ref_ptr<osg::Node> buildPylonTiles(PylonRecords records, TileContent content)
+osg::ref_ptr<osg::Node> buildPylonTiles(PylonRecords records, TileContent content,
+                                        std::vector<NamedPlace> links)
 {
     const auto shared = std::make_shared<Content>(std::move(records), content);
     const std::unique_ptr<SiteTree> tree = growSiteTree(shared->records.sites, SitesPerTile);
-    const osg::ref_ptr<osg::Node> all = SceneBuilder(shared).branch(*tree, false);
+    SceneBuilder builder(shared);
+    const osg::ref_ptr<osg::Node> all = builder.branch(*tree, false);
     if (!shared->hasSymbols)
         return all;
     osg::ref_ptr<osg::Group> top = new osg::Group;
     SiteSymbols::prepare(*top, shared->records.designs.front().sectorRadiusM);
     top->addChild(all);
+    builder.addNames(*tree, links);
+    if (!links.empty())
+        top->addChild(new NameOverlay(std::move(links), builder.measures()));
     return top;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "plugins/scene/layers/NameOverlay.h"
 #include "plugins/scene/layers/SiteRecords.h"
 
 #include <osg/Node>
@@ -25,7 +26,12 @@ inline constexpr std::size_t MaxSymbols = 50000;           ///< about 50 MiB, an
 /// distance; masts as lines and coarse sectors, in few drawables, up to the symbolic distance; and
 /// a dot for each site at larger distances: a symbol (SiteSymbols.h) if the scene is only drawn and
 /// has no more than MaxSymbols sites. Names are visible at distances at which there is room
-/// for them between the sites.
-osg::ref_ptr<osg::Node> buildPylonTiles(PylonRecords records, TileContent content);
+/// for them between the sites; in a scene with symbols NameOverlay.h shows them.
+///
+/// @param links  names of links at their middles, which are shown with those of the sites in a
+/// scene
+///               with symbols
+osg::ref_ptr<osg::Node> buildPylonTiles(PylonRecords records, TileContent content,
+                                        std::vector<NamedPlace> links = {});
 
 } // namespace vlt::scene

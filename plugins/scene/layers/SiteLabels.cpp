@@ -13,8 +13,9 @@ constexpr float SizePixels = 16;
 constexpr unsigned GlyphPixels = 32;
 constexpr int AfterTranslucentBins = 20;
 
-/// A font with the letters of most languages; the built-in one has few.
-osg::ref_ptr<osgText::Font> findFont()
+} // namespace
+
+osg::ref_ptr<osgText::Font> labelFont()
 {
     for (const char *file :
          {"/usr/share/fonts/truetype/dejavu/DejaVuSans.ttf",
@@ -27,9 +28,17 @@ osg::ref_ptr<osgText::Font> findFont()
     return osgText::Font::getDefaultFont();
 }
 
-} // namespace
+osgText::String labelText(const std::string &name)
+{
+    osgText::String shown(name, osgText::String::ENCODING_UTF8);
+    if (shown.size() > MaxNameCharacters) {
+        shown.resize(MaxNameCharacters - 1);
+        shown.push_back(0x2026); // ellipsis
+    }
+    return shown;
+}
 
-SiteLabels::SiteLabels() : m_font(findFont()), m_state(new osg::StateSet)
+SiteLabels::SiteLabels() : m_font(labelFont()), m_state(new osg::StateSet)
 {
     m_state->setMode(GL_LIGHTING, osg::StateAttribute::OFF);
     m_state->setAttributeAndModes(new osg::Depth(osg::Depth::LEQUAL, 0, 1, false));
@@ -43,12 +52,7 @@ osg::ref_ptr<osg::Node> SiteLabels::make(const std::string &name, const osg::Vec
     osg::ref_ptr<osgText::Text> text = new osgText::Text;
     text->setFont(m_font);
     text->setFontResolution(GlyphPixels, GlyphPixels);
-    osgText::String shown(name, osgText::String::ENCODING_UTF8);
-    if (shown.size() > MaxNameCharacters) {
-        shown.resize(MaxNameCharacters - 1);
-        shown.push_back(0x2026); // ellipsis
-    }
-    text->setText(shown);
+    text->setText(labelText(name));
     text->setPosition(foot);
     text->setAlignment(osgText::TextBase::CENTER_BOTTOM);
     text->setAxisAlignment(osgText::TextBase::SCREEN);

@@ -2,10 +2,17 @@
 
 #include <osg/Node>
 #include <osgText/Font>
+#include <osgText/String>
 
 #include <string>
 
 namespace vlt::scene {
+
+/// A font with the letters of most languages; the built-in one has few.
+osg::ref_ptr<osgText::Font> labelFont();
+
+/// The text of a name in UTF-8; a long one is cut.
+osgText::String labelText(const std::string &name);
 
 /// Makes the names of sites, which share a font and a state.
 class SiteLabels

@@ -1,5 +1,6 @@
 #include "plugins/scene/layers/SiteSymbols.h"
 
+#include "plugins/scene/layers/SymbolSize.h"
 #include "plugins/scene/mesh/Palette.h"
 #include "plugins/scene/mesh/PictureHeight.h"
 #include "plugins/scene/pylon/Sectors.h"
@@ -19,7 +20,6 @@ constexpr double WholeTurnDeg = 360;
 constexpr double RingShare = 0.25; ///< of the radius, between petals that lie on each other
 constexpr std::size_t MaxRings = 3;
 constexpr std::size_t MaxPetals = 24; ///< of a symbol
-constexpr double RoundShare = 0.4;    ///< radius of a round symbol / that of a petal
 constexpr float SmallSectorPx = 6;
 constexpr float Never = 1e9F;
 const Color Outline{24, 30, 40, 255};
@@ -109,7 +109,7 @@ public:
     {
         m_foot = symbol.foot;
         m_spacing = static_cast<float>(symbol.spacingM);
-        const std::vector<Sector> sectors = sectorsOf(*symbol.design);
+        const std::vector<Sector> sectors = symbolSectors(*symbol.design);
         if (sectors.empty()) {
             addPetal(0, WholeTurnDeg, RoundShare, palette::Radome);
             return;
@@ -153,19 +153,6 @@ public:
     }
 
 private:
-    /// The sectors of a pylon, without dishes.
-    static std::vector<Sector> sectorsOf(const PylonDesign &design)
-    {
-        PylonDesign shown = design;
-        std::erase_if(shown.transmitters, [](const Transmitter &transmitter) {
-            return transmitter.kind == AntennaKind::Dish;
-        });
-        std::vector<Sector> sectors = stackSectors(shown);
-        if (sectors.size() > MaxPetals)
-            sectors.resize(MaxPetals);
-        return sectors;
-    }
-
     unsigned vertex(const osg::Vec3 &shape, const osg::Vec4 &corner, const Color &color)
     {
         m_feet->push_back(m_foot);
@@ -227,6 +214,26 @@ private:
 };
 
 } // namespace
+
+SymbolSize symbolSize(double spacingPx, double sectorPx, double upright, double unit)
+{
+    const double largest = std::max(15 * unit, sectorPx);
+    const double radius = std::clamp(std::min(0.42 * spacingPx, largest), 4 * unit, 30 * unit);
+    const double share = std::clamp((radius / unit - 4) / 5, 0.0, 1.0);
+    return {radius, 1.4 * radius * upright * share * share * (3 - 2 * share)};
+}
+
+std::vector<Sector> symbolSectors(const PylonDesign &design)
+{
+    PylonDesign shown = design;
+    std::erase_if(shown.transmitters, [](const Transmitter &transmitter) {
+        return transmitter.kind == AntennaKind::Dish;
+    });
+    std::vector<Sector> sectors = stackSectors(shown);
+    if (sectors.size() > MaxPetals)
+        sectors.resize(MaxPetals);
+    return sectors;
+}
 
 SiteSymbols::SiteSymbols() : m_state(makeState()) {}
 

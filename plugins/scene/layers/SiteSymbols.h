@@ -1,6 +1,7 @@
 #pragma once
 
 #include "plugins/scene/parametric/PylonObject.h"
+#include "plugins/scene/pylon/Sectors.h"
 
 #include <osg/Geometry>
 #include <osg/Group>
@@ -18,6 +19,9 @@ struct SiteSymbol
     double northDeg = 0; ///< direction of azimuth 0, clockwise from the y axis
     const PylonDesign *design = nullptr;
 };
+
+/// The sectors that the symbol of a pylon shows: those of dishes are left out.
+std::vector<Sector> symbolSectors(const PylonDesign &design);
 
 /// Makes the symbols of distant sites, which have a constant size on the screen: a mast with a
 /// colored petal for each sector, which points into the sector's azimuth and has a dark outline. A

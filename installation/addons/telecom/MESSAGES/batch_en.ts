@@ -583,6 +583,10 @@
         <source>Show no ground below the layer.</source>
         <translation>Show no ground below the layer.</translation>
     </message>
+    <message id="MESS_OPT_LABELS">
+        <source>Names of sites and links: as many as suit the picture (some, the default), as many as have room (all), or none.</source>
+        <translation>Names of sites and links: as many as suit the picture (some, the default), as many as have room (all), or none.</translation>
+    </message>
     <message id="MESS_USE_NO_PICTURE">
         <source>no output file given (-o PICTURE.png)</source>
         <translation>no output file given (-o PICTURE.png)</translation>

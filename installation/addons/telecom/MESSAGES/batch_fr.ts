@@ -583,6 +583,10 @@
         <source>Show no ground below the layer.</source>
         <translation>Ne montrer aucun sol sous la couche.</translation>
     </message>
+    <message id="MESS_OPT_LABELS">
+        <source>Names of sites and links: as many as suit the picture (some, the default), as many as have room (all), or none.</source>
+        <translation>Noms des sites et des liaisons : autant qu'il convient à l'image (some, par défaut), tous ceux qui ont la place (all) ou aucun (none).</translation>
+    </message>
     <message id="MESS_USE_NO_PICTURE">
         <source>no output file given (-o PICTURE.png)</source>
         <translation>aucun fichier de sortie n'est indiqué (-o PICTURE.png)</translation>
