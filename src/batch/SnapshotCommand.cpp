@@ -5,10 +5,13 @@
 #include "batch/OutputFiles.h"
 #include "batch/ProgressLine.h"
 #include "batch/StartUp.h"
+#include "buildings/CountsText.h"
 #include "contract/SceneNames.h"
 #include "language/ReaderText.h"
 #include "language/VltLanguageManager.h"
 #include "platform/AtomicFile.h"
+#include "snapshot/CityView.h"
+#include "snapshot/DrawnBuildings.h"
 #include "snapshot/SceneEarth.h"
 #include "snapshot/SceneGround.h"
 #include "snapshot/SceneNotices.h"
@@ -187,6 +190,20 @@ Result<Request> readRequest(const QCommandLineParser &parser)
     return request;
 }
 
+/// A notice if buildings are too far from the eye to be in a picture.
+QStringList drawnNotice(osg::Node &scene, const snapshot::PictureRequest &picture)
+{
+    const std::optional<qint64> all = snapshot::buildingCount(scene);
+    if (!all)
+        return {};
+    const double aspect = static_cast<double>(picture.size.width()) / picture.size.height();
+    const auto point = snapshot::findViewPoint(scene, picture.view, aspect);
+    const QString text =
+        point ? buildings::drawnText(snapshot::drawnBuildings(scene, point.value().eye), *all)
+              : QString();
+    return text.isEmpty() ? QStringList() : QStringList(text);
+}
+
 void printNotices(const QStringList &notices, const GlobalOptions &options)
 {
     for (const QString &notice : notices) {
@@ -286,6 +303,7 @@ ExitStatus makePicture(const Request &request, const GlobalOptions &options,
         snapshot::renderSnapshot(*scene.value(), wanted, ground ? &*ground : nullptr);
     if (!picture)
         return refuseLayer(picture.error(), request);
+    printNotices(drawnNotice(*scene.value(), request.picture), options);
     if (ground)
         printNotices(ground->problems(), options);
 

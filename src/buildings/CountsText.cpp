@@ -86,6 +86,14 @@ QString countsLines(const CountedBuildings &counted)
     return countsText(counts) + QLatin1Char('\n') + asSentence(joined(counted.notices));
 }
 
+QString drawnText(qint64 drawn, qint64 all)
+{
+    if (drawn >= all)
+        return {};
+    return dico_label("MESS_DRAWN_FROM_HERE", "%1 of %2 buildings are drawn from here")
+        .arg(numberText(drawn), numberText(all));
+}
+
 QString asSentence(const QString &text)
 {
     return text.left(1).toUpper() + text.mid(1);

@@ -17,6 +17,9 @@ QString countsInfoText(const CountedBuildings &counted);
 /// The counts in one line and, in a second one, their reasons; the same language.
 QString countsLines(const CountedBuildings &counted);
 
+/// How many of all buildings are drawn, if not all are; empty otherwise.
+QString drawnText(qint64 drawn, qint64 all);
+
 /// The text with a capital letter at its start.
 QString asSentence(const QString &text);
 

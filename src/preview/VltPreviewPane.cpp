@@ -32,6 +32,7 @@ VltPreviewPane::VltPreviewPane(QWidget *parent) : QWidget(parent)
         layout->addWidget(m_viewer);
         m_aids = new VltReadingAids(*m_viewer);
         setFocusProxy(m_viewer);
+        reportMoves();
         m_caption = makePlate(QStringLiteral("m_pwCaption"));
         m_emptyText = makePlate(QStringLiteral("m_pwEmptyText"));
         return;
@@ -69,6 +70,22 @@ QLabel *VltPreviewPane::makePlate(const QString &objectName)
     plate->setWordWrap(true);
     plate->hide();
     return plate;
+}
+
+void VltPreviewPane::reportMoves()
+{
+    constexpr int PauseMs = 150;
+    auto *pause = new QTimer(this);
+    pause->setSingleShot(true);
+    pause->setInterval(PauseMs);
+    connect(m_viewer, &QOpenGLWidget::aboutToCompose, pause, [this, pause] {
+        if (!pause->isActive() && m_viewer->pose().eye != m_eye)
+            pause->start();
+    });
+    connect(pause, &QTimer::timeout, this, [this] {
+        m_eye = m_viewer->pose().eye;
+        Q_EMIT cameraMoved();
+    });
 }
 
 CameraPose VltPreviewPane::pose() const

@@ -65,6 +65,11 @@ public:
     /// Shows the whole scene, or its core.
     void centerView();
 
+Q_SIGNALS:
+    /// The camera has moved; at most a few times a second.
+    void cameraMoved();
+
+public:
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
@@ -75,11 +80,13 @@ protected:
 private:
     QLabel *makePlate(const QString &objectName);
     void placePlates();
+    void reportMoves();
     void showHint();
 
     W_simpleOSGViewer *m_viewer = nullptr;
     VltReadingAids *m_aids = nullptr; ///< with a view
     QLabel *m_caption = nullptr;      ///< with a view
     QLabel *m_emptyText = nullptr;    ///< with a view
+    osg::Vec3d m_eye;                 ///< at the last cameraMoved()
     bool m_hasScene = false;
 };

@@ -1,5 +1,7 @@
 #include "plugins/scene/buildings/CityNodes.h"
 
+#include "city/CityInputs.h"
+#include "contract/DrawnCount.h"
 #include "plugins/scene/buildings/CityMesh.h"
 #include "plugins/scene/buildings/CityTree.h"
 #include "plugins/scene/mesh/DeferredNode.h"
@@ -10,6 +12,7 @@
 #include <osg/LOD>
 #include <osg/Point>
 #include <osg/ShadeModel>
+#include <osg/ValueObject>
 
 #include <algorithm>
 #include <initializer_list>
@@ -109,7 +112,11 @@ public:
         : m_content(std::move(content))
         , m_progress(progress)
         , m_isDeferred(m_content->city->positions.size() > MaxPositionsAtOnce)
-    {}
+        , m_isFirst(m_content->city->footprints.buildings.size())
+    {
+        for (const std::size_t first : city::firstBuildings(m_content->city->footprints))
+            m_isFirst[first] = true;
+    }
 
     osg::ref_ptr<osg::Node> branch(const CityTree &tree, bool isInBlock)
     {
@@ -158,12 +165,21 @@ private:
         const osg::BoundingSphere bound = boundOf(tree);
         const osg::Vec3d origin = bound.center();
         if (!isDeferred)
-            return moved(make(*m_content, tree.buildings, origin), origin);
+            return counted(moved(make(*m_content, tree.buildings, origin), origin), tree);
         const auto later = [make, origin, content = m_content,
                             ids = Ids(tree.buildings.begin(), tree.buildings.end())] {
             return make(*content, ids, origin);
         };
-        return moved(new DeferredNode(later, osg::BoundingSphere({}, bound.radius())), origin);
+        return counted(
+            moved(new DeferredNode(later, osg::BoundingSphere({}, bound.radius())), origin), tree);
+    }
+
+    osg::ref_ptr<osg::Node> counted(const osg::ref_ptr<osg::Node> &node, const CityTree &tree) const
+    {
+        const auto count = std::count_if(tree.buildings.begin(), tree.buildings.end(),
+                                         [this](std::uint32_t one) { return m_isFirst[one]; });
+        node->setUserValue(contract::BuildingsOfNode, static_cast<unsigned>(count));
+        return node;
     }
 
     osg::ref_ptr<osg::Node> tile(const CityTree &tree)
@@ -229,6 +245,7 @@ private:
     std::shared_ptr<const Content> m_content;
     const Progress &m_progress;
     bool m_isDeferred;
+    std::vector<bool> m_isFirst; ///< by building: whether it is the first part of a feature
     std::size_t m_done = 0;
 };
 

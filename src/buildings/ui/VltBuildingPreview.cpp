@@ -8,6 +8,7 @@
 #include "language/ErrorText.h"
 #include "language/ReaderText.h"
 #include "preview/VisibleDistance.h"
+#include "snapshot/DrawnBuildings.h"
 #include "snapshot/SceneEarth.h"
 #include "snapshot/SceneGround.h"
 #include "snapshot/SceneNotices.h"
@@ -98,6 +99,7 @@ VltBuildingPreview::VltBuildingPreview(QWidget *parent)
     connect(m_ui->m_pwPbRefresh, &QPushButton::clicked, this,
             &VltBuildingPreview::refreshRequested);
     connect(m_ui->m_pwPbExt, &QPushButton::clicked, this, &VltBuildingPreview::resetView);
+    connect(m_ui->m_pwPreview, &VltPreviewPane::cameraMoved, this, &VltBuildingPreview::showDrawn);
     m_ui->m_pwPbNotices->hide();
     connect(m_ui->m_pwPbNotices, &QPushButton::clicked, this,
             [this] { vlt::buildings::showNotices(this, m_notices); });
@@ -154,13 +156,17 @@ void VltBuildingPreview::showScene(const vlt::snapshot::Scene &scene, const QStr
                                  vlt::snapshot::readingOf(scene));
     m_ui->m_pwPbExt->setEnabled(scene.valid() && m_ui->m_pwPreview->hasView());
     showMessage({});
-    if (!scene)
+    m_scene = scene;
+    if (!scene) {
+        showDrawn();
         return;
+    }
     m_ui->m_pwPreview->setMaxDistanceM(NearShare * visibleDistanceM(*scene));
     const QString place = vlt::snapshot::sceneFact(*scene, facts::Centre).value_or(QString());
     if (place != m_place)
         resetView();
     m_place = place;
+    showDrawn();
 
     const QString counts = vlt::buildings::countsText(countsOf(*scene));
     showMessage((QStringList(counts) + notices.mid(0, 1)).join(QLatin1Char('\n')));
@@ -168,6 +174,16 @@ void VltBuildingPreview::showScene(const vlt::snapshot::Scene &scene, const QStr
     m_ui->m_pwPbNotices->setVisible(notices.size() > 1);
     m_ui->m_pwPbNotices->setText(
         tr("%1 notices...", "MESS_NOTICES").arg(QLocale().toString(notices.size())));
+}
+
+/// States how many buildings are near enough to be drawn, if not all are.
+void VltBuildingPreview::showDrawn()
+{
+    m_ui->m_pwPreview->setCaption(
+        m_scene ? vlt::buildings::drawnText(
+                      vlt::snapshot::drawnBuildings(*m_scene, m_ui->m_pwPreview->pose().eye),
+                      static_cast<qint64>(count(*m_scene, facts::Buildings)))
+                : QString());
 }
 
 void VltBuildingPreview::resetView()

@@ -46,7 +46,10 @@ Q_SIGNALS:
 private:
     void showScene(const vlt::snapshot::Scene &scene, const QStringList &notices);
 
+    void showDrawn();
+
     std::unique_ptr<Ui::BuildingPreview> m_ui;
+    vlt::snapshot::Scene m_scene;
     QString m_place;       ///< centre of the last scene
     QStringList m_notices; ///< about the last scene
 };

@@ -221,6 +221,10 @@
         <source>Buildings: %1, left out: %2</source>
         <translation>Buildings: %1, left out: %2</translation>
     </message>
+    <message id="MESS_DRAWN_FROM_HERE">
+        <source>%1 of %2 buildings are drawn from here</source>
+        <translation>%1 of %2 buildings are drawn from here</translation>
+    </message>
     <message id="MESS_VIEW_IS_STALE">
         <source>The settings have changed: refresh the view to see them.</source>
         <translation>The settings have changed: refresh the view to see them.</translation>
