@@ -34,6 +34,9 @@ public:
     /// @return  whether the picture has changed
     bool update(const osg::Vec3d &eye, const osg::Vec3d &target);
 
+    /// The ground that is shown; null: none.
+    osg::Node *ground() const { return m_ground.get(); }
+
     /// Whether a ground is being made or due.
     bool isBusy() const { return m_job.valid() || m_coming; }
 

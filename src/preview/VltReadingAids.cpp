@@ -4,12 +4,13 @@
 #include "preview/AidPlate.h"
 #include "preview/VltTrackBall.h"
 #include "preview/W_simpleOSGViewer.h"
+#include "readingaids/GroundPlace.h"
 #include "readingaids/LegendDrawing.h"
 #include "readingaids/NorthArrow.h"
 #include "readingaids/ScaleBar.h"
 
 #include <QAbstractButton>
-#include <QContextMenuEvent>
+#include <QElapsedTimer>
 #include <QKeyEvent>
 #include <QMenu>
 
@@ -20,6 +21,7 @@ namespace {
 using namespace vlt::readingaids;
 
 const QString ShownKey = QStringLiteral("Preview/ReadingAids");
+constexpr int PointingMs = 40;
 constexpr int ClickTolerance = 4; ///< maximum movement of the mouse in a click, in pixels
 
 bool areShown()
@@ -77,6 +79,20 @@ VltReadingAids::VltReadingAids(W_simpleOSGViewer &viewer)
     m_north->setAccessibleName(tr("North up", "MESS_NORTH_UP"));
     m_north->setToolTip(tr("True north. A click, or the key N, turns it up.", "MESS_TIP_NORTH_UP"));
     connect(m_north, &QAbstractButton::clicked, this, &VltReadingAids::turnNorthUp);
+    m_coordinates = new AidPlate(view, [this](QPainter &painter, const QRectF &area) {
+        const QSizeF size = linesSize(m_placeLines, style());
+        if (!m_placeLines.isEmpty())
+            drawLines(painter, {{0, area.height() - size.height()}, size}, m_placeLines, style());
+    });
+    m_coordinates->setObjectName(QStringLiteral("m_pwCoordinates"));
+    m_pointing.setSingleShot(true);
+    m_pointing.setInterval(PointingMs);
+    connect(&m_pointing, &QTimer::timeout, this, &VltReadingAids::readPointer);
+    connect(&viewer, &W_simpleOSGViewer::emitMouseMoved, this, [this](const QMouseEvent *event) {
+        m_pointer = event->position();
+        if (!m_pointing.isActive())
+            m_pointing.start();
+    });
     view->setContextMenuPolicy(Qt::PreventContextMenu); // a drag with the right button zooms
     view->installEventFilter(this);
     connect(&viewer, &QOpenGLWidget::aboutToCompose, this, &VltReadingAids::follow);
@@ -88,6 +104,7 @@ void VltReadingAids::show(bool hasScene, const SceneReading &reading)
     m_hasScene = hasScene;
     m_reading = reading;
     place();
+    showPlace({});
     m_legend->update();
 }
 
@@ -159,6 +176,7 @@ void VltReadingAids::place()
     m_scaleBar->setGeometry(gap, view.height() - bar.height() - gap, bar.width(), bar.height());
     m_scaleBar->setVisible(isShown && m_length.lengthM > 0);
     placeLegend(isShown, gap);
+    placeCoordinates(isShown, gap);
 }
 
 /// A small view has no legend.
@@ -176,6 +194,47 @@ void VltReadingAids::placeLegend(bool isShown, int gap)
     m_legend->setVisible(isShown && fits && !m_reading.legend.isEmpty());
 }
 
+/// Shows the coordinates under the pointer. Large scenes take long to be searched: there it
+/// happens less often.
+void VltReadingAids::readPointer()
+{
+    constexpr int PauseShare = 10;
+    if (!m_hasScene || !m_reading.placeAt || m_north->isHidden() || !m_viewer.underMouse())
+        return;
+    QElapsedTimer since;
+    since.start();
+    QStringList lines;
+    if (const auto at = m_viewer.placeAt(m_pointer)) {
+        if (const auto place = m_reading.placeAt(at->x(), at->y()))
+            lines = placeLines(*place, style(), m_coordinates->width());
+    }
+    showPlace(lines);
+    m_pointing.setInterval(qMax<qint64>(PointingMs, PauseShare * since.elapsed()));
+}
+
+/// The plate keeps its place: a part of the view that comes into sight would be drawn with its
+/// scene.
+void VltReadingAids::showPlace(const QStringList &lines)
+{
+    if (lines == m_placeLines)
+        return;
+    m_placeLines = lines;
+    m_coordinates->setAccessibleName(lines.join(u' '));
+    m_coordinates->update();
+}
+
+/// Keeps room for the coordinates above the scale bar, beside the legend.
+void VltReadingAids::placeCoordinates(bool isShown, int gap)
+{
+    constexpr int MaxLines = 4;
+    const QStringList most(MaxLines, QString());
+    const int right =
+        m_legend->isHidden() ? static_cast<QWidget &>(m_viewer).width() : m_legend->x();
+    const int height = qRound(linesSize(most, style()).height());
+    m_coordinates->setGeometry(gap, m_scaleBar->y() - gap / 2 - height, right - 2 * gap, height);
+    m_coordinates->setVisible(isShown && m_reading.placeAt);
+}
+
 void VltReadingAids::turnNorthUp()
 {
     const ViewCamera now = camera();
@@ -188,6 +247,7 @@ void VltReadingAids::setShown(bool isShown)
 {
     vlt::platform::wizardSettings()->setValue(ShownKey, isShown);
     place();
+    showPlace({});
     follow();
 }
 
@@ -218,7 +278,7 @@ void VltReadingAids::openMenu(const QPoint &at)
     add(tr("Whole scene", "MESS_VIEW_WHOLE"), Qt::Key_F, [this] { m_viewer.fitView(); });
     add(tr("First view", "MESS_VIEW_FIRST"), Qt::Key_Home, [this] { m_viewer.centerView(); });
     menu->addSeparator();
-    QAction *aids = add(tr("Scale, north and legend", "MESS_SHOW_AIDS"), Qt::Key_A,
+    QAction *aids = add(tr("Scale, north, legend and coordinates", "MESS_SHOW_AIDS"), Qt::Key_A,
                         [this] { setShown(!areShown()); });
     aids->setCheckable(true);
     aids->setChecked(areShown());
@@ -240,7 +300,12 @@ bool VltReadingAids::eventFilter(QObject *watched, QEvent *event)
             return true;
         break;
     }
+    case QEvent::Leave:
+    case QEvent::Wheel: // another place comes under the pointer
+        showPlace({});
+        break;
     case QEvent::MouseButtonPress:
+        showPlace({});
         m_pressedAt = static_cast<QMouseEvent *>(event)->position().toPoint();
         break;
     case QEvent::MouseButtonRelease: {

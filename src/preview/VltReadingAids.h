@@ -4,6 +4,7 @@
 #include "readingaids/SceneReading.h"
 #include "readingaids/ViewScale.h"
 
+#include <QTimer>
 #include <QWidget>
 
 class AidPlate;
@@ -11,8 +12,9 @@ class QAbstractButton;
 class QMenu;
 class W_simpleOSGViewer;
 
-/// Scale bar, north arrow and legend over the edges of a 3D view. They are widgets of their own:
-/// they change with the camera, and their changes draw no scene.
+/// Scale bar, north arrow, legend and the coordinates under the pointer over the edges of a 3D
+/// view. They are widgets of their own: they change with the camera, and their changes draw no
+/// scene.
 ///
 /// The keys of the view: N turns north up, A shows or hides the aids. A click with the right button
 /// opens a menu with all that the keys do. Whether the aids are shown is remembered, for all views.
@@ -37,6 +39,9 @@ private:
     void follow();
     void place();
     void placeLegend(bool isShown, int gap);
+    void placeCoordinates(bool isShown, int gap);
+    void readPointer();
+    void showPlace(const QStringList &lines);
     vlt::readingaids::AidStyle style() const;
     vlt::readingaids::ViewCamera camera() const;
     double northDeg(const vlt::readingaids::ViewCamera &camera) const;
@@ -47,6 +52,10 @@ private:
     QPoint m_pressedAt;
     AidPlate *m_scaleBar;
     AidPlate *m_legend;
+    AidPlate *m_coordinates;
+    QTimer m_pointing; ///< combines movements of the mouse
+    QPointF m_pointer;
+    QStringList m_placeLines; ///< empty: no place on the earth is under the pointer
     QAbstractButton *m_north;
     vlt::readingaids::ScaleLength m_length;
     double m_bearingDeg = 0;

@@ -478,3 +478,24 @@ W_simpleOSGViewer::intersectionsAt(const QPointF &position)
     getCamera()->accept(visitor);
     return line->getIntersections();
 }
+
+std::optional<osg::Vec3d> W_simpleOSGViewer::placeAt(const QPointF &position)
+{
+    if (!getSceneData() || !m_surroundings.ground())
+        return std::nullopt;
+    const QPointF at = inPixels(position);
+    if (const auto met = intersectionsAt(at); !met.empty())
+        return met.begin()->getWorldIntersectPoint();
+    const osg::Camera &camera = *getCamera();
+    const osg::Matrixd toScene =
+        osg::Matrixd::inverse(camera.getViewMatrix() * camera.getProjectionMatrix() *
+                              camera.getViewport()->computeWindowMatrix());
+    const double y = camera.getViewport()->height() - at.y();
+    osg::ref_ptr<osgUtil::LineSegmentIntersector> line = new osgUtil::LineSegmentIntersector(
+        osg::Vec3d(at.x(), y, 0) * toScene, osg::Vec3d(at.x(), y, 1) * toScene);
+    osgUtil::IntersectionVisitor visitor(line);
+    m_surroundings.ground()->accept(visitor);
+    if (!line->containsIntersections())
+        return std::nullopt;
+    return line->getFirstIntersection().getWorldIntersectPoint();
+}

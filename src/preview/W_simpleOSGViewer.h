@@ -73,6 +73,10 @@ public:
     /// the whole scene.
     void setCore(const std::optional<osg::BoundingBox> &core) { m_core = core; }
 
+    /// The place at a point of the view: of the nearest part of the scene, else of the ground;
+    /// nothing over the sky.
+    std::optional<osg::Vec3d> placeAt(const QPointF &position);
+
     /// Height of the view in pixels divided by the distance of the camera; 10 before the first
     /// frame.
     double levelOfDetail() const { return m_levelOfDetail; }

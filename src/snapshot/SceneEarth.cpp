@@ -4,6 +4,7 @@
 #include "contract/SceneLegend.h"
 #include "contract/ScenePlace.h"
 #include "localframe/TrueNorth.h"
+#include "snapshot/EarthPlaces.h"
 
 #include <QStringList>
 
@@ -42,7 +43,7 @@ double NorthAtPlace::operator()(const contract::Place &place)
     return m_northDeg;
 }
 
-readingaids::SceneReading readingOf(const Scene &scene)
+readingaids::SceneReading readingOf(const Scene &scene, const QString &terrain)
 {
     if (!scene)
         return {};
@@ -52,6 +53,8 @@ readingaids::SceneReading readingOf(const Scene &scene)
     std::string legend;
     scene->getUserValue(contract::legend::Key, legend);
     reading.legend = readingaids::legendOf(legend);
+    const auto places = std::make_shared<EarthPlaces>(*scene, terrain);
+    reading.placeAt = [places](double x, double y) { return places->at(x, y); };
     return reading;
 }
 

@@ -31,6 +31,8 @@ private:
 
 /// What the reading aids of a view state about a scene. Without a place on the earth, north is the
 /// y axis.
-readingaids::SceneReading readingOf(const Scene &scene);
+///
+/// @param terrain  for heights where the scene has no terrain of its own; may be empty
+readingaids::SceneReading readingOf(const Scene &scene, const QString &terrain = {});
 
 } // namespace vlt::snapshot

@@ -28,8 +28,28 @@ class tst_ViewAids : public QObject
     QAbstractButton *m_north = nullptr;
     QWidget *m_scaleBar = nullptr;
     QWidget *m_legend = nullptr;
+    QPointF m_asked;
 
     QWidget *view() { return m_viewer; }
+    void pointAt(const QPoint &at)
+    {
+        QMouseEvent move(QEvent::MouseMove, at, m_viewer->mapToGlobal(QPointF(at)), Qt::NoButton,
+                         Qt::NoButton, Qt::NoModifier);
+        QCursor::setPos(view()->mapToGlobal(at));
+        QApplication::sendEvent(view(), &move);
+    }
+    /// Number of frames that the view has drawn, as soon as it draws no more of them.
+    unsigned framesAtRest()
+    {
+        constexpr int RestMs = 400;
+        const auto drawn = [this] { return m_viewer->getFrameStamp()->getFrameNumber(); };
+        unsigned before = 0;
+        do {
+            before = drawn();
+            QTest::qWait(RestMs);
+        } while (drawn() != before);
+        return before;
+    }
     double bearingInFrame()
     {
         const osg::Matrixd &toEye = m_viewer->getCamera()->getViewMatrix();
@@ -47,10 +67,19 @@ private Q_SLOTS:
         (new QVBoxLayout(m_window.get()))->addWidget(m_viewer);
         osg::ref_ptr<osg::Geode> ball = new osg::Geode;
         ball->addDrawable(new osg::ShapeDrawable(new osg::Sphere(osg::Vec3(), 100)));
-        m_viewer->showScene(ball);
+        m_viewer->showScene(ball, [](const osg::Vec3d &, const osg::Vec3d &,
+                                     vlt::landscape::Detail) {
+            osg::ref_ptr<osg::Geode> ground = new osg::Geode;
+            ground->addDrawable(new osg::ShapeDrawable(new osg::Box({0, 0, -100}, 2e3, 2e3, 1)));
+            return ground;
+        });
         auto *aids = new VltReadingAids(*m_viewer);
         aids->show(true, {[](double, double) { return NorthDeg; },
-                          {{u"Level"_s, {}, {{Qt::red, u"high"_s}}}}});
+                          {{u"Level"_s, {}, {{Qt::red, u"high"_s}}}},
+                          [this](double x, double y) {
+                              m_asked = {x, y};
+                              return vlt::readingaids::GroundPlace{u"A system"_s, x, y, {}, {}, {}};
+                          }});
         m_north = view()->findChild<QAbstractButton *>(u"m_pwNorth"_s);
         m_legend = view()->findChild<QWidget *>(u"m_pwLegend"_s);
         m_scaleBar = view()->findChild<QWidget *>(u"m_pwScaleBar"_s);
@@ -111,17 +140,39 @@ private Q_SLOTS:
         QVERIFY(m_north->isVisible());
     }
 
+    void statesThePlaceUnderThePointer()
+    {
+        auto *coordinates = view()->findChild<QWidget *>(u"m_pwCoordinates"_s);
+        QVERIFY(coordinates->accessibleName().isEmpty());
+        m_viewer->placeCamera(1000, 0);
+        m_viewer->lookDown();
+        const unsigned frames = framesAtRest();
+
+        // beside the ball, 1099.5 m below the eye
+        const QPoint at(view()->width() / 2 - 100, view()->height() / 2 + 100);
+        pointAt(at);
+        QTRY_VERIFY_WITH_TIMEOUT(!coordinates->accessibleName().isEmpty(), PatienceMs);
+        const double slope = 1 / m_viewer->getCamera()->getProjectionMatrix()(1, 1);
+        const double expected = -100 * 2 * 1099.5 * slope / view()->height();
+        QVERIFY((m_asked - QPointF(expected, expected)).manhattanLength() < 1);
+        QCOMPARE(framesAtRest(), frames);
+
+        m_viewer->placeCamera(1000, 0);
+        framesAtRest();
+        pointAt({view()->width() / 2, 2}); // the sky
+        QTRY_VERIFY_WITH_TIMEOUT(coordinates->accessibleName().isEmpty(), PatienceMs);
+    }
+
     /// What an aid draws anew must not make the view draw its scene.
     void drawNoScene()
     {
-        QTest::qWait(500);
-        const unsigned frames = m_viewer->getFrameStamp()->getFrameNumber();
+        const unsigned frames = framesAtRest();
         for (int i = 0; i < 10; ++i) {
             m_north->update();
             m_scaleBar->update();
             QTest::qWait(30);
         }
-        QCOMPARE(m_viewer->getFrameStamp()->getFrameNumber(), frames);
+        QCOMPARE(framesAtRest(), frames);
     }
 };
 

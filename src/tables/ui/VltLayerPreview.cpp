@@ -155,7 +155,9 @@ void VltLayerPreview::show(Picture &picture)
         m_shown->pose = pane.pose();
     m_shown = &picture;
     pane.setCore(vlt::snapshot::coreOf(*picture.scene));
-    pane.showScene(picture.scene, picture.ground, vlt::snapshot::readingOf(picture.scene));
+    const QString terrain =
+        &picture == &m_layer ? vlt::project::readProjectContext(m_project).terrainFile : QString();
+    pane.showScene(picture.scene, picture.ground, vlt::snapshot::readingOf(picture.scene, terrain));
     if (!picture.pose) {
         pane.centerView();
         picture.pose = pane.pose();

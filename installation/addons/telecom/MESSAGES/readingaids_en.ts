@@ -36,8 +36,8 @@
         <translation>First view</translation>
     </message>
     <message id="MESS_SHOW_AIDS">
-        <source>Scale, north and legend</source>
-        <translation>Scale, north and legend</translation>
+        <source>Scale, north, legend and coordinates</source>
+        <translation>Scale, north, legend and coordinates</translation>
     </message>
     <message id="MESS_LEGEND_COUNTED">
         <source>%1: %2</source>
@@ -94,6 +94,26 @@
     <message id="MESS_LEGEND_MORE">
         <source>%1 more</source>
         <translation>%1 more</translation>
+    </message>
+    <message id="MESS_DEGREES_NORTH">
+        <source>%1° N</source>
+        <translation>%1° N</translation>
+    </message>
+    <message id="MESS_DEGREES_SOUTH">
+        <source>%1° S</source>
+        <translation>%1° S</translation>
+    </message>
+    <message id="MESS_DEGREES_EAST">
+        <source>%1° E</source>
+        <translation>%1° E</translation>
+    </message>
+    <message id="MESS_DEGREES_WEST">
+        <source>%1° W</source>
+        <translation>%1° W</translation>
+    </message>
+    <message id="MESS_GROUND_HEIGHT">
+        <source>ground %1 m</source>
+        <translation>ground %1 m</translation>
     </message>
 </context>
 </TS>

@@ -36,8 +36,8 @@
         <translation>Première vue</translation>
     </message>
     <message id="MESS_SHOW_AIDS">
-        <source>Scale, north and legend</source>
-        <translation>Échelle, nord et légende</translation>
+        <source>Scale, north, legend and coordinates</source>
+        <translation>Échelle, nord, légende et coordonnées</translation>
     </message>
     <message id="MESS_LEGEND_COUNTED">
         <source>%1: %2</source>
@@ -94,6 +94,26 @@
     <message id="MESS_LEGEND_MORE">
         <source>%1 more</source>
         <translation>%1 de plus</translation>
+    </message>
+    <message id="MESS_DEGREES_NORTH">
+        <source>%1° N</source>
+        <translation>%1°&#xa0;N</translation>
+    </message>
+    <message id="MESS_DEGREES_SOUTH">
+        <source>%1° S</source>
+        <translation>%1°&#xa0;S</translation>
+    </message>
+    <message id="MESS_DEGREES_EAST">
+        <source>%1° E</source>
+        <translation>%1°&#xa0;E</translation>
+    </message>
+    <message id="MESS_DEGREES_WEST">
+        <source>%1° W</source>
+        <translation>%1°&#xa0;O</translation>
+    </message>
+    <message id="MESS_GROUND_HEIGHT">
+        <source>ground %1 m</source>
+        <translation>sol à %1&#xa0;m</translation>
     </message>
 </context>
 </TS>
