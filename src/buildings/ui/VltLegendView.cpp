@@ -28,7 +28,7 @@ VltLegendView::VltLegendView(QWidget *parent)
 {
     m_summary->setWordWrap(true);
     m_pwPbSave->setObjectName(QStringLiteral("m_pwPbSaveValues"));
-    m_pwPbSave->setToolTip(tr("Save a list of all buildings with the values under them, as a "
+    m_pwPbSave->setToolTip(tr("Save a list of all buildings with their values, as a "
                               "GeoPackage with the outlines or as a CSV file",
                               "MESS_TIP_SAVE_VALUES"));
     connect(m_pwPbSave, &QPushButton::clicked, this, &VltLegendView::saveRequested);

@@ -40,8 +40,8 @@
         <translation>Save values...</translation>
     </message>
     <message id="MESS_TIP_SAVE_VALUES">
-        <source>Save a list of all buildings with the values under them, as a GeoPackage with the outlines or as a CSV file</source>
-        <translation>Save a list of all buildings with the values under them, as a GeoPackage with the outlines or as a CSV file</translation>
+        <source>Save a list of all buildings with their values, as a GeoPackage with the outlines or as a CSV file</source>
+        <translation>Save a list of all buildings with their values, as a GeoPackage with the outlines or as a CSV file</translation>
     </message>
     <message id="MESS_QUEST_REPLACE">
         <source>%1 already exists. Replace it?</source>

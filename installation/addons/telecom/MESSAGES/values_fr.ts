@@ -40,8 +40,8 @@
         <translation>Enregistrer les valeurs...</translation>
     </message>
     <message id="MESS_TIP_SAVE_VALUES">
-        <source>Save a list of all buildings with the values under them, as a GeoPackage with the outlines or as a CSV file</source>
-        <translation>Enregistrer la liste de tous les bâtiments avec les valeurs sous chacun, en GeoPackage avec les emprises ou en fichier CSV</translation>
+        <source>Save a list of all buildings with their values, as a GeoPackage with the outlines or as a CSV file</source>
+        <translation>Enregistrer la liste de tous les bâtiments avec leurs valeurs, en GeoPackage avec les emprises ou en fichier CSV</translation>
     </message>
     <message id="MESS_QUEST_REPLACE">
         <source>%1 already exists. Replace it?</source>
