@@ -2,6 +2,7 @@
 
 #include "ui_ColoringPanel.h"
 
+#include "buildings/ColorMapGuess.h"
 #include "buildings/SourceSummary.h"
 #include "buildings/ui/ColorMapChoice.h"
 #include "buildings/ui/NoDataGuess.h"
@@ -106,6 +107,10 @@ void VltColoringPanel::connectWidgets()
     for (const QComboBox *combo :
          {m_ui->m_pwCbBand, m_ui->m_pwCbCmap, m_ui->m_pwCBColorInterp, m_ui->m_pwCbMode})
         connect(combo, &QComboBox::currentIndexChanged, this, &VltColoringPanel::parameterChanged);
+    const auto chosen = [this] { m_mayGuess = m_mayGuess && m_isGuessing; };
+    connect(m_ui->m_pwCbCmap, &QComboBox::currentIndexChanged, this, chosen);
+    connect(m_ui->m_pwCbMode, &QComboBox::currentIndexChanged, this, chosen);
+    connect(m_stretch, &StretchControls::changed, this, chosen);
 }
 
 /// Opens the typed path when the line loses the focus, without a message for a path that may be
@@ -286,6 +291,7 @@ std::optional<VltColoringPanel::Summary> VltColoringPanel::readSummary(const QSt
                                                                        const QString &part)
 {
     const QScopedValueRollback busy(m_isBusy, true);
+    Q_EMIT readingImage();
     return wizard::waitForValue<Summary>(
         this, tr("Reading the image...", "MESS_READING_IMAGE"),
         [path, part] { return geodata::readRasterSummary(path, part); });
@@ -324,6 +330,8 @@ void VltColoringPanel::check(const std::optional<Summary> &summary, const QStrin
     const bool isOpen = summary && summary->ok();
     m_isUsable = isOpen && buildings::isUsable(summary->value());
     showBands(m_isUsable ? summary->value().bands : QStringList());
+    if (m_isUsable && !quiet)
+        guessColors(summary->value().bands);
     if (!m_isUsable && m_ui->m_pwCbSubdatsets->count() == 0) {
         m_openedImage.clear();
         m_ui->m_pwLeImage->clear();
@@ -338,6 +346,21 @@ void VltColoringPanel::check(const std::optional<Summary> &summary, const QStrin
         buildings::warnOfRaster(this, buildings::RasterProblem::NoBands, name);
     else
         buildings::warnOfRaster(this, buildings::RasterProblem::NotOneBand, name);
+}
+
+/// Chooses colors for values of a known kind, until the user has chosen some: a shipped color map
+/// with its own values, and the average under each building.
+void VltColoringPanel::guessColors(const QStringList &bands)
+{
+    constexpr int AverageMode = 2;
+    const QString name = buildings::guessedColorMap(m_openedImage, bands);
+    const int map = name.isEmpty() ? -1 : m_ui->m_pwCbCmap->findText(name);
+    if (!m_mayGuess || map < 0)
+        return;
+    const QScopedValueRollback guessing(m_isGuessing, true);
+    m_ui->m_pwCbCmap->setCurrentIndex(map);
+    m_ui->m_pwCbMode->setCurrentIndex(AverageMode);
+    m_ui->m_pwCbStretch->setChecked(false);
 }
 
 void VltColoringPanel::checkSubdataset(bool quiet)
@@ -431,6 +454,7 @@ void VltColoringPanel::loadSettings(const QString &prefix)
     m_field = value(FieldKey, {}).toString();
 
     m_colorMaps->loadSettings(prefix);
+    m_mayGuess = !settings->contains(prefix + QStringLiteral("/CurrentColormap"));
 }
 
 void VltColoringPanel::saveSettings(const QString &prefix)

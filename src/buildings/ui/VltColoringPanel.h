@@ -66,6 +66,10 @@ public:
     void loadSettings(const QString &prefix) override;
     void saveSettings(const QString &prefix) override;
 
+Q_SIGNALS:
+    /// An image is being read; parameterChanged() follows.
+    void readingImage();
+
 public Q_SLOTS:
     void defineImage();
     void guessNoData();
@@ -86,6 +90,7 @@ private:
     std::optional<Summary> readSummary(const QString &path, const QString &part);
     void check(const std::optional<Summary> &summary, const QString &name, bool quiet);
     void checkSubdataset(bool quiet);
+    void guessColors(const QStringList &bands);
     std::optional<vlt::buildings::RasterColoring> coloring() const;
     QString subdataset() const;
     int band() const;
@@ -99,4 +104,6 @@ private:
     QString m_openedImage; ///< absolute path of the image file
     bool m_isUsable = false;
     bool m_isBusy = false;
+    bool m_mayGuess = true; ///< the user has not chosen colors
+    bool m_isGuessing = false;
 };
