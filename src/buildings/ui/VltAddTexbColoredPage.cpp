@@ -27,6 +27,9 @@ VltAddTexbColoredPage::VltAddTexbColoredPage(QWidget *wizard, SharedParameters &
     m_ui->m_pwExtrusion->forgetDistance();
     addPanel(m_ui->m_pwColoring);
     addPanel(m_ui->m_pwExtrusion);
+    connect(m_ui->m_pwColoring, &VltColoringPanel::readingImage, this, [this] {
+        m_ui->m_pwGbPreview->showMessage(tr("Reading the image...", "MESS_READING_IMAGE"));
+    });
     connect(m_ui->m_pwLegend, &VltLegendView::saveRequested, this,
             &VltAddTexbColoredPage::saveValues);
     setForm(m_ui->m_pwGbPreview, m_ui->m_ptHbDrag, m_ui->m_pwLblDragText);

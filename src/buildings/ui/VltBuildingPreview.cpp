@@ -91,6 +91,7 @@ VltBuildingPreview::VltBuildingPreview(QWidget *parent)
 {
     m_ui->setupUi(this);
     m_ui->m_pwPbExt->setEnabled(false);
+    showMessage({});
     m_ui->m_pwPreview->setElevationDeg(ElevationDeg);
     // A second line of text must not change the size of the view.
     m_ui->m_pwLblScene->setMinimumHeight(2 * fontMetrics().lineSpacing());
@@ -120,6 +121,9 @@ void VltBuildingPreview::setAutoRefresh(bool on)
 void VltBuildingPreview::showMessage(const QString &text)
 {
     m_ui->m_pwLblScene->setText(text);
+    if (!m_scene)
+        m_ui->m_pwPreview->setEmptyText(
+            text.isEmpty() ? tr("The layer appears here.", "MESS_EMPTY_PREVIEW") : text);
     m_ui->m_pwPbNotices->hide();
 }
 
@@ -155,8 +159,8 @@ void VltBuildingPreview::showScene(const vlt::snapshot::Scene &scene, const QStr
     m_ui->m_pwPreview->showScene(scene, vlt::snapshot::groundUnder(scene, {}),
                                  vlt::snapshot::readingOf(scene));
     m_ui->m_pwPbExt->setEnabled(scene.valid() && m_ui->m_pwPreview->hasView());
-    showMessage({});
     m_scene = scene;
+    showMessage({});
     if (!scene) {
         showDrawn();
         return;

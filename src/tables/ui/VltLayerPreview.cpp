@@ -32,6 +32,7 @@ VltLayerPreview::VltLayerPreview(QWidget *parent)
     , m_ui(std::make_unique<Ui::LayerPreview>())
 {
     m_ui->setupUi(this);
+    m_ui->m_pwPreview->setEmptyText(tr("The layer appears here.", "MESS_EMPTY_PREVIEW"));
     m_refreshTimer.setSingleShot(true);
     m_patience.setSingleShot(true);
     m_patience.setInterval(PatienceMs);

@@ -376,6 +376,10 @@ Choose the site file to display.</translation>
         <source>Preview</source>
         <translation>Preview</translation>
     </message>
+    <message id="MESS_EMPTY_PREVIEW">
+        <source>The layer appears here.</source>
+        <translation>The layer appears here.</translation>
+    </message>
     <message id="MESS_TIP_OWN_SITES">
         <source>Show the sites of the layer just written</source>
         <translation>Show the sites of the layer just written</translation>

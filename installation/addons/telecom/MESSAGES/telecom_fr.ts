@@ -376,6 +376,10 @@ Choisissez le fichier de sites à afficher.</translation>
         <source>Preview</source>
         <translation>Aperçu</translation>
     </message>
+    <message id="MESS_EMPTY_PREVIEW">
+        <source>The layer appears here.</source>
+        <translation>La couche s'affichera ici.</translation>
+    </message>
     <message id="MESS_TIP_OWN_SITES">
         <source>Show the sites of the layer just written</source>
         <translation>Voir les sites de la couche qui vient d'être écrite</translation>
