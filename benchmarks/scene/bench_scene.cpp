@@ -1,7 +1,15 @@
-// Loads a layer through the scene library's loader, draws it off screen from all sides and prints
-// the times and the memory as lines "name value".
+// Loads a layer through the scene library's loader, draws it off screen from all sides, over a
+// terrain if one is named, and prints the times and the memory as lines "name value".
+#include "contract/ReaderOptions.h"
+#include "contract/SceneFactKeys.h"
+#include "contract/ScenePlace.h"
+#include "landscape/scene/GroundNode.h"
+#include "landscape/scene/Light.h"
+#include "landscape/scene/Sky.h"
+
 #include <osg/ComputeBoundsVisitor>
 #include <osg/GraphicsContext>
+#include <osg/ValueObject>
 #include <osgDB/ReadFile>
 #include <osgDB/WriteFile>
 #include <osgViewer/Viewer>
@@ -14,6 +22,7 @@
 #include <cmath>
 #include <cstdio>
 #include <cstring>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -53,6 +62,8 @@ bool openPicture(osgViewer::Viewer &viewer)
     camera.setGraphicsContext(context);
     camera.setViewport(0, 0, Width, Height);
     camera.setProjectionMatrixAsPerspective(30, static_cast<double>(Width) / Height, 1, 10000);
+    camera.setNearFarRatio(0.0002);
+    viewer.setLightingMode(osg::View::NO_LIGHT);
     viewer.setThreadingModel(osgViewer::Viewer::SingleThreaded);
     viewer.realize();
     return true;
@@ -98,8 +109,53 @@ void savePicture(osgViewer::Viewer &viewer, const std::string &file)
     osgDB::writeImageFile(*image, file);
 }
 
-void measure(osgViewer::Viewer &viewer, const View &view, const std::string &pictures)
+/// The landscape around a scene.
+struct Landscape
 {
+    osg::ref_ptr<osg::Group> root = new osg::Group;
+    std::unique_ptr<vlt::landscape::Terrain> terrain;
+    osg::ref_ptr<osg::Node> ground;
+
+    /// Makes the ground around a view as the programs do.
+    double makeGround(const View &view)
+    {
+        if (!terrain)
+            return 0;
+        const Clock::time_point start = Clock::now();
+        root->removeChild(ground);
+        ground = vlt::landscape::makeGroundNode(vlt::landscape::makeGround(
+            {terrain.get()}, {{view.centre.x(), view.centre.y()}, view.distanceM / 2}));
+        root->addChild(ground);
+        return millisecondsSince(start);
+    }
+};
+
+bool openTerrain(Landscape &landscape, const osg::Node &scene, const std::string &file)
+{
+    vlt::landscape::FrameOnEarth place;
+    std::string system;
+    double x = 0;
+    double y = 0;
+    scene.getUserValue(vlt::contract::place::System, system);
+    const std::string form = std::string(vlt::contract::facts::Centre) + "=%lf %lf";
+    bool isPlaced = false;
+    for (const std::string &line : scene.getDescriptions())
+        isPlaced = isPlaced || std::sscanf(line.c_str(), form.c_str(), &x, &y) == 2;
+    if (!isPlaced || place.srs.importFromWkt(system.c_str()) != OGRERR_NONE)
+        return false;
+    place.srs.SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
+    place.frame = std::make_shared<vlt::localframe::LocalFrame>(
+        &place.srs, std::vector<vlt::contract::Place>{{x, y}});
+    landscape.terrain = vlt::landscape::Terrain::open(file, {}, place).file;
+    landscape.root->addChild(vlt::landscape::makeSky());
+    return landscape.terrain != nullptr;
+}
+
+void measure(osgViewer::Viewer &viewer, Landscape &landscape, const View &view,
+             const std::string &pictures)
+{
+    if (landscape.terrain)
+        std::printf("%s_ground_ms %.1f\n", view.name, landscape.makeGround(view));
     look(viewer, view, 0);
     std::printf("%s_first_ms %.1f\n", view.name, frameMilliseconds(viewer));
     std::vector<double> times;
@@ -118,15 +174,25 @@ void measure(osgViewer::Viewer &viewer, const View &view, const std::string &pic
         savePicture(viewer, pictures + view.name + ".png");
 }
 
+osg::ref_ptr<osg::Node> readScene(const std::string &file, const std::string &terrain)
+{
+    const osg::ref_ptr<osgDB::Options> options = new osgDB::Options;
+    options->setPluginStringData(vlt::contract::DrawnDatum, "1");
+    if (!terrain.empty())
+        options->setPluginStringData(vlt::contract::TerrainDatum, terrain);
+    return osgDB::readRefNodeFile(file, options);
+}
+
 } // namespace
 
 int main(int argc, char **argv)
 {
-    if (argc < 2 || argc > 3) {
-        std::fputs("usage: bench_scene FILE.lay [PICTURES-PREFIX]\n", stderr);
+    if (argc < 2 || argc > 4) {
+        std::fputs("usage: bench_scene FILE.lay [TERRAIN|- [PICTURES-PREFIX]]\n", stderr);
         return 2;
     }
-    const std::string pictures = argc > 2 ? argv[2] : "";
+    const std::string terrain = argc > 2 && std::string(argv[2]) != "-" ? argv[2] : "";
+    const std::string pictures = argc > 3 ? argv[3] : "";
     osgViewer::Viewer viewer;
     if (!openPicture(viewer)) {
         std::fputs("no off-screen context: is there an X server?\n", stderr);
@@ -134,18 +200,25 @@ int main(int argc, char **argv)
     }
     const double before = peakMegabytes();
     const Clock::time_point start = Clock::now();
-    const osg::ref_ptr<osg::Node> scene = osgDB::readRefNodeFile(argv[1]);
+    const osg::ref_ptr<osg::Node> scene = readScene(argv[1], terrain);
     if (!scene)
         return 1;
     std::printf("load_ms %.1f\n", millisecondsSince(start));
     std::printf("load_mb %.1f\n", peakMegabytes() - before);
-    viewer.setSceneData(scene);
+    Landscape landscape;
+    landscape.root->addChild(vlt::landscape::underLight(scene));
+    GDALAllRegister();
+    if (!terrain.empty() && !openTerrain(landscape, *scene, terrain)) {
+        std::fputs("the terrain cannot be used\n", stderr);
+        return 1;
+    }
+    viewer.setSceneData(landscape.root);
 
     const osg::BoundingSphere bound = scene->getBound();
     const osg::Vec3d ground(0, 0, bound.center().z());
-    measure(viewer, {"all", bound.center(), 3.5 * bound.radius(), 30}, pictures);
-    measure(viewer, {"region", ground, 8000, 25}, pictures);
-    measure(viewer, {"near", ground, 900, 15}, pictures);
+    measure(viewer, landscape, {"all", bound.center(), 3.5 * bound.radius(), 30}, pictures);
+    measure(viewer, landscape, {"region", ground, 8000, 25}, pictures);
+    measure(viewer, landscape, {"near", ground, 900, 15}, pictures);
     std::printf("peak_mb %.1f\n", peakMegabytes());
     return 0;
 }
