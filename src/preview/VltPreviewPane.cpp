@@ -164,7 +164,8 @@ void VltPreviewPane::showHint()
     hint->setAlignment(Qt::AlignCenter);
     hint->setFixedWidth(width() - 2 * PlateGap);
     hint->adjustSize();
-    hint->move(PlateGap, height() - hint->height() - PlateGap);
+    // in the middle, because the reading aids are at the borders
+    hint->move(PlateGap, (height() - hint->height()) / 2);
     hint->show();
     QTimer::singleShot(HintMs, hint, &QObject::deleteLater);
 }

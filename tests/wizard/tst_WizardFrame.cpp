@@ -6,6 +6,7 @@
 #include "wizard/frame/VltTelecomLayersWizard.h"
 
 #include <QAbstractButton>
+#include <QButtonGroup>
 #include <QFile>
 #include <QLineEdit>
 #include <QScreen>
@@ -28,13 +29,18 @@ public:
 
     void click(const QString &button) { findChild<QAbstractButton *>(button)->click(); }
 
-    /// The widgets that can have the focus, in any order.
+    /// The widgets that can have the focus, in any order. In a group of buttons, Tab reaches the
+    /// checked one and the arrow keys the others.
     QString stops() const
     {
         QStringList names;
         for (const QWidget *widget : findChildren<QWidget *>()) {
+            const auto *button = qobject_cast<const QAbstractButton *>(widget);
+            const auto *group = button ? button->group() : nullptr;
+            const bool isByArrows = group && group->exclusive() && group->checkedButton() &&
+                                    group->checkedButton() != button;
             if ((widget->focusPolicy() & Qt::TabFocus) && !widget->focusProxy() &&
-                widget->isVisible() && widget->isEnabled())
+                widget->isVisible() && widget->isEnabled() && !isByArrows)
                 names << nameOf(*widget);
         }
         names.sort();
