@@ -167,7 +167,10 @@ void VltPreviewPane::showHint()
     // in the middle, because the reading aids are at the borders
     hint->move(PlateGap, (height() - hint->height()) / 2);
     hint->show();
-    QTimer::singleShot(HintMs, hint, &QObject::deleteLater);
+    QTimer::singleShot(HintMs, hint, [hint] {
+        hint->window()->update(); // otherwise the hint stays on the screen until the next change
+        delete hint;
+    });
 }
 
 void VltPreviewPane::placeCamera(double distanceM, double heightM)
