@@ -50,6 +50,16 @@ std::shared_ptr<linkpath::TerrainRaster> terrainOf(const LinkCheckInput &input, 
     return nullptr;
 }
 
+QString wktOf(const OGRSpatialReference *system)
+{
+    char *wkt = nullptr;
+    if (system)
+        system->exportToWkt(&wkt);
+    const QString text = QString::fromUtf8(wkt);
+    CPLFree(wkt);
+    return text;
+}
+
 Error noTransformationTo(const QString &terrainFile)
 {
     return {QStringLiteral("MESS_TERRAIN_ELSEWHERE"),
@@ -81,6 +91,7 @@ public:
         report.isPlaced = link->isPlaced();
         if (report.isPlaced) {
             ++m_placed;
+            report.ends = {link->ends[0].place, link->ends[1].place};
             report.clearance = m_profiler.check(link->ends[0].place, link->ends[1].place,
                                                 report.frequencyMHz.value_or(0), m_rule);
         }
@@ -140,6 +151,7 @@ Stoppable<LinkCheck> readLinkCheck(const QString &connection, const LinkCheckInp
     check.links = collector.takeLinks();
     check.problems = problemsOf(*links);
     check.systems = positions.result();
+    check.endSystem = wktOf(ends->GetSpatialRef());
     return check;
 }
 

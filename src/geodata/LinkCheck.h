@@ -2,11 +2,12 @@
 
 #include "geodata/LayerPlacement.h"
 #include "geodata/LayerProblems.h"
-#include "linkpath/Clearance.h"
+#include "linkpath/PathProfiler.h"
 
 #include <QList>
 #include <QString>
 
+#include <array>
 #include <optional>
 
 namespace vlt::geodata {
@@ -19,6 +20,7 @@ struct LinkReport
     QString endA;
     QString endB;
     bool isPlaced = false;
+    std::array<linkpath::LinkEnd, 2> ends; ///< A, B; valid only if `isPlaced`
     std::optional<double> lengthM;
     std::optional<double> frequencyMHz;
     linkpath::Clearance clearance;
@@ -38,6 +40,7 @@ struct LinkCheck
     LayerPlacement placement;            ///< of the links
     QList<LinkReport> links;             ///< in the order of the file
     SystemCheck systems;                 ///< of the positions of the ends
+    QString endSystem;                   ///< of the positions in `links`, WKT; empty if unknown
     std::optional<Error> terrainProblem; ///< why the terrain file cannot be used
 };
 

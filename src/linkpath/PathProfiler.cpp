@@ -188,6 +188,26 @@ std::optional<double> PathProfiler::groundM(double x, double y) const
     return m_parts->groundM(x, y);
 }
 
+std::optional<PathProfile> PathProfiler::profile(const LinkEnd &a, const LinkEnd &b) const
+{
+    const std::optional<Arc> arc = m_parts->arc(a, b);
+    if (!arc)
+        return std::nullopt;
+    PathProfile path;
+    path.lengthM = arc->lengthM;
+    path.hasTerrain = hasTerrain();
+    if (path.hasTerrain) {
+        path.groundAM = groundM(a.x, a.y);
+        path.groundBM = groundM(b.x, b.y);
+        path.points = m_parts->profile(a, *arc, path.isWhole);
+        return path;
+    }
+    path.groundAM = path.groundBM = 0;
+    for (int i = 0; i <= FewestSamples; ++i)
+        path.points.push_back({path.lengthM * i / FewestSamples, 0});
+    return path;
+}
+
 Clearance PathProfiler::check(const LinkEnd &a, const LinkEnd &b, double frequencyMHz,
                               const ClearanceRule &rule) const
 {
@@ -198,17 +218,14 @@ Clearance PathProfiler::check(const LinkEnd &a, const LinkEnd &b, double frequen
         return unchecked(a.heightM ? Lack::HeightB : Lack::HeightA);
     if (!(frequencyMHz > 0))
         return unchecked(Lack::Frequency);
-    const std::optional<Arc> arc = m_parts->arc(a, b);
-    if (!arc)
+    const std::optional<PathProfile> path = profile(a, b);
+    if (!path)
         return unchecked(Lack::Position);
-    const std::optional<double> groundA = groundM(a.x, a.y);
-    const std::optional<double> groundB = groundM(b.x, b.y);
-    if (!groundA || !groundB)
+    if (!path->groundAM || !path->groundBM)
         return unchecked(Lack::TerrainOfPath);
-    bool whole = false;
-    Clearance clearance = checkProfile(m_parts->profile(a, *arc, whole), *groundA + *a.heightM,
-                                       *groundB + *b.heightM, frequencyMHz, rule);
-    if (!whole && clearance.status != ClearanceStatus::Obstructed) {
+    Clearance clearance = checkProfile(path->points, *path->groundAM + *a.heightM,
+                                       *path->groundBM + *b.heightM, frequencyMHz, rule);
+    if (!path->isWhole && clearance.status != ClearanceStatus::Obstructed) {
         clearance.status = ClearanceStatus::Unknown;
         clearance.lack = Lack::TerrainOfPath;
     }

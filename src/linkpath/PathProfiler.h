@@ -5,6 +5,7 @@
 
 #include <memory>
 #include <optional>
+#include <vector>
 
 namespace vlt::linkpath {
 
@@ -14,6 +15,17 @@ struct LinkEnd
     double x = 0; ///< east or longitude, in the links' system
     double y = 0;
     std::optional<double> heightM; ///< height of the antenna's centre above ground
+};
+
+/// The ground under a link from end A to end B.
+struct PathProfile
+{
+    double lengthM = 0;
+    std::vector<ProfilePoint> points; ///< points of known height; level at 0 without a terrain
+    bool hasTerrain = false;
+    bool isWhole = true;            ///< false if the terrain does not cover the whole path
+    std::optional<double> groundAM; ///< height of the ground at end A above sea level
+    std::optional<double> groundBM; ///< the same at end B
 };
 
 /// Takes profiles from a terrain and computes the clearance of links. Not for two threads at once.
@@ -37,6 +49,9 @@ public:
 
     /// Terrain height under a point of the links' system.
     std::optional<double> groundM(double x, double y) const;
+
+    /// The ground under a link; nothing if the positions of its ends cannot be transformed.
+    std::optional<PathProfile> profile(const LinkEnd &a, const LinkEnd &b) const;
 
     /// Computes the clearance of a link. Its class is Unknown if a height, the frequency (also one
     /// that is not positive) or a part of the terrain is missing. If the known terrain obstructs

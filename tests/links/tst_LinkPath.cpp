@@ -156,6 +156,29 @@ private Q_SLOTS:
                  unknown(Lack::TerrainOfPath));
     }
 
+    // 10 km of the grid are 10004 m on the ellipsoid, because the scale is 0.9996 here.
+    void profiles()
+    {
+        const auto file = terrain(m_dir.filePath(QStringLiteral("profile.tif")), 140, 100, NoDataM);
+        const auto onTerrain = PathProfiler(file, utm().get()).profile(WestEnd, EastEnd);
+        QCOMPARE_LE(std::abs(onTerrain->lengthM - 10004.0), 1.0);
+        QVERIFY(onTerrain->hasTerrain && !onTerrain->isWhole);
+        QCOMPARE(onTerrain->groundAM, std::optional(PlainM));
+        const auto height = [&onTerrain](double distanceM) {
+            const auto next = std::find_if(
+                onTerrain->points.begin(), onTerrain->points.end(),
+                [distanceM](const ProfilePoint &point) { return point.distanceM >= distanceM; });
+            return next->terrainM;
+        };
+        QCOMPARE(height(onTerrain->lengthM / 2), 140.0);
+        QCOMPARE(height(4000), PlainM);
+
+        const auto level = PathProfiler(nullptr, utm().get()).profile(WestEnd, EastEnd);
+        QVERIFY(!level->hasTerrain && level->isWhole);
+        QCOMPARE(level->points.back().distanceM, onTerrain->lengthM);
+        QCOMPARE(level->groundBM, std::optional(0.0));
+    }
+
     // Two rows of two pixels, stored as 10, 20, 30 and `last`.
     void heights_data()
     {
