@@ -4,11 +4,13 @@
 #include "batch/Help.h"
 #include "batch/LayerCommand.h"
 #include "batch/LinkOptions.h"
+#include "batch/LinkProfilePicture.h"
 #include "batch/LinkReport.h"
 #include "batch/ProgressLine.h"
 #include "batch/SiteOptions.h"
 #include "language/VltLanguageManager.h"
 #include "links/LinkLayer.h"
+#include "platform/AtomicFile.h"
 #include "tables/SystemObstacle.h"
 
 #include <QFileInfo>
@@ -24,13 +26,14 @@ struct LinkRequest
     links::LinkRepresentation representation;
     std::optional<QString> terrain; ///< as given; an empty text for no terrain
     bool report = false;
+    QString profile; ///< link whose profile is drawn; empty: none
 };
 
 CommandSyntax syntax()
 {
     CommandSyntax syntax;
     syntax.name = QStringLiteral("link");
-    syntax.usage = QStringLiteral("TABLE [-o OUT.lay] [--report]");
+    syntax.usage = QStringLiteral("TABLE [-o OUT.lay] [--report] [--profile LINK]");
     syntax.summary =
         dico_label("MESS_HELP_LINK_SUMMARY", "make a layer of links, check their clearance");
     syntax.description = dico_label(
@@ -49,6 +52,11 @@ CommandSyntax syntax()
             {QStringLiteral("report"),
              dico_label("MESS_OPT_REPORT", "Print length, frequency, clearance and worst point of "
                                            "each link. The layer file is then optional.")},
+            {QStringLiteral("profile"),
+             dico_label("MESS_OPT_PROFILE",
+                        "Draw the path of a link, given by its name or as #ROW, into the file of "
+                        "-o (.svg or .png), instead of a layer."),
+             QStringLiteral("LINK")},
         };
     syntax.examples =
         QStringLiteral("  vltlayers link links.xlsx -o links.lay\n"
@@ -56,7 +64,8 @@ CommandSyntax syntax()
                        "  vltlayers link links.csv --project city.gvw --color-by-clearance \\\n"
                        "      --link-style line --link-width 3 -o links.lay\n"
                        "  vltlayers link links.csv --terrain hills.tif --k-factor 1 --report\n"
-                       "  vltlayers link links.csv --terrain hills.tif --report --json\n");
+                       "  vltlayers link links.csv --terrain hills.tif --report --json\n"
+                       "  vltlayers link links.csv --terrain hills.tif --profile North -o p.svg\n");
     syntax.lists = catalogueLists;
     return syntax;
 }
@@ -72,26 +81,42 @@ Result<LinkRequest> readLinkRequest(const QCommandLineParser &parser)
     if (parser.isSet(terrain))
         request.terrain = parser.value(terrain);
     request.report = parser.isSet(QStringLiteral("report"));
+    request.profile = parser.value(QStringLiteral("profile"));
+    if (parser.isSet(QStringLiteral("profile"))) {
+        if (request.profile.isEmpty())
+            return wrongValue(QStringLiteral("profile"), QStringLiteral("LINK"), {});
+        if (!isProfileName(parser.value(QStringLiteral("output"))))
+            return wrongUsage(
+                dico_label("MESS_USE_PROFILE_OUTPUT",
+                           "the profile is a picture: give -o PROFILE.svg or PROFILE.png"));
+        return request;
+    }
     if (!request.report && parser.value(QStringLiteral("output")).isEmpty())
         return wrongUsage(dico_label("MESS_USE_NO_OUTPUT_NOR_REPORT",
                                      "no output file given (-o OUT.lay), and no --report"));
     return request;
 }
 
-/// Reads the links through the same connection as the layer; computes their clearance for a report.
-Result<geodata::LinkCheck> readLinks(const links::LinkLayerInput &input, const LinkRequest &wanted,
-                                     bool quiet)
+geodata::LinkCheckInput checkInput(const links::LinkLayerInput &input, const LinkRequest &wanted)
 {
     geodata::LinkCheckInput check;
     check.rule = {wanted.representation.fresnelSharePercent / 100.0, wanted.representation.kFactor};
-    if (wanted.report)
+    if (wanted.report || !wanted.profile.isEmpty())
         check.terrainFile = input.project.terrainFile;
+    return check;
+}
+
+/// Reads the links through the same connection as the layer; computes their clearance for a report
+/// or a profile.
+Result<geodata::LinkCheck> readLinks(const links::LinkLayerInput &input, const LinkRequest &wanted,
+                                     bool quiet)
+{
     ProgressLine line(dico_label("MESS_CLI_READING_LINKS", "Reading the links"), !quiet);
     const QString connection = tables::withTerrain(
         sites::resolvedConnection(links::linkQuery(input), input.project.directory()),
         input.file.terrainArea);
     // The progress line never stops the work, so there is a value.
-    return *geodata::readLinkCheck(connection, check, line.progress(),
+    return *geodata::readLinkCheck(connection, checkInput(input, wanted), line.progress(),
                                    {input.sourceSrs, input.targetSrs});
 }
 
@@ -118,6 +143,31 @@ QString resultText(const geodata::LinkCheck &check, const LinkRequest &wanted, Q
     return QString::fromUtf8(QJsonDocument(layer).toJson());
 }
 
+/// Draws the profile of the wanted link; returns an exit status only after a failure.
+std::optional<ExitStatus> writeProfile(const geodata::LinkCheck &check,
+                                       const links::LinkLayerInput &input,
+                                       const LayerRequest &request, const LinkRequest &wanted)
+{
+    const Result<geodata::LinkReport> link = linkNamed(wanted.profile, check.links);
+    if (!link)
+        return refuse(link.error().withPath(request.table));
+    const auto profile =
+        geodata::profileOf(link.value(), check.endSystem, checkInput(input, wanted));
+    if (!profile)
+        return refuse(
+            Error::asIs(dico_label("MESS_CLI_LINK_NO_LENGTH",
+                                   "the link '%1' has no profile: an end has no position, or both "
+                                   "have the same")
+                            .arg(wanted.profile),
+                        request.table));
+    const Result<Done> written = platform::writeWhole(
+        request.output, profilePicture(*profile, request.output), platform::Access::Shared);
+    return written ? std::nullopt
+                   : std::optional(refuse({QStringLiteral("MESS_SNAP_NOT_WRITTEN"),
+                                           QStringLiteral("the picture cannot be written"),
+                                           request.output, written.error().detail}));
+}
+
 ExitStatus makeLayer(const links::LinkLayerInput &input, const LayerRequest &request,
                      const LinkRequest &wanted, const GlobalOptions &options)
 {
@@ -137,14 +187,17 @@ ExitStatus makeLayer(const links::LinkLayerInput &input, const LayerRequest &req
                            "none of its links has a position; \"vltlayers info --link\" shows why"),
                        request.table});
     }
-    if (!request.output.isEmpty()) {
+    if (!wanted.profile.isEmpty()) {
+        if (const auto failed = writeProfile(check.value(), input, request, wanted))
+            return *failed;
+    } else if (!request.output.isEmpty()) {
         if (const auto failed = writeLayer(request.output, links::makeLinkLayer(input)))
             return *failed;
     }
 
     if (!options.quiet) {
         warnOfLayer(outcome, systems);
-        if (wanted.report)
+        if (wanted.report || !wanted.profile.isEmpty())
             warnOfTerrain(check.value(), input.project.terrainFile);
     }
     return printResult(

@@ -141,8 +141,14 @@ int main(int argc, char **argv)
     const SplitArguments split = splitCommand(arguments);
     // Entries of the wizard's log do not appear on the terminal.
     QLoggingCategory::setFilterRules(QStringLiteral("default.info=false"));
-    const auto application = makeApplication(argv, split.command == QLatin1String("buildings") ||
-                                                       split.command == QLatin1String("snapshot"));
+    const bool drawsProfile =
+        split.command == QLatin1String("link") &&
+        std::any_of(split.others.begin(), split.others.end(), [](const QString &argument) {
+            return argument.startsWith(QLatin1String("--profile"));
+        });
+    const auto application =
+        makeApplication(argv, drawsProfile || split.command == QLatin1String("buildings") ||
+                                  split.command == QLatin1String("snapshot"));
     // The application object sets all categories of the user's locale; numbers keep the C locale.
     std::setlocale(LC_NUMERIC, "C");
     return static_cast<int>(run(split, damaged));

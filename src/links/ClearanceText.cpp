@@ -2,6 +2,8 @@
 
 #include "language/VltLanguageManager.h"
 
+#include <QLocale>
+
 namespace vlt::links {
 
 QString clearanceText(linkpath::ClearanceStatus status)
@@ -40,6 +42,20 @@ QString lackText(linkpath::Lack lack)
         return dico_label("MESS_LACK_LENGTH", "both ends have the same position");
     }
     return {};
+}
+
+QString worstText(const linkpath::WorstPoint &worst)
+{
+    constexpr double MetresPerKm = 1000;
+    constexpr int PerCent = 100;
+    const QLocale locale;
+    const QString place = locale.toString(worst.distanceM / MetresPerKm, 'f', 2);
+    const QString metres = locale.toString(qAbs(worst.clearanceM), 'f', 1);
+    if (worst.clearanceM < 0)
+        return dico_label("MESS_WORST_CUT", "%1 km from A, terrain %2 m above the line")
+            .arg(place, metres);
+    return dico_label("MESS_WORST_FREE", "%1 km from A, %2 m free (%3 %)")
+        .arg(place, metres, locale.toString(worst.freeShare() * PerCent, 'f', 0));
 }
 
 QColor colorOfClearance(linkpath::ClearanceStatus status)

@@ -14,6 +14,10 @@ QString clearanceText(linkpath::ClearanceStatus status);
 /// Lack::Nothing.
 QString lackText(linkpath::Lack lack);
 
+/// Distance of the worst point from end A and the free height there, in the chosen language, with
+/// numbers in the user's locale.
+QString worstText(const linkpath::WorstPoint &worst);
+
 /// The colour of a class of clearance.
 QColor colorOfClearance(linkpath::ClearanceStatus status);
 

@@ -1,6 +1,7 @@
 #include "ProgramRun.h"
 #include "support/Cases.h"
 
+#include <QImage>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -93,6 +94,22 @@ private Q_SLOTS:
         QCOMPARE(links.at(1).toObject().value(u"why"_s).toString(), u"heightA"_s);
         QCOMPARE(links.at(2).toObject().value(u"placed"_s).toBool(true), false);
         QCOMPARE(reported.value(u"statusCounts"_s).toObject().value(u"unknown"_s).toInt(), 2);
+    }
+
+    /// Its figures are those of the report, in the user's locale.
+    void drawsTheProfileOfALink()
+    {
+        for (const QString &name : {u"North"_s, u"#2"_s}) {
+            const Run run =
+                start(u"link ../l.csv --terrain ../hills.asc -o p.svg --profile "_s + name);
+            QCOMPARE(run.status, 0);
+            const QByteArray picture = readFile(path(u"elsewhere/p.svg"_s));
+            for (const char *text :
+                 {"North (Alpha \xe2\x80\x93 Beta)", "5,557 km", "6 GHz", "1,5 m"})
+                QVERIFY2(picture.contains(text), text);
+        }
+        QCOMPARE(start(u"link ../l.csv -o p.png --profile North"_s).status, 0);
+        QVERIFY(!QImage(path(u"elsewhere/p.png"_s)).isNull());
     }
 
     void printsAReportForPeopleBesideTheLayer()
@@ -193,6 +210,9 @@ private Q_SLOTS:
         row("link ../l.csv -o old.lay --terrain no.tif", 1, "(there is no such local file)");
         row("link ../l.csv -o ../hills.asc --terrain ../hills.asc", 1, "one of the input files");
         row("link ../l.csv -o - --report", 2, "'-o -' and --report cannot be combined");
+        row("link ../l.csv -o old.svg --profile Nord", 1, "../l.csv: there is no link 'Nord'");
+        row("link ../l.csv -o old.svg --profile Lost", 1, "the link 'Lost' has no profile: an end");
+        row("link ../l.csv -o old.lay --profile North", 2, "give -o PROFILE.svg or PROFILE.png");
         row("link ../l.csv", 2, "no output file given (-o OUT.lay), and no --report");
         row("link ../l.csv -o old.lay --link-style rope", 2, "line|tube|billboard");
         row("link ../l.csv -o old.lay --link-color bluish", 2, "not \"bluish\"");

@@ -17,7 +17,6 @@ namespace vlt::links {
 namespace {
 
 constexpr double MetresPerKm = 1000;
-constexpr int PerCent = 100;
 constexpr double HzPerMHz = 1e6;
 
 QIcon clearanceIcon(linkpath::ClearanceStatus status)
@@ -146,16 +145,6 @@ QVariant LinkReportModel::toolTip(const geodata::LinkReport &link, int column) c
                  "frequency and the terrain under the whole path",
                  "MESS_TIP_UNJUDGED");
     return vlt::text::asRichText(tip);
-}
-
-QString LinkReportModel::worstText(const linkpath::WorstPoint &worst) const
-{
-    const QString place = m_locale.toString(worst.distanceM / MetresPerKm, 'f', 2);
-    const QString metres = m_locale.toString(qAbs(worst.clearanceM), 'f', 1);
-    if (worst.clearanceM < 0)
-        return tr("%1 km from A, terrain %2 m above the line", "MESS_WORST_CUT").arg(place, metres);
-    return tr("%1 km from A, %2 m free (%3 %)", "MESS_WORST_FREE")
-        .arg(place, metres, m_locale.toString(worst.freeShare() * PerCent, 'f', 0));
 }
 
 QVariant LinkReportModel::headerData(int section, Qt::Orientation orientation, int role) const

@@ -31,7 +31,6 @@ public:
 
 private:
     QVariant text(const geodata::LinkReport &link, int column) const;
-    QString worstText(const linkpath::WorstPoint &worst) const;
     QVariant toolTip(const geodata::LinkReport &link, int column) const;
     void arrange(const QList<geodata::LinkReport> &links);
     void sortLinks();

@@ -716,4 +716,27 @@
         <translation>--cures needs --write-mapping</translation>
     </message>
 </context>
+<context>
+    <name>Link profile</name>
+    <message id="MESS_OPT_PROFILE">
+        <source>Draw the path of a link, given by its name or as #ROW, into the file of -o (.svg or .png), instead of a layer.</source>
+        <translation>Draw the path of a link, given by its name or as #ROW, into the file of -o (.svg or .png), instead of a layer.</translation>
+    </message>
+    <message id="MESS_USE_PROFILE_OUTPUT">
+        <source>the profile is a picture: give -o PROFILE.svg or PROFILE.png</source>
+        <translation>the profile is a picture: give -o PROFILE.svg or PROFILE.png</translation>
+    </message>
+    <message id="MESS_CLI_NO_SUCH_LINK">
+        <source>there is no link '%1'%2</source>
+        <translation>there is no link '%1'%2</translation>
+    </message>
+    <message id="MESS_CLI_SAME_LINKS">
+        <source>several links have the name '%1': give one of %2</source>
+        <translation>several links have the name '%1': give one of %2</translation>
+    </message>
+    <message id="MESS_CLI_LINK_NO_LENGTH">
+        <source>the link '%1' has no profile: an end has no position, or both have the same</source>
+        <translation>the link '%1' has no profile: an end has no position, or both have the same</translation>
+    </message>
+</context>
 </TS>

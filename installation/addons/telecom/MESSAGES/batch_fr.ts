@@ -716,4 +716,27 @@
         <translation>--cures ne va qu'avec --write-mapping</translation>
     </message>
 </context>
+<context>
+    <name>Link profile</name>
+    <message id="MESS_OPT_PROFILE">
+        <source>Draw the path of a link, given by its name or as #ROW, into the file of -o (.svg or .png), instead of a layer.</source>
+        <translation>Dessiner le trajet d'une liaison, donnée par son nom ou par #LIGNE, dans le fichier de -o (.svg ou .png), au lieu d'une couche.</translation>
+    </message>
+    <message id="MESS_USE_PROFILE_OUTPUT">
+        <source>the profile is a picture: give -o PROFILE.svg or PROFILE.png</source>
+        <translation>le profil est une image&#xa0;: indiquez -o PROFIL.svg ou PROFIL.png</translation>
+    </message>
+    <message id="MESS_CLI_NO_SUCH_LINK">
+        <source>there is no link '%1'%2</source>
+        <translation>il n'y a pas de liaison «&#xa0;%1&#xa0;»%2</translation>
+    </message>
+    <message id="MESS_CLI_SAME_LINKS">
+        <source>several links have the name '%1': give one of %2</source>
+        <translation>plusieurs liaisons ont le nom «&#xa0;%1&#xa0;»&#xa0;: indiquez l'une de %2</translation>
+    </message>
+    <message id="MESS_CLI_LINK_NO_LENGTH">
+        <source>the link '%1' has no profile: an end has no position, or both have the same</source>
+        <translation>la liaison «&#xa0;%1&#xa0;» n'a pas de profil&#xa0;: une extrémité n'a pas de position, ou les deux ont la même</translation>
+    </message>
+</context>
 </TS>

@@ -221,4 +221,63 @@
         <translation>both ends have the same position</translation>
     </message>
 </context>
+<context>
+    <name>Link profile</name>
+    <message id="MESS_PROFILE_DISTANCE">
+        <source>distance from A (km)</source>
+        <translation>distance from A (km)</translation>
+    </message>
+    <message id="MESS_PROFILE_HEIGHT">
+        <source>m above sea level</source>
+        <translation>m above sea level</translation>
+    </message>
+    <message id="MESS_PROFILE_ANTENNA">
+        <source>antenna %1 m, at %2 m above sea level</source>
+        <translation>antenna %1 m, at %2 m above sea level</translation>
+    </message>
+    <message id="MESS_PROFILE_ANTENNA_LEVEL">
+        <source>antenna %1 m</source>
+        <translation>antenna %1 m</translation>
+    </message>
+    <message id="MESS_PROFILE_METRES">
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+    <message id="MESS_PROFILE_GROUND">
+        <source>ground</source>
+        <translation>ground</translation>
+    </message>
+    <message id="MESS_PROFILE_BULGE">
+        <source>curvature of the earth (k = %1)</source>
+        <translation>curvature of the earth (k = %1)</translation>
+    </message>
+    <message id="MESS_PROFILE_RAY">
+        <source>line of sight</source>
+        <translation>line of sight</translation>
+    </message>
+    <message id="MESS_PROFILE_ZONE">
+        <source>first Fresnel zone</source>
+        <translation>first Fresnel zone</translation>
+    </message>
+    <message id="MESS_PROFILE_SHARE">
+        <source>%1 % of it, to be clear</source>
+        <translation>%1 % of it, to be clear</translation>
+    </message>
+    <message id="MESS_PROFILE_ROW">
+        <source>link of row %1</source>
+        <translation>link of row %1</translation>
+    </message>
+    <message id="MESS_PROFILE_LENGTH">
+        <source>%1 km</source>
+        <translation>%1 km</translation>
+    </message>
+    <message id="MESS_PROFILE_FREQUENCY">
+        <source>%1 GHz</source>
+        <translation>%1 GHz</translation>
+    </message>
+    <message id="MESS_PROFILE_LEVEL">
+        <source>no terrain: the ground is drawn level</source>
+        <translation>no terrain: the ground is drawn level</translation>
+    </message>
+</context>
 </TS>

@@ -221,4 +221,63 @@
         <translation>les deux extrémités ont la même position</translation>
     </message>
 </context>
+<context>
+    <name>Link profile</name>
+    <message id="MESS_PROFILE_DISTANCE">
+        <source>distance from A (km)</source>
+        <translation>distance depuis A (km)</translation>
+    </message>
+    <message id="MESS_PROFILE_HEIGHT">
+        <source>m above sea level</source>
+        <translation>m au-dessus du niveau de la mer</translation>
+    </message>
+    <message id="MESS_PROFILE_ANTENNA">
+        <source>antenna %1 m, at %2 m above sea level</source>
+        <translation>antenne à %1 m du sol, altitude %2 m</translation>
+    </message>
+    <message id="MESS_PROFILE_ANTENNA_LEVEL">
+        <source>antenna %1 m</source>
+        <translation>antenne à %1 m du sol</translation>
+    </message>
+    <message id="MESS_PROFILE_METRES">
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+    <message id="MESS_PROFILE_GROUND">
+        <source>ground</source>
+        <translation>terrain</translation>
+    </message>
+    <message id="MESS_PROFILE_BULGE">
+        <source>curvature of the earth (k = %1)</source>
+        <translation>courbure de la Terre (k = %1)</translation>
+    </message>
+    <message id="MESS_PROFILE_RAY">
+        <source>line of sight</source>
+        <translation>ligne de visée</translation>
+    </message>
+    <message id="MESS_PROFILE_ZONE">
+        <source>first Fresnel zone</source>
+        <translation>première zone de Fresnel</translation>
+    </message>
+    <message id="MESS_PROFILE_SHARE">
+        <source>%1 % of it, to be clear</source>
+        <translation>%1&#xa0;% de la zone, à dégager</translation>
+    </message>
+    <message id="MESS_PROFILE_ROW">
+        <source>link of row %1</source>
+        <translation>liaison de la ligne %1</translation>
+    </message>
+    <message id="MESS_PROFILE_LENGTH">
+        <source>%1 km</source>
+        <translation>%1 km</translation>
+    </message>
+    <message id="MESS_PROFILE_FREQUENCY">
+        <source>%1 GHz</source>
+        <translation>%1 GHz</translation>
+    </message>
+    <message id="MESS_PROFILE_LEVEL">
+        <source>no terrain: the ground is drawn level</source>
+        <translation>pas de terrain&#xa0;: le sol est dessiné plat</translation>
+    </message>
+</context>
 </TS>

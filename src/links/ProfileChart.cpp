@@ -1,0 +1,425 @@
+#include "links/ProfileChart.h"
+
+#include "language/VltLanguageManager.h"
+#include "linkpath/Fresnel.h"
+#include "links/ClearanceText.h"
+#include "readingaids/ViewScale.h"
+
+#include <QFontMetricsF>
+#include <QLocale>
+#include <QPainterPath>
+
+#include <algorithm>
+#include <cmath>
+
+namespace vlt::links {
+
+namespace {
+
+using geodata::LinkProfile;
+using linkpath::ProfilePoint;
+
+constexpr double MetresPerKm = 1000;
+constexpr int PerCent = 100;
+constexpr int CurvePoints = 128; ///< of lines that are drawn from formulas
+const QString Separator = QStringLiteral("  \u2022  ");
+
+QString fixed(double value, int decimals)
+{
+    return QLocale().toString(value, 'f', decimals);
+}
+
+QString shortest(double value)
+{
+    return QLocale().toString(value, 'g', 6);
+}
+
+QColor mixed(const QColor &color, const QColor &other, double share)
+{
+    const auto part = [share](double a, double b) {
+        return static_cast<float>(a * share + b * (1 - share));
+    };
+    return QColor::fromRgbF(part(color.redF(), other.redF()), part(color.greenF(), other.greenF()),
+                            part(color.blueF(), other.blueF()));
+}
+
+/// The antennas and what lies between them, by the distance from end A.
+class Path
+{
+public:
+    explicit Path(const LinkProfile &profile)
+        : m_profile(profile)
+        , m_a(profile.antennaM(0))
+        , m_b(profile.antennaM(1))
+    {}
+
+    bool hasLine() const { return m_a && m_b; }
+    bool hasZone() const { return hasLine() && m_profile.link.frequencyMHz.value_or(0) > 0; }
+    double lengthM() const { return m_profile.path.lengthM; }
+    double lineM(double d) const { return *m_a + (*m_b - *m_a) * d / lengthM(); }
+    double radiusM(double d) const
+    {
+        return linkpath::fresnelRadiusM(1, *m_profile.link.frequencyMHz, d, lengthM() - d);
+    }
+    double bulgeM(double d) const
+    {
+        return linkpath::earthBulgeM(d, lengthM() - d, m_profile.rule.kFactor);
+    }
+    double distanceM(int point) const { return lengthM() * point / CurvePoints; }
+
+    /// Minimum and maximum of all heights that are drawn.
+    std::pair<double, double> rangeM() const
+    {
+        double low = 0;
+        double high = 0;
+        bool isFirst = true;
+        const auto add = [&](double heightM) {
+            low = isFirst ? heightM : std::min(low, heightM);
+            high = isFirst ? heightM : std::max(high, heightM);
+            isFirst = false;
+        };
+        for (const ProfilePoint &point : m_profile.path.points) {
+            add(point.terrainM);
+            add(point.terrainM + bulgeM(point.distanceM));
+        }
+        for (int i = 0; hasLine() && i <= CurvePoints; ++i) {
+            const double d = distanceM(i);
+            add(lineM(d) + (hasZone() ? radiusM(d) : 0));
+            add(lineM(d));
+        }
+        return {low, high};
+    }
+
+private:
+    const LinkProfile &m_profile;
+    std::optional<double> m_a;
+    std::optional<double> m_b;
+};
+
+/// The drawing of one profile.
+class Chart
+{
+public:
+    Chart(QPainter &painter, const QRectF &area, const LinkProfile &profile,
+          const ProfileStyle &style)
+        : m_painter(painter)
+        , m_area(area)
+        , m_profile(profile)
+        , m_path(profile)
+        , m_style(style)
+        , m_line(QFontMetricsF(style.font).height())
+        , m_status(colorOfClearance(profile.link.clearance.status))
+    {}
+
+    void draw()
+    {
+        m_painter.setFont(m_style.font);
+        m_painter.fillRect(m_area, m_style.paper);
+        layOut();
+        drawHeading();
+        drawAxes();
+        m_painter.save();
+        m_painter.setClipRect(m_plot);
+        if (m_path.hasZone())
+            drawZone();
+        drawGround();
+        m_painter.restore();
+        if (m_path.hasLine())
+            drawRay();
+        if (m_profile.worst)
+            drawWorst();
+        drawLegend();
+    }
+
+private:
+    QColor ink(double share = 1) const { return mixed(m_style.ink, m_style.paper, share); }
+    QColor groundColor() const { return mixed(QColor(0x8a, 0x72, 0x50), m_style.paper, 0.75); }
+    QColor bulgeColor() const { return mixed(QColor(0x8a, 0x72, 0x50), m_style.paper, 0.4); }
+    QColor zoneColor() const { return mixed(m_status, m_style.paper, 0.3); }
+    QPen pen(const QColor &color, double width = 1, Qt::PenStyle style = Qt::SolidLine) const
+    {
+        return {color, width * std::max(1.0, m_line / 14), style};
+    }
+    double width(const QString &text) const
+    {
+        return QFontMetricsF(m_style.font).horizontalAdvance(text);
+    }
+
+    QPointF at(double distanceM, double heightM) const
+    {
+        return {m_plot.left() + m_plot.width() * distanceM / m_path.lengthM(),
+                m_plot.bottom() - m_plot.height() * (heightM - m_lowM) / (m_highM - m_lowM)};
+    }
+
+    void layOut()
+    {
+        constexpr double HeadLines = 4.6; // two of the heading, two above the antennas
+        constexpr double FootLines = 4;   // ticks, unit, legend
+        constexpr double MinRangeM = 10;
+        const auto [low, high] = m_path.rangeM();
+        const double margin = std::max(MinRangeM, high - low) / 12;
+        m_lowM = low - margin;
+        m_highM = high + margin;
+        m_stepM = readingaids::roundNumberUpTo((m_highM - m_lowM) / 3);
+        double left = 0;
+        for (double tick = firstTick(); tick <= m_highM; tick += m_stepM)
+            left = std::max(left, width(shortest(tick)));
+        m_plot = m_area.adjusted(left + 2 * m_line, HeadLines * m_line, -1.5 * m_line,
+                                 -FootLines * m_line);
+    }
+
+    double firstTick() const { return std::ceil(m_lowM / m_stepM) * m_stepM; }
+
+    void text(const QRectF &box, int flags, const QString &text) const
+    {
+        m_painter.drawText(box, flags | Qt::TextSingleLine | Qt::TextDontClip, text);
+    }
+
+    void drawHeading()
+    {
+        QRectF line(m_area.left() + m_line, m_area.top() + m_line / 3, m_area.width() - 2 * m_line,
+                    m_line);
+        QFont bold = m_style.font;
+        bold.setBold(true);
+        m_painter.setPen(ink());
+        m_painter.setFont(bold);
+        text(line, Qt::AlignLeft, linkTitle(m_profile.link));
+        m_painter.setFont(m_style.font);
+        line.translate(0, m_line * 1.2);
+        m_painter.setPen(Qt::NoPen);
+        m_painter.setBrush(m_status);
+        const double side = m_line * 0.6;
+        m_painter.drawEllipse(QRectF(line.left(), line.center().y() - side / 2, side, side));
+        m_painter.setPen(ink());
+        text(line.adjusted(m_line, 0, 0, 0), Qt::AlignLeft,
+             QFontMetricsF(m_style.font)
+                 .elidedText(profileFigures(m_profile), Qt::ElideRight, line.width() - m_line));
+    }
+
+    void drawAxes()
+    {
+        const double tickSide = m_line / 4;
+        for (double tick = firstTick(); tick <= m_highM; tick += m_stepM) {
+            const QPointF place = at(0, tick);
+            m_painter.setPen(pen(ink(0.15)));
+            m_painter.drawLine(place, {m_plot.right(), place.y()});
+            m_painter.setPen(ink(0.8));
+            text({m_area.left(), place.y() - m_line / 2, m_plot.left() - tickSide - m_area.left(),
+                  m_line},
+                 Qt::AlignRight | Qt::AlignVCenter, shortest(tick));
+        }
+        const double stepM = readingaids::roundNumberUpTo(m_path.lengthM() / 4);
+        for (double tick = 0; tick <= m_path.lengthM() * (1 + 1e-9); tick += stepM) {
+            const QPointF place = at(tick, m_lowM);
+            m_painter.setPen(pen(ink(0.8)));
+            m_painter.drawLine(place, place + QPointF(0, tickSide));
+            text({place.x() - 50, place.y() + tickSide, 100, m_line}, Qt::AlignHCenter,
+                 shortest(tick / MetresPerKm));
+        }
+        m_painter.drawLine(m_plot.bottomLeft(), m_plot.bottomRight());
+        m_painter.drawLine(m_plot.bottomLeft(), m_plot.topLeft());
+        text({m_plot.left(), m_plot.bottom() + m_line * 1.25, m_plot.width(), m_line},
+             Qt::AlignRight, dico_label("MESS_PROFILE_DISTANCE", "distance from A (km)"));
+        m_painter.save();
+        m_painter.translate(m_area.left() + m_line * 0.3, m_plot.bottom());
+        m_painter.rotate(-90);
+        text({0, 0, m_plot.height(), m_line}, Qt::AlignHCenter,
+             dico_label("MESS_PROFILE_HEIGHT", "m above sea level"));
+        m_painter.restore();
+    }
+
+    /// The area between the ground with and without the curvature, and that below both.
+    void drawGround()
+    {
+        QPolygonF raised;
+        QPolygonF flat;
+        for (const ProfilePoint &point : m_profile.path.points) {
+            raised << at(point.distanceM, point.terrainM + m_path.bulgeM(point.distanceM));
+            flat << at(point.distanceM, point.terrainM);
+        }
+        if (raised.isEmpty())
+            return;
+        const auto filled = [this](QPolygonF top, const QColor &color) {
+            top << QPointF(top.last().x(), m_plot.bottom())
+                << QPointF(top.first().x(), m_plot.bottom());
+            m_painter.setPen(Qt::NoPen);
+            m_painter.setBrush(color);
+            m_painter.drawPolygon(top);
+        };
+        filled(raised, bulgeColor());
+        filled(flat, groundColor());
+        m_painter.setPen(pen(mixed(groundColor(), m_style.ink, 0.5), 1.2));
+        m_painter.drawPolyline(raised);
+    }
+
+    QPolygonF zoneLine(double share) const
+    {
+        QPolygonF line;
+        for (int i = 0; i <= CurvePoints; ++i) {
+            const double d = m_path.distanceM(i);
+            line << at(d, m_path.lineM(d) + share * m_path.radiusM(d));
+        }
+        return line;
+    }
+
+    void drawZone()
+    {
+        QPolygonF zone = zoneLine(1);
+        const QPolygonF lower = zoneLine(-1);
+        std::copy(lower.rbegin(), lower.rend(), std::back_inserter(zone));
+        m_painter.setPen(pen(m_status));
+        m_painter.setBrush(zoneColor());
+        m_painter.drawPolygon(zone);
+    }
+
+    void drawRay()
+    {
+        m_painter.setBrush(Qt::NoBrush);
+        if (m_path.hasZone()) {
+            m_painter.setPen(pen(ink(), 1, Qt::DashLine));
+            m_painter.drawPolyline(zoneLine(-m_profile.rule.share));
+        }
+        const double lengthM = m_path.lengthM();
+        m_painter.setPen(pen(ink(), 1.5));
+        m_painter.drawLine(at(0, m_path.lineM(0)), at(lengthM, m_path.lineM(lengthM)));
+        for (const int end : {0, 1}) {
+            const double d = end * lengthM;
+            const auto groundM = end == 0 ? m_profile.path.groundAM : m_profile.path.groundBM;
+            m_painter.setPen(pen(ink(), 3));
+            m_painter.drawLine(at(d, *groundM), at(d, m_path.lineM(d)));
+            drawEnd(end, at(d, m_path.lineM(d)));
+        }
+    }
+
+    /// Name and heights of an end, in two lines above its antenna.
+    void drawEnd(int end, const QPointF &top)
+    {
+        const geodata::LinkReport &link = m_profile.link;
+        const double heightM = *link.ends[static_cast<std::size_t>(end)].heightM;
+        const QString site = end == 0 ? link.endA : link.endB;
+        const QString letter = end == 0 ? QStringLiteral("A") : QStringLiteral("B");
+        const QString heights =
+            m_profile.path.hasTerrain
+                ? dico_label("MESS_PROFILE_ANTENNA", "antenna %1 m, at %2 m above sea level")
+                      .arg(fixed(heightM, 1), fixed(*m_profile.antennaM(end), 1))
+                : dico_label("MESS_PROFILE_ANTENNA_LEVEL", "antenna %1 m").arg(fixed(heightM, 1));
+        const int side = end == 0 ? Qt::AlignLeft : Qt::AlignRight;
+        const double x = end == 0 ? top.x() : top.x() - m_plot.width() / 2;
+        QRectF line(x, m_plot.top() - 1.9 * m_line, m_plot.width() / 2, m_line);
+        m_painter.setPen(ink());
+        text(line, side, site.isEmpty() ? letter : letter + QStringLiteral(": ") + site);
+        m_painter.setPen(ink(0.8));
+        text(line.translated(0, 0.9 * m_line), side, heights);
+    }
+
+    void drawWorst()
+    {
+        const linkpath::WorstPoint &worst = *m_profile.worst;
+        const QPointF line = at(worst.distanceM, worst.lineM);
+        const QPointF ground = at(worst.distanceM, worst.terrainM + worst.bulgeM);
+        const double radius = m_line / 3;
+        const QColor mark = mixed(m_status, m_style.ink, 0.7);
+        m_painter.setPen(pen(mark, 2));
+        m_painter.setBrush(m_style.paper);
+        m_painter.drawLine(line, ground);
+        m_painter.drawEllipse(ground, radius, radius);
+        const QString label =
+            dico_label("MESS_PROFILE_METRES", "%1 m").arg(fixed(worst.clearanceM, 1));
+        const double wide = width(label) + m_line / 2;
+        const bool isRight = ground.x() + radius + wide < m_plot.right();
+        const QRectF box(isRight ? ground.x() + 1.5 * radius : ground.x() - 1.5 * radius - wide,
+                         (line.y() + ground.y()) / 2 - m_line / 2, wide, m_line);
+        QColor plate = m_style.paper;
+        plate.setAlphaF(0.85F);
+        m_painter.fillRect(box, plate);
+        m_painter.setPen(ink());
+        text(box, Qt::AlignCenter, label);
+    }
+
+    void drawLegend()
+    {
+        QPointF place(m_plot.left(), m_area.bottom() - 1.3 * m_line);
+        const auto entry = [this, &place](const QColor &fill, const QPen &edge, bool isArea,
+                                          const QString &name) {
+            const QRectF sample(place.x(), place.y() + 0.2 * m_line, 1.4 * m_line, 0.6 * m_line);
+            m_painter.setPen(edge);
+            m_painter.setBrush(fill);
+            if (isArea)
+                m_painter.drawRect(sample);
+            else
+                m_painter.drawLine(QPointF(sample.left(), sample.center().y()),
+                                   QPointF(sample.right(), sample.center().y()));
+            m_painter.setPen(ink());
+            text({sample.right() + m_line / 3, place.y(), width(name), m_line}, Qt::AlignLeft,
+                 name);
+            place.rx() += 2.6 * m_line + width(name);
+        };
+        entry(groundColor(), Qt::NoPen, true, dico_label("MESS_PROFILE_GROUND", "ground"));
+        entry(bulgeColor(), Qt::NoPen, true,
+              dico_label("MESS_PROFILE_BULGE", "curvature of the earth (k = %1)")
+                  .arg(QLocale().toString(m_profile.rule.kFactor, 'g', 3)));
+        if (m_path.hasLine())
+            entry({}, pen(ink(), 1.5), false, dico_label("MESS_PROFILE_RAY", "line of sight"));
+        if (!m_path.hasZone())
+            return;
+        entry(zoneColor(), pen(m_status), true,
+              dico_label("MESS_PROFILE_ZONE", "first Fresnel zone"));
+        entry({}, pen(ink(), 1, Qt::DashLine), false,
+              dico_label("MESS_PROFILE_SHARE", "%1 % of it, to be clear")
+                  .arg(fixed(m_profile.rule.share * PerCent, 0)));
+    }
+
+    QPainter &m_painter;
+    QRectF m_area;
+    const LinkProfile &m_profile;
+    Path m_path;
+    ProfileStyle m_style;
+    double m_line; ///< height of a line of text
+    QColor m_status;
+    QRectF m_plot;
+    double m_lowM = 0;
+    double m_highM = 0;
+    double m_stepM = 0; ///< between ticks
+};
+
+} // namespace
+
+QString linkTitle(const geodata::LinkReport &link)
+{
+    const QString ends = link.endA + QStringLiteral(" \u2013 ") + link.endB;
+    const bool hasEnds = !link.endA.isEmpty() && !link.endB.isEmpty();
+    if (link.name.isEmpty())
+        return hasEnds ? ends : dico_label("MESS_PROFILE_ROW", "link of row %1").arg(link.row);
+    return hasEnds ? link.name + QStringLiteral(" (%1)").arg(ends) : link.name;
+}
+
+QString profileFigures(const LinkProfile &profile)
+{
+    QStringList figures = {dico_label("MESS_PROFILE_LENGTH", "%1 km")
+                               .arg(fixed(profile.path.lengthM / MetresPerKm, 3))};
+    if (profile.link.frequencyMHz)
+        figures << dico_label("MESS_PROFILE_FREQUENCY", "%1 GHz")
+                       .arg(shortest(*profile.link.frequencyMHz / 1000));
+    const linkpath::Clearance &clearance = profile.link.clearance;
+    QString status = clearanceText(clearance.status);
+    if (profile.path.hasTerrain && clearance.lack != linkpath::Lack::Nothing)
+        status += QStringLiteral(" (%1)").arg(lackText(clearance.lack));
+    if (profile.path.hasTerrain)
+        figures << status;
+    else
+        figures << dico_label("MESS_PROFILE_LEVEL", "no terrain: the ground is drawn level");
+    if (profile.worst)
+        figures << worstText(*profile.worst);
+    return figures.join(Separator);
+}
+
+void drawProfile(QPainter &painter, const QRectF &area, const LinkProfile &profile,
+                 const ProfileStyle &style)
+{
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    Chart(painter, area, profile, style).draw();
+    painter.restore();
+}
+
+} // namespace vlt::links
