@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numbers>
 
 namespace vlt::links {
 
@@ -65,7 +66,11 @@ public:
     {
         return linkpath::earthBulgeM(d, lengthM() - d, m_profile.rule.kFactor);
     }
-    double distanceM(int point) const { return lengthM() * point / CurvePoints; }
+    /// Of a point of a curve; they are closer to each other at the ends, where a zone is round.
+    double distanceM(int point) const
+    {
+        return lengthM() * (1 - std::cos(std::numbers::pi * point / CurvePoints)) / 2;
+    }
 
     /// Minimum and maximum of all heights that are drawn.
     std::pair<double, double> rangeM() const
@@ -153,8 +158,8 @@ private:
 
     void layOut()
     {
-        constexpr double HeadLines = 4.6; // two of the heading, two above the antennas
-        constexpr double FootLines = 4;   // ticks, unit, legend
+        constexpr double HeadLines = 5; // two of the heading, two above the antennas
+        constexpr double FootLines = 4; // ticks, unit, legend
         constexpr double MinRangeM = 10;
         const auto [low, high] = m_path.rangeM();
         const double margin = std::max(MinRangeM, high - low) / 12;
