@@ -108,9 +108,9 @@ private Q_SLOTS:
         QCOMPARE(run.errors.isEmpty(), isWhole);
         static const QRegularExpression notice(
             u"^vltlayers: ([0-9]+|[0-9],[0-9]{3}) of 6,561 buildings are drawn from here\n$"_s);
-        const QRegularExpressionMatch told = notice.match(QString::fromUtf8(run.errors));
-        QVERIFY2(isWhole || told.hasMatch(), run.errors);
-        const int drawn = told.captured(1).remove(u',').toInt();
+        const QRegularExpressionMatch stated = notice.match(QString::fromUtf8(run.errors));
+        QVERIFY2(isWhole || stated.hasMatch(), run.errors);
+        const int drawn = stated.captured(1).remove(u',').toInt();
         QVERIFY(isWhole || (drawn > 0 && drawn < side * side / 2));
         const QJsonObject scene =
             QJsonDocument::fromJson(run.output).object().value(u"scene"_s).toObject();
