@@ -16,6 +16,7 @@
 #include <QSpinBox>
 #include <QTabWidget>
 #include <QTableView>
+#include <QTextDocumentFragment>
 #include <QToolButton>
 #include <QTreeView>
 
@@ -34,7 +35,11 @@ public:
         : WizardOnPage(u"m_pwClAddLink"_s, installation(), project)
     {}
 
-    QString remark() { return widget<QLabel>(u"m_pwLblRemark"_s)->text(); }
+    QLabel *remarkLabel() { return widget<QLabel>(u"m_pwLblRemark"_s); }
+    QString remark()
+    {
+        return QTextDocumentFragment::fromHtml(remarkLabel()->text()).toPlainText().simplified();
+    }
     QTableView *table() { return widget<QTableView>(u"m_pwTvLinks"_s); }
 };
 
@@ -96,22 +101,24 @@ private Q_SLOTS:
     {
         WizardOnLinkPage flow;
         dropFiles(flow.page, {Links});
-        QTRY_COMPARE_WITH_TIMEOUT(flow.remark(), u"18 clear, 2 marginal, 1 obstructed"_s,
+        QTRY_COMPARE_WITH_TIMEOUT(flow.remark(),
+                                  u"\u25cf 18 clear, \u25cf 2 marginal, \u25cf 1 obstructed"_s,
                                   PatienceMs);
         QTableView *table = flow.table();
         const auto cell = [table](int row, int column) {
             return table->model()->index(row, column).data().toString();
         };
 
-        table->selectRow(19);                                             // MW-20
-        table->sortByColumn(Column::ClearanceStatus, Qt::AscendingOrder); // the worst first
-        QCOMPARE(cell(0, Column::Name), u"MW-21"_s);
+        QCOMPARE(cell(0, Column::Name), u"MW-21"_s); // the worst first
+        QVERIFY(!table->isVisible());
+        Q_EMIT flow.remarkLabel()->linkActivated(u"2"_s); // marginal
+        QVERIFY(table->isVisible());
+        QCOMPARE(table->currentIndex().row(), 1);
+        table->selectRow(2); // MW-20
         QCOMPARE(cell(0, Column::ClearanceStatus), u"obstructed"_s);
         QVERIFY(cell(0, Column::Worst).contains(u"above the line"_s));
         table->sortByColumn(Column::Length, Qt::DescendingOrder); // the longest first
         QCOMPARE(cell(0, Column::Name), u"MW-19"_s);
-        flow.widget<QToolButton>(u"m_pwTbFold"_s)->click();
-        flow.widget<QTabWidget>(QString())->setCurrentWidget(table);
         flow.wizard.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&flow.wizard, PatienceMs));
         table->setFocus();
@@ -122,8 +129,8 @@ private Q_SLOTS:
 
         for (const int percent : {5, 4, 3, 2, 1}) // only the last one is used
             flow.widget<QSpinBox>(u"m_pwSbFresnelShare"_s)->setValue(percent);
-        QTRY_COMPARE_WITH_TIMEOUT(flow.remark(), u"20 clear, 0 marginal, 1 obstructed"_s,
-                                  PatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(
+            flow.remark(), u"\u25cf 20 clear, 0 marginal, \u25cf 1 obstructed"_s, PatienceMs);
         QCOMPARE(cell(0, Column::Name), u"MW-19"_s);
         const QModelIndexList selected = table->selectionModel()->selectedRows(Column::Name);
         QCOMPARE(selected.value(0).data(), u"MW-20"_s);

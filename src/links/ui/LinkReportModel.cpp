@@ -79,6 +79,15 @@ void LinkReportModel::setLinks(const QList<geodata::LinkReport> &links)
     endResetModel();
 }
 
+int LinkReportModel::firstOf(linkpath::ClearanceStatus status) const
+{
+    const auto found =
+        std::find_if(m_links.cbegin(), m_links.cend(), [status](const geodata::LinkReport &link) {
+            return link.clearance.status == status;
+        });
+    return found == m_links.cend() ? -1 : static_cast<int>(found - m_links.cbegin());
+}
+
 int LinkReportModel::rowCount(const QModelIndex &parent) const
 {
     return parent.isValid() ? 0 : static_cast<int>(m_links.size());

@@ -23,6 +23,9 @@ public:
     /// the links of another table.
     void setLinks(const QList<geodata::LinkReport> &links);
 
+    /// The first row whose link has a class of clearance; -1 if none has.
+    int firstOf(linkpath::ClearanceStatus status) const;
+
     int rowCount(const QModelIndex &parent = {}) const override;
     int columnCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
@@ -37,7 +40,7 @@ private:
 
     QLocale m_locale;
     QList<geodata::LinkReport> m_links;
-    int m_sortColumn = Row;
+    int m_sortColumn = ClearanceStatus;
     Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
 };
 

@@ -1,6 +1,7 @@
 #include "links/ui/VltLinkDetails.h"
 
 #include "language/ErrorText.h"
+#include "links/ClearanceText.h"
 #include "links/ui/LinkReportModel.h"
 
 #include <QHeaderView>
@@ -18,6 +19,15 @@ namespace {
 /// view.
 constexpr int MaxNameCharacters = 24;
 
+/// The number of links of a class, after a dot of the color of the class; a link to the first one.
+QString countText(ClearanceStatus status, int number)
+{
+    return QStringLiteral("<span style=\"color:%1\">\u25cf</span>&nbsp;<a href=\"%2\">%3</a>")
+        .arg(vlt::links::colorOfClearance(status).name())
+        .arg(static_cast<int>(status))
+        .arg(number);
+}
+
 } // namespace
 
 VltLinkDetails::VltLinkDetails(QWidget *parent)
@@ -31,7 +41,7 @@ VltLinkDetails::VltLinkDetails(QWidget *parent)
     // The texts of the worst points are long; the user scrolls to them, so they need not be cut.
     m_pwTvLinks->horizontalHeader()->setStretchLastSection(false);
     m_pwTvLinks->setSortingEnabled(true);
-    m_pwTvLinks->sortByColumn(vlt::links::LinkReportModel::Row, Qt::AscendingOrder);
+    sortWorstFirst();
 }
 
 void VltLinkDetails::showFile(const vlt::links::LinkFileInfo &file)
@@ -73,6 +83,22 @@ void VltLinkDetails::forgetRows()
     showRemark({});
 }
 
+void VltLinkDetails::sortWorstFirst()
+{
+    m_pwTvLinks->sortByColumn(vlt::links::LinkReportModel::ClearanceStatus, Qt::AscendingOrder);
+}
+
+/// Selects the first link of a class of clearance, which the link names by its number.
+void VltLinkDetails::followRemark(const QString &link)
+{
+    unfold(m_pwTvLinks);
+    sortWorstFirst();
+    const int row = m_linkModel->firstOf(static_cast<ClearanceStatus>(link.toInt()));
+    m_pwTvLinks->selectRow(row);
+    m_pwTvLinks->scrollTo(m_linkModel->index(row, 0));
+    m_pwTvLinks->setFocus();
+}
+
 void VltLinkDetails::showClearance(const LinkCheck &check, bool hasTerrain)
 {
     if (!hasTerrain || check.terrainProblem) {
@@ -87,15 +113,16 @@ void VltLinkDetails::showClearance(const LinkCheck &check, bool hasTerrain)
     for (const LinkReport &link : check.links)
         ++counts[static_cast<std::size_t>(link.clearance.status)];
     const auto count = [&counts](ClearanceStatus status) {
-        return counts[static_cast<std::size_t>(status)];
+        const int number = counts[static_cast<std::size_t>(status)];
+        return number == 0 ? QStringLiteral("0") : countText(status, number);
     };
     QString text = tr("%1 clear, %2 marginal, %3 obstructed", "MESS_VERDICT_COUNTS")
                        .arg(count(ClearanceStatus::Clear))
                        .arg(count(ClearanceStatus::Marginal))
                        .arg(count(ClearanceStatus::Obstructed));
-    if (count(ClearanceStatus::Unknown) > 0)
+    if (counts[static_cast<std::size_t>(ClearanceStatus::Unknown)] > 0)
         text += tr(", %1 unknown", "MESS_UNJUDGED_COUNT").arg(count(ClearanceStatus::Unknown));
-    showRemark(text);
+    showRemark(text, Qt::RichText);
 }
 
 QString VltLinkDetails::nonePlacedText() const

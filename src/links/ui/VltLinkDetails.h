@@ -29,9 +29,11 @@ public:
 
 private:
     void forgetRows() override;
+    void followRemark(const QString &link) override;
     QString nonePlacedText() const override;
     QString placedText() const override;
 
+    void sortWorstFirst();
     void showLinks(const QList<vlt::geodata::LinkReport> &links);
     void showClearance(const vlt::geodata::LinkCheck &check, bool hasTerrain);
 

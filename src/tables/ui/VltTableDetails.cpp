@@ -111,9 +111,8 @@ void VltTableDetails::buildHeading()
     m_pwPbCancel->setAutoDefault(false);
     m_pwPbCancel->setToolTip(tr("Stop checking the rows", "MESS_TIP_STOP_CHECK"));
     m_pwLblRemark->setObjectName(QStringLiteral("m_pwLblRemark"));
-    m_pwLblRemark->setTextFormat(Qt::PlainText);
     m_pwLblRemark->setWordWrap(true);
-    m_pwLblRemark->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    connect(m_pwLblRemark, &QLabel::linkActivated, this, &VltTableDetails::followRemark);
 
     auto *heading = new QHBoxLayout;
     heading->addWidget(m_pwLblWarning);
@@ -174,8 +173,11 @@ void VltTableDetails::setContentsTip(const QString &text)
     m_pwTbFold->setToolTip(text);
 }
 
-void VltTableDetails::showRemark(const QString &text)
+void VltTableDetails::showRemark(const QString &text, Qt::TextFormat format)
 {
+    m_pwLblRemark->setTextFormat(format);
+    m_pwLblRemark->setTextInteractionFlags(format == Qt::RichText ? Qt::TextBrowserInteraction
+                                                                  : Qt::TextSelectableByMouse);
     m_pwLblRemark->setText(text);
     m_pwLblRemark->setVisible(!text.isEmpty());
 }
@@ -184,7 +186,12 @@ void VltTableDetails::unfoldProblems()
 {
     if (m_mapping->isVisible()) // the user may be choosing columns
         return;
-    m_pwTwDetails->setCurrentWidget(m_pwTvProblems);
+    unfold(m_pwTvProblems);
+}
+
+void VltTableDetails::unfold(QTableView *table)
+{
+    m_pwTwDetails->setCurrentWidget(table);
     m_pwTbFold->setChecked(true);
 }
 

@@ -107,7 +107,12 @@ protected:
     void setContentsTip(const QString &text);
 
     /// Shows a line that stays visible while the tables are folded; an empty text hides it.
-    void showRemark(const QString &text);
+    ///
+    /// @param format  with Qt::RichText, its links call followRemark()
+    void showRemark(const QString &text, Qt::TextFormat format = Qt::PlainText);
+
+    /// Unfolds and shows the tab of a table.
+    void unfold(QTableView *table);
 
     /// Shows the tab of the problems and unfolds, unless the user sees the columns.
     void unfoldProblems();
@@ -115,6 +120,8 @@ protected:
 private:
     /// Removes all results of reading the rows.
     virtual void forgetRows() {}
+    /// The user has activated a link of the remark.
+    virtual void followRemark(const QString & /*link*/) {}
     virtual QString nonePlacedText() const = 0;
     /// "sites placed: %1 of %2"
     virtual QString placedText() const = 0;
