@@ -163,7 +163,8 @@ void VltTelecomLayersWizard::keepOnScreen()
     const QRect frame = frameGeometry();
     const int beyondRight = qMax(0, frame.right() - available.right());
     const int beyondBottom = qMax(0, frame.bottom() - available.bottom());
-    if (isVisible() && beyondRight + beyondBottom > 0)
+    const int beyondTop = qMax(0, available.top() - frame.top());
+    if (isVisible() && beyondRight + beyondBottom + beyondTop > 0)
         move(qMax(available.left(), pos().x() - beyondRight),
              qMax(available.top(), pos().y() - beyondBottom));
 }
