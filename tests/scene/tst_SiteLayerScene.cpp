@@ -1,4 +1,5 @@
 #include "LayerScenes.h"
+#include "contract/SceneObjects.h"
 #include "plugins/scene/reading/LayerFile.h"
 #include "support/Cases.h"
 #include "support/GeoTiff.h"
@@ -286,6 +287,28 @@ private Q_SLOTS:
             QCOMPARE(found.drawables.size() > 5, options == nullptr); // otherwise only its dot
             QCOMPARE(found.labels.size(), std::size_t(options ? 0 : 1));
         }
+    }
+
+    /// A program that draws the scene finds each site's row; the second row has no place.
+    void statesItsSites()
+    {
+        namespace keys = vlt::contract::objects;
+        writeFile(path(QStringLiteral("t.csv")),
+                  Header + "A,650000,6860000,10,30,90,,\nB,,,0,30,90,,\nC,650300,6860400,20,,,,\n");
+        writeFile(path(QStringLiteral("t.lay")), layerText(siteSource("t.csv")));
+        const osg::ref_ptr<osgDB::Options> drawn = new osgDB::Options;
+        drawn->setPluginStringData("vlt.drawn", "1");
+        const Opened opened = open(path(QStringLiteral("t.lay")), drawn);
+
+        const osg::UserDataContainer &data = *opened.scene->getUserDataContainer();
+        const auto &rows = dynamic_cast<const osg::UIntArray &>(*data.getUserObject(keys::Rows));
+        const auto &feet = dynamic_cast<const osg::Vec3Array &>(*data.getUserObject(keys::Places));
+        std::string names;
+        QVERIFY(opened.scene->getUserValue(keys::Names, names));
+
+        QCOMPARE(names, std::string("A\nC\n"));
+        QCOMPARE(rows.asVector(), (std::vector<unsigned>{2, 4}));
+        QVERIFY((feet[1] - feet[0] - osg::Vec3(300, 400, 10)).length() < 0.01);
     }
 
     void looksForTheTableInOrder()

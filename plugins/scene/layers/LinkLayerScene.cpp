@@ -1,9 +1,12 @@
 #include "plugins/scene/layers/LinkLayerScene.h"
 
 #include "contract/SceneFactKeys.h"
+#include "contract/SceneObjects.h"
 #include "plugins/scene/layers/LayerLegend.h"
 #include "plugins/scene/link/LinkFactory.h"
+#include "plugins/scene/link/LinkZones.h"
 #include "plugins/scene/reading/SceneFacts.h"
+#include "plugins/scene/reading/SceneObjects.h"
 
 #include <array>
 #include <utility>
@@ -22,6 +25,23 @@ std::vector<NamedPlace> namesOf(const LinkRows &rows, const std::vector<LinkObje
                 {rows.rows[i].name, (links[i].a + links[i].b) / 2, NamedPlace::Kind::Line});
     }
     return names;
+}
+
+/// @param links  those of the rows
+SceneObjects objectsOf(const LinkRows &rows, const std::vector<LinkObject> &links,
+                       const LinkAppearance &appearance)
+{
+    SceneObjects objects;
+    objects.reserve(links.size());
+    for (std::size_t i = 0; i < links.size(); ++i) {
+        const std::optional<Ellipsoid> zone = zoneOf(links[i], appearance);
+        objects.places->push_back(links[i].a);
+        objects.places->push_back(links[i].b);
+        objects.sizes->push_back(static_cast<float>(zone ? zone->halfWidth : 0));
+        objects.rows->push_back(rows.rows[i].row);
+        objects.addName(rows.rows[i].name);
+    }
+    return objects;
 }
 
 } // namespace
@@ -51,6 +71,8 @@ osg::ref_ptr<osg::Group> buildLinkLayerScene(const LinkRows &rows, LinkRecords r
     setLegend(*group, linkRows(records, appearance));
     if (rows.isCut)
         setCut(*group);
+    if (content == TileContent::WhenDrawn)
+        objectsOf(rows, records.links, appearance).addTo(*group, contract::objects::Link);
     group->addChild(
         buildPylonTiles(std::move(records.pylons), content, namesOf(rows, records.links)));
     group->addChild(buildLinks(records.links, appearance));

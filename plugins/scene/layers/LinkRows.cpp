@@ -74,6 +74,7 @@ private:
         if (m_links.isCut)
             return;
         LinkRow row;
+        row.row = static_cast<std::uint32_t>(link->row);
         row.name = std::move(link->name);
         for (std::size_t i = 0; i < row.ends.size(); ++i) {
             linkpath::PairedLink::End &end = link->ends[i];

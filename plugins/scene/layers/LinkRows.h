@@ -8,6 +8,7 @@
 #include <osg/Vec2d>
 
 #include <array>
+#include <cstdint>
 #include <functional>
 #include <string>
 #include <vector>
@@ -27,6 +28,7 @@ struct LinkRowEnd
 
 struct LinkRow
 {
+    std::uint32_t row = 0;          ///< of the file, from 1
     std::string name;               ///< UTF-8; may be empty
     std::array<LinkRowEnd, 2> ends; ///< A, B
     double frequencyMHz = 0;        ///< of end A, else of end B; 0: unknown

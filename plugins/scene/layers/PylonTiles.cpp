@@ -1,5 +1,6 @@
 #include "plugins/scene/layers/PylonTiles.h"
 
+#include "contract/SceneObjects.h"
 #include "plugins/scene/layers/SiteLabels.h"
 #include "plugins/scene/layers/SiteSymbols.h"
 #include "plugins/scene/layers/SiteTree.h"
@@ -8,10 +9,12 @@
 #include "plugins/scene/mesh/Palette.h"
 #include "plugins/scene/pylon/PylonFactory.h"
 #include "plugins/scene/pylon/Sectors.h"
+#include "plugins/scene/reading/ObjectRanges.h"
 
 #include <osg/Geode>
 #include <osg/LOD>
 #include <osg/Point>
+#include <osg/ValueObject>
 
 #include <algorithm>
 #include <cmath>
@@ -52,6 +55,7 @@ struct Content
 {
     Content(PylonRecords &&all, TileContent made)
         : records(std::move(all))
+        , isPickable(made == TileContent::WhenDrawn && records.sites.front().row > 0)
         , isWholeAtOnce(made == TileContent::AtOnce && records.sites.size() <= MaxSitesAtOnce)
         , isCoarseAtOnce(made == TileContent::AtOnce &&
                          records.sites.size() <= MaxCoarseSitesAtOnce)
@@ -60,6 +64,7 @@ struct Content
     {}
 
     PylonRecords records;
+    bool isPickable;
     bool isWholeAtOnce;
     bool isCoarseAtOnce;
     bool hasSymbols;
@@ -100,15 +105,6 @@ struct Content
 using ContentPtr = std::shared_ptr<Content>;
 using Sites = std::vector<std::uint32_t>;
 
-/// Height of the top of a pylon with its sectors above its foot, in metres.
-double topOf(const PylonDesign &design)
-{
-    double top = design.heightM + RodM;
-    for (const Sector &sector : stackSectors(design))
-        top = std::max(top, sector.bottomM + sector.heightM);
-    return top;
-}
-
 /// @param padM  how much larger the bound is than the points, because small objects are culled
 osg::ref_ptr<osg::Geometry> makeDots(const osg::ref_ptr<osg::Vec3Array> &points, double padM,
                                      osg::StateSet *state)
@@ -144,15 +140,32 @@ osg::ref_ptr<osg::Node> makeLabels(Content &content, const Sites &sites, const o
     return group;
 }
 
-void addDrawable(osg::Geode &geode, const Mesh &mesh, osg::StateSet *state)
+osg::Drawable *addDrawable(osg::Geode &geode, const Mesh &mesh, osg::StateSet *state)
 {
     if (mesh.empty())
-        return;
+        return nullptr;
     osg::ref_ptr<osg::Geometry> geometry = new osg::Geometry;
     mesh.fill(*geometry);
     geometry->setStateSet(state);
     geode.addDrawable(geometry);
+    return geometry;
 }
+
+/// The sectors of a tile in one drawable.
+struct Wedges
+{
+    Mesh mesh;
+    ObjectRanges ranges;
+
+    void begin(std::uint32_t site) { ranges.begin(site, mesh.indices().size()); }
+
+    void addTo(osg::Geode &geode, osg::StateSet *state, bool isPickable) const
+    {
+        osg::Drawable *drawable = addDrawable(geode, mesh, state);
+        if (drawable && isPickable)
+            ranges.addTo(*drawable);
+    }
+};
 
 /// The colour of a translucent sector at large distances, where only its near walls are drawn. They
 /// need the opacity of both walls together.
@@ -169,14 +182,16 @@ osg::ref_ptr<osg::Node> makeCoarse(const Content &content, const Sites &sites,
 {
     Mesh masts(Mesh::Kind::Lines);
     Mesh noEdges(Mesh::Kind::Lines);
-    Mesh opaque;
-    Mesh translucent;
+    Wedges opaque;
+    Wedges translucent;
     for (const std::uint32_t site : sites) {
         const osg::Vec3d foot = content.records.sites[site].foot - origin;
         const PylonDesign &design = content.designOf(site);
+        opaque.begin(site);
+        translucent.begin(site);
         double top = design.heightM;
         for (Sector sector : stackSectors(design)) {
-            Mesh &fill = sector.color.a() < 255 ? translucent : opaque;
+            Mesh &fill = (sector.color.a() < 255 ? translucent : opaque).mesh;
             top = std::max(top, sector.bottomM + sector.heightM);
             sector.color = forOneWall(sector.color);
             sector.azimuthDeg += content.records.sites[site].northDeg;
@@ -188,8 +203,8 @@ osg::ref_ptr<osg::Node> makeCoarse(const Content &content, const Sites &sites,
     const SceneMaterials &materials = content.factory.materials();
     osg::ref_ptr<osg::Geode> geode = new osg::Geode;
     addDrawable(*geode, masts, materials.sectorEdges);
-    addDrawable(*geode, opaque, materials.opaqueSector);
-    addDrawable(*geode, translucent, materials.translucentSector);
+    opaque.addTo(*geode, materials.opaqueSector, content.isPickable);
+    translucent.addTo(*geode, materials.translucentSector, content.isPickable);
     return geode;
 }
 
@@ -233,6 +248,8 @@ osg::ref_ptr<osg::Node> makePylons(Content &content, const Sites &sites, const o
         const osg::ref_ptr<osg::Node> pylon =
             content.factory.build({record.foot - origin, content.designOf(site), record.northDeg});
         pylon->setName(record.name);
+        if (content.isPickable)
+            pylon->setUserValue(contract::objects::Number, site);
         group->addChild(pylon);
         if (!markSpacingM)
             continue;
@@ -418,6 +435,14 @@ private:
 };
 
 } // namespace
+
+double topOf(const PylonDesign &design)
+{
+    double top = design.heightM + RodM;
+    for (const Sector &sector : stackSectors(design))
+        top = std::max(top, sector.bottomM + sector.heightM);
+    return top;
+}
 
 osg::ref_ptr<osg::Node> buildPylonTiles(PylonRecords records, TileContent content,
                                         std::vector<NamedPlace> links)

@@ -20,6 +20,9 @@ inline constexpr std::size_t MaxSitesAtOnce = 2000;
 inline constexpr std::size_t MaxCoarseSitesAtOnce = 50000; ///< about 200 MiB
 inline constexpr std::size_t MaxSymbols = 50000;           ///< about 50 MiB, and 50 ms a picture
 
+/// Height of the top of a pylon with its sectors above its foot, in metres.
+double topOf(const PylonDesign &design);
+
 /// The pylons of a layer, at least one, with the names of their sites.
 ///
 /// The sites are divided into tiles of neighbours. A tile shows whole pylons up to the realistic
@@ -27,6 +30,9 @@ inline constexpr std::size_t MaxSymbols = 50000;           ///< about 50 MiB, an
 /// a dot for each site at larger distances: a symbol (SiteSymbols.h) if the scene is only drawn and
 /// has no more than MaxSymbols sites. Names are visible at distances at which there is room
 /// for them between the sites; in a scene with symbols NameOverlay.h shows them.
+///
+/// In a scene that is only drawn, the parts of sites with a row have the numbers of
+/// contract/SceneObjects.h.
 ///
 /// @param links  names of links at their middles, which are shown with those of the sites in a
 /// scene

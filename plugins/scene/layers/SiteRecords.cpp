@@ -75,6 +75,7 @@ private:
         }
         SiteRecord site;
         site.name = textAt(feature, m_columns.name);
+        site.row = static_cast<std::uint32_t>(feature.GetFID());
         site.foot.z() =
             numberAt(feature, m_columns.terrainHeight, MinHeightM, MaxHeightM).value_or(NAN);
         const auto [design, isNew] = m_designs.try_emplace(

@@ -24,6 +24,7 @@ struct SiteRecord
     osg::Vec3d foot;  ///< metres in the local frame
     std::uint32_t design = 0;
     float northDeg = 0; ///< true north, clockwise from the frame's y axis; azimuths count from it
+    std::uint32_t row = 0; ///< of the table, its first one; 0 for pylons at the ends of links
 };
 
 /// Pylons with their positions. Equal pylons share a design.

@@ -1,10 +1,33 @@
 #include "plugins/scene/layers/SiteScene.h"
 
 #include "contract/SceneFactKeys.h"
+#include "contract/SceneObjects.h"
 #include "plugins/scene/layers/LayerLegend.h"
 #include "plugins/scene/reading/SceneFacts.h"
+#include "plugins/scene/reading/SceneObjects.h"
 
 namespace vlt::scene {
+
+namespace {
+
+SceneObjects objectsOf(const SiteRecords &records)
+{
+    std::vector<double> topsM;
+    topsM.reserve(records.designs.size());
+    for (const PylonDesign &design : records.designs)
+        topsM.push_back(topOf(design));
+    SceneObjects objects;
+    objects.reserve(records.sites.size());
+    for (const SiteRecord &site : records.sites) {
+        objects.places->push_back(site.foot);
+        objects.sizes->push_back(static_cast<float>(topsM[site.design]));
+        objects.rows->push_back(site.row);
+        objects.addName(site.name);
+    }
+    return objects;
+}
+
+} // namespace
 
 osg::ref_ptr<osg::Group> buildSiteScene(SiteRecords records, const std::string &title,
                                         TileContent content)
@@ -18,6 +41,8 @@ osg::ref_ptr<osg::Group> buildSiteScene(SiteRecords records, const std::string &
     if (records.isCut)
         setCut(*group);
     setLegend(*group, sectorRows(records.transmitters));
+    if (content == TileContent::WhenDrawn)
+        objectsOf(records).addTo(*group, contract::objects::Site);
     if (!records.sites.empty())
         group->addChild(buildPylonTiles(std::move(records), content));
     return group;

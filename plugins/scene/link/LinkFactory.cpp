@@ -133,8 +133,7 @@ private:
         place->setDataVariance(osg::Object::DYNAMIC);
         if (geode->getNumDrawables() > 0)
             place->addChild(geode);
-        if (m_appearance.fresnelZone > 0 && m_appearance.fresnelColor.a() > 0)
-            addZones(*place, links, origin);
+        addZones(*place, links, origin);
         return place;
     }
 
@@ -179,13 +178,11 @@ private:
     {
         std::vector<Ellipsoid> ellipsoids;
         for (const LinkObject *link : links) {
-            if (!(link->frequencyMHz > 0))
+            std::optional<Ellipsoid> zone = zoneOf(*link, m_appearance);
+            if (!zone)
                 continue;
-            osg::Vec3d axis = link->b - link->a;
-            const linkpath::FresnelEllipsoid size = linkpath::fresnelEllipsoid(
-                m_appearance.fresnelZone, link->frequencyMHz, axis.normalize());
-            ellipsoids.push_back({(link->a + link->b) / 2 - origin, axis * size.semiMajorM,
-                                  size.semiMinorM * m_appearance.fresnelShare});
+            zone->centre -= origin;
+            ellipsoids.push_back(*zone);
         }
         if (!ellipsoids.empty())
             place.addChild(m_zones.build(ellipsoids));
@@ -218,6 +215,18 @@ private:
 };
 
 } // namespace
+
+std::optional<Ellipsoid> zoneOf(const LinkObject &link, const LinkAppearance &appearance)
+{
+    const bool isDrawn = appearance.fresnelZone > 0 && appearance.fresnelColor.a() > 0;
+    if (!isDrawn || !(link.frequencyMHz > 0) || link.a == link.b)
+        return std::nullopt;
+    osg::Vec3d axis = link.b - link.a;
+    const linkpath::FresnelEllipsoid size =
+        linkpath::fresnelEllipsoid(appearance.fresnelZone, link.frequencyMHz, axis.normalize());
+    return Ellipsoid{(link.a + link.b) / 2, axis * size.semiMajorM,
+                     size.semiMinorM * appearance.fresnelShare};
+}
 
 osg::ref_ptr<osg::Group> buildLinks(const std::vector<LinkObject> &links,
                                     const LinkAppearance &appearance)

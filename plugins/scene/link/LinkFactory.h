@@ -1,10 +1,12 @@
 #pragma once
 
+#include "plugins/scene/link/LinkZones.h"
 #include "plugins/scene/parametric/LinkObject.h"
 
 #include <osg/Group>
 
 #include <cstddef>
+#include <optional>
 #include <vector>
 
 namespace vlt::scene {
@@ -12,6 +14,9 @@ namespace vlt::scene {
 /// Maximum number of links in a tile. They are neighbours and share drawables, so that the renderer
 /// can skip tiles outside the view.
 inline constexpr std::size_t LinksPerTile = 256;
+
+/// The Fresnel ellipsoid of a link, in the coordinates of its ends; nothing if none is drawn.
+std::optional<Ellipsoid> zoneOf(const LinkObject &link, const LinkAppearance &appearance);
 
 /// Builds the lines of sight, visible at every distance, and the Fresnel ellipsoids of all links.
 ///
