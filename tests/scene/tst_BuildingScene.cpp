@@ -1,5 +1,6 @@
 #include "FootprintFiles.h"
 #include "LayerScenes.h"
+#include "picking/ObjectPicker.h"
 #include "plugins/scene/buildings/BuildingScene.h"
 #include "plugins/scene/reading/BadLayer.h"
 #include "support/Cases.h"
@@ -128,6 +129,37 @@ private Q_SLOTS:
         makeFootprints(path("town.gpkg"), {{"CURVEPOLYGON(CIRCULARSTRING(0 0,20 0,0 0))", "5"}});
         const Drawn drawn(read(document()));
         QVERIFY(std::abs(drawn.roofArea - 100 * M_PI) < 1); // more than 45 sides
+    }
+
+    /// The second feature has two buildings, the third one none.
+    void findsBuildingsUnderPoints()
+    {
+        makeFootprints(path("town.gpkg"),
+                       {{Square, "5"},
+                        {"MULTIPOLYGON(((20 0,30 0,30 10,20 0)),((40 0,50 0,50 10,40 0)))", "6"},
+                        {"LINESTRING(0 0,1 1)", "9"},
+                        {"POLYGON((60 0,70 0,70 10,60 0))", "7"}});
+        writeFile(path("t.texb"), document());
+        const auto scene = readBuildingScene(
+            path("t.texb").toStdString(), {}, m_notices, [](double) { return true; }, true);
+        const auto buildings = vlt::picking::SceneObjects::of(*scene);
+        QVERIFY(buildings);
+        QCOMPARE(buildings->count(), std::size_t{4});
+        QList<qint64> rows;
+        for (std::size_t i = 0; i < buildings->count(); ++i) {
+            rows << buildings->row(i);
+            const osg::Vec3d roof = buildings->place(i) + osg::Vec3d(1, -1, 0);
+            osg::ref_ptr<osgUtil::LineSegmentIntersector> ray = new osgUtil::LineSegmentIntersector(
+                roof + osg::Vec3d(0, 0, 9), roof - osg::Vec3d(0, 0, 1));
+            osgUtil::IntersectionVisitor visitor(ray);
+            visitor.setLODSelectionMode(osgUtil::IntersectionVisitor::USE_HIGHEST_LEVEL_OF_DETAIL);
+            scene->accept(visitor);
+            vlt::picking::Sight sight;
+            sight.met = ray->getIntersections();
+            QCOMPARE(vlt::picking::objectAt(*buildings, sight).value_or(99), i);
+        }
+        QCOMPARE(rows, (QList<qint64>{0, 1, 1, 3}));
+        QCOMPARE(buildings->sizeM(3), 7.0);
     }
 
     void reportsOfEqualOutlines()

@@ -3,6 +3,7 @@
 #include "city/CityInputs.h"
 #include "contract/FileSearch.h"
 #include "contract/SceneFactKeys.h"
+#include "contract/SceneObjects.h"
 #include "contract/SceneTexts.h"
 #include "localfiles/LocalFormats.h"
 #include "plugins/scene/buildings/CityColors.h"
@@ -11,7 +12,10 @@
 #include "plugins/scene/buildings/TexbDocument.h"
 #include "plugins/scene/buildings/TexturedTile.h"
 #include "plugins/scene/reading/SceneFacts.h"
+#include "plugins/scene/reading/SceneObjects.h"
 #include "plugins/scene/reading/TableReading.h"
+
+#include <osg/BoundingBox>
 
 #include <algorithm>
 #include <cmath>
@@ -107,6 +111,38 @@ TexturedMaker texturedMaker(const std::shared_ptr<CityModel> &city,
     };
 }
 
+SceneObjects objectsOf(const CityModel &city)
+{
+    const Footprints &footprints = city.footprints;
+    const auto bytesOf = [](const std::vector<colormaps::Rgba> &colors) {
+        osg::ref_ptr<osg::Vec4ubArray> bytes = new osg::Vec4ubArray;
+        bytes->reserve(static_cast<unsigned>(colors.size()));
+        for (const colormaps::Rgba &color : colors)
+            bytes->push_back({color.red, color.green, color.blue, color.alpha});
+        return bytes;
+    };
+    SceneObjects objects;
+    objects.reserve(footprints.buildings.size());
+    for (std::size_t i = 0; i < footprints.buildings.size(); ++i) {
+        const Footprints::Building &building = footprints.buildings[i];
+        const Footprints::Ring &outline = footprints.rings[building.ringBegin];
+        osg::BoundingBoxd bound;
+        for (std::uint32_t at = outline.begin; at < outline.end; ++at)
+            bound.expandBy(city.positions[at].x, city.positions[at].y,
+                           city.baseM[i] + building.heightM);
+        objects.places->push_back(bound.center());
+        objects.sizes->push_back(building.heightM);
+        objects.rows->push_back(footprints.features[building.feature].row);
+        if (!city.texts.empty())
+            objects.addName(city.texts[i]);
+    }
+    if (!city.values.empty())
+        objects.values = new osg::FloatArray(city.values.begin(), city.values.end());
+    objects.wallColors = bytesOf(city.wallColors);
+    objects.roofColors = bytesOf(city.roofColors);
+    return objects;
+}
+
 void setCounts(osg::Group &scene, const contract::CityCounts &counts)
 {
     using namespace contract;
@@ -123,13 +159,14 @@ void setCounts(osg::Group &scene, const contract::CityCounts &counts)
 } // namespace
 
 osg::ref_ptr<osg::Group> readBuildingScene(const std::string &document, const std::string &project,
-                                           Notices &notices, const Progress &progress)
+                                           Notices &notices, const Progress &progress, bool isDrawn)
 {
     const BuildingDocument texb = readTexbDocument(document);
     const Directories directories = contract::searchDirectories(document, project);
     const BuildingFootprints &footprints = texb.footprints;
     const auto city =
         std::make_shared<CityModel>(readCity(texb, directories, notices, part(progress, 0, 0.6)));
+    city->isPickable = isDrawn;
     colour(*city, texb, directories, notices, progress);
     const CityStyle look{footprints.tileSizeM, footprints.extrudedVisibilityM,
                          footprints.texturedVisibilityM, footprints.skirtHeightM,
@@ -146,6 +183,8 @@ osg::ref_ptr<osg::Group> readBuildingScene(const std::string &document, const st
               terrain.noData);
     setCounts(*scene, city->counts);
     setLegend(*scene, city->legend);
+    if (isDrawn)
+        objectsOf(*city).addTo(*scene, contract::objects::Building);
     return scene;
 }
 

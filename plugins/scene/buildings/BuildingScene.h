@@ -14,9 +14,12 @@ namespace vlt::scene {
 ///
 /// @param document   path of the document
 /// @param project    path of the project file, for relative paths; may be empty
+/// @param isDrawn    the program only draws the scene, and finds buildings in it by
+///                   contract/SceneObjects.h
 /// @throws BadLayer  with a text that names what is missing or wrong
 /// @throws Stopped   `progress` stopped the function
 osg::ref_ptr<osg::Group> readBuildingScene(const std::string &document, const std::string &project,
-                                           Notices &notices, const Progress &progress);
+                                           Notices &notices, const Progress &progress,
+                                           bool isDrawn = false);
 
 } // namespace vlt::scene

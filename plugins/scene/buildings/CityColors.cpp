@@ -67,14 +67,15 @@ ColorMap loadMap(const std::string &name, const std::vector<std::string> &direct
     return map;
 }
 
-/// Gives a feature's colour to all of its buildings.
-void give(std::vector<Rgba> &colors, const Footprints &footprints, std::size_t first,
-          const Rgba &color)
+/// Gives a feature's colour or value to all of its buildings.
+template<typename Value>
+void give(std::vector<Value> &values, const Footprints &footprints, std::size_t first,
+          const Value &value)
 {
     const std::uint32_t feature = footprints.buildings[first].feature;
-    for (std::size_t i = first; i < colors.size() && footprints.buildings[i].feature == feature;
+    for (std::size_t i = first; i < values.size() && footprints.buildings[i].feature == feature;
          ++i)
-        colors[i] = color;
+        values[i] = value;
 }
 
 std::vector<Rgba> rasterColors(CityModel &city, const RasterColors &colors,
@@ -94,6 +95,9 @@ std::vector<Rgba> rasterColors(CityModel &city, const RasterColors &colors,
     const std::vector<std::size_t> order = city::featuresInRows(footprints);
     const std::size_t number = order.size();
     std::vector<Rgba> found(footprints.buildings.size(), WithoutValue);
+    const bool keepsValues = city.isPickable && city.values.empty(); // those of the walls
+    if (keepsValues)
+        city.values.resize(footprints.buildings.size());
     city::BuildingValues values(footprints, transform, *raster, colors.reduction);
     const double before = colors.isStretched ? RangeShare : 0;
     std::size_t done = 0;
@@ -106,6 +110,8 @@ std::vector<Rgba> rasterColors(CityModel &city, const RasterColors &colors,
         without += std::isnan(value) ? 1 : 0;
         const Rgba color = colorOf(map, value, interpretation).value_or(WithoutValue);
         give(found, footprints, first, color);
+        if (keepsValues)
+            give(city.values, footprints, first, static_cast<float>(value));
     }
     const Rgba noValue = colorOf(map, std::nan(""), interpretation).value_or(WithoutValue);
     addMap(city.legend, map, {nameOf(colors.raster), raster->unit(), interpretation},
@@ -131,16 +137,21 @@ public:
     }
 
     bool hasValue(std::size_t row) const { return m_values.hasValue(row); }
+    bool hasTexts() const { return m_coloring == contract::FieldColoring::Distinct; }
+    float number(std::size_t row) const { return static_cast<float>(m_values.numbers[row]); }
+    std::string text(std::size_t row) const
+    {
+        return hasValue(row) ? m_values.distinct[m_values.texts[row]].text : std::string();
+    }
 
     /// @param withoutValue  some buildings have none
     void addTo(LegendRows &legend, const std::string &field, bool withoutValue) const
     {
         const Rgba color =
-            m_coloring == contract::FieldColoring::Distinct
-                ? WithoutValue
-                : colorOf(m_map, std::nan(""), interpretation()).value_or(WithoutValue);
+            hasTexts() ? WithoutValue
+                       : colorOf(m_map, std::nan(""), interpretation()).value_or(WithoutValue);
         const Rgba *noValue = withoutValue ? &color : nullptr;
-        if (m_coloring == contract::FieldColoring::Distinct)
+        if (hasTexts())
             addKinds(legend, m_values, field, noValue);
         else
             addMap(legend, m_map, {field, "", interpretation()}, noValue);
@@ -149,7 +160,7 @@ public:
     /// A colour map may have a colour for rows without a value.
     Rgba at(std::size_t row) const
     {
-        if (m_coloring == contract::FieldColoring::Distinct)
+        if (hasTexts())
             return hasValue(row) ? colormaps::distinctColor(m_values.texts[row]) : WithoutValue;
         return colorOf(m_map, m_values.numbers[row], interpretation()).value_or(WithoutValue);
     }
@@ -178,9 +189,15 @@ std::vector<Rgba> fieldColors(CityModel &city, const contract::BuildingDocument 
     std::size_t &without = city.counts.substitutes.noValue;
     try {
         const RowColors colors(document, directories, progress);
+        if (city.isPickable)
+            colors.hasTexts() ? city.texts.resize(found.size()) : city.values.resize(found.size());
         for (const std::size_t first : city::firstBuildings(footprints)) {
             const std::size_t row = footprints.features[footprints.buildings[first].feature].row;
             give(found, footprints, first, colors.at(row));
+            if (!city.values.empty())
+                give(city.values, footprints, first, colors.number(row));
+            if (!city.texts.empty())
+                give(city.texts, footprints, first, colors.text(row));
             without += colors.hasValue(row) ? 0 : 1;
         }
         colors.addTo(city.legend, document.colors.field, without > 0);

@@ -10,6 +10,7 @@
 #include <array>
 #include <cmath>
 #include <limits>
+#include <tuple>
 
 namespace vlt::scene {
 
@@ -96,8 +97,17 @@ osg::ref_ptr<osg::StateSet> translucentState(const osg::StateSet &faces)
     return state;
 }
 
+void CityMesh::begin(std::uint32_t building)
+{
+    if (!m_city.isPickable)
+        return;
+    m_ranges.begin(building, m_indices.size());
+    m_translucentRanges.begin(building, m_translucentIndices.size());
+}
+
 void CityMesh::addBuilding(std::uint32_t building, double skirtM, Faces faces)
 {
+    begin(building);
     const Footprints &footprints = m_city.footprints;
     for (const auto &part : partsOf(footprints.ringsOf(footprints.buildings[building])))
         addPart(part, building, skirtM, faces);
@@ -176,6 +186,7 @@ void CityMesh::addUnderside(double bottom, const osg::Vec4ub &color)
 
 void CityMesh::addBoxes(std::uint32_t building)
 {
+    begin(building);
     const Footprints &footprints = m_city.footprints;
     for (const auto &part : partsOf(footprints.ringsOf(footprints.buildings[building]))) {
         double area = 0;
@@ -296,8 +307,9 @@ void CityMesh::addTo(osg::Geode &geode, osg::StateSet *solid, osg::StateSet *tra
     osg::ref_ptr<osg::Vec4ubArray> colors = new osg::Vec4ubArray(size, m_colors.data());
     colors->setNormalize(true);
     all->setColorArray(colors, osg::Array::BIND_PER_VERTEX);
-    for (const auto &[indices, state] :
-         {std::pair(&m_indices, solid), std::pair(&m_translucentIndices, translucent)}) {
+    for (const auto &[indices, state, ranges] :
+         {std::tuple(&m_indices, solid, &m_ranges),
+          std::tuple(&m_translucentIndices, translucent, &m_translucentRanges)}) {
         if (indices->empty())
             continue;
         // With shallow copies, both drawables have the same vertices.
@@ -307,6 +319,8 @@ void CityMesh::addTo(osg::Geode &geode, osg::StateSet *solid, osg::StateSet *tra
         else
             geometry->addPrimitiveSet(elements<osg::DrawElementsUInt>(m_mode, *indices));
         geometry->setStateSet(state);
+        if (m_city.isPickable && m_mode == GL_TRIANGLES)
+            ranges->addTo(*geometry);
         geode.addDrawable(geometry);
     }
 }

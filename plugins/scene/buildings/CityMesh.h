@@ -2,6 +2,7 @@
 
 #include "plugins/scene/buildings/CityModel.h"
 #include "plugins/scene/buildings/RoofTriangles.h"
+#include "plugins/scene/reading/ObjectRanges.h"
 
 #include <osg/Array>
 #include <osg/Geode>
@@ -52,6 +53,7 @@ public:
 private:
     using Positions = std::vector<osg::Vec2d>;
 
+    void begin(std::uint32_t building);
     void addPart(std::span<const Footprints::Ring> rings, std::uint32_t building, double skirtM,
                  Faces faces);
     void addWalls(const Positions &ring, double bottom, double top, const osg::Vec4ub &color);
@@ -71,6 +73,8 @@ private:
     std::vector<osg::Vec4ub> m_colors;
     Indices m_indices;
     Indices m_translucentIndices;
+    ObjectRanges m_ranges; ///< of the triangles of m_indices, if the city is pickable
+    ObjectRanges m_translucentRanges;
     GLenum m_mode = GL_TRIANGLES;
 };
 

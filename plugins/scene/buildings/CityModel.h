@@ -29,6 +29,13 @@ struct CityModel
     std::vector<colormaps::Rgba> wallColors; ///< parallel to footprints.buildings
     std::vector<colormaps::Rgba> roofColors;
     std::vector<contract::legend::Row> legend; ///< of the colours
+
+    /// Whether a program that draws the scene finds buildings at points of the view. Only then the
+    /// next two have elements, parallel to footprints.buildings, if values or texts give colours.
+    bool isPickable = false;
+    std::vector<float> values; ///< NaN: none
+    std::vector<std::string> texts;
+
     contract::CityCounts counts;
     std::optional<city::CityCore> core;
 

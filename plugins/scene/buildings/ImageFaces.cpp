@@ -83,6 +83,8 @@ osg::ref_ptr<osg::Geometry> ImageFaces::geometry(TextureImage &image,
     osg::ref_ptr<osg::StateSet> own = new osg::StateSet(state);
     own->setTextureAttributeAndModes(0, textureOf(*crop.image, textures));
     geometry->setStateSet(own);
+    if (!m_ranges.isEmpty())
+        m_ranges.addTo(*geometry);
     return geometry;
 }
 

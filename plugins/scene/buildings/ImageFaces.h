@@ -3,6 +3,7 @@
 #include "contract/BuildingDocument.h"
 #include "plugins/scene/buildings/RoofTriangles.h"
 #include "plugins/scene/buildings/TextureImage.h"
+#include "plugins/scene/reading/ObjectRanges.h"
 
 #include <osg/Geometry>
 #include <osg/StateSet>
@@ -35,6 +36,9 @@ public:
 
     void addWall(const Wall &wall, double bottom, double top, const osg::Vec4ub &color);
 
+    /// Starts the faces of a building, if the city is pickable.
+    void begin(std::uint32_t building) { m_ranges.begin(building, m_indices.size()); }
+
     bool isEmpty() const { return m_indices.empty(); }
 
     /// The drawable, with the part of the image that it needs.
@@ -54,6 +58,7 @@ private:
     std::vector<osg::Vec4ub> m_colors;
     std::vector<osg::Vec2d> m_looked;
     std::vector<std::uint32_t> m_indices;
+    ObjectRanges m_ranges;
 };
 
 } // namespace vlt::scene

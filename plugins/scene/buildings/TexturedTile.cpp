@@ -46,6 +46,10 @@ public:
     void add(std::uint32_t building)
     {
         ++m_count;
+        if (m_city.isPickable) {
+            for (ImageFaces &faces : m_faces)
+                faces.begin(building);
+        }
         if (!hasImage(building)) {
             m_plain.addBuilding(building, m_skirtM);
             return;

@@ -21,7 +21,7 @@ osg::ref_ptr<osg::Group> readLayer(const std::string &path, const ReadRequest &r
                               notices);
     osg::ref_ptr<osg::Group> scene =
         readBuildingScene(locateDocument(file.source, path, request.project), request.project,
-                          notices, request.progress);
+                          notices, request.progress, request.isOnlyDrawn);
     scene->setName(file.title);
     return scene;
 }

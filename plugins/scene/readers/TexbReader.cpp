@@ -33,7 +33,7 @@ public:
                               [](const std::string &path, const ReadRequest &request,
                                  std::vector<std::string> &notices) {
                                   return readBuildingScene(path, request.project, notices,
-                                                           request.progress);
+                                                           request.progress, request.isOnlyDrawn);
                               });
     }
 };

@@ -17,6 +17,8 @@ public:
     /// @param indices  number of the vertex indices so far
     void begin(std::uint32_t object, std::size_t indices);
 
+    bool isEmpty() const { return m_pairs.empty(); }
+
     /// Adds the ranges to a drawable.
     void addTo(osg::Drawable &drawable) const;
 
