@@ -11,6 +11,7 @@
 #include "language/VltLanguageManager.h"
 #include "links/LinkLayer.h"
 #include "platform/AtomicFile.h"
+#include "tables/ResolvedConnection.h"
 #include "tables/SystemObstacle.h"
 
 #include <QFileInfo>
@@ -113,7 +114,7 @@ Result<geodata::LinkCheck> readLinks(const links::LinkLayerInput &input, const L
 {
     ProgressLine line(dico_label("MESS_CLI_READING_LINKS", "Reading the links"), !quiet);
     const QString connection = tables::withTerrain(
-        sites::resolvedConnection(links::linkQuery(input), input.project.directory()),
+        tables::resolvedConnection(links::linkQuery(input), input.project.directory()),
         input.file.terrainArea);
     // The progress line never stops the work, so there is a value.
     return *geodata::readLinkCheck(connection, checkInput(input, wanted), line.progress(),

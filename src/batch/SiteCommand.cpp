@@ -7,6 +7,7 @@
 #include "batch/ProgressLine.h"
 #include "batch/SiteOptions.h"
 #include "language/VltLanguageManager.h"
+#include "tables/ResolvedConnection.h"
 #include "tables/SystemObstacle.h"
 
 #include <QFileInfo>
@@ -43,7 +44,7 @@ Result<LayerOutcome> placeSites(const sites::SiteLayerInput &input, bool quiet)
 {
     const geodata::SystemPair systems{input.sourceSrs, input.targetSrs};
     const QString connection = tables::withTerrain(
-        sites::resolvedConnection(sites::siteQuery(input), input.project.directory()),
+        tables::resolvedConnection(sites::siteQuery(input), input.project.directory()),
         input.file.terrainArea);
     ProgressLine line(dico_label("MESS_CLI_READING", "Reading the sites"), !quiet);
     // The progress line never stops the work, so there is a value.

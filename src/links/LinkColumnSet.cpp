@@ -2,6 +2,7 @@
 
 #include "contract/ColumnPattern.h"
 #include "sites/SiteColumnSet.h"
+#include "tables/ResolvedConnection.h"
 
 #include <QHash>
 #include <QRegularExpression>
@@ -183,7 +184,7 @@ LinkColumnSet recogniseLinkColumns(const QStringList &fieldNames,
 LinkColumnSet recogniseLinkColumns(const QString &connection, const QString &projectDirectory)
 {
     const Result<geodata::LayerInfo> layer =
-        geodata::readLayerInfo(sites::resolvedConnection(connection, projectDirectory), 0);
+        geodata::readLayerInfo(tables::resolvedConnection(connection, projectDirectory), 0);
     return layer ? recogniseLinkColumns(layer.value().fields, layer.value().roles)
                  : LinkColumnSet();
 }

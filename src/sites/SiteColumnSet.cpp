@@ -4,8 +4,7 @@
 #include "contract/LinkEnds.h"
 #include "contract/SiteColumns.h"
 #include "geodata/LayerInfo.h"
-
-#include <QFile>
+#include "tables/ResolvedConnection.h"
 
 namespace vlt::sites {
 
@@ -37,17 +36,8 @@ SiteColumnSet recogniseSiteColumns(const QString &connection, const QString &pro
     const auto kind = contract::connectionKind(connection.toStdString());
     const int layer = kind == contract::TableKind::Links ? contract::LinkEndLayerIndex : 0;
     const Result<QStringList> fields =
-        geodata::readFieldNames(resolvedConnection(connection, projectDirectory), layer);
+        geodata::readFieldNames(tables::resolvedConnection(connection, projectDirectory), layer);
     return fields ? recogniseSiteColumns(fields.value()) : SiteColumnSet();
-}
-
-QString resolvedConnection(const QString &connection, const QString &projectDirectory)
-{
-    if (projectDirectory.isEmpty())
-        return connection;
-    return QFile::decodeName(QByteArray::fromStdString(
-        contract::resolvedConnection(QFile::encodeName(connection).toStdString(),
-                                     QFile::encodeName(projectDirectory).toStdString())));
 }
 
 } // namespace vlt::sites

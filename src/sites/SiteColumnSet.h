@@ -34,7 +34,4 @@ SiteColumnSet recogniseSiteColumns(const QStringList &fieldNames);
 /// @return                  an empty set if the table cannot be opened
 SiteColumnSet recogniseSiteColumns(const QString &connection, const QString &projectDirectory);
 
-/// The connection with the path at its end made absolute, for an open in this process.
-QString resolvedConnection(const QString &connection, const QString &projectDirectory);
-
 } // namespace vlt::sites
