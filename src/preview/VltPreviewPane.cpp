@@ -1,5 +1,6 @@
 #include "preview/VltPreviewPane.h"
 
+#include "preview/VltObjectPointing.h"
 #include "preview/VltReadingAids.h"
 #include "preview/W_simpleOSGViewer.h"
 
@@ -31,6 +32,7 @@ VltPreviewPane::VltPreviewPane(QWidget *parent) : QWidget(parent)
                "MESS_TIP_3D_PREVIEW"));
         layout->addWidget(m_viewer);
         m_aids = new VltReadingAids(*m_viewer);
+        m_pointing = new VltObjectPointing(*m_viewer);
         setFocusProxy(m_viewer);
         reportMoves();
         m_caption = makePlate(QStringLiteral("m_pwCaption"));
@@ -53,6 +55,7 @@ void VltPreviewPane::showScene(osg::Node *scene, GroundMaker ground,
         return;
     m_viewer->showScene(scene, std::move(ground));
     m_aids->show(scene != nullptr, reading);
+    m_pointing->setScene(scene);
     m_hasScene = scene != nullptr;
     placePlates();
     showHint();

@@ -11,6 +11,7 @@
 
 #include <optional>
 
+class VltObjectPointing;
 class VltReadingAids;
 class QLabel;
 class W_simpleOSGViewer;
@@ -33,6 +34,9 @@ public:
     /// @param reading  what the reading aids state about the scene
     void showScene(osg::Node *scene, GroundMaker ground = {},
                    const vlt::readingaids::SceneReading &reading = {});
+
+    /// The selection of objects of the scene; null without a view.
+    VltObjectPointing *pointing() const { return m_pointing; }
 
     /// Where the camera is; without a view, nowhere.
     CameraPose pose() const;
@@ -85,8 +89,9 @@ private:
 
     W_simpleOSGViewer *m_viewer = nullptr;
     VltReadingAids *m_aids = nullptr; ///< with a view
-    QLabel *m_caption = nullptr;      ///< with a view
-    QLabel *m_emptyText = nullptr;    ///< with a view
-    osg::Vec3d m_eye;                 ///< at the last cameraMoved()
+    VltObjectPointing *m_pointing = nullptr;
+    QLabel *m_caption = nullptr;   ///< with a view
+    QLabel *m_emptyText = nullptr; ///< with a view
+    osg::Vec3d m_eye;              ///< at the last cameraMoved()
     bool m_hasScene = false;
 };

@@ -286,7 +286,6 @@ osg::BoundingBox W_simpleOSGViewer::extentsOf(osg::Node *node)
     return box;
 }
 
-/// Distance in metres from which a whole box is visible.
 double W_simpleOSGViewer::distanceToSee(const osg::BoundingBox &box) const
 {
     double fieldOfView = 30;
@@ -350,7 +349,7 @@ void W_simpleOSGViewer::mousePressEvent(QMouseEvent *event)
     const QPointF at = inPixels(event->position());
     takeKeys(event->modifiers());
     if (event->button() == Qt::LeftButton && getSceneData()) {
-        if (const auto met = intersectionsAt(at); !met.empty())
+        if (const auto met = intersectionsAt(event->position()); !met.empty())
             m_trackBall->pivotAt(met.begin()->getWorldIntersectPoint());
     }
     events().mouseButtonPress(static_cast<float>(at.x()), static_cast<float>(at.y()),
@@ -365,8 +364,11 @@ void W_simpleOSGViewer::mouseReleaseEvent(QMouseEvent *event)
     events().mouseButtonRelease(static_cast<float>(at.x()), static_cast<float>(at.y()),
                                 buttonNumber(event->button()));
     const bool isClick = (event->position() - m_pressedAt).manhattanLength() <= ClickTolerance;
-    if (isClick && event->button() == Qt::LeftButton)
-        Q_EMIT emitSelection(intersectionsAt(at));
+    if (!isClick || event->button() != Qt::LeftButton)
+        return;
+    const auto met = intersectionsAt(event->position());
+    Q_EMIT emitSelection(met);
+    Q_EMIT clicked(event->position(), met);
 }
 
 void W_simpleOSGViewer::mouseDoubleClickEvent(QMouseEvent *event)
@@ -465,14 +467,14 @@ void W_simpleOSGViewer::takeKeys(Qt::KeyboardModifiers modifiers)
         modifiers & Qt::ShiftModifier ? osgGA::GUIEventAdapter::MODKEY_SHIFT : 0);
 }
 
-/// The parts of the scene at a point of the view, nearest first.
 osgUtil::LineSegmentIntersector::Intersections
 W_simpleOSGViewer::intersectionsAt(const QPointF &position)
 {
+    const QPointF at = inPixels(position);
     // in the viewport, y increases upwards
-    const double y = getCamera()->getViewport()->height() - position.y();
+    const double y = getCamera()->getViewport()->height() - at.y();
     osg::ref_ptr<osgUtil::LineSegmentIntersector> line =
-        new osgUtil::LineSegmentIntersector(osgUtil::Intersector::WINDOW, position.x(), y);
+        new osgUtil::LineSegmentIntersector(osgUtil::Intersector::WINDOW, at.x(), y);
     osgUtil::IntersectionVisitor visitor(line);
     visitor.setTraversalMask(~Surroundings::Mask);
     getCamera()->accept(visitor);
@@ -484,7 +486,7 @@ std::optional<osg::Vec3d> W_simpleOSGViewer::placeAt(const QPointF &position)
     if (!getSceneData() || !m_surroundings.ground())
         return std::nullopt;
     const QPointF at = inPixels(position);
-    if (const auto met = intersectionsAt(at); !met.empty())
+    if (const auto met = intersectionsAt(position); !met.empty())
         return met.begin()->getWorldIntersectPoint();
     const osg::Camera &camera = *getCamera();
     const osg::Matrixd toScene =

@@ -77,6 +77,12 @@ public:
     /// nothing over the sky.
     std::optional<osg::Vec3d> placeAt(const QPointF &position);
 
+    /// The parts of the scene at a point of the view, nearest first.
+    osgUtil::LineSegmentIntersector::Intersections intersectionsAt(const QPointF &position);
+
+    /// Distance in metres from which a whole box is visible.
+    double distanceToSee(const osg::BoundingBox &box) const;
+
     /// Height of the view in pixels divided by the distance of the camera; 10 before the first
     /// frame.
     double levelOfDetail() const { return m_levelOfDetail; }
@@ -104,6 +110,9 @@ Q_SIGNALS:
     /// that point, nearest first; empty beside the scene.
     void emitSelection(osgUtil::LineSegmentIntersector::Intersections intersections);
     // NOLINTEND(readability-identifier-naming)
+    /// The same with the point of the view.
+    void clicked(const QPointF &position,
+                 const osgUtil::LineSegmentIntersector::Intersections &intersections);
 
 protected:
     void initializeGL() override;
@@ -122,12 +131,10 @@ private:
     QPointF inPixels(const QPointF &position) const { return position * devicePixelRatioF(); }
     QSize sizeInPixels() const;
     osg::BoundingBox extentsOf(osg::Node *node);
-    double distanceToSee(const osg::BoundingBox &box) const;
     void makeGraphicsWindow(osg::GraphicsContext *shareContext);
     void applySize(const QSize &pixels);
     osg::BoundingBox sceneBox();
     void takeKeys(Qt::KeyboardModifiers modifiers);
-    osgUtil::LineSegmentIntersector::Intersections intersectionsAt(const QPointF &position);
     bool needsFrame();
     void updateSurroundings();
 

@@ -115,5 +115,21 @@
         <source>ground %1 m</source>
         <translation>ground %1 m</translation>
     </message>
+    <message id="MESS_SELECTED_OBJECT">
+        <source>Selected object</source>
+        <translation>Selected object</translation>
+    </message>
+    <message id="MESS_CLOSE_CARD">
+        <source>Close the card</source>
+        <translation>Close the card</translation>
+    </message>
+    <message id="MESS_TIP_CLOSE_CARD">
+        <source>Close the card (Esc)</source>
+        <translation>Close the card (Esc)</translation>
+    </message>
+    <message id="MESS_OBJECT_INFORMATION">
+        <source>Information about the object</source>
+        <translation>Information about the object</translation>
+    </message>
 </context>
 </TS>

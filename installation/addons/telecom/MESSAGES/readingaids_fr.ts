@@ -115,5 +115,21 @@
         <source>ground %1 m</source>
         <translation>sol à %1&#xa0;m</translation>
     </message>
+    <message id="MESS_SELECTED_OBJECT">
+        <source>Selected object</source>
+        <translation>Objet sélectionné</translation>
+    </message>
+    <message id="MESS_CLOSE_CARD">
+        <source>Close the card</source>
+        <translation>Fermer la fiche</translation>
+    </message>
+    <message id="MESS_TIP_CLOSE_CARD">
+        <source>Close the card (Esc)</source>
+        <translation>Fermer la fiche (Échap)</translation>
+    </message>
+    <message id="MESS_OBJECT_INFORMATION">
+        <source>Information about the object</source>
+        <translation>Informations sur l'objet</translation>
+    </message>
 </context>
 </TS>
