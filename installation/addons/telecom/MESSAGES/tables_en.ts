@@ -1027,5 +1027,9 @@
         <source>the cell stands in a row above with the same values: it is drawn once</source>
         <translation>the cell stands in a row above with the same values: it is drawn once</translation>
     </message>
+    <message id="MESS_CANT_READ_LAYER">
+        <source>the layer cannot be read</source>
+        <translation>the layer cannot be read</translation>
+    </message>
 </context>
 </TS>

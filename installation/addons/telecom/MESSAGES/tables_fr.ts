@@ -1027,5 +1027,9 @@
         <source>the cell stands in a row above with the same values: it is drawn once</source>
         <translation>la cellule figure avec les mêmes valeurs dans une ligne au-dessus&#xa0;: elle n'est dessinée qu'une fois</translation>
     </message>
+    <message id="MESS_CANT_READ_LAYER">
+        <source>the layer cannot be read</source>
+        <translation>la couche ne peut pas être lue</translation>
+    </message>
 </context>
 </TS>
