@@ -2,6 +2,7 @@
 #include "gui/DropOnWidget.h"
 #include "gui/FileDialogAnswer.h"
 #include "links/ui/LinkReportModel.h"
+#include "preview/VltObjectPointing.h"
 #include "preview/W_simpleOSGViewer.h"
 #include "support/Cases.h"
 #include "support/Files.h"
@@ -16,6 +17,7 @@
 #include <QSpinBox>
 #include <QTabWidget>
 #include <QTableView>
+#include <QTextBrowser>
 #include <QTextDocumentFragment>
 #include <QToolButton>
 #include <QTreeView>
@@ -266,6 +268,31 @@ private Q_SLOTS:
         const osg::Vec3d along = (pose.center - pose.eye) / pose.distanceM();
         QVERIFY((toMiddle ^ along).length() < 50);       // distance from the line of view
         QVERIFY(toMiddle.length() > 3 * whole.radius()); // all three pylons are visible
+    }
+
+    void selectsLinksInTheListAndInTheView()
+    {
+        WizardOnLinkPage flow;
+        dropFiles(flow.page, {Links});
+        auto *pointing = flow.widget<VltObjectPointing>({});
+        QVERIFY(pointing);
+        QTRY_VERIFY_WITH_TIMEOUT(pointing->objects(), PatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(flow.table()->model()->rowCount() == 21, PatienceMs);
+        Q_EMIT flow.remarkLabel()->linkActivated(u"3"_s); // the obstructed one: MW-21
+        const auto *card = flow.widget<QTextBrowser>(u"m_pwTbObjectPage"_s);
+        QTRY_VERIFY_WITH_TIMEOUT(card->toPlainText().contains(u"MW-21"_s), PatienceMs);
+        QVERIFY(pointing->selected());
+        QCOMPARE(pointing->objects()->name(*pointing->selected()), u"MW-21"_s);
+
+        flow.table()->setFocus();
+        QTest::keyClick(flow.table(), Qt::Key_Return); // flies there
+        const osg::Vec3d middle = pointing->objects()->extent(*pointing->selected()).center();
+        const auto *viewer = flow.widget<W_simpleOSGViewer>(u"m_pwViewer"_s);
+        QTRY_VERIFY_WITH_TIMEOUT((viewer->pose().center - middle).length() < 1, PatienceMs);
+
+        Q_EMIT pointing->picked(0); // as a click on the first link does
+        const QModelIndex current = flow.table()->selectionModel()->selectedRows().value(0);
+        QCOMPARE(current.siblingAtColumn(Column::Name).data(), u"MW-01"_s);
     }
 };
 

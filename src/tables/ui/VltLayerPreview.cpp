@@ -4,13 +4,16 @@
 
 #include "contract/SceneFactKeys.h"
 #include "language/ErrorText.h"
+#include "preview/VltObjectPointing.h"
 #include "snapshot/SceneEarth.h"
 #include "snapshot/SceneGround.h"
+#include "tables/ObjectPage.h"
 #include "wizard/base/BusyWait.h"
 #include "wizard/project/ProjectContext.h"
 
 #include <QApplication>
 #include <QButtonGroup>
+#include <QFileInfo>
 #include <QPainter>
 
 namespace {
@@ -53,6 +56,7 @@ VltLayerPreview::VltLayerPreview(QWidget *parent)
     connectDemonstration(m_ui->m_pwPbSymbolic, &VltLayerPreview::symbolicWanted);
     connectDemonstration(m_ui->m_pwPbPrecise, &VltLayerPreview::preciseWanted);
     connect(m_ui->m_pwPbOwn, &QPushButton::clicked, this, &VltLayerPreview::wantLayer);
+    connectPointing();
     connect(&m_refreshTimer, &QTimer::timeout, this, &VltLayerPreview::readLayer);
     connect(&m_patience, &QTimer::timeout, this, &VltLayerPreview::showState);
     connect(qApp, &QApplication::focusChanged, this, [this] { update(); });
@@ -165,6 +169,8 @@ void VltLayerPreview::show(Picture &picture)
     } else if (isOther) {
         pane.setPose(*picture.pose);
     }
+    if (&picture == &m_layer)
+        showSelection();
     showState();
 }
 
@@ -268,4 +274,88 @@ void VltLayerPreview::showState()
     if (!m_problem.isEmpty())
         lines << m_problem;
     m_ui->m_pwPreview->setCaption(lines.join(QLatin1Char('\n')));
+}
+
+void VltLayerPreview::connectPointing()
+{
+    VltObjectPointing *pointing = m_ui->m_pwPreview->pointing();
+    if (!pointing)
+        return;
+    connect(pointing, &VltObjectPointing::picked, this, [this, pointing](int object) {
+        m_selectedRow = object < 0 ? 0 : pointing->objects()->row(static_cast<std::size_t>(object));
+        readCard(m_selectedRow);
+        Q_EMIT rowPicked(m_selectedRow);
+    });
+}
+
+void VltLayerPreview::selectRow(qint64 row)
+{
+    m_selectedRow = row;
+    m_isFlying = false;
+    if (m_shown == &m_layer)
+        showSelection();
+}
+
+void VltLayerPreview::flyToRow(qint64 row)
+{
+    m_selectedRow = row;
+    m_isFlying = true;
+    if (m_shown == &m_layer)
+        showSelection();
+    else if (m_layer.scene)
+        wantLayer();
+}
+
+/// Marks the object of the selected row. A row that gives no object of its own may belong to one
+/// that begins in another row.
+void VltLayerPreview::showSelection()
+{
+    VltObjectPointing *pointing = m_ui->m_pwPreview->pointing();
+    if (!pointing || !pointing->objects())
+        return;
+    const auto object = pointing->objects()->ofRow(m_selectedRow);
+    pointing->select(object);
+    if (object) {
+        if (m_isFlying)
+            pointing->flyTo(*object);
+        m_isFlying = false;
+        readCard(m_selectedRow);
+    } else if (m_selectedRow > 0) {
+        vlt::wizard::valueBeside<qint64>(
+            this,
+            [layer = m_layerFile, folder = projectDirectory(), row = m_selectedRow] {
+                const auto first = vlt::tables::readFirstRow(layer, folder, row);
+                return first ? first.value() : 0;
+            },
+            [this, row = m_selectedRow](qint64 first) {
+                if (row != m_selectedRow || first == 0 || first == row)
+                    return;
+                m_selectedRow = first;
+                if (m_shown == &m_layer)
+                    showSelection();
+            });
+    }
+}
+
+/// Shows the card of a row when its page is read, unless another one was selected meanwhile.
+void VltLayerPreview::readCard(qint64 row)
+{
+    using Page = vlt::Result<QString>;
+    if (row == 0)
+        return;
+    vlt::wizard::valueBeside<Page>(
+        this,
+        [layer = m_layerFile, folder = projectDirectory(), row] {
+            return vlt::tables::readObjectPage(layer, folder, row);
+        },
+        [this, row](const Page &page) {
+            VltObjectPointing *pointing = m_ui->m_pwPreview->pointing();
+            if (page && row == m_selectedRow && pointing->selected())
+                pointing->showCard(page.value());
+        });
+}
+
+QString VltLayerPreview::projectDirectory() const
+{
+    return m_project.isEmpty() ? QString() : QFileInfo(m_project).absolutePath();
 }

@@ -56,6 +56,11 @@ public:
     /// source.
     void expectLayer();
 
+    /// Marks the site or link to which a row of the table belongs, with a card; 0: none.
+    void selectRow(qint64 row);
+    /// The same, and moves the camera there.
+    void flyToRow(qint64 row);
+
     /// Shows the demonstration from the distance; the camera points `heightM` above its origin.
     void lookAtDemonstration(double distanceM, double heightM);
     /// Shows the middle of the demonstration, from `leastM` metres or from as far as needed to show
@@ -66,6 +71,8 @@ Q_SIGNALS:
     /// The user wants to see the demonstration from far or from near.
     void symbolicWanted();
     void preciseWanted();
+    /// The user selected a site or link in the view: the row where it begins; 0: none.
+    void rowPicked(qint64 row);
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -88,6 +95,10 @@ private:
     void readLayer();
     void takeLayer(const vlt::Result<vlt::snapshot::Scene> &scene, const GroundMaker &ground);
     void showState();
+    void connectPointing();
+    void showSelection();
+    void readCard(qint64 row);
+    QString projectDirectory() const;
 
     std::unique_ptr<Ui::LayerPreview> m_ui;
     QPushButton *m_demonstrationButton; ///< the last of those two that was used
@@ -101,6 +112,8 @@ private:
     QString m_problem;        ///< why the layer cannot be shown
     QTimer m_refreshTimer;    ///< combines quick changes into one read of the layer
     QTimer m_patience;        ///< a short read has no text
+    qint64 m_selectedRow = 0; ///< of the table; 0: none
+    bool m_isFlying = false;  ///< to that row, when its object is known
     bool m_wantsLayer = true; ///< otherwise the user chose the demonstration
     bool m_isPlaced = false;  ///< the demonstration was visible
     bool m_isReading = false;

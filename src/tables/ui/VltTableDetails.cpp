@@ -3,6 +3,7 @@
 #include "language/ErrorText.h"
 #include "language/ReaderText.h"
 #include "tables/ui/CopyRows.h"
+#include "tables/ui/RowSelection.h"
 #include "tables/ui/VltMappingPanel.h"
 #include "tables/ui/VltRowAccounts.h"
 #include "text/RichText.h"
@@ -156,9 +157,19 @@ QTableView *VltTableDetails::addTable(QAbstractItemModel *model, const QString &
     table->horizontalHeader()->setHighlightSections(false);
     table->setMinimumHeight((VisibleRows + 1) * table->verticalHeader()->defaultSectionSize());
     vlt::tables::makeRowsCopyable(table);
+    auto *rows = new vlt::tables::RowSelection(table);
+    connect(rows, &vlt::tables::RowSelection::chosen, this, &VltTableDetails::rowChosen);
+    connect(rows, &vlt::tables::RowSelection::opened, this, &VltTableDetails::rowOpened);
+    m_rowLists << rows;
     m_pwTwDetails->addTab(table, name);
     fitHeight();
     return table;
+}
+
+void VltTableDetails::chooseRow(qint64 row)
+{
+    for (vlt::tables::RowSelection *list : std::as_const(m_rowLists))
+        list->select(row);
 }
 
 void VltTableDetails::setTableCount(QTableView *table, const QString &name, qint64 count)

@@ -14,6 +14,9 @@
 class QAbstractItemModel;
 class VltMappingPanel;
 class VltRowAccounts;
+namespace vlt::tables {
+class RowSelection;
+}
 class QLabel;
 class QProgressBar;
 class QPushButton;
@@ -40,10 +43,17 @@ public:
     /// Shows that the table is refused, and its columns, of which the user may choose others.
     void showRefused();
 
+    /// Selects the lines of a row of the file in all lists; 0: none.
+    void chooseRow(qint64 row);
+
     /// Why the layer of the table would be empty; nothing if it is not, or not checked yet.
     std::optional<QString> emptyReason() const;
 
 Q_SIGNALS:
+    /// The user selected a row of the file in a list.
+    void rowChosen(qint64 row);
+    /// The user wants to see what a row of the file gives.
+    void rowOpened(qint64 row);
     /// The rows were checked; `systems` has the areas and how many positions lie outside them.
     void checked(const vlt::geodata::SystemCheck &systems);
     /// The rows were checked, and mistakes in their positions were found, or none.
@@ -98,7 +108,7 @@ protected:
                              check.problems.findings);
     }
 
-    /// Adds a tab with a table.
+    /// Adds a tab with a table, whose first column has numbers of rows of the file.
     QTableView *addTable(QAbstractItemModel *model, const QString &objectName, const QString &name);
     /// Shows the number of a table's entries after they changed.
     void setTableCount(QTableView *table, const QString &name, qint64 count);
@@ -152,6 +162,7 @@ private:
     VltRowAccounts *m_rows; ///< before the tabs, as Tab goes
     QTabWidget *m_pwTwDetails;
     VltMappingPanel *m_mapping;
+    QList<vlt::tables::RowSelection *> m_rowLists;
     QStandardItemModel *m_problemModel;
     QTableView *m_pwTvProblems = nullptr;
     QList<vlt::Problem> m_fileProblems; ///< known without reading the rows

@@ -96,6 +96,10 @@ void VltTablePage::setParts(VltTableDetails *details, const QList<VltParameterPa
     m_details = details;
     connect(details, &VltTableDetails::checked, this, &VltTablePage::showArea);
     connect(details, &VltTableDetails::nonePlaced, this, &VltTablePage::leaveEmptyLayer);
+    VltLayerPreview *preview = m_ui->m_pwGbPreview;
+    connect(details, &VltTableDetails::rowChosen, preview, &VltLayerPreview::selectRow);
+    connect(details, &VltTableDetails::rowOpened, preview, &VltLayerPreview::flyToRow);
+    connect(preview, &VltLayerPreview::rowPicked, details, &VltTableDetails::chooseRow);
     connect(details->mapping(), &VltMappingPanel::mappingChosen, this, &VltTablePage::useMapping);
     connect(details->mapping(), &VltMappingPanel::savingWanted, this, &VltTablePage::saveMapping);
     m_cures = new VltCures(m_configuration.kind, m_ui->m_pwGbTable);
