@@ -43,6 +43,13 @@ double NorthAtPlace::operator()(const contract::Place &place)
     return m_northDeg;
 }
 
+std::string legendTextOf(const osg::Node &scene)
+{
+    std::string legend;
+    scene.getUserValue(contract::legend::Key, legend);
+    return legend;
+}
+
 readingaids::SceneReading readingOf(const Scene &scene, const QString &terrain)
 {
     if (!scene)
@@ -50,9 +57,7 @@ readingaids::SceneReading readingOf(const Scene &scene, const QString &terrain)
     readingaids::SceneReading reading;
     const auto north = std::make_shared<NorthAtPlace>(frameOf(*scene));
     reading.northDeg = [north](double x, double y) { return (*north)({x, y}); };
-    std::string legend;
-    scene->getUserValue(contract::legend::Key, legend);
-    reading.legend = readingaids::legendOf(legend);
+    reading.legend = readingaids::legendOf(legendTextOf(*scene));
     const auto places = std::make_shared<EarthPlaces>(*scene, terrain);
     reading.placeAt = [places](double x, double y) { return places->at(x, y); };
     return reading;

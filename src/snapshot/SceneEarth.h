@@ -7,6 +7,7 @@
 #include <osg/Node>
 
 #include <optional>
+#include <string>
 
 namespace vlt::snapshot {
 
@@ -28,6 +29,9 @@ private:
     std::optional<contract::Place> m_place;
     double m_northDeg = 0;
 };
+
+/// The legend of a scene as its reader states it, for contract/SceneLegend.h; may be empty.
+std::string legendTextOf(const osg::Node &scene);
 
 /// What the reading aids of a view state about a scene. Without a place on the earth, north is the
 /// y axis.

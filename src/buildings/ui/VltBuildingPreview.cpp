@@ -3,11 +3,13 @@
 #include "ui_BuildingPreview.h"
 
 #include "buildings/CountsText.h"
+#include "buildings/ui/BuildingCard.h"
 #include "buildings/ui/NoticeList.h"
 #include "contract/SceneFactKeys.h"
 #include "language/ErrorText.h"
 #include "language/ReaderText.h"
 #include "preview/VisibleDistance.h"
+#include "preview/VltObjectPointing.h"
 #include "snapshot/DrawnBuildings.h"
 #include "snapshot/SceneEarth.h"
 #include "snapshot/SceneGround.h"
@@ -101,6 +103,8 @@ VltBuildingPreview::VltBuildingPreview(QWidget *parent)
             &VltBuildingPreview::refreshRequested);
     connect(m_ui->m_pwPbExt, &QPushButton::clicked, this, &VltBuildingPreview::resetView);
     connect(m_ui->m_pwPreview, &VltPreviewPane::cameraMoved, this, &VltBuildingPreview::showDrawn);
+    if (VltObjectPointing *pointing = m_ui->m_pwPreview->pointing())
+        connect(pointing, &VltObjectPointing::picked, this, &VltBuildingPreview::showCard);
     m_ui->m_pwPbNotices->hide();
     connect(m_ui->m_pwPbNotices, &QPushButton::clicked, this,
             [this] { vlt::buildings::showNotices(this, m_notices); });
@@ -188,6 +192,16 @@ void VltBuildingPreview::showDrawn()
                       vlt::snapshot::drawnBuildings(*m_scene, m_ui->m_pwPreview->pose().eye),
                       static_cast<qint64>(count(*m_scene, facts::Buildings)))
                 : QString());
+}
+
+void VltBuildingPreview::showCard(int building)
+{
+    if (building < 0 || !m_scene)
+        return;
+    VltObjectPointing &pointing = *m_ui->m_pwPreview->pointing();
+    pointing.showCard(vlt::buildings::buildingCard(*pointing.objects(),
+                                                   static_cast<std::size_t>(building),
+                                                   vlt::snapshot::legendTextOf(*m_scene)));
 }
 
 void VltBuildingPreview::resetView()

@@ -45,8 +45,8 @@ Q_SIGNALS:
 
 private:
     void showScene(const vlt::snapshot::Scene &scene, const QStringList &notices);
-
     void showDrawn();
+    void showCard(int building);
 
     std::unique_ptr<Ui::BuildingPreview> m_ui;
     vlt::snapshot::Scene m_scene;

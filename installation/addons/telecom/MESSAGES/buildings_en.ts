@@ -192,5 +192,33 @@ raster images (orthophotos, coverage plots, ...).</translation>
         <source>This raster is probably a picture: its first band holds colors, which would be read as heights</source>
         <translation>This raster is probably a picture: its first band holds colors, which would be read as heights</translation>
     </message>
+    <message id="MESS_CARD_BUILDING">
+        <source>Building %1</source>
+        <translation>Building %1</translation>
+    </message>
+    <message id="MESS_CARD_HEIGHT">
+        <source>Height</source>
+        <translation>Height</translation>
+    </message>
+    <message id="MESS_CARD_GROUND">
+        <source>Ground</source>
+        <translation>Ground height</translation>
+    </message>
+    <message id="MESS_CARD_COLOR">
+        <source>Color</source>
+        <translation>Color</translation>
+    </message>
+    <message id="MESS_CARD_WALLS">
+        <source>Walls</source>
+        <translation>Walls</translation>
+    </message>
+    <message id="MESS_CARD_ROOF">
+        <source>Roof</source>
+        <translation>Roof</translation>
+    </message>
+    <message id="MESS_CARD_NO_VALUE">
+        <source>no value</source>
+        <translation>no value</translation>
+    </message>
 </context>
 </TS>

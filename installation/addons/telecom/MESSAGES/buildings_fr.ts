@@ -192,5 +192,33 @@ avec des images raster (orthophotos, cartes de couverture, ...).</translation>
         <source>This raster is probably a picture: its first band holds colors, which would be read as heights</source>
         <translation>Ce raster est probablement une image : sa première bande contient des couleurs, qui seraient lues comme des altitudes</translation>
     </message>
+    <message id="MESS_CARD_BUILDING">
+        <source>Building %1</source>
+        <translation>Bâtiment %1</translation>
+    </message>
+    <message id="MESS_CARD_HEIGHT">
+        <source>Height</source>
+        <translation>Hauteur</translation>
+    </message>
+    <message id="MESS_CARD_GROUND">
+        <source>Ground</source>
+        <translation>Altitude du sol</translation>
+    </message>
+    <message id="MESS_CARD_COLOR">
+        <source>Color</source>
+        <translation>Couleur</translation>
+    </message>
+    <message id="MESS_CARD_WALLS">
+        <source>Walls</source>
+        <translation>Murs</translation>
+    </message>
+    <message id="MESS_CARD_ROOF">
+        <source>Roof</source>
+        <translation>Toit</translation>
+    </message>
+    <message id="MESS_CARD_NO_VALUE">
+        <source>no value</source>
+        <translation>aucune valeur</translation>
+    </message>
 </context>
 </TS>
