@@ -42,7 +42,7 @@ constexpr NamedView Views[] = {{"all", SceneView::All},
                                {"top", SceneView::Top},
                                {"symbolic", SceneView::Symbolic},
                                {"precise", SceneView::Precise}};
-const QString ViewNames = QStringLiteral("all|north|top|symbolic|precise");
+const QString ViewNames = QStringLiteral("all|north|top|symbolic|precise|site:ID|link:ID");
 const QString LabelValues = QStringLiteral("none|some|all");
 
 /// The values of the command line.
@@ -88,7 +88,8 @@ CommandSyntax syntax()
          dico_label("MESS_OPT_VIEW",
                     "all: everything, from the south-west (default); north: the same towards true "
                     "north; top: from above, true north up; symbolic: the sectors of the site in "
-                    "the middle; precise: its mast and antennas."),
+                    "the middle; precise: its mast and antennas; site:ID or link:ID: the site or "
+                    "the link of this name, or #N for the one in row N."),
          ViewNames, QStringLiteral("all")},
         {QStringLiteral("terrain"),
          dico_label("MESS_OPT_SHOW_TERRAIN",
@@ -174,9 +175,10 @@ Result<Request> readRequest(const QCommandLineParser &parser)
     request.picture.size = *size;
     request.viewName = parser.value(QStringLiteral("view"));
     const std::optional<SceneView> view = viewFrom(request.viewName);
-    if (!view)
+    request.picture.object = snapshot::ShownObject::from(request.viewName);
+    if (!view && !request.picture.object)
         return wrongValue(QStringLiteral("view"), ViewNames, request.viewName);
-    request.picture.view = *view;
+    request.picture.view = view.value_or(SceneView::All);
     request.picture.aids.title = parser.value(QStringLiteral("title"));
     request.withLegend = parser.isSet(QStringLiteral("legend"));
     request.picture.aids.withNorth = parser.isSet(QStringLiteral("north"));

@@ -9,7 +9,7 @@ namespace vlt::contract::objects {
 /// osg::Vec3Array in the scene's frame: feet of sites; both ends of each link, one after the other;
 /// middles of the roofs of buildings.
 inline constexpr char Places[] = "vlt.objects.places";
-/// osg::FloatArray, metres: heights of masts with their sectors; half widths of drawn Fresnel zones
+/// osg::FloatArray, metres: heights of masts; half widths of drawn Fresnel zones
 /// in their middles, 0 for none; heights of buildings.
 inline constexpr char Sizes[] = "vlt.objects.sizes";
 /// osg::UIntArray: rows of the table from 1, that of a site's first row; positions of the features

@@ -107,7 +107,7 @@ QList<std::size_t> SceneObjects::named(const QString &name) const
 
 osg::BoundingBoxd SceneObjects::extent(std::size_t object) const
 {
-    constexpr double WidthShare = 0.5; // of a mast with its sectors to its height
+    constexpr double WidthShare = 0.4; // of a mast with its sectors to its height
     osg::BoundingBoxd box;
     box.expandBy(place(object));
     if (m_kind == Kind::Link) {

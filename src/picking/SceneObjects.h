@@ -34,7 +34,7 @@ public:
     /// Foot of a site, middle of a building's roof, or an end of a link (0 or 1).
     osg::Vec3d place(std::size_t object, std::size_t end = 0) const;
 
-    /// Height of a site with its sectors or of a building; half width of a link's Fresnel zone in
+    /// Height of a site's mast or of a building; half width of a link's Fresnel zone in
     /// its middle, 0 if none is drawn.
     double sizeM(std::size_t object) const { return (*m_sizes)[object]; }
 

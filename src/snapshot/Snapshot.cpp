@@ -93,8 +93,9 @@ void addAids(QImage &picture, const readingaids::PictureAids &aids, const osg::N
 Result<QImage> renderSnapshot(osg::Node &scene, const PictureRequest &request, SceneGround *ground)
 {
     const QSize &size = request.size;
-    const Result<ViewPoint> point =
-        findViewPoint(scene, request.view, static_cast<double>(size.width()) / size.height());
+    const double aspect = static_cast<double>(size.width()) / size.height();
+    const Result<ViewPoint> point = request.object ? viewOfObject(scene, *request.object, aspect)
+                                                   : findViewPoint(scene, request.view, aspect);
     if (!point)
         return point.error();
 

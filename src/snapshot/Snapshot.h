@@ -2,6 +2,7 @@
 
 #include "platform/Result.h"
 #include "readingaids/PictureAids.h"
+#include "snapshot/ObjectView.h"
 #include "snapshot/SceneGround.h"
 #include "snapshot/ViewPoint.h"
 
@@ -9,6 +10,8 @@
 #include <QSize>
 
 #include <osg/Node>
+
+#include <optional>
 
 namespace vlt::snapshot {
 
@@ -21,7 +24,8 @@ struct PictureRequest
 {
     QSize size; ///< width and height in pixels, both MinSidePx .. MaxSidePx
     SceneView view = SceneView::All;
-    readingaids::PictureAids aids; ///< drawing them needs a QGuiApplication
+    std::optional<ShownObject> object; ///< shown in place of the view; nothing: none
+    readingaids::PictureAids aids;     ///< drawing them needs a QGuiApplication
 };
 
 /// Draws a scene off screen, under a sky. Levels of detail are chosen by their real distances from
@@ -30,7 +34,7 @@ struct PictureRequest
 /// @param scene   x east, y north, z up, metres
 /// @param ground  under the scene; null: none
 /// @par Errors   MESS_SNAP_NO_DISPLAY without an X server that can draw, MESS_SNAP_NO_ROOM for a
-///               picture too large for its memory; those of findViewPoint().
+///               picture too large for its memory; those of findViewPoint() and viewOfObject().
 Result<QImage> renderSnapshot(osg::Node &scene, const PictureRequest &request, SceneGround *ground);
 
 } // namespace vlt::snapshot

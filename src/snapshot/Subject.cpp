@@ -10,6 +10,7 @@ namespace {
 constexpr double NarrowestFieldDeg = 0.5;
 constexpr double MinDistanceM = 1;
 
+constexpr double SlightRise = 0.32;
 constexpr double SteepRise = 0.65;
 
 Axes axesFrom(double x, double y, double rise)
@@ -27,7 +28,7 @@ Axes axesFrom(double x, double y, double rise)
 
 const Axes &defaultAxes()
 {
-    static const Axes axes = axesFrom(-0.55, -0.77, 0.32);
+    static const Axes axes = axesFrom(-0.55, -0.77, SlightRise);
     return axes;
 }
 
@@ -41,6 +42,15 @@ Axes northwardAxes(double northDeg)
 {
     const double north = osg::DegreesToRadians(northDeg);
     return axesFrom(-std::sin(north), -std::cos(north), SteepRise);
+}
+
+Axes sideAxes(const osg::Vec3d &along)
+{
+    osg::Vec3d across(along.y(), -along.x(), 0);
+    if (across.normalize() <= 0)
+        return defaultAxes();
+    return across.y() > 0 ? axesFrom(-across.x(), -across.y(), SlightRise)
+                          : axesFrom(across.x(), across.y(), SlightRise);
 }
 
 Axes downwardAxes(double northDeg)

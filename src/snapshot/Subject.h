@@ -29,6 +29,9 @@ const Axes &steepAxes();
 /// @param northDeg  true north, in degrees clockwise from the y axis
 Axes northwardAxes(double northDeg);
 
+/// The axes for an eye beside a line, on its southern side, slightly above.
+Axes sideAxes(const osg::Vec3d &along);
+
 /// The axes for an eye straight above, with north up.
 Axes downwardAxes(double northDeg);
 

@@ -1,11 +1,9 @@
-#include "contract/SceneObjects.h"
+#include "ObjectScene.h"
 #include "picking/ObjectPicker.h"
 #include "support/Cases.h"
 
 #include <osg/Geode>
 #include <osg/Geometry>
-#include <osg/MatrixTransform>
-#include <osg/ValueObject>
 
 #include <QtTest>
 
@@ -18,14 +16,6 @@ constexpr double Width = 800;
 constexpr double Height = 600;
 const osg::Vec3d Eye(0, -1000, 300);
 
-template<typename Array, typename Values>
-void addArray(osg::Node &node, const char *name, const Values &values)
-{
-    osg::ref_ptr<Array> array = new Array(values.begin(), values.end());
-    array->setName(name);
-    node.getOrCreateUserDataContainer()->addUserObject(array);
-}
-
 /// Two triangles side by side, 100 m wide each, which stand at y = 0: objects 7 and 2.
 osg::ref_ptr<osg::Geometry> twoFaces()
 {
@@ -36,24 +26,6 @@ osg::ref_ptr<osg::Geometry> twoFaces()
     faces->addPrimitiveSet(new osg::DrawArrays(GL_TRIANGLES, 0, 6));
     addArray<osg::UIntArray>(*faces, keys::Ranges, std::vector<unsigned>{0, 7, 1, 2});
     return faces;
-}
-
-osg::ref_ptr<osg::Group> sceneOf(const std::string &kind, const std::vector<osg::Vec3> &places,
-                                 const std::vector<float> &sizes)
-{
-    osg::ref_ptr<osg::Group> scene = new osg::Group;
-    std::vector<unsigned> rows;
-    std::string names;
-    for (std::size_t i = 0; i < sizes.size(); ++i) {
-        rows.push_back(static_cast<unsigned>(10 + i));
-        names += "Name " + std::to_string(i) + '\n';
-    }
-    scene->setUserValue(keys::Kind, kind);
-    scene->setUserValue(keys::Names, names);
-    addArray<osg::Vec3Array>(*scene, keys::Places, places);
-    addArray<osg::FloatArray>(*scene, keys::Sizes, sizes);
-    addArray<osg::UIntArray>(*scene, keys::Rows, rows);
-    return scene;
 }
 
 /// Sites 0 to 8 along the x axis, 40 m high; links between neighbours, the last with a zone.

@@ -1,4 +1,4 @@
-#include "contract/SceneObjects.h"
+#include "ObjectScene.h"
 #include "preview/VltObjectPointing.h"
 #include "preview/W_simpleOSGViewer.h"
 #include "support/Patience.h"
@@ -11,38 +11,20 @@
 #include <osg/Geode>
 #include <osg/Shape>
 #include <osg/ShapeDrawable>
-#include <osg/ValueObject>
 
 using namespace Qt::StringLiterals;
 namespace keys = vlt::contract::objects;
 
 namespace {
 
-template<typename Array>
-void addArray(osg::Node &node, const char *name, const Array &values)
-{
-    osg::ref_ptr<Array> array = new Array(values);
-    array->setName(name);
-    node.getOrCreateUserDataContainer()->addUserObject(array);
-}
-
 /// A slab with two sites on it, 200 m to the west and to the east of its middle.
 osg::ref_ptr<osg::Node> twoSites()
 {
-    osg::ref_ptr<osg::Geode> scene = new osg::Geode;
-    scene->addDrawable(new osg::ShapeDrawable(new osg::Box(osg::Vec3(0, 0, -1), 600, 400, 2)));
-    scene->setUserValue(keys::Kind, std::string(keys::Site));
-    scene->setUserValue(keys::Names, std::string("West\nEast\n"));
-    osg::ref_ptr<osg::Vec3Array> feet = new osg::Vec3Array;
-    feet->push_back({-200, 0, 0});
-    feet->push_back({200, 0, 0});
-    addArray<osg::Vec3Array>(*scene, keys::Places, *feet);
-    const float heights[] = {30, 30};
-    addArray<osg::FloatArray>(*scene, keys::Sizes,
-                              *osg::ref_ptr(new osg::FloatArray(2, const_cast<float *>(heights))));
-    const std::vector<unsigned> rows{2, 5};
-    addArray<osg::UIntArray>(*scene, keys::Rows,
-                             *osg::ref_ptr(new osg::UIntArray(rows.begin(), rows.end())));
+    osg::ref_ptr<osg::Geode> slab = new osg::Geode;
+    slab->addDrawable(new osg::ShapeDrawable(new osg::Box(osg::Vec3(0, 0, -1), 600, 400, 2)));
+    const osg::ref_ptr<osg::Group> scene =
+        sceneOf(keys::Site, {{-200, 0, 0}, {200, 0, 0}}, {30, 30});
+    scene->addChild(slab);
     return scene;
 }
 

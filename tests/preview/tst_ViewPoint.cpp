@@ -1,4 +1,6 @@
+#include "ObjectScene.h"
 #include "contract/ScenePlace.h"
+#include "snapshot/ObjectView.h"
 #include "snapshot/ViewPoint.h"
 #include "support/Cases.h"
 
@@ -7,7 +9,6 @@
 #include <osg/Geode>
 #include <osg/Shape>
 #include <osg/ShapeDrawable>
-#include <osg/ValueObject>
 
 using namespace Qt::StringLiterals;
 using vlt::snapshot::SceneView;
@@ -60,6 +61,64 @@ private Q_SLOTS:
                 0.01);
         QVERIFY(std::abs(-way.z() - steepness) < 0.001);
         QVERIFY(std::abs(way * up) < 1e-9);
+    }
+
+    void showsOneObjectWhole_data()
+    {
+        // heading: of the camera, clockwise from the y axis
+        const Cases<QByteArray, QString, std::vector<osg::Vec3>, double> row(
+            {"kind", "id", "places", "heading"});
+        row("site", "site", "Name 1", {{0, 0, 0}, {900, 500, 20}}, 35.54);
+        row("site of a row", "site", "#11", {{0, 0, 0}, {900, 500, 20}}, 35.54);
+        row("link to the east", "link", "Name 0", {{0, 0, 30}, {9000, 0, 60}}, 0);
+        row("link to the north", "link", "name 0", {{0, 0, 30}, {0, 9000, 60}}, -90);
+        row("link to the south-west", "link", "#10", {{0, 0, 30}, {-900, -900, 60}}, -45);
+    }
+    void showsOneObjectWhole()
+    {
+        QFETCH(QByteArray, kind);
+        QFETCH(QString, id);
+        QFETCH(std::vector<osg::Vec3>, places);
+        QFETCH(double, heading);
+        const auto object = vlt::snapshot::ShownObject::from(QString::fromUtf8(kind) + u':' + id);
+        QVERIFY(object);
+        const osg::ref_ptr<osg::Group> scene =
+            sceneOf(kind.toStdString(), places,
+                    kind == "link" ? std::vector<float>{40.F} : std::vector<float>{40.F, 40.F});
+        const auto point = vlt::snapshot::viewOfObject(*scene, *object, 1.5);
+        QVERIFY(point);
+        const osg::Vec3d way = point.value().target - point.value().eye;
+        QVERIFY2(std::abs(osg::RadiansToDegrees(std::atan2(way.x(), way.y())) - heading) < 0.1,
+                 QByteArray::number(osg::RadiansToDegrees(std::atan2(way.x(), way.y()))));
+
+        const osg::Matrixd toPicture =
+            osg::Matrixd::lookAt(point.value().eye, point.value().target, point.value().up) *
+            osg::Matrixd::perspective(point.value().fieldOfViewDeg, 1.5, 1, 1e6);
+        const osg::Vec3d first = osg::Vec3d(kind == "link" ? places[0] : places[1]) * toPicture;
+        const osg::Vec3d last =
+            osg::Vec3d(places[1] + (kind == "link" ? osg::Vec3() : osg::Vec3(0, 0, 40))) *
+            toPicture;
+        const double filled = std::max(std::abs(last.x() - first.x()), last.y() - first.y());
+        QVERIFY2(filled > 1.45 && filled < 2, QByteArray::number(filled));
+        for (const osg::Vec3d &seen : {first, last})
+            QVERIFY(std::abs(seen.x()) < 1 && std::abs(seen.y()) < 1);
+    }
+
+    void namesSimilarObjects()
+    {
+        const osg::ref_ptr<osg::Group> scene =
+            sceneOf("site", {{0, 0, 0}, {9, 9, 9}, {5, 5, 5}}, {40, 40, 40});
+        const auto reasonFor = [&scene](const QString &text) {
+            const auto object = vlt::snapshot::ShownObject::from(text);
+            const auto point = vlt::snapshot::viewOfObject(*scene, *object, 1);
+            return point ? QString() : point.error().key + u' ' + point.error().detail;
+        };
+        QCOMPARE(reasonFor(u"site:Nam 2"_s),
+                 u"MESS_SNAP_NO_SITE Nam 2; similar names: Name 2, Name 0, Name 1"_s);
+        QCOMPARE(reasonFor(u"site:#9"_s), u"MESS_SNAP_NO_SITE #9"_s);
+        QCOMPARE(reasonFor(u"link:Name 1"_s), u"MESS_SNAP_NO_LINK Name 1"_s);
+        QVERIFY(!vlt::snapshot::ShownObject::from(u"site:"_s));
+        QVERIFY(!vlt::snapshot::ShownObject::from(u"town:1"_s));
     }
 };
 

@@ -105,6 +105,15 @@ struct Content
 using ContentPtr = std::shared_ptr<Content>;
 using Sites = std::vector<std::uint32_t>;
 
+/// Height of the top of a pylon with its sectors above its foot, in metres.
+double topOf(const PylonDesign &design)
+{
+    double top = mastTopM(design);
+    for (const Sector &sector : stackSectors(design))
+        top = std::max(top, sector.bottomM + sector.heightM);
+    return top;
+}
+
 /// @param padM  how much larger the bound is than the points, because small objects are culled
 osg::ref_ptr<osg::Geometry> makeDots(const osg::ref_ptr<osg::Vec3Array> &points, double padM,
                                      osg::StateSet *state)
@@ -436,12 +445,9 @@ private:
 
 } // namespace
 
-double topOf(const PylonDesign &design)
+double mastTopM(const PylonDesign &design)
 {
-    double top = design.heightM + RodM;
-    for (const Sector &sector : stackSectors(design))
-        top = std::max(top, sector.bottomM + sector.heightM);
-    return top;
+    return design.heightM + RodM;
 }
 
 osg::ref_ptr<osg::Node> buildPylonTiles(PylonRecords records, TileContent content,

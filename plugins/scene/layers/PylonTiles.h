@@ -20,8 +20,8 @@ inline constexpr std::size_t MaxSitesAtOnce = 2000;
 inline constexpr std::size_t MaxCoarseSitesAtOnce = 50000; ///< about 200 MiB
 inline constexpr std::size_t MaxSymbols = 50000;           ///< about 50 MiB, and 50 ms a picture
 
-/// Height of the top of a pylon with its sectors above its foot, in metres.
-double topOf(const PylonDesign &design);
+/// Height above a pylon's foot below which all parts of the mast are, in metres.
+double mastTopM(const PylonDesign &design);
 
 /// The pylons of a layer, at least one, with the names of their sites.
 ///

@@ -15,7 +15,7 @@ SceneObjects objectsOf(const SiteRecords &records)
     std::vector<double> topsM;
     topsM.reserve(records.designs.size());
     for (const PylonDesign &design : records.designs)
-        topsM.push_back(topOf(design));
+        topsM.push_back(mastTopM(design));
     SceneObjects objects;
     objects.reserve(records.sites.size());
     for (const SiteRecord &site : records.sites) {

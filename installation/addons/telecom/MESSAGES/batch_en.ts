@@ -556,8 +556,8 @@
         <translation>Width and height in pixels, %1 to %2 each (default 1280x960).</translation>
     </message>
     <message id="MESS_OPT_VIEW">
-        <source>all: everything, from the south-west (default); north: the same towards true north; top: from above, true north up; symbolic: the sectors of the site in the middle; precise: its mast and antennas.</source>
-        <translation>all: everything, from the south-west (default); north: the same towards true north; top: from above, true north up; symbolic: the sectors of the site in the middle; precise: its mast and antennas.</translation>
+        <source>all: everything, from the south-west (default); north: the same towards true north; top: from above, true north up; symbolic: the sectors of the site in the middle; precise: its mast and antennas; site:ID or link:ID: the site or the link of this name, or #N for the one in row N.</source>
+        <translation>all: everything, from the south-west (default); north: the same towards true north; top: from above, true north up; symbolic: the sectors of the site in the middle; precise: its mast and antennas; site:ID or link:ID: the site or the link of this name, or #N for the one in row N.</translation>
     </message>
     <message id="MESS_OPT_SHOW_TERRAIN">
         <source>Terrain for the ground (default: that of the layer, else of the project). Without any, the ground is level and has a metric grid.</source>

@@ -556,8 +556,8 @@
         <translation>Largeur et hauteur en pixels, de %1 à %2 chacune (par défaut 1280x960).</translation>
     </message>
     <message id="MESS_OPT_VIEW">
-        <source>all: everything, from the south-west (default); north: the same towards true north; top: from above, true north up; symbolic: the sectors of the site in the middle; precise: its mast and antennas.</source>
-        <translation>all&#xa0;: l'ensemble, depuis le sud-ouest (par défaut)&#xa0;; north&#xa0;: la même chose vers le nord géographique&#xa0;; top&#xa0;: vue de dessus, nord géographique en haut&#xa0;; symbolic&#xa0;: les secteurs du site du milieu&#xa0;; precise&#xa0;: son mât et ses antennes.</translation>
+        <source>all: everything, from the south-west (default); north: the same towards true north; top: from above, true north up; symbolic: the sectors of the site in the middle; precise: its mast and antennas; site:ID or link:ID: the site or the link of this name, or #N for the one in row N.</source>
+        <translation>all&#xa0;: l'ensemble, depuis le sud-ouest (par défaut)&#xa0;; north&#xa0;: la même chose vers le nord géographique&#xa0;; top&#xa0;: vue de dessus, nord géographique en haut&#xa0;; symbolic&#xa0;: les secteurs du site du milieu&#xa0;; precise&#xa0;: son mât et ses antennes&#xa0;; site:ID ou link:ID&#xa0;: le site ou la liaison de ce nom, ou #N pour celui ou celle de la ligne N.</translation>
     </message>
     <message id="MESS_OPT_SHOW_TERRAIN">
         <source>Terrain for the ground (default: that of the layer, else of the project). Without any, the ground is level and has a metric grid.</source>

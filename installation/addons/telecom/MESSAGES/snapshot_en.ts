@@ -43,5 +43,17 @@
         <source>the picture cannot be written</source>
         <translation>the picture cannot be written</translation>
     </message>
+    <message id="MESS_SNAP_NO_SITE">
+        <source>the layer has no such site</source>
+        <translation>the layer has no such site</translation>
+    </message>
+    <message id="MESS_SNAP_NO_LINK">
+        <source>the layer has no such link</source>
+        <translation>the layer has no such link</translation>
+    </message>
+    <message id="MESS_SNAP_SIMILAR">
+        <source>%1; similar names: %2</source>
+        <translation>%1; similar names: %2</translation>
+    </message>
 </context>
 </TS>

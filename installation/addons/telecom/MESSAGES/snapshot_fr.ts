@@ -43,5 +43,17 @@
         <source>the picture cannot be written</source>
         <translation>l'image ne peut pas être écrite</translation>
     </message>
+    <message id="MESS_SNAP_NO_SITE">
+        <source>the layer has no such site</source>
+        <translation>la couche ne contient pas ce site</translation>
+    </message>
+    <message id="MESS_SNAP_NO_LINK">
+        <source>the layer has no such link</source>
+        <translation>la couche ne contient pas cette liaison</translation>
+    </message>
+    <message id="MESS_SNAP_SIMILAR">
+        <source>%1; similar names: %2</source>
+        <translation>%1&#xa0;; noms proches&#xa0;: %2</translation>
+    </message>
 </context>
 </TS>
