@@ -3,13 +3,14 @@
 #include "batch/Console.h"
 #include "batch/Help.h"
 #include "batch/LayerCommand.h"
+#include "batch/LinkNamed.h"
 #include "batch/LinkOptions.h"
-#include "batch/LinkProfilePicture.h"
 #include "batch/LinkReport.h"
 #include "batch/ProgressLine.h"
 #include "batch/SiteOptions.h"
 #include "language/VltLanguageManager.h"
 #include "links/LinkLayer.h"
+#include "links/ProfilePicture.h"
 #include "platform/AtomicFile.h"
 #include "tables/ResolvedConnection.h"
 #include "tables/SystemObstacle.h"
@@ -86,7 +87,7 @@ Result<LinkRequest> readLinkRequest(const QCommandLineParser &parser)
     if (parser.isSet(QStringLiteral("profile"))) {
         if (request.profile.isEmpty())
             return wrongValue(QStringLiteral("profile"), QStringLiteral("LINK"), {});
-        if (!isProfileName(parser.value(QStringLiteral("output"))))
+        if (!links::isProfileName(parser.value(QStringLiteral("output"))))
             return wrongUsage(
                 dico_label("MESS_USE_PROFILE_OUTPUT",
                            "the profile is a picture: give -o PROFILE.svg or PROFILE.png"));
@@ -162,7 +163,7 @@ std::optional<ExitStatus> writeProfile(const geodata::LinkCheck &check,
                             .arg(wanted.profile),
                         request.table));
     const Result<Done> written = platform::writeWhole(
-        request.output, profilePicture(*profile, request.output), platform::Access::Shared);
+        request.output, links::profilePicture(*profile, request.output), platform::Access::Shared);
     return written ? std::nullopt
                    : std::optional(refuse({QStringLiteral("MESS_SNAP_NOT_WRITTEN"),
                                            QStringLiteral("the picture cannot be written"),

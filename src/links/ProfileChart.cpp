@@ -1,8 +1,8 @@
 #include "links/ProfileChart.h"
 
 #include "language/VltLanguageManager.h"
-#include "linkpath/Fresnel.h"
 #include "links/ClearanceText.h"
+#include "links/ProfilePath.h"
 #include "readingaids/ViewScale.h"
 
 #include <QFontMetricsF>
@@ -11,7 +11,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <numbers>
 
 namespace vlt::links {
 
@@ -22,7 +21,6 @@ using linkpath::ProfilePoint;
 
 constexpr double MetresPerKm = 1000;
 constexpr int PerCent = 100;
-constexpr int CurvePoints = 128; ///< of lines that are drawn from formulas
 const QString Separator = QStringLiteral("  \u2022  ");
 
 QString fixed(double value, int decimals)
@@ -44,63 +42,6 @@ QColor mixed(const QColor &color, const QColor &other, double share)
                             part(color.blueF(), other.blueF()));
 }
 
-/// The antennas and what lies between them, by the distance from end A.
-class Path
-{
-public:
-    explicit Path(const LinkProfile &profile)
-        : m_profile(profile)
-        , m_a(profile.antennaM(0))
-        , m_b(profile.antennaM(1))
-    {}
-
-    bool hasLine() const { return m_a && m_b; }
-    bool hasZone() const { return hasLine() && m_profile.link.frequencyMHz.value_or(0) > 0; }
-    double lengthM() const { return m_profile.path.lengthM; }
-    double lineM(double d) const { return *m_a + (*m_b - *m_a) * d / lengthM(); }
-    double radiusM(double d) const
-    {
-        return linkpath::fresnelRadiusM(1, *m_profile.link.frequencyMHz, d, lengthM() - d);
-    }
-    double bulgeM(double d) const
-    {
-        return linkpath::earthBulgeM(d, lengthM() - d, m_profile.rule.kFactor);
-    }
-    /// Of a point of a curve; they are closer to each other at the ends, where a zone is round.
-    double distanceM(int point) const
-    {
-        return lengthM() * (1 - std::cos(std::numbers::pi * point / CurvePoints)) / 2;
-    }
-
-    /// Minimum and maximum of all heights that are drawn.
-    std::pair<double, double> rangeM() const
-    {
-        double low = 0;
-        double high = 0;
-        bool isFirst = true;
-        const auto add = [&](double heightM) {
-            low = isFirst ? heightM : std::min(low, heightM);
-            high = isFirst ? heightM : std::max(high, heightM);
-            isFirst = false;
-        };
-        for (const ProfilePoint &point : m_profile.path.points) {
-            add(point.terrainM);
-            add(point.terrainM + bulgeM(point.distanceM));
-        }
-        for (int i = 0; hasLine() && i <= CurvePoints; ++i) {
-            const double d = distanceM(i);
-            add(lineM(d) + (hasZone() ? radiusM(d) : 0));
-            add(lineM(d));
-        }
-        return {low, high};
-    }
-
-private:
-    const LinkProfile &m_profile;
-    std::optional<double> m_a;
-    std::optional<double> m_b;
-};
-
 /// The drawing of one profile.
 class Chart
 {
@@ -116,12 +57,14 @@ public:
         , m_status(colorOfClearance(profile.link.clearance.status))
     {}
 
-    void draw()
+    /// Returns the area between the axes.
+    QRectF draw()
     {
         m_painter.setFont(m_style.font);
         m_painter.fillRect(m_area, m_style.paper);
         layOut();
-        drawHeading();
+        if (m_style.hasHeading)
+            drawHeading();
         drawAxes();
         m_painter.save();
         m_painter.setClipRect(m_plot);
@@ -134,6 +77,7 @@ public:
         if (m_profile.worst)
             drawWorst();
         drawLegend();
+        return m_plot;
     }
 
 private:
@@ -158,8 +102,9 @@ private:
 
     void layOut()
     {
-        constexpr double HeadLines = 5; // two of the heading, two above the antennas
-        constexpr double FootLines = 4; // ticks, unit, legend
+        constexpr double AntennaLines = 2.2;
+        constexpr double HeadingLines = 2.8;
+        constexpr double AxisLines = 2.7; // ticks and unit
         constexpr double MinRangeM = 10;
         const auto [low, high] = m_path.rangeM();
         const double margin = std::max(MinRangeM, high - low) / 12;
@@ -169,8 +114,11 @@ private:
         double left = 0;
         for (double tick = firstTick(); tick <= m_highM; tick += m_stepM)
             left = std::max(left, width(shortest(tick)));
-        m_plot = m_area.adjusted(left + 2 * m_line, HeadLines * m_line, -1.5 * m_line,
-                                 -FootLines * m_line);
+        const double headLines = AntennaLines + (m_style.hasHeading ? HeadingLines : 0);
+        m_plot = m_area.adjusted(left + 2 * m_line, headLines * m_line, -1.5 * m_line, 0);
+        m_legend = legendLines();
+        m_plot.setBottom(m_area.bottom() -
+                         (AxisLines + LegendLine * static_cast<double>(m_legend.size())) * m_line);
     }
 
     double firstTick() const { return std::ceil(m_lowM / m_stepM) * m_stepM; }
@@ -228,8 +176,10 @@ private:
         m_painter.save();
         m_painter.translate(m_area.left() + m_line * 0.3, m_plot.bottom());
         m_painter.rotate(-90);
-        text({0, 0, m_plot.height(), m_line}, Qt::AlignHCenter,
-             dico_label("MESS_PROFILE_HEIGHT", "m above sea level"));
+        QString heights = dico_label("MESS_PROFILE_HEIGHT", "m above sea level");
+        if (width(heights) > m_plot.height())
+            heights = dico_label("MESS_PROFILE_HEIGHT_SHORT", "height (m)");
+        text({0, 0, m_plot.height(), m_line}, Qt::AlignHCenter, heights);
         m_painter.restore();
     }
 
@@ -260,7 +210,7 @@ private:
     QPolygonF zoneLine(double share) const
     {
         QPolygonF line;
-        for (int i = 0; i <= CurvePoints; ++i) {
+        for (int i = 0; i <= ProfilePath::CurvePoints; ++i) {
             const double d = m_path.distanceM(i);
             line << at(d, m_path.lineM(d) + share * m_path.radiusM(d));
         }
@@ -303,16 +253,20 @@ private:
         const double heightM = *link.ends[static_cast<std::size_t>(end)].heightM;
         const QString site = end == 0 ? link.endA : link.endB;
         const QString letter = end == 0 ? QStringLiteral("A") : QStringLiteral("B");
-        const QString heights =
-            m_profile.path.hasTerrain
-                ? dico_label("MESS_PROFILE_ANTENNA", "antenna %1 m, at %2 m above sea level")
-                      .arg(fixed(heightM, 1), fixed(*m_profile.antennaM(end), 1))
-                : dico_label("MESS_PROFILE_ANTENNA_LEVEL", "antenna %1 m").arg(fixed(heightM, 1));
+        QString heights =
+            dico_label("MESS_PROFILE_ANTENNA", "antenna %1 m, at %2 m above sea level")
+                .arg(fixed(heightM, 1), fixed(*m_profile.antennaM(end), 1));
+        if (!m_profile.path.hasTerrain || width(heights) > m_plot.width() / 2 - m_line)
+            heights =
+                dico_label("MESS_PROFILE_ANTENNA_LEVEL", "antenna %1 m").arg(fixed(heightM, 1));
         const int side = end == 0 ? Qt::AlignLeft : Qt::AlignRight;
         const double x = end == 0 ? top.x() : top.x() - m_plot.width() / 2;
         QRectF line(x, m_plot.top() - 1.9 * m_line, m_plot.width() / 2, m_line);
         m_painter.setPen(ink());
-        text(line, side, site.isEmpty() ? letter : letter + QStringLiteral(": ") + site);
+        text(line, side,
+             QFontMetricsF(m_style.font)
+                 .elidedText(site.isEmpty() ? letter : letter + QStringLiteral(": ") + site,
+                             Qt::ElideRight, line.width() - m_line / 2));
         m_painter.setPen(ink(0.8));
         text(line.translated(0, 0.9 * m_line), side, heights);
     }
@@ -341,47 +295,93 @@ private:
         text(box, Qt::AlignCenter, label);
     }
 
+    struct LegendEntry
+    {
+        QColor fill;
+        QPen edge;
+        bool isArea = true; ///< false for a line
+        QString name;
+    };
+
+    QList<LegendEntry> legend() const
+    {
+        QList<LegendEntry> entries = {
+            {groundColor(), Qt::NoPen, true, dico_label("MESS_PROFILE_GROUND", "ground")},
+            {bulgeColor(), Qt::NoPen, true,
+             dico_label("MESS_PROFILE_BULGE", "curvature of the earth (k = %1)")
+                 .arg(QLocale().toString(m_profile.rule.kFactor, 'g', 3))}};
+        if (m_path.hasLine())
+            entries.append(
+                {{}, pen(ink(), 1.5), false, dico_label("MESS_PROFILE_RAY", "line of sight")});
+        if (!m_path.hasZone())
+            return entries;
+        entries.append({zoneColor(), pen(m_status), true,
+                        dico_label("MESS_PROFILE_ZONE", "first Fresnel zone")});
+        entries.append({{},
+                        pen(ink(), 1, Qt::DashLine),
+                        false,
+                        dico_label("MESS_PROFILE_SHARE", "%1 % of it, to be clear")
+                            .arg(fixed(m_profile.rule.share * PerCent, 0))});
+        return entries;
+    }
+
+    double width(const LegendEntry &entry) const { return 2.6 * m_line + width(entry.name); }
+
+    /// The legend in lines that fit below the axes.
+    QList<QList<LegendEntry>> legendLines() const
+    {
+        QList<QList<LegendEntry>> lines = {{}};
+        double left = m_plot.width();
+        for (const LegendEntry &entry : legend()) {
+            if (width(entry) - m_line > left && !lines.constLast().isEmpty()) {
+                lines.append(QList<LegendEntry>());
+                left = m_plot.width();
+            }
+            lines.last().append(entry);
+            left -= width(entry);
+        }
+        return lines;
+    }
+
     void drawLegend()
     {
-        QPointF place(m_plot.left(), m_area.bottom() - 1.3 * m_line);
-        const auto entry = [this, &place](const QColor &fill, const QPen &edge, bool isArea,
-                                          const QString &name) {
-            const QRectF sample(place.x(), place.y() + 0.2 * m_line, 1.4 * m_line, 0.6 * m_line);
-            m_painter.setPen(edge);
-            m_painter.setBrush(fill);
-            if (isArea)
-                m_painter.drawRect(sample);
-            else
-                m_painter.drawLine(QPointF(sample.left(), sample.center().y()),
-                                   QPointF(sample.right(), sample.center().y()));
-            m_painter.setPen(ink());
-            text({sample.right() + m_line / 3, place.y(), width(name), m_line}, Qt::AlignLeft,
-                 name);
-            place.rx() += 2.6 * m_line + width(name);
-        };
-        entry(groundColor(), Qt::NoPen, true, dico_label("MESS_PROFILE_GROUND", "ground"));
-        entry(bulgeColor(), Qt::NoPen, true,
-              dico_label("MESS_PROFILE_BULGE", "curvature of the earth (k = %1)")
-                  .arg(QLocale().toString(m_profile.rule.kFactor, 'g', 3)));
-        if (m_path.hasLine())
-            entry({}, pen(ink(), 1.5), false, dico_label("MESS_PROFILE_RAY", "line of sight"));
-        if (!m_path.hasZone())
-            return;
-        entry(zoneColor(), pen(m_status), true,
-              dico_label("MESS_PROFILE_ZONE", "first Fresnel zone"));
-        entry({}, pen(ink(), 1, Qt::DashLine), false,
-              dico_label("MESS_PROFILE_SHARE", "%1 % of it, to be clear")
-                  .arg(fixed(m_profile.rule.share * PerCent, 0)));
+        double top = m_area.bottom() - LegendLine * m_line * static_cast<double>(m_legend.size());
+        for (const QList<LegendEntry> &line : std::as_const(m_legend)) {
+            double left = m_plot.left();
+            for (const LegendEntry &entry : line) {
+                drawEntry(entry, {left, top});
+                left += width(entry);
+            }
+            top += LegendLine * m_line;
+        }
     }
+
+    void drawEntry(const LegendEntry &entry, const QPointF &place)
+    {
+        const QRectF sample(place.x(), place.y() + 0.2 * m_line, 1.4 * m_line, 0.6 * m_line);
+        m_painter.setPen(entry.edge);
+        m_painter.setBrush(entry.fill);
+        if (entry.isArea)
+            m_painter.drawRect(sample);
+        else
+            m_painter.drawLine(QPointF(sample.left(), sample.center().y()),
+                               QPointF(sample.right(), sample.center().y()));
+        m_painter.setPen(ink());
+        text({sample.right() + m_line / 3, place.y(), width(entry.name), m_line}, Qt::AlignLeft,
+             entry.name);
+    }
+
+    static constexpr double LegendLine = 1.3; ///< distance of the legend's lines, in lines of text
 
     QPainter &m_painter;
     QRectF m_area;
     const LinkProfile &m_profile;
-    Path m_path;
+    ProfilePath m_path;
     ProfileStyle m_style;
     double m_line; ///< height of a line of text
     QColor m_status;
     QRectF m_plot;
+    QList<QList<LegendEntry>> m_legend;
     double m_lowM = 0;
     double m_highM = 0;
     double m_stepM = 0; ///< between ticks
@@ -418,13 +418,14 @@ QString profileFigures(const LinkProfile &profile)
     return figures.join(Separator);
 }
 
-void drawProfile(QPainter &painter, const QRectF &area, const LinkProfile &profile,
-                 const ProfileStyle &style)
+QRectF drawProfile(QPainter &painter, const QRectF &area, const LinkProfile &profile,
+                   const ProfileStyle &style)
 {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    Chart(painter, area, profile, style).draw();
+    const QRectF plot = Chart(painter, area, profile, style).draw();
     painter.restore();
+    return plot;
 }
 
 } // namespace vlt::links

@@ -14,6 +14,7 @@ struct ProfileStyle
     QFont font;
     QColor ink = QColor(0x20, 0x24, 0x28);
     QColor paper = Qt::white;
+    bool hasHeading = true; ///< title and figures
 };
 
 /// The name of a link: that of the table, else the sites of its ends, else its row.
@@ -27,7 +28,9 @@ QString profileFigures(const geodata::LinkProfile &profile);
 /// ray, the first Fresnel zone with the part that must be clear, and the worst point, between axes
 /// in km and metres above sea level. Texts are in the chosen language, numbers in the user's
 /// locale.
-void drawProfile(QPainter &painter, const QRectF &area, const geodata::LinkProfile &profile,
-                 const ProfileStyle &style);
+///
+/// @return the area between the axes, from end A to end B
+QRectF drawProfile(QPainter &painter, const QRectF &area, const geodata::LinkProfile &profile,
+                   const ProfileStyle &style);
 
 } // namespace vlt::links

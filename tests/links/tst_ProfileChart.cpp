@@ -1,5 +1,6 @@
 #include "links/ClearanceText.h"
 #include "links/ProfileChart.h"
+#include "links/ProfilePath.h"
 #include "support/Cases.h"
 
 #include <QGuiApplication>
@@ -70,6 +71,33 @@ private Q_SLOTS:
         QFETCH(double, hill);
         QFETCH(double, frequency);
         QTEST(links::profileFigures(profile(hill, frequency)), "figures");
+    }
+
+    // The hill rises from 4.9 to 5 km; the bulge is 1.47 m in the middle and 0.94 m at 2 km.
+    void statesThePlacesOfThePath_data()
+    {
+        const Cases<geodata::LinkProfile, double, QString> row({"profile", "distanceM", "text"});
+        row("hill", profile(120, 6000), 5000,
+            u"5.00 km from A\nground at 120.0 m\nline of sight at 150.0 m\n28.5 m free (255 % of the Fresnel zone)"_s);
+        row("slope", profile(120, 6000), 4950,
+            u"4.95 km from A\nground at 110.0 m\nline of sight at 150.0 m\n38.5 m free (345 % of the Fresnel zone)"_s);
+        row("cut", profile(160, 6000), 5000,
+            u"5.00 km from A\nground at 160.0 m\nline of sight at 150.0 m\nterrain 11.5 m above the line"_s);
+        row("no frequency", profile(120, 0), 2000,
+            u"2.00 km from A\nground at 100.0 m\nline of sight at 150.0 m\n49.1 m free"_s);
+        geodata::LinkProfile partly = profile(120, 6000);
+        partly.path.points.erase(partly.path.points.begin() + 20, partly.path.points.begin() + 40);
+        row("gap of the terrain", partly, 3000,
+            u"3.00 km from A\nno terrain\nline of sight at 150.0 m"_s);
+        partly.link.ends[1].heightM.reset();
+        row("no height", partly, 5000, u"5.00 km from A\nground at 120.0 m"_s);
+    }
+
+    void statesThePlacesOfThePath()
+    {
+        QFETCH(geodata::LinkProfile, profile);
+        QFETCH(double, distanceM);
+        QTEST(links::ProfilePath(profile).textAt(distanceM), "text");
     }
 
     void drawsTheZoneInTheColorOfItsClass()

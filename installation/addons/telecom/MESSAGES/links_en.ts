@@ -279,5 +279,33 @@
         <source>no terrain: the ground is drawn level</source>
         <translation>no terrain: the ground is drawn level</translation>
     </message>
+    <message id="MESS_PROFILE_HEIGHT_SHORT">
+        <source>height (m)</source>
+        <translation>height (m)</translation>
+    </message>
+    <message id="MESS_PROFILE_FROM_A">
+        <source>%1 km from A</source>
+        <translation>%1 km from A</translation>
+    </message>
+    <message id="MESS_PROFILE_GROUND_AT">
+        <source>ground at %1 m</source>
+        <translation>ground at %1 m</translation>
+    </message>
+    <message id="MESS_PROFILE_RAY_AT">
+        <source>line of sight at %1 m</source>
+        <translation>line of sight at %1 m</translation>
+    </message>
+    <message id="MESS_PROFILE_CUT">
+        <source>terrain %1 m above the line</source>
+        <translation>terrain %1 m above the line</translation>
+    </message>
+    <message id="MESS_PROFILE_FREE_SHARE">
+        <source>%1 m free (%2 % of the Fresnel zone)</source>
+        <translation>%1 m free (%2 % of the Fresnel zone)</translation>
+    </message>
+    <message id="MESS_PROFILE_FREE">
+        <source>%1 m free</source>
+        <translation>%1 m free</translation>
+    </message>
 </context>
 </TS>

@@ -279,5 +279,33 @@
         <source>no terrain: the ground is drawn level</source>
         <translation>pas de terrain&#xa0;: le sol est dessiné plat</translation>
     </message>
+    <message id="MESS_PROFILE_HEIGHT_SHORT">
+        <source>height (m)</source>
+        <translation>altitude (m)</translation>
+    </message>
+    <message id="MESS_PROFILE_FROM_A">
+        <source>%1 km from A</source>
+        <translation>à %1 km de A</translation>
+    </message>
+    <message id="MESS_PROFILE_GROUND_AT">
+        <source>ground at %1 m</source>
+        <translation>terrain à %1 m d'altitude</translation>
+    </message>
+    <message id="MESS_PROFILE_RAY_AT">
+        <source>line of sight at %1 m</source>
+        <translation>ligne de visée à %1 m d'altitude</translation>
+    </message>
+    <message id="MESS_PROFILE_CUT">
+        <source>terrain %1 m above the line</source>
+        <translation>visée %1 m sous le terrain</translation>
+    </message>
+    <message id="MESS_PROFILE_FREE_SHARE">
+        <source>%1 m free (%2 % of the Fresnel zone)</source>
+        <translation>%1 m dégagés (%2&#xa0;% de la zone de Fresnel)</translation>
+    </message>
+    <message id="MESS_PROFILE_FREE">
+        <source>%1 m free</source>
+        <translation>%1 m dégagés</translation>
+    </message>
 </context>
 </TS>
