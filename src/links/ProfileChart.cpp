@@ -102,23 +102,36 @@ private:
 
     void layOut()
     {
-        constexpr double AntennaLines = 2.2;
-        constexpr double HeadingLines = 2.8;
-        constexpr double AxisLines = 2.7; // ticks and unit
         constexpr double MinRangeM = 10;
+        constexpr double MinPlotLines = 5;
         const auto [low, high] = m_path.rangeM();
         const double margin = std::max(MinRangeM, high - low) / 12;
         m_lowM = low - margin;
         m_highM = high + margin;
-        m_stepM = readingaids::roundNumberUpTo((m_highM - m_lowM) / 3);
+        layOutLines();
+        if (m_plot.height() < MinPlotLines * m_line) {
+            m_isShort = true;
+            layOutLines();
+        }
+    }
+
+    /// Leaves space for the texts around the plot; those of a short drawing are fewer.
+    void layOutLines()
+    {
+        const double antennaLines = m_isShort ? 1.3 : 2.2;
+        const double headingLines = m_style.hasHeading ? 2.8 : 0;
+        const double axisLines = m_isShort ? 1.4 : 2.7; // ticks and unit
+        m_plot = m_area.adjusted(0, (antennaLines + headingLines) * m_line, -1.5 * m_line,
+                                 -axisLines * m_line);
+        m_stepM = readingaids::roundNumberUpTo((m_highM - m_lowM) /
+                                               std::clamp(m_plot.height() / m_line / 2, 1.0, 3.0));
         double left = 0;
         for (double tick = firstTick(); tick <= m_highM; tick += m_stepM)
             left = std::max(left, width(shortest(tick)));
-        const double headLines = AntennaLines + (m_style.hasHeading ? HeadingLines : 0);
-        m_plot = m_area.adjusted(left + 2 * m_line, headLines * m_line, -1.5 * m_line, 0);
-        m_legend = legendLines();
-        m_plot.setBottom(m_area.bottom() -
-                         (AxisLines + LegendLine * static_cast<double>(m_legend.size())) * m_line);
+        m_plot.setLeft(m_area.left() + left + 2 * m_line);
+        m_legend = m_isShort ? QList<QList<LegendEntry>>() : legendLines();
+        m_plot.setBottom(m_plot.bottom() -
+                         LegendLine * m_line * static_cast<double>(m_legend.size()));
     }
 
     double firstTick() const { return std::ceil(m_lowM / m_stepM) * m_stepM; }
@@ -166,13 +179,15 @@ private:
             const QPointF place = at(tick, m_lowM);
             m_painter.setPen(pen(ink(0.8)));
             m_painter.drawLine(place, place + QPointF(0, tickSide));
+            const QString km = shortest(tick / MetresPerKm);
             text({place.x() - 50, place.y() + tickSide, 100, m_line}, Qt::AlignHCenter,
-                 shortest(tick / MetresPerKm));
+                 m_isShort ? dico_label("MESS_PROFILE_LENGTH", "%1 km").arg(km) : km);
         }
         m_painter.drawLine(m_plot.bottomLeft(), m_plot.bottomRight());
         m_painter.drawLine(m_plot.bottomLeft(), m_plot.topLeft());
-        text({m_plot.left(), m_plot.bottom() + m_line * 1.25, m_plot.width(), m_line},
-             Qt::AlignRight, dico_label("MESS_PROFILE_DISTANCE", "distance from A (km)"));
+        if (!m_isShort)
+            text({m_plot.left(), m_plot.bottom() + m_line * 1.25, m_plot.width(), m_line},
+                 Qt::AlignRight, dico_label("MESS_PROFILE_DISTANCE", "distance from A (km)"));
         m_painter.save();
         m_painter.translate(m_area.left() + m_line * 0.3, m_plot.bottom());
         m_painter.rotate(-90);
@@ -261,14 +276,15 @@ private:
                 dico_label("MESS_PROFILE_ANTENNA_LEVEL", "antenna %1 m").arg(fixed(heightM, 1));
         const int side = end == 0 ? Qt::AlignLeft : Qt::AlignRight;
         const double x = end == 0 ? top.x() : top.x() - m_plot.width() / 2;
-        QRectF line(x, m_plot.top() - 1.9 * m_line, m_plot.width() / 2, m_line);
+        QRectF line(x, m_plot.top() - (m_isShort ? 1.1 : 1.9) * m_line, m_plot.width() / 2, m_line);
         m_painter.setPen(ink());
         text(line, side,
              QFontMetricsF(m_style.font)
                  .elidedText(site.isEmpty() ? letter : letter + QStringLiteral(": ") + site,
                              Qt::ElideRight, line.width() - m_line / 2));
         m_painter.setPen(ink(0.8));
-        text(line.translated(0, 0.9 * m_line), side, heights);
+        if (!m_isShort)
+            text(line.translated(0, 0.9 * m_line), side, heights);
     }
 
     void drawWorst()
@@ -384,7 +400,8 @@ private:
     QList<QList<LegendEntry>> m_legend;
     double m_lowM = 0;
     double m_highM = 0;
-    double m_stepM = 0; ///< between ticks
+    double m_stepM = 0;     ///< between ticks
+    bool m_isShort = false; ///< without legend, unit of the distance and heights of the antennas
 };
 
 } // namespace

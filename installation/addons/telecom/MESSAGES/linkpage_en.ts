@@ -271,5 +271,45 @@ to add the link layer
         <source>Show the recognised columns, the rows with problems and the clearance of every link</source>
         <translation>Show the recognized columns, the rows with problems and the clearance of every link</translation>
     </message>
+    <message id="MESS_PROFILE">
+        <source>Profile</source>
+        <translation>Profile</translation>
+    </message>
+    <message id="MESS_TIP_PROFILE">
+        <source>Show the path of the selected link over the terrain</source>
+        <translation>Show the path of the selected link over the terrain</translation>
+    </message>
+    <message id="MESS_PROFILE_READING">
+        <source>Reading the terrain...</source>
+        <translation>Reading the terrain...</translation>
+    </message>
+    <message id="MESS_PROFILE_OF">
+        <source>Profile of %1</source>
+        <translation>Profile of %1</translation>
+    </message>
+    <message id="MESS_COPY_PROFILE">
+        <source>Copy</source>
+        <translation>Copy</translation>
+    </message>
+    <message id="MESS_TIP_COPY_PROFILE">
+        <source>Copy the profile as a picture and its figures as text</source>
+        <translation>Copy the profile as a picture and its figures as text</translation>
+    </message>
+    <message id="MESS_SAVE_PROFILE">
+        <source>Save as...</source>
+        <translation>Save as...</translation>
+    </message>
+    <message id="MESS_TIP_SAVE_PROFILE">
+        <source>Save the profile as an SVG or PNG picture</source>
+        <translation>Save the profile as an SVG or PNG picture</translation>
+    </message>
+    <message id="MESS_SAVE_PROFILE_TITLE">
+        <source>Save the profile as</source>
+        <translation>Save the profile as</translation>
+    </message>
+    <message id="MESS_CANT_SAVE_PROFILE">
+        <source>The profile cannot be saved</source>
+        <translation>The profile cannot be saved</translation>
+    </message>
 </context>
 </TS>

@@ -271,5 +271,45 @@ pour ajouter la couche de liaisons
         <source>Show the recognised columns, the rows with problems and the clearance of every link</source>
         <translation>Montrer les colonnes reconnues, les lignes qui posent problème et le dégagement de chaque liaison</translation>
     </message>
+    <message id="MESS_PROFILE">
+        <source>Profile</source>
+        <translation>Profil</translation>
+    </message>
+    <message id="MESS_TIP_PROFILE">
+        <source>Show the path of the selected link over the terrain</source>
+        <translation>Montrer le trajet de la liaison choisie au-dessus du terrain</translation>
+    </message>
+    <message id="MESS_PROFILE_READING">
+        <source>Reading the terrain...</source>
+        <translation>Lecture du terrain...</translation>
+    </message>
+    <message id="MESS_PROFILE_OF">
+        <source>Profile of %1</source>
+        <translation>Profil de %1</translation>
+    </message>
+    <message id="MESS_COPY_PROFILE">
+        <source>Copy</source>
+        <translation>Copier</translation>
+    </message>
+    <message id="MESS_TIP_COPY_PROFILE">
+        <source>Copy the profile as a picture and its figures as text</source>
+        <translation>Copier le profil comme image et ses chiffres comme texte</translation>
+    </message>
+    <message id="MESS_SAVE_PROFILE">
+        <source>Save as...</source>
+        <translation>Enregistrer sous...</translation>
+    </message>
+    <message id="MESS_TIP_SAVE_PROFILE">
+        <source>Save the profile as an SVG or PNG picture</source>
+        <translation>Enregistrer le profil comme image SVG ou PNG</translation>
+    </message>
+    <message id="MESS_SAVE_PROFILE_TITLE">
+        <source>Save the profile as</source>
+        <translation>Enregistrer le profil sous</translation>
+    </message>
+    <message id="MESS_CANT_SAVE_PROFILE">
+        <source>The profile cannot be saved</source>
+        <translation>Le profil ne peut pas être enregistré</translation>
+    </message>
 </context>
 </TS>
