@@ -138,6 +138,47 @@ private Q_SLOTS:
         QCOMPARE(selected.value(0).data(), u"MW-20"_s);
     }
 
+    void showsTheProfileOfTheSelectedLink()
+    {
+        WizardOnLinkPage flow;
+        auto *drawing = flow.widget<QWidget>(u"m_pwLinkProfile"_s);
+        const auto *label = flow.widget<QLabel>(u"m_pwLblProfile"_s);
+        const auto shows = [label](const QString &text) {
+            return QTextDocumentFragment::fromHtml(label->text()).toPlainText().contains(text);
+        };
+        dropFiles(flow.page, {Links});
+        QTableView *table = flow.table();
+        QTRY_COMPARE_WITH_TIMEOUT(table->model()->rowCount(), 21, PatienceMs);
+        QVERIFY(!drawing->isVisible());
+
+        for (const int row : {4, 3, 2, 1, 0}) // the last one counts
+            table->selectRow(row);
+        QTRY_VERIFY_WITH_TIMEOUT(drawing->isVisible(), PatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(shows(u"MW-21"_s) && shows(u"obstructed"_s), PatienceMs);
+        QVERIFY(drawing->accessibleName().contains(u"MW-21"_s));
+        const QImage alone = drawing->grab().toImage();
+
+        QTest::keyClick(drawing, Qt::Key_Right); // the worst point
+        QVERIFY(drawing->accessibleDescription().startsWith(QLocale().toString(4.62)));
+        QTest::keyClick(drawing, Qt::Key_End);
+        QVERIFY(drawing->accessibleDescription().startsWith(QLocale().toString(10.73)));
+        QVERIFY(drawing->grab().toImage() != alone);
+
+        const QString saved = m_dir.filePath(u"profile.svg"_s);
+        const FileDialogAnswer dialog(saved);
+        drawing->actions().constLast()->trigger();
+        QVERIFY(readFile(saved).contains("<svg"));
+        drawing->actions().constFirst()->trigger();
+        QVERIFY(!QGuiApplication::clipboard()->image().isNull());
+
+        table->selectRow(1); // marginal by the rule
+        QTRY_VERIFY_WITH_TIMEOUT(shows(u"marginal"_s), PatienceMs);
+        flow.widget<QSpinBox>(u"m_pwSbFresnelShare"_s)->setValue(1);
+        QTRY_VERIFY_WITH_TIMEOUT(shows(u"clear"_s), PatienceMs);
+        table->clearSelection();
+        QVERIFY(!drawing->isVisible());
+    }
+
     void showsLongTextsWithoutHidingTheStatus()
     {
         const QString path =

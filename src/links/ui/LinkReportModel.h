@@ -23,6 +23,8 @@ public:
     /// the links of another table.
     void setLinks(const QList<geodata::LinkReport> &links);
 
+    const geodata::LinkReport &link(int row) const { return m_links[row]; }
+
     /// The first row whose link has a class of clearance; -1 if none has.
     int firstOf(linkpath::ClearanceStatus status) const;
 

@@ -2,6 +2,7 @@
 
 #include "contract/TextPatterns.h"
 #include "links/ui/VltLinkDetails.h"
+#include "links/ui/VltLinkProfile.h"
 #include "links/ui/VltLinkProperties.h"
 #include "sites/ui/VltSiteProperties.h"
 
@@ -17,7 +18,10 @@ VltAddLinkPage::VltAddLinkPage(QWidget *wizard, SharedParameters &parameters,
     , m_panelLinks(new VltLinkProperties(this))
     , m_panelPylons(new VltSiteProperties(installDir, language, this))
     , m_panelDetails(new VltLinkDetails(this))
+    , m_panelProfile(new VltLinkProfile(this))
 {
+    connect(m_panelDetails, &VltLinkDetails::linkChosen, m_panelProfile, &VltLinkProfile::showLink);
+    addBelowPreview(m_panelProfile);
     setParts(m_panelDetails, {m_panelLinks, m_panelPylons});
 }
 

@@ -4,6 +4,7 @@
 #include "tables/ui/VltTablePage.h"
 
 class VltLinkDetails;
+class VltLinkProfile;
 class VltLinkProperties;
 class VltSiteProperties;
 
@@ -38,5 +39,6 @@ private:
     VltLinkProperties *m_panelLinks;
     VltSiteProperties *m_panelPylons;
     VltLinkDetails *m_panelDetails;
+    VltLinkProfile *m_panelProfile;
     std::optional<vlt::links::LinkFileInfo> m_file; ///< none if no table is open
 };

@@ -42,6 +42,10 @@ VltLinkDetails::VltLinkDetails(QWidget *parent)
     m_pwTvLinks->horizontalHeader()->setStretchLastSection(false);
     m_pwTvLinks->setSortingEnabled(true);
     sortWorstFirst();
+    connect(m_pwTvLinks->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &VltLinkDetails::announceLink);
+    connect(m_pwTvLinks->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            &VltLinkDetails::announceLink);
 }
 
 void VltLinkDetails::showFile(const vlt::links::LinkFileInfo &file)
@@ -61,10 +65,12 @@ void VltLinkDetails::check(const QString &connection, const vlt::geodata::System
         [connection, systems, input](const vlt::Progress &progress) {
             return vlt::geodata::readLinkCheck(connection, input, progress, systems);
         },
-        [this, systems, hasTerrain = !input.terrainFile.isEmpty()](const LinkCheck &check) {
+        [this, systems, input](const LinkCheck &check) {
+            m_endSystem = check.endSystem;
+            m_checkInput = input;
             showLinks(check.links);
             showOutcome(check, systems);
-            showClearance(check, hasTerrain);
+            showClearance(check, !input.terrainFile.isEmpty());
         });
 }
 
@@ -75,6 +81,21 @@ void VltLinkDetails::showLinks(const QList<LinkReport> &links)
     const int longName = MaxNameCharacters * m_pwTvLinks->fontMetrics().averageCharWidth();
     constexpr int Name = vlt::links::LinkReportModel::Name;
     m_pwTvLinks->setColumnWidth(Name, qMin(longName, m_pwTvLinks->columnWidth(Name)));
+    announceLink();
+}
+
+/// Announces the selected link; of several, the current one.
+void VltLinkDetails::announceLink()
+{
+    const QItemSelectionModel *selection = m_pwTvLinks->selectionModel();
+    QModelIndex row = selection->currentIndex();
+    if (!row.isValid() || !selection->isSelected(row))
+        row = selection->selectedRows().value(0);
+    if (row.isValid())
+        Q_EMIT linkChosen(
+            vlt::links::ChosenLink{m_linkModel->link(row.row()), m_endSystem, m_checkInput});
+    else
+        Q_EMIT linkChosen(std::nullopt);
 }
 
 void VltLinkDetails::forgetRows()

@@ -2,6 +2,7 @@
 
 #include "geodata/LinkCheck.h"
 #include "links/LinkFileInfo.h"
+#include "links/ui/ChosenLink.h"
 #include "tables/ui/VltTableDetails.h"
 
 namespace vlt::links {
@@ -27,6 +28,10 @@ public:
     void check(const QString &connection, const vlt::geodata::SystemPair &systems,
                const vlt::geodata::LinkCheckInput &input);
 
+Q_SIGNALS:
+    /// The user has selected a link, or its values have changed; nothing if none is selected.
+    void linkChosen(const std::optional<vlt::links::ChosenLink> &chosen);
+
 private:
     void forgetRows() override;
     void followRemark(const QString &link) override;
@@ -35,8 +40,11 @@ private:
 
     void sortWorstFirst();
     void showLinks(const QList<vlt::geodata::LinkReport> &links);
+    void announceLink();
     void showClearance(const vlt::geodata::LinkCheck &check, bool hasTerrain);
 
     vlt::links::LinkReportModel *m_linkModel;
     QTableView *m_pwTvLinks;
+    QString m_endSystem;                       ///< of the last check
+    vlt::geodata::LinkCheckInput m_checkInput; ///< of the last check
 };

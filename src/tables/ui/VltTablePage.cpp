@@ -115,6 +115,14 @@ void VltTablePage::setParts(VltTableDetails *details, const QList<VltParameterPa
     readFileInfo(m_ui->m_pwLeTable->text(), true);
 }
 
+void VltTablePage::addBelowPreview(QWidget *part)
+{
+    m_belowPreview = part;
+    QVBoxLayout &column = *m_ui->m_ptVbResult;
+    column.setStretchFactor(m_ui->m_pwGbPreview, 2);
+    column.insertWidget(column.indexOf(m_ui->m_pwGbPreview) + 1, part, 1);
+}
+
 vlt::geodata::SystemPair VltTablePage::systems() const
 {
     return {m_panelSrs->sourceSrs(), m_panelSrs->targetSrs()};
@@ -154,7 +162,10 @@ void VltTablePage::orderFocus()
     QWidgetList groups{m_ui->m_pwGbTable};
     for (VltParameterPanel *panel : panels())
         groups << panel;
-    groups << m_ui->m_pwGbPreview << dragIcon();
+    groups << m_ui->m_pwGbPreview;
+    if (m_belowPreview)
+        groups << m_belowPreview;
+    groups << dragIcon();
 
     QWidgetList ordered;
     for (const QWidget *group : std::as_const(groups)) {

@@ -65,6 +65,9 @@ protected:
     /// @param panels   panels of values, from top to bottom
     void setParts(VltTableDetails *details, const QList<VltParameterPanel *> &panels);
 
+    /// Adds a part below the preview; to be called before setParts().
+    void addBelowPreview(QWidget *part);
+
     /// Reads a table into `file` on another thread and returns why it was refused. `file` is empty
     /// after a refusal, for an empty path, if the user stops the read, and if the page is not
     /// visible yet and the read takes longer than a moment.
@@ -181,6 +184,7 @@ private:
     vlt::tables::TablePageConfiguration m_configuration;
     std::unique_ptr<Ui::TablePage> m_ui;
     VltSrsSettings *m_panelSrs = nullptr;
+    QWidget *m_belowPreview = nullptr;
     VltTableDetails *m_details = nullptr;
     VltCures *m_cures = nullptr;
     vlt::project::ProjectContext m_project;
