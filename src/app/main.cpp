@@ -7,6 +7,7 @@
 #include "app/StartupSettings.h"
 #include "app/StyleSheet.h"
 #include "app/ToolkitTexts.h"
+#include "language/Numbers.h"
 #include "language/VltLanguageManager.h"
 #include "resources/Resources.h"
 #include "wizard/base/BusyWait.h"
@@ -74,9 +75,7 @@ void setUpLanguage(const QString &installDir, const app::StartupSettings &settin
     const VltLanguageManager &manager = VltLanguageManager::getInstance();
     app::installToolkitTexts(manager.getCurrentLanguage().text);
     // numbers and dates in the format of the language of the texts
-    const QLocale spoken(manager.getCurrentLanguage().text);
-    if (QLocale().language() != spoken.language())
-        QLocale::setDefault(spoken);
+    QLocale::setDefault(language::numberLocale());
     if (manager.currentLanguageNeedsReversedLayout())
         QApplication::setLayoutDirection(Qt::RightToLeft);
 }

@@ -1,9 +1,8 @@
 #include "language/ReaderText.h"
 
 #include "contract/TextPatterns.h"
+#include "language/Numbers.h"
 #include "language/VltLanguageManager.h"
-
-#include <QLocale>
 
 #include <string>
 #include <vector>
@@ -16,8 +15,7 @@ QString valueText(contract::ValueKind kind, const QString &value)
 {
     switch (kind) {
     case contract::ValueKind::Count:
-        return QLocale(VltLanguageManager::getInstance().getCurrentLanguage().text)
-            .toString(value.toLongLong());
+        return wholeNumber(value.toLongLong());
     case contract::ValueKind::Nested:
         return readerText(value);
     default:

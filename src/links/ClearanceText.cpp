@@ -1,8 +1,7 @@
 #include "links/ClearanceText.h"
 
+#include "language/Numbers.h"
 #include "language/VltLanguageManager.h"
-
-#include <QLocale>
 
 namespace vlt::links {
 
@@ -48,14 +47,13 @@ QString worstText(const linkpath::WorstPoint &worst)
 {
     constexpr double MetresPerKm = 1000;
     constexpr int PerCent = 100;
-    const QLocale locale;
-    const QString place = locale.toString(worst.distanceM / MetresPerKm, 'f', 2);
-    const QString metres = locale.toString(qAbs(worst.clearanceM), 'f', 1);
+    const QString place = language::shortNumber(worst.distanceM / MetresPerKm, 2);
+    const QString metres = language::shortNumber(qAbs(worst.clearanceM), 1);
     if (worst.clearanceM < 0)
         return dico_label("MESS_WORST_CUT", "%1 km from A, terrain %2 m above the line")
             .arg(place, metres);
     return dico_label("MESS_WORST_FREE", "%1 km from A, %2 m free (%3 %)")
-        .arg(place, metres, locale.toString(worst.freeShare() * PerCent, 'f', 0));
+        .arg(place, metres, language::shortNumber(worst.freeShare() * PerCent, 0));
 }
 
 QColor colorOfClearance(linkpath::ClearanceStatus status)

@@ -15,7 +15,7 @@ QString clearanceText(linkpath::ClearanceStatus status);
 QString lackText(linkpath::Lack lack);
 
 /// Distance of the worst point from end A and the free height there, in the chosen language, with
-/// numbers in the user's locale.
+/// its numbers.
 QString worstText(const linkpath::WorstPoint &worst);
 
 /// The colour of a class of clearance.

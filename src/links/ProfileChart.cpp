@@ -1,12 +1,12 @@
 #include "links/ProfileChart.h"
 
+#include "language/Numbers.h"
 #include "language/VltLanguageManager.h"
 #include "links/ClearanceText.h"
 #include "links/ProfilePath.h"
 #include "readingaids/ViewScale.h"
 
 #include <QFontMetricsF>
-#include <QLocale>
 #include <QPainterPath>
 
 #include <algorithm>
@@ -17,21 +17,13 @@ namespace vlt::links {
 namespace {
 
 using geodata::LinkProfile;
+using language::roundNumber;
+using language::shortNumber;
 using linkpath::ProfilePoint;
 
 constexpr double MetresPerKm = 1000;
 constexpr int PerCent = 100;
 const QString Separator = QStringLiteral("  \u2022  ");
-
-QString fixed(double value, int decimals)
-{
-    return QLocale().toString(value, 'f', decimals);
-}
-
-QString shortest(double value)
-{
-    return QLocale().toString(value, 'g', 6);
-}
 
 QColor mixed(const QColor &color, const QColor &other, double share)
 {
@@ -127,7 +119,7 @@ private:
                                                std::clamp(m_plot.height() / m_line / 2, 1.0, 3.0));
         double left = 0;
         for (double tick = firstTick(); tick <= m_highM; tick += m_stepM)
-            left = std::max(left, width(shortest(tick)));
+            left = std::max(left, width(roundNumber(tick)));
         m_plot.setLeft(m_area.left() + left + 2 * m_line);
         m_legend = m_isShort ? QList<QList<LegendEntry>>() : legendLines();
         m_plot.setBottom(m_plot.bottom() -
@@ -172,14 +164,14 @@ private:
             m_painter.setPen(ink(0.8));
             text({m_area.left(), place.y() - m_line / 2, m_plot.left() - tickSide - m_area.left(),
                   m_line},
-                 Qt::AlignRight | Qt::AlignVCenter, shortest(tick));
+                 Qt::AlignRight | Qt::AlignVCenter, roundNumber(tick));
         }
         const double stepM = readingaids::roundNumberUpTo(m_path.lengthM() / 4);
         for (double tick = 0; tick <= m_path.lengthM() * (1 + 1e-9); tick += stepM) {
             const QPointF place = at(tick, m_lowM);
             m_painter.setPen(pen(ink(0.8)));
             m_painter.drawLine(place, place + QPointF(0, tickSide));
-            const QString km = shortest(tick / MetresPerKm);
+            const QString km = roundNumber(tick / MetresPerKm);
             text({place.x() - 50, place.y() + tickSide, 100, m_line}, Qt::AlignHCenter,
                  m_isShort ? dico_label("MESS_PROFILE_LENGTH", "%1 km").arg(km) : km);
         }
@@ -270,10 +262,10 @@ private:
         const QString letter = end == 0 ? QStringLiteral("A") : QStringLiteral("B");
         QString heights =
             dico_label("MESS_PROFILE_ANTENNA", "antenna %1 m, at %2 m above sea level")
-                .arg(fixed(heightM, 1), fixed(*m_profile.antennaM(end), 1));
+                .arg(shortNumber(heightM, 1), shortNumber(*m_profile.antennaM(end), 1));
         if (!m_profile.path.hasTerrain || width(heights) > m_plot.width() / 2 - m_line)
-            heights =
-                dico_label("MESS_PROFILE_ANTENNA_LEVEL", "antenna %1 m").arg(fixed(heightM, 1));
+            heights = dico_label("MESS_PROFILE_ANTENNA_LEVEL", "antenna %1 m")
+                          .arg(shortNumber(heightM, 1));
         const int side = end == 0 ? Qt::AlignLeft : Qt::AlignRight;
         const double x = end == 0 ? top.x() : top.x() - m_plot.width() / 2;
         QRectF line(x, m_plot.top() - (m_isShort ? 1.1 : 1.9) * m_line, m_plot.width() / 2, m_line);
@@ -299,7 +291,7 @@ private:
         m_painter.drawLine(line, ground);
         m_painter.drawEllipse(ground, radius, radius);
         const QString label =
-            dico_label("MESS_PROFILE_METRES", "%1 m").arg(fixed(worst.clearanceM, 1));
+            dico_label("MESS_PROFILE_METRES", "%1 m").arg(shortNumber(worst.clearanceM, 1));
         const double wide = width(label) + m_line / 2;
         const bool isRight = ground.x() + radius + wide < m_plot.right();
         const QRectF box(isRight ? ground.x() + 1.5 * radius : ground.x() - 1.5 * radius - wide,
@@ -325,7 +317,7 @@ private:
             {groundColor(), Qt::NoPen, true, dico_label("MESS_PROFILE_GROUND", "ground")},
             {bulgeColor(), Qt::NoPen, true,
              dico_label("MESS_PROFILE_BULGE", "curvature of the earth (k = %1)")
-                 .arg(QLocale().toString(m_profile.rule.kFactor, 'g', 3))}};
+                 .arg(roundNumber(m_profile.rule.kFactor, 3))}};
         if (m_path.hasLine())
             entries.append(
                 {{}, pen(ink(), 1.5), false, dico_label("MESS_PROFILE_RAY", "line of sight")});
@@ -337,7 +329,7 @@ private:
                         pen(ink(), 1, Qt::DashLine),
                         false,
                         dico_label("MESS_PROFILE_SHARE", "%1 % of it, to be clear")
-                            .arg(fixed(m_profile.rule.share * PerCent, 0))});
+                            .arg(shortNumber(m_profile.rule.share * PerCent, 1))});
         return entries;
     }
 
@@ -418,10 +410,10 @@ QString linkTitle(const geodata::LinkReport &link)
 QString profileFigures(const LinkProfile &profile)
 {
     QStringList figures = {dico_label("MESS_PROFILE_LENGTH", "%1 km")
-                               .arg(fixed(profile.path.lengthM / MetresPerKm, 3))};
+                               .arg(shortNumber(profile.path.lengthM / MetresPerKm, 3))};
     if (profile.link.frequencyMHz)
         figures << dico_label("MESS_PROFILE_FREQUENCY", "%1 GHz")
-                       .arg(shortest(*profile.link.frequencyMHz / 1000));
+                       .arg(roundNumber(*profile.link.frequencyMHz / 1000));
     const linkpath::Clearance &clearance = profile.link.clearance;
     QString status = clearanceText(clearance.status);
     if (profile.path.hasTerrain && clearance.lack != linkpath::Lack::Nothing)

@@ -26,8 +26,8 @@ QString profileFigures(const geodata::LinkProfile &profile);
 
 /// Draws the path of a link: the ground raised by the curvature of the earth, the antennas, the
 /// ray, the first Fresnel zone with the part that must be clear, and the worst point, between axes
-/// in km and metres above sea level. Texts are in the chosen language, numbers in the user's
-/// locale.
+/// in km and metres above sea level. Texts are in the chosen language, its
+/// numbers.
 ///
 /// @return the area between the axes, from end A to end B
 QRectF drawProfile(QPainter &painter, const QRectF &area, const geodata::LinkProfile &profile,

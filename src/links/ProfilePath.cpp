@@ -1,9 +1,9 @@
 #include "links/ProfilePath.h"
 
+#include "language/Numbers.h"
 #include "language/VltLanguageManager.h"
 #include "linkpath/Fresnel.h"
 
-#include <QLocale>
 #include <QStringList>
 
 #include <algorithm>
@@ -12,6 +12,7 @@
 
 namespace vlt::links {
 
+using language::shortNumber;
 using linkpath::ProfilePoint;
 
 ProfilePath::ProfilePath(const geodata::LinkProfile &profile)
@@ -87,32 +88,30 @@ std::pair<double, double> ProfilePath::rangeM() const
 
 QString ProfilePath::textAt(double distanceM) const
 {
-    const auto number = [](double value, int decimals) {
-        return QLocale().toString(value, 'f', decimals);
-    };
-    QStringList lines = {
-        dico_label("MESS_PROFILE_FROM_A", "%1 km from A").arg(number(distanceM / 1000, 2))};
+    QStringList lines = {dico_label("MESS_PROFILE_FROM_A", "%1 km from A")
+                             .arg(language::fixedNumber(distanceM / 1000, 2))};
     const std::optional<double> ground = groundM(distanceM);
     if (!ground)
         lines << dico_label("MESS_LACK_TERRAIN", "no terrain");
     else if (m_profile.path.hasTerrain)
-        lines << dico_label("MESS_PROFILE_GROUND_AT", "ground at %1 m").arg(number(*ground, 1));
+        lines
+            << dico_label("MESS_PROFILE_GROUND_AT", "ground at %1 m").arg(shortNumber(*ground, 1));
     if (!hasLine())
         return lines.join(QLatin1Char('\n'));
     lines << dico_label("MESS_PROFILE_RAY_AT", "line of sight at %1 m")
-                 .arg(number(lineM(distanceM), 1));
+                 .arg(shortNumber(lineM(distanceM), 1));
     if (!ground)
         return lines.join(QLatin1Char('\n'));
     const double clearanceM = lineM(distanceM) - *ground - bulgeM(distanceM);
     const double radius = hasZone() ? radiusM(distanceM) : 0;
     if (clearanceM < 0)
         lines << dico_label("MESS_PROFILE_CUT", "terrain %1 m above the line")
-                     .arg(number(-clearanceM, 1));
+                     .arg(shortNumber(-clearanceM, 1));
     else if (radius > 0)
         lines << dico_label("MESS_PROFILE_FREE_SHARE", "%1 m free (%2 % of the Fresnel zone)")
-                     .arg(number(clearanceM, 1), number(100 * clearanceM / radius, 0));
+                     .arg(shortNumber(clearanceM, 1), shortNumber(100 * clearanceM / radius, 0));
     else
-        lines << dico_label("MESS_PROFILE_FREE", "%1 m free").arg(number(clearanceM, 1));
+        lines << dico_label("MESS_PROFILE_FREE", "%1 m free").arg(shortNumber(clearanceM, 1));
     return lines.join(QLatin1Char('\n'));
 }
 

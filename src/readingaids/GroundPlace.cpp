@@ -1,8 +1,7 @@
 #include "readingaids/GroundPlace.h"
 
+#include "language/Numbers.h"
 #include "language/VltLanguageManager.h"
-
-#include <QLocale>
 
 #include <algorithm>
 #include <cmath>
@@ -15,7 +14,7 @@ QString lonLatText(const LonLat &at)
 {
     constexpr int Decimals = 5; // about a metre
     const auto number = [](double value) {
-        return QLocale().toString(std::abs(value), 'f', Decimals);
+        return language::fixedNumber(std::abs(value), Decimals);
     };
     const QString lat = (at.latDeg < 0 ? dico_label("MESS_DEGREES_SOUTH", "%1° S")
                                        : dico_label("MESS_DEGREES_NORTH", "%1° N"))
@@ -30,7 +29,7 @@ QString lonLatText(const LonLat &at)
 
 QStringList placeTexts(const GroundPlace &place)
 {
-    const auto whole = [](double value) { return QLocale().toString(value, 'f', 0); };
+    const auto whole = [](double value) { return language::fixedNumber(value, 0); };
     QStringList texts{place.system};
     if (!place.isGeographic)
         texts << whole(place.x) + QStringLiteral("  ") + whole(place.y);

@@ -1,10 +1,10 @@
 #include "readingaids/Legend.h"
 
 #include "contract/SceneLegend.h"
+#include "language/Numbers.h"
 #include "language/VltLanguageManager.h"
 #include "readingaids/ViewScale.h"
 
-#include <QLocale>
 #include <QStringList>
 
 #include <algorithm>
@@ -25,7 +25,7 @@ QString textAt(const legend::Row &row, std::size_t index)
 
 QString numberAt(const legend::Row &row, std::size_t index)
 {
-    return QLocale().toString(textAt(row, index).toDouble(), 'g', 6);
+    return language::roundNumber(textAt(row, index).toDouble());
 }
 
 QString counted(const QString &name, const legend::Row &row)
@@ -179,7 +179,7 @@ QString tickText(double value, double step)
         scaled *= 10;
         ++decimals;
     }
-    return QLocale().toString(std::abs(value) < std::abs(step) * 1e-9 ? 0 : value, 'f', decimals);
+    return language::fixedNumber(value, decimals);
 }
 
 Legend legendOf(std::string_view text)

@@ -1,9 +1,9 @@
 #include "readingaids/LegendDrawing.h"
 
+#include "language/Numbers.h"
 #include "language/VltLanguageManager.h"
 
 #include <QLinearGradient>
-#include <QLocale>
 
 #include <algorithm>
 
@@ -46,7 +46,7 @@ public:
         if (part.entries.size() > shown)
             addText(textLeft(),
                     dico_label("MESS_LEGEND_MORE", "%1 more")
-                        .arg(QLocale().toString(part.entries.size() - shown)),
+                        .arg(language::wholeNumber(part.entries.size() - shown)),
                     false);
         m_y += PartGap * m_line;
     }
@@ -126,8 +126,7 @@ private:
                 m_painter->drawLine(QPointF(bar.right(), y),
                                     QPointF(bar.right() + 0.3 * m_line, y));
             }
-            drawText(textLeft(), y,
-                     step > 0 ? tickText(tick, step) : QLocale().toString(tick, 'g', 6),
+            drawText(textLeft(), y, step > 0 ? tickText(tick, step) : language::roundNumber(tick),
                      m_style.font);
         }
         m_y = bar.bottom() + m_line / 2;

@@ -1,8 +1,7 @@
 #include "readingaids/ViewScale.h"
 
+#include "language/Numbers.h"
 #include "language/VltLanguageManager.h"
-
-#include <QLocale>
 
 #include <cmath>
 #include <numbers>
@@ -61,7 +60,7 @@ ScaleLength scaleLength(double metresPerPx, double maxPx)
     const bool inKm = length.lengthM >= MetresPerKm;
     length.text =
         (inKm ? dico_label("MESS_SCALE_KM", "%1 km") : dico_label("MESS_SCALE_M", "%1 m"))
-            .arg(QLocale().toString(inKm ? length.lengthM / MetresPerKm : length.lengthM, 'g', 6));
+            .arg(language::roundNumber(inKm ? length.lengthM / MetresPerKm : length.lengthM));
     return length;
 }
 

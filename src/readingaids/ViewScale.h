@@ -32,7 +32,7 @@ struct ScaleLength
 {
     double lengthM = 0; ///< 1, 2 or 5 times a power of ten; 0: none
     double lengthPx = 0;
-    QString text; ///< in the user's locale
+    QString text; ///< in the chosen language
 
     bool operator==(const ScaleLength &) const = default;
 };

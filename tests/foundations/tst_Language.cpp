@@ -1,3 +1,4 @@
+#include "language/Numbers.h"
 #include "language/VltLanguageManager.h"
 #include "support/Cases.h"
 #include "support/Files.h"
@@ -55,6 +56,31 @@ class tst_Language : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void writesNumbersInTheLanguage_data()
+    {
+        // texts: 12040; 10.73 with 3 decimals fixed; 1000 and -0.04 with 1 at most; 1e6 / 3
+        const Cases<QString, QLocale, QString> row({"language", "user", "texts"});
+        row("English", "en", QLocale(u"de"_s), u"12,040|10.730|1,000|0|333,333"_s);
+        row("French", "fr", QLocale(u"en"_s), u"12\u202f040|10,730|1\u202f000|0|333\u202f333"_s);
+        row("the user's country", "en", QLocale(u"en_ZA"_s),
+            u"12\u00a0040|10,730|1\u00a0000|0|333\u00a0333"_s);
+    }
+
+    void writesNumbersInTheLanguage()
+    {
+        using namespace vlt::language;
+        QFETCH(QString, language);
+        QFETCH(QLocale, user);
+        VltLanguageManager::getInstance().defaultSetup({}, language, {});
+        QLocale::setDefault(user);
+        QTEST(QStringList({wholeNumber(12040), fixedNumber(10.73, 3), shortNumber(1000, 1),
+                           shortNumber(-0.04, 1), roundNumber(1e6 / 3)})
+                  .join(u'|'),
+              "texts");
+        QLocale::setDefault(QLocale::system());
+        VltLanguageManager::getInstance().defaultSetup({}, {}, {});
+    }
+
     void knowsALanguageByNameOrCode_data()
     {
         const Cases<QString, QString, bool> row({"name", "code", "reversed"});

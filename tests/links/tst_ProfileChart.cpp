@@ -53,17 +53,15 @@ class tst_ProfileChart : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { QLocale::setDefault(QLocale::c()); }
-
     // In the middle the zone has a radius of 11.18 m at 6 GHz and the bulge is 1.47 m.
     void statesTheFigures_data()
     {
         const Cases<double, double, QString> row({"hill", "frequency", "figures"});
         row("clear", 120, 6000,
-            u"10.000 km  \u2022  6 GHz  \u2022  clear  \u2022  5.00 km from A, 28.5 m free (255 %)"_s);
+            u"10 km  \u2022  6 GHz  \u2022  clear  \u2022  5 km from A, 28.5 m free (255 %)"_s);
         row("obstructed", 160, 6000,
-            u"10.000 km  \u2022  6 GHz  \u2022  obstructed  \u2022  5.00 km from A, terrain 11.5 m above the line"_s);
-        row("unknown", 120, 0, u"10.000 km  \u2022  unknown (no frequency)"_s);
+            u"10 km  \u2022  6 GHz  \u2022  obstructed  \u2022  5 km from A, terrain 11.5 m above the line"_s);
+        row("unknown", 120, 0, u"10 km  \u2022  unknown (no frequency)"_s);
     }
 
     void statesTheFigures()
@@ -78,19 +76,19 @@ private Q_SLOTS:
     {
         const Cases<geodata::LinkProfile, double, QString> row({"profile", "distanceM", "text"});
         row("hill", profile(120, 6000), 5000,
-            u"5.00 km from A\nground at 120.0 m\nline of sight at 150.0 m\n28.5 m free (255 % of the Fresnel zone)"_s);
+            u"5.00 km from A\nground at 120 m\nline of sight at 150 m\n28.5 m free (255 % of the Fresnel zone)"_s);
         row("slope", profile(120, 6000), 4950,
-            u"4.95 km from A\nground at 110.0 m\nline of sight at 150.0 m\n38.5 m free (345 % of the Fresnel zone)"_s);
+            u"4.95 km from A\nground at 110 m\nline of sight at 150 m\n38.5 m free (345 % of the Fresnel zone)"_s);
         row("cut", profile(160, 6000), 5000,
-            u"5.00 km from A\nground at 160.0 m\nline of sight at 150.0 m\nterrain 11.5 m above the line"_s);
+            u"5.00 km from A\nground at 160 m\nline of sight at 150 m\nterrain 11.5 m above the line"_s);
         row("no frequency", profile(120, 0), 2000,
-            u"2.00 km from A\nground at 100.0 m\nline of sight at 150.0 m\n49.1 m free"_s);
+            u"2.00 km from A\nground at 100 m\nline of sight at 150 m\n49.1 m free"_s);
         geodata::LinkProfile partly = profile(120, 6000);
         partly.path.points.erase(partly.path.points.begin() + 20, partly.path.points.begin() + 40);
         row("gap of the terrain", partly, 3000,
-            u"3.00 km from A\nno terrain\nline of sight at 150.0 m"_s);
+            u"3.00 km from A\nno terrain\nline of sight at 150 m"_s);
         partly.link.ends[1].heightM.reset();
-        row("no height", partly, 5000, u"5.00 km from A\nground at 120.0 m"_s);
+        row("no height", partly, 5000, u"5.00 km from A\nground at 120 m"_s);
     }
 
     void statesThePlacesOfThePath()

@@ -3,7 +3,6 @@
 #include "support/Cases.h"
 #include "support/GeoTiff.h"
 
-#include <QLocale>
 #include <QTemporaryDir>
 
 #include <osg/Group>
@@ -19,8 +18,6 @@ class tst_EarthPlaces : public QObject
     QTemporaryDir m_dir;
 
 private Q_SLOTS:
-    void initTestCase() { QLocale::setDefault(QLocale(QLocale::German)); }
-
     void statesPlaces_data()
     {
         // degrees by gdaltransform; the terrain rises by 1 m in 10 m to the east
@@ -28,15 +25,15 @@ private Q_SLOTS:
             {"system", "centre", "x", "y", "texts"});
         const char *lambert = "221598 6758871";
         row("on the terrain", 2154, lambert, 0, 0,
-            "RGF93 v1 / Lambert-93|221.598  6.758.871|47,75586° N  3,39222° W|ground 160 m");
+            "RGF93 v1 / Lambert-93|221,598  6,758,871|47.75586° N  3.39222° W|ground 160 m");
         row("between its pixels", 2154, lambert, 34, 0,
-            "RGF93 v1 / Lambert-93|221.632  6.758.871|47,75589° N  3,39176° W|ground 163 m");
+            "RGF93 v1 / Lambert-93|221,632  6,758,871|47.75589° N  3.39176° W|ground 163 m");
         row("beside it", 2154, lambert, -5000, 0,
-            "RGF93 v1 / Lambert-93|216.598  6.758.871|47,75220° N  3,45873° W");
+            "RGF93 v1 / Lambert-93|216,598  6,758,871|47.75220° N  3.45873° W");
         row("degrees", 4326, "-3.3922168 47.7558612", 0, 0,
-            "WGS 84|47,75586° N  3,39222° W|ground 160 m");
+            "WGS 84|47.75586° N  3.39222° W|ground 160 m");
         row("another quarter of the earth", 4326, "18.5 -33.25", 0, 0,
-            "WGS 84|33,25000° S  18,50000° E");
+            "WGS 84|33.25000° S  18.50000° E");
         row("nowhere", 0, "0 0", 0, 0, "");
     }
     void statesPlaces()

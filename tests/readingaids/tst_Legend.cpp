@@ -3,7 +3,6 @@
 #include "support/Cases.h"
 
 #include <QImage>
-#include <QLocale>
 
 using namespace Qt::StringLiterals;
 using namespace vlt::readingaids;
@@ -26,8 +25,6 @@ class tst_Legend : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { QLocale::setDefault(QLocale(QLocale::German)); }
-
     void keepsRows()
     {
         const std::vector<Row> rows = {{"sector", {255, 0, 16, 128}, {"1", "4"}},
@@ -47,16 +44,16 @@ private Q_SLOTS:
         row("sectors", "sector\tff0000ff\t1\t4\nsector\t00ff00ff\t2\n",
             ": Sectors 1, 4#ff0000, Sector 2#00ff00");
         row("links", "clear\t009e73ff\t1800\nfresnel\tffa50066\t1\t60\n",
-            ": clear: 1.800#009e73, 60 % of Fresnel zone 1#ffa500");
+            ": clear: 1,800#009e73, 60 % of Fresnel zone 1#ffa500");
         row("ranges",
             "map\t00000000\troofs\tlevel\tdBm\tranges\nstop\t000001ff\t-100\n"
             "stop\t000002ff\t-92.5\nstop\t000003ff\t-80\nnovalue\tc8c8c8ff\n",
-            "Roofs: level (dBm): \u2265 -80,0#000003, -92,5 \u2026 -80,0#000002, "
-            "< -92,5#000001, no value#c8c8c8");
+            "Roofs: level (dBm): \u2265 -80.0#000003, -92.5 \u2026 -80.0#000002, "
+            "< -92.5#000001, no value#c8c8c8");
         row("a map and images",
             "map\t00000000\t\tlevel\t\tgradient\nstop\t000001ff\t1e3\n"
             "image\t00000000\t1.5\tlow\nimage\t00000000\t12\thigh\n",
-            "level: |Images by height: 1,5 m: low, 12 m: high");
+            "level: |Images by height: 1.5 m: low, 12 m: high");
         row("unknown rows and damaged colors", "future\tff0000ff\nclear\tff\t1\n\t\nclear", "");
         row("rows without their start", "stop\tff0000ff\tx\nvalue\tff0000ff\n", ": #ff0000");
     }
@@ -77,7 +74,7 @@ private Q_SLOTS:
     {
         const Cases<QList<double>, QString> row({"stops", "ticks"});
         row("decibels", {-107, -80, -71}, "-100 -90 -80");
-        row("fractions", {0, 0.25, 1}, "0,0 0,2 0,4 0,6 0,8 1,0");
+        row("fractions", {0, 0.25, 1}, "0.0 0.2 0.4 0.6 0.8 1.0");
         row("one value", {7}, "7");
         row("decades: the values themselves", {0, 1, 10, 100, 1000}, "0 1 10 100 1000");
         row("two colors for a value", {0, 50, 50, 100}, "0 20 40 60 80 100");
@@ -91,7 +88,7 @@ private Q_SLOTS:
         QStringList texts;
         double last = -1;
         for (const double tick : ticks) {
-            texts << tickText(tick, step).remove(u'.').replace(QChar(0x2212), u'-');
+            texts << tickText(tick, step).remove(u',').replace(QChar(0x2212), u'-');
             const double share = ramp.shareOf(tick);
             QVERIFY(share > last && share <= 1);
             last = share;

@@ -1,8 +1,6 @@
 #include "readingaids/ViewScale.h"
 #include "support/Cases.h"
 
-#include <QLocale>
-
 using namespace Qt::StringLiterals;
 using namespace vlt::readingaids;
 
@@ -11,8 +9,6 @@ class tst_ViewScale : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { QLocale::setDefault(QLocale(QLocale::German)); }
-
     void findsTheLengthOfTheBar_data()
     {
         const Cases<double, double, double, QString> row(
@@ -20,7 +16,7 @@ private Q_SLOTS:
         row("exactly 100 m", 1, 100, 100, "100 m");
         row("just below", 1, 99.9, 50, "50 m");
         row("two", 0.1, 45, 2, "2 m");
-        row("decimals of the locale", 0.01, 60, 0.5, "0,5 m");
+        row("decimals of the language", 0.01, 60, 0.5, "0.5 m");
         row("kilometres", 10, 240, 2000, "2 km");
         row("a country", 5000, 130, 500000, "500 km");
         row("inside a point", 1e-6, 100, 0, "");

@@ -1,5 +1,6 @@
 #include "links/ui/LinkReportModel.h"
 
+#include "language/Numbers.h"
 #include "links/ClearanceText.h"
 #include "text/RichText.h"
 
@@ -17,7 +18,7 @@ namespace vlt::links {
 namespace {
 
 constexpr double MetresPerKm = 1000;
-constexpr double HzPerMHz = 1e6;
+constexpr int HzDecimals = 6; ///< of megahertz: 6.0292 GHz are 6029.2 MHz, not 6029.200000000001
 
 QIcon clearanceIcon(linkpath::ClearanceStatus status)
 {
@@ -126,14 +127,11 @@ QVariant LinkReportModel::text(const geodata::LinkReport &link, int column) cons
     case Row:
         return link.row;
     case Length:
-        return link.lengthM ? m_locale.toString(*link.lengthM / MetresPerKm, 'f', KmDecimals)
+        return link.lengthM ? language::fixedNumber(*link.lengthM / MetresPerKm, KmDecimals)
                             : QString();
     case Frequency:
-        // Rounded to hertz: 6.0292 GHz are 6029.2 MHz, not 6029.200000000001.
-        return link.frequencyMHz
-                   ? m_locale.toString(std::round(*link.frequencyMHz * HzPerMHz) / HzPerMHz, 'f',
-                                       QLocale::FloatingPointShortest)
-                   : QString();
+        return link.frequencyMHz ? language::shortNumber(*link.frequencyMHz, HzDecimals)
+                                 : QString();
     case ClearanceStatus:
         return clearanceText(link.clearance.status);
     case Worst:

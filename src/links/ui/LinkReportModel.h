@@ -3,7 +3,6 @@
 #include "geodata/LinkCheck.h"
 
 #include <QAbstractTableModel>
-#include <QLocale>
 
 namespace vlt::links {
 
@@ -40,7 +39,6 @@ private:
     void arrange(const QList<geodata::LinkReport> &links);
     void sortLinks();
 
-    QLocale m_locale;
     QList<geodata::LinkReport> m_links;
     int m_sortColumn = ClearanceStatus;
     Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
