@@ -7,6 +7,7 @@
 #include "plugins/scene/mesh/DeferredNode.h"
 #include "plugins/scene/mesh/MovedNode.h"
 #include "plugins/scene/mesh/Palette.h"
+#include "plugins/scene/pylon/EdgedState.h"
 #include "plugins/scene/pylon/PylonFactory.h"
 #include "plugins/scene/pylon/Sectors.h"
 #include "plugins/scene/reading/ObjectRanges.h"
@@ -27,7 +28,6 @@ namespace vlt::scene {
 namespace {
 
 constexpr std::size_t SitesPerBlock = 4096; ///< maximum in one drawable of dots
-constexpr double CoarseArcDeg = 40;
 constexpr double LabelRoom = 7; ///< distance up to which a name is visible / that to its neighbour
 constexpr double LabelGapM = 4;
 constexpr double RodM = 4; ///< more than the height of any part above a mast
@@ -61,7 +61,14 @@ struct Content
                          records.sites.size() <= MaxCoarseSitesAtOnce)
         , hasSymbols(made == TileContent::WhenDrawn && records.sites.size() <= MaxSymbols)
         , factory(isWholeAtOnce ? PreciseModel::AtOnce : PreciseModel::WhenNeeded)
-    {}
+        , coarseOpaque(factory.materials().opaqueSector)
+        , coarseTranslucent(factory.materials().translucentSector)
+    {
+        if (!hasSymbols)
+            return;
+        coarseOpaque = makeEdgedState(*coarseOpaque);
+        coarseTranslucent = makeEdgedState(*coarseTranslucent);
+    }
 
     PylonRecords records;
     bool isPickable;
@@ -72,6 +79,8 @@ struct Content
     SiteLabels labels;
     std::mutex guard; ///< several threads may cull
     PylonFactory factory;
+    osg::ref_ptr<osg::StateSet> coarseOpaque; ///< of sectors
+    osg::ref_ptr<osg::StateSet> coarseTranslucent;
     osg::ref_ptr<osg::StateSet> dotState = makeDotState();
 
     std::size_t pylonsMade = 0;     ///< precise ones, in all tiles
@@ -149,7 +158,7 @@ osg::ref_ptr<osg::Node> makeLabels(Content &content, const Sites &sites, const o
     return group;
 }
 
-osg::Drawable *addDrawable(osg::Geode &geode, const Mesh &mesh, osg::StateSet *state)
+osg::Geometry *addDrawable(osg::Geode &geode, const Mesh &mesh, osg::StateSet *state)
 {
     if (mesh.empty())
         return nullptr;
@@ -164,13 +173,20 @@ osg::Drawable *addDrawable(osg::Geode &geode, const Mesh &mesh, osg::StateSet *s
 struct Wedges
 {
     Mesh mesh;
+    osg::ref_ptr<osg::Vec2Array> places; ///< see addCoarseSector()
     ObjectRanges ranges;
+
+    explicit Wedges(bool haveEdges) : places(haveEdges ? new osg::Vec2Array : nullptr) {}
 
     void begin(std::uint32_t site) { ranges.begin(site, mesh.indices().size()); }
 
     void addTo(osg::Geode &geode, osg::StateSet *state, bool isPickable) const
     {
-        osg::Drawable *drawable = addDrawable(geode, mesh, state);
+        osg::Geometry *drawable = addDrawable(geode, mesh, state);
+        if (drawable && places) {
+            drawable->setTexCoordArray(0, places);
+            drawable->setNormalArray(nullptr); // sectors have no light
+        }
         if (drawable && isPickable)
             ranges.addTo(*drawable);
     }
@@ -185,14 +201,13 @@ Color forOneWall(Color color)
     return color;
 }
 
-/// Masts as lines and coarse sectors, in few drawables for a whole tile.
+/// Masts as lines and coarse sectors with edges, in few drawables for a whole tile.
 osg::ref_ptr<osg::Node> makeCoarse(const Content &content, const Sites &sites,
                                    const osg::Vec3d &origin)
 {
     Mesh masts(Mesh::Kind::Lines);
-    Mesh noEdges(Mesh::Kind::Lines);
-    Wedges opaque;
-    Wedges translucent;
+    Wedges opaque(content.hasSymbols);
+    Wedges translucent(content.hasSymbols);
     for (const std::uint32_t site : sites) {
         const osg::Vec3d foot = content.records.sites[site].foot - origin;
         const PylonDesign &design = content.designOf(site);
@@ -200,11 +215,11 @@ osg::ref_ptr<osg::Node> makeCoarse(const Content &content, const Sites &sites,
         translucent.begin(site);
         double top = design.heightM;
         for (Sector sector : stackSectors(design)) {
-            Mesh &fill = (sector.color.a() < 255 ? translucent : opaque).mesh;
+            Wedges &wedges = sector.color.a() < 255 ? translucent : opaque;
             top = std::max(top, sector.bottomM + sector.heightM);
             sector.color = forOneWall(sector.color);
             sector.azimuthDeg += content.records.sites[site].northDeg;
-            addSector(fill, noEdges, sector, foot, CoarseArcDeg);
+            addCoarseSector(wedges.mesh, wedges.places, sector, foot);
         }
         const unsigned low = masts.vertex(foot, {}, palette::Galvanised);
         masts.line(low, masts.vertex(foot + osg::Vec3d(0, 0, top), {}, palette::Galvanised));
@@ -212,8 +227,8 @@ osg::ref_ptr<osg::Node> makeCoarse(const Content &content, const Sites &sites,
     const SceneMaterials &materials = content.factory.materials();
     osg::ref_ptr<osg::Geode> geode = new osg::Geode;
     addDrawable(*geode, masts, materials.sectorEdges);
-    opaque.addTo(*geode, materials.opaqueSector, content.isPickable);
-    translucent.addTo(*geode, materials.translucentSector, content.isPickable);
+    opaque.addTo(*geode, content.coarseOpaque, content.isPickable);
+    translucent.addTo(*geode, content.coarseTranslucent, content.isPickable);
     return geode;
 }
 

@@ -1,5 +1,6 @@
 #include "plugins/scene/pylon/Sectors.h"
 
+#include "plugins/scene/mesh/Palette.h"
 #include "plugins/scene/mesh/Solids.h"
 
 #include <algorithm>
@@ -18,14 +19,6 @@ double beamWidth(const Transmitter &transmitter)
     if (transmitter.beamWidthDeg > 0)
         return transmitter.beamWidthDeg;
     return transmitter.kind == AntennaKind::Dish ? DefaultDishBeamDeg : DefaultBeamWidthDeg;
-}
-
-Color scaled(const Color &color, double share)
-{
-    const auto part = [share](unsigned char value) {
-        return static_cast<unsigned char>(std::lround(value * share));
-    };
-    return {part(color.r()), part(color.g()), part(color.b()), color.a()};
 }
 
 /// Corners of the arc of a wedge, clockwise; those of a full circle end with the first one.
@@ -50,54 +43,85 @@ struct Wedge
     bool whole;
 };
 
-/// Adds the top or the bottom.
-void addFan(Mesh &fill, const Wedge &wedge, bool top, const Color &color)
+/// Places on a face: both are 0 or 1 at its edges.
+struct Faces
+{
+    Mesh &fill;
+    osg::Vec2Array *places; ///< null: none
+
+    unsigned vertex(const osg::Vec3d &at, const osg::Vec3d &normal, const Color &color,
+                    const osg::Vec2 &place)
+    {
+        if (places)
+            places->push_back(place);
+        return fill.vertex(at, normal, color);
+    }
+};
+
+/// Place of a corner along the arc of a wedge; a circle has no ends.
+float alongArc(const Wedge &wedge, std::size_t corner)
+{
+    return wedge.whole ? 0.5F
+                       : static_cast<float>(corner) / static_cast<float>(wedge.arc.size() - 1);
+}
+
+/// Adds the top or the bottom: two halves, because the middle lies on both arms.
+void addFan(Faces &faces, const Wedge &wedge, bool top, const Color &color)
 {
     const osg::Vec3d normal(0, 0, top ? 1 : -1);
     const osg::Vec3d centre = top ? wedge.high : wedge.low;
-    const unsigned middle = fill.vertex(centre, normal, color);
-    unsigned last = fill.vertex(centre + wedge.arc.front(), normal, color);
+    const auto corner = [&](std::size_t i) {
+        return faces.vertex(centre + wedge.arc[i], normal, color, {alongArc(wedge, i), 0});
+    };
+    const auto tip = [&](std::size_t arm) {
+        return faces.vertex(centre, normal, color, {alongArc(wedge, arm), 0.5F});
+    };
+    unsigned middle = tip(0);
+    unsigned last = corner(0);
     for (std::size_t i = 1; i < wedge.arc.size(); ++i) {
-        const unsigned next = fill.vertex(centre + wedge.arc[i], normal, color);
+        if (faces.places && i == wedge.arc.size() / 2 + 1)
+            middle = tip(wedge.arc.size() - 1);
+        const unsigned next = corner(i);
         if (top)
-            fill.triangle(middle, next, last);
+            faces.fill.triangle(middle, next, last);
         else
-            fill.triangle(middle, last, next);
+            faces.fill.triangle(middle, last, next);
         last = next;
     }
 }
 
 /// Adds the wall along the arc.
-void addWall(Mesh &fill, const Wedge &wedge, const Color &color)
+void addWall(Faces &faces, const Wedge &wedge, const Color &color)
 {
     unsigned last = 0;
     for (std::size_t i = 0; i < wedge.arc.size(); ++i) {
         osg::Vec3d normal = wedge.arc[i];
         normal.normalize();
-        const unsigned next = fill.vertex(wedge.low + wedge.arc[i], normal, color);
-        fill.vertex(wedge.high + wedge.arc[i], normal, color);
+        const float along = alongArc(wedge, i);
+        const unsigned next = faces.vertex(wedge.low + wedge.arc[i], normal, color, {along, 0});
+        faces.vertex(wedge.high + wedge.arc[i], normal, color, {along, 1});
         if (i > 0)
-            fill.quad(next, last, last + 1, next + 1);
+            faces.fill.quad(next, last, last + 1, next + 1);
         last = next;
     }
 }
 
 /// Adds one of the two straight walls; `left` as seen from the mast.
-void addSide(Mesh &fill, const Wedge &wedge, bool left, const Color &color)
+void addSide(Faces &faces, const Wedge &wedge, bool left, const Color &color)
 {
     const osg::Vec3d &arm = left ? wedge.arc.front() : wedge.arc.back();
     osg::Vec3d normal(arm.y(), -arm.x(), 0); // to the right of the arm
     normal.normalize();
     if (left)
         normal = -normal;
-    const unsigned a = fill.vertex(wedge.low, normal, color);
-    const unsigned b = fill.vertex(wedge.low + arm, normal, color);
-    const unsigned c = fill.vertex(wedge.high + arm, normal, color);
-    const unsigned d = fill.vertex(wedge.high, normal, color);
+    const unsigned a = faces.vertex(wedge.low, normal, color, {0, 0});
+    const unsigned b = faces.vertex(wedge.low + arm, normal, color, {1, 0});
+    const unsigned c = faces.vertex(wedge.high + arm, normal, color, {1, 1});
+    const unsigned d = faces.vertex(wedge.high, normal, color, {0, 1});
     if (left)
-        fill.quad(b, a, d, c);
+        faces.fill.quad(b, a, d, c);
     else
-        fill.quad(a, b, c, d);
+        faces.fill.quad(a, b, c, d);
 }
 
 void addEdges(Mesh &edges, const Wedge &wedge, const Color &color)
@@ -169,26 +193,41 @@ std::vector<Sector> stackSectors(const PylonDesign &pylon)
     return placed;
 }
 
-void addSector(Mesh &fill, Mesh &edges, const Sector &sector, const osg::Vec3d &foot,
-               double arcStepDeg)
+namespace {
+
+Wedge addFaces(Faces faces, const Sector &sector, const osg::Vec3d &foot, double arcStepDeg)
 {
     // A view through a wedge passes two walls, which together have the opacity of the colour.
     Color color = sector.color;
     const double through = std::sqrt(1 - color.a() / 255.0);
     color.a() = static_cast<unsigned char>(std::lround(255 * (1 - through)));
-    const Wedge wedge{foot + osg::Vec3d(0, 0, sector.bottomM),
-                      foot + osg::Vec3d(0, 0, sector.bottomM + sector.heightM),
-                      arcOf(sector, arcStepDeg), sector.beamWidthDeg >= WholeTurnDeg};
-    addFan(fill, wedge, true, color);
-    addFan(fill, wedge, false, scaled(color, 0.7));
-    addWall(fill, wedge, scaled(color, 0.84));
+    Wedge wedge{foot + osg::Vec3d(0, 0, sector.bottomM),
+                foot + osg::Vec3d(0, 0, sector.bottomM + sector.heightM), arcOf(sector, arcStepDeg),
+                sector.beamWidthDeg >= WholeTurnDeg};
+    addFan(faces, wedge, true, color);
+    addFan(faces, wedge, false, palette::darkened(color, 0.7));
+    addWall(faces, wedge, palette::darkened(color, 0.84));
     if (!wedge.whole) {
-        addSide(fill, wedge, true, scaled(color, 0.76));
-        addSide(fill, wedge, false, scaled(color, 0.76));
+        addSide(faces, wedge, true, palette::darkened(color, 0.76));
+        addSide(faces, wedge, false, palette::darkened(color, 0.76));
     }
-    Color edge = scaled(sector.color, 0.55);
-    edge.a() = 255;
-    addEdges(edges, wedge, edge);
+    return wedge;
+}
+
+} // namespace
+
+void addSector(Mesh &fill, Mesh &edges, const Sector &sector, const osg::Vec3d &foot)
+{
+    constexpr double FineArcDeg = 5;
+    addEdges(edges, addFaces({fill, nullptr}, sector, foot, FineArcDeg),
+             palette::edgeOf(sector.color));
+}
+
+void addCoarseSector(Mesh &fill, osg::Vec2Array *places, const Sector &sector,
+                     const osg::Vec3d &foot)
+{
+    constexpr double CoarseArcDeg = 40;
+    addFaces({fill, places}, sector, foot, CoarseArcDeg);
 }
 
 } // namespace vlt::scene

@@ -34,9 +34,12 @@ std::vector<Sector> stackSectors(const PylonDesign &pylon);
 ///
 /// @param fill, edges  receive solids and lines, for the states of SceneMaterials
 /// @param foot         foot of the mast, in the frame of the meshes
-/// @param arcStepDeg   maximum length of a piece of the arc: a wedge of 65 degrees has 70 vertices
-///                     at 5 degrees and 38 at 15
-void addSector(Mesh &fill, Mesh &edges, const Sector &sector, const osg::Vec3d &foot,
-               double arcStepDeg = 5);
+void addSector(Mesh &fill, Mesh &edges, const Sector &sector, const osg::Vec3d &foot);
+
+/// Adds a wedge with half the vertices, for the states of makeEdgedState().
+///
+/// @param places  receives the place of each vertex on its face; null: nothing
+void addCoarseSector(Mesh &fill, osg::Vec2Array *places, const Sector &sector,
+                     const osg::Vec3d &foot);
 
 } // namespace vlt::scene
