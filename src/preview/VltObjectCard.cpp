@@ -89,7 +89,8 @@ void VltObjectCard::place()
     QTextDocument &page = *m_pwTbPage->document();
     page.setTextWidth(mostWidth - aside);
     const bool isCut = page.idealWidth() > mostWidth - aside;
-    const int width = isCut ? mostWidth : static_cast<int>(std::ceil(page.idealWidth())) + aside;
+    const int room = static_cast<int>(std::ceil(page.idealWidth() + 2 * page.documentMargin()));
+    const int width = isCut ? mostWidth : std::min(room + aside, mostWidth);
     const int height = static_cast<int>(std::ceil(page.size().height())) + 2 * frameWidth();
     resize(width, std::min(height + (isCut ? scrollBar : 0), mostHeight));
     const bool isLeft = m_object.x() < view.width() / 2.0;
