@@ -105,9 +105,8 @@ void makeFootprints(const std::string &file, int buildings)
     }
 }
 
-void makeTerrain(const std::string &file, int buildings)
+void makeTerrain(const std::string &file, double halfM)
 {
-    const double halfM = Town(buildings).halfM() + 500;
     const int size = static_cast<int>(2 * halfM / PixelM);
     GDALDriver *driver = GetGDALDriverManager()->GetDriverByName("GTiff");
     const GDALDatasetUniquePtr dataset(
@@ -161,12 +160,17 @@ int main(int argc, char **argv)
     if (task == "make" && argc == 5) {
         const int buildings = std::atoi(argv[4]);
         makeFootprints(argv[2], buildings);
-        makeTerrain(argv[3], buildings);
+        makeTerrain(argv[3], Town(buildings).halfM() + 500);
+        return 0;
+    }
+    if (task == "terrain" && argc == 4) {
+        makeTerrain(argv[2], std::atof(argv[3]));
         return 0;
     }
     if (task == "gdal" && argc == 3)
         return readAlone(argv[2]);
     std::fputs("usage: bench_buildings make FILE.shp TERRAIN.tif BUILDINGS\n"
+               "       bench_buildings terrain TERRAIN.tif HALF-WIDTH-M\n"
                "       bench_buildings gdal FILE.shp\n",
                stderr);
     return 2;
