@@ -4,7 +4,6 @@
 #include "localfiles/LocalFormats.h"
 #include "localfiles/NoNetwork.h"
 #include "localfiles/OpenLocal.h"
-#include "localfiles/ReducedRead.h"
 
 #include <cpl_error.h>
 
@@ -17,8 +16,7 @@ namespace vlt::landscape {
 
 namespace {
 
-constexpr int MaxSide = 2048; ///< of a part, in pixels
-constexpr double Opaque = 255;
+constexpr int MaxSide = 2048;              ///< of a part, in pixels
 constexpr double MaxBlockPixels = 1 << 24; ///< of a block of the file, which is read whole
 
 bool hasLargeBlocks(GDALDataset &file)
@@ -108,55 +106,10 @@ contract::Opened<std::unique_ptr<Imagery>> Imagery::open(const std::string &path
 
 Imagery::Imagery(GDALDatasetUniquePtr file, IntoRaster intoRaster, const double (&toPixel)[6])
     : m_file(std::move(file))
+    , m_picture(*m_file)
     , m_intoRaster(std::move(intoRaster))
 {
     std::copy(std::begin(toPixel), std::end(toPixel), m_toPixel);
-    findBands();
-    findRange();
-}
-
-void Imagery::findBands()
-{
-    const int number = m_file->GetRasterCount();
-    const auto bandOf = [&](GDALColorInterp meaning) {
-        int band = number;
-        while (band > 0 && m_file->GetRasterBand(band)->GetColorInterpretation() != meaning)
-            --band;
-        return band;
-    };
-    m_opacityBand = bandOf(GCI_AlphaBand);
-    m_bands = {bandOf(GCI_RedBand), bandOf(GCI_GreenBand), bandOf(GCI_BlueBand)};
-    if (std::find(m_bands.begin(), m_bands.end(), 0) == m_bands.end())
-        return;
-    const int colors = number - (m_opacityBand > 0 ? 1 : 0);
-    m_bands = colors >= 3 ? std::vector<int>{1, 2, 3} : std::vector<int>{1};
-}
-
-/// Values that are no bytes have the range of those that occur, without the extreme hundredths.
-void Imagery::findRange()
-{
-    constexpr int Samples = 256; // in a row
-    if (m_file->GetRasterBand(1)->GetRasterDataType() == GDT_Byte)
-        return;
-    const int columns = std::min(Samples, m_file->GetRasterXSize());
-    const int rows = std::min(Samples, m_file->GetRasterYSize());
-    std::vector<float> values;
-    if (!localfiles::readReduced(
-            *m_file, m_bands,
-            {0, 0, m_file->GetRasterXSize(), m_file->GetRasterYSize(), columns, rows},
-            GRIORA_NearestNeighbour, values))
-        return;
-    int hasNoData = 0;
-    const double noData = m_file->GetRasterBand(1)->GetNoDataValue(&hasNoData);
-    std::erase_if(values, [&](float value) {
-        return !std::isfinite(value) || (hasNoData && double{value} == noData);
-    });
-    if (values.empty())
-        return;
-    std::sort(values.begin(), values.end());
-    const std::size_t tail = values.size() / 100;
-    m_black = double{values[tail]};
-    m_white = std::max(double{values[values.size() - 1 - tail]}, m_black + 1e-6);
 }
 
 Imagery::Part Imagery::read(const RasterPlaces &places) const
@@ -188,75 +141,8 @@ Imagery::Part Imagery::read(const RasterPlaces &places) const
     Part part{{static_cast<int>(left), static_cast<int>(top), static_cast<int>(right - left),
                static_cast<int>(bottom - top), number(right - left), number(bottom - top)},
               {}};
-    const bool isPalette = m_bands.size() == 1 && m_file->GetRasterBand(1)->GetColorTable();
-    std::vector<float> values;
-    if (localfiles::readReduced(*m_file, m_bands, part.of,
-                                isPalette ? GRIORA_NearestNeighbour : GRIORA_Average, values))
-        fill(part, values);
+    part.rgba = m_picture.read(part.of);
     return part;
-}
-
-void Imagery::fill(Part &part, const std::vector<float> &values) const
-{
-    const std::vector<float> opaque = opacity(part);
-    const std::size_t pixels = opaque.size();
-    const GDALColorTable *palette =
-        m_bands.size() == 1 ? m_file->GetRasterBand(1)->GetColorTable() : nullptr;
-    part.rgba.resize(4 * pixels);
-    for (std::size_t i = 0; i < pixels; ++i) {
-        unsigned char *rgba = part.rgba.data() + 4 * i;
-        rgba[3] = toByte(double{opaque[i]});
-        if (palette) {
-            const GDALColorEntry *entry = palette->GetColorEntry(static_cast<int>(values[i]));
-            const GDALColorEntry none{0, 0, 0, 0};
-            const GDALColorEntry &color = entry ? *entry : none;
-            rgba[0] = toByte(color.c1);
-            rgba[1] = toByte(color.c2);
-            rgba[2] = toByte(color.c3);
-            rgba[3] = std::min(rgba[3], toByte(color.c4));
-            continue;
-        }
-        for (std::size_t band = 0; band < 3; ++band) {
-            const float value = values[std::min(band, m_bands.size() - 1) * pixels + i];
-            if (!std::isfinite(value))
-                rgba[3] = 0;
-            else
-                rgba[band] = toByte((double{value} - m_black) / (m_white - m_black) * 255);
-        }
-    }
-}
-
-/// [rows][columns] 0 .. 255
-std::vector<float> Imagery::opacity(const Part &part) const
-{
-    const auto pixels =
-        static_cast<std::size_t>(part.of.columns) * static_cast<std::size_t>(part.of.rows);
-    std::vector<float> found(pixels, Opaque);
-    GDALRasterBand &first = *m_file->GetRasterBand(m_bands.front());
-    if (m_opacityBand > 0) {
-        if (!localfiles::readReduced(*m_file, {m_opacityBand}, part.of, GRIORA_Average, found))
-            return std::vector<float>(pixels, 0.0F);
-        const double most =
-            m_file->GetRasterBand(m_opacityBand)->GetRasterDataType() == GDT_UInt16 ? 65535 : 255;
-        for (float &value : found)
-            value = static_cast<float>(double{value} * Opaque / most);
-    } else if (first.GetMaskFlags() == GMF_PER_DATASET) {
-        localfiles::readReduced(*m_file, {localfiles::MaskBand}, part.of, GRIORA_Average, found);
-    } else if (first.GetMaskFlags() == GMF_NODATA) {
-        // a pixel is empty where all bands are
-        std::vector<float> values;
-        int hasNoData = 0;
-        const double noData = first.GetNoDataValue(&hasNoData);
-        if (!localfiles::readReduced(*m_file, m_bands, part.of, GRIORA_NearestNeighbour, values))
-            return found;
-        for (std::size_t i = 0; i < pixels; ++i) {
-            bool isEmpty = true;
-            for (std::size_t band = 0; band < m_bands.size(); ++band)
-                isEmpty = isEmpty && double{values[band * pixels + i]} == noData;
-            found[i] = isEmpty ? 0 : found[i];
-        }
-    }
-    return found;
 }
 
 std::vector<unsigned char> Imagery::colors(const Square &square, int cells) const

@@ -2,6 +2,7 @@
 
 #include "contract/Opened.h"
 #include "landscape/RasterPlaces.h"
+#include "localfiles/RasterPicture.h"
 
 #include <gdal_priv.h>
 
@@ -30,19 +31,12 @@ private:
     struct Part; ///< of the file, at the resolution of a picture
 
     Imagery(GDALDatasetUniquePtr file, IntoRaster intoRaster, const double (&toPixel)[6]);
-    void findBands();
-    void findRange();
     Part read(const RasterPlaces &places) const;
-    void fill(Part &part, const std::vector<float> &values) const;
-    std::vector<float> opacity(const Part &part) const;
 
     GDALDatasetUniquePtr m_file;
+    localfiles::RasterPicture m_picture;
     IntoRaster m_intoRaster;
     double m_toPixel[6];
-    std::vector<int> m_bands; ///< one (gray or palette) or three
-    int m_opacityBand = 0;    ///< 0: none
-    double m_black = 0;       ///< values of black and white
-    double m_white = 255;
 };
 
 } // namespace vlt::landscape
