@@ -86,6 +86,23 @@ bool isVirtualRaster(const QString &path)
         QFile::encodeName(QFileInfo(path).absoluteFilePath()).toStdString());
 }
 
+RasterSummary rasterSummary(GDALDataset &dataset)
+{
+    RasterSummary summary;
+    summary.columns = dataset.GetRasterXSize();
+    summary.rows = dataset.GetRasterYSize();
+    summary.bandCount = dataset.GetRasterCount();
+    if (GDALRasterBand *band = summary.bandCount > 0 ? dataset.GetRasterBand(1) : nullptr)
+        summary.noData = declaredNoData(*band);
+    summary.bands = bandTexts(dataset);
+    summary.isColorPicture = localfiles::isColorPicture(dataset);
+    summary.holdsColors = localfiles::holdsColors(dataset);
+    summary.system = systemInfo(dataset.GetSpatialRef());
+    summary.extent = extentOf(dataset);
+    summary.subdatasets = subdatasets(dataset);
+    return summary;
+}
+
 Result<RasterSummary> readRasterSummary(const QString &path, const QString &part)
 {
     const ErrorCollector errors;
@@ -94,20 +111,7 @@ Result<RasterSummary> readRasterSummary(const QString &path, const QString &part
     if (!dataset)
         return cannotOpen(errors, path);
     keepFromSaving(*dataset);
-
-    RasterSummary summary;
-    summary.columns = dataset->GetRasterXSize();
-    summary.rows = dataset->GetRasterYSize();
-    summary.bandCount = dataset->GetRasterCount();
-    if (GDALRasterBand *band = summary.bandCount > 0 ? dataset->GetRasterBand(1) : nullptr)
-        summary.noData = declaredNoData(*band);
-    summary.bands = bandTexts(*dataset);
-    summary.isColorPicture = localfiles::isColorPicture(*dataset);
-    summary.holdsColors = localfiles::holdsColors(*dataset);
-    summary.system = systemInfo(dataset->GetSpatialRef());
-    summary.extent = extentOf(*dataset);
-    summary.subdatasets = subdatasets(*dataset);
-    return summary;
+    return rasterSummary(*dataset);
 }
 
 Stoppable<std::optional<double>> guessedNoData(const QString &path, const Progress &progress,

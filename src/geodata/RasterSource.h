@@ -10,6 +10,8 @@
 
 #include <optional>
 
+class GDALDataset;
+
 namespace vlt::geodata {
 
 /// Properties of a raster that are known without reading its pixels.
@@ -29,6 +31,9 @@ struct RasterSummary
 
 /// Whether a local file is a virtual raster. Such a file only names other files and is not opened.
 bool isVirtualRaster(const QString &path);
+
+/// The summary of an open raster.
+RasterSummary rasterSummary(GDALDataset &dataset);
 
 /// Reads the summary of a local raster (file or folder) with the formats for local files.
 ///

@@ -79,5 +79,9 @@
         <source>no image matches the filter</source>
         <translation>no image matches the filter</translation>
     </message>
+    <message id="MESS_IMAGE_UNREADABLE">
+        <source>This image cannot be read</source>
+        <translation>This image cannot be read</translation>
+    </message>
 </context>
 </TS>

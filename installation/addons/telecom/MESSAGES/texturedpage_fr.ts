@@ -79,5 +79,9 @@
         <source>no image matches the filter</source>
         <translation>aucune image ne correspond au filtre</translation>
     </message>
+    <message id="MESS_IMAGE_UNREADABLE">
+        <source>This image cannot be read</source>
+        <translation>Cette image est illisible</translation>
+    </message>
 </context>
 </TS>
