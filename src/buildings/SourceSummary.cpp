@@ -71,11 +71,21 @@ bool meets(const Extent &a, const Extent &b)
     return a.minX <= b.maxX && b.minX <= a.maxX && a.minY <= b.maxY && b.minY <= a.maxY;
 }
 
-QString coverText(const Extent &terrain, const Extent &buildings)
+/// Whether a raster covers the extent of a layer; empty if this is not known.
+QString coverText(const geodata::RasterSummary &raster, const geodata::PolygonLayer &layer,
+                  const std::optional<Extent> &extent)
 {
-    if (contains(terrain, buildings))
+    if (!raster.extent || !extent || !extent->isPlaced())
+        return {};
+    const bool isSameSystem =
+        !raster.system.name.isEmpty() && raster.system.name == layer.system.name;
+    const std::optional<Extent> buildings =
+        isSameSystem ? extent : geodata::extentIn(raster.system, *extent, layer.system);
+    if (!buildings)
+        return {};
+    if (contains(*raster.extent, *buildings))
         return dico_label("MESS_DTM_COVERS", "covers the buildings");
-    return meets(terrain, buildings)
+    return meets(*raster.extent, *buildings)
                ? dico_label("MESS_DTM_COVERS_PART", "covers only a part of the buildings")
                : dico_label("MESS_DTM_COVERS_NONE", "does not cover the buildings");
 }
@@ -122,14 +132,29 @@ QString terrainSummary(const geodata::RasterSummary &terrain, const geodata::Pol
         dico_label("MESS_PIXEL_COUNT", "%1 \u00d7 %2 pixels")
             .arg(QLocale().toString(terrain.columns), QLocale().toString(terrain.rows)),
         systemText(terrain.system)};
-    if (layer != nullptr && terrain.extent && extent && extent->isPlaced()) {
-        const bool isSameSystem =
-            !terrain.system.name.isEmpty() && terrain.system.name == layer->system.name;
-        const std::optional<Extent> buildings =
-            isSameSystem ? extent : geodata::extentIn(terrain.system, *extent, layer->system);
-        if (buildings)
-            parts << coverText(*terrain.extent, *buildings);
+    if (layer != nullptr)
+        parts << coverText(terrain, *layer, extent);
+    parts.removeAll(QString());
+    return parts.join(Separator);
+}
+
+QString imageSummary(const geodata::RasterSummary &image, const geodata::PolygonLayer *layer,
+                     const std::optional<Extent> &extent)
+{
+    if (!image.extent)
+        return dico_label("MESS_IMAGE_NOT_PLACED",
+                          "no position on the ground: it cannot be shown on buildings");
+    const bool isAlike = image.system.name.isEmpty() && layer != nullptr;
+    QStringList parts{sizeText(*image.extent, isAlike ? layer->system : image.system),
+                      systemText(image.system)};
+    if (layer != nullptr) {
+        // the scene, too, takes an image without a system as one in that of the buildings
+        geodata::RasterSummary placed = image;
+        if (isAlike)
+            placed.system = layer->system;
+        parts << coverText(placed, *layer, extent);
     }
+    parts.removeAll(QString());
     return parts.join(Separator);
 }
 

@@ -35,4 +35,12 @@ QString layerSummary(const geodata::PolygonLayer &layer,
 QString terrainSummary(const geodata::RasterSummary &terrain, const geodata::PolygonLayer *layer,
                        const std::optional<geodata::Extent> &extent);
 
+/// One line about an image for buildings: the size of its area, its coordinate system, whether it
+/// covers the buildings; or that it has no position.
+///
+/// @param layer   of the buildings; null if it is not known
+/// @param extent  of the layer
+QString imageSummary(const geodata::RasterSummary &image, const geodata::PolygonLayer *layer,
+                     const std::optional<geodata::Extent> &extent);
+
 } // namespace vlt::buildings

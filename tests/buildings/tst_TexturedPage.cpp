@@ -1,5 +1,6 @@
 #include "LayerPage.h"
 #include "buildings/EmptyFileListModel.h"
+#include "buildings/ui/TextureSortModel.h"
 #include "buildings/ui/VltAddTexbTexturedPage.h"
 #include "gui/FileDialogAnswer.h"
 #include "support/Cases.h"
@@ -11,6 +12,10 @@
 #include <QSignalSpy>
 #include <QTableView>
 
+#include <gdal_priv.h>
+
+#include <array>
+
 using namespace layerpage;
 using vlt::buildings::FileEntry;
 using vlt::buildings::FileListModel;
@@ -18,6 +23,31 @@ using vlt::buildings::FileListModel;
 namespace {
 
 const QString Group = u"AddTexbTexturedPage"_s;
+
+enum Images { Placed, Unplaced, Broken };
+
+/// An image of 400 x 200 pixels of one color, half a metre wide if it is placed.
+void writeImage(const QString &path, Images kind)
+{
+    constexpr std::array Color = {0x80, 0x40, 0x20};
+    constexpr int EpsgCode = 32630;
+    GDALAllRegister();
+    GDALDriver *driver = GetGDALDriverManager()->GetDriverByName("GTiff");
+    const GDALDatasetUniquePtr image(
+        driver->Create(qPrintable(path), 400, 200, 3, GDT_Byte, nullptr));
+    for (int band = 1; band <= 3; ++band)
+        image->GetRasterBand(band)->Fill(Color.at(static_cast<std::size_t>(band - 1)));
+    if (kind == Placed) {
+        std::array place = {500000.0, 0.5, 0.0, 5000000.0, 0.0, -0.5};
+        image->SetGeoTransform(place.data());
+        OGRSpatialReference system;
+        system.importFromEPSG(EpsgCode);
+        image->SetSpatialRef(&system);
+    }
+    image->FlushCache();
+    if (kind == Broken)
+        QFile::resize(path, 200);
+}
 
 class TexturedPage : public Page<VltAddTexbTexturedPage>
 {
@@ -153,7 +183,7 @@ private Q_SLOTS:
             return page->files();
         };
 
-        QCOMPARE(filesAfterClick(FileListModel::HeightColumn), byHeight);
+        QCOMPARE(page->files(), byHeight);
         QCOMPARE(filesAfterClick(FileListModel::FileColumn), byName);
         page->filter()->setText(u"none such"_s);
         page->filter()->clear();
@@ -161,6 +191,40 @@ private Q_SLOTS:
         QCOMPARE(header->sortIndicatorSection(), int(FileListModel::FileColumn));
         QCOMPARE(filesAfterClick(FileListModel::FileColumn),
                  QStringList(byName.crbegin(), byName.crend()));
+        QCOMPARE(filesAfterClick(FileListModel::HeightColumn), byHeight);
+    }
+
+    void showsEachImageAndWhereItLies_data()
+    {
+        const Cases<Images, QString, bool, QString> row({"kind", "note", "hasProblem", "pixel"});
+        row("placed", Placed, u"200 m \u00d7 100 m \u00b7 EPSG:32630"_s, false, u"#ff804020"_s);
+        row("without a place", Unplaced,
+            u"no position on the ground: it cannot be shown on buildings"_s, true, u"#ff804020"_s);
+        row("broken", Broken, u"This image cannot be read (.*)"_s, true, QString());
+    }
+
+    void showsEachImageAndWhereItLies()
+    {
+        QFETCH(const Images, kind);
+        QTemporaryDir folder;
+        const QString file = folder.filePath(u"roof_3.tif"_s);
+        writeImage(file, kind);
+        TexturedPage page;
+        dropFiles(&page, {file});
+        const QModelIndex cell = page.cell(0, FileListModel::FileColumn);
+        using Model = vlt::buildings::TextureSortModel;
+
+        QTRY_VERIFY_WITH_TIMEOUT(!cell.data(Model::NoteRole).toString().isEmpty(), PatienceMs);
+
+        QFETCH(const QString, note);
+        const QRegularExpression expected(QRegularExpression::anchoredPattern(note));
+        QVERIFY2(expected.match(cell.data(Model::NoteRole).toString()).hasMatch(),
+                 qPrintable(cell.data(Model::NoteRole).toString()));
+        QTEST(cell.data(Model::HasProblemRole).toBool(), "hasProblem");
+        const auto picture = cell.data(Model::PictureRole).value<QImage>();
+        QTEST(picture.isNull() ? QString() : picture.pixelColor(20, 10).name(QColor::HexArgb),
+              "pixel");
+        QVERIFY(cell.data(Qt::ToolTipRole).toString().contains(note.left(20)));
     }
 
     void copiesRowsAsTheyAreShown()

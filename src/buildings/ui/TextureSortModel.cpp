@@ -1,6 +1,8 @@
 #include "buildings/ui/TextureSortModel.h"
 
 #include "buildings/FileListModel.h"
+#include "buildings/SourceSummary.h"
+#include "buildings/ui/ImagePreviews.h"
 #include "text/RichText.h"
 
 namespace vlt::buildings {
@@ -16,17 +18,47 @@ QLocale collatingLocale()
 
 } // namespace
 
-TextureSortModel::TextureSortModel(QObject *parent)
+TextureSortModel::TextureSortModel(ImagePreviews &previews, QObject *parent)
     : QSortFilterProxyModel(parent)
     , m_collator(collatingLocale())
+    , m_previews(previews)
 {
     m_collator.setNumericMode(true);
     m_collator.setCaseSensitivity(Qt::CaseInsensitive);
     setDynamicSortFilter(false);
 }
 
+void TextureSortModel::setBuildings(std::optional<geodata::PolygonLayer> layer,
+                                    std::optional<geodata::Extent> extent)
+{
+    m_layer = std::move(layer);
+    m_extent = extent;
+}
+
+QVariant TextureSortModel::ofImage(const QModelIndex &index, int role) const
+{
+    const QString name = QSortFilterProxyModel::data(
+                             index.siblingAtColumn(FileListModel::FileColumn), Qt::ToolTipRole)
+                             .toString();
+    const ImagePreviews::Preview *image = m_previews.of(name);
+    if (!image)
+        return {};
+    switch (role) {
+    case PictureRole:
+        return image->picture;
+    case HasProblemRole:
+        return !image->summary || !image->summary->extent;
+    default:
+        return image->summary
+                   ? imageSummary(*image->summary, m_layer ? &*m_layer : nullptr, m_extent)
+                   : image->problem;
+    }
+}
+
 QVariant TextureSortModel::data(const QModelIndex &index, int role) const
 {
+    if (role >= PictureRole && role <= HasProblemRole)
+        return ofImage(index, role);
     QVariant value = QSortFilterProxyModel::data(index, role);
     if (role != Qt::ToolTipRole)
         return value;
@@ -34,6 +66,8 @@ QVariant TextureSortModel::data(const QModelIndex &index, int role) const
     if (index.column() == FileListModel::FileColumn ||
         index.column() == FileListModel::FolderColumn)
         lines.prepend(index.data().toString());
+    if (index.column() == FileListModel::FileColumn)
+        lines += ofImage(index, NoteRole).toString();
     lines.removeAll(QString());
     return lines.isEmpty() ? QVariant() : text::asRichText(lines.join(u'\n'));
 }

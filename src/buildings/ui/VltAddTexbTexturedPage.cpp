@@ -2,9 +2,12 @@
 
 #include "ui_AddTexbTexturedPage.h"
 
+#include "buildings/BuildingsSource.h"
 #include "buildings/EmptyFileListModel.h"
 #include "buildings/TextureFolders.h"
 #include "buildings/ui/HeightDelegate.h"
+#include "buildings/ui/ImageDelegate.h"
+#include "buildings/ui/ImagePreviews.h"
 #include "buildings/ui/TextureSettings.h"
 #include "buildings/ui/TextureSortModel.h"
 #include "platform/Settings.h"
@@ -28,9 +31,26 @@ namespace {
 
 const QString LastUsedDirKey = QStringLiteral("LastUsedDir");
 
-constexpr int RowMargin = 6;
-/// Maximum share of the column of files in the table's width, so that the folders stay visible.
-constexpr double FileShare = 0.55;
+constexpr int MaxFolderPx = 240;
+
+struct Buildings
+{
+    std::optional<vlt::geodata::PolygonLayer> layer;
+    std::optional<vlt::geodata::Extent> extent;
+};
+
+Buildings readBuildings(const vlt::buildings::BuildingsSource &source)
+{
+    const auto opened = vlt::geodata::PolygonSource::open(source.file);
+    if (!opened)
+        return {};
+    const QList<vlt::geodata::PolygonLayer> &layers = opened.value()->layers();
+    for (int i = 0; i < layers.size(); ++i) {
+        if (layers.at(i).name == source.layer)
+            return {layers.at(i), opened.value()->extent(i)};
+    }
+    return {};
+}
 
 bool isUsed(const QModelIndex &index)
 {
@@ -45,7 +65,8 @@ VltAddTexbTexturedPage::VltAddTexbTexturedPage(QWidget *wizard, SharedParameters
     , m_ui(std::make_unique<Ui::AddTexbTexturedPage>())
     , m_model(new FileListModel(this))
     , m_emptyModel(new vlt::buildings::EmptyFileListModel(this))
-    , m_sorted(new vlt::buildings::TextureSortModel(this))
+    , m_previews(new vlt::buildings::ImagePreviews(this))
+    , m_sorted(new vlt::buildings::TextureSortModel(*m_previews, this))
 {
     m_ui->setupUi(this);
     setTitle(tr("Textured buildings", "MESS_PAGE_TEXTURED"));
@@ -55,6 +76,12 @@ VltAddTexbTexturedPage::VltAddTexbTexturedPage(QWidget *wizard, SharedParameters
     setUpTable();
     createMenu();
     connectWidgets();
+    m_ui->m_pwInvitation->setTexts(
+        tr("Drop one of the images here", "MESS_DROP_IMAGE"),
+        tr("Rasters with a position on the ground: GeoTIFF, PNG, JPEG or BMP with a world file, "
+           "grids (.grc, .grd) and others.\nOne image for each height, which is read from the "
+           "image or from its name, for example \"coverage_12m.tif\".",
+           "MESS_DROP_IMAGE_KINDS"));
     updateStatusLabel(0, 0, 0);
     showList();
 }
@@ -66,11 +93,16 @@ void VltAddTexbTexturedPage::setUpTable()
     QTableView *table = m_ui->m_pwFiles;
     table->setItemDelegateForColumn(FileListModel::HeightColumn,
                                     new vlt::buildings::HeightDelegate(table));
-    table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + RowMargin);
+    table->setItemDelegateForColumn(FileListModel::FileColumn,
+                                    new vlt::buildings::ImageDelegate(table));
+    table->verticalHeader()->setDefaultSectionSize(
+        vlt::buildings::ImageDelegate::rowHeightPx(table->fontMetrics()));
+    connect(m_previews, &vlt::buildings::ImagePreviews::arrived, table->viewport(),
+            qOverload<>(&QWidget::update));
     QHeaderView *header = table->horizontalHeader();
     header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     header->setSortIndicatorClearable(true);
-    header->setSortIndicator(-1, Qt::AscendingOrder);
+    header->setSortIndicator(FileListModel::HeightColumn, Qt::AscendingOrder);
     table->setSortingEnabled(true);
     table->installEventFilter(this);
 }
@@ -101,6 +133,28 @@ void VltAddTexbTexturedPage::connectWidgets()
 bool VltAddTexbTexturedPage::isComplete() const
 {
     return m_model->rowCount() > 0;
+}
+
+void VltAddTexbTexturedPage::initializePage()
+{
+    BasePage::initializePage();
+    findBuildings();
+}
+
+/// Finds out beside the interface where the buildings are.
+void VltAddTexbTexturedPage::findBuildings()
+{
+    const vlt::buildings::BuildingsSource source =
+        vlt::buildings::readBuildingsSource(parameters());
+    m_sorted->setBuildings({}, {});
+    if (source.file.isEmpty())
+        return;
+    vlt::wizard::valueBeside<Buildings>(
+        this, [source] { return readBuildings(source); },
+        [this](const Buildings &buildings) {
+            m_sorted->setBuildings(buildings.layer, buildings.extent);
+            m_ui->m_pwFiles->viewport()->update();
+        });
 }
 
 bool VltAddTexbTexturedPage::validatePage()
@@ -165,6 +219,7 @@ void VltAddTexbTexturedPage::listAround(const QString &templatePath)
     if (!found || !*found) // cancelled
         return;
     m_lastUsedDir = dir;
+    m_previews->forget();
     m_model->setEntries(**found);
     if (isListShown())
         fitColumns();
@@ -197,15 +252,21 @@ void VltAddTexbTexturedPage::showList()
         shown = m_sorted;
     if (table->model() != shown) {
         table->setModel(shown);
-        table->horizontalHeader()->setVisible(hasImages);
-        // The header loses the stretching of its last section while it is hidden.
-        table->horizontalHeader()->setSectionResizeMode(QHeaderView::Interactive);
-        table->horizontalHeader()->setSectionResizeMode(shown->columnCount() - 1,
-                                                        QHeaderView::Stretch);
+        m_ui->m_pwInvitation->setVisible(!hasImages);
+        table->setMaximumHeight(hasImages ? QWIDGETSIZE_MAX
+                                          : 2 * table->verticalHeader()->defaultSectionSize());
+        QHeaderView *header = table->horizontalHeader();
+        header->setVisible(hasImages);
+        // The header forgets the stretching of a section while it is hidden.
+        header->setSectionResizeMode(QHeaderView::Interactive);
+        header->setSectionResizeMode(hasImages ? int(FileListModel::FileColumn) : 0,
+                                     QHeaderView::Stretch);
         m_ui->m_pwPbUseAll->setEnabled(hasImages);
         m_ui->m_pwPbUseNone->setEnabled(hasImages);
-        if (hasImages)
+        if (hasImages) {
+            table->sortByColumn(FileListModel::HeightColumn, Qt::AscendingOrder);
             fitColumns();
+        }
     }
     Q_EMIT completeChanged();
 }
@@ -214,11 +275,10 @@ void VltAddTexbTexturedPage::fitColumns()
 {
     QTableView *table = m_ui->m_pwFiles;
     for (const int column :
-         {FileListModel::UseColumn, FileListModel::FileColumn, FileListModel::HeightColumn})
+         {FileListModel::UseColumn, FileListModel::HeightColumn, FileListModel::FolderColumn})
         table->resizeColumnToContents(column);
-    const int most = static_cast<int>(table->viewport()->width() * FileShare);
-    const int width = table->columnWidth(FileListModel::FileColumn);
-    table->setColumnWidth(FileListModel::FileColumn, std::min(2 * width, most));
+    table->setColumnWidth(FileListModel::FolderColumn,
+                          std::min(table->columnWidth(FileListModel::FolderColumn), MaxFolderPx));
 }
 
 void VltAddTexbTexturedPage::setShownUsed(bool used)

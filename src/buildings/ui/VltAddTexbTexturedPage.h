@@ -10,6 +10,7 @@ class AddTexbTexturedPage;
 }
 namespace vlt::buildings {
 class EmptyFileListModel;
+class ImagePreviews;
 class TextureSortModel;
 } // namespace vlt::buildings
 class QMenu;
@@ -29,6 +30,7 @@ public:
     void setNextId(int id) { m_nextId = id; }
 
     bool isComplete() const override;
+    void initializePage() override;
     bool validatePage() override;
     int nextId() const override { return m_nextId; }
 
@@ -58,6 +60,7 @@ private:
     bool isListShown() const;
     void showList();
     void fitColumns();
+    void findBuildings();
     void listAround(const QString &templatePath);
     void setShownUsed(bool used);
     void toggleSelected();
@@ -65,6 +68,7 @@ private:
     std::unique_ptr<Ui::AddTexbTexturedPage> m_ui;
     vlt::buildings::FileListModel *m_model;
     vlt::buildings::EmptyFileListModel *m_emptyModel;
+    vlt::buildings::ImagePreviews *m_previews;
     vlt::buildings::TextureSortModel *m_sorted;
     QMenu *m_menu = nullptr;
     int m_nextId = -1;

@@ -79,9 +79,27 @@
         <source>no image matches the filter</source>
         <translation>no image matches the filter</translation>
     </message>
+    <message id="MESS_TEMPLATE_MEANING">
+        <source>The template image is any one of the images: its folder and suffix select the others.</source>
+        <translation>The template image is any one of the images: its folder and suffix select the others.</translation>
+    </message>
+    <message id="MESS_DROP_IMAGE">
+        <source>Drop one of the images here</source>
+        <translation>Drop one of the images here</translation>
+    </message>
+    <message id="MESS_DROP_IMAGE_KINDS">
+        <source>Rasters with a position on the ground: GeoTIFF, PNG, JPEG or BMP with a world file, grids (.grc, .grd) and others.
+One image for each height, which is read from the image or from its name, for example "coverage_12m.tif".</source>
+        <translation>Rasters with a position on the ground: GeoTIFF, PNG, JPEG or BMP with a world file, grids (.grc, .grd) and others.
+One image for each height, which is read from the image or from its name, for example "coverage_12m.tif".</translation>
+    </message>
     <message id="MESS_IMAGE_UNREADABLE">
         <source>This image cannot be read</source>
         <translation>This image cannot be read</translation>
+    </message>
+    <message id="MESS_IMAGE_NOT_PLACED">
+        <source>no position on the ground: it cannot be shown on buildings</source>
+        <translation>no position on the ground: it cannot be shown on buildings</translation>
     </message>
 </context>
 </TS>

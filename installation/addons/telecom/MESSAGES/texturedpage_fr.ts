@@ -79,9 +79,27 @@
         <source>no image matches the filter</source>
         <translation>aucune image ne correspond au filtre</translation>
     </message>
+    <message id="MESS_TEMPLATE_MEANING">
+        <source>The template image is any one of the images: its folder and suffix select the others.</source>
+        <translation>L'image modèle est l'une quelconque des images : son dossier et son extension déterminent les autres.</translation>
+    </message>
+    <message id="MESS_DROP_IMAGE">
+        <source>Drop one of the images here</source>
+        <translation>Déposez ici l'une des images</translation>
+    </message>
+    <message id="MESS_DROP_IMAGE_KINDS">
+        <source>Rasters with a position on the ground: GeoTIFF, PNG, JPEG or BMP with a world file, grids (.grc, .grd) and others.
+One image for each height, which is read from the image or from its name, for example "coverage_12m.tif".</source>
+        <translation>Images géoréférencées : GeoTIFF, PNG, JPEG ou BMP avec fichier de calage, grilles (.grc, .grd) et autres formats.
+Une image par hauteur ; celle-ci est lue dans l'image ou dans son nom, par exemple « coverage_12m.tif ».</translation>
+    </message>
     <message id="MESS_IMAGE_UNREADABLE">
         <source>This image cannot be read</source>
         <translation>Cette image est illisible</translation>
+    </message>
+    <message id="MESS_IMAGE_NOT_PLACED">
+        <source>no position on the ground: it cannot be shown on buildings</source>
+        <translation>aucune position au sol : elle ne peut pas être affichée sur les bâtiments</translation>
     </message>
 </context>
 </TS>
