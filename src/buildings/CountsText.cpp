@@ -1,8 +1,7 @@
 #include "buildings/CountsText.h"
 
+#include "language/Numbers.h"
 #include "language/VltLanguageManager.h"
-
-#include <QLocale>
 
 namespace vlt::buildings {
 
@@ -36,8 +35,7 @@ QList<NamedSubstitute> namedSubstitutes()
 
 QString numberText(std::size_t count)
 {
-    const QLocale spoken(VltLanguageManager::getInstance().getCurrentLanguage().text);
-    return spoken.toString(static_cast<qulonglong>(count));
+    return language::wholeNumber(static_cast<qint64>(count));
 }
 
 /// Reasons in one line.

@@ -4,9 +4,8 @@
 #include "city/HeightCounts.h"
 #include "contract/BadLayer.h"
 #include "contract/Stopped.h"
+#include "language/Numbers.h"
 #include "language/VltLanguageManager.h"
-
-#include <QLocale>
 
 namespace vlt::buildings {
 
@@ -52,9 +51,8 @@ std::optional<HeightAdvice> adviseFilling(const BuildingDocument &document,
     const Filling best = bestFilling(document, layer, progress);
     if (best.count == 0)
         return std::nullopt;
-    const QLocale spoken(VltLanguageManager::getInstance().getCurrentLanguage().text);
-    const auto number = [&spoken](std::size_t count) {
-        return spoken.toString(static_cast<qulonglong>(count));
+    const auto number = [](std::size_t count) {
+        return language::wholeNumber(static_cast<qint64>(count));
     };
     const QString text =
         dico_label("MESS_ADVICE_ELSE", "%1 of %2 buildings have no height in \"%3\"; \"%4\" would "

@@ -2,9 +2,8 @@
 
 #include "buildings/HeightGuess.h"
 #include "geodata/SystemInfo.h"
+#include "language/Numbers.h"
 #include "language/VltLanguageManager.h"
-
-#include <QLocale>
 
 namespace vlt::buildings {
 
@@ -24,15 +23,14 @@ QString systemText(const SystemInfo &system)
 QString lengthText(double length, const SystemInfo &system)
 {
     constexpr double MetresPerKilometre = 1000;
-    const QLocale locale;
     const double lengthM = length * system.unitM;
     if (system.isGeographic)
-        return locale.toString(length, 'f', 4) + QChar(0xb0);
+        return language::shortNumber(length, 4) + QChar(0xb0);
     if (system.unitM <= 0)
-        return locale.toString(length, 'f', 0);
+        return language::shortNumber(length, 0);
     return lengthM < MetresPerKilometre
-               ? locale.toString(lengthM, 'f', 0) + QStringLiteral(" m")
-               : locale.toString(lengthM / MetresPerKilometre, 'f', 1) + QStringLiteral(" km");
+               ? language::shortNumber(lengthM, 0) + QStringLiteral(" m")
+               : language::shortNumber(lengthM / MetresPerKilometre, 1) + QStringLiteral(" km");
 }
 
 QString sizeText(const Extent &extent, const SystemInfo &system)
@@ -118,7 +116,7 @@ QString layerSummary(const geodata::PolygonLayer &layer, const std::optional<Ext
     QStringList parts;
     if (layer.featureCount >= 0)
         parts << dico_label("MESS_BUILDING_COUNT", "Buildings: %1")
-                     .arg(QLocale().toString(layer.featureCount));
+                     .arg(language::wholeNumber(layer.featureCount));
     parts << systemText(layer.system);
     if (extent)
         parts << sizeText(*extent, layer.system);
@@ -130,7 +128,7 @@ QString terrainSummary(const geodata::RasterSummary &terrain, const geodata::Pol
 {
     QStringList parts{
         dico_label("MESS_PIXEL_COUNT", "%1 \u00d7 %2 pixels")
-            .arg(QLocale().toString(terrain.columns), QLocale().toString(terrain.rows)),
+            .arg(language::wholeNumber(terrain.columns), language::wholeNumber(terrain.rows)),
         systemText(terrain.system)};
     if (layer != nullptr)
         parts << coverText(terrain, *layer, extent);

@@ -1,8 +1,7 @@
 #include "buildings/TexturedInfoText.h"
 
+#include "language/Numbers.h"
 #include "language/VltLanguageManager.h"
-
-#include <QLocale>
 
 #include <set>
 
@@ -26,19 +25,11 @@ QString whereOf(contract::TextureMode mode)
     return dico_label("MESS_TEX_ROOFS", "Roofs");
 }
 
-/// The locale for the language of the text.
-QLocale spoken()
-{
-    return QLocale(VltLanguageManager::getInstance().getCurrentLanguage().text);
-}
-
 QString heightsText(const std::set<double> &heights)
 {
-    constexpr int Digits = 6;
-    const QLocale locale = spoken();
     QStringList texts;
     for (const double height : heights)
-        texts << locale.toString(height, 'g', Digits);
+        texts << language::roundNumber(height);
     if (texts.size() > MaxHeights)
         texts = {texts.first() + QStringLiteral(" \u2013 ") + texts.last()};
     return texts.join(QStringLiteral(" \u00b7 ")) + QStringLiteral(" m");
@@ -56,7 +47,8 @@ QString texturedInfoText(contract::TextureMode mode, const QList<FileEntry> &ima
         ++count;
         heights.insert(image.height);
     }
-    QStringList lines{dico_label("MESS_TEXB_IMAGES", "Images: %1").arg(spoken().toString(count))};
+    QStringList lines{
+        dico_label("MESS_TEXB_IMAGES", "Images: %1").arg(language::wholeNumber(count))};
     if (count > 0) {
         const QString where =
             QStringLiteral("<span style=\"font-weight:600; text-decoration:underline;\">") +

@@ -1,6 +1,7 @@
 #include "buildings/ValueSummary.h"
 
 #include "colormaps/LegendRows.h"
+#include "language/Numbers.h"
 #include "language/VltLanguageManager.h"
 
 #include <QFileInfo>
@@ -140,8 +141,9 @@ QString spreadText(const ValueSummary &summary)
     if (summary.buildings == 0)
         return dico_label("MESS_VALUES_NONE", "no building has a value");
     return dico_label("MESS_VALUES_SPREAD", "buildings with a value: %1, from %2 to %3, median %4")
-        .arg(QString::number(summary.buildings), plainText(summary, *summary.quantiles[0]),
-             valueText(summary, *summary.quantiles[6]), valueText(summary, *summary.quantiles[3]));
+        .arg(language::wholeNumber(static_cast<qint64>(summary.buildings)),
+             plainText(summary, *summary.quantiles[0]), valueText(summary, *summary.quantiles[6]),
+             valueText(summary, *summary.quantiles[3]));
 }
 
 QString classShare(const ValueSummary &summary, const ValueClass &one)
@@ -277,7 +279,8 @@ QStringList summaryLines(const ValueSummary &summary)
     QStringList lines = headLines(summary);
     for (qsizetype i = summary.classes.size() - 1; i >= 0; --i)
         lines << classText(summary, i) + QStringLiteral(": ") +
-                     QStringLiteral("%1 (%2)").arg(QString::number(summary.classes.at(i).buildings),
+                     QStringLiteral("%1 (%2)").arg(language::wholeNumber(static_cast<qint64>(
+                                                       summary.classes.at(i).buildings)),
                                                    classShare(summary, summary.classes.at(i)));
     return lines;
 }

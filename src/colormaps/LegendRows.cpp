@@ -1,6 +1,6 @@
 #include "colormaps/LegendRows.h"
 
-#include "text/Numbers.h"
+#include "language/Numbers.h"
 
 #include <algorithm>
 #include <cmath>
@@ -66,10 +66,10 @@ QString numberForGap(double value, double gap)
         for (int decimals = 0; decimals <= MaxDecimals; ++decimals, unit /= 10) {
             const double rounded = std::round(value / unit) * unit;
             if (std::abs(rounded - value) <= gap / 100)
-                return QString::number(rounded == 0 ? 0 : value, 'f', decimals);
+                return language::fixedNumber(value, decimals);
         }
     }
-    return text::g6(value);
+    return language::roundNumber(value);
 }
 
 } // namespace vlt::colormaps

@@ -35,8 +35,8 @@ private:
     QList<double> m_values;
 };
 
-/// A number in the C locale, with enough decimals to distinguish it from another one that differs
-/// by `gap`. If `gap` is not above 0, it has 6 significant digits.
+/// A number for people, with enough decimals to distinguish it from another one that differs by
+/// `gap`. If `gap` is not above 0, it has 6 significant digits.
 QString numberForGap(double value, double gap);
 
 } // namespace vlt::colormaps

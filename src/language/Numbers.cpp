@@ -19,9 +19,7 @@ double withoutNegativeZero(double number, int decimals)
 
 QLocale numberLocale()
 {
-    const QLocale user;
-    const QLocale spoken(VltLanguageManager::getInstance().getCurrentLanguage().text);
-    return user.language() == spoken.language() ? user : spoken;
+    return QLocale(VltLanguageManager::getInstance().getCurrentLanguage().text);
 }
 
 QString wholeNumber(qint64 number)

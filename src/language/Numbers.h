@@ -5,8 +5,8 @@
 
 namespace vlt::language {
 
-/// The format of numbers in texts for people: that of the chosen language, in the user's variant if
-/// that is the user's language too. Files, queries and reports for programs are in the C locale.
+/// The format of numbers in texts for people: that of the chosen language, whatever the locale of
+/// the process is. Files, queries and reports for programs are in the C locale.
 QLocale numberLocale();
 
 /// "12,040"

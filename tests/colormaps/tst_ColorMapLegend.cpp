@@ -72,11 +72,11 @@ private Q_SLOTS:
         row("stretched", -87.352941, 10, "-87.4");
         row("near enough to whole", 30.04, 5, "30");
         row("fine", 0.02, 0.01, "0.02");
-        row("large and fine", 1234567.25, 0.5, "1234567.25");
+        row("large and fine", 1234567.25, 0.5, "1,234,567.25");
         row("no negative zero", -0.001, 1, "0");
         row("too fine", 1.23456789, 1e-9, "1.23457");
-        row("too large", 2.5e12, 1e12, "2.5e+12");
-        row("alone", 12345.678, 0, "12345.7");
+        row("too large", 2.5e12, 1e12, "2.5E+12");
+        row("alone", 12345.678, 0, "12,345.7");
     }
 
     void writesNumbersThatTellValuesApart()
@@ -89,7 +89,7 @@ private Q_SLOTS:
     void labelsValuesAndRanges_data()
     {
         const Cases<QByteArray, QString, QString> row({"map", "gradient", "ranges"});
-        row("uneven", "0 red\n1 red\n1000 red", "0 1 1000", "< 1|1 \u2026 1000|\u2265 1000");
+        row("uneven", "0 red\n1 red\n1000 red", "0 1 1,000", "< 1|1 \u2026 1,000|\u2265 1,000");
         row("equal values count once", "0 red\n5 red\n5 blue", "0 5", "< 5|\u2265 5");
         row("one", "7 red", "7", "7");
     }

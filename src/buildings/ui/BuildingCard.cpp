@@ -1,10 +1,10 @@
 #include "buildings/ui/BuildingCard.h"
 
 #include "contract/SceneLegend.h"
+#include "language/Numbers.h"
 #include "language/VltLanguageManager.h"
 
 #include <QColor>
-#include <QLocale>
 
 #include <algorithm>
 
@@ -21,7 +21,7 @@ QString row(const QString &label, const QString &value)
 
 QString metres(double lengthM)
 {
-    return QLocale().toString(lengthM, 'f', 1) + QStringLiteral("\u00a0m");
+    return language::shortNumber(lengthM, 1) + QStringLiteral("\u00a0m");
 }
 
 /// A patch of a colour with its name, as on the pages.
@@ -56,8 +56,7 @@ QString valueRow(const picking::SceneObjects &buildings, std::size_t building,
     const QString none = dico_label("MESS_CARD_NO_VALUE", "no value");
     QString value = buildings.name(building).toHtmlEscaped();
     if (const std::optional<double> number = buildings.value(building)) {
-        constexpr int Digits = 6;
-        value = QLocale().toString(*number, 'g', Digits);
+        value = language::roundNumber(*number);
         if (isMap && !text(2).isEmpty())
             value += QChar(QChar::Nbsp) + text(2).toHtmlEscaped();
     }
@@ -73,7 +72,7 @@ QString buildingCard(const picking::SceneObjects &buildings, std::size_t buildin
     const double baseM = buildings.place(building).z() - heightM;
     return QStringLiteral("<h1>%1</h1><table>%2</table>")
         .arg(dico_label("MESS_CARD_BUILDING", "Building %1")
-                 .arg(QLocale().toString(buildings.row(building) + 1))
+                 .arg(language::wholeNumber(buildings.row(building) + 1))
                  .toHtmlEscaped(),
              row(dico_label("MESS_CARD_HEIGHT", "Height"), metres(heightM)) +
                  row(dico_label("MESS_CARD_GROUND", "Ground"), metres(baseM)) +

@@ -1,5 +1,6 @@
 #include "buildings/ui/VltAddTexbTexturedPage.h"
 
+#include "language/Numbers.h"
 #include "ui_AddTexbTexturedPage.h"
 
 #include "buildings/BuildingsSource.h"
@@ -18,7 +19,6 @@
 #include <QFileDialog>
 #include <QGuiApplication>
 #include <QKeyEvent>
-#include <QLocale>
 #include <QMenu>
 #include <QScopedValueRollback>
 
@@ -227,10 +227,9 @@ void VltAddTexbTexturedPage::listAround(const QString &templatePath)
 
 void VltAddTexbTexturedPage::updateStatusLabel(int total, int matching, int selected)
 {
-    const QLocale numbers;
-    QString text =
-        tr("Images: %1  \u2022  shown: %2  \u2022  used: %3", "MESS_TEXTURE_COUNTS")
-            .arg(numbers.toString(total), numbers.toString(matching), numbers.toString(selected));
+    using vlt::language::wholeNumber;
+    QString text = tr("Images: %1  \u2022  shown: %2  \u2022  used: %3", "MESS_TEXTURE_COUNTS")
+                       .arg(wholeNumber(total), wholeNumber(matching), wholeNumber(selected));
     if (total > 0 && matching == 0)
         text += QStringLiteral("  \u2022  ") +
                 tr("no image matches the filter", "MESS_NO_TEXTURE_MATCHES");

@@ -1,5 +1,6 @@
 #include "buildings/ui/VltBuildingPreview.h"
 
+#include "language/Numbers.h"
 #include "ui_BuildingPreview.h"
 
 #include "buildings/CountsText.h"
@@ -17,7 +18,6 @@
 #include "wizard/base/BusyWait.h"
 
 #include <QFileInfo>
-#include <QLocale>
 #include <QRegularExpression>
 
 #include <mutex>
@@ -181,7 +181,7 @@ void VltBuildingPreview::showScene(const vlt::snapshot::Scene &scene, const QStr
     m_notices = notices;
     m_ui->m_pwPbNotices->setVisible(notices.size() > 1);
     m_ui->m_pwPbNotices->setText(
-        tr("%1 notices...", "MESS_NOTICES").arg(QLocale().toString(notices.size())));
+        tr("%1 notices...", "MESS_NOTICES").arg(vlt::language::wholeNumber(notices.size())));
 }
 
 /// States how many buildings are near enough to be drawn, if not all are.
