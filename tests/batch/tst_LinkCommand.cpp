@@ -96,7 +96,7 @@ private Q_SLOTS:
         QCOMPARE(reported.value(u"statusCounts"_s).toObject().value(u"unknown"_s).toInt(), 2);
     }
 
-    /// Its figures are those of the report, in the user's locale.
+    /// Its figures are those of the report, in the language of the texts, not in the tests' locale.
     void drawsTheProfileOfALink()
     {
         for (const QString &name : {u"North"_s, u"#2"_s}) {
@@ -105,7 +105,7 @@ private Q_SLOTS:
             QCOMPARE(run.status, 0);
             const QByteArray picture = readFile(path(u"elsewhere/p.svg"_s));
             for (const char *text :
-                 {"North (Alpha \xe2\x80\x93 Beta)", "5,557 km", "6 GHz", "1,5 m"})
+                 {"North (Alpha \xe2\x80\x93 Beta)", "5.557 km", "6 GHz", "1.5 m"})
                 QVERIFY2(picture.contains(text), text);
         }
         QCOMPARE(start(u"link ../l.csv -o p.png --profile North"_s).status, 0);
