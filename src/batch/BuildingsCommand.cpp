@@ -10,6 +10,7 @@
 #include "buildings/CountsText.h"
 #include "buildings/HeightAdvice.h"
 #include "buildings/ValuedBuildings.h"
+#include "language/Numbers.h"
 #include "language/VltLanguageManager.h"
 
 #include <QFileInfo>
@@ -133,7 +134,7 @@ void warnOfImages(const BuildingsInputs &inputs)
     if (count > 0)
         printError(
             dico_label("MESS_CLI_NO_HEIGHTS", "images without a stated height, 0 m is used: %1")
-                .arg(count));
+                .arg(language::wholeNumber(count)));
 }
 
 /// The summary of the values that colour the buildings; nothing without such values.

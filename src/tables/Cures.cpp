@@ -1,5 +1,6 @@
 #include "tables/Cures.h"
 
+#include "language/Numbers.h"
 #include "language/ReaderText.h"
 #include "language/VltLanguageManager.h"
 
@@ -24,7 +25,8 @@ QString fromUtf8(const std::string &text)
 QString rowsText(std::size_t count)
 {
     return count == 1 ? dico_label("MESS_ONE_ROW", "1 row")
-                      : dico_label("MESS_N_ROWS", "%1 rows").arg(count);
+                      : dico_label("MESS_N_ROWS", "%1 rows")
+                            .arg(language::wholeNumber(static_cast<qint64>(count)));
 }
 
 /// The coordinates that a correction changes.

@@ -1,6 +1,7 @@
 #include "tables/RowReport.h"
 
 #include "contract/TableReport.h"
+#include "language/Numbers.h"
 #include "language/ReaderText.h"
 #include "language/VltLanguageManager.h"
 #include "platform/AtomicFile.h"
@@ -54,10 +55,8 @@ QByteArray lineOf(const geodata::ReportedRow &row)
 QString rowCountsText(const geodata::RowCounts &counts)
 {
     return dico_label("MESS_ROW_COUNTS", "%1 = %2 used + %3 merged + %4 left out")
-        .arg(counts.rows)
-        .arg(counts.used)
-        .arg(counts.merged)
-        .arg(counts.leftOut);
+        .arg(language::wholeNumber(counts.rows), language::wholeNumber(counts.used),
+             language::wholeNumber(counts.merged), language::wholeNumber(counts.leftOut));
 }
 
 Stoppable<Done> writeRowReport(const QString &connection, const QString &path,

@@ -3,6 +3,7 @@
 #include "contract/TableMetadata.h"
 #include "geodata/SrsDefinition.h"
 #include "language/ErrorText.h"
+#include "language/Numbers.h"
 #include "language/VltLanguageManager.h"
 
 #include <algorithm>
@@ -79,8 +80,8 @@ QString candidateText(const geodata::SystemCandidate &candidate)
     constexpr int Decimals = 4;
     QString text = dico_label("MESS_SRS_CANDIDATE_PLACE", "%1 (%2): the sites lie near %3, %4")
                        .arg(candidate.code, candidate.name,
-                            QString::number(candidate.longitude, 'f', Decimals),
-                            QString::number(candidate.latitude, 'f', Decimals));
+                            language::fixedNumber(candidate.longitude, Decimals),
+                            language::fixedNumber(candidate.latitude, Decimals));
     return candidate.area.isEmpty() ? text
                                     : text + QStringLiteral(" (%1)").arg(shortArea(candidate.area));
 }
@@ -169,7 +170,8 @@ QList<Problem> systemProblems(const TableFileInfo &file, const geodata::SystemPa
         if (outside > 0)
             problems << warning(dico_label("MESS_SRS_OUTSIDE_AREA",
                                            "outside the area of use of %3: %1 of %2 positions")
-                                    .arg(QString::number(outside), QString::number(check.positions),
+                                    .arg(language::wholeNumber(outside),
+                                         language::wholeNumber(check.positions),
                                          label(system, facts)));
     };
     addOutside(check.outsideSource, systems.source, check.source);

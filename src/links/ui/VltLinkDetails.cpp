@@ -1,6 +1,7 @@
 #include "links/ui/VltLinkDetails.h"
 
 #include "language/ErrorText.h"
+#include "language/Numbers.h"
 #include "links/ClearanceText.h"
 #include "links/ui/LinkReportModel.h"
 
@@ -25,7 +26,7 @@ QString countText(ClearanceStatus status, int number)
     return QStringLiteral("<span style=\"color:%1\">\u25cf</span>&nbsp;<a href=\"%2\">%3</a>")
         .arg(vlt::links::colorOfClearance(status).name())
         .arg(static_cast<int>(status))
-        .arg(number);
+        .arg(vlt::language::wholeNumber(number));
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "tables/ui/VltTableDetails.h"
 
 #include "language/ErrorText.h"
+#include "language/Numbers.h"
 #include "language/ReaderText.h"
 #include "tables/ui/CopyRows.h"
 #include "tables/ui/RowSelection.h"
@@ -18,6 +19,8 @@
 #include <QTableView>
 #include <QToolButton>
 #include <QVBoxLayout>
+
+using vlt::language::wholeNumber;
 
 namespace {
 
@@ -175,7 +178,7 @@ void VltTableDetails::chooseRow(qint64 row)
 void VltTableDetails::setTableCount(QTableView *table, const QString &name, qint64 count)
 {
     m_pwTwDetails->setTabText(m_pwTwDetails->indexOf(table),
-                              name + QStringLiteral(" (%1)").arg(count));
+                              name + QStringLiteral(" (%1)").arg(wholeNumber(count)));
     fitColumns(table);
 }
 
@@ -295,7 +298,8 @@ void VltTableDetails::showProblems(const QList<vlt::Problem> &listed, qint64 cou
                                    item(vlt::language::readerText(problem.text))});
     if (count > listed.size()) {
         const QString rest = tr("%1 further problems are not listed", "MESS_MORE_PROBLEMS");
-        m_problemModel->appendRow({item({}), item({}), item(rest.arg(count - listed.size()))});
+        m_problemModel->appendRow(
+            {item({}), item({}), item(rest.arg(wholeNumber(count - listed.size())))});
     }
     setTableCount(m_pwTvProblems, tr("Problems", "MESS_PROBLEMS"), count);
 }
@@ -343,10 +347,11 @@ void VltTableDetails::showOutcome(const vlt::geodata::LayerProblems &problems,
     const qint64 count = general.size() + problems.count;
     showProblems(general + problems.listed, count);
     const bool isNonePlaced = placement.placed == 0;
-    const QString placed = isNonePlaced
-                               ? nonePlacedText()
-                               : placedText().arg(placement.placed).arg(placement.features);
-    showSummary(placed + Separator + tr("problems: %1", "MESS_PROBLEM_COUNT").arg(count),
+    const QString placed = isNonePlaced ? nonePlacedText()
+                                        : placedText().arg(wholeNumber(placement.placed),
+                                                           wholeNumber(placement.features));
+    showSummary(placed + Separator +
+                    tr("problems: %1", "MESS_PROBLEM_COUNT").arg(wholeNumber(count)),
                 count > 0);
     if (count > 0 && !m_pwTwDetails->isVisible())
         m_pwTwDetails->setCurrentWidget(m_pwTvProblems);

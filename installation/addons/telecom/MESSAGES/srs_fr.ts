@@ -321,7 +321,7 @@
     </message>
     <message id="MESS_SRS_CANDIDATE_PLACE">
         <source>%1 (%2): the sites lie near %3, %4</source>
-        <translation>%1 (%2)&#xa0;: les sites se trouvent près de %3, %4</translation>
+        <translation>%1 (%2)&#xa0;: les sites se trouvent près de %3&#xa0;; %4</translation>
     </message>
     <message id="MESS_NO_LAYER_UNDECLARED">
         <source>No layer can be made: the coordinates are in meters, and their coordinate system is not known</source>
