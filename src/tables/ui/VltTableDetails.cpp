@@ -297,9 +297,12 @@ void VltTableDetails::showProblems(const QList<vlt::Problem> &listed, qint64 cou
                                    item(problem.column),
                                    item(vlt::language::readerText(problem.text))});
     if (count > listed.size()) {
-        const QString rest = tr("%1 further problems are not listed", "MESS_MORE_PROBLEMS");
-        m_problemModel->appendRow(
-            {item({}), item({}), item(rest.arg(wholeNumber(count - listed.size())))});
+        const qint64 rest = count - listed.size();
+        const QString text = rest == 1
+                                 ? tr("1 further problem is not listed", "MESS_ONE_MORE_PROBLEM")
+                                 : tr("%1 further problems are not listed", "MESS_MORE_PROBLEMS")
+                                       .arg(wholeNumber(rest));
+        m_problemModel->appendRow({item({}), item({}), item(text)});
     }
     setTableCount(m_pwTvProblems, tr("Problems", "MESS_PROBLEMS"), count);
 }

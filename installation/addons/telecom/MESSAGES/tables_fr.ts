@@ -585,31 +585,31 @@
     </message>
     <message id="MESS_TAB_DOCTOR_SWAPPED_GLOBE">
         <source>longitude and latitude seem to be exchanged: %1 of %2 latitudes lie beyond 90 degrees</source>
-        <translation>longitude et latitude semblent inversées&#xa0;: %1 latitudes sur %2 dépassent 90 degrés</translation>
+        <translation>longitude et latitude semblent inversées (latitudes au-delà de 90 degrés&#xa0;: %1 sur %2)</translation>
     </message>
     <message id="MESS_TAB_DOCTOR_SWAPPED">
         <source>the coordinates seem to be exchanged: in the other order, %1 of %2 positions lie in %3</source>
-        <translation>les coordonnées semblent inversées&#xa0;: dans l'autre ordre, %1 positions sur %2 se trouvent dans %3</translation>
+        <translation>les coordonnées semblent inversées (positions qui se trouvent dans %3 une fois échangées&#xa0;: %1 sur %2)</translation>
     </message>
     <message id="MESS_TAB_DOCTOR_SWAPPED_ROWS">
         <source>coordinates seem to be exchanged in some rows: in the other order, they lie among the others (%1 of %2 positions, rows: %3)</source>
-        <translation>les coordonnées de certaines lignes semblent inversées&#xa0;: dans l'autre ordre, elles se trouvent parmi les autres (%1 sur %2, lignes&#xa0;: %3)</translation>
+        <translation>les coordonnées de certaines lignes semblent inversées&#xa0;: dans l'autre ordre, elles se trouvent parmi les autres (positions&#xa0;: %1 sur %2, lignes&#xa0;: %3)</translation>
     </message>
     <message id="MESS_TAB_DOCTOR_SIGN">
         <source>a sign seems to be lost in %1: with the opposite one, %2 of %3 positions lie in %4</source>
-        <translation>un signe semble manquer dans %1&#xa0;: avec le signe opposé, %2 positions sur %3 se trouvent dans %4</translation>
+        <translation>un signe semble manquer dans %1 (positions qui se trouvent dans %4 avec le signe opposé&#xa0;: %2 sur %3)</translation>
     </message>
     <message id="MESS_TAB_DOCTOR_SIGN_ROWS">
         <source>a sign seems to be lost in some rows of %1: with the opposite one, they lie among the others (%2 of %3 positions, rows: %4)</source>
-        <translation>un signe semble manquer à certaines lignes dans %1&#xa0;: avec le signe opposé, elles se trouvent parmi les autres (%2 positions sur %3, lignes&#xa0;: %4)</translation>
+        <translation>un signe semble manquer à certaines lignes dans %1&#xa0;: avec le signe opposé, elles se trouvent parmi les autres (positions&#xa0;: %2 sur %3, lignes&#xa0;: %4)</translation>
     </message>
     <message id="MESS_TAB_DOCTOR_DECIMAL">
         <source>the decimal mark seems to be misplaced in %1: times %2, %3 of %4 positions lie in %5</source>
-        <translation>le séparateur décimal semble mal placé dans %1&#xa0;: en multipliant par %2, %3 positions sur %4 se trouvent dans %5</translation>
+        <translation>le séparateur décimal semble mal placé dans %1 (positions qui se trouvent dans %5 en multipliant par %2&#xa0;: %3 sur %4)</translation>
     </message>
     <message id="MESS_TAB_DOCTOR_DECIMAL_ROWS">
         <source>the decimal mark seems to be misplaced in some rows of %1: with another one, they lie among the others (%2 of %3 positions, rows: %4)</source>
-        <translation>le séparateur décimal semble mal placé à certaines lignes dans %1&#xa0;: une fois déplacé, elles se trouvent parmi les autres (%2 positions sur %3, lignes&#xa0;: %4)</translation>
+        <translation>le séparateur décimal semble mal placé à certaines lignes dans %1&#xa0;: une fois déplacé, elles se trouvent parmi les autres (positions&#xa0;: %2 sur %3, lignes&#xa0;: %4)</translation>
     </message>
     <message id="MESS_TAB_DOCTOR_THOUSANDS">
         <source>a separator of thousands seems to be read as the decimal mark in %1: at all %2 positions they lie below 1000 and have up to three decimals</source>
@@ -617,11 +617,11 @@
     </message>
     <message id="MESS_TAB_DOCTOR_NOT_DEGREES">
         <source>the coordinates of %1 of %2 positions are too large for degrees, but the coordinate system counts in degrees</source>
-        <translation>les coordonnées de %1 positions sur %2 sont trop grandes pour des degrés, alors que le système de coordonnées est en degrés</translation>
+        <translation>des coordonnées sont trop grandes pour des degrés, alors que le système de coordonnées est en degrés (positions&#xa0;: %1 sur %2)</translation>
     </message>
     <message id="MESS_TAB_DOCTOR_NOT_METERS">
         <source>the coordinates of %1 of %2 positions seem to be degrees, but the coordinate system counts in meters or feet</source>
-        <translation>les coordonnées de %1 positions sur %2 semblent être en degrés, alors que le système de coordonnées est en mètres ou en pieds</translation>
+        <translation>des coordonnées semblent être en degrés, alors que le système de coordonnées est en mètres ou en pieds (positions&#xa0;: %1 sur %2)</translation>
     </message>
     <message id="MESS_TAB_DOCTOR_UNDECLARED">
         <source>the coordinates are in meters, but the table declares no coordinate system</source>
@@ -641,7 +641,7 @@
     </message>
     <message id="MESS_TAB_DOCTOR_OUTSIDE">
         <source>outside the project's terrain: %1 of %2 positions (rows: %3)</source>
-        <translation>hors du terrain du projet&#xa0;: %1 positions sur %2 (lignes&#xa0;: %3)</translation>
+        <translation>positions hors du terrain du projet&#xa0;: %1 sur %2 (lignes&#xa0;: %3)</translation>
     </message>
     <message id="MESS_TAB_DOCTOR_TERRAIN">
         <source>the area of the project's terrain</source>

@@ -489,6 +489,10 @@ to add the site layer
         <source>none</source>
         <translation>none</translation>
     </message>
+    <message id="MESS_ONE_MORE_PROBLEM">
+        <source>1 further problem is not listed</source>
+        <translation>1 further problem is not listed</translation>
+    </message>
     <message id="MESS_MORE_PROBLEMS">
         <source>%1 further problems are not listed</source>
         <translation>%1 further problems are not listed</translation>

@@ -489,6 +489,10 @@ pour ajouter la couche de sites
         <source>none</source>
         <translation>aucune</translation>
     </message>
+    <message id="MESS_ONE_MORE_PROBLEM">
+        <source>1 further problem is not listed</source>
+        <translation>1 autre problème n'est pas listé</translation>
+    </message>
     <message id="MESS_MORE_PROBLEMS">
         <source>%1 further problems are not listed</source>
         <translation>%1 autres problèmes ne sont pas listés</translation>
