@@ -234,6 +234,11 @@ private Q_SLOTS:
         QTest::keyClicks(&box, typed);
 
         QCOMPARE(box.value(), 1234.5);
+        box.setSuffix(u" m"_s);
+        box.setValue(20);
+        QCOMPARE(box.text(), u"20 m"_s); // not "20.00 m"
+        box.setValue(0.5);
+        QCOMPARE(box.text(), u"0"_s + locale.decimalPoint() + u"5 m"_s);
     }
 
     void givesTheLayerAsALink()

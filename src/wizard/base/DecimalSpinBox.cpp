@@ -19,3 +19,33 @@ double DecimalSpinBox::valueFromText(const QString &text) const
 {
     return QDoubleSpinBox::valueFromText(withOwnSeparator(text));
 }
+
+QString DecimalSpinBox::textFromValue(double value) const
+{
+    QString text = QDoubleSpinBox::textFromValue(value);
+    if (!text.contains(locale().decimalPoint()))
+        return text;
+    while (text.endsWith(locale().zeroDigit()))
+        text.chop(1);
+    if (text.endsWith(locale().decimalPoint()))
+        text.chop(1);
+    return text;
+}
+
+/// The toolkit measures the limits of the range, which have no decimals.
+QSize DecimalSpinBox::withDecimals(QSize size) const
+{
+    const QString longest = locale().decimalPoint() + QString(decimals(), QLatin1Char('0'));
+    size.rwidth() += fontMetrics().horizontalAdvance(longest);
+    return size;
+}
+
+QSize DecimalSpinBox::sizeHint() const
+{
+    return withDecimals(QDoubleSpinBox::sizeHint());
+}
+
+QSize DecimalSpinBox::minimumSizeHint() const
+{
+    return withDecimals(QDoubleSpinBox::minimumSizeHint());
+}
