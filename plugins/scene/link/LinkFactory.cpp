@@ -3,6 +3,7 @@
 #include "linkpath/Fresnel.h"
 #include "plugins/scene/link/LinkStates.h"
 #include "plugins/scene/link/LinkZones.h"
+#include "plugins/scene/mesh/Palette.h"
 #include "plugins/scene/mesh/Solids.h"
 
 #include <osg/Geode>
@@ -51,6 +52,11 @@ std::array<Station, 4> stationsOf(const osg::Vec3d &a, const osg::Vec3d &b, doub
     return {{{a, end}, {a + point, breadth}, {b - point, breadth}, {b, end}}};
 }
 
+void addHairline(Mesh &lines, const osg::Vec3d &a, const osg::Vec3d &b, const Color &color)
+{
+    lines.line(lines.vertex(a, {}, color), lines.vertex(b, {}, color));
+}
+
 void addBand(LineMesh &band, const std::array<Station, 4> &stations, const Color &color)
 {
     osg::Vec3d axis = stations[3].at - stations[0].at;
@@ -87,6 +93,7 @@ public:
         , m_appearance(appearance)
         , m_zones(links.size(), appearance)
         , m_hairlines(makeHairlineState())
+        , m_casings(makeCasingState(appearance))
     {
         for (const Opacity opacity : {Opacity::Opaque, Opacity::Translucent})
             m_lines[static_cast<std::size_t>(opacity)] = makeLineState(appearance, opacity);
@@ -142,6 +149,7 @@ private:
         std::array<LineMesh, 2> lines = {LineMesh(m_appearance.style),
                                          LineMesh(m_appearance.style)};
         Mesh hairlines(Mesh::Kind::Lines);
+        Mesh casings(Mesh::Kind::Lines);
         for (const LinkObject *link : links) {
             const Color color = link->color.value_or(m_appearance.color);
             if (color.a() == 0)
@@ -150,12 +158,16 @@ private:
             const osg::Vec3d b = link->b - origin;
             const Opacity opacity = opacityOf(color);
             addLine(lines[static_cast<std::size_t>(opacity)], a, b, color);
-            if (m_appearance.style != LinkStyle::Line && opacity == Opacity::Opaque)
-                hairlines.line(hairlines.vertex(a, {}, color), hairlines.vertex(b, {}, color));
+            if (opacity == Opacity::Translucent)
+                continue;
+            if (m_appearance.style != LinkStyle::Line)
+                addHairline(hairlines, a, b, color);
+            addHairline(casings, a, b, palette::edgeOf(color));
         }
         for (std::size_t i = 0; i < lines.size(); ++i)
             addDrawable(geode, lines[i].mesh, m_lines[i], lines[i].asides);
         addDrawable(geode, hairlines, m_hairlines);
+        addDrawable(geode, casings, m_casings);
     }
 
     void addLine(LineMesh &line, const osg::Vec3d &a, const osg::Vec3d &b, const Color &color) const
@@ -163,7 +175,7 @@ private:
         const auto stations = stationsOf(a, b, m_appearance.width);
         switch (m_appearance.style) {
         case LinkStyle::Line:
-            line.mesh.line(line.mesh.vertex(a, {}, color), line.mesh.vertex(b, {}, color));
+            addHairline(line.mesh, a, b, color);
             break;
         case LinkStyle::Tube:
             addPointedTube(line.mesh, stations, m_links.size() <= FewLinks ? 16 : 8, color);
@@ -211,6 +223,7 @@ private:
     const LinkAppearance &m_appearance;
     LinkZones m_zones;
     osg::ref_ptr<osg::StateSet> m_hairlines;
+    osg::ref_ptr<osg::StateSet> m_casings;
     std::array<osg::ref_ptr<osg::StateSet>, 2> m_lines; ///< by Opacity
 };
 

@@ -1,5 +1,7 @@
 #include "plugins/scene/link/LinkStates.h"
 
+#include "plugins/scene/mesh/Palette.h"
+
 #include <osg/BlendFunc>
 #include <osg/CullFace>
 #include <osg/Depth>
@@ -15,6 +17,7 @@ namespace {
 // The vectors from the eye to the points of a link differ in the link's direction only. Hence all
 // its vertices, also those behind the viewer, compute the same sideways direction.
 constexpr const char *BandVertices = R"(#version 120
+varying vec2 bend;
 void main()
 {
     vec3 aside = (gl_ModelViewMatrix * vec4(gl_MultiTexCoord0.xyz, 0.0)).xyz;
@@ -25,6 +28,7 @@ void main()
     float size = length(turned);
     if (size > 1e-6)
         aside = turned * (gl_MultiTexCoord0.w * length(aside) / size);
+    bend = vec2(gl_MultiTexCoord0.w, 1.0);
     gl_FrontColor = gl_Color;
     gl_BackColor = gl_Color;
     gl_Position = gl_ProjectionMatrix * vec4(middle + aside, 1.0);
@@ -75,32 +79,79 @@ void main()
 /// What the vertex shader states about the angle between a surface and the view.
 enum class Facing { Normal, Bend };
 
-/// The fragment shader of a surface that is darkest where the view is along it. An opaque surface
-/// is shaded as round without lights, never so dark that its colour differs from the legend. The
-/// opacity is the same in all directions, also along the link; the rim is slightly darker.
-std::string shading(Facing facing, Opacity opacity)
+/// Functions of a fragment shader: how much a surface faces the eye, its half width on the screen,
+/// and the distance of the fragment from its outline.
+constexpr const char *FacingByNormal = R"(
+varying vec3 normal;
+varying vec3 look;
+float facing()
 {
-    std::string text = "#version 120\n";
-    // `bend` has the place across an ellipsoid, and the sine of the angle between its axis and the
-    // view.
-    text += facing == Facing::Bend ? "varying vec2 bend;\n"
-                                     "float facing()\n"
-                                     "{\n"
-                                     "    return bend.y * sqrt(max(0.0, 1.0 - bend.x * bend.x));\n"
-                                     "}\n"
-                                   : "varying vec3 normal;\n"
-                                     "varying vec3 look;\n"
-                                     "float facing()\n"
-                                     "{\n"
-                                     "    return abs(dot(normalize(normal), normalize(look)));\n"
-                                     "}\n";
-    text += opacity == Opacity::Opaque ? "const float darkest = 0.55;\n"
-                                       : "const float darkest = 0.75;\n";
-    return text + "void main()\n"
-                  "{\n"
-                  "    float light = mix(darkest, 1.0, facing());\n"
-                  "    gl_FragColor = vec4(gl_Color.rgb * light, gl_Color.a);\n"
-                  "}\n";
+    return abs(dot(normalize(normal), normalize(look)));
+}
+float halfWidthPx()
+{
+    vec3 turned = fwidth(cross(normalize(normal), normalize(look)));
+    return 1.0 / max(length(turned), 1e-6);
+}
+float fromOutlinePx()
+{
+    float faced = facing();
+    return 0.5 * faced / max(length(vec2(dFdx(faced), dFdy(faced))), 1e-6);
+}
+)";
+
+// `bend` has the place across an ellipsoid, and the sine of the angle between its axis and the
+// view.
+constexpr const char *FacingByBend = R"(
+varying vec2 bend;
+float facing()
+{
+    return bend.y * sqrt(max(0.0, 1.0 - bend.x * bend.x));
+}
+float halfWidthPx()
+{
+    return 1.0 / max(fwidth(bend.x), 1e-6);
+}
+float fromOutlinePx()
+{
+    return (1.0 - abs(bend.x)) * halfWidthPx();
+}
+)";
+
+/// The outline has a constant width on the screen. What is too thin for it has none.
+constexpr const char *Shading = R"(
+void main()
+{
+    float light = mix(darkest, 1.0, facing());
+    float outline = (1.0 - smoothstep(1.0, 2.0, fromOutlinePx())) * smoothstep(1.5, 3.0, halfWidthPx());
+    gl_FragColor = vec4(gl_Color.rgb * mix(light, edgeShare, outline),
+                        mix(gl_Color.a, 1.0, outline));
+}
+)";
+
+constexpr int FlatPercent = 100;
+constexpr int OpaqueRoundPercent = 55;
+constexpr int TranslucentRoundPercent = 75;
+
+/// The fragment shader of a surface with a dark outline. A round one has no lights, it is darker
+/// where the view is along it, never so dark that its colour differs from the legend. The opacity
+/// is the same in all directions, also along the link.
+///
+/// @param darkestPercent  brightness where the view is along the surface
+std::string shading(Facing facing, int darkestPercent)
+{
+    const auto share = [](const char *name, int percent) {
+        return std::string("const float ") + name + " = " + std::to_string(percent) +
+               ".0 / 100.0;\n";
+    };
+    return "#version 120\n" + share("darkest", darkestPercent) +
+           share("edgeShare", static_cast<int>(100 * palette::EdgeShare)) +
+           (facing == Facing::Bend ? FacingByBend : FacingByNormal) + Shading;
+}
+
+int darkestPercent(Opacity opacity)
+{
+    return opacity == Opacity::Opaque ? OpaqueRoundPercent : TranslucentRoundPercent;
 }
 
 osg::ref_ptr<osg::Program> makeProgram(const char *vertices, const std::string &fragments = {})
@@ -139,12 +190,15 @@ osg::ref_ptr<osg::StateSet> makeZoneState(Opacity opacity, osg::Program *program
     return state;
 }
 
+constexpr int CasingBin = 11; ///< after translucent drawables
+constexpr double HairlinePx = 1.5;
+constexpr double CasingPx = 1; ///< on each side of a line
+
 /// Draws a line after the zone around it, over its near wall. Otherwise a zone that is as thin as
 /// the line would hide parts of the line.
 void drawAfterZones(osg::StateSet &state)
 {
-    constexpr int AfterTranslucentBin = 11;
-    state.setRenderBinDetails(AfterTranslucentBin, "RenderBin");
+    state.setRenderBinDetails(CasingBin + 1, "RenderBin");
 }
 
 } // namespace
@@ -159,11 +213,11 @@ osg::ref_ptr<osg::StateSet> makeLineState(const LinkAppearance &appearance, Opac
     case LinkStyle::Tube:
         state->setAttributeAndModes(new osg::CullFace(osg::CullFace::BACK));
         state->setAttributeAndModes(
-            makeProgram(FacingVertices, shading(Facing::Normal, Opacity::Opaque)));
+            makeProgram(FacingVertices, shading(Facing::Normal, OpaqueRoundPercent)));
         break;
     case LinkStyle::Billboard:
         state->setMode(GL_CULL_FACE, osg::StateAttribute::OFF);
-        state->setAttributeAndModes(makeProgram(BandVertices));
+        state->setAttributeAndModes(makeProgram(BandVertices, shading(Facing::Bend, FlatPercent)));
         break;
     }
     if (opacity == Opacity::Translucent)
@@ -175,19 +229,31 @@ osg::ref_ptr<osg::StateSet> makeLineState(const LinkAppearance &appearance, Opac
 osg::ref_ptr<osg::StateSet> makeHairlineState()
 {
     osg::ref_ptr<osg::StateSet> state = unlit();
-    state->setAttributeAndModes(new osg::LineWidth(1));
+    state->setAttributeAndModes(new osg::LineWidth(HairlinePx));
     drawAfterZones(*state);
+    return state;
+}
+
+osg::ref_ptr<osg::StateSet> makeCasingState(const LinkAppearance &appearance)
+{
+    const double linePx = appearance.style == LinkStyle::Line ? appearance.width : HairlinePx;
+    osg::ref_ptr<osg::StateSet> state = unlit();
+    state->setAttributeAndModes(new osg::LineWidth(static_cast<float>(linePx + 2 * CasingPx)));
+    state->setAttributeAndModes(new osg::Depth(osg::Depth::LESS, 0, 1, false));
+    state->setRenderBinDetails(CasingBin, "RenderBin");
     return state;
 }
 
 osg::ref_ptr<osg::StateSet> makeEllipsoidState(Opacity opacity)
 {
-    return makeZoneState(opacity, makeProgram(FacingVertices, shading(Facing::Normal, opacity)));
+    return makeZoneState(
+        opacity, makeProgram(FacingVertices, shading(Facing::Normal, darkestPercent(opacity))));
 }
 
 osg::ref_ptr<osg::StateSet> makeStripState(Opacity opacity)
 {
-    return makeZoneState(opacity, makeProgram(StripVertices, shading(Facing::Bend, opacity)));
+    return makeZoneState(
+        opacity, makeProgram(StripVertices, shading(Facing::Bend, darkestPercent(opacity))));
 }
 
 } // namespace vlt::scene

@@ -22,6 +22,10 @@ osg::ref_ptr<osg::StateSet> makeLineState(const LinkAppearance &appearance, Opac
 /// and bands are too thin.
 osg::ref_ptr<osg::StateSet> makeHairlineState();
 
+/// The state of the dark casings of opaque lines and hairlines. All of them are drawn before the
+/// first line, so that crossings of links stay clear. Near tubes and bands have outlines instead.
+osg::ref_ptr<osg::StateSet> makeCasingState(const LinkAppearance &appearance);
+
 /// The state of Fresnel ellipsoids, which all have the same colour.
 osg::ref_ptr<osg::StateSet> makeEllipsoidState(Opacity opacity);
 
