@@ -15,12 +15,6 @@ constexpr double MinReliefM = 140; ///< colours of flatter ground differ less
 constexpr int FadeCells = 5;       ///< to ground without heights
 constexpr std::array<int, 2> Steps = {-1, 1};
 
-/// Colours from the lowest to the highest ground: pale, so that sites and links stand out, and
-/// without a pure green, which is a colour of clearances.
-constexpr std::array<Rgb, 5> Earth = {
-    {{206, 209, 184}, {217, 212, 184}, {208, 192, 156}, {186, 165, 137}, {226, 222, 215}}};
-constexpr Rgb Water = {172, 193, 209};
-
 Rgb mixed(const Rgb &from, const Rgb &to, double share)
 {
     Rgb rgb{};

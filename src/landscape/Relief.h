@@ -15,6 +15,25 @@ inline constexpr Rgb Haze = {224, 231, 237};
 inline constexpr Rgb PlainGround = {214, 216, 208};
 /// Ground outside a terrain, which the air hides.
 inline constexpr Rgb UnknownGround = {221, 227, 231};
+/// Colours of terrain from the lowest to the highest ground: pale, so that sites and links stand
+/// out, and without a pure green, which is a colour of clearances.
+inline constexpr std::array<Rgb, 5> Earth = {
+    {{206, 209, 184}, {217, 212, 184}, {208, 192, 156}, {186, 165, 137}, {226, 222, 215}}};
+inline constexpr Rgb Water = {172, 193, 209};
+
+/// A colour of the sky by the height above the horizon.
+struct SkyBand
+{
+    double elevationDeg;
+    Rgb rgb;
+};
+
+inline constexpr std::array<SkyBand, 6> SkyBands = {{{-90, Haze},
+                                                     {0, Haze},
+                                                     {2, {212, 224, 236}},
+                                                     {9, {180, 205, 230}},
+                                                     {28, {130, 171, 215}},
+                                                     {90, {96, 143, 199}}}};
 /// Direction to the sun, not normalised: in the south-west, behind the eye of most pictures.
 inline constexpr std::array<double, 3> Sun = {-0.85, -0.35, 0.6};
 

@@ -18,19 +18,6 @@ namespace {
 
 constexpr int BehindAll = -1000; ///< render bin
 
-/// A colour of the sky by the height above the horizon.
-struct Band
-{
-    double elevationDeg;
-    Rgb rgb;
-};
-
-constexpr std::array<Band, 6> Bands = {{{-90, Haze},
-                                        {0, Haze},
-                                        {2, {212, 224, 236}},
-                                        {9, {180, 205, 230}},
-                                        {28, {130, 171, 215}},
-                                        {90, {96, 143, 199}}}};
 constexpr double MaxSlopeDeg = 80; ///< from the middle of the picture; the rest is out of view
 
 /// Moves the bands of the sky to the horizon of the camera that draws them.
@@ -52,9 +39,9 @@ private:
         const double up = -view(2, 2); // z of the direction of the camera, in the scene
         const double pitchDeg = osg::RadiansToDegrees(std::asin(std::clamp(up, -1.0, 1.0)));
         auto &corners = static_cast<osg::Vec3Array &>(*m_sky.getVertexArray());
-        for (std::size_t i = 0; i < Bands.size(); ++i) {
+        for (std::size_t i = 0; i < SkyBands.size(); ++i) {
             const double slopeDeg =
-                std::clamp(Bands[i].elevationDeg - pitchDeg, -MaxSlopeDeg, MaxSlopeDeg);
+                std::clamp(SkyBands[i].elevationDeg - pitchDeg, -MaxSlopeDeg, MaxSlopeDeg);
             const double y = std::tan(osg::DegreesToRadians(slopeDeg)) * projection(1, 1);
             for (const std::size_t corner : {2 * i, 2 * i + 1})
                 corners[corner].y() = static_cast<float>(y);
@@ -62,7 +49,7 @@ private:
         // the picture is filled, however narrow the bands are
         for (const std::size_t side : {0, 1}) {
             corners[side].y() = std::min(corners[side].y(), -1.0F);
-            float &top = corners[2 * Bands.size() - 2 + side].y();
+            float &top = corners[2 * SkyBands.size() - 2 + side].y();
             top = std::max(top, 1.0F);
         }
         corners.dirty();
@@ -78,7 +65,7 @@ osg::ref_ptr<osg::Node> makeSky()
     osg::ref_ptr<osg::Geometry> sky = new osg::Geometry;
     const osg::ref_ptr<osg::Vec3Array> corners = new osg::Vec3Array;
     const osg::ref_ptr<osg::Vec4Array> colors = new osg::Vec4Array(osg::Array::BIND_PER_VERTEX);
-    for (const Band &band : Bands) {
+    for (const SkyBand &band : SkyBands) {
         for (const float x : {-1.0F, 1.0F}) {
             corners->push_back(osg::Vec3(x, 0, 0));
             colors->push_back(colorOf(band.rgb));
