@@ -3,6 +3,7 @@
 #include "buildings/ui/VltAddTexbPreviewPage.h"
 #include "support/Cases.h"
 
+#include <QListView>
 #include <QTabWidget>
 
 using namespace layerpage;
@@ -165,6 +166,22 @@ private Q_SLOTS:
         page.choose(u"m_pwCbWalls"_s, 0);
         QVERIFY(!tabs->isTabVisible(2));
         QCOMPARE(page.made(), Plain);
+    }
+
+    void namesItsImagesAndExplainsItsOptions()
+    {
+        DisplayPage page;
+        const auto *legend = page.child<QListView>(u"m_pwImages"_s);
+        QStringList heights;
+        for (int row = 0; row < legend->model()->rowCount(); ++row)
+            heights += legend->model()->index(row, 0).data().toString();
+        QVERIFY(legend->isVisibleTo(&page));
+        QCOMPARE(heights, QStringList({QLocale().toString(1.5) + u" m"_s, u"12 m"_s}));
+
+        QVERIFY(page.text(u"m_pwHelp"_s).startsWith(u"Roofs: the image nearest"_s));
+        QEvent reached(QEvent::Enter);
+        QCoreApplication::sendEvent(page.combo(u"m_pwCbCompression"_s), &reached);
+        QCOMPARE(page.text(u"m_pwHelp"_s), page.combo(u"m_pwCbCompression"_s)->toolTip());
     }
 
     void remembersEveryValue_data()

@@ -28,6 +28,7 @@ VltAddTexbPreviewPage::VltAddTexbPreviewPage(QWidget *wizard, SharedParameters &
     setForm(m_ui->m_pwGbPreview, m_ui->m_ptHbDrag, m_ui->m_pwLblDragText);
     connect(m_ui->m_pwColors, &VltBuildingColors::coloringWanted, this,
             [this] { m_ui->m_pwTabs->setCurrentWidget(m_ui->m_pwTabColoring); });
+    m_ui->m_pwHelp->explain(m_ui->m_pwTabs);
     showColoring();
 }
 
@@ -37,6 +38,7 @@ void VltAddTexbPreviewPage::initializePage()
 {
     m_images = vlt::buildings::publishedImages(parameters());
     m_images.removeIf([](const FileEntry &image) { return !image.used; });
+    m_ui->m_pwImages->setImages(m_images);
     VltBuildingLayerPage::initializePage();
     fitWidth();
     showColoring();
