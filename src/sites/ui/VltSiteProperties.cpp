@@ -2,6 +2,7 @@
 
 #include "sites/PylonQuery.h"
 #include "tables/ui/PanelParts.h"
+#include "text/RichText.h"
 #include "ui_SiteProperties.h"
 #include "wizard/base/OfferedNumber.h"
 #include "wizard/base/WheelGuard.h"
@@ -51,6 +52,7 @@ void VltSiteProperties::fillCombos()
 {
     // The swatches are drawn for screens of high density and shown at half their size.
     constexpr qreal Density = 2;
+    constexpr int PylonPx = 32;
     QSize iconSize(0, 0);
     for (const vlt::sites::SectorColorSet &set : m_catalogues.colorSets) {
         QPixmap swatch = QPixmap::fromImage(set.swatch);
@@ -61,8 +63,12 @@ void VltSiteProperties::fillCombos()
     m_ui->m_pwCbSectorColors->setIconSize(iconSize);
     QComboBox *pylons = m_ui->m_pwCbPylonType;
     for (const vlt::sites::PylonType &type : m_catalogues.pylonTypes) {
-        pylons->addItem(type.description);
+        const QIcon picture(QStringLiteral(":/pylons/%1.png").arg(type.type));
+        pylons->addItem(picture, type.description);
+        pylons->setItemData(pylons->count() - 1, vlt::text::asRichText(type.description),
+                            Qt::ToolTipRole);
     }
+    pylons->setIconSize({PylonPx, PylonPx});
     for (QComboBox *combo : {pylons, m_ui->m_pwCbSectorColors})
         vlt::tables::showWholeTexts(combo);
 }
