@@ -113,6 +113,10 @@ CommandSyntax syntax()
                     "Draw the legend: colors of sectors, of clearances, of values of buildings.")},
         {QStringLiteral("no-ground"),
          dico_label("MESS_OPT_NO_GROUND", "Show no ground below the layer.")},
+        {QStringLiteral("transparent"),
+         dico_label("MESS_OPT_TRANSPARENT",
+                    "Leave the background transparent: no sky and no level ground. A terrain stays "
+                    "unless --no-ground is given.")},
         {QStringLiteral("labels"),
          dico_label("MESS_OPT_LABELS",
                     "Names of sites and links: as many as suit the picture (some, the default), as "
@@ -188,6 +192,7 @@ Result<Request> readRequest(const QCommandLineParser &parser)
     request.labels = parser.value(QStringLiteral("labels"));
     if (!LabelValues.split(QLatin1Char('|')).contains(request.labels))
         return wrongValue(QStringLiteral("labels"), LabelValues, request.labels);
+    request.picture.isTransparent = parser.isSet(QStringLiteral("transparent"));
     request.withGround = !parser.isSet(QStringLiteral("no-ground"));
     return request;
 }
@@ -299,6 +304,8 @@ ExitStatus makePicture(const Request &request, const GlobalOptions &options,
     std::optional<snapshot::SceneGround> ground;
     if (request.withGround)
         ground.emplace(*scene.value(), terrain, request.terrain.has_value());
+    if (ground && request.picture.isTransparent)
+        ground->leaveOutPlane();
     if (ground && !request.imagery.isEmpty())
         ground->drape(request.imagery);
     const Result<QImage> picture =

@@ -34,6 +34,8 @@ void drawAids(QImage &picture, const PictureAids &aids, const ViewCamera &camera
 {
     AidStyle style;
     style.font.setPixelSize(fontPx(picture.size()));
+    if (picture.hasAlphaChannel())
+        style.plate.setAlpha(255); // texts are readable over any page
     const qreal gap = style.line() / 2;
     const QRectF free = QRectF(picture.rect()).adjusted(gap, gap, -gap, -gap);
     const qreal side = northArrowSide(style);

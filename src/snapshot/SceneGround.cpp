@@ -10,6 +10,7 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <osg/Group>
 #include <osg/ValueObject>
 
 #include <algorithm>
@@ -108,7 +109,9 @@ osg::ref_ptr<osg::Node> SceneGround::around(const osg::Vec3d &eye, const osg::Ve
         if (!levels.empty())
             return landscape::makeGroundNode(levels);
     }
-    return landscape::makePlaneNode(finest, m_heightM);
+    if (m_hasPlane)
+        return landscape::makePlaneNode(finest, m_heightM);
+    return new osg::Group;
 }
 
 std::function<osg::ref_ptr<osg::Node>(const osg::Vec3d &eye, const osg::Vec3d &target,

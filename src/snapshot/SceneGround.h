@@ -27,6 +27,9 @@ public:
     /// Lays a local image with a place on the earth over the ground.
     void drape(const QString &image);
 
+    /// Shows a terrain or an image only, no plane without these.
+    void leaveOutPlane() { m_hasPlane = false; }
+
     /// The reasons why a terrain or an image is not shown, as for language::readerText(); known
     /// after the ground is made.
     const QStringList &problems() const { return m_problems; }
@@ -42,6 +45,7 @@ private:
     std::unique_ptr<landscape::Terrain> m_terrain;
     std::unique_ptr<landscape::Imagery> m_imagery;
     double m_heightM = 0; ///< of the plane
+    bool m_hasPlane = true;
     QStringList m_problems;
 };
 

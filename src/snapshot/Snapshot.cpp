@@ -5,6 +5,7 @@
 #include "landscape/scene/Sky.h"
 #include "snapshot/OffscreenTarget.h"
 #include "snapshot/SceneEarth.h"
+#include "snapshot/Transparency.h"
 
 #include <osg/FrameBufferObject>
 #include <osgDB/DatabasePager>
@@ -76,6 +77,30 @@ void drawAll(osgViewer::Viewer &viewer)
     viewer.frame(0); // draws what the frame before has loaded
 }
 
+QImage readPicture(osg::GraphicsContext &context, const OffscreenTarget &target)
+{
+    context.makeCurrent();
+    QImage picture = target.read();
+    context.releaseContext();
+    return picture;
+}
+
+/// Draws once more, over black and over white: a half-transparent zone is right in this way,
+/// however many surfaces lie in front of each other.
+QImage transparentPicture(osgViewer::Viewer &viewer, osg::GraphicsContext &context,
+                          const OffscreenTarget &target)
+{
+    const auto over = [&](float brightness) {
+        viewer.getCamera()->setClearColor({brightness, brightness, brightness, 1});
+        viewer.frame(0);
+        return readPicture(context, target);
+    };
+    const QImage overBlack = over(0);
+    const QImage overWhite = over(1);
+    return overBlack.isNull() || overWhite.isNull() ? QImage()
+                                                    : withoutBackground(overBlack, overWhite);
+}
+
 void addAids(QImage &picture, const readingaids::PictureAids &aids, const osg::Node &scene,
              const ViewPoint &point)
 {
@@ -116,7 +141,8 @@ Result<QImage> renderSnapshot(osg::Node &scene, const PictureRequest &request, S
     context->releaseContext();
 
     const osg::ref_ptr<osg::Group> root = new osg::Group;
-    root->addChild(landscape::makeSky());
+    if (!request.isTransparent)
+        root->addChild(landscape::makeSky());
     if (ground)
         root->addChild(ground->around(point.value().eye, point.value().target));
     root->addChild(landscape::underLight(&scene));
@@ -128,10 +154,8 @@ Result<QImage> renderSnapshot(osg::Node &scene, const PictureRequest &request, S
     viewer.setSceneData(root);
     viewer.realize();
     drawAll(viewer);
-
-    context->makeCurrent();
-    QImage picture = target.read();
-    context->releaseContext();
+    QImage picture = request.isTransparent ? transparentPicture(viewer, *context, target)
+                                           : readPicture(*context, target);
     root->removeChildren(0, root->getNumChildren());
     if (picture.isNull())
         return noRoom;

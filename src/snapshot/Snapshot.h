@@ -25,11 +25,12 @@ struct PictureRequest
     QSize size; ///< width and height in pixels, both MinSidePx .. MaxSidePx
     SceneView view = SceneView::All;
     std::optional<ShownObject> object; ///< shown in place of the view; nothing: none
+    bool isTransparent = false;        ///< no sky; the background has an alpha of 0
     readingaids::PictureAids aids;     ///< drawing them needs a QGuiApplication
 };
 
-/// Draws a scene off screen, under a sky. Levels of detail are chosen by their real distances from
-/// the eye.
+/// Draws a scene off screen, under a sky or without a background. Levels of detail are chosen by
+/// their real distances from the eye.
 ///
 /// @param scene   x east, y north, z up, metres
 /// @param ground  under the scene; null: none

@@ -6,6 +6,8 @@
 #include <QJsonObject>
 #include <QSet>
 
+#include <cstdlib>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -111,6 +113,34 @@ private Q_SLOTS:
             const QRect part(corner, QSize(320, 240));
             QVERIFY(picture.copy(part) != other.copy(part));
         }
+    }
+
+    void leavesOutTheBackground()
+    {
+        QString translucent = Pylon;
+        translucent.replace(u"0000ffff"_s, u"0000ff80"_s); // two walls pass half of the light
+        const Run run = start({translucent, u"-o"_s, path(u"old.png"_s), u"--transparent"_s,
+                               u"--title"_s, u"A mast"_s, u"--view"_s, u"symbolic"_s});
+        QCOMPARE(run.errors, QByteArray());
+
+        const QImage picture(path(u"old.png"_s));
+        QVERIFY(picture.hasAlphaChannel());
+        int clear = 0;
+        int half = 0;
+        int opaque = 0;
+        for (int y = 100; y < picture.height(); ++y) { // below the title
+            for (int x = 0; x < picture.width(); ++x) {
+                const QColor color = picture.pixelColor(x, y);
+                clear += color.alpha() == 0;
+                opaque += color.alpha() == 255;
+                half += std::abs(color.alpha() - 128) < 3 && color.red() < 3 && color.blue() > 160;
+            }
+        }
+        const int hundredth = picture.width() * picture.height() / 100;
+        QVERIFY2(clear > 40 * hundredth && half > hundredth && opaque > hundredth,
+                 qPrintable(u"%1 %2 %3 of %4"_s.arg(clear).arg(half).arg(opaque).arg(hundredth)));
+        QCOMPARE(picture.pixelColor(picture.width() - 1, 0).alpha(), 0);
+        QCOMPARE(picture.pixelColor(30, 14).alpha(), 255); // the title's plate
     }
 
     void makesTheSamePictureTwice()

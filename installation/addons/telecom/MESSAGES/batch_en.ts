@@ -567,6 +567,10 @@
         <source>Image to lay over the ground: any local raster with a georeference, in colors, gray or with a palette.</source>
         <translation>Image to lay over the ground: any local raster with a georeference, in colors, gray or with a palette.</translation>
     </message>
+    <message id="MESS_OPT_TRANSPARENT">
+        <source>Leave the background transparent: no sky and no level ground. A terrain stays unless --no-ground is given.</source>
+        <translation>Leave the background transparent: no sky and no level ground. A terrain stays unless --no-ground is given.</translation>
+    </message>
     <message id="MESS_OPT_PICTURE_TITLE">
         <source>Title on the picture, in its upper left corner.</source>
         <translation>Title on the picture, in its upper left corner.</translation>

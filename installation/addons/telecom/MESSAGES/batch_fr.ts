@@ -567,6 +567,10 @@
         <source>Image to lay over the ground: any local raster with a georeference, in colors, gray or with a palette.</source>
         <translation>Image à poser sur le sol : tout raster local géoréférencé, en couleurs, en niveaux de gris ou avec palette.</translation>
     </message>
+    <message id="MESS_OPT_TRANSPARENT">
+        <source>Leave the background transparent: no sky and no level ground. A terrain stays unless --no-ground is given.</source>
+        <translation>Laisser le fond transparent : ni ciel ni sol plat. Un terrain reste, sauf avec --no-ground.</translation>
+    </message>
     <message id="MESS_OPT_PICTURE_TITLE">
         <source>Title on the picture, in its upper left corner.</source>
         <translation>Titre sur l'image, dans son coin supérieur gauche.</translation>
