@@ -21,13 +21,16 @@ void main()
 }
 )";
 
+/// The edges of a narrow face are fainter, so that its colour is seen.
 constexpr const char *Fragments = R"(
 varying vec2 place;
 void main()
 {
-    vec2 fromEdgePx = min(place, 1.0 - place) / max(fwidth(place), vec2(1e-6));
+    vec2 sizePx = 1.0 / max(fwidth(place), vec2(1e-6));
+    vec2 fromEdgePx = min(place, 1.0 - place) * sizePx;
     float px = min(fromEdgePx.x, fromEdgePx.y) / unit();
-    float edge = clamp(1.75 - 1.25 * px, 0.0, 1.0);
+    float strength = clamp(min(sizePx.x, sizePx.y) / (10.0 * unit()), 0.3, 1.0);
+    float edge = clamp(1.75 - 1.25 * px, 0.0, 1.0) * strength;
     gl_FragColor = vec4(gl_Color.rgb * mix(1.0, edgeShare, edge), mix(gl_Color.a, 1.0, edge));
 }
 )";
