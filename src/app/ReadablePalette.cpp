@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <initializer_list>
 
 namespace vlt::app {
 
@@ -33,23 +34,32 @@ QColor mixed(const QColor &from, const QColor &to, float share)
                             part(from.blueF(), to.blueF()));
 }
 
+/// The first color on the way to another one that is readable on all grounds; else that one.
+QColor firstReadable(const QColor &from, const QColor &to, float share,
+                     std::initializer_list<QColor> grounds)
+{
+    constexpr float Step = 0.02F;
+    for (; share < 1; share += Step) {
+        const QColor tried = mixed(from, to, share);
+        if (std::all_of(grounds.begin(), grounds.end(), [&tried](const QColor &ground) {
+                return contrast(tried, ground) >= WantedContrast;
+            }))
+            return tried;
+    }
+    return to;
+}
+
 } // namespace
 
 QPalette readableHints(const QPalette &desktop)
 {
-    constexpr float Step = 0.02F;
-    const QColor ground = desktop.color(QPalette::Base);
+    const QColor fields = desktop.color(QPalette::Base);
+    const QColor page = desktop.color(QPalette::Window);
     const QColor text = desktop.color(QPalette::Text);
-    QColor hint = text;
-    for (float share = 0.5F; share < 1; share += Step) {
-        const QColor tried = mixed(ground, text, share);
-        if (contrast(tried, ground) >= WantedContrast) {
-            hint = tried;
-            break;
-        }
-    }
     QPalette palette;
-    palette.setColor(QPalette::PlaceholderText, hint);
+    palette.setColor(QPalette::PlaceholderText, firstReadable(fields, text, 0.5F, {fields}));
+    for (const QPalette::ColorRole link : {QPalette::Link, QPalette::LinkVisited})
+        palette.setColor(link, firstReadable(desktop.color(link), text, 0, {fields, page}));
     return palette;
 }
 

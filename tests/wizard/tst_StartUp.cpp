@@ -53,9 +53,16 @@ private Q_SLOTS:
         QFETCH(int, lightest);
         QPalette desktop;
         desktop.setColor(QPalette::Base, ground);
+        desktop.setColor(QPalette::Window, ground);
+        desktop.setColor(QPalette::Link, Qt::blue);
         desktop.setColor(QPalette::Text, text);
         const int hint = readableHints(desktop).color(QPalette::PlaceholderText).red();
         QVERIFY2(hint >= darkest && hint <= lightest, qPrintable(QString::number(hint, 16)));
+        const QColor link = readableHints(desktop).color(QPalette::Link);
+        if (ground == Qt::white)
+            QCOMPARE(link.name(), u"#0000ff"_s);
+        else
+            QVERIFY2(link.blue() == 0xff && link.red() >= 0x60, qPrintable(link.name()));
     }
 
     void composesStyleSheets()
