@@ -272,7 +272,9 @@ private:
         m_painter.setPen(ink());
         text(line, side,
              QFontMetricsF(m_style.font)
-                 .elidedText(site.isEmpty() ? letter : letter + QStringLiteral(": ") + site,
+                 .elidedText(site.isEmpty()
+                                 ? letter
+                                 : dico_label("MESS_FILE_REASON", "%1: %2").arg(letter, site),
                              Qt::ElideRight, line.width() - m_line / 2));
         m_painter.setPen(ink(0.8));
         if (!m_isShort)
