@@ -12,6 +12,7 @@
 #include "platform/AtomicFile.h"
 #include "snapshot/CityView.h"
 #include "snapshot/DrawnBuildings.h"
+#include "snapshot/JoinedScenes.h"
 #include "snapshot/SceneEarth.h"
 #include "snapshot/SceneGround.h"
 #include "snapshot/SceneNotices.h"
@@ -20,6 +21,7 @@
 
 #include <QBuffer>
 #include <QFileInfo>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QRegularExpression>
@@ -43,12 +45,13 @@ constexpr NamedView Views[] = {{"all", SceneView::All},
                                {"symbolic", SceneView::Symbolic},
                                {"precise", SceneView::Precise}};
 const QString ViewNames = QStringLiteral("all|north|top|symbolic|precise|site:ID|link:ID");
+constexpr int MostLayers = 8;
 const QString LabelValues = QStringLiteral("none|some|all");
 
 /// The values of the command line.
 struct Request
 {
-    QString layer;
+    QStringList layers; ///< at least one
     QString output;
     QString viewName;
     snapshot::PictureRequest picture;
@@ -63,16 +66,17 @@ CommandSyntax syntax()
 {
     CommandSyntax syntax;
     syntax.name = QStringLiteral("snapshot");
-    syntax.usage = QStringLiteral("LAYER -o PICTURE.png");
+    syntax.usage = QStringLiteral("LAYER [LAYER...] -o PICTURE.png");
     syntax.summary = dico_label("MESS_HELP_SNAPSHOT_SUMMARY", "make a picture of a layer");
     syntax.description = dico_label(
         "MESS_HELP_SNAPSHOT", "Makes a picture (PNG) of a layer or of another scene file. It needs "
                               "an X server; xvfb-run provides one on a computer without a screen.");
     syntax.inputs = {
-        1, 1, QStringLiteral("LAYER"),
+        1, MostLayers, QStringLiteral("LAYER"),
         dico_label("MESS_HELP_SNAPSHOT_LAYER",
                    "Layer (.lay), building document (.texb), any scene file that the scene library "
-                   "reads, or a parametric object inline://parametric/query?..."),
+                   "reads, or a parametric object inline://parametric/query?... Several layers "
+                   "are shown together at their places."),
         dico_label("MESS_USE_NO_LAYER", "no layer given")};
     syntax.options = {
         {{QStringLiteral("o"), QStringLiteral("output")},
@@ -128,6 +132,8 @@ CommandSyntax syntax()
                        "  vltlayers snapshot sites.lay --terrain dem.tif -o sites.png\n"
                        "  vltlayers snapshot sites.lay --project city.gvw --view symbolic \\\n"
                        "      --size 1920x1080 -o sectors.png\n"
+                       "  vltlayers snapshot sites.lay links.lay --project city.gvw \\\n"
+                       "      --north --legend -o network.png\n"
                        "  vltlayers snapshot links.lay --project city.gvw -o links.png\n"
                        "  xvfb-run -a vltlayers snapshot sites.lay --view precise -o mast.png\n");
     return syntax;
@@ -158,7 +164,7 @@ std::optional<SceneView> viewFrom(const QString &name)
 Result<Request> readRequest(const QCommandLineParser &parser)
 {
     Request request;
-    request.layer = parser.positionalArguments().constFirst();
+    request.layers = parser.positionalArguments();
     request.output = parser.value(QStringLiteral("output"));
     if (request.output.isEmpty())
         return wrongUsage(
@@ -233,10 +239,12 @@ QJsonObject descriptionOf(const osg::Node &scene)
 
 bool printReport(const Request &request, const osg::Node &scene)
 {
-    const bool isParametric = snapshot::isParametricName(request.layer);
+    QStringList layers;
+    for (const QString &layer : request.layers)
+        layers << (snapshot::isParametricName(layer) ? layer : QFileInfo(layer).absoluteFilePath());
     const QJsonObject object{
-        {QStringLiteral("layer"),
-         isParametric ? request.layer : QFileInfo(request.layer).absoluteFilePath()},
+        {QStringLiteral("layer"), layers.first()},
+        {QStringLiteral("layers"), QJsonArray::fromStringList(layers)},
         {QStringLiteral("picture"), QFileInfo(request.output).absoluteFilePath()},
         {QStringLiteral("width"), request.picture.size.width()},
         {QStringLiteral("height"), request.picture.size.height()},
@@ -249,7 +257,7 @@ bool printReport(const Request &request, const osg::Node &scene)
 ExitStatus refuseLayer(Error error, const Request &request)
 {
     if (error.path.isEmpty())
-        error.path = request.layer;
+        error.path = request.layers.first();
     return refuse(error);
 }
 
@@ -257,8 +265,25 @@ Result<snapshot::Scene> readScene(const Request &request, const GlobalOptions &o
                                   const QString &terrain)
 {
     ProgressLine line(dico_label("MESS_CLI_READING_SCENE", "Reading the scene"), !options.quiet);
-    // The progress line never stops the work, so there is a value.
-    return *snapshot::readScene(request.layer, options.projectPath, terrain, line.progress());
+    QList<snapshot::Scene> scenes;
+    for (const QString &layer : request.layers) {
+        // The progress line never stops the work, so there is a value.
+        const Result<snapshot::Scene> scene =
+            *snapshot::readScene(layer, options.projectPath, terrain, line.progress());
+        if (!scene)
+            return scene.error().path.isEmpty() ? scene.error().withPath(layer) : scene.error();
+        // several layers may name the same sites
+        snapshot::showNames(*scene.value(), scenes.isEmpty()
+                                                ? request.labels
+                                                : QLatin1String(contract::names::None));
+        scenes << scene.value();
+    }
+    if (const snapshot::Scene all = snapshot::joined(scenes))
+        return all;
+    return Error{QStringLiteral("MESS_SNAP_NOT_JOINED"),
+                 QStringLiteral("one of the scenes does not state where on the earth it lies: they "
+                                "cannot be shown together"),
+                 {}};
 }
 
 /// Writes the picture; returns an exit status only after a failure.
@@ -300,7 +325,6 @@ ExitStatus makePicture(const Request &request, const GlobalOptions &options,
     snapshot::PictureRequest wanted = request.picture;
     if (request.withLegend)
         wanted.aids.legend = snapshot::readingOf(scene.value()).legend;
-    snapshot::showNames(*scene.value(), request.labels);
     std::optional<snapshot::SceneGround> ground;
     if (request.withGround)
         ground.emplace(*scene.value(), terrain, request.terrain.has_value());
@@ -340,13 +364,17 @@ ExitStatus run(const QCommandLineParser &parser, const GlobalOptions &options)
     if (!surroundings)
         return refuse(surroundings.error());
     const QString output = request.value().output;
-    if (isOneOf(output, {request.value().layer, options.projectPath, request.value().imagery}))
+    const QStringList &layers = request.value().layers;
+    if (isOneOf(output, layers + QStringList{options.projectPath, request.value().imagery}))
         return refuse(outputIsInput(output));
-    if (isTable(request.value().layer))
-        return refuse({QStringLiteral("MESS_CLI_TABLE_NO_SCENE"),
-                       QStringLiteral("this is a table: make a layer of it with \"vltlayers site\" "
-                                      "or \"vltlayers link\" first"),
-                       request.value().layer});
+    for (const QString &layer : layers) {
+        if (isTable(layer))
+            return refuse(
+                {QStringLiteral("MESS_CLI_TABLE_NO_SCENE"),
+                 QStringLiteral("this is a table: make a layer of it with \"vltlayers site\" "
+                                "or \"vltlayers link\" first"),
+                 layer});
+    }
     snapshot::addInstalledReaders(surroundings.value().installDir);
     return makePicture(request.value(), options, surroundings.value().project.terrainFile);
 }

@@ -1,17 +1,53 @@
 #include "ObjectScene.h"
 #include "contract/ScenePlace.h"
+#include "snapshot/JoinedScenes.h"
 #include "snapshot/ObjectView.h"
+#include "snapshot/SceneEarth.h"
 #include "snapshot/ViewPoint.h"
 #include "support/Cases.h"
 
 #include <ogr_spatialref.h>
 
 #include <osg/Geode>
+#include <osg/MatrixTransform>
 #include <osg/Shape>
 #include <osg/ShapeDrawable>
 
 using namespace Qt::StringLiterals;
 using vlt::snapshot::SceneView;
+
+namespace {
+
+/// A scene that states its place; 0: none.
+osg::ref_ptr<osg::Group> placed(int epsg, const QString &centre)
+{
+    osg::ref_ptr<osg::Group> scene = new osg::Group;
+    if (epsg == 0)
+        return scene;
+    OGRSpatialReference system;
+    system.importFromEPSG(epsg);
+    char *wkt = nullptr;
+    system.exportToWkt(&wkt);
+    scene->setUserValue(vlt::contract::place::System, std::string(wkt));
+    CPLFree(wkt);
+    scene->addDescription("centre=" + centre.toStdString());
+    return scene;
+}
+
+/// A place of Lambert 93 in UTM zone 30, whose grid north differs by 5 degrees there.
+QString inZone30(vlt::contract::Place place)
+{
+    OGRSpatialReference lambert;
+    OGRSpatialReference zone;
+    lambert.importFromEPSG(2154);
+    zone.importFromEPSG(32630);
+    const std::unique_ptr<OGRCoordinateTransformation> into(
+        OGRCreateCoordinateTransformation(&lambert, &zone));
+    into->Transform(1, &place.x, &place.y);
+    return QStringLiteral("%1 %2").arg(place.x, 0, 'f', 2).arg(place.y, 0, 'f', 2);
+}
+
+} // namespace
 
 class tst_ViewPoint : public QObject
 {
@@ -37,17 +73,10 @@ private Q_SLOTS:
         QFETCH(bool, isCity);
         QFETCH(double, bearing);
         QFETCH(double, steepness);
-        osg::ref_ptr<osg::Geode> scene = new osg::Geode;
-        scene->addDrawable(new osg::ShapeDrawable(new osg::Box(osg::Vec3(), 300, 200, 10)));
-        if (!place.isEmpty()) {
-            OGRSpatialReference lambert;
-            lambert.importFromEPSG(2154);
-            char *wkt = nullptr;
-            lambert.exportToWkt(&wkt);
-            scene->setUserValue(vlt::contract::place::System, std::string(wkt));
-            CPLFree(wkt);
-            scene->addDescription("centre=" + place.toStdString());
-        }
+        const osg::ref_ptr<osg::Group> scene = placed(place.isEmpty() ? 0 : 2154, place);
+        osg::ref_ptr<osg::Geode> box = new osg::Geode;
+        box->addDrawable(new osg::ShapeDrawable(new osg::Box(osg::Vec3(), 300, 200, 10)));
+        scene->addChild(box);
         if (isCity)
             scene->addDescription("buildings=1");
 
@@ -102,6 +131,44 @@ private Q_SLOTS:
         QVERIFY2(filled > 1.45 && filled < 2, QByteArray::number(filled));
         for (const osg::Vec3d &seen : {first, last})
             QVERIFY(std::abs(seen.x()) < 1 && std::abs(seen.y()) < 1);
+    }
+
+    void joinsScenesAtTheirPlaces_data()
+    {
+        // east, north: of the second scene's point from the first one's origin
+        const Cases<int, QString, double, double> row({"epsg", "centre", "east", "north"});
+        row("the same system", 2154, "220300 6754400", 1300, 400);
+        row("another system", 32630, inZone30({220300, 6754400}), 1300, 400);
+        row("no place", 0, "", 0, 0);
+    }
+    void joinsScenesAtTheirPlaces()
+    {
+        QFETCH(int, epsg);
+        QFETCH(QString, centre);
+        QFETCH(double, east);
+        QFETCH(double, north);
+        const auto first = placed(2154, u"219000 6754000"_s);
+        const auto second = placed(epsg, centre);
+        second->setUserValue("vlt.legend", std::string("link\t00000000\n"));
+
+        const vlt::snapshot::Scene all = vlt::snapshot::joined({first, second});
+        QCOMPARE(all.valid(), epsg != 0);
+        if (epsg == 0)
+            return;
+        const auto &moved = dynamic_cast<osg::MatrixTransform &>(*all->asGroup()->getChild(1));
+        const osg::Vec3d origin = osg::Vec3d() * moved.getMatrix();
+        QVERIFY2(std::hypot(origin.x() - east, origin.y() - north) < 1,
+                 qPrintable(u"%1 %2"_s.arg(origin.x()).arg(origin.y())));
+        // a step to true north in one scene is one in the other, too
+        const auto bearing = [](const vlt::snapshot::Scene &scene, double x, double y) {
+            return vlt::snapshot::NorthAtPlace(vlt::snapshot::frameOf(*scene))({x, y});
+        };
+        const double turn = osg::DegreesToRadians(bearing(second, 0, 0));
+        const osg::Vec3d step =
+            osg::Vec3d(std::sin(turn), std::cos(turn), 0) * moved.getMatrix() - origin;
+        QVERIFY(std::abs(osg::RadiansToDegrees(std::atan2(step.x(), step.y())) -
+                         bearing(all, east, north)) < 0.01);
+        QCOMPARE(vlt::snapshot::legendTextOf(*all), std::string("link\t00000000\n"));
     }
 
     void namesSimilarObjects()

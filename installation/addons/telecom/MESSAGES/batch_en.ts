@@ -540,8 +540,8 @@
         <translation>Makes a picture (PNG) of a layer or of another scene file. It needs an X server; xvfb-run provides one on a computer without a screen.</translation>
     </message>
     <message id="MESS_HELP_SNAPSHOT_LAYER">
-        <source>Layer (.lay), building document (.texb), any scene file that the scene library reads, or a parametric object inline://parametric/query?...</source>
-        <translation>Layer (.lay), building document (.texb), any scene file that the scene library reads, or a parametric object inline://parametric/query?...</translation>
+        <source>Layer (.lay), building document (.texb), any scene file that the scene library reads, or a parametric object inline://parametric/query?... Several layers are shown together at their places.</source>
+        <translation>Layer (.lay), building document (.texb), any scene file that the scene library reads, or a parametric object inline://parametric/query?... Several layers are shown together at their places.</translation>
     </message>
     <message id="MESS_USE_NO_LAYER">
         <source>no layer given</source>

@@ -540,8 +540,8 @@
         <translation>Crée une image (PNG) d'une couche ou d'un autre fichier de scène. Un serveur X est nécessaire&#xa0;; sans écran, xvfb-run en fournit un.</translation>
     </message>
     <message id="MESS_HELP_SNAPSHOT_LAYER">
-        <source>Layer (.lay), building document (.texb), any scene file that the scene library reads, or a parametric object inline://parametric/query?...</source>
-        <translation>Couche (.lay), document de bâtiments (.texb), tout fichier de scène que la bibliothèque de scènes sait lire, ou un objet paramétrique inline://parametric/query?...</translation>
+        <source>Layer (.lay), building document (.texb), any scene file that the scene library reads, or a parametric object inline://parametric/query?... Several layers are shown together at their places.</source>
+        <translation>Couche (.lay), document de bâtiments (.texb), tout fichier de scène que la bibliothèque de scènes sait lire, ou un objet paramétrique inline://parametric/query?... Plusieurs couches sont montrées ensemble, à leur place.</translation>
     </message>
     <message id="MESS_USE_NO_LAYER">
         <source>no layer given</source>

@@ -55,5 +55,9 @@
         <source>%1; similar names: %2</source>
         <translation>%1; similar names: %2</translation>
     </message>
+    <message id="MESS_SNAP_NOT_JOINED">
+        <source>one of the scenes does not state where on the earth it lies: they cannot be shown together</source>
+        <translation>one of the scenes does not state where on the earth it lies: they cannot be shown together</translation>
+    </message>
 </context>
 </TS>

@@ -55,5 +55,9 @@
         <source>%1; similar names: %2</source>
         <translation>%1&#xa0;; noms proches&#xa0;: %2</translation>
     </message>
+    <message id="MESS_SNAP_NOT_JOINED">
+        <source>one of the scenes does not state where on the earth it lies: they cannot be shown together</source>
+        <translation>une des scènes n'indique pas sa place sur la Terre&#xa0;: elles ne peuvent pas être montrées ensemble</translation>
+    </message>
 </context>
 </TS>
