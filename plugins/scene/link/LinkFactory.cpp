@@ -7,10 +7,12 @@
 #include "plugins/scene/mesh/Solids.h"
 
 #include <osg/Geode>
+#include <osg/LOD>
 #include <osg/MatrixTransform>
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace vlt::scene {
 
@@ -133,18 +135,40 @@ private:
         }
         const osg::Vec3d origin = ends.center();
         osg::ref_ptr<osg::Geode> geode = new osg::Geode;
-        addLines(*geode, links, origin);
+        osg::ref_ptr<osg::Geode> casings = new osg::Geode;
+        addLines(*geode, *casings, links, origin);
         // Vertices in single precision need small coordinates: optimisers must keep the transform.
         osg::ref_ptr<osg::MatrixTransform> place =
             new osg::MatrixTransform(osg::Matrixd::translate(origin));
         place->setDataVariance(osg::Object::DYNAMIC);
         if (geode->getNumDrawables() > 0)
             place->addChild(geode);
+        if (casings->getNumDrawables() > 0)
+            place->addChild(whereLinksAreApart(casings, links, ends));
         addZones(*place, links, origin);
         return place;
     }
 
-    void addLines(osg::Geode &geode, const Picked &links, const osg::Vec3d &origin) const
+    /// Casings of links that are close together on the screen would hide the ground between them.
+    static osg::ref_ptr<osg::Node> whereLinksAreApart(osg::Geode *casings, const Picked &links,
+                                                      const osg::BoundingBoxd &ends)
+    {
+        constexpr std::size_t Few = 16;
+        constexpr double Room =
+            100; ///< distance / that between links: they are about 15 pixels apart
+        if (links.size() <= Few)
+            return casings;
+        const osg::Vec3d size = ends._max - ends._min;
+        const double apartM =
+            (size.x() + size.y()) / 2 / std::sqrt(static_cast<double>(links.size()));
+        osg::ref_ptr<osg::LOD> seen = new osg::LOD;
+        seen->addChild(casings, 0,
+                       static_cast<float>(Room * apartM + casings->getBound().radius()));
+        return seen;
+    }
+
+    void addLines(osg::Geode &geode, osg::Geode &cased, const Picked &links,
+                  const osg::Vec3d &origin) const
     {
         std::array<LineMesh, 2> lines = {LineMesh(m_appearance.style),
                                          LineMesh(m_appearance.style)};
@@ -167,7 +191,7 @@ private:
         for (std::size_t i = 0; i < lines.size(); ++i)
             addDrawable(geode, lines[i].mesh, m_lines[i], lines[i].asides);
         addDrawable(geode, hairlines, m_hairlines);
-        addDrawable(geode, casings, m_casings);
+        addDrawable(cased, casings, m_casings);
     }
 
     void addLine(LineMesh &line, const osg::Vec3d &a, const osg::Vec3d &b, const Color &color) const
