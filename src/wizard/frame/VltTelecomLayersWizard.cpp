@@ -31,6 +31,9 @@ const QString SampleSites = QStringLiteral("sites.csv");
 
 // Enough for the settings of a result page and its preview.
 constexpr QSize ComfortableSize(1180, 680);
+// A large screen gives the view more space.
+constexpr QSize LargestSize(1920, 1200);
+constexpr double ShareOfScreen = 0.75;
 // Approximate size of the window frame.
 constexpr QSize FrameAllowance(20, 60);
 
@@ -65,7 +68,8 @@ void VltTelecomLayersWizard::restoreWindowGeometry()
     const QRect available = screen()->availableGeometry();
     const QSize room = available.size() - FrameAllowance;
     if (!restored) {
-        resize(ComfortableSize.boundedTo(room));
+        const QSize share = available.size() * ShareOfScreen;
+        resize(ComfortableSize.expandedTo(share).boundedTo(LargestSize).boundedTo(room));
     } else if (!isMaximized() && size() != size().boundedTo(room)) { // stored with a larger screen
         resize(size().boundedTo(room));
         move(available.topLeft());
