@@ -65,8 +65,8 @@ QStringList misfits(QWizard &wizard, const QSize &size)
 
 } // namespace
 
-/// The pages in the smallest windows that are supported. The scale of the screen is that of the
-/// process.
+/// The pages of tables, and those of buildings up to their source, in the smallest windows that are
+/// supported. The scale of the screen is that of the process.
 class tst_PageWidths : public QObject
 {
     Q_OBJECT
