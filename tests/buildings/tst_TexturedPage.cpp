@@ -341,6 +341,14 @@ private Q_SLOTS:
         QCOMPARE(page.published().size(), 2);
         QCOMPARE(page.published().constFirst().unit, 7);
         QVERIFY(!page.published().constFirst().used);
+
+        // Later saves compare with the last one, and notice that another program has saved.
+        page.table()->model()->setData(page.cell(0, 0), Qt::Checked, Qt::CheckStateRole);
+        QVERIFY(page.validatePage());
+        QCOMPARE(settings->value(u"used_0"_s).toString(), u"true"_s);
+        settings->setValue(u"fullPath_1"_s, u"/t/other.tif"_s);
+        QVERIFY(page.validatePage());
+        QCOMPARE(settings->value(u"fullPath_1"_s).toString(), u"/t/b.tif"_s);
     }
 
     void bearsDamagedSettings()

@@ -47,6 +47,22 @@ void writeEntry(QSettings &settings, qsizetype n, const FileEntry &entry)
     change(settings, DescriptionKey.arg(n), entry.description);
 }
 
+bool isSame(const FileEntry &a, const FileEntry &b)
+{
+    return a.height == b.height && a.unit == b.unit && a.used == b.used &&
+           a.shortName == b.shortName && a.description == b.description &&
+           a.file.filePath() == b.file.filePath();
+}
+
+/// Whether the settings have a list of images, by its number and ends: another program with these
+/// settings may have stored another one.
+bool has(const QSettings &settings, const QList<FileEntry> &images)
+{
+    return !images.isEmpty() && settings.value(FileCountKey).toInt() == images.size() &&
+           isSame(readEntry(settings, 0), images.constFirst()) &&
+           isSame(readEntry(settings, images.size() - 1), images.constLast());
+}
+
 void removeEntries(QSettings &settings, qsizetype first)
 {
     const qsizetype end = entryCount(settings);
@@ -78,19 +94,28 @@ TextureSettings readTextureSettings(QSettings &settings)
         if (!entry.file.filePath().isEmpty())
             textures.files += entry;
     }
+    constexpr qsizetype ValuesOfEntry = 6;
+    textures.isWhole = textures.files.size() == settings.value(FileCountKey, 0).toInt() &&
+                       settings.childKeys().filter(QChar(u'_')).size() == ValuesOfEntry * count;
     settings.endGroup();
     return textures;
 }
 
-void writeTextureSettings(QSettings &settings, const TextureSettings &textures)
+void writeTextureSettings(QSettings &settings, const TextureSettings &textures,
+                          const QList<FileEntry> &stored)
 {
     settings.beginGroup(Group);
-    removeEntries(settings, textures.files.size());
+    const bool isKnown = has(settings, stored);
+    if (!isKnown || stored.size() > textures.files.size())
+        removeEntries(settings, textures.files.size());
     change(settings, DataStructureKey, textures.dataStructure);
     change(settings, FilterKey, textures.filter);
     change(settings, FileCountKey, static_cast<int>(textures.files.size()));
-    for (qsizetype n = 0; n < textures.files.size(); ++n)
-        writeEntry(settings, n, textures.files.at(n));
+    for (qsizetype n = 0; n < textures.files.size(); ++n) {
+        const FileEntry &entry = textures.files.at(n);
+        if (!isKnown || n >= stored.size() || !isSame(entry, stored.at(n)))
+            writeEntry(settings, n, entry);
+    }
     settings.endGroup();
 }
 

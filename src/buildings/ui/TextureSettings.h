@@ -12,6 +12,7 @@ struct TextureSettings
     int dataStructure = 0; ///< position in the page's list
     QString filter;
     QList<FileEntry> files;
+    bool isWhole = false; ///< when read: each image has all of its values
 };
 
 /// Reads the values; images without a path are left out.
@@ -22,6 +23,10 @@ TextureSettings readTextureSettings(QSettings &settings);
 void change(QSettings &settings, const QString &key, const QVariant &value);
 
 /// Writes the values that have changed; entries of a longer old list are removed.
-void writeTextureSettings(QSettings &settings, const TextureSettings &textures);
+///
+/// @param stored  the images as they were written last; if the settings still have them, only these
+///                are compared, because thousands of stored values take long to read
+void writeTextureSettings(QSettings &settings, const TextureSettings &textures,
+                          const QList<FileEntry> &stored = {});
 
 } // namespace vlt::buildings

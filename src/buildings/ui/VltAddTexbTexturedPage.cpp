@@ -168,9 +168,11 @@ void VltAddTexbTexturedPage::saveSettings()
 {
     const auto settings = vlt::platform::wizardSettings();
     vlt::buildings::change(*settings, LastUsedDirKey, m_lastUsedDir);
-    vlt::buildings::writeTextureSettings(*settings,
-                                         {m_ui->m_pwCbDataStructure->currentIndex(),
-                                          m_ui->m_pwLeFilter->text(), m_model->entries()});
+    vlt::buildings::writeTextureSettings(
+        *settings,
+        {m_ui->m_pwCbDataStructure->currentIndex(), m_ui->m_pwLeFilter->text(), m_model->entries()},
+        m_stored);
+    m_stored = m_model->entries();
     vlt::buildings::publishImages(m_model->entries(), parameters());
 }
 
@@ -183,6 +185,8 @@ void VltAddTexbTexturedPage::restoreSettings()
     if (textures.dataStructure >= 0 && textures.dataStructure < structures)
         m_ui->m_pwCbDataStructure->setCurrentIndex(textures.dataStructure);
     m_model->setEntries(textures.files);
+    if (textures.isWhole)
+        m_stored = textures.files;
     m_ui->m_pwLeFilter->setText(textures.filter);
 }
 

@@ -73,5 +73,6 @@ private:
     QMenu *m_menu = nullptr;
     int m_nextId = -1;
     QString m_lastUsedDir;
+    QList<vlt::buildings::FileEntry> m_stored; ///< as the settings have them after a save
     bool m_isSearching = false;
 };
