@@ -204,16 +204,11 @@ Result<Request> readRequest(const QCommandLineParser &parser)
 }
 
 /// A notice if buildings are too far from the eye to be in a picture.
-QStringList drawnNotice(osg::Node &scene, const snapshot::PictureRequest &picture)
+QStringList drawnNotice(osg::Node &scene, const osg::Vec3d &eye)
 {
     const std::optional<qint64> all = snapshot::buildingCount(scene);
-    if (!all)
-        return {};
-    const double aspect = static_cast<double>(picture.size.width()) / picture.size.height();
-    const auto point = snapshot::findViewPoint(scene, picture.view, aspect);
     const QString text =
-        point ? buildings::drawnText(snapshot::drawnBuildings(scene, point.value().eye), *all)
-              : QString();
+        all ? buildings::drawnText(snapshot::drawnBuildings(scene, eye), *all) : QString();
     return text.isEmpty() ? QStringList() : QStringList(text);
 }
 
@@ -332,17 +327,17 @@ ExitStatus makePicture(const Request &request, const GlobalOptions &options,
         ground->leaveOutPlane();
     if (ground && !request.imagery.isEmpty())
         ground->drape(request.imagery);
-    const Result<QImage> picture =
+    const Result<snapshot::DrawnPicture> picture =
         snapshot::renderSnapshot(*scene.value(), wanted, ground ? &*ground : nullptr);
     if (!picture)
         return refuseLayer(picture.error(), request);
-    printNotices(drawnNotice(*scene.value(), request.picture), options);
+    printNotices(drawnNotice(*scene.value(), picture.value().eye), options);
     if (ground)
         printNotices(ground->problems(), options);
 
     QByteArray bytes;
     QBuffer buffer(&bytes);
-    if (!buffer.open(QIODevice::WriteOnly) || !picture.value().save(&buffer, "PNG"))
+    if (!buffer.open(QIODevice::WriteOnly) || !picture.value().image.save(&buffer, "PNG"))
         return refuse({QStringLiteral("MESS_SNAP_NOT_WRITTEN"),
                        QStringLiteral("the picture cannot be written"), request.output});
     if (const auto failed = writePicture(request.output, bytes))

@@ -115,7 +115,8 @@ void addAids(QImage &picture, const readingaids::PictureAids &aids, const osg::N
 
 } // namespace
 
-Result<QImage> renderSnapshot(osg::Node &scene, const PictureRequest &request, SceneGround *ground)
+Result<DrawnPicture> renderSnapshot(osg::Node &scene, const PictureRequest &request,
+                                    SceneGround *ground)
 {
     const QSize &size = request.size;
     const double aspect = static_cast<double>(size.width()) / size.height();
@@ -161,7 +162,7 @@ Result<QImage> renderSnapshot(osg::Node &scene, const PictureRequest &request, S
         return noRoom;
     if (!request.aids.isEmpty())
         addAids(picture, request.aids, scene, point.value());
-    return picture;
+    return DrawnPicture{picture, point.value().eye};
 }
 
 } // namespace vlt::snapshot

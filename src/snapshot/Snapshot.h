@@ -29,6 +29,12 @@ struct PictureRequest
     readingaids::PictureAids aids;     ///< drawing them needs a QGuiApplication
 };
 
+struct DrawnPicture
+{
+    QImage image;
+    osg::Vec3d eye; ///< from which it was drawn, in the frame of the scene
+};
+
 /// Draws a scene off screen, under a sky or without a background. Levels of detail are chosen by
 /// their real distances from the eye.
 ///
@@ -36,6 +42,7 @@ struct PictureRequest
 /// @param ground  under the scene; null: none
 /// @par Errors   MESS_SNAP_NO_DISPLAY without an X server that can draw, MESS_SNAP_NO_ROOM for a
 ///               picture too large for its memory; those of findViewPoint() and viewOfObject().
-Result<QImage> renderSnapshot(osg::Node &scene, const PictureRequest &request, SceneGround *ground);
+Result<DrawnPicture> renderSnapshot(osg::Node &scene, const PictureRequest &request,
+                                    SceneGround *ground);
 
 } // namespace vlt::snapshot
