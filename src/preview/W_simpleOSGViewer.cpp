@@ -20,8 +20,8 @@ constexpr int RefreshMs = 10;
 /// Number of frames after a change: what one frame requests, such as another level of detail, is
 /// visible only in the next ones.
 constexpr int SettlingFrames = 3;
+constexpr int RestMs = 150; ///< after which a camera has come to rest
 constexpr int DepthBits = 24;
-constexpr int SamplesPerPixel = 4;
 constexpr double ClickTolerance = 4; ///< maximum movement of the mouse in a click, in pixels
 constexpr double MinRadiusM = 20;    ///< of the visible part: a single site has no extent at first
 constexpr double FlatShare = 0.2;
@@ -51,7 +51,6 @@ QSurfaceFormat W_simpleOSGViewer::defaultFormat()
     format.setVersion(2, 1);
     format.setProfile(QSurfaceFormat::CompatibilityProfile);
     format.setDepthBufferSize(DepthBits);
-    format.setSamples(SamplesPerPixel);
     return format;
 }
 
@@ -108,6 +107,7 @@ W_simpleOSGViewer::~W_simpleOSGViewer()
             getSceneData()->releaseGLObjects(state);
         getCamera()->releaseGLObjects(state);
         osg::flushAllDeletedGLObjects(state->getContextID());
+        m_smooth.release();
         QOpenGLWidget::doneCurrent();
     }
     // The destructor of the viewer would look for OpenGL's functions without a context, and the
@@ -166,6 +166,7 @@ void W_simpleOSGViewer::initializeGL()
     if (m_wasInitialised) {
         if (getSceneData())
             getSceneData()->releaseGLObjects();
+        m_smooth.release();
         makeGraphicsWindow(nullptr);
     }
     m_wasInitialised = true;
@@ -185,9 +186,14 @@ bool W_simpleOSGViewer::needsFrame()
     const bool isDue =
         getSceneData() != m_drawnScene.get() || !events().empty() || m_trackBall->isTurning() ||
         m_trackBall->getInverseMatrix() != getCamera()->getViewMatrix() || checkNeedToDoFrame();
-    if (isDue)
+    if (isDue) {
         m_framesToDraw = SettlingFrames;
-    return m_framesToDraw > 0;
+        m_sinceChange.start();
+    }
+    // between the movements of a drag, the last frame would keep the next ones waiting
+    const bool isMoving = m_sinceChange.isValid() && m_sinceChange.elapsed() < RestMs;
+    const bool isPostponed = m_framesToDraw == 1 && isMoving && !m_smooth.isFast();
+    return m_framesToDraw > 0 && !isPostponed;
 }
 
 void W_simpleOSGViewer::paintGL()
@@ -197,8 +203,13 @@ void W_simpleOSGViewer::paintGL()
     // after a change of the screen, the pixel density may be another one
     if (QSizeF(viewport->width(), viewport->height()) != QSizeF(pixels))
         applySize(pixels);
-    m_graphicsWindow->setDefaultFboId(defaultFramebufferObject());
-    frame();
+    const bool isLast = m_framesToDraw <= 1; // nothing has changed since the one before
+    if (isLast || m_smooth.isFast()) {
+        m_smooth.draw(*m_graphicsWindow, pixels, defaultFramebufferObject(), [this] { frame(); });
+    } else {
+        m_graphicsWindow->setDefaultFboId(defaultFramebufferObject());
+        frame();
+    }
     m_drawnScene = getSceneData();
     m_framesToDraw = std::max(m_framesToDraw - 1, 0);
     const double distance = std::max(m_trackBall->getDistance(), 1.0);

@@ -1,8 +1,10 @@
 #pragma once
 
 #include "preview/CameraPose.h"
+#include "preview/SmoothFrame.h"
 #include "preview/Surroundings.h"
 
+#include <QElapsedTimer>
 #include <QMetaType>
 #include <QOpenGLWidget>
 #include <QSurfaceFormat>
@@ -39,7 +41,7 @@ public:
                                Qt::WindowFlags flags = {});
     ~W_simpleOSGViewer() override;
 
-    /// Compatibility profile, depth buffer, four samples per pixel.
+    /// Compatibility profile, depth buffer.
     static QSurfaceFormat defaultFormat();
 
     /// Whether this system supports such a widget. If not, no object may be created.
@@ -150,6 +152,8 @@ private:
     bool m_wasShown = false;
     osg::observer_ptr<osg::Node> m_drawnScene;
     Surroundings m_surroundings;
+    SmoothFrame m_smooth;
+    QElapsedTimer m_sinceChange;
     int m_framesToDraw = 0;
     QPointF m_pressedAt;
 };
