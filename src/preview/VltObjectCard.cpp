@@ -17,6 +17,7 @@ constexpr int Gap = 8; ///< to the edges of the view
 constexpr int CardWidth = 22;
 constexpr int NarrowView = 34;
 constexpr int NorthArrowRoom = 4;
+constexpr int LeastHeight = 6;
 
 /// Shows only what is in the text.
 class Page : public QTextBrowser
@@ -71,9 +72,15 @@ void VltObjectCard::showPage(QString html, const QPointF &object)
                                                QRegularExpression::DotMatchesEverythingOption);
     m_pwTbPage->setHtml(html.remove(styles));
     m_pwTbPage->setAccessibleDescription(m_pwTbPage->toPlainText());
+    m_hasPage = true;
     place();
-    show();
     raise();
+}
+
+void VltObjectCard::dismiss()
+{
+    m_hasPage = false;
+    hide();
 }
 
 void VltObjectCard::place()
@@ -101,6 +108,7 @@ void VltObjectCard::place()
         move(view.width() - width - Gap, NorthArrowRoom * unit);
     else
         move(Gap, Gap);
+    setVisible(m_hasPage && mostHeight >= LeastHeight * unit);
 }
 
 void VltObjectCard::keyPressEvent(QKeyEvent *event)
@@ -114,6 +122,6 @@ void VltObjectCard::keyPressEvent(QKeyEvent *event)
 void VltObjectCard::closeEvent(QCloseEvent *event)
 {
     QFrame::closeEvent(event);
-    if (event->isAccepted())
-        Q_EMIT closed();
+    m_hasPage = false;
+    Q_EMIT closed();
 }

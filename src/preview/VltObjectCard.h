@@ -20,8 +20,11 @@ public:
     /// @param object  place of the object in the view, which the card leaves free if it can
     void showPage(QString html, const QPointF &object);
 
-    /// Fits the card into the view, which gives the largest size.
+    /// Fits the card into the view, which gives the largest size; a low view has no room for it.
     void place();
+
+    /// Hides the card without a signal.
+    void dismiss();
 
 Q_SIGNALS:
     void closed();
@@ -32,6 +35,7 @@ protected:
 
 private:
     QPointF m_object;
+    bool m_hasPage = false;
     QTextBrowser *m_pwTbPage;
     QToolButton *m_pwTbClose;
 };

@@ -66,10 +66,8 @@ void VltObjectPointing::removeMark()
 
 void VltObjectPointing::select(std::optional<std::size_t> object)
 {
-    if (object != m_selected && m_card->isVisible()) {
-        const QSignalBlocker quiet(m_card);
-        m_card->close();
-    }
+    if (object != m_selected)
+        m_card->dismiss();
     removeMark();
     m_selected = m_objects && object && *object < m_objects->count() ? object : std::nullopt;
     if (!m_selected)
@@ -148,7 +146,7 @@ void VltObjectPointing::flyTo(std::size_t object)
 
 bool VltObjectPointing::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::Resize && m_card->isVisible())
+    if (event->type() == QEvent::Resize)
         m_card->place();
     if (event->type() != QEvent::KeyPress)
         return QObject::eventFilter(watched, event);
