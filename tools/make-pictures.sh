@@ -21,12 +21,12 @@ openbox >/dev/null 2>&1 &
 children+=($!)
 
 layer() { "$tree/vltlayers" "$@" --project "$sample/city.gvw" --language en --quiet; }
-picture() { # NAME LAYER OPTIONS...
-    layer snapshot "$work/$2" -o "$work/$1" "${@:3}"
+picture() { # NAME LAYERS OPTIONS...
+    layer snapshot "${@:2}" -o "$work/$1"
     convert "$work/$1" -strip +dither -colors 256 "PNG8:$pictures/$1"
 }
 
-# page NAME FILE: the page of a table with the file, as it opens.
+# page NAME FILE [X Y]: the page of a table with the file, as it opens, or after a click at X Y.
 page() {
     local home=$work/$1.home wizard
     mkdir -p "$home"/{config,data,system/VELTARO}
@@ -36,6 +36,10 @@ page() {
     wizard=$!
     children+=("$wizard")
     sleep 25 # the preview is read and its ground refined
+    if (($# > 2)); then
+        xdotool mousemove "$3" "$4" click 1
+        sleep 3
+    fi
     import -window "$(xdotool getactivewindow)" "$work/$1"
     kill "$wizard"
     convert "$work/$1" -strip +dither -colors 256 "PNG8:$pictures/$1"
@@ -47,12 +51,14 @@ layer link "$sample/links.csv" --color-by-clearance -o "$work/links.lay"
 layer buildings --image "$sample/coverage/signal_level_dBm.tif" --colormap signal_level_dBm --absolute --mode average \
     -o "$work/coverage.lay"
 layer buildings --textures "$sample/textures/same_folder/coverage_6m.tif" --texture-on storeys -o "$work/storeys.lay"
-picture sites.png sites.lay --size 960x540 --north --legend
-picture links.png links.lay --size 1100x640 --north --legend
-picture pylon.png lattice.lay --size 540x720 --view precise
-picture colored-buildings.png coverage.lay --size 960x540 --north --legend
-picture storeys.png storeys.lay --size 960x540 --north --legend
+picture network.png "$work/sites.lay" "$work/links.lay" --size 1200x700 --view north --north --legend \
+    --title "Sites and links of the sample project"
+picture sites.png "$work/sites.lay" --size 960x540 --north --legend
+picture links.png "$work/links.lay" --size 1100x640 --north --legend
+picture pylon.png "$work/lattice.lay" --size 540x720 --view precise
+picture colored-buildings.png "$work/coverage.lay" --size 960x540 --north --legend
+picture storeys.png "$work/storeys.lay" --size 960x540 --north --legend
 layer link "$sample/links.csv" --profile MW-21 -o "$work/profile.png"
 convert "$work/profile.png" -strip +dither -colors 256 "PNG8:$pictures/profile.png"
-page add-site-page.png "$sample/sites.csv"
+page add-site-page.png "$sample/sites.csv" 1060 330
 page add-link-page.png "$sample/links.csv"
